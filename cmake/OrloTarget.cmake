@@ -1,0 +1,45 @@
+# What every target of this project has in common: warnings, and the runtime DLLs beside the programs.
+
+include(GoogleTest)
+
+function(orlo_target target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+  if(WIN32)
+    target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-gdwarf-4>)
+  endif()
+endfunction()
+
+# A test program: GoogleTest under ctest, one process, one time limit.
+#   orlo_test(NAME binding SOURCES ... LIBRARIES ...)
+function(orlo_test)
+  cmake_parse_arguments(arg "" "NAME;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(test_${arg_NAME} ${arg_SOURCES})
+  orlo_target(test_${arg_NAME})
+  target_link_libraries(test_${arg_NAME} PRIVATE ${arg_LIBRARIES} gtest)
+  add_test(NAME ${arg_NAME} COMMAND test_${arg_NAME})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 300)
+  endif()
+  # Windows of two programs disturb each other's focus on one desktop: such tests run one at a time.
+  set_tests_properties(${arg_NAME} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  if(WIN32)
+    set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK desktop)
+  endif()
+endfunction()
+
+# The compiler's runtime DLLs go beside the programs, so that the folder can be copied to a Windows machine.
+function(orlo_copy_runtime)
+  if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+    set(unwind libgcc_s_seh-1.dll)
+  else()
+    set(unwind libgcc_s_dw2-1.dll)
+  endif()
+  foreach(name ${unwind} libstdc++-6.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
+                    OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    list(APPEND paths ${path})
+  endforeach()
+  list(APPEND paths /usr/${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32/lib/libwinpthread-1.dll)
+  file(COPY ${paths} DESTINATION ${ORLO_BIN})
+endfunction()

@@ -1,0 +1,41 @@
+// Graphics: making, walking, property tables, drawing attributes.
+#pragma once
+
+#include "orlo/host/api.h"
+#include "orlo/host/records.h"
+
+// Makes a graphic of that type that belongs to nobody. reserved is 0, flags is 1. Null on failure.
+DRAWCORE_API GraphicStruct* GraphicNewEx(int type, int reserved, int flags);
+
+// Frees the graphic with its parts and clears the pointer. It has left its owner before.
+DRAWCORE_API void GraphicDispose(GraphicStruct** graphic);
+
+// Ties a graphic (with its parts) to a drawing for style look-ups; null unties it.
+DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
+DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
+
+// Makes child a part of parent, which then owns it; gives the child. GraphicDelete takes it out again.
+DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
+DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
+
+// Walk over the members of a set that pass the filter (0xFFFFFFFF: all). The position is one 32-bit word of the
+// caller's, set by GraphicFirst. flags is 1. Null at the end.
+DRAWCORE_API GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int flags, uint32_t filter);
+DRAWCORE_API GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter);
+
+// Non-zero if this vertex graphic is a group of others.
+DRAWCORE_API int GraphicGetIsGroup(GraphicStruct*);
+
+// The graphic's property table, or null. The host's.
+DRAWCORE_API const PropertyTable* GraphicGetVtbl(GraphicStruct*);
+
+// Marks a graphic, or its extents, for rebuilding.
+DRAWCORE_API void GraphicSetDirty(GraphicStruct*, int dirty);
+DRAWCORE_API void GraphicSetExtentsDirty(GraphicStruct*, int dirty);
+
+// Drawing attributes.
+DRAWCORE_API void GraphicSetPenColor(GraphicStruct*, uint32_t color);
+DRAWCORE_API void GraphicSetPenStyle(GraphicStruct*, uint16_t style);
+DRAWCORE_API void GraphicSetPenScale(GraphicStruct*, double scale);
+DRAWCORE_API void GraphicSetScaleSystem(GraphicStruct*, int system);
+DRAWCORE_API void GraphicSetBrushStyle(GraphicStruct*, uint16_t style);

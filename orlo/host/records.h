@@ -1,0 +1,90 @@
+// Records whose byte offsets are a contract between library and host. A pointer has its natural width.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <windows.h>
+
+struct AppStruct;
+struct DrawingStruct;
+struct TableStruct;
+struct ExtentsStruct;
+struct ViewportStruct;
+
+enum : uint8_t {
+    kGraphicPenBrush = 2, // always takes pen and brush
+    kGraphicText = 6,
+    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup tells
+    kGraphicInsert = 0x11,
+};
+
+enum : uint32_t {
+    kFlagNoPenBrush = 0x40, // a vertex graphic that gets no Pen and Brush pages
+    kFlagNoParent = 0x100,  // pParent does not apply
+    kFlagPreview = 0x10000, // seen last by a walk over preview graphics
+};
+
+#pragma pack(push, 4)
+
+struct GraphicStruct {
+    uint8_t host0[4];
+    uint32_t dwFlags;
+    uint8_t host8[0x18];
+    uint8_t bType;
+    uint8_t host21;
+    uint16_t wRegenMethod; // 0 for none
+    uint8_t host24[0x38];
+    GraphicStruct* pParent;
+    uint8_t host5C[0x68 - 0x5C - sizeof(void*)];
+    const char* pszStyleName; // null or NUL-terminated
+    uint8_t host68[0x8C - 0x68 - sizeof(void*)];
+    uint16_t wLastPage; // template number of the page that last wrote this graphic
+};
+
+struct DrawingStruct {
+    uint8_t host0[0x18];
+    AppStruct* pApplication;
+    uint8_t host18[0x30 - 0x18 - sizeof(void*)];
+    TableStruct* pUnits;
+};
+
+struct AppStruct {
+    uint8_t host0[0x24];
+    DrawingStruct* pCurrentDrawing;
+    uint8_t host24[0x48 - 0x24 - sizeof(void*)];
+    TableStruct* pVariables;
+#ifndef _WIN64
+    uint8_t host48[4];
+#endif
+    HPALETTE hPalette;
+};
+
+// Bit 0 of wFlags: the segment to this vertex is drawn; a new vertex has it set.
+struct VertexStruct {
+    uint8_t host0[4];
+    uint16_t wFlags;
+};
+
+#pragma pack(pop)
+
+static_assert(offsetof(GraphicStruct, dwFlags) == 4);
+static_assert(offsetof(GraphicStruct, bType) == 0x20);
+static_assert(offsetof(GraphicStruct, wRegenMethod) == 0x22);
+static_assert(offsetof(GraphicStruct, pParent) == 0x5C);
+static_assert(offsetof(GraphicStruct, pszStyleName) == 0x68);
+static_assert(offsetof(GraphicStruct, wLastPage) == 0x8C);
+static_assert(offsetof(DrawingStruct, pApplication) == 0x18);
+static_assert(offsetof(DrawingStruct, pUnits) == 0x30);
+static_assert(offsetof(AppStruct, pCurrentDrawing) == 0x24);
+static_assert(offsetof(AppStruct, pVariables) == 0x48);
+static_assert(offsetof(AppStruct, hPalette) == 0x50);
+static_assert(offsetof(VertexStruct, wFlags) == 4);
+
+// Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only.
+// Value types are the OLE Automation variant type numbers; see orlo/binding/property_access.h for the forms.
+struct PropertyTable {
+    void* slot0; // not used by the library
+    int (*PropLookup)(GraphicStruct*, const char* const* ppszName, int count, int reserved, int32_t* pNumber);
+    int (*PropGet)(GraphicStruct*, int32_t number, int vt, void* pValue);
+    int (*PropSet)(GraphicStruct*, int32_t number, int vt, const void* pValue);
+};

@@ -1,0 +1,25 @@
+// Tables of the host: named entries under 16-bit identifiers (0 is none), and typed variables.
+#pragma once
+
+#include "orlo/host/api.h"
+#include "orlo/host/records.h"
+
+// Walk over the entries in table order. The cookie is the caller's and needs no start value. 0 at the end.
+DRAWCORE_API uint16_t TableEntryFirst(TableStruct*, int* cookie);
+DRAWCORE_API uint16_t TableEntryNext(TableStruct*, int* cookie);
+
+// Copies the entry's name, at most size bytes with the NUL. 0 if there is no such entry.
+DRAWCORE_API int TableEntryGetName(TableStruct*, uint16_t id, char* buffer, int size);
+
+// The entry's data, whose kind is the table's: a text, a COLORREF, a graphic. The table's own; may be null.
+DRAWCORE_API void* TableEntryGetData(TableStruct*, uint16_t id);
+
+// Identifier of the first entry of that name, 0 if there is none. The cookie may be null.
+DRAWCORE_API uint16_t TableEntryGetIDFirst(TableStruct*, int* cookie, const char* name);
+
+// The drawing that owns the table.
+DRAWCORE_API DrawingStruct* TableGetOwner(TableStruct*);
+
+// Typed variables. 0, with the value left alone, if there is none of that number and type.
+DRAWCORE_API int TableGetIntVar(TableStruct*, uint16_t id, int* value);
+DRAWCORE_API int TableGetStringVar(TableStruct*, uint16_t id, char* buffer, int size);

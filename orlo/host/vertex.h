@@ -1,0 +1,14 @@
+// Vertices: scratch points from which the library builds its sample graphics.
+#pragma once
+
+#include "orlo/host/api.h"
+#include "orlo/host/records.h"
+
+// Null on failure. VertexNewFromEx(0) makes one at the origin.
+DRAWCORE_API VertexStruct* VertexNewEx(double x, double y, double z);
+DRAWCORE_API VertexStruct* VertexNewFromEx(VertexStruct* from);
+DRAWCORE_API void VertexSet(VertexStruct*, double x, double y, double z);
+DRAWCORE_API void VertexDispose(VertexStruct** vertex);
+
+// Appends a copy of the vertex, flag word included.
+DRAWCORE_API int GraphicVertexAdd(GraphicStruct*, VertexStruct*);

@@ -1,0 +1,48 @@
+# Shared by the words of ./run: messages, and the Wine session that every Windows program here runs in.
+
+say() { printf '== %s\n' "$*" >&2; }
+die() { printf 'run: %s\n' "$*" >&2; exit 1; }
+
+export WINEPREFIX=${ORLO_WINEPREFIX:-$PWD/build/wine}
+export WINEDEBUG=${WINEDEBUG:--all}
+export WINEDLLOVERRIDES="mscoree,mshtml="
+
+# Makes the Wine prefix once: no window manager is expected, crashes print and do not ask, fonts are there.
+wine_prefix() {
+    [ -e "$WINEPREFIX/.ready" ] && return
+    say "preparing Wine in ${WINEPREFIX#"$PWD"/} (once, about 10 s)"
+    mkdir -p "$(dirname "$WINEPREFIX")"
+    rm -rf "$WINEPREFIX"
+    wineboot -i >/dev/null 2>&1 || die "Wine could not be prepared; see WINEDEBUG= WINEPREFIX=$WINEPREFIX wineboot -i"
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+    wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
+    wineserver -w
+    cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
+    touch "$WINEPREFIX/.ready"
+}
+
+# One server and one window for the whole session: without them every program waits seconds for its own.
+# display: "own" always starts an Xvfb; "users" takes the caller's display where there is one.
+wine_session() {
+    local display=$1
+    wine_prefix
+    trap wine_session_end EXIT
+    if [ "$display" = own ] || [ -z "${DISPLAY-}" ]; then
+        exec {xvfb_fd}<> <(:)
+        Xvfb -displayfd "$xvfb_fd" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+        xvfb_pid=$!
+        local number
+        read -r -t 20 -u "$xvfb_fd" number || die "Xvfb did not start"
+        export DISPLAY=:$number
+    fi
+    wineserver -p
+    wine build/bin/keeper.exe &
+    keeper_pid=$!
+}
+
+wine_session_end() {
+    [ -n "${keeper_pid-}" ] && kill "$keeper_pid" 2>/dev/null
+    wineserver -k 2>/dev/null || true
+    [ -n "${xvfb_pid-}" ] && kill "$xvfb_pid" 2>/dev/null
+    wait 2>/dev/null || true
+}

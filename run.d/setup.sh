@@ -1,0 +1,23 @@
+# Installs what is missing, with apt. Quick when nothing is.
+
+packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth fonts-wine
+          fonts-dejavu-core googletest libcli11-dev nlohmann-json3-dev libstb-dev clang-14 libclang-rt-14-dev"
+
+setup() {
+    local package missing=()
+    for package in $packages; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    if [ ${#missing[@]} -eq 0 ]; then return; fi
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || die "these packages are missing, and only root can install them: ${missing[*]}"
+        as_root=(sudo)
+    fi
+    say "installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+setup
+if [ "$word" = setup ]; then say "all packages are there"; fi

@@ -1,0 +1,10 @@
+// Keeps Wine's desktop process alive through a run: without one window open at all times it ends with the
+// last windowed program, and the next start waits for a new one.
+
+#include <windows.h>
+
+int main() {
+    ::CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    MSG message;
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
+}
