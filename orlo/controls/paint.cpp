@@ -1,0 +1,38 @@
+// The shapes that the owner-drawn controls share.
+
+#include "orlo/controls/paint.h"
+
+#include <cstring>
+
+RealizedPalette::RealizedPalette(HDC dc, HPALETTE palette)
+    : dc_(dc), before_(palette ? ::SelectPalette(dc, palette, FALSE) : nullptr) {
+    if (before_) ::RealizePalette(dc);
+}
+
+RealizedPalette::~RealizedPalette() {
+    if (!before_) return;
+    ::SelectPalette(dc_, before_, TRUE);
+    ::RealizePalette(dc_);
+}
+
+void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
+    const COLORREF before = ::SetBkColor(dc, color);
+    ::ExtTextOutA(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+    ::SetBkColor(dc, before);
+}
+
+void FrameRectangle(HDC dc, const RECT& rect, COLORREF color, int width) {
+    const OwnedPen pen(::CreatePen(PS_SOLID, width, color));
+    const SelectedObject selectedPen(dc, pen.get());
+    const SelectedObject hollow(dc, ::GetStockObject(NULL_BRUSH));
+    ::Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
+}
+
+void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, COLORREF color) {
+    const TextColor colors(dc, color);
+    ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &clip, text, static_cast<UINT>(std::strlen(text)), nullptr);
+}
+
+RECT Inflated(const RECT& rect, int by) {
+    return {rect.left - by, rect.top - by, rect.right + by, rect.bottom + by};
+}

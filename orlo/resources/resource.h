@@ -1,0 +1,21 @@
+// Identifiers of the library's resources, for the sources and the resource script. Preprocessor only.
+#pragma once
+
+// Dialog templates; the number is the identity of a page in its sheet.
+#define IDD_GENERAL_PAGE 29000
+#define IDD_PEN_PAGE 29001
+
+// Messages of the exchange functions.
+#define IDS_ENTER_ANGLE 120
+#define IDS_ENTER_FONT_SIZE 121
+#define IDS_ENTER_POSITIVE 122
+#define IDS_ENTER_SCALE 123
+
+// Caption of the property sheet.
+#define IDS_PROPERTIES 2000
+
+// Controls that come to life in dialog templates; see controls/control_factory.h for every number.
+#define IDC_LINE_STYLE_LIST 32021
+#define IDC_COLOR 32005
+#define IDC_LAYER 32008
+#define IDC_STYLE_NAME 32015
