@@ -1,0 +1,25 @@
+// Code pages: 8-bit text of a numbered code page to UTF-8 and to 16-bit text, and back. No text is ever
+// guessed.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "orlo/export.h"
+
+namespace orlo {
+
+constexpr uint16_t kCodePageUtf16 = 1200; // "8-bit" texts of such a section are 16-bit characters
+constexpr uint16_t kCodePageUtf8 = 65001;
+
+// The text as UTF-8; nothing if the code page is unknown here or the bytes are no text of it. 1200 takes the
+// bytes as 16-bit characters; 0 stands for the system's own code page (1252 where there is none).
+ORLO_API std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage);
+
+// The text in that code page; nothing if it can't say every character.
+ORLO_API std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage);
+
+} // namespace orlo
