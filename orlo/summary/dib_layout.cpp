@@ -1,0 +1,188 @@
+// Header, colour table, run-length data: each is checked before the next is looked at.
+
+#include "orlo/summary/dib_layout.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "orlo/summary/bytes.h"
+
+namespace orlo {
+namespace {
+
+constexpr uint32_t kCoreHeader = 12;
+constexpr uint32_t kInfoHeader = 40;
+// The header with masks, with an alpha mask, version 4 and version 5.
+constexpr uint32_t kLaterHeaders[] = {52, 56, 108, 124};
+
+constexpr uint32_t kUncompressed = 0;
+constexpr uint32_t kRunLength8 = 1;
+constexpr uint32_t kRunLength4 = 2;
+constexpr uint32_t kBitFields = 3;
+
+constexpr size_t kMaskBytes = 12;
+constexpr uint32_t kMostColours = 256;
+// A few bytes of run-length data can name any number of pixels, and the system gives each its memory: a limit
+// is needed.
+constexpr uint64_t kMostRunLengthPixels = 1u << 24;
+
+struct Header {
+    DibLayout layout;
+    uint32_t coloursUsed = 0;
+    uint32_t imageBytes = 0;
+};
+
+std::optional<Header> ReadCoreHeader(const uint8_t* data) {
+    Header header;
+    header.layout.headerSize = kCoreHeader;
+    header.layout.width = LittleEndian<uint16_t>(data + 4);
+    header.layout.height = LittleEndian<uint16_t>(data + 6);
+    if (LittleEndian<uint16_t>(data + 8) != 1) return std::nullopt;
+    header.layout.bitsPerPixel = LittleEndian<uint16_t>(data + 10);
+    return header;
+}
+
+std::optional<Header> ReadInfoHeader(const uint8_t* data, uint32_t headerSize) {
+    Header header;
+    header.layout.headerSize = headerSize;
+    header.layout.width = LittleEndian<int32_t>(data + 4);
+    const auto height = LittleEndian<int32_t>(data + 8);
+    if (height == INT32_MIN) return std::nullopt;
+    header.layout.topDown = height < 0;
+    header.layout.height = height < 0 ? -height : height;
+    if (LittleEndian<uint16_t>(data + 12) != 1) return std::nullopt;
+    header.layout.bitsPerPixel = LittleEndian<uint16_t>(data + 14);
+    header.layout.compression = LittleEndian<uint32_t>(data + 16);
+    header.imageBytes = LittleEndian<uint32_t>(data + 20);
+    header.coloursUsed = LittleEndian<uint32_t>(data + 32);
+    return header;
+}
+
+std::optional<Header> ReadHeader(const uint8_t* data, size_t size) {
+    if (size < kCoreHeader) return std::nullopt;
+    const auto headerSize = LittleEndian<uint32_t>(data);
+    if (headerSize == kCoreHeader) return ReadCoreHeader(data);
+    const bool known = headerSize == kInfoHeader ||
+                       std::count(std::begin(kLaterHeaders), std::end(kLaterHeaders), headerSize) != 0;
+    if (!known || size < headerSize) return std::nullopt;
+    return ReadInfoHeader(data, headerSize);
+}
+
+bool CompressionFits(const DibLayout& layout) {
+    const uint16_t bits = layout.bitsPerPixel;
+    switch (layout.compression) {
+    case kUncompressed:
+        return bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
+    case kRunLength8:
+        return bits == 8 && !layout.topDown;
+    case kRunLength4:
+        return bits == 4 && !layout.topDown;
+    case kBitFields:
+        return bits == 16 || bits == 32;
+    default:
+        return false; // whole files of other kinds inside a bitmap are for printers
+    }
+}
+
+// Bytes between header and pixels; nothing for a table that no picture needs.
+std::optional<size_t> TableBytes(const Header& header, DibColours colours) {
+    const DibLayout& layout = header.layout;
+    const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMostColours;
+    if (header.coloursUsed > nameable) return std::nullopt;
+    uint32_t count = header.coloursUsed;
+    if (count == 0 && layout.bitsPerPixel <= 8) count = nameable;
+    size_t each = colours == DibColours::PaletteIndices ? 2 : 4;
+    if (layout.headerSize == kCoreHeader && colours == DibColours::Rgb) each = 3;
+    const bool masks = layout.compression == kBitFields && layout.headerSize == kInfoHeader;
+    return count * each + (masks ? kMaskBytes : 0);
+}
+
+// Walks run-length data: every code lies inside the block, every pixel inside the picture, and the end is
+// marked.
+class RunLengthWalk {
+public:
+    RunLengthWalk(const uint8_t* data, size_t size, const DibLayout& layout)
+        : data_(data), size_(size), layout_(layout) {}
+
+    bool Passes() {
+        while (size_ - at_ >= 2) {
+            const uint8_t count = data_[at_];
+            const uint8_t value = data_[at_ + 1];
+            at_ += 2;
+            if (count == 0 && value == kEndOfBitmap) return true;
+            if (!(count != 0 ? Pixels(count) : Escape(value))) return false;
+        }
+        return false;
+    }
+
+private:
+    static constexpr uint8_t kEndOfLine = 0;
+    static constexpr uint8_t kEndOfBitmap = 1;
+    static constexpr uint8_t kDelta = 2;
+
+    bool Pixels(uint32_t count) {
+        x_ += count;
+        return y_ < layout_.height && x_ <= layout_.width;
+    }
+
+    bool Escape(uint8_t value) {
+        if (value == kEndOfLine) {
+            x_ = 0;
+            return ++y_ <= layout_.height;
+        }
+        if (value == kDelta) {
+            if (size_ - at_ < 2) return false;
+            x_ += data_[at_];
+            y_ += data_[at_ + 1];
+            at_ += 2;
+            return x_ <= layout_.width && y_ <= layout_.height;
+        }
+        const size_t bytes = layout_.bitsPerPixel == 8 ? value : (value + 1u) / 2;
+        const size_t padded = (bytes + 1) & ~size_t{1};
+        if (size_ - at_ < padded) return false;
+        at_ += padded;
+        return Pixels(value);
+    }
+
+    const uint8_t* data_;
+    size_t size_;
+    const DibLayout& layout_;
+    size_t at_ = 0;
+    int64_t x_ = 0;
+    int64_t y_ = 0;
+};
+
+bool RunLengthPasses(const uint8_t* pixels, size_t left, uint32_t imageBytes, const DibLayout& layout) {
+    if (imageBytes == 0 || imageBytes > left) return false;
+    const uint64_t area = static_cast<uint64_t>(layout.width) * static_cast<uint64_t>(layout.height);
+    return area <= kMostRunLengthPixels && RunLengthWalk(pixels, imageBytes, layout).Passes();
+}
+
+} // namespace
+
+std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColours colours,
+                                       uint32_t maxLines) {
+    const auto header = ReadHeader(data, size);
+    if (!header) return std::nullopt;
+    DibLayout layout = header->layout;
+    if (layout.width <= 0 || layout.height <= 0 || !CompressionFits(layout)) return std::nullopt;
+
+    const auto table = TableBytes(*header, colours);
+    if (!table || *table > size - layout.headerSize) return std::nullopt;
+    layout.pixelOffset = layout.headerSize + *table;
+    const size_t left = size - layout.pixelOffset;
+
+    if (layout.compression == kRunLength8 || layout.compression == kRunLength4) {
+        if (!RunLengthPasses(data + layout.pixelOffset, left, header->imageBytes, layout))
+            return std::nullopt;
+        layout.pixelBytes = header->imageBytes;
+        return layout;
+    }
+    const uint64_t stride = (static_cast<uint64_t>(layout.width) * layout.bitsPerPixel + 31) / 32 * 4;
+    const uint64_t lines = std::min(static_cast<uint32_t>(layout.height), maxLines);
+    if (stride * lines > left) return std::nullopt;
+    layout.pixelBytes = static_cast<size_t>(stride * lines);
+    return layout;
+}
+
+} // namespace orlo

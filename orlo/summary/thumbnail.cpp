@@ -1,0 +1,188 @@
+// Fitting, drawing of bitmaps, playing of metafiles.
+
+#include "orlo/summary/thumbnail.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "orlo/controls/paint.h"
+#include "orlo/summary/bytes.h"
+#include "orlo/summary/dib_layout.h"
+#include "orlo/summary/metafile_check.h"
+#include "orlo/summary/readable_bytes.h"
+
+using orlo::LittleEndian;
+using orlo::Readable;
+using orlo::ReadableFrom;
+
+namespace {
+
+constexpr DWORD kSystemFormat = 0xFFFFFFFF;
+
+struct Place {
+    int left, top, width, height;
+};
+
+bool IsEmpty(const RECT* rect) {
+    return !rect || rect->right <= rect->left || rect->bottom <= rect->top;
+}
+
+// The target, or the largest part in its middle that has the proportions of the source. Products of two
+// extents don't fit 32 bits.
+Place Fitted(const RECT& target, double sourceWidth, double sourceHeight, bool keepAspect) {
+    Place place = {target.left, target.top, target.right - target.left, target.bottom - target.top};
+    if (!keepAspect) return place;
+    const double across = place.width * sourceHeight;
+    const double down = place.height * sourceWidth;
+    if (down > across) {
+        const int height = static_cast<int>(across / sourceWidth);
+        place.top += (place.height - height) / 2;
+        place.height = height;
+    } else if (down < across) {
+        const int width = static_cast<int>(down / sourceHeight);
+        place.left += (place.width - width) / 2;
+        place.width = width;
+    }
+    return place;
+}
+
+int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
+    if (!dc || IsEmpty(rect)) return 0;
+    const auto layout = orlo::ReadDibLayout(dib.data, dib.size, orlo::DibColours::Rgb);
+    if (!layout || layout->topDown || layout->headerSize < sizeof(BITMAPINFOHEADER)) return 0;
+    // The host says where the pixels begin.
+    const size_t pixels = layout->headerSize + PaletteSize(dib.data);
+    if (pixels > dib.size || layout->pixelBytes > dib.size - pixels) return 0;
+    const Place to = Fitted(*rect, layout->width, layout->height, keepAspect);
+    return ::StretchDIBits(dc, to.left, to.top, to.width, to.height, 0, 0, layout->width, layout->height,
+                           dib.data + pixels, reinterpret_cast<const BITMAPINFO*>(dib.data), DIB_RGB_COLORS,
+                           SRCCOPY);
+}
+
+struct DeleteHandleOfMetaFile {
+    void operator()(HMETAFILE metafile) const { ::DeleteMetaFile(metafile); }
+};
+using OwnedMetaFile = std::unique_ptr<std::remove_pointer_t<HMETAFILE>, DeleteHandleOfMetaFile>;
+
+// A metafile of its own for the system: the records that were checked, an end, and zeros behind it. Drawing
+// reads a font record as if its name always filled its field, beyond the end of a record that is shorter.
+OwnedMetaFile MakeMetaFile(const orlo::MetaFilePicture& picture) {
+    constexpr uint32_t kEnd[] = {3, 0};
+    constexpr size_t kEndBytes = 6, kZeros = 64, kSizeField = 6;
+    std::vector<uint8_t> bits(picture.end + kEndBytes + kZeros);
+    std::copy_n(picture.bits, picture.end, bits.begin());
+    std::memcpy(bits.data() + picture.end, kEnd, kEndBytes);
+    const auto words = static_cast<uint32_t>(bits.size() / 2);
+    std::memcpy(bits.data() + kSizeField, &words, sizeof words);
+    return OwnedMetaFile(::SetMetaFileBitsEx(static_cast<UINT>(bits.size()), bits.data()));
+}
+
+// Not played: what would change the palette of the whole system, and what only a device of its own would
+// understand.
+bool IsForThisDevice(WORD function) {
+    return function != META_REALIZEPALETTE && function != META_ESCAPE && function != META_BITBLT &&
+           function != META_STRETCHBLT && function != META_CREATEPATTERNBRUSH;
+}
+
+int CALLBACK PlayRecord(HDC dc, HANDLETABLE* objects, METARECORD* record, int count, LPARAM) {
+    if (IsForThisDevice(record->rdFunction))
+        ::PlayMetaFileRecord(dc, objects, record, static_cast<UINT>(count));
+    return 1;
+}
+
+// The limit that a metafile can't lift by choosing a clip region of its own.
+void LimitPaintingTo(HDC dc, const RECT& rect) {
+    ::SetMapMode(dc, MM_TEXT);
+    ::SetWindowOrgEx(dc, 0, 0, nullptr);
+    ::SetViewportOrgEx(dc, 0, 0, nullptr);
+    ::IntersectClipRect(dc, rect.left, rect.top, rect.right, rect.bottom);
+    ::SetMetaRgn(dc);
+}
+
+int DrawPicture(const Readable& memory, HDC dc, const RECT* rect, bool keepAspect) {
+    if (!dc || IsEmpty(rect)) return 0;
+    const auto picture = orlo::ReadMetaFilePicture(memory.data, memory.size);
+    if (!picture) return 0;
+    const OwnedMetaFile metafile = MakeMetaFile(*picture);
+    if (!metafile) return 0;
+    const Place to = Fitted(*rect, picture->xExtent, picture->yExtent, keepAspect);
+    const SavedDC saved(dc);
+    LimitPaintingTo(dc, *rect);
+    ::SetMapMode(dc, MM_ANISOTROPIC);
+    ::SetWindowOrgEx(dc, 0, 0, nullptr);
+    ::SetWindowExtEx(dc, picture->xExtent, picture->yExtent, nullptr);
+    ::SetViewportOrgEx(dc, to.left, to.top, nullptr);
+    ::SetViewportExtEx(dc, to.width, to.height, nullptr);
+    ::EnumMetaFile(dc, metafile.get(), &PlayRecord, 0);
+    return 1;
+}
+
+int DrawByFormat(unsigned format, const Readable& picture, HDC dc, const RECT* rect) {
+    if (format == CF_METAFILEPICT) return DrawPicture(picture, dc, rect, true);
+    if (format == CF_DIB) return DrawBitmap(picture, dc, rect, true);
+    return 0;
+}
+
+struct DeleteDeviceContext {
+    void operator()(HDC dc) const { ::DeleteDC(dc); }
+};
+using OwnedDC = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDeviceContext>;
+using OwnedBitmap = OwnedGdi<HBITMAP>;
+
+class ScreenDC {
+public:
+    ScreenDC() : dc_(::GetDC(nullptr)) {}
+    ~ScreenDC() {
+        if (dc_) ::ReleaseDC(nullptr, dc_);
+    }
+    ScreenDC(const ScreenDC&) = delete;
+    ScreenDC& operator=(const ScreenDC&) = delete;
+    HDC get() const { return dc_; }
+
+private:
+    HDC dc_;
+};
+
+} // namespace
+
+int DrawDIB(const BITMAPINFOHEADER* pDIB, HDC hDC, const RECT* pRect, int bKeepAspect) {
+    return pDIB ? DrawBitmap(ReadableFrom(pDIB), hDC, pRect, bKeepAspect != 0) : 0;
+}
+
+int DrawMetaFilePict(const void* pPict, HDC hDC, const RECT* pRect, int bKeepAspect) {
+    return pPict ? DrawPicture(ReadableFrom(pPict), hDC, pRect, bKeepAspect != 0) : 0;
+}
+
+int DrawThumbnail(const ThumbnailClip* pClip, HDC hDC, const RECT* pRect) {
+    if (!pClip || pClip->cbSize == 0 || !pClip->pData || !pClip->pFormat || pClip->dwTag != kSystemFormat)
+        return 0;
+    return DrawByFormat(*pClip->pFormat, ReadableFrom(pClip->pData), hDC, pRect);
+}
+
+int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const RECT* pRect) {
+    constexpr DWORD kHead = 8;
+    const auto value = static_cast<const uint8_t*>(pValue);
+    if (!value || cb < kHead || LittleEndian<uint32_t>(value) != kSystemFormat) return 0;
+    return DrawByFormat(LittleEndian<uint32_t>(value + 4), {value + kHead, cb - kHead}, hDC, pRect);
+}
+
+HBITMAP CreateBitmapFromMetaFilePict(const void* pPict, const SIZE* pSize) {
+    if (!pPict || !pSize) return nullptr;
+    OwnedDC memory;
+    OwnedBitmap bitmap;
+    {
+        const ScreenDC screen;
+        memory.reset(::CreateCompatibleDC(screen.get()));
+        bitmap.reset(::CreateCompatibleBitmap(screen.get(), pSize->cx, pSize->cy));
+    }
+    if (!memory || !bitmap) return nullptr;
+    const HGDIOBJ before = ::SelectObject(memory.get(), bitmap.get());
+    if (!before) return nullptr;
+    const RECT whole = {0, 0, pSize->cx, pSize->cy};
+    ::PatBlt(memory.get(), 0, 0, pSize->cx, pSize->cy, WHITENESS);
+    DrawMetaFilePict(pPict, memory.get(), &whole, 1);
+    ::SelectObject(memory.get(), before);
+    return bitmap.release();
+}
