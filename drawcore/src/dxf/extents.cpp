@@ -1,0 +1,81 @@
+// A walk over all entities with the matrices of the inserts that they lie in.
+
+#include "drawcore/src/dxf/extents.h"
+
+#include <algorithm>
+
+#include "drawcore/src/dxf/path.h"
+
+namespace dxf {
+
+namespace {
+
+class ExtentsWalk : private PathSink {
+public:
+    explicit ExtentsWalk(const Document& drawing) : drawing_(drawing) {}
+
+    Box Walk() {
+        for (const Entity& entity : drawing_.entities)
+            if (!entity.inPaperSpace) Add(entity, Matrix());
+        return box_;
+    }
+
+private:
+    // The references of a document that was read are sound: this ends, and soon.
+    void Add(const Entity& entity, const Matrix& toWorld) {
+        if (entity.invisible) return;
+        if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
+            AddInsert(entity, **insert, toWorld);
+        else if (const auto* dimension = std::get_if<Apart<Dimension>>(&entity.shape))
+            AddDimension(**dimension, toWorld);
+        else if (const auto* text = std::get_if<Apart<Text>>(&entity.shape))
+            AddText(entity, **text, toWorld);
+        else if (const auto* mtext = std::get_if<Apart<MText>>(&entity.shape))
+            MoveTo(toWorld.Apply((*mtext)->insertion));
+        else
+            Trace(entity, toWorld, *this);
+    }
+
+    void AddText(const Entity& entity, const Text& text, const Matrix& toWorld) {
+        if (!text.hidden) MoveTo((toWorld * ObjectSystem(entity.normal)).Apply(text.insertion));
+    }
+
+    void AddInsert(const Entity& entity, const Insert& insert, const Matrix& toWorld) {
+        for (const Entity& attribute : insert.attributes)
+            Add(attribute, toWorld);
+        if (insert.block == BlockIndex::none) return;
+        const Block& block = drawing_.At(insert.block);
+        // The corners of the array are its outermost cells.
+        for (uint32_t column = 0; column < insert.columns; column += std::max(insert.columns - 1, 1u))
+            for (uint32_t row = 0; row < insert.rows; row += std::max(insert.rows - 1, 1u))
+                AddBlock(block, toWorld * InsertMatrix(entity, insert, block, column, row));
+    }
+
+    void AddDimension(const Dimension& dimension, const Matrix& toWorld) {
+        if (dimension.block == BlockIndex::none) return;
+        const Block& block = drawing_.At(dimension.block);
+        AddBlock(block, toWorld * DimensionMatrix(dimension, block));
+    }
+
+    void AddBlock(const Block& block, const Matrix& toWorld) {
+        for (const Entity& entity : block.entities) {
+            const auto* text = std::get_if<Apart<Text>>(&entity.shape);
+            if (!text || (*text)->role != Text::Role::definition) Add(entity, toWorld);
+        }
+    }
+
+    void MoveTo(Point p) override { box_.Add(p); }
+    void LineTo(Point p) override { box_.Add(p); }
+    void ArcTo(const EllipseArc& arc) override { box_.Add(arc); }
+
+    const Document& drawing_;
+    Box box_;
+};
+
+} // namespace
+
+Box Extents(const Document& drawing) {
+    return ExtentsWalk(drawing).Walk();
+}
+
+} // namespace dxf

@@ -1,0 +1,257 @@
+// A reader of MTEXT's stored form, which goes from left to right with a stack of formats.
+
+#include "drawcore/src/dxf/inline_codes.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+namespace {
+
+// No program nests formats so deep; what goes beyond keeps the format that it is in.
+constexpr size_t kDeepest = 64;
+
+bool ReadNumber(std::string_view text, double& number) {
+    if (!text.empty() && text[0] == '+') text.remove_prefix(1);
+    return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc() &&
+           std::isfinite(number);
+}
+
+class InlineReader {
+public:
+    InlineReader(std::string_view text, double height) : rest_(text), height_(height) {}
+
+    FormattedText Read() {
+        while (!rest_.empty())
+            ReadNext();
+        Finish();
+        return std::move(result_);
+    }
+
+private:
+    char Take() {
+        const char c = rest_[0];
+        rest_.remove_prefix(1);
+        return c;
+    }
+
+    // What stands before the next semicolon, which is taken too.
+    std::string_view TakeArgument() {
+        const size_t length = std::min(rest_.find(';'), rest_.size());
+        const std::string_view argument = rest_.substr(0, length);
+        rest_.remove_prefix(std::min(length + 1, rest_.size()));
+        return argument;
+    }
+
+    // Ends the run, so that the format may change.
+    void Finish() {
+        if (!text_.empty()) result_.runs.push_back({ReadControlCodes(text_).text, format_});
+        text_.clear();
+    }
+
+    template <class T>
+    void Change(T InlineFormat::*member, T value) {
+        if (format_.*member == value) return;
+        Finish();
+        format_.*member = std::move(value);
+    }
+
+    void ReadNext() {
+        if (const size_t length = AppendEscape(text_, rest_)) {
+            rest_.remove_prefix(length);
+            return;
+        }
+        const char c = Take();
+        if (c == '\\' && !rest_.empty()) {
+            ReadCode(Take());
+        } else if (c == '{') {
+            OpenGroup();
+        } else if (c == '}') {
+            CloseGroup();
+        } else if (c == '^' && !rest_.empty()) {
+            const char control = Take(); // ^I is a tab, ^J a new line, "^ " the sign itself
+            if (control == 'I')
+                text_ += '\t';
+            else if (control == 'J')
+                text_ += '\n';
+            else if (control != 'M')
+                text_ += '^';
+            if (control != 'I' && control != 'J' && control != 'M' && control != ' ') text_ += control;
+        } else {
+            text_ += c;
+        }
+    }
+
+    void OpenGroup() {
+        if (groups_.size() < kDeepest)
+            groups_.push_back(format_);
+        else
+            ++ungrouped_;
+    }
+
+    void CloseGroup() {
+        if (ungrouped_ > 0) {
+            --ungrouped_;
+        } else if (!groups_.empty()) {
+            Finish();
+            format_ = std::move(groups_.back());
+            groups_.pop_back();
+        }
+    }
+
+    void ReadCode(char code) {
+        switch (code) {
+        case '\\':
+        case '{':
+        case '}':
+            text_ += code;
+            break;
+        case '~':
+            text_ += "\u00A0";
+            break;
+        case 'P':
+        case 'N':
+        case 'X':
+            text_ += '\n';
+            break;
+        case 'L':
+            Change(&InlineFormat::underlined, true);
+            break;
+        case 'l':
+            Change(&InlineFormat::underlined, false);
+            break;
+        case 'O':
+            Change(&InlineFormat::overlined, true);
+            break;
+        case 'o':
+            Change(&InlineFormat::overlined, false);
+            break;
+        case 'K':
+            Change(&InlineFormat::struckThrough, true);
+            break;
+        case 'k':
+            Change(&InlineFormat::struckThrough, false);
+            break;
+        case 'F':
+        case 'f':
+            ReadFont(TakeArgument());
+            break;
+        case 'H':
+            ReadHeight(TakeArgument());
+            break;
+        case 'W':
+            ReadWidth(TakeArgument());
+            break;
+        case 'C':
+            ReadColor(TakeArgument());
+            break;
+        case 'c':
+            ReadTrueColor(TakeArgument());
+            break;
+        case 'S':
+            ReadStack(TakeArgument());
+            break;
+        case 'A':
+        case 'Q':
+        case 'T':
+        case 'p':
+            TakeArgument();
+            break;
+        default:
+            text_ += '\\', text_ += code;
+        }
+    }
+
+    // "Arial|b1|i0|c0|p34"
+    void ReadFont(std::string_view argument) {
+        const size_t name = std::min(argument.find('|'), argument.size());
+        Change(&InlineFormat::font, ToDisplayText(argument.substr(0, name)));
+        const std::string_view switches = argument.substr(name);
+        if (switches.empty()) return;
+        Change(&InlineFormat::bold, switches.find("|b1") != switches.npos);
+        Change(&InlineFormat::italic, switches.find("|i1") != switches.npos);
+    }
+
+    // "2.5" is a height, "0.7x" a share of the present one.
+    void ReadHeight(std::string_view argument) {
+        double number = 0;
+        if (!ReadNumber(argument, number) || number <= 0) return;
+        const bool relative = argument.back() == 'x' || argument.back() == 'X';
+        if (relative)
+            Change(&InlineFormat::scale, std::clamp(format_.scale * number, 1e-6, 1e6));
+        else if (height_ > 0)
+            Change(&InlineFormat::scale, std::clamp(number / height_, 1e-6, 1e6));
+    }
+
+    void ReadWidth(std::string_view argument) {
+        double number = 0;
+        if (ReadNumber(argument, number) && number > 0)
+            Change(&InlineFormat::widthFactor, std::clamp(number, 0.01, 100.0));
+    }
+
+    void ReadColor(std::string_view argument) {
+        double number = 0;
+        if (!ReadNumber(argument, number) || number < 0 || number > 256) return;
+        Change(&InlineFormat::color, static_cast<int>(number));
+        Change(&InlineFormat::trueColor, -1);
+    }
+
+    // Stored with blue in front, as in a COLORREF.
+    void ReadTrueColor(std::string_view argument) {
+        double number = 0;
+        if (!ReadNumber(argument, number) || number < 0 || number > 0xFFFFFF) return;
+        const auto bgr = static_cast<uint32_t>(number);
+        Change(&InlineFormat::trueColor,
+               static_cast<int>((bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF)));
+    }
+
+    // One above the other: "1/2", "1#2" and "+0.1^ -0.1"; shown on one line.
+    void ReadStack(std::string_view argument) {
+        bool divided = false;
+        for (size_t i = 0; i < argument.size(); ++i) {
+            const char c = argument[i];
+            if (c == '\\' && i + 1 < argument.size()) {
+                text_ += argument[++i];
+            } else if (!divided && (c == '/' || c == '#' || c == '^')) {
+                divided = true;
+                text_ += '/';
+                if (c == '^' && i + 1 < argument.size() && argument[i + 1] == ' ') ++i;
+            } else {
+                text_ += c;
+            }
+        }
+    }
+
+    std::string_view rest_;
+    const double height_;
+    std::string text_;
+    InlineFormat format_;
+    std::vector<InlineFormat> groups_;
+    size_t ungrouped_ = 0;
+    FormattedText result_;
+};
+
+} // namespace
+
+std::string FormattedText::Plain() const {
+    std::string plain;
+    for (const Run& run : runs)
+        plain += run.text;
+    return plain;
+}
+
+InlineFormat FormattedText::Prevailing() const {
+    const auto longest = std::max_element(
+        runs.begin(), runs.end(), [](const Run& a, const Run& b) { return a.text.size() < b.text.size(); });
+    return longest == runs.end() ? InlineFormat() : longest->format;
+}
+
+FormattedText ReadInlineCodes(std::string_view stored, double height) {
+    return InlineReader(stored, height).Read();
+}
+
+} // namespace dxf

@@ -1,0 +1,57 @@
+// Finds named things of a document: layers, line types, text styles, blocks. Names are equal in any case.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+// Over one list of a Document, which it appends to. Thing has `name` and `declared`.
+template <class Thing>
+class Names {
+public:
+    Names(std::vector<Thing>& things, const TextDecoder& decoder) : things_(things), decoder_(decoder) {}
+
+    // Position of the thing of that name, as it stands in the file; makes one that is only mentioned if there
+    // is none.
+    size_t Find(std::string_view raw) {
+        if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer
+        std::string name = decoder_.Decode(raw);
+        const auto [found, isNew] = byName_.emplace(Key(name), things_.size());
+        if (isNew) things_.emplace_back().name = std::move(name);
+        lastRaw_ = raw;
+        return last_ = found->second;
+    }
+
+    // The thing that a table's record declares. Of two records with one name the first keeps it.
+    Thing& Declare(std::string_view raw) {
+        size_t at = Find(raw);
+        if (things_[at].declared) {
+            at = things_.size();
+            things_.emplace_back();
+        }
+        things_[at].name = decoder_.Decode(raw);
+        things_[at].declared = true;
+        return things_[at];
+    }
+
+private:
+    static std::string Key(std::string_view name) {
+        std::string key = ToDisplayText(name);
+        for (char& c : key)
+            if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+        return key;
+    }
+
+    std::vector<Thing>& things_;
+    const TextDecoder& decoder_;
+    std::unordered_map<std::string, size_t> byName_;
+    std::string_view lastRaw_;
+    size_t last_ = 0;
+};
+
+} // namespace dxf

@@ -1,0 +1,164 @@
+// LWPOLYLINE, and POLYLINE with its VERTEX records: flat, spatial, meshes and faces.
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "drawcore/src/dxf/entity_reader.h"
+
+namespace dxf {
+
+namespace {
+
+enum PolylineFlags {
+    kClosed = 1,
+    kSplineFit = 4,
+    kSpatial = 8,
+    kMesh = 16,
+    kClosedN = 32,
+    kFaces = 64,
+    kThrough = 128
+};
+enum VertexFlags { kFrame = 16, kPosition = 64, kFace = 128 };
+
+struct PolylineCodes {
+    int flags = 0;
+    uint32_t rows = 0;
+    uint32_t columns = 0;
+    uint32_t smoothRows = 0;
+    uint32_t smoothColumns = 0;
+    double startWidth = 0;
+    double endWidth = 0;
+    Point elevation;
+};
+
+const Field<PolylineCodes> kPolyline[] = {
+    {70, &PolylineCodes::flags},      {71, &PolylineCodes::rows},          {72, &PolylineCodes::columns},
+    {73, &PolylineCodes::smoothRows}, {74, &PolylineCodes::smoothColumns}, {40, &PolylineCodes::startWidth},
+    {41, &PolylineCodes::endWidth},   {10, &PolylineCodes::elevation},
+};
+
+struct VertexCodes {
+    Point at;
+    double startWidth = 0;
+    double endWidth = 0;
+    double bulge = 0;
+    int flags = 0;
+    int first = 0; // a face's corners
+    int second = 0;
+    int third = 0;
+    int fourth = 0;
+};
+
+const Field<VertexCodes> kVertex[] = {
+    {10, &VertexCodes::at},     {40, &VertexCodes::startWidth}, {41, &VertexCodes::endWidth},
+    {42, &VertexCodes::bulge},  {70, &VertexCodes::flags},      {71, &VertexCodes::first},
+    {72, &VertexCodes::second}, {73, &VertexCodes::third},      {74, &VertexCodes::fourth},
+};
+
+Polyline::Kind KindOf(int flags) {
+    if (flags & kFaces) return Polyline::Kind::faces;
+    if (flags & kMesh) return Polyline::Kind::mesh;
+    return flags & kSpatial ? Polyline::Kind::spatial : Polyline::Kind::flat;
+}
+
+void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes& whole) {
+    const bool faces = polyline.kind == Polyline::Kind::faces;
+    if (faces && (codes.flags & kFace) && !(codes.flags & kPosition)) {
+        polyline.faces.push_back({codes.first, codes.second, codes.third, codes.fourth});
+        return;
+    }
+    if ((whole.flags & kSplineFit) && (codes.flags & kFrame))
+        return; // the frame of a curve that follows in full
+    Polyline::Vertex& vertex = polyline.vertices.emplace_back();
+    vertex.at = codes.at;
+    if (polyline.kind != Polyline::Kind::flat) return;
+    vertex.at.z = whole.elevation.z;
+    vertex.startWidth = codes.startWidth;
+    vertex.endWidth = codes.endWidth;
+    vertex.bulge = codes.bulge;
+}
+
+// False if a mesh has too few vertices.
+bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
+    const size_t count = polyline.vertices.size();
+    const auto outside = [&](const std::array<int, 4>& face) {
+        return std::any_of(face.begin(), face.end(),
+                           [&](int i) { return i == INT32_MIN || static_cast<size_t>(std::abs(i)) > count; });
+    };
+    polyline.faces.erase(std::remove_if(polyline.faces.begin(), polyline.faces.end(), outside),
+                         polyline.faces.end());
+    if (polyline.kind != Polyline::Kind::mesh) return true;
+    const bool smooth = (codes.flags & kSplineFit) != 0;
+    polyline.rows = smooth ? codes.smoothRows : codes.rows;
+    polyline.columns = smooth ? codes.smoothColumns : codes.columns;
+    return uint64_t{polyline.rows} * polyline.columns <= count;
+}
+
+} // namespace
+
+void EntityReader::ReadPolyline(Entity& entity) {
+    PolylineCodes codes;
+    ReadTags(kPolyline, codes, entity);
+    Polyline& polyline = entity.shape.emplace<Polyline>();
+    polyline.kind = KindOf(codes.flags);
+    polyline.closed = (codes.flags & kClosed) != 0;
+    polyline.closedN = (codes.flags & kClosedN) != 0;
+    polyline.dashesThrough = (codes.flags & kThrough) != 0;
+    const Tag& tag = in_.tags.Current();
+    while (tag.Is(0, "VERTEX")) {
+        Count();
+        VertexCodes vertex;
+        vertex.startWidth = codes.startWidth;
+        vertex.endWidth = codes.endWidth;
+        in_.ReadFields(kVertex, vertex);
+        AddVertex(polyline, vertex, codes);
+    }
+    if (!MakeSound(polyline, codes)) Refuse("its mesh has fewer vertices than rows and columns ask for");
+    if (!tag.Is(0, "SEQEND")) return;
+    Count();
+    in_.tags.SkipRecord();
+}
+
+void EntityReader::ReadLightPolyline(Entity& entity) {
+    Polyline& polyline = entity.shape.emplace<Polyline>();
+    double width = 0;
+    double elevation = 0;
+    while (in_.NextTag()) {
+        const Tag& tag = in_.tags.Current();
+        if (tag.code == 10) polyline.vertices.emplace_back();
+        Polyline::Vertex* const vertex = polyline.vertices.empty() ? nullptr : &polyline.vertices.back();
+        switch (tag.code) {
+        case 10:
+        case 20:
+            if (vertex) in_.SetAxis(vertex->at, tag, tag.code - 10);
+            break;
+        case 40:
+            if (vertex) vertex->startWidth = in_.Real(tag);
+            break;
+        case 41:
+            if (vertex) vertex->endWidth = in_.Real(tag);
+            break;
+        case 42:
+            if (vertex) vertex->bulge = in_.Real(tag);
+            break;
+        case 43:
+            width = in_.Real(tag);
+            break;
+        case 38:
+            elevation = in_.Real(tag);
+            break;
+        case 70:
+            polyline.closed = (tag.Integer() & kClosed) != 0;
+            polyline.dashesThrough = (tag.Integer() & kThrough) != 0;
+            break;
+        default:
+            SetCommon(entity);
+        }
+    }
+    for (Polyline::Vertex& vertex : polyline.vertices) {
+        vertex.at.z = elevation;
+        if (vertex.startWidth == 0 && vertex.endWidth == 0) vertex.startWidth = vertex.endWidth = width;
+    }
+}
+
+} // namespace dxf

@@ -1,0 +1,166 @@
+// The structure of a DXF file: its sections, the header, the tables, the blocks.
+
+#include "drawcore/src/dxf/reader.h"
+
+#include <cmath>
+
+#include "drawcore/src/dxf/entity_reader.h"
+#include "drawcore/src/dxf/record_reader.h"
+#include "drawcore/src/dxf/references.h"
+#include "drawcore/src/dxf/table_reader.h"
+
+namespace dxf {
+
+namespace {
+
+void RefuseOtherFiles(std::string_view bytes) {
+    if (bytes.empty()) throw ReadError(0, "the file is empty");
+    if (bytes.substr(0, 18) == "AutoCAD Binary DXF")
+        throw ReadError(1, "this is a binary DXF file; only the text form is read");
+    if (bytes.substr(0, 2) == "AC" && bytes.size() > 6 && bytes[6] == '\0')
+        throw ReadError(0, "this is a DWG file, not a DXF file");
+    if (bytes.substr(0, 2) == "\xFF\xFE" || bytes.substr(0, 2) == "\xFE\xFF")
+        throw ReadError(1, "this is text of 16-bit characters; DXF files have 8-bit characters");
+}
+
+class FileReader {
+public:
+    FileReader(std::string_view bytes, const Progress& progress) : in_(bytes, progress) {}
+
+    Document Read() {
+        in_.tags.Next();
+        while (!tag_.Is(0, "EOF")) {
+            if (!tag_.Is(0, "SECTION"))
+                throw ReadError(tag_.line, "a section or the end of the file is expected, not group code " +
+                                               std::to_string(tag_.code) + " with " + Quoted(tag_.value));
+            ReadSection();
+            in_.tags.SetPlace("the file, which has no EOF");
+            in_.tags.Next();
+        }
+        entities_.ReportSkipped();
+        ResolveReferences(in_);
+        return std::move(in_.document);
+    }
+
+private:
+    // Stands at its ENDSEC afterwards.
+    void ReadSection() {
+        sectionLine_ = tag_.line;
+        in_.tags.SetPlace("a section");
+        if (in_.tags.Next().code != 2) throw ReadError(tag_.line, "a section without a name");
+        const std::string_view name = tag_.Trimmed();
+        if (name == "HEADER")
+            ReadHeader();
+        else if (name == "TABLES")
+            ReadTables();
+        else if (name == "BLOCKS")
+            ReadBlocks();
+        else if (name == "ENTITIES")
+            ReadEntities();
+        else
+            SkipSection();
+    }
+
+    // True at the end of the section; ReadError where another one begins instead.
+    bool AtSectionEnd() {
+        if (!tag_.StartsRecord()) return false;
+        const std::string_view name = tag_.Trimmed();
+        if (name == "SECTION" || name == "EOF")
+            throw ReadError(tag_.line, std::string(name == "EOF" ? "the file ends" : "a section begins") +
+                                           " before the section of line " + std::to_string(sectionLine_) +
+                                           " has ended");
+        return name == "ENDSEC";
+    }
+
+    void SkipSection() {
+        while (!AtSectionEnd())
+            in_.tags.Next();
+    }
+
+    void ReadHeader() {
+        in_.tags.SetPlace("section HEADER");
+        std::string_view variable;
+        in_.tags.Next();
+        while (!AtSectionEnd()) {
+            if (tag_.code == 9)
+                variable = tag_.Trimmed();
+            else
+                ReadVariable(in_, variable);
+            in_.tags.Next();
+        }
+    }
+
+    void ReadTables() {
+        in_.tags.SetPlace("section TABLES");
+        in_.tags.SkipRecord();
+        while (!AtSectionEnd())
+            ReadTableRecord(in_);
+    }
+
+    void ReadBlocks() {
+        in_.tags.SetPlace("section BLOCKS");
+        in_.tags.SkipRecord();
+        while (!AtSectionEnd()) {
+            if (tag_.Is(0, "BLOCK"))
+                ReadBlock();
+            else
+                in_.tags.SkipRecord();
+        }
+    }
+
+    // A block's entities are read apart: an insert among them may make a block that is only mentioned so far.
+    void ReadBlock() {
+        static const Field<Block> kFields[] = {{2, &Block::name}, {10, &Block::base}, {70, &Block::flags}};
+        const uint32_t line = tag_.line;
+        Block head;
+        std::string_view name;
+        while (in_.NextTag()) {
+            if (tag_.code == 2) name = tag_.value;
+            in_.SetField(kFields, head, tag_);
+        }
+        if (in_.TakeUnsound())
+            in_.Report(line, "the base point of block " + Quoted(name) +
+                                 " has no place in a drawing; the origin is taken");
+        std::vector<Entity> entities;
+        while (!tag_.Is(0, "ENDBLK")) {
+            if (tag_.Is(0, "BLOCK") || AtSectionEnd())
+                throw ReadError(tag_.line,
+                                "block " + Quoted(name) + " of line " + std::to_string(line) + " has no end");
+            entities_.Read(entities);
+        }
+        in_.tags.SkipRecord();
+        Block& block = in_.blocks.Declare(name);
+        block.base = head.base;
+        block.flags = head.flags;
+        block.entities = std::move(entities);
+    }
+
+    void ReadEntities() {
+        in_.tags.SetPlace("section ENTITIES");
+        entities_.CountRecords();
+        in_.tags.SkipRecord();
+        while (!AtSectionEnd())
+            entities_.Read(in_.document.entities);
+    }
+
+    RecordReader in_;
+    EntityReader entities_{in_};
+    const Tag& tag_ = in_.tags.Current();
+    uint32_t sectionLine_ = 0;
+};
+
+} // namespace
+
+ReadError::ReadError(uint32_t line, const std::string& text)
+    : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line),
+      text_(text) {}
+
+Document Read(std::string_view bytes, const Progress& progress) {
+    RefuseOtherFiles(bytes);
+    if (bytes.substr(0, 3) == "\xEF\xBB\xBF") bytes.remove_prefix(3);
+    Document document = FileReader(bytes, progress).Read();
+    if (progress) progress(1000);
+    return document;
+}
+
+} // namespace dxf

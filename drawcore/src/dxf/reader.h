@@ -1,0 +1,39 @@
+// Reads ASCII DXF, R12 to 2018, from a buffer into a Document. Opens no window; makes no picture.
+//
+//   dxf::Document drawing = dxf::Read(bytes, {});
+//   dxf::Read("0\nSECTION\n", {});   // throws dxf::ReadError: "line 2: the file ends within a section ..."
+//
+// A file whose structure is broken (a group code that is no number, a section that does not end, no EOF) is
+// refused. A single value or reference that makes no sense costs its entity only, and a finding says so.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "drawcore/src/dxf/document.h"
+
+namespace dxf {
+
+// what(): "line 12: ..." ; without a line where the file as a whole is at fault.
+class ReadError : public std::runtime_error {
+public:
+    ReadError(uint32_t line, const std::string& text);
+    uint32_t Line() const { return line_; } // 0: none
+    const std::string& Text() const { return text_; }
+
+private:
+    uint32_t line_;
+    std::string text_;
+};
+
+// Called now and then with the share that is done, 0 to 1000, rising; once at least, and with 1000 at the
+// end.
+using Progress = std::function<void(int permille)>;
+
+// The bytes need not outlive the call. Throws ReadError, std::bad_alloc.
+Document Read(std::string_view bytes, const Progress& progress);
+
+} // namespace dxf

@@ -1,0 +1,91 @@
+// What every section of a file needs to read its records: the tags, the document that grows, names, and
+// tables that tie group codes to members.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "drawcore/src/dxf/names.h"
+#include "drawcore/src/dxf/tag_reader.h"
+
+namespace dxf {
+
+// A group code and the member that it fills. A point takes its code for x, that plus 10 for y and plus 20 for
+// z.
+template <class T>
+struct Field {
+    using Member =
+        std::variant<double T::*, int T::*, int16_t T::*, uint32_t T::*, bool T::*, std::string T::*,
+                     Point T::*, LayerIndex T::*, LineTypeIndex T::*, TextStyleIndex T::*, BlockIndex T::*>;
+    int code;
+    Member member;
+};
+
+class RecordReader {
+public:
+    RecordReader(std::string_view bytes, const Progress& progress) : tags(bytes, progress) {}
+    RecordReader(const RecordReader&) = delete;
+    RecordReader& operator=(const RecordReader&) = delete;
+
+    TagReader tags;
+    Document document;
+    TextDecoder decoder;
+    Names<Layer> layers{document.layers, decoder};
+    Names<LineType> lineTypes{document.lineTypes, decoder};
+    Names<TextStyle> textStyles{document.textStyles, decoder};
+    Names<Block> blocks{document.blocks, decoder};
+
+    // Reads the tags up to the next record and fills the members that the table names.
+    template <class T, size_t N>
+    void ReadFields(const Field<T> (&table)[N], T& target) {
+        while (NextTag())
+            SetField(table, target, tags.Current());
+    }
+
+    // Goes to the next tag of the record; false at its end. Passes over what programs other than the writer
+    // attach: groups in braces (code 102), extended data, embedded objects.
+    bool NextTag();
+
+    // False if the table has no such code.
+    template <class T, size_t N>
+    bool SetField(const Field<T> (&table)[N], T& target, const Tag& tag) {
+        for (const Field<T>& field : table) {
+            const int axis = tag.code - field.code;
+            const bool isPoint = std::holds_alternative<Point T::*>(field.member);
+            if (axis != 0 && !(isPoint && (axis == 10 || axis == 20))) continue;
+            std::visit([&](auto member) { Assign(target.*member, tag, axis); }, field.member);
+            return true;
+        }
+        return false;
+    }
+
+    // A number of the record; remembers the line of one that has no place in a drawing (then it is 0).
+    double Real(const Tag& tag);
+    void SetAxis(Point& point, const Tag& tag, int axis);
+    std::string Text(const Tag& tag) const { return decoder.Decode(tag.value); }
+
+    // The line of the first number without a place since the last call; 0 if there was none.
+    uint32_t TakeUnsound();
+
+    void Report(uint32_t line, std::string text);
+
+private:
+    void Assign(double& to, const Tag& tag, int) { to = Real(tag); }
+    void Assign(int& to, const Tag& tag, int) { to = tag.Integer(); }
+    void Assign(int16_t& to, const Tag& tag, int);
+    void Assign(uint32_t& to, const Tag& tag, int);
+    void Assign(bool& to, const Tag& tag, int) { to = tag.Flag(); }
+    void Assign(std::string& to, const Tag& tag, int) { to = Text(tag); }
+    void Assign(Point& to, const Tag& tag, int axis) { SetAxis(to, tag, axis); }
+    void Assign(LayerIndex& to, const Tag& tag, int) { to = LayerIndex(layers.Find(tag.value)); }
+    void Assign(LineTypeIndex& to, const Tag& tag, int);
+    void Assign(TextStyleIndex& to, const Tag& tag, int) { to = TextStyleIndex(textStyles.Find(tag.value)); }
+    void Assign(BlockIndex& to, const Tag& tag, int) { to = BlockIndex(blocks.Find(tag.value)); }
+
+    uint32_t unsound_ = 0;
+    size_t unreported_ = 0;
+};
+
+} // namespace dxf

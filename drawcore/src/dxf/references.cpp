@@ -1,0 +1,115 @@
+// A walk over the graph of blocks, without recursion: a file may chain any number of them.
+
+#include "drawcore/src/dxf/references.h"
+
+namespace dxf {
+
+namespace {
+
+struct Reference {
+    BlockIndex* block = nullptr; // null: the entity refers to none
+    double cells = 1;
+};
+
+Reference ReferenceOf(Entity& entity) {
+    if (auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
+        return {&(*insert)->block, double((*insert)->columns) * (*insert)->rows};
+    if (auto* dimension = std::get_if<Apart<Dimension>>(&entity.shape)) return {&(*dimension)->block};
+    return {};
+}
+
+double PartsOf(const Entity& entity) {
+    const auto* polyline = std::get_if<Polyline>(&entity.shape);
+    return polyline ? 1 + static_cast<double>(polyline->vertices.size()) : 1;
+}
+
+class Resolver {
+public:
+    explicit Resolver(RecordReader& in) : in_(in), drawing_(in.document), states_(drawing_.blocks.size()) {}
+
+    void Resolve() {
+        for (size_t i = 0; i < drawing_.blocks.size(); ++i)
+            if (states_[i].progress == State::unseen) Visit(i);
+        State root;
+        for (Entity& entity : drawing_.entities)
+            CutIfNeeded(entity, root);
+    }
+
+private:
+    struct State {
+        enum Progress { unseen, open, done } progress = unseen;
+        size_t depth = 0;         // of the blocks in it
+        double parts = 0;         // drawn by one insert of it
+        double insertedParts = 0; // those of them that its own inserts draw
+    };
+    struct Frame {
+        size_t block;
+        size_t entity;
+    };
+
+    void Visit(size_t block) {
+        std::vector<Frame> frames{{block, 0}};
+        states_[block].progress = State::open;
+        while (!frames.empty()) {
+            Frame& frame = frames.back();
+            State& state = states_[frame.block];
+            std::vector<Entity>& entities = drawing_.blocks[frame.block].entities;
+            if (frame.entity == entities.size()) {
+                state.parts += state.insertedParts;
+                state.progress = State::done;
+                frames.pop_back();
+                continue;
+            }
+            Entity& entity = entities[frame.entity];
+            const Reference reference = ReferenceOf(entity);
+            if (reference.block && *reference.block != BlockIndex::none) {
+                const auto inner = static_cast<size_t>(*reference.block);
+                if (states_[inner].progress == State::unseen) {
+                    states_[inner].progress = State::open;
+                    frames.push_back({inner, 0});
+                    continue; // this entity again when its block is done
+                }
+            }
+            CutIfNeeded(entity, state);
+            state.parts += PartsOf(entity);
+            ++frame.entity;
+        }
+    }
+
+    void CutIfNeeded(Entity& entity, State& owner) {
+        const Reference reference = ReferenceOf(entity);
+        if (!reference.block || *reference.block == BlockIndex::none) return;
+        const auto inner = static_cast<size_t>(*reference.block);
+        const State& state = states_[inner];
+        const double parts = reference.cells * (1 + state.parts);
+        const char* reason = nullptr;
+        if (!drawing_.blocks[inner].declared)
+            reason = "there is no such block";
+        else if (state.progress == State::open)
+            reason = "the block contains itself";
+        else if (state.depth + 1 > kDeepestNesting)
+            reason = "blocks are nested too deeply";
+        else if (owner.insertedParts + parts > kMostInsertedParts)
+            reason = "the drawing would have too many parts";
+        if (!reason) {
+            owner.depth = std::max(owner.depth, state.depth + 1);
+            owner.insertedParts += parts;
+            return;
+        }
+        *reference.block = BlockIndex::none;
+        in_.Report(entity.line,
+                   "an insert of block " + Quoted(drawing_.blocks[inner].name) + " is left out: " + reason);
+    }
+
+    RecordReader& in_;
+    Document& drawing_;
+    std::vector<State> states_;
+};
+
+} // namespace
+
+void ResolveReferences(RecordReader& in) {
+    Resolver(in).Resolve();
+}
+
+} // namespace dxf

@@ -1,0 +1,127 @@
+// Header variables and table records.
+
+#include "drawcore/src/dxf/table_reader.h"
+
+#include <algorithm>
+
+namespace dxf {
+
+namespace {
+
+struct Variable {
+    std::string_view name;
+    Field<Header> field;
+};
+
+const Variable kVariables[] = {
+    {"$ACADVER", {1, &Header::version}},        {"$DWGCODEPAGE", {3, &Header::codePage}},
+    {"$INSUNITS", {70, &Header::unit}},         {"$MEASUREMENT", {70, &Header::metric}},
+    {"$LUNITS", {70, &Header::lengthFormat}},   {"$LUPREC", {70, &Header::lengthDigits}},
+    {"$AUNITS", {70, &Header::angleFormat}},    {"$AUPREC", {70, &Header::angleDigits}},
+    {"$PDMODE", {70, &Header::pointMode}},      {"$PDSIZE", {40, &Header::pointSize}},
+    {"$LTSCALE", {40, &Header::lineTypeScale}}, {"$DIMSCALE", {40, &Header::dimensionScale}},
+};
+
+void ReadLayer(RecordReader& in) {
+    static const Field<Layer> kFields[] = {{62, &Layer::color},       {70, &Layer::flags},
+                                           {6, &Layer::lineType},     {420, &Layer::trueColor},
+                                           {370, &Layer::lineWeight}, {290, &Layer::plotted}};
+    Layer read;
+    std::string_view name;
+    while (in.NextTag()) {
+        const Tag& tag = in.tags.Current();
+        if (tag.code == 2)
+            name = tag.value;
+        else
+            in.SetField(kFields, read, tag);
+    }
+    Layer& layer = in.layers.Declare(name);
+    read.name = std::move(layer.name);
+    read.declared = true;
+    layer = std::move(read);
+}
+
+void ReadLineType(RecordReader& in) {
+    static const Field<LineType> kFields[] = {{3, &LineType::description}, {40, &LineType::patternLength}};
+    LineType read;
+    std::string_view name;
+    while (in.NextTag()) {
+        const Tag& tag = in.tags.Current();
+        if (tag.code == 2)
+            name = tag.value;
+        else if (tag.code == 49)
+            read.dashes.push_back(in.Real(tag));
+        else
+            in.SetField(kFields, read, tag);
+    }
+    LineType& lineType = in.lineTypes.Declare(name);
+    read.name = std::move(lineType.name);
+    read.declared = true;
+    lineType = std::move(read);
+}
+
+// The family and cut of a TrueType face stand in extended data of the application ACAD.
+void TakeTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
+    constexpr int kBold = 0x2000000;
+    constexpr int kItalic = 0x1000000;
+    if (tag.code == 1001) own = tag.Is(1001, "ACAD");
+    if (!own) return;
+    if (tag.code == 1000) style.fontFace = in.Text(tag);
+    if (tag.code != 1071) return;
+    style.bold = (tag.Integer() & kBold) != 0;
+    style.italic = (tag.Integer() & kItalic) != 0;
+}
+
+void ReadTextStyle(RecordReader& in) {
+    static const Field<TextStyle> kFields[] = {{3, &TextStyle::fontFile},
+                                               {40, &TextStyle::fixedHeight},
+                                               {41, &TextStyle::widthFactor},
+                                               {50, &TextStyle::oblique}};
+    TextStyle read;
+    std::string_view name;
+    bool own = false;
+    const Tag& tag = in.tags.Current();
+    while (!in.tags.Next().StartsRecord()) {
+        if (tag.code == 2)
+            name = tag.value;
+        else if (tag.code == 71)
+            read.backward = (tag.Integer() & 2) != 0, read.upsideDown = (tag.Integer() & 4) != 0;
+        else if (!in.SetField(kFields, read, tag))
+            TakeTypeFace(read, tag, own, in);
+    }
+    if (name.empty()) return; // a shape file that line types use
+    TextStyle& style = in.textStyles.Declare(name);
+    read.name = std::move(style.name);
+    read.declared = true;
+    style = std::move(read);
+}
+
+} // namespace
+
+void ReadVariable(RecordReader& in, std::string_view variable) {
+    const Tag& tag = in.tags.Current();
+    for (const Variable& known : kVariables)
+        if (known.name == variable && known.field.code == tag.code) {
+            const Field<Header> table[] = {known.field};
+            in.SetField(table, in.document.header, tag);
+        }
+    if (in.TakeUnsound()) in.Report(tag.line + 1, "the value of " + Quoted(variable) + " is passed over");
+    if (variable == "$ACADVER" && tag.code == 1) in.decoder.SetVersion(tag.Trimmed());
+    if (variable == "$DWGCODEPAGE" && tag.code == 3) in.decoder.SetCodePage(tag.Trimmed());
+}
+
+void ReadTableRecord(RecordReader& in) {
+    const Tag& tag = in.tags.Current();
+    const uint32_t line = tag.line;
+    if (tag.Is(0, "LAYER"))
+        ReadLayer(in);
+    else if (tag.Is(0, "LTYPE"))
+        ReadLineType(in);
+    else if (tag.Is(0, "STYLE"))
+        ReadTextStyle(in);
+    else
+        in.tags.SkipRecord();
+    if (in.TakeUnsound()) in.Report(line, "a number of this table's entry is no sensible one; 0 is taken");
+}
+
+} // namespace dxf

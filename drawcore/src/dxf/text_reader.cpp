@@ -1,0 +1,125 @@
+// TEXT, MTEXT and the attributes of inserts.
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawcore/src/dxf/entity_reader.h"
+
+namespace dxf {
+
+namespace {
+
+// What single bits and numbers stand for; the vertical alignment has a code of its own in attributes.
+struct TextCodes {
+    int verticalCode;
+    int generation = 0;
+    int horizontal = 0;
+    int vertical = 0;
+    int attributeFlags = 0;
+
+    bool Take(const Tag& tag) {
+        if (tag.code == verticalCode)
+            vertical = tag.Integer();
+        else if (tag.code == 70)
+            attributeFlags = tag.Integer();
+        else if (tag.code == 71)
+            generation = tag.Integer();
+        else if (tag.code == 72)
+            horizontal = tag.Integer();
+        else
+            return false;
+        return true;
+    }
+};
+
+const Field<Text> kText[] = {
+    {1, &Text::text},         {10, &Text::insertion}, {11, &Text::alignment}, {40, &Text::height},
+    {41, &Text::widthFactor}, {50, &Text::rotation},  {51, &Text::oblique},   {7, &Text::style},
+};
+const Field<Text> kTag[] = {{2, &Text::tag}};
+
+enum AttributeFlags { kHidden = 1, kConstant = 2 };
+
+void SetCodes(Text& text, const TextCodes& codes) {
+    text.backward = (codes.generation & 2) != 0;
+    text.upsideDown = (codes.generation & 4) != 0;
+    text.horizontal = Text::Horizontal(std::clamp(codes.horizontal, 0, 5));
+    text.vertical = Text::Vertical(std::clamp(codes.vertical, 0, 3));
+    text.hidden = (codes.attributeFlags & kHidden) != 0;
+}
+
+} // namespace
+
+void EntityReader::ReadText(Entity& entity) {
+    Text& text = *entity.shape.emplace<Apart<Text>>(std::make_unique<Text>());
+    text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
+    TextCodes codes{73};
+    while (in_.NextTag()) {
+        const Tag& tag = in_.tags.Current();
+        if (!in_.SetField(kText, text, tag) && !codes.Take(tag)) SetCommon(entity);
+    }
+    SetCodes(text, codes);
+}
+
+void EntityReader::ReadAttribute(Entity& entity) {
+    const bool isDefinition = in_.tags.Current().Is(0, "ATTDEF");
+    Text& text = *entity.shape.emplace<Apart<Text>>(std::make_unique<Text>());
+    text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
+    TextCodes codes{74};
+    while (in_.NextTag()) {
+        const Tag& tag = in_.tags.Current();
+        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Take(tag))
+            SetCommon(entity);
+    }
+    SetCodes(text, codes);
+    if (!isDefinition)
+        text.role = Text::Role::attribute;
+    else if (!(codes.attributeFlags & kConstant))
+        text.role = Text::Role::definition;
+}
+
+void EntityReader::ReadAttributesOf(Insert& insert) {
+    const Tag& tag = in_.tags.Current();
+    if (!tag.Is(0, "ATTRIB")) return;
+    while (tag.Is(0, "ATTRIB")) {
+        Count();
+        Entity attribute = NewEntity();
+        ReadAttribute(attribute);
+        insert.attributes.push_back(std::move(attribute));
+    }
+    if (!tag.Is(0, "SEQEND")) return;
+    Count();
+    in_.tags.SkipRecord();
+}
+
+void EntityReader::ReadMText(Entity& entity) {
+    static const Field<MText> kFields[] = {
+        {10, &MText::insertion},  {40, &MText::height},      {41, &MText::width},
+        {71, &MText::attachment}, {44, &MText::lineSpacing}, {7, &MText::style},
+    };
+    MText& text = *entity.shape.emplace<Apart<MText>>(std::make_unique<MText>());
+    text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
+    std::string bytes; // decoded as one: a character may lie on the border of two pieces
+    Point direction{1, 0, 0};
+    bool byDirection = false; // of angle and direction the last one counts
+    while (in_.NextTag()) {
+        const Tag& tag = in_.tags.Current();
+        if (tag.code == 1 || tag.code == 3) {
+            bytes += tag.value;
+        } else if (tag.code == 50) {
+            text.rotation = in_.Real(tag);
+            byDirection = false;
+        } else if (tag.code == 11 || tag.code == 21 || tag.code == 31) {
+            in_.SetAxis(direction, tag, tag.code - 11);
+            byDirection = true;
+        } else if (!in_.SetField(kFields, text, tag)) {
+            SetCommon(entity);
+        }
+    }
+    constexpr double kDegrees = 57.29577951308232;
+    if (byDirection) text.rotation = std::atan2(direction.y, direction.x) * kDegrees;
+    text.text = in_.decoder.Decode(bytes);
+    text.attachment = std::clamp(text.attachment, 1, 9);
+}
+
+} // namespace dxf
