@@ -1,5 +1,5 @@
-// The framework's base: run-time classes, strings, exceptions, buffered files. It includes no window header of its
-// own and compiles on this machine as well, where a block of types stands in for the system's.
+// The framework's base: run-time classes, strings, exceptions, buffered files. It includes no window header
+// of its own and compiles on this machine as well, where a block of types stands in for the system's.
 //
 //   CString text;
 //   text.Format("%d of %d", 3, 10);
@@ -55,12 +55,13 @@ typedef AFX_POSITION* POSITION;
 class CObject;
 class CString;
 
-// ---- Run-time classes ------------------------------------------------------------------------------------------
+// ---- Run-time classes
+// ------------------------------------------------------------------------------------------
 
 struct AFX_API CRuntimeClass {
     LPCSTR m_lpszClassName;
     int m_nObjectSize;
-    UINT m_wSchema; // 0xFFFF: the class is not stored
+    UINT m_wSchema;                  // 0xFFFF: the class is not stored
     CObject* (*m_pfnCreateObject)(); // null: not made by name
     CRuntimeClass* m_pBaseClass;
 
@@ -98,19 +99,24 @@ public:                                                                         
 #define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, pfnNew)                                          \
     CRuntimeClass class_name::class##class_name = {#class_name, static_cast<int>(sizeof(class_name)),        \
                                                    0xFFFF, pfnNew, RUNTIME_CLASS(base_class_name)};          \
-    CRuntimeClass* class_name::GetRuntimeClass() const { return RUNTIME_CLASS(class_name); }
+    CRuntimeClass* class_name::GetRuntimeClass() const {                                                     \
+        return RUNTIME_CLASS(class_name);                                                                    \
+    }
 
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
 
 #define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
-    CObject* class_name::CreateObject() { return new class_name; }                                           \
+    CObject* class_name::CreateObject() {                                                                    \
+        return new class_name;                                                                               \
+    }                                                                                                        \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, class_name::CreateObject)
 
-// ---- Text ------------------------------------------------------------------------------------------------------
+// ---- Text
+// ------------------------------------------------------------------------------------------------------
 
-// 8-bit text in the system's code page. A null pointer counts as the empty text. Between GetBuffer and ReleaseBuffer
-// the text must only be touched through the pointer.
+// 8-bit text in the system's code page. A null pointer counts as the empty text. Between GetBuffer and
+// ReleaseBuffer the text must only be touched through the pointer.
 class AFX_API CString {
 public:
     CString();
@@ -184,15 +190,30 @@ AFX_API CString operator+(const CString& string, LPCSTR lpsz);
 AFX_API CString operator+(LPCSTR lpsz, const CString& string);
 AFX_API CString operator+(const CString& string, char ch);
 
-inline bool operator==(const CString& a, const CString& b) { return a.Compare(b) == 0; }
-inline bool operator==(const CString& a, LPCSTR b) { return a.Compare(b) == 0; }
-inline bool operator==(LPCSTR a, const CString& b) { return b.Compare(a) == 0; }
-inline bool operator!=(const CString& a, const CString& b) { return a.Compare(b) != 0; }
-inline bool operator!=(const CString& a, LPCSTR b) { return a.Compare(b) != 0; }
-inline bool operator!=(LPCSTR a, const CString& b) { return b.Compare(a) != 0; }
-inline bool operator<(const CString& a, const CString& b) { return a.Compare(b) < 0; }
+inline bool operator==(const CString& a, const CString& b) {
+    return a.Compare(b) == 0;
+}
+inline bool operator==(const CString& a, LPCSTR b) {
+    return a.Compare(b) == 0;
+}
+inline bool operator==(LPCSTR a, const CString& b) {
+    return b.Compare(a) == 0;
+}
+inline bool operator!=(const CString& a, const CString& b) {
+    return a.Compare(b) != 0;
+}
+inline bool operator!=(const CString& a, LPCSTR b) {
+    return a.Compare(b) != 0;
+}
+inline bool operator!=(LPCSTR a, const CString& b) {
+    return b.Compare(a) != 0;
+}
+inline bool operator<(const CString& a, const CString& b) {
+    return a.Compare(b) < 0;
+}
 
-// ---- Exceptions ------------------------------------------------------------------------------------------------
+// ---- Exceptions
+// ------------------------------------------------------------------------------------------------
 
 // Thrown by pointer. Who catches one and does not throw it on calls Delete.
 class AFX_API CException : public CObject {
@@ -203,9 +224,11 @@ public:
     void Delete();
 
 #if defined(_WIN32)
-    // Text for a person, with its NUL cut to nMaxError bytes; false and an empty text if the exception has none.
+    // Text for a person, with its NUL cut to nMaxError bytes; false and an empty text if the exception has
+    // none.
     virtual BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr);
-    // Shows that text in a message box, or the string nMessageID (0: the framework's "internal error") without one.
+    // Shows that text in a message box, or the string nMessageID (0: the framework's "internal error")
+    // without one.
     int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 #endif
 
@@ -276,10 +299,11 @@ public:
 [[noreturn]] AFX_API void AfxThrowResourceException();
 [[noreturn]] AFX_API void AfxThrowFileException(int cause, LONG lOsError = 0, LPCSTR lpszFileName = nullptr);
 
-// ---- Buffered files --------------------------------------------------------------------------------------------
+// ---- Buffered files
+// --------------------------------------------------------------------------------------------
 
-// A file of the C library. Text unless typeBinary is given. Failures of reading, writing and seeking are thrown as
-// CFileException; what the destructor closes is closed in silence.
+// A file of the C library. Text unless typeBinary is given. Failures of reading, writing and seeking are
+// thrown as CFileException; what the destructor closes is closed in silence.
 class AFX_API CStdioFile : public CObject {
     DECLARE_DYNAMIC(CStdioFile)
 public:

@@ -1,5 +1,5 @@
-// Collections: a list of objects, maps by number and by text, an array of words. Owns no object that is put in.
-// Maps give their entries in the order in which the keys were first set.
+// Collections: a list of objects, maps by number and by text, an array of words. Owns no object that is put
+// in. Maps give their entries in the order in which the keys were first set.
 #pragma once
 
 #include <afx.h>
@@ -13,7 +13,8 @@
 template <class Node>
 class AfxNodePool {
 public:
-    explicit AfxNodePool(int nBlockSize) : m_nBlockSize(nBlockSize > 0 ? static_cast<std::size_t>(nBlockSize) : 1) {}
+    explicit AfxNodePool(int nBlockSize)
+        : m_nBlockSize(nBlockSize > 0 ? static_cast<std::size_t>(nBlockSize) : 1) {}
 
     Node* Allocate() {
         if (m_pFree == nullptr) AddBlock();
@@ -87,11 +88,13 @@ private:
     AfxNodePool<Node> m_pool;
 };
 
-inline std::size_t AfxHashKey(WORD key) { return static_cast<std::size_t>(key * 2654435761u); }
+inline std::size_t AfxHashKey(WORD key) {
+    return static_cast<std::size_t>(key * 2654435761u);
+}
 AFX_API std::size_t AfxHashKey(LPCSTR key);
 
-// What the maps have in common: a hash table that grows with its content, so that filling it with n keys costs O(n).
-// ARG_KEY is the form in which keys are asked for.
+// What the maps have in common: a hash table that grows with its content, so that filling it with n keys
+// costs O(n). ARG_KEY is the form in which keys are asked for.
 template <class KEY, class ARG_KEY, class VALUE>
 class AfxMap : public CObject {
 public:
@@ -152,7 +155,8 @@ private:
     Node* FindNode(ARG_KEY key, std::size_t hash) const {
         if (m_buckets.empty()) return nullptr;
         Node* node = m_buckets[hash & (m_buckets.size() - 1)];
-        while (node != nullptr && !(node->m_nHash == hash && node->m_key == key)) node = node->m_pSame;
+        while (node != nullptr && !(node->m_nHash == hash && node->m_key == key))
+            node = node->m_pSame;
         return node;
     }
     Node* AddNode(ARG_KEY key, std::size_t hash) {
@@ -176,11 +180,13 @@ private:
     void Grow() {
         const std::size_t size = m_buckets.empty() ? 16 : m_buckets.size() * 2;
         m_buckets.assign(size, nullptr);
-        for (Node* node = m_pFirst; node != nullptr; node = node->m_pNext) PutInBucket(node);
+        for (Node* node = m_pFirst; node != nullptr; node = node->m_pNext)
+            PutInBucket(node);
     }
     void Unlink(Node* node) {
         Node** link = &m_buckets[node->m_nHash & (m_buckets.size() - 1)];
-        while (*link != node) link = &(*link)->m_pSame;
+        while (*link != node)
+            link = &(*link)->m_pSame;
         *link = node->m_pSame;
         (node->m_pPrev != nullptr ? node->m_pPrev->m_pNext : m_pFirst) = node->m_pNext;
         (node->m_pNext != nullptr ? node->m_pNext->m_pPrev : m_pLast) = node->m_pPrev;

@@ -64,18 +64,22 @@ CObject* CObList::GetPrev(POSITION& rPosition) const {
     return node->m_pData;
 }
 
-CObject* CObList::GetAt(POSITION position) const { return ToNode(position)->m_pData; }
+CObject* CObList::GetAt(POSITION position) const {
+    return ToNode(position)->m_pData;
+}
 
 POSITION CObList::Find(const CObject* searchValue) const {
     Node* node = m_pHead;
-    while (node != nullptr && node->m_pData != searchValue) node = node->m_pNext;
+    while (node != nullptr && node->m_pData != searchValue)
+        node = node->m_pNext;
     return ToPosition(node);
 }
 
 // FNV-1a.
 std::size_t AfxHashKey(LPCSTR key) {
     std::uint32_t hash = 2166136261u;
-    for (; *key != '\0'; ++key) hash = (hash ^ static_cast<unsigned char>(*key)) * 16777619u;
+    for (; *key != '\0'; ++key)
+        hash = (hash ^ static_cast<unsigned char>(*key)) * 16777619u;
     return hash;
 }
 
@@ -92,4 +96,6 @@ int CWordArray::Add(WORD newElement) {
     return GetSize() - 1;
 }
 
-void CWordArray::RemoveAll() { m_data.clear(); }
+void CWordArray::RemoveAll() {
+    m_data.clear();
+}

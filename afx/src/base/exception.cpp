@@ -30,26 +30,41 @@ CFileException::~CFileException() = default;
 
 int CFileException::ErrnoToException(int nErrno) {
     switch (nErrno) {
-    case 0: return none;
-    case ENOENT: return fileNotFound;
+    case 0:
+        return none;
+    case ENOENT:
+        return fileNotFound;
     case ENOTDIR:
-    case ENAMETOOLONG: return badPath;
+    case ENAMETOOLONG:
+        return badPath;
     case EMFILE:
-    case ENFILE: return tooManyOpenFiles;
+    case ENFILE:
+        return tooManyOpenFiles;
     case EACCES:
     case EPERM:
     case EROFS:
-    case EISDIR: return accessDenied;
-    case ESPIPE: return badSeek;
-    case EIO: return hardIO;
-    case ENOSPC: return diskFull;
-    default: return genericException;
+    case EISDIR:
+        return accessDenied;
+    case ESPIPE:
+        return badSeek;
+    case EIO:
+        return hardIO;
+    case ENOSPC:
+        return diskFull;
+    default:
+        return genericException;
     }
 }
 
-void AfxThrowUserException() { throw new CUserException; }
-void AfxThrowNotSupportedException() { throw new CNotSupportedException; }
-void AfxThrowResourceException() { throw new CResourceException; }
+void AfxThrowUserException() {
+    throw new CUserException;
+}
+void AfxThrowNotSupportedException() {
+    throw new CNotSupportedException;
+}
+void AfxThrowResourceException() {
+    throw new CResourceException;
+}
 void AfxThrowFileException(int cause, LONG lOsError, LPCSTR lpszFileName) {
     throw new CFileException(cause, lOsError, lpszFileName);
 }

@@ -4,13 +4,18 @@
 
 #include <cstdlib>
 
-CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr, nullptr};
+CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr,
+                                       nullptr};
 
-CRuntimeClass* CObject::GetRuntimeClass() const { return RUNTIME_CLASS(CObject); }
+CRuntimeClass* CObject::GetRuntimeClass() const {
+    return RUNTIME_CLASS(CObject);
+}
 
 CObject::~CObject() = default;
 
-BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
+BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
+    return GetRuntimeClass()->IsDerivedFrom(pClass);
+}
 
 CObject* CRuntimeClass::CreateObject() {
     return m_pfnCreateObject != nullptr ? m_pfnCreateObject() : nullptr;
@@ -18,7 +23,8 @@ CObject* CRuntimeClass::CreateObject() {
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     const CRuntimeClass* one = this;
-    while (one != nullptr && one != pBaseClass) one = one->m_pBaseClass;
+    while (one != nullptr && one != pBaseClass)
+        one = one->m_pBaseClass;
     return one != nullptr;
 }
 

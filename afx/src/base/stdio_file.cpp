@@ -18,7 +18,8 @@ FILE* OpenKeeping(LPCSTR name, const std::string& suffix) {
 FILE* OpenStream(LPCSTR name, UINT flags) {
     const std::string suffix = (flags & CStdioFile::typeBinary) != 0 ? "b" : "";
     const bool writes = (flags & (CStdioFile::modeWrite | CStdioFile::modeReadWrite)) != 0;
-    if ((flags & CStdioFile::modeCreate) == 0) return std::fopen(name, ((writes ? "r+" : "r") + suffix).c_str());
+    if ((flags & CStdioFile::modeCreate) == 0)
+        return std::fopen(name, ((writes ? "r+" : "r") + suffix).c_str());
     if ((flags & CStdioFile::modeNoTruncate) != 0) return OpenKeeping(name, suffix);
     return std::fopen(name, ("w+" + suffix).c_str());
 }
@@ -84,12 +85,15 @@ BOOL CStdioFile::ReadString(CString& rString) {
     rString.Empty();
     int ch = std::fgetc(m_pStream);
     const bool found = ch != EOF;
-    for (; ch != EOF && ch != '\n'; ch = std::fgetc(m_pStream)) rString += static_cast<char>(ch);
+    for (; ch != EOF && ch != '\n'; ch = std::fgetc(m_pStream))
+        rString += static_cast<char>(ch);
     if (std::ferror(m_pStream)) ThrowErrno(CFileException::genericException);
     return found;
 }
 
-void CStdioFile::WriteString(LPCSTR lpsz) { CStdioFile::Write(lpsz, static_cast<UINT>(std::strlen(lpsz))); }
+void CStdioFile::WriteString(LPCSTR lpsz) {
+    CStdioFile::Write(lpsz, static_cast<UINT>(std::strlen(lpsz)));
+}
 
 ULONGLONG CStdioFile::Seek(LONGLONG lOff, UINT nFrom) {
     errno = 0;

@@ -11,18 +11,25 @@
 
 namespace {
 
-LPCSTR Text(LPCSTR lpsz) { return lpsz != nullptr ? lpsz : ""; }
+LPCSTR Text(LPCSTR lpsz) {
+    return lpsz != nullptr ? lpsz : "";
+}
 
-std::size_t Size(int n) { return n > 0 ? static_cast<std::size_t>(n) : 0; }
+std::size_t Size(int n) {
+    return n > 0 ? static_cast<std::size_t>(n) : 0;
+}
 
 #if !defined(_WIN32)
 // Code page 1252, as the system that the texts come from.
-bool HasCasePair(unsigned char lower) { return (lower >= 0xE0 && lower != 0xF7 && lower != 0xFF); }
+bool HasCasePair(unsigned char lower) {
+    return (lower >= 0xE0 && lower != 0xF7 && lower != 0xFF);
+}
 
 char Lower(char ch) {
     const auto c = static_cast<unsigned char>(ch);
     if (c >= 'A' && c <= 'Z') return static_cast<char>(c + 32);
-    if (c >= 0xC0 && c <= 0xDE && HasCasePair(static_cast<unsigned char>(c + 32))) return static_cast<char>(c + 32);
+    if (c >= 0xC0 && c <= 0xDE && HasCasePair(static_cast<unsigned char>(c + 32)))
+        return static_cast<char>(c + 32);
     if (c == 0x8A || c == 0x8C || c == 0x8E) return static_cast<char>(c + 16);
     return c == 0x9F ? static_cast<char>(0xFF) : ch;
 }
@@ -35,7 +42,9 @@ char Upper(char ch) {
 }
 #endif
 
-bool IsSpace(char ch) { return std::isspace(static_cast<unsigned char>(ch)) != 0; }
+bool IsSpace(char ch) {
+    return std::isspace(static_cast<unsigned char>(ch)) != 0;
+}
 
 } // namespace
 
@@ -95,11 +104,17 @@ CString operator+(const CString& string, char ch) {
     return result += ch;
 }
 
-void CString::Empty() { m_text.clear(); }
+void CString::Empty() {
+    m_text.clear();
+}
 
-void CString::SetAt(int nIndex, char ch) { m_text[static_cast<std::size_t>(nIndex)] = ch; }
+void CString::SetAt(int nIndex, char ch) {
+    m_text[static_cast<std::size_t>(nIndex)] = ch;
+}
 
-int CString::Compare(LPCSTR lpsz) const { return std::strcmp(m_text.c_str(), Text(lpsz)); }
+int CString::Compare(LPCSTR lpsz) const {
+    return std::strcmp(m_text.c_str(), Text(lpsz));
+}
 
 int CString::CompareNoCase(LPCSTR lpsz) const {
 #if defined(_WIN32)
@@ -109,7 +124,9 @@ int CString::CompareNoCase(LPCSTR lpsz) const {
 #endif
 }
 
-CString CString::Mid(int nFirst) const { return Mid(nFirst, GetLength()); }
+CString CString::Mid(int nFirst) const {
+    return Mid(nFirst, GetLength());
+}
 
 CString CString::Mid(int nFirst, int nCount) const {
     const std::size_t first = std::min(Size(nFirst), m_text.size());
@@ -117,7 +134,9 @@ CString CString::Mid(int nFirst, int nCount) const {
     return CString(m_text.data() + first, static_cast<int>(count));
 }
 
-CString CString::Left(int nCount) const { return Mid(0, nCount); }
+CString CString::Left(int nCount) const {
+    return Mid(0, nCount);
+}
 
 CString CString::Right(int nCount) const {
     return Mid(GetLength() - std::min(GetLength(), std::max(nCount, 0)), nCount);

@@ -1,0 +1,137 @@
+// The system's controls as CWnd classes. Owner-draw lists and combos get their items' messages as virtual
+// calls, from the moment the object has the window; before that the parent answers as the system does.
+#pragma once
+
+#include <afxwnd.h>
+
+class AFX_API CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+public:
+    CStatic();
+    ~CStatic() override;
+    virtual BOOL Create(LPCSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                        UINT nID = 0xFFFF);
+    using CWnd::Create;
+};
+
+class AFX_API CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+public:
+    CButton();
+    ~CButton() override;
+    virtual BOOL Create(LPCSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
+    void SetCheck(int nCheck) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
+};
+
+class AFX_API CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+public:
+    CEdit();
+    ~CEdit() override;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+    void SetSel(int nStartChar, int nEndChar) {
+        SendMessage(EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
+    }
+    void LimitText(int nChars = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
+};
+
+// What the two controls with items have in common in their names: results are LB_ERR or CB_ERR (-1) on
+// failure.
+class AFX_API CListBox : public CWnd {
+    DECLARE_DYNAMIC(CListBox)
+public:
+    CListBox();
+    ~CListBox() override;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    int GetCount() const { return Send(LB_GETCOUNT); }
+    int GetCurSel() const { return Send(LB_GETCURSEL); }
+    int SetCurSel(int nSelect) { return Send(LB_SETCURSEL, nSelect); }
+    int GetTopIndex() const { return Send(LB_GETTOPINDEX); }
+    int AddString(LPCSTR lpszItem) { return Send(LB_ADDSTRING, 0, lpszItem); }
+    int InsertString(int nIndex, LPCSTR lpszItem) { return Send(LB_INSERTSTRING, nIndex, lpszItem); }
+    int DeleteString(UINT nIndex) { return Send(LB_DELETESTRING, static_cast<int>(nIndex)); }
+    void ResetContent() { Send(LB_RESETCONTENT); }
+    int FindString(int nStartAfter, LPCSTR lpszItem) const {
+        return Send(LB_FINDSTRING, nStartAfter, lpszItem);
+    }
+    int FindStringExact(int nStartAfter, LPCSTR lpszFind) const {
+        return Send(LB_FINDSTRINGEXACT, nStartAfter, lpszFind);
+    }
+    int GetTextLen(int nIndex) const { return Send(LB_GETTEXTLEN, nIndex); }
+    int GetText(int nIndex, LPSTR lpszBuffer) const { return Send(LB_GETTEXT, nIndex, lpszBuffer); }
+    // An index out of range leaves rString empty.
+    void GetText(int nIndex, CString& rString) const;
+    DWORD_PTR GetItemData(int nIndex) const {
+        return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
+    }
+    int SetItemData(int nIndex, DWORD_PTR dwItemData) {
+        return static_cast<int>(
+            SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(nIndex), static_cast<LPARAM>(dwItemData)));
+    }
+    int GetItemRect(int nIndex, LPRECT lpRect) const { return Send(LB_GETITEMRECT, nIndex, lpRect); }
+
+    // Owner drawing. A list that is made owner-draw overrides them; the base has nothing to draw.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+    virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    int Send(UINT message, int nIndex = 0, const void* pData = nullptr) const {
+        return static_cast<int>(
+            SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
+    }
+};
+
+class AFX_API CComboBox : public CWnd {
+    DECLARE_DYNAMIC(CComboBox)
+public:
+    CComboBox();
+    ~CComboBox() override;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    using CWnd::Create;
+
+    int GetCount() const { return Send(CB_GETCOUNT); }
+    int GetCurSel() const { return Send(CB_GETCURSEL); }
+    int SetCurSel(int nSelect) { return Send(CB_SETCURSEL, nSelect); }
+    int AddString(LPCSTR lpszString) { return Send(CB_ADDSTRING, 0, lpszString); }
+    int InsertString(int nIndex, LPCSTR lpszString) { return Send(CB_INSERTSTRING, nIndex, lpszString); }
+    int DeleteString(UINT nIndex) { return Send(CB_DELETESTRING, static_cast<int>(nIndex)); }
+    void ResetContent() { Send(CB_RESETCONTENT); }
+    int FindString(int nStartAfter, LPCSTR lpszString) const {
+        return Send(CB_FINDSTRING, nStartAfter, lpszString);
+    }
+    int FindStringExact(int nIndexStart, LPCSTR lpszFind) const {
+        return Send(CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
+    }
+    int GetLBTextLen(int nIndex) const { return Send(CB_GETLBTEXTLEN, nIndex); }
+    int GetLBText(int nIndex, LPSTR lpszText) const { return Send(CB_GETLBTEXT, nIndex, lpszText); }
+    // An index out of range leaves rString empty.
+    void GetLBText(int nIndex, CString& rString) const;
+    BOOL GetDroppedState() const { return Send(CB_GETDROPPEDSTATE); }
+    void ShowDropDown(BOOL bShowIt = TRUE) { Send(CB_SHOWDROPDOWN, bShowIt); }
+    void LimitText(int nMaxChars) { Send(CB_LIMITTEXT, nMaxChars); }
+
+    // Owner drawing, as with CListBox. Item -1 is the closed combo's field without a selection.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+    virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    int Send(UINT message, int nIndex = 0, const void* pData = nullptr) const {
+        return static_cast<int>(
+            SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
+    }
+};
