@@ -1,0 +1,298 @@
+// Pictures drawn on a canvas: where they come to lie, what they leave behind, and that hostile ones do
+// nothing.
+
+#include "orlo/summary/thumbnail.h"
+
+#include <cstring>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "canvas.h"
+#include "picture_bytes.h"
+
+namespace {
+
+constexpr uint32_t kBlue = 0x00FF0000; // as a COLORREF
+
+ByteVector BlueDib(int width, int height) {
+    DibBytes dib;
+    dib.width = width;
+    dib.height = height;
+    dib.bitsPerPixel = 8;
+    dib.coloursUsed = 2;
+    dib.table = {0x00FF0000, 0x000000FF}; // red, blue
+    return dib.Fill(1).Build();
+}
+
+ByteVector BluePicture(int16_t width, int16_t height) {
+    return MetaFileBytes(width, height).FilledRectangle(kBlue, 0, 0, width, height).Build();
+}
+
+int DrawDib(const ByteVector& dib, HDC dc, const RECT* rect, int keep) {
+    return DrawDIB(reinterpret_cast<const BITMAPINFOHEADER*>(dib.data()), dc, rect, keep);
+}
+
+int DrawMeta(const ByteVector& picture, HDC dc, const RECT* rect, int keep) {
+    return DrawMetaFilePict(picture.data(), dc, rect, keep);
+}
+
+struct Fit {
+    const char* name;
+    int width, height; // of the picture
+    RECT target;
+    int keepAspect;
+    RECT covered;
+};
+
+const Fit kFits[] = {
+    {"Wide", 200, 100, {0, 0, 100, 100}, 1, {0, 25, 100, 75}},
+    {"Tall", 100, 200, {0, 0, 100, 100}, 1, {25, 0, 75, 100}},
+    {"Square", 100, 100, {0, 0, 100, 100}, 1, {0, 0, 100, 100}},
+    {"Truncated", 3, 1, {0, 0, 10, 10}, 1, {0, 3, 10, 6}},
+    {"Filling", 200, 100, {0, 0, 100, 100}, 0, {0, 0, 100, 100}},
+    {"AwayFromTheCorner", 10, 20, {30, 40, 70, 80}, 1, {40, 40, 60, 80}},
+};
+
+class Fitting : public testing::TestWithParam<Fit> {
+protected:
+    void Check(int drawn) {
+        EXPECT_NE(drawn, 0);
+        const auto covered = canvas_.Covered();
+        ASSERT_TRUE(covered);
+        EXPECT_TRUE(*covered == GetParam().covered)
+            << covered->left << " " << covered->top << " " << covered->right << " " << covered->bottom;
+        EXPECT_EQ(canvas_.Pixel(covered->left, covered->top), kBlue);
+    }
+    Canvas canvas_{100, 100};
+};
+
+TEST_P(Fitting, OfABitmap) {
+    const Fit& fit = GetParam();
+    Check(DrawDib(BlueDib(fit.width, fit.height), canvas_.dc(), &fit.target, fit.keepAspect));
+}
+
+TEST_P(Fitting, OfAMetafilePicture) {
+    const Fit& fit = GetParam();
+    const auto width = static_cast<int16_t>(fit.width), height = static_cast<int16_t>(fit.height);
+    EXPECT_EQ(DrawMeta(BluePicture(width, height), canvas_.dc(), &fit.target, fit.keepAspect), 1);
+    Check(1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Proportions, Fitting, testing::ValuesIn(kFits),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// Extents whose product leaves 32 bits.
+TEST(Fitting, OfHugeExtents) {
+    Canvas canvas(100, 100);
+    const RECT whole = canvas.Whole();
+    EXPECT_EQ(DrawMeta(BluePicture(32767, 32000), canvas.dc(), &whole, 1), 1);
+    EXPECT_EQ(canvas.Covered()->right, 100);
+    EXPECT_EQ(canvas.Covered()->bottom, 98);
+}
+
+class Thumbnail : public testing::Test {
+protected:
+    void ExpectNothingDrawn() { EXPECT_FALSE(canvas_.Covered()); }
+    Canvas canvas_{60, 60};
+    RECT whole_ = canvas_.Whole();
+};
+
+TEST_F(Thumbnail, EmptyRectanglesDrawNothing) {
+    for (const RECT& rect : {RECT{5, 5, 5, 20}, RECT{5, 5, 20, 5}, RECT{20, 20, 5, 5}}) {
+        EXPECT_EQ(DrawDib(BlueDib(4, 4), canvas_.dc(), &rect, 1), 0);
+        EXPECT_EQ(DrawMeta(BluePicture(4, 4), canvas_.dc(), &rect, 1), 0);
+    }
+    ExpectNothingDrawn();
+}
+
+TEST_F(Thumbnail, NothingToDrawOrToDrawOn) {
+    EXPECT_EQ(DrawDIB(nullptr, canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawMetaFilePict(nullptr, canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawDib(BlueDib(4, 4), nullptr, &whole_, 1), 0);
+    EXPECT_EQ(DrawMeta(BluePicture(4, 4), nullptr, &whole_, 1), 0);
+    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.dc(), &whole_), 0);
+    ExpectNothingDrawn();
+}
+
+TEST_F(Thumbnail, ByFormatWithProportionsKept) {
+    const ByteVector dib = BlueDib(2, 1);
+    const ByteVector picture = BluePicture(2, 1);
+    const unsigned char formats[] = {3, 8, 14};
+    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.dc(), &whole_), 0);
+    const ThumbnailClip refused[] = {
+        {0, 0xFFFFFFFF, &formats[1], dib.data()},
+        {1, 0xFFFFFFFE, &formats[1], dib.data()},
+        {1, 0xFFFFFFFF, &formats[1], nullptr},
+        {1, 0xFFFFFFFF, &formats[2], dib.data()},
+    };
+    for (const ThumbnailClip& clip : refused)
+        EXPECT_EQ(DrawThumbnail(&clip, canvas_.dc(), &whole_), 0);
+    ExpectNothingDrawn();
+    const RECT middle = {0, 15, 60, 45};
+    const ThumbnailClip drawn[] = {{1, 0xFFFFFFFF, &formats[0], picture.data()},
+                                   {1, 0xFFFFFFFF, &formats[1], dib.data()}};
+    for (const ThumbnailClip& clip : drawn) {
+        canvas_.Clear();
+        EXPECT_NE(DrawThumbnail(&clip, canvas_.dc(), &whole_), 0);
+        EXPECT_TRUE(*canvas_.Covered() == middle);
+    }
+}
+
+TEST_F(Thumbnail, StoredValueIsLimitedByItsLength) {
+    ByteVector value;
+    AppendLong(value, 0xFFFFFFFF);
+    AppendLong(value, 8);
+    const ByteVector dib = BlueDib(10, 10);
+    value.insert(value.end(), dib.begin(), dib.end());
+    const auto size = static_cast<DWORD>(value.size());
+    EXPECT_EQ(DrawThumbnailValue(value.data(), size - 1, canvas_.dc(), &whole_), 0);
+    EXPECT_EQ(DrawThumbnailValue(value.data(), 7, canvas_.dc(), &whole_), 0);
+    ExpectNothingDrawn();
+    EXPECT_NE(DrawThumbnailValue(value.data(), size, canvas_.dc(), &whole_), 0);
+    EXPECT_TRUE(*canvas_.Covered() == whole_);
+}
+
+TEST_F(Thumbnail, TopDownBitmapsAreRefused) {
+    EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.dc(), &whole_, 1), 0);
+    ExpectNothingDrawn();
+}
+
+TEST_F(Thumbnail, BitmapsOfEveryDepthDraw) {
+    for (const uint16_t bits : {1, 4, 8, 16, 24, 32}) {
+        DibBytes dib;
+        dib.width = 5;
+        dib.height = 3;
+        dib.bitsPerPixel = bits;
+        if (bits <= 8) dib.table.assign(size_t{1} << bits, 0x000000FF);
+        if (bits > 8) dib.Fill(0);
+        canvas_.Clear();
+        EXPECT_NE(DrawDib(dib.Fill(0).Build(), canvas_.dc(), &whole_, 0), 0) << bits;
+        EXPECT_EQ(canvas_.Pixel(30, 30), bits <= 8 ? kBlue : 0u) << bits;
+    }
+}
+
+TEST_F(Thumbnail, RunLengthAndMasksDraw) {
+    DibBytes dib;
+    dib.width = 4;
+    dib.height = 1;
+    dib.bitsPerPixel = 8;
+    dib.compression = BI_RLE8;
+    dib.table.assign(256, 0x000000FF);
+    dib.pixels = {4, 1, 0, 1};
+    dib.imageBytes = 4;
+    EXPECT_NE(DrawDib(dib.Build(), canvas_.dc(), &whole_, 0), 0);
+    EXPECT_EQ(canvas_.Pixel(30, 30), kBlue);
+    DibBytes masked;
+    masked.width = 4;
+    masked.height = 1;
+    masked.bitsPerPixel = 16;
+    masked.compression = BI_BITFIELDS;
+    masked.table = {0xF800, 0x07E0, 0x001F};
+    for (int i = 0; i < 4; ++i)
+        AppendWord(masked.pixels, 0xF800);
+    EXPECT_NE(DrawDib(masked.Build(), canvas_.dc(), &whole_, 0), 0);
+    EXPECT_EQ(canvas_.Pixel(30, 30), RGB(255, 0, 0));
+}
+
+// The DC's own objects, mapping and clipping are those from before, even if the metafile saves without
+// restoring.
+TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
+    ::SetMapMode(canvas_.dc(), MM_ANISOTROPIC);
+    ::SetViewportOrgEx(canvas_.dc(), 7, 8, nullptr);
+    const HGDIOBJ brush = ::GetCurrentObject(canvas_.dc(), OBJ_BRUSH);
+    const HGDIOBJ pen = ::GetCurrentObject(canvas_.dc(), OBJ_PEN);
+    const ByteVector picture = MetaFileBytes(50, 50)
+                                   .Record(0x001E, {})
+                                   .Record(0x001E, {})
+                                   .FilledRectangle(kBlue, 0, 0, 50, 50)
+                                   .Build();
+    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 1);
+    POINT origin;
+    ::GetViewportOrgEx(canvas_.dc(), &origin);
+    EXPECT_EQ(origin.x, 7);
+    EXPECT_EQ(origin.y, 8);
+    EXPECT_EQ(::GetMapMode(canvas_.dc()), MM_ANISOTROPIC);
+    EXPECT_EQ(::GetCurrentObject(canvas_.dc(), OBJ_BRUSH), brush);
+    EXPECT_EQ(::GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
+    EXPECT_EQ(::SaveDC(canvas_.dc()), 1) << "states were left on the stack";
+}
+
+TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
+    const RECT target = {20, 20, 40, 40};
+    const ByteVector picture = MetaFileBytes(50, 50)
+                                   .Record(0x020E, {60, 60}) // a viewport of its own
+                                   .Record(0x020D, {0, 0})   // at the corner of the device
+                                   .Record(0x012C, {3})      // clip region of an empty slot: none
+                                   .FilledRectangle(kBlue, -500, -500, 1000, 1000)
+                                   .Build();
+    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &target, 1), 1);
+    EXPECT_TRUE(*canvas_.Covered() == target);
+}
+
+TEST_F(Thumbnail, RecordsForOtherDevicesArePassedOver) {
+    const ByteVector picture = MetaFileBytes(50, 50)
+                                   .Record(0x0626, {9, 4, 0x1234, 0x5678}) // an escape with an address
+                                   .Record(0x0626, {12, 0})                // asks a printer for its page
+                                   .Record(0x0035, {})                     // realizes a palette
+                                   .Record(0x0922, {0, 0, 0, 0, 9, 9, 0, 0, 0, 99, 99, 0, 1, 1})
+                                   .FilledRectangle(kBlue, 0, 0, 50, 50)
+                                   .Build();
+    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 1);
+    EXPECT_TRUE(*canvas_.Covered() == whole_);
+}
+
+TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
+    const ByteVector picture =
+        MetaFileBytes(50, 50).FilledRectangle(kBlue, 0, 0, 50, 50).Record(0x0324, {999, 0, 0}).Build();
+    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 0);
+    ExpectNothingDrawn();
+}
+
+// A picture at the very end of readable memory, announced longer than it is.
+TEST_F(Thumbnail, PicturesWithoutLengthEndWhereMemoryEnds) {
+    constexpr size_t kPage = 4096;
+    auto* pages = static_cast<uint8_t*>(::VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS));
+    ::VirtualAlloc(pages, kPage, MEM_COMMIT, PAGE_READWRITE);
+    const auto atTheEnd = [&](const ByteVector& bytes, size_t missing) {
+        uint8_t* at = pages + kPage - (bytes.size() - missing);
+        std::memcpy(at, bytes.data(), bytes.size() - missing);
+        return at;
+    };
+    const ByteVector dib = BlueDib(20, 20), picture = BluePicture(20, 20);
+    for (const size_t missing : {size_t{1}, dib.size() - 40, dib.size() - 20, dib.size() - 1})
+        EXPECT_EQ(
+            DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, missing)), canvas_.dc(), &whole_, 1),
+            0);
+    for (const size_t missing : {size_t{2}, picture.size() - 10, picture.size() - 1})
+        EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, missing), canvas_.dc(), &whole_, 1), 0);
+    ExpectNothingDrawn();
+    EXPECT_NE(DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, 0)), canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, 0), canvas_.dc(), &whole_, 1), 1);
+    ::VirtualFree(pages, 0, MEM_RELEASE);
+}
+
+TEST_F(Thumbnail, BitmapFromAPicture) {
+    const SIZE size = {40, 40};
+    EXPECT_EQ(CreateBitmapFromMetaFilePict(nullptr, &size), nullptr);
+    const struct {
+        ByteVector picture;
+        COLORREF middle;
+    } rows[] = {{BluePicture(40, 20), kBlue}, {BluePicture(0, 20), RGB(255, 255, 255)}};
+    for (const auto& row : rows) {
+        const HBITMAP bitmap = CreateBitmapFromMetaFilePict(row.picture.data(), &size);
+        ASSERT_NE(bitmap, nullptr);
+        BITMAP shape;
+        ::GetObjectA(bitmap, sizeof shape, &shape);
+        EXPECT_EQ(shape.bmWidth, 40);
+        EXPECT_EQ(shape.bmHeight, 40);
+        const HDC memory = ::CreateCompatibleDC(nullptr);
+        const HGDIOBJ before = ::SelectObject(memory, bitmap);
+        EXPECT_EQ(::GetPixel(memory, 20, 20), row.middle);
+        EXPECT_EQ(::GetPixel(memory, 20, 2), RGB(255, 255, 255)) << "above the picture";
+        ::SelectObject(memory, before);
+        ::DeleteDC(memory);
+        EXPECT_TRUE(::DeleteObject(bitmap));
+    }
+}
+
+} // namespace
