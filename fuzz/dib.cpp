@@ -1,0 +1,19 @@
+// Bitmap headers: whatever passes has all its parts inside the block.
+
+#include <cstdint>
+
+#include "orlo/summary/dib_layout.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    for (const orlo::DibColours colours : {orlo::DibColours::Rgb, orlo::DibColours::PaletteIndices}) {
+        const auto layout = orlo::ReadDibLayout(data, size, colours);
+        if (!layout) continue;
+        if (layout->width <= 0 || layout->height <= 0) __builtin_trap();
+        if (layout->headerSize > layout->pixelOffset || layout->pixelOffset > size) __builtin_trap();
+        if (layout->pixelBytes > size - layout->pixelOffset) __builtin_trap();
+    }
+    // A thumbnail's value has tag and format before the picture.
+    constexpr size_t kHead = 8;
+    if (size > kHead) orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColours::Rgb, 3);
+    return 0;
+}

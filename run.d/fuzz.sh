@@ -1,0 +1,24 @@
+# Fuzzes the readers of foreign data: each for the given number of seconds (60), all processors in turn.
+
+seconds=${1:-60}
+source run.d/setup.sh
+say "building the fuzzers"
+cmake --preset sanitize >build/configure-sanitize.log 2>&1 || { cat build/configure-sanitize.log; exit 1; }
+cmake --build build/sanitize --target fuzzers
+
+failed=0
+while read -r name seeds; do
+    found=build/fuzz/$name   # what the fuzzer learned, from one run to the next
+    mkdir -p "$found"
+    say "fuzzing $name for $seconds s"
+    # shellcheck disable=SC2086 # the seeds are words
+    if build/sanitize/fuzz/fuzz_"$name" -max_total_time="$seconds" -rss_limit_mb=1024 -timeout=10 -print_final_stats=1 \
+        -artifact_prefix="$found-" "$found" $seeds >"$found.log" 2>&1; then
+        grep -E '^stat::(number_of_executed_units|peak_rss_mb)' "$found.log" | sed "s/^stat::/$name /"
+    else
+        tail -n 40 "$found.log"
+        say "$name found something: keep the input in fuzz/regressions/$name"
+        failed=1
+    fi
+done <build/sanitize/fuzz/fuzzers.txt
+exit $failed
