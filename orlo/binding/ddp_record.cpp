@@ -1,0 +1,55 @@
+// CDDPRecord and its map.
+
+#include "orlo/binding/ddp_record.h"
+
+namespace {
+
+WORD KeyOf(const void* member) { return LOWORD(reinterpret_cast<UINT_PTR>(member)); }
+
+} // namespace
+
+CDDPRecord::CDDPRecord(DDPEnd pfnEnd, int nID, void* pMember, const char* pszPropName)
+    : m_pfnEnd(pfnEnd), m_nID(nID), m_pMember(pMember), m_pszPropName(pszPropName), m_pNext(nullptr) {}
+
+CDDPRecord::~CDDPRecord() {
+    for (CDDPRecord* next = m_pNext; next != nullptr;) {
+        CDDPRecord* record = next;
+        next = record->m_pNext;
+        record->m_pNext = nullptr;
+        delete record;
+    }
+}
+
+void LayRecord(CMapWordToOb& records, CDDPRecord* record) {
+    const WORD key = KeyOf(record->m_pMember);
+    CObject* head = nullptr;
+    records.Lookup(key, head);
+    for (auto* other = static_cast<CDDPRecord*>(head); other != nullptr; other = other->m_pNext) {
+        if (other->m_pMember != record->m_pMember) continue;
+        other->m_pfnEnd = record->m_pfnEnd;
+        other->m_nID = record->m_nID;
+        other->m_pszPropName = record->m_pszPropName;
+        delete record;
+        return;
+    }
+    record->m_pNext = static_cast<CDDPRecord*>(head);
+    records.SetAt(key, record);
+}
+
+CDDPRecord* TakeRecords(CMapWordToOb& records) {
+    CDDPRecord* chain = nullptr;
+    for (POSITION position = records.GetStartPosition(); position != nullptr;) {
+        WORD key;
+        CObject* head;
+        records.GetNextAssoc(position, key, head);
+        auto* record = static_cast<CDDPRecord*>(head);
+        while (record != nullptr) {
+            CDDPRecord* next = record->m_pNext;
+            record->m_pNext = chain;
+            chain = record;
+            record = next;
+        }
+    }
+    records.RemoveAll();
+    return chain;
+}

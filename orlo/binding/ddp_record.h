@@ -1,0 +1,26 @@
+// One pending write of a page. The map that holds it has 16-bit keys made from the member's address: members that share a
+// key are chained.
+#pragma once
+
+#include <afxcoll.h>
+#include <afxwin.h>
+
+using DDPEnd = void (*)(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName);
+
+class CDDPRecord : public CObject {
+public:
+    CDDPRecord(DDPEnd pfnEnd, int nID, void* pMember, const char* pszPropName);
+    ~CDDPRecord() override;
+
+    DDPEnd m_pfnEnd;
+    int m_nID;
+    void* m_pMember;         // read when the record is carried out
+    const char* m_pszPropName; // not copied
+    CDDPRecord* m_pNext;     // the next record of the same key, owned
+};
+
+// Lays a record; one of the same member takes the place of an earlier one.
+void LayRecord(CMapWordToOb& records, CDDPRecord* record);
+
+// Takes every record out of the map and gives the chain of them to the caller.
+CDDPRecord* TakeRecords(CMapWordToOb& records);

@@ -1,0 +1,127 @@
+// Measuring of a dialog template.
+
+#include "orlo/frame/dialog_measure.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr int kPointsPerInch = 72;
+constexpr WORD kOrdinal = 0xFFFF; // instead of a name: one number follows
+constexpr size_t kFaceSize = 128;
+
+struct DialogFont {
+    char face[kFaceSize] = "System";
+    int points = 8;
+};
+
+struct DialogTemplate {
+    DialogFont font;
+    int width = 250; // dialog units
+    int height = 62;
+};
+
+// Words of a locked resource. Nobody tells its size, but what lies behind it in its mapping cannot be part of it.
+class TemplateWords {
+public:
+    explicit TemplateWords(const void* start) : m_next(static_cast<const char*>(start)), m_left(0) {
+        MEMORY_BASIC_INFORMATION region;
+        if (::VirtualQuery(start, &region, sizeof region) == 0) return;
+        m_left = static_cast<const char*>(region.BaseAddress) + region.RegionSize - m_next;
+    }
+
+    bool Read(WORD& word) {
+        if (m_left < sizeof word) return false;
+        std::memcpy(&word, m_next, sizeof word);
+        m_next += sizeof word;
+        m_left -= sizeof word;
+        return true;
+    }
+
+    bool SkipBytes(size_t count) {
+        if (m_left < count) return false;
+        m_next += count;
+        m_left -= count;
+        return true;
+    }
+
+    // A NUL-terminated text of words; the first `size` of them go to `text` if it is not null.
+    bool ReadText(wchar_t* text, size_t size) {
+        WORD word;
+        for (size_t i = 0; Read(word); ++i) {
+            if (text != nullptr && i < size) text[i] = word;
+            if (word == 0) return true;
+        }
+        return false;
+    }
+
+    bool SkipNameOrOrdinal() {
+        WORD first;
+        if (!Read(first)) return false;
+        if (first == kOrdinal) return SkipBytes(sizeof first);
+        return first == 0 || ReadText(nullptr, 0);
+    }
+
+private:
+    const char* m_next;
+    size_t m_left;
+};
+
+bool ReadFont(TemplateWords& words, DialogFont& font) {
+    WORD points;
+    wchar_t face[kFaceSize] = {};
+    if (!words.Read(points) || !words.ReadText(face, kFaceSize - 1)) return false;
+    font.points = points;
+    ::WideCharToMultiByte(CP_ACP, 0, face, -1, font.face, sizeof font.face, " ", nullptr);
+    font.face[sizeof font.face - 1] = '\0';
+    return true;
+}
+
+DialogTemplate ReadTemplate(const void* resource) {
+    DialogTemplate result;
+    TemplateWords words(resource);
+    WORD styleLow, width, height;
+    const size_t behindStyle = 14 - sizeof styleLow; // extended style, item count and position are of no use here
+    if (!words.Read(styleLow) || !words.SkipBytes(behindStyle) || !words.Read(width) || !words.Read(height)) return result;
+    result.width = width;
+    result.height = height;
+    const bool named = words.SkipNameOrOrdinal() && words.SkipNameOrOrdinal() && words.ReadText(nullptr, 0);
+    if (named && (styleLow & DS_SETFONT)) ReadFont(words, result.font);
+    return result;
+}
+
+// The dialog base units of a font: its height, and its average width.
+CSize BaseUnits(const DialogFont& font) {
+    CClientDC screen(nullptr);
+    LOGFONTA description = {};
+    description.lfHeight = -::MulDiv(font.points, ::GetDeviceCaps(screen.m_hDC, LOGPIXELSY), kPointsPerInch);
+    description.lfWeight = FW_BOLD;
+    description.lfCharSet = DEFAULT_CHARSET;
+    lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
+    CFont made;
+    if (!made.CreateFontIndirect(&description)) {
+        const LONG units = ::GetDialogBaseUnits();
+        return CSize(LOWORD(units), HIWORD(units));
+    }
+    CFont* before = screen.SelectObject(&made);
+    TEXTMETRICA metrics;
+    ::GetTextMetricsA(screen.m_hDC, &metrics);
+    int width = metrics.tmAveCharWidth;
+    if (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) { // the bit means the opposite of its name
+        static const char letters[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+        SIZE extent;
+        ::GetTextExtentPointA(screen.m_hDC, letters, static_cast<int>(std::strlen(letters)), &extent);
+        width = (extent.cx / 26 + 1) / 2;
+    }
+    screen.SelectObject(before);
+    return CSize(width, metrics.tmHeight);
+}
+
+} // namespace
+
+CSize MeasureDialog(void* hDialog) {
+    const void* resource = hDialog != nullptr ? ::LockResource(hDialog) : nullptr;
+    const DialogTemplate dialog = resource != nullptr ? ReadTemplate(resource) : DialogTemplate();
+    const CSize base = BaseUnits(dialog.font);
+    return CSize(::MulDiv(dialog.width, base.cx, 4), ::MulDiv(dialog.height, base.cy, 8));
+}

@@ -1,0 +1,84 @@
+// CGraphicPreview.
+
+#include "orlo/frame/graphic_preview.h"
+
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/application.h"
+#include "orlo/host/table.h"
+
+IMPLEMENT_DYNAMIC(CGraphicPreview, CWnd)
+
+BEGIN_MESSAGE_MAP(CGraphicPreview, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kPaletteBackground = PALETTEINDEX(1);
+constexpr int kInset = 4; // pixels between the pane's edge and the drawing
+
+COLORREF PreviewBackground(const AppStruct* application) {
+    int color = 0;
+    if (application != nullptr) ::TableGetIntVar(application->pVariables, kVarPreviewBackground, &color);
+    return static_cast<COLORREF>(color);
+}
+
+// The application's palette, in the device for as long as this lives.
+class RealizedPalette {
+public:
+    RealizedPalette(HDC dc, HPALETTE palette) : m_dc(dc), m_before(::SelectPalette(dc, palette, FALSE)) {
+        ::RealizePalette(dc);
+    }
+    ~RealizedPalette() {
+        if (m_before == nullptr) return;
+        ::SelectPalette(m_dc, m_before, TRUE);
+        ::RealizePalette(m_dc);
+    }
+    RealizedPalette(const RealizedPalette&) = delete;
+    RealizedPalette& operator=(const RealizedPalette&) = delete;
+
+private:
+    HDC m_dc;
+    HPALETTE m_before;
+};
+
+void FillWith(HDC dc, const CRect& rect, COLORREF color) {
+    CBrush brush(color);
+    ::FillRect(dc, &rect, static_cast<HBRUSH>(brush.m_hObject));
+}
+
+void FillBackground(HDC dc, const CRect& rect) {
+    const AppStruct* application = ::AppGetCurrentApp();
+    if (application != nullptr && ::IsPaletteSupported(dc)) {
+        const RealizedPalette palette(dc, application->hPalette);
+        FillWith(dc, rect, kPaletteBackground);
+    } else {
+        FillWith(dc, rect, PreviewBackground(application));
+    }
+}
+
+} // namespace
+
+CGraphicPreview::CGraphicPreview() : m_pViewport(::ViewportNewEx()) {}
+
+CGraphicPreview::~CGraphicPreview() {
+    if (m_pViewport != nullptr) ::ViewportDispose(&m_pViewport);
+}
+
+int CGraphicPreview::Create(const RECT& rect, CWnd* pParentWnd, unsigned int nID) {
+    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_BORDER, rect, pParentWnd, nID);
+}
+
+void CGraphicPreview::OnPaint() {
+    CPaintDC dc(this);
+    CRect rect;
+    ::GetClientRect(m_hWnd, &rect);
+    dc.FillSolidRect(&rect, kWhite);
+    if (m_pViewport == nullptr) return;
+    FillBackground(dc.m_hDC, rect);
+    rect.InflateRect(-kInset, -kInset);
+    CWnd* parent = GetParent();
+    if (parent != nullptr && parent->IsKindOf(RUNTIME_CLASS(CGraphicPropertySheet)))
+        static_cast<CGraphicPropertySheet*>(parent)->DrawPreview(&dc, m_pViewport, rect);
+}

@@ -1,0 +1,28 @@
+// The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code, on the
+// application's background.
+#pragma once
+
+#include <afxwin.h>
+
+#include "orlo/export.h"
+#include "orlo/host/viewport.h"
+
+class CGraphicPreview : public CWnd {
+public:
+    ORLO_API static CRuntimeClass classCGraphicPreview;
+    CRuntimeClass* GetRuntimeClass() const override;
+
+    CGraphicPreview();
+    ~CGraphicPreview() override;
+
+    int Create(const RECT& rect, CWnd* pParentWnd, unsigned int nID);
+
+protected:
+    void OnPaint();
+
+    ORLO_API static const AFX_MSGMAP messageMap;
+    const AFX_MSGMAP* GetMessageMap() const override;
+
+private:
+    ViewportStruct* m_pViewport; // set anew in every paint; null: the pane stays white
+};

@@ -1,0 +1,231 @@
+// CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family stands in
+// orlo/binding/property_access.cpp.
+
+#include "orlo/frame/graphic_property_page.h"
+
+#include "orlo/binding/ddp_record.h"
+#include "orlo/frame/control_notifications.h"
+#include "orlo/frame/dialog_measure.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/regen.h"
+#include "orlo/host/viewport.h"
+
+IMPLEMENT_DYNAMIC(CGraphicPropertyPage, COrloPropertyPage)
+
+namespace {
+
+constexpr int kPendingWritesBlock = 10;
+constexpr unsigned int kRefreshCommand = 0xFFFF;
+
+} // namespace
+
+CGraphicPropertyPage::CGraphicPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
+    : COrloPropertyPage(nIDTemplate, nIDCaption), m_pPreviewGraphic(nullptr), m_mapDDP(kPendingWritesBlock),
+      m_nIDTemplate(nIDTemplate), m_nIDCaption(nIDCaption), m_dwHelpContext(0), m_bRefreshPending(0),
+      m_bInitializing(1), m_nControls(0), m_pStatus(nullptr), m_hDialog(nullptr) {
+    m_lpszTemplateName = MAKEINTRESOURCEA(LOWORD(nIDTemplate));
+}
+
+CGraphicPropertyPage::~CGraphicPropertyPage() {
+    if (m_pPreviewGraphic != nullptr) {
+        GraphicStruct* owner = (m_pPreviewGraphic->dwFlags & kFlagNoParent) ? nullptr : m_pPreviewGraphic->pParent;
+        if (owner != nullptr) ::GraphicDelete(owner, m_pPreviewGraphic);
+        ::GraphicDispose(&m_pPreviewGraphic);
+    }
+    DiscardPendingWrites();
+    if (m_hDialog != nullptr) ::FreeResource(m_hDialog);
+    delete[] m_pStatus;
+}
+
+CGraphicPropertySheet* CGraphicPropertyPage::GetSheet() const {
+    CWnd* parent = GetParent();
+    if (parent == nullptr || !parent->IsKindOf(RUNTIME_CLASS(CGraphicPropertySheet))) return nullptr;
+    return static_cast<CGraphicPropertySheet*>(parent);
+}
+
+GraphicStruct* CGraphicPropertyPage::GetPreviewGraphic() const { return m_pPreviewGraphic; }
+
+unsigned int CGraphicPropertyPage::GetTemplateNumber() const { return m_nIDTemplate; }
+
+CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
+
+BOOL CGraphicPropertyPage::OnInitDialog() {
+    m_bInitializing = 1;
+    const BOOL result = COrloPropertyPage::OnInitDialog();
+    AddPreviewGraphic();
+    m_bInitializing = 0;
+    m_bChanged = FALSE;
+    return result;
+}
+
+// Writes in preview mode reach all graphics of the group: every open page brings its values into the new one.
+void CGraphicPropertyPage::AddPreviewGraphic() {
+    CGraphicPropertySheet* sheet = GetSheet();
+    if (m_pPreviewGraphic != nullptr || sheet == nullptr || sheet->GetPreviewGroup() == nullptr) return;
+    auto* graphic = static_cast<GraphicStruct*>(CreatePreviewGraphic());
+    if (graphic == nullptr) return;
+    m_pPreviewGraphic = ::GraphicAdd(sheet->GetPreviewGroup(), graphic);
+    m_pPreviewGraphic->dwFlags |= kFlagPreview;
+    for (int i = 0; i < sheet->GetPageCount(); ++i) {
+        CPropertyPage* page = sheet->GetPage(i);
+        if (page->m_hWnd != nullptr && page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
+            static_cast<CGraphicPropertyPage*>(page)->SetPreviewProperties(1);
+    }
+}
+
+BOOL CGraphicPropertyPage::OnSetActive() {
+    if (!COrloPropertyPage::OnSetActive()) return FALSE;
+    BuildStatusTable();
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(0);
+    return TRUE;
+}
+
+BOOL CGraphicPropertyPage::OnKillActive() {
+    DiscardPendingWrites();
+    return COrloPropertyPage::OnKillActive();
+}
+
+namespace {
+
+BOOL CALLBACK CountChild(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+struct StatusRows {
+    ControlStatus* next;
+    ControlStatus* end;
+};
+
+BOOL CALLBACK AddRow(HWND child, LPARAM parameter) {
+    auto* rows = reinterpret_cast<StatusRows*>(parameter);
+    if (rows->next == rows->end) return FALSE;
+    *rows->next++ = {static_cast<unsigned int>(::GetDlgCtrlID(child)), 0};
+    return TRUE;
+}
+
+} // namespace
+
+void CGraphicPropertyPage::BuildStatusTable() {
+    delete[] m_pStatus;
+    m_pStatus = nullptr;
+    m_nControls = 0;
+    int count = 0;
+    ::EnumChildWindows(m_hWnd, CountChild, reinterpret_cast<LPARAM>(&count));
+    if (count == 0) return;
+    m_pStatus = new ControlStatus[count];
+    StatusRows rows = {m_pStatus, m_pStatus + count};
+    ::EnumChildWindows(m_hWnd, AddRow, reinterpret_cast<LPARAM>(&rows));
+    m_nControls = static_cast<int>(rows.next - m_pStatus);
+}
+
+ControlStatus* CGraphicPropertyPage::FindStatus(unsigned int nID) const {
+    for (int i = 0; i < m_nControls; ++i)
+        if (m_pStatus[i].nID == nID) return &m_pStatus[i];
+    return nullptr;
+}
+
+int CGraphicPropertyPage::GetControlStatus(unsigned int nID) {
+    const ControlStatus* status = FindStatus(nID);
+    return status == nullptr || status->bDirty;
+}
+
+int CGraphicPropertyPage::SetControlStatus(unsigned int nID, int bDirty) {
+    ControlStatus* status = FindStatus(nID);
+    if (status == nullptr) return 0;
+    status->bDirty = bDirty;
+    return 1;
+}
+
+void CGraphicPropertyPage::IgnoreApply(unsigned int nID) { m_IDArray.Add(LOWORD(nID)); }
+
+bool CGraphicPropertyPage::IsIgnored(unsigned int nID) const {
+    for (int i = 0; i < static_cast<int>(m_IDArray.GetSize()); ++i)
+        if (m_IDArray.GetAt(i) == nID) return true;
+    return false;
+}
+
+BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const BOOL result = COrloPropertyPage::OnCommand(wParam, lParam);
+    if (m_bInitializing) return result;
+    const unsigned int id = LOWORD(wParam);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (control == nullptr) {
+        if (id == kRefreshCommand && m_bRefreshPending) {
+            UpdateData(FALSE);
+            m_bRefreshPending = 0;
+        }
+        return result;
+    }
+    if (IsIgnored(id)) return result;
+    if (const unsigned long flags = ChangeFlags(id, HIWORD(wParam), control)) {
+        SetModifiedFlag(1);
+        if (CGraphicPropertySheet* sheet = GetSheet()) sheet->OnStatusChange(flags);
+    }
+    return result;
+}
+
+// Marks the control if the notification changes it. The first change of a page never gives the bit of an edit's end.
+unsigned long CGraphicPropertyPage::ChangeFlags(unsigned int nID, unsigned int code, HWND control) {
+    const ControlNotification notification(control, code);
+    unsigned long flags = 0;
+    if (notification.IsChange()) {
+        nID = ChangedControlId(control, nID, notification.className);
+        SetControlStatus(nID, 1);
+        flags = 1;
+    }
+    if (m_bChanged && notification.IsEditEnd() && GetControlStatus(nID)) flags |= 2;
+    return flags;
+}
+
+void CGraphicPropertyPage::SetModifiedFlag(int bModified) {
+    SetModified(bModified);
+    if ((m_bChanged != FALSE) == (bModified != 0)) return;
+    m_bChanged = bModified;
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->OnStatusChange(bModified ? 1 : 0);
+}
+
+void CGraphicPropertyPage::DrawPreview(CDC* pDC, void* pViewport, CRect& rect) {
+    GraphicStruct* graphic = m_pPreviewGraphic;
+    CGraphicPropertySheet* sheet = GetSheet();
+    if (graphic == nullptr || sheet == nullptr) return;
+    auto* viewport = static_cast<ViewportStruct*>(pViewport);
+    ::GraphicSetDirty(graphic, 1);
+    ::GraphicSetExtentsDirty(graphic, 1);
+    ::ViewportSetRect(viewport, &rect);
+    if (graphic->wRegenMethod != 0) ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
+    ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
+    ::ViewportSetGDIStuff(viewport, nullptr, pDC->m_hDC, 1, 1);
+    ::ViewportSetDrawing(viewport, ::GraphicGetDrawing(graphic));
+    ::GraphicDrawEx2(graphic, nullptr, viewport, 1, 1);
+}
+
+void* CGraphicPropertyPage::CreatePreviewGraphic() { return nullptr; }
+void CGraphicPropertyPage::SetPreviewProperties(int) {}
+void CGraphicPropertyPage::OnObjectsChanged() {}
+int CGraphicPropertyPage::OnEditProperty(long) { return 0; }
+
+void CGraphicPropertyPage::OnFinalRelease() {
+    if (m_hWnd != nullptr) DestroyWindow();
+    delete this;
+}
+
+void CGraphicPropertyPage::SetPageName(const char* lpszPageName) { m_strPageName = lpszPageName; }
+
+void CGraphicPropertyPage::SetDialogResource(void* hDialog) {
+    if (m_hDialog != nullptr && m_hDialog != hDialog) ::FreeResource(m_hDialog);
+    m_hDialog = hDialog;
+    m_sizePage = MeasureDialog(hDialog);
+}
+
+void CGraphicPropertyPage::SetHelpInfo(const char* lpszDocString, const char* lpszHelpFile, unsigned long dwHelpContext) {
+    m_strDocString = lpszDocString;
+    m_strHelpFile = lpszHelpFile;
+    m_dwHelpContext = dwHelpContext;
+}
+
+int CGraphicPropertyPage::MessageBoxA(const char* lpszText, const char* lpszCaption, unsigned int nType) {
+    return ::MessageBoxA(nullptr, lpszText, lpszCaption ? lpszCaption : AfxGetAppName(), nType);
+}
+
+void CGraphicPropertyPage::DiscardPendingWrites() { delete TakeRecords(m_mapDDP); }

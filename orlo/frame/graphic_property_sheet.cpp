@@ -1,0 +1,121 @@
+// CGraphicPropertySheet: its life and its data. Layout and frame painting stand in sheet_layout.cpp.
+
+#include "orlo/frame/graphic_property_sheet.h"
+
+#include "orlo/frame/graphic_property_page.h"
+
+IMPLEMENT_DYNAMIC(CGraphicPropertySheet, COrloPropertySheet)
+
+BEGIN_MESSAGE_MAP(CGraphicPropertySheet, COrloPropertySheet)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_COMMAND(IDOK, OnOK)
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr unsigned int kPreviewId = 3999;
+constexpr int kApplyId = 0xEA00;
+
+} // namespace
+
+CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
+                                             void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
+                                             unsigned int iSelectPage)
+    : COrloPropertySheet(nIDCaption, pParentWnd, iSelectPage) {
+    m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};
+}
+
+// The pages go before the group: each takes its preview graphic out of it.
+CGraphicPropertySheet::~CGraphicPropertySheet() {
+    m_nCurPage = -1;
+    DeletePages();
+    if (m_pPreviewGroup != nullptr) ::GraphicDispose(&m_pPreviewGroup);
+    delete m_pSheetData;
+}
+
+DrawingStruct* CGraphicPropertySheet::GetDrawing() { return m_pSheetData ? m_pSheetData->pDrawing : nullptr; }
+
+unsigned long CGraphicPropertySheet::GetGraphicFlags() { return m_pSheetData ? m_pSheetData->dwGraphicFlags : 0; }
+
+void* CGraphicPropertySheet::GetGraphics() { return m_pSheetData ? m_pSheetData->pGraphics : nullptr; }
+
+void* CGraphicPropertySheet::GetRegenMethods() { return m_pSheetData ? m_pSheetData->pRegenMethods : nullptr; }
+
+GraphicStruct* CGraphicPropertySheet::GetPreviewGroup() { return m_pPreviewGroup; }
+
+GraphicStruct* CGraphicPropertySheet::GetPreviewGraphic() {
+    CGraphicPropertyPage* page = GetActiveGraphicPage();
+    return page ? page->GetPreviewGraphic() : nullptr;
+}
+
+CGraphicPropertyPage* CGraphicPropertySheet::GetActiveGraphicPage() {
+    CPropertyPage* page = GetActivePage();
+    if (page == nullptr || !page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage))) return nullptr;
+    return static_cast<CGraphicPropertyPage*>(page);
+}
+
+void CGraphicPropertySheet::UpdatePreview(int bNow) {
+    if (m_wndPreview.m_hWnd == nullptr) return;
+    ::InvalidateRect(m_wndPreview.m_hWnd, nullptr, TRUE);
+    if (bNow) ::UpdateWindow(m_wndPreview.m_hWnd);
+}
+
+void CGraphicPropertySheet::UpdateDesc(int) {}
+
+void CGraphicPropertySheet::DrawPreview(CDC* pDC, void* pViewport, CRect& rect) {
+    if (CGraphicPropertyPage* page = GetActiveGraphicPage()) page->DrawPreview(pDC, pViewport, rect);
+}
+
+int CGraphicPropertySheet::CreatePreviewRect() {
+    const CRect rect(0, 0, m_cxPreview, m_cyPreview);
+    if (!m_wndPreview.Create(rect, this, kPreviewId)) return 0;
+    m_wndPreview.SubclassCtl3d(2);
+    return 1;
+}
+
+void CGraphicPropertySheet::DeletePages() {
+    while (GetPageCount() > 0) {
+        CPropertyPage* page = GetPage(0);
+        RemovePage(0);
+        delete page;
+    }
+}
+
+int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
+    if (!CreatePreviewRect()) return -1;
+    if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    if (m_pPreviewGroup == nullptr) return -1;
+    ::GraphicAttach(m_pPreviewGroup, GetDrawing());
+    if (COrloPropertySheet::OnCreate(lpCreateStruct) == -1) return -1;
+    if (const HWND apply = ::GetDlgItem(m_hWnd, kApplyId)) ::DestroyWindow(apply);
+    RecalcLayout();
+    return 0;
+}
+
+void CGraphicPropertySheet::EndWithCode(int nEndCode) {
+    m_bEndWithCode = 1;
+    m_nEndCode = nEndCode;
+}
+
+// The flag is asked twice: leaving a control, which OnKillActive does first, may be what sets it.
+void CGraphicPropertySheet::OnOK() {
+    if (m_bEndWithCode) {
+        EndDialog(m_nEndCode);
+        return;
+    }
+    CPropertyPage* page = GetActivePage();
+    if (page != nullptr) {
+        if (!page->OnKillActive()) return;
+        page->OnOK();
+    }
+    if (m_bModeless) return;
+    EndDialog(m_bEndWithCode ? m_nEndCode : IDOK);
+}
+
+int CGraphicPropertySheet::OnStatusChange(unsigned long dwFlags) {
+    CGraphicPropertyPage* page = GetActiveGraphicPage();
+    if (page == nullptr || page->GetPreviewGraphic() == nullptr) return 0;
+    if (dwFlags & 1) page->SetPreviewProperties(0);
+    return 1;
+}

@@ -1,0 +1,47 @@
+// COrloPropertyPage.
+
+#include "orlo/frame/orlo_property_page.h"
+
+#include "orlo/controls/combo_control.h"
+
+IMPLEMENT_DYNAMIC(COrloPropertyPage, CPropertyPage)
+
+BEGIN_MESSAGE_MAP(COrloPropertyPage, CPropertyPage)
+    ON_WM_WINDOWPOSCHANGING()
+END_MESSAGE_MAP()
+
+COrloPropertyPage::COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
+    : CPropertyPage(nIDTemplate, nIDCaption) {}
+
+COrloPropertyPage::COrloPropertyPage(const char* lpszTemplateName, unsigned int nIDCaption)
+    : CPropertyPage(lpszTemplateName, nIDCaption) {}
+
+COrloPropertyPage::~COrloPropertyPage() = default;
+
+int COrloPropertyPage::IsModified() { return m_bChanged; }
+
+const char* COrloPropertyPage::GetTemplateName() const { return m_lpszTemplateName; }
+
+void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
+    SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
+    Default();
+}
+
+BOOL COrloPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const BOOL result = CPropertyPage::OnCommand(wParam, lParam);
+    if (HIWORD(wParam) == CBN_DROPDOWN) {
+        CWnd* control = CWnd::FromHandle(reinterpret_cast<HWND>(lParam));
+        if (control != nullptr && control->IsKindOf(RUNTIME_CLASS(CComboControl)))
+            static_cast<CComboControl*>(control)->SizeDropDown();
+    }
+    return result;
+}
+
+BOOL COrloPropertyPage::OnKillActive() {
+    const HWND focus = ::GetFocus();
+    const bool inPage = ::IsChild(m_hWnd, focus);
+    if (inPage) ::SetFocus(m_hWnd);
+    if (CPropertyPage::OnKillActive()) return TRUE;
+    if (inPage) ::SetFocus(focus);
+    return FALSE;
+}

@@ -1,0 +1,141 @@
+// The layout of CGraphicPropertySheet and the frame that it paints around the page and the column beside it.
+
+#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/graphic_property_sheet.h"
+
+#include <afxext.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr int kButtonIds[] = {IDOK, IDCANCEL, ID_HELP};
+constexpr unsigned int kButtonTexts = 0xF220;      // the framework's captions: text, line feed, width in dialog units
+constexpr unsigned int kFramePainted = 0x58D;      // posted after each paint, for the host
+constexpr int kFrame = 3;                          // room for the three-dimensional frame, in pixels
+
+CRect WindowRect(HWND window) {
+    CRect rect;
+    ::GetWindowRect(window, &rect);
+    return rect;
+}
+
+// Width in pixels that a button's caption text asks for, or standard if it asks for none.
+int ButtonWidth(unsigned int nIDText, HWND page, int standard) {
+    char text[256];
+    if (AfxLoadString(nIDText, text, sizeof text) == 0) return standard;
+    const char* feed = std::strchr(text, '\n');
+    if (feed == nullptr) return standard;
+    CRect rect(0, 0, std::atoi(feed + 1), 0);
+    ::MapDialogRect(page, &rect);
+    return rect.right - rect.left;
+}
+
+} // namespace
+
+int CGraphicPropertySheet::ButtonColumnWidth(int (&widths)[3]) {
+    int widest = 0;
+    const CPropertyPage* page = GetActivePage();
+    for (int i = 0; i < 3; ++i) {
+        widths[i] = ButtonWidth(kButtonTexts + i, page->m_hWnd, m_sizeButton.cx);
+        const HWND button = ::GetDlgItem(m_hWnd, kButtonIds[i]);
+        if (button != nullptr && (::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE)) widest = std::max(widest, widths[i]);
+    }
+    return widest;
+}
+
+void CGraphicPropertySheet::PlaceButtons(int left, int top, const int (&widths)[3]) {
+    for (int i = 0; i < 3; ++i) {
+        const HWND button = ::GetDlgItem(m_hWnd, kButtonIds[i]);
+        if (button == nullptr || !(::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE)) continue;
+        ::MoveWindow(button, left, top, widths[i], m_sizeButton.cy, TRUE);
+        top += m_cxButtonGap + m_sizeButton.cy;
+    }
+}
+
+void CGraphicPropertySheet::RecalcLayout() {
+    CPropertyPage* page = GetActivePage();
+    if (page == nullptr || page->m_hWnd == nullptr) return;
+    const CRect pageRect = WindowRect(page->m_hWnd);
+    const int mx = m_sizeTabMargin.cx, my = m_sizeTabMargin.cy;
+
+    const int cxBody = pageRect.Width() + 2 * mx + kFrame;
+    const int cxSide = std::max<int>(m_cxPreview + mx + kFrame, m_sizeButton.cx + mx);
+    const int cxSheet = cxBody + cxSide;
+
+    const UINT keep = SWP_NOZORDER | SWP_NOACTIVATE;
+    const HWND tabs = GetTabControl()->m_hWnd;
+    ::SetWindowPos(tabs, nullptr, mx, my, cxSheet - 2 * mx, 0, keep);
+    const int cyTab = WindowRect(tabs).Height();
+
+    const int cySheet = cyTab + pageRect.Height() + 2 * my + kFrame + 1;
+    CRect frame(0, 0, cxSheet, cySheet);
+    ::AdjustWindowRectEx(&frame, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
+    ::SetWindowPos(m_hWnd, nullptr, 0, 0, frame.Width(), frame.Height(), keep | SWP_NOMOVE);
+    CenterWindow(nullptr);
+
+    ::SetWindowPos(page->m_hWnd, nullptr, mx + 1, cyTab + my, cxBody - 2 * mx, pageRect.Height(), keep);
+
+    if (!m_bModeless) {
+        int widths[3];
+        const int cxButtons = ButtonColumnWidth(widths);
+        PlaceButtons(cxSheet - 2 * mx - cxButtons, cyTab + 2 * my, widths);
+    }
+
+    const int right = cxSheet - 2 * mx, bottom = cyTab + pageRect.Height();
+    ::MoveWindow(m_wndPreview.m_hWnd, right - m_cxPreview, bottom - m_cyPreview, m_cxPreview, m_cyPreview, FALSE);
+}
+
+namespace {
+
+// A pen of a system colour, selected for as long as it lives.
+class FramePen {
+public:
+    FramePen(HDC dc, int systemColor)
+        : m_dc(dc), m_pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor))),
+          m_before(m_pen ? ::SelectObject(dc, m_pen) : nullptr) {}
+    ~FramePen() {
+        if (m_before) ::SelectObject(m_dc, m_before);
+        ::DeleteObject(m_pen);
+    }
+    FramePen(const FramePen&) = delete;
+    FramePen& operator=(const FramePen&) = delete;
+
+private:
+    HDC m_dc;
+    HPEN m_pen;
+    HGDIOBJ m_before;
+};
+
+void DrawCorner(HDC dc, int systemColor, const POINT (&points)[3]) {
+    const FramePen pen(dc, systemColor);
+    ::MoveToEx(dc, points[0].x, points[0].y, nullptr);
+    ::LineTo(dc, points[1].x, points[1].y);
+    ::LineTo(dc, points[2].x, points[2].y);
+}
+
+} // namespace
+
+void CGraphicPropertySheet::OnPaint() {
+    CPropertyPage* page = GetActivePage();
+    if (page == nullptr) {
+        Default();
+        return;
+    }
+    CRect client;
+    ::GetClientRect(m_hWnd, &client);
+    CRect r = WindowRect(page->m_hWnd);
+    ScreenToClient(&r);
+    r.right = client.right - m_sizeTabMargin.cy;
+    r.InflateRect(1, 1);
+    {
+        CPaintDC dc(this);
+        dc.SetBkMode(TRANSPARENT);
+        DrawCorner(dc.m_hDC, COLOR_BTNHIGHLIGHT, {{r.right - 1, r.top}, {r.left, r.top}, {r.left, r.bottom}});
+        DrawCorner(dc.m_hDC, COLOR_BTNSHADOW, {{r.left, r.bottom}, {r.right - 1, r.bottom}, {r.right - 1, r.top}});
+        DrawCorner(dc.m_hDC, COLOR_BTNTEXT, {{r.right, r.top}, {r.right, r.bottom + 1}, {r.left - 1, r.bottom + 1}});
+    }
+    PostMessage(kFramePainted, 0, reinterpret_cast<LPARAM>(m_wndPreview.m_hWnd));
+}
