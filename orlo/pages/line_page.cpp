@@ -1,0 +1,205 @@
+// CLinePage.
+
+#include "orlo/pages/line_page.h"
+
+#include <cstring>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/fuzzy.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddv.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/exchange/ddx_table.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/application.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/table.h"
+#include "orlo/pages/pen_width.h"
+#include "orlo/pages/preview_shape.h"
+#include "orlo/pages/scale_text.h"
+
+IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
+
+namespace {
+
+enum : int {
+    kStyleList = 32021,
+    kAlignmentBox = 110,
+    kColorCombo = 32005,
+    kScaleSystemCombo = 109,
+    kScaleEdit = 104,
+    kStyleNameText = 112,
+    kWidthCombo = 103,
+};
+
+constexpr unsigned int kNoStyle = 0;
+constexpr unsigned int kStyleMixed = 0xFFFF;
+constexpr unsigned int kStyleByLayer = 65534;
+constexpr unsigned int kStyleByBlock = 65533;
+constexpr unsigned long kColorByLayer = 0xFFFFFFFD;
+
+constexpr double kWidest = 1e38;
+constexpr double kLeastScale = 1e-7;
+constexpr double kMostScale = 1e7;
+
+DrawingStruct* CurrentDrawing() {
+    const AppStruct* application = ::AppGetCurrentApp();
+    return application != nullptr ? application->pCurrentDrawing : nullptr;
+}
+
+TableStruct* LineStylesOf(DrawingStruct* drawing) {
+    return drawing != nullptr ? ::DrawingGetTable(drawing, "_LineStyles_") : nullptr;
+}
+
+bool IsMixed(double value) {
+    const double marker = Indeterminate<double>::Value();
+    return CompareDoubles(&value, &marker) == 0;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
+    ON_CBN_SELCHANGE(kScaleSystemCombo, OnScaleSystemChange)
+END_MESSAGE_MAP()
+
+CLinePage::CLinePage()
+    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(LineStylesOf(CurrentDrawing())), m_dwColor(kColorByLayer),
+      m_dWidth(0.0), m_dScale(1.0), m_nStyle(kStyleByLayer), m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1),
+      m_nLastAlignment(0) {}
+
+CLinePage::~CLinePage() = default;
+
+BOOL CLinePage::OnInitDialog() {
+    if (m_hWnd != nullptr) {
+        for (unsigned int id : {kStringWorldScale, kStringPaperScale}) {
+            char text[64] = "";
+            ::DrawCoreLoadString(id, text, sizeof text);
+            ::SendDlgItemMessageA(m_hWnd, kScaleSystemCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+        }
+    }
+    return CGraphicPropertyPage::OnInitDialog();
+}
+
+void CLinePage::DoDataExchange(CDataExchange* pDX) {
+    DrawingStruct* drawing = CurrentDrawing();
+
+    // The property is wider than the member. Saving, the member already holds what the combo shows.
+    unsigned short scaleSystem = m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
+    DDP_Text(pDX, kScaleSystemCombo, scaleSystem, "ScaleSystem");
+    m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
+    DDX_CBScaleSystem(1, pDX, kScaleSystemCombo, m_nScaleSystem);
+
+    DDP_Text(pDX, kColorCombo, m_dwColor, "PenColor");
+    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+
+    FillPenWidths(pDX, kWidthCombo, drawing, m_nScaleSystem);
+    DDP_Text(pDX, kWidthCombo, m_dWidth, "PenWidth");
+    DDX_CBPenWidth(1, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+    if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
+
+    DDP_Text(pDX, kScaleEdit, m_dScale, "PenScale");
+    DDX_TextScale(1, pDX, kScaleEdit, m_dScale);
+    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+
+    DDP_Text(pDX, kStyleList, m_nStyle, "PenStyle");
+    DDX_ConvertLStyle(1, pDX, m_nStyle);
+
+    DDP_Check(pDX, kAlignmentBox, m_nAlignment, "PenAlignment");
+    DDX_Check(1, pDX, kAlignmentBox, m_nAlignment);
+
+    DDP_PostProcessing(pDX);
+}
+
+CString CLinePage::StyleName(unsigned int style) const {
+    char name[sizeof m_szStyleName] = "";
+    switch (style) {
+    case kNoStyle: return "Undefined";
+    case kStyleMixed:
+    case kIndeterminateId: return "Indeterminate";
+    case kStyleByLayer: ::DrawCoreLoadString(kStringByLayer, name, sizeof name); break;
+    case kStyleByBlock: ::DrawCoreLoadString(kStringByBlock, name, sizeof name); break;
+    default: ::TableEntryGetName(m_pLineStyles, static_cast<uint16_t>(style), name, sizeof name);
+    }
+    return name;
+}
+
+int CLinePage::DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& style) {
+    if (!DDX_LBTableIndex(bReport, pDX, kStyleList, style)) return 0;
+    const CString name = StyleName(style);
+    if (name != m_szStyleName) {
+        lstrcpynA(m_szStyleName, name, sizeof m_szStyleName);
+        ::SetDlgItemTextA(m_hWnd, kStyleNameText, m_szStyleName);
+    }
+    return 1;
+}
+
+// Expresses the width in the newly chosen system: read again from the selection, so an edit of it is dropped.
+void CLinePage::OnScaleSystemChange() {
+    CDataExchange save(this, TRUE);
+    unsigned char chosen = kScalePaper;
+    DDX_CBScaleSystem(1, &save, kScaleSystemCombo, chosen);
+    if (chosen == m_nScaleSystem) return;
+    ::SendDlgItemMessageA(m_hWnd, kWidthCombo, CB_RESETCONTENT, 0, 0);
+    m_nScaleSystem = chosen;
+
+    CDataExchange load(this, FALSE);
+    DrawingStruct* drawing = CurrentDrawing();
+    FillPenWidths(&load, kWidthCombo, drawing, m_nScaleSystem);
+    DDP_Text(&load, kWidthCombo, m_dWidth, "PenWidth");
+    DDX_CBPenWidth(1, &load, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+}
+
+void* CLinePage::CreatePreviewGraphic() {
+    return NewPreviewShape({{0.1, 0.2}, {0.1, 0.8}, {0.9, 0.8}, {0.9, 0.2}, {0.1, 0.2}});
+}
+
+// The box comes up mixed, leaves that state at the first click, and never comes back to it.
+int CLinePage::AlignmentForPreview(CDataExchange* pDX, int bAll) {
+    int value = 0;
+    DDX_Check(0, pDX, kAlignmentBox, value);
+    if (value != kIndeterminateCheck) {
+        m_nLastAlignment = value;
+    } else if (!bAll) {
+        value = m_nLastAlignment = 1 - m_nLastAlignment;
+        ::SendDlgItemMessageA(m_hWnd, kAlignmentBox, BM_SETCHECK, value, 0);
+    }
+    return value;
+}
+
+void CLinePage::SetPreviewProperties(int bAll) {
+    if (m_pPreviewGraphic == nullptr) return;
+    CDataExchange dx(this, TRUE);
+    const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
+
+    if (wanted(kColorCombo)) {
+        unsigned long color = kIndeterminateId;
+        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("PenColor", color, 1);
+    }
+    if (wanted(kWidthCombo)) {
+        double width = 0.0;
+        if (DDX_CBPenWidth(0, &dx, kWidthCombo, width, m_nScaleSystem, CurrentDrawing()) && !IsMixed(width) &&
+            DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
+            SetPropText("PenWidth", width, 1);
+    }
+    if (wanted(kScaleEdit)) {
+        double scale = 0.0;
+        if (DDX_Text(0, &dx, kScaleEdit, scale) && !IsMixed(scale) &&
+            DDV_MinMaxDouble(0, &dx, scale, kLeastScale, kMostScale))
+            SetPropText("PenScale", scale, 1);
+    }
+    if (wanted(kStyleList)) {
+        unsigned int style = m_nStyle;
+        if (DDX_ConvertLStyle(0, &dx, style)) SetPropText("PenStyle", style, 1);
+    }
+    if (wanted(kScaleSystemCombo)) {
+        unsigned char system = kScalePaper;
+        DDX_CBScaleSystem(0, &dx, kScaleSystemCombo, system);
+        if (system != kScaleMixed) SetPropText("ScaleSystem", system, 1);
+    }
+    if (wanted(kAlignmentBox)) SetPropCheck("PenAlignment", AlignmentForPreview(&dx, bAll), 1);
+
+    // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
+    ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
+}

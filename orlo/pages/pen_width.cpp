@@ -1,0 +1,103 @@
+// Pen widths as text.
+
+#include "orlo/pages/pen_width.h"
+
+#include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/indeterminate_text.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/units.h"
+#include "orlo/pages/pen_width_list.h"
+
+namespace {
+
+constexpr double kInchesPerMillimetre = 0.03937007874015748;
+constexpr double kMillimetresPerInch = 25.4;
+constexpr char kSection[] = "PenWidths";
+
+// The selected item's text, or what is typed.
+CString ComboText(HWND combo) {
+    CString text;
+    const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
+    if (index == CB_ERR) {
+        CWnd::FromHandle(combo)->GetWindowText(text);
+        return text;
+    }
+    const LRESULT length = ::SendMessageA(combo, CB_GETLBTEXTLEN, index, 0);
+    if (length == CB_ERR) return text;
+    ::SendMessageA(combo, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length) + 1)));
+    text.ReleaseBuffer();
+    return text;
+}
+
+void SelectText(HWND combo, const char* text) {
+    const auto item = reinterpret_cast<LPARAM>(text);
+    LRESULT index = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), item);
+    if (index == CB_ERR) index = ::SendMessageA(combo, CB_ADDSTRING, 0, item);
+    ::SendMessageA(combo, CB_SETCURSEL, index, 0);
+}
+
+// In silent mode 0; with bReport it does not come back.
+int Refuse(int bReport, CDataExchange* pDX) {
+    if (bReport) pDX->Fail();
+    return 0;
+}
+
+} // namespace
+
+int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char* text, double* value) {
+    if (drawing == nullptr) return 0;
+    if (scaleSystem == kScaleWorld) return ::DrawingStdTextToNumeric(drawing, text, value, 0);
+    if (!::UnitsTextToNumericEx(drawing->pUnits, kUnitPenWidth, 0, text, value)) return 0;
+    *value *= kInchesPerMillimetre;
+    return 1;
+}
+
+int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size) {
+    if (drawing == nullptr) return 0;
+    if (scaleSystem == kScaleWorld) return ::DrawingStdNumericToText(drawing, value, buffer, size, 0);
+    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetresPerInch, buffer, size, 0, 1);
+}
+
+int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
+                   DrawingStruct* drawing) {
+    const HWND combo = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        const CString text = ComboText(combo);
+        if (IsIndeterminateText(text)) return 1;
+        return TextToPenWidth(drawing, scaleSystem, text, &value) ? 1 : Refuse(bReport, pDX);
+    }
+    if (IsIndeterminate(value)) {
+        SelectText(combo, kIndeterminateDisplay);
+        return 1;
+    }
+    char text[256];
+    if (!PenWidthToText(drawing, scaleSystem, value, text, sizeof text)) return Refuse(bReport, pDX);
+    SelectText(combo, text);
+    return 1;
+}
+
+void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem) {
+    double value = 0.0;
+    if (TextToPenWidth(drawing, scaleSystem, item, &value)) DDX_CBPenWidth(0, pDX, nIDC, value, scaleSystem, drawing);
+}
+
+void FillPenWidths(CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem) {
+    if (pDX->m_bSaveAndValidate || drawing == nullptr) return;
+    if (drawing->pApplication == nullptr || drawing->pUnits == nullptr) return;
+    CPenWidthList widths;
+    for (const char* item = widths.First(drawing->pApplication, drawing->pUnits, kSection, kUnitPenWidth);
+         item != nullptr; item = widths.Next())
+        AddPenWidthItem(item, pDX, nIDC, drawing, scaleSystem);
+}
+
+int DDX_CBScaleSystem(int, CDataExchange* pDX, int nIDC, unsigned char& value) {
+    const HWND combo = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
+        value = index == 0 ? kScaleWorld : index == 1 ? kScalePaper : kScaleMixed;
+    } else {
+        const int index = value == kScaleWorld ? 0 : value == kScalePaper ? 1 : -1;
+        ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
+    return 1;
+}

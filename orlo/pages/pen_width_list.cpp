@@ -1,0 +1,55 @@
+// CPenWidthList.
+
+#include "orlo/pages/pen_width_list.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "orlo/host/application.h"
+#include "orlo/host/table.h"
+
+namespace {
+
+constexpr int kEntrySize = 256;
+constexpr int kMostAliases = 100; // a circle of aliases ends here
+constexpr char kAlias = '*';
+
+} // namespace
+
+CPenWidthList::CPenWidthList() : m_pszCursor(nullptr), m_szUnit(), m_szItem() {}
+
+const char* CPenWidthList::First(AppStruct* application, TableStruct* units, const char* section,
+                                 unsigned int unitVariable) {
+    m_pszCursor = nullptr;
+    m_szUnit[0] = m_szItem[0] = '\0';
+    char path[MAX_PATH];
+    if (!::TableGetStringVar(units, static_cast<uint16_t>(unitVariable), m_szUnit, sizeof m_szUnit)) return nullptr;
+    if (!::AppGetINIFileName(application, path, sizeof path)) return nullptr;
+    if (!ReadEntry(path, section)) return nullptr;
+    return NextItem(m_strBuffer.GetBuffer(kEntrySize));
+}
+
+// Follows aliases to a list; m_szUnit is then the key of the list.
+bool CPenWidthList::ReadEntry(const char* path, const char* section) {
+    for (int step = 0; step < kMostAliases; ++step) {
+        char* text = m_strBuffer.GetBuffer(kEntrySize);
+        const DWORD length = ::GetPrivateProfileStringA(section, m_szUnit, "", text, kEntrySize, path);
+        m_strBuffer.ReleaseBuffer(static_cast<int>(length));
+        if (m_strBuffer.IsEmpty()) return false;
+        if (m_strBuffer[0] != kAlias) return true;
+        const CString alias = m_strBuffer.Mid(1);
+        if (alias.GetLength() >= static_cast<int>(sizeof m_szUnit)) return false; // longer than any unit's name
+        std::strcpy(m_szUnit, alias);
+    }
+    return false;
+}
+
+const char* CPenWidthList::Next() { return m_pszCursor != nullptr ? NextItem(nullptr) : nullptr; }
+
+const char* CPenWidthList::NextItem(char* text) {
+    for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr; m_pszCursor = std::strtok(nullptr, ",")) {
+        const int length = std::snprintf(m_szItem, sizeof m_szItem, "%s %s", m_pszCursor, m_szUnit);
+        if (length < static_cast<int>(sizeof m_szItem)) return m_szItem;
+    }
+    return nullptr;
+}
