@@ -1,0 +1,57 @@
+// Opens a real modal sheet and plays a script over it from inside the sheet's own message loop, by messages and keys, as a
+// person would. It knows no page; message boxes are the MessageBoxWatcher's.
+//
+//   int code = SheetDriver().Run(*sheet, [](SheetDriver& user) {
+//       user.SelectPage(1);
+//       user.Type(104, "2.5");
+//       user.Ok();
+//   });
+#pragma once
+
+#include <afxdlgs.h>
+
+#include <exception>
+#include <functional>
+#include <string>
+
+class SheetDriver {
+public:
+    using Script = std::function<void(SheetDriver&)>;
+
+    // DoModal's result. A sheet that is still open when the script has ended is cancelled.
+    int Run(CPropertySheet& sheet, Script script);
+
+    HWND Sheet() const;
+    HWND Page() const; // of the active page
+    HWND Control(int id) const;
+    int ActivePage() const;
+
+    // Takes all waiting messages through the thread's own filters.
+    void Pump();
+
+    void SelectPage(int index); // by a click on its tab
+    void Click(int id);         // a button of the page
+    void ClickSheetButton(int id);
+    void Ok();
+    void Cancel();
+
+    void Focus(int id);
+    void Type(int id, const std::string& text); // over what is there
+    void Choose(int id, int index);             // in a combo or list, by Home and Down keys
+    void Key(UINT virtualKey, bool shift = false, bool control = false);
+    void Mnemonic(char letter); // Alt and the letter
+
+    std::string Text(int id) const;
+    int Selection(int id) const; // of a combo or list, -1 for none
+    int Check(int id) const;
+    bool IsCombo(int id) const;
+    std::string ItemText(int id, int index) const; // of a combo
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+    void Play();
+
+    CPropertySheet* m_sheet = nullptr;
+    Script m_script;
+    std::exception_ptr m_thrown;
+};
