@@ -24,5 +24,7 @@ protected:
     const AFX_MSGMAP* GetMessageMap() const override;
 
 private:
+    static const AFX_MSGMAP_ENTRY* GetMessageEntries();
+
     ViewportStruct* m_pViewport; // set anew in every paint; null: the pane stays white
 };

@@ -9,7 +9,7 @@ IMPLEMENT_DYNAMIC(CGraphicPropertySheet, COrloPropertySheet)
 BEGIN_MESSAGE_MAP(CGraphicPropertySheet, COrloPropertySheet)
     ON_WM_CREATE()
     ON_WM_PAINT()
-    ON_COMMAND(IDOK, OnOK)
+    ON_COMMAND(IDOK, &ThisClass::OnOK)
 END_MESSAGE_MAP()
 
 namespace {

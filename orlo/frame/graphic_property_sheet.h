@@ -67,6 +67,7 @@ protected:
     const AFX_MSGMAP* GetMessageMap() const override;
 
 private:
+    static const AFX_MSGMAP_ENTRY* GetMessageEntries();
     static constexpr uint32_t kColumnOfButtons = 4; // preview pane, buttons beside the page
 
     CGraphicPropertyPage* GetActiveGraphicPage();

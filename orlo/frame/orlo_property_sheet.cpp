@@ -12,7 +12,7 @@ IMPLEMENT_DYNAMIC(COrloPropertySheet, CPropertySheet)
 
 BEGIN_MESSAGE_MAP(COrloPropertySheet, CPropertySheet)
     ON_WM_NCCREATE()
-    ON_COMMAND(ID_HELP, OnHelp)
+    ON_COMMAND(ID_HELP, &ThisClass::OnHelp)
     ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 

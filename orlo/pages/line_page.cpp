@@ -7,9 +7,7 @@
 #include "orlo/binding/ddp.h"
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
-#include "orlo/exchange/ddv.h"
 #include "orlo/exchange/ddx.h"
-#include "orlo/exchange/ddx_table.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/application.h"
 #include "orlo/host/drawing.h"
@@ -60,7 +58,7 @@ bool IsMixed(double value) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
-    ON_CBN_SELCHANGE(kScaleSystemCombo, OnScaleSystemChange)
+    ON_CBN_SELCHANGE(kScaleSystemCombo, &ThisClass::OnScaleSystemChange)
 END_MESSAGE_MAP()
 
 CLinePage::CLinePage()
