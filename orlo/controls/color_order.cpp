@@ -7,11 +7,18 @@
 
 namespace {
 
-double Unit(double x) { return std::clamp(x, 0.0, 1.0); }
+double Unit(double x) {
+    return std::clamp(x, 0.0, 1.0);
+}
 
-template <class T> int Order(T a, T b) { return a < b ? -1 : a > b ? 1 : 0; }
+template <class T>
+int Order(T a, T b) {
+    return a < b ? -1 : a > b ? 1 : 0;
+}
 
-bool IsMarker(DWORD color) { return (color & 0xFF000000u) != 0; }
+bool IsMarker(DWORD color) {
+    return (color & 0xFF000000u) != 0;
+}
 
 } // namespace
 
@@ -69,8 +76,8 @@ void HSV_to_RGB(double h, double s, double v, double* r, double* g, double* b) {
 
 ColorKey::ColorKey(DWORD color) : raw(color), reduced(IsMarker(color) ? 0 : color) {
     constexpr double kByte = 0.00392156862745098; // 1/255
-    RGB_to_HSV(GetRValue(reduced) * kByte, GetGValue(reduced) * kByte, GetBValue(reduced) * kByte, &hue, &saturation,
-               &value);
+    RGB_to_HSV(GetRValue(reduced) * kByte, GetGValue(reduced) * kByte, GetBValue(reduced) * kByte, &hue,
+               &saturation, &value);
 }
 
 int CompareColorKeys(const ColorKey& a, const ColorKey& b) {

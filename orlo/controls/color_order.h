@@ -1,13 +1,13 @@
 // The order in which colours stand in a list, and the conversions between RGB and HSV. Draws nothing.
 //
-// Hue, value and saturation lie between 0 and 1. Greys have hue 0; pure red has hue 1, so that the greys come first and
-// the reds last:
+// Hue, value and saturation lie between 0 and 1. Greys have hue 0; pure red has hue 1, so that the greys come
+// first and the reds last:
 //
 //   CompareHSVforRGBs(RGB(255, 255, 255), RGB(0, 0, 10)) == -1    // any grey stands before any blue
 //   CompareHSVforRGBs(RGB(255, 0, 0), RGB(255, 0, 255)) == 1      // red after magenta
 //
-// Colours have red in the low byte. Values with a non-zero high byte are markers; they count as black, and among black
-// and the markers the number decides.
+// Colours have red in the low byte. Values with a non-zero high byte are markers; they count as black, and
+// among black and the markers the number decides.
 #pragma once
 
 #include <windows.h>

@@ -1,8 +1,11 @@
-// Owners and guards for drawing with the system, and the few shapes that the owner-drawn controls share. No control.
+// Owners and guards for drawing with the system, and the few shapes that the owner-drawn controls share. No
+// control.
 //
-//   SelectedObject pen(dc, ownedPen.get());      // the object that was there before comes back at the end of the block
+//   SelectedObject pen(dc, ownedPen.get());      // the object that was there before comes back at the end of
+//   the block
 //
-// A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the default.
+// A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the
+// default.
 #pragma once
 
 #include <memory>
@@ -14,14 +17,16 @@ struct DeleteGdiObject {
 };
 
 // Owns a pen, brush or font.
-template <class Handle> using OwnedGdi = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteGdiObject>;
+template <class Handle>
+using OwnedGdi = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteGdiObject>;
 using OwnedPen = OwnedGdi<HPEN>;
 using OwnedBrush = OwnedGdi<HBRUSH>;
 using OwnedFont = OwnedGdi<HFONT>;
 
 class SelectedObject {
 public:
-    SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), before_(object ? ::SelectObject(dc, object) : nullptr) {}
+    SelectedObject(HDC dc, HGDIOBJ object)
+        : dc_(dc), before_(object ? ::SelectObject(dc, object) : nullptr) {}
     ~SelectedObject() {
         if (before_) ::SelectObject(dc_, before_);
     }

@@ -1,0 +1,163 @@
+// CColorControl: a combo box of the host's colours.
+
+#include "orlo/controls/color_control.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+#include "orlo/controls/color_order.h"
+#include "orlo/controls/color_swatch.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/table_control.h"
+#include "orlo/host/strings.h"
+
+namespace {
+
+constexpr unsigned int kKind = 0x7D05;
+constexpr DWORD kNoValue = 0xFFFFFFFE;
+constexpr DWORD kSeveralValues = 0xFFFFFFFF;
+constexpr DWORD kExtraEntry = 0xFFFFFFFD;
+constexpr DWORD kHiddenEntry = 0xFFFFFFFC;
+constexpr DWORD kLastEntry = 0xFFFFFFFB;
+
+unsigned int HostStringOf(DWORD marker) {
+    switch (marker) {
+    case kExtraEntry:
+        return kStringByLayer;
+    case kHiddenEntry:
+        return kStringByBlock;
+    case kLastEntry:
+        return kStringLastColor;
+    default:
+        return 0;
+    }
+}
+
+bool IsPlainColor(DWORD color) {
+    return (color & 0xFF000000u) == 0;
+}
+
+// An entry of the table on its way into the list.
+struct Entry {
+    Entry(uint16_t entryID, DWORD color, unsigned entryPlace) : key(color), id(entryID), place(entryPlace) {}
+
+    ColorKey key;
+    uint16_t id;
+    unsigned place; // in the table
+};
+
+// Of equal colours the later entry stands first, as if each had been inserted ahead of the ones already
+// there.
+bool StandsBefore(const Entry& a, const Entry& b) {
+    const int order = CompareColorKeys(a.key, b.key);
+    return order ? order < 0 : a.place > b.place;
+}
+
+std::vector<Entry> SortedColors(TableStruct* table) {
+    std::vector<Entry> entries;
+    int cookie = 0;
+    unsigned place = 0;
+    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie)) {
+        const void* const color = TableEntryGetData(table, id);
+        if (!color) continue;
+        const DWORD value = *static_cast<const DWORD*>(color);
+        if (IsPlainColor(value)) entries.emplace_back(id, value, place++);
+    }
+    std::sort(entries.begin(), entries.end(), StandsBefore);
+    return entries;
+}
+
+void AppendMarker(const ControlItems& items, DWORD marker) {
+    ItemText text(marker);
+    DrawCoreLoadString(HostStringOf(marker), text.name(), kHostTextSize);
+    items.Add(text.c_str());
+}
+
+// The name under which a colour without an item, or a marker, is shown.
+void NameWithoutItem(DWORD color, char* name) {
+    name[0] = '\0';
+    if (const unsigned int id = HostStringOf(color))
+        DrawCoreLoadString(id, name, kHostTextSize);
+    else if (IsPlainColor(color))
+        std::snprintf(name, kHostTextSize, "(%d,%d,%d)", GetRValue(color), GetGValue(color),
+                      GetBValue(color));
+}
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(CColorControl, CComboControl)
+
+CColorControl::CColorControl(int bExtraEntries) : CComboControl(kKind), m_bExtraEntries(bExtraEntries) {
+    m_nSelected = kNoValue;
+}
+
+CColorControl::CColorControl(HWND hWnd, int bExtraEntries)
+    : CComboControl(kKind, hWnd), m_bExtraEntries(bExtraEntries) {
+    m_nSelected = kNoValue;
+}
+
+CColorControl::~CColorControl() = default;
+
+void CColorControl::EnableLastEntry(int bEnable) {
+    m_bLastEntry = bEnable;
+}
+
+int CColorControl::FindColor(DWORD dwColor) {
+    if (dwColor == kNoValue || dwColor == kSeveralValues) return -1;
+    char key[kKeySize];
+    DWord_to_Hex(dwColor, key);
+    return FindString(-1, key);
+}
+
+int CColorControl::AddControlItem(const char* pszItem) {
+    const ControlFill* const filling = ControlFill::Of(m_hWnd);
+    if (filling && filling->ItemsInFinalOrder()) return InsertString(-1, pszItem);
+
+    char text[kItemTextSize];
+    ::lstrcpynA(text, pszItem, sizeof text);
+    const ColorKey added(ParseControlItem(text));
+    int index = 0;
+    const int count = GetCount();
+    while (index < count && CompareColorKeys(added, ColorKey(GetControlItem(index, text))) > 0)
+        ++index;
+    return InsertString(index < count ? index : -1, pszItem);
+}
+
+void CColorControl::FillControl(WPARAM, LPARAM pFill) {
+    ControlFill filling(m_hWnd, ControlFill::Items::InFinalOrder);
+    if (!BeginFill(*this, pFill)) return;
+
+    for (const Entry& entry : SortedColors(m_pTable)) {
+        ItemText text(entry.key.raw);
+        if (TableEntryGetName(m_pTable, entry.id, text.name(), kEntryNameSize)) AddControlItem(text.c_str());
+    }
+    if (m_bExtraEntries) {
+        const ControlItems items = ControlItems::OfCombo(m_hWnd);
+        AppendMarker(items, kExtraEntry);
+        if (m_bLastEntry) AppendMarker(items, kLastEntry);
+    }
+    SetCurSel(FindColor(m_nSelected));
+}
+
+void CColorControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
+}
+
+void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    const bool noItem = IsNoItem(*pDIS);
+    if (!noItem && !(pDIS->itemAction & ODA_DRAWENTIRE)) {
+        // There is no selected look: the list shows colours as they are.
+        if (!(pDIS->itemAction & ODA_SELECT) && (pDIS->itemAction & ODA_FOCUS))
+            ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+        return;
+    }
+    char name[kItemTextSize];
+    const DWORD color = noItem ? m_nSelected : GetControlItem(static_cast<int>(pDIS->itemID), name);
+    if (noItem || !IsPlainColor(color)) NameWithoutItem(color, name);
+
+    const SwatchPlace place = {pDIS->hDC, pDIS->rcItem, IsClosedField(*pDIS),
+                               reinterpret_cast<HFONT>(SendMessage(WM_GETFONT, 0, 0))};
+    DrawSwatch(place, color, name);
+    if ((pDIS->itemState & ODS_FOCUS) && !place.inField) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+}

@@ -1,0 +1,43 @@
+// CColorControl: a combo box of the host's colours in the order of color_order.h, as swatches with their
+// names.
+//
+// Its table's entries hold a COLORREF as data; m_nSelected and the items' numbers are colours, not
+// identifiers. A colour that is in no item is shown all the same in the closed field, by its numbers. These
+// values are markers:
+//
+//   0xFFFFFFFE  no value yet       0xFFFFFFFF  several values     both show nothing
+//   0xFFFFFFFD  first extra entry  0xFFFFFFFB  second one         by the host's texts
+//   0xFFFFFFFC  shown if it comes up; no list offers it
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+
+class ORLO_API CColorControl : public CComboControl {
+    DECLARE_DYNCREATE(CColorControl)
+    friend CWnd* CreateComboObject(HWND hWnd, int nID);
+
+public:
+    // bExtraEntries: the list ends with the first extra entry.
+    explicit CColorControl(int bExtraEntries = 1);
+    ~CColorControl() override;
+
+    // The second extra entry goes behind the first, from the next filling on.
+    void EnableLastEntry(int bEnable);
+
+    // Index of the item of that colour; -1 for 0xFFFFFFFE and 0xFFFFFFFF, or if there is none.
+    int FindColor(DWORD dwColor);
+
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
+    // Sorts the table's colours once: n items cost n log n comparisons, and each is appended.
+    void FillControl(WPARAM wParam, LPARAM pFill) override;
+    // Inserts at its place in the order, ahead of equal colours. While FillControl runs the items come in
+    // order.
+    int AddControlItem(const char* pszItem) override;
+
+    int m_bExtraEntries;
+    int m_bLastEntry = 0;
+
+protected:
+    CColorControl(HWND hWnd, int bExtraEntries);
+};

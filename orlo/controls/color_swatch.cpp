@@ -1,0 +1,77 @@
+// Drawing of a colour as a swatch with its name.
+
+#include "orlo/controls/color_swatch.h"
+
+#include <cstring>
+
+#include "orlo/controls/paint.h"
+#include "orlo/host/application.h"
+
+namespace {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr DWORD kMarkerBits = 0xFF000000;
+constexpr DWORD kPaletteRelative = 0x02000000;
+
+OwnedFont BoldVersion(HFONT font) {
+    LOGFONTA description = {};
+    if (!font || !::GetObjectA(font, sizeof description, &description)) return nullptr;
+    description.lfWeight = FW_BOLD;
+    return OwnedFont(::CreateFontIndirectA(&description));
+}
+
+COLORREF ReadableOn(DWORD color) {
+    const int mean = (GetRValue(color) + GetGValue(color) + GetBValue(color)) / 3;
+    return mean < 0x80 ? kWhite : kBlack;
+}
+
+void FillWithColor(HDC dc, const RECT& rect, DWORD color) {
+    HPALETTE palette = nullptr;
+    if (IsPaletteSupported(dc)) {
+        const AppStruct* const application = AppGetCurrentApp();
+        palette = application ? application->hPalette : nullptr;
+        color |= kPaletteRelative;
+    }
+    const RealizedPalette realized(dc, palette);
+    const OwnedBrush brush(::CreateSolidBrush(color));
+    ::FillRect(dc, &rect, brush.get());
+}
+
+// Bold, in the middle; a name that is too wide begins at the left if that is wanted.
+void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF color, bool keepStart) {
+    const OwnedFont bold = BoldVersion(place.font);
+    const SelectedObject selected(place.dc, bold.get());
+    const TextColor colors(place.dc, color);
+    SIZE size = {};
+    ::GetTextExtentPoint32A(place.dc, name, static_cast<int>(std::strlen(name)), &size);
+    const bool centred = !keepStart || rect.right - rect.left > size.cx;
+    ::DrawTextA(place.dc, name, -1, &rect, DT_SINGLELINE | DT_VCENTER | (centred ? DT_CENTER : DT_LEFT));
+}
+
+void DrawMarker(const SwatchPlace& place, const RECT& cleared, const char* name) {
+    FrameRectangle(place.dc, Inflated(cleared, -1), kBlack, 1);
+    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, kBlack);
+}
+
+// White on white needs a frame.
+void DrawWhite(const SwatchPlace& place, const char* name) {
+    const RECT frame = Inflated(place.rect, 1);
+    FrameRectangle(place.dc, frame, kBlack, 2);
+    DrawName(place, frame, name, kBlack, false);
+}
+
+} // namespace
+
+void DrawSwatch(const SwatchPlace& place, DWORD color, const char* name) {
+    const RECT cleared = place.inField ? Inflated(place.rect, 2) : place.rect;
+    FillSolid(place.dc, cleared, kWhite);
+    if (color & kMarkerBits) {
+        if (*name) DrawMarker(place, cleared, name);
+    } else if (color == kWhite) {
+        DrawWhite(place, name);
+    } else {
+        FillWithColor(place.dc, place.rect, color);
+        DrawName(place, place.rect, name, ReadableOn(color), true);
+    }
+}

@@ -1,0 +1,132 @@
+// CComboControl: a combo box that shows the entries of a host table.
+
+#include "orlo/controls/combo_control.h"
+
+#include <algorithm>
+
+#include "orlo/controls/table_control.h"
+
+namespace {
+
+constexpr int kMaxDropHeight = 320; // closed field and open list together
+constexpr int kButtonWidth = 16;    // at the right of the client area
+
+bool IsControlBarID(int nID) {
+    return nID >= 0xE800 && nID <= 0xE8FF;
+}
+
+} // namespace
+
+WNDPROC CComboControl::lpfnSuperWndProc = nullptr;
+
+IMPLEMENT_DYNAMIC(CComboControl, CComboBox)
+
+BEGIN_MESSAGE_MAP(CComboControl, CComboBox)
+ON_WM_DESTROY()
+ON_WM_NCCREATE()
+ON_WM_LBUTTONDOWN()
+ON_MESSAGE(kFillMessage, &CComboControl::OnFillMessage)
+ON_MESSAGE(WM_INITIALUPDATE, &CComboControl::OnInitialUpdate)
+END_MESSAGE_MAP()
+
+CComboControl* ComboControlOf(HWND window) {
+    CWnd* const object = CWnd::FromHandlePermanent(window);
+    if (!object || !object->IsKindOf(RUNTIME_CLASS(CComboControl))) return nullptr;
+    return static_cast<CComboControl*>(object);
+}
+
+CComboControl::CComboControl(unsigned int nControlID) : m_nControlID(nControlID) {}
+
+CComboControl::CComboControl(unsigned int nControlID, HWND hWnd)
+    : m_nControlID(nControlID), m_bAutoDelete(1) {
+    if (!CWnd::FromHandlePermanent(hWnd)) Attach(hWnd);
+}
+
+CComboControl::~CComboControl() = default;
+
+int CComboControl::Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) {
+    m_bDialogCtrl = !(pParent && IsControlBarID(::GetDlgCtrlID(pParent->m_hWnd)));
+    return CWnd::Create("ComboBox", nullptr, dwStyle, rect, pParent, nID);
+}
+
+void CComboControl::DialogCtrl(int bDialogCtrl) {
+    m_bDialogCtrl = bDialogCtrl;
+}
+
+int CComboControl::IsDialogCtrl() {
+    return m_bDialogCtrl;
+}
+
+WNDPROC* CComboControl::GetSuperWndProcAddr() {
+    return &lpfnSuperWndProc;
+}
+
+void CComboControl::PostNcDestroy() {
+    if (m_bAutoDelete) delete this;
+}
+
+void CComboControl::SizeDropDown() {
+    RECT rect = {};
+    ::GetWindowRect(m_hWnd, &rect);
+    MEASUREITEMSTRUCT measure = {};
+    MeasureItem(&measure);
+    const int row = std::max(static_cast<int>(measure.itemHeight), 1);
+    const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + (rect.bottom - rect.top);
+    const int count = std::max(GetCount(), 0);
+    if (m_nDropHeight != count * row + frame) {
+        const int room = std::max(kMaxDropHeight - frame, 0);
+        m_nDropHeight = std::min(count, room / row) * row + frame;
+    }
+    SetControlHeight(m_hWnd, m_nDropHeight);
+}
+
+unsigned long CComboControl::GetControlItem(int index, char* text) {
+    return ItemOf(ControlItems::OfCombo(m_hWnd), index, text);
+}
+
+int CComboControl::AddControlItem(const char* text) {
+    return AddString(text);
+}
+
+void CComboControl::FillControl(WPARAM, LPARAM lParam) {
+    ControlFill filling(m_hWnd);
+    if (!BeginFill(*this, lParam)) return;
+    ForEachTableItem(m_pTable, [this](ItemText& text) { AddControlItem(text.c_str()); });
+    SetCurSel(FindItem(m_nSelected));
+}
+
+void CComboControl::OnDestroy() {
+    NotifyApplication(*this, m_nControlID, kControlGone);
+    Default();
+}
+
+int CComboControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
+    m_dwStyle = static_cast<unsigned long>(lpCreateStruct->style);
+    return static_cast<int>(Default());
+}
+
+// The text part is no button: a click there is the parent's, in whose coordinates it arrives.
+void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
+    RECT client = {};
+    ::GetClientRect(m_hWnd, &client);
+    const HWND parent = ::GetParent(m_hWnd);
+    if (!parent || point.x >= client.right - kButtonWidth) {
+        Default();
+        return;
+    }
+    ::MapWindowPoints(m_hWnd, parent, &point, 1);
+    ::SendMessageA(parent, WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y));
+}
+
+LRESULT CComboControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
+    FillControl(wParam, lParam);
+    return 0;
+}
+
+LRESULT CComboControl::OnInitialUpdate(WPARAM, LPARAM) {
+    SubclassCtl3d(3);
+    UseSharedFont(m_hWnd);
+    SizeDropDown();
+    NotifyApplication(*this, m_nControlID, kControlReady);
+    return 0;
+}

@@ -1,0 +1,85 @@
+// CComboControl: a combo box that shows the entries of a host table; base of the library's combos. It draws
+// nothing.
+//
+// From a dialog template the control is made by its window class and identifier (control_classes.h) and owns
+// itself. From code the program owns it:
+//
+//   CColorControl colors;                                        // or DDX_Control(1, pDX, 32005, colors)
+//   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, 32005);
+//   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
+//
+// The control announces itself to the application and never asks for its table: the host sends
+// WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
+// (control_fill.h) whenever it likes.
+#pragma once
+
+#include <afxwin.h>
+
+#include "orlo/binding/fuzzy.h"
+#include "orlo/controls/control_fill.h"
+#include "orlo/controls/control_item.h"
+#include "orlo/export.h"
+
+// WM_COMMAND to the top-level frame, else to the thread's main window; without either nobody is told. The low
+// word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
+// window.
+enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
+
+class ORLO_API CComboControl : public CComboBox {
+    DECLARE_DYNAMIC(CComboControl)
+public:
+    // nControlID: the kind of the control, not its identifier in a dialog.
+    explicit CComboControl(unsigned int nControlID);
+    ~CComboControl() override;
+
+    int Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) override;
+
+    // Whether the control stands in a dialog, not in a control bar; Create finds out.
+    void DialogCtrl(int bDialogCtrl);
+    int IsDialogCtrl();
+
+    // Fits the drop-down list to the items: whole rows, up to 320 pixels with the closed field.
+    virtual void SizeDropDown();
+    // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
+    // without such an item.
+    virtual unsigned long GetControlItem(int index, char* text);
+    // lParam: const ControlFillRecord*; null counts as a record without a table.
+    virtual void FillControl(WPARAM wParam, LPARAM lParam);
+    // Adds an item of that whole text; its index, negative on failure.
+    virtual int AddControlItem(const char* text);
+
+    unsigned int m_nControlID;
+    unsigned long m_dwStyle = 0;     // window style at the creation
+    int m_nDropHeight = 0;           // with the list open, in device pixels
+    int m_bAutoDelete = 0;           // the object goes with its window
+    TableStruct* m_pTable = nullptr; // the host's
+    unsigned int m_nSelected = 0;    // identifier last given to select
+    int m_bDialogCtrl = 0;
+
+    static WNDPROC lpfnSuperWndProc; // window procedure of the system's combo box
+
+protected:
+    // For the factory: takes a window that has no object, and deletes itself after it.
+    CComboControl(unsigned int nControlID, HWND hWnd);
+
+    WNDPROC* GetSuperWndProcAddr() override;
+    void PostNcDestroy() override;
+
+    // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.
+    int FindItem(unsigned int nID) const {
+        char key[kKeySize];
+        DWord_to_Hex(nID, key);
+        return nID == 0 || nID == 0xFFFF ? -1 : FindString(-1, key);
+    }
+
+    afx_msg void OnDestroy();
+    afx_msg int OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnFillMessage(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+};
+
+// The object of that window, null if there is none of this class.
+CComboControl* ComboControlOf(HWND window);

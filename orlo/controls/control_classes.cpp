@@ -1,0 +1,55 @@
+// The window classes "QXComboBox" and "QXListBox".
+
+#include "orlo/controls/control_classes.h"
+
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/control_factory.h"
+#include "orlo/controls/list_control.h"
+
+namespace {
+
+// Hands a window over to the framework with the first message that it gets. Without an object the framework
+// goes on with the procedure registered for the class: the system's.
+LRESULT HandOver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC next = AfxGetAfxWndProc();
+    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(next));
+    return ::CallWindowProcA(next, window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK ComboFirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CreateComboObject(window, ::GetDlgCtrlID(window));
+    return HandOver(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK ListFirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CreateListObject(window, ::GetDlgCtrlID(window));
+    return HandOver(window, message, wParam, lParam);
+}
+
+int RegisterControlClass(HINSTANCE module, const char* systemName, const char* name, WNDPROC first,
+                         WNDPROC& systemProc) {
+    WNDCLASSA windowClass = {};
+    if (!::GetClassInfoA(nullptr, systemName, &windowClass)) return 0;
+    systemProc = windowClass.lpfnWndProc;
+
+    WNDCLASSA present = {};
+    if (::GetClassInfoA(module, name, &present)) return present.lpfnWndProc == first;
+
+    windowClass.lpszClassName = name;
+    windowClass.hInstance = module;
+    windowClass.style |= CS_GLOBALCLASS;
+    windowClass.lpfnWndProc = first;
+    const ATOM atom = ::RegisterClassA(&windowClass);
+    if (atom) AfxRegisterSuperWndProc(atom, systemProc);
+    return atom != 0;
+}
+
+} // namespace
+
+int RegisterControlClasses(HINSTANCE module) {
+    const int combo = RegisterControlClass(module, "ComboBox", "QXComboBox", ComboFirstMessage,
+                                           CComboControl::lpfnSuperWndProc);
+    const int list = RegisterControlClass(module, "ListBox", "QXListBox", ListFirstMessage,
+                                          CListControl::lpfnSuperWndProc);
+    return combo && list;
+}

@@ -1,0 +1,31 @@
+// The font that all controls of the library share.
+
+#include "orlo/controls/control_font.h"
+
+#include <cstring>
+
+#include "orlo/controls/paint.h"
+
+namespace {
+
+OwnedFont CreateSharedFont() {
+    LOGFONTA font = {};
+    font.lfHeight = -12;
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    std::strcpy(font.lfFaceName, "MS Sans Serif");
+    return OwnedFont(::CreateFontIndirectA(&font));
+}
+
+OwnedFont g_font;
+
+} // namespace
+
+HFONT SharedControlFont() {
+    if (!g_font) g_font = CreateSharedFont();
+    return g_font.get();
+}
+
+void ReleaseSharedFont() {
+    g_font.reset();
+}

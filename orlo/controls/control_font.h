@@ -1,0 +1,10 @@
+// The font that all controls of the library share. The module entry gives it back.
+#pragma once
+
+#include <windows.h>
+
+// Made at the first call; null if it cannot be made, and tried again at the next.
+HFONT SharedControlFont();
+
+// At process detach.
+void ReleaseSharedFont();

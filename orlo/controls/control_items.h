@@ -1,0 +1,49 @@
+// The items of a combo box or a list box under one set of names, so that what treats both alike is written
+// once.
+//
+//   ControlItems items = ControlItems::OfCombo(hWnd);
+//   items.Select(items.FindExact("ByLayer"));        // not found is -1, and selecting -1 clears the
+//   selection
+//
+// A window that has gone, or is no such control, has no items and takes none.
+#pragma once
+
+#include <afxwin.h>
+
+class ControlItems {
+public:
+    static ControlItems OfCombo(HWND window);
+    static ControlItems OfList(HWND window);
+
+    int Count() const;
+    int Selected() const;
+    void Select(int index) const;
+    void Clear() const;
+
+    // Index of the new item, negative on failure. Insert at -1 appends, whatever the control's sort style.
+    int Add(const char* text) const;
+    int Insert(int index, const char* text) const;
+
+    // Without regard to case; -1 if there is none.
+    int FindExact(const char* text) const;
+    int FindPrefix(const char* prefix) const;
+    // Selects the first item behind `from` (-1: of all) that begins so, going round; false, with nothing
+    // changed, if none.
+    bool SelectPrefix(int from, const char* prefix) const;
+
+    // The item's text; false, with text emptied, if there is no such item.
+    bool GetText(int index, CString& text) const;
+    // The same into a buffer; what does not fit is cut off.
+    bool GetText(int index, char* buffer, int size) const;
+
+private:
+    struct Messages;
+    static const Messages kCombo, kList;
+
+    ControlItems(HWND window, const Messages& messages) : window_(window), messages_(&messages) {}
+    int Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    int SendText(UINT message, int index, const char* text) const;
+
+    HWND window_;
+    const Messages* messages_;
+};

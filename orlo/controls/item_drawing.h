@@ -1,0 +1,63 @@
+// What the owner-drawn controls of the library share when they draw an item. Internal.
+#pragma once
+
+#include <windows.h>
+
+constexpr int kHostTextSize = 0x7F; // host texts longer than this are cut
+
+// The request is for a control without a selected item.
+inline bool IsNoItem(const DRAWITEMSTRUCT& item) {
+    return item.itemID == static_cast<UINT>(-1);
+}
+
+// The rows of a list start at 0, so that only the closed field of a combo has a left edge above it.
+inline bool IsClosedField(const DRAWITEMSTRUCT& item) {
+    return item.rcItem.left > 0;
+}
+
+// What a request asks a control of style samples to draw.
+enum class ItemPart { Nothing, Whole, SelectionFrame, Focus };
+ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
+
+// The frame that shows the selection, in the window's colour where there is none, so that drawing it again
+// removes it. Its far corner lies beyond the item's by that much (device pixels).
+void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
+
+// The focus rectangle of an item of a list; the closed field shows none.
+void DrawItemFocus(const DRAWITEMSTRUCT& item);
+
+// The item's background in the window's colour, the border of a closed field included.
+void ClearItem(const DRAWITEMSTRUCT& item);
+
+// A name in a black frame, the text at that point.
+void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name);
+
+// Draws what a request asks of a control of style samples. drawStyle draws the whole item but selection and
+// focus, and gives false if there is nothing to draw these on.
+template <class DrawStyle>
+void DrawRequest(const DRAWITEMSTRUCT& item, SIZE beyond, DrawStyle drawStyle) {
+    switch (RequestedPart(item)) {
+    case ItemPart::Whole:
+        if (!drawStyle()) break;
+        if (item.itemState & ODS_SELECTED) DrawSelectionFrame(item, beyond);
+        DrawItemFocus(item);
+        break;
+    case ItemPart::SelectionFrame:
+        DrawSelectionFrame(item, beyond);
+        break;
+    case ItemPart::Focus:
+        ::DrawFocusRect(item.hDC, &item.rcItem);
+        break;
+    case ItemPart::Nothing:
+        break;
+    }
+}
+
+// The identifier that a request is about; its name goes to a buffer of kItemTextSize bytes and is empty
+// without an item.
+template <class Control>
+unsigned int RequestedStyle(Control& control, const DRAWITEMSTRUCT& item, char* name) {
+    name[0] = '\0';
+    if (IsNoItem(item)) return control.m_nSelected;
+    return static_cast<unsigned int>(control.GetControlItem(static_cast<int>(item.itemID), name));
+}

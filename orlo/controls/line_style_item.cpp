@@ -1,0 +1,109 @@
+// What the combo and the list of line styles share.
+
+#include "orlo/controls/line_style_item.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <iterator>
+
+#include "orlo/controls/control_item.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/style.h"
+#include "orlo/host/vertex.h"
+
+namespace {
+
+constexpr double kGapsAcross = 15.0;      // gaps of a style that would fit across the sample
+constexpr double kLengthWithoutGap = 2.5; // stands for fifteen gaps of a style that has none
+constexpr double kNoLength = 1e-7;
+
+// A control of any width has a sample that is not a point.
+double SampleUnits(int controlWidth, int factor, int reference) {
+    return std::max(controlWidth * factor / reference, 1);
+}
+
+SampleGraphic InPaperScale(SampleGraphic graphic) {
+    if (graphic) GraphicSetScaleSystem(graphic.get(), 0);
+    return graphic;
+}
+
+// Fifteen times the first gap of the dash list.
+double PatternLength(TableStruct* table, uint16_t style, int items) {
+    double pattern[64]; // a longer list is scaled as one without a gap
+    if (items > static_cast<int>(std::size(pattern))) return kLengthWithoutGap;
+    std::fill(std::begin(pattern), std::end(pattern), 0.0);
+    LineStyleGetPattern(table, style, pattern);
+    for (int i = 0; i < items; ++i) {
+        const double length = pattern[i] < 0.0 ? -pattern[i] * kGapsAcross : 0.0;
+        if (length > kNoLength) return length;
+    }
+    return kLengthWithoutGap;
+}
+
+void DrawStyledSample(const DRAWITEMSTRUCT& request, const LineStyleItem& item, const RECT& cell) {
+    GraphicSetPenStyle(item.graphic, static_cast<uint16_t>(item.style));
+    GraphicSetPenScale(item.graphic, LineSampleScale(item.table, item.style, SampleWidth(item.graphic)));
+    DrawSample(item.graphic, item.viewport, request.hDC, cell);
+}
+
+void LoadSpecialName(unsigned int style, char* name, int size) {
+    DrawCoreLoadString(style == kLineStyleDefault ? kStringByLayer : kStringByBlock, name, size);
+}
+
+} // namespace
+
+bool IsListedStyle(const char* name) {
+    return std::strcmp(name, "$CONSTRUCTION") != 0 && std::strcmp(name, "$AUXILIARY") != 0;
+}
+
+SampleGraphic MakeComboLineSample(int controlWidth) {
+    const double w = SampleUnits(controlWidth, 16, 320);
+    const ScratchVertex vertex(VertexNewFromEx(nullptr));
+    return InPaperScale(
+        MakeSampleGraphic(vertex, {{0.01 * w, 0.5, Stroke::Starts}, {0.99 * w, 0.5, Stroke::Continues}}));
+}
+
+// The outer vertices draw nothing; they widen the extents.
+SampleGraphic MakeListLineSample(int controlWidth) {
+    const double w = SampleUnits(controlWidth, 6, 136);
+    const ScratchVertex vertex(VertexNewEx(0.0, 0.0, 0.0));
+    return InPaperScale(MakeSampleGraphic(vertex, {{0.0, 0.0, Stroke::Kept},
+                                                   {0.01 * w, 0.5, Stroke::Starts},
+                                                   {0.99 * w, 0.5, Stroke::Continues},
+                                                   {w, 1.0, Stroke::Starts}}));
+}
+
+ItemText DefaultLineStyleItem() {
+    ItemText text(kLineStyleDefault);
+    LoadSpecialName(kLineStyleDefault, text.name(), kHostTextSize);
+    return text;
+}
+
+double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth) {
+    const uint16_t id = static_cast<uint16_t>(style);
+    const int items = LineStyleGetDLItems(table, id);
+    return items > 1 ? sampleWidth / PatternLength(table, id, items) : 1.0;
+}
+
+bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const LineStyleItem& item) {
+    ClearItem(request);
+    if (item.style == 0 || item.style >= kLineStyleMixed) return true;
+
+    const RECT cell = Inflated(request.rcItem, -2);
+    const bool special = item.style == kLineStyleDefault || item.style == kLineStyleHidden;
+    if (!special && !item.table) return false;
+    if (!special && item.graphic && item.viewport) {
+        DrawStyledSample(request, item, cell);
+        return true;
+    }
+    char name[kItemTextSize];
+    ::lstrcpynA(name, item.name, sizeof name);
+    if (special && !*name) LoadSpecialName(item.style, name, kHostTextSize);
+    const POINT at = {request.rcItem.left + look.textAt.x, request.rcItem.top + look.textAt.y};
+    if (*name) DrawFramedName(request, look.framesCell ? cell : request.rcItem, at, name);
+    return true;
+}

@@ -1,0 +1,76 @@
+// CListControl: a list box that shows the entries of a host table.
+
+#include "orlo/controls/list_control.h"
+
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/table_control.h"
+
+WNDPROC CListControl::lpfnSuperWndProc = nullptr;
+
+IMPLEMENT_DYNAMIC(CListControl, CListBox)
+
+BEGIN_MESSAGE_MAP(CListControl, CListBox)
+ON_WM_DESTROY()
+ON_WM_NCCREATE()
+ON_WM_LBUTTONDOWN()
+ON_MESSAGE(kFillMessage, &CListControl::OnFillMessage)
+ON_MESSAGE(WM_INITIALUPDATE, &CListControl::OnInitialUpdate)
+END_MESSAGE_MAP()
+
+CListControl::CListControl(unsigned int nControlID) : m_nControlID(nControlID) {}
+
+CListControl::CListControl(unsigned int nControlID, HWND hWnd) : m_nControlID(nControlID), m_bAutoDelete(1) {
+    Attach(hWnd);
+}
+
+CListControl::~CListControl() = default;
+
+int CListControl::Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) {
+    return CWnd::Create("ListBox", nullptr, dwStyle, rect, pParent, nID);
+}
+
+WNDPROC* CListControl::GetSuperWndProcAddr() {
+    return &lpfnSuperWndProc;
+}
+
+void CListControl::PostNcDestroy() {
+    if (m_bAutoDelete) delete this;
+}
+
+unsigned long CListControl::GetControlItem(int index, char* text) {
+    return ItemOf(ControlItems::OfList(m_hWnd), index, text);
+}
+
+void CListControl::FillControl(WPARAM, LPARAM lParam) {
+    ControlFill filling(m_hWnd);
+    if (!BeginFill(*this, lParam)) return;
+    ForEachTableItem(m_pTable, [this](ItemText& text) { AddString(text.c_str()); });
+    SetCurSel(FindItem(m_nSelected));
+}
+
+void CListControl::OnDestroy() {
+    NotifyApplication(*this, m_nControlID, kControlGone);
+    Default();
+}
+
+int CListControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
+    m_dwStyle = static_cast<unsigned long>(lpCreateStruct->style);
+    return static_cast<int>(Default());
+}
+
+void CListControl::OnLButtonDown(UINT, CPoint) {
+    Default();
+}
+
+LRESULT CListControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
+    FillControl(wParam, lParam);
+    return 0;
+}
+
+LRESULT CListControl::OnInitialUpdate(WPARAM, LPARAM) {
+    SubclassCtl3d(1);
+    UseSharedFont(m_hWnd);
+    SetControlHeight(m_hWnd, m_nHeight);
+    NotifyApplication(*this, m_nControlID, kControlReady);
+    return 0;
+}

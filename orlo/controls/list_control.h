@@ -1,0 +1,55 @@
+// CListControl: a list box that shows the entries of a host table; base of the library's lists, and the twin
+// of CComboControl, whose header tells how both come to life and get their table. It draws nothing.
+#pragma once
+
+#include <afxwin.h>
+
+#include "orlo/binding/fuzzy.h"
+#include "orlo/controls/control_fill.h"
+#include "orlo/controls/control_item.h"
+#include "orlo/export.h"
+
+class ORLO_API CListControl : public CListBox {
+    DECLARE_DYNAMIC(CListControl)
+public:
+    // nControlID: the kind of the control, not its identifier in a dialog.
+    explicit CListControl(unsigned int nControlID);
+    ~CListControl() override;
+
+    int Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) override;
+
+    // As in CComboControl.
+    virtual unsigned long GetControlItem(int index, char* text);
+    virtual void FillControl(WPARAM wParam, LPARAM lParam);
+
+    unsigned int m_nControlID;
+    int m_nHeight = 320;             // given to the window at WM_INITIALUPDATE, in device pixels
+    unsigned long m_dwStyle = 0;     // window style at the creation
+    int m_bAutoDelete = 0;           // the object goes with its window
+    TableStruct* m_pTable = nullptr; // the host's
+    unsigned int m_nSelected = 0;    // identifier last given to select
+
+    static WNDPROC lpfnSuperWndProc; // window procedure of the system's list box
+
+protected:
+    // For the factory: takes a window that has no object, and deletes itself after it.
+    CListControl(unsigned int nControlID, HWND hWnd);
+
+    WNDPROC* GetSuperWndProcAddr() override;
+    void PostNcDestroy() override;
+
+    // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.
+    int FindItem(unsigned int nID) const {
+        char key[kKeySize];
+        DWord_to_Hex(nID, key);
+        return nID == 0 || nID == 0xFFFF ? -1 : FindString(-1, key);
+    }
+
+    afx_msg void OnDestroy();
+    afx_msg int OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnFillMessage(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+};

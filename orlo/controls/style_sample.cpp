@@ -1,0 +1,51 @@
+// The sample by which a control shows a style.
+
+#include "orlo/controls/style_sample.h"
+
+#include "orlo/controls/paint.h"
+
+namespace {
+
+constexpr uint16_t kContinues = 1; // bit of VertexStruct::wFlags
+
+} // namespace
+
+void DisposeSampleGraphic::operator()(GraphicStruct* graphic) const {
+    GraphicAttach(graphic, nullptr);
+    GraphicDispose(&graphic);
+}
+
+void DisposeViewport::operator()(ViewportStruct* viewport) const {
+    ViewportDispose(&viewport);
+}
+
+void DisposeVertex::operator()(VertexStruct* vertex) const {
+    VertexDispose(&vertex);
+}
+
+SampleGraphic MakeSampleGraphic(const ScratchVertex& vertex, std::initializer_list<SampleVertex> vertices) {
+    if (!vertex) return nullptr;
+    SampleGraphic graphic(GraphicNewEx(kGraphicVertices, 0, 1));
+    if (!graphic) return nullptr;
+    for (const SampleVertex& at : vertices) {
+        VertexSet(vertex.get(), at.x, at.y, 0.0);
+        if (at.stroke == Stroke::Starts) vertex->wFlags &= static_cast<uint16_t>(~kContinues);
+        if (at.stroke == Stroke::Continues) vertex->wFlags |= kContinues;
+        GraphicVertexAdd(graphic.get(), vertex.get());
+    }
+    GraphicSetPenColor(graphic.get(), 0);
+    return graphic;
+}
+
+void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell) {
+    const SavedDC saved(dc);
+    ViewportSetRect(viewport, &cell);
+    ViewportSetExtents(viewport, GraphicGetExtentsSel(graphic, 0), 3);
+    ViewportSetGDIStuff(viewport, nullptr, dc, ::GetMapMode(dc), 1);
+    GraphicDrawEx2(graphic, nullptr, viewport, 0, 1);
+}
+
+double SampleWidth(GraphicStruct* graphic) {
+    const ExtentsStruct* const extents = GraphicGetExtentsSel(graphic, 0);
+    return ExtentsGetX2(extents) - ExtentsGetX1(extents);
+}

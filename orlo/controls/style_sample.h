@@ -1,0 +1,58 @@
+// The sample by which a control shows a style: a small graphic of the host that is restyled for each item,
+// and the viewport in which the host draws it. Knows no control.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <windows.h>
+
+#include "orlo/host/graphic.h"
+#include "orlo/host/table.h"
+#include "orlo/host/vertex.h"
+#include "orlo/host/viewport.h"
+
+// Unties a graphic from its drawing and frees it.
+struct DisposeSampleGraphic {
+    void operator()(GraphicStruct* graphic) const;
+};
+struct DisposeViewport {
+    void operator()(ViewportStruct* viewport) const;
+};
+struct DisposeVertex {
+    void operator()(VertexStruct* vertex) const;
+};
+
+using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
+using SampleViewport = std::unique_ptr<ViewportStruct, DisposeViewport>;
+using ScratchVertex = std::unique_ptr<VertexStruct, DisposeVertex>;
+
+// Whether a vertex starts a stroke or continues the one before; Kept: as the vertex before it.
+enum class Stroke { Kept, Starts, Continues };
+
+struct SampleVertex {
+    double x, y; // drawing units
+    Stroke stroke;
+};
+
+// A vertex graphic in pen colour 0, built with the one vertex set anew each time; null if either cannot be
+// made.
+SampleGraphic MakeSampleGraphic(const ScratchVertex& vertex, std::initializer_list<SampleVertex> vertices);
+
+// Ties the sample to the drawing that owns the table of its styles; without a table unties it, so that a
+// drawing that the host closes is left in time. makeGraphic is called if the control has been given a table
+// before it has a sample.
+template <class MakeGraphic>
+void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table,
+                  MakeGraphic makeGraphic) {
+    if (table && !graphic) graphic = makeGraphic();
+    if (table && !viewport) viewport.reset(ViewportNewEx());
+    DrawingStruct* const drawing = table ? TableGetOwner(table) : nullptr;
+    if (graphic) GraphicAttach(graphic.get(), drawing);
+    if (viewport) ViewportSetDrawing(viewport.get(), drawing);
+}
+
+// Draws the sample as it is styled now, fitted into the cell (device pixels). dc comes back as it was.
+void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell);
+
+// Width of the sample in drawing units.
+double SampleWidth(GraphicStruct* graphic);

@@ -1,0 +1,33 @@
+// What the combo and the list of a host table have in common. Internal to the library.
+#pragma once
+
+#include "orlo/controls/control_fill.h"
+#include "orlo/controls/control_item.h"
+#include "orlo/controls/control_items.h"
+
+// Empties a control for the record of a fill message, and takes table and selection over from it. False if
+// there is no table to fill it from; so is a null lParam.
+template <class Control>
+bool BeginFill(Control& control, LPARAM lParam) {
+    const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
+    control.ResetContent();
+    control.m_pTable = record ? record->pTable : nullptr;
+    if (record) control.m_nSelected = record->nSelected;
+    return control.m_pTable != nullptr;
+}
+
+// Identifier of an item; its name goes to a buffer of kItemTextSize bytes. 0 and no text without such an
+// item.
+unsigned long ItemOf(const ControlItems& items, int index, char* text);
+
+// The shared control font for a control that gets WM_INITIALUPDATE.
+void UseSharedFont(HWND control);
+
+// Device pixels.
+int WindowWidth(HWND window);
+
+// Gives a control that height, its width and place as they are. Nothing is redrawn.
+void SetControlHeight(HWND control, int height);
+
+// Tells the application about a control of that kind; see combo_control.h.
+void NotifyApplication(CWnd& control, unsigned int kind, unsigned int notification);

@@ -1,0 +1,10 @@
+// Height of a line of text in an owner-drawn control.
+#pragma once
+
+#include <windows.h>
+
+#include "orlo/export.h"
+
+// Height of "M" in device pixels, in the font that a device context of the window has by default; 16 without
+// one.
+ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
