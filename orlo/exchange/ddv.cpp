@@ -1,0 +1,87 @@
+// Checks of values against limits.
+
+#include "orlo/exchange/ddv.h"
+
+#include "orlo/exchange/failure.h"
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr double kLargest = 1e38;
+constexpr double kSmallestFontSize = 1e-7;
+
+// Limits go through long: every width here has 32 bits at the most, and the format tells signed from
+// unsigned.
+template <class Whole>
+int CheckWhole(int bReport, CDataExchange* pDX, Whole value, Whole min, Whole max, const char* format) {
+    if (value >= min && value <= max) return 1;
+    return FailIntRange(bReport, pDX, static_cast<long>(min), static_cast<long>(max), format,
+                        AFX_IDP_PARSE_INT_RANGE);
+}
+
+template <class Real>
+int CheckReal(int bReport, CDataExchange* pDX, Real value, Real min, Real max, int digits, UINT nIDPrompt) {
+    if (!(value < min || value > max)) return 1;
+    return FailRealRange(bReport, pDX, min, max, digits, nIDPrompt);
+}
+
+} // namespace
+
+int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min,
+                   unsigned char max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%u");
+}
+
+int DDV_MinMaxInt(int bReport, CDataExchange* pDX, int value, int min, int max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+}
+
+int DDV_MinMaxUI2(int bReport, CDataExchange* pDX, unsigned short value, unsigned short min,
+                  unsigned short max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+}
+
+int DDV_MinMaxLong(int bReport, CDataExchange* pDX, long value, long min, long max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+}
+
+int DDV_MinMaxUInt(int bReport, CDataExchange* pDX, unsigned int value, unsigned int min, unsigned int max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%lu");
+}
+
+int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long value, unsigned long min,
+                    unsigned long max) {
+    return CheckWhole(bReport, pDX, value, min, max, "%lu");
+}
+
+int DDV_MinMaxFloat(int bReport, CDataExchange* pDX, const float& value, float min, float max) {
+    return CheckReal(bReport, pDX, value, min, max, 6, AFX_IDP_PARSE_REAL_RANGE);
+}
+
+int DDV_MinMaxDouble(int bReport, CDataExchange* pDX, const double& value, double min, double max) {
+    return CheckReal(bReport, pDX, value, min, max, 15, AFX_IDP_PARSE_REAL_RANGE);
+}
+
+int DDV_Radians(int bReport, CDataExchange* pDX, const double& value) {
+    return CheckReal(bReport, pDX, value, -kLargest, kLargest, 15, IDS_ENTER_ANGLE);
+}
+
+int DDV_FontSize(int bReport, CDataExchange* pDX, const double& value) {
+    return CheckReal(bReport, pDX, value, kSmallestFontSize, kLargest, 15, IDS_ENTER_FONT_SIZE);
+}
+
+int DDV_PositiveValue(int bReport, CDataExchange* pDX, const double& value) {
+    if (value > 0.0 || !pDX->m_bSaveAndValidate) return 1;
+    return FailWithPrompt(bReport, pDX, IDS_ENTER_POSITIVE, MB_ICONEXCLAMATION);
+}
+
+int DDV_MaxChars(int bReport, CDataExchange* pDX, const CString& value, int nChars) {
+    if (!pDX->m_bSaveAndValidate || value.GetLength() <= nChars) return 1;
+    if (bReport) {
+        CString limit, message;
+        limit.Format("%d", nChars);
+        AfxFormatString1(message, AFX_IDP_PARSE_STRING_SIZE, limit);
+        AfxMessageBox(message, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
+    }
+    return FailExchange(bReport, pDX);
+}

@@ -1,0 +1,151 @@
+// Exchange of numbers and texts with edit controls.
+
+#include "orlo/exchange/ddx_text.h"
+
+#include <cmath>
+
+#include "orlo/exchange/failure.h"
+#include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/number_text.h"
+#include "orlo/exchange/window_text.h"
+#include "orlo/host/units.h"
+
+namespace {
+
+constexpr int kTextSize = 32;  // numbers are read from the first 31 characters
+constexpr int kRealDigits = 6; // significant digits of a real number in a field
+
+// How a kind of whole number is written, read, and refused.
+struct WholeFormat {
+    const char* print;
+    bool isUnsigned;
+    UINT prompt;
+};
+
+constexpr WholeFormat kByte = {"%u", true, AFX_IDP_PARSE_BYTE};
+constexpr WholeFormat kSigned = {"%ld", false, AFX_IDP_PARSE_INT};
+constexpr WholeFormat kWord = {"%ld", false, AFX_IDP_PARSE_UINT};
+constexpr WholeFormat kUnsigned = {"%lu", true, AFX_IDP_PARSE_UINT};
+
+int ExchangeFormattedText(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& format, long& value) {
+    const HWND control = pDX->PrepareEditCtrl(nIDC);
+    char text[kTextSize] = "";
+    if (pDX->m_bSaveAndValidate) {
+        ::GetWindowTextA(control, text, sizeof text);
+        return ScanTextValue(text, format.isUnsigned, value) ? 1
+                                                             : FailWithPrompt(bReport, pDX, format.prompt);
+    }
+    ::wsprintfA(text, format.print, value);
+    AfxSetWindowText(control, text);
+    return 1;
+}
+
+template <class Whole>
+int ExchangeWhole(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& format, Whole& value) {
+    long local = static_cast<long>(value);
+    const int result = ExchangeFormattedText(bReport, pDX, nIDC, format, local);
+    if (result && pDX->m_bSaveAndValidate) value = static_cast<Whole>(local);
+    return result;
+}
+
+// Saves into data, loads from value: a double field shows its own value and saves a float.
+int ExchangeRealText(int bReport, CDataExchange* pDX, int nIDC, float& data, double value) {
+    const HWND control = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        char text[kTextSize] = "";
+        ::GetWindowTextA(control, text, sizeof text);
+        return ScanRealText(text, data) ? 1 : FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
+    }
+    const double magnitude = std::fabs(value);
+    const int exponentForm = magnitude > 100000.0 || (magnitude < 1e-5 && value != 0.0);
+    char text[128] = "";
+    DoubleToString(0, value, kRealDigits, text, 0, exponentForm, 1);
+    AfxSetWindowText(control, text);
+    return 1;
+}
+
+// What a blank field and a disabled control mean; everything else is the plain exchange.
+template <class Value>
+int ExchangeBlank(int bReport, CDataExchange* pDX, int nIDC, Value& value) {
+    const HWND control = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate && IsBlankText(control)) {
+        value = 0;
+        return 1;
+    }
+    if (!pDX->m_bSaveAndValidate && !::IsWindowEnabled(control)) {
+        ::SetWindowTextA(control, "");
+        return 1;
+    }
+    return DDX_Text(bReport, pDX, nIDC, value);
+}
+
+} // namespace
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value) {
+    long local = value;
+    const int result = ExchangeFormattedText(bReport, pDX, nIDC, kByte, local);
+    if (!result || !pDX->m_bSaveAndValidate) return result;
+    if (local > 255) return FailWithPrompt(bReport, pDX, kByte.prompt);
+    value = static_cast<unsigned char>(local);
+    return 1;
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, int& value) {
+    return ExchangeWhole(bReport, pDX, nIDC, kSigned, value);
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) {
+    return ExchangeWhole(bReport, pDX, nIDC, kWord, value);
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value) {
+    return ExchangeWhole(bReport, pDX, nIDC, kUnsigned, value);
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, long& value) {
+    return ExchangeWhole(bReport, pDX, nIDC, kSigned, value);
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned long& value) {
+    return ExchangeWhole(bReport, pDX, nIDC, kUnsigned, value);
+}
+
+int DDX_Text(int, CDataExchange* pDX, int nIDC, CString& value) {
+    const HWND control = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = WindowText(control);
+    else
+        AfxSetWindowText(control, value);
+    return 1;
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, float& value) {
+    return ExchangeRealText(bReport, pDX, nIDC, value, value);
+}
+
+int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, double& value) {
+    // Only ExchangeRealText prepares the control, so a field with the marker never becomes the one to return
+    // to.
+    const HWND control = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        if (control && IsIndeterminateText(WindowText(control))) return 0;
+        float local = 0.0f;
+        const int result = ExchangeRealText(bReport, pDX, nIDC, local, value);
+        value = local;
+        return result;
+    }
+    if (control && value == HUGE_VAL) {
+        SetIndeterminateText(control);
+        return 1;
+    }
+    float unused = 0.0f;
+    return ExchangeRealText(bReport, pDX, nIDC, unused, value);
+}
+
+int DDX_TextBlank(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value) {
+    return ExchangeBlank(bReport, pDX, static_cast<int>(nIDC), value);
+}
+
+int DDX_TextBlank(int bReport, CDataExchange* pDX, unsigned int nIDC, unsigned int& value) {
+    return ExchangeBlank(bReport, pDX, static_cast<int>(nIDC), value);
+}

@@ -1,0 +1,44 @@
+// How an exchange function fails.
+
+#include "orlo/exchange/failure.h"
+
+#include "orlo/host/units.h"
+
+namespace {
+
+int FailWithLimits(CDataExchange* pDX, const char* min, const char* max, UINT nIDPrompt) {
+    CString message;
+    AfxFormatString2(message, nIDPrompt, min, max);
+    AfxMessageBox(message, MB_ICONEXCLAMATION, nIDPrompt);
+    return FailExchange(1, pDX);
+}
+
+} // namespace
+
+int FailExchange(int bReport, CDataExchange* pDX) {
+    if (bReport) pDX->Fail();
+    return 0;
+}
+
+int FailWithPrompt(int bReport, CDataExchange* pDX, UINT nIDPrompt, UINT nType) {
+    if (bReport) AfxMessageBox(nIDPrompt, nType, static_cast<UINT>(-1));
+    return FailExchange(bReport, pDX);
+}
+
+int FailIntRange(int bReport, CDataExchange* pDX, long min, long max, const char* format, UINT nIDPrompt) {
+    if (!pDX->m_bSaveAndValidate) return 1;
+    if (!bReport) return 0;
+    char minText[32], maxText[32];
+    ::wsprintfA(minText, format, min);
+    ::wsprintfA(maxText, format, max);
+    return FailWithLimits(pDX, minText, maxText, nIDPrompt);
+}
+
+int FailRealRange(int bReport, CDataExchange* pDX, double min, double max, int digits, UINT nIDPrompt) {
+    if (!pDX->m_bSaveAndValidate) return 1;
+    if (!bReport) return 0;
+    char minText[128] = "", maxText[128] = "";
+    DoubleToString(0, min, digits, minText, 0, 0, 1);
+    DoubleToString(0, max, digits, maxText, 0, 0, 1);
+    return FailWithLimits(pDX, minText, maxText, nIDPrompt);
+}

@@ -1,0 +1,41 @@
+// Reading numbers from texts.
+
+#include "orlo/exchange/number_text.h"
+
+#include <cfloat>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#include "orlo/host/units.h"
+
+namespace {
+
+const char* SkipBlanks(const char* text) {
+    return text + std::strspn(text, " \t");
+}
+
+} // namespace
+
+bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
+    const char* const first = SkipBlanks(text);
+    char* end = nullptr;
+    const long result =
+        isUnsigned ? static_cast<long>(std::strtoul(first, &end, 10)) : std::strtol(first, &end, 10);
+    // Zero must be written as a zero: so an empty text is refused, and a lone sign.
+    if (result == 0 && *first != '0') return false;
+    if (*SkipBlanks(end) != '\0') return false;
+    value = result;
+    return true;
+}
+
+bool ScanRealText(const char* text, float& value) {
+    const char* const first = SkipBlanks(text);
+    char* end = nullptr;
+    const double result = StringToDouble(0, first, &end);
+    if (result == 0.0 && *first != '0') return false;
+    if (!end || *SkipBlanks(end) != '\0') return false;
+    if (!(std::fabs(result) <= FLT_MAX)) return false;
+    value = static_cast<float>(result);
+    return true;
+}

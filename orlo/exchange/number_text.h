@@ -1,0 +1,10 @@
+// Reading numbers from texts. No window, no data exchange. Internal to this folder.
+#pragma once
+
+// The whole number that makes up the text. isUnsigned as strtoul, which takes a minus sign, else as strtol; a
+// number beyond 32 bits gives the limit. False, with value untouched: no digit, or more than the number.
+bool ScanTextValue(const char* text, bool isUnsigned, long& value);
+
+// The real number that makes up the text, as the host reads it. False, with value untouched: no number that
+// begins with a digit or is not zero, more than the number, or too large for a float.
+bool ScanRealText(const char* text, float& value);
