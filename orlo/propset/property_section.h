@@ -88,12 +88,13 @@ private:
     friend class CPropertySet;
 
     POSITION FindProperty(DWORD dwPropID);
-    void EnsureDictionarySlot();
     int AppendTo(orlo::ImageWriter& image);
-    int AppendDictionaryTo(orlo::ImageWriter& image) const;
+    void AppendDictionary(orlo::ImageWriter& image) const;
     int ReadFrom(orlo::StreamReader& reader, ULONGLONG base);
-    int ReadProperty(orlo::StreamReader& reader, DWORD dwPropID);
-    int ReadDictionaryFrom(orlo::StreamReader& reader);
+    int ReadTable(orlo::StreamReader& reader, ULONGLONG values, ULONGLONG table);
+    void ReadProperty(orlo::StreamReader& reader, DWORD dwPropID);
+    bool HasWideNames(orlo::StreamReader& reader);
+    int ReadDictionary(orlo::StreamReader& reader);
 
     GUID m_FormatID;
     DWORD m_dwSize;
@@ -101,6 +102,7 @@ private:
     CObList m_PropertyList;
     CMapStringToPtr m_NameMap;
     CString m_strSectionName;
+    bool m_bListGivenOut;
     std::unique_ptr<orlo::PropertyIndex> m_pIndex;
     std::unique_ptr<orlo::NameIndex> m_pNameIndex;
 };

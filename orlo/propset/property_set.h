@@ -60,7 +60,9 @@ public:
     int ReadFromStream(IStream* pStream);
 
 private:
-    POSITION FindSection(GUID FormatID);
+    POSITION FindSection(const GUID& FormatID);
+    int AppendTo(orlo::ImageWriter& image, ULONGLONG start);
+    int ReadFrom(orlo::StreamReader& reader, ULONGLONG base);
 
     WORD m_wByteOrder; // these five are the header as it stands on the stream
     WORD m_wFormatVersion;

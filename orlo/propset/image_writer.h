@@ -1,0 +1,39 @@
+// ImageWriter: composes what goes on a stream in memory, so that it goes there in one Write. Used inside the library.
+#pragma once
+
+#include <objidl.h>
+
+#include <cstring>
+#include <vector>
+
+namespace orlo {
+
+class ImageWriter {
+public:
+    size_t Size() const { return bytes_.size(); }
+
+    void Put(const void* bytes, size_t size) {
+        const auto* begin = static_cast<const uint8_t*>(bytes);
+        bytes_.insert(bytes_.end(), begin, begin + size);
+    }
+    void Put16(uint16_t number) { Put(&number, sizeof number); }
+    void Put32(uint32_t number) { Put(&number, sizeof number); }
+    void PutZeros(size_t count) { bytes_.resize(bytes_.size() + count); }
+    // Writes over bytes that are there.
+    void Patch(size_t at, const void* bytes, size_t size) { std::memcpy(&bytes_[at], bytes, size); }
+    void Patch32(size_t at, uint32_t number) { Patch(at, &number, sizeof number); }
+
+    // True if all of it went to the stream.
+    bool WriteTo(IStream* stream) const {
+        ULONG done = 0;
+        return bytes_.size() <= UINT32_MAX &&
+               SUCCEEDED(stream->Write(bytes_.data(), static_cast<ULONG>(bytes_.size()), &done)) &&
+               done == bytes_.size();
+    }
+    std::vector<uint8_t> Take() { return std::move(bytes_); }
+
+private:
+    std::vector<uint8_t> bytes_;
+};
+
+} // namespace orlo

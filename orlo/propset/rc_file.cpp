@@ -1,0 +1,91 @@
+#include "orlo/propset/rc_file.h"
+
+#include <string>
+
+namespace {
+
+constexpr int kWrapColumn = 70;
+constexpr int kIndent = 4;
+constexpr int kBreakColumn = 1000; // beyond every line: the next item begins one
+
+// As it stands between the quotes of a script's text. Line feeds, tabs and their like too are written by number: a raw
+// line feed ends the literal for windres.
+void AppendEscaped(std::string& text, char character) {
+    const auto code = static_cast<unsigned char>(character);
+    if (code < 0x20) {
+        char escape[8];
+        std::snprintf(escape, sizeof escape, "\\x%02X", code);
+        text += escape;
+        return;
+    }
+    if (character == '\\' || character == '"') text += character;
+    text += character;
+}
+
+} // namespace
+
+CRCFile::CRCFile() : m_nColumn(0), m_bNeedComma(0) {}
+CRCFile::CRCFile(FILE* pOpenStream) : CStdioFile(pOpenStream), m_nColumn(0), m_bNeedComma(0) {}
+CRCFile::CRCFile(const char* pszFileName, UINT nOpenFlags)
+    : CStdioFile(pszFileName, nOpenFlags), m_nColumn(0), m_bNeedComma(0) {}
+CRCFile::~CRCFile() = default;
+
+void CRCFile::NewLine() { m_nColumn = kBreakColumn; }
+
+void CRCFile::Format() {
+    if (m_nColumn > kWrapColumn) {
+        CStdioFile::WriteString(m_bNeedComma ? ",\n    " : "\n    ");
+        m_nColumn = kIndent;
+    } else if (m_bNeedComma) {
+        CStdioFile::WriteString(", ");
+        m_nColumn += 2;
+    }
+    m_bNeedComma = 1;
+}
+
+void CRCFile::WriteString(const char* psz) {
+    Format();
+    CStdioFile::WriteString(psz);
+    m_nColumn += static_cast<int>(std::char_traits<char>::length(psz));
+}
+
+void CRCFile::WriteCString(const char* psz, DWORD cb) {
+    Format();
+    Write("\"", 1);
+    std::string text;
+    DWORD done = 0;
+    for (; done < cb && psz[done] != '\0'; ++done)
+        AppendEscaped(text, psz[done]);
+    text += done < cb ? "\\0\"" : "\"";
+    Write(text.data(), static_cast<UINT>(text.size()));
+    m_nColumn += static_cast<int>(text.size());
+}
+
+void CRCFile::WriteByte(BYTE b) {
+    if (b == 0) {
+        WriteNULByte();
+        return;
+    }
+    char item[8];
+    std::snprintf(item, sizeof item, "\"\\x%02X\"", b);
+    WriteString(item);
+}
+
+void CRCFile::WriteWord(WORD w) {
+    char item[8];
+    std::snprintf(item, sizeof item, "0x%04X", w);
+    WriteString(item);
+}
+
+void CRCFile::WriteDWord(DWORD dw) {
+    WriteWord(static_cast<WORD>(dw));
+    WriteWord(static_cast<WORD>(dw >> 16));
+}
+
+void CRCFile::WriteBytes(BYTE* p, int n) {
+    for (; n >= 2; p += 2, n -= 2)
+        WriteWord(static_cast<WORD>(p[0] | p[1] << 8));
+    if (n > 0) WriteByte(*p);
+}
+
+void CRCFile::WriteNULByte() { WriteString("\"\\0\""); }
