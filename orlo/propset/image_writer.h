@@ -1,4 +1,5 @@
-// ImageWriter: composes what goes on a stream in memory, so that it goes there in one Write. Used inside the library.
+// ImageWriter: composes what goes on a stream in memory, so that it goes there in one Write. Used inside the
+// library.
 #pragma once
 
 #include <objidl.h>

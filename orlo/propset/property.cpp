@@ -7,8 +7,8 @@
 #include "orlo/propset/image_writer.h"
 #include "orlo/propset/property_index.h"
 #include "orlo/propset/rc_file.h"
-#include "orlo/propset/stream_reader.h"
 #include "orlo/propset/stored_text.h"
+#include "orlo/propset/stream_reader.h"
 #include "orlo/propset/value_form.h"
 
 namespace {
@@ -17,8 +17,12 @@ using orlo::Form;
 using orlo::FormOf;
 using orlo::TypeForm;
 
-DWORD BaseType(DWORD type) { return type & ~static_cast<DWORD>(VT_VECTOR); }
-bool IsVector(DWORD type) { return (type & VT_VECTOR) != 0; }
+DWORD BaseType(DWORD type) {
+    return type & ~static_cast<DWORD>(VT_VECTOR);
+}
+bool IsVector(DWORD type) {
+    return (type & VT_VECTOR) != 0;
+}
 
 // What goes on the stream for a property.
 struct Stored {
@@ -27,7 +31,8 @@ struct Stored {
     size_t size;
 };
 
-// An empty value in the form of the type; for a fixed size, of which every value would be an invention, VT_EMPTY.
+// An empty value in the form of the type; for a fixed size, of which every value would be an invention,
+// VT_EMPTY.
 Stored EmptyValue(DWORD type) {
     static const BYTE kNoElements[4] = {};
     static const BYTE kEmptyText[5] = {1};
@@ -71,9 +76,12 @@ std::optional<Stored> StoredForm(DWORD type, const void* block, DWORD blockSize)
     return Stored{type, bytes, *size};
 }
 
-size_t PaddingOf(size_t size) { return (4 - size % 4) % 4; }
+size_t PaddingOf(size_t size) {
+    return (4 - size % 4) % 4;
+}
 
-// The bytes of the elements at the reader's position, which stays where it is. Nothing if a count falls short.
+// The bytes of the elements at the reader's position, which stays where it is. Nothing if a count falls
+// short.
 std::optional<ULONGLONG> MeasureElements(orlo::StreamReader& reader, const TypeForm& form, DWORD count) {
     if (!form.inProperty) return std::nullopt;
     if (form.form == Form::fixed) return ULONGLONG{form.size} * count;
@@ -99,7 +107,9 @@ CProperty::CProperty(DWORD dwID, void* const pValue, DWORD dwType)
     Set(pValue);
 }
 
-CProperty::~CProperty() { FreeValue(); }
+CProperty::~CProperty() {
+    FreeValue();
+}
 
 int CProperty::Set(DWORD dwID, void* const pValue, DWORD dwType) {
     SetID(dwID);
@@ -169,11 +179,21 @@ void* CProperty::Get(DWORD* pcb) {
     return counted && !withCount ? block + 4 : block;
 }
 
-void* CProperty::Get() { return Get(nullptr); }
-void* CProperty::GetRawValue() { return m_pValue; }
-DWORD CProperty::GetType() { return m_dwType; }
-void CProperty::SetType(DWORD dwType) { m_dwType = dwType; }
-DWORD CProperty::GetID() { return m_dwID; }
+void* CProperty::Get() {
+    return Get(nullptr);
+}
+void* CProperty::GetRawValue() {
+    return m_pValue;
+}
+DWORD CProperty::GetType() {
+    return m_dwType;
+}
+void CProperty::SetType(DWORD dwType) {
+    m_dwType = dwType;
+}
+DWORD CProperty::GetID() {
+    return m_dwID;
+}
 
 void CProperty::SetID(DWORD dwPropID) {
     if (dwPropID == m_dwID) return;

@@ -10,13 +10,18 @@ namespace {
 
 std::atomic<unsigned> idChanges{0};
 
-DWORD ToId(void* mapped) { return static_cast<DWORD>(reinterpret_cast<uintptr_t>(mapped)); }
+DWORD ToId(void* mapped) {
+    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(mapped));
+}
 
 } // namespace
 
-void NotePropertyIdChange() { idChanges.fetch_add(1, std::memory_order_relaxed); }
+void NotePropertyIdChange() {
+    idChanges.fetch_add(1, std::memory_order_relaxed);
+}
 
-PropertyIndex::PropertyIndex(const CObList& properties) : changes_(idChanges.load(std::memory_order_relaxed)) {
+PropertyIndex::PropertyIndex(const CObList& properties)
+    : changes_(idChanges.load(std::memory_order_relaxed)) {
     places_.reserve(static_cast<size_t>(properties.GetCount()));
     for (POSITION next = properties.GetHeadPosition(); next != nullptr;) {
         const POSITION here = next;
@@ -24,7 +29,9 @@ PropertyIndex::PropertyIndex(const CObList& properties) : changes_(idChanges.loa
     }
 }
 
-bool PropertyIndex::IsUpToDate() const { return changes_ == idChanges.load(std::memory_order_relaxed); }
+bool PropertyIndex::IsUpToDate() const {
+    return changes_ == idChanges.load(std::memory_order_relaxed);
+}
 
 POSITION PropertyIndex::Find(DWORD id) const {
     const auto place = places_.find(id);

@@ -1,5 +1,5 @@
-// Look-up of a section's properties by ID and of its names by ID, for sections too large to walk. Used inside the
-// library.
+// Look-up of a section's properties by ID and of its names by ID, for sections too large to walk. Used inside
+// the library.
 #pragma once
 
 #include <afxcoll.h>
@@ -8,11 +8,12 @@
 
 namespace orlo {
 
-// A section of fewer properties or names is walked: that is quicker than an index, and real ones have a dozen.
+// A section of fewer properties or names is walked: that is quicker than an index, and real ones have a
+// dozen.
 constexpr int kIndexedFrom = 17;
 
-// Says that some property changed its ID: indexes made before are out of date. Which one it was doesn't matter, as
-// nobody renumbers properties between many look-ups.
+// Says that some property changed its ID: indexes made before are out of date. Which one it was doesn't
+// matter, as nobody renumbers properties between many look-ups.
 void NotePropertyIdChange();
 
 // The first place of each ID in a list of properties.

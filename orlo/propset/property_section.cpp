@@ -19,8 +19,12 @@ constexpr DWORD kDictionaryID = 0;
 constexpr DWORD kCodePageID = 1;
 constexpr DWORD kTableEntrySize = 8;
 
-void* ToMapped(DWORD id) { return reinterpret_cast<void*>(static_cast<uintptr_t>(id)); }
-DWORD ToId(void* mapped) { return static_cast<DWORD>(reinterpret_cast<uintptr_t>(mapped)); }
+void* ToMapped(DWORD id) {
+    return reinterpret_cast<void*>(static_cast<uintptr_t>(id));
+}
+DWORD ToId(void* mapped) {
+    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(mapped));
+}
 
 CString LowerCase(const char* name) {
     CString lower(name);
@@ -40,10 +44,16 @@ CPropertySection::CPropertySection(GUID FormatID)
     : m_FormatID(FormatID), m_dwSize(0), m_dwPropertyCount(0), m_PropertyList(10), m_NameMap(10),
       m_bListGivenOut(false) {}
 
-CPropertySection::~CPropertySection() { RemoveAll(); }
+CPropertySection::~CPropertySection() {
+    RemoveAll();
+}
 
-GUID CPropertySection::GetFormatID() { return m_FormatID; }
-void CPropertySection::SetFormatID(GUID FormatID) { m_FormatID = FormatID; }
+GUID CPropertySection::GetFormatID() {
+    return m_FormatID;
+}
+void CPropertySection::SetFormatID(GUID FormatID) {
+    m_FormatID = FormatID;
+}
 
 int CPropertySection::Set(DWORD dwPropID, void* pValue, DWORD dwType) {
     if (CProperty* existing = GetProperty(dwPropID)) {
@@ -68,7 +78,9 @@ void* CPropertySection::Get(DWORD dwPropID, DWORD* pcb) {
     return property != nullptr ? property->Get(pcb) : nullptr;
 }
 
-void* CPropertySection::Get(DWORD dwPropID) { return Get(dwPropID, nullptr); }
+void* CPropertySection::Get(DWORD dwPropID) {
+    return Get(dwPropID, nullptr);
+}
 
 void CPropertySection::Remove(DWORD dwPropID) {
     const POSITION position = FindProperty(dwPropID);
@@ -95,7 +107,8 @@ CProperty* CPropertySection::GetProperty(DWORD dwPropID) {
 
 POSITION CPropertySection::FindProperty(DWORD dwPropID) {
     if (m_PropertyList.GetCount() >= orlo::kIndexedFrom && !m_bListGivenOut) {
-        if (!m_pIndex || !m_pIndex->IsUpToDate()) m_pIndex = std::make_unique<orlo::PropertyIndex>(m_PropertyList);
+        if (!m_pIndex || !m_pIndex->IsUpToDate())
+            m_pIndex = std::make_unique<orlo::PropertyIndex>(m_PropertyList);
         return m_pIndex->Find(dwPropID);
     }
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;) {
@@ -116,8 +129,12 @@ void CPropertySection::AddProperty(CProperty* pProp) {
     ++m_dwPropertyCount;
 }
 
-DWORD CPropertySection::GetSize() { return m_dwSize; }
-DWORD CPropertySection::GetCount() { return static_cast<DWORD>(m_PropertyList.GetCount()); }
+DWORD CPropertySection::GetSize() {
+    return m_dwSize;
+}
+DWORD CPropertySection::GetCount() {
+    return static_cast<DWORD>(m_PropertyList.GetCount());
+}
 
 CObList* CPropertySection::GetList() {
     m_bListGivenOut = true; // from now on it changes without our knowing
@@ -166,7 +183,9 @@ int CPropertySection::SetSectionName(const char* pszName) {
     return 1;
 }
 
-const char* CPropertySection::GetSectionName() { return m_strSectionName; }
+const char* CPropertySection::GetSectionName() {
+    return m_strSectionName;
+}
 
 int CPropertySection::WriteToStream(IStream* pStream) {
     try {
@@ -291,7 +310,8 @@ int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
     return result;
 }
 
-// Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes has not.
+// Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes has
+// not.
 bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
     CProperty* codePage = GetProperty(kCodePageID);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;
@@ -336,7 +356,8 @@ int CPropertySection::WriteToRC(CRCFile* pRC) {
     DWORD offset = 8 + kTableEntrySize * m_dwPropertyCount;
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;) {
         CProperty* property = NextProperty(m_PropertyList, next);
-        const DWORD size = property->m_dwID == kDictionaryID ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
+        const DWORD size =
+            property->m_dwID == kDictionaryID ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
         if (size == 0) return 0;
         const ULONGLONG end = pRC->GetPosition();
         pRC->Seek(static_cast<LONGLONG>(entry), CStdioFile::begin);

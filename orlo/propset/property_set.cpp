@@ -15,7 +15,9 @@ constexpr DWORD kWindows = 2;
 constexpr size_t kHeaderSize = 28;
 constexpr size_t kListEntrySize = 20;
 
-bool IsSame(const GUID& a, const GUID& b) { return std::memcmp(&a, &b, sizeof(GUID)) == 0; }
+bool IsSame(const GUID& a, const GUID& b) {
+    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
+}
 
 CPropertySection* NextSection(const CObList& list, POSITION& position) {
     return static_cast<CPropertySection*>(list.GetNext(position));
@@ -30,7 +32,9 @@ CPropertySet::CPropertySet(GUID clsID)
       m_dwOSVersion((::GetVersion() & 0xFFFF) | kWindows << 16), m_ClassID(clsID), m_dwSectionCount(0),
       m_SectionList(10) {}
 
-CPropertySet::~CPropertySet() { RemoveAll(); }
+CPropertySet::~CPropertySet() {
+    RemoveAll();
+}
 
 int CPropertySet::Set(GUID FormatID, DWORD dwPropID, void* pValue, DWORD dwType) {
     AddSection(FormatID)->Set(dwPropID, pValue, dwType);
@@ -47,7 +51,9 @@ void* CPropertySet::Get(GUID FormatID, DWORD dwPropID, DWORD* pcb) {
     return section != nullptr ? section->Get(dwPropID, pcb) : nullptr;
 }
 
-void* CPropertySet::Get(GUID FormatID, DWORD dwPropID) { return Get(FormatID, dwPropID, nullptr); }
+void* CPropertySet::Get(GUID FormatID, DWORD dwPropID) {
+    return Get(FormatID, dwPropID, nullptr);
+}
 
 void CPropertySet::Remove(GUID FormatID, DWORD dwPropID) {
     if (CPropertySection* section = GetSection(FormatID)) section->Remove(dwPropID);
@@ -104,15 +110,33 @@ void CPropertySet::AddProperty(GUID FormatID, CProperty* pProp) {
     if (CPropertySection* section = GetSection(FormatID)) section->AddProperty(pProp);
 }
 
-WORD CPropertySet::GetByteOrder() { return m_wByteOrder; }
-WORD CPropertySet::GetFormatVersion() { return m_wFormatVersion; }
-void CPropertySet::SetFormatVersion(WORD wFmtVersion) { m_wFormatVersion = wFmtVersion; }
-DWORD CPropertySet::GetOSVersion() { return m_dwOSVersion; }
-void CPropertySet::SetOSVersion(DWORD dwOSVer) { m_dwOSVersion = dwOSVer; }
-GUID CPropertySet::GetClassID() { return m_ClassID; }
-void CPropertySet::SetClassID(GUID clsID) { m_ClassID = clsID; }
-DWORD CPropertySet::GetCount() { return static_cast<DWORD>(m_SectionList.GetCount()); }
-CObList* CPropertySet::GetList() { return &m_SectionList; }
+WORD CPropertySet::GetByteOrder() {
+    return m_wByteOrder;
+}
+WORD CPropertySet::GetFormatVersion() {
+    return m_wFormatVersion;
+}
+void CPropertySet::SetFormatVersion(WORD wFmtVersion) {
+    m_wFormatVersion = wFmtVersion;
+}
+DWORD CPropertySet::GetOSVersion() {
+    return m_dwOSVersion;
+}
+void CPropertySet::SetOSVersion(DWORD dwOSVer) {
+    m_dwOSVersion = dwOSVer;
+}
+GUID CPropertySet::GetClassID() {
+    return m_ClassID;
+}
+void CPropertySet::SetClassID(GUID clsID) {
+    m_ClassID = clsID;
+}
+DWORD CPropertySet::GetCount() {
+    return static_cast<DWORD>(m_SectionList.GetCount());
+}
+CObList* CPropertySet::GetList() {
+    return &m_SectionList;
+}
 
 int CPropertySet::WriteToStream(IStream* pStream) {
     LARGE_INTEGER nowhere;

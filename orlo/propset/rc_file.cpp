@@ -8,8 +8,8 @@ constexpr int kWrapColumn = 70;
 constexpr int kIndent = 4;
 constexpr int kBreakColumn = 1000; // beyond every line: the next item begins one
 
-// As it stands between the quotes of a script's text. Line feeds, tabs and their like too are written by number: a raw
-// line feed ends the literal for windres.
+// As it stands between the quotes of a script's text. Line feeds, tabs and their like too are written by
+// number: a raw line feed ends the literal for windres.
 void AppendEscaped(std::string& text, char character) {
     const auto code = static_cast<unsigned char>(character);
     if (code < 0x20) {
@@ -30,7 +30,9 @@ CRCFile::CRCFile(const char* pszFileName, UINT nOpenFlags)
     : CStdioFile(pszFileName, nOpenFlags), m_nColumn(0), m_bNeedComma(0) {}
 CRCFile::~CRCFile() = default;
 
-void CRCFile::NewLine() { m_nColumn = kBreakColumn; }
+void CRCFile::NewLine() {
+    m_nColumn = kBreakColumn;
+}
 
 void CRCFile::Format() {
     if (m_nColumn > kWrapColumn) {
@@ -88,4 +90,6 @@ void CRCFile::WriteBytes(BYTE* p, int n) {
     if (n > 0) WriteByte(*p);
 }
 
-void CRCFile::WriteNULByte() { WriteString("\"\\0\""); }
+void CRCFile::WriteNULByte() {
+    WriteString("\"\\0\"");
+}

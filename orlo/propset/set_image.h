@@ -77,6 +77,8 @@ enum class FindingCode {
     noSections = 103,
     sectionListShort = 104,
     trailingBytes = 105,
+    manySections = 106,
+    findingsCut = 107, // the last one of a very long list
 
     sectionOffsetPastEnd = 200,
     sectionOffsetInHeader = 201,
@@ -99,7 +101,8 @@ enum class FindingCode {
     valueShort = 306,
     valueBeyondSection = 307,
     unusedBytes = 308,
-    valuesTooLarge = 309,
+    valuesTooLarge = 309, // values laid over one another, more than the stream could hold
+    valuesOverlap = 310,
 
     textWithoutNul = 400,
     bytesAfterNul = 401,

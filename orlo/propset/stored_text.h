@@ -8,8 +8,8 @@
 
 namespace orlo {
 
-// The block of a property of that type: the first token, or all tokens under VT_VECTOR. Nothing if the type has no form
-// or a token can't be one of its values.
+// The block of a property of that type: the first token, or all tokens under VT_VECTOR. Nothing if the type
+// has no form or a token can't be one of its values.
 std::optional<std::vector<BYTE>> StoredFromText(const char* text, DWORD type);
 
 } // namespace orlo

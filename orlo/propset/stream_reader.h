@@ -1,5 +1,5 @@
-// StreamReader: reads a stream through a window, so that a property set of the usual size costs one Read, and keeps
-// account of what a reader of foreign data takes. Used inside the library.
+// StreamReader: reads a stream through a window, so that a property set of the usual size costs one Read, and
+// keeps account of what a reader of foreign data takes. Used inside the library.
 #pragma once
 
 #include <objidl.h>
@@ -10,8 +10,8 @@ namespace orlo {
 
 class StreamReader {
 public:
-    // Starts at the stream's position; the stream must outlive the reader. A stream that can't tell its position or its
-    // end reads as empty.
+    // Starts at the stream's position; the stream must outlive the reader. A stream that can't tell its
+    // position or its end reads as empty.
     explicit StreamReader(IStream* stream);
 
     ULONGLONG Position() const { return position_; }
@@ -24,8 +24,9 @@ public:
     // False if fewer than four bytes came.
     bool Read32(uint32_t& number) { return Read(&number, sizeof number) == sizeof number; }
 
-    // Takes that many bytes from the reader's allowance: four times the stream's size (and a page). What a sound stream
-    // holds never comes near it; values and tables laid over one another many times run out of it. False if they do.
+    // Takes that many bytes from the reader's allowance: four times the stream's size (and a page). What a
+    // sound stream holds never comes near it; values and tables laid over one another many times run out of
+    // it. False if they do.
     bool Spend(ULONGLONG bytes);
 
     // Puts the stream where the reader stands.

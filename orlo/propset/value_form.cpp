@@ -11,10 +11,18 @@ namespace {
 
 constexpr uint32_t kLastType = 75;
 
-constexpr TypeForm Fixed(const char* name, uint8_t size) { return {name, Form::fixed, size, false, true}; }
-constexpr TypeForm Text(const char* name) { return {name, Form::bytes, 0, true, true}; }
-constexpr TypeForm Counted(const char* name) { return {name, Form::bytes, 0, false, true}; }
-constexpr TypeForm Foreign(const char* name, uint8_t size) { return {name, Form::fixed, size, false, false}; }
+constexpr TypeForm Fixed(const char* name, uint8_t size) {
+    return {name, Form::fixed, size, false, true};
+}
+constexpr TypeForm Text(const char* name) {
+    return {name, Form::bytes, 0, true, true};
+}
+constexpr TypeForm Counted(const char* name) {
+    return {name, Form::bytes, 0, false, true};
+}
+constexpr TypeForm Foreign(const char* name, uint8_t size) {
+    return {name, Form::fixed, size, false, false};
+}
 
 constexpr std::array<TypeForm, kLastType + 1> MakeForms() {
     std::array<TypeForm, kLastType + 1> forms{};
@@ -61,7 +69,9 @@ constexpr TypeForm kNone{};
 
 } // namespace
 
-const TypeForm& FormOf(uint32_t type) { return type <= kLastType ? kForms[type] : kNone; }
+const TypeForm& FormOf(uint32_t type) {
+    return type <= kLastType ? kForms[type] : kNone;
+}
 
 uint16_t Load16(const uint8_t* bytes) {
     uint16_t number;
@@ -75,9 +85,13 @@ uint32_t Load32(const uint8_t* bytes) {
     return number;
 }
 
-void Store32(uint8_t* bytes, uint32_t number) { std::memcpy(bytes, &number, sizeof number); }
+void Store32(uint8_t* bytes, uint32_t number) {
+    std::memcpy(bytes, &number, sizeof number);
+}
 
-uint64_t CountedSize(Form form, uint32_t count) { return 4 + uint64_t{count} * (form == Form::chars ? 2 : 1); }
+uint64_t CountedSize(Form form, uint32_t count) {
+    return 4 + uint64_t{count} * (form == Form::chars ? 2 : 1);
+}
 
 std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize) {
     const TypeForm& form = FormOf(type & ~uint32_t{VT_VECTOR});

@@ -1,4 +1,5 @@
-// The types of a property set: name and form of one element on the stream, in one table. Used inside the library.
+// The types of a property set: name and form of one element on the stream, in one table. Used inside the
+// library.
 #pragma once
 
 #include <cstddef>
@@ -33,8 +34,8 @@ void Store32(uint8_t* bytes, uint32_t number);
 // The size of a counted element of which the first four bytes are given, count included.
 uint64_t CountedSize(Form form, uint32_t count);
 
-// The size of a stored value of CProperty's types (with VT_VECTOR: the element count and packed elements). Nothing if
-// the type has no form there, or the value would leave the block.
+// The size of a stored value of CProperty's types (with VT_VECTOR: the element count and packed elements).
+// Nothing if the type has no form there, or the value would leave the block.
 std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize);
 
 } // namespace orlo

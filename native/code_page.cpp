@@ -1,0 +1,72 @@
+// Code pages on this machine, by iconv.
+
+#include "orlo/propset/code_page.h"
+
+#include <iconv.h>
+
+#include <array>
+#include <cerrno>
+
+namespace orlo {
+
+namespace {
+
+std::string NameOf(uint16_t codePage) {
+    switch (codePage) {
+    case 0:
+        return "CP1252";
+    case kCodePageUtf16:
+        return "UTF-16LE";
+    case kCodePageUtf8:
+        return "UTF-8";
+    case 10000:
+        return "MACINTOSH";
+    default:
+        return "CP" + std::to_string(codePage);
+    }
+}
+
+// One conversion and its descriptor.
+class Converter {
+public:
+    Converter(const std::string& to, const std::string& from)
+        : handle_(::iconv_open(to.c_str(), from.c_str())) {}
+    ~Converter() {
+        if (IsOpen()) ::iconv_close(handle_);
+    }
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+
+    std::optional<std::string> Convert(std::string_view text) {
+        if (!IsOpen()) return std::nullopt;
+        std::string out;
+        auto* in = const_cast<char*>(text.data()); // iconv takes no const and writes nothing
+        size_t inLeft = text.size();
+        while (inLeft > 0) {
+            std::array<char, 512> part;
+            char* end = part.data();
+            size_t room = part.size();
+            const size_t result = ::iconv(handle_, &in, &inLeft, &end, &room);
+            out.append(part.data(), end);
+            if (result == static_cast<size_t>(-1) && errno != E2BIG) return std::nullopt;
+        }
+        return out;
+    }
+
+private:
+    bool IsOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+    iconv_t handle_;
+};
+
+} // namespace
+
+std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
+    if (codePage == kCodePageUtf16) text = text.substr(0, text.size() / 2 * 2);
+    return Converter("UTF-8", NameOf(codePage)).Convert(text);
+}
+
+std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage) {
+    return Converter(NameOf(codePage), "UTF-8").Convert(utf8);
+}
+
+} // namespace orlo

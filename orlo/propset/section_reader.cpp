@@ -1,0 +1,290 @@
+#include "orlo/propset/section_reader.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <set>
+
+#include "orlo/propset/image_dictionary.h"
+#include "orlo/propset/value_findings.h"
+#include "orlo/propset/value_walk.h"
+
+namespace orlo {
+
+namespace {
+
+constexpr size_t kHeadSize = 8;
+constexpr size_t kEntrySize = 8;
+constexpr size_t kTypeSize = 4;
+constexpr uint32_t kDictionaryId = 0;
+constexpr uint32_t kCodePageId = 1;
+
+struct Hex {
+    uint32_t number;
+};
+std::ostream& operator<<(std::ostream& out, Hex hex) {
+    return out << "0x" << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << hex.number
+               << std::dec;
+}
+
+size_t Aligned(size_t size) {
+    return size + PaddingOf(size);
+}
+
+// A value of that type has a size that can be told.
+bool HasForm(uint32_t type) {
+    return IsVector(type) ? SmallestElement(BaseType(type)) != 0 : FormOf(type).form != Form::none;
+}
+
+std::string WhatItNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
+    const TypeForm& form = FormOf(type);
+    if (form.form == Form::fixed) return "needs " + std::to_string(form.size) + " bytes";
+    if (size < 4) return "needs 4 bytes for its count";
+    if (IsVector(type)) return "announces " + std::to_string(Load32(bytes)) + " elements";
+    return "needs " + std::to_string(CountedSize(form.form, Load32(bytes))) + " bytes";
+}
+
+} // namespace
+
+SectionReader::SectionReader(const uint8_t* head, size_t left, size_t room, std::string place,
+                             Allowance& allowance, Report& report, ImageSection& section)
+    : head_(head), left_(left), room_(room), place_(std::move(place)), allowance_(allowance), report_(report),
+      section_(section) {}
+
+std::string SectionReader::NameOf(const Entry& entry) const {
+    return place_ + ", property " + std::to_string(entry.id);
+}
+
+size_t SectionReader::Read() {
+    section_.size = Load32(head_);
+    section_.count = Load32(head_ + 4);
+    reached_ = kHeadSize;
+    if (section_.size > left_)
+        report_.Add(FindingCode::sectionSizePastEnd, Severity::irregular, section_.offset, place_, ": size ",
+                    section_.size, ", but only ", left_,
+                    " bytes are left in the stream; its values are looked for there");
+    if (section_.size % 4 != 0)
+        report_.Add(FindingCode::sectionSizeOdd, Severity::note, section_.offset, place_, ": size ",
+                    section_.size, " is no multiple of 4");
+    ReadTable();
+    LookAtTable();
+    ReadValues();
+    LookAtGaps();
+    for (Entry& entry : entries_)
+        if (entry.isProperty) section_.properties.push_back(std::move(entry.property));
+    return reached_;
+}
+
+void SectionReader::ReadTable() {
+    const size_t fitting = (left_ - kHeadSize) / kEntrySize;
+    const bool isShort = section_.count > fitting;
+    if (isShort)
+        report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_,
+                    ": table of ", section_.count, " properties needs ",
+                    uint64_t{section_.count} * kEntrySize, " bytes, ", left_ - kHeadSize,
+                    " are left; read up to the first value");
+    size_t firstValue = left_;
+    for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
+        const size_t at = kHeadSize + i * kEntrySize;
+        if (isShort && at + kEntrySize > firstValue) break; // no table reaches into its values
+        if (!allowance_.Spend(kEntrySize)) {
+            report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + at, place_,
+                        ": the tables hold more than the stream could; the rest is left out");
+            break;
+        }
+        Entry entry{};
+        entry.id = Load32(head_ + at);
+        entry.offset = Load32(head_ + at + 4);
+        if (entry.offset >= at + kEntrySize) firstValue = std::min<size_t>(firstValue, entry.offset);
+        entries_.push_back(std::move(entry));
+    }
+    reached_ += entries_.size() * kEntrySize;
+}
+
+// Sorts the entries by offset, and looks at what the table alone tells.
+void SectionReader::LookAtTable() {
+    std::set<uint32_t> ids;
+    size_t unaligned = 0;
+    bool isAscending = true;
+    for (Entry& entry : entries_) {
+        if (!sorted_.empty() && entry.offset < sorted_.back()->offset) isAscending = false;
+        sorted_.push_back(&entry);
+        if (entry.offset % 4 != 0) ++unaligned;
+        if (!ids.insert(entry.id).second)
+            report_.Add(FindingCode::idRepeated, Severity::irregular,
+                        section_.offset + kHeadSize +
+                            static_cast<size_t>(&entry - entries_.data()) * kEntrySize,
+                        NameOf(entry), ": listed before; readers take the first or the last");
+    }
+    if (unaligned > 0)
+        report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kHeadSize, place_, ": ",
+                    unaligned, " values stand at offsets that are no multiples of 4");
+    if (!isAscending)
+        report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kHeadSize, place_,
+                    ": the values are not in the order of the table");
+    std::stable_sort(sorted_.begin(), sorted_.end(),
+                     [](const Entry* a, const Entry* b) { return a->offset < b->offset; });
+}
+
+void SectionReader::ReadValues() {
+    for (size_t i = 0; i < sorted_.size(); ++i) {
+        Entry& entry = *sorted_[i];
+        size_t next = i + 1;
+        while (next < sorted_.size() && sorted_[next]->offset == entry.offset)
+            ++next;
+        const size_t behind = entry.offset < room_ ? room_ : left_;
+        const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, left_) : behind;
+        entry.room = end >= entry.offset + kTypeSize ? end - entry.offset - kTypeSize : 0;
+        if (entry.id != kDictionaryId) ReadValue(entry);
+    }
+    ReadCodePage();
+    bool hasDictionary = false;
+    for (Entry& entry : entries_) {
+        if (entry.id == kDictionaryId && !hasDictionary) {
+            hasDictionary = true;
+            ReadDictionary(entry);
+        }
+        if (entry.isProperty && entry.property.state == ValueState::complete)
+            FindValueOddities(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize,
+                              NameOf(entry), report_);
+        if (section_.size <= left_ && entry.end > section_.size)
+            report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
+                        NameOf(entry), " ends beyond the section's size of ", section_.size,
+                        "; it is there all the same");
+    }
+}
+
+void SectionReader::ReadValue(Entry& entry) {
+    const uint64_t at = section_.offset + uint64_t{entry.offset};
+    ImageProperty& property = entry.property;
+    entry.isProperty = true;
+    property.id = entry.id;
+    property.offset = entry.offset;
+    property.state = ValueState::partial;
+    if (entry.offset > left_ - kTypeSize) {
+        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, NameOf(entry), ": offset ",
+                    entry.offset, ", but the stream has ", left_,
+                    " bytes from the section's head; there is no value");
+        return;
+    }
+    const uint32_t type = Load32(head_ + entry.offset);
+    property.type = type & 0xFFFF;
+    if (type != property.type)
+        report_.Add(FindingCode::typeHighHalf, Severity::irregular, at, NameOf(entry), ": type ", Hex{type},
+                    " has a high half, which is left out");
+
+    const uint8_t* bytes = head_ + entry.offset + kTypeSize;
+    const bool isVector = IsVector(property.type);
+    // A vector is walked within its own room, and no further, so that none is walked twice.
+    const size_t reach = isVector ? entry.room : left_ - entry.offset - kTypeSize;
+    if (isVector && !allowance_.Spend(reach)) return TooLarge(entry);
+    if (const std::optional<Extent> extent = MeasureValue(property.type, bytes, reach)) {
+        if (!isVector && !allowance_.Spend(extent->size)) return TooLarge(entry);
+        Keep(entry, ValueState::complete, extent->size);
+    } else if (HasForm(property.type)) {
+        report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ",
+                    TypeName(property.type), " ", WhatItNeeds(property.type, bytes, reach), ", ", reach,
+                    " bytes are there; it can't be read in full");
+        if (!isVector && !allowance_.Spend(entry.room)) return TooLarge(entry);
+        Keep(entry, ValueState::partial, entry.room);
+    } else {
+        report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ",
+                    TypeName(property.type), " is not known; its bytes are kept up to the next value");
+        const size_t toSectionEnd =
+            section_.size > entry.offset + kTypeSize ? section_.size - entry.offset - kTypeSize : 0;
+        const size_t size = std::min(entry.room, toSectionEnd > 0 ? toSectionEnd : entry.room);
+        if (!isVector && !allowance_.Spend(size)) return TooLarge(entry);
+        Keep(entry, ValueState::opaque, size);
+    }
+}
+
+void SectionReader::TooLarge(Entry& entry) {
+    report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + uint64_t{entry.offset},
+                NameOf(entry), ": the values hold more than the stream could; left out");
+}
+
+void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
+    const uint8_t* bytes = head_ + entry.offset + kTypeSize;
+    entry.property.state = state;
+    entry.property.bytes.assign(bytes, bytes + size);
+    if (state != ValueState::partial) entry.end = entry.offset + kTypeSize + size;
+}
+
+void SectionReader::ReadCodePage() {
+    bool hasText = false;
+    for (const Entry& entry : entries_) {
+        const ImageProperty& property = entry.property;
+        if (entry.id == kDictionaryId || FormOf(BaseType(property.type)).form == Form::bytes) hasText = true;
+        if (entry.id != kCodePageId || section_.codePage || property.state == ValueState::partial) continue;
+        if (property.type == VT_I2)
+            section_.codePage = Load16(property.bytes.data());
+        else
+            report_.Add(FindingCode::codePageType, Severity::irregular,
+                        section_.offset + uint64_t{entry.offset}, place_, ": the code page has ",
+                        TypeName(property.type), " instead of VT_I2; taken as none");
+    }
+    if (!section_.codePage && hasText)
+        report_.Add(FindingCode::noCodePage, Severity::irregular, section_.offset, place_,
+                    ": no code page; readers take 1252 or the code page of their own system");
+}
+
+void SectionReader::ReadDictionary(Entry& entry) {
+    const uint64_t at = section_.offset + uint64_t{entry.offset};
+    if (entry.offset > left_ - kTypeSize) {
+        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, place_,
+                    ": the dictionary's offset is ", entry.offset, ", but the stream has ", left_,
+                    " bytes from the section's head; there are no names");
+        return;
+    }
+    const uint8_t* bytes = head_ + entry.offset;
+    const size_t size = kTypeSize + entry.room;
+    const uint16_t codePage = section_.codePage.value_or(1252);
+    if (!allowance_.Spend(size)) return TooLarge(entry);
+    const uint32_t type = Load32(bytes);
+    const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);
+    const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
+    if (!IsWholeDictionary(bytes, size, codePage) && asValue &&
+        (isLastInSection || entry.room - asValue->size < 4)) {
+        report_.Add(FindingCode::dictionaryTyped, Severity::irregular, at, place_,
+                    ": property 0 is no dictionary but a value of type ", TypeName(type));
+        return ReadValue(entry);
+    }
+    const std::optional<ImageDictionary> dictionary =
+        ReadImageDictionary(bytes, size, codePage, at, place_, report_);
+    if (!dictionary) return;
+    section_.dictionary = dictionary->entries;
+    entry.end = entry.offset + dictionary->size;
+}
+
+// Between the values, in the order of their offsets: bytes that belong to nothing, or to two.
+void SectionReader::LookAtGaps() {
+    const size_t tableEnd = reached_;
+    const Entry* before = nullptr;
+    for (const Entry* entry : sorted_) {
+        const uint64_t at = section_.offset + uint64_t{entry->offset};
+        if (entry->end == 0) {
+            before = entry;
+            continue;
+        }
+        if (entry->offset < tableEnd)
+            report_.Add(FindingCode::offsetInTable, Severity::irregular, at, NameOf(*entry), ": offset ",
+                        entry->offset, " lies inside the table of properties");
+        else if (before == nullptr && entry->offset >= tableEnd + kTypeSize)
+            report_.Add(FindingCode::gapAfterTable, Severity::irregular, section_.offset + tableEnd, place_,
+                        ": ", entry->offset - tableEnd, " unused bytes behind the table of properties");
+        if (before != nullptr && before->end > entry->offset)
+            report_.Add(FindingCode::valuesOverlap, Severity::irregular, at, NameOf(*entry),
+                        " begins inside property ", before->id);
+        else if (before != nullptr && before->end != 0 && entry->offset >= Aligned(before->end) + kTypeSize)
+            report_.Add(FindingCode::unusedBytes, Severity::irregular, section_.offset + before->end,
+                        NameOf(*before), ": ", entry->offset - Aligned(before->end),
+                        " unused bytes behind the value");
+        reached_ = std::max(reached_, entry->end);
+        before = entry;
+    }
+    const bool isWhole = before == nullptr || before->end != 0;
+    if (isWhole && section_.size <= left_ && section_.size >= Aligned(reached_) + kTypeSize)
+        report_.Add(FindingCode::spareBytes, Severity::irregular, section_.offset + reached_, place_, ": ",
+                    section_.size - Aligned(reached_), " spare bytes at the end");
+}
+
+} // namespace orlo

@@ -1,0 +1,159 @@
+#include "orlo/propset/section_reader.h"
+#include "orlo/propset/set_image.h"
+#include "orlo/propset/value_walk.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orlo {
+
+namespace {
+
+constexpr size_t kHeaderSize = 28;
+constexpr size_t kListEntrySize = 20;
+constexpr size_t kSectionHeadSize = 8;
+constexpr uint16_t kLittleEndianMark = 0xFFFE;
+
+bool IsSame(const GUID& a, const GUID& b) {
+    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
+}
+
+class SetReader {
+public:
+    SetReader(const uint8_t* data, size_t size, std::vector<Finding>& findings)
+        : data_(data), size_(size), allowance_(size), report_(findings) {}
+
+    std::optional<SetImage> Read() {
+        std::optional<SetImage> image;
+        if (ReadHeader()) {
+            ReadSections();
+            LookAtTrailingBytes();
+            image = std::move(image_);
+        }
+        report_.Sort();
+        return image;
+    }
+
+private:
+    bool ReadHeader();
+    void ReadSections();
+    void LookAtTrailingBytes();
+
+    const uint8_t* data_;
+    size_t size_;
+    Allowance allowance_;
+    Report report_;
+    SetImage image_;
+    size_t reached_ = kHeaderSize;
+};
+
+bool SetReader::ReadHeader() {
+    if (size_ < kHeaderSize) {
+        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kHeaderSize, " bytes, ",
+                    size_, " are there; this is no property set");
+        return false;
+    }
+    image_.byteOrder = Load16(data_);
+    image_.version = Load16(data_ + 2);
+    image_.osVersion = Load32(data_ + 4);
+    std::memcpy(&image_.classId, data_ + 8, sizeof image_.classId);
+    image_.sectionCount = Load32(data_ + 24);
+    if (image_.byteOrder != kLittleEndianMark) {
+        report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "byte order mark is ", std::hex,
+                    image_.byteOrder, " instead of fffe; this is no property set");
+        return false;
+    }
+    const size_t left = size_ - kHeaderSize;
+    if (image_.sectionCount > left / kListEntrySize) {
+        report_.Add(FindingCode::sectionListShort, Severity::damaged, 24, "list of ", image_.sectionCount,
+                    " sections needs ", uint64_t{image_.sectionCount} * kListEntrySize, " bytes, ", left,
+                    " are left; this is no property set");
+        return false;
+    }
+    if (image_.version > 1)
+        report_.Add(FindingCode::formatVersion, Severity::irregular, 2, "format version is ", image_.version,
+                    ", only 0 and 1 are known; read as those");
+    if (image_.sectionCount == 0)
+        report_.Add(FindingCode::noSections, Severity::irregular, 24, "there are no sections, and no values");
+    if (image_.sectionCount > 2)
+        report_.Add(FindingCode::manySections, Severity::irregular, 24, image_.sectionCount,
+                    " sections; most readers take one or two");
+    reached_ += kListEntrySize * image_.sectionCount;
+    return true;
+}
+
+void SetReader::ReadSections() {
+    const size_t listEnd = reached_;
+    std::vector<size_t> heads;
+    for (uint32_t i = 0; i < image_.sectionCount; ++i)
+        heads.push_back(Load32(data_ + kHeaderSize + kListEntrySize * i + 16));
+    std::vector<size_t> sorted = heads;
+    std::sort(sorted.begin(), sorted.end());
+
+    for (uint32_t i = 0; i < image_.sectionCount; ++i) {
+        const size_t entry = kHeaderSize + kListEntrySize * i;
+        const size_t head = heads[i];
+        const std::string place = "section " + std::to_string(i);
+        if (head > size_ - kSectionHeadSize) {
+            report_.Add(FindingCode::sectionOffsetPastEnd, Severity::damaged, entry + 16, place, ": offset ",
+                        head, ", but the stream has ", size_, " bytes; left out");
+            continue;
+        }
+        ImageSection section;
+        std::memcpy(&section.formatId, data_ + entry, sizeof section.formatId);
+        section.offset = static_cast<uint32_t>(head);
+        if (image_.Find(section.formatId) != nullptr)
+            report_.Add(FindingCode::sectionRepeated, Severity::irregular, entry, place,
+                        ": another section of that format ID comes before; readers take the first");
+        if (head < listEnd)
+            report_.Add(FindingCode::sectionOffsetInHeader, Severity::irregular, entry + 16, place,
+                        ": offset ", head, " lies inside the header");
+        if (head % 4 != 0)
+            report_.Add(FindingCode::sectionUnaligned, Severity::irregular, entry + 16, place, ": offset ",
+                        head, " is no multiple of 4");
+        const auto next = std::upper_bound(sorted.begin(), sorted.end(), head);
+        const size_t end = next != sorted.end() && *next < size_ ? *next : size_;
+        SectionReader reader(data_ + head, size_ - head, end - head, place, allowance_, report_, section);
+        const size_t behind = head + reader.Read();
+        reached_ = std::max(reached_, behind);
+        if (section.size <= size_ - head) reached_ = std::max(reached_, head + section.size);
+        image_.sections.push_back(std::move(section));
+    }
+}
+
+void SetReader::LookAtTrailingBytes() {
+    const size_t trailing = size_ - std::min(size_, reached_);
+    if (trailing == 0) return;
+    const bool areZero = std::all_of(data_ + reached_, data_ + size_, [](uint8_t byte) { return byte == 0; });
+    report_.Add(FindingCode::trailingBytes, areZero ? Severity::note : Severity::irregular, reached_,
+                trailing, " bytes behind the set",
+                areZero ? ", all zero" : ", not all zero; they belong to nothing");
+}
+
+} // namespace
+
+std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size, std::vector<Finding>& findings) {
+    return SetReader(data, size, findings).Read();
+}
+
+const ImageProperty* ImageSection::Find(uint32_t id) const {
+    const auto found = std::find_if(properties.begin(), properties.end(),
+                                    [id](const ImageProperty& p) { return p.id == id; });
+    return found != properties.end() ? &*found : nullptr;
+}
+
+ImageProperty* ImageSection::Find(uint32_t id) {
+    return const_cast<ImageProperty*>(static_cast<const ImageSection*>(this)->Find(id));
+}
+
+const ImageSection* SetImage::Find(const GUID& formatId) const {
+    const auto found = std::find_if(sections.begin(), sections.end(),
+                                    [&](const ImageSection& s) { return IsSame(s.formatId, formatId); });
+    return found != sections.end() ? &*found : nullptr;
+}
+
+ImageSection* SetImage::Find(const GUID& formatId) {
+    return const_cast<ImageSection*>(static_cast<const SetImage*>(this)->Find(formatId));
+}
+
+} // namespace orlo

@@ -1,0 +1,79 @@
+#include "orlo/propset/image_dictionary.h"
+#include "orlo/propset/set_image.h"
+#include "orlo/propset/value_walk.h"
+
+namespace orlo {
+
+namespace {
+
+constexpr uint16_t kLittleEndianMark = 0xFFFE;
+constexpr uint32_t kDictionaryId = 0;
+
+void Align(ImageWriter& image) {
+    image.PutZeros(PaddingOf(image.Size()));
+}
+
+// The next line of the section's table, which was left free.
+class Table {
+public:
+    Table(ImageWriter& image, size_t head, size_t count) : image_(image), head_(head), next_(image.Size()) {
+        image.PutZeros(count * 8);
+    }
+    void Add(uint32_t id) {
+        image_.Patch32(next_, id);
+        image_.Patch32(next_ + 4, static_cast<uint32_t>(image_.Size() - head_));
+        next_ += 8;
+    }
+
+private:
+    ImageWriter& image_;
+    size_t head_;
+    size_t next_;
+};
+
+bool AppendSection(const ImageSection& section, ImageWriter& image) {
+    size_t count = section.dictionary ? 1 : 0;
+    for (const ImageProperty& property : section.properties)
+        if (property.state != ValueState::partial) ++count;
+
+    const size_t head = image.Size();
+    image.Put32(0);
+    image.Put32(static_cast<uint32_t>(count));
+    Table table(image, head, count);
+    if (section.dictionary) {
+        table.Add(kDictionaryId);
+        if (!AppendImageDictionary(*section.dictionary, section.codePage.value_or(1252), image)) return false;
+        Align(image);
+    }
+    for (const ImageProperty& property : section.properties) {
+        if (property.state == ValueState::partial) continue;
+        table.Add(property.id);
+        image.Put32(property.type);
+        image.Put(property.bytes.data(), property.bytes.size());
+        Align(image);
+    }
+    image.Patch32(head, static_cast<uint32_t>(image.Size() - head));
+    return true;
+}
+
+} // namespace
+
+std::optional<Bytes> WriteSetImage(const SetImage& set) {
+    ImageWriter image;
+    image.Put16(kLittleEndianMark);
+    image.Put16(set.version);
+    image.Put32(set.osVersion);
+    image.Put(&set.classId, sizeof set.classId);
+    image.Put32(static_cast<uint32_t>(set.sections.size()));
+    size_t entry = image.Size();
+    image.PutZeros(set.sections.size() * 20);
+    for (const ImageSection& section : set.sections) {
+        image.Patch(entry, &section.formatId, sizeof section.formatId);
+        image.Patch32(entry + 16, static_cast<uint32_t>(image.Size()));
+        entry += 20;
+        if (!AppendSection(section, image)) return std::nullopt;
+    }
+    return image.Take();
+}
+
+} // namespace orlo

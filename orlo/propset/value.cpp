@@ -1,0 +1,263 @@
+#include "orlo/propset/value.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/image_writer.h"
+#include "orlo/propset/value_walk.h"
+
+namespace orlo {
+
+namespace {
+
+constexpr uint16_t kUsualCodePage = 1252;
+
+template <class Number>
+Number Load(std::string_view bytes) {
+    Number number;
+    std::memcpy(&number, bytes.data(), sizeof number);
+    return number;
+}
+
+bool DecodeText(std::string_view bytes, uint16_t codePage, Value& value) {
+    if (codePage == kCodePageUtf16) {
+        size_t end = 0;
+        while (end + 2 <= bytes.size() && (bytes[end] != '\0' || bytes[end + 1] != '\0'))
+            end += 2;
+        bytes = bytes.substr(0, end);
+    } else {
+        bytes = bytes.substr(0, bytes.find('\0'));
+    }
+    std::optional<std::string> text = CodePageToUtf8(bytes, codePage);
+    if (!text) return false;
+    value.data = std::move(*text);
+    return true;
+}
+
+Bytes ToBytes(std::string_view bytes) {
+    return Bytes(bytes.begin(), bytes.end());
+}
+
+bool DecodeClipboard(std::string_view bytes, Value& value) {
+    if (bytes.size() < 4) return false;
+    ClipboardData clip{Load<int32_t>(bytes), 0, {}};
+    bytes.remove_prefix(4);
+    if (clip.tag == -1 || clip.tag == -2) {
+        if (bytes.size() < 4) return false;
+        clip.format = Load<uint32_t>(bytes);
+        bytes.remove_prefix(4);
+    }
+    clip.data = ToBytes(bytes);
+    value.data = std::move(clip);
+    return true;
+}
+
+bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, uint16_t codePage,
+                   Value& value) {
+    value.type = type;
+    switch (type) {
+    case VT_EMPTY:
+    case VT_NULL:
+        return true;
+    case VT_BOOL:
+        value.data = Load32(reinterpret_cast<const uint8_t*>(bytes.data())) != 0;
+        return true;
+    case VT_I1:
+        value.data = int64_t{Load<int8_t>(bytes)};
+        return true;
+    case VT_I2:
+        value.data = int64_t{Load<int16_t>(bytes)};
+        return true;
+    case VT_I4:
+    case VT_INT:
+    case VT_ERROR:
+        value.data = int64_t{Load<int32_t>(bytes)};
+        return true;
+    case VT_I8:
+    case VT_CY:
+        value.data = Load<int64_t>(bytes);
+        return true;
+    case VT_UI1:
+        value.data = uint64_t{Load<uint8_t>(bytes)};
+        return true;
+    case VT_UI2:
+        value.data = uint64_t{Load<uint16_t>(bytes)};
+        return true;
+    case VT_UI4:
+    case VT_UINT:
+        value.data = uint64_t{Load<uint32_t>(bytes)};
+        return true;
+    case VT_UI8:
+    case VT_FILETIME:
+        value.data = Load<uint64_t>(bytes);
+        return true;
+    case VT_R4:
+        value.data = double{Load<float>(bytes)};
+        return true;
+    case VT_R8:
+    case VT_DATE:
+        value.data = Load<double>(bytes);
+        return true;
+    case VT_CLSID:
+        value.data = Load<GUID>(bytes);
+        return true;
+    case VT_CF:
+        return DecodeClipboard(bytes, value);
+    case VT_LPWSTR:
+        return DecodeText(bytes, kCodePageUtf16, value);
+    default:
+        if (form.isText) return DecodeText(bytes, codePage, value);
+        value.data = ToBytes(bytes);
+        return true;
+    }
+}
+
+// A whole number of that size, if it has room there.
+bool EncodeWhole(const Value& value, uint8_t size, ImageWriter& image) {
+    if (const auto* number = std::get_if<uint64_t>(&value.data)) {
+        if (size < 8 && *number >> (8 * size) != 0) return false;
+        image.Put(number, size);
+        return true;
+    }
+    if (const auto* number = std::get_if<int64_t>(&value.data)) {
+        const int64_t sign = *number >> (8 * size - 1); // all bits alike where it fits
+        if (sign != 0 && sign != -1) return false;
+        image.Put(number, size);
+        return true;
+    }
+    return false;
+}
+
+bool EncodeReal(const Value& value, uint8_t size, ImageWriter& image) {
+    const auto* number = std::get_if<double>(&value.data);
+    if (number == nullptr) return false;
+    const auto narrow = static_cast<float>(*number);
+    if (size == sizeof narrow)
+        image.Put(&narrow, size);
+    else
+        image.Put(number, size);
+    return true;
+}
+
+bool EncodeText(const Value& value, uint16_t codePage, ImageWriter& image) {
+    const auto* utf8 = std::get_if<std::string>(&value.data);
+    const bool isWide = codePage == kCodePageUtf16;
+    const std::optional<std::string> text = utf8 != nullptr ? Utf8ToCodePage(*utf8, codePage) : std::nullopt;
+    if (!text) return false;
+    const size_t size = text->size() + (isWide ? 2 : 1);
+    image.Put32(static_cast<uint32_t>(isWide && value.type == VT_LPWSTR ? size / 2 : size));
+    image.Put(text->data(), text->size());
+    image.PutZeros(size - text->size());
+    return true;
+}
+
+bool EncodeClipboard(const Value& value, ImageWriter& image) {
+    const auto* clip = std::get_if<ClipboardData>(&value.data);
+    if (clip == nullptr) return false;
+    const bool hasFormat = clip->tag == -1 || clip->tag == -2;
+    image.Put32(static_cast<uint32_t>(clip->data.size() + (hasFormat ? 8 : 4)));
+    image.Put32(static_cast<uint32_t>(clip->tag));
+    if (hasFormat) image.Put32(clip->format);
+    image.Put(clip->data.data(), clip->data.size());
+    return true;
+}
+
+bool EncodeBytes(const Value& value, const TypeForm& form, ImageWriter& image) {
+    const auto* bytes = std::get_if<Bytes>(&value.data);
+    if (bytes == nullptr || (form.form == Form::fixed && bytes->size() != form.size)) return false;
+    if (form.form == Form::bytes) image.Put32(static_cast<uint32_t>(bytes->size()));
+    image.Put(bytes->data(), bytes->size());
+    return true;
+}
+
+bool EncodeElement(const Value& value, uint16_t codePage, ImageWriter& image) {
+    const TypeForm& form = FormOf(value.type);
+    if (form.form == Form::none) return false;
+    switch (value.type) {
+    case VT_EMPTY:
+    case VT_NULL:
+        return true;
+    case VT_BOOL: {
+        const auto* truth = std::get_if<bool>(&value.data);
+        if (truth != nullptr) image.Put32(*truth ? 0xFFFF : 0);
+        return truth != nullptr;
+    }
+    case VT_R4:
+    case VT_R8:
+    case VT_DATE:
+        return EncodeReal(value, form.size, image);
+    case VT_CLSID: {
+        const auto* guid = std::get_if<GUID>(&value.data);
+        if (guid != nullptr) image.Put(guid, sizeof *guid);
+        return guid != nullptr;
+    }
+    case VT_CF:
+        return EncodeClipboard(value, image);
+    case VT_DECIMAL:
+        return EncodeBytes(value, form, image);
+    case VT_LPWSTR:
+        return EncodeText(value, kCodePageUtf16, image);
+    default:
+        if (form.isText) return EncodeText(value, codePage, image);
+        return form.form == Form::fixed ? EncodeWhole(value, form.size, image)
+                                        : EncodeBytes(value, form, image);
+    }
+}
+
+} // namespace
+
+bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage,
+                 Value& value) {
+    const std::optional<Extent> extent = MeasureValue(type, bytes, size);
+    if (!extent) return false;
+    Value decoded;
+    decoded.type = type;
+    Cursor cursor{bytes, size};
+    const auto decode = [&](uint32_t elementType, const TypeForm& form, std::string_view element) {
+        Value& target = IsVector(type) ? decoded.elements.emplace_back() : decoded;
+        return DecodeElement(elementType, form, element, codePage.value_or(kUsualCodePage), target);
+    };
+    if (!Walk(cursor, type, extent->elementsPadded, decode)) return false;
+    value = std::move(decoded);
+    return true;
+}
+
+std::optional<Bytes> EncodeValue(const Value& value, std::optional<uint16_t> codePage) {
+    const uint16_t page = codePage.value_or(kUsualCodePage);
+    ImageWriter image;
+    if (!IsVector(value.type)) {
+        if (!EncodeElement(value, page, image)) return std::nullopt;
+        return image.Take();
+    }
+    const uint32_t base = BaseType(value.type);
+    if (SmallestElement(base) == 0) return std::nullopt;
+    image.Put32(static_cast<uint32_t>(value.elements.size()));
+    for (const Value& element : value.elements) {
+        if (base == VT_VARIANT)
+            image.Put32(element.type);
+        else if (element.type != base)
+            return std::nullopt;
+        if (!EncodeElement(element, page, image)) return std::nullopt;
+    }
+    return image.Take();
+}
+
+std::string GuidText(const GUID& guid) {
+    char text[40];
+    const uint8_t* tail = guid.Data4;
+    std::snprintf(text, sizeof text, "{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}",
+                  static_cast<unsigned>(guid.Data1), guid.Data2, guid.Data3, tail[0], tail[1], tail[2],
+                  tail[3], tail[4], tail[5], tail[6], tail[7]);
+    return text;
+}
+
+std::string TypeName(uint32_t type) {
+    const char* name = BaseType(type) == VT_VARIANT ? "VT_VARIANT" : FormOf(BaseType(type)).name;
+    if (name != nullptr) return (IsVector(type) ? "VT_VECTOR | " : "") + std::string(name);
+    char number[24];
+    std::snprintf(number, sizeof number, "type 0x%04X", static_cast<unsigned>(type));
+    return number;
+}
+
+} // namespace orlo

@@ -1,0 +1,87 @@
+#include "orlo/propset/value_findings.h"
+
+#include <cstdio>
+
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/value_walk.h"
+
+namespace orlo {
+
+namespace {
+
+// One look at one element, with what a finding about it says.
+struct Look {
+    uint16_t codePage; // of texts; LPWSTR is always 1200
+    uint64_t offset;
+    const std::string& place;
+    Report& report;
+};
+
+// Where the text ends: at its first NUL, or with its bytes.
+size_t TextEnd(std::string_view text, bool isWide) {
+    const size_t unit = isWide ? 2 : 1;
+    for (size_t i = 0; i + unit <= text.size(); i += unit)
+        if (text[i] == '\0' && text[i + unit - 1] == '\0') return i;
+    return text.size();
+}
+
+void LookAtText(std::string_view bytes, const Look& look) {
+    const bool isWide = look.codePage == kCodePageUtf16;
+    const size_t end = TextEnd(bytes, isWide);
+    const std::string_view rest = bytes.substr(end);
+    if (rest.empty() && !bytes.empty())
+        look.report.Add(FindingCode::textWithoutNul, Severity::note, look.offset, look.place,
+                        ": the text has no NUL; it ends at its length");
+    if (rest.find_first_not_of('\0') != std::string_view::npos)
+        look.report.Add(FindingCode::bytesAfterNul, Severity::note, look.offset, look.place,
+                        ": bytes stand behind the text's NUL; readers leave them out");
+    if (!CodePageToUtf8(bytes.substr(0, end), look.codePage))
+        look.report.Add(FindingCode::textUndecodable, Severity::irregular, look.offset, look.place,
+                        ": the text is none of code page ", look.codePage);
+}
+
+void LookAtBool(std::string_view bytes, const Look& look) {
+    const uint32_t stored = Load32(reinterpret_cast<const uint8_t*>(bytes.data()));
+    if (stored == 0 || stored == 0xFFFF) return;
+    char number[16];
+    std::snprintf(number, sizeof number, "0x%08X", static_cast<unsigned>(stored));
+    look.report.Add(FindingCode::boolForm, Severity::note, look.offset, look.place, ": true is stored as ",
+                    number, "; anything but 0 is true");
+}
+
+void LookAtClipboard(std::string_view bytes, const Look& look) {
+    const bool hasTag = bytes.size() >= 4;
+    const int32_t tag =
+        hasTag ? static_cast<int32_t>(Load32(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
+    const size_t needed = hasTag && (tag == -1 || tag == -2) ? 8 : 4;
+    if (bytes.size() < needed)
+        look.report.Add(FindingCode::clipboardShort, Severity::irregular, look.offset, look.place,
+                        ": clipboard data needs ", needed, " bytes for tag and format, ", bytes.size(),
+                        " are there; nothing can be shown of it");
+}
+
+} // namespace
+
+void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> codePage, uint64_t offset,
+                       const std::string& place, Report& report) {
+    const uint8_t* bytes = property.bytes.data();
+    const size_t size = property.bytes.size();
+    const std::optional<Extent> extent = MeasureValue(property.type, bytes, size);
+    if (!extent) return;
+    if (extent->elementsPadded)
+        report.Add(FindingCode::elementsPadded, Severity::note, offset, place,
+                   ": the elements are padded to 4 bytes each; a reader that expects them packed goes wrong");
+    Cursor cursor{bytes, size};
+    const auto look = [&](uint32_t type, const TypeForm& form, std::string_view element) {
+        const uint16_t page = type == VT_LPWSTR ? kCodePageUtf16 : codePage.value_or(1252);
+        const size_t at = static_cast<size_t>(reinterpret_cast<const uint8_t*>(element.data()) - bytes);
+        const Look here{page, offset + at, place, report};
+        if (form.isText) LookAtText(element, here);
+        if (type == VT_BOOL) LookAtBool(element, here);
+        if (type == VT_CF) LookAtClipboard(element, here);
+        return true;
+    };
+    Walk(cursor, property.type, extent->elementsPadded, look);
+}
+
+} // namespace orlo

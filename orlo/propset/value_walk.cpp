@@ -1,0 +1,36 @@
+#include "orlo/propset/value_walk.h"
+
+namespace orlo {
+
+namespace {
+
+// A layout of a vector: where it ends, and how many of its texts end in a NUL, as nearly all do.
+struct Layout {
+    size_t size;
+    size_t soundTexts;
+};
+
+std::optional<Layout> Measure(uint32_t type, const uint8_t* bytes, size_t size, bool padded) {
+    Cursor cursor{bytes, size};
+    Layout layout{0, 0};
+    const auto count = [&layout](uint32_t, const TypeForm& form, std::string_view text) {
+        if (form.isText && !text.empty() && text.back() == '\0') ++layout.soundTexts;
+        return true;
+    };
+    if (!Walk(cursor, type, padded, count)) return std::nullopt;
+    layout.size = static_cast<size_t>(cursor.at - bytes);
+    return layout;
+}
+
+} // namespace
+
+std::optional<Extent> MeasureValue(uint32_t type, const uint8_t* bytes, size_t size) {
+    const std::optional<Layout> packed = Measure(type, bytes, size, false);
+    const bool mayBePadded = IsVector(type) && SmallestElement(BaseType(type)) == 4;
+    const std::optional<Layout> padded = mayBePadded ? Measure(type, bytes, size, true) : std::nullopt;
+    if (padded && (!packed || padded->soundTexts > packed->soundTexts)) return Extent{padded->size, true};
+    if (packed) return Extent{packed->size, false};
+    return std::nullopt;
+}
+
+} // namespace orlo

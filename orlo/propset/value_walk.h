@@ -1,0 +1,100 @@
+// The walk over a stored value of any type, vectors of variants included. Used inside the library.
+#pragma once
+
+#include <objidl.h>
+
+#include <optional>
+#include <string_view>
+
+#include "orlo/propset/value_form.h"
+
+namespace orlo {
+
+inline bool IsVector(uint32_t type) {
+    return (type & VT_VECTOR) != 0;
+}
+inline uint32_t BaseType(uint32_t type) {
+    return type & ~uint32_t{VT_VECTOR};
+}
+inline size_t PaddingOf(size_t size) {
+    return (4 - size % 4) % 4;
+}
+
+// What is left of the bytes of a value.
+struct Cursor {
+    const uint8_t* at;
+    size_t left;
+
+    const uint8_t* Take(size_t size) {
+        if (size > left) return nullptr;
+        const uint8_t* taken = at;
+        at += size;
+        left -= size;
+        return taken;
+    }
+};
+
+// The bytes of one element that is no variant: of fixed size, or behind a count, which is left out.
+inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeForm& form) {
+    size_t size = form.size;
+    if (form.form != Form::fixed) {
+        const uint8_t* count = cursor.Take(4);
+        const uint64_t counted = count != nullptr ? CountedSize(form.form, Load32(count)) - 4 : 0;
+        if (count == nullptr || counted > cursor.left) return std::nullopt;
+        size = static_cast<size_t>(counted);
+    }
+    const uint8_t* bytes = cursor.Take(size);
+    if (bytes == nullptr) return std::nullopt;
+    return std::string_view(reinterpret_cast<const char*>(bytes), size);
+}
+
+// The least that an element of a vector takes; 0 if there are no vectors of that type.
+inline size_t SmallestElement(uint32_t type) {
+    const TypeForm& form = FormOf(type);
+    if (type == VT_VARIANT || form.form == Form::bytes || form.form == Form::chars) return 4;
+    return form.size;
+}
+
+inline void SkipPadding(Cursor& cursor, const uint8_t* begin) {
+    const size_t padding = PaddingOf(static_cast<size_t>(cursor.at - begin));
+    cursor.Take(padding < cursor.left ? padding : cursor.left);
+}
+
+// Walks over the elements of a vector, or the one element of another value, and gives each to
+// visit(type, form, bytes), which may end the walk. The cursor is then behind the value.
+template <class Visit>
+bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
+    const uint8_t* const begin = cursor.at;
+    uint32_t count = 1;
+    if (IsVector(type)) {
+        const uint8_t* head = cursor.Take(4);
+        const size_t smallest = SmallestElement(BaseType(type));
+        if (head == nullptr || smallest == 0 || Load32(head) > cursor.left / smallest) return false;
+        count = Load32(head);
+    }
+    for (; count > 0; --count) {
+        if (padded) SkipPadding(cursor, begin);
+        uint32_t elementType = BaseType(type);
+        if (elementType == VT_VARIANT) {
+            const uint8_t* code = IsVector(type) ? cursor.Take(4) : nullptr;
+            if (code == nullptr) return false;
+            elementType = Load32(code);
+        }
+        const TypeForm& form = FormOf(elementType);
+        if (form.form == Form::none) return false;
+        const std::optional<std::string_view> bytes = TakeElement(cursor, form);
+        if (!bytes || !visit(elementType, form, *bytes)) return false;
+    }
+    return true;
+}
+
+struct Extent {
+    size_t size;         // behind the type code, without padding at the end
+    bool elementsPadded; // each element of the vector fills up to 4 bytes; most writers pack them
+};
+
+// The extent of a value that begins at `bytes` and has no more room than `size`. Nothing if it doesn't fit or
+// the type has no form. Takes no memory.
+std::optional<Extent> MeasureValue(uint32_t type, const uint8_t* bytes, size_t size);
+
+} // namespace orlo
