@@ -4,6 +4,7 @@
 
 #include <objidl.h>
 
+#include <cstdint>
 #include <cstring>
 #include <vector>
 

@@ -13,6 +13,7 @@
 
 #include <objidl.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>

@@ -5,6 +5,7 @@
 #include <objidl.h>
 
 #include <array>
+#include <cstdint>
 
 namespace orlo {
 

@@ -7,6 +7,7 @@
 
 #include <objidl.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>

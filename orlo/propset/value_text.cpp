@@ -122,7 +122,7 @@ std::optional<int64_t> ReadMoney(std::string_view text) {
 std::optional<GUID> ReadGuid(std::string_view text) {
     if (text.size() == 38 && text.front() == '{' && text.back() == '}') text = text.substr(1, 36);
     Rest rest(text);
-    uint64_t first, second, third, fourth, fifth;
+    uint64_t first = 0, second = 0, third = 0, fourth = 0, fifth = 0;
     const bool whole = rest.TakeDigits(8, 16, first) && rest.Take('-') && rest.TakeDigits(4, 16, second) &&
                        rest.Take('-') && rest.TakeDigits(4, 16, third) && rest.Take('-') &&
                        rest.TakeDigits(4, 16, fourth) && rest.Take('-') && rest.TakeDigits(12, 16, fifth) &&

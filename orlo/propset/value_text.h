@@ -11,6 +11,7 @@
 
 #include <objidl.h>
 
+#include <cstdint>
 #include <string_view>
 
 #include "orlo/export.h"
