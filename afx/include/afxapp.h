@@ -29,6 +29,7 @@ public:
 private:
     friend class CWnd;
     bool m_bRunning;
+    int m_nExitCode; // of WM_QUIT
 };
 
 // The one application object of a program. Its constructor makes it what AfxGetApp and AfxGetThread give.

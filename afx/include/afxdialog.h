@@ -78,6 +78,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    BOOL CreateFromTemplate(HWND hWndParent);
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
 };

@@ -36,6 +36,7 @@ public:
     void OnOK() override;
     void OnCancel() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    CPropertySheet* GetParentSheet() const { return m_pSheet; } // null: in none
 
 protected:
     BOOL m_bChanged;
@@ -61,7 +62,11 @@ public:
 
 protected:
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
+
+private:
+    int GetHeight() const;
 };
 
 class AFX_API CPropertySheet : public CWnd {
@@ -113,7 +118,8 @@ protected:
     CSize m_sizeTabMargin;
     int m_cxButtonGap;
 
-    CFont m_font; // of tabs and buttons: that of the first page shown
+    BOOL m_bHasApply; // TRUE; a derived class without an Apply button clears it before the window is made
+    CFont m_font;     // of tabs and buttons: that of the first page shown
     CTabRow m_tabRow;
     BOOL m_bModeless;
     BOOL m_bStacked; // tabs in several rows where one does not hold them
@@ -123,6 +129,25 @@ protected:
 
 private:
     friend class CPropertyPage;
+    BOOL CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwExStyle);
+    void Open();
+    bool CreateButtons();
+    bool CreateTabRow();
+    void MeasureUnits();
+    void LayOut();
+    afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnPaint();
+    afx_msg void OnApply();
+
+    bool LeaveFor(int nPage);
+    bool ActivatePage(int nPage);
+    bool ShowPage(int nPage, const CRect& place);
+    CRect ActivePlace() const; // of the active page, client coordinates; empty: it has no window
+    bool HasFocus(const CPropertyPage* page) const;
+    void FocusActivePage();
+    void EnableApplyButton();
+    static int PageStep(const MSG& msg);
+
     std::vector<CPropertyPage*> m_pages;
     CString m_strCaption;
     CWnd* m_pParentWnd;

@@ -36,6 +36,7 @@ enum AfxSig : UINT {
     AfxSig_vt,    // void (UINT_PTR)
     AfxSig_vpos,  // void (WINDOWPOS*)
     AfxSig_bD,    // BOOL (CDC*)
+    AfxSig_vWl,   // the same, from lParam
     AfxSig_vW,    // void (CWnd*)
     AfxSig_vwWb,  // void (UINT, CWnd*, BOOL)
     AfxSig_bWww,  // BOOL (CWnd*, UINT, UINT)
@@ -144,7 +145,7 @@ protected:                                                                      
 #define ON_WM_SETCURSOR()                                                                                    \
     AFX_WM_ENTRY(WM_SETCURSOR, AfxSig_bWww, BOOL (CWnd::*)(CWnd*, UINT, UINT), &ThisClass::OnSetCursor)
 #define ON_WM_CAPTURECHANGED()                                                                               \
-    AFX_WM_ENTRY(WM_CAPTURECHANGED, AfxSig_vW, void (CWnd::*)(CWnd*), &ThisClass::OnCaptureChanged)
+    AFX_WM_ENTRY(WM_CAPTURECHANGED, AfxSig_vWl, void (CWnd::*)(CWnd*), &ThisClass::OnCaptureChanged)
 
 #define AFX_WM_MOUSE(message, memberFxn)                                                                     \
     AFX_WM_ENTRY(message, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), memberFxn)

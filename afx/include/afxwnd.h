@@ -219,13 +219,16 @@ protected:
     afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
     afx_msg void OnNcDestroy();
 
+    // A loop begins as running, at the latest with RunModalLoop: EndModalLoop may come before that.
+    enum class Modal { none, running, ended };
+    Modal m_modal;
+    int m_nModalResult;
+
     DECLARE_MESSAGE_MAP()
 
 private:
     friend class AfxWindowLink;
     WNDPROC m_pfnSuper;
-    bool m_bContinueModal;
-    int m_nModalResult;
     bool NotifyChild(HWND hWndChild, LRESULT* pResult);
 };
 

@@ -1,0 +1,102 @@
+// CDialog: windows from templates, modal and modeless.
+
+#include "dialog_proc.h"
+#include "dialog_template.h"
+#include "modal.h"
+#include "window_link.h"
+
+#include <afxapp.h>
+#include <afxdialog.h>
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+INT_PTR CALLBACK AfxDialogProc(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
+CDialog::CDialog() : CDialog(static_cast<LPCSTR>(nullptr)) {}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCEA(nIDTemplate), pParentWnd) {}
+
+CDialog::CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd)
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
+
+CDialog::~CDialog() = default;
+
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+    return Create(MAKEINTRESOURCEA(nIDTemplate), pParentWnd);
+}
+
+BOOL CDialog::Create(LPCSTR lpszTemplateName, CWnd* pParentWnd) {
+    m_lpszTemplateName = lpszTemplateName;
+    if (pParentWnd == nullptr) pParentWnd = AfxGetMainWnd();
+    return CreateFromTemplate(pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr);
+}
+
+BOOL CDialog::CreateFromTemplate(HWND hWndParent) {
+    const AfxDialogTemplate dialog(m_lpszTemplateName);
+    if (!dialog.IsFound()) return FALSE;
+    const AfxWindowCreation creation(this);
+    return ::CreateDialogIndirectParamA(dialog.Module(), dialog.Get(), hWndParent, AfxDialogProc, 0) !=
+           nullptr;
+}
+
+int CDialog::DoModal() {
+    AfxModalOwner owner(m_pParentWnd);
+    m_modal = Modal::running;
+    m_nModalResult = -1;
+    if (!CreateFromTemplate(owner.Window())) {
+        m_modal = Modal::none;
+        return m_nModalResult;
+    }
+    if (m_modal == Modal::running) ShowWindow(SW_SHOWNORMAL);
+    const int result = RunModalLoop();
+    owner.Release();
+    DestroyWindow();
+    return result;
+}
+
+void CDialog::EndDialog(int nResult) {
+    if (m_modal != Modal::none) {
+        EndModalLoop(nResult);
+    } else {
+        DestroyWindow();
+    }
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    SendMessageToDescendants(WM_INITIALUPDATE);
+    return OnInitDialog();
+}
+
+BOOL CDialog::OnInitDialog() {
+    if (UpdateData(FALSE)) return TRUE;
+    EndDialog(-1);
+    return FALSE;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE)) EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+void CDialog::NextDlgCtrl() const {
+    SendMessage(WM_NEXTDLGCTL, 0, FALSE);
+}
+
+void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
+    SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg) || IsDialogMessage(pMsg);
+}

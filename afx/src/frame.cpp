@@ -1,0 +1,45 @@
+// CFrameWnd: a main window with menu, accelerators and command routing.
+
+#include <afxapp.h>
+
+IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
+
+CFrameWnd::CFrameWnd() : m_hAccelTable(nullptr) {}
+CFrameWnd::~CFrameWnd() = default;
+
+BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd) {
+    LPCSTR name = MAKEINTRESOURCEA(nIDResource);
+    HICON icon = ::LoadIconA(AfxFindResourceHandle(name, reinterpret_cast<LPCSTR>(RT_GROUP_ICON)), name);
+    HMENU menu = ::LoadMenuA(AfxFindResourceHandle(name, reinterpret_cast<LPCSTR>(RT_MENU)), name);
+    CString title;
+    title.LoadString(nIDResource);
+    LPCSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW), nullptr, icon);
+    LoadAccelTable(name);
+    return CreateEx(0, windowClass, title, dwDefaultStyle, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                    CW_USEDEFAULT, pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu);
+}
+
+BOOL CFrameWnd::LoadAccelTable(LPCSTR lpszResourceName) {
+    HINSTANCE module = AfxFindResourceHandle(lpszResourceName, reinterpret_cast<LPCSTR>(RT_ACCELERATOR));
+    m_hAccelTable = ::LoadAcceleratorsA(module, lpszResourceName);
+    return m_hAccelTable != nullptr;
+}
+
+BOOL CFrameWnd::IsFrameWnd() const {
+    return TRUE;
+}
+
+BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    return m_hAccelTable != nullptr && ::TranslateAcceleratorA(m_hWnd, m_hAccelTable, pMsg);
+}
+
+BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+    CWinApp* app = AfxGetApp();
+    return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+void CFrameWnd::PostNcDestroy() {
+    delete this;
+}

@@ -1,0 +1,65 @@
+// CPropertyPage: a dialog template as a page of a sheet.
+
+#include "dialog_proc.h"
+#include "dialog_template.h"
+#include "window_link.h"
+
+#include <afxdlgs.h>
+
+IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
+
+BEGIN_MESSAGE_MAP(CPropertyPage, CDialog)
+ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption)
+    : CPropertyPage(MAKEINTRESOURCEA(nIDTemplate), nIDCaption) {}
+
+CPropertyPage::CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption)
+    : CDialog(lpszTemplateName), m_bChanged(FALSE), m_pSheet(nullptr), m_nIDCaption(nIDCaption) {}
+
+CPropertyPage::~CPropertyPage() {
+    if (m_pSheet != nullptr) m_pSheet->RemovePage(this);
+}
+
+void CPropertyPage::SetModified(BOOL bChanged) {
+    m_bChanged = bChanged;
+    if (m_pSheet != nullptr) m_pSheet->EnableApplyButton();
+}
+
+BOOL CPropertyPage::OnSetActive() {
+    return m_hWnd != nullptr || CreatePageWindow();
+}
+
+BOOL CPropertyPage::OnKillActive() {
+    return UpdateData(TRUE);
+}
+
+void CPropertyPage::OnOK() {}
+
+void CPropertyPage::OnCancel() {}
+
+// The keys are the sheet's: it knows the default button and the other pages.
+BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+// Escape in an edit control of several lines closes its parent, and means the sheet.
+void CPropertyPage::OnClose() {
+    if (m_pSheet != nullptr) m_pSheet->PostMessage(WM_CLOSE);
+}
+
+CString CPropertyPage::GetTabText() const {
+    CString text;
+    if (m_nIDCaption != 0) text.LoadString(m_nIDCaption);
+    return text.IsEmpty() ? AfxDialogTemplate(m_lpszTemplateName).Title() : text;
+}
+
+BOOL CPropertyPage::CreatePageWindow() {
+    const AfxDialogTemplate dialog(m_lpszTemplateName);
+    if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
+    const std::vector<BYTE> page = dialog.AsPage();
+    const AfxWindowCreation creation(this);
+    return ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
+                                        m_pSheet->m_hWnd, AfxDialogProc, 0) != nullptr;
+}

@@ -1,0 +1,313 @@
+// CPropertySheet: the pages, which of them is active, and what the user does with them.
+
+#include "dialog_proc.h"
+#include "dialog_template.h"
+#include "modal.h"
+#include "window_link.h"
+
+#include <afxapp.h>
+#include <afxdlgs.h>
+#include <afxres.h>
+
+#include <algorithm>
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+ON_WM_CREATE()
+ON_WM_PAINT()
+ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
+ON_COMMAND(IDOK, &CPropertySheet::OnOK)
+ON_COMMAND(IDCANCEL, &CPropertySheet::OnCancel)
+ON_COMMAND(ID_APPLY_NOW, &CPropertySheet::OnApply)
+ON_COMMAND(ID_HELP, &CPropertySheet::OnHelp)
+END_MESSAGE_MAP()
+
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : CPropertySheet(static_cast<LPCSTR>(nullptr), pParentWnd, iSelectPage) {
+    m_strCaption.LoadString(nIDCaption);
+}
+
+CPropertySheet::CPropertySheet(LPCSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : m_cxButtonGap(0), m_bHasApply(TRUE), m_bModeless(FALSE), m_bStacked(FALSE),
+      m_nCurPage(static_cast<int>(iSelectPage)), m_strCaption(pszCaption), m_pParentWnd(pParentWnd) {}
+
+CPropertySheet::~CPropertySheet() {
+    for (CPropertyPage* page : m_pages)
+        page->m_pSheet = nullptr;
+}
+
+// ---- Life of the window
+// ----------------------------------------------------------------------------------------
+
+int CPropertySheet::DoModal() {
+    AfxModalOwner owner(m_pParentWnd);
+    m_bModeless = FALSE;
+    m_modal = Modal::running;
+    m_nModalResult = -1;
+    if (!CreateSheetWindow(owner.Window(), WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME,
+                           WS_EX_DLGMODALFRAME)) {
+        m_modal = Modal::none;
+        return -1;
+    }
+    if (m_modal == Modal::running) Open();
+    const int result = RunModalLoop();
+    owner.Release();
+    DestroyWindow();
+    return result;
+}
+
+BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
+    m_bModeless = TRUE;
+    if (pParentWnd == nullptr) pParentWnd = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
+    HWND parent = pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr;
+    if (!CreateSheetWindow(parent, dwStyle & ~WS_VISIBLE, dwExStyle)) return FALSE;
+    if ((dwStyle & WS_VISIBLE) != 0) Open();
+    return TRUE;
+}
+
+BOOL CPropertySheet::CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwExStyle) {
+    // A dialog without controls: the keyboard's rules, the default button and the look are those of dialogs.
+    struct {
+        DLGTEMPLATE head;
+        WORD menu, windowClass, title;
+    } sheet = {};
+    sheet.head.style = dwStyle;
+    sheet.head.dwExtendedStyle = dwExStyle | WS_EX_CONTROLPARENT;
+    const AfxWindowCreation creation(this);
+    return ::CreateDialogIndirectParamA(AfxGetInstanceHandle(), &sheet.head, hWndParent, AfxDialogProc, 0) !=
+           nullptr;
+}
+
+// Shows the sheet, once, and gives the focus to the active page.
+void CPropertySheet::Open() {
+    ShowWindow(SW_SHOWNORMAL);
+    FocusActivePage();
+}
+
+void CPropertySheet::EndDialog(int nEndID) {
+    if (m_bModeless) {
+        DestroyWindow();
+    } else {
+        EndModalLoop(nEndID);
+    }
+}
+
+int CPropertySheet::OnCreate(LPCREATESTRUCT) {
+    if (Default() == -1) return -1;
+    if (m_pages.empty()) return -1;
+    SetWindowText(m_strCaption);
+    m_nCurPage = std::clamp(m_nCurPage, 0, GetPageCount() - 1);
+    const LOGFONTA font = AfxDialogTemplate(GetActivePage()->m_lpszTemplateName).Font();
+    m_font.DeleteObject();
+    m_font.CreateFontIndirect(&font);
+    if (!m_bModeless && !CreateButtons()) return -1;
+    if (!CreateTabRow()) return -1;
+    if (!ActivatePage(m_nCurPage)) return -1;
+    MeasureUnits();
+    return 0;
+}
+
+LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM) {
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty()) LayOut();
+    return FALSE; // the focus comes with the page
+}
+
+// ---- Pages
+// -----------------------------------------------------------------------------------------------------
+
+void CPropertySheet::AddPage(CPropertyPage* pPage) {
+    ASSERT(pPage->m_pSheet == nullptr);
+    m_pages.push_back(pPage);
+    pPage->m_pSheet = this;
+    if (m_tabRow.m_hWnd != nullptr) m_tabRow.InsertItem(GetPageCount() - 1, pPage->GetTabText());
+}
+
+void CPropertySheet::RemovePage(CPropertyPage* pPage) {
+    RemovePage(GetPageIndex(pPage));
+}
+
+void CPropertySheet::RemovePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount()) return;
+    CPropertyPage* page = GetPage(nPage);
+    const CRect place = ActivePlace();
+    m_pages.erase(m_pages.begin() + nPage);
+    page->m_pSheet = nullptr;
+    if (m_tabRow.m_hWnd != nullptr) m_tabRow.DeleteItem(nPage);
+    const bool wasActive = nPage == m_nCurPage;
+    if (nPage < m_nCurPage || m_nCurPage == GetPageCount()) --m_nCurPage;
+    if (wasActive && m_hWnd != nullptr && m_nCurPage >= 0) ShowPage(m_nCurPage, place);
+    page->DestroyWindow();
+}
+
+int CPropertySheet::GetPageIndex(const CPropertyPage* pPage) const {
+    const auto found = std::find(m_pages.begin(), m_pages.end(), pPage);
+    return found != m_pages.end() ? static_cast<int>(found - m_pages.begin()) : -1;
+}
+
+CPropertyPage* CPropertySheet::GetActivePage() const {
+    return m_nCurPage >= 0 && m_nCurPage < GetPageCount() ? GetPage(m_nCurPage) : nullptr;
+}
+
+BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage) {
+    return SetActivePage(GetPageIndex(pPage));
+}
+
+BOOL CPropertySheet::SetActivePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount()) return FALSE;
+    if (m_hWnd == nullptr) {
+        m_nCurPage = nPage;
+        return TRUE;
+    }
+    return LeaveFor(nPage) && ActivatePage(nPage);
+}
+
+// Whether the active page lets itself be left for that one.
+bool CPropertySheet::LeaveFor(int nPage) {
+    CPropertyPage* active = GetActivePage();
+    if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
+    return active->OnKillActive();
+}
+
+// The active page has been left, or there was none: that one comes. If it does not, the one before is as it
+// was.
+bool CPropertySheet::ActivatePage(int nPage) {
+    const int before = m_nCurPage;
+    CPropertyPage* page = GetPage(nPage);
+    CPropertyPage* old = GetActivePage();
+    if (nPage == before && page->m_hWnd != nullptr) return true;
+    const CRect place = ActivePlace();
+    const bool hadFocus = HasFocus(old);
+    if (!ShowPage(nPage, place)) {
+        m_nCurPage = before;
+        if (old != page && old != nullptr && old->m_hWnd != nullptr) old->OnSetActive();
+        if (m_tabRow.m_hWnd != nullptr) m_tabRow.SetCurSel(before);
+        return false;
+    }
+    if (hadFocus) FocusActivePage();
+    if (old != page && old != nullptr && old->m_hWnd != nullptr) old->ShowWindow(SW_HIDE);
+    return true;
+}
+
+bool CPropertySheet::ShowPage(int nPage, const CRect& place) {
+    CPropertyPage* page = GetPage(nPage);
+    m_nCurPage = nPage;
+    if (!page->OnSetActive()) return false;
+    // Before the buttons in the order of the Tab key, and where the page before it was.
+    const UINT keep = place.IsRectEmpty() ? SWP_NOMOVE | SWP_NOSIZE : 0;
+    ::SetWindowPos(page->m_hWnd, HWND_TOP, place.left, place.top, place.Width(), place.Height(),
+                   keep | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    if (m_tabRow.m_hWnd != nullptr) m_tabRow.SetCurSel(nPage);
+    return true;
+}
+
+CRect CPropertySheet::ActivePlace() const {
+    CRect place;
+    const CPropertyPage* page = GetActivePage();
+    if (page != nullptr && page->m_hWnd != nullptr) {
+        page->GetWindowRect(&place);
+        ScreenToClient(&place);
+    }
+    return place;
+}
+
+bool CPropertySheet::HasFocus(const CPropertyPage* page) const {
+    HWND focus = ::GetFocus();
+    return page != nullptr && page->m_hWnd != nullptr && focus != nullptr &&
+           (focus == page->m_hWnd || ::IsChild(page->m_hWnd, focus));
+}
+
+void CPropertySheet::FocusActivePage() {
+    const CPropertyPage* page = GetActivePage();
+    if (page == nullptr || page->m_hWnd == nullptr) return;
+    HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
+    if (first != nullptr && first != ::GetFocus()) {
+        SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+    }
+}
+
+// ---- What the user does
+// ----------------------------------------------------------------------------------------
+
+void CPropertySheet::OnOK() {
+    CPropertyPage* page = GetActivePage();
+    if (page == nullptr || !page->OnKillActive()) return;
+    page->OnOK();
+    if (!m_bModeless) EndDialog(IDOK);
+}
+
+void CPropertySheet::OnCancel() {
+    for (CPropertyPage* page : m_pages) {
+        if (page->m_hWnd != nullptr) page->OnCancel();
+    }
+    EndDialog(IDCANCEL);
+}
+
+void CPropertySheet::OnApply() {
+    CPropertyPage* page = GetActivePage();
+    if (page == nullptr || !page->OnKillActive()) return;
+    page->OnOK();
+    for (CPropertyPage* each : m_pages)
+        each->m_bChanged = FALSE;
+    EnableApplyButton();
+}
+
+void CPropertySheet::EnableApplyButton() {
+    HWND apply = m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, ID_APPLY_NOW) : nullptr;
+    if (apply == nullptr) return;
+    const bool changed = std::any_of(m_pages.begin(), m_pages.end(),
+                                     [](const CPropertyPage* page) { return page->m_bChanged; });
+    if (changed != (::IsWindowEnabled(apply) != 0)) ::EnableWindow(apply, changed);
+}
+
+BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
+    // Return on a button of the page sends its command to the window that the keys went to: to this one.
+    HWND parent = lParam != 0 ? ::GetParent(reinterpret_cast<HWND>(lParam)) : nullptr;
+    if (parent != nullptr && parent != m_hWnd && ::IsChild(m_hWnd, parent)) {
+        ::SendMessageA(parent, WM_COMMAND, wParam, lParam);
+        return TRUE;
+    }
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (header->hwndFrom != m_tabRow.m_hWnd) return CWnd::OnNotify(wParam, lParam, pResult);
+    if (header->code == static_cast<UINT>(TCN_SELCHANGING)) {
+        *pResult = !LeaveFor(-1); // TRUE keeps the tab
+        return TRUE;
+    }
+    if (header->code == static_cast<UINT>(TCN_SELCHANGE)) {
+        ActivatePage(m_tabRow.GetCurSel());
+        return TRUE;
+    }
+    return CWnd::OnNotify(wParam, lParam, pResult);
+}
+
+// Ctrl with Tab, Page Down or Page Up: the pages in a circle. 0: another key.
+int CPropertySheet::PageStep(const MSG& msg) {
+    if (msg.message != WM_KEYDOWN || ::GetKeyState(VK_CONTROL) >= 0) return 0;
+    switch (msg.wParam) {
+    case VK_TAB:
+        return ::GetKeyState(VK_SHIFT) < 0 ? -1 : 1;
+    case VK_NEXT:
+        return 1;
+    case VK_PRIOR:
+        return -1;
+    default:
+        return 0;
+    }
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    const int step = m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible() ? PageStep(*pMsg) : 0;
+    if (step != 0 && GetPageCount() > 0) {
+        SetActivePage((m_nCurPage + step + GetPageCount()) % GetPageCount());
+        return TRUE;
+    }
+    return IsDialogMessage(pMsg);
+}

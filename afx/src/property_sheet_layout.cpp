@@ -1,0 +1,112 @@
+// CPropertySheet: its tab row and buttons, where they stand, and the frame around the page.
+
+#include <afxapp.h>
+#include <afxdlgs.h>
+#include <afxres.h>
+
+#include <cstdlib>
+
+namespace {
+
+struct Button {
+    UINT id;
+    UINT caption; // string: text, line feed, width in dialog units
+    DWORD style;
+};
+
+const Button kButtons[] = {
+    {IDOK, AFX_IDS_SHEET_OK, WS_GROUP | BS_DEFPUSHBUTTON},
+    {IDCANCEL, AFX_IDS_SHEET_CANCEL, BS_PUSHBUTTON},
+    {ID_APPLY_NOW, AFX_IDS_SHEET_APPLY, BS_PUSHBUTTON | WS_DISABLED},
+    {ID_HELP, AFX_IDS_SHEET_HELP, BS_PUSHBUTTON},
+};
+
+CString Caption(UINT nIDS) {
+    CString text;
+    CString caption;
+    text.LoadString(nIDS);
+    AfxExtractSubString(caption, text, 0);
+    return caption;
+}
+
+} // namespace
+
+bool CPropertySheet::CreateButtons() {
+    for (const Button& button : kButtons) {
+        if (button.id == ID_APPLY_NOW && !m_bHasApply) continue;
+        HWND hWnd = ::CreateWindowExA(0, "BUTTON", Caption(button.caption),
+                                      WS_CHILD | WS_VISIBLE | WS_TABSTOP | button.style, 0, 0, 0, 0, m_hWnd,
+                                      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)),
+                                      AfxGetInstanceHandle(), nullptr);
+        if (hWnd == nullptr) return false;
+        ::SendMessageA(hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
+    }
+    SendMessage(DM_SETDEFID, IDOK);
+    return true;
+}
+
+bool CPropertySheet::CreateTabRow() {
+    const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
+    const CRect nowhere(0, 0, 100, 10);
+    if (!m_tabRow.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows, nowhere,
+                         this, AFX_IDC_TAB_CONTROL)) {
+        return false;
+    }
+    m_tabRow.SetFont(&m_font, FALSE);
+    for (int i = 0; i < GetPageCount(); ++i)
+        m_tabRow.InsertItem(i, GetPage(i)->GetTabText());
+    return true;
+}
+
+// The dialog units are those of the active page's font.
+void CPropertySheet::MeasureUnits() {
+    CRect units(4, 4, 50, 14);
+    ::MapDialogRect(GetActivePage()->m_hWnd, &units);
+    m_cxButtonGap = units.left;
+    m_sizeTabMargin = CSize(units.left, units.top);
+    m_sizeButton = CSize(units.right, units.bottom);
+}
+
+// Tabs, under them the page, under that the buttons in a row, at the right.
+void CPropertySheet::LayOut() {
+    const CPropertyPage* page = GetActivePage();
+    CRect pageRect;
+    page->GetWindowRect(&pageRect);
+
+    int buttons = 0;
+    for (const Button& button : kButtons)
+        buttons += ::GetDlgItem(m_hWnd, static_cast<int>(button.id)) != nullptr;
+    const int buttonsWidth = buttons > 0 ? buttons * (m_sizeButton.cx + m_cxButtonGap) - m_cxButtonGap : 0;
+    const int width = std::max(pageRect.Width(), buttonsWidth) + 2 * m_sizeTabMargin.cx + 2;
+
+    const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
+    m_tabRow.SetWindowPos(nullptr, m_sizeTabMargin.cx, m_sizeTabMargin.cy, width - 2 * m_sizeTabMargin.cx, 0,
+                          flags);
+    CRect tabs;
+    m_tabRow.GetWindowRect(&tabs);
+    const int pageTop = m_sizeTabMargin.cy + tabs.Height();
+    ::SetWindowPos(page->m_hWnd, nullptr, m_sizeTabMargin.cx + 1, pageTop, 0, 0, flags | SWP_NOSIZE);
+
+    int height = pageTop + pageRect.Height() + 1 + m_sizeTabMargin.cy;
+    int x = width - m_sizeTabMargin.cx - buttonsWidth;
+    for (const Button& button : kButtons) {
+        HWND hWnd = ::GetDlgItem(m_hWnd, static_cast<int>(button.id));
+        if (hWnd == nullptr) continue;
+        ::SetWindowPos(hWnd, nullptr, x, height, m_sizeButton.cx, m_sizeButton.cy, flags);
+        x += m_sizeButton.cx + m_cxButtonGap;
+    }
+    if (buttons > 0) height += m_sizeButton.cy + m_sizeTabMargin.cy;
+
+    CRect window(0, 0, width, height);
+    ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
+    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), flags | SWP_NOMOVE);
+    CenterWindow();
+}
+
+void CPropertySheet::OnPaint() {
+    CPaintDC dc(this);
+    CRect frame = ActivePlace();
+    if (frame.IsRectEmpty()) return;
+    frame.InflateRect(1, 1);
+    ::DrawEdge(dc.m_hDC, frame, EDGE_RAISED, BF_LEFT | BF_RIGHT | BF_BOTTOM | BF_SOFT);
+}

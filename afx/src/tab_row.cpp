@@ -1,0 +1,32 @@
+// CTabRow: the system's tab control, kept as high as its tabs.
+
+#include <afxdlgs.h>
+
+IMPLEMENT_DYNAMIC(CTabRow, CTabCtrl)
+
+BEGIN_MESSAGE_MAP(CTabRow, CTabCtrl)
+ON_WM_WINDOWPOSCHANGING()
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+CTabRow::CTabRow() = default;
+CTabRow::~CTabRow() = default;
+
+int CTabRow::GetHeight() const {
+    CRect tab;
+    if (!GetItemRect(0, &tab)) return 0;
+    // The tab in front stands out of its row by two pixels.
+    constexpr int kEdge = 2;
+    return static_cast<int>(SendMessage(TCM_GETROWCOUNT)) * tab.Height() + 2 * kEdge;
+}
+
+void CTabRow::OnWindowPosChanging(WINDOWPOS* lpwndpos) {
+    Default();
+    if ((lpwndpos->flags & SWP_NOSIZE) == 0) lpwndpos->cy = GetHeight();
+}
+
+void CTabRow::OnSize(UINT, int cx, int cy) {
+    Default();
+    // Another width can have made another number of rows.
+    if (cy != GetHeight()) SetWindowPos(nullptr, 0, 0, cx, 0, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
