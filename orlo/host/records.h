@@ -33,7 +33,9 @@ struct GraphicStruct {
     uint8_t bType;
     uint8_t host21;
     uint16_t wRegenMethod; // 0 for none
-    uint8_t host24[0x38];
+    uint32_t
+        dwOneOutline; // 1: the brush takes the whole vertex list as one outline, undrawn segments included
+    uint8_t host28[0x34];
     GraphicStruct* pParent;
     uint8_t host5C[0x68 - 0x5C - sizeof(void*)];
     const char* pszStyleName; // null or NUL-terminated
@@ -63,6 +65,8 @@ struct AppStruct {
 struct VertexStruct {
     uint8_t host0[4];
     uint16_t wFlags;
+    uint8_t host6[0x12];
+    double x, y, z; // drawing units
 };
 
 #pragma pack(pop)
@@ -70,6 +74,7 @@ struct VertexStruct {
 static_assert(offsetof(GraphicStruct, dwFlags) == 4);
 static_assert(offsetof(GraphicStruct, bType) == 0x20);
 static_assert(offsetof(GraphicStruct, wRegenMethod) == 0x22);
+static_assert(offsetof(GraphicStruct, dwOneOutline) == 0x24);
 static_assert(offsetof(GraphicStruct, pParent) == 0x5C);
 static_assert(offsetof(GraphicStruct, pszStyleName) == 0x68);
 static_assert(offsetof(GraphicStruct, wLastPage) == 0x8C);
@@ -79,6 +84,9 @@ static_assert(offsetof(AppStruct, pCurrentDrawing) == 0x24);
 static_assert(offsetof(AppStruct, pVariables) == 0x48);
 static_assert(offsetof(AppStruct, hPalette) == 0x50);
 static_assert(offsetof(VertexStruct, wFlags) == 4);
+static_assert(offsetof(VertexStruct, x) == 0x18);
+static_assert(offsetof(VertexStruct, y) == 0x20);
+static_assert(offsetof(VertexStruct, z) == 0x28);
 
 // Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only.
 // Value types are the OLE Automation variant type numbers; see orlo/binding/property_access.h for the forms.

@@ -10,15 +10,18 @@ DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits; exponentForm 1: as mantissa and exponent.
 // The buffer takes at least 32 bytes. context and reserved are always 0, trim always 1: no trailing zeros.
-DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved, int exponentForm,
-                                 int trim);
+DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved,
+                                 int exponentForm, int trim);
 
-// Text to a number in the unit that a variable of the units table names (kUnitPenWidth), and back.
-// flags and reserved are always 0, suffix is always 1: the unit's name follows the number.
-DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t unitVariable, int flags, const char* text,
+// A length as text and back. number: the variable of the units table that says what the number is: 0x5033 a length in
+// drawing units; 0x5034, kUnitTextSize, kUnitPenWidth a length on paper, in millimetres whatever unit the text is in.
+// display: the variable that names the unit of the text, and of a text without a unit; 0 is the number's own variable.
+// A text that is not wholly a length gives 0 and leaves the value alone. reserved is 0, suffix is 1: the unit's name
+// follows the number.
+DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
                                       double* value);
-DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, int flags, uint16_t unitVariable, double value, char* buffer,
-                                      int size, int reserved, int suffix);
+DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value,
+                                      char* buffer, int size, int reserved, int suffix);
 
 // A drawing scale ("1 in = 1 ft", "1 : 48") as a factor; 0.0 if the text is no scale. And back.
 DRAWCORE_API double UnitsGetScaleValue(TableStruct* units, const char* text);

@@ -1,0 +1,21 @@
+// Undo of changes to the graphics of a drawing, step by step; one step holds whatever one sheet has written.
+//
+//   DrawingBeginUndo(drawing);
+//   ... the sheet runs and writes ...
+//   DrawingEndUndo(drawing);        // 12 graphics changed
+//   DrawingUndo(drawing);           // all 12 are as they were
+//
+// Recorded are properties, attributes and vertices of the drawing's own graphics; previews and samples are not.
+#pragma once
+
+#include "orlo/host/api.h"
+#include "orlo/host/records.h"
+
+// Opens a step. 0 if one is open already.
+DRAWCORE_API int DrawingBeginUndo(DrawingStruct*);
+// Closes the step. The number of graphics that are different now; with 0 no step is kept.
+DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
+// Takes back the last step. The number of graphics that it changed back; 0 if there is none, or one is still open.
+DRAWCORE_API int DrawingUndo(DrawingStruct*);
+// Number of steps that can be taken back.
+DRAWCORE_API int DrawingCountUndo(DrawingStruct*);

@@ -1,0 +1,37 @@
+// Viewing and picking, for host programs: what a window on a drawing needs beyond orlo/host/viewport.h.
+//
+//   ViewportSetRect(view, &client);
+//   ViewportSetExtents(view, GraphicGetExtentsSel(root, 0), 3);     // zoom to all
+//   ViewportSetGDIStuff(view, window, dc, MM_TEXT, 1);
+//   GraphicDrawEx2(root, nullptr, view, 0, 1);
+//   GraphicDrawHighlighted(selection, view, RGB(0, 120, 215));
+//   picked = ViewportPick(view, root, cursor, 4, 0xFFFFFFFF);
+//
+// Positions and distances are device pixels unless said otherwise. A changed rectangle keeps scale and middle.
+#pragma once
+
+#include "orlo/host/api.h"
+#include "orlo/host/records.h"
+
+// Colour that lies behind the drawing: lines of nearly that colour are drawn black or white, so that they are seen. Without
+// this call it is the system's window colour or, for previews, the application's preview background.
+DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
+
+// Draws a graphic with its members in one colour, solid and at least three pixels wide.
+DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);
+
+// Zooms in (factor above 1) or out; what is under fixed stays there.
+DRAWCORE_API void ViewportZoom(ViewportStruct*, POINT fixed, double factor);
+// Moves the picture by that much.
+DRAWCORE_API void ViewportPan(ViewportStruct*, int dx, int dy);
+// The point of the drawing (drawing units) under a pixel.
+DRAWCORE_API void ViewportToDrawing(ViewportStruct*, POINT device, double* x, double* y);
+
+// The member of the set (a drawing's root, a selection) that is drawn last of those within tolerance of the pixel, or null.
+// filter as in GraphicFirst. What is on invisible or locked layers is not found; of an insertion the whole is.
+DRAWCORE_API GraphicStruct* ViewportPick(ViewportStruct*, GraphicStruct* set, POINT device, int tolerance,
+                                         uint32_t filter);
+// Adds to the selection the members that lie wholly in the rectangle or, with crossing, have a part in it; the number
+// added.
+DRAWCORE_API int ViewportPickWindow(ViewportStruct*, GraphicStruct* set, const RECT* device, int crossing,
+                                    uint32_t filter, GraphicStruct* selection);

@@ -1,0 +1,28 @@
+// The application of this process: current drawing, variables, palette, configuration file.
+#pragma once
+
+#include <string>
+
+#include "drawcore/src/tables/table.h"
+#include "orlo/host/records.h"
+
+namespace drawcore {
+
+class Application : public AppStruct {
+public:
+    static Application& Get();
+
+    void SetCurrentDrawing(Drawing* drawing) { pCurrentDrawing = reinterpret_cast<DrawingStruct*>(drawing); }
+    void Forget(const Drawing& drawing); // it is about to go
+    // Variable kVarPreviewBackground; white if the host program has taken the variable away.
+    uint32_t PreviewBackground() const;
+
+    std::string configurationFile;
+
+private:
+    Application();
+
+    Table variables_{nullptr};
+};
+
+} // namespace drawcore

@@ -1,0 +1,90 @@
+#include "drawcore/src/database/drawing.h"
+
+#include "drawcore/include/drawcore/drawing.h"
+#include "drawcore/src/database/application.h"
+#include "drawcore/src/database/live.h"
+#include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/units/unit_settings.h"
+#include "orlo/host/drawing.h"
+
+namespace drawcore {
+
+Drawing::Drawing()
+    : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<VertexGraphic>()) {
+    Live<DrawingStruct>::Enter(this);
+    pApplication = &Application::Get();
+    AddTable(kLayersTable, std::make_unique<LayerTable>(this));
+    AddTable(kLineStylesTable, std::make_unique<LineStyleTable>(this));
+    AddTable(kBrushStylesTable, std::make_unique<BrushStyleTable>(this));
+    AddTable(kColorsTable, std::make_unique<ColorTable>(this));
+    AddTable(kBlocksTable, std::make_unique<BlockTable>(this));
+    Table* units = AddTable(kUnitsTable, std::make_unique<Table>(this));
+    UnitSettings().Store(*units);
+    pUnits = units;
+    root_->Attach(this);
+}
+
+Drawing::~Drawing() {
+    Live<DrawingStruct>::Leave(this);
+    Application::Get().Forget(*this);
+}
+
+Drawing* Drawing::Find(DrawingStruct* drawing) {
+    return Live<DrawingStruct>::Has(drawing) ? static_cast<Drawing*>(drawing) : nullptr;
+}
+
+Table* Drawing::FindTable(std::string_view name) const {
+    const auto found = tables_.find(name);
+    return found == tables_.end() ? nullptr : found->second.get();
+}
+
+Table* Drawing::AddTable(std::string_view name, std::unique_ptr<Table> table) {
+    const auto [at, added] = tables_.emplace(name, std::move(table));
+    return added ? at->second.get() : nullptr;
+}
+
+bool Drawing::RemoveTable(Table* table) {
+    for (auto at = tables_.begin(); at != tables_.end(); ++at) {
+        if (at->second.get() != table) continue;
+        if (pUnits == table) pUnits = nullptr;
+        tables_.erase(at);
+        return true;
+    }
+    return false;
+}
+
+} // namespace drawcore
+
+using namespace drawcore;
+
+DrawingStruct* DrawingNew(void) {
+    return new (std::nothrow) Drawing;
+}
+
+void DrawingDispose(DrawingStruct** drawing) {
+    if (!drawing) return;
+    delete Drawing::Find(*drawing);
+    *drawing = nullptr;
+}
+
+GraphicStruct* DrawingGetRoot(DrawingStruct* drawing) {
+    Drawing* found = Drawing::Find(drawing);
+    return found ? &found->Root() : nullptr;
+}
+
+TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* name) {
+    Drawing* found = Drawing::Find(drawing);
+    return found && name ? found->FindTable(name) : nullptr;
+}
+
+TableStruct* DrawingAddTable(DrawingStruct* drawing, const char* name) {
+    Drawing* found = Drawing::Find(drawing);
+    return found && name ? found->AddTable(name, std::make_unique<Table>(found)) : nullptr;
+}
+
+int DrawingDeleteTable(DrawingStruct* drawing, TableStruct* table) {
+    Drawing* found = Drawing::Find(drawing);
+    Table* gone = Table::Find(table);
+    return found && gone && found->RemoveTable(gone);
+}

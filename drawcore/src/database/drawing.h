@@ -1,0 +1,61 @@
+// A drawing: its tables, its graphics, its undo log. Where it came from is not its business (see dxf/).
+#pragma once
+
+#include <map>
+
+#include "drawcore/src/styles/block.h"
+#include "drawcore/src/styles/brush_style.h"
+#include "drawcore/src/styles/colors.h"
+#include "drawcore/src/styles/layer.h"
+#include "drawcore/src/styles/line_style.h"
+#include "orlo/host/records.h"
+
+namespace drawcore {
+
+class UndoLog;
+class VertexGraphic;
+
+constexpr const char* kLayersTable = "_Layers_";
+constexpr const char* kLineStylesTable = "_LineStyles_";
+constexpr const char* kBrushStylesTable = "_BrushStyles_";
+constexpr const char* kColorsTable = "_Colors_";
+constexpr const char* kBlocksTable = "_Blocks_";
+constexpr const char* kUnitsTable = "_Units_";
+
+class Drawing : public DrawingStruct {
+public:
+    Drawing();
+    ~Drawing();
+    Drawing(const Drawing&) = delete;
+    Drawing& operator=(const Drawing&) = delete;
+
+    // The drawing behind a pointer from outside; null for null and for a drawing that is gone.
+    static Drawing* Find(DrawingStruct* drawing);
+
+    // Any of its tables by name; null if there is none.
+    Table* FindTable(std::string_view name) const;
+    Table* AddTable(std::string_view name, std::unique_ptr<Table> table); // null if the name is taken
+    bool RemoveTable(Table* table);
+
+    // The tables that every drawing has from the start; null once the host program has removed one.
+    LayerTable* Layers() const { return dynamic_cast<LayerTable*>(FindTable(kLayersTable)); }
+    LineStyleTable* LineStyles() const { return dynamic_cast<LineStyleTable*>(FindTable(kLineStylesTable)); }
+    BrushStyleTable* BrushStyles() const {
+        return dynamic_cast<BrushStyleTable*>(FindTable(kBrushStylesTable));
+    }
+    ColorTable* Colors() const { return dynamic_cast<ColorTable*>(FindTable(kColorsTable)); }
+    BlockTable* Blocks() const { return dynamic_cast<BlockTable*>(FindTable(kBlocksTable)); }
+    Table* Units() const { return FindTable(kUnitsTable); }
+
+    VertexGraphic& Root() const { return *root_; } // the group of all its graphics
+    UndoLog& Undo() const { return *undo_; }
+
+    double lineScale = 1; // DXF's $LTSCALE: dash patterns of the drawing's own graphics grow by it
+
+private:
+    std::map<std::string, std::unique_ptr<Table>, std::less<>> tables_;
+    std::unique_ptr<UndoLog> undo_;
+    std::unique_ptr<VertexGraphic> root_;
+};
+
+} // namespace drawcore

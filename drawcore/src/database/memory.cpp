@@ -1,0 +1,32 @@
+// Blocks and strings that cross the boundary, and the count of everything that has to be given back.
+
+#include "orlo/host/memory.h"
+
+#include <cstdlib>
+
+#include "drawcore/include/drawcore/census.h"
+#include "drawcore/src/database/census.h"
+
+using drawcore::Census;
+
+void* DrawCoreNew(size_t size) {
+    void* block = std::malloc(size ? size : 1);
+    if (block) ++Census::blocks;
+    return block;
+}
+
+void DrawCoreDispose(void* block) {
+    if (!block) return;
+    --Census::blocks;
+    std::free(block);
+}
+
+void BStringNULL(char** string) {
+    if (!string) return;
+    DrawCoreDispose(*string);
+    *string = nullptr;
+}
+
+void DrawCoreGetCensus(DrawCoreCensus* census) {
+    if (census) *census = {Census::blocks, Census::graphics, Census::vertices, Census::viewports};
+}

@@ -1,0 +1,36 @@
+// How a graphic is drawn: pen and brush. Values only; the properties of these names are in properties.h.
+#pragma once
+
+#include "drawcore/src/styles/brush_style.h"
+#include "drawcore/src/styles/colors.h"
+#include "drawcore/src/styles/line_style.h"
+
+namespace drawcore {
+
+enum : uint8_t {
+    kScaleWorld = 0, // the width is in drawing units and grows with the view
+    kScalePaper = 2, // the width is plotted: inches on paper, the same at every zoom
+};
+
+struct Pen {
+    double width = 0; // by scaleSystem; 0 is the thinnest line of the device
+    double scale = 1; // of the dash pattern
+    Color color = kByLayer;
+    uint16_t style = kStyleByLayer;
+    uint8_t scaleSystem = kScalePaper;
+    bool alignment = true; // dashes fitted to each segment; else the pattern runs on through the corners
+};
+
+struct Brush {
+    double scale = 1;
+    double angle = 0; // radians
+    Color color = kPenColor;
+    int32_t drawMode = 0; // 1 winding, 0 alternate
+    uint16_t style = kBrushNone;
+    bool cross = false; // the hatch once more, at a right angle
+};
+
+bool operator==(const Pen& a, const Pen& b);
+bool operator==(const Brush& a, const Brush& b);
+
+} // namespace drawcore

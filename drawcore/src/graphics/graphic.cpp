@@ -1,0 +1,160 @@
+#include "drawcore/src/graphics/graphic.h"
+
+#include <algorithm>
+
+#include "drawcore/src/database/census.h"
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/trace.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+
+namespace drawcore {
+
+namespace {
+
+// Collects the box of what is traced; widths and dashes do not count.
+class ExtentsSink : public GeometrySink {
+public:
+    explicit ExtentsSink(Extents& extents) : extents_(extents) {}
+    bool Wants(const Extents&, double) const override { return true; }
+    double Tolerance() const override { return 0; }
+    double PaperInch() const override { return 0; }
+    void Stroke(const Path& path, const PenUse&) override { Add(path); }
+    void Fill(const Path& outlines, const BrushUse&) override { Add(outlines); }
+    void Text(const TextRow& row) override {
+        for (const double x : {0.0, row.width})
+            for (const double y : {-row.face->Descent(), 1.0})
+                extents_.Add(row.matrix.Apply({x, y, 0}));
+    }
+
+private:
+    void Add(const Path& path) {
+        for (const Point& p : path.points)
+            extents_.Add({p.x, p.y, 0});
+    }
+
+    Extents& extents_;
+};
+
+} // namespace
+
+Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{}, propertyTable(properties) {
+    bType = type;
+    dwFlags = kFlagNoParent | kFlagDirty;
+    ++Census::graphics;
+}
+
+Graphic::Graphic(const Graphic& other)
+    : GraphicStruct(other), pen(other.pen), brush(other.brush), layer(other.layer),
+      styleTree(other.styleTree), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
+      propertyTable(other.propertyTable), drawing_(other.drawing_) {
+    ++Census::graphics;
+    pParent = nullptr;
+    dwFlags |= kFlagNoParent;
+}
+
+Graphic::~Graphic() {
+    --Census::graphics;
+    if (!inUndoLog_) return;
+    if (Drawing* drawing = GetDrawing()) drawing->Undo().Forget(*this);
+}
+
+std::unique_ptr<Graphic> Graphic::Clone() const {
+    std::unique_ptr<Graphic> copy = CloneState();
+    for (const auto& part : parts_)
+        copy->Add(part->Clone());
+    return copy;
+}
+
+Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
+    Graphic* added = parts_.emplace_back(std::move(part)).get();
+    added->pParent = this;
+    added->dwFlags &= ~kFlagNoParent;
+    if (drawing_) added->Attach(drawing_);
+    ForgetExtents();
+    return added;
+}
+
+std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
+    // From the end: what was added last goes first, as a rule.
+    const auto found =
+        std::find_if(parts_.rbegin(), parts_.rend(), [part](const auto& item) { return item.get() == part; });
+    if (found == parts_.rend()) return nullptr;
+    std::unique_ptr<Graphic> released = std::move(*found);
+    parts_.erase(std::next(found).base());
+    released->pParent = nullptr;
+    released->dwFlags |= kFlagNoParent;
+    ForgetExtents();
+    return released;
+}
+
+const Graphic& Graphic::Top() const {
+    const Graphic* top = this;
+    while (const Graphic* parent = top->Parent())
+        top = parent;
+    return *top;
+}
+
+void Graphic::Attach(Drawing* drawing) {
+    drawing_ = drawing;
+    ForgetExtents();
+    for (const auto& part : parts_)
+        part->Attach(drawing);
+}
+
+Drawing* Graphic::GetDrawing() const {
+    return Drawing::Find(drawing_);
+}
+
+void Graphic::Changing() {
+    Drawing* drawing = GetDrawing();
+    if (drawing && drawing->Undo().IsOpen() && &Top() == &drawing->Root()) drawing->Undo().Save(*this);
+}
+
+void Graphic::ChangedShape() {
+    ChangedLook();
+    ForgetExtents();
+}
+
+void Graphic::ForgetExtents() {
+    // A graphic whose extents are known has members whose extents are known: the way up ends at the first that isn't.
+    Graphic* graphic = this;
+    do
+        graphic->extentsKnown_ = false;
+    while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
+}
+
+const Extents& Graphic::GetExtents() const {
+    if (extentsKnown_) return extents_;
+    extents_ = {};
+    extentsKnown_ = KeepsExtents(); // before the members: a block may hold an insertion of itself
+    AddShapeExtents(extents_);
+    for (size_t i = 0; i < MemberCount(); ++i)
+        extents_.Add(MemberAt(i)->GetExtents());
+    return extents_;
+}
+
+void Graphic::AddShapeExtents(Extents& extents) const {
+    ExtentsSink sink(extents);
+    TraceTools tools(nullptr);
+    TraceShape(Trace(sink, tools), {});
+}
+
+void Graphic::RestoreAttributes(const Graphic& saved) {
+    pen = saved.pen;
+    brush = saved.brush;
+    layer = saved.layer;
+    styleTree = saved.styleTree;
+    info = saved.info ? std::make_unique<std::string>(*saved.info) : nullptr;
+    wLastPage = saved.wLastPage;
+    dwOneOutline = saved.dwOneOutline;
+}
+
+bool Graphic::EqualAttributes(const Graphic& saved) const {
+    const std::string& ours = info ? *info : std::string();
+    const std::string& theirs = saved.info ? *saved.info : std::string();
+    return pen == saved.pen && brush == saved.brush && layer == saved.layer && styleTree == saved.styleTree &&
+           ours == theirs;
+}
+
+} // namespace drawcore

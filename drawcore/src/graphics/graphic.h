@@ -1,0 +1,103 @@
+// The base of all graphics: the host's record, pen and brush, members, extents, and tracing. What shape a graphic has
+// is its class's business: VertexGraphic, EllipseGraphic, SplineGraphic, TextGraphic, InsertGraphic.
+//
+// A graphic owns its parts (those of a group, the attribute texts of an insertion); a Selection has members that it
+// does not own.
+// Coordinates are drawing units of the drawing or block that the graphic belongs to.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "drawcore/src/graphics/attributes.h"
+#include "drawcore/src/graphics/extents.h"
+#include "orlo/host/records.h"
+
+namespace drawcore {
+
+class Drawing;
+struct Trace;
+struct PenUse;
+
+// Bits of the record's flag word that are drawcore's own.
+constexpr uint32_t kFlagDirty = 1; // changed since it was drawn last
+
+// What kind of graphic it is, for filters and property tables; one bit each, as in drawcore/graphic.h.
+enum class Kind : uint32_t { Vertices = 1, Curve = 2, Text = 8, Insert = 0x10, Group = 0x20 };
+
+class Graphic : public GraphicStruct {
+public:
+    virtual ~Graphic();
+    Graphic& operator=(const Graphic&) = delete;
+
+    static Graphic* From(GraphicStruct* graphic) { return static_cast<Graphic*>(graphic); }
+    static const Graphic* From(const GraphicStruct* graphic) { return static_cast<const Graphic*>(graphic); }
+
+    virtual Kind GetKind() const = 0;
+    // A copy with copies of the parts, tied to the same drawing and owned by nobody.
+    std::unique_ptr<Graphic> Clone() const;
+    // A copy without parts, for Restore and EqualState: the state is everything but parts, owner and drawing.
+    virtual std::unique_ptr<Graphic> CloneState() const = 0;
+    virtual void Restore(const Graphic& saved) = 0;
+    virtual bool EqualState(const Graphic& saved) const = 0;
+
+    // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
+    virtual size_t MemberCount() const { return parts_.size(); }
+    virtual Graphic* MemberAt(size_t index) const { return parts_[index].get(); }
+    Graphic* Add(std::unique_ptr<Graphic> part);
+    // Takes the part out and hands it over; null if it is none.
+    std::unique_ptr<Graphic> Release(Graphic* part);
+
+    // The graphic that holds this one; null for a free one, a block's content and a drawing's root.
+    Graphic* Parent() const { return dwFlags & kFlagNoParent ? nullptr : From(pParent); }
+    const Graphic& Top() const; // the last of the parents, or this one
+
+    // Ties this graphic and its members to a drawing, or to none.
+    void Attach(Drawing* drawing);
+    Drawing* GetDrawing() const; // null too when the drawing is gone
+
+    // A setter calls Changing before it changes anything, for the undo log, and one of the others after.
+    void Changing();
+    void ChangedLook() { dwFlags |= kFlagDirty; }
+    void ChangedShape();
+
+    const Extents& GetExtents() const; // with members
+    void ForgetExtents();              // and those of all that hold it
+
+    // The shape of this graphic alone, without members, into the sink of the trace.
+    virtual void TraceShape(const Trace& trace, const PenUse& use) const = 0;
+    // How far the shape goes beyond its extents, pen width apart: half of a segment's own width.
+    virtual double Reach() const { return 0; }
+
+    Pen pen;
+    Brush brush;
+    Id layer = 1;
+    uint16_t styleTree = kNoId;        // entry of "_Blocks_": the style that it is drawn in
+    std::unique_ptr<std::string> info; // attribute text; null is empty
+    const PropertyTable* propertyTable;
+
+protected:
+    Graphic(uint8_t type, const PropertyTable* properties);
+    Graphic(const Graphic& other); // without parts; no owner
+    virtual void AddShapeExtents(Extents& extents) const;
+    void RestoreAttributes(const Graphic& saved);
+    bool EqualAttributes(const Graphic& saved) const;
+
+    // Whether the box can be kept until ForgetExtents says otherwise.
+    virtual bool KeepsExtents() const { return true; }
+
+private:
+    friend class UndoLog;
+
+    std::vector<std::unique_ptr<Graphic>> parts_;
+    Drawing* drawing_ = nullptr;
+    mutable Extents extents_;
+    mutable bool extentsKnown_ = false;
+    bool inUndoLog_ = false;
+};
+
+// Whether the filter of a walk lets the graphic through (see drawcore/graphic.h).
+bool PassesFilter(const Graphic& graphic, uint32_t filter);
+
+} // namespace drawcore

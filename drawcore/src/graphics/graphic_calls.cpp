@@ -1,0 +1,185 @@
+// The host's calls on graphics.
+
+#include <cmath>
+#include <new>
+
+#include "drawcore/include/drawcore/graphic.h"
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/ellipse_graphic.h"
+#include "drawcore/src/graphics/insert_graphic.h"
+#include "drawcore/src/graphics/text_graphic.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/vertex.h"
+#include "orlo/host/viewport.h"
+
+namespace drawcore {
+
+bool PassesFilter(const Graphic& graphic, uint32_t filter) {
+    const uint32_t kinds = filter & kFilterKinds;
+    return !kinds || (kinds & static_cast<uint32_t>(graphic.GetKind()));
+}
+
+namespace {
+
+Graphic* NewOfType(int type) {
+    switch (type) {
+    case kGraphicVertices:
+        return new VertexGraphic;
+    case kGraphicPenBrush:
+        return new EllipseGraphic;
+    case kGraphicText:
+        return new TextGraphic;
+    case kGraphicInsert:
+        return new InsertGraphic;
+    default:
+        return nullptr;
+    }
+}
+
+// The first member from that place on that passes; the position becomes the place behind it.
+GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t place, void* position, uint32_t filter) {
+    if (!set || !position) return nullptr;
+    const Graphic& graphic = *Graphic::From(set);
+    const size_t count = graphic.MemberCount();
+    Graphic* found = nullptr;
+    while (place < count && !found) {
+        Graphic* member = graphic.MemberAt(place++);
+        if (PassesFilter(*member, filter)) found = member;
+    }
+    *static_cast<uint32_t*>(position) = place;
+    return found;
+}
+
+VertexGraphic* AsVertices(GraphicStruct* graphic) {
+    return graphic && graphic->bType == kGraphicVertices
+               ? dynamic_cast<VertexGraphic*>(Graphic::From(graphic))
+               : nullptr;
+}
+
+// Sets one attribute directly: no check against properties, but the undo log sees it.
+template <class Field, class Value>
+void SetAttribute(GraphicStruct* record, Field&& field, Value value) {
+    if (!record) return;
+    Graphic& graphic = *Graphic::From(record);
+    graphic.Changing();
+    field(graphic) = value;
+    graphic.ChangedLook();
+}
+
+} // namespace
+
+} // namespace drawcore
+
+using namespace drawcore;
+
+GraphicStruct* GraphicNewEx(int type, int, int) {
+    try {
+        return NewOfType(type);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+void GraphicDispose(GraphicStruct** graphic) {
+    if (!graphic || !*graphic) return;
+    delete Graphic::From(*graphic);
+    *graphic = nullptr;
+}
+
+void GraphicAttach(GraphicStruct* graphic, DrawingStruct* drawing) {
+    if (graphic) Graphic::From(graphic)->Attach(Drawing::Find(drawing));
+}
+
+DrawingStruct* GraphicGetDrawing(GraphicStruct* graphic) {
+    return graphic ? Graphic::From(graphic)->GetDrawing() : nullptr;
+}
+
+GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child) {
+    if (!parent || !child || parent == child || Graphic::From(child)->Parent()) return nullptr;
+    return Graphic::From(parent)->Add(std::unique_ptr<Graphic>(Graphic::From(child)));
+}
+
+void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
+    if (owner && child) Graphic::From(owner)->Release(Graphic::From(child)).release(); // now the caller's
+}
+
+GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int, uint32_t filter) {
+    return MemberFrom(set, 0, position, filter);
+}
+
+GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int, uint32_t filter) {
+    return position ? MemberFrom(set, *static_cast<uint32_t*>(position), position, filter) : nullptr;
+}
+
+int GraphicGetIsGroup(GraphicStruct* graphic) {
+    return graphic && Graphic::From(graphic)->GetKind() == Kind::Group;
+}
+
+uint32_t GraphicGetKind(GraphicStruct* graphic) {
+    return graphic ? static_cast<uint32_t>(Graphic::From(graphic)->GetKind()) : 0;
+}
+
+const PropertyTable* GraphicGetVtbl(GraphicStruct* graphic) {
+    return graphic ? Graphic::From(graphic)->propertyTable : nullptr;
+}
+
+void GraphicSetVtbl(GraphicStruct* graphic, const PropertyTable* table) {
+    if (graphic) Graphic::From(graphic)->propertyTable = table;
+}
+
+void GraphicSetDirty(GraphicStruct* graphic, int dirty) {
+    if (!graphic) return;
+    if (dirty)
+        graphic->dwFlags |= kFlagDirty;
+    else
+        graphic->dwFlags &= ~kFlagDirty;
+}
+
+int GraphicIsDirty(GraphicStruct* graphic) {
+    return graphic && (graphic->dwFlags & kFlagDirty);
+}
+
+void GraphicSetExtentsDirty(GraphicStruct* graphic, int dirty) {
+    if (graphic && dirty) Graphic::From(graphic)->ForgetExtents();
+}
+
+const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int) {
+    return graphic ? &Graphic::From(graphic)->GetExtents() : nullptr;
+}
+
+void GraphicSetPenColor(GraphicStruct* graphic, uint32_t color) {
+    SetAttribute(
+        graphic, [](Graphic & g) -> auto& { return g.pen.color; }, color);
+}
+
+void GraphicSetPenStyle(GraphicStruct* graphic, uint16_t style) {
+    SetAttribute(
+        graphic, [](Graphic & g) -> auto& { return g.pen.style; }, style);
+}
+
+void GraphicSetPenScale(GraphicStruct* graphic, double scale) {
+    if (std::isfinite(scale))
+        SetAttribute(
+            graphic, [](Graphic & g) -> auto& { return g.pen.scale; }, std::fabs(scale));
+}
+
+void GraphicSetScaleSystem(GraphicStruct* graphic, int system) {
+    const uint8_t value = system == kScaleWorld ? kScaleWorld : kScalePaper;
+    SetAttribute(
+        graphic, [](Graphic & g) -> auto& { return g.pen.scaleSystem; }, value);
+}
+
+void GraphicSetBrushStyle(GraphicStruct* graphic, uint16_t style) {
+    SetAttribute(
+        graphic, [](Graphic & g) -> auto& { return g.brush.style; }, style);
+}
+
+int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex) {
+    VertexGraphic* list = AsVertices(graphic);
+    if (!list || !vertex) return 0;
+    list->Changing();
+    list->vertices.push_back(*Vertex::From(vertex));
+    list->ChangedShape();
+    return 1;
+}

@@ -1,0 +1,91 @@
+#include "drawcore/src/graphics/insert_graphic.h"
+
+#include <algorithm>
+
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/properties.h"
+#include "drawcore/src/graphics/trace.h"
+
+namespace drawcore {
+
+namespace {
+
+constexpr int kDeepest = 64; // blocks in blocks; deeper ones show nothing
+
+bool IsOpen(const Block* block, const Trace& trace) {
+    for (const Trace* at = &trace; at; at = at->outer)
+        if (at->block == block) return true;
+    return false;
+}
+
+} // namespace
+
+InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
+    : Graphic(kGraphicInsert, &kInsertProperties), block(blockId) {
+    const Vec3 origin = placement.Apply({});
+    const Vec3 corners[4] = {origin, placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
+                             placement.Apply({0, 0, 1})};
+    for (int i = 0; i < 4; ++i)
+        vertices[i] = Vertex(corners[i]);
+}
+
+std::unique_ptr<Graphic> InsertGraphic::CloneState() const {
+    return std::make_unique<InsertGraphic>(*this);
+}
+
+void InsertGraphic::Restore(const Graphic& saved) {
+    const auto& other = static_cast<const InsertGraphic&>(saved);
+    RestoreAttributes(other);
+    std::copy(std::begin(other.vertices), std::end(other.vertices), vertices);
+    block = other.block;
+    array = other.array;
+}
+
+bool InsertGraphic::EqualState(const Graphic& saved) const {
+    const auto& other = static_cast<const InsertGraphic&>(saved);
+    return EqualAttributes(other) && std::equal(std::begin(vertices), std::end(vertices), other.vertices) &&
+           block == other.block && array.columns == other.array.columns && array.rows == other.array.rows &&
+           array.columnStep == other.array.columnStep && array.rowStep == other.array.rowStep;
+}
+
+Matrix InsertGraphic::Placement() const {
+    const Vec3 origin = vertices[0].Position();
+    return Matrix::FromAxes(vertices[1].Position() - origin, vertices[2].Position() - origin,
+                            vertices[3].Position() - origin, origin);
+}
+
+void InsertGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
+    const Block* shown = trace.tools.blocks ? trace.tools.blocks->At(block) : nullptr;
+    if (!shown || trace.depth >= kDeepest || IsOpen(shown, trace)) return;
+    Trace inner = trace;
+    inner.outer = &trace;
+    inner.block = shown;
+    inner.depth = trace.depth + 1;
+    inner.layer = EffectiveLayer(*this, trace);
+    inner.color = use.color;
+    inner.style = use.style;
+    const Matrix first = Matrix::Translation(shown->base * -1) * Placement();
+    for (int row = 0; row < array.rows; ++row)
+        for (int column = 0; column < array.columns && trace.tools.budget > 0; ++column) {
+            const Vec3 shift = array.columnStep * column + array.rowStep * row;
+            inner.matrix = first * Matrix::Translation(shift) * trace.matrix;
+            TraceGraphic(shown->Content(), inner);
+        }
+}
+
+void InsertGraphic::AddShapeExtents(Extents& extents) const {
+    static int depth = 0;
+    const Drawing* drawing = GetDrawing();
+    const Block* shown = drawing && drawing->Blocks() ? drawing->Blocks()->At(block) : nullptr;
+    if (!shown || depth >= kDeepest) return;
+    ++depth;
+    const Extents box =
+        shown->Content().GetExtents().Transformed(Matrix::Translation(shown->base * -1) * Placement());
+    --depth;
+    for (const int row : {0, array.rows - 1})
+        for (const int column : {0, array.columns - 1})
+            extents.Add(
+                box.Transformed(Matrix::Translation(array.columnStep * column + array.rowStep * row)));
+}
+
+} // namespace drawcore

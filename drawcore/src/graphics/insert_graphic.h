@@ -1,0 +1,37 @@
+// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts, in the drawing's coordinates.
+#pragma once
+
+#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/vertex.h"
+
+namespace drawcore {
+
+struct InsertArray {
+    int columns = 1, rows = 1;
+    Vec3 columnStep, rowStep; // from one copy to the next, in the drawing's coordinates
+};
+
+class InsertGraphic : public Graphic {
+public:
+    // The matrix is held as four vertices: the origin and the end points of the block's axes.
+    explicit InsertGraphic(Id blockId = kNoId, const Matrix& placement = {});
+    InsertGraphic(const InsertGraphic&) = default;
+
+    Kind GetKind() const override { return Kind::Insert; }
+    std::unique_ptr<Graphic> CloneState() const override;
+    void Restore(const Graphic& saved) override;
+    bool EqualState(const Graphic& saved) const override;
+    void TraceShape(const Trace& trace, const PenUse& use) const override;
+
+    // From the block's coordinates to those of the drawing, without the block's base point.
+    Matrix Placement() const;
+
+    Id block; // entry of "_Blocks_" of the drawing that this graphic is attached to
+    Vertex vertices[4];
+    InsertArray array;
+
+protected:
+    void AddShapeExtents(Extents& extents) const override;
+};
+
+} // namespace drawcore

@@ -1,0 +1,71 @@
+#include "drawcore/src/graphics/matrix.h"
+
+#include <cmath>
+
+namespace drawcore {
+
+double Length(const Vec3& v) {
+    return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
+}
+
+Vec3 Cross(const Vec3& a, const Vec3& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+
+Vec3 Normalized(const Vec3& v) {
+    const double length = Length(v);
+    return length > 0 ? v * (1 / length) : v;
+}
+
+Matrix Matrix::Translation(const Vec3& by) {
+    return FromAxes({1, 0, 0}, {0, 1, 0}, {0, 0, 1}, by);
+}
+
+Matrix Matrix::Scaling(const Vec3& by) {
+    return FromAxes({by.x, 0, 0}, {0, by.y, 0}, {0, 0, by.z}, {});
+}
+
+Matrix Matrix::RotationZ(double radians) {
+    const double c = std::cos(radians), s = std::sin(radians);
+    return FromAxes({c, s, 0}, {-s, c, 0}, {0, 0, 1}, {});
+}
+
+Matrix Matrix::FromAxes(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& origin) {
+    const Vec3* rows[4] = {&x, &y, &z, &origin};
+    Matrix m;
+    for (int r = 0; r < 4; ++r) {
+        m.at[r][0] = rows[r]->x;
+        m.at[r][1] = rows[r]->y;
+        m.at[r][2] = rows[r]->z;
+    }
+    return m;
+}
+
+Vec3 Matrix::Apply(const Vec3& p) const {
+    const Vec3 turned = Turn(p);
+    return {turned.x + at[3][0], turned.y + at[3][1], turned.z + at[3][2]};
+}
+
+Vec3 Matrix::Turn(const Vec3& v) const {
+    return {v.x * at[0][0] + v.y * at[1][0] + v.z * at[2][0],
+            v.x * at[0][1] + v.y * at[1][1] + v.z * at[2][1],
+            v.x * at[0][2] + v.y * at[1][2] + v.z * at[2][2]};
+}
+
+double Matrix::PlanScale() const {
+    return std::sqrt(std::fabs(at[0][0] * at[1][1] - at[0][1] * at[1][0]));
+}
+
+Matrix operator*(const Matrix& first, const Matrix& then) {
+    Matrix product;
+    for (int r = 0; r < 4; ++r)
+        for (int c = 0; c < 4; ++c) {
+            double sum = 0;
+            for (int k = 0; k < 4; ++k)
+                sum += first.at[r][k] * then.at[k][c];
+            product.at[r][c] = sum;
+        }
+    return product;
+}
+
+} // namespace drawcore

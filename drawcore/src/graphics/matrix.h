@@ -1,0 +1,53 @@
+// Points, vectors and the affine matrix. Acts on row vectors: p * a * b applies a first.
+#pragma once
+
+namespace drawcore {
+
+struct Point {
+    double x = 0, y = 0;
+};
+
+struct Vec3 {
+    double x = 0, y = 0, z = 0;
+};
+
+inline Vec3 operator+(const Vec3& a, const Vec3& b) {
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+inline Vec3 operator-(const Vec3& a, const Vec3& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+inline Vec3 operator*(const Vec3& a, double f) {
+    return {a.x * f, a.y * f, a.z * f};
+}
+inline bool operator==(const Vec3& a, const Vec3& b) {
+    return a.x == b.x && a.y == b.y && a.z == b.z;
+}
+double Length(const Vec3& v);
+Vec3 Cross(const Vec3& a, const Vec3& b);
+Vec3 Normalized(const Vec3& v); // a vector without length stays as it is
+
+// Sixteen doubles in rows, as the host's matrix record has them: row 3 holds the translation.
+struct Matrix {
+    double at[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
+
+    static Matrix Translation(const Vec3& by);
+    static Matrix Scaling(const Vec3& by);
+    static Matrix RotationZ(double radians);
+    // The matrix that takes the x, y and z axes to these vectors and the origin to that point.
+    static Matrix FromAxes(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& origin);
+
+    Vec3 Apply(const Vec3& p) const; // a point
+    Vec3 Turn(const Vec3& v) const;  // a vector: no translation
+    // The plan view of a point: z is dropped after the transformation.
+    Point Plan(const Vec3& p) const {
+        return {p.x * at[0][0] + p.y * at[1][0] + p.z * at[2][0] + at[3][0],
+                p.x * at[0][1] + p.y * at[1][1] + p.z * at[2][1] + at[3][1]};
+    }
+    // Mean factor by which lengths in the xy plane grow: the square root of the area's factor.
+    double PlanScale() const;
+};
+
+Matrix operator*(const Matrix& first, const Matrix& then);
+
+} // namespace drawcore

@@ -1,0 +1,42 @@
+// Flat polylines in one coordinate system.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "drawcore/src/graphics/matrix.h"
+
+namespace drawcore {
+
+class Path {
+public:
+    void Clear() {
+        points.clear();
+        corners.clear();
+        starts.clear();
+    }
+    void MoveTo(Point p) {
+        starts.push_back(points.size());
+        Append(p, true);
+    }
+    // corner: an end of a segment of the graphic, not just a step of a flattened curve.
+    void LineTo(Point p, bool corner = true) { Append(p, corner); }
+
+    size_t Count() const { return starts.size(); }
+    // The points of polyline i are points[Begin(i)] to before points[End(i)].
+    size_t Begin(size_t i) const { return starts[i]; }
+    size_t End(size_t i) const { return i + 1 < starts.size() ? starts[i + 1] : points.size(); }
+
+    std::vector<Point> points;
+    std::vector<uint8_t> corners;
+    std::vector<size_t> starts;
+
+private:
+    void Append(Point p, bool corner) {
+        points.push_back(p);
+        corners.push_back(corner);
+    }
+};
+
+} // namespace drawcore

@@ -1,0 +1,78 @@
+#include "drawcore/src/graphics/selection.h"
+
+#include "drawcore/include/drawcore/selection.h"
+#include "drawcore/src/graphics/properties.h"
+
+namespace drawcore {
+
+Selection::Selection() : Graphic(kGraphicVertices, &kShapeProperties) {}
+
+std::unique_ptr<Graphic> Selection::CloneState() const {
+    auto copy = std::make_unique<Selection>();
+    for (Graphic* member : members_)
+        copy->Include(member);
+    return copy;
+}
+
+bool Selection::Include(Graphic* graphic) {
+    if (!graphic || !places_.emplace(graphic, members_.size()).second) return false;
+    members_.push_back(graphic);
+    return true;
+}
+
+bool Selection::Exclude(Graphic* graphic) {
+    const auto found = places_.find(graphic);
+    if (found == places_.end()) return false;
+    const size_t place = found->second;
+    places_.erase(found);
+    members_.erase(members_.begin() + static_cast<std::ptrdiff_t>(place));
+    for (size_t i = place; i < members_.size(); ++i)
+        places_[members_[i]] = i;
+    return true;
+}
+
+void Selection::Clear() {
+    members_.clear();
+    places_.clear();
+}
+
+} // namespace drawcore
+
+using drawcore::Graphic;
+using drawcore::Selection;
+
+namespace {
+
+Selection* AsSelection(GraphicStruct* set) {
+    return set ? dynamic_cast<Selection*>(Graphic::From(set)) : nullptr;
+}
+
+} // namespace
+
+GraphicStruct* SelectionNew(void) {
+    return new (std::nothrow) Selection;
+}
+
+int SelectionAdd(GraphicStruct* set, GraphicStruct* graphic) {
+    Selection* selection = AsSelection(set);
+    return selection && graphic && selection->Include(Graphic::From(graphic));
+}
+
+int SelectionRemove(GraphicStruct* set, GraphicStruct* graphic) {
+    Selection* selection = AsSelection(set);
+    return selection && graphic && selection->Exclude(Graphic::From(graphic));
+}
+
+int SelectionContains(GraphicStruct* set, GraphicStruct* graphic) {
+    Selection* selection = AsSelection(set);
+    return selection && graphic && selection->Contains(Graphic::From(graphic));
+}
+
+void SelectionClear(GraphicStruct* set) {
+    if (Selection* selection = AsSelection(set)) selection->Clear();
+}
+
+int SelectionCount(GraphicStruct* set) {
+    Selection* selection = AsSelection(set);
+    return selection ? static_cast<int>(selection->MemberCount()) : 0;
+}

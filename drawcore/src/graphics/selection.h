@@ -1,0 +1,35 @@
+// A set of graphics that belong to others. Answers GraphicFirst and GraphicNext like a group.
+#pragma once
+
+#include <unordered_map>
+
+#include "drawcore/src/graphics/graphic.h"
+
+namespace drawcore {
+
+class Selection : public Graphic {
+public:
+    Selection();
+    Kind GetKind() const override { return Kind::Group; }
+    std::unique_ptr<Graphic> CloneState() const override;
+    void Restore(const Graphic&) override {}
+    bool EqualState(const Graphic&) const override { return true; }
+    void TraceShape(const Trace&, const PenUse&) const override {}
+
+    size_t MemberCount() const override { return members_.size(); }
+    Graphic* MemberAt(size_t index) const override { return members_[index]; }
+
+    bool Contains(Graphic* graphic) const { return places_.count(graphic) != 0; }
+    bool Include(Graphic* graphic); // at the end; false if it is in already
+    bool Exclude(Graphic* graphic); // the order of the others stays
+    void Clear();
+
+protected:
+    bool KeepsExtents() const override { return false; }
+
+private:
+    std::vector<Graphic*> members_;
+    std::unordered_map<Graphic*, size_t> places_;
+};
+
+} // namespace drawcore

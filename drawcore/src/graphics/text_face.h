@@ -1,0 +1,39 @@
+// A TrueType face with its styles, measured in heights of a capital letter.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <windows.h>
+
+namespace drawcore {
+
+class TextFace {
+public:
+    // The face of that name; bits of style: italic, bold, strikethrough, underline (as TextGraphic's). A face that the
+    // system doesn't have is replaced by the system's choice. Made once and kept.
+    static const TextFace& Get(const std::string& name, uint16_t style);
+
+    ~TextFace();
+    TextFace(const TextFace&) = delete;
+    TextFace& operator=(const TextFace&) = delete;
+
+    // Length of a row along the baseline, in heights of a capital letter.
+    double Width(std::string_view row) const;
+
+    // The font to draw with, and the height of its capital letters in logical units.
+    HFONT Font() const { return font_; }
+    int CapitalHeight() const { return capital_; }
+    double Descent() const { return descent_; } // below the baseline, in heights of a capital letter
+
+private:
+    TextFace(const std::string& name, uint16_t style);
+
+    HFONT font_;
+    int capital_ = 1;
+    double descent_ = 0;
+};
+
+} // namespace drawcore

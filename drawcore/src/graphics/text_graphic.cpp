@@ -1,0 +1,147 @@
+#include "drawcore/src/graphics/text_graphic.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include <windows.h>
+
+#include "drawcore/src/graphics/properties.h"
+#include "drawcore/src/graphics/trace.h"
+
+namespace drawcore {
+
+namespace {
+
+constexpr double kRowStep = 5.0 / 3; // from baseline to baseline, in heights of a capital letter
+constexpr double kFrameGap = 0.3;    // around a framed text, likewise
+constexpr uint16_t kFaceBits = kTextItalic | kTextBold | kTextStrikethrough | kTextUnderline;
+
+std::vector<std::string> SplitLines(const std::string& text) {
+    std::vector<std::string> lines;
+    size_t begin = 0;
+    for (size_t end; (end = text.find('\n', begin)) != std::string::npos; begin = end + 1)
+        lines.push_back(text.substr(begin, end - begin));
+    lines.push_back(text.substr(begin));
+    return lines;
+}
+
+// Breaks a line at blanks so that no row is wider than limit, as far as its words allow.
+void Wrap(const std::string& line, double limit, const TextFace& face, std::vector<std::string>& rows) {
+    size_t begin = 0, fits = std::string::npos;
+    for (size_t blank = line.find(' '); blank != std::string::npos; blank = line.find(' ', blank + 1)) {
+        if (fits != std::string::npos &&
+            face.Width(std::string_view(line).substr(begin, blank - begin)) > limit) {
+            rows.push_back(line.substr(begin, fits - begin));
+            begin = fits + 1;
+        }
+        fits = blank;
+    }
+    if (fits != std::string::npos && fits >= begin &&
+        face.Width(std::string_view(line).substr(begin)) > limit) {
+        rows.push_back(line.substr(begin, fits - begin));
+        begin = fits + 1;
+    }
+    rows.push_back(line.substr(begin));
+}
+
+} // namespace
+
+bool TextState::operator==(const TextState& other) const {
+    const auto tie = [](const TextState& s) {
+        return std::tie(s.text, s.font, s.height, s.widthFactor, s.fitWidth, s.wrapWidth, s.lineSpacing,
+                        s.style, s.format, s.anchor);
+    };
+    return tie(*this) == tie(other) && position == other.position && along == other.along && up == other.up;
+}
+
+TextGraphic::TextGraphic() : Graphic(kGraphicText, &kTextProperties) {}
+
+std::unique_ptr<Graphic> TextGraphic::CloneState() const {
+    return std::make_unique<TextGraphic>(*this);
+}
+
+void TextGraphic::Restore(const Graphic& saved) {
+    RestoreAttributes(saved);
+    state = static_cast<const TextGraphic&>(saved).state;
+}
+
+bool TextGraphic::EqualState(const Graphic& saved) const {
+    return EqualAttributes(saved) && state == static_cast<const TextGraphic&>(saved).state;
+}
+
+void TextGraphic::LayOut() const {
+    if (hasLayout_ && laidOut_ == state) return;
+    laidOut_ = state;
+    hasLayout_ = true;
+    std::string text = state.text;
+    if (state.style & kTextAllCaps) ::CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
+    const double unit = state.height * state.widthFactor;
+    std::vector<std::string> texts;
+    for (const std::string& line : SplitLines(text)) {
+        if (state.wrapWidth > 0 && unit > 0)
+            Wrap(line, state.wrapWidth / unit, face, texts);
+        else
+            texts.push_back(line);
+    }
+    rows_.clear();
+    for (std::string& row : texts) {
+        const double width = face.Width(row);
+        rows_.push_back({std::move(row), {}, width});
+    }
+    PlaceRows(face);
+}
+
+void TextGraphic::PlaceRows(const TextFace& face) const {
+    const double step = kRowStep * state.lineSpacing, down = step * static_cast<double>(rows_.size() - 1);
+    double y = 0;
+    if (state.anchor == TextAnchor::Top) y = -1;
+    if (state.anchor == TextAnchor::Middle) y = (down - 1) / 2;
+    if (state.anchor == TextAnchor::Bottom) y = down + face.Descent();
+    stretch_ = state.widthFactor;
+    if (state.fitWidth > 0 && rows_.front().width > 0)
+        stretch_ = state.fitWidth / (rows_.front().width * state.height);
+    for (Row& row : rows_) {
+        row.origin = {-row.width * state.format / 2.0, y};
+        y -= step;
+    }
+}
+
+Matrix TextGraphic::RowMatrix(const Row& row) const {
+    const Vec3 x = state.along * (state.height * stretch_), y = state.up * state.height;
+    return Matrix::FromAxes(x, y, Cross(state.along, state.up),
+                            state.position + x * row.origin.x + y * row.origin.y);
+}
+
+void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
+    if (state.style & kTextHidden) return;
+    LayOut();
+    if (state.style & kTextBox) TraceFrame(trace, use);
+    const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
+    for (const Row& row : rows_) {
+        if (row.text.empty()) continue;
+        trace.sink.Text({row.text, &face, RowMatrix(row) * trace.matrix, row.width, use.color});
+    }
+}
+
+// A frame around all rows.
+void TextGraphic::TraceFrame(const Trace& trace, const PenUse& use) const {
+    double left = 0, right = 0;
+    for (const Row& row : rows_) {
+        left = std::min(left, row.origin.x);
+        right = std::max(right, row.origin.x + row.width);
+    }
+    const double top = rows_.front().origin.y + 1 + kFrameGap, bottom = rows_.back().origin.y - 2 * kFrameGap;
+    const Matrix matrix = RowMatrix({{}, {}, 0}) * trace.matrix;
+    Path& path = trace.tools.path;
+    path.Clear();
+    path.MoveTo(matrix.Plan({left - kFrameGap, bottom, 0}));
+    for (const Point& p : {Point{right + kFrameGap, bottom},
+                           {right + kFrameGap, top},
+                           {left - kFrameGap, top},
+                           {left - kFrameGap, bottom}})
+        path.LineTo(matrix.Plan({p.x, p.y, 0}));
+    if (use.strokes) trace.sink.Stroke(path, use);
+}
+
+} // namespace drawcore

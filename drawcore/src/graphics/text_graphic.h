@@ -1,0 +1,77 @@
+// Texts of one or more lines in a TrueType face.
+#pragma once
+
+#include "drawcore/src/graphics/graphic.h"
+
+namespace drawcore {
+
+// Bits of TextGraphic::style.
+enum : uint16_t {
+    kTextItalic = 0x0001,
+    kTextBold = 0x0002,
+    kTextStrikethrough = 0x0004,
+    kTextHidden = 0x0008,
+    kTextAllCaps = 0x0040,
+    kTextUnderline = 0x0100,
+    kTextBox = 0x1000,
+};
+
+enum : uint16_t { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
+
+// Which height of the text lies on the position.
+enum class TextAnchor : uint8_t { Baseline, Bottom, Middle, Top };
+
+struct TextState {
+    std::string text; // 8-bit, Windows code page; lines end with '\n'
+    std::string font; // face name; empty is the default face
+    Vec3 position;
+    Vec3 along{1, 0, 0}; // direction of the baseline, length 1
+    Vec3 up{
+        0, 1,
+        0}; // direction of the letters' height, length 1; not at a right angle: oblique, other side: mirrored
+    double height = 1;      // of a capital letter, drawing units
+    double widthFactor = 1; // of the letters
+    double fitWidth = 0;    // above 0: stretched to that length (DXF's aligned and fit)
+    double wrapWidth = 0;   // above 0: lines are broken at blanks to stay within that length
+    double lineSpacing = 1; // in multiples of the usual 5/3 of the height
+    uint16_t style = 0;
+    uint16_t format = kTextLeft;
+    TextAnchor anchor = TextAnchor::Baseline; // of the first line, or of the whole block but for Baseline
+
+    bool operator==(const TextState& other) const;
+};
+
+class TextFace;
+
+class TextGraphic : public Graphic {
+public:
+    TextGraphic();
+    TextGraphic(const TextGraphic&) = default;
+
+    Kind GetKind() const override { return Kind::Text; }
+    std::unique_ptr<Graphic> CloneState() const override;
+    void Restore(const Graphic& saved) override;
+    bool EqualState(const Graphic& saved) const override;
+    void TraceShape(const Trace& trace, const PenUse& use) const override;
+
+    TextState state;
+
+private:
+    // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
+    struct Row {
+        std::string text;
+        Point origin;
+        double width;
+    };
+    void LayOut() const;
+    void PlaceRows(const TextFace& face) const;
+    void TraceFrame(const Trace& trace, const PenUse& use) const;
+    Matrix RowMatrix(const Row& row) const;
+
+    mutable std::vector<Row> rows_;
+    mutable double stretch_ = 1; // of the letters' widths
+    mutable TextState laidOut_;  // what rows_ shows
+    mutable bool hasLayout_ = false;
+};
+
+} // namespace drawcore

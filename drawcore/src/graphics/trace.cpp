@@ -1,0 +1,124 @@
+#include "drawcore/src/graphics/trace.h"
+
+#include <algorithm>
+
+#include "drawcore/src/database/drawing.h"
+
+namespace drawcore {
+
+GeometrySink::~GeometrySink() = default;
+
+TraceTools::TraceTools(const Drawing* drawing) {
+    if (!drawing) return;
+    layers = drawing->Layers();
+    lineStyles = drawing->LineStyles();
+    brushStyles = drawing->BrushStyles();
+    blocks = drawing->Blocks();
+}
+
+namespace {
+
+const Layer* LayerOf(Id id, const Trace& trace) {
+    return trace.tools.layers ? trace.tools.layers->At(id) : nullptr;
+}
+
+const LineStyle* StyleOf(Id id, const Trace& trace) {
+    return trace.tools.lineStyles ? trace.tools.lineStyles->At(id) : nullptr;
+}
+
+Color ResolveColor(Color color, Id layer, const Trace& trace) {
+    if (IsPlainColor(color)) return color;
+    if (color == kByBlock) return trace.color;
+    const Layer* of = LayerOf(layer, trace);
+    return of ? of->color : kWhite;
+}
+
+const LineStyle* ResolveStyle(uint16_t style, Id layer, const Trace& trace) {
+    if (style == kStyleByBlock) return trace.style;
+    if (style != kStyleByLayer) return StyleOf(style, trace);
+    const Layer* of = LayerOf(layer, trace);
+    return of ? StyleOf(of->lineStyle, trace) : nullptr;
+}
+
+// An insertion on a layer that is only off still shows what of its block lies on other layers.
+bool IsShown(const Graphic& graphic, const Trace& trace) {
+    const Layer* layer = LayerOf(EffectiveLayer(graphic, trace), trace);
+    return !layer || (graphic.GetKind() == Kind::Insert ? !layer->frozen : layer->IsVisible());
+}
+
+void TraceDot(const Extents& box, const Trace& trace, const PenUse& use) {
+    Path& path = trace.tools.path;
+    path.Clear();
+    path.MoveTo({(box.low.x + box.high.x) / 2, (box.low.y + box.high.y) / 2});
+    trace.sink.Stroke(path, use);
+}
+
+bool IsDot(const Extents& box, const GeometrySink& sink) {
+    const double size = sink.DotSize();
+    return box.high.x - box.low.x < size && box.high.y - box.low.y < size;
+}
+
+} // namespace
+
+Id EffectiveLayer(const Graphic& graphic, const Trace& trace) {
+    return graphic.layer == kLayerZero ? trace.layer : graphic.layer;
+}
+
+PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
+    const Pen& pen = graphic.pen;
+    const Id layer = EffectiveLayer(graphic, trace);
+    const double unit = trace.penUnit > 0 ? trace.penUnit : trace.matrix.PlanScale();
+    PenUse use;
+    use.color = ResolveColor(pen.color, layer, trace);
+    use.width = pen.width * (pen.scaleSystem == kScaleWorld ? unit : trace.sink.PaperInch());
+    use.style = ResolveStyle(pen.style, layer, trace);
+    use.dashScale = pen.scale * trace.lineScale * unit;
+    use.fitDashes = pen.alignment;
+    use.strokes = pen.style != kStyleNone;
+    use.roundEnds =
+        pen.scaleSystem != kScaleWorld && !use.style; // a plotter's pen; widths of the drawing are cut off
+    return use;
+}
+
+void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
+    const Brush& brush = graphic.brush;
+    if (brush.style == kBrushNone) return;
+    BrushUse fill;
+    fill.color = brush.color == kPenColor ? use.color
+                                          : ResolveColor(brush.color, EffectiveLayer(graphic, trace), trace);
+    if (trace.tools.brushStyles) fill.style = trace.tools.brushStyles->At(brush.style);
+    fill.pattern =
+        Matrix::Scaling({brush.scale, brush.scale, 1}) * Matrix::RotationZ(brush.angle) * trace.matrix;
+    fill.cross = brush.cross;
+    fill.winding = brush.drawMode == 1;
+    trace.sink.Fill(trace.tools.path, fill);
+}
+
+void TraceGraphic(const Graphic& graphic, const Trace& trace) {
+    if (--trace.tools.budget < 0) return;
+    const Extents box = graphic.GetExtents().Transformed(trace.matrix);
+    if (box.IsEmpty()) return;
+    const PenUse use = ResolvePen(graphic, trace);
+    const double reach = std::max(use.width / 2, graphic.Reach() * trace.matrix.PlanScale());
+    const bool isGroup = graphic.GetKind() == Kind::Group;
+    if (!isGroup && !trace.sink.Wants(box, reach)) return;
+    if (!isGroup && IsShown(graphic, trace)) {
+        if (IsDot(box, trace.sink))
+            TraceDot(box, trace, use);
+        else
+            graphic.TraceShape(trace, use);
+    }
+    for (size_t i = 0; i < graphic.MemberCount(); ++i)
+        TraceGraphic(*graphic.MemberAt(i), trace);
+}
+
+void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
+               double lineScale, double penUnit) {
+    TraceTools tools(drawing);
+    Trace trace(sink, tools, matrix);
+    trace.lineScale = lineScale;
+    trace.penUnit = penUnit;
+    TraceGraphic(graphic, trace);
+}
+
+} // namespace drawcore

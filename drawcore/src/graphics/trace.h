@@ -1,0 +1,113 @@
+// Tracing: a graphic turned into what a device, a hit test or a box is made of - flat lines, areas and rows of text - with
+// blocks opened, curves flattened, colours, styles and widths worked out.
+#pragma once
+
+#include <string_view>
+
+#include "drawcore/src/graphics/extents.h"
+#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/path.h"
+#include "drawcore/src/graphics/text_face.h"
+#include "drawcore/src/styles/block.h"
+#include "drawcore/src/styles/layer.h"
+
+namespace drawcore {
+
+// A pen with all that it inherits worked out; lengths are the sink's.
+struct PenUse {
+    Color color = 0;                  // plain
+    double width = 0;                 // 0 is the thinnest line
+    const LineStyle* style = nullptr; // null is solid
+    double dashScale = 1;             // sink units per unit of the pattern
+    bool fitDashes = true;            // to each segment
+    bool strokes = true;              // false: no line at all
+    bool roundEnds = false;           // else cut off flat
+};
+
+// An area's filling.
+struct BrushUse {
+    Color color = 0;
+    const BrushStyle* style = nullptr; // null is solid
+    Matrix pattern;                    // from the pattern's coordinates to the sink's
+    bool cross = false;
+    bool winding = false;
+};
+
+// One row of text. The matrix takes its box to the sink: x from 0 to width along the baseline, y from 0 to 1 from the
+// baseline to the height of a capital letter.
+struct TextRow {
+    std::string_view text;
+    const TextFace* face = nullptr;
+    Matrix matrix;
+    double width = 0;
+    Color color = 0;
+};
+
+// Takes what is traced, in the order of drawing.
+class GeometrySink {
+public:
+    virtual ~GeometrySink();
+    // Whether anything in that box (sink units), or so far from it, matters.
+    virtual bool Wants(const Extents& box, double reach) const = 0;
+    // A graphic no larger than this in both directions comes as a point.
+    virtual double DotSize() const { return 0; }
+    // How far a flattened curve may be from the true one.
+    virtual double Tolerance() const = 0;
+    // Length of an inch of paper; 0 where widths do not matter.
+    virtual double PaperInch() const = 0;
+    virtual void Stroke(const Path& path, const PenUse& pen) = 0;
+    virtual void Fill(const Path& outlines, const BrushUse& brush) = 0;
+    virtual void Text(const TextRow& row) = 0;
+};
+
+// How much of a drawing one tracing goes through: insertions in insertions can multiply without end.
+constexpr long kTraceBudget = 2'000'000; // graphics
+
+// What a tracing needs once: the tables of the drawing (null where there are none) and working space.
+struct TraceTools {
+    explicit TraceTools(const Drawing* drawing);
+
+    const LayerTable* layers = nullptr;
+    const LineStyleTable* lineStyles = nullptr;
+    const BrushStyleTable* brushStyles = nullptr;
+    const BlockTable* blocks = nullptr;
+    long budget = kTraceBudget;
+    Path path;
+};
+
+// Where a tracing stands.
+struct Trace {
+    Trace(GeometrySink& traceSink, TraceTools& traceTools, const Matrix& start = {})
+        : sink(traceSink), tools(traceTools), matrix(start) {}
+
+    GeometrySink& sink;
+    TraceTools& tools;
+    Matrix matrix;        // from the graphic's coordinates to the sink's
+    double lineScale = 1; // of all dash patterns
+    double penUnit = 0;   // above 0: pen lengths in drawing units have this length, whatever the matrix
+
+    // What is inherited by what lies in a block.
+    const Trace* outer = nullptr; // the tracing of the insertion
+    const Block* block = nullptr;
+    int depth = 0; // of blocks in blocks
+    Id layer = kLayerZero;
+    Color color = kWhite;
+    const LineStyle* style = nullptr;
+};
+
+// Traces the graphic and its members, as far as their layers are visible.
+void TraceGraphic(const Graphic& graphic, const Trace& trace);
+
+// The same from the start.
+void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
+               double lineScale, double penUnit);
+
+// A graphic's brush over the outlines in the tools' path; nothing without a brush.
+void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use);
+
+// The pen of a graphic with what it inherits.
+PenUse ResolvePen(const Graphic& graphic, const Trace& trace);
+// The layer that counts: the insertion's for a part of a block on the layer "0".
+Id EffectiveLayer(const Graphic& graphic, const Trace& trace);
+
+} // namespace drawcore

@@ -1,0 +1,36 @@
+// Vertices: the record that host and library share, with bulge and widths behind it.
+#pragma once
+
+#include "drawcore/src/graphics/matrix.h"
+#include "orlo/host/records.h"
+
+namespace drawcore {
+
+enum : uint16_t { kVertexDrawn = 1 };
+
+struct Vertex : VertexStruct {
+    Vertex() : Vertex(Vec3{}) {}
+    explicit Vertex(const Vec3& p, bool drawn = true) : VertexStruct{} {
+        wFlags = drawn ? kVertexDrawn : 0;
+        Set(p);
+    }
+
+    static Vertex* From(VertexStruct* vertex) { return static_cast<Vertex*>(vertex); }
+
+    Vec3 Position() const { return {x, y, z}; }
+    void Set(const Vec3& p) {
+        x = p.x;
+        y = p.y;
+        z = p.z;
+    }
+
+    // Of the segment from this vertex to the next. bulge: tangent of a quarter of the arc's angle, positive to the left;
+    // widths in drawing units.
+    double bulge = 0;
+    double startWidth = 0;
+    double endWidth = 0;
+};
+
+bool operator==(const Vertex& a, const Vertex& b);
+
+} // namespace drawcore

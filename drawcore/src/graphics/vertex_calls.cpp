@@ -1,0 +1,33 @@
+// The host's calls on scratch vertices.
+
+#include <new>
+
+#include "drawcore/src/database/census.h"
+#include "drawcore/src/graphics/vertex.h"
+#include "orlo/host/vertex.h"
+
+using drawcore::Census;
+using drawcore::Vertex;
+
+VertexStruct* VertexNewEx(double x, double y, double z) {
+    Vertex* vertex = new (std::nothrow) Vertex({x, y, z});
+    if (vertex) ++Census::vertices;
+    return vertex;
+}
+
+VertexStruct* VertexNewFromEx(VertexStruct* from) {
+    VertexStruct* vertex = VertexNewEx(0, 0, 0);
+    if (vertex && from) *Vertex::From(vertex) = *Vertex::From(from);
+    return vertex;
+}
+
+void VertexSet(VertexStruct* vertex, double x, double y, double z) {
+    if (vertex) Vertex::From(vertex)->Set({x, y, z});
+}
+
+void VertexDispose(VertexStruct** vertex) {
+    if (!vertex || !*vertex) return;
+    --Census::vertices;
+    delete Vertex::From(*vertex);
+    *vertex = nullptr;
+}

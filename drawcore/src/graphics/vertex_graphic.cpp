@@ -1,0 +1,153 @@
+#include "drawcore/src/graphics/vertex_graphic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "drawcore/src/graphics/flatten.h"
+#include "drawcore/src/graphics/properties.h"
+#include "drawcore/src/graphics/trace.h"
+
+namespace drawcore {
+
+bool operator==(const Vertex& a, const Vertex& b) {
+    return std::tie(a.wFlags, a.bulge, a.startWidth, a.endWidth) ==
+               std::tie(b.wFlags, b.bulge, b.startWidth, b.endWidth) &&
+           a.Position() == b.Position();
+}
+
+VertexGraphic::VertexGraphic() : Graphic(kGraphicVertices, &kShapeProperties) {}
+
+Kind VertexGraphic::GetKind() const {
+    return IsGroup() ? Kind::Group : Kind::Vertices;
+}
+
+std::unique_ptr<Graphic> VertexGraphic::CloneState() const {
+    return std::make_unique<VertexGraphic>(*this);
+}
+
+void VertexGraphic::Restore(const Graphic& saved) {
+    const auto& other = static_cast<const VertexGraphic&>(saved);
+    RestoreAttributes(other);
+    vertices = other.vertices;
+    closed = other.closed;
+}
+
+bool VertexGraphic::EqualState(const Graphic& saved) const {
+    const auto& other = static_cast<const VertexGraphic&>(saved);
+    return EqualAttributes(other) && vertices == other.vertices && closed == other.closed;
+}
+
+namespace {
+
+// Adds the segment from a to b, with a's bulge.
+void AddSegment(const Vertex& a, const Vertex& b, const Trace& trace, Path& path) {
+    EllipseArc arc;
+    if (ArcOfBulge(a.Position(), b.Position(), a.bulge, arc))
+        FlattenArc(arc, trace.matrix, trace.sink.Tolerance(), path);
+    else
+        path.LineTo(trace.matrix.Plan(b.Position()));
+}
+
+// The strokes of a list, or with whole set the one outline that goes through all its vertices.
+void BuildPath(const VertexGraphic& graphic, const Trace& trace, bool whole, Path& path) {
+    const std::vector<Vertex>& list = graphic.vertices;
+    path.Clear();
+    for (size_t i = 0; i < list.size(); ++i) {
+        if (i == 0 || (!whole && !(list[i].wFlags & kVertexDrawn)))
+            path.MoveTo(trace.matrix.Plan(list[i].Position()));
+        else
+            AddSegment(list[i - 1], list[i], trace, path);
+    }
+    if (graphic.closed && list.size() > 1) AddSegment(list.back(), list.front(), trace, path);
+}
+
+// A segment with widths of its own as an area: pairs of points left and right along its flattened middle.
+class WideSegment {
+public:
+    WideSegment(const Vertex& a, const Vertex& b, const Trace& trace) : scale_(trace.matrix.PlanScale()) {
+        middle_.MoveTo(trace.matrix.Plan(a.Position()));
+        AddSegment(a, b, trace, middle_);
+        for (size_t i = 1; i < middle_.points.size(); ++i)
+            length_ += Distance(i);
+        start_ = a.startWidth;
+        end_ = a.endWidth;
+    }
+
+    void Outline(Path& path) const {
+        path.Clear();
+        if (length_ <= 0) return;
+        const size_t count = middle_.points.size();
+        double along = 0;
+        path.MoveTo(Side(0, 0, 1));
+        for (size_t i = 1; i < count; ++i)
+            path.LineTo(Side(i, (along += Distance(i)) / length_, 1));
+        for (size_t i = count; i-- > 0; along -= i ? Distance(i) : 0)
+            path.LineTo(Side(i, along / length_, -1));
+    }
+
+private:
+    double Distance(size_t i) const {
+        const Point &p = middle_.points[i - 1], &q = middle_.points[i];
+        return std::hypot(q.x - p.x, q.y - p.y);
+    }
+    Point Side(size_t i, double share, double side) const {
+        const Point& before = middle_.points[i ? i - 1 : 0];
+        const Point& after = middle_.points[std::min(i + 1, middle_.points.size() - 1)];
+        const double dx = after.x - before.x, dy = after.y - before.y, norm = std::hypot(dx, dy);
+        const double half = norm > 0 ? side * scale_ * (start_ + (end_ - start_) * share) / 2 / norm : 0;
+        return {middle_.points[i].x - dy * half, middle_.points[i].y + dx * half};
+    }
+
+    Path middle_;
+    double scale_, length_ = 0, start_ = 0, end_ = 0;
+};
+
+bool HasWidths(const std::vector<Vertex>& vertices) {
+    return std::any_of(vertices.begin(), vertices.end(),
+                       [](const Vertex& v) { return v.startWidth > 0 || v.endWidth > 0; });
+}
+
+// The segments with widths as areas in the pen's colour.
+void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse& use) {
+    BrushUse solid;
+    solid.color = use.color;
+    const size_t count = graphic.vertices.size();
+    for (size_t i = 0; i + (graphic.closed ? 0 : 1) < count; ++i) {
+        const Vertex &a = graphic.vertices[i], &b = graphic.vertices[(i + 1) % count];
+        const bool drawn = i + 1 == count || (b.wFlags & kVertexDrawn);
+        if (!drawn || (a.startWidth <= 0 && a.endWidth <= 0)) continue;
+        WideSegment(a, b, trace).Outline(trace.tools.path);
+        trace.sink.Fill(trace.tools.path, solid);
+    }
+}
+
+} // namespace
+
+void VertexGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
+    if (vertices.empty()) return;
+    if (brush.style != kBrushNone && vertices.size() > 2) {
+        BuildPath(*this, trace, dwOneOutline != 0, trace.tools.path);
+        TraceFill(*this, trace, use);
+    }
+    if (!use.strokes) return;
+    if (HasWidths(vertices)) TraceWidths(*this, trace, use);
+    BuildPath(*this, trace, false, trace.tools.path);
+    trace.sink.Stroke(trace.tools.path, use);
+}
+
+double VertexGraphic::Reach() const {
+    double widest = 0;
+    for (const Vertex& vertex : vertices)
+        widest = std::max({widest, vertex.startWidth, vertex.endWidth});
+    return widest / 2;
+}
+
+void VertexGraphic::AddShapeExtents(Extents& extents) const {
+    const auto isArc = [](const Vertex& v) { return v.bulge != 0; };
+    for (const Vertex& vertex : vertices)
+        extents.Add(vertex.Position());
+    if (std::any_of(vertices.begin(), vertices.end(), isArc)) Graphic::AddShapeExtents(extents);
+}
+
+} // namespace drawcore

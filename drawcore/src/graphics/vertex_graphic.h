@@ -1,0 +1,35 @@
+// Vertex lists: lines, polylines with bulges and widths, filled outlines, points, and groups of others.
+//
+// A vertex whose drawn bit is clear begins a new stroke. For the fill each stroke is an outline of its own, unless
+// dwOneOutline of the record is set: then the whole list is one outline, of which the undrawn edges show no line.
+// A list of one vertex is a point. A list without vertices that has members is a group.
+#pragma once
+
+#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/vertex.h"
+
+namespace drawcore {
+
+class VertexGraphic : public Graphic {
+public:
+    VertexGraphic();
+    VertexGraphic(const VertexGraphic&) = default;
+
+    Kind GetKind() const override;
+    std::unique_ptr<Graphic> CloneState() const override;
+    void Restore(const Graphic& saved) override;
+    bool EqualState(const Graphic& saved) const override;
+    void TraceShape(const Trace& trace, const PenUse& use) const override;
+    double Reach() const override;
+
+    bool IsGroup() const { return vertices.empty() && MemberCount() != 0; }
+    void AddVertex(const Vec3& point, bool drawn = true) { vertices.emplace_back(point, drawn); }
+
+    std::vector<Vertex> vertices;
+    bool closed = false; // the last vertex has a segment to the first
+
+protected:
+    void AddShapeExtents(Extents& extents) const override;
+};
+
+} // namespace drawcore

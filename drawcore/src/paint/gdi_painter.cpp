@@ -1,0 +1,216 @@
+#include "drawcore/src/paint/gdi_painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "drawcore/src/paint/dashes.h"
+#include "drawcore/src/paint/hatch_lines.h"
+
+namespace drawcore {
+
+namespace {
+
+constexpr double kFinestDashes = 3; // pixels of a period; finer ones are drawn through
+constexpr double kFinestHatch = 2;  // pixels from line to line; finer ones become a tint
+constexpr double kSmallestText = 2; // pixels of a capital letter; smaller ones become a line
+constexpr size_t kMostWaiting = 4096;
+constexpr int kHighlightWidth = 3;
+
+POINT ToDevice(const Point& p) {
+    return {static_cast<LONG>(std::floor(p.x + 0.5)), static_cast<LONG>(std::floor(p.y + 0.5))};
+}
+
+Box BoxOf(const RECT& rect) {
+    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
+            static_cast<double>(rect.bottom)};
+}
+
+Color Mixed(Color a, Color b) {
+    return ((a & 0xFEFEFE) >> 1) + ((b & 0xFEFEFE) >> 1);
+}
+
+} // namespace
+
+bool GdiPainter::PenKey::operator<(const PenKey& other) const {
+    return std::tie(color, width, roundEnds) < std::tie(other.color, other.width, other.roundEnds);
+}
+
+bool GdiPainter::PenKey::operator==(const PenKey& other) const {
+    return std::tie(color, width, roundEnds) == std::tie(other.color, other.width, other.roundEnds);
+}
+
+GdiPainter::GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings)
+    : dc_(dc), saved_(dc), settings_(settings), inch_(::GetDeviceCaps(dc, LOGPIXELSX)), clip_(BoxOf(clip)) {
+    ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetROP2(dc, R2_COPYPEN);
+}
+
+GdiPainter::~GdiPainter() {
+    Flush();
+    ::SelectObject(dc_, ::GetStockObject(BLACK_PEN)); // before the pens go
+}
+
+bool GdiPainter::Wants(const Extents& box, double reach) const {
+    return box.low.x <= clip_.right + reach && box.high.x >= clip_.left - reach &&
+           box.low.y <= clip_.bottom + reach && box.high.y >= clip_.top - reach;
+}
+
+Color GdiPainter::Seen(Color color) const {
+    if (settings_.highlight) return *settings_.highlight;
+    int difference = 0, brightness = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int part = static_cast<int>(settings_.background >> shift & 0xFF);
+        difference += std::abs(static_cast<int>(color >> shift & 0xFF) - part);
+        brightness += part;
+    }
+    constexpr int kTooNear = 24;
+    return difference > kTooNear ? color : brightness > 3 * 127 ? 0 : kWhite;
+}
+
+GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) const {
+    const double wide = std::min(use.width, settings_.widestPen);
+    int width = wide < 1.5 ? 1 : static_cast<int>(std::min(std::floor(wide + 0.5), 30000.0));
+    if (settings_.highlight) width = std::max(width, kHighlightWidth);
+    return {Seen(use.color), width, width > 1 && use.roundEnds};
+}
+
+void GdiPainter::Stroke(const Path& path, const PenUse& use) {
+    const PenKey key = KeyOf(use);
+    const Box around = clip_.Grown(key.width + 2);
+    const Where where = Locate(path, around);
+    if (where == Where::Nowhere || where == Where::Outside) return;
+    if (use.style && !settings_.highlight) {
+        const DashPattern pattern{use.style->pattern, use.dashScale, use.fitDashes};
+        if (ShowsDashes(pattern, kFinestDashes)) {
+            CutDashes(path, pattern, around, pieces_);
+            return AddLines(pieces_, key);
+        }
+    }
+    if (where == Where::Inside) return AddLines(path, key);
+    ClipLines(path, around, clipped_);
+    AddLines(clipped_, key);
+}
+
+void GdiPainter::AddLines(const Path& path, const PenKey& key) {
+    if (!(key == waiting_) || points_.size() > kMostWaiting) Flush();
+    waiting_ = key;
+    for (size_t line = 0; line < path.Count(); ++line)
+        AddPolyline(path, line, key);
+}
+
+void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key) {
+    const size_t begin = path.Begin(line), end = path.End(line), before = points_.size();
+    for (size_t i = begin; i < end; ++i) {
+        const POINT p = ToDevice(path.points[i]);
+        if (points_.size() > before && points_.back().x == p.x && points_.back().y == p.y) continue;
+        points_.push_back(p);
+    }
+    if (points_.size() - before == 1) {
+        points_.pop_back();
+        return AddDot(path.points[begin], key);
+    }
+    // The thinnest lines leave out their last pixel: one step more brings it.
+    const POINT last = points_.back();
+    if (key.width == 1) points_.push_back({last.x + 1, last.y});
+    counts_.push_back(static_cast<DWORD>(points_.size() - before));
+}
+
+// A dot as wide as the pen.
+void GdiPainter::AddDot(const Point& p, const PenKey& key) {
+    const POINT center = ToDevice(p);
+    const LONG half = key.width / 2;
+    points_.push_back({center.x - half, center.y});
+    points_.push_back({center.x - half + key.width, center.y});
+    counts_.push_back(2);
+}
+
+void GdiPainter::Flush() {
+    if (counts_.empty()) return;
+    ::SelectObject(dc_, PenOf(waiting_));
+    ::PolyPolyline(dc_, points_.data(), counts_.data(), static_cast<DWORD>(counts_.size()));
+    points_.clear();
+    counts_.clear();
+}
+
+HPEN GdiPainter::PenOf(const PenKey& key) {
+    OwnedPen& pen = pens_[key];
+    if (!pen && key.width == 1) pen.reset(::CreatePen(PS_SOLID, 1, key.color));
+    if (!pen) {
+        const LOGBRUSH brush{BS_SOLID, key.color, 0};
+        const DWORD ends = key.roundEnds ? PS_ENDCAP_ROUND : PS_ENDCAP_FLAT;
+        pen.reset(::ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_JOIN_ROUND | ends,
+                                 static_cast<DWORD>(key.width), &brush, 0, nullptr));
+    }
+    return pen.get();
+}
+
+void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
+    const Path* areas = &outlines;
+    const Box around = clip_.Grown(2);
+    const Where where = Locate(outlines, around);
+    if (where == Where::Nowhere || where == Where::Outside) return;
+    if (where == Where::Across) {
+        ClipAreas(outlines, around, clipped_);
+        areas = &clipped_;
+    }
+    const Color color = Seen(use.color);
+    if (!use.style || use.style->lines.empty()) return FillSolid(*areas, color, use.winding);
+    if (!ShowsHatch(use, kFinestHatch))
+        return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
+    HatchLines(*areas, use, around, pieces_);
+    AddLines(pieces_, {color, 1, false});
+}
+
+void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {
+    Flush();
+    std::vector<INT> sizes;
+    for (size_t area = 0; area < areas.Count(); ++area) {
+        if (areas.End(area) - areas.Begin(area) < 2) continue;
+        for (size_t i = areas.Begin(area); i < areas.End(area); ++i)
+            points_.push_back(ToDevice(areas.points[i]));
+        sizes.push_back(static_cast<INT>(areas.End(area) - areas.Begin(area)));
+    }
+    const OwnedBrush brush(::CreateSolidBrush(color));
+    const SelectedObject selectedBrush(dc_, brush.get());
+    // The outline belongs to the area: a filling of the device alone would stop a pixel short of it.
+    const SelectedObject selectedPen(dc_, PenOf({color, 1, false}));
+    ::SetPolyFillMode(dc_, winding ? WINDING : ALTERNATE);
+    if (!sizes.empty()) ::PolyPolygon(dc_, points_.data(), sizes.data(), static_cast<int>(sizes.size()));
+    points_.clear();
+}
+
+void GdiPainter::Text(const TextRow& row) {
+    const double height = std::hypot(row.matrix.at[1][0], row.matrix.at[1][1]);
+    if (!std::isfinite(height) || !std::isfinite(row.width)) return;
+    if (height < kSmallestText) {
+        Path line;
+        line.MoveTo(row.matrix.Plan({0, 0.5, 0}));
+        line.LineTo(row.matrix.Plan({row.width, 0.5, 0}));
+        PenUse use;
+        use.color = row.color;
+        return Stroke(line, use);
+    }
+    Flush();
+    DrawRow(row);
+}
+
+void GdiPainter::DrawRow(const TextRow& row) {
+    const SavedDC saved(dc_);
+    const double unit = 1.0 / row.face->CapitalHeight(); // the font's y goes down, the row's up
+    const XFORM form{
+        static_cast<FLOAT>(row.matrix.at[0][0] * unit),  static_cast<FLOAT>(row.matrix.at[0][1] * unit),
+        static_cast<FLOAT>(-row.matrix.at[1][0] * unit), static_cast<FLOAT>(-row.matrix.at[1][1] * unit),
+        static_cast<FLOAT>(row.matrix.at[3][0]),         static_cast<FLOAT>(row.matrix.at[3][1])};
+    const int mode = ::SetGraphicsMode(dc_, GM_ADVANCED);
+    ::ModifyWorldTransform(dc_, &form, MWT_LEFTMULTIPLY);
+    ::SelectObject(dc_, row.face->Font());
+    ::SetTextAlign(dc_, TA_LEFT | TA_BASELINE);
+    ::SetTextColor(dc_, Seen(row.color));
+    ::TextOutA(dc_, 0, 0, row.text.data(), static_cast<int>(row.text.size()));
+    ::ModifyWorldTransform(dc_, nullptr, MWT_IDENTITY);
+    ::SetGraphicsMode(dc_, mode);
+}
+
+} // namespace drawcore

@@ -1,0 +1,176 @@
+// The host's and the host program's calls on viewports: what they show, drawing, finding.
+
+#include <new>
+
+#include "drawcore/include/drawcore/units.h"
+#include "drawcore/include/drawcore/view.h"
+#include "drawcore/src/database/application.h"
+#include "drawcore/src/graphics/selection.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/paint/gdi_painter.h"
+#include "drawcore/src/paint/hit_test.h"
+#include "drawcore/src/paint/viewport.h"
+#include "drawcore/src/units/unit_settings.h"
+#include "orlo/host/viewport.h"
+
+namespace drawcore {
+
+namespace {
+
+const Drawing* DrawingFor(const Viewport& viewport, const Graphic& graphic) {
+    const Drawing* drawing = Drawing::Find(viewport.drawing);
+    return drawing ? drawing : graphic.GetDrawing();
+}
+
+// Dash patterns grow with the drawing's scale only in the drawing itself; a sample or a preview stands alone.
+double LineScale(const Graphic& graphic, const Drawing* drawing) {
+    return drawing && &graphic.Top() == &drawing->Root() ? drawing->lineScale : 1.0;
+}
+
+// A preview shows pens as on paper at full size, however its extents were fitted: pixels of one drawing unit.
+double FullSizeUnit(HDC dc, const Drawing* drawing) {
+    const Table* units = drawing ? drawing->Units() : nullptr;
+    const LengthUnit* unit = units ? UnitOfVariable(*units, kUnitDrawing) : nullptr;
+    return (unit ? unit->millimetres : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / 25.4;
+}
+
+// The device context in the units that the viewport counts in: pixels. Other mapping modes have the rectangle turned.
+class PixelDC {
+public:
+    PixelDC(const Viewport& viewport) : saved_(viewport.dc), rect_(viewport.rect) {
+        if (viewport.mapMode == MM_TEXT) return;
+        ::LPtoDP(viewport.dc, reinterpret_cast<POINT*>(&rect_), 2);
+        ::SetMapMode(viewport.dc, MM_TEXT);
+        ::SetViewportOrgEx(viewport.dc, 0, 0, nullptr);
+        ::SetWindowOrgEx(viewport.dc, 0, 0, nullptr);
+        rect_ = {std::min(rect_.left, rect_.right), std::min(rect_.top, rect_.bottom),
+                 std::max(rect_.left, rect_.right), std::max(rect_.top, rect_.bottom)};
+    }
+    // From pixels of the viewport's rectangle to pixels here.
+    Matrix FromViewport(const RECT& rect) const {
+        const double across = rect.right - rect.left, down = rect.bottom - rect.top;
+        if (across <= 0 || down == 0) return {};
+        const double sx = (rect_.right - rect_.left) / across, sy = (rect_.bottom - rect_.top) / down;
+        return Matrix::FromAxes({sx, 0, 0}, {0, sy, 0}, {0, 0, 1},
+                                {rect_.left - rect.left * sx, rect_.top - rect.top * sy, 0});
+    }
+    const RECT& Rect() const { return rect_; }
+
+private:
+    SavedDC saved_;
+    RECT rect_;
+};
+
+void Paint(const Graphic& graphic, const Viewport& viewport, const Matrix& placement, PaintSettings settings,
+           bool preview) {
+    if (!viewport.dc) return;
+    const PixelDC device(viewport);
+    const RECT& rect = device.Rect();
+    const Drawing* drawing = DrawingFor(viewport, graphic);
+    if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 4.0;
+    GdiPainter painter(viewport.dc, rect, settings);
+    const Matrix matrix = placement * viewport.ToDevice() * device.FromViewport(viewport.rect);
+    if (preview)
+        TraceFrom(graphic, painter, drawing, matrix, 1.0, FullSizeUnit(viewport.dc, drawing));
+    else
+        TraceFrom(graphic, painter, drawing, matrix, LineScale(graphic, drawing), 0);
+}
+
+Color BackgroundOf(const Viewport& viewport, bool preview) {
+    if (viewport.background) return *viewport.background;
+    return preview ? Application::Get().PreviewBackground() : ::GetSysColor(COLOR_WINDOW);
+}
+
+} // namespace
+
+} // namespace drawcore
+
+using namespace drawcore;
+
+ViewportStruct* ViewportNewEx(void) {
+    return new (std::nothrow) Viewport;
+}
+
+void ViewportDispose(ViewportStruct** viewport) {
+    if (!viewport || !*viewport) return;
+    delete Viewport::From(*viewport);
+    *viewport = nullptr;
+}
+
+void ViewportSetRect(ViewportStruct* viewport, const RECT* rect) {
+    if (viewport && rect) Viewport::From(viewport)->rect = *rect;
+}
+
+void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int) {
+    if (viewport && extents) Viewport::From(viewport)->Show(*Extents::From(extents));
+}
+
+void ViewportSetGDIStuff(ViewportStruct* viewport, HWND, HDC dc, int mapMode, int) {
+    if (!viewport) return;
+    Viewport::From(viewport)->dc = dc;
+    Viewport::From(viewport)->mapMode = mapMode;
+}
+
+void ViewportSetDrawing(ViewportStruct* viewport, DrawingStruct* drawing) {
+    if (viewport) Viewport::From(viewport)->drawing = drawing;
+}
+
+void ViewportSetBackground(ViewportStruct* viewport, uint32_t color) {
+    if (viewport) Viewport::From(viewport)->background = color;
+}
+
+void GraphicDrawEx2(GraphicStruct* graphic, const void* matrix, ViewportStruct* viewport, int preview, int) {
+    if (!graphic || !viewport) return;
+    const Viewport& view = *Viewport::From(viewport);
+    PaintSettings settings;
+    settings.background = BackgroundOf(view, preview != 0);
+    Paint(*Graphic::From(graphic), view, matrix ? *static_cast<const Matrix*>(matrix) : Matrix(), settings,
+          preview != 0);
+    graphic->dwFlags &= ~kFlagDirty;
+}
+
+void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct* viewport, uint32_t color) {
+    if (!set || !viewport) return;
+    PaintSettings settings;
+    settings.highlight = color;
+    Paint(*Graphic::From(set), *Viewport::From(viewport), {}, settings, false);
+}
+
+void ViewportZoom(ViewportStruct* viewport, POINT fixed, double factor) {
+    if (viewport)
+        Viewport::From(viewport)->Zoom({static_cast<double>(fixed.x), static_cast<double>(fixed.y)}, factor);
+}
+
+void ViewportPan(ViewportStruct* viewport, int dx, int dy) {
+    if (viewport) Viewport::From(viewport)->Pan(dx, dy);
+}
+
+void ViewportToDrawing(ViewportStruct* viewport, POINT device, double* x, double* y) {
+    if (!viewport || !x || !y) return;
+    const Point p =
+        Viewport::From(viewport)->ToDrawing({static_cast<double>(device.x), static_cast<double>(device.y)});
+    *x = p.x;
+    *y = p.y;
+}
+
+GraphicStruct* ViewportPick(ViewportStruct* viewport, GraphicStruct* set, POINT device, int tolerance,
+                            uint32_t filter) {
+    if (!viewport || !set) return nullptr;
+    return PickAt(*Viewport::From(viewport), *Graphic::From(set),
+                  {static_cast<double>(device.x), static_cast<double>(device.y)}, tolerance, filter);
+}
+
+int ViewportPickWindow(ViewportStruct* viewport, GraphicStruct* set, const RECT* device, int crossing,
+                       uint32_t filter, GraphicStruct* selection) {
+    auto* into = selection ? dynamic_cast<Selection*>(Graphic::From(selection)) : nullptr;
+    if (!viewport || !set || !device || !into) return 0;
+    const Box box{static_cast<double>(std::min(device->left, device->right)),
+                  static_cast<double>(std::min(device->top, device->bottom)),
+                  static_cast<double>(std::max(device->left, device->right)),
+                  static_cast<double>(std::max(device->top, device->bottom))};
+    int added = 0;
+    for (Graphic* found :
+         PickWithin(*Viewport::From(viewport), *Graphic::From(set), box, crossing != 0, filter))
+        added += into->Include(found);
+    return added;
+}

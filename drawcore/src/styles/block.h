@@ -1,0 +1,33 @@
+// Blocks: named groups of graphics that insertions show; the table "_Blocks_".
+#pragma once
+
+#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/tables/table.h"
+
+struct GraphicStruct;
+
+namespace drawcore {
+
+class Graphic;
+
+class Block : public TableEntry {
+public:
+    Block(std::string_view entryName, std::unique_ptr<Graphic> content);
+    ~Block() override;
+    void* Data() override; // a GraphicStruct*
+    Graphic& Content() const { return *content_; }
+
+    Vec3 base; // this point of the content comes to the insertion's origin
+
+private:
+    std::unique_ptr<Graphic> content_;
+};
+
+class BlockTable : public TableOf<Block> {
+public:
+    using TableOf::TableOf;
+    // data is a GraphicStruct* without an owner, which the block takes.
+    std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
+};
+
+} // namespace drawcore

@@ -1,0 +1,38 @@
+// Colours: the markers that stand for another's colour, the 255 numbered colours of DXF, and the table "_Colors_".
+#pragma once
+
+#include "drawcore/src/tables/table.h"
+
+namespace drawcore {
+
+using Color = uint32_t; // 0x00bbggrr, or a marker with a non-zero high byte
+
+constexpr Color kByLayer = 0xFFFFFFFD;
+constexpr Color kByBlock = 0xFFFFFFFC;
+constexpr Color kPenColor = 0xFFFFFFFB; // of a brush: the colour of the graphic's pen
+constexpr Color kWhite = 0x00FFFFFF;    // DXF's number 7: seen as black on a white background
+
+constexpr bool IsPlainColor(Color color) {
+    return (color >> 24) == 0;
+}
+
+// Colour of a DXF colour number, 1 to 255; white for any other.
+Color ColorOfIndex(int index);
+
+class ColorEntry : public TableEntry {
+public:
+    ColorEntry(std::string_view entryName, Color color) : TableEntry(entryName), color_(color) {}
+    void* Data() override { return &color_; }
+
+private:
+    Color color_;
+};
+
+class ColorTable : public TableOf<ColorEntry> {
+public:
+    // Filled with the 255 numbered colours, identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
+    explicit ColorTable(Drawing* owner);
+    std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
+};
+
+} // namespace drawcore

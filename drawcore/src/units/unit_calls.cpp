@@ -1,0 +1,100 @@
+// The host's conversions between texts and numbers in the units of a drawing.
+
+#include <cmath>
+
+#include "drawcore/include/drawcore/units.h"
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/units/length_text.h"
+#include "drawcore/src/units/number_text.h"
+#include "drawcore/src/units/unit_settings.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/units.h"
+
+namespace drawcore {
+
+namespace {
+
+// Millimetres that the number 1 stands for: drawing units count as they are, paper lengths are always in millimetres.
+double NumberUnit(uint16_t variable, const LengthUnit& unit) {
+    return variable == kUnitDrawing ? unit.millimetres : 1.0;
+}
+
+// The unit of the text: that of the display variable, or with 0 that of the number's own.
+const LengthUnit* TextUnit(const Table& units, uint16_t display, uint16_t number) {
+    return UnitOfVariable(units, display ? display : number);
+}
+
+int TextToNumber(Table* units, uint16_t number, uint16_t display, const char* text, double* value) {
+    if (!units || !text || !value) return 0;
+    const LengthUnit* of = UnitOfVariable(*units, number);
+    const LengthUnit* shown = TextUnit(*units, display, number);
+    double millimetres = 0;
+    if (!of || !shown || !ReadLength(text, *shown, millimetres)) return 0;
+    *value = millimetres / NumberUnit(number, *of);
+    return 1;
+}
+
+int NumberToText(Table* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
+                 bool suffix) {
+    if (!units || !buffer || size <= 0) return 0;
+    const LengthUnit* of = UnitOfVariable(*units, number);
+    const LengthUnit* shown = TextUnit(*units, display, number);
+    if (!of || !shown) return 0;
+    const std::string text =
+        WriteLength(value * NumberUnit(number, *of), *shown, LinearDigits(*units), suffix);
+    if (text.empty() || text.size() >= static_cast<size_t>(size)) return 0;
+    CopyText(text, buffer, size);
+    return 1;
+}
+
+Table* UnitsOf(DrawingStruct* drawing) {
+    const Drawing* found = Drawing::Find(drawing);
+    return found ? found->Units() : nullptr;
+}
+
+} // namespace
+
+} // namespace drawcore
+
+using namespace drawcore;
+
+int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
+                         double* value) {
+    return TextToNumber(Table::Find(units), number, display, text, value);
+}
+
+int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
+                         int size, int, int suffix) {
+    return NumberToText(Table::Find(units), display, number, value, buffer, size, suffix != 0);
+}
+
+int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int) {
+    return TextToNumber(UnitsOf(drawing), kUnitDrawing, 0, text, value);
+}
+
+int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int) {
+    return NumberToText(UnitsOf(drawing), 0, kUnitDrawing, value, buffer, size, false);
+}
+
+double UnitsGetScaleValue(TableStruct* units, const char* text) {
+    const Table* table = Table::Find(units);
+    const LengthUnit* unit = table ? UnitOfVariable(*table, kUnitDrawing) : nullptr;
+    const std::string_view whole = text ? text : "";
+    const size_t mark = whole.find_first_of(":=");
+    double paper = 0, world = 0;
+    if (!unit || mark == std::string_view::npos) return 0.0;
+    if (!ReadLength(whole.substr(0, mark), *unit, paper) || !ReadLength(whole.substr(mark + 1), *unit, world))
+        return 0.0;
+    const double scale = world / paper;
+    return paper > 0 && world > 0 && std::isfinite(scale) ? scale : 0.0;
+}
+
+int UnitsMakeScaleString(TableStruct*, double scale, char* buffer, int size) {
+    if (!std::isfinite(scale) || scale <= 0 || !std::isfinite(1 / scale) || !buffer) return 0;
+    constexpr int kDigits = 12;
+    const std::string text =
+        scale >= 1 ? "1 : " + DecimalText(scale, kDigits) : DecimalText(1 / scale, kDigits) + " : 1";
+    if (size <= 0 || text.size() >= static_cast<size_t>(size)) return 0;
+    CopyText(text, buffer, size);
+    return 1;
+}

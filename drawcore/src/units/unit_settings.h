@@ -1,0 +1,24 @@
+// The unit settings of a drawing as its units table holds them.
+#pragma once
+
+#include <string>
+
+#include "drawcore/src/tables/table.h"
+#include "drawcore/src/units/length_unit.h"
+
+namespace drawcore {
+
+struct UnitSettings {
+    std::string drawingUnit = "mm";
+    std::string textSizeUnit = "mm";
+    std::string penWidthUnit = "mm";
+    int linearDigits = 4;
+
+    void Store(Table& units) const;
+};
+
+// The unit that a string variable names; null if there is none, or none of that name.
+const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable);
+int LinearDigits(const Table& units);
+
+} // namespace drawcore
