@@ -7,9 +7,12 @@
 //   table.h        tables: named entries and typed variables under 16-bit identifiers
 //   units.h        numbers as text in the units of a drawing
 //   graphic.h      graphics, their walk, property tables and drawing attributes
+//   text.h         text graphics
 //   vertex.h       vertices
 //   viewport.h     viewports, extents and drawing
 //   style.h        line styles
+//   block.h        blocks and their insertions
+//   matrix.h       transformations
 //   regen.h        regen methods
 //   memory.h       blocks and strings that cross the boundary
 //
@@ -18,14 +21,17 @@
 #pragma once
 
 #include "orlo/host/application.h"
+#include "orlo/host/block.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/graphic.h"
+#include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
 #include "orlo/host/records.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/style.h"
 #include "orlo/host/table.h"
+#include "orlo/host/text.h"
 #include "orlo/host/units.h"
 #include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"

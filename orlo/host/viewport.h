@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orlo/host/api.h"
+#include "orlo/host/matrix.h"
 #include "orlo/host/records.h"
 
 DRAWCORE_API ViewportStruct* ViewportNewEx(void);
@@ -20,5 +21,8 @@ DRAWCORE_API const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct*, int selec
 DRAWCORE_API double ExtentsGetX1(const ExtentsStruct*);
 DRAWCORE_API double ExtentsGetX2(const ExtentsStruct*);
 
-// Draws the graphic with its parts. matrix may be null. preview 1 draws with brush; flags is 1.
-DRAWCORE_API void GraphicDrawEx2(GraphicStruct*, const void* matrix, ViewportStruct*, int preview, int flags);
+// Draws the graphic with its parts, first transformed by the matrix (null: as it is). preview 1: for a preview of its look:
+// widths and dashes as on paper at full size, whatever the extents were fitted to; 0: as it is in the drawing, or as a
+// sample. flags is 1. The device context is left as it was.
+DRAWCORE_API void GraphicDrawEx2(GraphicStruct*, const MatrixStruct*, ViewportStruct*, int preview,
+                                 int flags);

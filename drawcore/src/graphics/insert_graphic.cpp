@@ -22,11 +22,14 @@ bool IsOpen(const Block* block, const Trace& trace) {
 
 InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
     : Graphic(kGraphicInsert, &kInsertProperties), block(blockId) {
-    const Vec3 origin = placement.Apply({});
-    const Vec3 corners[4] = {origin, placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
+    Place(placement);
+}
+
+void InsertGraphic::Place(const Matrix& placement) {
+    const Vec3 corners[4] = {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
                              placement.Apply({0, 0, 1})};
     for (int i = 0; i < 4; ++i)
-        vertices[i] = Vertex(corners[i]);
+        vertices[i].Set(corners[i]);
 }
 
 std::unique_ptr<Graphic> InsertGraphic::CloneState() const {

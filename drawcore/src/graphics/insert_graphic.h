@@ -25,6 +25,7 @@ public:
 
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
+    void Place(const Matrix& placement);
 
     Id block; // entry of "_Blocks_" of the drawing that this graphic is attached to
     Vertex vertices[4];

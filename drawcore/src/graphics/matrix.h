@@ -1,6 +1,8 @@
 // Points, vectors and the affine matrix. Acts on row vectors: p * a * b applies a first.
 #pragma once
 
+struct MatrixStruct;
+
 namespace drawcore {
 
 struct Point {
@@ -31,6 +33,7 @@ Vec3 Normalized(const Vec3& v); // a vector without length stays as it is
 struct Matrix {
     double at[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
 
+    static Matrix FromRecord(const MatrixStruct* record); // the identity for null
     static Matrix Translation(const Vec3& by);
     static Matrix Scaling(const Vec3& by);
     static Matrix RotationZ(double radians);

@@ -119,13 +119,13 @@ void ViewportSetBackground(ViewportStruct* viewport, uint32_t color) {
     if (viewport) Viewport::From(viewport)->background = color;
 }
 
-void GraphicDrawEx2(GraphicStruct* graphic, const void* matrix, ViewportStruct* viewport, int preview, int) {
+void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
+                    int) {
     if (!graphic || !viewport) return;
     const Viewport& view = *Viewport::From(viewport);
     PaintSettings settings;
     settings.background = BackgroundOf(view, preview != 0);
-    Paint(*Graphic::From(graphic), view, matrix ? *static_cast<const Matrix*>(matrix) : Matrix(), settings,
-          preview != 0);
+    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), settings, preview != 0);
     graphic->dwFlags &= ~kFlagDirty;
 }
 
