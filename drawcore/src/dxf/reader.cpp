@@ -34,7 +34,7 @@ public:
                 throw ReadError(tag_.line, "a section or the end of the file is expected, not group code " +
                                                std::to_string(tag_.code) + " with " + Quoted(tag_.value));
             ReadSection();
-            in_.tags.SetPlace("the file, which has no EOF");
+            in_.tags.SetPlace(nullptr);
             in_.tags.Next();
         }
         entities_.ReportSkipped();

@@ -107,7 +107,8 @@ int TagReader::ParseCode(std::string_view text) const {
 }
 
 void TagReader::FailAtEnd() const {
-    throw ReadError(line_, std::string("the file ends within ") + place_ + "; it is cut off");
+    const std::string where = place_ ? std::string("within ") + place_ : "without EOF";
+    throw ReadError(line_, "the file ends " + where + "; it is cut off");
 }
 
 const Tag& TagReader::Next() {

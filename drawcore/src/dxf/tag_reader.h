@@ -41,7 +41,8 @@ public:
     // Goes on to the next tag that starts a record.
     const Tag& SkipRecord();
 
-    // What is being read, for the message about a file that ends too early. Kept by pointer.
+    // What is being read, for the message about a file that ends too early; null between sections. Kept by
+    // pointer.
     void SetPlace(const char* place) { place_ = place; }
 
 private:
@@ -55,7 +56,7 @@ private:
     size_t reportAt_; // offset at which to call progress_ next
     uint32_t line_ = 0;
     Tag tag_;
-    const char* place_ = "the file";
+    const char* place_ = nullptr;
     const Progress& progress_;
 };
 
