@@ -1,0 +1,32 @@
+// Fuzzes the DXF reader: whatever the bytes, a drawing is read or refused, and what was read can be walked.
+
+#include <cstddef>
+#include <cstdint>
+
+#include "drawcore/src/dxf/extents.h"
+#include "drawcore/src/dxf/inline_codes.h"
+#include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace {
+
+void ShowTexts(const std::vector<dxf::Entity>& entities) {
+    for (const dxf::Entity& entity : entities) {
+        if (const auto* text = std::get_if<dxf::Apart<dxf::Text>>(&entity.shape))
+            dxf::ReadControlCodes(dxf::ToDisplayText((*text)->text));
+        if (const auto* text = std::get_if<dxf::Apart<dxf::MText>>(&entity.shape))
+            dxf::ReadInlineCodes((*text)->text, (*text)->height).Prevailing();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    try {
+        const dxf::Document drawing = dxf::Read({reinterpret_cast<const char*>(data), size}, {});
+        dxf::Extents(drawing);
+        ShowTexts(drawing.entities);
+    } catch (const dxf::ReadError&) {
+    }
+    return 0;
+}
