@@ -54,6 +54,12 @@ TEST(Structure, BrokenOnesAreRefusedWithTheirLine) {
     }
 }
 
+TEST(Structure, FilesThatCannotBeReadAreRefused) {
+    for (const char* path : {ORLO_SOURCE_DIR "/tests/nothing.dxf", ORLO_SOURCE_DIR "/tests"})
+        EXPECT_THROW(ReadFile(path, {}), ReadError) << path;
+    EXPECT_EQ(ReadFile(ORLO_SOURCE_DIR "/tests/data/dxf/made-escapes-R12.dxf", {}).entities.size(), 11u);
+}
+
 TEST(Structure, OpensWithAllLineEndsCommentsAndAByteOrderMark) {
     const std::string lf = "999\nmade by hand\n" + Drawing("0|LINE|8|a|10|1");
     std::string crlf, cr;

@@ -3,6 +3,7 @@
 #include "drawcore/src/dxf/extents.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "drawcore/src/dxf/path.h"
 
@@ -10,13 +11,22 @@ namespace dxf {
 
 namespace {
 
+// Boxes of blocks as they lie in themselves, made when they are asked for.
+using BlockBoxes = std::vector<std::optional<Box>>;
+
 class ExtentsWalk : private PathSink {
 public:
-    explicit ExtentsWalk(const Document& drawing) : drawing_(drawing) {}
+    ExtentsWalk(const Document& drawing, BlockBoxes& blockBoxes)
+        : drawing_(drawing), blockBoxes_(blockBoxes) {}
 
-    Box Walk() {
+    Box OfModelSpace() {
         for (const Entity& entity : drawing_.entities)
             if (!entity.inPaperSpace) Add(entity, Matrix());
+        return box_;
+    }
+
+    Box Of(const Block& block) {
+        AddEntities(block, Matrix());
         return box_;
     }
 
@@ -45,19 +55,31 @@ private:
             Add(attribute, toWorld);
         if (insert.block == BlockIndex::none) return;
         const Block& block = drawing_.At(insert.block);
+        const Box& box = BoxOf(insert.block);
         // The corners of the array are its outermost cells.
         for (uint32_t column = 0; column < insert.columns; column += std::max(insert.columns - 1, 1u))
             for (uint32_t row = 0; row < insert.rows; row += std::max(insert.rows - 1, 1u))
-                AddBlock(block, toWorld * InsertMatrix(entity, insert, block, column, row));
+                AddBlock(block, box, toWorld * InsertMatrix(entity, insert, block, column, row));
     }
 
     void AddDimension(const Dimension& dimension, const Matrix& toWorld) {
         if (dimension.block == BlockIndex::none) return;
         const Block& block = drawing_.At(dimension.block);
-        AddBlock(block, toWorld * DimensionMatrix(dimension, block));
+        AddBlock(block, BoxOf(dimension.block), toWorld * DimensionMatrix(dimension, block));
     }
 
-    void AddBlock(const Block& block, const Matrix& toWorld) {
+    const Box& BoxOf(BlockIndex index) {
+        std::optional<Box>& box = blockBoxes_[static_cast<size_t>(index)];
+        if (!box) box = ExtentsWalk(drawing_, blockBoxes_).Of(drawing_.At(index));
+        return *box;
+    }
+
+    // Most inserts of a drawing lie amid others: only those that reach out are looked at part by part.
+    void AddBlock(const Block& block, const Box& box, const Matrix& toWorld) {
+        if (!box_.Covers(box.Transformed(toWorld))) AddEntities(block, toWorld);
+    }
+
+    void AddEntities(const Block& block, const Matrix& toWorld) {
         for (const Entity& entity : block.entities) {
             const auto* text = std::get_if<Apart<Text>>(&entity.shape);
             if (!text || (*text)->role != Text::Role::definition) Add(entity, toWorld);
@@ -69,13 +91,15 @@ private:
     void ArcTo(const EllipseArc& arc) override { box_.Add(arc); }
 
     const Document& drawing_;
+    BlockBoxes& blockBoxes_;
     Box box_;
 };
 
 } // namespace
 
 Box Extents(const Document& drawing) {
-    return ExtentsWalk(drawing).Walk();
+    BlockBoxes blockBoxes(drawing.blocks.size());
+    return ExtentsWalk(drawing, blockBoxes).OfModelSpace();
 }
 
 } // namespace dxf

@@ -90,10 +90,10 @@ std::optional<EllipseArc> BulgeArc(Point start, Point end, double bulge) {
 }
 
 void Box::Add(Point p) {
-    if (!std::isfinite(p.x) || !std::isfinite(p.y)) return;
+    if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z)) return;
     if (IsEmpty()) low_ = high_ = p;
-    low_ = {std::min(low_.x, p.x), std::min(low_.y, p.y), 0};
-    high_ = {std::max(high_.x, p.x), std::max(high_.y, p.y), 0};
+    low_ = {std::min(low_.x, p.x), std::min(low_.y, p.y), std::min(low_.z, p.z)};
+    high_ = {std::max(high_.x, p.x), std::max(high_.y, p.y), std::max(high_.z, p.z)};
 }
 
 void Box::Add(const EllipseArc& arc) {
@@ -104,10 +104,26 @@ void Box::Add(const EllipseArc& arc) {
         const double past = std::fmod(t - first, 2 * kPi);
         if ((past < 0 ? past + 2 * kPi : past) <= std::abs(arc.sweep)) Add(arc.At(t));
     };
-    for (const double extreme : {std::atan2(arc.v.x, arc.u.x), std::atan2(arc.v.y, arc.u.y)}) {
+    for (const double extreme :
+         {std::atan2(arc.v.x, arc.u.x), std::atan2(arc.v.y, arc.u.y), std::atan2(arc.v.z, arc.u.z)}) {
         addIfOn(extreme);
         addIfOn(extreme + kPi);
     }
+}
+
+bool Box::Covers(const Box& other) const {
+    return other.IsEmpty() || (low_.x <= other.low_.x && low_.y <= other.low_.y && other.high_.x <= high_.x &&
+                               other.high_.y <= high_.y);
+}
+
+Box Box::Transformed(const Matrix& matrix) const {
+    Box box;
+    if (IsEmpty()) return box;
+    for (const double x : {low_.x, high_.x})
+        for (const double y : {low_.y, high_.y})
+            for (const double z : {low_.z, high_.z})
+                box.Add(matrix.Apply({x, y, z}));
+    return box;
 }
 
 } // namespace dxf

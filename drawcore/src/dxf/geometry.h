@@ -69,7 +69,7 @@ double Sweep(double start, double end);
 // The arc of a polyline's segment; none if it is straight.
 std::optional<EllipseArc> BulgeArc(Point start, Point end, double bulge);
 
-// In the plane of the drawing. Places that are not finite do not count.
+// Along the axes. Places that are not finite do not count.
 class Box {
 public:
     void Add(Point p);
@@ -78,8 +78,13 @@ public:
     Point Low() const { return low_; } // not in use while empty
     Point High() const { return high_; }
 
+    // Whether the other one, seen from above, reaches nowhere out of this one.
+    bool Covers(const Box& other) const;
+    // The box around this one in its new place.
+    Box Transformed(const Matrix& matrix) const;
+
 private:
-    Point low_{1, 1, 0};
+    Point low_{1, 1, 1};
     Point high_{0, 0, 0};
 };
 

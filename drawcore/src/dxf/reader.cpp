@@ -2,7 +2,7 @@
 
 #include "drawcore/src/dxf/reader.h"
 
-#include <cmath>
+#include <fstream>
 
 #include "drawcore/src/dxf/entity_reader.h"
 #include "drawcore/src/dxf/record_reader.h"
@@ -154,6 +154,18 @@ private:
 ReadError::ReadError(uint32_t line, const std::string& text)
     : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line),
       text_(text) {}
+
+Document ReadFile(const std::filesystem::path& path, const Progress& progress) {
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file) throw ReadError(0, "the file cannot be opened");
+    const std::streamoff size = file.tellg();
+    constexpr std::streamoff kLargest = std::streamoff{2} << 30; // of no drawing is the text that long
+    if (size < 0 || size > kLargest) throw ReadError(0, "the file cannot be read, or is too large");
+    std::string bytes(static_cast<size_t>(size), '\0');
+    file.seekg(0);
+    if (!file.read(bytes.data(), size)) throw ReadError(0, "the file cannot be read");
+    return Read(bytes, progress);
+}
 
 Document Read(std::string_view bytes, const Progress& progress) {
     RefuseOtherFiles(bytes);

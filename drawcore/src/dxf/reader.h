@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -35,5 +36,8 @@ using Progress = std::function<void(int permille)>;
 
 // The bytes need not outlive the call. Throws ReadError, std::bad_alloc.
 Document Read(std::string_view bytes, const Progress& progress);
+
+// The same for a file; one that cannot be read is a ReadError without a line.
+Document ReadFile(const std::filesystem::path& path, const Progress& progress);
 
 } // namespace dxf

@@ -1,0 +1,84 @@
+// The list that demo --list prints.
+
+#include "demo/list_drawings.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <new>
+
+#include <nlohmann/json.hpp>
+
+#include "drawcore/src/dxf/extents.h"
+#include "drawcore/src/dxf/reader.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json Layers(const dxf::Document& drawing) {
+    Json list = Json::array();
+    for (const dxf::Layer& layer : drawing.layers) {
+        if (!layer.declared) continue;
+        Json& entry = list.emplace_back(Json{{"name", layer.name},
+                                             {"color", layer.color},
+                                             {"flags", layer.flags},
+                                             {"linetype", layer.lineType}});
+        if (layer.trueColor >= 0) entry["true_color"] = layer.trueColor;
+    }
+    return list;
+}
+
+Json LineTypes(const dxf::Document& drawing) {
+    Json list = Json::array();
+    for (const dxf::LineType& type : drawing.lineTypes)
+        if (type.declared)
+            list.push_back(
+                {{"name", type.name}, {"pattern_length", type.patternLength}, {"dashes", type.dashes}});
+    return list;
+}
+
+Json Corners(const dxf::Box& box) {
+    if (box.IsEmpty()) return nullptr;
+    return {{box.Low().x, box.Low().y}, {box.High().x, box.High().y}};
+}
+
+Json List(const std::string& file) {
+    const dxf::Document drawing = dxf::ReadFile(std::filesystem::u8path(file), {});
+    const auto blocks =
+        std::count_if(drawing.blocks.begin(), drawing.blocks.end(), [](auto& b) { return b.declared; });
+    const std::string& version = drawing.header.version;
+    Json object{{"file", file},
+                {"acadver", version.empty() ? Json() : Json(version)},
+                {"entities", drawing.entityCounts},
+                {"blocks", blocks},
+                {"layers", Layers(drawing)},
+                {"linetypes", LineTypes(drawing)},
+                {"extents", Corners(dxf::Extents(drawing))}};
+    for (const dxf::Finding& finding : drawing.findings)
+        object["findings"].push_back(
+            {{"line", finding.line ? Json(finding.line) : Json()}, {"text", finding.text}});
+    return object;
+}
+
+} // namespace
+
+bool ListDrawings(const std::vector<std::string>& files, std::ostream& out) {
+    Json list = Json::array();
+    bool allRead = true;
+    for (const std::string& file : files) {
+        try {
+            list.push_back(List(file));
+        } catch (const dxf::ReadError& error) {
+            list.push_back({{"file", file},
+                            {"error", error.Text()},
+                            {"line", error.Line() ? Json(error.Line()) : Json()}});
+            allRead = false;
+        } catch (const std::bad_alloc&) {
+            list.push_back(
+                {{"file", file}, {"error", "there is not enough memory for it"}, {"line", nullptr}});
+            allRead = false;
+        }
+    }
+    out << list.dump(2) << "\n";
+    return allRead;
+}
