@@ -1,0 +1,170 @@
+// The property family on a page in a real sheet: merging, markers, the walk and its preview mark.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "orlo/binding/indeterminate.h"
+#include "orlo/frame/entry.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+// Plays the test with a page of an open sheet over the kit.
+void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned long filter = 0xFFFFFFFF) {
+    TestSheet sheet(kit, filter);
+    ExchangePage& page = sheet.Add([](CDataExchange*) {});
+    page.hasPreview = true;
+    sheet.Run([&](SheetDriver&) { test(page); });
+}
+
+TEST(Merge, OneGraphicGivesItsValueEvenIfItIsTheMarker) {
+    GraphicKit kit;
+    kit.Add({{"Small", 0xFF}});
+    WithPage(kit, [&](ExchangePage& page) {
+        unsigned char value = 0;
+        EXPECT_EQ(1, page.GetPropText("Small", &value, 0));
+        EXPECT_EQ(0xFF, value);
+        EXPECT_EQ(0, page.SetPropText("Small", value, 0));
+        EXPECT_EQ(0, kit.Writes());
+    });
+}
+
+// Each later graphic is compared with the first, by buckets; the first difference ends the walk.
+TEST(Merge, ComparesWithTheFirstAndStopsAtTheFirstDifference) {
+    GraphicKit kit;
+    kit.Add({{"Width", 1.0000000001}, {"Kind", 1}});
+    kit.Add({{"Width", 1.0000000002}, {"Kind", 2}});
+    kit.Add({{"Width", 1.0000000001}, {"Kind", 1}});
+    WithPage(kit, [&](ExchangePage& page) {
+        double width = 0;
+        EXPECT_EQ(1, page.GetPropText("Width", &width, 0));
+        EXPECT_EQ(1.0000000001, width);
+        unsigned int kind = 0;
+        kit[2].reads = 0;
+        EXPECT_EQ(1, page.GetPropText("Kind", &kind, 0));
+        EXPECT_TRUE(IsIndeterminate(kind));
+        EXPECT_EQ(0, kit[2].reads);
+    });
+}
+
+TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
+    GraphicKit kit;
+    kit.Add({{"Info", ""}, {"Name", "a"}});
+    kit.Add({{"Info", ""}, {"Name", "A"}});
+    WithPage(kit, [&](ExchangePage& page) {
+        CString text("before");
+        EXPECT_EQ(1, page.GetPropText("Info", &text, 0));
+        EXPECT_TRUE(text.IsEmpty());
+        EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
+        EXPECT_STREQ("\xFF", text);
+        CString marked("\xFF and more");
+        EXPECT_EQ(0, page.SetPropText("Name", marked, 0));
+        EXPECT_EQ(0, page.GetPropText("Nowhere", &text, 0));
+        EXPECT_STREQ("\xFF", text);
+    });
+}
+
+TEST(Merge, ChecksFoldOnlyAsInt) {
+    GraphicKit kit;
+    kit.Add({{"On", 1}});
+    kit.Add({{"On", 5}});
+    WithPage(kit, [&](ExchangePage& page) {
+        int folded = -1;
+        EXPECT_EQ(1, page.GetPropCheck("On", &folded, 0));
+        EXPECT_EQ(1, folded);
+        unsigned short plain = 0;
+        EXPECT_EQ(1, page.GetPropCheck("On", &plain, 0));
+        EXPECT_EQ(0xFFFF, plain);
+
+        EXPECT_EQ(0, page.SetPropCheck("On", 3, 0));
+        EXPECT_EQ(0, page.SetPropCheck("On", static_cast<unsigned short>(0xFFFF), 0));
+        EXPECT_EQ(5, kit[1].Number("On"));
+        EXPECT_EQ(1, page.SetPropCheck("On", -1, 0));
+        EXPECT_EQ(0, kit[1].Number("On"));
+        EXPECT_EQ(1, page.SetPropCheck("On", static_cast<unsigned short>(2), 0));
+        EXPECT_EQ(2, kit[0].Number("On"));
+    });
+}
+
+TEST(Merge, BitsOfAllGraphicsJoinTheMask) {
+    GraphicKit kit;
+    kit.Add({{"Bits", 0b0101}});
+    kit.Add({{"Bits", 0b0101}});
+    kit.Add({{"Bits", 0b0110}});
+    kit.Add({{"Bits", 0b0001}});
+    WithPage(kit, [&](ExchangePage& page) {
+        unsigned short pair[2] = {9, 9};
+        EXPECT_EQ(1, page.GetPropBits("Bits", pair, 0));
+        EXPECT_EQ(0b0111, pair[0]);
+        EXPECT_EQ(0b0101, pair[1]);
+        unsigned short change[2] = {0b0011, 0b1000};
+        EXPECT_EQ(1, page.SetPropBits("Bits", change, 0));
+        EXPECT_EQ(0b1001, kit[0].Number("Bits"));
+        EXPECT_EQ(0b1010, kit[2].Number("Bits"));
+        EXPECT_EQ(0, page.GetPropBits("Nowhere", pair, 0));
+        EXPECT_EQ(0, pair[0]);
+    });
+}
+
+TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
+    GraphicKit kit;
+    kit.Add({{"Name", "a"}});
+    kit.Add({{"Name", "b"}});
+    WithPage(kit, [&](ExchangePage& page) {
+        CString text;
+        EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
+        const long before = kit.Blocks();
+        kit[1].onGet = [] { AfxThrowUserException(); };
+        try {
+            page.GetPropText("Name", &text, 0);
+            ADD_FAILURE() << "the exception did not come out";
+        } catch (CException* exception) {
+            exception->Delete();
+        }
+        EXPECT_EQ(before, kit.Blocks());
+    });
+}
+
+// The walk clears the mark on what it reaches, and on nothing else; over the preview group it sets it.
+TEST(Walk, MarksWhatItReaches) {
+    GraphicKit kit;
+    for (int i = 0; i < 3; ++i) kit.Add({{"Kind", i < 2 ? 1 : 2}, {"Last", 1}}).graphic->dwFlags |= kFlagPreview;
+    kit[1].properties["Kind"].number = 2; // differs from the first: the third is not reached
+    WithPage(kit, [&](ExchangePage& page) {
+        for (size_t i = 0; i < kit.Size(); ++i) kit[i].graphic->dwFlags |= kFlagPreview;
+        int kind = 0;
+        page.GetPropText("Kind", &kind, 0);
+        EXPECT_FALSE(kit[0].graphic->dwFlags & kFlagPreview);
+        EXPECT_FALSE(kit[1].graphic->dwFlags & kFlagPreview);
+        EXPECT_TRUE(kit[2].graphic->dwFlags & kFlagPreview);
+
+        GraphicStruct* preview = page.GetPreviewGraphic();
+        ASSERT_NE(nullptr, preview);
+        preview->dwFlags &= ~kFlagPreview;
+        uint32_t position;
+        EXPECT_EQ(preview, page.GetFirstObject(&position, 1));
+        EXPECT_TRUE(preview->dwFlags & kFlagPreview);
+        EXPECT_EQ(nullptr, page.GetNextObject(&position, 1));
+    });
+}
+
+TEST(Walk, ANullSelectionHasNoObjectsAndWritesNothing) {
+    GraphicKit kit;
+    ::PropPageInit();
+    std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(nullptr, nullptr, kit.Drawing(), nullptr, 0));
+    auto* page = new ExchangePage([](CDataExchange*) {});
+    sheet->AddPage(page);
+    EXPECT_EQ(IDOK, SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+        user.SelectPage(1);
+        uint32_t position;
+        EXPECT_EQ(nullptr, page->GetFirstObject(&position, 0));
+        double value = 3;
+        EXPECT_EQ(0, page->GetPropText("Width", &value, 0));
+        EXPECT_EQ(0, page->SetPropText("Width", value, 0));
+        EXPECT_EQ(3, value);
+        user.Ok();
+    }));
+}
+
+} // namespace

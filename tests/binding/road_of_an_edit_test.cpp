@@ -1,0 +1,221 @@
+// The road of one edit, for each type of member: from the graphics into a control, by a person's hand, and back.
+
+#include <gtest/gtest.h>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddx.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr char kName[] = "Property";
+
+// A member in the edit, bound and shown.
+template <class T>
+ExchangePage::Exchange InEdit(T& member) {
+    return [&member](CDataExchange* pDX) {
+        DDP_Text(pDX, kEdit, member, kName);
+        DDX_Text(1, pDX, kEdit, member);
+        DDP_PostProcessing(pDX);
+    };
+}
+
+template <class T>
+struct Sample {
+    static KitValue A() { return 7; }
+    static KitValue B() { return 9; }
+    static const char* Shown() { return "7"; }
+};
+
+template <>
+struct Sample<CString> {
+    static KitValue A() { return "wall"; }
+    static KitValue B() { return "door"; }
+    static const char* Shown() { return "wall"; }
+};
+
+template <class T>
+class EditRoad : public ::testing::Test {};
+
+using EditTypes = ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long, float, double,
+                                   CString>;
+TYPED_TEST_SUITE(EditRoad, EditTypes);
+
+TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
+    GraphicKit kit;
+    kit.Add({{kName, Sample<TypeParam>::A()}});
+    kit.Add({{"Other", 1}});
+    kit.AddWithoutTable();
+    kit.Add({{kName, Sample<TypeParam>::A()}});
+    TypeParam member{};
+    TestSheet sheet(kit);
+    sheet.Add(InEdit(member));
+    EXPECT_EQ(IDOK, sheet.Run([](SheetDriver& user) {
+        EXPECT_EQ(Sample<TypeParam>::Shown(), user.Text(kEdit));
+        user.Type(kEdit, "42");
+        user.Ok();
+    }));
+    for (size_t i : {0, 2}) {
+        const KitValue expected = Sample<TypeParam>::A().text.empty() ? KitValue(42) : KitValue("42");
+        EXPECT_EQ(expected.number, kit[i].properties[kName].number);
+        EXPECT_EQ(expected.text, kit[i].properties[kName].text);
+        EXPECT_EQ(1u, kit[i].writes.size());
+    }
+    EXPECT_TRUE(kit[1].writes.empty());
+}
+
+TYPED_TEST(EditRoad, MixedValuesSurviveAnUntouchedPage) {
+    GraphicKit kit;
+    kit.Add({{kName, Sample<TypeParam>::A()}});
+    kit.Add({{kName, Sample<TypeParam>::B()}});
+    TypeParam member{};
+    TestSheet sheet(kit);
+    sheet.Add(InEdit(member));
+    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        EXPECT_TRUE(IsIndeterminate(member));
+        user.Ok();
+    }));
+    EXPECT_EQ(0, kit.Writes());
+    EXPECT_TRUE(kit[0].properties[kName] == Sample<TypeParam>::A());
+    EXPECT_TRUE(kit[1].properties[kName] == Sample<TypeParam>::B());
+}
+
+TYPED_TEST(EditRoad, AMissingPropertyKeepsTheDefaultAndWritesNothing) {
+    GraphicKit kit;
+    kit.Add({{"Other", 1}});
+    TypeParam member{};
+    TestSheet sheet(kit);
+    sheet.Add(InEdit(member));
+    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        EXPECT_FALSE(IsIndeterminate(member));
+        user.Type(kEdit, "42");
+        user.Ok();
+    }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+// A mixed field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
+TEST(MixedNumber, TypedOverReachesAllAndRestoredReachesNone) {
+    for (const char* typed : {"3.5", "*****"}) {
+        SCOPED_TRACE(typed);
+        GraphicKit kit;
+        kit.Add({{kName, 1.0}});
+        kit.Add({{kName, 2.0}});
+        double member = 0;
+        TestSheet sheet(kit);
+        sheet.Add(InEdit(member));
+        sheet.Run([&](SheetDriver& user) {
+            EXPECT_EQ("*****", user.Text(kEdit));
+            user.Type(kEdit, typed);
+            user.Ok();
+        });
+        const bool number = typed[0] != '*';
+        EXPECT_EQ(number ? 3.5 : 1.0, kit[0].Number(kName));
+        EXPECT_EQ(number ? 3.5 : 2.0, kit[1].Number(kName));
+    }
+}
+
+template <class T>
+class CheckRoad : public ::testing::Test {};
+using CheckTypes = ::testing::Types<int, unsigned short>;
+TYPED_TEST_SUITE(CheckRoad, CheckTypes);
+
+template <class T>
+ExchangePage::Exchange InCheck(T& member) {
+    return [&member](CDataExchange* pDX) {
+        DDP_Check(pDX, kCheck, member, kName);
+        DDX_Check(1, pDX, kCheck, member);
+        DDP_PostProcessing(pDX);
+    };
+}
+
+TYPED_TEST(CheckRoad, MixedShowsTheThirdStateAndAClickWritesAll) {
+    for (const bool touched : {false, true}) {
+        GraphicKit kit;
+        kit.Add({{kName, 1}});
+        kit.Add({{kName, 0}});
+        TypeParam member{};
+        TestSheet sheet(kit);
+        sheet.Add(InCheck(member));
+        sheet.Run([&](SheetDriver& user) {
+            EXPECT_EQ(BST_INDETERMINATE, user.Check(kCheck));
+            if (touched) user.Click(kCheck); // the third state gives way to unchecked
+            user.Ok();
+        });
+        EXPECT_EQ(touched ? 2 : 0, kit.Writes());
+        EXPECT_EQ(touched ? 0 : 1, kit[0].Number(kName));
+        EXPECT_EQ(0, kit[1].Number(kName));
+    }
+}
+
+TYPED_TEST(CheckRoad, AClearBoxIsCheckedInAll) {
+    GraphicKit kit;
+    kit.Add({{kName, 0}});
+    kit.Add({{kName, 0}});
+    TypeParam member{};
+    TestSheet sheet(kit);
+    sheet.Add(InCheck(member));
+    sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(BST_UNCHECKED, user.Check(kCheck));
+        user.Click(kCheck);
+        user.Ok();
+    });
+    EXPECT_EQ(1, kit[0].Number(kName));
+    EXPECT_EQ(1, kit[1].Number(kName));
+}
+
+template <class T>
+class RadioRoad : public ::testing::Test {};
+TYPED_TEST_SUITE(RadioRoad, CheckTypes);
+
+TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
+    GraphicKit kit;
+    kit.Add({{kName, 0}});
+    kit.Add({{kName, 1}});
+    TypeParam member{};
+    TestSheet sheet(kit);
+    ExchangePage& page = sheet.Add([&](CDataExchange* pDX) {
+        DDP_Radio(pDX, kRadio, member, kName);
+        DDX_Radio(1, pDX, kRadio, member);
+        DDP_PostProcessing(pDX);
+    });
+    sheet.Run([&](SheetDriver& user) {
+        for (int id : {kRadio, kRadio + 1, kRadio + 2}) EXPECT_EQ(0, user.Check(id)); // mixed: none
+        user.Click(kRadio + 2);
+        EXPECT_EQ(1, page.GetControlStatus(kRadio));
+        EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));
+        user.Ok();
+    });
+    EXPECT_EQ(2, kit[0].Number(kName));
+    EXPECT_EQ(2, kit[1].Number(kName));
+}
+
+// Bits in which graphics differ stay each graphic's own; the touched bits are set in all; one write each.
+TEST(BitsRoad, SeveralControlsOfOnePairWriteOnce) {
+    GraphicKit kit;
+    kit.Add({{kName, 0b0101}});
+    kit.Add({{kName, 0b0110}});
+    unsigned short pair[2] = {};
+    TestSheet sheet(kit);
+    sheet.Add([&](CDataExchange* pDX) {
+        DDP_Bits(pDX, kEdit, pair, kName);
+        DDP_TextSetAt(pDX, kCheck, pair, kName);
+        DDP_TextSetAt(pDX, kOtherEdit, pair, kName);
+        if (pDX->m_bSaveAndValidate) pair[1] |= 0b1000;
+        DDP_PostProcessing(pDX);
+    });
+    sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(0b0011, pair[0]);
+        EXPECT_EQ(0b0101, pair[1]);
+        user.Type(kEdit, "x");
+        user.Click(kCheck);
+        user.Type(kOtherEdit, "y");
+        user.Ok();
+    });
+    EXPECT_EQ(0b1101, kit[0].Number(kName));
+    EXPECT_EQ(0b1110, kit[1].Number(kName));
+    EXPECT_EQ(2, kit.Writes());
+}
+
+} // namespace

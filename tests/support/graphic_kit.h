@@ -1,0 +1,73 @@
+// A drawing and graphics with property tables of any shape, for tests: what a graphic offers, holds, and was told.
+//
+//   GraphicKit kit;
+//   kit.Add({{"PenWidth", 1.0}, {"Info", "wall"}});
+//   kit.Add({{"PenWidth", 2.0}});
+//   kit[0].Number("PenWidth"); kit[1].writes.size(); kit[0].onSet = [](auto&) { throw 1; };
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "orlo/host/graphic.h"
+
+struct KitValue {
+    KitValue() = default;
+    KitValue(int value) : number(value) {}
+    KitValue(double value) : number(value) {}
+    KitValue(const char* value) : text(value) {}
+
+    bool operator==(const KitValue& other) const { return number == other.number && text == other.text; }
+
+    double number = 0;
+    std::string text;
+};
+
+struct KitWrite {
+    std::string name;
+    int vt;
+};
+
+class KitGraphic {
+public:
+    KitGraphic(int type, std::map<std::string, KitValue> offered);
+
+    double Number(const std::string& name) const { return properties.at(name).number; }
+    std::string Text(const std::string& name) const { return properties.at(name).text; }
+
+    GraphicStruct* graphic;
+    std::map<std::string, KitValue> properties;
+    std::vector<KitWrite> writes;
+    std::function<void(const std::string& name)> onSet; // before a value is stored
+    std::function<void()> onGet; // behind a value that was given
+    int reads = 0;
+};
+
+class GraphicKit {
+public:
+    GraphicKit();
+    ~GraphicKit();
+    GraphicKit(const GraphicKit&) = delete;
+    GraphicKit& operator=(const GraphicKit&) = delete;
+
+    KitGraphic& Add(std::map<std::string, KitValue> offered, int type = kGraphicPenBrush);
+    // A member of the selection that has no property table.
+    GraphicStruct* AddWithoutTable();
+    KitGraphic& operator[](size_t index) { return *m_graphics[index]; }
+    size_t Size() const { return m_graphics.size(); }
+
+    DrawingStruct* Drawing() const { return m_drawing; }
+    GraphicStruct* Selection() const { return m_selection; }
+    int Writes() const; // over all graphics
+    long Blocks() const; // of the host's, alive now
+
+private:
+    DrawingStruct* m_drawing;
+    GraphicStruct* m_selection;
+    std::vector<std::unique_ptr<KitGraphic>> m_graphics; // the drawing owns the records
+};

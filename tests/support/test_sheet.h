@@ -1,0 +1,57 @@
+// A real graphic property sheet over a GraphicKit's selection, with pages whose exchange a test writes as a function.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "support/graphic_kit.h"
+#include "support/sheet_driver.h"
+
+// The page template of tests/support/test_page.rc.
+enum TestPageControl : int {
+    kTestPage = 500,
+    kEdit = 101,
+    kOtherEdit = 102,
+    kCheck = 103,
+    kRadio = 108, // first of the group 108, 109, 110
+    kLoneRadio = 115,
+    kCombo = 120,
+    kList = 121,
+    kButton = 130,
+};
+
+class ExchangePage : public CGraphicPropertyPage {
+public:
+    using Exchange = std::function<void(CDataExchange*)>;
+
+    explicit ExchangePage(Exchange exchange, unsigned int nIDTemplate = kTestPage);
+    ~ExchangePage() override;
+
+    void* CreatePreviewGraphic() override;
+    void SetPreviewProperties(int bAll) override;
+    void DoDataExchange(CDataExchange* pDX) override;
+
+    bool hasPreview = false;
+    std::vector<int> previewCalls; // the arguments of SetPreviewProperties
+    std::function<void(ExchangePage&, int bAll)> onPreview;
+
+private:
+    Exchange m_exchange;
+};
+
+// Owns the sheet with its pages. The General page is the first, pages of the test follow.
+class TestSheet {
+public:
+    explicit TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags = 0xFFFFFFFF);
+    ~TestSheet();
+
+    ExchangePage& Add(ExchangePage::Exchange exchange);
+    // Opens the sheet, goes to the first page of the test, and plays the script.
+    int Run(SheetDriver::Script script);
+    CGraphicPropertySheet& Sheet() { return *m_sheet; }
+
+private:
+    CGraphicPropertySheet* m_sheet;
+};
