@@ -1,0 +1,166 @@
+// A page's life: which notifications make it dirty, what the sheet is told, and when the preview follows.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddx.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+// A page that shows one number and one list, and follows its edit in the preview.
+struct Fixture : ::testing::Test {
+    Fixture() {
+        kit.Add({{"Width", 1.0}});
+        sheet = std::make_unique<TestSheet>(kit);
+        page = &sheet->Add([this](CDataExchange* pDX) {
+            DDP_Text(pDX, kEdit, width, "Width");
+            DDX_Text(1, pDX, kEdit, width);
+            DDP_PostProcessing(pDX);
+        });
+        page->hasPreview = true;
+    }
+
+    void Send(SheetDriver& user, int id, int code) {
+        ::SendMessageA(user.Page(), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(user.Control(id)));
+    }
+
+    GraphicKit kit;
+    std::unique_ptr<TestSheet> sheet;
+    ExchangePage* page;
+    double width = 0;
+};
+
+using PageLife = Fixture;
+
+TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
+    sheet->Run([&](SheetDriver& user) {
+        EXPECT_EQ(0, page->IsModified());
+        EXPECT_EQ(0, page->GetControlStatus(kEdit));
+        EXPECT_EQ(std::vector<int>{1}, page->previewCalls);
+        EXPECT_EQ("1", user.Text(kEdit));
+    });
+}
+
+struct Notice {
+    const char* name;
+    int id, code;
+    bool change; // marks the control
+    bool end;    // tells the end of an edit, on a dirty control of a modified page
+};
+
+constexpr Notice kNotices[] = {
+    {"EditChange", kEdit, EN_CHANGE, true, false},
+    {"EditUpdate", kEdit, EN_UPDATE, false, false},
+    {"EditKillFocus", kEdit, EN_KILLFOCUS, false, true},
+    {"ButtonClicked", kCheck, BN_CLICKED, true, true},
+    {"ButtonDoubleClicked", kCheck, BN_DOUBLECLICKED, true, true},
+    {"ButtonSetFocus", kCheck, BN_SETFOCUS, false, false},
+    {"ComboEditChange", kCombo, CBN_EDITCHANGE, true, false},
+    {"ComboSelChange", kCombo, CBN_SELCHANGE, true, false},
+    {"ComboSelEndOk", kCombo, CBN_SELENDOK, true, true},
+    {"ComboSelEndCancel", kCombo, CBN_SELENDCANCEL, false, true},
+    {"ComboDropDown", kCombo, CBN_DROPDOWN, false, false},
+    {"ListSelChange", kList, LBN_SELCHANGE, true, true},
+    {"ListDoubleClick", kList, LBN_DBLCLK, false, false},
+};
+
+TEST_F(PageLife, NotificationsMarkByTheTables) {
+    sheet->Run([&](SheetDriver& user) {
+        for (const Notice& notice : kNotices) {
+            SCOPED_TRACE(notice.name);
+            page->SetControlStatus(notice.id, 0);
+            page->SetModifiedFlag(0);
+            page->previewCalls.clear();
+            Send(user, notice.id, notice.code);
+            EXPECT_EQ(notice.change, page->GetControlStatus(notice.id) != 0);
+            EXPECT_EQ(notice.change, page->IsModified() != 0);
+            EXPECT_EQ(notice.change, !page->previewCalls.empty());
+        }
+    });
+}
+
+// The end of an edit tells the sheet, but renews no preview: that has followed each change.
+TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
+    sheet->Run([&](SheetDriver& user) {
+        Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all
+        EXPECT_EQ(0, page->IsModified());
+        user.Type(kEdit, "2");
+        const size_t calls = page->previewCalls.size();
+        EXPECT_GT(calls, 1u);
+        EXPECT_EQ(0, page->previewCalls.back());
+        Send(user, kEdit, EN_KILLFOCUS);
+        EXPECT_EQ(calls, page->previewCalls.size());
+    });
+}
+
+TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
+    sheet->Run([&](SheetDriver& user) {
+        user.Click(kRadio + 1);
+        EXPECT_EQ(1, page->GetControlStatus(kRadio));
+        EXPECT_EQ(0, page->GetControlStatus(kRadio + 1));
+        user.Click(kLoneRadio); // no group begins before it
+        EXPECT_EQ(1, page->GetControlStatus(kLoneRadio));
+    });
+}
+
+TEST_F(PageLife, IgnoredControlsChangeNothing) {
+    page->IgnoreApply(kOtherEdit);
+    sheet->Run([&](SheetDriver& user) {
+        user.Type(kOtherEdit, "x");
+        EXPECT_EQ(0, page->IsModified());
+        EXPECT_EQ(0, page->GetControlStatus(kOtherEdit));
+    });
+}
+
+TEST_F(PageLife, ControlsWithoutARowReadAsDirtyAndCannotBeSet) {
+    sheet->Run([&](SheetDriver&) {
+        EXPECT_EQ(1, page->GetControlStatus(9999));
+        EXPECT_EQ(0, page->SetControlStatus(9999, 1));
+    });
+}
+
+TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
+    sheet->Run([&](SheetDriver& user) {
+        user.Type(kEdit, "5");
+        EXPECT_EQ(1, kit[0].Number("Width"));
+        user.SelectPage(0);
+        EXPECT_EQ(5, kit[0].Number("Width"));
+        kit[0].properties["Width"].number = 8;
+        user.SelectPage(1);
+        EXPECT_EQ(0, page->GetControlStatus(kEdit));
+        EXPECT_EQ("5", user.Text(kEdit));
+        EXPECT_NE(0, page->IsModified());
+    });
+    EXPECT_EQ(8, kit[0].Number("Width")); // Cancel writes nothing further and undoes nothing
+}
+
+TEST_F(PageLife, TheRefreshCommandReloadsOnlyWhenAsked) {
+    sheet->Run([&](SheetDriver& user) {
+        kit[0].properties["Width"].number = 8;
+        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0);
+        EXPECT_EQ("1", user.Text(kEdit));
+    });
+}
+
+// The selection stays as it is through any number of previews; only graphics of the group are written.
+TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
+    page->onPreview = [&](ExchangePage& self, int) {
+        CDataExchange save(&self, TRUE);
+        double value = 0;
+        if (DDX_Text(0, &save, kEdit, value)) self.SetPropText("PenWidth", value, 1);
+    };
+    kit[0].properties["PenWidth"] = 1.0;
+    sheet->Run([&](SheetDriver& user) {
+        for (const char* typed : {"2", "3.5", "half-typed", "7"}) user.Type(kEdit, typed);
+        EXPECT_EQ(0, kit.Writes());
+        double shown = 0;
+        EXPECT_EQ(1, page->GetPropText("PenWidth", &shown, 1));
+        EXPECT_EQ(7, shown);
+    });
+    EXPECT_EQ(0, kit.Writes());
+}
+
+} // namespace

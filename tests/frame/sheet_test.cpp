@@ -1,0 +1,241 @@
+// The sheet: which pages a graphic adds, finding them, results, layout, and what is given back.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "drawcore/regen.h"
+#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/frame/entry.h"
+#include "support/host_frame.h"
+#include "support/object_counts.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr unsigned int kGeneral = 29000, kPen = 29001;
+
+struct Kind {
+    const char* name;
+    int type;
+    bool group;
+    uint32_t flags;
+    bool pen;
+};
+
+constexpr Kind kKinds[] = {
+    {"PenBrush", 2, false, 0, true},
+    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, true},
+    {"Vertices", 0x0B, false, 0, true},
+    {"VerticesWithoutPen", 0x0B, false, kFlagNoPenBrush, false},
+    {"Group", 0x0B, true, 0, false},
+    {"Unknown", 0x33, false, 0, false},
+};
+
+class PagesOfAKind : public ::testing::TestWithParam<Kind> {};
+
+TEST_P(PagesOfAKind, AreAddedOnce) {
+    const Kind& kind = GetParam();
+    GraphicKit kit;
+    GraphicStruct* graphic = kit.Add({}, kind.type == 0x33 ? 0x0B : kind.type).graphic;
+    if (kind.group) ::GraphicAdd(graphic, ::GraphicNewEx(kGraphicVertices, 0, 1));
+    graphic->bType = static_cast<uint8_t>(kind.type);
+    graphic->dwFlags |= kind.flags;
+    TestSheet sheet(kit);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
+    EXPECT_EQ(kind.pen, sheet.Sheet().FindPage(kPen) != nullptr);
+    EXPECT_EQ(kind.pen ? 2 : 1, sheet.Sheet().GetPageCount());
+    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(kGeneral));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, PagesOfAKind, ::testing::ValuesIn(kKinds),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// The method comes second, for every graphic, and its result goes back to the host.
+TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
+    GraphicKit kit;
+    GraphicStruct* graphic = kit.Add({}).graphic;
+    graphic->wRegenMethod = 7;
+    int calls = 0;
+    void* methods = ::RegenMethodsNew();
+    const RegenMethod method = {&calls, nullptr, [](void* context, GraphicStruct*, void* sheet) {
+                                    auto* target = static_cast<CGraphicPropertySheet*>(sheet);
+                                    target->AddPage(new ExchangePage([](CDataExchange*) {}));
+                                    return 40 + ++*static_cast<int*>(context);
+                                }};
+    ::RegenMethodRegister(methods, 7, &method);
+    {
+        TestSheet sheet(kit);
+        EXPECT_EQ(41, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
+        EXPECT_EQ(42, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
+        EXPECT_EQ(4, sheet.Sheet().GetPageCount());
+        EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(kPen));
+    }
+    ::RegenMethodsDispose(&methods);
+}
+
+class NamedPage : public COrloPropertyPage {
+public:
+    NamedPage() : COrloPropertyPage("NAMED_PAGE", 0) {}
+};
+
+TEST(FindPage, NumbersFindNumbersAndNamesFindEqualNames) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    auto* named = new NamedPage;
+    sheet.Sheet().AddPage(named);
+    const std::string otherAddress = "NAMED_PAGE", otherCase = "Named_Page";
+    EXPECT_EQ(named, sheet.Sheet().FindPage(otherAddress.c_str()));
+    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(otherCase.c_str()));
+    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(0x12340000u + kGeneral));
+    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(kPen));
+}
+
+TEST(SheetResult, OkIsOneAndEscapeCancels) {
+    GraphicKit kit;
+    kit.Add({{"Width", 1.0}});
+    for (const UINT key : {VK_RETURN, VK_ESCAPE}) {
+        double width = 0;
+        TestSheet sheet(kit);
+        sheet.Add([&](CDataExchange* pDX) {
+            DDP_Text(pDX, kEdit, width, "Width");
+            DDX_Text(1, pDX, kEdit, width);
+            DDP_PostProcessing(pDX);
+        });
+        const int result = sheet.Run([&](SheetDriver& user) {
+            user.Type(kEdit, "4");
+            user.Key(key);
+        });
+        EXPECT_EQ(key == VK_RETURN ? 1 : IDCANCEL, result);
+    }
+    EXPECT_EQ(4, kit[0].Number("Width"));
+    EXPECT_EQ(1u, kit[0].writes.size());
+}
+
+TEST(SheetStatus, AnswersWhetherTheActivePageHasAPreview) {
+    GraphicKit kit;
+    kit.Add({});
+    TestSheet sheet(kit);
+    ExchangePage& page = sheet.Add([](CDataExchange*) {});
+    page.hasPreview = true;
+    sheet.Run([&](SheetDriver& user) {
+        page.previewCalls.clear();
+        EXPECT_EQ(1, sheet.Sheet().OnStatusChange(2));
+        EXPECT_TRUE(page.previewCalls.empty());
+        EXPECT_EQ(1, sheet.Sheet().OnStatusChange(1));
+        EXPECT_EQ(std::vector<int>{0}, page.previewCalls);
+        user.SelectPage(0);
+        EXPECT_EQ(0, sheet.Sheet().OnStatusChange(1));
+        EXPECT_EQ(1u, page.previewCalls.size());
+    });
+}
+
+RECT InSheet(HWND window, HWND sheet) {
+    RECT rect;
+    ::GetWindowRect(window, &rect);
+    ::MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+TEST(SheetLayout, PageAtTheLeftButtonsAboveASquarePreviewNoApply) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    sheet.Add([](CDataExchange*) {});
+    sheet.Run([&](SheetDriver& user) {
+        const HWND window = user.Sheet();
+        EXPECT_EQ(nullptr, ::GetDlgItem(window, 0xEA00));
+        RECT client;
+        ::GetClientRect(window, &client);
+        const RECT preview = InSheet(::GetDlgItem(window, 3999), window);
+        EXPECT_EQ(100, preview.right - preview.left);
+        EXPECT_EQ(100, preview.bottom - preview.top);
+        RECT page = InSheet(user.Page(), window);
+        EXPECT_LT(page.right, preview.left);
+        EXPECT_LE(preview.right, client.right);
+        EXPECT_LE(preview.bottom, client.bottom);
+        int bottom = page.top;
+        for (const int id : {IDOK, IDCANCEL, 0xE145}) {
+            const RECT button = InSheet(::GetDlgItem(window, id), window);
+            EXPECT_GT(button.left, page.right) << id;
+            EXPECT_LE(button.right, client.right) << id;
+            EXPECT_GE(button.top, bottom) << id;
+            bottom = button.bottom;
+        }
+        EXPECT_LE(bottom, preview.top);
+        user.SelectPage(0); // a page that comes later stands where the first one does
+        const RECT other = InSheet(user.Page(), window);
+        EXPECT_TRUE(::EqualRect(&page, &other));
+    });
+}
+
+TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    sheet.Add([](CDataExchange*) {});
+    sheet.Run([&](SheetDriver& user) {
+        ::SendMessageA(user.Control(kCombo), CB_SHOWDROPDOWN, TRUE, 0);
+        EXPECT_TRUE(::SendMessageA(user.Control(kCombo), CB_GETDROPPEDSTATE, 0, 0));
+        ::SetWindowPos(user.Sheet(), nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        EXPECT_FALSE(::SendMessageA(user.Control(kCombo), CB_GETDROPPEDSTATE, 0, 0));
+    });
+}
+
+class MeasuredPage : public CGraphicPropertyPage {
+public:
+    MeasuredPage() : CGraphicPropertyPage(kTestPage, 0) {}
+    CSize Measure(void* dialog) {
+        SetDialogResource(dialog);
+        return m_sizePage;
+    }
+};
+
+TEST(DialogMeasure, FollowsTemplateAndFont) {
+    const HMODULE module = ::GetModuleHandleA(nullptr);
+    const HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(kTestPage), RT_DIALOG);
+    ASSERT_NE(nullptr, found);
+    MeasuredPage page;
+    const CSize measured = page.Measure(::LoadResource(module, found));
+    MeasuredPage none;
+    const CSize standard = none.Measure(nullptr);
+    EXPECT_GT(measured.cx, 200);
+    EXPECT_LT(measured.cx, 800);
+    EXPECT_GT(measured.cy, standard.cy); // 160 against 62 units
+    EXPECT_GT(standard.cx, 250);
+}
+
+// A template of four words and nothing behind is not read beyond its mapping.
+TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
+    void* pages = ::VirtualAlloc(nullptr, 0x2000, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    DWORD before;
+    ::VirtualProtect(static_cast<char*>(pages) + 0x1000, 0x1000, PAGE_NOACCESS, &before);
+    for (const size_t size : {2, 14, 18, 20, 24, 40}) {
+        char* start = static_cast<char*>(pages) + 0x1000 - size;
+        std::memset(start, 0x41, size); // DS_SETFONT, names without an end
+        MeasuredPage page;
+        EXPECT_GT(page.Measure(start).cx, 0);
+    }
+    ::VirtualFree(pages, 0, MEM_RELEASE);
+}
+
+TEST(ManySheets, LeaveNothingBehind) {
+    GraphicKit kit;
+    HostFrame frame(kit.Drawing());
+    kit.Add({{"PenWidth", 1.0}, {"PenColor", 255}});
+    const auto cycle = [&] {
+        TestSheet sheet(kit);
+        ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
+        sheet.Run([](SheetDriver& user) { user.Ok(); });
+    };
+    for (int i = 0; i < 3; ++i) cycle();
+    const int gdi = GdiObjectCount(), user = UserObjectCount();
+    const long blocks = kit.Blocks();
+    for (int i = 0; i < 1000; ++i) cycle();
+    EXPECT_EQ(gdi, GdiObjectCount());
+    EXPECT_EQ(user, UserObjectCount());
+    EXPECT_EQ(blocks, kit.Blocks());
+}
+
+} // namespace
