@@ -8,7 +8,6 @@
 namespace {
 
 constexpr unsigned int kAnnounced = 0x21;
-constexpr UINT kFillMessage = 0x4BC;
 
 const char* TableOfKind(unsigned int kind) {
     switch (kind) {

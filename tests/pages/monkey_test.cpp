@@ -1,0 +1,108 @@
+// A monkey at an open sheet: 20,000 messages by a fixed seed, with what must always hold checked on the way.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "orlo/frame/entry.h"
+#include "support/host_frame.h"
+#include "support/message_box_watcher.h"
+#include "support/object_counts.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr UINT kKeys[] = {VK_TAB, VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_SPACE, VK_DELETE,
+                          VK_BACK, VK_F4};
+constexpr char kLetters[] = "0123456789.,-+eEmxi*'\" \t\xFF";
+
+class Monkey {
+public:
+    Monkey(SheetDriver& user, CGraphicPropertySheet& sheet) : m_user(user), m_sheet(sheet), m_random(20261124) {}
+
+    void Act() {
+        switch (Below(12)) {
+        case 0:
+        case 1:
+        case 2: m_user.Key(kKeys[Below(std::size(kKeys))]); break;
+        case 3:
+        case 4: ::PostMessageA(::GetFocus(), WM_CHAR, static_cast<unsigned char>(kLetters[Below(sizeof kLetters - 1)]), 1); break;
+        case 5: Notify(); break;
+        case 6:
+        case 7: Click(RandomChild()); break;
+        case 8: ::SetFocus(RandomChild()); break;
+        case 9: ::SendMessageA(RandomChild(), CB_SHOWDROPDOWN, Below(2), 0); break;
+        case 10: ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER); break;
+        case 11:
+            if (Below(8) == 0) m_user.SelectPage(Below(m_sheet.GetPageCount()));
+            ::InvalidateRect(m_sheet.m_hWnd, nullptr, TRUE);
+            break;
+        }
+        m_user.Pump();
+    }
+
+private:
+    int Below(size_t bound) { return static_cast<int>(m_random() % bound); }
+
+    HWND RandomChild() {
+        HWND child = ::GetWindow(m_user.Page(), GW_CHILD);
+        for (int steps = Below(16); steps > 0 && child != nullptr; --steps) child = ::GetWindow(child, GW_HWNDNEXT);
+        return child != nullptr ? child : m_user.Page();
+    }
+
+    // A notification out of the blue, of any control and any code.
+    void Notify() {
+        const HWND child = RandomChild();
+        const WPARAM what = MAKEWPARAM(::GetDlgCtrlID(child), Below(2) ? Below(16) : 0x100 * Below(8));
+        ::SendMessageA(m_user.Page(), WM_COMMAND, what, reinterpret_cast<LPARAM>(child));
+    }
+
+    void Click(HWND window) {
+        RECT client;
+        ::GetClientRect(window, &client);
+        const LPARAM point = MAKELPARAM(Below(client.right + 1), Below(client.bottom + 1));
+        ::PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, point);
+        ::PostMessageA(window, WM_LBUTTONUP, 0, point);
+    }
+
+    SheetDriver& m_user;
+    CGraphicPropertySheet& m_sheet;
+    std::mt19937 m_random;
+};
+
+TEST(Monkey, FindsNoWayToBreakTheSheet) {
+    GraphicKit kit;
+    HostFrame frame(kit.Drawing());
+    for (int i = 0; i < 3; ++i)
+        kit.Add({{"PenWidth", 0.1 * i}, {"PenColor", 255 * i}, {"PenScale", 1.0}, {"PenStyle", i}, {"ScaleSystem", 2 * (i & 1)},
+                 {"PenAlignment", i & 1}});
+    TestSheet sheet(kit);
+    ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
+    sheet.Run([&](SheetDriver& user) {
+        MessageBoxWatcher boxes;
+        Monkey monkey(user, sheet.Sheet());
+        int gdi = 0, windows = 0;
+        for (int i = 0; i < 20000; ++i) {
+            const int page = user.ActivePage(), writes = kit.Writes();
+            monkey.Act();
+            ASSERT_TRUE(::IsWindow(user.Sheet())) << i;
+            ASSERT_TRUE(::IsWindowVisible(user.Page())) << i;
+            if (user.ActivePage() == page) ASSERT_EQ(writes, kit.Writes()) << i; // only leaving a page writes
+            for (size_t g = 0; g < kit.Size(); ++g) {
+                ASSERT_TRUE(std::isfinite(kit[g].Number("PenWidth")) && kit[g].Number("PenWidth") >= 0) << i;
+                ASSERT_TRUE(std::isfinite(kit[g].Number("PenScale")) && kit[g].Number("PenScale") > 0) << i;
+            }
+            if (i == 4000) {
+                gdi = GdiObjectCount();
+                windows = UserObjectCount();
+            }
+        }
+        for (int id : {32005, 109, 103}) ::SendMessageA(user.Control(id), CB_SHOWDROPDOWN, FALSE, 0);
+        user.Pump();
+        EXPECT_NEAR(gdi, GdiObjectCount(), 8); // a drop-down list that was open at the first count
+        EXPECT_NEAR(windows, UserObjectCount(), 2);
+    });
+}
+
+} // namespace
