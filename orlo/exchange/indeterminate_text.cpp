@@ -4,12 +4,6 @@
 
 #include <cstring>
 
-namespace {
-
-constexpr char kIndeterminate[] = "*****";
-
-} // namespace
-
 bool IsBlankText(HWND window) {
     char text[64] = "";
     ::GetWindowTextA(window, text, sizeof text);
@@ -17,9 +11,9 @@ bool IsBlankText(HWND window) {
 }
 
 bool IsIndeterminateText(const char* text) {
-    return std::strcmp(text, kIndeterminate) == 0;
+    return std::strcmp(text, kIndeterminateDisplay) == 0;
 }
 
 void SetIndeterminateText(HWND window) {
-    ::SetWindowTextA(window, kIndeterminate);
+    ::SetWindowTextA(window, kIndeterminateDisplay);
 }

@@ -6,6 +6,9 @@
 // Nothing but blanks and tabs in the first 63 characters of the window's text.
 bool IsBlankText(HWND window);
 
-// "*****", the text of a mixed value, exactly.
+// The text of a mixed value.
+constexpr char kIndeterminateDisplay[] = "*****";
+
+// That text, exactly.
 bool IsIndeterminateText(const char* text);
 void SetIndeterminateText(HWND window);
