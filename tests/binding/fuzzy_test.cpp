@@ -60,7 +60,7 @@ TEST_P(DoublePairs, CompareBothWays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, DoublePairs, ::testing::ValuesIn(kPairs),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 TEST(CompareFloatsTest, RoundsAtSixtyFour) {
     const float one = 1.0f, same = WithBits(0x3F800040), next = WithBits(0x3F800041);
@@ -81,9 +81,9 @@ TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
         for (double& value : v) value = WithHighWord((start + near(random)) | (sign(random) << 31), random());
         const int ab = CompareDoubles(&v[0], &v[1]), bc = CompareDoubles(&v[1], &v[2]), ac = CompareDoubles(&v[0], &v[2]);
         ASSERT_EQ(-ab, CompareDoubles(&v[1], &v[0]));
-        if (ab == 0 && bc == 0) ASSERT_EQ(0, ac);
-        if (ab < 0) ASSERT_LT(v[0], v[1]);
-        if (ab > 0) ASSERT_GT(v[0], v[1]);
+        if (ab == 0 && bc == 0) { ASSERT_EQ(0, ac); }
+        if (ab < 0) { ASSERT_LT(v[0], v[1]); }
+        if (ab > 0) { ASSERT_GT(v[0], v[1]); }
     }
 }
 

@@ -181,7 +181,7 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
         DDP_PostProcessing(pDX);
     });
     sheet.Run([&](SheetDriver& user) {
-        for (int id : {kRadio, kRadio + 1, kRadio + 2}) EXPECT_EQ(0, user.Check(id)); // mixed: none
+        for (int id = kRadio; id < kRadio + 3; ++id) EXPECT_EQ(0, user.Check(id)); // mixed: none
         user.Click(kRadio + 2);
         EXPECT_EQ(1, page.GetControlStatus(kRadio));
         EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));

@@ -52,7 +52,7 @@ TEST_P(PagesOfAKind, AreAddedOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, PagesOfAKind, ::testing::ValuesIn(kKinds),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 // The method comes second, for every graphic, and its result goes back to the host.
 TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {

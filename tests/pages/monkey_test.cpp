@@ -88,7 +88,7 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
             monkey.Act();
             ASSERT_TRUE(::IsWindow(user.Sheet())) << i;
             ASSERT_TRUE(::IsWindowVisible(user.Page())) << i;
-            if (user.ActivePage() == page) ASSERT_EQ(writes, kit.Writes()) << i; // only leaving a page writes
+            if (user.ActivePage() == page) { ASSERT_EQ(writes, kit.Writes()) << i; } // only leaving a page writes
             for (size_t g = 0; g < kit.Size(); ++g) {
                 ASSERT_TRUE(std::isfinite(kit[g].Number("PenWidth")) && kit[g].Number("PenWidth") >= 0) << i;
                 ASSERT_TRUE(std::isfinite(kit[g].Number("PenScale")) && kit[g].Number("PenScale") > 0) << i;

@@ -243,7 +243,7 @@ TEST_F(PenPage, AMixedAlignmentTogglesFromItsFirstClick) {
         }
         for (size_t i = 0; i < states.size(); ++i) {
             EXPECT_NE(BST_INDETERMINATE, states[i]);
-            if (i > 0) EXPECT_NE(states[i - 1], states[i]);
+            if (i > 0) { EXPECT_NE(states[i - 1], states[i]); }
         }
     });
 }

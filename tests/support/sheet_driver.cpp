@@ -40,7 +40,8 @@ void CALLBACK SheetDriver::OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
     if (playing != nullptr) playing->Play();
 }
 
-// No exception crosses the system's frames: it is kept and thrown again behind the modal loop.
+// No exception crosses the system's frames: it is kept and thrown again behind the modal loop. The closing Cancel is posted:
+// if the script has ended the loop already, nobody takes it.
 void SheetDriver::Play() {
     try {
         Pump();
@@ -49,7 +50,7 @@ void SheetDriver::Play() {
     } catch (...) {
         m_thrown = std::current_exception();
     }
-    if (::IsWindow(m_sheet->m_hWnd) && ::IsWindowVisible(m_sheet->m_hWnd)) Cancel();
+    ::PostMessageA(m_sheet->m_hWnd, WM_COMMAND, IDCANCEL, 0);
 }
 
 HWND SheetDriver::Sheet() const { return m_sheet->m_hWnd; }
