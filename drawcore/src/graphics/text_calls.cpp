@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "drawcore/src/database/encoding.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/text.h"
@@ -19,7 +20,7 @@ int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* vertex, double width, do
     if (height > 0) of->state.height = height;
     of->state.along = {std::cos(angle), std::sin(angle), 0};
     of->state.up = {-std::sin(angle), std::cos(angle), 0};
-    of->state.text = text;
+    of->state.text = Utf16FromCodePage(text);
     of->ChangedShape();
     return 1;
 }

@@ -56,10 +56,10 @@ TextFace::~TextFace() {
     ::DeleteObject(font_);
 }
 
-double TextFace::Width(std::string_view row) const {
+double TextFace::Width(std::wstring_view row) const {
     const SelectedObject selected(MeasuringDevice(), font_);
     SIZE size{};
-    ::GetTextExtentPoint32A(MeasuringDevice(), row.data(), static_cast<int>(row.size()), &size);
+    ::GetTextExtentPoint32W(MeasuringDevice(), row.data(), static_cast<int>(row.size()), &size);
     return static_cast<double>(size.cx) / capital_;
 }
 

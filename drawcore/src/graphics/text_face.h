@@ -21,7 +21,7 @@ public:
     TextFace& operator=(const TextFace&) = delete;
 
     // Length of a row along the baseline, in heights of a capital letter.
-    double Width(std::string_view row) const;
+    double Width(std::wstring_view row) const;
 
     // The font to draw with, and the height of its capital letters in logical units.
     HFONT Font() const { return font_; }

@@ -16,28 +16,28 @@ constexpr double kRowStep = 5.0 / 3; // from baseline to baseline, in heights of
 constexpr double kFrameGap = 0.3;    // around a framed text, likewise
 constexpr uint16_t kFaceBits = kTextItalic | kTextBold | kTextStrikethrough | kTextUnderline;
 
-std::vector<std::string> SplitLines(const std::string& text) {
-    std::vector<std::string> lines;
+std::vector<std::wstring> SplitLines(const std::wstring& text) {
+    std::vector<std::wstring> lines;
     size_t begin = 0;
-    for (size_t end; (end = text.find('\n', begin)) != std::string::npos; begin = end + 1)
+    for (size_t end; (end = text.find(L'\n', begin)) != std::wstring::npos; begin = end + 1)
         lines.push_back(text.substr(begin, end - begin));
     lines.push_back(text.substr(begin));
     return lines;
 }
 
 // Breaks a line at blanks so that no row is wider than limit, as far as its words allow.
-void Wrap(const std::string& line, double limit, const TextFace& face, std::vector<std::string>& rows) {
-    size_t begin = 0, fits = std::string::npos;
-    for (size_t blank = line.find(' '); blank != std::string::npos; blank = line.find(' ', blank + 1)) {
-        if (fits != std::string::npos &&
-            face.Width(std::string_view(line).substr(begin, blank - begin)) > limit) {
+void Wrap(const std::wstring& line, double limit, const TextFace& face, std::vector<std::wstring>& rows) {
+    size_t begin = 0, fits = std::wstring::npos;
+    for (size_t blank = line.find(L' '); blank != std::wstring::npos; blank = line.find(L' ', blank + 1)) {
+        if (fits != std::wstring::npos &&
+            face.Width(std::wstring_view(line).substr(begin, blank - begin)) > limit) {
             rows.push_back(line.substr(begin, fits - begin));
             begin = fits + 1;
         }
         fits = blank;
     }
-    if (fits != std::string::npos && fits >= begin &&
-        face.Width(std::string_view(line).substr(begin)) > limit) {
+    if (fits != std::wstring::npos && fits >= begin &&
+        face.Width(std::wstring_view(line).substr(begin)) > limit) {
         rows.push_back(line.substr(begin, fits - begin));
         begin = fits + 1;
     }
@@ -73,19 +73,19 @@ void TextGraphic::LayOut() const {
     if (hasLayout_ && laidOut_ == state) return;
     laidOut_ = state;
     hasLayout_ = true;
-    std::string text = state.text;
-    if (state.style & kTextAllCaps) ::CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    std::wstring text = state.text;
+    if (state.style & kTextAllCaps) ::CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
     const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
     const double unit = state.height * state.widthFactor;
-    std::vector<std::string> texts;
-    for (const std::string& line : SplitLines(text)) {
+    std::vector<std::wstring> texts;
+    for (const std::wstring& line : SplitLines(text)) {
         if (state.wrapWidth > 0 && unit > 0)
             Wrap(line, state.wrapWidth / unit, face, texts);
         else
             texts.push_back(line);
     }
     rows_.clear();
-    for (std::string& row : texts) {
+    for (std::wstring& row : texts) {
         const double width = face.Width(row);
         rows_.push_back({std::move(row), {}, width});
     }

@@ -22,7 +22,7 @@ enum : uint16_t { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 enum class TextAnchor : uint8_t { Baseline, Bottom, Middle, Top };
 
 struct TextState {
-    std::string text; // 8-bit, Windows code page; lines end with '\n'
+    std::wstring text; // UTF-16; lines end with '\n'
     std::string font; // face name; empty is the default face
     Vec3 position;
     Vec3 along{1, 0, 0}; // direction of the baseline, length 1
@@ -59,7 +59,7 @@ public:
 private:
     // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
     struct Row {
-        std::string text;
+        std::wstring text;
         Point origin;
         double width;
     };

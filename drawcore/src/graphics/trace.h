@@ -36,7 +36,7 @@ struct BrushUse {
 // One row of text. The matrix takes its box to the sink: x from 0 to width along the baseline, y from 0 to 1 from the
 // baseline to the height of a capital letter.
 struct TextRow {
-    std::string_view text;
+    std::wstring_view text;
     const TextFace* face = nullptr;
     Matrix matrix;
     double width = 0;

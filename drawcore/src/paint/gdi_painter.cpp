@@ -208,7 +208,7 @@ void GdiPainter::DrawRow(const TextRow& row) {
     ::SelectObject(dc_, row.face->Font());
     ::SetTextAlign(dc_, TA_LEFT | TA_BASELINE);
     ::SetTextColor(dc_, Seen(row.color));
-    ::TextOutA(dc_, 0, 0, row.text.data(), static_cast<int>(row.text.size()));
+    ::TextOutW(dc_, 0, 0, row.text.data(), static_cast<int>(row.text.size()));
     ::ModifyWorldTransform(dc_, nullptr, MWT_IDENTITY);
     ::SetGraphicsMode(dc_, mode);
 }

@@ -1,0 +1,46 @@
+#include "drawcore/src/database/encoding.h"
+
+#include <cstdio>
+
+#include <windows.h>
+
+namespace drawcore {
+
+namespace {
+
+std::wstring Utf16(std::string_view text, UINT page) {
+    const int size = static_cast<int>(text.size());
+    std::wstring wide(text.size(), L'\0'); // a byte makes one unit at the most
+    wide.resize(static_cast<size_t>(::MultiByteToWideChar(page, 0, text.data(), size, wide.data(), size)));
+    return wide;
+}
+
+} // namespace
+
+std::wstring Utf16FromUtf8(std::string_view text) {
+    return Utf16(text, CP_UTF8);
+}
+
+std::wstring Utf16FromCodePage(std::string_view text) {
+    return Utf16(text, CP_ACP);
+}
+
+std::string CodePageFromUtf8(std::string_view text) {
+    if (::GetACP() == CP_UTF8) return std::string(text);
+    std::string narrow;
+    for (const wchar_t unit : Utf16FromUtf8(text)) {
+        char bytes[16];
+        BOOL lacks = FALSE;
+        const int size = ::WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &unit, 1, bytes, sizeof bytes,
+                                               nullptr, &lacks);
+        if (size > 0 && !lacks) {
+            narrow.append(bytes, static_cast<size_t>(size));
+        } else {
+            std::snprintf(bytes, sizeof bytes, "\\U+%04X", static_cast<unsigned>(unit));
+            narrow += bytes;
+        }
+    }
+    return narrow;
+}
+
+} // namespace drawcore
