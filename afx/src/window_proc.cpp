@@ -140,7 +140,7 @@ void AfxWindowLink::Subclass(CWnd* wnd, HWND hWnd) {
     const WNDPROC before = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc())));
     WNDPROC* super = wnd->GetSuperWndProcAddr();
-    if (*super == nullptr && before != AfxGetAfxWndProc()) *super = before;
+    if (*super == nullptr) *super = before != AfxGetAfxWndProc() ? before : ProcedureWithoutObject(hWnd);
 }
 
 void AfxHookWindowCreate(CWnd* pWnd) {
