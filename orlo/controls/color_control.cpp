@@ -8,6 +8,7 @@
 
 #include "orlo/controls/color_order.h"
 #include "orlo/controls/color_swatch.h"
+#include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/strings.h"
@@ -111,7 +112,7 @@ int CColorControl::FindColor(DWORD dwColor) {
 }
 
 int CColorControl::AddControlItem(const char* pszItem) {
-    const ControlFill* const filling = ControlFill::Of(m_hWnd);
+    const Filling* const filling = Filling::Of(m_hWnd);
     if (filling && filling->ItemsInFinalOrder()) return InsertString(-1, pszItem);
 
     char text[kItemTextSize];
@@ -125,7 +126,7 @@ int CColorControl::AddControlItem(const char* pszItem) {
 }
 
 void CColorControl::FillControl(WPARAM, LPARAM pFill) {
-    ControlFill filling(m_hWnd, ControlFill::Items::InFinalOrder);
+    const Filling filling(m_hWnd, Filling::Items::InFinalOrder);
     if (!BeginFill(*this, pFill)) return;
 
     for (const Entry& entry : SortedColors(m_pTable)) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "orlo/controls/filling.h"
 #include "orlo/controls/table_control.h"
 
 namespace {
@@ -89,7 +90,7 @@ int CComboControl::AddControlItem(const char* text) {
 }
 
 void CComboControl::FillControl(WPARAM, LPARAM lParam) {
-    ControlFill filling(m_hWnd);
+    const Filling filling(m_hWnd);
     if (!BeginFill(*this, lParam)) return;
     ForEachTableItem(m_pTable, [this](ItemText& text) { AddControlItem(text.c_str()); });
     SetCurSel(FindItem(m_nSelected));

@@ -2,6 +2,7 @@
 
 #include "orlo/controls/line_style_control_l.h"
 
+#include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/line_style_item.h"
 #include "orlo/controls/table_control.h"
@@ -41,7 +42,7 @@ int CLineStyleControlL::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 }
 
 void CLineStyleControlL::FillControl(WPARAM, LPARAM lParam) {
-    ControlFill filling(m_hWnd);
+    const Filling filling(m_hWnd);
     const bool hasTable = BeginFill(*this, lParam);
     AttachSample(m_pGraphic, m_pViewport, m_pTable,
                  [this] { return MakeListLineSample(WindowWidth(m_hWnd)); });

@@ -3,6 +3,7 @@
 #include "orlo/controls/list_control.h"
 
 #include "orlo/controls/combo_control.h"
+#include "orlo/controls/filling.h"
 #include "orlo/controls/table_control.h"
 
 WNDPROC CListControl::lpfnSuperWndProc = nullptr;
@@ -42,7 +43,7 @@ unsigned long CListControl::GetControlItem(int index, char* text) {
 }
 
 void CListControl::FillControl(WPARAM, LPARAM lParam) {
-    ControlFill filling(m_hWnd);
+    const Filling filling(m_hWnd);
     if (!BeginFill(*this, lParam)) return;
     ForEachTableItem(m_pTable, [this](ItemText& text) { AddString(text.c_str()); });
     SetCurSel(FindItem(m_nSelected));

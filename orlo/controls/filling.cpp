@@ -1,0 +1,40 @@
+// The scope of one filling of a control.
+
+#include "orlo/controls/filling.h"
+
+#include "orlo/controls/text_height.h"
+
+namespace {
+
+// Innermost filling. Controls live on one thread, and a filling of one control may set off that of another.
+Filling* g_current = nullptr;
+
+} // namespace
+
+Filling::Filling(HWND window, Items items) : window_(window), items_(items), outer_(g_current) {
+    g_current = this;
+    ::SendMessageA(window, WM_SETREDRAW, FALSE, 0);
+}
+
+Filling::~Filling() {
+    g_current = outer_;
+    ::SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
+    if (window_) ::InvalidateRect(window_, nullptr, TRUE); // null would mean every window
+}
+
+Filling* Filling::Of(HWND window) {
+    for (Filling* fill = g_current; fill; fill = fill->outer_) {
+        if (fill->window_ == window) return fill;
+    }
+    return nullptr;
+}
+
+int Filling::TextHeight() {
+    if (!textHeight_) textHeight_ = GetOwnerDrawFixedTextHeight(window_);
+    return textHeight_;
+}
+
+int RowTextHeight(HWND window) {
+    Filling* const fill = Filling::Of(window);
+    return fill ? fill->TextHeight() : GetOwnerDrawFixedTextHeight(window);
+}
