@@ -17,6 +17,14 @@ BOOL CALLBACK CountWindow(HWND window, LPARAM count) {
     return TRUE;
 }
 
+#ifdef _WIN64
+const char* ProcessBlock() {
+    using Function = const char*(WINAPI*)();
+    const auto function = ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "RtlGetCurrentPeb");
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(function))();
+}
+#endif
+
 } // namespace
 
 int GdiObjectCount() {
@@ -28,10 +36,11 @@ int GdiObjectCount() {
         unsigned long long user;
     };
     constexpr int kEntries = 0x4000;
-    const char* const peb = *reinterpret_cast<char**>(reinterpret_cast<char*>(NtCurrentTeb()) + 0x60);
+    const char* const peb = ProcessBlock();
     const Entry* const entries = *reinterpret_cast<Entry* const*>(peb + 0xF8);
     int count = 0;
-    for (int i = 0; i < kEntries; ++i) count += entries[i].type != 0;
+    for (int i = 0; i < kEntries; ++i)
+        count += entries[i].type != 0;
     return count;
 #else
     return static_cast<int>(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
@@ -41,6 +50,7 @@ int GdiObjectCount() {
 int UserObjectCount() {
     int count = 0;
     ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
-    for (UINT_PTR handle = 0x10; handle <= 0xFFFF; ++handle) count += ::IsMenu(reinterpret_cast<HMENU>(handle)) != 0;
+    for (UINT_PTR handle = 0x10; handle <= 0xFFFF; ++handle)
+        count += ::IsMenu(reinterpret_cast<HMENU>(handle)) != 0;
     return count;
 }

@@ -2,7 +2,8 @@
 
 #include "support/pixels.h"
 
-Pixels::Pixels(int width, int height) : m_width(width), m_height(height), m_dc(::CreateCompatibleDC(nullptr)) {
+Pixels::Pixels(int width, int height)
+    : m_width(width), m_height(height), m_dc(::CreateCompatibleDC(nullptr)) {
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     void* bits = nullptr;
@@ -38,13 +39,15 @@ int Pixels::Count(const RECT& rect, COLORREF color) const {
 int Pixels::CountWhere(const RECT& rect, const std::function<bool(COLORREF)>& is) const {
     int count = 0;
     for (int y = rect.top; y < rect.bottom; ++y) {
-        for (int x = rect.left; x < rect.right; ++x) count += is(At(x, y));
+        for (int x = rect.left; x < rect.right; ++x)
+            count += is(At(x, y));
     }
     return count;
 }
 
 int Pixels::ChangesAlongRow(int y, int left, int right, COLORREF color) const {
     int changes = 0;
-    for (int x = left + 1; x < right; ++x) changes += (At(x, y) == color) != (At(x - 1, y) == color);
+    for (int x = left + 1; x < right; ++x)
+        changes += (At(x, y) == color) != (At(x - 1, y) == color);
     return changes;
 }

@@ -1,0 +1,304 @@
+// The colour control: the order of its list, its swatches by pixel, and what filling and drawing cost.
+
+#include "control_dialog.h"
+
+#include <memory>
+#include <random>
+
+#include "orlo/controls/color_control.h"
+#include "orlo/controls/color_order.h"
+#include "orlo/controls/text_height.h"
+#include "support/object_counts.h"
+#include "support/pixels.h"
+
+namespace {
+
+class ColorControl : public ControlDialog {
+protected:
+    ColorControl()
+        : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLORS)) {}
+
+    // The table keeps the address of the colour.
+    void Add(const std::string& name, DWORD color) {
+        m_colors.push_back(std::make_unique<DWORD>(color));
+        ASSERT_NE(0, TableEntryAdd(m_table, name.c_str(), m_colors.back().get()));
+    }
+    void FillColors(DWORD selected = 0xFFFFFFFE) { Fill(IDC_COLORS, m_table, selected); }
+    std::vector<std::string> Items() {
+        std::vector<std::string> items;
+        for (int i = 0; i < m_control.GetCount(); ++i) {
+            CString text;
+            m_control.GetLBText(i, text);
+            items.emplace_back(text);
+        }
+        return items;
+    }
+    DWORD Color(int index) {
+        char name[kItemTextSize];
+        return m_control.GetControlItem(index, name);
+    }
+
+    std::vector<std::unique_ptr<DWORD>> m_colors;
+    TableStruct* m_table;
+    CColorControl& m_control;
+};
+
+TEST_F(ColorControl, ListsColorsInTheirOrderAndLaterOnesOfAColorFirst) {
+    Add("Red", RGB(255, 0, 0));
+    Add("White", RGB(255, 255, 255));
+    Add("Blue", RGB(0, 0, 255));
+    Add("Also blue", RGB(0, 0, 255));
+    Add("No color", 0x01FF0000);
+    Add("Black", 0);
+    m_control.m_bExtraEntries = 0;
+    FillColors(RGB(0, 0, 255));
+    const std::vector<std::string> expected = {"00000000\tBlack", "00FFFFFF\tWhite", "00FF0000\tAlso blue",
+                                               "00FF0000\tBlue", "000000FF\tRed"};
+    EXPECT_EQ(expected, Items());
+    EXPECT_EQ(2, m_control.GetCurSel());
+}
+
+// The list that one sorting makes is the list that inserting one after the other makes.
+TEST_F(ColorControl, SortingIsInsertingOneByOne) {
+    std::mt19937 random(3);
+    for (int i = 0; i < 400; ++i)
+        Add("c" + std::to_string(i), random() & (i % 3 ? 0x070707 : 0xFFFFFF));
+    m_control.m_bExtraEntries = 0;
+    FillColors();
+    const std::vector<std::string> sorted = Items();
+    ASSERT_EQ(400u, sorted.size());
+
+    m_control.ResetContent();
+    for (size_t i = 0; i < m_colors.size(); ++i) {
+        char item[kItemTextSize];
+        std::snprintf(item, sizeof item, "%08lX\tc%d", *m_colors[i], static_cast<int>(i));
+        m_control.AddControlItem(item);
+    }
+    EXPECT_EQ(sorted, Items());
+}
+
+TEST_F(ColorControl, AnItemIsInsertedAheadOfTheExtraEntriesWhereItBelongs) {
+    Add("Dark", RGB(10, 10, 10));
+    Add("Light", RGB(200, 200, 200));
+    FillColors();
+    EXPECT_EQ(1, m_control.AddControlItem("00808080\tMiddle"));
+    EXPECT_EQ(RGB(0x80, 0x80, 0x80), Color(1));
+    EXPECT_EQ(0, m_control.AddControlItem("000A0A0A\tDark again")) << "ahead of its equal";
+}
+
+TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
+    Add("Red", RGB(255, 0, 0));
+    const struct { int extra, last, count; } rows[] = {{0, 0, 1}, {0, 1, 1}, {1, 0, 2}, {1, 1, 3}};
+    for (const auto& row : rows) {
+        m_control.m_bExtraEntries = row.extra;
+        m_control.EnableLastEntry(row.last);
+        FillColors(0xFFFFFFFD);
+        ASSERT_EQ(row.count, m_control.GetCount());
+        EXPECT_EQ(row.extra ? 1 : -1, m_control.GetCurSel());
+        if (row.count == 1) continue;
+        char name[kItemTextSize], host[128] = "";
+        DrawCoreLoadString(kStringByLayer, host, sizeof host);
+        EXPECT_EQ(0xFFFFFFFD, m_control.GetControlItem(1, name));
+        EXPECT_STREQ(host, name);
+        EXPECT_EQ(row.last ? 0xFFFFFFFB : 0u, Color(2));
+    }
+}
+
+TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
+    Add("Red", RGB(255, 0, 0));
+    m_control.AddString("FFFFFFFF\tnever found");
+    EXPECT_EQ(-1, m_control.FindColor(0xFFFFFFFF));
+    FillColors(0xFFFFFFFF);
+    EXPECT_EQ(-1, m_control.GetCurSel());
+    FillColors(RGB(1, 2, 3));
+    EXPECT_EQ(-1, m_control.GetCurSel());
+    EXPECT_EQ(RGB(1, 2, 3), m_control.m_nSelected);
+}
+
+// A class of the host that has a say in what is listed.
+class FilteredColors : public CColorControl {
+public:
+    FilteredColors() : CColorControl(0) {}
+    int AddControlItem(const char* item) override {
+        return std::string(item).find("hidden") == std::string::npos ? CColorControl::AddControlItem(item)
+                                                                     : -1;
+    }
+};
+
+TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
+    Add("hidden red", RGB(255, 0, 0));
+    Add("blue", RGB(0, 0, 255));
+    Add("grey", RGB(9, 9, 9));
+    FilteredColors filtered;
+    ASSERT_TRUE(
+        filtered.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
+    const ControlFillRecord record = {m_table, 0, 0};
+    filtered.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    ASSERT_EQ(2, filtered.GetCount());
+    CString first;
+    filtered.GetLBText(0, first);
+    EXPECT_EQ("00090909\tgrey", std::string(first));
+}
+
+// ---- What it costs
+
+TEST_F(ColorControl, TenThousandColorsAreDrawnOnlyAsFarAsTheyShow) {
+    std::mt19937 random(5);
+    for (int i = 0; i < 10000; ++i)
+        Add("c" + std::to_string(i), random() & 0xFFFFFF);
+    m_dialog.ShowWindow(SW_SHOW);
+    Pump();
+    m_dialog.drawn = m_dialog.measured = 0;
+    FillColors();
+    Pump();
+    EXPECT_EQ(10001, m_control.GetCount());
+    EXPECT_GE(2, m_dialog.drawn) << "at most the closed field";
+    for (int i = 1; i < 10000; ++i)
+        ASSERT_LE(CompareHSVforRGBs(Color(i - 1), Color(i)), 0);
+
+    m_control.SizeDropDown();
+    m_dialog.drawn = 0;
+    m_control.ShowDropDown();
+    Pump();
+    const int rows = 320 / GetOwnerDrawFixedTextHeight(m_control.m_hWnd);
+    EXPECT_LE(rows / 2, m_dialog.drawn);
+    EXPECT_GE(3 * rows, m_dialog.drawn);
+    m_control.ShowDropDown(FALSE);
+}
+
+// ---- Drawing, by pixel
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+const RECT kRow = {0, 20, 100, 36};    // of the list
+const RECT kField = {10, 20, 110, 36}; // closed
+
+class Swatch : public ColorControl {
+protected:
+    void Draw(UINT item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0) {
+        m_pixels.Clear(kUntouched);
+        DRAWITEMSTRUCT request = {ODT_COMBOBOX,     IDC_COLORS,    item, action, state,
+                                  m_control.m_hWnd, m_pixels.DC(), rect, 0};
+        m_control.DrawItem(&request);
+    }
+    void DrawOnly(DWORD color, const char* name, const RECT& rect = kRow) {
+        m_control.ResetContent();
+        char item[kItemTextSize];
+        std::snprintf(item, sizeof item, "%08lX\t%s", color, name);
+        m_control.AddString(item);
+        Draw(0, rect);
+    }
+    static RECT Middle(const RECT& rect) {
+        return {rect.left + 20, rect.top + 2, rect.right - 20, rect.bottom - 2};
+    }
+
+    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
+    Pixels m_pixels{120, 60};
+};
+
+TEST_F(Swatch, ColorFillsTheRowAndTheNameContrasts) {
+    const struct {
+        COLORREF color, text;
+    } rows[] = {{RGB(0, 0, 250), kWhite},
+                {RGB(5, 5, 5), kWhite},
+                {RGB(250, 250, 0), kBlack},
+                {RGB(128, 128, 128), kBlack},
+                {RGB(127, 127, 129), kWhite}};
+    for (const auto& row : rows) {
+        DrawOnly(row.color, "MMMM");
+        EXPECT_EQ(row.color, m_pixels.At(1, 21));
+        EXPECT_EQ(row.color, m_pixels.At(98, 34));
+        EXPECT_LT(10, m_pixels.Count(Middle(kRow), row.text)) << std::hex << row.color;
+        EXPECT_EQ(kUntouched, m_pixels.At(50, 19));
+        EXPECT_EQ(kUntouched, m_pixels.At(50, 36));
+    }
+}
+
+TEST_F(Swatch, NameStandsInTheMiddleAndBeginsAtTheLeftIfTooWide) {
+    DrawOnly(RGB(250, 250, 0), "II");
+    const RECT left = {0, 20, 40, 36}, right = {60, 20, 100, 36};
+    EXPECT_EQ(0, m_pixels.Count(left, kBlack));
+    EXPECT_EQ(0, m_pixels.Count(right, kBlack));
+    DrawOnly(RGB(250, 250, 0), "IWWWWWWWWWWWWWWWWWWWWWWWW");
+    const RECT start = {0, 20, 8, 36};
+    EXPECT_LT(0, m_pixels.Count(start, kBlack));
+}
+
+TEST_F(Swatch, WhiteHasABlackFrame) {
+    DrawOnly(kWhite, "");
+    for (const POINT at : {POINT{50, 19}, POINT{50, 35}, POINT{99, 28}})
+        EXPECT_EQ(kBlack, m_pixels.At(at.x, at.y)) << at.x << "," << at.y;
+    EXPECT_EQ(kWhite, m_pixels.At(50, 28));
+}
+
+TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
+    DrawOnly(0xFFFFFFFD, "");
+    char host[128] = "";
+    ASSERT_LT(0, DrawCoreLoadString(kStringByLayer, host, sizeof host));
+    EXPECT_EQ(kBlack, m_pixels.At(50, 21)) << "frame inside the row";
+    EXPECT_EQ(kWhite, m_pixels.At(50, 20));
+    const RECT inside = {3, 23, 97, 33};
+    EXPECT_LT(5, m_pixels.Count(inside, kBlack)) << "the host's text";
+}
+
+TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
+    FillColors(0x00123456);
+    Draw(static_cast<UINT>(-1), kField);
+    EXPECT_EQ(RGB(0x56, 0x34, 0x12), m_pixels.At(12, 22));
+    EXPECT_LT(10, m_pixels.Count(Middle(kField), kWhite)) << "its numbers";
+    EXPECT_EQ(kWhite, m_pixels.At(50, 18)) << "the border of the field is covered";
+    EXPECT_EQ(kUntouched, m_pixels.At(50, 17));
+}
+
+TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
+    for (const DWORD none : {0xFFFFFFFEul, 0xFFFFFFFFul}) {
+        FillColors(none);
+        Draw(static_cast<UINT>(-1), kField);
+        EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite));
+    }
+}
+
+TEST_F(Swatch, OnlyAWholeRequestDraws) {
+    Add("Red", RGB(255, 0, 0));
+    FillColors();
+    const RECT all = {0, 0, 120, 60};
+    Draw(0, kRow, ODA_SELECT, ODS_SELECTED);
+    EXPECT_EQ(120 * 60, m_pixels.Count(all, kUntouched)) << "there is no selected look";
+    Draw(0, kRow, ODA_SELECT | ODA_FOCUS, ODS_FOCUS);
+    EXPECT_EQ(120 * 60, m_pixels.Count(all, kUntouched));
+    Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
+    EXPECT_NE(120 * 60, m_pixels.Count(all, kUntouched)) << "the focus rectangle";
+    EXPECT_EQ(kUntouched, m_pixels.At(50, 28));
+
+    Draw(0, kRow, ODA_DRAWENTIRE, ODS_FOCUS);
+    EXPECT_LT(10, m_pixels.ChangesAlongRow(20, 0, 100, RGB(255, 0, 0)));
+    Draw(0, kField, ODA_DRAWENTIRE, ODS_FOCUS);
+    EXPECT_EQ(0, m_pixels.ChangesAlongRow(20, 10, 110, RGB(255, 0, 0)))
+        << "no focus rectangle in the closed field";
+}
+
+TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {
+    Add("Red", RGB(255, 0, 0));
+    Add("White", kWhite);
+    FillColors();
+    const HDC dc = m_pixels.DC();
+    ::SetTextColor(dc, RGB(9, 8, 7));
+    ::SetBkColor(dc, RGB(7, 8, 9));
+    ::SetBkMode(dc, OPAQUE);
+    const HGDIOBJ before[] = {::GetCurrentObject(dc, OBJ_PEN), ::GetCurrentObject(dc, OBJ_BRUSH),
+                              ::GetCurrentObject(dc, OBJ_FONT)};
+    int objects = 0;
+    for (int round = 0; round < 200; ++round) {
+        if (round == 20) objects = GdiObjectCount();
+        for (UINT item = 0; item < 3; ++item)
+            Draw(item, kRow, ODA_DRAWENTIRE, ODS_FOCUS);
+    }
+    EXPECT_EQ(objects, GdiObjectCount());
+    EXPECT_EQ(RGB(9, 8, 7), ::GetTextColor(dc));
+    EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
+    EXPECT_EQ(before[0], ::GetCurrentObject(dc, OBJ_PEN));
+    EXPECT_EQ(before[1], ::GetCurrentObject(dc, OBJ_BRUSH));
+    EXPECT_EQ(before[2], ::GetCurrentObject(dc, OBJ_FONT));
+}
+
+} // namespace

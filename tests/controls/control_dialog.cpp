@@ -1,0 +1,8 @@
+// Message map of the counting dialog.
+
+#include "control_dialog.h"
+
+BEGIN_MESSAGE_MAP(CountingDialog, CDialog)
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+END_MESSAGE_MAP()

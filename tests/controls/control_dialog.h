@@ -1,0 +1,88 @@
+// A dialog with controls of the library, in an application whose main window is the host.
+#pragma once
+
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "controls.h"
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/list_control.h"
+#include "orlo/frame/entry.h"
+#include "support/test_drawing.h"
+
+// Gets what controls tell the application.
+class HostWindow : public CWnd {
+public:
+    struct Notification {
+        unsigned kind, code;
+        HWND control;
+    };
+
+    HostWindow() {
+        PropPageInit();
+        CWnd::CreateEx(0, AfxRegisterWndClass(0), "Host", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+        AfxGetThread()->m_pMainWnd = this;
+    }
+    ~HostWindow() override {
+        AfxGetThread()->m_pMainWnd = nullptr;
+        DestroyWindow();
+    }
+    int Count(unsigned code) const {
+        int count = 0;
+        for (const Notification& n : notifications)
+            count += n.code == code;
+        return count;
+    }
+
+    std::vector<Notification> notifications;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        notifications.push_back({LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+        return TRUE;
+    }
+};
+
+// Counts what the controls ask it to draw and to measure.
+class CountingDialog : public CDialog {
+public:
+    int drawn = 0, measured = 0;
+
+protected:
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT item) {
+        ++drawn;
+        CDialog::OnDrawItem(nIDCtl, item);
+    }
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT item) {
+        ++measured;
+        CDialog::OnMeasureItem(nIDCtl, item);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+class ControlDialog : public ::testing::Test {
+protected:
+    explicit ControlDialog(UINT nIDTemplate = IDD_DRAWN) { EXPECT_TRUE(m_dialog.Create(nIDTemplate)); }
+    ~ControlDialog() override { m_dialog.DestroyWindow(); }
+
+    HWND Control(int id) const { return ::GetDlgItem(m_dialog.m_hWnd, id); }
+    template <class Object>
+    Object& Get(int id) const {
+        return *static_cast<Object*>(CWnd::FromHandlePermanent(Control(id)));
+    }
+    void Fill(int id, TableStruct* table, unsigned selected = 0) {
+        const ControlFillRecord record = {table, 0, selected};
+        ::SendMessageA(Control(id), kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    static void Pump() {
+        MSG message;
+        while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageA(&message);
+    }
+
+    HostWindow m_host;
+    TestDrawing m_drawing;
+    CountingDialog m_dialog;
+};

@@ -1,0 +1,136 @@
+// How windows of the two classes become controls, announce themselves and go.
+
+#include "control_dialog.h"
+
+#include <drawcore/census.h>
+
+#include "orlo/controls/color_control.h"
+#include "orlo/controls/line_style_control_c.h"
+#include "orlo/controls/line_style_control_l.h"
+
+namespace {
+
+class Factory : public ControlDialog {
+protected:
+    Factory() : ControlDialog(IDD_FACTORY) {}
+    const CRuntimeClass* ClassOf(int id) const {
+        const CWnd* const object = CWnd::FromHandlePermanent(Control(id));
+        return object ? object->GetRuntimeClass() : nullptr;
+    }
+};
+
+TEST_F(Factory, TheIdentifierChoosesTheObject) {
+    for (const int id : {32004, 32017, 32020, 32026})
+        EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
+    for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
+        EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
+    EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlL), ClassOf(IDC_LINE_LIST));
+    EXPECT_EQ(1, Get<CColorControl>(32014).m_bExtraEntries);
+    EXPECT_EQ(0x7D04u, Get<CComboControl>(32020).m_nControlID) << "the kind, not the identifier";
+    EXPECT_EQ(0x7D15u, Get<CListControl>(IDC_LINE_LIST).m_nControlID);
+}
+
+TEST_F(Factory, OtherIdentifiersStayPlainControls) {
+    EXPECT_EQ(nullptr, ClassOf(IDC_PLAIN_COMBO));
+    EXPECT_EQ(nullptr, ClassOf(IDC_PLAIN_LIST));
+    const HWND combo = Control(IDC_PLAIN_COMBO), list = Control(IDC_PLAIN_LIST);
+    for (const char* item : {"one", "two"}) {
+        ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+        ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+    }
+    ::SendMessageA(combo, CB_SETCURSEL, 1, 0);
+    ::SendMessageA(list, LB_SETCURSEL, 1, 0);
+    char text[16] = "";
+    ::GetWindowTextA(combo, text, sizeof text);
+    EXPECT_STREQ("two", text);
+    EXPECT_EQ(1, ::SendMessageA(list, LB_GETCURSEL, 0, 0));
+
+    CComboBox object; // a dialog may attach an object of its own
+    ASSERT_TRUE(object.SubclassWindow(combo));
+    EXPECT_EQ(2, object.GetCount());
+    object.UnsubclassWindow();
+    EXPECT_EQ(2, ::SendMessageA(combo, CB_GETCOUNT, 0, 0));
+}
+
+TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
+    EXPECT_EQ(15, m_host.Count(kControlReady));
+    for (const HostWindow::Notification& n : m_host.notifications) {
+        const int id = ::GetDlgCtrlID(n.control);
+        EXPECT_EQ(id == IDC_LINE_LIST ? Get<CListControl>(id).m_nControlID : Get<CComboControl>(id).m_nControlID, n.kind);
+    }
+    m_dialog.DestroyWindow();
+    EXPECT_EQ(15, m_host.Count(kControlGone));
+}
+
+TEST(ControlLife, WithoutAnApplicationWindowNobodyIsTold) {
+    PropPageInit();
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_DRAWN));
+    EXPECT_TRUE(dialog.DestroyWindow());
+}
+
+TEST(ControlLife, TheClassesAreKnownToTheWholeProcess) {
+    PropPageInit();
+    for (const char* name : {"QXComboBox", "QXListBox"}) {
+        WNDCLASSA windowClass = {};
+        ASSERT_TRUE(::GetClassInfoA(::GetModuleHandleA(nullptr), name, &windowClass)) << name;
+        EXPECT_TRUE(windowClass.style & CS_GLOBALCLASS);
+    }
+}
+
+TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
+    DrawCoreCensus before = {}, after = {};
+    {
+        HostWindow host;
+        for (int i = 0; i < 3; ++i) {
+            if (i == 1) DrawCoreGetCensus(&before);
+            CDialog dialog;
+            ASSERT_TRUE(dialog.Create(IDD_FACTORY));
+            const HWND colors = ::GetDlgItem(dialog.m_hWnd, IDC_COLORS);
+            dialog.DestroyWindow();
+            EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(colors));
+        }
+    }
+    DrawCoreGetCensus(&after);
+    EXPECT_EQ(before.graphics, after.graphics);
+    EXPECT_EQ(before.viewports, after.viewports);
+    EXPECT_EQ(before.vertices, after.vertices);
+}
+
+TEST(ControlLife, ObjectsOfAProgramStay) {
+    HostWindow host;
+    CColorControl colors(0);
+    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
+                              CRect(0, 0, 100, 100), &host, 32005));
+    EXPECT_TRUE(colors.IsDialogCtrl());
+    EXPECT_EQ(static_cast<unsigned long>(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
+              colors.m_dwStyle & ~WS_CLIPSIBLINGS);
+    colors.DestroyWindow();
+    EXPECT_EQ(nullptr, colors.m_hWnd);
+    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &host, 1))
+        << "and can be used again";
+    colors.DialogCtrl(0);
+    EXPECT_FALSE(colors.IsDialogCtrl());
+}
+
+TEST(ControlLife, AControlBarsComboIsNoDialogControl) {
+    HostWindow host;
+    CWnd bar;
+    bar.CWnd::Create(nullptr, "", WS_CHILD, CRect(0, 0, 200, 40), &host, 0xE81B);
+    CColorControl colors(1);
+    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &bar, 1));
+    EXPECT_FALSE(colors.IsDialogCtrl());
+}
+
+TEST(ControlLife, TheFrameworkMakesControlsByName) {
+    for (CRuntimeClass* const made : {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC),
+                                      RUNTIME_CLASS(CLineStyleControlL)}) {
+        CObject* const object = made->CreateObject();
+        ASSERT_NE(nullptr, object);
+        EXPECT_EQ(made, object->GetRuntimeClass());
+        delete object;
+    }
+    EXPECT_EQ(nullptr, RUNTIME_CLASS(CComboControl)->m_pfnCreateObject) << "a base is not made by name";
+}
+
+} // namespace

@@ -1,0 +1,319 @@
+// The line style controls: what they offer, how a sample is scaled and drawn. One suite for combo and list.
+
+#include "control_dialog.h"
+
+#include <wtypes.h>
+
+#include <drawcore/census.h>
+#include <drawcore/linestyle.h>
+
+#include <cmath>
+
+#include "orlo/controls/line_style_control_c.h"
+#include "orlo/controls/line_style_control_l.h"
+#include "orlo/exchange/ddx_control.h"
+#include "support/object_counts.h"
+#include "support/pixels.h"
+
+namespace {
+
+// The controls with their sample in sight.
+template <class Base>
+class Seen : public Base {
+public:
+    using Base::Base;
+    GraphicStruct* Graphic() const { return this->m_pGraphic.get(); }
+    double Number(const char* property) const {
+        const PropertyTable* const table = GraphicGetVtbl(Graphic());
+        int32_t number = 0;
+        double value = -1.0;
+        if (table->PropLookup(Graphic(), &property, 1, 0, &number))
+            table->PropGet(Graphic(), number, VT_R8, &value);
+        return value;
+    }
+    double Width() const {
+        const ExtentsStruct* const extents = GraphicGetExtentsSel(Graphic(), 0);
+        return ExtentsGetX2(extents) - ExtentsGetX1(extents);
+    }
+};
+
+struct Combo {
+    using Control = Seen<CLineStyleControlC>;
+    static constexpr DWORD kStyle = WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
+    static constexpr const char* kClass = "ComboBox";
+    static constexpr const char* kName = "Combo";
+};
+struct List {
+    using Control = Seen<CLineStyleControlL>;
+    static constexpr DWORD kStyle = WS_CHILD | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
+    static constexpr const char* kClass = "ListBox";
+    static constexpr const char* kName = "List";
+};
+struct TwinName {
+    template <class Kind>
+    static std::string GetName(int) {
+        return Kind::kName;
+    }
+};
+
+const COLORREF kUntouched = RGB(1, 2, 3);
+const RECT kRow = {0, 20, 136, 42};
+
+template <class Kind>
+class LineStyles : public ::testing::Test {
+protected:
+    LineStyles() : m_table(m_drawing.Table("_LineStyles_")) { Make(200); }
+    ~LineStyles() override { m_control.DestroyWindow(); }
+
+    void Make(int width) { EXPECT_TRUE(m_control.Create(Kind::kStyle, CRect(0, 0, width, 100), &m_host, 1)); }
+    uint16_t Add(const char* name, std::initializer_list<double> pattern) {
+        return LineStyleAdd(m_table, name, nullptr, pattern.begin(), static_cast<int>(pattern.size()));
+    }
+    void Fill(unsigned selected = 0) {
+        const ControlFillRecord record = {m_table, 0, selected};
+        m_control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    int IndexOf(const char* name) {
+        char text[kItemTextSize];
+        for (int i = 0; i < m_control.GetCount(); ++i) {
+            m_control.GetControlItem(i, text);
+            if (std::string(text) == name) return i;
+        }
+        return -1;
+    }
+    void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
+        m_pixels.Clear(kUntouched);
+        DRAWITEMSTRUCT request = {
+            0, 1, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
+        m_control.DrawItem(&request);
+    }
+    // Pixels of the row that are neither background nor untouched.
+    int Ink() {
+        const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+        return m_pixels.CountWhere({0, 10, 150, 52},
+                                   [=](COLORREF c) { return c != window && c != kUntouched; });
+    }
+
+    HostWindow m_host;
+    TestDrawing m_drawing;
+    TableStruct* m_table;
+    typename Kind::Control m_control;
+    Pixels m_pixels{150, 60};
+};
+
+using Twins = ::testing::Types<Combo, List>;
+TYPED_TEST_SUITE(LineStyles, Twins, TwinName);
+
+TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
+    this->Add("$CONSTRUCTION", {});
+    this->Add("$AUXILIARY", {});
+    this->Add("$Auxiliary", {}); // taken already: the table does not mind case
+    const uint16_t dashed = this->Add("Dashed", {1.0, -0.5});
+    this->Fill(dashed);
+    EXPECT_EQ(-1, this->IndexOf("$CONSTRUCTION"));
+    EXPECT_EQ(-1, this->IndexOf("$AUXILIARY"));
+    EXPECT_EQ(this->IndexOf("Dashed"), this->m_control.GetCurSel());
+    char name[kItemTextSize], host[128] = "";
+    EXPECT_EQ(0xFFFEu, this->m_control.GetControlItem(this->m_control.GetCount() - 1, name))
+        << "the default item is last";
+    DrawCoreLoadString(kStringByLayer, host, sizeof host);
+    EXPECT_STREQ(host, name);
+
+    this->Fill(0xFFFE);
+    EXPECT_EQ(this->m_control.GetCount() - 1, this->m_control.GetCurSel());
+    this->Fill(0);
+    EXPECT_EQ(-1, this->m_control.GetCurSel());
+}
+
+struct ScaleRow {
+    const char* name;
+    std::vector<double> pattern;
+    double length; // of fifteen gaps; 0: the scale stays 1
+};
+
+TYPED_TEST(LineStyles, TheFirstGapIsAFifteenthOfTheSample) {
+    const ScaleRow rows[] = {
+        {"Solid", {}, 0},
+        {"OneDash", {1.0}, 0},
+        {"Dashed", {0.5, -0.25}, 3.75},
+        {"NoGap", {1, 2}, 2.5},
+        {"ZeroGapPassedOver", {1, 0, 1, -0.1}, 1.5},
+        {"GapFirst", {-2, 1, -0.1, 1}, 30},
+        {"EightItems", {1, 1, 1, 1, 1, 1, 1, -0.2}, 3},
+        {"SixtyFourItems", std::vector<double>(64, 1.0), 2.5},
+    };
+    for (const ScaleRow& row : rows)
+        LineStyleAdd(this->m_table, row.name, nullptr, row.pattern.data(),
+                     static_cast<int>(row.pattern.size()));
+    this->Fill();
+    for (const ScaleRow& row : rows) {
+        const int index = this->IndexOf(row.name);
+        ASSERT_LE(0, index) << row.name;
+        this->Draw(index);
+        const double expected = row.length != 0 ? this->m_control.Width() / row.length : 1.0;
+        EXPECT_NEAR(expected, this->m_control.Number("PenScale"), 1e-9) << row.name;
+    }
+}
+
+TYPED_TEST(LineStyles, DashesShowAsGapsInTheSample) {
+    this->Add("Dashed", {0.5, -0.5});
+    this->Add("Plain", {});
+    this->Fill();
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    const auto changes = [&](const char* name) {
+        this->Draw(this->IndexOf(name));
+        int most = 0;
+        for (int y = kRow.top; y < kRow.bottom; ++y)
+            most = std::max(most, this->m_pixels.ChangesAlongRow(y, kRow.left, kRow.right, window));
+        return most;
+    };
+    EXPECT_EQ(2, changes("Plain")) << "one stroke with a margin at either end";
+    EXPECT_LT(10, changes("Dashed"));
+    EXPECT_EQ(kUntouched, this->m_pixels.At(50, kRow.top - 1));
+}
+
+TYPED_TEST(LineStyles, SpecialValuesOfTheClosedFieldAreDrawnByName) {
+    const RECT field = {5, 20, 140, 42};
+    const struct {
+        unsigned value;
+        bool ink;
+    } rows[] = {{0, false}, {0xFFFF, false}, {0xFFFFFFFF, false}, {0xFFFE, true}, {0xFFFD, true}};
+    for (const auto& row : rows) {
+        this->Fill(row.value);
+        this->m_control.m_nSelected = row.value;
+        this->Draw(-1, ODA_DRAWENTIRE, 0, field);
+        EXPECT_EQ(row.ink, this->Ink() > 0) << row.value;
+    }
+}
+
+TYPED_TEST(LineStyles, WithoutATableOnlyTheBackgroundIsDrawn) {
+    const uint16_t dashed = this->Add("Dashed", {1, -1});
+    this->Fill(dashed);
+    const int item = this->IndexOf("Dashed");
+    this->m_control.m_pTable = nullptr;
+    this->Draw(item, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
+    EXPECT_EQ(0, this->Ink()) << "no frame and no focus either";
+    this->Draw(this->m_control.GetCount() - 1, ODA_DRAWENTIRE, 0);
+    EXPECT_LT(0, this->Ink()) << "a name needs no table";
+}
+
+TYPED_TEST(LineStyles, SelectionIsAFrameThatCanBeTakenAway) {
+    this->Add("Plain", {});
+    this->Fill();
+    const int item = this->IndexOf("Plain");
+    const COLORREF highlight = ::GetSysColor(COLOR_HIGHLIGHT);
+    const RECT all = {0, 0, 150, 60};
+    this->Draw(item, ODA_SELECT, ODS_SELECTED);
+    const int frame = this->m_pixels.Count(all, highlight);
+    EXPECT_LT(2 * 2 * (136 + 22) - 40, frame + 20);
+    EXPECT_EQ(150 * 60 - frame, this->m_pixels.Count(all, kUntouched)) << "nothing but the frame";
+    this->Draw(item, ODA_SELECT, 0);
+    EXPECT_EQ(frame, this->m_pixels.Count(all, ::GetSysColor(COLOR_WINDOW)));
+    this->Draw(item, ODA_FOCUS, ODS_FOCUS);
+    EXPECT_EQ(0, this->m_pixels.Count(all, highlight));
+    EXPECT_LT(this->m_pixels.Count(all, kUntouched), 150 * 60) << "the focus rectangle alone";
+
+    const RECT field = {5, 20, 140, 42};
+    this->Draw(item, ODA_FOCUS, ODS_SELECTED | ODS_FOCUS, field);
+    EXPECT_LT(100, this->m_pixels.Count(all, highlight)) << "the closed field is always drawn whole";
+}
+
+TYPED_TEST(LineStyles, ASubclassedWindowHasItsSampleWhenItIsFilled) {
+    CWnd window;
+    ASSERT_TRUE(window.CWnd::Create(TypeParam::kClass, "", TypeParam::kStyle, CRect(0, 0, 200, 100),
+                                    &this->m_host, 2));
+    const HWND handle = window.UnsubclassWindow();
+    typename TypeParam::Control control;
+    CDataExchange load(&this->m_host, FALSE);
+    DDX_Control(1, &load, 2, control);
+    EXPECT_EQ(nullptr, control.Graphic());
+    this->Add("Dashed", {1, -1});
+    const ControlFillRecord record = {this->m_table, 0, 0};
+    control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    ASSERT_NE(nullptr, control.Graphic());
+    EXPECT_NEAR(this->m_control.Width(), control.Width(), 1e-9) << "as if it had been made with the window";
+    EXPECT_EQ(handle, control.m_hWnd);
+    control.DestroyWindow();
+}
+
+TYPED_TEST(LineStyles, AnyWidthGivesASample) {
+    for (const int width : {0, 1, 19, 20, 3000}) {
+        this->m_control.DestroyWindow();
+        this->Make(width);
+        this->Add("Dashed", {1, -1});
+        this->Fill();
+        ASSERT_LT(0.0, this->m_control.Width()) << width;
+        this->Draw(this->IndexOf("Dashed"));
+        EXPECT_TRUE(std::isfinite(this->m_control.Number("PenScale")));
+    }
+}
+
+TYPED_TEST(LineStyles, TheDrawingMayCloseUnderTheControl) {
+    this->Add("Dashed", {1, -1});
+    this->Fill();
+    this->m_drawing.Close();
+    for (int i = 0; i < this->m_control.GetCount(); ++i)
+        this->Draw(i);
+    const ControlFillRecord none = {};
+    this->m_control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&none));
+    EXPECT_EQ(0, this->m_control.GetCount());
+    EXPECT_EQ(nullptr, GraphicGetDrawing(this->m_control.Graphic())) << "the sample has left the drawing";
+}
+
+TYPED_TEST(LineStyles, ManyPaintsKeepNothing) {
+    this->Add("Dashed", {1, -1});
+    this->Fill();
+    DrawCoreCensus before = {}, after = {};
+    int objects = 0;
+    for (int round = 0; round < 100; ++round) {
+        if (round == 10) {
+            objects = GdiObjectCount();
+            DrawCoreGetCensus(&before);
+        }
+        for (int i = 0; i < this->m_control.GetCount(); ++i)
+            this->Draw(i, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
+    }
+    DrawCoreGetCensus(&after);
+    EXPECT_EQ(objects, GdiObjectCount());
+    EXPECT_EQ(before.graphics, after.graphics);
+    EXPECT_EQ(before.viewports, after.viewports);
+}
+
+TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
+    HostWindow host;
+    TestDrawing drawing;
+    for (const int wanted : {0, 1}) {
+        CLineStyleControlC combo(wanted);
+        ASSERT_TRUE(combo.Create(Combo::kStyle, CRect(0, 0, 100, 100), &host, 1));
+        const ControlFillRecord record = {drawing.Table("_LineStyles_"), 0, 0xFFFE};
+        combo.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+        EXPECT_EQ(wanted ? combo.GetCount() - 1 : -1, combo.GetCurSel());
+        combo.DestroyWindow();
+    }
+}
+
+class DrawnDialog : public ControlDialog {};
+
+TEST_F(DrawnDialog, AListOfTwoThousandStylesAsksTheHostForTheVisibleRowsOnly) {
+    TableStruct* const table = m_drawing.Table("_LineStyles_");
+    const double pattern[] = {1.0, -0.5};
+    for (int i = 0; i < 2000; ++i)
+        LineStyleAdd(table, ("style " + std::to_string(i)).c_str(), nullptr, pattern, 2);
+    m_dialog.ShowWindow(SW_SHOW);
+    Pump();
+    m_dialog.drawn = 0;
+    Fill(IDC_LINE_LIST, table, 5);
+    Pump();
+    CRect client;
+    Get<CListControl>(IDC_LINE_LIST).GetClientRect(client);
+    EXPECT_LT(0, m_dialog.drawn);
+    EXPECT_GE(3 * (client.Height() / 22 + 1), m_dialog.drawn);
+}
+
+TEST_F(DrawnDialog, TheListHasItsOwnHeight) {
+    CRect rect;
+    Get<CListControl>(IDC_LINE_LIST).GetWindowRect(rect);
+    EXPECT_NEAR(136, rect.Height(), 22) << "whole rows";
+}
+
+} // namespace

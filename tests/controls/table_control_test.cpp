@@ -1,0 +1,231 @@
+// What the combo and the list of a host table have in common: filling, selecting, sizes. One suite for both.
+
+#include "control_dialog.h"
+
+#include "orlo/controls/color_control.h"
+
+namespace {
+
+// Bases made concrete: they show what they hold and draw nothing.
+class TableCombo : public CComboControl {
+public:
+    TableCombo() : CComboControl(0x7D99) {}
+    bool MakeIn(CWnd* parent) {
+        return Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 120, 24),
+                      parent, 1);
+    }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
+    void DrawItem(LPDRAWITEMSTRUCT) override {}
+    int Find(unsigned id) const { return FindItem(id); }
+    UINT rowHeight = 16;
+};
+
+class TableList : public CListControl {
+public:
+    TableList() : CListControl(0x7D98) {}
+    bool MakeIn(CWnd* parent) {
+        return Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 120, 80), parent, 1);
+    }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 16; }
+    void DrawItem(LPDRAWITEMSTRUCT) override {}
+    int Find(unsigned id) const { return FindItem(id); }
+};
+
+template <class Control>
+class TableControl : public ::testing::Test {
+protected:
+    TableControl() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")) {
+        EXPECT_TRUE(m_control.MakeIn(&m_host));
+    }
+    ~TableControl() override { m_control.DestroyWindow(); }
+
+    void Fill(TableStruct* table, unsigned selected) {
+        const ControlFillRecord record = {table, 0, selected};
+        m_control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    std::string Name(int index) {
+        char text[kItemTextSize] = "x";
+        m_control.GetControlItem(index, text);
+        return text;
+    }
+
+    HostWindow m_host;
+    TestDrawing m_drawing;
+    TableStruct* m_table;
+    Control m_control;
+};
+
+using Twins = ::testing::Types<TableCombo, TableList>;
+struct TwinName {
+    template <class Control>
+    static std::string GetName(int) {
+        return std::is_base_of<CComboBox, Control>::value ? "Combo" : "List";
+    }
+};
+TYPED_TEST_SUITE(TableControl, Twins, TwinName);
+
+TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
+    const uint16_t zinc = TableEntryAdd(this->m_table, "Zinc", nullptr);
+    const uint16_t amber = TableEntryAdd(this->m_table, "Amber", nullptr);
+    this->Fill(this->m_table, amber);
+    ASSERT_EQ(2, this->m_control.GetCount());
+    char text[kItemTextSize];
+    EXPECT_EQ(zinc, this->m_control.GetControlItem(0, text));
+    EXPECT_STREQ("Zinc", text);
+    EXPECT_EQ(1, this->m_control.GetCurSel());
+    EXPECT_EQ(1, this->m_control.Find(amber));
+    EXPECT_EQ(amber, this->m_control.m_nSelected);
+
+    this->Fill(this->m_table, zinc);
+    EXPECT_EQ(2, this->m_control.GetCount()) << "filled anew, not added to";
+    EXPECT_EQ(0, this->m_control.GetCurSel());
+}
+
+TYPED_TEST(TableControl, SelectsNothingForWhatIsNoEntry) {
+    TableEntryAdd(this->m_table, "Zinc", nullptr);
+    this->m_control.AddString("00000000\tZero");
+    this->m_control.AddString("0000FFFF\tMixed");
+    EXPECT_EQ(-1, this->m_control.Find(0)) << "whatever the list holds";
+    EXPECT_EQ(-1, this->m_control.Find(0xFFFF));
+    for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
+        this->Fill(this->m_table, none);
+        EXPECT_EQ(-1, this->m_control.GetCurSel()) << none;
+    }
+}
+
+TYPED_TEST(TableControl, IsEmptiedByANullTableOrNoRecord) {
+    const uint16_t id = TableEntryAdd(this->m_table, "Zinc", nullptr);
+    this->Fill(this->m_table, id);
+    this->Fill(nullptr, id);
+    EXPECT_EQ(0, this->m_control.GetCount());
+    EXPECT_EQ(nullptr, this->m_control.m_pTable);
+    this->Fill(this->m_table, id);
+    EXPECT_EQ(0, this->m_control.SendMessage(kFillMessage, 0, 0));
+    EXPECT_EQ(0, this->m_control.GetCount());
+    EXPECT_EQ(nullptr, this->m_control.m_pTable);
+}
+
+TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
+    this->m_control.AddString(("00000007\t" + std::string(500, 'n')).c_str());
+    struct {
+        char text[kItemTextSize];
+        char behind[64];
+    } buffer;
+    std::fill(std::begin(buffer.behind), std::end(buffer.behind), '#');
+    EXPECT_EQ(7u, this->m_control.GetControlItem(0, buffer.text));
+    EXPECT_EQ(std::string(64, '#'), std::string(buffer.behind, sizeof buffer.behind));
+    EXPECT_EQ(std::string(kItemTextSize - 1 - kKeySize, 'n'), std::string(buffer.text));
+    EXPECT_EQ(0u, this->m_control.GetControlItem(1, buffer.text));
+    EXPECT_STREQ("", buffer.text);
+}
+
+TYPED_TEST(TableControl, LongNamesAreCutNotOverrun) {
+    TableEntryAdd(this->m_table, std::string(250, 'n').c_str(), nullptr);
+    this->Fill(this->m_table, 0);
+    ASSERT_GE(1, this->m_control.GetCount());
+    EXPECT_GE(kEntryNameSize, static_cast<int>(this->Name(0).size()));
+}
+
+TYPED_TEST(TableControl, SurvivesTheEndOfItsDrawing) {
+    const uint16_t id = TableEntryAdd(this->m_table, "Zinc", nullptr);
+    this->Fill(this->m_table, id);
+    this->m_drawing.Close();
+    this->Fill(this->m_table, id);
+    EXPECT_EQ(0, this->m_control.GetCount()) << "the table answers as an empty one";
+}
+
+TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
+    for (int i = 0; i < 50; ++i)
+        TableEntryAdd(this->m_table, ("entry " + std::to_string(i)).c_str(), nullptr);
+    this->m_host.SetWindowPos(nullptr, 0, 0, 200, 200, SWP_SHOWWINDOW);
+    this->m_control.ShowWindow(SW_SHOW);
+    this->m_control.UpdateWindow();
+    this->Fill(this->m_table, 1);
+    RECT update = {};
+    EXPECT_TRUE(::GetUpdateRect(this->m_control.m_hWnd, &update, FALSE)) << "painted once, afterwards";
+}
+
+// ---- What only the combo does
+
+struct DropRow {
+    const char* name;
+    int items;
+    UINT rowHeight;
+    int rows;
+};
+
+const DropRow kDrops[] = {
+    {"FewItems", 3, 16, 3}, {"MoreThanFit", 40, 16, 18}, {"None", 0, 16, 0}, {"HighRows", 4, 100, 2}};
+
+class DropDown : public TableControl<TableCombo>, public ::testing::WithParamInterface<DropRow> {};
+
+TEST_P(DropDown, ShowsWholeRowsUpTo320Pixels) {
+    const DropRow& row = GetParam();
+    m_control.rowHeight = row.rowHeight;
+    for (int i = 0; i < row.items; ++i)
+        m_control.AddString("item");
+    CRect closed;
+    m_control.GetWindowRect(closed);
+    const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + closed.Height();
+    m_control.SizeDropDown();
+    EXPECT_EQ(row.rows * static_cast<int>(row.rowHeight) + frame, m_control.m_nDropHeight);
+    EXPECT_GE(320, m_control.m_nDropHeight);
+    m_control.SizeDropDown();
+    CRect again;
+    m_control.GetWindowRect(again);
+    EXPECT_EQ(closed.Width(), again.Width());
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, DropDown, ::testing::ValuesIn(kDrops),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// The parent of a clicked combo.
+class ClickedParent : public CWnd {
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_LBUTTONDOWN) clicks.push_back(CPoint(LOWORD(lParam), HIWORD(lParam)));
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    std::vector<CPoint> clicks;
+};
+
+TEST(ComboClick, OnlyTheButtonOpensTheList) {
+    HostWindow host;
+    ClickedParent parent;
+    ASSERT_TRUE(parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300,
+                                      nullptr, nullptr));
+    TableCombo combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
+                             CRect(30, 40, 150, 140), &parent, 1));
+    combo.AddString("item");
+    combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 5));
+    EXPECT_FALSE(combo.GetDroppedState());
+    ASSERT_EQ(1u, parent.clicks.size());
+    EXPECT_EQ(CPoint(40, 45), parent.clicks[0]) << "in the parent's coordinates";
+
+    CRect client;
+    combo.GetClientRect(client);
+    combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 16, 5));
+    EXPECT_TRUE(combo.GetDroppedState());
+    EXPECT_EQ(1u, parent.clicks.size());
+    combo.ShowDropDown(FALSE);
+    combo.DestroyWindow();
+    parent.DestroyWindow();
+}
+
+TEST(ControlLookup, FindsANameInTheControlsTable) {
+    HostWindow host;
+    TestDrawing drawing;
+    TableStruct* const table = DrawingAddTable(drawing.Get(), "_Test_");
+    const uint16_t id = TableEntryAdd(table, "Walls", nullptr);
+    TableCombo combo;
+    ASSERT_TRUE(combo.MakeIn(&host));
+    EXPECT_EQ(0u, LookupControlItem(combo.m_hWnd, "Walls")) << "no table yet";
+    combo.m_pTable = table;
+    EXPECT_EQ(id, LookupControlItem(combo.m_hWnd, "Walls"));
+    EXPECT_EQ(0u, LookupControlItem(combo.m_hWnd, "Doors"));
+    EXPECT_EQ(0u, LookupControlItem(host.m_hWnd, "Walls")) << "an object of another class";
+    EXPECT_EQ(0u, LookupControlItem(nullptr, "Walls"));
+}
+
+} // namespace

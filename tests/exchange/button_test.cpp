@@ -1,0 +1,92 @@
+// Check boxes with a third state, and radio groups.
+
+#include "exchange_dialog.h"
+
+#include "orlo/exchange/ddx_button.h"
+
+namespace {
+
+class ButtonExchange : public ExchangeDialog {
+protected:
+    LRESULT State(int id) { return Send(id, BM_GETCHECK); }
+    void SetState(int id, WPARAM state) { Send(id, BM_SETCHECK, state); }
+    std::string Radios() {
+        std::string states;
+        for (const int id : {IDC_RADIO_FIRST, IDC_RADIO_SECOND, IDC_RADIO_THIRD, IDC_BEHIND_RADIOS})
+            states += State(id) ? 'X' : '.';
+        return states;
+    }
+};
+
+TEST_F(ButtonExchange, StatesGoBothWays) {
+    for (int state = 0; state <= 2; ++state) {
+        int value = state;
+        EXPECT_EQ(1, DDX_Check(1, &m_load, IDC_THREE_STATE, value));
+        EXPECT_EQ(state, State(IDC_THREE_STATE));
+        value = 77;
+        EXPECT_EQ(1, DDX_Check(1, &m_save, IDC_THREE_STATE, value));
+        EXPECT_EQ(state, value);
+    }
+}
+
+TEST_F(ButtonExchange, TheThirdStateOfAWordIsItsMarker) {
+    unsigned short value = 0xFFFF;
+    DDX_Check(1, &m_load, IDC_THREE_STATE, value);
+    EXPECT_EQ(BST_INDETERMINATE, State(IDC_THREE_STATE));
+    EXPECT_EQ(0xFFFF, value);
+    value = 0;
+    DDX_Check(1, &m_save, IDC_THREE_STATE, value);
+    EXPECT_EQ(0xFFFF, value);
+    SetState(IDC_THREE_STATE, BST_CHECKED);
+    DDX_Check(1, &m_save, IDC_THREE_STATE, value);
+    EXPECT_EQ(1, value);
+}
+
+TEST_F(ButtonExchange, AValueThatIsNoStateIsSetToOff) {
+    for (const int wrong : {3, -1, 0xFFFF}) {
+        SetState(IDC_THREE_STATE, BST_CHECKED);
+        int value = wrong;
+        DDX_Check(1, &m_load, IDC_THREE_STATE, value);
+        EXPECT_EQ(0, value);
+        EXPECT_EQ(BST_UNCHECKED, State(IDC_THREE_STATE));
+    }
+    unsigned short two = 2;
+    DDX_Check(1, &m_load, IDC_THREE_STATE, two);
+    EXPECT_EQ(0, two);
+}
+
+struct RadioRow {
+    int value;
+    unsigned short word;
+    const char* states;
+};
+
+TEST_F(ButtonExchange, ARadioGroupEndsAtTheNextAndSkipsOtherControls) {
+    const RadioRow rows[] = {{0, 0, "X..X"}, {1, 1, ".X.X"}, {2, 2, "..XX"}, {-1, 0xFFFF, "...X"}};
+    SetState(IDC_BEHIND_RADIOS, BST_CHECKED);
+    for (const RadioRow& row : rows) {
+        int value = row.value;
+        EXPECT_EQ(1, DDX_Radio(1, &m_load, IDC_RADIO_FIRST, value));
+        EXPECT_EQ(row.states, Radios());
+        value = 77;
+        EXPECT_EQ(1, DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value));
+        EXPECT_EQ(row.value, value);
+
+        unsigned short word = row.word;
+        DDX_Radio(1, &m_load, IDC_RADIO_FIRST, word);
+        EXPECT_EQ(row.states, Radios());
+        word = 77;
+        DDX_Radio(1, &m_save, IDC_RADIO_FIRST, word);
+        EXPECT_EQ(row.word, word);
+    }
+}
+
+TEST_F(ButtonExchange, OfSeveralCheckedButtonsTheLastCounts) {
+    SetState(IDC_RADIO_FIRST, BST_CHECKED);
+    SetState(IDC_RADIO_SECOND, BST_CHECKED);
+    int value = -1;
+    DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value);
+    EXPECT_EQ(1, value);
+}
+
+} // namespace

@@ -1,0 +1,48 @@
+// A real dialog with one control of each kind, and exchanges over it in both directions.
+#pragma once
+
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "exchange.h"
+#include "support/message_box_watcher.h"
+
+class ExchangeDialog : public ::testing::Test {
+protected:
+    ExchangeDialog() { EXPECT_TRUE(m_dialog.Create(IDD_EXCHANGE)); }
+    ~ExchangeDialog() override { m_dialog.DestroyWindow(); }
+
+    HWND Control(int id) const { return ::GetDlgItem(m_dialog.m_hWnd, id); }
+    std::string Text(int id) const {
+        CString text;
+        m_dialog.GetDlgItem(id)->GetWindowText(text);
+        return std::string(text);
+    }
+    void SetText(int id, const char* text) { m_dialog.SetDlgItemText(id, text); }
+    LRESULT Send(int id, UINT message, WPARAM wParam = 0, const void* lParam = nullptr) {
+        return ::SendMessageA(Control(id), message, wParam, reinterpret_cast<LPARAM>(lParam));
+    }
+    std::string ComboItem(int id, int index) {
+        char text[256] = "";
+        Send(id, CB_GETLBTEXT, static_cast<WPARAM>(index), text);
+        return text;
+    }
+
+    // Whether the exchange was ended by Fail.
+    template <class Exchange>
+    static bool Refused(Exchange exchange) {
+        try {
+            exchange();
+        } catch (CUserException* exception) {
+            exception->Delete();
+            return true;
+        }
+        return false;
+    }
+
+    CDialog m_dialog;
+    CDataExchange m_save{&m_dialog, TRUE};
+    CDataExchange m_load{&m_dialog, FALSE};
+};

@@ -1,0 +1,112 @@
+// Texts and indices of list and combo boxes, control objects and scroll bars.
+
+#include "exchange_dialog.h"
+
+#include "orlo/exchange/ddx_control.h"
+#include "orlo/exchange/ddx_list.h"
+
+namespace {
+
+class ListExchange : public ExchangeDialog {
+protected:
+    ListExchange() {
+        for (const char* item : {"Solid", "Dashed", "Dash dot"}) {
+            Send(IDC_LIST, LB_ADDSTRING, 0, item);
+            Send(IDC_COMBO, CB_ADDSTRING, 0, item);
+        }
+    }
+    LRESULT Selected(int id) { return Send(id, id == IDC_LIST ? LB_GETCURSEL : CB_GETCURSEL); }
+};
+
+using TextFunction = int (*)(int, CDataExchange*, int, CString&);
+
+struct LoadRow {
+    const char* name;
+    TextFunction function;
+    int control;
+    const char* text;
+    int selected; // after 1 was selected
+};
+
+const LoadRow kLoads[] = {
+    {"ListTakesTheStart", DDX_LBString, IDC_LIST, "dash d", 2},
+    {"ListWithoutMatchKeeps", DDX_LBString, IDC_LIST, "Wavy", 1},
+    {"ListExactTakesNoStart", DDX_LBStringExact, IDC_LIST, "Sol", 1},
+    {"ListExact", DDX_LBStringExact, IDC_LIST, "solid", 0},
+    {"ComboTakesTheWhole", DDX_CBString, IDC_COMBO, "Dash dot", 2},
+    {"ComboExact", DDX_CBStringExact, IDC_COMBO, "Solid", 0},
+    {"ComboExactWithoutMatchKeeps", DDX_CBStringExact, IDC_COMBO, "Dash", 1},
+};
+
+class TextLoad : public ListExchange, public ::testing::WithParamInterface<LoadRow> {};
+
+TEST_P(TextLoad, SelectsOrKeeps) {
+    const LoadRow& row = GetParam();
+    Send(row.control, row.control == IDC_LIST ? LB_SETCURSEL : CB_SETCURSEL, 1);
+    CString text(row.text);
+    EXPECT_EQ(1, row.function(1, &m_load, row.control, text));
+    EXPECT_EQ(row.selected, Selected(row.control));
+    row.function(1, &m_save, row.control, text);
+    const char* const items[] = {"Solid", "Dashed", "Dash dot"};
+    EXPECT_EQ(items[row.selected], std::string(text));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, TextLoad, ::testing::ValuesIn(kLoads),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(ListExchange, AComboShowsATextThatIsInNoList) {
+    CString text("Dash");
+    DDX_CBString(1, &m_load, IDC_COMBO, text);
+    EXPECT_EQ("Dash", Text(IDC_COMBO));
+    EXPECT_EQ(CB_ERR, Selected(IDC_COMBO));
+    text.Empty();
+    DDX_CBString(1, &m_save, IDC_COMBO, text);
+    EXPECT_EQ("Dash", std::string(text));
+}
+
+TEST_F(ListExchange, AListWithoutSelectionSavesAnEmptyText) {
+    CString text("before");
+    EXPECT_EQ(1, DDX_LBString(1, &m_save, IDC_LIST, text));
+    EXPECT_EQ("", std::string(text));
+}
+
+TEST_F(ListExchange, IndicesGoBothWays) {
+    for (const int index : {2, 0, -1}) {
+        int value = index;
+        DDX_LBIndex(1, &m_load, IDC_LIST, value);
+        DDX_CBIndex(1, &m_load, IDC_COMBO, value);
+        int list = 77, combo = 77;
+        DDX_LBIndex(1, &m_save, IDC_LIST, list);
+        DDX_CBIndex(1, &m_save, IDC_COMBO, combo);
+        EXPECT_EQ(index, list);
+        EXPECT_EQ(index, combo);
+    }
+}
+
+TEST_F(ListExchange, AControlObjectIsAttachedOnce) {
+    CEdit edit, second;
+    EXPECT_EQ(1, DDX_Control(1, &m_load, IDC_EDIT, edit));
+    EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
+    EXPECT_EQ(&edit, CWnd::FromHandlePermanent(Control(IDC_EDIT)));
+    EXPECT_EQ(1, DDX_Control(1, &m_save, IDC_COMBO, edit)) << "an object that has a window is left alone";
+    EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
+    try {
+        DDX_Control(1, &m_load, IDC_EDIT, second);
+        ADD_FAILURE() << "two objects for one window";
+    } catch (CNotSupportedException* exception) {
+        exception->Delete();
+    }
+    edit.UnsubclassWindow();
+}
+
+TEST_F(ListExchange, AScrollBarKeepsItsPosition) {
+    ::SetScrollRange(Control(IDC_SCROLL), SB_CTL, 0, 50, FALSE);
+    int position = 42;
+    DDX_Scroll(1, &m_load, IDC_SCROLL, position);
+    EXPECT_EQ(42, ::GetScrollPos(Control(IDC_SCROLL), SB_CTL));
+    position = 0;
+    DDX_Scroll(1, &m_save, IDC_SCROLL, position);
+    EXPECT_EQ(42, position);
+}
+
+} // namespace

@@ -1,0 +1,189 @@
+// Entries of host tables as items: filling plain controls, and identifiers from and to a selection.
+
+#include "exchange_dialog.h"
+
+#include "orlo/controls/combo_control.h"
+#include "orlo/exchange/ddx_table.h"
+#include "support/test_drawing.h"
+
+namespace {
+
+class TableExchange : public ExchangeDialog {
+protected:
+    TableExchange() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")) {}
+
+    uint16_t Add(const char* name, const char* data = nullptr) {
+        return TableEntryAdd(m_table, name, const_cast<char*>(data));
+    }
+    std::string Items(int id) {
+        const bool list = id == IDC_LIST;
+        std::string items;
+        for (int i = 0; i < Send(id, list ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
+            char text[256] = "";
+            Send(id, list ? LB_GETTEXT : CB_GETLBTEXT, static_cast<WPARAM>(i), text);
+            items += std::string(text) + ";";
+        }
+        return items;
+    }
+
+    TestDrawing m_drawing;
+    TableStruct* m_table;
+};
+
+TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
+    CComboBox combo;
+    combo.Attach(Control(IDC_COMBO));
+    EXPECT_EQ(0, FillComboTable(&combo, m_table, 0));
+    Add("Zinc", "first");
+    Add("Amber");
+    EXPECT_EQ(2, FillComboTable(&combo, m_table, 0));
+    EXPECT_EQ(1, FillComboTable(&combo, m_table, 1)) << "an entry without data is passed over";
+    EXPECT_EQ("Zinc;Amber;first;", Items(IDC_COMBO)) << "in the table's order, behind what is there";
+    combo.Detach();
+
+    CListBox list;
+    list.Attach(Control(IDC_LIST));
+    EXPECT_EQ(0, FillListBoxTable(&list, m_table, 0));
+    EXPECT_EQ(2, FillListBoxTable(&list, m_table, 1));
+    EXPECT_EQ(1, FillListBoxTable(&list, m_table, 2));
+    EXPECT_EQ(2, FillListBoxTable(&list, m_table, 3));
+    EXPECT_EQ("Zinc;Amber;first;Zinc\tfirst;Amber;", Items(IDC_LIST));
+    list.Detach();
+}
+
+TEST_F(TableExchange, NamesTooLongForAPlainControlAreCut) {
+    Add(std::string(200, 'n').c_str());
+    CComboBox combo;
+    combo.Attach(Control(IDC_COMBO));
+    FillComboTable(&combo, m_table, 0);
+    EXPECT_GE(64u, Items(IDC_COMBO).size());
+    combo.Detach();
+}
+
+TEST_F(TableExchange, LinesOfAStringAreItems) {
+    CComboBox combo;
+    combo.Attach(Control(IDC_COMBO));
+    EXPECT_EQ(0, FillComboStringTable(&combo, IDS_LINES, 0));
+    EXPECT_EQ(0, FillComboStringTable(&combo, IDS_LINES, -1));
+    EXPECT_EQ(1, FillComboStringTable(&combo, IDS_LINES, 1));
+    EXPECT_EQ(3, FillComboStringTable(&combo, IDS_LINES, 99)) << "the empty line is no item";
+    EXPECT_EQ("One;One;Two;Four;", Items(IDC_COMBO));
+    combo.Detach();
+}
+
+// ---- Identifiers
+
+TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
+    Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCD\tBlue");
+    Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCE\tGreen");
+    unsigned int value = 0xABCE;
+    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_load, IDC_LIST, value));
+    EXPECT_EQ(1, Send(IDC_LIST, LB_GETCURSEL));
+    value = 0xABCD;
+    DDX_LBTableIndex(1, &m_load, IDC_LIST, value);
+    EXPECT_EQ(0, Send(IDC_LIST, LB_GETCURSEL));
+    value = 0;
+    DDX_LBTableIndex(1, &m_save, IDC_LIST, value);
+    EXPECT_EQ(0xABCDu, value);
+    value = 0xABC;
+    DDX_LBTableIndex(1, &m_load, IDC_LIST, value);
+    EXPECT_EQ(0, Send(IDC_LIST, LB_GETCURSEL)) << "an identifier in no item leaves the selection";
+}
+
+TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
+    unsigned int value = 0xFFFFFFFF;
+    unsigned long color = 0xFFFFFFFF;
+    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_save, IDC_LIST, value));
+    EXPECT_EQ(1, DDX_CBTableIndex(1, &m_save, IDC_COMBO, value));
+    EXPECT_EQ(1, DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, color));
+    EXPECT_EQ(0xFFFFFFFFu, value);
+    EXPECT_EQ(0xFFFFFFFFu, color);
+}
+
+TEST_F(TableExchange, ComboKeysGoBothWays) {
+    Send(IDC_COMBO, CB_ADDSTRING, 0, "0000001F\tA name that is longer than eight characters");
+    Send(IDC_COMBO, CB_ADDSTRING, 0, "00000020\tB");
+    for (const unsigned int id : {0x20u, 0x1Fu}) {
+        unsigned int value = id;
+        DDX_CBTableIndex(1, &m_load, IDC_COMBO, value);
+        value = 0;
+        DDX_CBTableIndex(1, &m_save, IDC_COMBO, value);
+        EXPECT_EQ(id, value);
+    }
+    unsigned int unknown = 0x21;
+    DDX_CBTableIndex(1, &m_load, IDC_COMBO, unknown);
+    EXPECT_EQ("00000021\t", Text(IDC_COMBO)) << "the key is what the combo shows";
+}
+
+TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
+    for (const char* item : {"000000FF\tRed", "FFFFFFFD\tBy layer", "000000FF\tRed again", "FFFFFFFB\tLast"})
+        Send(IDC_DROP_LIST, CB_ADDSTRING, 0, item);
+    const struct {
+        unsigned long color;
+        int index;
+    } rows[] = {{0xFFFFFFFD, 1}, {0xFF, 2}, {0xFFFFFFFB, 3}, {0xFFFFFFFF, -1}, {0x00123456, -1}};
+    for (const auto& row : rows) {
+        unsigned long value = row.color;
+        EXPECT_EQ(1, DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value));
+        EXPECT_EQ(row.index, Send(IDC_DROP_LIST, CB_GETCURSEL)) << std::hex << row.color;
+        value = 0x77;
+        DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, value);
+        EXPECT_EQ(row.index < 0 ? 0x77 : row.color, value);
+    }
+}
+
+TEST_F(TableExchange, ATextWithoutKeyIsColorZero) {
+    SetText(IDC_COMBO, "no key");
+    unsigned long color = 5;
+    DDX_CBTableColor(1, &m_save, IDC_COMBO, color);
+    EXPECT_EQ(0u, color);
+}
+
+TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
+    const uint16_t first = Add("Walls"), second = Add("Doors");
+    CComboControl control(0x7D0F);
+    control.SubclassWindow(Control(IDC_COMBO));
+    unsigned int value = first;
+    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "no table yet";
+    EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value); }));
+
+    control.m_pTable = m_table;
+    control.AddString("Walls");
+    DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value);
+    EXPECT_EQ(0, control.GetCurSel());
+    value = second;
+    DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value);
+    EXPECT_EQ("Doors", Text(IDC_COMBO)) << "in the table but in no list";
+    value = 0;
+    DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
+    EXPECT_EQ(second, value);
+
+    SetText(IDC_COMBO, "Windows");
+    DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
+    EXPECT_EQ(0u, value);
+    for (const unsigned int none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
+        control.SetCurSel(0);
+        value = none;
+        EXPECT_EQ(1, DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value));
+        EXPECT_EQ(-1, control.GetCurSel()) << none;
+    }
+    SetText(IDC_COMBO, "");
+    value = 0xFFFFFFFF;
+    DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
+    EXPECT_EQ(0xFFFFFFFFu, value) << "a mixed value survives";
+
+    // The host closes the drawing: its table answers as an empty one.
+    m_drawing.Close();
+    SetText(IDC_COMBO, "Walls");
+    DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
+    EXPECT_EQ(0u, value);
+    control.UnsubclassWindow();
+}
+
+TEST_F(TableExchange, APlainComboHasNoTableToLookInto) {
+    unsigned int value = 1;
+    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value));
+    EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value); }));
+}
+
+} // namespace
