@@ -1,0 +1,33 @@
+// The rule of the setters.
+
+#include "orlo/summary/summary_field.h"
+
+#include <memory>
+
+#include "orlo/propset/property_set.h"
+
+namespace orlo {
+
+const GUID kSummaryFormat = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
+
+CProperty* SummaryProperty(CPropertySet* set, DWORD id, DWORD type) {
+    CProperty* property = set ? set->GetProperty(kSummaryFormat, id) : nullptr;
+    return property && property->GetType() == type ? property : nullptr;
+}
+
+int StoreSummaryProperty(CPropertySet* set, DWORD id, DWORD type, void* value) {
+    CPropertySection* section = set ? set->GetSection(kSummaryFormat) : nullptr;
+    if (!section) return 0;
+    CProperty* property = section->GetProperty(id);
+    if (!value) {
+        section->Remove(id);
+        return 1;
+    }
+    if (property) return property->GetType() == type ? property->Set(value, type) : 0;
+    auto added = std::make_unique<CProperty>(id, value, type);
+    if (!added->GetRawValue()) return 0;
+    section->AddProperty(added.release());
+    return 1;
+}
+
+} // namespace orlo

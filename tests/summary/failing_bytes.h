@@ -1,0 +1,34 @@
+// The bytes of a compound file in memory, on a disk that can be full.
+#pragma once
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+#include <objidl.h>
+
+// COM's interfaces have no virtual destructor; this one is never deleted through one.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+class FailingBytes final : public ILockBytes {
+public:
+    explicit FailingBytes(std::vector<uint8_t> content = {}) : bytes(std::move(content)) {}
+
+    // In bytes. Writing beyond it fails as a full disk does. Overwriting goes on.
+    ULONGLONG capacity = ~ULONGLONG{0};
+    std::vector<uint8_t> bytes;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives where it stands
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE ReadAt(ULARGE_INTEGER at, void* buffer, ULONG size, ULONG* done) override;
+    HRESULT STDMETHODCALLTYPE WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size,
+                                      ULONG* done) override;
+    HRESULT STDMETHODCALLTYPE Flush() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetSize(ULARGE_INTEGER size) override;
+    HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override;
+    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override;
+    HRESULT STDMETHODCALLTYPE Stat(STATSTG* stat, DWORD flags) override;
+};
+#pragma GCC diagnostic pop

@@ -1,0 +1,297 @@
+// Summaries in compound files: saved, loaded, replaced, refused, and a document that outlives every failure to write.
+
+#include "orlo/summary/summary_info.h"
+
+#include <cstring>
+#include <ctime>
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <tuple>
+
+#include "failing_bytes.h"
+#include "orlo/propset/property_set.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const GUID kFormat = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
+constexpr DWORD kMake = STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
+constexpr wchar_t kStream[] = L"\005SummaryInformation";
+
+struct ReleaseStorage {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+using Storage = std::unique_ptr<IStorage, ReleaseStorage>;
+struct FreeSummary {
+    void operator()(CPropertySet* set) const { OleStdFreeSummaryInfo(&set); }
+};
+using OwnedSummary = std::unique_ptr<CPropertySet, FreeSummary>;
+
+OwnedSummary SummaryOf(const std::string& title) {
+    OwnedSummary summary(OleStdInitSummaryInfo(1252));
+    OleStdSetStringProperty(summary.get(), PIDSI_TITLE, title.c_str());
+    return summary;
+}
+
+std::string TitleIn(IStorage* storage) {
+    OwnedSummary summary(OleStdInitSummaryInfo(1252));
+    if (FAILED(LoadSummaryInfo(storage, summary.get()))) return "(none)";
+    const char* title = OleStdGetStringProperty(summary.get(), PIDSI_TITLE);
+    return title ? title : "";
+}
+
+// A name in the folder of the tests, gone before and afterwards.
+class File {
+public:
+    explicit File(const char* name) : path_(fs::temp_directory_path() / name) { fs::remove(path_); }
+    ~File() {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+    }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    std::string Name() const { return path_.string(); }
+
+    Storage Create() const { return Made(kMake); }
+    Storage Open(DWORD mode) const {
+        IStorage* storage = nullptr;
+        ::StgOpenStorage(path_.c_str(), nullptr, mode, nullptr, 0, &storage);
+        return Storage(storage);
+    }
+    Storage Read() const { return Open(STGM_READ | STGM_SHARE_EXCLUSIVE); }
+
+private:
+    Storage Made(DWORD mode) const {
+        IStorage* storage = nullptr;
+        EXPECT_EQ(::StgCreateDocfile(path_.c_str(), mode, 0, &storage), S_OK);
+        return Storage(storage);
+    }
+    fs::path path_;
+};
+
+void WriteBytes(IStorage* storage, const wchar_t* name, const std::string& bytes) {
+    IStream* stream = nullptr;
+    ASSERT_EQ(storage->CreateStream(name, kMake, 0, 0, &stream), S_OK);
+    EXPECT_EQ(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr), S_OK);
+    stream->Release();
+}
+
+TEST(SummaryInfo, CreatedNowInPlaceOfAnother) {
+    EXPECT_EQ(CreateSummaryInfo(nullptr), E_FAIL);
+    CPropertySet* summary = SummaryOf("old").release();
+    EXPECT_EQ(CreateSummaryInfo(&summary), S_OK);
+    EXPECT_EQ(OleStdGetStringProperty(summary, PIDSI_TITLE), nullptr);
+    int year, month, day, seconds;
+    OleStdGetDateProperty(summary, PIDSI_CREATE_DTM, &year, &month, &day, &seconds);
+    struct tm now;
+    TimeStamp(&now);
+    struct tm stored = {};
+    stored.tm_year = year - 1900;
+    stored.tm_mon = month - 1;
+    stored.tm_mday = day;
+    stored.tm_sec = seconds;
+    stored.tm_isdst = now.tm_isdst;
+    EXPECT_NEAR(std::difftime(std::mktime(&now), std::mktime(&stored)), 1, 60);
+    OleStdFreeSummaryInfo(&summary);
+}
+
+TEST(SummaryInfo, DatesCountMonthsFromZeroAndYearsFrom1900) {
+    const OwnedSummary summary = SummaryOf("plan");
+    struct tm time = {};
+    time.tm_year = 98;
+    time.tm_mon = 2;
+    time.tm_mday = 2;
+    time.tm_hour = 13;
+    time.tm_min = 5;
+    time.tm_sec = 7;
+    EXPECT_EQ(SetSumInfoDate(summary.get(), PIDSI_CREATE_DTM, &time), 1);
+    int year, month, day, seconds;
+    OleStdGetDateProperty(summary.get(), PIDSI_CREATE_DTM, &year, &month, &day, &seconds);
+    EXPECT_EQ(year, 1998);
+    EXPECT_EQ(month, 3);
+    EXPECT_EQ(day, 2);
+    EXPECT_EQ(seconds, 47106);
+}
+
+TEST(SummaryInfo, FieldsInOneCall) {
+    const OwnedSummary summary = SummaryOf("old");
+    OleStdSetSecurityProperty(summary.get(), 4);
+    EXPECT_EQ(SetSummaryInfoFields1(summary.get(), nullptr, "s", "a", "k", "c", "app", "7"), S_OK);
+    const auto text = [&](DWORD id) {
+        const char* stored = OleStdGetStringProperty(summary.get(), id);
+        return std::string(stored ? stored : "(none)");
+    };
+    EXPECT_EQ(text(PIDSI_TITLE), "(none)");
+    EXPECT_EQ(text(PIDSI_SUBJECT), "s");
+    EXPECT_EQ(text(PIDSI_AUTHOR), "a");
+    EXPECT_EQ(text(PIDSI_LASTAUTHOR), "a");
+    EXPECT_EQ(text(PIDSI_KEYWORDS), "k");
+    EXPECT_EQ(text(PIDSI_COMMENTS), "c");
+    EXPECT_EQ(text(PIDSI_APPNAME), "app");
+    EXPECT_EQ(text(PIDSI_REVNUMBER), "7");
+    EXPECT_EQ(OleStdGetSecurityProperty(summary.get()), 0u);
+    SetSummaryInfoFields1(summary.get(), "t", "", nullptr, "", "", "", "");
+    EXPECT_EQ(text(PIDSI_AUTHOR), "(none)");
+    EXPECT_EQ(text(PIDSI_LASTAUTHOR), "(none)");
+    EXPECT_NE(summary->GetProperty(kFormat, PIDSI_DOC_SECURITY), nullptr);
+}
+
+TEST(SummaryInfo, ThumbnailGoesWithTheFile) {
+    const File file("orlo-thumbnail.drw");
+    const OwnedSummary summary = SummaryOf("plan");
+    const HGLOBAL picture = ::GlobalAlloc(GHND, 5000);
+    EXPECT_EQ(SetSummaryInfoThumbnail(summary.get(), 8, picture, 5000, 77), S_OK);
+    EXPECT_EQ(SetSummaryInfoThumbnail(summary.get(), 8, nullptr, 5, 0), E_FAIL);
+    EXPECT_EQ(SaveSummaryInfo(file.Create().get(), summary.get()), S_OK);
+    IStorage* storage = nullptr;
+    CPropertySet* loaded = nullptr;
+    ASSERT_EQ(GetFileSummaryInfo(file.Name().c_str(), &storage, &loaded), S_OK);
+    DWORD format = 0, size = 0;
+    HGLOBAL copy = nullptr;
+    EXPECT_EQ(OleStdGetThumbNailProperty(loaded, &format, &copy, &size), -1);
+    EXPECT_EQ(size, 5000u);
+    EXPECT_STREQ(OleStdGetStringProperty(loaded, PIDSI_TITLE), "plan");
+    ::GlobalFree(copy);
+    ::GlobalFree(picture);
+    storage->Release();
+    OleStdFreeSummaryInfo(&loaded);
+}
+
+TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
+    const File file("orlo-replace.drw");
+    const Storage storage = file.Create();
+    WriteBytes(storage.get(), L"Contents", "the drawing");
+    EXPECT_EQ(SaveSummaryInfo(storage.get(), SummaryOf(std::string(9000, 'x')).get()), S_OK);
+    EXPECT_EQ(SaveSummaryInfo(storage.get(), SummaryOf("short").get()), S_OK);
+    EXPECT_EQ(TitleIn(storage.get()), "short");
+    IStream* stream = nullptr;
+    ASSERT_EQ(storage->OpenStream(kStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
+    STATSTG stat;
+    stream->Stat(&stat, STATFLAG_NONAME);
+    EXPECT_LT(stat.cbSize.QuadPart, 200u) << "nothing of the longer one is left";
+    stream->Release();
+    ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
+    char text[12] = {};
+    stream->Read(text, 11, nullptr);
+    EXPECT_STREQ(text, "the drawing");
+    stream->Release();
+}
+
+TEST(SummaryInfo, NoStreamLeavesTheSummaryUntouched) {
+    const File file("orlo-empty.drw");
+    const Storage storage = file.Create();
+    const OwnedSummary summary = SummaryOf("still here");
+    EXPECT_EQ(LoadSummaryInfo(storage.get(), summary.get()), STG_E_FILENOTFOUND);
+    EXPECT_STREQ(OleStdGetStringProperty(summary.get(), PIDSI_TITLE), "still here");
+    EXPECT_EQ(LoadSummaryInfo(storage.get(), nullptr), E_FAIL);
+    EXPECT_EQ(SaveSummaryInfo(storage.get(), nullptr), E_FAIL);
+}
+
+TEST(SummaryInfo, DamagedStreamGivesNothing) {
+    const File file("orlo-damaged.drw");
+    WriteBytes(file.Create().get(), kStream, "no property set");
+    IStorage* storage = nullptr;
+    CPropertySet* summary = SummaryOf("goes too").release();
+    EXPECT_EQ(GetFileSummaryInfo(file.Name().c_str(), &storage, &summary), E_FAIL);
+    EXPECT_EQ(storage, nullptr);
+    EXPECT_EQ(summary, nullptr);
+}
+
+TEST(SummaryInfo, FilesThatCantBeOpenedSaySo) {
+    const File missing("orlo-missing.drw");
+    IStorage* storage = nullptr;
+    CPropertySet* summary = nullptr;
+    EXPECT_EQ(GetFileSummaryInfo(missing.Name().c_str(), &storage, &summary), STG_E_FILENOTFOUND);
+    const File locked("orlo-locked.drw");
+    const Storage holder = locked.Create();
+    EXPECT_EQ(GetFileSummaryInfo(locked.Name().c_str(), &storage, &summary), STG_E_SHAREVIOLATION);
+    EXPECT_EQ(storage, nullptr);
+    EXPECT_EQ(summary, nullptr);
+}
+
+TEST(SummaryInfo, AReadOnlyStorageKeepsItsSummary) {
+    const File file("orlo-read-only.drw");
+    SaveSummaryInfo(file.Create().get(), SummaryOf("first").get());
+    const Storage storage = file.Read();
+    EXPECT_EQ(SaveSummaryInfo(storage.get(), SummaryOf("second").get()), STG_E_ACCESSDENIED);
+    EXPECT_EQ(TitleIn(storage.get()), "first");
+}
+
+// A property of a type that has no form on a stream.
+TEST(SummaryInfo, ASetThatCantBeWrittenLeavesTheStream) {
+    const File file("orlo-unwritable.drw");
+    const Storage storage = file.Create();
+    SaveSummaryInfo(storage.get(), SummaryOf("first").get());
+    const OwnedSummary summary = SummaryOf("second");
+    auto* property = new CProperty;
+    property->SetID(100);
+    property->SetType(VT_DISPATCH);
+    summary->AddProperty(kFormat, property);
+    EXPECT_EQ(SaveSummaryInfo(storage.get(), summary.get()), E_FAIL);
+    EXPECT_EQ(TitleIn(storage.get()), "first");
+}
+
+Storage OpenOn(FailingBytes& disk, DWORD mode) {
+    IStorage* storage = nullptr;
+    ::StgOpenStorageOnILockBytes(&disk, nullptr, mode | STGM_SHARE_EXCLUSIVE, nullptr, 0, &storage);
+    return Storage(storage);
+}
+
+std::vector<uint8_t> DocumentWith(const std::string& title) {
+    FailingBytes disk;
+    IStorage* storage = nullptr;
+    EXPECT_EQ(::StgCreateDocfileOnILockBytes(&disk, kMake, 0, &storage), S_OK);
+    const Storage owner(storage);
+    WriteBytes(storage, L"Contents", std::string(5000, 'c'));
+    if (!title.empty()) SaveSummaryInfo(storage, SummaryOf(title).get());
+    return disk.bytes;
+}
+
+// What saving into a document on a disk with so many bytes of room left came to, and the title that is there afterwards.
+struct Outcome {
+    bool saved;
+    std::string title;
+};
+
+Outcome SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode,
+                     const std::string& title) {
+    FailingBytes disk(document);
+    disk.capacity = document.size() + room;
+    bool saved;
+    {
+        const Storage storage = OpenOn(disk, STGM_READWRITE | mode);
+        saved = SUCCEEDED(SaveSummaryInfo(storage.get(), SummaryOf(title).get())) &&
+                SUCCEEDED(storage->Commit(STGC_DEFAULT));
+    }
+    disk.capacity = ~ULONGLONG{0};
+    return {saved, TitleIn(OpenOn(disk, STGM_READ).get())};
+}
+
+// Direct and transacted; a document with a short, a long and no summary.
+class FullDisk : public testing::TestWithParam<std::tuple<DWORD, std::string>> {};
+
+// Every free sector too few, from none to enough: the new summary or the old one, and the result says which.
+TEST_P(FullDisk, KeepsTheOldSummary) {
+    const auto& [mode, before] = GetParam();
+    const std::string after(20000, 'n');
+    const std::vector<uint8_t> document = DocumentWith(before);
+    int refused = 0, saved = 0;
+    for (ULONGLONG room = 0; room < 36000; room += 512) {
+        const Outcome outcome = SaveWithRoom(document, room, mode, after);
+        const std::string expected = outcome.saved ? after : before.empty() ? "(none)" : before;
+        EXPECT_EQ(outcome.title, expected) << room << " bytes of room";
+        ++(outcome.saved ? saved : refused);
+    }
+    EXPECT_GT(refused, 10);
+    EXPECT_GT(saved, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, FullDisk,
+                         testing::Combine(testing::Values(DWORD{STGM_DIRECT}, DWORD{STGM_TRANSACTED}),
+                                          testing::Values("before", std::string(6000, 'b'), "")));
+
+} // namespace
