@@ -1,38 +1,28 @@
-// A white bitmap in memory to draw on, and what of it is covered afterwards.
+// A white picture to draw on, and what of it is covered afterwards.
 #pragma once
 
-#include <cstdint>
 #include <optional>
-#include <vector>
-#include <windows.h>
+
+#include "support/pixels.h"
 
 struct MeanColour {
     double red, green, blue;
 };
 
-class Canvas {
+class Canvas : public Pixels {
 public:
     Canvas(int width, int height);
-    ~Canvas();
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
 
-    HDC dc() const { return dc_; }
     RECT Whole() const { return {0, 0, width_, height_}; }
-    void Clear();
-    COLORREF Pixel(int x, int y) const;
+    void Whiten() { Clear(RGB(255, 255, 255)); }
     // The smallest rectangle around everything that isn't white, or nothing.
     std::optional<RECT> Covered() const;
-    // The share of pixels in the rectangle that aren't white.
-    double Coverage(const RECT& rect) const;
-    MeanColour Mean(const RECT& rect) const;
+    // The share of pixels that aren't white.
+    double Coverage() const;
+    MeanColour Mean() const;
 
 private:
     int width_, height_;
-    HDC dc_;
-    HBITMAP bitmap_;
-    HGDIOBJ before_;
-    uint32_t* pixels_ = nullptr;
 };
 
 bool operator==(const RECT& a, const RECT& b);

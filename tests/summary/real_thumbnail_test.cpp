@@ -11,6 +11,7 @@
 #include "canvas.h"
 #include "orlo/summary/thumbnail.h"
 #include "picture_bytes.h"
+#include "support/object_counts.h"
 
 #define STB_IMAGE_IMPLEMENTATION
 #define STBI_ONLY_PNG
@@ -70,9 +71,9 @@ void ExpectLikeReference(const ByteVector& value, const fs::path& png) {
     ASSERT_GT(reference.width, 0) << png;
     Canvas canvas(reference.width, reference.height);
     const RECT whole = canvas.Whole();
-    EXPECT_NE(DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.dc(), &whole), 0);
-    EXPECT_NEAR(canvas.Coverage(whole), reference.coverage, 0.05);
-    const MeanColour mean = canvas.Mean(whole);
+    EXPECT_NE(DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.DC(), &whole), 0);
+    EXPECT_NEAR(canvas.Coverage(), reference.coverage, 0.05);
+    const MeanColour mean = canvas.Mean();
     EXPECT_NEAR(mean.red, reference.mean.red, 6);
     EXPECT_NEAR(mean.green, reference.mean.green, 6);
     EXPECT_NEAR(mean.blue, reference.mean.blue, 6);
@@ -91,7 +92,7 @@ void Check(const fs::path& file) {
     Canvas canvas(300, 200);
     const RECT whole = canvas.Whole();
     const int result =
-        DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.dc(), &whole);
+        DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.DC(), &whole);
     EXPECT_EQ(result != 0, drawn);
     EXPECT_EQ(canvas.Covered().has_value(), drawn);
     const fs::path png = ReferenceOf(file);
@@ -112,6 +113,14 @@ TEST(RealThumbnails, OfTheCorpusDrawLikeTheirReferences) {
     CheckFolder(kCorpus);
 }
 
+TEST(RealThumbnails, LeaveNoObjectsBehind) {
+    CheckFolder(kCarried);
+    const int before = GdiObjectCount();
+    for (int i = 0; i < 3; ++i)
+        CheckFolder(kCarried);
+    EXPECT_EQ(GdiObjectCount(), before);
+}
+
 // Every byte of the head, one after the other, turned over: whatever comes of it, nothing breaks.
 TEST(RealThumbnails, SurviveEveryWrongByteInTheirHeads) {
     Canvas canvas(50, 50);
@@ -123,11 +132,11 @@ TEST(RealThumbnails, SurviveEveryWrongByteInTheirHeads) {
             for (const uint8_t with : {0x00, 0x01, 0x7F, 0x80, 0xFF}) {
                 ByteVector bad = good;
                 bad[i] = with;
-                DrawThumbnailValue(bad.data(), static_cast<DWORD>(bad.size()), canvas.dc(), &whole);
+                DrawThumbnailValue(bad.data(), static_cast<DWORD>(bad.size()), canvas.DC(), &whole);
             }
         }
     }
-    EXPECT_EQ(::SaveDC(canvas.dc()), 1);
+    EXPECT_EQ(::SaveDC(canvas.DC()), 1);
 }
 
 } // namespace

@@ -61,20 +61,20 @@ protected:
         ASSERT_TRUE(covered);
         EXPECT_TRUE(*covered == GetParam().covered)
             << covered->left << " " << covered->top << " " << covered->right << " " << covered->bottom;
-        EXPECT_EQ(canvas_.Pixel(covered->left, covered->top), kBlue);
+        EXPECT_EQ(canvas_.At(covered->left, covered->top), kBlue);
     }
     Canvas canvas_{100, 100};
 };
 
 TEST_P(Fitting, OfABitmap) {
     const Fit& fit = GetParam();
-    Check(DrawDib(BlueDib(fit.width, fit.height), canvas_.dc(), &fit.target, fit.keepAspect));
+    Check(DrawDib(BlueDib(fit.width, fit.height), canvas_.DC(), &fit.target, fit.keepAspect));
 }
 
 TEST_P(Fitting, OfAMetafilePicture) {
     const Fit& fit = GetParam();
     const auto width = static_cast<int16_t>(fit.width), height = static_cast<int16_t>(fit.height);
-    EXPECT_EQ(DrawMeta(BluePicture(width, height), canvas_.dc(), &fit.target, fit.keepAspect), 1);
+    EXPECT_EQ(DrawMeta(BluePicture(width, height), canvas_.DC(), &fit.target, fit.keepAspect), 1);
     Check(1);
 }
 
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(Proportions, Fitting, testing::ValuesIn(kFits),
 TEST(Fitting, OfHugeExtents) {
     Canvas canvas(100, 100);
     const RECT whole = canvas.Whole();
-    EXPECT_EQ(DrawMeta(BluePicture(32767, 32000), canvas.dc(), &whole, 1), 1);
+    EXPECT_EQ(DrawMeta(BluePicture(32767, 32000), canvas.DC(), &whole, 1), 1);
     EXPECT_EQ(canvas.Covered()->right, 100);
     EXPECT_EQ(canvas.Covered()->bottom, 98);
 }
@@ -99,18 +99,18 @@ protected:
 
 TEST_F(Thumbnail, EmptyRectanglesDrawNothing) {
     for (const RECT& rect : {RECT{5, 5, 5, 20}, RECT{5, 5, 20, 5}, RECT{20, 20, 5, 5}}) {
-        EXPECT_EQ(DrawDib(BlueDib(4, 4), canvas_.dc(), &rect, 1), 0);
-        EXPECT_EQ(DrawMeta(BluePicture(4, 4), canvas_.dc(), &rect, 1), 0);
+        EXPECT_EQ(DrawDib(BlueDib(4, 4), canvas_.DC(), &rect, 1), 0);
+        EXPECT_EQ(DrawMeta(BluePicture(4, 4), canvas_.DC(), &rect, 1), 0);
     }
     ExpectNothingDrawn();
 }
 
 TEST_F(Thumbnail, NothingToDrawOrToDrawOn) {
-    EXPECT_EQ(DrawDIB(nullptr, canvas_.dc(), &whole_, 1), 0);
-    EXPECT_EQ(DrawMetaFilePict(nullptr, canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawDIB(nullptr, canvas_.DC(), &whole_, 1), 0);
+    EXPECT_EQ(DrawMetaFilePict(nullptr, canvas_.DC(), &whole_, 1), 0);
     EXPECT_EQ(DrawDib(BlueDib(4, 4), nullptr, &whole_, 1), 0);
     EXPECT_EQ(DrawMeta(BluePicture(4, 4), nullptr, &whole_, 1), 0);
-    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.dc(), &whole_), 0);
+    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.DC(), &whole_), 0);
     ExpectNothingDrawn();
 }
 
@@ -118,7 +118,7 @@ TEST_F(Thumbnail, ByFormatWithProportionsKept) {
     const ByteVector dib = BlueDib(2, 1);
     const ByteVector picture = BluePicture(2, 1);
     const unsigned char formats[] = {3, 8, 14};
-    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.dc(), &whole_), 0);
+    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.DC(), &whole_), 0);
     const ThumbnailClip refused[] = {
         {0, 0xFFFFFFFF, &formats[1], dib.data()},
         {1, 0xFFFFFFFE, &formats[1], dib.data()},
@@ -126,14 +126,14 @@ TEST_F(Thumbnail, ByFormatWithProportionsKept) {
         {1, 0xFFFFFFFF, &formats[2], dib.data()},
     };
     for (const ThumbnailClip& clip : refused)
-        EXPECT_EQ(DrawThumbnail(&clip, canvas_.dc(), &whole_), 0);
+        EXPECT_EQ(DrawThumbnail(&clip, canvas_.DC(), &whole_), 0);
     ExpectNothingDrawn();
     const RECT middle = {0, 15, 60, 45};
     const ThumbnailClip drawn[] = {{1, 0xFFFFFFFF, &formats[0], picture.data()},
                                    {1, 0xFFFFFFFF, &formats[1], dib.data()}};
     for (const ThumbnailClip& clip : drawn) {
-        canvas_.Clear();
-        EXPECT_NE(DrawThumbnail(&clip, canvas_.dc(), &whole_), 0);
+        canvas_.Whiten();
+        EXPECT_NE(DrawThumbnail(&clip, canvas_.DC(), &whole_), 0);
         EXPECT_TRUE(*canvas_.Covered() == middle);
     }
 }
@@ -145,15 +145,15 @@ TEST_F(Thumbnail, StoredValueIsLimitedByItsLength) {
     const ByteVector dib = BlueDib(10, 10);
     value.insert(value.end(), dib.begin(), dib.end());
     const auto size = static_cast<DWORD>(value.size());
-    EXPECT_EQ(DrawThumbnailValue(value.data(), size - 1, canvas_.dc(), &whole_), 0);
-    EXPECT_EQ(DrawThumbnailValue(value.data(), 7, canvas_.dc(), &whole_), 0);
+    EXPECT_EQ(DrawThumbnailValue(value.data(), size - 1, canvas_.DC(), &whole_), 0);
+    EXPECT_EQ(DrawThumbnailValue(value.data(), 7, canvas_.DC(), &whole_), 0);
     ExpectNothingDrawn();
-    EXPECT_NE(DrawThumbnailValue(value.data(), size, canvas_.dc(), &whole_), 0);
+    EXPECT_NE(DrawThumbnailValue(value.data(), size, canvas_.DC(), &whole_), 0);
     EXPECT_TRUE(*canvas_.Covered() == whole_);
 }
 
 TEST_F(Thumbnail, TopDownBitmapsAreRefused) {
-    EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.DC(), &whole_, 1), 0);
     ExpectNothingDrawn();
 }
 
@@ -165,9 +165,9 @@ TEST_F(Thumbnail, BitmapsOfEveryDepthDraw) {
         dib.bitsPerPixel = bits;
         if (bits <= 8) dib.table.assign(size_t{1} << bits, 0x000000FF);
         if (bits > 8) dib.Fill(0);
-        canvas_.Clear();
-        EXPECT_NE(DrawDib(dib.Fill(0).Build(), canvas_.dc(), &whole_, 0), 0) << bits;
-        EXPECT_EQ(canvas_.Pixel(30, 30), bits <= 8 ? kBlue : 0u) << bits;
+        canvas_.Whiten();
+        EXPECT_NE(DrawDib(dib.Fill(0).Build(), canvas_.DC(), &whole_, 0), 0) << bits;
+        EXPECT_EQ(canvas_.At(30, 30), bits <= 8 ? kBlue : 0u) << bits;
     }
 }
 
@@ -180,8 +180,8 @@ TEST_F(Thumbnail, RunLengthAndMasksDraw) {
     dib.table.assign(256, 0x000000FF);
     dib.pixels = {4, 1, 0, 1};
     dib.imageBytes = 4;
-    EXPECT_NE(DrawDib(dib.Build(), canvas_.dc(), &whole_, 0), 0);
-    EXPECT_EQ(canvas_.Pixel(30, 30), kBlue);
+    EXPECT_NE(DrawDib(dib.Build(), canvas_.DC(), &whole_, 0), 0);
+    EXPECT_EQ(canvas_.At(30, 30), kBlue);
     DibBytes masked;
     masked.width = 4;
     masked.height = 1;
@@ -190,31 +190,31 @@ TEST_F(Thumbnail, RunLengthAndMasksDraw) {
     masked.table = {0xF800, 0x07E0, 0x001F};
     for (int i = 0; i < 4; ++i)
         AppendWord(masked.pixels, 0xF800);
-    EXPECT_NE(DrawDib(masked.Build(), canvas_.dc(), &whole_, 0), 0);
-    EXPECT_EQ(canvas_.Pixel(30, 30), RGB(255, 0, 0));
+    EXPECT_NE(DrawDib(masked.Build(), canvas_.DC(), &whole_, 0), 0);
+    EXPECT_EQ(canvas_.At(30, 30), RGB(255, 0, 0));
 }
 
 // The DC's own objects, mapping and clipping are those from before, even if the metafile saves without
 // restoring.
 TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
-    ::SetMapMode(canvas_.dc(), MM_ANISOTROPIC);
-    ::SetViewportOrgEx(canvas_.dc(), 7, 8, nullptr);
-    const HGDIOBJ brush = ::GetCurrentObject(canvas_.dc(), OBJ_BRUSH);
-    const HGDIOBJ pen = ::GetCurrentObject(canvas_.dc(), OBJ_PEN);
+    ::SetMapMode(canvas_.DC(), MM_ANISOTROPIC);
+    ::SetViewportOrgEx(canvas_.DC(), 7, 8, nullptr);
+    const HGDIOBJ brush = ::GetCurrentObject(canvas_.DC(), OBJ_BRUSH);
+    const HGDIOBJ pen = ::GetCurrentObject(canvas_.DC(), OBJ_PEN);
     const ByteVector picture = MetaFileBytes(50, 50)
                                    .Record(0x001E, {})
                                    .Record(0x001E, {})
                                    .FilledRectangle(kBlue, 0, 0, 50, 50)
                                    .Build();
-    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 1);
+    EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 1);
     POINT origin;
-    ::GetViewportOrgEx(canvas_.dc(), &origin);
+    ::GetViewportOrgEx(canvas_.DC(), &origin);
     EXPECT_EQ(origin.x, 7);
     EXPECT_EQ(origin.y, 8);
-    EXPECT_EQ(::GetMapMode(canvas_.dc()), MM_ANISOTROPIC);
-    EXPECT_EQ(::GetCurrentObject(canvas_.dc(), OBJ_BRUSH), brush);
-    EXPECT_EQ(::GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
-    EXPECT_EQ(::SaveDC(canvas_.dc()), 1) << "states were left on the stack";
+    EXPECT_EQ(::GetMapMode(canvas_.DC()), MM_ANISOTROPIC);
+    EXPECT_EQ(::GetCurrentObject(canvas_.DC(), OBJ_BRUSH), brush);
+    EXPECT_EQ(::GetCurrentObject(canvas_.DC(), OBJ_PEN), pen);
+    EXPECT_EQ(::SaveDC(canvas_.DC()), 1) << "states were left on the stack";
 }
 
 TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
@@ -225,7 +225,7 @@ TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
                                    .Record(0x012C, {3})      // clip region of an empty slot: none
                                    .FilledRectangle(kBlue, -500, -500, 1000, 1000)
                                    .Build();
-    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &target, 1), 1);
+    EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &target, 1), 1);
     EXPECT_TRUE(*canvas_.Covered() == target);
 }
 
@@ -237,14 +237,14 @@ TEST_F(Thumbnail, RecordsForOtherDevicesArePassedOver) {
                                    .Record(0x0922, {0, 0, 0, 0, 9, 9, 0, 0, 0, 99, 99, 0, 1, 1})
                                    .FilledRectangle(kBlue, 0, 0, 50, 50)
                                    .Build();
-    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 1);
+    EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 1);
     EXPECT_TRUE(*canvas_.Covered() == whole_);
 }
 
 TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
     const ByteVector picture =
         MetaFileBytes(50, 50).FilledRectangle(kBlue, 0, 0, 50, 50).Record(0x0324, {999, 0, 0}).Build();
-    EXPECT_EQ(DrawMeta(picture, canvas_.dc(), &whole_, 1), 0);
+    EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 0);
     ExpectNothingDrawn();
 }
 
@@ -261,13 +261,13 @@ TEST_F(Thumbnail, PicturesWithoutLengthEndWhereMemoryEnds) {
     const ByteVector dib = BlueDib(20, 20), picture = BluePicture(20, 20);
     for (const size_t missing : {size_t{1}, dib.size() - 40, dib.size() - 20, dib.size() - 1})
         EXPECT_EQ(
-            DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, missing)), canvas_.dc(), &whole_, 1),
+            DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, missing)), canvas_.DC(), &whole_, 1),
             0);
     for (const size_t missing : {size_t{2}, picture.size() - 10, picture.size() - 1})
-        EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, missing), canvas_.dc(), &whole_, 1), 0);
+        EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, missing), canvas_.DC(), &whole_, 1), 0);
     ExpectNothingDrawn();
-    EXPECT_NE(DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, 0)), canvas_.dc(), &whole_, 1), 0);
-    EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, 0), canvas_.dc(), &whole_, 1), 1);
+    EXPECT_NE(DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, 0)), canvas_.DC(), &whole_, 1), 0);
+    EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, 0), canvas_.DC(), &whole_, 1), 1);
     ::VirtualFree(pages, 0, MEM_RELEASE);
 }
 
