@@ -240,7 +240,7 @@ TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
         {});
     const MText& text = *ShapeOf<Apart<MText>>(document);
     EXPECT_EQ(text.text, "Stra\u00DFe");
-    EXPECT_DOUBLE_EQ(text.rotation, 90);
+    EXPECT_EQ(text.direction.y, 2);
     EXPECT_EQ(text.attachment, 5);
 }
 

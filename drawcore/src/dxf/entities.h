@@ -111,9 +111,9 @@ struct MText {
     std::string text; // UTF-8, inline codes as stored: see ReadInlineCodes
     Point insertion;  // world
     double height = 0;
-    double width = 0;    // of the column in which words wrap; 0: none
-    double rotation = 0; // already taken from the direction vector, if there is one
-    int attachment = 1;  // 1 top left, 2 top centre ... 9 bottom right
+    double width = 0;         // of the column in which words wrap; 0: none
+    Point direction{1, 0, 0}; // of the lines, in the world; not of length 1
+    int attachment = 1;       // 1 top left, 2 top centre ... 9 bottom right
     double lineSpacing = 1;
     TextStyleIndex style{};
 };

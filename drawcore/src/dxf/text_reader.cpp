@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "drawcore/src/dxf/entity_reader.h"
+#include "drawcore/src/dxf/geometry.h"
 
 namespace dxf {
 
@@ -99,25 +101,22 @@ void EntityReader::ReadMText(Entity& entity) {
     };
     MText& text = *entity.shape.emplace<Apart<MText>>(std::make_unique<MText>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
-    std::string bytes; // decoded as one: a character may lie on the border of two pieces
-    Point direction{1, 0, 0};
-    bool byDirection = false; // of angle and direction the last one counts
+    std::string bytes;           // decoded as one: a character may lie on the border of two pieces
+    std::optional<double> angle; // of angle and direction the last one counts
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (tag.code == 1 || tag.code == 3) {
             bytes += tag.value;
         } else if (tag.code == 50) {
-            text.rotation = in_.Real(tag);
-            byDirection = false;
+            angle = Radians(in_.Real(tag));
         } else if (tag.code == 11 || tag.code == 21 || tag.code == 31) {
-            in_.SetAxis(direction, tag, tag.code - 11);
-            byDirection = true;
+            in_.SetAxis(text.direction, tag, tag.code - 11);
+            angle.reset();
         } else if (!in_.SetField(kFields, text, tag)) {
             SetCommon(entity);
         }
     }
-    constexpr double kDegrees = 57.29577951308232;
-    if (byDirection) text.rotation = std::atan2(direction.y, direction.x) * kDegrees;
+    if (angle) text.direction = ObjectSystem(entity.normal).Vector({std::cos(*angle), std::sin(*angle), 0});
     text.text = in_.decoder.Decode(bytes);
     text.attachment = std::clamp(text.attachment, 1, 9);
 }

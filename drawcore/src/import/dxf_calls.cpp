@@ -1,0 +1,44 @@
+// The call with which a host program opens a DXF drawing.
+
+#include <new>
+
+#include "drawcore/include/drawcore/dxf.h"
+#include "drawcore/src/database/encoding.h"
+#include "drawcore/src/import/dxf_import.h"
+
+using namespace drawcore;
+
+namespace {
+
+constexpr int kReadingShare = 700; // of 1000: reading takes longer than making the drawing
+
+std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener& listener) {
+    const auto report = [&](int permille) {
+        if (listener.progress) listener.progress(listener.context, permille);
+    };
+    dxf::Document document =
+        dxf::ReadFile(path, [&](int permille) { report(permille * kReadingShare / 1000); });
+    std::unique_ptr<Drawing> drawing = ImportDxf(
+        document, [&](int permille) { report(kReadingShare + permille * (1000 - kReadingShare) / 1000); });
+    for (const dxf::Finding& finding : document.findings)
+        if (listener.finding)
+            listener.finding(listener.context, static_cast<int>(finding.line),
+                             CodePageFromUtf8(finding.text).c_str());
+    report(1000);
+    return drawing;
+}
+
+} // namespace
+
+DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener* listener, char* message, int size) {
+    if (!path) return nullptr;
+    CopyText("", message, size);
+    try {
+        return Open(path, listener ? *listener : DxfListener()).release();
+    } catch (const std::bad_alloc&) {
+        CopyText("there is not enough memory for the drawing", message, size);
+    } catch (const std::exception& error) { // dxf::ReadError; a path that is none
+        CopyText(error.what(), message, size);
+    }
+    return nullptr;
+}

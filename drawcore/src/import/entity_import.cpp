@@ -1,0 +1,221 @@
+#include "drawcore/src/import/entity_import.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawcore/src/dxf/path.h"
+#include "drawcore/src/graphics/ellipse_graphic.h"
+#include "drawcore/src/graphics/insert_graphic.h"
+#include "drawcore/src/graphics/spline_graphic.h"
+#include "drawcore/src/import/brush_import.h"
+#include "drawcore/src/import/text_import.h"
+#include "drawcore/src/import/vertex_builder.h"
+
+namespace drawcore {
+
+namespace {
+
+std::vector<Vec3> AllFromDxf(const std::vector<dxf::Point>& points) {
+    std::vector<Vec3> result;
+    for (const dxf::Point& p : points)
+        result.push_back(FromDxf(p));
+    return result;
+}
+
+// Whether the object system is the world's, perhaps seen from below: circles stay circles.
+bool IsUpright(const dxf::Point& normal) {
+    return normal.x == 0 && normal.y == 0 && normal.z != 0;
+}
+
+std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
+    auto graphic = std::make_unique<VertexGraphic>();
+    VertexBuilder builder(*graphic);
+    dxf::Trace(entity, {}, builder);
+    return graphic;
+}
+
+// A width that is the same throughout is the pen's; else each segment has its own.
+void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
+    const double width = polyline.vertices[0].startWidth;
+    const bool constant =
+        std::all_of(polyline.vertices.begin(), polyline.vertices.end(), [&](const auto& vertex) {
+            return vertex.startWidth == width && vertex.endWidth == width;
+        });
+    if (constant && width > 0) {
+        graphic.pen.width = width;
+        graphic.pen.scaleSystem = kScaleWorld;
+    }
+    for (size_t i = 0; !constant && i < polyline.vertices.size(); ++i) {
+        graphic.vertices[i].startWidth = std::max(polyline.vertices[i].startWidth, 0.0);
+        graphic.vertices[i].endWidth = std::max(polyline.vertices[i].endWidth, 0.0);
+    }
+}
+
+std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline& polyline) {
+    auto graphic = std::make_unique<VertexGraphic>();
+    const dxf::Matrix system = dxf::ObjectSystem(entity.normal);
+    for (const dxf::Polyline::Vertex& from : polyline.vertices) {
+        Vertex& vertex = graphic->vertices.emplace_back(FromDxf(system.Apply(from.at)));
+        vertex.bulge = from.bulge * (entity.normal.z < 0 ? -1 : 1);
+    }
+    graphic->closed = polyline.closed;
+    SetWidths(polyline, *graphic);
+    return graphic;
+}
+
+// The loops that count for a hatch with that handling of islands.
+bool IsFilled(const dxf::Hatch& hatch, const dxf::Hatch::Loop& loop) {
+    enum { kExternal = 1, kOutermost = 16 };
+    enum { kOuter = 1, kIgnore = 2 };
+    const int wanted = hatch.style == kIgnore ? kExternal : kExternal | kOutermost;
+    const auto isWanted = [&](const dxf::Hatch::Loop& some) { return (some.flags & wanted) != 0; };
+    const bool flagged = std::any_of(hatch.loops.begin(), hatch.loops.end(), isWanted);
+    return !flagged || isWanted(loop) || (hatch.style != kOuter && hatch.style != kIgnore);
+}
+
+} // namespace
+
+// Makes the graphic of one entity; null for what shows nothing.
+class ShapeImport {
+public:
+    ShapeImport(EntityImport& importer, const dxf::Entity& entity) : importer_(importer), entity_(entity) {}
+
+    std::unique_ptr<Graphic> operator()(const dxf::Line&) { return Traced(entity_); }
+    std::unique_ptr<Graphic> operator()(const dxf::Leader&) { return Traced(entity_); }
+    std::unique_ptr<Graphic> operator()(const dxf::Circle&) { return Curve(); }
+    std::unique_ptr<Graphic> operator()(const dxf::Arc&) { return Curve(); }
+    std::unique_ptr<Graphic> operator()(const dxf::Ellipse&) { return Curve(); }
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Viewport>&) { return nullptr; }
+
+    std::unique_ptr<Graphic> operator()(const dxf::PointMark& mark) {
+        auto graphic = std::make_unique<VertexGraphic>();
+        graphic->AddVertex(FromDxf(mark.at));
+        graphic->AddVertex(FromDxf(mark.at)); // a segment without length is a dot
+        return graphic;
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Polyline& polyline) {
+        if (polyline.vertices.empty()) return nullptr;
+        if (polyline.kind == dxf::Polyline::Kind::flat && IsUpright(entity_.normal))
+            return MakeFlat(entity_, polyline);
+        return Traced(entity_);
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Spline>& spline) {
+        SplineCurve curve;
+        if (spline->controlPoints.empty())
+            curve = SplineThrough(AllFromDxf(spline->fitPoints), spline->closed);
+        else
+            curve = {spline->degree, spline->knots, AllFromDxf(spline->controlPoints), spline->weights};
+        return std::make_unique<SplineGraphic>(std::move(curve));
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Face>& face) {
+        auto graphic = std::make_unique<VertexGraphic>();
+        const dxf::Matrix system = face->filled ? dxf::ObjectSystem(entity_.normal) : dxf::Matrix();
+        graphic->AddVertex(FromDxf(system.Apply(face->corners[0])));
+        for (size_t edge = 0; edge < 4; ++edge) {
+            const bool drawn = !(face->hiddenEdges >> edge & 1);
+            graphic->AddVertex(FromDxf(system.Apply(face->corners[(edge + 1) % 4])), drawn);
+        }
+        if (face->filled) graphic->brush.style = kBrushSolid;
+        return graphic;
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Hatch>& hatch) {
+        auto graphic = std::make_unique<VertexGraphic>();
+        VertexBuilder builder(*graphic);
+        const dxf::Matrix system =
+            dxf::ObjectSystem(entity_.normal) * dxf::Translation({0, 0, hatch->elevation});
+        for (const dxf::Hatch::Loop& loop : hatch->loops)
+            if (IsFilled(*hatch, loop)) dxf::Trace(loop, system, builder);
+        graphic->brush = ImportBrush(*hatch, *importer_.drawing_.BrushStyles());
+        if (graphic->vertices.empty()) return nullptr;
+        if (graphic->brush.style != kBrushNone) graphic->pen.style = kStyleNone; // a hatch shows no outline
+        return graphic;
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Text>& text) {
+        return ImportText(entity_, *text, importer_.document_.At(text->style));
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::MText>& text) {
+        return ImportText(entity_, *text, importer_.document_.At(text->style));
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Insert>& insert) {
+        return importer_.MakeInsert(entity_, *insert);
+    }
+
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Dimension>& dimension) {
+        if (dimension->block == dxf::BlockIndex::none) return nullptr;
+        const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
+        if (!block) return nullptr;
+        return std::make_unique<InsertGraphic>(block, Matrix::Translation(FromDxf(dimension->offset)));
+    }
+
+private:
+    std::unique_ptr<Graphic> Curve() {
+        const dxf::EllipseArc from = *dxf::ArcOf(entity_);
+        return std::make_unique<EllipseGraphic>(EllipseArc{
+            FromDxf(from.center), FromDxf(from.u), FromDxf(from.v), from.start, from.start + from.sweep});
+    }
+
+    EntityImport& importer_;
+    const dxf::Entity& entity_;
+};
+
+std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert) {
+    const Id block =
+        insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
+    if (!block) return nullptr;
+    // The block's base point is the block's own business.
+    const dxf::Matrix first = dxf::InsertMatrix(entity, insert, dxf::Block(), 0, 0);
+    const dxf::Matrix turned =
+        dxf::ObjectSystem(entity.normal) * dxf::Rotation(dxf::Radians(insert.rotation));
+    auto graphic = std::make_unique<InsertGraphic>(
+        block, Matrix::FromAxes(FromDxf(first.x), FromDxf(first.y), FromDxf(first.z), FromDxf(first.origin)));
+    graphic->array.columns = static_cast<int>(insert.columns);
+    graphic->array.rows = static_cast<int>(insert.rows);
+    graphic->array.columnStep = FromDxf(turned.Vector({insert.columnSpacing, 0, 0}));
+    graphic->array.rowStep = FromDxf(turned.Vector({0, insert.rowSpacing, 0}));
+    return graphic;
+}
+
+void EntityImport::SetLook(Graphic& graphic, const dxf::Entity& entity) const {
+    Pen& pen = graphic.pen;
+    const dxf::Layer& layer = document_.At(entity.layer);
+    graphic.layer = tables_.layers[static_cast<size_t>(entity.layer)];
+    if (pen.color == kByLayer) pen.color = ColorOfDxf(std::abs(entity.color), entity.trueColor);
+    if (entity.lineTypeScale > 0) pen.scale = entity.lineTypeScale;
+    if (pen.style == kStyleByLayer && entity.lineType == dxf::LineTypeIndex::byBlock)
+        pen.style = kStyleByBlock;
+    else if (pen.style == kStyleByLayer && entity.lineType != dxf::LineTypeIndex::byLayer)
+        pen.style = tables_.lineStyles[static_cast<size_t>(entity.lineType)];
+    const auto* polyline = std::get_if<dxf::Polyline>(&entity.shape);
+    pen.alignment = !(polyline && polyline->dashesThrough);
+    const int weight = entity.lineWeight == dxf::kLineWeightByLayer ? layer.lineWeight : entity.lineWeight;
+    constexpr double kInch = 2540; // in hundredths of a millimetre
+    if (weight > 0 && pen.width == 0) pen.width = weight / kInch;
+}
+
+void EntityImport::AddAttributes(Graphic& group, const dxf::Insert& insert) {
+    for (const dxf::Entity& attribute : insert.attributes)
+        AddTo(group, attribute, false);
+}
+
+void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock) {
+    const auto* text = std::get_if<dxf::Apart<dxf::Text>>(&entity.shape);
+    if (entity.invisible || (inBlock && text && (*text)->role == dxf::Text::Role::definition)) return;
+    std::unique_ptr<Graphic> graphic = std::visit(ShapeImport(*this, entity), entity.shape);
+    Graphic* added = nullptr;
+    if (graphic) {
+        SetLook(*graphic, entity);
+        added = group.Add(std::move(graphic));
+    }
+    // The attributes of an insertion that shows nothing itself stand alone.
+    if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
+        AddAttributes(added ? *added : group, **insert);
+}
+
+} // namespace drawcore

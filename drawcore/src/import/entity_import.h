@@ -1,0 +1,33 @@
+// Graphics from the entities of a DXF document.
+#pragma once
+
+#include <memory>
+
+#include "drawcore/src/dxf/document.h"
+#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/import/import_tables.h"
+
+namespace drawcore {
+
+class EntityImport {
+public:
+    EntityImport(const dxf::Document& document, const ImportedTables& tables, Drawing& drawing)
+        : document_(document), tables_(tables), drawing_(drawing) {}
+
+    // Adds what the entity shows to the group: as a rule one graphic, none for what shows nothing. What stands in a block
+    // leaves out definitions of attributes.
+    void AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock);
+
+private:
+    friend class ShapeImport;
+
+    std::unique_ptr<Graphic> MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert);
+    void AddAttributes(Graphic& group, const dxf::Insert& insert);
+    void SetLook(Graphic& graphic, const dxf::Entity& entity) const;
+
+    const dxf::Document& document_;
+    const ImportedTables& tables_;
+    Drawing& drawing_;
+};
+
+} // namespace drawcore

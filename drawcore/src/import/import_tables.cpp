@@ -1,0 +1,118 @@
+#include "drawcore/src/import/import_tables.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "drawcore/src/database/encoding.h"
+#include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/units/unit_settings.h"
+
+namespace drawcore {
+
+namespace {
+
+constexpr size_t kLongestName = 255;
+
+std::string HostName(const std::string& stored) {
+    std::string name = CodePageFromUtf8(dxf::ToDisplayText(stored)).substr(0, kLongestName);
+    return name.empty() ? "(no name)" : name;
+}
+
+// The entry of that name, which is made if there is none yet; 0 if the table is full.
+template <class Entry, class Make>
+Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
+    const Id known = table.IdOf(name);
+    return known ? known : table.Add(make(name));
+}
+
+// A pattern that a line can be drawn with; else a solid line.
+std::vector<double> SoundPattern(const std::vector<double>& dashes) {
+    constexpr size_t kMostItems = 64;
+    double length = 0;
+    for (const double item : dashes)
+        length += std::fabs(item);
+    return length > 0 && dashes.size() <= kMostItems ? dashes : std::vector<double>();
+}
+
+Id ImportLineStyle(const dxf::LineType& type, LineStyleTable& styles) {
+    const Id id = FindOrAdd(styles, HostName(type.name), [&](const std::string& name) {
+        const std::string description = CodePageFromUtf8(dxf::ToDisplayText(type.description));
+        return std::make_unique<LineStyle>(name, description, SoundPattern(type.dashes));
+    });
+    return id ? id : styles.First();
+}
+
+bool IsInherited(const dxf::LineType& type) {
+    const std::string name = FoldName(type.name);
+    return name == "bylayer" || name == "byblock";
+}
+
+Id ImportLayer(const dxf::Layer& from, const LineStyleTable& styles, LayerTable& layers) {
+    const auto make = [](const std::string& name) { return std::make_unique<Layer>(name); };
+    const Id id = FindOrAdd(layers, HostName(from.name), make);
+    Layer* layer = layers.At(id);
+    if (!layer) return kLayerZero;
+    const Color color = ColorOfDxf(std::abs(from.color), from.trueColor);
+    layer->color = IsPlainColor(color) ? color : kWhite;
+    layer->lineStyle = styles.IdOf(HostName(from.lineType));
+    layer->off = from.color < 0;
+    layer->frozen = from.flags & 1;
+    layer->locked = from.flags & 4;
+    return id;
+}
+
+bool IsLayout(const std::string& name) {
+    const std::string folded = FoldName(name);
+    return folded.compare(0, 12, "*model_space") == 0 || folded.compare(0, 12, "*paper_space") == 0 ||
+           folded.compare(0, 12, "$model_space") == 0 || folded.compare(0, 12, "$paper_space") == 0;
+}
+
+Id ImportBlock(const dxf::Block& from, BlockTable& blocks) {
+    if (!from.declared || IsLayout(from.name)) return kNoId;
+    auto block = std::make_unique<Block>(HostName(from.name), std::make_unique<VertexGraphic>());
+    block->base = {from.base.x, from.base.y, from.base.z};
+    block->Content().Attach(blocks.Owner());
+    return blocks.Add(std::move(block));
+}
+
+void ImportUnits(const dxf::Header& header, Table& units) {
+    const LengthUnit* unit = LengthUnitOfDxf(header.unit);
+    UnitSettings settings;
+    if (unit)
+        settings.drawingUnit = unit->name;
+    else if (header.metric == 0)
+        settings.drawingUnit = "in";
+    const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
+    if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
+    settings.linearDigits = std::clamp(header.lengthDigits, 0, 8);
+    settings.Store(units);
+}
+
+} // namespace
+
+Color ColorOfDxf(int index, int32_t trueColor) {
+    if (trueColor >= 0) {
+        const auto rgb = static_cast<uint32_t>(trueColor);
+        return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF);
+    }
+    if (index == dxf::kColorByBlock) return kByBlock;
+    return index >= 1 && index <= 255 ? ColorOfIndex(index) : kByLayer;
+}
+
+ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
+    ImportedTables tables;
+    LineStyleTable& styles = *drawing.LineStyles();
+    for (const dxf::LineType& type : document.lineTypes)
+        tables.lineStyles.push_back(IsInherited(type) ? styles.First() : ImportLineStyle(type, styles));
+    for (const dxf::Layer& layer : document.layers)
+        tables.layers.push_back(ImportLayer(layer, styles, *drawing.Layers()));
+    for (const dxf::Block& block : document.blocks)
+        tables.blocks.push_back(ImportBlock(block, *drawing.Blocks()));
+    ImportUnits(document.header, *drawing.Units());
+    if (document.header.lineTypeScale > 0) drawing.lineScale = document.header.lineTypeScale;
+    return tables;
+}
+
+} // namespace drawcore

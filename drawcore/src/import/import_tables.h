@@ -1,0 +1,25 @@
+// The tables of a drawing from those of a DXF document: line styles, layers, units.
+#pragma once
+
+#include <vector>
+
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/dxf/document.h"
+
+namespace drawcore {
+
+// Identifiers in the drawing's tables by position in the document's lists. What found no room in a full table has the
+// identifier of the first entry: "Continuous", layer "0".
+struct ImportedTables {
+    std::vector<Id> lineStyles;
+    std::vector<Id> layers;
+    std::vector<Id> blocks; // no identifier for what is only mentioned, and for model and paper space
+};
+
+// Fills tables and units; the blocks are still empty.
+ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
+
+// A colour number of an entity (256 by layer, 0 by block) or its true colour (-1: none).
+Color ColorOfDxf(int index, int32_t trueColor);
+
+} // namespace drawcore
