@@ -288,9 +288,9 @@ TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
     std::string all;
     for (const Finding& finding : document.findings)
         all += finding.text + "\n";
-    EXPECT_EQ(all, "an insert of block 'B' is left out: the block contains itself\n"
-                   "an insert of block 'SELF' is left out: the block contains itself\n"
-                   "an insert of block 'missing' is left out: there is no such block\n");
+    EXPECT_EQ(all, "block 'B' is not shown here: the block contains itself\n"
+                   "block 'SELF' is not shown here: the block contains itself\n"
+                   "block 'missing' is not shown here: there is no such block\n");
 }
 
 TEST(References, LongChainsAndManyPartsAreCut) {

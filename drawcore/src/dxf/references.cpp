@@ -98,7 +98,7 @@ private:
         }
         *reference.block = BlockIndex::none;
         in_.Report(entity.line,
-                   "an insert of block " + Quoted(drawing_.blocks[inner].name) + " is left out: " + reason);
+                   "block " + Quoted(drawing_.blocks[inner].name) + " is not shown here: " + reason);
     }
 
     RecordReader& in_;

@@ -145,8 +145,10 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
                                         const dxf::TextStyle& style) {
     const double height = SoundHeight(text.height, style);
     const dxf::FormattedText formatted = dxf::ReadInlineCodes(text.text, height);
-    const std::string plain = formatted.Plain();
+    std::string plain = formatted.Plain();
     if (plain.empty()) return nullptr;
+    for (size_t tab; (tab = plain.find('\t')) != plain.npos;)
+        plain.replace(tab, 1, "    ");
     const dxf::InlineFormat format = formatted.Prevailing();
     auto graphic = std::make_unique<TextGraphic>();
     TextState& state = graphic->state;

@@ -1,0 +1,293 @@
+// Drawings opened into the database: what its tables, properties and boxes say of them.
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include "drawcore/include/drawcore/census.h"
+#include "drawcore/include/drawcore/drawing.h"
+#include "drawcore/include/drawcore/dxf.h"
+#include "drawcore/include/drawcore/graphic.h"
+#include "drawcore/include/drawcore/layer.h"
+#include "drawcore/src/dxf/extents.h"
+#include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/graphics/extents.h"
+#include "orlo/host/host.h"
+#include "tests/dxf/drawing_text.h"
+#include "tests/dxf/extents_rows.h"
+#include "tests/dxf/test_files.h"
+
+namespace {
+
+struct DisposeDrawing {
+    void operator()(DrawingStruct* drawing) const { DrawingDispose(&drawing); }
+};
+using OwnedDrawing = std::unique_ptr<DrawingStruct, DisposeDrawing>;
+
+struct Heard {
+    std::vector<int> progress;
+    std::string findings;
+    char message[256] = "not written";
+};
+
+OwnedDrawing Open(const std::wstring& path, Heard& heard) {
+    const auto progress = [](void* context, int permille) {
+        static_cast<Heard*>(context)->progress.push_back(permille);
+    };
+    const auto finding = [](void* context, int line, const char* text) {
+        static_cast<Heard*>(context)->findings += std::to_string(line) + " " + text + "\n";
+    };
+    const DxfListener listener = {&heard, progress, finding};
+    return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
+}
+
+// A file that is there as long as the test needs it.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::string& bytes) {
+        wchar_t folder[MAX_PATH];
+        ::GetTempPathW(MAX_PATH, folder);
+        path = folder + std::wstring(L"Gr\u00FC\u00DFe \u4E57.dxf");
+        FILE* file = ::_wfopen(path.c_str(), L"wb");
+        std::fwrite(bytes.data(), 1, bytes.size(), file);
+        std::fclose(file);
+    }
+    ~TemporaryFile() { ::DeleteFileW(path.c_str()); }
+
+    std::wstring path;
+};
+
+OwnedDrawing OpenText(const std::string& bytes, Heard& heard) {
+    return Open(TemporaryFile(bytes).path, heard);
+}
+
+OwnedDrawing OpenText(const std::string& bytes) {
+    Heard heard;
+    OwnedDrawing drawing = OpenText(bytes, heard);
+    EXPECT_TRUE(drawing) << heard.message;
+    return drawing;
+}
+
+std::vector<GraphicStruct*> Members(GraphicStruct* set) {
+    std::vector<GraphicStruct*> members;
+    uint32_t position = 0;
+    for (GraphicStruct* at = GraphicFirst(set, &position, 1, 0xFFFFFFFF); at;
+         at = GraphicNext(set, &position, 1, 0xFFFFFFFF))
+        members.push_back(at);
+    return members;
+}
+
+std::vector<GraphicStruct*> Members(const OwnedDrawing& drawing) {
+    return Members(DrawingGetRoot(drawing.get()));
+}
+
+// NaN if the graphic has no such property.
+double Number(GraphicStruct* graphic, const char* name) {
+    const PropertyTable* table = GraphicGetVtbl(graphic);
+    int32_t number = 0;
+    double value = 0;
+    int32_t whole = 0;
+    if (!table->PropLookup(graphic, &name, 1, 0, &number)) return std::nan("");
+    if (table->PropGet(graphic, number, VT_R8, &value)) return value;
+    return table->PropGet(graphic, number, VT_I4, &whole) ? static_cast<uint32_t>(whole) : std::nan("");
+}
+
+std::string NameOf(DrawingStruct* drawing, const char* table, double id) {
+    char name[256] = "";
+    TableEntryGetName(DrawingGetTable(drawing, table), static_cast<uint16_t>(id), name, sizeof name);
+    return name;
+}
+
+const drawcore::Extents& BoxOf(const OwnedDrawing& drawing) {
+    return *drawcore::Extents::From(GraphicGetExtentsSel(DrawingGetRoot(drawing.get()), 0));
+}
+
+const char kTables[] =
+    "0|LTYPE|2|ByLayer|0|LTYPE|2|Dashed|3|- - -|40|0.75|49|0.5|49|-0.25|0|LTYPE|2|Zero|49|0|"
+    "0|LAYER|2|WALLS|62|-1|70|5|6|DASHED|370|25|0|LAYER|2|\xD0\x9E\xD1\x81\xD0\xB8|420|255";
+
+std::string Drawing2007(const std::string& entities, const std::string& blocks = "") {
+    return Section("HEADER", "9|$ACADVER|1|AC1021|9|$INSUNITS|70|1") + Section("TABLES", kTables) +
+           Drawing(entities, blocks);
+}
+
+TEST(Import, OpensWhatTheReaderReadsOrNothing) {
+    for (const std::string& folder : DrawingFolders()) {
+        WIN32_FIND_DATAA found;
+        const HANDLE search = ::FindFirstFileA((folder + "*.dxf").c_str(), &found);
+        ASSERT_NE(search, INVALID_HANDLE_VALUE);
+        do {
+            DrawCoreCensus before{}, after{};
+            DrawCoreGetCensus(&before);
+            const std::string file = folder + found.cFileName;
+            Heard heard;
+            OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), heard);
+            try {
+                const dxf::Box box = dxf::Extents(dxf::ReadFile(file, {}));
+                ASSERT_TRUE(drawing) << file << heard.message;
+                EXPECT_TRUE(std::is_sorted(heard.progress.begin(), heard.progress.end())) << file;
+                EXPECT_EQ(heard.progress.back(), 1000) << file;
+                if (!box.IsEmpty()) {
+                    const drawcore::Extents& own = BoxOf(drawing);
+                    const double slack =
+                        1e-3 * (box.High().x - box.Low().x + box.High().y - box.Low().y); // splines
+                    EXPECT_LE(own.low.x, box.Low().x + slack) << file;
+                    EXPECT_LE(own.low.y, box.Low().y + slack) << file;
+                    EXPECT_GE(own.high.x, box.High().x - slack) << file;
+                    EXPECT_GE(own.high.y, box.High().y - slack) << file;
+                }
+            } catch (const dxf::ReadError& error) {
+                EXPECT_FALSE(drawing) << file;
+                EXPECT_STREQ(heard.message, error.what()) << file;
+            }
+            drawing.reset();
+            DrawCoreGetCensus(&after);
+            EXPECT_EQ(before.graphics, after.graphics) << file;
+        } while (::FindNextFileA(search, &found));
+        ::FindClose(search);
+    }
+}
+
+TEST(Import, AFileThatIsNotThereGivesAMessage) {
+    Heard heard;
+    EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", heard));
+    EXPECT_STREQ(heard.message, "the file cannot be opened");
+    EXPECT_FALSE(DrawingOpenDxf(nullptr, nullptr, nullptr, 0));
+}
+
+TEST(Import, TablesAreThoseOfTheFile) {
+    const OwnedDrawing drawing = OpenText(
+        Drawing2007("0|LINE|8|mentioned", "0|BLOCK|2|Door|0|ENDBLK|0|BLOCK|2|*Model_Space|0|ENDBLK"));
+    DrawingStruct* const d = drawing.get();
+    TableStruct* const layers = DrawingGetTable(d, "_Layers_");
+    const uint16_t walls = TableEntryGetIDFirst(layers, nullptr, "walls");
+    EXPECT_EQ(LayerGetColor(d, walls), RGB(255, 0, 0));
+    EXPECT_EQ(LayerGetFlags(d, walls), kLayerOff | kLayerFrozen | kLayerLocked);
+    EXPECT_EQ(NameOf(d, "_LineStyles_", LayerGetLineStyle(d, walls)), "Dashed");
+    const uint16_t axes =
+        TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not of the code page
+    EXPECT_EQ(LayerGetColor(d, axes), RGB(0, 0, 255));
+    EXPECT_NE(TableEntryGetIDFirst(layers, nullptr, "mentioned"), 0);
+    TableStruct* const styles = DrawingGetTable(d, "_LineStyles_");
+    EXPECT_EQ(LineStyleGetDLItems(styles, TableEntryGetIDFirst(styles, nullptr, "DASHED")), 2);
+    EXPECT_EQ(LineStyleGetDLItems(styles, TableEntryGetIDFirst(styles, nullptr, "Zero")),
+              0); // no length: solid
+    EXPECT_EQ(TableEntryGetIDFirst(styles, nullptr, "ByLayer"), 0);
+    TableStruct* const blocks = DrawingGetTable(d, "_Blocks_");
+    EXPECT_NE(TableEntryGetIDFirst(blocks, nullptr, "Door"), 0);
+    EXPECT_EQ(TableEntryGetIDFirst(blocks, nullptr, "*Model_Space"), 0);
+    char unit[16] = "";
+    TableGetStringVar(DrawingGetTable(d, "_Units_"), kUnitPenWidth, unit, sizeof unit);
+    EXPECT_STREQ(unit, "in");
+}
+
+TEST(Import, GraphicsLookAsInTheFile) {
+    struct Row {
+        const char* entity;
+        const char* property;
+        double value;
+    };
+    const Row rows[] = {
+        {"0|LINE", "PenColor", 0xFFFFFFFD}, // by layer
+        {"0|LINE", "PenStyle", 0xFFFE},
+        {"0|LINE|62|0|6|BYBLOCK", "PenColor", 0xFFFFFFFC},
+        {"0|LINE|62|0|6|BYBLOCK", "PenStyle", 0xFFFD},
+        {"0|LINE|62|3", "PenColor", 0x00FF00},
+        {"0|LINE|62|3|420|16711935", "PenColor", 0xFF00FF},
+        {"0|LINE|420|255", "PenColor", 0xFF0000},
+        {"0|LINE|48|2.5", "PenScale", 2.5},
+        {"0|LINE|370|127", "PenWidth", 0.05}, // inches
+        {"0|LINE|370|127", "ScaleSystem", 2}, // on paper
+        {"0|LINE|8|WALLS", "PenWidth", 25 / 2540.0},
+        {"0|LINE", "PenWidth", 0},
+        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", "PenWidth", 1.5},
+        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", "ScaleSystem", 0}, // in the drawing
+        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", "PenWidth",
+         0}, // its segments have widths of their own
+        {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", "PenAlignment", 0},
+        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushStyle", 1},
+        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushColor", 0xFFFFFFFB}, // as the pen
+        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", "BrushStyle", 1},
+        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", "PenStyle", 0},
+        {"0|CIRCLE|40|1|8|WALLS", "Layer", 2},
+        {"0|TEXT|40|3|1|x", "TextSize", 3},
+        {"0|TEXT|40|3|1|x|72|2", "TextFormat", 2},
+        {"0|TEXT|40|3|1|%%ux", "TextStyle", 0x100},
+        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", "TextStyle", 0x100},
+        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", "TextSize", 6},
+        {"0|MTEXT|40|3|1|\\C2;x", "PenColor", 0x00FFFF},
+        {"0|MTEXT|40|3|1|x|71|6", "TextFormat", 2},
+    };
+    for (const Row& row : rows) {
+        const OwnedDrawing drawing = OpenText(Drawing2007(std::string(row.entity)));
+        const auto members = Members(drawing);
+        ASSERT_EQ(members.size(), 1u) << row.entity;
+        EXPECT_DOUBLE_EQ(Number(members[0], row.property), row.value) << row.entity << " " << row.property;
+    }
+}
+
+TEST(Import, EverythingLiesInItsPlace) {
+    for (const ExtentsRow& row : kExtentsRows) {
+        const OwnedDrawing drawing = OpenText(Drawing(row.entities, kExtentsBlocks));
+        const drawcore::Extents& box = BoxOf(drawing);
+        if (std::string(row.entities).find("ATTRIB") != std::string::npos)
+            continue;                  // a text without letters is none
+        constexpr double kNear = 2e-3; // arcs that no bulge can show are short lines
+        EXPECT_LE(box.low.x, row.x1 + kNear) << row.name;
+        EXPECT_LE(box.low.y, row.y1 + kNear) << row.name;
+        EXPECT_GE(box.high.x, row.x2 - kNear) << row.name;
+        EXPECT_GE(box.high.y, row.y2 - kNear) << row.name;
+        if (std::string(row.entities).find("INSERT") != std::string::npos) continue; // its box may be wider
+        EXPECT_GE(box.low.x, row.x1 - kNear) << row.name;
+        EXPECT_GE(box.low.y, row.y1 - kNear) << row.name;
+        EXPECT_LE(box.high.x, row.x2 + kNear) << row.name;
+        EXPECT_LE(box.high.y, row.y2 + kNear) << row.name;
+    }
+}
+
+TEST(Import, HatchesOfOnePatternShareItsStyle) {
+    const std::string hatch = "0|HATCH|2|Brick|91|1|92|2|10|0|20|0|10|9|20|0|10|0|20|9|75|0|";
+    const OwnedDrawing drawing = OpenText(Drawing(
+        hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|1|79|0|" +      // spacing cos 45 degrees
+        hatch + "52|90|41|10|78|1|53|135|43|7|44|7|45|-10|46|0|79|0|" + // the same, larger, turned and moved
+        hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
+    const auto members = Members(drawing);
+    ASSERT_EQ(members.size(), 3u);
+    EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[0], "BrushStyle")), "Brick");
+    EXPECT_EQ(Number(members[1], "BrushStyle"), Number(members[0], "BrushStyle"));
+    EXPECT_EQ(Number(members[1], "BrushScale"), 10);
+    EXPECT_NEAR(Number(members[1], "BrushAngle"), dxf::kPi / 2, 1e-12);
+    EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[2], "BrushStyle")), "Brick 2");
+}
+
+TEST(Import, AttributesBelongToTheirInsertion) {
+    const std::string blocks = "0|BLOCK|2|Door|0|LINE|11|5|0|ATTDEF|40|1|2|NO|1|default|0|ENDBLK";
+    const std::string attribute = "0|ATTRIB|40|1|2|NO|1|17|0|SEQEND|";
+    const OwnedDrawing drawing = OpenText(Drawing(
+        "0|INSERT|2|DOOR|66|1|" + attribute + "0|INSERT|2|gone|66|1|" + attribute + "0|ATTDEF|40|1|2|TAG",
+        blocks));
+    const auto members = Members(drawing);
+    ASSERT_EQ(members.size(), 3u); // the attribute of the insertion without a block stands alone
+    EXPECT_EQ(GraphicGetKind(members[0]), uint32_t{kKindInsert});
+    ASSERT_EQ(Members(members[0]).size(), 1u);
+    EXPECT_EQ(GraphicGetKind(members[1]), uint32_t{kKindText});
+    EXPECT_EQ(GraphicGetKind(members[2]), uint32_t{kKindText}); // its tag
+}
+
+TEST(Import, SaysWhatItLeavesOut) {
+    Heard heard;
+    const OwnedDrawing drawing =
+        OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
+    EXPECT_EQ(Members(drawing).size(), 0u);
+    EXPECT_EQ(heard.findings, "17 LINE is left out: a number that has no place in a drawing, in line 20\n"
+                              "11 1 of type RAY not shown: this type is not read\n"
+                              "0 1 entities of paper space are not shown\n");
+    EXPECT_STREQ(heard.message, "");
+}
+
+} // namespace
