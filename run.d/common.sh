@@ -36,8 +36,11 @@ wine_session() {
         export DISPLAY=:$number
     fi
     wineserver -p
-    wine build/bin/keeper.exe &
+    # Waits for its window: what the first program starts for all (services, desktop) would otherwise be started by a
+    # test, and hold the pipe open that the test's reader waits on.
+    exec {keeper_fd}< <(exec wine build/bin/keeper.exe </dev/null 2>/dev/null)
     keeper_pid=$!
+    read -r -t 60 -u "$keeper_fd" || die "Wine's desktop did not start"
 }
 
 wine_session_end() {

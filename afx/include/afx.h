@@ -164,7 +164,7 @@ public:
     int ReverseFind(char ch) const;
 
     void Format(LPCSTR lpszFormat, ...)
-#if defined(__GNUC__)
+#if defined(__GNUC__) && !defined(__clang__)
         __attribute__((format(gnu_printf, 2, 3)))
 #endif
         ;

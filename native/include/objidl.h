@@ -6,6 +6,8 @@
 using ULONG = std::uint32_t;
 using HRESULT = std::int32_t;
 
+#define STDMETHODCALLTYPE
+
 constexpr HRESULT S_OK = 0;
 constexpr HRESULT S_FALSE = 1;
 constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001);
@@ -44,9 +46,9 @@ enum STREAM_SEEK { STREAM_SEEK_SET = 0, STREAM_SEEK_CUR = 1, STREAM_SEEK_END = 2
 
 // The part of the interface that reads, writes and moves. On Windows its virtual operations are more.
 struct IStream {
-    virtual HRESULT Read(void* buffer, ULONG size, ULONG* done) = 0;
-    virtual HRESULT Write(const void* buffer, ULONG size, ULONG* done) = 0;
-    virtual HRESULT Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Read(void* buffer, ULONG size, ULONG* done) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Write(const void* buffer, ULONG size, ULONG* done) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position) = 0;
 
 protected:
     ~IStream() = default;

@@ -1,10 +1,14 @@
 // Keeps Wine's desktop process alive through a run: without one window open at all times it ends with the
-// last windowed program, and the next start waits for a new one.
+// last windowed program, and the next start waits for a new one. Says "ready" when the desktop is there.
 
 #include <windows.h>
 
+#include <cstdio>
+
 int main() {
     ::CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    std::puts("ready");
+    std::fflush(stdout);
     MSG message;
     while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
 }

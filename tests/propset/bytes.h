@@ -1,0 +1,28 @@
+// Bytes as tests write them.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+using Bytes = std::vector<uint8_t>;
+
+// "0a0b"_hex
+inline Bytes operator""_hex(const char* digits, size_t size) {
+    Bytes bytes;
+    for (size_t i = 0; i + 1 < size; i += 2)
+        bytes.push_back(static_cast<uint8_t>(std::stoul(std::string(digits + i, 2), nullptr, 16)));
+    return bytes;
+}
+
+inline Bytes operator+(Bytes a, const Bytes& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+inline Bytes LittleEndian(uint32_t number) {
+    Bytes bytes(4);
+    std::memcpy(bytes.data(), &number, 4);
+    return bytes;
+}

@@ -1,0 +1,69 @@
+// A stream in memory that can be told to fail, for the tests of property sets on both systems.
+#pragma once
+
+#include <objidl.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+class MemoryStream : public IStream {
+public:
+    MemoryStream() = default;
+    explicit MemoryStream(std::vector<uint8_t> bytes) : bytes_(std::move(bytes)) {}
+    virtual ~MemoryStream() = default;
+
+    const std::vector<uint8_t>& Content() const { return bytes_; }
+    ULONGLONG Position() const { return position_; }
+    void Rewind(ULONGLONG position = 0) { position_ = position; }
+    // So many bytes come from reading (go by writing), then no more; the call that meets the limit is a short one.
+    void LimitReads(size_t bytes) { readable_ = bytes; }
+    void LimitWrites(size_t bytes) { writable_ = bytes; }
+    int Calls() const { return calls_; }
+
+    HRESULT STDMETHODCALLTYPE Read(void* buffer, ULONG size, ULONG* done) override;
+    HRESULT STDMETHODCALLTYPE Write(const void* buffer, ULONG size, ULONG* done) override;
+    HRESULT STDMETHODCALLTYPE Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position) override;
+
+#if defined(_WIN32)
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override {
+        return 1;
+    }
+    ULONG STDMETHODCALLTYPE Release() override {
+        return 1;
+    }
+    HRESULT STDMETHODCALLTYPE SetSize(ULARGE_INTEGER) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Commit(DWORD) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Revert() override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Stat(STATSTG*, DWORD) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Clone(IStream**) override {
+        return E_NOTIMPL;
+    }
+#endif
+
+private:
+    std::vector<uint8_t> bytes_;
+    ULONGLONG position_ = 0;
+    size_t readable_ = SIZE_MAX;
+    size_t writable_ = SIZE_MAX;
+    int calls_ = 0;
+};
