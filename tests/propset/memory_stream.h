@@ -8,11 +8,13 @@
 #include <cstring>
 #include <vector>
 
-class MemoryStream : public IStream {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // the system's interface has none; nobody deletes through it
+
+class MemoryStream final : public IStream {
 public:
     MemoryStream() = default;
     explicit MemoryStream(std::vector<uint8_t> bytes) : bytes_(std::move(bytes)) {}
-    virtual ~MemoryStream() = default;
 
     const std::vector<uint8_t>& Content() const { return bytes_; }
     ULONGLONG Position() const { return position_; }
@@ -67,3 +69,5 @@ private:
     size_t writable_ = SIZE_MAX;
     int calls_ = 0;
 };
+
+#pragma GCC diagnostic pop
