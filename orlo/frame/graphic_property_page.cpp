@@ -49,8 +49,22 @@ unsigned int CGraphicPropertyPage::GetTemplateNumber() const { return m_nIDTempl
 
 CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
 
+namespace {
+
+// Labels of the templates are tab stops; the keyboard has nothing to do there.
+void PassOverLabels(HWND dialog) {
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
+        if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
+            ::SetWindowLongPtrA(child, GWL_STYLE, style & ~WS_TABSTOP);
+    }
+}
+
+} // namespace
+
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
+    PassOverLabels(m_hWnd);
     const BOOL result = COrloPropertyPage::OnInitDialog();
     AddPreviewGraphic();
     m_bInitializing = 0;

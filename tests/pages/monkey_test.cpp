@@ -32,14 +32,17 @@ public:
         case 6:
         case 7: Click(RandomChild()); break;
         case 8: ::SetFocus(RandomChild()); break;
-        case 9: ::SendMessageA(RandomChild(), CB_SHOWDROPDOWN, Below(2), 0); break;
-        case 10: ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER); break;
-        case 11:
+        case 9: ::InvalidateRect(m_sheet.m_hWnd, nullptr, TRUE); break;
+        case 10:
             if (Below(8) == 0) m_user.SelectPage(Below(m_sheet.GetPageCount()));
-            ::InvalidateRect(m_sheet.m_hWnd, nullptr, TRUE);
+            break;
+        case 11: // rarer: top-level windows are slow to show and to move
+            if (Below(16) == 0) ::SendMessageA(RandomChild(), CB_SHOWDROPDOWN, Below(2), 0);
+            if (Below(16) == 0) Move();
             break;
         }
         m_user.Pump();
+        if (!::IsChild(m_user.Page(), ::GetFocus())) ::SetFocus(RandomChild()); // not on OK, where a key ends it all
     }
 
 private:
@@ -49,6 +52,10 @@ private:
         HWND child = ::GetWindow(m_user.Page(), GW_CHILD);
         for (int steps = Below(16); steps > 0 && child != nullptr; --steps) child = ::GetWindow(child, GW_HWNDNEXT);
         return child != nullptr ? child : m_user.Page();
+    }
+
+    void Move() {
+        ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
 
     // A notification out of the blue, of any control and any code.

@@ -21,9 +21,10 @@
 
 namespace {
 
-enum : int { kStyle = 32021, kAlign = 110, kColor = 32005, kSystem = 109, kScale = 104, kStyleName = 112, kWidth = 103 };
+enum : int { kStyle = 32021, kAlign = 110, kColor = 32005, kSystem = 109, kScale = 104, kStyleName = 112, kWidth = 103, kTabs = 0x3020 };
 constexpr unsigned int kPen = 29001;
 constexpr double kInch = 25.4;
+constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colours in colour order
 
 class PenPage : public ::testing::Test {
 protected:
@@ -126,15 +127,16 @@ struct Edit {
 // One control changed over a mixed selection: its property reaches both, all others stay each graphic's own.
 TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
     const Edit kEdits[] = {
-        {"color", [](SheetDriver& user) { user.Choose(kColor, 0); }, "PenColor", 0},
+        {"color", [](SheetDriver& user) { user.Choose(kColor, 0); }, "PenColor", kDarkest},
         {"width", [](SheetDriver& user) { user.Type(kWidth, "5 mm"); }, "PenWidth", 5 / kInch},
         {"scale", [](SheetDriver& user) { user.Type(kScale, "4.5"); }, "PenScale", 4.5},
         {"style", [&](SheetDriver& user) {
              user.Focus(kStyle);
+             user.Key(VK_END); // without a selection the first key selects where the caret is
              user.Key(VK_END);
          }, "PenStyle", 65534},
         {"system", [](SheetDriver& user) { user.Choose(kSystem, 1); }, "ScaleSystem", 2},
-        {"alignment", [](SheetDriver& user) { user.Click(kAlign); }, "PenAlignment", 1},
+        {"alignment", [](SheetDriver& user) { user.Click(kAlign); }, "PenAlignment", 0},
     };
     AddMixed();
     for (const Edit& edit : kEdits) {
@@ -272,7 +274,7 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
         EXPECT_EQ(0xFFul, color);
         user.Choose(kColor, 0);
         page.GetPropText("PenColor", &color, 1);
-        EXPECT_EQ(0ul, color);
+        EXPECT_EQ(kDarkest, color);
         user.Type(kWidth, "3 mm");
         page.GetPropText("PenWidth", &width, 1);
         EXPECT_NEAR(3 / kInch, width, 1e-9);
@@ -311,13 +313,13 @@ TEST_F(PenPage, TabsThroughAllItsControls) {
         user.Focus(kStyle);
         for (int i = 0; i < 12; ++i) {
             HWND focus = ::GetFocus();
-            if (!::GetDlgItem(user.Page(), ::GetDlgCtrlID(focus))) focus = ::GetParent(focus); // the edit inside a combo
+            if (::GetParent(focus) == user.Control(kWidth)) focus = ::GetParent(focus); // the edit inside the combo
             const int id = ::GetDlgCtrlID(focus);
             if (!order.empty() && id == order.front()) break;
             order.push_back(id);
             user.Key(VK_TAB);
         }
-        EXPECT_EQ((std::vector<int>{kStyle, kAlign, kColor, kSystem, kScale, kWidth, IDOK, IDCANCEL, 0xE145}), order);
+        EXPECT_EQ((std::vector<int>{kStyle, kAlign, kColor, kSystem, kScale, kWidth, IDOK, IDCANCEL, 0xE145, kTabs}), order);
     });
 }
 
