@@ -31,6 +31,13 @@ using LPCSTR = const char*;
 #define CALLBACK
 #endif
 
+// The format texts of the C++ library, not those of the system's C library.
+#if defined(_WIN32)
+#define AFX_PRINTF gnu_printf
+#else
+#define AFX_PRINTF printf
+#endif
+
 #if !defined(_WIN32)
 #define AFX_API
 #elif defined(AFX_BUILD)
@@ -163,11 +170,7 @@ public:
     int Find(LPCSTR lpszSub) const;
     int ReverseFind(char ch) const;
 
-    void Format(LPCSTR lpszFormat, ...)
-#if defined(__GNUC__) && !defined(__clang__)
-        __attribute__((format(gnu_printf, 2, 3)))
-#endif
-        ;
+    void Format(LPCSTR lpszFormat, ...) __attribute__((format(AFX_PRINTF, 2, 3)));
     void FormatV(LPCSTR lpszFormat, va_list args);
 
     // A buffer for at least nMinBufLength characters and the NUL; it starts with the present text.

@@ -94,7 +94,7 @@ public:
     // Asks the permanent objects from the message's window up to hWndStop.
     static BOOL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
 
-    // ---- A loop of its own, until EndModalLoop. The result is that call's.
+    // ---- A loop of its own, until EndModalLoop. The result is that of the first such call; -1 if the window goes.
     int RunModalLoop();
     void EndModalLoop(int nResult);
 
@@ -219,15 +219,22 @@ protected:
     afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
     afx_msg void OnNcDestroy();
 
-    // A loop begins as running, at the latest with RunModalLoop: EndModalLoop may come before that.
-    enum class Modal { none, running, ended };
-    Modal m_modal;
-    int m_nModalResult;
+    // For DoModal: from before the window is made until it is gone. The owner is disabled meanwhile.
+    template <class Make>
+    int RunModal(CWnd* pParentWnd, Make make);
+    // Hides the window, gives the owner back and ends the loop; a window that is not modal is destroyed.
+    void CloseModal(int nResult);
+    bool IsModal() const; // and not ended
 
     DECLARE_MESSAGE_MAP()
 
 private:
     friend class AfxWindowLink;
+    // A loop begins as running, at the latest with RunModalLoop: EndModalLoop may come before that.
+    enum class Modal { none, running, ended };
+    Modal m_modal;
+    int m_nModalResult;
+    class AfxModalOwner* m_pModalOwner; // while a window is modal and not ended
     WNDPROC m_pfnSuper;
     bool NotifyChild(HWND hWndChild, LRESULT* pResult);
 };

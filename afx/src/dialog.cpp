@@ -48,26 +48,16 @@ BOOL CDialog::CreateFromTemplate(HWND hWndParent) {
 }
 
 int CDialog::DoModal() {
-    AfxModalOwner owner(m_pParentWnd);
-    m_modal = Modal::running;
-    m_nModalResult = -1;
-    if (!CreateFromTemplate(owner.Window())) {
-        m_modal = Modal::none;
-        return m_nModalResult;
-    }
-    if (m_modal == Modal::running) ShowWindow(SW_SHOWNORMAL);
-    const int result = RunModalLoop();
-    owner.Release();
-    DestroyWindow();
-    return result;
+    return RunModal(m_pParentWnd, [this](HWND owner) {
+        if (!CreateFromTemplate(owner)) return false;
+        // One that has ended already, in OnInitDialog, is not shown.
+        if (IsModal()) ShowWindow(SW_SHOWNORMAL);
+        return true;
+    });
 }
 
 void CDialog::EndDialog(int nResult) {
-    if (m_modal != Modal::none) {
-        EndModalLoop(nResult);
-    } else {
-        DestroyWindow();
-    }
+    CloseModal(nResult);
 }
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {

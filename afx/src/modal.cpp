@@ -50,9 +50,23 @@ int CWnd::RunModalLoop() {
 }
 
 void CWnd::EndModalLoop(int nResult) {
-    m_nModalResult = nResult;
     if (m_modal != Modal::running) return;
+    m_nModalResult = nResult;
     m_modal = Modal::ended;
     // The loop may be waiting for a message.
     ::PostThreadMessageA(::GetCurrentThreadId(), WM_NULL, 0, 0);
+}
+
+bool CWnd::IsModal() const {
+    return m_modal == Modal::running;
+}
+
+void CWnd::CloseModal(int nResult) {
+    if (m_modal == Modal::none) {
+        DestroyWindow();
+        return;
+    }
+    if (m_modal == Modal::running && m_pModalOwner != nullptr) m_pModalOwner->Release();
+    EndModalLoop(nResult);
+    ::ShowWindow(m_hWnd, SW_HIDE); // the loop may have something to finish before the window goes
 }

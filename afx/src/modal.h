@@ -21,6 +21,24 @@ private:
     bool m_bDisabled;
 };
 
+// make(owner's window) makes and shows the window: false if it could not.
+template <class Make>
+int CWnd::RunModal(CWnd* pParentWnd, Make make) {
+    AfxModalOwner owner(pParentWnd);
+    m_pModalOwner = &owner;
+    m_modal = Modal::running;
+    m_nModalResult = -1;
+    if (make(owner.Window())) {
+        RunModalLoop();
+    } else {
+        m_modal = Modal::none;
+    }
+    owner.Release();
+    m_pModalOwner = nullptr;
+    DestroyWindow();
+    return m_nModalResult;
+}
+
 // Takes one message from the queue, pretranslates and dispatches it. False: it was WM_QUIT, whose code is in
 // nExitCode.
 bool AfxPumpOneMessage(int& nExitCode);

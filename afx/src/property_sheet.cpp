@@ -42,20 +42,14 @@ CPropertySheet::~CPropertySheet() {
 // ----------------------------------------------------------------------------------------
 
 int CPropertySheet::DoModal() {
-    AfxModalOwner owner(m_pParentWnd);
     m_bModeless = FALSE;
-    m_modal = Modal::running;
-    m_nModalResult = -1;
-    if (!CreateSheetWindow(owner.Window(), WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME,
-                           WS_EX_DLGMODALFRAME)) {
-        m_modal = Modal::none;
-        return -1;
-    }
-    if (m_modal == Modal::running) Open();
-    const int result = RunModalLoop();
-    owner.Release();
-    DestroyWindow();
-    return result;
+    return RunModal(m_pParentWnd, [this](HWND owner) {
+        const DWORD style = WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME;
+        if (!CreateSheetWindow(owner, style, WS_EX_DLGMODALFRAME)) return false;
+        // One that has ended already, while it was made, is not shown.
+        if (IsModal()) Open();
+        return true;
+    });
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
@@ -87,11 +81,7 @@ void CPropertySheet::Open() {
 }
 
 void CPropertySheet::EndDialog(int nEndID) {
-    if (m_bModeless) {
-        DestroyWindow();
-    } else {
-        EndModalLoop(nEndID);
-    }
+    CloseModal(nEndID);
 }
 
 int CPropertySheet::OnCreate(LPCREATESTRUCT) {

@@ -14,7 +14,9 @@
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
-CWnd::CWnd() : m_hWnd(nullptr), m_modal(Modal::none), m_nModalResult(-1), m_pfnSuper(nullptr) {}
+CWnd::CWnd()
+    : m_hWnd(nullptr), m_modal(Modal::none), m_nModalResult(-1), m_pModalOwner(nullptr), m_pfnSuper(nullptr) {
+}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();

@@ -1,0 +1,86 @@
+// Exceptions of message handlers end in the window procedure, with a message where the user was not told.
+
+#include "support/message_box_watcher.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace {
+
+class CThrower : public CWnd {
+public:
+    void (*thrower)() = nullptr;
+    UINT when = WM_APP;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == when) thrower();
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+struct Thrown {
+    const char* name;
+    void (*thrower)();
+    const char* said; // null: no message box
+};
+
+class HandlerThatThrows : public ::testing::TestWithParam<Thrown> {};
+
+TEST_P(HandlerThatThrows, IsReportedOnce) {
+    CThrower window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+    window.thrower = GetParam().thrower;
+    MessageBoxWatcher boxes;
+    EXPECT_EQ(0, window.SendMessage(WM_APP));
+    if (GetParam().said == nullptr) {
+        EXPECT_TRUE(boxes.Boxes().empty());
+    } else {
+        EXPECT_EQ(GetParam().said, boxes.OnlyText());
+    }
+}
+
+const Thrown kThrown[] = {
+    {"User", [] { AfxThrowUserException(); }, nullptr},
+    {"NotSupported", [] { AfxThrowNotSupportedException(); }, "This is not possible here."},
+    {"File", [] { AfxThrowFileException(CFileException::fileNotFound, 2, "C:\\x 100%.txt"); },
+     "C:\\x 100%.txt: there is no such file."},
+    {"Standard", [] { throw std::runtime_error("ran out of luck"); }, "ran out of luck"},
+    {"Number", [] { throw 5; }, "Something went wrong inside the program."},
+};
+INSTANTIATE_TEST_SUITE_P(All, HandlerThatThrows, ::testing::ValuesIn(kThrown),
+                         [](auto& i) { return i.param.name; });
+
+TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
+    CThrower window;
+    window.thrower = [] { AfxThrowUserException(); };
+    window.when = WM_CREATE;
+    EXPECT_FALSE(window.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+    EXPECT_EQ(nullptr, window.m_hWnd);
+}
+
+TEST(HandlerThatThrows, WhilePaintingDoesNotPaintForEver) {
+    CThrower window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr));
+    window.thrower = [] { AfxThrowNotSupportedException(); };
+    window.when = WM_PAINT;
+    MessageBoxWatcher boxes;
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
+    EXPECT_FALSE(boxes.OnlyText().empty());
+}
+
+TEST(Exception, TextsAreCutToTheirRoom) {
+    CFileException full(CFileException::diskFull, 0, "A:\\file");
+    char text[10];
+    EXPECT_TRUE(full.GetErrorMessage(text, sizeof text));
+    EXPECT_STREQ("A:\\file: ", text);
+    EXPECT_FALSE(CUserException().GetErrorMessage(text, sizeof text));
+    EXPECT_STREQ("", text);
+}
+
+} // namespace

@@ -1,0 +1,86 @@
+// The main window: menu, accelerators, command routing, the message loop and its end.
+
+#include "afx_test_ids.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class CMainFrame : public CFrameWnd {
+public:
+    int greeted = 0;
+    bool* gone = nullptr;
+    ~CMainFrame() override {
+        if (gone != nullptr) *gone = true;
+    }
+
+protected:
+    void OnGreet() { ++greeted; }
+    void OnTimer(UINT_PTR) { DestroyWindow(); }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+ON_COMMAND(ID_GREET, &CMainFrame::OnGreet)
+ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+class Frame : public ::testing::Test {
+protected:
+    CMainFrame* frame = nullptr;
+    bool gone = false;
+    void SetUp() override {
+        frame = new CMainFrame;
+        frame->gone = &gone;
+        ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+        AfxGetThread()->m_pMainWnd = frame;
+    }
+    void TearDown() override {
+        if (!gone) frame->DestroyWindow();
+        EXPECT_TRUE(gone) << "the object goes with its window";
+        EXPECT_EQ(nullptr, AfxGetMainWnd());
+    }
+};
+
+TEST_F(Frame, IsMadeFromItsResources) {
+    CString title;
+    frame->GetWindowText(title);
+    EXPECT_STREQ("A frame", title);
+    EXPECT_EQ(1, ::GetMenuItemCount(::GetMenu(frame->m_hWnd)));
+    EXPECT_EQ(frame, AfxGetMainWnd());
+}
+
+TEST_F(Frame, TurnsKeysIntoCommands) {
+    MSG key = {};
+    key.hwnd = frame->m_hWnd;
+    key.message = WM_KEYDOWN;
+    key.wParam = VK_F9;
+    key.lParam = 1;
+    EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&key));
+    EXPECT_EQ(1, frame->greeted);
+    key.wParam = VK_F8;
+    EXPECT_FALSE(AfxGetThread()->PreTranslateMessage(&key));
+}
+
+TEST_F(Frame, IsFoundFromWithin) {
+    CWnd child, grandchild, owned;
+    const CRect place(0, 0, 10, 10);
+    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, place, frame, 1));
+    ASSERT_TRUE(grandchild.Create(nullptr, "", WS_CHILD, place, &child, 1));
+    ASSERT_TRUE(owned.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, frame->m_hWnd, nullptr));
+    EXPECT_EQ(frame, grandchild.GetTopLevelFrame());
+    EXPECT_EQ(frame, owned.GetTopLevelFrame()) << "by its owner";
+    EXPECT_EQ(frame, frame->GetTopLevelFrame());
+    CWnd alone;
+    EXPECT_EQ(nullptr, alone.GetTopLevelFrame());
+    owned.DestroyWindow();
+}
+
+TEST_F(Frame, EndsTheLoopWhenItGoes) {
+    frame->SetTimer(1, 1);
+    EXPECT_EQ(0, AfxGetThread()->Run());
+    EXPECT_TRUE(gone);
+}
+
+} // namespace

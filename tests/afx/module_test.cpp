@@ -1,0 +1,88 @@
+// Resources and strings: searched along the modules, taken apart and put together.
+
+#include "afx_test_ids.h"
+
+#include <afxext.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+const LPCSTR kIcon = MAKEINTRESOURCEA(104); // no module of this program has it
+const LPCSTR kGroupIcon = reinterpret_cast<LPCSTR>(RT_GROUP_ICON);
+
+TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
+    HINSTANCE program = ::GetModuleHandleA(nullptr);
+    EXPECT_EQ(program,
+              AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_FORM), reinterpret_cast<LPCSTR>(RT_DIALOG)));
+    EXPECT_EQ(program, AfxFindResourceHandle(kIcon, kGroupIcon)) << "none has it: the program's own";
+    CString text;
+    EXPECT_TRUE(text.LoadString(IDS_SHEET));
+    EXPECT_STREQ("Sheet of strings", text);
+    EXPECT_TRUE(text.LoadString(AFX_IDP_PARSE_REAL));
+    EXPECT_STREQ("Please enter a number.", text);
+    EXPECT_FALSE(text.LoadString(1));
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(ModuleChain, TakesExtensionModulesInAndOut) {
+    // The shell's library has icons, and nothing else in this program does.
+    HMODULE shell = ::LoadLibraryA("shell32.dll");
+    ASSERT_NE(nullptr, ::FindResourceA(shell, MAKEINTRESOURCEA(1), kGroupIcon));
+    AFX_EXTENSION_MODULE module = {};
+    ASSERT_TRUE(AfxInitExtensionModule(module, shell));
+    new CDynLinkLibrary(module);
+    EXPECT_EQ(shell, AfxFindResourceHandle(MAKEINTRESOURCEA(1), kGroupIcon));
+    CString text;
+    EXPECT_TRUE(text.LoadString(IDS_SHEET));
+    EXPECT_STREQ("Sheet of strings", text) << "the program comes first";
+    AfxTermExtensionModule(module);
+    EXPECT_NE(shell, AfxFindResourceHandle(MAKEINTRESOURCEA(1), kGroupIcon));
+    ::FreeLibrary(shell);
+}
+
+TEST(ModuleChain, LoadsStringsIntoAnyRoom) {
+    char text[8];
+    EXPECT_EQ(7, AfxLoadString(IDS_SHEET, text, sizeof text));
+    EXPECT_STREQ("Sheet o", text);
+    EXPECT_EQ(0, AfxLoadString(1, text, sizeof text));
+    EXPECT_STREQ("", text);
+    EXPECT_EQ(0, AfxLoadString(IDS_SHEET, text, 0));
+}
+
+TEST(Messages, InsertTextsInAnyOrder) {
+    CString text;
+    AfxFormatString2(text, IDS_INSERTS, "one", "%1 two");
+    EXPECT_STREQ("%1 two before one, 100%, %3", text);
+    AfxFormatString1(text, IDS_INSERTS, "one");
+    EXPECT_STREQ("%2 before one, 100%, %3", text);
+}
+
+struct Part {
+    const char* name;
+    const char* full;
+    int index;
+    int found;
+    const char* part;
+};
+
+class SubString : public ::testing::TestWithParam<Part> {};
+
+TEST_P(SubString, IsExtracted) {
+    CString part("before");
+    EXPECT_EQ(GetParam().found, AfxExtractSubString(part, GetParam().full, GetParam().index));
+    EXPECT_STREQ(GetParam().part, part);
+}
+
+const Part kParts[] = {
+    {"First", "a\nbc\nd", 0, 1, "a"}, {"Middle", "a\nbc\nd", 1, 1, "bc"},
+    {"Last", "a\nbc\nd", 2, 1, "d"},  {"Behind", "a\nbc\nd", 3, 0, ""},
+    {"Empty", "a\n\nd", 1, 1, ""},    {"AfterTheLastFeed", "a\n", 1, 1, ""},
+    {"OfNothing", "", 0, 1, ""},      {"SecondOfNothing", "", 1, 0, ""},
+    {"OfNull", nullptr, 0, 0, ""},
+};
+INSTANTIATE_TEST_SUITE_P(All, SubString, ::testing::ValuesIn(kParts), [](auto& i) { return i.param.name; });
+
+} // namespace

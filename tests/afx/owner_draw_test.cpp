@@ -1,0 +1,126 @@
+// Owner drawing: what the parent gets reaches the virtual functions of the control's object.
+
+#include "afx_test_ids.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+constexpr int kItemHeight = 23;
+
+// The same calls for a list and a combo, noted once each.
+template <class Base>
+class Drawn : public Base {
+public:
+    std::string calls;
+    int lastDrawn = -2;
+
+    void DrawItem(LPDRAWITEMSTRUCT record) override {
+        Note('D');
+        lastDrawn = static_cast<int>(record->itemID);
+    }
+    void MeasureItem(LPMEASUREITEMSTRUCT record) override {
+        Note('M');
+        record->itemHeight = kItemHeight;
+    }
+    int CompareItem(LPCOMPAREITEMSTRUCT record) override {
+        Note('C');
+        const auto less = [](ULONG_PTR a, ULONG_PTR b) { return a < b ? -1 : a > b; };
+        return less(record->itemData1, record->itemData2);
+    }
+    void DeleteItem(LPDELETEITEMSTRUCT) override { Note('X'); }
+
+private:
+    void Note(char call) {
+        if (calls.find(call) == std::string::npos) calls += call;
+    }
+};
+
+class OwnerDraw : public ::testing::Test {
+protected:
+    CWnd parent;
+    void SetUp() override {
+        ASSERT_TRUE(parent.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr, nullptr));
+    }
+    static const CRect kPlace;
+};
+const CRect OwnerDraw::kPlace(10, 10, 110, 210);
+
+TEST_F(OwnerDraw, ReachesAList) {
+    Drawn<CListBox> list;
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_SORT, kPlace, &parent, 7));
+    EXPECT_EQ("M", list.calls) << "measured while it is made";
+    CRect item;
+    for (ULONG_PTR data : {3, 1, 2})
+        list.AddString(reinterpret_cast<LPCSTR>(data));
+    EXPECT_NE(LB_ERR, list.GetItemRect(0, &item));
+    EXPECT_EQ(kItemHeight, item.Height());
+    for (DWORD_PTR i = 0; i < 3; ++i)
+        EXPECT_EQ(i + 1, list.GetItemData(static_cast<int>(i))) << "sorted";
+    list.UpdateWindow();
+    EXPECT_NE(std::string::npos, list.calls.find('D'));
+    list.ResetContent();
+    EXPECT_NE(std::string::npos, list.calls.find('X'));
+}
+
+TEST_F(OwnerDraw, ReachesACombo) {
+    Drawn<CComboBox> combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, kPlace,
+                             &parent, 8));
+    EXPECT_EQ("M", combo.calls);
+    for (ULONG_PTR data : {3, 1, 2})
+        combo.AddString(reinterpret_cast<LPCSTR>(data));
+    EXPECT_EQ(kItemHeight, combo.SendMessage(CB_GETITEMHEIGHT, 0));
+    combo.UpdateWindow();
+    EXPECT_EQ(-1, combo.lastDrawn) << "the field of a combo without a selection";
+    combo.SetCurSel(1);
+    combo.UpdateWindow();
+    EXPECT_EQ(1, combo.lastDrawn);
+    EXPECT_NE(std::string::npos, combo.calls.find('C'));
+    combo.DestroyWindow();
+    EXPECT_NE(std::string::npos, combo.calls.find('X')) << "the object is there until its items have gone";
+}
+
+TEST_F(OwnerDraw, OfEachItemMeasuresEach) {
+    class CVariable : public Drawn<CListBox> {
+        void MeasureItem(LPMEASUREITEMSTRUCT record) override {
+            record->itemHeight = 10 + 5 * record->itemID;
+        }
+    } list;
+    ASSERT_TRUE(list.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS, kPlace, &parent, 7));
+    for (int i = 0; i < 3; ++i)
+        list.AddString("item");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(10 + 5 * i, list.SendMessage(LB_GETITEMHEIGHT, static_cast<WPARAM>(i)));
+}
+
+TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
+    HWND list =
+        ::CreateWindowExA(0, "LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0,
+                          50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
+    EXPECT_EQ(0, ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
+    ::UpdateWindow(list);
+    // An object that comes later is asked from then on.
+    Drawn<CListBox> late;
+    ASSERT_TRUE(late.SubclassWindow(list));
+    late.Invalidate();
+    late.UpdateWindow();
+    EXPECT_EQ(0, late.lastDrawn);
+}
+
+TEST_F(OwnerDraw, TextsOfItems) {
+    CListBox list;
+    ASSERT_TRUE(list.Create(WS_CHILD, kPlace, &parent, 7));
+    list.AddString("some text");
+    CString text("before");
+    list.GetText(0, text);
+    EXPECT_STREQ("some text", text);
+    list.GetText(5, text);
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+} // namespace

@@ -1,0 +1,40 @@
+// Run-time classes: who descends from whom, and objects made by their class.
+
+#include <afx.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+class CAnimal : public CObject {
+    DECLARE_DYNAMIC(CAnimal)
+};
+class CDog : public CAnimal {
+    DECLARE_DYNCREATE(CDog)
+};
+class CPlain : public CDog {}; // without a record of its own
+IMPLEMENT_DYNAMIC(CAnimal, CObject)
+IMPLEMENT_DYNCREATE(CDog, CAnimal)
+
+TEST(RuntimeClass, KnowsItsBases) {
+    CDog dog;
+    CAnimal animal;
+    EXPECT_TRUE(dog.IsKindOf(RUNTIME_CLASS(CDog)));
+    EXPECT_TRUE(dog.IsKindOf(RUNTIME_CLASS(CAnimal)));
+    EXPECT_TRUE(dog.IsKindOf(RUNTIME_CLASS(CObject)));
+    EXPECT_FALSE(animal.IsKindOf(RUNTIME_CLASS(CDog)));
+    EXPECT_FALSE(dog.IsKindOf(RUNTIME_CLASS(CException)));
+    EXPECT_STREQ("CDog", CPlain().GetRuntimeClass()->m_lpszClassName);
+    EXPECT_EQ(0xFFFFu, RUNTIME_CLASS(CDog)->m_wSchema);
+}
+
+TEST(RuntimeClass, MakesObjects) {
+    const std::unique_ptr<CObject> dog(RUNTIME_CLASS(CDog)->CreateObject());
+    ASSERT_NE(nullptr, dog);
+    EXPECT_EQ(RUNTIME_CLASS(CDog), dog->GetRuntimeClass());
+    EXPECT_EQ(nullptr, RUNTIME_CLASS(CAnimal)->CreateObject());
+}
+
+} // namespace

@@ -1,0 +1,419 @@
+// Property sheets, driven as a person drives them.
+
+#include "afx_test_ids.h"
+#include "support/object_counts.h"
+#include "support/sheet_driver.h"
+
+#include <afxdlgs.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace {
+
+class CTestPage : public CPropertyPage {
+public:
+    explicit CTestPage(UINT nIDTemplate, UINT nIDCaption = 0) : CPropertyPage(nIDTemplate, nIDCaption) {}
+    explicit CTestPage(LPCSTR name) : CPropertyPage(name) {}
+    CString value;
+    std::string log;
+    bool accepts = true;
+    bool opens = true;
+
+    BOOL OnSetActive() override {
+        log += 'a';
+        return opens && CPropertyPage::OnSetActive();
+    }
+    BOOL OnKillActive() override {
+        log += accepts ? 'k' : 'r';
+        return accepts && CPropertyPage::OnKillActive();
+    }
+    void OnOK() override { log += 'o'; }
+    void OnCancel() override { log += 'c'; }
+    BOOL Changed() const { return m_bChanged; }
+    LPCSTR TemplateName() const { return m_lpszTemplateName; }
+
+protected:
+    BOOL OnInitDialog() override {
+        log += 'i';
+        return CPropertyPage::OnInitDialog();
+    }
+    void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, IDC_FIELD, value); }
+    void OnPress() { log += 'p'; }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CTestPage, CPropertyPage)
+ON_BN_CLICKED(IDC_PRESS, &CTestPage::OnPress)
+END_MESSAGE_MAP()
+
+class Sheet : public ::testing::Test {
+protected:
+    CTestPage first{IDD_PAGE_ONE};
+    CTestPage second{IDD_PAGE_TWO};
+    CTestPage tall{"TALL_PAGE"};
+    CPropertySheet sheet{"Properties"};
+    SheetDriver driver;
+
+    void SetUp() override {
+        for (CTestPage* page : {&first, &second, &tall})
+            sheet.AddPage(page);
+    }
+    int Run(SheetDriver::Script script) { return driver.Run(sheet, std::move(script)); }
+
+    CRect Place(HWND window) const { // in client coordinates of the sheet
+        CRect rect;
+        ::GetWindowRect(window, &rect);
+        sheet.ScreenToClient(&rect);
+        return rect;
+    }
+    bool Exists(int id) const { return ::GetDlgItem(sheet.m_hWnd, id) != nullptr; }
+};
+
+std::string TabText(const CPropertySheet& sheet, int index) {
+    char text[64] = "";
+    TCITEMA item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = sizeof text;
+    sheet.GetTabControl()->SendMessage(TCM_GETITEMA, static_cast<WPARAM>(index),
+                                       reinterpret_cast<LPARAM>(&item));
+    return text;
+}
+
+TEST_F(Sheet, OpensOnItsFirstPage) {
+    CTestPage named(IDD_PAGE_ONE, IDS_TAB_TEXT);
+    sheet.AddPage(&named);
+    first.value = "loaded";
+    const int result = Run([&](SheetDriver& user) {
+        CString caption;
+        sheet.GetWindowText(caption);
+        EXPECT_STREQ("Properties", caption);
+        EXPECT_EQ(4, sheet.GetTabControl()->GetItemCount());
+        EXPECT_EQ("&First", TabText(sheet, 0));
+        EXPECT_EQ("Tall", TabText(sheet, 2)) << "of an extended template";
+        EXPECT_EQ("From a string", TabText(sheet, 3));
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ("loaded", user.Text(IDC_FIELD));
+        EXPECT_TRUE(::IsWindowEnabled(user.Page())) << "the template says disabled";
+        EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus());
+        EXPECT_EQ(nullptr, second.m_hWnd) << "made when it is needed";
+        for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP})
+            EXPECT_TRUE(Exists(id)) << id;
+        user.Type(IDC_FIELD, "typed");
+        user.Ok();
+    });
+    EXPECT_EQ(IDOK, result);
+    EXPECT_EQ("aiko", first.log);
+    EXPECT_STREQ("typed", first.value);
+    EXPECT_EQ("", second.log);
+    EXPECT_EQ(nullptr, first.m_hWnd);
+}
+
+TEST_F(Sheet, ChangesPagesByClickAndByKey) {
+    Run([&](SheetDriver& user) {
+        user.Type(IDC_FIELD, "one");
+        user.SelectPage(1);
+        EXPECT_EQ(1, sheet.GetActiveIndex());
+        EXPECT_STREQ("one", first.value);
+        EXPECT_FALSE(first.IsWindowVisible());
+        EXPECT_TRUE(second.IsWindowVisible());
+        user.Focus(IDC_FIELD);
+        user.Key(VK_TAB, false, true);
+        EXPECT_EQ(2, sheet.GetActiveIndex());
+        EXPECT_EQ(2, sheet.GetTabControl()->GetCurSel());
+        EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus()) << "the new page's first field";
+        user.Key(VK_NEXT, false, true); // round to the first
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        user.Key(VK_TAB, true, true);
+        EXPECT_EQ(2, sheet.GetActiveIndex());
+        user.Key(VK_PRIOR, false, true);
+        EXPECT_EQ(1, sheet.GetActiveIndex());
+    });
+    EXPECT_EQ("aikakc", first.log) << "made once, left twice";
+    EXPECT_EQ("aikac", second.log);
+}
+
+TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
+    Run([&](SheetDriver& user) {
+        const CRect place = Place(user.Page());
+        CRect client;
+        sheet.GetClientRect(&client);
+        EXPECT_GT(place.top, Place(sheet.GetTabControl()->m_hWnd).top);
+        EXPECT_EQ(place.top, Place(sheet.GetTabControl()->m_hWnd).bottom);
+        for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP}) {
+            const CRect button = Place(::GetDlgItem(sheet.m_hWnd, id));
+            EXPECT_GT(button.top, place.bottom) << id;
+            EXPECT_LE(button.right, client.right) << id;
+            EXPECT_LE(button.bottom, client.bottom) << id;
+        }
+        for (int page : {1, 2}) {
+            user.SelectPage(page);
+            EXPECT_EQ(place, Place(user.Page())) << page;
+            EXPECT_EQ(0u, ::GetWindowLongPtrA(user.Page(), GWL_STYLE) & (WS_CAPTION | WS_POPUP)) << page;
+        }
+    });
+}
+
+TEST_F(Sheet, APageThatRefusesStays) {
+    first.accepts = false;
+    const int result = Run([&](SheetDriver& user) {
+        user.SelectPage(1);
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(0, sheet.GetTabControl()->GetCurSel());
+        user.Focus(IDC_FIELD);
+        user.Key(VK_TAB, false, true);
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_TRUE(first.IsWindowVisible());
+        EXPECT_FALSE(sheet.SetActivePage(&second));
+        user.Ok();
+        EXPECT_NE(nullptr, sheet.m_hWnd);
+        first.accepts = true;
+        EXPECT_TRUE(sheet.SetActivePage(1));
+        user.Ok();
+    });
+    EXPECT_EQ(IDOK, result);
+    EXPECT_EQ("airrrrk", first.log);
+    EXPECT_EQ("aiko", second.log);
+}
+
+TEST_F(Sheet, APageThatDoesNotOpenLeavesTheOneBefore) {
+    second.opens = false;
+    Run([&](SheetDriver& user) {
+        user.SelectPage(1);
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(0, sheet.GetTabControl()->GetCurSel());
+        EXPECT_TRUE(first.IsWindowVisible());
+    });
+    EXPECT_EQ("aikac", first.log) << "active again";
+}
+
+TEST_F(Sheet, ThatHasNoPageToOpenFails) {
+    CPropertySheet empty("Empty");
+    EXPECT_EQ(-1, empty.DoModal());
+    first.opens = false;
+    EXPECT_EQ(-1, sheet.DoModal());
+    EXPECT_EQ(nullptr, sheet.m_hWnd);
+}
+
+TEST_F(Sheet, KeyboardEndsItAndReachesButtons) {
+    EXPECT_EQ(IDOK, Run([](SheetDriver& user) { user.Key(VK_RETURN); }));
+    EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) { user.Key(VK_ESCAPE); }));
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver&) { sheet.PostMessage(WM_CLOSE); }));
+    EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) {
+                  user.Focus(IDC_LINES); // an edit of several lines sends its Escape to the page
+                  user.Key(VK_ESCAPE);
+              }));
+    first.log.clear();
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user) {
+                  user.Mnemonic('p');
+                  const auto press = reinterpret_cast<WPARAM>(user.Control(IDC_PRESS));
+                  sheet.SendMessage(WM_NEXTDLGCTL, press, TRUE); // as the Tab key does
+                  user.Key(VK_RETURN);
+                  user.Key(VK_SPACE);
+                  EXPECT_NE(nullptr, sheet.m_hWnd) << "Return is the button's, not that of OK";
+              }));
+    EXPECT_EQ("aipppc", first.log);
+}
+
+TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
+    Run([&](SheetDriver& user) {
+        ::EnableWindow(::GetDlgItem(sheet.m_hWnd, ID_APPLY_NOW), TRUE);
+        user.Focus(IDC_PRESS);
+        std::vector<int> order;
+        ::SetFocus(user.Control(IDC_FIELD));
+        for (int i = 0; i < 2; ++i)
+            user.Key(VK_TAB);
+        ::SetFocus(user.Control(IDC_PRESS)); // the edit of several lines keeps the key for itself
+        ::SendMessageA(sheet.m_hWnd, WM_NEXTDLGCTL,
+                       reinterpret_cast<WPARAM>(::GetDlgItem(sheet.m_hWnd, IDOK)), TRUE);
+        for (int i = 0; i < 6; ++i) {
+            order.push_back(::GetDlgCtrlID(::GetFocus()));
+            user.Key(VK_TAB);
+        }
+        EXPECT_EQ((std::vector<int>{IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP, AFX_IDC_TAB_CONTROL, IDC_FIELD}),
+                  order);
+    });
+}
+
+TEST_F(Sheet, CancelAsksEveryPageThatWasOpen) {
+    EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) {
+                  user.Type(IDC_FIELD, "dropped");
+                  user.SelectPage(1);
+                  user.Type(IDC_FIELD, "dropped too");
+                  user.Cancel();
+              }));
+    EXPECT_EQ("aikc", first.log);
+    EXPECT_EQ("aic", second.log);
+    EXPECT_EQ("", tall.log);
+    EXPECT_TRUE(second.value.IsEmpty());
+}
+
+TEST_F(Sheet, ApplySavesAndStaysOpen) {
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user) {
+                  HWND apply = ::GetDlgItem(sheet.m_hWnd, ID_APPLY_NOW);
+                  EXPECT_FALSE(::IsWindowEnabled(apply));
+                  user.Type(IDC_FIELD, "applied");
+                  first.SetModified();
+                  EXPECT_TRUE(::IsWindowEnabled(apply));
+                  user.ClickSheetButton(ID_APPLY_NOW);
+                  EXPECT_STREQ("applied", first.value);
+                  EXPECT_FALSE(first.Changed());
+                  EXPECT_FALSE(::IsWindowEnabled(apply));
+              }));
+    EXPECT_EQ("aikoc", first.log);
+}
+
+TEST_F(Sheet, HelpStartsInTheSheet) {
+    class CHelped : public CPropertySheet {
+    public:
+        using CPropertySheet::CPropertySheet;
+        int helped = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_COMMANDHELP) return CPropertySheet::WindowProc(message, wParam, lParam);
+            return ++helped;
+        }
+    } helped("Help");
+    CTestPage page(IDD_PAGE_ONE);
+    helped.AddPage(&page);
+    driver.Run(helped, [](SheetDriver& user) { user.ClickSheetButton(ID_HELP); });
+    EXPECT_EQ(1, helped.helped);
+}
+
+TEST_F(Sheet, EndsWithAnyCode) {
+    EXPECT_EQ(3017, Run([&](SheetDriver&) { sheet.EndDialog(3017); }));
+    EXPECT_EQ("ai", first.log) << "nobody is asked";
+}
+
+TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
+    Run([&](SheetDriver& user) {
+        const CRect place = Place(user.Page());
+        user.SelectPage(1);
+        sheet.RemovePage(&first); // before the active one
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(&second, sheet.GetActivePage());
+        EXPECT_EQ(nullptr, first.m_hWnd);
+        EXPECT_EQ(2, sheet.GetTabControl()->GetItemCount());
+        sheet.RemovePage(0); // the active one
+        EXPECT_EQ(&tall, sheet.GetActivePage());
+        EXPECT_TRUE(tall.IsWindowVisible());
+        EXPECT_EQ(place, Place(tall.m_hWnd));
+        sheet.AddPage(&first);
+        user.SelectPage(1);
+        EXPECT_EQ(&first, sheet.GetActivePage());
+    });
+    EXPECT_EQ(nullptr, second.GetParentSheet());
+    EXPECT_EQ(1, sheet.GetPageIndex(&first));
+    sheet.RemovePage(7);
+    EXPECT_EQ(2, sheet.GetPageCount());
+}
+
+TEST(SheetOwnership, EitherMayGoFirst) {
+    auto sheet = std::make_unique<CPropertySheet>(IDS_SHEET);
+    auto page = std::make_unique<CTestPage>(IDD_PAGE_ONE);
+    sheet->AddPage(page.get());
+    page.reset();
+    EXPECT_EQ(0, sheet->GetPageCount());
+    EXPECT_EQ(nullptr, sheet->GetActivePage());
+    page = std::make_unique<CTestPage>(IDD_PAGE_ONE);
+    sheet->AddPage(page.get());
+    sheet.reset();
+    EXPECT_EQ(nullptr, page->GetParentSheet());
+}
+
+TEST_F(Sheet, StartsOnThePageItWasTold) {
+    EXPECT_TRUE(sheet.SetActivePage(1));
+    Run([&](SheetDriver&) { EXPECT_EQ(&second, sheet.GetActivePage()); });
+    CPropertySheet other("Other", nullptr, 9); // no such page: the last
+    sheet.RemovePage(0);
+    sheet.RemovePage(0);
+    sheet.RemovePage(0);
+    other.AddPage(&first);
+    driver.Run(other, [&](SheetDriver&) { EXPECT_EQ(&first, other.GetActivePage()); });
+}
+
+TEST_F(Sheet, Modeless) {
+    CWnd owner;
+    ASSERT_TRUE(owner.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr, nullptr));
+    ASSERT_TRUE(sheet.Create(&owner));
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP})
+        EXPECT_FALSE(Exists(id)) << id;
+    MSG tab = {};
+    tab.hwnd = ::GetDlgItem(first.m_hWnd, IDC_FIELD);
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    ::SetFocus(tab.hwnd);
+    EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&tab));
+    EXPECT_EQ(::GetDlgItem(first.m_hWnd, IDC_PRESS), ::GetFocus());
+    sheet.SendMessage(WM_COMMAND, IDOK);
+    EXPECT_NE(nullptr, sheet.m_hWnd) << "OK saves and stays";
+    EXPECT_EQ("aiko", first.log);
+    sheet.SendMessage(WM_COMMAND, IDCANCEL);
+    EXPECT_EQ(nullptr, sheet.m_hWnd);
+}
+
+// Lays itself out, as sheets with a look of their own do: a tab row at the top that sets its own height.
+class CStrip : public CPropertySheet {
+public:
+    CStrip() : CPropertySheet("Strip") { m_bHasApply = FALSE; }
+    int tabHeight = 0;
+
+protected:
+    int OnCreate(LPCREATESTRUCT lpCreateStruct) {
+        if (CPropertySheet::OnCreate(lpCreateStruct) == -1) return -1;
+        EXPECT_GT(m_sizeButton.cx, m_sizeButton.cy);
+        EXPECT_GT(m_sizeTabMargin.cx, 0);
+        EXPECT_EQ(m_sizeTabMargin.cx, m_cxButtonGap);
+        m_tabRow.SetWindowPos(nullptr, 6, 6, 400, 0, SWP_NOZORDER | SWP_NOACTIVATE);
+        CRect tabs;
+        m_tabRow.GetWindowRect(&tabs);
+        tabHeight = tabs.Height();
+        GetDlgItem(IDCANCEL)->MoveWindow(350, 10, m_sizeButton.cx, m_sizeButton.cy);
+        SetWindowPos(nullptr, 0, 0, 450, 333, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CStrip, CPropertySheet)
+ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+TEST(SheetLayout, OfADerivedSheetIsLeftAlone) {
+    CStrip strip;
+    CTestPage page(IDD_PAGE_ONE);
+    strip.AddPage(&page);
+    SheetDriver().Run(strip, [&](SheetDriver&) {
+        CRect window;
+        strip.GetWindowRect(&window);
+        EXPECT_EQ(CSize(450, 333), window.Size());
+        CRect tab;
+        strip.GetTabControl()->GetItemRect(0, &tab);
+        EXPECT_GE(strip.tabHeight, tab.bottom);
+        EXPECT_LT(strip.tabHeight, tab.bottom + 6);
+        EXPECT_EQ(nullptr, ::GetDlgItem(strip.m_hWnd, ID_APPLY_NOW));
+    });
+}
+
+TEST(SheetLeaks, ManySheetsHoldNothing) {
+    const auto cycle = [] {
+        CTestPage one(IDD_PAGE_ONE), two(IDD_PAGE_TWO);
+        CPropertySheet sheet("Leak");
+        sheet.AddPage(&one);
+        sheet.AddPage(&two);
+        SheetDriver().Run(sheet, [](SheetDriver& user) { user.SelectPage(1); });
+    };
+    cycle();
+    const int gdi = GdiObjectCount();
+    const int user = UserObjectCount();
+    for (int i = 0; i < 200; ++i)
+        cycle();
+    EXPECT_EQ(gdi, GdiObjectCount());
+    EXPECT_EQ(user, UserObjectCount());
+}
+
+} // namespace

@@ -1,0 +1,130 @@
+// CString: what its documentation promises at the edges.
+
+#include <afx.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+std::string Text(const CString& string) {
+    return std::string(string, static_cast<std::size_t>(string.GetLength()));
+}
+
+TEST(String, NullPointersAreTheEmptyText) {
+    CString text(static_cast<LPCSTR>(nullptr));
+    EXPECT_TRUE(text.IsEmpty());
+    text = static_cast<LPCSTR>(nullptr);
+    text += static_cast<LPCSTR>(nullptr);
+    EXPECT_EQ(0, text.Compare(nullptr));
+    EXPECT_EQ("", Text(CString(static_cast<LPCSTR>(nullptr), 7)));
+}
+
+struct Part {
+    const char* name;
+    int first, count;
+    const char* mid;
+    const char* left;  // of count
+    const char* right; // of count
+};
+
+class StringPart : public ::testing::TestWithParam<Part> {};
+
+TEST_P(StringPart, IsCutToWhatThereIs) {
+    const CString text("abcdef");
+    const Part& row = GetParam();
+    EXPECT_EQ(row.mid, Text(text.Mid(row.first, row.count)));
+    EXPECT_EQ(row.left, Text(text.Left(row.count)));
+    EXPECT_EQ(row.right, Text(text.Right(row.count)));
+}
+
+const Part kParts[] = {
+    {"Inside", 2, 3, "cde", "abc", "def"},          {"AtTheEnd", 4, 2, "ef", "ab", "ef"},
+    {"PastTheEnd", 4, 9, "ef", "abcdef", "abcdef"}, {"BehindTheEnd", 7, 1, "", "a", "f"},
+    {"NegativeFirst", -3, 2, "ab", "ab", "ef"},     {"NegativeCount", 1, -1, "", "", ""},
+};
+INSTANTIATE_TEST_SUITE_P(All, StringPart, ::testing::ValuesIn(kParts), [](auto& i) { return i.param.name; });
+
+TEST(String, BufferKeepsTheTextAndEndsAtItsNul) {
+    CString text("start");
+    LPSTR buffer = text.GetBuffer(100);
+    EXPECT_STREQ("start", buffer);
+    std::copy_n("changed", 8, buffer);
+    text.ReleaseBuffer();
+    EXPECT_EQ("changed", Text(text));
+
+    std::copy_n("12345678", 8, text.GetBuffer(20));
+    text.ReleaseBuffer(4);
+    EXPECT_EQ("1234", Text(text));
+
+    // A buffer filled to its last character has no NUL of its own.
+    std::fill_n(text.GetBufferSetLength(300), 300, 'x');
+    text.ReleaseBuffer();
+    EXPECT_EQ(300, text.GetLength());
+}
+
+TEST(String, FormatsIntoItselfAndAtAnyLength) {
+    CString text("abc");
+    text.Format("%s-%s", static_cast<LPCSTR>(text), static_cast<LPCSTR>(text));
+    EXPECT_EQ("abc-abc", Text(text));
+    text.Format("%2000d", 5);
+    EXPECT_EQ(2000, text.GetLength());
+    text.Format("%s", "");
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(String, FindsFromBothEnds) {
+    const CString text("a\\b\\c");
+    EXPECT_EQ(1, text.Find('\\'));
+    EXPECT_EQ(3, text.ReverseFind('\\'));
+    EXPECT_EQ(2, text.Find("b\\"));
+    EXPECT_EQ(-1, text.Find('x'));
+    EXPECT_EQ(-1, text.ReverseFind('x'));
+    EXPECT_EQ(-1, text.Find("bc"));
+}
+
+TEST(String, ChangesCaseByTheCodePage) {
+    CString text("MIXED \xC4\xD6\xDC \xD7 \x8A\x9F");
+    text.MakeLower();
+    EXPECT_EQ("mixed \xE4\xF6\xFC \xD7 \x9A\xFF", Text(text));
+    text.MakeUpper();
+    EXPECT_EQ("MIXED \xC4\xD6\xDC \xD7 \x8A\x9F", Text(text));
+    // Sharp s and the division sign have no other case.
+    text = "\xDF\xF7";
+    text.MakeUpper();
+    EXPECT_EQ("\xDF\xF7", Text(text));
+}
+
+TEST(String, ComparesWithAndWithoutCase) {
+    EXPECT_TRUE(CString("abc") == "abc" && "abc" == CString("abc") && CString("abc") != "ABC");
+    EXPECT_EQ(0, CString("abc").CompareNoCase("ABC"));
+    EXPECT_LT(CString("ABC").Compare("abc"), 0);
+    EXPECT_GT(CString("\xE4").Compare("z"), 0); // bytes have no sign here
+    EXPECT_TRUE(CString("a") < CString("b"));
+}
+
+TEST(String, JoinsAndTrims) {
+    CString text = "a" + CString("b") + "c" + 'd' + CString('e', 3);
+    text += 'f';
+    EXPECT_EQ("abcdeeef", Text(text));
+    text = " \t x y \r\n";
+    text.TrimLeft();
+    EXPECT_EQ("x y \r\n", Text(text));
+    text.TrimRight();
+    EXPECT_EQ("x y", Text(text));
+    text = "  ";
+    text.TrimRight();
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(String, CopiesAreApart) {
+    CString one("text");
+    CString two(one);
+    two.SetAt(0, 'n');
+    EXPECT_EQ("text", Text(one));
+    EXPECT_EQ("next", Text(two));
+}
+
+} // namespace

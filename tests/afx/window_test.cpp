@@ -1,0 +1,309 @@
+// Windows and their objects: creation, the permanent map, temporary objects, subclassing, the end.
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace {
+
+// Keeps what it is told, in the order of its coming.
+class CLog : public CWnd {
+public:
+    std::vector<UINT> messages;
+    bool* deleted = nullptr;
+    bool refuseCreate = false;
+    ~CLog() override {
+        if (deleted != nullptr) *deleted = true;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        messages.push_back(message);
+        if (message == WM_CREATE && refuseCreate) return -1;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override {
+        EXPECT_EQ(nullptr, m_hWnd);
+        messages.push_back(0);
+        if (deleted != nullptr) delete this;
+    }
+};
+
+class Window : public ::testing::Test {
+protected:
+    CLog parent;
+    void SetUp() override {
+        ASSERT_TRUE(parent.CreateEx(0, nullptr, "parent", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));
+    }
+    void TearDown() override { parent.DestroyWindow(); }
+    static const CRect kPlace;
+};
+const CRect Window::kPlace(10, 20, 60, 50);
+
+bool Contains(const std::vector<UINT>& messages, UINT message) {
+    return std::find(messages.begin(), messages.end(), message) != messages.end();
+}
+
+TEST_F(Window, SeesItsFirstAndItsLastMessages) {
+    CLog child;
+    ASSERT_TRUE(child.Create("STATIC", "text", WS_CHILD, kPlace, &parent, 5));
+    EXPECT_EQ(static_cast<UINT>(WM_NCCREATE), child.messages.front());
+    EXPECT_TRUE(Contains(child.messages, WM_CREATE));
+    EXPECT_EQ(5, child.GetDlgCtrlID());
+    CString text;
+    child.GetWindowText(text);
+    EXPECT_STREQ("text", text) << "the class's own procedure has made the window";
+
+    child.messages.clear();
+    HWND window = child.m_hWnd;
+    EXPECT_TRUE(child.DestroyWindow());
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ((std::vector<UINT>{WM_NCDESTROY, 0}),
+              std::vector<UINT>(child.messages.end() - 2, child.messages.end()));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+
+    ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6))
+        << "an object may be used again";
+    EXPECT_EQ(DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, child.SendMessage(WM_GETDLGCODE));
+}
+
+TEST_F(Window, ThatCannotBeMadeLeavesAnEmptyObject) {
+    CLog refused;
+    refused.refuseCreate = true;
+    EXPECT_FALSE(refused.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    EXPECT_EQ(nullptr, refused.m_hWnd);
+    EXPECT_EQ(0u, refused.messages.back()) << "told by PostNcDestroy, once";
+    EXPECT_EQ(1, std::count(refused.messages.begin(), refused.messages.end(), 0u));
+
+    CLog unknown;
+    EXPECT_FALSE(unknown.Create("no such class", "", WS_CHILD, kPlace, &parent, 1));
+    EXPECT_EQ((std::vector<UINT>{0}), unknown.messages);
+    CLog next; // nothing is left of the creation that failed
+    EXPECT_TRUE(next.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    EXPECT_EQ(nullptr, unknown.m_hWnd);
+}
+
+TEST_F(Window, ObjectsOfChildrenAreNotTheirParents) {
+    // The window procedure's object is that of the window that was asked for, not of what it makes in turn.
+    CLog combo;
+    ASSERT_TRUE(combo.Create("COMBOBOX", "", WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 1));
+    HWND edit = ::GetWindow(combo.m_hWnd, GW_CHILD);
+    ASSERT_NE(nullptr, edit);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(edit));
+    EXPECT_EQ(&combo, CWnd::FromHandlePermanent(combo.m_hWnd));
+}
+
+TEST_F(Window, OnTheHeapMayGoWithItsWindow) {
+    bool deleted = false;
+    auto* child = new CLog;
+    child->deleted = &deleted;
+    ASSERT_TRUE(child->Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    child->OnFinalRelease();
+    EXPECT_TRUE(deleted);
+
+    deleted = false;
+    child = new CLog;
+    child->deleted = &deleted;
+    child->OnFinalRelease(); // without a window
+    EXPECT_TRUE(deleted);
+
+    deleted = false;
+    child = new CLog;
+    child->deleted = &deleted;
+    ASSERT_TRUE(child->Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    parent.DestroyWindow();
+    EXPECT_TRUE(deleted);
+}
+
+TEST_F(Window, IsDestroyedByItsDestructor) {
+    auto child = std::make_unique<CWnd>();
+    ASSERT_TRUE(child->Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    HWND window = child->m_hWnd;
+    child.reset();
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+}
+
+TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
+    HWND plain =
+        ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, parent.m_hWnd, nullptr, nullptr, nullptr);
+    CWnd* before = CWnd::FromHandle(plain);
+    EXPECT_EQ(before, CWnd::FromHandle(plain)) << "one object for one window";
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
+
+    class CAsker : public CWnd {
+    public:
+        HWND other = nullptr;
+        CWnd* seen = nullptr;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_APP) seen = FromHandle(other);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } asker;
+    ASSERT_TRUE(asker.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    asker.other = plain;
+    asker.SendMessage(WM_APP);
+    EXPECT_EQ(before, asker.seen);
+    EXPECT_EQ(before, CWnd::FromHandle(plain));
+    EXPECT_TRUE(::IsWindow(plain)) << "a temporary object does not own its window";
+
+    CWnd owner;
+    owner.Attach(plain);
+    EXPECT_EQ(&owner, CWnd::FromHandle(plain)) << "the permanent one comes first";
+    EXPECT_EQ(plain, owner.Detach());
+    EXPECT_EQ(before, CWnd::FromHandle(plain));
+}
+
+TEST_F(Window, SubclassedGetsItsProcedureBack) {
+    HWND edit =
+        ::CreateWindowExA(0, "EDIT", "abc", WS_CHILD, 0, 0, 50, 20, parent.m_hWnd, nullptr, nullptr, nullptr);
+    const auto before = ::GetWindowLongPtrA(edit, GWLP_WNDPROC);
+    CLog object;
+    ASSERT_TRUE(object.SubclassWindow(edit));
+    EXPECT_EQ(AfxGetAfxWndProc(), reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(edit, GWLP_WNDPROC)));
+    EXPECT_EQ(3, ::SendMessageA(edit, EM_LINELENGTH, 0, 0));
+    EXPECT_TRUE(Contains(object.messages, EM_LINELENGTH));
+    CLog second;
+    EXPECT_FALSE(second.SubclassWindow(edit)) << "the window has an object";
+
+    EXPECT_EQ(edit, object.UnsubclassWindow());
+    EXPECT_EQ(before, ::GetWindowLongPtrA(edit, GWLP_WNDPROC));
+    object.messages.clear();
+    EXPECT_EQ(3, ::SendMessageA(edit, EM_LINELENGTH, 0, 0));
+    EXPECT_TRUE(object.messages.empty());
+    ASSERT_TRUE(second.SubclassWindow(edit));
+    ::DestroyWindow(edit);
+    EXPECT_EQ(nullptr, second.m_hWnd);
+    EXPECT_FALSE(object.SubclassWindow(edit)) << "no window";
+}
+
+// A class that decides at a window's first message whether it gets an object: number 1 does, others do not.
+class CMade : public CLog {
+public:
+    static WNDPROC super;
+    static CMade* made;
+
+protected:
+    WNDPROC* GetSuperWndProcAddr() override { return &super; }
+};
+WNDPROC CMade::super = nullptr;
+CMade* CMade::made = nullptr;
+
+LRESULT CALLBACK FirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (::GetDlgCtrlID(window) == 1) {
+        CMade::made = new CMade;
+        CMade::made->Attach(window);
+    }
+    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
+    return ::CallWindowProcA(AfxGetAfxWndProc(), window, message, wParam, lParam);
+}
+
+TEST_F(Window, OfAClassThatMakesObjectsGoesOnPlainlyWithoutOne) {
+    WNDCLASSA list = {};
+    ASSERT_TRUE(::GetClassInfoA(nullptr, "LISTBOX", &list));
+    CMade::super = list.lpfnWndProc;
+    list.lpszClassName = "AfxTestList";
+    list.hInstance = AfxGetInstanceHandle();
+    list.lpfnWndProc = FirstMessage;
+    const ATOM atom = ::RegisterClassA(&list);
+    ASSERT_NE(0, atom);
+    AfxRegisterSuperWndProc(atom, CMade::super);
+    const auto create = [&](UINT_PTR id) {
+        return ::CreateWindowExA(0, "AfxTestList", "", WS_CHILD, 0, 0, 50, 50, parent.m_hWnd,
+                                 reinterpret_cast<HMENU>(id), AfxGetInstanceHandle(), nullptr);
+    };
+    HWND withObject = create(1);
+    ASSERT_NE(nullptr, CMade::made);
+    EXPECT_EQ(CMade::made, CWnd::FromHandlePermanent(withObject));
+    EXPECT_EQ(static_cast<UINT>(WM_NCCREATE), CMade::made->messages.front());
+
+    HWND plain = create(2);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+    for (HWND window : {withObject, plain}) {
+        EXPECT_EQ(0, ::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
+        EXPECT_EQ(1, ::SendMessageA(window, LB_GETCOUNT, 0, 0));
+    }
+    ::DestroyWindow(plain);
+    ::DestroyWindow(withObject);
+    delete CMade::made;
+    ::UnregisterClassA("AfxTestList", AfxGetInstanceHandle());
+}
+
+TEST_F(Window, LeftByItsObjectGoesOnByItsClass) {
+    CWnd object;
+    ASSERT_TRUE(object.Create("LISTBOX", "", WS_CHILD, kPlace, &parent, 1));
+    HWND window = object.Detach();
+    EXPECT_EQ(0, ::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
+    ::DestroyWindow(window);
+}
+
+TEST_F(Window, TellsItsDescendants) {
+    CLog child, grandchild;
+    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    ASSERT_TRUE(grandchild.Create(nullptr, "", WS_CHILD, kPlace, &child, 1));
+    parent.SendMessageToDescendants(WM_APP, 1, 2, FALSE);
+    EXPECT_TRUE(Contains(child.messages, WM_APP));
+    EXPECT_FALSE(Contains(grandchild.messages, WM_APP));
+    parent.SendMessageToDescendants(WM_APP);
+    EXPECT_TRUE(Contains(grandchild.messages, WM_APP));
+    EXPECT_FALSE(Contains(parent.messages, WM_APP));
+}
+
+TEST_F(Window, PretranslatesFromTheInnermostOutwards) {
+    class CTaker : public CWnd {
+    public:
+        int asked = 0;
+        BOOL takes = FALSE;
+        BOOL PreTranslateMessage(MSG*) override {
+            ++asked;
+            return takes;
+        }
+    } outer, inner;
+    ASSERT_TRUE(outer.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, kPlace, &outer, 1));
+    MSG message = {};
+    message.hwnd = inner.m_hWnd;
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_EQ(1, outer.asked);
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(inner.m_hWnd, &message));
+    EXPECT_EQ(1, outer.asked) << "stopped before it";
+    inner.takes = TRUE;
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_EQ(1, outer.asked);
+    EXPECT_EQ(3, inner.asked);
+}
+
+TEST_F(Window, SetsATextOnlyIfItIsAnotherOne) {
+    CLog child;
+    ASSERT_TRUE(child.Create("STATIC", "same", WS_CHILD, kPlace, &parent, 1));
+    child.messages.clear();
+    AfxSetWindowText(child.m_hWnd, "same");
+    EXPECT_FALSE(Contains(child.messages, WM_SETTEXT));
+    AfxSetWindowText(child.m_hWnd, "sane");
+    EXPECT_TRUE(Contains(child.messages, WM_SETTEXT));
+    AfxSetWindowText(child.m_hWnd, nullptr);
+    EXPECT_EQ(0, child.GetWindowTextLength());
+}
+
+TEST_F(Window, IsCentredOnItsOwnerAndKeptOnTheScreen) {
+    parent.SetWindowPos(nullptr, 300, 200, 400, 300, SWP_NOZORDER | SWP_SHOWWINDOW);
+    CWnd popup;
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 100, 60, parent.m_hWnd, nullptr));
+    popup.CenterWindow();
+    CRect place;
+    popup.GetWindowRect(&place);
+    EXPECT_EQ(CRect(450, 320, 550, 380), place);
+    parent.MoveWindow(-380, -290, 400, 300);
+    popup.CenterWindow();
+    popup.GetWindowRect(&place);
+    EXPECT_EQ(CPoint(0, 0), place.TopLeft());
+}
+
+} // namespace
