@@ -1,0 +1,122 @@
+// Filling the colour list with the host's colours, against inserting a list that is sorted already, redraw off.
+
+#include "bench/sheet/sheet_bench.h"
+
+#include <afxwin.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "bench/paired_timer.h"
+#include "drawcore/drawing.h"
+#include "drawcore/table.h"
+#include "orlo/controls/control_fill.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+
+namespace {
+
+constexpr int kColorCombo = 32005; // which the window class turns into a colour control
+constexpr DWORD kComboStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
+
+// The parent of both lists: counts what they ask it for.
+class Parent : public CWnd {
+public:
+    Parent() { CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 600, nullptr, nullptr); }
+
+    HWND Add(const char* className, int id) {
+        return ::CreateWindowExA(0, className, "", kComboStyle, 10, 10, 200, 320, m_hWnd,
+                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+    }
+
+    int draws = 0, measures = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        draws += message == WM_DRAWITEM;
+        measures += message == WM_MEASUREITEM;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+class Colors {
+public:
+    explicit Colors(int n) : m_drawing(::DrawingNew()), m_table(::DrawingGetTable(m_drawing, "_Colors_")) {
+        int cookie;
+        while (const uint16_t id = ::TableEntryFirst(m_table, &cookie)) ::TableEntryDelete(m_table, id);
+        std::mt19937 random(7);
+        for (int i = 0; i < n; ++i) {
+            COLORREF color = random() & 0xFFFFFF;
+            ::TableEntryAdd(m_table, ("Color " + std::to_string(i)).c_str(), &color);
+        }
+    }
+    ~Colors() { ::DrawingDispose(&m_drawing); }
+    Colors(const Colors&) = delete;
+    Colors& operator=(const Colors&) = delete;
+
+    TableStruct* Table() const { return m_table; }
+
+private:
+    DrawingStruct* m_drawing;
+    TableStruct* m_table;
+};
+
+std::vector<std::string> ItemsOf(HWND combo) {
+    std::vector<std::string> items(::SendMessageA(combo, CB_GETCOUNT, 0, 0));
+    for (size_t i = 0; i < items.size(); ++i) {
+        items[i].resize(::SendMessageA(combo, CB_GETLBTEXTLEN, i, 0) + 1);
+        ::SendMessageA(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(&items[i][0]));
+    }
+    return items;
+}
+
+void InsertSorted(HWND combo, const std::vector<std::string>& items) {
+    ::SendMessageA(combo, WM_SETREDRAW, FALSE, 0);
+    ::SendMessageA(combo, CB_RESETCONTENT, 0, 0);
+    for (const std::string& item : items) ::SendMessageA(combo, CB_INSERTSTRING, -1, reinterpret_cast<LPARAM>(item.c_str()));
+    ::SendMessageA(combo, WM_SETREDRAW, TRUE, 0);
+}
+
+struct Fill {
+    Pair pair;
+    int draws, measures;
+};
+
+Fill FillWith(int n) {
+    const Colors colors(n);
+    Parent parent;
+    const HWND ours = parent.Add("QXComboBox", kColorCombo), plain = parent.Add("COMBOBOX", 1);
+    const ControlFillRecord record = {colors.Table(), 0, 0xFFFFFFFE};
+    const auto fill = [&] { ::SendMessageA(ours, kFillMessage, 0, reinterpret_cast<LPARAM>(&record)); };
+    fill();
+    const std::vector<std::string> items = ItemsOf(ours);
+    Fill result;
+    result.pair = Compare(n > 1000 ? 9 : 31, fill, [&] { InsertSorted(plain, items); });
+    parent.measures = 0;
+    fill();
+    result.measures = parent.measures;
+    parent.draws = 0;
+    ::SendMessageA(ours, CB_SHOWDROPDOWN, TRUE, 0);
+    ::RedrawWindow(parent.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
+    result.draws = parent.draws;
+    ::SendMessageA(ours, CB_SHOWDROPDOWN, FALSE, 0);
+    return result;
+}
+
+} // namespace
+
+void BenchFill() {
+    Pair before{};
+    for (const int n : {256, 1000, 10000}) {
+        const Fill fill = FillWith(n);
+        const std::string name = "fill_colors_" + std::to_string(n);
+        Print(name.c_str(), fill.pair.ratio, "x_presorted_insertion");
+        Print((name + "_draw_requests").c_str(), fill.draws, "when_dropped");
+        Print((name + "_measure_requests").c_str(), fill.measures, "in_a_fill");
+        if (n == 10000) Print("fill_colors_growth", fill.pair.seconds / before.seconds, "x_for_10n");
+        before = fill.pair;
+    }
+}

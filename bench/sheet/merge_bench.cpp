@@ -1,0 +1,140 @@
+// Merging and writing one property over many graphics, against a bare loop of the same host calls.
+
+#include "bench/sheet/sheet_bench.h"
+
+#include <memory>
+#include <string>
+
+#include <oaidl.h>
+
+#include "bench/paired_timer.h"
+#include "drawcore/drawing.h"
+#include "drawcore/selection.h"
+#include "orlo/frame/entry.h"
+#include "orlo/host/memory.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr int kRounds = 5;
+
+// A drawing of n vertex graphics, all selected.
+class Crowd {
+public:
+    explicit Crowd(int n) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
+        for (int i = 0; i < n; ++i)
+            ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1)));
+    }
+    ~Crowd() {
+        ::GraphicDispose(&m_selection);
+        ::DrawingDispose(&m_drawing);
+    }
+    Crowd(const Crowd&) = delete;
+    Crowd& operator=(const Crowd&) = delete;
+
+    GraphicStruct* Selection() const { return m_selection; }
+    DrawingStruct* Drawing() const { return m_drawing; }
+
+private:
+    DrawingStruct* m_drawing;
+    GraphicStruct* m_selection;
+};
+
+// The host calls of a merge or a write, and nothing else.
+template <class Visit>
+void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
+    uint32_t position;
+    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); graphic != nullptr;
+         graphic = ::GraphicNext(set, &position, 1, 0xFFFFFFFF)) {
+        int32_t number;
+        const PropertyTable* table = ::GraphicGetVtbl(graphic);
+        if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number)) visit(graphic, table, number);
+    }
+}
+
+void BareGet(GraphicStruct* set, const char* name) {
+    double sum = 0;
+    BareLoop(set, name, [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+        double value = 0;
+        table->PropGet(graphic, number, VT_R8, &value);
+        sum += value;
+    });
+}
+
+void BareGetText(GraphicStruct* set, const char* name) {
+    char* text = nullptr;
+    BareLoop(set, name, [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+        table->PropGet(graphic, number, VT_BSTR, &text);
+    });
+    ::BStringNULL(&text);
+}
+
+struct Results {
+    Pair number, text, writeNumber, writeText;
+    double mixed; // seconds of a merge that ends at the second graphic
+};
+
+Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
+    Results results{};
+    double width = 0.5;
+    CString info("a text of usual length");
+    results.writeNumber = Compare(
+        kRounds, [&] { page.SetPropText("PenWidth", width, 0); },
+        [&] {
+            BareLoop(selection, "PenWidth", [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                table->PropSet(graphic, number, VT_R8, &width);
+            });
+        });
+    results.writeText = Compare(
+        kRounds, [&] { page.SetPropText("Info", info, 0); },
+        [&] {
+            BareLoop(selection, "Info", [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
+            });
+        });
+    results.number = Compare(
+        kRounds, [&] { page.GetPropText("PenWidth", &width, 0); }, [&] { BareGet(selection, "PenWidth"); });
+    results.text = Compare(
+        kRounds, [&] { page.GetPropText("Info", &info, 0); }, [&] { BareGetText(selection, "Info"); });
+
+    uint32_t position;
+    ::GraphicFirst(selection, &position, 1, 0xFFFFFFFF);
+    GraphicStruct* second = ::GraphicNext(selection, &position, 1, 0xFFFFFFFF);
+    const PropertyTable* table = ::GraphicGetVtbl(second);
+    const char* name = "PenWidth";
+    int32_t number;
+    const double other = 7;
+    if (table->PropLookup(second, &name, 1, 0, &number)) table->PropSet(second, number, VT_R8, &other);
+    results.mixed = Seconds([&] { page.GetPropText("PenWidth", &width, 0); });
+    return results;
+}
+
+Results MeasureCrowd(int n) {
+    const Crowd crowd(n);
+    Results results{};
+    ::PropPageInit();
+    const std::unique_ptr<CGraphicPropertySheet> sheet(
+        ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), 0xFFFFFFFF));
+    auto* page = new ExchangePage([](CDataExchange*) {});
+    sheet->AddPage(page);
+    SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+        user.SelectPage(1);
+        results = Measure(*page, crowd.Selection());
+    });
+    return results;
+}
+
+} // namespace
+
+void BenchMerge() {
+    const Results small = MeasureCrowd(100000), large = MeasureCrowd(1000000);
+    Print("merge_number_1000000", large.number.ratio, "x_bare_host_calls");
+    Print("merge_number_growth", large.number.seconds / small.number.seconds, "x_for_10n");
+    Print("merge_text_1000000", large.text.ratio, "x_bare_host_calls");
+    Print("merge_text_growth", large.text.seconds / small.text.seconds, "x_for_10n");
+    Print("merge_mixed_at_second_1000000", large.mixed / large.number.seconds, "x_merge_of_equal_values");
+    Print("write_number_1000000", large.writeNumber.ratio, "x_bare_host_calls");
+    Print("write_number_growth", large.writeNumber.seconds / small.writeNumber.seconds, "x_for_10n");
+    Print("write_text_1000000", large.writeText.ratio, "x_bare_host_calls");
+    Print("write_text_growth", large.writeText.seconds / small.writeText.seconds, "x_for_10n");
+}

@@ -1,0 +1,7 @@
+// The measurements of the sheet: each prints its own lines.
+#pragma once
+
+void BenchMerge();
+void BenchOpen();
+void BenchPreview();
+void BenchFill();
