@@ -42,18 +42,21 @@ public:
         std::string out;
         auto* in = const_cast<char*>(text.data()); // iconv takes no const and writes nothing
         size_t inLeft = text.size();
-        while (inLeft > 0) {
-            std::array<char, 512> part;
-            char* end = part.data();
-            size_t room = part.size();
-            const size_t result = ::iconv(handle_, &in, &inLeft, &end, &room);
-            out.append(part.data(), end);
-            if (result == static_cast<size_t>(-1) && errno != E2BIG) return std::nullopt;
-        }
+        while (inLeft > 0)
+            if (!Step(&in, &inLeft, out)) return std::nullopt;
+        if (!Step(nullptr, nullptr, out)) return std::nullopt; // what was held back for an accent to follow
         return out;
     }
 
 private:
+    bool Step(char** in, size_t* inLeft, std::string& out) {
+        std::array<char, 512> part;
+        char* end = part.data();
+        size_t room = part.size();
+        const size_t result = ::iconv(handle_, in, inLeft, &end, &room);
+        out.append(part.data(), end);
+        return result != static_cast<size_t>(-1) || errno == E2BIG;
+    }
     bool IsOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
     iconv_t handle_;
 };

@@ -206,6 +206,8 @@ void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     entry.property.state = state;
     entry.property.bytes.assign(bytes, bytes + size);
+    if (state == ValueState::opaque)
+        entry.property.bytes.resize(Aligned(size)); // its padding may be part of it
     if (state != ValueState::partial) entry.end = entry.offset + kTypeSize + size;
 }
 
@@ -241,7 +243,8 @@ void SectionReader::ReadDictionary(Entry& entry) {
     if (!allowance_.Spend(size)) return TooLarge(entry);
     const uint32_t type = Load32(bytes);
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);
-    const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
+    const bool isLastInSection =
+        asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
     if (!IsWholeDictionary(bytes, size, codePage) && asValue &&
         (isLastInSection || entry.room - asValue->size < 4)) {
         report_.Add(FindingCode::dictionaryTyped, Severity::irregular, at, place_,

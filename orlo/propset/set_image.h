@@ -29,7 +29,7 @@ struct DictionaryEntry {
 };
 
 // complete: the bytes are the value. opaque: nobody knows the type; the bytes are all up to the next value,
-// and are kept. partial: the value is not there in full; the bytes are what is.
+// filled up to 4, and are kept. partial: the value is not there in full; the bytes are what is.
 enum class ValueState { complete, opaque, partial };
 
 struct ImageProperty {

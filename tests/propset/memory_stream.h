@@ -9,7 +9,8 @@
 #include <vector>
 
 #pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // the system's interface has none; nobody deletes through it
+#pragma GCC diagnostic ignored                                                                               \
+    "-Wnon-virtual-dtor" // the system's interface has none; nobody deletes through it
 
 class MemoryStream final : public IStream {
 public:

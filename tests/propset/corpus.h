@@ -1,0 +1,25 @@
+// The property-set streams of tests/data, and of the corpus beside the repository where that is there.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "orlo/propset/value.h"
+
+struct CorpusStream {
+    std::string path;
+    nlohmann::json manifest; // what independent readers see in it
+
+    std::vector<uint8_t> Content() const;
+    bool IsReal() const { return manifest["origin"] == "real"; }
+};
+void PrintTo(const CorpusStream& stream, std::ostream* out);
+
+std::vector<CorpusStream> AllCorpusStreams();
+// For the name of a parameterised test.
+std::string CorpusTestName(const std::string& path);
+
+// A value in the form that the manifest has.
+nlohmann::json ToJson(const orlo::Value& value);

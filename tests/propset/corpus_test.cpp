@@ -1,0 +1,182 @@
+// Streams of real documents, and damaged ones: what independent readers agree on is read, what is written again is
+// read back equal, and what is wrong is found.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "orlo/propset/property_set.h"
+#include "orlo/propset/set_image.h"
+#include "tests/propset/corpus.h"
+#include "tests/propset/memory_stream.h"
+
+using nlohmann::json;
+using orlo::Finding;
+using orlo::ImageProperty;
+using orlo::ImageSection;
+using orlo::SetImage;
+using orlo::Severity;
+using orlo::ValueState;
+
+namespace {
+
+std::optional<SetImage> Read(const std::vector<uint8_t>& bytes) {
+    std::vector<Finding> findings;
+    return orlo::ReadSetImage(bytes.data(), bytes.size(), findings);
+}
+
+const ImageProperty* FindByOffset(const ImageSection& section, const json& property) {
+    for (const ImageProperty& candidate : section.properties)
+        if (candidate.id == property["id"] && candidate.offset == property["offset"]) return &candidate;
+    return nullptr;
+}
+
+// One property's value as the manifest has it; nothing but null if it can't be read.
+json ValueOf(const ImageSection& section, const ImageProperty& property) {
+    orlo::Value value;
+    const bool readable = property.state == ValueState::complete &&
+                          orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
+                                            section.codePage, value);
+    return readable ? ToJson(value) : json();
+}
+
+json DictionaryOf(const ImageSection& section) {
+    if (!section.dictionary) return nullptr;
+    json list = json::array();
+    for (const auto& entry : *section.dictionary)
+        list.push_back({{"id", entry.id}, {"name", entry.name}});
+    return list;
+}
+
+// Some elements of lists carry their bytes beside their text.
+json WithoutBytes(json value) {
+    if (value.is_array())
+        for (json& element : value)
+            if (element.is_object()) element.erase("bytes");
+    return value;
+}
+
+// What an image says, without offsets and what can't be written.
+json Essence(const SetImage& image) {
+    json sections = json::array();
+    for (const ImageSection& section : image.sections) {
+        json properties = json::array();
+        for (const ImageProperty& property : section.properties)
+            if (property.state != ValueState::partial)
+                properties.push_back(
+                    {property.id, property.type, property.bytes, static_cast<int>(property.state)});
+        sections.push_back({{"format", orlo::GuidText(section.formatId)},
+                            {"codePage", section.codePage ? json(*section.codePage) : json()},
+                            {"dictionary", DictionaryOf(section)},
+                            {"properties", properties}});
+    }
+    return {{"version", image.version},
+            {"os", image.osVersion},
+            {"class", orlo::GuidText(image.classId)},
+            {"sections", sections}};
+}
+
+class Corpus : public ::testing::TestWithParam<CorpusStream> {};
+INSTANTIATE_TEST_SUITE_P(Streams, Corpus, ::testing::ValuesIn(AllCorpusStreams()),
+                         [](const auto& stream) { return CorpusTestName(stream.param.path); });
+
+TEST_P(Corpus, GivesTheAgreedValues) {
+    const CorpusStream& stream = GetParam();
+    const std::optional<SetImage> image = Read(stream.Content());
+    const json& sections = stream.manifest.value("sections", json::array());
+    if (!stream.IsReal() || sections.empty()) return; // what readers see there is their own affair
+    ASSERT_TRUE(image);
+    EXPECT_EQ(orlo::GuidText(image->classId), stream.manifest["clsid"]);
+    const bool isDamaged = stream.manifest["class"] == "damaged";
+    EXPECT_TRUE(isDamaged || image->sections.size() == sections.size());
+    for (const ImageSection& section : image->sections) {
+        const auto found = std::find_if(sections.begin(), sections.end(),
+                                        [&](const json& s) { return s["offset"] == section.offset; });
+        ASSERT_NE(found, sections.end());
+        const json& expected = *found;
+        EXPECT_EQ(orlo::GuidText(section.formatId), expected["fmtid"]);
+        EXPECT_EQ(section.size, expected["size"]);
+        EXPECT_EQ(section.count, expected["property_count"]);
+        EXPECT_EQ(section.codePage ? json(*section.codePage) : json(), expected["code_page"]);
+        EXPECT_TRUE(isDamaged || DictionaryOf(section) == expected["dictionary"]) << DictionaryOf(section);
+        for (const json& property : expected["properties"]) {
+            if (property["agreed_by"].empty()) continue;
+            const ImageProperty* read = FindByOffset(section, property);
+            ASSERT_NE(read, nullptr) << property;
+            EXPECT_EQ(read->type, property["vt"]);
+            EXPECT_EQ(ValueOf(section, *read), WithoutBytes(property["value"])) << property;
+        }
+    }
+}
+
+TEST_P(Corpus, ReadsBackEqualWhatItWrites) {
+    const std::optional<SetImage> image = Read(GetParam().Content());
+    if (!image) return;
+    const std::optional<orlo::Bytes> written = orlo::WriteSetImage(*image);
+    ASSERT_TRUE(written);
+    const std::optional<SetImage> again = Read(*written);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(Essence(*again), Essence(*image));
+    EXPECT_EQ(orlo::WriteSetImage(*again), written);
+}
+
+TEST_P(Corpus, IsJudgedAsItDeserves) {
+    const CorpusStream& stream = GetParam();
+    if (!stream.IsReal()) return;
+    const std::vector<uint8_t> bytes = stream.Content();
+    std::vector<Finding> findings;
+    orlo::ReadSetImage(bytes.data(), bytes.size(), findings);
+    Severity worst = Severity::note;
+    for (const Finding& finding : findings) {
+        worst = std::max(worst, finding.severity);
+        EXPECT_LE(finding.offset, bytes.size() + UINT32_MAX);
+    }
+    const json& kind = stream.manifest["class"];
+    EXPECT_EQ(worst, kind == "damaged"     ? Severity::damaged
+                     : kind == "irregular" ? Severity::irregular
+                                           : Severity::note);
+}
+
+// The classes keep the bytes of every value that they have a form for; the rest stays without a value.
+TEST_P(Corpus, GivesTheClassesTheSameBytes) {
+    const std::vector<uint8_t> bytes = GetParam().Content();
+    MemoryStream stream(bytes);
+    CPropertySet set;
+    set.ReadFromStream(&stream);
+    MemoryStream out;
+    const bool isWritten = set.WriteToStream(&out);
+    const std::optional<SetImage> image = Read(bytes);
+    if (!image || GetParam().manifest["class"] != "well-formed") return;
+
+    ASSERT_EQ(set.GetCount(), image->sections.size());
+    bool isWritable = true;
+    POSITION next = set.GetList()->GetHeadPosition();
+    for (const ImageSection& section : image->sections) {
+        auto* read = static_cast<CPropertySection*>(set.GetList()->GetNext(next));
+        for (const ImageProperty& property : section.properties) {
+            CProperty* held = read->GetProperty(property.id);
+            ASSERT_NE(held, nullptr);
+            if ((property.type & 0xFFF) == VT_VARIANT) isWritable = false;
+            const void* block = held->GetRawValue();
+            EXPECT_TRUE(block == nullptr || memcmp(block, property.bytes.data(), property.bytes.size()) == 0)
+                << property.id;
+        }
+        for (const auto& entry : section.dictionary.value_or(std::vector<orlo::DictionaryEntry>()))
+            if (entry.id != 0 &&
+                std::all_of(entry.name.begin(), entry.name.end(), [](char c) { return c > 0; })) {
+                DWORD id = 0;
+                EXPECT_TRUE(read->GetID(entry.name.c_str(), &id)) << entry.name;
+                EXPECT_EQ(id, entry.id);
+            }
+    }
+    EXPECT_EQ(isWritten, isWritable);
+    if (!isWritten) return;
+    out.Rewind();
+    CPropertySet again;
+    ASSERT_EQ(again.ReadFromStream(&out), 1);
+    MemoryStream twice;
+    ASSERT_EQ(again.WriteToStream(&twice), 1);
+    EXPECT_EQ(twice.Content(), out.Content());
+}
+
+} // namespace
