@@ -60,11 +60,26 @@ void PassOverLabels(HWND dialog) {
     }
 }
 
+// Boxes of the templates reach beyond the page, which would cut their right edges off.
+void FitIntoPage(HWND dialog) {
+    RECT client;
+    ::GetClientRect(dialog, &client);
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        RECT rect;
+        ::GetWindowRect(child, &rect);
+        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+        if (rect.right <= client.right || rect.left >= client.right) continue;
+        ::SetWindowPos(child, nullptr, 0, 0, client.right - rect.left, rect.bottom - rect.top,
+                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+    }
+}
+
 } // namespace
 
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
     PassOverLabels(m_hWnd);
+    FitIntoPage(m_hWnd);
     const BOOL result = COrloPropertyPage::OnInitDialog();
     AddPreviewGraphic();
     m_bInitializing = 0;
