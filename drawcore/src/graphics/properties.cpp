@@ -5,7 +5,9 @@
 #include <cstring>
 #include <limits>
 
-#include <oleauto.h>
+#include <windows.h>
+
+#include <wtypes.h>
 
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/text_graphic.h"

@@ -49,17 +49,48 @@ void AddSegment(const Vertex& a, const Vertex& b, const Trace& trace, Path& path
         path.LineTo(trace.matrix.Plan(b.Position()));
 }
 
-// The strokes of a list, or with whole set the one outline that goes through all its vertices.
-void BuildPath(const VertexGraphic& graphic, const Trace& trace, bool whole, Path& path) {
+bool IsDrawn(const Vertex& vertex) {
+    return vertex.wFlags & kVertexDrawn;
+}
+
+// The strokes of a list.
+void BuildStrokes(const VertexGraphic& graphic, const Trace& trace, Path& path) {
+    const std::vector<Vertex>& list = graphic.vertices;
+    const size_t count = list.size();
+    path.Clear();
+    bool moved = false; // to the vertex before
+    for (size_t i = 1; i < count; ++i) {
+        if (!IsDrawn(list[i])) {
+            moved = false;
+            continue;
+        }
+        if (!moved) path.MoveTo(trace.matrix.Plan(list[i - 1].Position()));
+        AddSegment(list[i - 1], list[i], trace, path);
+        moved = true;
+    }
+    if (!graphic.closed || count < 2) return;
+    if (!moved) path.MoveTo(trace.matrix.Plan(list.back().Position()));
+    AddSegment(list.back(), list.front(), trace, path);
+}
+
+// Whether the list goes to this vertex and back again without drawing: that encloses nothing, and is left out.
+bool IsExcursion(const std::vector<Vertex>& list, size_t i) {
+    return i > 0 && i + 1 < list.size() && !IsDrawn(list[i]) && !IsDrawn(list[i + 1]) &&
+           list[i - 1].Position() == list[i + 1].Position();
+}
+
+// The one outline that goes through all vertices.
+void BuildOutline(const VertexGraphic& graphic, const Trace& trace, Path& path) {
     const std::vector<Vertex>& list = graphic.vertices;
     path.Clear();
-    for (size_t i = 0; i < list.size(); ++i) {
-        if (i == 0 || (!whole && !(list[i].wFlags & kVertexDrawn)))
-            path.MoveTo(trace.matrix.Plan(list[i].Position()));
+    path.MoveTo(trace.matrix.Plan(list.front().Position()));
+    for (size_t i = 1; i < list.size(); ++i) {
+        if (IsExcursion(list, i))
+            ++i;
         else
             AddSegment(list[i - 1], list[i], trace, path);
     }
-    if (graphic.closed && list.size() > 1) AddSegment(list.back(), list.front(), trace, path);
+    if (graphic.closed) AddSegment(list.back(), list.front(), trace, path);
 }
 
 // A segment with widths of its own as an area: pairs of points left and right along its flattened middle.
@@ -126,14 +157,19 @@ void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse&
 
 void VertexGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     if (vertices.empty()) return;
+    Path& path = trace.tools.path;
     if (brush.style != kBrushNone && vertices.size() > 2) {
-        BuildPath(*this, trace, dwOneOutline != 0, trace.tools.path);
+        if (dwOneOutline)
+            BuildOutline(*this, trace, path);
+        else
+            BuildStrokes(*this, trace, path);
         TraceFill(*this, trace, use);
     }
     if (!use.strokes) return;
     if (HasWidths(vertices)) TraceWidths(*this, trace, use);
-    BuildPath(*this, trace, false, trace.tools.path);
-    trace.sink.Stroke(trace.tools.path, use);
+    BuildStrokes(*this, trace, path);
+    if (vertices.size() == 1) path.MoveTo(trace.matrix.Plan(vertices.front().Position()));
+    trace.sink.Stroke(path, use);
 }
 
 double VertexGraphic::Reach() const {

@@ -85,22 +85,22 @@ void GdiPainter::Stroke(const Path& path, const PenUse& use) {
         const DashPattern pattern{use.style->pattern, use.dashScale, use.fitDashes};
         if (ShowsDashes(pattern, kFinestDashes)) {
             CutDashes(path, pattern, around, pieces_);
-            return AddLines(pieces_, key);
+            return AddLines(pieces_, key, false);
         }
     }
-    if (where == Where::Inside) return AddLines(path, key);
+    if (where == Where::Inside) return AddLines(path, key, true);
     ClipLines(path, around, clipped_);
-    AddLines(clipped_, key);
+    AddLines(clipped_, key, true);
 }
 
-void GdiPainter::AddLines(const Path& path, const PenKey& key) {
+void GdiPainter::AddLines(const Path& path, const PenKey& key, bool lastPixel) {
     if (!(key == waiting_) || points_.size() > kMostWaiting) Flush();
     waiting_ = key;
     for (size_t line = 0; line < path.Count(); ++line)
-        AddPolyline(path, line, key);
+        AddPolyline(path, line, key, lastPixel && key.width == 1);
 }
 
-void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key) {
+void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key, bool lastPixel) {
     const size_t begin = path.Begin(line), end = path.End(line), before = points_.size();
     for (size_t i = begin; i < end; ++i) {
         const POINT p = ToDevice(path.points[i]);
@@ -111,9 +111,8 @@ void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key) {
         points_.pop_back();
         return AddDot(path.points[begin], key);
     }
-    // The thinnest lines leave out their last pixel: one step more brings it.
     const POINT last = points_.back();
-    if (key.width == 1) points_.push_back({last.x + 1, last.y});
+    if (lastPixel) points_.push_back({last.x + 1, last.y});
     counts_.push_back(static_cast<DWORD>(points_.size() - before));
 }
 
@@ -160,7 +159,7 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
     if (!ShowsHatch(use, kFinestHatch))
         return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
     HatchLines(*areas, use, around, pieces_);
-    AddLines(pieces_, {color, 1, false});
+    AddLines(pieces_, {color, 1, false}, true);
 }
 
 void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {

@@ -43,9 +43,10 @@ private:
 
     Color Seen(Color color) const;
     PenKey KeyOf(const PenUse& use) const;
-    void AddLines(const Path& path, const PenKey& key);
+    // lastPixel: the thinnest lines, of which the device leaves out the last pixel, get it all the same.
+    void AddLines(const Path& path, const PenKey& key, bool lastPixel);
     void AddDot(const Point& p, const PenKey& key);
-    void AddPolyline(const Path& path, size_t line, const PenKey& key);
+    void AddPolyline(const Path& path, size_t line, const PenKey& key, bool lastPixel);
     void Flush();
     HPEN PenOf(const PenKey& key);
     void FillSolid(const Path& areas, Color color, bool winding);

@@ -54,7 +54,9 @@ std::string DecimalText(double value, int decimals) {
     const int exponent = DecimalExponent(value);
     if (exponent >= 15 || exponent < -9)
         return Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, 3)));
-    std::string text = Trimmed(Format(value, std::chars_format::fixed, std::max(decimals, 3 - exponent)));
+    // Never more than fifteen digits in all: the next would differ from one conversion to the other.
+    const int shown = std::min(std::max(decimals, 3 - exponent), 14 - exponent);
+    std::string text = Trimmed(Format(value, std::chars_format::fixed, shown));
     return text == "-0" ? "0" : text;
 }
 

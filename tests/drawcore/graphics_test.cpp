@@ -1,0 +1,200 @@
+// Graphics: making, owning, walking with filters, extents, selections, and what is given back.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include <drawcore/graphic.h>
+#include <drawcore/regen.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+std::vector<GraphicStruct*> Walk(GraphicStruct* set, uint32_t filter = 0xFFFFFFFF) {
+    std::vector<GraphicStruct*> found;
+    uint32_t position = 0xDEADBEEF;
+    for (GraphicStruct* g = GraphicFirst(set, &position, 1, filter); g;
+         g = GraphicNext(set, &position, 1, filter))
+        found.push_back(g);
+    return found;
+}
+
+using List = std::vector<GraphicStruct*>;
+
+TEST(Graphics, AreMadeByType) {
+    Balance balance;
+    for (const int type : {2, 6, 0x0B, 0x11}) {
+        GraphicStruct* graphic = GraphicNewEx(type, 0, 1);
+        ASSERT_NE(graphic, nullptr);
+        EXPECT_EQ(graphic->bType, type);
+        EXPECT_NE(graphic->dwFlags & kFlagNoParent, 0u);
+        EXPECT_EQ(graphic->wRegenMethod, 0);
+        GraphicDispose(&graphic);
+        EXPECT_EQ(graphic, nullptr);
+        GraphicDispose(&graphic); // harmless
+    }
+    EXPECT_EQ(GraphicNewEx(99, 0, 1), nullptr);
+    EXPECT_TRUE(balance.IsEven());
+}
+
+TEST(Graphics, OwnTheirParts) {
+    Balance balance;
+    OwnDrawing drawing;
+    GraphicStruct* parent = GraphicNewEx(kGraphicVertices, 0, 1);
+    EXPECT_FALSE(GraphicGetIsGroup(parent));
+    GraphicStruct *a = MakeSquare(0, 0, 1), *b = MakeSquare(5, 5, 1);
+    EXPECT_EQ(GraphicAdd(parent, a), a);
+    EXPECT_EQ(GraphicAdd(parent, b), b);
+    EXPECT_TRUE(GraphicGetIsGroup(parent));
+    EXPECT_EQ(a->pParent, parent);
+    EXPECT_EQ(a->dwFlags & kFlagNoParent, 0u);
+    EXPECT_EQ(GraphicAdd(drawing.Root(), a), nullptr) << "has an owner already";
+    GraphicAttach(parent, drawing);
+    EXPECT_EQ(GraphicGetDrawing(b), static_cast<DrawingStruct*>(drawing)) << "parts go with the whole";
+    GraphicDelete(parent, a);
+    EXPECT_NE(a->dwFlags & kFlagNoParent, 0u);
+    EXPECT_EQ(Walk(parent), List{b});
+    GraphicDelete(parent, a); // no part any more: nothing happens
+    GraphicDispose(&a);
+    drawing.Close();
+    EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing is gone";
+    GraphicDispose(&parent);
+    EXPECT_TRUE(balance.IsEven());
+}
+
+TEST(Graphics, OfAPolylineWithPartsAreNoGroup) {
+    GraphicStruct* shape = MakeSquare(0, 0, 1);
+    GraphicAdd(shape, MakeSquare(1, 1, 1));
+    EXPECT_FALSE(GraphicGetIsGroup(shape));
+    GraphicDispose(&shape);
+}
+
+TEST(Graphics, AreWalkedByKind) {
+    OwnDrawing drawing;
+    GraphicStruct* line = drawing.Add(MakeLines({{0, 0}, {1, 1}}));
+    GraphicStruct* circle = drawing.Add(GraphicNewEx(kGraphicPenBrush, 0, 1));
+    GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
+    GraphicStruct* insert = drawing.Add(GraphicNewEx(kGraphicInsert, 0, 1));
+    GraphicStruct* group = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicAdd(group, MakeSquare(0, 0, 1));
+    drawing.Add(group);
+    const List all = {line, circle, text, insert, group};
+    GraphicStruct* root = drawing.Root();
+    EXPECT_EQ(Walk(root), all) << "a group counts as one";
+    EXPECT_EQ(Walk(root, 0xFFFFFFFF & ~4u), all);
+    EXPECT_EQ(Walk(root, 4), all) << "no kind is named";
+    EXPECT_EQ(Walk(root, 0), all);
+    EXPECT_EQ(Walk(root, kKindVertices), List{line});
+    EXPECT_EQ(Walk(root, kKindCurve | kKindText | 4), (List{circle, text}));
+    EXPECT_EQ(Walk(root, kKindInsert | kKindGroup), (List{insert, group}));
+    EXPECT_EQ(GraphicFirst(nullptr, &root, 1, 0), nullptr);
+}
+
+TEST(Graphics, TakeCopiesOfVerticesWithTheirFlags) {
+    VertexStruct* vertex = VertexNewFromEx(nullptr);
+    EXPECT_EQ(vertex->wFlags & 1, 1) << "a new one is drawn";
+    VertexSet(vertex, 3, 4, 5);
+    vertex->wFlags = 0;
+    VertexStruct* copy = VertexNewFromEx(vertex);
+    EXPECT_EQ(copy->z, 5);
+    EXPECT_EQ(copy->wFlags, 0);
+    GraphicStruct* text = GraphicNewEx(kGraphicText, 0, 1);
+    EXPECT_FALSE(GraphicVertexAdd(text, vertex));
+    EXPECT_FALSE(GraphicVertexAdd(nullptr, vertex));
+    GraphicDispose(&text);
+    VertexDispose(&vertex);
+    VertexDispose(&copy);
+    EXPECT_EQ(vertex, nullptr);
+}
+
+TEST(Extents, FollowTheGraphicAndItsParts) {
+    OwnDrawing drawing;
+    GraphicStruct* a = drawing.Add(MakeSquare(10, 0, 5));
+    const auto left = [&] { return ExtentsGetX1(GraphicGetExtentsSel(drawing.Root(), 0)); };
+    const auto right = [&] { return ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)); };
+    EXPECT_EQ(left(), 10);
+    EXPECT_EQ(right(), 15);
+    GraphicStruct* b = drawing.Add(MakeSquare(-7, 0, 1));
+    EXPECT_EQ(left(), -7);
+    VertexStruct* vertex = VertexNewEx(99, 0, 0);
+    GraphicVertexAdd(a, vertex);
+    VertexDispose(&vertex);
+    EXPECT_EQ(right(), 99) << "a part has grown";
+    GraphicDelete(drawing.Root(), b);
+    GraphicDispose(&b);
+    EXPECT_EQ(left(), 10);
+    GraphicStruct* circle = drawing.Add(GraphicNewEx(kGraphicPenBrush, 0, 1));
+    EXPECT_NEAR(ExtentsGetX1(GraphicGetExtentsSel(circle, 0)), -1, 1e-12);
+    EXPECT_NEAR(ExtentsGetX2(GraphicGetExtentsSel(circle, 0)), 1, 1e-12);
+}
+
+TEST(Selections, BorrowTheirMembers) {
+    Balance balance;
+    OwnDrawing drawing;
+    std::vector<GraphicStruct*> lines;
+    for (int i = 0; i < 5; ++i)
+        lines.push_back(drawing.Add(MakeSquare(i, 0, 1)));
+    GraphicStruct* selection = SelectionNew();
+    for (GraphicStruct* line : lines)
+        EXPECT_TRUE(SelectionAdd(selection, line));
+    EXPECT_FALSE(SelectionAdd(selection, lines[2])) << "once";
+    EXPECT_TRUE(SelectionRemove(selection, lines[1]));
+    EXPECT_FALSE(SelectionRemove(selection, lines[1]));
+    EXPECT_TRUE(SelectionRemove(selection, lines[3]));
+    EXPECT_EQ(Walk(selection), (List{lines[0], lines[2], lines[4]})) << "the order stays";
+    EXPECT_TRUE(SelectionContains(selection, lines[4]));
+    EXPECT_FALSE(SelectionContains(selection, lines[3]));
+    EXPECT_TRUE(SelectionRemove(selection, lines[4]));
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(selection, 0)), 3);
+    EXPECT_EQ(lines[0]->pParent, drawing.Root());
+    EXPECT_FALSE(SelectionAdd(drawing.Root(), lines[0])) << "no selection";
+    SelectionClear(selection);
+    EXPECT_EQ(SelectionCount(selection), 0);
+    SelectionAdd(selection, lines[0]);
+    GraphicDispose(&selection);
+    EXPECT_EQ(Walk(drawing.Root()).size(), 5u) << "the members stay the drawing's";
+    drawing.Close();
+    EXPECT_TRUE(balance.IsEven());
+}
+
+TEST(RegenMethods, AreTheHostPrograms) {
+    struct Calls {
+        std::vector<GraphicStruct*> rebuilt;
+        void* sheet = nullptr;
+    } calls;
+    const RegenMethod method = {
+        &calls, [](void* context, GraphicStruct* g) { static_cast<Calls*>(context)->rebuilt.push_back(g); },
+        [](void* context, GraphicStruct*, void* sheet) {
+            static_cast<Calls*>(context)->sheet = sheet;
+            return 42;
+        }};
+    void* methods = RegenMethodsNew();
+    GraphicStruct* graphic = MakeSquare(0, 0, 1);
+    EXPECT_TRUE(RegenMethodRegister(methods, 7, &method));
+    EXPECT_FALSE(RegenMethodRegister(methods, 0, &method));
+    RegenMethodRegen(methods, 7, graphic);
+    RegenMethodRegen(methods, 8, graphic);
+    RegenMethodRegen(nullptr, 7, graphic);
+    EXPECT_EQ(calls.rebuilt, List{graphic});
+    EXPECT_EQ(RegenMethodGetPropPage(methods, 7, graphic, &calls), 42);
+    EXPECT_EQ(calls.sheet, &calls);
+    EXPECT_EQ(RegenMethodGetPropPage(methods, 8, graphic, &calls), 0);
+    GraphicDispose(&graphic);
+    RegenMethodsDispose(&methods);
+    EXPECT_EQ(methods, nullptr);
+}
+
+TEST(Strings, AreTheHostsTexts) {
+    char text[64];
+    for (const unsigned int id : {0x704Au, 0x704Bu, 0x704Cu, 0x704Du, 0x704Eu, 0x704Fu, 0x7050u, 0x7051u,
+                                  0x7052u, 0x7053u, 0x7054u, 0x7058u, 0x7059u, 0x705Au, 0x705Cu})
+        EXPECT_GT(DrawCoreLoadString(id, text, sizeof text), 0) << id;
+    EXPECT_EQ(DrawCoreLoadString(kStringByLayer, text, 6), 5);
+    EXPECT_STREQ(text, "By La");
+    EXPECT_EQ(DrawCoreLoadString(1, text, sizeof text), 0);
+    EXPECT_STREQ(text, "");
+    EXPECT_EQ(DrawCoreLoadString(kStringByLayer, text, 0), 0);
+}
+
+} // namespace

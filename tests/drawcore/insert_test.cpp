@@ -1,0 +1,179 @@
+// Insertions: placed, mirrored, nested, inheriting, and blocks that hold themselves or multiply.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include <drawcore/layer.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255),
+                   kWhite = RGB(255, 255, 255);
+
+class Inserts : public testing::Test {
+protected:
+    // A block of a solid square from (0, 0) to (1, 1) and a second one, half as large, to its right.
+    uint16_t FlagBlock(const char* name, uint32_t color = kRed) {
+        GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
+        for (GraphicStruct* square : {MakeSquare(0, 0, 1), MakeSquare(1, 0, 0.5)}) {
+            SetWhole(square, "BrushStyle", 1);
+            SetWhole(square, "PenColor", color);
+            GraphicAdd(content, square);
+        }
+        return BlocksAddBlock(drawing.Table("_Blocks_"), name, content);
+    }
+    GraphicStruct* Insert(uint16_t block, double x, double y, double sx, double sy, double angle = 0) {
+        GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
+        VertexStruct* vertex = VertexNewEx(sx, sy, 1);
+        MatrixStruct* scaled = MatrixScale(nullptr, vertex, 0);
+        MatrixStruct* turned = MatrixRotateZ(scaled, angle, 0);
+        VertexSet(vertex, x, y, 0);
+        MatrixStruct* placed = MatrixOffset(turned, vertex);
+        EXPECT_TRUE(InsertSetData(insert, drawing.Table("_Blocks_"), block, placed));
+        for (MatrixStruct* matrix : {scaled, turned, placed})
+            MatrixDispose(&matrix);
+        VertexDispose(&vertex);
+        return insert;
+    }
+    void Draw() { picture.Draw(drawing.Root()); }
+
+    OwnDrawing drawing;
+    Picture picture{drawing};
+};
+
+TEST_F(Inserts, ScaleTurnAndMirror) {
+    const uint16_t flag = FlagBlock("FLAG");
+    drawing.Add(Insert(flag, 10, 10, 20, 20));             // small square to the right, below
+    drawing.Add(Insert(flag, 90, 10, -20, 20));            // mirrored: to the left
+    drawing.Add(Insert(flag, 40, 60, 20, 20, 1.57079633)); // turned a quarter to the left: above
+    Draw();
+    EXPECT_EQ(picture.At(20, 25), kRed);
+    EXPECT_EQ(picture.At(35, 15), kRed);
+    EXPECT_EQ(picture.At(35, 25), kWhite);
+    EXPECT_EQ(picture.At(80, 25), kRed);
+    EXPECT_EQ(picture.At(65, 15), kRed);
+    EXPECT_EQ(picture.At(65, 25), kWhite);
+    EXPECT_EQ(picture.At(25, 70), kRed);
+    EXPECT_EQ(picture.At(35, 85), kRed);
+    EXPECT_EQ(picture.At(25, 85), kWhite);
+    const ExtentsStruct* box = GraphicGetExtentsSel(drawing.Root(), 0);
+    EXPECT_NEAR(ExtentsGetX1(box), 10, 1e-6);
+    EXPECT_NEAR(ExtentsGetX2(box), 90, 1e-6);
+}
+
+TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
+    constexpr uint32_t kByLayer = 0xFFFFFFFD, kByBlock = 0xFFFFFFFC;
+    const uint16_t green = TableEntryAdd(drawing.Table("_Layers_"), "Green", nullptr);
+    LayerSet(drawing, green, kGreen, 0, 0);
+    const uint16_t byBlock = FlagBlock("BYBLOCK", kByBlock), byLayer = FlagBlock("BYLAYER", kByLayer);
+    // A block around the first: its own parts by block, too.
+    GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);
+    SetWhole(inner, "PenColor", kByBlock);
+    GraphicAdd(outer, inner);
+    const uint16_t nested = BlocksAddBlock(drawing.Table("_Blocks_"), "NESTED", outer);
+    int x = 0;
+    for (const uint16_t block : {byBlock, nested, byLayer}) {
+        GraphicStruct* insert = drawing.Add(Insert(block, x += 20, 50, 10, 10));
+        SetWhole(insert, "PenColor", kBlue);
+        SetWhole(insert, "Layer", green);
+    }
+    Draw();
+    EXPECT_EQ(picture.At(25, 55), kBlue);
+    EXPECT_EQ(picture.At(45, 55), kBlue) << "through two levels";
+    EXPECT_EQ(picture.At(65, 55), kGreen) << "layer 0 in a block is the insertion's layer";
+    LayerSet(drawing, green, kGreen, kLayerOff, 0);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    Draw();
+    EXPECT_EQ(picture.Covered(), 0);
+}
+
+TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
+    const uint16_t own = TableEntryAdd(drawing.Table("_Layers_"), "Own", nullptr);
+    const uint16_t hidden = TableEntryAdd(drawing.Table("_Layers_"), "Hidden", nullptr);
+    const uint16_t flag = FlagBlock("FLAG");
+    uint32_t position;
+    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table("_Blocks_"), flag), &position, 1, 0), "Layer", own);
+    GraphicStruct* insert = drawing.Add(Insert(flag, 10, 10, 20, 20));
+    SetWhole(insert, "Layer", hidden);
+    LayerSet(drawing, hidden, 0, kLayerOff, 0);
+    Draw();
+    EXPECT_EQ(picture.At(20, 20), kRed);
+    EXPECT_EQ(picture.At(35, 15), kWhite);
+    LayerSet(drawing, hidden, 0, kLayerFrozen, 0);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    Draw();
+    EXPECT_EQ(picture.Covered(), 0) << "frozen hides it all";
+}
+
+TEST_F(Inserts, OfABlockThatIsGoneShowNothing) {
+    const uint16_t flag = FlagBlock("FLAG");
+    TableStruct* blocks = drawing.Table("_Blocks_");
+    drawing.Add(Insert(flag, 10, 10, 20, 20));
+    EXPECT_EQ(BlocksFindBlock(blocks, "flag"), flag);
+    BlockDispose(blocks, flag);
+    EXPECT_EQ(BlocksFindBlock(blocks, "FLAG"), 0);
+    EXPECT_EQ(BlockGetGraphic(blocks, flag), nullptr);
+    GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
+    EXPECT_FALSE(InsertSetData(insert, blocks, flag, nullptr));
+    GraphicDispose(&insert);
+    Draw();
+    EXPECT_EQ(picture.Covered(), 0);
+}
+
+TEST_F(Inserts, OfThemselvesEnd) {
+    GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicAdd(content, MakeSquare(0, 0, 1));
+    const uint16_t self = BlocksAddBlock(drawing.Table("_Blocks_"), "SELF", content);
+    GraphicAdd(content, Insert(self, 1, 0, 0.9, 0.9));
+    drawing.Add(Insert(self, 10, 10, 20, 20));
+    Draw();
+    EXPECT_EQ(picture.Covered(), 80) << "the square, once";
+}
+
+// Thirty levels of two each: a thousand million squares.
+TEST_F(Inserts, ThatMultiplyWithoutEndComeToAnEnd) {
+    uint16_t block = FlagBlock("LEVEL");
+    for (int level = 0; level < 30; ++level) {
+        GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
+        GraphicAdd(content, Insert(block, 0, 0, 1, 1));
+        GraphicAdd(content, Insert(block, 0, 0, 1, 1));
+        block = BlocksAddBlock(drawing.Table("_Blocks_"), std::to_string(level).c_str(), content);
+    }
+    GraphicStruct* bomb = drawing.Add(Insert(block, 10, 10, 20, 20));
+    Draw();
+    EXPECT_EQ(picture.At(20, 20), kRed);
+    EXPECT_NEAR(ExtentsGetX2(GraphicGetExtentsSel(bomb, 0)), 40, 1e-9);
+}
+
+TEST_F(Inserts, InsideEachOtherBeyondAllDepthShowNothingThere) {
+    uint16_t block = FlagBlock("BOTTOM");
+    for (int level = 0; level < 20000; ++level) {
+        GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
+        GraphicAdd(content, Insert(block, 0, 0, 1, 1));
+        block = BlocksAddBlock(drawing.Table("_Blocks_"), std::to_string(level).c_str(), content);
+    }
+    drawing.Add(Insert(block, 10, 10, 20, 20));
+    Draw();
+    EXPECT_EQ(picture.Covered(), 0);
+}
+
+TEST(Matrices, TurnTheAxesIntoEachOther) {
+    const double quarter = 1.5707963267948966;
+    const struct {
+        MatrixStruct* (*make)(const MatrixStruct*, double, int);
+        int from, to;
+    } kRows[] = {{MatrixRotateX, 1, 2}, {MatrixRotateY, 2, 0}, {MatrixRotateZ, 0, 1}};
+    for (const auto& row : kRows) {
+        MatrixStruct* matrix = row.make(nullptr, quarter, 0);
+        EXPECT_NEAR(matrix->at[row.from][row.to], 1, 1e-15);
+        EXPECT_NEAR(matrix->at[row.to][row.from], -1, 1e-15);
+        MatrixDispose(&matrix);
+        EXPECT_EQ(matrix, nullptr);
+    }
+}
+
+} // namespace

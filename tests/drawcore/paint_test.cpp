@@ -1,0 +1,419 @@
+// Painting, looked at pixel by pixel in a picture of one pixel per drawing unit.
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+
+#include <drawcore/application.h>
+#include <drawcore/layer.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0), kBlue = RGB(0, 0, 255), kBlack = 0, kWhite = RGB(255, 255, 255);
+constexpr uint32_t kByLayer = 0xFFFFFFFD, kByBlock = 0xFFFFFFFC, kPenColor = 0xFFFFFFFB;
+
+class Paint : public testing::Test {
+protected:
+    GraphicStruct* Line(double x1, double y1, double x2, double y2) {
+        GraphicStruct* line = drawing.Add(MakeLines({{x1, y1}, {x2, y2}}));
+        SetWhole(line, "PenColor", kRed);
+        return line;
+    }
+    void Draw() { picture.Draw(drawing.Root()); }
+
+    OwnDrawing drawing;
+    Picture picture{drawing};
+};
+
+TEST_F(Paint, AThinLineCoversItsPixelsBothEndsIncluded) {
+    Line(10, 20, 30, 20);
+    Line(50, 10, 50, 40);
+    Draw();
+    EXPECT_EQ(picture.Covered(), 21 + 31);
+    for (int x = 10; x <= 30; ++x)
+        EXPECT_EQ(picture.At(x, 20), kRed);
+    for (int y = 10; y <= 40; ++y)
+        EXPECT_EQ(picture.At(50, y), kRed);
+}
+
+TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
+    const int dpi = ::GetDeviceCaps(picture.DC(), LOGPIXELSX);
+    GraphicStruct* world = Line(10, 30, 90, 30);
+    SetWhole(world, "ScaleSystem", 0);
+    SetReal(world, "PenWidth", 8);
+    GraphicStruct* paper = Line(10, 70, 90, 70);
+    SetReal(paper, "PenWidth", 6.0 / dpi);
+    Draw();
+    EXPECT_EQ(picture.Covered(50, 20, 50, 40), 8);
+    EXPECT_EQ(picture.Covered(50, 60, 50, 80), 6);
+    EXPECT_EQ(picture.Covered(0, 20, 9, 40), 0) << "cut off flat";
+    // Twice as near: the drawing's width grows, the plotter's pen doesn't.
+    ViewportZoom(picture.Viewport(), {50, 50}, 2);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    Draw();
+    EXPECT_EQ(picture.Covered(50, 0, 50, 40), 16);
+    EXPECT_EQ(picture.Covered(50, 60, 50, 100), 6);
+}
+
+TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
+    const uint16_t layer = TableEntryAdd(drawing.Table("_Layers_"), "Blue", nullptr);
+    LayerSet(drawing, layer, kBlue, 0, 0);
+    const struct {
+        uint32_t color;
+        uint16_t layer;
+        COLORREF seen;
+    } kRows[] = {{kRed, layer, kRed},
+                 {kByLayer, layer, kBlue},
+                 {kByLayer, 1, kBlack},
+                 {kByBlock, layer, kBlack},
+                 {kWhite, 1, kBlack}};
+    int y = 10;
+    for (const auto& row : kRows) {
+        GraphicStruct* line = Line(10, y, 90, y);
+        SetWhole(line, "PenColor", row.color);
+        SetWhole(line, "Layer", row.layer);
+        y += 10;
+    }
+    Draw();
+    y = 10;
+    for (const auto& row : kRows) {
+        EXPECT_EQ(picture.At(50, y), row.seen) << y;
+        y += 10;
+    }
+    // The layer's colour can be its own: white is seen on black as it is, and black is not.
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, BLACKNESS);
+    ViewportSetBackground(picture.Viewport(), kBlack);
+    Draw();
+    EXPECT_EQ(picture.At(50, 50), kWhite);
+    EXPECT_EQ(picture.At(50, 30), kWhite);
+}
+
+TEST_F(Paint, LayersHide) {
+    for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
+        const uint16_t layer =
+            TableEntryAdd(drawing.Table("_Layers_"), std::to_string(flag).c_str(), nullptr);
+        LayerSet(drawing, layer, kBlue, flag, 0);
+        SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), "Layer", layer);
+    }
+    Draw();
+    EXPECT_EQ(picture.Covered(0, 0, 100, 25), 0);
+    EXPECT_EQ(picture.Covered(0, 26, 100, 100), 81) << "a locked layer is drawn";
+    LayerSet(drawing, 1, kBlue, kLayerOff, 0);
+    Draw();
+    EXPECT_EQ(picture.Covered(), 81) << "the root group is on no layer";
+}
+
+class Dashes : public Paint {
+protected:
+    uint16_t Style(std::initializer_list<double> items) {
+        const std::string name = "style" + std::to_string(++count);
+        return LineStyleAdd(drawing.Table("_LineStyles_"), name.c_str(), "", items.begin(),
+                            static_cast<int>(items.size()));
+    }
+    // Lengths of the runs along row y from x = 10, covered first.
+    std::vector<int> Runs(int y, int right = 90) {
+        std::vector<int> runs;
+        bool covered = true;
+        int length = 0;
+        for (int x = 10; x <= right; ++x) {
+            const bool now = picture.At(x, y) != kWhite;
+            if (now != covered) {
+                runs.push_back(length);
+                length = 0;
+                covered = now;
+            }
+            ++length;
+        }
+        runs.push_back(length);
+        return runs;
+    }
+    int count = 0;
+};
+
+TEST_F(Dashes, HaveTheLengthsOfThePatternTimesThePenScale) {
+    GraphicStruct* line = Line(10, 50, 90, 50);
+    SetWhole(line, "PenStyle", Style({4, -2}));
+    SetReal(line, "PenScale", 2);
+    SetWhole(line, "PenAlignment", 0);
+    SetWhole(line, "ScaleSystem", 0);
+    SetReal(line, "PenWidth", 3); // a thick pen ends its dashes where they end
+    Draw();
+    EXPECT_EQ(Runs(50), (std::vector<int>{8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 1}));
+}
+
+TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
+    GraphicStruct* line = Line(10, 50, 85, 50); // 75 long: six periods of 12 and 3 left
+    SetWhole(line, "PenStyle", Style({8, -4}));
+    SetWhole(line, "PenAlignment", 1);
+    SetWhole(line, "ScaleSystem", 0);
+    SetReal(line, "PenWidth", 2);
+    Draw();
+    const std::vector<int> runs = Runs(50, 84);
+    ASSERT_EQ(runs.size(), 13u);
+    EXPECT_NEAR(runs.front(), 5.5, 1) << "half of dash and rest";
+    EXPECT_NEAR(runs.back(), 5.5, 1);
+    for (size_t i = 1; i + 1 < runs.size(); ++i)
+        EXPECT_NEAR(runs[i], i % 2 ? 4 : 8, 1) << i;
+}
+
+TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
+    GraphicStruct* dots = Line(10, 80, 90, 80);
+    SetWhole(dots, "PenStyle", Style({0, -5}));
+    GraphicStruct* shorter = Line(10, 50, 20, 50);
+    SetWhole(shorter, "PenStyle", Style({8, -4})); // fitted: no room for a period
+    GraphicStruct* fine = Line(10, 20, 90, 20);
+    SetWhole(fine, "PenStyle", Style({0.5, -0.5}));
+    Draw();
+    EXPECT_NEAR(picture.Covered(0, 75, 100, 85), 17, 1);
+    EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 11, 1);
+    EXPECT_EQ(picture.Covered(0, 15, 100, 25), 81);
+}
+
+TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
+    const uint16_t layer = TableEntryAdd(drawing.Table("_Layers_"), "Dashed", nullptr);
+    LayerSet(drawing, layer, kBlue, 0, Style({10, -10}));
+    GraphicStruct* line = Line(10, 50, 90, 50);
+    SetWhole(line, "Layer", layer);
+    SetWhole(line, "PenStyle", 65534);
+    SetWhole(Line(10, 20, 90, 20), "PenStyle", 0);
+    GraphicStruct* lost = Line(10, 80, 90, 80);
+    SetWhole(lost, "PenStyle", 999); // no such style: solid
+    Draw();
+    EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 41, 2);
+    EXPECT_EQ(picture.Covered(0, 15, 100, 25), 0);
+    EXPECT_EQ(picture.Covered(0, 75, 100, 85), 81);
+}
+
+TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
+    GraphicStruct* line = Line(-1e9, 50, 1e9, 50);
+    SetWhole(line, "PenStyle", Style({5, -5}));
+    SetWhole(line, "PenAlignment", 0);
+    Draw();
+    EXPECT_NEAR(picture.Covered(), 55, 6);
+}
+
+TEST_F(Paint, FillsFollowTheDrawMode) {
+    // Two squares that overlap, in one stroke each.
+    for (const uint32_t mode : {0u, 1u}) {
+        GraphicStruct* shape = MakeLines({{10, 10},
+                                          {60, 10},
+                                          {60, 60},
+                                          {10, 60},
+                                          {10, 10},
+                                          {40, 40, false},
+                                          {90, 40},
+                                          {90, 90},
+                                          {40, 90},
+                                          {40, 40}});
+        SetWhole(shape, "BrushStyle", 1);
+        SetWhole(shape, "BrushColor", kBlue);
+        SetWhole(shape, "BrushDrawMode", mode);
+        SetWhole(shape, "PenStyle", 0);
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(shape);
+        EXPECT_EQ(picture.At(20, 20), kBlue);
+        EXPECT_EQ(picture.At(80, 80), kBlue);
+        EXPECT_EQ(picture.At(50, 50), mode ? kBlue : kWhite);
+        EXPECT_EQ(picture.At(30, 80), kWhite);
+        GraphicDispose(&shape);
+    }
+}
+
+TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
+    GraphicStruct* shape =
+        MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}});
+    SetWhole(shape, "BrushStyle", 1);
+    SetWhole(shape, "BrushColor", kPenColor);
+    SetWhole(shape, "PenColor", kRed);
+    shape->dwOneOutline = 1;
+    picture.Draw(shape);
+    EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's colour";
+    EXPECT_EQ(picture.At(5, 95), kWhite) << "the excursion shows no line";
+    EXPECT_EQ(picture.Covered(), 81 * 81);
+    GraphicDispose(&shape);
+}
+
+TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
+    GraphicStruct* square = MakeSquare(10, 10, 80);
+    SetWhole(square, "PenStyle", 0);
+    SetWhole(square, "BrushColor", kBlue);
+    SetReal(square, "BrushScale", 10);
+    const auto rows = [&](uint16_t style, double angle, int cross) {
+        SetWhole(square, "BrushStyle", style);
+        SetReal(square, "BrushAngle", angle);
+        SetWhole(square, "HatchCross", cross);
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(square);
+        EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 90, 90)) << "nothing outside";
+        return std::pair(picture.Covered(55, 10, 55, 90), picture.Covered(10, 55, 90, 55));
+    };
+    const uint16_t horizontal = TableEntryGetIDFirst(drawing.Table("_BrushStyles_"), nullptr, "Horizontal");
+    EXPECT_NEAR(rows(horizontal, 0, 0).first, 8, 1);
+    EXPECT_EQ(rows(horizontal, 0, 0).second, 0);
+    EXPECT_NEAR(rows(horizontal, 1.5707963267948966, 0).second, 8, 1) << "turned";
+    EXPECT_NEAR(rows(horizontal, 0, 1).second, 8, 1) << "crossed";
+    GraphicDispose(&square);
+}
+
+TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
+    GraphicStruct* circle = GraphicNewEx(kGraphicPenBrush, 0, 1); // unit circle
+    picture.Draw(circle);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), 3);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(circle);
+    for (int degrees = 0; degrees < 360; ++degrees) {
+        const double x = 50 + 50 * std::cos(degrees * 0.0174532925),
+                     y = 50 + 50 * std::sin(degrees * 0.0174532925);
+        const int cx = static_cast<int>(std::lround(x)), cy = static_cast<int>(std::lround(y));
+        EXPECT_GT(picture.Covered(cx - 1, cy - 1, cx + 1, cy + 1), 0) << degrees;
+    }
+    EXPECT_EQ(picture.Covered(20, 20, 80, 80), 0);
+    GraphicDispose(&circle);
+}
+
+// What no device takes: numbers out of all bounds, and none.
+TEST_F(Paint, SurvivesWhatIsFarAway) {
+    for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
+        GraphicStruct* shape =
+            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}});
+        SetWhole(shape, "BrushStyle", 1);
+        SetWhole(shape, "BrushColor", kBlue);
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(shape);
+        // Beyond, the digits of a double no longer tell where in the view an edge is.
+        if (away <= 1e15) {
+            EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view lies inside";
+        }
+        GraphicStruct* line = MakeLines({{-away, 50}, {away, 50}});
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(line);
+        if (away <= 1e15) {
+            EXPECT_EQ(picture.Covered(), 101) << away;
+        }
+        GraphicDispose(&shape);
+        GraphicDispose(&line);
+    }
+    for (const double none : {static_cast<double>(NAN), HUGE_VAL}) {
+        GraphicStruct* line = MakeLines({{10, 10}, {none, 50}, {90, 90}});
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(line);
+        EXPECT_EQ(picture.Covered(), 0);
+        GraphicDispose(&line);
+    }
+}
+
+TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
+    SetWhole(Line(0, 0, 100, 100), "PenStyle",
+             LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", std::vector<double>{5, -5}.data(), 2));
+    GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
+    SetWhole(square, "BrushStyle", 1);
+    GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
+    VertexStruct* vertex = VertexNewEx(10, 10, 0);
+    TextSetVWHAEx(text, vertex, 0, 10, 0.5, "Text");
+    VertexDispose(&vertex);
+    HDC dc = picture.DC();
+    ::SetTextAlign(dc, TA_RIGHT);
+    ::SetBkMode(dc, OPAQUE);
+    ::SetROP2(dc, R2_XORPEN);
+    const HGDIOBJ objects[] = {::GetCurrentObject(dc, OBJ_PEN), ::GetCurrentObject(dc, OBJ_BRUSH),
+                               ::GetCurrentObject(dc, OBJ_FONT)};
+    Draw();
+    EXPECT_GT(picture.Covered(), 1000);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_PEN), objects[0]);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_BRUSH), objects[1]);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), objects[2]);
+    EXPECT_EQ(::GetTextAlign(dc), static_cast<UINT>(TA_RIGHT));
+    EXPECT_EQ(::GetBkMode(dc), OPAQUE);
+    EXPECT_EQ(::GetROP2(dc), R2_XORPEN);
+    EXPECT_EQ(::GetGraphicsMode(dc), GM_COMPATIBLE);
+    EXPECT_EQ(::GetMapMode(dc), MM_TEXT);
+    RECT clip;
+    EXPECT_EQ(::GetClipBox(dc, &clip), SIMPLEREGION);
+    EXPECT_EQ(clip.right, 101);
+}
+
+TEST_F(Paint, StaysInTheRectangle) {
+    GraphicStruct* line = Line(0, 50, 100, 50);
+    SetWhole(line, "ScaleSystem", 0);
+    SetReal(line, "PenWidth", 30);
+    const RECT half = {20, 45, 60, 55};
+    ViewportSetRect(picture.Viewport(), &half);
+    Draw();
+    EXPECT_GT(picture.Covered(), 300);
+    EXPECT_EQ(picture.Covered(), picture.Bits().Count(half, kRed));
+}
+
+TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
+    const RECT wide = {0, 0, 101, 51};
+    ViewportSetRect(picture.Viewport(), &wide);
+    GraphicStruct* square = MakeSquare(1000, 1000, 2);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(square, 0), 3);
+    picture.Draw(square);
+    EXPECT_EQ(picture.Bits().At(25, 10), kBlack);
+    EXPECT_EQ(picture.Bits().At(75, 10), kBlack);
+    EXPECT_EQ(picture.Bits().At(50, 0), kBlack);
+    EXPECT_EQ(picture.Bits().At(50, 50), kBlack);
+    EXPECT_EQ(picture.Covered(), 200);
+    // Without a height, without both, without anything: still a picture, in the middle.
+    GraphicStruct* flat = MakeLines({{0, 7}, {4, 7}});
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), 3);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(flat);
+    EXPECT_EQ(picture.Covered(), 101);
+    EXPECT_EQ(picture.Bits().At(0, 25), kBlack);
+    GraphicStruct* point = MakeLines({{3, 3}});
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(point, 0), 3);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(point);
+    EXPECT_EQ(picture.Covered(), 1) << "a point is a dot";
+    EXPECT_EQ(picture.Bits().At(50, 25), kBlack);
+    GraphicStruct* nothing = GraphicNewEx(kGraphicVertices, 0, 1);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(nothing, 0), 3);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(nothing);
+    EXPECT_EQ(picture.Covered(), 0);
+    for (GraphicStruct* graphic : {square, flat, point, nothing})
+        GraphicDispose(&graphic);
+}
+
+TEST_F(Paint, PreviewsShowPensAtFullSize) {
+    // A sample in the unit square, fitted to 100 pixels; its dashes and widths are those of paper all the same.
+    const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimetre = inch / 25.4;
+    GraphicStruct* sample = MakeLines({{0, 0.5}, {1, 0.5}});
+    GraphicAttach(sample, drawing);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), 3);
+    SetWhole(sample, "PenColor", kRed);
+    SetWhole(sample, "ScaleSystem", 0);
+    SetReal(sample, "PenWidth", 2); // millimetres, the drawing's unit
+    picture.Draw(sample, 1);
+    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimetre, 1);
+    SetReal(sample, "PenWidth", 1000);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(sample, 1);
+    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 25, 1) << "never more than a quarter of the pane";
+    SetReal(sample, "PenWidth", 0);
+    SetWhole(sample, "PenAlignment", 0);
+    const double dashes[] = {3, -3};
+    SetWhole(sample, "PenStyle", LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", dashes, 2));
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+    picture.Draw(sample, 1);
+    int changes = 0;
+    for (int x = 1; x <= 100; ++x)
+        changes += (picture.At(x, 50) == kRed) != (picture.At(x - 1, 50) == kRed);
+    EXPECT_NEAR(changes, 100 / (3 * millimetre), 1.5);
+    AppStruct* application = AppGetCurrentApp();
+    int before = 0;
+    TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);
+    TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
+    SetWhole(sample, "PenColor", 0);
+    ::PatBlt(picture.DC(), 0, 0, 101, 101, BLACKNESS);
+    picture.Draw(sample, 1);
+    EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";
+    TableSetIntVar(application->pVariables, kVarPreviewBackground, before);
+    GraphicDispose(&sample);
+}
+
+} // namespace

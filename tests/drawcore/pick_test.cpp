@@ -1,0 +1,148 @@
+// Picking by point and by window, zooming, panning, highlighting.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include <drawcore/graphic.h>
+#include <drawcore/layer.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+class Pick : public testing::Test {
+protected:
+    GraphicStruct* At(int x, int y, int tolerance = 3, uint32_t filter = 0xFFFFFFFF) {
+        return ViewportPick(picture.Viewport(), drawing.Root(), {x, 100 - y}, tolerance, filter);
+    }
+    // Within a rectangle of drawing units; the members in the order of drawing.
+    std::vector<GraphicStruct*> Within(int left, int bottom, int right, int top, int crossing) {
+        GraphicStruct* selection = SelectionNew();
+        const RECT rect = {left, 100 - top, right, 100 - bottom};
+        const int added =
+            ViewportPickWindow(picture.Viewport(), drawing.Root(), &rect, crossing, 0xFFFFFFFF, selection);
+        std::vector<GraphicStruct*> found;
+        uint32_t position;
+        for (GraphicStruct* g = GraphicFirst(selection, &position, 1, 0); g;
+             g = GraphicNext(selection, &position, 1, 0))
+            found.push_back(g);
+        EXPECT_EQ(added, static_cast<int>(found.size()));
+        GraphicDispose(&selection);
+        return found;
+    }
+
+    OwnDrawing drawing;
+    Picture picture{drawing};
+};
+
+using List = std::vector<GraphicStruct*>;
+
+TEST_F(Pick, FindsWhatIsNearAndDrawnLast) {
+    GraphicStruct* first = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
+    GraphicStruct* second = drawing.Add(MakeLines({{50, 10}, {50, 90}}));
+    EXPECT_EQ(At(30, 50), first);
+    EXPECT_EQ(At(30, 53), first);
+    EXPECT_EQ(At(30, 54), nullptr);
+    EXPECT_EQ(At(30, 54, 5), first);
+    EXPECT_EQ(At(50, 50), second) << "both: the one on top";
+    EXPECT_EQ(At(94, 50), nullptr) << "beyond the end";
+    EXPECT_EQ(At(50, 50, 3, kKindCurve), nullptr);
+    EXPECT_EQ(ViewportPick(nullptr, drawing.Root(), {0, 0}, 3, 0), nullptr);
+}
+
+TEST_F(Pick, CountsWidthsAndFilledAreas) {
+    GraphicStruct* wide = drawing.Add(MakeLines({{10, 80}, {90, 80}}));
+    SetWhole(wide, "ScaleSystem", 0);
+    SetReal(wide, "PenWidth", 20);
+    GraphicStruct* hollow = drawing.Add(MakeSquare(10, 10, 20));
+    GraphicStruct* filled = drawing.Add(MakeSquare(60, 10, 20));
+    SetWhole(filled, "BrushStyle", 1);
+    EXPECT_EQ(At(50, 89), wide);
+    EXPECT_EQ(At(20, 20), nullptr);
+    EXPECT_EQ(At(10, 20), hollow);
+    EXPECT_EQ(At(70, 20), filled);
+    EXPECT_EQ(At(50, 20), nullptr);
+}
+
+TEST_F(Pick, FindsTextsByTheirBoxAndInsertionsAsAWhole) {
+    GraphicStruct* text = GraphicNewEx(kGraphicText, 0, 1);
+    VertexStruct* vertex = VertexNewEx(10, 80, 0);
+    TextSetVWHAEx(text, vertex, 60, 10, 0, "i i i");
+    drawing.Add(text);
+    EXPECT_EQ(At(40, 85), text);
+    EXPECT_EQ(At(40, 60), nullptr);
+    const uint16_t block = BlocksAddBlock(drawing.Table("_Blocks_"), "B", MakeSquare(0, 0, 20));
+    GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
+    VertexSet(vertex, 30, 30, 0);
+    MatrixStruct* placed = MatrixOffset(nullptr, vertex);
+    InsertSetData(insert, drawing.Table("_Blocks_"), block, placed);
+    MatrixDispose(&placed);
+    VertexDispose(&vertex);
+    drawing.Add(insert);
+    EXPECT_EQ(At(50, 40), insert);
+    EXPECT_EQ(At(40, 40), nullptr);
+}
+
+TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
+    for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
+        GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
+        const uint16_t layer =
+            TableEntryAdd(drawing.Table("_Layers_"), std::to_string(flag).c_str(), nullptr);
+        SetWhole(line, "Layer", layer);
+        EXPECT_EQ(At(50, 50), line);
+        LayerSet(drawing, layer, 0, flag, 0);
+        EXPECT_EQ(At(50, 50), nullptr) << flag;
+        EXPECT_TRUE(Within(0, 0, 100, 100, 1).empty()) << flag;
+    }
+}
+
+TEST_F(Pick, ByWindowTakesWhatLiesInsideByCrossingWhatIsTouched) {
+    GraphicStruct* inside = drawing.Add(MakeSquare(20, 20, 10));
+    GraphicStruct* across = drawing.Add(MakeLines({{0, 25}, {100, 25}}));
+    GraphicStruct* outside = drawing.Add(MakeSquare(80, 80, 10));
+    GraphicStruct* around = drawing.Add(MakeSquare(5, 5, 60));
+    EXPECT_EQ(Within(15, 15, 40, 40, 0), List{inside});
+    EXPECT_EQ(Within(15, 15, 40, 40, 1), (List{inside, across}));
+    EXPECT_EQ(Within(0, 0, 100, 100, 0), (List{inside, across, outside, around}));
+    EXPECT_TRUE(Within(40, 40, 50, 50, 1).empty()) << "within an outline, touching nothing";
+    SetWhole(around, "BrushStyle", 1);
+    EXPECT_EQ(Within(40, 40, 50, 50, 1), List{around}) << "within a filled area";
+    EXPECT_EQ(Within(40, 40, 15, 15, 0), List{inside}) << "corners in any order";
+}
+
+TEST_F(Pick, FollowsZoomAndPan) {
+    GraphicStruct* line = drawing.Add(MakeLines({{50, 50}, {50, 52}}));
+    double x, y;
+    ViewportZoom(picture.Viewport(), {50, 50}, 10);
+    ViewportToDrawing(picture.Viewport(), {50, 50}, &x, &y);
+    EXPECT_NEAR(x, 50, 1e-9);
+    EXPECT_NEAR(y, 50, 1e-9);
+    EXPECT_EQ(ViewportPick(picture.Viewport(), drawing.Root(), {50, 35}, 1, 0), line);
+    ViewportPan(picture.Viewport(), 30, -10);
+    EXPECT_EQ(ViewportPick(picture.Viewport(), drawing.Root(), {80, 25}, 1, 0), line);
+    ViewportToDrawing(picture.Viewport(), {80, 40}, &x, &y);
+    EXPECT_NEAR(x, 50, 1e-9);
+    EXPECT_NEAR(y, 50, 1e-9);
+    for (const double factor : {0.0, -1.0, static_cast<double>(NAN), HUGE_VAL})
+        ViewportZoom(picture.Viewport(), {0, 0}, factor);
+    for (int i = 0; i < 200; ++i)
+        ViewportZoom(picture.Viewport(), {0, 0}, 10);
+    ViewportToDrawing(picture.Viewport(), {80, 40}, &x, &y);
+    EXPECT_TRUE(std::isfinite(x));
+}
+
+TEST_F(Pick, HighlightsInOneColour) {
+    GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
+    const double dashes[] = {5, -5};
+    SetWhole(line, "PenStyle", LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", dashes, 2));
+    GraphicStruct* selection = SelectionNew();
+    SelectionAdd(selection, line);
+    GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));
+    const RECT all = {0, 0, 101, 101};
+    EXPECT_NEAR(picture.Bits().Count(all, RGB(0, 120, 215)), 81 * 3, 6) << "solid and three pixels wide";
+    EXPECT_EQ(picture.Covered(), picture.Bits().Count(all, RGB(0, 120, 215)));
+    GraphicDispose(&selection);
+}
+
+} // namespace

@@ -1,0 +1,237 @@
+// Property tables: which kind has what, in which forms values go in and come out, what is refused.
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <set>
+#include <stdexcept>
+
+#include <windows.h>
+
+#include <wtypes.h>
+
+#include <drawcore/graphic.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+const std::set<std::string> kGeneral = {"Info", "Layer", "StyleTree"};
+const std::set<std::string> kShape = {"BrushAngle", "BrushColor", "BrushDrawMode", "BrushScale",
+                                      "BrushStyle", "HatchCross", "PenAlignment",  "PenColor",
+                                      "PenScale",   "PenStyle",   "PenWidth",      "ScaleSystem",
+                                      "Info",       "Layer",      "StyleTree"};
+const std::set<std::string> kText = {"PenColor",   "TextFont", "TextSize", "TextStyle",
+                                     "TextFormat", "Info",     "Layer",    "StyleTree"};
+const std::set<std::string> kInsert = {"PenColor", "PenStyle", "Info", "Layer", "StyleTree"};
+
+struct KindRow {
+    const char* name;
+    int type;
+    const std::set<std::string>& properties;
+};
+
+const KindRow kKinds[] = {{"Vertices", kGraphicVertices, kShape},
+                          {"Curve", kGraphicPenBrush, kShape},
+                          {"Text", kGraphicText, kText},
+                          {"Insert", kGraphicInsert, kInsert}};
+
+class OfKind : public testing::TestWithParam<KindRow> {
+protected:
+    OfKind() : graphic(GraphicNewEx(GetParam().type, 0, 1)), table(GraphicGetVtbl(graphic)) {}
+    ~OfKind() override { GraphicDispose(&graphic); }
+
+    bool Find(const char* name, int32_t& number) {
+        return table->PropLookup(graphic, &name, 1, 0, &number) != 0;
+    }
+
+    GraphicStruct* graphic;
+    const PropertyTable* table;
+};
+
+TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
+    std::set<std::string> all = kShape;
+    all.insert(kText.begin(), kText.end());
+    for (const std::string& name : all) {
+        int32_t number = 0;
+        EXPECT_EQ(Find(name.c_str(), number), GetParam().properties.count(name) == 1) << name;
+    }
+    int32_t number = 0;
+    for (const char* name : {"", "pencolor", "PenColor ", "PenColo", "ZZZ", "AAA"})
+        EXPECT_FALSE(Find(name, number)) << name;
+    const char* names[] = {"Layer", "Info"};
+    int32_t numbers[2];
+    EXPECT_TRUE(table->PropLookup(graphic, names, 2, 0, numbers));
+    EXPECT_NE(numbers[0], numbers[1]);
+    for (const int32_t stranger : {-1, 19, 1000}) {
+        double value = 5;
+        EXPECT_FALSE(table->PropGet(graphic, stranger, VT_R8, &value));
+        EXPECT_FALSE(table->PropSet(graphic, stranger, VT_R8, &value));
+    }
+}
+
+// Forms of a value: each whole-number property in each whole-number form, reals as float and double, texts as text.
+TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
+    const std::set<std::string> reals = {"BrushAngle", "BrushScale", "PenScale", "PenWidth", "TextSize"};
+    const std::set<std::string> texts = {"Info", "TextFont"};
+    for (const std::string& name : GetParam().properties) {
+        SCOPED_TRACE(name);
+        int32_t number;
+        ASSERT_TRUE(Find(name.c_str(), number));
+        const bool isReal = reals.count(name), isText = texts.count(name);
+        for (const int vt :
+             {VT_I4, VT_R4, VT_R8, VT_BSTR, VT_BOOL, VT_UI1, VT_UI2, VT_UI4, VT_EMPTY, VT_I2}) {
+            SCOPED_TRACE(vt);
+            union {
+                uint32_t whole;
+                float single;
+                double real;
+                char* text;
+                unsigned char bytes[8];
+            } value{};
+            const char* const kNew = "new text";
+            const void* in = &value;
+            if (vt == VT_R4)
+                value.single = 1.5f;
+            else if (vt == VT_R8)
+                value.real = 1.5;
+            else if (vt == VT_BSTR)
+                in = kNew;
+            else
+                value.whole = name == "ScaleSystem" ? (vt == VT_BOOL ? 0 : 2) : 1;
+            const bool isForm =
+                isReal   ? vt == VT_R4 || vt == VT_R8
+                : isText ? vt == VT_BSTR
+                         : vt != VT_R4 && vt != VT_R8 && vt != VT_BSTR && vt != VT_EMPTY && vt != VT_I2;
+            EXPECT_EQ(table->PropSet(graphic, number, vt, in) != 0, isForm);
+            decltype(value) out{};
+            const bool given = table->PropGet(graphic, number, vt, &out) != 0;
+            EXPECT_EQ(given, isForm);
+            if (!given) continue;
+            if (isText) {
+                EXPECT_STREQ(out.text, kNew);
+                BStringNULL(&out.text);
+            } else {
+                EXPECT_EQ(std::memcmp(&out, &value, sizeof out), 0);
+            }
+        }
+    }
+}
+
+TEST_P(OfKind, MarksItselfChanged) {
+    GraphicSetDirty(graphic, 0);
+    EXPECT_FALSE(SetWhole(graphic, "PenColor", 0x12345678));
+    EXPECT_FALSE(GraphicIsDirty(graphic));
+    EXPECT_TRUE(SetWhole(graphic, "PenColor", 0x345678));
+    EXPECT_TRUE(GraphicIsDirty(graphic));
+}
+
+INSTANTIATE_TEST_SUITE_P(Properties, OfKind, testing::ValuesIn(kKinds),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+class ShapeProperties : public testing::Test {
+protected:
+    ~ShapeProperties() override { GraphicDispose(&graphic); }
+    GraphicStruct* graphic = MakeSquare(0, 0, 1);
+};
+
+TEST_F(ShapeProperties, RefuseWhatIsOutOfLimits) {
+    const struct {
+        const char* name;
+        std::vector<uint32_t> good, bad;
+    } kWhole[] = {
+        {"PenColor", {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC}, {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
+        {"BrushColor", {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
+        {"PenStyle", {0, 1, 65533, 65534}, {65535, 65536, 0xFFFFFFFF}},
+        {"BrushStyle", {0, 1, 300}, {65535, 0xFFFFFFFF}},
+        {"BrushDrawMode", {1, 0}, {2, 0xFFFFFFFF}},
+        {"ScaleSystem", {0, 2}, {1, 3, 0xFF, 0xFFFF}},
+        {"PenAlignment", {1, 0}, {2, 0xFFFFFFFF}},
+        {"HatchCross", {1, 0}, {2}},
+        {"Layer", {1, 500}, {0, 0xFFFF, 0x10001}},
+        {"StyleTree", {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
+    for (const auto& row : kWhole) {
+        for (const uint32_t value : row.good) {
+            EXPECT_TRUE(SetWhole(graphic, row.name, value)) << row.name << value;
+            EXPECT_EQ(GetWhole(graphic, row.name), value) << row.name;
+        }
+        for (const uint32_t value : row.bad) {
+            EXPECT_FALSE(SetWhole(graphic, row.name, value)) << row.name << value;
+            EXPECT_EQ(GetWhole(graphic, row.name), row.good.back()) << row.name << " must keep its value";
+        }
+    }
+    for (const char* name : {"PenWidth", "PenScale", "BrushScale", "BrushAngle"}) {
+        EXPECT_TRUE(SetReal(graphic, name, 0));
+        EXPECT_TRUE(SetReal(graphic, name, 1e30)) << name;
+        for (const double value : {HUGE_VAL, -HUGE_VAL, static_cast<double>(NAN)})
+            EXPECT_FALSE(SetReal(graphic, name, value)) << name;
+        EXPECT_EQ(SetReal(graphic, name, -1), !std::strcmp(name, "BrushAngle"));
+    }
+}
+
+TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
+    OwnDrawing drawing;
+    GraphicAttach(graphic, drawing);
+    EXPECT_FALSE(SetWhole(graphic, "Layer", 2));
+    const uint16_t id = TableEntryAdd(drawing.Table("_Layers_"), "Two", nullptr);
+    EXPECT_TRUE(SetWhole(graphic, "Layer", id));
+    GraphicAttach(graphic, nullptr);
+}
+
+TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
+    SetWhole(graphic, "PenColor", 0xFFFFFFFD);
+    int32_t number;
+    const char* name = "PenColor";
+    const PropertyTable* table = GraphicGetVtbl(graphic);
+    ASSERT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number));
+    int32_t asSigned = 0;
+    EXPECT_TRUE(table->PropGet(graphic, number, VT_I4, &asSigned));
+    EXPECT_EQ(asSigned, -3);
+    uint16_t narrow = 5;
+    EXPECT_FALSE(table->PropGet(graphic, number, VT_UI2, &narrow));
+    EXPECT_FALSE(table->PropGet(graphic, number, VT_BOOL, &narrow));
+    EXPECT_EQ(narrow, 5);
+    SetReal(graphic, "PenWidth", DBL_MAX);
+    name = "PenWidth";
+    table->PropLookup(graphic, &name, 1, 0, &number);
+    float single = 5;
+    EXPECT_FALSE(table->PropGet(graphic, number, VT_R4, &single)) << "no float holds it";
+}
+
+TEST_F(ShapeProperties, TakeBackTheTextThatAVariableHeld) {
+    Balance balance;
+    GraphicStruct* other = MakeSquare(0, 0, 1);
+    SetText(graphic, "Info", "one");
+    SetText(other, "Info", "");
+    char* text = nullptr;
+    for (GraphicStruct* each : {graphic, other, graphic, graphic}) {
+        const PropertyTable* table = GraphicGetVtbl(each);
+        const char* name = "Info";
+        int32_t number;
+        table->PropLookup(each, &name, 1, 0, &number);
+        table->PropGet(each, number, VT_BSTR, &text);
+    }
+    EXPECT_STREQ(text, "one");
+    BStringNULL(&text);
+    EXPECT_EQ(text, nullptr);
+    BStringNULL(&text); // harmless
+    GraphicDispose(&other);
+    EXPECT_TRUE(balance.IsEven());
+}
+
+// A host program's own property table, with a slot that fails by exception.
+TEST_F(ShapeProperties, CanBeReplacedByTheHostPrograms) {
+    static const PropertyTable kTable = {
+        nullptr, [](GraphicStruct*, const char* const*, int, int, int32_t* number) { return *number = 5; },
+        [](GraphicStruct*, int32_t, int, void* value) { return *static_cast<int32_t*>(value) = 77; },
+        [](GraphicStruct*, int32_t, int, const void*) -> int { throw std::runtime_error("full"); }};
+    GraphicSetVtbl(graphic, &kTable);
+    EXPECT_EQ(GetWhole(graphic, "Anything"), 77u);
+    EXPECT_THROW(SetWhole(graphic, "Anything", 1), std::runtime_error);
+    GraphicSetVtbl(graphic, nullptr);
+    EXPECT_EQ(GraphicGetVtbl(graphic), nullptr);
+}
+
+} // namespace

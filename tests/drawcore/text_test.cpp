@@ -1,0 +1,155 @@
+// Texts: size, justification, effects, rotation, and that they fit what their extents say.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include <drawcore/undo.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+class Texts : public testing::Test {
+protected:
+    GraphicStruct* Text(const char* string, double x, double y, double height, double angle = 0,
+                        double width = 0) {
+        GraphicStruct* text = GraphicNewEx(kGraphicText, 0, 1);
+        VertexStruct* vertex = VertexNewEx(x, y, 0);
+        EXPECT_TRUE(TextSetVWHAEx(text, vertex, width, height, angle, string));
+        VertexDispose(&vertex);
+        SetText(text, "TextFont", "Tahoma");
+        return drawing.Add(text);
+    }
+    void Draw() {
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(drawing.Root());
+    }
+    double Width(GraphicStruct* text) {
+        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
+        return ExtentsGetX2(box) - ExtentsGetX1(box);
+    }
+
+    OwnDrawing drawing;
+    Picture picture{drawing};
+};
+
+TEST_F(Texts, HaveTheHeightOfTheirCapitals) {
+    Text("HHH", 20, 30, 40);
+    Draw();
+    EXPECT_GT(picture.Covered(20, 30, 100, 70), 300);
+    EXPECT_LE(picture.Covered(), picture.Covered(20, 29, 100, 71)) << "nothing above or below";
+    EXPECT_GT(picture.Covered(0, 68, 100, 70), 0);
+    EXPECT_GT(picture.Covered(0, 30, 100, 32), 0);
+}
+
+TEST_F(Texts, AreJustifiedAroundTheirPosition) {
+    GraphicStruct* text = Text("HOHO", 50, 50, 10);
+    for (const uint32_t format : {0u, 1u, 2u}) {
+        ASSERT_TRUE(SetWhole(text, "TextFormat", format));
+        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
+        const double left = ExtentsGetX1(box), right = ExtentsGetX2(box);
+        EXPECT_NEAR((50 - left) / (right - left), format / 2.0, 1e-9);
+        Draw();
+        EXPECT_GT(picture.Covered(), 50);
+        EXPECT_EQ(picture.Covered(),
+                  picture.Covered(static_cast<int>(left) - 1, 0, static_cast<int>(right) + 1, 100));
+    }
+}
+
+TEST_F(Texts, GrowWithTheirSizeAndStretchToTheirWidth) {
+    GraphicStruct* text = Text("Sample", 0, 0, 2);
+    const double width = Width(text);
+    SetReal(text, "TextSize", 6);
+    EXPECT_NEAR(Width(text), 3 * width, width * 0.01);
+    EXPECT_NEAR(Width(Text("Sample", 0, 0, 2, 0, 50)), 50, 1e-9);
+    EXPECT_FALSE(SetReal(text, "TextSize", 0));
+}
+
+TEST_F(Texts, ShowTheirEffects) {
+    GraphicStruct* text = Text("nnnn", 10, 50, 10);
+    const auto covered = [&](uint16_t style) {
+        EXPECT_TRUE(SetWhole(text, "TextStyle", style));
+        Draw();
+        return picture.Covered();
+    };
+    const int plain = covered(0);
+    EXPECT_GT(plain, 20);
+    EXPECT_EQ(covered(0x0008), 0) << "hidden";
+    EXPECT_GT(covered(0x0100), plain + 10) << "underlined";
+    EXPECT_GT(covered(0x0004), plain) << "struck through";
+    EXPECT_GT(covered(0x1000), plain + 60) << "framed";
+    EXPECT_GT(covered(0x0040), plain) << "NNNN";
+    const double narrow = Width(text);
+    SetWhole(text, "TextStyle", 2);
+    EXPECT_NE(Width(text), narrow) << "bold";
+    const int upright = covered(0);
+    EXPECT_NE(covered(1), upright) << "italic";
+}
+
+TEST_F(Texts, TurnAndKeepInsideTheirExtents) {
+    for (int step = 0; step < 8; ++step) {
+        GraphicStruct* text = Text("Turn", 50, 50, 10, step * 0.7853981634);
+        Draw();
+        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
+        const int left = static_cast<int>(std::floor(ExtentsGetX1(box))),
+                  right = static_cast<int>(std::ceil(ExtentsGetX2(box)));
+        EXPECT_GT(picture.Covered(), 30) << step;
+        EXPECT_EQ(picture.Covered(left - 1, 0, right + 1, 100), picture.Covered()) << step;
+        GraphicDelete(drawing.Root(), text);
+        GraphicDispose(&text);
+    }
+}
+
+TEST_F(Texts, AreMirroredWithTheirInsertion) {
+    // An L: its stem is left, its foot points right; mirrored the other way round.
+    GraphicStruct* text = Text("L", 0, 0, 1);
+    GraphicDelete(drawing.Root(), text);
+    const uint16_t block = BlocksAddBlock(drawing.Table("_Blocks_"), "L", text);
+    for (const double side : {40.0, -40.0}) {
+        GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
+        VertexStruct* vertex = VertexNewEx(side, 40, 1);
+        MatrixStruct* scaled = MatrixScale(nullptr, vertex, 0);
+        VertexSet(vertex, 50, 30, 0);
+        MatrixStruct* placed = MatrixOffset(scaled, vertex);
+        InsertSetData(insert, drawing.Table("_Blocks_"), block, placed);
+        MatrixDispose(&scaled);
+        MatrixDispose(&placed);
+        VertexDispose(&vertex);
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(insert);
+        const int left = picture.Covered(0, 30, 49, 72), right = picture.Covered(51, 30, 100, 72);
+        EXPECT_GT(side > 0 ? right : left, 50);
+        EXPECT_EQ(side > 0 ? left : right, 0);
+        const int upper = picture.Covered(0, 50, 100, 72), lower = picture.Covered(0, 28, 100, 49);
+        EXPECT_GT(lower, upper) << "the foot is below";
+        GraphicDispose(&insert);
+    }
+}
+
+TEST_F(Texts, BreakIntoLines) {
+    GraphicStruct* text = Text("H\nH\nH", 50, 80, 10);
+    Draw();
+    EXPECT_GT(picture.Covered(40, 80, 60, 90), 0);
+    EXPECT_GT(picture.Covered(40, 63, 60, 73), 0);
+    EXPECT_GT(picture.Covered(40, 47, 60, 57), 0);
+    EXPECT_EQ(picture.Covered(40, 75, 60, 78), 0) << "between the lines";
+    EXPECT_EQ(picture.Covered(40, 0, 60, 44), 0);
+    EXPECT_LT(Width(text), 12);
+}
+
+TEST_F(Texts, ComeBackByUndo) {
+    GraphicStruct* text = Text("Text", 0, 0, 5);
+    const double width = Width(text);
+    DrawingBeginUndo(drawing);
+    SetReal(text, "TextSize", 50);
+    SetText(text, "TextFont", "DejaVu Sans");
+    SetWhole(text, "TextStyle", 2);
+    EXPECT_EQ(DrawingEndUndo(drawing), 1);
+    EXPECT_GT(Width(text), 5 * width);
+    DrawingUndo(drawing);
+    EXPECT_EQ(Width(text), width);
+    EXPECT_EQ(GetText(text, "TextFont"), "Tahoma");
+}
+
+} // namespace

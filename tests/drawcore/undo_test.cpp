@@ -1,0 +1,101 @@
+// Undo: a step takes back everything that was changed in it, and nothing else.
+
+#include <gtest/gtest.h>
+
+#include <drawcore/undo.h>
+
+#include "drawcore/kit.h"
+
+namespace {
+
+class Undo : public testing::Test {
+protected:
+    Undo() {
+        for (int i = 0; i < 3; ++i)
+            lines.push_back(drawing.Add(MakeSquare(i, 0, 1)));
+        for (GraphicStruct* line : lines)
+            SetReal(line, "PenWidth", 1);
+    }
+    Balance balance;
+    OwnDrawing drawing;
+    std::vector<GraphicStruct*> lines;
+};
+
+TEST_F(Undo, TakesBackAStepAsAWhole) {
+    ASSERT_TRUE(DrawingBeginUndo(drawing));
+    EXPECT_FALSE(DrawingBeginUndo(drawing)) << "one is open";
+    for (GraphicStruct* line : {lines[0], lines[1]}) {
+        SetReal(line, "PenWidth", 2);
+        SetReal(line, "PenWidth", 3);
+        SetWhole(line, "PenColor", 0xFF);
+        SetText(line, "Info", "changed");
+        SetWhole(line, "BrushStyle", 4);
+    }
+    GraphicSetPenStyle(lines[0], 1);
+    EXPECT_EQ(DrawingUndo(drawing), 0) << "still open";
+    EXPECT_EQ(DrawingEndUndo(drawing), 2);
+    EXPECT_EQ(DrawingCountUndo(drawing), 1);
+    EXPECT_EQ(DrawingUndo(drawing), 2);
+    for (GraphicStruct* line : lines) {
+        EXPECT_EQ(GetReal(line, "PenWidth"), 1);
+        EXPECT_EQ(GetWhole(line, "PenColor"), 0xFFFFFFFD);
+        EXPECT_EQ(GetText(line, "Info"), "");
+        EXPECT_EQ(GetWhole(line, "BrushStyle"), 0u);
+        EXPECT_EQ(GetWhole(line, "PenStyle"), 65534u);
+    }
+    EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
+}
+
+TEST_F(Undo, GoesBackStepByStep) {
+    for (const double width : {2.0, 3.0, 4.0}) {
+        DrawingBeginUndo(drawing);
+        SetReal(lines[0], "PenWidth", width);
+        DrawingEndUndo(drawing);
+    }
+    for (const double width : {3.0, 2.0, 1.0}) {
+        EXPECT_EQ(DrawingUndo(drawing), 1);
+        EXPECT_EQ(GetReal(lines[0], "PenWidth"), width);
+    }
+}
+
+TEST_F(Undo, KeepsNoStepInWhichNothingBecameDifferent) {
+    DrawingBeginUndo(drawing);
+    SetReal(lines[0], "PenWidth", 5);
+    SetReal(lines[0], "PenWidth", 1);
+    EXPECT_FALSE(SetReal(lines[1], "PenWidth", -1));
+    EXPECT_EQ(DrawingEndUndo(drawing), 0);
+    EXPECT_EQ(DrawingCountUndo(drawing), 0);
+}
+
+TEST_F(Undo, RestoresVerticesAndExtents) {
+    DrawingBeginUndo(drawing);
+    VertexStruct* vertex = VertexNewEx(50, 50, 0);
+    GraphicVertexAdd(lines[2], vertex);
+    VertexDispose(&vertex);
+    EXPECT_EQ(DrawingEndUndo(drawing), 1);
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)), 50);
+    DrawingUndo(drawing);
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)), 3);
+}
+
+TEST_F(Undo, LeavesOutPreviewsAndOutlivesGraphicsThatGo) {
+    DrawingBeginUndo(drawing);
+    GraphicStruct* preview = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicAttach(preview, drawing);
+    GraphicAdd(preview, MakeSquare(0, 0, 1));
+    uint32_t position;
+    SetReal(GraphicFirst(preview, &position, 1, 0), "PenWidth", 9);
+    GraphicDispose(&preview);
+    SetReal(lines[0], "PenWidth", 9);
+    SetReal(lines[1], "PenWidth", 9);
+    EXPECT_EQ(DrawingEndUndo(drawing), 2);
+    GraphicDelete(drawing.Root(), lines[1]);
+    GraphicDispose(&lines[1]);
+    EXPECT_EQ(DrawingUndo(drawing), 1);
+    EXPECT_EQ(GetReal(lines[0], "PenWidth"), 1);
+    drawing.Close();
+    EXPECT_TRUE(balance.IsEven());
+    EXPECT_FALSE(DrawingBeginUndo(drawing)) << "the drawing is gone";
+}
+
+} // namespace
