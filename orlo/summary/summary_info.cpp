@@ -7,6 +7,7 @@
 
 #include "orlo/propset/property_set.h"
 #include "orlo/summary/com_owner.h"
+#include "orlo/summary/compound_file.h"
 
 using orlo::Owned;
 using orlo::Receive;
@@ -160,7 +161,9 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
 HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo) {
     if (!pszFileName || !ppStorage || !ppSumInfo) return E_FAIL;
     *ppStorage = nullptr;
-    HRESULT result = ::StgOpenStorage(Wide(pszFileName).c_str(), nullptr, kRead, nullptr, 0, ppStorage);
+    const std::wstring name = Wide(pszFileName);
+    if (orlo::CheckCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
+    HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, ppStorage);
     if (FAILED(result)) return result;
     if (!*ppSumInfo) *ppSumInfo = OleStdInitSummaryInfo(0);
     result = *ppSumInfo ? LoadSummaryInfo(*ppStorage, *ppSumInfo) : E_FAIL;

@@ -1,0 +1,57 @@
+// Everything odd about the property sets of a file, one line each.
+
+#include <cstdio>
+#include <windows.h>
+
+#include "commands.h"
+#include "orlo/propset/set_image.h"
+#include "sources.h"
+#include "text.h"
+
+namespace suminfo {
+namespace {
+
+const char* Word(orlo::Severity severity) {
+    switch (severity) {
+    case orlo::Severity::note:
+        return "note";
+    case orlo::Severity::irregular:
+        return "irregular";
+    default:
+        return "damaged";
+    }
+}
+
+std::string Line(const std::string& place, const orlo::Finding& finding) {
+    char where[64];
+    std::snprintf(where, sizeof where, ": 0x%06llX: %s %d: ", static_cast<unsigned long long>(finding.offset),
+                  Word(finding.severity), static_cast<int>(finding.code));
+    return place + where + finding.text + "\n";
+}
+
+} // namespace
+
+Report Check(const Source& source) {
+    Report report;
+    const std::vector<NamedStream> sets = SetsOf(source);
+    for (const NamedStream& stream : sets) {
+        const std::string place =
+            source.file + (stream.name.empty() ? "" : ": " + StreamNameShown(stream.name));
+        if (!stream.error.empty()) {
+            report.text += place + ": cut after " + std::to_string(stream.bytes.size()) +
+                           " bytes: " + stream.error + "\n";
+            report.clean = false;
+        }
+        std::vector<orlo::Finding> findings;
+        orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
+        for (const orlo::Finding& finding : findings) {
+            report.text += Line(place, finding);
+            report.clean = report.clean && finding.severity == orlo::Severity::note;
+        }
+    }
+    if (report.clean)
+        report.text += source.file + (sets.empty() ? ": no property sets\n" : ": nothing irregular\n");
+    return report;
+}
+
+} // namespace suminfo

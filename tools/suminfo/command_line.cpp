@@ -1,0 +1,172 @@
+// The commands with their options, and the words of the help.
+
+#include "command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+
+#include "fields.h"
+#include "value_input.h"
+
+namespace suminfo {
+namespace {
+
+constexpr char kExamples[] = R"(
+Examples:
+  suminfo show report.doc                         what its property sets hold
+  suminfo show --json -r documents/ | jq .file    every document, one line of JSON each
+  suminfo show --stream summary.bin               a property-set stream in a file of its own
+  suminfo set plan.msi title="Plan B" saved=now
+  suminfo set plan.msi --custom Client=text:ACME --custom Sheets=int:12
+  suminfo remove plan.msi comments --custom Client
+  suminfo thumbnail plan.ppt plan.png --size 200x150
+  suminfo rc plan.msi plan.rc                     the summary as a resource script
+  suminfo copy report.doc letter.doc              the summary of one document to another
+  suminfo check -r documents/                     everything irregular, with its offset
+
+Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong command line.)";
+
+// "name=value"; an error names what is wrong with it.
+Assignment Split(const std::string& text) {
+    const size_t equals = text.find('=');
+    if (equals == std::string::npos || equals == 0)
+        throw CLI::ValidationError("'" + text + "' should be name=value");
+    return {text.substr(0, equals), text.substr(equals + 1)};
+}
+
+std::vector<Assignment> Split(const std::vector<std::string>& texts) {
+    std::vector<Assignment> split;
+    for (const std::string& text : texts)
+        split.push_back(Split(text));
+    return split;
+}
+
+std::optional<SIZE> ParseSize(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    unsigned width = 0, height = 0;
+    int used = 0;
+    const bool read = std::sscanf(text.c_str(), "%5ux%5u%n", &width, &height, &used) == 2;
+    if (!read || static_cast<size_t>(used) != text.size() || width == 0 || height == 0)
+        throw CLI::ValidationError("--size",
+                                   "'" + text + "' should be WIDTHxHEIGHT in pixels, as in 200x150");
+    return SIZE{static_cast<LONG>(width), static_cast<LONG>(height)};
+}
+
+std::string FieldNames() {
+    std::string names;
+    for (const Field& field : Fields())
+        if (field.type != 0) names += (names.empty() ? "" : ", ") + std::string(field.name);
+    return names;
+}
+
+class Parser {
+public:
+    Parser()
+        : app_(
+              "Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more.",
+              "suminfo") {
+        app_.allow_windows_style_options(false); // a path may begin with a slash
+        app_.require_subcommand(1);
+        app_.footer(kExamples);
+        AddShow();
+        AddCheck();
+        AddSet();
+        AddRemove();
+        AddThumbnail();
+        AddScript();
+        AddCopy();
+    }
+
+    Parsed Parse(std::vector<std::string> arguments) {
+        std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
+        try {
+            app_.parse(arguments);
+            line_.fields = Split(fields_);
+            line_.custom = Split(custom_);
+            line_.size = ParseSize(size_);
+            if (line_.command == Command::set && fields_.empty() && custom_.empty())
+                throw CLI::ValidationError("set", "nothing to set: name a field, as in title=\"Plan B\"");
+            if (line_.command == Command::remove && line_.fieldNames.empty() && line_.customNames.empty())
+                throw CLI::ValidationError("remove", "nothing to remove: name a field");
+            return {line_, kDone};
+        } catch (const CLI::ParseError& error) {
+            return {std::nullopt, app_.exit(error, std::cout, std::cerr) == 0 ? kDone : kUsage};
+        }
+    }
+
+private:
+    CLI::App* Add(const char* name, Command command, const char* description) {
+        CLI::App* sub = app_.add_subcommand(name, description);
+        sub->callback([this, command] { line_.command = command; });
+        return sub;
+    }
+    void AddFile(CLI::App* sub) {
+        sub->add_option("FILE", line_.files, "the document")->required()->expected(1);
+    }
+    void AddBare(CLI::App* sub) {
+        sub->add_flag("--stream", line_.bare, "FILE is no document but one property-set stream");
+    }
+    void AddFiles(CLI::App* sub) {
+        sub->add_option("FILE", line_.files, "documents, and folders with -r")->required();
+        sub->add_flag("-r,--recursive", line_.recursive, "look into folders, at every compound file");
+        AddBare(sub);
+    }
+
+    void AddShow() {
+        CLI::App* sub = Add("show", Command::show, "Print what the property sets hold");
+        AddFiles(sub);
+        sub->add_flag("--json", line_.json, "one line of JSON for each file");
+    }
+    void AddCheck() {
+        AddFiles(Add("check", Command::check,
+                     "Report everything irregular, with its offset and what readers make of it"));
+    }
+    void AddSet() {
+        CLI::App* sub = Add("set", Command::set, "Change fields; an empty value removes one");
+        sub->footer("Fields: " + FieldNames() + ".\nTypes of custom properties: " + TypeNames() +
+                    ".\nDates: 2001-02-03, 2001-02-03T04:05:06Z (UTC) or now; edit-time: h:mm:ss.");
+        AddFile(sub);
+        sub->add_option("FIELD=VALUE", fields_, "title=\"Plan B\"");
+        sub->add_option("--custom", custom_, "NAME=TYPE:VALUE, a custom property")->expected(1)->take_all();
+    }
+    void AddRemove() {
+        CLI::App* sub = Add("remove", Command::remove, "Remove fields and custom properties");
+        AddFile(sub);
+        sub->add_option("FIELD", line_.fieldNames, "title, thumbnail, ...");
+        sub->add_option("--custom", line_.customNames, "the name of a custom property")
+            ->expected(1)
+            ->take_all();
+    }
+    void AddThumbnail() {
+        CLI::App* sub = Add("thumbnail", Command::thumbnail, "Draw the thumbnail into a PNG file");
+        AddFile(sub);
+        AddBare(sub);
+        sub->add_option("OUT.png", line_.output, "the picture")->required();
+        sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (its own size, or 256 for a metafile)");
+    }
+    void AddScript() {
+        CLI::App* sub = Add("rc", Command::rc, "Print the summary as a resource script");
+        AddFile(sub);
+        AddBare(sub);
+        sub->add_option("OUT.rc", line_.output, "the script")->required();
+    }
+    void AddCopy() {
+        CLI::App* sub = Add("copy", Command::copy, "Give one document the summary of another");
+        sub->add_option("FROM", line_.files, "the document with the summary")->required()->expected(1);
+        sub->add_option("TO", line_.output, "the document that gets it")->required();
+    }
+
+    CLI::App app_;
+    CommandLine line_ = {};
+    std::vector<std::string> fields_, custom_;
+    std::string size_;
+};
+
+} // namespace
+
+Parsed ParseCommandLine(const std::vector<std::string>& arguments) {
+    return Parser().Parse(arguments);
+}
+
+} // namespace suminfo

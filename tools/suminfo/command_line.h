@@ -1,0 +1,38 @@
+// The command line: which command on which files. Parsing prints help and what is wrong.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+#include "commands.h"
+
+namespace suminfo {
+
+enum class Command { show, check, set, remove, thumbnail, rc, copy };
+
+struct CommandLine {
+    Command command;
+    std::vector<std::string> files; // one, but for show and check
+    bool recursive = false;
+    bool bare = false;
+    bool json = false;
+    std::vector<Assignment> fields, custom;           // set
+    std::vector<std::string> fieldNames, customNames; // remove
+    std::string output;                               // thumbnail, rc, copy
+    std::optional<SIZE> size;
+};
+
+// The parsed line, or the exit code when there is nothing more to do (help was printed, or the line is wrong).
+struct Parsed {
+    std::optional<CommandLine> line;
+    int exitCode = 0;
+};
+Parsed ParseCommandLine(const std::vector<std::string>& arguments);
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1; // a file failed, or a check found something
+constexpr int kUsage = 2;  // the command line is wrong
+
+} // namespace suminfo

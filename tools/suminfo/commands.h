@@ -1,0 +1,47 @@
+// What suminfo can do, one function a command. Each throws Failure when it can't do its work on a file.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+namespace suminfo {
+
+// Where property sets come from: a document, or (bare) a file that is one property-set stream.
+struct Source {
+    std::string file;
+    bool bare = false;
+};
+
+// "name=value" of the command line, taken apart.
+struct Assignment {
+    std::string name, value;
+};
+
+struct Report {
+    std::string text;
+    bool clean = true; // nothing was missing (show), nothing irregular was found (check)
+};
+
+// Tables for a person, with the file's name above.
+Report ShowTable(const Source& source);
+// One line of JSON.
+Report ShowJson(const Source& source);
+// A line for each finding, or one that says that there is none.
+Report Check(const Source& source);
+
+// Changes fields and custom properties ("type:value"). All of them or, after a Failure, none.
+void SetFields(const std::string& file, const std::vector<Assignment>& fields,
+               const std::vector<Assignment>& custom);
+void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
+                  const std::vector<std::string>& custom);
+// Gives the second document the summary streams of the first.
+void CopySummary(const std::string& from, const std::string& to);
+
+// Draws the thumbnail into a PNG file: in its own size, or in the middle of a white picture of the given one.
+void SaveThumbnail(const Source& source, const std::string& png, std::optional<SIZE> size);
+// Prints the sections of the summary (of all of a bare stream) as resources 1, 2, ... of a resource script.
+void SaveResourceScript(const Source& source, const std::string& script);
+
+} // namespace suminfo

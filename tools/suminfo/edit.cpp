@@ -1,0 +1,116 @@
+// set, remove and copy: streams read, changed in memory, and written in one transaction.
+
+#include <algorithm>
+#include <map>
+#include <objbase.h>
+#include <windows.h>
+
+#include "commands.h"
+#include "document.h"
+#include "edited_set.h"
+#include "failure.h"
+#include "fields.h"
+#include "text.h"
+#include "value_input.h"
+
+namespace suminfo {
+namespace {
+
+const Field& FieldToChange(const std::string& name) {
+    const Field* field = FieldNamed(name);
+    if (!field || field->id == kCodePageId)
+        throw Failure("'" + name + "' is no field; suminfo set --help lists them");
+    return *field;
+}
+
+// The two summary streams of a document, each opened for changes when something wants to change it.
+class Edit {
+public:
+    explicit Edit(const std::string& file) : document_(Document::ForWriting(file)) {}
+
+    EditedSet& SetWith(const GUID& format) {
+        const char* name = ::IsEqualGUID(format, kSummaryFormat) ? kSummaryStream : kDocumentSummaryStream;
+        const auto found = sets_.find(name);
+        if (found != sets_.end()) return found->second;
+        try {
+            return sets_.emplace(name, EditedSet(document_.Read(name))).first->second;
+        } catch (const Failure& failure) {
+            throw Failure(StreamNameShown(name) + ": " + failure.what());
+        }
+    }
+
+    void Commit() {
+        for (const auto& [name, set] : sets_)
+            if (set.Changed()) document_.Write(name, set.Image());
+        document_.Commit();
+    }
+
+private:
+    Document document_;
+    std::map<std::string, EditedSet> sets_;
+};
+
+// The failure of one field, with the field's name.
+template <typename Work>
+void For(const std::string& name, Work work) {
+    try {
+        work();
+    } catch (const Failure& failure) {
+        throw Failure(name + ": " + failure.what());
+    }
+}
+
+orlo::Bytes Sound(orlo::Bytes bytes, const std::string& name) {
+    For(StreamNameShown(name), [&] { EditedSet check{bytes}; });
+    return bytes;
+}
+
+} // namespace
+
+void SetFields(const std::string& file, const std::vector<Assignment>& fields,
+               const std::vector<Assignment>& custom) {
+    Edit edit(file);
+    for (const Assignment& assignment : fields) {
+        const Field& field = FieldToChange(assignment.name);
+        if (field.type == 0) throw Failure("'" + assignment.name + "' can't be set, only removed");
+        For(assignment.name, [&] {
+            edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type);
+        });
+    }
+    for (const Assignment& assignment : custom)
+        For(assignment.name, [&] {
+            edit.SetWith(kUserDefinedFormat).SetCustom(assignment.name, ParseTyped(assignment.value));
+        });
+    edit.Commit();
+}
+
+void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
+                  const std::vector<std::string>& custom) {
+    Edit edit(file);
+    for (const std::string& name : fields) {
+        const Field& field = FieldToChange(name);
+        if (!edit.SetWith(field.format).Remove(field.format, field.id)) throw Failure("it has no " + name);
+    }
+    for (const std::string& name : custom)
+        if (!edit.SetWith(kUserDefinedFormat).RemoveCustom(name))
+            throw Failure("it has no custom property '" + name + "'");
+    edit.Commit();
+}
+
+void CopySummary(const std::string& from, const std::string& to) {
+    std::map<std::string, orlo::Bytes> streams;
+    For(from, [&] {
+        const Document source = Document::ForReading(from);
+        for (const char* name : {kSummaryStream, kDocumentSummaryStream})
+            if (auto bytes = source.Read(name)) streams[name] = Sound(std::move(*bytes), name);
+        if (streams.empty()) throw Failure("it has no summary");
+    });
+    For(to, [&] {
+        Document target = Document::ForWriting(to);
+        for (const auto& [name, bytes] : streams)
+            target.Write(name, bytes);
+        target.Commit();
+    });
+}
+
+} // namespace suminfo

@@ -1,0 +1,46 @@
+// The storage's results in words.
+
+#include "failure.h"
+
+#include <array>
+#include <cstdio>
+#include <objbase.h>
+
+namespace suminfo {
+namespace {
+
+struct Words {
+    HRESULT result;
+    const char* text;
+};
+constexpr std::array kWords = {
+    Words{STG_E_FILENOTFOUND, "no such file"},
+    Words{STG_E_PATHNOTFOUND, "no such folder"},
+    Words{STG_E_ACCESSDENIED, "access is denied, or the file is read-only"},
+    Words{STG_E_SHAREVIOLATION, "another program has it open"},
+    Words{STG_E_LOCKVIOLATION, "another program has it open"},
+    Words{STG_E_FILEALREADYEXISTS, "not a compound file"},
+    Words{STG_E_INVALIDHEADER, "not a compound file"},
+    Words{STG_E_OLDFORMAT, "a compound file of an old format"},
+    Words{STG_E_DOCFILECORRUPT, "the compound file is damaged"},
+    Words{STG_E_READFAULT, "it can't be read: the compound file is damaged, or the disk failed"},
+    Words{STG_E_WRITEFAULT, "it can't be written: the disk is full or failed"},
+    Words{STG_E_MEDIUMFULL, "the disk is full"},
+    Words{E_OUTOFMEMORY, "not enough memory"},
+};
+
+} // namespace
+
+std::string TextOf(HRESULT result) {
+    for (const Words& words : kWords)
+        if (words.result == result) return words.text;
+    char number[32];
+    std::snprintf(number, sizeof number, "error 0x%08lX", static_cast<unsigned long>(result));
+    return number;
+}
+
+void Fail(HRESULT result, const std::string& doing) {
+    throw Failure(doing + ": " + TextOf(result));
+}
+
+} // namespace suminfo

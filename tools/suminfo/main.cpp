@@ -1,0 +1,100 @@
+// suminfo: property sets of documents on the command line. docs/suminfo.md describes it.
+
+#include <cstdio>
+#include <exception>
+#include <fcntl.h>
+#include <io.h>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+#include "command_line.h"
+#include "commands.h"
+#include "progress.h"
+#include "sources.h"
+#include "text.h"
+
+namespace {
+
+using namespace suminfo;
+
+void Say(FILE* stream, const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stream);
+    std::fflush(stream);
+}
+
+// The work on one file; false if it failed, which was said.
+template <typename Work>
+bool Try(const std::string& file, Progress& progress, Work work) {
+    try {
+        work();
+        return true;
+    } catch (const std::exception& failure) {
+        progress.Hide();
+        Say(stderr, "suminfo: " + file + ": " + failure.what() + "\n");
+        return false;
+    }
+}
+
+Report ReportOn(const CommandLine& line, const Source& source) {
+    if (line.command == Command::check) return Check(source);
+    return line.json ? ShowJson(source) : ShowTable(source);
+}
+
+// show and check: one file after the other, failures said in their place.
+int ReportAll(const CommandLine& line) {
+    const std::vector<std::string> files = FilesOf(line.files, line.recursive);
+    const bool tables = line.command == Command::show && !line.json;
+    Progress progress(files.size());
+    bool clean = true, first = true;
+    for (const std::string& file : files) {
+        progress.Next(file);
+        const auto work = [&] {
+            const Report report = ReportOn(line, {file, line.bare});
+            progress.Hide();
+            Say(stdout, (tables && !first ? "\n" : "") + report.text);
+            first = false;
+            clean = clean && report.clean;
+        };
+        clean = Try(file, progress, work) && clean;
+    }
+    return clean ? kDone : kFailed;
+}
+
+void RunOn(const CommandLine& line, const std::string& file) {
+    switch (line.command) {
+    case Command::set:
+        return SetFields(file, line.fields, line.custom);
+    case Command::remove:
+        return RemoveFields(file, line.fieldNames, line.customNames);
+    case Command::thumbnail:
+        return SaveThumbnail({file, line.bare}, line.output, line.size);
+    case Command::rc:
+        return SaveResourceScript({file, line.bare}, line.output);
+    default:
+        return CopySummary(file, line.output);
+    }
+}
+
+int Run(const std::vector<std::string>& arguments) {
+    const Parsed parsed = ParseCommandLine(arguments);
+    if (!parsed.line) return parsed.exitCode;
+    const CommandLine& line = *parsed.line;
+    if (line.command == Command::show || line.command == Command::check) return ReportAll(line);
+    const std::string& file = line.files.front();
+    Progress none(1);
+    return Try(file, none, [&] { RunOn(line, file); }) ? kDone : kFailed;
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** words) {
+    // Lines end in LF and text is UTF-8, on a terminal too.
+    ::_setmode(::_fileno(stdout), _O_BINARY);
+    ::_setmode(::_fileno(stderr), _O_BINARY);
+    ::SetConsoleOutputCP(CP_UTF8);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(ToUtf8(words[i]));
+    return Run(arguments);
+}

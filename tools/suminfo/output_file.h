@@ -1,0 +1,28 @@
+// A file that is written beside its name and takes it over when it is complete: a failure leaves what was there.
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+namespace suminfo {
+
+class OutputFile {
+public:
+    // Failure if it can't be made.
+    explicit OutputFile(const std::string& file);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    // Open for reading and writing, binary.
+    FILE* Stream() const { return stream_; }
+    // Failure if not all of it could be written.
+    void Finish();
+
+private:
+    std::filesystem::path path_, part_;
+    FILE* stream_;
+};
+
+} // namespace suminfo

@@ -1,0 +1,30 @@
+// A bar on the terminal while many files are worked on. Without a terminal on stderr it shows nothing.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+
+namespace suminfo {
+
+class Progress {
+public:
+    explicit Progress(size_t total);
+    ~Progress() { Hide(); }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    // Before work on the next file; the bar comes up when the work takes longer than a moment.
+    void Next(const std::string& file);
+    // Before anything else is printed.
+    void Hide();
+
+private:
+    size_t total_;
+    size_t done_ = 0;
+    bool terminal_;
+    bool shown_ = false;
+    std::chrono::steady_clock::time_point nextDraw_;
+};
+
+} // namespace suminfo

@@ -1,0 +1,107 @@
+// Property sets as tables, and as a line of JSON.
+
+#include <algorithm>
+#include <windows.h>
+
+#include "commands.h"
+#include "fields.h"
+#include "json_output.h"
+#include "orlo/propset/set_image.h"
+#include "sources.h"
+#include "text.h"
+#include "value_display.h"
+
+namespace suminfo {
+namespace {
+
+constexpr size_t kWidestName = 28;
+
+// Characters, not bytes.
+size_t Width(const std::string& utf8) {
+    return static_cast<size_t>(
+        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+struct Line {
+    std::string name, value;
+};
+
+std::string Aligned(const std::vector<Line>& lines) {
+    size_t width = 0;
+    for (const Line& line : lines)
+        width = std::max(width, std::min(Width(line.name), kWidestName));
+    std::string table;
+    for (const Line& line : lines) {
+        const size_t taken = Width(line.name);
+        table += "    " + line.name + std::string(taken < width ? width - taken : 0, ' ');
+        table += line.value.empty() ? "\n" : "  " + line.value + "\n";
+    }
+    return table;
+}
+
+std::string Heading(const orlo::ImageSection& section) {
+    if (const char* known = FormatName(section.formatId)) return known;
+    return "section " + orlo::GuidText(section.formatId);
+}
+
+std::string SectionTable(const orlo::ImageSection& section) {
+    std::vector<Line> lines;
+    for (const orlo::ImageProperty& property : section.properties)
+        lines.push_back({PropertyName(section, property.id), PropertyShown(section, property)});
+    return "  " + Heading(section) + "\n" + Aligned(lines);
+}
+
+std::string StreamTable(const NamedStream& stream) {
+    std::vector<orlo::Finding> findings;
+    const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
+    std::string table;
+    // The usual streams are told by their sections; others need their name.
+    const bool inner = stream.name.find('/') != std::string::npos;
+    if (inner || !set)
+        table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";
+    if (!set) {
+        table += "    no property set\n";
+    } else {
+        for (const orlo::ImageSection& section : set->sections)
+            table += SectionTable(section);
+    }
+    const auto damaged = std::count_if(findings.begin(), findings.end(), [](const orlo::Finding& finding) {
+        return finding.severity == orlo::Severity::damaged;
+    });
+    if (!stream.error.empty()) table += "    (cut: " + stream.error + ")\n";
+    if (damaged != 0) table += "    (damaged; see suminfo check)\n";
+    return table;
+}
+
+} // namespace
+
+Report ShowTable(const Source& source) {
+    Report report = {source.file + "\n"};
+    const std::vector<NamedStream> sets = SetsOf(source);
+    if (sets.empty()) report.text += "  no property sets\n";
+    for (const NamedStream& stream : sets) {
+        report.text += StreamTable(stream);
+        report.clean = report.clean && stream.error.empty();
+    }
+    return report;
+}
+
+Report ShowJson(const Source& source) {
+    Json json = {{"file", source.file}};
+    const std::vector<NamedStream> sets = SetsOf(source);
+    Report report;
+    if (source.bare) {
+        json.update(StreamJson(sets.front()));
+        json["stream"] = nullptr;
+    } else {
+        Json& list = json["property_sets"] = Json::array();
+        for (const NamedStream& stream : sets) {
+            list.push_back(StreamJson(stream));
+            report.clean = report.clean && stream.error.empty();
+        }
+    }
+    report.text = json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+    return report;
+}
+
+} // namespace suminfo

@@ -1,0 +1,94 @@
+// Conversions by the system's own functions.
+
+#include "text.h"
+
+#include <array>
+#include <cstdio>
+#include <windows.h>
+
+#include <bcrypt.h>
+
+#include "failure.h"
+
+namespace suminfo {
+
+std::wstring ToWide(std::string_view utf8) {
+    const int size = static_cast<int>(utf8.size());
+    std::wstring wide(static_cast<size_t>(::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)),
+                      L'\0');
+    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), static_cast<int>(wide.size()));
+    return wide;
+}
+
+std::string ToUtf8(std::wstring_view wide) {
+    const int size = static_cast<int>(wide.size());
+    const int needed = ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<size_t>(needed), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), needed, nullptr, nullptr);
+    return utf8;
+}
+
+std::string StreamNameShown(std::string_view name) {
+    std::string shown;
+    for (const char c : name) {
+        if (c == '\005')
+            shown += "\\005";
+        else
+            shown += c;
+    }
+    return shown;
+}
+
+bool SameName(std::string_view a, std::string_view b) {
+    const std::wstring wideA = ToWide(a), wideB = ToWide(b);
+    return ::CompareStringOrdinal(wideA.data(), static_cast<int>(wideA.size()), wideB.data(),
+                                  static_cast<int>(wideB.size()), TRUE) == CSTR_EQUAL;
+}
+
+std::string OneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (c == '\n') {
+            line += "\\n";
+        } else if (c == '\r') {
+            line += "\\r";
+        } else if (c == '\t') {
+            line += "\\t";
+        } else if (code < 0x20 || code == 0x7F) {
+            line += "\\x";
+            line += Hex(&code, 1);
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
+std::string Hex(const uint8_t* bytes, size_t size) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    std::string text;
+    text.reserve(2 * size);
+    for (size_t i = 0; i < size; ++i) {
+        text += kDigits[bytes[i] >> 4];
+        text += kDigits[bytes[i] & 0xF];
+    }
+    return text;
+}
+
+std::string Sha256(const std::vector<uint8_t>& bytes) {
+    std::array<uint8_t, 32> hash;
+    auto* data = const_cast<uint8_t*>(bytes.data()); // the system takes its input as PUCHAR
+    BCRYPT_ALG_HANDLE algorithm = nullptr;
+    BCRYPT_HASH_HANDLE state = nullptr;
+    const bool done = ::BCryptOpenAlgorithmProvider(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, 0) >= 0 &&
+                      ::BCryptCreateHash(algorithm, &state, nullptr, 0, nullptr, 0, 0) >= 0 &&
+                      ::BCryptHashData(state, data, static_cast<ULONG>(bytes.size()), 0) >= 0 &&
+                      ::BCryptFinishHash(state, hash.data(), static_cast<ULONG>(hash.size()), 0) >= 0;
+    if (state) ::BCryptDestroyHash(state);
+    if (algorithm) ::BCryptCloseAlgorithmProvider(algorithm, 0);
+    if (!done) throw Failure("the system can't make a SHA-256");
+    return Hex(hash.data(), hash.size());
+}
+
+} // namespace suminfo

@@ -1,0 +1,28 @@
+// Text on its way in and out: UTF-8 inside, the system's wide text at its edges.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace suminfo {
+
+std::wstring ToWide(std::string_view utf8);
+std::string ToUtf8(std::wstring_view wide);
+
+inline std::filesystem::path PathOf(std::string_view utf8) {
+    return std::filesystem::path(ToWide(utf8));
+}
+
+// A stream's name as it is shown: the byte 5 of property sets as \005.
+std::string StreamNameShown(std::string_view name);
+// Without regard to case, as the storage compares names.
+bool SameName(std::string_view a, std::string_view b);
+// On one line: control characters as \n, \t, \x01.
+std::string OneLine(std::string_view text);
+std::string Hex(const uint8_t* bytes, size_t size);
+std::string Sha256(const std::vector<uint8_t>& bytes);
+
+} // namespace suminfo

@@ -1,0 +1,161 @@
+// Each kind of value has its own strict parser: a text that is only half a number is none.
+
+#include "value_input.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdlib>
+#include <windows.h>
+
+#include "failure.h"
+#include "orlo/propset/value_text.h"
+#include "text.h"
+
+namespace suminfo {
+namespace {
+
+struct TypeWord {
+    const char* word;
+    uint32_t type;
+};
+constexpr std::array kTypeWords = {
+    TypeWord{"text", VT_LPSTR},   TypeWord{"wide", VT_LPWSTR},   TypeWord{"int", VT_I4},
+    TypeWord{"unsigned", VT_UI4}, TypeWord{"long", VT_I8},       TypeWord{"number", VT_R8},
+    TypeWord{"bool", VT_BOOL},    TypeWord{"date", VT_FILETIME}, TypeWord{"money", VT_CY},
+    TypeWord{"guid", VT_CLSID},
+};
+
+[[noreturn]] void Refuse(const std::string& text, const std::string& kind) {
+    throw Failure("'" + text + "' is no " + kind);
+}
+
+template <typename Number>
+Number Whole(const std::string& text, const char* kind) {
+    Number number = 0;
+    const char* end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stopped != end || text.empty()) Refuse(text, kind);
+    return number;
+}
+
+double Real(const std::string& text) {
+    char* end = nullptr;
+    errno = 0;
+    const double number = std::strtod(text.c_str(), &end);
+    if (text.empty() || *end != '\0' || errno == ERANGE) Refuse(text, "number");
+    return number;
+}
+
+bool Truth(const std::string& text) {
+    for (const char* yes : {"true", "yes", "1"})
+        if (SameName(text, yes)) return true;
+    for (const char* no : {"false", "no", "0"})
+        if (SameName(text, no)) return false;
+    Refuse(text, "bool (true or false)");
+}
+
+uint64_t Now() {
+    FILETIME now;
+    ::GetSystemTimeAsFileTime(&now);
+    constexpr uint64_t kSecond = 10000000;
+    const uint64_t ticks = uint64_t{now.dwHighDateTime} << 32 | now.dwLowDateTime;
+    return ticks / kSecond * kSecond;
+}
+
+// Types whose text forms the library knows.
+orlo::Value Formatted(uint32_t type, const std::string& text, const char* kind) {
+    uint8_t element[16];
+    orlo::Value value;
+    if (!orlo::ParseValueText(text, type, element)) Refuse(text, kind);
+    if (!orlo::DecodeValue(type, element, type == VT_CLSID ? 16 : 8, std::nullopt, value)) Refuse(text, kind);
+    return value;
+}
+
+} // namespace
+
+orlo::Value ParseValue(uint32_t type, const std::string& text) {
+    orlo::Value value;
+    value.type = type;
+    switch (type) {
+    case VT_LPSTR:
+    case VT_LPWSTR:
+    case VT_BSTR:
+        value.data = text;
+        return value;
+    case VT_I2:
+        value.data = int64_t{Whole<int16_t>(text, "whole number of 16 bits")};
+        return value;
+    case VT_I4:
+    case VT_INT:
+        value.data = int64_t{Whole<int32_t>(text, "whole number")};
+        return value;
+    case VT_UI2:
+        value.data = uint64_t{Whole<uint16_t>(text, "whole number of 16 bits from 0 on")};
+        return value;
+    case VT_UI4:
+    case VT_UINT:
+        value.data = uint64_t{Whole<uint32_t>(text, "whole number from 0 on")};
+        return value;
+    case VT_R4:
+    case VT_R8:
+        value.data = Real(text);
+        return value;
+    case VT_BOOL:
+        value.data = Truth(text);
+        return value;
+    case VT_FILETIME:
+        if (SameName(text, "now")) {
+            value.data = Now();
+            return value;
+        }
+        return Formatted(type, text, "date (2001-02-03 or 2001-02-03T04:05:06Z)");
+    case VT_DATE:
+        return Formatted(type, text, "date (2001-02-03 or 2001-02-03 04:05:06)");
+    case VT_I8:
+        return Formatted(type, text, "whole number");
+    case VT_CY:
+        return Formatted(type, text, "amount of money");
+    case VT_CLSID:
+        return Formatted(type, text, "class ID");
+    default:
+        throw Failure("values of type " + orlo::TypeName(type) + " can't be typed");
+    }
+}
+
+orlo::Value ParseSpan(const std::string& text) {
+    constexpr const char* kKind = "span of time (h:mm or h:mm:ss)";
+    std::array<uint64_t, 3> parts = {};
+    size_t count = 0, begin = 0;
+    while (begin <= text.size()) {
+        if (count == parts.size()) Refuse(text, kKind);
+        const size_t end = std::min(text.find(':', begin), text.size());
+        parts[count++] = Whole<uint32_t>(text.substr(begin, end - begin), kKind);
+        begin = end + 1;
+    }
+    if (count < 2 || parts[1] > 59 || parts[2] > 59) Refuse(text, kKind);
+    orlo::Value value;
+    value.type = VT_FILETIME;
+    value.data = ((parts[0] * 60 + parts[1]) * 60 + parts[2]) * 10000000;
+    return value;
+}
+
+orlo::Value ParseTyped(std::string_view typed) {
+    const size_t colon = typed.find(':');
+    if (colon == std::string_view::npos)
+        throw Failure("'" + std::string(typed) + "' needs a type, as in text:" + std::string(typed));
+    const std::string_view word = typed.substr(0, colon);
+    for (const TypeWord& known : kTypeWords)
+        if (SameName(known.word, word)) return ParseValue(known.type, std::string(typed.substr(colon + 1)));
+    throw Failure("'" + std::string(word) + "' is no type; types are " + TypeNames());
+}
+
+std::string TypeNames() {
+    std::string names;
+    for (const TypeWord& known : kTypeWords)
+        names += (names.empty() ? "" : ", ") + std::string(known.word);
+    return names;
+}
+
+} // namespace suminfo
