@@ -1,26 +1,23 @@
 // demo.exe: where it starts, and what its command line means.
 
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
 #include <fcntl.h>
 #include <io.h>
 #include <iostream>
 #include <string>
 #include <vector>
 
-#include <windows.h>
+#include "demo/demo_app.h"
+#include "demo/file_name.h"
+#include "demo/list_drawings.h"
 
 #include <shellapi.h>
 
-#include "demo/list_drawings.h"
-
 namespace {
 
-std::string Utf8(const wchar_t* text) {
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    std::string utf8(static_cast<size_t>(size), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
-    utf8.resize(static_cast<size_t>(size) - 1); // without the NUL
-    return utf8;
-}
+constexpr int kWrongUsage = 2;
 
 // Without the program's own name. The 8-bit command line would lose file names of other scripts.
 std::vector<std::string> Arguments() {
@@ -42,10 +39,27 @@ void UseCallersConsole() {
 
 } // namespace
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, char*, int) {
-    std::vector<std::string> arguments = Arguments();
-    if (arguments.size() < 2 || arguments[0] != "--list") return 2;
-    arguments.erase(arguments.begin());
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int show) {
     UseCallersConsole();
-    return ListDrawings(arguments, std::cout) ? 0 : 1;
+    CLI::App usage{"A small drawing viewer that shows Orlo's property sheets.", "demo"};
+    DemoOptions options;
+    std::vector<std::string> listed;
+    usage.add_option("drawing", options.drawing, "DXF drawing to open");
+    usage
+        .add_option("--tour", options.tourFolder,
+                    "play a tour over the drawing, with pictures in this folder")
+        ->type_name("FOLDER");
+    usage.add_option("--list", listed, "print what the drawings hold, as JSON, and open no window")
+        ->type_name("FILE...");
+    try {
+        std::vector<std::string> arguments = Arguments();
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        usage.parse(arguments);
+    } catch (const CLI::ParseError& error) {
+        return usage.exit(error) ? kWrongUsage : 0;
+    }
+    if (!listed.empty()) return ListDrawings(listed, std::cout) ? 0 : 1;
+
+    CDemoApp app(options);
+    return AfxWinMain(instance, before, commandLine, show);
 }

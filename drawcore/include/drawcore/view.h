@@ -35,3 +35,7 @@ DRAWCORE_API GraphicStruct* ViewportPick(ViewportStruct*, GraphicStruct* set, PO
 // added.
 DRAWCORE_API int ViewportPickWindow(ViewportStruct*, GraphicStruct* set, const RECT* device, int crossing,
                                     uint32_t filter, GraphicStruct* selection);
+
+// The box of a graphic (GraphicGetExtentsSel) in drawing units: left, bottom, right, top. 0, with nothing written, if it is
+// empty.
+DRAWCORE_API int ExtentsGetBox(const ExtentsStruct*, double box[4]);

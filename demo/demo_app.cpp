@@ -1,0 +1,48 @@
+// The demo's application object.
+
+#include "demo/demo_app.h"
+
+#include "demo/main_frame.h"
+#include "demo/tour.h"
+#include "drawcore/application.h"
+#include "drawcore/table.h"
+#include "orlo/frame/entry.h"
+#include "orlo/host/application.h"
+
+IMPLEMENT_DYNAMIC(CDemoApp, CWinApp)
+
+CDemoApp::CDemoApp(const DemoOptions& options) : CWinApp("Orlo Demo"), m_options(options) {}
+
+CDemoApp::~CDemoApp() = default;
+
+std::string ProgramFolder() {
+    char path[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, path, sizeof path);
+    const std::string program(path);
+    return program.substr(0, program.find_last_of('\\') + 1);
+}
+
+BOOL CDemoApp::InitInstance() {
+    ::PropPageInit();
+    ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
+    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, CDrawingView::kBackground);
+
+    auto* frame = new CMainFrame;
+    if (!frame->Create()) return FALSE;
+    m_pMainWnd = frame;
+    frame->ShowWindow(m_nCmdShow);
+    frame->UpdateWindow();
+    if (m_options.tourFolder.empty() && !m_options.drawing.empty()) frame->Open(m_options.drawing);
+    return TRUE;
+}
+
+int CDemoApp::Run() {
+    if (m_options.tourFolder.empty()) return CWinApp::Run();
+    const bool played = Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing);
+    Frame()->DestroyWindow();
+    return ExitInstance() != 0 || !played;
+}
+
+CMainFrame* CDemoApp::Frame() const {
+    return static_cast<CMainFrame*>(m_pMainWnd);
+}

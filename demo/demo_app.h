@@ -1,0 +1,31 @@
+// The demo's application object: one main window, opened on the drawing that it is given.
+#pragma once
+
+#include <afxwin.h>
+
+#include <string>
+
+class CMainFrame;
+
+struct DemoOptions {
+    std::string drawing;    // empty: none
+    std::string tourFolder; // empty: no tour
+};
+
+class CDemoApp : public CWinApp {
+    DECLARE_DYNAMIC(CDemoApp)
+public:
+    explicit CDemoApp(const DemoOptions& options);
+    ~CDemoApp() override;
+
+    BOOL InitInstance() override;
+    int Run() override;
+
+private:
+    CMainFrame* Frame() const;
+
+    DemoOptions m_options;
+};
+
+// The folder that the program lies in, with a backslash at its end.
+std::string ProgramFolder();

@@ -1,0 +1,106 @@
+// A drawing that the viewer has open.
+
+#include "demo/document.h"
+
+#include <algorithm>
+
+#include <oleauto.h>
+
+#include "demo/file_name.h"
+#include "drawcore/application.h"
+#include "drawcore/drawing.h"
+#include "drawcore/dxf.h"
+#include "drawcore/layer.h"
+#include "drawcore/undo.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/viewport.h"
+
+namespace {
+
+uint16_t LayerOf(GraphicStruct* graphic) {
+    const PropertyTable* table = ::GraphicGetVtbl(graphic);
+    const char* name = "Layer";
+    int32_t number = 0;
+    uint16_t layer = 0;
+    if (table && table->PropLookup(graphic, &name, 1, 0, &number))
+        table->PropGet(graphic, number, VT_UI2, &layer);
+    return layer;
+}
+
+bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
+    const uint16_t layer = LayerOf(graphic);
+    return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
+}
+
+void ShowProgress(void* context, int permille) {
+    (*static_cast<Document::Progress*>(context))(permille);
+}
+
+} // namespace
+
+std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
+    char message[512] = "";
+    Progress heard = progress;
+    const DxfListener listener = {&heard, ShowProgress, nullptr};
+    DrawingStruct* drawing = ::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message);
+    if (!drawing) throw OpenError(path + "\n\n" + message);
+    ::AppSetCurrentDrawing(drawing);
+    return std::unique_ptr<Document>(new Document(path, drawing));
+}
+
+Document::Document(const std::string& path, DrawingStruct* drawing)
+    : m_path(path), m_drawing(drawing), m_root(::DrawingGetRoot(drawing)) {}
+
+Document::~Document() {
+    m_selection.Clear(); // before its members go
+    ::DrawingDispose(&m_drawing);
+}
+
+std::string Document::Name() const {
+    return m_path.substr(m_path.find_last_of("\\/") + 1);
+}
+
+std::vector<GraphicStruct*> Document::Selectable() const {
+    std::vector<GraphicStruct*> graphics;
+    uint32_t position = 0;
+    for (GraphicStruct* g = ::GraphicFirst(m_root, &position, 1, 0xFFFFFFFF); g;
+         g = ::GraphicNext(m_root, &position, 1, 0xFFFFFFFF)) {
+        if (IsSelectable(m_drawing, g)) graphics.push_back(g);
+    }
+    return graphics;
+}
+
+GraphicStruct* Document::Next(bool forward) const {
+    const std::vector<GraphicStruct*> all = Selectable();
+    if (all.empty()) return nullptr;
+    const std::vector<GraphicStruct*> selected = m_selection.Members();
+    const auto last = selected.empty() ? all.end() : std::find(all.begin(), all.end(), selected.back());
+    if (last == all.end()) return forward ? all.front() : all.back();
+    const size_t place = static_cast<size_t>(last - all.begin());
+    return all[(place + (forward ? 1 : all.size() - 1)) % all.size()];
+}
+
+std::string Document::LengthText(double length) const {
+    char text[64] = "";
+    ::DrawingStdNumericToText(m_drawing, length, text, sizeof text, 0);
+    return text;
+}
+
+int Document::Change(const std::function<void()>& change) {
+    ::DrawingBeginUndo(m_drawing);
+    try {
+        change();
+    } catch (...) {
+        ::DrawingEndUndo(m_drawing);
+        throw;
+    }
+    return ::DrawingEndUndo(m_drawing);
+}
+
+int Document::UndoSteps() const {
+    return ::DrawingCountUndo(m_drawing);
+}
+
+int Document::Undo() {
+    return ::DrawingUndo(m_drawing);
+}

@@ -1,0 +1,60 @@
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, and undo.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "demo/selection.h"
+#include "orlo/host/drawing.h"
+
+// what(): the file's name and what is wrong with it, with the line where it can be told. UTF-8.
+class OpenError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+class Document {
+public:
+    using Progress = std::function<void(int permille)>;
+
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError; the drawing that was current
+    // then still is.
+    static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
+    ~Document();
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+
+    const std::string& Path() const { return m_path; }
+    std::string Name() const; // the path without its folders
+
+    DrawingStruct* Drawing() const { return m_drawing; }
+    GraphicStruct* Root() const { return m_root; }
+    Selection& Selected() { return m_selection; }
+    std::optional<WorldBox> Extents() const { return ExtentsOf(m_root); }
+
+    // In the order of drawing: those that are seen and can be selected.
+    std::vector<GraphicStruct*> Selectable() const;
+    // The next one after the last of the selection, round and round; null if nothing can be selected.
+    GraphicStruct* Next(bool forward) const;
+
+    // A length as the drawing's units write it.
+    std::string LengthText(double length) const;
+
+    // Runs a change as one step that Undo takes back. The number of graphics that it changed.
+    int Change(const std::function<void()>& change);
+    int UndoSteps() const;
+    // The number of graphics that are as before again.
+    int Undo();
+
+private:
+    Document(const std::string& path, DrawingStruct* drawing);
+
+    std::string m_path;
+    DrawingStruct* m_drawing;
+    GraphicStruct* m_root;
+    Selection m_selection;
+};

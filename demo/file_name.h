@@ -1,0 +1,11 @@
+// File names: UTF-8 within the demo, UTF-16 for the system, the system's 8-bit code page for windows and their texts.
+#pragma once
+
+#include <string>
+
+std::string Utf8(const wchar_t* text);
+std::wstring Wide(const std::string& utf8);
+
+std::string Utf8FromSystem(const char* text);
+// Characters that the code page lacks become question marks.
+std::string SystemText(const std::string& utf8);

@@ -1,0 +1,11 @@
+// Finds a part of a drawing that is worth a look: a window with several graphics inside that differ in their looks.
+#pragma once
+
+#include <optional>
+
+#include "demo/world.h"
+
+class Document;
+
+// Nothing if the drawing has no two selectable graphics with a pen.
+std::optional<WorldBox> FindMixedWindow(const Document& document);

@@ -1,0 +1,32 @@
+// What graphics have as their properties, as texts in the host's own reading, and what changed between two moments.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "orlo/host/records.h"
+
+// So many graphics went from one value to another.
+struct PropertyChange {
+    std::string property;
+    std::string from;
+    std::string to;
+    int graphics;
+};
+
+class PropertySnapshot {
+public:
+    PropertySnapshot(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics);
+
+    // The snapshots are of the same graphics. In the order of the properties' names, most graphics first.
+    std::vector<PropertyChange> ChangesTo(const PropertySnapshot& later) const;
+
+    // How many of the graphics have each value of a property.
+    std::map<std::string, int> Values(const std::string& property) const;
+    bool operator==(const PropertySnapshot& other) const { return m_values == other.m_values; }
+
+private:
+    using Values_ = std::map<std::string, std::string>; // property to value
+    std::vector<Values_> m_values;                      // of each graphic
+};

@@ -1,0 +1,20 @@
+// Identifiers of the demo's menu, keys and texts, for C++ and the resource script alike.
+#pragma once
+
+#define IDR_MAINFRAME 128
+#define IDC_VIEW 129
+#define IDC_STATUS 130
+
+#define ID_FILE_OPEN 0xE101
+#define ID_APP_EXIT 0xE141
+#define ID_EDIT_UNDO 0xE12B
+#define ID_EDIT_SELECT_ALL 0xE12A
+#define ID_EDIT_SELECT_NEXT 201
+#define ID_EDIT_SELECT_PREVIOUS 202
+#define ID_EDIT_SELECT_NONE 203
+#define ID_EDIT_PROPERTIES 204
+#define ID_VIEW_ZOOM_IN 210
+#define ID_VIEW_ZOOM_OUT 211
+#define ID_VIEW_FIT_ALL 212
+#define ID_VIEW_FIT_SELECTION 213
+#define ID_HELP_KEYS 220

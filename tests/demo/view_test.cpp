@@ -1,0 +1,107 @@
+// Selecting with mouse and keys, and painting no more than needed without leaving anything behind.
+
+#include "demo/viewer.h"
+
+namespace {
+
+struct WindowCase {
+    const char* name;
+    WorldPoint from, to;
+    int selected;
+};
+
+const WindowCase kWindows[] = {
+    {"InsideTakesWholeOnes", {2, 2}, {20, 38}, 2},
+    {"InsideLeavesCrossedOnes", {2, 2}, {30, 38}, 2},
+    {"CrossingTakesCrossedOnes", {30, 38}, {2, 2}, 4},
+    {"InsideOfNothing", {18, 18}, {22, 22}, 0},
+    {"AcrossALine", {32, 8}, {28, 12}, 1},
+};
+
+class SelectByWindow : public Viewer, public ::testing::WithParamInterface<WindowCase> {};
+
+TEST_P(SelectByWindow, Selects) {
+    Drag(GetParam().from, GetParam().to);
+    EXPECT_EQ(GetParam().selected, selection().Count());
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawn, SelectByWindow, ::testing::ValuesIn(kWindows),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(Viewer, ClicksSelectAddAndTakeAway) {
+    const CPoint red = Pixel(10, 5), green = Pixel(10, 35), nothing = Pixel(20, 20);
+    user.Click(view(), red);
+    EXPECT_EQ(1, selection().Count());
+    user.Click(view(), green);
+    EXPECT_EQ(1, selection().Count());
+    user.Click(view(), red, UserInput::kShift);
+    EXPECT_EQ(2, selection().Count());
+    user.Click(view(), red, UserInput::kShift); // adds only
+    EXPECT_EQ(2, selection().Count());
+    user.Click(view(), red, UserInput::kControl);
+    EXPECT_EQ(1, selection().Count());
+    user.Click(view(), nothing, UserInput::kControl); // misses take nothing away
+    EXPECT_EQ(1, selection().Count());
+    user.Click(view(), nothing);
+    EXPECT_EQ(0, selection().Count());
+}
+
+TEST_F(Viewer, WindowWithControlTogglesWhatIsInside) {
+    user.Click(view(), Pixel(10, 5));
+    Drag({2, 2}, {20, 38}, UserInput::kControl);
+    ASSERT_EQ(1, selection().Count());
+    EXPECT_FALSE(selection().Contains(document().Selectable()[0]));
+    EXPECT_TRUE(selection().Contains(document().Selectable()[1]));
+}
+
+TEST_F(Viewer, TabWalksRoundBothWays) {
+    const std::vector<GraphicStruct*> all = document().Selectable();
+    ASSERT_EQ(4u, all.size());
+    for (const size_t place : {0, 1, 2, 3, 0}) {
+        user.Key(VK_TAB);
+        EXPECT_EQ(std::vector<GraphicStruct*>{all[place]}, selection().Members());
+    }
+    user.Key(VK_TAB, UserInput::kShift);
+    EXPECT_EQ(std::vector<GraphicStruct*>{all[3]}, selection().Members());
+    user.Key(VK_ESCAPE);
+    EXPECT_EQ(0, selection().Count());
+}
+
+TEST_F(Viewer, TabBringsWhatItSelectsIntoSight) {
+    user.Wheel(view(), Pixel(35, 40), 8);
+    user.Key(VK_TAB); // the red line, far away by now
+    EXPECT_TRUE(frame->View().GetCamera().Visible().Contains(WorldBox{9, 4, 11, 6}));
+}
+
+TEST_F(Viewer, DeselectingLeavesNothingBehind) {
+    const std::vector<uint32_t> before = Seen();
+    user.Key('A', UserInput::kControl);
+    EXPECT_NE(before, Seen());
+    user.Key(VK_ESCAPE);
+    EXPECT_EQ(before, Seen());
+}
+
+TEST_F(Viewer, RubberBandLeavesNothingBehind) {
+    const std::vector<uint32_t> before = Seen();
+    user.Press(view(), Pixel(18, 18));
+    user.MoveTo(view(), Pixel(38, 2));
+    EXPECT_NE(before, Seen());
+    user.MoveTo(view(), Pixel(19, 21));
+    user.Release(view(), Pixel(19, 21));
+    EXPECT_EQ(before, Seen());
+}
+
+// Moving keeps what is there and draws only what comes in at the edges.
+TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
+    user.Key('A', UserInput::kControl);
+    user.Wheel(view(), Pixel(20, 20), 3);
+    for (const UINT key : {VK_LEFT, VK_UP, VK_UP, VK_RIGHT, VK_RIGHT, VK_DOWN}) {
+        user.Key(key);
+        user.PanDrag(view(), CPoint(300, 300), CPoint(287, 322));
+        const std::vector<uint32_t> moved = Seen();
+        frame->View().Redraw();
+        EXPECT_EQ(Seen(), moved) << "after key " << key;
+    }
+}
+
+} // namespace

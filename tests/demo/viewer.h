@@ -1,0 +1,36 @@
+// The demo's main window with a small drawing open, and a user in front of it.
+//
+//   40 units wide and high: a red line, a green line, a yellow line, a text
+//
+//     green (5,35)-(15,35)      text at (25,30)
+//     red   (5,5)-(15,5)        yellow (25,5)-(35,15)
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "demo/main_frame.h"
+#include "demo/property_snapshot.h"
+#include "demo/user_input.h"
+
+class Viewer : public ::testing::Test {
+protected:
+    Viewer();
+    ~Viewer() override;
+
+    Document& document() { return *frame->GetDocument(); }
+    Selection& selection() { return document().Selected(); }
+    HWND view() { return frame->View().m_hWnd; }
+    CPoint Pixel(double x, double y) { return frame->View().GetCamera().ToPixels(WorldPoint{x, y}); }
+    PropertySnapshot Properties() { return {document().Drawing(), document().Selectable()}; }
+
+    void Drag(WorldPoint from, WorldPoint to, unsigned modifiers = UserInput::kNone);
+    // What the view shows, pixel by pixel.
+    std::vector<uint32_t> Seen();
+
+    CMainFrame* frame; // goes with its window
+    UserInput user{0};
+};
