@@ -1,9 +1,10 @@
-// The smallest host there is: opens the drawing that is named on its command line, selects everything in it and shows the
-// properties. The program's main window answers the library's controls, which ask for the tables that they show.
+// The smallest host there is: opens the drawing that is named on its command line and shows the properties of all that is
+// in it. Its main window answers the library's controls, which ask for the tables that they show.
 
 #include <afxwin.h>
 #include <drawcore/application.h>
 #include <drawcore/drawing.h>
+#include <drawcore/dxf.h>
 #include <orlo.h>
 
 class CHostFrame : public CFrameWnd {
@@ -16,24 +17,21 @@ class CHostFrame : public CFrameWnd {
     }
 };
 
-class CHostApp : public CWinApp {
-    BOOL InitInstance() override {
-        PropPageInit();
-        m_pMainWnd = new CHostFrame;
-        m_pMainWnd->Create(nullptr, "Host", WS_OVERLAPPEDWINDOW, CRect(), nullptr, 0);
-
-        DrawingStruct* drawing = DrawingOpenDxf(m_lpCmdLine, nullptr, nullptr, nullptr);
-        AppSetCurrentDrawing(drawing);
-        GraphicStruct* all = DrawingGetRoot(drawing);
-        CGraphicPropertySheet* sheet =
-            InitGraphicPropertySheet(m_pMainWnd, nullptr, drawing, all, 0xFFFFFFFF);
-        uint32_t place;
-        for (GraphicStruct* g = GraphicFirst(all, &place, 1, 0xFFFFFFFF); g;
-             g = GraphicNext(all, &place, 1, 0xFFFFFFFF))
-            AddGraphicPropertyPage(nullptr, g, sheet);
-        sheet->DoModal();
-        delete sheet; // with its pages and previews; the drawing stays the host's
-        DrawingDispose(&drawing);
-        return FALSE; // nothing more to do
-    }
-} application;
+int wmain(int, wchar_t** argv) {
+    CWinApp application("Host");
+    application.m_pMainWnd = new CHostFrame; // goes with its window
+    application.m_pMainWnd->Create(nullptr, "Host", WS_OVERLAPPEDWINDOW, CRect(0, 0, 100, 100), nullptr, 0);
+    PropPageInit();
+    DrawingStruct* drawing = DrawingOpenDxf(argv[1], nullptr, nullptr, 0);
+    AppSetCurrentDrawing(drawing);
+    GraphicStruct* all = DrawingGetRoot(drawing);
+    CGraphicPropertySheet* sheet = InitGraphicPropertySheet(application.m_pMainWnd, nullptr, drawing, all, 0xFFFFFFFF);
+    uint32_t place;
+    for (GraphicStruct* g = GraphicFirst(all, &place, 1, 0xFFFFFFFF); g; g = GraphicNext(all, &place, 1, 0xFFFFFFFF))
+        AddGraphicPropertyPage(nullptr, g, sheet);
+    const int code = sheet->DoModal(); // 1: OK, and the drawing has changed
+    delete sheet;                      // with its pages and previews; the drawing stays the host's
+    application.m_pMainWnd->DestroyWindow();
+    DrawingDispose(&drawing);
+    return code == IDOK ? 0 : 1;
+}

@@ -42,7 +42,7 @@ constexpr Row kEditEnds[] = {
 };
 
 template <size_t N>
-bool Contains(const Row (&rows)[N], const ControlNotification& notification) {
+bool Contains(const Row (&rows)[N], const PageNotification& notification) {
     return std::any_of(std::begin(rows), std::end(rows), [&](const Row& row) {
         return row.code == notification.code && ::lstrcmpiA(row.className, notification.className) == 0;
     });
@@ -55,13 +55,13 @@ bool IsRadioButton(HWND control, const char* className) {
 
 } // namespace
 
-ControlNotification::ControlNotification(HWND control, unsigned int notificationCode) : code(notificationCode) {
+PageNotification::PageNotification(HWND control, unsigned int notificationCode) : code(notificationCode) {
     if (::GetClassNameA(control, className, sizeof className) == 0) className[0] = '\0';
 }
 
-bool ControlNotification::IsChange() const { return Contains(kChanges, *this); }
+bool PageNotification::IsChange() const { return Contains(kChanges, *this); }
 
-bool ControlNotification::IsEditEnd() const { return Contains(kEditEnds, *this); }
+bool PageNotification::IsEditEnd() const { return Contains(kEditEnds, *this); }
 
 unsigned int ChangedControlId(HWND control, unsigned int nID, const char* className) {
     if (!IsRadioButton(control, className)) return nID;

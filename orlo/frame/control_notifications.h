@@ -4,11 +4,11 @@
 #include <windows.h>
 
 // Class and code of a notification.
-struct ControlNotification {
+struct PageNotification {
     char className[100];
     unsigned int code;
 
-    ControlNotification(HWND control, unsigned int notificationCode);
+    PageNotification(HWND control, unsigned int notificationCode);
 
     bool IsChange() const;
     bool IsEditEnd() const;

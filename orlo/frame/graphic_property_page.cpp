@@ -196,7 +196,7 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 // Marks the control if the notification changes it. The first change of a page never gives the bit of an edit's end.
 unsigned long CGraphicPropertyPage::ChangeFlags(unsigned int nID, unsigned int code, HWND control) {
-    const ControlNotification notification(control, code);
+    const PageNotification notification(control, code);
     unsigned long flags = 0;
     if (notification.IsChange()) {
         nID = ChangedControlId(control, nID, notification.className);
