@@ -226,6 +226,9 @@ protected:
     void CloseModal(int nResult);
     bool IsModal() const; // and not ended
 
+    // Where CenterWindow puts a window of that size; screen coordinates.
+    CPoint GetCenteredPlace(CSize size, const CWnd* pAlternateOwner = nullptr) const;
+
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -47,7 +47,8 @@ bool CPropertySheet::CreateButtons() {
 
 bool CPropertySheet::CreateTabRow() {
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
-    const CRect nowhere(0, 0, 100, 10);
+    // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
+    const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
     if (!m_tabRow.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows, nowhere,
                          this, AFX_IDC_TAB_CONTROL)) {
         return false;
@@ -99,8 +100,8 @@ void CPropertySheet::LayOut() {
 
     CRect window(0, 0, width, height);
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
-    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), flags | SWP_NOMOVE);
-    CenterWindow();
+    const CPoint place = GetCenteredPlace(window.Size());
+    SetWindowPos(nullptr, place.x, place.y, window.Width(), window.Height(), flags);
 }
 
 void CPropertySheet::OnPaint() {
@@ -108,5 +109,12 @@ void CPropertySheet::OnPaint() {
     CRect frame = ActivePlace();
     if (frame.IsRectEmpty()) return;
     frame.InflateRect(1, 1);
+    if (m_tabRow.m_hWnd !=
+        nullptr) { // as wide as the tabs above, where the buttons below need more than the page
+        CRect tabs;
+        m_tabRow.GetWindowRect(&tabs);
+        ScreenToClient(&tabs);
+        frame.right = tabs.right;
+    }
     ::DrawEdge(dc.m_hDC, frame, EDGE_RAISED, BF_LEFT | BF_RIGHT | BF_BOTTOM | BF_SOFT);
 }

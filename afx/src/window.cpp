@@ -262,23 +262,26 @@ void CWnd::ScreenToClient(LPRECT lpRect) const {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
-void CWnd::CenterWindow(CWnd* pAlternateOwner) {
+CPoint CWnd::GetCenteredPlace(CSize size, const CWnd* pAlternateOwner) const {
     HWND owner = pAlternateOwner != nullptr ? pAlternateOwner->m_hWnd : ::GetParent(m_hWnd);
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoA(::MonitorFromWindow(owner != nullptr ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY),
                       &monitor);
-    CRect around = monitor.rcWork;
+    const CRect work = monitor.rcWork;
+    CRect around = work;
     if (owner != nullptr && ::IsWindowVisible(owner) && !::IsIconic(owner)) ::GetWindowRect(owner, around);
 
+    const CPoint place = around.CenterPoint() - CSize(size.cx / 2, size.cy / 2);
+    const CPoint last = work.BottomRight() - size;
+    return CPoint(std::max<int>(work.left, std::min(place.x, last.x)),
+                  std::max<int>(work.top, std::min(place.y, last.y)));
+}
+
+void CWnd::CenterWindow(CWnd* pAlternateOwner) {
     CRect own;
     GetWindowRect(own);
-    const CRect& work = monitor.rcWork;
-    const int x = around.CenterPoint().x - own.Width() / 2;
-    const int y = around.CenterPoint().y - own.Height() / 2;
-    const int right = work.right - own.Width();
-    const int bottom = work.bottom - own.Height();
-    CPoint place(std::max<int>(work.left, std::min(x, right)), std::max<int>(work.top, std::min(y, bottom)));
+    CPoint place = GetCenteredPlace(own.Size(), pAlternateOwner);
     if ((GetStyle() & WS_CHILD) != 0) ::ScreenToClient(::GetParent(m_hWnd), &place);
     ::SetWindowPos(m_hWnd, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
