@@ -293,6 +293,12 @@ TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
                    "block 'missing' is not shown here: there is no such block\n");
 }
 
+TEST(References, OtherFilesAreNamed) {
+    const Document document = Read(Drawing("", "0|BLOCK|2|site|70|4|1|site.dwg|0|ENDBLK"), {});
+    ASSERT_EQ(document.findings.size(), 1u);
+    EXPECT_EQ(document.findings[0].text, "block 'site' is in another file, which is not opened");
+}
+
 TEST(References, LongChainsAndManyPartsAreCut) {
     std::string chain = "0|BLOCK|2|0|0|LINE|0|ENDBLK";
     for (int i = 1; i < 20000; ++i)

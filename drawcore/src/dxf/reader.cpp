@@ -121,6 +121,9 @@ private:
         if (in_.TakeUnsound())
             in_.Report(line, "the base point of block " + Quoted(name) +
                                  " has no place in a drawing; the origin is taken");
+        constexpr int kExternal = 4;
+        if (head.flags & kExternal)
+            in_.Report(line, "block " + Quoted(name) + " is in another file, which is not opened");
         std::vector<Entity> entities;
         while (!tag_.Is(0, "ENDBLK")) {
             if (tag_.Is(0, "BLOCK") || AtSectionEnd())
