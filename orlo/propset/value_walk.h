@@ -43,8 +43,8 @@ inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeFor
         if (count == nullptr || counted > cursor.left) return std::nullopt;
         size = static_cast<size_t>(counted);
     }
-    const uint8_t* bytes = cursor.Take(size);
-    if (bytes == nullptr) return std::nullopt;
+    if (size > cursor.left) return std::nullopt;
+    const uint8_t* bytes = cursor.Take(size); // null where there are none at all
     return std::string_view(reinterpret_cast<const char*>(bytes), size);
 }
 

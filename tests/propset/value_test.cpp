@@ -1,0 +1,263 @@
+// Values in plain terms: what their bytes mean, and the bytes of a meaning; names of types and class IDs; code pages.
+
+#include "orlo/propset/value.h"
+
+#include <gtest/gtest.h>
+
+#include "orlo/propset/code_page.h"
+#include "tests/propset/bytes.h"
+#include "tests/propset/corpus.h"
+
+namespace {
+
+using nlohmann::json;
+
+struct Row {
+    const char* name;
+    uint32_t type;
+    uint16_t codePage;
+    Bytes bytes;
+    json meaning; // in the form of the corpus; null: it has none
+};
+
+class ValueForm : public ::testing::TestWithParam<Row> {};
+
+TEST_P(ValueForm, MeansWhatItSaysAndIsWrittenTheSame) {
+    const Row& row = GetParam();
+    orlo::Value value;
+    ASSERT_TRUE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value));
+    EXPECT_EQ(value.type, row.type);
+    EXPECT_EQ(ToJson(value), row.meaning);
+    EXPECT_EQ(orlo::EncodeValue(value, row.codePage), row.bytes);
+}
+
+TEST_P(ValueForm, IsRefusedWhereAByteIsMissing) {
+    const Row& row = GetParam();
+    for (size_t size = 0; size < row.bytes.size(); ++size) {
+        const Bytes cut(row.bytes.begin(),
+                        row.bytes.begin() + static_cast<ptrdiff_t>(size)); // its end is guarded
+        orlo::Value value;
+        EXPECT_FALSE(orlo::DecodeValue(row.type, cut.data(), cut.size(), row.codePage, value)) << size;
+    }
+}
+
+const Row kRows[] = {
+    {"Empty", VT_EMPTY, 1252, {}, nullptr},
+    {"Null", VT_NULL, 1252, {}, nullptr},
+    {"I1", VT_I1, 1252, "fe"_hex, -2},
+    {"UI1", VT_UI1, 1252, "fe"_hex, 254},
+    {"I2", VT_I2, 1252, "feff"_hex, -2},
+    {"UI2", VT_UI2, 1252, "feff"_hex, 65534},
+    {"I4", VT_I4, 1252, "00000080"_hex, INT32_MIN},
+    {"UI4", VT_UI4, 1252, "00000080"_hex, 2147483648u},
+    {"Int", VT_INT, 1252, "ffffffff"_hex, -1},
+    {"UInt", VT_UINT, 1252, "ffffffff"_hex, 4294967295u},
+    {"Error", VT_ERROR, 1252, "05400080"_hex, -2147467259},
+    {"I8", VT_I8, 1252, "0000000000000080"_hex, "-9223372036854775808"},
+    {"UI8", VT_UI8, 1252, "ffffffffffffffff"_hex, "18446744073709551615"},
+    {"Money", VT_CY, 1252, "b817feffffffffff"_hex, "-125000"},
+    {"FileTime", VT_FILETIME, 1252, "00803ed5deb19d01"_hex, "116444736000000000"},
+    {"R4", VT_R4, 1252, "0000c03f"_hex, 1.5},
+    {"R8", VT_R8, 1252, "000000000000f8bf"_hex, -1.5},
+    {"Date", VT_DATE, 1252, "0000000000000040"_hex, 2.0},
+    {"True", VT_BOOL, 1252, "ffff0000"_hex, true},
+    {"False", VT_BOOL, 1252, "00000000"_hex, false},
+    {"Text", VT_LPSTR, 1252,
+     "05000000"
+     "636166e900"_hex,
+     "café"},
+    {"TextOfTwoByteCharacters", VT_LPSTR, 932,
+     "05000000"
+     "93fa967b00"_hex,
+     "日本"},
+    {"TextInUtf8", VT_LPSTR, 65001,
+     "03000000"
+     "c3a900"_hex,
+     "é"},
+    {"TextInUtf16", VT_LPSTR, 1200,
+     "08000000"
+     "6100e9003a040000"_hex,
+     "aéк"},
+    {"WideTextWhateverTheCodePage", VT_LPWSTR, 1252,
+     "04000000"
+     "6100e9003a040000"_hex,
+     "aéк"},
+    {"BeyondTheBasicPlane", VT_LPWSTR, 1252,
+     "03000000"
+     "3dd800de0000"_hex,
+     "😀"},
+    {"EmptyText", VT_LPSTR, 1252,
+     "01000000"
+     "00"_hex,
+     ""},
+    {"Blob",
+     VT_BLOB,
+     1252,
+     "03000000"
+     "616263"_hex,
+     {{"length", 3}, {"sha256", "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad"}}},
+    {"Decimal",
+     VT_DECIMAL,
+     1252,
+     "000102030405060708090a0b0c0d0e0f"_hex,
+     {{"length", 16}, {"sha256", "be45cb2605bf36bebde684841a28f0fd43c69850a3dce5fedba69928ee3a8991"}}},
+    {"Clipboard",
+     VT_CF,
+     1252,
+     "0a000000"
+     "ffffffff"
+     "03000000"
+     "6162"_hex,
+     {{"tag", -1},
+      {"format", 3},
+      {"length", 6},
+      {"sha256", "1d17e3e34f51339ed5598e35e61496b7d44db7762b1bdfe5c41de149786458fe"}}},
+    {"ClassId", VT_CLSID, 1252, "e0859ff2f94f6810ab9108002b27b3d9"_hex,
+     "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"},
+    {"VectorOfI2",
+     VT_VECTOR | VT_I2,
+     1252,
+     "02000000"
+     "01000200"_hex,
+     {1, 2}},
+    {"VectorOfTexts",
+     VT_VECTOR | VT_LPSTR,
+     1252,
+     "02000000"
+     "020000006100"
+     "03000000626300"_hex,
+     {"a", "bc"}},
+    {"VectorOfVariants",
+     VT_VECTOR | VT_VARIANT,
+     1252,
+     "02000000"
+     "1e000000"
+     "020000006100"
+     "03000000"
+     "07000000"_hex,
+     {{{"vt", 30}, {"value", "a"}}, {{"vt", 3}, {"value", 7}}}},
+    {"VectorOfNothing", VT_VECTOR | VT_R8, 1252, "00000000"_hex, json::array()},
+};
+INSTANTIATE_TEST_SUITE_P(Types, ValueForm, ::testing::ValuesIn(kRows),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(Value, ReadsWhatItWouldNotWrite) {
+    const struct {
+        uint32_t type;
+        Bytes bytes;
+        json meaning;
+    } rows[] = {
+        {VT_BOOL, "01000000"_hex, true},
+        {VT_BOOL, "0000ffff"_hex, true},
+        {VT_LPSTR,
+         "08000000"
+         "6162000000000000"_hex,
+         "ab"},
+        {VT_LPSTR,
+         "02000000"
+         "6162"_hex,
+         "ab"},
+        {VT_LPSTR, "00000000"_hex, ""},
+        {VT_LPWSTR, "00000000"_hex, ""},
+        {VT_CF,
+         "04000000"
+         "00000000"_hex,
+         {{"tag", 0},
+          {"length", 0},
+          {"sha256", "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"}}},
+        // Elements padded to four bytes each, as few writers do.
+        {VT_VECTOR | VT_LPSTR,
+         "03000000"
+         "0200000061000000"
+         "0300000062630000"
+         "020000006400"_hex,
+         {"a", "bc", "d"}},
+        {VT_VECTOR | VT_VARIANT,
+         "02000000"
+         "1e000000"
+         "0200000061000000"
+         "03000000"
+         "07000000"_hex,
+         {{{"vt", 30}, {"value", "a"}}, {{"vt", 3}, {"value", 7}}}},
+    };
+    for (const auto& row : rows) {
+        orlo::Value value;
+        ASSERT_TRUE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), 1252, value))
+            << row.meaning;
+        EXPECT_EQ(ToJson(value), row.meaning);
+    }
+}
+
+TEST(Value, RefusesWhatHasNoMeaning) {
+    const struct {
+        uint32_t type;
+        uint16_t codePage;
+        Bytes bytes;
+    } rows[] = {
+        {VT_DISPATCH, 1252, "00000000"_hex},
+        {VT_VARIANT, 1252, "0300000007000000"_hex},
+        {VT_ARRAY | VT_I4, 1252, "0000000000000000"_hex},
+        {VT_VECTOR | VT_EMPTY, 1252, "ffffffff"_hex}, // four thousand million of nothing
+        {VT_VECTOR | VT_VARIANT, 1252,
+         "01000000"
+         "0c100000"
+         "00000000"_hex},
+        {VT_VECTOR | VT_UI1, 1252,
+         "ffffffff"
+         "00"_hex},
+        {VT_LPSTR, 1252,
+         "02000000"
+         "8100"_hex},
+        {VT_LPSTR, 65001,
+         "02000000"
+         "ff00"_hex},
+        {VT_LPSTR, 1220,
+         "02000000"
+         "6100"_hex},
+        {VT_LPWSTR, 1252,
+         "02000000"
+         "00d80000"_hex}, // half a character
+        {VT_CF, 1252,
+         "03000000"
+         "ffffff"_hex},
+        {VT_CF, 1252,
+         "06000000"
+         "ffffffff"
+         "0300"_hex},
+    };
+    for (const auto& row : rows) {
+        orlo::Value value;
+        value.type = 77;
+        EXPECT_FALSE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value))
+            << row.type;
+        EXPECT_EQ(value.type, 77u) << "left alone";
+    }
+}
+
+TEST(Value, IsNotWrittenWhereItDoesNotFit) {
+    const auto value = [](uint32_t type, auto data) {
+        orlo::Value made;
+        made.type = type;
+        made.data = data;
+        return made;
+    };
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_I2, int64_t{40000}), 1252));
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_UI2, uint64_t{70000}), 1252));
+    EXPECT_TRUE(orlo::EncodeValue(value(VT_I2, int64_t{-32768}), 1252));
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_LPSTR, std::string("日本")), 1252));
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_LPSTR, std::string("a")), 1220));
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_LPSTR, int64_t{1}), 1252)) << "another kind of data";
+    EXPECT_FALSE(orlo::EncodeValue(value(VT_DISPATCH, int64_t{1}), 1252));
+    orlo::Value list = value(VT_VECTOR | VT_I2, std::monostate());
+    list.elements.push_back(value(VT_I4, int64_t{1}));
+    EXPECT_FALSE(orlo::EncodeValue(list, 1252));
+}
+
+TEST(Value, TypesHaveNames) {
+    EXPECT_EQ(orlo::TypeName(VT_LPSTR), "VT_LPSTR");
+    EXPECT_EQ(orlo::TypeName(VT_VECTOR | VT_VARIANT), "VT_VECTOR | VT_VARIANT");
+    EXPECT_EQ(orlo::TypeName(VT_ARRAY | VT_I4), "type 0x2003");
+    EXPECT_EQ(orlo::TypeName(0x25), "type 0x0025");
+}
+
+} // namespace
