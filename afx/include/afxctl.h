@@ -128,6 +128,9 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    // What the combo's own list asks goes on to the parent, which asks this object.
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    DECLARE_MESSAGE_MAP()
 
 private:
     int Send(UINT message, int nIndex = 0, const void* pData = nullptr) const {

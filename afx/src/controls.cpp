@@ -90,6 +90,10 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM, LPARAM lParam, LRESULT* pResu
     return CallOwnerDraw(this, message, lParam, pResult);
 }
 
+BEGIN_MESSAGE_MAP(CComboBox, CWnd)
+    ON_WM_MEASUREITEM()
+END_MESSAGE_MAP()
+
 CComboBox::CComboBox() = default;
 CComboBox::~CComboBox() = default;
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
@@ -100,6 +104,9 @@ void CComboBox::GetLBText(int nIndex, CString& rString) const {
 }
 void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
+void CComboBox::OnMeasureItem(int, LPMEASUREITEMSTRUCT) {
+    Default();
+}
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT) {
     return 0;
 }

@@ -164,10 +164,17 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if (lpDrawItemStruct->CtlType == ODT_MENU || !NotifyChild(lpDrawItemStruct->hwndItem, &result)) Default();
 }
 
+// A list that is filled asks for each item, and the search for a child is slow: the last one is tried first.
+static HWND MeasuredControl(HWND parent, int id) {
+    HWND& last = AfxThreadState::Get().lastMeasured;
+    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent) last = ::GetDlgItem(parent, id);
+    return last;
+}
+
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     // The only one of the four records that does not name the window.
     LRESULT result = 0;
-    if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(::GetDlgItem(m_hWnd, nIDCtl), &result))
+    if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(MeasuredControl(m_hWnd, nIDCtl), &result))
         Default();
 }
 
