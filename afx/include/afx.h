@@ -28,7 +28,6 @@ using LPSTR = char*;
 using LPCSTR = const char*;
 #define TRUE 1
 #define FALSE 0
-#define CALLBACK
 #endif
 
 // The format texts of the C++ library, not those of the system's C library.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <psapi.h>
+
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -159,6 +161,33 @@ TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
     EXPECT_EQ(&owner, CWnd::FromHandle(plain)) << "the permanent one comes first";
     EXPECT_EQ(plain, owner.Detach());
     EXPECT_EQ(before, CWnd::FromHandle(plain));
+}
+
+TEST_F(Window, TemporaryObjectsGoWithTheMessageThatMadeThem) {
+    // Each message makes many; what they take must not pile up.
+    class CMaker : public CWnd {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_APP) return CWnd::WindowProc(message, wParam, lParam);
+            for (UINT_PTR i = 1; i <= 1000; ++i)
+                FromHandle(reinterpret_cast<HWND>(wParam * 1000 + i));
+            return 0;
+        }
+    } maker;
+    ASSERT_TRUE(maker.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    const auto used = [] {
+        PROCESS_MEMORY_COUNTERS counters = {};
+        ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+        return counters.WorkingSetSize;
+    };
+    const auto send = [&](WPARAM count) {
+        for (WPARAM i = 0; i < count; ++i)
+            maker.SendMessage(WM_APP, 0x100 + i);
+    };
+    send(50);
+    const SIZE_T before = used();
+    ASSERT_GT(before, 0u);
+    send(500); // half a million objects
+    EXPECT_LT(used(), before + 10000000);
 }
 
 TEST_F(Window, SubclassedGetsItsProcedureBack) {
