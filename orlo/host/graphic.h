@@ -33,7 +33,10 @@ DRAWCORE_API const PropertyTable* GraphicGetVtbl(GraphicStruct*);
 DRAWCORE_API void GraphicSetDirty(GraphicStruct*, int dirty);
 DRAWCORE_API void GraphicSetExtentsDirty(GraphicStruct*, int dirty);
 
-// Drawing attributes.
+// Drawing attributes. A colour is 0x00bbggrr or 0xFFFFFFFD by layer, 0xFFFFFFFC by block. A pen style is an entry of
+// "_LineStyles_", 65534 by layer, 65533 by block, or 0: no line. The scale multiplies the dash pattern. Scale system 0: the
+// pen's width is in drawing units; 2: in inches of paper, the same at every zoom. A brush style is an entry of
+// "_BrushStyles_" or 0: no filling.
 DRAWCORE_API void GraphicSetPenColor(GraphicStruct*, uint32_t color);
 DRAWCORE_API void GraphicSetPenStyle(GraphicStruct*, uint16_t style);
 DRAWCORE_API void GraphicSetPenScale(GraphicStruct*, double scale);

@@ -8,6 +8,6 @@ DRAWCORE_API int DrawCoreLoadString(unsigned int id, char* buffer, int size);
 
 constexpr unsigned int kStringByBlock = 0x7052;     // pen style 65533, colour -4
 constexpr unsigned int kStringByLayer = 0x7053;     // pen style 65534, colour -3
-constexpr unsigned int kStringLastColor = 0x7054;   // colour -5
+constexpr unsigned int kStringLastColor = 0x7054;   // colour -5, of a brush: that of the pen
 constexpr unsigned int kStringPaperScale = 0x7059;  // scale system 2
 constexpr unsigned int kStringWorldScale = 0x705A;  // scale system 0

@@ -1,4 +1,5 @@
-// Tables of the host: named entries under 16-bit identifiers (0 is none), and typed variables.
+// Tables of the host: named entries under 16-bit identifiers (0 is none), and typed variables. A table can go while someone
+// still holds it: every call on it then answers as for an empty one.
 #pragma once
 
 #include "orlo/host/api.h"
@@ -14,10 +15,10 @@ DRAWCORE_API int TableEntryGetName(TableStruct*, uint16_t id, char* buffer, int 
 // The entry's data, whose kind is the table's: a text, a COLORREF, a graphic. The table's own; may be null.
 DRAWCORE_API void* TableEntryGetData(TableStruct*, uint16_t id);
 
-// Identifier of the first entry of that name, 0 if there is none. The cookie may be null.
+// Identifier of the first entry of that name, 0 if there is none; A to Z count like a to z. The cookie may be null.
 DRAWCORE_API uint16_t TableEntryGetIDFirst(TableStruct*, int* cookie, const char* name);
 
-// The drawing that owns the table.
+// The drawing that owns the table; null if there is none.
 DRAWCORE_API DrawingStruct* TableGetOwner(TableStruct*);
 
 // Typed variables. 0, with the value left alone, if there is none of that number and type.

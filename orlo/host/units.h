@@ -4,7 +4,8 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Number at the start of the text; *end is the first character behind it (the text itself if there is none).
+// Number at the start of the text, behind blanks; *end is the first character behind it (the text itself if there is none, or
+// none that a double holds). A point is the decimal mark.
 // context is always 0.
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 

@@ -30,7 +30,10 @@ std::vector<double> Extremes(const EllipseArc& arc, const Vec3& u, const Vec3& v
 
 } // namespace
 
-void FlattenArc(const EllipseArc& arc, const Matrix& matrix, double tolerance, Path& path) {
+void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance, Path& path) {
+    EllipseArc arc = given;
+    arc.start = std::fmod(given.start, 2 * kPi); // a turn more or less is the same, and keeps all digits
+    arc.end = arc.start + (given.end - given.start);
     const Vec3 u = matrix.Turn(arc.major), v = matrix.Turn(arc.minor);
     const double radius = std::max(std::hypot(u.x, u.y), std::hypot(v.x, v.y));
     const double sweep = arc.end - arc.start;

@@ -20,33 +20,84 @@ namespace {
 // Which property tables have it.
 enum : uint8_t { kOfShape = 1, kOfText = 2, kOfInsert = 4, kOfAll = 7 };
 
-// One property: exactly one of the three accesses is there. accepts judges a value before anything changes.
+// How a value is read and written. accepts judges a value before anything changes.
+struct WholeAccess {
+    int64_t (*get)(const Graphic&);
+    bool (*accepts)(const Graphic&, int64_t);
+    void (*set)(Graphic&, int64_t);
+};
+struct RealAccess {
+    double (*get)(const Graphic&);
+    bool (*accepts)(double);
+    void (*set)(Graphic&, double);
+};
+struct TextAccess {
+    const char* (*get)(const Graphic&);
+    void (*set)(Graphic&, const char*);
+};
+
+// One property: exactly one of the three accesses is there.
 struct Property {
     const char* name;
     uint8_t owners;
-    struct {
-        int64_t (*get)(const Graphic&);
-        bool (*accepts)(const Graphic&, int64_t);
-        void (*set)(Graphic&, int64_t);
-    } whole;
-    struct {
-        double (*get)(const Graphic&);
-        bool (*accepts)(double);
-        void (*set)(Graphic&, double);
-    } real;
-    struct {
-        const char* (*get)(const Graphic&);
-        void (*set)(Graphic&, const char*);
-    } text;
+    WholeAccess whole{};
+    RealAccess real{};
+    TextAccess text{};
     bool shapes = false; // a change moves the extents
 };
 
-const TextState& TextOf(const Graphic& graphic) {
-    return static_cast<const TextGraphic&>(graphic).state;
+// Places of values in a graphic.
+template <auto field>
+struct Own {
+    template <class Of>
+    static auto& In(Of& graphic) {
+        return graphic.*field;
+    }
+};
+template <auto part, auto field>
+struct At {
+    template <class Of>
+    static auto& In(Of& graphic) {
+        return (graphic.*part).*field;
+    }
+};
+template <auto field>
+struct InText {
+    static const auto& In(const Graphic& graphic) {
+        return static_cast<const TextGraphic&>(graphic).state.*field;
+    }
+    static auto& In(Graphic& graphic) { return static_cast<TextGraphic&>(graphic).state.*field; }
+};
+
+template <class Place>
+void SetNumber(Graphic& graphic, int64_t value) {
+    auto& place = Place::In(graphic);
+    place = static_cast<std::decay_t<decltype(place)>>(value);
 }
 
-TextState& TextOf(Graphic& graphic) {
-    return static_cast<TextGraphic&>(graphic).state;
+template <class Place, bool (*accepts)(const Graphic&, int64_t)>
+constexpr Property Whole(const char* name, uint8_t owners, bool shapes = false) {
+    return {name,
+            owners,
+            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts, SetNumber<Place>},
+            {},
+            {},
+            shapes};
+}
+
+template <class Place, bool (*accepts)(double)>
+constexpr Property Real(const char* name, uint8_t owners, bool shapes = false) {
+    return {name,
+            owners,
+            {},
+            {[](const Graphic& g) -> double { return Place::In(g); }, accepts,
+             [](Graphic& g, double v) { Place::In(g) = v; }},
+            {},
+            shapes};
+}
+
+constexpr Property Text(const char* name, uint8_t owners, TextAccess access, bool shapes = false) {
+    return {name, owners, {}, {}, access, shapes};
 }
 
 // Limits.
@@ -95,49 +146,40 @@ void SetInfo(Graphic& graphic, const char* text) {
     graphic.info = *text ? std::make_unique<std::string>(text) : nullptr;
 }
 
-#define WHOLE(field, type, accepts)                                                                          \
-    {                                                                                                        \
-        [](const Graphic& g) -> int64_t { return field; }, accepts,                                          \
-            [](Graphic& g, int64_t v) { field = static_cast<type>(v); }                                      \
-    }
-#define REAL(field, accepts)                                                                                 \
-    {                                                                                                        \
-        [](const Graphic& g) -> double { return field; }, accepts, [](Graphic& g, double v) { field = v; }   \
-    }
+template <auto field>
+using InPen = At<&Graphic::pen, field>;
+template <auto field>
+using InBrush = At<&Graphic::brush, field>;
 
 constexpr auto kAnyStyle = Within<0, kStyleByLayer>;
+constexpr auto kAnyEntry = Within<0, kHighestId>;
+constexpr auto kYesOrNo = Within<0, 1>;
 
 // In the order of their names: a look-up halves the range.
-const Property kProperties[] = {
-    {"BrushAngle", kOfShape, {}, REAL(g.brush.angle, IsNumber), {}},
-    {"BrushColor", kOfShape, WHOLE(g.brush.color, Color, IsBrushColor), {}, {}},
-    {"BrushDrawMode", kOfShape, WHOLE(g.brush.drawMode, int32_t, (Within<0, 1>)), {}, {}},
-    {"BrushScale", kOfShape, {}, REAL(g.brush.scale, IsNotNegative), {}},
-    {"BrushStyle", kOfShape, WHOLE(g.brush.style, uint16_t, (Within<0, kHighestId>)), {}, {}},
-    {"HatchCross", kOfShape, WHOLE(g.brush.cross, bool, (Within<0, 1>)), {}, {}},
-    {"Info", kOfAll, {}, {}, {GetInfo, SetInfo}},
-    {"Layer", kOfAll, WHOLE(g.layer, Id, IsLayer), {}, {}},
-    {"PenAlignment", kOfShape, WHOLE(g.pen.alignment, bool, (Within<0, 1>)), {}, {}},
-    {"PenColor", kOfAll, WHOLE(g.pen.color, Color, IsPenColor), {}, {}},
-    {"PenScale", kOfShape, {}, REAL(g.pen.scale, IsNotNegative), {}},
-    {"PenStyle", kOfShape | kOfInsert, WHOLE(g.pen.style, uint16_t, kAnyStyle), {}, {}},
-    {"PenWidth", kOfShape, {}, REAL(g.pen.width, IsNotNegative), {}},
-    {"ScaleSystem", kOfShape, WHOLE(g.pen.scaleSystem, uint8_t, IsScaleSystem), {}, {}},
-    {"StyleTree", kOfAll, WHOLE(g.styleTree, uint16_t, (Within<0, kHighestId>)), {}, {}},
-    {"TextFont",
-     kOfText,
-     {},
-     {},
-     {[](const Graphic& g) { return TextOf(g).font.c_str(); },
-      [](Graphic& g, const char* v) { TextOf(g).font = v; }},
-     true},
-    {"TextFormat", kOfText, WHOLE(TextOf(g).format, uint16_t, (Within<kTextLeft, kTextRight>)), {}, {}, true},
-    {"TextSize", kOfText, {}, REAL(TextOf(g).height, IsPositive), {}, true},
-    {"TextStyle", kOfText, WHOLE(TextOf(g).style, uint16_t, (Within<0, 0xFFFF>)), {}, {}, true},
+constexpr Property kProperties[] = {
+    Real<InBrush<&Brush::angle>, IsNumber>("BrushAngle", kOfShape),
+    Whole<InBrush<&Brush::color>, IsBrushColor>("BrushColor", kOfShape),
+    Whole<InBrush<&Brush::drawMode>, kYesOrNo>("BrushDrawMode", kOfShape),
+    Real<InBrush<&Brush::scale>, IsNotNegative>("BrushScale", kOfShape),
+    Whole<InBrush<&Brush::style>, kAnyEntry>("BrushStyle", kOfShape),
+    Whole<InBrush<&Brush::cross>, kYesOrNo>("HatchCross", kOfShape),
+    Text("Info", kOfAll, {GetInfo, SetInfo}),
+    Whole<Own<&Graphic::layer>, IsLayer>("Layer", kOfAll),
+    Whole<InPen<&Pen::alignment>, kYesOrNo>("PenAlignment", kOfShape),
+    Whole<InPen<&Pen::color>, IsPenColor>("PenColor", kOfAll),
+    Real<InPen<&Pen::scale>, IsNotNegative>("PenScale", kOfShape),
+    Whole<InPen<&Pen::style>, kAnyStyle>("PenStyle", kOfShape | kOfInsert),
+    Real<InPen<&Pen::width>, IsNotNegative>("PenWidth", kOfShape),
+    Whole<InPen<&Pen::scaleSystem>, IsScaleSystem>("ScaleSystem", kOfShape),
+    Whole<Own<&Graphic::styleTree>, kAnyEntry>("StyleTree", kOfAll),
+    Text("TextFont", kOfText,
+         {[](const Graphic& g) { return InText<&TextState::font>::In(g).c_str(); },
+          [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }},
+         true),
+    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>("TextFormat", kOfText, true),
+    Real<InText<&TextState::height>, IsPositive>("TextSize", kOfText, true),
+    Whole<InText<&TextState::style>, Within<0, 0xFFFF>>("TextStyle", kOfText, true),
 };
-
-#undef WHOLE
-#undef REAL
 
 // Forms of whole numbers. A 32-bit form takes either reading of its top bit: colours come signed as well as unsigned.
 bool GiveWhole(int vt, void* out, int64_t value) {

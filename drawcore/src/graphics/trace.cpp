@@ -95,7 +95,7 @@ void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
 }
 
 void TraceGraphic(const Graphic& graphic, const Trace& trace) {
-    if (--trace.tools.budget < 0) return;
+    if (trace.depth > 0 && --trace.tools.budget < 0) return;
     const Extents box = graphic.GetExtents().Transformed(trace.matrix);
     if (box.IsEmpty()) return;
     const PenUse use = ResolvePen(graphic, trace);

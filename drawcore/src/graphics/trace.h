@@ -60,8 +60,8 @@ public:
     virtual void Text(const TextRow& row) = 0;
 };
 
-// How much of a drawing one tracing goes through: insertions in insertions can multiply without end.
-constexpr long kTraceBudget = 2'000'000; // graphics
+// How many graphics of blocks one tracing goes through: insertions in insertions can multiply without end.
+constexpr long kTraceBudget = 2'000'000;
 
 // What a tracing needs once: the tables of the drawing (null where there are none) and working space.
 struct TraceTools {

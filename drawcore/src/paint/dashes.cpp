@@ -7,6 +7,8 @@ namespace drawcore {
 
 namespace {
 
+constexpr double kFarthest = 1e12; // along a line; beyond, the digits of a double do not tell dash from gap
+
 double Period(const DashPattern& pattern) {
     double sum = 0;
     for (const double item : pattern.items)
@@ -47,8 +49,9 @@ private:
         headEnd_ = 0;
         tailStart_ = length;
         shift_ = 0;
+        if (!(length < kFarthest)) headEnd_ = length; // drawn through
         const double dash = pattern_.items.front() * pattern_.scale;
-        if (!pattern_.fit || dash <= 0) return;
+        if (headEnd_ > 0 || !pattern_.fit || dash <= 0) return;
         const double whole = std::floor(length / period_);
         const double end = (length - whole * period_ + dash) / 2;
         headEnd_ = whole < 1 ? length : end;

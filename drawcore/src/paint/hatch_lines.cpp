@@ -51,14 +51,14 @@ std::vector<Family> Families(const BrushUse& brush) {
 
 // Where a line of a family meets an edge of the areas.
 struct Crossing {
-    long line;
+    int64_t line;
     double along;
     int direction; // of the edge across the line
 };
 
 // The lines that can be seen in the box.
 struct Lines {
-    long first, last;
+    int64_t first, last;
 };
 
 Lines LinesIn(const Family& family, const Box& box) {
@@ -69,7 +69,9 @@ Lines LinesIn(const Family& family, const Box& box) {
         low = std::min(low, place);
         high = std::max(high, place);
     }
-    return {static_cast<long>(std::ceil(low)), static_cast<long>(std::floor(high))};
+    constexpr double kFarthest = 1e15; // beyond, the digits of a double do not tell one line from the next
+    if (!(low > -kFarthest && high < kFarthest)) return {1, 0};
+    return {static_cast<int64_t>(std::ceil(low)), static_cast<int64_t>(std::floor(high))};
 }
 
 void AddCrossings(const Family& family, const Point& a, const Point& b, const Lines& seen,
@@ -82,12 +84,12 @@ void AddCrossings(const Family& family, const Point& a, const Point& b, const Li
     const double last = std::min(std::floor(high), static_cast<double>(seen.last));
     const double alongA = family.Along(a), alongB = family.Along(b);
     for (double line = first; line <= last; ++line)
-        found.push_back({static_cast<long>(line), alongA + (alongB - alongA) * (line - from) / (to - from),
+        found.push_back({static_cast<int64_t>(line), alongA + (alongB - alongA) * (line - from) / (to - from),
                          from < to ? 1 : -1});
 }
 
 // A piece of one line between two distances from the foot of the base.
-void AddPiece(const Family& family, long line, double from, double to, const Box& box, Path& lines,
+void AddPiece(const Family& family, int64_t line, double from, double to, const Box& box, Path& lines,
               Path& scratch) {
     const double out = family.spacing * static_cast<double>(line);
     const Point foot{family.base.x - family.along.y * out, family.base.y + family.along.x * out};
