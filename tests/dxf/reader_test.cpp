@@ -310,6 +310,8 @@ TEST(References, LongChainsAndManyPartsAreCut) {
         {});
     EXPECT_EQ(ShapeOf<Apart<Insert>>(array, 0)->block, BlockIndex::none);
     EXPECT_NE(ShapeOf<Apart<Insert>>(array, 1)->block, BlockIndex::none);
+    EXPECT_EQ(array.findings.at(0).text,
+              "inserts that are not shown, because the drawing would have too many parts: 1");
 }
 
 TEST(Findings, AreBounded) {

@@ -25,7 +25,12 @@ double PartsOf(const Entity& entity) {
 
 class Resolver {
 public:
-    explicit Resolver(RecordReader& in) : in_(in), drawing_(in.document), states_(drawing_.blocks.size()) {}
+    explicit Resolver(RecordReader& in) : in_(in), drawing_(in.document), states_(drawing_.blocks.size()) {
+        size_t entities = drawing_.entities.size();
+        for (const Block& block : drawing_.blocks)
+            entities += block.entities.size();
+        mostParts_ += kMorePartsPerEntity * static_cast<double>(entities);
+    }
 
     void Resolve() {
         for (size_t i = 0; i < drawing_.blocks.size(); ++i)
@@ -33,6 +38,10 @@ public:
         State root;
         for (Entity& entity : drawing_.entities)
             CutIfNeeded(entity, root);
+        if (tooMany_ > 0)
+            in_.Report(firstTooMany_,
+                       "inserts that are not shown, because the drawing would have too many parts: " +
+                           std::to_string(tooMany_));
     }
 
 private:
@@ -89,14 +98,17 @@ private:
             reason = "the block contains itself";
         else if (state.depth + 1 > kDeepestNesting)
             reason = "blocks are nested too deeply";
-        else if (owner.insertedParts + parts > kMostInsertedParts)
-            reason = "the drawing would have too many parts";
-        if (!reason) {
+        const bool tooMany = owner.insertedParts + parts > mostParts_;
+        if (!reason && !tooMany) {
             owner.depth = std::max(owner.depth, state.depth + 1);
             owner.insertedParts += parts;
             return;
         }
         *reference.block = BlockIndex::none;
+        if (!reason) {
+            if (tooMany_++ == 0) firstTooMany_ = entity.line;
+            return;
+        }
         in_.Report(entity.line,
                    "block " + Quoted(drawing_.blocks[inner].name) + " is not shown here: " + reason);
     }
@@ -104,6 +116,9 @@ private:
     RecordReader& in_;
     Document& drawing_;
     std::vector<State> states_;
+    double mostParts_ = kMostInsertedParts;
+    size_t tooMany_ = 0;
+    uint32_t firstTooMany_ = 0;
 };
 
 } // namespace

@@ -9,7 +9,8 @@
 namespace dxf {
 
 constexpr size_t kDeepestNesting = 64;
-constexpr double kMostInsertedParts = 2e6; // lines, vertices and the like
+constexpr double kMostInsertedParts = 2e6; // lines, vertices and the like; and in a large file
+constexpr double kMorePartsPerEntity = 16; // so many more for each entity that it holds
 
 void ResolveReferences(RecordReader& in);
 
