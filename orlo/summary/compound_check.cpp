@@ -109,7 +109,7 @@ private:
     }
 
     std::vector<uint8_t> Sector(uint32_t sector) {
-        std::vector<uint8_t> bytes(layout_.sectorBytes);
+        std::vector<uint8_t> bytes(layout_.sectorBytes, 0xFF); // what isn't there reads as free
         if (sector < layout_.sectors) {
             const uint64_t at = layout_.At(sector);
             const auto there = static_cast<size_t>(std::min<uint64_t>(bytes.size(), fileSize_ - at));
@@ -117,7 +117,6 @@ private:
             if (read_(at, bytes.data(), there)) return bytes;
         }
         Torn();
-        std::fill(bytes.begin(), bytes.end(), uint8_t{0xFF}); // reads as free
         return bytes;
     }
 

@@ -101,9 +101,7 @@ private:
         sub->callback([this, command] { line_.command = command; });
         return sub;
     }
-    void AddFile(CLI::App* sub) {
-        sub->add_option("FILE", line_.files, "the document")->required()->expected(1);
-    }
+    void AddFile(CLI::App* sub) { sub->add_option("FILE", line_.file, "the document")->required(); }
     void AddBare(CLI::App* sub) {
         sub->add_flag("--stream", line_.bare, "FILE is no document but one property-set stream");
     }
@@ -153,7 +151,7 @@ private:
     }
     void AddCopy() {
         CLI::App* sub = Add("copy", Command::copy, "Give one document the summary of another");
-        sub->add_option("FROM", line_.files, "the document with the summary")->required()->expected(1);
+        sub->add_option("FROM", line_.file, "the document with the summary")->required();
         sub->add_option("TO", line_.output, "the document that gets it")->required();
     }
 

@@ -14,7 +14,8 @@ enum class Command { show, check, set, remove, thumbnail, rc, copy };
 
 struct CommandLine {
     Command command;
-    std::vector<std::string> files; // one, but for show and check
+    std::vector<std::string> files; // show, check
+    std::string file;               // the others
     bool recursive = false;
     bool bare = false;
     bool json = false;

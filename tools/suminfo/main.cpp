@@ -81,9 +81,8 @@ int Run(const std::vector<std::string>& arguments) {
     if (!parsed.line) return parsed.exitCode;
     const CommandLine& line = *parsed.line;
     if (line.command == Command::show || line.command == Command::check) return ReportAll(line);
-    const std::string& file = line.files.front();
     Progress none(1);
-    return Try(file, none, [&] { RunOn(line, file); }) ? kDone : kFailed;
+    return Try(line.file, none, [&] { RunOn(line, line.file); }) ? kDone : kFailed;
 }
 
 } // namespace

@@ -1,0 +1,127 @@
+// suminfo check, thumbnail and rc, and the command line itself.
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "program.h"
+
+#define STB_IMAGE_IMPLEMENTATION
+#define STBI_ONLY_PNG
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wunused-function"
+#include <stb/stb_image.h>
+#pragma GCC diagnostic pop
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Picture {
+    int width = 0, height = 0;
+    int colours = 0; // pixels that aren't white
+};
+
+Picture ReadPng(const fs::path& file) {
+    Picture picture;
+    int channels = 0;
+    const std::unique_ptr<stbi_uc, decltype(&stbi_image_free)> pixels(
+        stbi_load(file.string().c_str(), &picture.width, &picture.height, &channels, 3), &stbi_image_free);
+    if (!pixels) return {};
+    for (int i = 0; i < picture.width * picture.height; ++i)
+        picture.colours += pixels.get()[3 * i] != 255 || pixels.get()[3 * i + 1] != 255;
+    return picture;
+}
+
+TEST(Thumbnail, InItsOwnSizeOrInAGivenOne) {
+    const Folder folder;
+    const std::string png = (folder.Path() / "out.png").string();
+    const std::string document = (kDocuments / "v5-Connection-Types--c289c5.vsd").string();
+    ASSERT_EQ(RunSuminfo({"thumbnail", document, png}).exitCode, 0);
+    Picture picture = ReadPng(png);
+    EXPECT_EQ(picture.width, 197); // 21590 by 27940
+    EXPECT_EQ(picture.height, 256);
+    EXPECT_GT(picture.colours, 100);
+    ASSERT_EQ(RunSuminfo({"thumbnail", document, png, "--size", "100x40"}).exitCode, 0);
+    picture = ReadPng(png);
+    EXPECT_EQ(picture.width, 100);
+    EXPECT_EQ(picture.height, 40);
+    EXPECT_GT(picture.colours, 10);
+}
+
+TEST(Thumbnail, OfWhatHasNoneOrADamagedOneLeavesTheOldPicture) {
+    const Folder folder;
+    const fs::path png = folder.Path() / "out.png";
+    std::ofstream(png) << "old";
+    const struct {
+        const char* file;
+        const char* why;
+    } rows[] = {{"test11--695187.doc", "it has no thumbnail"},
+                {"sent--da96eb.msg", "it has no summary"},
+                {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", ""}};
+    for (const auto& row : rows) {
+        const Outcome run = RunSuminfo({"thumbnail", (kDocuments / row.file).string(), png.string()});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_NE(run.err.find(row.why), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(BytesOf(png), (std::vector<unsigned char>{'o', 'l', 'd'}));
+}
+
+TEST(ResourceScript, HoldsTheSections) {
+    const Folder folder;
+    const fs::path script = folder.Path() / "out.rc";
+    ASSERT_EQ(
+        RunSuminfo({"rc", (kDocuments / "testEXCEL-custom-props--fff0cb.xls").string(), script.string()})
+            .exitCode,
+        0);
+    std::ifstream stream(script, std::ios::binary);
+    const std::string text(std::istreambuf_iterator<char>(stream), {});
+    EXPECT_NE(text.find("\n1 RCDATA\nBEGIN\n    0x"), std::string::npos) << text;
+    EXPECT_NE(text.find("Microsoft Excel\\0\""), std::string::npos) << text;
+    EXPECT_EQ(text.substr(text.size() - 5), "\nEND\n");
+    EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
+}
+
+TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
+    const Outcome fine = RunSuminfo({"check", "test11--695187.doc", "sent--da96eb.msg"}, kDocuments);
+    EXPECT_EQ(fine.exitCode, 0) << fine.out;
+    EXPECT_NE(fine.out.find("test11--695187.doc: nothing irregular\n"), std::string::npos) << fine.out;
+    EXPECT_NE(fine.out.find("sent--da96eb.msg: no property sets\n"), std::string::npos) << fine.out;
+    const Outcome odd =
+        RunSuminfo({"check", "clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt"}, kDocuments);
+    EXPECT_EQ(odd.exitCode, 1);
+    EXPECT_NE(odd.out.find(": \\005SummaryInfkrmation: 0x000134: damaged 306: section 0, property 17: VT_CF"),
+              std::string::npos)
+        << odd.out;
+}
+
+TEST(CommandLine, WrongOnesExitWithTwo) {
+    const std::vector<std::string> wrong[] = {
+        {},
+        {"shov", "x.doc"},
+        {"show"},
+        {"show", "--colour", "x.doc"},
+        {"set", "x.doc"},
+        {"set", "x.doc", "title"},
+        {"remove", "x.doc"},
+        {"thumbnail", "x.doc"},
+        {"thumbnail", "x.doc", "x.png", "--size", "12"},
+        {"thumbnail", "x.doc", "x.png", "--size", "0x9"},
+        {"copy", "x.doc"},
+    };
+    for (const auto& line : wrong) {
+        const Outcome run = RunSuminfo(line);
+        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(line);
+        EXPECT_NE(run.err, "") << testing::PrintToString(line);
+    }
+}
+
+TEST(CommandLine, HelpHasExamples) {
+    const Outcome run = RunSuminfo({"--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_NE(run.out.find("suminfo set plan.msi title=\"Plan B\""), std::string::npos);
+    EXPECT_NE(RunSuminfo({"set", "--help"}).out.find("last-author"), std::string::npos);
+}
+
+} // namespace

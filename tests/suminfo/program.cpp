@@ -1,0 +1,110 @@
+// A child process with its output in files.
+
+#include "program.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <windows.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::wstring Wide(const std::string& utf8) {
+    const int size = static_cast<int>(utf8.size());
+    std::wstring wide(static_cast<size_t>(::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)),
+                      L'\0');
+    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), static_cast<int>(wide.size()));
+    return wide;
+}
+
+// As the system's own rules take a command line apart: quotes and the backslashes before them are escaped.
+std::wstring Quoted(const std::string& argument) {
+    std::wstring quoted = L"\"";
+    size_t backslashes = 0;
+    for (const wchar_t c : Wide(argument)) {
+        if (c == L'\\') {
+            ++backslashes;
+            continue;
+        }
+        quoted.append(c == L'"' ? 2 * backslashes + 1 : backslashes, L'\\');
+        backslashes = 0;
+        quoted += c;
+    }
+    return quoted.append(2 * backslashes, L'\\') + L"\"";
+}
+
+fs::path Program() {
+    wchar_t own[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, own, MAX_PATH);
+    return fs::path(own).replace_filename("suminfo.exe");
+}
+
+HANDLE Writable(const fs::path& file) {
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    return ::CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+}
+
+std::string TextOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+} // namespace
+
+Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder) {
+    const Folder outputs;
+    const fs::path out = outputs.Path() / "out", err = outputs.Path() / "err";
+    std::wstring line = L"\"" + Program().wstring() + L"\"";
+    for (const std::string& argument : arguments)
+        line += L" " + Quoted(argument);
+    STARTUPINFOW start = {};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = Writable(out);
+    start.hStdError = Writable(err);
+    PROCESS_INFORMATION process = {};
+    const BOOL started = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                          folder.c_str(), &start, &process);
+    ::CloseHandle(start.hStdOutput);
+    ::CloseHandle(start.hStdError);
+    if (!started) {
+        ADD_FAILURE() << "suminfo.exe can't be started: " << ::GetLastError();
+        return {-1, "", ""};
+    }
+    DWORD exitCode = 0;
+    if (::WaitForSingleObject(process.hProcess, 120000) != WAIT_OBJECT_0) {
+        ::TerminateProcess(process.hProcess, 99);
+        ADD_FAILURE() << "suminfo hangs";
+    }
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
+    ::CloseHandle(process.hProcess);
+    ::CloseHandle(process.hThread);
+    return {static_cast<int>(exitCode), TextOf(out), TextOf(err)};
+}
+
+Folder::Folder() {
+    static int count = 0;
+    const std::string name =
+        "suminfo-test-" + std::to_string(::GetCurrentProcessId()) + "-" + std::to_string(++count);
+    path_ = fs::temp_directory_path() / name;
+    fs::create_directories(path_);
+}
+
+Folder::~Folder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+fs::path Folder::Copy(const fs::path& file, const std::string& name) const {
+    const fs::path copy = path_ / (name.empty() ? file.filename() : fs::path(Wide(name)));
+    fs::copy_file(file, copy);
+    ::SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
+    return copy;
+}
+
+std::vector<unsigned char> BytesOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return std::vector<unsigned char>(std::istreambuf_iterator<char>(stream), {});
+}

@@ -1,0 +1,36 @@
+// Runs suminfo.exe as a person does: a command line, what it prints, its exit code. And folders to work in.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+struct Outcome {
+    int exitCode;
+    std::string out, err;
+};
+
+// Arguments in UTF-8; the working folder is the given one.
+Outcome RunSuminfo(const std::vector<std::string>& arguments,
+                   const std::filesystem::path& folder = std::filesystem::temp_directory_path());
+
+// A folder of its own for each test, gone afterwards.
+class Folder {
+public:
+    Folder();
+    ~Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    const std::filesystem::path& Path() const { return path_; }
+    // A copy of the file, to be changed; its name is that of the original unless another is given.
+    std::filesystem::path Copy(const std::filesystem::path& file, const std::string& name = {}) const;
+
+private:
+    std::filesystem::path path_;
+};
+
+std::vector<unsigned char> BytesOf(const std::filesystem::path& file);
+
+inline const std::filesystem::path kDocuments = std::filesystem::path(ORLO_TEST_DATA) / "ole";
+inline const std::filesystem::path kCorpus = ORLO_CORPUS;

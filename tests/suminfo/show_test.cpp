@@ -1,0 +1,180 @@
+// suminfo show on real documents: every value that independent readers agree on.
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "program.h"
+
+using Json = nlohmann::json;
+namespace fs = std::filesystem;
+
+namespace {
+
+Json Load(const fs::path& file) {
+    return Json::parse(std::ifstream(file));
+}
+
+// One object a line, by the file's bare name.
+std::map<std::string, Json> ByFile(const std::string& lines) {
+    std::map<std::string, Json> objects;
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) {
+        Json object = Json::parse(line);
+        objects[fs::path(object["file"].get<std::string>()).filename().string()] = std::move(object);
+    }
+    return objects;
+}
+
+// Without the raw bytes that the corpus gives beside some texts of variants.
+Json WithoutBytes(Json value) {
+    if (value.is_object()) value.erase("bytes");
+    if (value.is_structured())
+        for (auto& inner : value)
+            inner = WithoutBytes(inner);
+    return value;
+}
+
+const Json* Property(const Json& section, const Json& id) {
+    for (const Json& property : section["properties"])
+        if (property["id"] == id) return &property;
+    return nullptr;
+}
+
+// A value is only worth comparing if readers agree on it; in a list of chosen values all are.
+bool IsAgreed(const Json& property) {
+    return !property.contains("agreed_by") || !property["agreed_by"].empty();
+}
+
+void ExpectSection(const Json& shown, const Json& expected) {
+    for (const char* key : {"fmtid", "offset", "size", "property_count", "code_page"})
+        EXPECT_EQ(shown[key], expected[key]) << key;
+    if (expected.value("dictionary_agreed", false)) {
+        EXPECT_EQ(shown["dictionary"], expected["dictionary"]);
+    }
+    for (const Json& property : expected["properties"]) {
+        if (!IsAgreed(property)) continue;
+        const Json* found = Property(shown, property["id"]);
+        ASSERT_TRUE(found) << property;
+        EXPECT_EQ((*found)["vt"], property["vt"]) << property;
+        EXPECT_EQ((*found)["offset"], property["offset"]) << property;
+        EXPECT_EQ((*found)["value"], WithoutBytes(property["value"])) << property;
+    }
+}
+
+void ExpectSet(const Json& shown, const Json& expected) {
+    for (const char* key : {"byte_order", "version", "os_version", "clsid", "section_count"})
+        EXPECT_EQ(shown[key], expected.value(key, shown[key])) << key;
+    ASSERT_EQ(shown["sections"].size(), expected["sections"].size());
+    for (size_t i = 0; i < expected["sections"].size(); ++i)
+        ExpectSection(shown["sections"][i], expected["sections"][i]);
+}
+
+const Json* Stream(const Json& file, const Json& name) {
+    for (const Json& set : file["property_sets"])
+        if (set["stream"] == name) return &set;
+    return nullptr;
+}
+
+TEST(Show, ValuesOfRealDocuments) {
+    const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
+    const auto shown = ByFile(run.out);
+    EXPECT_EQ(run.exitCode, 1) << "some are damaged";
+    for (const Json& file : Load(kDocuments / "expected.json")) {
+        const auto name = file["file"].get<std::string>();
+        SCOPED_TRACE(name);
+        if (file["property_sets"].empty()) continue;
+        ASSERT_EQ(shown.count(name), 1u);
+        for (const Json& set : file["property_sets"]) {
+            const Json* found = Stream(shown.at(name), set["stream"]);
+            ASSERT_TRUE(found) << set["stream"];
+            ExpectSet(*found, set);
+        }
+    }
+}
+
+TEST(Show, DamagedFilesSaySoAndDontHang) {
+    const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
+    for (const char* file : {"loop-in-open-1--b587ad.bin", "loop-in-alloc--d3743f.bin"}) {
+        EXPECT_NE(run.err.find(std::string(file) + ": can't be opened"), std::string::npos) << run.err;
+        EXPECT_EQ(run.out.find(file), std::string::npos);
+    }
+    const auto shown = ByFile(run.out);
+    const Json& cut = shown.at("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt");
+    EXPECT_TRUE(cut["property_sets"][0].contains("error")) << "what can be read of it is there";
+    EXPECT_FALSE(cut["property_sets"][0]["damage"].empty());
+}
+
+TEST(Show, EveryValueOfTheCorpusDocuments) {
+    if (!fs::exists(kCorpus)) GTEST_SKIP() << "no corpus beside the repository";
+    std::map<std::string, Json> sets;
+    for (Json& set : Load(kCorpus / "propset" / "manifest.json"))
+        sets[set["file"].get<std::string>()] = std::move(set);
+    const auto shown = ByFile(RunSuminfo({"show", "--json", "-r", (kCorpus / "ole").string()}).out);
+    for (const Json& file : Load(kCorpus / "ole" / "manifest.json")) {
+        const auto name = file["file"].get<std::string>();
+        SCOPED_TRACE(name);
+        if (file["class"] != "well-formed") continue;
+        ASSERT_EQ(shown.count(name), 1u);
+        for (const Json& stream : file["property_sets"]) {
+            const Json* found = Stream(shown.at(name), stream["stream"]);
+            // Streams without the byte 5 in their names are none.
+            if (stream["stream"].get<std::string>().find("\\005") == std::string::npos) continue;
+            ASSERT_TRUE(found) << stream["stream"];
+            EXPECT_EQ((*found)["size"], stream["size"]);
+            if (!stream["propset_file"].is_null())
+                ExpectSet(*found, sets.at(stream["propset_file"].get<std::string>()));
+        }
+    }
+}
+
+TEST(Show, EveryValueOfTheCorpusStreams) {
+    if (!fs::exists(kCorpus)) GTEST_SKIP() << "no corpus beside the repository";
+    std::vector<std::string> arguments = {"show", "--json", "--stream"};
+    const Json manifest = Load(kCorpus / "propset" / "manifest.json");
+    for (const Json& set : manifest)
+        arguments.push_back(set["file"].get<std::string>());
+    const auto shown = ByFile(RunSuminfo(arguments, kCorpus / "propset").out);
+    for (const Json& set : manifest) {
+        if (set["class"] == "damaged") continue;
+        SCOPED_TRACE(set["file"]);
+        ExpectSet(shown.at(set["file"].get<std::string>()), set);
+    }
+}
+
+TEST(Show, TableNamesFieldsAndCustomProperties) {
+    const Outcome run =
+        RunSuminfo({"show", "testEXCEL-custom-props--fff0cb.xls", "Bug48075--a2ceba.doc"}, kDocuments);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out.find('\r'), std::string::npos);
+    for (const char* line :
+         {"testEXCEL-custom-props--fff0cb.xls\n  SummaryInformation\n", "    application  Microsoft Excel\n",
+          "    created      2006-09-12 15:06:44 UTC\n", "    parts          Feuil1; Feuil2; Feuil3\n",
+          "    MyCustomString      MyStringValue\n", "    myCustomBoolean     yes\n",
+          "\n\nBug48075--a2ceba.doc\n", "    heading-pairs           Название; 1\n"})
+        EXPECT_NE(run.out.find(line), std::string::npos) << line << "\nis missing in\n" << run.out;
+}
+
+TEST(Show, OtherFilesAreRefusedByName) {
+    const Folder folder;
+    std::ofstream(folder.Path() / "text.doc") << "no compound file";
+    const Outcome run = RunSuminfo({"show", "text.doc", "missing.doc", "."}, folder.Path());
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "suminfo: text.doc: can't be opened: not a compound file\n"
+                       "suminfo: missing.doc: can't be opened: no such file\n"
+                       "suminfo: .: is a folder; -r looks into folders\n");
+}
+
+TEST(Show, NamesAreNotLimitedToOneCodePage) {
+    const Folder folder;
+    folder.Copy(kDocuments / "test11--695187.doc", "Пример 例.doc");
+    const Outcome run = RunSuminfo({"show", "-r", "."}, folder.Path());
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out.rfind("./Пример 例.doc\n", 0), 0u) << run.out;
+}
+
+} // namespace
