@@ -3,6 +3,8 @@
 say() { printf '== %s\n' "$*" >&2; }
 die() { printf 'run: %s\n' "$*" >&2; exit 1; }
 
+# Wine takes its code page from the locale: without one its conversions crash, and file names reach programs mangled.
+export LC_ALL=C.UTF-8
 export WINEPREFIX=${ORLO_WINEPREFIX:-$PWD/build/wine}
 export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml="

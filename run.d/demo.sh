@@ -4,7 +4,6 @@
 sample=tests/data/dxf/kabeja-draft4-roof-details.dxf
 program=$PWD/build/bin/demo.exe
 targets=(demo keeper)
-export LC_ALL=C.UTF-8   # file names reach the program whole
 
 usage() { echo "usage: ./run demo [--tour] [FILE.dxf] | ./run demo --list FILE.dxf..." >&2; exit 2; }
 
