@@ -24,7 +24,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
                       user.Key(VK_RETURN);
                   });
     const std::vector<PropertyChange> changes = before.ChangesTo(Properties());
-    ASSERT_EQ(3u, changes.size()); // red, green and yellow have become one
+    ASSERT_EQ(4u, changes.size()); // red, green, yellow and the text have become one
     for (const PropertyChange& change : changes) {
         EXPECT_EQ("PenColor", change.property);
         EXPECT_EQ(changes[0].to, change.to);
