@@ -32,20 +32,32 @@ bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
     return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
 }
 
+struct Opening {
+    const Document::Progress& progress;
+    std::vector<std::string> findings;
+};
+
 void ShowProgress(void* context, int permille) {
-    (*static_cast<Document::Progress*>(context))(permille);
+    static_cast<Opening*>(context)->progress(permille);
+}
+
+void KeepFinding(void* context, int line, const char* text) {
+    const std::string place = line ? "line " + std::to_string(line) + ": " : "";
+    static_cast<Opening*>(context)->findings.push_back(place + text);
 }
 
 } // namespace
 
 std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
     char message[512] = "";
-    Progress heard = progress;
-    const DxfListener listener = {&heard, ShowProgress, nullptr};
+    Opening opening = {progress, {}};
+    const DxfListener listener = {&opening, ShowProgress, KeepFinding};
     DrawingStruct* drawing = ::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message);
     if (!drawing) throw OpenError(path + "\n\n" + message);
     ::AppSetCurrentDrawing(drawing);
-    return std::unique_ptr<Document>(new Document(path, drawing));
+    std::unique_ptr<Document> document(new Document(path, drawing));
+    document->m_findings = std::move(opening.findings);
+    return document;
 }
 
 Document::Document(const std::string& path, DrawingStruct* drawing)

@@ -31,6 +31,9 @@ public:
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
 
+    // What was left out of the drawing when it was opened, one line each.
+    const std::vector<std::string>& Findings() const { return m_findings; }
+
     DrawingStruct* Drawing() const { return m_drawing; }
     GraphicStruct* Root() const { return m_root; }
     Selection& Selected() { return m_selection; }
@@ -54,6 +57,7 @@ private:
     Document(const std::string& path, DrawingStruct* drawing);
 
     std::string m_path;
+    std::vector<std::string> m_findings;
     DrawingStruct* m_drawing;
     GraphicStruct* m_root;
     Selection m_selection;

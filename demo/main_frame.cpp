@@ -107,10 +107,18 @@ bool CMainFrame::Open(const std::string& path) {
         return false;
     }
     m_status.EndProgress();
-    m_status.ShowMessage(Counted(static_cast<int>(m_document->Selectable().size()), "graphic"));
+    ShowWhatOpened();
     OnSelectionChanged();
     ShowTitle();
     return true;
+}
+
+void CMainFrame::ShowWhatOpened() {
+    std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
+    const std::vector<std::string>& findings = m_document->Findings();
+    if (!findings.empty()) text += "; " + findings.front();
+    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
+    m_status.ShowMessage(text);
 }
 
 void CMainFrame::ShowTitle() {

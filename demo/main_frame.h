@@ -55,6 +55,7 @@ private:
     void OnPointerMoved(WorldPoint point) override;
     void OnEditProperties() override;
 
+    void ShowWhatOpened();
     void ShowTitle();
     bool CanDo(UINT command) const;
 

@@ -16,6 +16,7 @@
 
 #include "demo/document.h"
 #include "demo/property_snapshot.h"
+#include "orlo/host/graphic.h"
 
 namespace {
 
@@ -33,13 +34,19 @@ struct Cell {
     std::set<std::string> looks;
 };
 
+bool HasPenPage(GraphicStruct* graphic) {
+    if (graphic->bType == kGraphicPenBrush) return true;
+    return graphic->bType == kGraphicVertices && !::GraphicGetIsGroup(graphic) &&
+           !(graphic->dwFlags & kFlagNoPenBrush);
+}
+
 std::vector<Item> ItemsOf(const Document& document) {
     std::vector<Item> items;
     for (GraphicStruct* graphic : document.Selectable()) {
         const std::optional<WorldBox> box = ExtentsOf(graphic);
+        if (!box || !HasPenPage(graphic)) continue;
         const PropertySnapshot snapshot(document.Drawing(), {graphic});
         std::string look = std::to_string(graphic->bType);
-        if (!box || snapshot.Values("PenWidth").empty()) continue;
         for (const char* property : {"PenColor", "PenWidth", "PenStyle", "Layer"}) {
             for (const auto& value : snapshot.Values(property))
                 look += "|" + value.first;
@@ -69,7 +76,7 @@ Cells Fill(const std::vector<Item>& items, const WorldBox& grid, double size) {
 
 std::optional<WorldBox> FindMixedWindow(const Document& document) {
     const std::vector<Item> items = ItemsOf(document);
-    if (items.size() < kFewest) return std::nullopt;
+    if (items.empty()) return std::nullopt;
     WorldBox all = items.front().box;
     for (const Item& item : items)
         all = WorldBox::Around(all, item.box);

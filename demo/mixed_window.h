@@ -7,5 +7,5 @@
 
 class Document;
 
-// Nothing if the drawing has no two selectable graphics with a pen.
+// Nothing if no selectable graphic of the drawing has a Pen page.
 std::optional<WorldBox> FindMixedWindow(const Document& document);

@@ -22,7 +22,7 @@ constexpr unsigned kPause = 120; // milliseconds after an action, so that a look
 constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than what it takes
 
 // Controls of the Pen page.
-enum PenControl { kWidth = 103, kColor = 32005, kStyle = 32021 };
+enum PenControl { kWidth = 103, kScaleSystem = 109, kColor = 32005, kStyle = 32021 };
 
 // Orange, cyan, green: the first that is in the list and not there already.
 constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
@@ -140,7 +140,8 @@ bool Tour::SelectMixedSet() {
         Say(line);
     }
     TakePicture("selected");
-    return selection.Count() > 0;
+    if (selection.Count() == 0) throw std::runtime_error("nothing was selected");
+    return true;
 }
 
 // As a person would: moves it to the middle and turns the wheel.
@@ -193,6 +194,7 @@ void Tour::EditPenPage(HWND sheet) {
     Say("Pen page.");
     TakePicture("pen-page");
     PickColor(page);
+    PickPaperScale(page);
     PickWidth(page);
     PickStyle(page);
     TakePicture("pen-page-edited");
@@ -213,6 +215,16 @@ void Tour::PickColor(HWND page) {
     TakePicture("colour-list");
     m_user.Key(VK_RETURN);
     Say("  colour: " + NameOf(ComboItem(combo, Ask(combo, CB_GETCURSEL))));
+}
+
+// A width is then the same length on paper for all of the selection.
+void Tour::PickPaperScale(HWND page) {
+    const HWND combo = ::GetDlgItem(page, kScaleSystem);
+    m_user.Click(combo, DropButton(combo));
+    m_user.Keys(VK_HOME, 1);
+    m_user.Keys(VK_DOWN, 1);
+    m_user.Key(VK_RETURN);
+    Say("  width scaling: " + ComboItem(combo, Ask(combo, CB_GETCURSEL)));
 }
 
 void Tour::PickWidth(HWND page) {

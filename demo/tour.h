@@ -28,6 +28,7 @@ private:
     void EditPenPage(HWND sheet);
     void OpenPage(HWND sheet, const std::string& title);
     void PickColor(HWND page);
+    void PickPaperScale(HWND page);
     void PickWidth(HWND page);
     void PickStyle(HWND page);
     bool Report(const PropertySnapshot& before, const PropertySnapshot& after);
