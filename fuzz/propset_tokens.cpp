@@ -15,7 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     text.resize(std::strlen(text.c_str()));
 
     CProperty property;
-    if (property.Set(1, CString(text.c_str()), type)) {
+    const bool isSet = property.Set(1, CString(text.c_str()), type);
+    if (isSet && property.GetRawValue() != nullptr) {
         MemoryStream stream;
         if (!property.WriteToStream(&stream)) __builtin_trap();
         stream.Rewind();

@@ -1,6 +1,7 @@
-# Fuzzes the readers of foreign data: each for the given number of seconds (60), all processors in turn.
+# Fuzzes the readers of foreign data, one after the other: ./run fuzz [SECONDS] [NAME...]
 
 seconds=${1:-60}
+wanted=" ${*:2} "
 source run.d/setup.sh
 say "building the fuzzers"
 cmake --preset sanitize >build/configure-sanitize.log 2>&1 || { cat build/configure-sanitize.log; exit 1; }
@@ -8,6 +9,7 @@ cmake --build build/sanitize --target fuzzers
 
 failed=0
 while read -r name seeds; do
+    if [ "$wanted" != "  " ] && [[ $wanted != *" $name "* ]]; then continue; fi
     found=build/fuzz/$name   # what the fuzzer learned, from one run to the next
     mkdir -p "$found"
     say "fuzzing $name for $seconds s"
