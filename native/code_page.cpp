@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cerrno>
+#include <map>
+#include <memory>
 
 namespace orlo {
 
@@ -39,6 +41,7 @@ public:
 
     std::optional<std::string> Convert(std::string_view text) {
         if (!IsOpen()) return std::nullopt;
+        ::iconv(handle_, nullptr, nullptr, nullptr, nullptr); // forgets a text that broke off
         std::string out;
         auto* in = const_cast<char*>(text.data()); // iconv takes no const and writes nothing
         size_t inLeft = text.size();
@@ -61,15 +64,23 @@ private:
     iconv_t handle_;
 };
 
+// Opening one takes longer than most texts.
+Converter& ConverterOf(const std::string& to, const std::string& from) {
+    thread_local std::map<std::pair<std::string, std::string>, std::unique_ptr<Converter>> converters;
+    std::unique_ptr<Converter>& converter = converters[{to, from}];
+    if (!converter) converter = std::make_unique<Converter>(to, from);
+    return *converter;
+}
+
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
     if (codePage == kCodePageUtf16) text = text.substr(0, text.size() / 2 * 2);
-    return Converter("UTF-8", NameOf(codePage)).Convert(text);
+    return ConverterOf("UTF-8", NameOf(codePage)).Convert(text);
 }
 
 std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage) {
-    return Converter(NameOf(codePage), "UTF-8").Convert(utf8);
+    return ConverterOf(NameOf(codePage), "UTF-8").Convert(utf8);
 }
 
 } // namespace orlo
