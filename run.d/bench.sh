@@ -1,6 +1,15 @@
-# Builds what measures, and prints one line "name value unit" each; names choose the benches of a program.
+# Builds what measures, and prints one line "name value unit" each; names choose the benches, whichever program has them.
 
-targets=(bench_sheet keeper)
+targets=(bench_sheet bench_propset_system keeper)
 source run.d/build.sh
+packages="libgsf-1-dev pkg-config" # what the native property sets are measured against
+setup
+say "building (this machine)"
+cmake --preset native >build/configure.log 2>&1 || { cat build/configure.log; exit 1; }
+cmake --build build/native --target bench_propset
+
+build/native/bench/bench_propset "$@"
 wine_session own
-wine build/bin/bench_sheet.exe "$@" | tr -d '\r'
+for program in bench_propset_system bench_sheet; do
+    wine "build/bin/$program.exe" "$@" | tr -d '\r'
+done

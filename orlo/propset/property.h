@@ -5,8 +5,8 @@
 //   char text[] = "Ground floor";
 //   title.Set(2, text, VT_LPSTR);                        // 1; stored with its length and NUL
 //   title.Set(3, CString("12, 34"), VT_VECTOR | VT_I4);  // 1; the two numbers as a vector
-//   title.Set(text, VT_DISPATCH);                        // 0: that type has no form on a stream; no value is
-//   left title.Get(&size);                                    // null, size 0: there is no value
+//   title.Set(text, VT_DISPATCH);                        // 0: that type has no form; no value is left
+//   title.Get(&size);                                    // null, size 0: there is no value
 //
 // Types: VT_EMPTY, VT_I2, VT_UI2, VT_I4, VT_UI4, VT_BOOL (4 bytes), VT_R4, VT_R8, VT_CY, VT_DATE, VT_I8,
 // VT_FILETIME, VT_CLSID; counted 8-bit texts VT_LPSTR, VT_BSTR, VT_STREAM, VT_STORAGE, VT_STREAMED_OBJECT,

@@ -320,7 +320,8 @@ bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
 }
 
 int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
-    const auto readName = HasWideNames(reader) ? &orlo::ReadWideName : &orlo::ReadName;
+    const bool isWide = HasWideNames(reader);
+    const auto readName = isWide ? &orlo::ReadWideName : &orlo::ReadName;
     uint32_t count;
     if (!reader.Read32(count)) return 0;
     for (uint32_t i = 0; i < count; ++i) {
@@ -329,7 +330,7 @@ int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
         if (!readName(reader, id, name)) return 0;
         if (i == 0 && id == kDictionaryID)
             m_strSectionName = name;
-        else
+        else if (!isWide || !name.IsEmpty())
             SetName(id, name);
     }
     return 1;

@@ -74,7 +74,8 @@ public:
     // over one another end somewhere.
     int ReadFromStream(IStream* pStream, LARGE_INTEGER liBase);
     // The dictionary at the stream's position. Reading: 0 if it falls short or a name is longer than 256
-    // bytes; the names before that stay.
+    // bytes; the names before that stay. Names in 16-bit characters, as others write them under code page
+    // 1200, are read as well; one that the system's code page can't say is left out.
     int WriteNameDictToStream(IStream* pStream);
     int ReadNameDictFromStream(IStream* pStream);
 

@@ -1,7 +1,7 @@
 // CRCFile: prints binary data as the items of a raw-data block of a resource script. The statement around
 // them is the caller's.
 //
-//   CRCFile rc("summary.rc", CFile-style flags of CStdioFile: modeCreate | modeReadWrite);
+//   CRCFile rc("summary.rc", CStdioFile::modeCreate | CStdioFile::modeReadWrite);
 //   rc.Write("1 RCDATA\nBEGIN", 14);
 //   section.WriteToRC(&rc);                // words as 0x0054, texts in quotes, a comma between all
 //   rc.WriteString("END")                  // wrong: that is another item, with a comma before it

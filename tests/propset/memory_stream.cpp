@@ -1,7 +1,7 @@
 #include "tests/propset/memory_stream.h"
 
 HRESULT MemoryStream::Read(void* buffer, ULONG size, ULONG* done) {
-    ++calls_;
+    ++transfers_;
     const size_t left = position_ < bytes_.size() ? bytes_.size() - static_cast<size_t>(position_) : 0;
     const size_t part = std::min({size_t{size}, left, readable_});
     if (part > 0) std::memcpy(buffer, bytes_.data() + position_, part);
@@ -12,7 +12,7 @@ HRESULT MemoryStream::Read(void* buffer, ULONG size, ULONG* done) {
 }
 
 HRESULT MemoryStream::Write(const void* buffer, ULONG size, ULONG* done) {
-    ++calls_;
+    ++transfers_;
     const size_t part = std::min(size_t{size}, writable_);
     const auto end = static_cast<size_t>(position_) + part;
     if (end > bytes_.size()) bytes_.resize(end);
@@ -24,7 +24,6 @@ HRESULT MemoryStream::Write(const void* buffer, ULONG size, ULONG* done) {
 }
 
 HRESULT MemoryStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* position) {
-    ++calls_;
     LONGLONG from = 0;
     if (origin == STREAM_SEEK_CUR) from = static_cast<LONGLONG>(position_);
     if (origin == STREAM_SEEK_END) from = static_cast<LONGLONG>(bytes_.size());

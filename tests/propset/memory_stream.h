@@ -23,7 +23,7 @@ public:
     // So many bytes come from reading (go by writing), then no more; the call that meets the limit is a short one.
     void LimitReads(size_t bytes) { readable_ = bytes; }
     void LimitWrites(size_t bytes) { writable_ = bytes; }
-    int Calls() const { return calls_; }
+    int Transfers() const { return transfers_; } // reads and writes so far
 
     HRESULT STDMETHODCALLTYPE Read(void* buffer, ULONG size, ULONG* done) override;
     HRESULT STDMETHODCALLTYPE Write(const void* buffer, ULONG size, ULONG* done) override;
@@ -68,7 +68,7 @@ private:
     ULONGLONG position_ = 0;
     size_t readable_ = SIZE_MAX;
     size_t writable_ = SIZE_MAX;
-    int calls_ = 0;
+    int transfers_ = 0;
 };
 
 #pragma GCC diagnostic pop

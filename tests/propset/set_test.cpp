@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
+#include <string>
+
 #include "tests/propset/bytes.h"
 #include "tests/propset/memory_stream.h"
 
@@ -299,6 +303,28 @@ TEST(Set, OneNumberIsSeventyTwoBytes) {
                                                           "07000000"_hex);
 }
 
+TEST(Set, IsByteForByteTheExampleOfItsDocument) {
+    std::ifstream document(ORLO_DOCS "/property-sets.md");
+    std::string line, digits;
+    while (std::getline(document, line))
+        if (line.find(": ") == 8 && line.find_first_not_of("0123456789abcdef") == 8) digits += line.substr(9);
+    digits.erase(std::remove_if(digits.begin(), digits.end(), [](char c) { return c == ' ' || c == '\r'; }),
+                 digits.end());
+
+    CPropertySet set;
+    set.SetOSVersion(0x00020005);
+    CPropertySection* section = set.AddSection(kFormat);
+    short codePage = 1252;
+    char title[] = "Ground floor";
+    auto* levels = new CProperty(3, nullptr, VT_VECTOR | VT_I2);
+    levels->Set(CString("5, -1, 2"));
+    section->Set(1, &codePage, VT_I2);
+    section->Set(2, title, VT_LPSTR);
+    section->AddProperty(levels);
+    section->SetName(3, "Level");
+    EXPECT_EQ(Written(set), operator""_hex(digits.c_str(), digits.size()));
+}
+
 TEST(Set, SectionsFollowOneAnother) {
     CPropertySet set;
     int number = 7;
@@ -374,6 +400,17 @@ void Fill(CPropertySet& set) {
     section->SetName(3, "parts");
     section->SetSectionName("Plan");
     set.AddSection(kOther)->Set(9, blob.data(), VT_BLOB);
+}
+
+TEST(Set, CrossesTheStreamInOneWriteAndOneRead) {
+    CPropertySet set;
+    Fill(set);
+    MemoryStream written;
+    set.WriteToStream(&written);
+    EXPECT_EQ(written.Transfers(), 1);
+    MemoryStream stream(written.Content());
+    set.ReadFromStream(&stream);
+    EXPECT_EQ(stream.Transfers(), 1);
 }
 
 TEST(Set, ShortWriteAtEveryByteFails) {

@@ -1,0 +1,245 @@
+// With the system's own property storage, through compound files: what we write it reads, what it writes we read, for
+// the types and kinds of set that survive there.
+
+#include <gtest/gtest.h>
+
+#include <ole2.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "orlo/propset/property_set.h"
+#include "tests/propset/bytes.h"
+
+namespace {
+
+constexpr GUID kSummary = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
+const wchar_t* const kSummaryStream = L"\005SummaryInformation";
+constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
+
+template <class Interface>
+class Com {
+public:
+    Com() = default;
+    ~Com() {
+        if (pointer_ != nullptr) pointer_->Release();
+    }
+    Com(const Com&) = delete;
+    Com& operator=(const Com&) = delete;
+    Interface* operator->() const { return pointer_; }
+    Interface* Get() const { return pointer_; }
+    Interface** Receive() { return &pointer_; }
+
+private:
+    Interface* pointer_ = nullptr;
+};
+
+struct Document {
+    explicit Document(const wchar_t* path, bool isNew) {
+        const HRESULT result =
+            isNew ? ::StgCreateDocfile(path, kExclusive | STGM_CREATE, 0, storage.Receive())
+                  : ::StgOpenStorage(path, nullptr, kExclusive, nullptr, 0, storage.Receive());
+        EXPECT_EQ(result, S_OK);
+        EXPECT_EQ(storage->QueryInterface(IID_IPropertySetStorage, reinterpret_cast<void**>(sets.Receive())),
+                  S_OK);
+    }
+    Com<IStorage> storage;
+    Com<IPropertySetStorage> sets;
+};
+
+std::wstring Path(const char* name) {
+    const std::string path = std::string(ORLO_INTEROP_FOLDER "/") + name;
+    return {path.begin(), path.end()};
+}
+
+PROPSPEC ById(PROPID id) {
+    PROPSPEC spec;
+    spec.ulKind = PRSPEC_PROPID;
+    spec.propid = id;
+    return spec;
+}
+
+// Values of every type that the system keeps: its own form of each, and the bytes that we keep for it.
+class Interop : public ::testing::Test {
+protected:
+    struct Row {
+        VARTYPE type;
+        Bytes stored;
+    };
+    const std::map<PROPID, Row> rows_ = {
+        {2,
+         {VT_LPSTR, "05000000"
+                    "636166e900"_hex}},
+        {3, {VT_I2, "feff"_hex}},
+        {4, {VT_I4, "ffffff7f"_hex}},
+        {5, {VT_UI2, "feff"_hex}},
+        {6, {VT_UI4, "feffffff"_hex}},
+        {7, {VT_I8, "0102030405060708"_hex}},
+        {8,
+         {VT_LPWSTR, "03000000"
+                     "6100e9000000"_hex}},
+        {12, {VT_FILETIME, "00803ed5deb19d01"_hex}},
+        {20, {VT_CLSID, "e0859ff2f94f6810ab9108002b27b3d9"_hex}},
+        {21,
+         {VT_BLOB, "05000000"
+                   "0102030405"_hex}},
+        {22,
+         {VT_CF, "0b000000"
+                 "ffffffff"
+                 "03000000"
+                 "010203"_hex}},
+    };
+
+    static Bytes BytesOf(const PROPVARIANT& value) {
+        const auto raw = [](const void* from, size_t size) {
+            const auto* bytes = static_cast<const uint8_t*>(from);
+            return Bytes(bytes, bytes + size);
+        };
+        switch (value.vt) {
+        case VT_LPSTR: {
+            const size_t size = std::strlen(value.pszVal) + 1;
+            return LittleEndian(static_cast<uint32_t>(size)) + raw(value.pszVal, size);
+        }
+        case VT_LPWSTR: {
+            const size_t length = std::wcslen(value.pwszVal) + 1;
+            return LittleEndian(static_cast<uint32_t>(length)) + raw(value.pwszVal, length * 2);
+        }
+        case VT_CLSID:
+            return raw(value.puuid, sizeof *value.puuid);
+        case VT_BLOB:
+            return LittleEndian(value.blob.cbSize) + raw(value.blob.pBlobData, value.blob.cbSize);
+        case VT_CF:
+            return LittleEndian(value.pclipdata->cbSize) +
+                   LittleEndian(static_cast<uint32_t>(value.pclipdata->ulClipFmt)) +
+                   raw(value.pclipdata->pClipData, value.pclipdata->cbSize - 4);
+        default:
+            return raw(&value.hVal, value.vt == VT_I8 || value.vt == VT_FILETIME ? 8
+                                    : value.vt == VT_I2 || value.vt == VT_UI2    ? 2
+                                                                                 : 4);
+        }
+    }
+
+    // The system's form, pointing into `stored`, which outlives it.
+    static PROPVARIANT VariantOf(const Row& row, Bytes& stored, CLIPDATA& clip) {
+        PROPVARIANT value{};
+        value.vt = row.type;
+        switch (row.type) {
+        case VT_LPSTR:
+            value.pszVal = reinterpret_cast<char*>(&stored[4]);
+            break;
+        case VT_LPWSTR:
+            value.pwszVal = reinterpret_cast<wchar_t*>(&stored[4]);
+            break;
+        case VT_CLSID:
+            value.puuid = reinterpret_cast<GUID*>(stored.data());
+            break;
+        case VT_BLOB:
+            value.blob = {static_cast<ULONG>(stored.size() - 4), &stored[4]};
+            break;
+        case VT_CF:
+            clip = {static_cast<ULONG>(stored.size() - 4), -1, &stored[8]};
+            value.pclipdata = &clip;
+            break;
+        default:
+            std::memcpy(&value.hVal, stored.data(), stored.size());
+        }
+        return value;
+    }
+};
+
+TEST_F(Interop, TheSystemReadsWhatWeWrite) {
+    const std::wstring path = Path("ours.doc");
+    {
+        Document document(path.c_str(), true);
+        Com<IStream> stream;
+        ASSERT_EQ(
+            document.storage->CreateStream(kSummaryStream, kExclusive | STGM_CREATE, 0, 0, stream.Receive()),
+            S_OK);
+        CPropertySet set;
+        CPropertySection* section = set.AddSection(kSummary);
+        short codePage = 1252;
+        section->Set(1, &codePage, VT_I2);
+        for (const auto& [id, row] : rows_) {
+            Bytes stored = row.stored;
+            const bool isText = row.type == VT_LPSTR || row.type == VT_LPWSTR;
+            section->Set(id, &stored[isText ? 4 : 0], row.type);
+        }
+        section->SetName(3, "Storey");
+        ASSERT_EQ(set.WriteToStream(stream.Get()), 1);
+        ASSERT_EQ(document.storage->Commit(STGC_DEFAULT), S_OK);
+    }
+    Document document(path.c_str(), false);
+    Com<IPropertyStorage> properties;
+    ASSERT_EQ(document.sets->Open(kSummary, kExclusive, properties.Receive()), S_OK);
+    for (const auto& [id, row] : rows_) {
+        const PROPSPEC spec = ById(id);
+        PROPVARIANT value{};
+        EXPECT_EQ(properties->ReadMultiple(1, &spec, &value), S_OK) << id;
+        EXPECT_EQ(value.vt, row.type) << id;
+        EXPECT_EQ(BytesOf(value), row.stored) << id;
+        ::PropVariantClear(&value);
+    }
+    wchar_t name[] = L"storey";
+    PROPSPEC byName;
+    byName.ulKind = PRSPEC_LPWSTR;
+    byName.lpwstr = name;
+    PROPVARIANT value{};
+    EXPECT_EQ(properties->ReadMultiple(1, &byName, &value), S_OK);
+    EXPECT_EQ(value.vt, VT_I2);
+}
+
+TEST_F(Interop, WeReadWhatTheSystemWrites) {
+    for (const DWORD flags : {DWORD{PROPSETFLAG_ANSI}, DWORD{PROPSETFLAG_DEFAULT}}) {
+        const bool isAnsi = flags == PROPSETFLAG_ANSI;
+        const std::wstring path = Path(isAnsi ? "theirs_ansi.doc" : "theirs_wide.doc");
+        {
+            Document document(path.c_str(), true);
+            Com<IPropertyStorage> properties;
+            ASSERT_EQ(document.sets->Create(kSummary, nullptr, flags, kExclusive | STGM_CREATE,
+                                            properties.Receive()),
+                      S_OK);
+            for (const auto& [id, row] : rows_) {
+                if (row.type == VT_LPSTR && !isAnsi) continue; // the system itself cuts it
+                Bytes stored = row.stored;
+                CLIPDATA clip;
+                const PROPSPEC spec = ById(id);
+                const PROPVARIANT value = VariantOf(row, stored, clip);
+                ASSERT_EQ(properties->WriteMultiple(1, &spec, &value, 2), S_OK) << id;
+            }
+            const PROPID named[] = {3, 4};
+            wchar_t first[] = L"Storey", second[] = L"H\xF6he";
+            LPOLESTR names[] = {first, second};
+            ASSERT_EQ(properties->WritePropertyNames(2, named, names), S_OK);
+            ASSERT_EQ(properties->Commit(STGC_DEFAULT), S_OK);
+        }
+        Document document(path.c_str(), false);
+        Com<IStream> stream;
+        ASSERT_EQ(document.storage->OpenStream(kSummaryStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
+                                               stream.Receive()),
+                  S_OK);
+        CPropertySet set;
+        ASSERT_EQ(set.ReadFromStream(stream.Get()), 1);
+        for (const auto& [id, row] : rows_) {
+            if (row.type == VT_LPSTR && !isAnsi) continue;
+            CProperty* property = set.GetProperty(kSummary, id);
+            ASSERT_NE(property, nullptr) << id;
+            EXPECT_EQ(property->GetType(), row.type);
+            ASSERT_NE(property->GetRawValue(), nullptr) << id;
+            EXPECT_EQ(std::memcmp(property->GetRawValue(), row.stored.data(), row.stored.size()), 0) << id;
+        }
+        DWORD id = 0;
+        EXPECT_EQ(set.GetSection(kSummary)->GetID("STOREY", &id), 1);
+        EXPECT_EQ(id, 3u);
+        EXPECT_EQ(set.GetSection(kSummary)->GetID("h\xF6he", &id), 1);
+        EXPECT_EQ(id, 4u);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    ::OleInitialize(nullptr);
+    return RUN_ALL_TESTS();
+}
