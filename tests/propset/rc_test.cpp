@@ -172,6 +172,7 @@ TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
     Bytes strings = LittleEndian(3) + "0100000000"
                                       "020000006100"
                                       "03000000626300"_hex;
+    Bytes shorts = LittleEndian(5001) + Bytes(2 * 5001, 0x5A);
     Bytes wide = "6100e90000d80a000d0000000000"_hex;
     Bytes sixteen = "000102030405060708090a0b0c0d0e0f"_hex;
     const struct {
@@ -203,7 +204,7 @@ TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
         {VT_CF, blob.data()},
         {VT_CLSID, sixteen.data()},
         {73, blob.data()},
-        {VT_VECTOR | VT_I2, blob.data()},
+        {VT_VECTOR | VT_I2, shorts.data()},
         {VT_VECTOR | VT_LPSTR, strings.data()},
         {VT_LPSTR, nullptr},
         {VT_EMPTY, nullptr},
