@@ -91,7 +91,7 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM, LPARAM lParam, LRESULT* pResu
 }
 
 BEGIN_MESSAGE_MAP(CComboBox, CWnd)
-    ON_WM_MEASUREITEM()
+ON_WM_MEASUREITEM()
 END_MESSAGE_MAP()
 
 CComboBox::CComboBox() = default;

@@ -15,7 +15,7 @@ struct AfxThreadState {
     CWnd* windowInCreation = nullptr;
     HHOOK createHook = nullptr;
     CWinThread* thread = nullptr;
-    bool reporting = false; // an exception's message box is up
+    bool reporting = false;      // an exception's message box is up
     HWND lastMeasured = nullptr; // the control whose row was last asked for
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;

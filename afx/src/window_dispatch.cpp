@@ -167,7 +167,8 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
 // A list that is filled asks for each item, and the search for a child is slow: the last one is tried first.
 static HWND MeasuredControl(HWND parent, int id) {
     HWND& last = AfxThreadState::Get().lastMeasured;
-    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent) last = ::GetDlgItem(parent, id);
+    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent)
+        last = ::GetDlgItem(parent, id);
     return last;
 }
 
