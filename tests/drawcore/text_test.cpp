@@ -66,6 +66,20 @@ TEST_F(Texts, GrowWithTheirSizeAndStretchToTheirWidth) {
     EXPECT_FALSE(SetReal(text, "TextSize", 0));
 }
 
+TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
+    // Many narrow letters: rounding each to whole pixels would make some lengths half as long again.
+    const char* const kString = "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH";
+    for (const double width : {40.0, 55.0, 70.0, 90.0}) {
+        GraphicStruct* text = Text(kString, 5, 50, 12, 0, width);
+        Draw();
+        const int end = 5 + static_cast<int>(width);
+        EXPECT_EQ(picture.Covered(end + 2, 0, 100, 100), 0) << width;
+        EXPECT_GT(picture.Covered(end - 4, 0, end + 1, 100), 5) << width;
+        GraphicDelete(drawing.Root(), text);
+        GraphicDispose(&text);
+    }
+}
+
 TEST_F(Texts, ShowTheirEffects) {
     GraphicStruct* text = Text("nnnn", 10, 50, 10);
     const auto covered = [&](uint16_t style) {

@@ -56,6 +56,17 @@ TextFace::~TextFace() {
     ::DeleteObject(font_);
 }
 
+std::vector<int> TextFace::Steps(std::wstring_view row) const {
+    const SelectedObject selected(MeasuringDevice(), font_);
+    std::vector<int> steps(row.size());
+    SIZE size{};
+    ::GetTextExtentExPointW(MeasuringDevice(), row.data(), static_cast<int>(row.size()), 0, nullptr,
+                            steps.data(), &size);
+    for (size_t i = steps.size(); i-- > 1;)
+        steps[i] -= steps[i - 1];
+    return steps;
+}
+
 double TextFace::Width(std::wstring_view row) const {
     const SelectedObject selected(MeasuringDevice(), font_);
     SIZE size{};

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <windows.h>
 
@@ -22,6 +23,8 @@ public:
 
     // Length of a row along the baseline, in heights of a capital letter.
     double Width(std::wstring_view row) const;
+    // The way from each letter to the next, in the font's units; their sum is the length.
+    std::vector<int> Steps(std::wstring_view row) const;
 
     // The font to draw with, and the height of its capital letters in logical units.
     HFONT Font() const { return font_; }

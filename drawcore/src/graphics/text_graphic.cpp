@@ -1,6 +1,7 @@
 #include "drawcore/src/graphics/text_graphic.h"
 
 #include <algorithm>
+#include <numeric>
 #include <tuple>
 
 #include <windows.h>
@@ -86,8 +87,9 @@ void TextGraphic::LayOut() const {
     }
     rows_.clear();
     for (std::wstring& row : texts) {
-        const double width = face.Width(row);
-        rows_.push_back({std::move(row), {}, width});
+        std::vector<int> steps = face.Steps(row);
+        const double width = std::accumulate(steps.begin(), steps.end(), 0.0) / face.CapitalHeight();
+        rows_.push_back({std::move(row), std::move(steps), {}, width});
     }
     PlaceRows(face);
 }
@@ -120,7 +122,8 @@ void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
     for (const Row& row : rows_) {
         if (row.text.empty()) continue;
-        trace.sink.Text({row.text, &face, RowMatrix(row) * trace.matrix, row.width, use.color});
+        trace.sink.Text(
+            {row.text, row.steps.data(), &face, RowMatrix(row) * trace.matrix, row.width, use.color});
     }
 }
 
@@ -132,7 +135,7 @@ void TextGraphic::TraceFrame(const Trace& trace, const PenUse& use) const {
         right = std::max(right, row.origin.x + row.width);
     }
     const double top = rows_.front().origin.y + 1 + kFrameGap, bottom = rows_.back().origin.y - 2 * kFrameGap;
-    const Matrix matrix = RowMatrix({{}, {}, 0}) * trace.matrix;
+    const Matrix matrix = RowMatrix({{}, {}, {}, 0}) * trace.matrix;
     Path& path = trace.tools.path;
     path.Clear();
     path.MoveTo(matrix.Plan({left - kFrameGap, bottom, 0}));

@@ -23,7 +23,7 @@ enum class TextAnchor : uint8_t { Baseline, Bottom, Middle, Top };
 
 struct TextState {
     std::wstring text; // UTF-16; lines end with '\n'
-    std::string font; // face name; empty is the default face
+    std::string font;  // face name; empty is the default face
     Vec3 position;
     Vec3 along{1, 0, 0}; // direction of the baseline, length 1
     Vec3 up{
@@ -60,6 +60,7 @@ private:
     // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
     struct Row {
         std::wstring text;
+        std::vector<int> steps;
         Point origin;
         double width;
     };

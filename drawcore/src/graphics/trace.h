@@ -37,6 +37,7 @@ struct BrushUse {
 // baseline to the height of a capital letter.
 struct TextRow {
     std::wstring_view text;
+    const int* steps = nullptr; // from letter to letter, in units of the face's font; as many as letters
     const TextFace* face = nullptr;
     Matrix matrix;
     double width = 0;
@@ -61,7 +62,7 @@ public:
 };
 
 // How many graphics of blocks one tracing goes through: insertions in insertions can multiply without end.
-constexpr long kTraceBudget = 2'000'000;
+constexpr long kTraceBudget = 1'000'000;
 
 // What a tracing needs once: the tables of the drawing (null where there are none) and working space.
 struct TraceTools {

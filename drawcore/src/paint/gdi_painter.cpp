@@ -41,7 +41,8 @@ bool GdiPainter::PenKey::operator==(const PenKey& other) const {
 }
 
 GdiPainter::GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings)
-    : dc_(dc), saved_(dc), settings_(settings), inch_(::GetDeviceCaps(dc, LOGPIXELSX)), clip_(BoxOf(clip)) {
+    : dc_(dc), saved_(dc), settings_(settings), inch_(::GetDeviceCaps(dc, LOGPIXELSX)), clip_(BoxOf(clip)),
+      texts_(dc) {
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     ::SetBkMode(dc, TRANSPARENT);
     ::SetROP2(dc, R2_COPYPEN);
@@ -127,6 +128,7 @@ void GdiPainter::AddDot(const Point& p, const PenKey& key) {
 
 void GdiPainter::Flush() {
     if (counts_.empty()) return;
+    texts_.End();
     ::SelectObject(dc_, PenOf(waiting_));
     ::PolyPolyline(dc_, points_.data(), counts_.data(), static_cast<DWORD>(counts_.size()));
     points_.clear();
@@ -164,6 +166,7 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
 
 void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {
     Flush();
+    texts_.End();
     std::vector<INT> sizes;
     for (size_t area = 0; area < areas.Count(); ++area) {
         if (areas.End(area) - areas.Begin(area) < 2) continue;
@@ -192,24 +195,7 @@ void GdiPainter::Text(const TextRow& row) {
         return Stroke(line, use);
     }
     Flush();
-    DrawRow(row);
-}
-
-void GdiPainter::DrawRow(const TextRow& row) {
-    const SavedDC saved(dc_);
-    const double unit = 1.0 / row.face->CapitalHeight(); // the font's y goes down, the row's up
-    const XFORM form{
-        static_cast<FLOAT>(row.matrix.at[0][0] * unit),  static_cast<FLOAT>(row.matrix.at[0][1] * unit),
-        static_cast<FLOAT>(-row.matrix.at[1][0] * unit), static_cast<FLOAT>(-row.matrix.at[1][1] * unit),
-        static_cast<FLOAT>(row.matrix.at[3][0]),         static_cast<FLOAT>(row.matrix.at[3][1])};
-    const int mode = ::SetGraphicsMode(dc_, GM_ADVANCED);
-    ::ModifyWorldTransform(dc_, &form, MWT_LEFTMULTIPLY);
-    ::SelectObject(dc_, row.face->Font());
-    ::SetTextAlign(dc_, TA_LEFT | TA_BASELINE);
-    ::SetTextColor(dc_, Seen(row.color));
-    ::TextOutW(dc_, 0, 0, row.text.data(), static_cast<int>(row.text.size()));
-    ::ModifyWorldTransform(dc_, nullptr, MWT_IDENTITY);
-    ::SetGraphicsMode(dc_, mode);
+    texts_.Draw(row, Seen(row.color));
 }
 
 } // namespace drawcore

@@ -9,6 +9,7 @@
 #include "drawcore/src/graphics/trace.h"
 #include "drawcore/src/paint/gdi.h"
 #include "drawcore/src/paint/path_clip.h"
+#include "drawcore/src/paint/text_output.h"
 
 namespace drawcore {
 
@@ -50,7 +51,6 @@ private:
     void Flush();
     HPEN PenOf(const PenKey& key);
     void FillSolid(const Path& areas, Color color, bool winding);
-    void DrawRow(const TextRow& row);
 
     HDC dc_;
     SavedDC saved_;
@@ -58,6 +58,7 @@ private:
     const double inch_;
     const Box clip_;
     std::map<PenKey, OwnedPen> pens_;
+    TextOutput texts_;
 
     // Lines that wait for the device.
     PenKey waiting_{};
