@@ -11,14 +11,19 @@ expect() { # READER TEXT OUTPUT
 
 if command -v gsf >/dev/null; then
     readers=$((readers + 1))
-    said=$(gsf props "$file" 2>&1)
-    expect gsf "café" "$said"
-    expect gsf "1970-01-01" "$said"
+    names=$(gsf listprops "$file")
+    # shellcheck disable=SC2086 # the names are words
+    said=$(gsf props "$file" $names)
+    expect gsf $'dc:title: \t= "caf\\303\\251"' "$said"
+    expect gsf $'gsf:last-saved-by: \t= "a\\303\\251"' "$said"
+    expect gsf $'meta:creation-date: \t= 1970-01-01T00:00:00Z' "$said"
+    expect gsf $'storey: \t= -2' "$said"
 fi
 
-if python3 -c 'import olefile' 2>/dev/null; then
+for python in python3 /usr/bin/python3; do
+    "$python" -c 'import olefile' 2>/dev/null || continue
     readers=$((readers + 1))
-    said=$(python3 - "$file" <<'PYTHON'
+    said=$("$python" - "$file" <<'PYTHON'
 import sys, olefile
 ole = olefile.OleFileIO(sys.argv[1])
 for number, value in sorted(ole.getproperties("\x05SummaryInformation").items()):
@@ -30,12 +35,11 @@ PYTHON
     expect olefile "3 -2" "$said"
     expect olefile "4 2147483647" "$said"
     expect olefile "6 4294967294" "$said"
-    expect olefile "8 'aé'" "$said"
     expect olefile "12 11644473600" "$said"
     expect olefile "20 'F29F85E0-4FF9-1068-AB91-08002B27B3D9'" "$said"
     expect olefile "21 b'\\x01\\x02\\x03\\x04\\x05'" "$said"
-    expect olefile "issues []" "$said"
-fi
+    break
+done
 
 if [ $readers -eq 0 ]; then exit 77; fi
 echo "$readers readers agree"

@@ -60,7 +60,8 @@ PROPSPEC ById(PROPID id) {
     return spec;
 }
 
-// Values of every type that the system keeps: its own form of each, and the bytes that we keep for it.
+// Values of the types that the system keeps, and the bytes that we keep for each. It writes VT_CF eight bytes too
+// large, and loses reals, truths, dates, money and vectors.
 class Interop : public ::testing::Test {
 protected:
     struct Row {
@@ -84,11 +85,6 @@ protected:
         {21,
          {VT_BLOB, "05000000"
                    "0102030405"_hex}},
-        {22,
-         {VT_CF, "0b000000"
-                 "ffffffff"
-                 "03000000"
-                 "010203"_hex}},
     };
 
     static Bytes BytesOf(const PROPVARIANT& value) {
@@ -109,10 +105,6 @@ protected:
             return raw(value.puuid, sizeof *value.puuid);
         case VT_BLOB:
             return LittleEndian(value.blob.cbSize) + raw(value.blob.pBlobData, value.blob.cbSize);
-        case VT_CF:
-            return LittleEndian(value.pclipdata->cbSize) +
-                   LittleEndian(static_cast<uint32_t>(value.pclipdata->ulClipFmt)) +
-                   raw(value.pclipdata->pClipData, value.pclipdata->cbSize - 4);
         default:
             return raw(&value.hVal, value.vt == VT_I8 || value.vt == VT_FILETIME ? 8
                                     : value.vt == VT_I2 || value.vt == VT_UI2    ? 2
@@ -121,7 +113,7 @@ protected:
     }
 
     // The system's form, pointing into `stored`, which outlives it.
-    static PROPVARIANT VariantOf(const Row& row, Bytes& stored, CLIPDATA& clip) {
+    static PROPVARIANT VariantOf(const Row& row, Bytes& stored) {
         PROPVARIANT value{};
         value.vt = row.type;
         switch (row.type) {
@@ -136,10 +128,6 @@ protected:
             break;
         case VT_BLOB:
             value.blob = {static_cast<ULONG>(stored.size() - 4), &stored[4]};
-            break;
-        case VT_CF:
-            clip = {static_cast<ULONG>(stored.size() - 4), -1, &stored[8]};
-            value.pclipdata = &clip;
             break;
         default:
             std::memcpy(&value.hVal, stored.data(), stored.size());
@@ -202,9 +190,8 @@ TEST_F(Interop, WeReadWhatTheSystemWrites) {
             for (const auto& [id, row] : rows_) {
                 if (row.type == VT_LPSTR && !isAnsi) continue; // the system itself cuts it
                 Bytes stored = row.stored;
-                CLIPDATA clip;
                 const PROPSPEC spec = ById(id);
-                const PROPVARIANT value = VariantOf(row, stored, clip);
+                const PROPVARIANT value = VariantOf(row, stored);
                 ASSERT_EQ(properties->WriteMultiple(1, &spec, &value, 2), S_OK) << id;
             }
             const PROPID named[] = {3, 4};
