@@ -134,7 +134,7 @@ void CMainFrame::OnDropFiles(HDROP drop) {
     wchar_t path[MAX_PATH] = L"";
     ::DragQueryFileW(drop, 0, path, MAX_PATH);
     ::DragFinish(drop);
-    if (path[0]) Open(Utf8(path));
+    if (path[0] && IsWindowEnabled()) Open(Utf8(path));
 }
 
 void CMainFrame::OnAppExit() {
