@@ -37,7 +37,10 @@ wine_session() {
         read -r -t 20 -u "$xvfb_fd" number || die "Xvfb did not start"
         export DISPLAY=:$number
     fi
-    wineserver -p
+    # The server of a program that has just ended lingers for seconds, and would refuse to stay; one that another session
+    # of this folder keeps is shared.
+    timeout 10 wineserver -w || true
+    wineserver -p || true
     # Waits for its window: what the first program starts for all (services, desktop) would otherwise be started by a
     # test, and hold the pipe open that the test's reader waits on.
     exec {keeper_fd}< <(exec wine build/bin/keeper.exe </dev/null 2>/dev/null)
