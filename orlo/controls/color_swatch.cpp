@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "orlo/controls/paint.h"
+#include "orlo/controls/realized_palette.h"
 #include "orlo/host/application.h"
 
 namespace {

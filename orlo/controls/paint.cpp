@@ -4,17 +4,6 @@
 
 #include <cstring>
 
-RealizedPalette::RealizedPalette(HDC dc, HPALETTE palette)
-    : dc_(dc), before_(palette ? ::SelectPalette(dc, palette, FALSE) : nullptr) {
-    if (before_) ::RealizePalette(dc);
-}
-
-RealizedPalette::~RealizedPalette() {
-    if (!before_) return;
-    ::SelectPalette(dc_, before_, TRUE);
-    ::RealizePalette(dc_);
-}
-
 void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
     const COLORREF before = ::SetBkColor(dc, color);
     ::ExtTextOutA(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);

@@ -38,19 +38,6 @@ private:
     HGDIOBJ before_;
 };
 
-// Palette in the foreground, back to the old one in the background.
-class RealizedPalette {
-public:
-    RealizedPalette(HDC dc, HPALETTE palette);
-    ~RealizedPalette();
-    RealizedPalette(const RealizedPalette&) = delete;
-    RealizedPalette& operator=(const RealizedPalette&) = delete;
-
-private:
-    HDC dc_;
-    HPALETTE before_;
-};
-
 // Text in that colour on whatever is below it.
 class TextColor {
 public:

@@ -2,6 +2,7 @@
 
 #include "orlo/frame/graphic_preview.h"
 
+#include "orlo/controls/realized_palette.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
@@ -9,7 +10,7 @@
 IMPLEMENT_DYNAMIC(CGraphicPreview, CWnd)
 
 BEGIN_MESSAGE_MAP(CGraphicPreview, CWnd)
-    ON_WM_PAINT()
+ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace {
@@ -23,25 +24,6 @@ COLORREF PreviewBackground(const AppStruct* application) {
     if (application != nullptr) ::TableGetIntVar(application->pVariables, kVarPreviewBackground, &color);
     return static_cast<COLORREF>(color);
 }
-
-// The application's palette, in the device for as long as this lives.
-class RealizedPalette {
-public:
-    RealizedPalette(HDC dc, HPALETTE palette) : m_dc(dc), m_before(::SelectPalette(dc, palette, FALSE)) {
-        ::RealizePalette(dc);
-    }
-    ~RealizedPalette() {
-        if (m_before == nullptr) return;
-        ::SelectPalette(m_dc, m_before, TRUE);
-        ::RealizePalette(m_dc);
-    }
-    RealizedPalette(const RealizedPalette&) = delete;
-    RealizedPalette& operator=(const RealizedPalette&) = delete;
-
-private:
-    HDC m_dc;
-    HPALETTE m_before;
-};
 
 void FillWith(HDC dc, const CRect& rect, COLORREF color) {
     CBrush brush(color);

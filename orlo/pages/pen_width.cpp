@@ -6,7 +6,7 @@
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
-#include "orlo/pages/pen_width_list.h"
+#include "orlo/controls/pen_width_list.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // CPenWidthList.
 
-#include "orlo/pages/pen_width_list.h"
+#include "orlo/controls/pen_width_list.h"
 
 #include <cstdio>
 #include <cstring>
@@ -23,7 +23,8 @@ const char* CPenWidthList::First(AppStruct* application, TableStruct* units, con
     m_pszCursor = nullptr;
     m_szUnit[0] = m_szItem[0] = '\0';
     char path[MAX_PATH];
-    if (!::TableGetStringVar(units, static_cast<uint16_t>(unitVariable), m_szUnit, sizeof m_szUnit)) return nullptr;
+    if (!::TableGetStringVar(units, static_cast<uint16_t>(unitVariable), m_szUnit, sizeof m_szUnit))
+        return nullptr;
     if (!::AppGetINIFileName(application, path, sizeof path)) return nullptr;
     if (!ReadEntry(path, section)) return nullptr;
     return NextItem(m_strBuffer.GetBuffer(kEntrySize));
@@ -38,16 +39,20 @@ bool CPenWidthList::ReadEntry(const char* path, const char* section) {
         if (m_strBuffer.IsEmpty()) return false;
         if (m_strBuffer[0] != kAlias) return true;
         const CString alias = m_strBuffer.Mid(1);
-        if (alias.GetLength() >= static_cast<int>(sizeof m_szUnit)) return false; // longer than any unit's name
+        if (alias.GetLength() >= static_cast<int>(sizeof m_szUnit))
+            return false; // longer than any unit's name
         std::strcpy(m_szUnit, alias);
     }
     return false;
 }
 
-const char* CPenWidthList::Next() { return m_pszCursor != nullptr ? NextItem(nullptr) : nullptr; }
+const char* CPenWidthList::Next() {
+    return m_pszCursor != nullptr ? NextItem(nullptr) : nullptr;
+}
 
 const char* CPenWidthList::NextItem(char* text) {
-    for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr; m_pszCursor = std::strtok(nullptr, ",")) {
+    for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr;
+         m_pszCursor = std::strtok(nullptr, ",")) {
         const int length = std::snprintf(m_szItem, sizeof m_szItem, "%s %s", m_pszCursor, m_szUnit);
         if (length < static_cast<int>(sizeof m_szItem)) return m_szItem;
     }
