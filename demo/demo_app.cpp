@@ -5,9 +5,9 @@
 #include "demo/main_frame.h"
 #include "demo/tour.h"
 #include "drawcore/application.h"
-#include "drawcore/table.h"
 #include "orlo/frame/entry.h"
 #include "orlo/host/application.h"
+#include "orlo/host/table.h"
 
 IMPLEMENT_DYNAMIC(CDemoApp, CWinApp)
 

@@ -9,6 +9,16 @@ DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct*, const char* name);
 
 // Length text to drawing units and back, in the drawing's own unit settings. A number without a unit is in drawing units, and
 // so it is written. A text that is not wholly a length gives 0 and leaves the value alone.
-// kind: 0 a length, 1 a text size.
+// kind: 0 a length, 1 a text size: in a drawing on paper millimetres, with the unit of text sizes in the text.
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct*, const char* text, double* value, int kind);
 DRAWCORE_API int DrawingStdNumericToText(DrawingStruct*, double value, char* buffer, int size, int kind);
+
+// The space that the drawing's lengths are in: 0 the world (drawing units), 1 paper (millimetres), 2 that of a device, which
+// has no lengths.
+DRAWCORE_API uint16_t DrawingGetCoordSpace(DrawingStruct*);
+// The same conversions for a length in that space; unit is the variable of the units table that names the unit of the text:
+// 0x5033 for the world, kUnitTextSize for a text size on paper. 0 in the space 2.
+DRAWCORE_API int DrawingStdTextToNumericEx(DrawingStruct*, const char* text, double* value,
+                                           uint16_t coordSpace, uint16_t unit);
+DRAWCORE_API int DrawingStdNumericToTextEx(DrawingStruct*, double value, char* buffer, int size,
+                                           uint16_t coordSpace, uint16_t unit);

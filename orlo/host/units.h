@@ -31,3 +31,5 @@ DRAWCORE_API int UnitsMakeScaleString(TableStruct* units, double scale, char* bu
 // Variables of a units table that hold the name of a unit.
 constexpr uint16_t kUnitTextSize = 0x5035;
 constexpr uint16_t kUnitPenWidth = 0x5036;
+// Variable of a units table: the face of the current font.
+constexpr uint16_t kUnitFontName = 0x50BC;

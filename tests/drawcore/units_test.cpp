@@ -197,6 +197,36 @@ TEST_F(Lengths, OnPaperAreMillimetresInWhateverUnitTheTextIs) {
     EXPECT_FALSE(UnitsTextToNumericEx(units, 0x1234, 0, "1", &value)) << "no unit variable";
 }
 
+TEST_F(Lengths, FollowTheSpaceOfTheDrawing) {
+    TableSetStringVar(units, kUnitTextSize, "cm");
+    char text[64], standard[64];
+    double value = 7;
+    EXPECT_EQ(DrawingGetCoordSpace(drawing), 0);
+    EXPECT_TRUE(DrawingStdNumericToTextEx(drawing, 2.5, text, sizeof text, 0, kUnitDrawing));
+    EXPECT_STREQ(text, "2.5") << "drawing units";
+    EXPECT_TRUE(DrawingStdTextToNumericEx(drawing, "25.4 mm", &value, 0, kUnitDrawing));
+    EXPECT_NEAR(value, 1, 1e-12);
+
+    ASSERT_TRUE(DrawingSetCoordSpace(drawing, 1));
+    EXPECT_TRUE(DrawingStdNumericToTextEx(drawing, 25, text, sizeof text, 1, kUnitTextSize));
+    EXPECT_STREQ(text, "2.5 cm") << "millimetres, shown in the unit of text sizes";
+    EXPECT_TRUE(DrawingStdNumericToText(drawing, 25, standard, sizeof standard, 1));
+    EXPECT_STREQ(standard, text) << "a text size follows the drawing";
+    EXPECT_TRUE(DrawingStdNumericToText(drawing, 25, standard, sizeof standard, 0));
+    EXPECT_STREQ(standard, "25") << "a length does not";
+    EXPECT_TRUE(DrawingStdTextToNumericEx(drawing, "1", &value, 1, kUnitTextSize));
+    EXPECT_NEAR(value, 10, 1e-12);
+
+    ASSERT_TRUE(DrawingSetCoordSpace(drawing, 2));
+    EXPECT_FALSE(DrawingStdTextToNumericEx(drawing, "1", &value, 2, kUnitTextSize));
+    EXPECT_FALSE(DrawingStdNumericToTextEx(drawing, 1, text, sizeof text, 2, kUnitTextSize));
+    EXPECT_NEAR(value, 10, 1e-12);
+    EXPECT_FALSE(DrawingSetCoordSpace(drawing, 3));
+    EXPECT_EQ(DrawingGetCoordSpace(drawing), 2);
+    EXPECT_TRUE(TableGetStringVar(units, kUnitFontName, text, sizeof text));
+    EXPECT_STREQ(text, "Arial");
+}
+
 // --- scales
 
 TEST_F(Lengths, MakeScales) {

@@ -18,6 +18,9 @@ DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);
 // The group of all graphics of the drawing, in the order of drawing. The drawing's.
 DRAWCORE_API GraphicStruct* DrawingGetRoot(DrawingStruct*);
 
+// What DrawingGetCoordSpace gives from then on; a new drawing has 0. 0, with nothing changed, if there is no such space.
+DRAWCORE_API int DrawingSetCoordSpace(DrawingStruct*, uint16_t space);
+
 // Adds a table of plain entries, whose data stays the caller's; null if the name is taken.
 DRAWCORE_API TableStruct* DrawingAddTable(DrawingStruct*, const char* name);
 // Removes any table of the drawing with its entries. 0 if the table is not this drawing's.

@@ -15,10 +15,3 @@
 DRAWCORE_API uint16_t TableEntryAdd(TableStruct*, const char* name, void* data);
 // Removes the entry with what it owns. 0 if there is none.
 DRAWCORE_API int TableEntryDelete(TableStruct*, uint16_t id);
-
-// Sets a typed variable; one of another type under that identifier is replaced. 0 if there is no such table.
-DRAWCORE_API int TableSetIntVar(TableStruct*, uint16_t id, int value);
-DRAWCORE_API int TableSetNumericVar(TableStruct*, uint16_t id, double value);
-DRAWCORE_API int TableSetStringVar(TableStruct*, uint16_t id, const char* text);
-// 0, with the value left alone, if there is no number under that identifier.
-DRAWCORE_API int TableGetNumericVar(TableStruct*, uint16_t id, double* value);

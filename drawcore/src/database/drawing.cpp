@@ -73,6 +73,18 @@ GraphicStruct* DrawingGetRoot(DrawingStruct* drawing) {
     return found ? &found->Root() : nullptr;
 }
 
+uint16_t DrawingGetCoordSpace(DrawingStruct* drawing) {
+    const Drawing* found = Drawing::Find(drawing);
+    return found ? found->coordSpace : uint16_t{kSpaceDevice}; // no drawing has no lengths
+}
+
+int DrawingSetCoordSpace(DrawingStruct* drawing, uint16_t space) {
+    Drawing* found = Drawing::Find(drawing);
+    if (!found || space > kSpaceDevice) return 0;
+    found->coordSpace = space;
+    return 1;
+}
+
 TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* name) {
     Drawing* found = Drawing::Find(drawing);
     return found && name ? found->FindTable(name) : nullptr;

@@ -22,6 +22,9 @@ constexpr const char* kColorsTable = "_Colors_";
 constexpr const char* kBlocksTable = "_Blocks_";
 constexpr const char* kUnitsTable = "_Units_";
 
+// What the lengths of a drawing are measured in.
+enum : uint16_t { kSpaceWorld = 0, kSpacePaper = 1, kSpaceDevice = 2 };
+
 class Drawing : public DrawingStruct {
 public:
     Drawing();
@@ -50,6 +53,7 @@ public:
     VertexGraphic& Root() const { return *root_; } // the group of all its graphics
     UndoLog& Undo() const { return *undo_; }
 
+    uint16_t coordSpace = kSpaceWorld;
     double lineScale = 1; // DXF's $LTSCALE: dash patterns of the drawing's own graphics grow by it
 
 private:

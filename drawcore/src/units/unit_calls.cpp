@@ -52,6 +52,21 @@ Table* UnitsOf(DrawingStruct* drawing) {
     return found ? found->Units() : nullptr;
 }
 
+// The space that a length of the drawing is in, or a text size (kind 1), which follows the drawing.
+uint16_t SpaceOf(DrawingStruct* drawing, int kind) {
+    return kind == 1 ? DrawingGetCoordSpace(drawing) : uint16_t{kSpaceWorld};
+}
+
+uint16_t UnitInSpace(uint16_t space) {
+    return space == kSpaceWorld ? kUnitDrawing : kUnitTextSize;
+}
+
+// The variable that says what the number itself is; one that no table has for the space without lengths.
+uint16_t NumberInSpace(uint16_t space) {
+    if (space == kSpaceDevice) return 0;
+    return space == kSpaceWorld ? kUnitDrawing : kUnitMillimetre;
+}
+
 } // namespace
 
 } // namespace drawcore
@@ -68,12 +83,25 @@ int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, 
     return NumberToText(Table::Find(units), display, number, value, buffer, size, suffix != 0);
 }
 
-int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int) {
-    return TextToNumber(UnitsOf(drawing), kUnitDrawing, 0, text, value);
+int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int kind) {
+    const uint16_t space = SpaceOf(drawing, kind);
+    return DrawingStdTextToNumericEx(drawing, text, value, space, UnitInSpace(space));
 }
 
-int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int) {
-    return NumberToText(UnitsOf(drawing), 0, kUnitDrawing, value, buffer, size, false);
+int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int kind) {
+    const uint16_t space = SpaceOf(drawing, kind);
+    return DrawingStdNumericToTextEx(drawing, value, buffer, size, space, UnitInSpace(space));
+}
+
+int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t coordSpace,
+                              uint16_t unit) {
+    return TextToNumber(UnitsOf(drawing), NumberInSpace(coordSpace), unit, text, value);
+}
+
+int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size,
+                              uint16_t coordSpace, uint16_t unit) {
+    return NumberToText(UnitsOf(drawing), unit, NumberInSpace(coordSpace), value, buffer, size,
+                        coordSpace != kSpaceWorld);
 }
 
 double UnitsGetScaleValue(TableStruct* units, const char* text) {

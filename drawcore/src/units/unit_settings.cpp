@@ -12,6 +12,7 @@ void UnitSettings::Store(Table& units) const {
     units.SetVariable(kUnitMillimetre, std::string("mm"));
     units.SetVariable(kUnitTextSize, textSizeUnit);
     units.SetVariable(kUnitPenWidth, penWidthUnit);
+    units.SetVariable(kUnitFontName, fontName);
     units.SetVariable(kUnitLinearDigits, linearDigits);
 }
 

@@ -12,6 +12,7 @@ struct UnitSettings {
     std::string drawingUnit = "mm";
     std::string textSizeUnit = "mm";
     std::string penWidthUnit = "mm";
+    std::string fontName = "Arial";
     int linearDigits = 4;
 
     void Store(Table& units) const;
