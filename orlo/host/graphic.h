@@ -10,6 +10,10 @@ DRAWCORE_API GraphicStruct* GraphicNewEx(int type, int reserved, int flags);
 // Frees the graphic with its parts and clears the pointer. It has left its owner before.
 DRAWCORE_API void GraphicDispose(GraphicStruct** graphic);
 
+// A copy of the graphic with copies of its parts, that belongs to nobody; of a set, a group with copies of its members.
+// reserved are 0, flags is 7. Null on failure.
+DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct*, int reserved1, int reserved2, int flags);
+
 // Ties a graphic (with its parts) to a drawing for style look-ups; null unties it.
 DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
 DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
@@ -41,4 +45,9 @@ DRAWCORE_API void GraphicSetPenColor(GraphicStruct*, uint32_t color);
 DRAWCORE_API void GraphicSetPenStyle(GraphicStruct*, uint16_t style);
 DRAWCORE_API void GraphicSetPenScale(GraphicStruct*, double scale);
 DRAWCORE_API void GraphicSetScaleSystem(GraphicStruct*, int system);
+DRAWCORE_API void GraphicSetPenWidth(GraphicStruct*, double width);
 DRAWCORE_API void GraphicSetBrushStyle(GraphicStruct*, uint16_t style);
+// Also 0xFFFFFFFB: the colour of the pen.
+DRAWCORE_API void GraphicSetBrushColor(GraphicStruct*, uint32_t color);
+// Multiplies the spacing of a vector pattern.
+DRAWCORE_API void GraphicSetBrushScale(GraphicStruct*, double scale);

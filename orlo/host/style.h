@@ -1,4 +1,4 @@
-// Line styles: entries of the table "_LineStyles_".
+// Line styles and brush styles: entries of the tables "_LineStyles_" and "_BrushStyles_".
 #pragma once
 
 #include "orlo/host/api.h"
@@ -9,3 +9,22 @@ DRAWCORE_API int LineStyleGetDLItems(TableStruct*, uint16_t id);
 // Copies that many items (drawing units at scale 1): a positive item is a dash, a negative one a gap, 0 a dot. 0, with
 // nothing copied, if there is no such style.
 DRAWCORE_API int LineStyleGetPattern(TableStruct*, uint16_t id, double* pattern);
+
+// What a brush style is. Set: the style is a vector pattern; clear: a bitmap.
+constexpr uint16_t kBrushVector = 1;
+// The second bit says of a vector pattern that it has lines, and of a bitmap that it takes the brush colour.
+constexpr uint16_t kBrushHasLines = 2;
+constexpr uint16_t kBrushTakesColor = 2;
+
+// One family of lines of a vector pattern; the host's.
+struct BrushPatternStruct {};
+
+// 0 if there is no such style.
+DRAWCORE_API uint16_t BrushStyleGetFlags(TableStruct*, uint16_t id);
+// Walk over the families of lines of a style; they belong to the style. The cookie starts at 0. Null at the end.
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct*, uint16_t id, int* cookie);
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct*, uint16_t id, int* cookie);
+// Direction of the lines (radians), a point of the first one, the offset to the next one along and across the lines
+// (drawing units at brush scale 1), and the first 8 items of the dash list.
+DRAWCORE_API void BrushPatternGetData(const BrushPatternStruct*, double* angle, double* baseX, double* baseY,
+                                      double* along, double* spacing, int* dashCount, double* dashes);

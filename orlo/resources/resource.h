@@ -4,6 +4,13 @@
 // Dialog templates; the number is the identity of a page in its sheet.
 #define IDD_GENERAL_PAGE 29000
 #define IDD_PEN_PAGE 29001
+#define IDD_BRUSH_PAGE 29002
+#define IDD_TEXT_PAGE 29003
+#define IDD_INSERT_PAGE 29004
+
+// Kinds of brush style.
+#define IDS_BITMAP_BRUSH 109
+#define IDS_VECTOR_BRUSH 110
 
 // Messages of the exchange functions.
 #define IDS_ENTER_ANGLE 120
@@ -17,5 +24,11 @@
 // Controls that come to life in dialog templates; see controls/control_factory.h for every number.
 #define IDC_LINE_STYLE_LIST 32021
 #define IDC_COLOR 32005
+#define IDC_BRUSH_STYLE_LIST 32024
+#define IDC_BRUSH_COLOR 32006
+#define IDC_FONT_FACE 32000
+#define IDC_FONT_SIZE 32001
+#define IDC_FONT_STYLE 32002
+#define IDC_TEXT_COLOR 32023
 #define IDC_LAYER 32008
 #define IDC_STYLE_NAME 32015

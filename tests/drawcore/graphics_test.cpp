@@ -158,6 +158,33 @@ TEST(Selections, BorrowTheirMembers) {
     EXPECT_TRUE(balance.IsEven());
 }
 
+TEST(Selections, AreCopiedAsAGroupOfCopies) {
+    OwnDrawing drawing;
+    const Balance balance;
+    GraphicStruct *a = drawing.Add(MakeLines({{0, 0}, {1, 1}})), *b = drawing.Add(MakeSquare(2, 2, 2));
+    SetWhole(b, "BrushStyle", 3);
+    GraphicStruct* selection = SelectionNew();
+    SelectionAdd(selection, a);
+    SelectionAdd(selection, b);
+    GraphicStruct* copy = GraphicCopyEx(selection, 0, 0, 7);
+    GraphicDispose(&selection);
+    SetWhole(b, "BrushStyle", 4);
+    ASSERT_TRUE(GraphicGetIsGroup(copy));
+    uint32_t position;
+    GraphicStruct* first = GraphicFirst(copy, &position, 1, kFilterKinds);
+    GraphicStruct* second = GraphicNext(copy, &position, 1, kFilterKinds);
+    EXPECT_NE(first, a);
+    EXPECT_EQ(GetWhole(second, "BrushStyle"), 3u);
+    EXPECT_EQ(second->pParent, copy);
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(copy, 0)), 4);
+    GraphicDispose(&copy);
+    for (GraphicStruct* graphic : {a, b}) {
+        GraphicDelete(drawing.Root(), graphic);
+        GraphicDispose(&graphic);
+    }
+    EXPECT_TRUE(balance.IsEven());
+}
+
 TEST(RegenMethods, AreTheHostPrograms) {
     struct Calls {
         std::vector<GraphicStruct*> rebuilt;

@@ -258,6 +258,30 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     GraphicDispose(&square);
 }
 
+TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
+    GraphicStruct* square = MakeSquare(10, 10, 79);
+    SetWhole(square, "PenStyle", 0);
+    SetWhole(square, "BrushColor", kBlue);
+    TableStruct* styles = drawing.Table("_BrushStyles_");
+    const auto draw = [&](const char* style) {
+        SetWhole(square, "BrushStyle", TableEntryGetIDFirst(styles, nullptr, style));
+        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        picture.Draw(square);
+        EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 89, 89)) << "nothing outside";
+        return picture.Covered(16, 16, 79, 79) / 4096.0; // whole tiles
+    };
+    EXPECT_DOUBLE_EQ(draw("Dots 25%"), 0.25);
+    EXPECT_DOUBLE_EQ(draw("Dots 75%"), 0.75);
+    EXPECT_DOUBLE_EQ(draw("Brick"), 1.0) << "its own paper covers all";
+    EXPECT_NE(picture.At(50, 50), kBlue);
+    draw("Dots 50%");
+    int blue = 0;
+    for (int x = 20; x < 28; ++x)
+        blue += picture.At(x, 50) == kBlue;
+    EXPECT_EQ(blue, 4);
+    GraphicDispose(&square);
+}
+
 TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
     GraphicStruct* circle = GraphicNewEx(kGraphicPenBrush, 0, 1); // unit circle
     picture.Draw(circle);

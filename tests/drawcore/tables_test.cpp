@@ -5,6 +5,7 @@
 #include <climits>
 #include <cmath>
 
+#include <drawcore/brushstyle.h>
 #include <drawcore/layer.h>
 #include <drawcore/units.h>
 
@@ -173,6 +174,42 @@ TEST_F(Tables, HoldLayers) {
 }
 
 // Every call on a table or drawing that is gone has an answer.
+TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
+    TableStruct* styles = drawing.Table("_BrushStyles_");
+    const auto id = [&](const char* name) { return TableEntryGetIDFirst(styles, nullptr, name); };
+    EXPECT_EQ(BrushStyleGetFlags(styles, id("Solid")), kBrushVector);
+    EXPECT_EQ(BrushStyleGetFlags(styles, id("Cross")), kBrushVector | kBrushHasLines);
+    EXPECT_EQ(BrushStyleGetFlags(styles, id("Dots 50%")), kBrushTakesColor);
+    EXPECT_EQ(BrushStyleGetFlags(styles, id("Brick")), 0);
+    EXPECT_EQ(BrushStyleGetFlags(styles, 9999), 0);
+
+    const BrushLine lines[] = {{0.5, 1, 2, 0.25, 3, 2, {1, -0.5}}, {1.25, 0, 0, 0, 4, 0, {}}};
+    const uint16_t made = BrushStyleAddLines(styles, "Weave", lines, 2);
+    ASSERT_NE(made, 0);
+    int cookie = 0, walked = 0;
+    for (auto* line = BrushStyleGetFirstPattern(styles, made, &cookie); line;
+         line = BrushStyleGetNextPattern(styles, made, &cookie), ++walked) {
+        ASSERT_LT(walked, 2);
+        BrushLine read{};
+        BrushPatternGetData(line, &read.angle, &read.baseX, &read.baseY, &read.along, &read.spacing,
+                            &read.dashCount, read.dashes);
+        EXPECT_DOUBLE_EQ(read.angle, lines[walked].angle);
+        EXPECT_DOUBLE_EQ(read.baseY, lines[walked].baseY);
+        EXPECT_NEAR(read.along, lines[walked].along, 1e-12);
+        EXPECT_NEAR(read.spacing, lines[walked].spacing, 1e-12);
+        EXPECT_EQ(read.dashCount, lines[walked].dashCount);
+        EXPECT_EQ(read.dashes[1], lines[walked].dashes[1]);
+    }
+    EXPECT_EQ(walked, 2);
+
+    BrushLine bad = lines[1];
+    bad.spacing = 0;
+    EXPECT_EQ(BrushStyleAddLines(styles, "Flat", &bad, 1), 0);
+    bad.spacing = NAN;
+    EXPECT_EQ(BrushStyleAddLines(styles, "None", &bad, 1), 0);
+    EXPECT_EQ(BrushStyleAddLines(styles, "weave", lines, 2), 0) << "the name is taken";
+}
+
 TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
     TableStruct* styles = drawing.Table("_LineStyles_");
     TableStruct* units = drawing.Table("_Units_");

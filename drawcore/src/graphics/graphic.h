@@ -37,6 +37,8 @@ public:
     virtual Kind GetKind() const = 0;
     // A copy with copies of the parts, tied to the same drawing and owned by nobody.
     std::unique_ptr<Graphic> Clone() const;
+    // The same of whatever a walk over the graphic gives: of a selection, a group with copies of its members.
+    virtual std::unique_ptr<Graphic> Copy() const { return Clone(); }
     // A copy without parts, for Restore and EqualState: the state is everything but parts, owner and drawing.
     virtual std::unique_ptr<Graphic> CloneState() const = 0;
     virtual void Restore(const Graphic& saved) = 0;

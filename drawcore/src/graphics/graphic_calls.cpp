@@ -87,6 +87,14 @@ void GraphicDispose(GraphicStruct** graphic) {
     *graphic = nullptr;
 }
 
+GraphicStruct* GraphicCopyEx(GraphicStruct* graphic, int, int, int) {
+    try {
+        return graphic ? Graphic::From(graphic)->Copy().release() : nullptr;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void GraphicAttach(GraphicStruct* graphic, DrawingStruct* drawing) {
     if (graphic) Graphic::From(graphic)->Attach(Drawing::Find(drawing));
 }
@@ -168,6 +176,23 @@ void GraphicSetScaleSystem(GraphicStruct* graphic, int system) {
     const uint8_t value = system == kScaleWorld ? kScaleWorld : kScalePaper;
     SetAttribute(
         graphic, [](Graphic & g) -> auto& { return g.pen.scaleSystem; }, value);
+}
+
+void GraphicSetPenWidth(GraphicStruct* graphic, double width) {
+    if (std::isfinite(width))
+        SetAttribute(
+            graphic, [](Graphic & g) -> auto& { return g.pen.width; }, std::fabs(width));
+}
+
+void GraphicSetBrushColor(GraphicStruct* graphic, uint32_t color) {
+    SetAttribute(
+        graphic, [](Graphic & g) -> auto& { return g.brush.color; }, color);
+}
+
+void GraphicSetBrushScale(GraphicStruct* graphic, double scale) {
+    if (std::isfinite(scale))
+        SetAttribute(
+            graphic, [](Graphic & g) -> auto& { return g.brush.scale; }, std::fabs(scale));
 }
 
 void GraphicSetBrushStyle(GraphicStruct* graphic, uint16_t style) {

@@ -2,6 +2,7 @@
 
 #include "drawcore/include/drawcore/selection.h"
 #include "drawcore/src/graphics/properties.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {
 
@@ -12,6 +13,13 @@ std::unique_ptr<Graphic> Selection::CloneState() const {
     for (Graphic* member : members_)
         copy->Include(member);
     return copy;
+}
+
+std::unique_ptr<Graphic> Selection::Copy() const {
+    auto group = std::make_unique<VertexGraphic>();
+    for (const Graphic* member : members_)
+        group->Add(member->Clone());
+    return group;
 }
 
 bool Selection::Include(Graphic* graphic) {

@@ -12,6 +12,7 @@ public:
     Selection();
     Kind GetKind() const override { return Kind::Group; }
     std::unique_ptr<Graphic> CloneState() const override;
+    std::unique_ptr<Graphic> Copy() const override;
     void Restore(const Graphic&) override {}
     bool EqualState(const Graphic&) const override { return true; }
     void TraceShape(const Trace&, const PenUse&) const override {}

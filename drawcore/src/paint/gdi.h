@@ -17,6 +17,7 @@ struct DeleteGdiDC {
 
 using OwnedPen = std::unique_ptr<std::remove_pointer_t<HPEN>, DeleteGdiObject>;
 using OwnedBrush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteGdiObject>;
+using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
 using OwnedDC = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteGdiDC>;
 
 class SelectedObject {

@@ -157,6 +157,7 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
         areas = &clipped_;
     }
     const Color color = Seen(use.color);
+    if (use.style && use.style->bitmap) return FillTiles(*areas, use, color);
     if (!use.style || use.style->lines.empty()) return FillSolid(*areas, color, use.winding);
     if (!ShowsHatch(use, kFinestHatch))
         return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
@@ -164,7 +165,35 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
     AddLines(pieces_, {color, 1, false}, true);
 }
 
+// The tiles start at the origin of the drawing, so that they move with it.
+void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
+    const BrushBitmap& bitmap = *use.style->bitmap;
+    constexpr int kSide = 8;
+    WORD bits[kSide]; // a row fills whole words, its pixels in the first byte
+    std::copy(bitmap.rows.begin(), bitmap.rows.end(), bits);
+    const OwnedBitmap tile(::CreateBitmap(kSide, kSide, 1, 1, bits));
+    const OwnedBrush brush(::CreatePatternBrush(tile.get()));
+
+    Flush();
+    const SavedDC saved(dc_);
+    const Point origin = use.pattern.Plan({0, 0, 0});
+    const auto step = [](double at) {
+        return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0;
+    };
+    ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
+    const bool own = bitmap.colors && !settings_.highlight;
+    // A set bit takes the background colour of the device context, a clear one its text colour.
+    ::SetBkColor(dc_, own ? bitmap.colors->ink : ink);
+    ::SetTextColor(dc_, own ? bitmap.colors->paper : settings_.background);
+    FillAreas(areas, brush.get(), own ? bitmap.colors->ink : ink, use.winding);
+}
+
 void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {
+    const OwnedBrush brush(::CreateSolidBrush(color));
+    FillAreas(areas, brush.get(), color, winding);
+}
+
+void GdiPainter::FillAreas(const Path& areas, HBRUSH brush, Color edge, bool winding) {
     Flush();
     texts_.End();
     std::vector<INT> sizes;
@@ -174,10 +203,9 @@ void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {
             points_.push_back(ToDevice(areas.points[i]));
         sizes.push_back(static_cast<INT>(areas.End(area) - areas.Begin(area)));
     }
-    const OwnedBrush brush(::CreateSolidBrush(color));
-    const SelectedObject selectedBrush(dc_, brush.get());
+    const SelectedObject selectedBrush(dc_, brush);
     // The outline belongs to the area: a filling of the device alone would stop a pixel short of it.
-    const SelectedObject selectedPen(dc_, PenOf({color, 1, false}));
+    const SelectedObject selectedPen(dc_, PenOf({edge, 1, false}));
     ::SetPolyFillMode(dc_, winding ? WINDING : ALTERNATE);
     if (!sizes.empty()) ::PolyPolygon(dc_, points_.data(), sizes.data(), static_cast<int>(sizes.size()));
     points_.clear();

@@ -51,6 +51,8 @@ private:
     void Flush();
     HPEN PenOf(const PenKey& key);
     void FillSolid(const Path& areas, Color color, bool winding);
+    void FillTiles(const Path& areas, const BrushUse& use, Color ink);
+    void FillAreas(const Path& areas, HBRUSH brush, Color edge, bool winding);
 
     HDC dc_;
     SavedDC saved_;

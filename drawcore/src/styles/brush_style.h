@@ -1,8 +1,13 @@
-// Brush styles: solid, or a pattern of parallel lines; the table "_BrushStyles_".
+// Brush styles: solid, a pattern of parallel lines, or a bitmap; the table "_BrushStyles_".
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/styles/colors.h"
 #include "drawcore/src/tables/table.h"
+#include "orlo/host/style.h"
 
 namespace drawcore {
 
@@ -10,7 +15,7 @@ constexpr uint16_t kBrushNone = 0;
 constexpr uint16_t kBrushSolid = 1;
 
 // One family of parallel lines, as DXF defines it; drawing units and radians at brush scale 1, brush angle 0.
-struct PatternLine {
+struct PatternLine : BrushPatternStruct {
     double angle = 0;           // direction of the lines
     Point base;                 // one of the lines starts its dashes here
     Point offset;               // from a line to the next, in the pattern's axes (not turned by the angle)
@@ -18,15 +23,28 @@ struct PatternLine {
     double Spacing() const;     // distance from line to line
 };
 
-// Without lines the style is solid.
+// A tile of 8 by 8 device pixels, the same size at every zoom; scale, angle and cross do not touch it.
+struct BrushBitmap {
+    struct Colors {
+        Color ink, paper;
+    };
+
+    std::array<uint8_t, 8> rows{}; // from the top; the highest bit is the leftmost pixel; set is ink
+    std::optional<Colors> colors;  // none: ink is the brush colour, paper what lies behind
+};
+
+// Without lines and bitmap the style is solid.
 class BrushStyle : public TableEntry {
 public:
     BrushStyle(std::string_view entryName, std::vector<PatternLine> patternLines)
         : TableEntry(entryName), lines(std::move(patternLines)) {}
+    BrushStyle(std::string_view entryName, const BrushBitmap& tile) : TableEntry(entryName), bitmap(tile) {}
+
     const std::vector<PatternLine> lines;
+    const std::optional<BrushBitmap> bitmap;
 };
 
-// The first entries are "Solid", which has the identifier kBrushSolid, and six plain hatches.
+// The first entries are "Solid", which has the identifier kBrushSolid, six plain hatches and four bitmaps.
 class BrushStyleTable : public TableOf<BrushStyle> {
 public:
     explicit BrushStyleTable(Drawing* owner);
