@@ -2,17 +2,14 @@
 
 #include "orlo/pages/line_page.h"
 
-#include <cstring>
-
 #include "orlo/binding/ddp.h"
-#include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
-#include "orlo/host/application.h"
-#include "orlo/host/drawing.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
+#include "orlo/pages/current_drawing.h"
+#include "orlo/pages/mixed_value.h"
 #include "orlo/pages/pen_width.h"
 #include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
@@ -41,30 +38,16 @@ constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
 
-DrawingStruct* CurrentDrawing() {
-    const AppStruct* application = ::AppGetCurrentApp();
-    return application != nullptr ? application->pCurrentDrawing : nullptr;
-}
-
-TableStruct* LineStylesOf(DrawingStruct* drawing) {
-    return drawing != nullptr ? ::DrawingGetTable(drawing, "_LineStyles_") : nullptr;
-}
-
-bool IsMixed(double value) {
-    const double marker = Indeterminate<double>::Value();
-    return CompareDoubles(&value, &marker) == 0;
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
-    ON_CBN_SELCHANGE(kScaleSystemCombo, &ThisClass::OnScaleSystemChange)
+ON_CBN_SELCHANGE(kScaleSystemCombo, &ThisClass::OnScaleSystemChange)
 END_MESSAGE_MAP()
 
 CLinePage::CLinePage()
-    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(LineStylesOf(CurrentDrawing())), m_dwColor(kColorByLayer),
-      m_dWidth(0.0), m_dScale(1.0), m_nStyle(kStyleByLayer), m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1),
-      m_nLastAlignment(0) {}
+    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable("_LineStyles_")),
+      m_dwColor(kColorByLayer), m_dWidth(0.0), m_dScale(1.0), m_nStyle(kStyleByLayer),
+      m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1), m_nLastAlignment(0) {}
 
 CLinePage::~CLinePage() = default;
 
@@ -83,7 +66,8 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DrawingStruct* drawing = CurrentDrawing();
 
     // The property is wider than the member. Saving, the member already holds what the combo shows.
-    unsigned short scaleSystem = m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
+    unsigned short scaleSystem =
+        m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
     DDP_Text(pDX, kScaleSystemCombo, scaleSystem, "ScaleSystem");
     m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
     DDX_CBScaleSystem(1, pDX, kScaleSystemCombo, m_nScaleSystem);
@@ -112,23 +96,26 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 CString CLinePage::StyleName(unsigned int style) const {
     char name[sizeof m_szStyleName] = "";
     switch (style) {
-    case kNoStyle: return "Undefined";
+    case kNoStyle:
+        return "Undefined";
     case kStyleMixed:
-    case kIndeterminateId: return "Indeterminate";
-    case kStyleByLayer: ::DrawCoreLoadString(kStringByLayer, name, sizeof name); break;
-    case kStyleByBlock: ::DrawCoreLoadString(kStringByBlock, name, sizeof name); break;
-    default: ::TableEntryGetName(m_pLineStyles, static_cast<uint16_t>(style), name, sizeof name);
+    case kIndeterminateId:
+        return "Indeterminate";
+    case kStyleByLayer:
+        ::DrawCoreLoadString(kStringByLayer, name, sizeof name);
+        break;
+    case kStyleByBlock:
+        ::DrawCoreLoadString(kStringByBlock, name, sizeof name);
+        break;
+    default:
+        ::TableEntryGetName(m_pLineStyles, static_cast<uint16_t>(style), name, sizeof name);
     }
     return name;
 }
 
 int CLinePage::DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& style) {
     if (!DDX_LBTableIndex(bReport, pDX, kStyleList, style)) return 0;
-    const CString name = StyleName(style);
-    if (name != m_szStyleName) {
-        lstrcpynA(m_szStyleName, name, sizeof m_szStyleName);
-        ::SetDlgItemTextA(m_hWnd, kStyleNameText, m_szStyleName);
-    }
+    ShowStyleName(m_hWnd, kStyleNameText, StyleName(style), m_szStyleName);
     return 1;
 }
 
@@ -149,20 +136,11 @@ void CLinePage::OnScaleSystemChange() {
 }
 
 void* CLinePage::CreatePreviewGraphic() {
-    return NewPreviewShape({{0.1, 0.2}, {0.1, 0.8}, {0.9, 0.8}, {0.9, 0.2}, {0.1, 0.2}});
-}
-
-// The box comes up mixed, leaves that state at the first click, and never comes back to it.
-int CLinePage::AlignmentForPreview(CDataExchange* pDX, int bAll) {
-    int value = 0;
-    DDX_Check(0, pDX, kAlignmentBox, value);
-    if (value != kIndeterminateCheck) {
-        m_nLastAlignment = value;
-    } else if (!bAll) {
-        value = m_nLastAlignment = 1 - m_nLastAlignment;
-        ::SendDlgItemMessageA(m_hWnd, kAlignmentBox, BM_SETCHECK, value, 0);
-    }
-    return value;
+    return NewPreviewShape({{0.1, 0.2, 0, true},
+                            {0.1, 0.8, 0, true},
+                            {0.9, 0.8, 0, true},
+                            {0.9, 0.2, 0, true},
+                            {0.1, 0.2, 0, true}});
 }
 
 void CLinePage::SetPreviewProperties(int bAll) {
@@ -195,7 +173,8 @@ void CLinePage::SetPreviewProperties(int bAll) {
         DDX_CBScaleSystem(0, &dx, kScaleSystemCombo, system);
         if (system != kScaleMixed) SetPropText("ScaleSystem", system, 1);
     }
-    if (wanted(kAlignmentBox)) SetPropCheck("PenAlignment", AlignmentForPreview(&dx, bAll), 1);
+    if (wanted(kAlignmentBox))
+        SetPropCheck("PenAlignment", CheckForPreview(&dx, kAlignmentBox, bAll, m_nLastAlignment), 1);
 
     // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);

@@ -3,6 +3,7 @@
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/style_name.h"
 
 class CLinePage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CLinePage)
@@ -29,15 +30,14 @@ protected:
 
 private:
     CString StyleName(unsigned int style) const;
-    int AlignmentForPreview(CDataExchange* pDX, int bAll);
 
     TableStruct* m_pLineStyles;
     unsigned long m_dwColor;
     double m_dWidth; // inches of paper, or drawing units: m_nScaleSystem
     double m_dScale;
     unsigned int m_nStyle;
-    unsigned char m_nScaleSystem; // follows its combo at once, unlike the others
-    char m_szStyleName[128];      // what the style's name shows
+    unsigned char m_nScaleSystem;       // follows its combo at once, unlike the others
+    char m_szStyleName[kStyleNameSize]; // what the style's name shows
     int m_nAlignment;
     int m_nLastAlignment; // the last definite state of the check box
 };

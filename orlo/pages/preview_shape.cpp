@@ -23,25 +23,26 @@ private:
     VertexStruct* m_vertex;
 };
 
-void AddVertices(GraphicStruct* graphic, VertexStruct* scratch, std::initializer_list<PreviewPoint> points) {
-    for (const PreviewPoint& point : points) {
-        ::VertexSet(scratch, point.x, point.y, 0);
-        ::GraphicVertexAdd(graphic, scratch);
-    }
-}
-
 } // namespace
 
-GraphicStruct* NewPreviewShape(std::initializer_list<PreviewPoint> points) {
+GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
     const ScratchVertex scratch;
     if (scratch.get() == nullptr) return nullptr;
-    GraphicStruct* shape = ::GraphicNewEx(kGraphicVertices, 0, 1);
-    if (shape == nullptr) return nullptr;
-    AddVertices(shape, scratch.get(), points);
+    GraphicStruct* graphic = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    if (graphic == nullptr) return nullptr;
+    for (const PreviewVertex& vertex : vertices) {
+        ::VertexSet(scratch.get(), vertex.x, vertex.y, vertex.z);
+        scratch.get()->wFlags = static_cast<uint16_t>(vertex.drawn ? scratch.get()->wFlags | kDrawn
+                                                                   : scratch.get()->wFlags & ~kDrawn);
+        ::GraphicVertexAdd(graphic, scratch.get());
+    }
+    return graphic;
+}
 
-    if (GraphicStruct* corners = ::GraphicNewEx(kGraphicVertices, 0, 1)) {
-        scratch.get()->wFlags &= static_cast<uint16_t>(~kDrawn);
-        AddVertices(corners, scratch.get(), {{0, 0}, {1, 1}});
+GraphicStruct* NewPreviewShape(std::initializer_list<PreviewVertex> vertices) {
+    GraphicStruct* shape = NewVertexList(vertices);
+    if (shape == nullptr) return nullptr;
+    if (GraphicStruct* corners = NewVertexList({{0, 0, 0, false}, {1, 1, 0, false}})) {
         corners->dwFlags |= kFlagPreview;
         ::GraphicAdd(shape, corners);
     }

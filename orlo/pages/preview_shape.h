@@ -5,10 +5,13 @@
 
 #include "orlo/host/graphic.h"
 
-struct PreviewPoint {
-    double x, y; // in the unit square
+struct PreviewVertex {
+    double x, y, z; // drawing units
+    bool drawn;     // the segment to it
 };
 
-// A new vertex graphic through the points, with an undrawn part that holds its extents at the unit square. It belongs to
-// the caller. Null if it cannot be made.
-GraphicStruct* NewPreviewShape(std::initializer_list<PreviewPoint> points);
+// A new vertex graphic of these vertices, the caller's. Null if it cannot be made.
+GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices);
+
+// The same with an undrawn part that holds its extents at the unit square.
+GraphicStruct* NewPreviewShape(std::initializer_list<PreviewVertex> vertices);
