@@ -1,5 +1,6 @@
 // suminfo check, thumbnail and rc, and the command line itself.
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
@@ -47,6 +48,13 @@ TEST(Thumbnail, InItsOwnSizeOrInAGivenOne) {
     EXPECT_EQ(picture.width, 100);
     EXPECT_EQ(picture.height, 40);
     EXPECT_GT(picture.colours, 10);
+    ASSERT_EQ(RunSuminfo({"thumbnail", "--stream",
+                          (kStreams / "CameraRollAnim-max--SummaryInformation--68b542.bin").string(), png})
+                  .exitCode,
+              0);
+    picture = ReadPng(png);
+    EXPECT_EQ(std::max(picture.width, picture.height), 256);
+    EXPECT_GT(picture.colours, 100);
 }
 
 TEST(Thumbnail, OfWhatHasNoneOrADamagedOneLeavesTheOldPicture) {
@@ -82,17 +90,48 @@ TEST(ResourceScript, HoldsTheSections) {
     EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
 }
 
+TEST(ResourceScript, OfListsOfVariantsIsRefusedAndLeavesNoFile) {
+    const Folder folder;
+    const fs::path script = folder.Path() / "out.rc";
+    const std::string stream = (kStreams / "25695-xls--DocumentSummaryInformation--a23cd4.bin").string();
+    Outcome run = RunSuminfo({"rc", "--stream", stream, script.string()});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "suminfo: " + stream + ": section 1 holds a type of value that can't be printed\n");
+    EXPECT_TRUE(fs::is_empty(folder.Path()));
+    const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
+    run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "suminfo: " + nowhere + ": can't be made\n");
+}
+
 TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
-    const Outcome fine = RunSuminfo({"check", "test11--695187.doc", "sent--da96eb.msg"}, kDocuments);
+    const Outcome fine = RunSuminfo(
+        {"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
     EXPECT_EQ(fine.exitCode, 0) << fine.out;
-    EXPECT_NE(fine.out.find("test11--695187.doc: nothing irregular\n"), std::string::npos) << fine.out;
-    EXPECT_NE(fine.out.find("sent--da96eb.msg: no property sets\n"), std::string::npos) << fine.out;
-    const Outcome odd =
-        RunSuminfo({"check", "clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt"}, kDocuments);
+    EXPECT_EQ(fine.out.rfind(
+                  "input-bw-one-band--340370.fpx: nothing irregular\nsent--da96eb.msg: no property sets\n"
+                  "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 bytes behind",
+                  0),
+              0u)
+        << fine.out;
+    const Outcome odd = RunSuminfo({"check", "-r", "."}, kDocuments);
     EXPECT_EQ(odd.exitCode, 1);
-    EXPECT_NE(odd.out.find(": \\005SummaryInfkrmation: 0x000134: damaged 306: section 0, property 17: VT_CF"),
+    for (const char* line :
+         {"/test11--695187.doc: \\005SummaryInformation: 0x0000C0: irregular 206: section 0: 16 unused bytes",
+          ": \\005SummaryInfkrmation: 0x000134: damaged 306: section 0, property 17: VT_CF",
+          "/bug55030--18fccf.ppt: nothing irregular\n"})
+        EXPECT_NE(odd.out.find(line), std::string::npos) << line << "\nis missing in\n" << odd.out;
+    EXPECT_NE(odd.err.find("loop-in-alloc--d3743f.bin: can't be opened"), std::string::npos) << odd.err;
+}
+
+TEST(Check, BareStreams) {
+    const Outcome run = RunSuminfo(
+        {"check", "--stream", "fn-et--SummaryInformation--b68908.bin", "mut-44-byte-order--b060d6.bin"},
+        kStreams);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.out.find("mut-44-byte-order--b060d6.bin: 0x000000: damaged 101: byte order mark"),
               std::string::npos)
-        << odd.out;
+        << run.out;
 }
 
 TEST(CommandLine, WrongOnesExitWithTwo) {

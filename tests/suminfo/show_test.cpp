@@ -23,7 +23,8 @@ std::map<std::string, Json> ByFile(const std::string& lines) {
     std::istringstream stream(lines);
     for (std::string line; std::getline(stream, line);) {
         Json object = Json::parse(line);
-        objects[fs::path(object["file"].get<std::string>()).filename().string()] = std::move(object);
+        const auto name = fs::path(object["file"].get<std::string>()).filename().string();
+        objects[name] = std::move(object);
     }
     return objects;
 }
@@ -78,6 +79,7 @@ const Json* Stream(const Json& file, const Json& name) {
     return nullptr;
 }
 
+// Damaged ones say so, and don't hang; what can be read of them is there.
 TEST(Show, ValuesOfRealDocuments) {
     const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
     const auto shown = ByFile(run.out);
@@ -93,25 +95,22 @@ TEST(Show, ValuesOfRealDocuments) {
             ExpectSet(*found, set);
         }
     }
-}
-
-TEST(Show, DamagedFilesSaySoAndDontHang) {
-    const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
     for (const char* file : {"loop-in-open-1--b587ad.bin", "loop-in-alloc--d3743f.bin"}) {
         EXPECT_NE(run.err.find(std::string(file) + ": can't be opened"), std::string::npos) << run.err;
-        EXPECT_EQ(run.out.find(file), std::string::npos);
+        EXPECT_EQ(shown.count(file), 0u);
     }
-    const auto shown = ByFile(run.out);
-    const Json& cut = shown.at("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt");
-    EXPECT_TRUE(cut["property_sets"][0].contains("error")) << "what can be read of it is there";
-    EXPECT_FALSE(cut["property_sets"][0]["damage"].empty());
+    const Json& cut = shown.at("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt")["property_sets"][0];
+    EXPECT_TRUE(cut.contains("error"));
+    EXPECT_FALSE(cut["damage"].empty());
+    EXPECT_FALSE(cut["sections"][0]["properties"].empty());
 }
 
 TEST(Show, EveryValueOfTheCorpusDocuments) {
     if (!fs::exists(kCorpus)) GTEST_SKIP() << "no corpus beside the repository";
     std::map<std::string, Json> sets;
-    for (Json& set : Load(kCorpus / "propset" / "manifest.json"))
-        sets[set["file"].get<std::string>()] = std::move(set);
+    const Json manifest = Load(kCorpus / "propset" / "manifest.json");
+    for (const Json& set : manifest)
+        sets[set["file"].get<std::string>()] = set;
     const auto shown = ByFile(RunSuminfo({"show", "--json", "-r", (kCorpus / "ole").string()}).out);
     for (const Json& file : Load(kCorpus / "ole" / "manifest.json")) {
         const auto name = file["file"].get<std::string>();
@@ -124,8 +123,9 @@ TEST(Show, EveryValueOfTheCorpusDocuments) {
             if (stream["stream"].get<std::string>().find("\\005") == std::string::npos) continue;
             ASSERT_TRUE(found) << stream["stream"];
             EXPECT_EQ((*found)["size"], stream["size"]);
-            if (!stream["propset_file"].is_null())
-                ExpectSet(*found, sets.at(stream["propset_file"].get<std::string>()));
+            if (stream["propset_file"].is_null()) continue;
+            const Json& set = sets.at(stream["propset_file"].get<std::string>());
+            if (set["class"] != "damaged") ExpectSet(*found, set);
         }
     }
 }

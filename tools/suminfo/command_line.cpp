@@ -111,6 +111,11 @@ private:
         AddBare(sub);
     }
 
+    // Once for each property; what follows its one word is a field again.
+    void AddCustom(CLI::App* sub, std::vector<std::string>& values, const char* description) {
+        sub->add_option("--custom", values, description)->allow_extra_args(false);
+    }
+
     void AddShow() {
         CLI::App* sub = Add("show", Command::show, "Print what the property sets hold");
         AddFiles(sub);
@@ -126,15 +131,13 @@ private:
                     ".\nDates: 2001-02-03, 2001-02-03T04:05:06Z (UTC) or now; edit-time: h:mm:ss.");
         AddFile(sub);
         sub->add_option("FIELD=VALUE", fields_, "title=\"Plan B\"");
-        sub->add_option("--custom", custom_, "NAME=TYPE:VALUE, a custom property")->expected(1)->take_all();
+        AddCustom(sub, custom_, "NAME=TYPE:VALUE, a custom property");
     }
     void AddRemove() {
         CLI::App* sub = Add("remove", Command::remove, "Remove fields and custom properties");
         AddFile(sub);
         sub->add_option("FIELD", line_.fieldNames, "title, thumbnail, ...");
-        sub->add_option("--custom", line_.customNames, "the name of a custom property")
-            ->expected(1)
-            ->take_all();
+        AddCustom(sub, line_.customNames, "the name of a custom property");
     }
     void AddThumbnail() {
         CLI::App* sub = Add("thumbnail", Command::thumbnail, "Draw the thumbnail into a PNG file");

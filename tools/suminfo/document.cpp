@@ -106,6 +106,10 @@ Document Document::ForReading(const std::string& file) {
 }
 
 Document Document::ForWriting(const std::string& file) {
+    // Some systems let an administrator write all the same.
+    const DWORD attributes = ::GetFileAttributesW(ToWide(file).c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
+        throw Failure("was left alone: the file is read-only");
     return Document(Open(file, STGM_READWRITE | STGM_TRANSACTED | STGM_SHARE_EXCLUSIVE));
 }
 

@@ -99,13 +99,13 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
 
 void CopySummary(const std::string& from, const std::string& to) {
     std::map<std::string, orlo::Bytes> streams;
-    For(from, [&] {
+    {
         const Document source = Document::ForReading(from);
         for (const char* name : {kSummaryStream, kDocumentSummaryStream})
             if (auto bytes = source.Read(name)) streams[name] = Sound(std::move(*bytes), name);
         if (streams.empty()) throw Failure("it has no summary");
-    });
-    For(to, [&] {
+    }
+    OnFile(to, [&] {
         Document target = Document::ForWriting(to);
         for (const auto& [name, bytes] : streams)
             target.Write(name, bytes);

@@ -10,6 +10,7 @@
 
 #include "command_line.h"
 #include "commands.h"
+#include "failure.h"
 #include "progress.h"
 #include "sources.h"
 #include "text.h"
@@ -26,13 +27,18 @@ void Say(FILE* stream, const std::string& text) {
 // The work on one file; false if it failed, which was said.
 template <typename Work>
 bool Try(const std::string& file, Progress& progress, Work work) {
+    const auto say = [&progress](const std::string& name, const std::exception& failure) {
+        progress.Hide();
+        Say(stderr, "suminfo: " + name + ": " + failure.what() + "\n");
+        return false;
+    };
     try {
         work();
         return true;
+    } catch (const Failure& failure) {
+        return say(failure.File().empty() ? file : failure.File(), failure);
     } catch (const std::exception& failure) {
-        progress.Hide();
-        Say(stderr, "suminfo: " + file + ": " + failure.what() + "\n");
-        return false;
+        return say(file, failure);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <objbase.h>
+#include <optional>
+#include <string>
 #include <windows.h>
 
 #include "commands.h"
@@ -50,10 +52,11 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     const EditedSet sound(stream.bytes); // refuses what is damaged
     CPropertySet set;
     Load(stream.bytes, set);
-    OutputFile file(script);
-    CRCFile rc(file.Stream());
+    std::optional<OutputFile> file;
+    OnFile(script, [&] { file.emplace(script); });
+    CRCFile rc(file->Stream());
     Print(set, "Sections of " + source.file, rc);
-    file.Finish();
+    OnFile(script, [&] { file->Finish(); });
 }
 
 } // namespace suminfo

@@ -136,15 +136,13 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<S
     if (!DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), bitmap.dc(), &all))
         throw Failure("its thumbnail is damaged");
     const std::vector<uint8_t> colours = bitmap.Pixels();
-    try {
+    OnFile(png, [&] {
         OutputFile file(png);
         if (!stbi_write_png_to_func(Append, file.Stream(), pixels.cx, pixels.cy, 3, colours.data(),
                                     3 * pixels.cx))
             throw Failure("can't be written");
         file.Finish();
-    } catch (const Failure& failure) {
-        throw Failure(png + ": " + failure.what());
-    }
+    });
 }
 
 } // namespace suminfo
