@@ -10,7 +10,8 @@
 //   text.h         text graphics
 //   vertex.h       vertices
 //   viewport.h     viewports, extents and drawing
-//   style.h        line styles
+//   style.h        line styles and brush styles
+//   layer.h        layers
 //   block.h        blocks and their insertions
 //   matrix.h       transformations
 //   regen.h        regen methods
@@ -24,6 +25,7 @@
 #include "orlo/host/block.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/graphic.h"
+#include "orlo/host/layer.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
 #include "orlo/host/records.h"

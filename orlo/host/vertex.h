@@ -12,3 +12,8 @@ DRAWCORE_API void VertexDispose(VertexStruct** vertex);
 
 // Appends a copy of the vertex, flag word included.
 DRAWCORE_API int GraphicVertexAdd(GraphicStruct*, VertexStruct*);
+
+// Walk over the vertices of a vertex graphic; they are the graphic's own. The cookie is the caller's. from is 0, flags 0xFFFF.
+// Null at the end. Whoever moves one by VertexSet then calls GraphicSetExtentsDirty.
+DRAWCORE_API VertexStruct* GraphicVertexFirst(GraphicStruct*, int* cookie, int from, int flags);
+DRAWCORE_API VertexStruct* GraphicVertexNext(GraphicStruct*, int* cookie, int from, int flags);

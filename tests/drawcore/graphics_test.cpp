@@ -108,6 +108,20 @@ TEST(Graphics, TakeCopiesOfVerticesWithTheirFlags) {
     EXPECT_EQ(vertex, nullptr);
 }
 
+TEST(Vertices, AreWalkedInOrderAndCanBeMoved) {
+    GraphicStruct* square = MakeSquare(10, 0, 5);
+    int cookie = 77, count = 0;
+    for (VertexStruct* v = GraphicVertexFirst(square, &cookie, 0, 0xFFFF); v;
+         v = GraphicVertexNext(square, &cookie, 0, 0xFFFF))
+        if (++count == 2) VertexSet(v, 90, v->y, v->z);
+    EXPECT_EQ(count, 5);
+    EXPECT_EQ(GraphicVertexNext(square, &cookie, 0, 0xFFFF), nullptr);
+    GraphicSetExtentsDirty(square, 1);
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(square, 0)), 90);
+    GraphicDispose(&square);
+    EXPECT_EQ(GraphicVertexFirst(nullptr, &cookie, 0, 0xFFFF), nullptr);
+}
+
 TEST(Extents, FollowTheGraphicAndItsParts) {
     OwnDrawing drawing;
     GraphicStruct* a = drawing.Add(MakeSquare(10, 0, 5));

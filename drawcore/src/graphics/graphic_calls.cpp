@@ -208,3 +208,14 @@ int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex) {
     list->ChangedShape();
     return 1;
 }
+
+VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, int flags) {
+    *cookie = -1;
+    return GraphicVertexNext(graphic, cookie, from, flags);
+}
+
+VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int, int) {
+    VertexGraphic* list = AsVertices(graphic);
+    const auto next = static_cast<size_t>(++*cookie);
+    return list && next < list->vertices.size() ? &list->vertices[next] : nullptr;
+}
