@@ -20,3 +20,5 @@
 #include "orlo/exchange/ddx_scale.h"
 #include "orlo/exchange/ddx_table.h"
 #include "orlo/exchange/ddx_text.h"
+#include "orlo/exchange/ddx_unit_text.h"
+#include "orlo/exchange/ddx_variable.h"

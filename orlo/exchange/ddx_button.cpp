@@ -2,6 +2,8 @@
 
 #include "orlo/exchange/ddx_button.h"
 
+#include "orlo/exchange/failure.h"
+
 namespace {
 
 constexpr unsigned short kMixed = 0xFFFF;
@@ -54,4 +56,18 @@ int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) 
     DDX_Radio(bReport, pDX, nIDC, position);
     if (pDX->m_bSaveAndValidate) value = static_cast<unsigned short>(position);
     return 1;
+}
+
+int DDX_RadioMap(int bReport, CDataExchange* pDX, unsigned int nIDC, int& value, int* pMap, int nCount) {
+    const int id = static_cast<int>(nIDC);
+    int position = nCount - 2;
+    if (pDX->m_bSaveAndValidate) {
+        DDX_Radio(bReport, pDX, id, position);
+        if (position < -1 || position > nCount - 2) return FailExchange(bReport, pDX);
+        value = pMap[position + 1];
+        return 1;
+    }
+    while (position >= 0 && pMap[position + 1] != value)
+        --position;
+    return DDX_Radio(bReport, pDX, id, position);
 }

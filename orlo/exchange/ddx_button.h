@@ -1,4 +1,4 @@
-// Exchange with check boxes and radio groups. None of these can fail. See ddx.h for the convention.
+// Exchange with check boxes and radio groups. Only DDX_RadioMap can fail. See ddx.h for the convention.
 #pragma once
 
 #include <afxwin.h>
@@ -14,3 +14,9 @@ ORLO_API int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, unsigned short
 // Without one: -1, or 0xFFFF in the 16-bit form. Of several checked ones the last counts.
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value);
+
+// A radio group whose buttons stand for other numbers: pMap[i + 1] for the button at position i, pMap[0] for no button; nCount
+// is one more than the buttons. Loading a number of no button checks none; of equal ones the last counts. Fails for a
+// checked button that the map doesn't have.
+ORLO_API int DDX_RadioMap(int bReport, CDataExchange* pDX, unsigned int nIDC, int& value, int* pMap,
+                          int nCount);

@@ -13,6 +13,16 @@ DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct*, const char* name);
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct*, const char* text, double* value, int kind);
 DRAWCORE_API int DrawingStdNumericToText(DrawingStruct*, double value, char* buffer, int size, int kind);
 
+// Angle text to radians and back, in the drawing's angular system: degrees, grads or radians for a number without a unit. A
+// text that is not wholly an angle gives 0 and leaves the value alone. reserved is 0.
+DRAWCORE_API int DrawingStdTextToAngle(DrawingStruct*, const char* text, double* value, int reserved);
+DRAWCORE_API int DrawingStdAngleToText(DrawingStruct*, double value, char* buffer, int size, int reserved);
+
+// The scale of the drawing on paper, in the words that it was set in. Setting gives 0, with nothing changed, for a text that
+// is no scale.
+DRAWCORE_API int DrawingGetScaleString(DrawingStruct*, char* buffer, int size);
+DRAWCORE_API int DrawingSetScaleString(DrawingStruct*, const char* text);
+
 // The space that the drawing's lengths are in: 0 the world (drawing units), 1 paper (millimetres), 2 that of a device, which
 // has no lengths.
 DRAWCORE_API uint16_t DrawingGetCoordSpace(DrawingStruct*);

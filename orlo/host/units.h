@@ -5,7 +5,7 @@
 #include "orlo/host/records.h"
 
 // Number at the start of the text, behind blanks; *end is the first character behind it (the text itself if there is none, or
-// none that a double holds). A point is the decimal mark.
+// none that a double holds). The decimal mark is the host's, here and in all other texts.
 // context is always 0.
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
@@ -27,6 +27,11 @@ DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint
 // A drawing scale ("1 in = 1 ft", "1 : 48") as a factor; 0.0 if the text is no scale. And back.
 DRAWCORE_API double UnitsGetScaleValue(TableStruct* units, const char* text);
 DRAWCORE_API int UnitsMakeScaleString(TableStruct* units, double scale, char* buffer, int size);
+
+// Millimetres of the unit that the variable names. 0, with the value left alone, if it names none.
+DRAWCORE_API int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value);
+// How the drawing writes angles: 0 degrees, 1 degrees, minutes and seconds, 2 grads, 3 radians, 4 bearings.
+DRAWCORE_API uint16_t UnitsGetAngularSystem(TableStruct* units);
 
 // Variables of a units table that hold the name of a unit.
 constexpr uint16_t kUnitTextSize = 0x5035;

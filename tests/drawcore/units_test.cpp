@@ -6,6 +6,7 @@
 #include <cstring>
 #include <random>
 
+#include <drawcore/application.h>
 #include <drawcore/units.h>
 
 #include "drawcore/kit.h"
@@ -94,17 +95,40 @@ struct LengthRow {
     double inches;
 };
 
-const LengthRow kLengths[] = {{"2", 2},           {" 2.5 ", 2.5}, {"-2.5", -2.5},       {"1in", 1},
-                              {"1 IN", 1},        {"25.4 mm", 1}, {"2.54cm", 1},        {"1 ft", 12},
-                              {"1'", 12},         {"6\"", 6},     {"1/4", 0.25},        {"3 1/2\"", 3.5},
-                              {"1'6", 18},        {"1'-6\"", 18}, {"1'-6 1/2\"", 18.5}, {"-1'6\"", -18},
-                              {"1' 1/2\"", 12.5}, {"2 yd", 72},   {"72 pt", 1},         {"1000 mil", 1},
-                              {"1e1", 10},        {"+0", 0},      {".5 ft", 6}};
+const LengthRow kLengths[] = {{"2", 2},
+                              {" 2.5 ", 2.5},
+                              {"-2.5", -2.5},
+                              {"1in", 1},
+                              {"1 IN", 1},
+                              {"25.4 mm", 1},
+                              {"2.54cm", 1},
+                              {"1 ft", 12},
+                              {"1'", 12},
+                              {"6\"", 6},
+                              {"1/4", 0.25},
+                              {"3 1/2\"", 3.5},
+                              {"1'6", 18},
+                              {"1'-6\"", 18},
+                              {"1'-6 1/2\"", 18.5},
+                              {"-1'6\"", -18},
+                              {"1' 1/2\"", 12.5},
+                              {"2 yd", 72},
+                              {"72 pt", 1},
+                              {"1000 mil", 1},
+                              {"1e1", 10},
+                              {"+0", 0},
+                              {".5 ft", 6},
+                              {"6-1/2\"", 6.5},
+                              {"1 1/2'", 18},
+                              {"-1'-6-1/2\"", -18.5},
+                              {"1'6.5\"", 18.5},
+                              {"1 m", 1000 / 25.4}};
 
-const char* const kNoLengths[] = {"",         " ",   "-",     "+",   "abc",    "2x",      "2 apples",
-                                  "2 2",      "1,5", "1e999", "nan", "inf",    "0x10",    "1/0",
-                                  "1/",       "/2",  "1 1/",  "mm",  "1 mm 2", "1' 2 mm", "1'-",
-                                  "1' 2' 3'", "--1", "1-6",   "5%",  "1..2",   "1e308 mi"};
+const char* const kNoLengths[] = {"",         " ",     "-",     "+",     "abc",      "2x",       "2 apples",
+                                  "2 2",      "1,5",   "1e999", "nan",   "inf",      "0x10",     "1/0",
+                                  "1/",       "/2",    "1 1/",  "mm",    "1 mm 2",   "1' 2 mm",  "1'-",
+                                  "1' 2' 3'", "--1",   "1-6",   "5%",    "1..2",     "1e308 mi", "1.5 1/2",
+                                  "1.5/2",    "1/2/3", "- 1",   "1'--6", "-1'-6 mm", "1e-999"};
 
 class Lengths : public testing::Test {
 protected:
@@ -125,6 +149,7 @@ TEST_F(Lengths, AreRefusedWholeIfAnyPartIsWrong) {
     std::vector<std::string> texts(std::begin(kNoLengths), std::end(kNoLengths));
     texts.push_back(std::string(10000, '1'));
     texts.push_back("1" + std::string(10000, ' ') + "x");
+    texts.push_back(std::string(9998, '0') + ".5");
     for (const std::string& text : texts) {
         double value = 999;
         EXPECT_FALSE(DrawingStdTextToNumeric(drawing, text.c_str(), &value, 0)) << text.substr(0, 40);
@@ -156,6 +181,108 @@ TEST_F(Lengths, ShowFourDecimalsOrFourDigits) {
     EXPECT_FALSE(DrawingStdNumericToText(drawing, 123.4567, buffer, 8, 0))
         << "cut off, it would be another number";
     EXPECT_STREQ(buffer, "kept");
+}
+
+struct FormRow {
+    int system, digits;
+    double inches;
+    const char* text;
+};
+
+const FormRow kForms[] = {{1, 4, 18.5, "1.85e+01"},
+                          {1, 2, -0.0625, "-6.25e-02"},
+                          {1, 0, 1234.5, "1.234e+03"},
+                          {2, 4, 18.5, "18.5"},
+                          {3, 4, 18.5, "1'-6.5\""},
+                          {3, 2, -18.5, "-1'-6.5\""},
+                          {3, 0, 11.99, "11.99\""},
+                          {3, 1, 23.9999, "2'-0\""},
+                          {3, 4, 0, "0\""},
+                          {3, 2, 0.00123, "0.00123\""},
+                          {3, 4, 1e20, "1e+20\""},
+                          {4, 1, 18.5, "1'-6 1/2\""},
+                          {4, 4, -18.5, "-1'-6 1/2\""},
+                          {4, 4, 0.5, "1/2\""},
+                          {4, 4, 12, "1'-0\""},
+                          {4, 4, 11.99, "1'-0\""},
+                          {4, 8, 6.00390625, "6 1/256\""},
+                          {4, 3, 126.125, "10'-6 1/8\""},
+                          {4, 2, 0.01, "0.01\""},
+                          {4, 4, -0.0, "0\""},
+                          {4, 4, 1e20, "1e+20\""},
+                          {5, 4, 18.5, "18 1/2"},
+                          {5, 4, -0.1875, "-3/16"},
+                          {5, 0, 2.4, "2"},
+                          {5, 3, 0.01, "0.01"},
+                          {5, 4, 144, "144"}};
+
+TEST_F(Lengths, AreWrittenInTheFormOfTheDrawing) {
+    for (const FormRow& row : kForms) {
+        TableSetIntVar(units, kUnitLinearSystem, row.system);
+        TableSetIntVar(units, kUnitLinearDigits, row.digits);
+        char text[64] = "";
+        double back = 0;
+        EXPECT_TRUE(DrawingStdNumericToText(drawing, row.inches, text, sizeof text, 0)) << row.text;
+        EXPECT_STREQ(text, row.text);
+        const double step = row.system >= 4 ? std::pow(2, -row.digits) / 2 : std::fabs(row.inches) * 0.0005;
+        EXPECT_TRUE(DrawingStdTextToNumeric(drawing, row.text, &back, 0)) << row.text;
+        EXPECT_NEAR(back, row.inches, step) << row.text;
+    }
+    char text[64];
+    TableSetStringVar(units, kUnitDrawing, "cm");
+    TableSetIntVar(units, kUnitLinearSystem, 4);
+    EXPECT_TRUE(DrawingStdNumericToText(drawing, 46.99, text, sizeof text, 0));
+    EXPECT_STREQ(text, "1'-6 1/2\"") << "true feet and inches in a metric drawing";
+    EXPECT_TRUE(UnitsNumericToTextEx(units, 0, kUnitPenWidth, 0.35, text, sizeof text, 0, 1));
+    EXPECT_STREQ(text, "0.35 mm") << "nothing on paper is measured in feet";
+    for (const int wrong : {-1, 0, 6}) {
+        TableSetIntVar(units, kUnitLinearSystem, wrong);
+        EXPECT_TRUE(DrawingStdNumericToText(drawing, 2.5, text, sizeof text, 0));
+        EXPECT_STREQ(text, "2.5") << "decimal, for want of such a form";
+    }
+}
+
+TEST_F(Lengths, OfEveryFormComeBackFromTheirText) {
+    std::mt19937_64 random(11);
+    std::uniform_real_distribution<double> exponent(-8, 12), mantissa(-10, 10);
+    for (int i = 0; i < 20000; ++i) {
+        const int system = 1 + static_cast<int>(random() % 5), digits = static_cast<int>(random() % 9);
+        TableSetIntVar(units, kUnitLinearSystem, system);
+        TableSetIntVar(units, kUnitLinearDigits, digits);
+        TableSetStringVar(AppGetCurrentApp()->pVariables, kVarDecimalMark, random() % 2 ? "," : ".");
+        const double value = mantissa(random) * std::pow(10, exponent(random));
+        char text[64], again[64];
+        double back = 0;
+        ASSERT_TRUE(DrawingStdNumericToText(drawing, value, text, sizeof text, 0)) << value;
+        ASSERT_TRUE(DrawingStdTextToNumeric(drawing, text, &back, 0)) << text;
+        const double fraction = system >= 4 ? 0.5000001 * std::pow(2, -digits) : 0;
+        ASSERT_NEAR(back, value, std::max(fraction, std::fabs(value) * 0.00051)) << text;
+        ASSERT_NE(back, 0) << text;
+        ASSERT_TRUE(DrawingStdNumericToText(drawing, back, again, sizeof again, 0));
+        ASSERT_STREQ(again, text);
+    }
+    TableSetStringVar(AppGetCurrentApp()->pVariables, kVarDecimalMark, ".");
+}
+
+TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
+    TableStruct* const settings = AppGetCurrentApp()->pVariables;
+    TableSetStringVar(settings, kVarDecimalMark, ",");
+    double value = 7;
+    char text[64];
+    EXPECT_TRUE(DrawingStdTextToNumeric(drawing, "1'-6,5\"", &value, 0));
+    EXPECT_NEAR(value, 18.5, 1e-12);
+    EXPECT_FALSE(DrawingStdTextToNumeric(drawing, "2.5", &value, 0)) << "2.5 is no 2, nor 25";
+    EXPECT_TRUE(DrawingStdTextToAngle(drawing, "22,5", &value, 0));
+    EXPECT_TRUE(DrawingStdAngleToText(drawing, value, text, sizeof text, 0));
+    EXPECT_STREQ(text, "22,5");
+    EXPECT_TRUE(UnitsMakeScaleString(units, 2.5, text, sizeof text));
+    EXPECT_STREQ(text, "1 : 2,5");
+    EXPECT_NEAR(UnitsGetScaleValue(units, text), 2.5, 1e-12);
+    char* end = nullptr;
+    EXPECT_EQ(StringToDouble(0, "-1,5e3", &end), -1500);
+    DoubleToString(0, 0.25, 6, text, 0, 0, 1);
+    EXPECT_STREQ(text, "0,25");
+    TableSetStringVar(settings, kVarDecimalMark, ".");
 }
 
 // What is written is read back within the digits that it shows, and then written the same.
@@ -227,7 +354,152 @@ TEST_F(Lengths, FollowTheSpaceOfTheDrawing) {
     EXPECT_STREQ(text, "Arial");
 }
 
+// --- angles
+
+constexpr double kDegree = 0.017453292519943295;
+
+struct AngleRow {
+    const char* text;
+    double degrees;
+};
+
+const AngleRow kAngles[] = {{"45", 45},
+                            {" -12.5 ", -12.5},
+                            {"45d", 45},
+                            {"45\xB0", 45},
+                            {"12d30'", 12.5},
+                            {"12 d 30 ' 36 \"", 12.51},
+                            {"-12d30'36.0\"", -12.51},
+                            {"30'", 0.5},
+                            {"36\"", 0.01},
+                            {"12d36\"", 12.01},
+                            {"100g", 90},
+                            {"-50 GRAD", -45},
+                            {"3.141592653589793r", 180},
+                            {"1 rad", 1 / kDegree},
+                            {"720", 720},
+                            {"N", 90},
+                            {" e ", 0},
+                            {"W", 180},
+                            {"s", 270},
+                            {"N 45d E", 45},
+                            {"n45dw", 135},
+                            {"S 30d30' E", 300.5},
+                            {"S 30 W", 240},
+                            {"N 0 E", 90}};
+
+const char* const kNoAngles[] = {"",       " ",      "-",       "d",       "'",      "45x",        "45dd",
+                                 "45 45",  "12d60'", "12d1.5",  "1.5d30'", "30'12d", "12d30'60\"", "45d -3'",
+                                 "--4",    "- 4",    "1e999",   "nan",     "inf",    "0x10",       "NE",
+                                 "N 91 E", "N -4 E", "45 E",    "N 45",    "N 45 S", "-N",         "50g30'",
+                                 "1,5",    "1/2",    "N 1d W E"};
+
+class Angles : public Lengths {};
+
+TEST_F(Angles, AreReadWithAllTheirUnits) {
+    for (const AngleRow& row : kAngles) {
+        double value = 999;
+        EXPECT_TRUE(DrawingStdTextToAngle(drawing, row.text, &value, 0)) << row.text;
+        EXPECT_NEAR(value, row.degrees * kDegree, 1e-12) << row.text;
+    }
+    const double kBare[] = {kDegree, kDegree, kDegree * 0.9, 1, kDegree};
+    for (int system = 0; system < 5; ++system) {
+        TableSetIntVar(units, kUnitAngularSystem, system);
+        double value = 0;
+        EXPECT_EQ(UnitsGetAngularSystem(units), system);
+        EXPECT_TRUE(DrawingStdTextToAngle(drawing, "6", &value, 0));
+        EXPECT_NEAR(value, 6 * kBare[system], 1e-12) << system;
+    }
+}
+
+TEST_F(Angles, AreRefusedWholeIfAnyPartIsWrong) {
+    std::vector<std::string> texts(std::begin(kNoAngles), std::end(kNoAngles));
+    texts.push_back(std::string(10000, '1'));
+    texts.push_back("N " + std::string(10000, ' ') + "4 E");
+    for (const std::string& text : texts) {
+        double value = 999;
+        EXPECT_FALSE(DrawingStdTextToAngle(drawing, text.c_str(), &value, 0)) << text.substr(0, 40);
+        EXPECT_EQ(value, 999) << text.substr(0, 40);
+    }
+}
+
+TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
+    const struct {
+        int system, digits;
+        double degrees;
+        const char* text;
+    } kRows[] = {{0, 0, 22.5, "22.5"},
+                 {0, 4, -45, "-45"},
+                 {0, 2, 12.3456, "12.35"},
+                 {1, 0, 45, "45d"},
+                 {1, 4, -12.51, "-12d30'36\""},
+                 {1, 2, 22.5, "22d30'"},
+                 {1, 0, 22.5, "22d30'"},
+                 {1, 4, 12.01, "12d0'36\""},
+                 {1, 6, 0.001, "0d0'3.6\""},
+                 {1, 4, 59.99999, "60d"},
+                 {2, 0, 45, "50"},
+                 {3, 4, 180, "3.1416"},
+                 {4, 0, 0, "E"},
+                 {4, 0, 90, "N"},
+                 {4, 0, 180, "W"},
+                 {4, 0, 270, "S"},
+                 {4, 0, 45, "N 45d E"},
+                 {4, 2, 120.5, "N 30d30' W"},
+                 {4, 4, 200, "S 70d W"},
+                 {4, 4, 300, "S 30d E"},
+                 {4, 4, -45, "-45d"},
+                 {4, 4, 405, "405d"},
+                 {1, 4, 1e18, "1e+18d"}};
+    for (const auto& row : kRows) {
+        TableSetIntVar(units, kUnitAngularSystem, row.system);
+        TableSetIntVar(units, kUnitAngularDigits, row.digits);
+        char text[64] = "";
+        EXPECT_TRUE(DrawingStdAngleToText(drawing, row.degrees * kDegree, text, sizeof text, 0)) << row.text;
+        EXPECT_STREQ(text, row.text);
+    }
+    char text[8] = "kept";
+    for (int system = 0; system < 5; ++system) {
+        TableSetIntVar(units, kUnitAngularSystem, system);
+        for (const double value : {HUGE_VAL, -HUGE_VAL, static_cast<double>(NAN)})
+            EXPECT_FALSE(DrawingStdAngleToText(drawing, value, text, sizeof text, 0));
+        EXPECT_FALSE(DrawingStdAngleToText(drawing, 0.123456, text, 2, 0));
+    }
+    EXPECT_STREQ(text, "kept");
+}
+
+TEST_F(Angles, ComeBackFromTheirText) {
+    std::mt19937_64 random(5);
+    std::uniform_real_distribution<double> exponent(-10, 4), mantissa(-10, 10);
+    for (int i = 0; i < 20000; ++i) {
+        TableSetIntVar(units, kUnitAngularSystem, static_cast<int>(random() % 5));
+        TableSetIntVar(units, kUnitAngularDigits, static_cast<int>(random() % 9));
+        const double value = mantissa(random) * std::pow(10, exponent(random));
+        char text[64];
+        double back = 0;
+        ASSERT_TRUE(DrawingStdAngleToText(drawing, value, text, sizeof text, 0)) << value;
+        ASSERT_TRUE(DrawingStdTextToAngle(drawing, text, &back, 0)) << text;
+        ASSERT_NEAR(back, value, std::fabs(value) * 0.00051 + (text[0] > '9' ? 0.0008 : 0)) << text;
+    }
+}
+
 // --- scales
+
+TEST_F(Lengths, OfAUnitAndTheScaleOfADrawing) {
+    double value = 7;
+    EXPECT_FALSE(UnitsGetLUnitValue(units, 0x1234, &value));
+    EXPECT_EQ(value, 7);
+    EXPECT_TRUE(UnitsGetLUnitValue(units, kUnitDrawing, &value));
+    EXPECT_NEAR(value, 25.4, 1e-12);
+    char text[64];
+    EXPECT_TRUE(DrawingGetScaleString(drawing, text, sizeof text));
+    EXPECT_STREQ(text, "1 : 1");
+    EXPECT_TRUE(DrawingSetScaleString(drawing, "1/4\" = 1'"));
+    EXPECT_FALSE(DrawingSetScaleString(drawing, "one to two"));
+    EXPECT_FALSE(DrawingSetScaleString(drawing, nullptr));
+    EXPECT_TRUE(DrawingGetScaleString(drawing, text, sizeof text));
+    EXPECT_STREQ(text, "1/4\" = 1'");
+}
 
 TEST_F(Lengths, MakeScales) {
     const struct {

@@ -186,6 +186,20 @@ TEST(Import, TablesAreThoseOfTheFile) {
     EXPECT_STREQ(unit, "in");
 }
 
+TEST(Import, LengthsAndAnglesAreWrittenAsInTheFile) {
+    const auto texts = [](const std::string& header) {
+        const auto drawing = OpenText(Section("HEADER", header) + Drawing("0|LINE"));
+        char length[64] = "", angle[64] = "";
+        DrawingStdNumericToText(drawing.get(), 18.5, length, sizeof length, 0);
+        DrawingStdAngleToText(drawing.get(), 0.7853981633974483, angle, sizeof angle, 0);
+        return std::string(length) + " " + angle;
+    };
+    EXPECT_EQ(texts("9|$LUNITS|70|4|9|$LUPREC|70|4|9|$AUNITS|70|1|9|$AUPREC|70|4"), "1'-6 1/2\" 45d");
+    EXPECT_EQ(texts("9|$LUNITS|70|1|9|$LUPREC|70|2|9|$AUNITS|70|3|9|$AUPREC|70|4"), "1.85e+01 0.7854");
+    EXPECT_EQ(texts("9|$LUNITS|70|5|9|$LUPREC|70|99|9|$AUNITS|70|4"), "18 1/2 N 45d E");
+    EXPECT_EQ(texts("9|$LUNITS|70|77|9|$LUPREC|70|-1|9|$AUNITS|70|-3"), "18.5 45") << "no such forms";
+}
+
 TEST(Import, GraphicsLookAsInTheFile) {
     struct Row {
         const char* entity;

@@ -8,3 +8,7 @@
 DRAWCORE_API int AppSetCurrentDrawing(DrawingStruct*);
 // Full path of the configuration file, copied; null or "" for none.
 DRAWCORE_API void AppSetINIFileName(const char* path);
+
+// String variable of the application's table: the decimal mark of all numbers as text, read and written; "." or ",". A new
+// process has ".".
+constexpr uint16_t kVarDecimalMark = 0x5105;

@@ -16,6 +16,7 @@ Application::Application() : AppStruct{} {
     pVariables = &variables_;
     hPalette = static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE));
     variables_.SetVariable(kVarPreviewBackground, static_cast<int>(kWhite));
+    variables_.SetVariable(kVarDecimalMark, std::string("."));
 }
 
 void Application::Forget(const Drawing& drawing) {

@@ -16,6 +16,7 @@ public:
     void Forget(const Drawing& drawing); // it is about to go
     // Variable kVarPreviewBackground; white if the host program has taken the variable away.
     uint32_t PreviewBackground() const;
+    const Table& Variables() const { return variables_; }
 
     std::string configurationFile;
 

@@ -53,6 +53,7 @@ public:
     VertexGraphic& Root() const { return *root_; } // the group of all its graphics
     UndoLog& Undo() const { return *undo_; }
 
+    std::string scaleText = "1 : 1"; // of the drawing on paper
     uint16_t coordSpace = kSpaceWorld;
     double lineScale = 1; // DXF's $LTSCALE: dash patterns of the drawing's own graphics grow by it
 

@@ -77,16 +77,24 @@ Id ImportBlock(const dxf::Block& from, BlockTable& blocks) {
     return blocks.Add(std::move(block));
 }
 
+// Engineering and architectural lengths are of a drawing in inches, if nothing else is said.
+bool CountsInFeet(const dxf::Header& header) {
+    return header.lengthFormat == 3 || header.lengthFormat == 4;
+}
+
 void ImportUnits(const dxf::Header& header, Table& units) {
     const LengthUnit* unit = LengthUnitOfDxf(header.unit);
     UnitSettings settings;
     if (unit)
         settings.drawingUnit = unit->name;
-    else if (header.metric == 0)
+    else if (header.metric == 0 || CountsInFeet(header))
         settings.drawingUnit = "in";
     const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
     if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
-    settings.linearDigits = std::clamp(header.lengthDigits, 0, 8);
+    settings.lengthSystem = static_cast<LengthSystem>(header.lengthFormat);
+    settings.lengthDigits = std::clamp(header.lengthDigits, 0, 8);
+    settings.angleSystem = static_cast<AngleSystem>(header.angleFormat);
+    settings.angleDigits = std::clamp(header.angleDigits, 0, 8);
     settings.Store(units);
 }
 

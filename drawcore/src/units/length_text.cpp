@@ -1,55 +1,37 @@
 #include "drawcore/src/units/length_text.h"
 
+#include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/units/number_text.h"
+#include "drawcore/src/units/text_cursor.h"
 
 namespace drawcore {
 
 namespace {
 
+constexpr double kFoot = 304.8, kInch = 25.4;
+constexpr int kMostDecimals = 12;
+
 class LengthReader {
 public:
-    LengthReader(std::string_view text, const LengthUnit& bare) : text_(text), bare_(bare) {}
+    LengthReader(std::string_view text, const LengthUnit& bare) : cursor_(text), bare_(bare) {}
 
     bool Read(double& millimetres) {
-        SkipBlanks();
-        const bool negative = Take('-');
-        if (!negative) Take('+');
+        cursor_.SkipBlanks();
+        const bool negative = cursor_.TakeMinus();
         double sum = 0;
         const LengthUnit* unit = nullptr;
         if (!ReadPart(sum, unit)) return false;
-        if (unit && IsFeet(*unit) && !AtEnd() && !ReadInches(sum)) return false;
-        if (!AtEnd() || !std::isfinite(sum)) return false;
+        if (unit->millimetres == kFoot && !cursor_.AtEnd() && !ReadInches(sum)) return false;
+        if (!cursor_.AtEnd() || !std::isfinite(sum)) return false;
         millimetres = negative ? -sum : sum;
         return true;
     }
 
 private:
-    static bool IsFeet(const LengthUnit& unit) { return unit.millimetres == 304.8; }
-
-    void SkipBlanks() {
-        while (at_ < text_.size() && (text_[at_] == ' ' || text_[at_] == '\t'))
-            ++at_;
-    }
-    bool AtEnd() {
-        SkipBlanks();
-        return at_ == text_.size();
-    }
-    bool Take(char c) {
-        const bool there = at_ < text_.size() && text_[at_] == c;
-        at_ += there;
-        return there;
-    }
-    bool Number(double& value) {
-        const size_t length = ScanUnsigned(text_.substr(at_), value);
-        at_ += length;
-        return length != 0;
-    }
-
     // Inches behind feet: "1'-6", "1' 6 1/2\"".
     bool ReadInches(double& sum) {
-        Take('-');
+        cursor_.Take('-');
         const LengthUnit& inch = *FindLengthUnit("in");
         const LengthUnit* unit = &inch;
         double inches = 0;
@@ -61,62 +43,96 @@ private:
     // A number with its unit. unit: what it is without one (null: bare_); what it turned out to be.
     bool ReadPart(double& millimetres, const LengthUnit*& unit) {
         double number = 0;
-        if (!ReadMixed(number)) return false;
-        const size_t mark = at_;
-        SkipBlanks();
-        const size_t begin = at_;
-        while (at_ < text_.size() && IsUnitCharacter(text_[at_]))
-            ++at_;
-        if (at_ > begin)
-            unit = FindLengthUnit(text_.substr(begin, at_ - begin));
-        else {
-            at_ = mark;
-            unit = unit ? unit : &bare_;
-        }
+        if (!cursor_.Mixed(number)) return false;
+        cursor_.SkipBlanks();
+        const std::string_view name = cursor_.TakeWord();
+        if (!name.empty())
+            unit = FindLengthUnit(name);
+        else if (!unit)
+            unit = &bare_;
         if (!unit) return false;
         millimetres = number * unit->millimetres;
         return true;
     }
 
-    static bool IsUnitCharacter(char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '\'' || c == '"' || c == '\xB5';
-    }
-
-    // "6", "6 1/2", "1/2".
-    bool ReadMixed(double& number) {
-        if (!Number(number)) return false;
-        if (Take('/')) return Divide(number);
-        const size_t mark = at_;
-        SkipBlanks();
-        double part = 0;
-        if (at_ > mark && Number(part) && Take('/') && Divide(part))
-            number += part;
-        else
-            at_ = mark;
-        return true;
-    }
-    bool Divide(double& number) {
-        double divisor = 0;
-        if (!Number(divisor) || divisor == 0) return false;
-        number /= divisor;
-        return true;
-    }
-
-    std::string_view text_;
+    TextCursor cursor_;
     const LengthUnit& bare_;
-    size_t at_ = 0;
 };
+
+std::string WithUnit(const std::string& number, const LengthUnit& unit, bool suffix) {
+    return suffix && !number.empty() ? number + " " + unit.name : number;
+}
+
+std::string Plain(double number) {
+    return DecimalText(number, 0);
+}
+
+// A number as so many steps, which a double counts to the last one. False for too many, and for none.
+bool CountSteps(double number, double perUnit, double& steps) {
+    steps = std::round(std::fabs(number) * perUnit);
+    return steps < 1e15 && (steps > 0 || number == 0);
+}
+
+// "18 1/2", "1/2", "18": whole units and a fraction of so many steps in a unit, a power of two.
+std::string FractionText(double steps, double perUnit) {
+    const double whole = std::floor(steps / perUnit);
+    double over = steps - whole * perUnit, under = perUnit;
+    if (over == 0) return Plain(whole);
+    for (; std::fmod(over, 2) == 0; under /= 2)
+        over /= 2;
+    const std::string fraction = Plain(over) + "/" + Plain(under);
+    return whole > 0 ? Plain(whole) + " " + fraction : fraction;
+}
+
+// "1'-6 1/2\"" or "1'-6.5\"" of so many steps in an inch.
+std::string FeetAndInches(double steps, double perInch, const LengthFormat& format) {
+    const double feet = std::floor(steps / (12 * perInch));
+    const double rest = steps - feet * 12 * perInch;
+    const std::string inches = format.system == LengthSystem::Architectural
+                                   ? FractionText(rest, perInch)
+                                   : DecimalText(rest / perInch, kMostDecimals);
+    return (feet > 0 ? Plain(feet) + "'-" : std::string()) + inches + "\"";
+}
+
+std::string WriteFeetAndInches(double millimetres, const LengthFormat& format) {
+    const bool fractions = format.system == LengthSystem::Architectural;
+    const double inches = millimetres / kInch;
+    const int digits = fractions ? format.digits : DecimalsFor(inches, format.digits);
+    const double perInch = std::pow(fractions ? 2 : 10, digits);
+    double steps = 0;
+    if (digits <= kMostDecimals && CountSteps(inches, perInch, steps))
+        return (inches < 0 ? "-" : "") + FeetAndInches(steps, perInch, format);
+    const std::string number = DecimalText(inches, format.digits);
+    return number.empty() ? number : number + "\"";
+}
+
+std::string WriteFraction(double number, const LengthFormat& format) {
+    const double perUnit = std::pow(2, format.digits);
+    double steps = 0;
+    if (!CountSteps(number, perUnit, steps)) return DecimalText(number, format.digits);
+    return (number < 0 ? "-" : "") + FractionText(steps, perUnit);
+}
 
 } // namespace
 
 bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres) {
-    return LengthReader(text, bare).Read(millimetres);
+    return text.size() <= kLongestText && LengthReader(text, bare).Read(millimetres);
 }
 
-std::string WriteLength(double millimetres, const LengthUnit& unit, int decimals, bool suffix) {
-    std::string text = DecimalText(millimetres / unit.millimetres, decimals);
-    if (suffix && !text.empty()) text.append(" ").append(unit.name);
-    return text;
+std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format) {
+    const double number = millimetres / unit.millimetres;
+    switch (format.system) {
+    case LengthSystem::Scientific:
+        return WithUnit(ScientificText(number, format.digits), unit, format.suffix);
+    case LengthSystem::Engineering:
+    case LengthSystem::Architectural:
+        return WriteFeetAndInches(millimetres, format);
+    case LengthSystem::Fractional:
+        return WithUnit(WriteFraction(number, format), unit, format.suffix);
+    case LengthSystem::Decimal:
+        break;
+    }
+    return WithUnit(DecimalText(number, format.digits), unit, format.suffix);
 }
 
 } // namespace drawcore

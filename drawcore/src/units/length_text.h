@@ -1,5 +1,7 @@
-// Lengths as text. Reading: "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", blanks around it; the text is read whole or
-// refused. Writing: decimal.
+// Lengths as text.
+//
+// Reading: "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", blanks around it. A minus counts for the whole length; the
+// text is read whole or refused. Every form is read, whatever form the drawing writes.
 #pragma once
 
 #include <string>
@@ -9,10 +11,22 @@
 
 namespace drawcore {
 
+// As DXF numbers them.
+enum class LengthSystem { Scientific = 1, Decimal, Engineering, Architectural, Fractional };
+
+// How a length is written.
+struct LengthFormat {
+    LengthSystem system = LengthSystem::Decimal;
+    // Digits behind the decimal mark; of a fraction the power of two of its denominator (4: sixteenths).
+    int digits = 4;
+    bool suffix = false; // the unit's name follows after a blank, where the form has no marks of its own
+};
+
 // Millimetres of the text; a number without a unit is in the given one. False, and value left alone, if it is no length.
 bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres);
 
-// Empty if the length is no number. suffix: the unit's name follows after a blank.
-std::string WriteLength(double millimetres, const LengthUnit& unit, int decimals, bool suffix);
+// Empty if the length is no number. Feet and inches (engineering, architectural) are true ones, whatever the unit is. A length
+// that has no place in its form, because it is too large or a fraction would make nothing of it, is written as a decimal.
+std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format);
 
 } // namespace drawcore

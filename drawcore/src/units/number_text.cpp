@@ -5,16 +5,36 @@
 #include <cmath>
 #include <cstring>
 
+#include "drawcore/include/drawcore/application.h"
+#include "drawcore/src/database/application.h"
 #include "orlo/host/units.h"
 
 namespace drawcore {
 
 namespace {
 
-constexpr int kMostDigits = 17; // all that a double has
+constexpr int kMostDigits = 17;    // all that a double has
+constexpr int kFewestDecimals = 3; // of a mantissa: four significant digits
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
+}
+
+size_t CountDigits(std::string_view text) {
+    return static_cast<size_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
+}
+
+// Length of an exponent at the start of the text: a letter without digits is none.
+size_t CountExponent(std::string_view text) {
+    if (text.empty() || (text[0] != 'e' && text[0] != 'E')) return 0;
+    const size_t lead = text.size() > 1 && (text[1] == '+' || text[1] == '-') ? 2 : 1;
+    const size_t digits = CountDigits(text.substr(lead));
+    return digits ? lead + digits : 0;
+}
+
+char DecimalMark() {
+    const std::string* mark = Application::Get().Variables().Variable<std::string>(kVarDecimalMark);
+    return mark && *mark == "," ? ',' : '.';
 }
 
 // Removes zeros behind the point, and the point behind which nothing is left; the exponent stays.
@@ -24,6 +44,11 @@ std::string Trimmed(std::string text) {
     const size_t exponent = std::min(text.find('e'), text.size());
     const size_t last = text.find_last_not_of('0', exponent - 1);
     return text.substr(0, last == mark ? last : last + 1) + text.substr(exponent);
+}
+
+std::string Marked(std::string text) {
+    std::replace(text.begin(), text.end(), '.', DecimalMark());
+    return text == "-0" ? "0" : text;
 }
 
 std::string Format(double value, std::chars_format form, int precision) {
@@ -39,25 +64,44 @@ int DecimalExponent(double value) {
 } // namespace
 
 size_t ScanUnsigned(std::string_view text, double& value) {
-    // from_chars alone would take "inf", "nan" and a sign.
-    const size_t lead = !text.empty() && text[0] == '.' ? 1 : 0;
-    if (text.size() <= lead || !IsDigit(text[lead])) return 0;
-    double number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc()) return 0;
-    value = number;
-    return static_cast<size_t>(result.ptr - text.data());
+    const size_t whole = CountDigits(text);
+    size_t length = whole, behind = 0;
+    if (length < text.size() && text[length] == DecimalMark()) {
+        behind = CountDigits(text.substr(length + 1));
+        length += 1 + behind;
+    }
+    if (!whole && !behind) return 0;
+    length += CountExponent(text.substr(length));
+    if (length > kLongestText) return 0;
+    std::string number(text.substr(0, length));
+    std::replace(number.begin(), number.end(), ',', '.');
+    double read = 0;
+    if (std::from_chars(number.data(), number.data() + length, read).ec != std::errc()) return 0;
+    value = read;
+    return length;
+}
+
+size_t ScanWhole(std::string_view text, double& value) {
+    const size_t length = CountDigits(text);
+    return length && ScanUnsigned(text.substr(0, length), value) ? length : 0;
+}
+
+int DecimalsFor(double value, int decimals) {
+    return std::max(decimals, kFewestDecimals - DecimalExponent(value));
 }
 
 std::string DecimalText(double value, int decimals) {
     if (!std::isfinite(value)) return {};
     const int exponent = DecimalExponent(value);
-    if (exponent >= 15 || exponent < -9)
-        return Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, 3)));
+    if (exponent >= 15 || exponent < -9) return ScientificText(value, decimals);
     // Never more than fifteen digits in all: the next would differ from one conversion to the other.
-    const int shown = std::min(std::max(decimals, 3 - exponent), 14 - exponent);
-    std::string text = Trimmed(Format(value, std::chars_format::fixed, shown));
-    return text == "-0" ? "0" : text;
+    const int shown = std::min(DecimalsFor(value, decimals), 14 - exponent);
+    return Marked(Trimmed(Format(value, std::chars_format::fixed, shown)));
+}
+
+std::string ScientificText(double value, int decimals) {
+    if (!std::isfinite(value)) return {};
+    return Marked(Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, kFewestDecimals))));
 }
 
 } // namespace drawcore
@@ -89,6 +133,6 @@ void DoubleToString(int, double value, int digits, char* buffer, int, int expone
         const std::string plain = Format(value, std::chars_format::fixed, std::max(0, behind - exponent));
         if (plain.size() <= kLongest) text = plain;
     }
-    text = Trimmed(text);
+    text = Marked(Trimmed(text));
     std::memcpy(buffer, text.c_str(), text.size() + 1);
 }

@@ -24,6 +24,13 @@ const LengthUnit* TextUnit(const Table& units, uint16_t display, uint16_t number
     return UnitOfVariable(units, display ? display : number);
 }
 
+// The whole text into the caller's buffer; cut off, it would be another number.
+int Give(const std::string& text, char* buffer, int size) {
+    if (text.empty() || !buffer || size <= 0 || text.size() >= static_cast<size_t>(size)) return 0;
+    CopyText(text, buffer, size);
+    return 1;
+}
+
 int TextToNumber(Table* units, uint16_t number, uint16_t display, const char* text, double* value) {
     if (!units || !text || !value) return 0;
     const LengthUnit* of = UnitOfVariable(*units, number);
@@ -36,15 +43,14 @@ int TextToNumber(Table* units, uint16_t number, uint16_t display, const char* te
 
 int NumberToText(Table* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
                  bool suffix) {
-    if (!units || !buffer || size <= 0) return 0;
+    if (!units) return 0;
     const LengthUnit* of = UnitOfVariable(*units, number);
     const LengthUnit* shown = TextUnit(*units, display, number);
     if (!of || !shown) return 0;
-    const std::string text =
-        WriteLength(value * NumberUnit(number, *of), *shown, LinearDigits(*units), suffix);
-    if (text.empty() || text.size() >= static_cast<size_t>(size)) return 0;
-    CopyText(text, buffer, size);
-    return 1;
+    LengthFormat format = LengthFormatOf(*units);
+    format.suffix = suffix;
+    if (number != kUnitDrawing) format.system = LengthSystem::Decimal; // what lies on paper has no feet
+    return Give(WriteLength(value * NumberUnit(number, *of), *shown, format), buffer, size);
 }
 
 Table* UnitsOf(DrawingStruct* drawing) {
@@ -118,11 +124,44 @@ double UnitsGetScaleValue(TableStruct* units, const char* text) {
 }
 
 int UnitsMakeScaleString(TableStruct*, double scale, char* buffer, int size) {
-    if (!std::isfinite(scale) || scale <= 0 || !std::isfinite(1 / scale) || !buffer) return 0;
+    if (!std::isfinite(scale) || scale <= 0 || !std::isfinite(1 / scale)) return 0;
     constexpr int kDigits = 12;
     const std::string text =
         scale >= 1 ? "1 : " + DecimalText(scale, kDigits) : DecimalText(1 / scale, kDigits) + " : 1";
-    if (size <= 0 || text.size() >= static_cast<size_t>(size)) return 0;
-    CopyText(text, buffer, size);
+    return Give(text, buffer, size);
+}
+
+int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
+    const Table* table = Table::Find(units);
+    const LengthUnit* unit = table ? UnitOfVariable(*table, variable) : nullptr;
+    if (!unit || !value) return 0;
+    *value = unit->millimetres;
+    return 1;
+}
+
+uint16_t UnitsGetAngularSystem(TableStruct* units) {
+    const Table* table = Table::Find(units);
+    return static_cast<uint16_t>(table ? AngleFormatOf(*table).system : AngleFormat().system);
+}
+
+int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* value, int) {
+    const Table* units = UnitsOf(drawing);
+    return units && text && value && ReadAngle(text, AngleFormatOf(*units).system, *value);
+}
+
+int DrawingStdAngleToText(DrawingStruct* drawing, double value, char* buffer, int size, int) {
+    const Table* units = UnitsOf(drawing);
+    return units ? Give(WriteAngle(value, AngleFormatOf(*units)), buffer, size) : 0;
+}
+
+int DrawingGetScaleString(DrawingStruct* drawing, char* buffer, int size) {
+    const Drawing* found = Drawing::Find(drawing);
+    return found ? Give(found->scaleText, buffer, size) : 0;
+}
+
+int DrawingSetScaleString(DrawingStruct* drawing, const char* text) {
+    Drawing* found = Drawing::Find(drawing);
+    if (!found || UnitsGetScaleValue(found->Units(), text) == 0.0) return 0;
+    found->scaleText = text;
     return 1;
 }

@@ -7,13 +7,34 @@
 
 namespace drawcore {
 
+namespace {
+
+constexpr int kMostDigits = 12;
+
+int Whole(const Table& units, uint16_t variable, int otherwise) {
+    const int* value = units.Variable<int>(variable);
+    return value ? *value : otherwise;
+}
+
+// One of the enumeration's values from first to last, whose number the variable holds.
+template <class System>
+System SystemOf(const Table& units, uint16_t variable, System first, System last, System otherwise) {
+    const auto number = static_cast<System>(Whole(units, variable, static_cast<int>(otherwise)));
+    return number >= first && number <= last ? number : otherwise;
+}
+
+} // namespace
+
 void UnitSettings::Store(Table& units) const {
     units.SetVariable(kUnitDrawing, drawingUnit);
     units.SetVariable(kUnitMillimetre, std::string("mm"));
     units.SetVariable(kUnitTextSize, textSizeUnit);
     units.SetVariable(kUnitPenWidth, penWidthUnit);
     units.SetVariable(kUnitFontName, fontName);
-    units.SetVariable(kUnitLinearDigits, linearDigits);
+    units.SetVariable(kUnitLinearSystem, static_cast<int>(lengthSystem));
+    units.SetVariable(kUnitLinearDigits, lengthDigits);
+    units.SetVariable(kUnitAngularSystem, static_cast<int>(angleSystem));
+    units.SetVariable(kUnitAngularDigits, angleDigits);
 }
 
 const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
@@ -21,9 +42,22 @@ const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
     return name ? FindLengthUnit(*name) : nullptr;
 }
 
-int LinearDigits(const Table& units) {
-    const int* digits = units.Variable<int>(kUnitLinearDigits);
-    return digits ? std::clamp(*digits, 0, 12) : UnitSettings().linearDigits;
+LengthFormat LengthFormatOf(const Table& units) {
+    const UnitSettings fresh;
+    LengthFormat format;
+    format.system = SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional,
+                             fresh.lengthSystem);
+    format.digits = std::clamp(Whole(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
+    return format;
+}
+
+AngleFormat AngleFormatOf(const Table& units) {
+    const UnitSettings fresh;
+    AngleFormat format;
+    format.system =
+        SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
+    format.digits = std::clamp(Whole(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
+    return format;
 }
 
 } // namespace drawcore

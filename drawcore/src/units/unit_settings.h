@@ -4,6 +4,8 @@
 #include <string>
 
 #include "drawcore/src/tables/table.h"
+#include "drawcore/src/units/angle_text.h"
+#include "drawcore/src/units/length_text.h"
 #include "drawcore/src/units/length_unit.h"
 
 namespace drawcore {
@@ -13,13 +15,19 @@ struct UnitSettings {
     std::string textSizeUnit = "mm";
     std::string penWidthUnit = "mm";
     std::string fontName = "Arial";
-    int linearDigits = 4;
+    LengthSystem lengthSystem = LengthSystem::Decimal;
+    int lengthDigits = 4;
+    AngleSystem angleSystem = AngleSystem::Degrees;
+    int angleDigits = 4;
 
     void Store(Table& units) const;
 };
 
 // The unit that a string variable names; null if there is none, or none of that name.
 const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable);
-int LinearDigits(const Table& units);
+
+// How lengths and angles are written; what a variable doesn't say, or says wrongly, is as in new drawings.
+LengthFormat LengthFormatOf(const Table& units);
+AngleFormat AngleFormatOf(const Table& units);
 
 } // namespace drawcore

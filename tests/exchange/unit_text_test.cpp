@@ -1,0 +1,158 @@
+// Lengths and angles in fields, over the real conversions of a drawing.
+
+#include "exchange_dialog.h"
+
+#include <cmath>
+#include <functional>
+
+#include <drawcore/units.h>
+
+#include "orlo/exchange/ddx_unit_text.h"
+#include "support/test_drawing.h"
+
+namespace {
+
+class UnitText : public ExchangeDialog {
+protected:
+    UnitText() {
+        TableSetStringVar(m_drawing.Get()->pUnits, kUnitDrawing, "in");
+        TableSetIntVar(m_drawing.Get()->pUnits, kUnitLinearSystem, 4);
+    }
+
+    // What a silent save of the text gives, and what is then in the variable.
+    template <class Exchange>
+    int Save(const char* text, Exchange exchange) {
+        SetText(IDC_EDIT, text);
+        m_value = 7.0;
+        return exchange(0, &m_save, IDC_EDIT, m_value);
+    }
+    template <class Exchange>
+    std::string Load(double value, Exchange exchange, int id = IDC_EDIT) {
+        SetText(id, "old");
+        m_value = value;
+        m_result = exchange(0, &m_load, static_cast<unsigned>(id), m_value);
+        return Text(id);
+    }
+
+    TestDrawing m_drawing;
+    double m_value = 0.0;
+    int m_result = 0;
+};
+
+// All of them with one signature.
+using Exchange = std::function<int(int, CDataExchange*, unsigned, double&)>;
+
+Exchange Linear(DrawingStruct* d, int bBlank = 0, double dDefault = 3.0) {
+    return [=](int r, CDataExchange* x, unsigned c, double& v) {
+        return DDX_TextLinear(r, x, c, v, d, dDefault, 0, bBlank);
+    };
+}
+Exchange Paper(DrawingStruct* d, int bBlank = 0) {
+    return
+        [=](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextPaper(r, x, c, v, d, bBlank); };
+}
+Exchange PaperMM(DrawingStruct* d, int bBlank = 0) {
+    return [=](int r, CDataExchange* x, unsigned c, double& v) {
+        return DDX_TextPaperMM(r, x, c, v, d, bBlank);
+    };
+}
+Exchange PaperWorld(DrawingStruct* d, double scale, int bBlank = 0) {
+    return [=](int r, CDataExchange* x, unsigned c, double& v) {
+        return DDX_TextPaperWorld(r, x, c, v, d, scale, bBlank);
+    };
+}
+Exchange Angular(DrawingStruct* d, int bBlank = 0) {
+    return [=](int r, CDataExchange* x, unsigned c, double& v) {
+        return DDX_TextAngular(r, x, c, v, d, bBlank);
+    };
+}
+
+TEST_F(UnitText, ShowsAndSavesValuesInTheirUnits) {
+    DrawingStruct* const d = m_drawing.Get();
+    const struct {
+        Exchange exchange;
+        double value;
+        const char* text;
+    } kRows[] = {{Linear(d), -18.5, "-1'-6 1/2\""},    {Paper(d), 25.4, "25.4 mm"},
+                 {PaperMM(d), 0.35, "0.35 mm"},        {PaperWorld(d, 2.0), 10, "508 mm"},
+                 {PaperWorld(d, -0.5), 2, "-25.4 mm"}, {Angular(d), 0.7853981633974483, "45"}};
+    for (const auto& row : kRows) {
+        EXPECT_EQ(row.text, Load(row.value, row.exchange));
+        EXPECT_EQ(1, m_result);
+        EXPECT_EQ(1, Save(row.text, row.exchange)) << row.text;
+        EXPECT_NEAR(row.value, m_value, 1e-9) << row.text;
+    }
+    EXPECT_EQ(1, Save("1 in", PaperMM(d)));
+    EXPECT_NEAR(25.4, m_value, 1e-9);
+}
+
+TEST_F(UnitText, RefusesWhatItCannotReadWithoutAMessage) {
+    DrawingStruct* const d = m_drawing.Get();
+    const struct {
+        Exchange exchange;
+        double left;
+    } kRows[] = {
+        {Linear(d), 3.0}, {Paper(d), 7.0}, {PaperMM(d), 7.0}, {PaperWorld(d, 2), 7.0}, {Angular(d), 7.0}};
+    MessageBoxWatcher boxes;
+    for (const auto& row : kRows)
+        for (const char* text : {"", "much", "2 2", "1e999"}) {
+            EXPECT_EQ(0, Save(text, row.exchange)) << text;
+            EXPECT_EQ(row.left, m_value) << text;
+            EXPECT_TRUE(Refused([&] { row.exchange(1, &m_save, IDC_EDIT, m_value); })) << text;
+        }
+    EXPECT_TRUE(boxes.Boxes().empty());
+    for (const auto& row : kRows) {
+        EXPECT_EQ("old", Load(HUGE_VAL, row.exchange)) << "no text for it";
+        EXPECT_EQ(0, m_result);
+    }
+}
+
+TEST_F(UnitText, BlankFieldsSaveZeroAndDisabledOnesAreShownEmpty) {
+    DrawingStruct* const d = m_drawing.Get();
+    for (const Exchange& exchange :
+         {Linear(d, 1), Paper(d, 1), PaperMM(d, 1), PaperWorld(d, 2, 1), Angular(d, 1)}) {
+        EXPECT_EQ(1, Save(" \t ", exchange));
+        EXPECT_EQ(0.0, m_value) << "nor the default";
+        EXPECT_EQ("", Load(5.0, exchange, IDC_DISABLED_EDIT));
+        EXPECT_EQ(1, m_result);
+        EXPECT_NE("", Load(5.0, exchange));
+    }
+    EXPECT_NE("", Load(5.0, Linear(d, 0), IDC_DISABLED_EDIT)) << "without the rule it is shown all the same";
+}
+
+TEST_F(UnitText, NeedsADrawingAndAScale) {
+    const Exchange kRows[] = {Linear(nullptr),
+                              Paper(nullptr),
+                              PaperMM(nullptr),
+                              PaperWorld(nullptr, 2),
+                              Angular(nullptr),
+                              PaperWorld(m_drawing.Get(), 0.0),
+                              PaperWorld(m_drawing.Get(), 1e-8),
+                              PaperWorld(m_drawing.Get(), NAN)};
+    for (const Exchange& exchange : kRows) {
+        EXPECT_EQ("old", Load(5.0, exchange));
+        EXPECT_EQ(0, m_result);
+        EXPECT_EQ(0, Save("1", exchange));
+        EXPECT_EQ(7.0, m_value);
+        EXPECT_TRUE(Refused([&] { exchange(1, &m_load, IDC_EDIT, m_value); }));
+    }
+    EXPECT_EQ(1, Save("1", PaperWorld(m_drawing.Get(), 2e-7)));
+    EXPECT_NEAR(1 / 25.4 / 2e-7, m_value, 1e-6);
+}
+
+TEST_F(UnitText, RadiansAreShownInDegrees) {
+    const Exchange radians = [](int r, CDataExchange* x, unsigned c, double& v) {
+        return DDX_TextRadians(r, x, c, v);
+    };
+    EXPECT_EQ("180", Load(3.141592653589793, radians));
+    EXPECT_EQ("*****", Load(HUGE_VAL, radians));
+    EXPECT_EQ("", Load(1.0, radians, IDC_DISABLED_EDIT));
+    EXPECT_EQ(1, Save("180", radians));
+    EXPECT_NEAR(3.141592653589793, m_value, 1e-6);
+    EXPECT_EQ(1, Save("", radians));
+    EXPECT_EQ(0.0, m_value);
+    EXPECT_EQ(0, Save("north", radians));
+    EXPECT_EQ(7.0, m_value);
+}
+
+} // namespace

@@ -1,0 +1,201 @@
+// Controls over variables of a table: what is shown, what is written, and when the table stays as it is.
+
+#include "exchange_dialog.h"
+
+#include "orlo/exchange/ddx_button.h"
+#include "orlo/exchange/ddx_variable.h"
+#include "orlo/frame/entry.h"
+#include "orlo/resources/resource.h"
+#include "support/test_drawing.h"
+
+namespace {
+
+constexpr uint16_t kVariable = 0x6001;
+constexpr unsigned long kLong = 0x12340000ul | kVariable; // only the low half counts
+
+class VariableExchange : public ExchangeDialog {
+protected:
+    VariableExchange() : m_table(m_drawing.Get()->pUnits) { PropPageInit(); }
+
+    double Real() const {
+        double value = -99.0;
+        TableGetNumericVar(m_table, kVariable, &value);
+        return value;
+    }
+    int Whole() const {
+        int value = -99;
+        TableGetIntVar(m_table, kVariable, &value);
+        return value;
+    }
+    int Checked() const {
+        for (const int id : {IDC_RADIO_FIRST, IDC_RADIO_SECOND, IDC_RADIO_THIRD})
+            if (::SendMessageA(Control(id), BM_GETCHECK, 0, 0)) return id;
+        return 0;
+    }
+    void Check(int id) {
+        for (const int button : {IDC_RADIO_FIRST, IDC_RADIO_SECOND, IDC_RADIO_THIRD})
+            Send(button, BM_SETCHECK, button == id);
+    }
+
+    TestDrawing m_drawing;
+    TableStruct* m_table;
+};
+
+TEST_F(VariableExchange, RealNumbersAreCheckedAndWritten) {
+    EXPECT_EQ(1, DDX_TextVarNumeric(1, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
+    EXPECT_EQ("0", Text(IDC_EDIT)) << "no such variable";
+    SetText(IDC_EDIT, "2.5");
+    EXPECT_EQ(1, DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5));
+    EXPECT_EQ(2.5, Real());
+    SetText(IDC_EDIT, "6");
+    EXPECT_EQ(0, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 1, 5));
+    MessageBoxWatcher boxes;
+    EXPECT_TRUE(Refused([&] { DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5); }));
+    EXPECT_EQ(2.5, Real());
+    EXPECT_EQ(1u, boxes.Boxes().size());
+    EXPECT_EQ(1, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0)) << "equal limits are none";
+    EXPECT_EQ(6.0, Real());
+    SetText(IDC_EDIT, "six");
+    EXPECT_EQ(0, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 5, 1));
+    EXPECT_EQ(6.0, Real());
+    EXPECT_EQ(1, DDX_TextVarNumeric(0, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
+    EXPECT_EQ("6", Text(IDC_EDIT));
+}
+
+TEST_F(VariableExchange, WholeNumbersAreCheckedAndWritten) {
+    SetText(IDC_EDIT, "-12");
+    EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 100));
+    EXPECT_EQ(-99, Whole());
+    EXPECT_EQ(1, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0));
+    EXPECT_EQ(-12, Whole());
+    SetText(IDC_EDIT, "1.5");
+    EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0));
+    EXPECT_EQ(1, DDX_TextVarInt(0, &m_load, IDC_EDIT, m_table, kLong, 0, 0));
+    EXPECT_EQ("-12", Text(IDC_EDIT));
+}
+
+TEST_F(VariableExchange, TextsKeepTheirLength) {
+    const std::string text(300, 'x');
+    TableSetStringVar(m_table, kVariable, text.c_str());
+    EXPECT_EQ(1, DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong));
+    EXPECT_EQ(text.substr(0, 127), Text(IDC_EDIT));
+    EXPECT_EQ(1, DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong));
+    EXPECT_EQ(text.substr(0, 255), Text(IDC_COMBO));
+    SetText(IDC_EDIT, "short");
+    EXPECT_EQ(1, DDX_TextVarString(1, &m_save, IDC_EDIT, m_table, kLong));
+    EXPECT_EQ(1, DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong));
+    EXPECT_EQ("short", Text(IDC_COMBO));
+    SetText(IDC_COMBO, "other");
+    EXPECT_EQ(1, DDX_CBVarString(1, &m_save, IDC_COMBO, m_table, kLong));
+    EXPECT_EQ(1, DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong));
+    EXPECT_EQ("other", Text(IDC_EDIT));
+}
+
+TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
+    TableStruct* const units = m_drawing.Get()->pUnits;
+    const auto exchange = [&](int bReport, CDataExchange& dx, double min, double max) {
+        return DDX_TextVarDeviceInches(bReport, &dx, IDC_EDIT, units, m_table, kVariable, min, max,
+                                       AFX_IDP_PARSE_REAL_RANGE);
+    };
+    EXPECT_EQ(1, exchange(1, m_load, 0, 0));
+    EXPECT_EQ("0.635 mm", Text(IDC_EDIT)) << "no such variable";
+    SetText(IDC_EDIT, "1 in");
+    EXPECT_EQ(1, exchange(1, m_save, 0, 2));
+    EXPECT_NEAR(1.0, Real(), 1e-12);
+    SetText(IDC_EDIT, "3 in");
+    EXPECT_EQ(0, exchange(0, m_save, 0, 2));
+    {
+        MessageBoxWatcher boxes;
+        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
+        SetText(IDC_EDIT, "thick");
+        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
+        ASSERT_EQ(2u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes()[0].text, boxes.Boxes()[1].text) << "the limits, for a bad text too";
+    }
+    {
+        MessageBoxWatcher boxes;
+        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 2, 0); }));
+        CString expected;
+        expected.LoadString(AFX_IDP_PARSE_REAL);
+        EXPECT_EQ(std::string(expected), boxes.OnlyText()) << "without limits";
+    }
+    EXPECT_EQ(0, exchange(0, m_save, 0, 2));
+    EXPECT_NEAR(1.0, Real(), 1e-12);
+    EXPECT_EQ(1, exchange(0, m_load, 0, 2));
+    EXPECT_EQ("25.4 mm", Text(IDC_EDIT));
+    EXPECT_EQ(0, DDX_TextVarDeviceInches(0, &m_load, IDC_EDIT, nullptr, m_table, kVariable, 0, 0, 0));
+}
+
+TEST_F(VariableExchange, BoxesAndButtonsFollowWholeNumbers) {
+    TableSetIntVar(m_table, kVariable, 2);
+    DDX_CheckVarInt(1, &m_load, IDC_THREE_STATE, m_table, kLong);
+    EXPECT_EQ(2, Send(IDC_THREE_STATE, BM_GETCHECK));
+    Send(IDC_THREE_STATE, BM_SETCHECK, 1);
+    DDX_CheckVarInt(1, &m_save, IDC_THREE_STATE, m_table, kLong);
+    EXPECT_EQ(1, Whole());
+    DDX_RadioVarInt(1, &m_load, IDC_RADIO_FIRST, m_table, kLong);
+    EXPECT_EQ(IDC_RADIO_SECOND, Checked());
+    Check(0);
+    DDX_RadioVarInt(1, &m_save, IDC_RADIO_FIRST, m_table, kLong);
+    EXPECT_EQ(-1, Whole());
+    Check(IDC_RADIO_THIRD);
+    DDX_RadioVarInt(1, &m_load, IDC_RADIO_FIRST, m_table, kVariable + 1);
+    EXPECT_EQ(0, Checked()) << "no such variable";
+}
+
+TEST_F(VariableExchange, AMapTellsWhatTheButtonsStandFor) {
+    int map[] = {-1, 1, 0, 1};
+    const struct {
+        int value, button, saved;
+    } kRows[] = {{0, IDC_RADIO_SECOND, 0}, {1, IDC_RADIO_THIRD, 1}, {5, 0, -1}, {-1, 0, -1}};
+    for (const auto& row : kRows) {
+        int value = row.value;
+        EXPECT_EQ(1, DDX_RadioMap(1, &m_load, IDC_RADIO_FIRST, value, map, 4));
+        EXPECT_EQ(row.button, Checked()) << row.value;
+        EXPECT_EQ(1, DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 4));
+        EXPECT_EQ(row.saved, value);
+
+        long longMap[] = {-1, 1, 0, 1};
+        TableSetIntVar(m_table, kVariable, row.value);
+        EXPECT_EQ(1, DDX_RadioVarIntMap(1, &m_load, IDC_RADIO_FIRST, m_table, kLong, longMap, 4));
+        EXPECT_EQ(row.button, Checked()) << row.value;
+        EXPECT_EQ(1, DDX_RadioVarIntMap(1, &m_save, IDC_RADIO_FIRST, m_table, kLong, longMap, 4));
+        EXPECT_EQ(row.saved, Whole());
+    }
+    Check(IDC_RADIO_THIRD);
+    int value = 7;
+    EXPECT_EQ(0, DDX_RadioMap(0, &m_save, IDC_RADIO_FIRST, value, map, 3)) << "the map has two buttons";
+    EXPECT_TRUE(Refused([&] { DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 3); }));
+    EXPECT_EQ(7, value);
+}
+
+TEST_F(VariableExchange, AnIndexHasABaseAndLimits) {
+    for (const char* item : {"one", "two", "three", "four", "five", "six"})
+        Send(IDC_DROP_LIST, CB_ADDSTRING, 0, item);
+    const struct { int selected, stored; } kRows[] = {{0, 1}, {1, 2}, {2, 3}, {3, 2}, {5, 2}, {-1, 2}};
+    for (const auto& row : kRows) {
+        Send(IDC_DROP_LIST, CB_SETCURSEL, static_cast<WPARAM>(row.selected));
+        EXPECT_EQ(1, DDX_CBVarIndex(1, &m_save, IDC_DROP_LIST, m_table, kLong, 1, 3, 2));
+        EXPECT_EQ(row.stored, Whole()) << row.selected;
+        EXPECT_EQ(1, DDX_CBVarIndex(1, &m_load, IDC_DROP_LIST, m_table, kLong, 1, 3, 2));
+        EXPECT_EQ(row.stored - 1, Send(IDC_DROP_LIST, CB_GETCURSEL));
+    }
+    TableSetIntVar(m_table, kVariable, 50);
+    DDX_CBVarIndex(1, &m_load, IDC_DROP_LIST, m_table, kLong, 1, 3, 2);
+    EXPECT_EQ(CB_ERR, Send(IDC_DROP_LIST, CB_GETCURSEL));
+}
+
+TEST_F(VariableExchange, TheScaleIsThatOfTheDrawing) {
+    DrawingSetScaleString(m_drawing.Get(), "1 : 48");
+    EXPECT_EQ(1, DDX_CBVarScale(1, &m_load, IDC_COMBO, m_drawing.Get()));
+    EXPECT_EQ("1 : 48", Text(IDC_COMBO));
+    SetText(IDC_COMBO, "1 : 20");
+    EXPECT_EQ(1, DDX_CBVarScale(1, &m_save, IDC_COMBO, m_drawing.Get()));
+    SetText(IDC_COMBO, "large");
+    EXPECT_EQ(1, DDX_CBVarScale(0, &m_save, IDC_COMBO, m_drawing.Get()));
+    char text[64] = "";
+    DrawingGetScaleString(m_drawing.Get(), text, sizeof text);
+    EXPECT_STREQ("1 : 20", text);
+}
+
+} // namespace
