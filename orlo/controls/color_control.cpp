@@ -10,6 +10,7 @@
 #include "orlo/controls/color_swatch.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
+#include "orlo/controls/style_item.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/strings.h"
 
@@ -70,9 +71,7 @@ std::vector<Entry> SortedColors(TableStruct* table) {
 }
 
 void AppendMarker(const ControlItems& items, DWORD marker) {
-    ItemText text(marker);
-    DrawCoreLoadString(HostStringOf(marker), text.name(), kHostTextSize);
-    items.Add(text.c_str());
+    items.Add(HostTextItem(marker, HostStringOf(marker)).c_str());
 }
 
 // The name under which a colour without an item, or a marker, is shown.

@@ -5,10 +5,13 @@
 #include <algorithm>
 
 #include "orlo/controls/filling.h"
+#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
+#include "orlo/controls/type_ahead.h"
 
 namespace {
 
+// Pixels at 96 dpi.
 constexpr int kMaxDropHeight = 320; // closed field and open list together
 constexpr int kButtonWidth = 16;    // at the right of the client area
 
@@ -66,6 +69,11 @@ void CComboControl::PostNcDestroy() {
     if (m_bAutoDelete) delete this;
 }
 
+LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfCombo(m_hWnd), wParam)) return 0;
+    return CComboBox::WindowProc(message, wParam, lParam);
+}
+
 void CComboControl::SizeDropDown() {
     RECT rect = {};
     ::GetWindowRect(m_hWnd, &rect);
@@ -75,7 +83,7 @@ void CComboControl::SizeDropDown() {
     const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + (rect.bottom - rect.top);
     const int count = std::max(GetCount(), 0);
     if (m_nDropHeight != count * row + frame) {
-        const int room = std::max(kMaxDropHeight - frame, 0);
+        const int room = std::max(ScreenPixels(kMaxDropHeight) - frame, 0);
         m_nDropHeight = std::min(count, room / row) * row + frame;
     }
     SetControlHeight(m_hWnd, m_nDropHeight);
@@ -111,7 +119,7 @@ void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
     RECT client = {};
     ::GetClientRect(m_hWnd, &client);
     const HWND parent = ::GetParent(m_hWnd);
-    if (!parent || point.x >= client.right - kButtonWidth) {
+    if (!parent || point.x >= client.right - ScreenPixels(kButtonWidth)) {
         Default();
         return;
     }

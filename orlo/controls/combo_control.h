@@ -64,6 +64,8 @@ protected:
 
     WNDPROC* GetSuperWndProcAddr() override;
     void PostNcDestroy() override;
+    // Typing ahead goes by the names of the items; see type_ahead.h.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.
     int FindItem(unsigned int nID) const {

@@ -4,9 +4,15 @@
 
 #include <new>
 
+#include "orlo/controls/brush_style_control_c.h"
+#include "orlo/controls/brush_style_control_l.h"
 #include "orlo/controls/color_control.h"
+#include "orlo/controls/font_face_control.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/controls/layer_control.h"
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
+#include "orlo/controls/style_name_control.h"
 
 namespace {
 
@@ -28,6 +34,11 @@ CWnd* MakeFor(HWND window, Make make) {
 CWnd* CreateComboObject(HWND hWnd, int nID) {
     return MakeFor(hWnd, [=]() -> CWnd* {
         switch (nID) {
+        case 32000:
+        case 32022:
+            return new CFontFaceControl(hWnd);
+        case 32001:
+            return new CFontSizeControl(hWnd);
         case 32004:
         case 32017:
         case 32020:
@@ -44,6 +55,12 @@ CWnd* CreateComboObject(HWND hWnd, int nID) {
         case 32025:
         case 32027:
             return new CColorControl(hWnd, 1);
+        case 32007:
+            return new CBrushStyleControlC(hWnd);
+        case 32008:
+            return new CLayerControl(hWnd);
+        case 32015:
+            return new CStyleNameControl(hWnd);
         default:
             return nullptr;
         }
@@ -55,6 +72,8 @@ CWnd* CreateListObject(HWND hWnd, int nID) {
         switch (nID) {
         case 32021:
             return new CLineStyleControlL(hWnd);
+        case 32024:
+            return new CBrushStyleControlL(hWnd);
         default:
             return nullptr;
         }

@@ -5,12 +5,13 @@
 #include <cstring>
 
 #include "orlo/controls/paint.h"
+#include "orlo/controls/screen_scale.h"
 
 namespace {
 
 OwnedFont CreateSharedFont() {
     LOGFONTA font = {};
-    font.lfHeight = -12;
+    font.lfHeight = -ScreenPixels(12);
     font.lfWeight = FW_NORMAL;
     font.lfCharSet = DEFAULT_CHARSET;
     std::strcpy(font.lfFaceName, "MS Sans Serif");

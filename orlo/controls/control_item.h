@@ -36,6 +36,7 @@ public:
     explicit ItemText(DWORD number);
 
     char* name() { return text_ + kKeySize; }
+    const char* name() const { return text_ + kKeySize; }
     const char* c_str() const { return text_; }
 
 private:

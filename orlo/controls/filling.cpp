@@ -2,12 +2,19 @@
 
 #include "orlo/controls/filling.h"
 
+#include <algorithm>
+
 #include "orlo/controls/text_height.h"
 
 namespace {
 
 // Innermost filling. Controls live on one thread, and a filling of one control may set off that of another.
 Filling* g_current = nullptr;
+
+// A font larger than that of the device context, as a high resolution brings, has rows that it fits in.
+int MeasureRow(HWND window) {
+    return std::max(GetOwnerDrawFixedTextHeight(window), ControlFontHeight(window));
+}
 
 } // namespace
 
@@ -30,11 +37,11 @@ Filling* Filling::Of(HWND window) {
 }
 
 int Filling::TextHeight() {
-    if (!textHeight_) textHeight_ = GetOwnerDrawFixedTextHeight(window_);
+    if (!textHeight_) textHeight_ = MeasureRow(window_);
     return textHeight_;
 }
 
 int RowTextHeight(HWND window) {
     Filling* const fill = Filling::Of(window);
-    return fill ? fill->TextHeight() : GetOwnerDrawFixedTextHeight(window);
+    return fill ? fill->TextHeight() : MeasureRow(window);
 }

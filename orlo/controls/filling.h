@@ -26,6 +26,7 @@ private:
     Filling* outer_;
 };
 
-// Height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, asked once in a filling. A list of
+// Height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font if that is
+// larger; asked once in a filling. A list of
 // variable row height wants it for every item that is added.
 int RowTextHeight(HWND window);

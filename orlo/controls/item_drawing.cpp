@@ -4,11 +4,11 @@
 
 #include "orlo/controls/paint.h"
 
-namespace {
-
-constexpr COLORREF kBlack = RGB(0, 0, 0);
-
-} // namespace
+RowColors ColorsOf(const DRAWITEMSTRUCT& item) {
+    const bool selected = item.itemState & ODS_SELECTED;
+    return {::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT),
+            ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW)};
+}
 
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item) {
     if (IsClosedField(item) || IsNoItem(item) || (item.itemAction & ODA_DRAWENTIRE)) return ItemPart::Whole;
@@ -34,7 +34,14 @@ void ClearItem(const DRAWITEMSTRUCT& item) {
               ::GetSysColor(COLOR_WINDOW));
 }
 
+void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors) {
+    const RECT& rect = item.rcItem;
+    FillSolid(item.hDC, rect, colors.background);
+    DrawClippedText(item.hDC, rect.left + kPlainTextAt.x, rect.top + kPlainTextAt.y, rect, text, colors.text);
+}
+
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name) {
-    FrameRectangle(item.hDC, frame, kBlack, 1);
-    DrawClippedText(item.hDC, at.x, at.y, item.rcItem, name, kBlack);
+    const COLORREF ink = InkOnWindow();
+    FrameRectangle(item.hDC, frame, ink, 1);
+    DrawClippedText(item.hDC, at.x, at.y, item.rcItem, name, ink);
 }

@@ -15,6 +15,12 @@ inline bool IsClosedField(const DRAWITEMSTRUCT& item) {
     return item.rcItem.left > 0;
 }
 
+// Colours of a row of text, selected or not.
+struct RowColors {
+    COLORREF text, background;
+};
+RowColors ColorsOf(const DRAWITEMSTRUCT& item);
+
 // What a request asks a control of style samples to draw.
 enum class ItemPart { Nothing, Whole, SelectionFrame, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
@@ -29,7 +35,11 @@ void DrawItemFocus(const DRAWITEMSTRUCT& item);
 // The item's background in the window's colour, the border of a closed field included.
 void ClearItem(const DRAWITEMSTRUCT& item);
 
-// A name in a black frame, the text at that point.
+// A row of plain text, which stands at that distance from the item's corner.
+constexpr POINT kPlainTextAt = {4, 1};
+void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors);
+
+// A name in a frame, the text at that point.
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name);
 
 // Draws what a request asks of a control of style samples. drawStyle draws the whole item but selection and

@@ -5,13 +5,14 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/line_style_item.h"
+#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
 
 namespace {
 
 constexpr unsigned int kKind = 0x7D15;
-constexpr int kHeight = 136;    // of the list
-constexpr UINT kRowHeight = 22; // device pixels
+constexpr int kHeight = 136;   // of the list
+constexpr int kRowHeight = 22; // pixels at 96 dpi
 
 } // namespace
 
@@ -52,7 +53,7 @@ void CLineStyleControlL::FillControl(WPARAM, LPARAM lParam) {
 }
 
 void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
-    pMIS->itemHeight = kRowHeight;
+    pMIS->itemHeight = static_cast<UINT>(ScreenPixels(kRowHeight));
 }
 
 void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {

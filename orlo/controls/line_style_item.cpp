@@ -44,7 +44,8 @@ double PatternLength(TableStruct* table, uint16_t style, int items) {
     return kLengthWithoutGap;
 }
 
-void DrawStyledSample(const DRAWITEMSTRUCT& request, const LineStyleItem& item, const RECT& cell) {
+void DrawStyledSample(const DRAWITEMSTRUCT& request, const StyleItem& item, const RECT& cell) {
+    GraphicSetPenColor(item.graphic, InkOnWindow());
     GraphicSetPenStyle(item.graphic, static_cast<uint16_t>(item.style));
     GraphicSetPenScale(item.graphic, LineSampleScale(item.table, item.style, SampleWidth(item.graphic)));
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
@@ -77,19 +78,13 @@ SampleGraphic MakeListLineSample(int controlWidth) {
                                                    {w, 1.0, Stroke::Starts}}));
 }
 
-ItemText DefaultLineStyleItem() {
-    ItemText text(kLineStyleDefault);
-    LoadSpecialName(kLineStyleDefault, text.name(), kHostTextSize);
-    return text;
-}
-
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth) {
     const uint16_t id = static_cast<uint16_t>(style);
     const int items = LineStyleGetDLItems(table, id);
     return items > 1 ? sampleWidth / PatternLength(table, id, items) : 1.0;
 }
 
-bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const LineStyleItem& item) {
+bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item) {
     ClearItem(request);
     if (item.style == 0 || item.style >= kLineStyleMixed) return true;
 

@@ -2,8 +2,9 @@
 // is drawn. Internal to the library.
 #pragma once
 
-#include "orlo/controls/control_item.h"
+#include "orlo/controls/style_item.h"
 #include "orlo/controls/style_sample.h"
+#include "orlo/host/strings.h"
 
 constexpr unsigned int kLineStyleDefault = 0xFFFE; // the default item, by the host's text
 constexpr unsigned int kLineStyleHidden = 0xFFFD;  // by the host's text; no list offers it
@@ -18,13 +19,12 @@ SampleGraphic MakeListLineSample(int controlWidth);
 
 // Calls add(text) for each style that is offered, in table order, and then for the default item if that is
 // wanted.
-ItemText DefaultLineStyleItem();
 template <class Add>
 void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     ForEachTableItem(table, [&](ItemText& text) {
         if (IsListedStyle(text.name())) add(text.c_str());
     });
-    if (withDefault) add(DefaultLineStyleItem().c_str());
+    if (withDefault) add(HostTextItem(kLineStyleDefault, kStringByLayer).c_str());
 }
 
 // Where a name stands: the combo frames the whole item, the list the cell inside.
@@ -35,17 +35,9 @@ struct LineStyleLook {
 constexpr LineStyleLook kComboLineLook = {false, {4, 1}};
 constexpr LineStyleLook kListLineLook = {true, {6, 4}};
 
-// A style as an item shows it.
-struct LineStyleItem {
-    unsigned int style; // identifier
-    const char* name;
-    TableStruct* table;     // of line styles; null: only the named styles can be shown
-    GraphicStruct* graphic; // the sample; without one, or without a viewport, a style is shown by its name
-    ViewportStruct* viewport;
-};
 // False: the style cannot be shown at all, and neither selection nor focus are to be drawn on the bare
 // background.
-bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const LineStyleItem& item);
+bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item);
 
 // Dash scale at which the first gap of the style is a fifteenth of the sample's width. 1.0 for a solid style.
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth);

@@ -5,6 +5,7 @@
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/table_control.h"
+#include "orlo/controls/type_ahead.h"
 
 WNDPROC CListControl::lpfnSuperWndProc = nullptr;
 
@@ -36,6 +37,11 @@ WNDPROC* CListControl::GetSuperWndProcAddr() {
 
 void CListControl::PostNcDestroy() {
     if (m_bAutoDelete) delete this;
+}
+
+LRESULT CListControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfList(m_hWnd), wParam)) return 0;
+    return CListBox::WindowProc(message, wParam, lParam);
 }
 
 unsigned long CListControl::GetControlItem(int index, char* text) {

@@ -37,6 +37,7 @@ protected:
 
     WNDPROC* GetSuperWndProcAddr() override;
     void PostNcDestroy() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.
     int FindItem(unsigned int nID) const {

@@ -22,6 +22,12 @@ void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, C
     ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &clip, text, static_cast<UINT>(std::strlen(text)), nullptr);
 }
 
+COLORREF InkOnWindow() {
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    const int mean = (GetRValue(window) + GetGValue(window) + GetBValue(window)) / 3;
+    return mean < 0x80 ? ::GetSysColor(COLOR_WINDOWTEXT) : RGB(0, 0, 0);
+}
+
 RECT Inflated(const RECT& rect, int by) {
     return {rect.left - by, rect.top - by, rect.right + by, rect.bottom + by};
 }

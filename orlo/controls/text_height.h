@@ -8,3 +8,6 @@
 // Height of "M" in device pixels, in the font that a device context of the window has by default; 16 without
 // one.
 ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
+
+// The same in the font that was given to the window (WM_SETFONT); 0 without one.
+int ControlFontHeight(HWND window);

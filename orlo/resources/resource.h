@@ -8,6 +8,16 @@
 #define IDD_TEXT_PAGE 29003
 #define IDD_INSERT_PAGE 29004
 
+// Icons of layers; the picture fills the top left quarter.
+#define IDI_VISIBLE 104
+#define IDI_READ_ONLY 106
+
+// Font styles, in the order of the style's two low bits.
+#define IDS_REGULAR 100
+#define IDS_ITALIC 101
+#define IDS_BOLD 102
+#define IDS_BOLD_ITALIC 103
+
 // Kinds of brush style.
 #define IDS_BITMAP_BRUSH 109
 #define IDS_VECTOR_BRUSH 110

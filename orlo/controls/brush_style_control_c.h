@@ -1,0 +1,32 @@
+// CBrushStyleControlC: a combo box of brush styles, each shown by a sample that the host fills; the twin of
+// CBrushStyleControlL.
+//
+// Brush styles are identifiers of the table's entries; 0 is no brush, which is the first item and never selected by a
+// filling, 0xFFFF several. There is a single sample graphic and a single viewport, whatever the number of styles.
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/style_sample.h"
+
+class ORLO_API CBrushStyleControlC : public CComboControl {
+    DECLARE_DYNCREATE(CBrushStyleControlC)
+    friend CWnd* CreateComboObject(HWND hWnd, int nID);
+
+public:
+    CBrushStyleControlC();
+    ~CBrushStyleControlC() override;
+
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
+    void FillControl(WPARAM wParam, LPARAM lParam) override;
+
+protected:
+    CBrushStyleControlC(HWND hWnd);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+
+    // Made with the window; a control that subclasses a window makes them when it is filled.
+    SampleGraphic m_pGraphic;
+    SampleViewport m_pViewport;
+
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,32 @@
+// CBrushStyleControlL: a list box of brush styles, each shown by a sample that the host fills; the twin of
+// CBrushStyleControlC.
+//
+// Brush styles are identifiers of the table's entries; 0 is no brush, which is the first item and never selected by a
+// filling, 0xFFFF several. There is a single sample graphic and a single viewport, whatever the number of styles.
+#pragma once
+
+#include "orlo/controls/list_control.h"
+#include "orlo/controls/style_sample.h"
+
+class ORLO_API CBrushStyleControlL : public CListControl {
+    DECLARE_DYNCREATE(CBrushStyleControlL)
+    friend CWnd* CreateListObject(HWND hWnd, int nID);
+
+public:
+    CBrushStyleControlL();
+    ~CBrushStyleControlL() override;
+
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
+    void FillControl(WPARAM wParam, LPARAM lParam) override;
+
+protected:
+    CBrushStyleControlL(HWND hWnd);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+
+    // Made with the window; a control that subclasses a window makes them when it is filled.
+    SampleGraphic m_pGraphic;
+    SampleViewport m_pViewport;
+
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,75 @@
+// What the combo and the list of brush styles share.
+
+#include "orlo/controls/brush_style_item.h"
+
+#include "orlo/controls/hatch_scale.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/vertex.h"
+
+namespace {
+
+constexpr double kMargin = 0.01;
+constexpr double kLeastHeight = 0.01; // of a cell without one
+constexpr POINT kTextAt = {4, 1};     // from the corner of the item
+
+void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
+    const RECT cell = Inflated(request.rcItem, -2);
+    if (look.fitsCell) FitSampleToCell(item.graphic, cell);
+    const COLORREF ink = InkOnWindow();
+    GraphicSetPenColor(item.graphic, ink);
+    GraphicSetBrushColor(item.graphic, ink);
+    GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
+    GraphicSetBrushScale(item.graphic,
+                         HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
+    GraphicSetDirty(item.graphic, 1); // the filling of the item before is not to be used again
+    DrawSample(item.graphic, item.viewport, request.hDC, cell);
+}
+
+} // namespace
+
+SampleGraphic MakeBrushSample(const BrushStyleLook& look) {
+    const double outer = look.ratio, right = outer - kMargin, top = 1.0 - kMargin;
+    const ScratchVertex vertex(VertexNewEx(kMargin, kMargin, 0.0));
+    SampleGraphic graphic = MakeSampleGraphic(vertex, {{kMargin, kMargin, Stroke::Kept},
+                                                       {kMargin, top, Stroke::Kept},
+                                                       {0.0, 1.0, Stroke::Starts},
+                                                       {kMargin, top, Stroke::Starts},
+                                                       {right, top, Stroke::Continues},
+                                                       {right, kMargin, Stroke::Continues},
+                                                       {outer, 0.0, Stroke::Starts},
+                                                       {right, kMargin, Stroke::Starts},
+                                                       {kMargin, kMargin, Stroke::Continues}});
+    if (graphic) graphic->dwOneOutline = 1;
+    return graphic;
+}
+
+void FitSampleToCell(GraphicStruct* graphic, const RECT& cell) {
+    const double height = cell.bottom != cell.top ? cell.bottom - cell.top : kLeastHeight;
+    const double outer = (cell.right - cell.left) / height;
+    int cookie = 0, index = 0;
+    for (VertexStruct* vertex = GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); vertex;
+         vertex = GraphicVertexNext(graphic, &cookie, 0, 0xFFFF), ++index) {
+        if (index >= 4 && index <= 7)
+            VertexSet(vertex, index == 6 ? outer : (1.0 - kMargin) * outer, vertex->y, vertex->z);
+    }
+    GraphicSetExtentsDirty(graphic, 1);
+}
+
+bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
+    ClearItem(request);
+    if (item.style >= kBrushStyleSpecial) return true;
+
+    const bool none = item.style == kBrushStyleNone;
+    if (!none && !item.table) return false;
+    if (!none && item.graphic && item.viewport) {
+        DrawStyledSample(request, look, item);
+        return true;
+    }
+    const ItemText noBrush = HostTextItem(kBrushStyleNone, kStringNoBrush);
+    const char* const name = none ? noBrush.name() : item.name;
+    const POINT at = {request.rcItem.left + kTextAt.x, request.rcItem.top + kTextAt.y};
+    if (*name) DrawFramedName(request, request.rcItem, at, name);
+    return true;
+}

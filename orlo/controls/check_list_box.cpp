@@ -1,0 +1,163 @@
+// CCheckListBox: a list box with a check box in front of each item.
+
+#include "orlo/controls/check_list_box.h"
+
+#include <algorithm>
+
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/controls/screen_scale.h"
+#include "orlo/controls/text_height.h"
+
+namespace {
+
+constexpr int kPictureSize = 12; // pixels of the check mark's picture, and of the box at 96 dpi
+constexpr int kTextGap = 3;
+
+// One picture for all lists of the process.
+OwnedGdi<HBITMAP>& CheckPicture() {
+    static OwnedGdi<HBITMAP> picture;
+    return picture;
+}
+
+void LoadCheckPicture() {
+    constexpr char kName[] = "W95CHECK";
+    OwnedGdi<HBITMAP>& picture = CheckPicture();
+    if (!picture)
+        picture.reset(::LoadBitmapA(AfxFindResourceHandle(kName, MAKEINTRESOURCEA(2)), kName)); // RT_BITMAP
+}
+
+int BoxMargin() {
+    return ::GetSystemMetrics(SM_CXDLGFRAME);
+}
+
+int HeightOfM(HDC dc) {
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, "M", 1, &size);
+    return size.cy;
+}
+
+void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
+    const HDC source = ::CreateCompatibleDC(dc);
+    if (!source) return;
+    {
+        const SelectedObject selected(source, picture);
+        ::StretchBlt(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, source, 0, 0,
+                     kPictureSize, kPictureSize, SRCCOPY);
+    }
+    ::DeleteDC(source);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CCheckListBox, CWnd)
+ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+CCheckListBox::CCheckListBox() = default;
+
+CCheckListBox::~CCheckListBox() = default;
+
+int CCheckListBox::AddString(const char* pszItem, int bChecked) {
+    const int index = CListBox::AddString(pszItem);
+    if (index != LB_ERR && index != LB_ERRSPACE) CheckItem(index, bChecked);
+    return index;
+}
+
+int CCheckListBox::InsertString(int nIndex, const char* pszItem, int bChecked) {
+    const int index = CListBox::InsertString(nIndex, pszItem);
+    if (index != LB_ERR && index != LB_ERRSPACE) CheckItem(index, bChecked);
+    return index;
+}
+
+// An item that does not exist has the data LB_ERR.
+int CCheckListBox::IsItemChecked(int nIndex) const {
+    return GetItemData(nIndex) != 0;
+}
+
+void CCheckListBox::CheckItem(int nIndex, int bChecked) {
+    SetItemData(nIndex, static_cast<DWORD_PTR>(bChecked));
+    InvalidateItem(nIndex, 0);
+}
+
+void CCheckListBox::ToggleItem(int nIndex) {
+    CheckItem(nIndex, !IsItemChecked(nIndex));
+}
+
+int CCheckListBox::ItemHeight() {
+    return std::max(GetOwnerDrawFixedTextHeight(m_hWnd), 1);
+}
+
+int CCheckListBox::InvalidateItem(int nIndex, int bErase) {
+    RECT rect = {};
+    if (GetItemRect(nIndex, &rect) == LB_ERR) return 0;
+    ::InvalidateRect(m_hWnd, &rect, bErase);
+    return 1;
+}
+
+int CCheckListBox::GetCheckRect(int nIndex, CRect& rect) {
+    if (GetItemRect(nIndex, &rect) == LB_ERR) return -1;
+    const int height = rect.Height();
+    int side = height - 2 * BoxMargin(), margin = BoxMargin();
+    if (CheckPicture()) {
+        side = ScreenPixels(kPictureSize);
+        margin = (height - side) / 2;
+    }
+    rect.left += margin;
+    rect.top += margin;
+    rect.right = rect.left + side;
+    rect.bottom = rect.top + side;
+    return 0;
+}
+
+void CCheckListBox::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(ItemHeight());
+}
+
+void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    LoadCheckPicture();
+    const int index = static_cast<int>(pDIS->itemID);
+    CRect row, box;
+    if (GetItemRect(index, &row) == LB_ERR || GetCheckRect(index, box) != 0) return;
+    if (!(pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT | ODA_FOCUS))) return;
+
+    CDC* const dc = CDC::FromHandle(pDIS->hDC);
+    const RowColors colors = ColorsOf(*pDIS);
+    CString name;
+    GetText(index, name);
+    CRect text = row;
+    text.left += box.Width() + 2 * BoxMargin();
+    const int offset = std::max((row.Height() - HeightOfM(pDIS->hDC)) / 2, 0);
+    FillSolid(pDIS->hDC, text, colors.background);
+    DrawClippedText(pDIS->hDC, text.left + kTextGap, row.top + offset, text, name, colors.text);
+    {
+        const SavedDC clipped(pDIS->hDC);
+        ::IntersectClipRect(pDIS->hDC, row.left, row.top, row.right, row.bottom);
+        DrawCheck(dc, box.left, box.top, box.Width(), box.Height(), colors.text, IsItemChecked(index));
+    }
+    if (pDIS->itemState & ODS_FOCUS) {
+        text.InflateRect(-1, -1);
+        ::DrawFocusRect(pDIS->hDC, &text);
+    }
+}
+
+void CCheckListBox::DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD, int bChecked) {
+    const RECT box = {x, y, x + cx, y + cy};
+    FillSolid(pDC->m_hDC, box, ::GetSysColor(COLOR_WINDOW));
+    if (bChecked && CheckPicture()) DrawPicture(pDC->m_hDC, box, CheckPicture().get());
+}
+
+int CCheckListBox::ItemFromPoint(CPoint point, int bPastEnd) {
+    CRect client;
+    GetClientRect(client);
+    if (!client.PtInRect(point)) return -1;
+    const int row = point.y / ItemHeight() + GetTopIndex(), count = GetCount();
+    if (row < count) return row;
+    return bPastEnd ? count : -1;
+}
+
+void CCheckListBox::OnLButtonDown(UINT, CPoint point) {
+    const int index = ItemFromPoint(point, 1);
+    if (index != -1) ToggleItem(index);
+    Default();
+}

@@ -1,0 +1,53 @@
+// CFontFaceControl: a combo box of the TrueType faces of the system.
+
+#include "orlo/controls/font_face_control.h"
+
+#include "orlo/controls/filling.h"
+#include "orlo/controls/font_list.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/controls/plain_item.h"
+#include "orlo/controls/table_control.h"
+
+namespace {
+
+constexpr unsigned int kKind = 0x7D00;
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(CFontFaceControl, CComboControl)
+
+CFontFaceControl::CFontFaceControl() : CComboControl(kKind) {}
+
+CFontFaceControl::CFontFaceControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
+
+CFontFaceControl::~CFontFaceControl() = default;
+
+void CFontFaceControl::FillControl(WPARAM, LPARAM lParam) {
+    const Filling filling(m_hWnd);
+    BeginFill(*this, lParam); // faces are the system's: they are listed without a table as well
+    FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(this));
+
+    const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
+    const char* const face = record ? reinterpret_cast<const char*>(record->dwValue) : nullptr;
+    int index = -1;
+    if (face && IsTableIdentifier(m_nSelected)) {
+        index = FindStringExact(-1, face);
+        if (index < 0) {
+            AddControlItem(face);
+            index = FindStringExact(-1, face);
+        }
+    }
+    SetCurSel(index);
+}
+
+void CFontFaceControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
+}
+
+void CFontFaceControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    const PlainItem item = RequestedItem(*this, *pDIS);
+    if (IsNoItem(*pDIS) && !item.IsNothing()) return;
+    if (*item.text) DrawPlainRow(*pDIS, item.text, ColorsOf(*pDIS));
+    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+}

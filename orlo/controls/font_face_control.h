@@ -1,0 +1,23 @@
+// CFontFaceControl: a combo box of the TrueType faces of the system, as plain names.
+//
+// The host fills it with the face to select in dwValue (const char*) and any nSelected but 0 and 0xFFFF; a face that the
+// system does not have joins the list.
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+
+class ORLO_API CFontFaceControl : public CComboControl {
+    DECLARE_DYNCREATE(CFontFaceControl)
+    friend CWnd* CreateComboObject(HWND hWnd, int nID);
+
+public:
+    CFontFaceControl();
+    ~CFontFaceControl() override;
+
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
+    void FillControl(WPARAM wParam, LPARAM lParam) override;
+
+protected:
+    CFontFaceControl(HWND hWnd);
+};

@@ -1,0 +1,108 @@
+// The lists of fonts that the Text page offers.
+
+#include "orlo/controls/font_list.h"
+
+#include "orlo/controls/distinct_items.h"
+#include "orlo/controls/filling.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/controls/font_size_text.h"
+#include "orlo/controls/pen_width_list.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/units.h"
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr int kFaces = 32000, kMoreFaces = 32022, kSizes = 32001, kStyles = 32002;
+constexpr uint16_t kWorld = 0, kPaper = 1; // coordinate spaces
+
+int CALLBACK EnumFaceProc(const LOGFONTA* font, const TEXTMETRICA*, DWORD fontType, LPARAM items) {
+    if (fontType & TRUETYPE_FONTTYPE) reinterpret_cast<DistinctItems*>(items)->Add(font->lfFaceName);
+    return 1;
+}
+
+class SizeList {
+public:
+    SizeList(CFontSizeControl& control, DistinctItems& items) : control_(control), items_(items) {}
+
+    // The configured sizes, which are lengths on paper; in the world they are shown as lengths of the drawing.
+    void AddConfigured() const {
+        DrawingStruct* const drawing = control_.m_pDrawing;
+        if (!drawing) return;
+        CPenWidthList sizes;
+        for (const char* text =
+                 sizes.First(drawing->pApplication, drawing->pUnits, "FontSizes", kUnitTextSize);
+             text; text = sizes.Next())
+            Add(text);
+    }
+    void AddRaster(const TEXTMETRICA& metrics) const {
+        CString text;
+        control_.RasterSizeText(metrics, text);
+        if (!text.IsEmpty()) items_.Add(text);
+    }
+
+private:
+    void Add(const char* text) const {
+        if (control_.m_nCoordSpace != kWorld) {
+            items_.Add(text);
+            return;
+        }
+        double size = 0.0;
+        char converted[kFontSizeTextSize];
+        if (TextToFontSize(control_.m_pDrawing, kPaper, text, &size) &&
+            FontSizeToText(control_.m_pDrawing, kWorld, size, converted, sizeof converted))
+            items_.Add(converted);
+    }
+
+    CFontSizeControl& control_;
+    DistinctItems& items_;
+};
+
+int CALLBACK EnumSizeProc(const LOGFONTA*, const TEXTMETRICA* metrics, DWORD fontType, LPARAM lParam) {
+    const SizeList& list = *reinterpret_cast<const SizeList*>(lParam);
+    if (fontType & TRUETYPE_FONTTYPE)
+        list.AddConfigured();
+    else
+        list.AddRaster(*metrics);
+    return 1;
+}
+
+void AddSizes(HDC dc, const FontListRequest* request, DistinctItems& items) {
+    if (!request || !request->pControl || !request->pszFace || !*request->pszFace) return;
+    SizeList list(*request->pControl, items);
+    ::EnumFontFamiliesA(dc, request->pszFace, EnumSizeProc, reinterpret_cast<LPARAM>(&list));
+}
+
+void AddStyles(const ControlItems& items) {
+    for (const UINT id : {IDS_REGULAR, IDS_ITALIC, IDS_BOLD, IDS_BOLD_ITALIC}) {
+        char text[32] = "";
+        AfxLoadString(id, text, sizeof text);
+        items.Add(text);
+    }
+}
+
+} // namespace
+
+int FillFontDropDown(HWND hWnd, LPARAM lParam) {
+    const HDC dc = ::GetDC(nullptr);
+    if (!dc) return 0;
+    const Filling filling(hWnd);
+    const ControlItems items = ControlItems::OfCombo(hWnd);
+    items.Clear();
+    DistinctItems distinct(items);
+    const int control = ::GetDlgCtrlID(hWnd);
+    switch (control) {
+    case kFaces:
+    case kMoreFaces:
+        ::EnumFontFamiliesA(dc, nullptr, EnumFaceProc, reinterpret_cast<LPARAM>(&distinct));
+        break;
+    case kSizes:
+        AddSizes(dc, reinterpret_cast<const FontListRequest*>(lParam), distinct);
+        break;
+    case kStyles:
+        AddStyles(items);
+        break;
+    }
+    ::ReleaseDC(nullptr, dc);
+    return control == kFaces || control == kMoreFaces || control == kSizes;
+}

@@ -1,0 +1,124 @@
+// CFontSizeControl: a combo box in which a font height is typed or chosen.
+
+#include "orlo/controls/font_size_control.h"
+
+#include <cstring>
+
+#include "orlo/controls/filling.h"
+#include "orlo/controls/font_list.h"
+#include "orlo/controls/font_size_text.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/controls/plain_item.h"
+#include "orlo/controls/table_control.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+#include "orlo/host/units.h"
+
+namespace {
+
+constexpr unsigned int kKind = 0x7D01;
+constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
+constexpr double kMillimetresPerInch = 25.4;
+constexpr RowColors kNothingColors = {RGB(255, 0, 0), RGB(255, 255, 255)};
+
+float FloatOf(UINT_PTR bits) {
+    const auto low = static_cast<uint32_t>(bits);
+    float value;
+    std::memcpy(&value, &low, sizeof value);
+    return value;
+}
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(CFontSizeControl, CComboControl)
+
+BEGIN_MESSAGE_MAP(CFontSizeControl, CComboControl)
+ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+CFontSizeControl::CFontSizeControl() : CComboControl(kKind) {}
+
+CFontSizeControl::CFontSizeControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
+
+CFontSizeControl::~CFontSizeControl() = default;
+
+int CFontSizeControl::OnCreate(LPCREATESTRUCT) {
+    const int result = static_cast<int>(Default());
+    if (result == -1) return -1;
+    WatchEditField();
+    return result;
+}
+
+void CFontSizeControl::WatchEditField() {
+    if (!m_editSize.m_hWnd && ::GetDlgItem(m_hWnd, kEditField)) m_editSize.SubclassDlgItem(kEditField, this);
+}
+
+void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
+    WatchEditField(); // a control that subclasses a window has not seen it made
+    const Filling filling(m_hWnd);
+    if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
+    const FontListRequest request = {this, m_strFontName};
+    FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(&request));
+
+    const float size = FloatOf(reinterpret_cast<const ControlFillRecord*>(lParam)->dwValue);
+    if (!IsTableIdentifier(m_nSelected) || size == 0.0f)
+        SetCurSel(-1);
+    else
+        Show(size);
+}
+
+// Drawing, font and coordinate space of the table. False if there are no sizes to list.
+bool CFontSizeControl::TakeDrawing() {
+    m_pDrawing = TableGetOwner(m_pTable);
+    if (!m_pDrawing) return false;
+    char font[0x100] = "";
+    TableGetStringVar(m_pDrawing->pUnits, kUnitFontName, font, sizeof font);
+    m_strFontName = font;
+    if (m_strFontName.IsEmpty() || !m_pDrawing->pApplication) return false;
+    m_nCoordSpace = DrawingGetCoordSpace(m_pDrawing);
+    return true;
+}
+
+// A closed combo shows the height without selecting it, ready to be typed over.
+void CFontSizeControl::Show(double size) {
+    CString text;
+    FontSizeText(size, text);
+    int index = FindStringExact(-1, text);
+    if (index < 0) {
+        AddString(text);
+        index = FindStringExact(-1, text);
+    }
+    if (GetDroppedState()) {
+        SetCurSel(index);
+    } else {
+        ::SetWindowTextA(m_hWnd, text);
+        SendMessage(CB_SETEDITSEL, 0, -1);
+    }
+}
+
+void CFontSizeControl::ReConvertFontSize(const char* text, double& value) {
+    TextToFontSize(m_pDrawing, static_cast<uint16_t>(m_nCoordSpace), text, &value);
+}
+
+void CFontSizeControl::FontSizeText(double value, CString& text) {
+    char buffer[kFontSizeTextSize] = "";
+    FontSizeToText(m_pDrawing, static_cast<uint16_t>(m_nCoordSpace), value, buffer, sizeof buffer);
+    text = buffer;
+}
+
+void CFontSizeControl::RasterSizeText(const TEXTMETRICA& metrics, CString& text) {
+    const double points = metrics.tmHeight - metrics.tmInternalLeading;
+    FontSizeText(points / m_nLogicalInch * kMillimetresPerInch, text);
+}
+
+void CFontSizeControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
+}
+
+void CFontSizeControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    const PlainItem item = RequestedItem(*this, *pDIS);
+    if (IsNoItem(*pDIS) && !item.IsNothing()) return;
+    DrawPlainRow(*pDIS, item.text, item.IsNothing() ? kNothingColors : ColorsOf(*pDIS));
+    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+}

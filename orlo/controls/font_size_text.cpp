@@ -1,0 +1,27 @@
+// Font heights as text in the units of a drawing.
+
+#include "orlo/controls/font_size_text.h"
+
+#include "orlo/host/drawing.h"
+#include "orlo/host/units.h"
+
+namespace {
+
+constexpr uint16_t kWorld = 0, kDevice = 2;
+constexpr uint16_t kUnitDrawing = 0x5033;
+
+uint16_t UnitOf(uint16_t coordSpace) {
+    return coordSpace == kWorld ? kUnitDrawing : kUnitTextSize;
+}
+
+} // namespace
+
+int TextToFontSize(DrawingStruct* drawing, uint16_t coordSpace, const char* text, double* value) {
+    if (coordSpace == kDevice) return 0;
+    return DrawingStdTextToNumericEx(drawing, text, value, coordSpace, UnitOf(coordSpace));
+}
+
+int FontSizeToText(DrawingStruct* drawing, uint16_t coordSpace, double value, char* buffer, int size) {
+    if (coordSpace == kDevice) return 0;
+    return DrawingStdNumericToTextEx(drawing, value, buffer, size, coordSpace, UnitOf(coordSpace));
+}

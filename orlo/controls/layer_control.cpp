@@ -1,0 +1,91 @@
+// CLayerControl: a combo box of layers.
+
+#include "orlo/controls/layer_control.h"
+
+#include <algorithm>
+
+#include "orlo/controls/filling.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/host/layer.h"
+#include "orlo/host/table.h"
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr unsigned int kKind = 0x7D08;
+constexpr COLORREF kNoColor = 0xFFFFFFFE;
+
+// The picture fills the top left quarter of an icon, which the system draws at its own icon size: 16 pixels at 96 dpi.
+int PictureSize() {
+    return ::GetSystemMetrics(SM_CXICON) / 2;
+}
+
+// The layer's own colour where it can be told from the background.
+COLORREF NameColor(HDC dc, COLORREF color) {
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    const bool invisible = color == kNoColor || ::GetNearestColor(dc, color) == ::GetNearestColor(dc, window);
+    return invisible ? InkOnWindow() : color;
+}
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(CLayerControl, CComboControl)
+
+BEGIN_MESSAGE_MAP(CLayerControl, CComboControl)
+ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+CLayerControl::CLayerControl() : CComboControl(kKind) {}
+
+CLayerControl::CLayerControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
+
+CLayerControl::~CLayerControl() = default;
+
+int CLayerControl::OnCreate(LPCREATESTRUCT) {
+    if (Default() == -1) return -1;
+    LoadIcons();
+    return 0;
+}
+
+void CLayerControl::LoadIcons() {
+    const HINSTANCE module =
+        AfxFindResourceHandle(MAKEINTRESOURCEA(IDI_VISIBLE), MAKEINTRESOURCEA(14)); // RT_GROUP_ICON
+    m_hIconReadOnly = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_READ_ONLY));
+    m_hIconVisible = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_VISIBLE));
+}
+
+void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(std::max(RowTextHeight(m_hWnd), PictureSize()));
+}
+
+void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    const bool whole = IsNoItem(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
+    if (whole) {
+        FillSolid(pDIS->hDC, pDIS->rcItem, ColorsOf(*pDIS).background);
+        DrawLayer(*pDIS);
+    }
+    const bool focus = whole ? pDIS->itemState & ODS_FOCUS : pDIS->itemAction & ODA_FOCUS;
+    if (focus) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+}
+
+void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
+    char name[kItemTextSize];
+    unsigned int id = RequestedStyle(*this, request, name);
+    if (id == 0) id = m_nSelected;
+    DrawingStruct* const drawing = m_pTable ? TableGetOwner(m_pTable) : nullptr;
+    if (!IsTableIdentifier(id) || !drawing) return;
+    const auto layer = static_cast<uint16_t>(id);
+    if (!*name) TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
+    if (!m_hIconVisible) LoadIcons();
+
+    const RECT& rect = request.rcItem;
+    const int size = PictureSize(), iconTop = (rect.top + rect.bottom - size) / 2;
+    if (LayerGetVisible(drawing, layer)) ::DrawIcon(request.hDC, rect.left, iconTop, m_hIconVisible);
+    if (LayerGetReadOnly(drawing, layer)) ::DrawIcon(request.hDC, rect.left + size, iconTop, m_hIconReadOnly);
+
+    const bool selected = request.itemState & ODS_SELECTED;
+    const COLORREF color =
+        selected ? ColorsOf(request).text : NameColor(request.hDC, LayerGetColor(drawing, layer));
+    DrawClippedText(request.hDC, rect.left + 2 * size, rect.top, rect, name, color);
+}

@@ -1,0 +1,32 @@
+// CLayerControl: a combo box of layers, each with an eye if it is visible, a book if it is read-only, and its name in its
+// colour.
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+
+class ORLO_API CLayerControl : public CComboControl {
+    DECLARE_DYNCREATE(CLayerControl)
+    friend CWnd* CreateComboObject(HWND hWnd, int nID);
+
+public:
+    CLayerControl();
+    ~CLayerControl() override;
+
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
+
+protected:
+    CLayerControl(HWND hWnd);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+
+    // Shared icons, which the system keeps. Loaded with the window; a control that subclasses a window loads them when it
+    // draws.
+    HICON m_hIconReadOnly = nullptr;
+    HICON m_hIconVisible = nullptr;
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void LoadIcons();
+    void DrawLayer(const DRAWITEMSTRUCT& request);
+};

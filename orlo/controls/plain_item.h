@@ -1,0 +1,14 @@
+// What an item of a combo whose items are plain names, with no key, is drawn from. Internal to the library.
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+
+struct PlainItem {
+    unsigned int
+        number;     // place in the list from 1, or m_nSelected in a request without an item; 0 if unreadable
+    char text[128]; // a longer one is cut; empty for the numbers 0 and 0xFFFF
+
+    bool IsNothing() const { return number == 0 || number == 0xFFFF; }
+};
+
+PlainItem RequestedItem(const CComboControl& control, const DRAWITEMSTRUCT& request);

@@ -1,0 +1,5 @@
+// Sizes that are meant for 96 dots per inch, on the screen at hand.
+#pragma once
+
+// Device pixels of the screen for a size in pixels at 96 dpi, rounded; the same number at 96 dpi.
+int ScreenPixels(int at96);

@@ -1,0 +1,79 @@
+// CStyleNameControl: a combo box of the blocks of one style tree.
+
+#include "orlo/controls/style_name_control.h"
+
+#include <cstring>
+
+#include "orlo/controls/control_items.h"
+#include "orlo/controls/filling.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
+#include "orlo/controls/plain_item.h"
+#include "orlo/host/block.h"
+
+namespace {
+
+constexpr unsigned int kKind = 0x7D0F;
+constexpr int kNameSize = 256;
+constexpr RowColors kRowColors = {RGB(0, 0, 0), RGB(255, 255, 255)};
+
+const char* StyleTreeOf(const GraphicStruct* graphic) {
+    return graphic && graphic->pszStyleName ? graphic->pszStyleName : "";
+}
+
+// Adds the blocks of the tree of that graphic; the name under which the graphic itself has been added, or empty.
+CString AddStyleTree(const ControlItems& items, TableStruct* table, const GraphicStruct* selected) {
+    CString selectedName;
+    char name[kNameSize];
+    int cookie = 0;
+    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie)) {
+        const GraphicStruct* const graphic = BlockGetGraphic(table, id);
+        if (std::strcmp(StyleTreeOf(graphic), selected->pszStyleName) != 0) continue;
+        if (!TableEntryGetName(table, id, name, sizeof name)) continue;
+        if (items.Add(name) == CB_ERR) break;
+        if (graphic == selected) selectedName = name;
+    }
+    return selectedName;
+}
+
+// A sorting combo moves the items under the walk: the selected one is looked for once, at the end.
+void FillStyleNames(HWND window, TableStruct* table, unsigned int id) {
+    const ControlItems items = ControlItems::OfCombo(window);
+    items.Clear();
+    if (!table || !IsTableIdentifier(id)) return;
+    const GraphicStruct* const selected = BlockGetGraphic(table, static_cast<uint16_t>(id));
+    if (!*StyleTreeOf(selected)) return;
+    const CString name = AddStyleTree(items, table, selected);
+    if (!name.IsEmpty()) items.Select(items.FindExact(name));
+}
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(CStyleNameControl, CComboControl)
+
+CStyleNameControl::CStyleNameControl() : CComboControl(kKind) {}
+
+CStyleNameControl::CStyleNameControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
+
+CStyleNameControl::~CStyleNameControl() = default;
+
+void CStyleNameControl::FillControl(WPARAM, LPARAM lParam) {
+    const Filling filling(m_hWnd);
+    const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
+    m_pTable = record ? record->pTable : nullptr;
+    FillStyleNames(m_hWnd, m_pTable, record ? record->nSelected : 0);
+}
+
+void CStyleNameControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
+    pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
+}
+
+void CStyleNameControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
+    const PlainItem item = RequestedItem(*this, *pDIS);
+    if (!*item.text) return;
+    const RECT frame = IsClosedField(*pDIS) ? Inflated(pDIS->rcItem, 1) : pDIS->rcItem;
+    FillSolid(pDIS->hDC, frame, kRowColors.background);
+    FrameRectangle(pDIS->hDC, frame, kRowColors.text, 1);
+    DrawClippedText(pDIS->hDC, pDIS->rcItem.left + kPlainTextAt.x, pDIS->rcItem.top + kPlainTextAt.y,
+                    pDIS->rcItem, item.text, kRowColors.text);
+}
