@@ -4,6 +4,7 @@
 
 #include <objidl.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <vector>
@@ -13,6 +14,12 @@ namespace orlo {
 class ImageWriter {
 public:
     size_t Size() const { return bytes_.size(); }
+
+    // About so many bytes will follow: room for them is made at once.
+    void Expect(size_t size) {
+        if (bytes_.capacity() - bytes_.size() < size)
+            bytes_.reserve(std::max(bytes_.size() + size, 2 * bytes_.capacity()));
+    }
 
     void Put(const void* bytes, size_t size) {
         const auto* begin = static_cast<const uint8_t*>(bytes);

@@ -18,6 +18,7 @@ namespace {
 constexpr DWORD kDictionaryID = 0;
 constexpr DWORD kCodePageID = 1;
 constexpr DWORD kTableEntrySize = 8;
+constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer
 
 void* ToMapped(DWORD id) {
     return reinterpret_cast<void*>(static_cast<uintptr_t>(id));
@@ -144,10 +145,10 @@ CObList* CPropertySection::GetList() {
 
 int CPropertySection::SetName(DWORD dwPropID, const char* pszName) {
     try {
-        const CString name = LowerCase(pszName);
-        void* taken;
-        if (m_NameMap.Lookup(name, taken)) return 0;
-        m_NameMap.SetAt(name, ToMapped(dwPropID));
+        const int before = m_NameMap.GetCount();
+        void*& id = m_NameMap[LowerCase(pszName)];
+        if (m_NameMap.GetCount() == before) return 0; // it was there
+        id = ToMapped(dwPropID);
         m_pNameIndex.reset();
         return 1;
     } catch (const std::bad_alloc&) {
@@ -201,6 +202,8 @@ int CPropertySection::AppendTo(orlo::ImageWriter& image) {
     m_dwSize = 0;
     m_dwPropertyCount = GetCount();
     const size_t head = image.Size();
+    image.Expect(kUsualPropertySize *
+                 (size_t{m_dwPropertyCount} + static_cast<size_t>(m_NameMap.GetCount())));
     image.Put32(m_dwSize);
     image.Put32(m_dwPropertyCount);
     if (m_dwPropertyCount == 0) return 1;

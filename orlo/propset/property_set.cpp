@@ -14,6 +14,7 @@ constexpr WORD kLittleEndianMark = 0xFFFE;
 constexpr DWORD kWindows = 2;
 constexpr size_t kHeaderSize = 28;
 constexpr size_t kListEntrySize = 20;
+constexpr size_t kUsualSetSize = 1000; // of a summary without a picture
 
 bool IsSame(const GUID& a, const GUID& b) {
     return std::memcmp(&a, &b, sizeof(GUID)) == 0;
@@ -153,6 +154,7 @@ int CPropertySet::WriteToStream(IStream* pStream) {
 
 int CPropertySet::AppendTo(orlo::ImageWriter& image, ULONGLONG start) {
     m_dwSectionCount = GetCount();
+    image.Expect(kUsualSetSize);
     image.Put16(m_wByteOrder);
     image.Put16(m_wFormatVersion);
     image.Put32(m_dwOSVersion);
