@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iomanip>
-#include <set>
 
 #include "orlo/propset/image_dictionary.h"
 #include "orlo/propset/value_findings.h"
@@ -102,19 +101,14 @@ void SectionReader::ReadTable() {
 
 // Sorts the entries by offset, and looks at what the table alone tells.
 void SectionReader::LookAtTable() {
-    std::set<uint32_t> ids;
     size_t unaligned = 0;
     bool isAscending = true;
     for (Entry& entry : entries_) {
         if (!sorted_.empty() && entry.offset < sorted_.back()->offset) isAscending = false;
         sorted_.push_back(&entry);
         if (entry.offset % 4 != 0) ++unaligned;
-        if (!ids.insert(entry.id).second)
-            report_.Add(FindingCode::idRepeated, Severity::irregular,
-                        section_.offset + kHeadSize +
-                            static_cast<size_t>(&entry - entries_.data()) * kEntrySize,
-                        NameOf(entry), ": listed before; readers take the first or the last");
     }
+    LookForRepeatedIds();
     if (unaligned > 0)
         report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kHeadSize, place_, ": ",
                     unaligned, " values stand at offsets that are no multiples of 4");
@@ -123,6 +117,19 @@ void SectionReader::LookAtTable() {
                     ": the values are not in the order of the table");
     std::stable_sort(sorted_.begin(), sorted_.end(),
                      [](const Entry* a, const Entry* b) { return a->offset < b->offset; });
+}
+
+void SectionReader::LookForRepeatedIds() {
+    std::vector<const Entry*> byId(sorted_.begin(), sorted_.end()); // in the order of the table still
+    const auto less = [](const Entry* a, const Entry* b) { return a->id < b->id; };
+    std::stable_sort(byId.begin(), byId.end(), less);
+    for (size_t i = 1; i < byId.size(); ++i) {
+        const Entry& entry = *byId[i];
+        if (entry.id != byId[i - 1]->id) continue;
+        const size_t at = kHeadSize + static_cast<size_t>(&entry - entries_.data()) * kEntrySize;
+        report_.Add(FindingCode::idRepeated, Severity::irregular, section_.offset + at, NameOf(entry),
+                    ": listed before; readers take the first or the last");
+    }
 }
 
 void SectionReader::ReadValues() {
@@ -145,7 +152,7 @@ void SectionReader::ReadValues() {
         }
         if (entry.isProperty && entry.property.state == ValueState::complete)
             FindValueOddities(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize,
-                              NameOf(entry), report_);
+                              place_, report_);
         if (section_.size <= left_ && entry.end > section_.size)
             report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
                         NameOf(entry), " ends beyond the section's size of ", section_.size,

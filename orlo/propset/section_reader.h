@@ -46,6 +46,7 @@ private:
 
     void ReadTable();
     void LookAtTable();
+    void LookForRepeatedIds();
     void ReadValues();
     void ReadValue(Entry& entry);
     void TooLarge(Entry& entry);

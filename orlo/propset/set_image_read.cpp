@@ -124,7 +124,8 @@ void SetReader::ReadSections() {
 void SetReader::LookAtTrailingBytes() {
     const size_t trailing = size_ - std::min(size_, reached_);
     if (trailing == 0) return;
-    const bool areZero = std::all_of(data_ + reached_, data_ + size_, [](uint8_t byte) { return byte == 0; });
+    const uint8_t* rest = data_ + reached_;
+    const bool areZero = *rest == 0 && std::memcmp(rest, rest + 1, trailing - 1) == 0;
     report_.Add(FindingCode::trailingBytes, areZero ? Severity::note : Severity::irregular, reached_,
                 trailing, " bytes behind the set",
                 areZero ? ", all zero" : ", not all zero; they belong to nothing");

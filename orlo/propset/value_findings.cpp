@@ -1,5 +1,6 @@
 #include "orlo/propset/value_findings.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "orlo/propset/code_page.h"
@@ -9,13 +10,27 @@ namespace orlo {
 
 namespace {
 
-// One look at one element, with what a finding about it says.
+// One look at one element of a property.
 struct Look {
     uint16_t codePage; // of texts; LPWSTR is always 1200
     uint64_t offset;
-    const std::string& place;
+    const std::string& section;
+    uint32_t property;
     Report& report;
+
+    template <class... Parts>
+    void Add(FindingCode code, Severity severity, const Parts&... parts) const {
+        report.Add(code, severity, offset, section, ", property ", property, ": ", parts...);
+    }
 };
+
+// True for what needs no conversion to be known as a text.
+bool IsPlain(std::string_view text, uint16_t codePage) {
+    const bool isOfWindows = codePage == kCodePageUtf8 || codePage == 874 || codePage == 932 ||
+                             codePage == 936 || codePage == 949 || codePage == 950 ||
+                             (codePage >= 1250 && codePage <= 1258);
+    return isOfWindows && std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
 
 // Where the text ends: at its first NUL, or with its bytes.
 size_t TextEnd(std::string_view text, bool isWide) {
@@ -30,14 +45,14 @@ void LookAtText(std::string_view bytes, const Look& look) {
     const size_t end = TextEnd(bytes, isWide);
     const std::string_view rest = bytes.substr(end);
     if (rest.empty() && !bytes.empty())
-        look.report.Add(FindingCode::textWithoutNul, Severity::note, look.offset, look.place,
-                        ": the text has no NUL; it ends at its length");
+        look.Add(FindingCode::textWithoutNul, Severity::note, "the text has no NUL; it ends at its length");
     if (rest.find_first_not_of('\0') != std::string_view::npos)
-        look.report.Add(FindingCode::bytesAfterNul, Severity::note, look.offset, look.place,
-                        ": bytes stand behind the text's NUL; readers leave them out");
-    if (!CodePageToUtf8(bytes.substr(0, end), look.codePage))
-        look.report.Add(FindingCode::textUndecodable, Severity::irregular, look.offset, look.place,
-                        ": the text is none of code page ", look.codePage);
+        look.Add(FindingCode::bytesAfterNul, Severity::note,
+                 "bytes stand behind the text's NUL; readers leave them out");
+    const std::string_view text = bytes.substr(0, end);
+    if (!IsPlain(text, look.codePage) && !CodePageToUtf8(text, look.codePage))
+        look.Add(FindingCode::textUndecodable, Severity::irregular, "the text is none of code page ",
+                 look.codePage);
 }
 
 void LookAtBool(std::string_view bytes, const Look& look) {
@@ -45,8 +60,7 @@ void LookAtBool(std::string_view bytes, const Look& look) {
     if (stored == 0 || stored == 0xFFFF) return;
     char number[16];
     std::snprintf(number, sizeof number, "0x%08X", static_cast<unsigned>(stored));
-    look.report.Add(FindingCode::boolForm, Severity::note, look.offset, look.place, ": true is stored as ",
-                    number, "; anything but 0 is true");
+    look.Add(FindingCode::boolForm, Severity::note, "true is stored as ", number, "; anything but 0 is true");
 }
 
 void LookAtClipboard(std::string_view bytes, const Look& look) {
@@ -55,9 +69,8 @@ void LookAtClipboard(std::string_view bytes, const Look& look) {
         hasTag ? static_cast<int32_t>(Load32(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
     const size_t needed = hasTag && (tag == -1 || tag == -2) ? 8 : 4;
     if (bytes.size() < needed)
-        look.report.Add(FindingCode::clipboardShort, Severity::irregular, look.offset, look.place,
-                        ": clipboard data needs ", needed, " bytes for tag and format, ", bytes.size(),
-                        " are there; nothing can be shown of it");
+        look.Add(FindingCode::clipboardShort, Severity::irregular, "clipboard data needs ", needed,
+                 " bytes for tag and format, ", bytes.size(), " are there; nothing can be shown of it");
 }
 
 } // namespace
@@ -69,13 +82,13 @@ void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> co
     const std::optional<Extent> extent = MeasureValue(property.type, bytes, size);
     if (!extent) return;
     if (extent->elementsPadded)
-        report.Add(FindingCode::elementsPadded, Severity::note, offset, place,
+        report.Add(FindingCode::elementsPadded, Severity::note, offset, place, ", property ", property.id,
                    ": the elements are padded to 4 bytes each; a reader that expects them packed goes wrong");
     Cursor cursor{bytes, size};
     const auto look = [&](uint32_t type, const TypeForm& form, std::string_view element) {
         const uint16_t page = type == VT_LPWSTR ? kCodePageUtf16 : codePage.value_or(1252);
         const size_t at = static_cast<size_t>(reinterpret_cast<const uint8_t*>(element.data()) - bytes);
-        const Look here{page, offset + at, place, report};
+        const Look here{page, offset + at, place, property.id, report};
         if (form.isText) LookAtText(element, here);
         if (type == VT_BOOL) LookAtBool(element, here);
         if (type == VT_CF) LookAtClipboard(element, here);
