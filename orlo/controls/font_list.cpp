@@ -25,7 +25,7 @@ class SizeList {
 public:
     SizeList(CFontSizeControl& control, DistinctItems& items) : control_(control), items_(items) {}
 
-    // The configured sizes, which are lengths on paper; in the world they are shown as lengths of the drawing.
+    // The configured sizes are lengths on paper. In the world the same number of drawing units is offered.
     void AddConfigured() const {
         DrawingStruct* const drawing = control_.m_pDrawing;
         if (!drawing) return;

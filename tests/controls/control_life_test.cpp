@@ -4,9 +4,15 @@
 
 #include <drawcore/census.h>
 
+#include "orlo/controls/brush_style_control_c.h"
+#include "orlo/controls/brush_style_control_l.h"
 #include "orlo/controls/color_control.h"
+#include "orlo/controls/font_face_control.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/controls/layer_control.h"
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
+#include "orlo/controls/style_name_control.h"
 
 namespace {
 
@@ -24,10 +30,28 @@ TEST_F(Factory, TheIdentifierChoosesTheObject) {
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
     for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
         EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
-    EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlL), ClassOf(IDC_LINE_LIST));
     EXPECT_EQ(1, Get<CColorControl>(32014).m_bExtraEntries);
     EXPECT_EQ(0x7D04u, Get<CComboControl>(32020).m_nControlID) << "the kind, not the identifier";
+    const struct {
+        int id;
+        const CRuntimeClass* kind;
+        unsigned number;
+    } combos[] = {
+        {IDC_FACES, RUNTIME_CLASS(CFontFaceControl), 0x7D00},
+        {32022, RUNTIME_CLASS(CFontFaceControl), 0x7D00},
+        {IDC_SIZES, RUNTIME_CLASS(CFontSizeControl), 0x7D01},
+        {IDC_BRUSH_COMBO, RUNTIME_CLASS(CBrushStyleControlC), 0x7D07},
+        {IDC_LAYERS, RUNTIME_CLASS(CLayerControl), 0x7D08},
+        {IDC_STYLE_NAMES, RUNTIME_CLASS(CStyleNameControl), 0x7D0F},
+    };
+    for (const auto& row : combos) {
+        EXPECT_EQ(row.kind, ClassOf(row.id)) << row.id;
+        EXPECT_EQ(row.number, Get<CComboControl>(row.id).m_nControlID);
+    }
+    EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlL), ClassOf(IDC_LINE_LIST));
+    EXPECT_EQ(RUNTIME_CLASS(CBrushStyleControlL), ClassOf(IDC_BRUSH_LIST));
     EXPECT_EQ(0x7D15u, Get<CListControl>(IDC_LINE_LIST).m_nControlID);
+    EXPECT_EQ(0x7D18u, Get<CListControl>(IDC_BRUSH_LIST).m_nControlID);
 }
 
 TEST_F(Factory, OtherIdentifiersStayPlainControls) {
@@ -53,13 +77,14 @@ TEST_F(Factory, OtherIdentifiersStayPlainControls) {
 }
 
 TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
-    EXPECT_EQ(15, m_host.Count(kControlReady));
+    EXPECT_EQ(22, m_host.Count(kControlReady));
     for (const HostWindow::Notification& n : m_host.notifications) {
         const int id = ::GetDlgCtrlID(n.control);
-        EXPECT_EQ(id == IDC_LINE_LIST ? Get<CListControl>(id).m_nControlID : Get<CComboControl>(id).m_nControlID, n.kind);
+        const bool list = id == IDC_LINE_LIST || id == IDC_BRUSH_LIST;
+        EXPECT_EQ(list ? Get<CListControl>(id).m_nControlID : Get<CComboControl>(id).m_nControlID, n.kind);
     }
     m_dialog.DestroyWindow();
-    EXPECT_EQ(15, m_host.Count(kControlGone));
+    EXPECT_EQ(22, m_host.Count(kControlGone));
 }
 
 TEST(ControlLife, WithoutAnApplicationWindowNobodyIsTold) {

@@ -1,0 +1,133 @@
+// The check list box: flags, clicks, drawing.
+
+#include "control_dialog.h"
+
+#include "orlo/controls/check_list_box.h"
+#include "support/object_counts.h"
+#include "support/pixels.h"
+
+namespace {
+
+class OpenCheckList : public CCheckListBox {
+public:
+    using CCheckListBox::DrawItem;
+    using CCheckListBox::GetCheckRect;
+    using CCheckListBox::InvalidateItem;
+    using CCheckListBox::ItemFromPoint;
+    using CCheckListBox::ItemHeight;
+    void CheckItem(int nIndex, int bChecked) override {
+        ++checks;
+        CCheckListBox::CheckItem(nIndex, bChecked);
+    }
+    int checks = 0;
+};
+
+class CheckList : public ::testing::Test {
+protected:
+    CheckList() {
+        m_host.SetWindowPos(nullptr, 0, 0, 200, 200, SWP_SHOWWINDOW);
+        EXPECT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY,
+                                  CRect(0, 0, 120, 90), &m_host, 7));
+    }
+    ~CheckList() override { m_list.DestroyWindow(); }
+
+    void Click(int x, int y) {
+        m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+        m_list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    }
+    void Draw(int item, UINT action, UINT state) {
+        m_pixels.Clear(kUntouched);
+        DRAWITEMSTRUCT request = {};
+        request.itemID = static_cast<UINT>(item);
+        request.itemAction = action;
+        request.itemState = state;
+        request.hDC = m_pixels.DC();
+        m_list.DrawItem(&request);
+    }
+    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
+
+    HostWindow m_host;
+    OpenCheckList m_list;
+    Pixels m_pixels{120, 90};
+};
+
+TEST_F(CheckList, KeepsTheFlagAsItWasGiven) {
+    EXPECT_EQ(0, m_list.AddString("off", 0));
+    EXPECT_EQ(1, m_list.AddString("seven", 7));
+    EXPECT_EQ(0, m_list.InsertString(0, "first", 1));
+    EXPECT_EQ(3, m_list.checks) << "through the virtual";
+    EXPECT_EQ(1, m_list.IsItemChecked(0));
+    EXPECT_EQ(0, m_list.IsItemChecked(1));
+    EXPECT_EQ(1, m_list.IsItemChecked(2));
+    EXPECT_EQ(7u, m_list.GetItemData(2));
+    m_list.ToggleItem(2);
+    EXPECT_EQ(0u, m_list.GetItemData(2));
+    m_list.ToggleItem(2);
+    EXPECT_EQ(1u, m_list.GetItemData(2)) << "not the seven";
+    EXPECT_EQ(1, m_list.IsItemChecked(99)) << "of an item that does not exist the list box gives -1";
+    EXPECT_EQ(LB_ERR, m_list.InsertString(99, "nowhere", 1));
+    EXPECT_EQ(3, m_list.GetCount());
+    EXPECT_EQ(0, m_list.InvalidateItem(99, 0));
+    EXPECT_EQ(1, m_list.InvalidateItem(2, 0));
+}
+
+TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
+    for (const char* name : {"a", "b", "c"})
+        m_list.AddString(name, 0);
+    const int height = m_list.ItemHeight();
+    Click(100, height + 3);
+    EXPECT_EQ(1, m_list.IsItemChecked(1));
+    EXPECT_EQ(1, m_list.GetCurSel());
+    Click(5, height + 3);
+    EXPECT_EQ(0, m_list.IsItemChecked(1));
+    Click(5, 3 * height + 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(0, m_list.IsItemChecked(i)) << "below the last item";
+    EXPECT_EQ(3, m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 1));
+    EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 0));
+    EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(500, 3), 1));
+
+    for (int i = 0; i < 20; ++i)
+        m_list.AddString("more", 0);
+    m_list.SendMessage(LB_SETTOPINDEX, 4, 0);
+    EXPECT_EQ(5, m_list.ItemFromPoint(CPoint(5, height + 3), 0)) << "a scrolled list";
+}
+
+TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
+    m_list.AddString("on", 1);
+    m_list.AddString("off", 0);
+    m_list.UpdateWindow(); // the picture is loaded now
+    CRect on, off;
+    ASSERT_EQ(0, m_list.GetCheckRect(0, on));
+    ASSERT_EQ(0, m_list.GetCheckRect(1, off));
+    EXPECT_EQ(CSize(12, 12), on.Size());
+    EXPECT_EQ((m_list.ItemHeight() - 12) / 2, on.left);
+    EXPECT_EQ(-1, m_list.GetCheckRect(2, off));
+    m_list.GetCheckRect(1, off);
+
+    const COLORREF grey = RGB(0x80, 0x80, 0x80), black = RGB(0, 0, 0), white = RGB(255, 255, 255);
+    for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
+        Draw(0, ODA_DRAWENTIRE, state);
+        EXPECT_EQ(23, m_pixels.Count(on, grey)) << "the sunken edges";
+        EXPECT_LT(20, m_pixels.Count(on, black));
+        EXPECT_EQ(12 * 12, m_pixels.Count(on, grey) + m_pixels.Count(on, black) + m_pixels.Count(on, white));
+        EXPECT_EQ(grey, m_pixels.At(on.left, on.top));
+        Draw(1, ODA_DRAWENTIRE, state);
+        EXPECT_EQ(12 * 12, m_pixels.Count(off, ::GetSysColor(COLOR_WINDOW)));
+        const CRect text(40, off.top, 120, off.bottom);
+        EXPECT_LT(200, m_pixels.Count(text, ::GetSysColor(state ? COLOR_HIGHLIGHT : COLOR_WINDOW)));
+    }
+    Draw(0, 0, 0);
+    EXPECT_EQ(120 * 90, m_pixels.Count({0, 0, 120, 90}, kUntouched)) << "an action of 0 draws nothing";
+}
+
+TEST_F(CheckList, ManyPaintsKeepNothing) {
+    m_list.AddString("on", 1);
+    Draw(0, ODA_DRAWENTIRE, ODS_FOCUS);
+    const int objects = GdiObjectCount();
+    for (int i = 0; i < 100; ++i)
+        Draw(0, ODA_DRAWENTIRE, ODS_FOCUS | ODS_SELECTED);
+    EXPECT_EQ(objects, GdiObjectCount());
+}
+
+} // namespace

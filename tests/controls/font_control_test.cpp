@@ -1,0 +1,263 @@
+// The controls of fonts: lists of faces, sizes and styles, heights as text, and Return in the edit field.
+
+#include "control_dialog.h"
+
+#include <drawcore/units.h>
+
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <set>
+
+#include "orlo/controls/font_face_control.h"
+#include "orlo/controls/font_list.h"
+#include "orlo/controls/font_size_control.h"
+#include "support/pixels.h"
+
+namespace {
+
+std::vector<std::string> Texts(const CComboBox& combo) {
+    std::vector<std::string> texts;
+    for (int i = 0; i < combo.GetCount(); ++i) {
+        CString text;
+        combo.GetLBText(i, text);
+        texts.emplace_back(text);
+    }
+    return texts;
+}
+
+class Fonts : public ControlDialog {
+protected:
+    Fonts() : m_faces(Get<CFontFaceControl>(IDC_FACES)), m_sizes(Get<CFontSizeControl>(IDC_SIZES)) {
+        char folder[MAX_PATH];
+        ::GetTempPathA(sizeof folder, folder);
+        m_ini = std::string(folder) + "font_sizes.ini";
+        std::ofstream(m_ini) << "[FontSizes]\nmm=2.5,3.5,5,2.5\n";
+        AppSetINIFileName(m_ini.c_str());
+        TableSetStringVar(Units(), kUnitTextSize, "mm");
+        TableSetStringVar(Units(), kUnitFontName, "DejaVu Sans");
+    }
+    ~Fonts() override {
+        AppSetINIFileName(nullptr);
+        ::DeleteFileA(m_ini.c_str());
+    }
+    TableStruct* Units() const { return m_drawing.Get()->pUnits; }
+    void FillFaces(const char* face, unsigned selected) {
+        const ControlFillRecord record = {Units(), reinterpret_cast<UINT_PTR>(face), selected};
+        m_faces.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    void FillSizes(float size, unsigned selected = 1) {
+        uint32_t bits;
+        std::memcpy(&bits, &size, sizeof bits);
+        const ControlFillRecord record = {Units(), bits, selected};
+        m_sizes.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    std::string Shown() const {
+        char text[64] = "";
+        ::GetWindowTextA(m_sizes.m_hWnd, text, sizeof text);
+        return text;
+    }
+    int FillSizesOf(const char* face) {
+        const FontListRequest request = {&m_sizes, face};
+        return FillFontDropDown(m_sizes.m_hWnd, reinterpret_cast<LPARAM>(&request));
+    }
+
+    CFontFaceControl& m_faces;
+    CFontSizeControl& m_sizes;
+    std::string m_ini;
+};
+
+int CALLBACK CollectTrueType(const LOGFONTA* font, const TEXTMETRICA*, DWORD type, LPARAM names) {
+    if (type & TRUETYPE_FONTTYPE) reinterpret_cast<std::set<std::string>*>(names)->insert(font->lfFaceName);
+    return 1;
+}
+
+TEST_F(Fonts, FacesAreTheTrueTypeFacesOfTheSystemSortedAndOnce) {
+    FillFaces(nullptr, 0);
+    const std::vector<std::string> texts = Texts(m_faces);
+    std::set<std::string> installed;
+    const HDC dc = ::GetDC(nullptr);
+    ::EnumFontFamiliesA(dc, nullptr, CollectTrueType, reinterpret_cast<LPARAM>(&installed));
+    ::ReleaseDC(nullptr, dc);
+    EXPECT_LT(2u, texts.size());
+    EXPECT_EQ(installed, std::set<std::string>(texts.begin(), texts.end()));
+    EXPECT_EQ(installed.size(), texts.size()) << "each once";
+    for (size_t i = 1; i < texts.size(); ++i)
+        EXPECT_GE(0, ::lstrcmpiA(texts[i - 1].c_str(), texts[i].c_str()));
+    EXPECT_EQ(0u, installed.count("System")) << "bitmap fonts are not offered";
+}
+
+TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
+    FillFaces(nullptr, 0);
+    const int installed = m_faces.GetCount();
+    CString shown;
+    FillFaces("Nobody's Face", 1);
+    EXPECT_EQ(installed + 1, m_faces.GetCount());
+    m_faces.GetLBText(m_faces.GetCurSel(), shown);
+    EXPECT_EQ(CString("Nobody's Face"), shown);
+    FillFaces("dejavu sans", 1);
+    EXPECT_EQ(installed, m_faces.GetCount()) << "one that it has does not; case does not count";
+    EXPECT_LE(0, m_faces.GetCurSel());
+    for (const unsigned none : {0u, 0xFFFFu}) {
+        FillFaces("Nobody's Face", none);
+        EXPECT_EQ(installed, m_faces.GetCount());
+        EXPECT_EQ(-1, m_faces.GetCurSel());
+    }
+    const ControlFillRecord noTable = {nullptr, 0, 0};
+    m_faces.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&noTable));
+    EXPECT_EQ(installed, m_faces.GetCount()) << "faces need no table";
+}
+
+TEST_F(Fonts, SizesInTheWorldAreNumbersOfTheDrawing) {
+    TableSetStringVar(Units(), kUnitDrawing, "cm");
+    FillSizes(5.0f);
+    double value = 0.0;
+    const double expected[] = {2.5, 3.5, 5};
+    ASSERT_EQ(3, m_sizes.GetCount()) << "a size that comes twice stands once, and 5 is in the list";
+    for (int i = 0; i < 3; ++i) {
+        m_sizes.ReConvertFontSize(Texts(m_sizes)[static_cast<size_t>(i)].c_str(), value);
+        EXPECT_NEAR(expected[i], value, 1e-9);
+    }
+    EXPECT_EQ(Texts(m_sizes)[2], Shown());
+    EXPECT_EQ(-1, m_sizes.GetCurSel()) << "a closed combo shows the height without selecting an item";
+
+    FillSizes(7.0f);
+    ASSERT_EQ(4, m_sizes.GetCount());
+    EXPECT_EQ(Texts(m_sizes)[3], Shown()) << "a height that is in no list joins at the end";
+    m_sizes.ShowDropDown(TRUE);
+    FillSizes(7.0f);
+    EXPECT_EQ(3, m_sizes.GetCurSel()) << "in the open list it is selected";
+    m_sizes.ShowDropDown(FALSE);
+}
+
+TEST_F(Fonts, WithoutASizeOrAFontNothingIsShown) {
+    FillSizes(5.0f);
+    const int listed = m_sizes.GetCount();
+    const struct {
+        float size;
+        unsigned selected;
+    } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, 0xFFFF}};
+    for (const auto& row : rows) {
+        FillSizes(row.size, row.selected);
+        EXPECT_EQ(3, m_sizes.GetCount());
+        EXPECT_EQ(-1, m_sizes.GetCurSel());
+    }
+    EXPECT_LE(3, listed);
+    TableSetStringVar(Units(), kUnitFontName, "");
+    FillSizes(5.0f);
+    EXPECT_EQ(0, m_sizes.GetCount());
+    EXPECT_EQ(m_drawing.Get(), m_sizes.m_pDrawing) << "heights can be converted all the same";
+}
+
+TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
+    FillSizes(0.0f);
+    EXPECT_EQ(1, FillSizesOf("DejaVu Serif"));
+    EXPECT_EQ(3, m_sizes.GetCount());
+    FillSizesOf("Nobody's Face");
+    EXPECT_EQ(0, m_sizes.GetCount());
+    for (const char* none : {"", static_cast<const char*>(nullptr)}) {
+        FillSizesOf("DejaVu Serif");
+        EXPECT_EQ(1, FillSizesOf(none));
+        EXPECT_EQ(0, m_sizes.GetCount());
+    }
+    FillSizesOf("System");
+    ASSERT_LE(1, m_sizes.GetCount()) << "a bitmap font has the sizes that it has";
+    double value = 0.0;
+    m_sizes.ReConvertFontSize(Texts(m_sizes)[0].c_str(), value);
+    EXPECT_LT(0.0, value);
+}
+
+TEST_F(Fonts, ARasterFontIsAsHighAsItsLettersInPoints) {
+    FillSizes(0.0f);
+    TEXTMETRICA metrics = {};
+    metrics.tmHeight = 20;
+    metrics.tmInternalLeading = 2;
+    CString text;
+    m_sizes.RasterSizeText(metrics, text);
+    double value = 0.0;
+    m_sizes.ReConvertFontSize(text, value);
+    EXPECT_NEAR(6.35, value, 1e-6);
+}
+
+TEST_F(Fonts, ATextThatIsNoHeightLeavesTheValue) {
+    FillSizes(0.0f);
+    for (const char* text : {"", "high", "5 mm x", "1e999"}) {
+        double value = 77.0;
+        m_sizes.ReConvertFontSize(text, value);
+        EXPECT_EQ(77.0, value) << text;
+    }
+    m_sizes.m_nCoordSpace = 2;
+    double value = 77.0;
+    m_sizes.ReConvertFontSize("5", value);
+    EXPECT_EQ(77.0, value) << "a device has no lengths";
+}
+
+TEST_F(Fonts, TheIdentifierChoosesTheList) {
+    CComboBox combo;
+    const DWORD style = WS_CHILD | CBS_DROPDOWNLIST;
+    ASSERT_TRUE(combo.CWnd::Create("ComboBox", "", style, CRect(0, 0, 100, 100), &m_host, 32002));
+    EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
+    EXPECT_EQ((std::vector<std::string>{"Regular", "Italic", "Bold", "Bold Italic"}), Texts(combo));
+    ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, 77);
+    EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
+    EXPECT_EQ(0, combo.GetCount()) << "emptied";
+    ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, 32022);
+    EXPECT_EQ(1, FillFontDropDown(combo.m_hWnd, reinterpret_cast<LPARAM>(&combo)));
+    EXPECT_LT(2, combo.GetCount());
+    combo.DestroyWindow();
+}
+
+TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
+    FillFaces(nullptr, 0);
+    FillSizes(5.0f);
+    Pixels pixels(120, 40);
+    const RECT row = {0, 10, 100, 30};
+    const int area = 100 * 20;
+    const auto draw = [&](CComboControl& control, int item, UINT state) {
+        pixels.Clear(RGB(9, 9, 9));
+        DRAWITEMSTRUCT request = {
+            0, 1, static_cast<UINT>(item), ODA_DRAWENTIRE, state, control.m_hWnd, pixels.DC(), row, 0};
+        control.DrawItem(&request);
+    };
+    for (CComboControl* const control :
+         {static_cast<CComboControl*>(&m_faces), static_cast<CComboControl*>(&m_sizes)}) {
+        draw(*control, 0, 0);
+        EXPECT_LT(area / 2, pixels.Count(row, ::GetSysColor(COLOR_WINDOW)));
+        EXPECT_LT(5, pixels.Count(row, ::GetSysColor(COLOR_WINDOWTEXT)));
+        draw(*control, 0, ODS_SELECTED);
+        EXPECT_LT(area / 2, pixels.Count(row, ::GetSysColor(COLOR_HIGHLIGHT)));
+        control->m_nSelected = 5;
+        draw(*control, -1, ODS_FOCUS);
+        EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9))) << "there is no name at hand";
+        control->m_nSelected = 0;
+    }
+    draw(m_faces, -1, 0);
+    EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9)));
+    draw(m_sizes, -1, 0);
+    EXPECT_EQ(area, pixels.Count(row, RGB(255, 255, 255)));
+}
+
+TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
+    m_dialog.ShowWindow(SW_SHOW);
+    m_host.ShowWindow(SW_SHOW);
+    const HWND edit = ::GetDlgItem(m_sizes.m_hWnd, 1001);
+    ASSERT_NE(nullptr, edit);
+    EXPECT_EQ(&m_sizes.m_editSize, CWnd::FromHandlePermanent(edit));
+    ::SetFocus(edit);
+    m_host.notifications.clear();
+    ::SendMessageA(edit, WM_KEYUP, 'A', 1);
+    EXPECT_TRUE(m_host.notifications.empty());
+    EXPECT_EQ(edit, ::GetFocus());
+    ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1);
+    ASSERT_EQ(1u, m_host.notifications.size());
+    EXPECT_EQ(0x7D01u, m_host.notifications[0].kind);
+    EXPECT_EQ(static_cast<unsigned>(CBN_SELENDOK), m_host.notifications[0].code);
+    EXPECT_EQ(m_sizes.m_hWnd, m_host.notifications[0].control);
+    EXPECT_EQ(m_host.m_hWnd, ::GetFocus());
+
+    AfxGetThread()->m_pMainWnd = nullptr;
+    ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1); // nobody to tell
+    AfxGetThread()->m_pMainWnd = &m_host;
+}
+
+} // namespace

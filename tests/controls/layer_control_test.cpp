@@ -1,0 +1,204 @@
+// The layer control: icons, names and colours of its rows, typing ahead, and lists of ten thousand layers.
+
+#include "control_dialog.h"
+
+#include <drawcore/layer.h>
+
+#include "orlo/controls/layer_control.h"
+#include "orlo/exchange/ddx_control.h"
+#include "support/pixels.h"
+
+namespace {
+
+const COLORREF kUntouched = RGB(1, 2, 3);
+const RECT kRow = {0, 8, 140, 24};
+const RECT kAll = {0, 0, 150, 60};
+
+class Layers : public ControlDialog {
+protected:
+    Layers() : m_table(m_drawing.Table("_Layers_")), m_control(Get<CLayerControl>(IDC_LAYERS)) {}
+
+    uint16_t Add(const char* name, COLORREF color, uint32_t flags) {
+        const uint16_t id = TableEntryAdd(m_table, name, nullptr);
+        EXPECT_TRUE(LayerSet(m_drawing.Get(), id, color, flags, 0));
+        return id;
+    }
+    void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
+        m_pixels.Clear(kUntouched);
+        DRAWITEMSTRUCT request = {
+            0, IDC_LAYERS, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
+        m_control.DrawItem(&request);
+    }
+    // Pixels of a column of the row that are neither background nor untouched.
+    int InkFrom(int left, int right, int background = COLOR_WINDOW) const {
+        const COLORREF back = ::GetSysColor(background);
+        return m_pixels.CountWhere({left, 0, right, 60},
+                                   [=](COLORREF c) { return c != back && c != kUntouched; });
+    }
+    int Index(uint16_t id) {
+        char name[kItemTextSize];
+        for (int i = 0; i < m_control.GetCount(); ++i)
+            if (m_control.GetControlItem(i, name) == id) return i;
+        return -1;
+    }
+
+    TableStruct* m_table;
+    CLayerControl& m_control;
+    Pixels m_pixels{150, 60};
+};
+
+TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
+    const struct {
+        const char* name;
+        uint32_t flags;
+        bool eye, book;
+    } rows[] = {{"Both", kLayerLocked, true, true},
+                {"Visible", 0, true, false},
+                {"Locked", kLayerLocked | kLayerOff, false, true},
+                {"Frozen", kLayerFrozen, false, false}};
+    for (const auto& row : rows) {
+        const uint16_t id = Add(row.name, RGB(0, 0, 200), row.flags);
+        Fill(IDC_LAYERS, m_table, id);
+        for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
+            Draw(Index(id), ODA_DRAWENTIRE, state);
+            const int back = state ? COLOR_HIGHLIGHT : COLOR_WINDOW;
+            EXPECT_EQ(row.eye, InkFrom(0, 16, back) > 30) << row.name;
+            EXPECT_EQ(row.book, InkFrom(16, 32, back) > 30) << row.name;
+            EXPECT_LT(10, InkFrom(32, 140, back)) << row.name << ": the name stands at 32 in any case";
+            EXPECT_EQ(0, m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }));
+        }
+    }
+}
+
+TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
+    const uint16_t green = Add("green", RGB(0, 200, 0), 0);
+    const uint16_t hidden = Add("as the background", ::GetSysColor(COLOR_WINDOW), 0);
+    Fill(IDC_LAYERS, m_table, green);
+    const RECT name = {32, 8, 140, 24};
+    Draw(Index(green));
+    EXPECT_LT(10, m_pixels.Count(name, RGB(0, 200, 0)));
+    Draw(Index(hidden));
+    EXPECT_LT(10, m_pixels.Count(name, RGB(0, 0, 0)));
+    Draw(Index(green), ODA_DRAWENTIRE, ODS_SELECTED);
+    EXPECT_EQ(0, m_pixels.Count(name, RGB(0, 200, 0)));
+    EXPECT_LT(10, m_pixels.Count(name, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
+    EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
+// A scheme of light text on a black window, as high contrast has it.
+TEST_F(Layers, NothingVanishesOnADarkWindow) {
+    const INT elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT};
+    const COLORREF before[] = {::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT)};
+    const COLORREF dark[] = {RGB(0, 0, 0), RGB(255, 255, 0)};
+    const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
+    Fill(IDC_LAYERS, m_table, black);
+    ASSERT_TRUE(::SetSysColors(2, elements, dark));
+    Draw(Index(black));
+    const int text = m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0));
+    ::SetSysColors(2, elements, before);
+    EXPECT_LT(10, text);
+}
+
+TEST_F(Layers, TheClosedFieldNeedsNoItem) {
+    const uint16_t id = Add("Walls", RGB(200, 0, 0), kLayerLocked);
+    Fill(IDC_LAYERS, m_table, id);
+    Draw(-1);
+    EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
+    EXPECT_LT(30, InkFrom(16, 32));
+    for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu}) {
+        m_control.m_nSelected = none;
+        Draw(-1);
+        EXPECT_EQ(0, InkFrom(0, 140)) << none;
+    }
+    m_control.m_nSelected = id;
+    m_drawing.Close();
+    Draw(-1, ODA_DRAWENTIRE, 0);
+    EXPECT_EQ(0, InkFrom(0, 140)) << "a table without an owner";
+}
+
+TEST_F(Layers, AChangeOfFocusDrawsTheFocusAlone) {
+    const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
+    Fill(IDC_LAYERS, m_table, id);
+    Draw(Index(id), ODA_FOCUS, ODS_FOCUS);
+    EXPECT_EQ(0, m_pixels.Count(kAll, RGB(200, 0, 0)));
+    EXPECT_LT(50, m_pixels.CountWhere(kAll, [](COLORREF c) { return c != kUntouched; }));
+    Draw(Index(id), ODA_SELECT, 0);
+    EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "a change of selection draws all";
+}
+
+TEST_F(Layers, ASubclassedWindowHasItsIcons) {
+    CWnd window;
+    ASSERT_TRUE(window.CWnd::Create("ComboBox", "",
+                                    WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS,
+                                    CRect(0, 0, 200, 100), &m_host, 2));
+    window.UnsubclassWindow();
+    CLayerControl control;
+    CDataExchange load(&m_host, FALSE);
+    DDX_Control(1, &load, 2, control);
+    const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
+    const ControlFillRecord record = {m_table, 0, id};
+    control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    m_pixels.Clear(kUntouched);
+    DRAWITEMSTRUCT request = {
+        0, 2, static_cast<UINT>(-1), ODA_DRAWENTIRE, 0, control.m_hWnd, m_pixels.DC(), kRow, 0};
+    control.DrawItem(&request);
+    EXPECT_LT(30, InkFrom(0, 16));
+    control.DestroyWindow();
+}
+
+TEST_F(Layers, RowsFitIconAndFont) {
+    MEASUREITEMSTRUCT measure = {};
+    m_control.MeasureItem(&measure);
+    EXPECT_EQ(16u, measure.itemHeight);
+    LOGFONTA description = {};
+    description.lfHeight = -48;
+    const HFONT large = ::CreateFontIndirectA(&description);
+    m_control.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(large), 0);
+    m_control.MeasureItem(&measure);
+    EXPECT_LE(48u, measure.itemHeight);
+    m_control.SendMessage(WM_SETFONT, 0, 0);
+    ::DeleteObject(large);
+}
+
+TEST_F(Layers, TypingGoesByTheNames) {
+    for (const char* name : {"Walls", "Doors", "windows", "Dimensions"})
+        Add(name, RGB(200, 0, 0), 0);
+    Fill(IDC_LAYERS, m_table, 0);
+    const auto type = [&](char c) {
+        m_control.SendMessage(WM_CHAR, static_cast<WPARAM>(c), 1);
+        char name[kItemTextSize] = "";
+        m_control.GetControlItem(m_control.GetCurSel(), name);
+        return std::string(name);
+    };
+    EXPECT_EQ("Walls", type('w'));
+    EXPECT_EQ("windows", type('W')) << "the next one";
+    EXPECT_EQ("Walls", type('w')) << "and round";
+    EXPECT_EQ("Doors", type('d'));
+    EXPECT_EQ("Doors", type('x')) << "no such name";
+    EXPECT_EQ("0", type('0')) << "the layer, not the keys";
+}
+
+// Each layer is asked for once, and only what can be seen is drawn.
+TEST_F(Layers, TenThousandAreMeasuredOnceAndDrawnWhereVisible) {
+    for (int i = 0; i < 10000; ++i)
+        TableEntryAdd(m_table, ("layer " + std::to_string(i)).c_str(), nullptr);
+    m_dialog.ShowWindow(SW_SHOW);
+    Pump();
+    m_dialog.drawn = m_dialog.measured = 0;
+    Fill(IDC_LAYERS, m_table, 9000);
+    Pump();
+    EXPECT_EQ(10001, m_control.GetCount());
+    EXPECT_EQ(8999, m_control.GetCurSel());
+    EXPECT_GE(10001, m_dialog.measured);
+    EXPECT_GE(3, m_dialog.drawn) << "the closed field";
+
+    m_dialog.drawn = 0;
+    m_control.SizeDropDown();
+    m_control.ShowDropDown(TRUE);
+    Pump();
+    EXPECT_LE(2, m_dialog.drawn);
+    EXPECT_GE(3 * (320 / 16), m_dialog.drawn);
+    m_control.ShowDropDown(FALSE);
+}
+
+} // namespace

@@ -1,0 +1,87 @@
+// The style name control: the blocks of one tree.
+
+#include "control_dialog.h"
+
+#include "orlo/controls/style_name_control.h"
+#include "support/pixels.h"
+
+namespace {
+
+class StyleNames : public ControlDialog {
+protected:
+    StyleNames()
+        : m_blocks(BlocksFromDrawing(m_drawing.Get())), m_control(Get<CStyleNameControl>(IDC_STYLE_NAMES)) {}
+
+    uint16_t Add(const char* name, const char* tree) {
+        GraphicStruct* const graphic = GraphicNewEx(kGraphicVertices, 0, 1);
+        graphic->pszStyleName = tree;
+        return BlocksAddBlock(m_blocks, name, graphic);
+    }
+    std::string Shown() const {
+        char text[64] = "";
+        ::GetWindowTextA(m_control.m_hWnd, text, sizeof text);
+        return text;
+    }
+
+    TableStruct* m_blocks;
+    CStyleNameControl& m_control;
+};
+
+TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
+    const uint16_t zebra = Add("Zebra", "doors");
+    Add("Window", "windows");
+    const uint16_t arch = Add("Arch", "doors");
+    Add("Capital", "Doors");
+    const uint16_t plain = Add("Plain", nullptr);
+    Fill(IDC_STYLE_NAMES, m_blocks, zebra);
+    ASSERT_EQ(2, m_control.GetCount()) << "case counts";
+    EXPECT_EQ("Zebra", Shown());
+    EXPECT_EQ(1, m_control.GetCurSel()) << "where sorting has put it";
+    Fill(IDC_STYLE_NAMES, m_blocks, arch);
+    EXPECT_EQ(0, m_control.GetCurSel());
+    EXPECT_EQ(0u, m_control.m_nSelected) << "not kept";
+    for (const unsigned none : {0u, 0xFFFFu, 0x7777u, static_cast<unsigned>(plain)}) {
+        Fill(IDC_STYLE_NAMES, m_blocks, none);
+        EXPECT_EQ(0, m_control.GetCount()) << none;
+    }
+    Fill(IDC_STYLE_NAMES, nullptr, zebra);
+    EXPECT_EQ(nullptr, m_control.m_pTable);
+}
+
+TEST_F(StyleNames, TwoThousandInOneTree) {
+    for (int i = 0; i < 2000; ++i)
+        Add(("style " + std::to_string(7919 * i % 2000)).c_str(), "tree");
+    Fill(IDC_STYLE_NAMES, m_blocks, 1);
+    EXPECT_EQ(2000, m_control.GetCount());
+    EXPECT_EQ("style 0", Shown());
+}
+
+TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
+    CStyleNameControl control;
+    ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
+                               CRect(0, 0, 120, 100), &m_host, 1));
+    control.AddString("Zebra");
+    Pixels pixels(120, 40);
+    const auto ink = [&](int item, int left) {
+        pixels.Clear(RGB(9, 9, 9));
+        DRAWITEMSTRUCT request = {0,
+                                  1,
+                                  static_cast<UINT>(item),
+                                  ODA_DRAWENTIRE,
+                                  ODS_SELECTED,
+                                  control.m_hWnd,
+                                  pixels.DC(),
+                                  {left, 10, 100, 30},
+                                  0};
+        control.DrawItem(&request);
+        return pixels.Count({0, 0, 120, 40}, RGB(0, 0, 0));
+    };
+    EXPECT_EQ(0, ink(-1, 3));
+    EXPECT_LT(2 * 100 + 20, ink(0, 0)) << "frame and name";
+    EXPECT_EQ(RGB(0, 0, 0), pixels.At(0, 10));
+    ink(0, 3);
+    EXPECT_EQ(RGB(0, 0, 0), pixels.At(2, 9)) << "the closed field is covered with its border";
+    control.DestroyWindow();
+}
+
+} // namespace
