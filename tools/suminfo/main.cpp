@@ -2,14 +2,13 @@
 
 #include <cstdio>
 #include <exception>
-#include <fcntl.h>
-#include <io.h>
 #include <string>
 #include <vector>
 #include <windows.h>
 
 #include "command_line.h"
 #include "commands.h"
+#include "console.h"
 #include "failure.h"
 #include "progress.h"
 #include "sources.h"
@@ -19,17 +18,12 @@ namespace {
 
 using namespace suminfo;
 
-void Say(FILE* stream, const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stream);
-    std::fflush(stream);
-}
-
 // The work on one file; false if it failed, which was said.
 template <typename Work>
 bool Try(const std::string& file, Progress& progress, Work work) {
     const auto say = [&progress](const std::string& name, const std::exception& failure) {
-        progress.Hide();
-        Say(stderr, "suminfo: " + name + ": " + failure.what() + "\n");
+        progress.MakeWayFor(stderr);
+        Print(stderr, "suminfo: " + name + ": " + failure.what() + "\n");
         return false;
     };
     try {
@@ -57,8 +51,8 @@ int ReportAll(const CommandLine& line) {
         progress.Next(file);
         const auto work = [&] {
             const Report report = ReportOn(line, {file, line.bare});
-            progress.Hide();
-            Say(stdout, (tables && !first ? "\n" : "") + report.text);
+            progress.MakeWayFor(stdout);
+            Print(stdout, (tables && !first ? "\n" : "") + report.text);
             first = false;
             clean = clean && report.clean;
         };
@@ -94,10 +88,7 @@ int Run(const std::vector<std::string>& arguments) {
 } // namespace
 
 int wmain(int count, wchar_t** words) {
-    // Lines end in LF and text is UTF-8, on a terminal too.
-    ::_setmode(::_fileno(stdout), _O_BINARY);
-    ::_setmode(::_fileno(stderr), _O_BINARY);
-    ::SetConsoleOutputCP(CP_UTF8);
+    PrepareOutput();
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
         arguments.push_back(ToUtf8(words[i]));

@@ -2,8 +2,9 @@
 
 #include "progress.h"
 
-#include <cstdio>
 #include <io.h>
+
+#include "console.h"
 
 namespace suminfo {
 namespace {
@@ -11,12 +12,16 @@ namespace {
 constexpr auto kPatience = std::chrono::milliseconds(500); // before the bar comes up
 constexpr auto kPace = std::chrono::milliseconds(100);     // between two drawings of it
 constexpr size_t kBar = 24;
-constexpr size_t kName = 40;
+constexpr size_t kName = 40; // bytes; the whole line stays below 80
 
 std::string Shortened(const std::string& file) {
     const size_t slash = file.find_last_of("/\\");
     const std::string name = slash == std::string::npos ? file : file.substr(slash + 1);
-    return name.size() <= kName ? name : name.substr(0, kName - 3) + "...";
+    if (name.size() <= kName) return name;
+    size_t cut = kName - 3;
+    while ((name[cut] & 0xC0) == 0x80) // not inside of a character
+        --cut;
+    return name.substr(0, cut) + "...";
 }
 
 } // namespace
@@ -30,18 +35,21 @@ void Progress::Next(const std::string& file) {
     if (!terminal_ || total_ < 2 || std::chrono::steady_clock::now() < nextDraw_) return;
     nextDraw_ = std::chrono::steady_clock::now() + kPace;
     const size_t filled = kBar * at / total_;
-    const std::string bar = std::string(filled, '#') + std::string(kBar - filled, '.');
-    std::fprintf(stderr, "\r\x1B[K[%s] %u/%u %s", bar.c_str(), static_cast<unsigned>(at),
-                 static_cast<unsigned>(total_), Shortened(file).c_str());
-    std::fflush(stderr);
-    shown_ = true;
+    const std::string line = "[" + std::string(filled, '#') + std::string(kBar - filled, '.') + "] " +
+                             std::to_string(at) + "/" + std::to_string(total_) + " " + Shortened(file);
+    // Blanks over what was longer: a console need not know the sequence that clears a line.
+    Print(stderr, "\r" + line + std::string(shown_ > line.size() ? shown_ - line.size() : 0, ' '));
+    shown_ = line.size();
+}
+
+void Progress::MakeWayFor(FILE* stream) {
+    if (::_isatty(::_fileno(stream))) Hide(); // else it goes elsewhere
 }
 
 void Progress::Hide() {
-    if (!shown_) return;
-    std::fprintf(stderr, "\r\x1B[K");
-    std::fflush(stderr);
-    shown_ = false;
+    if (shown_ == 0) return;
+    Print(stderr, "\r" + std::string(shown_, ' ') + "\r");
+    shown_ = 0;
 }
 
 } // namespace suminfo

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdio>
 #include <string>
 
 namespace suminfo {
@@ -16,14 +17,16 @@ public:
 
     // Before work on the next file; the bar comes up when the work takes longer than a moment.
     void Next(const std::string& file);
-    // Before anything else is printed.
-    void Hide();
+    // Before anything else is printed on that stream.
+    void MakeWayFor(FILE* stream);
 
 private:
+    void Hide();
+
     size_t total_;
     size_t done_ = 0;
     bool terminal_;
-    bool shown_ = false;
+    size_t shown_ = 0; // bytes of the line that stands there
     std::chrono::steady_clock::time_point nextDraw_;
 };
 

@@ -32,9 +32,11 @@ std::string Aligned(const std::vector<Line>& lines) {
         width = std::max(width, std::min(Width(line.name), kWidestName));
     std::string table;
     for (const Line& line : lines) {
+        table += "    " + line.name;
         const size_t taken = Width(line.name);
-        table += "    " + line.name + std::string(taken < width ? width - taken : 0, ' ');
-        table += line.value.empty() ? "\n" : "  " + line.value + "\n";
+        if (!line.value.empty())
+            table += std::string(taken < width ? width - taken : 0, ' ') + "  " + line.value;
+        table += "\n";
     }
     return table;
 }
