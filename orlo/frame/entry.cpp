@@ -11,6 +11,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/regen.h"
 #include "orlo/pages/general_page.h"
+#include "orlo/pages/insert_page.h"
 #include "orlo/pages/line_page.h"
 
 namespace {
@@ -32,6 +33,7 @@ bool TakesPenAndBrush(GraphicStruct* graphic) {
 }
 
 void AddOwnPages(GraphicStruct* graphic, CGraphicPropertySheet* sheet) {
+    if (graphic->bType == kGraphicInsert) AddPageOnce<CInsertPage>(sheet, CInsertPage::kTemplate);
     if (TakesPenAndBrush(graphic)) AddPageOnce<CLinePage>(sheet, CLinePage::kTemplate);
 }
 

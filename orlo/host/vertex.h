@@ -1,4 +1,4 @@
-// Vertices: scratch points from which the library builds its sample graphics.
+// Vertices: scratch points from which the library builds its sample graphics, and those of graphics.
 #pragma once
 
 #include "orlo/host/api.h"
@@ -13,7 +13,7 @@ DRAWCORE_API void VertexDispose(VertexStruct** vertex);
 // Appends a copy of the vertex, flag word included.
 DRAWCORE_API int GraphicVertexAdd(GraphicStruct*, VertexStruct*);
 
-// Walk over the vertices of a vertex graphic; they are the graphic's own. The cookie is the caller's. from is 0, flags 0xFFFF.
-// Null at the end. Whoever moves one by VertexSet then calls GraphicSetExtentsDirty.
+// Walk over the vertices of a vertex graphic or an insertion; they are the graphic's own, and VertexSet moves them. The cookie
+// is the caller's. from is 0, flags 0xFFFF. Null at the end.
 DRAWCORE_API VertexStruct* GraphicVertexFirst(GraphicStruct*, int* cookie, int from, int flags);
 DRAWCORE_API VertexStruct* GraphicVertexNext(GraphicStruct*, int* cookie, int from, int flags);

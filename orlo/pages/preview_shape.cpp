@@ -2,26 +2,11 @@
 
 #include "orlo/pages/preview_shape.h"
 
-#include "orlo/host/vertex.h"
+#include "orlo/pages/scratch_vertex.h"
 
 namespace {
 
 constexpr uint16_t kDrawn = 1; // the segment to the vertex is drawn
-
-class ScratchVertex {
-public:
-    ScratchVertex() : m_vertex(::VertexNewEx(0, 0, 0)) {}
-    ~ScratchVertex() {
-        if (m_vertex != nullptr) ::VertexDispose(&m_vertex);
-    }
-    ScratchVertex(const ScratchVertex&) = delete;
-    ScratchVertex& operator=(const ScratchVertex&) = delete;
-
-    VertexStruct* get() const { return m_vertex; }
-
-private:
-    VertexStruct* m_vertex;
-};
 
 } // namespace
 

@@ -116,7 +116,6 @@ TEST(Vertices, AreWalkedInOrderAndCanBeMoved) {
         if (++count == 2) VertexSet(v, 90, v->y, v->z);
     EXPECT_EQ(count, 5);
     EXPECT_EQ(GraphicVertexNext(square, &cookie, 0, 0xFFFF), nullptr);
-    GraphicSetExtentsDirty(square, 1);
     EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(square, 0)), 90);
     GraphicDispose(&square);
     EXPECT_EQ(GraphicVertexFirst(nullptr, &cookie, 0, 0xFFFF), nullptr);

@@ -124,6 +124,26 @@ TEST_F(Inserts, OfABlockThatIsGoneShowNothing) {
     EXPECT_EQ(picture.Covered(), 0);
 }
 
+TEST_F(Inserts, FollowTheirBlock) {
+    const uint16_t flag = FlagBlock("FLAG");
+    GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicAdd(outer, Insert(flag, 1, 0, 1, 1));
+    const uint16_t nested = BlocksAddBlock(drawing.Table("_Blocks_"), "NESTED", outer);
+    drawing.Add(Insert(nested, 10, 10, 20, 20));
+    const auto right = [&] { return ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)); };
+    EXPECT_NEAR(right(), 60, 1e-9);
+    GraphicAdd(BlockGetGraphic(drawing.Table("_Blocks_"), flag), MakeSquare(1, 0, 2));
+    EXPECT_NEAR(right(), 90, 1e-9) << "through the block between them";
+    int cookie = 0;
+    GraphicStruct* insert = GraphicFirst(outer, &cookie, 1, 0xFFFFFFFF);
+    VertexStruct* end = GraphicVertexFirst(insert, &cookie, 0, 0xFFFF);
+    end = GraphicVertexNext(insert, &cookie, 0, 0xFFFF); // of the x axis
+    VertexSet(end, 1.5, end->y, end->z);
+    EXPECT_NEAR(right(), 60, 1e-9) << "half as wide";
+    BlockDispose(drawing.Table("_Blocks_"), flag);
+    EXPECT_EQ(right(), 0) << "empty";
+}
+
 TEST_F(Inserts, OfThemselvesEnd) {
     GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicAdd(content, MakeSquare(0, 0, 1));

@@ -46,6 +46,25 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
     EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
 }
 
+TEST_F(Undo, TakesBackVerticesThatWereMovedAndIgnoresThoseThatWereOnlyRead) {
+    const auto right = [&](size_t i) { return ExtentsGetX2(GraphicGetExtentsSel(lines[i], 0)); };
+    ASSERT_TRUE(DrawingBeginUndo(drawing));
+    int cookie = 0;
+    VertexStruct* copy = VertexNewFromEx(GraphicVertexFirst(lines[1], &cookie, 0, 0xFFFF));
+    for (GraphicStruct* line : lines)
+        for (VertexStruct* v = GraphicVertexFirst(line, &cookie, 0, 0xFFFF); v;
+             v = GraphicVertexNext(line, &cookie, 0, 0xFFFF))
+            if (line == lines[0]) VertexSet(v, v->x + 50, v->y, v->z);
+    VertexSet(copy, 70, 0, 0);
+    VertexDispose(&copy);
+    EXPECT_EQ(right(0), 51);
+    EXPECT_EQ(right(1), 2) << "a copy of a vertex is nobody's";
+    EXPECT_EQ(right(2), 3);
+    EXPECT_EQ(DrawingEndUndo(drawing), 1);
+    EXPECT_EQ(DrawingUndo(drawing), 1);
+    EXPECT_EQ(right(0), 1);
+}
+
 TEST_F(Undo, GoesBackStepByStep) {
     for (const double width : {2.0, 3.0, 4.0}) {
         DrawingBeginUndo(drawing);

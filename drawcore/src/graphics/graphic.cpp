@@ -1,6 +1,7 @@
 #include "drawcore/src/graphics/graphic.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "drawcore/src/database/census.h"
 #include "drawcore/src/database/drawing.h"
@@ -35,6 +36,12 @@ private:
 
     Extents& extents_;
 };
+
+// Those of the block that has this content: their boxes come from its.
+void ForgetInsertions(const Graphic& content) {
+    const Drawing* drawing = content.GetDrawing();
+    if (drawing && drawing->Blocks()) drawing->Blocks()->ForgetInsertionsOf(content);
+}
 
 } // namespace
 
@@ -119,9 +126,10 @@ void Graphic::ChangedShape() {
 void Graphic::ForgetExtents() {
     // A graphic whose extents are known has members whose extents are known: the way up ends at the first that isn't.
     Graphic* graphic = this;
-    do
-        graphic->extentsKnown_ = false;
-    while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
+    do {
+        const bool known = std::exchange(graphic->extentsKnown_, false);
+        if (known && graphic->isBlockContent_) ForgetInsertions(*graphic);
+    } while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
 }
 
 const Extents& Graphic::GetExtents() const {

@@ -17,6 +17,7 @@
 namespace drawcore {
 
 class Drawing;
+struct Vertex;
 struct Trace;
 struct PenUse;
 
@@ -43,6 +44,9 @@ public:
     virtual std::unique_ptr<Graphic> CloneState() const = 0;
     virtual void Restore(const Graphic& saved) = 0;
     virtual bool EqualState(const Graphic& saved) const = 0;
+
+    // The vertex at that place, null behind the last one and for graphics without vertices.
+    virtual Vertex* VertexAt(size_t) { return nullptr; }
 
     // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
     virtual size_t MemberCount() const { return parts_.size(); }
@@ -91,12 +95,14 @@ protected:
 
 private:
     friend class UndoLog;
+    friend class Block;
 
     std::vector<std::unique_ptr<Graphic>> parts_;
     Drawing* drawing_ = nullptr;
     mutable Extents extents_;
     mutable bool extentsKnown_ = false;
     bool inUndoLog_ = false;
+    bool isBlockContent_ = false;
 };
 
 // Whether the filter of a walk lets the graphic through (see drawcore/graphic.h).

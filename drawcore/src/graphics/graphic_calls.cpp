@@ -210,12 +210,13 @@ int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex) {
 }
 
 VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, int flags) {
-    *cookie = -1;
+    if (cookie) *cookie = -1;
     return GraphicVertexNext(graphic, cookie, from, flags);
 }
 
 VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int, int) {
-    VertexGraphic* list = AsVertices(graphic);
-    const auto next = static_cast<size_t>(++*cookie);
-    return list && next < list->vertices.size() ? &list->vertices[next] : nullptr;
+    if (!graphic || !cookie) return nullptr;
+    Vertex* const vertex = Graphic::From(graphic)->VertexAt(static_cast<size_t>(++*cookie));
+    if (vertex) vertex->owner.graphic = Graphic::From(graphic);
+    return vertex;
 }

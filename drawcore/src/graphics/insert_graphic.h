@@ -23,6 +23,10 @@ public:
     bool EqualState(const Graphic& saved) const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
+    Vertex* VertexAt(size_t place) override {
+        return place < std::size(vertices) ? &vertices[place] : nullptr;
+    }
+
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
     void Place(const Matrix& placement);

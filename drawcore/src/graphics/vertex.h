@@ -8,6 +8,18 @@ namespace drawcore {
 
 enum : uint16_t { kVertexDrawn = 1 };
 
+class Graphic;
+
+// The graphic whose own vertex this is, from the moment that someone outside is given it: what is written to the vertex then
+// changes the graphic. A copy of the vertex is nobody's.
+struct VertexOwner {
+    VertexOwner() = default;
+    VertexOwner(const VertexOwner&) {}
+    VertexOwner& operator=(const VertexOwner&) { return *this; }
+
+    Graphic* graphic = nullptr;
+};
+
 struct Vertex : VertexStruct {
     Vertex() : Vertex(Vec3{}) {}
     explicit Vertex(const Vec3& p, bool drawn = true) : VertexStruct{} {
@@ -29,6 +41,8 @@ struct Vertex : VertexStruct {
     double bulge = 0;
     double startWidth = 0;
     double endWidth = 0;
+
+    VertexOwner owner;
 };
 
 bool operator==(const Vertex& a, const Vertex& b);

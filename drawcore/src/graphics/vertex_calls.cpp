@@ -1,8 +1,9 @@
-// The host's calls on scratch vertices.
+// The host's calls on vertices: scratch ones, and those of graphics.
 
 #include <new>
 
 #include "drawcore/src/database/census.h"
+#include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/vertex.h"
 
@@ -22,7 +23,11 @@ VertexStruct* VertexNewFromEx(VertexStruct* from) {
 }
 
 void VertexSet(VertexStruct* vertex, double x, double y, double z) {
-    if (vertex) Vertex::From(vertex)->Set({x, y, z});
+    if (!vertex) return;
+    drawcore::Graphic* const graphic = Vertex::From(vertex)->owner.graphic;
+    if (graphic) graphic->Changing();
+    Vertex::From(vertex)->Set({x, y, z});
+    if (graphic) graphic->ChangedShape();
 }
 
 void VertexDispose(VertexStruct** vertex) {

@@ -21,6 +21,7 @@ public:
     bool EqualState(const Graphic& saved) const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
     double Reach() const override;
+    Vertex* VertexAt(size_t place) override { return place < vertices.size() ? &vertices[place] : nullptr; }
 
     bool IsGroup() const { return vertices.empty() && MemberCount() != 0; }
     void AddVertex(const Vec3& point, bool drawn = true) { vertices.emplace_back(point, drawn); }

@@ -1,12 +1,15 @@
 #include "drawcore/src/styles/block.h"
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/insert_graphic.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {
 
 Block::Block(std::string_view entryName, std::unique_ptr<Graphic> content)
-    : TableEntry(entryName), content_(std::move(content)) {}
+    : TableEntry(entryName), content_(std::move(content)) {
+    content_->isBlockContent_ = true;
+}
 
 Block::~Block() = default;
 
@@ -19,6 +22,34 @@ std::unique_ptr<TableEntry> BlockTable::MakeEntry(std::string_view name, void* d
     std::unique_ptr<Graphic> content(Graphic::From(static_cast<GraphicStruct*>(data)));
     content->Attach(Owner());
     return std::make_unique<Block>(name, std::move(content));
+}
+
+namespace {
+
+void ForgetIn(Graphic& graphic, Id block) {
+    if (graphic.GetKind() == Kind::Insert && static_cast<InsertGraphic&>(graphic).block == block)
+        graphic.ChangedShape();
+    for (size_t i = 0; i < graphic.MemberCount(); ++i)
+        ForgetIn(*graphic.MemberAt(i), block);
+}
+
+} // namespace
+
+bool BlockTable::Remove(Id id) {
+    const bool removed = TableOf::Remove(id);
+    if (removed) ForgetInsertionsOf(id);
+    return removed;
+}
+
+void BlockTable::ForgetInsertionsOf(const Graphic& content) const {
+    for (Id id = First(); id; id = Next(id))
+        if (&At(id)->Content() == &content) ForgetInsertionsOf(id);
+}
+
+void BlockTable::ForgetInsertionsOf(Id id) const {
+    ForgetIn(Owner()->Root(), id);
+    for (Id other = First(); other; other = Next(other))
+        ForgetIn(At(other)->Content(), id);
 }
 
 } // namespace drawcore

@@ -28,6 +28,13 @@ public:
     using TableOf::TableOf;
     // data is a GraphicStruct* without an owner, which the block takes.
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
+    bool Remove(Id id) override;
+
+    // Marks the insertions of the block of this content as changed, in the drawing and in its blocks.
+    void ForgetInsertionsOf(const Graphic& content) const;
+
+private:
+    void ForgetInsertionsOf(Id id) const;
 };
 
 } // namespace drawcore

@@ -55,7 +55,7 @@ public:
     bool Takes(std::string_view name) const;
     // The identifier of the new entry; 0, and the entry is gone, if the name is bad or taken or the table is full.
     Id Add(std::unique_ptr<TableEntry> entry);
-    bool Remove(Id id);
+    virtual bool Remove(Id id);
     TableEntry* At(Id id) const { return id && id <= entries_.size() ? entries_[id - 1].get() : nullptr; }
     Id IdOf(std::string_view name) const;
     Id First() const { return NextFrom(0); }

@@ -1,0 +1,133 @@
+// CInsertPage.
+
+#include "orlo/pages/insert_page.h"
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/fuzzy.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/pages/current_drawing.h"
+#include "orlo/pages/insert_parts.h"
+#include "orlo/pages/insert_preview.h"
+#include "orlo/pages/mixed_value.h"
+
+IMPLEMENT_DYNAMIC(CInsertPage, CGraphicPropertyPage)
+
+namespace {
+
+constexpr double kMostScale = 1000.0;
+constexpr double kFarthest = 1e38;
+
+// One walk over the insertions of a page's set.
+template <class Visit>
+void ForEachInsertion(CGraphicPropertyPage& page, int bPreview, Visit visit) {
+    uint32_t position = 0;
+    for (void* object = page.GetFirstObject(&position, bPreview); object != nullptr;
+         object = page.GetNextObject(&position, bPreview)) {
+        auto* graphic = static_cast<GraphicStruct*>(object);
+        InsertParts parts;
+        if (graphic->bType == kGraphicInsert && ReadInsertParts(graphic, parts)) visit(graphic, parts);
+    }
+}
+
+} // namespace
+
+// One control with its member and its number in a record of parts.
+struct CInsertPage::Field {
+    unsigned int nID;
+    double CInsertPage::*member;
+    double (InsertParts::*group)[3];
+    int axis;
+    double limit; // either way; 0 for an angle
+
+    double& Of(InsertParts& parts) const { return (parts.*group)[axis]; }
+};
+
+// In the order of the exchange.
+const CInsertPage::Field CInsertPage::kFields[9] = {
+    {101, &CInsertPage::m_dScaleX, &InsertParts::scale, 0, kMostScale},
+    {102, &CInsertPage::m_dScaleY, &InsertParts::scale, 1, kMostScale},
+    {103, &CInsertPage::m_dScaleZ, &InsertParts::scale, 2, kMostScale},
+    {107, &CInsertPage::m_dPositionX, &InsertParts::position, 0, kFarthest},
+    {108, &CInsertPage::m_dPositionY, &InsertParts::position, 1, kFarthest},
+    {109, &CInsertPage::m_dPositionZ, &InsertParts::position, 2, kFarthest},
+    {104, &CInsertPage::m_dRotateX, &InsertParts::rotation, 0, 0},
+    {105, &CInsertPage::m_dRotateY, &InsertParts::rotation, 1, 0},
+    {106, &CInsertPage::m_dRotateZ, &InsertParts::rotation, 2, 0}};
+
+CInsertPage::CInsertPage()
+    : CGraphicPropertyPage(kTemplate, 0), m_dScaleX(1.0), m_dScaleY(1.0), m_dScaleZ(1.0), m_dRotateX(0.0),
+      m_dRotateY(0.0), m_dRotateZ(0.0), m_dPositionX(0.0), m_dPositionY(0.0), m_dPositionZ(0.0) {}
+
+CInsertPage::~CInsertPage() {
+    RemoveInsertPreview(CurrentDrawing());
+}
+
+BOOL CInsertPage::OnInitDialog() {
+    return CGraphicPropertyPage::OnInitDialog();
+}
+
+// Limits are for what the user has typed: a value of the drawing beyond them keeps nobody from leaving the page.
+void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
+    const int id = static_cast<int>(field.nID);
+    double& value = this->*field.member;
+    DDX_Text(1, pDX, id, value);
+    if (IsMixed(value)) return;
+    if (field.limit == 0) {
+        DDX_TextRadians(1, pDX, field.nID, value);
+        DDV_Radians(1, pDX, value);
+        return;
+    }
+    const bool typed =
+        m_nControls != 0 && GetControlStatus(field.nID); // nobody has before the page was active
+    if (typed) DDV_MinMaxDouble(1, pDX, value, -field.limit, field.limit);
+}
+
+void CInsertPage::DoDataExchange(CDataExchange* pDX) {
+    if (!pDX->m_bSaveAndValidate) LoadInsertParts(0);
+    for (const Field& field : kFields)
+        ExchangeField(pDX, field);
+    if (pDX->m_bSaveAndValidate) ApplyInsertParts(0);
+    DDP_PostProcessing(pDX);
+}
+
+void CInsertPage::LoadInsertParts(int bPreview) {
+    bool first = true;
+    ForEachInsertion(*this, bPreview, [&](GraphicStruct*, InsertParts& parts) {
+        for (const Field& field : kFields) {
+            double& member = this->*field.member;
+            if (first)
+                member = field.Of(parts);
+            else if (!IsIndeterminate(member) && CompareDoubles(&field.Of(parts), &member) != 0)
+                member = Indeterminate<double>::Value();
+        }
+        first = false;
+    });
+}
+
+void CInsertPage::ApplyInsertParts(int bPreview) {
+    bool counts[std::size(kFields)];
+    for (size_t i = 0; i < std::size(kFields); ++i)
+        counts[i] =
+            !IsIndeterminate(this->*kFields[i].member) && (bPreview || GetControlStatus(kFields[i].nID));
+    ForEachInsertion(*this, bPreview, [&](GraphicStruct* graphic, InsertParts& parts) {
+        InsertParts wanted = parts;
+        for (size_t i = 0; i < std::size(kFields); ++i)
+            if (counts[i]) kFields[i].Of(wanted) = this->*kFields[i].member;
+        ChangeInsertParts(graphic, parts, wanted);
+    });
+}
+
+void* CInsertPage::CreatePreviewGraphic() {
+    return NewInsertPreview(CurrentDrawing());
+}
+
+void CInsertPage::SetPreviewProperties(int bAll) {
+    if (m_pPreviewGraphic == nullptr) return;
+    CDataExchange dx(this, TRUE);
+    for (const Field& field : kFields)
+        if (bAll || GetControlStatus(field.nID)) ExchangeField(&dx, field);
+    ApplyInsertParts(1);
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
+}

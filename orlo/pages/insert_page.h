@@ -1,0 +1,39 @@
+// The Block Insertion page: position, scale and rotation of the selected insertions. It works on their vertices, not on named
+// properties: see insert_parts.h.
+#pragma once
+
+#include "orlo/frame/graphic_property_page.h"
+
+class CInsertPage : public CGraphicPropertyPage {
+    DECLARE_DYNAMIC(CInsertPage)
+
+public:
+    static constexpr unsigned int kTemplate = 29004;
+
+    CInsertPage();
+    // Takes the preview's block out of the current drawing.
+    ~CInsertPage() override;
+
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    // An insertion of a pyramid with lettered axes, a block of the current drawing for as long as the page lives.
+    void* CreatePreviewGraphic() override;
+    // Reports at once what is no number or out of range.
+    void SetPreviewProperties(int bAll) override;
+
+    // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
+    void LoadInsertParts(int bPreview);
+    // Puts the members into all insertions of the set. A mixed member, and in the selection one whose control the user has not
+    // touched, leaves each insertion its own.
+    void ApplyInsertParts(int bPreview);
+
+private:
+    struct Field;
+    static const Field kFields[9];
+
+    void ExchangeField(CDataExchange* pDX, const Field& field);
+
+    double m_dScaleX, m_dScaleY, m_dScaleZ;
+    double m_dRotateX, m_dRotateY, m_dRotateZ; // radians
+    double m_dPositionX, m_dPositionY, m_dPositionZ;
+};

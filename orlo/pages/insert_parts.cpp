@@ -1,0 +1,231 @@
+// Taking insertions apart.
+
+#include "orlo/pages/insert_parts.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+
+#include "orlo/binding/fuzzy.h"
+#include "orlo/host/matrix.h"
+#include "orlo/host/vertex.h"
+#include "orlo/pages/scratch_vertex.h"
+
+namespace {
+
+constexpr double kCollapsed = 1e-7; // an axis that is not longer has no direction
+constexpr double kNoTurn = 1e-7;
+
+struct Vector {
+    double x, y, z;
+};
+
+Vector operator-(const Vector& a, const Vector& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+Vector operator/(const Vector& a, double f) {
+    return {a.x / f, a.y / f, a.z / f};
+}
+double Dot(const Vector& a, const Vector& b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+double Length(const Vector& a) {
+    return std::sqrt(Dot(a, a));
+}
+Vector Cross(const Vector& a, const Vector& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+
+using Axes = std::array<Vector, 3>;
+using Corners = std::array<VertexStruct*, 4>; // the origin and the ends of the axes
+
+bool FindCorners(GraphicStruct* graphic, Corners& corners) {
+    int cookie = 0;
+    VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
+    for (VertexStruct*& corner : corners) {
+        if (vertex == nullptr) return false;
+        corner = vertex;
+        vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
+    }
+    return true;
+}
+
+Vector PointOf(const VertexStruct& vertex) {
+    return {vertex.x, vertex.y, vertex.z};
+}
+
+Axes AxesOf(const Corners& corners) {
+    const Vector origin = PointOf(*corners[0]);
+    return {PointOf(*corners[1]) - origin, PointOf(*corners[2]) - origin, PointOf(*corners[3]) - origin};
+}
+
+// Of a frame without shear, from the directions of its x and z axes. Adding 0.0 turns -0.0 to 0.0.
+void FindRotations(Vector a, const Vector& c, double rotation[3]) {
+    double across = std::sqrt(c.y * c.y + c.z * c.z);
+    rotation[0] = 0.0;
+    if (across > kCollapsed) {
+        rotation[0] = 0.0 - std::atan2(c.y, c.z);
+        const double co = std::cos(rotation[0]), si = std::sin(rotation[0]);
+        a = {a.x, a.y * co + a.z * si, a.z * co - a.y * si};
+    } else {
+        across = 0.0;
+    }
+    rotation[1] = std::atan2(c.x, across) + 0.0;
+    rotation[2] = std::atan2(a.y, a.x * std::cos(rotation[1]) - a.z * std::sin(rotation[1])) + 0.0;
+}
+
+bool GetParts(const Corners& corners, InsertParts& parts) {
+    const VertexStruct& origin = *corners[0];
+    parts.position[0] = origin.x;
+    parts.position[1] = origin.y;
+    parts.position[2] = origin.z;
+    const auto [a, b, c] = AxesOf(corners);
+    parts.scale[0] = Length(a);
+    parts.scale[1] = Length(b);
+    parts.scale[2] = Length(c);
+    for (const double scale : parts.scale)
+        if (!(scale > kCollapsed)) return false;
+    if (Dot(Cross(a, b), c) < 0.0) parts.scale[2] = -parts.scale[2];
+    FindRotations(a / parts.scale[0], c / parts.scale[2], parts.rotation);
+    return true;
+}
+
+// The direction of a vector; false for one without.
+bool Direct(Vector& axis) {
+    const double length = Length(axis);
+    if (!(length > kCollapsed)) return false;
+    axis = axis / length;
+    return true;
+}
+
+// The coordinate axis after the others in the order z, x, y that stands most nearly at right angles to the direction, put at
+// right angles.
+Vector RightAngleTo(const Vector& direction) {
+    const Vector kCandidates[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}};
+    for (const Vector& candidate : kCandidates) {
+        const double along = Dot(candidate, direction);
+        Vector rest = candidate - Vector{direction.x * along, direction.y * along, direction.z * along};
+        if (std::fabs(along) < 0.8 && Direct(rest)) return rest;
+    }
+    return kCandidates[0];
+}
+
+// Puts directions in the place of collapsed axes.
+Axes CompleteFrame(Axes axes) {
+    bool there[3];
+    for (size_t i = 0; i < 3; ++i)
+        there[i] = Direct(axes[i]);
+    if (!there[0] && !there[1] && !there[2]) return {Vector{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    for (size_t i = 0; i < 3; ++i) {
+        const size_t next = (i + 1) % 3, last = (i + 2) % 3;
+        if (there[i]) continue;
+        if (there[next] && there[last]) {
+            axes[i] = Cross(axes[next], axes[last]);
+            there[i] = Direct(axes[i]);
+        }
+        if (there[i]) continue;
+        axes[i] = RightAngleTo(axes[there[next] ? next : last]);
+        there[i] = true;
+    }
+    return axes;
+}
+
+class HostMatrix {
+public:
+    ~HostMatrix() { Take(nullptr); }
+    HostMatrix() = default;
+    HostMatrix(const HostMatrix&) = delete;
+    HostMatrix& operator=(const HostMatrix&) = delete;
+
+    void Take(MatrixStruct* next) {
+        if (m_matrix != nullptr) ::MatrixDispose(&m_matrix);
+        m_matrix = next;
+    }
+    const MatrixStruct* get() const { return m_matrix; }
+
+private:
+    MatrixStruct* m_matrix = nullptr;
+};
+
+bool HasScale(const InsertParts& parts) {
+    const double one = 1.0;
+    return std::any_of(std::begin(parts.scale), std::end(parts.scale),
+                       [&](const double& scale) { return CompareDoubles(&scale, &one) != 0; });
+}
+
+void BuildMatrix(const InsertParts& parts, const ScratchVertex& scratch, HostMatrix& matrix) {
+    if (HasScale(parts)) {
+        ::VertexSet(scratch.get(), parts.scale[0], parts.scale[1], parts.scale[2]);
+        matrix.Take(::MatrixScale(matrix.get(), scratch.get(), 0));
+    }
+    constexpr MatrixStruct* (*kTurns[])(const MatrixStruct*, double, int) = {::MatrixRotateX, ::MatrixRotateY,
+                                                                             ::MatrixRotateZ};
+    for (const int about : {2, 1, 0}) {
+        const double angle = parts.rotation[about];
+        if (std::fabs(angle) > kNoTurn) matrix.Take(kTurns[about](matrix.get(), angle, 0));
+    }
+    ::VertexSet(scratch.get(), parts.position[0], parts.position[1], parts.position[2]);
+    matrix.Take(::MatrixOffset(matrix.get(), scratch.get()));
+}
+
+// Origin and ends of the axes.
+void SetCorners(const Corners& corners, const Vector& origin, const Axes& axes) {
+    ::VertexSet(corners[0], origin.x, origin.y, origin.z);
+    for (size_t i = 0; i < axes.size(); ++i)
+        ::VertexSet(corners[i + 1], origin.x + axes[i].x, origin.y + axes[i].y, origin.z + axes[i].z);
+}
+
+bool IsPoint(const VertexStruct* vertex) {
+    return std::isfinite(vertex->x) && std::isfinite(vertex->y) && std::isfinite(vertex->z);
+}
+
+bool Equal(const double (&a)[3], const double (&b)[3]) {
+    return std::equal(a, a + 3, b);
+}
+
+bool IsFinite(const double (&values)[3]) {
+    return std::all_of(values, values + 3, [](double value) { return std::isfinite(value); });
+}
+
+} // namespace
+
+void InsertGetParts(GraphicStruct* graphic, InsertParts* parts) {
+    Corners corners;
+    if (FindCorners(graphic, corners)) GetParts(corners, *parts);
+}
+
+void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts) {
+    Corners corners;
+    const ScratchVertex scratch;
+    if (scratch.get() == nullptr || !FindCorners(graphic, corners)) return;
+    HostMatrix matrix;
+    BuildMatrix(*parts, scratch, matrix);
+    const MatrixStruct identity = {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
+    const auto& rows = (matrix.get() != nullptr ? matrix.get() : &identity)->at;
+    const auto row = [&](int r) { return Vector{rows[r][0], rows[r][1], rows[r][2]}; };
+    SetCorners(corners, row(3), {row(0), row(1), row(2)});
+}
+
+bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts) {
+    Corners corners;
+    if (!FindCorners(graphic, corners) || !std::all_of(corners.begin(), corners.end(), IsPoint)) return false;
+    if (!GetParts(corners, parts)) {
+        const Axes frame = CompleteFrame(AxesOf(corners));
+        FindRotations(frame[0], frame[2], parts.rotation);
+    }
+    for (double& rotation : parts.rotation)
+        if (std::fabs(rotation) <= kNoTurn) rotation = 0.0;
+    return true;
+}
+
+void ChangeInsertParts(GraphicStruct* graphic, const InsertParts& from, const InsertParts& to) {
+    if (!IsFinite(to.position) || !IsFinite(to.scale) || !IsFinite(to.rotation)) return;
+    if (!Equal(from.scale, to.scale) || !Equal(from.rotation, to.rotation)) {
+        InsertSetParts(graphic, &to);
+        return;
+    }
+    Corners corners;
+    if (Equal(from.position, to.position) || !FindCorners(graphic, corners)) return;
+    SetCorners(corners, {to.position[0], to.position[1], to.position[2]}, AxesOf(corners));
+}

@@ -1,0 +1,297 @@
+// The Block Insertion page over real insertions: what it shows of equal and mixed ones, what it writes, and its preview.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <memory>
+#include <vector>
+
+#include "drawcore/selection.h"
+#include "drawcore/undo.h"
+#include "orlo/frame/entry.h"
+#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/pages/insert_parts.h"
+#include "support/host_frame.h"
+#include "support/message_box_watcher.h"
+#include "support/sheet_driver.h"
+#include "support/test_drawing.h"
+
+namespace {
+
+enum : int {
+    kScaleX = 101,
+    kScaleY,
+    kScaleZ,
+    kRotateX,
+    kRotateY,
+    kRotateZ,
+    kPositionX,
+    kPositionY,
+    kPositionZ,
+};
+constexpr int kAll[] = {kScaleX,  kScaleY,    kScaleZ,    kRotateX,  kRotateY,
+                        kRotateZ, kPositionX, kPositionY, kPositionZ};
+constexpr unsigned int kPage = 29004;
+constexpr double kDegree = 0.017453292519943295;
+
+using Vertices = std::vector<double>; // of all insertions, one after the other
+
+Vertices VerticesOf(GraphicStruct* graphic) {
+    Vertices vertices;
+    int cookie = 0;
+    for (VertexStruct* v = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); v != nullptr;
+         v = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF))
+        vertices.insert(vertices.end(), {v->x, v->y, v->z});
+    return vertices;
+}
+
+class InsertPage : public ::testing::Test {
+protected:
+    InsertPage() {
+        ::PropPageInit();
+        blocks = ::BlocksFromDrawing(drawing.Get());
+        GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
+        for (const double x : {0.0, 1.0}) {
+            VertexStruct* vertex = ::VertexNewEx(x, 2 * x, 0);
+            ::GraphicVertexAdd(content, vertex);
+            ::VertexDispose(&vertex);
+        }
+        block = ::BlocksAddBlock(blocks, "FLAG", content);
+    }
+    ~InsertPage() override { ::GraphicDispose(&selection); }
+
+    GraphicStruct* Add(const InsertParts& parts) {
+        GraphicStruct* graphic = ::GraphicNewEx(kGraphicInsert, 0, 1);
+        ::InsertSetData(graphic, blocks, block, nullptr);
+        ::InsertSetParts(graphic, &parts);
+        ::GraphicAdd(::DrawingGetRoot(drawing.Get()), graphic);
+        ::SelectionAdd(selection, graphic);
+        insertions.push_back(graphic);
+        return graphic;
+    }
+    void AddMixed() {
+        Add({{1, 2, 0}, {2, 2, 1}, {0, 0, 30 * kDegree}});
+        Add({{1, 5, 0}, {2, 2, 1}, {0, 0, 60 * kDegree}});
+        Add({{1, 7, 0}, {2, 3, 1}, {0, 0, 90 * kDegree}});
+    }
+
+    Vertices All() const {
+        Vertices all;
+        for (GraphicStruct* graphic : insertions) {
+            const Vertices one = VerticesOf(graphic);
+            all.insert(all.end(), one.begin(), one.end());
+        }
+        return all;
+    }
+    InsertParts Parts(size_t i) const {
+        InsertParts parts{};
+        ReadInsertParts(insertions[i], parts);
+        return parts;
+    }
+
+    int Run(std::function<void(SheetDriver&, CGraphicPropertyPage&)> script) {
+        HostFrame frame(drawing.Get());
+        const std::unique_ptr<CGraphicPropertySheet> sheet(
+            ::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(), selection, 0xFFFFFFFF));
+        for (GraphicStruct* graphic : insertions)
+            ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
+        EXPECT_EQ(2, sheet->GetPageCount()) << "one page for all of them";
+        return SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+            user.SelectPage(1);
+            auto* page = sheet->FindPage(kPage);
+            ASSERT_EQ(page, sheet->GetActivePage());
+            script(user, static_cast<CGraphicPropertyPage&>(*page));
+        });
+    }
+    // What a paste does: one change for the whole text.
+    static void Paste(SheetDriver& user, int id, const char* text) {
+        user.Focus(id);
+        ::SendMessageA(user.Control(id), EM_SETSEL, 0, -1);
+        ::SendMessageA(user.Control(id), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+        user.Pump();
+    }
+
+    TestDrawing drawing;
+    GraphicStruct* selection = ::SelectionNew();
+    TableStruct* blocks;
+    uint16_t block;
+    std::vector<GraphicStruct*> insertions;
+};
+
+TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
+    AddMixed();
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        const char* const kTexts[] = {"2", "*****", "1", "0", "0", "*****", "1", "*****", "0"};
+        for (size_t i = 0; i < std::size(kAll); ++i)
+            EXPECT_EQ(kTexts[i], user.Text(kAll[i])) << kAll[i];
+    });
+}
+
+TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
+    // Digits that no field shows, a scale beyond the limits, and a collapsed axis: each alone, then all together.
+    const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
+                                {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
+                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}}};
+    ::DrawingBeginUndo(drawing.Get());
+    for (size_t i = 0; i <= std::size(kOdd); ++i) {
+        SCOPED_TRACE(i);
+        ::SelectionClear(selection);
+        for (size_t k = 0; k < std::size(kOdd); ++k)
+            if (k == i || i == std::size(kOdd)) Add(kOdd[k]);
+        const Vertices before = All();
+        MessageBoxWatcher boxes;
+        EXPECT_EQ(IDOK, Run([](SheetDriver& user, CGraphicPropertyPage&) {
+                      user.SelectPage(0);
+                      user.SelectPage(1);
+                      user.Ok();
+                  }));
+        EXPECT_TRUE(boxes.Boxes().empty());
+        EXPECT_EQ(before, All());
+    }
+    EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
+}
+
+// One field changed over a mixed selection reaches all, and everything else stays each insertion's own; undo takes it back.
+TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
+    const struct {
+        int id;
+        const char* text;
+        double (InsertParts::*group)[3];
+        int axis;
+        double value;
+    } kEdits[] = {{kScaleX, "4", &InsertParts::scale, 0, 4},
+                  {kScaleY, "0.5", &InsertParts::scale, 1, 0.5},
+                  {kScaleZ, "-3", &InsertParts::scale, 2, -3},
+                  {kRotateZ, "45", &InsertParts::rotation, 2, 45 * kDegree},
+                  {kPositionX, "-7.5", &InsertParts::position, 0, -7.5},
+                  {kPositionY, "1e6", &InsertParts::position, 1, 1e6},
+                  {kPositionZ, "3", &InsertParts::position, 2, 3}};
+    AddMixed();
+    const Vertices before = All();
+    for (const auto& edit : kEdits) {
+        SCOPED_TRACE(edit.id);
+        std::vector<InsertParts> expected;
+        for (size_t i = 0; i < insertions.size(); ++i) {
+            expected.push_back(Parts(i));
+            (expected.back().*edit.group)[edit.axis] = edit.value;
+        }
+        ASSERT_TRUE(::DrawingBeginUndo(drawing.Get()));
+        MessageBoxWatcher boxes;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      Paste(user, edit.id, edit.text);
+                      EXPECT_EQ(before, All()) << "not while the sheet is open";
+                      user.Ok();
+                  }));
+        EXPECT_TRUE(boxes.Boxes().empty());
+        for (size_t i = 0; i < insertions.size(); ++i)
+            for (int k = 0; k < 3; ++k) {
+                EXPECT_NEAR(expected[i].position[k], Parts(i).position[k], 1e-6);
+                EXPECT_NEAR(expected[i].scale[k], Parts(i).scale[k], 1e-6);
+                EXPECT_NEAR(expected[i].rotation[k], Parts(i).rotation[k], 1e-6);
+            }
+        EXPECT_EQ(3, ::DrawingEndUndo(drawing.Get()));
+        EXPECT_EQ(3, ::DrawingUndo(drawing.Get()));
+        EXPECT_EQ(before, All());
+    }
+}
+
+TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
+    AddMixed();
+    const Vertices before = All();
+    ::DrawingBeginUndo(drawing.Get());
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_NE(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+                  for (const int id : kAll)
+                      Paste(user, id, "9");
+                  user.Cancel();
+              }));
+    EXPECT_EQ(before, All());
+    EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
+    EXPECT_EQ(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+    int cookie = 0;
+    EXPECT_EQ(block, ::TableEntryFirst(blocks, &cookie));
+    EXPECT_EQ(0, ::TableEntryNext(blocks, &cookie)) << "no other block";
+}
+
+// The message comes while the user types; OK then keeps page, text and focus until the value is good.
+TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
+    AddMixed();
+    const Vertices before = All();
+    const struct {
+        int id;
+        const char* text;
+    } kRows[] = {{kScaleX, "1001"},     {kScaleY, "-1000.1"}, {kScaleZ, "wide"}, {kPositionX, ""},
+                 {kPositionZ, "1,5,7"}, {kRotateX, "north"},  {kRotateY, "-"}};
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(row.id);
+        EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+                      MessageBoxWatcher boxes;
+                      Paste(user, row.id, row.text);
+                      EXPECT_EQ(1u, boxes.Boxes().size());
+                      user.Focus(row.id == kScaleX ? kScaleY : kScaleX);
+                      boxes.Forget();
+                      user.Ok();
+                      EXPECT_EQ(1u, boxes.Boxes().size());
+                      EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
+                      EXPECT_EQ(user.Control(row.id), ::GetFocus());
+                      EXPECT_EQ(row.text, user.Text(row.id));
+                      user.SelectPage(0);
+                      EXPECT_EQ(page.m_hWnd, user.Page()) << "nor is there a way to another page";
+                  }));
+        EXPECT_EQ(before, All());
+    }
+}
+
+TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
+    Add({{5, 6, 0}, {2, 2, 1}, {0, 0, 30 * kDegree}});
+    const Vertices before = All();
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        const auto preview = [&] {
+            InsertParts parts{};
+            ReadInsertParts(page.GetPreviewGraphic(), parts);
+            return parts;
+        };
+        EXPECT_NEAR(30 * kDegree, preview().rotation[2], 1e-6) << "as the selection from the start";
+        EXPECT_NEAR(2, preview().scale[0], 1e-6);
+        user.Type(kRotateZ, "45");
+        EXPECT_NEAR(45 * kDegree, preview().rotation[2], 1e-6);
+        user.Type(kRotateX, "10");
+        EXPECT_NEAR(10 * kDegree, preview().rotation[0], 1e-6);
+        Paste(user, kScaleZ, "-2");
+        EXPECT_NEAR(-2, preview().scale[2], 1e-6);
+        EXPECT_EQ(before, All());
+    });
+}
+
+TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
+    Add({{0, 0, 0}, {2, 2, 0}, {0, 0, 30 * kDegree}});
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        EXPECT_EQ("0", user.Text(kScaleZ));
+        EXPECT_EQ("30", user.Text(kRotateZ));
+        user.Type(kRotateZ, "60");
+        user.Ok();
+    });
+    EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
+    EXPECT_EQ(0, Parts(0).scale[2]);
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        user.Type(kScaleZ, "3");
+        user.Ok();
+    });
+    EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
+    EXPECT_NEAR(3, Parts(0).scale[2], 1e-6);
+    EXPECT_NEAR(2, Parts(0).scale[0], 1e-6);
+}
+
+TEST_F(InsertPage, UsesAPreviewBlockThatIsThereAndRemovesIt) {
+    Add({{0, 0, 0}, {1, 1, 1}, {0, 0, 0}});
+    const uint16_t own = ::BlocksAddBlock(blocks, "$PREVIEW_BLOCK", ::GraphicNewEx(kGraphicVertices, 0, 1));
+    Run([&](SheetDriver&, CGraphicPropertyPage& page) {
+        EXPECT_EQ(own, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+        EXPECT_NE(nullptr, page.GetPreviewGraphic());
+    });
+    EXPECT_EQ(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+}
+
+} // namespace

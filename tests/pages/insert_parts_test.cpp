@@ -1,0 +1,182 @@
+// Insertions taken apart and put together again.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <random>
+
+#include "orlo/host/host.h"
+#include "orlo/pages/insert_parts.h"
+
+namespace {
+
+constexpr double kPi = 3.141592653589793;
+
+using Corners = std::array<std::array<double, 3>, 4>;
+
+class InsertPartsTest : public ::testing::Test {
+protected:
+    ~InsertPartsTest() override { ::GraphicDispose(&m_graphic); }
+
+    Corners Get() const {
+        Corners corners{};
+        int cookie = 0;
+        VertexStruct* vertex = ::GraphicVertexFirst(m_graphic, &cookie, 0, 0xFFFF);
+        for (auto& corner : corners) {
+            corner = {vertex->x, vertex->y, vertex->z};
+            vertex = ::GraphicVertexNext(m_graphic, &cookie, 0, 0xFFFF);
+        }
+        return corners;
+    }
+    void Set(const Corners& corners) {
+        int cookie = 0;
+        VertexStruct* vertex = ::GraphicVertexFirst(m_graphic, &cookie, 0, 0xFFFF);
+        for (const auto& corner : corners) {
+            ::VertexSet(vertex, corner[0], corner[1], corner[2]);
+            vertex = ::GraphicVertexNext(m_graphic, &cookie, 0, 0xFFFF);
+        }
+    }
+    // Around the point (10, 20, 30).
+    void SetAxes(std::array<double, 3> a, std::array<double, 3> b, std::array<double, 3> c) {
+        Corners corners;
+        corners.fill({10, 20, 30});
+        const std::array<double, 3> axes[] = {a, b, c};
+        for (size_t i = 0; i < 3; ++i)
+            for (size_t k = 0; k < 3; ++k)
+                corners[i + 1][k] += axes[i][k];
+        Set(corners);
+    }
+    void ExpectCorners(const Corners& expected, double tolerance) const {
+        const Corners corners = Get();
+        for (size_t i = 0; i < 4; ++i)
+            for (size_t k = 0; k < 3; ++k)
+                ASSERT_NEAR(expected[i][k], corners[i][k], tolerance) << "corner " << i << " axis " << k;
+    }
+
+    GraphicStruct* m_graphic = ::GraphicNewEx(kGraphicInsert, 0, 1);
+};
+
+// Whatever orthogonal axes, mirrored ones too: the same corners come back from the parts, and the same parts from these.
+TEST_F(InsertPartsTest, RandomTransformationsComeBack) {
+    std::mt19937_64 random(17);
+    std::uniform_real_distribution<double> angle(-kPi, kPi), exponent(-3, 3), place(-100, 100);
+    for (int i = 0; i < 20000; ++i) {
+        InsertParts parts;
+        double largest = 100;
+        for (int k = 0; k < 3; ++k) {
+            parts.position[k] = place(random);
+            parts.scale[k] = std::pow(10, exponent(random)) * (random() % 2 ? 1 : -1);
+            parts.rotation[k] = random() % 8 ? angle(random) : kPi / 2 * static_cast<double>(random() % 4);
+            largest = std::max(largest, std::fabs(parts.scale[k]));
+        }
+        ::InsertSetParts(m_graphic, &parts);
+        const Corners corners = Get();
+        InsertParts found;
+        ASSERT_TRUE(ReadInsertParts(m_graphic, found));
+        ASSERT_GT(found.scale[0], 0);
+        ASSERT_GT(found.scale[1], 0);
+        ASSERT_EQ(parts.scale[0] * parts.scale[1] * parts.scale[2] < 0, found.scale[2] < 0);
+        ::InsertSetParts(m_graphic, &found);
+        ExpectCorners(corners, 1e-9 * largest);
+        InsertParts again;
+        ASSERT_TRUE(ReadInsertParts(m_graphic, again));
+        for (int k = 0; k < 3; ++k) {
+            ASSERT_NEAR(found.position[k], again.position[k], 1e-9 * largest);
+            ASSERT_NEAR(found.scale[k] / again.scale[k], 1, 1e-9);
+        }
+    }
+}
+
+TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
+    const struct {
+        std::array<double, 3> a, b, c;
+        std::array<double, 3> scale, rotation;
+    } kRows[] = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 1}, {0, 0, 0}},
+                 {{0, 2, 0}, {-3, 0, 0}, {0, 0, 4}, {2, 3, 4}, {0, 0, kPi / 2}},
+                 {{1, 0, 0}, {0, 0, 1}, {0, -1, 0}, {1, 1, 1}, {kPi / 2, 0, 0}},
+                 {{0, 0, -1}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, 0}},
+                 {{0, 1, 0},
+                  {0, 0, 1},
+                  {1, 0, 0},
+                  {1, 1, 1},
+                  {0, kPi / 2, kPi / 2}}, // x has nothing to say: all goes to z
+                 {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}}, // the mirror lands on z
+                 {{1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {1, 1, -1}, {0, 0, 0}}};
+    for (const auto& row : kRows) {
+        SetAxes(row.a, row.b, row.c);
+        InsertParts parts;
+        ::InsertGetParts(m_graphic, &parts);
+        EXPECT_EQ(10, parts.position[0]);
+        EXPECT_EQ(30, parts.position[2]);
+        for (int k = 0; k < 3; ++k) {
+            EXPECT_NEAR(row.scale[k], parts.scale[k], 1e-12);
+            EXPECT_NEAR(row.rotation[k], parts.rotation[k], 1e-12) << &row - kRows << " about " << k;
+        }
+        const Corners corners = Get();
+        ::InsertSetParts(m_graphic, &parts);
+        ExpectCorners(corners, 1e-12);
+    }
+}
+
+// Any of the axes may be without length: the others tell how it is turned, and turning it back and forth does it no harm.
+TEST_F(InsertPartsTest, CollapsedAxesLeaveTheOthersAsTheyAre) {
+    std::mt19937_64 random(23);
+    std::uniform_real_distribution<double> angle(-kPi, kPi);
+    for (int missing = 0; missing < 8; ++missing)
+        for (int i = 0; i < 500; ++i) {
+            InsertParts parts = {{1, 2, 3}, {2, 3, 4}, {angle(random), angle(random), angle(random)}};
+            for (int k = 0; k < 3; ++k)
+                if (missing & 1 << k) parts.scale[k] = 0;
+            ::InsertSetParts(m_graphic, &parts);
+            const Corners corners = Get();
+            InsertParts found, untouched = {{0, 0, 0}, {0, 0, 0}, {77, 77, 77}};
+            ASSERT_TRUE(ReadInsertParts(m_graphic, found));
+            ::InsertGetParts(m_graphic, &untouched);
+            ASSERT_EQ(missing != 0, untouched.rotation[0] == 77);
+            for (int k = 0; k < 3; ++k)
+                ASSERT_NEAR(parts.scale[k], found.scale[k], 1e-12);
+            ::InsertSetParts(m_graphic, &found);
+            ExpectCorners(corners, 1e-12);
+        }
+}
+
+TEST_F(InsertPartsTest, AShearedInsertionIsMovedWithItsShearAndTurnedWithoutIt) {
+    SetAxes({2, 0, 0}, {1, 1, 0}, {0, 0, 1});
+    InsertParts from;
+    ASSERT_TRUE(ReadInsertParts(m_graphic, from));
+    EXPECT_NEAR(std::sqrt(2.0), from.scale[1], 1e-12);
+    InsertParts to = from;
+    to.position[0] = 110;
+    ChangeInsertParts(m_graphic, from, to);
+    ExpectCorners({{{110, 20, 30}, {112, 20, 30}, {111, 21, 30}, {110, 20, 31}}}, 1e-12);
+    to.rotation[2] = kPi / 2;
+    ChangeInsertParts(m_graphic, from, to);
+    ExpectCorners({{{110, 20, 30}, {110, 22, 30}, {110 - std::sqrt(2.0), 20, 30}, {110, 20, 31}}}, 1e-12);
+}
+
+TEST_F(InsertPartsTest, WhatIsNoNumberIsNeverWritten) {
+    SetAxes({1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+    const Corners corners = Get();
+    InsertParts parts;
+    ASSERT_TRUE(ReadInsertParts(m_graphic, parts));
+    for (const double bad : {static_cast<double>(NAN), HUGE_VAL, -HUGE_VAL})
+        for (double(InsertParts::*group)[3] :
+             {&InsertParts::position, &InsertParts::scale, &InsertParts::rotation})
+            for (int k = 0; k < 3; ++k) {
+                InsertParts to = parts;
+                (to.*group)[k] = bad;
+                ChangeInsertParts(m_graphic, parts, to);
+            }
+    ExpectCorners(corners, 0);
+    GraphicStruct* line = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    EXPECT_FALSE(ReadInsertParts(line, parts)) << "no four vertices";
+    ::InsertSetParts(line, &parts);
+    ::GraphicDispose(&line);
+    Corners nowhere = corners;
+    nowhere[2][1] = NAN;
+    Set(nowhere);
+    EXPECT_FALSE(ReadInsertParts(m_graphic, parts));
+}
+
+} // namespace
