@@ -10,6 +10,7 @@
 #include "orlo/controls/control_font.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/regen.h"
+#include "orlo/pages/brush_page.h"
 #include "orlo/pages/general_page.h"
 #include "orlo/pages/insert_page.h"
 #include "orlo/pages/line_page.h"
@@ -33,8 +34,11 @@ bool TakesPenAndBrush(GraphicStruct* graphic) {
 }
 
 void AddOwnPages(GraphicStruct* graphic, CGraphicPropertySheet* sheet) {
+    if (TakesPenAndBrush(graphic)) {
+        AddPageOnce<CLinePage>(sheet, CLinePage::kTemplate);
+        AddPageOnce<CBrushPage>(sheet, CBrushPage::kTemplate);
+    }
     if (graphic->bType == kGraphicInsert) AddPageOnce<CInsertPage>(sheet, CInsertPage::kTemplate);
-    if (TakesPenAndBrush(graphic)) AddPageOnce<CLinePage>(sheet, CLinePage::kTemplate);
 }
 
 } // namespace

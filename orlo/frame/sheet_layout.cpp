@@ -73,8 +73,8 @@ void CGraphicPropertySheet::RecalcLayout() {
     const int cySheet = cyTab + pageRect.Height() + 2 * my + kFrame + 1;
     CRect frame(0, 0, cxSheet, cySheet);
     ::AdjustWindowRectEx(&frame, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
-    ::SetWindowPos(m_hWnd, nullptr, 0, 0, frame.Width(), frame.Height(), keep | SWP_NOMOVE);
-    CenterWindow(nullptr);
+    const CPoint place = GetCenteredPlace(frame.Size());
+    ::SetWindowPos(m_hWnd, nullptr, place.x, place.y, frame.Width(), frame.Height(), keep);
 
     ::SetWindowPos(page->m_hWnd, nullptr, mx + 1, cyTab + my, cxBody - 2 * mx, pageRect.Height(), keep);
 

@@ -2,8 +2,254 @@
 
 #include "orlo/pages/general_page.h"
 
+#include <string.h>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/controls/combo_control.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/block.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/table.h"
+#include "orlo/resources/resource.h"
+
 IMPLEMENT_DYNAMIC(CGeneralPage, CGraphicPropertyPage)
 
-CGeneralPage::CGeneralPage() : CGraphicPropertyPage(kTemplate, 0) {}
+namespace {
+
+enum : int {
+    kInfoEdit = 101,
+    kNewButton = 102,
+    kDeleteButton = 103,
+    kStyleGroup = 104,
+};
+
+constexpr char kMixedInfo[] = "<Indeterminate>";
+constexpr int kLongestStyleName = 32;
+constexpr int kNameSize = 256;
+constexpr unsigned long kNoStylePart = 4; // bit of the graphic flags
+
+void ShowDlgControl(HWND hDlg, int nID, int bShow) {
+    const HWND control = ::GetDlgItem(hDlg, nID);
+    if (control == nullptr) return;
+    ::ShowWindow(control, bShow ? SW_SHOW : SW_HIDE);
+    ::EnableWindow(control, bShow);
+}
+
+void EnableDlgControl(HWND hDlg, int nID, bool enable) {
+    if (const HWND control = ::GetDlgItem(hDlg, nID)) ::EnableWindow(control, enable);
+}
+
+// The first entry that the test likes; 0 if there is none.
+template <class Test>
+uint16_t FindEntry(TableStruct* table, Test likes) {
+    int cookie = 0;
+    uint16_t id = ::TableEntryFirst(table, &cookie);
+    while (id != 0 && !likes(id))
+        id = ::TableEntryNext(table, &cookie);
+    return id;
+}
+
+uint16_t FindEntryByName(TableStruct* table, const char* name) {
+    return FindEntry(table, [&](uint16_t id) {
+        char entry[kNameSize];
+        return ::TableEntryGetName(table, id, entry, sizeof entry) && ::_stricmp(entry, name) == 0;
+    });
+}
+
+} // namespace
+
+int IsUserStyleName(CString name) {
+    for (unsigned int id : kStringsReservedStyles) {
+        char reserved[64] = "";
+        ::DrawCoreLoadString(id, reserved, sizeof reserved);
+        if (::_stricmp(name, reserved) == 0) return 0;
+    }
+    return 1;
+}
+
+BEGIN_MESSAGE_MAP(CGeneralPage, CGraphicPropertyPage)
+ON_CBN_EDITCHANGE(IDC_STYLE_NAME, &ThisClass::OnStyleEditChange)
+ON_CBN_CLOSEUP(IDC_STYLE_NAME, &ThisClass::OnStyleCloseUp)
+ON_BN_CLICKED(kNewButton, &ThisClass::OnNew)
+ON_BN_CLICKED(kDeleteButton, &ThisClass::OnDelete)
+ON_CBN_KILLFOCUS(IDC_STYLE_NAME, &ThisClass::OnStyleKillFocus)
+END_MESSAGE_MAP()
+
+CGeneralPage::CGeneralPage()
+    : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bFirstExchange(1),
+      m_bStyleChecked(0) {}
 
 CGeneralPage::~CGeneralPage() = default;
+
+BOOL CGeneralPage::OnInitDialog() {
+    CGraphicPropertyPage::OnInitDialog();
+    if (!HasStylePart()) {
+        const int styleControls[] = {IDC_STYLE_NAME, kNewButton, kDeleteButton, kStyleGroup};
+        for (const int id : styleControls)
+            ShowDlgControl(m_hWnd, id, 0);
+    }
+    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_LIMITTEXT, kLongestStyleName, 0);
+    return TRUE;
+}
+
+void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
+    DDP_Text(pDX, IDC_LAYER, m_nLayer, "Layer");
+    DDX_CBTableIndex(1, pDX, IDC_LAYER, m_nLayer);
+
+    ExchangeInfo(pDX);
+
+    if (HasStylePart()) {
+        DDP_Text(pDX, IDC_STYLE_NAME, m_nStyleTree, "StyleTree");
+        DDX_CBTableLookupIndex(1, pDX, IDC_STYLE_NAME, m_nStyleTree);
+        if (!pDX->m_bSaveAndValidate) OnStyleEditChange();
+    }
+    DDP_PostProcessing(pDX);
+    m_bFirstExchange = 0;
+}
+
+// Mixed texts show as a text of their own, which counts as untouched however it came there.
+void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
+    DDP_Text(pDX, kInfoEdit, m_strInfo, "Info");
+    if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
+        CString shown(kMixedInfo);
+        DDX_Text(1, pDX, kInfoEdit, shown);
+    } else {
+        DDX_Text(1, pDX, kInfoEdit, m_strInfo);
+        if (m_strInfo == kMixedInfo) m_strInfo = kIndeterminateText;
+    }
+}
+
+// ---- The style part
+
+bool CGeneralPage::HasStylePart() const {
+    CGraphicPropertySheet* sheet = GetSheet();
+    return sheet != nullptr && (sheet->GetGraphicFlags() & kNoStylePart) == 0;
+}
+
+TableStruct* CGeneralPage::StyleTable() const {
+    const CComboControl* control = ComboControlOf(::GetDlgItem(m_hWnd, IDC_STYLE_NAME));
+    return control != nullptr ? control->m_pTable : nullptr;
+}
+
+// Of the style whose graphic the sheet is open over; empty if there is none.
+CString CGeneralPage::CurrentStyleName() const {
+    TableStruct* table = StyleTable();
+    char name[kNameSize] = "";
+    CGraphicPropertySheet* sheet = GetSheet();
+    if (table == nullptr || sheet == nullptr || sheet->GetGraphics() == nullptr) return name;
+    const uint16_t id = FindEntry(
+        table, [&](uint16_t entry) { return ::TableEntryGetData(table, entry) == sheet->GetGraphics(); });
+    if (id != 0) ::TableEntryGetName(table, id, name, sizeof name);
+    return name;
+}
+
+CString CGeneralPage::NameInCombo() const {
+    char name[kNameSize] = "";
+    ::GetDlgItemTextA(m_hWnd, IDC_STYLE_NAME, name, sizeof name);
+    return name;
+}
+
+int CGeneralPage::FindInCombo(const char* name) const {
+    return static_cast<int>(::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_FINDSTRINGEXACT,
+                                                  static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name)));
+}
+
+void CGeneralPage::EnableButtons(const char* name) {
+    const bool listed = FindInCombo(name) != CB_ERR;
+    EnableDlgControl(m_hWnd, kNewButton, *name != '\0' && !listed);
+    EnableDlgControl(m_hWnd, kDeleteButton, listed && IsUserStyleName(name));
+}
+
+void CGeneralPage::OnStyleEditChange() {
+    m_bStyleChecked = 0;
+    if (HasStylePart() && ::GetDlgItem(m_hWnd, IDC_STYLE_NAME) != nullptr) EnableButtons(NameInCombo());
+}
+
+void CGeneralPage::OnStyleCloseUp() {
+    const HWND combo = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME);
+    if (!HasStylePart() || combo == nullptr) return;
+    const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
+    if (index == CB_ERR) return;
+    const LRESULT length = ::SendMessageA(combo, CB_GETLBTEXTLEN, index, 0);
+    if (length == CB_ERR) return;
+    CString name;
+    ::SendMessageA(combo, CB_GETLBTEXT, index,
+                   reinterpret_cast<LPARAM>(name.GetBuffer(static_cast<int>(length))));
+    name.ReleaseBuffer();
+    EnableButtons(name);
+}
+
+void CGeneralPage::OnNew() {
+    CGraphicPropertySheet* sheet = GetSheet();
+    if (sheet == nullptr) return;
+    GraphicStruct* copy = ::GraphicCopyEx(static_cast<GraphicStruct*>(sheet->GetGraphics()), 0, 0, 7);
+    if (copy != nullptr && ::BlocksAddBlock(StyleTable(), NameInCombo(), copy) == 0) ::GraphicDispose(&copy);
+    sheet->EndDialog(kStyleAdded);
+}
+
+void CGeneralPage::OnDelete() {
+    const CString name = NameInCombo();
+    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, 0, 0);
+    TableStruct* table = StyleTable();
+    CGraphicPropertySheet* sheet = GetSheet();
+    const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
+    if (id != 0 && sheet != nullptr) sheet->EndDialog(kDeleteStyle + id);
+}
+
+void CGeneralPage::OnStyleKillFocus() {
+    const HWND combo = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME);
+    const bool checked = m_bStyleChecked != 0;
+    m_bStyleChecked = 0;
+    const HWND focus = ::GetFocus();
+    // Without a focus another program has come to the front, and the user is still in the combo.
+    if (checked || combo == nullptr || !HasStylePart() || focus == nullptr) return;
+
+    const CString name = NameInCombo();
+    if (!name.IsEmpty() && FindInCombo(name) != CB_ERR)
+        LeaveComboForStyle(name, focus);
+    else if (name.IsEmpty() || focus != ::GetDlgItem(m_hWnd, kNewButton))
+        GoBackToCurrentStyle();
+}
+
+void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
+    CGraphicPropertySheet* sheet = GetSheet();
+    if (focus == ::GetDlgItem(sheet->m_hWnd, IDCANCEL) || focus == ::GetDlgItem(m_hWnd, kDeleteButton))
+        return;
+    const bool byOk = focus == ::GetDlgItem(sheet->m_hWnd, IDOK);
+    TableStruct* table = StyleTable();
+    const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
+    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, 0, 0);
+    if (id == 0) return;
+    sheet->EndWithCode(id + (byOk ? kChooseStyleByOk : kChooseStyle));
+    if (!byOk) ::PostMessageA(sheet->m_hWnd, WM_COMMAND, IDOK, 0);
+}
+
+void CGeneralPage::GoBackToCurrentStyle() {
+    const CString current = CurrentStyleName();
+    const int index = current.IsEmpty() ? CB_ERR : FindInCombo(current);
+    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, index == CB_ERR ? 0 : index, 0);
+    EnableDlgControl(m_hWnd, kNewButton, false);
+}
+
+bool CGeneralPage::RefuseToLeave(const char* name) {
+    const CString current = CurrentStyleName();
+    return FindInCombo(name) == CB_ERR || ::_stricmp(current, name) != 0;
+}
+
+BOOL CGeneralPage::OnKillActive() {
+    m_bStyleChecked = 0;
+    const HWND combo = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME);
+    if (combo == nullptr || !::IsWindowVisible(combo)) return CGraphicPropertyPage::OnKillActive();
+
+    const CString name = NameInCombo();
+    if (RefuseToLeave(name)) {
+        ::SetFocus(combo);
+        ::SetWindowTextA(combo, name);
+        ::MessageBeep(MB_ICONWARNING);
+        return FALSE;
+    }
+    m_bStyleChecked = 1;
+    return CGraphicPropertyPage::OnKillActive();
+}

@@ -1,7 +1,22 @@
-// The General page, first in every sheet: the page's own life over its dialog.
+// The General page, first in every sheet: layer and attribute text of the selected graphics, and, over the graphic that a
+// style stands for, the style's name with New and Delete.
+//
+// The style part edits nothing: choosing, making or deleting a style ends the sheet with a code, and the host acts on it.
+//   kStyleAdded             a style was added to the table (made from a copy of the graphics)
+//   kDeleteStyle + id       the user asked to delete the style
+//   kChooseStyle + id       the user chose the style and left the combo for a control other than OK
+//   kChooseStyleByOk + id   the user chose the style and left the combo for OK
 #pragma once
 
+#include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+
+enum StyleEndCode : int {
+    kStyleAdded = 1000,
+    kChooseStyle = 1000,
+    kDeleteStyle = 2000,
+    kChooseStyleByOk = 3000
+};
 
 class CGeneralPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CGeneralPage)
@@ -11,4 +26,39 @@ public:
 
     CGeneralPage();
     ~CGeneralPage() override;
+
+    ORLO_API void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    // Refuses, with a beep, while the style combo names another style than the current one.
+    BOOL OnKillActive() override;
+
+protected:
+    void OnStyleEditChange();
+    void OnStyleCloseUp();
+    void OnStyleKillFocus();
+    void OnNew();
+    void OnDelete();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ExchangeInfo(CDataExchange* pDX);
+    bool HasStylePart() const;
+    TableStruct* StyleTable() const;
+    CString CurrentStyleName() const;
+    CString NameInCombo() const;
+    int FindInCombo(const char* name) const;
+    void EnableButtons(const char* name);
+    void LeaveComboForStyle(const CString& name, HWND focus);
+    void GoBackToCurrentStyle();
+    bool RefuseToLeave(const char* name);
+
+    unsigned int m_nLayer;
+    unsigned int m_nStyleTree;
+    CString m_strInfo;
+    int m_bFirstExchange;
+    int m_bStyleChecked; // the focus change that follows has been looked at already
 };
+
+// 0 for a name that the host keeps for itself.
+int IsUserStyleName(CString name);

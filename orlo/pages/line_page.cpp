@@ -100,7 +100,7 @@ CString CLinePage::StyleName(unsigned int style) const {
         return "Undefined";
     case kStyleMixed:
     case kIndeterminateId:
-        return "Indeterminate";
+        return kMixedText;
     case kStyleByLayer:
         ::DrawCoreLoadString(kStringByLayer, name, sizeof name);
         break;

@@ -3,6 +3,9 @@
 
 #include <afxwin.h>
 
+// What a text field shows for a value that differs; text that reads so means no value.
+constexpr char kMixedText[] = "Indeterminate";
+
 // Whether the number stands for a mixed selection, as far as a text field tells numbers apart.
 bool IsMixed(double value);
 

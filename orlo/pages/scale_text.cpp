@@ -7,24 +7,19 @@
 
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddx.h"
-
-namespace {
-
-constexpr char kMixed[] = "Indeterminate";
-
-} // namespace
+#include "orlo/pages/mixed_value.h"
 
 int DDX_TextScale(int bReport, CDataExchange* pDX, int nIDC, double& value) {
     if (pDX->m_bSaveAndValidate) {
         value = 0.0;
         CString text;
         DDX_Text(bReport, pDX, nIDC, text);
-        if (text == kMixed) {
+        if (text == kMixedText) {
             value = Indeterminate<double>::Value();
             return 1;
         }
     } else if (IsIndeterminate(value)) {
-        CString text(kMixed);
+        CString text(kMixedText);
         return DDX_Text(bReport, pDX, nIDC, text);
     } else {
         value = std::clamp<double>(value, FLT_MIN, FLT_MAX);

@@ -16,23 +16,23 @@
 
 namespace {
 
-constexpr unsigned int kGeneral = 29000, kPen = 29001;
+constexpr unsigned int kGeneral = 29000, kPen = 29001, kBrush = 29002;
 
 struct Kind {
     const char* name;
     int type;
     bool group;
     uint32_t flags;
-    bool pen;
+    std::vector<unsigned int> pages; // behind General
 };
 
-constexpr Kind kKinds[] = {
-    {"PenBrush", 2, false, 0, true},
-    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, true},
-    {"Vertices", 0x0B, false, 0, true},
-    {"VerticesWithoutPen", 0x0B, false, kFlagNoPenBrush, false},
-    {"Group", 0x0B, true, 0, false},
-    {"Unknown", 0x33, false, 0, false},
+const Kind kKinds[] = {
+    {"PenBrush", 2, false, 0, {kPen, kBrush}},
+    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, {kPen, kBrush}},
+    {"Vertices", 0x0B, false, 0, {kPen, kBrush}},
+    {"VerticesWithoutPen", 0x0B, false, kFlagNoPenBrush, {}},
+    {"Group", 0x0B, true, 0, {}},
+    {"Unknown", 0x33, false, 0, {}},
 };
 
 class PagesOfAKind : public ::testing::TestWithParam<Kind> {};
@@ -46,9 +46,10 @@ TEST_P(PagesOfAKind, AreAddedOnce) {
     graphic->dwFlags |= kind.flags;
     TestSheet sheet(kit);
     for (int i = 0; i < 3; ++i) EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
-    EXPECT_EQ(kind.pen, sheet.Sheet().FindPage(kPen) != nullptr);
-    EXPECT_EQ(kind.pen ? 2 : 1, sheet.Sheet().GetPageCount());
+    ASSERT_EQ(1 + static_cast<int>(kind.pages.size()), sheet.Sheet().GetPageCount());
     EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(kGeneral));
+    for (size_t i = 0; i < kind.pages.size(); ++i)
+        EXPECT_EQ(sheet.Sheet().GetPage(static_cast<int>(i) + 1), sheet.Sheet().FindPage(kind.pages[i]));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, PagesOfAKind, ::testing::ValuesIn(kKinds),
@@ -71,7 +72,7 @@ TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
         TestSheet sheet(kit);
         EXPECT_EQ(41, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
         EXPECT_EQ(42, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
-        EXPECT_EQ(4, sheet.Sheet().GetPageCount());
+        EXPECT_EQ(5, sheet.Sheet().GetPageCount());
         EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(kPen));
     }
     ::RegenMethodsDispose(&methods);

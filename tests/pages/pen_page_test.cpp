@@ -21,7 +21,16 @@
 
 namespace {
 
-enum : int { kStyle = 32021, kAlign = 110, kColor = 32005, kSystem = 109, kScale = 104, kStyleName = 112, kWidth = 103, kTabs = 0x3020 };
+enum : int {
+    kStyle = 32021,
+    kAlign = 110,
+    kColor = 32005,
+    kSystem = 109,
+    kScale = 104,
+    kStyleName = 112,
+    kWidth = 103,
+    kTabs = 0x3020
+};
 constexpr unsigned int kPen = 29001;
 constexpr double kInch = 25.4;
 constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colours in colour order
@@ -36,7 +45,8 @@ protected:
     }
     ~PenPage() override { ::AppSetINIFileName(nullptr); }
 
-    KitGraphic& Add(double width, unsigned int color, double scale, unsigned int style, int system, int alignment) {
+    KitGraphic& Add(double width, unsigned int color, double scale, unsigned int style, int system,
+                    int alignment) {
         return kit.Add({{"PenWidth", width},
                         {"PenColor", static_cast<double>(color)},
                         {"PenScale", scale},
@@ -58,7 +68,8 @@ protected:
     // Opens the sheet over the kit on its Pen page.
     int Run(std::function<void(SheetDriver&, CGraphicPropertyPage&)> script) {
         TestSheet sheet(kit);
-        for (size_t i = 0; i < kit.Size(); ++i) ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
+        for (size_t i = 0; i < kit.Size(); ++i)
+            ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
             auto* page = sheet.Sheet().FindPage(kPen);
             ASSERT_NE(nullptr, page);
@@ -78,7 +89,8 @@ protected:
     std::vector<std::string> Widths(SheetDriver& user) {
         std::vector<std::string> widths;
         const int count = static_cast<int>(::SendMessageA(user.Control(kWidth), CB_GETCOUNT, 0, 0));
-        for (int i = 0; i < count; ++i) widths.push_back(user.ItemText(kWidth, i));
+        for (int i = 0; i < count; ++i)
+            widths.push_back(user.ItemText(kWidth, i));
         return widths;
     }
 
@@ -105,15 +117,15 @@ TEST_F(PenPage, ShowsAnEqualPen) {
 TEST_F(PenPage, MixedPensShowTheirMarkersAndSurviveOk) {
     AddMixed();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        EXPECT_EQ("*****", user.Text(kWidth));
-        EXPECT_EQ("Indeterminate", user.Text(kScale));
-        EXPECT_EQ("Indeterminate", user.Text(kStyleName));
-        EXPECT_EQ(-1, user.Selection(kStyle));
-        EXPECT_EQ(-1, user.Selection(kSystem));
-        EXPECT_EQ(-1, user.Selection(kColor));
-        EXPECT_EQ(BST_INDETERMINATE, user.Check(kAlign));
-        user.Ok();
-    }));
+                  EXPECT_EQ("*****", user.Text(kWidth));
+                  EXPECT_EQ("Indeterminate", user.Text(kScale));
+                  EXPECT_EQ("Indeterminate", user.Text(kStyleName));
+                  EXPECT_EQ(-1, user.Selection(kStyle));
+                  EXPECT_EQ(-1, user.Selection(kSystem));
+                  EXPECT_EQ(-1, user.Selection(kColor));
+                  EXPECT_EQ(BST_INDETERMINATE, user.Check(kAlign));
+                  user.Ok();
+              }));
     EXPECT_EQ(0, kit.Writes());
 }
 
@@ -130,11 +142,13 @@ TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
         {"color", [](SheetDriver& user) { user.Choose(kColor, 0); }, "PenColor", kDarkest},
         {"width", [](SheetDriver& user) { user.Type(kWidth, "5 mm"); }, "PenWidth", 5 / kInch},
         {"scale", [](SheetDriver& user) { user.Type(kScale, "4.5"); }, "PenScale", 4.5},
-        {"style", [&](SheetDriver& user) {
+        {"style",
+         [&](SheetDriver& user) {
              user.Focus(kStyle);
              user.Key(VK_END); // without a selection the first key selects where the caret is
              user.Key(VK_END);
-         }, "PenStyle", 65534},
+         },
+         "PenStyle", 65534},
         {"system", [](SheetDriver& user) { user.Choose(kSystem, 1); }, "ScaleSystem", 2},
         {"alignment", [](SheetDriver& user) { user.Click(kAlign); }, "PenAlignment", 0},
     };
@@ -144,9 +158,9 @@ TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
         kit[0].writes.clear();
         kit[1].writes.clear();
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-            edit.edit(user);
-            user.Ok();
-        }));
+                      edit.edit(user);
+                      user.Ok();
+                  }));
         for (size_t i : {0, 1}) {
             ASSERT_EQ(1u, kit[i].writes.size());
             EXPECT_EQ(edit.property, kit[i].writes[0].name);
@@ -186,7 +200,8 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
         {"alias", "[PenWidths]\nmm=*other\nother=*in\nin=1\n", {"25.4 mm"}},
         {"circle", circle.c_str(), {}},
         {"alias too long", "[PenWidths]\nmm=*a23456789012345678901234567890123456789\n", {}},
-        {"item too long", "[PenWidths]\nmm=0.25,                                                      3,2\n",
+        {"item too long",
+         "[PenWidths]\nmm=0.25,                                                      3,2\n",
          {"0.25 mm", "2 mm"}},
         {"no section", "[Other]\nmm=3\n", {}},
         {"commas only", "[PenWidths]\nmm=,,,\n", {}},
@@ -207,16 +222,21 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
 
 TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
     AddEqual();
-    for (const auto& [control, text] : {std::pair<int, const char*>{kWidth, "thick"}, {kWidth, "-1 mm"}, {kWidth, ""},
-                                        {kScale, "0"}, {kScale, "1e9"}, {kScale, "1,5,7"}}) {
+    for (const auto& [control, text] : {std::pair<int, const char*>{kWidth, "thick"},
+                                        {kWidth, "-1 mm"},
+                                        {kWidth, ""},
+                                        {kScale, "0"},
+                                        {kScale, "1e9"},
+                                        {kScale, "1,5,7"}}) {
         SCOPED_TRACE(text);
-        EXPECT_EQ(IDCANCEL, Run([&, control = control, text = text](SheetDriver& user, CGraphicPropertyPage&) {
-            MessageBoxWatcher boxes;
-            user.Choose(kColor, 0);
-            user.Type(control, text);
-            user.Ok();
-            EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
-        }));
+        EXPECT_EQ(IDCANCEL,
+                  Run([&, control = control, text = text](SheetDriver& user, CGraphicPropertyPage&) {
+                      MessageBoxWatcher boxes;
+                      user.Choose(kColor, 0);
+                      user.Type(control, text);
+                      user.Ok();
+                      EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
+                  }));
         EXPECT_EQ(0, kit.Writes());
     }
 }
@@ -245,7 +265,9 @@ TEST_F(PenPage, AMixedAlignmentTogglesFromItsFirstClick) {
         }
         for (size_t i = 0; i < states.size(); ++i) {
             EXPECT_NE(BST_INDETERMINATE, states[i]);
-            if (i > 0) { EXPECT_NE(states[i - 1], states[i]); }
+            if (i > 0) {
+                EXPECT_NE(states[i - 1], states[i]);
+            }
         }
     });
 }
@@ -295,14 +317,15 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
 TEST_F(PenPage, OutlivesTheStyleTable) {
     AddEqual();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        ::DrawingDeleteTable(kit.Drawing(), styles);
-        user.Focus(kStyle);
-        for (const UINT key : {VK_HOME, VK_DOWN, VK_END}) user.Key(key);
-        ::InvalidateRect(user.Sheet(), nullptr, TRUE);
-        user.Pump();
-        user.Type(kScale, "3");
-        user.Ok();
-    }));
+                  ::DrawingDeleteTable(kit.Drawing(), styles);
+                  user.Focus(kStyle);
+                  for (const UINT key : {VK_HOME, VK_DOWN, VK_END})
+                      user.Key(key);
+                  ::InvalidateRect(user.Sheet(), nullptr, TRUE);
+                  user.Pump();
+                  user.Type(kScale, "3");
+                  user.Ok();
+              }));
     EXPECT_EQ(3, kit[0].Number("PenScale"));
 }
 
@@ -313,13 +336,16 @@ TEST_F(PenPage, TabsThroughAllItsControls) {
         user.Focus(kStyle);
         for (int i = 0; i < 12; ++i) {
             HWND focus = ::GetFocus();
-            if (::GetParent(focus) == user.Control(kWidth)) focus = ::GetParent(focus); // the edit inside the combo
+            if (::GetParent(focus) == user.Control(kWidth))
+                focus = ::GetParent(focus); // the edit inside the combo
             const int id = ::GetDlgCtrlID(focus);
             if (!order.empty() && id == order.front()) break;
             order.push_back(id);
             user.Key(VK_TAB);
         }
-        EXPECT_EQ((std::vector<int>{kStyle, kAlign, kColor, kSystem, kScale, kWidth, IDOK, IDCANCEL, 0xE145, kTabs}), order);
+        EXPECT_EQ((std::vector<int>{kStyle, kAlign, kColor, kSystem, kScale, kWidth, IDOK, IDCANCEL, 0xE145,
+                                    kTabs}),
+                  order);
     });
 }
 

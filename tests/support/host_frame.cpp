@@ -9,13 +9,27 @@ namespace {
 
 constexpr unsigned int kAnnounced = 0x21;
 
+constexpr unsigned int kStyleNames = 0x7D0F;
+
 const char* TableOfKind(unsigned int kind) {
     switch (kind) {
+    case 0x7D00: // faces and sizes, of which only the drawing counts
+    case 0x7D01:
+        return "_Units_";
     case 0x7D04:
-    case 0x7D15: return "_LineStyles_";
-    case 0x7D05: return "_Colors_";
-    case 0x7D08: return "_Layers_";
-    default: return nullptr;
+    case 0x7D15:
+        return "_LineStyles_";
+    case 0x7D05:
+        return "_Colors_";
+    case 0x7D07:
+    case 0x7D18:
+        return "_BrushStyles_";
+    case 0x7D08:
+        return "_Layers_";
+    case kStyleNames:
+        return "_Blocks_";
+    default:
+        return nullptr;
     }
 }
 
@@ -39,7 +53,7 @@ BOOL HostFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (code != kAnnounced || name == nullptr) return FALSE;
     ControlFillRecord record = {};
     record.pTable = ::DrawingGetTable(m_drawing, name);
-    record.nSelected = 0xFFFFFFFE;
+    record.nSelected = kind == kStyleNames ? currentStyle : 0xFFFFFFFE;
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
     return TRUE;
 }

@@ -18,6 +18,7 @@ public:
         unsigned int code;
     };
     std::vector<Notification> notifications;
+    unsigned int currentStyle = 0; // block whose style tree the style names show
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

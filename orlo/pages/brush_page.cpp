@@ -1,0 +1,238 @@
+// CBrushPage.
+
+#include "orlo/pages/brush_page.h"
+
+#include <commctrl.h>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/controls/color_control.h"
+#include "orlo/controls/hatch_scale.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/style.h"
+#include "orlo/host/table.h"
+#include "orlo/host/units.h"
+#include "orlo/host/viewport.h"
+#include "orlo/pages/angle_text.h"
+#include "orlo/pages/current_drawing.h"
+#include "orlo/pages/mixed_value.h"
+#include "orlo/pages/preview_shape.h"
+#include "orlo/pages/scale_text.h"
+#include "orlo/resources/resource.h"
+
+IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
+
+namespace {
+
+enum : int {
+    kStyleList = IDC_BRUSH_STYLE_LIST,
+    kColorCombo = IDC_BRUSH_COLOR,
+    kScaleEdit = 105,
+    kAngleEdit = 106,
+    kAngleUpDown = 119,
+    kCrossBox = 113,
+    kWindingButton = 115, // first of the group
+    kAlternateButton = 116,
+    kStyleNameText = 112,
+    kStyleKindText = 118,
+};
+
+constexpr unsigned int kNoStyle = 0;
+constexpr unsigned int kSolid = 1;
+constexpr unsigned int kStyleMixed = 0xFFFF;
+constexpr unsigned long kColorOfPen = 0xFFFFFFFB;
+constexpr unsigned int kPenByBlock = 65533;
+
+constexpr double kLeastScale = 1e-7;
+constexpr double kMostScale = 1e7;
+constexpr double kLinesAcrossPreview = 20.0;
+
+// Draw mode by radio button: none, winding, alternate.
+int drawModes[] = {-1, 1, 0};
+constexpr int kDrawModeCount = 3;
+
+// The highest whole angle in the drawing's units.
+int HighestAngle(DrawingStruct* drawing) {
+    switch (drawing != nullptr ? ::UnitsGetAngularSystem(drawing->pUnits) : 0) {
+    case 0:
+    case 1:
+    case 4:
+        return 359;
+    case 2:
+        return 399;
+    default:
+        return 6;
+    }
+}
+
+double WidthOf(GraphicStruct* graphic) {
+    const ExtentsStruct* extents = ::GraphicGetExtentsSel(graphic, 0);
+    return ::ExtentsGetX2(extents) - ::ExtentsGetX1(extents);
+}
+
+bool IsMixedStyle(unsigned int style) {
+    return style == kStyleMixed || style == kIndeterminateId;
+}
+
+} // namespace
+
+CBrushPage::CBrushPage()
+    : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable("_BrushStyles_")),
+      m_dwColor(kColorOfPen), m_dAngle(0.0), m_dScale(1.0), m_nStyle(kNoStyle), m_szStyleName(),
+      m_nHatchCross(0), m_nLastCross(0), m_nDrawMode(0) {}
+
+CBrushPage::~CBrushPage() = default;
+
+BOOL CBrushPage::OnInitDialog() {
+    if (m_hWnd != nullptr) {
+        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, HighestAngle(CurrentDrawing()));
+        CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, kColorCombo));
+        if (color != nullptr && color->IsKindOf(RUNTIME_CLASS(CColorControl)))
+            static_cast<CColorControl*>(color)->EnableLastEntry(1);
+    }
+    return CGraphicPropertyPage::OnInitDialog();
+}
+
+void CBrushPage::DoDataExchange(CDataExchange* pDX) {
+    DDP_Text(pDX, kColorCombo, m_dwColor, "BrushColor");
+    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+
+    // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
+    DDP_Text(pDX, kAngleEdit, m_dAngle, "BrushAngle");
+    DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing());
+    if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
+
+    DDP_Text(pDX, kScaleEdit, m_dScale, "BrushScale");
+    DDX_TextScale(1, pDX, kScaleEdit, m_dScale);
+    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+
+    DDP_Text(pDX, kStyleList, m_nStyle, "BrushStyle");
+    DDX_ConvertStyle(1, pDX, m_nStyle);
+
+    DDP_Check(pDX, kCrossBox, m_nHatchCross, "HatchCross");
+    DDX_Check(1, pDX, kCrossBox, m_nHatchCross);
+
+    DDP_Radio(pDX, kWindingButton, m_nDrawMode, "BrushDrawMode");
+    DDX_RadioMap(1, pDX, kWindingButton, m_nDrawMode, drawModes, kDrawModeCount);
+
+    DDP_PostProcessing(pDX);
+}
+
+CString CBrushPage::StyleName(unsigned int style) const {
+    if (IsMixedStyle(style)) return kMixedText;
+    char name[kStyleNameSize] = "";
+    if (style == kNoStyle)
+        ::DrawCoreLoadString(kStringNoBrush, name, sizeof name);
+    else
+        ::TableEntryGetName(m_pBrushStyles, static_cast<uint16_t>(style), name, sizeof name);
+    return name;
+}
+
+int CBrushPage::DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style) {
+    if (!DDX_LBTableIndex(bReport, pDX, kStyleList, style)) return 0;
+    ShowStyleName(m_hWnd, kStyleNameText, StyleName(style), m_szStyleName);
+    return 1;
+}
+
+// ---- Preview
+
+// Black if the selection has several.
+unsigned long CBrushPage::PenColorOfSelection() {
+    CDataExchange load(this, FALSE);
+    unsigned long color = kIndeterminateId;
+    DDP_Text(&load, 0, color, "PenColor");
+    return color == kIndeterminateId ? 0 : color;
+}
+
+void* CBrushPage::CreatePreviewGraphic() {
+    // The undrawn ways out to two corners hold the extents at the unit square.
+    GraphicStruct* shape = NewVertexList({{0.35, 0.35, 0, true},
+                                          {0.05, 0.35, 0, true},
+                                          {0.05, 0.95, 0, true},
+                                          {0.0, 1.0, 0, false},
+                                          {0.05, 0.95, 0, false},
+                                          {0.65, 0.95, 0, true},
+                                          {0.65, 0.35, 0, true},
+                                          {0.35, 0.35, 0, true},
+                                          {0.35, 0.65, 0, true},
+                                          {0.95, 0.65, 0, true},
+                                          {0.95, 0.05, 0, true},
+                                          {1.0, 0.0, 0, false},
+                                          {0.95, 0.05, 0, false},
+                                          {0.35, 0.05, 0, true},
+                                          {0.35, 0.35, 0, true}});
+    if (shape == nullptr) return nullptr;
+    ::GraphicSetPenColor(shape, PenColorOfSelection());
+    shape->dwOneOutline = 1;
+    return shape;
+}
+
+void CBrushPage::SetPreviewProperties(int bAll) {
+    if (m_pPreviewGraphic == nullptr) return;
+    CDataExchange dx(this, TRUE);
+    const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
+
+    if (wanted(kColorCombo)) {
+        unsigned long color = kIndeterminateId;
+        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("BrushColor", color, 1);
+    }
+    if (wanted(kAngleEdit)) {
+        double angle = 0.0;
+        if (DDX_TextAngle(&dx, kAngleEdit, angle, CurrentDrawing()) && !IsMixed(angle) &&
+            DDV_Radians(1, &dx, angle))
+            SetPropText("BrushAngle", angle, 1);
+    }
+    if (wanted(kStyleList)) SetPreviewStyle(&dx);
+    if (wanted(kCrossBox)) SetPropCheck("HatchCross", CheckForPreview(&dx, kCrossBox, bAll, m_nLastCross), 1);
+    if (wanted(kWindingButton)) {
+        int mode = 0;
+        if (DDX_RadioMap(0, &dx, kWindingButton, mode, drawModes, kDrawModeCount))
+            SetPropText("BrushDrawMode", mode, 1);
+    }
+
+    // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
+    ::GraphicSetPenStyle(m_pPreviewGraphic, kPenByBlock);
+    ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
+}
+
+// The style decides on the preview's scale, so that any hatch can be told there, and on which controls make sense.
+void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
+    constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
+    unsigned int style = m_nStyle;
+    if (DDX_ConvertStyle(0, pDX, style) && !IsMixedStyle(style)) {
+        const bool hatched =
+            style != kNoStyle && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
+        if (hatched) {
+            double scale = HatchScale(m_pBrushStyles, style, WidthOf(m_pPreviewGraphic), kLinesAcrossPreview);
+            SetPropText("BrushScale", scale, 1);
+        }
+        SetPropText("BrushStyle", style, 1);
+    }
+    const bool chosen = ::SendDlgItemMessageA(m_hWnd, kStyleList, LB_GETCURSEL, 0, 0) != LB_ERR;
+    if (style == kNoStyle || !chosen) {
+        EnableHatchControls(kNoStyle, 0);
+        ::SetDlgItemTextA(m_hWnd, kStyleKindText, "");
+        return;
+    }
+    const unsigned short flags = ::BrushStyleGetFlags(m_pBrushStyles, static_cast<uint16_t>(style));
+    CString kind;
+    kind.LoadString(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
+    ::SetDlgItemTextA(m_hWnd, kStyleKindText, kind);
+    EnableHatchControls(style, flags);
+}
+
+void CBrushPage::EnableHatchControls(unsigned int style, unsigned short flags) {
+    const bool vector = style != kNoStyle && style != kSolid && (flags & kBrushVector) != 0;
+    const bool colored = style == kSolid || vector || (style != kNoStyle && (flags & kBrushTakesColor) != 0);
+    const auto enable = [this](int nID, bool on) { ::EnableWindow(::GetDlgItem(m_hWnd, nID), on); };
+    enable(kColorCombo, colored);
+    enable(kScaleEdit, vector);
+    enable(kAngleEdit, vector);
+    enable(kAngleUpDown, vector);
+    enable(kCrossBox, vector);
+    enable(kWindingButton, style != kNoStyle);
+    enable(kAlternateButton, style != kNoStyle);
+}

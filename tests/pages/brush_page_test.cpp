@@ -1,0 +1,258 @@
+// The Brush page in a real sheet: what it shows of equal and mixed fillings, which controls a style enables, what it
+// writes, and what its preview shows.
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <commctrl.h>
+
+#include <cmath>
+#include <map>
+#include <string>
+
+#include "drawcore/application.h"
+#include "drawcore/table.h"
+#include "drawcore/units.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/frame/entry.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+#include "orlo/host/viewport.h"
+#include "support/host_frame.h"
+#include "support/message_box_watcher.h"
+#include "support/pixels.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+enum : int {
+    kStyle = 32024,
+    kColor = 32006,
+    kScale = 105,
+    kAngle = 106,
+    kUpDown = 119,
+    kCross = 113,
+    kWinding = 115,
+    kAlternate = 116,
+    kName = 112,
+    kKind = 118,
+};
+constexpr unsigned int kBrush = 29002;
+constexpr unsigned int kRed = 0x0000FF, kBlue = 0xFF0000;
+constexpr double kDegree = 0.017453292519943295;
+
+class BrushPage : public ::testing::Test {
+protected:
+    BrushPage() : frame(kit.Drawing()), styles(::DrawingGetTable(kit.Drawing(), "_BrushStyles_")) {}
+
+    uint16_t Style(const char* name) { return ::TableEntryGetIDFirst(styles, nullptr, name); }
+
+    KitGraphic& Add(unsigned int style, unsigned int color, double scale, double angle, int cross, int mode) {
+        return kit.Add({{"BrushStyle", static_cast<double>(style)},
+                        {"BrushColor", static_cast<double>(color)},
+                        {"BrushScale", scale},
+                        {"BrushAngle", angle},
+                        {"HatchCross", cross},
+                        {"BrushDrawMode", mode}});
+    }
+
+    void AddMixed() {
+        Add(Style("Cross"), kRed, 2, 30 * kDegree, 1, 1);
+        Add(Style("Vertical"), kBlue, 3, 45 * kDegree, 0, 0);
+    }
+
+    int Run(const std::function<void(SheetDriver&, CGraphicPropertyPage&)>& script) {
+        TestSheet sheet(kit);
+        for (size_t i = 0; i < kit.Size(); ++i)
+            ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
+        return sheet.Run([&](SheetDriver& user) {
+            auto* page = sheet.Sheet().FindPage(kBrush);
+            ASSERT_NE(nullptr, page);
+            sheet.Sheet().SetActivePage(page);
+            script(user, static_cast<CGraphicPropertyPage&>(*page));
+        });
+    }
+
+    // By its item; the list is walked with the keyboard.
+    void ChooseStyle(SheetDriver& user, unsigned int style) {
+        user.Focus(kStyle);
+        user.Key(VK_HOME);
+        user.Key(VK_HOME);
+        const HWND list = user.Control(kStyle);
+        for (int i = 0; i < 40; ++i) {
+            char text[300] = "";
+            ::SendMessageA(list, LB_GETTEXT, user.Selection(kStyle), reinterpret_cast<LPARAM>(text));
+            if (std::strtoul(text, nullptr, 16) == style) return;
+            user.Key(VK_DOWN);
+        }
+        FAIL() << "no item of style " << style;
+    }
+
+    GraphicKit kit;
+    HostFrame frame;
+    TableStruct* styles;
+};
+
+TEST_F(BrushPage, ShowsAnEqualBrush) {
+    for (int i = 0; i < 2; ++i)
+        Add(Style("Diagonal cross"), kBlue, 2.5, 30 * kDegree, 1, 1);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ("Diagonal cross", user.Text(kName));
+                  EXPECT_EQ("Vector:", user.Text(kKind));
+                  EXPECT_EQ("2.5", user.Text(kScale));
+                  EXPECT_EQ(0u, user.Text(kAngle).find("30")) << user.Text(kAngle);
+                  EXPECT_EQ(BST_CHECKED, user.Check(kCross));
+                  EXPECT_EQ(BST_CHECKED, user.Check(kWinding));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kAlternate));
+                  EXPECT_EQ("00FF0000", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(BrushPage, MixedBrushesShowTheirMarkersAndSurviveOk) {
+    AddMixed();
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ("Indeterminate", user.Text(kName));
+                  EXPECT_EQ(-1, user.Selection(kStyle));
+                  EXPECT_EQ(-1, user.Selection(kColor));
+                  EXPECT_EQ("Indeterminate", user.Text(kScale));
+                  EXPECT_EQ("Indeterminate", user.Text(kAngle));
+                  EXPECT_EQ(BST_INDETERMINATE, user.Check(kCross));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kWinding));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kAlternate));
+                  EXPECT_FALSE(::IsWindowEnabled(user.Control(kColor)));
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(BrushPage, OneEditOverMixedBrushesChangesOneProperty) {
+    struct {
+        const char* property;
+        std::function<void(SheetDriver&)> edit;
+        double expected;
+    } const edits[] = {
+        {"BrushStyle", [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); },
+         static_cast<double>(Style("Horizontal"))},
+        {"BrushScale", [](SheetDriver& user) { user.Type(kScale, "4.5"); }, 4.5},
+        {"BrushAngle", [](SheetDriver& user) { user.Type(kAngle, "60"); }, 60 * kDegree},
+        {"HatchCross", [](SheetDriver& user) { user.Click(kCross); }, 0},
+        {"BrushDrawMode", [](SheetDriver& user) { user.Click(kAlternate); }, 0},
+        {"BrushColor", [](SheetDriver& user) { user.Choose(kColor, 0); }, 0x333333},
+    };
+    Add(Style("Cross"), kRed, 2, 30 * kDegree, 1, 1);
+    Add(Style("Cross"), kBlue, 3, 45 * kDegree, 0, 0);
+    const std::map<std::string, KitValue> before[] = {kit[0].properties, kit[1].properties};
+    for (const auto& edit : edits) {
+        SCOPED_TRACE(edit.property);
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      edit.edit(user);
+                      user.Ok();
+                  }));
+        for (size_t i : {0, 1}) {
+            for (const KitWrite& write : kit[i].writes)
+                EXPECT_EQ(edit.property, write.name);
+            EXPECT_NEAR(edit.expected, kit[i].Number(edit.property), 1e-9);
+            kit[i].properties = before[i];
+            kit[i].writes.clear();
+        }
+    }
+}
+
+TEST_F(BrushPage, TheStyleDecidesWhichControlsMakeSense) {
+    struct {
+        unsigned int style;
+        bool color, hatch, mode;
+        const char* kind;
+        const char* name;
+    } const rows[] = {{0, false, false, false, "", "No Brush"},
+                      {Style("Solid"), true, false, true, "Vector:", "Solid"},
+                      {Style("Cross"), true, true, true, "Vector:", "Cross"},
+                      {Style("Dots 50%"), true, false, true, "Bitmap:", "Dots 50%"},
+                      {Style("Brick"), false, false, true, "Bitmap:", "Brick"}};
+    Add(Style("Cross"), kRed, 1, 0, 0, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        const auto expect = [&](std::initializer_list<int> ids, bool enabled) {
+            for (const int id : ids)
+                EXPECT_EQ(enabled, ::IsWindowEnabled(user.Control(id)) != 0) << id;
+        };
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.name);
+            ChooseStyle(user, row.style);
+            expect({kColor}, row.color);
+            expect({kScale, kAngle, kUpDown, kCross}, row.hatch);
+            expect({kWinding, kAlternate}, row.mode);
+            EXPECT_EQ(row.kind, user.Text(kKind));
+            EXPECT_EQ(row.name, user.Text(kName));
+        }
+    });
+}
+
+TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
+    Add(Style("Cross"), kRed, 2, 30 * kDegree, 0, 0);
+    for (const char* scale : {"0", "1e9", "wide", ""}) {
+        SCOPED_TRACE(scale);
+        Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+            MessageBoxWatcher boxes;
+            user.Click(kCross);
+            user.Type(kScale, scale);
+            user.Ok();
+            EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
+            EXPECT_EQ(1u, boxes.Boxes().size());
+            EXPECT_EQ(user.Control(kScale), ::GetFocus());
+        });
+        EXPECT_EQ(0, kit.Writes());
+    }
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kAngle, "steep");
+                  user.Ok();
+              }));
+    EXPECT_NEAR(30 * kDegree, kit[0].Number("BrushAngle"), 1e-9);
+}
+
+TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
+    Add(Style("Cross"), kRed, 1000, 0, 0, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        const auto shown = [&](const char* property) {
+            double value = -1;
+            page.GetPropText(property, &value, 1);
+            return value;
+        };
+        EXPECT_NEAR(std::sqrt(2.0) / 20, shown("BrushScale"), 1e-6) << "two families of spacing 1";
+        ChooseStyle(user, Style("Vertical"));
+        EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6);
+        user.Type(kAngle, "90");
+        EXPECT_NEAR(90 * kDegree, shown("BrushAngle"), 1e-9);
+        user.Type(kScale, "7");
+        EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6) << "never the user's";
+    });
+    EXPECT_EQ(0, kit.Writes());
+}
+
+// The overlap of the two squares is filled in winding mode only.
+TEST_F(BrushPage, ThePreviewShowsTheDrawMode) {
+    Add(Style("Solid"), kRed, 1, 0, 0, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        const auto colors = [&] {
+            Pixels pixels(101, 101);
+            pixels.Clear(RGB(255, 255, 255));
+            CRect rect(0, 0, 101, 101);
+            CDC dc;
+            dc.Attach(pixels.DC());
+            ViewportStruct* viewport = ::ViewportNewEx();
+            page.DrawPreview(&dc, viewport, rect);
+            ::ViewportDispose(&viewport);
+            dc.Detach();
+            return std::pair(pixels.At(20, 35), pixels.At(50, 50)); // one square alone; the overlap
+        };
+        EXPECT_EQ(kRed, colors().first);
+        EXPECT_NE(kRed, colors().second);
+        user.Click(kWinding);
+        EXPECT_EQ(kRed, colors().first);
+        EXPECT_EQ(kRed, colors().second);
+    });
+}
+
+} // namespace

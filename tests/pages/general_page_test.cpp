@@ -1,0 +1,231 @@
+// The General page in a real sheet: layer and attribute text of a selection, and the style part over a style's graphic.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "drawcore/drawing.h"
+#include "drawcore/table.h"
+#include "orlo/frame/entry.h"
+#include "orlo/host/block.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+#include "support/host_frame.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+enum : int { kInfo = 101, kNew = 102, kDelete = 103, kStyleGroup = 104, kLayer = 32008, kStyle = 32015 };
+constexpr unsigned long kWithStylePart = 0xFFFFFFFB;
+
+bool IsEnabled(SheetDriver& user, int id) {
+    return ::IsWindowEnabled(user.Control(id)) != 0;
+}
+
+class GeneralPage : public ::testing::Test {
+protected:
+    GeneralPage() : frame(kit.Drawing()), layers(::DrawingGetTable(kit.Drawing(), "_Layers_")) {
+        walls = ::TableEntryAdd(layers, "Walls", nullptr);
+        doors = ::TableEntryAdd(layers, "Doors", nullptr);
+    }
+
+    void Add(unsigned int layer, const char* info) {
+        kit.Add({{"Layer", static_cast<double>(layer)}, {"Info", info}});
+    }
+
+    int Run(const SheetDriver::Script& script) { return TestSheet(kit).Run(script); }
+
+    // What the layer combo shows, without its key.
+    static std::string LayerShown(SheetDriver& user) {
+        const int index = user.Selection(kLayer);
+        return index < 0 ? "" : user.ItemText(kLayer, index).substr(9);
+    }
+
+    GraphicKit kit;
+    HostFrame frame;
+    TableStruct* layers;
+    uint16_t walls, doors;
+};
+
+TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
+    Add(doors, "oak\r\npainted");
+    Add(doors, "oak\r\npainted");
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
+                  EXPECT_EQ("Doors", LayerShown(user));
+                  EXPECT_EQ("oak\r\npainted", user.Text(kInfo));
+                  for (const int id : {int{kStyle}, int{kNew}, int{kDelete}, int{kStyleGroup}}) {
+                      EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
+                      EXPECT_FALSE(IsEnabled(user, id)) << id;
+                  }
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(GeneralPage, KeepsMixedValuesThatNobodyTouched) {
+    Add(walls, "a");
+    Add(doors, "b");
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
+                  EXPECT_EQ(-1, user.Selection(kLayer));
+                  EXPECT_EQ("<Indeterminate>", user.Text(kInfo));
+                  user.Type(kInfo, "x");
+                  user.Type(kInfo, "<Indeterminate>"); // the same as untouched
+                  user.Ok();
+              }));
+    EXPECT_EQ("a", kit[0].Text("Info"));
+    EXPECT_EQ("b", kit[1].Text("Info"));
+    EXPECT_EQ(walls, kit[0].Number("Layer"));
+}
+
+TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
+    Add(walls, "a");
+    Add(doors, "b");
+    Run([&](SheetDriver& user) {
+        user.Type(kInfo, "both");
+        user.Ok();
+    });
+    EXPECT_EQ("both", kit[0].Text("Info"));
+    EXPECT_EQ("both", kit[1].Text("Info"));
+    EXPECT_EQ(walls, kit[0].Number("Layer"));
+    EXPECT_EQ(doors, kit[1].Number("Layer"));
+    Run([&](SheetDriver& user) {
+        user.Choose(kLayer, 1);
+        EXPECT_EQ("Walls", LayerShown(user));
+        user.Ok();
+    });
+    EXPECT_EQ(walls, kit[1].Number("Layer"));
+    Run([&](SheetDriver& user) {
+        user.Choose(kLayer, 2);
+        user.Cancel();
+    });
+    EXPECT_EQ(walls, kit[1].Number("Layer"));
+}
+
+// Three styles of one tree, one of them reserved, and a block of another tree.
+class StylePart : public GeneralPage {
+protected:
+    StylePart() : styles(::DrawingGetTable(kit.Drawing(), "_Blocks_")) {
+        beam = AddStyle("Beam", "Steel");
+        column = AddStyle("Column", "Steel");
+        standard = AddStyle("Standard", "Steel");
+        AddStyle("Tree", "Garden");
+    }
+
+    uint16_t AddStyle(const char* name, const char* tree) {
+        GraphicStruct* group = ::GraphicNewEx(kGraphicVertices, 0, 1);
+        ::GraphicAdd(group, ::GraphicNewEx(kGraphicPenBrush, 0, 1));
+        group->pszStyleName = tree;
+        return ::BlocksAddBlock(styles, name, group);
+    }
+
+    int RunOver(uint16_t style, const SheetDriver::Script& script) {
+        frame.currentStyle = style;
+        ::PropPageInit();
+        const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
+            nullptr, nullptr, kit.Drawing(), ::BlockGetGraphic(styles, style), kWithStylePart));
+        return SheetDriver().Run(*sheet, script);
+    }
+
+    // Back to the layer: the next control would be the Delete button.
+    static void Leave(SheetDriver& user, const char* name) {
+        user.Type(kStyle, name);
+        user.Key(VK_TAB, true);
+    }
+
+    TableStruct* styles;
+    uint16_t beam, column, standard;
+};
+
+TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
+    RunOver(beam, [&](SheetDriver& user) {
+        EXPECT_EQ("Beam", user.ItemText(kStyle, 0));
+        EXPECT_EQ("Column", user.ItemText(kStyle, 1));
+        EXPECT_EQ("Standard", user.ItemText(kStyle, 2));
+        EXPECT_EQ("", user.ItemText(kStyle, 3));
+        struct {
+            const char* name;
+            bool canMake, canDelete;
+        } const rows[] = {{"Girder", true, false},    {"Column", false, true},  {"column", false, true},
+                          {"Standard", false, false}, {"Outline", true, false}, {"", false, false}};
+        for (const auto& row : rows) {
+            user.Type(kStyle, row.name);
+            EXPECT_EQ(row.canMake, IsEnabled(user, kNew)) << row.name;
+            EXPECT_EQ(row.canDelete, IsEnabled(user, kDelete)) << row.name;
+        }
+        user.Type(kStyle, std::string(60, 'x'));
+        EXPECT_EQ(32u, user.Text(kStyle).size());
+        user.Type(kStyle, "Beam");
+    });
+}
+
+TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
+    EXPECT_EQ(1000 + column, RunOver(beam, [](SheetDriver& user) { Leave(user, "Column"); }));
+    EXPECT_EQ(1000 + beam, RunOver(beam, [](SheetDriver& user) { Leave(user, "Beam"); }));
+    EXPECT_EQ(3000 + column, RunOver(beam, [](SheetDriver& user) {
+                  user.Type(kStyle, "Column");
+                  user.Ok();
+              }));
+    EXPECT_EQ(2000 + column, RunOver(beam, [](SheetDriver& user) {
+                  user.Type(kStyle, "Column");
+                  user.Click(kDelete);
+              }));
+    EXPECT_NE(0, ::BlocksFindBlock(styles, "Column")) << "deleting is the host's";
+    EXPECT_EQ(IDCANCEL, RunOver(beam, [](SheetDriver& user) {
+                  user.Type(kStyle, "Column");
+                  user.Cancel();
+              }));
+    EXPECT_EQ(IDOK, RunOver(beam, [](SheetDriver& user) {
+                  user.Focus(kStyle);
+                  user.Type(kStyle, "Beam");
+                  user.Key(VK_RETURN); // OK, with the focus where it is
+              }));
+}
+
+TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
+    EXPECT_EQ(1000, RunOver(beam, [](SheetDriver& user) {
+                  user.Type(kStyle, "Girder");
+                  user.Click(kNew);
+              }));
+    const uint16_t girder = ::BlocksFindBlock(styles, "Girder");
+    ASSERT_NE(0, girder);
+    GraphicStruct* copy = ::BlockGetGraphic(styles, girder);
+    EXPECT_NE(::BlockGetGraphic(styles, beam), copy);
+    uint32_t position;
+    EXPECT_NE(nullptr, ::GraphicFirst(copy, &position, 1, 0xFFFFFFFF));
+}
+
+TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
+    RunOver(column, [](SheetDriver& user) {
+        user.Type(kStyle, "Girder");
+        user.Focus(kInfo);
+        EXPECT_EQ("Column", user.Text(kStyle));
+        EXPECT_FALSE(IsEnabled(user, kNew));
+
+        user.Type(kStyle, "");
+        user.Focus(kInfo);
+        EXPECT_EQ("Column", user.Text(kStyle));
+
+        user.Type(kStyle, "Girder");
+        user.Key(VK_RETURN);
+        ASSERT_TRUE(::IsWindow(user.Sheet()));
+        EXPECT_EQ("Girder", user.Text(kStyle)) << "refused: the name stays for the user to look at";
+        EXPECT_TRUE(::IsChild(user.Control(kStyle), ::GetFocus()));
+
+        user.Type(kStyle, "Beam"); // listed, and not the current one
+        user.Key(VK_RETURN);
+        ASSERT_TRUE(::IsWindow(user.Sheet()));
+        user.Type(kStyle, "Column");
+    });
+}
+
+TEST_F(StylePart, AnotherProgramInFrontChoosesNothing) {
+    EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
+                  user.Type(kStyle, "Beam");
+                  ::SetFocus(nullptr);
+                  user.Pump();
+                  EXPECT_EQ("Beam", user.Text(kStyle));
+              }));
+}
+
+} // namespace
