@@ -18,12 +18,16 @@
 namespace {
 
 constexpr int kColorCombo = 32005; // which the window class turns into a colour control
-constexpr DWORD kComboStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
+constexpr DWORD kComboStyle =
+    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
 
 // The parent of both lists: counts what they ask it for.
 class Parent : public CWnd {
 public:
-    Parent() { CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 600, nullptr, nullptr); }
+    Parent() {
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 600, nullptr,
+                 nullptr);
+    }
 
     HWND Add(const char* className, int id) {
         return ::CreateWindowExA(0, className, "", kComboStyle, 10, 10, 200, 320, m_hWnd,
@@ -44,7 +48,8 @@ class Colors {
 public:
     explicit Colors(int n) : m_drawing(::DrawingNew()), m_table(::DrawingGetTable(m_drawing, "_Colors_")) {
         int cookie;
-        while (const uint16_t id = ::TableEntryFirst(m_table, &cookie)) ::TableEntryDelete(m_table, id);
+        while (const uint16_t id = ::TableEntryFirst(m_table, &cookie))
+            ::TableEntryDelete(m_table, id);
         std::mt19937 random(7);
         for (int i = 0; i < n; ++i) {
             COLORREF color = random() & 0xFFFFFF;
@@ -74,7 +79,8 @@ std::vector<std::string> ItemsOf(HWND combo) {
 void InsertSorted(HWND combo, const std::vector<std::string>& items) {
     ::SendMessageA(combo, WM_SETREDRAW, FALSE, 0);
     ::SendMessageA(combo, CB_RESETCONTENT, 0, 0);
-    for (const std::string& item : items) ::SendMessageA(combo, CB_INSERTSTRING, -1, reinterpret_cast<LPARAM>(item.c_str()));
+    for (const std::string& item : items)
+        ::SendMessageA(combo, CB_INSERTSTRING, -1, reinterpret_cast<LPARAM>(item.c_str()));
     ::SendMessageA(combo, WM_SETREDRAW, TRUE, 0);
 }
 
@@ -100,7 +106,8 @@ Fill FillWith(int n) {
     ::SendMessageA(ours, CB_SHOWDROPDOWN, TRUE, 0);
     ::RedrawWindow(parent.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        ::DispatchMessageA(&message);
     result.draws = parent.draws;
     ::SendMessageA(ours, CB_SHOWDROPDOWN, FALSE, 0);
     return result;

@@ -14,7 +14,11 @@ struct Bench {
     void (*run)();
 };
 
-constexpr Bench kBenches[] = {{"merge", BenchMerge}, {"open", BenchOpen}, {"preview", BenchPreview}, {"fill", BenchFill}};
+constexpr Bench kBenches[] = {{"merge", BenchMerge},
+                              {"open", BenchOpen},
+                              {"pages", BenchPages},
+                              {"preview", BenchPreview},
+                              {"fill", BenchFill}};
 
 bool Wanted(const char* name, int argc, char** argv) {
     for (int i = 1; i < argc; ++i)

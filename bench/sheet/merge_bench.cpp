@@ -23,7 +23,8 @@ class Crowd {
 public:
     explicit Crowd(int n) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
         for (int i = 0; i < n; ++i)
-            ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1)));
+            ::SelectionAdd(m_selection,
+                           ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1)));
     }
     ~Crowd() {
         ::GraphicDispose(&m_selection);
@@ -48,7 +49,8 @@ void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
          graphic = ::GraphicNext(set, &position, 1, 0xFFFFFFFF)) {
         int32_t number;
         const PropertyTable* table = ::GraphicGetVtbl(graphic);
-        if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number)) visit(graphic, table, number);
+        if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number))
+            visit(graphic, table, number);
     }
 }
 
@@ -81,16 +83,18 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
     results.writeNumber = Compare(
         kRounds, [&] { page.SetPropText("PenWidth", width, 0); },
         [&] {
-            BareLoop(selection, "PenWidth", [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
-                table->PropSet(graphic, number, VT_R8, &width);
-            });
+            BareLoop(selection, "PenWidth",
+                     [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                         table->PropSet(graphic, number, VT_R8, &width);
+                     });
         });
     results.writeText = Compare(
         kRounds, [&] { page.SetPropText("Info", info, 0); },
         [&] {
-            BareLoop(selection, "Info", [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
-                table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
-            });
+            BareLoop(selection, "Info",
+                     [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                         table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
+                     });
         });
     results.number = Compare(
         kRounds, [&] { page.GetPropText("PenWidth", &width, 0); }, [&] { BareGet(selection, "PenWidth"); });

@@ -19,7 +19,8 @@ constexpr unsigned int kPen = 29001;
 class BarePane : public CWnd {
 public:
     BarePane(HWND parent, GraphicStruct* graphic) : m_graphic(graphic), m_viewport(::ViewportNewEx()) {
-        CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 100, 100, parent, nullptr);
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 100, 100, parent,
+                 nullptr);
     }
     ~BarePane() override { ::ViewportDispose(&m_viewport); }
 
@@ -70,7 +71,8 @@ void BenchPreview() {
         BarePane bare(user.Sheet(), static_cast<GraphicStruct*>(page->GetFirstObject(&position, 1)));
         const auto repeat = [](auto work) {
             return [work] {
-                for (int i = 0; i < kPaints; ++i) work();
+                for (int i = 0; i < kPaints; ++i)
+                    work();
             };
         };
         const auto refresh = repeat([&] { sheet.Sheet().UpdatePreview(1); });

@@ -3,5 +3,6 @@
 
 void BenchMerge();
 void BenchOpen();
+void BenchPages();
 void BenchPreview();
 void BenchFill();

@@ -1,0 +1,84 @@
+#include "bench/sheet/open_sheet.h"
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <array>
+
+#include "orlo/frame/entry.h"
+
+namespace {
+
+constexpr UINT kOpened = WM_APP + 1;
+constexpr int kFirstSystemPage = 600; // of system_pages.rc
+constexpr int kSystemPages = 5;
+
+INT_PTR CALLBACK PageProc(HWND, UINT message, WPARAM, LPARAM) {
+    return message == WM_INITDIALOG;
+}
+
+} // namespace
+
+LoopWatch::LoopWatch() {
+    CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr);
+}
+
+void LoopWatch::Await(std::function<void(HWND sheet)> act) {
+    m_act = std::move(act);
+    PostMessage(kOpened);
+}
+
+LRESULT LoopWatch::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != kOpened) return CWnd::WindowProc(message, wParam, lParam);
+    m_act(::GetActiveWindow());
+    return 0;
+}
+
+void PaintSheet(HWND sheet) {
+    ::RedrawWindow(sheet, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND)>& act) {
+    std::array<PROPSHEETPAGEA, kSystemPages> templates{};
+    for (int i = 0; i < kSystemPages; ++i) {
+        templates[i].dwSize = sizeof templates[i];
+        templates[i].hInstance = ::GetModuleHandleA(nullptr);
+        templates[i].pszTemplate = MAKEINTRESOURCEA(kFirstSystemPage + i);
+        templates[i].pfnDlgProc = PageProc;
+    }
+    PROPSHEETHEADERA header = {};
+    header.dwSize = sizeof header;
+    header.dwFlags = PSH_PROPSHEETPAGE | PSH_NOAPPLYNOW;
+    header.hInstance = ::GetModuleHandleA(nullptr);
+    header.pszCaption = "Properties";
+    header.nPages = static_cast<UINT>(pages);
+    header.ppsp = templates.data();
+    watch.Await([&](HWND sheet) {
+        act(sheet);
+        ::SendMessageA(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+    });
+    ::PropertySheetA(&header);
+}
+
+void ShowSystemPage(HWND sheet, int page) {
+    ::SendMessageA(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
+}
+
+std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing,
+                                                GraphicStruct* selection) {
+    std::unique_ptr<CGraphicPropertySheet> sheet(
+        ::InitGraphicPropertySheet(owner, nullptr, drawing, selection, 0xFFFFFFFF));
+    uint32_t position;
+    for (GraphicStruct* graphic = ::GraphicFirst(selection, &position, 1, 0xFFFFFFFF); graphic != nullptr;
+         graphic = ::GraphicNext(selection, &position, 1, 0xFFFFFFFF))
+        ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
+    return sheet;
+}
+
+void RunSheet(LoopWatch& watch, CGraphicPropertySheet& sheet, const std::function<void(HWND)>& act) {
+    watch.Await([&](HWND window) {
+        act(window);
+        ::SendMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    });
+    sheet.DoModal();
+}

@@ -1,0 +1,100 @@
+// The sheet with all five pages over real graphics of every kind, against the system's own property sheet with the same
+// templates: opening it, changing pages, and many pages against few.
+
+#include "bench/sheet/sheet_bench.h"
+
+#include <string>
+
+#include "bench/paired_timer.h"
+#include "bench/sheet/mixed_crowd.h"
+#include "bench/sheet/open_sheet.h"
+#include "orlo/frame/entry.h"
+#include "support/host_frame.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr int kRounds = 15;
+constexpr int kPages = 5;
+constexpr int kManyPages = 20;
+
+struct Results {
+    Pair open, change;
+};
+
+// Shows each page once, painted.
+template <class Show>
+void WalkPages(HWND window, Show show) {
+    for (int page = 0; page < kPages; ++page) {
+        show(page);
+        PaintSheet(window);
+    }
+}
+
+Pair ComparePageChanges(LoopWatch& watch, const MixedCrowd& crowd, HostFrame& frame, int rounds) {
+    const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+    Pair result{};
+    RunSheet(watch, *sheet, [&](HWND ours) {
+        LoopWatch inner;
+        RunSystemSheet(inner, kPages, [&](HWND systems) {
+            result = Compare(
+                rounds, [&] { WalkPages(ours, [&](int page) { sheet->SetActivePage(page); }); },
+                [&] { WalkPages(systems, [&](int page) { ShowSystemPage(systems, page); }); });
+        });
+    });
+    return result;
+}
+
+Results Measure(int n) {
+    const MixedCrowd crowd(n);
+    HostFrame frame(crowd.Drawing());
+    LoopWatch watch;
+    const int rounds = n > 10000 ? 3 : kRounds;
+    Results results{};
+    results.open = Compare(
+        rounds,
+        [&] {
+            const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+            RunSheet(watch, *sheet, PaintSheet);
+        },
+        [&] { RunSystemSheet(watch, kPages, PaintSheet); });
+    results.change = ComparePageChanges(watch, crowd, frame, rounds);
+    return results;
+}
+
+// Pages that nobody looks at cost next to nothing.
+double ManyPages() {
+    const MixedCrowd crowd(3);
+    HostFrame frame(crowd.Drawing());
+    LoopWatch watch;
+    const auto open = [&](int pages) {
+        const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+        while (sheet->GetPageCount() < pages)
+            sheet->AddPage(new ExchangePage([](CDataExchange*) {}));
+        RunSheet(watch, *sheet, PaintSheet);
+    };
+    return Compare(
+               kRounds, [&] { open(kManyPages); }, [&] { open(kPages); })
+        .ratio;
+}
+
+} // namespace
+
+void BenchPages() {
+    ::PropPageInit();
+    Results before{};
+    for (const int n : {3, 1000, 10000, 100000}) { // 3: one of each kind
+        const Results results = Measure(n);
+        const std::string number = std::to_string(n);
+        Print(("open_five_pages_" + number).c_str(), results.open.ratio, "x_system_property_sheet");
+        Print(("change_five_pages_" + number).c_str(), results.change.ratio, "x_system_property_sheet");
+        if (n > 1000) {
+            Print(("open_five_pages_growth_to_" + number).c_str(), results.open.seconds / before.open.seconds,
+                  "x_for_10n");
+            Print(("change_five_pages_growth_to_" + number).c_str(),
+                  results.change.seconds / before.change.seconds, "x_for_10n");
+        }
+        before = results;
+    }
+    Print("open_twenty_pages", ManyPages(), "x_five_pages");
+}
