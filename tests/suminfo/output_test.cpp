@@ -137,7 +137,6 @@ TEST(Check, BareStreams) {
 TEST(CommandLine, WrongOnesExitWithTwo) {
     const std::vector<std::string> wrong[] = {
         {},
-        {"shov", "x.doc"},
         {"show"},
         {"show", "--colour", "x.doc"},
         {"set", "x.doc"},
@@ -153,6 +152,9 @@ TEST(CommandLine, WrongOnesExitWithTwo) {
         EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(line);
         EXPECT_NE(run.err, "") << testing::PrintToString(line);
     }
+    const Outcome unknown = RunSuminfo({"shov", "x.doc"});
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_EQ(unknown.err, "'shov' is no command; suminfo --help lists them\n");
 }
 
 TEST(CommandLine, HelpHasExamples) {

@@ -170,6 +170,17 @@ TEST(Show, OtherFilesAreRefusedByName) {
                        "suminfo: .: is a folder; -r looks into folders\n");
 }
 
+TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
+    const char* cut = "mut-03-truncated--789dd8.bin";
+    Outcome run = RunSuminfo({"show", "--stream", cut, "fn-et--SummaryInformation--b68908.bin"}, kStreams);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.out.find("    (damaged; see suminfo check)\n"), std::string::npos) << run.out;
+    run = RunSuminfo({"show", "--json", "--stream", cut}, kStreams);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(RunSuminfo({"show", "--stream", "fn-et--SummaryInformation--b68908.bin"}, kStreams).exitCode,
+              0);
+}
+
 TEST(Show, NamesAreNotLimitedToOneCodePage) {
     const Folder folder;
     folder.Copy(kDocuments / "test11--695187.doc", "Пример 例.doc");

@@ -79,6 +79,10 @@ public:
     }
 
     Parsed Parse(std::vector<std::string> arguments) {
+        if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && !IsCommand(arguments.front())) {
+            std::cerr << "'" << arguments.front() << "' is no command; suminfo --help lists them\n";
+            return {std::nullopt, kUsage};
+        }
         std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
         try {
             app_.parse(arguments);
@@ -96,6 +100,10 @@ public:
     }
 
 private:
+    bool IsCommand(const std::string& word) {
+        const auto hasName = [&word](CLI::App* command) { return command->get_name() == word; };
+        return !app_.get_subcommands(hasName).empty();
+    }
     CLI::App* Add(const char* name, Command command, const char* description) {
         CLI::App* sub = app_.add_subcommand(name, description);
         sub->callback([this, command] { line_.command = command; });

@@ -21,7 +21,7 @@ struct Assignment {
 
 struct Report {
     std::string text;
-    bool clean = true; // nothing was missing (show), nothing irregular was found (check)
+    bool clean = true; // all could be read (show), nothing irregular was found (check)
 };
 
 // Tables for a person, with the file's name above.

@@ -53,10 +53,10 @@ std::string SectionTable(const orlo::ImageSection& section) {
     return "  " + Heading(section) + "\n" + Aligned(lines);
 }
 
-std::string StreamTable(const NamedStream& stream) {
+void AddTable(const NamedStream& stream, Report& report) {
     std::vector<orlo::Finding> findings;
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
-    std::string table;
+    std::string& table = report.text;
     // The usual streams are told by their sections; others need their name.
     const bool inner = stream.name.find('/') != std::string::npos;
     if (inner || !set)
@@ -72,7 +72,7 @@ std::string StreamTable(const NamedStream& stream) {
     });
     if (!stream.error.empty()) table += "    (cut: " + stream.error + ")\n";
     if (damaged != 0) table += "    (damaged; see suminfo check)\n";
-    return table;
+    report.clean = report.clean && stream.error.empty() && damaged == 0;
 }
 
 } // namespace
@@ -81,10 +81,8 @@ Report ShowTable(const Source& source) {
     Report report = {source.file + "\n"};
     const std::vector<NamedStream> sets = SetsOf(source);
     if (sets.empty()) report.text += "  no property sets\n";
-    for (const NamedStream& stream : sets) {
-        report.text += StreamTable(stream);
-        report.clean = report.clean && stream.error.empty();
-    }
+    for (const NamedStream& stream : sets)
+        AddTable(stream, report);
     return report;
 }
 
@@ -92,15 +90,17 @@ Report ShowJson(const Source& source) {
     Json json = {{"file", source.file}};
     const std::vector<NamedStream> sets = SetsOf(source);
     Report report;
+    const auto keep = [&report](Json stream) {
+        report.clean = report.clean && !stream.contains("error") && stream["damage"].empty();
+        return stream;
+    };
     if (source.bare) {
-        json.update(StreamJson(sets.front()));
+        json.update(keep(StreamJson(sets.front())));
         json["stream"] = nullptr;
     } else {
         Json& list = json["property_sets"] = Json::array();
-        for (const NamedStream& stream : sets) {
-            list.push_back(StreamJson(stream));
-            report.clean = report.clean && stream.error.empty();
-        }
+        for (const NamedStream& stream : sets)
+            list.push_back(keep(StreamJson(stream)));
     }
     report.text = json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
     return report;
