@@ -113,6 +113,13 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
+    // For a derived class that replaces OnCreate; each false on failure. The first: the system's handling of the
+    // message, the caption, and m_nCurPage one of the pages.
+    bool BeginCreate();
+    // Takes a tab per page, in m_font. It is as wide as the place says.
+    bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
+    void FocusActivePage(); // its first control
+
     // Pixels; set when the first page has its window, from 50 x 14, 4 x 4 and 4 of its dialog units.
     CSize m_sizeButton;
     CSize m_sizeTabMargin;
@@ -132,7 +139,6 @@ private:
     BOOL CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwExStyle);
     void Open();
     bool CreateButtons();
-    bool CreateTabRow();
     void MeasureUnits();
     void LayOut();
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
@@ -144,7 +150,6 @@ private:
     bool ShowPage(int nPage, const CRect& place);
     CRect ActivePlace() const; // of the active page, client coordinates; empty: it has no window
     bool HasFocus(const CPropertyPage* page) const;
-    void FocusActivePage();
     void EnableApplyButton();
     static int PageStep(const MSG& msg);
 

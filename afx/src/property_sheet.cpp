@@ -84,16 +84,24 @@ void CPropertySheet::EndDialog(int nEndID) {
     CloseModal(nEndID);
 }
 
-int CPropertySheet::OnCreate(LPCREATESTRUCT) {
-    if (Default() == -1) return -1;
-    if (m_pages.empty()) return -1;
+bool CPropertySheet::BeginCreate() {
+    if (Default() == -1 || m_pages.empty()) return false;
     SetWindowText(m_strCaption);
     m_nCurPage = std::clamp(m_nCurPage, 0, GetPageCount() - 1);
+    return true;
+}
+
+int CPropertySheet::OnCreate(LPCREATESTRUCT) {
+    if (!BeginCreate()) return -1;
     const LOGFONTA font = AfxDialogTemplate(GetActivePage()->m_lpszTemplateName).Font();
     m_font.DeleteObject();
     m_font.CreateFontIndirect(&font);
     if (!m_bModeless && !CreateButtons()) return -1;
-    if (!CreateTabRow()) return -1;
+    const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows;
+    // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
+    const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
+    if (!CreateTabRow(style, nowhere, AFX_IDC_TAB_CONTROL)) return -1;
     if (!ActivatePage(m_nCurPage)) return -1;
     MeasureUnits();
     return 0;
@@ -155,7 +163,7 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
     return LeaveFor(nPage) && ActivatePage(nPage);
 }
 
-// Whether the active page lets itself be left for that one.
+// Whether the active page lets itself be left for that one; -1: for good. One without a window has nothing to save.
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
@@ -224,7 +232,7 @@ void CPropertySheet::FocusActivePage() {
 
 void CPropertySheet::OnOK() {
     CPropertyPage* page = GetActivePage();
-    if (page == nullptr || !page->OnKillActive()) return;
+    if (page == nullptr || !LeaveFor(-1)) return;
     page->OnOK();
     if (!m_bModeless) EndDialog(IDOK);
 }

@@ -45,14 +45,8 @@ bool CPropertySheet::CreateButtons() {
     return true;
 }
 
-bool CPropertySheet::CreateTabRow() {
-    const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
-    // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
-    const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
-    if (!m_tabRow.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows, nowhere,
-                         this, AFX_IDC_TAB_CONTROL)) {
-        return false;
-    }
+bool CPropertySheet::CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID) {
+    if (!m_tabRow.Create(dwStyle, place, this, nID)) return false;
     m_tabRow.SetFont(&m_font, FALSE);
     for (int i = 0; i < GetPageCount(); ++i)
         m_tabRow.InsertItem(i, GetPage(i)->GetTabText());
@@ -109,12 +103,14 @@ void CPropertySheet::OnPaint() {
     CRect frame = ActivePlace();
     if (frame.IsRectEmpty()) return;
     frame.InflateRect(1, 1);
-    if (m_tabRow.m_hWnd !=
-        nullptr) { // as wide as the tabs above, where the buttons below need more than the page
+    UINT sides = BF_RECT;
+    if (m_tabRow.m_hWnd != nullptr) {
+        // As wide as the tabs above, where the buttons below need more than the page. The tabs are its upper side.
         CRect tabs;
         m_tabRow.GetWindowRect(&tabs);
         ScreenToClient(&tabs);
         frame.right = tabs.right;
+        if (m_tabRow.IsWindowVisible()) sides &= ~static_cast<UINT>(BF_TOP);
     }
-    ::DrawEdge(dc.m_hDC, frame, EDGE_RAISED, BF_LEFT | BF_RIGHT | BF_BOTTOM | BF_SOFT);
+    ::DrawEdge(dc.m_hDC, frame, EDGE_RAISED, sides | BF_SOFT);
 }

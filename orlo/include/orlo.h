@@ -2,7 +2,8 @@
 //
 //   frame/entry.h opens a sheet over a selection; frame/graphic_property_page.h is the base of a host's own pages, which
 //   bind properties by binding/ddp.h and values by exchange/ddx.h. controls/ has the combos and lists, propset/ and
-//   summary/ the property sets of documents. host/host.h is what the library asks of its host.
+//   summary/ the property sets of documents, wizard/ a sheet that walks its pages. host/host.h is what the library asks of
+//   its host.
 #pragma once
 
 #include "orlo/binding/ddp.h"
@@ -40,3 +41,4 @@
 #include "orlo/summary/ole_summary.h"
 #include "orlo/summary/summary_info.h"
 #include "orlo/summary/thumbnail.h"
+#include "orlo/wizard/wizard_sheet.h"

@@ -22,6 +22,12 @@
 #define IDS_BITMAP_BRUSH 109
 #define IDS_VECTOR_BRUSH 110
 
+// Buttons of the wizard: text, line feed, width in dialog units; the last is the text alone.
+#define IDS_WIZARD_CANCEL 111
+#define IDS_WIZARD_BACK 112
+#define IDS_WIZARD_NEXT 113
+#define IDS_WIZARD_FINISH 114
+
 // Messages of the exchange functions.
 #define IDS_ENTER_ANGLE 120
 #define IDS_ENTER_FONT_SIZE 121

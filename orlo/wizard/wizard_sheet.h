@@ -1,0 +1,64 @@
+// A property sheet that is walked like a book: one page at a time by Back and Next, which is Finish on the last page. The
+// tab row is there, but hidden.
+//
+//   CWizardSheet wizard("New style", pParent, 0);
+//   wizard.AddPage(&name);                        // pages are the host's, as in any sheet
+//   wizard.AddPage(&summary);
+//   if (wizard.DoModal() == IDOK) ...
+//
+// A page is left forwards and backwards only if its OnKillActive says so; one that refuses stays, with the buttons as they
+// were, and so does one whose successor cannot be made. Finish calls OnOK of all pages, the first one first, and then does
+// what OK does in every sheet: the last page is asked to be left, and gets its OnOK once more. A host that must not act
+// before the last page has agreed therefore acts behind DoModal, not in OnOK.
+//
+// The sheet is as large as the page that it opens on. It opens with Back disabled and with "Next >", whatever page that is,
+// until the first move. The buttons' texts are strings 111 to 114: the host's, if it has them, else the library's, which are
+// found behind PropPageInit. A modeless one has no buttons; its owner sends it the commands 100 (back) and 101 (next).
+#pragma once
+
+#include <afxdlgs.h>
+
+#include "orlo/export.h"
+
+class ORLO_API CWizardSheet : public CPropertySheet {
+    DECLARE_DYNAMIC(CWizardSheet)
+
+public:
+    // As in the base: iSelectPage is the page that it opens on.
+    CWizardSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage);
+    CWizardSheet(const char* pszCaption, CWnd* pParentWnd, UINT iSelectPage);
+    ~CWizardSheet() override;
+
+protected:
+    static constexpr int kTextSize = 256;
+
+    // A string up to its line feed, into kTextSize bytes. 0: there is none, or nothing before the line feed.
+    int LoadButtonText(UINT nID, char* pszBuffer);
+    // A button that has the focus gives it to the control nNewFocusID first, unless that is -1 or not there.
+    void EnableButton(HWND hWndSheet, int nID, BOOL bEnable, int nNewFocusID = -1);
+    // What the buttons are on that page.
+    void SetButtonStates(int nPage);
+    // 0 on failure.
+    int CreateButtons();
+    // Sizes the sheet to the active page or to the row of buttons, whichever is wider, and centres it.
+    void RecalcWizardLayout();
+    void OnFinish();
+
+    afx_msg int OnCreate(CREATESTRUCT* pCreateStruct);
+    afx_msg void OnBack();
+    afx_msg void OnNext();
+    afx_msg void OnEnter();
+    afx_msg LRESULT OnActivateMessage(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    struct Row; // the buttons' widths
+
+    void TrimSystemMenu();
+    void TakePageFont();
+    void MeasureUnits();
+    int ButtonWidth(UINT nIDText);
+    Row MeasureRow();
+    void PlaceRow(const Row& row, int cxClient, int cyClient);
+    void MoveTo(int nPage);
+};

@@ -1,0 +1,350 @@
+// The wizard, walked as a person walks it: by mouse and by keyboard.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "orlo.h"
+#include "support/object_counts.h"
+#include "support/sheet_driver.h"
+
+namespace {
+
+constexpr int kNarrow = 600, kWide = 601, kNoTemplate = 699;
+constexpr int kField = 1010, kBack = 100, kNext = 101, kTabs = 301;
+
+class CStep : public CPropertyPage {
+public:
+    CStep(char name, std::string& log, UINT nIDTemplate)
+        : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
+    bool accepts = true;
+
+    BOOL OnKillActive() override {
+        if (!accepts) Log('r');
+        return accepts && CPropertyPage::OnKillActive();
+    }
+    void OnOK() override { Log('o'); }
+
+private:
+    void Log(char what) { m_log += {m_name, what, ' '}; }
+
+    char m_name;
+    std::string& m_log;
+};
+
+std::string WindowText(HWND window) {
+    char text[64] = "";
+    ::GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+class Wizard : public ::testing::Test {
+protected:
+    Wizard() { ::PropPageInit(); }
+
+    std::string log; // r: a page has refused; o: its OnOK
+    std::vector<std::unique_ptr<CStep>> steps;
+    SheetDriver driver;
+
+    std::unique_ptr<CWizardSheet> Make(const std::vector<int>& templates, UINT first = 0) {
+        auto sheet = std::make_unique<CWizardSheet>("New thing", nullptr, first);
+        steps.clear();
+        for (const int id : templates) {
+            const char name = static_cast<char>('1' + steps.size());
+            steps.push_back(std::make_unique<CStep>(name, log, id));
+            sheet->AddPage(steps.back().get());
+        }
+        return sheet;
+    }
+    int Run(CWizardSheet& wizard, const SheetDriver::Script& script) { return driver.Run(wizard, script); }
+    int RunThree(const SheetDriver::Script& script) { return Run(*Make({kWide, kWide, kWide}), script); }
+};
+
+// Page, Back enabled, text of the other button: the three always tell the same.
+std::string State(const SheetDriver& user) {
+    const HWND sheet = user.Sheet();
+    const auto tab = ::SendDlgItemMessageA(sheet, kTabs, TCM_GETCURSEL, 0, 0);
+    EXPECT_EQ(user.ActivePage(), tab);
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(sheet, IDCANCEL)));
+    return std::to_string(user.ActivePage()) +
+           (::IsWindowEnabled(::GetDlgItem(sheet, kBack)) ? " Back " : " - ") +
+           WindowText(::GetDlgItem(sheet, kNext));
+}
+
+CRect Place(const SheetDriver& user, HWND window) { // in client coordinates of the sheet
+    CRect rect;
+    ::GetWindowRect(window, &rect);
+    CWnd::FromHandle(user.Sheet())->ScreenToClient(&rect);
+    return rect;
+}
+
+void ClickWithMouse(SheetDriver& user, int id) {
+    const HWND button = ::GetDlgItem(user.Sheet(), id);
+    ::PostMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ::PostMessageA(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    user.Pump();
+}
+
+TEST_F(Wizard, IsWalkedByMouse) {
+    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  ClickWithMouse(user, kBack); // disabled
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  ClickWithMouse(user, kNext);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  ClickWithMouse(user, kNext);
+                  EXPECT_EQ("2 Back Finish", State(user));
+                  ClickWithMouse(user, kBack);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  ClickWithMouse(user, kBack);
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ("", log);
+                  for (int i = 0; i < 3; ++i)
+                      ClickWithMouse(user, kNext);
+              }));
+    EXPECT_EQ("1o 2o 3o 3o ", log) << "all pages in order, then the sheet's OK of the page in front";
+}
+
+TEST_F(Wizard, IsWalkedByKeyboard) {
+    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
+                  EXPECT_EQ(user.Control(kField), ::GetFocus());
+                  user.Mnemonic('n');
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  user.Mnemonic('b');
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  user.Focus(kField);
+                  user.Key(VK_TAB);
+                  user.Key(VK_TAB); // over the check box and the disabled Back
+                  EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
+                  user.Key(VK_SPACE);
+                  user.Key(VK_RETURN); // the button's own
+                  EXPECT_EQ("2 Back Finish", State(user));
+                  user.Key(VK_RETURN);
+              }));
+    EXPECT_EQ("1o 2o 3o 3o ", log);
+}
+
+TEST_F(Wizard, EnterInAPageOnlyFinishesTheLast) {
+    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
+                  for (const char* state : {"0 - &Next >", "1 Back &Next >"}) {
+                      user.Focus(kField);
+                      user.Key(VK_RETURN);
+                      EXPECT_EQ(state, State(user));
+                      user.ClickSheetButton(kNext);
+                  }
+                  EXPECT_EQ("", log);
+                  user.Focus(kField);
+                  user.Key(VK_RETURN);
+              }));
+    EXPECT_EQ("1o 2o 3o 3o ", log);
+}
+
+TEST_F(Wizard, CancelsByButtonKeyAndCaption) {
+    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { user.ClickSheetButton(IDCANCEL); }));
+    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { user.Key(VK_ESCAPE); }));
+    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { ::PostMessageA(user.Sheet(), WM_CLOSE, 0, 0); }));
+    EXPECT_EQ("", log);
+}
+
+TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
+    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
+                  steps[0]->accepts = false;
+                  user.ClickSheetButton(kNext);
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_TRUE(steps[0]->IsWindowVisible());
+                  steps[0]->accepts = true;
+                  user.ClickSheetButton(kNext);
+                  steps[1]->accepts = false;
+                  for (const int button : {kNext, kBack}) {
+                      user.ClickSheetButton(button);
+                      EXPECT_EQ("1 Back &Next >", State(user));
+                  }
+                  steps[1]->accepts = true;
+                  user.ClickSheetButton(kNext);
+                  EXPECT_EQ("1r 2r 2r ", log);
+                  log.clear();
+                  steps[2]->accepts = false;
+                  user.ClickSheetButton(kNext);
+                  EXPECT_EQ("2 Back Finish", State(user));
+                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks behind the pages' OnOK, and stays open";
+                  steps[2]->accepts = true;
+                  user.ClickSheetButton(kNext);
+              }));
+}
+
+TEST_F(Wizard, StaysWhereAPageCannotBeMade) {
+    const auto wizard = Make({kWide, kNoTemplate, kWide});
+    EXPECT_EQ(IDCANCEL, Run(*wizard, [&](SheetDriver& user) {
+                  user.ClickSheetButton(kNext);
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_TRUE(steps[0]->IsWindowVisible());
+                  EXPECT_EQ(user.Page(), steps[0]->m_hWnd);
+              }));
+}
+
+TEST_F(Wizard, OpensEmptyWithoutItsFirstPage) {
+    const auto wizard = Make({kNoTemplate, kWide});
+    EXPECT_EQ(IDCANCEL, Run(*wizard, [&](SheetDriver& user) {
+                  EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
+                  const CRect cancel = Place(user, ::GetDlgItem(user.Sheet(), IDCANCEL));
+                  CRect client;
+                  ::GetClientRect(user.Sheet(), &client);
+                  EXPECT_LE(cancel.right, client.right);
+                  EXPECT_LE(cancel.bottom, client.bottom);
+                  EXPECT_LT(10, cancel.Width());
+                  user.ClickSheetButton(IDCANCEL);
+              }));
+    const auto alone = Make({kNoTemplate});
+    EXPECT_EQ(IDOK, Run(*alone, [](SheetDriver& user) { user.ClickSheetButton(kNext); }));
+}
+
+TEST_F(Wizard, OfOnePageFinishesByNext) {
+    const auto wizard = Make({kWide});
+    EXPECT_EQ(IDOK, Run(*wizard, [](SheetDriver& user) {
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  user.ClickSheetButton(kNext);
+              }));
+    EXPECT_EQ("1o 1o ", log);
+}
+
+TEST_F(Wizard, ThatOpensLaterShowsTheFirstPagesButtonsUntilItMoves) {
+    const auto wizard = Make({kWide, kWide, kWide}, 2);
+    Run(*wizard, [](SheetDriver& user) {
+        EXPECT_EQ("2 - &Next >", State(user));
+        ::SendMessageA(user.Sheet(), WM_COMMAND, kBack, 0); // its button is disabled
+        EXPECT_EQ("1 Back &Next >", State(user));
+    });
+}
+
+TEST_F(Wizard, KeyboardOutlivesABackThatIsDisabled) {
+    RunThree([](SheetDriver& user) {
+        user.ClickSheetButton(kNext);
+        ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
+        user.Key(VK_SPACE);
+        EXPECT_EQ("0 - &Next >", State(user));
+        ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page, as the system likes";
+        for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
+            user.Key(VK_TAB);
+        EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
+    });
+}
+
+// Pixels of dialog units in the page's font.
+CSize Units(HWND page, int x, int y) {
+    CRect rect(0, 0, x, y);
+    ::MapDialogRect(page, &rect);
+    return rect.Size();
+}
+
+TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
+    for (const int id : {kNarrow, kWide}) {
+        const auto wizard = Make({id, id});
+        Run(*wizard, [&](SheetDriver& user) {
+            const HWND sheet = user.Sheet();
+            CRect client;
+            ::GetClientRect(sheet, &client);
+            const CRect page = Place(user, user.Page()), tabs = Place(user, ::GetDlgItem(sheet, kTabs));
+            const CRect back = Place(user, ::GetDlgItem(sheet, kBack)),
+                        next = Place(user, ::GetDlgItem(sheet, kNext)),
+                        cancel = Place(user, ::GetDlgItem(sheet, IDCANCEL));
+            const CSize button = Units(user.Page(), 50, 14), gap = Units(user.Page(), 4, 4);
+            const CSize asked = Units(user.Page(), id == kNarrow ? 120 : 240, id == kNarrow ? 60 : 100);
+
+            EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(sheet, kTabs)));
+            const int row = 3 * button.cx + gap.cx + 2 * gap.cx, body = asked.cx + 2 * gap.cx + 3;
+            EXPECT_EQ(id == kNarrow, row > body);
+            EXPECT_EQ(std::max(row, body), client.Width());
+            EXPECT_EQ(CRect(CPoint(gap.cx + 1, tabs.Height() + gap.cy),
+                            CSize(client.Width() - 2 * gap.cx - 3, asked.cy)),
+                      page);
+            EXPECT_EQ(3 * gap.cy + button.cy + tabs.Height() + asked.cy + 4, client.Height());
+            for (const CRect& rect : {back, next, cancel}) {
+                EXPECT_EQ(button, rect.Size());
+                EXPECT_EQ(client.bottom - gap.cy, rect.bottom);
+            }
+            EXPECT_EQ(back.right, next.left);
+            EXPECT_EQ(next.right + gap.cx, cancel.left);
+            EXPECT_EQ(client.right - gap.cx, cancel.right);
+            user.ClickSheetButton(kNext);
+            EXPECT_EQ(page, Place(user, user.Page()));
+        });
+    }
+}
+
+TEST_F(Wizard, SystemMenuMovesAndCloses) {
+    RunThree([](SheetDriver& user) {
+        const HMENU menu = ::GetSystemMenu(user.Sheet(), FALSE);
+        ASSERT_EQ(2, ::GetMenuItemCount(menu));
+        EXPECT_EQ(UINT{SC_MOVE}, ::GetMenuItemID(menu, 0));
+        EXPECT_EQ(UINT{SC_CLOSE}, ::GetMenuItemID(menu, 1));
+    });
+}
+
+TEST_F(Wizard, ActivationIsLeftToThePages) {
+    RunThree([](SheetDriver& user) {
+        EXPECT_EQ(1, ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_INACTIVE, 0));
+        const HWND field = user.Control(kField);
+        ::SetFocus(field);
+        ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_ACTIVE, 0);
+        EXPECT_EQ(field, ::GetFocus());
+    });
+}
+
+TEST_F(Wizard, FontAndButtonsAreThePages) {
+    RunThree([](SheetDriver& user) {
+        LOGFONTA page = {}, button = {};
+        ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page,
+                     &page);
+        const LRESULT font = ::SendDlgItemMessageA(user.Sheet(), kNext, WM_GETFONT, 0, 0);
+        ASSERT_NE(0, ::GetObjectA(reinterpret_cast<HFONT>(font), sizeof button, &button));
+        EXPECT_EQ(page.lfHeight, button.lfHeight);
+        EXPECT_STREQ(page.lfFaceName, button.lfFaceName);
+    });
+}
+
+TEST_F(Wizard, ModelessHasNoButtonsButItsCommands) {
+    const auto wizard = Make({kWide, kWide});
+    ASSERT_TRUE(wizard->Create(nullptr));
+    const HWND sheet = wizard->m_hWnd;
+    for (const int id : {kBack, kNext, IDCANCEL})
+        EXPECT_EQ(nullptr, ::GetDlgItem(sheet, id)) << id;
+    CRect client;
+    ::GetClientRect(sheet, &client);
+    EXPECT_EQ(client.Width(), Units(steps[0]->m_hWnd, 240, 0).cx + 2 * Units(steps[0]->m_hWnd, 4, 0).cx + 3);
+    EXPECT_TRUE(::IsWindowVisible(sheet));
+
+    ::SendMessageA(sheet, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(0, wizard->GetActiveIndex());
+    ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
+    EXPECT_EQ(1, wizard->GetActiveIndex());
+    ::SendMessageA(sheet, WM_COMMAND, kBack, 0);
+    EXPECT_EQ(0, wizard->GetActiveIndex());
+    ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
+    ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
+    EXPECT_EQ("1o 2o 2o ", log);
+    EXPECT_TRUE(::IsWindow(sheet)) << "its owner ends it";
+    wizard->DestroyWindow();
+}
+
+TEST_F(Wizard, WithoutPagesIsNotMade) {
+    EXPECT_EQ(-1, Make({})->DoModal());
+}
+
+TEST_F(Wizard, GivesEverythingBack) {
+    const auto walk = [&] {
+        RunThree([](SheetDriver& user) {
+            for (int i = 0; i < 3; ++i)
+                user.ClickSheetButton(kNext);
+        });
+    };
+    walk();
+    const int gdi = GdiObjectCount(), user = UserObjectCount();
+    for (int i = 0; i < 20; ++i)
+        walk();
+    EXPECT_EQ(gdi, GdiObjectCount());
+    EXPECT_EQ(user, UserObjectCount());
+}
+
+} // namespace
