@@ -133,10 +133,10 @@ void SectionReader::LookForRepeatedIds() {
 }
 
 void SectionReader::ReadValues() {
+    size_t next = 0; // the first entry of the next offset: any number of them may share one
     for (size_t i = 0; i < sorted_.size(); ++i) {
         Entry& entry = *sorted_[i];
-        size_t next = i + 1;
-        while (next < sorted_.size() && sorted_[next]->offset == entry.offset)
+        while (next < sorted_.size() && sorted_[next]->offset <= entry.offset)
             ++next;
         const size_t behind = entry.offset < room_ ? room_ : left_;
         const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, left_) : behind;

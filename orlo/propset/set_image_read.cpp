@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
+#include <string_view>
 
 namespace orlo {
 
@@ -89,6 +91,7 @@ void SetReader::ReadSections() {
         heads.push_back(Load32(data_ + kHeaderSize + kListEntrySize * i + 16));
     std::vector<size_t> sorted = heads;
     std::sort(sorted.begin(), sorted.end());
+    std::set<std::string_view> formats; // their bytes
 
     for (uint32_t i = 0; i < image_.sectionCount; ++i) {
         const size_t entry = kHeaderSize + kListEntrySize * i;
@@ -102,7 +105,7 @@ void SetReader::ReadSections() {
         ImageSection section;
         std::memcpy(&section.formatId, data_ + entry, sizeof section.formatId);
         section.offset = static_cast<uint32_t>(head);
-        if (image_.Find(section.formatId) != nullptr)
+        if (!formats.emplace(reinterpret_cast<const char*>(data_ + entry), sizeof section.formatId).second)
             report_.Add(FindingCode::sectionRepeated, Severity::irregular, entry, place,
                         ": another section of that format ID comes before; readers take the first");
         if (head < listEnd)

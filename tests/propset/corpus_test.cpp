@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 
 #include "orlo/propset/property_set.h"
 #include "orlo/propset/set_image.h"
@@ -177,6 +178,44 @@ TEST_P(Corpus, GivesTheClassesTheSameBytes) {
     MemoryStream twice;
     ASSERT_EQ(again.WriteToStream(&twice), 1);
     EXPECT_EQ(twice.Content(), out.Content());
+}
+
+// A million entries of a table, or of the list of sections, that all lead to one place: work in proportion to the stream
+// ends at once, and one that grows with its square not before the test's time is over.
+TEST(HostileImage, OfManyEntriesForOnePlace) {
+    constexpr uint32_t kMany = 1000000;
+    constexpr size_t kEntry = 8, kListEntry = 20, kHeader = 28;
+    const auto put = [](orlo::Bytes& bytes, size_t at, uint32_t number) {
+        std::memcpy(&bytes[at], &number, 4);
+    };
+    const auto header = [&](size_t size, uint32_t sections) {
+        orlo::Bytes bytes(size);
+        put(bytes, 0, 0xFFFE);
+        put(bytes, 24, sections);
+        return bytes;
+    };
+
+    constexpr size_t kSection = kHeader + kListEntry, kTable = kSection + 8;
+    orlo::Bytes values = header(kTable + kEntry * kMany + 4, 1); // ends in a VT_EMPTY
+    put(values, kSection - 4, kSection);
+    put(values, kSection + 4, kMany);
+    for (uint32_t i = 0; i < kMany; ++i) {
+        put(values, kTable + kEntry * i, i + 2);
+        put(values, kTable + kEntry * i + 4, 8 + kEntry * kMany);
+    }
+    std::vector<Finding> findings;
+    auto image = orlo::ReadSetImage(values.data(), values.size(), findings);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->sections.at(0).properties.size(), kMany);
+
+    orlo::Bytes sections = header(kHeader + kListEntry * kMany + 8, kMany); // ends in an empty section
+    for (uint32_t i = 0; i < kMany; ++i) {
+        put(sections, kHeader + kListEntry * i, i);
+        put(sections, kHeader + kListEntry * i + 16, kHeader + kListEntry * kMany);
+    }
+    image = orlo::ReadSetImage(sections.data(), sections.size(), findings);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->sections.size(), kMany);
 }
 
 } // namespace

@@ -68,9 +68,10 @@ Json ValueJson(const orlo::Value& value) {
     return nullptr;
 }
 
-Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& property) {
+Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& property,
+                  const PropertyNames& names) {
     Json json = {{"id", property.id},
-                 {"name", PropertyName(section, property.id)},
+                 {"name", names.Of(property.id)},
                  {"vt", property.type},
                  {"offset", property.offset},
                  {"value", nullptr}};
@@ -106,8 +107,9 @@ Json SectionJson(const orlo::ImageSection& section) {
             json["dictionary"].push_back({{"id", entry.id}, {"name", entry.name}});
     }
     Json& properties = json["properties"] = Json::array();
+    const PropertyNames names(section);
     for (const orlo::ImageProperty& property : section.properties)
-        properties.push_back(PropertyJson(section, property));
+        properties.push_back(PropertyJson(section, property, names));
     return json;
 }
 

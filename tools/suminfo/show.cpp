@@ -47,9 +47,10 @@ std::string Heading(const orlo::ImageSection& section) {
 }
 
 std::string SectionTable(const orlo::ImageSection& section) {
+    const PropertyNames names(section);
     std::vector<Line> lines;
     for (const orlo::ImageProperty& property : section.properties)
-        lines.push_back({PropertyName(section, property.id), PropertyShown(section, property)});
+        lines.push_back({names.Of(property.id), PropertyShown(section, property)});
     return "  " + Heading(section) + "\n" + Aligned(lines);
 }
 

@@ -114,12 +114,16 @@ std::string Shown(const orlo::Value& value, bool span) {
 
 } // namespace
 
-std::string PropertyName(const orlo::ImageSection& section, uint32_t id) {
-    if (section.dictionary) {
-        for (const orlo::DictionaryEntry& entry : *section.dictionary)
-            if (entry.id == id) return OneLine(entry.name);
-    }
-    if (const Field* field = FieldOf(section.formatId, id)) return field->name;
+PropertyNames::PropertyNames(const orlo::ImageSection& section) : format_(section.formatId) {
+    if (!section.dictionary) return;
+    for (const orlo::DictionaryEntry& entry : *section.dictionary)
+        dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
+}
+
+std::string PropertyNames::Of(uint32_t id) const {
+    const auto named = dictionary_.find(id);
+    if (named != dictionary_.end()) return OneLine(*named->second);
+    if (const Field* field = FieldOf(format_, id)) return field->name;
     if (id == kCodePageId) return "code page";
     if (id == kLocaleId) return "locale";
     return "property " + std::to_string(id);

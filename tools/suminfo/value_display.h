@@ -1,14 +1,26 @@
 // A property as a person reads it: its name and its value on one line.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <unordered_map>
 
 #include "orlo/propset/set_image.h"
 
 namespace suminfo {
 
-// The field's name, the name of the section's dictionary, or "property 12".
-std::string PropertyName(const orlo::ImageSection& section, uint32_t id);
+// The names of a section's properties; the section must outlive them.
+class PropertyNames {
+public:
+    explicit PropertyNames(const orlo::ImageSection& section);
+
+    // The name of the section's dictionary, the field's name, or "property 12".
+    std::string Of(uint32_t id) const;
+
+private:
+    const GUID& format_;
+    std::unordered_map<uint32_t, const std::string*> dictionary_;
+};
 // "2004-02-03 10:20:30 UTC", "metafile picture, 1234 bytes", "yes", ...; damaged ones say so.
 std::string PropertyShown(const orlo::ImageSection& section, const orlo::ImageProperty& property);
 
