@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
 #include <drawcore/layer.h>
@@ -142,6 +143,34 @@ TEST_F(Inserts, FollowTheirBlock) {
     EXPECT_NEAR(right(), 60, 1e-9) << "half as wide";
     BlockDispose(drawing.Table("_Blocks_"), flag);
     EXPECT_EQ(right(), 0) << "empty";
+}
+
+// As the attributes of a block, which lie in the drawing, and what is in an array.
+TEST_F(Inserts, TakeTheirMembersAlong) {
+    for (const double flat : {1.0, 0.0}) {
+        GraphicStruct* insert = Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20);
+        GraphicAdd(insert, MakeSquare(20, 30, 4));
+        GraphicAttach(insert, drawing);
+        const auto box = [&] {
+            std::array<double, 4> sides{};
+            ExtentsGetBox(GraphicGetExtentsSel(insert, 0), sides.data());
+            return sides;
+        };
+        EXPECT_EQ(box(), (std::array<double, 4>{10, 10, 40, 34}));
+        VertexStruct* corners[4];
+        int cookie = 0;
+        corners[0] = GraphicVertexFirst(insert, &cookie, 0, 0xFFFF);
+        for (int i = 1; i < 4; ++i)
+            corners[i] = GraphicVertexNext(insert, &cookie, 0, 0xFFFF);
+        // Twice as large at (100, 0), a quarter turned to the left.
+        const double turned[4][3] = {{100, 0, 0}, {100, 40, 0}, {60, 0, 0}, {100, 0, flat}};
+        for (int i = 0; i < 4; ++i)
+            VertexSet(corners[i], turned[i][0], turned[i][1], turned[i][2]);
+        const std::array<double, 4> expected = {52, 0, 100, 60};
+        for (size_t i = 0; i < 4; ++i)
+            EXPECT_NEAR(box()[i], expected[i], 1e-9) << i;
+        GraphicDispose(&insert);
+    }
 }
 
 TEST_F(Inserts, OfThemselvesEnd) {

@@ -137,8 +137,12 @@ const Extents& Graphic::GetExtents() const {
     extents_ = {};
     extentsKnown_ = KeepsExtents(); // before the members: a block may hold an insertion of itself
     AddShapeExtents(extents_);
-    for (size_t i = 0; i < MemberCount(); ++i)
-        extents_.Add(MemberAt(i)->GetExtents());
+    Matrix motion;
+    const bool moved = FindMotion(motion);
+    for (size_t i = 0; i < MemberCount(); ++i) {
+        const Extents& box = MemberAt(i)->GetExtents();
+        extents_.Add(moved ? box.Transformed(motion) : box);
+    }
     return extents_;
 }
 

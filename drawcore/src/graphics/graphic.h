@@ -51,6 +51,8 @@ public:
     // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
     virtual size_t MemberCount() const { return parts_.size(); }
     virtual Graphic* MemberAt(size_t index) const { return parts_[index].get(); }
+    // Where the members have gone from their own coordinates; false if they are where these say.
+    virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
     // Takes the part out and hands it over; null if it is none.
     std::unique_ptr<Graphic> Release(Graphic* part);

@@ -18,6 +18,16 @@ bool IsOpen(const Block* block, const Trace& trace) {
     return false;
 }
 
+Vec3 Origin(const Matrix& placement) {
+    return placement.Apply({});
+}
+
+// The placement of a flat insertion with a z axis all the same: files have a good many with a z scale of 0.
+Matrix Solid(const Matrix& placement) {
+    const Vec3 x = placement.Turn({1, 0, 0}), y = placement.Turn({0, 1, 0}), z = placement.Turn({0, 0, 1});
+    return Length(z) > 0 ? placement : Matrix::FromAxes(x, y, Normalized(Cross(x, y)), Origin(placement));
+}
+
 } // namespace
 
 InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
@@ -26,6 +36,7 @@ InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
 }
 
 void InsertGraphic::Place(const Matrix& placement) {
+    KeepFirst();
     const Vec3 corners[4] = {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
                              placement.Apply({0, 0, 1})};
     for (int i = 0; i < 4; ++i)
@@ -57,6 +68,37 @@ Matrix InsertGraphic::Placement() const {
                             vertices[3].Position() - origin, origin);
 }
 
+void InsertGraphic::KeepFirst() {
+    const bool leads = MemberCount() > 0 || array.columns > 1 || array.rows > 1;
+    if (leads && !first_) first_ = Placement();
+}
+
+Vertex* InsertGraphic::VertexAt(size_t place) {
+    if (place >= std::size(vertices)) return nullptr;
+    KeepFirst();
+    return &vertices[place];
+}
+
+bool InsertGraphic::FindMotion(Matrix& motion) const {
+    if (!first_) return false;
+    const Matrix now = Placement();
+    if (std::equal(&now.at[0][0], &now.at[0][0] + 16, &first_->at[0][0])) return false;
+    Matrix back;
+    motion =
+        Solid(*first_).Invert(back) ? back * Solid(now) : Matrix::Translation(Origin(now) - Origin(*first_));
+    return true;
+}
+
+InsertArray InsertGraphic::MovedArray() const {
+    InsertArray moved = array;
+    Matrix motion;
+    if ((array.columns > 1 || array.rows > 1) && FindMotion(motion)) {
+        moved.columnStep = motion.Turn(array.columnStep);
+        moved.rowStep = motion.Turn(array.rowStep);
+    }
+    return moved;
+}
+
 void InsertGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     const Block* shown = trace.tools.blocks ? trace.tools.blocks->At(block) : nullptr;
     if (!shown || trace.depth >= kDeepest || IsOpen(shown, trace)) return;
@@ -68,9 +110,10 @@ void InsertGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     inner.color = use.color;
     inner.style = use.style;
     const Matrix first = Matrix::Translation(shown->base * -1) * Placement();
-    for (int row = 0; row < array.rows; ++row)
-        for (int column = 0; column < array.columns && trace.tools.budget > 0; ++column) {
-            const Vec3 shift = array.columnStep * column + array.rowStep * row;
+    const InsertArray moved = MovedArray();
+    for (int row = 0; row < moved.rows; ++row)
+        for (int column = 0; column < moved.columns && trace.tools.budget > 0; ++column) {
+            const Vec3 shift = moved.columnStep * column + moved.rowStep * row;
             inner.matrix = first * Matrix::Translation(shift) * trace.matrix;
             TraceGraphic(shown->Content(), inner);
         }
@@ -85,10 +128,11 @@ void InsertGraphic::AddShapeExtents(Extents& extents) const {
     const Extents box =
         shown->Content().GetExtents().Transformed(Matrix::Translation(shown->base * -1) * Placement());
     --depth;
-    for (const int row : {0, array.rows - 1})
-        for (const int column : {0, array.columns - 1})
+    const InsertArray moved = MovedArray();
+    for (const int row : {0, moved.rows - 1})
+        for (const int column : {0, moved.columns - 1})
             extents.Add(
-                box.Transformed(Matrix::Translation(array.columnStep * column + array.rowStep * row)));
+                box.Transformed(Matrix::Translation(moved.columnStep * column + moved.rowStep * row)));
 }
 
 } // namespace drawcore

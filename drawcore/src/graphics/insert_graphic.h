@@ -1,5 +1,8 @@
-// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts, in the drawing's coordinates.
+// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts. They, and the steps of the array, are
+// in the drawing's coordinates as of before the insertion was moved for the first time, and follow it.
 #pragma once
+
+#include <optional>
 
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/vertex.h"
@@ -8,7 +11,7 @@ namespace drawcore {
 
 struct InsertArray {
     int columns = 1, rows = 1;
-    Vec3 columnStep, rowStep; // from one copy to the next, in the drawing's coordinates
+    Vec3 columnStep, rowStep; // from one copy to the next
 };
 
 class InsertGraphic : public Graphic {
@@ -23,9 +26,8 @@ public:
     bool EqualState(const Graphic& saved) const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
-    Vertex* VertexAt(size_t place) override {
-        return place < std::size(vertices) ? &vertices[place] : nullptr;
-    }
+    Vertex* VertexAt(size_t place) override;
+    bool FindMotion(Matrix& motion) const override;
 
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
@@ -37,6 +39,12 @@ public:
 
 protected:
     void AddShapeExtents(Extents& extents) const override;
+
+private:
+    void KeepFirst(); // someone is about to move it
+    InsertArray MovedArray() const;
+
+    std::optional<Matrix> first_; // the placement before it was moved; none as long as nobody could have
 };
 
 } // namespace drawcore

@@ -52,6 +52,23 @@ Vec3 Matrix::Turn(const Vec3& v) const {
             v.x * at[0][2] + v.y * at[1][2] + v.z * at[2][2]};
 }
 
+bool Matrix::Invert(Matrix& inverse) const {
+    const Vec3 x{at[0][0], at[0][1], at[0][2]}, y{at[1][0], at[1][1], at[1][2]},
+        z{at[2][0], at[2][1], at[2][2]};
+    const Vec3 columns[3] = {Cross(y, z), Cross(z, x), Cross(x, y)};
+    const double volume = x.x * columns[0].x + x.y * columns[0].y + x.z * columns[0].z;
+    if (!std::isnormal(volume) || !std::isfinite(1 / volume)) return false;
+    Matrix back;
+    for (int c = 0; c < 3; ++c) {
+        back.at[0][c] = columns[c].x / volume;
+        back.at[1][c] = columns[c].y / volume;
+        back.at[2][c] = columns[c].z / volume;
+    }
+    const Vec3 origin = back.Turn({at[3][0], at[3][1], at[3][2]});
+    inverse = back * Translation(origin * -1);
+    return true;
+}
+
 double Matrix::PlanScale() const {
     return std::sqrt(std::fabs(at[0][0] * at[1][1] - at[0][1] * at[1][0]));
 }

@@ -53,6 +53,14 @@ void TraceDot(const Extents& box, const Trace& trace, const PenUse& use) {
     trace.sink.Stroke(path, use);
 }
 
+void TraceMembers(const Graphic& graphic, const Trace& trace) {
+    Trace inner = trace;
+    Matrix motion;
+    if (graphic.FindMotion(motion)) inner.matrix = motion * trace.matrix;
+    for (size_t i = 0; i < graphic.MemberCount(); ++i)
+        TraceGraphic(*graphic.MemberAt(i), inner);
+}
+
 bool IsDot(const Extents& box, const GeometrySink& sink) {
     const double size = sink.DotSize();
     return box.high.x - box.low.x < size && box.high.y - box.low.y < size;
@@ -108,8 +116,7 @@ void TraceGraphic(const Graphic& graphic, const Trace& trace) {
         else
             graphic.TraceShape(trace, use);
     }
-    for (size_t i = 0; i < graphic.MemberCount(); ++i)
-        TraceGraphic(*graphic.MemberAt(i), trace);
+    if (graphic.MemberCount() != 0) TraceMembers(graphic, trace);
 }
 
 void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
