@@ -15,6 +15,7 @@ struct Bench {
 };
 
 constexpr Bench kBenches[] = {{"merge", BenchMerge},
+                              {"insert", BenchInsert},
                               {"open", BenchOpen},
                               {"pages", BenchPages},
                               {"preview", BenchPreview},

@@ -2,6 +2,7 @@
 #pragma once
 
 void BenchMerge();
+void BenchInsert();
 void BenchOpen();
 void BenchPages();
 void BenchPreview();

@@ -3,6 +3,7 @@
 
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/binding/object_set.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/memory.h"
@@ -10,37 +11,6 @@
 #include <oaidl.h>
 
 namespace {
-
-constexpr uint32_t kAllGraphics = 0xFFFFFFFF;
-
-// A set of graphics, and what the walk over it does to the preview mark of the graphics that it gives.
-class ObjectSet {
-public:
-    ObjectSet(CGraphicPropertySheet* sheet, int bPreview)
-        : m_set(sheet == nullptr ? nullptr
-                : bPreview       ? sheet->GetPreviewGroup()
-                                 : static_cast<GraphicStruct*>(sheet->GetGraphics())),
-          m_filter(bPreview ? kAllGraphics : sheet != nullptr ? sheet->GetGraphicFlags() : 0), m_preview(bPreview != 0) {}
-
-    GraphicStruct* First(void* position) const {
-        return m_set ? Marked(::GraphicFirst(m_set, position, 1, m_filter)) : nullptr;
-    }
-    GraphicStruct* Next(void* position) const {
-        return m_set ? Marked(::GraphicNext(m_set, position, 1, m_filter)) : nullptr;
-    }
-
-private:
-    GraphicStruct* Marked(GraphicStruct* graphic) const {
-        if (graphic == nullptr) return nullptr;
-        // Written only where it changes: a walk over many graphics should not dirty the memory of them all.
-        if (((graphic->dwFlags & kFlagPreview) != 0) != m_preview) graphic->dwFlags ^= kFlagPreview;
-        return graphic;
-    }
-
-    GraphicStruct* m_set;
-    uint32_t m_filter;
-    bool m_preview;
-};
 
 // One property of one graphic. The number is the graphic's own, so it is looked up for each.
 struct Property {

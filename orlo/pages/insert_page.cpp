@@ -5,6 +5,7 @@
 #include "orlo/binding/ddp.h"
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/binding/object_set.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/current_drawing.h"
@@ -19,16 +20,29 @@ namespace {
 constexpr double kMostScale = 1000.0;
 constexpr double kFarthest = 1e38;
 
-// One walk over the insertions of a page's set.
+// Calls visit for the insertions of the set until it gives false. It may clear withRotationZ for those that follow.
 template <class Visit>
-void ForEachInsertion(CGraphicPropertyPage& page, int bPreview, Visit visit) {
+void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit visit) {
     uint32_t position = 0;
-    for (void* object = page.GetFirstObject(&position, bPreview); object != nullptr;
-         object = page.GetNextObject(&position, bPreview)) {
-        auto* graphic = static_cast<GraphicStruct*>(object);
-        InsertParts parts;
-        if (graphic->bType == kGraphicInsert && ReadInsertParts(graphic, parts)) visit(graphic, parts);
+    InsertParts parts;
+    for (GraphicStruct* graphic = set.First(&position); graphic != nullptr; graphic = set.Next(&position)) {
+        const bool isInsertion =
+            graphic->bType == kGraphicInsert && ReadInsertParts(graphic, parts, withRotationZ);
+        if (isInsertion && !visit(graphic, parts)) break;
     }
+}
+
+// Makes a merged part the marker where the insertion's is another number. False if all are the marker by then.
+bool Merge(const double (&parts)[3], double (&merged)[3]) {
+    bool definite = false;
+    for (int i = 0; i < 3; ++i) {
+        // Mostly they are the same to the last bit.
+        if (parts[i] != merged[i] && !IsIndeterminate(merged[i]) &&
+            CompareDoubles(&parts[i], &merged[i]) != 0)
+            merged[i] = Indeterminate<double>::Value();
+        definite = definite || !IsIndeterminate(merged[i]);
+    }
+    return definite;
 }
 
 } // namespace
@@ -93,17 +107,21 @@ void CInsertPage::DoDataExchange(CDataExchange* pDX) {
 }
 
 void CInsertPage::LoadInsertParts(int bPreview) {
-    bool first = true;
-    ForEachInsertion(*this, bPreview, [&](GraphicStruct*, InsertParts& parts) {
-        for (const Field& field : kFields) {
-            double& member = this->*field.member;
-            if (first)
-                member = field.Of(parts);
-            else if (!IsIndeterminate(member) && CompareDoubles(&field.Of(parts), &member) != 0)
-                member = Indeterminate<double>::Value();
-        }
-        first = false;
-    });
+    InsertParts merged{};
+    bool found = false, withRotationZ = true;
+    ForEachInsertion(ObjectSet(GetSheet(), bPreview), withRotationZ,
+                     [&](GraphicStruct*, const InsertParts& parts) {
+                         if (!found) merged = parts;
+                         found = true;
+                         const bool position = Merge(parts.position, merged.position),
+                                    scale = Merge(parts.scale, merged.scale),
+                                    rotation = Merge(parts.rotation, merged.rotation);
+                         withRotationZ = !IsIndeterminate(merged.rotation[2]);
+                         return position || scale || rotation;
+                     });
+    if (!found) return;
+    for (const Field& field : kFields)
+        this->*field.member = field.Of(merged);
 }
 
 void CInsertPage::ApplyInsertParts(int bPreview) {
@@ -111,12 +129,14 @@ void CInsertPage::ApplyInsertParts(int bPreview) {
     for (size_t i = 0; i < std::size(kFields); ++i)
         counts[i] =
             !IsIndeterminate(this->*kFields[i].member) && (bPreview || GetControlStatus(kFields[i].nID));
-    ForEachInsertion(*this, bPreview, [&](GraphicStruct* graphic, InsertParts& parts) {
-        InsertParts wanted = parts;
-        for (size_t i = 0; i < std::size(kFields); ++i)
-            if (counts[i]) kFields[i].Of(wanted) = this->*kFields[i].member;
-        ChangeInsertParts(graphic, parts, wanted);
-    });
+    ForEachInsertion(ObjectSet(GetSheet(), bPreview), true,
+                     [&](GraphicStruct* graphic, const InsertParts& parts) {
+                         InsertParts wanted = parts;
+                         for (size_t i = 0; i < std::size(kFields); ++i)
+                             if (counts[i]) kFields[i].Of(wanted) = this->*kFields[i].member;
+                         ChangeInsertParts(graphic, parts, wanted);
+                         return true;
+                     });
 }
 
 void* CInsertPage::CreatePreviewGraphic() {

@@ -42,13 +42,10 @@ using Corners = std::array<VertexStruct*, 4>; // the origin and the ends of the 
 
 bool FindCorners(GraphicStruct* graphic, Corners& corners) {
     int cookie = 0;
-    VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
-    for (VertexStruct*& corner : corners) {
-        if (vertex == nullptr) return false;
-        corner = vertex;
-        vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
-    }
-    return true;
+    corners[0] = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
+    for (size_t i = 1; i < corners.size() && corners[i - 1] != nullptr; ++i)
+        corners[i] = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
+    return corners.back() != nullptr;
 }
 
 Vector PointOf(const VertexStruct& vertex) {
@@ -61,21 +58,24 @@ Axes AxesOf(const Corners& corners) {
 }
 
 // Of a frame without shear, from the directions of its x and z axes. Adding 0.0 turns -0.0 to 0.0.
-void FindRotations(Vector a, const Vector& c, double rotation[3]) {
-    double across = std::sqrt(c.y * c.y + c.z * c.z);
-    rotation[0] = 0.0;
-    if (across > kCollapsed) {
-        rotation[0] = 0.0 - std::atan2(c.y, c.z);
-        const double co = std::cos(rotation[0]), si = std::sin(rotation[0]);
-        a = {a.x, a.y * co + a.z * si, a.z * co - a.y * si};
-    } else {
-        across = 0.0;
+void FindRotations(Vector a, const Vector& c, bool withZ, double rotation[3]) {
+    if (c.x == 0.0 && c.y == 0.0 &&
+        c.z > 0.0) { // in the plane, as most are: the formulas' result without their work
+        rotation[0] = rotation[1] = 0.0;
+        if (withZ) rotation[2] = a.y == 0.0 && a.x > 0.0 ? 0.0 : std::atan2(a.y, a.x);
+        return;
     }
+    double across = std::sqrt(c.y * c.y + c.z * c.z);
+    if (!(across > kCollapsed)) across = 0.0;
+    rotation[0] = across > 0.0 ? 0.0 - std::atan2(c.y, c.z) : 0.0;
     rotation[1] = std::atan2(c.x, across) + 0.0;
+    if (!withZ) return;
+    const double co = std::cos(rotation[0]), si = std::sin(rotation[0]);
+    a = {a.x, a.y * co + a.z * si, a.z * co - a.y * si};
     rotation[2] = std::atan2(a.y, a.x * std::cos(rotation[1]) - a.z * std::sin(rotation[1])) + 0.0;
 }
 
-bool GetParts(const Corners& corners, InsertParts& parts) {
+bool GetParts(const Corners& corners, bool withRotationZ, InsertParts& parts) {
     const VertexStruct& origin = *corners[0];
     parts.position[0] = origin.x;
     parts.position[1] = origin.y;
@@ -87,7 +87,7 @@ bool GetParts(const Corners& corners, InsertParts& parts) {
     for (const double scale : parts.scale)
         if (!(scale > kCollapsed)) return false;
     if (Dot(Cross(a, b), c) < 0.0) parts.scale[2] = -parts.scale[2];
-    FindRotations(a / parts.scale[0], c / parts.scale[2], parts.rotation);
+    FindRotations(a / parts.scale[0], c / parts.scale[2], withRotationZ, parts.rotation);
     return true;
 }
 
@@ -176,27 +176,23 @@ void SetCorners(const Corners& corners, const Vector& origin, const Axes& axes) 
         ::VertexSet(corners[i + 1], origin.x + axes[i].x, origin.y + axes[i].y, origin.z + axes[i].z);
 }
 
-bool IsPoint(const VertexStruct* vertex) {
-    return std::isfinite(vertex->x) && std::isfinite(vertex->y) && std::isfinite(vertex->z);
-}
-
 bool Equal(const double (&a)[3], const double (&b)[3]) {
     return std::equal(a, a + 3, b);
 }
 
 bool IsFinite(const double (&values)[3]) {
-    return std::all_of(values, values + 3, [](double value) { return std::isfinite(value); });
+    return std::isfinite(std::fabs(values[0]) + std::fabs(values[1]) + std::fabs(values[2]));
 }
 
 } // namespace
 
 void InsertGetParts(GraphicStruct* graphic, InsertParts* parts) {
-    Corners corners;
-    if (FindCorners(graphic, corners)) GetParts(corners, *parts);
+    Corners corners{};
+    if (FindCorners(graphic, corners)) GetParts(corners, true, *parts);
 }
 
 void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts) {
-    Corners corners;
+    Corners corners{};
     const ScratchVertex scratch;
     if (scratch.get() == nullptr || !FindCorners(graphic, corners)) return;
     HostMatrix matrix;
@@ -207,12 +203,14 @@ void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts) {
     SetCorners(corners, row(3), {row(0), row(1), row(2)});
 }
 
-bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts) {
-    Corners corners;
-    if (!FindCorners(graphic, corners) || !std::all_of(corners.begin(), corners.end(), IsPoint)) return false;
-    if (!GetParts(corners, parts)) {
+bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts, bool withRotationZ) {
+    Corners corners{};
+    if (!FindCorners(graphic, corners)) return false;
+    const bool solid = GetParts(corners, withRotationZ, parts);
+    if (!IsFinite(parts.position) || !IsFinite(parts.scale)) return false;
+    if (!solid) {
         const Axes frame = CompleteFrame(AxesOf(corners));
-        FindRotations(frame[0], frame[2], parts.rotation);
+        FindRotations(frame[0], frame[2], withRotationZ, parts.rotation);
     }
     for (double& rotation : parts.rotation)
         if (std::fabs(rotation) <= kNoTurn) rotation = 0.0;
@@ -225,7 +223,7 @@ void ChangeInsertParts(GraphicStruct* graphic, const InsertParts& from, const In
         InsertSetParts(graphic, &to);
         return;
     }
-    Corners corners;
+    Corners corners{};
     if (Equal(from.position, to.position) || !FindCorners(graphic, corners)) return;
     SetCorners(corners, {to.position[0], to.position[1], to.position[2]}, AxesOf(corners));
 }

@@ -23,7 +23,8 @@ void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts);
 // The parts of any insertion. The rotations of one with collapsed axes are those of the axes that are left, each missing one
 // standing at right angles to the others; rotations of at most 1e-7 are 0. False, and the record is without meaning, for a
 // graphic without the four vertices, or with one that is no point.
-bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts);
+// withRotationZ false leaves that rotation alone: half of the time goes into it, and in most selections it differs.
+bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts, bool withRotationZ = true);
 
 // Carries the insertion from its parts to others. One that is only moved keeps its axes as they are, sheared ones too. Writes
 // nothing if the parts are equal or a new one is no number.

@@ -1,0 +1,120 @@
+// Merging the parts of many insertions in the Block Insertion page, against a bare loop of the same host calls.
+
+#include "bench/sheet/sheet_bench.h"
+
+#include <memory>
+
+#include "bench/paired_timer.h"
+#include "drawcore/drawing.h"
+#include "drawcore/selection.h"
+#include "orlo/frame/entry.h"
+#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/host.h"
+#include "orlo/pages/insert_parts.h"
+#include "support/sheet_driver.h"
+
+namespace {
+
+constexpr int kRounds = 5;
+constexpr unsigned int kPage = 29004;
+
+// A drawing of n insertions, all selected, in one plane or turned anyhow.
+class Insertions {
+public:
+    Insertions(int n, bool plane) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
+        TableStruct* blocks = ::BlocksFromDrawing(m_drawing);
+        const uint16_t block = ::BlocksAddBlock(blocks, "FLAG", ::GraphicNewEx(kGraphicVertices, 0, 1));
+        MatrixStruct* about = plane ? nullptr : ::MatrixRotateX(nullptr, 0.3, 0);
+        for (int i = 0; i < n; ++i) {
+            MatrixStruct* matrix = ::MatrixRotateZ(about, i % 7 * 0.1, 0);
+            GraphicStruct* insertion = ::GraphicNewEx(kGraphicInsert, 0, 1);
+            ::InsertSetData(insertion, blocks, block, matrix);
+            ::MatrixDispose(&matrix);
+            ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing), insertion));
+        }
+        ::MatrixDispose(&about);
+    }
+    ~Insertions() {
+        ::GraphicDispose(&m_selection);
+        ::DrawingDispose(&m_drawing);
+    }
+    Insertions(const Insertions&) = delete;
+    Insertions& operator=(const Insertions&) = delete;
+
+    GraphicStruct* Selection() const { return m_selection; }
+    DrawingStruct* Drawing() const { return m_drawing; }
+
+private:
+    DrawingStruct* m_drawing;
+    GraphicStruct* m_selection;
+};
+
+template <class Visit>
+void ForEach(GraphicStruct* set, Visit visit) {
+    uint32_t position;
+    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); graphic != nullptr;
+         graphic = ::GraphicNext(set, &position, 1, 0xFFFFFFFF))
+        visit(graphic);
+}
+
+// The host calls of a merge, and nothing else.
+double BareLoop(GraphicStruct* set) {
+    double sum = 0;
+    ForEach(set, [&](GraphicStruct* graphic) {
+        int cookie = 0;
+        VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
+        for (int i = 1; i < 4; ++i) {
+            sum += vertex->x + vertex->y + vertex->z;
+            vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
+        }
+        sum += vertex->x;
+    });
+    return sum;
+}
+
+// The same with every insertion taken apart.
+double PartsLoop(GraphicStruct* set) {
+    double sum = 0;
+    ForEach(set, [&](GraphicStruct* graphic) {
+        InsertParts parts{};
+        ::InsertGetParts(graphic, &parts);
+        sum += parts.rotation[2];
+    });
+    return sum;
+}
+
+struct Merge {
+    Pair calls, parts; // against each of the loops
+};
+
+Merge MeasureMerge(int n, bool plane) {
+    const Insertions insertions(n, plane);
+    ::PropPageInit();
+    const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
+        nullptr, nullptr, insertions.Drawing(), insertions.Selection(), 0xFFFFFFFF));
+    uint32_t position;
+    ::AddGraphicPropertyPage(nullptr, ::GraphicFirst(insertions.Selection(), &position, 1, 0xFFFFFFFF),
+                             sheet.get());
+    Merge merge{};
+    SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+        user.SelectPage(1);
+        CPropertyPage* page = sheet->FindPage(kPage);
+        volatile double sink = 0;
+        const auto load = [&] { page->UpdateData(FALSE); };
+        merge.calls = Compare(kRounds, load, [&] { sink = BareLoop(insertions.Selection()); });
+        merge.parts = Compare(kRounds, load, [&] { sink = PartsLoop(insertions.Selection()); });
+    });
+    return merge;
+}
+
+} // namespace
+
+void BenchInsert() {
+    const Merge small = MeasureMerge(100000, true), plane = MeasureMerge(1000000, true),
+                solid = MeasureMerge(1000000, false);
+    Print("merge_insertions_1000000", plane.parts.ratio, "x_bare_host_calls_and_taking_apart");
+    Print("merge_insertions_turned_anyhow_1000000", solid.parts.ratio, "x_bare_host_calls_and_taking_apart");
+    Print("merge_insertions_calls_1000000", plane.calls.ratio, "x_bare_host_calls");
+    Print("merge_insertions_growth", plane.calls.seconds / small.calls.seconds, "x_for_10n");
+}
