@@ -36,12 +36,17 @@ CString StringVariable(TableStruct* pTable, unsigned long nID, int size) {
     return text;
 }
 
+int WholeVariable(TableStruct* pTable, unsigned long nID, int missing) {
+    long value = missing;
+    TableGetIntVar(pTable, Key(nID), &value);
+    return static_cast<int>(value);
+}
+
 // A whole number through any exchange of ints. The result is always 1.
 template <class Exchange>
 int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing,
                   Exchange exchange) {
-    int value = missing;
-    if (!pDX->m_bSaveAndValidate) TableGetIntVar(pTable, Key(nID), &value);
+    int value = pDX->m_bSaveAndValidate ? missing : WholeVariable(pTable, nID, missing);
     exchange(value);
     if (pDX->m_bSaveAndValidate) TableSetIntVar(pTable, Key(nID), value);
     return 1;
@@ -80,7 +85,7 @@ int DDX_TextVarNumeric(int bReport, CDataExchange* pDX, unsigned int nIDC, Table
 int DDX_TextVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
                    long min, long max) {
     const int id = static_cast<int>(nIDC);
-    int value = 0;
+    long value = 0;
     if (!pDX->m_bSaveAndValidate) {
         TableGetIntVar(pTable, Key(nID), &value);
         return DDX_Text(bReport, pDX, id, value);
@@ -145,8 +150,7 @@ int DDX_RadioVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStr
 int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
                        unsigned long nID, long* pMap, int nCount) {
     std::vector<int> map(pMap, pMap + std::max(nCount, 0));
-    int value = 0;
-    if (!pDX->m_bSaveAndValidate) TableGetIntVar(pTable, Key(nID), &value);
+    int value = pDX->m_bSaveAndValidate ? 0 : WholeVariable(pTable, nID, 0);
     if (!DDX_RadioMap(bReport, pDX, nIDC, value, map.data(), nCount)) return 0;
     if (pDX->m_bSaveAndValidate) TableSetIntVar(pTable, Key(nID), value);
     return 1;

@@ -20,7 +20,7 @@ constexpr COLORREF kPaletteBackground = PALETTEINDEX(1);
 constexpr int kInset = 4; // pixels between the pane's edge and the drawing
 
 COLORREF PreviewBackground(const AppStruct* application) {
-    int color = 0;
+    long color = 0;
     if (application != nullptr) ::TableGetIntVar(application->pVariables, kVarPreviewBackground, &color);
     return static_cast<COLORREF>(color);
 }

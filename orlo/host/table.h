@@ -22,10 +22,10 @@ DRAWCORE_API uint16_t TableEntryGetIDFirst(TableStruct*, int* cookie, const char
 DRAWCORE_API DrawingStruct* TableGetOwner(TableStruct*);
 
 // Typed variables. 0, with the value left alone, if there is none of that number and type.
-DRAWCORE_API int TableGetIntVar(TableStruct*, uint16_t id, int* value);
+DRAWCORE_API int TableGetIntVar(TableStruct*, uint16_t id, long* value);
 DRAWCORE_API int TableGetNumericVar(TableStruct*, uint16_t id, double* value);
 DRAWCORE_API int TableGetStringVar(TableStruct*, uint16_t id, char* buffer, int size);
-// One of another type under that identifier is replaced. 0 if there is no such table.
-DRAWCORE_API int TableSetIntVar(TableStruct*, uint16_t id, int value);
+// Whole numbers have 32 bits. One of another type under that identifier is replaced. 0 if there is no such table.
+DRAWCORE_API int TableSetIntVar(TableStruct*, uint16_t id, long value);
 DRAWCORE_API int TableSetNumericVar(TableStruct*, uint16_t id, double value);
 DRAWCORE_API int TableSetStringVar(TableStruct*, uint16_t id, const char* text);

@@ -429,7 +429,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
         changes += (picture.At(x, 50) == kRed) != (picture.At(x - 1, 50) == kRed);
     EXPECT_NEAR(changes, 100 / (3 * millimetre), 1.5);
     AppStruct* application = AppGetCurrentApp();
-    int before = 0;
+    long before = 0;
     TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);
     TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
     SetWhole(sample, "PenColor", 0);

@@ -79,7 +79,7 @@ TEST_F(Tables, TakeMoreEntriesThanIdentifiersOnlyAfterRemovals) {
 }
 
 TEST_F(Tables, KeepTypedVariables) {
-    int whole = 5;
+    long whole = 5;
     double real = 5;
     char text[8] = "5";
     EXPECT_FALSE(TableGetIntVar(table, 1, &whole));
@@ -221,7 +221,7 @@ TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
 
     char buffer[16] = "kept";
     double number = 5;
-    int whole = 5;
+    long whole = 5;
     for (TableStruct* held : {styles, units}) {
         EXPECT_TRUE(Walk(held).empty());
         EXPECT_FALSE(TableEntryGetName(held, 1, buffer, sizeof buffer));

@@ -22,8 +22,8 @@ protected:
         TableGetNumericVar(m_table, kVariable, &value);
         return value;
     }
-    int Whole() const {
-        int value = -99;
+    long Whole() const {
+        long value = -99;
         TableGetIntVar(m_table, kVariable, &value);
         return value;
     }

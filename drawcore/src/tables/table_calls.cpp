@@ -78,8 +78,11 @@ int SetVariable(TableStruct* table, uint16_t id, Table::Value value) {
 
 } // namespace
 
-int TableGetIntVar(TableStruct* table, uint16_t id, int* value) {
-    return GetVariable(table, id, value);
+int TableGetIntVar(TableStruct* table, uint16_t id, long* value) {
+    int whole = 0;
+    if (!value || !GetVariable(table, id, &whole)) return 0;
+    *value = whole;
+    return 1;
 }
 
 int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
@@ -90,8 +93,8 @@ int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
     return 1;
 }
 
-int TableSetIntVar(TableStruct* table, uint16_t id, int value) {
-    return SetVariable(table, id, value);
+int TableSetIntVar(TableStruct* table, uint16_t id, long value) {
+    return SetVariable(table, id, static_cast<int>(value));
 }
 
 int TableSetNumericVar(TableStruct* table, uint16_t id, double value) {
