@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kPictureSize = 12; // pixels of the check mark's picture, and of the box at 96 dpi
+constexpr int kLeastHeight = 14; // of a row at 96 dpi, so that the box grows within it
 constexpr int kTextGap = 3;
 
 // One picture for all lists of the process.
@@ -85,7 +86,7 @@ void CCheckListBox::ToggleItem(int nIndex) {
 }
 
 int CCheckListBox::ItemHeight() {
-    return std::max(GetOwnerDrawFixedTextHeight(m_hWnd), 1);
+    return std::max(GetOwnerDrawFixedTextHeight(m_hWnd), ScreenPixels(kLeastHeight));
 }
 
 int CCheckListBox::InvalidateItem(int nIndex, int bErase) {

@@ -30,7 +30,7 @@ protected:
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
 
-    // Device pixels, in the font that a device context of the window has by default.
+    // Device pixels: that of the font that a device context of the window has by default, and room for the box.
     int ItemHeight();
     int InvalidateItem(int nIndex, int bErase);
     // The box in the window's colour, and the mark in it; dwColor is not used.

@@ -16,9 +16,18 @@ namespace {
 constexpr unsigned int kKind = 0x7D08;
 constexpr COLORREF kNoColor = 0xFFFFFFFE;
 
-// The picture fills the top left quarter of an icon, which the system draws at its own icon size: 16 pixels at 96 dpi.
-int PictureSize() {
+constexpr int kLeastPicture = 16;
+
+// Width of an icon's column: half the system's icon size, 16 pixels at 96 dpi.
+int ColumnWidth() {
     return ::GetSystemMetrics(SM_CXICON) / 2;
+}
+
+// The picture fills the top left quarter of the icon. In a field that is lower than a row it is made smaller.
+void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
+    const int size = std::max(std::min(ColumnWidth(), static_cast<int>(row.bottom - row.top)), kLeastPicture);
+    const int top = (row.top + row.bottom - size) / 2;
+    ::DrawIconEx(dc, x, top, icon, 2 * size, 2 * size, 0, nullptr, DI_NORMAL);
 }
 
 // The layer's own colour where it can be told from the background.
@@ -56,7 +65,7 @@ void CLayerControl::LoadIcons() {
 }
 
 void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
-    pMIS->itemHeight = static_cast<UINT>(std::max(RowTextHeight(m_hWnd), PictureSize()));
+    pMIS->itemHeight = static_cast<UINT>(std::max(RowTextHeight(m_hWnd), ColumnWidth()));
 }
 
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
@@ -80,12 +89,12 @@ void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     if (!m_hIconVisible) LoadIcons();
 
     const RECT& rect = request.rcItem;
-    const int size = PictureSize(), iconTop = (rect.top + rect.bottom - size) / 2;
-    if (LayerGetVisible(drawing, layer)) ::DrawIcon(request.hDC, rect.left, iconTop, m_hIconVisible);
-    if (LayerGetReadOnly(drawing, layer)) ::DrawIcon(request.hDC, rect.left + size, iconTop, m_hIconReadOnly);
+    const int column = ColumnWidth();
+    if (LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
+    if (LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
 
     const bool selected = request.itemState & ODS_SELECTED;
     const COLORREF color =
         selected ? ColorsOf(request).text : NameColor(request.hDC, LayerGetColor(drawing, layer));
-    DrawClippedText(request.hDC, rect.left + 2 * size, rect.top, rect, name, color);
+    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top, rect, name, color);
 }

@@ -16,6 +16,7 @@
 #include "orlo/exchange/ddv.h"
 #include "orlo/exchange/ddx_button.h"
 #include "orlo/exchange/ddx_control.h"
+#include "orlo/exchange/ddx_font.h"
 #include "orlo/exchange/ddx_list.h"
 #include "orlo/exchange/ddx_scale.h"
 #include "orlo/exchange/ddx_table.h"

@@ -3,6 +3,8 @@
 
 #define IDD_EXCHANGE 100
 #define IDS_LINES 101
+// The controls of fonts, under the numbers that they have on a page.
+#define IDD_FONTS 102
 
 #define IDC_EDIT 1001
 #define IDC_DISABLED_EDIT 1002
@@ -17,3 +19,5 @@
 #define IDC_DROP_LIST 1011
 #define IDC_SCROLL 1012
 #define IDC_SORTED_COMBO 1013
+#define IDC_FONT_SIZE 32001
+#define IDC_FONT_STYLE 32002

@@ -1,0 +1,119 @@
+// Exchange of font values: style, height and effects of a text.
+
+#include "orlo/exchange/ddx_font.h"
+
+#include <cmath>
+
+#include "orlo/binding/fuzzy.h"
+#include "orlo/controls/control_items.h"
+#include "orlo/controls/font_list.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/exchange/ddx_button.h"
+#include "orlo/exchange/failure.h"
+#include "orlo/exchange/window_text.h"
+#include "orlo/host/drawing.h"
+
+namespace {
+
+constexpr unsigned short kStyleBits = 0x0003;
+constexpr unsigned short kThirdState = 0xFFFF;
+constexpr int kTextSizeKind = 1; // of DrawingStdNumericToText
+constexpr int kSizeTextSize = 0x100;
+
+struct Effect {
+    int nIDC;
+    unsigned short bit;
+};
+constexpr Effect kEffects[] = {{103, 0x0004}, {104, 0x0008}, {105, 0x0040}, {106, 0x0100}, {107, 0x1000}};
+
+void SetBits(unsigned short& word, unsigned short mask, unsigned short bits) {
+    word = static_cast<unsigned short>((word & ~mask) | bits);
+}
+
+void SaveEffect(CDataExchange* pDX, const Effect& effect, unsigned short& mask, unsigned short& values) {
+    unsigned short state = 0;
+    DDX_Check(1, pDX, effect.nIDC, state);
+    if (state != kThirdState) {
+        SetBits(mask, effect.bit, 0);
+    } else if (!(mask & effect.bit)) {
+        state = 0;
+        ::SendMessageA(pDX->PrepareCtrl(effect.nIDC), BM_SETCHECK, BST_UNCHECKED, 0);
+    }
+    if (state != kThirdState) SetBits(values, effect.bit, state ? effect.bit : 0);
+}
+
+void LoadEffect(CDataExchange* pDX, const Effect& effect, unsigned short mask, unsigned short values) {
+    unsigned short state = mask & effect.bit ? kThirdState : (values & effect.bit) != 0;
+    DDX_Check(1, pDX, effect.nIDC, state);
+}
+
+CFontSizeControl* SizeControlOf(HWND window) {
+    CWnd* const object = CWnd::FromHandlePermanent(window);
+    if (!object || !object->IsKindOf(RUNTIME_CLASS(CFontSizeControl))) return nullptr;
+    return static_cast<CFontSizeControl*>(object);
+}
+
+void SaveSize(CFontSizeControl& control, double& size) {
+    size = HUGE_VAL;
+    const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
+    const int selected = items.Selected();
+    CString text;
+    if (selected == CB_ERR)
+        text = WindowText(control.m_hWnd);
+    else
+        items.GetText(selected, text);
+    control.ReConvertFontSize(text, size);
+}
+
+bool LoadSize(CFontSizeControl& control, double size) {
+    char text[kSizeTextSize];
+    if (!DrawingStdNumericToText(control.m_pDrawing, size, text, sizeof text, kTextSizeKind)) return false;
+    const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
+    int index = items.FindExact(text);
+    if (index == CB_ERR) {
+        items.Add(text);
+        index = items.FindExact(text);
+    }
+    items.Select(index);
+    return true;
+}
+
+} // namespace
+
+int DDX_CBFontStyle(int, CDataExchange* pDX, unsigned int nIDC, unsigned short* pStyle) {
+    const HWND combo = pDX->PrepareCtrl(static_cast<int>(nIDC));
+    const ControlItems items = ControlItems::OfCombo(combo);
+    unsigned short &mask = pStyle[0], &values = pStyle[1];
+    if (!pDX->m_bSaveAndValidate) {
+        FillFontDropDown(combo, 0);
+        items.Select(mask & kStyleBits ? -1 : values & kStyleBits);
+        return 1;
+    }
+    const int selected = items.Selected();
+    if (selected == CB_ERR) return 1;
+    SetBits(values, kStyleBits, static_cast<unsigned short>(selected & kStyleBits));
+    SetBits(mask, kStyleBits, 0);
+    return 1;
+}
+
+int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& size) {
+    CFontSizeControl* const control = SizeControlOf(pDX->PrepareCtrl(static_cast<int>(nIDC)));
+    if (!control) return FailExchange(bReport, pDX);
+    if (pDX->m_bSaveAndValidate) {
+        SaveSize(*control, size);
+        return 1;
+    }
+    const double mixed = HUGE_VAL;
+    if (CompareDoubles(&size, &mixed) == 0) return 1;
+    return LoadSize(*control, size) ? 1 : FailExchange(bReport, pDX);
+}
+
+int DDX_ChkBoxEffects(int, CDataExchange* pDX, unsigned short* pStyle) {
+    for (const Effect& effect : kEffects) {
+        if (pDX->m_bSaveAndValidate)
+            SaveEffect(pDX, effect, pStyle[0], pStyle[1]);
+        else
+            LoadEffect(pDX, effect, pStyle[0], pStyle[1]);
+    }
+    return 1;
+}

@@ -1,0 +1,168 @@
+// Exchange of font values: style, height and effects.
+
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "exchange.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/exchange/ddx_font.h"
+#include "orlo/frame/entry.h"
+#include "support/test_drawing.h"
+
+namespace {
+
+constexpr int kEffectBoxes[] = {103, 104, 105, 106, 107};
+constexpr unsigned short kEffectBits[] = {0x0004, 0x0008, 0x0040, 0x0100, 0x1000};
+
+class FontExchange : public ::testing::Test {
+protected:
+    FontExchange() {
+        PropPageInit();
+        EXPECT_TRUE(m_dialog.Create(IDD_FONTS));
+    }
+    ~FontExchange() override { m_dialog.DestroyWindow(); }
+
+    LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+        return ::SendMessageA(::GetDlgItem(m_dialog.m_hWnd, id), message, wParam, lParam);
+    }
+    CFontSizeControl& Sizes() {
+        return *static_cast<CFontSizeControl*>(
+            CWnd::FromHandlePermanent(::GetDlgItem(m_dialog.m_hWnd, IDC_FONT_SIZE)));
+    }
+    void FillSizes() {
+        const ControlFillRecord record = {m_drawing.Get()->pUnits, 0, 0};
+        TableSetStringVar(m_drawing.Get()->pUnits, kUnitFontName, "Nobody's Face");
+        Send(IDC_FONT_SIZE, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    std::string SizeText() {
+        char text[64] = "";
+        ::GetDlgItemTextA(m_dialog.m_hWnd, IDC_FONT_SIZE, text, sizeof text);
+        return text;
+    }
+    template <class Exchange>
+    static bool Refused(Exchange exchange) {
+        try {
+            exchange();
+        } catch (CUserException* exception) {
+            exception->Delete();
+            return true;
+        }
+        return false;
+    }
+
+    TestDrawing m_drawing;
+    CDialog m_dialog;
+    CDataExchange m_save{&m_dialog, TRUE};
+    CDataExchange m_load{&m_dialog, FALSE};
+};
+
+TEST_F(FontExchange, TheStyleComboShowsTheTwoLowestBits) {
+    const struct {
+        unsigned short mask, values;
+        int shown;
+    } rows[] = {{0, 0, 0}, {0, 3, 3}, {0x1004, 0xFFFE, 2}, {1, 2, -1}, {2, 2, -1}, {3, 0, -1}};
+    for (const auto& row : rows) {
+        unsigned short style[] = {row.mask, row.values};
+        EXPECT_EQ(1, DDX_CBFontStyle(1, &m_load, IDC_FONT_STYLE, style));
+        EXPECT_EQ(4, Send(IDC_FONT_STYLE, CB_GETCOUNT));
+        EXPECT_EQ(row.shown, Send(IDC_FONT_STYLE, CB_GETCURSEL)) << row.values;
+        EXPECT_EQ(1, DDX_CBFontStyle(1, &m_save, IDC_FONT_STYLE, style));
+        EXPECT_EQ(row.mask, style[0]) << "saved as it was";
+        EXPECT_EQ(row.values, style[1]);
+    }
+    unsigned short style[] = {0x1003, 0x1145};
+    Send(IDC_FONT_STYLE, CB_SETCURSEL, 2);
+    DDX_CBFontStyle(1, &m_save, IDC_FONT_STYLE, style);
+    EXPECT_EQ(0x1000, style[0]);
+    EXPECT_EQ(0x1146, style[1]);
+}
+
+TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
+    for (const unsigned short mask : {0, 0x114C, 0x0108, 0xFFFF}) {
+        for (const unsigned short values : {0, 0x114C, 0x1040, 0xFFFF}) {
+            unsigned short style[] = {mask, values};
+            EXPECT_EQ(1, DDX_ChkBoxEffects(1, &m_load, style));
+            for (size_t i = 0; i < 5; ++i) {
+                const int state = mask & kEffectBits[i]     ? BST_INDETERMINATE
+                                  : values & kEffectBits[i] ? BST_CHECKED
+                                                            : BST_UNCHECKED;
+                EXPECT_EQ(state, Send(kEffectBoxes[i], BM_GETCHECK)) << kEffectBoxes[i];
+            }
+            EXPECT_EQ(1, DDX_ChkBoxEffects(1, &m_save, style));
+            EXPECT_EQ(mask, style[0]);
+            EXPECT_EQ(values, style[1]);
+        }
+    }
+}
+
+TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerMixed) {
+    for (size_t i = 0; i < 5; ++i) {
+        const unsigned short bit = kEffectBits[i];
+        unsigned short style[] = {0xFFFF, 0};
+        DDX_ChkBoxEffects(1, &m_load, style);
+        Send(kEffectBoxes[i], BM_SETCHECK, BST_CHECKED);
+        DDX_ChkBoxEffects(1, &m_save, style);
+        EXPECT_EQ(0xFFFF & ~bit, style[0]);
+        EXPECT_EQ(bit, style[1]);
+
+        style[0] = 0xFFFF;
+        style[1] = 0xFFFF;
+        DDX_ChkBoxEffects(1, &m_load, style);
+        Send(kEffectBoxes[i], BM_SETCHECK, BST_UNCHECKED);
+        DDX_ChkBoxEffects(1, &m_save, style);
+        EXPECT_EQ(0xFFFF & ~bit, style[0]);
+        EXPECT_EQ(0xFFFF & ~bit, style[1]);
+
+        style[0] = 0; // the user clicks on into the third state of an effect that is not mixed
+        style[1] = bit;
+        DDX_ChkBoxEffects(1, &m_load, style);
+        Send(kEffectBoxes[i], BM_CLICK);
+        ASSERT_EQ(BST_INDETERMINATE, Send(kEffectBoxes[i], BM_GETCHECK));
+        DDX_ChkBoxEffects(1, &m_save, style);
+        EXPECT_EQ(0, style[0]);
+        EXPECT_EQ(0, style[1]);
+        EXPECT_EQ(BST_UNCHECKED, Send(kEffectBoxes[i], BM_GETCHECK));
+    }
+}
+
+TEST_F(FontExchange, AHeightIsShownAndReadBack) {
+    FillSizes();
+    for (const double height : {2.5, 0.125, 100.0, 2.5}) {
+        double size = height;
+        EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size));
+        size = 0.0;
+        EXPECT_EQ(1, DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size));
+        EXPECT_NEAR(height, size, 1e-9);
+    }
+    EXPECT_EQ(3, Send(IDC_FONT_SIZE, CB_GETCOUNT)) << "each joins once";
+
+    double mixed = HUGE_VAL;
+    const std::string before = SizeText();
+    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, mixed));
+    EXPECT_EQ(before, SizeText()) << "a mixed value leaves the control";
+
+    double size = 7.0;
+    Send(IDC_FONT_SIZE, CB_SETCURSEL, static_cast<WPARAM>(-1));
+    m_dialog.SetDlgItemText(IDC_FONT_SIZE, "4.75");
+    DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size);
+    EXPECT_NEAR(4.75, size, 1e-9) << "a typed text";
+    for (const char* none : {"", "tall", "5 and a half"}) {
+        m_dialog.SetDlgItemText(IDC_FONT_SIZE, none);
+        size = 7.0;
+        EXPECT_EQ(1, DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size));
+        EXPECT_EQ(HUGE_VAL, size) << none;
+    }
+}
+
+TEST_F(FontExchange, FailsWithoutADrawingOrWithoutTheControl) {
+    double size = 2.5;
+    EXPECT_EQ(0, DDX_CBFontSize(0, &m_load, IDC_FONT_SIZE, size)) << "not filled yet";
+    EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size); }));
+    EXPECT_EQ(0, DDX_CBFontSize(0, &m_save, IDC_FONT_STYLE, size)) << "a plain combo";
+    EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_save, IDC_FONT_STYLE, size); }));
+    EXPECT_EQ(2.5, size);
+}
+
+} // namespace
