@@ -14,6 +14,7 @@
 #include "orlo/pages/general_page.h"
 #include "orlo/pages/insert_page.h"
 #include "orlo/pages/line_page.h"
+#include "orlo/pages/text_page.h"
 
 namespace {
 
@@ -38,6 +39,7 @@ void AddOwnPages(GraphicStruct* graphic, CGraphicPropertySheet* sheet) {
         AddPageOnce<CLinePage>(sheet, CLinePage::kTemplate);
         AddPageOnce<CBrushPage>(sheet, CBrushPage::kTemplate);
     }
+    if (graphic->bType == kGraphicText) AddPageOnce<CTextPage>(sheet, CTextPage::kTemplate);
     if (graphic->bType == kGraphicInsert) AddPageOnce<CInsertPage>(sheet, CInsertPage::kTemplate);
 }
 

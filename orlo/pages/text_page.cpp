@@ -1,0 +1,162 @@
+// CTextPage.
+
+#include "orlo/pages/text_page.h"
+
+#include "orlo/binding/ddp.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/controls/control_items.h"
+#include "orlo/controls/font_list.h"
+#include "orlo/controls/font_size_control.h"
+#include "orlo/exchange/ddx.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/text.h"
+#include "orlo/pages/mixed_value.h"
+#include "orlo/pages/scratch_vertex.h"
+
+IMPLEMENT_DYNAMIC(CTextPage, CGraphicPropertyPage)
+
+namespace {
+
+enum : int {
+    kFontCombo = 32000,
+    kSizeCombo = 32001,
+    kStyleCombo = 32002,
+    kColorCombo = 32023,
+    kFirstFormat = 108,
+};
+
+constexpr int kEffectBoxes[] = {103, 104, 105, 106, 107};
+
+constexpr unsigned long kColorByLayer = 0xFFFFFFFD;
+constexpr double kUsualSize = 8.0;
+constexpr int kFaceTextSize = 128;
+constexpr int kSizeTextSize = 256;
+constexpr double kSampleHeight = 2.0;
+
+// What a combo shows: its selected item, else its text.
+CString ShownText(HWND combo) {
+    char text[kSizeTextSize] = "";
+    const ControlItems items = ControlItems::OfCombo(combo);
+    const int selected = items.Selected();
+    if (selected == CB_ERR)
+        ::GetWindowTextA(combo, text, sizeof text);
+    else
+        items.GetText(selected, text, sizeof text);
+    return text;
+}
+
+// Selects the text, which joins the list if it is not there. An item that only begins with it will do.
+int FindOrAdd(HWND combo, const CString& text) {
+    const auto find = [&] {
+        return static_cast<int>(
+            ::SendMessageA(combo, CB_FINDSTRING, 0, reinterpret_cast<LPARAM>(static_cast<LPCSTR>(text))));
+    };
+    const int index = find();
+    if (index != CB_ERR) return index;
+    ControlItems::OfCombo(combo).Add(text);
+    return find();
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CTextPage, CGraphicPropertyPage)
+ON_CBN_SELCHANGE(kFontCombo, &ThisClass::OnFontChange)
+END_MESSAGE_MAP()
+
+CTextPage::CTextPage()
+    : CGraphicPropertyPage(kTemplate, 0), m_dSize(kUsualSize), m_dwColor(kColorByLayer), m_wStyle{0, 0},
+      m_wFormat(0), m_bFirstExchange(1) {}
+
+CTextPage::~CTextPage() = default;
+
+BOOL CTextPage::OnInitDialog() {
+    CGraphicPropertyPage::OnInitDialog();
+    return TRUE;
+}
+
+void CTextPage::DoDataExchange(CDataExchange* pDX) {
+    DDP_Text(pDX, kFontCombo, m_strFont, "TextFont");
+    DDX_CBString(1, pDX, kFontCombo, m_strFont);
+
+    DDP_Text(pDX, kSizeCombo, m_dSize, "TextSize");
+    DDX_CBFontSize(1, pDX, kSizeCombo, m_dSize);
+    if (!IsMixed(m_dSize)) DDV_FontSize(1, pDX, m_dSize);
+
+    DDP_Bits(pDX, kStyleCombo, m_wStyle, "TextStyle");
+    DDX_CBFontStyle(1, pDX, kStyleCombo, m_wStyle);
+
+    DDP_Text(pDX, kColorCombo, m_dwColor, "PenColor");
+    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+
+    // The first exchange comes before there is a status of controls to bind.
+    if (!m_bFirstExchange) {
+        for (const int box : kEffectBoxes)
+            DDP_TextSetAt(pDX, box, m_wStyle, "TextStyle");
+    }
+    DDX_ChkBoxEffects(1, pDX, m_wStyle);
+
+    DDP_Text(pDX, kFirstFormat, m_wFormat, "TextFormat");
+    DDX_Radio(1, pDX, kFirstFormat, m_wFormat);
+
+    DDP_PostProcessing(pDX);
+    m_bFirstExchange = 0;
+}
+
+void CTextPage::OnFontChange() {
+    const HWND faces = ::GetDlgItem(m_hWnd, kFontCombo), sizes = ::GetDlgItem(m_hWnd, kSizeCombo);
+    char face[kFaceTextSize] = "";
+    const ControlItems faceItems = ControlItems::OfCombo(faces), sizeItems = ControlItems::OfCombo(sizes);
+    faceItems.GetText(faceItems.Selected(), face, sizeof face);
+
+    const int selected = sizeItems.Selected();
+    const CString size = ShownText(sizes);
+    const int dirty = GetControlStatus(kSizeCombo); // filling the list is no edit of the height
+    CWnd* const object = CWnd::FromHandlePermanent(sizes);
+    const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
+    const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
+    FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
+    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizes, size));
+    SetControlStatus(kSizeCombo, dirty);
+}
+
+void* CTextPage::CreatePreviewGraphic() {
+    const ScratchVertex vertex;
+    if (vertex.get() == nullptr) return nullptr;
+    GraphicStruct* const graphic = ::GraphicNewEx(kGraphicText, 0, 1);
+    if (graphic == nullptr) return nullptr;
+    char sample[64] = "";
+    ::DrawCoreLoadString(kStringSampleText, sample, sizeof sample);
+    ::TextSetVWHAEx(graphic, vertex.get(), 0.0, kSampleHeight, 0.0, sample);
+    ::TextExternalJustify(graphic, 0);
+    return graphic;
+}
+
+bool CTextPage::IsStyleWanted(int bAll) {
+    if (bAll || GetControlStatus(kStyleCombo)) return true;
+    for (const int box : kEffectBoxes) {
+        if (GetControlStatus(static_cast<unsigned int>(box))) return true;
+    }
+    return false;
+}
+
+void CTextPage::SetPreviewProperties(int bAll) {
+    if (m_pPreviewGraphic == nullptr) return;
+    CDataExchange dx(this, TRUE);
+
+    if (bAll || GetControlStatus(kFontCombo)) {
+        if (DDX_CBString(0, &dx, kFontCombo, m_strFont)) SetPropText("TextFont", m_strFont, 1);
+    }
+    if (bAll || GetControlStatus(kColorCombo)) {
+        unsigned long color = kIndeterminateId;
+        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("PenColor", color, 1);
+    }
+    if (IsStyleWanted(bAll)) {
+        if (DDX_CBFontStyle(0, &dx, kStyleCombo, m_wStyle) && DDX_ChkBoxEffects(0, &dx, m_wStyle))
+            SetPropBits("TextStyle", m_wStyle, 1);
+    }
+    if (bAll || GetControlStatus(kFirstFormat)) {
+        if (DDX_Radio(0, &dx, kFirstFormat, m_wFormat)) SetPropText("TextFormat", m_wFormat, 1);
+    }
+    if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
+}

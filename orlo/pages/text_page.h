@@ -1,0 +1,38 @@
+// The Text page: font, height, font style, colour, effects and justification of the selected texts.
+#pragma once
+
+#include "orlo/export.h"
+#include "orlo/frame/graphic_property_page.h"
+
+class CTextPage : public CGraphicPropertyPage {
+    DECLARE_DYNAMIC(CTextPage)
+
+public:
+    static constexpr unsigned int kTemplate = 29003;
+
+    CTextPage();
+    ~CTextPage() override;
+
+    ORLO_API void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    // The host's sample text.
+    void* CreatePreviewGraphic() override;
+    // All but the height: the preview is fitted to its frame in any case.
+    void SetPreviewProperties(int bAll) override;
+
+protected:
+    // Each font has its own heights. The height that was there stays, whether or not the new font offers it.
+    void OnFontChange();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool IsStyleWanted(int bAll);
+
+    CString m_strFont;
+    double m_dSize;             // drawing units
+    unsigned long m_dwColor;    // of the pen
+    unsigned short m_wStyle[2]; // the bits in which the texts differ, and the bits; see exchange/ddx_font.h
+    unsigned short m_wFormat;   // 0 left, 1 centre, 2 right
+    int m_bFirstExchange;
+};

@@ -1,0 +1,336 @@
+// The Text page in a real sheet: what it shows of equal and mixed texts, what one edit writes and leaves alone, the list of
+// heights of a font, and the preview.
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <commctrl.h>
+
+#include <cmath>
+#include <fstream>
+#include <map>
+#include <string>
+
+#include "drawcore/application.h"
+#include "drawcore/drawing.h"
+#include "drawcore/selection.h"
+#include "drawcore/table.h"
+#include "drawcore/units.h"
+#include "orlo/binding/indeterminate.h"
+#include "orlo/frame/entry.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+#include "orlo/host/text.h"
+#include "orlo/host/units.h"
+#include "orlo/host/viewport.h"
+#include "support/host_frame.h"
+#include "support/message_box_watcher.h"
+#include "support/pixels.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+enum : int {
+    kFont = 32000,
+    kSize = 32001,
+    kStyle = 32002,
+    kColor = 32023,
+    kStrikethrough = 103,
+    kHidden = 104,
+    kAllCaps = 105,
+    kUnderline = 106,
+    kTextBox = 107,
+    kLeft = 108,
+    kCenter = 109,
+    kRight = 110,
+};
+constexpr int kEffects[] = {kStrikethrough, kHidden, kAllCaps, kUnderline, kTextBox};
+constexpr int kEffectBits[] = {0x0004, 0x0008, 0x0040, 0x0100, 0x1000};
+constexpr unsigned int kText = 29003;
+constexpr unsigned int kRed = 0x0000FF, kBlue = 0xFF0000;
+constexpr char kSans[] = "DejaVu Sans", kSerif[] = "DejaVu Serif";
+
+class TextPage : public ::testing::Test {
+protected:
+    TextPage() : frame(kit.Drawing()) {
+        char folder[MAX_PATH];
+        ::GetTempPathA(sizeof folder, folder);
+        ini = std::string(folder) + "text_page.ini";
+        std::ofstream(ini) << "[FontSizes]\nmm=2.5,3.5,5\n";
+        ::AppSetINIFileName(ini.c_str());
+        TableStruct* units = ::DrawingGetTable(kit.Drawing(), "_Units_");
+        ::TableSetStringVar(units, kUnitTextSize, "mm");
+        ::TableSetStringVar(units, kUnitFontName, kSans);
+    }
+    ~TextPage() override {
+        ::AppSetINIFileName(nullptr);
+        ::DeleteFileA(ini.c_str());
+    }
+
+    KitGraphic& Add(const char* font, double size, int style, unsigned int color, int format) {
+        return kit.Add({{"TextFont", font},
+                        {"TextSize", size},
+                        {"TextStyle", style},
+                        {"PenColor", static_cast<double>(color)},
+                        {"TextFormat", format}},
+                       kGraphicText);
+    }
+    void AddMixed() {
+        Add(kSans, 2, 0x2101, kRed, 0); // 0x2000 is none of the page's bits
+        Add(kSerif, 3, 0x0046, kBlue, 2);
+    }
+
+    int Run(const std::function<void(SheetDriver&, CGraphicPropertyPage&)>& script) {
+        TestSheet sheet(kit);
+        for (size_t i = 0; i < kit.Size(); ++i)
+            ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
+        return sheet.Run([&](SheetDriver& user) {
+            auto* page = sheet.Sheet().FindPage(kText);
+            ASSERT_NE(nullptr, page);
+            sheet.Sheet().SetActivePage(page);
+            script(user, static_cast<CGraphicPropertyPage&>(*page));
+        });
+    }
+
+    static int Count(SheetDriver& user, int combo) {
+        return static_cast<int>(::SendMessageA(user.Control(combo), CB_GETCOUNT, 0, 0));
+    }
+    static void ChooseFont(SheetDriver& user, const char* face) {
+        const auto index = ::SendMessageA(user.Control(kFont), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                          reinterpret_cast<LPARAM>(face));
+        ASSERT_LE(0, index);
+        user.Choose(kFont, static_cast<int>(index));
+    }
+
+    GraphicKit kit;
+    HostFrame frame;
+    std::string ini;
+};
+
+TEST_F(TextPage, ShowsEqualTexts) {
+    for (int i = 0; i < 2; ++i)
+        Add(kSerif, 4.25, 0x1146, kBlue, 1);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ(kSerif, user.ItemText(kFont, user.Selection(kFont)));
+                  EXPECT_EQ(0u, user.Text(kSize).find("4.25")) << user.Text(kSize);
+                  EXPECT_LE(0, user.Selection(kSize)) << "a height in no list has joined it";
+                  EXPECT_EQ("Bold", user.ItemText(kStyle, user.Selection(kStyle)));
+                  EXPECT_EQ("00FF0000", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
+                  const int states[] = {BST_CHECKED, BST_UNCHECKED, BST_CHECKED, BST_CHECKED, BST_CHECKED};
+                  for (int i = 0; i < 5; ++i)
+                      EXPECT_EQ(states[i], user.Check(kEffects[i])) << kEffects[i];
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kLeft));
+                  EXPECT_EQ(BST_CHECKED, user.Check(kCenter));
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(TextPage, MixedTextsShowNothingAndSurviveOk) {
+    AddMixed();
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  for (const int combo : {kFont, kSize, kStyle, kColor})
+                      EXPECT_EQ(-1, user.Selection(combo)) << combo;
+                  EXPECT_EQ("", user.Text(kSize));
+                  const int mixed[] = {kAllCaps, kUnderline, kStrikethrough};
+                  for (const int box : mixed)
+                      EXPECT_EQ(BST_INDETERMINATE, user.Check(box)) << box;
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kHidden));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kTextBox));
+                  for (const int button : {kLeft, kCenter, kRight})
+                      EXPECT_EQ(BST_UNCHECKED, user.Check(button)) << button;
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+// Of two texts whose styles differ in every bit, one effect after the other is set; all other bits stay each text's own.
+TEST_F(TextPage, AnEffectChangesItsBitAlone) {
+    KitGraphic& a = Add(kSans, 2, 0, kRed, 0);
+    KitGraphic& b = Add(kSans, 2, 0, kRed, 0);
+    for (int i = 0; i < 5; ++i) {
+        for (const int clicks : {1, 2}) { // out of the mixed state to off, and on to on
+            SCOPED_TRACE(kEffects[i] * 10 + clicks);
+            a.properties["TextStyle"] = 0x2A15;
+            b.properties["TextStyle"] = 0xFFFF & ~0x2A15;
+            a.writes.clear();
+            b.writes.clear();
+            EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                          for (int click = 0; click < clicks; ++click)
+                              user.Click(kEffects[i]);
+                          user.Ok();
+                      }));
+            const int bit = kEffectBits[i], set = clicks == 2 ? bit : 0;
+            EXPECT_EQ((0x2A15 & ~bit) | set, a.Number("TextStyle"));
+            EXPECT_EQ((0xFFFF & ~0x2A15 & ~bit) | set, b.Number("TextStyle"));
+            EXPECT_EQ(1u, a.writes.size());
+        }
+    }
+}
+
+TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
+    KitGraphic& a = Add(kSans, 2, 0x2101, kRed, 0);
+    KitGraphic& b = Add(kSans, 2, 0x0046, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ(4, Count(user, kStyle));
+                  user.Choose(kStyle, 3);
+                  user.Ok();
+              }));
+    EXPECT_EQ(0x2103, a.Number("TextStyle"));
+    EXPECT_EQ(0x0047, b.Number("TextStyle"));
+}
+
+TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
+    AddMixed();
+    struct {
+        const char* property;
+        std::function<void(SheetDriver&)> edit;
+        KitValue expected;
+    } const edits[] = {
+        {"TextFont", [](SheetDriver& user) { ChooseFont(user, kSerif); }, kSerif},
+        {"TextSize", [](SheetDriver& user) { user.Type(kSize, "7.5"); }, 7.5},
+        {"PenColor", [](SheetDriver& user) { user.Choose(kColor, 0); }, 0x333333},
+        {"TextFormat", [](SheetDriver& user) { user.Click(kCenter); }, 1},
+    };
+    const std::map<std::string, KitValue> before[] = {kit[0].properties, kit[1].properties};
+    for (const auto& edit : edits) {
+        SCOPED_TRACE(edit.property);
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      edit.edit(user);
+                      user.Ok();
+                  }));
+        for (size_t i = 0; i < 2; ++i) {
+            auto expected = before[i];
+            expected[edit.property] = edit.expected;
+            EXPECT_EQ(expected, kit[i].properties);
+            EXPECT_EQ(1u, kit[i].writes.size()) << "no other property is written";
+            kit[i].properties = before[i];
+            kit[i].writes.clear();
+        }
+    }
+}
+
+TEST_F(TextPage, AThirdStateOfAnEffectThatIsNotMixedIsOff) {
+    KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Click(kHidden); // from checked into the third state
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(kHidden))
+                      << "taken back as soon as the preview follows";
+                  user.Ok();
+              }));
+    EXPECT_EQ(0, text.Number("TextStyle"));
+}
+
+TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
+    KitGraphic& text = Add(kSans, 4.25, 0, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ(4, Count(user, kSize)) << "three configured, and the text's own";
+                  const std::string height = user.Text(kSize);
+                  ChooseFont(user, kSerif);
+                  EXPECT_EQ(4, Count(user, kSize));
+                  EXPECT_EQ(height, user.ItemText(kSize, user.Selection(kSize)));
+                  user.Type(kSize, "9.5");
+                  ChooseFont(user, kSans);
+                  EXPECT_EQ(4, Count(user, kSize)) << "the typed height instead";
+                  EXPECT_EQ("9.5", user.ItemText(kSize, user.Selection(kSize)));
+                  user.Ok();
+              }));
+    EXPECT_EQ(9.5, text.Number("TextSize"));
+    EXPECT_EQ(kSans, text.Text("TextFont"));
+}
+
+TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
+    AddMixed();
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+                  ChooseFont(user, kSerif);
+                  EXPECT_EQ("", user.Text(kSize)) << "the heights are mixed still";
+                  EXPECT_FALSE(page.GetControlStatus(kSize));
+                  user.Ok();
+              }));
+    EXPECT_EQ(2, kit[0].Number("TextSize"));
+    EXPECT_EQ(3, kit[1].Number("TextSize"));
+    EXPECT_EQ(kSerif, kit[0].Text("TextFont"));
+}
+
+TEST_F(TextPage, AHeightOutOfRangeKeepsThePage) {
+    Add(kSans, 2, 0, kRed, 0);
+    MessageBoxWatcher boxes;
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kSize, "0");
+                  user.Ok();
+                  EXPECT_EQ("Please enter a valid font size.", boxes.OnlyText());
+                  EXPECT_EQ("0", user.Text(kSize));
+                  user.Cancel();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
+    Add(kSans, 2, 0, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kSize, "tall");
+                  user.Click(kRight);
+                  user.Ok();
+              }));
+    EXPECT_EQ(2, kit[0].Number("TextSize"));
+    EXPECT_EQ(2, kit[0].Number("TextFormat"));
+}
+
+TEST_F(TextPage, CancelWritesNothing) {
+    AddMixed();
+    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  ChooseFont(user, kSerif);
+                  user.Type(kSize, "7.5");
+                  user.Choose(kStyle, 2);
+                  for (const int box : kEffects)
+                      user.Click(box);
+                  user.Click(kCenter);
+                  user.Cancel();
+              }));
+    EXPECT_EQ(0, kit.Writes());
+}
+
+TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
+    kit.Add({}, kGraphicText);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ(0u, user.Text(kSize).find("8")) << user.Text(kSize);
+                  EXPECT_EQ("FFFFFFFD", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
+                  EXPECT_EQ(BST_CHECKED, user.Check(kLeft));
+                  user.Ok();
+              }));
+}
+
+// The sample is drawn by the host from what the controls show.
+TEST_F(TextPage, ThePreviewFollowsTheControls) {
+    Add(kSans, 2, 0, kRed, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        ViewportStruct* viewport = ::ViewportNewEx();
+        Pixels pixels(160, 80);
+        const auto ink = [&] {
+            pixels.Clear(RGB(255, 255, 255));
+            CRect rect(0, 0, 160, 80);
+            page.DrawPreview(CDC::FromHandle(pixels.DC()), viewport, rect);
+            return pixels.CountWhere({0, 0, 160, 80}, [](COLORREF c) { return c != RGB(255, 255, 255); });
+        };
+        const int plain = ink();
+        EXPECT_LT(50, plain);
+        user.Choose(kStyle, 2);
+        EXPECT_LT(plain, ink()) << "bold";
+        user.Choose(kStyle, 0);
+        EXPECT_EQ(plain, ink());
+        user.Click(kUnderline);
+        const int underlined = ink();
+        EXPECT_NE(plain, underlined);
+        user.Click(kHidden);
+        EXPECT_EQ(0, ink());
+        user.Click(kHidden);
+        EXPECT_EQ(underlined, ink()) << "the third state counts as off";
+        ChooseFont(user, kSerif);
+        EXPECT_NE(underlined, ink());
+        ::ViewportDispose(&viewport);
+        user.Cancel();
+    });
+}
+
+} // namespace
