@@ -2,32 +2,46 @@
 
 #include "demo/control_tables.h"
 
+#include <algorithm>
+
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/host/drawing.h"
+#include "orlo/host/table.h"
+#include "orlo/host/units.h"
 
 namespace {
 
+// Kinds of controls: the identifiers of their notifications.
+enum : UINT { kFontFaces = 0x7D00, kStyleNames = 0x7D0F };
+
 struct ControlTable {
-    UINT kind; // of the control: the identifier of its notifications
+    UINT kind;
     const char* table;
-    unsigned int selected; // nothing yet: the page selects what the graphics have
+    unsigned int selected; // 0, or a colour that is none: the page selects what the graphics have
 };
 
 constexpr ControlTable kTables[] = {
-    {0x7D05, "_Colors_", 0xFFFFFFFE}, {0x7D04, "_LineStyles_", 0},  {0x7D15, "_LineStyles_", 0},
-    {0x7D07, "_BrushStyles_", 0},     {0x7D18, "_BrushStyles_", 0}, {0x7D08, "_Layers_", 0},
+    {kFontFaces, "_Units_", 1},   {0x7D01, "_Units_", 0},       {0x7D04, "_LineStyles_", 0},
+    {0x7D05, "_Colors_", ~1u},    {0x7D07, "_BrushStyles_", 0}, {0x7D08, "_Layers_", 0},
+    {kStyleNames, "_Blocks_", 0}, {0x7D15, "_LineStyles_", 0},  {0x7D18, "_BrushStyles_", 0},
 };
 
 } // namespace
 
-bool FillStyleControl(WPARAM wParam, LPARAM lParam, DrawingStruct* drawing) {
-    if (HIWORD(wParam) != kControlReady || !drawing) return false;
-    for (const ControlTable& row : kTables) {
-        if (LOWORD(wParam) != row.kind) continue;
-        const ControlFillRecord fill = {::DrawingGetTable(drawing, row.table), 0, row.selected};
-        ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
-        return true;
+bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
+    if (HIWORD(wParam) != kControlReady || !document) return false;
+    const auto row = std::find_if(std::begin(kTables), std::end(kTables),
+                                  [&](const ControlTable& table) { return table.kind == LOWORD(wParam); });
+    if (row == std::end(kTables)) return false;
+    DrawingStruct* drawing = document->Drawing();
+    ControlFillRecord fill = {::DrawingGetTable(drawing, row->table), 0, row->selected};
+    char face[256] = "";
+    if (row->kind == kFontFaces) {
+        ::TableGetStringVar(drawing->pUnits, kUnitFontName, face, sizeof face);
+        fill.dwValue = reinterpret_cast<UINT_PTR>(face);
     }
-    return false;
+    if (row->kind == kStyleNames) fill.nSelected = document->Styles().Current();
+    ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
+    return true;
 }

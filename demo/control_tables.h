@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include "orlo/host/records.h"
+#include "demo/document.h"
 
-// Answers the notification of a control. False: it was none that asks for a table.
-bool FillStyleControl(WPARAM wParam, LPARAM lParam, DrawingStruct* drawing);
+// Answers the notification of a control. False: it was none that asks for a table, or nothing is open.
+bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document);

@@ -61,7 +61,7 @@ std::unique_ptr<Document> Document::Open(const std::string& path, const Progress
 }
 
 Document::Document(const std::string& path, DrawingStruct* drawing)
-    : m_path(path), m_drawing(drawing), m_root(::DrawingGetRoot(drawing)) {}
+    : m_path(path), m_drawing(drawing), m_root(::DrawingGetRoot(drawing)), m_styles(drawing) {}
 
 Document::~Document() {
     m_selection.Clear(); // before its members go

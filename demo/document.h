@@ -1,4 +1,4 @@
-// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, and undo.
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, and undo.
 #pragma once
 
 #include <functional>
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "demo/selection.h"
+#include "demo/style_book.h"
 #include "orlo/host/drawing.h"
 
 // what(): the file's name and what is wrong with it, with the line where it can be told. UTF-8.
@@ -37,6 +38,8 @@ public:
     DrawingStruct* Drawing() const { return m_drawing; }
     GraphicStruct* Root() const { return m_root; }
     Selection& Selected() { return m_selection; }
+    StyleBook& Styles() { return m_styles; }
+    const StyleBook& Styles() const { return m_styles; }
     std::optional<WorldBox> Extents() const { return ExtentsOf(m_root); }
 
     // In the order of drawing: those that are seen and can be selected.
@@ -61,4 +64,5 @@ private:
     DrawingStruct* m_drawing;
     GraphicStruct* m_root;
     Selection m_selection;
+    StyleBook m_styles;
 };

@@ -8,21 +8,24 @@
 #include "demo/file_name.h"
 #include "demo/property_sheet.h"
 #include "demo/resource.h"
+#include "demo/style_commands.h"
 
 namespace {
 
 constexpr const char* kTitle = "Orlo Demo";
 constexpr const char* kOpenFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
-constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift adds\n"
-                              "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
-                              "Tab\tselect the next one; Ctrl+A all, Esc none\n"
-                              "Double click, Alt+Enter\tproperties of the selection\n"
-                              "Ctrl+Z\ttake the last change back\n"
-                              "\n"
-                              "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
-                              "Middle button, arrows\tmove the drawing\n"
-                              "Ctrl+O\topen a drawing";
+constexpr const char* kKeys =
+    "Click\tselect; Ctrl adds or takes away, Shift adds\n"
+    "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
+    "Tab\tselect the next one; Ctrl+A all, Esc none\n"
+    "Double click, Alt+Enter\tproperties of the selection\n"
+    "Ctrl+Z\ttake the last change back\n"
+    "Ctrl+N\tnew style after the selection; Ctrl+Enter edits it, Ctrl+E applies it\n"
+    "\n"
+    "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
+    "Middle button, arrows\tmove the drawing\n"
+    "Ctrl+O\topen a drawing";
 
 std::string Counted(int count, const char* one) {
     return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
@@ -47,6 +50,9 @@ ON_COMMAND(ID_EDIT_SELECT_NEXT, &CMainFrame::OnSelectNext)
 ON_COMMAND(ID_EDIT_SELECT_PREVIOUS, &CMainFrame::OnSelectPrevious)
 ON_COMMAND(ID_EDIT_SELECT_NONE, &CMainFrame::OnSelectNone)
 ON_COMMAND(ID_EDIT_PROPERTIES, &CMainFrame::OnProperties)
+ON_COMMAND(ID_STYLE_NEW, &CMainFrame::OnNewStyle)
+ON_COMMAND(ID_STYLE_PROPERTIES, &CMainFrame::OnStyleProperties)
+ON_COMMAND(ID_STYLE_APPLY, &CMainFrame::OnApplyStyle)
 ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
 ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
 ON_COMMAND(ID_VIEW_FIT_ALL, &CMainFrame::OnFitAll)
@@ -144,7 +150,7 @@ void CMainFrame::OnAppExit() {
 // ---- Editing
 
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (lParam && FillStyleControl(wParam, lParam, m_document ? m_document->Drawing() : nullptr)) return TRUE;
+    if (lParam && FillStyleControl(wParam, lParam, m_document.get())) return TRUE;
     return CFrameWnd::OnCommand(wParam, lParam);
 }
 
@@ -171,6 +177,24 @@ void CMainFrame::OnEditUndo() {
     m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
     m_view.Redraw();
 }
+
+// ---- Styles
+
+void CMainFrame::OnNewStyle() {
+    if (CanDo(ID_STYLE_NEW)) m_status.ShowMessage(NewStyle(this, *m_document));
+}
+
+void CMainFrame::OnStyleProperties() {
+    if (CanDo(ID_STYLE_PROPERTIES)) m_status.ShowMessage(EditStyles(this, *m_document));
+}
+
+void CMainFrame::OnApplyStyle() {
+    if (!CanDo(ID_STYLE_APPLY)) return;
+    m_status.ShowMessage(ApplyStyle(*m_document));
+    m_view.Redraw();
+}
+
+// ---- Selecting
 
 void CMainFrame::OnSelectAll() {
     m_view.SelectAll();
@@ -226,6 +250,11 @@ bool CMainFrame::CanDo(UINT command) const {
     switch (command) {
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
+    case ID_STYLE_PROPERTIES:
+        return m_document && m_document->Styles().Current() != 0;
+    case ID_STYLE_APPLY:
+        return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
+    case ID_STYLE_NEW:
     case ID_EDIT_PROPERTIES:
     case ID_EDIT_SELECT_NONE:
     case ID_VIEW_FIT_SELECTION:

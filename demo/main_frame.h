@@ -43,6 +43,9 @@ protected:
     afx_msg void OnSelectPrevious();
     afx_msg void OnSelectNone();
     afx_msg void OnProperties();
+    afx_msg void OnNewStyle();
+    afx_msg void OnStyleProperties();
+    afx_msg void OnApplyStyle();
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnFitAll();

@@ -1,4 +1,4 @@
-// The library's sheet over the selection of a document.
+// The library's sheet over a set of graphics.
 
 #include "demo/property_sheet.h"
 
@@ -8,10 +8,9 @@
 #include "drawcore/regen.h"
 #include "orlo/frame/entry.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/graphic.h"
 
 namespace {
-
-constexpr unsigned long kAllGraphics = 0xFFFFFFFF;
 
 struct RegenMethodsDeleter {
     void operator()(void* methods) const { ::RegenMethodsDispose(&methods); }
@@ -20,17 +19,23 @@ using RegenMethods = std::unique_ptr<void, RegenMethodsDeleter>;
 
 } // namespace
 
-SheetOutcome EditSelection(CWnd* owner, Document& document) {
+int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags) {
     const RegenMethods methods(::RegenMethodsNew());
-    Selection& selection = document.Selected();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(owner, methods.get(), document.Drawing(), selection.Set(), kAllGraphics));
-    if (!sheet) return {-1, 0};
-    for (GraphicStruct* graphic : selection.Members())
-        ::AddGraphicPropertyPage(methods.get(), graphic, sheet.get());
+        ::InitGraphicPropertySheet(owner, methods.get(), drawing, set, flags));
+    if (!sheet) return -1;
+    uint32_t position = 0;
+    for (GraphicStruct* g = ::GraphicFirst(set, &position, 1, flags); g;
+         g = ::GraphicNext(set, &position, 1, flags))
+        ::AddGraphicPropertyPage(methods.get(), g, sheet.get());
+    return static_cast<int>(sheet->DoModal());
+}
 
-    SheetOutcome outcome;
+SheetOutcome EditSelection(CWnd* owner, Document& document) {
+    SheetOutcome outcome = {};
     // A cancelled sheet may have written too: a page writes when it is left for another one.
-    outcome.changed = document.Change([&] { outcome.code = static_cast<int>(sheet->DoModal()); });
+    outcome.changed = document.Change([&] {
+        outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kSelectionSheet);
+    });
     return outcome;
 }

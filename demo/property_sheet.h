@@ -1,14 +1,24 @@
-// The library's sheet over the selection of a document.
+// The library's sheet over the selection of a document, or over any set of graphics.
 #pragma once
 
 #include <afxwin.h>
 
+#include "orlo/host/records.h"
+
 class Document;
 
+// Flags of a sheet. All kinds of graphics count; the bit that is missing in the second one gives the General page its style
+// part.
+constexpr unsigned long kSelectionSheet = 0xFFFFFFFF;
+constexpr unsigned long kStyleSheet = 0xFFFFFFFB;
+
+// Shows the sheet with the pages that the members of the set deserve and waits until it is closed. owner is the main window,
+// which fills the sheet's controls. IDOK, IDCANCEL, an end code of a page, or -1: the sheet could not be shown.
+int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
+
 struct SheetOutcome {
-    int code = 0;    // IDOK, IDCANCEL, an end code of a page, or -1: the sheet could not be shown
-    int changed = 0; // graphics; one step of undo takes them back
+    int code;    // as RunSheet gives it
+    int changed; // graphics; one step of undo takes them back
 };
 
-// Shows the sheet and waits until it is closed. owner is the main window, which fills the sheet's controls.
 SheetOutcome EditSelection(CWnd* owner, Document& document);

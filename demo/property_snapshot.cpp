@@ -146,6 +146,18 @@ std::string ReadWhole(const PropertyReader& reader, const char* name) {
     return reader.Read(name, VT_UI2, value) ? std::to_string(value) : "";
 }
 
+std::string ReadBrush(const PropertyReader& reader, const char* name) {
+    uint16_t style;
+    if (!reader.Read(name, VT_UI2, style)) return "";
+    return style ? EntryName(reader, "_BrushStyles_", style) : HostText(kStringNoBrush);
+}
+
+std::string ReadStyleTree(const PropertyReader& reader, const char* name) {
+    uint16_t style;
+    if (!reader.Read(name, VT_UI2, style)) return "";
+    return style ? EntryName(reader, "_Blocks_", style) : "none";
+}
+
 std::string ReadLayer(const PropertyReader& reader, const char* name) {
     uint16_t layer;
     return reader.Read(name, VT_UI2, layer) ? EntryName(reader, "_Layers_", layer) : "";
@@ -162,13 +174,14 @@ std::string ReadText(const PropertyReader& reader, const char* name) {
 constexpr PropertyRow kProperties[] = {
     {"BrushAngle", ReadDouble},   {"BrushColor", ReadColor},
     {"BrushDrawMode", ReadWhole}, {"BrushScale", ReadDouble},
-    {"BrushStyle", ReadWhole},    {"HatchCross", ReadSwitch},
+    {"BrushStyle", ReadBrush},    {"HatchCross", ReadSwitch},
     {"Info", ReadText},           {"Layer", ReadLayer},
     {"PenAlignment", ReadSwitch}, {"PenColor", ReadColor},
     {"PenScale", ReadDouble},     {"PenStyle", ReadStyle},
     {"PenWidth", ReadWidth},      {"ScaleSystem", ReadScaleSystem},
-    {"TextFont", ReadText},       {"TextFormat", ReadWhole},
-    {"TextSize", ReadDouble},     {"TextStyle", ReadWhole},
+    {"StyleTree", ReadStyleTree}, {"TextFont", ReadText},
+    {"TextFormat", ReadWhole},    {"TextSize", ReadDouble},
+    {"TextStyle", ReadWhole},
 };
 
 } // namespace

@@ -42,14 +42,16 @@ private:
 
 } // namespace
 
-// A modal window that is expected, and what is to be played in it.
+// Modal windows that are expected, and what is to be played in them.
 struct UserInput::Dialog {
     const HWND before; // was active
-    const std::function<void(HWND)>& script;
-    HWND window = nullptr; // once it is there
+    const std::vector<Script>& scripts;
+    size_t begun = 0;      // scripts
+    HWND window = nullptr; // the last one that came up
     ULONGLONG played = 0;  // when the script ended
     std::exception_ptr thrown;
 
+    bool Awaits() const { return begun < scripts.size() && !::IsWindow(window); }
     void Begin();
     void GiveUp();
 
@@ -138,26 +140,30 @@ void UserInput::Wheel(HWND window, CPoint point, int notches) {
     Wait(m_pause);
 }
 
-void UserInput::InDialog(const std::function<void()>& open, const std::function<void(HWND)>& script) {
-    Dialog dialog{::GetActiveWindow(), script, nullptr, 0, nullptr};
+void UserInput::InDialog(const std::function<void()>& open, const Script& script) {
+    InDialogs(open, {script});
+}
+
+void UserInput::InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts) {
+    Dialog dialog{::GetActiveWindow(), scripts, 0, nullptr, 0, nullptr};
     Dialog* const outer = Dialog::awaited;
     Dialog::awaited = &dialog;
     const UINT_PTR timer = ::SetTimer(nullptr, 0, 20, OnTimer);
     open();
     const ULONGLONG end = ::GetTickCount64() + kPatience;
-    while (!dialog.window && ::GetTickCount64() < end)
+    while (dialog.begun < scripts.size() && !dialog.thrown && ::GetTickCount64() < end)
         Wait(20);
     ::KillTimer(nullptr, timer);
     Dialog::awaited = outer;
     if (dialog.thrown) std::rethrow_exception(dialog.thrown);
-    if (!dialog.window) throw std::runtime_error("no window came up");
+    if (dialog.begun < scripts.size()) throw std::runtime_error("no window came up");
     Wait(m_pause);
 }
 
 // No exception crosses the system's frames: it is kept and thrown again behind the modal loop.
 void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     Dialog* dialog = Dialog::awaited;
-    if (dialog && !dialog->window)
+    if (dialog && dialog->Awaits())
         dialog->Begin();
     else if (dialog && dialog->played && ::GetTickCount64() > dialog->played + kPatience)
         dialog->GiveUp();
@@ -165,11 +171,12 @@ void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 
 void UserInput::Dialog::Begin() {
     const HWND active = ::GetActiveWindow();
-    if (!active || active == before || !::IsWindowVisible(active)) return;
+    if (thrown || !active || active == before || !::IsWindowVisible(active)) return;
     window = active;
+    played = 0;
     const HeldKeys released(kNone); // those that have opened it
     try {
-        script(window);
+        scripts[begun++](window);
     } catch (...) {
         thrown = std::current_exception();
         ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class UserInput {
 public:
@@ -37,7 +38,10 @@ public:
 
     // Opens a modal window by `open`, plays `script` in its message loop, and returns when it is closed. Throws
     // std::runtime_error if no window comes up, and what the script throws; the window is cancelled then.
-    void InDialog(const std::function<void()>& open, const std::function<void(HWND)>& script);
+    using Script = std::function<void(HWND)>;
+    void InDialog(const std::function<void()>& open, const Script& script);
+    // The same for modal windows that come one behind the other, with a script for each.
+    void InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts);
 
 private:
     struct Dialog;

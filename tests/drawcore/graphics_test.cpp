@@ -22,6 +22,22 @@ std::vector<GraphicStruct*> Walk(GraphicStruct* set, uint32_t filter = 0xFFFFFFF
 
 using List = std::vector<GraphicStruct*>;
 
+TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
+    Balance balance;
+    GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicSetStyleName(content, std::string("Doors").c_str());
+    GraphicStruct* copy = GraphicCopyEx(content, 0, 0, 7);
+    GraphicSetStyleName(content, "Windows");
+    EXPECT_STREQ("Windows", content->pszStyleName);
+    EXPECT_STREQ("Doors", copy->pszStyleName);
+    GraphicDispose(&content);
+    EXPECT_STREQ("Doors", copy->pszStyleName);
+    GraphicSetStyleName(copy, "");
+    EXPECT_EQ(nullptr, copy->pszStyleName);
+    GraphicDispose(&copy);
+    EXPECT_TRUE(balance.IsEven());
+}
+
 TEST(Graphics, AreMadeByType) {
     Balance balance;
     for (const int type : {2, 6, 0x0B, 0x11}) {

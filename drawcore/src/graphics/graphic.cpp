@@ -58,6 +58,7 @@ Graphic::Graphic(const Graphic& other)
     ++Census::graphics;
     pParent = nullptr;
     dwFlags |= kFlagNoParent;
+    if (other.styleName_) SetStyleName(other.styleName_->c_str());
 }
 
 Graphic::~Graphic() {
@@ -111,6 +112,11 @@ void Graphic::Attach(Drawing* drawing) {
 
 Drawing* Graphic::GetDrawing() const {
     return Drawing::Find(drawing_);
+}
+
+void Graphic::SetStyleName(const char* name) {
+    styleName_ = name && *name ? std::make_unique<std::string>(name) : nullptr;
+    pszStyleName = styleName_ ? styleName_->c_str() : nullptr;
 }
 
 void Graphic::Changing() {

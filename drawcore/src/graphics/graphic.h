@@ -70,6 +70,9 @@ public:
     void ChangedLook() { dwFlags |= kFlagDirty; }
     void ChangedShape();
 
+    // The record's pszStyleName, from then on a copy of the text. A program may also have put a text of its own there.
+    void SetStyleName(const char* name);
+
     const Extents& GetExtents() const; // with members
     void ForgetExtents();              // and those of all that hold it
 
@@ -100,6 +103,7 @@ private:
     friend class Block;
 
     std::vector<std::unique_ptr<Graphic>> parts_;
+    std::unique_ptr<std::string> styleName_;
     Drawing* drawing_ = nullptr;
     mutable Extents extents_;
     mutable bool extentsKnown_ = false;

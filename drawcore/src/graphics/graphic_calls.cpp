@@ -136,6 +136,10 @@ void GraphicSetVtbl(GraphicStruct* graphic, const PropertyTable* table) {
     if (graphic) Graphic::From(graphic)->propertyTable = table;
 }
 
+void GraphicSetStyleName(GraphicStruct* graphic, const char* name) {
+    if (graphic) Graphic::From(graphic)->SetStyleName(name);
+}
+
 void GraphicSetDirty(GraphicStruct* graphic, int dirty) {
     if (!graphic) return;
     if (dirty)

@@ -1,0 +1,61 @@
+// The styles of an open drawing, and which of them is the current one.
+//
+// A style is a block of the table "_Blocks_" whose contents carry the name of the demo's style tree. Its contents are two
+// samples, a shape and a text, whose attributes are the style's; a sheet over the contents edits them.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "orlo/host/records.h"
+
+class StyleBook {
+public:
+    static constexpr size_t kLongestName = 32;
+
+    // What of a graphic a style decides.
+    struct Parts {
+        bool pen, brush, text;
+    };
+
+    explicit StyleBook(DrawingStruct* drawing) : m_drawing(drawing) {}
+
+    TableStruct* Table() const;
+    std::vector<uint16_t> All() const; // in the order of the table
+    bool IsStyle(uint16_t id) const;
+    std::string Name(uint16_t id) const;
+    GraphicStruct* Content(uint16_t id) const;
+    // Graphics of the drawing that have been put into the style.
+    int Uses(uint16_t id) const;
+
+    uint16_t Current() const { return m_current; } // 0: none
+    void SetCurrent(uint16_t id) { m_current = id; }
+
+    // What keeps the name from being a new style's; empty if nothing does.
+    std::string WhyNot(const std::string& name) const;
+    // The parts that one of the graphics has.
+    static Parts PartsOf(const std::vector<GraphicStruct*>& graphics);
+    // Of each part the first graphic that has it is the example, null without one.
+    struct Examples {
+        GraphicStruct *pen, *brush, *text;
+    };
+    static Examples ExamplesOf(const std::vector<GraphicStruct*>& graphics);
+
+    // Makes a style after the graphics and makes it the current one. 0 if the name is none for a new style.
+    uint16_t Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts);
+    // A style has come into the table as a copy of the current one: makes it the current one. 0 if none has.
+    uint16_t TakeAdded();
+    // False, with nothing changed, if graphics use it.
+    bool Delete(uint16_t id);
+    // Gives the graphics the current style's parts.
+    void ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const;
+
+private:
+    void Enter(uint16_t id, Parts parts);
+
+    DrawingStruct* m_drawing;
+    std::map<uint16_t, Parts> m_parts;
+    uint16_t m_current = 0;
+};

@@ -1,0 +1,210 @@
+// Styles in the viewer: the wizard that makes one, the sheet over a style with its end codes, and applying.
+
+#include <afxdlgs.h>
+
+#include "demo/resource.h"
+#include "demo/viewer.h"
+#include "support/message_box_watcher.h"
+
+namespace {
+
+constexpr int kStyleCombo = 32015, kNewButton = 102, kDeleteButton = 103, kColorCombo = 32005, kInfo = 101;
+constexpr int kBack = 100, kNext = 101;
+
+HWND PageOf(HWND sheet) {
+    auto* object = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(sheet));
+    return object ? object->GetActivePage()->m_hWnd : nullptr;
+}
+
+HWND OnPage(HWND sheet, int id) {
+    return ::GetDlgItem(PageOf(sheet), id);
+}
+
+std::string TextOf(HWND window) {
+    char text[512] = "";
+    ::GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+class Styles : public Viewer {
+protected:
+    Styles() { user.Key('A', UserInput::kControl); }
+
+    StyleBook& styles() { return document().Styles(); }
+    std::string current() { return styles().Current() ? styles().Name(styles().Current()) : ""; }
+    void SelectOnly(WorldPoint point) { user.Click(view(), Pixel(point.x, point.y)); }
+
+    // By the wizard, with the parts as it suggests them.
+    void Make(const std::string& name) {
+        user.InDialog([&] { user.Key('N', UserInput::kControl); },
+                      [&](HWND wizard) {
+                          user.Type(name);
+                          for (int i = 0; i < 3; ++i)
+                              user.Click(::GetDlgItem(wizard, kNext));
+                      });
+        ASSERT_EQ(name, current());
+    }
+    void InStyleSheets(const std::vector<UserInput::Script>& scripts) {
+        user.InDialogs([&] { user.Key(VK_RETURN, UserInput::kControl); }, scripts);
+    }
+    void TypeStyle(HWND sheet, const std::string& name) {
+        const HWND combo = OnPage(sheet, kStyleCombo);
+        ::SetFocus(combo);
+        ::SendMessageA(combo, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+        user.Type(name);
+    }
+    void Close(HWND sheet) { user.Click(::GetDlgItem(sheet, IDCANCEL)); }
+};
+
+TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
+    user.InDialog([&] { user.Key('N', UserInput::kControl); },
+                  [&](HWND wizard) {
+                      user.Type("  Walls ");
+                      user.Click(::GetDlgItem(wizard, kNext));
+                      user.Key(VK_TAB, UserInput::kShift);
+                      user.Key(VK_TAB, UserInput::kShift); // from the button over Back to the list
+                      ASSERT_EQ(IDC_STYLE_PARTS, ::GetDlgCtrlID(::GetFocus()));
+                      user.Key(VK_DOWN);
+                      user.Key(VK_SPACE); // not the brush
+                      user.Click(::GetDlgItem(wizard, kNext));
+                      const std::string summary = TextOf(OnPage(wizard, IDC_STYLE_SUMMARY));
+                      EXPECT_NE(std::string::npos, summary.find("\"Walls\""));
+                      EXPECT_NE(std::string::npos, summary.find("Pen: Red")) << summary;
+                      EXPECT_NE(std::string::npos, summary.find("Brush: as each")) << summary;
+                      user.Click(::GetDlgItem(wizard, kBack));
+                      user.Click(::GetDlgItem(wizard, kNext));
+                      EXPECT_EQ(summary, TextOf(OnPage(wizard, IDC_STYLE_SUMMARY)));
+                      user.Key(VK_RETURN); // the last page: Finish
+                  });
+    EXPECT_EQ("Walls", current());
+    EXPECT_EQ(1u, styles().All().size());
+}
+
+TEST_F(Styles, NeedANameOfTheirOwn) {
+    Make("Walls");
+    user.InDialog([&] { user.Key('N', UserInput::kControl); },
+                  [&](HWND wizard) {
+                      const HWND edit = OnPage(wizard, IDC_STYLE_NAME_EDIT);
+                      for (const auto& [name, fault] :
+                           std::vector<std::pair<std::string, std::string>>{{"", "needs a name"},
+                                                                            {"   ", "needs a name"},
+                                                                            {"walls", "already"},
+                                                                            {"standard", "reserved"}}) {
+                          ::SetWindowTextA(edit, name.c_str());
+                          MessageBoxWatcher boxes;
+                          user.Click(::GetDlgItem(wizard, kNext));
+                          EXPECT_NE(std::string::npos, boxes.OnlyText().find(fault)) << boxes.OnlyText();
+                          EXPECT_TRUE(::IsWindowVisible(edit)) << name;
+                          EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(wizard, kBack)));
+                          EXPECT_EQ(edit, ::GetFocus());
+                      }
+                      ::SetWindowTextA(edit, "");
+                      user.Type(std::string(40, 'x'));
+                      EXPECT_EQ(32u, TextOf(edit).size());
+                      user.Key(VK_ESCAPE);
+                  });
+    EXPECT_EQ(1u, styles().All().size());
+    EXPECT_NE("", styles().WhyNot(std::string(33, 'x')));
+}
+
+TEST_F(Styles, AreAppliedAsOneStep) {
+    SelectOnly({10, 5}); // the red line
+    Make("Red");
+    user.Key('A', UserInput::kControl);
+    const PropertySnapshot before = Properties();
+    user.Key('E', UserInput::kControl);
+    EXPECT_EQ((std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}), Properties().Values("PenColor"))
+        << "a style without a text part leaves the text alone";
+    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values("StyleTree"));
+    user.Key('Z', UserInput::kControl);
+    EXPECT_TRUE(before == Properties());
+    EXPECT_EQ(0, document().UndoSteps());
+}
+
+TEST_F(Styles, AreEditedInTheSheetAndApplied) {
+    SelectOnly({10, 5});
+    Make("Red");
+    const PropertySnapshot drawing = Properties();
+    InStyleSheets({[&](HWND sheet) {
+        EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, kStyleCombo)));
+        EXPECT_EQ("Red", TextOf(OnPage(sheet, kStyleCombo)));
+        user.Key(VK_TAB, UserInput::kControl); // the Pen page
+        const HWND colors = OnPage(sheet, kColorCombo);
+        ASSERT_NE(nullptr, colors);
+        ::SetFocus(colors);
+        user.Keys(VK_DOWN, 3);
+        user.Click(::GetDlgItem(sheet, IDOK));
+    }});
+    EXPECT_TRUE(drawing == Properties()) << "the style, not what it was made after";
+    user.Key('E', UserInput::kControl);
+    EXPECT_EQ(1u, drawing.Values("PenColor").count("Red"));
+    EXPECT_EQ(0u, Properties().Values("PenColor").count("Red"));
+}
+
+TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {
+    Make("Red");
+    user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
+                  [&](HWND sheet) {
+                      EXPECT_FALSE(::IsWindowVisible(OnPage(sheet, kStyleCombo)));
+                      Close(sheet);
+                  });
+}
+
+TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
+    Make("Red");
+    InStyleSheets({[&](HWND sheet) {
+                       TypeStyle(sheet, "Blue");
+                       user.Click(OnPage(sheet, kNewButton));
+                   },
+                   [&](HWND sheet) {
+                       EXPECT_EQ("Blue", TextOf(OnPage(sheet, kStyleCombo)));
+                       Close(sheet);
+                   }});
+    EXPECT_EQ("Blue", current());
+    EXPECT_EQ(2u, styles().All().size());
+}
+
+TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
+    Make("Red");
+    Make("Blue");
+    InStyleSheets({[&](HWND sheet) {
+                       TypeStyle(sheet, "Red");
+                       user.Click(
+                           OnPage(sheet, kInfo)); // leaves the combo: the sheet comes again over that style
+                   },
+                   [&](HWND sheet) {
+                       EXPECT_EQ("Red", TextOf(OnPage(sheet, kStyleCombo)));
+                       EXPECT_EQ("Red", current());
+                       TypeStyle(sheet, "Blue");
+                       user.Click(::GetDlgItem(sheet, IDOK));
+                   }});
+    EXPECT_EQ("Blue", current()) << "and the sheet stayed closed";
+}
+
+TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
+    Make("Red");
+    Make("Blue");
+    const auto erase = [&](const char* name, int answer) {
+        MessageBoxWatcher boxes(answer);
+        InStyleSheets({[&](HWND sheet) {
+            TypeStyle(sheet, name);
+            user.Click(OnPage(sheet, kDeleteButton));
+        }});
+        return boxes.OnlyText();
+    };
+    EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDNO));
+    EXPECT_EQ(2u, styles().All().size());
+    EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDYES));
+    EXPECT_EQ(1u, styles().All().size());
+    EXPECT_EQ("Blue", current());
+
+    user.Key('E', UserInput::kControl);
+    EXPECT_EQ("The style \"Blue\" stays: 4 graphics use it.", erase("Blue", IDOK));
+    EXPECT_EQ(1u, styles().All().size());
+    user.Key('Z', UserInput::kControl);
+    erase("Blue", IDYES);
+    EXPECT_EQ("", current());
+    EXPECT_TRUE(styles().All().empty());
+}
+
+} // namespace
