@@ -80,6 +80,20 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
     }
 }
 
+// A face that the Text page can select: one that the system has, not a name that something else stands for.
+TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
+    GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
+    char current[64] = "";
+    EXPECT_TRUE(TableGetStringVar(drawing.Table("_Units_"), kUnitFontName, current, sizeof current));
+    EXPECT_EQ(GetText(text, "TextFont"), current);
+    const HDC dc = ::GetDC(nullptr);
+    const FONTENUMPROCA found = [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) { return 77; };
+    EXPECT_EQ(::EnumFontFamiliesA(dc, current, found, 0), 77) << current;
+    ::ReleaseDC(nullptr, dc);
+    EXPECT_TRUE(SetText(text, "TextFont", "Nobody's Face"));
+    EXPECT_EQ(GetText(text, "TextFont"), "Nobody's Face") << "what it was told, whoever draws it";
+}
+
 TEST_F(Texts, ShowTheirEffects) {
     GraphicStruct* text = Text("nnnn", 10, 50, 10);
     const auto covered = [&](uint16_t style) {

@@ -4,9 +4,11 @@
 #include "drawcore/src/database/application.h"
 #include "drawcore/src/database/live.h"
 #include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/units/unit_settings.h"
 #include "orlo/host/drawing.h"
+#include "orlo/host/units.h"
 
 namespace drawcore {
 
@@ -21,6 +23,7 @@ Drawing::Drawing()
     AddTable(kBlocksTable, std::make_unique<BlockTable>(this));
     Table* units = AddTable(kUnitsTable, std::make_unique<Table>(this));
     UnitSettings().Store(*units);
+    units->SetVariable(kUnitFontName, TextFace::Get({}, 0).Name());
     pUnits = units;
     root_->Attach(this);
 }

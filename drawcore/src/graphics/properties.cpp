@@ -10,6 +10,7 @@
 #include <wtypes.h>
 
 #include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "orlo/host/memory.h"
 
@@ -151,6 +152,12 @@ using InPen = At<&Graphic::pen, field>;
 template <auto field>
 using InBrush = At<&Graphic::brush, field>;
 
+// A text of the default face tells which one that is here.
+const char* GetFont(const Graphic& graphic) {
+    const std::string& font = InText<&TextState::font>::In(graphic);
+    return font.empty() ? TextFace::Get(font, 0).Name().c_str() : font.c_str();
+}
+
 constexpr auto kAnyStyle = Within<0, kStyleByLayer>;
 constexpr auto kAnyEntry = Within<0, kHighestId>;
 constexpr auto kYesOrNo = Within<0, 1>;
@@ -173,9 +180,7 @@ constexpr Property kProperties[] = {
     Whole<InPen<&Pen::scaleSystem>, IsScaleSystem>("ScaleSystem", kOfShape),
     Whole<Own<&Graphic::styleTree>, kAnyEntry>("StyleTree", kOfAll),
     Text("TextFont", kOfText,
-         {[](const Graphic& g) { return InText<&TextState::font>::In(g).c_str(); },
-          [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }},
-         true),
+         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }}, true),
     Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>("TextFormat", kOfText, true),
     Real<InText<&TextState::height>, IsPositive>("TextSize", kOfText, true),
     Whole<InText<&TextState::style>, Within<0, 0xFFFF>>("TextStyle", kOfText, true),

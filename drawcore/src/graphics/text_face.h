@@ -26,6 +26,8 @@ public:
     // The way from each letter to the next, in the font's units; their sum is the length.
     std::vector<int> Steps(std::wstring_view row) const;
 
+    // The face that the system has given for the name asked for.
+    const std::string& Name() const { return name_; }
     // The font to draw with, and the height of its capital letters in logical units.
     HFONT Font() const { return font_; }
     int CapitalHeight() const { return capital_; }
@@ -35,6 +37,7 @@ private:
     TextFace(const std::string& name, uint16_t style);
 
     HFONT font_;
+    std::string name_;
     int capital_ = 1;
     double descent_ = 0;
 };

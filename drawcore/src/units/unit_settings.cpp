@@ -30,7 +30,6 @@ void UnitSettings::Store(Table& units) const {
     units.SetVariable(kUnitMillimetre, std::string("mm"));
     units.SetVariable(kUnitTextSize, textSizeUnit);
     units.SetVariable(kUnitPenWidth, penWidthUnit);
-    units.SetVariable(kUnitFontName, fontName);
     units.SetVariable(kUnitLinearSystem, static_cast<int>(lengthSystem));
     units.SetVariable(kUnitLinearDigits, lengthDigits);
     units.SetVariable(kUnitAngularSystem, static_cast<int>(angleSystem));

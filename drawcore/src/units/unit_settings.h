@@ -14,7 +14,6 @@ struct UnitSettings {
     std::string drawingUnit = "mm";
     std::string textSizeUnit = "mm";
     std::string penWidthUnit = "mm";
-    std::string fontName = "Arial";
     LengthSystem lengthSystem = LengthSystem::Decimal;
     int lengthDigits = 4;
     AngleSystem angleSystem = AngleSystem::Degrees;
