@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <stdexcept>
+
 namespace {
 
 thread_local SheetDriver* playing = nullptr;
@@ -26,12 +28,14 @@ void PressKeyboardState(UINT virtualKey, bool down) {
 int SheetDriver::Run(CPropertySheet& sheet, Script script) {
     m_sheet = &sheet;
     m_script = std::move(script);
+    m_played = false;
     playing = this;
     const UINT_PTR timer = ::SetTimer(nullptr, 0, 1, OnTimer);
     const int result = static_cast<int>(sheet.DoModal());
     ::KillTimer(nullptr, timer);
     playing = nullptr;
     if (m_thrown) std::rethrow_exception(m_thrown);
+    if (!m_played) throw std::runtime_error("the sheet did not open");
     return result;
 }
 
@@ -43,6 +47,7 @@ void CALLBACK SheetDriver::OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
 // No exception crosses the system's frames: it is kept and thrown again behind the modal loop. The closing Cancel is posted:
 // if the script has ended the loop already, nobody takes it.
 void SheetDriver::Play() {
+    m_played = true;
     try {
         Pump();
         m_script(*this);
@@ -53,10 +58,18 @@ void SheetDriver::Play() {
     ::PostMessageA(m_sheet->m_hWnd, WM_COMMAND, IDCANCEL, 0);
 }
 
-HWND SheetDriver::Sheet() const { return m_sheet->m_hWnd; }
-HWND SheetDriver::Page() const { return m_sheet->GetActivePage()->m_hWnd; }
-HWND SheetDriver::Control(int id) const { return ::GetDlgItem(Page(), id); }
-int SheetDriver::ActivePage() const { return m_sheet->GetActiveIndex(); }
+HWND SheetDriver::Sheet() const {
+    return m_sheet->m_hWnd;
+}
+HWND SheetDriver::Page() const {
+    return m_sheet->GetActivePage()->m_hWnd;
+}
+HWND SheetDriver::Control(int id) const {
+    return ::GetDlgItem(Page(), id);
+}
+int SheetDriver::ActivePage() const {
+    return m_sheet->GetActiveIndex();
+}
 
 void SheetDriver::Pump() {
     MSG message;
@@ -84,8 +97,12 @@ void SheetDriver::ClickSheetButton(int id) {
     Pump();
 }
 
-void SheetDriver::Ok() { ClickSheetButton(IDOK); }
-void SheetDriver::Cancel() { ClickSheetButton(IDCANCEL); }
+void SheetDriver::Ok() {
+    ClickSheetButton(IDOK);
+}
+void SheetDriver::Cancel() {
+    ClickSheetButton(IDCANCEL);
+}
 
 void SheetDriver::Focus(int id) {
     ::SetFocus(Control(id));
@@ -97,14 +114,16 @@ void SheetDriver::Type(int id, const std::string& text) {
     const HWND field = ::GetFocus(); // the edit field inside a combo, or the edit itself
     ::SendMessageA(field, EM_SETSEL, 0, -1);
     if (text.empty()) ::SendMessageA(field, WM_CLEAR, 0, 0);
-    for (const char character : text) ::PostMessageA(field, WM_CHAR, static_cast<unsigned char>(character), 1);
+    for (const char character : text)
+        ::PostMessageA(field, WM_CHAR, static_cast<unsigned char>(character), 1);
     Pump();
 }
 
 void SheetDriver::Choose(int id, int index) {
     Focus(id);
     Key(VK_HOME);
-    for (int i = 0; i < index; ++i) Key(VK_DOWN);
+    for (int i = 0; i < index; ++i)
+        Key(VK_DOWN);
 }
 
 void SheetDriver::Key(UINT virtualKey, bool shift, bool control) {
@@ -123,7 +142,9 @@ void SheetDriver::Mnemonic(char letter) {
     Pump();
 }
 
-std::string SheetDriver::Text(int id) const { return WindowText(Control(id)); }
+std::string SheetDriver::Text(int id) const {
+    return WindowText(Control(id));
+}
 
 bool SheetDriver::IsCombo(int id) const {
     char name[32] = "";
@@ -135,7 +156,9 @@ int SheetDriver::Selection(int id) const {
     return static_cast<int>(::SendMessageA(Control(id), IsCombo(id) ? CB_GETCURSEL : LB_GETCURSEL, 0, 0));
 }
 
-int SheetDriver::Check(int id) const { return static_cast<int>(::SendMessageA(Control(id), BM_GETCHECK, 0, 0)); }
+int SheetDriver::Check(int id) const {
+    return static_cast<int>(::SendMessageA(Control(id), BM_GETCHECK, 0, 0));
+}
 
 std::string SheetDriver::ItemText(int id, int index) const {
     const LRESULT length = ::SendMessageA(Control(id), CB_GETLBTEXTLEN, index, 0);

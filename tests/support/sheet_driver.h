@@ -18,7 +18,7 @@ class SheetDriver {
 public:
     using Script = std::function<void(SheetDriver&)>;
 
-    // DoModal's result. A sheet that is still open when the script has ended is cancelled.
+    // DoModal's result. A sheet that is still open when the script has ended is cancelled. Throws if it does not open.
     int Run(CPropertySheet& sheet, Script script);
 
     HWND Sheet() const;
@@ -54,4 +54,5 @@ private:
     CPropertySheet* m_sheet = nullptr;
     Script m_script;
     std::exception_ptr m_thrown;
+    bool m_played = false; // the script has begun
 };

@@ -1,0 +1,142 @@
+// All pages in one sheet over real graphics of every kind.
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include "drawcore/census.h"
+#include "drawcore/undo.h"
+#include "pages/every_kind.h"
+#include "support/database_dump.h"
+#include "support/host_frame.h"
+#include "support/message_box_watcher.h"
+#include "support/object_counts.h"
+#include "support/sheet_driver.h"
+
+namespace {
+
+using Titles = std::vector<std::string>;
+
+class AllPages : public ::testing::Test {
+protected:
+    AllPages() : frame(kinds.Drawing()) {}
+
+    static Titles TitlesOf(CPropertySheet& sheet) {
+        Titles titles;
+        for (int i = 0; i < sheet.GetPageCount(); ++i) {
+            char title[64] = "";
+            TCITEMA item = {};
+            item.mask = TCIF_TEXT;
+            item.pszText = title;
+            item.cchTextMax = sizeof title;
+            sheet.GetTabControl()->SendMessage(TCM_GETITEMA, i, reinterpret_cast<LPARAM>(&item));
+            titles.emplace_back(title);
+        }
+        return titles;
+    }
+
+    std::vector<std::string> Dump() const { return DumpDrawing(kinds.Drawing()); }
+
+    EveryKind kinds;
+    HostFrame frame;
+};
+
+TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
+    const std::pair<int, Titles> rows[] = {
+        {0, {"General"}},
+        {kShapes, {"General", "Pen", "Brush"}},
+        {kTexts, {"General", "Text"}},
+        {kInsertions, {"General", "Block Insertion"}},
+        {kShapes | kInsertions, {"General", "Pen", "Brush", "Block Insertion"}},
+        {kEverything, {"General", "Pen", "Brush", "Text", "Block Insertion"}},
+    };
+    for (const auto& [content, titles] : rows) {
+        EveryKind some;
+        some.Select(content);
+        const auto sheet = some.NewSheet();
+        SheetDriver().Run(*sheet,
+                          [&, wanted = titles](SheetDriver&) { EXPECT_EQ(wanted, TitlesOf(*sheet)); });
+    }
+}
+
+// Every page is seen, and left by its tab; in the end OK.
+TEST_F(AllPages, UntouchedPagesWriteNothing) {
+    kinds.Select(kEverything);
+    const std::vector<std::string> before = Dump();
+    for (const bool ok : {true, false}) {
+        ::DrawingBeginUndo(kinds.Drawing());
+        auto sheet = kinds.NewSheet();
+        SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+            for (int page = 0; page < sheet->GetPageCount(); ++page) {
+                user.SelectPage(page);
+                EXPECT_EQ(page, user.ActivePage());
+            }
+            user.SelectPage(0);
+            ok ? user.Ok() : user.Cancel();
+        });
+        sheet.reset(); // with the block of its preview
+        EXPECT_EQ(0, ::DrawingEndUndo(kinds.Drawing()));
+        EXPECT_EQ("", FirstDifference(before, Dump()));
+    }
+}
+
+TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
+    struct {
+        int page, control;
+        const char* text;
+    } const rows[] = {
+        {1, 104, "thick"}, {2, 105, "wide"}, {3, 32001, "-4"}, {4, 101, "5000"}, {4, 107, "far"}};
+    kinds.Select(kEverything);
+    const std::vector<std::string> before = Dump();
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        auto sheet = kinds.NewSheet();
+        SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+            const MessageBoxWatcher boxes;
+            user.SelectPage(row.page);
+            user.Type(row.control, row.text);
+            user.SelectPage(0);
+            EXPECT_EQ(row.page, user.ActivePage());
+            EXPECT_EQ(row.text, user.Text(row.control));
+            const HWND focus = ::GetFocus();
+            EXPECT_TRUE(focus == user.Control(row.control) || ::IsChild(user.Control(row.control), focus));
+            EXPECT_FALSE(boxes.Boxes().empty());
+        });
+        sheet.reset();
+        EXPECT_EQ("", FirstDifference(before, Dump()));
+    }
+}
+
+TEST_F(AllPages, FiveHundredSheetsLeaveNothingBehind) {
+    kinds.Select(kEverything);
+    const auto openAndClose = [&] {
+        const auto sheet = kinds.NewSheet();
+        SheetDriver().Run(*sheet, [&](SheetDriver&) {
+            for (int page = 1; page < sheet->GetPageCount(); ++page)
+                sheet->SetActivePage(page);
+        });
+    };
+    for (int i = 0; i < 3; ++i)
+        openAndClose();
+    const std::vector<std::string> before = Dump();
+    DrawCoreCensus held, now;
+    ::DrawCoreGetCensus(&held);
+    const int gdi = GdiObjectCount(), windows = UserObjectCount();
+    for (int i = 0; i < 500; ++i)
+        openAndClose();
+    ::DrawCoreGetCensus(&now);
+    EXPECT_EQ(gdi, GdiObjectCount());
+    EXPECT_EQ(windows, UserObjectCount());
+    EXPECT_EQ(held.blocks, now.blocks);
+    EXPECT_EQ(held.graphics, now.graphics);
+    EXPECT_EQ(held.vertices, now.vertices);
+    EXPECT_EQ(held.viewports, now.viewports);
+    EXPECT_EQ("", FirstDifference(before, Dump()));
+}
+
+} // namespace

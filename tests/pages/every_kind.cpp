@@ -1,0 +1,83 @@
+// EveryKind.
+
+#include "pages/every_kind.h"
+
+#include "drawcore/selection.h"
+#include "orlo/frame/entry.h"
+
+namespace {
+
+constexpr uint16_t kCross = 6; // of the brush styles of a new drawing
+
+GraphicStruct* NewOutline(double size) {
+    GraphicStruct* outline = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    VertexStruct* vertex = ::VertexNewEx(0, 0, 0);
+    for (const auto& [x, y] : {std::pair(0.0, 0.0), {size, 0.0}, {size, size}, {0.0, 0.0}}) {
+        ::VertexSet(vertex, x, y, 0);
+        ::GraphicVertexAdd(outline, vertex);
+    }
+    ::VertexDispose(&vertex);
+    return outline;
+}
+
+} // namespace
+
+EveryKind::EveryKind()
+    : m_selection(::SelectionNew()),
+      m_block(::BlocksAddBlock(::BlocksFromDrawing(m_drawing.Get()), "Window", NewOutline(1))) {}
+
+EveryKind::~EveryKind() {
+    ::GraphicDispose(&m_selection);
+}
+
+void EveryKind::Select(int content) {
+    for (int i = 0; i < 2; ++i) {
+        if (content & kShapes) AddShape(i);
+        if (content & kTexts) AddText(i);
+        if (content & kInsertions) AddInsertion(i);
+    }
+}
+
+void EveryKind::Add(GraphicStruct* graphic) {
+    ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing.Get()), graphic));
+}
+
+void EveryKind::AddShape(int i) {
+    GraphicStruct* shape = NewOutline(10 + i);
+    ::GraphicSetPenColor(shape, i ? RGB(255, 0, 0) : RGB(0, 0, 255));
+    ::GraphicSetPenWidth(shape, 0.01 * (i + 1));
+    ::GraphicSetBrushStyle(shape, kCross); // or the page had nothing to type into
+    ::GraphicSetBrushScale(shape, i + 1.0);
+    Add(shape);
+}
+
+void EveryKind::AddText(int i) {
+    GraphicStruct* text = ::GraphicNewEx(kGraphicText, 0, 1);
+    VertexStruct* vertex = ::VertexNewEx(0, i, 0);
+    ::TextSetVWHAEx(text, vertex, 0, i + 1.0, 0, i ? "Section" : "Plan");
+    ::VertexDispose(&vertex);
+    Add(text);
+}
+
+void EveryKind::AddInsertion(int i) {
+    GraphicStruct* insertion = ::GraphicNewEx(kGraphicInsert, 0, 1);
+    VertexStruct* vertex = ::VertexNewEx(5.0 * i, 3, 0);
+    MatrixStruct* turned = ::MatrixRotateZ(nullptr, 0.5 * (i + 1), 0);
+    MatrixStruct* placed = ::MatrixOffset(turned, vertex);
+    ::InsertSetData(insertion, ::BlocksFromDrawing(m_drawing.Get()), m_block, placed);
+    ::MatrixDispose(&turned);
+    ::MatrixDispose(&placed);
+    ::VertexDispose(&vertex);
+    Add(insertion);
+}
+
+std::unique_ptr<CGraphicPropertySheet> EveryKind::NewSheet() const {
+    ::PropPageInit();
+    std::unique_ptr<CGraphicPropertySheet> sheet(
+        ::InitGraphicPropertySheet(nullptr, nullptr, Drawing(), m_selection, 0xFFFFFFFF));
+    uint32_t position;
+    for (GraphicStruct* graphic = ::GraphicFirst(m_selection, &position, 1, 0xFFFFFFFF); graphic != nullptr;
+         graphic = ::GraphicNext(m_selection, &position, 1, 0xFFFFFFFF))
+        ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
+    return sheet;
+}
