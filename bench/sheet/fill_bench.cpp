@@ -1,4 +1,4 @@
-// Filling the colour list with the host's colours, against inserting a list that is sorted already, redraw off.
+// Filling the lists of colours and layers with the host's tables, against inserting a list that is sorted already, redraw off.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -17,7 +17,8 @@
 
 namespace {
 
-constexpr int kColorCombo = 32005; // which the window class turns into a colour control
+constexpr int kColorCombo = 32005; // identifiers by which the window class makes its controls
+constexpr int kLayerCombo = 32008;
 constexpr DWORD kComboStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
 
@@ -44,27 +45,41 @@ protected:
     }
 };
 
-class Colors {
+class OwnDrawing {
 public:
-    explicit Colors(int n) : m_drawing(::DrawingNew()), m_table(::DrawingGetTable(m_drawing, "_Colors_")) {
-        int cookie;
-        while (const uint16_t id = ::TableEntryFirst(m_table, &cookie))
-            ::TableEntryDelete(m_table, id);
-        std::mt19937 random(7);
-        for (int i = 0; i < n; ++i) {
-            COLORREF color = random() & 0xFFFFFF;
-            ::TableEntryAdd(m_table, ("Color " + std::to_string(i)).c_str(), &color);
-        }
-    }
-    ~Colors() { ::DrawingDispose(&m_drawing); }
-    Colors(const Colors&) = delete;
-    Colors& operator=(const Colors&) = delete;
+    OwnDrawing() : m_drawing(::DrawingNew()) {}
+    ~OwnDrawing() { ::DrawingDispose(&m_drawing); }
+    OwnDrawing(const OwnDrawing&) = delete;
+    OwnDrawing& operator=(const OwnDrawing&) = delete;
 
-    TableStruct* Table() const { return m_table; }
+    TableStruct* Table(const char* name) const { return ::DrawingGetTable(m_drawing, name); }
 
 private:
     DrawingStruct* m_drawing;
-    TableStruct* m_table;
+};
+
+void MakeColors(TableStruct* table, int n) {
+    int cookie;
+    while (const uint16_t id = ::TableEntryFirst(table, &cookie))
+        ::TableEntryDelete(table, id);
+    std::mt19937 random(7);
+    for (int i = 0; i < n; ++i) {
+        COLORREF color = random() & 0xFFFFFF;
+        ::TableEntryAdd(table, ("Color " + std::to_string(i)).c_str(), &color);
+    }
+}
+
+void MakeLayers(TableStruct* table, int n) {
+    for (int i = 1; i < n; ++i)
+        ::TableEntryAdd(table, ("Layer " + std::to_string(i * 7919 % n)).c_str(), nullptr);
+}
+
+// A list of the library and the table that it shows.
+struct List {
+    const char* name;
+    int combo;
+    const char* table;
+    void (*make)(TableStruct* table, int n);
 };
 
 std::vector<std::string> ItemsOf(HWND combo) {
@@ -89,11 +104,12 @@ struct Fill {
     int draws, measures;
 };
 
-Fill FillWith(int n) {
-    const Colors colors(n);
+Fill FillWith(const List& list, int n) {
+    const OwnDrawing drawing;
+    list.make(drawing.Table(list.table), n);
     Parent parent;
-    const HWND ours = parent.Add("QXComboBox", kColorCombo), plain = parent.Add("COMBOBOX", 1);
-    const ControlFillRecord record = {colors.Table(), 0, 0xFFFFFFFE};
+    const HWND ours = parent.Add("QXComboBox", list.combo), plain = parent.Add("COMBOBOX", 1);
+    const ControlFillRecord record = {drawing.Table(list.table), 0, 0xFFFFFFFE};
     const auto fill = [&] { ::SendMessageA(ours, kFillMessage, 0, reinterpret_cast<LPARAM>(&record)); };
     fill();
     const std::vector<std::string> items = ItemsOf(ours);
@@ -116,14 +132,20 @@ Fill FillWith(int n) {
 } // namespace
 
 void BenchFill() {
-    Pair before{};
-    for (const int n : {256, 1000, 10000}) {
-        const Fill fill = FillWith(n);
-        const std::string name = "fill_colors_" + std::to_string(n);
-        Print(name.c_str(), fill.pair.ratio, "x_presorted_insertion");
-        Print((name + "_draw_requests").c_str(), fill.draws, "when_dropped");
-        Print((name + "_measure_requests").c_str(), fill.measures, "in_a_fill");
-        if (n == 10000) Print("fill_colors_growth", fill.pair.seconds / before.seconds, "x_for_10n");
-        before = fill.pair;
+    const List lists[] = {{"fill_colors_", kColorCombo, "_Colors_", MakeColors},
+                          {"fill_layers_", kLayerCombo, "_Layers_", MakeLayers}};
+    for (const List& list : lists) {
+        Pair before{};
+        for (const int n : {256, 1000, 10000}) {
+            const Fill fill = FillWith(list, n);
+            const std::string name = list.name + std::to_string(n);
+            Print(name.c_str(), fill.pair.ratio, "x_presorted_insertion");
+            Print((name + "_draw_requests").c_str(), fill.draws, "when_dropped");
+            Print((name + "_measure_requests").c_str(), fill.measures, "in_a_fill");
+            if (n == 10000)
+                Print((std::string(list.name) + "growth").c_str(), fill.pair.seconds / before.seconds,
+                      "x_for_10n");
+            before = fill.pair;
+        }
     }
 }

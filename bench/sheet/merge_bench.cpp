@@ -18,13 +18,13 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// A drawing of n vertex graphics, all selected.
+// A drawing of n graphics of one type, all selected.
 class Crowd {
 public:
-    explicit Crowd(int n) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
+    Crowd(int n, int type) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
         for (int i = 0; i < n; ++i)
             ::SelectionAdd(m_selection,
-                           ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1)));
+                           ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(type, 0, 1)));
     }
     ~Crowd() {
         ::GraphicDispose(&m_selection);
@@ -113,17 +113,36 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
     return results;
 }
 
-Results MeasureCrowd(int n) {
-    const Crowd crowd(n);
-    Results results{};
+// The bits of the effects and styles of texts, merged bit by bit.
+Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
+    unsigned short bits[2] = {};
+    return Compare(
+        kRounds, [&] { page.GetPropBits("TextStyle", bits, 0); },
+        [&] {
+            unsigned all = 0;
+            BareLoop(selection, "TextStyle",
+                     [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                         uint16_t value = 0;
+                         table->PropGet(graphic, number, VT_UI2, &value);
+                         all |= value;
+                     });
+            bits[1] = static_cast<unsigned short>(all);
+        });
+}
+
+// In a sheet over n graphics of that type.
+template <class Measuring>
+auto MeasureCrowd(int n, int type, Measuring measure) {
+    const Crowd crowd(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), 0xFFFFFFFF));
     auto* page = new ExchangePage([](CDataExchange*) {});
     sheet->AddPage(page);
+    decltype(measure(*page, crowd.Selection())) results{};
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         user.SelectPage(1);
-        results = Measure(*page, crowd.Selection());
+        results = measure(*page, crowd.Selection());
     });
     return results;
 }
@@ -131,7 +150,8 @@ Results MeasureCrowd(int n) {
 } // namespace
 
 void BenchMerge() {
-    const Results small = MeasureCrowd(100000), large = MeasureCrowd(1000000);
+    const Results small = MeasureCrowd(100000, kGraphicVertices, Measure);
+    const Results large = MeasureCrowd(1000000, kGraphicVertices, Measure);
     Print("merge_number_1000000", large.number.ratio, "x_bare_host_calls");
     Print("merge_number_growth", large.number.seconds / small.number.seconds, "x_for_10n");
     Print("merge_text_1000000", large.text.ratio, "x_bare_host_calls");
@@ -141,4 +161,9 @@ void BenchMerge() {
     Print("write_number_growth", large.writeNumber.seconds / small.writeNumber.seconds, "x_for_10n");
     Print("write_text_1000000", large.writeText.ratio, "x_bare_host_calls");
     Print("write_text_growth", large.writeText.seconds / small.writeText.seconds, "x_for_10n");
+
+    const Pair fewTexts = MeasureCrowd(100000, kGraphicText, MeasureBits);
+    const Pair texts = MeasureCrowd(1000000, kGraphicText, MeasureBits);
+    Print("merge_text_style_1000000", texts.ratio, "x_bare_host_calls");
+    Print("merge_text_style_growth", texts.seconds / fewTexts.seconds, "x_for_10n");
 }
