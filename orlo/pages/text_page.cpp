@@ -111,13 +111,11 @@ void CTextPage::OnFontChange() {
 
     const int selected = sizeItems.Selected();
     const CString size = ShownText(sizes);
-    const int dirty = GetControlStatus(kSizeCombo); // filling the list is no edit of the height
     CWnd* const object = CWnd::FromHandlePermanent(sizes);
     const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
     const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
     FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
     sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizes, size));
-    SetControlStatus(kSizeCombo, dirty);
 }
 
 void* CTextPage::CreatePreviewGraphic() {

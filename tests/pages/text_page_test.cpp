@@ -241,16 +241,26 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
 }
 
 TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
-    AddMixed();
-    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-                  ChooseFont(user, kSerif);
-                  EXPECT_EQ("", user.Text(kSize)) << "the heights are mixed still";
-                  EXPECT_FALSE(page.GetControlStatus(kSize));
-                  user.Ok();
-              }));
-    EXPECT_EQ(2, kit[0].Number("TextSize"));
-    EXPECT_EQ(3, kit[1].Number("TextSize"));
-    EXPECT_EQ(kSerif, kit[0].Text("TextFont"));
+    KitGraphic& a = Add(kSans, 4, 0, kRed, 0);
+    KitGraphic& b = Add(kSans, 4, 0, kRed, 0);
+    for (const double second : {3.0, 4.0}) { // mixed, equal
+        b.properties["TextSize"] = second;
+        for (KitGraphic* text : {&a, &b}) {
+            text->properties["TextFont"] = kSans;
+            text->writes.clear();
+        }
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+                      const std::string height = user.Text(kSize);
+                      ChooseFont(user, kSerif);
+                      EXPECT_EQ(height, user.Text(kSize));
+                      EXPECT_FALSE(page.GetControlStatus(kSize));
+                      user.Ok();
+                  }));
+        for (const KitGraphic* text : {&a, &b}) {
+            EXPECT_EQ(1u, text->writes.size()) << "the font alone";
+            EXPECT_EQ(kSerif, text->Text("TextFont"));
+        }
+    }
 }
 
 TEST_F(TextPage, AHeightOutOfRangeKeepsThePage) {
