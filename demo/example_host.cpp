@@ -7,11 +7,27 @@
 #include <drawcore/dxf.h>
 #include <orlo.h>
 
+const char* TableOfControl(unsigned int kind) {
+    switch (kind) {
+    case 0x7D05:
+        return "_Colors_";
+    case 0x7D07:
+    case 0x7D18:
+        return "_BrushStyles_";
+    case 0x7D08:
+        return "_Layers_";
+    case 0x7D0F:
+        return "_Blocks_";
+    default:
+        return "_LineStyles_"; // of fonts the drawing alone counts
+    }
+}
+
 class CHostFrame : public CFrameWnd {
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         if (HIWORD(wParam) != kControlReady) return CFrameWnd::OnCommand(wParam, lParam);
-        const char* table = LOWORD(wParam) == 0x7D05 ? "_Colors_" : "_LineStyles_";
-        const ControlFillRecord fill = {DrawingGetTable(AppGetCurrentApp()->pCurrentDrawing, table), 0, 0};
+        DrawingStruct* drawing = AppGetCurrentApp()->pCurrentDrawing;
+        const ControlFillRecord fill = {DrawingGetTable(drawing, TableOfControl(LOWORD(wParam))), 0, 0};
         ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }
@@ -25,9 +41,11 @@ int wmain(int, wchar_t** argv) {
     DrawingStruct* drawing = DrawingOpenDxf(argv[1], nullptr, nullptr, 0);
     AppSetCurrentDrawing(drawing);
     GraphicStruct* all = DrawingGetRoot(drawing);
-    CGraphicPropertySheet* sheet = InitGraphicPropertySheet(application.m_pMainWnd, nullptr, drawing, all, 0xFFFFFFFF);
+    CGraphicPropertySheet* sheet =
+        InitGraphicPropertySheet(application.m_pMainWnd, nullptr, drawing, all, 0xFFFFFFFF);
     uint32_t place;
-    for (GraphicStruct* g = GraphicFirst(all, &place, 1, 0xFFFFFFFF); g; g = GraphicNext(all, &place, 1, 0xFFFFFFFF))
+    for (GraphicStruct* g = GraphicFirst(all, &place, 1, 0xFFFFFFFF); g;
+         g = GraphicNext(all, &place, 1, 0xFFFFFFFF))
         AddGraphicPropertyPage(nullptr, g, sheet);
     const int code = sheet->DoModal(); // 1: OK, and the drawing has changed
     delete sheet;                      // with its pages and previews; the drawing stays the host's

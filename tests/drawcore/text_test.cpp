@@ -80,6 +80,10 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
     }
 }
 
+int CALLBACK Found(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) {
+    return 77;
+}
+
 // A face that the Text page can select: one that the system has, not a name that something else stands for.
 TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
@@ -87,8 +91,7 @@ TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     EXPECT_TRUE(TableGetStringVar(drawing.Table("_Units_"), kUnitFontName, current, sizeof current));
     EXPECT_EQ(GetText(text, "TextFont"), current);
     const HDC dc = ::GetDC(nullptr);
-    const FONTENUMPROCA found = [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) { return 77; };
-    EXPECT_EQ(::EnumFontFamiliesA(dc, current, found, 0), 77) << current;
+    EXPECT_EQ(::EnumFontFamiliesA(dc, current, Found, 0), 77) << current;
     ::ReleaseDC(nullptr, dc);
     EXPECT_TRUE(SetText(text, "TextFont", "Nobody's Face"));
     EXPECT_EQ(GetText(text, "TextFont"), "Nobody's Face") << "what it was told, whoever draws it";
