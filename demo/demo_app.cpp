@@ -3,6 +3,7 @@
 #include "demo/demo_app.h"
 
 #include "demo/main_frame.h"
+#include "demo/round_trip.h"
 #include "demo/tour.h"
 #include "drawcore/application.h"
 #include "orlo/frame/entry.h"
@@ -37,8 +38,10 @@ BOOL CDemoApp::InitInstance() {
 }
 
 int CDemoApp::Run() {
-    if (m_options.tourFolder.empty()) return CWinApp::Run();
-    const bool played = Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing);
+    if (m_options.tourFolder.empty() && m_options.checked.empty()) return CWinApp::Run();
+    const bool played = m_options.checked.empty()
+                            ? Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing)
+                            : RoundTrip(*Frame()).Check(m_options.checked);
     Frame()->DestroyWindow();
     return ExitInstance() != 0 || !played;
 }

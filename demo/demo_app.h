@@ -4,12 +4,14 @@
 #include <afxwin.h>
 
 #include <string>
+#include <vector>
 
 class CMainFrame;
 
 struct DemoOptions {
-    std::string drawing;    // empty: none
-    std::string tourFolder; // empty: no tour
+    std::string drawing;              // empty: none
+    std::string tourFolder;           // empty: no tour
+    std::vector<std::string> checked; // drawings to take through all pages and back
 };
 
 class CDemoApp : public CWinApp {

@@ -49,6 +49,10 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
         .add_option("--tour", options.tourFolder,
                     "play a tour over the drawing, with pictures in this folder")
         ->type_name("FOLDER");
+    usage
+        .add_option("--check", options.checked,
+                    "change something on every page over all of each drawing, take it back, and compare")
+        ->type_name("FILE...");
     usage.add_option("--list", listed, "print what the drawings hold, as JSON, and open no window")
         ->type_name("FILE...");
     try {

@@ -105,18 +105,22 @@ bool CMainFrame::Open(const std::string& path) {
         m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
         std::unique_ptr<Document> opened =
             Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
-        m_view.SetDocument(opened.get());
-        m_document = std::move(opened); // the one before goes now
+        m_status.EndProgress();
+        Show(std::move(opened));
+        return true;
     } catch (const OpenError& error) {
         m_status.EndProgress();
         AfxMessageBox(SystemText(error.what()).c_str());
         return false;
     }
-    m_status.EndProgress();
+}
+
+void CMainFrame::Show(std::unique_ptr<Document> document) {
+    m_view.SetDocument(document.get());
+    m_document = std::move(document); // the one before goes now
     ShowWhatOpened();
     OnSelectionChanged();
     ShowTitle();
-    return true;
 }
 
 void CMainFrame::ShowWhatOpened() {

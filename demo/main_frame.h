@@ -21,6 +21,8 @@ public:
 
     // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one.
     bool Open(const std::string& path);
+    // The same for a drawing that has been opened already.
+    void Show(std::unique_ptr<Document> document);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }
 

@@ -2,15 +2,16 @@
 
 #include "demo/tour.h"
 
-#include <afxdlgs.h>
-
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 
+#include "demo/drawing_state.h"
 #include "demo/main_frame.h"
 #include "demo/mixed_window.h"
+#include "demo/page_edits.h"
 #include "demo/property_snapshot.h"
 #include "demo/screenshot.h"
 #include "orlo/host/drawing.h"
@@ -20,6 +21,8 @@ namespace {
 
 constexpr unsigned kPause = 120; // milliseconds after an action, so that a looker-on can follow
 constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than what it takes
+
+constexpr int kWizardNext = 101;
 
 // Controls of the Pen page.
 enum PenControl { kWidth = 103, kScaleSystem = 109, kColor = 32005, kStyle = 32021 };
@@ -57,6 +60,15 @@ std::string NameOf(const std::string& item) {
     return item.substr(item.find('\t') + 1);
 }
 
+// "Block Insertion" as "block-insertion".
+std::string FileNameOf(const std::string& title) {
+    std::string name;
+    for (const char character : title)
+        name +=
+            character == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    return name;
+}
+
 CPoint DropButton(HWND combo) {
     CRect client;
     ::GetClientRect(combo, client);
@@ -74,22 +86,37 @@ bool Tour::Play(const std::string& drawing) {
             Say("Nothing in this drawing has a pen: there is nothing to edit.");
             return true;
         }
-        const Document& document = *m_frame.GetDocument();
-        const std::vector<GraphicStruct*> all = document.Selectable();
-        const PropertySnapshot before(document.Drawing(), all);
-        EditPen();
-        TakePicture("changed");
-        const bool changed = Report(before, PropertySnapshot(document.Drawing(), all));
-
-        m_user.Key('Z', UserInput::kControl);
-        TakePicture("undone");
-        const bool undone = before == PropertySnapshot(document.Drawing(), all);
-        Say(undone ? "Undo: every graphic is as it was." : "Undo: something is different from before!");
-        return changed && undone;
+        if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
+        MakeStyle();
+        Say("Ctrl+A selects all.");
+        m_user.Key(VK_HOME);
+        m_user.Key('A', UserInput::kControl);
+        TakePicture("all-selected");
+        return EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); });
     } catch (const std::exception& error) {
         Say(std::string("The tour ends here: ") + error.what());
         return false;
     }
+}
+
+// True: the edit changed something, and undo took all of it back.
+bool Tour::EditAndUndo(const std::string& changed, const std::string& undone,
+                       const std::function<void()>& edit) {
+    const Document& document = *m_frame.GetDocument();
+    const std::vector<GraphicStruct*> all = document.Selectable();
+    const PropertySnapshot before(document.Drawing(), all);
+    const DrawingState exactly(document.Drawing());
+    edit();
+    TakePicture(changed);
+    const bool differs = Report(before, PropertySnapshot(document.Drawing(), all));
+
+    m_user.Key('Z', UserInput::kControl);
+    TakePicture(undone);
+    const std::vector<std::string> left = exactly.DifferencesTo(DrawingState(document.Drawing()), 5);
+    Say(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
+    for (const std::string& line : left)
+        Say("  " + line);
+    return differs && left.empty();
 }
 
 void Tour::Say(const std::string& text) {
@@ -169,28 +196,48 @@ void Tour::EditPen() {
 }
 
 void Tour::OpenPage(HWND sheet, const std::string& title) {
-    const HWND tabs = ::GetDlgItem(sheet, AFX_IDC_TAB_CONTROL);
-    for (int i = 0; i < Ask(tabs, TCM_GETITEMCOUNT); ++i) {
-        char text[64] = "";
-        TCITEMA item = {};
-        item.mask = TCIF_TEXT;
-        item.pszText = text;
-        item.cchTextMax = sizeof text;
-        Ask(tabs, TCM_GETITEMA, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-        if (title != text) continue;
-        CRect rect;
-        Ask(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(i),
-            reinterpret_cast<LPARAM>(static_cast<LPRECT>(rect)));
-        m_user.Click(tabs, rect.CenterPoint());
-        return;
-    }
-    throw std::runtime_error("the sheet has no page \"" + title + "\"");
+    const std::vector<std::string> titles = PageTitles(sheet);
+    const auto found = std::find(titles.begin(), titles.end(), title);
+    if (found == titles.end()) throw std::runtime_error("the sheet has no page \"" + title + "\"");
+    ClickTab(m_user, sheet, static_cast<int>(found - titles.begin()));
+}
+
+// Three steps and Finish.
+void Tour::MakeStyle() {
+    Say("Ctrl+N makes a style after the selection.");
+    m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
+                    [this](HWND wizard) {
+                        m_user.Type("Tour");
+                        for (const char* step : {"wizard-name", "wizard-parts", "wizard-summary"}) {
+                            TakePicture(step);
+                            m_user.Click(::GetDlgItem(wizard, kWizardNext));
+                        }
+                    });
+    Say("Ctrl+Enter shows the style.");
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kControl); },
+                    [this](HWND sheet) {
+                        TakePicture("style-page");
+                        m_user.Click(::GetDlgItem(sheet, IDCANCEL));
+                    });
+}
+
+void Tour::EditAllPages() {
+    Say("Alt+Enter opens the properties of all.");
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
+                    [this](HWND sheet) {
+                        for (const std::string& title : PageTitles(sheet)) {
+                            OpenPage(sheet, title);
+                            if (const PageEdit* page = FindPageEdit(title))
+                                page->edit(m_user, ActivePageOf(sheet));
+                            TakePicture("all-" + FileNameOf(title));
+                        }
+                        Say("OK.");
+                        m_user.Click(::GetDlgItem(sheet, IDOK));
+                    });
 }
 
 void Tour::EditPenPage(HWND sheet) {
-    const auto* sheetObject = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(sheet));
-    if (!sheetObject) throw std::runtime_error("that is no property sheet");
-    const HWND page = sheetObject->GetActivePage()->m_hWnd;
+    const HWND page = ActivePageOf(sheet);
     Say("Pen page.");
     TakePicture("pen-page");
     PickColor(page);

@@ -1,7 +1,9 @@
 // A scripted tour for machines without a user: opens a drawing, selects a mixed set, edits its pen in the sheet, takes it
-// back, all by keys and mouse messages, with a picture of each station and a report of what changed.
+// back, makes a style by the wizard, then selects all and visits every page; all by keys and mouse messages, with a picture
+// of each station and a report of what changed.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "demo/user_input.h"
@@ -24,6 +26,10 @@ private:
     void Open(const std::string& drawing);
     bool SelectMixedSet();
     void ShowClosely(const struct WorldBox& box);
+    bool EditAndUndo(const std::string& changed, const std::string& undone,
+                     const std::function<void()>& edit);
+    void MakeStyle();
+    void EditAllPages();
     void EditPen();
     void EditPenPage(HWND sheet);
     void OpenPage(HWND sheet, const std::string& title);

@@ -1,11 +1,12 @@
 # The drawing viewer. With a display: opens on it. Without one, or with --tour: plays a tour over the drawing and leaves
-# pictures in out/. --list prints what drawings hold (JSON on stdout, all else on stderr; no display needed).
+# pictures in out/. --check changes something on every page over all of each drawing, takes it back and compares (no display
+# needed). --list prints what drawings hold (JSON on stdout, all else on stderr; no display needed).
 
-sample=tests/data/dxf/kabeja-draft4-roof-details.dxf
+sample=tests/data/dxf/acadsharp-sample-AC1032.dxf
 program=$PWD/build/bin/demo.exe
 targets=(demo keeper)
 
-usage() { echo "usage: ./run demo [--tour] [FILE.dxf] | ./run demo --list FILE.dxf..." >&2; exit 2; }
+usage() { echo "usage: ./run demo [--tour] [FILE.dxf] | ./run demo --check FILE.dxf... | ./run demo --list FILE.dxf..." >&2; exit 2; }
 
 # A path as the caller means it, for a program that sees the file system as drive Z.
 for_windows() { printf 'Z:%s' "$(realpath -m -- "$1")"; }
@@ -17,6 +18,20 @@ list_drawings() {
     cd "$ORLO_CALLER_DIR"   # file names stay as they were given
     local status=0
     wine "$program" --list "$@" || status=$?
+    exit $status
+}
+
+# Exit code 0: every drawing that can be opened is as it was.
+check_drawings() {
+    [ $# -gt 0 ] || usage
+    local files=() file
+    for file in "$@"; do files+=("$(cd "$ORLO_CALLER_DIR" && for_windows "$file")"); done
+    set --
+    source run.d/build.sh
+    wine_session own
+    managed N
+    local status=0
+    wine "$program" --check "${files[@]}" || status=$?
     exit $status
 }
 
@@ -43,6 +58,7 @@ open_viewer() {
 }
 
 if [ "${1-}" = --list ]; then shift; list_drawings "$@"; fi
+if [ "${1-}" = --check ]; then shift; check_drawings "$@"; fi
 show=open_viewer
 if [ -z "${DISPLAY-}" ]; then show=play_tour; fi
 if [ "${1-}" = --tour ]; then shift; show=play_tour; fi

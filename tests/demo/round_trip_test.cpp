@@ -1,0 +1,43 @@
+// Real drawings through all pages and back, and that the comparison sees what is different.
+
+#include "demo/drawing_state.h"
+#include "demo/round_trip.h"
+#include "demo/viewer.h"
+#include "drawcore/table.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/vertex.h"
+
+namespace {
+
+TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
+    EXPECT_TRUE(RoundTrip(*frame).Check(
+        {TEST_DATA "/dxf/acadsharp-sample-AC1032.dxf", TEST_DATA "/dxf/ezdxf-insert-nested-mirrored.dxf",
+         TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
+}
+
+TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
+    GraphicStruct* line = document().Selectable().front();
+    const DrawingState before(document().Drawing());
+    EXPECT_TRUE(before.DifferencesTo(DrawingState(document().Drawing()), 9).empty());
+
+    int cookie = 0;
+    VertexStruct* vertex = ::GraphicVertexFirst(line, &cookie, 0, 0xFFFF);
+    const double x = vertex->x;
+    ::VertexSet(vertex, x + 1e-12, vertex->y, vertex->z);
+    const DrawingState moved(document().Drawing());
+    EXPECT_TRUE(before.Differs(moved, "vertices"));
+    EXPECT_FALSE(before.Differs(moved, "PenWidth"));
+    ::VertexSet(vertex, x, vertex->y, vertex->z);
+    EXPECT_TRUE(before.DifferencesTo(DrawingState(document().Drawing()), 9).empty());
+
+    document().Change([&] { ::GraphicSetPenWidth(line, 0.25); });
+    const std::vector<std::string> width = before.DifferencesTo(DrawingState(document().Drawing()), 9);
+    ASSERT_EQ(1u, width.size());
+    EXPECT_EQ("graphic 1, PenWidth: 0 is now 0.25", width[0]);
+    document().Undo();
+
+    ::TableEntryAdd(::DrawingGetTable(document().Drawing(), "_Layers_"), "left over", nullptr);
+    EXPECT_FALSE(before.DifferencesTo(DrawingState(document().Drawing()), 1).empty());
+}
+
+} // namespace
