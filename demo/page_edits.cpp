@@ -2,6 +2,7 @@
 
 #include "demo/page_edits.h"
 
+#include <cstdlib>
 #include <stdexcept>
 
 namespace {
@@ -15,8 +16,8 @@ enum Control {
     kBrushStyle = 32024,
 };
 
-// Items of lists.
-constexpr int kBrightColor = 40, kSolidBrush = 1;
+constexpr int kSolidBrush = 1; // its place in the list
+constexpr unsigned long kOrange = RGB(255, 127, 0);
 
 int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
@@ -41,10 +42,24 @@ void Move(UserInput& user, HWND list, UINT getSelection, int first) {
     if (Ask(list, getSelection) == before) user.Key(VK_UP);
 }
 
+// The first item of a colour list if there is none: its items begin with the colour in hexadecimal digits.
+int IndexOfColor(HWND combo, unsigned long color) {
+    char item[256];
+    for (int i = 0; i < Ask(combo, CB_GETCOUNT); ++i) {
+        if (Ask(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i)) >= static_cast<int>(sizeof item)) continue;
+        Ask(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(item));
+        if (std::strtoul(item, nullptr, 16) == color) return i;
+    }
+    return 0;
+}
+
 constexpr PageEdit kEdits[] = {
     {"General", "Info", [](UserInput& user, HWND page) { TypeOver(user, page, kInfo, "Seen by the tour"); }},
     {"Pen", "PenColor",
-     [](UserInput& user, HWND page) { Move(user, FocusOn(page, kPenColor), CB_GETCURSEL, kBrightColor); }},
+     [](UserInput& user, HWND page) {
+         const HWND colors = FocusOn(page, kPenColor);
+         Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
+     }},
     {"Brush", "BrushStyle",
      [](UserInput& user, HWND page) { Move(user, FocusOn(page, kBrushStyle), LB_GETCURSEL, kSolidBrush); }},
     {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, kUnderline)); }},
