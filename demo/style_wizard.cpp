@@ -153,8 +153,8 @@ bool MakeStyleByWizard(CWnd* owner, Document& document) {
     CPartsStep parts(draft);
     CSummaryStep summary(draft);
     CWizardSheet wizard("New Style", owner, 0);
-    for (CPropertyPage* step : {static_cast<CPropertyPage*>(&name), static_cast<CPropertyPage*>(&parts),
-                                static_cast<CPropertyPage*>(&summary)})
+    CPropertyPage* const steps[] = {&name, &parts, &summary};
+    for (CPropertyPage* step : steps)
         wizard.AddPage(step);
     if (wizard.DoModal() != IDOK) return false;
     return document.Styles().Make(draft.name, draft.graphics, draft.parts) != 0;
