@@ -2,24 +2,24 @@
 // in it. Its main window answers the library's controls, which ask for the tables that they show.
 
 #include <afxwin.h>
-#include <drawcore/application.h>
+#include <drawcore/application.h> // the reference database; a host of your own has its own calls here
 #include <drawcore/drawing.h>
 #include <drawcore/dxf.h>
 #include <orlo.h>
 
-const char* TableOfControl(unsigned int kind) {
+// Which table each kind of the library's controls shows.
+const char* TableOf(int kind) {
     switch (kind) {
     case 0x7D05:
         return "_Colors_";
-    case 0x7D07:
-    case 0x7D18:
-        return "_BrushStyles_";
     case 0x7D08:
         return "_Layers_";
-    case 0x7D0F:
-        return "_Blocks_";
+    case 0x7D18:
+        return "_BrushStyles_";
+    case 0x7D15:
+        return "_LineStyles_";
     default:
-        return "_LineStyles_"; // of fonts the drawing alone counts
+        return "_Units_"; // fonts: of the drawing that owns the table
     }
 }
 
@@ -27,7 +27,7 @@ class CHostFrame : public CFrameWnd {
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         if (HIWORD(wParam) != kControlReady) return CFrameWnd::OnCommand(wParam, lParam);
         DrawingStruct* drawing = AppGetCurrentApp()->pCurrentDrawing;
-        const ControlFillRecord fill = {DrawingGetTable(drawing, TableOfControl(LOWORD(wParam))), 0, 0};
+        const ControlFillRecord fill = {DrawingGetTable(drawing, TableOf(LOWORD(wParam))), 0, 0};
         ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }

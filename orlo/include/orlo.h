@@ -33,6 +33,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
 #include "orlo/frame/orlo_property_sheet.h"
+#include "orlo/frame/style_end_code.h"
 #include "orlo/host/host.h"
 #include "orlo/propset/property.h"
 #include "orlo/propset/property_section.h"

@@ -9,6 +9,7 @@
 #include "orlo/controls/combo_control.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/style_end_code.h"
 #include "orlo/host/block.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
@@ -195,7 +196,7 @@ void CGeneralPage::OnDelete() {
     TableStruct* table = StyleTable();
     CGraphicPropertySheet* sheet = GetSheet();
     const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
-    if (id != 0 && sheet != nullptr) sheet->EndDialog(kDeleteStyle + id);
+    if (id != 0 && sheet != nullptr) sheet->EndDialog(kStyleToDelete + id);
 }
 
 void CGeneralPage::OnStyleKillFocus() {
@@ -222,7 +223,7 @@ void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
     const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
     ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, 0, 0);
     if (id == 0) return;
-    sheet->EndWithCode(id + (byOk ? kChooseStyleByOk : kChooseStyle));
+    sheet->EndWithCode(id + (byOk ? kStyleChosenByOk : kStyleChosen));
     if (!byOk) ::PostMessageA(sheet->m_hWnd, WM_COMMAND, IDOK, 0);
 }
 

@@ -1,22 +1,11 @@
 // The General page, first in every sheet: layer and attribute text of the selected graphics, and, over the graphic that a
 // style stands for, the style's name with New and Delete.
 //
-// The style part edits nothing: choosing, making or deleting a style ends the sheet with a code, and the host acts on it.
-//   kStyleAdded             a style was added to the table (made from a copy of the graphics)
-//   kDeleteStyle + id       the user asked to delete the style
-//   kChooseStyle + id       the user chose the style and left the combo for a control other than OK
-//   kChooseStyleByOk + id   the user chose the style and left the combo for OK
+// The style part edits nothing: choosing, making or deleting a style ends the sheet with a code (style_end_code.h).
 #pragma once
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
-
-enum StyleEndCode : int {
-    kStyleAdded = 1000,
-    kChooseStyle = 1000,
-    kDeleteStyle = 2000,
-    kChooseStyleByOk = 3000
-};
 
 class CGeneralPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CGeneralPage)

@@ -1,0 +1,21 @@
+// A list of layers to be ticked.
+
+#include <orlo.h>
+
+void FillLayerList(CCheckListBox& list, CWnd* parent, TableStruct* layers) {
+    list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY,
+                CRect(10, 10, 200, 160), parent, 101);
+    int cookie;
+    for (uint16_t id = TableEntryFirst(layers, &cookie); id != 0; id = TableEntryNext(layers, &cookie)) {
+        char name[256];
+        if (TableEntryGetName(layers, id, name, sizeof name))
+            list.AddString(name, LayerGetVisible(TableGetOwner(layers), id));
+    }
+}
+
+int CountTicked(const CCheckListBox& list) {
+    int ticked = 0;
+    for (int i = 0; i < list.GetCount(); ++i)
+        ticked += list.IsItemChecked(i);
+    return ticked;
+}

@@ -1,0 +1,18 @@
+# Each example stands whole in its document: cmake -D ROOT=FOLDER -P check_examples.cmake
+
+function(check example document)
+  file(READ ${ROOT}/${example} code)
+  file(READ ${ROOT}/${document} text)
+  # Behind the line that says what the example is.
+  string(FIND "${code}" "#include" begin)
+  string(SUBSTRING "${code}" ${begin} -1 code)
+  string(FIND "${text}" "${code}" found)
+  if(found EQUAL -1)
+    message(SEND_ERROR "${document} does not hold ${example} as it is")
+  endif()
+endfunction()
+
+check(demo/example_host.cpp README.md)
+check(docs/examples/end_codes.cpp docs/host-guide.md)
+check(docs/examples/wizard.cpp docs/host-guide.md)
+check(docs/examples/check_list.cpp docs/host-guide.md)
