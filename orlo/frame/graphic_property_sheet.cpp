@@ -15,7 +15,6 @@ END_MESSAGE_MAP()
 namespace {
 
 constexpr unsigned int kPreviewId = 3999;
-constexpr int kApplyId = 0xEA00;
 
 } // namespace
 
@@ -24,6 +23,7 @@ CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pReg
                                              unsigned int iSelectPage)
     : COrloPropertySheet(nIDCaption, pParentWnd, iSelectPage) {
     m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};
+    m_bHasApply = FALSE;
 }
 
 // The pages go before the group: each takes its preview graphic out of it.
@@ -88,7 +88,6 @@ int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());
     if (COrloPropertySheet::OnCreate(lpCreateStruct) == -1) return -1;
-    if (const HWND apply = ::GetDlgItem(m_hWnd, kApplyId)) ::DestroyWindow(apply);
     RecalcLayout();
     return 0;
 }
