@@ -5,17 +5,9 @@
 #include "demo/document.h"
 #include "demo/property_sheet.h"
 #include "demo/style_wizard.h"
+#include "orlo/frame/style_end_code.h"
 
 namespace {
-
-// A sheet over a style ends with one of these codes when the user has done something in its General page that is the
-// host's work; to all but the first the identifier of the style is added.
-enum EndCode {
-    kAdded = 1000,
-    kChosen = 1000,
-    kToDelete = 2000,
-    kChosenAndClosed = 3000,
-};
 
 std::string Quoted(const Document& document, uint16_t style) {
     return "\"" + document.Styles().Name(style) + "\"";
@@ -54,13 +46,13 @@ std::string EditStyles(CWnd* owner, Document& document) {
     StyleBook& styles = document.Styles();
     for (;;) {
         const int code = RunSheet(owner, document.Drawing(), styles.Content(styles.Current()), kStyleSheet);
-        if (code == kAdded) {
+        if (code == kStyleAdded) {
             if (!styles.TakeAdded()) return "The style could not be added";
-        } else if (const uint16_t chosen = StyleIn(document, code, kChosen)) {
+        } else if (const uint16_t chosen = StyleIn(document, code, kStyleChosen)) {
             styles.SetCurrent(chosen);
-        } else if (const uint16_t doomed = StyleIn(document, code, kToDelete)) {
+        } else if (const uint16_t doomed = StyleIn(document, code, kStyleToDelete)) {
             return DeleteStyle(owner, document, doomed);
-        } else if (const uint16_t last = StyleIn(document, code, kChosenAndClosed)) {
+        } else if (const uint16_t last = StyleIn(document, code, kStyleChosenByOk)) {
             styles.SetCurrent(last);
             return "Current style: " + Quoted(document, last);
         } else {

@@ -77,9 +77,10 @@ private:
         ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
 
-    // A notification out of the blue, of any control and any code.
+    // A notification out of the blue, of any control that can be used and any code.
     void Notify() {
         const HWND child = RandomChild();
+        if (!::IsWindowEnabled(child)) return;
         const WPARAM what = MAKEWPARAM(::GetDlgCtrlID(child), Below(2) ? Below(16) : 0x100 * Below(8));
         ::SendMessageA(m_user.Page(), WM_COMMAND, what, reinterpret_cast<LPARAM>(child));
     }
