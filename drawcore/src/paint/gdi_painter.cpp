@@ -67,7 +67,10 @@ Color GdiPainter::Seen(Color color) const {
         brightness += part;
     }
     constexpr int kTooNear = 24;
-    return difference > kTooNear ? color : brightness > 3 * 127 ? 0 : kWhite;
+    const bool bright = brightness > 3 * 127;
+    // Black and white are the ink of the paper, whichever it is.
+    if (difference > kTooNear && color != (bright ? kWhite : 0)) return color;
+    return bright ? 0 : kWhite;
 }
 
 GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) const {
