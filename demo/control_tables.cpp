@@ -3,10 +3,15 @@
 #include "demo/control_tables.h"
 
 #include <algorithm>
+#include <string>
+
+#include <oaidl.h>
 
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/host/drawing.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/memory.h"
 #include "orlo/host/table.h"
 #include "orlo/host/units.h"
 
@@ -27,6 +32,24 @@ constexpr ControlTable kTables[] = {
     {kStyleNames, "_Blocks_", 0}, {0x7D15, "_LineStyles_", 0},  {0x7D18, "_BrushStyles_", 0},
 };
 
+// The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
+std::string FaceOf(const Document& document) {
+    for (GraphicStruct* graphic : document.Selected().Members()) {
+        const PropertyTable* table = ::GraphicGetVtbl(graphic);
+        const char* name = "TextFont";
+        int32_t number;
+        if (!table || !table->PropLookup(graphic, &name, 1, 0, &number)) continue;
+        char* face = nullptr;
+        table->PropGet(graphic, number, VT_BSTR, &face);
+        const std::string copy = face ? face : "";
+        ::BStringNULL(&face);
+        return copy;
+    }
+    char face[256] = "";
+    ::TableGetStringVar(document.Drawing()->pUnits, kUnitFontName, face, sizeof face);
+    return face;
+}
+
 } // namespace
 
 bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
@@ -36,11 +59,8 @@ bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
     if (row == std::end(kTables)) return false;
     DrawingStruct* drawing = document->Drawing();
     ControlFillRecord fill = {::DrawingGetTable(drawing, row->table), 0, row->selected};
-    char face[256] = "";
-    if (row->kind == kFontFaces) {
-        ::TableGetStringVar(drawing->pUnits, kUnitFontName, face, sizeof face);
-        fill.dwValue = reinterpret_cast<UINT_PTR>(face);
-    }
+    const std::string face = row->kind == kFontFaces ? FaceOf(*document) : "";
+    if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
     if (row->kind == kStyleNames) fill.nSelected = document->Styles().Current();
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
     return true;

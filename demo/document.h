@@ -38,6 +38,7 @@ public:
     DrawingStruct* Drawing() const { return m_drawing; }
     GraphicStruct* Root() const { return m_root; }
     Selection& Selected() { return m_selection; }
+    const Selection& Selected() const { return m_selection; }
     StyleBook& Styles() { return m_styles; }
     const StyleBook& Styles() const { return m_styles; }
     std::optional<WorldBox> Extents() const { return ExtentsOf(m_root); }

@@ -16,7 +16,7 @@ enum Control {
     kBrushStyle = 32024,
 };
 
-constexpr int kSolidBrush = 1; // its place in the list
+constexpr int kDotsBrush = 8; // its place in the list: through the dots all that lies below is seen
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
 int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -42,6 +42,13 @@ void Move(UserInput& user, HWND list, UINT getSelection, int first) {
     if (Ask(list, getSelection) == before) user.Key(VK_UP);
 }
 
+// To the item of that number, or another one if it is chosen already. Without a selection the first key only makes one.
+void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
+    if (Ask(list, getSelection) == wanted) return user.Key(VK_UP);
+    user.Keys(VK_HOME, 2);
+    user.Keys(VK_DOWN, wanted);
+}
+
 // The first item of a colour list if there is none: its items begin with the colour in hexadecimal digits.
 int IndexOfColor(HWND combo, unsigned long color) {
     char item[256];
@@ -61,7 +68,7 @@ constexpr PageEdit kEdits[] = {
          Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
      }},
     {"Brush", "BrushStyle",
-     [](UserInput& user, HWND page) { Move(user, FocusOn(page, kBrushStyle), LB_GETCURSEL, kSolidBrush); }},
+     [](UserInput& user, HWND page) { MoveTo(user, FocusOn(page, kBrushStyle), LB_GETCURSEL, kDotsBrush); }},
     {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, kUnderline)); }},
     {"Block Insertion", "vertices",
      [](UserInput& user, HWND page) { TypeOver(user, page, kRotationZ, "30"); }},

@@ -2,7 +2,7 @@
 # pictures in out/. --check changes something on every page over all of each drawing, takes it back and compares (no display
 # needed). --list prints what drawings hold (JSON on stdout, all else on stderr; no display needed).
 
-sample=tests/data/dxf/acadsharp-sample-AC1032.dxf
+sample=tests/data/dxf/kabeja-draft4-roof-details.dxf
 program=$PWD/build/bin/demo.exe
 targets=(demo keeper)
 

@@ -19,10 +19,6 @@ void DisposeViewport::operator()(ViewportStruct* viewport) const {
     ViewportDispose(&viewport);
 }
 
-void DisposeVertex::operator()(VertexStruct* vertex) const {
-    VertexDispose(&vertex);
-}
-
 SampleGraphic MakeSampleGraphic(const ScratchVertex& vertex, std::initializer_list<SampleVertex> vertices) {
     if (!vertex) return nullptr;
     SampleGraphic graphic(GraphicNewEx(kGraphicVertices, 0, 1));

@@ -6,9 +6,9 @@
 #include <memory>
 #include <windows.h>
 
+#include "orlo/controls/scratch_vertex.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/table.h"
-#include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
 
 // Unties a graphic from its drawing and frees it.
@@ -18,13 +18,9 @@ struct DisposeSampleGraphic {
 struct DisposeViewport {
     void operator()(ViewportStruct* viewport) const;
 };
-struct DisposeVertex {
-    void operator()(VertexStruct* vertex) const;
-};
 
 using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
 using SampleViewport = std::unique_ptr<ViewportStruct, DisposeViewport>;
-using ScratchVertex = std::unique_ptr<VertexStruct, DisposeVertex>;
 
 // Whether a vertex starts a stroke or continues the one before; Kept: as the vertex before it.
 enum class Stroke { Kept, Starts, Continues };

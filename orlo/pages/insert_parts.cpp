@@ -8,9 +8,9 @@
 #include <iterator>
 
 #include "orlo/binding/fuzzy.h"
+#include "orlo/controls/scratch_vertex.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/vertex.h"
-#include "orlo/pages/scratch_vertex.h"
 
 namespace {
 
@@ -193,7 +193,7 @@ void InsertGetParts(GraphicStruct* graphic, InsertParts* parts) {
 
 void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts) {
     Corners corners{};
-    const ScratchVertex scratch;
+    const ScratchVertex scratch(::VertexNewEx(0, 0, 0));
     if (scratch.get() == nullptr || !FindCorners(graphic, corners)) return;
     HostMatrix matrix;
     BuildMatrix(*parts, scratch, matrix);
