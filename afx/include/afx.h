@@ -62,7 +62,6 @@ class CObject;
 class CString;
 
 // ---- Run-time classes
-// ------------------------------------------------------------------------------------------
 
 struct AFX_API CRuntimeClass {
     LPCSTR m_lpszClassName;
@@ -119,7 +118,6 @@ public:                                                                         
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, class_name::CreateObject)
 
 // ---- Text
-// ------------------------------------------------------------------------------------------------------
 
 // 8-bit text in the system's code page. A null pointer counts as the empty text. Between GetBuffer and
 // ReleaseBuffer the text must only be touched through the pointer.
@@ -215,7 +213,6 @@ inline bool operator<(const CString& a, const CString& b) {
 }
 
 // ---- Exceptions
-// ------------------------------------------------------------------------------------------------
 
 // Thrown by pointer. Who catches one and does not throw it on calls Delete.
 class AFX_API CException : public CObject {
@@ -302,7 +299,6 @@ public:
 [[noreturn]] AFX_API void AfxThrowFileException(int cause, LONG lOsError = 0, LPCSTR lpszFileName = nullptr);
 
 // ---- Buffered files
-// --------------------------------------------------------------------------------------------
 
 // A file of the C library. Text unless typeBinary is given. Failures of reading, writing and seeking are
 // thrown as CFileException; what the destructor closes is closed in silence.

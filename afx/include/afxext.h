@@ -3,8 +3,7 @@
 //   static AFX_EXTENSION_MODULE module;                       // zero
 //   in DllMain, attach:   AfxInitExtensionModule(module, hInstance);
 //   in an init function:  new CDynLinkLibrary(module);        // belongs to the framework's chain
-//   in DllMain, detach:   AfxTermExtensionModule(module);     // if the library can go before the program
-//   does
+//   in DllMain, detach:   AfxTermExtensionModule(module);     // if the library can go before the program does
 #pragma once
 
 #include <afxwin.h>

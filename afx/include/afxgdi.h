@@ -81,7 +81,6 @@ public:
 };
 
 // ---- Drawing objects
-// -------------------------------------------------------------------------------------------
 
 // Owns its handle: the destructor deletes the object.
 class AFX_API CGdiObject : public CObject {
@@ -154,7 +153,6 @@ public:
 };
 
 // ---- Device contexts
-// -------------------------------------------------------------------------------------------
 
 // Owns its handle: the destructor deletes the device context. m_hAttribDC is what attributes are read from;
 // here always the same as m_hDC.

@@ -39,7 +39,6 @@ CPropertySheet::~CPropertySheet() {
 }
 
 // ---- Life of the window
-// ----------------------------------------------------------------------------------------
 
 int CPropertySheet::DoModal() {
     m_bModeless = FALSE;
@@ -115,7 +114,6 @@ LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM) {
 }
 
 // ---- Pages
-// -----------------------------------------------------------------------------------------------------
 
 void CPropertySheet::AddPage(CPropertyPage* pPage) {
     ASSERT(pPage->m_pSheet == nullptr);
@@ -228,7 +226,6 @@ void CPropertySheet::FocusActivePage() {
 }
 
 // ---- What the user does
-// ----------------------------------------------------------------------------------------
 
 void CPropertySheet::OnOK() {
     CPropertyPage* page = GetActivePage();

@@ -23,7 +23,6 @@ CWnd::~CWnd() {
 }
 
 // ---- Object and window
-// -----------------------------------------------------------------------------------------
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd) {
     const auto& windows = AfxThreadState::Get().windows;
@@ -78,7 +77,6 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
 }
 
 // ---- Creation and end
-// ------------------------------------------------------------------------------------------
 
 BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                   CWnd* pParentWnd, UINT nID, CCreateContext* pContext) {
@@ -158,7 +156,6 @@ void CWnd::OnFinalRelease() {
 }
 
 // ---- Messages
-// --------------------------------------------------------------------------------------------------
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
     SendMessageToDescendants(m_hWnd, message, wParam, lParam, bDeep, bOnlyPerm);
@@ -187,7 +184,6 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
 }
 
 // ---- Data exchange
-// ---------------------------------------------------------------------------------------------
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
@@ -206,7 +202,6 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
 }
 
 // ---- Text and style
-// --------------------------------------------------------------------------------------------
 
 void CWnd::GetWindowText(CString& rString) const {
     const int length = GetWindowTextLength();
@@ -247,7 +242,6 @@ void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew) {
 }
 
 // ---- Place
-// -----------------------------------------------------------------------------------------------------
 
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
     HWND after = pWndInsertAfter != nullptr ? pWndInsertAfter->m_hWnd : nullptr;
@@ -287,7 +281,6 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
 }
 
 // ---- Family
-// ----------------------------------------------------------------------------------------------------
 
 BOOL CWnd::IsFrameWnd() const {
     return FALSE;
@@ -324,7 +317,6 @@ void CWnd::OnHelp() {
 }
 
 // ---- Window classes
-// --------------------------------------------------------------------------------------------
 
 LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     CString name;

@@ -1,9 +1,7 @@
-// The items of a combo box or a list box under one set of names, so that what treats both alike is written
-// once.
+// The items of a combo box or a list box under one set of names, so that what treats both alike is written once.
 //
 //   ControlItems items = ControlItems::OfCombo(hWnd);
-//   items.Select(items.FindExact("ByLayer"));        // not found is -1, and selecting -1 clears the
-//   selection
+//   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection
 //
 // A window that has gone, or is no such control, has no items and takes none.
 #pragma once

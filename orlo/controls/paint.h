@@ -1,11 +1,8 @@
-// Owners and guards for drawing with the system, and the few shapes that the owner-drawn controls share. No
-// control.
+// Owners and guards for drawing with the system, and the few shapes that the owner-drawn controls share. No control.
 //
-//   SelectedObject pen(dc, ownedPen.get());      // the object that was there before comes back at the end of
-//   the block
+//   SelectedObject pen(dc, ownedPen.get());   // what was selected before comes back at the end of the block
 //
-// A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the
-// default.
+// A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the default.
 #pragma once
 
 #include <memory>

@@ -1,11 +1,9 @@
 // Exchange of an entry of a host table: the item of a control that shows the table, and the entry's 16-bit
 // identifier. See ddx.h for the convention, controls/control_item.h for the text of an item.
 //
-//   m_nStyle = 0xFFFFFFFF;                            // the selection holds several styles
-//   DDX_LBTableIndex(1, pDX, 32021, m_nStyle);        // load: no item has that key, the selection stays as
-//   it is
-//                                                     // save without a selection: the variable stays as it
-//                                                     is
+//   m_nStyle = 0xFFFFFFFF;                       // the selection holds several styles
+//   DDX_LBTableIndex(1, pDX, 32021, m_nStyle);   // load: no item has that key, the selection stays as it is
+//                                                // save without a selection: the variable stays as it is
 #pragma once
 
 #include <afxwin.h>

@@ -5,8 +5,7 @@
 //
 //   Document edited = Document::ForWriting(name);
 //   edited.Write("\005SummaryInformation", bytes);
-//   edited.Commit();                          // all of it, or none: without Commit, or if it fails, the file
-//   is as before
+//   edited.Commit();   // all of it, or none: without Commit, or if it fails, the file is as before
 //
 // Every function throws Failure.
 #pragma once
