@@ -35,6 +35,23 @@ private:
     HGDIOBJ before_;
 };
 
+// The device context of a window's client area; null if the system has none to give.
+class WindowDC {
+public:
+    explicit WindowDC(HWND window) : window_(window), dc_(::GetDC(window)) {}
+    ~WindowDC() {
+        if (dc_) ::ReleaseDC(window_, dc_);
+    }
+    WindowDC(const WindowDC&) = delete;
+    WindowDC& operator=(const WindowDC&) = delete;
+
+    HDC get() const { return dc_; }
+
+private:
+    HWND window_;
+    HDC dc_;
+};
+
 // Text in that colour on whatever is below it.
 class TextColor {
 public:

@@ -10,14 +10,11 @@ constexpr int kHeightWithoutDC = 16;
 
 // In that font; null: in the font that the device context has by default.
 int HeightOfM(HWND window, HFONT font) {
-    const HDC dc = ::GetDC(window);
-    if (!dc) return kHeightWithoutDC;
+    const WindowDC dc(window);
+    if (!dc.get()) return kHeightWithoutDC;
+    const SelectedObject selected(dc.get(), font);
     SIZE size = {};
-    {
-        const SelectedObject selected(dc, font);
-        ::GetTextExtentPoint32A(dc, "M", 1, &size);
-    }
-    ::ReleaseDC(window, dc);
+    ::GetTextExtentPoint32A(dc.get(), "M", 1, &size);
     return size.cy;
 }
 

@@ -4,6 +4,7 @@
 #include "orlo/frame/graphic_property_page.h"
 
 #include "orlo/binding/ddp_record.h"
+#include "orlo/frame/control_fitting.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/dialog_measure.h"
 #include "orlo/frame/graphic_property_sheet.h"
@@ -49,39 +50,9 @@ unsigned int CGraphicPropertyPage::GetTemplateNumber() const { return m_nIDTempl
 
 CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
 
-namespace {
-
-// Labels of the templates are tab stops; the keyboard has nothing to do there.
-void PassOverLabel(HWND child) {
-    const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
-    if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
-        ::SetWindowLongPtrA(child, GWL_STYLE, style & ~WS_TABSTOP);
-}
-
-// Boxes of the templates reach beyond the page, which would cut their right edges off.
-void FitIntoPage(HWND child, HWND page) {
-    RECT client, rect;
-    ::GetClientRect(page, &client);
-    ::GetWindowRect(child, &rect);
-    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
-    if (rect.right <= client.right || rect.left >= client.right) return;
-    ::SetWindowPos(child, nullptr, 0, 0, client.right - rect.left, rect.bottom - rect.top,
-                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
-}
-
-BOOL CALLBACK Adapt(HWND child, LPARAM parameter) {
-    const auto page = reinterpret_cast<HWND>(parameter);
-    if (::GetParent(child) != page) return TRUE; // a part of a control
-    PassOverLabel(child);
-    FitIntoPage(child, page);
-    return TRUE;
-}
-
-} // namespace
-
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
-    ::EnumChildWindows(m_hWnd, Adapt, reinterpret_cast<LPARAM>(m_hWnd));
+    FitControls(m_hWnd);
     const BOOL result = COrloPropertyPage::OnInitDialog();
     AddPreviewGraphic();
     m_bInitializing = 0;

@@ -1,0 +1,69 @@
+#include "orlo/frame/control_fitting.h"
+
+#include <algorithm>
+
+#include "orlo/controls/paint.h"
+#include "orlo/controls/screen_scale.h"
+
+namespace {
+
+constexpr int kBoxWidth = 13; // of a check or radio button, pixels at 96 dpi
+constexpr int kLabelRoom = 8; // between box and label, and behind it
+
+// Labels of the templates are tab stops; the keyboard has nothing to do there.
+void PassOverLabel(HWND child) {
+    const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
+    if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
+        ::SetWindowLongPtrA(child, GWL_STYLE, style & ~WS_TABSTOP);
+}
+
+bool HasBoxAndLabel(HWND child) {
+    constexpr LRESULT kPushes = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON | DLGC_STATIC;
+    const LRESULT code = ::SendMessageA(child, WM_GETDLGCODE, 0, 0);
+    return (code & DLGC_BUTTON) && !(code & kPushes);
+}
+
+int LabelWidth(HWND child) {
+    char label[64];
+    const int length = ::GetWindowTextA(child, label, sizeof label);
+    const WindowDC dc(child);
+    const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(::SendMessageA(child, WM_GETFONT, 0, 0)));
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc.get(), label, length, &size);
+    return size.cx;
+}
+
+// The width that a control should have. Boxes grow with the resolution of the screen, which the room that the template has
+// for them and their labels may not.
+int WantedWidth(HWND child, int width) {
+    const int box = ScreenPixels(kBoxWidth);
+    if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
+    return std::max(width, box + kLabelRoom + LabelWidth(child));
+}
+
+// Boxes of the templates reach beyond the page, which would cut their right edges off.
+void FitWidth(HWND child, HWND page) {
+    RECT client, rect;
+    ::GetClientRect(page, &client);
+    ::GetWindowRect(child, &rect);
+    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
+    const int width = rect.right - rect.left;
+    const int fitting = std::min<int>(WantedWidth(child, width), client.right - rect.left);
+    if (fitting == width || fitting <= 0) return;
+    ::SetWindowPos(child, nullptr, 0, 0, fitting, rect.bottom - rect.top,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+}
+
+BOOL CALLBACK FitControl(HWND child, LPARAM parameter) {
+    const auto page = reinterpret_cast<HWND>(parameter);
+    if (::GetParent(child) != page) return TRUE; // a part of a control
+    PassOverLabel(child);
+    FitWidth(child, page);
+    return TRUE;
+}
+
+} // namespace
+
+void FitControls(HWND page) {
+    ::EnumChildWindows(page, FitControl, reinterpret_cast<LPARAM>(page));
+}
