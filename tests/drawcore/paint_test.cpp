@@ -272,7 +272,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
     };
     EXPECT_DOUBLE_EQ(draw("Dots 25%"), 0.25);
     EXPECT_DOUBLE_EQ(draw("Dots 75%"), 0.75);
-    EXPECT_DOUBLE_EQ(draw("Brick"), 1.0) << "its own paper covers all";
+    EXPECT_DOUBLE_EQ(draw("Brick bitmap"), 1.0) << "its own paper covers all";
     EXPECT_NE(picture.At(50, 50), kBlue);
     draw("Dots 50%");
     int blue = 0;

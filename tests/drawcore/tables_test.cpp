@@ -180,7 +180,7 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Solid")), kBrushVector);
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Cross")), kBrushVector | kBrushHasLines);
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Dots 50%")), kBrushTakesColor);
-    EXPECT_EQ(BrushStyleGetFlags(styles, id("Brick")), 0);
+    EXPECT_EQ(BrushStyleGetFlags(styles, id("Brick bitmap")), 0);
     EXPECT_EQ(BrushStyleGetFlags(styles, 9999), 0);
 
     const BrushLine lines[] = {{0.5, 1, 2, 0.25, 3, 2, {1, -0.5}}, {1.25, 0, 0, 0, 4, 0, {}}};

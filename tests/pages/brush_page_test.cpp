@@ -171,7 +171,7 @@ TEST_F(BrushPage, TheStyleDecidesWhichControlsMakeSense) {
                       {Style("Solid"), true, false, true, "Vector:", "Solid"},
                       {Style("Cross"), true, true, true, "Vector:", "Cross"},
                       {Style("Dots 50%"), true, false, true, "Bitmap:", "Dots 50%"},
-                      {Style("Brick"), false, false, true, "Bitmap:", "Brick"}};
+                      {Style("Brick bitmap"), false, false, true, "Bitmap:", "Brick bitmap"}};
     Add(Style("Cross"), kRed, 1, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         const auto expect = [&](std::initializer_list<int> ids, bool enabled) {
