@@ -23,11 +23,19 @@ wine_prefix() {
     touch "$WINEPREFIX/.ready"
 }
 
+# X server, Wine server and programs talk to each other thousands of times a second. On one processor they do so several times
+# as fast: waking another one takes longer than the answer, most of all on an idle virtual machine.
+on_one_processor() {
+    local self=$BASHPID list
+    list=$(taskset -cp $self) && taskset -cp "${list##*[ ,-]}" $self >/dev/null || true
+}
+
 # One server and one window for the whole session: without them every program waits seconds for its own.
 # display: "own" always starts an Xvfb; "users" takes the caller's display where there is one.
 wine_session() {
     local display=$1
     wine_prefix
+    on_one_processor
     trap wine_session_end EXIT
     if [ "$display" = own ] || [ -z "${DISPLAY-}" ]; then
         exec {xvfb_fd}<> <(:)
