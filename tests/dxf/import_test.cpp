@@ -17,6 +17,7 @@
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/graphics/extents.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
 #include "orlo/host/host.h"
 #include "tests/dxf/drawing_text.h"
 #include "tests/dxf/extents_rows.h"
@@ -223,6 +224,7 @@ TEST(Import, GraphicsLookAsInTheFile) {
         {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", "ScaleSystem", 0}, // in the drawing
         {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", "PenWidth",
          0}, // its segments have widths of their own
+        {"0|LWPOLYLINE|210|1|220|1|230|1|43|1.5|10|0|20|0|42|1|10|1|20|0", "PenWidth", 1.5}, // tilted
         {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", "PenAlignment", 0},
         {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushStyle", 1},
         {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushColor", 0xFFFFFFFB}, // as the pen
@@ -236,6 +238,8 @@ TEST(Import, GraphicsLookAsInTheFile) {
         {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", "TextSize", 6},
         {"0|MTEXT|40|3|1|\\C2;x", "PenColor", 0x00FFFF},
         {"0|MTEXT|40|3|1|x|71|6", "TextFormat", 2},
+        {"0|MTEXT|40|3|1|\\pxi1,qc,t2;x|71|1", "TextFormat", 1},
+        {"0|MTEXT|40|3|1|\\pql;x|71|6", "TextFormat", 0},
     };
     for (const Row& row : rows) {
         const OwnedDrawing drawing = OpenText(Drawing2007(std::string(row.entity)));
@@ -262,6 +266,40 @@ TEST(Import, EverythingLiesInItsPlace) {
         EXPECT_LE(box.high.x, row.x2 + kNear) << row.name;
         EXPECT_LE(box.high.y, row.y2 + kNear) << row.name;
     }
+}
+
+TEST(Import, ParagraphsAreAlignedInTheBoxOfTheirText) {
+    struct Row {
+        const char* codes;
+        double fromLeft, fromRight; // shares of the room that the longest row leaves
+    };
+    for (const Row& row : {Row{"", 0, 1}, {"\\pxqc;", 0.5, 0.5}, {"\\pqr;", 1, 0}, {"\\pqj;", 0, 1}}) {
+        const OwnedDrawing drawing = OpenText(
+            Drawing("0|MTEXT|10|100|20|0|40|3|41|60|71|1|1|" + std::string(row.codes) + "an alignment"));
+        const drawcore::Extents& box = BoxOf(drawing);
+        const double room = 60 - (box.high.x - box.low.x);
+        EXPECT_NEAR(box.low.x - 100, row.fromLeft * room, 1e-6) << row.codes;
+        EXPECT_NEAR(160 - box.high.x, row.fromRight * room, 1e-6) << row.codes;
+    }
+}
+
+// Its plane is tilted by 60 degrees: a half circle of radius 5 whose width grows from 0 to 2, and a straight piece back.
+TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
+    const OwnedDrawing drawing = OpenText(Drawing(
+        "0|LWPOLYLINE|70|1|210|0|220|-0.8660254|230|0.5|10|0|20|0|40|0|41|2|42|1|10|10|20|0|40|3|41|3"));
+    const auto members = Members(drawing);
+    ASSERT_EQ(members.size(), 1u);
+    const auto& graphic = static_cast<const drawcore::VertexGraphic&>(*drawcore::Graphic::From(members[0]));
+    ASSERT_GT(graphic.vertices.size(), 20u);
+    EXPECT_TRUE(graphic.closed);
+    EXPECT_EQ(graphic.vertices.back().startWidth, 3);
+    EXPECT_EQ(graphic.vertices.back().endWidth, 3);
+    const size_t pieces = graphic.vertices.size() - 1;
+    for (size_t i = 0; i < pieces; ++i) {
+        EXPECT_NEAR(graphic.vertices[i].startWidth, 2.0 * i / pieces, 1e-9) << i;
+        EXPECT_NEAR(graphic.vertices[i].endWidth, 2.0 * (i + 1) / pieces, 1e-9) << i;
+    }
+    EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle, seen at an angle";
 }
 
 TEST(Import, HatchesOfOnePatternShareItsStyle) {
@@ -300,7 +338,7 @@ TEST(Import, SaysWhatItLeavesOut) {
     EXPECT_EQ(Members(drawing).size(), 0u);
     EXPECT_EQ(heard.findings, "17 LINE is left out: a number that has no place in a drawing, in line 20\n"
                               "11 1 of type RAY not shown: this type is not read\n"
-                              "0 1 entities of paper space are not shown\n");
+                              "0 1 entity of paper space is not shown\n");
     EXPECT_STREQ(heard.message, "");
 }
 

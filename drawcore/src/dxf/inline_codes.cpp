@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 
 #include "drawcore/src/dxf/text_decoding.h"
 
@@ -158,8 +159,10 @@ private:
         case 'A':
         case 'Q':
         case 'T':
-        case 'p':
             TakeArgument();
+            break;
+        case 'p':
+            ReadParagraph(TakeArgument());
             break;
         default:
             text_ += '\\', text_ += code;
@@ -174,6 +177,17 @@ private:
         if (switches.empty()) return;
         Change(&InlineFormat::bold, switches.find("|b1") != switches.npos);
         Change(&InlineFormat::italic, switches.find("|i1") != switches.npos);
+    }
+
+    // "xi-2,l2,qc,t4": of indents, alignment and tab stops the alignment; "q*" puts it back.
+    void ReadParagraph(std::string_view argument) {
+        const size_t found = argument.find('q');
+        if (found == argument.npos || found + 1 == argument.size()) return;
+        const char alignment = argument[found + 1];
+        if (alignment == '*')
+            Change(&InlineFormat::alignment, char{0});
+        else if (std::strchr("lcrjd", alignment))
+            Change(&InlineFormat::alignment, alignment);
     }
 
     // "2.5" is a height, "0.7x" a share of the present one.

@@ -1,5 +1,5 @@
 // The inline codes of MTEXT: takes the text as shown, and the format of its parts, out of the stored form.
-// Columns, tab stops, tracking and the alignment of parts are passed over.
+// Columns, tab stops, indents, tracking and the vertical alignment of parts are passed over.
 #pragma once
 
 #include <string>
@@ -19,6 +19,8 @@ struct InlineFormat {
     double widthFactor = 1;
     int color = -1;     // -1: the entity's
     int trueColor = -1; // 0xRRGGBB; -1: none
+    // Of the paragraph: 'l', 'c', 'r', 'j' (justified) or 'd' (distributed); 0: as the text is attached.
+    char alignment = 0;
 };
 
 struct FormattedText {

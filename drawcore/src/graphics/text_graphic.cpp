@@ -50,7 +50,7 @@ void Wrap(const std::wstring& line, double limit, const TextFace& face, std::vec
 bool TextState::operator==(const TextState& other) const {
     const auto tie = [](const TextState& s) {
         return std::tie(s.text, s.font, s.height, s.widthFactor, s.fitWidth, s.wrapWidth, s.lineSpacing,
-                        s.style, s.format, s.anchor);
+                        s.style, s.format, s.boxFormat, s.anchor);
     };
     return tie(*this) == tie(other) && position == other.position && along == other.along && up == other.up;
 }
@@ -103,10 +103,20 @@ void TextGraphic::PlaceRows(const TextFace& face) const {
     stretch_ = state.widthFactor;
     if (state.fitWidth > 0 && rows_.front().width > 0)
         stretch_ = state.fitWidth / (rows_.front().width * state.height);
+    const double boxShift = state.boxFormat ? BoxWidth() * (state.format - *state.boxFormat) / 2.0 : 0;
     for (Row& row : rows_) {
-        row.origin = {-row.width * state.format / 2.0, y};
+        row.origin = {boxShift - row.width * state.format / 2.0, y};
         y -= step;
     }
+}
+
+// In the units of the rows.
+double TextGraphic::BoxWidth() const {
+    if (state.wrapWidth > 0) return state.wrapWidth / (state.height * state.widthFactor);
+    double widest = 0;
+    for (const Row& row : rows_)
+        widest = std::max(widest, row.width);
+    return widest;
 }
 
 Matrix TextGraphic::RowMatrix(const Row& row) const {

@@ -1,6 +1,8 @@
 // Texts of one or more lines in a TrueType face.
 #pragma once
 
+#include <optional>
+
 #include "drawcore/src/graphics/graphic.h"
 
 namespace drawcore {
@@ -36,6 +38,9 @@ struct TextState {
     double lineSpacing = 1; // in multiples of the usual 5/3 of the height
     uint16_t style = 0;
     uint16_t format = kTextLeft;
+    // Which edge of the box that holds the rows hangs at the position, in the values of format; none: that which format says.
+    // The box is as wide as wrapWidth, or without one as the longest row.
+    std::optional<uint16_t> boxFormat;
     TextAnchor anchor = TextAnchor::Baseline; // of the first line, or of the whole block but for Baseline
 
     bool operator==(const TextState& other) const;
@@ -66,6 +71,7 @@ private:
     };
     void LayOut() const;
     void PlaceRows(const TextFace& face) const;
+    double BoxWidth() const;
     void TraceFrame(const Trace& trace, const PenUse& use) const;
     Matrix RowMatrix(const Row& row) const;
 

@@ -30,7 +30,8 @@ public:
         }
         if (onPaper > 0)
             document_.findings.push_back(
-                {0, std::to_string(onPaper) + " entities of paper space are not shown"});
+                {0, onPaper == 1 ? "1 entity of paper space is not shown"
+                                 : std::to_string(onPaper) + " entities of paper space are not shown"});
         return std::move(drawing_);
     }
 

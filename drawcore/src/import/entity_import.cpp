@@ -51,7 +51,36 @@ void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     }
 }
 
+// The same polyline with straight pieces in place of its arcs; a width that changes along an arc changes piece by piece.
+dxf::Polyline Straightened(const dxf::Polyline& polyline) {
+    dxf::Polyline straight = polyline;
+    straight.vertices.clear();
+    const size_t count = polyline.vertices.size();
+    for (size_t i = 0; i < count; ++i) {
+        const dxf::Polyline::Vertex& from = polyline.vertices[i];
+        const bool last = i + 1 == count;
+        const auto arc = last && !polyline.closed
+                             ? std::nullopt
+                             : dxf::BulgeArc(from.at, polyline.vertices[last ? 0 : i + 1].at, from.bulge);
+        const int pieces = arc ? StraightPieces(arc->sweep) : 1;
+        for (int piece = 0; piece < pieces; ++piece) {
+            const auto width = [&](int end) {
+                return from.startWidth + (from.endWidth - from.startWidth) * end / pieces;
+            };
+            dxf::Polyline::Vertex& vertex = straight.vertices.emplace_back(from);
+            vertex.bulge = 0;
+            vertex.startWidth = width(piece);
+            vertex.endWidth = width(piece + 1);
+            if (piece > 0) vertex.at = arc->At(arc->start + arc->sweep * piece / pieces);
+        }
+    }
+    return straight;
+}
+
 std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline& polyline) {
+    if (!IsUpright(entity.normal) && std::any_of(polyline.vertices.begin(), polyline.vertices.end(),
+                                                 [](const auto& v) { return v.bulge != 0; }))
+        return MakeFlat(entity, Straightened(polyline)); // seen at an angle, a circle is none
     auto graphic = std::make_unique<VertexGraphic>();
     const dxf::Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {
@@ -96,9 +125,7 @@ public:
 
     std::unique_ptr<Graphic> operator()(const dxf::Polyline& polyline) {
         if (polyline.vertices.empty()) return nullptr;
-        if (polyline.kind == dxf::Polyline::Kind::flat && IsUpright(entity_.normal))
-            return MakeFlat(entity_, polyline);
-        return Traced(entity_);
+        return polyline.kind == dxf::Polyline::Kind::flat ? MakeFlat(entity_, polyline) : Traced(entity_);
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Spline>& spline) {

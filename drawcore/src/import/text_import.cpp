@@ -115,6 +115,13 @@ void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
     state.up = FromDxf(system.Vector({std::cos(up), std::sin(up), 0}) * upsideDown);
 }
 
+// Aligned paragraphs move within the box of the text; the box stays where it is attached.
+void AlignParagraphs(char alignment, TextState& state) {
+    if (alignment == 0) return;
+    state.boxFormat = state.format;
+    state.format = alignment == 'c' ? kTextCenter : alignment == 'r' ? kTextRight : kTextLeft;
+}
+
 uint16_t StyleBits(bool underlined, bool struckThrough) {
     return static_cast<uint16_t>((underlined ? kTextUnderline : 0) |
                                  (struckThrough ? kTextStrikethrough : 0));
@@ -169,6 +176,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     state.wrapWidth = std::max(text.width, 0.0);
     state.lineSpacing = text.lineSpacing > 0 ? std::clamp(text.lineSpacing, 0.25, 4.0) : 1;
     state.format = static_cast<uint16_t>((text.attachment - 1) % 3);
+    AlignParagraphs(format.alignment, state);
     constexpr TextAnchor kAnchors[] = {TextAnchor::Top, TextAnchor::Middle, TextAnchor::Bottom};
     state.anchor = kAnchors[(text.attachment - 1) / 3];
     state.position = FromDxf(text.insertion);

@@ -6,8 +6,6 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kStep = dxf::kPi / 36; // of an arc that no bulge can show
-
 bool IsCircle(const dxf::EllipseArc& arc) {
     const double u = dxf::Length(arc.u), v = dxf::Length(arc.v);
     const double across = arc.u.x * arc.v.x + arc.u.y * arc.v.y;
@@ -17,6 +15,11 @@ bool IsCircle(const dxf::EllipseArc& arc) {
 
 } // namespace
 
+int StraightPieces(double sweep) {
+    constexpr double kStep = dxf::kPi / 36;
+    return static_cast<int>(std::ceil(std::fabs(sweep) / kStep)) + 1;
+}
+
 void VertexBuilder::MoveTo(dxf::Point p) {
     vertices_.emplace_back(FromDxf(p), vertices_.empty());
 }
@@ -24,8 +27,7 @@ void VertexBuilder::MoveTo(dxf::Point p) {
 void VertexBuilder::ArcTo(const dxf::EllipseArc& arc) {
     const bool circle = IsCircle(arc) && !vertices_.empty();
     // A bulge grows without end towards a full turn: two halves are good numbers.
-    const int pieces = circle ? (std::fabs(arc.sweep) > dxf::kPi ? 2 : 1)
-                              : static_cast<int>(std::ceil(std::fabs(arc.sweep) / kStep)) + 1;
+    const int pieces = circle ? (std::fabs(arc.sweep) > dxf::kPi ? 2 : 1) : StraightPieces(arc.sweep);
     const bool mirrored = arc.u.x * arc.v.y - arc.u.y * arc.v.x < 0;
     const double bulge = circle ? std::tan(arc.sweep / pieces / 4) * (mirrored ? -1 : 1) : 0;
     for (int i = 1; i <= pieces; ++i) {

@@ -10,6 +10,9 @@ inline Vec3 FromDxf(const dxf::Point& p) {
     return {p.x, p.y, p.z};
 }
 
+// How many straight pieces show an arc that no bulge can show.
+int StraightPieces(double sweep);
+
 // Appends to the vertices of a graphic. Arcs that are circular from above become bulges, others short lines.
 class VertexBuilder : public dxf::PathSink {
 public:
