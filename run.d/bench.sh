@@ -5,7 +5,7 @@ source run.d/build.sh
 packages="libgsf-1-dev pkg-config" # what the native property sets are measured against
 setup
 say "building (this machine)"
-cmake --preset native >build/configure.log 2>&1 || { cat build/configure.log; exit 1; }
+configure native
 cmake --build build/native --target bench_propset
 
 build/native/bench/bench_propset "$@"

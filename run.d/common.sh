@@ -9,6 +9,19 @@ export WINEPREFIX=${ORLO_WINEPREFIX:-$PWD/build/wine}
 export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml="
 
+# Makes ready to build in build/PRESET. What CMake notes there are whole paths: a folder that was moved or copied since
+# then can't go on with it.
+configure() {
+    local preset=$1 made_in
+    if [ -e "build/$preset/CMakeCache.txt" ]; then
+        made_in=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "build/$preset/CMakeCache.txt")
+        [ "$made_in" -ef . ] || die "build/$preset was made for $made_in: this folder was moved or copied. Remove build/ \
+(rm -r build) and call ./run again."
+    fi
+    mkdir -p build
+    cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 || { cat "build/configure-$preset.log"; exit 1; }
+}
+
 # Makes the Wine prefix once: no window manager is expected, crashes print and do not ask, fonts are there.
 wine_prefix() {
     [ -e "$WINEPREFIX/.ready" ] && return

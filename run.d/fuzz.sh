@@ -4,7 +4,7 @@ seconds=${1:-60}
 wanted=" ${*:2} "
 source run.d/setup.sh
 say "building the fuzzers"
-cmake --preset sanitize >build/configure-sanitize.log 2>&1 || { cat build/configure-sanitize.log; exit 1; }
+configure sanitize
 cmake --build build/sanitize --target fuzzers
 
 failed=0

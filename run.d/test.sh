@@ -3,7 +3,7 @@
 
 source run.d/build.sh
 say "building (this machine, with sanitizers)"
-cmake --preset sanitize >build/configure.log 2>&1 || { cat build/configure.log; exit 1; }
+configure sanitize
 cmake --build build/sanitize
 failed=0
 ctest --test-dir build/sanitize --output-on-failure -j 2 ${1:+-R "$1"} || failed=1
