@@ -21,19 +21,22 @@ void Say(const std::string& text) {
 } // namespace
 
 bool RoundTrip::Check(const std::vector<std::string>& drawings) {
-    int faults = 0;
+    int different = 0, unchecked = 0;
     for (const std::string& drawing : drawings) {
         try {
-            faults += !CheckOne(drawing);
+            different += !CheckOne(drawing);
         } catch (const OpenError&) {
             Say(drawing + ": cannot be opened");
         } catch (const std::exception& error) {
             Say(drawing + ": " + error.what());
-            ++faults;
+            ++unchecked;
         }
     }
-    Say(std::to_string(drawings.size()) + " drawings, " + std::to_string(faults) + " with differences");
-    return faults == 0;
+    std::string end =
+        std::to_string(drawings.size()) + " drawings, " + std::to_string(different) + " with differences";
+    if (unchecked) end += ", " + std::to_string(unchecked) + " not checked to the end";
+    Say(end);
+    return different + unchecked == 0;
 }
 
 bool RoundTrip::CheckOne(const std::string& drawing) {

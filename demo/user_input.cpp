@@ -64,6 +64,16 @@ void UserInput::TakeAll() {
         AfxGetThread()->PumpMessage();
 }
 
+HWND UserInput::Focus() {
+    if (!::GetFocus() && ::IsWindow(m_focus)) {
+        ::SetForegroundWindow(::GetAncestor(m_focus, GA_ROOT));
+        ::SetFocus(m_focus);
+    }
+    m_focus = ::GetFocus();
+    if (!m_focus) throw std::runtime_error("another program has taken the keyboard");
+    return m_focus;
+}
+
 void UserInput::Wait(unsigned milliseconds) {
     const ULONGLONG end = ::GetTickCount64() + milliseconds;
     TakeAll();
@@ -71,10 +81,11 @@ void UserInput::Wait(unsigned milliseconds) {
         ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
         TakeAll();
     }
+    if (const HWND focus = ::GetFocus()) m_focus = focus;
 }
 
 void UserInput::Key(UINT virtualKey, unsigned modifiers) {
-    const HWND focus = ::GetFocus();
+    const HWND focus = Focus();
     const bool alt = modifiers & kAlt;
     const HeldKeys held(modifiers);
     ::PostMessageA(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, alt ? 0x20000001 : 1);
@@ -85,8 +96,9 @@ void UserInput::Key(UINT virtualKey, unsigned modifiers) {
 
 void UserInput::Keys(UINT virtualKey, int count) {
     for (int i = 0; i < count; ++i) {
-        ::PostMessageA(::GetFocus(), WM_KEYDOWN, virtualKey, 1);
-        ::PostMessageA(::GetFocus(), WM_KEYUP, virtualKey, 0xC0000001);
+        const HWND focus = Focus();
+        ::PostMessageA(focus, WM_KEYDOWN, virtualKey, 1);
+        ::PostMessageA(focus, WM_KEYUP, virtualKey, 0xC0000001);
         TakeAll();
     }
     Wait(m_pause);
@@ -94,7 +106,7 @@ void UserInput::Keys(UINT virtualKey, int count) {
 
 void UserInput::Type(const std::string& text) {
     for (const char character : text)
-        ::PostMessageA(::GetFocus(), WM_CHAR, static_cast<unsigned char>(character), 1);
+        ::PostMessageA(Focus(), WM_CHAR, static_cast<unsigned char>(character), 1);
     Wait(m_pause);
 }
 

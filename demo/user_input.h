@@ -22,7 +22,8 @@ public:
     // Lets the program handle what is waiting, for that time at least.
     void Wait(unsigned milliseconds);
 
-    // To the window that has the focus.
+    // To the window that has the focus. If another program has taken it, it is taken back first; std::runtime_error if
+    // that can't be done.
     void Key(UINT virtualKey, unsigned modifiers = kNone);
     void Keys(UINT virtualKey, int count);
     void Type(const std::string& text);
@@ -47,7 +48,9 @@ private:
     struct Dialog;
 
     void TakeAll();
+    HWND Focus();
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
 
     unsigned m_pause;
+    HWND m_focus = nullptr; // that had it last
 };

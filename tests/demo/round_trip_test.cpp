@@ -15,6 +15,18 @@ TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
          TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
 }
 
+TEST_F(Viewer, KeysReachTheWindowThatHadTheFocusOrNobody) {
+    user.Wait(0);
+    ::SetFocus(nullptr); // as when a window of another program comes up
+    user.Key('A', UserInput::kControl);
+    EXPECT_EQ(selection().Count(), 4);
+    EXPECT_EQ(::GetFocus(), view());
+
+    UserInput homeless(0); // has seen no focus that it could go back to
+    ::SetFocus(nullptr);
+    EXPECT_THROW(homeless.Type("x"), std::runtime_error);
+}
+
 TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
     GraphicStruct* line = document().Selectable().front();
     const DrawingState before(document().Drawing());
