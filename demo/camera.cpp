@@ -35,7 +35,7 @@ void Camera::Fit(GraphicStruct* graphic, int margin) {
     CRect inner = window;
     inner.DeflateRect(margin, margin);
     ::ViewportSetRect(m_viewport, inner.IsRectEmpty() ? window : inner);
-    ::ViewportSetExtents(m_viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
+    ::ViewportFitSeen(m_viewport, graphic);
     ::ViewportSetRect(m_viewport, window);
 }
 

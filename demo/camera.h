@@ -19,7 +19,7 @@ public:
 
     // Size of the client area; the middle of the picture stays the middle.
     void SetWindow(CSize pixels);
-    // Shows the whole of a graphic with a margin (pixels) on each side; one without an extent changes nothing.
+    // Shows all that is seen of a graphic with a margin (pixels) on each side; one without an extent changes nothing.
     void Fit(GraphicStruct* graphic, int margin);
     // Makes everything `factor` times as large; what is under the anchor stays there.
     void Zoom(double factor, CPoint anchor);

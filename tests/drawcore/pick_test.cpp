@@ -51,6 +51,26 @@ TEST_F(Pick, FindsWhatIsNearAndDrawnLast) {
     EXPECT_EQ(ViewportPick(nullptr, drawing.Root(), {0, 0}, 3, 0), nullptr);
 }
 
+TEST_F(Pick, FitsWhatIsSeen) {
+    TableStruct* layers = drawing.Table("_Layers_");
+    const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
+    GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
+    GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
+    SetWhole(away, "Layer", hidden);
+    const auto width = [&] { // of what fits into the picture, in drawing units
+        ViewportFitSeen(picture.Viewport(), drawing.Root());
+        double left, right, y;
+        ViewportToDrawing(picture.Viewport(), {0, 0}, &left, &y);
+        ViewportToDrawing(picture.Viewport(), {100, 0}, &right, &y);
+        return right - left;
+    };
+    EXPECT_NEAR(width(), 990, 1);
+    LayerSet(drawing, hidden, 0, kLayerOff, 0);
+    EXPECT_NEAR(width(), 10, 0.1);
+    SetWhole(close, "Layer", hidden);
+    EXPECT_NEAR(width(), 990, 1) << "nothing is seen: where it would be";
+}
+
 TEST_F(Pick, CountsWidthsAndFilledAreas) {
     GraphicStruct* wide = drawing.Add(MakeLines({{10, 80}, {90, 80}}));
     SetWhole(wide, "ScaleSystem", 0);

@@ -1,7 +1,7 @@
 // Viewing and picking, for host programs: what a window on a drawing needs beyond orlo/host/viewport.h.
 //
 //   ViewportSetRect(view, &client);
-//   ViewportSetExtents(view, GraphicGetExtentsSel(root, 0), 3);     // zoom to all
+//   ViewportFitSeen(view, root);                                    // zoom to all
 //   ViewportSetGDIStuff(view, window, dc, MM_TEXT, 1);
 //   GraphicDrawEx2(root, nullptr, view, 0, 1);
 //   GraphicDrawHighlighted(selection, view, RGB(0, 120, 215));
@@ -16,6 +16,10 @@
 // Colour that lies behind the drawing: lines of nearly that colour are drawn black or white, so that they are seen. Without
 // this call it is the system's window colour or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
+
+// Fits what is seen of the graphic into the rectangle, as ViewportSetExtents does: all but what lies on hidden layers. If
+// nothing is seen, all of it.
+DRAWCORE_API void ViewportFitSeen(ViewportStruct*, GraphicStruct*);
 
 // Draws a graphic with its members in one colour, solid and at least three pixels wide.
 DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);

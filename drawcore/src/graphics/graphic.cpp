@@ -6,36 +6,12 @@
 #include "drawcore/src/database/census.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/database/undo.h"
-#include "drawcore/src/graphics/trace.h"
+#include "drawcore/src/graphics/extents_sink.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {
 
 namespace {
-
-// Collects the box of what is traced; widths and dashes do not count.
-class ExtentsSink : public GeometrySink {
-public:
-    explicit ExtentsSink(Extents& extents) : extents_(extents) {}
-    bool Wants(const Extents&, double) const override { return true; }
-    double Tolerance() const override { return 0; }
-    double PaperInch() const override { return 0; }
-    void Stroke(const Path& path, const PenUse&) override { Add(path); }
-    void Fill(const Path& outlines, const BrushUse&) override { Add(outlines); }
-    void Text(const TextRow& row) override {
-        for (const double x : {0.0, row.width})
-            for (const double y : {-row.face->Descent(), 1.0})
-                extents_.Add(row.matrix.Apply({x, y, 0}));
-    }
-
-private:
-    void Add(const Path& path) {
-        for (const Point& p : path.points)
-            extents_.Add({p.x, p.y, 0});
-    }
-
-    Extents& extents_;
-};
 
 // Those of the block that has this content: their boxes come from its.
 void ForgetInsertions(const Graphic& content) {

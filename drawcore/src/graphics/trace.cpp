@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/extents_sink.h"
 
 namespace drawcore {
 
@@ -59,6 +60,12 @@ void TraceMembers(const Graphic& graphic, const Trace& trace) {
     if (graphic.FindMotion(motion)) inner.matrix = motion * trace.matrix;
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
         TraceGraphic(*graphic.MemberAt(i), inner);
+}
+
+bool HidesNothing(const LayerTable& layers) {
+    for (Id id = layers.First(); id; id = layers.Next(id))
+        if (!layers.At(id)->IsVisible()) return false;
+    return true;
 }
 
 bool IsDot(const Extents& box, const GeometrySink& sink) {
@@ -126,6 +133,14 @@ void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawin
     trace.lineScale = lineScale;
     trace.penUnit = penUnit;
     TraceGraphic(graphic, trace);
+}
+
+Extents SeenExtents(const Graphic& graphic, const Drawing* drawing) {
+    if (!drawing || !drawing->Layers() || HidesNothing(*drawing->Layers())) return graphic.GetExtents();
+    Extents extents;
+    ExtentsSink sink(extents);
+    TraceFrom(graphic, sink, drawing, {}, 1, 0);
+    return extents;
 }
 
 } // namespace drawcore

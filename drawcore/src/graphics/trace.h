@@ -38,6 +38,8 @@ struct BrushUse {
 struct TextRow {
     std::wstring_view text;
     const int* steps = nullptr; // from letter to letter, in units of the face's font; as many as letters
+    const std::vector<ShapedRun>* runs =
+        nullptr; // if not empty, the row is drawn by them, and steps does not count
     const TextFace* face = nullptr;
     Matrix matrix;
     double width = 0;
@@ -102,6 +104,9 @@ void TraceGraphic(const Graphic& graphic, const Trace& trace);
 // The same from the start.
 void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
                double lineScale, double penUnit);
+
+// The box of what is seen of the graphic and its members: extents without what lies on hidden layers.
+Extents SeenExtents(const Graphic& graphic, const Drawing* drawing);
 
 // A graphic's brush over the outlines in the tools' path; nothing without a brush.
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use);

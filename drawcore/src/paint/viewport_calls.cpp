@@ -105,6 +105,14 @@ void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, 
     if (viewport && extents) Viewport::From(viewport)->Show(*Extents::From(extents));
 }
 
+void ViewportFitSeen(ViewportStruct* viewport, GraphicStruct* graphic) {
+    if (!viewport || !graphic) return;
+    Viewport& view = *Viewport::From(viewport);
+    const Graphic& all = *Graphic::From(graphic);
+    const Extents seen = SeenExtents(all, DrawingFor(view, all));
+    view.Show(seen.IsEmpty() ? all.GetExtents() : seen);
+}
+
 void ViewportSetGDIStuff(ViewportStruct* viewport, HWND, HDC dc, int mapMode, int) {
     if (!viewport) return;
     Viewport::From(viewport)->dc = dc;
