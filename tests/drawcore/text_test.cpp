@@ -7,6 +7,7 @@
 #include <drawcore/undo.h>
 
 #include "drawcore/kit.h"
+#include "drawcore/src/graphics/text_graphic.h"
 
 namespace {
 
@@ -78,6 +79,26 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
         GraphicDelete(drawing.Root(), text);
         GraphicDispose(&text);
     }
+}
+
+// Letters that are read from right to left, and digits among them, cover as much together as each by itself: none lies on
+// another.
+TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
+    GraphicStruct* text = Text("x", 5, 40, 14);
+    SetText(text, "TextFont", "DejaVu Sans");
+    const auto covered = [&](const wchar_t* letters) {
+        static_cast<drawcore::TextGraphic*>(drawcore::Graphic::From(text))->state.text = letters;
+        SetReal(text, "TextSize", 14); // it measures itself anew
+        Draw();
+        return picture.Covered();
+    };
+    const int narrow = covered(L"\x05D9"), digits = covered(L"8888");
+    const int apart = 4 * narrow + digits;
+    EXPECT_NEAR(covered(L"\x05D9\x05D9\x05D9\x05D9 8888"), apart, apart / 20);
+    const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
+    const int right = static_cast<int>(ExtentsGetX2(box));
+    EXPECT_EQ(picture.Covered(right + 2, 0, 100, 100), 0);
+    EXPECT_GT(picture.Covered(right - 5, 0, right + 1, 100), 10);
 }
 
 int CALLBACK Found(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) {

@@ -56,6 +56,7 @@ TextFace::TextFace(const std::string& name, uint16_t style) : font_(MakeFont(nam
 }
 
 TextFace::~TextFace() {
+    ::ScriptFreeCache(&shapes_);
     ::DeleteObject(font_);
 }
 
@@ -68,6 +69,11 @@ std::vector<int> TextFace::Steps(std::wstring_view row) const {
     for (size_t i = steps.size(); i-- > 1;)
         steps[i] -= steps[i - 1];
     return steps;
+}
+
+std::vector<ShapedRun> TextFace::Shape(std::wstring_view row) const {
+    const SelectedObject selected(MeasuringDevice(), font_);
+    return ShapeRow(MeasuringDevice(), shapes_, row);
 }
 
 double TextFace::Width(std::wstring_view row) const {

@@ -9,6 +9,8 @@
 
 #include <windows.h>
 
+#include "drawcore/src/graphics/shaped_text.h"
+
 namespace drawcore {
 
 class TextFace {
@@ -25,6 +27,12 @@ public:
     double Width(std::wstring_view row) const;
     // The way from each letter to the next, in the font's units; their sum is the length.
     std::vector<int> Steps(std::wstring_view row) const;
+    // The row as the system shapes it; empty if its letters follow each other by their steps.
+    std::vector<ShapedRun> Shape(std::wstring_view row) const;
+    // Onto a device context that has the font.
+    void Draw(HDC dc, const std::vector<ShapedRun>& row, POINT leftEndOfBaseline) const {
+        DrawShapedRow(dc, shapes_, row, leftEndOfBaseline.x, leftEndOfBaseline.y);
+    }
 
     // The face that the system has given for the name asked for.
     const std::string& Name() const { return name_; }
@@ -38,6 +46,7 @@ private:
 
     HFONT font_;
     std::string name_;
+    mutable SCRIPT_CACHE shapes_ = nullptr; // the shaping engine's own, of this font
     int capital_ = 1;
     double descent_ = 0;
 };

@@ -87,9 +87,14 @@ void TextGraphic::LayOut() const {
     }
     rows_.clear();
     for (std::wstring& row : texts) {
-        std::vector<int> steps = face.Steps(row);
-        const double width = std::accumulate(steps.begin(), steps.end(), 0.0) / face.CapitalHeight();
-        rows_.push_back({std::move(row), std::move(steps), {}, width});
+        std::vector<ShapedRun> runs = face.Shape(row);
+        std::vector<int> steps;
+        if (runs.empty()) steps = face.Steps(row);
+        double width = std::accumulate(steps.begin(), steps.end(), 0.0);
+        for (const ShapedRun& run : runs)
+            width += run.width;
+        rows_.push_back(
+            {std::move(row), std::move(steps), std::move(runs), {}, width / face.CapitalHeight()});
     }
     PlaceRows(face);
 }
@@ -132,8 +137,8 @@ void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
     for (const Row& row : rows_) {
         if (row.text.empty()) continue;
-        trace.sink.Text(
-            {row.text, row.steps.data(), &face, RowMatrix(row) * trace.matrix, row.width, use.color});
+        trace.sink.Text({row.text, row.steps.data(), &row.runs, &face, RowMatrix(row) * trace.matrix,
+                         row.width, use.color});
     }
 }
 
@@ -145,7 +150,7 @@ void TextGraphic::TraceFrame(const Trace& trace, const PenUse& use) const {
         right = std::max(right, row.origin.x + row.width);
     }
     const double top = rows_.front().origin.y + 1 + kFrameGap, bottom = rows_.back().origin.y - 2 * kFrameGap;
-    const Matrix matrix = RowMatrix({{}, {}, {}, 0}) * trace.matrix;
+    const Matrix matrix = RowMatrix({{}, {}, {}, {}, 0}) * trace.matrix;
     Path& path = trace.tools.path;
     path.Clear();
     path.MoveTo(matrix.Plan({left - kFrameGap, bottom, 0}));

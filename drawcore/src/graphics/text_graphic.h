@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/shaped_text.h"
 
 namespace drawcore {
 
@@ -65,7 +66,8 @@ private:
     // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
     struct Row {
         std::wstring text;
-        std::vector<int> steps;
+        std::vector<int> steps;      // empty if it is shaped
+        std::vector<ShapedRun> runs; // empty if it needs no shaping
         Point origin;
         double width;
     };

@@ -54,8 +54,11 @@ void TextOutput::Draw(const TextRow& row, Color color) {
     }
     if (::GetCurrentObject(dc_, OBJ_FONT) != row.face->Font()) ::SelectObject(dc_, row.face->Font());
     ::SetTextColor(dc_, color);
-    ::ExtTextOutW(dc_, at.x, at.y, 0, nullptr, row.text.data(), static_cast<UINT>(row.text.size()),
-                  row.steps);
+    if (row.runs->empty())
+        ::ExtTextOutW(dc_, at.x, at.y, 0, nullptr, row.text.data(), static_cast<UINT>(row.text.size()),
+                      row.steps);
+    else
+        row.face->Draw(dc_, *row.runs, at);
 }
 
 void TextOutput::End() {
