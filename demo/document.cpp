@@ -109,6 +109,10 @@ int Document::Change(const std::function<void()>& change) {
     return ::DrawingEndUndo(m_drawing);
 }
 
+int Document::ForgottenSteps() const {
+    return ::DrawingCountForgotten(m_drawing);
+}
+
 int Document::UndoSteps() const {
     return ::DrawingCountUndo(m_drawing);
 }

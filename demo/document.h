@@ -53,6 +53,8 @@ public:
 
     // Runs a change as one step that Undo takes back. The number of graphics that it changed.
     int Change(const std::function<void()>& change);
+    // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
+    int ForgottenSteps() const;
     int UndoSteps() const;
     // The number of graphics that are as before again.
     int Undo();

@@ -170,7 +170,10 @@ void CMainFrame::OnEditProperties() {
     const SheetOutcome outcome = EditSelection(this, *m_document);
     if (outcome.changed) {
         m_view.Redraw();
-        m_status.ShowMessage(Counted(outcome.changed, "graphic") + " changed");
+        std::string message = Counted(outcome.changed, "graphic") + " changed";
+        if (const int forgotten = m_document->ForgottenSteps())
+            message += "; there is no memory left to take back the oldest " + Counted(forgotten, "change");
+        m_status.ShowMessage(message);
     } else {
         m_status.ShowMessage("Nothing changed");
     }

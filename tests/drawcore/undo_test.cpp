@@ -77,6 +77,78 @@ TEST_F(Undo, GoesBackStepByStep) {
     }
 }
 
+TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
+    const auto step = [&](double width) {
+        DrawingBeginUndo(drawing);
+        for (GraphicStruct* line : lines)
+            SetReal(line, "PenWidth", width);
+        EXPECT_EQ(DrawingEndUndo(drawing), 3);
+        return DrawingCountForgotten(drawing);
+    };
+    EXPECT_EQ(step(2) + step(3) + step(4), 0);
+    DrawingSetUndoRoom(drawing, 1); // the last one stays all the same
+    EXPECT_EQ(step(5), 3);
+    EXPECT_EQ(step(6), 1);
+    EXPECT_EQ(DrawingUndo(drawing), 3);
+    EXPECT_EQ(DrawingUndo(drawing), 0);
+    EXPECT_EQ(GetReal(lines[2], "PenWidth"), 5);
+}
+
+size_t HeapBytes() {
+    size_t bytes = 0;
+    HANDLE heaps[64];
+    const DWORD count = ::GetProcessHeaps(64, heaps);
+    for (DWORD i = 0; i < count && i < 64; ++i) {
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+    }
+    return bytes;
+}
+
+// A million graphics and ten edits have to stay within a few hundred megabytes.
+TEST_F(Undo, KeepsOnlyWhatHasChanged) {
+    constexpr int kGraphics = 10000, kSteps = 10;
+    for (int i = 0; i < kGraphics; ++i)
+        lines.push_back(drawing.Add(MakeSquare(i, 0, 1)));
+    const size_t before = HeapBytes();
+    for (int step = 1; step <= kSteps; ++step) {
+        DrawingBeginUndo(drawing);
+        for (GraphicStruct* line : lines)
+            SetWhole(line, "PenColor", static_cast<uint32_t>(step));
+        DrawingEndUndo(drawing);
+    }
+    EXPECT_LT((HeapBytes() - before) / kGraphics / kSteps, 30u) << "bytes a graphic and step";
+}
+
+// The look is saved first, and the shape is about to change only after the look has changed.
+TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
+    DrawingBeginUndo(drawing);
+    SetReal(lines[0], "PenWidth", 7);
+    VertexStruct* vertex = VertexNewEx(50, 50, 0);
+    GraphicVertexAdd(lines[0], vertex);
+    VertexDispose(&vertex);
+    EXPECT_EQ(DrawingEndUndo(drawing), 1);
+    EXPECT_EQ(DrawingUndo(drawing), 1);
+    EXPECT_EQ(GetReal(lines[0], "PenWidth"), 1);
+    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(lines[0], 0)), 1);
+}
+
+TEST_F(Undo, TakesBackAllThatATextLooksLike) {
+    GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
+    SetReal(text, "TextSize", 3);
+    DrawingBeginUndo(drawing);
+    SetReal(text, "TextSize", 4);
+    SetText(text, "TextFont", "Tahoma");
+    SetWhole(text, "TextStyle", 2);
+    SetWhole(text, "TextFormat", 1);
+    EXPECT_EQ(DrawingEndUndo(drawing), 1);
+    EXPECT_EQ(DrawingUndo(drawing), 1);
+    EXPECT_EQ(GetReal(text, "TextSize"), 3);
+    EXPECT_NE(GetText(text, "TextFont"), "Tahoma");
+    EXPECT_EQ(GetWhole(text, "TextStyle") + GetWhole(text, "TextFormat"), 0u);
+}
+
 TEST_F(Undo, KeepsNoStepInWhichNothingBecameDifferent) {
     DrawingBeginUndo(drawing);
     SetReal(lines[0], "PenWidth", 5);

@@ -5,6 +5,8 @@
 //   DrawingEndUndo(drawing);        // 12 graphics changed
 //   DrawingUndo(drawing);           // all 12 are as they were
 //
+// The oldest steps go when all together take more room than they may have: what can't be taken back any more is said.
+//
 // Recorded are properties, attributes and vertices of the drawing's own graphics; previews and samples are not.
 #pragma once
 
@@ -15,6 +17,10 @@
 DRAWCORE_API int DrawingBeginUndo(DrawingStruct*);
 // Closes the step. The number of graphics that are different now; with 0 no step is kept.
 DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
+// How many of the oldest steps the last DrawingEndUndo has let go for want of room.
+DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
+// Room for all steps, in bytes (256 MB unless set); the last step is kept whatever it takes.
+DRAWCORE_API void DrawingSetUndoRoom(DrawingStruct*, size_t bytes);
 // Takes back the last step. The number of graphics that it changed back; 0 if there is none, or one is still open.
 DRAWCORE_API int DrawingUndo(DrawingStruct*);
 // Number of steps that can be taken back.

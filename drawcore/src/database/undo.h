@@ -1,10 +1,15 @@
-// The undo log of a drawing: what its graphics were before each step. A graphic is saved whole when it is changed for the
-// first time within a step; graphics that only show something (previews, samples) are not part of the drawing and not saved.
+// The undo log of a drawing: what its graphics were before each step. Kept is what a step changes: of a graphic that has other
+// properties now its look, which it shares with all that looked the same; of one whose shape is about to change the whole
+// state. Graphics that only show something (previews, samples) are not part of the drawing and not saved.
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <memory>
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
+
+#include "drawcore/src/graphics/attributes.h"
 
 namespace drawcore {
 
@@ -21,13 +26,40 @@ public:
     int Undo();   // takes back the last step; number of graphics changed back, 0 without a step
     size_t Steps() const { return steps_.size() - (open_ ? 1 : 0); }
 
-    void Save(Graphic& graphic);   // about to change
-    void Forget(Graphic& graphic); // about to go
+    void SetRoom(size_t bytes) { room_ = bytes; }
+    int Forgotten() const { return forgotten_; } // steps that the last End has let go for want of room
+
+    void SaveLook(Graphic& graphic);  // other properties are about to be set
+    void SaveState(Graphic& graphic); // anything is about to change
+    void Forget(Graphic& graphic);    // about to go
 
 private:
-    using Step = std::unordered_map<Graphic*, std::unique_ptr<Graphic>>;
-    std::vector<Step> steps_;
+    struct Saved {
+        Graphic* graphic;
+        const Look* look = nullptr; // one of these; neither once the graphic itself is gone
+        std::unique_ptr<Graphic> state;
+
+        bool IsGone() const { return !look && !state; }
+        bool IsDifferentNow() const;
+        void Restore() const;
+    };
+    struct Step {
+        std::vector<Saved> saved; // by address of the graphics, once the step is closed
+        std::unordered_set<Look, LookHash> looks;
+        size_t size = 0; // bytes
+
+        Saved* Find(const Graphic& graphic);
+        void Close();
+    };
+
+    Saved* InOpenStep(const Graphic& graphic);
+    Saved& Add(Graphic& graphic);
+    void MakeRoom();
+
+    std::deque<Step> steps_;
     bool open_ = false;
+    size_t room_ = size_t{256} << 20;
+    int forgotten_ = 0;
 };
 
 } // namespace drawcore

@@ -1,5 +1,9 @@
-// How a graphic is drawn: pen and brush. Values only; the properties of these names are in properties.h.
+// How a graphic is drawn: pen, brush, and all else that its properties say. Values only; the properties of these names are
+// in properties.h.
 #pragma once
+
+#include <cstddef>
+#include <string>
 
 #include "drawcore/src/styles/brush_style.h"
 #include "drawcore/src/styles/colors.h"
@@ -32,5 +36,30 @@ struct Brush {
 
 bool operator==(const Pen& a, const Pen& b);
 bool operator==(const Brush& a, const Brush& b);
+
+// The values of all properties of a graphic together, for the undo log: many graphics have the same.
+struct Look {
+    Pen pen;
+    Brush brush;
+    Id layer = kNoId;
+    Id styleTree = kNoId;
+    std::string info;
+    // Of texts.
+    std::string font;
+    double textHeight = 0;
+    uint16_t textStyle = 0;
+    uint16_t textFormat = 0;
+    // Not a property, but written with them: GraphicStruct::wLastPage.
+    uint16_t lastPage = 0;
+
+    bool HasSameProperties(const Look& other) const;
+    bool operator==(const Look& other) const {
+        return lastPage == other.lastPage && HasSameProperties(other);
+    }
+};
+
+struct LookHash {
+    size_t operator()(const Look& look) const;
+};
 
 } // namespace drawcore

@@ -35,6 +35,10 @@ void EllipseGraphic::Restore(const Graphic& saved) {
     arc = other.arc;
 }
 
+size_t EllipseGraphic::StateSize() const {
+    return sizeof *this;
+}
+
 bool EllipseGraphic::EqualState(const Graphic& saved) const {
     const EllipseArc& other = static_cast<const EllipseGraphic&>(saved).arc;
     return EqualAttributes(saved) && arc.center == other.center && arc.major == other.major &&

@@ -95,9 +95,17 @@ void Graphic::SetStyleName(const char* name) {
     pszStyleName = styleName_ ? styleName_->c_str() : nullptr;
 }
 
-void Graphic::Changing() {
+UndoLog* Graphic::OpenUndoLog() const {
     Drawing* drawing = GetDrawing();
-    if (drawing && drawing->Undo().IsOpen() && &Top() == &drawing->Root()) drawing->Undo().Save(*this);
+    return drawing && drawing->Undo().IsOpen() && &Top() == &drawing->Root() ? &drawing->Undo() : nullptr;
+}
+
+void Graphic::ChangingLook() {
+    if (UndoLog* log = OpenUndoLog()) log->SaveLook(*this);
+}
+
+void Graphic::ChangingShape() {
+    if (UndoLog* log = OpenUndoLog()) log->SaveState(*this);
 }
 
 void Graphic::ChangedShape() {
@@ -134,21 +142,33 @@ void Graphic::AddShapeExtents(Extents& extents) const {
     TraceShape(Trace(sink, tools), {});
 }
 
+Look Graphic::GetLook() const {
+    Look look;
+    look.pen = pen;
+    look.brush = brush;
+    look.layer = layer;
+    look.styleTree = styleTree;
+    if (info) look.info = *info;
+    look.lastPage = wLastPage;
+    return look;
+}
+
+void Graphic::SetLook(const Look& look) {
+    pen = look.pen;
+    brush = look.brush;
+    layer = look.layer;
+    styleTree = look.styleTree;
+    info = look.info.empty() ? nullptr : std::make_unique<std::string>(look.info);
+    wLastPage = look.lastPage;
+}
+
 void Graphic::RestoreAttributes(const Graphic& saved) {
-    pen = saved.pen;
-    brush = saved.brush;
-    layer = saved.layer;
-    styleTree = saved.styleTree;
-    info = saved.info ? std::make_unique<std::string>(*saved.info) : nullptr;
-    wLastPage = saved.wLastPage;
+    SetLook(saved.GetLook());
     dwOneOutline = saved.dwOneOutline;
 }
 
 bool Graphic::EqualAttributes(const Graphic& saved) const {
-    const std::string& ours = info ? *info : std::string();
-    const std::string& theirs = saved.info ? *saved.info : std::string();
-    return pen == saved.pen && brush == saved.brush && layer == saved.layer && styleTree == saved.styleTree &&
-           ours == theirs;
+    return GetLook().HasSameProperties(saved.GetLook());
 }
 
 } // namespace drawcore

@@ -17,6 +17,7 @@
 namespace drawcore {
 
 class Drawing;
+class UndoLog;
 struct Vertex;
 struct Trace;
 struct PenUse;
@@ -44,6 +45,11 @@ public:
     virtual std::unique_ptr<Graphic> CloneState() const = 0;
     virtual void Restore(const Graphic& saved) = 0;
     virtual bool EqualState(const Graphic& saved) const = 0;
+    // How much memory a copy of the state takes, in bytes, more or less.
+    virtual size_t StateSize() const = 0;
+    // The part of the state that properties set.
+    virtual Look GetLook() const;
+    virtual void SetLook(const Look& look);
 
     // The vertex at that place, null behind the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }
@@ -65,8 +71,9 @@ public:
     void Attach(Drawing* drawing);
     Drawing* GetDrawing() const; // null too when the drawing is gone
 
-    // A setter calls Changing before it changes anything, for the undo log, and one of the others after.
-    void Changing();
+    // A setter calls one of the first two before it changes anything, for the undo log, and one of the others after.
+    void ChangingLook();  // what GetLook gives, and nothing else
+    void ChangingShape(); // anything
     void ChangedLook() { dwFlags |= kFlagDirty; }
     void ChangedShape();
 
@@ -102,12 +109,15 @@ private:
     friend class UndoLog;
     friend class Block;
 
+    UndoLog* OpenUndoLog() const; // null if nothing is to be saved
+
     std::vector<std::unique_ptr<Graphic>> parts_;
     std::unique_ptr<std::string> styleName_;
     Drawing* drawing_ = nullptr;
     mutable Extents extents_;
     mutable bool extentsKnown_ = false;
     bool inUndoLog_ = false;
+    uint32_t undoPlace_ = 0; // in the open step of the undo log; says nothing by itself
     bool isBlockContent_ = false;
 };
 

@@ -62,7 +62,7 @@ template <class Field, class Value>
 void SetAttribute(GraphicStruct* record, Field&& field, Value value) {
     if (!record) return;
     Graphic& graphic = *Graphic::From(record);
-    graphic.Changing();
+    graphic.ChangingLook();
     field(graphic) = value;
     graphic.ChangedLook();
 }
@@ -207,7 +207,7 @@ void GraphicSetBrushStyle(GraphicStruct* graphic, uint16_t style) {
 int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex) {
     VertexGraphic* list = AsVertices(graphic);
     if (!list || !vertex) return 0;
-    list->Changing();
+    list->ChangingShape();
     list->vertices.push_back(*Vertex::From(vertex));
     list->ChangedShape();
     return 1;

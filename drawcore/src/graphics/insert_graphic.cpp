@@ -55,6 +55,10 @@ void InsertGraphic::Restore(const Graphic& saved) {
     array = other.array;
 }
 
+size_t InsertGraphic::StateSize() const {
+    return sizeof *this;
+}
+
 bool InsertGraphic::EqualState(const Graphic& saved) const {
     const auto& other = static_cast<const InsertGraphic&>(saved);
     return EqualAttributes(other) && std::equal(std::begin(vertices), std::end(vertices), other.vertices) &&

@@ -262,7 +262,7 @@ bool GiveText(int vt, void* out, const char* text) {
 // Sets the value through one of the accesses, as a change that the undo log sees.
 template <class Access, class Value>
 int Put(Graphic& graphic, const Property& property, const Access& access, const Value& value) {
-    graphic.Changing();
+    graphic.ChangingLook();
     access.set(graphic, value);
     if (property.shapes)
         graphic.ChangedShape();

@@ -15,6 +15,7 @@ public:
     std::unique_ptr<Graphic> Copy() const override;
     void Restore(const Graphic&) override {}
     bool EqualState(const Graphic&) const override { return true; }
+    size_t StateSize() const override { return sizeof *this; }
     void TraceShape(const Trace&, const PenUse&) const override {}
 
     size_t MemberCount() const override { return members_.size(); }

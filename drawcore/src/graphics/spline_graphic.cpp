@@ -121,6 +121,11 @@ void SplineGraphic::Restore(const Graphic& saved) {
     RestoreAttributes(saved); // nothing changes the curve of a spline
 }
 
+size_t SplineGraphic::StateSize() const {
+    return sizeof *this + curve.knots.size() * sizeof(double) + curve.points.size() * sizeof(Vec3) +
+           curve.weights.size() * sizeof(double);
+}
+
 bool SplineGraphic::EqualState(const Graphic& saved) const {
     return EqualAttributes(saved);
 }

@@ -14,7 +14,7 @@ int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* vertex, double width, do
     auto* of = graphic ? dynamic_cast<TextGraphic*>(Graphic::From(graphic)) : nullptr;
     if (!of || !vertex || !text || !std::isfinite(width) || !std::isfinite(height) || !std::isfinite(angle))
         return 0;
-    of->Changing();
+    of->ChangingShape();
     of->state.position = Vertex::From(vertex)->Position();
     of->state.fitWidth = width;
     if (height > 0) of->state.height = height;

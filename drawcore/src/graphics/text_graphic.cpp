@@ -58,12 +58,41 @@ bool TextState::operator==(const TextState& other) const {
 TextGraphic::TextGraphic() : Graphic(kGraphicText, &kTextProperties) {}
 
 std::unique_ptr<Graphic> TextGraphic::CloneState() const {
-    return std::make_unique<TextGraphic>(*this);
+    auto copy = std::make_unique<TextGraphic>(*this);
+    copy->ForgetLayout();
+    return copy;
 }
 
 void TextGraphic::Restore(const Graphic& saved) {
-    RestoreAttributes(saved);
     state = static_cast<const TextGraphic&>(saved).state;
+    RestoreAttributes(saved);
+}
+
+size_t TextGraphic::StateSize() const {
+    return sizeof *this + state.text.size() * sizeof(wchar_t) + state.font.size();
+}
+
+Look TextGraphic::GetLook() const {
+    Look look = Graphic::GetLook();
+    look.font = state.font;
+    look.textHeight = state.height;
+    look.textStyle = state.style;
+    look.textFormat = state.format;
+    return look;
+}
+
+void TextGraphic::SetLook(const Look& look) {
+    Graphic::SetLook(look);
+    state.font = look.font;
+    state.height = look.textHeight;
+    state.style = look.textStyle;
+    state.format = look.textFormat;
+}
+
+void TextGraphic::ForgetLayout() {
+    rows_.clear();
+    laidOut_ = {};
+    hasLayout_ = false;
 }
 
 bool TextGraphic::EqualState(const Graphic& saved) const {

@@ -58,6 +58,9 @@ public:
     std::unique_ptr<Graphic> CloneState() const override;
     void Restore(const Graphic& saved) override;
     bool EqualState(const Graphic& saved) const override;
+    size_t StateSize() const override;
+    Look GetLook() const override;
+    void SetLook(const Look& look) override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
     TextState state;
@@ -72,6 +75,7 @@ private:
         double width;
     };
     void LayOut() const;
+    void ForgetLayout();
     void PlaceRows(const TextFace& face) const;
     double BoxWidth() const;
     void TraceFrame(const Trace& trace, const PenUse& use) const;

@@ -25,7 +25,7 @@ VertexStruct* VertexNewFromEx(VertexStruct* from) {
 void VertexSet(VertexStruct* vertex, double x, double y, double z) {
     if (!vertex) return;
     drawcore::Graphic* const graphic = Vertex::From(vertex)->owner.graphic;
-    if (graphic) graphic->Changing();
+    if (graphic) graphic->ChangingShape();
     Vertex::From(vertex)->Set({x, y, z});
     if (graphic) graphic->ChangedShape();
 }

@@ -33,6 +33,10 @@ void VertexGraphic::Restore(const Graphic& saved) {
     closed = other.closed;
 }
 
+size_t VertexGraphic::StateSize() const {
+    return sizeof *this + vertices.size() * sizeof(Vertex);
+}
+
 bool VertexGraphic::EqualState(const Graphic& saved) const {
     const auto& other = static_cast<const VertexGraphic&>(saved);
     return EqualAttributes(other) && vertices == other.vertices && closed == other.closed;

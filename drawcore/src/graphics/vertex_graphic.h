@@ -19,6 +19,7 @@ public:
     std::unique_ptr<Graphic> CloneState() const override;
     void Restore(const Graphic& saved) override;
     bool EqualState(const Graphic& saved) const override;
+    size_t StateSize() const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
     double Reach() const override;
     Vertex* VertexAt(size_t place) override { return place < vertices.size() ? &vertices[place] : nullptr; }

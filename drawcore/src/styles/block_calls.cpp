@@ -43,7 +43,7 @@ int InsertSetData(GraphicStruct* graphic, TableStruct* blocks, uint16_t id, cons
     auto* insert = graphic ? dynamic_cast<InsertGraphic*>(Graphic::From(graphic)) : nullptr;
     BlockTable* table = FindBlocks(blocks);
     if (!insert || !table || !table->At(id)) return 0;
-    insert->Changing();
+    insert->ChangingShape();
     insert->block = id;
     insert->Place(Matrix::FromRecord(matrix));
     if (!insert->GetDrawing()) insert->Attach(table->Owner());
