@@ -37,9 +37,9 @@ Json LineTypes(const dxf::Document& drawing) {
     return list;
 }
 
-Json Corners(const dxf::Box& box) {
+Json Corners(const drawcore::Extents& box) {
     if (box.IsEmpty()) return nullptr;
-    return {{box.Low().x, box.Low().y}, {box.High().x, box.High().y}};
+    return {{box.low.x, box.low.y}, {box.high.x, box.high.y}};
 }
 
 Json List(const std::string& file) {
@@ -53,7 +53,7 @@ Json List(const std::string& file) {
                 {"blocks", blocks},
                 {"layers", Layers(drawing)},
                 {"linetypes", LineTypes(drawing)},
-                {"extents", Corners(dxf::Extents(drawing))}};
+                {"extents", Corners(dxf::ExtentsOf(drawing))}};
     for (const dxf::Finding& finding : drawing.findings)
         object["findings"].push_back(
             {{"line", finding.line ? Json(finding.line) : Json()}, {"text", finding.text}});

@@ -24,7 +24,7 @@ void ShowTexts(const std::vector<dxf::Entity>& entities) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     try {
         const dxf::Document drawing = dxf::Read({reinterpret_cast<const char*>(data), size}, {});
-        dxf::Extents(drawing);
+        dxf::ExtentsOf(drawing);
         ShowTexts(drawing.entities);
     } catch (const dxf::ReadError&) {
     }

@@ -53,20 +53,20 @@ void ExpectLineTypes(const dxf::Document& document, const json& expected) {
     }
 }
 
-void ExpectExtents(const dxf::Box& box, const json& expected, bool exactly) {
+void ExpectExtents(const drawcore::Extents& box, const json& expected, bool exactly) {
     if (expected.is_null()) return;
     ASSERT_FALSE(box.IsEmpty());
     const double x1 = expected[0][0], y1 = expected[0][1], x2 = expected[1][0], y2 = expected[1][1];
     const double tolerance = 1e-6 + 1e-9 * std::max({std::abs(x1), std::abs(y1), std::abs(x2), std::abs(y2)});
-    EXPECT_LE(box.Low().x, x1 + tolerance);
-    EXPECT_LE(box.Low().y, y1 + tolerance);
-    EXPECT_GE(box.High().x, x2 - tolerance);
-    EXPECT_GE(box.High().y, y2 - tolerance);
+    EXPECT_LE(box.low.x, x1 + tolerance);
+    EXPECT_LE(box.low.y, y1 + tolerance);
+    EXPECT_GE(box.high.x, x2 - tolerance);
+    EXPECT_GE(box.high.y, y2 - tolerance);
     if (!exactly) return;
-    EXPECT_GE(box.Low().x, x1 - tolerance);
-    EXPECT_GE(box.Low().y, y1 - tolerance);
-    EXPECT_LE(box.High().x, x2 + tolerance);
-    EXPECT_LE(box.High().y, y2 + tolerance);
+    EXPECT_GE(box.low.x, x1 - tolerance);
+    EXPECT_GE(box.low.y, y1 - tolerance);
+    EXPECT_LE(box.high.x, x2 + tolerance);
+    EXPECT_LE(box.high.y, y2 + tolerance);
 }
 
 class Manifest : public testing::TestWithParam<Drawing> {};
@@ -91,7 +91,7 @@ TEST_P(Manifest, IsMet) {
     EXPECT_EQ(LayersOf(document), expected["layers"]);
     EXPECT_EQ(json(document.header.version), expected["acadver"].is_null() ? json("") : expected["acadver"]);
     ExpectLineTypes(document, expected["linetypes"]);
-    const dxf::Box box = dxf::Extents(document);
+    const drawcore::Extents box = dxf::ExtentsOf(document);
     ExpectExtents(box, expected["extents"], true);
     ExpectExtents(box, expected["extents_at_least"], false);
 }

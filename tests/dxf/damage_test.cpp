@@ -25,7 +25,7 @@ std::string Load(const char* file) {
 bool TryRead(const std::string& bytes) {
     try {
         const dxf::Document document = dxf::Read(bytes, {});
-        dxf::Extents(document);
+        dxf::ExtentsOf(document);
         EXPECT_LE(document.findings.size(), dxf::Document::kMostFindings + 1);
         return true;
     } catch (const dxf::ReadError& error) {

@@ -12,17 +12,17 @@ namespace {
 
 TEST(Extents, OfEveryKind) {
     for (const ExtentsRow& row : kExtentsRows) {
-        const dxf::Box box = dxf::Extents(dxf::Read(Drawing(row.entities, kExtentsBlocks), {}));
+        const drawcore::Extents box = dxf::ExtentsOf(dxf::Read(Drawing(row.entities, kExtentsBlocks), {}));
         ASSERT_FALSE(box.IsEmpty()) << row.name;
-        EXPECT_NEAR(box.Low().x, row.x1, 1e-9) << row.name;
-        EXPECT_NEAR(box.Low().y, row.y1, 1e-9) << row.name;
-        EXPECT_NEAR(box.High().x, row.x2, 1e-9) << row.name;
-        EXPECT_NEAR(box.High().y, row.y2, 1e-9) << row.name;
+        EXPECT_NEAR(box.low.x, row.x1, 1e-9) << row.name;
+        EXPECT_NEAR(box.low.y, row.y1, 1e-9) << row.name;
+        EXPECT_NEAR(box.high.x, row.x2, 1e-9) << row.name;
+        EXPECT_NEAR(box.high.y, row.y2, 1e-9) << row.name;
     }
 }
 
 TEST(Extents, OfNothingAreEmpty) {
-    EXPECT_TRUE(dxf::Extents(dxf::Read(Drawing(""), {})).IsEmpty());
+    EXPECT_TRUE(dxf::ExtentsOf(dxf::Read(Drawing(""), {})).IsEmpty());
 }
 
 } // namespace

@@ -16,7 +16,7 @@
 #include "drawcore/include/drawcore/layer.h"
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
-#include "drawcore/src/graphics/extents.h"
+#include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "orlo/host/host.h"
 #include "tests/dxf/drawing_text.h"
@@ -129,18 +129,17 @@ TEST(Import, OpensWhatTheReaderReadsOrNothing) {
             Heard heard;
             OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), heard);
             try {
-                const dxf::Box box = dxf::Extents(dxf::ReadFile(file, {}));
+                const drawcore::Extents box = dxf::ExtentsOf(dxf::ReadFile(file, {}));
                 ASSERT_TRUE(drawing) << file << heard.message;
                 EXPECT_TRUE(std::is_sorted(heard.progress.begin(), heard.progress.end())) << file;
                 EXPECT_EQ(heard.progress.back(), 1000) << file;
                 if (!box.IsEmpty()) {
                     const drawcore::Extents& own = BoxOf(drawing);
-                    const double slack =
-                        1e-3 * (box.High().x - box.Low().x + box.High().y - box.Low().y); // splines
-                    EXPECT_LE(own.low.x, box.Low().x + slack) << file;
-                    EXPECT_LE(own.low.y, box.Low().y + slack) << file;
-                    EXPECT_GE(own.high.x, box.High().x - slack) << file;
-                    EXPECT_GE(own.high.y, box.High().y - slack) << file;
+                    constexpr double slack = 1e-9;
+                    EXPECT_LE(own.low.x, box.low.x + slack) << file;
+                    EXPECT_LE(own.low.y, box.low.y + slack) << file;
+                    EXPECT_GE(own.high.x, box.high.x - slack) << file;
+                    EXPECT_GE(own.high.y, box.high.y - slack) << file;
                 }
             } catch (const dxf::ReadError& error) {
                 EXPECT_FALSE(drawing) << file;
@@ -302,6 +301,16 @@ TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
     EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle, seen at an angle";
 }
 
+TEST(Import, SplinesAreListedAsTheyAreDrawn) {
+    const std::string fit = Drawing("0|SPLINE|70|8|71|3|74|4|11|0|21|0|11|10|21|10|11|12|21|-8|11|30|21|0");
+    const drawcore::Extents listed = dxf::ExtentsOf(dxf::Read(fit, {}));
+    const OwnedDrawing drawing = OpenText(fit);
+    EXPECT_EQ(listed.low.y, BoxOf(drawing).low.y);
+    EXPECT_EQ(listed.high.y, BoxOf(drawing).high.y);
+    EXPECT_NEAR(listed.low.y, -8.934, 5e-4) << "a cubic of continuous curvature";
+    EXPECT_NEAR(listed.high.y, 10.675, 5e-4);
+}
+
 TEST(Import, HatchesOfOnePatternShareItsStyle) {
     const std::string hatch = "0|HATCH|2|Brick|91|1|92|2|10|0|20|0|10|9|20|0|10|0|20|9|75|0|";
     const OwnedDrawing drawing = OpenText(Drawing(
@@ -313,7 +322,7 @@ TEST(Import, HatchesOfOnePatternShareItsStyle) {
     EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[0], "BrushStyle")), "Brick");
     EXPECT_EQ(Number(members[1], "BrushStyle"), Number(members[0], "BrushStyle"));
     EXPECT_EQ(Number(members[1], "BrushScale"), 10);
-    EXPECT_NEAR(Number(members[1], "BrushAngle"), dxf::kPi / 2, 1e-12);
+    EXPECT_NEAR(Number(members[1], "BrushAngle"), drawcore::kPi / 2, 1e-12);
     EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[2], "BrushStyle")), "Brick 2");
 }
 

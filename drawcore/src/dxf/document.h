@@ -65,7 +65,7 @@ struct TextStyle {
 struct Block {
     std::string name;
     bool declared = false;
-    Point base;
+    Vec3 base;
     int flags = 0;
     std::vector<Entity> entities;
 };

@@ -1,5 +1,5 @@
 // The entities of a DXF drawing as plain data: what stood in the file, angles in degrees, lengths in drawing
-// units. Coordinates are as stored; where an entity has an object coordinate system, says so, and geometry.h
+// units. Coordinates are as stored; where an entity has an object coordinate system, says so, and placement.h
 // converts.
 #pragma once
 
@@ -10,13 +10,11 @@
 #include <variant>
 #include <vector>
 
+#include "drawcore/src/geometry/vector.h"
+
 namespace dxf {
 
-struct Point {
-    double x = 0;
-    double y = 0;
-    double z = 0;
-};
+using drawcore::Vec3;
 
 // Positions in the lists of a Document. A reference to a name that no table holds makes an entry there.
 enum class LayerIndex : uint32_t {};
@@ -25,29 +23,29 @@ enum class TextStyleIndex : uint32_t {};
 enum class BlockIndex : uint32_t { none = 0xFFFFFFFF };
 
 struct Line {
-    Point start; // world
-    Point end;
+    Vec3 start; // world
+    Vec3 end;
 };
 
 struct PointMark {
-    Point at; // world
+    Vec3 at; // world
 };
 
 struct Circle {
-    Point center; // object system
+    Vec3 center; // object system
     double radius = 0;
 };
 
 struct Arc {
-    Point center; // object system
+    Vec3 center; // object system
     double radius = 0;
     double startAngle = 0; // counter-clockwise from start to end
     double endAngle = 360;
 };
 
 struct Ellipse {
-    Point center; // world
-    Point majorAxis;
+    Vec3 center; // world
+    Vec3 majorAxis;
     double ratio = 1;      // minor to major axis
     double startParam = 0; // radians, not angles
     double endParam = 6.283185307179586;
@@ -57,7 +55,7 @@ struct Ellipse {
 struct Polyline {
     enum class Kind : uint8_t { flat, spatial, mesh, faces };
     struct Vertex {
-        Point at; // object system if flat, else world
+        Vec3 at; // object system if flat, else world
         double bulge = 0;
         double startWidth = 0; // of the segment to the next vertex
         double endWidth = 0;
@@ -78,9 +76,9 @@ struct Spline {
     int degree = 3;
     bool closed = false;
     std::vector<double> knots;
-    std::vector<double> weights;      // empty: all 1
-    std::vector<Point> controlPoints; // world
-    std::vector<Point> fitPoints;     // used where there are no control points
+    std::vector<double> weights;     // empty: all 1
+    std::vector<Vec3> controlPoints; // world
+    std::vector<Vec3> fitPoints;     // used where there are no control points
 };
 
 // TEXT, ATTRIB and ATTDEF.
@@ -93,8 +91,8 @@ struct Text {
     Role role = Role::text;
     std::string text; // UTF-8, control codes and escapes as stored: see ToDisplayText
     std::string tag;  // ATTRIB and ATTDEF
-    Point insertion;  // object system
-    Point alignment;  // object system; in use where an alignment is not left on the baseline
+    Vec3 insertion;   // object system
+    Vec3 alignment;   // object system; in use where an alignment is not left on the baseline
     double height = 0;
     double rotation = 0;
     double widthFactor = 1;
@@ -109,11 +107,11 @@ struct Text {
 
 struct MText {
     std::string text; // UTF-8, inline codes as stored: see ReadInlineCodes
-    Point insertion;  // world
+    Vec3 insertion;   // world
     double height = 0;
-    double width = 0;         // of the column in which words wrap; 0: none
-    Point direction{1, 0, 0}; // of the lines, in the world; not of length 1
-    int attachment = 1;       // 1 top left, 2 top centre ... 9 bottom right
+    double width = 0;        // of the column in which words wrap; 0: none
+    Vec3 direction{1, 0, 0}; // of the lines, in the world; not of length 1
+    int attachment = 1;      // 1 top left, 2 top centre ... 9 bottom right
     double lineSpacing = 1;
     TextStyleIndex style{};
 };
@@ -122,7 +120,7 @@ struct Entity;
 
 struct Insert {
     BlockIndex block = BlockIndex::none;
-    Point at; // object system
+    Vec3 at; // object system
     double scaleX = 1;
     double scaleY = 1;
     double scaleZ = 1;
@@ -139,8 +137,8 @@ struct Hatch {
         enum class Kind : uint8_t { line, arc, ellipse, spline };
         Kind kind = Kind::line;
         bool counterClockwise = true;
-        Point start;           // line: both ends; arc and ellipse: the centre
-        Point end;             // ellipse: the major axis
+        Vec3 start;            // line: both ends; arc and ellipse: the centre
+        Vec3 end;              // ellipse: the major axis
         double radius = 0;     // arc; ellipse: minor to major axis
         double startAngle = 0; // degrees; mirrored where clockwise
         double endAngle = 360;
@@ -153,8 +151,8 @@ struct Hatch {
     };
     struct PatternLine {
         double angle = 0;
-        Point base;
-        Point offset; // from one line of the family to the next
+        Vec3 base;
+        Vec3 offset; // from one line of the family to the next
         std::vector<double> dashes;
     };
     std::string pattern;
@@ -171,7 +169,7 @@ struct Hatch {
 
 // SOLID and TRACE (filled, object system), 3DFACE (edges, world). Corners in order around the face.
 struct Face {
-    std::array<Point, 4> corners;
+    std::array<Vec3, 4> corners;
     bool filled = true;
     uint8_t hiddenEdges = 0; // bit n: edge from corner n
 };
@@ -179,24 +177,24 @@ struct Face {
 // A dimension is drawn by its anonymous block.
 struct Dimension {
     BlockIndex block = BlockIndex::none;
-    Point offset;     // of the block; zero but for copies
-    Point definition; // world
+    Vec3 offset;     // of the block; zero but for copies
+    Vec3 definition; // world
     std::string text;
     int kind = 0;
 };
 
 struct Leader {
-    std::vector<Point> vertices; // world
+    std::vector<Vec3> vertices; // world
     bool arrow = true;
     bool curved = false;
 };
 
 struct Viewport {
-    Point center; // paper space
+    Vec3 center; // paper space
     double width = 0;
     double height = 0;
     int id = 0;
-    Point viewCenter;
+    Vec3 viewCenter;
     double viewHeight = 0;
 };
 
@@ -225,8 +223,8 @@ struct Entity {
     bool inPaperSpace = false;
     bool invisible = false;
     double lineTypeScale = 1;
-    Point normal{0, 0, 1}; // the extrusion direction: z axis of the object system
-    uint32_t line = 0;     // of the file, for messages
+    Vec3 normal{0, 0, 1}; // the extrusion direction: z axis of the object system
+    uint32_t line = 0;    // of the file, for messages
 };
 
 } // namespace dxf

@@ -9,23 +9,25 @@
 
 namespace dxf {
 
+using drawcore::Extents;
+
 namespace {
 
 // Boxes of blocks as they lie in themselves, made when they are asked for.
-using BlockBoxes = std::vector<std::optional<Box>>;
+using BlockBoxes = std::vector<std::optional<Extents>>;
 
 class ExtentsWalk : private PathSink {
 public:
     ExtentsWalk(const Document& drawing, BlockBoxes& blockBoxes)
         : drawing_(drawing), blockBoxes_(blockBoxes) {}
 
-    Box OfModelSpace() {
+    Extents OfModelSpace() {
         for (const Entity& entity : drawing_.entities)
             if (!entity.inPaperSpace) Add(entity, Matrix());
         return box_;
     }
 
-    Box Of(const Block& block) {
+    Extents Of(const Block& block) {
         AddEntities(block, Matrix());
         return box_;
     }
@@ -47,7 +49,7 @@ private:
     }
 
     void AddText(const Entity& entity, const Text& text, const Matrix& toWorld) {
-        if (!text.hidden) MoveTo((toWorld * ObjectSystem(entity.normal)).Apply(text.insertion));
+        if (!text.hidden) MoveTo((ObjectSystem(entity.normal) * toWorld).Apply(text.insertion));
     }
 
     void AddInsert(const Entity& entity, const Insert& insert, const Matrix& toWorld) {
@@ -55,27 +57,27 @@ private:
             Add(attribute, toWorld);
         if (insert.block == BlockIndex::none) return;
         const Block& block = drawing_.At(insert.block);
-        const Box& box = BoxOf(insert.block);
+        const Extents& box = BoxOf(insert.block);
         // The corners of the array are its outermost cells.
         for (uint32_t column = 0; column < insert.columns; column += std::max(insert.columns - 1, 1u))
             for (uint32_t row = 0; row < insert.rows; row += std::max(insert.rows - 1, 1u))
-                AddBlock(block, box, toWorld * InsertMatrix(entity, insert, block, column, row));
+                AddBlock(block, box, InsertMatrix(entity, insert, block, column, row) * toWorld);
     }
 
     void AddDimension(const Dimension& dimension, const Matrix& toWorld) {
         if (dimension.block == BlockIndex::none) return;
         const Block& block = drawing_.At(dimension.block);
-        AddBlock(block, BoxOf(dimension.block), toWorld * DimensionMatrix(dimension, block));
+        AddBlock(block, BoxOf(dimension.block), DimensionMatrix(dimension, block) * toWorld);
     }
 
-    const Box& BoxOf(BlockIndex index) {
-        std::optional<Box>& box = blockBoxes_[static_cast<size_t>(index)];
+    const Extents& BoxOf(BlockIndex index) {
+        std::optional<Extents>& box = blockBoxes_[static_cast<size_t>(index)];
         if (!box) box = ExtentsWalk(drawing_, blockBoxes_).Of(drawing_.At(index));
         return *box;
     }
 
     // Most inserts of a drawing lie amid others: only those that reach out are looked at part by part.
-    void AddBlock(const Block& block, const Box& box, const Matrix& toWorld) {
+    void AddBlock(const Block& block, const Extents& box, const Matrix& toWorld) {
         if (!box_.Covers(box.Transformed(toWorld))) AddEntities(block, toWorld);
     }
 
@@ -86,18 +88,18 @@ private:
         }
     }
 
-    void MoveTo(Point p) override { box_.Add(p); }
-    void LineTo(Point p) override { box_.Add(p); }
+    void MoveTo(Vec3 p) override { box_.Add(p); }
+    void LineTo(Vec3 p) override { box_.Add(p); }
     void ArcTo(const EllipseArc& arc) override { box_.Add(arc); }
 
     const Document& drawing_;
     BlockBoxes& blockBoxes_;
-    Box box_;
+    Extents box_;
 };
 
 } // namespace
 
-Box Extents(const Document& drawing) {
+Extents ExtentsOf(const Document& drawing) {
     BlockBoxes blockBoxes(drawing.blocks.size());
     return ExtentsWalk(drawing, blockBoxes).OfModelSpace();
 }

@@ -5,13 +5,16 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/src/geometry/flatten.h"
+
 namespace dxf {
 
-namespace {
+using drawcore::CircleArc;
+using drawcore::kPi;
+using drawcore::SplineChain;
+using drawcore::SweepBetween;
 
-EllipseArc CircleArc(Point center, double radius, double start, double sweep) {
-    return {center, {radius, 0, 0}, {0, radius, 0}, start, sweep};
-}
+namespace {
 
 // The parameter of an ellipse at which it is seen under that angle from its centre.
 double ParameterOf(double angle, double ratio) {
@@ -27,52 +30,13 @@ EllipseArc EdgeArc(const Hatch::Edge& edge) {
     if (!isCircle && !whole) start = ParameterOf(start, edge.radius), end = ParameterOf(end, edge.radius);
     EllipseArc arc;
     arc.center = edge.start;
-    arc.u = isCircle ? Point{edge.radius, 0, 0} : edge.end;
-    arc.v = isCircle ? Point{0, edge.radius, 0} : Cross({0, 0, 1}, edge.end) * edge.radius;
-    const double sweep = Sweep(start, end);
+    arc.major = isCircle ? Vec3{edge.radius, 0, 0} : edge.end;
+    arc.minor = isCircle ? Vec3{0, edge.radius, 0} : Cross({0, 0, 1}, edge.end) * edge.radius;
+    const double sweep = SweepBetween(start, end);
     arc.start =
         edge.counterClockwise ? start : -start; // clockwise ones count their angles the other way around
     arc.sweep = edge.counterClockwise ? sweep : -sweep;
     return arc;
-}
-
-Point CurvePoint(const Spline& spline, size_t span, double at, std::vector<Point>& points,
-                 std::vector<double>& weights) {
-    const auto degree = static_cast<size_t>(spline.degree);
-    for (size_t i = 0; i <= degree; ++i) {
-        const size_t from = span - degree + i;
-        weights[i] = spline.weights.empty() ? 1 : spline.weights[from];
-        points[i] = spline.controlPoints[from] * weights[i];
-    }
-    for (size_t level = 1; level <= degree; ++level)
-        for (size_t i = degree; i >= level; --i) {
-            const double low = spline.knots[span - degree + i];
-            const double high = spline.knots[span + 1 + i - level];
-            const double share = high > low ? (at - low) / (high - low) : 0;
-            points[i] = points[i - 1] * (1 - share) + points[i] * share;
-            weights[i] = weights[i - 1] * (1 - share) + weights[i] * share;
-        }
-    return points[degree] * (1 / weights[degree]);
-}
-
-// A smooth curve through all points (Catmull-Rom); its tangents are those of the neighbours' chord.
-std::vector<Point> ThroughPoints(const std::vector<Point>& fit, bool closed) {
-    constexpr int kSteps = 12;
-    const size_t count = fit.size();
-    std::vector<Point> chain{fit[0]};
-    const auto point = [&](size_t i) { return closed ? fit[i % count] : fit[std::min(i, count - 1)]; };
-    for (size_t i = 0; i + (closed ? 0 : 1) < count; ++i) {
-        const Point before = i > 0 ? fit[i - 1] : closed ? fit[count - 1] : fit[0];
-        const Point tangent1 = (point(i + 1) - before) * 0.5;
-        const Point tangent2 = (point(i + 2) - point(i)) * 0.5;
-        for (int step = 1; step <= kSteps; ++step) {
-            const double t = static_cast<double>(step) / kSteps;
-            const double s = t * t * (3 - 2 * t);
-            chain.push_back(point(i) * (1 - s) + point(i + 1) * s + tangent1 * (t * (1 - t) * (1 - t)) -
-                            tangent2 * (t * t * (1 - t)));
-        }
-    }
-    return chain;
 }
 
 class Tracer {
@@ -86,7 +50,7 @@ public:
     void operator()(const Arc&) { Whole(*ArcOf(entity_)); }
     void operator()(const Ellipse&) { Whole(*ArcOf(entity_)); }
     void operator()(const Leader& leader) { Chain(leader.vertices, toWorld_); }
-    void operator()(const Apart<Spline>& spline) { Chain(Flatten(*spline), toWorld_); }
+    void operator()(const Apart<Spline>& spline) { Chain(SplineChain(CurveOf(*spline)), toWorld_); }
     void operator()(const Apart<Text>&) {}
     void operator()(const Apart<MText>&) {}
     void operator()(const Apart<Insert>&) {}
@@ -94,13 +58,14 @@ public:
     void operator()(const Apart<Viewport>&) {}
 
     void operator()(const Apart<Hatch>& hatch) {
-        const Matrix system = toWorld_ * ObjectSystem(entity_.normal) * Translation({0, 0, hatch->elevation});
+        const Matrix system =
+            Matrix::Translation({0, 0, hatch->elevation}) * ObjectSystem(entity_.normal) * toWorld_;
         for (const Hatch::Loop& loop : hatch->loops)
             Trace(loop, system, sink_);
     }
 
     void operator()(const Apart<Face>& face) {
-        const Matrix system = face->filled ? toWorld_ * ObjectSystem(entity_.normal) : toWorld_;
+        const Matrix system = face->filled ? ObjectSystem(entity_.normal) * toWorld_ : toWorld_;
         const auto& corners = face->corners;
         Chain(std::array{corners[0], corners[1], corners[2], corners[3], corners[0]}, system);
     }
@@ -108,7 +73,7 @@ public:
     void operator()(const Polyline& polyline) {
         switch (polyline.kind) {
         case Polyline::Kind::flat:
-            Outline(polyline, toWorld_ * ObjectSystem(entity_.normal));
+            Outline(polyline, ObjectSystem(entity_.normal) * toWorld_);
             break;
         case Polyline::Kind::spatial:
             Outline(polyline, toWorld_);
@@ -135,7 +100,7 @@ private:
     template <class Points>
     void Chain(const Points& points, const Matrix& system) {
         bool first = true;
-        for (const Point& point : points) {
+        for (const Vec3& point : points) {
             if (first)
                 sink_.MoveTo(system.Apply(point));
             else
@@ -151,7 +116,7 @@ private:
     }
 
     void Segment(const Polyline::Vertex& from, const Polyline::Vertex& to, const Matrix& system) {
-        if (const auto arc = BulgeArc(from.at, to.at, from.bulge))
+        if (const auto arc = drawcore::ArcOfBulge(from.at, to.at, from.bulge))
             sink_.ArcTo(arc->Transformed(system));
         else
             sink_.LineTo(system.Apply(to.at));
@@ -206,7 +171,7 @@ void Trace(const Hatch::Loop& loop, const Matrix& toWorld, PathSink& sink) {
         return;
     }
     bool first = true;
-    const auto reach = [&](Point point) { // the edges of a loop join, if not always to the last digit
+    const auto reach = [&](Vec3 point) { // the edges of a loop join, if not always to the last digit
         if (first)
             sink.MoveTo(toWorld.Apply(point));
         else
@@ -218,7 +183,7 @@ void Trace(const Hatch::Loop& loop, const Matrix& toWorld, PathSink& sink) {
             reach(edge.start);
             reach(edge.end);
         } else if (edge.kind == Kind::spline) {
-            for (const Point& point : Flatten(edge.spline))
+            for (const Vec3& point : SplineChain(CurveOf(edge.spline)))
                 reach(point);
         } else {
             const EllipseArc arc = EdgeArc(edge);
@@ -233,36 +198,22 @@ std::optional<EllipseArc> ArcOf(const Entity& entity) {
         return CircleArc(circle->center, circle->radius, 0, 2 * kPi).Transformed(ObjectSystem(entity.normal));
     if (const auto* arc = std::get_if<Arc>(&entity.shape)) {
         const double start = Radians(arc->startAngle);
-        return CircleArc(arc->center, arc->radius, start, Sweep(start, Radians(arc->endAngle)))
+        return CircleArc(arc->center, arc->radius, start, SweepBetween(start, Radians(arc->endAngle)))
             .Transformed(ObjectSystem(entity.normal));
     }
     if (const auto* ellipse = std::get_if<Ellipse>(&entity.shape)) {
         const double length = Length(entity.normal);
-        const Point normal = length > 0 ? entity.normal * (1 / length) : Point{0, 0, 1};
-        const Point minor = Cross(normal, ellipse->majorAxis) * ellipse->ratio;
+        const Vec3 normal = length > 0 ? entity.normal * (1 / length) : Vec3{0, 0, 1};
+        const Vec3 minor = Cross(normal, ellipse->majorAxis) * ellipse->ratio;
         return EllipseArc{ellipse->center, ellipse->majorAxis, minor, ellipse->startParam,
-                          Sweep(ellipse->startParam, ellipse->endParam)};
+                          SweepBetween(ellipse->startParam, ellipse->endParam)};
     }
     return std::nullopt;
 }
 
-std::vector<Point> Flatten(const Spline& spline) {
-    if (spline.controlPoints.empty())
-        return spline.fitPoints.empty() ? std::vector<Point>()
-                                        : ThroughPoints(spline.fitPoints, spline.closed);
-    const auto degree = static_cast<size_t>(spline.degree);
-    const int steps = degree == 1 ? 1 : 16;
-    std::vector<Point> points(degree + 1);
-    std::vector<double> weights(degree + 1);
-    std::vector<Point> chain;
-    for (size_t span = degree; span < spline.controlPoints.size(); ++span) {
-        const double low = spline.knots[span];
-        const double high = spline.knots[span + 1];
-        if (!(low < high)) continue;
-        for (int step = chain.empty() ? 0 : 1; step <= steps; ++step)
-            chain.push_back(CurvePoint(spline, span, low + (high - low) * step / steps, points, weights));
-    }
-    return chain;
+drawcore::SplineCurve CurveOf(const Spline& spline) {
+    if (spline.controlPoints.empty()) return drawcore::SplineThrough(spline.fitPoints, spline.closed);
+    return {spline.degree, spline.knots, spline.controlPoints, spline.weights};
 }
 
 } // namespace dxf

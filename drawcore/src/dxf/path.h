@@ -2,18 +2,22 @@
 // their own.
 #pragma once
 
-#include <vector>
+#include <optional>
 
-#include "drawcore/src/dxf/geometry.h"
+#include "drawcore/src/dxf/placement.h"
+#include "drawcore/src/geometry/arc.h"
+#include "drawcore/src/geometry/spline.h"
 
 namespace dxf {
+
+using drawcore::EllipseArc;
 
 class PathSink {
 public:
     virtual ~PathSink() = default;
     // Begins a new stroke; a stroke of this one place is a dot.
-    virtual void MoveTo(Point) = 0;
-    virtual void LineTo(Point) = 0;
+    virtual void MoveTo(Vec3) = 0;
+    virtual void LineTo(Vec3) = 0;
     // From where the stroke is (the arc's start, but for rounding) to the arc's end.
     virtual void ArcTo(const EllipseArc&) = 0;
 };
@@ -27,7 +31,7 @@ void Trace(const Hatch::Loop& loop, const Matrix& toWorld, PathSink& sink);
 // The arc of an entity that has one shape only, in its world; none if it is another entity.
 std::optional<EllipseArc> ArcOf(const Entity& entity);
 
-// A spline as a chain of points, close enough for a drawing.
-std::vector<Point> Flatten(const Spline& spline);
+// The curve of a spline entity; one by fit points only runs through them.
+drawcore::SplineCurve CurveOf(const Spline& spline);
 
 } // namespace dxf

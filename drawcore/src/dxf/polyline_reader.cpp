@@ -28,7 +28,7 @@ struct PolylineCodes {
     uint32_t smoothColumns = 0;
     double startWidth = 0;
     double endWidth = 0;
-    Point elevation;
+    Vec3 elevation;
 };
 
 const Field<PolylineCodes> kPolyline[] = {
@@ -38,7 +38,7 @@ const Field<PolylineCodes> kPolyline[] = {
 };
 
 struct VertexCodes {
-    Point at;
+    Vec3 at;
     double startWidth = 0;
     double endWidth = 0;
     double bulge = 0;

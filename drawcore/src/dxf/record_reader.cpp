@@ -45,7 +45,7 @@ double RecordReader::Real(const Tag& tag) {
     return 0;
 }
 
-void RecordReader::SetAxis(Point& point, const Tag& tag, int axis) {
+void RecordReader::SetAxis(Vec3& point, const Tag& tag, int axis) {
     (axis == 0 ? point.x : axis == 10 ? point.y : point.z) = Real(tag);
 }
 

@@ -18,7 +18,7 @@ template <class T>
 struct Field {
     using Member =
         std::variant<double T::*, int T::*, int16_t T::*, uint32_t T::*, bool T::*, std::string T::*,
-                     Point T::*, LayerIndex T::*, LineTypeIndex T::*, TextStyleIndex T::*, BlockIndex T::*>;
+                     Vec3 T::*, LayerIndex T::*, LineTypeIndex T::*, TextStyleIndex T::*, BlockIndex T::*>;
     int code;
     Member member;
 };
@@ -53,7 +53,7 @@ public:
     bool SetField(const Field<T> (&table)[N], T& target, const Tag& tag) {
         for (const Field<T>& field : table) {
             const int axis = tag.code - field.code;
-            const bool isPoint = std::holds_alternative<Point T::*>(field.member);
+            const bool isPoint = std::holds_alternative<Vec3 T::*>(field.member);
             if (axis != 0 && !(isPoint && (axis == 10 || axis == 20))) continue;
             std::visit([&](auto member) { Assign(target.*member, tag, axis); }, field.member);
             return true;
@@ -63,7 +63,7 @@ public:
 
     // A number of the record; remembers the line of one that has no place in a drawing (then it is 0).
     double Real(const Tag& tag);
-    void SetAxis(Point& point, const Tag& tag, int axis);
+    void SetAxis(Vec3& point, const Tag& tag, int axis);
     std::string Text(const Tag& tag) const { return decoder.Decode(tag.value); }
 
     // The line of the first number without a place since the last call; 0 if there was none.
@@ -78,7 +78,7 @@ private:
     void Assign(uint32_t& to, const Tag& tag, int);
     void Assign(bool& to, const Tag& tag, int) { to = tag.Flag(); }
     void Assign(std::string& to, const Tag& tag, int) { to = Text(tag); }
-    void Assign(Point& to, const Tag& tag, int axis) { SetAxis(to, tag, axis); }
+    void Assign(Vec3& to, const Tag& tag, int axis) { SetAxis(to, tag, axis); }
     void Assign(LayerIndex& to, const Tag& tag, int) { to = LayerIndex(layers.Find(tag.value)); }
     void Assign(LineTypeIndex& to, const Tag& tag, int);
     void Assign(TextStyleIndex& to, const Tag& tag, int) { to = TextStyleIndex(textStyles.Find(tag.value)); }

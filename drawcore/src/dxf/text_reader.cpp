@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "drawcore/src/dxf/entity_reader.h"
-#include "drawcore/src/dxf/geometry.h"
+#include "drawcore/src/dxf/placement.h"
 
 namespace dxf {
 
@@ -116,7 +116,7 @@ void EntityReader::ReadMText(Entity& entity) {
             SetCommon(entity);
         }
     }
-    if (angle) text.direction = ObjectSystem(entity.normal).Vector({std::cos(*angle), std::sin(*angle), 0});
+    if (angle) text.direction = ObjectSystem(entity.normal).Turn({std::cos(*angle), std::sin(*angle), 0});
     text.text = in_.decoder.Decode(bytes);
     text.attachment = std::clamp(text.attachment, 1, 9);
 }

@@ -1,26 +1,10 @@
 #include "drawcore/src/graphics/ellipse_graphic.h"
 
-#include <cmath>
-
-#include "drawcore/src/graphics/flatten.h"
+#include "drawcore/src/geometry/flatten.h"
 #include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/trace.h"
 
 namespace drawcore {
-
-namespace {
-
-constexpr double kTurn = 6.283185307179586;
-
-} // namespace
-
-bool EllipseArc::IsWhole() const {
-    return std::fabs(end - start) >= kTurn - 1e-9;
-}
-
-Vec3 EllipseArc::At(double t) const {
-    return center + major * std::cos(t) + minor * std::sin(t);
-}
 
 EllipseGraphic::EllipseGraphic(const EllipseArc& definition)
     : Graphic(kGraphicPenBrush, &kShapeProperties), arc(definition) {}
@@ -42,7 +26,7 @@ size_t EllipseGraphic::StateSize() const {
 bool EllipseGraphic::EqualState(const Graphic& saved) const {
     const EllipseArc& other = static_cast<const EllipseGraphic&>(saved).arc;
     return EqualAttributes(saved) && arc.center == other.center && arc.major == other.major &&
-           arc.minor == other.minor && arc.start == other.start && arc.end == other.end;
+           arc.minor == other.minor && arc.start == other.start && arc.sweep == other.sweep;
 }
 
 void EllipseGraphic::TraceShape(const Trace& trace, const PenUse& use) const {

@@ -1,21 +1,10 @@
-// Circles, arcs, ellipses and elliptical arcs: one formula, center + major * cos(t) + minor * sin(t).
+// Circles, arcs, ellipses and elliptical arcs.
 #pragma once
 
+#include "drawcore/src/geometry/arc.h"
 #include "drawcore/src/graphics/graphic.h"
 
 namespace drawcore {
-
-struct EllipseArc {
-    Vec3 center;
-    Vec3 major{1, 0, 0}; // from the center to the point at t = 0
-    Vec3 minor{0, 1, 0}; // to the point at t = a quarter turn
-    double start =
-        0; // radians of the parameter; the arc runs from start to end, to the left where end > start
-    double end = 6.283185307179586;
-
-    bool IsWhole() const;
-    Vec3 At(double t) const;
-};
 
 class EllipseGraphic : public Graphic {
 public:

@@ -22,7 +22,7 @@ public:
 private:
     void Add(const Path& path) {
         for (const Point& p : path.points)
-            extents_.Add({p.x, p.y, 0});
+            extents_.Add(Vec3{p.x, p.y, 0});
     }
 
     Extents& extents_;

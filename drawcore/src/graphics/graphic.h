@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/attributes.h"
-#include "drawcore/src/graphics/extents.h"
 #include "orlo/host/records.h"
 
 namespace drawcore {

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <new>
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/matrix.h"
 

@@ -4,9 +4,9 @@
 
 #include <string_view>
 
-#include "drawcore/src/graphics/extents.h"
+#include "drawcore/src/geometry/extents.h"
+#include "drawcore/src/geometry/path.h"
 #include "drawcore/src/graphics/graphic.h"
-#include "drawcore/src/graphics/path.h"
 #include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/styles/block.h"
 #include "drawcore/src/styles/layer.h"

@@ -1,7 +1,7 @@
 // Vertices: the record that host and library share, with bulge and widths behind it.
 #pragma once
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 #include "orlo/host/records.h"
 
 namespace drawcore {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "drawcore/src/graphics/flatten.h"
+#include "drawcore/src/geometry/flatten.h"
 #include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/trace.h"
 
@@ -46,9 +46,8 @@ namespace {
 
 // Adds the segment from a to b, with a's bulge.
 void AddSegment(const Vertex& a, const Vertex& b, const Trace& trace, Path& path) {
-    EllipseArc arc;
-    if (ArcOfBulge(a.Position(), b.Position(), a.bulge, arc))
-        FlattenArc(arc, trace.matrix, trace.sink.Tolerance(), path);
+    if (const std::optional<EllipseArc> arc = ArcOfBulge(a.Position(), b.Position(), a.bulge))
+        FlattenArc(*arc, trace.matrix, trace.sink.Tolerance(), path);
     else
         path.LineTo(trace.matrix.Plan(b.Position()));
 }

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/geometry.h"
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
 namespace drawcore {
@@ -20,7 +20,7 @@ struct PatternPlace {
     double angle;
 };
 
-Point Normal(const dxf::Point& p, const PatternPlace& place) {
+Point Normal(const Vec3& p, const PatternPlace& place) {
     const double c = std::cos(place.angle) / place.scale, s = std::sin(place.angle) / place.scale;
     return {p.x * c + p.y * s, p.y * c - p.x * s};
 }
@@ -30,7 +30,7 @@ std::vector<PatternLine> NormalLines(const dxf::Hatch& hatch, const PatternPlace
     std::vector<PatternLine> lines;
     for (const dxf::Hatch::PatternLine& from : hatch.lines) {
         PatternLine& line = lines.emplace_back();
-        line.angle = dxf::Radians(from.angle) - place.angle;
+        line.angle = Radians(from.angle) - place.angle;
         line.base = Normal(from.base - hatch.lines[0].base, place);
         line.offset = Normal(from.offset, place);
         for (const double dash : from.dashes)
@@ -78,7 +78,7 @@ Brush ImportBrush(const dxf::Hatch& hatch, BrushStyleTable& styles) {
         brush.style = kBrushSolid;
         return brush;
     }
-    const PatternPlace place{hatch.scale > 0 ? hatch.scale : 1, dxf::Radians(std::fmod(hatch.angle, 360))};
+    const PatternPlace place{hatch.scale > 0 ? hatch.scale : 1, Radians(std::fmod(hatch.angle, 360))};
     const std::vector<PatternLine> lines = NormalLines(hatch, place);
     if (!IsSound(lines)) return brush;
     constexpr size_t kLongestName = 200;

@@ -15,15 +15,8 @@ namespace drawcore {
 
 namespace {
 
-std::vector<Vec3> AllFromDxf(const std::vector<dxf::Point>& points) {
-    std::vector<Vec3> result;
-    for (const dxf::Point& p : points)
-        result.push_back(FromDxf(p));
-    return result;
-}
-
 // Whether the object system is the world's, perhaps seen from below: circles stay circles.
-bool IsUpright(const dxf::Point& normal) {
+bool IsUpright(const Vec3& normal) {
     return normal.x == 0 && normal.y == 0 && normal.z != 0;
 }
 
@@ -61,7 +54,7 @@ dxf::Polyline Straightened(const dxf::Polyline& polyline) {
         const bool last = i + 1 == count;
         const auto arc = last && !polyline.closed
                              ? std::nullopt
-                             : dxf::BulgeArc(from.at, polyline.vertices[last ? 0 : i + 1].at, from.bulge);
+                             : ArcOfBulge(from.at, polyline.vertices[last ? 0 : i + 1].at, from.bulge);
         const int pieces = arc ? StraightPieces(arc->sweep) : 1;
         for (int piece = 0; piece < pieces; ++piece) {
             const auto width = [&](int end) {
@@ -82,9 +75,9 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
                                                  [](const auto& v) { return v.bulge != 0; }))
         return MakeFlat(entity, Straightened(polyline)); // seen at an angle, a circle is none
     auto graphic = std::make_unique<VertexGraphic>();
-    const dxf::Matrix system = dxf::ObjectSystem(entity.normal);
+    const Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {
-        Vertex& vertex = graphic->vertices.emplace_back(FromDxf(system.Apply(from.at)));
+        Vertex& vertex = graphic->vertices.emplace_back(system.Apply(from.at));
         vertex.bulge = from.bulge * (entity.normal.z < 0 ? -1 : 1);
     }
     graphic->closed = polyline.closed;
@@ -118,8 +111,8 @@ public:
 
     std::unique_ptr<Graphic> operator()(const dxf::PointMark& mark) {
         auto graphic = std::make_unique<VertexGraphic>();
-        graphic->AddVertex(FromDxf(mark.at));
-        graphic->AddVertex(FromDxf(mark.at)); // a segment without length is a dot
+        graphic->AddVertex(mark.at);
+        graphic->AddVertex(mark.at); // a segment without length is a dot
         return graphic;
     }
 
@@ -129,21 +122,16 @@ public:
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Spline>& spline) {
-        SplineCurve curve;
-        if (spline->controlPoints.empty())
-            curve = SplineThrough(AllFromDxf(spline->fitPoints), spline->closed);
-        else
-            curve = {spline->degree, spline->knots, AllFromDxf(spline->controlPoints), spline->weights};
-        return std::make_unique<SplineGraphic>(std::move(curve));
+        return std::make_unique<SplineGraphic>(dxf::CurveOf(*spline));
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Face>& face) {
         auto graphic = std::make_unique<VertexGraphic>();
-        const dxf::Matrix system = face->filled ? dxf::ObjectSystem(entity_.normal) : dxf::Matrix();
-        graphic->AddVertex(FromDxf(system.Apply(face->corners[0])));
+        const Matrix system = face->filled ? dxf::ObjectSystem(entity_.normal) : Matrix();
+        graphic->AddVertex(system.Apply(face->corners[0]));
         for (size_t edge = 0; edge < 4; ++edge) {
             const bool drawn = !(face->hiddenEdges >> edge & 1);
-            graphic->AddVertex(FromDxf(system.Apply(face->corners[(edge + 1) % 4])), drawn);
+            graphic->AddVertex(system.Apply(face->corners[(edge + 1) % 4]), drawn);
         }
         if (face->filled) graphic->brush.style = kBrushSolid;
         return graphic;
@@ -152,8 +140,8 @@ public:
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Hatch>& hatch) {
         auto graphic = std::make_unique<VertexGraphic>();
         VertexBuilder builder(*graphic);
-        const dxf::Matrix system =
-            dxf::ObjectSystem(entity_.normal) * dxf::Translation({0, 0, hatch->elevation});
+        const Matrix system =
+            Matrix::Translation({0, 0, hatch->elevation}) * dxf::ObjectSystem(entity_.normal);
         for (const dxf::Hatch::Loop& loop : hatch->loops)
             if (IsFilled(*hatch, loop)) dxf::Trace(loop, system, builder);
         graphic->brush = ImportBrush(*hatch, *importer_.drawing_.BrushStyles());
@@ -178,15 +166,11 @@ public:
         if (dimension->block == dxf::BlockIndex::none) return nullptr;
         const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
         if (!block) return nullptr;
-        return std::make_unique<InsertGraphic>(block, Matrix::Translation(FromDxf(dimension->offset)));
+        return std::make_unique<InsertGraphic>(block, Matrix::Translation(dimension->offset));
     }
 
 private:
-    std::unique_ptr<Graphic> Curve() {
-        const dxf::EllipseArc from = *dxf::ArcOf(entity_);
-        return std::make_unique<EllipseGraphic>(EllipseArc{
-            FromDxf(from.center), FromDxf(from.u), FromDxf(from.v), from.start, from.start + from.sweep});
-    }
+    std::unique_ptr<Graphic> Curve() { return std::make_unique<EllipseGraphic>(*dxf::ArcOf(entity_)); }
 
     EntityImport& importer_;
     const dxf::Entity& entity_;
@@ -197,15 +181,13 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
         insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
     // The block's base point is the block's own business.
-    const dxf::Matrix first = dxf::InsertMatrix(entity, insert, dxf::Block(), 0, 0);
-    const dxf::Matrix turned =
-        dxf::ObjectSystem(entity.normal) * dxf::Rotation(dxf::Radians(insert.rotation));
-    auto graphic = std::make_unique<InsertGraphic>(
-        block, Matrix::FromAxes(FromDxf(first.x), FromDxf(first.y), FromDxf(first.z), FromDxf(first.origin)));
+    const Matrix first = dxf::InsertMatrix(entity, insert, dxf::Block(), 0, 0);
+    const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
+    auto graphic = std::make_unique<InsertGraphic>(block, first);
     graphic->array.columns = static_cast<int>(insert.columns);
     graphic->array.rows = static_cast<int>(insert.rows);
-    graphic->array.columnStep = FromDxf(turned.Vector({insert.columnSpacing, 0, 0}));
-    graphic->array.rowStep = FromDxf(turned.Vector({0, insert.rowSpacing, 0}));
+    graphic->array.columnStep = turned.Turn({insert.columnSpacing, 0, 0});
+    graphic->array.rowStep = turned.Turn({0, insert.rowSpacing, 0});
     return graphic;
 }
 

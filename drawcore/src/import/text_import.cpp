@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/geometry.h"
 #include "drawcore/src/dxf/inline_codes.h"
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/import/import_tables.h"
 #include "drawcore/src/import/vertex_builder.h"
@@ -97,22 +97,22 @@ uint16_t FormatOf(dxf::Text::Horizontal horizontal) {
 // Where a single line stands and how it is turned, mirrored and slanted.
 void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
     using Horizontal = dxf::Text::Horizontal;
-    const dxf::Matrix system = dxf::ObjectSystem(entity.normal);
+    const Matrix system = dxf::ObjectSystem(entity.normal);
     const bool fitted = text.horizontal == Horizontal::aligned || text.horizontal == Horizontal::fit;
     const bool byAlignment =
         !fitted && (text.horizontal != Horizontal::left || text.vertical != dxf::Text::Vertical::baseline);
-    double angle = dxf::Radians(text.rotation);
+    double angle = Radians(text.rotation);
     if (fitted) {
-        const dxf::Point way = text.alignment - text.insertion;
+        const Vec3 way = text.alignment - text.insertion;
         state.fitWidth = std::hypot(way.x, way.y);
         if (state.fitWidth > 0) angle = std::atan2(way.y, way.x);
     }
-    const double slant = dxf::Radians(std::clamp(text.oblique, -80.0, 80.0));
+    const double slant = Radians(std::clamp(text.oblique, -80.0, 80.0));
     const double backward = text.backward ? -1 : 1, upsideDown = text.upsideDown ? -1 : 1;
-    const double up = angle + dxf::kPi / 2 - slant;
-    state.position = FromDxf(system.Apply(byAlignment ? text.alignment : text.insertion));
-    state.along = FromDxf(system.Vector({std::cos(angle), std::sin(angle), 0}) * backward);
-    state.up = FromDxf(system.Vector({std::cos(up), std::sin(up), 0}) * upsideDown);
+    const double up = angle + kPi / 2 - slant;
+    state.position = system.Apply(byAlignment ? text.alignment : text.insertion);
+    state.along = system.Turn({std::cos(angle), std::sin(angle), 0}) * backward;
+    state.up = system.Turn({std::cos(up), std::sin(up), 0}) * upsideDown;
 }
 
 // Aligned paragraphs move within the box of the text; the box stays where it is attached.
@@ -179,8 +179,8 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     AlignParagraphs(format.alignment, state);
     constexpr TextAnchor kAnchors[] = {TextAnchor::Top, TextAnchor::Middle, TextAnchor::Bottom};
     state.anchor = kAnchors[(text.attachment - 1) / 3];
-    state.position = FromDxf(text.insertion);
-    const Vec3 along = FromDxf(text.direction), normal = FromDxf(dxf::ObjectSystem(entity.normal).z);
+    state.position = text.insertion;
+    const Vec3 along = text.direction, normal = dxf::ObjectSystem(entity.normal).Turn({0, 0, 1});
     state.along = Length(along) > 0 ? Normalized(along) : Vec3{1, 0, 0};
     state.up = Normalized(Cross(normal, state.along));
     if (format.color >= 0 || format.trueColor >= 0)

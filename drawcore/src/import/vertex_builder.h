@@ -6,10 +6,6 @@
 
 namespace drawcore {
 
-inline Vec3 FromDxf(const dxf::Point& p) {
-    return {p.x, p.y, p.z};
-}
-
 // How many straight pieces show an arc that no bulge can show.
 int StraightPieces(double sweep);
 
@@ -17,9 +13,9 @@ int StraightPieces(double sweep);
 class VertexBuilder : public dxf::PathSink {
 public:
     explicit VertexBuilder(VertexGraphic& graphic) : vertices_(graphic.vertices) {}
-    void MoveTo(dxf::Point p) override;
-    void LineTo(dxf::Point p) override { vertices_.emplace_back(FromDxf(p)); }
-    void ArcTo(const dxf::EllipseArc& arc) override;
+    void MoveTo(Vec3 p) override;
+    void LineTo(Vec3 p) override { vertices_.emplace_back(p); }
+    void ArcTo(const EllipseArc& arc) override;
 
 private:
     std::vector<Vertex>& vertices_;

@@ -2,7 +2,7 @@
 // each call and know no dots.
 #pragma once
 
-#include "drawcore/src/graphics/path.h"
+#include "drawcore/src/geometry/path.h"
 #include "drawcore/src/paint/path_clip.h"
 
 namespace drawcore {

@@ -1,7 +1,7 @@
 // Cutting paths to a box, so that numbers stay within what the device takes. Lines go to pieces, areas keep their inside.
 #pragma once
 
-#include "drawcore/src/graphics/path.h"
+#include "drawcore/src/geometry/path.h"
 
 namespace drawcore {
 

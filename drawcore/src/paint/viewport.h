@@ -6,7 +6,7 @@
 #include <windows.h>
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/graphics/extents.h"
+#include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/graphic.h"
 
 struct ViewportStruct {};

@@ -1,7 +1,7 @@
 // Blocks: named groups of graphics that insertions show; the table "_Blocks_".
 #pragma once
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 #include "drawcore/src/tables/table.h"
 
 struct GraphicStruct;

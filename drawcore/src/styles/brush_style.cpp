@@ -69,7 +69,7 @@ const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int place, int
     return &style->lines[place];
 }
 
-bool IsFinite(const BrushLine& line) {
+bool HasFiniteNumbers(const BrushLine& line) {
     const auto finite = [](double item) { return std::isfinite(item); };
     return finite(line.angle) && finite(line.baseX) && finite(line.baseY) && finite(line.along) &&
            std::fabs(line.spacing) > 0 && finite(line.spacing) && line.dashCount >= 0 &&
@@ -125,7 +125,7 @@ void BrushPatternGetData(const BrushPatternStruct* pattern, double* angle, doubl
 uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLine* lines, int count) {
     auto* styles = dynamic_cast<BrushStyleTable*>(Table::Find(table));
     if (!styles || !name || count < 0 || count > kMostLines || (count && !lines)) return kNoId;
-    if (!std::all_of(lines, lines + count, IsFinite)) return kNoId;
+    if (!std::all_of(lines, lines + count, HasFiniteNumbers)) return kNoId;
     std::vector<PatternLine> made;
     std::transform(lines, lines + count, std::back_inserter(made), FromHost);
     return styles->Add(std::make_unique<BrushStyle>(name, std::move(made)));

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 #include "drawcore/src/styles/colors.h"
 #include "drawcore/src/tables/table.h"
 #include "orlo/host/style.h"

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 
 namespace drawcore {
 

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/arc.h"
 
 struct ExtentsStruct {};
 
@@ -17,8 +17,11 @@ public:
     static const Extents* From(const ExtentsStruct* extents) { return static_cast<const Extents*>(extents); }
 
     bool IsEmpty() const { return low.x > high.x; }
-    void Add(const Vec3& point);
+    void Add(const Vec3& point); // one that is not finite does not count
     void Add(const Extents& other);
+    void Add(const EllipseArc& arc);
+    // Whether the other one, seen from above, reaches nowhere out of this one.
+    bool Covers(const Extents& other) const;
     // The box around this box after the transformation: exact for scaling and moving, else wider.
     Extents Transformed(const Matrix& matrix) const;
 

@@ -1,21 +1,8 @@
-#include "drawcore/src/graphics/matrix.h"
+#include "drawcore/src/geometry/matrix.h"
 
 #include <cmath>
 
 namespace drawcore {
-
-double Length(const Vec3& v) {
-    return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
-}
-
-Vec3 Cross(const Vec3& a, const Vec3& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-Vec3 Normalized(const Vec3& v) {
-    const double length = Length(v);
-    return length > 0 ? v * (1 / length) : v;
-}
 
 Matrix Matrix::Translation(const Vec3& by) {
     return FromAxes({1, 0, 0}, {0, 1, 0}, {0, 0, 1}, by);

@@ -1,33 +1,11 @@
-// Points, vectors and the affine matrix. Acts on row vectors: p * a * b applies a first.
+// The affine matrix. Acts on row vectors: p * a * b applies a first.
 #pragma once
+
+#include "drawcore/src/geometry/vector.h"
 
 struct MatrixStruct;
 
 namespace drawcore {
-
-struct Point {
-    double x = 0, y = 0;
-};
-
-struct Vec3 {
-    double x = 0, y = 0, z = 0;
-};
-
-inline Vec3 operator+(const Vec3& a, const Vec3& b) {
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-inline Vec3 operator-(const Vec3& a, const Vec3& b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-inline Vec3 operator*(const Vec3& a, double f) {
-    return {a.x * f, a.y * f, a.z * f};
-}
-inline bool operator==(const Vec3& a, const Vec3& b) {
-    return a.x == b.x && a.y == b.y && a.z == b.z;
-}
-double Length(const Vec3& v);
-Vec3 Cross(const Vec3& a, const Vec3& b);
-Vec3 Normalized(const Vec3& v); // a vector without length stays as it is
 
 // Sixteen doubles in rows, as the host's matrix record has them: row 3 holds the translation.
 struct Matrix {
