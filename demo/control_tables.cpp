@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <string>
 
-#include <oaidl.h>
-
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/host/drawing.h"
-#include "orlo/host/graphic.h"
-#include "orlo/host/memory.h"
+#include "orlo/host/property.h"
 #include "orlo/host/table.h"
 #include "orlo/host/units.h"
 
@@ -27,24 +24,15 @@ struct ControlTable {
 };
 
 constexpr ControlTable kTables[] = {
-    {kFontFaces, "_Units_", 1},   {0x7D01, "_Units_", 0},       {0x7D04, "_LineStyles_", 0},
-    {0x7D05, "_Colors_", ~1u},    {0x7D07, "_BrushStyles_", 0}, {0x7D08, "_Layers_", 0},
-    {kStyleNames, "_Blocks_", 0}, {0x7D15, "_LineStyles_", 0},  {0x7D18, "_BrushStyles_", 0},
+    {kFontFaces, kTableUnits, 1},   {0x7D01, kTableUnits, 0},       {0x7D04, kTableLineStyles, 0},
+    {0x7D05, kTableColors, ~1u},    {0x7D07, kTableBrushStyles, 0}, {0x7D08, kTableLayers, 0},
+    {kStyleNames, kTableBlocks, 0}, {0x7D15, kTableLineStyles, 0},  {0x7D18, kTableBrushStyles, 0},
 };
 
 // The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
 std::string FaceOf(const Document& document) {
-    for (GraphicStruct* graphic : document.Selected().Members()) {
-        const PropertyTable* table = ::GraphicGetVtbl(graphic);
-        const char* name = "TextFont";
-        int32_t number;
-        if (!table || !table->PropLookup(graphic, &name, 1, 0, &number)) continue;
-        char* face = nullptr;
-        table->PropGet(graphic, number, VT_BSTR, &face);
-        const std::string copy = face ? face : "";
-        ::BStringNULL(&face);
-        return copy;
-    }
+    for (GraphicStruct* graphic : document.Selected().Members())
+        if (auto face = orlo::host::ReadProperty<std::string>(graphic, kPropTextFont)) return *face;
     char face[256] = "";
     ::TableGetStringVar(document.Drawing()->pUnits, kUnitFontName, face, sizeof face);
     return face;

@@ -4,31 +4,20 @@
 
 #include <algorithm>
 
-#include <oleauto.h>
-
 #include "demo/file_name.h"
 #include "drawcore/application.h"
 #include "drawcore/drawing.h"
 #include "drawcore/dxf.h"
 #include "drawcore/layer.h"
 #include "drawcore/undo.h"
-#include "orlo/host/graphic.h"
+#include "orlo/host/property.h"
 #include "orlo/host/viewport.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
-uint16_t LayerOf(GraphicStruct* graphic) {
-    const PropertyTable* table = ::GraphicGetVtbl(graphic);
-    const char* name = "Layer";
-    int32_t number = 0;
-    uint16_t layer = 0;
-    if (table && table->PropLookup(graphic, &name, 1, 0, &number))
-        table->PropGet(graphic, number, VT_UI2, &layer);
-    return layer;
-}
-
 bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
-    const uint16_t layer = LayerOf(graphic);
+    const uint16_t layer = orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
     return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
 }
 
@@ -74,11 +63,8 @@ std::string Document::Name() const {
 
 std::vector<GraphicStruct*> Document::Selectable() const {
     std::vector<GraphicStruct*> graphics;
-    uint32_t position = 0;
-    for (GraphicStruct* g = ::GraphicFirst(m_root, &position, 1, 0xFFFFFFFF); g;
-         g = ::GraphicNext(m_root, &position, 1, 0xFFFFFFFF)) {
-        if (IsSelectable(m_drawing, g)) graphics.push_back(g);
-    }
+    for (GraphicStruct* graphic : orlo::host::Members(m_root))
+        if (IsSelectable(m_drawing, graphic)) graphics.push_back(graphic);
     return graphics;
 }
 

@@ -4,39 +4,27 @@
 
 #include <algorithm>
 #include <cstdio>
-
-#include <oleauto.h>
+#include <optional>
 
 #include "drawcore/drawing.h"
 #include "drawcore/layer.h"
+#include "drawcore/property_schema.h"
 #include "drawcore/units.h"
 #include "drawcore/view.h"
 #include "orlo/host/block.h"
 #include "orlo/host/drawing.h"
-#include "orlo/host/graphic.h"
-#include "orlo/host/memory.h"
+#include "orlo/host/property.h"
 #include "orlo/host/style.h"
-#include "orlo/host/table.h"
 #include "orlo/host/units.h"
-#include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
-struct PropertyRow {
-    const char* name;
-    VARTYPE type;
-};
+using orlo::host::ReadProperty;
 
-constexpr PropertyRow kProperties[] = {
-    {"BrushAngle", VT_R8},    {"BrushColor", VT_UI4},  {"BrushDrawMode", VT_UI4}, {"BrushScale", VT_R8},
-    {"BrushStyle", VT_UI4},   {"HatchCross", VT_UI4},  {"Info", VT_BSTR},         {"Layer", VT_UI4},
-    {"PenAlignment", VT_UI4}, {"PenColor", VT_UI4},    {"PenScale", VT_R8},       {"PenStyle", VT_UI4},
-    {"PenWidth", VT_R8},      {"ScaleSystem", VT_UI4}, {"StyleTree", VT_UI4},     {"TextFont", VT_BSTR},
-    {"TextFormat", VT_UI4},   {"TextSize", VT_R8},     {"TextStyle", VT_UI4},
-};
-
-constexpr const char* kTables[] = {"_Layers_", "_LineStyles_", "_BrushStyles_", "_Colors_", "_Blocks_"};
+constexpr const char* kTables[] = {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors,
+                                   kTableBlocks};
 constexpr uint16_t kUnitNames[] = {kUnitDrawing, kUnitMillimetre, kUnitTextSize, kUnitPenWidth,
                                    kUnitFontName};
 constexpr uint16_t kUnitNumbers[] = {kUnitLinearSystem, kUnitLinearDigits, kUnitAngularSystem,
@@ -48,33 +36,23 @@ std::string Exact(double value) {
     return text;
 }
 
-// False: the graphic has no such property.
-bool Read(GraphicStruct* graphic, const PropertyRow& row, std::string& value) {
-    const PropertyTable* table = ::GraphicGetVtbl(graphic);
-    int32_t number = 0;
-    if (!table || !table->PropLookup(graphic, &row.name, 1, 0, &number)) return false;
-    if (row.type == VT_BSTR) {
-        char* text = nullptr;
-        table->PropGet(graphic, number, VT_BSTR, &text);
-        value = text ? text : "";
-        ::BStringNULL(&text);
-    } else if (row.type == VT_R8) {
-        double real = 0;
-        table->PropGet(graphic, number, VT_R8, &real);
-        value = Exact(real);
-    } else {
-        uint32_t whole = 0;
-        table->PropGet(graphic, number, VT_UI4, &whole);
-        value = std::to_string(whole);
+// None: the graphic has no such property.
+std::optional<std::string> Read(GraphicStruct* graphic, const PropertyInfo& property) {
+    switch (property.form) {
+    case kFormText:
+        return ReadProperty<std::string>(graphic, property.name);
+    case kFormReal:
+        if (const auto real = ReadProperty<double>(graphic, property.name)) return Exact(*real);
+        break;
+    case kFormWhole:
+        if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) return std::to_string(*whole);
     }
-    return true;
+    return std::nullopt;
 }
 
 std::string Vertices(GraphicStruct* graphic) {
     std::string text;
-    int cookie = 0;
-    for (VertexStruct* v = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); v;
-         v = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF)) {
+    for (const VertexStruct* v : orlo::host::Vertices(graphic)) {
         text +=
             "(" + Exact(v->x) + " " + Exact(v->y) + " " + Exact(v->z) + " " + std::to_string(v->wFlags) + ")";
     }
@@ -125,7 +103,7 @@ DrawingState::DrawingState(DrawingStruct* drawing) {
 }
 
 void DrawingState::AddTables(DrawingStruct* drawing) {
-    Thing units = {"_Units_", {}};
+    Thing units = {kTableUnits, {}};
     for (const uint16_t variable : kUnitNames) {
         char text[256] = "";
         ::TableGetStringVar(drawing->pUnits, variable, text, sizeof text);
@@ -139,8 +117,7 @@ void DrawingState::AddTables(DrawingStruct* drawing) {
     m_things.push_back(std::move(units));
     for (const char* name : kTables) {
         TableStruct* table = ::DrawingGetTable(drawing, name);
-        int cookie = 0;
-        for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie))
+        for (const uint16_t id : orlo::host::Entries(table))
             AddEntry(table, name, id);
     }
 }
@@ -150,32 +127,28 @@ void DrawingState::AddEntry(TableStruct* table, const std::string& name, uint16_
     char text[256] = "";
     ::TableEntryGetName(table, id, text, sizeof text);
     entry.values.emplace_back("name", text);
-    if (name == "_Layers_") entry.values.emplace_back("look", LayerText(::TableGetOwner(table), id));
-    if (name == "_LineStyles_") entry.values.emplace_back("pattern", LinePattern(table, id));
-    if (name == "_BrushStyles_") entry.values.emplace_back("pattern", BrushPattern(table, id));
-    if (name == "_Colors_") {
+    if (name == kTableLayers) entry.values.emplace_back("look", LayerText(::TableGetOwner(table), id));
+    if (name == kTableLineStyles) entry.values.emplace_back("pattern", LinePattern(table, id));
+    if (name == kTableBrushStyles) entry.values.emplace_back("pattern", BrushPattern(table, id));
+    if (name == kTableColors) {
         const auto* color = static_cast<const COLORREF*>(::TableEntryGetData(table, id));
         entry.values.emplace_back("color", color ? std::to_string(*color) : "none");
     }
     const std::string place = entry.name;
     m_things.push_back(std::move(entry));
-    if (name == "_Blocks_") AddGraphic(place, ::BlockGetGraphic(table, id));
+    if (name == kTableBlocks) AddGraphic(place, ::BlockGetGraphic(table, id));
 }
 
 void DrawingState::AddGraphics(const std::string& place, GraphicStruct* set) {
-    uint32_t position = 0;
     int index = 0;
-    for (GraphicStruct* g = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); g;
-         g = ::GraphicNext(set, &position, 1, 0xFFFFFFFF))
+    for (GraphicStruct* g : orlo::host::Members(set))
         AddGraphic(place + " " + std::to_string(++index), g);
 }
 
 void DrawingState::AddGraphic(const std::string& place, GraphicStruct* graphic) {
     Thing thing = {place, {{"type", std::to_string(graphic->bType)}}};
-    for (const PropertyRow& row : kProperties) {
-        std::string value;
-        if (Read(graphic, row, value)) thing.values.emplace_back(row.name, value);
-    }
+    for (const PropertyInfo& property : AllProperties())
+        if (const auto value = Read(graphic, property)) thing.values.emplace_back(property.name, *value);
     thing.values.emplace_back("style tree", graphic->pszStyleName ? graphic->pszStyleName : "");
     thing.values.emplace_back("outline", std::to_string(graphic->dwOneOutline));
     thing.values.emplace_back("vertices", Vertices(graphic));

@@ -8,11 +8,10 @@
 
 namespace {
 
-constexpr int kMargin = 24;   // pixels around a fitted drawing
-constexpr int kReach = 4;     // pixels within which a click finds a graphic
-constexpr int kDragStart = 4; // pixels that make a click a drag
-constexpr int kPanStep = 60;  // pixels an arrow key pans
-constexpr uint32_t kAllKinds = 0xFFFFFFFF;
+constexpr int kMargin = 24;     // pixels around a fitted drawing
+constexpr int kReach = 4;       // pixels within which a click finds a graphic
+constexpr int kDragStart = 4;   // pixels that make a click a drag
+constexpr int kPanStep = 60;    // pixels an arrow key pans
 constexpr int kPenOverhang = 8; // pixels that a wide pen may stand out of a graphic's box
 
 Selection::Way WayOf(UINT mouseFlags) {
@@ -201,12 +200,12 @@ void CDrawingView::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 GraphicStruct* CDrawingView::At(CPoint point) const {
-    return ::ViewportPick(m_camera.Viewport(), m_document->Root(), point, kReach, kAllKinds);
+    return ::ViewportPick(m_camera.Viewport(), m_document->Root(), point, kReach, kAllGraphics);
 }
 
 std::vector<GraphicStruct*> CDrawingView::Within(const CRect& frame, bool crossing) const {
     const Selection found;
-    ::ViewportPickWindow(m_camera.Viewport(), m_document->Root(), frame, crossing, kAllKinds, found.Set());
+    ::ViewportPickWindow(m_camera.Viewport(), m_document->Root(), frame, crossing, kAllGraphics, found.Set());
     return found.Members();
 }
 

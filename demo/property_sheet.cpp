@@ -8,7 +8,7 @@
 #include "drawcore/regen.h"
 #include "orlo/frame/entry.h"
 #include "orlo/frame/graphic_property_sheet.h"
-#include "orlo/host/graphic.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -24,18 +24,15 @@ int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned l
     const std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(owner, methods.get(), drawing, set, flags));
     if (!sheet) return -1;
-    uint32_t position = 0;
-    for (GraphicStruct* g = ::GraphicFirst(set, &position, 1, flags); g;
-         g = ::GraphicNext(set, &position, 1, flags))
-        ::AddGraphicPropertyPage(methods.get(), g, sheet.get());
+    for (GraphicStruct* graphic : orlo::host::Members(set, flags))
+        ::AddGraphicPropertyPage(methods.get(), graphic, sheet.get());
     return static_cast<int>(sheet->DoModal());
 }
 
 SheetOutcome EditSelection(CWnd* owner, Document& document) {
     SheetOutcome outcome = {};
     // A cancelled sheet may have written too: a page writes when it is left for another one.
-    outcome.changed = document.Change([&] {
-        outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kSelectionSheet);
-    });
+    outcome.changed = document.Change(
+        [&] { outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics); });
     return outcome;
 }

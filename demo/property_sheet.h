@@ -7,13 +7,8 @@
 
 class Document;
 
-// Flags of a sheet. All kinds of graphics count; the bit that is missing in the second one gives the General page its style
-// part.
-constexpr unsigned long kSelectionSheet = 0xFFFFFFFF;
-constexpr unsigned long kStyleSheet = 0xFFFFFFFB;
-
 // Shows the sheet with the pages that the members of the set deserve and waits until it is closed. owner is the main window,
-// which fills the sheet's controls. IDOK, IDCANCEL, an end code of a page, or -1: the sheet could not be shown.
+// which fills the sheet's controls; flags are kAllGraphics or kWithStylePart. IDOK, IDCANCEL, an end code of a page, or -1: the sheet could not be shown.
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
 
 struct SheetOutcome {

@@ -6,40 +6,16 @@
 #include <cstdio>
 #include <tuple>
 
-#include <oleauto.h>
-
+#include "drawcore/property_schema.h"
 #include "orlo/host/drawing.h"
-#include "orlo/host/graphic.h"
-#include "orlo/host/memory.h"
+#include "orlo/host/property.h"
 #include "orlo/host/strings.h"
-#include "orlo/host/table.h"
 #include "orlo/host/units.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
-constexpr double kMillimetresPerInch = 25.4;
-
-// Reads the properties of one graphic.
-class PropertyReader {
-public:
-    PropertyReader(DrawingStruct* drawing, GraphicStruct* graphic)
-        : m_drawing(drawing), m_graphic(graphic), m_table(::GraphicGetVtbl(graphic)) {}
-
-    // False: the graphic has no such property.
-    template <class Value>
-    bool Read(const char* name, int type, Value& value) const {
-        int32_t number = 0;
-        return m_table && m_table->PropLookup(m_graphic, &name, 1, 0, &number) &&
-               m_table->PropGet(m_graphic, number, type, &value);
-    }
-
-    DrawingStruct* Drawing() const { return m_drawing; }
-
-private:
-    DrawingStruct* m_drawing;
-    GraphicStruct* m_graphic;
-    const PropertyTable* m_table;
-};
+using orlo::host::ReadProperty;
 
 std::string HostText(unsigned int id) {
     char text[128] = "";
@@ -53,50 +29,47 @@ std::string Number(double value) {
     return text;
 }
 
-std::string EntryName(const PropertyReader& reader, const char* table, uint16_t id) {
+std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
     char name[128] = "";
-    ::TableEntryGetName(::DrawingGetTable(reader.Drawing(), table), id, name, sizeof name);
+    ::TableEntryGetName(::DrawingGetTable(drawing, table), id, name, sizeof name);
     return name[0] ? name : "#" + std::to_string(id);
 }
 
-std::string ColorText(const PropertyReader& reader, uint32_t color) {
+std::string ColorText(DrawingStruct* drawing, uint32_t color) {
     switch (color) {
-    case 0xFFFFFFFD:
+    case kColorByLayer:
         return HostText(kStringByLayer);
-    case 0xFFFFFFFC:
+    case kColorByBlock:
         return HostText(kStringByBlock);
-    case 0xFFFFFFFB:
+    case kColorOfPen:
         return HostText(kStringLastColor);
     }
-    TableStruct* colors = ::DrawingGetTable(reader.Drawing(), "_Colors_");
-    int cookie = 0;
-    for (uint16_t id = ::TableEntryFirst(colors, &cookie); id; id = ::TableEntryNext(colors, &cookie)) {
+    TableStruct* colors = ::DrawingGetTable(drawing, kTableColors);
+    for (const uint16_t id : orlo::host::Entries(colors)) {
         const auto* value = static_cast<const COLORREF*>(::TableEntryGetData(colors, id));
-        if (value && *value == color) return EntryName(reader, "_Colors_", id);
+        if (value && *value == color) return EntryName(drawing, kTableColors, id);
     }
     return std::to_string(GetRValue(color)) + "," + std::to_string(GetGValue(color)) + "," +
            std::to_string(GetBValue(color));
 }
 
-std::string StyleText(const PropertyReader& reader, uint16_t style) {
+std::string LineStyleText(DrawingStruct* drawing, uint16_t style) {
     switch (style) {
-    case 0:
+    case kLineStyleNone:
         return "none";
-    case 65534:
+    case kLineStyleByLayer:
         return HostText(kStringByLayer);
-    case 65533:
+    case kLineStyleByBlock:
         return HostText(kStringByBlock);
     default:
-        return EntryName(reader, "_LineStyles_", style);
+        return EntryName(drawing, kTableLineStyles, style);
     }
 }
 
-std::string WidthText(const PropertyReader& reader, double width) {
-    uint8_t system = 2;
-    reader.Read("ScaleSystem", VT_UI1, system);
+std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double width) {
+    const bool world = ReadProperty<uint8_t>(graphic, kPropScaleSystem) == uint8_t{kScaleWorld};
     char text[64] = "";
-    DrawingStruct* drawing = reader.Drawing();
-    if (system == 0)
+    if (world)
         ::DrawingStdNumericToText(drawing, width, text, sizeof text, 0);
     else
         ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetresPerInch, text,
@@ -104,96 +77,54 @@ std::string WidthText(const PropertyReader& reader, double width) {
     return text[0] ? text : Number(width);
 }
 
-// One row per property: reads it as a text, empty if the graphic has none.
-struct PropertyRow {
-    const char* name;
-    std::string (*read)(const PropertyReader& reader, const char* name);
-};
-
-std::string ReadColor(const PropertyReader& reader, const char* name) {
-    uint32_t color;
-    return reader.Read(name, VT_UI4, color) ? ColorText(reader, color) : "";
+std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t value) {
+    const auto id = static_cast<uint16_t>(value);
+    switch (meaning) {
+    case kMeansSwitch:
+        return value ? "yes" : "no";
+    case kMeansColor:
+        return ColorText(drawing, value);
+    case kMeansLineStyle:
+        return LineStyleText(drawing, id);
+    case kMeansBrushStyle:
+        return id == kBrushStyleNone ? HostText(kStringNoBrush) : EntryName(drawing, kTableBrushStyles, id);
+    case kMeansLayer:
+        return EntryName(drawing, kTableLayers, id);
+    case kMeansBlock:
+        return id ? EntryName(drawing, kTableBlocks, id) : "none";
+    case kMeansScaleSystem:
+        return HostText(id == kScaleWorld ? kStringWorldScale : kStringPaperScale);
+    default:
+        return std::to_string(value);
+    }
 }
 
-std::string ReadStyle(const PropertyReader& reader, const char* name) {
-    uint16_t style;
-    return reader.Read(name, VT_UI2, style) ? StyleText(reader, style) : "";
+// Empty if the graphic has no such property.
+std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
+    switch (property.form) {
+    case kFormWhole:
+        if (const auto value = ReadProperty<uint32_t>(graphic, property.name))
+            return WholeText(drawing, property.meaning, *value);
+        break;
+    case kFormReal:
+        if (const auto value = ReadProperty<double>(graphic, property.name))
+            return property.meaning == kMeansWidth ? WidthText(drawing, graphic, *value) : Number(*value);
+        break;
+    case kFormText:
+        if (const auto value = ReadProperty<std::string>(graphic, property.name)) return '"' + *value + '"';
+    }
+    return "";
 }
-
-std::string ReadWidth(const PropertyReader& reader, const char* name) {
-    double width;
-    return reader.Read(name, VT_R8, width) ? WidthText(reader, width) : "";
-}
-
-std::string ReadDouble(const PropertyReader& reader, const char* name) {
-    double value;
-    return reader.Read(name, VT_R8, value) ? Number(value) : "";
-}
-
-std::string ReadSwitch(const PropertyReader& reader, const char* name) {
-    uint16_t value;
-    return !reader.Read(name, VT_BOOL, value) ? "" : value ? "yes" : "no";
-}
-
-std::string ReadScaleSystem(const PropertyReader& reader, const char* name) {
-    uint8_t system;
-    if (!reader.Read(name, VT_UI1, system)) return "";
-    return HostText(system == 0 ? kStringWorldScale : kStringPaperScale);
-}
-
-std::string ReadWhole(const PropertyReader& reader, const char* name) {
-    uint16_t value;
-    return reader.Read(name, VT_UI2, value) ? std::to_string(value) : "";
-}
-
-std::string ReadBrush(const PropertyReader& reader, const char* name) {
-    uint16_t style;
-    if (!reader.Read(name, VT_UI2, style)) return "";
-    return style ? EntryName(reader, "_BrushStyles_", style) : HostText(kStringNoBrush);
-}
-
-std::string ReadStyleTree(const PropertyReader& reader, const char* name) {
-    uint16_t style;
-    if (!reader.Read(name, VT_UI2, style)) return "";
-    return style ? EntryName(reader, "_Blocks_", style) : "none";
-}
-
-std::string ReadLayer(const PropertyReader& reader, const char* name) {
-    uint16_t layer;
-    return reader.Read(name, VT_UI2, layer) ? EntryName(reader, "_Layers_", layer) : "";
-}
-
-std::string ReadText(const PropertyReader& reader, const char* name) {
-    char* text = nullptr;
-    std::string result;
-    if (reader.Read(name, VT_BSTR, text) && text) result = "\"" + std::string(text) + "\"";
-    ::BStringNULL(&text);
-    return result;
-}
-
-constexpr PropertyRow kProperties[] = {
-    {"BrushAngle", ReadDouble},   {"BrushColor", ReadColor},
-    {"BrushDrawMode", ReadWhole}, {"BrushScale", ReadDouble},
-    {"BrushStyle", ReadBrush},    {"HatchCross", ReadSwitch},
-    {"Info", ReadText},           {"Layer", ReadLayer},
-    {"PenAlignment", ReadSwitch}, {"PenColor", ReadColor},
-    {"PenScale", ReadDouble},     {"PenStyle", ReadStyle},
-    {"PenWidth", ReadWidth},      {"ScaleSystem", ReadScaleSystem},
-    {"StyleTree", ReadStyleTree}, {"TextFont", ReadText},
-    {"TextFormat", ReadWhole},    {"TextSize", ReadDouble},
-    {"TextStyle", ReadWhole},
-};
 
 } // namespace
 
 PropertySnapshot::PropertySnapshot(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics) {
     m_values.reserve(graphics.size());
     for (GraphicStruct* graphic : graphics) {
-        const PropertyReader reader(drawing, graphic);
         Values_& values = m_values.emplace_back();
-        for (const PropertyRow& row : kProperties) {
-            std::string text = row.read(reader, row.name);
-            if (!text.empty()) values.emplace(row.name, std::move(text));
+        for (const PropertyInfo& property : AllProperties()) {
+            std::string text = ValueText(drawing, graphic, property);
+            if (!text.empty()) values.emplace(property.name, std::move(text));
         }
     }
 }

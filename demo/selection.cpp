@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "drawcore/view.h"
-#include "orlo/host/graphic.h"
 #include "orlo/host/viewport.h"
+#include "orlo/host/walk.h"
 
 std::optional<WorldBox> ExtentsOf(GraphicStruct* graphic) {
     double box[4];
@@ -25,10 +25,8 @@ Selection::~Selection() {
 
 std::vector<GraphicStruct*> Selection::Members() const {
     std::vector<GraphicStruct*> members;
-    uint32_t position = 0;
-    for (GraphicStruct* g = ::GraphicFirst(m_set, &position, 1, 0xFFFFFFFF); g;
-         g = ::GraphicNext(m_set, &position, 1, 0xFFFFFFFF))
-        members.push_back(g);
+    for (GraphicStruct* graphic : orlo::host::Members(m_set))
+        members.push_back(graphic);
     return members;
 }
 

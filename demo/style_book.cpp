@@ -4,129 +4,76 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
-
-#include <oleauto.h>
 
 #include "drawcore/drawing.h"
 #include "drawcore/graphic.h"
+#include "drawcore/property_schema.h"
 #include "orlo/host/block.h"
-#include "orlo/host/graphic.h"
-#include "orlo/host/memory.h"
+#include "orlo/host/owners.h"
+#include "orlo/host/property.h"
 #include "orlo/host/strings.h"
-#include "orlo/host/table.h"
 #include "orlo/host/text.h"
-#include "orlo/host/vertex.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
+using orlo::host::Entries;
+using orlo::host::FindProperty;
+using orlo::host::Members;
+using orlo::host::OwnedVertex;
+using orlo::host::ReadProperty;
+using orlo::host::WriteProperty;
+
 constexpr const char* kTree = "Graphic styles";
-constexpr const char* kStyleProperty = "StyleTree";
 
-struct PropertyRow {
-    const char* name;
-    VARTYPE type;
-};
-using Rows = std::vector<PropertyRow>;
-
-const Rows kPen = {{"PenColor", VT_UI4}, {"PenStyle", VT_UI4},    {"PenScale", VT_R8},
-                   {"PenWidth", VT_R8},  {"ScaleSystem", VT_UI4}, {"PenAlignment", VT_UI4}};
-const Rows kBrush = {{"BrushStyle", VT_UI4}, {"BrushColor", VT_UI4},    {"BrushScale", VT_R8},
-                     {"BrushAngle", VT_R8},  {"BrushDrawMode", VT_UI4}, {"HatchCross", VT_UI4}};
-const Rows kText = {{"PenColor", VT_UI4},
-                    {"TextFont", VT_BSTR},
-                    {"TextSize", VT_R8},
-                    {"TextStyle", VT_UI4},
-                    {"TextFormat", VT_UI4}};
-
-bool FindProperty(GraphicStruct* graphic, const char* name, int32_t& number) {
-    const PropertyTable* table = ::GraphicGetVtbl(graphic);
-    return table && table->PropLookup(graphic, &name, 1, 0, &number);
-}
-
-bool Has(GraphicStruct* graphic, const char* name) {
-    int32_t number;
-    return FindProperty(graphic, name, number);
-}
+using Names = std::vector<const char*>;
+const Names kPen = {kPropPenColor, kPropPenStyle,    kPropPenScale,
+                    kPropPenWidth, kPropScaleSystem, kPropPenAlignment};
+const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
+                      kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
+const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
 
 template <class Value>
-void CopyValue(GraphicStruct* from, int32_t source, GraphicStruct* to, int32_t target, VARTYPE type) {
-    Value value{};
-    if (::GraphicGetVtbl(from)->PropGet(from, source, type, &value))
-        ::GraphicGetVtbl(to)->PropSet(to, target, type, &value);
-}
-
-void CopyText(GraphicStruct* from, int32_t source, GraphicStruct* to, int32_t target) {
-    char* text = nullptr;
-    if (::GraphicGetVtbl(from)->PropGet(from, source, VT_BSTR, &text) && text)
-        ::GraphicGetVtbl(to)->PropSet(to, target, VT_BSTR, text);
-    ::BStringNULL(&text);
+void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
+    if (const auto value = ReadProperty<Value>(from, name)) WriteProperty(to, name, *value);
 }
 
 // Those that both have.
-void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Rows& rows) {
-    for (const PropertyRow& row : rows) {
-        int32_t source, target;
-        if (!FindProperty(from, row.name, source) || !FindProperty(to, row.name, target)) continue;
-        switch (row.type) {
-        case VT_UI4:
-            CopyValue<uint32_t>(from, source, to, target, row.type);
-            break;
-        case VT_R8:
-            CopyValue<double>(from, source, to, target, row.type);
-            break;
-        default:
-            CopyText(from, source, to, target);
-        }
+void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) {
+    for (const PropertyInfo& property : AllProperties()) {
+        const auto isThis = [&](const char* name) { return !std::strcmp(name, property.name); };
+        if (std::none_of(names.begin(), names.end(), isThis)) continue;
+        if (property.form == kFormWhole)
+            CopyProperty<uint32_t>(from, to, property.name);
+        else if (property.form == kFormReal)
+            CopyProperty<double>(from, to, property.name);
+        else
+            CopyProperty<std::string>(from, to, property.name);
     }
 }
 
 uint16_t StyleOf(GraphicStruct* graphic) {
-    int32_t number;
-    uint16_t style = 0;
-    if (FindProperty(graphic, kStyleProperty, number))
-        ::GraphicGetVtbl(graphic)->PropGet(graphic, number, VT_UI2, &style);
-    return style;
+    return ReadProperty<uint16_t>(graphic, kPropStyleTree).value_or(0);
 }
-
-void SetStyleOf(GraphicStruct* graphic, uint16_t style) {
-    int32_t number;
-    if (FindProperty(graphic, kStyleProperty, number))
-        ::GraphicGetVtbl(graphic)->PropSet(graphic, number, VT_UI2, &style);
-}
-
-std::vector<GraphicStruct*> MembersOf(GraphicStruct* set) {
-    std::vector<GraphicStruct*> members;
-    uint32_t position = 0;
-    for (GraphicStruct* g = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); g;
-         g = ::GraphicNext(set, &position, 1, 0xFFFFFFFF))
-        members.push_back(g);
-    return members;
-}
-
-struct VertexDeleter {
-    void operator()(VertexStruct* vertex) const { ::VertexDispose(&vertex); }
-};
-using Vertex = std::unique_ptr<VertexStruct, VertexDeleter>;
 
 GraphicStruct* NewShape() {
     GraphicStruct* shape = ::GraphicNewEx(kGraphicVertices, 0, 1);
     constexpr double kCorners[][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 0}};
     for (const auto& corner : kCorners)
-        ::GraphicVertexAdd(shape, Vertex(::VertexNewEx(corner[0], corner[1], 0)).get());
+        ::GraphicVertexAdd(shape, OwnedVertex(::VertexNewEx(corner[0], corner[1], 0)).get());
     return shape;
 }
 
 GraphicStruct* NewText() {
     GraphicStruct* text = ::GraphicNewEx(kGraphicText, 0, 1);
-    ::TextSetVWHAEx(text, Vertex(::VertexNewEx(0, 0, 0)).get(), 0, 1, 0, "Text");
+    ::TextSetVWHAEx(text, OwnedVertex(::VertexNewEx(0, 0, 0)).get(), 0, 1, 0, "Text");
     return text;
 }
 
 // The samples of a style's contents.
 struct Samples {
     explicit Samples(GraphicStruct* content) {
-        for (GraphicStruct* member : MembersOf(content))
+        for (GraphicStruct* member : Members(content))
             (member->bType == kGraphicText ? text : shape) = member;
     }
     GraphicStruct* shape = nullptr;
@@ -141,11 +88,8 @@ TableStruct* StyleBook::Table() const {
 
 std::vector<uint16_t> StyleBook::All() const {
     std::vector<uint16_t> styles;
-    TableStruct* table = Table();
-    int cookie = 0;
-    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+    for (const uint16_t id : Entries(Table()))
         if (IsStyle(id)) styles.push_back(id);
-    }
     return styles;
 }
 
@@ -165,9 +109,10 @@ GraphicStruct* StyleBook::Content(uint16_t id) const {
 }
 
 int StyleBook::Uses(uint16_t id) const {
-    const std::vector<GraphicStruct*> all = MembersOf(::DrawingGetRoot(m_drawing));
-    return static_cast<int>(std::count_if(all.begin(), all.end(),
-                                          [id](GraphicStruct* graphic) { return StyleOf(graphic) == id; }));
+    int uses = 0;
+    for (GraphicStruct* graphic : Members(::DrawingGetRoot(m_drawing)))
+        uses += StyleOf(graphic) == id;
+    return uses;
 }
 
 std::string StyleBook::WhyNot(const std::string& name) const {
@@ -186,11 +131,12 @@ std::string StyleBook::WhyNot(const std::string& name) const {
 
 StyleBook::Examples StyleBook::ExamplesOf(const std::vector<GraphicStruct*>& graphics) {
     const auto first = [&](const char* property) {
-        const auto found = std::find_if(graphics.begin(), graphics.end(),
-                                        [=](GraphicStruct* graphic) { return Has(graphic, property); });
+        const auto found = std::find_if(graphics.begin(), graphics.end(), [=](GraphicStruct* graphic) {
+            return FindProperty(graphic, property).has_value();
+        });
         return found != graphics.end() ? *found : nullptr;
     };
-    return {first("PenWidth"), first("BrushStyle"), first("TextFont")};
+    return {first(kPropPenWidth), first(kPropBrushStyle), first(kPropTextFont)};
 }
 
 StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics) {
@@ -230,8 +176,8 @@ uint16_t StyleBook::TakeAdded() {
 void StyleBook::Enter(uint16_t id, Parts parts) {
     m_parts[id] = parts;
     m_current = id;
-    for (GraphicStruct* member : MembersOf(Content(id)))
-        SetStyleOf(member, id);
+    for (GraphicStruct* member : Members(Content(id)))
+        WriteProperty(member, kPropStyleTree, id);
 }
 
 bool StyleBook::Delete(uint16_t id) {
@@ -252,6 +198,6 @@ void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const 
             if (parts.pen) CopyProperties(samples.shape, graphic, kPen);
             if (parts.brush) CopyProperties(samples.shape, graphic, kBrush);
         }
-        SetStyleOf(graphic, m_current);
+        WriteProperty(graphic, kPropStyleTree, m_current);
     }
 }

@@ -45,7 +45,8 @@ std::string NewStyle(CWnd* owner, Document& document) {
 std::string EditStyles(CWnd* owner, Document& document) {
     StyleBook& styles = document.Styles();
     for (;;) {
-        const int code = RunSheet(owner, document.Drawing(), styles.Content(styles.Current()), kStyleSheet);
+        const int code =
+            RunSheet(owner, document.Drawing(), styles.Content(styles.Current()), kWithStylePart);
         if (code == kStyleAdded) {
             if (!styles.TakeAdded()) return "The style could not be added";
         } else if (const uint16_t chosen = StyleIn(document, code, kStyleChosen)) {

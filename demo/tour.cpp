@@ -297,7 +297,7 @@ void Tour::PickWidth(HWND page) {
 
 void Tour::PickStyle(HWND page) {
     const HWND list = ::GetDlgItem(page, kStyle);
-    TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), "_LineStyles_");
+    TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
     const int now = Ask(list, LB_GETCURSEL), count = Ask(list, LB_GETCOUNT);
     int wanted = -1;
     for (int i = count - 1; i >= 0; --i) { // the first one with dashes; else any

@@ -109,7 +109,7 @@ Fill FillWith(const List& list, int n) {
     list.make(drawing.Table(list.table), n);
     Parent parent;
     const HWND ours = parent.Add("QXComboBox", list.combo), plain = parent.Add("COMBOBOX", 1);
-    const ControlFillRecord record = {drawing.Table(list.table), 0, 0xFFFFFFFE};
+    const ControlFillRecord record = {drawing.Table(list.table), 0, kColorNone};
     const auto fill = [&] { ::SendMessageA(ours, kFillMessage, 0, reinterpret_cast<LPARAM>(&record)); };
     fill();
     const std::vector<std::string> items = ItemsOf(ours);
@@ -132,8 +132,8 @@ Fill FillWith(const List& list, int n) {
 } // namespace
 
 void BenchFill() {
-    const List lists[] = {{"fill_colors_", kColorCombo, "_Colors_", MakeColors},
-                          {"fill_layers_", kLayerCombo, "_Layers_", MakeLayers}};
+    const List lists[] = {{"fill_colors_", kColorCombo, kTableColors, MakeColors},
+                          {"fill_layers_", kLayerCombo, kTableLayers, MakeLayers}};
     for (const List& list : lists) {
         Pair before{};
         for (const int n : {256, 1000, 10000}) {

@@ -53,8 +53,8 @@ private:
 template <class Visit>
 void ForEach(GraphicStruct* set, Visit visit) {
     uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, 0xFFFFFFFF))
+    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, kAllGraphics); graphic != nullptr;
+         graphic = ::GraphicNext(set, &position, 1, kAllGraphics))
         visit(graphic);
 }
 
@@ -92,9 +92,9 @@ Merge MeasureMerge(int n, bool plane) {
     const Insertions insertions(n, plane);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
-        nullptr, nullptr, insertions.Drawing(), insertions.Selection(), 0xFFFFFFFF));
+        nullptr, nullptr, insertions.Drawing(), insertions.Selection(), kAllGraphics));
     uint32_t position;
-    ::AddGraphicPropertyPage(nullptr, ::GraphicFirst(insertions.Selection(), &position, 1, 0xFFFFFFFF),
+    ::AddGraphicPropertyPage(nullptr, ::GraphicFirst(insertions.Selection(), &position, 1, kAllGraphics),
                              sheet.get());
     Merge merge{};
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {

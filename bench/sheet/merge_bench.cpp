@@ -45,8 +45,8 @@ private:
 template <class Visit>
 void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
     uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, 0xFFFFFFFF); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, 0xFFFFFFFF)) {
+    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, kAllGraphics); graphic != nullptr;
+         graphic = ::GraphicNext(set, &position, 1, kAllGraphics)) {
         int32_t number;
         const PropertyTable* table = ::GraphicGetVtbl(graphic);
         if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number))
@@ -102,8 +102,8 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
         kRounds, [&] { page.GetPropText("Info", &info, 0); }, [&] { BareGetText(selection, "Info"); });
 
     uint32_t position;
-    ::GraphicFirst(selection, &position, 1, 0xFFFFFFFF);
-    GraphicStruct* second = ::GraphicNext(selection, &position, 1, 0xFFFFFFFF);
+    ::GraphicFirst(selection, &position, 1, kAllGraphics);
+    GraphicStruct* second = ::GraphicNext(selection, &position, 1, kAllGraphics);
     const PropertyTable* table = ::GraphicGetVtbl(second);
     const char* name = "PenWidth";
     int32_t number;
@@ -136,7 +136,7 @@ auto MeasureCrowd(int n, int type, Measuring measure) {
     const Crowd crowd(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), 0xFFFFFFFF));
+        ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), kAllGraphics));
     auto* page = new ExchangePage([](CDataExchange*) {});
     sheet->AddPage(page);
     decltype(measure(*page, crowd.Selection())) results{};

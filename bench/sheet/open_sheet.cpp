@@ -67,10 +67,10 @@ void ShowSystemPage(HWND sheet, int page) {
 std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing,
                                                 GraphicStruct* selection) {
     std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(owner, nullptr, drawing, selection, 0xFFFFFFFF));
+        ::InitGraphicPropertySheet(owner, nullptr, drawing, selection, kAllGraphics));
     uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(selection, &position, 1, 0xFFFFFFFF); graphic != nullptr;
-         graphic = ::GraphicNext(selection, &position, 1, 0xFFFFFFFF))
+    for (GraphicStruct* graphic = ::GraphicFirst(selection, &position, 1, kAllGraphics); graphic != nullptr;
+         graphic = ::GraphicNext(selection, &position, 1, kAllGraphics))
         ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
     return sheet;
 }

@@ -4,8 +4,6 @@
 
 #include <orlo.h>
 
-constexpr unsigned long kWithStylePart = 0xFFFFFFFB; // bit 2 clear: the General page has its style part
-
 // Gives the style that is current in the end. The style names must be filled with that style as nSelected.
 uint16_t EditStyle(CWnd* owner, DrawingStruct* drawing, uint16_t style) {
     TableStruct* styles = BlocksFromDrawing(drawing);

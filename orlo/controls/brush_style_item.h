@@ -6,7 +6,6 @@
 #include "orlo/controls/style_sample.h"
 #include "orlo/host/strings.h"
 
-constexpr unsigned int kBrushStyleNone = 0;         // by the host's text
 constexpr unsigned int kBrushStyleSpecial = 0xFFFE; // and above: nothing to show
 
 // Where combo and list differ.

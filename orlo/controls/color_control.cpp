@@ -19,13 +19,12 @@ namespace {
 constexpr unsigned int kKind = 0x7D05;
 constexpr DWORD kNoValue = 0xFFFFFFFE;
 constexpr DWORD kSeveralValues = 0xFFFFFFFF;
-constexpr DWORD kExtraEntry = 0xFFFFFFFD;
 constexpr DWORD kHiddenEntry = 0xFFFFFFFC;
 constexpr DWORD kLastEntry = 0xFFFFFFFB;
 
 unsigned int HostStringOf(DWORD marker) {
     switch (marker) {
-    case kExtraEntry:
+    case kColorByLayer:
         return kStringByLayer;
     case kHiddenEntry:
         return kStringByBlock;
@@ -134,7 +133,7 @@ void CColorControl::FillControl(WPARAM, LPARAM pFill) {
     }
     if (m_bExtraEntries) {
         const ControlItems items = ControlItems::OfCombo(m_hWnd);
-        AppendMarker(items, kExtraEntry);
+        AppendMarker(items, kColorByLayer);
         if (m_bLastEntry) AppendMarker(items, kLastEntry);
     }
     SetCurSel(FindColor(m_nSelected));

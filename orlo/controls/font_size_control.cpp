@@ -19,7 +19,6 @@ namespace {
 
 constexpr unsigned int kKind = 0x7D01;
 constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
-constexpr double kMillimetresPerInch = 25.4;
 constexpr RowColors kNothingColors = {RGB(255, 0, 0), RGB(255, 255, 255)};
 
 float FloatOf(UINT_PTR bits) {

@@ -7,21 +7,18 @@
 
 namespace {
 
-constexpr uint16_t kWorld = 0, kDevice = 2;
-constexpr uint16_t kUnitDrawing = 0x5033;
-
 uint16_t UnitOf(uint16_t coordSpace) {
-    return coordSpace == kWorld ? kUnitDrawing : kUnitTextSize;
+    return coordSpace == kSpaceWorld ? kUnitDrawing : kUnitTextSize;
 }
 
 } // namespace
 
 int TextToFontSize(DrawingStruct* drawing, uint16_t coordSpace, const char* text, double* value) {
-    if (coordSpace == kDevice) return 0;
+    if (coordSpace == kSpaceDevice) return 0;
     return DrawingStdTextToNumericEx(drawing, text, value, coordSpace, UnitOf(coordSpace));
 }
 
 int FontSizeToText(DrawingStruct* drawing, uint16_t coordSpace, double value, char* buffer, int size) {
-    if (coordSpace == kDevice) return 0;
+    if (coordSpace == kSpaceDevice) return 0;
     return DrawingStdNumericToTextEx(drawing, value, buffer, size, coordSpace, UnitOf(coordSpace));
 }

@@ -8,7 +8,6 @@
 
 constexpr unsigned int kLineStyleDefault = 0xFFFE; // the default item, by the host's text
 constexpr unsigned int kLineStyleHidden = 0xFFFD;  // by the host's text; no list offers it
-constexpr unsigned int kLineStyleMixed = 0xFFFF;
 
 // Styles that are for construction only are never offered.
 bool IsListedStyle(const char* name);

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr int kTextSize = 0x100; // with the NUL
-constexpr uint16_t kWorldUnit = 0x5033, kMillimetre = 0x5034;
 constexpr double kSmallestScale = 1e-7;
 constexpr double kDegrees = 57.29577951308232, kRadians = 0.017453292519943295;
 
@@ -46,9 +45,9 @@ int ExchangePaperText(int bReport, CDataExchange* pDX, unsigned int nIDC, double
     if (!units) return FailExchange(bReport, pDX);
     return ExchangeHostText(
         bReport, pDX, nIDC, value, bBlank,
-        [&](const char* text) { return UnitsTextToNumericEx(units, kMillimetre, nUnit, text, &value); },
+        [&](const char* text) { return UnitsTextToNumericEx(units, kUnitMillimetre, nUnit, text, &value); },
         [&](char* buffer) {
-            return UnitsNumericToTextEx(units, nUnit, kMillimetre, value, buffer, kTextSize, 0, 1);
+            return UnitsNumericToTextEx(units, nUnit, kUnitMillimetre, value, buffer, kTextSize, 0, 1);
         });
 }
 
@@ -70,7 +69,7 @@ int DDX_TextLinear(int bReport, CDataExchange* pDX, unsigned int nIDC, double& v
 
 int DDX_TextPaper(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
                   int bBlank) {
-    return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, kMillimetre);
+    return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, kUnitMillimetre);
 }
 
 int DDX_TextPaperMM(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
@@ -82,7 +81,7 @@ int DDX_TextPaperWorld(int bReport, CDataExchange* pDX, unsigned int nIDC, doubl
                        DrawingStruct* pDrawing, double dScale, int bBlank) {
     if (!(std::fabs(dScale) > kSmallestScale)) return FailExchange(bReport, pDX);
     double factor = 1.0;
-    UnitsGetLUnitValue(pDrawing ? pDrawing->pUnits : nullptr, kWorldUnit, &factor);
+    UnitsGetLUnitValue(pDrawing ? pDrawing->pUnits : nullptr, kUnitDrawing, &factor);
     double paper = value;
     if (!pDX->m_bSaveAndValidate) paper = paper * dScale * factor;
     if (!ExchangePaperText(bReport, pDX, nIDC, paper, pDrawing, bBlank, 0)) return 0;

@@ -18,9 +18,7 @@
 namespace {
 
 constexpr int kEditSize = 0x80, kTextSize = 0x100; // with the NUL
-constexpr uint16_t kMillimetre = 0x5034;
-constexpr double kInch = 25.4, kInchOfMillimetre = 0.03937007874015748;
-constexpr double kCustomary = 0.025; // inches
+constexpr double kCustomary = 0.025;               // inches
 constexpr int kLimitDigits = 15;
 
 uint16_t Key(unsigned long nID) {
@@ -55,12 +53,12 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
 // Inches of the field, checked.
 int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min,
                      double max, unsigned int nIDPrompt, double& inches) {
-    double length = kCustomary * kInch;
-    if (!UnitsTextToNumericEx(pUnits, kMillimetre, 0, text, &length)) {
+    double length = kCustomary * kMillimetresPerInch;
+    if (!UnitsTextToNumericEx(pUnits, kUnitMillimetre, 0, text, &length)) {
         if (min < max) return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
         return FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
     }
-    inches = length * kInchOfMillimetre;
+    inches = length * kInchesPerMillimetre;
     if (min < max && (inches < min || inches > max))
         return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
     return 1;
@@ -129,7 +127,7 @@ int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, 
         return 1;
     }
     TableGetNumericVar(pVariables, nID, &inches);
-    const int written = UnitsNumericToTextEx(pUnits, 0, kMillimetre, inches * kInch,
+    const int written = UnitsNumericToTextEx(pUnits, 0, kUnitMillimetre, inches * kMillimetresPerInch,
                                              text.GetBuffer(kTextSize - 1), kTextSize, 0, 1);
     text.ReleaseBuffer();
     return written ? DDX_Text(bReport, pDX, id, text) : FailExchange(bReport, pDX);

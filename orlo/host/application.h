@@ -12,6 +12,3 @@ DRAWCORE_API int AppGetINIFileName(AppStruct*, char* buffer, int size);
 
 // Non-zero if the device takes a palette.
 DRAWCORE_API int IsPaletteSupported(HDC);
-
-// Variable of the application's table: background of the preview, a COLORREF.
-constexpr uint16_t kVarPreviewBackground = 0x5104;

@@ -4,7 +4,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// The table of that name ("_LineStyles_", "_BrushStyles_", ...), the drawing's own; null if there is none.
+// The table of that name (kTableLineStyles, kTableBrushStyles, ...), the drawing's own; null if there is none.
 DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct*, const char* name);
 
 // Length text to drawing units and back, in the drawing's own unit settings. A number without a unit is in drawing units, and
@@ -23,11 +23,10 @@ DRAWCORE_API int DrawingStdAngleToText(DrawingStruct*, double value, char* buffe
 DRAWCORE_API int DrawingGetScaleString(DrawingStruct*, char* buffer, int size);
 DRAWCORE_API int DrawingSetScaleString(DrawingStruct*, const char* text);
 
-// The space that the drawing's lengths are in: 0 the world (drawing units), 1 paper (millimetres), 2 that of a device, which
-// has no lengths.
+// The space that the drawing's lengths are in: kSpaceWorld, kSpacePaper or kSpaceDevice.
 DRAWCORE_API uint16_t DrawingGetCoordSpace(DrawingStruct*);
 // The same conversions for a length in that space; unit is the variable of the units table that names the unit of the text:
-// 0x5033 for the world, kUnitTextSize for a text size on paper. 0 in the space 2.
+// kUnitDrawing for the world, kUnitTextSize for a text size on paper. 0 in the space of a device.
 DRAWCORE_API int DrawingStdTextToNumericEx(DrawingStruct*, const char* text, double* value,
                                            uint16_t coordSpace, uint16_t unit);
 DRAWCORE_API int DrawingStdNumericToTextEx(DrawingStruct*, double value, char* buffer, int size,

@@ -22,7 +22,7 @@ DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
 DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
 DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
 
-// Walk over the members of a set that pass the filter (0xFFFFFFFF: all). The position is one 32-bit word of the
+// Walk over the members of a set that pass the filter (kAllGraphics: all). The position is one 32-bit word of the
 // caller's, set by GraphicFirst. flags is 1. Null at the end.
 DRAWCORE_API GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int flags, uint32_t filter);
 DRAWCORE_API GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter);
@@ -37,17 +37,16 @@ DRAWCORE_API const PropertyTable* GraphicGetVtbl(GraphicStruct*);
 DRAWCORE_API void GraphicSetDirty(GraphicStruct*, int dirty);
 DRAWCORE_API void GraphicSetExtentsDirty(GraphicStruct*, int dirty);
 
-// Drawing attributes. A colour is 0x00bbggrr or 0xFFFFFFFD by layer, 0xFFFFFFFC by block. A pen style is an entry of
-// "_LineStyles_", 65534 by layer, 65533 by block, or 0: no line. The scale multiplies the dash pattern. Scale system 0: the
-// pen's width is in drawing units; 2: in inches of paper, the same at every zoom. A brush style is an entry of
-// "_BrushStyles_" or 0: no filling.
+// Drawing attributes. A colour is 0x00bbggrr, kColorByLayer or kColorByBlock. A pen style is an entry of kTableLineStyles,
+// kLineStyleByLayer, kLineStyleByBlock or kLineStyleNone: no line. The scale multiplies the dash pattern. The scale system says
+// what the pen's width means. A brush style is an entry of kTableBrushStyles or kBrushStyleNone: no filling.
 DRAWCORE_API void GraphicSetPenColor(GraphicStruct*, uint32_t color);
 DRAWCORE_API void GraphicSetPenStyle(GraphicStruct*, uint16_t style);
 DRAWCORE_API void GraphicSetPenScale(GraphicStruct*, double scale);
 DRAWCORE_API void GraphicSetScaleSystem(GraphicStruct*, int system);
 DRAWCORE_API void GraphicSetPenWidth(GraphicStruct*, double width);
 DRAWCORE_API void GraphicSetBrushStyle(GraphicStruct*, uint16_t style);
-// Also 0xFFFFFFFB: the colour of the pen.
+// Also kColorOfPen.
 DRAWCORE_API void GraphicSetBrushColor(GraphicStruct*, uint32_t color);
 // Multiplies the spacing of a vector pattern.
 DRAWCORE_API void GraphicSetBrushScale(GraphicStruct*, double scale);

@@ -1,6 +1,7 @@
 // What the library expects of its host's drawing database: every record, table and function it uses.
 // Declarations only; a host with a database of its own implements them and exports them as drawcore32.dll.
 //
+//   words.h        names and numbers that both sides use: tables, properties, types, markers
 //   records.h      layouts that library and host share byte for byte
 //   application.h  the application record, configuration file, host strings
 //   drawing.h      drawings and their named tables
@@ -16,6 +17,8 @@
 //   matrix.h       transformations
 //   regen.h        regen methods
 //   memory.h       blocks and strings that cross the boundary
+//
+// In C++, header only: owners.h, walk.h and property.h.
 //
 // All lengths in a graphic are drawing units unless said otherwise. Results named "int" are non-zero on success.
 // Everything is called on the user-interface thread.
@@ -37,3 +40,4 @@
 #include "orlo/host/units.h"
 #include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
+#include "orlo/host/words.h"

@@ -5,24 +5,13 @@
 #include <cstdint>
 #include <windows.h>
 
+#include "orlo/host/words.h"
+
 struct AppStruct;
 struct DrawingStruct;
 struct TableStruct;
 struct ExtentsStruct;
 struct ViewportStruct;
-
-enum : uint8_t {
-    kGraphicPenBrush = 2, // always takes pen and brush
-    kGraphicText = 6,
-    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup tells
-    kGraphicInsert = 0x11,
-};
-
-enum : uint32_t {
-    kFlagNoPenBrush = 0x40, // a vertex graphic that gets no Pen and Brush pages
-    kFlagNoParent = 0x100,  // pParent does not apply
-    kFlagPreview = 0x10000, // seen last by a walk over preview graphics
-};
 
 #pragma pack(push, 4)
 
@@ -61,7 +50,6 @@ struct AppStruct {
     HPALETTE hPalette;
 };
 
-// Bit 0 of wFlags: the segment to this vertex is drawn; a new vertex has it set.
 struct VertexStruct {
     uint8_t host0[4];
     uint16_t wFlags;

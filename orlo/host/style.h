@@ -1,4 +1,4 @@
-// Line styles and brush styles: entries of the tables "_LineStyles_" and "_BrushStyles_".
+// Line styles and brush styles: entries of the tables kTableLineStyles and kTableBrushStyles.
 #pragma once
 
 #include "orlo/host/api.h"

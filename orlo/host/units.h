@@ -14,8 +14,8 @@ DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved,
                                  int exponentForm, int trim);
 
-// A length as text and back. number: the variable of the units table that says what the number is: 0x5033 a length in
-// drawing units; 0x5034, kUnitTextSize, kUnitPenWidth a length on paper, in millimetres whatever unit the text is in.
+// A length as text and back. number: the variable of the units table that says what the number is: kUnitDrawing a length in
+// drawing units; kUnitMillimetre, kUnitTextSize, kUnitPenWidth a length on paper, in millimetres whatever unit the text is in.
 // display: the variable that names the unit of the text, and of a text without a unit; 0 is the number's own variable.
 // A text that is not wholly a length gives 0 and leaves the value alone. reserved is 0, suffix is 1: the unit's name
 // follows the number.
@@ -32,9 +32,3 @@ DRAWCORE_API int UnitsMakeScaleString(TableStruct* units, double scale, char* bu
 DRAWCORE_API int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value);
 // How the drawing writes angles: 0 degrees, 1 degrees, minutes and seconds, 2 grads, 3 radians, 4 bearings.
 DRAWCORE_API uint16_t UnitsGetAngularSystem(TableStruct* units);
-
-// Variables of a units table that hold the name of a unit.
-constexpr uint16_t kUnitTextSize = 0x5035;
-constexpr uint16_t kUnitPenWidth = 0x5036;
-// Variable of a units table: the face of the current font.
-constexpr uint16_t kUnitFontName = 0x50BC;

@@ -39,11 +39,7 @@ enum : int {
     kStyleKindText = 118,
 };
 
-constexpr unsigned int kNoStyle = 0;
 constexpr unsigned int kSolid = 1;
-constexpr unsigned int kStyleMixed = 0xFFFF;
-constexpr unsigned long kColorOfPen = 0xFFFFFFFB;
-constexpr unsigned int kPenByBlock = 65533;
 
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
@@ -73,14 +69,14 @@ double WidthOf(GraphicStruct* graphic) {
 }
 
 bool IsMixedStyle(unsigned int style) {
-    return style == kStyleMixed || style == kIndeterminateId;
+    return style == kBrushStyleMixed || style == kIndeterminateId;
 }
 
 } // namespace
 
 CBrushPage::CBrushPage()
-    : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable("_BrushStyles_")),
-      m_dwColor(kColorOfPen), m_dAngle(0.0), m_dScale(1.0), m_nStyle(kNoStyle), m_szStyleName(),
+    : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable(kTableBrushStyles)),
+      m_dwColor(kColorOfPen), m_dAngle(0.0), m_dScale(1.0), m_nStyle(kBrushStyleNone), m_szStyleName(),
       m_nHatchCross(0), m_nLastCross(0), m_nDrawMode(0) {}
 
 CBrushPage::~CBrushPage() = default;
@@ -123,7 +119,7 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
 CString CBrushPage::StyleName(unsigned int style) const {
     if (IsMixedStyle(style)) return kMixedText;
     char name[kStyleNameSize] = "";
-    if (style == kNoStyle)
+    if (style == kBrushStyleNone)
         ::DrawCoreLoadString(kStringNoBrush, name, sizeof name);
     else
         ::TableEntryGetName(m_pBrushStyles, static_cast<uint16_t>(style), name, sizeof name);
@@ -193,7 +189,7 @@ void CBrushPage::SetPreviewProperties(int bAll) {
     }
 
     // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
-    ::GraphicSetPenStyle(m_pPreviewGraphic, kPenByBlock);
+    ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);
     ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }
@@ -204,7 +200,7 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     unsigned int style = m_nStyle;
     if (DDX_ConvertStyle(0, pDX, style) && !IsMixedStyle(style)) {
         const bool hatched =
-            style != kNoStyle && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
+            style != kBrushStyleNone && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
         if (hatched) {
             double scale = HatchScale(m_pBrushStyles, style, WidthOf(m_pPreviewGraphic), kLinesAcrossPreview);
             SetPropText("BrushScale", scale, 1);
@@ -212,8 +208,8 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
         SetPropText("BrushStyle", style, 1);
     }
     const bool chosen = ::SendDlgItemMessageA(m_hWnd, kStyleList, LB_GETCURSEL, 0, 0) != LB_ERR;
-    if (style == kNoStyle || !chosen) {
-        EnableHatchControls(kNoStyle, 0);
+    if (style == kBrushStyleNone || !chosen) {
+        EnableHatchControls(kBrushStyleNone, 0);
         ::SetDlgItemTextA(m_hWnd, kStyleKindText, "");
         return;
     }
@@ -225,14 +221,15 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
 }
 
 void CBrushPage::EnableHatchControls(unsigned int style, unsigned short flags) {
-    const bool vector = style != kNoStyle && style != kSolid && (flags & kBrushVector) != 0;
-    const bool colored = style == kSolid || vector || (style != kNoStyle && (flags & kBrushTakesColor) != 0);
+    const bool vector = style != kBrushStyleNone && style != kSolid && (flags & kBrushVector) != 0;
+    const bool colored =
+        style == kSolid || vector || (style != kBrushStyleNone && (flags & kBrushTakesColor) != 0);
     const auto enable = [this](int nID, bool on) { ::EnableWindow(::GetDlgItem(m_hWnd, nID), on); };
     enable(kColorCombo, colored);
     enable(kScaleEdit, vector);
     enable(kAngleEdit, vector);
     enable(kAngleUpDown, vector);
     enable(kCrossBox, vector);
-    enable(kWindingButton, style != kNoStyle);
-    enable(kAlternateButton, style != kNoStyle);
+    enable(kWindingButton, style != kBrushStyleNone);
+    enable(kAlternateButton, style != kBrushStyleNone);
 }

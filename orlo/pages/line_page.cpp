@@ -28,12 +28,6 @@ enum : int {
     kWidthCombo = 103,
 };
 
-constexpr unsigned int kNoStyle = 0;
-constexpr unsigned int kStyleMixed = 0xFFFF;
-constexpr unsigned int kStyleByLayer = 65534;
-constexpr unsigned int kStyleByBlock = 65533;
-constexpr unsigned long kColorByLayer = 0xFFFFFFFD;
-
 constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
@@ -45,8 +39,8 @@ ON_CBN_SELCHANGE(kScaleSystemCombo, &ThisClass::OnScaleSystemChange)
 END_MESSAGE_MAP()
 
 CLinePage::CLinePage()
-    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable("_LineStyles_")),
-      m_dwColor(kColorByLayer), m_dWidth(0.0), m_dScale(1.0), m_nStyle(kStyleByLayer),
+    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable(kTableLineStyles)),
+      m_dwColor(kColorByLayer), m_dWidth(0.0), m_dScale(1.0), m_nStyle(kLineStyleByLayer),
       m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1), m_nLastAlignment(0) {}
 
 CLinePage::~CLinePage() = default;
@@ -96,15 +90,15 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 CString CLinePage::StyleName(unsigned int style) const {
     char name[sizeof m_szStyleName] = "";
     switch (style) {
-    case kNoStyle:
+    case kLineStyleNone:
         return "Undefined";
-    case kStyleMixed:
+    case kLineStyleMixed:
     case kIndeterminateId:
         return kMixedText;
-    case kStyleByLayer:
+    case kLineStyleByLayer:
         ::DrawCoreLoadString(kStringByLayer, name, sizeof name);
         break;
-    case kStyleByBlock:
+    case kLineStyleByBlock:
         ::DrawCoreLoadString(kStringByBlock, name, sizeof name);
         break;
     default:

@@ -8,12 +8,6 @@
 
 #include "orlo/host/records.h"
 
-enum ScaleSystem : unsigned char {
-    kScaleWorld = 0,
-    kScalePaper = 2,
-    kScaleMixed = 0xFF, // behaves as paper for width texts
-};
-
 // Non-zero on success; on failure *value, or the buffer, is not to be used.
 int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char* text, double* value);
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size);
@@ -25,7 +19,8 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
 // Loading, adds the configured widths to the combo.
 void FillPenWidths(CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem);
 // Adds one of them, as PenWidthToText writes it. What can't be read is passed over.
-void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem);
+void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing,
+                     unsigned char scaleSystem);
 
 // Exchanges the combo of scale systems: item 0 is world, item 1 paper, no item mixed. Always 1.
 int DDX_CBScaleSystem(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);

@@ -28,7 +28,6 @@ enum : int {
 
 constexpr int kEffectBoxes[] = {103, 104, 105, 106, 107};
 
-constexpr unsigned long kColorByLayer = 0xFFFFFFFD;
 constexpr double kUsualSize = 8.0;
 constexpr int kFaceTextSize = 128;
 constexpr int kSizeTextSize = 256;

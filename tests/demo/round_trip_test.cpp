@@ -48,7 +48,7 @@ TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
     EXPECT_EQ("graphic 1, PenWidth: 0 is now 0.25", width[0]);
     document().Undo();
 
-    ::TableEntryAdd(::DrawingGetTable(document().Drawing(), "_Layers_"), "left over", nullptr);
+    ::TableEntryAdd(::DrawingGetTable(document().Drawing(), kTableLayers), "left over", nullptr);
     EXPECT_FALSE(before.DifferencesTo(DrawingState(document().Drawing()), 1).empty());
 }
 

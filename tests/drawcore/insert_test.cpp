@@ -24,7 +24,7 @@ protected:
             SetWhole(square, "PenColor", color);
             GraphicAdd(content, square);
         }
-        return BlocksAddBlock(drawing.Table("_Blocks_"), name, content);
+        return BlocksAddBlock(drawing.Table(kTableBlocks), name, content);
     }
     GraphicStruct* Insert(uint16_t block, double x, double y, double sx, double sy, double angle = 0) {
         GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
@@ -33,7 +33,7 @@ protected:
         MatrixStruct* turned = MatrixRotateZ(scaled, angle, 0);
         VertexSet(vertex, x, y, 0);
         MatrixStruct* placed = MatrixOffset(turned, vertex);
-        EXPECT_TRUE(InsertSetData(insert, drawing.Table("_Blocks_"), block, placed));
+        EXPECT_TRUE(InsertSetData(insert, drawing.Table(kTableBlocks), block, placed));
         for (MatrixStruct* matrix : {scaled, turned, placed})
             MatrixDispose(&matrix);
         VertexDispose(&vertex);
@@ -66,16 +66,16 @@ TEST_F(Inserts, ScaleTurnAndMirror) {
 }
 
 TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
-    constexpr uint32_t kByLayer = 0xFFFFFFFD, kByBlock = 0xFFFFFFFC;
-    const uint16_t green = TableEntryAdd(drawing.Table("_Layers_"), "Green", nullptr);
+    const uint16_t green = TableEntryAdd(drawing.Table(kTableLayers), "Green", nullptr);
     LayerSet(drawing, green, kGreen, 0, 0);
-    const uint16_t byBlock = FlagBlock("BYBLOCK", kByBlock), byLayer = FlagBlock("BYLAYER", kByLayer);
+    const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock),
+                   byLayer = FlagBlock("BYLAYER", kColorByLayer);
     // A block around the first: its own parts by block, too.
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);
-    SetWhole(inner, "PenColor", kByBlock);
+    SetWhole(inner, "PenColor", kColorByBlock);
     GraphicAdd(outer, inner);
-    const uint16_t nested = BlocksAddBlock(drawing.Table("_Blocks_"), "NESTED", outer);
+    const uint16_t nested = BlocksAddBlock(drawing.Table(kTableBlocks), "NESTED", outer);
     int x = 0;
     for (const uint16_t block : {byBlock, nested, byLayer}) {
         GraphicStruct* insert = drawing.Add(Insert(block, x += 20, 50, 10, 10));
@@ -93,11 +93,11 @@ TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
 }
 
 TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
-    const uint16_t own = TableEntryAdd(drawing.Table("_Layers_"), "Own", nullptr);
-    const uint16_t hidden = TableEntryAdd(drawing.Table("_Layers_"), "Hidden", nullptr);
+    const uint16_t own = TableEntryAdd(drawing.Table(kTableLayers), "Own", nullptr);
+    const uint16_t hidden = TableEntryAdd(drawing.Table(kTableLayers), "Hidden", nullptr);
     const uint16_t flag = FlagBlock("FLAG");
     uint32_t position;
-    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table("_Blocks_"), flag), &position, 1, 0), "Layer", own);
+    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table(kTableBlocks), flag), &position, 1, 0), "Layer", own);
     GraphicStruct* insert = drawing.Add(Insert(flag, 10, 10, 20, 20));
     SetWhole(insert, "Layer", hidden);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
@@ -112,7 +112,7 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
 
 TEST_F(Inserts, OfABlockThatIsGoneShowNothing) {
     const uint16_t flag = FlagBlock("FLAG");
-    TableStruct* blocks = drawing.Table("_Blocks_");
+    TableStruct* blocks = drawing.Table(kTableBlocks);
     drawing.Add(Insert(flag, 10, 10, 20, 20));
     EXPECT_EQ(BlocksFindBlock(blocks, "flag"), flag);
     BlockDispose(blocks, flag);
@@ -129,11 +129,11 @@ TEST_F(Inserts, FollowTheirBlock) {
     const uint16_t flag = FlagBlock("FLAG");
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicAdd(outer, Insert(flag, 1, 0, 1, 1));
-    const uint16_t nested = BlocksAddBlock(drawing.Table("_Blocks_"), "NESTED", outer);
+    const uint16_t nested = BlocksAddBlock(drawing.Table(kTableBlocks), "NESTED", outer);
     drawing.Add(Insert(nested, 10, 10, 20, 20));
     const auto right = [&] { return ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)); };
     EXPECT_NEAR(right(), 60, 1e-9);
-    GraphicAdd(BlockGetGraphic(drawing.Table("_Blocks_"), flag), MakeSquare(1, 0, 2));
+    GraphicAdd(BlockGetGraphic(drawing.Table(kTableBlocks), flag), MakeSquare(1, 0, 2));
     EXPECT_NEAR(right(), 90, 1e-9) << "through the block between them";
     int cookie = 0;
     GraphicStruct* insert = GraphicFirst(outer, &cookie, 1, 0xFFFFFFFF);
@@ -141,7 +141,7 @@ TEST_F(Inserts, FollowTheirBlock) {
     end = GraphicVertexNext(insert, &cookie, 0, 0xFFFF); // of the x axis
     VertexSet(end, 1.5, end->y, end->z);
     EXPECT_NEAR(right(), 60, 1e-9) << "half as wide";
-    BlockDispose(drawing.Table("_Blocks_"), flag);
+    BlockDispose(drawing.Table(kTableBlocks), flag);
     EXPECT_EQ(right(), 0) << "empty";
 }
 
@@ -176,7 +176,7 @@ TEST_F(Inserts, TakeTheirMembersAlong) {
 TEST_F(Inserts, OfThemselvesEnd) {
     GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicAdd(content, MakeSquare(0, 0, 1));
-    const uint16_t self = BlocksAddBlock(drawing.Table("_Blocks_"), "SELF", content);
+    const uint16_t self = BlocksAddBlock(drawing.Table(kTableBlocks), "SELF", content);
     GraphicAdd(content, Insert(self, 1, 0, 0.9, 0.9));
     drawing.Add(Insert(self, 10, 10, 20, 20));
     Draw();
@@ -190,7 +190,7 @@ TEST_F(Inserts, ThatMultiplyWithoutEndComeToAnEnd) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
         GraphicAdd(content, Insert(block, 0, 0, 1, 1));
         GraphicAdd(content, Insert(block, 0, 0, 1, 1));
-        block = BlocksAddBlock(drawing.Table("_Blocks_"), std::to_string(level).c_str(), content);
+        block = BlocksAddBlock(drawing.Table(kTableBlocks), std::to_string(level).c_str(), content);
     }
     GraphicStruct* bomb = drawing.Add(Insert(block, 10, 10, 20, 20));
     Draw();
@@ -203,7 +203,7 @@ TEST_F(Inserts, InsideEachOtherBeyondAllDepthShowNothingThere) {
     for (int level = 0; level < 20000; ++level) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
         GraphicAdd(content, Insert(block, 0, 0, 1, 1));
-        block = BlocksAddBlock(drawing.Table("_Blocks_"), std::to_string(level).c_str(), content);
+        block = BlocksAddBlock(drawing.Table(kTableBlocks), std::to_string(level).c_str(), content);
     }
     drawing.Add(Insert(block, 10, 10, 20, 20));
     Draw();

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0), kBlue = RGB(0, 0, 255), kBlack = 0, kWhite = RGB(255, 255, 255);
-constexpr uint32_t kByLayer = 0xFFFFFFFD, kByBlock = 0xFFFFFFFC, kPenColor = 0xFFFFFFFB;
 
 class Paint : public testing::Test {
 protected:
@@ -59,16 +58,16 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
 }
 
 TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
-    const uint16_t layer = TableEntryAdd(drawing.Table("_Layers_"), "Blue", nullptr);
+    const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Blue", nullptr);
     LayerSet(drawing, layer, kBlue, 0, 0);
     const struct {
         uint32_t color;
         uint16_t layer;
         COLORREF seen;
     } kRows[] = {{kRed, layer, kRed},
-                 {kByLayer, layer, kBlue},
-                 {kByLayer, 1, kBlack},
-                 {kByBlock, layer, kBlack},
+                 {kColorByLayer, layer, kBlue},
+                 {kColorByLayer, 1, kBlack},
+                 {kColorByBlock, layer, kBlack},
                  {kWhite, 1, kBlack}};
     int y = 10;
     for (const auto& row : kRows) {
@@ -94,7 +93,7 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
 TEST_F(Paint, LayersHide) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         const uint16_t layer =
-            TableEntryAdd(drawing.Table("_Layers_"), std::to_string(flag).c_str(), nullptr);
+            TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         LayerSet(drawing, layer, kBlue, flag, 0);
         SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), "Layer", layer);
     }
@@ -110,7 +109,7 @@ class Dashes : public Paint {
 protected:
     uint16_t Style(std::initializer_list<double> items) {
         const std::string name = "style" + std::to_string(++count);
-        return LineStyleAdd(drawing.Table("_LineStyles_"), name.c_str(), "", items.begin(),
+        return LineStyleAdd(drawing.Table(kTableLineStyles), name.c_str(), "", items.begin(),
                             static_cast<int>(items.size()));
     }
     // Lengths of the runs along row y from x = 10, covered first.
@@ -173,7 +172,7 @@ TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
 }
 
 TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
-    const uint16_t layer = TableEntryAdd(drawing.Table("_Layers_"), "Dashed", nullptr);
+    const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Dashed", nullptr);
     LayerSet(drawing, layer, kBlue, 0, Style({10, -10}));
     GraphicStruct* line = Line(10, 50, 90, 50);
     SetWhole(line, "Layer", layer);
@@ -226,7 +225,7 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     GraphicStruct* shape =
         MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}});
     SetWhole(shape, "BrushStyle", 1);
-    SetWhole(shape, "BrushColor", kPenColor);
+    SetWhole(shape, "BrushColor", kColorOfPen);
     SetWhole(shape, "PenColor", kRed);
     shape->dwOneOutline = 1;
     picture.Draw(shape);
@@ -250,7 +249,7 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 90, 90)) << "nothing outside";
         return std::pair(picture.Covered(55, 10, 55, 90), picture.Covered(10, 55, 90, 55));
     };
-    const uint16_t horizontal = TableEntryGetIDFirst(drawing.Table("_BrushStyles_"), nullptr, "Horizontal");
+    const uint16_t horizontal = TableEntryGetIDFirst(drawing.Table(kTableBrushStyles), nullptr, "Horizontal");
     EXPECT_NEAR(rows(horizontal, 0, 0).first, 8, 1);
     EXPECT_EQ(rows(horizontal, 0, 0).second, 0);
     EXPECT_NEAR(rows(horizontal, 1.5707963267948966, 0).second, 8, 1) << "turned";
@@ -262,7 +261,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
     GraphicStruct* square = MakeSquare(10, 10, 79);
     SetWhole(square, "PenStyle", 0);
     SetWhole(square, "BrushColor", kBlue);
-    TableStruct* styles = drawing.Table("_BrushStyles_");
+    TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto draw = [&](const char* style) {
         SetWhole(square, "BrushStyle", TableEntryGetIDFirst(styles, nullptr, style));
         ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
@@ -331,7 +330,7 @@ TEST_F(Paint, SurvivesWhatIsFarAway) {
 
 TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
     SetWhole(Line(0, 0, 100, 100), "PenStyle",
-             LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", std::vector<double>{5, -5}.data(), 2));
+             LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
     SetWhole(square, "BrushStyle", 1);
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
@@ -421,7 +420,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     SetReal(sample, "PenWidth", 0);
     SetWhole(sample, "PenAlignment", 0);
     const double dashes[] = {3, -3};
-    SetWhole(sample, "PenStyle", LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", dashes, 2));
+    SetWhole(sample, "PenStyle", LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(sample, 1);
     int changes = 0;

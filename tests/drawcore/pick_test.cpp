@@ -52,7 +52,7 @@ TEST_F(Pick, FindsWhatIsNearAndDrawnLast) {
 }
 
 TEST_F(Pick, FitsWhatIsSeen) {
-    TableStruct* layers = drawing.Table("_Layers_");
+    TableStruct* layers = drawing.Table(kTableLayers);
     const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
     GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
@@ -92,11 +92,11 @@ TEST_F(Pick, FindsTextsByTheirBoxAndInsertionsAsAWhole) {
     drawing.Add(text);
     EXPECT_EQ(At(40, 85), text);
     EXPECT_EQ(At(40, 60), nullptr);
-    const uint16_t block = BlocksAddBlock(drawing.Table("_Blocks_"), "B", MakeSquare(0, 0, 20));
+    const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "B", MakeSquare(0, 0, 20));
     GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
     VertexSet(vertex, 30, 30, 0);
     MatrixStruct* placed = MatrixOffset(nullptr, vertex);
-    InsertSetData(insert, drawing.Table("_Blocks_"), block, placed);
+    InsertSetData(insert, drawing.Table(kTableBlocks), block, placed);
     MatrixDispose(&placed);
     VertexDispose(&vertex);
     drawing.Add(insert);
@@ -108,7 +108,7 @@ TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
         const uint16_t layer =
-            TableEntryAdd(drawing.Table("_Layers_"), std::to_string(flag).c_str(), nullptr);
+            TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         SetWhole(line, "Layer", layer);
         EXPECT_EQ(At(50, 50), line);
         LayerSet(drawing, layer, 0, flag, 0);
@@ -155,7 +155,7 @@ TEST_F(Pick, FollowsZoomAndPan) {
 TEST_F(Pick, HighlightsInOneColour) {
     GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     const double dashes[] = {5, -5};
-    SetWhole(line, "PenStyle", LineStyleAdd(drawing.Table("_LineStyles_"), "D", "", dashes, 2));
+    SetWhole(line, "PenStyle", LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     GraphicStruct* selection = SelectionNew();
     SelectionAdd(selection, line);
     GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));

@@ -175,7 +175,7 @@ TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
     OwnDrawing drawing;
     GraphicAttach(graphic, drawing);
     EXPECT_FALSE(SetWhole(graphic, "Layer", 2));
-    const uint16_t id = TableEntryAdd(drawing.Table("_Layers_"), "Two", nullptr);
+    const uint16_t id = TableEntryAdd(drawing.Table(kTableLayers), "Two", nullptr);
     EXPECT_TRUE(SetWhole(graphic, "Layer", id));
     GraphicAttach(graphic, nullptr);
 }

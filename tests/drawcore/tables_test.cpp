@@ -102,18 +102,19 @@ TEST_F(Tables, KeepTypedVariables) {
 
 TEST_F(Tables, TakeDataOfTheirKind) {
     const COLORREF teal = RGB(0, 128, 128);
-    TableStruct* colors = drawing.Table("_Colors_");
+    TableStruct* colors = drawing.Table(kTableColors);
     const uint16_t id = TableEntryAdd(colors, "Teal", const_cast<COLORREF*>(&teal));
     EXPECT_NE(TableEntryGetData(colors, id), &teal) << "copied";
     EXPECT_EQ(*static_cast<COLORREF*>(TableEntryGetData(colors, id)), teal);
     EXPECT_EQ(TableEntryAdd(colors, "Nothing", nullptr), 0);
 
-    const uint16_t style = TableEntryAdd(drawing.Table("_LineStyles_"), "Wire", const_cast<char*>("a wire"));
-    EXPECT_STREQ(static_cast<char*>(TableEntryGetData(drawing.Table("_LineStyles_"), style)), "a wire");
+    const uint16_t style =
+        TableEntryAdd(drawing.Table(kTableLineStyles), "Wire", const_cast<char*>("a wire"));
+    EXPECT_STREQ(static_cast<char*>(TableEntryGetData(drawing.Table(kTableLineStyles), style)), "a wire");
 
     Balance balance;
     GraphicStruct* content = MakeSquare(0, 0, 1);
-    TableStruct* blocks = drawing.Table("_Blocks_");
+    TableStruct* blocks = drawing.Table(kTableBlocks);
     const uint16_t block = TableEntryAdd(blocks, "Box", content);
     EXPECT_EQ(TableEntryGetData(blocks, block), content);
     GraphicStruct* second = MakeSquare(0, 0, 1);
@@ -124,7 +125,7 @@ TEST_F(Tables, TakeDataOfTheirKind) {
 }
 
 TEST_F(Tables, HoldTheNumberedColoursByName) {
-    TableStruct* colors = drawing.Table("_Colors_");
+    TableStruct* colors = drawing.Table(kTableColors);
     const struct {
         const char* name;
         COLORREF color;
@@ -142,7 +143,7 @@ TEST_F(Tables, HoldTheNumberedColoursByName) {
 }
 
 TEST_F(Tables, GiveAtMostEightItemsOfAPattern) {
-    TableStruct* styles = drawing.Table("_LineStyles_");
+    TableStruct* styles = drawing.Table(kTableLineStyles);
     const double items[] = {1, -2, 3, -4, 5, -6, 7, -8, 9, -10};
     const uint16_t id = LineStyleAdd(styles, "Long", "", items, 10);
     double pattern[9] = {0, 0, 0, 0, 0, 0, 0, 0, 42};
@@ -152,13 +153,13 @@ TEST_F(Tables, GiveAtMostEightItemsOfAPattern) {
     EXPECT_EQ(pattern[8], 42);
     EXPECT_EQ(LineStyleGetDLItems(styles, 1), 0) << "the solid style";
     EXPECT_FALSE(LineStyleGetPattern(styles, 999, pattern));
-    EXPECT_EQ(LineStyleGetDLItems(drawing.Table("_Colors_"), 1), 0) << "no table of line styles";
+    EXPECT_EQ(LineStyleGetDLItems(drawing.Table(kTableColors), 1), 0) << "no table of line styles";
     const double bad[] = {1, -HUGE_VAL};
     EXPECT_EQ(LineStyleAdd(styles, "Bad", "", bad, 2), 0);
 }
 
 TEST_F(Tables, HoldLayers) {
-    const uint16_t id = TableEntryAdd(drawing.Table("_Layers_"), "Walls", nullptr);
+    const uint16_t id = TableEntryAdd(drawing.Table(kTableLayers), "Walls", nullptr);
     EXPECT_TRUE(LayerSet(drawing, id, RGB(9, 8, 7), kLayerLocked, 1));
     EXPECT_EQ(LayerGetColor(drawing, id), static_cast<COLORREF>(RGB(9, 8, 7)));
     EXPECT_TRUE(LayerGetVisible(drawing, id));
@@ -175,7 +176,7 @@ TEST_F(Tables, HoldLayers) {
 
 // Every call on a table or drawing that is gone has an answer.
 TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
-    TableStruct* styles = drawing.Table("_BrushStyles_");
+    TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto id = [&](const char* name) { return TableEntryGetIDFirst(styles, nullptr, name); };
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Solid")), kBrushVector);
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Cross")), kBrushVector | kBrushHasLines);
@@ -211,12 +212,12 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
 }
 
 TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
-    TableStruct* styles = drawing.Table("_LineStyles_");
-    TableStruct* units = drawing.Table("_Units_");
+    TableStruct* styles = drawing.Table(kTableLineStyles);
+    TableStruct* units = drawing.Table(kTableUnits);
     DrawingStruct* gone = drawing;
     TableSetIntVar(styles, 1, 7);
     ASSERT_TRUE(DrawingDeleteTable(drawing, styles));
-    EXPECT_EQ(drawing.Table("_LineStyles_"), nullptr);
+    EXPECT_EQ(drawing.Table(kTableLineStyles), nullptr);
     drawing.Close();
 
     char buffer[16] = "kept";
@@ -236,7 +237,7 @@ TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
         EXPECT_FALSE(UnitsNumericToTextEx(held, 0, kUnitPenWidth, 1, buffer, sizeof buffer, 0, 1));
         EXPECT_EQ(UnitsGetScaleValue(held, "1 : 2"), 0.0);
     }
-    EXPECT_EQ(DrawingGetTable(gone, "_Units_"), nullptr);
+    EXPECT_EQ(DrawingGetTable(gone, kTableUnits), nullptr);
     EXPECT_EQ(DrawingGetRoot(gone), nullptr);
     EXPECT_FALSE(DrawingStdTextToNumeric(gone, "1", &number, 0));
     EXPECT_FALSE(LayerGetVisible(gone, 1));

@@ -109,7 +109,7 @@ int CALLBACK Found(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) {
 TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
     char current[64] = "";
-    EXPECT_TRUE(TableGetStringVar(drawing.Table("_Units_"), kUnitFontName, current, sizeof current));
+    EXPECT_TRUE(TableGetStringVar(drawing.Table(kTableUnits), kUnitFontName, current, sizeof current));
     EXPECT_EQ(GetText(text, "TextFont"), current);
     const HDC dc = ::GetDC(nullptr);
     EXPECT_EQ(::EnumFontFamiliesA(dc, current, Found, 0), 77) << current;
@@ -157,14 +157,14 @@ TEST_F(Texts, AreMirroredWithTheirInsertion) {
     // An L: its stem is left, its foot points right; mirrored the other way round.
     GraphicStruct* text = Text("L", 0, 0, 1);
     GraphicDelete(drawing.Root(), text);
-    const uint16_t block = BlocksAddBlock(drawing.Table("_Blocks_"), "L", text);
+    const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "L", text);
     for (const double side : {40.0, -40.0}) {
         GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
         VertexStruct* vertex = VertexNewEx(side, 40, 1);
         MatrixStruct* scaled = MatrixScale(nullptr, vertex, 0);
         VertexSet(vertex, 50, 30, 0);
         MatrixStruct* placed = MatrixOffset(scaled, vertex);
-        InsertSetData(insert, drawing.Table("_Blocks_"), block, placed);
+        InsertSetData(insert, drawing.Table(kTableBlocks), block, placed);
         MatrixDispose(&scaled);
         MatrixDispose(&placed);
         VertexDispose(&vertex);

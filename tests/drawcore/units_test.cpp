@@ -134,7 +134,7 @@ class Lengths : public testing::Test {
 protected:
     Lengths() { TableSetStringVar(units, kUnitDrawing, "in"); }
     OwnDrawing drawing;
-    TableStruct* units = drawing.Table("_Units_");
+    TableStruct* units = drawing.Table(kTableUnits);
 };
 
 TEST_F(Lengths, AreReadWithAllTheirUnits) {

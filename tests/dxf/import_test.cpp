@@ -7,8 +7,6 @@
 
 #include <windows.h>
 
-#include <oleauto.h>
-
 #include "drawcore/include/drawcore/census.h"
 #include "drawcore/include/drawcore/drawing.h"
 #include "drawcore/include/drawcore/dxf.h"
@@ -19,6 +17,8 @@
 #include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "orlo/host/host.h"
+#include "orlo/host/property.h"
+#include "orlo/host/walk.h"
 #include "tests/dxf/drawing_text.h"
 #include "tests/dxf/extents_rows.h"
 #include "tests/dxf/test_files.h"
@@ -76,10 +76,8 @@ OwnedDrawing OpenText(const std::string& bytes) {
 
 std::vector<GraphicStruct*> Members(GraphicStruct* set) {
     std::vector<GraphicStruct*> members;
-    uint32_t position = 0;
-    for (GraphicStruct* at = GraphicFirst(set, &position, 1, 0xFFFFFFFF); at;
-         at = GraphicNext(set, &position, 1, 0xFFFFFFFF))
-        members.push_back(at);
+    for (GraphicStruct* member : orlo::host::Members(set))
+        members.push_back(member);
     return members;
 }
 
@@ -89,13 +87,9 @@ std::vector<GraphicStruct*> Members(const OwnedDrawing& drawing) {
 
 // NaN if the graphic has no such property.
 double Number(GraphicStruct* graphic, const char* name) {
-    const PropertyTable* table = GraphicGetVtbl(graphic);
-    int32_t number = 0;
-    double value = 0;
-    int32_t whole = 0;
-    if (!table->PropLookup(graphic, &name, 1, 0, &number)) return std::nan("");
-    if (table->PropGet(graphic, number, VT_R8, &value)) return value;
-    return table->PropGet(graphic, number, VT_I4, &whole) ? static_cast<uint32_t>(whole) : std::nan("");
+    if (const auto value = orlo::host::ReadProperty<double>(graphic, name)) return *value;
+    const auto whole = orlo::host::ReadProperty<uint32_t>(graphic, name);
+    return whole ? *whole : std::nan("");
 }
 
 std::string NameOf(DrawingStruct* drawing, const char* table, double id) {
@@ -164,25 +158,25 @@ TEST(Import, TablesAreThoseOfTheFile) {
     const OwnedDrawing drawing = OpenText(
         Drawing2007("0|LINE|8|mentioned", "0|BLOCK|2|Door|0|ENDBLK|0|BLOCK|2|*Model_Space|0|ENDBLK"));
     DrawingStruct* const d = drawing.get();
-    TableStruct* const layers = DrawingGetTable(d, "_Layers_");
+    TableStruct* const layers = DrawingGetTable(d, kTableLayers);
     const uint16_t walls = TableEntryGetIDFirst(layers, nullptr, "walls");
     EXPECT_EQ(LayerGetColor(d, walls), RGB(255, 0, 0));
     EXPECT_EQ(LayerGetFlags(d, walls), kLayerOff | kLayerFrozen | kLayerLocked);
-    EXPECT_EQ(NameOf(d, "_LineStyles_", LayerGetLineStyle(d, walls)), "Dashed");
+    EXPECT_EQ(NameOf(d, kTableLineStyles, LayerGetLineStyle(d, walls)), "Dashed");
     const uint16_t axes =
         TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not of the code page
     EXPECT_EQ(LayerGetColor(d, axes), RGB(0, 0, 255));
     EXPECT_NE(TableEntryGetIDFirst(layers, nullptr, "mentioned"), 0);
-    TableStruct* const styles = DrawingGetTable(d, "_LineStyles_");
+    TableStruct* const styles = DrawingGetTable(d, kTableLineStyles);
     EXPECT_EQ(LineStyleGetDLItems(styles, TableEntryGetIDFirst(styles, nullptr, "DASHED")), 2);
     EXPECT_EQ(LineStyleGetDLItems(styles, TableEntryGetIDFirst(styles, nullptr, "Zero")),
               0); // no length: solid
     EXPECT_EQ(TableEntryGetIDFirst(styles, nullptr, "ByLayer"), 0);
-    TableStruct* const blocks = DrawingGetTable(d, "_Blocks_");
+    TableStruct* const blocks = DrawingGetTable(d, kTableBlocks);
     EXPECT_NE(TableEntryGetIDFirst(blocks, nullptr, "Door"), 0);
     EXPECT_EQ(TableEntryGetIDFirst(blocks, nullptr, "*Model_Space"), 0);
     char unit[16] = "";
-    TableGetStringVar(DrawingGetTable(d, "_Units_"), kUnitPenWidth, unit, sizeof unit);
+    TableGetStringVar(DrawingGetTable(d, kTableUnits), kUnitPenWidth, unit, sizeof unit);
     EXPECT_STREQ(unit, "in");
 }
 
@@ -319,11 +313,11 @@ TEST(Import, HatchesOfOnePatternShareItsStyle) {
         hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 3u);
-    EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[0], "BrushStyle")), "Brick");
+    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[0], "BrushStyle")), "Brick");
     EXPECT_EQ(Number(members[1], "BrushStyle"), Number(members[0], "BrushStyle"));
     EXPECT_EQ(Number(members[1], "BrushScale"), 10);
     EXPECT_NEAR(Number(members[1], "BrushAngle"), drawcore::kPi / 2, 1e-12);
-    EXPECT_EQ(NameOf(drawing.get(), "_BrushStyles_", Number(members[2], "BrushStyle")), "Brick 2");
+    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[2], "BrushStyle")), "Brick 2");
 }
 
 TEST(Import, AttributesBelongToTheirInsertion) {

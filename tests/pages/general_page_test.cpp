@@ -17,7 +17,6 @@
 namespace {
 
 enum : int { kInfo = 101, kNew = 102, kDelete = 103, kStyleGroup = 104, kLayer = 32008, kStyle = 32015 };
-constexpr unsigned long kWithStylePart = 0xFFFFFFFB;
 
 bool IsEnabled(SheetDriver& user, int id) {
     return ::IsWindowEnabled(user.Control(id)) != 0;

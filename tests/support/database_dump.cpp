@@ -5,21 +5,18 @@
 #include <algorithm>
 #include <cstdio>
 
-#include <windows.h>
-
-#include <oaidl.h>
-
 #include "drawcore/drawing.h"
+#include "drawcore/property_schema.h"
 #include "orlo/host/host.h"
+#include "orlo/host/property.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
-constexpr const char* kProperties[] = {
-    "BrushAngle", "BrushColor",   "BrushDrawMode", "BrushScale", "BrushStyle", "HatchCross", "Info",
-    "Layer",      "PenAlignment", "PenColor",      "PenScale",   "PenStyle",   "PenWidth",   "ScaleSystem",
-    "StyleTree",  "TextFont",     "TextFormat",    "TextSize",   "TextStyle"};
-constexpr const char* kTables[] = {"_Layers_", "_LineStyles_", "_BrushStyles_",
-                                   "_Colors_", "_Blocks_",     "_Units_"};
+using namespace orlo::host;
+
+constexpr const char* kTables[] = {kTableLayers, kTableLineStyles, kTableBrushStyles,
+                                   kTableColors, kTableBlocks,     kTableUnits};
 
 std::string Exactly(double value) {
     char text[40];
@@ -27,41 +24,28 @@ std::string Exactly(double value) {
     return text;
 }
 
-std::string PropertyText(GraphicStruct* graphic, const char* name) {
-    const PropertyTable* table = ::GraphicGetVtbl(graphic);
-    int32_t number;
-    if (table == nullptr || !table->PropLookup(graphic, &name, 1, 0, &number)) return "absent";
-    uint32_t whole;
-    if (table->PropGet(graphic, number, VT_UI4, &whole)) return std::to_string(whole);
-    double real;
-    if (table->PropGet(graphic, number, VT_R8, &real)) return Exactly(real);
-    char* text = nullptr;
-    if (!table->PropGet(graphic, number, VT_BSTR, &text)) return "unreadable";
-    const std::string copy = text;
-    ::BStringNULL(&text);
-    return '"' + copy + '"';
+std::string PropertyText(GraphicStruct* graphic, const PropertyInfo& property) {
+    if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) return std::to_string(*whole);
+    if (const auto real = ReadProperty<double>(graphic, property.name)) return Exactly(*real);
+    if (const auto text = ReadProperty<std::string>(graphic, property.name)) return '"' + *text + '"';
+    return FindProperty(graphic, property.name) ? "unreadable" : "absent";
 }
 
 void DumpGraphic(GraphicStruct* graphic, const std::string& path, std::vector<std::string>& lines) {
     lines.push_back(path + " type " + std::to_string(graphic->bType));
-    for (const char* name : kProperties)
-        lines.push_back(path + " " + name + " " + PropertyText(graphic, name));
-    int cookie;
-    for (VertexStruct* v = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); v != nullptr;
-         v = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF))
+    for (const PropertyInfo& property : AllProperties())
+        lines.push_back(path + " " + property.name + " " + PropertyText(graphic, property));
+    for (const VertexStruct* v : Vertices(graphic))
         lines.push_back(path + " vertex " + std::to_string(v->wFlags) + " " + Exactly(v->x) + " " +
                         Exactly(v->y) + " " + Exactly(v->z));
-    uint32_t position;
     int index = 0;
-    for (GraphicStruct* member = ::GraphicFirst(graphic, &position, 1, 0xFFFFFFFF); member != nullptr;
-         member = ::GraphicNext(graphic, &position, 1, 0xFFFFFFFF))
+    for (GraphicStruct* member : Members(graphic))
         DumpGraphic(member, path + "/" + std::to_string(index++), lines);
 }
 
 void DumpTable(DrawingStruct* drawing, const char* name, std::vector<std::string>& lines) {
     TableStruct* table = ::DrawingGetTable(drawing, name);
-    int cookie;
-    for (uint16_t id = ::TableEntryFirst(table, &cookie); id != 0; id = ::TableEntryNext(table, &cookie)) {
+    for (const uint16_t id : Entries(table)) {
         char entry[300] = "";
         ::TableEntryGetName(table, id, entry, sizeof entry);
         lines.push_back(std::string(name) + " " + std::to_string(id) + " " + entry);
@@ -75,8 +59,7 @@ std::vector<std::string> DumpDrawing(DrawingStruct* drawing) {
     for (const char* name : kTables)
         DumpTable(drawing, name, lines);
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
-    int cookie;
-    for (uint16_t id = ::TableEntryFirst(blocks, &cookie); id != 0; id = ::TableEntryNext(blocks, &cookie))
+    for (const uint16_t id : Entries(blocks))
         DumpGraphic(::BlockGetGraphic(blocks, id), "block " + std::to_string(id), lines);
     DumpGraphic(::DrawingGetRoot(drawing), "drawing", lines);
     return lines;

@@ -15,19 +15,19 @@ const char* TableOfKind(unsigned int kind) {
     switch (kind) {
     case 0x7D00: // faces and sizes, of which only the drawing counts
     case 0x7D01:
-        return "_Units_";
+        return kTableUnits;
     case 0x7D04:
     case 0x7D15:
-        return "_LineStyles_";
+        return kTableLineStyles;
     case 0x7D05:
-        return "_Colors_";
+        return kTableColors;
     case 0x7D07:
     case 0x7D18:
-        return "_BrushStyles_";
+        return kTableBrushStyles;
     case 0x7D08:
-        return "_Layers_";
+        return kTableLayers;
     case kStyleNames:
-        return "_Blocks_";
+        return kTableBlocks;
     default:
         return nullptr;
     }

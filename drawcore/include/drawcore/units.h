@@ -1,12 +1,10 @@
 // Units of a drawing: variables of its table "_Units_", for host programs. Conversions are in orlo/host/units.h.
 #pragma once
 
-#include <cstdint>
+#include "orlo/host/words.h"
 
-// Strings: names of units ("mm", "cm", "m", "in", "ft", "pt", ...), case does not count.
-constexpr uint16_t kUnitDrawing = 0x5033; // of the lengths in the drawing; what a number without a unit means
-constexpr uint16_t kUnitMillimetre = 0x5034; // always "mm"
-// 0x5035 text sizes and 0x5036 pen widths on paper, 0x50BC the current font: orlo/host/units.h.
+// kUnitDrawing, kUnitMillimetre, kUnitTextSize and kUnitPenWidth (orlo/host/words.h) are strings, names of units ("mm", "cm",
+// "m", "in", "ft", "pt", ...), whose case does not count.
 
 // Whole numbers: how lengths in drawing units and angles are written. Every form is read, whatever is written.
 // 1 scientific, 2 decimal, 3 engineering (feet and decimal inches), 4 architectural (feet, inches and fractions), 5 fractional

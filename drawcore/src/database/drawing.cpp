@@ -16,12 +16,12 @@ Drawing::Drawing()
     : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<VertexGraphic>()) {
     Live<DrawingStruct>::Enter(this);
     pApplication = &Application::Get();
-    AddTable(kLayersTable, std::make_unique<LayerTable>(this));
-    AddTable(kLineStylesTable, std::make_unique<LineStyleTable>(this));
-    AddTable(kBrushStylesTable, std::make_unique<BrushStyleTable>(this));
-    AddTable(kColorsTable, std::make_unique<ColorTable>(this));
-    AddTable(kBlocksTable, std::make_unique<BlockTable>(this));
-    Table* units = AddTable(kUnitsTable, std::make_unique<Table>(this));
+    AddTable(kTableLayers, std::make_unique<LayerTable>(this));
+    AddTable(kTableLineStyles, std::make_unique<LineStyleTable>(this));
+    AddTable(kTableBrushStyles, std::make_unique<BrushStyleTable>(this));
+    AddTable(kTableColors, std::make_unique<ColorTable>(this));
+    AddTable(kTableBlocks, std::make_unique<BlockTable>(this));
+    Table* units = AddTable(kTableUnits, std::make_unique<Table>(this));
     UnitSettings().Store(*units);
     units->SetVariable(kUnitFontName, TextFace::Get({}, 0).Name());
     pUnits = units;

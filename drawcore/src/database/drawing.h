@@ -15,16 +15,6 @@ namespace drawcore {
 class UndoLog;
 class VertexGraphic;
 
-constexpr const char* kLayersTable = "_Layers_";
-constexpr const char* kLineStylesTable = "_LineStyles_";
-constexpr const char* kBrushStylesTable = "_BrushStyles_";
-constexpr const char* kColorsTable = "_Colors_";
-constexpr const char* kBlocksTable = "_Blocks_";
-constexpr const char* kUnitsTable = "_Units_";
-
-// What the lengths of a drawing are measured in.
-enum : uint16_t { kSpaceWorld = 0, kSpacePaper = 1, kSpaceDevice = 2 };
-
 class Drawing : public DrawingStruct {
 public:
     Drawing();
@@ -41,14 +31,14 @@ public:
     bool RemoveTable(Table* table);
 
     // The tables that every drawing has from the start; null once the host program has removed one.
-    LayerTable* Layers() const { return dynamic_cast<LayerTable*>(FindTable(kLayersTable)); }
-    LineStyleTable* LineStyles() const { return dynamic_cast<LineStyleTable*>(FindTable(kLineStylesTable)); }
+    LayerTable* Layers() const { return dynamic_cast<LayerTable*>(FindTable(kTableLayers)); }
+    LineStyleTable* LineStyles() const { return dynamic_cast<LineStyleTable*>(FindTable(kTableLineStyles)); }
     BrushStyleTable* BrushStyles() const {
-        return dynamic_cast<BrushStyleTable*>(FindTable(kBrushStylesTable));
+        return dynamic_cast<BrushStyleTable*>(FindTable(kTableBrushStyles));
     }
-    ColorTable* Colors() const { return dynamic_cast<ColorTable*>(FindTable(kColorsTable)); }
-    BlockTable* Blocks() const { return dynamic_cast<BlockTable*>(FindTable(kBlocksTable)); }
-    Table* Units() const { return FindTable(kUnitsTable); }
+    ColorTable* Colors() const { return dynamic_cast<ColorTable*>(FindTable(kTableColors)); }
+    BlockTable* Blocks() const { return dynamic_cast<BlockTable*>(FindTable(kTableBlocks)); }
+    Table* Units() const { return FindTable(kTableUnits); }
 
     VertexGraphic& Root() const { return *root_; } // the group of all its graphics
     UndoLog& Undo() const { return *undo_; }

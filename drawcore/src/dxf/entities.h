@@ -206,8 +206,8 @@ using Shape =
     std::variant<Line, PointMark, Circle, Arc, Ellipse, Polyline, Leader, Apart<Spline>, Apart<Text>,
                  Apart<MText>, Apart<Insert>, Apart<Hatch>, Apart<Face>, Apart<Dimension>, Apart<Viewport>>;
 
-constexpr int16_t kColorByBlock = 0;
-constexpr int16_t kColorByLayer = 256;
+constexpr int16_t kIndexByBlock = 0;
+constexpr int16_t kIndexByLayer = 256;
 
 constexpr int16_t kLineWeightByLayer = -1;
 constexpr int16_t kLineWeightByBlock = -2;
@@ -217,7 +217,7 @@ struct Entity {
     Shape shape;
     LayerIndex layer{};
     LineTypeIndex lineType = LineTypeIndex::byLayer;
-    int16_t color = kColorByLayer;
+    int16_t color = kIndexByLayer;
     int16_t lineWeight = kLineWeightByLayer; // 0.01 mm
     int32_t trueColor = -1;                  // 0xRRGGBB; -1: none
     bool inPaperSpace = false;

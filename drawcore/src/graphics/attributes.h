@@ -11,16 +11,11 @@
 
 namespace drawcore {
 
-enum : uint8_t {
-    kScaleWorld = 0, // the width is in drawing units and grows with the view
-    kScalePaper = 2, // the width is plotted: inches on paper, the same at every zoom
-};
-
 struct Pen {
     double width = 0; // by scaleSystem; 0 is the thinnest line of the device
     double scale = 1; // of the dash pattern
-    Color color = kByLayer;
-    uint16_t style = kStyleByLayer;
+    Color color = kColorByLayer;
+    uint16_t style = kLineStyleByLayer;
     uint8_t scaleSystem = kScalePaper;
     bool alignment = true; // dashes fitted to each segment; else the pattern runs on through the corners
 };
@@ -28,9 +23,9 @@ struct Pen {
 struct Brush {
     double scale = 1;
     double angle = 0; // radians
-    Color color = kPenColor;
+    Color color = kColorOfPen;
     int32_t drawMode = 0; // 1 winding, 0 alternate
-    uint16_t style = kBrushNone;
+    uint16_t style = kBrushStyleNone;
     bool cross = false; // the hatch once more, at a right angle
 };
 

@@ -9,6 +9,7 @@
 
 #include <wtypes.h>
 
+#include "drawcore/include/drawcore/property_schema.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/graphics/text_graphic.h"
@@ -40,6 +41,7 @@ struct TextAccess {
 // One property: exactly one of the three accesses is there.
 struct Property {
     const char* name;
+    PropertyMeaning meaning;
     uint8_t owners;
     WholeAccess whole{};
     RealAccess real{};
@@ -77,8 +79,9 @@ void SetNumber(Graphic& graphic, int64_t value) {
 }
 
 template <class Place, bool (*accepts)(const Graphic&, int64_t)>
-constexpr Property Whole(const char* name, uint8_t owners, bool shapes = false) {
+constexpr Property Whole(const char* name, PropertyMeaning meaning, uint8_t owners, bool shapes = false) {
     return {name,
+            meaning,
             owners,
             {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts, SetNumber<Place>},
             {},
@@ -87,8 +90,9 @@ constexpr Property Whole(const char* name, uint8_t owners, bool shapes = false) 
 }
 
 template <class Place, bool (*accepts)(double)>
-constexpr Property Real(const char* name, uint8_t owners, bool shapes = false) {
+constexpr Property Real(const char* name, PropertyMeaning meaning, uint8_t owners, bool shapes = false) {
     return {name,
+            meaning,
             owners,
             {},
             {[](const Graphic& g) -> double { return Place::In(g); }, accepts,
@@ -97,8 +101,9 @@ constexpr Property Real(const char* name, uint8_t owners, bool shapes = false) {
             shapes};
 }
 
-constexpr Property Text(const char* name, uint8_t owners, TextAccess access, bool shapes = false) {
-    return {name, owners, {}, {}, access, shapes};
+constexpr Property Text(const char* name, PropertyMeaning meaning, uint8_t owners, TextAccess access,
+                        bool shapes = false) {
+    return {name, meaning, owners, {}, {}, access, shapes};
 }
 
 // Limits.
@@ -109,11 +114,11 @@ bool Within(const Graphic&, int64_t value) {
 
 bool IsPenColor(const Graphic&, int64_t value) {
     const Color color = static_cast<Color>(value);
-    return IsPlainColor(color) || color == kByLayer || color == kByBlock;
+    return IsPlainColor(color) || color == kColorByLayer || color == kColorByBlock;
 }
 
 bool IsBrushColor(const Graphic& graphic, int64_t value) {
-    return IsPenColor(graphic, value) || static_cast<Color>(value) == kPenColor;
+    return IsPenColor(graphic, value) || static_cast<Color>(value) == kColorOfPen;
 }
 
 bool IsScaleSystem(const Graphic&, int64_t value) {
@@ -158,32 +163,33 @@ const char* GetFont(const Graphic& graphic) {
     return font.empty() ? TextFace::Get(font, 0).Name().c_str() : font.c_str();
 }
 
-constexpr auto kAnyStyle = Within<0, kStyleByLayer>;
+constexpr auto kAnyStyle = Within<0, kLineStyleByLayer>;
 constexpr auto kAnyEntry = Within<0, kHighestId>;
 constexpr auto kYesOrNo = Within<0, 1>;
 
 // In the order of their names: a look-up halves the range.
 constexpr Property kProperties[] = {
-    Real<InBrush<&Brush::angle>, IsNumber>("BrushAngle", kOfShape),
-    Whole<InBrush<&Brush::color>, IsBrushColor>("BrushColor", kOfShape),
-    Whole<InBrush<&Brush::drawMode>, kYesOrNo>("BrushDrawMode", kOfShape),
-    Real<InBrush<&Brush::scale>, IsNotNegative>("BrushScale", kOfShape),
-    Whole<InBrush<&Brush::style>, kAnyEntry>("BrushStyle", kOfShape),
-    Whole<InBrush<&Brush::cross>, kYesOrNo>("HatchCross", kOfShape),
-    Text("Info", kOfAll, {GetInfo, SetInfo}),
-    Whole<Own<&Graphic::layer>, IsLayer>("Layer", kOfAll),
-    Whole<InPen<&Pen::alignment>, kYesOrNo>("PenAlignment", kOfShape),
-    Whole<InPen<&Pen::color>, IsPenColor>("PenColor", kOfAll),
-    Real<InPen<&Pen::scale>, IsNotNegative>("PenScale", kOfShape),
-    Whole<InPen<&Pen::style>, kAnyStyle>("PenStyle", kOfShape | kOfInsert),
-    Real<InPen<&Pen::width>, IsNotNegative>("PenWidth", kOfShape),
-    Whole<InPen<&Pen::scaleSystem>, IsScaleSystem>("ScaleSystem", kOfShape),
-    Whole<Own<&Graphic::styleTree>, kAnyEntry>("StyleTree", kOfAll),
-    Text("TextFont", kOfText,
+    Real<InBrush<&Brush::angle>, IsNumber>(kPropBrushAngle, kMeansAngle, kOfShape),
+    Whole<InBrush<&Brush::color>, IsBrushColor>(kPropBrushColor, kMeansColor, kOfShape),
+    Whole<InBrush<&Brush::drawMode>, kYesOrNo>(kPropBrushDrawMode, kMeansNumber, kOfShape),
+    Real<InBrush<&Brush::scale>, IsNotNegative>(kPropBrushScale, kMeansNumber, kOfShape),
+    Whole<InBrush<&Brush::style>, kAnyEntry>(kPropBrushStyle, kMeansBrushStyle, kOfShape),
+    Whole<InBrush<&Brush::cross>, kYesOrNo>(kPropHatchCross, kMeansSwitch, kOfShape),
+    Text(kPropInfo, kMeansText, kOfAll, {GetInfo, SetInfo}),
+    Whole<Own<&Graphic::layer>, IsLayer>(kPropLayer, kMeansLayer, kOfAll),
+    Whole<InPen<&Pen::alignment>, kYesOrNo>(kPropPenAlignment, kMeansSwitch, kOfShape),
+    Whole<InPen<&Pen::color>, IsPenColor>(kPropPenColor, kMeansColor, kOfAll),
+    Real<InPen<&Pen::scale>, IsNotNegative>(kPropPenScale, kMeansNumber, kOfShape),
+    Whole<InPen<&Pen::style>, kAnyStyle>(kPropPenStyle, kMeansLineStyle, kOfShape | kOfInsert),
+    Real<InPen<&Pen::width>, IsNotNegative>(kPropPenWidth, kMeansWidth, kOfShape),
+    Whole<InPen<&Pen::scaleSystem>, IsScaleSystem>(kPropScaleSystem, kMeansScaleSystem, kOfShape),
+    Whole<Own<&Graphic::styleTree>, kAnyEntry>(kPropStyleTree, kMeansBlock, kOfAll),
+    Text(kPropTextFont, kMeansText, kOfText,
          {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }}, true),
-    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>("TextFormat", kOfText, true),
-    Real<InText<&TextState::height>, IsPositive>("TextSize", kOfText, true),
-    Whole<InText<&TextState::style>, Within<0, 0xFFFF>>("TextStyle", kOfText, true),
+    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>(kPropTextFormat, kMeansNumber, kOfText,
+                                                                     true),
+    Real<InText<&TextState::height>, IsPositive>(kPropTextSize, kMeansLength, kOfText, true),
+    Whole<InText<&TextState::style>, Within<0, 0xFFFF>>(kPropTextStyle, kMeansBits, kOfText, true),
 };
 
 // Forms of whole numbers. A 32-bit form takes either reading of its top bit: colours come signed as well as unsigned.
@@ -327,3 +333,18 @@ const PropertyTable kTextProperties = {nullptr, Lookup<kOfText>, Get<kOfText>, S
 const PropertyTable kInsertProperties = {nullptr, Lookup<kOfInsert>, Get<kOfInsert>, Set<kOfInsert>};
 
 } // namespace drawcore
+
+const PropertyInfo* DrawCoreGetProperties(int* count) {
+    static const std::vector<PropertyInfo> schema = [] {
+        std::vector<PropertyInfo> infos;
+        for (const drawcore::Property& property : drawcore::kProperties) {
+            const PropertyForm form = property.whole.get  ? kFormWhole
+                                      : property.real.get ? kFormReal
+                                                          : kFormText;
+            infos.push_back({property.name, form, property.meaning});
+        }
+        return infos;
+    }();
+    if (count) *count = static_cast<int>(schema.size());
+    return schema.data();
+}

@@ -29,14 +29,14 @@ const LineStyle* StyleOf(Id id, const Trace& trace) {
 
 Color ResolveColor(Color color, Id layer, const Trace& trace) {
     if (IsPlainColor(color)) return color;
-    if (color == kByBlock) return trace.color;
+    if (color == kColorByBlock) return trace.color;
     const Layer* of = LayerOf(layer, trace);
     return of ? of->color : kWhite;
 }
 
 const LineStyle* ResolveStyle(uint16_t style, Id layer, const Trace& trace) {
-    if (style == kStyleByBlock) return trace.style;
-    if (style != kStyleByLayer) return StyleOf(style, trace);
+    if (style == kLineStyleByBlock) return trace.style;
+    if (style != kLineStyleByLayer) return StyleOf(style, trace);
     const Layer* of = LayerOf(layer, trace);
     return of ? StyleOf(of->lineStyle, trace) : nullptr;
 }
@@ -89,7 +89,7 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
     use.style = ResolveStyle(pen.style, layer, trace);
     use.dashScale = pen.scale * trace.lineScale * unit;
     use.fitDashes = pen.alignment;
-    use.strokes = pen.style != kStyleNone;
+    use.strokes = pen.style != kLineStyleNone;
     use.roundEnds =
         pen.scaleSystem != kScaleWorld && !use.style; // a plotter's pen; widths of the drawing are cut off
     return use;
@@ -97,10 +97,11 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
 
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
     const Brush& brush = graphic.brush;
-    if (brush.style == kBrushNone) return;
+    if (brush.style == kBrushStyleNone) return;
     BrushUse fill;
-    fill.color = brush.color == kPenColor ? use.color
-                                          : ResolveColor(brush.color, EffectiveLayer(graphic, trace), trace);
+    fill.color = brush.color == kColorOfPen
+                     ? use.color
+                     : ResolveColor(brush.color, EffectiveLayer(graphic, trace), trace);
     if (trace.tools.brushStyles) fill.style = trace.tools.brushStyles->At(brush.style);
     fill.pattern =
         Matrix::Scaling({brush.scale, brush.scale, 1}) * Matrix::RotationZ(brush.angle) * trace.matrix;

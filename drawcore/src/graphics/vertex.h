@@ -6,8 +6,6 @@
 
 namespace drawcore {
 
-enum : uint16_t { kVertexDrawn = 1 };
-
 class Graphic;
 
 // The graphic whose own vertex this is, from the moment that someone outside is given it: what is written to the vertex then

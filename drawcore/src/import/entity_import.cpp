@@ -146,7 +146,8 @@ public:
             if (IsFilled(*hatch, loop)) dxf::Trace(loop, system, builder);
         graphic->brush = ImportBrush(*hatch, *importer_.drawing_.BrushStyles());
         if (graphic->vertices.empty()) return nullptr;
-        if (graphic->brush.style != kBrushNone) graphic->pen.style = kStyleNone; // a hatch shows no outline
+        if (graphic->brush.style != kBrushStyleNone)
+            graphic->pen.style = kLineStyleNone; // a hatch shows no outline
         return graphic;
     }
 
@@ -195,16 +196,16 @@ void EntityImport::SetLook(Graphic& graphic, const dxf::Entity& entity) const {
     Pen& pen = graphic.pen;
     const dxf::Layer& layer = document_.At(entity.layer);
     graphic.layer = tables_.layers[static_cast<size_t>(entity.layer)];
-    if (pen.color == kByLayer) pen.color = ColorOfDxf(std::abs(entity.color), entity.trueColor);
+    if (pen.color == kColorByLayer) pen.color = ColorOfDxf(std::abs(entity.color), entity.trueColor);
     if (entity.lineTypeScale > 0) pen.scale = entity.lineTypeScale;
-    if (pen.style == kStyleByLayer && entity.lineType == dxf::LineTypeIndex::byBlock)
-        pen.style = kStyleByBlock;
-    else if (pen.style == kStyleByLayer && entity.lineType != dxf::LineTypeIndex::byLayer)
+    if (pen.style == kLineStyleByLayer && entity.lineType == dxf::LineTypeIndex::byBlock)
+        pen.style = kLineStyleByBlock;
+    else if (pen.style == kLineStyleByLayer && entity.lineType != dxf::LineTypeIndex::byLayer)
         pen.style = tables_.lineStyles[static_cast<size_t>(entity.lineType)];
     const auto* polyline = std::get_if<dxf::Polyline>(&entity.shape);
     pen.alignment = !(polyline && polyline->dashesThrough);
     const int weight = entity.lineWeight == dxf::kLineWeightByLayer ? layer.lineWeight : entity.lineWeight;
-    constexpr double kInch = 2540; // in hundredths of a millimetre
+    constexpr double kInch = kMillimetresPerInch * 100; // in the hundredths of a millimetre of a line weight
     if (weight > 0 && pen.width == 0) pen.width = weight / kInch;
 }
 

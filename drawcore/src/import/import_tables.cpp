@@ -105,8 +105,8 @@ Color ColorOfDxf(int index, int32_t trueColor) {
         const auto rgb = static_cast<uint32_t>(trueColor);
         return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF);
     }
-    if (index == dxf::kColorByBlock) return kByBlock;
-    return index >= 1 && index <= 255 ? ColorOfIndex(index) : kByLayer;
+    if (index == dxf::kIndexByBlock) return kColorByBlock;
+    return index >= 1 && index <= 255 ? ColorOfIndex(index) : kColorByLayer;
 }
 
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {

@@ -11,7 +11,6 @@
 
 namespace drawcore {
 
-constexpr uint16_t kBrushNone = 0;
 constexpr uint16_t kBrushSolid = 1;
 
 // One family of parallel lines, as DXF defines it; drawing units and radians at brush scale 1, brush angle 0.

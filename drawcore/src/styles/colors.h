@@ -2,15 +2,13 @@
 #pragma once
 
 #include "drawcore/src/tables/table.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
 
 using Color = uint32_t; // 0x00bbggrr, or a marker with a non-zero high byte
 
-constexpr Color kByLayer = 0xFFFFFFFD;
-constexpr Color kByBlock = 0xFFFFFFFC;
-constexpr Color kPenColor = 0xFFFFFFFB; // of a brush: the colour of the graphic's pen
-constexpr Color kWhite = 0x00FFFFFF;    // DXF's number 7: seen as black on a white background
+constexpr Color kWhite = 0x00FFFFFF; // DXF's number 7: seen as black on a white background
 
 constexpr bool IsPlainColor(Color color) {
     return (color >> 24) == 0;

@@ -21,8 +21,6 @@ Layer* FindLayer(DrawingStruct* drawing, uint16_t id) {
     return layers ? layers->At(id) : nullptr;
 }
 
-constexpr Color kNoColor = 0xFFFFFFFE;
-
 } // namespace
 
 } // namespace drawcore
@@ -31,7 +29,7 @@ using namespace drawcore;
 
 uint32_t LayerGetColor(DrawingStruct* drawing, uint16_t id) {
     const Layer* layer = FindLayer(drawing, id);
-    return layer ? layer->color : kNoColor;
+    return layer ? layer->color : kColorNone;
 }
 
 int LayerGetVisible(DrawingStruct* drawing, uint16_t id) {

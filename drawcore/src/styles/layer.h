@@ -13,7 +13,7 @@ public:
     bool IsVisible() const { return !off && !frozen; }
 
     Color color = kWhite;
-    uint16_t lineStyle = kStyleNone; // entry of "_LineStyles_"; none is solid
+    uint16_t lineStyle = kLineStyleNone; // entry of "_LineStyles_"; none is solid
     bool off = false;
     bool frozen = false;
     bool locked = false;

@@ -2,12 +2,9 @@
 #pragma once
 
 #include "drawcore/src/tables/table.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
-
-constexpr uint16_t kStyleNone = 0; // nothing is stroked
-constexpr uint16_t kStyleByLayer = 0xFFFE;
-constexpr uint16_t kStyleByBlock = 0xFFFD;
 
 // A positive item is a dash, a negative one a gap, 0 a dot; drawing units at pen scale 1. Empty is a solid line.
 class LineStyle : public TableEntry {

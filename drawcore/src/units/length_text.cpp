@@ -4,12 +4,13 @@
 #include <cmath>
 
 #include "drawcore/src/units/text_cursor.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
 
 namespace {
 
-constexpr double kFoot = 304.8, kInch = 25.4;
+constexpr double kInch = kMillimetresPerInch, kFoot = 304.8; // 12 inches, to the last digit
 constexpr int kMostDecimals = 12;
 
 class LengthReader {

@@ -1,15 +1,25 @@
 #include "drawcore/src/units/length_unit.h"
 
 #include "drawcore/src/tables/table.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
 
 namespace {
 
-constexpr LengthUnit kUnits[] = {{"mm", 1},        {"cm", 10},    {"dm", 100},     {"m", 1000},
-                                 {"km", 1e6},      {"um", 0.001}, {"nm", 1e-6},    {"in", 25.4},
-                                 {"ft", 304.8},    {"yd", 914.4}, {"mi", 1609344}, {"mil", 0.0254},
-                                 {"pt", 25.4 / 72}};
+constexpr LengthUnit kUnits[] = {{"mm", 1},
+                                 {"cm", 10},
+                                 {"dm", 100},
+                                 {"m", 1000},
+                                 {"km", 1e6},
+                                 {"um", 0.001},
+                                 {"nm", 1e-6},
+                                 {"in", kMillimetresPerInch},
+                                 {"ft", 304.8},
+                                 {"yd", 914.4},
+                                 {"mi", 1609344},
+                                 {"mil", 0.0254},
+                                 {"pt", kMillimetresPerInch / 72}};
 
 constexpr struct {
     const char *spelling, *name;

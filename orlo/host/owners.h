@@ -1,0 +1,51 @@
+// Owners of what the host makes. C++ only.
+//
+//   const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
+//   if (!vertex || !::GraphicVertexAdd(graphic, vertex.get())) ...
+//
+//   orlo::host::String text;
+//   table->PropGet(graphic, number, VT_BSTR, text.Variable());
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "orlo/host/graphic.h"
+#include "orlo/host/matrix.h"
+#include "orlo/host/memory.h"
+#include "orlo/host/vertex.h"
+#include "orlo/host/viewport.h"
+
+namespace orlo::host {
+
+struct Disposer {
+    void operator()(GraphicStruct* graphic) const { ::GraphicDispose(&graphic); }
+    void operator()(VertexStruct* vertex) const { ::VertexDispose(&vertex); }
+    void operator()(ViewportStruct* viewport) const { ::ViewportDispose(&viewport); }
+    void operator()(MatrixStruct* matrix) const { ::MatrixDispose(&matrix); }
+};
+
+using OwnedGraphic = std::unique_ptr<GraphicStruct, Disposer>; // one that belongs to nobody else
+using OwnedVertex = std::unique_ptr<VertexStruct, Disposer>;
+using OwnedViewport = std::unique_ptr<ViewportStruct, Disposer>;
+using OwnedMatrix = std::unique_ptr<MatrixStruct, Disposer>;
+
+// A string of the host's making, or null.
+class String {
+public:
+    String() = default;
+    ~String() { ::BStringNULL(&text_); }
+    String(String&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
+    String(const String&) = delete;
+    String& operator=(const String&) = delete;
+
+    const char* Get() const { return text_; }
+    const char* OrEmpty() const { return text_ ? text_ : ""; }
+    // For a call of the host that makes a string; a former one is released by the host.
+    char** Variable() { return &text_; }
+
+private:
+    char* text_ = nullptr;
+};
+
+} // namespace orlo::host
