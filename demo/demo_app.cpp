@@ -2,9 +2,9 @@
 
 #include "demo/demo_app.h"
 
-#include "demo/main_frame.h"
-#include "demo/round_trip.h"
-#include "demo/tour.h"
+#include "demo/tour/round_trip.h"
+#include "demo/tour/tour.h"
+#include "demo/viewer/main_frame.h"
 #include "drawcore/application.h"
 #include "orlo/frame/entry.h"
 #include "orlo/host/application.h"

@@ -10,8 +10,7 @@
 #include <vector>
 
 #include "demo/demo_app.h"
-#include "demo/file_name.h"
-#include "demo/list_drawings.h"
+#include "demo/viewer/file_name.h"
 
 #include <shellapi.h>
 
@@ -43,7 +42,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     UseCallersConsole();
     CLI::App usage{"A small drawing viewer that shows Orlo's property sheets.", "demo"};
     DemoOptions options;
-    std::vector<std::string> listed;
     usage.add_option("drawing", options.drawing, "DXF drawing to open");
     usage
         .add_option("--tour", options.tourFolder,
@@ -53,8 +51,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
         .add_option("--check", options.checked,
                     "change something on every page over all of each drawing, take it back, and compare")
         ->type_name("FILE...");
-    usage.add_option("--list", listed, "print what the drawings hold, as JSON, and open no window")
-        ->type_name("FILE...");
     try {
         std::vector<std::string> arguments = Arguments();
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
@@ -62,7 +58,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     } catch (const CLI::ParseError& error) {
         return usage.exit(error) ? kWrongUsage : 0;
     }
-    if (!listed.empty()) return ListDrawings(listed, std::cout) ? 0 : 1;
 
     CDemoApp app(options);
     return AfxWinMain(instance, before, commandLine, show);

@@ -13,11 +13,12 @@ for_windows() { printf 'Z:%s' "$(realpath -m -- "$1")"; }
 
 list_drawings() {
     [ $# -gt 0 ] || usage
+    targets=(dxflist)
     source run.d/build.sh >&2
     wine_prefix >&2
+    local lister=$PWD/build/bin/dxflist.exe status=0
     cd "$ORLO_CALLER_DIR"   # file names stay as they were given
-    local status=0
-    wine "$program" --list "$@" || status=$?
+    wine "$lister" "$@" || status=$?
     exit $status
 }
 

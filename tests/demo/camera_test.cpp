@@ -1,6 +1,6 @@
 // Camera: what a zoom and a move hold still, and that pixels and drawing units are each other's inverse.
 
-#include "demo/camera.h"
+#include "demo/viewer/camera.h"
 
 #include <gtest/gtest.h>
 

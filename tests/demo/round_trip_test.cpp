@@ -1,7 +1,7 @@
 // Real drawings through all pages and back, and that the comparison sees what is different.
 
-#include "demo/drawing_state.h"
-#include "demo/round_trip.h"
+#include "demo/tour/drawing_state.h"
+#include "demo/tour/round_trip.h"
 #include "demo/viewer.h"
 #include "drawcore/table.h"
 #include "orlo/host/graphic.h"

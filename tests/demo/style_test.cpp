@@ -2,8 +2,8 @@
 
 #include <afxdlgs.h>
 
-#include "demo/resource.h"
 #include "demo/viewer.h"
+#include "demo/viewer/resource.h"
 #include "support/message_box_watcher.h"
 
 namespace {

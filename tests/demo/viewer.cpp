@@ -4,8 +4,8 @@
 
 #include <cstdio>
 
-#include "demo/file_name.h"
-#include "demo/memory_picture.h"
+#include "demo/viewer/file_name.h"
+#include "demo/viewer/memory_picture.h"
 #include "orlo/frame/entry.h"
 
 namespace {

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "demo/main_frame.h"
-#include "demo/property_snapshot.h"
-#include "demo/user_input.h"
+#include "demo/tour/user_input.h"
+#include "demo/viewer/main_frame.h"
+#include "demo/viewer/property_snapshot.h"
 
 class Viewer : public ::testing::Test {
 protected:

@@ -1,6 +1,6 @@
-// The list that demo --list prints.
+// The list that dxflist prints.
 
-#include "demo/list_drawings.h"
+#include "tools/dxflist/list_drawings.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

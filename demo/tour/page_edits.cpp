@@ -1,0 +1,118 @@
+// One change on each page.
+
+#include "demo/tour/page_edits.h"
+
+#include <cstdlib>
+#include <stdexcept>
+
+namespace {
+
+// Controls of the pages.
+enum Control {
+    kInfo = 101,
+    kUnderline = 106,
+    kRotationZ = 106,
+    kPenColor = 32005,
+    kBrushStyle = 32024,
+};
+
+constexpr int kDotsBrush = 8; // its place in the list: through the dots all that lies below is seen
+constexpr unsigned long kOrange = RGB(255, 127, 0);
+
+int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
+}
+
+HWND FocusOn(HWND page, int id) {
+    const HWND control = ::GetDlgItem(page, id);
+    ::SetFocus(control);
+    return control;
+}
+
+void TypeOver(UserInput& user, HWND page, int id, const std::string& text) {
+    Ask(FocusOn(page, id), EM_SETSEL, 0, -1);
+    user.Type(text);
+}
+
+// To the item below, or above the last one; without a selection to the item of that number.
+void Move(UserInput& user, HWND list, UINT getSelection, int first) {
+    const int before = Ask(list, getSelection);
+    if (before < 0) return user.Keys(VK_DOWN, first + 1);
+    user.Key(VK_DOWN);
+    if (Ask(list, getSelection) == before) user.Key(VK_UP);
+}
+
+// To the item of that number, or another one if it is chosen already. Without a selection the first key only makes one.
+void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
+    if (Ask(list, getSelection) == wanted) return user.Key(VK_UP);
+    user.Keys(VK_HOME, 2);
+    user.Keys(VK_DOWN, wanted);
+}
+
+// The first item of a colour list if there is none: its items begin with the colour in hexadecimal digits.
+int IndexOfColor(HWND combo, unsigned long color) {
+    char item[256];
+    for (int i = 0; i < Ask(combo, CB_GETCOUNT); ++i) {
+        if (Ask(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i)) >= static_cast<int>(sizeof item)) continue;
+        Ask(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(item));
+        if (std::strtoul(item, nullptr, 16) == color) return i;
+    }
+    return 0;
+}
+
+constexpr PageEdit kEdits[] = {
+    {"General", "Info", [](UserInput& user, HWND page) { TypeOver(user, page, kInfo, "Seen by the tour"); }},
+    {"Pen", "PenColor",
+     [](UserInput& user, HWND page) {
+         const HWND colors = FocusOn(page, kPenColor);
+         Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
+     }},
+    {"Brush", "BrushStyle",
+     [](UserInput& user, HWND page) { MoveTo(user, FocusOn(page, kBrushStyle), LB_GETCURSEL, kDotsBrush); }},
+    {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, kUnderline)); }},
+    {"Block Insertion", "vertices",
+     [](UserInput& user, HWND page) { TypeOver(user, page, kRotationZ, "30"); }},
+};
+
+} // namespace
+
+const PageEdit* FindPageEdit(const std::string& title) {
+    for (const PageEdit& edit : kEdits) {
+        if (title == edit.title) return &edit;
+    }
+    return nullptr;
+}
+
+CPropertySheet& SheetOf(HWND window) {
+    auto* sheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(window));
+    if (!sheet) throw std::runtime_error("that is no property sheet");
+    return *sheet;
+}
+
+HWND ActivePageOf(HWND sheet) {
+    return SheetOf(sheet).GetActivePage()->m_hWnd;
+}
+
+std::vector<std::string> PageTitles(HWND sheet) {
+    const HWND tabs = SheetOf(sheet).GetTabControl()->m_hWnd;
+    std::vector<std::string> titles;
+    for (int i = 0; i < Ask(tabs, TCM_GETITEMCOUNT); ++i) {
+        char text[64] = "";
+        TCITEMA item = {};
+        item.mask = TCIF_TEXT;
+        item.pszText = text;
+        item.cchTextMax = sizeof text;
+        Ask(tabs, TCM_GETITEMA, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        titles.push_back(text);
+    }
+    return titles;
+}
+
+bool ClickTab(UserInput& user, HWND sheet, int page) {
+    const HWND tabs = SheetOf(sheet).GetTabControl()->m_hWnd;
+    CRect rect;
+    Ask(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(page),
+        reinterpret_cast<LPARAM>(static_cast<LPRECT>(rect)));
+    user.Click(tabs, rect.CenterPoint());
+    return SheetOf(sheet).GetActiveIndex() == page;
+}

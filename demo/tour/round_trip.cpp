@@ -1,0 +1,89 @@
+// Drawings through all pages and back.
+
+#include "demo/tour/round_trip.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+#include "demo/tour/drawing_state.h"
+#include "demo/tour/page_edits.h"
+#include "demo/viewer/main_frame.h"
+
+namespace {
+
+constexpr size_t kMostDifferences = 5; // told of one drawing
+
+void Say(const std::string& text) {
+    std::printf("%s\n", text.c_str());
+    std::fflush(stdout);
+}
+
+} // namespace
+
+bool RoundTrip::Check(const std::vector<std::string>& drawings) {
+    int different = 0, unchecked = 0;
+    for (const std::string& drawing : drawings) {
+        try {
+            different += !CheckOne(drawing);
+        } catch (const OpenError&) {
+            Say(drawing + ": cannot be opened");
+        } catch (const std::exception& error) {
+            Say(drawing + ": " + error.what());
+            ++unchecked;
+        }
+    }
+    std::string end =
+        std::to_string(drawings.size()) + " drawings, " + std::to_string(different) + " with differences";
+    if (unchecked) end += ", " + std::to_string(unchecked) + " not checked to the end";
+    Say(end);
+    return different + unchecked == 0;
+}
+
+bool RoundTrip::CheckOne(const std::string& drawing) {
+    m_frame.Show(Document::Open(drawing, [](int) {}));
+    m_frame.View().SetFocus();
+    Document& document = *m_frame.GetDocument();
+    const DrawingState before(document.Drawing());
+    m_user.Key('A', UserInput::kControl);
+    const int count = document.Selected().Count();
+    if (count == 0) {
+        Say(drawing + ": nothing can be selected");
+        return true;
+    }
+    const std::vector<std::string> pages = EditAllPages();
+    const DrawingState changed(document.Drawing());
+
+    std::string line = drawing + ": " + std::to_string(count) + " graphics";
+    bool good = true;
+    for (const std::string& title : pages) {
+        const bool does = before.Differs(changed, FindPageEdit(title)->changes);
+        line += ", " + title + (does ? "" : " (changed nothing!)");
+        good = good && does;
+    }
+    m_user.Key('Z', UserInput::kControl);
+    const std::vector<std::string> differences =
+        before.DifferencesTo(DrawingState(document.Drawing()), kMostDifferences);
+    Say(line + (differences.empty() ? ": as before" : ": DIFFERENT"));
+    for (const std::string& difference : differences)
+        Say("  " + difference.substr(0, 300));
+    return good && differences.empty();
+}
+
+// The titles of the pages that it has edited.
+std::vector<std::string> RoundTrip::EditAllPages() {
+    std::vector<std::string> edited;
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
+                    [&](HWND sheet) {
+                        const std::vector<std::string> titles = PageTitles(sheet);
+                        for (size_t i = 0; i < titles.size(); ++i) {
+                            if (!ClickTab(m_user, sheet, static_cast<int>(i)))
+                                throw std::runtime_error("page " + titles[i] + " does not come up");
+                            const PageEdit* page = FindPageEdit(titles[i]);
+                            if (!page) throw std::runtime_error("page " + titles[i] + " is not known");
+                            page->edit(m_user, ActivePageOf(sheet));
+                            edited.push_back(titles[i]);
+                        }
+                        m_user.Click(::GetDlgItem(sheet, IDOK));
+                    });
+    return edited;
+}

@@ -1,0 +1,326 @@
+// The scripted tour.
+
+#include "demo/tour/tour.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "demo/tour/drawing_state.h"
+#include "demo/tour/mixed_window.h"
+#include "demo/tour/page_edits.h"
+#include "demo/tour/screenshot.h"
+#include "demo/viewer/main_frame.h"
+#include "demo/viewer/property_snapshot.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/style.h"
+
+namespace {
+
+constexpr unsigned kPause = 120; // milliseconds after an action, so that a looker-on can follow
+constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than what it takes
+
+constexpr int kWizardNext = 101;
+
+// Controls of the Pen page.
+enum PenControl { kWidth = 103, kScaleSystem = 109, kColor = 32005, kStyle = 32021 };
+
+// Orange, cyan, green: the first that is in the list and not there already.
+constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
+
+int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
+}
+
+std::string ItemText(HWND window, UINT length, UINT text, int index) {
+    const int size = Ask(window, length, static_cast<WPARAM>(index));
+    if (size < 0) return "";
+    std::string item(static_cast<size_t>(size) + 1, '\0');
+    Ask(window, text, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item[0]));
+    item.resize(static_cast<size_t>(size));
+    return item;
+}
+
+std::string ComboItem(HWND combo, int index) {
+    return ItemText(combo, CB_GETLBTEXTLEN, CB_GETLBTEXT, index);
+}
+
+std::string ListItem(HWND list, int index) {
+    return ItemText(list, LB_GETTEXTLEN, LB_GETTEXT, index);
+}
+
+// Items of style controls: eight hexadecimal digits, a tab, the name.
+unsigned long KeyOf(const std::string& item) {
+    return std::strtoul(item.c_str(), nullptr, 16);
+}
+
+std::string NameOf(const std::string& item) {
+    return item.substr(item.find('\t') + 1);
+}
+
+// "Block Insertion" as "block-insertion".
+std::string FileNameOf(const std::string& title) {
+    std::string name;
+    for (const char character : title)
+        name +=
+            character == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    return name;
+}
+
+CPoint DropButton(HWND combo) {
+    CRect client;
+    ::GetClientRect(combo, client);
+    return CPoint(client.right - 8, client.Height() / 2);
+}
+
+} // namespace
+
+Tour::Tour(CMainFrame& frame, const std::string& folder) : m_frame(frame), m_folder(folder), m_user(kPause) {}
+
+bool Tour::Play(const std::string& drawing) {
+    try {
+        Open(drawing);
+        if (!SelectMixedSet()) {
+            Say("Nothing in this drawing has a pen: there is nothing to edit.");
+            return true;
+        }
+        if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
+        MakeStyle();
+        Say("Ctrl+A selects all.");
+        m_user.Key(VK_HOME);
+        m_user.Key('A', UserInput::kControl);
+        TakePicture("all-selected");
+        return EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); });
+    } catch (const std::exception& error) {
+        Say(std::string("The tour ends here: ") + error.what());
+        return false;
+    }
+}
+
+// True: the edit changed something, and undo took all of it back.
+bool Tour::EditAndUndo(const std::string& changed, const std::string& undone,
+                       const std::function<void()>& edit) {
+    const Document& document = *m_frame.GetDocument();
+    const std::vector<GraphicStruct*> all = document.Selectable();
+    const PropertySnapshot before(document.Drawing(), all);
+    const DrawingState exactly(document.Drawing());
+    edit();
+    TakePicture(changed);
+    const bool differs = Report(before, PropertySnapshot(document.Drawing(), all));
+
+    m_user.Key('Z', UserInput::kControl);
+    TakePicture(undone);
+    const std::vector<std::string> left = exactly.DifferencesTo(DrawingState(document.Drawing()), 5);
+    Say(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
+    for (const std::string& line : left)
+        Say("  " + line);
+    return differs && left.empty();
+}
+
+void Tour::Say(const std::string& text) {
+    std::printf("%s\n", text.c_str());
+    std::fflush(stdout);
+}
+
+void Tour::TakePicture(const std::string& name) {
+    m_user.Wait(2 * kPause);
+    char file[64];
+    std::snprintf(file, sizeof file, "%02d-%s.png", ++m_pictures, name.c_str());
+    CRect window;
+    m_frame.GetWindowRect(window);
+    SaveScreenshot(window, m_folder + "\\" + file);
+    Say(std::string("  [") + file + "]");
+}
+
+// ---- Stations
+
+void Tour::Open(const std::string& drawing) {
+    m_user.Wait(kPause);
+    if (!m_frame.Open(drawing)) throw std::runtime_error("the drawing could not be opened");
+    const Document& document = *m_frame.GetDocument();
+    Say("Open " + document.Name() + ": " + std::to_string(document.Selectable().size()) + " graphics.");
+    TakePicture("open");
+}
+
+bool Tour::SelectMixedSet() {
+    const std::optional<WorldBox> box = FindMixedWindow(*m_frame.GetDocument());
+    if (!box) return false;
+    ShowClosely(*box);
+
+    CRect frame = m_frame.View().GetCamera().ToPixels(*box);
+    frame.InflateRect(kBandMargin, kBandMargin);
+    const HWND view = m_frame.View().m_hWnd;
+    m_user.Press(view, frame.TopLeft());
+    m_user.MoveTo(view, frame.CenterPoint());
+    m_user.MoveTo(view, frame.BottomRight());
+    TakePicture("select-window");
+    m_user.Release(view, frame.BottomRight());
+    Selection& selection = m_frame.GetDocument()->Selected();
+    Say("Select by window: " + std::to_string(selection.Count()) + " graphics.");
+    const PropertySnapshot snapshot(m_frame.GetDocument()->Drawing(), selection.Members());
+    for (const char* property : {"PenColor", "PenWidth", "PenStyle"}) {
+        std::string line = std::string("  ") + property + ":";
+        for (const auto& [value, count] : snapshot.Values(property))
+            line += "  " + std::to_string(count) + " x " + value;
+        Say(line);
+    }
+    TakePicture("selected");
+    if (selection.Count() == 0) throw std::runtime_error("nothing was selected");
+    return true;
+}
+
+// As a person would: moves it to the middle and turns the wheel.
+void Tour::ShowClosely(const WorldBox& box) {
+    const HWND view = m_frame.View().m_hWnd;
+    CRect client;
+    ::GetClientRect(view, client);
+    const Camera& camera = m_frame.View().GetCamera();
+    m_user.PanDrag(view, camera.ToPixels(box.Center()), client.CenterPoint());
+    const CRect now = camera.ToPixels(box);
+    const double room = std::min(client.Width() * 0.8 / now.Width(), client.Height() * 0.8 / now.Height());
+    m_user.Wheel(view, client.CenterPoint(), static_cast<int>(std::floor(std::log(room) / std::log(1.25))));
+}
+
+void Tour::EditPen() {
+    Say("Alt+Enter opens the properties.");
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
+                    [this](HWND sheet) {
+                        TakePicture("general-page");
+                        OpenPage(sheet, "Pen");
+                        EditPenPage(sheet);
+                        Say("OK.");
+                        m_user.Click(::GetDlgItem(sheet, IDOK));
+                    });
+}
+
+void Tour::OpenPage(HWND sheet, const std::string& title) {
+    const std::vector<std::string> titles = PageTitles(sheet);
+    const auto found = std::find(titles.begin(), titles.end(), title);
+    if (found == titles.end()) throw std::runtime_error("the sheet has no page \"" + title + "\"");
+    ClickTab(m_user, sheet, static_cast<int>(found - titles.begin()));
+}
+
+// Three steps and Finish.
+void Tour::MakeStyle() {
+    Say("Ctrl+N makes a style after the selection.");
+    m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
+                    [this](HWND wizard) {
+                        m_user.Type("Tour");
+                        for (const char* step : {"wizard-name", "wizard-parts", "wizard-summary"}) {
+                            TakePicture(step);
+                            m_user.Click(::GetDlgItem(wizard, kWizardNext));
+                        }
+                    });
+    Say("Ctrl+Enter shows the style.");
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kControl); },
+                    [this](HWND sheet) {
+                        TakePicture("style-page");
+                        m_user.Click(::GetDlgItem(sheet, IDCANCEL));
+                    });
+}
+
+void Tour::EditAllPages() {
+    Say("Alt+Enter opens the properties of all.");
+    m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
+                    [this](HWND sheet) {
+                        for (const std::string& title : PageTitles(sheet)) {
+                            OpenPage(sheet, title);
+                            if (const PageEdit* page = FindPageEdit(title))
+                                page->edit(m_user, ActivePageOf(sheet));
+                            TakePicture("all-" + FileNameOf(title));
+                        }
+                        Say("OK.");
+                        m_user.Click(::GetDlgItem(sheet, IDOK));
+                    });
+}
+
+void Tour::EditPenPage(HWND sheet) {
+    const HWND page = ActivePageOf(sheet);
+    Say("Pen page.");
+    TakePicture("pen-page");
+    PickColor(page);
+    PickPaperScale(page);
+    PickWidth(page);
+    PickStyle(page);
+    TakePicture("pen-page-edited");
+}
+
+void Tour::PickColor(HWND page) {
+    const HWND combo = ::GetDlgItem(page, kColor);
+    const int now = Ask(combo, CB_GETCURSEL);
+    int wanted = -1;
+    for (const COLORREF color : kColors) {
+        for (int i = 0; wanted < 0 && i < Ask(combo, CB_GETCOUNT); ++i)
+            if (i != now && KeyOf(ComboItem(combo, i)) == color) wanted = i;
+    }
+    if (wanted < 0) return Say("  no other colour is listed");
+    m_user.Click(combo, DropButton(combo));
+    m_user.Keys(VK_HOME, 1);
+    m_user.Keys(VK_DOWN, wanted);
+    TakePicture("colour-list");
+    m_user.Key(VK_RETURN);
+    Say("  colour: " + NameOf(ComboItem(combo, Ask(combo, CB_GETCURSEL))));
+}
+
+// A width is then the same length on paper for all of the selection.
+void Tour::PickPaperScale(HWND page) {
+    const HWND combo = ::GetDlgItem(page, kScaleSystem);
+    m_user.Click(combo, DropButton(combo));
+    m_user.Keys(VK_HOME, 1);
+    m_user.Keys(VK_DOWN, 1);
+    m_user.Key(VK_RETURN);
+    Say("  width scaling: " + ComboItem(combo, Ask(combo, CB_GETCURSEL)));
+}
+
+void Tour::PickWidth(HWND page) {
+    const HWND combo = ::GetDlgItem(page, kWidth);
+    const int now = Ask(combo, CB_GETCURSEL), count = Ask(combo, CB_GETCOUNT);
+    m_user.Click(combo, DropButton(combo));
+    int wanted = -1;
+    for (int i = 0; i < count; ++i)
+        if (i != now && ComboItem(combo, i).find("0.7") == 0) wanted = i;
+    if (wanted >= 0) {
+        m_user.Keys(VK_HOME, 1); // to the start of the text
+        m_user.Keys(now > wanted ? VK_UP : VK_DOWN, std::abs(wanted - now));
+        TakePicture("width-list");
+        m_user.Key(VK_RETURN);
+    } else {
+        m_user.Key(VK_ESCAPE);
+        m_user.Type("0.7");
+    }
+    char text[64] = "";
+    ::GetWindowTextA(combo, text, sizeof text);
+    Say(std::string("  width: ") + text);
+}
+
+void Tour::PickStyle(HWND page) {
+    const HWND list = ::GetDlgItem(page, kStyle);
+    TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
+    const int now = Ask(list, LB_GETCURSEL), count = Ask(list, LB_GETCOUNT);
+    int wanted = -1;
+    for (int i = count - 1; i >= 0; --i) { // the first one with dashes; else any
+        if (i == now) continue;
+        const bool dashed =
+            ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
+        if (dashed || wanted < 0) wanted = i;
+    }
+    if (wanted < 0) return Say("  no other line style is listed");
+    m_user.Click(list, CPoint(10, 8));
+    m_user.Keys(VK_HOME, 1);
+    m_user.Keys(VK_DOWN, wanted);
+    Say("  line style: " + NameOf(ListItem(list, Ask(list, LB_GETCURSEL))));
+}
+
+bool Tour::Report(const PropertySnapshot& before, const PropertySnapshot& after) {
+    const std::vector<PropertyChange> changes = before.ChangesTo(after);
+    Say(changes.empty() ? "Nothing changed in the drawing." : "What changed in the drawing:");
+    for (const PropertyChange& change : changes) {
+        char line[256];
+        std::snprintf(line, sizeof line, "  %-12s %5d x  %s -> %s", change.property.c_str(), change.graphics,
+                      change.from.c_str(), change.to.c_str());
+        Say(line);
+    }
+    return !changes.empty();
+}

@@ -1,0 +1,46 @@
+// A scripted tour for machines without a user: opens a drawing, selects a mixed set, edits its pen in the sheet, takes it
+// back, makes a style by the wizard, then selects all and visits every page; all by keys and mouse messages, with a picture
+// of each station and a report of what changed.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "demo/tour/user_input.h"
+
+class CMainFrame;
+class PropertySnapshot;
+
+class Tour {
+public:
+    // Pictures go to the folder, which exists; the report to standard output.
+    Tour(CMainFrame& frame, const std::string& folder);
+
+    // Plays over the drawing. True: everything came out as it should.
+    bool Play(const std::string& drawing);
+
+private:
+    void Say(const std::string& text);
+    void TakePicture(const std::string& name);
+
+    void Open(const std::string& drawing);
+    bool SelectMixedSet();
+    void ShowClosely(const struct WorldBox& box);
+    bool EditAndUndo(const std::string& changed, const std::string& undone,
+                     const std::function<void()>& edit);
+    void MakeStyle();
+    void EditAllPages();
+    void EditPen();
+    void EditPenPage(HWND sheet);
+    void OpenPage(HWND sheet, const std::string& title);
+    void PickColor(HWND page);
+    void PickPaperScale(HWND page);
+    void PickWidth(HWND page);
+    void PickStyle(HWND page);
+    bool Report(const PropertySnapshot& before, const PropertySnapshot& after);
+
+    CMainFrame& m_frame;
+    std::string m_folder;
+    UserInput m_user;
+    int m_pictures = 0;
+};

@@ -1,0 +1,202 @@
+// Plays a user in this process.
+
+#include "demo/tour/user_input.h"
+
+#include <afxwin.h>
+
+#include <exception>
+#include <stdexcept>
+
+namespace {
+
+constexpr unsigned kPatience = 5000; // milliseconds, until a window comes up, or closes
+
+LPARAM At(CPoint point) {
+    return MAKELPARAM(point.x, point.y);
+}
+
+WPARAM MouseFlags(unsigned modifiers) {
+    return (modifiers & UserInput::kShift ? MK_SHIFT : 0) |
+           (modifiers & UserInput::kControl ? MK_CONTROL : 0);
+}
+
+// Holds these modifier keys down and no others, as far as this thread can see.
+class HeldKeys {
+public:
+    explicit HeldKeys(unsigned modifiers) {
+        ::GetKeyboardState(m_before);
+        BYTE keys[256];
+        std::copy(std::begin(m_before), std::end(m_before), keys);
+        keys[VK_SHIFT] = modifiers & UserInput::kShift ? 0x80 : 0;
+        keys[VK_CONTROL] = modifiers & UserInput::kControl ? 0x80 : 0;
+        keys[VK_MENU] = modifiers & UserInput::kAlt ? 0x80 : 0;
+        ::SetKeyboardState(keys);
+    }
+    ~HeldKeys() { ::SetKeyboardState(m_before); }
+    HeldKeys(const HeldKeys&) = delete;
+    HeldKeys& operator=(const HeldKeys&) = delete;
+
+private:
+    BYTE m_before[256];
+};
+
+} // namespace
+
+// Modal windows that are expected, and what is to be played in them.
+struct UserInput::Dialog {
+    const HWND before; // was active
+    const std::vector<Script>& scripts;
+    size_t begun = 0;      // scripts
+    HWND window = nullptr; // the last one that came up
+    ULONGLONG played = 0;  // when the script ended
+    std::exception_ptr thrown;
+
+    bool Awaits() const { return begun < scripts.size() && !::IsWindow(window); }
+    void Begin();
+    void GiveUp();
+
+    static inline thread_local Dialog* awaited = nullptr;
+};
+
+void UserInput::TakeAll() {
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) && message.message != WM_QUIT)
+        AfxGetThread()->PumpMessage();
+}
+
+HWND UserInput::Focus() {
+    if (!::GetFocus() && ::IsWindow(m_focus)) {
+        ::SetForegroundWindow(::GetAncestor(m_focus, GA_ROOT));
+        ::SetFocus(m_focus);
+    }
+    m_focus = ::GetFocus();
+    if (!m_focus) throw std::runtime_error("another program has taken the keyboard");
+    return m_focus;
+}
+
+void UserInput::Wait(unsigned milliseconds) {
+    const ULONGLONG end = ::GetTickCount64() + milliseconds;
+    TakeAll();
+    for (ULONGLONG now = ::GetTickCount64(); now < end; now = ::GetTickCount64()) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
+        TakeAll();
+    }
+    if (const HWND focus = ::GetFocus()) m_focus = focus;
+}
+
+void UserInput::Key(UINT virtualKey, unsigned modifiers) {
+    const HWND focus = Focus();
+    const bool alt = modifiers & kAlt;
+    const HeldKeys held(modifiers);
+    ::PostMessageA(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, alt ? 0x20000001 : 1);
+    ::PostMessageA(focus, alt ? WM_SYSKEYUP : WM_KEYUP, virtualKey, alt ? 0xE0000001 : 0xC0000001);
+    TakeAll(); // while the keys are held
+    Wait(m_pause);
+}
+
+void UserInput::Keys(UINT virtualKey, int count) {
+    for (int i = 0; i < count; ++i) {
+        const HWND focus = Focus();
+        ::PostMessageA(focus, WM_KEYDOWN, virtualKey, 1);
+        ::PostMessageA(focus, WM_KEYUP, virtualKey, 0xC0000001);
+        TakeAll();
+    }
+    Wait(m_pause);
+}
+
+void UserInput::Type(const std::string& text) {
+    for (const char character : text)
+        ::PostMessageA(Focus(), WM_CHAR, static_cast<unsigned char>(character), 1);
+    Wait(m_pause);
+}
+
+void UserInput::Press(HWND window, CPoint point, unsigned modifiers) {
+    ::PostMessageA(window, WM_MOUSEMOVE, MouseFlags(modifiers), At(point));
+    ::PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON | MouseFlags(modifiers), At(point));
+    TakeAll();
+}
+
+void UserInput::MoveTo(HWND window, CPoint point) {
+    ::PostMessageA(window, WM_MOUSEMOVE, MK_LBUTTON, At(point));
+    Wait(m_pause);
+}
+
+void UserInput::Release(HWND window, CPoint point, unsigned modifiers) {
+    ::PostMessageA(window, WM_LBUTTONUP, MouseFlags(modifiers), At(point));
+    Wait(m_pause);
+}
+
+void UserInput::Click(HWND window, CPoint point, unsigned modifiers) {
+    Press(window, point, modifiers);
+    Release(window, point, modifiers);
+}
+
+void UserInput::Click(HWND window) {
+    CRect client;
+    ::GetClientRect(window, client);
+    Click(window, client.CenterPoint());
+}
+
+void UserInput::PanDrag(HWND window, CPoint from, CPoint to) {
+    ::PostMessageA(window, WM_MBUTTONDOWN, MK_MBUTTON, At(from));
+    ::PostMessageA(window, WM_MOUSEMOVE, MK_MBUTTON, At(to));
+    ::PostMessageA(window, WM_MBUTTONUP, 0, At(to));
+    Wait(m_pause);
+}
+
+void UserInput::Wheel(HWND window, CPoint point, int notches) {
+    ::ClientToScreen(window, &point);
+    const int delta = notches < 0 ? -WHEEL_DELTA : WHEEL_DELTA;
+    for (int i = 0; i != notches; i += notches < 0 ? -1 : 1)
+        ::PostMessageA(window, WM_MOUSEWHEEL, MAKEWPARAM(0, delta), At(point));
+    Wait(m_pause);
+}
+
+void UserInput::InDialog(const std::function<void()>& open, const Script& script) {
+    InDialogs(open, {script});
+}
+
+void UserInput::InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts) {
+    Dialog dialog{::GetActiveWindow(), scripts, 0, nullptr, 0, nullptr};
+    Dialog* const outer = Dialog::awaited;
+    Dialog::awaited = &dialog;
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, 20, OnTimer);
+    open();
+    const ULONGLONG end = ::GetTickCount64() + kPatience;
+    while (dialog.begun < scripts.size() && !dialog.thrown && ::GetTickCount64() < end)
+        Wait(20);
+    ::KillTimer(nullptr, timer);
+    Dialog::awaited = outer;
+    if (dialog.thrown) std::rethrow_exception(dialog.thrown);
+    if (dialog.begun < scripts.size()) throw std::runtime_error("no window came up");
+    Wait(m_pause);
+}
+
+// No exception crosses the system's frames: it is kept and thrown again behind the modal loop.
+void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    Dialog* dialog = Dialog::awaited;
+    if (dialog && dialog->Awaits())
+        dialog->Begin();
+    else if (dialog && dialog->played && ::GetTickCount64() > dialog->played + kPatience)
+        dialog->GiveUp();
+}
+
+void UserInput::Dialog::Begin() {
+    const HWND active = ::GetActiveWindow();
+    if (thrown || !active || active == before || !::IsWindowVisible(active)) return;
+    window = active;
+    played = 0;
+    const HeldKeys released(kNone); // those that have opened it
+    try {
+        scripts[begun++](window);
+    } catch (...) {
+        thrown = std::current_exception();
+        ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    }
+    played = ::GetTickCount64();
+}
+
+void UserInput::Dialog::GiveUp() {
+    if (!thrown) thrown = std::make_exception_ptr(std::runtime_error("the window did not close"));
+    ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
+}

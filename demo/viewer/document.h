@@ -1,0 +1,71 @@
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, and undo.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "demo/viewer/selection.h"
+#include "demo/viewer/style_book.h"
+#include "orlo/host/drawing.h"
+
+// what(): the file's name and what is wrong with it, with the line where it can be told. UTF-8.
+class OpenError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+class Document {
+public:
+    using Progress = std::function<void(int permille)>;
+
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError; the drawing that was current
+    // then still is.
+    static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
+    ~Document();
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+
+    const std::string& Path() const { return m_path; }
+    std::string Name() const; // the path without its folders
+
+    // What was left out of the drawing when it was opened, one line each.
+    const std::vector<std::string>& Findings() const { return m_findings; }
+
+    DrawingStruct* Drawing() const { return m_drawing; }
+    GraphicStruct* Root() const { return m_root; }
+    Selection& Selected() { return m_selection; }
+    const Selection& Selected() const { return m_selection; }
+    StyleBook& Styles() { return m_styles; }
+    const StyleBook& Styles() const { return m_styles; }
+    std::optional<WorldBox> Extents() const { return ExtentsOf(m_root); }
+
+    // In the order of drawing: those that are seen and can be selected.
+    std::vector<GraphicStruct*> Selectable() const;
+    // The next one after the last of the selection, round and round; null if nothing can be selected.
+    GraphicStruct* Next(bool forward) const;
+
+    // A length as the drawing's units write it.
+    std::string LengthText(double length) const;
+
+    // Runs a change as one step that Undo takes back. The number of graphics that it changed.
+    int Change(const std::function<void()>& change);
+    // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
+    int ForgottenSteps() const;
+    int UndoSteps() const;
+    // The number of graphics that are as before again.
+    int Undo();
+
+private:
+    Document(const std::string& path, DrawingStruct* drawing);
+
+    std::string m_path;
+    std::vector<std::string> m_findings;
+    DrawingStruct* m_drawing;
+    GraphicStruct* m_root;
+    Selection m_selection;
+    StyleBook m_styles;
+};

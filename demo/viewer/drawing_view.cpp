@@ -1,0 +1,321 @@
+// The window that shows a drawing.
+
+#include "demo/viewer/drawing_view.h"
+
+#include <cstdlib>
+
+#include "drawcore/view.h"
+
+namespace {
+
+constexpr int kMargin = 24;     // pixels around a fitted drawing
+constexpr int kReach = 4;       // pixels within which a click finds a graphic
+constexpr int kDragStart = 4;   // pixels that make a click a drag
+constexpr int kPanStep = 60;    // pixels an arrow key pans
+constexpr int kPenOverhang = 8; // pixels that a wide pen may stand out of a graphic's box
+
+Selection::Way WayOf(UINT mouseFlags) {
+    if (mouseFlags & MK_CONTROL) return Selection::Way::Toggle;
+    if (mouseFlags & MK_SHIFT) return Selection::Way::Add;
+    return Selection::Way::Replace;
+}
+
+} // namespace
+
+DrawingViewClient::~DrawingViewClient() = default;
+
+IMPLEMENT_DYNAMIC(CDrawingView, CWnd)
+
+BEGIN_MESSAGE_MAP(CDrawingView, CWnd)
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_MBUTTONDOWN()
+ON_WM_MBUTTONUP()
+ON_WM_MOUSEMOVE()
+ON_WM_MOUSEWHEEL()
+ON_WM_KEYDOWN()
+ON_WM_CAPTURECHANGED()
+END_MESSAGE_MAP()
+
+CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
+    ::ViewportSetBackground(m_camera.Viewport(), kBackground);
+}
+
+CDrawingView::~CDrawingView() = default;
+
+BOOL CDrawingView::Create(CWnd* parent, UINT id) {
+    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(), parent, id);
+}
+
+void CDrawingView::SetDocument(Document* document) {
+    EndDrag();
+    m_document = document;
+    m_camera.SetDrawing(document ? document->Drawing() : nullptr);
+    SpoilAll();
+    FitAll();
+}
+
+// ---- Looking
+
+void CDrawingView::FitAll() {
+    if (m_document) FitTo(m_document->Root());
+}
+
+void CDrawingView::FitSelection() {
+    if (m_document) FitTo(m_document->Selected().Set());
+}
+
+void CDrawingView::FitTo(GraphicStruct* graphic) {
+    m_camera.Fit(graphic, kMargin);
+    SpoilAll();
+}
+
+void CDrawingView::Zoom(double factor, CPoint anchor) {
+    m_camera.Zoom(factor, anchor);
+    SpoilAll();
+}
+
+void CDrawingView::Pan(CSize pixels) {
+    const CRect all = m_picture.Bounds();
+    if (m_spoiled.size() == 1 && m_spoiled.front() == all) { // nothing worth moving
+        m_camera.Pan(pixels);
+        return;
+    }
+    RenewPicture();
+    RenewScene();
+    m_camera.Pan(pixels);
+    m_picture.Shift(pixels);
+    m_scene.Shift(pixels);
+    Spoil(pixels.cx > 0 ? CRect(0, 0, pixels.cx, all.bottom)
+                        : CRect(all.right + pixels.cx, 0, all.right, all.bottom));
+    Spoil(pixels.cy > 0 ? CRect(0, 0, all.right, pixels.cy)
+                        : CRect(0, all.bottom + pixels.cy, all.right, all.bottom));
+    Invalidate(FALSE);
+}
+
+void CDrawingView::Redraw() {
+    SpoilAll();
+}
+
+// ---- Selecting
+
+void CDrawingView::SelectAll() {
+    if (m_document) Select(m_document->Selectable(), Selection::Way::Replace);
+}
+
+void CDrawingView::SelectNext(bool forward) {
+    GraphicStruct* next = m_document ? m_document->Next(forward) : nullptr;
+    if (!next) return;
+    Select({next}, Selection::Way::Replace);
+    const std::optional<WorldBox> box = ExtentsOf(next);
+    if (box && !m_camera.Visible().Contains(*box) && !box->Contains(m_camera.Visible())) {
+        m_camera.CenterOn(box->Center());
+        SpoilAll();
+    }
+}
+
+void CDrawingView::ClearSelection() {
+    EndDrag();
+    if (m_document) Select({}, Selection::Way::Replace);
+}
+
+void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
+    m_document->Selected().Apply(graphics, way);
+    ShowSelectionChange();
+}
+
+void CDrawingView::ShowSelectionChange() {
+    if (const std::optional<WorldBox> changed = m_document->Selected().TakeChanged()) {
+        CRect area = m_camera.ToPixels(*changed);
+        area.InflateRect(Glow::kRadius + kPenOverhang, Glow::kRadius + kPenOverhang);
+        m_spoiledScene.UnionRect(m_spoiledScene, area);
+        InvalidateRect(area, FALSE);
+    }
+    m_client.OnSelectionChanged();
+}
+
+// ---- Mouse and keys
+
+void CDrawingView::OnLButtonDown(UINT, CPoint point) {
+    SetFocus();
+    if (!m_document || m_drag != Drag::None) return;
+    m_drag = Drag::Press;
+    m_dragFrom = point;
+    SetCapture();
+}
+
+void CDrawingView::OnMButtonDown(UINT, CPoint point) {
+    SetFocus();
+    if (!m_document || m_drag != Drag::None) return;
+    m_drag = Drag::Pan;
+    m_dragFrom = point;
+    SetCapture();
+}
+
+void CDrawingView::OnMouseMove(UINT, CPoint point) {
+    m_client.OnPointerMoved(m_camera.ToWorld(point));
+    const CSize way = point - m_dragFrom;
+    if (m_drag == Drag::Press && (std::abs(way.cx) >= kDragStart || std::abs(way.cy) >= kDragStart)) {
+        m_drag = Drag::Band;
+        m_band.Start(m_dragFrom);
+    }
+    if (m_drag == Drag::Band) {
+        MoveBand(point);
+    } else if (m_drag == Drag::Pan) {
+        Pan(way);
+        m_dragFrom = point;
+    }
+}
+
+void CDrawingView::MoveBand(CPoint point) {
+    InvalidateRect(m_band.Frame(), FALSE);
+    m_band.MoveTo(point);
+    InvalidateRect(m_band.Frame(), FALSE);
+}
+
+void CDrawingView::OnLButtonUp(UINT flags, CPoint point) {
+    const Drag drag = m_drag;
+    const CRect frame = m_band.Frame();
+    const bool crossing = m_band.IsCrossing();
+    EndDrag();
+    if (drag == Drag::Band) {
+        Select(Within(frame, crossing), WayOf(flags));
+    } else if (drag == Drag::Press) {
+        GraphicStruct* graphic = At(point);
+        if (graphic)
+            Select({graphic}, WayOf(flags));
+        else if (WayOf(flags) == Selection::Way::Replace)
+            Select({}, Selection::Way::Replace);
+    }
+}
+
+// The first click of the two has selected what is there.
+void CDrawingView::OnLButtonDblClk(UINT flags, CPoint point) {
+    EndDrag();
+    if (m_document && !(flags & (MK_CONTROL | MK_SHIFT)) && At(point)) m_client.OnEditProperties();
+}
+
+GraphicStruct* CDrawingView::At(CPoint point) const {
+    return ::ViewportPick(m_camera.Viewport(), m_document->Root(), point, kReach, kAllGraphics);
+}
+
+std::vector<GraphicStruct*> CDrawingView::Within(const CRect& frame, bool crossing) const {
+    const Selection found;
+    ::ViewportPickWindow(m_camera.Viewport(), m_document->Root(), frame, crossing, kAllGraphics, found.Set());
+    return found.Members();
+}
+
+void CDrawingView::OnMButtonUp(UINT, CPoint) {
+    if (m_drag == Drag::Pan) EndDrag();
+}
+
+BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint screenPoint) {
+    CPoint point = screenPoint;
+    ScreenToClient(&point);
+    if (m_document) Zoom(delta > 0 ? kZoomStep : 1 / kZoomStep, point);
+    return TRUE;
+}
+
+void CDrawingView::OnKeyDown(UINT key, UINT, UINT) {
+    switch (key) {
+    case VK_LEFT:
+        Pan(CSize(kPanStep, 0));
+        break;
+    case VK_RIGHT:
+        Pan(CSize(-kPanStep, 0));
+        break;
+    case VK_UP:
+        Pan(CSize(0, kPanStep));
+        break;
+    case VK_DOWN:
+        Pan(CSize(0, -kPanStep));
+        break;
+    default:
+        Default();
+    }
+}
+
+void CDrawingView::OnCaptureChanged(CWnd*) {
+    m_drag = Drag::None;
+    if (m_band.IsActive()) InvalidateRect(m_band.Frame(), FALSE);
+    m_band.End();
+}
+
+void CDrawingView::EndDrag() {
+    if (m_drag != Drag::None) ::ReleaseCapture(); // ends in OnCaptureChanged
+}
+
+// ---- Painting
+
+void CDrawingView::OnSize(UINT, int cx, int cy) {
+    m_camera.SetWindow(CSize(cx, cy));
+    m_picture.Resize(CSize(cx, cy));
+    m_scene.Resize(CSize(cx, cy));
+    SpoilAll();
+}
+
+BOOL CDrawingView::OnEraseBkgnd(CDC*) {
+    return TRUE; // painting covers everything
+}
+
+void CDrawingView::Spoil(CRect area) {
+    area.IntersectRect(area, m_picture.Bounds());
+    if (area.IsRectEmpty()) return;
+    if (area == m_picture.Bounds()) m_spoiled.clear();
+    m_spoiled.push_back(area);
+    InvalidateRect(area, FALSE);
+}
+
+void CDrawingView::RenewPicture() {
+    for (const CRect& area : m_spoiled) {
+        m_picture.Fill(area, kBackground);
+        if (m_document) {
+            const int saved = ::SaveDC(m_picture.Dc());
+            ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);
+            DrawGraphic(m_picture.Dc(), m_document->Root());
+            ::RestoreDC(m_picture.Dc(), saved);
+        }
+        CRect glowing = area;
+        glowing.InflateRect(Glow::kRadius, Glow::kRadius);
+        m_spoiledScene.UnionRect(m_spoiledScene, glowing);
+    }
+    m_spoiled.clear();
+}
+
+void CDrawingView::RenewScene() {
+    CRect area = m_spoiledScene;
+    area.IntersectRect(area, m_scene.Bounds());
+    m_spoiledScene.SetRectEmpty();
+    if (area.IsRectEmpty()) return;
+    m_scene.CopyFrom(m_picture, area);
+    if (m_document && m_document->Selected().Count() > 0)
+        m_glow.Put(m_scene, area, [this](HDC dc) { DrawGraphic(dc, m_document->Selected().Set()); });
+}
+
+void CDrawingView::DrawGraphic(HDC dc, GraphicStruct* graphic) {
+    ::ViewportSetGDIStuff(m_camera.Viewport(), m_hWnd, dc, MM_TEXT, 1);
+    ::GraphicDrawEx2(graphic, nullptr, m_camera.Viewport(), 0, 1);
+}
+
+void CDrawingView::OnPaint() {
+    RenewPicture();
+    RenewScene();
+    CPaintDC dc(this);
+    const CRect area(dc.m_ps.rcPaint);
+    if (!m_scene.Dc()) return;
+    MemoryPicture frame; // so that the band does not flicker
+    if (!m_band.IsActive() || !frame.Resize(area.Size())) {
+        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_scene.Dc(), area.left,
+                 area.top, SRCCOPY);
+        return;
+    }
+    ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_scene.Dc(), area.left, area.top, SRCCOPY);
+    ::SetViewportOrgEx(frame.Dc(), -area.left, -area.top, nullptr);
+    m_band.Draw(frame.Dc());
+    ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), frame.Dc(), area.left, area.top,
+             SRCCOPY);
+}

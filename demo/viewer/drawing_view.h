@@ -1,0 +1,99 @@
+// The window that shows a drawing: zooming, panning, selecting. It changes nothing in the drawing; what is selected, and
+// what the user wants to edit, it tells its client.
+//
+// Two pictures in memory hold what is seen: the drawing alone, and the drawing with the selection's glow. Only what is out
+// of date of each is drawn anew, and the window is painted from the second one in one go.
+#pragma once
+
+#include <afxwin.h>
+
+#include <optional>
+#include <vector>
+
+#include "demo/viewer/camera.h"
+#include "demo/viewer/document.h"
+#include "demo/viewer/glow.h"
+#include "demo/viewer/memory_picture.h"
+#include "demo/viewer/rubber_band.h"
+
+class DrawingViewClient {
+public:
+    virtual ~DrawingViewClient();
+    virtual void OnSelectionChanged() = 0;
+    virtual void OnPointerMoved(WorldPoint point) = 0;
+    virtual void OnEditProperties() = 0;
+};
+
+class CDrawingView : public CWnd {
+    DECLARE_DYNAMIC(CDrawingView)
+public:
+    static constexpr COLORREF kBackground = RGB(33, 40, 48);
+
+    explicit CDrawingView(DrawingViewClient& client);
+    ~CDrawingView() override;
+
+    BOOL Create(CWnd* parent, UINT id);
+    // Shows the whole of the document, which outlives the view or is replaced before it goes; null: nothing.
+    void SetDocument(Document* document);
+    // The look of graphics has changed.
+    void Redraw();
+
+    const Camera& GetCamera() const { return m_camera; }
+    void FitAll();
+    void FitSelection();
+    void ZoomIn() { Zoom(kZoomStep, m_picture.Bounds().CenterPoint()); }
+    void ZoomOut() { Zoom(1 / kZoomStep, m_picture.Bounds().CenterPoint()); }
+    void Pan(CSize pixels);
+
+    void SelectAll();
+    void SelectNext(bool forward);
+    void ClearSelection();
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnMButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint screenPoint);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnCaptureChanged(CWnd* window);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    enum class Drag { None, Press, Band, Pan };
+    static constexpr double kZoomStep = 1.25;
+
+    void Zoom(double factor, CPoint anchor);
+    void FitTo(GraphicStruct* graphic);
+    void Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way);
+    void ShowSelectionChange();
+    GraphicStruct* At(CPoint point) const;
+    std::vector<GraphicStruct*> Within(const CRect& frame, bool crossing) const;
+    void EndDrag();
+    void MoveBand(CPoint point);
+
+    void Spoil(CRect area); // of the drawing's picture
+    void SpoilAll() { Spoil(m_picture.Bounds()); }
+    void RenewPicture();
+    void RenewScene();
+    void DrawGraphic(HDC dc, GraphicStruct* graphic);
+
+    DrawingViewClient& m_client;
+    Document* m_document = nullptr;
+    Camera m_camera;
+
+    MemoryPicture m_picture; // the drawing
+    MemoryPicture m_scene;   // with the selection
+    Glow m_glow;
+    std::vector<CRect> m_spoiled; // of the picture
+    CRect m_spoiledScene;
+
+    Drag m_drag = Drag::None;
+    CPoint m_dragFrom;
+    RubberBand m_band;
+};

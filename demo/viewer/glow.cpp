@@ -1,0 +1,83 @@
+// The rim around selected graphics.
+//
+// The selection is drawn once more, on a ground of a colour that nothing else has: every pixel of another colour
+// belongs to it. That works for whatever the drawing code draws, texts and hatches too.
+
+#include "demo/viewer/glow.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr COLORREF kGround = RGB(1, 2, 3);
+constexpr uint32_t kGroundPixel = 0x010203;
+constexpr uint32_t kRim = 0x3D9BFF;
+
+// Three parts rim, one part what was there.
+uint32_t Blend(uint32_t below) {
+    const uint32_t quarter = (below >> 2) & 0x3F3F3F;
+    return quarter + ((kRim >> 1) & 0x7F7F7F) + ((kRim >> 2) & 0x3F3F3F);
+}
+
+class Clipped {
+public:
+    Clipped(HDC dc, const CRect& area) : m_dc(dc), m_saved(::SaveDC(dc)) {
+        ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
+    }
+    ~Clipped() { ::RestoreDC(m_dc, m_saved); }
+    Clipped(const Clipped&) = delete;
+    Clipped& operator=(const Clipped&) = delete;
+
+private:
+    HDC m_dc;
+    int m_saved;
+};
+
+} // namespace
+
+void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>& draw) {
+    area.IntersectRect(area, scene.Bounds());
+    if (area.IsRectEmpty() || !m_mask.Resize(scene.Size())) return;
+    CRect around = area;
+    around.InflateRect(kRadius, kRadius);
+    around.IntersectRect(around, scene.Bounds());
+    m_mask.Fill(around, kGround);
+    {
+        const Clipped clipped(m_mask.Dc(), around);
+        draw(m_mask.Dc());
+    }
+    Spread(around);
+
+    const int width = around.Width();
+    for (int y = area.top; y < area.bottom; ++y) {
+        uint32_t* pixels = scene.Row(y);
+        const int row = y - around.top;
+        const int first = std::max(0, row - kRadius), last = std::min(around.Height() - 1, row + kRadius);
+        for (int x = area.left; x < area.right; ++x) {
+            const int column = x - around.left;
+            if (m_drawn[row * width + column]) continue;
+            for (int line = first; line <= last; ++line) {
+                if (!m_spread[line * width + column]) continue;
+                pixels[x] = Blend(pixels[x]);
+                break;
+            }
+        }
+    }
+}
+
+void Glow::Spread(const CRect& area) {
+    const int width = area.Width();
+    m_drawn.assign(static_cast<size_t>(width) * area.Height(), 0);
+    m_spread.assign(m_drawn.size(), 0);
+    for (int y = 0; y < area.Height(); ++y) {
+        const uint32_t* pixels = m_mask.Row(area.top + y) + area.left;
+        uint8_t* drawn = &m_drawn[static_cast<size_t>(y) * width];
+        uint8_t* spread = &m_spread[static_cast<size_t>(y) * width];
+        for (int x = 0; x < width; ++x) {
+            if ((pixels[x] & 0xFFFFFF) == kGroundPixel) continue;
+            drawn[x] = 1;
+            std::fill(spread + std::max(0, x - kRadius), spread + std::min(width, x + kRadius + 1),
+                      uint8_t{1});
+        }
+    }
+}

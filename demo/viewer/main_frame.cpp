@@ -1,0 +1,288 @@
+// The main window.
+
+#include "demo/viewer/main_frame.h"
+
+#include <afxdlgs.h>
+
+#include "demo/viewer/control_tables.h"
+#include "demo/viewer/file_name.h"
+#include "demo/viewer/property_sheet.h"
+#include "demo/viewer/resource.h"
+#include "demo/viewer/style_commands.h"
+
+namespace {
+
+constexpr const char* kTitle = "Orlo Demo";
+constexpr const char* kOpenFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
+constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
+constexpr const char* kKeys =
+    "Click\tselect; Ctrl adds or takes away, Shift adds\n"
+    "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
+    "Tab\tselect the next one; Ctrl+A all, Esc none\n"
+    "Double click, Alt+Enter\tproperties of the selection\n"
+    "Ctrl+Z\ttake the last change back\n"
+    "Ctrl+N\tnew style after the selection; Ctrl+Enter edits it, Ctrl+E applies it\n"
+    "\n"
+    "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
+    "Middle button, arrows\tmove the drawing\n"
+    "Ctrl+O\topen a drawing";
+
+std::string Counted(int count, const char* one) {
+    return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_SIZE()
+ON_WM_SETFOCUS()
+ON_WM_DROPFILES()
+ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
+ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
+ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
+ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnEditUndo)
+ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
+ON_COMMAND(ID_EDIT_SELECT_NEXT, &CMainFrame::OnSelectNext)
+ON_COMMAND(ID_EDIT_SELECT_PREVIOUS, &CMainFrame::OnSelectPrevious)
+ON_COMMAND(ID_EDIT_SELECT_NONE, &CMainFrame::OnSelectNone)
+ON_COMMAND(ID_EDIT_PROPERTIES, &CMainFrame::OnProperties)
+ON_COMMAND(ID_STYLE_NEW, &CMainFrame::OnNewStyle)
+ON_COMMAND(ID_STYLE_PROPERTIES, &CMainFrame::OnStyleProperties)
+ON_COMMAND(ID_STYLE_APPLY, &CMainFrame::OnApplyStyle)
+ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
+ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
+ON_COMMAND(ID_VIEW_FIT_ALL, &CMainFrame::OnFitAll)
+ON_COMMAND(ID_VIEW_FIT_SELECTION, &CMainFrame::OnFitSelection)
+ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
+END_MESSAGE_MAP()
+
+CMainFrame::CMainFrame() : m_view(*this) {}
+
+CMainFrame::~CMainFrame() = default;
+
+BOOL CMainFrame::Create() {
+    return LoadFrame(IDR_MAINFRAME);
+}
+
+BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
+    cs.cx = 1000;
+    cs.cy = 740;
+    return CFrameWnd::PreCreateWindow(cs);
+}
+
+int CMainFrame::OnCreate(LPCREATESTRUCT create) {
+    if (CFrameWnd::OnCreate(create) == -1) return -1;
+    if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
+    m_status.ShowMessage(kHello);
+    DragAcceptFiles();
+    return 0;
+}
+
+void CMainFrame::OnDestroy() {
+    m_view.SetDocument(nullptr);
+    CFrameWnd::OnDestroy();
+}
+
+void CMainFrame::OnSize(UINT type, int cx, int cy) {
+    CFrameWnd::OnSize(type, cx, cy);
+    if (type == SIZE_MINIMIZED || !m_status.GetSafeHwnd()) return;
+    m_status.Arrange();
+    m_view.MoveWindow(0, 0, cx, std::max(0, cy - m_status.Height()));
+}
+
+void CMainFrame::OnSetFocus(CWnd*) {
+    if (m_view.GetSafeHwnd()) m_view.SetFocus();
+}
+
+// ---- Opening
+
+bool CMainFrame::Open(const std::string& path) {
+    try {
+        m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
+        std::unique_ptr<Document> opened =
+            Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
+        m_status.EndProgress();
+        Show(std::move(opened));
+        return true;
+    } catch (const OpenError& error) {
+        m_status.EndProgress();
+        AfxMessageBox(SystemText(error.what()).c_str());
+        return false;
+    }
+}
+
+void CMainFrame::Show(std::unique_ptr<Document> document) {
+    m_view.SetDocument(document.get());
+    m_document = std::move(document); // the one before goes now
+    ShowWhatOpened();
+    OnSelectionChanged();
+    ShowTitle();
+}
+
+void CMainFrame::ShowWhatOpened() {
+    std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
+    const std::vector<std::string>& findings = m_document->Findings();
+    if (!findings.empty()) text += "; " + findings.front();
+    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
+    m_status.ShowMessage(text);
+}
+
+void CMainFrame::ShowTitle() {
+    SetWindowText((SystemText(m_document->Name()) + " - " + kTitle).c_str());
+}
+
+void CMainFrame::OnFileOpen() {
+    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kOpenFilter, this);
+    if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
+}
+
+void CMainFrame::OnDropFiles(HDROP drop) {
+    wchar_t path[MAX_PATH] = L"";
+    ::DragQueryFileW(drop, 0, path, MAX_PATH);
+    ::DragFinish(drop);
+    if (path[0] && IsWindowEnabled()) Open(Utf8(path));
+}
+
+void CMainFrame::OnAppExit() {
+    PostMessage(WM_CLOSE);
+}
+
+// ---- Editing
+
+BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (lParam && FillStyleControl(wParam, lParam, m_document.get())) return TRUE;
+    return CFrameWnd::OnCommand(wParam, lParam);
+}
+
+void CMainFrame::OnProperties() {
+    OnEditProperties();
+}
+
+void CMainFrame::OnEditProperties() {
+    if (!CanDo(ID_EDIT_PROPERTIES)) {
+        m_status.ShowMessage("Nothing is selected");
+        return;
+    }
+    const SheetOutcome outcome = EditSelection(this, *m_document);
+    if (outcome.changed) {
+        m_view.Redraw();
+        std::string message = Counted(outcome.changed, "graphic") + " changed";
+        if (const int forgotten = m_document->ForgottenSteps())
+            message += "; there is no memory left to take back the oldest " + Counted(forgotten, "change");
+        m_status.ShowMessage(message);
+    } else {
+        m_status.ShowMessage("Nothing changed");
+    }
+}
+
+void CMainFrame::OnEditUndo() {
+    if (!CanDo(ID_EDIT_UNDO)) return;
+    m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
+    m_view.Redraw();
+}
+
+// ---- Styles
+
+void CMainFrame::OnNewStyle() {
+    if (CanDo(ID_STYLE_NEW)) m_status.ShowMessage(NewStyle(this, *m_document));
+}
+
+void CMainFrame::OnStyleProperties() {
+    if (CanDo(ID_STYLE_PROPERTIES)) m_status.ShowMessage(EditStyles(this, *m_document));
+}
+
+void CMainFrame::OnApplyStyle() {
+    if (!CanDo(ID_STYLE_APPLY)) return;
+    m_status.ShowMessage(ApplyStyle(*m_document));
+    m_view.Redraw();
+}
+
+// ---- Selecting
+
+void CMainFrame::OnSelectAll() {
+    m_view.SelectAll();
+}
+
+void CMainFrame::OnSelectNext() {
+    m_view.SelectNext(true);
+}
+
+void CMainFrame::OnSelectPrevious() {
+    m_view.SelectNext(false);
+}
+
+void CMainFrame::OnSelectNone() {
+    m_view.ClearSelection();
+}
+
+void CMainFrame::OnSelectionChanged() {
+    const int count = m_document ? m_document->Selected().Count() : 0;
+    m_status.ShowSelection(count ? std::to_string(count) + " selected" : "");
+}
+
+void CMainFrame::OnPointerMoved(WorldPoint point) {
+    if (m_document)
+        m_status.ShowPointer(m_document->LengthText(point.x) + ",  " + m_document->LengthText(point.y));
+}
+
+// ---- Looking
+
+void CMainFrame::OnZoomIn() {
+    m_view.ZoomIn();
+}
+
+void CMainFrame::OnZoomOut() {
+    m_view.ZoomOut();
+}
+
+void CMainFrame::OnFitAll() {
+    m_view.FitAll();
+}
+
+void CMainFrame::OnFitSelection() {
+    m_view.FitSelection();
+}
+
+void CMainFrame::OnHelpKeys() {
+    MessageBox(kKeys, kTitle, MB_OK | MB_ICONINFORMATION);
+}
+
+// ---- Menu
+
+bool CMainFrame::CanDo(UINT command) const {
+    switch (command) {
+    case ID_EDIT_UNDO:
+        return m_document && m_document->UndoSteps() > 0;
+    case ID_STYLE_PROPERTIES:
+        return m_document && m_document->Styles().Current() != 0;
+    case ID_STYLE_APPLY:
+        return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
+    case ID_STYLE_NEW:
+    case ID_EDIT_PROPERTIES:
+    case ID_EDIT_SELECT_NONE:
+    case ID_VIEW_FIT_SELECTION:
+        return m_document && m_document->Selected().Count() > 0;
+    case ID_EDIT_SELECT_ALL:
+    case ID_EDIT_SELECT_NEXT:
+    case ID_EDIT_SELECT_PREVIOUS:
+    case ID_VIEW_ZOOM_IN:
+    case ID_VIEW_ZOOM_OUT:
+    case ID_VIEW_FIT_ALL:
+        return m_document != nullptr;
+    default:
+        return true;
+    }
+}
+
+LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
+    const HMENU menu = reinterpret_cast<HMENU>(wParam);
+    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+        const UINT command = ::GetMenuItemID(menu, i);
+        ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));
+    }
+    return 0;
+}

@@ -1,0 +1,70 @@
+// The main window: menu, view, status line, and the host's half of the talk with the library's controls.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <string>
+
+#include "demo/viewer/document.h"
+#include "demo/viewer/drawing_view.h"
+#include "demo/viewer/status_line.h"
+
+class CMainFrame : public CFrameWnd, private DrawingViewClient {
+    DECLARE_DYNAMIC(CMainFrame)
+public:
+    CMainFrame();
+    ~CMainFrame() override;
+
+    // False: no window could be made, and the object is gone.
+    BOOL Create();
+
+    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one.
+    bool Open(const std::string& path);
+    // The same for a drawing that has been opened already.
+    void Show(std::unique_ptr<Document> document);
+    Document* GetDocument() const { return m_document.get(); }
+    CDrawingView& View() { return m_view; }
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* before);
+    afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
+
+    afx_msg void OnFileOpen();
+    afx_msg void OnAppExit();
+    afx_msg void OnEditUndo();
+    afx_msg void OnSelectAll();
+    afx_msg void OnSelectNext();
+    afx_msg void OnSelectPrevious();
+    afx_msg void OnSelectNone();
+    afx_msg void OnProperties();
+    afx_msg void OnNewStyle();
+    afx_msg void OnStyleProperties();
+    afx_msg void OnApplyStyle();
+    afx_msg void OnZoomIn();
+    afx_msg void OnZoomOut();
+    afx_msg void OnFitAll();
+    afx_msg void OnFitSelection();
+    afx_msg void OnHelpKeys();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void OnSelectionChanged() override;
+    void OnPointerMoved(WorldPoint point) override;
+    void OnEditProperties() override;
+
+    void ShowWhatOpened();
+    void ShowTitle();
+    bool CanDo(UINT command) const;
+
+    CDrawingView m_view;
+    CStatusLine m_status;
+    std::unique_ptr<Document> m_document;
+};

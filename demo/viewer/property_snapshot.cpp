@@ -1,0 +1,157 @@
+// What graphics have as their properties, as texts in the host's own reading.
+
+#include "demo/viewer/property_snapshot.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <tuple>
+
+#include "drawcore/property_schema.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/property.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/units.h"
+#include "orlo/host/walk.h"
+
+namespace {
+
+using orlo::host::ReadProperty;
+
+std::string HostText(unsigned int id) {
+    char text[128] = "";
+    ::DrawCoreLoadString(id, text, sizeof text);
+    return text;
+}
+
+std::string Number(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", value);
+    return text;
+}
+
+std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
+    char name[128] = "";
+    ::TableEntryGetName(::DrawingGetTable(drawing, table), id, name, sizeof name);
+    return name[0] ? name : "#" + std::to_string(id);
+}
+
+std::string ColorText(DrawingStruct* drawing, uint32_t color) {
+    switch (color) {
+    case kColorByLayer:
+        return HostText(kStringByLayer);
+    case kColorByBlock:
+        return HostText(kStringByBlock);
+    case kColorOfPen:
+        return HostText(kStringLastColor);
+    }
+    TableStruct* colors = ::DrawingGetTable(drawing, kTableColors);
+    for (const uint16_t id : orlo::host::Entries(colors)) {
+        const auto* value = static_cast<const COLORREF*>(::TableEntryGetData(colors, id));
+        if (value && *value == color) return EntryName(drawing, kTableColors, id);
+    }
+    return std::to_string(GetRValue(color)) + "," + std::to_string(GetGValue(color)) + "," +
+           std::to_string(GetBValue(color));
+}
+
+std::string LineStyleText(DrawingStruct* drawing, uint16_t style) {
+    switch (style) {
+    case kLineStyleNone:
+        return "none";
+    case kLineStyleByLayer:
+        return HostText(kStringByLayer);
+    case kLineStyleByBlock:
+        return HostText(kStringByBlock);
+    default:
+        return EntryName(drawing, kTableLineStyles, style);
+    }
+}
+
+std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double width) {
+    const bool world = ReadProperty<uint8_t>(graphic, kPropScaleSystem) == uint8_t{kScaleWorld};
+    char text[64] = "";
+    if (world)
+        ::DrawingStdNumericToText(drawing, width, text, sizeof text, 0);
+    else
+        ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetresPerInch, text,
+                               sizeof text, 0, 1);
+    return text[0] ? text : Number(width);
+}
+
+std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t value) {
+    const auto id = static_cast<uint16_t>(value);
+    switch (meaning) {
+    case kMeansSwitch:
+        return value ? "yes" : "no";
+    case kMeansColor:
+        return ColorText(drawing, value);
+    case kMeansLineStyle:
+        return LineStyleText(drawing, id);
+    case kMeansBrushStyle:
+        return id == kBrushStyleNone ? HostText(kStringNoBrush) : EntryName(drawing, kTableBrushStyles, id);
+    case kMeansLayer:
+        return EntryName(drawing, kTableLayers, id);
+    case kMeansBlock:
+        return id ? EntryName(drawing, kTableBlocks, id) : "none";
+    case kMeansScaleSystem:
+        return HostText(id == kScaleWorld ? kStringWorldScale : kStringPaperScale);
+    default:
+        return std::to_string(value);
+    }
+}
+
+// Empty if the graphic has no such property.
+std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
+    switch (property.form) {
+    case kFormWhole:
+        if (const auto value = ReadProperty<uint32_t>(graphic, property.name))
+            return WholeText(drawing, property.meaning, *value);
+        break;
+    case kFormReal:
+        if (const auto value = ReadProperty<double>(graphic, property.name))
+            return property.meaning == kMeansWidth ? WidthText(drawing, graphic, *value) : Number(*value);
+        break;
+    case kFormText:
+        if (const auto value = ReadProperty<std::string>(graphic, property.name)) return '"' + *value + '"';
+    }
+    return "";
+}
+
+} // namespace
+
+PropertySnapshot::PropertySnapshot(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics) {
+    m_values.reserve(graphics.size());
+    for (GraphicStruct* graphic : graphics) {
+        Values_& values = m_values.emplace_back();
+        for (const PropertyInfo& property : AllProperties()) {
+            std::string text = ValueText(drawing, graphic, property);
+            if (!text.empty()) values.emplace(property.name, std::move(text));
+        }
+    }
+}
+
+std::vector<PropertyChange> PropertySnapshot::ChangesTo(const PropertySnapshot& later) const {
+    std::map<std::tuple<std::string, std::string, std::string>, int> counts;
+    for (size_t i = 0; i < m_values.size(); ++i) {
+        for (const auto& [property, value] : m_values[i]) {
+            const auto after = later.m_values[i].find(property);
+            const std::string& now = after == later.m_values[i].end() ? "" : after->second;
+            if (now != value) ++counts[{property, value, now}];
+        }
+    }
+    std::vector<PropertyChange> changes;
+    for (const auto& [key, count] : counts)
+        changes.push_back({std::get<0>(key), std::get<1>(key), std::get<2>(key), count});
+    std::stable_sort(changes.begin(), changes.end(), [](const PropertyChange& a, const PropertyChange& b) {
+        return a.property != b.property ? a.property < b.property : a.graphics > b.graphics;
+    });
+    return changes;
+}
+
+std::map<std::string, int> PropertySnapshot::Values(const std::string& property) const {
+    std::map<std::string, int> counts;
+    for (const Values_& values : m_values) {
+        const auto found = values.find(property);
+        if (found != values.end()) ++counts[found->second];
+    }
+    return counts;
+}

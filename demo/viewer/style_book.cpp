@@ -1,0 +1,203 @@
+// The styles of an open drawing.
+
+#include "demo/viewer/style_book.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "drawcore/drawing.h"
+#include "drawcore/graphic.h"
+#include "drawcore/property_schema.h"
+#include "orlo/host/block.h"
+#include "orlo/host/owners.h"
+#include "orlo/host/property.h"
+#include "orlo/host/strings.h"
+#include "orlo/host/text.h"
+#include "orlo/host/walk.h"
+
+namespace {
+
+using orlo::host::Entries;
+using orlo::host::FindProperty;
+using orlo::host::Members;
+using orlo::host::OwnedVertex;
+using orlo::host::ReadProperty;
+using orlo::host::WriteProperty;
+
+constexpr const char* kTree = "Graphic styles";
+
+using Names = std::vector<const char*>;
+const Names kPen = {kPropPenColor, kPropPenStyle,    kPropPenScale,
+                    kPropPenWidth, kPropScaleSystem, kPropPenAlignment};
+const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
+                      kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
+const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
+
+template <class Value>
+void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
+    if (const auto value = ReadProperty<Value>(from, name)) WriteProperty(to, name, *value);
+}
+
+// Those that both have.
+void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) {
+    for (const PropertyInfo& property : AllProperties()) {
+        const auto isThis = [&](const char* name) { return !std::strcmp(name, property.name); };
+        if (std::none_of(names.begin(), names.end(), isThis)) continue;
+        if (property.form == kFormWhole)
+            CopyProperty<uint32_t>(from, to, property.name);
+        else if (property.form == kFormReal)
+            CopyProperty<double>(from, to, property.name);
+        else
+            CopyProperty<std::string>(from, to, property.name);
+    }
+}
+
+uint16_t StyleOf(GraphicStruct* graphic) {
+    return ReadProperty<uint16_t>(graphic, kPropStyleTree).value_or(0);
+}
+
+GraphicStruct* NewShape() {
+    GraphicStruct* shape = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    constexpr double kCorners[][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 0}};
+    for (const auto& corner : kCorners)
+        ::GraphicVertexAdd(shape, OwnedVertex(::VertexNewEx(corner[0], corner[1], 0)).get());
+    return shape;
+}
+
+GraphicStruct* NewText() {
+    GraphicStruct* text = ::GraphicNewEx(kGraphicText, 0, 1);
+    ::TextSetVWHAEx(text, OwnedVertex(::VertexNewEx(0, 0, 0)).get(), 0, 1, 0, "Text");
+    return text;
+}
+
+// The samples of a style's contents.
+struct Samples {
+    explicit Samples(GraphicStruct* content) {
+        for (GraphicStruct* member : Members(content))
+            (member->bType == kGraphicText ? text : shape) = member;
+    }
+    GraphicStruct* shape = nullptr;
+    GraphicStruct* text = nullptr;
+};
+
+} // namespace
+
+TableStruct* StyleBook::Table() const {
+    return ::BlocksFromDrawing(m_drawing);
+}
+
+std::vector<uint16_t> StyleBook::All() const {
+    std::vector<uint16_t> styles;
+    for (const uint16_t id : Entries(Table()))
+        if (IsStyle(id)) styles.push_back(id);
+    return styles;
+}
+
+bool StyleBook::IsStyle(uint16_t id) const {
+    const GraphicStruct* content = Content(id);
+    return content && content->pszStyleName && !std::strcmp(content->pszStyleName, kTree);
+}
+
+std::string StyleBook::Name(uint16_t id) const {
+    char name[256] = "";
+    ::TableEntryGetName(Table(), id, name, sizeof name);
+    return name;
+}
+
+GraphicStruct* StyleBook::Content(uint16_t id) const {
+    return ::BlockGetGraphic(Table(), id);
+}
+
+int StyleBook::Uses(uint16_t id) const {
+    int uses = 0;
+    for (GraphicStruct* graphic : Members(::DrawingGetRoot(m_drawing)))
+        uses += StyleOf(graphic) == id;
+    return uses;
+}
+
+std::string StyleBook::WhyNot(const std::string& name) const {
+    if (name.empty()) return "A style needs a name.";
+    if (name.size() > kLongestName)
+        return "The name of a style has " + std::to_string(kLongestName) + " characters at most.";
+    for (const unsigned int id : kStringsReservedStyles) {
+        char reserved[64] = "";
+        ::DrawCoreLoadString(id, reserved, sizeof reserved);
+        if (::_stricmp(name.c_str(), reserved) == 0) return "The name \"" + name + "\" is reserved.";
+    }
+    if (::BlocksFindBlock(Table(), name.c_str()))
+        return "There is a style or block \"" + name + "\" already.";
+    return "";
+}
+
+StyleBook::Examples StyleBook::ExamplesOf(const std::vector<GraphicStruct*>& graphics) {
+    const auto first = [&](const char* property) {
+        const auto found = std::find_if(graphics.begin(), graphics.end(), [=](GraphicStruct* graphic) {
+            return FindProperty(graphic, property).has_value();
+        });
+        return found != graphics.end() ? *found : nullptr;
+    };
+    return {first(kPropPenWidth), first(kPropBrushStyle), first(kPropTextFont)};
+}
+
+StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics) {
+    const Examples examples = ExamplesOf(graphics);
+    return {examples.pen != nullptr, examples.brush != nullptr, examples.text != nullptr};
+}
+
+uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
+    if (!WhyNot(name).empty()) return 0;
+    GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
+    GraphicStruct* shape = ::GraphicAdd(content, NewShape());
+    GraphicStruct* text = ::GraphicAdd(content, NewText());
+    ::GraphicSetStyleName(content, kTree);
+    const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content);
+    if (!id) {
+        ::GraphicDispose(&content);
+        return 0;
+    }
+    const Examples examples = ExamplesOf(graphics);
+    if (examples.pen) CopyProperties(examples.pen, shape, kPen);
+    if (examples.brush) CopyProperties(examples.brush, shape, kBrush);
+    if (examples.text) CopyProperties(examples.text, text, kText);
+    Enter(id, parts);
+    return id;
+}
+
+uint16_t StyleBook::TakeAdded() {
+    for (const uint16_t id : All()) {
+        if (m_parts.count(id)) continue;
+        Enter(id, m_parts.at(m_current));
+        return id;
+    }
+    return 0;
+}
+
+// The samples are in the style that they stand for.
+void StyleBook::Enter(uint16_t id, Parts parts) {
+    m_parts[id] = parts;
+    m_current = id;
+    for (GraphicStruct* member : Members(Content(id)))
+        WriteProperty(member, kPropStyleTree, id);
+}
+
+bool StyleBook::Delete(uint16_t id) {
+    if (Uses(id) > 0) return false;
+    ::BlockDispose(Table(), id);
+    m_parts.erase(id);
+    if (m_current == id) m_current = m_parts.empty() ? 0 : m_parts.begin()->first;
+    return true;
+}
+
+void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const {
+    const Samples samples(Content(m_current));
+    const Parts& parts = m_parts.at(m_current);
+    for (GraphicStruct* graphic : graphics) {
+        if (graphic->bType == kGraphicText) {
+            if (parts.text) CopyProperties(samples.text, graphic, kText);
+        } else {
+            if (parts.pen) CopyProperties(samples.shape, graphic, kPen);
+            if (parts.brush) CopyProperties(samples.shape, graphic, kBrush);
+        }
+        WriteProperty(graphic, kPropStyleTree, m_current);
+    }
+}

@@ -1,0 +1,70 @@
+// The commands of the menu of styles.
+
+#include "demo/viewer/style_commands.h"
+
+#include "demo/viewer/document.h"
+#include "demo/viewer/property_sheet.h"
+#include "demo/viewer/style_wizard.h"
+#include "orlo/frame/style_end_code.h"
+
+namespace {
+
+std::string Quoted(const Document& document, uint16_t style) {
+    return "\"" + document.Styles().Name(style) + "\"";
+}
+
+// The style of a code, 0 if it is none of that kind. Identifiers reach beyond a thousand in drawings of many blocks, so
+// that a code can be read in several ways: only one of them names a style.
+uint16_t StyleIn(const Document& document, int code, int kind) {
+    const int id = code - kind;
+    if (id <= 0 || id > 0xFFFF) return 0;
+    return document.Styles().IsStyle(static_cast<uint16_t>(id)) ? static_cast<uint16_t>(id) : 0;
+}
+
+std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
+    const std::string name = Quoted(document, style);
+    if (const int uses = document.Styles().Uses(style)) {
+        const std::string text = "The style " + name + " stays: " + std::to_string(uses) +
+                                 (uses == 1 ? " graphic uses it." : " graphics use it.");
+        owner->MessageBox(text.c_str(), "Delete Style", MB_OK | MB_ICONEXCLAMATION);
+        return "";
+    }
+    const std::string question = "Delete the style " + name + "?";
+    if (owner->MessageBox(question.c_str(), "Delete Style", MB_YESNO | MB_ICONQUESTION) != IDYES) return "";
+    document.Styles().Delete(style);
+    return "Style " + name + " deleted";
+}
+
+} // namespace
+
+std::string NewStyle(CWnd* owner, Document& document) {
+    if (!MakeStyleByWizard(owner, document)) return "";
+    return "New style " + Quoted(document, document.Styles().Current());
+}
+
+std::string EditStyles(CWnd* owner, Document& document) {
+    StyleBook& styles = document.Styles();
+    for (;;) {
+        const int code =
+            RunSheet(owner, document.Drawing(), styles.Content(styles.Current()), kWithStylePart);
+        if (code == kStyleAdded) {
+            if (!styles.TakeAdded()) return "The style could not be added";
+        } else if (const uint16_t chosen = StyleIn(document, code, kStyleChosen)) {
+            styles.SetCurrent(chosen);
+        } else if (const uint16_t doomed = StyleIn(document, code, kStyleToDelete)) {
+            return DeleteStyle(owner, document, doomed);
+        } else if (const uint16_t last = StyleIn(document, code, kStyleChosenByOk)) {
+            styles.SetCurrent(last);
+            return "Current style: " + Quoted(document, last);
+        } else {
+            return code == IDOK ? "Current style: " + Quoted(document, styles.Current()) : "";
+        }
+    }
+}
+
+std::string ApplyStyle(Document& document) {
+    const int changed =
+        document.Change([&] { document.Styles().ApplyCurrent(document.Selected().Members()); });
+    return std::to_string(changed) + (changed == 1 ? " graphic" : " graphics") + " put into style " +
+           Quoted(document, document.Styles().Current());
+}
