@@ -109,7 +109,7 @@ protected:
     static void Paste(SheetDriver& user, int id, const char* text) {
         user.Focus(id);
         ::SendMessageA(user.Control(id), EM_SETSEL, 0, -1);
-        ::SendMessageA(user.Control(id), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+        ::SendMessageA(user.Control(id), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
         user.Pump();
     }
 
@@ -195,6 +195,41 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
         EXPECT_EQ(3, ::DrawingUndo(drawing.Get()));
         EXPECT_EQ(before, All());
     }
+}
+
+// Typed over and taken back, by undo or by hand, a field is as it was: the user sees no new value.
+TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
+    Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
+    Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
+    const Vertices before = All();
+    const auto takeBack = [&](SheetDriver& user, bool byUndo) {
+        for (const int id : kAll) {
+            const std::string first = user.Text(id);
+            Paste(user, id, "7");
+            byUndo ? void(::SendMessageA(user.Control(id), WM_UNDO, 0, 0)) : Paste(user, id, first.c_str());
+            EXPECT_EQ(first, user.Text(id));
+        }
+    };
+    for (const bool byUndo : {true, false}) {
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      takeBack(user, byUndo);
+                      user.SelectPage(0);
+                      user.SelectPage(1);
+                      Paste(user, kScaleZ, "*****"); // no value, whatever was there
+                      user.Ok();
+                  }));
+        EXPECT_EQ(before, All());
+    }
+    // Once written, the new text is the first one.
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  Paste(user, kPositionX, "9");
+                  user.SelectPage(0);
+                  EXPECT_EQ(9, Parts(0).position[0]);
+                  user.SelectPage(1);
+                  Paste(user, kPositionX, "1.23457e+06");
+                  user.Ok();
+              }));
+    EXPECT_EQ(1234570, Parts(1).position[0]);
 }
 
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
