@@ -8,6 +8,7 @@
 #include "orlo/binding/object_set.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/number_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
@@ -180,7 +181,7 @@ void CInsertPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CDataExchange dx(this, TRUE);
     for (const Field& field : kFields)
-        if (bAll || GetControlStatus(field.nID)) SaveField(&dx, field);
+        if ((bAll || GetControlStatus(field.nID)) && !IsBeginningOfReal(TextOf(field))) SaveField(&dx, field);
     ApplyInsertParts(1);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

@@ -250,21 +250,24 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     EXPECT_EQ(0, ::TableEntryNext(blocks, &cookie)) << "no other block";
 }
 
-// The message comes while the user types; OK then keeps page, text and focus until the value is good.
+// The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
+// the value is good.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
     AddMixed();
     const Vertices before = All();
     const struct {
         int id;
         const char* text;
-    } kRows[] = {{kScaleX, "1001"},     {kScaleY, "-1000.1"}, {kScaleZ, "wide"}, {kPositionX, ""},
-                 {kPositionZ, "1,5,7"}, {kRotateX, "north"},  {kRotateY, "-"}};
+        size_t atOnce;
+    } kRows[] = {{kScaleX, "1001", 1},     {kScaleY, "-1000.1", 1}, {kScaleZ, "wide", 1},
+                 {kPositionX, "", 0},      {kPositionY, "1e", 0},   {kPositionZ, "1,5,7", 1},
+                 {kPositionZ, "1e39-", 1}, {kRotateX, "north", 1},  {kRotateY, "-", 0}};
     for (const auto& row : kRows) {
-        SCOPED_TRACE(row.id);
+        SCOPED_TRACE(row.text);
         EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       MessageBoxWatcher boxes;
                       Paste(user, row.id, row.text);
-                      EXPECT_EQ(1u, boxes.Boxes().size());
+                      EXPECT_EQ(row.atOnce, boxes.Boxes().size());
                       user.Focus(row.id == kScaleX ? kScaleY : kScaleX);
                       boxes.Forget();
                       user.Ok();
@@ -276,6 +279,25 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
                       EXPECT_EQ(page.m_hWnd, user.Page()) << "nor is there a way to another page";
                   }));
         EXPECT_EQ(before, All());
+    }
+}
+
+TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
+    Add({{1, 2, 3}, {1, 1, 1}, {0, 0, 0}});
+    const struct {
+        const char* text;
+        double value;
+    } kRows[] = {{"-5", -5}, {".5", 0.5}, {"-0.0625", -0.0625}, {"1e2", 100}, {"+2.5e-1", 0.25}};
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(row.text);
+        MessageBoxWatcher boxes;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      user.Type(kPositionY, "");
+                      user.Type(kPositionY, row.text);
+                      user.Ok();
+                  }));
+        EXPECT_TRUE(boxes.Boxes().empty());
+        EXPECT_EQ(row.value, Parts(0).position[1]);
     }
 }
 
