@@ -46,16 +46,12 @@ CString ShownText(HWND combo) {
     return text;
 }
 
-// Selects the text, which joins the list if it is not there. An item that only begins with it will do.
-int FindOrAdd(HWND combo, const CString& text) {
-    const auto find = [&] {
-        return static_cast<int>(
-            ::SendMessageA(combo, CB_FINDSTRING, 0, reinterpret_cast<LPARAM>(static_cast<LPCSTR>(text))));
-    };
-    const int index = find();
+// The item of that text, which joins the list if it is not there. One that only begins with it is another height.
+int FindOrAdd(const ControlItems& items, const CString& text) {
+    const int index = items.FindExact(text);
     if (index != CB_ERR) return index;
-    ControlItems::OfCombo(combo).Add(text);
-    return find();
+    items.Add(text);
+    return items.FindExact(text);
 }
 
 } // namespace
@@ -115,7 +111,7 @@ void CTextPage::OnFontChange() {
     const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
     const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
     FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
-    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizes, size));
+    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizeItems, size));
 }
 
 void* CTextPage::CreatePreviewGraphic() {

@@ -240,6 +240,21 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
     EXPECT_EQ(kSans, text.Text("TextFont"));
 }
 
+// A listed height that begins with it does not take its place.
+TEST_F(TextPage, AChangeOfFontKeepsAHeightThatOthersBeginWith) {
+    std::ofstream(ini) << "[FontSizes]\nmm=10,20,3.5\n";
+    KitGraphic& text = Add(kSans, 5, 0, kRed, 0);
+    for (const double height : {1.0, 2.0, 3.0}) {
+        text.properties["TextFont"] = kSans;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      user.Type(kSize, std::to_string(static_cast<int>(height)));
+                      ChooseFont(user, kSerif);
+                      user.Ok();
+                  }));
+        EXPECT_EQ(height, text.Number("TextSize"));
+    }
+}
+
 TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     KitGraphic& a = Add(kSans, 4, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 4, 0, kRed, 0);
