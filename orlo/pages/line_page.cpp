@@ -38,6 +38,25 @@ constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
 
+// Makes the combo anew with a field that scrolls, which only a new window can get: the template's drops what is typed beyond
+// its width.
+void MakeFieldScroll(HWND page, int nID) {
+    const HWND combo = ::GetDlgItem(page, nID);
+    RECT place = {};
+    ::SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place));
+    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_STYLE));
+    const HWND scrolling = ::CreateWindowExA(
+        static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_EXSTYLE)), "ComboBox", nullptr,
+        style | CBS_AUTOHSCROLL, place.left, place.top, place.right - place.left, place.bottom - place.top,
+        page, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(), nullptr);
+    if (scrolling == nullptr) return;
+    ::SendMessageA(scrolling, WM_SETFONT, static_cast<WPARAM>(::SendMessageA(combo, WM_GETFONT, 0, 0)),
+                   FALSE);
+    ::SetWindowPos(scrolling, combo, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ::DestroyWindow(combo);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
@@ -53,6 +72,7 @@ CLinePage::~CLinePage() = default;
 
 BOOL CLinePage::OnInitDialog() {
     if (m_hWnd != nullptr) {
+        MakeFieldScroll(m_hWnd, kWidthCombo);
         for (unsigned int id : {kStringWorldScale, kStringPaperScale}) {
             char text[64] = "";
             ::DrawCoreLoadString(id, text, sizeof text);

@@ -21,7 +21,8 @@ public:
     void SetPreviewProperties(int bAll) override;
 
 protected:
-    // Each font has its own heights. The height that was there stays, whether or not the new font offers it.
+    // Each font has its own heights. The height that was there stays chosen, whether or not the new font offers it: looked up
+    // by its whole text.
     void OnFontChange();
 
     DECLARE_MESSAGE_MAP()

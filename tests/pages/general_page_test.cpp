@@ -153,7 +153,7 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
             EXPECT_EQ(row.canMake, IsEnabled(user, kNew)) << row.name;
             EXPECT_EQ(row.canDelete, IsEnabled(user, kDelete)) << row.name;
         }
-        user.Type(kStyle, std::string(60, 'x'));
+        user.Type(kStyle, std::string(60, 'W')); // wider than the field
         EXPECT_EQ(32u, user.Text(kStyle).size());
         user.Type(kStyle, "Beam");
     });

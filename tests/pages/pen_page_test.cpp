@@ -241,6 +241,15 @@ TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
     }
 }
 
+TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
+    AddEqual();
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kWidth, "0000.0625000000000000 in");
+                  user.Ok();
+              }));
+    EXPECT_NEAR(0.0625, kit[0].Number("PenWidth"), 1e-9);
+}
+
 TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
     Add(1, 0, 0.0, dashed, 2, 1);
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {

@@ -302,6 +302,17 @@ TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
     EXPECT_EQ(2, kit[0].Number("TextFormat"));
 }
 
+// As long as the narrow field lets nobody see it whole.
+TEST_F(TextPage, ALongHeightIsStoredAsTyped) {
+    KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kSize, "0012'-11 15/16\"");
+                  EXPECT_EQ("0012'-11 15/16\"", user.Text(kSize));
+                  user.Ok();
+              }));
+    EXPECT_NEAR(155.9375 * 25.4, text.Number("TextSize"), 1e-9);
+}
+
 TEST_F(TextPage, CancelWritesNothing) {
     AddMixed();
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
