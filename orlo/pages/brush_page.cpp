@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <cmath>
+
 #include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/color_control.h"
@@ -53,18 +55,33 @@ constexpr double kLinesAcrossPreview = 20.0;
 int drawModes[] = {-1, 1, 0};
 constexpr int kDrawModeCount = 3;
 
-// The highest whole angle in the drawing's units.
-int HighestAngle(DrawingStruct* drawing) {
+// What the arrows beside the angle turn by, and where they begin again.
+struct AngularUnit {
+    double radians;
+    double turn; // units
+    int highest; // whole angle of the up-down control
+};
+
+AngularUnit AngularUnitOf(DrawingStruct* drawing) {
+    constexpr double kTurn = 6.283185307179586;
     switch (drawing != nullptr ? ::UnitsGetAngularSystem(drawing->pUnits) : 0) {
     case 0:
     case 1:
     case 4:
-        return 359;
+        return {kTurn / 360, 360, 359};
     case 2:
-        return 399;
+        return {kTurn / 400, 400, 399};
     default:
-        return 6;
+        return {1.0, kTurn, 6};
     }
+}
+
+// Of a whole number of units an exact one, which the host writes without a fraction.
+double Turned(double radians, int steps, const AngularUnit& unit) {
+    constexpr double kFinest = 1e9;
+    const double from = std::round(radians / unit.radians * kFinest) / kFinest;
+    const double to = std::fmod(from + steps, unit.turn);
+    return (to < 0 ? to + unit.turn : to) * unit.radians;
 }
 
 double WidthOf(GraphicStruct* graphic) {
@@ -87,7 +104,7 @@ CBrushPage::~CBrushPage() = default;
 
 BOOL CBrushPage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, HighestAngle(CurrentDrawing()));
+        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, AngularUnitOf(CurrentDrawing()).highest);
         CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, kColorCombo));
         if (color != nullptr && color->IsKindOf(RUNTIME_CLASS(CColorControl)))
             static_cast<CColorControl*>(color)->EnableLastEntry(1);
@@ -118,6 +135,27 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDX_RadioMap(1, pDX, kWindingButton, m_nDrawMode, drawModes, kDrawModeCount);
 
     DDP_PostProcessing(pDX);
+}
+
+BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (header->idFrom != kAngleUpDown || header->code != static_cast<UINT>(UDN_DELTAPOS))
+        return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
+    TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
+    *pResult = TRUE; // the control itself reads and writes whole numbers only
+    return TRUE;
+}
+
+void CBrushPage::TurnAngle(int steps) {
+    DrawingStruct* drawing = CurrentDrawing();
+    CDataExchange save(this, TRUE), load(this, FALSE);
+    double angle = 0.0;
+    if (!DDX_TextAngle(&save, kAngleEdit, angle, drawing)) {
+        ::MessageBeep(MB_ICONWARNING);
+        return;
+    }
+    angle = Turned(IsMixed(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
+    DDX_TextAngle(&load, kAngleEdit, angle, drawing);
 }
 
 CString CBrushPage::StyleName(unsigned int style) const {

@@ -23,7 +23,13 @@ public:
     // Exchanges the style list and keeps the name of the style above it current.
     ORLO_API int DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style);
 
+protected:
+    // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written as the host does. One
+    // beyond a full turn begins again, a mixed angle begins at 0, and a text that is no angle stays, with a beep.
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
 private:
+    void TurnAngle(int steps);
     CString StyleName(unsigned int style) const;
     unsigned long PenColorOfSelection();
     void SetPreviewStyle(CDataExchange* pDX);
