@@ -8,6 +8,7 @@ IMPLEMENT_DYNAMIC(COrloPropertyPage, CPropertyPage)
 
 BEGIN_MESSAGE_MAP(COrloPropertyPage, CPropertyPage)
     ON_WM_WINDOWPOSCHANGING()
+    ON_MESSAGE(WM_NEXTDLGCTL, &COrloPropertyPage::OnNextDlgCtl)
 END_MESSAGE_MAP()
 
 COrloPropertyPage::COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
@@ -25,6 +26,11 @@ const char* COrloPropertyPage::GetTemplateName() const { return m_lpszTemplateNa
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
     SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
     Default();
+}
+
+// An edit control of several lines asks its parent when it gets Tab. The way round is the sheet's: buttons and tabs are on it.
+LRESULT COrloPropertyPage::OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
+    return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
 }
 
 BOOL COrloPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {

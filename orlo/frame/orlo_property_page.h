@@ -25,6 +25,7 @@ public:
     const char* GetTemplateName() const;
 
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
+    LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam);
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

@@ -133,6 +133,7 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Radio(pDX, kWindingButton, m_nDrawMode, "BrushDrawMode");
     DDX_RadioMap(1, pDX, kWindingButton, m_nDrawMode, drawModes, kDrawModeCount);
+    m_drawModes.Exchange(pDX, kWindingButton);
 
     DDP_PostProcessing(pDX);
 }

@@ -3,6 +3,7 @@
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/radio_group.h"
 #include "orlo/pages/style_name.h"
 
 class CBrushPage : public CGraphicPropertyPage {
@@ -44,4 +45,5 @@ private:
     int m_nHatchCross;
     int m_nLastCross; // the last definite state of the check box
     int m_nDrawMode;  // 1 winding, 0 alternate
+    CRadioGroup m_drawModes;
 };

@@ -87,6 +87,9 @@ CGeneralPage::~CGeneralPage() = default;
 
 BOOL CGeneralPage::OnInitDialog() {
     CGraphicPropertyPage::OnInitDialog();
+    // The template leaves the layers to the mouse.
+    const HWND layers = ::GetDlgItem(m_hWnd, IDC_LAYER);
+    ::SetWindowLongPtrA(layers, GWL_STYLE, ::GetWindowLongPtrA(layers, GWL_STYLE) | WS_TABSTOP);
     if (!HasStylePart()) {
         const int styleControls[] = {IDC_STYLE_NAME, kNewButton, kDeleteButton, kStyleGroup};
         for (const int id : styleControls)

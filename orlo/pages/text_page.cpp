@@ -94,6 +94,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Text(pDX, kFirstFormat, m_wFormat, "TextFormat");
     DDX_Radio(1, pDX, kFirstFormat, m_wFormat);
+    m_formats.Exchange(pDX, kFirstFormat);
 
     DDP_PostProcessing(pDX);
     m_bFirstExchange = 0;

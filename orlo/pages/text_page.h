@@ -3,6 +3,7 @@
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/radio_group.h"
 
 class CTextPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CTextPage)
@@ -36,4 +37,5 @@ private:
     unsigned short m_wStyle[2]; // the bits in which the texts differ, and the bits; see exchange/ddx_font.h
     unsigned short m_wFormat;   // 0 left, 1 centre, 2 right
     int m_bFirstExchange;
+    CRadioGroup m_formats;
 };

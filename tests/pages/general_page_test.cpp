@@ -250,6 +250,11 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
                   EXPECT_TRUE(IsEnabled(user, kNew));
                   List(user, "Column");
                   EXPECT_FALSE(IsEnabled(user, kNew));
+                  for (const bool back : {false, true}) { // Tab goes past New to Delete, and back
+                      user.Key(VK_TAB, back);
+                      EXPECT_EQ(back ? user.Control(kStyle) : user.Control(kDelete),
+                                back ? ::GetParent(::GetFocus()) : ::GetFocus());
+                  }
                   user.Cancel();
               }));
 }

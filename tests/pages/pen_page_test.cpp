@@ -28,8 +28,7 @@ enum : int {
     kSystem = 109,
     kScale = 104,
     kStyleName = 112,
-    kWidth = 103,
-    kTabs = 0x3020
+    kWidth = 103
 };
 constexpr unsigned int kPen = 29001;
 constexpr double kInch = 25.4;
@@ -336,26 +335,6 @@ TEST_F(PenPage, OutlivesTheStyleTable) {
                   user.Ok();
               }));
     EXPECT_EQ(3, kit[0].Number("PenScale"));
-}
-
-TEST_F(PenPage, TabsThroughAllItsControls) {
-    AddEqual();
-    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        std::vector<int> order;
-        user.Focus(kStyle);
-        for (int i = 0; i < 12; ++i) {
-            HWND focus = ::GetFocus();
-            if (::GetParent(focus) == user.Control(kWidth))
-                focus = ::GetParent(focus); // the edit inside the combo
-            const int id = ::GetDlgCtrlID(focus);
-            if (!order.empty() && id == order.front()) break;
-            order.push_back(id);
-            user.Key(VK_TAB);
-        }
-        EXPECT_EQ((std::vector<int>{kStyle, kAlign, kColor, kSystem, kScale, kWidth, IDOK, IDCANCEL, 0xE145,
-                                    kTabs}),
-                  order);
-    });
 }
 
 } // namespace
