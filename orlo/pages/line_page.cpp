@@ -97,7 +97,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 
     FillPenWidths(pDX, kWidthCombo, drawing, m_nScaleSystem);
     DDP_Text(pDX, kWidthCombo, m_dWidth, "PenWidth");
-    DDX_CBPenWidth(1, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+    ExchangeWidth(pDX);
     if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, kScaleEdit, m_dScale, "PenScale");
@@ -111,6 +111,13 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDX_Check(1, pDX, kAlignmentBox, m_nAlignment);
 
     DDP_PostProcessing(pDX);
+}
+
+// A width that the host cannot write leaves its field blank; that is no width only if the user has made it so.
+void CLinePage::ExchangeWidth(CDataExchange* pDX) {
+    const bool save = pDX->m_bSaveAndValidate;
+    if (save && !GetControlStatus(kWidthCombo)) return;
+    DDX_CBPenWidth(save, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, CurrentDrawing());
 }
 
 CString CLinePage::StyleName(unsigned int style) const {
@@ -152,7 +159,7 @@ void CLinePage::OnScaleSystemChange() {
     DrawingStruct* drawing = CurrentDrawing();
     FillPenWidths(&load, kWidthCombo, drawing, m_nScaleSystem);
     DDP_Text(&load, kWidthCombo, m_dWidth, "PenWidth");
-    DDX_CBPenWidth(1, &load, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+    ExchangeWidth(&load);
 }
 
 void* CLinePage::CreatePreviewGraphic() {

@@ -76,7 +76,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDX_CBString(1, pDX, kFontCombo, m_strFont);
 
     DDP_Text(pDX, kSizeCombo, m_dSize, "TextSize");
-    DDX_CBFontSize(1, pDX, kSizeCombo, m_dSize);
+    DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, kSizeCombo, m_dSize);
     if (!IsMixed(m_dSize)) DDV_FontSize(1, pDX, m_dSize);
 
     DDP_Bits(pDX, kStyleCombo, m_wStyle, "TextStyle");

@@ -1,4 +1,5 @@
-// The Text page: font, height, font style, colour, effects and justification of the selected texts.
+// The Text page: font, height, font style, colour, effects and justification of the selected texts. A height that the host
+// cannot write shows as a blank field.
 #pragma once
 
 #include "orlo/export.h"

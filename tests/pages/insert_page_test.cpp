@@ -130,10 +130,12 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
 }
 
 TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
-    // Digits that no field shows, a scale beyond the limits, and a collapsed axis: each alone, then all together.
+    // Digits that no field shows, a scale beyond the limits, a collapsed axis, and a place beyond a float: each alone, then all
+    // together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
                                 {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
-                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}}};
+                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
+                                {{1e39, 0, 0}, {1, 1, 1}, {0, 0, 0}}};
     ::DrawingBeginUndo(drawing.Get());
     for (size_t i = 0; i <= std::size(kOdd); ++i) {
         SCOPED_TRACE(i);

@@ -249,6 +249,25 @@ TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
     EXPECT_NEAR(0.0625, kit[0].Number("PenWidth"), 1e-9);
 }
 
+// A unit that the host does not know: there is no text for a width on paper.
+TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
+    AddEqual();
+    ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "furlong");
+    MessageBoxWatcher boxes;
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ("", user.Text(kWidth));
+                  user.Choose(kSystem, 0);
+                  EXPECT_NE("", user.Text(kWidth));
+                  user.Choose(kSystem, 1);
+                  EXPECT_EQ("", user.Text(kWidth));
+                  user.Type(kScale, "4");
+                  user.Ok();
+              }));
+    EXPECT_TRUE(boxes.Boxes().empty());
+    EXPECT_EQ(4, kit[0].Number("PenScale"));
+    EXPECT_EQ(1 / kInch, kit[0].Number("PenWidth"));
+}
+
 TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
     Add(1, 0, 0.0, dashed, 2, 1);
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {

@@ -316,6 +316,19 @@ TEST_F(TextPage, ALongHeightIsStoredAsTyped) {
     EXPECT_NEAR(155.9375 * 25.4, text.Number("TextSize"), 1e-9);
 }
 
+// In a space without lengths there is no text for a height.
+TEST_F(TextPage, AHeightThatCannotBeWrittenLeavesItsFieldBlank) {
+    KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
+    ::DrawingSetCoordSpace(kit.Drawing(), 2);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ("", user.Text(kSize));
+                  user.Click(kRight);
+                  user.Ok();
+              }));
+    EXPECT_EQ(2, text.Number("TextSize"));
+    EXPECT_EQ(2, text.Number("TextFormat"));
+}
+
 TEST_F(TextPage, CancelWritesNothing) {
     AddMixed();
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
