@@ -20,6 +20,7 @@
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/mixed_value.h"
+#include "orlo/pages/passed_over.h"
 #include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
@@ -118,7 +119,7 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
 
     // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
     DDP_Text(pDX, kAngleEdit, m_dAngle, "BrushAngle");
-    DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing());
+    if (!DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing())) TellPassedOver(*this, pDX, kAngleEdit);
     if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
     DDP_Text(pDX, kScaleEdit, m_dScale, "BrushScale");

@@ -1,4 +1,5 @@
-// The Brush page: style, colour, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling.
+// The Brush page: style, colour, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A text that
+// is no angle writes none, with a beep.
 #pragma once
 
 #include "orlo/export.h"

@@ -3,10 +3,10 @@
 #include "orlo/pages/pen_width.h"
 
 #include "orlo/binding/indeterminate.h"
+#include "orlo/controls/pen_width_list.h"
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
-#include "orlo/controls/pen_width_list.h"
 
 namespace {
 
@@ -24,7 +24,8 @@ CString ComboText(HWND combo) {
     }
     const LRESULT length = ::SendMessageA(combo, CB_GETLBTEXTLEN, index, 0);
     if (length == CB_ERR) return text;
-    ::SendMessageA(combo, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length) + 1)));
+    ::SendMessageA(combo, CB_GETLBTEXT, index,
+                   reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length) + 1)));
     text.ReleaseBuffer();
     return text;
 }
@@ -36,9 +37,12 @@ void SelectText(HWND combo, const char* text) {
     ::SendMessageA(combo, CB_SETCURSEL, index, 0);
 }
 
-// In silent mode 0; with bReport it does not come back.
+// In silent mode 0; with bReport a beep, and it does not come back.
 int Refuse(int bReport, CDataExchange* pDX) {
-    if (bReport) pDX->Fail();
+    if (bReport) {
+        ::MessageBeep(MB_ICONWARNING);
+        pDX->Fail();
+    }
     return 0;
 }
 
@@ -55,7 +59,8 @@ int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size) {
     if (drawing == nullptr) return 0;
     if (scaleSystem == kScaleWorld) return ::DrawingStdNumericToText(drawing, value, buffer, size, 0);
-    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetresPerInch, buffer, size, 0, 1);
+    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetresPerInch, buffer,
+                                  size, 0, 1);
 }
 
 int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
@@ -76,9 +81,11 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
     return 1;
 }
 
-void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem) {
+void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing,
+                     unsigned char scaleSystem) {
     double value = 0.0;
-    if (TextToPenWidth(drawing, scaleSystem, item, &value)) DDX_CBPenWidth(0, pDX, nIDC, value, scaleSystem, drawing);
+    if (TextToPenWidth(drawing, scaleSystem, item, &value))
+        DDX_CBPenWidth(0, pDX, nIDC, value, scaleSystem, drawing);
 }
 
 void FillPenWidths(CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem) {

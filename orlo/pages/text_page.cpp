@@ -13,6 +13,7 @@
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
 #include "orlo/pages/mixed_value.h"
+#include "orlo/pages/passed_over.h"
 
 IMPLEMENT_DYNAMIC(CTextPage, CGraphicPropertyPage)
 
@@ -77,7 +78,10 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Text(pDX, kSizeCombo, m_dSize, "TextSize");
     DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, kSizeCombo, m_dSize);
-    if (!IsMixed(m_dSize)) DDV_FontSize(1, pDX, m_dSize);
+    if (!IsMixed(m_dSize))
+        DDV_FontSize(1, pDX, m_dSize);
+    else
+        TellPassedOver(*this, pDX, kSizeCombo);
 
     DDP_Bits(pDX, kStyleCombo, m_wStyle, "TextStyle");
     DDX_CBFontStyle(1, pDX, kStyleCombo, m_wStyle);

@@ -1,5 +1,5 @@
 // The Text page: font, height, font style, colour, effects and justification of the selected texts. A height that the host
-// cannot write shows as a blank field.
+// cannot write shows as a blank field, and a text that is no height writes none, with a beep.
 #pragma once
 
 #include "orlo/export.h"
