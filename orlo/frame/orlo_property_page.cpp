@@ -28,11 +28,6 @@ void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
     Default();
 }
 
-// An edit control of several lines asks its parent when it gets Tab. The way round is the sheet's: buttons and tabs are on it.
-LRESULT COrloPropertyPage::OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
-    return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
-}
-
 BOOL COrloPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     const BOOL result = CPropertyPage::OnCommand(wParam, lParam);
     if (HIWORD(wParam) == CBN_DROPDOWN) {

@@ -217,6 +217,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
                       takeBack(user, byUndo);
                       user.SelectPage(0);
                       user.SelectPage(1);
+                      Paste(user, kScaleZ, "7");
                       Paste(user, kScaleZ, "*****"); // no value, whatever was there
                       user.Ok();
                   }));
