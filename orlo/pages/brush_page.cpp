@@ -77,11 +77,8 @@ AngularUnit AngularUnitOf(DrawingStruct* drawing) {
     }
 }
 
-// Of a whole number of units an exact one, which the host writes without a fraction.
 double Turned(double radians, int steps, const AngularUnit& unit) {
-    constexpr double kFinest = 1e9;
-    const double from = std::round(radians / unit.radians * kFinest) / kFinest;
-    const double to = std::fmod(from + steps, unit.turn);
+    const double to = std::fmod(radians / unit.radians + steps, unit.turn);
     return (to < 0 ? to + unit.turn : to) * unit.radians;
 }
 
