@@ -90,7 +90,7 @@ BOOL CInsertPage::OnInitDialog() {
 
 CString CInsertPage::TextOf(const Field& field) const {
     CString text;
-    GetDlgItem(static_cast<int>(field.nID))->GetWindowText(text);
+    if (const CWnd* control = GetDlgItem(static_cast<int>(field.nID))) control->GetWindowText(text);
     return text;
 }
 
