@@ -109,8 +109,11 @@ void CComboControl::OnDestroy() {
     Default();
 }
 
+// The edit field scrolls, whatever the template says: one that does not drops what is typed beyond its width.
 int CComboControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
     m_dwStyle = static_cast<unsigned long>(lpCreateStruct->style);
+    lpCreateStruct->style |= CBS_AUTOHSCROLL;
+    ::SetWindowLongPtrA(m_hWnd, GWL_STYLE, ::GetWindowLongPtrA(m_hWnd, GWL_STYLE) | CBS_AUTOHSCROLL);
     return static_cast<int>(Default());
 }
 

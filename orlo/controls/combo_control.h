@@ -11,6 +11,8 @@
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
 // (control_fill.h) whenever it likes.
+//
+// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style.
 #pragma once
 
 #include <afxwin.h>

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "orlo/host/units.h"
 
@@ -38,4 +39,9 @@ bool ScanRealText(const char* text, float& value) {
     if (!(std::fabs(result) <= FLT_MAX)) return false;
     value = static_cast<float>(result);
     return true;
+}
+
+bool IsBeginningOfReal(const char* text) {
+    float value = 0;
+    return !ScanRealText(text, value) && ScanRealText((std::string(text) + "1").c_str(), value);
 }

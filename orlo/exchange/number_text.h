@@ -1,4 +1,4 @@
-// Reading numbers from texts. No window, no data exchange. Internal to this folder.
+// Reading numbers from texts. No window, no data exchange.
 #pragma once
 
 // The whole number that makes up the text. isUnsigned as strtoul, which takes a minus sign, else as strtol; a
@@ -8,3 +8,6 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value);
 // The real number that makes up the text, as the host reads it. False, with value untouched: no number that
 // begins with a digit or is not zero, more than the number, or too large for a float.
 bool ScanRealText(const char* text, float& value);
+
+// Whether the text is no number yet and becomes one with a digit behind it: "", "-", ".", "1e-".
+bool IsBeginningOfReal(const char* text);

@@ -84,6 +84,7 @@ void CGraphicPropertySheet::DeletePages() {
 
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (!CreatePreviewRect()) return -1;
+    m_wndPreview.ModifyStyle(0, WS_GROUP); // the arrow keys do not get here from radio buttons that a page ends with
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());

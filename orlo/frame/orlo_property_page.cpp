@@ -8,6 +8,7 @@ IMPLEMENT_DYNAMIC(COrloPropertyPage, CPropertyPage)
 
 BEGIN_MESSAGE_MAP(COrloPropertyPage, CPropertyPage)
     ON_WM_WINDOWPOSCHANGING()
+    ON_MESSAGE(WM_NEXTDLGCTL, &COrloPropertyPage::OnNextDlgCtl)
 END_MESSAGE_MAP()
 
 COrloPropertyPage::COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)

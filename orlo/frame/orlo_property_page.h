@@ -25,6 +25,10 @@ public:
     const char* GetTemplateName() const;
 
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
+    // An edit control of several lines asks its parent when it gets Tab. The way round is the sheet's: buttons and tabs are on it.
+    LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
+        return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
+    }
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <cmath>
+
 #include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/color_control.h"
@@ -18,6 +20,7 @@
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/mixed_value.h"
+#include "orlo/pages/passed_over.h"
 #include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
@@ -49,18 +52,30 @@ constexpr double kLinesAcrossPreview = 20.0;
 int drawModes[] = {-1, 1, 0};
 constexpr int kDrawModeCount = 3;
 
-// The highest whole angle in the drawing's units.
-int HighestAngle(DrawingStruct* drawing) {
+// What the arrows beside the angle turn by, and where they begin again.
+struct AngularUnit {
+    double radians;
+    double turn; // units
+    int highest; // whole angle of the up-down control
+};
+
+AngularUnit AngularUnitOf(DrawingStruct* drawing) {
+    constexpr double kTurn = 6.283185307179586;
     switch (drawing != nullptr ? ::UnitsGetAngularSystem(drawing->pUnits) : 0) {
     case 0:
     case 1:
     case 4:
-        return 359;
+        return {kTurn / 360, 360, 359};
     case 2:
-        return 399;
+        return {kTurn / 400, 400, 399};
     default:
-        return 6;
+        return {1.0, kTurn, 6};
     }
+}
+
+double Turned(double radians, int steps, const AngularUnit& unit) {
+    const double to = std::fmod(radians / unit.radians + steps, unit.turn);
+    return (to < 0 ? to + unit.turn : to) * unit.radians;
 }
 
 double WidthOf(GraphicStruct* graphic) {
@@ -83,7 +98,7 @@ CBrushPage::~CBrushPage() = default;
 
 BOOL CBrushPage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, HighestAngle(CurrentDrawing()));
+        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, AngularUnitOf(CurrentDrawing()).highest);
         CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, kColorCombo));
         if (color != nullptr && color->IsKindOf(RUNTIME_CLASS(CColorControl)))
             static_cast<CColorControl*>(color)->EnableLastEntry(1);
@@ -97,7 +112,7 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
 
     // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
     DDP_Text(pDX, kAngleEdit, m_dAngle, "BrushAngle");
-    DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing());
+    if (!DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing())) TellPassedOver(*this, pDX, kAngleEdit);
     if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
     DDP_Text(pDX, kScaleEdit, m_dScale, "BrushScale");
@@ -112,8 +127,30 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Radio(pDX, kWindingButton, m_nDrawMode, "BrushDrawMode");
     DDX_RadioMap(1, pDX, kWindingButton, m_nDrawMode, drawModes, kDrawModeCount);
+    m_drawModes.Exchange(pDX, kWindingButton);
 
     DDP_PostProcessing(pDX);
+}
+
+BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (header->idFrom != kAngleUpDown || header->code != static_cast<UINT>(UDN_DELTAPOS))
+        return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
+    TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
+    *pResult = TRUE; // the control itself reads and writes whole numbers only
+    return TRUE;
+}
+
+void CBrushPage::TurnAngle(int steps) {
+    DrawingStruct* drawing = CurrentDrawing();
+    CDataExchange save(this, TRUE), load(this, FALSE);
+    double angle = 0.0;
+    if (!DDX_TextAngle(&save, kAngleEdit, angle, drawing)) {
+        ::MessageBeep(MB_ICONWARNING);
+        return;
+    }
+    angle = Turned(IsMixed(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
+    DDX_TextAngle(&load, kAngleEdit, angle, drawing);
 }
 
 CString CBrushPage::StyleName(unsigned int style) const {

@@ -1,8 +1,10 @@
-// The Brush page: style, colour, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling.
+// The Brush page: style, colour, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A text that
+// is no angle writes none, with a beep.
 #pragma once
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/radio_group.h"
 #include "orlo/pages/style_name.h"
 
 class CBrushPage : public CGraphicPropertyPage {
@@ -23,7 +25,13 @@ public:
     // Exchanges the style list and keeps the name of the style above it current.
     ORLO_API int DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style);
 
+protected:
+    // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written as the host does. One
+    // beyond a full turn begins again, a mixed angle begins at 0, and a text that is no angle stays, with a beep.
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
 private:
+    void TurnAngle(int steps);
     CString StyleName(unsigned int style) const;
     unsigned long PenColorOfSelection();
     void SetPreviewStyle(CDataExchange* pDX);
@@ -38,4 +46,5 @@ private:
     int m_nHatchCross;
     int m_nLastCross; // the last definite state of the check box
     int m_nDrawMode;  // 1 winding, 0 alternate
+    CRadioGroup m_drawModes;
 };

@@ -73,6 +73,7 @@ int IsUserStyleName(CString name) {
 BEGIN_MESSAGE_MAP(CGeneralPage, CGraphicPropertyPage)
 ON_CBN_EDITCHANGE(IDC_STYLE_NAME, &ThisClass::OnStyleEditChange)
 ON_CBN_CLOSEUP(IDC_STYLE_NAME, &ThisClass::OnStyleCloseUp)
+ON_CBN_SELCHANGE(IDC_STYLE_NAME, &ThisClass::OnStyleCloseUp)
 ON_BN_CLICKED(kNewButton, &ThisClass::OnNew)
 ON_BN_CLICKED(kDeleteButton, &ThisClass::OnDelete)
 ON_CBN_KILLFOCUS(IDC_STYLE_NAME, &ThisClass::OnStyleKillFocus)
@@ -86,6 +87,9 @@ CGeneralPage::~CGeneralPage() = default;
 
 BOOL CGeneralPage::OnInitDialog() {
     CGraphicPropertyPage::OnInitDialog();
+    // The template leaves the layers to the mouse.
+    const HWND layers = ::GetDlgItem(m_hWnd, IDC_LAYER);
+    ::SetWindowLongPtrA(layers, GWL_STYLE, ::GetWindowLongPtrA(layers, GWL_STYLE) | WS_TABSTOP);
     if (!HasStylePart()) {
         const int styleControls[] = {IDC_STYLE_NAME, kNewButton, kDeleteButton, kStyleGroup};
         for (const int id : styleControls)
@@ -157,10 +161,19 @@ int CGeneralPage::FindInCombo(const char* name) const {
                                                   static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name)));
 }
 
+bool CGeneralPage::MayDelete(const char* name) const {
+    return FindInCombo(name) != CB_ERR && IsUserStyleName(name);
+}
+
 void CGeneralPage::EnableButtons(const char* name) {
-    const bool listed = FindInCombo(name) != CB_ERR;
-    EnableDlgControl(m_hWnd, kNewButton, *name != '\0' && !listed);
-    EnableDlgControl(m_hWnd, kDeleteButton, listed && IsUserStyleName(name));
+    EnableDlgControl(m_hWnd, kNewButton, *name != '\0' && FindInCombo(name) == CB_ERR);
+    EnableDlgControl(m_hWnd, kDeleteButton, MayDelete(name));
+}
+
+// The system tells nobody of a selection made so.
+void CGeneralPage::SelectInCombo(int index) {
+    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    EnableButtons(NameInCombo());
 }
 
 void CGeneralPage::OnStyleEditChange() {
@@ -192,7 +205,8 @@ void CGeneralPage::OnNew() {
 
 void CGeneralPage::OnDelete() {
     const CString name = NameInCombo();
-    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, 0, 0);
+    if (!MayDelete(name)) return;
+    SelectInCombo(0);
     TableStruct* table = StyleTable();
     CGraphicPropertySheet* sheet = GetSheet();
     const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
@@ -203,9 +217,10 @@ void CGeneralPage::OnStyleKillFocus() {
     const HWND combo = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME);
     const bool checked = m_bStyleChecked != 0;
     m_bStyleChecked = 0;
+    if (checked || combo == nullptr || !HasStylePart()) return;
     const HWND focus = ::GetFocus();
-    // Without a focus another program has come to the front, and the user is still in the combo.
-    if (checked || combo == nullptr || !HasStylePart() || focus == nullptr) return;
+    // Without a focus another program has come to the front. The user is still in the combo, as after moves inside it.
+    if (focus == nullptr || focus == combo || ::IsChild(combo, focus)) return;
 
     const CString name = NameInCombo();
     if (!name.IsEmpty() && FindInCombo(name) != CB_ERR)
@@ -221,7 +236,7 @@ void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
     const bool byOk = focus == ::GetDlgItem(sheet->m_hWnd, IDOK);
     TableStruct* table = StyleTable();
     const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;
-    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, 0, 0);
+    SelectInCombo(0);
     if (id == 0) return;
     sheet->EndWithCode(id + (byOk ? kStyleChosenByOk : kStyleChosen));
     if (!byOk) ::PostMessageA(sheet->m_hWnd, WM_COMMAND, IDOK, 0);
@@ -230,8 +245,7 @@ void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
 void CGeneralPage::GoBackToCurrentStyle() {
     const CString current = CurrentStyleName();
     const int index = current.IsEmpty() ? CB_ERR : FindInCombo(current);
-    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, index == CB_ERR ? 0 : index, 0);
-    EnableDlgControl(m_hWnd, kNewButton, false);
+    SelectInCombo(index == CB_ERR ? 0 : index);
 }
 
 bool CGeneralPage::RefuseToLeave(const char* name) {

@@ -23,7 +23,7 @@ public:
 
 protected:
     void OnStyleEditChange();
-    void OnStyleCloseUp();
+    void OnStyleCloseUp(); // and every other selection
     void OnStyleKillFocus();
     void OnNew();
     void OnDelete();
@@ -37,7 +37,9 @@ private:
     CString CurrentStyleName() const;
     CString NameInCombo() const;
     int FindInCombo(const char* name) const;
+    bool MayDelete(const char* name) const;
     void EnableButtons(const char* name);
+    void SelectInCombo(int index);
     void LeaveComboForStyle(const CString& name, HWND focus);
     void GoBackToCurrentStyle();
     bool RefuseToLeave(const char* name);

@@ -7,6 +7,8 @@
 #include "orlo/binding/indeterminate.h"
 #include "orlo/binding/object_set.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/number_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
@@ -70,6 +72,10 @@ const CInsertPage::Field CInsertPage::kFields[9] = {
     {105, &CInsertPage::m_dRotateY, &InsertParts::rotation, 1, 0},
     {106, &CInsertPage::m_dRotateZ, &InsertParts::rotation, 2, 0}};
 
+size_t CInsertPage::IndexOf(const Field& field) {
+    return static_cast<size_t>(&field - kFields);
+}
+
 CInsertPage::CInsertPage()
     : CGraphicPropertyPage(kTemplate, 0), m_dScaleX(1.0), m_dScaleY(1.0), m_dScaleZ(1.0), m_dRotateX(0.0),
       m_dRotateY(0.0), m_dRotateZ(0.0), m_dPositionX(0.0), m_dPositionY(0.0), m_dPositionZ(0.0) {}
@@ -82,7 +88,22 @@ BOOL CInsertPage::OnInitDialog() {
     return CGraphicPropertyPage::OnInitDialog();
 }
 
-// Limits are for what the user has typed: a value of the drawing beyond them keeps nobody from leaving the page.
+CString CInsertPage::TextOf(const Field& field) const {
+    CString text;
+    if (const CWnd* control = GetDlgItem(static_cast<int>(field.nID))) control->GetWindowText(text);
+    return text;
+}
+
+bool CInsertPage::ShowsNewText(const Field& field) const {
+    const CString text = TextOf(field);
+    return text != m_agreed[IndexOf(field)].text && !IsIndeterminateText(text);
+}
+
+void CInsertPage::NoteTexts() {
+    for (const Field& field : kFields)
+        m_agreed[IndexOf(field)] = {TextOf(field), this->*field.member};
+}
+
 void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     const int id = static_cast<int>(field.nID);
     double& value = this->*field.member;
@@ -93,16 +114,29 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
         DDV_Radians(1, pDX, value);
         return;
     }
-    const bool typed =
-        m_nControls != 0 && GetControlStatus(field.nID); // nobody has before the page was active
-    if (typed) DDV_MinMaxDouble(1, pDX, value, -field.limit, field.limit);
+    DDV_MinMaxDouble(1, pDX, value, -field.limit, field.limit);
+}
+
+// A field that shows nothing new stands for what it did: limits, and the range of a float, are for what the user has typed.
+void CInsertPage::SaveField(CDataExchange* pDX, const Field& field) {
+    if (ShowsNewText(field))
+        ExchangeField(pDX, field);
+    else
+        this->*field.member = IsIndeterminateText(TextOf(field)) ? Indeterminate<double>::Value()
+                                                                 : m_agreed[IndexOf(field)].value;
 }
 
 void CInsertPage::DoDataExchange(CDataExchange* pDX) {
-    if (!pDX->m_bSaveAndValidate) LoadInsertParts(0);
-    for (const Field& field : kFields)
-        ExchangeField(pDX, field);
-    if (pDX->m_bSaveAndValidate) ApplyInsertParts(0);
+    if (pDX->m_bSaveAndValidate) {
+        for (const Field& field : kFields)
+            SaveField(pDX, field);
+        ApplyInsertParts(0);
+    } else {
+        LoadInsertParts(0);
+        for (const Field& field : kFields)
+            ExchangeField(pDX, field);
+    }
+    NoteTexts();
     DDP_PostProcessing(pDX);
 }
 
@@ -127,8 +161,8 @@ void CInsertPage::LoadInsertParts(int bPreview) {
 void CInsertPage::ApplyInsertParts(int bPreview) {
     bool counts[std::size(kFields)];
     for (size_t i = 0; i < std::size(kFields); ++i)
-        counts[i] =
-            !IsIndeterminate(this->*kFields[i].member) && (bPreview || GetControlStatus(kFields[i].nID));
+        counts[i] = !IsIndeterminate(this->*kFields[i].member) &&
+                    (bPreview || (GetControlStatus(kFields[i].nID) && ShowsNewText(kFields[i])));
     ForEachInsertion(ObjectSet(GetSheet(), bPreview), true,
                      [&](GraphicStruct* graphic, const InsertParts& parts) {
                          InsertParts wanted = parts;
@@ -147,7 +181,7 @@ void CInsertPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CDataExchange dx(this, TRUE);
     for (const Field& field : kFields)
-        if (bAll || GetControlStatus(field.nID)) ExchangeField(&dx, field);
+        if ((bAll || GetControlStatus(field.nID)) && !IsBeginningOfReal(TextOf(field))) SaveField(&dx, field);
     ApplyInsertParts(1);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

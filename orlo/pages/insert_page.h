@@ -1,5 +1,8 @@
 // The Block Insertion page: position, scale and rotation of the selected insertions. It works on their vertices, not on named
 // properties: see insert_parts.h.
+//
+// What counts is what the user sees: a field whose text has come back to what it was, or that shows "*****", writes nothing and
+// is not judged, whatever has been typed in between.
 #pragma once
 
 #include "orlo/frame/graphic_property_page.h"
@@ -18,22 +21,34 @@ public:
     BOOL OnInitDialog() override;
     // An insertion of a pyramid with lettered axes, a block of the current drawing for as long as the page lives.
     void* CreatePreviewGraphic() override;
-    // Reports at once what is no number or out of range.
+    // Reports at once what is no number or out of range, but waits while the text may still become one: "", "-", ".", "1e".
     void SetPreviewProperties(int bAll) override;
 
     // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
     void LoadInsertParts(int bPreview);
     // Puts the members into all insertions of the set. A mixed member, and in the selection one whose control the user has not
-    // touched, leaves each insertion its own.
+    // touched or has brought back to its first text, leaves each insertion its own.
     void ApplyInsertParts(int bPreview);
 
 private:
     struct Field;
     static const Field kFields[9];
 
+    // What a field showed, and stood for, when it last agreed with the selection.
+    struct Agreed {
+        CString text;
+        double value;
+    };
+
+    static size_t IndexOf(const Field& field);
+    CString TextOf(const Field& field) const;
+    bool ShowsNewText(const Field& field) const;
     void ExchangeField(CDataExchange* pDX, const Field& field);
+    void SaveField(CDataExchange* pDX, const Field& field);
+    void NoteTexts();
 
     double m_dScaleX, m_dScaleY, m_dScaleZ;
     double m_dRotateX, m_dRotateY, m_dRotateZ; // radians
     double m_dPositionX, m_dPositionY, m_dPositionZ;
+    Agreed m_agreed[9]; // by field
 };

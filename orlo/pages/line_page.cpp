@@ -32,6 +32,34 @@ constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
 
+// The combo with its list open, in the page.
+CRect OpenPlace(HWND combo) {
+    CRect place;
+    ::SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&place)));
+    ::MapWindowPoints(nullptr, ::GetParent(combo), reinterpret_cast<POINT*>(static_cast<RECT*>(&place)), 2);
+    return place;
+}
+
+// Makes the combo anew with a field that scrolls, which only a new window can get: the template's drops what is typed beyond
+// its width.
+void MakeFieldScroll(HWND page, int nID) {
+    const HWND combo = ::GetDlgItem(page, nID);
+    const CRect place = OpenPlace(combo);
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_STYLE));
+    const auto extended = static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_EXSTYLE));
+    const HWND scrolling = ::CreateWindowExA(extended, "ComboBox", nullptr, style | CBS_AUTOHSCROLL,
+                                             place.left, place.top, place.Width(), place.Height(), page,
+                                             reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)),
+                                             AfxGetInstanceHandle(), nullptr);
+    if (scrolling == nullptr) return;
+    ::SendMessageA(scrolling, WM_SETFONT, static_cast<WPARAM>(::SendMessageA(combo, WM_GETFONT, 0, 0)),
+                   FALSE);
+    // A combo may tell another height than it was made with.
+    const int height = 2 * place.Height() - OpenPlace(scrolling).Height();
+    ::SetWindowPos(scrolling, combo, 0, 0, place.Width(), height, SWP_NOMOVE | SWP_NOACTIVATE);
+    ::DestroyWindow(combo);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
@@ -47,6 +75,7 @@ CLinePage::~CLinePage() = default;
 
 BOOL CLinePage::OnInitDialog() {
     if (m_hWnd != nullptr) {
+        MakeFieldScroll(m_hWnd, kWidthCombo);
         for (unsigned int id : {kStringWorldScale, kStringPaperScale}) {
             char text[64] = "";
             ::DrawCoreLoadString(id, text, sizeof text);
@@ -71,7 +100,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 
     FillPenWidths(pDX, kWidthCombo, drawing, m_nScaleSystem);
     DDP_Text(pDX, kWidthCombo, m_dWidth, "PenWidth");
-    DDX_CBPenWidth(1, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+    ExchangeWidth(pDX);
     if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, kScaleEdit, m_dScale, "PenScale");
@@ -85,6 +114,13 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDX_Check(1, pDX, kAlignmentBox, m_nAlignment);
 
     DDP_PostProcessing(pDX);
+}
+
+// A width that the host cannot write leaves its field blank; that is no width only if the user has made it so.
+void CLinePage::ExchangeWidth(CDataExchange* pDX) {
+    const bool save = pDX->m_bSaveAndValidate;
+    if (save && !GetControlStatus(kWidthCombo)) return;
+    DDX_CBPenWidth(save, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, CurrentDrawing());
 }
 
 CString CLinePage::StyleName(unsigned int style) const {
@@ -126,7 +162,7 @@ void CLinePage::OnScaleSystemChange() {
     DrawingStruct* drawing = CurrentDrawing();
     FillPenWidths(&load, kWidthCombo, drawing, m_nScaleSystem);
     DDP_Text(&load, kWidthCombo, m_dWidth, "PenWidth");
-    DDX_CBPenWidth(1, &load, kWidthCombo, m_dWidth, m_nScaleSystem, drawing);
+    ExchangeWidth(&load);
 }
 
 void* CLinePage::CreatePreviewGraphic() {

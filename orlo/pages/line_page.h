@@ -1,4 +1,5 @@
-// The Pen page: colour, width with its scale system, dash scale, line style and alignment of the selected graphics.
+// The Pen page: colour, width with its scale system, dash scale, line style and alignment of the selected graphics. A width
+// that the host cannot write shows as a blank field and holds nobody up.
 #pragma once
 
 #include "orlo/export.h"
@@ -29,6 +30,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void ExchangeWidth(CDataExchange* pDX);
     CString StyleName(unsigned int style) const;
 
     TableStruct* m_pLineStyles;

@@ -35,9 +35,12 @@ void SelectText(HWND combo, const char* text) {
     ::SendMessageA(combo, CB_SETCURSEL, index, 0);
 }
 
-// In silent mode 0; with bReport it does not come back.
+// In silent mode 0; with bReport a beep, and it does not come back.
 int Refuse(int bReport, CDataExchange* pDX) {
-    if (bReport) pDX->Fail();
+    if (bReport) {
+        ::MessageBeep(MB_ICONWARNING);
+        pDX->Fail();
+    }
     return 0;
 }
 

@@ -12,7 +12,8 @@
 int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char* text, double* value);
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size);
 
-// Exchanges the width combo: a text that is in no list joins it, "*****" stands for the indeterminate value.
+// Exchanges the width combo: a text that is in no list joins it, "*****" stands for the indeterminate value. A text that is no
+// width is refused with a beep and no message.
 int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
                    DrawingStruct* drawing);
 

@@ -13,6 +13,7 @@
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
 #include "orlo/pages/mixed_value.h"
+#include "orlo/pages/passed_over.h"
 
 IMPLEMENT_DYNAMIC(CTextPage, CGraphicPropertyPage)
 
@@ -45,16 +46,12 @@ CString ShownText(HWND combo) {
     return text;
 }
 
-// Selects the text, which joins the list if it is not there. An item that only begins with it will do.
-int FindOrAdd(HWND combo, const CString& text) {
-    const auto find = [&] {
-        return static_cast<int>(
-            ::SendMessageA(combo, CB_FINDSTRING, 0, reinterpret_cast<LPARAM>(static_cast<LPCSTR>(text))));
-    };
-    const int index = find();
+// The item of that text, which joins the list if it is not there. One that only begins with it is another height.
+int FindOrAdd(const ControlItems& items, const CString& text) {
+    const int index = items.FindExact(text);
     if (index != CB_ERR) return index;
-    ControlItems::OfCombo(combo).Add(text);
-    return find();
+    items.Add(text);
+    return items.FindExact(text);
 }
 
 } // namespace
@@ -79,8 +76,11 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDX_CBString(1, pDX, kFontCombo, m_strFont);
 
     DDP_Text(pDX, kSizeCombo, m_dSize, "TextSize");
-    DDX_CBFontSize(1, pDX, kSizeCombo, m_dSize);
-    if (!IsMixed(m_dSize)) DDV_FontSize(1, pDX, m_dSize);
+    DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, kSizeCombo, m_dSize);
+    if (!IsMixed(m_dSize))
+        DDV_FontSize(1, pDX, m_dSize);
+    else
+        TellPassedOver(*this, pDX, kSizeCombo);
 
     DDP_Bits(pDX, kStyleCombo, m_wStyle, "TextStyle");
     DDX_CBFontStyle(1, pDX, kStyleCombo, m_wStyle);
@@ -97,6 +97,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Text(pDX, kFirstFormat, m_wFormat, "TextFormat");
     DDX_Radio(1, pDX, kFirstFormat, m_wFormat);
+    m_formats.Exchange(pDX, kFirstFormat);
 
     DDP_PostProcessing(pDX);
     m_bFirstExchange = 0;
@@ -114,7 +115,7 @@ void CTextPage::OnFontChange() {
     const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
     const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
     FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
-    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizes, size));
+    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizeItems, size));
 }
 
 void* CTextPage::CreatePreviewGraphic() {

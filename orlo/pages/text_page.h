@@ -1,8 +1,10 @@
-// The Text page: font, height, font style, colour, effects and justification of the selected texts.
+// The Text page: font, height, font style, colour, effects and justification of the selected texts. A height that the host
+// cannot write shows as a blank field, and a text that is no height writes none, with a beep.
 #pragma once
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/radio_group.h"
 
 class CTextPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CTextPage)
@@ -21,7 +23,8 @@ public:
     void SetPreviewProperties(int bAll) override;
 
 protected:
-    // Each font has its own heights. The height that was there stays, whether or not the new font offers it.
+    // Each font has its own heights. The height that was there stays chosen, whether or not the new font offers it: looked up
+    // by its whole text.
     void OnFontChange();
 
     DECLARE_MESSAGE_MAP()
@@ -35,4 +38,5 @@ private:
     unsigned short m_wStyle[2]; // the bits in which the texts differ, and the bits; see exchange/ddx_font.h
     unsigned short m_wFormat;   // 0 left, 1 centre, 2 right
     int m_bFirstExchange;
+    CRadioGroup m_formats;
 };

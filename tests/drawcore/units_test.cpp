@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cfloat>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -174,6 +175,14 @@ TEST_F(Lengths, ShowFourDecimalsOrFourDigits) {
         char buffer[64];
         EXPECT_TRUE(DrawingStdNumericToText(drawing, row.value, buffer, sizeof buffer, 0));
         EXPECT_STREQ(buffer, row.text);
+    }
+    for (const char* unit : {"mm", "m"}) { // rounded up, the largest number would be none
+        char text[64];
+        double back = 0;
+        TableSetStringVar(units, kUnitPenWidth, unit);
+        EXPECT_TRUE(UnitsNumericToTextEx(units, 0, kUnitPenWidth, DBL_MAX, text, sizeof text, 0, 1));
+        EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, text, &back)) << text;
+        EXPECT_NEAR(back / DBL_MAX, 1, 1e-9);
     }
     char buffer[8] = "kept";
     EXPECT_FALSE(DrawingStdNumericToText(drawing, HUGE_VAL, buffer, sizeof buffer, 0));
@@ -436,6 +445,9 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
                  {1, 4, 12.01, "12d0'36\""},
                  {1, 6, 0.001, "0d0'3.6\""},
                  {1, 4, 59.99999, "60d"},
+                 {1, 0, 349 + 1 / 6.0, "349d10'"}, // four digits of it, not of a smaller one
+                 {1, 4, -1e-14, "0d"}, // what a calculation leaves of nothing
+                 {0, 4, 1e-14, "0"},
                  {2, 0, 45, "50"},
                  {3, 4, 180, "3.1416"},
                  {4, 0, 0, "E"},
@@ -446,6 +458,13 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
                  {4, 2, 120.5, "N 30d30' W"},
                  {4, 4, 200, "S 70d W"},
                  {4, 4, 300, "S 30d E"},
+                 {4, 4, 90 + 1e-13, "N"}, // within the digits of a bearing
+                 {4, 0, 269.999, "S"},
+                 {4, 4, -0.0001, "E"},
+                 {4, 4, 359.99999, "E"},
+                 {4, 4, 180.00001, "W"},
+                 {4, 0, 90.4, "N 0d24' W"},
+                 {4, 4, 90 - 10 / 3600.0, "N 0d0'10\" E"},
                  {4, 4, -45, "-45d"},
                  {4, 4, 405, "405d"},
                  {1, 4, 1e18, "1e+18d"}};

@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -83,6 +84,51 @@ TEST_F(AllPages, UntouchedPagesWriteNothing) {
         EXPECT_EQ(0, ::DrawingEndUndo(kinds.Drawing()));
         EXPECT_EQ("", FirstDifference(before, Dump()));
     }
+}
+
+// By Tab, forwards and backwards round the whole sheet, and by the arrow keys within a group of radio buttons.
+TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
+    kinds.Select(kEverything);
+    const auto sheet = kinds.NewSheet();
+    SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+        // The control of the page, or of the sheet, that has the focus or holds the field that has it.
+        const auto focused = [&] {
+            HWND window = ::GetFocus();
+            while (window != nullptr && ::GetParent(window) != user.Page() &&
+                   ::GetParent(window) != user.Sheet())
+                window = ::GetParent(window);
+            return window;
+        };
+        for (int page = 0; page < sheet->GetPageCount(); ++page) {
+            user.SelectPage(page);
+            std::set<HWND> wanted = {::GetDlgItem(user.Sheet(), IDOK), sheet->GetTabControl()->m_hWnd};
+            for (HWND child = ::GetWindow(user.Page(), GW_CHILD); child;
+                 child = ::GetWindow(child, GW_HWNDNEXT)) {
+                const bool label = ::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
+                const bool usable = ::IsWindowVisible(child) && ::IsWindowEnabled(child);
+                if (usable && !label) wanted.insert(child);
+            }
+            for (const bool back : {false, true}) {
+                std::set<HWND> left = wanted;
+                const HWND start = focused();
+                int steps = 0;
+                do {
+                    ASSERT_LT(++steps, 40);
+                    left.erase(focused());
+                    for (int i = 0;
+                         i < 3 && ::SendMessageA(focused(), WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON; ++i) {
+                        user.Key(VK_DOWN);
+                        left.erase(focused());
+                    }
+                    const HWND before = focused();
+                    user.Key(VK_TAB, back);
+                    ASSERT_NE(before, focused()) << page << " " << back << " " << ::GetDlgCtrlID(before);
+                } while (focused() != start);
+                for (const HWND missed : left)
+                    ADD_FAILURE() << page << " " << back << " " << ::GetDlgCtrlID(missed);
+            }
+        }
+    });
 }
 
 TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {

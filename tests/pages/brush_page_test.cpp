@@ -212,6 +212,43 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
     EXPECT_NEAR(30 * kDegree, kit[0].Number("BrushAngle"), 1e-9);
 }
 
+// One unit of the drawing's angular system further, in whatever form the angle is written, and round at a full turn.
+TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
+    constexpr double kGrad = 0.9 * kDegree;
+    const struct {
+        int system;
+        const char* text;
+        UINT key;
+        double expected;
+    } rows[] = {{0, "45.5", VK_UP, 46.5 * kDegree},   {0, "359", VK_UP, 0},
+                {0, "0", VK_DOWN, 359 * kDegree},     {0, "-30", VK_UP, 331 * kDegree},
+                {0, "359.25", VK_UP, 0.25 * kDegree}, {1, "12d30'", VK_DOWN, 11.5 * kDegree},
+                {2, "399.5", VK_UP, 0.5 * kGrad},     {3, "0.5", VK_UP, 1.5},
+                {4, "N 45d E", VK_UP, 46 * kDegree},  {4, "W", VK_DOWN, 179 * kDegree},
+                {0, "Indeterminate", VK_UP, kDegree}};
+    Add(Style("Cross"), kRed, 2, 30 * kDegree, 0, 0);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        ::TableSetIntVar(kit.Drawing()->pUnits, kUnitAngularSystem, row.system);
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+                      user.Type(kAngle, row.text);
+                      user.Key(row.key);
+                      double shown = -1;
+                      page.GetPropText("BrushAngle", &shown, 1);
+                      EXPECT_NEAR(row.expected, shown, 1e-6) << user.Text(kAngle);
+                      user.Ok();
+                  }));
+        EXPECT_NEAR(row.expected, kit[0].Number("BrushAngle"), 1e-6);
+    }
+    Run([](SheetDriver& user, CGraphicPropertyPage&) {
+        user.Type(kAngle, "steep");
+        const LPARAM upper = MAKELPARAM(2, 2);
+        ::SendMessageA(user.Control(kUpDown), WM_LBUTTONDOWN, MK_LBUTTON, upper);
+        ::SendMessageA(user.Control(kUpDown), WM_LBUTTONUP, 0, upper);
+        EXPECT_EQ("steep", user.Text(kAngle)) << "not an angle to start from";
+    });
+}
+
 TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
     Add(Style("Cross"), kRed, 1000, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {

@@ -2,6 +2,10 @@
 
 #include "pages/every_kind.h"
 
+#include <gtest/gtest.h>
+
+#include <oaidl.h>
+
 #include "drawcore/selection.h"
 #include "orlo/frame/entry.h"
 
@@ -18,6 +22,13 @@ GraphicStruct* NewOutline(double size) {
     }
     ::VertexDispose(&vertex);
     return outline;
+}
+
+void SetProperty(GraphicStruct* graphic, const char* name, uint16_t value) {
+    const PropertyTable* table = ::GraphicGetVtbl(graphic);
+    int32_t number;
+    EXPECT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number) &&
+                table->PropSet(graphic, number, VT_UI2, &value));
 }
 
 } // namespace
@@ -48,6 +59,7 @@ void EveryKind::AddShape(int i) {
     ::GraphicSetPenWidth(shape, 0.01 * (i + 1));
     ::GraphicSetBrushStyle(shape, kCross); // or the page had nothing to type into
     ::GraphicSetBrushScale(shape, i + 1.0);
+    SetProperty(shape, "BrushDrawMode", static_cast<uint16_t>(i));
     Add(shape);
 }
 
@@ -56,6 +68,7 @@ void EveryKind::AddText(int i) {
     VertexStruct* vertex = ::VertexNewEx(0, i, 0);
     ::TextSetVWHAEx(text, vertex, 0, i + 1.0, 0, i ? "Section" : "Plan");
     ::VertexDispose(&vertex);
+    SetProperty(text, "TextFormat", static_cast<uint16_t>(i));
     Add(text);
 }
 

@@ -132,6 +132,23 @@ protected:
         user.Key(VK_TAB, true);
     }
 
+    // By the arrow keys in the closed list.
+    static void List(SheetDriver& user, const char* name) {
+        user.Focus(kStyle);
+        for (int i = 0; i < 3; ++i)
+            user.Key(VK_UP);
+        for (int i = 0; i < 3 && user.Text(kStyle) != name; ++i)
+            user.Key(VK_DOWN);
+        ASSERT_EQ(name, user.Text(kStyle));
+    }
+    // Return keeps sheet, name and focus.
+    static void ExpectRefused(SheetDriver& user, const char* name) {
+        user.Key(VK_RETURN);
+        EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << name;
+        EXPECT_EQ(name, user.Text(kStyle));
+        EXPECT_TRUE(::IsChild(user.Control(kStyle), ::GetFocus())) << name;
+    }
+
     TableStruct* styles;
     uint16_t beam, column, standard;
 };
@@ -152,7 +169,7 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
             EXPECT_EQ(row.canMake, IsEnabled(user, kNew)) << row.name;
             EXPECT_EQ(row.canDelete, IsEnabled(user, kDelete)) << row.name;
         }
-        user.Type(kStyle, std::string(60, 'x'));
+        user.Type(kStyle, std::string(60, 'W')); // wider than the field
         EXPECT_EQ(32u, user.Text(kStyle).size());
         user.Type(kStyle, "Beam");
     });
@@ -195,27 +212,50 @@ TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
 }
 
 TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
-    RunOver(column, [](SheetDriver& user) {
-        user.Type(kStyle, "Girder");
-        user.Focus(kInfo);
-        EXPECT_EQ("Column", user.Text(kStyle));
-        EXPECT_FALSE(IsEnabled(user, kNew));
+    EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
+                  user.Type(kStyle, "Girder");
+                  user.Focus(kInfo);
+                  EXPECT_EQ("Column", user.Text(kStyle));
+                  EXPECT_FALSE(IsEnabled(user, kNew));
+                  EXPECT_TRUE(IsEnabled(user, kDelete));
 
-        user.Type(kStyle, "");
-        user.Focus(kInfo);
-        EXPECT_EQ("Column", user.Text(kStyle));
+                  user.Type(kStyle, "");
+                  user.Focus(kInfo);
+                  EXPECT_EQ("Column", user.Text(kStyle));
 
-        user.Type(kStyle, "Girder");
-        user.Key(VK_RETURN);
-        ASSERT_TRUE(::IsWindow(user.Sheet()));
-        EXPECT_EQ("Girder", user.Text(kStyle)) << "refused: the name stays for the user to look at";
-        EXPECT_TRUE(::IsChild(user.Control(kStyle), ::GetFocus()));
+                  // Return is refused over a new name, a typed one of another style, and a listed one; the name stays for the
+                  // user to look at.
+                  user.Type(kStyle, "Girder");
+                  ExpectRefused(user, "Girder");
+                  EXPECT_TRUE(IsEnabled(user, kNew));
+                  user.Type(kStyle, "Beam");
+                  ExpectRefused(user, "Beam");
+                  List(user, "Standard");
+                  ExpectRefused(user, "Standard");
+              }));
+}
 
-        user.Type(kStyle, "Beam"); // listed, and not the current one
-        user.Key(VK_RETURN);
-        ASSERT_TRUE(::IsWindow(user.Sheet()));
-        user.Type(kStyle, "Column");
-    });
+TEST_F(StylePart, ButtonsFollowEverySelection) {
+    EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
+                  List(user, "Standard");
+                  EXPECT_FALSE(IsEnabled(user, kDelete)) << "the application's own";
+                  ::SendMessageA(user.Page(), WM_COMMAND, kDelete,
+                                 reinterpret_cast<LPARAM>(user.Control(kDelete)));
+                  EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << "not even by its command";
+                  EXPECT_EQ("Standard", user.Text(kStyle));
+                  List(user, "Beam");
+                  EXPECT_TRUE(IsEnabled(user, kDelete));
+                  user.Type(kStyle, "Girder");
+                  EXPECT_TRUE(IsEnabled(user, kNew));
+                  List(user, "Column");
+                  EXPECT_FALSE(IsEnabled(user, kNew));
+                  for (const bool back : {false, true}) { // Tab goes past New to Delete, and back
+                      user.Key(VK_TAB, back);
+                      EXPECT_EQ(back ? user.Control(kStyle) : user.Control(kDelete),
+                                back ? ::GetParent(::GetFocus()) : ::GetFocus());
+                  }
+                  user.Cancel();
+              }));
 }
 
 TEST_F(StylePart, AnotherProgramInFrontChoosesNothing) {

@@ -109,7 +109,7 @@ protected:
     static void Paste(SheetDriver& user, int id, const char* text) {
         user.Focus(id);
         ::SendMessageA(user.Control(id), EM_SETSEL, 0, -1);
-        ::SendMessageA(user.Control(id), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+        ::SendMessageA(user.Control(id), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
         user.Pump();
     }
 
@@ -130,10 +130,12 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
 }
 
 TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
-    // Digits that no field shows, a scale beyond the limits, and a collapsed axis: each alone, then all together.
+    // Digits that no field shows, a scale beyond the limits, a collapsed axis, and a place beyond a float: each alone, then all
+    // together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
                                 {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
-                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}}};
+                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
+                                {{1e39, 0, 0}, {1, 1, 1}, {0, 0, 0}}};
     ::DrawingBeginUndo(drawing.Get());
     for (size_t i = 0; i <= std::size(kOdd); ++i) {
         SCOPED_TRACE(i);
@@ -197,6 +199,42 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     }
 }
 
+// Typed over and taken back, by undo or by hand, a field is as it was: the user sees no new value.
+TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
+    Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
+    Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
+    const Vertices before = All();
+    const auto takeBack = [&](SheetDriver& user, bool byUndo) {
+        for (const int id : kAll) {
+            const std::string first = user.Text(id);
+            Paste(user, id, "7");
+            byUndo ? void(::SendMessageA(user.Control(id), WM_UNDO, 0, 0)) : Paste(user, id, first.c_str());
+            EXPECT_EQ(first, user.Text(id));
+        }
+    };
+    for (const bool byUndo : {true, false}) {
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      takeBack(user, byUndo);
+                      user.SelectPage(0);
+                      user.SelectPage(1);
+                      Paste(user, kScaleZ, "7");
+                      Paste(user, kScaleZ, "*****"); // no value, whatever was there
+                      user.Ok();
+                  }));
+        EXPECT_EQ(before, All());
+    }
+    // Once written, the new text is the first one.
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  Paste(user, kPositionX, "9");
+                  user.SelectPage(0);
+                  EXPECT_EQ(9, Parts(0).position[0]);
+                  user.SelectPage(1);
+                  Paste(user, kPositionX, "1.23457e+06");
+                  user.Ok();
+              }));
+    EXPECT_EQ(1234570, Parts(1).position[0]);
+}
+
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     AddMixed();
     const Vertices before = All();
@@ -215,21 +253,24 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     EXPECT_EQ(0, ::TableEntryNext(blocks, &cookie)) << "no other block";
 }
 
-// The message comes while the user types; OK then keeps page, text and focus until the value is good.
+// The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
+// the value is good.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
     AddMixed();
     const Vertices before = All();
     const struct {
         int id;
         const char* text;
-    } kRows[] = {{kScaleX, "1001"},     {kScaleY, "-1000.1"}, {kScaleZ, "wide"}, {kPositionX, ""},
-                 {kPositionZ, "1,5,7"}, {kRotateX, "north"},  {kRotateY, "-"}};
+        size_t atOnce;
+    } kRows[] = {{kScaleX, "1001", 1},     {kScaleY, "-1000.1", 1}, {kScaleZ, "wide", 1},
+                 {kPositionX, "", 0},      {kPositionY, "1e", 0},   {kPositionZ, "1,5,7", 1},
+                 {kPositionZ, "1e39-", 1}, {kRotateX, "north", 1},  {kRotateY, "-", 0}};
     for (const auto& row : kRows) {
-        SCOPED_TRACE(row.id);
+        SCOPED_TRACE(row.text);
         EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       MessageBoxWatcher boxes;
                       Paste(user, row.id, row.text);
-                      EXPECT_EQ(1u, boxes.Boxes().size());
+                      EXPECT_EQ(row.atOnce, boxes.Boxes().size());
                       user.Focus(row.id == kScaleX ? kScaleY : kScaleX);
                       boxes.Forget();
                       user.Ok();
@@ -241,6 +282,25 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
                       EXPECT_EQ(page.m_hWnd, user.Page()) << "nor is there a way to another page";
                   }));
         EXPECT_EQ(before, All());
+    }
+}
+
+TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
+    Add({{1, 2, 3}, {1, 1, 1}, {0, 0, 0}});
+    const struct {
+        const char* text;
+        double value;
+    } kRows[] = {{"-5", -5}, {".5", 0.5}, {"-0.0625", -0.0625}, {"1e2", 100}, {"+2.5e-1", 0.25}};
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(row.text);
+        MessageBoxWatcher boxes;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      user.Type(kPositionY, "");
+                      user.Type(kPositionY, row.text);
+                      user.Ok();
+                  }));
+        EXPECT_TRUE(boxes.Boxes().empty());
+        EXPECT_EQ(row.value, Parts(0).position[1]);
     }
 }
 

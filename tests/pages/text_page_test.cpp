@@ -138,6 +138,9 @@ TEST_F(TextPage, MixedTextsShowNothingAndSurviveOk) {
                       EXPECT_EQ(BST_INDETERMINATE, user.Check(box)) << box;
                   EXPECT_EQ(BST_UNCHECKED, user.Check(kHidden));
                   EXPECT_EQ(BST_UNCHECKED, user.Check(kTextBox));
+                  user.Focus(kFont);
+                  for (int i = 0; i < 14; ++i)
+                      user.Key(VK_TAB); // round the sheet; to come by is no choice
                   for (const int button : {kLeft, kCenter, kRight})
                       EXPECT_EQ(BST_UNCHECKED, user.Check(button)) << button;
                   user.Ok();
@@ -240,6 +243,21 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
     EXPECT_EQ(kSans, text.Text("TextFont"));
 }
 
+// A listed height that begins with it does not take its place.
+TEST_F(TextPage, AChangeOfFontKeepsAHeightThatOthersBeginWith) {
+    std::ofstream(ini) << "[FontSizes]\nmm=10,20,3.5\n";
+    KitGraphic& text = Add(kSans, 5, 0, kRed, 0);
+    for (const double height : {1.0, 2.0, 3.0}) {
+        text.properties["TextFont"] = kSans;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      user.Type(kSize, std::to_string(static_cast<int>(height)));
+                      ChooseFont(user, kSerif);
+                      user.Ok();
+                  }));
+        EXPECT_EQ(height, text.Number("TextSize"));
+    }
+}
+
 TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     KitGraphic& a = Add(kSans, 4, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 4, 0, kRed, 0);
@@ -285,6 +303,30 @@ TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
               }));
     EXPECT_EQ(2, kit[0].Number("TextSize"));
     EXPECT_EQ(2, kit[0].Number("TextFormat"));
+}
+
+// As long as the narrow field lets nobody see it whole.
+TEST_F(TextPage, ALongHeightIsStoredAsTyped) {
+    KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  user.Type(kSize, "0012'-11 15/16\"");
+                  EXPECT_EQ("0012'-11 15/16\"", user.Text(kSize));
+                  user.Ok();
+              }));
+    EXPECT_NEAR(155.9375 * 25.4, text.Number("TextSize"), 1e-9);
+}
+
+// In a space without lengths there is no text for a height.
+TEST_F(TextPage, AHeightThatCannotBeWrittenLeavesItsFieldBlank) {
+    KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
+    ::DrawingSetCoordSpace(kit.Drawing(), 2);
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_EQ("", user.Text(kSize));
+                  user.Click(kRight);
+                  user.Ok();
+              }));
+    EXPECT_EQ(2, text.Number("TextSize"));
+    EXPECT_EQ(2, text.Number("TextFormat"));
 }
 
 TEST_F(TextPage, CancelWritesNothing) {

@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kDegree = 0.017453292519943295, kGrad = 0.015707963267948967, kRight = 90 * kDegree;
 constexpr double kMostSteps = 1e15; // that a double counts and a decimal shows to the last digit
+constexpr double kNoAngle = 1e-15; // radians: what a calculation leaves of nothing, the last digits of a turn
 
 constexpr struct {
     const char* name;
@@ -100,7 +101,16 @@ class Division {
 public:
     explicit Division(int digits) : level_(digits <= 0 ? 0 : digits <= 2 ? 1 : std::max(2, digits - 2)) {}
 
-    bool Refine() { return level_ < kFinest && ++level_; }
+    // The degrees as so many steps, divided more finely where that leaves an error beyond the given one. False if no division
+    // is fine enough, or if there are too many steps.
+    bool Count(double degrees, double error, double& steps) {
+        for (;;) {
+            steps = std::round(degrees * StepsOfDegree());
+            if (std::fabs(steps / StepsOfDegree() - degrees) <= error) return std::fabs(steps) < kMostSteps;
+            if (level_ == kFinest) return false;
+            ++level_;
+        }
+    }
     int SecondDigits() const { return std::max(0, level_ - 2); }
     double StepsOfDegree() const {
         return level_ == 0 ? 1 : level_ == 1 ? 60 : 3600 * std::pow(10, SecondDigits());
@@ -111,40 +121,45 @@ private:
     int level_;
 };
 
-// Four significant digits are left, as in every number here.
-bool IsCloseEnough(double rounded, double value) {
-    return std::fabs(rounded - value) <= 0.0005 * value;
+// Half of the last digit that a decimal number of this size would show at least: of four.
+double AllowedError(double value) {
+    return std::pow(10, -DecimalsFor(value, 0)) / 2;
 }
 
-std::string WriteDegrees(double degrees, int digits) {
-    const double size = std::fabs(degrees);
-    Division division(digits);
-    double perDegree = 0, steps = 0;
-    do {
-        perDegree = division.StepsOfDegree();
-        steps = std::round(size * perDegree);
-    } while (!IsCloseEnough(steps / perDegree, size) && division.Refine());
-    if (!IsCloseEnough(steps / perDegree, size) || !(steps < kMostSteps)) {
-        const std::string decimal = DecimalText(degrees, digits);
-        return decimal.empty() ? decimal : decimal + "d";
-    }
+// Steps that are not negative.
+std::string StepsText(double steps, const Division& division) {
+    const double perDegree = division.StepsOfDegree();
     const double whole = std::floor(steps / perDegree);
     const double rest = (steps - whole * perDegree) * 60; // in sixtieths of a step
     const double minutes = std::floor(rest / perDegree);
     const double seconds = (rest - minutes * perDegree) * 60 / perDegree;
-    std::string text = (degrees < 0 ? "-" : "") + DecimalText(whole, 0) + "d";
+    std::string text = DecimalText(whole, 0) + "d";
     if (minutes > 0 || seconds > 0) text += DecimalText(minutes, 0) + "'";
     if (seconds > 0) text += DecimalText(seconds, division.SecondDigits()) + "\"";
     return text;
 }
 
+std::string WriteDegrees(double degrees, int digits) {
+    Division division(digits);
+    double steps = 0;
+    if (division.Count(std::fabs(degrees), AllowedError(degrees), steps))
+        return (degrees < 0 ? "-" : "") + StepsText(steps, division);
+    return DecimalText(degrees, digits) + "d";
+}
+
+// From the rounded angle, so that what a calculation leaves beside a direction of the compass does not show.
 std::string WriteBearing(double degrees, int digits) {
-    if (!(degrees >= 0 && degrees < 360)) return WriteDegrees(degrees, digits);
-    const bool north = degrees <= 180, east = degrees <= 90 || degrees > 270;
-    const std::string away = WriteDegrees(std::fabs(degrees - (north ? 90 : 270)), digits);
-    if (away == "0d") return north ? "N" : "S";
-    if (away == "90d") return east ? "E" : "W";
-    return (north ? "N " : "S ") + away + (east ? " E" : " W");
+    Division division(digits);
+    double steps = 0;
+    const bool counted = division.Count(degrees, AllowedError(90), steps);
+    const double quarter = 90 * division.StepsOfDegree();
+    if (!counted || steps < 0 || steps > 4 * quarter) return WriteDegrees(degrees, digits);
+    if (steps == 4 * quarter) steps = 0;
+    const bool north = steps <= 2 * quarter, east = steps <= quarter || steps > 3 * quarter;
+    const double away = std::fabs(steps - (north ? quarter : 3 * quarter));
+    if (away == 0) return north ? "N" : "S";
+    if (away == quarter) return east ? "E" : "W";
+    return (north ? "N " : "S ") + StepsText(away, division) + (east ? " E" : " W");
 }
 
 } // namespace
@@ -155,10 +170,11 @@ bool ReadAngle(std::string_view text, AngleSystem bare, double& radians) {
 }
 
 std::string WriteAngle(double radians, const AngleFormat& format) {
-    if (format.system == AngleSystem::DegreesMinutesSeconds)
-        return WriteDegrees(radians / kDegree, format.digits);
-    if (format.system == AngleSystem::Bearings) return WriteBearing(radians / kDegree, format.digits);
-    return DecimalText(radians / BareUnit(format.system), format.digits);
+    const double number = std::fabs(radians) < kNoAngle ? 0 : radians / BareUnit(format.system);
+    if (!std::isfinite(number)) return {};
+    if (format.system == AngleSystem::DegreesMinutesSeconds) return WriteDegrees(number, format.digits);
+    if (format.system == AngleSystem::Bearings) return WriteBearing(number, format.digits);
+    return DecimalText(number, format.digits);
 }
 
 } // namespace drawcore

@@ -100,7 +100,9 @@ std::string DecimalText(double value, int decimals) {
 }
 
 std::string ScientificText(double value, int decimals) {
+    constexpr double kAlmostTooLarge = 1e300; // rounded up, in a larger unit, there may be no such double
     if (!std::isfinite(value)) return {};
+    if (std::fabs(value) > kAlmostTooLarge) decimals = kMostDigits - 1;
     return Marked(Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, kFewestDecimals))));
 }
 
