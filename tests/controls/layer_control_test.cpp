@@ -1,4 +1,4 @@
-// The layer control: icons, names and colours of its rows, typing ahead, and lists of ten thousand layers.
+// The layer control: icons, names and colours of its rows, and lists of ten thousand layers.
 
 #include "control_dialog.h"
 
@@ -158,24 +158,6 @@ TEST_F(Layers, RowsFitIconAndFont) {
     EXPECT_LE(48u, measure.itemHeight);
     m_control.SendMessage(WM_SETFONT, 0, 0);
     ::DeleteObject(large);
-}
-
-TEST_F(Layers, TypingGoesByTheNames) {
-    for (const char* name : {"Walls", "Doors", "windows", "Dimensions"})
-        Add(name, RGB(200, 0, 0), 0);
-    Fill(IDC_LAYERS, m_table, 0);
-    const auto type = [&](char c) {
-        m_control.SendMessage(WM_CHAR, static_cast<WPARAM>(c), 1);
-        char name[kItemTextSize] = "";
-        m_control.GetControlItem(m_control.GetCurSel(), name);
-        return std::string(name);
-    };
-    EXPECT_EQ("Walls", type('w'));
-    EXPECT_EQ("windows", type('W')) << "the next one";
-    EXPECT_EQ("Walls", type('w')) << "and round";
-    EXPECT_EQ("Doors", type('d'));
-    EXPECT_EQ("Doors", type('x')) << "no such name";
-    EXPECT_EQ("0", type('0')) << "the layer, not the keys";
 }
 
 // Each layer is asked for once, and only what can be seen is drawn.

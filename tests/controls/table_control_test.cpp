@@ -145,6 +145,52 @@ TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
     EXPECT_TRUE(::GetUpdateRect(this->m_control.m_hWnd, &update, FALSE)) << "painted once, afterwards";
 }
 
+// Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
+TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
+    for (const char* name :
+         {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
+        TableEntryAdd(this->m_table, name, nullptr);
+    this->Fill(this->m_table, 0);
+    const auto type = [&](const std::string& letters) {
+        for (const char letter : letters)
+            this->m_control.SendMessage(WM_CHAR, static_cast<WPARAM>(letter), 1);
+        return this->Name(this->m_control.GetCurSel());
+    };
+    const struct {
+        const char *from, *typed, *reached;
+        int changes;
+    } rows[] = {
+        {"", "green", "Green", 1},
+        {"", "grey", "Grey", 2},
+        {"", "cyan", "Cyan", 1},
+        {"Walls", "w", "windows", 1},
+        {"", "wWw", "Walls", 3}, // the same letter: the next one, and round
+        {"Red", "dark r", "Dark red", 2},
+        {"Walls", "x", "Walls", 0},
+        {"", "rx", "Red", 1},
+        {"", "rxd", "Red", 1},
+        {"Grey", "green", "Green", 1},
+        {"", "8", "8", 1}, // not the keys
+        {"", "0", "", 0},
+        {"Red", " ", "Red", 0},
+    };
+    for (const auto& row : rows) {
+        this->m_control.SetCurSel(-1);
+        for (int i = 0; i < this->m_control.GetCount(); ++i)
+            if (this->Name(i) == row.from) this->m_control.SetCurSel(i);
+        this->m_host.notifications.clear();
+        EXPECT_EQ(row.reached, type(row.typed)) << row.from << " " << row.typed;
+        EXPECT_EQ(row.changes, this->m_host.Count(CBN_SELCHANGE)) << row.typed;
+    }
+    this->m_control.SetCurSel(0);
+    EXPECT_EQ("Red", type("r"));
+    const UINT usual = ::GetDoubleClickTime();
+    ::SetDoubleClickTime(1);
+    ::Sleep(50);
+    EXPECT_EQ("Doors", type("d")) << "after a pause";
+    ::SetDoubleClickTime(usual);
+}
+
 // ---- What only the combo does
 
 struct DropRow {
