@@ -19,6 +19,23 @@ bool IsControlBarID(int nID) {
     return nID >= 0xE800 && nID <= 0xE8FF;
 }
 
+// What the system's combo opens its list for.
+bool OpensList(UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        return true;
+    case WM_KEYDOWN:
+        return wParam == VK_F4;
+    case WM_SYSKEYDOWN:
+        return wParam == VK_DOWN || wParam == VK_UP;
+    case CB_SHOWDROPDOWN:
+        return wParam != FALSE;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 WNDPROC CComboControl::lpfnSuperWndProc = nullptr;
@@ -71,6 +88,8 @@ void CComboControl::PostNcDestroy() {
 
 LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfCombo(m_hWnd), wParam)) return 0;
+    // Here, and not at CBN_DROPDOWN, which only the parent gets.
+    if (OpensList(message, wParam) && !GetDroppedState()) SizeDropDown();
     return CComboBox::WindowProc(message, wParam, lParam);
 }
 

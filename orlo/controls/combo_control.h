@@ -38,7 +38,8 @@ public:
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
-    // Fits the drop-down list to the items: whole rows, up to 320 pixels with the closed field.
+    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field. The control does so
+    // itself before the list opens, whatever its parent.
     virtual void SizeDropDown();
     // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
     // without such an item.
@@ -64,7 +65,7 @@ protected:
 
     WNDPROC* GetSuperWndProcAddr() override;
     void PostNcDestroy() override;
-    // Typing ahead goes by the names of the items; see type_ahead.h.
+    // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.

@@ -2,6 +2,8 @@
 
 #include "control_dialog.h"
 
+#include <functional>
+
 #include "orlo/controls/color_control.h"
 
 namespace {
@@ -203,9 +205,10 @@ struct DropRow {
 const DropRow kDrops[] = {
     {"FewItems", 3, 16, 3}, {"MoreThanFit", 40, 16, 18}, {"None", 0, 16, 0}, {"HighRows", 4, 100, 2}};
 
-class DropDown : public TableControl<TableCombo>, public ::testing::WithParamInterface<DropRow> {};
+class DropDown : public TableControl<TableCombo> {};
+class DropDownRows : public DropDown, public ::testing::WithParamInterface<DropRow> {};
 
-TEST_P(DropDown, ShowsWholeRowsUpTo320Pixels) {
+TEST_P(DropDownRows, ShowsWholeRowsUpTo320Pixels) {
     const DropRow& row = GetParam();
     m_control.rowHeight = row.rowHeight;
     for (int i = 0; i < row.items; ++i)
@@ -222,8 +225,37 @@ TEST_P(DropDown, ShowsWholeRowsUpTo320Pixels) {
     EXPECT_EQ(closed.Width(), again.Width());
 }
 
-INSTANTIATE_TEST_SUITE_P(Lists, DropDown, ::testing::ValuesIn(kDrops),
+INSTANTIATE_TEST_SUITE_P(Lists, DropDownRows, ::testing::ValuesIn(kDrops),
                          [](const auto& row) { return std::string(row.param.name); });
+
+// In any parent: this one takes no part in it.
+TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
+    m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
+    m_control.ShowWindow(SW_SHOW);
+    m_control.SetFocus();
+    const auto click = [&](int at) {
+        m_control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at, 5));
+        m_control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(at, 5));
+    };
+    const std::function<void()> ways[] = {[&] { m_control.ShowDropDown(TRUE); }, [&] { click(115); },
+                                          [&] { m_control.SendMessage(WM_KEYDOWN, VK_F4, 1); },
+                                          [&] { m_control.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); }};
+    int items = 0;
+    for (const auto& open : ways) {
+        m_control.AddString("item");
+        m_control.AddString("item");
+        open();
+        ASSERT_TRUE(m_control.GetDroppedState()) << items;
+        items += 2;
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ASSERT_TRUE(::GetComboBoxInfo(m_control.m_hWnd, &info));
+        CRect list;
+        ::GetClientRect(info.hwndList, list);
+        EXPECT_NEAR(items * 16, list.Height(), 8) << items;
+        m_control.ShowDropDown(FALSE);
+    }
+}
 
 // The parent of a clicked combo.
 class ClickedParent : public CWnd {
