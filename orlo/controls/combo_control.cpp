@@ -3,6 +3,7 @@
 #include "orlo/controls/combo_control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "orlo/controls/filling.h"
 #include "orlo/controls/screen_scale.h"
@@ -82,7 +83,21 @@ WNDPROC* CComboControl::GetSuperWndProcAddr() {
     return &lpfnSuperWndProc;
 }
 
+BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
+    m_beingMade = true;
+    return CComboBox::PreCreateWindow(cs);
+}
+
+// Called for a window in the making and for one that is taken over, whose rows the parent has measured without an object
+// and whose WM_INITIALUPDATE is over.
+void CComboControl::PreSubclassWindow() {
+    if (std::exchange(m_beingMade, false)) return;
+    m_dwStyle = GetStyle();
+    TakeWindowOver(m_hWnd, ControlItems::OfCombo(m_hWnd), MeasuredRow(*this));
+}
+
 void CComboControl::PostNcDestroy() {
+    m_beingMade = false; // where no window could be made
     if (m_bAutoDelete) delete this;
 }
 
@@ -96,9 +111,7 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void CComboControl::SizeDropDown() {
     RECT rect = {};
     ::GetWindowRect(m_hWnd, &rect);
-    MEASUREITEMSTRUCT measure = {};
-    MeasureItem(&measure);
-    const int row = std::max(static_cast<int>(measure.itemHeight), 1);
+    const int row = std::max(MeasuredRow(*this), 1);
     const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + (rect.bottom - rect.top);
     const int count = std::max(GetCount(), 0);
     if (m_nDropHeight != count * row + frame) {

@@ -64,6 +64,8 @@ protected:
     CComboControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
     void PostNcDestroy() override;
     // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -82,6 +84,9 @@ protected:
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_beingMade = false; // the window; false too where one is taken over
 };
 
 // The object of that window, null if there is none of this class.

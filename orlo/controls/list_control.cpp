@@ -2,6 +2,8 @@
 
 #include "orlo/controls/list_control.h"
 
+#include <utility>
+
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/table_control.h"
@@ -35,7 +37,21 @@ WNDPROC* CListControl::GetSuperWndProcAddr() {
     return &lpfnSuperWndProc;
 }
 
+BOOL CListControl::PreCreateWindow(CREATESTRUCT& cs) {
+    m_beingMade = true;
+    return CListBox::PreCreateWindow(cs);
+}
+
+// Called for a window in the making and for one that is taken over, whose rows the parent has measured without an object
+// and whose WM_INITIALUPDATE is over.
+void CListControl::PreSubclassWindow() {
+    if (std::exchange(m_beingMade, false)) return;
+    m_dwStyle = GetStyle();
+    TakeWindowOver(m_hWnd, ControlItems::OfList(m_hWnd), MeasuredRow(*this));
+}
+
 void CListControl::PostNcDestroy() {
+    m_beingMade = false; // where no window could be made
     if (m_bAutoDelete) delete this;
 }
 

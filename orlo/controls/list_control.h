@@ -36,6 +36,8 @@ protected:
     CListControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -53,4 +55,7 @@ protected:
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_beingMade = false; // the window; false too where one is taken over
 };

@@ -2,10 +2,23 @@
 
 #include "orlo/controls/table_control.h"
 
+#include <afxwin.h>
+
 #include "orlo/controls/control_font.h"
 
 unsigned long ItemOf(const ControlItems& items, int index, char* text) {
     return items.GetText(index, text, kItemTextSize) ? ParseControlItem(text) : 0;
+}
+
+void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight) {
+    ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
+    const LONG style = ::GetWindowLongA(control, GWL_STYLE);
+    constexpr LONG kVariable = CBS_OWNERDRAWVARIABLE, kDrawn = CBS_OWNERDRAWFIXED | kVariable;
+    static_assert(kDrawn == (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE));
+    const int rows = style & kVariable ? items.Count() : 1;
+    for (int row = -1; (style & kDrawn) != 0 && row < rows; ++row)
+        items.SetRowHeight(row, rowHeight);
+    ::SendMessageA(control, WM_INITIALUPDATE, 0, 0);
 }
 
 void UseSharedFont(HWND control) {

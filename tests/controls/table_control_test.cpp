@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "orlo/controls/color_control.h"
+#include "orlo/exchange/ddx_control.h"
 
 namespace {
 
@@ -28,9 +29,10 @@ public:
     bool MakeIn(CWnd* parent) {
         return Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 120, 80), parent, 1);
     }
-    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 16; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
     void DrawItem(LPDRAWITEMSTRUCT) override {}
     int Find(unsigned id) const { return FindItem(id); }
+    UINT rowHeight = 16;
 };
 
 template <class Control>
@@ -145,6 +147,51 @@ TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
     this->Fill(this->m_table, 1);
     RECT update = {};
     EXPECT_TRUE(::GetUpdateRect(this->m_control.m_hWnd, &update, FALSE)) << "painted once, afterwards";
+}
+
+// Rows, font, size and the announcement, which the host answers at once.
+TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
+    constexpr bool combo = std::is_base_of<CComboBox, TypeParam>::value;
+    TableEntryAdd(this->m_table, "Zinc", nullptr);
+    this->m_host.answer = this->m_table;
+    constexpr DWORD kFixed = CBS_OWNERDRAWFIXED,
+                    kVariable = CBS_OWNERDRAWVARIABLE; // those of a list are the same
+    for (const DWORD drawn : {kFixed, kVariable}) {
+        for (const bool exchanged : {false, true}) {
+            const DWORD style =
+                WS_CHILD | drawn | (combo ? CBS_DROPDOWNLIST | CBS_HASSTRINGS : LBS_HASSTRINGS);
+            const HWND window =
+                ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
+                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
+            ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
+            TypeParam control, made;
+            control.rowHeight = made.rowHeight = 30;
+            ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
+            made.SendMessage(WM_INITIALUPDATE);
+            this->m_host.notifications.clear();
+            CDataExchange load(&this->m_host, FALSE);
+            if (exchanged)
+                DDX_Control(1, &load, 2, control);
+            else
+                ASSERT_TRUE(control.SubclassDlgItem(2, &this->m_host));
+            const UINT height = combo ? CB_GETITEMHEIGHT : LB_GETITEMHEIGHT;
+            EXPECT_EQ(30, control.SendMessage(height, 0, 0));
+            EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0),
+                      control.SendMessage(height, combo ? -1 : 0, 0));
+            EXPECT_EQ(style, control.m_dwStyle & ~WS_CLIPSIBLINGS);
+            EXPECT_NE(0, control.SendMessage(WM_GETFONT));
+            ASSERT_EQ(1, this->m_host.Count(kControlReady));
+            EXPECT_EQ(window, this->m_host.notifications.back().control);
+            EXPECT_EQ(control.m_nControlID, this->m_host.notifications.back().kind);
+            EXPECT_EQ(this->m_table, control.m_pTable);
+            EXPECT_EQ(1, control.GetCount()) << "filled anew";
+            CRect rect;
+            control.GetWindowRect(rect);
+            EXPECT_NEAR(combo ? rect.Height() : 320, rect.Height(), 30);
+            control.DestroyWindow();
+        }
+    }
+    EXPECT_EQ(0, this->m_control.GetCount()) << "one that is made has announced nothing";
 }
 
 // Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
