@@ -7,6 +7,7 @@
 #include "orlo/controls/layer_control.h"
 #include "orlo/exchange/ddx_control.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -87,16 +88,11 @@ TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
 
 // A scheme of light text on a black window, as high contrast has it.
 TEST_F(Layers, NothingVanishesOnADarkWindow) {
-    const INT elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT};
-    const COLORREF before[] = {::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT)};
-    const COLORREF dark[] = {RGB(0, 0, 0), RGB(255, 255, 0)};
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
     Fill(IDC_LAYERS, m_table, black);
-    ASSERT_TRUE(::SetSysColors(2, elements, dark));
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
     Draw(Index(black));
-    const int text = m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0));
-    ::SetSysColors(2, elements, before);
-    EXPECT_LT(10, text);
+    EXPECT_LT(10, m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0)));
 }
 
 TEST_F(Layers, TheClosedFieldNeedsNoItem) {
