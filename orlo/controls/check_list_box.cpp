@@ -32,12 +32,6 @@ int BoxMargin() {
     return ::GetSystemMetrics(SM_CXDLGFRAME);
 }
 
-int HeightOfM(HDC dc) {
-    SIZE size = {};
-    ::GetTextExtentPoint32A(dc, "M", 1, &size);
-    return size.cy;
-}
-
 void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
     const HDC source = ::CreateCompatibleDC(dc);
     if (!source) return;
@@ -129,7 +123,7 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
     GetText(index, name);
     CRect text = row;
     text.left += box.Width() + 2 * BoxMargin();
-    const int offset = std::max((row.Height() - HeightOfM(pDIS->hDC)) / 2, 0);
+    const int offset = std::max((row.Height() - TextHeight(pDIS->hDC)) / 2, 0);
     FillSolid(pDIS->hDC, text, colors.background);
     DrawClippedText(pDIS->hDC, text.left + kTextGap, row.top + offset, text, name, colors.text);
     {

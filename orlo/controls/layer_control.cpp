@@ -7,6 +7,7 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
+#include "orlo/controls/text_height.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/table.h"
 #include "orlo/resources/resource.h"
@@ -96,5 +97,6 @@ void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     const bool selected = request.itemState & ODS_SELECTED;
     const COLORREF color =
         selected ? ColorsOf(request).text : NameColor(request.hDC, LayerGetColor(drawing, layer));
-    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top, rect, name, color);
+    const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
+    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top + offset, rect, name, color);
 }

@@ -36,7 +36,7 @@ int MeasuredRow(Control& control) {
 void UseSharedFont(HWND control);
 
 // Device pixels.
-int WindowWidth(HWND window);
+SIZE WindowSize(HWND window);
 
 // Gives a control that height, its width and place as they are. Nothing is redrawn.
 void SetControlHeight(HWND control, int height);

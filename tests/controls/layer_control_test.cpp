@@ -86,6 +86,18 @@ TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
     EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
 }
 
+TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
+    const uint16_t id = Add("HHH", RGB(0, 0, 200), kLayerOff);
+    Fill(IDC_LAYERS, m_table, id);
+    const auto ink = [&](LONG top, LONG bottom) {
+        return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200));
+    };
+    Draw(Index(id), ODA_DRAWENTIRE, 0, {0, 8, 140, 48});
+    EXPECT_EQ(0, ink(8, 18));
+    EXPECT_LT(10, ink(18, 38));
+    EXPECT_EQ(0, ink(38, 48));
+}
+
 // A scheme of light text on a black window, as high contrast has it.
 TEST_F(Layers, NothingVanishesOnADarkWindow) {
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
