@@ -57,6 +57,7 @@ void CFontSizeControl::WatchEditField() {
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
     WatchEditField(); // a control that subclasses a window has not seen it made
     const Filling filling(m_hWnd);
+    m_pDrawing = nullptr; // the host may be about to close it
     if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
     const FontListRequest request = {this, m_strFontName};
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(&request));
@@ -80,10 +81,14 @@ bool CFontSizeControl::TakeDrawing() {
     return true;
 }
 
-// A closed combo shows the height without selecting it, ready to be typed over.
+// A closed combo shows the height without selecting it, ready to be typed over. A height that has no text is not shown.
 void CFontSizeControl::Show(double size) {
     CString text;
     FontSizeText(size, text);
+    if (text.IsEmpty()) {
+        SetCurSel(-1);
+        return;
+    }
     int index = FindStringExact(-1, text);
     if (index < 0) {
         AddString(text);
