@@ -8,6 +8,9 @@
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, 32005);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
+// The controls draw in the system's colours. A closed field shows the focus by the system's rectangle, and that it is disabled
+// by grey text on the colour of the dialog.
+//
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
 // (control_fill.h) whenever it likes.

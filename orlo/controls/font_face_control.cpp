@@ -49,5 +49,5 @@ void CFontFaceControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;
     if (*item.text) DrawPlainRow(*pDIS, item.text, ColorsOf(*pDIS));
-    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    DrawItemFocus(*pDIS);
 }

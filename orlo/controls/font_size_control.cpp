@@ -20,7 +20,6 @@ namespace {
 constexpr unsigned int kKind = 0x7D01;
 constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
 constexpr double kMillimetresPerInch = 25.4;
-constexpr RowColors kNothingColors = {RGB(255, 0, 0), RGB(255, 255, 255)};
 
 float FloatOf(UINT_PTR bits) {
     const auto low = static_cast<uint32_t>(bits);
@@ -124,6 +123,6 @@ void CFontSizeControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 void CFontSizeControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;
-    DrawPlainRow(*pDIS, item.text, item.IsNothing() ? kNothingColors : ColorsOf(*pDIS));
-    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    DrawPlainRow(*pDIS, item.text, item.IsNothing() ? SampleColorsOf(*pDIS) : ColorsOf(*pDIS));
+    DrawItemFocus(*pDIS);
 }

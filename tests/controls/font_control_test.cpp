@@ -13,6 +13,7 @@
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -260,7 +261,10 @@ TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
     draw(m_faces, -1, 0);
     EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9)));
     draw(m_sizes, -1, 0);
-    EXPECT_EQ(area, pixels.Count(row, RGB(255, 255, 255)));
+    EXPECT_EQ(area, pixels.Count(row, ::GetSysColor(COLOR_WINDOW)));
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}});
+    draw(m_sizes, -1, 0);
+    EXPECT_EQ(area, pixels.Count(row, RGB(0, 0, 0)));
 }
 
 TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
