@@ -277,11 +277,11 @@ void CWizardSheet::ShowHeading() {
 
 // Tab row, heading and buttons follow the page that has come, and stay where it has not.
 bool CWizardSheet::MoveTo(int nPage) {
-    const CSize before = m_sizePages;
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
     ShowHeading();
-    if (m_sizePages != before) RecalcWizardLayout();
+    const CSize size = WindowSize(GetActivePage()->m_hWnd);
+    if (size.cx < m_sizePages.cx || size.cy < m_sizePages.cy) RecalcWizardLayout();
     // A system that takes the focus from a button which is disabled leaves the keyboard with nobody.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
     return true;
@@ -296,8 +296,8 @@ void CWizardSheet::OnNext() {
         OnFinish();
     } else if (MoveTo(m_nCurPage + 1)) {
         FocusActivePage();
-        ::SendDlgItemMessageA(m_hWnd, kNextId, BM_SETSTYLE, BS_DEFPUSHBUTTON,
-                              TRUE); // a click has made it a plain one
+        // A click has made it a plain one.
+        ::SendDlgItemMessageA(m_hWnd, kNextId, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
     }
 }
 
@@ -310,7 +310,9 @@ BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
     const HWND page = GetActivePage() != nullptr ? GetActivePage()->m_hWnd : nullptr;
     if (m_bModeless || page == nullptr || !::IsChild(page, pMsg->hwnd) || !IsReturnForDefault(*pMsg))
         return CPropertySheet::PreTranslateMessage(pMsg);
-    if (m_nCurPage == GetPageCount() - 1 || !HasFieldBehind(page, pMsg->hwnd)) OnNext();
+    const bool heldDown = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0; // since a page that nobody has seen
+    const bool finishes = m_nCurPage == GetPageCount() - 1;
+    if (!heldDown && (finishes || !HasFieldBehind(page, pMsg->hwnd))) OnNext();
     return TRUE;
 }
 

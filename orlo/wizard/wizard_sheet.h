@@ -12,12 +12,13 @@
 // before the last page has agreed therefore acts behind DoModal, not in OnOK.
 //
 // Next is the default button: Return goes on, but not while fields stand behind the one with the focus, which it would skip
-// unread; on the last page it finishes from any field. Behind Next the focus is on the first field of the page that has come.
+// unread; on the last page it finishes from any field. Held down it goes one step. Behind Next the focus is on the first field
+// of the page that has come.
 //
 // The sheet is as large as the page that it opens on, and grows with a larger one. The caption of the page stands where the
-// tabs would be. It opens with Back disabled and with "Next >", whatever page that is,
-// until the first move. The buttons' texts are strings 111 to 114: the host's, if it has them, else the library's, which are
-// found behind PropPageInit. A modeless one has no buttons; its owner sends it the commands 100 (back) and 101 (next).
+// tabs would be. It opens with Back disabled and with "Next >", whatever page that is, until the first move. The buttons' texts
+// are strings 111 to 114: the host's, if it has them, else the library's, which are found behind PropPageInit. A modeless one
+// has no buttons; its owner sends it the commands 100 (back) and 101 (next).
 #pragma once
 
 #include <afxdlgs.h>

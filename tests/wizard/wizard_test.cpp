@@ -161,6 +161,9 @@ TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
                   EXPECT_EQ("1 Back &Next >", State(user));
                   EXPECT_EQ("2r ", log);
                   steps[1]->accepts = true;
+                  ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN, 0x40000001); // held down since the step before
+                  user.Pump();
+                  EXPECT_EQ("1 Back &Next >", State(user));
                   user.Key(VK_RETURN);
                   EXPECT_EQ("2 Back Finish", State(user));
                   log.clear();
