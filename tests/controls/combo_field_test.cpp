@@ -22,10 +22,10 @@ protected:
     }
     using Picture = std::vector<COLORREF>;
     // times: a field is drawn again over what it shows.
-    Picture Draw(int id, UINT state, UINT action = ODA_DRAWENTIRE, int times = 1) {
+    Picture Draw(int id, UINT state, UINT action = ODA_DRAWENTIRE, int times = 1, UINT item = 0) {
         CComboControl& control = Get<CComboControl>(id);
         m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {ODT_COMBOBOX,   static_cast<UINT>(id), 0,      action, state,
+        DRAWITEMSTRUCT request = {ODT_COMBOBOX,   static_cast<UINT>(id), item,   action, state,
                                   control.m_hWnd, m_pixels.DC(),         kField, 0};
         for (int i = 0; i < times; ++i)
             control.DrawItem(&request);
@@ -46,6 +46,9 @@ protected:
         EXPECT_LE(50, Differences(plain, focused)) << id;
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn whole";
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2)) << id;
+        const UINT none = static_cast<UINT>(-1);
+        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, none), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, none))
+            << id;
         Draw(id, ODS_DISABLED);
         EXPECT_LE(5, m_pixels.Count(kField, ::GetSysColor(COLOR_GRAYTEXT))) << id;
         EXPECT_LE(800, m_pixels.Count(kField, ::GetSysColor(COLOR_3DFACE))) << id;
