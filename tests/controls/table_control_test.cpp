@@ -166,7 +166,9 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
             ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
             TypeParam control, made;
             control.rowHeight = made.rowHeight = 30;
+            this->m_host.notifications.clear();
             ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
+            EXPECT_EQ(0, this->m_host.Count(kControlReady)) << "what is made waits for its dialog";
             made.SendMessage(WM_INITIALUPDATE);
             this->m_host.notifications.clear();
             CDataExchange load(&this->m_host, FALSE);
@@ -191,7 +193,6 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
             control.DestroyWindow();
         }
     }
-    EXPECT_EQ(0, this->m_control.GetCount()) << "one that is made has announced nothing";
 }
 
 // Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
@@ -238,6 +239,15 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
     ::Sleep(50);
     EXPECT_EQ("Doors", type("d")) << "after a pause";
     ::SetDoubleClickTime(usual);
+
+    TypeParam other;
+    ASSERT_TRUE(other.MakeIn(&this->m_host));
+    for (const char* item : {"00000001\tElse", "00000002\tDelta"})
+        other.AddString(item);
+    other.SetCurSel(this->m_control.GetCurSel());
+    other.SendMessage(WM_CHAR, 'e', 1);
+    EXPECT_EQ(0, other.GetCurSel()) << "not the letters of another control";
+    other.DestroyWindow();
 }
 
 // ---- What only the combo does

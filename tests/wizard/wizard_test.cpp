@@ -13,7 +13,8 @@
 namespace {
 
 constexpr int kNarrow = 600, kWide = 601, kNoTemplate = 699;
-constexpr int kField = 1010, kKeepColour = 1011, kBack = 100, kNext = 101, kTabs = 301, kHeading = 302;
+constexpr int kField = 1010, kKeepColour = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
+              kHeading = 302;
 
 class CStep : public CPropertyPage {
 public:
@@ -26,6 +27,12 @@ public:
         return accepts && CPropertyPage::OnKillActive();
     }
     void OnOK() override { Log('o'); }
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (wParam == MAKEWPARAM(kLookUp, BN_CLICKED)) Log('l');
+        return CPropertyPage::OnCommand(wParam, lParam);
+    }
 
 private:
     void Log(char what) { m_log += {m_name, what, ' '}; }
@@ -44,7 +51,7 @@ class Wizard : public ::testing::Test {
 protected:
     Wizard() { ::PropPageInit(); }
 
-    std::string log; // r: a page has refused; o: its OnOK
+    std::string log; // r: a page has refused; o: its OnOK; l: its own button
     std::vector<std::unique_ptr<CStep>> steps;
     SheetDriver driver;
 
@@ -156,12 +163,20 @@ TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
                   user.Key(VK_RETURN);
                   EXPECT_EQ("1 Back &Next >", State(user));
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
+                  user.Key(VK_TAB);
+                  EXPECT_EQ(user.Control(kLookUp), ::GetFocus());
+                  user.Key(VK_RETURN);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ("2l ", log) << "a button of the page takes the key for itself";
+                  log.clear();
+                  user.Focus(kField);
                   steps[1]->accepts = false;
                   user.Key(VK_RETURN);
                   EXPECT_EQ("1 Back &Next >", State(user));
                   EXPECT_EQ("2r ", log);
                   steps[1]->accepts = true;
-                  ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN, 0x40000001); // held down since the step before
+                  ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN,
+                                 0x40000001); // held down since the step before
                   user.Pump();
                   EXPECT_EQ("1 Back &Next >", State(user));
                   user.Key(VK_RETURN);
