@@ -68,8 +68,8 @@ protected:
         CRect rect;
         place->GetWindowRect(&rect);
         ScreenToClient(&rect);
-        constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LBS_OWNERDRAWFIXED |
-                                 LBS_HASSTRINGS | LBS_NOTIFY | LBS_WANTKEYBOARDINPUT;
+        constexpr DWORD kStyle =
+            WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY;
         if (!m_list.Create(kStyle, rect, this, IDC_STYLE_PARTS)) return TRUE;
         m_list.SetFont(GetFont());
         place->DestroyWindow();
@@ -85,24 +85,12 @@ protected:
         return CPropertyPage::OnKillActive();
     }
 
-    // The space bar does what a click does.
-    afx_msg LRESULT OnKeyInList(WPARAM wParam, LPARAM) {
-        if (LOWORD(wParam) != VK_SPACE) return -1;
-        m_list.ToggleItem(HIWORD(wParam));
-        return -2;
-    }
-    DECLARE_MESSAGE_MAP()
-
 private:
     bool IsChecked(int index) const { return m_list.IsItemChecked(index) != 0; }
 
     Draft& m_draft;
     CCheckListBox m_list;
 };
-
-BEGIN_MESSAGE_MAP(CPartsStep, CPropertyPage)
-ON_MESSAGE(WM_VKEYTOITEM, &CPartsStep::OnKeyInList)
-END_MESSAGE_MAP()
 
 // ---- 3: the summary
 

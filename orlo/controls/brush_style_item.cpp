@@ -17,7 +17,7 @@ constexpr POINT kTextAt = {4, 1};     // from the corner of the item
 void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
     const RECT cell = Inflated(request.rcItem, -2);
     if (look.fitsCell) FitSampleToCell(item.graphic, cell);
-    const COLORREF ink = InkOnWindow();
+    const COLORREF ink = SampleColorsOf(request).text;
     GraphicSetPenColor(item.graphic, ink);
     GraphicSetBrushColor(item.graphic, ink);
     GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));

@@ -32,12 +32,6 @@ int BoxMargin() {
     return ::GetSystemMetrics(SM_CXDLGFRAME);
 }
 
-int HeightOfM(HDC dc) {
-    SIZE size = {};
-    ::GetTextExtentPoint32A(dc, "M", 1, &size);
-    return size.cy;
-}
-
 void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
     const HDC source = ::CreateCompatibleDC(dc);
     if (!source) return;
@@ -53,6 +47,7 @@ void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
 
 BEGIN_MESSAGE_MAP(CCheckListBox, CWnd)
 ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 CCheckListBox::CCheckListBox() = default;
@@ -128,7 +123,7 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
     GetText(index, name);
     CRect text = row;
     text.left += box.Width() + 2 * BoxMargin();
-    const int offset = std::max((row.Height() - HeightOfM(pDIS->hDC)) / 2, 0);
+    const int offset = std::max((row.Height() - TextHeight(pDIS->hDC)) / 2, 0);
     FillSolid(pDIS->hDC, text, colors.background);
     DrawClippedText(pDIS->hDC, text.left + kTextGap, row.top + offset, text, name, colors.text);
     {
@@ -145,6 +140,8 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
 void CCheckListBox::DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD, int bChecked) {
     const RECT box = {x, y, x + cx, y + cy};
     FillSolid(pDC->m_hDC, box, ::GetSysColor(COLOR_WINDOW));
+    RECT edge = box;
+    ::DrawEdge(pDC->m_hDC, &edge, EDGE_SUNKEN, BF_RECT);
     if (bChecked && CheckPicture()) DrawPicture(pDC->m_hDC, box, CheckPicture().get());
 }
 
@@ -152,13 +149,37 @@ int CCheckListBox::ItemFromPoint(CPoint point, int bPastEnd) {
     CRect client;
     GetClientRect(client);
     if (!client.PtInRect(point)) return -1;
-    const int row = point.y / ItemHeight() + GetTopIndex(), count = GetCount();
+    const int height = static_cast<int>(SendMessage(LB_GETITEMHEIGHT)); // the host can have set another
+    const int row = point.y / std::max(height, 1) + GetTopIndex(), count = GetCount();
     if (row < count) return row;
     return bPastEnd ? count : -1;
+}
+
+// A window that is taken over has rows that the parent has measured without this object. One in the making measures them
+// later, and does not know the message yet.
+void CCheckListBox::PreSubclassWindow() {
+    ::SendMessageA(m_hWnd, LB_SETITEMHEIGHT, 0, ItemHeight());
+}
+
+// The list box takes the space bar for the first letter of an item. A host that asks for its keys is not asked for this one,
+// which it may have toggled by itself.
+LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr LPARAM kHeldDown = LPARAM{KF_REPEAT} << 16;
+    if ((message == WM_KEYDOWN || message == WM_CHAR) && wParam == VK_SPACE) {
+        const int current = static_cast<int>(SendMessage(LB_GETCARETINDEX));
+        if (message == WM_KEYDOWN && !(lParam & kHeldDown) && current < GetCount()) ToggleItem(current);
+        return 0;
+    }
+    return CListBox::WindowProc(message, wParam, lParam);
 }
 
 void CCheckListBox::OnLButtonDown(UINT, CPoint point) {
     const int index = ItemFromPoint(point, 1);
     if (index != -1) ToggleItem(index);
     Default();
+}
+
+// The second of two quick clicks.
+void CCheckListBox::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    OnLButtonDown(nFlags, point);
 }

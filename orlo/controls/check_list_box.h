@@ -1,5 +1,6 @@
 // CCheckListBox: a list box with a check box in front of each item, for host programs. A click anywhere on an item toggles
-// it.
+// it, the second of two quick ones too, and so does the space bar for the current item. An unchecked box is drawn sunken, as
+// the mark's picture is, so that it can be seen on the list's background.
 //
 //   CCheckListBox list;
 //   list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY, rect, this, IDC_LAYERS);
@@ -33,14 +34,18 @@ protected:
     // Device pixels: that of the font that a device context of the window has by default, and room for the box.
     int ItemHeight();
     int InvalidateItem(int nIndex, int bErase);
-    // The box in the window's colour, and the mark in it; dwColor is not used.
+    // The sunken box in the window's colour, and the mark in it; dwColor is not used.
     void DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD dwColor, int bChecked);
     // The row at a point of the client area; -1 outside. Below the last row -1, or the count with bPastEnd.
     int ItemFromPoint(CPoint point, int bPastEnd);
     // Place of an item's check box. 0, or -1 if there is no such item.
     int GetCheckRect(int nIndex, CRect& rect);
 
+    void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()
 };

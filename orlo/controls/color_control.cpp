@@ -10,6 +10,7 @@
 #include "orlo/controls/color_swatch.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
+#include "orlo/controls/paint.h"
 #include "orlo/controls/style_item.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/strings.h"
@@ -144,19 +145,28 @@ void CColorControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    const bool noItem = IsNoItem(*pDIS);
-    if (!noItem && !(pDIS->itemAction & ODA_DRAWENTIRE)) {
-        // There is no selected look: the list shows colours as they are.
-        if (!(pDIS->itemAction & ODA_SELECT) && (pDIS->itemAction & ODA_FOCUS))
-            ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    const bool noItem = IsNoItem(*pDIS), inField = IsClosedField(*pDIS);
+    if (!noItem && !inField && !(pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT))) {
+        if (pDIS->itemAction & ODA_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
         return;
     }
     char name[kItemTextSize];
     const DWORD color = noItem ? m_nSelected : GetControlItem(static_cast<int>(pDIS->itemID), name);
     if (noItem || !IsPlainColor(color)) NameWithoutItem(color, name);
 
-    const SwatchPlace place = {pDIS->hDC, pDIS->rcItem, IsClosedField(*pDIS),
+    const RowColors colors = SampleColorsOf(*pDIS);
+    const bool disabled = pDIS->itemState & ODS_DISABLED;
+    const SwatchPlace place = {pDIS->hDC,
+                               pDIS->rcItem,
+                               inField,
+                               disabled,
+                               colors.text,
+                               colors.background,
                                reinterpret_cast<HFONT>(SendMessage(WM_GETFONT, 0, 0))};
     DrawSwatch(place, color, name);
-    if ((pDIS->itemState & ODS_FOCUS) && !place.inField) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
+    // On the colour itself the rectangle might not be seen.
+    if (inField && (pDIS->itemState & ODS_FOCUS))
+        FrameRectangle(pDIS->hDC, pDIS->rcItem, colors.background, 1);
+    DrawItemFocus(*pDIS);
 }

@@ -8,6 +8,9 @@
 //   0xFFFFFFFE  no value yet       0xFFFFFFFF  several values     both show nothing
 //   0xFFFFFFFD  first extra entry  0xFFFFFFFB  second one         by the host's texts
 //   0xFFFFFFFC  shown if it comes up; no list offers it
+//
+// The current row of the open list is marked by two frames, of which one can be seen on any colour. A disabled field is a grey
+// name in a frame of its colour.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

@@ -50,27 +50,31 @@ void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF co
     ::DrawTextA(place.dc, name, -1, &rect, DT_SINGLELINE | DT_VCENTER | (centred ? DT_CENTER : DT_LEFT));
 }
 
-void DrawMarker(const SwatchPlace& place, const RECT& cleared, const char* name) {
-    FrameRectangle(place.dc, Inflated(cleared, -1), kBlack, 1);
-    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, kBlack);
+void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth,
+               const char* name) {
+    FrameRectangle(place.dc, frame, frameColor, frameWidth);
+    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
 }
 
-// White on white needs a frame.
-void DrawWhite(const SwatchPlace& place, const char* name) {
+// White on white needs a frame, and so does a colour on its like.
+void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT frame = Inflated(place.rect, 1);
-    FrameRectangle(place.dc, frame, kBlack, 2);
-    DrawName(place, frame, name, kBlack, false);
+    FillSolid(place.dc, place.rect, color);
+    FrameRectangle(place.dc, frame, place.ink, 2);
+    DrawName(place, frame, name, ReadableOn(color), false);
 }
 
 } // namespace
 
 void DrawSwatch(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT cleared = place.inField ? Inflated(place.rect, 2) : place.rect;
-    FillSolid(place.dc, cleared, kWhite);
+    FillSolid(place.dc, cleared, place.paper);
     if (color & kMarkerBits) {
-        if (*name) DrawMarker(place, cleared, name);
-    } else if (color == kWhite) {
-        DrawWhite(place, name);
+        if (*name) DrawLabel(place, Inflated(cleared, -1), place.ink, 1, name);
+    } else if (place.disabled) {
+        DrawLabel(place, Inflated(place.rect, -1), color, 2, name);
+    } else if (color == kWhite || color == place.paper) {
+        DrawFramed(place, color, name);
     } else {
         FillWithColor(place.dc, place.rect, color);
         DrawName(place, place.rect, name, ReadableOn(color), true);

@@ -3,12 +3,14 @@
 
 #include <windows.h>
 
-// Where and how; the colours are fixed, since a swatch has to look the same under every colour scheme.
+// Where and how.
 struct SwatchPlace {
     HDC dc;
-    RECT rect;    // device pixels
-    bool inField; // the closed field of a combo, whose border the swatch covers
-    HFONT font;   // written in bold; null: the font of dc
+    RECT rect;           // device pixels
+    bool inField;        // the closed field of a combo, whose border the swatch covers
+    bool disabled;       // a label in a frame of its colour
+    COLORREF ink, paper; // of labels, and of what is behind all
+    HFONT font;          // written in bold; null: the font of dc
 };
 
 // A colour is a plain one, or a marker (high byte not 0), which shows its name in a frame, and nothing if

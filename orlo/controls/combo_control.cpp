@@ -3,6 +3,7 @@
 #include "orlo/controls/combo_control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "orlo/controls/filling.h"
 #include "orlo/controls/screen_scale.h"
@@ -17,6 +18,23 @@ constexpr int kButtonWidth = 16;    // at the right of the client area
 
 bool IsControlBarID(int nID) {
     return nID >= 0xE800 && nID <= 0xE8FF;
+}
+
+// What the system's combo opens its list for.
+bool OpensList(UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        return true;
+    case WM_KEYDOWN:
+        return wParam == VK_F4;
+    case WM_SYSKEYDOWN:
+        return wParam == VK_DOWN || wParam == VK_UP;
+    case CB_SHOWDROPDOWN:
+        return wParam != FALSE;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -65,21 +83,35 @@ WNDPROC* CComboControl::GetSuperWndProcAddr() {
     return &lpfnSuperWndProc;
 }
 
+BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
+    m_beingMade = true;
+    return CComboBox::PreCreateWindow(cs);
+}
+
+// Called for a window in the making and for one that is taken over, whose rows the parent has measured without an object
+// and whose WM_INITIALUPDATE is over.
+void CComboControl::PreSubclassWindow() {
+    if (std::exchange(m_beingMade, false)) return;
+    m_dwStyle = GetStyle();
+    TakeWindowOver(m_hWnd, ControlItems::OfCombo(m_hWnd), MeasuredRow(*this));
+}
+
 void CComboControl::PostNcDestroy() {
+    m_beingMade = false; // where no window could be made
     if (m_bAutoDelete) delete this;
 }
 
 LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfCombo(m_hWnd), wParam)) return 0;
+    // Here, and not at CBN_DROPDOWN, which only the parent gets.
+    if (OpensList(message, wParam) && !GetDroppedState()) SizeDropDown();
     return CComboBox::WindowProc(message, wParam, lParam);
 }
 
 void CComboControl::SizeDropDown() {
     RECT rect = {};
     ::GetWindowRect(m_hWnd, &rect);
-    MEASUREITEMSTRUCT measure = {};
-    MeasureItem(&measure);
-    const int row = std::max(static_cast<int>(measure.itemHeight), 1);
+    const int row = std::max(MeasuredRow(*this), 1);
     const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + (rect.bottom - rect.top);
     const int count = std::max(GetCount(), 0);
     if (m_nDropHeight != count * row + frame) {

@@ -8,6 +8,9 @@
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, 32005);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
+// The controls draw in the system's colours. A closed field shows the focus by the system's rectangle, and that it is disabled
+// by grey text on the colour of the dialog.
+//
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
 // (control_fill.h) whenever it likes.
@@ -40,7 +43,8 @@ public:
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
-    // Fits the drop-down list to the items: whole rows, up to 320 pixels with the closed field.
+    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field. The control does so
+    // itself before the list opens, whatever its parent.
     virtual void SizeDropDown();
     // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
     // without such an item.
@@ -65,8 +69,10 @@ protected:
     CComboControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
     void PostNcDestroy() override;
-    // Typing ahead goes by the names of the items; see type_ahead.h.
+    // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // Index of the item of that identifier; -1 for 0 and 0xFFFF, or if there is none.
@@ -83,6 +89,9 @@ protected:
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_beingMade = false; // the window; false too where one is taken over
 };
 
 // The object of that window, null if there is none of this class.

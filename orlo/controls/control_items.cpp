@@ -6,15 +6,15 @@
 
 struct ControlItems::Messages {
     UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length,
-        text;
+        text, rowHeight;
 };
 
 const ControlItems::Messages ControlItems::kCombo = {
     CB_GETCOUNT,        CB_GETCURSEL,  CB_SETCURSEL,    CB_RESETCONTENT, CB_ADDSTRING, CB_INSERTSTRING,
-    CB_FINDSTRINGEXACT, CB_FINDSTRING, CB_SELECTSTRING, CB_GETLBTEXTLEN, CB_GETLBTEXT};
+    CB_FINDSTRINGEXACT, CB_FINDSTRING, CB_SELECTSTRING, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_SETITEMHEIGHT};
 const ControlItems::Messages ControlItems::kList = {
     LB_GETCOUNT,        LB_GETCURSEL,  LB_SETCURSEL,    LB_RESETCONTENT, LB_ADDSTRING, LB_INSERTSTRING,
-    LB_FINDSTRINGEXACT, LB_FINDSTRING, LB_SELECTSTRING, LB_GETTEXTLEN,   LB_GETTEXT};
+    LB_FINDSTRINGEXACT, LB_FINDSTRING, LB_SELECTSTRING, LB_GETTEXTLEN,   LB_GETTEXT,   LB_SETITEMHEIGHT};
 
 ControlItems ControlItems::OfCombo(HWND window) {
     return {window, kCombo};
@@ -60,6 +60,10 @@ int ControlItems::FindPrefix(const char* prefix) const {
 
 bool ControlItems::SelectPrefix(int from, const char* prefix) const {
     return SendText(messages_->selectPrefix, from, prefix) >= 0;
+}
+
+void ControlItems::SetRowHeight(int index, int height) const {
+    Send(messages_->rowHeight, static_cast<WPARAM>(index), height);
 }
 
 bool ControlItems::GetText(int index, CString& text) const {

@@ -29,6 +29,9 @@ public:
     // changed, if none.
     bool SelectPrefix(int from, const char* prefix) const;
 
+    // Height of a row in device pixels; -1 is the closed field of a combo. One row stands for all where they are alike.
+    void SetRowHeight(int index, int height) const;
+
     // The item's text; false, with text emptied, if there is no such item.
     bool GetText(int index, CString& text) const;
     // The same into a buffer; what does not fit is cut off.

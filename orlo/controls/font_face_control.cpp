@@ -48,6 +48,7 @@ void CFontFaceControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 void CFontFaceControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;
-    if (*item.text) DrawPlainRow(*pDIS, item.text, ColorsOf(*pDIS));
-    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    // A closed field is drawn again over what it shows.
+    if (*item.text || IsClosedField(*pDIS)) DrawPlainRow(*pDIS, item.text, ColorsOf(*pDIS));
+    DrawItemFocus(*pDIS);
 }

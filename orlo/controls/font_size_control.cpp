@@ -19,7 +19,6 @@ namespace {
 
 constexpr unsigned int kKind = 0x7D01;
 constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
-constexpr RowColors kNothingColors = {RGB(255, 0, 0), RGB(255, 255, 255)};
 
 float FloatOf(UINT_PTR bits) {
     const auto low = static_cast<uint32_t>(bits);
@@ -56,6 +55,7 @@ void CFontSizeControl::WatchEditField() {
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
     WatchEditField(); // a control that subclasses a window has not seen it made
     const Filling filling(m_hWnd);
+    m_pDrawing = nullptr; // the host may be about to close it
     if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
     const FontListRequest request = {this, m_strFontName};
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(&request));
@@ -79,10 +79,14 @@ bool CFontSizeControl::TakeDrawing() {
     return true;
 }
 
-// A closed combo shows the height without selecting it, ready to be typed over.
+// A closed combo shows the height without selecting it, ready to be typed over. A height that has no text is not shown.
 void CFontSizeControl::Show(double size) {
     CString text;
     FontSizeText(size, text);
+    if (text.IsEmpty()) {
+        SetCurSel(-1);
+        return;
+    }
     int index = FindStringExact(-1, text);
     if (index < 0) {
         AddString(text);
@@ -118,6 +122,6 @@ void CFontSizeControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 void CFontSizeControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;
-    DrawPlainRow(*pDIS, item.text, item.IsNothing() ? kNothingColors : ColorsOf(*pDIS));
-    if (pDIS->itemState & ODS_FOCUS) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
+    DrawPlainRow(*pDIS, item.text, item.IsNothing() ? SampleColorsOf(*pDIS) : ColorsOf(*pDIS));
+    DrawItemFocus(*pDIS);
 }

@@ -27,7 +27,7 @@ public:
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
     void FillControl(WPARAM wParam, LPARAM lParam) override;
 
-    DrawingStruct* m_pDrawing = nullptr; // the host's; that of the table last given
+    DrawingStruct* m_pDrawing = nullptr; // the host's; null without a table
     int m_nCoordSpace = 0;               // of the drawing
     int m_nLogicalInch = 72;             // points of an inch, for raster fonts
     CString m_strFontName;               // the face whose sizes are listed

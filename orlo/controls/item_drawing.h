@@ -15,11 +15,14 @@ inline bool IsClosedField(const DRAWITEMSTRUCT& item) {
     return item.rcItem.left > 0;
 }
 
-// Colours of a row of text, selected or not.
+// Colours of a row, selected or not, or of a disabled one, whose field is of the colour of the dialog.
 struct RowColors {
     COLORREF text, background;
 };
 RowColors ColorsOf(const DRAWITEMSTRUCT& item);
+
+// The same for what shows the selection in another way, and is drawn in black where that can be read.
+RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 
 // What a request asks a control of style samples to draw.
 enum class ItemPart { Nothing, Whole, SelectionFrame, Focus };
@@ -29,10 +32,13 @@ ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 // removes it. Its far corner lies beyond the item's by that much (device pixels).
 void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
 
-// The focus rectangle of an item of a list; the closed field shows none.
+// Marks the current row of a list whose rows have any colour: two frames of which one can be seen on each.
+void MarkCurrentRow(const DRAWITEMSTRUCT& item);
+
+// The focus rectangle, in a list and in a closed field.
 void DrawItemFocus(const DRAWITEMSTRUCT& item);
 
-// The item's background in the window's colour, the border of a closed field included.
+// The item's background, the border of a closed field included.
 void ClearItem(const DRAWITEMSTRUCT& item);
 
 // A row of plain text, which stands at that distance from the item's corner.

@@ -7,6 +7,7 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
+#include "orlo/controls/text_height.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/table.h"
 #include "orlo/resources/resource.h"
@@ -69,7 +70,8 @@ void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    const bool whole = IsNoItem(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
+    const bool whole =
+        IsNoItem(*pDIS) || IsClosedField(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
     if (whole) {
         FillSolid(pDIS->hDC, pDIS->rcItem, ColorsOf(*pDIS).background);
         DrawLayer(*pDIS);
@@ -93,8 +95,9 @@ void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     if (LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
     if (LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
 
-    const bool selected = request.itemState & ODS_SELECTED;
+    const bool ownColor = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
     const COLORREF color =
-        selected ? ColorsOf(request).text : NameColor(request.hDC, LayerGetColor(drawing, layer));
-    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top, rect, name, color);
+        ownColor ? NameColor(request.hDC, LayerGetColor(drawing, layer)) : ColorsOf(request).text;
+    const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
+    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top + offset, rect, name, color);
 }

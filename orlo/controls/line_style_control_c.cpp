@@ -41,7 +41,7 @@ void CLineStyleControlC::FillControl(WPARAM, LPARAM lParam) {
     const Filling filling(m_hWnd);
     const bool hasTable = BeginFill(*this, lParam);
     AttachSample(m_pGraphic, m_pViewport, m_pTable,
-                 [this] { return MakeComboLineSample(WindowWidth(m_hWnd)); });
+                 [this] { return MakeComboLineSample(WindowSize(m_hWnd).cx); });
     if (!hasTable) return;
     ForEachLineStyle(m_pTable, m_bAddDefaultItem != 0, [this](const char* text) { AddControlItem(text); });
     SetCurSel(FindItem(m_nSelected));

@@ -46,7 +46,7 @@ void CLineStyleControlL::FillControl(WPARAM, LPARAM lParam) {
     const Filling filling(m_hWnd);
     const bool hasTable = BeginFill(*this, lParam);
     AttachSample(m_pGraphic, m_pViewport, m_pTable,
-                 [this] { return MakeListLineSample(WindowWidth(m_hWnd)); });
+                 [this] { return MakeListLineSample(WindowSize(m_hWnd).cx); });
     if (!hasTable) return;
     ForEachLineStyle(m_pTable, true, [this](const char* text) { AddString(text); });
     SetCurSel(FindItem(m_nSelected));

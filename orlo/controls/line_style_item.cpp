@@ -45,7 +45,7 @@ double PatternLength(TableStruct* table, uint16_t style, int items) {
 }
 
 void DrawStyledSample(const DRAWITEMSTRUCT& request, const StyleItem& item, const RECT& cell) {
-    GraphicSetPenColor(item.graphic, InkOnWindow());
+    GraphicSetPenColor(item.graphic, SampleColorsOf(request).text);
     GraphicSetPenStyle(item.graphic, static_cast<uint16_t>(item.style));
     GraphicSetPenScale(item.graphic, LineSampleScale(item.table, item.style, SampleWidth(item.graphic)));
     DrawSample(item.graphic, item.viewport, request.hDC, cell);

@@ -2,8 +2,12 @@
 
 #include "orlo/controls/list_control.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/filling.h"
+#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
 
@@ -35,7 +39,21 @@ WNDPROC* CListControl::GetSuperWndProcAddr() {
     return &lpfnSuperWndProc;
 }
 
+BOOL CListControl::PreCreateWindow(CREATESTRUCT& cs) {
+    m_beingMade = true;
+    return CListBox::PreCreateWindow(cs);
+}
+
+// Called for a window in the making and for one that is taken over, whose rows the parent has measured without an object
+// and whose WM_INITIALUPDATE is over.
+void CListControl::PreSubclassWindow() {
+    if (std::exchange(m_beingMade, false)) return;
+    m_dwStyle = GetStyle();
+    TakeWindowOver(m_hWnd, ControlItems::OfList(m_hWnd), MeasuredRow(*this));
+}
+
 void CListControl::PostNcDestroy() {
+    m_beingMade = false; // where no window could be made
     if (m_bAutoDelete) delete this;
 }
 
@@ -74,10 +92,16 @@ LRESULT CListControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
+// Rows grow with the resolution, and the list with them as far as the template, whose font may not grow as much, has made
+// room for it.
+static int HeightInRoom(HWND list, int at96) {
+    return std::clamp(static_cast<int>(WindowSize(list).cy), at96, std::max(at96, ScreenPixels(at96)));
+}
+
 LRESULT CListControl::OnInitialUpdate(WPARAM, LPARAM) {
     SubclassCtl3d(1);
     UseSharedFont(m_hWnd);
-    SetControlHeight(m_hWnd, m_nHeight);
+    SetControlHeight(m_hWnd, HeightInRoom(m_hWnd, m_nHeight));
     NotifyApplication(*this, m_nControlID, kControlReady);
     return 0;
 }

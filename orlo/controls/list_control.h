@@ -23,7 +23,9 @@ public:
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
 
     unsigned int m_nControlID;
-    int m_nHeight = 320;             // given to the window at WM_INITIALUPDATE, in device pixels
+    int m_nHeight =
+        320; // given to the window at WM_INITIALUPDATE, in pixels at 96 dpi; at a higher resolution
+             // it is the template's room between these pixels and as many as they are there
     unsigned long m_dwStyle = 0;     // window style at the creation
     int m_bAutoDelete = 0;           // the object goes with its window
     TableStruct* m_pTable = nullptr; // the host's
@@ -36,6 +38,8 @@ protected:
     CListControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -53,4 +57,7 @@ protected:
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_beingMade = false; // the window; false too where one is taken over
 };

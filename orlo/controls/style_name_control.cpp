@@ -15,7 +15,6 @@ namespace {
 
 constexpr unsigned int kKind = 0x7D0F;
 constexpr int kNameSize = 256;
-constexpr RowColors kRowColors = {RGB(0, 0, 0), RGB(255, 255, 255)};
 
 const char* StyleTreeOf(const GraphicStruct* graphic) {
     return graphic && graphic->pszStyleName ? graphic->pszStyleName : "";
@@ -71,9 +70,13 @@ void CStyleNameControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 void CStyleNameControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (!*item.text) return;
-    const RECT frame = IsClosedField(*pDIS) ? Inflated(pDIS->rcItem, 1) : pDIS->rcItem;
-    FillSolid(pDIS->hDC, frame, kRowColors.background);
-    FrameRectangle(pDIS->hDC, frame, kRowColors.text, 1);
+    const bool inField = IsClosedField(*pDIS);
+    const RECT frame = inField ? Inflated(pDIS->rcItem, 1) : pDIS->rcItem;
+    const RowColors colors = SampleColorsOf(*pDIS);
+    FillSolid(pDIS->hDC, frame, colors.background);
+    FrameRectangle(pDIS->hDC, frame, colors.text, 1);
     DrawClippedText(pDIS->hDC, pDIS->rcItem.left + kPlainTextAt.x, pDIS->rcItem.top + kPlainTextAt.y,
-                    pDIS->rcItem, item.text, kRowColors.text);
+                    pDIS->rcItem, item.text, colors.text);
+    if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
+    DrawItemFocus(*pDIS);
 }

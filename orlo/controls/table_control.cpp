@@ -2,10 +2,23 @@
 
 #include "orlo/controls/table_control.h"
 
+#include <afxwin.h>
+
 #include "orlo/controls/control_font.h"
 
 unsigned long ItemOf(const ControlItems& items, int index, char* text) {
     return items.GetText(index, text, kItemTextSize) ? ParseControlItem(text) : 0;
+}
+
+void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight) {
+    ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
+    const LONG style = ::GetWindowLongA(control, GWL_STYLE);
+    constexpr LONG kVariable = CBS_OWNERDRAWVARIABLE, kDrawn = CBS_OWNERDRAWFIXED | kVariable;
+    static_assert(kDrawn == (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE));
+    const int rows = style & kVariable ? items.Count() : 1;
+    for (int row = -1; (style & kDrawn) != 0 && row < rows; ++row)
+        items.SetRowHeight(row, rowHeight);
+    ::SendMessageA(control, WM_INITIALUPDATE, 0, 0);
 }
 
 void UseSharedFont(HWND control) {
@@ -13,14 +26,14 @@ void UseSharedFont(HWND control) {
         ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
-int WindowWidth(HWND window) {
+SIZE WindowSize(HWND window) {
     RECT rect = {};
     ::GetWindowRect(window, &rect);
-    return rect.right - rect.left;
+    return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
 void SetControlHeight(HWND control, int height) {
-    ::SetWindowPos(control, nullptr, 0, 0, WindowWidth(control), height,
+    ::SetWindowPos(control, nullptr, 0, 0, WindowSize(control).cx, height,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
 }
 

@@ -20,11 +20,23 @@ bool BeginFill(Control& control, LPARAM lParam) {
 // item.
 unsigned long ItemOf(const ControlItems& items, int index, char* text);
 
+// Makes a window that was there before its object what a template makes: its rows get that height (device pixels), and the
+// control is told to announce itself, which the host may answer at once.
+void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight);
+
+// Height of a row of the control in device pixels, as it measures it.
+template <class Control>
+int MeasuredRow(Control& control) {
+    MEASUREITEMSTRUCT measure = {};
+    control.MeasureItem(&measure);
+    return static_cast<int>(measure.itemHeight);
+}
+
 // The shared control font for a control that gets WM_INITIALUPDATE.
 void UseSharedFont(HWND control);
 
 // Device pixels.
-int WindowWidth(HWND window);
+SIZE WindowSize(HWND window);
 
 // Gives a control that height, its width and place as they are. Nothing is redrawn.
 void SetControlHeight(HWND control, int height);

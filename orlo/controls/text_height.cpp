@@ -9,22 +9,26 @@ namespace {
 constexpr int kHeightWithoutDC = 16;
 
 // In that font; null: in the font that the device context has by default.
-int HeightOfM(HWND window, HFONT font) {
+int HeightInFont(HWND window, HFONT font) {
     const WindowDC dc(window);
     if (!dc.get()) return kHeightWithoutDC;
     const SelectedObject selected(dc.get(), font);
-    SIZE size = {};
-    ::GetTextExtentPoint32A(dc.get(), "M", 1, &size);
-    return size.cy;
+    return TextHeight(dc.get());
 }
 
 } // namespace
 
+int TextHeight(HDC dc) {
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, "M", 1, &size);
+    return size.cy;
+}
+
 int GetOwnerDrawFixedTextHeight(HWND hWnd) {
-    return HeightOfM(hWnd, nullptr);
+    return HeightInFont(hWnd, nullptr);
 }
 
 int ControlFontHeight(HWND window) {
     const auto font = reinterpret_cast<HFONT>(::SendMessageA(window, WM_GETFONT, 0, 0));
-    return font ? HeightOfM(window, font) : 0;
+    return font ? HeightInFont(window, font) : 0;
 }

@@ -9,5 +9,8 @@
 // one.
 ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
 
+// The same in the font that is selected in a device context.
+int TextHeight(HDC dc);
+
 // The same in the font that was given to the window (WM_SETFONT); 0 without one.
 int ControlFontHeight(HWND window);

@@ -15,6 +15,7 @@ namespace {
 constexpr int kBackId = 100;
 constexpr int kNextId = 101;
 constexpr UINT kTabRowId = 301;
+constexpr int kHeadingId = 302;
 constexpr DWORD kChildStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP;
 
 struct Button {
@@ -36,6 +37,42 @@ bool IsShown(HWND button) {
     return button != nullptr && (::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
+bool IsPushButton(HWND control) {
+    constexpr LRESULT kPushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+    return (::SendMessageA(control, WM_GETDLGCODE, 0, 0) & kPushButton) != 0;
+}
+
+HWND ChildAround(HWND page, HWND control) {
+    while (control != nullptr && ::GetParent(control) != page)
+        control = ::GetParent(control);
+    return control;
+}
+
+// Whether a field of the page stands behind that control in the order of the Tab key.
+bool HasFieldBehind(HWND page, HWND control) {
+    const HWND first = ::GetNextDlgTabItem(page, nullptr, FALSE), from = ChildAround(page, control);
+    HWND next = ::GetNextDlgTabItem(page, from, FALSE);
+    while (next != nullptr && next != first && next != from && IsPushButton(next))
+        next = ::GetNextDlgTabItem(page, next, FALSE);
+    return next != nullptr && next != first && next != from;
+}
+
+// A field of several lines takes every key, and gives this one to a default button of its own parent, the page, which has
+// none.
+bool TakesReturn(MSG& message) {
+    const LRESULT code =
+        ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
+    const LONG style = ::GetWindowLongA(message.hwnd, GWL_STYLE);
+    if ((code & DLGC_HASSETSEL) != 0 && (style & ES_MULTILINE) != 0) return (style & ES_WANTRETURN) != 0;
+    return (code & (DLGC_WANTALLKEYS | DLGC_WANTMESSAGE)) != 0;
+}
+
+// Whether that is the key of the default button: a button presses itself.
+bool IsReturnForDefault(MSG& message) {
+    return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && !IsPushButton(message.hwnd) &&
+           !TakesReturn(message);
+}
+
 } // namespace
 
 struct CWizardSheet::Row {
@@ -52,6 +89,8 @@ ON_COMMAND(kBackId, &CWizardSheet::OnBack)
 ON_COMMAND(kNextId, &CWizardSheet::OnNext)
 ON_COMMAND(IDOK, &CWizardSheet::OnEnter)
 ON_MESSAGE(WM_ACTIVATE, &CWizardSheet::OnActivateMessage)
+ON_MESSAGE(DM_GETDEFID, &CWizardSheet::OnGetDefaultButton)
+ON_MESSAGE(WM_PARENTNOTIFY, &CWizardSheet::OnParentNotify)
 END_MESSAGE_MAP()
 
 CWizardSheet::CWizardSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
@@ -68,15 +107,21 @@ CWizardSheet::~CWizardSheet() = default;
 int CWizardSheet::OnCreate(CREATESTRUCT*) {
     if (!BeginCreate()) return -1;
     TrimSystemMenu();
+    m_sizePages = CSize();
     SetActivePage(m_nCurPage);
     TakePageFont();
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     if (!CreateTabRow(kChildStyle | rows, CRect(0, 0, 100, 10), kTabRowId)) return -1;
     m_tabRow.ShowWindow(SW_HIDE);
+    ::CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE, 0, 0, 0, 0,
+                      m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kHeadingId)),
+                      AfxGetInstanceHandle(), nullptr);
+    ::SendDlgItemMessageA(m_hWnd, kHeadingId, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
     MeasureUnits();
     if (!m_bModeless && !CreateButtons()) return -1;
     RecalcWizardLayout();
     m_tabRow.SetCurSel(m_nCurPage);
+    ShowHeading();
     if (GetActivePage()->m_hWnd != nullptr) GetActivePage()->SetFocus();
     return 0;
 }
@@ -121,6 +166,7 @@ int CWizardSheet::CreateButtons() {
             ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
     }
     EnableButton(m_hWnd, kBackId, FALSE);
+    ::SendDlgItemMessageA(m_hWnd, kNextId, BM_SETSTYLE, BS_DEFPUSHBUTTON, FALSE);
     return 1;
 }
 
@@ -168,7 +214,7 @@ void CWizardSheet::PlaceRow(const Row& row, int cxClient, int cyClient) {
 
 void CWizardSheet::RecalcWizardLayout() {
     const HWND page = GetActivePage()->m_hWnd;
-    const CSize pageSize = page != nullptr ? WindowSize(page) : CSize();
+    const CSize pageSize = m_sizePages;
     const int mx = m_sizeTabMargin.cx, my = m_sizeTabMargin.cy;
     const Row row = MeasureRow();
     const int cxClient = std::max<int>(2 * mx + pageSize.cx + 3, row.sum + row.gaps + 2 * mx);
@@ -176,6 +222,7 @@ void CWizardSheet::RecalcWizardLayout() {
     constexpr UINT kKeep = SWP_NOZORDER | SWP_NOACTIVATE;
     m_tabRow.SetWindowPos(nullptr, mx, my, cxClient - 2 * mx, 0, kKeep);
     const int cyTabs = WindowSize(m_tabRow.m_hWnd).cy;
+    ::SetWindowPos(::GetDlgItem(m_hWnd, kHeadingId), nullptr, mx, my, cxClient - 2 * mx, cyTabs - my, kKeep);
     const int cyClient = 3 * my + m_sizeButton.cy + cyTabs + pageSize.cy + 4;
 
     CRect window(0, 0, cxClient, cyClient);
@@ -207,12 +254,37 @@ void CWizardSheet::SetButtonStates(int nPage) {
     ::SetDlgItemTextA(m_hWnd, kNextId, text);
 }
 
-// Tab row and buttons follow the page that has come, and stay where it has not.
-void CWizardSheet::MoveTo(int nPage) {
-    if (!SetActivePage(nPage)) return;
+// A page has its own size while it is made; afterwards it is as large as the page before it.
+LRESULT CWizardSheet::OnParentNotify(WPARAM wParam, LPARAM lParam) {
+    const auto child = reinterpret_cast<HWND>(lParam);
+    const CWnd* const object = LOWORD(wParam) == WM_CREATE ? FromHandlePermanent(child) : nullptr;
+    if (object != nullptr && object->IsKindOf(RUNTIME_CLASS(CPropertyPage)) && ::GetParent(child) == m_hWnd) {
+        const CSize size = WindowSize(child);
+        m_sizePages = CSize(std::max(m_sizePages.cx, size.cx), std::max(m_sizePages.cy, size.cy));
+    }
+    return Default();
+}
+
+void CWizardSheet::ShowHeading() {
+    char text[kTextSize] = "";
+    TCITEMA item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = kTextSize;
+    m_tabRow.SendMessage(TCM_GETITEMA, static_cast<WPARAM>(m_nCurPage), reinterpret_cast<LPARAM>(&item));
+    ::SetDlgItemTextA(m_hWnd, kHeadingId, item.pszText);
+}
+
+// Tab row, heading and buttons follow the page that has come, and stay where it has not.
+bool CWizardSheet::MoveTo(int nPage) {
+    if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
+    ShowHeading();
+    const CSize size = WindowSize(GetActivePage()->m_hWnd);
+    if (size.cx < m_sizePages.cx || size.cy < m_sizePages.cy) RecalcWizardLayout();
     // A system that takes the focus from a button which is disabled leaves the keyboard with nobody.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
+    return true;
 }
 
 void CWizardSheet::OnBack() {
@@ -222,12 +294,29 @@ void CWizardSheet::OnBack() {
 void CWizardSheet::OnNext() {
     if (m_nCurPage == GetPageCount() - 1) {
         OnFinish();
-    } else {
-        MoveTo(m_nCurPage + 1);
+    } else if (MoveTo(m_nCurPage + 1)) {
+        FocusActivePage();
+        // A click has made it a plain one.
+        ::SendDlgItemMessageA(m_hWnd, kNextId, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
     }
 }
 
-// The Enter key does not step forward: it would skip what the user has not read.
+LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
+    return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
+}
+
+// The default button is Next. Return presses it, unless it would skip what the user has not read.
+BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
+    const HWND page = GetActivePage() != nullptr ? GetActivePage()->m_hWnd : nullptr;
+    if (m_bModeless || page == nullptr || !::IsChild(page, pMsg->hwnd) || !IsReturnForDefault(*pMsg))
+        return CPropertySheet::PreTranslateMessage(pMsg);
+    const bool heldDown = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0; // since a page that nobody has seen
+    const bool finishes = m_nCurPage == GetPageCount() - 1;
+    if (!heldDown && (finishes || !HasFieldBehind(page, pMsg->hwnd))) OnNext();
+    return TRUE;
+}
+
+// OK by a command, and the Enter key of a sheet without buttons.
 void CWizardSheet::OnEnter() {
     if (m_nCurPage == GetPageCount() - 1) OnFinish();
 }

@@ -11,9 +11,14 @@
 // what OK does in every sheet: the last page is asked to be left, and gets its OnOK once more. A host that must not act
 // before the last page has agreed therefore acts behind DoModal, not in OnOK.
 //
-// The sheet is as large as the page that it opens on. It opens with Back disabled and with "Next >", whatever page that is,
-// until the first move. The buttons' texts are strings 111 to 114: the host's, if it has them, else the library's, which are
-// found behind PropPageInit. A modeless one has no buttons; its owner sends it the commands 100 (back) and 101 (next).
+// Next is the default button: Return goes on, but not while fields stand behind the one with the focus, which it would skip
+// unread; on the last page it finishes from any field. Held down it goes one step. Behind Next the focus is on the first field
+// of the page that has come.
+//
+// The sheet is as large as the page that it opens on, and grows with a larger one. The caption of the page stands where the
+// tabs would be. It opens with Back disabled and with "Next >", whatever page that is, until the first move. The buttons' texts
+// are strings 111 to 114: the host's, if it has them, else the library's, which are found behind PropPageInit. A modeless one
+// has no buttons; its owner sends it the commands 100 (back) and 101 (next).
 #pragma once
 
 #include <afxdlgs.h>
@@ -44,11 +49,15 @@ protected:
     void RecalcWizardLayout();
     void OnFinish();
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
     afx_msg int OnCreate(CREATESTRUCT* pCreateStruct);
     afx_msg void OnBack();
     afx_msg void OnNext();
     afx_msg void OnEnter();
     afx_msg LRESULT OnActivateMessage(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetDefaultButton(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -60,5 +69,8 @@ private:
     int ButtonWidth(UINT nIDText);
     Row MeasureRow();
     void PlaceRow(const Row& row, int cxClient, int cyClient);
-    void MoveTo(int nPage);
+    bool MoveTo(int nPage); // false: the page has stayed
+    void ShowHeading();
+
+    CSize m_sizePages; // width and height of the largest page so far
 };

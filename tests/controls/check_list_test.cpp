@@ -5,6 +5,7 @@
 #include "orlo/controls/check_list_box.h"
 #include "support/object_counts.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -87,10 +88,46 @@ TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
     EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 0));
     EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(500, 3), 1));
 
+    Click(5, 3);
+    m_list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 3)); // the second of two quick ones
+    EXPECT_EQ(0, m_list.IsItemChecked(0));
+
     for (int i = 0; i < 20; ++i)
         m_list.AddString("more", 0);
     m_list.SendMessage(LB_SETTOPINDEX, 4, 0);
     EXPECT_EQ(5, m_list.ItemFromPoint(CPoint(5, height + 3), 0)) << "a scrolled list";
+    m_list.SendMessage(LB_SETITEMHEIGHT, 0, 40);
+    EXPECT_EQ(5, m_list.ItemFromPoint(CPoint(5, 42), 0)) << "rows of the host's own height";
+}
+
+TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
+    m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // nothing there
+    for (const char* name : {"a", " b", "c"})
+        m_list.AddString(name, 0);
+    m_list.SetFocus();
+    m_list.SetCurSel(2);
+    const auto press = [&](LPARAM key) {
+        m_list.SendMessage(WM_KEYDOWN, VK_SPACE, key);
+        m_list.SendMessage(WM_CHAR, ' ', key);
+    };
+    press(1);
+    press(0x40000001); // held down
+    EXPECT_EQ(1, m_list.IsItemChecked(2));
+    EXPECT_EQ(2, m_list.GetCurSel()) << "a space is no first letter";
+    press(1);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(0, m_list.IsItemChecked(i)) << i;
+}
+
+TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
+    const HWND window =
+        ::CreateWindowExA(0, "ListBox", "", WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0, 90, 90,
+                          m_host.m_hWnd, reinterpret_cast<HMENU>(8), nullptr, nullptr);
+    ::SendMessageA(window, LB_SETITEMHEIGHT, 0, 40);
+    OpenCheckList taken;
+    ASSERT_TRUE(taken.SubclassDlgItem(8, &m_host));
+    EXPECT_EQ(taken.ItemHeight(), taken.SendMessage(LB_GETITEMHEIGHT, 0, 0));
+    taken.DestroyWindow();
 }
 
 TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
@@ -113,10 +150,15 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
         EXPECT_EQ(12 * 12, m_pixels.Count(on, grey) + m_pixels.Count(on, black) + m_pixels.Count(on, white));
         EXPECT_EQ(grey, m_pixels.At(on.left, on.top));
         Draw(1, ODA_DRAWENTIRE, state);
-        EXPECT_EQ(12 * 12, m_pixels.Count(off, ::GetSysColor(COLOR_WINDOW)));
+        const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+        EXPECT_LE(23, m_pixels.CountWhere(off, [=](COLORREF c) { return c != window; })) << "sunken as well";
+        EXPECT_EQ(8 * 8, m_pixels.Count({off.left + 2, off.top + 2, off.right - 2, off.bottom - 2}, window));
         const CRect text(40, off.top, 120, off.bottom);
         EXPECT_LT(200, m_pixels.Count(text, ::GetSysColor(state ? COLOR_HIGHLIGHT : COLOR_WINDOW)));
     }
+    const SchemeColors dark({{COLOR_WINDOW, black}, {COLOR_WINDOWTEXT, white}});
+    Draw(1, ODA_DRAWENTIRE, 0);
+    EXPECT_LE(12, m_pixels.CountWhere(off, [=](COLORREF c) { return c != black; }));
     Draw(0, 0, 0);
     EXPECT_EQ(120 * 90, m_pixels.Count({0, 0, 120, 90}, kUntouched)) << "an action of 0 draws nothing";
 }

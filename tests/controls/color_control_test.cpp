@@ -2,6 +2,7 @@
 
 #include "control_dialog.h"
 
+#include <algorithm>
 #include <memory>
 #include <random>
 
@@ -10,6 +11,7 @@
 #include "orlo/controls/text_height.h"
 #include "support/object_counts.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -258,23 +260,39 @@ TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
     }
 }
 
-TEST_F(Swatch, OnlyAWholeRequestDraws) {
-    Add("Red", RGB(255, 0, 0));
-    FillColors();
-    const RECT all = {0, 0, 120, 60};
-    Draw(0, kRow, ODA_SELECT, ODS_SELECTED);
-    EXPECT_EQ(120 * 60, m_pixels.Count(all, kUntouched)) << "there is no selected look";
-    Draw(0, kRow, ODA_SELECT | ODA_FOCUS, ODS_FOCUS);
-    EXPECT_EQ(120 * 60, m_pixels.Count(all, kUntouched));
-    Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
-    EXPECT_NE(120 * 60, m_pixels.Count(all, kUntouched)) << "the focus rectangle";
-    EXPECT_EQ(kUntouched, m_pixels.At(50, 28));
+// Where a white box would read as white.
+TEST_F(Swatch, ADarkSchemeHasDarkFields) {
+    const COLORREF yellow = RGB(255, 255, 0);
+    const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
+    FillColors(0xFFFFFFFF);
+    Draw(static_cast<UINT>(-1), kField);
+    EXPECT_EQ(100 * 16, m_pixels.Count(kField, kBlack));
+    DrawOnly(0xFFFFFFFD, "");
+    EXPECT_LT(100, m_pixels.Count(kRow, yellow)) << "the label";
+    DrawOnly(kWhite, "MMMM");
+    EXPECT_LT(500, m_pixels.Count(kRow, kWhite));
+    EXPECT_LT(10, m_pixels.Count(Middle(kRow), kBlack));
+    DrawOnly(kBlack, "MMMM");
+    EXPECT_EQ(yellow, m_pixels.At(50, 19)) << "black on black is framed";
+    EXPECT_LT(10, m_pixels.Count(Middle(kRow), kWhite));
+}
 
-    Draw(0, kRow, ODA_DRAWENTIRE, ODS_FOCUS);
-    EXPECT_LT(10, m_pixels.ChangesAlongRow(20, 0, 100, RGB(255, 0, 0)));
-    Draw(0, kField, ODA_DRAWENTIRE, ODS_FOCUS);
-    EXPECT_EQ(0, m_pixels.ChangesAlongRow(20, 10, 110, RGB(255, 0, 0)))
-        << "no focus rectangle in the closed field";
+TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColour) {
+    const COLORREF highlight = ::GetSysColor(COLOR_HIGHLIGHT), other = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    for (const COLORREF color : {RGB(255, 0, 0), highlight, other}) {
+        DrawOnly(color, "");
+        const int highlighted = m_pixels.Count(kRow, highlight), others = m_pixels.Count(kRow, other);
+        Draw(0, kRow, ODA_SELECT, ODS_SELECTED);
+        EXPECT_LT(100, std::max(m_pixels.Count(kRow, highlight) - highlighted,
+                                m_pixels.Count(kRow, other) - others))
+            << color;
+        Draw(0, kRow, ODA_SELECT, 0);
+        EXPECT_EQ(highlighted, m_pixels.Count(kRow, highlight))
+            << "and without the mark where it has gone on";
+    }
+    Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
+    EXPECT_NE(100 * 16, m_pixels.Count(kRow, kUntouched)) << "the focus rectangle alone";
+    EXPECT_EQ(kUntouched, m_pixels.At(50, 28));
 }
 
 TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {

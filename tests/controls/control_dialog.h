@@ -37,10 +37,14 @@ public:
     }
 
     std::vector<Notification> notifications;
+    TableStruct* answer = nullptr; // what a control that announces itself is filled with; null: nothing is
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         notifications.push_back({LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+        const ControlFillRecord fill = {answer, 0, 0};
+        if (answer && HIWORD(wParam) == kControlReady)
+            ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }
 };

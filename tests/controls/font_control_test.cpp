@@ -13,6 +13,7 @@
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -192,6 +193,32 @@ TEST_F(Fonts, ATextThatIsNoHeightLeavesTheValue) {
     EXPECT_EQ(77.0, value) << "a device has no lengths";
 }
 
+TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
+    FillSizes(5.0f);
+    ASSERT_TRUE(DrawingSetCoordSpace(m_drawing.Get(), 2)); // a device has no lengths
+    FillSizes(5.0f);
+    for (const std::string& text : Texts(m_sizes))
+        EXPECT_NE("", text);
+    EXPECT_EQ(-1, m_sizes.GetCurSel());
+    EXPECT_EQ("", Shown());
+}
+
+TEST_F(Fonts, NothingIsKeptOfADrawingThatIsTakenAway) {
+    FillSizes(5.0f);
+    const ControlFillRecord noTable = {nullptr, 0, 0};
+    m_sizes.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&noTable));
+    m_drawing.Close();
+    EXPECT_EQ(nullptr, m_sizes.m_pDrawing);
+    double value = 77.0;
+    m_sizes.ReConvertFontSize("5", value);
+    EXPECT_EQ(77.0, value);
+    CString text("before");
+    m_sizes.FontSizeText(5.0, text);
+    EXPECT_TRUE(text.IsEmpty());
+    FillSizesOf("DejaVu Serif");
+    EXPECT_EQ(0, m_sizes.GetCount());
+}
+
 TEST_F(Fonts, TheIdentifierChoosesTheList) {
     CComboBox combo;
     const DWORD style = WS_CHILD | CBS_DROPDOWNLIST;
@@ -234,7 +261,10 @@ TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
     draw(m_faces, -1, 0);
     EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9)));
     draw(m_sizes, -1, 0);
-    EXPECT_EQ(area, pixels.Count(row, RGB(255, 255, 255)));
+    EXPECT_EQ(area, pixels.Count(row, ::GetSysColor(COLOR_WINDOW)));
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}});
+    draw(m_sizes, -1, 0);
+    EXPECT_EQ(area, pixels.Count(row, RGB(0, 0, 0)));
 }
 
 TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {

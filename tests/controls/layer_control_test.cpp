@@ -1,4 +1,4 @@
-// The layer control: icons, names and colours of its rows, typing ahead, and lists of ten thousand layers.
+// The layer control: icons, names and colours of its rows, and lists of ten thousand layers.
 
 #include "control_dialog.h"
 
@@ -7,6 +7,7 @@
 #include "orlo/controls/layer_control.h"
 #include "orlo/exchange/ddx_control.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -85,18 +86,25 @@ TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
     EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
 }
 
+TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
+    const uint16_t id = Add("HHH", RGB(0, 0, 200), kLayerOff);
+    Fill(IDC_LAYERS, m_table, id);
+    const auto ink = [&](LONG top, LONG bottom) {
+        return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200));
+    };
+    Draw(Index(id), ODA_DRAWENTIRE, 0, {0, 8, 140, 48});
+    EXPECT_EQ(0, ink(8, 18));
+    EXPECT_LT(10, ink(18, 38));
+    EXPECT_EQ(0, ink(38, 48));
+}
+
 // A scheme of light text on a black window, as high contrast has it.
 TEST_F(Layers, NothingVanishesOnADarkWindow) {
-    const INT elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT};
-    const COLORREF before[] = {::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT)};
-    const COLORREF dark[] = {RGB(0, 0, 0), RGB(255, 255, 0)};
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
     Fill(IDC_LAYERS, m_table, black);
-    ASSERT_TRUE(::SetSysColors(2, elements, dark));
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
     Draw(Index(black));
-    const int text = m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0));
-    ::SetSysColors(2, elements, before);
-    EXPECT_LT(10, text);
+    EXPECT_LT(10, m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0)));
 }
 
 TEST_F(Layers, TheClosedFieldNeedsNoItem) {
@@ -158,24 +166,6 @@ TEST_F(Layers, RowsFitIconAndFont) {
     EXPECT_LE(48u, measure.itemHeight);
     m_control.SendMessage(WM_SETFONT, 0, 0);
     ::DeleteObject(large);
-}
-
-TEST_F(Layers, TypingGoesByTheNames) {
-    for (const char* name : {"Walls", "Doors", "windows", "Dimensions"})
-        Add(name, RGB(200, 0, 0), 0);
-    Fill(IDC_LAYERS, m_table, 0);
-    const auto type = [&](char c) {
-        m_control.SendMessage(WM_CHAR, static_cast<WPARAM>(c), 1);
-        char name[kItemTextSize] = "";
-        m_control.GetControlItem(m_control.GetCurSel(), name);
-        return std::string(name);
-    };
-    EXPECT_EQ("Walls", type('w'));
-    EXPECT_EQ("windows", type('W')) << "the next one";
-    EXPECT_EQ("Walls", type('w')) << "and round";
-    EXPECT_EQ("Doors", type('d'));
-    EXPECT_EQ("Doors", type('x')) << "no such name";
-    EXPECT_EQ("0", type('0')) << "the layer, not the keys";
 }
 
 // Each layer is asked for once, and only what can be seen is drawn.

@@ -4,6 +4,7 @@
 
 #include "orlo/controls/style_name_control.h"
 #include "support/pixels.h"
+#include "support/scheme_colors.h"
 
 namespace {
 
@@ -62,25 +63,30 @@ TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
                                CRect(0, 0, 120, 100), &m_host, 1));
     control.AddString("Zebra");
     Pixels pixels(120, 40);
-    const auto ink = [&](int item, int left) {
+    const auto ink = [&](int item, int left, UINT state = 0) {
         pixels.Clear(RGB(9, 9, 9));
         DRAWITEMSTRUCT request = {0,
                                   1,
                                   static_cast<UINT>(item),
                                   ODA_DRAWENTIRE,
-                                  ODS_SELECTED,
+                                  state,
                                   control.m_hWnd,
                                   pixels.DC(),
                                   {left, 10, 100, 30},
                                   0};
         control.DrawItem(&request);
-        return pixels.Count({0, 0, 120, 40}, RGB(0, 0, 0));
+        return pixels.Count({0, 0, 120, 40}, ::GetSysColor(COLOR_WINDOWTEXT));
     };
     EXPECT_EQ(0, ink(-1, 3));
     EXPECT_LT(2 * 100 + 20, ink(0, 0)) << "frame and name";
     EXPECT_EQ(RGB(0, 0, 0), pixels.At(0, 10));
     ink(0, 3);
     EXPECT_EQ(RGB(0, 0, 0), pixels.At(2, 9)) << "the closed field is covered with its border";
+    ink(0, 0, ODS_SELECTED);
+    EXPECT_LT(200, pixels.Count({0, 0, 120, 40}, ::GetSysColor(COLOR_HIGHLIGHT))) << "the current row";
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
+    EXPECT_LT(2 * 100 + 20, ink(0, 0));
+    EXPECT_LT(1000, pixels.Count({0, 0, 120, 40}, RGB(0, 0, 0)));
     control.DestroyWindow();
 }
 

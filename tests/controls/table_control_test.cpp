@@ -2,7 +2,10 @@
 
 #include "control_dialog.h"
 
+#include <functional>
+
 #include "orlo/controls/color_control.h"
+#include "orlo/exchange/ddx_control.h"
 
 namespace {
 
@@ -26,9 +29,10 @@ public:
     bool MakeIn(CWnd* parent) {
         return Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 120, 80), parent, 1);
     }
-    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 16; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
     void DrawItem(LPDRAWITEMSTRUCT) override {}
     int Find(unsigned id) const { return FindItem(id); }
+    UINT rowHeight = 16;
 };
 
 template <class Control>
@@ -145,6 +149,107 @@ TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
     EXPECT_TRUE(::GetUpdateRect(this->m_control.m_hWnd, &update, FALSE)) << "painted once, afterwards";
 }
 
+// Rows, font, size and the announcement, which the host answers at once.
+TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
+    constexpr bool combo = std::is_base_of<CComboBox, TypeParam>::value;
+    TableEntryAdd(this->m_table, "Zinc", nullptr);
+    this->m_host.answer = this->m_table;
+    constexpr DWORD kFixed = CBS_OWNERDRAWFIXED,
+                    kVariable = CBS_OWNERDRAWVARIABLE; // those of a list are the same
+    for (const DWORD drawn : {kFixed, kVariable}) {
+        for (const bool exchanged : {false, true}) {
+            const DWORD style =
+                WS_CHILD | drawn | (combo ? CBS_DROPDOWNLIST | CBS_HASSTRINGS : LBS_HASSTRINGS);
+            const HWND window =
+                ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
+                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
+            ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
+            TypeParam control, made;
+            control.rowHeight = made.rowHeight = 30;
+            this->m_host.notifications.clear();
+            ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
+            EXPECT_EQ(0, this->m_host.Count(kControlReady)) << "what is made waits for its dialog";
+            made.SendMessage(WM_INITIALUPDATE);
+            this->m_host.notifications.clear();
+            CDataExchange load(&this->m_host, FALSE);
+            if (exchanged)
+                DDX_Control(1, &load, 2, control);
+            else
+                ASSERT_TRUE(control.SubclassDlgItem(2, &this->m_host));
+            const UINT height = combo ? CB_GETITEMHEIGHT : LB_GETITEMHEIGHT;
+            EXPECT_EQ(30, control.SendMessage(height, 0, 0));
+            EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0),
+                      control.SendMessage(height, combo ? -1 : 0, 0));
+            EXPECT_EQ(style, control.m_dwStyle & ~WS_CLIPSIBLINGS);
+            EXPECT_NE(0, control.SendMessage(WM_GETFONT));
+            ASSERT_EQ(1, this->m_host.Count(kControlReady));
+            EXPECT_EQ(window, this->m_host.notifications.back().control);
+            EXPECT_EQ(control.m_nControlID, this->m_host.notifications.back().kind);
+            EXPECT_EQ(this->m_table, control.m_pTable);
+            EXPECT_EQ(1, control.GetCount()) << "filled anew";
+            CRect rect;
+            control.GetWindowRect(rect);
+            EXPECT_NEAR(combo ? rect.Height() : 320, rect.Height(), 30);
+            control.DestroyWindow();
+        }
+    }
+}
+
+// Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
+TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
+    for (const char* name :
+         {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
+        TableEntryAdd(this->m_table, name, nullptr);
+    this->Fill(this->m_table, 0);
+    const auto type = [&](const std::string& letters) {
+        for (const char letter : letters)
+            this->m_control.SendMessage(WM_CHAR, static_cast<WPARAM>(letter), 1);
+        return this->Name(this->m_control.GetCurSel());
+    };
+    const struct {
+        const char *from, *typed, *reached;
+        int changes;
+    } rows[] = {
+        {"", "green", "Green", 1},
+        {"", "grey", "Grey", 2},
+        {"", "cyan", "Cyan", 1},
+        {"Walls", "w", "windows", 1},
+        {"", "wWw", "Walls", 3}, // the same letter: the next one, and round
+        {"Red", "dark r", "Dark red", 2},
+        {"Walls", "x", "Walls", 0},
+        {"", "rx", "Red", 1},
+        {"", "rxd", "Red", 1},
+        {"Grey", "green", "Green", 1},
+        {"", "8", "8", 1}, // not the keys
+        {"", "0", "", 0},
+        {"Red", " ", "Red", 0},
+    };
+    for (const auto& row : rows) {
+        this->m_control.SetCurSel(-1);
+        for (int i = 0; i < this->m_control.GetCount(); ++i)
+            if (this->Name(i) == row.from) this->m_control.SetCurSel(i);
+        this->m_host.notifications.clear();
+        EXPECT_EQ(row.reached, type(row.typed)) << row.from << " " << row.typed;
+        EXPECT_EQ(row.changes, this->m_host.Count(CBN_SELCHANGE)) << row.typed;
+    }
+    this->m_control.SetCurSel(0);
+    EXPECT_EQ("Red", type("r"));
+    const UINT usual = ::GetDoubleClickTime();
+    ::SetDoubleClickTime(1);
+    ::Sleep(50);
+    EXPECT_EQ("Doors", type("d")) << "after a pause";
+    ::SetDoubleClickTime(usual);
+
+    TypeParam other;
+    ASSERT_TRUE(other.MakeIn(&this->m_host));
+    for (const char* item : {"00000001\tElse", "00000002\tDelta"})
+        other.AddString(item);
+    other.SetCurSel(this->m_control.GetCurSel());
+    other.SendMessage(WM_CHAR, 'e', 1);
+    EXPECT_EQ(0, other.GetCurSel()) << "not the letters of another control";
+    other.DestroyWindow();
+}
+
 // ---- What only the combo does
 
 struct DropRow {
@@ -157,9 +262,10 @@ struct DropRow {
 const DropRow kDrops[] = {
     {"FewItems", 3, 16, 3}, {"MoreThanFit", 40, 16, 18}, {"None", 0, 16, 0}, {"HighRows", 4, 100, 2}};
 
-class DropDown : public TableControl<TableCombo>, public ::testing::WithParamInterface<DropRow> {};
+class DropDown : public TableControl<TableCombo> {};
+class DropDownRows : public DropDown, public ::testing::WithParamInterface<DropRow> {};
 
-TEST_P(DropDown, ShowsWholeRowsUpTo320Pixels) {
+TEST_P(DropDownRows, ShowsWholeRowsUpTo320Pixels) {
     const DropRow& row = GetParam();
     m_control.rowHeight = row.rowHeight;
     for (int i = 0; i < row.items; ++i)
@@ -176,8 +282,37 @@ TEST_P(DropDown, ShowsWholeRowsUpTo320Pixels) {
     EXPECT_EQ(closed.Width(), again.Width());
 }
 
-INSTANTIATE_TEST_SUITE_P(Lists, DropDown, ::testing::ValuesIn(kDrops),
+INSTANTIATE_TEST_SUITE_P(Lists, DropDownRows, ::testing::ValuesIn(kDrops),
                          [](const auto& row) { return std::string(row.param.name); });
+
+// In any parent: this one takes no part in it.
+TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
+    m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
+    m_control.ShowWindow(SW_SHOW);
+    m_control.SetFocus();
+    const auto click = [&](int at) {
+        m_control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at, 5));
+        m_control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(at, 5));
+    };
+    const std::function<void()> ways[] = {[&] { m_control.ShowDropDown(TRUE); }, [&] { click(115); },
+                                          [&] { m_control.SendMessage(WM_KEYDOWN, VK_F4, 1); },
+                                          [&] { m_control.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); }};
+    int items = 0;
+    for (const auto& open : ways) {
+        m_control.AddString("item");
+        m_control.AddString("item");
+        open();
+        ASSERT_TRUE(m_control.GetDroppedState()) << items;
+        items += 2;
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ASSERT_TRUE(::GetComboBoxInfo(m_control.m_hWnd, &info));
+        CRect list;
+        ::GetClientRect(info.hwndList, list);
+        EXPECT_NEAR(items * 16, list.Height(), 8) << items;
+        m_control.ShowDropDown(FALSE);
+    }
+}
 
 // The parent of a clicked combo.
 class ClickedParent : public CWnd {

@@ -2,6 +2,9 @@
 
 #include <afxdlgs.h>
 
+#include <cctype>
+#include <set>
+
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
 #include "support/message_box_watcher.h"
@@ -56,17 +59,39 @@ protected:
     void Close(HWND sheet) { user.Click(::GetDlgItem(sheet, IDCANCEL)); }
 };
 
+// Letters behind "&" in the texts of a window's visible descendants.
+std::string Mnemonics(HWND window) {
+    std::string letters;
+    ::EnumChildWindows(
+        window,
+        [](HWND child, LPARAM result) -> BOOL {
+            const std::string text = ::IsWindowVisible(child) ? TextOf(child) : "";
+            const size_t mark = text.find('&');
+            if (mark != std::string::npos)
+                *reinterpret_cast<std::string*>(result) += static_cast<char>(std::tolower(text[mark + 1]));
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&letters));
+    return letters;
+}
+
+void ExpectMnemonicsOfTheirOwn(HWND window) {
+    const std::string letters = Mnemonics(window);
+    EXPECT_EQ(letters.size(), std::set<char>(letters.begin(), letters.end()).size()) << letters;
+}
+
 TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
     user.InDialog([&] { user.Key('N', UserInput::kControl); },
                   [&](HWND wizard) {
+                      ExpectMnemonicsOfTheirOwn(wizard);
                       user.Type("  Walls ");
-                      user.Click(::GetDlgItem(wizard, kNext));
-                      user.Key(VK_TAB, UserInput::kShift);
-                      user.Key(VK_TAB, UserInput::kShift); // from the button over Back to the list
+                      user.Key(VK_RETURN);
+                      ExpectMnemonicsOfTheirOwn(wizard);
                       ASSERT_EQ(IDC_STYLE_PARTS, ::GetDlgCtrlID(::GetFocus()));
                       user.Key(VK_DOWN);
                       user.Key(VK_SPACE); // not the brush
-                      user.Click(::GetDlgItem(wizard, kNext));
+                      user.Key(VK_RETURN);
+                      ExpectMnemonicsOfTheirOwn(wizard);
                       const std::string summary = TextOf(OnPage(wizard, IDC_STYLE_SUMMARY));
                       EXPECT_NE(std::string::npos, summary.find("\"Walls\""));
                       EXPECT_NE(std::string::npos, summary.find("Pen: Red")) << summary;

@@ -13,7 +13,8 @@
 namespace {
 
 constexpr int kNarrow = 600, kWide = 601, kNoTemplate = 699;
-constexpr int kField = 1010, kBack = 100, kNext = 101, kTabs = 301;
+constexpr int kField = 1010, kKeepColour = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
+              kHeading = 302;
 
 class CStep : public CPropertyPage {
 public:
@@ -26,6 +27,12 @@ public:
         return accepts && CPropertyPage::OnKillActive();
     }
     void OnOK() override { Log('o'); }
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (wParam == MAKEWPARAM(kLookUp, BN_CLICKED)) Log('l');
+        return CPropertyPage::OnCommand(wParam, lParam);
+    }
 
 private:
     void Log(char what) { m_log += {m_name, what, ' '}; }
@@ -44,7 +51,7 @@ class Wizard : public ::testing::Test {
 protected:
     Wizard() { ::PropPageInit(); }
 
-    std::string log; // r: a page has refused; o: its OnOK
+    std::string log; // r: a page has refused; o: its OnOK; l: its own button
     std::vector<std::unique_ptr<CStep>> steps;
     SheetDriver driver;
 
@@ -80,6 +87,13 @@ CRect Place(const SheetDriver& user, HWND window) { // in client coordinates of 
     return rect;
 }
 
+// Pixels of dialog units in the page's font.
+CSize Units(HWND page, int x, int y) {
+    CRect rect(0, 0, x, y);
+    ::MapDialogRect(page, &rect);
+    return rect.Size();
+}
+
 void ClickWithMouse(SheetDriver& user, int id) {
     const HWND button = ::GetDlgItem(user.Sheet(), id);
     ::PostMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
@@ -112,6 +126,7 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Mnemonic('n');
                   EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Mnemonic('b');
                   EXPECT_EQ("0 - &Next >", State(user));
                   user.Focus(kField);
@@ -119,6 +134,9 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
                   user.Key(VK_TAB); // over the check box and the disabled Back
                   EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
                   user.Key(VK_SPACE);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(user.Control(kField), ::GetFocus()) << "the first field of the new page";
+                  ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
                   user.Key(VK_RETURN); // the button's own
                   EXPECT_EQ("2 Back Finish", State(user));
                   user.Key(VK_RETURN);
@@ -126,19 +144,70 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
     EXPECT_EQ("1o 2o 3o 3o ", log);
 }
 
-TEST_F(Wizard, EnterInAPageOnlyFinishesTheLast) {
-    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
-                  for (const char* state : {"0 - &Next >", "1 Back &Next >"}) {
-                      user.Focus(kField);
-                      user.Key(VK_RETURN);
-                      EXPECT_EQ(state, State(user));
-                      user.ClickSheetButton(kNext);
-                  }
-                  EXPECT_EQ("", log);
+// Next is the default button. What stands behind the field with the focus would be skipped unread.
+TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
+    const auto wizard = Make({kWide, kNarrow, kWide});
+    EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {
+                  const HWND next = ::GetDlgItem(user.Sheet(), kNext);
+                  const auto isDefault = [&] {
+                      return (::GetWindowLongA(next, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+                  };
+                  EXPECT_TRUE(isDefault());
+                  ClickWithMouse(user, kNext);
+                  EXPECT_TRUE(isDefault());
+                  ClickWithMouse(user, kBack);
                   user.Focus(kField);
                   user.Key(VK_RETURN);
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  user.Focus(kKeepColour);
+                  user.Key(VK_RETURN);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(user.Control(kField), ::GetFocus());
+                  user.Key(VK_TAB);
+                  EXPECT_EQ(user.Control(kLookUp), ::GetFocus());
+                  user.Key(VK_RETURN);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ("2l ", log) << "a button of the page takes the key for itself";
+                  log.clear();
+                  user.Focus(kField);
+                  steps[1]->accepts = false;
+                  user.Key(VK_RETURN);
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ("2r ", log);
+                  steps[1]->accepts = true;
+                  ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN,
+                                 0x40000001); // held down since the step before
+                  user.Pump();
+                  EXPECT_EQ("1 Back &Next >", State(user));
+                  user.Key(VK_RETURN);
+                  EXPECT_EQ("2 Back Finish", State(user));
+                  log.clear();
+                  user.Key(VK_RETURN); // finishes from any field
               }));
     EXPECT_EQ("1o 2o 3o 3o ", log);
+}
+
+TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
+    const auto wizard = Make({kNarrow, kWide, kNarrow});
+    Run(*wizard, [&](SheetDriver& user) {
+        for (const char* caption : {"Narrow", "Wide", "Narrow"}) {
+            const HWND heading = ::GetDlgItem(user.Sheet(), kHeading);
+            EXPECT_EQ(caption, WindowText(heading));
+            EXPECT_TRUE(::IsWindowVisible(heading));
+            CRect client;
+            ::GetClientRect(user.Sheet(), &client);
+            const CRect page = Place(user, user.Page()),
+                        button = Place(user, ::GetDlgItem(user.Sheet(), kNext));
+            EXPECT_LE(Place(user, heading).bottom, page.top);
+            const bool wide = *caption == 'W';
+            EXPECT_LE(Units(user.Page(), wide ? 240 : 120, 0).cx, page.Width());
+            EXPECT_LE(Units(user.Page(), 0, wide ? 100 : 60).cy, page.Height());
+            EXPECT_LE(page.right, client.right);
+            EXPECT_LE(page.bottom, button.top);
+            EXPECT_LE(button.bottom, client.bottom);
+            user.ClickSheetButton(kNext);
+        }
+    });
 }
 
 TEST_F(Wizard, CancelsByButtonKeyAndCaption) {
@@ -229,13 +298,6 @@ TEST_F(Wizard, KeyboardOutlivesABackThatIsDisabled) {
             user.Key(VK_TAB);
         EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
     });
-}
-
-// Pixels of dialog units in the page's font.
-CSize Units(HWND page, int x, int y) {
-    CRect rect(0, 0, x, y);
-    ::MapDialogRect(page, &rect);
-    return rect.Size();
 }
 
 TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {

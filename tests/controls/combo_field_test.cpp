@@ -1,0 +1,74 @@
+// What all owner-drawn combos show in their closed field, in light and in dark schemes: that they have the focus, that they
+// are disabled.
+
+#include "control_dialog.h"
+
+#include "support/pixels.h"
+#include "support/scheme_colors.h"
+
+namespace {
+
+class ComboField : public ControlDialog {
+protected:
+    ComboField() {
+        const std::pair<int, const char*> filled[] = {{IDC_COLORS, "_Colors_"},
+                                                      {IDC_LINE_COMBO, "_LineStyles_"},
+                                                      {IDC_BRUSH_COMBO, "_BrushStyles_"},
+                                                      {IDC_LAYERS, "_Layers_"}};
+        for (const auto& [id, table] : filled)
+            Fill(id, m_drawing.Table(table));
+        for (const int id : {IDC_FACES, IDC_STYLE_NAMES})
+            Get<CComboControl>(id).AddString("Mmm");
+    }
+    using Picture = std::vector<COLORREF>;
+    // times: a field is drawn again over what it shows.
+    Picture Draw(int id, UINT state, UINT action = ODA_DRAWENTIRE, int times = 1, UINT item = 0) {
+        CComboControl& control = Get<CComboControl>(id);
+        m_pixels.Clear(kUntouched);
+        DRAWITEMSTRUCT request = {ODT_COMBOBOX,   static_cast<UINT>(id), item,   action, state,
+                                  control.m_hWnd, m_pixels.DC(),         kField, 0};
+        for (int i = 0; i < times; ++i)
+            control.DrawItem(&request);
+        Picture picture;
+        for (int y = kField.top; y < kField.bottom; ++y)
+            for (int x = kField.left; x < kField.right; ++x)
+                picture.push_back(m_pixels.At(x, y));
+        return picture;
+    }
+    static int Differences(const Picture& a, const Picture& b) {
+        int differences = 0;
+        for (size_t i = 0; i < a.size(); ++i)
+            differences += a[i] != b[i];
+        return differences;
+    }
+    void ExpectFocusAndDisabledState(int id) {
+        const Picture plain = Draw(id, 0), focused = Draw(id, ODS_FOCUS), disabled = Draw(id, ODS_DISABLED);
+        EXPECT_LE(50, Differences(plain, focused)) << id;
+        EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn whole";
+        EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2)) << id;
+        const UINT none = static_cast<UINT>(-1);
+        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, none), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, none))
+            << id;
+        Draw(id, ODS_DISABLED);
+        EXPECT_LE(5, m_pixels.Count(kField, ::GetSysColor(COLOR_GRAYTEXT))) << id;
+        EXPECT_LE(800, m_pixels.Count(kField, ::GetSysColor(COLOR_3DFACE))) << id;
+    }
+
+    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
+    static constexpr RECT kField = {10, 10, 110, 26};
+    Pixels m_pixels{120, 40};
+};
+
+TEST_F(ComboField, ShowsTheFocusAndThatItIsDisabled) {
+    const int ids[] = {IDC_COLORS, IDC_LINE_COMBO, IDC_BRUSH_COMBO, IDC_LAYERS, IDC_FACES, IDC_STYLE_NAMES};
+    for (const int id : ids)
+        ExpectFocusAndDisabledState(id);
+    const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)},
+                             {COLOR_WINDOWTEXT, RGB(255, 255, 0)},
+                             {COLOR_3DFACE, RGB(0, 0, 64)},
+                             {COLOR_GRAYTEXT, RGB(0, 255, 0)}});
+    for (const int id : ids)
+        ExpectFocusAndDisabledState(id);
+}
+
+} // namespace
