@@ -90,16 +90,31 @@ TEST(ResourceScript, HoldsTheSections) {
     EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
 }
 
-TEST(ResourceScript, OfListsOfVariantsIsRefusedAndLeavesNoFile) {
+// What the printing classes would lose is named, and leaves no file.
+TEST(ResourceScript, RefusesWhatItCantHold) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
-    const std::string stream = (kStreams / "25695-xls--DocumentSummaryInformation--a23cd4.bin").string();
-    Outcome run = RunSuminfo({"rc", "--stream", stream, script.string()});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.err, "suminfo: " + stream + ": section 1 holds a type of value that can't be printed\n");
-    EXPECT_TRUE(fs::is_empty(folder.Path()));
+    const struct {
+        const char* stream;
+        const char* why;
+    } rows[] = {
+        {"25695-xls--DocumentSummaryInformation--a23cd4.bin",
+         "section 1: property 12, VT_VECTOR | VT_VARIANT, can't be printed in a script"},
+        {"TestBug44375-xls--SummaryInformation--2fe19d.bin",
+         "section 1: property 0, VT_LPSTR, can't be printed in a script"},
+        {"test11-doc--DocumentSummaryInformation--b327f0.bin",
+         "section 2: names in 16-bit characters can't be printed in a script"},
+        {"Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin", "it has no sections"},
+    };
+    for (const auto& row : rows) {
+        const std::string stream = (kStreams / row.stream).string();
+        const Outcome run = RunSuminfo({"rc", "--stream", stream, script.string()});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_EQ(run.err, "suminfo: " + stream + ": " + row.why + "\n");
+        EXPECT_TRUE(fs::is_empty(folder.Path()));
+    }
     const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
-    run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
+    const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.err, "suminfo: " + nowhere + ": can't be made\n");
 }
