@@ -150,34 +150,56 @@ TEST(Check, BareStreams) {
 }
 
 TEST(CommandLine, WrongOnesExitWithTwo) {
-    const std::vector<std::string> wrong[] = {
-        {},
-        {"show"},
-        {"show", "--colour", "x.doc"},
-        {"set", "x.doc"},
-        {"set", "x.doc", "title"},
-        {"remove", "x.doc"},
-        {"thumbnail", "x.doc"},
-        {"thumbnail", "x.doc", "x.png", "--size", "12"},
-        {"thumbnail", "x.doc", "x.png", "--size", "0x9"},
-        {"copy", "x.doc"},
+    const struct {
+        std::vector<std::string> line;
+        const char* why;
+    } rows[] = {
+        {{}, ""},
+        {{"shov", "x.doc"}, "'shov' is no command; suminfo --help lists them\n"},
+        {{"show"}, ""},
+        {{"show", "--colour", "x.doc"}, ""},
+        {{"set", "x.doc"}, ""},
+        {{"set", "x.doc", "title"}, "'title' should be name=value"},
+        {{"set", "x.doc", "colour=red"}, "'colour' is no field; suminfo set --help lists them\n"},
+        {{"set", "x.doc", "thumbnail=x"}, "'thumbnail' can't be set, only removed\n"},
+        {{"set", "x.doc", "--custom", "A=colour:red"}, "A: 'colour' is no type"},
+        {{"set", "x.doc", "--custom", "A=red"}, "A: 'red' needs a type"},
+        {{"set", "x.doc", "--custom", "A=int:12x"}, "A: '12x' is no whole number"},
+        {{"set", "x.doc", "--custom", "A=unsigned:-1"}, "A: '-1' is no whole number from 0 on\n"},
+        {{"remove", "x.doc"}, ""},
+        {{"remove", "x.doc", "colour"}, "'colour' is no field"},
+        {{"thumbnail", "x.doc"}, ""},
+        {{"thumbnail", "x.doc", "x.png", "--size", "12"}, ""},
+        {{"thumbnail", "x.doc", "x.png", "--size", "0x9"}, ""},
+        {{"copy", "x.doc"}, ""},
     };
-    for (const auto& line : wrong) {
-        const Outcome run = RunSuminfo(line);
-        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(line);
-        EXPECT_NE(run.err, "") << testing::PrintToString(line);
+    for (const auto& row : rows) {
+        const Outcome run = RunSuminfo(row.line);
+        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(row.line);
+        EXPECT_EQ(run.err.rfind(std::string("suminfo: ") + row.why, 0), 0u) << run.err;
+        EXPECT_GT(run.err.size(), 12u);
     }
-    const Outcome unknown = RunSuminfo({"shov", "x.doc"});
-    EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_EQ(unknown.err, "'shov' is no command; suminfo --help lists them\n");
 }
 
-TEST(CommandLine, HelpHasExamples) {
+TEST(CommandLine, HelpAndVersion) {
     const Outcome run = RunSuminfo({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_NE(run.out.find("suminfo set plan.msi title=\"Plan B\""), std::string::npos);
     EXPECT_NE(RunSuminfo({"set", "--help"}).out.find("last-author"), std::string::npos);
+    const Outcome version = RunSuminfo({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.out.rfind("suminfo 1.", 0), 0u) << version.out;
+}
+
+TEST(CommandLine, MoreNamesThanItHoldsComeFromStandardInput) {
+    constexpr int kMany = 2000;
+    std::string names;
+    for (int i = 0; i < kMany; ++i)
+        names += "a name of some length that nobody has given to a file " + std::to_string(i) + '\0';
+    const Outcome run = RunSuminfo({"check", "@-", "--stream"}, kDocuments, names);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), kMany);
 }
 
 } // namespace
