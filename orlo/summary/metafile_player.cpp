@@ -113,7 +113,11 @@ void PlayHollowBrush(HDC dc, HANDLETABLE* objects, UINT count) {
     ::PlayMetaFileRecord(dc, objects, reinterpret_cast<METARECORD*>(&record), count);
 }
 
-// Not left to the system: Wine takes height and width for the slots, whatever they are.
+// These two are not left to the system: Wine looks for the slots in other words of the record, whatever they hold.
+void SelectPaletteOf(HDC dc, const HANDLETABLE& objects, const WORD* parameters) {
+    ::SelectPalette(dc, static_cast<HPALETTE>(objects.objectHandle[parameters[0]]), FALSE);
+}
+
 void FrameRegion(HDC dc, const HANDLETABLE& objects, const WORD* parameters, const Mapping& mapping) {
     const auto height = static_cast<int16_t>(parameters[2]), width = static_cast<int16_t>(parameters[3]);
     if (mapping.x.Size(width) > kFarthest || mapping.y.Size(height) > kFarthest) return;
@@ -126,6 +130,8 @@ public:
     void Play(HDC dc, HANDLETABLE* objects, METARECORD* record, UINT count) {
         if (record->rdFunction == META_CREATEPATTERNBRUSH)
             PlayHollowBrush(dc, objects, count);
+        else if (record->rdFunction == META_SELECTPALETTE)
+            SelectPaletteOf(dc, *objects, record->rdParm);
         else if (record->rdFunction == META_FRAMEREGION)
             FrameRegion(dc, *objects, record->rdParm, MappingOf(dc));
         else if (IsForThisDevice(record->rdFunction) && IsAffordable(dc, *record))

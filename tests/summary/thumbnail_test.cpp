@@ -304,6 +304,19 @@ TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
     }
 }
 
+// Whatever the number of the record: words that lie far beyond its slots and its picture.
+TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
+    for (uint16_t function = 0; function < 0x1100; ++function) {
+        for (const size_t count : {2, 20}) {
+            std::vector<uint16_t> words(count, 0x7FFF);
+            words[0] = 0; // a slot, mostly
+            DrawMeta(MetaFileBytes(60, 60).Record(0x02FC, {0, 0, 0, 0}).Record(function, words).Build(),
+                     canvas_.DC(), &whole_, 1);
+        }
+    }
+    EXPECT_EQ(::SaveDC(canvas_.DC()), 1);
+}
+
 TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
     const ByteVector picture =
         MetaFileBytes(50, 50).FilledRectangle(kBlue, 0, 0, 50, 50).Record(0x0324, {999, 0, 0}).Build();
