@@ -12,4 +12,7 @@ wine_prefix
 case ${LC_ALL:-${LC_CTYPE:-${LANG-}}} in *[Uu][Tt][Ff]*8*) ;; *) export LC_ALL=C.UTF-8 ;; esac
 wineserver -p30 2>/dev/null || true
 cd "$ORLO_CALLER_DIR"
+# A command line of the system holds 32,767 characters, an escaped name twice its own. "@-": the rest is on standard input.
+arguments="$*"
+if [ $((2 * ${#arguments} + 3 * $#)) -gt 32000 ]; then exec wine "$program" @- < <(printf '%s\0' "$@"); fi
 exec wine "$program" "$@"

@@ -1,5 +1,6 @@
 #include "orlo/propset/rc_file.h"
 
+#include <cstring>
 #include <string>
 
 namespace {
@@ -30,6 +31,15 @@ CRCFile::CRCFile(const char* pszFileName, UINT nOpenFlags)
     : CStdioFile(pszFileName, nOpenFlags), m_nColumn(0), m_bNeedComma(0) {}
 CRCFile::~CRCFile() = default;
 
+void CRCFile::StartBlock() {
+    m_nColumn = 0;
+    m_bNeedComma = 0;
+}
+
+void CRCFile::PrintWholeTexts() {
+    m_bWholeTexts = true;
+}
+
 void CRCFile::NewLine() {
     m_nColumn = kBreakColumn;
 }
@@ -52,15 +62,20 @@ void CRCFile::WriteString(const char* psz) {
 }
 
 void CRCFile::WriteCString(const char* psz, DWORD cb) {
-    Format();
-    Write("\"", 1);
-    std::string text;
-    DWORD done = 0;
-    for (; done < cb && psz[done] != '\0'; ++done)
-        AppendEscaped(text, psz[done]);
-    text += done < cb ? "\\0\"" : "\"";
-    Write(text.data(), static_cast<UINT>(text.size()));
-    m_nColumn += static_cast<int>(text.size());
+    do {
+        const auto length = static_cast<DWORD>(::strnlen(psz, cb));
+        const bool endsAtNul = length < cb;
+        Format();
+        Write("\"", 1);
+        std::string text;
+        for (DWORD i = 0; i < length; ++i)
+            AppendEscaped(text, psz[i]);
+        text += endsAtNul ? "\\0\"" : "\"";
+        Write(text.data(), static_cast<UINT>(text.size()));
+        m_nColumn += static_cast<int>(text.size());
+        psz += length + endsAtNul;
+        cb -= length + endsAtNul;
+    } while (m_bWholeTexts && cb > 0);
 }
 
 void CRCFile::WriteByte(BYTE b) {

@@ -5,7 +5,14 @@
 //   rc.Write("1 RCDATA\nBEGIN", 14);
 //   section.WriteToRC(&rc);                // words as 0x0054, texts in quotes, a comma between all
 //   rc.WriteString("END")                  // wrong: that is another item, with a comma before it
-//   rc.CStdioFile::WriteString("\nEND\n"); // right
+//   rc.CStdioFile::WriteString("\nEND\n2 RCDATA\nBEGIN"); // right
+//   rc.StartBlock();                       // else the next item would begin with a comma
+//   other.WriteToRC(&rc);
+//   rc.CStdioFile::WriteString("\nEND\n");
+//
+// A text is printed up to its first NUL, although the length ahead of it counts what may stand behind: the block
+// is then shorter than it says. Files of other programs have such texts, padded to a round length; PrintWholeTexts
+// has them printed to the end of their count.
 //
 // Bytes from 0x80 upward stand in texts as they are; compile the script with the code page that they are in.
 #pragma once
@@ -22,6 +29,10 @@ public:
     CRCFile(const char* pszFileName, UINT nOpenFlags);
     ~CRCFile() override;
 
+    // The items so far were a block of their own: the next one stands at the head of another.
+    void StartBlock();
+    // From now on texts are printed to the end of their count, as further items behind their first NUL.
+    void PrintWholeTexts();
     // The next item begins a new line.
     void NewLine();
     // The separator that is due before an item: a comma, or the end of the line and the indent of the next.
@@ -30,8 +41,7 @@ public:
     // An item, as it stands.
     void WriteString(const char* psz) override;
     // A quoted text of at most cb bytes; a NUL ends it, and is its last character. Characters below 0x20 are
-    // written as
-    // "\x09" is, line feeds and tabs too: raw ones break the line of the script.
+    // written as "\x09" is, line feeds and tabs too: raw ones break the line of the script.
     void WriteCString(const char* psz, DWORD cb);
     void WriteByte(BYTE b);
     void WriteWord(WORD w);
@@ -47,4 +57,5 @@ private:
 
     int m_nColumn;
     int m_bNeedComma;
+    bool m_bWholeTexts = false;
 };

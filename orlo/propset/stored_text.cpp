@@ -28,12 +28,13 @@ int32_t WholeNumber(const char* token) {
 double RealNumber(std::string_view token) {
     while (!token.empty() && std::isspace(static_cast<unsigned char>(token.front())))
         token.remove_prefix(1);
+    const bool isNegative = !token.empty() && token.front() == '-';
     const std::string_view digits = token.substr(token.find_first_not_of("+-") == 1 ? 1 : 0);
     const bool isNumber = !digits.empty() &&
                           (std::isdigit(static_cast<unsigned char>(digits.front())) || digits.front() == '.');
     double number = 0;
     if (isNumber) std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return token.front() == '-' ? -number : number;
+    return isNegative ? -number : number;
 }
 
 void PutCounted(ImageWriter& image, const char* token) {

@@ -215,8 +215,10 @@ bool BrushFits(const Parameters& p) {
     return p.Count() >= 4 && p.Word(0) <= kHatched;
 }
 
-bool BitmapFits(const Parameters& p, size_t at, DibColours colours, uint32_t maxLines = UINT32_MAX) {
-    return p.Count() > at && ReadDibLayout(p.At(at), 2 * p.Behind(at), colours, maxLines);
+std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColours colours,
+                                  uint32_t maxLines = UINT32_MAX) {
+    if (p.Count() <= at) return std::nullopt;
+    return ReadDibLayout(p.At(at), 2 * p.Behind(at), colours, maxLines);
 }
 
 std::optional<DibColours> ColoursOf(uint16_t usage) {
@@ -226,19 +228,20 @@ std::optional<DibColours> ColoursOf(uint16_t usage) {
 }
 
 // A bitmap whose colour use stands in word `usageAt`.
-bool TaggedBitmapFits(const Parameters& p, size_t usageAt, size_t at, uint32_t maxLines = UINT32_MAX) {
-    if (p.Count() <= at) return false;
+std::optional<DibLayout> TaggedBitmapIn(const Parameters& p, size_t usageAt, size_t at,
+                                        uint32_t maxLines = UINT32_MAX) {
+    if (p.Count() <= at) return std::nullopt;
     const auto colours = ColoursOf(p.Word(usageAt));
-    return colours && BitmapFits(p, at, *colours, maxLines);
+    return colours ? BitmapIn(p, at, *colours, maxLines) : std::nullopt;
 }
 
 bool BlockTransferFits(const Parameters& p) {
     constexpr size_t kWithoutBitmap = 9; // the pattern alone is painted
-    return p.Count() == kWithoutBitmap || BitmapFits(p, 8, DibColours::Rgb);
+    return p.Count() == kWithoutBitmap || BitmapIn(p, 8, DibColours::Rgb);
 }
 
 bool ScanLinesFit(const Parameters& p) {
-    return p.Count() > 9 && TaggedBitmapFits(p, 0, 9, p.Word(1));
+    return p.Count() > 9 && TaggedBitmapIn(p, 0, 9, p.Word(1));
 }
 
 // Records that hold counts of their own; of others nothing is known here.
@@ -259,9 +262,9 @@ bool ContentFits(uint16_t function, const Parameters& p) {
     case kDibBitBlt:
         return BlockTransferFits(p);
     case kDibStretchBlt:
-        return BitmapFits(p, 10, DibColours::Rgb);
+        return BitmapIn(p, 10, DibColours::Rgb).has_value();
     case kStretchDib:
-        return TaggedBitmapFits(p, 2, 11);
+        return TaggedBitmapIn(p, 2, 11).has_value();
     case kSetDibToDevice:
         return ScanLinesFit(p);
     default:
@@ -307,7 +310,7 @@ private:
         case kCreatePalette:
             return Create(PaletteFits(p));
         case kDibCreatePatternBrush:
-            return Create(TaggedBitmapFits(p, 1, 2));
+            return Create(PatternFits(p));
         case kCreatePatternBrush:
             return Create(true);
         case kCreatePenIndirect:
@@ -346,6 +349,17 @@ private:
         return true;
     }
 
+    // A few bytes of run-length data make a large pattern, and all patterns may be kept at once.
+    bool PatternFits(const Parameters& p) {
+        constexpr uint64_t kMostPixels = 1u << 24;
+        const auto layout = TaggedBitmapIn(p, 1, 2);
+        if (!layout) return false;
+        const uint64_t pixels = uint64_t(layout->width) * uint64_t(layout->height);
+        if (pixels > kMostPixels - patternPixels_) return false;
+        patternPixels_ += pixels;
+        return true;
+    }
+
     bool Delete(const Parameters& p) {
         if (p.Count() < 1 || p.Word(0) >= used_.size()) return false;
         const uint16_t slot = p.Word(0);
@@ -366,6 +380,7 @@ private:
     size_t next_ = 0;        // slots from here on were never given out
     std::priority_queue<uint16_t, std::vector<uint16_t>, std::greater<uint16_t>> freed_;
     int saved_ = 0;
+    uint64_t patternPixels_ = 0; // of all patterns so far
 };
 
 // The head's words alone tell which of the two heads it is.

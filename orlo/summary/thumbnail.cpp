@@ -11,6 +11,7 @@
 #include "orlo/summary/bytes.h"
 #include "orlo/summary/dib_layout.h"
 #include "orlo/summary/metafile_check.h"
+#include "orlo/summary/metafile_player.h"
 #include "orlo/summary/readable_bytes.h"
 
 using orlo::LittleEndian;
@@ -79,19 +80,6 @@ OwnedMetaFile MakeMetaFile(const orlo::MetaFilePicture& picture) {
     return OwnedMetaFile(::SetMetaFileBitsEx(static_cast<UINT>(bits.size()), bits.data()));
 }
 
-// Not played: what would change the palette of the whole system, and what only a device of its own would
-// understand.
-bool IsForThisDevice(WORD function) {
-    return function != META_REALIZEPALETTE && function != META_ESCAPE && function != META_BITBLT &&
-           function != META_STRETCHBLT && function != META_CREATEPATTERNBRUSH;
-}
-
-int CALLBACK PlayRecord(HDC dc, HANDLETABLE* objects, METARECORD* record, int count, LPARAM) {
-    if (IsForThisDevice(record->rdFunction))
-        ::PlayMetaFileRecord(dc, objects, record, static_cast<UINT>(count));
-    return 1;
-}
-
 // The limit that a metafile can't lift by choosing a clip region of its own.
 void LimitPaintingTo(HDC dc, const RECT& rect) {
     ::SetMapMode(dc, MM_TEXT);
@@ -115,7 +103,7 @@ int DrawPicture(const Readable& memory, HDC dc, const RECT* rect, bool keepAspec
     ::SetWindowExtEx(dc, picture->xExtent, picture->yExtent, nullptr);
     ::SetViewportOrgEx(dc, to.left, to.top, nullptr);
     ::SetViewportExtEx(dc, to.width, to.height, nullptr);
-    ::EnumMetaFile(dc, metafile.get(), &PlayRecord, 0);
+    orlo::PlayPicture(dc, metafile.get());
     return 1;
 }
 

@@ -39,7 +39,9 @@ ORLO_API int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const REC
 ORLO_API int DrawDIB(const BITMAPINFOHEADER* pDIB, HDC hDC, const RECT* pRect, int bKeepAspect);
 
 // 1, or 0. Nothing is painted outside of the rectangle. Records that speak to a printer are passed over, and
-// so are those that realize a palette or hold bitmaps in the format of a 16-bit device.
+// so are those that realize a palette or hold bitmaps in the format of a 16-bit device. A pattern of that format
+// paints nothing. Also passed over are shapes and pens that reach more than 32,768 pixels from the origin of the
+// picture, and text whose glyphs would cover more than 64 million pixels in one picture.
 ORLO_API int DrawMetaFilePict(const void* pPict, HDC hDC, const RECT* pRect, int bKeepAspect);
 
 // A bitmap of that size (pixels) with the picture on white, which the caller deletes; white alone if the

@@ -182,6 +182,8 @@ const TextRow kTextRows[] = {
     {"Double", "-1.5e0", VT_R8, "000000000000f8bf"_hex},
     {"DoubleAfterPlus", "+1.5", VT_R8, "000000000000f83f"_hex},
     {"NoDouble", "x", VT_R8, "0000000000000000"_hex},
+    {"EmptyDouble", "\"\", 1.5", VT_VECTOR | VT_R8, "020000000000000000000000000000000000f83f"_hex},
+    {"BlankFloat", " \" \"", VT_R4, "00000000"_hex},
     {"InfinityIsNoNumber", "inf", VT_R8, "0000000000000000"_hex},
     {"BlobAsText", "ab", VT_BLOB, "03000000616200"_hex},
     {"Code75AsText", "ab", 75, "03000000616200"_hex},

@@ -9,9 +9,11 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <memory>
 
-#include "orlo/propset/property_section.h"
+#include "orlo/propset/property_set.h"
 #include "tests/propset/bytes.h"
+#include "tests/propset/corpus.h"
 #include "tests/propset/memory_stream.h"
 
 namespace {
@@ -70,6 +72,8 @@ const ItemRow kItems[] = {
     {"Text", [](CRCFile& rc) { rc.WriteCString("ab", 3); }, R"("ab\0")"},
     {"TextWithoutItsNul", [](CRCFile& rc) { rc.WriteCString("ab", 2); }, R"("ab")"},
     {"TextEndsAtItsNul", [](CRCFile& rc) { rc.WriteCString("a\0b", 4); }, R"("a\0")"},
+    {"WholeText", [](CRCFile& rc) { rc.PrintWholeTexts(), rc.WriteCString("a\0b\0", 5); },
+     R"("a\0", "b\0", "\0")"},
     {"NoText", [](CRCFile& rc) { rc.WriteCString("ab", 0); }, R"("")"},
     {"Escapes", [](CRCFile& rc) { rc.WriteCString("\"\\\x1f\t\r\n\b\x7f\xe9", 10); },
      "\"\"\"\\\\\\x1F\\x09\\x0D\\x0A\\x08\x7f\xe9\\0\""},
@@ -143,16 +147,15 @@ protected:
     // One resource for each of the writers.
     std::vector<Bytes> Compile(const std::vector<std::function<void(CRCFile&)>>& writers) {
         const std::string script = TempFile("compiled.rc"), binary = TempFile("compiled.res");
-        std::remove(script.c_str());
-        FILE* open = std::fopen(script.c_str(), "w+");
+        CRCFile rc(script.c_str(), CStdioFile::modeCreate | CStdioFile::modeReadWrite);
+        rc.PrintWholeTexts();
         for (size_t i = 0; i < writers.size(); ++i) {
-            CRCFile rc(open); // a fresh one for each block; the stream is closed once, below
             rc.CStdioFile::WriteString((std::to_string(i + 1) + " RCDATA\nBEGIN").c_str());
+            rc.StartBlock();
             writers[i](rc);
             rc.CStdioFile::WriteString("\nEND\n");
-            rc.m_pStream = nullptr;
         }
-        std::fclose(open);
+        rc.Close();
         const std::string command = "x86_64-w64-mingw32-windres -O res '" + script + "' '" + binary + "'";
         EXPECT_EQ(std::system(command.c_str()), 0) << TextOf(script);
         const std::vector<Bytes> resources = Resources(binary);
@@ -254,6 +257,39 @@ TEST_F(CompiledScript, OfASectionReadsBackAsTheSection) {
     EXPECT_EQ(id, 3u);
     EXPECT_EQ(read.GetID(std::string(255, 'n').c_str(), &id), 1);
     EXPECT_EQ(id, 2u);
+}
+
+// The sections of real files: texts padded behind their NULs, several sections, dictionaries, pictures.
+TEST_F(CompiledScript, OfEveryRealSetReadsBackAsTheSet) {
+    std::vector<std::function<void(CRCFile&)>> writers;
+    std::vector<std::string> names;
+    std::vector<Bytes> images;
+    for (const CorpusStream& stream : AllCorpusStreams()) {
+        MemoryStream content(stream.Content());
+        auto set = std::make_shared<CPropertySet>();
+        if (!stream.IsReal() || !set->ReadFromStream(&content)) continue;
+        for (POSITION next = set->GetList()->GetHeadPosition(); next != nullptr;) {
+            auto* section = static_cast<CPropertySection*>(set->GetList()->GetNext(next));
+            section->Set(0, nullptr, VT_EMPTY); // a script always has the dictionary
+            MemoryStream image;
+            if (!section->WriteToStream(&image)) continue; // a type without a form
+            names.push_back(stream.path);
+            images.push_back(image.Content());
+            writers.push_back([set, section](CRCFile& rc) { EXPECT_EQ(section->WriteToRC(&rc), 1); });
+        }
+    }
+    const std::vector<Bytes> resources = Compile(writers);
+    ASSERT_EQ(resources.size(), images.size());
+    ASSERT_GT(images.size(), 30u);
+    for (size_t i = 0; i < resources.size(); ++i) {
+        MemoryStream stream(resources[i]), again;
+        CPropertySection read;
+        ASSERT_EQ(read.ReadFromStream(&stream, {}), 1) << names[i];
+        EXPECT_EQ(read.GetSize(), resources[i].size()) << names[i];
+        read.Set(0, nullptr, VT_EMPTY);
+        EXPECT_EQ(read.WriteToStream(&again), 1) << names[i];
+        EXPECT_EQ(again.Content(), images[i]) << names[i];
+    }
 }
 
 #endif

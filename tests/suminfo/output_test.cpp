@@ -90,16 +90,31 @@ TEST(ResourceScript, HoldsTheSections) {
     EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
 }
 
-TEST(ResourceScript, OfListsOfVariantsIsRefusedAndLeavesNoFile) {
+// What the printing classes would lose is named, and leaves no file.
+TEST(ResourceScript, RefusesWhatItCantHold) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
-    const std::string stream = (kStreams / "25695-xls--DocumentSummaryInformation--a23cd4.bin").string();
-    Outcome run = RunSuminfo({"rc", "--stream", stream, script.string()});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.err, "suminfo: " + stream + ": section 1 holds a type of value that can't be printed\n");
-    EXPECT_TRUE(fs::is_empty(folder.Path()));
+    const struct {
+        const char* stream;
+        const char* why;
+    } rows[] = {
+        {"25695-xls--DocumentSummaryInformation--a23cd4.bin",
+         "section 1: property 12, VT_VECTOR | VT_VARIANT, can't be printed in a script"},
+        {"TestBug44375-xls--SummaryInformation--2fe19d.bin",
+         "section 1: property 0, VT_LPSTR, can't be printed in a script"},
+        {"test11-doc--DocumentSummaryInformation--b327f0.bin",
+         "section 2: names in 16-bit characters can't be printed in a script"},
+        {"Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin", "it has no sections"},
+    };
+    for (const auto& row : rows) {
+        const std::string stream = (kStreams / row.stream).string();
+        const Outcome run = RunSuminfo({"rc", "--stream", stream, script.string()});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_EQ(run.err, "suminfo: " + stream + ": " + row.why + "\n");
+        EXPECT_TRUE(fs::is_empty(folder.Path()));
+    }
     const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
-    run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
+    const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.err, "suminfo: " + nowhere + ": can't be made\n");
 }
@@ -135,34 +150,56 @@ TEST(Check, BareStreams) {
 }
 
 TEST(CommandLine, WrongOnesExitWithTwo) {
-    const std::vector<std::string> wrong[] = {
-        {},
-        {"show"},
-        {"show", "--colour", "x.doc"},
-        {"set", "x.doc"},
-        {"set", "x.doc", "title"},
-        {"remove", "x.doc"},
-        {"thumbnail", "x.doc"},
-        {"thumbnail", "x.doc", "x.png", "--size", "12"},
-        {"thumbnail", "x.doc", "x.png", "--size", "0x9"},
-        {"copy", "x.doc"},
+    const struct {
+        std::vector<std::string> line;
+        const char* why;
+    } rows[] = {
+        {{}, ""},
+        {{"shov", "x.doc"}, "'shov' is no command; suminfo --help lists them\n"},
+        {{"show"}, ""},
+        {{"show", "--colour", "x.doc"}, ""},
+        {{"set", "x.doc"}, ""},
+        {{"set", "x.doc", "title"}, "'title' should be name=value"},
+        {{"set", "x.doc", "colour=red"}, "'colour' is no field; suminfo set --help lists them\n"},
+        {{"set", "x.doc", "thumbnail=x"}, "'thumbnail' can't be set, only removed\n"},
+        {{"set", "x.doc", "--custom", "A=colour:red"}, "A: 'colour' is no type"},
+        {{"set", "x.doc", "--custom", "A=red"}, "A: 'red' needs a type"},
+        {{"set", "x.doc", "--custom", "A=int:12x"}, "A: '12x' is no whole number"},
+        {{"set", "x.doc", "--custom", "A=unsigned:-1"}, "A: '-1' is no whole number from 0 on\n"},
+        {{"remove", "x.doc"}, ""},
+        {{"remove", "x.doc", "colour"}, "'colour' is no field"},
+        {{"thumbnail", "x.doc"}, ""},
+        {{"thumbnail", "x.doc", "x.png", "--size", "12"}, ""},
+        {{"thumbnail", "x.doc", "x.png", "--size", "0x9"}, ""},
+        {{"copy", "x.doc"}, ""},
     };
-    for (const auto& line : wrong) {
-        const Outcome run = RunSuminfo(line);
-        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(line);
-        EXPECT_NE(run.err, "") << testing::PrintToString(line);
+    for (const auto& row : rows) {
+        const Outcome run = RunSuminfo(row.line);
+        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(row.line);
+        EXPECT_EQ(run.err.rfind(std::string("suminfo: ") + row.why, 0), 0u) << run.err;
+        EXPECT_GT(run.err.size(), 12u);
     }
-    const Outcome unknown = RunSuminfo({"shov", "x.doc"});
-    EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_EQ(unknown.err, "'shov' is no command; suminfo --help lists them\n");
 }
 
-TEST(CommandLine, HelpHasExamples) {
+TEST(CommandLine, HelpAndVersion) {
     const Outcome run = RunSuminfo({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_NE(run.out.find("suminfo set plan.msi title=\"Plan B\""), std::string::npos);
     EXPECT_NE(RunSuminfo({"set", "--help"}).out.find("last-author"), std::string::npos);
+    const Outcome version = RunSuminfo({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.out.rfind("suminfo 1.", 0), 0u) << version.out;
+}
+
+TEST(CommandLine, MoreNamesThanItHoldsComeFromStandardInput) {
+    constexpr int kMany = 2000;
+    std::string names;
+    for (int i = 0; i < kMany; ++i)
+        names += "a name of some length that nobody has given to a file " + std::to_string(i) + '\0';
+    const Outcome run = RunSuminfo({"check", "@-", "--stream"}, kDocuments, names);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), kMany);
 }
 
 } // namespace

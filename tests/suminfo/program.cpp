@@ -41,9 +41,9 @@ fs::path Program() {
     return fs::path(own).replace_filename("suminfo.exe");
 }
 
-HANDLE Writable(const fs::path& file) {
+HANDLE Inherited(const fs::path& file, DWORD access, DWORD creation) {
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-    return ::CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+    return ::CreateFileW(file.c_str(), access, FILE_SHARE_READ, &inherited, creation, 0, nullptr);
 }
 
 std::string TextOf(const fs::path& file) {
@@ -53,20 +53,24 @@ std::string TextOf(const fs::path& file) {
 
 } // namespace
 
-Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder) {
+Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder,
+                   const std::string& input) {
     const Folder outputs;
-    const fs::path out = outputs.Path() / "out", err = outputs.Path() / "err";
+    const fs::path in = outputs.Path() / "in", out = outputs.Path() / "out", err = outputs.Path() / "err";
+    std::ofstream(in, std::ios::binary) << input;
     std::wstring line = L"\"" + Program().wstring() + L"\"";
     for (const std::string& argument : arguments)
         line += L" " + Quoted(argument);
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = Writable(out);
-    start.hStdError = Writable(err);
+    start.hStdInput = Inherited(in, GENERIC_READ, OPEN_EXISTING);
+    start.hStdOutput = Inherited(out, GENERIC_WRITE, CREATE_ALWAYS);
+    start.hStdError = Inherited(err, GENERIC_WRITE, CREATE_ALWAYS);
     PROCESS_INFORMATION process = {};
     const BOOL started = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
                                           folder.c_str(), &start, &process);
+    ::CloseHandle(start.hStdInput);
     ::CloseHandle(start.hStdOutput);
     ::CloseHandle(start.hStdError);
     if (!started) {

@@ -10,9 +10,10 @@ struct Outcome {
     std::string out, err;
 };
 
-// Arguments in UTF-8; the working folder is the given one.
+// Arguments in UTF-8; the working folder is the given one; on standard input stands the given text.
 Outcome RunSuminfo(const std::vector<std::string>& arguments,
-                   const std::filesystem::path& folder = std::filesystem::temp_directory_path());
+                   const std::filesystem::path& folder = std::filesystem::temp_directory_path(),
+                   const std::string& input = {});
 
 // A folder of its own for each test, gone afterwards.
 class Folder {

@@ -181,6 +181,26 @@ TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
               0);
 }
 
+// A terminal would obey them.
+TEST(Show, ControlCharactersAreShownByTheirNumbers) {
+    const Folder folder;
+    const std::string name = "name \xC2\x9B.doc", shown = "name \\x9b.doc";
+    folder.Copy(kDocuments / "test11--695187.doc", name);
+    ASSERT_EQ(RunSuminfo({"set", name,
+                          "title=a\x1B[2Jb\x7F\xC2\x85\xC2\x9B"
+                          "c"},
+                         folder.Path())
+                  .exitCode,
+              0);
+    const Outcome table = RunSuminfo({"show", name, "missing \xC2\x9B"}, folder.Path());
+    EXPECT_EQ(table.out.rfind(shown + "\n", 0), 0u) << table.out;
+    EXPECT_NE(table.out.find("  a\\x1b[2Jb\\x7f\\x85\\x9bc\n"), std::string::npos) << table.out;
+    EXPECT_EQ(table.err.rfind("suminfo: missing \\x9b: ", 0), 0u) << table.err;
+    const Outcome json = RunSuminfo({"show", "--json", name}, folder.Path());
+    EXPECT_NE(json.out.find("a\\u001b[2Jb\\u007f\\u0085\\u009bc"), std::string::npos) << json.out;
+    EXPECT_EQ(json.out.find_first_of("\x1B\x7F\x9B"), std::string::npos) << "raw";
+}
+
 TEST(Show, NamesAreNotLimitedToOneCodePage) {
     const Folder folder;
     folder.Copy(kDocuments / "test11--695187.doc", "Пример 例.doc");

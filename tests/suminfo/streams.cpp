@@ -48,3 +48,22 @@ Streams StreamsOf(const std::filesystem::path& file) {
     storage->Release();
     return streams;
 }
+
+void EditSet(const std::filesystem::path& file, const std::string& stream,
+             const std::function<void(orlo::SetImage&)>& edit) {
+    const std::vector<unsigned char> bytes = StreamsOf(file).at(stream);
+    std::vector<orlo::Finding> findings;
+    std::optional<orlo::SetImage> image = orlo::ReadSetImage(bytes.data(), bytes.size(), findings);
+    ASSERT_TRUE(image);
+    edit(*image);
+    const orlo::Bytes edited = orlo::WriteSetImage(*image).value();
+    constexpr DWORD kReplace = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
+    IStorage* storage = nullptr;
+    IStream* opened = nullptr;
+    ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kReplace, nullptr, 0, &storage), S_OK);
+    const std::wstring name(stream.begin(), stream.end());
+    ASSERT_EQ(storage->CreateStream(name.c_str(), kReplace | STGM_CREATE, 0, 0, &opened), S_OK);
+    opened->Write(edited.data(), static_cast<ULONG>(edited.size()), nullptr);
+    opened->Release();
+    storage->Release();
+}

@@ -32,6 +32,20 @@ ByteVector CutDib() {
     return bytes;
 }
 
+// A pattern of 2^23 pixels in 50 bytes.
+std::vector<uint16_t> LargePattern() {
+    DibBytes dib;
+    dib.width = 4096;
+    dib.height = 2048;
+    dib.bitsPerPixel = 8;
+    dib.compression = 1;
+    dib.coloursUsed = 1;
+    dib.table = {0};
+    dib.pixels = {0, 1};
+    dib.imageBytes = 2;
+    return Words({5, 0}, dib.Build());
+}
+
 TEST(MetaFilePicture, HasItsExtentsUnderEitherHead) {
     const MetaFileBytes made = Picture().FilledRectangle(0, 0, 0, 10, 10);
     for (const ByteVector& bytes : {made.Build(), made.BuildWide()}) {
@@ -82,6 +96,7 @@ const Row kPassing[] = {
     {"BitmapInRecord", Picture().Record(0x0B41, Words({0x20, 0xCC, 2, 2, 0, 0, 2, 2, 0, 0}, SmallDib()))},
     {"SomeScanLines", Picture().Record(0x0D33, Words({0, 1, 0, 0, 0, 2, 2, 0, 0}, SmallDib()))},
     {"PatternBrush", Picture().Record(0x0142, Words({5, 0}, SmallDib()))},
+    {"LargePatterns", Picture().Record(0x0142, LargePattern()).Record(0x0142, LargePattern())},
     {"PolyPolygon", Picture().Record(0x0538, {2, 1, 2, 0, 0, 1, 1, 2, 2})},
     {"Region", Picture().Record(0x06FF, {0, 6, 0, 0, 0, 1, 2, 0, 0, 9, 9, 2, 0, 5, 1, 4, 2})},
     {"SavedAndRestored", Picture().Record(0x001E, {}).Record(0x001E, {}).Record(0x0127, {0xFFFE})},
@@ -122,6 +137,8 @@ const Row kRefused[] = {
     {"BitmapPastRecord", Picture().Record(0x0F43, Words({0x20, 0xCC, 0, 2, 2, 0, 0, 2, 2, 0, 0}, CutDib()))},
     {"BitmapOfOtherUsage",
      Picture().Record(0x0F43, Words({0x20, 0xCC, 9, 2, 2, 0, 0, 2, 2, 0, 0}, SmallDib()))},
+    {"MorePatternsThanMemory",
+     Picture().Record(0x0142, LargePattern()).Record(0x0142, LargePattern()).Record(0x0142, LargePattern())},
     {"MoreObjectsThanSlots", Picture().Objects(0).Record(0x02FC, {0, 0, 0, 0})},
     {"SelectingPastTheSlots", Picture().Objects(4).Record(0x012D, {4})},
     {"DeletingPastTheSlots", Picture().Record(0x01F0, {0xFFFF})},

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <psapi.h>
 
 #include "canvas.h"
 #include "picture_bytes.h"
@@ -235,10 +236,85 @@ TEST_F(Thumbnail, RecordsForOtherDevicesArePassedOver) {
                                    .Record(0x0626, {12, 0})                // asks a printer for its page
                                    .Record(0x0035, {})                     // realizes a palette
                                    .Record(0x0922, {0, 0, 0, 0, 9, 9, 0, 0, 0, 99, 99, 0, 1, 1})
-                                   .FilledRectangle(kBlue, 0, 0, 50, 50)
+                                   .Record(0x01F9, {3, 0, 8, 8, 2, 0x0101, 0, 0}) // a pattern, in slot 0
+                                   .Record(0x02FC, {0, 0, 0x00FF, 0})             // a blue brush, in slot 1
+                                   .Record(0x012D, {1})
+                                   .Record(0x061D, {0x0021, 0x00F0, 50, 50, 0, 0})
                                    .Build();
     EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 1);
     EXPECT_TRUE(*canvas_.Covered() == whole_);
+}
+
+SIZE_T MostMemorySoFar() {
+    PROCESS_MEMORY_COUNTERS counters = {};
+    ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+    return counters.PeakPagefileUsage;
+}
+
+// Pictures of a few hundred bytes with sizes that took all memory, or ended the process; what follows is drawn.
+TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
+    const auto picture = [](uint16_t scale) {
+        return MetaFileBytes(60, 60)
+            .Record(0x0103, {8})
+            .Record(0x020C, {1, 1})
+            .Record(0x020E, {scale, scale});
+    };
+    const auto text = [](MetaFileBytes bytes, uint16_t height) {
+        bytes.Record(0x02FB, {height, 0, 0, 0, 0, 0, 0, 0, 0, 0x7241, 0x6169, 0x6C}).Record(0x012D, {0});
+        for (uint16_t letters = 0x4241; letters < 0x5A00; letters = static_cast<uint16_t>(letters + 0x0202))
+            bytes.Record(0x0521, {2, letters, 0, 0});
+        return bytes;
+    };
+    const auto pen = [](MetaFileBytes bytes, uint16_t width) {
+        return bytes.Record(0x02FA, {0, width, 0, 0, 0}).Record(0x012D, {0});
+    };
+    constexpr uint16_t kMost = 0x7FFF, kLeast = 0x8001;
+    const struct {
+        const char* name;
+        MetaFileBytes picture;
+    } rows[] = {
+        {"font", text(picture(1), 30000)},
+        {"font under a mapping", text(picture(kMost), 1)},
+        {"ellipse", picture(100).Record(0x0418, {kMost, kMost, kLeast, kLeast})},
+        {"corners", picture(100).Record(0x061C, {kMost, kMost, kMost, kMost, kLeast, kLeast})},
+        {"polygon", picture(kMost).Record(0x0324, {3, kMost, kMost, kLeast, kLeast, 0, kMost})},
+        {"pen", pen(picture(100), kMost).Record(0x0325, {3, 10, 10, 20, 20, 10, 20})},
+        {"line from afar", pen(picture(1), 300)
+                               .Record(0x0214, {kMost, kMost})
+                               .Record(0x020E, {100, 100})
+                               .Record(0x0213, {0, 0})},
+        {"frame", picture(1)
+                      .Record(0x06FF, {0, 6, 0, 0, 0, 1, 2, 0, 0, 9, 9, 2, 0, 5, 1, 4, 2})
+                      .Record(0x02FC, {0, 0, 0, 0})
+                      .Record(0x0429, {0, 1, kMost, kMost})},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        canvas_.Whiten();
+        MetaFileBytes bytes = row.picture;
+        const ByteVector whole = bytes.Objects(9)
+                                     .Record(0x01F0, {0})
+                                     .Record(0x020E, {60, 60})
+                                     .FilledRectangle(kBlue, 0, 0, 60, 60)
+                                     .Build();
+        const SIZE_T before = MostMemorySoFar();
+        EXPECT_EQ(DrawMeta(whole, canvas_.DC(), &whole_, 1), 1);
+        EXPECT_LT((MostMemorySoFar() - before) >> 20, 16u) << "megabytes";
+        EXPECT_TRUE(canvas_.Covered() && *canvas_.Covered() == whole_);
+    }
+}
+
+// Whatever the number of the record: words that lie far beyond its slots and its picture.
+TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
+    for (uint16_t function = 0; function < 0x1100; ++function) {
+        for (const size_t count : {2, 20}) {
+            std::vector<uint16_t> words(count, 0x7FFF);
+            words[0] = 0; // a slot, mostly
+            DrawMeta(MetaFileBytes(60, 60).Record(0x02FC, {0, 0, 0, 0}).Record(function, words).Build(),
+                     canvas_.DC(), &whole_, 1);
+        }
+    }
+    EXPECT_EQ(::SaveDC(canvas_.DC()), 1);
 }
 
 TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {

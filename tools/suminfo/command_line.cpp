@@ -4,8 +4,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <iostream>
+#include <sstream>
 
+#include "console.h"
+#include "failure.h"
 #include "fields.h"
 #include "value_input.h"
 
@@ -16,6 +18,7 @@ constexpr char kExamples[] = R"(
 Examples:
   suminfo show report.doc                         what its property sets hold
   suminfo show --json -r documents/ | jq .file    every document, one line of JSON each
+  find . -name '*.doc' -print0 | suminfo check @-   names from standard input, however many
   suminfo show --stream summary.bin               a property-set stream in a file of its own
   suminfo set plan.msi title="Plan B" saved=now
   suminfo set plan.msi --custom Client=text:ACME --custom Sheets=int:12
@@ -35,11 +38,26 @@ Assignment Split(const std::string& text) {
     return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
-std::vector<Assignment> Split(const std::vector<std::string>& texts) {
-    std::vector<Assignment> split;
-    for (const std::string& text : texts)
-        split.push_back(Split(text));
-    return split;
+std::vector<Assignment> ParseFields(const std::vector<std::string>& texts) {
+    std::vector<Assignment> fields;
+    for (const std::string& text : texts) {
+        fields.push_back(Split(text));
+        FieldToSet(fields.back().name); // refuses what is none
+    }
+    return fields;
+}
+
+std::vector<CustomValue> ParseCustom(const std::vector<std::string>& texts) {
+    std::vector<CustomValue> custom;
+    for (const std::string& text : texts) {
+        const Assignment split = Split(text);
+        try {
+            custom.push_back({split.name, ParseTyped(split.value)});
+        } catch (const Failure& failure) {
+            throw Failure(split.name + ": " + failure.what());
+        }
+    }
+    return custom;
 }
 
 std::optional<SIZE> ParseSize(const std::string& text) {
@@ -68,6 +86,7 @@ public:
               "suminfo") {
         app_.allow_windows_style_options(false); // a path may begin with a slash
         app_.require_subcommand(1);
+        app_.set_version_flag("--version", "suminfo " SUMINFO_VERSION);
         app_.footer(kExamples);
         AddShow();
         AddCheck();
@@ -80,14 +99,15 @@ public:
 
     Parsed Parse(std::vector<std::string> arguments) {
         if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && !IsCommand(arguments.front())) {
-            std::cerr << "'" << arguments.front() << "' is no command; suminfo --help lists them\n";
-            return {std::nullopt, kUsage};
+            return Wrong("'" + arguments.front() + "' is no command; suminfo --help lists them\n");
         }
         std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
         try {
             app_.parse(arguments);
-            line_.fields = Split(fields_);
-            line_.custom = Split(custom_);
+            line_.fields = ParseFields(fields_);
+            line_.custom = ParseCustom(custom_);
+            for (const std::string& name : line_.fieldNames)
+                FieldToRemove(name);
             line_.size = ParseSize(size_);
             if (line_.command == Command::set && fields_.empty() && custom_.empty())
                 throw CLI::ValidationError("set", "nothing to set: name a field, as in title=\"Plan B\"");
@@ -95,11 +115,20 @@ public:
                 throw CLI::ValidationError("remove", "nothing to remove: name a field");
             return {line_, kDone};
         } catch (const CLI::ParseError& error) {
-            return {std::nullopt, app_.exit(error, std::cout, std::cerr) == 0 ? kDone : kUsage};
+            std::ostringstream help, wrong;
+            if (app_.exit(error, help, wrong) != 0) return Wrong(wrong.str());
+            Print(stdout, help.str());
+            return {std::nullopt, kDone};
+        } catch (const Failure& failure) {
+            return Wrong(std::string(failure.what()) + "\n");
         }
     }
 
 private:
+    static Parsed Wrong(const std::string& message) {
+        Print(stderr, "suminfo: " + message);
+        return {std::nullopt, kUsage};
+    }
     bool IsCommand(const std::string& word) {
         const auto hasName = [&word](CLI::App* command) { return command->get_name() == word; };
         return !app_.get_subcommands(hasName).empty();

@@ -19,7 +19,8 @@ struct CommandLine {
     bool recursive = false;
     bool bare = false;
     bool json = false;
-    std::vector<Assignment> fields, custom;           // set
+    std::vector<Assignment> fields;                   // set
+    std::vector<CustomValue> custom;                  // set
     std::vector<std::string> fieldNames, customNames; // remove
     std::string output;                               // thumbnail, rc, copy
     std::optional<SIZE> size;

@@ -6,6 +6,8 @@
 #include <vector>
 #include <windows.h>
 
+#include "orlo/propset/value.h"
+
 namespace suminfo {
 
 // Where property sets come from: a document, or (bare) a file that is one property-set stream.
@@ -17,6 +19,12 @@ struct Source {
 // "name=value" of the command line, taken apart.
 struct Assignment {
     std::string name, value;
+};
+
+// A custom property with its value.
+struct CustomValue {
+    std::string name;
+    orlo::Value value;
 };
 
 struct Report {
@@ -31,9 +39,9 @@ Report ShowJson(const Source& source);
 // A line for each finding, or one that says that there is none.
 Report Check(const Source& source);
 
-// Changes fields and custom properties ("type:value"). All of them or, after a Failure, none.
+// Changes fields and custom properties. All of them or, after a Failure, none.
 void SetFields(const std::string& file, const std::vector<Assignment>& fields,
-               const std::vector<Assignment>& custom);
+               const std::vector<CustomValue>& custom);
 void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
                   const std::vector<std::string>& custom);
 // Gives the second document the summary streams of the first.

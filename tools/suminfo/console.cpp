@@ -3,10 +3,12 @@
 #include "console.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
+#include "command_line.h"
 #include "text.h"
 
 namespace suminfo {
@@ -22,9 +24,19 @@ void WriteToConsole(HANDLE console, std::wstring_view text) {
     }
 }
 
+// Whoever has read enough has closed the pipe; anything else is worth a word.
+[[noreturn]] void EndWithoutReader() {
+    const DWORD error = ::GetLastError();
+    const bool isClosed =
+        error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_PIPE_NOT_CONNECTED;
+    if (!isClosed) Print(stderr, "suminfo: the output can't be written\n");
+    std::exit(kFailed);
+}
+
 } // namespace
 
-void PrepareOutput() {
+void PrepareStreams() {
+    ::_setmode(::_fileno(stdin), _O_BINARY);
     ::_setmode(::_fileno(stdout), _O_BINARY);
     ::_setmode(::_fileno(stderr), _O_BINARY);
 }
@@ -32,9 +44,11 @@ void PrepareOutput() {
 void Print(FILE* stream, const std::string& utf8) {
     const auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
     DWORD mode;
-    if (::GetConsoleMode(handle, &mode)) return WriteToConsole(handle, ToWide(utf8));
-    std::fwrite(utf8.data(), 1, utf8.size(), stream);
-    std::fflush(stream);
+    const std::string text = Printable(utf8);
+    if (::GetConsoleMode(handle, &mode)) return WriteToConsole(handle, ToWide(text));
+    const bool written =
+        std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
+    if (!written && stream == stdout) EndWithoutReader();
 }
 
 } // namespace suminfo

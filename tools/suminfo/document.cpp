@@ -152,8 +152,4 @@ void Document::Commit() {
     if (FAILED(result)) Fail(result, "nothing was changed");
 }
 
-bool IsCompoundFile(const std::string& file) {
-    return ::StgIsStorageFile(ToWide(file).c_str()) == S_OK;
-}
-
 } // namespace suminfo

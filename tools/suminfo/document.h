@@ -48,7 +48,4 @@ private:
     Owned<IStorage> storage_;
 };
 
-// True for a file that can hold property sets; false for anything else, and for what can't be opened.
-bool IsCompoundFile(const std::string& file);
-
 } // namespace suminfo

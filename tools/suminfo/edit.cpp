@@ -11,17 +11,9 @@
 #include "failure.h"
 #include "fields.h"
 #include "text.h"
-#include "value_input.h"
 
 namespace suminfo {
 namespace {
-
-const Field& FieldToChange(const std::string& name) {
-    const Field* field = FieldNamed(name);
-    if (!field || field->id == kCodePageId)
-        throw Failure("'" + name + "' is no field; suminfo set --help lists them");
-    return *field;
-}
 
 // The two summary streams of a document, each opened for changes when something wants to change it.
 class Edit {
@@ -68,19 +60,17 @@ orlo::Bytes Sound(orlo::Bytes bytes, const std::string& name) {
 } // namespace
 
 void SetFields(const std::string& file, const std::vector<Assignment>& fields,
-               const std::vector<Assignment>& custom) {
+               const std::vector<CustomValue>& custom) {
     Edit edit(file);
     for (const Assignment& assignment : fields) {
-        const Field& field = FieldToChange(assignment.name);
-        if (field.type == 0) throw Failure("'" + assignment.name + "' can't be set, only removed");
+        const Field& field = FieldToSet(assignment.name);
         For(assignment.name, [&] {
             edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type);
         });
     }
-    for (const Assignment& assignment : custom)
-        For(assignment.name, [&] {
-            edit.SetWith(kUserDefinedFormat).SetCustom(assignment.name, ParseTyped(assignment.value));
-        });
+    for (const CustomValue& property : custom)
+        For(property.name,
+            [&] { edit.SetWith(kUserDefinedFormat).SetCustom(property.name, property.value); });
     edit.Commit();
 }
 
@@ -88,7 +78,7 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
                   const std::vector<std::string>& custom) {
     Edit edit(file);
     for (const std::string& name : fields) {
-        const Field& field = FieldToChange(name);
+        const Field& field = FieldToRemove(name);
         if (!edit.SetWith(field.format).Remove(field.format, field.id)) throw Failure("it has no " + name);
     }
     for (const std::string& name : custom)

@@ -16,7 +16,9 @@ namespace {
 
 constexpr uint16_t kUsualCodePage = 1252;
 constexpr uint32_t kFirstCustomId = 2;
-constexpr uint32_t kPastCustomIds = 0x80000000;
+// A custom property that is linked to a place in the document has that place under its own ID with this flag; readers
+// show no property from there on.
+constexpr uint32_t kLinkFlag = 0x01000000;
 
 enum class Kind { text, whole, real, truth, moment, other };
 
@@ -107,13 +109,13 @@ uint32_t* IdOfName(orlo::ImageSection& section, const std::string& name) {
 uint32_t FreeCustomId(const orlo::ImageSection& section) {
     uint32_t next = kFirstCustomId;
     const auto pass = [&next](uint32_t id) {
-        if (id < kPastCustomIds && id >= next) next = id + 1;
+        if (id < kLinkFlag && id >= next) next = id + 1;
     };
     for (const orlo::ImageProperty& property : section.properties)
         pass(property.id);
     for (const orlo::DictionaryEntry& entry : *section.dictionary)
         pass(entry.id);
-    if (next >= kPastCustomIds) throw Failure("no identifier is left for another custom property");
+    if (next >= kLinkFlag) throw Failure("no identifier is left for another custom property");
     return next;
 }
 
@@ -163,7 +165,8 @@ void EditedSet::SetField(const GUID& format, uint32_t id, const std::string& tex
     }
     orlo::ImageSection& section = Section(format);
     const orlo::ImageProperty* there = section.Find(id);
-    const uint32_t type = there ? there->type : usualType;
+    const bool hasValue = there && there->type != VT_EMPTY && there->type != VT_NULL;
+    const uint32_t type = hasValue ? there->type : usualType;
     if (KindOf(type) != KindOf(usualType))
         throw Failure("it is stored as " + orlo::TypeName(type) + ", not as " + orlo::TypeName(usualType));
     constexpr uint32_t kEditTime = 10;
@@ -206,6 +209,7 @@ bool EditedSet::RemoveCustom(const std::string& name) {
                                [id](const orlo::DictionaryEntry& entry) { return entry.id == id; }),
                 names.end());
     Remove(kUserDefinedFormat, id);
+    if (id < kLinkFlag) Remove(kUserDefinedFormat, id | kLinkFlag);
     changed_ = true;
     return true;
 }

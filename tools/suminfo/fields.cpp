@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <objidl.h>
 
+#include "failure.h"
 #include "text.h"
 
 namespace suminfo {
@@ -72,6 +73,19 @@ const Field* FieldNamed(std::string_view name) {
     const auto found = std::find_if(fields.begin(), fields.end(),
                                     [name](const Field& field) { return SameName(field.name, name); });
     return found == fields.end() ? nullptr : &*found;
+}
+
+const Field& FieldToRemove(const std::string& name) {
+    const Field* field = FieldNamed(name);
+    if (!field || field->id == kCodePageId)
+        throw Failure("'" + name + "' is no field; suminfo set --help lists them");
+    return *field;
+}
+
+const Field& FieldToSet(const std::string& name) {
+    const Field& field = FieldToRemove(name);
+    if (field.type == 0) throw Failure("'" + name + "' can't be set, only removed");
+    return field;
 }
 
 const Field* FieldOf(const GUID& format, uint32_t id) {

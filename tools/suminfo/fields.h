@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 #include <windows.h>
@@ -23,6 +24,9 @@ struct Field {
 };
 
 const std::vector<Field>& Fields();
+// The field of that name; Failure if there is none that can be removed, or set.
+const Field& FieldToRemove(const std::string& name);
+const Field& FieldToSet(const std::string& name);
 // Null if no field has that name (in any case), or no field that ID.
 const Field* FieldNamed(std::string_view name);
 const Field* FieldOf(const GUID& format, uint32_t id);

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <iostream>
 #include <string>
 #include <vector>
 #include <windows.h>
@@ -10,8 +11,8 @@
 #include "commands.h"
 #include "console.h"
 #include "failure.h"
+#include "file_list.h"
 #include "progress.h"
-#include "sources.h"
 #include "text.h"
 
 namespace {
@@ -23,7 +24,7 @@ template <typename Work>
 bool Try(const std::string& file, Progress& progress, Work work) {
     const auto say = [&progress](const std::string& name, const std::exception& failure) {
         progress.MakeWayFor(stderr);
-        Print(stderr, "suminfo: " + name + ": " + failure.what() + "\n");
+        Print(stderr, "suminfo: " + OneLine(name) + ": " + failure.what() + "\n");
         return false;
     };
     try {
@@ -43,11 +44,13 @@ Report ReportOn(const CommandLine& line, const Source& source) {
 
 // show and check: one file after the other, failures said in their place.
 int ReportAll(const CommandLine& line) {
-    const std::vector<std::string> files = FilesOf(line.files, line.recursive);
+    const FileList list = FilesOf(line.files, line.recursive);
+    for (const FileList::Unreadable& unreadable : list.unreadable)
+        Print(stderr, "suminfo: " + OneLine(unreadable.name) + ": " + unreadable.why + "\n");
     const bool tables = line.command == Command::show && !line.json;
-    Progress progress(files.size());
-    bool clean = true, first = true;
-    for (const std::string& file : files) {
+    Progress progress(list.files.size());
+    bool clean = list.unreadable.empty(), first = true;
+    for (const std::string& file : list.files) {
         progress.Next(file);
         const auto work = [&] {
             const Report report = ReportOn(line, {file, line.bare});
@@ -85,12 +88,23 @@ int Run(const std::vector<std::string>& arguments) {
     return Try(line.file, none, [&] { RunOn(line, line.file); }) ? kDone : kFailed;
 }
 
+// "@-" stands for arguments on standard input, each ended by a NUL: more names than a command line of the system holds.
+std::vector<std::string> ArgumentsOf(int count, wchar_t** words) {
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) {
+        if (std::wstring_view(words[i]) != L"@-") {
+            arguments.push_back(ToUtf8(words[i]));
+            continue;
+        }
+        for (std::string argument; std::getline(std::cin, argument, '\0');)
+            arguments.push_back(argument);
+    }
+    return arguments;
+}
+
 } // namespace
 
 int wmain(int count, wchar_t** words) {
-    PrepareOutput();
-    std::vector<std::string> arguments;
-    for (int i = 1; i < count; ++i)
-        arguments.push_back(ToUtf8(words[i]));
-    return Run(arguments);
+    PrepareStreams();
+    return Run(ArgumentsOf(count, words));
 }

@@ -9,6 +9,7 @@
 #include "commands.h"
 #include "edited_set.h"
 #include "failure.h"
+#include "orlo/propset/code_page.h"
 #include "orlo/propset/property_set.h"
 #include "orlo/propset/rc_file.h"
 #include "output_file.h"
@@ -19,28 +20,79 @@
 namespace suminfo {
 namespace {
 
-void Load(const orlo::Bytes& bytes, CPropertySet& set) {
+constexpr uint16_t kUsualCodePage = 1252;
+
+Owned<IStream> StreamOf(const orlo::Bytes& bytes) {
     IStream* made = nullptr;
     HRESULT result = ::CreateStreamOnHGlobal(nullptr, TRUE, &made);
-    if (FAILED(result)) Fail(result, "it can't be read");
-    const Owned<IStream> stream(made);
-    result = stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+    Owned<IStream> stream(made);
+    if (SUCCEEDED(result)) result = stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
     if (FAILED(result)) Fail(result, "it can't be read");
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    if (!set.ReadFromStream(stream.get())) throw Failure("it is no property set");
+    return stream;
 }
 
-void Print(CPropertySet& set, const std::string& title, CRCFile& rc) {
+// True if the stream begins with these bytes.
+bool BeginsWith(IStream& stream, const orlo::Bytes& bytes) {
+    orlo::Bytes read(bytes.size());
+    ULONG came = 0;
+    stream.Seek({}, STREAM_SEEK_SET, nullptr);
+    return SUCCEEDED(stream.Read(read.data(), static_cast<ULONG>(read.size()), &came)) &&
+           came == read.size() && read == bytes;
+}
+
+// The classes that print hold less than a stream can: values whose form they know, names in small letters of one code
+// page.
+bool IsSame(CProperty& printed, const orlo::ImageProperty& held) {
+    orlo::Bytes form;
+    for (int shift = 0; shift < 32; shift += 8)
+        form.push_back(static_cast<uint8_t>(held.type >> shift));
+    form.insert(form.end(), held.bytes.begin(), held.bytes.end());
+    const Owned<IStream> stream = StreamOf({});
+    return printed.GetID() == held.id && printed.WriteToStream(stream.get()) && BeginsWith(*stream, form);
+}
+
+bool HasName(CPropertySection& printed, const orlo::DictionaryEntry& entry, uint16_t codePage) {
+    CString name = printed.GetSectionName();
+    if (entry.id != 0 && !printed.GetName(entry.id, name)) return false;
+    const auto utf8 = orlo::CodePageToUtf8(static_cast<const char*>(name), codePage);
+    return utf8 && SameName(*utf8, entry.name);
+}
+
+void RefuseUnlessSame(CPropertySection& printed, const orlo::ImageSection& held) {
+    CObList& properties = *printed.GetList();
+    POSITION at = properties.GetHeadPosition();
+    for (const orlo::ImageProperty& property : held.properties)
+        if (!at || !IsSame(*static_cast<CProperty*>(properties.GetNext(at)), property))
+            throw Failure("property " + std::to_string(property.id) + ", " + orlo::TypeName(property.type) +
+                          ", can't be printed in a script");
+    if (!held.dictionary) return;
+    if (held.codePage == orlo::kCodePageUtf16)
+        throw Failure("names in 16-bit characters can't be printed in a script");
+    for (const orlo::DictionaryEntry& entry : *held.dictionary)
+        if (!HasName(printed, entry, held.codePage.value_or(kUsualCodePage)))
+            throw Failure("the name " + OneLine(entry.name) + " can't be printed in a script");
+}
+
+void Print(CPropertySet& set, const orlo::SetImage& held, const std::string& title, CRCFile& rc) {
     const auto plain = [&rc](const std::string& text) { rc.CStdioFile::WriteString(text.c_str()); };
     plain("// " + title + "\n");
+    rc.PrintWholeTexts();
+    if (held.sections.empty()) throw Failure("it has no sections");
     int number = 0;
-    CObList& sections = *set.GetList();
-    for (POSITION at = sections.GetHeadPosition(); at;) {
-        auto& section = *static_cast<CPropertySection*>(sections.GetNext(at));
-        plain("\n" + std::to_string(++number) + " RCDATA\nBEGIN");
-        if (!section.WriteToRC(&rc))
-            throw Failure("section " + std::to_string(number) +
-                          " holds a type of value that can't be printed");
+    POSITION at = set.GetList()->GetHeadPosition();
+    for (const orlo::ImageSection& section : held.sections) {
+        const std::string place = "section " + std::to_string(++number);
+        if (!at) throw Failure(place + " can't be printed in a script");
+        auto& printed = *static_cast<CPropertySection*>(set.GetList()->GetNext(at));
+        try {
+            RefuseUnlessSame(printed, section);
+        } catch (const Failure& failure) {
+            throw Failure(place + ": " + failure.what());
+        }
+        plain("\n" + std::to_string(number) + " RCDATA\nBEGIN");
+        rc.StartBlock();
+        if (!printed.WriteToRC(&rc)) throw Failure(place + " can't be printed in a script");
         plain("\nEND\n");
     }
 }
@@ -51,11 +103,11 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     const NamedStream stream = SummaryOf(source);
     const EditedSet sound(stream.bytes); // refuses what is damaged
     CPropertySet set;
-    Load(stream.bytes, set);
+    if (!set.ReadFromStream(StreamOf(stream.bytes).get())) throw Failure("it is no property set");
     std::optional<OutputFile> file;
     OnFile(script, [&] { file.emplace(script); });
     CRCFile rc(file->Stream());
-    Print(set, "Sections of " + source.file, rc);
+    Print(set, sound.Held(), "Sections of " + source.file, rc);
     OnFile(script, [&] { file->Finish(); });
 }
 

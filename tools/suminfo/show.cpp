@@ -103,7 +103,7 @@ Report ShowJson(const Source& source) {
         for (const NamedStream& stream : sets)
             list.push_back(keep(StreamJson(stream)));
     }
-    report.text = json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+    report.text = Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";
     return report;
 }
 

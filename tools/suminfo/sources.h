@@ -1,4 +1,4 @@
-// The property sets of a source, and the files that a command line names.
+// The property sets of a source.
 #pragma once
 
 #include <functional>
@@ -15,8 +15,5 @@ std::vector<NamedStream> SetsOf(const Source& source);
 // The document's own summary, or the bare stream. Failure if there is none.
 NamedStream SummaryOf(const Source& source);
 orlo::Bytes ReadFile(const std::string& file);
-
-// The files as they were named; with `recursive`, every compound file inside of a folder, in the order of names.
-std::vector<std::string> FilesOf(const std::vector<std::string>& named, bool recursive);
 
 } // namespace suminfo

@@ -45,24 +45,39 @@ bool SameName(std::string_view a, std::string_view b) {
                                   static_cast<int>(wideB.size()), TRUE) == CSTR_EQUAL;
 }
 
-std::string OneLine(std::string_view text) {
-    std::string line;
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (c == '\n') {
-            line += "\\n";
-        } else if (c == '\r') {
-            line += "\\r";
-        } else if (c == '\t') {
-            line += "\\t";
-        } else if (code < 0x20 || code == 0x7F) {
-            line += "\\x";
-            line += Hex(&code, 1);
+std::string Printable(std::string_view utf8, const char* escape) {
+    std::string printable;
+    for (size_t i = 0; i < utf8.size(); ++i) {
+        unsigned code = static_cast<unsigned char>(utf8[i]);
+        const bool endsLine = code == '\n' || code == '\r';
+        // The second set of them, of two bytes.
+        const bool isLong =
+            code == 0xC2 && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xA0;
+        if (isLong) code = static_cast<unsigned char>(utf8[++i]);
+        if (isLong || code == 0x7F || (code < 0x20 && !endsLine)) {
+            char escaped[16];
+            std::snprintf(escaped, sizeof escaped, escape, code);
+            printable += escaped;
         } else {
-            line += c;
+            printable += utf8[i];
         }
     }
-    return line;
+    return printable;
+}
+
+std::string OneLine(std::string_view utf8) {
+    std::string line;
+    for (const char c : utf8) {
+        if (c == '\n')
+            line += "\\n";
+        else if (c == '\r')
+            line += "\\r";
+        else if (c == '\t')
+            line += "\\t";
+        else
+            line += c;
+    }
+    return Printable(line);
 }
 
 std::string Hex(const uint8_t* bytes, size_t size) {

@@ -20,8 +20,10 @@ inline std::filesystem::path PathOf(std::string_view utf8) {
 std::string StreamNameShown(std::string_view name);
 // Without regard to case, as the storage compares names.
 bool SameName(std::string_view a, std::string_view b);
-// On one line: control characters as \n, \t, \x01.
-std::string OneLine(std::string_view text);
+// Fit for a terminal, which would obey them: control characters in this form of their number. Ends of lines stay.
+std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
+// The same on one line: \n, \t, \x01.
+std::string OneLine(std::string_view utf8);
 std::string Hex(const uint8_t* bytes, size_t size);
 std::string Sha256(const std::vector<uint8_t>& bytes);
 
