@@ -2,12 +2,6 @@
 
 #include "orlo/frame/graphic_property_sheet.h"
 
-namespace {
-
-constexpr uint32_t kAllGraphics = 0xFFFFFFFF;
-
-} // namespace
-
 ObjectSet::ObjectSet(CGraphicPropertySheet* sheet, int bPreview)
     : m_set(sheet == nullptr ? nullptr
             : bPreview       ? sheet->GetPreviewGroup()

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D01;
+constexpr unsigned int kKind = kControlFontSizes;
 constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
 constexpr double kMillimetresPerInch = 25.4;
 constexpr RowColors kNothingColors = {RGB(255, 0, 0), RGB(255, 255, 255)};

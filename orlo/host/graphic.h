@@ -18,11 +18,14 @@ DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct*, int reserved1, int res
 DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
 DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
 
-// Makes child a part of parent, which then owns it; gives the child. GraphicDelete takes it out again.
+// Makes child a part of parent, which then owns it; gives the child, or null if it was not taken. GraphicDelete takes it out
+// again.
 DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
 DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
 
-// Walk over the members of a set that pass the filter (0xFFFFFFFF: all). The position is one 32-bit word of the
+constexpr uint32_t kAllGraphics = 0xFFFFFFFF; // the filter that every graphic passes
+
+// Walk over the members of a set that pass the filter. The position is one 32-bit word of the
 // caller's, set by GraphicFirst. flags is 1. Null at the end.
 DRAWCORE_API GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int flags, uint32_t filter);
 DRAWCORE_API GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter);
