@@ -44,7 +44,7 @@ protected:
     void RecalcWizardLayout();
     void OnFinish();
 
-    afx_msg int OnCreate(CREATESTRUCT* pCreateStruct);
+    afx_msg int OnCreate(CREATESTRUCTA* pCreateStruct);
     afx_msg void OnBack();
     afx_msg void OnNext();
     afx_msg void OnEnter();
