@@ -16,6 +16,8 @@
 //   matrix.h       transformations
 //   regen.h        regen methods
 //   memory.h       blocks and strings that cross the boundary
+//   picture.h      pictures in memory
+//   strings.h      texts of the host
 //
 // All lengths in a graphic are drawing units unless said otherwise. Results named "int" are non-zero on success.
 // Everything is called on the user-interface thread.
@@ -28,6 +30,7 @@
 #include "orlo/host/layer.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
+#include "orlo/host/picture.h"
 #include "orlo/host/records.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/strings.h"
