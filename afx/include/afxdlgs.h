@@ -40,6 +40,7 @@ public:
 
 protected:
     BOOL m_bChanged;
+    HINSTANCE m_hTemplateModule; // the one module that has the template; null: searched along the chain
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnClose();

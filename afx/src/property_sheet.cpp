@@ -92,7 +92,8 @@ bool CPropertySheet::BeginCreate() {
 
 int CPropertySheet::OnCreate(LPCREATESTRUCT) {
     if (!BeginCreate()) return -1;
-    const LOGFONTA font = AfxDialogTemplate(GetActivePage()->m_lpszTemplateName).Font();
+    const LOGFONTA font =
+        AfxDialogTemplate(GetActivePage()->m_lpszTemplateName, GetActivePage()->m_hTemplateModule).Font();
     m_font.DeleteObject();
     m_font.CreateFontIndirect(&font);
     if (!m_bModeless && !CreateButtons()) return -1;

@@ -9,11 +9,12 @@
 #include "orlo/controls/paint.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/table.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D08;
+constexpr unsigned int kKind = kControlLayers;
 constexpr COLORREF kNoColor = 0xFFFFFFFE;
 
 constexpr int kLeastPicture = 16;
@@ -58,8 +59,7 @@ int CLayerControl::OnCreate(LPCREATESTRUCT) {
 }
 
 void CLayerControl::LoadIcons() {
-    const HINSTANCE module =
-        AfxFindResourceHandle(MAKEINTRESOURCEA(IDI_VISIBLE), MAKEINTRESOURCEA(14)); // RT_GROUP_ICON
+    const HINSTANCE module = LibraryModule();
     m_hIconReadOnly = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_READ_ONLY));
     m_hIconVisible = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_VISIBLE));
 }

@@ -52,7 +52,7 @@ CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
 
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
-    FitControls(m_hWnd);
+    if (m_bFitControls) FitControls(m_hWnd);
     const BOOL result = COrloPropertyPage::OnInitDialog();
     AddPreviewGraphic();
     m_bInitializing = 0;

@@ -127,6 +127,10 @@ protected:
     unsigned long m_dwHelpContext;
     int m_bRefreshPending; // the next refresh command reloads the controls
     int m_bInitializing;   // notifications of controls are ignored
+    // Set by a page's constructor: OnInitDialog takes the tab stops from labels and fits the widths of controls to the page and
+    // to the resolution of the screen, as the templates of the library need it. Else a page's controls stay as its template has
+    // them.
+    int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;
     CWordArray m_IDArray;

@@ -20,6 +20,7 @@
 #include "orlo/pages/mixed_value.h"
 #include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
@@ -218,8 +219,7 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
         return;
     }
     const unsigned short flags = ::BrushStyleGetFlags(m_pBrushStyles, static_cast<uint16_t>(style));
-    CString kind;
-    kind.LoadString(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
+    const CString kind = LibraryText(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
     ::SetDlgItemTextA(m_hWnd, kStyleKindText, kind);
     EnableHatchControls(style, flags);
 }
