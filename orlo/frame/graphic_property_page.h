@@ -35,8 +35,6 @@ public:
     BOOL OnInitDialog() override;
     // Every activation begins with all controls clean.
     BOOL OnSetActive() override;
-    // Drops the writes that a refused exchange has left pending, then leaves the page as its base does.
-    BOOL OnKillActive() override;
 
     // Draws this page's preview graphic into rect (device pixels) of a CGraphicPreview's viewport; nothing without one.
     virtual void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
@@ -142,5 +140,7 @@ private:
     void AddPreviewGraphic();
     bool IsIgnored(unsigned int nID) const;
     unsigned long ChangeFlags(unsigned int nID, unsigned int code, HWND control);
-    void DiscardPendingWrites();
+
+    friend class WriteOutcome;
+    class WriteOutcome* m_pOutcome = nullptr; // of the write-back that is going on
 };
