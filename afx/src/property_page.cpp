@@ -61,6 +61,7 @@ BOOL CPropertyPage::CreatePageWindow() {
     if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
     const std::vector<BYTE> page = dialog.AsPage();
     const AfxWindowCreation creation(this);
-    return ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
-                                        m_pSheet->m_hWnd, AfxDialogProc, 0) != nullptr;
+    ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
+                                 m_pSheet->m_hWnd, AfxDialogProc, 0);
+    return m_hWnd != nullptr; // null too if OnInitDialog has given the window up
 }

@@ -1,5 +1,5 @@
 // The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code, on the
-// application's background.
+// application's background. What the host throws while it draws is reported once; from then on it leaves the background.
 #pragma once
 
 #include <afxwin.h>
@@ -25,6 +25,8 @@ protected:
 
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
+    void DrawGraphic(CDC& dc, CRect& rect);
 
+    bool m_bDrawingFailed = false;
     ViewportStruct* m_pViewport; // set anew in every paint; null: the pane stays white
 };
