@@ -23,7 +23,7 @@ public:
     BOOL PumpMessage();
 
     // An exception that a message handler has thrown; the result is the message's. Shows its text, unless the
-    // user was told.
+    // user was told. What a window throws in painting itself or its items is shown once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:

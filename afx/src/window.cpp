@@ -140,6 +140,7 @@ void CWnd::OnNcDestroy() {
     }
     if (m_modal == Modal::running) EndModalLoop(-1);
     Default();
+    state.paintFailures.erase(m_hWnd);
     Detach();
     m_pfnSuper = nullptr;
     PostNcDestroy();

@@ -2,8 +2,6 @@
 
 #include "orlo/frame/graphic_preview.h"
 
-#include <utility>
-
 #include "orlo/controls/realized_palette.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/application.h"
@@ -62,19 +60,7 @@ void CGraphicPreview::OnPaint() {
     if (m_pViewport == nullptr) return;
     FillBackground(dc.m_hDC, rect);
     rect.InflateRect(-kInset, -kInset);
-    DrawGraphic(dc, rect);
-}
-
-// The first failure goes on to the framework, which reports it. The message would uncover the pane and so bring the next one.
-void CGraphicPreview::DrawGraphic(CDC& dc, CRect& rect) {
     CWnd* parent = GetParent();
-    if (parent == nullptr || !parent->IsKindOf(RUNTIME_CLASS(CGraphicPropertySheet))) return;
-    try {
+    if (parent != nullptr && parent->IsKindOf(RUNTIME_CLASS(CGraphicPropertySheet)))
         static_cast<CGraphicPropertySheet*>(parent)->DrawPreview(&dc, m_pViewport, rect);
-    } catch (CException* exception) {
-        if (!std::exchange(m_bDrawingFailed, true)) throw;
-        exception->Delete();
-    } catch (...) {
-        if (!std::exchange(m_bDrawingFailed, true)) throw;
-    }
 }

@@ -1,5 +1,6 @@
 // The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code, on the
-// application's background. What the host throws while it draws is reported once; from then on it leaves the background.
+// application's background. What the host throws while it draws is the framework's to report, once
+// for each window; where it breaks off, the background stays.
 #pragma once
 
 #include <afxwin.h>
@@ -25,8 +26,6 @@ protected:
 
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
-    void DrawGraphic(CDC& dc, CRect& rect);
 
-    bool m_bDrawingFailed = false;
     ViewportStruct* m_pViewport; // set anew in every paint; null: the pane stays white
 };
