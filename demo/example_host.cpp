@@ -10,13 +10,13 @@
 // Which table each kind of the library's controls shows.
 const char* TableOf(int kind) {
     switch (kind) {
-    case 0x7D05:
+    case kControlColors:
         return "_Colors_";
-    case 0x7D08:
+    case kControlLayers:
         return "_Layers_";
-    case 0x7D18:
+    case kControlBrushStyleList:
         return "_BrushStyles_";
-    case 0x7D15:
+    case kControlLineStyleList:
         return "_LineStyles_";
     default:
         return "_Units_"; // fonts: of the drawing that owns the table
@@ -33,23 +33,24 @@ class CHostFrame : public CFrameWnd {
     }
 };
 
-int wmain(int, wchar_t** argv) {
+int wmain(int count, wchar_t** arguments) {
+    DrawingStruct* drawing = count == 2 ? DrawingOpenDxf(arguments[1], nullptr, nullptr, 0) : nullptr;
+    if (drawing == nullptr) return 2;
     CWinApp application("Host");
-    application.m_pMainWnd = new CHostFrame; // goes with its window
-    application.m_pMainWnd->Create(nullptr, "Host", WS_OVERLAPPEDWINDOW, CRect(0, 0, 100, 100), nullptr, 0);
+    auto* frame = new CHostFrame; // goes with its window
+    if (!frame->Create(nullptr, "Host")) return 2;
+    application.m_pMainWnd = frame; // controls announce themselves there
     PropPageInit();
-    DrawingStruct* drawing = DrawingOpenDxf(argv[1], nullptr, nullptr, 0);
     AppSetCurrentDrawing(drawing);
     GraphicStruct* all = DrawingGetRoot(drawing);
-    CGraphicPropertySheet* sheet =
-        InitGraphicPropertySheet(application.m_pMainWnd, nullptr, drawing, all, 0xFFFFFFFF);
+    CGraphicPropertySheet* sheet = InitGraphicPropertySheet(frame, nullptr, drawing, all, kAllGraphics);
     uint32_t place;
-    for (GraphicStruct* g = GraphicFirst(all, &place, 1, 0xFFFFFFFF); g;
-         g = GraphicNext(all, &place, 1, 0xFFFFFFFF))
+    for (GraphicStruct* g = GraphicFirst(all, &place, 1, kAllGraphics); g;
+         g = GraphicNext(all, &place, 1, kAllGraphics))
         AddGraphicPropertyPage(nullptr, g, sheet);
-    const int code = sheet->DoModal(); // 1: OK, and the drawing has changed
-    delete sheet;                      // with its pages and previews; the drawing stays the host's
-    application.m_pMainWnd->DestroyWindow();
+    const auto code = sheet->DoModal(); // 1: OK, and the drawing has changed
+    delete sheet;                       // with its pages and previews; the drawing stays the host's
+    frame->DestroyWindow();
     DrawingDispose(&drawing);
     return code == IDOK ? 0 : 1;
 }

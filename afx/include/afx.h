@@ -178,10 +178,15 @@ public:
 
 #if defined(_WIN32)
     // The string resource of that number, searched along the chain of modules; false leaves the text empty.
-    BOOL LoadString(UINT nID);
+    BOOL LoadString(UINT nID) {
+        return ReadResource(nID);
+    }
 #endif
 
 private:
+#if defined(_WIN32)
+    BOOL ReadResource(UINT nID);
+#endif
     std::string m_text;
 };
 

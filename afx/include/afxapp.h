@@ -23,7 +23,7 @@ public:
     BOOL PumpMessage();
 
     // An exception that a message handler has thrown; the result is the message's. Shows its text, unless the
-    // user was told.
+    // user was told. What a window throws in painting itself or its items is shown once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:
@@ -49,14 +49,20 @@ private:
     CString m_strAppName;
 };
 
-// A main window: menu, accelerators and icon of one resource number, window text from the string of that
-// number. The object is on the heap and goes with its window.
+// A main window. The object is on the heap and goes with its window.
 class AFX_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 public:
     CFrameWnd();
     ~CFrameWnd() override;
 
+    static const CRect rectDefault; // the system chooses place and size
+
+    // A top-level window; a null class name as in CWnd::Create. False: no window was made.
+    BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
+                const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCSTR lpszMenuName = nullptr,
+                DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
+    // The same with menu, accelerators and icon of one resource number, window text from the string of that number.
     BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW, CWnd* pParentWnd = nullptr);
     BOOL LoadAccelTable(LPCSTR lpszResourceName);
     HACCEL m_hAccelTable;

@@ -11,9 +11,15 @@
 
 #include <afxwnd.h>
 
+#include <memory>
+#include <vector>
+
 class AFX_API CDataExchange {
 public:
     CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);
+    ~CDataExchange();
+    CDataExchange(const CDataExchange&) = delete;
+    CDataExchange& operator=(const CDataExchange&) = delete;
 
     BOOL m_bSaveAndValidate; // TRUE: from the controls to the variables
     CWnd* m_pDlgWnd;
@@ -22,6 +28,8 @@ public:
     // text selected. Throws a CNotSupportedException if there is no such control.
     HWND PrepareCtrl(int nIDC);
     HWND PrepareEditCtrl(int nIDC);
+    // An object that lives as long as the exchange, whatever ends it.
+    void Keep(std::unique_ptr<CObject> pObject);
     // Ends the exchange by a CUserException, the focus on the control last prepared. The user was told
     // before.
     [[noreturn]] void Fail();
@@ -29,6 +37,7 @@ public:
 private:
     HWND m_hWndLastControl;
     BOOL m_bEditLastControl;
+    std::vector<std::unique_ptr<CObject>> m_kept;
 };
 
 AFX_API void DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
@@ -61,7 +70,8 @@ public:
     virtual int DoModal();
     void EndDialog(int nResult);
 
-    // TRUE: the first control gets the focus. FALSE: OnInitDialog has set it.
+    // TRUE: the first control gets the focus. FALSE: OnInitDialog has set it. If the first exchange fails, or
+    // something is thrown, the dialog ends with -1.
     virtual BOOL OnInitDialog();
     void NextDlgCtrl() const;
     void GotoDlgCtrl(CWnd* pWndCtrl);

@@ -29,7 +29,8 @@ public:
     // Tells the sheet, whose Apply button is enabled while a page is modified.
     void SetModified(BOOL bChanged = TRUE);
 
-    // The page comes to the front. Here: makes its window if there is none yet; false on failure.
+    // The page comes to the front. Here: makes its window if there is none yet; false on failure. A page whose first
+    // exchange fails has none: the user was told why.
     virtual BOOL OnSetActive();
     // The page is to be left. Here: saves; false if a check has failed.
     virtual BOOL OnKillActive();
@@ -40,6 +41,7 @@ public:
 
 protected:
     BOOL m_bChanged;
+    HINSTANCE m_hTemplateModule; // the one module that has the template; null: searched along the chain
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnClose();
@@ -63,6 +65,7 @@ public:
 protected:
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -107,7 +110,7 @@ public:
 protected:
     // Tab row, buttons (not modeless), first page, in this order; -1 on failure. A sheet that a derived class
     // has not sized in its own OnCreate is laid out afterwards: tabs, page, row of buttons.
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnOK();
     afx_msg void OnCancel();
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -118,7 +121,7 @@ protected:
     bool BeginCreate();
     // Takes a tab per page, in m_font. It is as wide as the place says.
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
-    void FocusActivePage(); // its first control
+    void FocusActivePage(); // its first control; without one the tabs
 
     // Pixels; set when the first page has its window, from 50 x 14, 4 x 4 and 4 of its dialog units.
     CSize m_sizeButton;
@@ -147,6 +150,7 @@ private:
 
     bool LeaveFor(int nPage);
     bool ActivatePage(int nPage);
+    bool ActivateFirstPage();
     bool ShowPage(int nPage, const CRect& place);
     CRect ActivePlace() const; // of the active page, client coordinates; empty: it has no window
     bool HasFocus(const CPropertyPage* page) const;

@@ -128,7 +128,7 @@ public:
     ~CFont() override;
     static CFont* FromHandle(HFONT hFont);
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
-    BOOL CreateFontIndirect(const LOGFONTA* lpLogFont);
+    BOOL CreateFontIndirect(const LOGFONTA* lpLogFont) { return Attach(::CreateFontIndirectA(lpLogFont)); }
     int GetLogFont(LOGFONTA* pLogFont) const;
 };
 
@@ -139,8 +139,11 @@ public:
     ~CBitmap() override;
     static CBitmap* FromHandle(HBITMAP hBitmap);
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
-    BOOL LoadBitmap(UINT nIDResource);
+    BOOL LoadBitmap(UINT nIDResource) { return AttachResource(nIDResource); }
     BOOL CreateCompatibleBitmap(class CDC* pDC, int nWidth, int nHeight);
+
+private:
+    BOOL AttachResource(UINT nIDResource);
 };
 
 class AFX_API CPalette : public CGdiObject {
@@ -206,8 +209,12 @@ public:
         return ::BitBlt(m_hDC, x, y, cx, cy, pSrcDC->m_hDC, xSrc, ySrc, dwRop);
     }
 
-    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str);
-    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
+    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str) {
+        return ::ExtTextOutA(m_hDC, x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), nullptr);
+    }
+    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
+        return ::DrawTextA(m_hDC, str, str.GetLength(), lpRect, nFormat);
+    }
     CSize GetTextExtent(const CString& str) const;
     BOOL GetTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hAttribDC, lpMetrics); }
 };

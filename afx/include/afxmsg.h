@@ -28,7 +28,7 @@ enum AfxSig : UINT {
     AfxSig_vv,    // void ()
     AfxSig_lwl,   // LRESULT (WPARAM, LPARAM)
     AfxSig_vw,    // void (UINT nID), the command's identifier
-    AfxSig_is,    // int (LPCREATESTRUCT)
+    AfxSig_is,    // int (LPCREATESTRUCTA)
     AfxSig_vwii,  // void (UINT, int, int), from the words of lParam
     AfxSig_vwp,   // void (UINT, CPoint)
     AfxSig_bwsp,  // BOOL (UINT, short, CPoint)
@@ -121,9 +121,10 @@ protected:                                                                      
 #define ON_MESSAGE(message, memberFxn)                                                                       \
     AFX_WM_ENTRY(message, AfxSig_lwl, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
 
-#define ON_WM_CREATE() AFX_WM_ENTRY(WM_CREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnCreate)
+#define ON_WM_CREATE()                                                                                       \
+    AFX_WM_ENTRY(WM_CREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnCreate)
 #define ON_WM_NCCREATE()                                                                                     \
-    AFX_WM_ENTRY(WM_NCCREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnNcCreate)
+    AFX_WM_ENTRY(WM_NCCREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnNcCreate)
 #define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnDestroy)
 #define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnNcDestroy)
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnClose)

@@ -5,6 +5,10 @@
 // good until the message now handled has been dealt with.
 //
 // No exception leaves a window procedure: what a handler throws goes to CWinThread::ProcessWndProcException.
+//
+// Texts and records are the 8-bit ones (LPCREATESTRUCTA), also in a program that defines UNICODE. Members whose names
+// are macros of windows.h (GetWindowText) have another name there: they are inline, so that no name is missing at the
+// link.
 #pragma once
 
 #include <afxgdi.h>
@@ -15,6 +19,16 @@
 class CDataExchange;
 class CFrameWnd;
 struct CCreateContext;
+
+// A virtual function has one name: the system's macro would give it another one where UNICODE is defined.
+#undef DefWindowProc
+static inline LRESULT CALLBACK DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+#ifdef UNICODE
+    return ::DefWindowProcW(hWnd, message, wParam, lParam);
+#else
+    return ::DefWindowProcA(hWnd, message, wParam, lParam);
+#endif
+}
 
 struct AFX_CMDHANDLERINFO {
     CCmdTarget* pTarget;
@@ -68,8 +82,8 @@ public:
     // TRUE.
     BOOL SubclassCtl3d(int nControlType);
 
-    // A null class name is the framework's own: arrow, double clicks, no background. False: no window was
-    // made.
+    // A child window (WS_CHILD is added; a frame has a Create of its own). A null class name is the framework's own:
+    // arrow, double clicks, no background. False: no window was made.
     virtual BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
     BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
@@ -107,7 +121,11 @@ public:
     int GetWindowText(LPSTR lpszStringBuf, int nMaxCount) const {
         return ::GetWindowTextA(m_hWnd, lpszStringBuf, nMaxCount);
     }
-    void GetWindowText(CString& rString) const;
+    void GetWindowText(CString& rString) const {
+        const int length = GetWindowTextLength();
+        ::GetWindowTextA(m_hWnd, rString.GetBufferSetLength(length), length + 1);
+        rString.ReleaseBuffer();
+    }
     int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_EXSTYLE)); }
@@ -161,7 +179,10 @@ public:
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
-    int MessageBox(LPCSTR lpszText, LPCSTR lpszCaption = nullptr, UINT nType = MB_OK);
+    // A null caption is the application's name.
+    int MessageBox(LPCSTR lpszText, LPCSTR lpszCaption = nullptr, UINT nType = MB_OK) {
+        return ShowMessage(lpszText, lpszCaption, nType);
+    }
 
     // Destroys the window if there is one, which ends in PostNcDestroy; else calls that.
     void OnFinalRelease() override;
@@ -173,7 +194,7 @@ protected:
     // Where the procedure stands that the window had before it was this object's; null there: the system's
     // default.
     virtual WNDPROC* GetSuperWndProcAddr();
-    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL PreCreateWindow(CREATESTRUCTA& cs);
     virtual void PreSubclassWindow();
 
     // Result 0: the command or notification was not handled.
@@ -193,8 +214,8 @@ protected:
     LRESULT Default();
 
     // Handlers for ON_WM_... of a derived class to call; each is Default.
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg int OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
+    afx_msg int OnNcCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnClose();
     afx_msg void OnPaint();
@@ -239,6 +260,7 @@ private:
     int m_nModalResult;
     class AfxModalOwner* m_pModalOwner; // while a window is modal and not ended
     WNDPROC m_pfnSuper;
+    int ShowMessage(LPCSTR lpszText, LPCSTR lpszCaption, UINT nType);
     bool NotifyChild(HWND hWndChild, LRESULT* pResult);
 };
 

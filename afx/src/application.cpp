@@ -62,7 +62,10 @@ int CWinThread::Run() {
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
     if (pMsg->message == WM_PAINT) ::ValidateRect(pMsg->hwnd, nullptr); // or it would come again at once
     AfxThreadState& state = AfxThreadState::Get();
-    if (!state.reporting && !e->IsKindOf(RUNTIME_CLASS(CUserException))) {
+    // The message box would uncover the window and so bring the next one.
+    const bool painting = pMsg->message == WM_PAINT || pMsg->message == WM_DRAWITEM;
+    const bool again = painting && !state.paintFailures.insert(pMsg->hwnd).second;
+    if (!again && !state.reporting && !e->IsKindOf(RUNTIME_CLASS(CUserException))) {
         state.reporting = true;
         e->ReportError(MB_ICONEXCLAMATION);
         state.reporting = false;

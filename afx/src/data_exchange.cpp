@@ -10,6 +10,12 @@ CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
     : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd), m_hWndLastControl(nullptr),
       m_bEditLastControl(FALSE) {}
 
+CDataExchange::~CDataExchange() = default;
+
+void CDataExchange::Keep(std::unique_ptr<CObject> pObject) {
+    m_kept.push_back(std::move(pObject));
+}
+
 HWND CDataExchange::PrepareCtrl(int nIDC) {
     HWND hWnd = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
     if (hWnd == nullptr) AfxThrowNotSupportedException();

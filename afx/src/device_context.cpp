@@ -82,14 +82,6 @@ void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
     FillSolidRect(&rect, clr);
 }
 
-BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str) {
-    return ::ExtTextOutA(m_hDC, x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), nullptr);
-}
-
-int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-    return ::DrawTextA(m_hDC, str, str.GetLength(), lpRect, nFormat);
-}
-
 CSize CDC::GetTextExtent(const CString& str) const {
     CSize size;
     ::GetTextExtentPoint32A(m_hAttribDC, str, str.GetLength(), &size);

@@ -62,7 +62,12 @@ void CDialog::EndDialog(int nResult) {
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     SendMessageToDescendants(WM_INITIALUPDATE);
-    return OnInitDialog();
+    try {
+        return OnInitDialog();
+    } catch (...) {
+        EndDialog(-1); // no half of a dialog comes up
+        throw;
+    }
 }
 
 BOOL CDialog::OnInitDialog() {

@@ -72,9 +72,10 @@ private:
     std::size_t m_left;
 };
 
-AfxDialogTemplate::AfxDialogTemplate(LPCSTR lpszName) : m_module(nullptr), m_data(nullptr), m_size(0) {
+AfxDialogTemplate::AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule)
+    : m_module(hModule), m_data(nullptr), m_size(0) {
     LPCSTR type = reinterpret_cast<LPCSTR>(RT_DIALOG);
-    m_module = AfxFindResourceHandle(lpszName, type);
+    if (m_module == nullptr) m_module = AfxFindResourceHandle(lpszName, type);
     HRSRC resource = ::FindResourceA(m_module, lpszName, type);
     HGLOBAL loaded = resource != nullptr ? ::LoadResource(m_module, resource) : nullptr;
     m_data = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;

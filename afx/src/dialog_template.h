@@ -7,8 +7,8 @@
 
 class AfxDialogTemplate {
 public:
-    // lpszName: a number below 0x10000, or a name.
-    explicit AfxDialogTemplate(LPCSTR lpszName);
+    // lpszName: a number below 0x10000, or a name. Without a module it is searched along the chain.
+    explicit AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule = nullptr);
 
     bool IsFound() const { return m_size != 0; }
     HINSTANCE Module() const { return m_module; }

@@ -7,6 +7,23 @@ IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 CFrameWnd::CFrameWnd() : m_hAccelTable(nullptr) {}
 CFrameWnd::~CFrameWnd() = default;
 
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+
+BOOL CFrameWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                       CWnd* pParentWnd, LPCSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext) {
+    HMENU menu = nullptr;
+    if (lpszMenuName != nullptr) {
+        menu =
+            ::LoadMenuA(AfxFindResourceHandle(lpszMenuName, reinterpret_cast<LPCSTR>(RT_MENU)), lpszMenuName);
+        if (menu == nullptr) return FALSE;
+    }
+    const bool chosen = ::EqualRect(&rect, &rectDefault);
+    return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                    chosen ? CW_USEDEFAULT : rect.right - rect.left,
+                    chosen ? CW_USEDEFAULT : rect.bottom - rect.top,
+                    pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu, pContext);
+}
+
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd) {
     LPCSTR name = MAKEINTRESOURCEA(nIDResource);
     HICON icon = ::LoadIconA(AfxFindResourceHandle(name, reinterpret_cast<LPCSTR>(RT_GROUP_ICON)), name);

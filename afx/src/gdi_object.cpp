@@ -71,9 +71,6 @@ CFont::~CFont() = default;
 CFont* CFont::FromHandle(HFONT hFont) {
     return TempOver<CFont>(hFont);
 }
-BOOL CFont::CreateFontIndirect(const LOGFONTA* lpLogFont) {
-    return Attach(::CreateFontIndirectA(lpLogFont));
-}
 int CFont::GetLogFont(LOGFONTA* pLogFont) const {
     return GetObject(static_cast<int>(sizeof *pLogFont), pLogFont);
 }
@@ -83,7 +80,7 @@ CBitmap::~CBitmap() = default;
 CBitmap* CBitmap::FromHandle(HBITMAP hBitmap) {
     return TempOver<CBitmap>(hBitmap);
 }
-BOOL CBitmap::LoadBitmap(UINT nIDResource) {
+BOOL CBitmap::AttachResource(UINT nIDResource) {
     LPCSTR name = MAKEINTRESOURCEA(nIDResource);
     return Attach(::LoadBitmapA(AfxFindResourceHandle(name, reinterpret_cast<LPCSTR>(RT_BITMAP)), name));
 }

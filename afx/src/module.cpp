@@ -63,7 +63,7 @@ int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf) {
     return length;
 }
 
-BOOL CString::LoadString(UINT nID) {
+BOOL CString::ReadResource(UINT nID) {
     // Strings of a resource have no length to ask for: a full buffer asks for a larger one.
     int length = 0;
     int room = 256;

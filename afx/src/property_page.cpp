@@ -16,7 +16,8 @@ CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption)
     : CPropertyPage(MAKEINTRESOURCEA(nIDTemplate), nIDCaption) {}
 
 CPropertyPage::CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption)
-    : CDialog(lpszTemplateName), m_bChanged(FALSE), m_pSheet(nullptr), m_nIDCaption(nIDCaption) {}
+    : CDialog(lpszTemplateName), m_bChanged(FALSE), m_hTemplateModule(nullptr), m_pSheet(nullptr),
+      m_nIDCaption(nIDCaption) {}
 
 CPropertyPage::~CPropertyPage() {
     if (m_pSheet != nullptr) m_pSheet->RemovePage(this);
@@ -52,14 +53,15 @@ void CPropertyPage::OnClose() {
 CString CPropertyPage::GetTabText() const {
     CString text;
     if (m_nIDCaption != 0) text.LoadString(m_nIDCaption);
-    return text.IsEmpty() ? AfxDialogTemplate(m_lpszTemplateName).Title() : text;
+    return text.IsEmpty() ? AfxDialogTemplate(m_lpszTemplateName, m_hTemplateModule).Title() : text;
 }
 
 BOOL CPropertyPage::CreatePageWindow() {
-    const AfxDialogTemplate dialog(m_lpszTemplateName);
+    const AfxDialogTemplate dialog(m_lpszTemplateName, m_hTemplateModule);
     if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
     const std::vector<BYTE> page = dialog.AsPage();
     const AfxWindowCreation creation(this);
-    return ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
-                                        m_pSheet->m_hWnd, AfxDialogProc, 0) != nullptr;
+    ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
+                                 m_pSheet->m_hWnd, AfxDialogProc, 0);
+    return m_hWnd != nullptr; // null too if OnInitDialog has given the window up
 }

@@ -90,9 +90,10 @@ bool CPropertySheet::BeginCreate() {
     return true;
 }
 
-int CPropertySheet::OnCreate(LPCREATESTRUCT) {
+int CPropertySheet::OnCreate(LPCREATESTRUCTA) {
     if (!BeginCreate()) return -1;
-    const LOGFONTA font = AfxDialogTemplate(GetActivePage()->m_lpszTemplateName).Font();
+    const LOGFONTA font =
+        AfxDialogTemplate(GetActivePage()->m_lpszTemplateName, GetActivePage()->m_hTemplateModule).Font();
     m_font.DeleteObject();
     m_font.CreateFontIndirect(&font);
     if (!m_bModeless && !CreateButtons()) return -1;
@@ -101,7 +102,7 @@ int CPropertySheet::OnCreate(LPCREATESTRUCT) {
     // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
     const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
     if (!CreateTabRow(style, nowhere, AFX_IDC_TAB_CONTROL)) return -1;
-    if (!ActivatePage(m_nCurPage)) return -1;
+    if (!ActivateFirstPage()) return -1;
     MeasureUnits();
     return 0;
 }
@@ -188,6 +189,15 @@ bool CPropertySheet::ActivatePage(int nPage) {
     return true;
 }
 
+// The first page shown, or the next one behind it whose window can be made.
+bool CPropertySheet::ActivateFirstPage() {
+    const int first = m_nCurPage;
+    for (int i = 0; i < GetPageCount(); ++i) {
+        if (ActivatePage((first + i) % GetPageCount())) return true;
+    }
+    return false;
+}
+
 bool CPropertySheet::ShowPage(int nPage, const CRect& place) {
     CPropertyPage* page = GetPage(nPage);
     m_nCurPage = nPage;
@@ -220,6 +230,9 @@ void CPropertySheet::FocusActivePage() {
     const CPropertyPage* page = GetActivePage();
     if (page == nullptr || page->m_hWnd == nullptr) return;
     HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
+    const bool takes = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
+    // Without a control for it the focus goes to the tabs: in the page before, it would take keys unseen.
+    if (!takes && m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible()) first = m_tabRow.m_hWnd;
     if (first != nullptr && first != ::GetFocus()) {
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
     }
@@ -273,6 +286,8 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->hwndFrom != m_tabRow.m_hWnd) return CWnd::OnNotify(wParam, lParam, pResult);
     if (header->code == static_cast<UINT>(TCN_SELCHANGING)) {
         *pResult = !LeaveFor(-1); // TRUE keeps the tab
+        // Wine's row goes on to the next tab all the same if it was a key: it comes back when that is done.
+        if (*pResult) m_tabRow.PostMessage(TCM_SETCURSEL, static_cast<WPARAM>(m_nCurPage));
         return TRUE;
     }
     if (header->code == static_cast<UINT>(TCN_SELCHANGE)) {

@@ -7,6 +7,7 @@ IMPLEMENT_DYNAMIC(CTabRow, CTabCtrl)
 BEGIN_MESSAGE_MAP(CTabRow, CTabCtrl)
 ON_WM_WINDOWPOSCHANGING()
 ON_WM_SIZE()
+ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
 CTabRow::CTabRow() = default;
@@ -29,4 +30,10 @@ void CTabRow::OnSize(UINT, int cx, int cy) {
     Default();
     // Another width can have made another number of rows.
     if (cy != GetHeight()) SetWindowPos(nullptr, 0, 0, cx, 0, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// A click brings the focus here past the dialog's own rules: a push button that had it would stay the default.
+void CTabRow::OnSetFocus(CWnd*) {
+    Default();
+    GetParent()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(m_hWnd), TRUE);
 }

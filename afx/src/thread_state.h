@@ -5,6 +5,7 @@
 
 #include <afxapp.h>
 
+#include <set>
 #include <unordered_map>
 
 struct AfxThreadState {
@@ -16,6 +17,7 @@ struct AfxThreadState {
     HHOOK createHook = nullptr;
     CWinThread* thread = nullptr;
     bool reporting = false;      // an exception's message box is up
+    std::set<HWND> paintFailures; // windows that have reported an exception of their painting
     HWND lastMeasured = nullptr; // the control whose row was last asked for
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;

@@ -88,7 +88,7 @@ BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, co
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
                     int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
-    CREATESTRUCT cs;
+    CREATESTRUCTA cs;
     cs.dwExStyle = dwExStyle;
     cs.lpszClass = lpszClassName;
     cs.lpszName = lpszWindowName;
@@ -111,7 +111,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
                              cs.lpCreateParams) != nullptr;
 }
 
-BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
+BOOL CWnd::PreCreateWindow(CREATESTRUCTA& cs) {
     if (cs.lpszClass == nullptr)
         cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW));
     return TRUE;
@@ -140,6 +140,7 @@ void CWnd::OnNcDestroy() {
     }
     if (m_modal == Modal::running) EndModalLoop(-1);
     Default();
+    state.paintFailures.erase(m_hWnd);
     Detach();
     m_pfnSuper = nullptr;
     PostNcDestroy();
@@ -202,12 +203,6 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
 }
 
 // ---- Text and style
-
-void CWnd::GetWindowText(CString& rString) const {
-    const int length = GetWindowTextLength();
-    ::GetWindowTextA(m_hWnd, rString.GetBufferSetLength(length), length + 1);
-    rString.ReleaseBuffer();
-}
 
 BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     const DWORD before = GetStyle();
@@ -306,7 +301,7 @@ CFrameWnd* CWnd::GetTopLevelFrame() const {
     return frame;
 }
 
-int CWnd::MessageBox(LPCSTR lpszText, LPCSTR lpszCaption, UINT nType) {
+int CWnd::ShowMessage(LPCSTR lpszText, LPCSTR lpszCaption, UINT nType) {
     return ::MessageBoxA(m_hWnd, lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(), nType);
 }
 

@@ -62,7 +62,7 @@ LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l
     case AfxSig_lwl:
         return CallForResult<LRESULT, WPARAM, LPARAM>(wnd, pfn, w, l);
     case AfxSig_is:
-        return CallForResult<int, LPCREATESTRUCT>(wnd, pfn, RecordOf<CREATESTRUCT>(l));
+        return CallForResult<int, LPCREATESTRUCTA>(wnd, pfn, RecordOf<CREATESTRUCTA>(l));
     case AfxSig_vwii:
         return Call<UINT, int, int>(wnd, pfn, flags, low, high);
     case AfxSig_vwp:
@@ -190,10 +190,10 @@ void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct) {
     if (!NotifyChild(lpDeleteItemStruct->hwndItem, &result)) Default();
 }
 
-int CWnd::OnCreate(LPCREATESTRUCT) {
+int CWnd::OnCreate(LPCREATESTRUCTA) {
     return static_cast<int>(Default());
 }
-int CWnd::OnNcCreate(LPCREATESTRUCT) {
+int CWnd::OnNcCreate(LPCREATESTRUCTA) {
     return static_cast<int>(Default());
 }
 void CWnd::OnDestroy() {

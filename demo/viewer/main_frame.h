@@ -28,9 +28,9 @@ public:
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL PreCreateWindow(CREATESTRUCTA& cs) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg int OnCreate(LPCREATESTRUCTA create);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* before);

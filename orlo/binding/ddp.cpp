@@ -2,9 +2,11 @@
 
 #include "orlo/binding/ddp.h"
 
+#include <exception>
 #include <memory>
 
 #include "orlo/binding/ddp_record.h"
+#include "orlo/binding/write_outcome.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/graphic.h"
@@ -19,9 +21,22 @@ void Forgetting(CDataExchange* pDX, int nID, void* pMember, const char* pszPropN
     End(pDX, nID, static_cast<T*>(pMember), pszPropName);
 }
 
+// Goes with an exchange, and takes along what it leaves pending: its members may have been local variables.
+class PendingWritesEnd : public CObject {
+public:
+    explicit PendingWritesEnd(CMapWordToOb& records) : m_records(records) {}
+    ~PendingWritesEnd() override { delete TakeRecords(m_records); }
+
+private:
+    CMapWordToOb& m_records;
+};
+
 void LayIfDirty(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName, DDPEnd pfnEnd) {
     CGraphicPropertyPage* page = PageOf(pDX);
-    if (page->GetControlStatus(nID)) LayRecord(page->GetPendingWrites(), new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
+    if (!page->GetControlStatus(nID)) return;
+    CMapWordToOb& records = page->GetPendingWrites();
+    if (records.IsEmpty()) pDX->Keep(std::make_unique<PendingWritesEnd>(records));
+    LayRecord(records, new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
 }
 
 // load(page) merges the property into the member.
@@ -94,25 +109,40 @@ private:
 };
 
 // What a host throws out of one write stays with that write: the other properties are written all the same.
-void CarryOut(const CDDPRecord& record, CDataExchange* pDX) {
+void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcome) {
     try {
         record.m_pfnEnd(pDX, record.m_nID, record.m_pMember, record.m_pszPropName);
     } catch (CException* exception) {
         exception->Delete();
+    } catch (const std::exception& exception) {
+        outcome.AddFailure(exception.what());
     } catch (...) {
+        outcome.AddFailure("");
     }
 }
 
-// Not GetFirstObject: this walk leaves the preview mark alone.
-void StampSelection(CGraphicPropertyPage* page) {
+// Gives the number of selected graphics. Not GetFirstObject: this walk leaves the preview mark alone.
+int StampSelection(CGraphicPropertyPage* page) {
     CGraphicPropertySheet* sheet = page->GetSheet();
     auto* set = sheet != nullptr ? static_cast<GraphicStruct*>(sheet->GetGraphics()) : nullptr;
-    if (set == nullptr) return;
+    if (set == nullptr) return 0;
     const uint32_t filter = sheet->GetGraphicFlags();
     uint32_t position = 0;
+    int count = 0;
     for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, filter); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, filter))
+         graphic = ::GraphicNext(set, &position, 1, filter)) {
         graphic->wLastPage = LOWORD(page->GetTemplateNumber());
+        ++count;
+    }
+    return count;
+}
+
+int WriteBack(CDataExchange* pDX, CGraphicPropertyPage* page, WriteOutcome& outcome) {
+    const WaitCursor wait(page);
+    const std::unique_ptr<CDDPRecord> records(TakeRecords(page->GetPendingWrites()));
+    for (const CDDPRecord* record = records.get(); record != nullptr; record = record->m_pNext)
+        CarryOut(*record, pDX, outcome);
+    return StampSelection(page);
 }
 
 } // namespace
@@ -120,8 +150,6 @@ void StampSelection(CGraphicPropertyPage* page) {
 void DDP_PostProcessing(CDataExchange* pDX) {
     if (!pDX->m_bSaveAndValidate) return;
     CGraphicPropertyPage* page = PageOf(pDX);
-    const WaitCursor wait(page);
-    const std::unique_ptr<CDDPRecord> records(TakeRecords(page->GetPendingWrites()));
-    for (const CDDPRecord* record = records.get(); record != nullptr; record = record->m_pNext) CarryOut(*record, pDX);
-    StampSelection(page);
+    WriteOutcome outcome(page);
+    outcome.Report(WriteBack(pDX, page, outcome));
 }

@@ -52,5 +52,7 @@ ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, int* pMember, const char
 ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 ORLO_API void DDP_EndBits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
-// Saving: carries out the records, drops what they throw, and stamps every selected graphic with the page's number.
+// Saving: carries out the records and stamps every selected graphic with the page's number. What a write throws ends that
+// property, not the others; a CException is dropped. Afterwards one message box says how many of the graphics did not take
+// a value (PropSet gave 0, or threw), and what else was thrown.
 ORLO_API void DDP_PostProcessing(CDataExchange* pDX);

@@ -4,6 +4,7 @@
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/binding/object_set.h"
+#include "orlo/binding/write_outcome.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/memory.h"
@@ -19,7 +20,7 @@ struct Property {
     int32_t number;
 
     void Get(int vt, void* value) const { table->PropGet(graphic, number, vt, value); }
-    void Set(int vt, const void* value) const { table->PropSet(graphic, number, vt, value); }
+    int Set(int vt, const void* value) const { return table->PropSet(graphic, number, vt, value); }
 };
 
 // Calls visit(Property) for each graphic of the set that has the property, until it gives false.
@@ -79,13 +80,45 @@ int Merge(const ObjectSet& set, const char* name, typename Type::Member* member)
     });
 }
 
-template <class Type>
-int Write(const ObjectSet& set, const char* name, const typename Type::Member& value) {
-    if (IsIndeterminate(value)) return 0;
-    return ForEachProperty(set, name, [&](const Property& property) {
-        property.Set(Type::vt, &value);
+// The set that a write goes to, and who wants to know what of it the host did not take.
+struct WriteTarget {
+    WriteTarget(CGraphicPropertySheet* sheet, int bPreview, WriteOutcome* selectionOutcome)
+        : set(sheet, bPreview), outcome(bPreview ? nullptr : selectionOutcome) {}
+
+    ObjectSet set;
+    WriteOutcome* outcome; // null: nobody
+};
+
+// After a write that threw at the graphic behind last (null: at the first): that one and all further ones are unchanged.
+void AddRest(const WriteTarget& target, const char* name, const GraphicStruct* last) {
+    bool behind = last == nullptr;
+    ForEachProperty(target.set, name, [&](const Property& property) {
+        if (behind) target.outcome->AddUnchanged(property.graphic);
+        behind = behind || property.graphic == last;
         return true;
     });
+}
+
+// write(Property) gives what PropSet gave.
+template <class WriteOne>
+int WriteEach(const WriteTarget& target, const char* name, WriteOne write) {
+    const GraphicStruct* last = nullptr;
+    try {
+        return ForEachProperty(target.set, name, [&](const Property& property) {
+            if (!write(property) && target.outcome != nullptr) target.outcome->AddUnchanged(property.graphic);
+            last = property.graphic;
+            return true;
+        });
+    } catch (...) {
+        if (target.outcome != nullptr) AddRest(target, name, last);
+        throw;
+    }
+}
+
+template <class Type>
+int Write(const WriteTarget& target, const char* name, const typename Type::Member& value) {
+    if (IsIndeterminate(value)) return 0;
+    return WriteEach(target, name, [&](const Property& property) { return property.Set(Type::vt, &value); });
 }
 
 // A string of the host's, given back at the end of the walk whatever ends it.
@@ -123,10 +156,10 @@ void* CGraphicPropertyPage::GetNextObject(void* pPos, int bPreview) { return Obj
         return Merge<Type>(ObjectSet(GetSheet(), bPreview), pszPropName, pValue);                                     \
     }
 
-#define ORLO_TEXT_ACCESS(Member, Type)                                                                                 \
-    ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                           \
-    int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {                      \
-        return Write<Type>(ObjectSet(GetSheet(), bPreview), pszPropName, value);                                      \
+#define ORLO_TEXT_ACCESS(Member, Type)                                                                       \
+    ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                 \
+    int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {            \
+        return Write<Type>(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName, value);               \
     }
 
 using UI1 = Plain<unsigned char, VT_UI1>;
@@ -171,31 +204,27 @@ int CGraphicPropertyPage::GetPropText(const char* pszPropName, CString* pValue, 
 int CGraphicPropertyPage::SetPropText(const char* pszPropName, CString& value, int bPreview) {
     if (IsIndeterminate(value)) return 0;
     const char* text = value;
-    return ForEachProperty(ObjectSet(GetSheet(), bPreview), pszPropName, [text](const Property& property) {
-        property.Set(VT_BSTR, text);
-        return true;
-    });
+    return WriteEach(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName,
+                     [text](const Property& property) { return property.Set(VT_BSTR, text); });
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, int value, int bPreview) {
     if (value > 1) return 0;
     const int checked = value == 1;
-    return ForEachProperty(ObjectSet(GetSheet(), bPreview), pszPropName, [&](const Property& property) {
-        property.Set(VT_BOOL, &checked);
-        return true;
-    });
+    return WriteEach(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName,
+                     [&](const Property& property) { return property.Set(VT_BOOL, &checked); });
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, unsigned short value, int bPreview) {
-    return Write<UI2>(ObjectSet(GetSheet(), bPreview), pszPropName, value);
+    return Write<UI2>(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, int value, int bPreview) {
-    return Write<I4>(ObjectSet(GetSheet(), bPreview), pszPropName, value);
+    return Write<I4>(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, unsigned short value, int bPreview) {
-    return Write<UI2>(ObjectSet(GetSheet(), bPreview), pszPropName, value);
+    return Write<UI2>(WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::GetPropIndex(const char* pszPropName, int* pValue, int bPreview) {
@@ -225,11 +254,11 @@ int CGraphicPropertyPage::GetPropBits(const char* pszPropName, unsigned short* p
 
 int CGraphicPropertyPage::SetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview) {
     const unsigned short mask = pPair[0], bits = pPair[1];
-    return ForEachProperty(ObjectSet(GetSheet(), bPreview), pszPropName, [&](const Property& property) {
-        unsigned short own = 0;
-        if (mask != 0) property.Get(VT_UI2, &own);
-        const unsigned short value = static_cast<unsigned short>((bits & ~mask) | (own & mask));
-        property.Set(VT_UI2, &value);
-        return true;
-    });
+    return WriteEach(
+        WriteTarget(GetSheet(), bPreview, m_pOutcome), pszPropName, [&](const Property& property) {
+            unsigned short own = 0;
+            if (mask != 0) property.Get(VT_UI2, &own);
+            const unsigned short value = static_cast<unsigned short>((bits & ~mask) | (own & mask));
+            return property.Set(VT_UI2, &value);
+        });
 }

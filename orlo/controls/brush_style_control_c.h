@@ -22,7 +22,7 @@ public:
 
 protected:
     CBrushStyleControlC(HWND hWnd);
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
     // Made with the window; a control that subclasses a window makes them when it is filled.
     SampleGraphic m_pGraphic;

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D18;
+constexpr unsigned int kKind = kControlBrushStyleList;
 constexpr int kHeight = 136;     // of the list
 constexpr LONG kRowPercent = 30; // of the client width
 

@@ -8,6 +8,7 @@
 #include "orlo/controls/paint.h"
 #include "orlo/controls/screen_scale.h"
 #include "orlo/controls/text_height.h"
+#include "orlo/resources/library_text.h"
 
 namespace {
 
@@ -24,8 +25,7 @@ OwnedGdi<HBITMAP>& CheckPicture() {
 void LoadCheckPicture() {
     constexpr char kName[] = "W95CHECK";
     OwnedGdi<HBITMAP>& picture = CheckPicture();
-    if (!picture)
-        picture.reset(::LoadBitmapA(AfxFindResourceHandle(kName, MAKEINTRESOURCEA(2)), kName)); // RT_BITMAP
+    if (!picture) picture.reset(::LoadBitmapA(LibraryModule(), kName));
 }
 
 int BoxMargin() {

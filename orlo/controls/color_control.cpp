@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D05;
+constexpr unsigned int kKind = kControlColors;
 constexpr DWORD kNoValue = 0xFFFFFFFE;
 constexpr DWORD kSeveralValues = 0xFFFFFFFF;
 constexpr DWORD kHiddenEntry = 0xFFFFFFFC;

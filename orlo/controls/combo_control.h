@@ -23,6 +23,7 @@
 #include "orlo/binding/fuzzy.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
+#include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
 // WM_COMMAND to the top-level frame, else to the thread's main window; without either nobody is told. The low
@@ -83,7 +84,7 @@ protected:
     }
 
     afx_msg void OnDestroy();
-    afx_msg int OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnNcCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg LRESULT OnFillMessage(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);

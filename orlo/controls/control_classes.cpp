@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr char kComboClass[] = "QXComboBox", kListClass[] = "QXListBox";
+
 // Hands a window over to the framework with the first message that it gets. Without an object the framework
 // goes on with the procedure registered for the class: the system's.
 LRESULT HandOver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -33,11 +35,12 @@ int RegisterControlClass(HINSTANCE module, const char* systemName, const char* n
     systemProc = windowClass.lpfnWndProc;
 
     WNDCLASSA present = {};
-    if (::GetClassInfoA(module, name, &present)) return present.lpfnWndProc == first;
+    const bool taken = ::GetClassInfoA(module, name, &present);
+    if (taken && present.lpfnWndProc == first) return 1;
 
     windowClass.lpszClassName = name;
     windowClass.hInstance = module;
-    windowClass.style |= CS_GLOBALCLASS;
+    if (!taken) windowClass.style |= CS_GLOBALCLASS;
     windowClass.lpfnWndProc = first;
     const ATOM atom = ::RegisterClassA(&windowClass);
     if (atom) AfxRegisterSuperWndProc(atom, systemProc);
@@ -47,9 +50,15 @@ int RegisterControlClass(HINSTANCE module, const char* systemName, const char* n
 } // namespace
 
 int RegisterControlClasses(HINSTANCE module) {
-    const int combo = RegisterControlClass(module, "ComboBox", "QXComboBox", ComboFirstMessage,
+    const int combo = RegisterControlClass(module, "ComboBox", kComboClass, ComboFirstMessage,
                                            CComboControl::lpfnSuperWndProc);
-    const int list = RegisterControlClass(module, "ListBox", "QXListBox", ListFirstMessage,
-                                          CListControl::lpfnSuperWndProc);
+    const int list =
+        RegisterControlClass(module, "ListBox", kListClass, ListFirstMessage, CListControl::lpfnSuperWndProc);
     return combo && list;
+}
+
+// The framework keeps the procedure that stands behind the classes: it is the system's, and another copy may need it.
+void UnregisterControlClasses(HINSTANCE module) {
+    ::UnregisterClassA(kComboClass, module);
+    ::UnregisterClassA(kListClass, module);
 }

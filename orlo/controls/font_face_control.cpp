@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D00;
+constexpr unsigned int kKind = kControlFontFaces;
 
 } // namespace
 

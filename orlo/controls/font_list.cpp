@@ -9,6 +9,7 @@
 #include "orlo/controls/pen_width_list.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -74,11 +75,8 @@ void AddSizes(HDC dc, const FontListRequest* request, DistinctItems& items) {
 }
 
 void AddStyles(const ControlItems& items) {
-    for (const UINT id : {IDS_REGULAR, IDS_ITALIC, IDS_BOLD, IDS_BOLD_ITALIC}) {
-        char text[32] = "";
-        AfxLoadString(id, text, sizeof text);
-        items.Add(text);
-    }
+    for (const UINT id : {IDS_REGULAR, IDS_ITALIC, IDS_BOLD, IDS_BOLD_ITALIC})
+        items.Add(LibraryText(id));
 }
 
 } // namespace

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D01;
+constexpr unsigned int kKind = kControlFontSizes;
 constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
 
 float FloatOf(UINT_PTR bits) {

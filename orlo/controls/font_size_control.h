@@ -35,7 +35,7 @@ public:
 
 protected:
     CFontSizeControl(HWND hWnd);
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
     DECLARE_MESSAGE_MAP()
 

@@ -10,11 +10,12 @@
 #include "orlo/controls/text_height.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/table.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D08;
+constexpr unsigned int kKind = kControlLayers;
 constexpr COLORREF kNoColor = 0xFFFFFFFE;
 
 constexpr int kLeastPicture = 16;
@@ -59,8 +60,7 @@ int CLayerControl::OnCreate(LPCREATESTRUCT) {
 }
 
 void CLayerControl::LoadIcons() {
-    const HINSTANCE module =
-        AfxFindResourceHandle(MAKEINTRESOURCEA(IDI_VISIBLE), MAKEINTRESOURCEA(14)); // RT_GROUP_ICON
+    const HINSTANCE module = LibraryModule();
     m_hIconReadOnly = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_READ_ONLY));
     m_hIconVisible = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_VISIBLE));
 }

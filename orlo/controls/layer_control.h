@@ -17,7 +17,7 @@ public:
 
 protected:
     CLayerControl(HWND hWnd);
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
     // Shared icons, which the system keeps. Loaded with the window; a control that subclasses a window loads them when it
     // draws.

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D04;
+constexpr unsigned int kKind = kControlLineStyleCombo;
 
 } // namespace
 

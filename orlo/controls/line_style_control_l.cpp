@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D15;
+constexpr unsigned int kKind = kControlLineStyleList;
 constexpr int kHeight = 136;   // of the list
 constexpr int kRowHeight = 22; // pixels at 96 dpi
 

@@ -7,6 +7,7 @@
 #include "orlo/binding/fuzzy.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
+#include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
 class ORLO_API CListControl : public CListBox {
@@ -51,7 +52,7 @@ protected:
     }
 
     afx_msg void OnDestroy();
-    afx_msg int OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnNcCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg LRESULT OnFillMessage(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr unsigned int kKind = 0x7D0F;
+constexpr unsigned int kKind = kControlStyleNames;
 constexpr int kNameSize = 256;
 
 const char* StyleTreeOf(const GraphicStruct* graphic) {

@@ -3,6 +3,7 @@
 #include "orlo/exchange/failure.h"
 
 #include "orlo/host/units.h"
+#include "orlo/resources/library_text.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ int FailExchange(int bReport, CDataExchange* pDX) {
 }
 
 int FailWithPrompt(int bReport, CDataExchange* pDX, UINT nIDPrompt, UINT nType) {
-    if (bReport) AfxMessageBox(nIDPrompt, nType, static_cast<UINT>(-1));
+    if (bReport) AfxMessageBox(LibraryText(nIDPrompt), nType, static_cast<UINT>(-1));
     return FailExchange(bReport, pDX);
 }
 

@@ -4,6 +4,7 @@
 
 #include <afxext.h>
 
+#include <memory>
 #include <new>
 
 #include "orlo/controls/control_classes.h"
@@ -15,17 +16,33 @@
 #include "orlo/pages/insert_page.h"
 #include "orlo/pages/line_page.h"
 #include "orlo/pages/text_page.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
 
 namespace {
-
-constexpr unsigned int kCaption = 2000;
 
 AFX_EXTENSION_MODULE extensionModule;
 bool initDone = false;
 
+// A built-in page: made from the library's own template, whatever the host has under that number.
+template <class Page>
+class BuiltIn final : public Page {
+public:
+    BuiltIn() {
+        this->m_hTemplateModule = LibraryModule();
+        this->m_bFitControls = 1;
+    }
+};
+
+// The sheet owns its pages from then on.
+void Add(std::unique_ptr<CPropertyPage> page, CGraphicPropertySheet* sheet) {
+    sheet->AddPage(page.get());
+    page.release();
+}
+
 template <class Page>
 void AddPageOnce(CGraphicPropertySheet* sheet, unsigned int nIDTemplate) {
-    if (sheet->FindPage(nIDTemplate) == nullptr) sheet->AddPage(new Page);
+    if (sheet->FindPage(nIDTemplate) == nullptr) Add(std::make_unique<BuiltIn<Page>>(), sheet);
 }
 
 bool TakesPenAndBrush(GraphicStruct* graphic) {
@@ -45,12 +62,16 @@ void AddOwnPages(GraphicStruct* graphic, CGraphicPropertySheet* sheet) {
 
 } // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds) {
     if (reason == DLL_PROCESS_ATTACH) {
         AfxInitExtensionModule(extensionModule, instance);
         RegisterControlClasses(instance);
     } else if (reason == DLL_PROCESS_DETACH) {
         ReleaseSharedFont();
+        if (processEnds == nullptr) { // else the framework may have gone before
+            AfxTermExtensionModule(extensionModule);
+            UnregisterControlClasses(instance);
+        }
     }
     return TRUE;
 }
@@ -63,9 +84,10 @@ extern "C" int PropPageInit() {
 
 extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods, DrawingStruct* pDrawing,
                                                            void* pGraphics, unsigned long dwGraphicFlags) try {
-    auto* sheet = new CGraphicPropertySheet(kCaption, pRegenMethods, pDrawing, pGraphics, dwGraphicFlags, pParentWnd, 0);
-    sheet->AddPage(new CGeneralPage);
-    return sheet;
+    auto sheet = std::make_unique<CGraphicPropertySheet>(IDS_PROPERTIES, pRegenMethods, pDrawing, pGraphics,
+                                                         dwGraphicFlags, pParentWnd, 0);
+    Add(std::make_unique<BuiltIn<CGeneralPage>>(), sheet.get());
+    return sheet.release();
 } catch (const std::bad_alloc&) {
     return nullptr;
 }

@@ -2,12 +2,16 @@
 //
 //   PropPageInit();                                                       // once
 //   CGraphicPropertySheet* sheet =
-//       InitGraphicPropertySheet(frame, regenMethods, drawing, selection, 0xFFFFFFFF);
+//       InitGraphicPropertySheet(frame, regenMethods, drawing, selection, kAllGraphics);
 //   for (each graphic of the selection) AddGraphicPropertyPage(regenMethods, graphic, sheet);
 //   int code = sheet->DoModal();                                          // 1 after OK, IDCANCEL, or a page's end code
 //   delete sheet;                                                         // with its pages and previews
 //
 // All on the user-interface thread. Drawing, selection and regen methods stay the host's and outlive the sheet.
+//
+// The library may be unloaded (FreeLibrary) when its last sheet and its last control are gone, and loaded again. Of two
+// copies in one process each has its own controls in its own pages; templates of other modules that name "QXComboBox" or
+// "QXListBox" get the controls of the copy that was loaded first, and cannot be used once that copy is gone.
 #pragma once
 
 #include <afxwin.h>
@@ -17,7 +21,7 @@
 
 class CGraphicPropertySheet;
 
-// Hooks the library up to the framework, so that its dialogs and texts are found. Always 1.
+// Hooks the library up to the framework, so that its resources are found from outside too. Always 1.
 extern "C" ORLO_API int PropPageInit();
 
 // A sheet with its General page over the members of pGraphics that pass dwGraphicFlags (see GraphicFirst). The caller runs
@@ -27,5 +31,5 @@ extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParen
                                                                     unsigned long dwGraphicFlags);
 
 // Adds the pages that this graphic calls for and the sheet has not got yet, then lets its regen method add its own.
-// 0, or what RegenMethodGetPropPage gave.
+// 0, or what RegenMethodGetPropPage gave; 0 also if there is no memory: the sheet keeps the pages that it has.
 extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet);

@@ -1,5 +1,6 @@
 // The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code, on the
-// application's background.
+// application's background. What the host throws while it draws is the framework's to report, once
+// for each window; where it breaks off, the background stays.
 #pragma once
 
 #include <afxwin.h>

@@ -3,7 +3,6 @@
 
 #include "orlo/frame/graphic_property_page.h"
 
-#include "orlo/binding/ddp_record.h"
 #include "orlo/frame/control_fitting.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/dialog_measure.h"
@@ -18,6 +17,10 @@ namespace {
 constexpr int kPendingWritesBlock = 10;
 constexpr unsigned int kRefreshCommand = 0xFFFF;
 
+GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
+    return graphic->dwFlags & kFlagNoParent ? nullptr : graphic->pParent;
+}
+
 } // namespace
 
 CGraphicPropertyPage::CGraphicPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
@@ -29,11 +32,9 @@ CGraphicPropertyPage::CGraphicPropertyPage(unsigned int nIDTemplate, unsigned in
 
 CGraphicPropertyPage::~CGraphicPropertyPage() {
     if (m_pPreviewGraphic != nullptr) {
-        GraphicStruct* owner = (m_pPreviewGraphic->dwFlags & kFlagNoParent) ? nullptr : m_pPreviewGraphic->pParent;
-        if (owner != nullptr) ::GraphicDelete(owner, m_pPreviewGraphic);
+        if (GraphicStruct* owner = OwnerOf(m_pPreviewGraphic)) ::GraphicDelete(owner, m_pPreviewGraphic);
         ::GraphicDispose(&m_pPreviewGraphic);
     }
-    DiscardPendingWrites();
     if (m_hDialog != nullptr) ::FreeResource(m_hDialog);
     delete[] m_pStatus;
 }
@@ -52,7 +53,7 @@ CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
 
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
-    FitControls(m_hWnd);
+    if (m_bFitControls) FitControls(m_hWnd);
     const BOOL result = COrloPropertyPage::OnInitDialog();
     AddPreviewGraphic();
     m_bInitializing = 0;
@@ -67,6 +68,10 @@ void CGraphicPropertyPage::AddPreviewGraphic() {
     auto* graphic = static_cast<GraphicStruct*>(CreatePreviewGraphic());
     if (graphic == nullptr) return;
     m_pPreviewGraphic = ::GraphicAdd(sheet->GetPreviewGroup(), graphic);
+    if (m_pPreviewGraphic == nullptr) { // no preview then
+        if (OwnerOf(graphic) == nullptr) ::GraphicDispose(&graphic);
+        return;
+    }
     m_pPreviewGraphic->dwFlags |= kFlagPreview;
     for (int i = 0; i < sheet->GetPageCount(); ++i) {
         CPropertyPage* page = sheet->GetPage(i);
@@ -80,11 +85,6 @@ BOOL CGraphicPropertyPage::OnSetActive() {
     BuildStatusTable();
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(0);
     return TRUE;
-}
-
-BOOL CGraphicPropertyPage::OnKillActive() {
-    DiscardPendingWrites();
-    return COrloPropertyPage::OnKillActive();
 }
 
 namespace {
@@ -229,5 +229,3 @@ void CGraphicPropertyPage::SetHelpInfo(const char* lpszDocString, const char* lp
 int CGraphicPropertyPage::MessageBoxA(const char* lpszText, const char* lpszCaption, unsigned int nType) {
     return ::MessageBoxA(nullptr, lpszText, lpszCaption ? lpszCaption : AfxGetAppName(), nType);
 }
-
-void CGraphicPropertyPage::DiscardPendingWrites() { delete TakeRecords(m_mapDDP); }

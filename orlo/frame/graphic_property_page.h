@@ -35,8 +35,6 @@ public:
     BOOL OnInitDialog() override;
     // Every activation begins with all controls clean.
     BOOL OnSetActive() override;
-    // Drops the writes that a refused exchange has left pending, then leaves the page as its base does.
-    BOOL OnKillActive() override;
 
     // Draws this page's preview graphic into rect (device pixels) of a CGraphicPreview's viewport; nothing without one.
     virtual void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
@@ -127,6 +125,10 @@ protected:
     unsigned long m_dwHelpContext;
     int m_bRefreshPending; // the next refresh command reloads the controls
     int m_bInitializing;   // notifications of controls are ignored
+    // Set by a page's constructor: OnInitDialog takes the tab stops from labels and fits the widths of controls to the page and
+    // to the resolution of the screen, as the templates of the library need it. Else a page's controls stay as its template has
+    // them.
+    int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;
     CWordArray m_IDArray;
@@ -138,5 +140,7 @@ private:
     void AddPreviewGraphic();
     bool IsIgnored(unsigned int nID) const;
     unsigned long ChangeFlags(unsigned int nID, unsigned int code, HWND control);
-    void DiscardPendingWrites();
+
+    friend class WriteOutcome;
+    class WriteOutcome* m_pOutcome = nullptr; // of the write-back that is going on
 };

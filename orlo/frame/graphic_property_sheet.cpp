@@ -3,6 +3,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/resources/library_text.h"
 
 IMPLEMENT_DYNAMIC(CGraphicPropertySheet, COrloPropertySheet)
 
@@ -18,10 +19,11 @@ constexpr unsigned int kPreviewId = 3999;
 
 } // namespace
 
-CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
-                                             void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
+CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods,
+                                             DrawingStruct* pDrawing, void* pGraphics,
+                                             unsigned long dwGraphicFlags, CWnd* pParentWnd,
                                              unsigned int iSelectPage)
-    : COrloPropertySheet(nIDCaption, pParentWnd, iSelectPage) {
+    : COrloPropertySheet(LibraryText(nIDCaption), pParentWnd, iSelectPage) {
     m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};
     m_bHasApply = FALSE;
 }

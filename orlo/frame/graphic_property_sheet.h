@@ -24,8 +24,9 @@ struct GraphicSheetData {
 class CGraphicPropertySheet : public COrloPropertySheet {
 public:
     ORLO_API static CRuntimeClass classCGraphicPropertySheet;
-    CRuntimeClass* GetRuntimeClass() const override;
+    ORLO_API CRuntimeClass* GetRuntimeClass() const override;
 
+    // nIDCaption: a text of the library.
     CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing, void* pGraphics,
                           unsigned long dwGraphicFlags, CWnd* pParentWnd, unsigned int iSelectPage);
     ~CGraphicPropertySheet() override;
@@ -59,12 +60,12 @@ protected:
     ORLO_API int CreatePreviewRect();
     ORLO_API void DeletePages();
 
-    int OnCreate(CREATESTRUCT* lpCreateStruct);
+    int OnCreate(CREATESTRUCTA* lpCreateStruct);
     void OnPaint();
     void OnOK();
 
     ORLO_API static const AFX_MSGMAP messageMap;
-    const AFX_MSGMAP* GetMessageMap() const override;
+    ORLO_API const AFX_MSGMAP* GetMessageMap() const override;
 
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();

@@ -26,7 +26,7 @@ protected:
     // A derived sheet's record; who sets it frees it.
     GraphicSheetData* m_pSheetData;
 
-    int OnNcCreate(CREATESTRUCT*);
+    int OnNcCreate(CREATESTRUCTA*);
     void OnHelp();
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
 

@@ -18,7 +18,8 @@ DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct*, int reserved1, int res
 DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
 DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
 
-// Makes child a part of parent, which then owns it; gives the child. GraphicDelete takes it out again.
+// Makes child a part of parent, which then owns it; gives the child, or null if it was not taken. GraphicDelete takes it out
+// again.
 DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
 DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
 

@@ -17,6 +17,8 @@
 //   matrix.h       transformations
 //   regen.h        regen methods
 //   memory.h       blocks and strings that cross the boundary
+//   picture.h      pictures in memory
+//   strings.h      texts of the host
 //
 // In C++, header only: owners.h, walk.h and property.h.
 //
@@ -31,6 +33,7 @@
 #include "orlo/host/layer.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
+#include "orlo/host/picture.h"
 #include "orlo/host/records.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/strings.h"

@@ -76,8 +76,16 @@ static_assert(offsetof(VertexStruct, x) == 0x18);
 static_assert(offsetof(VertexStruct, y) == 0x20);
 static_assert(offsetof(VertexStruct, z) == 0x28);
 
-// Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only.
-// Value types are the OLE Automation variant type numbers; see orlo/binding/property_access.h for the forms.
+// Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only. PropSet gives 0 if the
+// graphic does not take the value; the user is then told how many graphics could not be changed.
+//
+// Value types are the OLE Automation variant type numbers. PropGet fills, and PropSet gets a pointer to:
+//   3, 0x13     32 bits
+//   4, 5        float, double
+//   0x0B        PropGet 16 bits, PropSet a 32-bit 0 or 1
+//   0x11, 0x12  8, 16 bits
+//   8           PropGet a char* variable with a string of the host's making, given back by BStringNULL; PropSet gets the
+//               text itself
 struct PropertyTable {
     void* slot0; // not used by the library
     int (*PropLookup)(GraphicStruct*, const char* const* ppszName, int count, int reserved, int32_t* pNumber);

@@ -17,6 +17,7 @@
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
+#include "orlo/controls/control_kind.h"
 #include "orlo/controls/enter_edit.h"
 #include "orlo/controls/font_face_control.h"
 #include "orlo/controls/font_list.h"

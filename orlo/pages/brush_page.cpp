@@ -23,6 +23,7 @@
 #include "orlo/pages/passed_over.h"
 #include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
@@ -251,8 +252,7 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
         return;
     }
     const unsigned short flags = ::BrushStyleGetFlags(m_pBrushStyles, static_cast<uint16_t>(style));
-    CString kind;
-    kind.LoadString(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
+    const CString kind = LibraryText(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
     ::SetDlgItemTextA(m_hWnd, kStyleKindText, kind);
     EnableHatchControls(style, flags);
 }

@@ -34,6 +34,9 @@
 #define IDS_ENTER_POSITIVE 122
 #define IDS_ENTER_SCALE 123
 
+// What a host has not written: %d of %d graphics.
+#define IDS_NOT_CHANGED 124
+
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 

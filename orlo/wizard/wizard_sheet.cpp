@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -171,7 +172,7 @@ int CWizardSheet::CreateButtons() {
 }
 
 int CWizardSheet::LoadButtonText(UINT nID, char* pszBuffer) {
-    if (AfxLoadString(nID, pszBuffer, kTextSize) == 0) return 0;
+    if (LoadLibraryText(nID, pszBuffer, kTextSize) == 0) return 0;
     pszBuffer[std::strcspn(pszBuffer, "\n")] = '\0';
     return pszBuffer[0] != '\0';
 }
@@ -180,7 +181,7 @@ int CWizardSheet::LoadButtonText(UINT nID, char* pszBuffer) {
 
 int CWizardSheet::ButtonWidth(UINT nIDText) {
     char text[kTextSize];
-    const char* feed = AfxLoadString(nIDText, text, kTextSize) != 0 ? std::strchr(text, '\n') : nullptr;
+    const char* feed = LoadLibraryText(nIDText, text, kTextSize) != 0 ? std::strchr(text, '\n') : nullptr;
     if (feed == nullptr) return m_sizeButton.cx;
     CRect width(0, 0, std::atoi(feed + 1), 0);
     ::MapDialogRect(GetActivePage()->m_hWnd, &width);

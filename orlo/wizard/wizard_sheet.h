@@ -51,7 +51,7 @@ protected:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    afx_msg int OnCreate(CREATESTRUCT* pCreateStruct);
+    afx_msg int OnCreate(CREATESTRUCTA* pCreateStruct);
     afx_msg void OnBack();
     afx_msg void OnNext();
     afx_msg void OnEnter();

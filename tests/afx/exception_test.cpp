@@ -62,16 +62,22 @@ TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
     EXPECT_EQ(nullptr, window.m_hWnd);
 }
 
-TEST(HandlerThatThrows, WhilePaintingDoesNotPaintForEver) {
-    CThrower window;
-    ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr));
-    window.thrower = [] { AfxThrowNotSupportedException(); };
-    window.when = WM_PAINT;
-    MessageBoxWatcher boxes;
-    window.Invalidate();
-    window.UpdateWindow();
-    EXPECT_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
-    EXPECT_FALSE(boxes.OnlyText().empty());
+TEST(HandlerThatThrows, WhilePaintingIsReportedOnceForEachWindow) {
+    for (const UINT painting : {WM_PAINT, WM_DRAWITEM}) {
+        CThrower window;
+        ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr));
+        window.thrower = [] { AfxThrowNotSupportedException(); };
+        window.when = painting;
+        MessageBoxWatcher boxes;
+        DRAWITEMSTRUCT item = {};
+        for (int i = 0; i < 3; ++i) {
+            window.Invalidate();
+            window.UpdateWindow();
+            window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+        }
+        EXPECT_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
+        EXPECT_EQ("This is not possible here.", boxes.OnlyText());
+    }
 }
 
 TEST(Exception, TextsAreCutToTheirRoom) {

@@ -189,10 +189,12 @@ TEST_F(Sheet, APageThatDoesNotOpenLeavesTheOneBefore) {
     EXPECT_EQ("aikac", first.log) << "active again";
 }
 
-TEST_F(Sheet, ThatHasNoPageToOpenFails) {
+TEST_F(Sheet, OpensOnTheFirstPageThatOpensAndFailsWithoutOne) {
     CPropertySheet empty("Empty");
     EXPECT_EQ(-1, empty.DoModal());
     first.opens = false;
+    Run([](SheetDriver& user) { EXPECT_EQ(1, user.ActivePage()); });
+    second.opens = tall.opens = false;
     EXPECT_EQ(-1, sheet.DoModal());
     EXPECT_EQ(nullptr, sheet.m_hWnd);
 }

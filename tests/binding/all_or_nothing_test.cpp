@@ -109,36 +109,56 @@ TEST(AllOrNothing, OnlyDirtyControlsAreWritten) {
     EXPECT_EQ(3, kit[1].Number("Scale"));
 }
 
-struct Thrown {
+struct Refusal {
     const char* name;
-    std::function<void(const std::string&)> onSet;
+    std::function<void(const std::string&)> onSet; // of the second graphic; else it gives 0
+    int arrived;                                   // of three graphics have the width
+    const char* said;
 };
 
-TEST(WriteBack, WhatAHostThrowsStaysWithItsProperty) {
-    const Thrown kThrown[] = {
-        {"framework exception", [](const std::string& name) {
-             if (name == "Width") AfxThrowUserException();
-         }},
-        {"standard exception", [](const std::string& name) {
-             if (name == "Width") throw std::runtime_error("no disk");
-         }},
+template <class Throw>
+std::function<void(const std::string&)> AtWidth(Throw fail) {
+    return [=](const std::string& name) {
+        if (name == "Width") fail();
     };
-    for (const Thrown& thrown : kThrown) {
-        SCOPED_TRACE(thrown.name);
+}
+
+// What a host does not take stays with its property and is said once, when all the rest is written.
+TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
+    const Refusal kRefusals[] = {
+        {"result", nullptr, 2, "1 of 3 graphics could not be changed."},
+        {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1,
+         "2 of 3 graphics could not be changed."},
+        {"standard exception", AtWidth([] { throw std::runtime_error("no disk"); }), 1,
+         "2 of 3 graphics could not be changed.\nno disk"},
+        {"anything", AtWidth([] { throw 1; }), 1,
+         "2 of 3 graphics could not be changed.\nSomething went wrong inside the program."},
+    };
+    for (const Refusal& refusal : kRefusals) {
+        SCOPED_TRACE(refusal.name);
         GraphicKit kit;
         AddTwo(kit);
-        kit[0].onSet = thrown.onSet;
+        kit.Add({{"Width", 1.0}, {"Scale", 2.0}});
+        if (refusal.onSet)
+            kit[1].onSet = refusal.onSet;
+        else
+            kit[1].refused = "Width";
         TwoNumbers numbers;
         TestSheet sheet(kit);
         sheet.Add(numbers.Exchange());
+        MessageBoxWatcher boxes;
         EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
             user.Type(kEdit, "5");
             user.Type(kOtherEdit, "3");
             user.Ok();
         }));
-        EXPECT_EQ(1, kit[0].Number("Width"));
-        EXPECT_EQ(3, kit[0].Number("Scale"));
-        EXPECT_EQ(3, kit[1].Number("Scale"));
+        EXPECT_EQ(refusal.said, boxes.OnlyText());
+        int arrived = 0;
+        for (size_t i : {0, 1, 2}) {
+            arrived += kit[i].Number("Width") == 5;
+            EXPECT_EQ(3, kit[i].Number("Scale"));
+        }
+        EXPECT_EQ(refusal.arrived, arrived);
     }
 }
 
@@ -180,14 +200,15 @@ TEST(WriteBack, MembersThatShareAKeyBothArrive) {
     EXPECT_EQ(6, kit[0].Number("Scale"));
 }
 
-// A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out later.
+// A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out later,
+// whoever began the exchanges.
 TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
     GraphicKit kit;
     AddTwo(kit);
     double scale = 0;
     bool bindWidth = true;
     TestSheet sheet(kit);
-    sheet.Add([&](CDataExchange* pDX) {
+    ExchangePage& page = sheet.Add([&](CDataExchange* pDX) {
         double local = 123;
         if (bindWidth) DDP_Text(pDX, kEdit, local, "Width");
         DDP_Text(pDX, kOtherEdit, scale, "Scale");
@@ -198,9 +219,10 @@ TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
         MessageBoxWatcher boxes;
         user.Type(kEdit, "5");
         user.Type(kOtherEdit, "bad");
-        user.Ok();
+        EXPECT_FALSE(page.UpdateData(TRUE));
         bindWidth = false;
         user.Type(kOtherEdit, "6");
+        EXPECT_TRUE(page.UpdateData(TRUE));
         user.Ok();
     });
     EXPECT_EQ(1, kit[0].Number("Width"));

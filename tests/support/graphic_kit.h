@@ -45,6 +45,7 @@ public:
     std::vector<KitWrite> writes;
     std::function<void(const std::string& name)> onSet; // before a value is stored
     std::function<void()> onGet; // behind a value that was given
+    std::string refused;         // the property that is not taken
     int reads = 0;
 };
 

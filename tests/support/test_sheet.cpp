@@ -25,8 +25,8 @@ TestSheet::TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags) {
 
 TestSheet::~TestSheet() { delete m_sheet; }
 
-ExchangePage& TestSheet::Add(ExchangePage::Exchange exchange) {
-    auto* page = new ExchangePage(std::move(exchange));
+ExchangePage& TestSheet::Add(ExchangePage::Exchange exchange, unsigned int nIDTemplate) {
+    auto* page = new ExchangePage(std::move(exchange), nIDTemplate);
     m_sheet->AddPage(page);
     return *page;
 }

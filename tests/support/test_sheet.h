@@ -12,6 +12,8 @@
 // The page template of tests/support/test_page.rc.
 enum TestPageControl : int {
     kTestPage = 500,
+    kWordsPage = 501, // nothing that takes the focus
+    kOddPage = 502,   // a field that is wider than the page, a label that is a tab stop
     kEdit = 101,
     kOtherEdit = 102,
     kCheck = 103,
@@ -20,6 +22,7 @@ enum TestPageControl : int {
     kCombo = 120,
     kList = 121,
     kButton = 130,
+    kLabel = 131,
 };
 
 class ExchangePage : public CGraphicPropertyPage {
@@ -32,6 +35,7 @@ public:
     void* CreatePreviewGraphic() override;
     void SetPreviewProperties(int bAll) override;
     void DoDataExchange(CDataExchange* pDX) override;
+    void FitControls() { m_bFitControls = 1; }
 
     bool hasPreview = false;
     std::vector<int> previewCalls; // the arguments of SetPreviewProperties
@@ -47,7 +51,7 @@ public:
     explicit TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags = 0xFFFFFFFF);
     ~TestSheet();
 
-    ExchangePage& Add(ExchangePage::Exchange exchange);
+    ExchangePage& Add(ExchangePage::Exchange exchange, unsigned int nIDTemplate = kTestPage);
     // Opens the sheet, goes to the first page of the test, and plays the script.
     int Run(SheetDriver::Script script);
     CGraphicPropertySheet& Sheet() { return *m_sheet; }

@@ -1,0 +1,30 @@
+#include "orlo/binding/write_outcome.h"
+
+#include <afxwin.h>
+
+#include <utility>
+
+#include "orlo/frame/graphic_property_page.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+
+WriteOutcome::WriteOutcome(CGraphicPropertyPage* page)
+    : m_page(page), m_before(std::exchange(page->m_pOutcome, this)) {}
+
+WriteOutcome::~WriteOutcome() {
+    m_page->m_pOutcome = m_before;
+}
+
+void WriteOutcome::AddFailure(const char* text) {
+    if (m_failure.IsEmpty())
+        m_failure = *text != '\0' ? CString(text) : LibraryText(AFX_IDP_INTERNAL_FAILURE);
+}
+
+void WriteOutcome::Report(int total) const {
+    CString message;
+    if (!m_unchanged.empty())
+        message.Format(LibraryText(IDS_NOT_CHANGED), static_cast<int>(m_unchanged.size()), total);
+    if (!message.IsEmpty() && !m_failure.IsEmpty()) message += '\n';
+    message += m_failure;
+    if (!message.IsEmpty()) AfxMessageBox(message, MB_ICONEXCLAMATION);
+}

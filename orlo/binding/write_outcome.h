@@ -1,0 +1,31 @@
+// What of a write-back the host did not take: told to the user once, when it is over.
+#pragma once
+
+#include <afx.h>
+
+#include <set>
+
+#include "orlo/host/graphic.h"
+
+class CGraphicPropertyPage;
+
+class WriteOutcome {
+public:
+    // The page's writes to the selection are noted while the object lives.
+    explicit WriteOutcome(CGraphicPropertyPage* page);
+    ~WriteOutcome();
+    WriteOutcome(const WriteOutcome&) = delete;
+    WriteOutcome& operator=(const WriteOutcome&) = delete;
+
+    void AddUnchanged(const GraphicStruct* graphic) { m_unchanged.insert(graphic); }
+    // Something was thrown that is none of the framework's exceptions; of several texts the first counts.
+    void AddFailure(const char* text);
+    // A message box, if there is anything to say. total: the graphics of the selection.
+    void Report(int total) const;
+
+private:
+    CGraphicPropertyPage* m_page;
+    WriteOutcome* m_before;
+    std::set<const GraphicStruct*> m_unchanged;
+    CString m_failure;
+};

@@ -1,0 +1,20 @@
+#include "orlo/resources/library_text.h"
+
+#include <afxwin.h>
+
+extern "C" IMAGE_DOS_HEADER __ImageBase; // where the module begins
+
+HINSTANCE LibraryModule() {
+    return reinterpret_cast<HINSTANCE>(&__ImageBase);
+}
+
+int LoadLibraryText(UINT nID, char* pszBuffer, int nSize) {
+    const int length = ::LoadStringA(LibraryModule(), nID, pszBuffer, nSize);
+    return length > 0 ? length : AfxLoadString(nID, pszBuffer, static_cast<UINT>(nSize));
+}
+
+CString LibraryText(UINT nID) {
+    char text[256];
+    LoadLibraryText(nID, text, sizeof text);
+    return text;
+}

@@ -1,0 +1,101 @@
+// Where the focus is, which button is the default, and what the tabs show, when pages come and go; and which controls of a page
+// are fitted.
+
+#include <gtest/gtest.h>
+
+#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddx.h"
+#include "support/message_box_watcher.h"
+#include "support/test_sheet.h"
+
+#include <commctrl.h>
+
+namespace {
+
+class Keyboard : public ::testing::Test {
+protected:
+    Keyboard() : sheet((kit.Add({{"Width", 1.0}}), kit)) {
+        sheet.Add([this](CDataExchange* pDX) {
+            DDP_Text(pDX, kEdit, width, "Width");
+            DDX_Text(1, pDX, kEdit, width);
+            DDP_PostProcessing(pDX);
+        });
+        sheet.Add([](CDataExchange*) {}, kWordsPage);
+    }
+    HWND Tabs() { return sheet.Sheet().GetTabControl()->m_hWnd; }
+
+    GraphicKit kit;
+    TestSheet sheet;
+    double width = 0;
+};
+
+TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
+    sheet.Run([&](SheetDriver& user) {
+        user.Focus(kEdit);
+        const HWND field = user.Control(kEdit);
+        user.Key(VK_TAB, false, true);
+        EXPECT_EQ(2, user.ActivePage());
+        EXPECT_EQ(Tabs(), ::GetFocus());
+        ::PostMessageA(::GetFocus(), WM_CHAR, '7', 1);
+        user.Pump();
+        EXPECT_EQ(1, ::GetWindowTextLengthA(field));
+    });
+}
+
+TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
+    for (const UINT key : {VK_LEFT, VK_RIGHT}) {
+        MessageBoxWatcher boxes;
+        sheet.Run([&](SheetDriver& user) {
+            user.Type(kEdit, "bad");
+            ::SetFocus(Tabs());
+            user.Key(key);
+            EXPECT_EQ(1u, boxes.Boxes().size());
+            EXPECT_EQ(1, user.ActivePage());
+            EXPECT_EQ(1, ::SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0));
+            EXPECT_EQ(1, ::SendMessageA(Tabs(), TCM_GETCURFOCUS, 0, 0));
+            user.Type(kEdit, "4");
+            const int wanted = key == VK_LEFT ? 0 : 2;
+            user.SelectPage(wanted);
+            EXPECT_EQ(wanted, user.ActivePage());
+        });
+    }
+}
+
+UINT TypeOf(HWND button) {
+    return static_cast<UINT>(::GetWindowLongPtrA(button, GWL_STYLE)) & BS_TYPEMASK;
+}
+
+TEST_F(Keyboard, OkIsTheDefaultAgainWhenAPushButtonIsLeftForATab) {
+    sheet.Run([&](SheetDriver& user) {
+        const HWND ok = ::GetDlgItem(user.Sheet(), IDOK), push = user.Control(kButton);
+        user.Focus(kEdit);
+        while (::GetFocus() != push)
+            user.Key(VK_TAB);
+        EXPECT_EQ(UINT{BS_DEFPUSHBUTTON}, TypeOf(push));
+        EXPECT_EQ(UINT{BS_PUSHBUTTON}, TypeOf(ok));
+        user.SelectPage(0);
+        EXPECT_EQ(0, user.ActivePage());
+        EXPECT_EQ(UINT{BS_DEFPUSHBUTTON}, TypeOf(ok));
+        EXPECT_EQ(UINT{BS_PUSHBUTTON}, TypeOf(push));
+    });
+}
+
+TEST(FittedControls, AreThoseOfAPageThatWishesIt) {
+    for (const bool wished : {false, true}) {
+        SCOPED_TRACE(wished);
+        GraphicKit kit;
+        TestSheet sheet(kit);
+        ExchangePage& page = sheet.Add([](CDataExchange*) {}, kOddPage);
+        if (wished) page.FitControls();
+        sheet.Run([&](SheetDriver& user) {
+            RECT room, field, units = {0, 0, 220, 0};
+            ::GetClientRect(user.Page(), &room);
+            ::GetWindowRect(user.Control(kEdit), &field);
+            ::MapDialogRect(user.Page(), &units);
+            EXPECT_EQ(wished, field.right - field.left < units.right);
+            EXPECT_EQ(wished, !(::GetWindowLongPtrA(user.Control(kLabel), GWL_STYLE) & WS_TABSTOP));
+        });
+    }
+}
+
+} // namespace

@@ -1,0 +1,137 @@
+// The library as a host loads it at run time: it comes and goes, twice over, beside resources of the host's own under the same
+// numbers. This program is not linked with it.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "orlo/frame/entry.h"
+#include "orlo/resources/resource.h"
+#include "support/graphic_kit.h"
+#include "support/host_frame.h"
+#include "support/pixels.h"
+#include "support/sheet_driver.h"
+
+namespace {
+
+// A loaded copy of the library.
+class Copy {
+public:
+    explicit Copy(const std::string& file) : m_module(::LoadLibraryA(file.c_str())) {
+        if (m_module == nullptr) throw std::runtime_error(file + " cannot be loaded");
+        Function<decltype(::PropPageInit)>("PropPageInit")();
+    }
+    ~Copy() { ::FreeLibrary(m_module); }
+    Copy(const Copy&) = delete;
+    Copy& operator=(const Copy&) = delete;
+
+    HMODULE Module() const { return m_module; }
+
+    // Opens a sheet over the kit's graphics and plays the script.
+    int Run(GraphicKit& kit, SheetDriver::Script script) const {
+        // The class is the library's, of which this program knows only the framework's base.
+        void* made = Function<decltype(::InitGraphicPropertySheet)>("InitGraphicPropertySheet")(
+            nullptr, nullptr, kit.Drawing(), kit.Selection(), kAllGraphics);
+        const std::unique_ptr<CPropertySheet> sheet(static_cast<CPropertySheet*>(made));
+        for (size_t i = 0; i < kit.Size(); ++i)
+            Function<decltype(::AddGraphicPropertyPage)>("AddGraphicPropertyPage")(
+                nullptr, kit[i].graphic, static_cast<CGraphicPropertySheet*>(made));
+        return SheetDriver().Run(*sheet, std::move(script));
+    }
+
+private:
+    template <class F>
+    F* Function(const char* name) const {
+        return reinterpret_cast<F*>(reinterpret_cast<void*>(::GetProcAddress(m_module, name)));
+    }
+
+    HMODULE m_module;
+};
+
+class LibraryLife : public ::testing::Test {
+protected:
+    LibraryLife() {
+        kit.Add({{"PenWidth", 1.0}, {"PenScale", 1.0}});
+        kit.Add({{"TextSize", 1.0}}, kGraphicText);
+    }
+
+    // General, Pen, Brush and Text are whole, and a pen is written.
+    void ExpectWorking(const Copy& copy, double scale) {
+        EXPECT_EQ(IDOK, copy.Run(kit, [&](SheetDriver& user) {
+            EXPECT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
+            user.SelectPage(1);
+            EXPECT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
+            user.Type(104, std::to_string(scale));
+            user.Ok();
+        }));
+        EXPECT_EQ(scale, kit[0].Number("PenScale"));
+    }
+
+    GraphicKit kit;
+    HostFrame frame{kit.Drawing()};
+};
+
+TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
+    void* taken = nullptr; // the place of the copy before, every second time
+    for (int i = 1; i <= 100 && !HasFailure(); ++i) {
+        SCOPED_TRACE(i);
+        HMODULE place;
+        {
+            const Copy copy("orlo.dll");
+            place = copy.Module();
+            EXPECT_NE(taken, place);
+            ExpectWorking(copy, i);
+        }
+        EXPECT_EQ(nullptr, ::GetModuleHandleA("orlo.dll"));
+        if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
+        taken = i % 2 ? ::VirtualAlloc(place, 1, MEM_RESERVE, PAGE_NOACCESS) : nullptr;
+        EXPECT_EQ(i % 2 ? place : nullptr, taken);
+    }
+    if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
+}
+
+TEST_F(LibraryLife, TwoCopiesWorkSideBySideAndOutliveEachOther) {
+    char own[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, own, MAX_PATH);
+    const std::string path = own, folder = path.substr(0, path.rfind('\\') + 1);
+    const std::string second = folder + "orlo_second_copy.dll";
+    ASSERT_TRUE(::CopyFileA((folder + "orlo.dll").c_str(), second.c_str(), FALSE));
+    {
+        auto first = std::make_unique<Copy>("orlo.dll");
+        const Copy other(second);
+        ASSERT_NE(first->Module(), other.Module());
+        ExpectWorking(*first, 2);
+        ExpectWorking(other, 3);
+        first.reset();
+        ExpectWorking(other, 4);
+        first = std::make_unique<Copy>("orlo.dll");
+        ExpectWorking(*first, 5);
+        ExpectWorking(other, 6);
+    }
+    ::DeleteFileA(second.c_str());
+}
+
+// What colliding_host.rc has under the library's numbers is the host's own business.
+TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
+    const Copy copy("orlo.dll");
+    copy.Run(kit, [&](SheetDriver& user) {
+        char caption[64];
+        ::GetWindowTextA(user.Sheet(), caption, sizeof caption);
+        EXPECT_STREQ("Properties", caption);
+        const HWND layers = user.Control(IDC_LAYER);
+        ASSERT_NE(nullptr, layers);
+        Pixels pixels(60, 20);
+        pixels.Clear(RGB(1, 2, 3));
+        const RECT eye = {0, 0, 16, 20};
+        DRAWITEMSTRUCT draw = {ODT_COMBOBOX, IDC_LAYER,      0, ODA_DRAWENTIRE, 0, layers,
+                               pixels.DC(),  {0, 0, 60, 20}, 0};
+        ::SendMessageA(user.Page(), WM_DRAWITEM, IDC_LAYER, reinterpret_cast<LPARAM>(&draw));
+        EXPECT_GT(pixels.CountWhere(eye, [](COLORREF c) { return c != ::GetSysColor(COLOR_WINDOW); }), 0);
+        user.SelectPage(3);
+        EXPECT_EQ("Regular", user.ItemText(IDC_FONT_STYLE, 0));
+        EXPECT_EQ("Italic", user.ItemText(IDC_FONT_STYLE, 1));
+    });
+}
+
+} // namespace

@@ -1,0 +1,86 @@
+// A host that defines UNICODE: the macros of windows.h rename members of the framework here, and what they name must be there.
+
+#include <afxext.h>
+#include <orlo.h>
+
+#include <gtest/gtest.h>
+
+#include "drawcore/drawing.h"
+
+namespace {
+
+static_assert(sizeof(TCHAR) == sizeof(wchar_t), "this file is to be compiled as a UNICODE host");
+
+constexpr UINT kTest = WM_APP;
+
+class CUnicodeFrame : public CFrameWnd {
+public:
+    int created = 0, forwarded = 0;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCTA& cs) override {
+        cs.cx = 321;
+        return CFrameWnd::PreCreateWindow(cs);
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == kTest) ++forwarded;
+        return CFrameWnd::DefWindowProc(message, wParam, lParam);
+    }
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct) {
+        ++created;
+        return CFrameWnd::OnCreate(lpCreateStruct);
+    }
+    void OnPaint() {
+        CPaintDC dc(this);
+        CRect rect(0, 0, 50, 20);
+        dc.DrawText("text", rect, DT_SINGLELINE);
+        dc.ExtTextOut(0, 0, 0, nullptr, "text");
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CUnicodeFrame, CFrameWnd)
+ON_WM_CREATE()
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+class CUnicodePage : public CGraphicPropertyPage {
+public:
+    CUnicodePage() : CGraphicPropertyPage(500, 0) {}
+    int Tell() { return MessageBox("text", nullptr, MB_OK); }
+};
+
+TEST(UnicodeHost, UsesTheFrameworkAndTheSheet) {
+    auto* frame = new CUnicodeFrame;
+    ASSERT_TRUE(frame->Create(nullptr, "a host"));
+    EXPECT_EQ(1, frame->created);
+    CRect window;
+    frame->GetWindowRect(window);
+    EXPECT_EQ(321, window.Width());
+    CString text;
+    frame->GetWindowText(text);
+    EXPECT_STREQ("a host", text);
+    frame->SetWindowText("another");
+    EXPECT_EQ(7, frame->GetWindowTextLength());
+    frame->SendMessage(kTest);
+    EXPECT_EQ(1, frame->forwarded);
+    ::SetWindowText(frame->m_hWnd, L"wide"); // the system's own functions stay the wide ones
+    EXPECT_EQ(0, ::DefWindowProc(frame->m_hWnd, kTest, 0, 0));
+    EXPECT_FALSE(text.LoadString(1));
+    CBitmap bitmap;
+    EXPECT_FALSE(bitmap.LoadBitmap(1));
+    CFont font;
+    const LOGFONTA shape = {};
+    EXPECT_TRUE(font.CreateFontIndirect(&shape));
+    frame->ShowWindow(SW_SHOW);
+    frame->UpdateWindow();
+
+    DrawingStruct* drawing = DrawingNew();
+    CGraphicPropertySheet* sheet = InitGraphicPropertySheet(frame, nullptr, drawing, nullptr, kAllGraphics);
+    sheet->AddPage(new CUnicodePage);
+    EXPECT_EQ(2, sheet->GetPageCount());
+    delete sheet;
+    DrawingDispose(&drawing);
+    frame->DestroyWindow();
+}
+
+} // namespace
