@@ -59,25 +59,16 @@ protected:
     void Close(HWND sheet) { user.Click(::GetDlgItem(sheet, IDCANCEL)); }
 };
 
-// Letters behind "&" in the texts of a window's visible descendants.
-std::string Mnemonics(HWND window) {
-    std::string letters;
-    ::EnumChildWindows(
-        window,
-        [](HWND child, LPARAM result) -> BOOL {
-            const std::string text = ::IsWindowVisible(child) ? TextOf(child) : "";
-            const size_t mark = text.find('&');
-            if (mark != std::string::npos)
-                *reinterpret_cast<std::string*>(result) += static_cast<char>(std::tolower(text[mark + 1]));
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&letters));
-    return letters;
-}
-
 void ExpectMnemonicsOfTheirOwn(HWND window) {
-    const std::string letters = Mnemonics(window);
-    EXPECT_EQ(letters.size(), std::set<char>(letters.begin(), letters.end()).size()) << letters;
+    std::set<int> found;
+    const auto take = [](HWND child, LPARAM taken) -> BOOL {
+        const std::string text = ::IsWindowVisible(child) ? TextOf(child) : "";
+        const size_t mark = text.find('&');
+        auto& letters = *reinterpret_cast<std::set<int>*>(taken);
+        EXPECT_TRUE(mark == std::string::npos || letters.insert(std::tolower(text[mark + 1])).second) << text;
+        return TRUE;
+    };
+    ::EnumChildWindows(window, take, reinterpret_cast<LPARAM>(&found));
 }
 
 TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
