@@ -70,7 +70,7 @@ protected:
     CComboControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL PreCreateWindow(CREATESTRUCTA& cs) override;
     void PreSubclassWindow() override;
     void PostNcDestroy() override;
     // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
