@@ -88,6 +88,9 @@ TEST(ResourceScript, HoldsTheSections) {
     EXPECT_NE(text.find("Microsoft Excel\\0\""), std::string::npos) << text;
     EXPECT_EQ(text.substr(text.size() - 5), "\nEND\n");
     EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
+    // Its properties have two names each.
+    const fs::path twice = kStreams / "testsolidworksPart2013SP2-SLDPRT--ISolidWorksInformation--c67c02.bin";
+    EXPECT_EQ(RunSuminfo({"rc", "--stream", twice.string(), script.string() + "2"}).err, "");
 }
 
 // What the printing classes would lose is named, and leaves no file.
