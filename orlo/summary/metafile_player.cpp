@@ -95,13 +95,6 @@ bool IsForThisDevice(WORD function) {
            function != META_STRETCHBLT;
 }
 
-// A line begins where the last one ended, perhaps under another mapping.
-bool BeginsWithinReach(HDC dc, const Mapping& mapping) {
-    POINT begin;
-    ::GetCurrentPositionEx(dc, &begin);
-    return mapping.x.Distance(begin.x) <= kFarthest && mapping.y.Distance(begin.y) <= kFarthest;
-}
-
 // A pattern in the format of a 16-bit device can't be shown, but has its slot: without an object there, all later
 // ones would come one slot too early.
 void PlayHollowBrush(HDC dc, HANDLETABLE* objects, UINT count) {
@@ -146,7 +139,6 @@ private:
         if (!points) return true;
         const Mapping mapping = MappingOf(dc);
         return IsWithinReach(record, *points, mapping) &&
-               (record.rdFunction != META_LINETO || BeginsWithinReach(dc, mapping)) &&
                mapping.x.Size(Current<LOGPEN>(dc, OBJ_PEN).lopnWidth.x) <= kFarthest;
     }
 

@@ -78,16 +78,26 @@ TEST(Thumbnail, OfWhatHasNoneOrADamagedOneLeavesTheOldPicture) {
 TEST(ResourceScript, HoldsTheSections) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
-    ASSERT_EQ(
-        RunSuminfo({"rc", (kDocuments / "testEXCEL-custom-props--fff0cb.xls").string(), script.string()})
-            .exitCode,
-        0);
-    std::ifstream stream(script, std::ios::binary);
-    const std::string text(std::istreambuf_iterator<char>(stream), {});
-    EXPECT_NE(text.find("\n1 RCDATA\nBEGIN\n    0x"), std::string::npos) << text;
-    EXPECT_NE(text.find("Microsoft Excel\\0\""), std::string::npos) << text;
-    EXPECT_EQ(text.substr(text.size() - 5), "\nEND\n");
-    EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
+    const struct {
+        const char* stream;
+        const char* text;
+    } rows[] = {
+        {"npoiBug5010-xls--SummaryInformation--a7c52a.bin", "\n1 RCDATA\nBEGIN\n    0x"},
+        {"npoiBug5010-xls--SummaryInformation--a7c52a.bin",
+         "0x0008, 0x0000, \"czmiel\\0\", \"\\0\",\n"}, // padded
+        {"testsolidworksPart2013SP2-SLDPRT--Config-0-Properties--41c3b7.bin",
+         "\nEND\n\n2 RCDATA\nBEGIN\n    0x"},
+        {"testsolidworksPart2013SP2-SLDPRT--ISolidWorksInformation--c67c02.bin",
+         "sw-author(author)\\0"}, // a second name
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(RunSuminfo({"rc", "--stream", (kStreams / row.stream).string(), script.string()}).err, "");
+        const std::vector<unsigned char> bytes = BytesOf(script);
+        const std::string text(bytes.begin(), bytes.end());
+        EXPECT_NE(text.find(row.text), std::string::npos) << text;
+        EXPECT_EQ(text.substr(text.size() - 5), "\nEND\n");
+        EXPECT_FALSE(fs::exists(folder.Path() / "out.rc.part"));
+    }
 }
 
 // What the printing classes would lose is named, and leaves no file.

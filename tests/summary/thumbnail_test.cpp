@@ -279,10 +279,6 @@ TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
         {"corners", picture(100).Record(0x061C, {kMost, kMost, kMost, kMost, kLeast, kLeast})},
         {"polygon", picture(kMost).Record(0x0324, {3, kMost, kMost, kLeast, kLeast, 0, kMost})},
         {"pen", pen(picture(100), kMost).Record(0x0325, {3, 10, 10, 20, 20, 10, 20})},
-        {"line from afar", pen(picture(1), 300)
-                               .Record(0x0214, {kMost, kMost})
-                               .Record(0x020E, {100, 100})
-                               .Record(0x0213, {0, 0})},
         {"frame", picture(1)
                       .Record(0x06FF, {0, 6, 0, 0, 0, 1, 2, 0, 0, 9, 9, 2, 0, 5, 1, 4, 2})
                       .Record(0x02FC, {0, 0, 0, 0})

@@ -53,10 +53,14 @@ bool IsSame(CProperty& printed, const orlo::ImageProperty& held) {
 }
 
 bool HasName(CPropertySection& printed, const orlo::DictionaryEntry& entry, uint16_t codePage) {
-    CString name = printed.GetSectionName();
-    if (entry.id != 0 && !printed.GetName(entry.id, name)) return false;
-    const auto utf8 = orlo::CodePageToUtf8(static_cast<const char*>(name), codePage);
-    return utf8 && SameName(*utf8, entry.name);
+    const auto name = orlo::Utf8ToCodePage(entry.name, codePage);
+    if (!name) return false;
+    if (entry.id == 0) return *name == printed.GetSectionName();
+    CString small(name->c_str());
+    small.MakeLower(); // byte for byte: it may tear characters of two bytes
+    const auto shown = orlo::CodePageToUtf8(static_cast<const char*>(small), codePage);
+    DWORD id = 0;
+    return shown && SameName(*shown, entry.name) && printed.GetID(small, &id) && id == entry.id;
 }
 
 void RefuseUnlessSame(CPropertySection& printed, const orlo::ImageSection& held) {
