@@ -17,19 +17,22 @@
 
 namespace {
 
-// Kinds of controls: the identifiers of their notifications.
-enum : UINT { kFontFaces = 0x7D00, kStyleNames = 0x7D0F };
-
 struct ControlTable {
-    UINT kind;
+    ControlKind kind;
     const char* table;
     unsigned int selected; // 0, or a colour that is none: the page selects what the graphics have
 };
 
 constexpr ControlTable kTables[] = {
-    {kFontFaces, "_Units_", 1},   {0x7D01, "_Units_", 0},       {0x7D04, "_LineStyles_", 0},
-    {0x7D05, "_Colors_", ~1u},    {0x7D07, "_BrushStyles_", 0}, {0x7D08, "_Layers_", 0},
-    {kStyleNames, "_Blocks_", 0}, {0x7D15, "_LineStyles_", 0},  {0x7D18, "_BrushStyles_", 0},
+    {kControlFontFaces, "_Units_", 1},
+    {kControlFontSizes, "_Units_", 0},
+    {kControlLineStyleCombo, "_LineStyles_", 0},
+    {kControlColors, "_Colors_", ~1u},
+    {kControlBrushStyleCombo, "_BrushStyles_", 0},
+    {kControlLayers, "_Layers_", 0},
+    {kControlStyleNames, "_Blocks_", 0},
+    {kControlLineStyleList, "_LineStyles_", 0},
+    {kControlBrushStyleList, "_BrushStyles_", 0},
 };
 
 // The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
@@ -59,9 +62,9 @@ bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
     if (row == std::end(kTables)) return false;
     DrawingStruct* drawing = document->Drawing();
     ControlFillRecord fill = {::DrawingGetTable(drawing, row->table), 0, row->selected};
-    const std::string face = row->kind == kFontFaces ? FaceOf(*document) : "";
+    const std::string face = row->kind == kControlFontFaces ? FaceOf(*document) : "";
     if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
-    if (row->kind == kStyleNames) fill.nSelected = document->Styles().Current();
+    if (row->kind == kControlStyleNames) fill.nSelected = document->Styles().Current();
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
     return true;
 }
