@@ -121,7 +121,7 @@ protected:
     bool BeginCreate();
     // Takes a tab per page, in m_font. It is as wide as the place says.
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
-    void FocusActivePage(); // its first control; without one the tabs
+    void FocusActivePage(); // its first control; without one the tabs, or the default button
 
     // Pixels; set when the first page has its window, from 50 x 14, 4 x 4 and 4 of its dialog units.
     CSize m_sizeButton;

@@ -231,8 +231,12 @@ void CPropertySheet::FocusActivePage() {
     if (page == nullptr || page->m_hWnd == nullptr) return;
     HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
     const bool takes = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
-    // Without a control for it the focus goes to the tabs: in the page before, it would take keys unseen.
-    if (!takes && m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible()) first = m_tabRow.m_hWnd;
+    // Without a control for it the focus goes to the tabs, or to the default button: in the page before, it would take
+    // keys unseen.
+    if (!takes) {
+        const bool tabs = m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible();
+        first = tabs ? m_tabRow.m_hWnd : ::GetDlgItem(m_hWnd, LOWORD(SendMessage(DM_GETDEFID)));
+    }
     if (first != nullptr && first != ::GetFocus()) {
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
     }

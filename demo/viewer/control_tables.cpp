@@ -14,19 +14,22 @@
 
 namespace {
 
-// Kinds of controls: the identifiers of their notifications.
-enum : UINT { kFontFaces = 0x7D00, kStyleNames = 0x7D0F };
-
 struct ControlTable {
-    UINT kind;
+    ControlKind kind;
     const char* table;
     unsigned int selected; // 0, or a colour that is none: the page selects what the graphics have
 };
 
 constexpr ControlTable kTables[] = {
-    {kFontFaces, kTableUnits, 1},   {0x7D01, kTableUnits, 0},       {0x7D04, kTableLineStyles, 0},
-    {0x7D05, kTableColors, ~1u},    {0x7D07, kTableBrushStyles, 0}, {0x7D08, kTableLayers, 0},
-    {kStyleNames, kTableBlocks, 0}, {0x7D15, kTableLineStyles, 0},  {0x7D18, kTableBrushStyles, 0},
+    {kControlFontFaces, kTableUnits, 1},
+    {kControlFontSizes, kTableUnits, 0},
+    {kControlLineStyleCombo, kTableLineStyles, 0},
+    {kControlColors, kTableColors, ~1u},
+    {kControlBrushStyleCombo, kTableBrushStyles, 0},
+    {kControlLayers, kTableLayers, 0},
+    {kControlStyleNames, kTableBlocks, 0},
+    {kControlLineStyleList, kTableLineStyles, 0},
+    {kControlBrushStyleList, kTableBrushStyles, 0},
 };
 
 // The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
@@ -47,9 +50,9 @@ bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
     if (row == std::end(kTables)) return false;
     DrawingStruct* drawing = document->Drawing();
     ControlFillRecord fill = {::DrawingGetTable(drawing, row->table), 0, row->selected};
-    const std::string face = row->kind == kFontFaces ? FaceOf(*document) : "";
+    const std::string face = row->kind == kControlFontFaces ? FaceOf(*document) : "";
     if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
-    if (row->kind == kStyleNames) fill.nSelected = document->Styles().Current();
+    if (row->kind == kControlStyleNames) fill.nSelected = document->Styles().Current();
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
     return true;
 }

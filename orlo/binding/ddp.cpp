@@ -34,7 +34,7 @@ private:
 void LayIfDirty(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName, DDPEnd pfnEnd) {
     CGraphicPropertyPage* page = PageOf(pDX);
     if (!page->GetControlStatus(nID)) return;
-    CMapWordToOb& records = page->GetPendingWrites();
+    CMapWordToOb& records = PendingWritesOf(page);
     if (records.IsEmpty()) pDX->Keep(std::make_unique<PendingWritesEnd>(records));
     LayRecord(records, new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
 }
@@ -139,7 +139,7 @@ int StampSelection(CGraphicPropertyPage* page) {
 
 int WriteBack(CDataExchange* pDX, CGraphicPropertyPage* page, WriteOutcome& outcome) {
     const WaitCursor wait(page);
-    const std::unique_ptr<CDDPRecord> records(TakeRecords(page->GetPendingWrites()));
+    const std::unique_ptr<CDDPRecord> records(TakeRecords(PendingWritesOf(page)));
     for (const CDDPRecord* record = records.get(); record != nullptr; record = record->m_pNext)
         CarryOut(*record, pDX, outcome);
     return StampSelection(page);

@@ -2,6 +2,8 @@
 
 #include "orlo/binding/ddp_record.h"
 
+#include "orlo/frame/graphic_property_page.h"
+
 namespace {
 
 WORD KeyOf(const void* member) { return LOWORD(reinterpret_cast<UINT_PTR>(member)); }
@@ -19,6 +21,8 @@ CDDPRecord::~CDDPRecord() {
         delete record;
     }
 }
+
+CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page) { return page->m_mapDDP; }
 
 void LayRecord(CMapWordToOb& records, CDDPRecord* record) {
     const WORD key = KeyOf(record->m_pMember);

@@ -19,6 +19,10 @@ public:
     CDDPRecord* m_pNext;     // the next record of the same key, owned
 };
 
+class CGraphicPropertyPage;
+
+CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
+
 // Lays a record; one of the same member takes the place of an earlier one.
 void LayRecord(CMapWordToOb& records, CDDPRecord* record);
 

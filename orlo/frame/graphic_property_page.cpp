@@ -49,8 +49,6 @@ GraphicStruct* CGraphicPropertyPage::GetPreviewGraphic() const { return m_pPrevi
 
 unsigned int CGraphicPropertyPage::GetTemplateNumber() const { return m_nIDTemplate; }
 
-CMapWordToOb& CGraphicPropertyPage::GetPendingWrites() { return m_mapDDP; }
-
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
     if (m_bFitControls) FitControls(m_hWnd);

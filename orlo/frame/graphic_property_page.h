@@ -107,15 +107,13 @@ public:
     CGraphicPropertySheet* GetSheet() const;
     GraphicStruct* GetPreviewGraphic() const;
     unsigned int GetTemplateNumber() const;
-    // Writes left pending by the DDP_ functions, keyed by the low 16 bits of the member's address.
-    CMapWordToOb& GetPendingWrites();
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnFinalRelease() override;
 
     GraphicStruct* m_pPreviewGraphic; // a part of the sheet's preview group, but this page's to free
-    CMapWordToOb m_mapDDP;
+    CMapWordToOb m_mapDDP; // writes left pending by the DDP_ functions
     unsigned int m_nIDTemplate;
     unsigned int m_nIDCaption;
     CString m_strPageName;
@@ -141,6 +139,7 @@ private:
     bool IsIgnored(unsigned int nID) const;
     unsigned long ChangeFlags(unsigned int nID, unsigned int code, HWND control);
 
+    friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
     friend class WriteOutcome;
     class WriteOutcome* m_pOutcome = nullptr; // of the write-back that is going on
 };

@@ -119,9 +119,12 @@ TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
     const long blocks = kit.Blocks();
     {
         TestSheet sheet(kit);
-        sheet.Sheet().AddPage(new PreviewOfAnother(kit[0].graphic));
+        auto* page = new PreviewOfAnother(kit[0].graphic);
+        sheet.Sheet().AddPage(page);
         EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
             EXPECT_EQ(0, sheet.Sheet().OnStatusChange(1));
+            user.Type(kEdit, "x");
+            EXPECT_NE(0, page->IsModified());
             user.Ok();
         }));
     }

@@ -33,6 +33,12 @@ TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
     sheet.Run([&](SheetDriver& user) {
         user.Focus(kEdit);
         const HWND field = user.Control(kEdit);
+        ::ShowWindow(Tabs(), SW_HIDE);
+        sheet.Sheet().SetActivePage(2);
+        EXPECT_EQ(::GetDlgItem(user.Sheet(), IDOK), ::GetFocus());
+        sheet.Sheet().SetActivePage(1);
+        ::ShowWindow(Tabs(), SW_SHOW);
+        user.Focus(kEdit);
         user.Key(VK_TAB, false, true);
         EXPECT_EQ(2, user.ActivePage());
         EXPECT_EQ(Tabs(), ::GetFocus());

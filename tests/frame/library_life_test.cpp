@@ -59,9 +59,9 @@ protected:
     // General, Pen, Brush and Text are whole, and a pen is written.
     void ExpectWorking(const Copy& copy, double scale) {
         EXPECT_EQ(IDOK, copy.Run(kit, [&](SheetDriver& user) {
-            EXPECT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
+            ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
             user.SelectPage(1);
-            EXPECT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
+            ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
             user.Type(104, std::to_string(scale));
             user.Ok();
         }));
@@ -84,11 +84,18 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
             ExpectWorking(copy, i);
         }
         EXPECT_EQ(nullptr, ::GetModuleHandleA("orlo.dll"));
+        WNDCLASSA left;
+        EXPECT_FALSE(::GetClassInfoA(::GetModuleHandleA(nullptr), "QXComboBox", &left));
+        EXPECT_FALSE(::GetClassInfoA(::GetModuleHandleA(nullptr), "QXListBox", &left));
         if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
         taken = i % 2 ? ::VirtualAlloc(place, 1, MEM_RESERVE, PAGE_NOACCESS) : nullptr;
         EXPECT_EQ(i % 2 ? place : nullptr, taken);
     }
     if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
+    // A copy that has not been hooked up to the framework yet is not there by the one before it.
+    const HMODULE fresh = ::LoadLibraryA("orlo.dll");
+    EXPECT_NE(fresh, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
+    ::FreeLibrary(fresh);
 }
 
 TEST_F(LibraryLife, TwoCopiesWorkSideBySideAndOutliveEachOther) {
