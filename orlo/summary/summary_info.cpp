@@ -162,7 +162,7 @@ HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPrope
     if (!pszFileName || !ppStorage || !ppSumInfo) return E_FAIL;
     *ppStorage = nullptr;
     const std::wstring name = Wide(pszFileName);
-    if (orlo::CheckCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
+    if (orlo::StateOfCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
     HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, ppStorage);
     if (FAILED(result)) return result;
     if (!*ppSumInfo) *ppSumInfo = OleStdInitSummaryInfo(0);

@@ -41,8 +41,8 @@ ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // storage fails half-way (a full disk), the stream of before is put back as far as the storage still takes
 // it; a transacted storage is sure to be as before if it isn't committed.
 ORLO_API HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
-// Opens a compound file for reading and reads its summary, into a new set if the pointer holds null. A file whose inner
-// chains run in circles is refused (STG_E_DOCFILECORRUPT): the system might never come back from it. The
-// storage stays open, the caller's. On failure both pointers are null, and a set that was passed in is
+// Opens a compound file for reading and reads its summary, into a new set if the pointer holds null. A file whose header,
+// allocation tables or directory are damaged is refused (STG_E_DOCFILECORRUPT): the system might never come back from it.
+// The storage stays open, the caller's. On failure both pointers are null, and a set that was passed in is
 // destroyed, but for a file that can't be opened: then the set stays.
 ORLO_API HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo);
