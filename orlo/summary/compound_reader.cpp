@@ -92,7 +92,7 @@ private:
     std::vector<uint32_t> Numbers(const std::vector<uint32_t>& sectors, const char* what);
     bool Claim(uint32_t sector, std::vector<bool>& claimed);
     void ReadTable();
-    std::vector<uint32_t> WalkWhole(uint32_t start, const char* what);
+    SectorTable::Chain WalkWhole(uint32_t start, const char* what);
     std::vector<Entry> ReadDirectory();
     void ReadShortStreams(const Entry& root);
     void WalkTree(const std::vector<Entry>& entries);
@@ -101,10 +101,10 @@ private:
                      std::vector<Storage>& ahead);
     void AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen);
     void CheckName(const Entry& entry, const Entry* before, uint32_t id);
-    void AddStream(const Entry& entry, std::u16string path);
+    void AddStream(const Entry& entry, std::u16string path, bool isLost);
     void WalkStream(CompoundStream& stream);
     uint64_t SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort);
-    bool LacksEnd(const std::vector<uint32_t>& chain, uint64_t size) const;
+    uint64_t BytesOf(const std::vector<uint32_t>& chain) const;
     uint64_t At(uint32_t sector) const { return (uint64_t{sector} + 1) * sectorBytes_; }
     uint64_t ShortAt(uint32_t sector) const;
 
@@ -230,27 +230,27 @@ void CompoundReader::Structure::ReadTable() {
     Count("the allocation table", 44, tables.size());
     Count("the list of allocation tables", 72, lists.size());
     std::vector<uint32_t> next = Numbers(tables, kWhat);
-    if (next.size() > sectors_) next.resize(static_cast<size_t>(sectors_));
-    table_ = SectorTable(std::move(next));
+    table_ = SectorTable(std::move(next), sectors_);
     tables.insert(tables.end(), lists.begin(), lists.end());
     if (!table_.Reserve(tables)) Damaged("the allocation table: it calls sectors of its own free");
 }
 
 // The chain of a part of the structure.
-std::vector<uint32_t> CompoundReader::Structure::WalkWhole(uint32_t start, const char* what) {
+SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const char* what) {
     SectorTable::Chain chain = table_.Walk(start);
     if (chain.fault != ChainFault::none)
-        Damaged(std::string(what) + ": its chain of sectors " + InWords(chain.fault));
-    return std::move(chain.sectors);
+        Damaged(std::string(what) + ": its chain of sectors " + InWords(chain.fault),
+                chain.fault == ChainFault::isCut ? CompoundState::torn : CompoundState::unsafe);
+    return chain;
 }
 
 std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
     constexpr char kWhat[] = "the directory";
     const bool wide = sectorBytes_ > header_.size();
     std::vector<Entry> entries;
-    const std::vector<uint32_t> sectors = WalkWhole(Header(48), kWhat);
-    if (wide) Count("the directory", 40, sectors.size());
-    for (const uint32_t sector : sectors) {
+    const SectorTable::Chain chain = WalkWhole(Header(48), kWhat);
+    if (wide) Count(kWhat, 40, chain.length);
+    for (const uint32_t sector : chain.sectors) {
         const std::vector<uint8_t> bytes = Sector(sector, kWhat);
         for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
             entries.emplace_back(bytes.data() + at, wide);
@@ -260,18 +260,20 @@ std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
 
 // Short streams lie together in the stream of the root, and have a table of their own.
 void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
-    constexpr char kWhat[] = "the table of short streams";
-    const std::vector<uint32_t> tables =
-        Header(64) == 0 ? std::vector<uint32_t>() : WalkWhole(Header(60), kWhat);
-    Count(kWhat, 64, tables.size());
-    std::vector<uint32_t> next = Numbers(tables, kWhat);
-    if (root.size != 0) shortStreams_ = WalkWhole(root.start, "the short streams");
-    if (shortStreams_.size() < Pieces(root.size, sectorBytes_) || LacksEnd(shortStreams_, root.size))
-        Damaged("the short streams: their chain of sectors is too short");
-    const uint64_t room = std::min<uint64_t>(root.size, uint64_t{shortStreams_.size()} * sectorBytes_);
-    if (next.size() > room / kShortSectorBytes)
-        next.resize(static_cast<size_t>(Pieces(room, kShortSectorBytes)));
-    shortTable_ = SectorTable(std::move(next));
+    constexpr char kTable[] = "the table of short streams", kStreams[] = "the short streams";
+    const SectorTable::Chain tables = Header(64) == 0 ? SectorTable::Chain() : WalkWhole(Header(60), kTable);
+    Count(kTable, 64, tables.length);
+    const SectorTable::Chain streams =
+        root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
+    const uint64_t there = std::min(root.size, BytesOf(streams.sectors));
+    if (streams.length < Pieces(root.size, sectorBytes_))
+        Damaged(std::string(kStreams) + ": their chain of sectors is too short");
+    else if (there < root.size)
+        Damaged(std::string(kStreams) + ": they go on past the end of the file", CompoundState::torn);
+    std::vector<uint32_t> next = Numbers(tables.sectors, kTable);
+    next.resize(static_cast<size_t>(std::min<uint64_t>(next.size(), Pieces(root.size, kShortSectorBytes))));
+    shortTable_ = SectorTable(std::move(next), there / kShortSectorBytes);
+    shortStreams_ = streams.sectors;
 }
 
 void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
@@ -289,7 +291,8 @@ void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const
     for (size_t id = 0; id < entries.size(); ++id) {
         if (seen[id] || entries[id].kind == kFree) continue;
         ++lost;
-        if (entries[id].kind == kStream && entries[id].isNamed) AddStream(entries[id], entries[id].name);
+        if (entries[id].kind == kStream && entries[id].isNamed)
+            AddStream(entries[id], entries[id].name, true);
     }
     if (lost != 0)
         Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage",
@@ -329,7 +332,7 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
         id = entry.right;
         std::u16string path = storage.path + entry.name;
         if (entry.kind == kStream)
-            AddStream(entry, std::move(path));
+            AddStream(entry, std::move(path), false);
         else if (storage.depth < kDeepestStorage)
             ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1});
         else
@@ -345,15 +348,15 @@ void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* befor
                 CompoundState::torn);
 }
 
-void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string path) {
-    CompoundStream stream = {std::move(path), entry.size, entry.start, 0, ChainFault::none};
+void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string path, bool isLost) {
+    CompoundStream stream = {std::move(path), entry.size, entry.start, 0, ChainFault::none, isLost};
     if (entry.size != 0)
         WalkStream(stream);
     else if (entry.start < kHighestSector)
         stream.fault = ChainFault::isOfNothing;
+    const bool hangs = stream.fault == ChainFault::isCircle && !isLost;
     if (stream.fault != ChainFault::none)
-        state_ = std::max(state_,
-                          stream.fault == ChainFault::isCircle ? CompoundState::unsafe : CompoundState::torn);
+        state_ = std::max(state_, hangs ? CompoundState::unsafe : CompoundState::torn);
     streams_.push_back(std::move(stream));
 }
 
@@ -365,7 +368,7 @@ void CompoundReader::Structure::WalkStream(CompoundStream& stream) {
     stream.fault = chain.fault;
     if (stream.fault == ChainFault::isShared) stream.sectors += SectorsOfOthers(stream, wanted, isShort);
     if (stream.fault == ChainFault::none &&
-        (stream.sectors < wanted || (!isShort && LacksEnd(chain.sectors, stream.size))))
+        (stream.sectors < wanted || (!isShort && BytesOf(chain.sectors) < stream.size)))
         stream.fault = ChainFault::isShort;
 }
 
@@ -381,12 +384,12 @@ uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream
     return shared;
 }
 
-// True if the last sector of the file is one of these, and was cut before what the chain has in it.
-bool CompoundReader::Structure::LacksEnd(const std::vector<uint32_t>& chain, uint64_t size) const {
-    const auto last = std::find(chain.begin(), chain.end(), sectors_ - 1);
-    const uint64_t before = static_cast<uint64_t>(last - chain.begin()) * sectorBytes_;
-    return last != chain.end() && before < size &&
-           std::min<uint64_t>(size - before, sectorBytes_) > fileSize_ - At(*last);
+// How many bytes the file has of these sectors, from the first on: its last sector can be cut.
+uint64_t CompoundReader::Structure::BytesOf(const std::vector<uint32_t>& chain) const {
+    const auto cut =
+        fileSize_ % sectorBytes_ == 0 ? chain.end() : std::find(chain.begin(), chain.end(), sectors_ - 1);
+    const uint64_t before = static_cast<uint64_t>(cut - chain.begin()) * sectorBytes_;
+    return cut == chain.end() ? before : before + fileSize_ % sectorBytes_;
 }
 
 uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {

@@ -34,6 +34,7 @@ struct CompoundStream {
     uint32_t start;      // its first sector
     uint64_t sectors;    // how many of its chain can be read
     ChainFault fault;    // of its chain of sectors
+    bool isLost;         // nothing in the directory leads to it; the system doesn't see it
 };
 
 class CompoundReader {

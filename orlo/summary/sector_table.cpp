@@ -8,6 +8,8 @@ namespace orlo {
 
 const char* InWords(ChainFault fault) {
     switch (fault) {
+    case ChainFault::isCut:
+        return "goes on past the end of the file";
     case ChainFault::isShort:
         return "is too short";
     case ChainFault::leadsNowhere:
@@ -46,15 +48,17 @@ SectorTable::Chain SectorTable::Walk(uint32_t start) {
             break;
         }
         chainOf_[at] = chains_;
-        chain.sectors.push_back(at);
+        if (at < there_ && chain.sectors.size() == chain.length) chain.sectors.push_back(at);
+        ++chain.length;
     }
+    if (chain.fault == ChainFault::none && chain.sectors.size() != chain.length)
+        chain.fault = ChainFault::isCut;
     return chain;
 }
 
 std::vector<uint32_t> SectorTable::Follow(uint32_t start, uint64_t most) const {
-    most = std::min<uint64_t>(most, next_.size());
     std::vector<uint32_t> sectors;
-    for (uint32_t at = start; at < next_.size() && sectors.size() < most; at = next_[at])
+    for (uint32_t at = start; at < next_.size() && at < there_ && sectors.size() < most; at = next_[at])
         sectors.push_back(at);
     return sectors;
 }

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 
+#include "compound_bytes.h"
 #include "picture_bytes.h"
 
 using orlo::CompoundState;
@@ -16,15 +17,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr size_t kSector = 512;
-
-orlo::CompoundReader ReaderOf(const ByteVector& file) {
-    const orlo::ReadAt read = [&file](uint64_t offset, void* buffer, size_t size) {
-        if (offset > file.size() || size > file.size() - offset) return false;
-        std::memcpy(buffer, file.data() + offset, size);
-        return true;
-    };
-    return orlo::CompoundReader(read, file.size());
-}
 
 CompoundState StateOf(const ByteVector& file) {
     return ReaderOf(file).State();
