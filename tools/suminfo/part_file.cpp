@@ -23,20 +23,14 @@ Permissions PermissionsOf(const std::wstring& file) {
     return permissions;
 }
 
-// Only where the folder gives others: written down, inherited ones would be the file's own.
-void KeepPermissions(const std::wstring& from, const std::wstring& to) {
-    Permissions wanted = PermissionsOf(from);
-    if (wanted.empty() || wanted == PermissionsOf(to)) return;
-    if (!::SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, wanted.data()))
-        FailBySystem("its permissions can't be kept");
-}
-
-std::wstring MakeBeside(const std::wstring& target) {
+// Permissions: null for those that the folder gives.
+std::wstring MakeBeside(const std::wstring& target, Permissions* permissions) {
+    SECURITY_ATTRIBUTES security = {sizeof security, permissions ? permissions->data() : nullptr, FALSE};
     const std::wstring folder = target.substr(0, target.find_last_of(L"\\/:") + 1);
     const std::wstring name = folder + L"suminfo-" + std::to_wstring(::GetCurrentProcessId()) + L"-";
     for (int count = 0;; ++count) { // what a program that was killed has left may have the name
         std::wstring path = name + std::to_wstring(count) + L".part";
-        const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+        const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, &security, CREATE_NEW, 0, nullptr);
         if (file != INVALID_HANDLE_VALUE) {
             ::CloseHandle(file);
             return path;
@@ -47,13 +41,12 @@ std::wstring MakeBeside(const std::wstring& target) {
 
 } // namespace
 
-PartFile::PartFile(std::wstring target) : target_(std::move(target)), path_(MakeBeside(target_)) {
-    try {
-        KeepPermissions(target_, path_);
-    } catch (...) {
-        ::DeleteFileW(path_.c_str());
-        throw;
-    }
+PartFile::PartFile(std::wstring target) : target_(std::move(target)), path_(MakeBeside(target_, nullptr)) {
+    Permissions wanted = PermissionsOf(target_);
+    if (wanted.empty() || wanted == PermissionsOf(path_)) return;
+    // Made anew: while it is empty nobody reads anything, and inherited permissions aren't written down without need.
+    ::DeleteFileW(path_.c_str());
+    path_ = MakeBeside(target_, &wanted);
 }
 
 PartFile::~PartFile() {
