@@ -53,12 +53,17 @@ std::string TextOf(const fs::path& file) {
 
 } // namespace
 
-Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder) {
-    const Folder outputs;
-    const fs::path out = outputs.Path() / "out", err = outputs.Path() / "err";
+std::wstring CommandLineOf(const std::vector<std::string>& arguments) {
     std::wstring line = L"\"" + Program().wstring() + L"\"";
     for (const std::string& argument : arguments)
         line += L" " + Quoted(argument);
+    return line;
+}
+
+Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder) {
+    const Folder outputs;
+    const fs::path out = outputs.Path() / "out", err = outputs.Path() / "err";
+    std::wstring line = CommandLineOf(arguments);
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;

@@ -56,13 +56,21 @@ void WriteStreams(const std::wstring& file, const std::map<std::string, orlo::By
     if (FAILED(committed)) Fail(committed, "its copy");
 }
 
-// The copy on the disk, created when the document was.
+// The copy on the disk, with the document's attributes and time of creation.
 void Settle(const std::wstring& copy, const std::wstring& document) {
-    WIN32_FILE_ATTRIBUTE_DATA times;
-    const OwnedFile file = OpenFile(copy, GENERIC_READ | GENERIC_WRITE, 0);
-    if (::GetFileAttributesExW(document.c_str(), GetFileExInfoStandard, &times))
-        ::SetFileTime(file.get(), &times.ftCreationTime, nullptr, nullptr);
-    if (!::FlushFileBuffers(file.get())) FailBySystem("its copy");
+    WIN32_FILE_ATTRIBUTE_DATA kept;
+    if (!::GetFileAttributesExW(document.c_str(), GetFileExInfoStandard, &kept))
+        FailBySystem("its attributes can't be kept");
+    {
+        const OwnedFile file = OpenFile(copy, GENERIC_READ | GENERIC_WRITE, 0);
+        ::SetFileTime(file.get(), &kept.ftCreationTime, nullptr, nullptr);
+        if (!::FlushFileBuffers(file.get())) FailBySystem("its copy");
+    }
+    constexpr DWORD kSettable = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                                FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    const DWORD attributes = kept.dwFileAttributes & kSettable;
+    if (!::SetFileAttributesW(copy.c_str(), attributes != 0 ? attributes : FILE_ATTRIBUTE_NORMAL))
+        FailBySystem("its attributes can't be kept");
 }
 
 } // namespace
