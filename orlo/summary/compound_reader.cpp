@@ -397,18 +397,25 @@ uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
     return At(shortStreams_[static_cast<size_t>(inside / sectorBytes_)]) + inside % sectorBytes_;
 }
 
+// Neighbouring sectors are read at once: most streams are one run of them.
 std::vector<uint8_t> CompoundReader::Structure::Read(const CompoundStream& stream) const {
     const bool isShort = IsShort(stream.size);
     const size_t each = isShort ? kShortSectorBytes : sectorBytes_;
     const uint64_t most = std::min(stream.sectors, Pieces(stream.size, each));
+    const auto sectors = (isShort ? shortTable_ : table_).Follow(stream.start, most);
+    const auto at = [&](size_t i) { return isShort ? ShortAt(sectors[i]) : At(sectors[i]); };
+    constexpr size_t kLongestRun = 2048;
     std::vector<uint8_t> bytes;
-    for (const uint32_t sector : (isShort ? shortTable_ : table_).Follow(stream.start, most)) {
-        const uint64_t at = isShort ? ShortAt(sector) : At(sector);
+    for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
+        do
+            ++next;
+        while (next < sectors.size() && next - first < kLongestRun && at(next) == at(next - 1) + each);
         const size_t before = bytes.size();
-        const uint64_t wanted = std::min<uint64_t>(each, stream.size - before);
-        const auto there = static_cast<size_t>(at < fileSize_ ? std::min(wanted, fileSize_ - at) : 0);
+        const uint64_t start = at(first);
+        const uint64_t wanted = std::min<uint64_t>((next - first) * each, stream.size - before);
+        const auto there = static_cast<size_t>(start < fileSize_ ? std::min(wanted, fileSize_ - start) : 0);
         bytes.resize(before + there);
-        if (there == 0 || !read_(at, bytes.data() + before, there)) bytes.resize(before);
+        if (there == 0 || !read_(start, bytes.data() + before, there)) bytes.resize(before);
         if (bytes.size() - before != wanted) break;
     }
     return bytes;
