@@ -53,6 +53,19 @@ size_t EntryAt(const ByteVector& file, uint32_t entry) {
 }
 constexpr size_t kName = 0, kChild = 76, kStart = 116, kSize = 120;
 
+// Gives the first stream sectors of its own behind the others, and says which is the last. The file ends after `there` bytes
+// of them.
+uint32_t AddLongStream(ByteVector& file, size_t size, size_t there) {
+    const auto first = static_cast<uint32_t>(file.size() / kSector - 1);
+    const auto last = static_cast<uint32_t>(first + (size - 1) / kSector);
+    file.resize(file.size() + there);
+    for (uint32_t sector = first; sector <= last; ++sector)
+        Put(file, NextOf(file, sector), sector == last ? 0xFFFFFFFE : sector + 1);
+    Put(file, EntryAt(file, 1) + kStart, first);
+    Put(file, EntryAt(file, 1) + kSize, static_cast<uint32_t>(size));
+    return last;
+}
+
 TEST(CompoundReader, RealFiles) {
     const struct {
         const char* name;
@@ -147,13 +160,23 @@ const Bend kBends[] = {
     {"ShortStreamsRunIntoTheDirectory",
      [](ByteVector& file) { Put(file, EntryAt(file, 0) + kStart, DirectoryOf(file)); },
      CompoundState::unsafe},
+    {"ShortStreamsEndEarly",
+     [](ByteVector& file) { Put(file, NextOf(file, Number(file, EntryAt(file, 0) + kStart)), 0xFFFFFFFE); },
+     CompoundState::unsafe},
     {"StreamInACircle",
      [](ByteVector& file) {
-         Put(file, EntryAt(file, 1) + kStart, 4); // where the text is now
-         Put(file, EntryAt(file, 1) + kSize, 9000);
-         Put(file, NextOf(file, 4), 4);
+         const uint32_t last = AddLongStream(file, 9 * kSector, 9 * kSector);
+         Put(file, NextOf(file, last), last);
      },
      CompoundState::unsafe},
+    {"StreamInACutSector", [](ByteVector& file) { AddLongStream(file, 9 * kSector, 9 * kSector - 200); },
+     CompoundState::torn},
+    {"CutSectorBehindTheStream",
+     [](ByteVector& file) { AddLongStream(file, 9 * kSector - 200, 9 * kSector - 200); },
+     CompoundState::sound},
+    {"StreamsShareSectors",
+     [](ByteVector& file) { Put(file, EntryAt(file, 2) + kStart, Number(file, EntryAt(file, 1) + kStart)); },
+     CompoundState::torn},
     {"StreamRunsIntoTheTable",
      [](ByteVector& file) {
          Put(file, EntryAt(file, 1) + kStart, Number(file, 76));
@@ -165,6 +188,50 @@ const Bend kBends[] = {
     {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); },
      CompoundState::torn},
 };
+
+// A hundred streams on one chain would be a hundred times the file.
+TEST(CompoundReader, SharedSectorsAreReadOnceMoreAtTheMost) {
+    ByteVector file = Load("test11--695187.doc");
+    AddLongStream(file, 60 * kSector, 60 * kSector);
+    for (const uint32_t entry : {2u, 3u})
+        for (const size_t field : {kStart, kSize})
+            Put(file, EntryAt(file, entry) + field, Number(file, EntryAt(file, 1) + field));
+    size_t all = 0;
+    const orlo::CompoundReader reader = ReaderOf(file);
+    for (const orlo::CompoundStream& stream : reader.Streams())
+        all += reader.Read(stream).size();
+    EXPECT_GT(all, 2 * 60 * kSector);
+    EXPECT_LT(all, 2 * file.size());
+}
+
+// Their paths would fill the memory.
+TEST(CompoundReader, StoragesInStoragesWithoutEnd) {
+    ByteVector file = Load("test11--695187.doc");
+    constexpr uint32_t kStorages = 100;
+    const auto first = static_cast<uint32_t>(file.size() / kSector - 1);
+    file.resize(file.size() + kStorages / 4 * kSector);
+    for (uint32_t sector = first; sector < first + kStorages / 4; ++sector)
+        Put(file, NextOf(file, sector), sector + 1 < first + kStorages / 4 ? sector + 1 : 0xFFFFFFFE);
+    uint32_t last = DirectoryOf(file), entries = 4;
+    for (; Number(file, NextOf(file, last)) != 0xFFFFFFFE; last = Number(file, NextOf(file, last)))
+        entries += 4;
+    Put(file, NextOf(file, last), first);
+    const ByteVector storage(file.begin() + static_cast<ptrdiff_t>(EntryAt(file, 1)),
+                             file.begin() + static_cast<ptrdiff_t>(EntryAt(file, 2)));
+    for (uint32_t i = 0; i < kStorages; ++i) {
+        const size_t at = SectorAt(first) + 128 * i;
+        std::copy(storage.begin(), storage.end(), file.begin() + static_cast<ptrdiff_t>(at));
+        file[at + 66] = 1;
+        Put(file, at + 68, 0xFFFFFFFF);
+        Put(file, at + 72, 0xFFFFFFFF);
+        Put(file, at + kChild, i + 1 < kStorages ? entries + i + 1 : 0xFFFFFFFF);
+    }
+    Put(file, EntryAt(file, 0) + kChild, entries);
+    const orlo::CompoundReader reader = ReaderOf(file);
+    const auto& damage = reader.Damage();
+    const std::string said(damage.empty() ? "" : damage[0]);
+    EXPECT_NE(said.find("more than 64 deep"), std::string::npos) << said;
+}
 
 class Bent : public testing::TestWithParam<Bend> {};
 
