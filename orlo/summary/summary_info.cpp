@@ -76,12 +76,20 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
            SetLength(stream, after.size());
 }
 
+// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros behind.
+void PutBack(IStream* stream, Bytes bytes) {
+    if (!SetLength(stream, bytes.size())) {
+        bytes.resize(std::max(bytes.size(), kShortestLong));
+        SetLength(stream, bytes.size());
+    }
+    WritePart(stream, bytes, 0, bytes.size());
+}
+
 bool Replace(IStream* stream, const Bytes& before, Bytes after) {
     // A long stream stays long, filled with zeros: among the short ones it would need room again.
     if (before.size() >= kShortestLong && after.size() < kShortestLong) after.resize(kShortestLong);
     if (WriteOver(stream, before, after)) return true;
-    SetLength(stream, before.size());
-    WritePart(stream, before, 0, before.size());
+    PutBack(stream, before);
     return false;
 }
 

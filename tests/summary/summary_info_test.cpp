@@ -272,6 +272,14 @@ Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD m
     return {done, disk.bytes};
 }
 
+// A summary may have zeros behind it that make its stream a long one.
+Streams WithoutZeros(Streams streams) {
+    const auto summary = streams.find(u"\005SummaryInformation");
+    while (summary != streams.end() && !summary->second.empty() && summary->second.back() == 0)
+        summary->second.pop_back();
+    return streams;
+}
+
 // Direct and transacted; a document with a short, a long and no summary, and a short or long one to save.
 class Saving : public testing::TestWithParam<std::tuple<DWORD, std::string, size_t>> {
 protected:
@@ -289,7 +297,8 @@ TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
     int saved = 0;
     for (ULONGLONG room = 0; room < 36000; room += 512) {
         const Saved result = SaveWithRoom(document_, room, mode_, summary_.get());
-        EXPECT_EQ(StreamsOf(result.file), result.done ? after : before_) << room << " bytes of room";
+        EXPECT_EQ(WithoutZeros(StreamsOf(result.file)), WithoutZeros(result.done ? after : before_))
+            << room << " bytes of room";
         EXPECT_LE(ReaderOf(result.file).State(), orlo::CompoundState::torn) << room << " bytes of room";
         saved += result.done;
     }
@@ -319,7 +328,8 @@ TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
 
 INSTANTIATE_TEST_SUITE_P(Documents, Saving,
                          testing::Combine(testing::Values(DWORD{STGM_DIRECT}, DWORD{STGM_TRANSACTED}),
-                                          testing::Values("before", std::string(6000, 'b'), ""),
+                                          testing::Values("before", std::string(3000, 'm'),
+                                                          std::string(6000, 'b'), ""),
                                           testing::Values(size_t{3}, size_t{3000}, size_t{20000})));
 
 } // namespace
