@@ -23,17 +23,21 @@ bool ReadFrom(HANDLE file, uint64_t offset, void* buffer, size_t size) {
 
 } // namespace
 
-CompoundState CheckCompoundFile(const wchar_t* path) {
+CompoundReader ReadCompoundFile(void* file) {
+    LARGE_INTEGER size;
+    if (!::GetFileSizeEx(file, &size)) size.QuadPart = 0;
+    const ReadAt read = [file](uint64_t offset, void* buffer, size_t count) {
+        return ReadFrom(file, offset, buffer, count);
+    };
+    return CompoundReader(read, static_cast<uint64_t>(size.QuadPart));
+}
+
+CompoundState StateOfCompoundFile(const wchar_t* path) {
     constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE opened = ::CreateFileW(path, GENERIC_READ, kSharing, nullptr, OPEN_EXISTING, 0, nullptr);
     if (opened == INVALID_HANDLE_VALUE) return CompoundState::foreign;
     const OwnedFile file(opened);
-    LARGE_INTEGER size;
-    if (!::GetFileSizeEx(opened, &size)) return CompoundState::foreign;
-    const ReadAt read = [opened](uint64_t offset, void* buffer, size_t count) {
-        return ReadFrom(opened, offset, buffer, count);
-    };
-    return CheckCompoundFile(read, static_cast<uint64_t>(size.QuadPart));
+    return ReadCompoundFile(opened).State();
 }
 
 } // namespace orlo

@@ -1,11 +1,13 @@
-// The structure check of compound_check.h for a file by its name.
+// The reader of compound_reader.h for files of the system.
 #pragma once
 
-#include "orlo/summary/compound_check.h"
+#include "orlo/summary/compound_reader.h"
 
 namespace orlo {
 
-// foreign also for a file that can't be read: whoever opens it next hears why.
-ORLO_API CompoundState CheckCompoundFile(const wchar_t* path);
+// Over an open file. The handle stays the caller's, open as long as the reader is used.
+ORLO_API CompoundReader ReadCompoundFile(void* file);
+// By name, whoever else has it open. foreign also for a file that can't be read: whoever opens it next hears why.
+CompoundState StateOfCompoundFile(const wchar_t* path);
 
 } // namespace orlo

@@ -2,6 +2,7 @@
 
 #include "orlo/summary/summary_info.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,10 @@ using orlo::Receive;
 namespace {
 
 constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
+constexpr DWORD kChange = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kReplace = STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE;
-constexpr wchar_t kTrialName[] = L"SummaryInformation on trial";
+constexpr size_t kShortestLong = 4096; // bytes: shorter streams lie together in sectors that they share
+using Bytes = std::vector<BYTE>;
 
 std::wstring Wide(const char* text) {
     const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
@@ -26,68 +29,95 @@ std::wstring Wide(const char* text) {
     return wide;
 }
 
-HRESULT OpenForReading(IStorage* storage, Owned<IStream>& stream) {
-    return storage->OpenStream(Wide(kSummaryStreamName).c_str(), nullptr, kRead, 0, Receive(stream));
+bool SeekTo(IStream* stream, size_t offset) {
+    LARGE_INTEGER at;
+    at.QuadPart = static_cast<LONGLONG>(offset);
+    return SUCCEEDED(stream->Seek(at, STREAM_SEEK_SET, nullptr));
 }
 
-HRESULT Replace(IStorage* storage, Owned<IStream>& stream) {
-    return storage->CreateStream(Wide(kSummaryStreamName).c_str(), kReplace, 0, 0, Receive(stream));
+// Piece by piece: a damaged stream may announce any size.
+bool ReadAll(IStream* stream, Bytes& bytes) {
+    constexpr ULONG kPiece = 4096;
+    if (!SeekTo(stream, 0)) return false;
+    for (ULONG got = 1; got != 0;) {
+        const size_t before = bytes.size();
+        bytes.resize(before + kPiece);
+        if (FAILED(stream->Read(bytes.data() + before, kPiece, &got))) return false;
+        bytes.resize(before + got);
+    }
+    return true;
 }
 
-Owned<IStream> MemoryStream() {
+// From `offset` up to `end` of the bytes, to the same place of the stream.
+bool WritePart(IStream* stream, const Bytes& bytes, size_t offset, size_t end) {
+    const ULONG size = static_cast<ULONG>(end - offset);
+    ULONG written = 0;
+    return size == 0 || (SeekTo(stream, offset) &&
+                         SUCCEEDED(stream->Write(bytes.data() + offset, size, &written)) && written == size);
+}
+
+bool SetLength(IStream* stream, size_t length) {
+    ULARGE_INTEGER size;
+    size.QuadPart = length;
+    return SUCCEEDED(stream->SetSize(size));
+}
+
+bool ImageOf(CPropertySet* set, Bytes& image) {
     Owned<IStream> stream;
     ::CreateStreamOnHGlobal(nullptr, TRUE, Receive(stream));
-    return stream;
+    return stream && OleStdWriteSummaryInfo(stream.get(), set) && ReadAll(stream.get(), image);
 }
 
-// All of one stream to the other, both from their heads.
-bool CopyAll(IStream* from, IStream* to) {
-    const LARGE_INTEGER head = {};
-    ULARGE_INTEGER all, read = {}, written = {};
-    all.QuadPart = ~ULONGLONG{0};
-    return SUCCEEDED(from->Seek(head, STREAM_SEEK_SET, nullptr)) &&
-           SUCCEEDED(from->CopyTo(to, all, &read, &written)) && read.QuadPart == written.QuadPart;
+// What the new bytes are longer comes first, behind the old ones: where room is short, it shows before those are touched.
+bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
+    const size_t common = std::min(before.size(), after.size());
+    return (after.size() <= before.size() || SetLength(stream, after.size())) &&
+           WritePart(stream, after, common, after.size()) && WritePart(stream, after, 0, common) &&
+           SetLength(stream, after.size());
 }
 
-// Writes the image under another name and takes it away again: room that is lacking shows while the old summary is still
-// untouched, and what was allocated for the trial is free for the real one.
-bool HasRoom(IStorage* storage, IStream* image) {
-    Owned<IStream> trial;
-    if (FAILED(storage->CreateStream(kTrialName, kReplace, 0, 0, Receive(trial))))
-        return true; // the real one will tell
-    const bool written = CopyAll(image, trial.get());
-    trial.reset();
-    storage->DestroyElement(kTrialName);
-    return written;
-}
-
-// What a storage holds under the summary's name before it is written over. What can't be read isn't touched
-// either.
-class SummaryBefore {
-public:
-    explicit SummaryBefore(IStorage* storage) : storage_(storage) {
-        Owned<IStream> stream;
-        const HRESULT opened = OpenForReading(storage, stream);
-        wasAbsent_ = opened == STG_E_FILENOTFOUND;
-        if (FAILED(opened)) return;
-        copy_ = MemoryStream();
-        if (!copy_ || !CopyAll(stream.get(), copy_.get())) copy_.reset();
+// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros behind.
+void PutBack(IStream* stream, Bytes bytes) {
+    if (!SetLength(stream, bytes.size())) {
+        bytes.resize(std::max(bytes.size(), kShortestLong));
+        SetLength(stream, bytes.size());
     }
+    WritePart(stream, bytes, 0, bytes.size());
+}
 
-    // After a failure. The stream that failed has been released.
-    void PutBack() {
-        Owned<IStream> stream;
-        if (wasAbsent_)
-            storage_->DestroyElement(Wide(kSummaryStreamName).c_str());
-        else if (copy_ && SUCCEEDED(Replace(storage_, stream)))
-            CopyAll(copy_.get(), stream.get());
-    }
+bool Replace(IStream* stream, const Bytes& before, Bytes after) {
+    // A long stream stays long, filled with zeros: among the short ones it would need room again.
+    if (before.size() >= kShortestLong && after.size() < kShortestLong) after.resize(kShortestLong);
+    if (WriteOver(stream, before, after)) return true;
+    PutBack(stream, before);
+    return false;
+}
 
-private:
-    IStorage* storage_;
-    bool wasAbsent_ = false;
-    Owned<IStream> copy_;
-};
+// The room that a short stream takes is looked for by a long one, which the system can take away again on a full disk.
+bool HasRoomForShort(IStream* stream) {
+    const Bytes room(2 * kShortestLong);
+    const bool written = SetLength(stream, room.size()) && WritePart(stream, room, 0, room.size());
+    return SetLength(stream, 0) && written;
+}
+
+// Some systems open a stream for writing all the same.
+bool IsReadOnly(IStorage* storage) {
+    STATSTG stat;
+    return SUCCEEDED(storage->Stat(&stat, STATFLAG_NONAME)) &&
+           (stat.grfMode & (STGM_WRITE | STGM_READWRITE)) == 0;
+}
+
+HRESULT WriteNew(IStorage* storage, const wchar_t* name, const Bytes& image) {
+    Owned<IStream> stream;
+    const HRESULT created = storage->CreateStream(name, kReplace, 0, 0, Receive(stream));
+    if (FAILED(created)) return created;
+    if ((image.size() >= kShortestLong || HasRoomForShort(stream.get())) &&
+        WritePart(stream.get(), image, 0, image.size()))
+        return created;
+    stream.reset();
+    storage->DestroyElement(name);
+    return E_FAIL;
+}
 
 } // namespace
 
@@ -138,31 +168,33 @@ HRESULT SetSummaryInfoThumbnail(CPropertySet* pSumInfo, DWORD dwFormat, HGLOBAL 
 HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
     Owned<IStream> stream;
-    const HRESULT opened = OpenForReading(pStorage, stream);
+    const HRESULT opened =
+        pStorage->OpenStream(Wide(kSummaryStreamName).c_str(), nullptr, kRead, 0, Receive(stream));
     if (FAILED(opened)) return opened;
     return OleStdReadSummaryInfo(stream.get(), pSumInfo) ? opened : E_FAIL;
 }
 
 HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
+    if (IsReadOnly(pStorage)) return STG_E_ACCESSDENIED;
     // First into memory: what fails there costs the document nothing.
-    const Owned<IStream> image = MemoryStream();
-    if (!image || !OleStdWriteSummaryInfo(image.get(), pSumInfo)) return E_FAIL;
-    if (!HasRoom(pStorage, image.get())) return E_FAIL;
-    SummaryBefore before(pStorage);
+    Bytes image, before;
+    if (!ImageOf(pSumInfo, image)) return E_FAIL;
+    const std::wstring name = Wide(kSummaryStreamName);
     Owned<IStream> stream;
-    const HRESULT created = Replace(pStorage, stream);
-    if (SUCCEEDED(created) && CopyAll(image.get(), stream.get())) return created;
-    stream.reset();
-    before.PutBack();
-    return FAILED(created) ? created : E_FAIL;
+    const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
+    if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);
+    if (FAILED(opened)) return opened;
+    if (ReadAll(stream.get(), before)) return Replace(stream.get(), before, image) ? opened : E_FAIL;
+    stream.reset(); // damaged: there is nothing to keep
+    return WriteNew(pStorage, name.c_str(), image);
 }
 
 HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo) {
     if (!pszFileName || !ppStorage || !ppSumInfo) return E_FAIL;
     *ppStorage = nullptr;
     const std::wstring name = Wide(pszFileName);
-    if (orlo::CheckCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
+    if (orlo::StateOfCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
     HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, ppStorage);
     if (FAILED(result)) return result;
     if (!*ppSumInfo) *ppSumInfo = OleStdInitSummaryInfo(0);

@@ -318,6 +318,16 @@ TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
     EXPECT_EQ(BytesOf(file), before);
 }
 
+TEST_F(Edit, AttributesStay) {
+    const fs::path file = Document("test11--695187.doc");
+    constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    ASSERT_TRUE(::SetFileAttributesW(file.c_str(), kKept));
+    const DWORD before = ::GetFileAttributesW(file.c_str());
+    ExpectDone({"set", file.string(), "title=New"});
+    EXPECT_EQ(::GetFileAttributesW(file.c_str()), before);
+    EXPECT_EQ(Content(file)["title"], "New");
+}
+
 TEST_F(Edit, CopyGivesBothSummaries) {
     const fs::path from = Document("testEXCEL-custom-props--fff0cb.xls"), to = Document("25695--d41532.xls");
     auto before = StreamsOf(to), source = StreamsOf(from);

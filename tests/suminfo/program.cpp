@@ -53,14 +53,19 @@ std::string TextOf(const fs::path& file) {
 
 } // namespace
 
+std::wstring CommandLineOf(const std::vector<std::string>& arguments) {
+    std::wstring line = L"\"" + Program().wstring() + L"\"";
+    for (const std::string& argument : arguments)
+        line += L" " + Quoted(argument);
+    return line;
+}
+
 Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder,
                    const std::string& input) {
     const Folder outputs;
     const fs::path in = outputs.Path() / "in", out = outputs.Path() / "out", err = outputs.Path() / "err";
     std::ofstream(in, std::ios::binary) << input;
-    std::wstring line = L"\"" + Program().wstring() + L"\"";
-    for (const std::string& argument : arguments)
-        line += L" " + Quoted(argument);
+    std::wstring line = CommandLineOf(arguments);
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;

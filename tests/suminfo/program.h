@@ -10,6 +10,8 @@ struct Outcome {
     std::string out, err;
 };
 
+// What starts suminfo.exe with these arguments, in UTF-8.
+std::wstring CommandLineOf(const std::vector<std::string>& arguments);
 // Arguments in UTF-8; the working folder is the given one; on standard input stands the given text.
 Outcome RunSuminfo(const std::vector<std::string>& arguments,
                    const std::filesystem::path& folder = std::filesystem::temp_directory_path(),

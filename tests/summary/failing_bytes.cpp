@@ -24,6 +24,7 @@ HRESULT FailingBytes::WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size,
     const auto from = static_cast<size_t>(at.QuadPart);
     if (bytes.size() < from + size) bytes.resize(from + size);
     std::copy_n(static_cast<const uint8_t*>(buffer), size, bytes.begin() + static_cast<ptrdiff_t>(from));
+    if (keepsHistory) history.push_back(bytes);
     if (done) *done = size;
     return S_OK;
 }
@@ -31,6 +32,7 @@ HRESULT FailingBytes::WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size,
 HRESULT FailingBytes::SetSize(ULARGE_INTEGER size) {
     if (size.QuadPart > std::max<ULONGLONG>(capacity, bytes.size())) return STG_E_MEDIUMFULL;
     bytes.resize(static_cast<size_t>(size.QuadPart));
+    if (keepsHistory) history.push_back(bytes);
     return S_OK;
 }
 

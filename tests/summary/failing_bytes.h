@@ -18,6 +18,9 @@ public:
     // In bytes. Writing beyond it fails as a full disk does. Overwriting goes on.
     ULONGLONG capacity = ~ULONGLONG{0};
     std::vector<uint8_t> bytes;
+    // What the disk held after each step, if it is to be kept: where a killed program leaves it.
+    bool keepsHistory = false;
+    std::vector<std::vector<uint8_t>> history;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives where it stands

@@ -11,6 +11,7 @@
 #include <string>
 #include <tuple>
 
+#include "compound_bytes.h"
 #include "failing_bytes.h"
 #include "orlo/propset/property_set.h"
 
@@ -172,7 +173,11 @@ TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
     ASSERT_EQ(storage->OpenStream(kStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
     STATSTG stat;
     stream->Stat(&stat, STATFLAG_NONAME);
-    EXPECT_LT(stat.cbSize.QuadPart, 200u) << "nothing of the longer one is left";
+    EXPECT_LE(stat.cbSize.QuadPart, 4096u);
+    std::string rest(4096, 'x');
+    ULONG read = 0;
+    stream->Read(rest.data(), 4096, &read);
+    EXPECT_EQ(rest.substr(0, read).find("xx"), std::string::npos) << "nothing of the longer one is left";
     stream->Release();
     ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
     char text[12] = {};
@@ -251,47 +256,80 @@ std::vector<uint8_t> DocumentWith(const std::string& title) {
     return disk.bytes;
 }
 
-// What saving into a document on a disk with so many bytes of room left came to, and the title that is there afterwards.
-struct Outcome {
-    bool saved;
-    std::string title;
+struct Saved {
+    bool done;
+    std::vector<uint8_t> file;
 };
 
-Outcome SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode,
-                     const std::string& title) {
+// Saving into a document on a disk with so many bytes of room left.
+Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode, CPropertySet* summary) {
     FailingBytes disk(document);
     disk.capacity = document.size() + room;
-    bool saved;
-    {
-        const Storage storage = OpenOn(disk, STGM_READWRITE | mode);
-        saved = SUCCEEDED(SaveSummaryInfo(storage.get(), SummaryOf(title).get())) &&
-                SUCCEEDED(storage->Commit(STGC_DEFAULT));
-    }
-    disk.capacity = ~ULONGLONG{0};
-    return {saved, TitleIn(OpenOn(disk, STGM_READ).get())};
+    Storage storage = OpenOn(disk, STGM_READWRITE | mode);
+    const bool done =
+        SUCCEEDED(SaveSummaryInfo(storage.get(), summary)) && SUCCEEDED(storage->Commit(STGC_DEFAULT));
+    storage.reset();
+    return {done, disk.bytes};
 }
 
-// Direct and transacted; a document with a short, a long and no summary.
-class FullDisk : public testing::TestWithParam<std::tuple<DWORD, std::string>> {};
+// A summary may have zeros behind it that make its stream a long one.
+Streams WithoutZeros(Streams streams) {
+    const auto summary = streams.find(u"\005SummaryInformation");
+    while (summary != streams.end() && !summary->second.empty() && summary->second.back() == 0)
+        summary->second.pop_back();
+    return streams;
+}
 
-// Every free sector too few, from none to enough: the new summary or the old one, and the result says which.
-TEST_P(FullDisk, KeepsTheOldSummary) {
-    const auto& [mode, before] = GetParam();
-    const std::string after(20000, 'n');
-    const std::vector<uint8_t> document = DocumentWith(before);
-    int refused = 0, saved = 0;
+// Direct and transacted; a document with a short, a long and no summary, and a short or long one to save.
+class Saving : public testing::TestWithParam<std::tuple<DWORD, std::string, size_t>> {
+protected:
+    const DWORD mode_ = std::get<0>(GetParam());
+    const std::vector<uint8_t> document_ = DocumentWith(std::get<1>(GetParam()));
+    const OwnedSummary summary_ = SummaryOf(std::string(std::get<2>(GetParam()), 'n'));
+    const Streams before_ = StreamsOf(document_);
+};
+
+// Every free sector too few, from none to enough: all streams are as before, or only the summary is the new one, and the
+// result says which.
+TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
+    const Streams after = StreamsOf(SaveWithRoom(document_, 100000, mode_, summary_.get()).file);
+    ASSERT_NE(after, before_);
+    int saved = 0;
     for (ULONGLONG room = 0; room < 36000; room += 512) {
-        const Outcome outcome = SaveWithRoom(document, room, mode, after);
-        const std::string expected = outcome.saved ? after : before.empty() ? "(none)" : before;
-        EXPECT_EQ(outcome.title, expected) << room << " bytes of room";
-        ++(outcome.saved ? saved : refused);
+        const Saved result = SaveWithRoom(document_, room, mode_, summary_.get());
+        EXPECT_EQ(WithoutZeros(StreamsOf(result.file)), WithoutZeros(result.done ? after : before_))
+            << room << " bytes of room";
+        EXPECT_LE(ReaderOf(result.file).State(), orlo::CompoundState::torn) << room << " bytes of room";
+        saved += result.done;
     }
-    EXPECT_GT(refused, 10);
     EXPECT_GT(saved, 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, FullDisk,
+// Killed after any step: no stream is there that nobody knows, and the others are whole; in a transacted storage the summary
+// is the old or the new one too.
+TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
+    FailingBytes disk(document_);
+    {
+        const Storage storage = OpenOn(disk, STGM_READWRITE | mode_);
+        disk.keepsHistory = true;
+        ASSERT_EQ(SaveSummaryInfo(storage.get(), summary_.get()), S_OK);
+        ASSERT_EQ(storage->Commit(STGC_DEFAULT), S_OK);
+    }
+    ASSERT_GT(disk.history.size(), 1u);
+    const Streams after = StreamsOf(disk.bytes);
+    for (size_t step = 0; step < disk.history.size(); ++step) {
+        SCOPED_TRACE(step);
+        Streams streams = StreamsOf(disk.history[step]);
+        EXPECT_TRUE(mode_ == STGM_DIRECT || streams == before_ || streams == after);
+        streams.erase(u"\005SummaryInformation");
+        EXPECT_EQ(streams, Streams({{u"Contents", before_.at(u"Contents")}}));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, Saving,
                          testing::Combine(testing::Values(DWORD{STGM_DIRECT}, DWORD{STGM_TRANSACTED}),
-                                          testing::Values("before", std::string(6000, 'b'), "")));
+                                          testing::Values("before", std::string(3000, 'm'),
+                                                          std::string(6000, 'b'), ""),
+                                          testing::Values(size_t{3}, size_t{3000}, size_t{20000})));
 
 } // namespace

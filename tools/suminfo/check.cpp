@@ -33,15 +33,15 @@ std::string Line(const std::string& place, const orlo::Finding& finding) {
 
 Report Check(const Source& source) {
     Report report;
-    const std::vector<NamedStream> sets = SetsOf(source);
-    for (const NamedStream& stream : sets) {
-        const std::string place =
-            source.file + (stream.name.empty() ? "" : ": " + StreamNameShown(stream.name));
-        if (!stream.error.empty()) {
-            report.text += place + ": cut after " + std::to_string(stream.bytes.size()) +
-                           " bytes: " + stream.error + "\n";
+    const SourceSets sets = SetsOf(source);
+    for (const auto* all : {&sets.damage, &sets.damagedStreams})
+        for (const std::string& damage : *all) {
+            report.text += source.file + ": damaged: " + damage + "\n";
             report.clean = false;
         }
+    for (const NamedStream& stream : sets.streams) {
+        const std::string place =
+            source.file + (stream.name.empty() ? "" : ": " + StreamNameShown(stream.name));
         std::vector<orlo::Finding> findings;
         orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
         for (const orlo::Finding& finding : findings) {
@@ -50,7 +50,8 @@ Report Check(const Source& source) {
         }
     }
     if (report.clean)
-        report.text += source.file + (sets.empty() ? ": no property sets\n" : ": nothing irregular\n");
+        report.text +=
+            source.file + (sets.streams.empty() ? ": no property sets\n" : ": nothing irregular\n");
     return report;
 }
 

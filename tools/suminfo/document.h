@@ -1,11 +1,7 @@
-// A compound file and the property sets in it.
+// A compound file and the property sets in it, read without the system, which damaged files would hang.
 //
-//   Document document = Document::ForReading(name);
+//   const Document document(name);
 //   for (const NamedStream& set : document.PropertySets()) ...
-//
-//   Document edited = Document::ForWriting(name);
-//   edited.Write("\005SummaryInformation", bytes);
-//   edited.Commit();   // all of it, or none: without Commit, or if it fails, the file is as before
 //
 // Every function throws Failure.
 #pragma once
@@ -15,6 +11,7 @@
 #include <vector>
 
 #include "orlo/propset/value.h"
+#include "orlo/summary/compound_reader.h"
 #include "owned.h"
 
 namespace suminfo {
@@ -31,21 +28,28 @@ struct NamedStream {
 class Document {
 public:
     // Others may read the file meanwhile, and nobody may write it.
-    static Document ForReading(const std::string& file);
-    // Nobody else may have the file open.
-    static Document ForWriting(const std::string& file);
+    explicit Document(const std::string& file);
 
     // Every stream whose name begins with byte 5, in all storages: the document's own first.
     std::vector<NamedStream> PropertySets() const;
     // A stream of the document's own storage, if it is there.
     std::optional<orlo::Bytes> Read(const std::string& name) const;
-    void Write(const std::string& name, const orlo::Bytes& bytes);
-    void Commit();
+
+    // What is damaged in the structure, one text each; PropertySets has what could be read all the same.
+    const std::vector<std::string>& Damage() const { return reader_.Damage(); }
+    // The same for each damaged stream, property set or not.
+    std::vector<std::string> StreamDamage() const;
+    const orlo::CompoundReader& Reader() const { return reader_; }
+    // The file's own name, where the given one is a link.
+    std::wstring Path() const;
+    void Close() { file_.reset(); }
 
 private:
-    explicit Document(Owned<IStorage> storage) : storage_(std::move(storage)) {}
-
-    Owned<IStorage> storage_;
+    OwnedFile file_;
+    orlo::CompoundReader reader_;
 };
+
+// Failure, with the reason, if the system doesn't open it.
+OwnedFile OpenFile(const std::wstring& file, DWORD access, DWORD sharing);
 
 } // namespace suminfo

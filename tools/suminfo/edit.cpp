@@ -1,4 +1,4 @@
-// set, remove and copy: streams read, changed in memory, and written in one transaction.
+// set, remove and copy: streams read, changed in memory, and written all at once.
 
 #include <algorithm>
 #include <map>
@@ -6,7 +6,7 @@
 #include <windows.h>
 
 #include "commands.h"
-#include "document.h"
+#include "edited_document.h"
 #include "edited_set.h"
 #include "failure.h"
 #include "fields.h"
@@ -18,7 +18,7 @@ namespace {
 // The two summary streams of a document, each opened for changes when something wants to change it.
 class Edit {
 public:
-    explicit Edit(const std::string& file) : document_(Document::ForWriting(file)) {}
+    explicit Edit(const std::string& file) : document_(file) {}
 
     EditedSet& SetWith(const GUID& format) {
         const char* name = ::IsEqualGUID(format, kSummaryFormat) ? kSummaryStream : kDocumentSummaryStream;
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    Document document_;
+    EditedDocument document_;
     std::map<std::string, EditedSet> sets_;
 };
 
@@ -90,13 +90,13 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
 void CopySummary(const std::string& from, const std::string& to) {
     std::map<std::string, orlo::Bytes> streams;
     {
-        const Document source = Document::ForReading(from);
+        const Document source(from);
         for (const char* name : {kSummaryStream, kDocumentSummaryStream})
             if (auto bytes = source.Read(name)) streams[name] = Sound(std::move(*bytes), name);
         if (streams.empty()) throw Failure("it has no summary");
     }
     OnFile(to, [&] {
-        Document target = Document::ForWriting(to);
+        EditedDocument target(to);
         for (const auto& [name, bytes] : streams)
             target.Write(name, bytes);
         target.Commit();

@@ -43,4 +43,9 @@ void Fail(HRESULT result, const std::string& doing) {
     throw Failure(doing + ": " + TextOf(result));
 }
 
+// The storage's results are the system's numbers, of a facility of their own.
+void FailBySystem(const std::string& doing) {
+    Fail(MAKE_SCODE(SEVERITY_ERROR, FACILITY_STORAGE, ::GetLastError()), doing);
+}
+
 } // namespace suminfo

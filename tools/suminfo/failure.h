@@ -32,5 +32,7 @@ void OnFile(const std::string& file, Work work) {
 // A result of the storage in words, or its number where words are missing.
 std::string TextOf(HRESULT result);
 [[noreturn]] void Fail(HRESULT result, const std::string& doing);
+// The same for the last error of the system.
+[[noreturn]] void FailBySystem(const std::string& doing);
 
 } // namespace suminfo

@@ -1,9 +1,10 @@
-// A file that is written beside its name and takes it over when it is complete: a failure leaves what was there.
+// A file for a picture or a script, which takes over its name when it is complete: a failure leaves what was there.
 #pragma once
 
 #include <cstdio>
-#include <filesystem>
 #include <string>
+
+#include "part_file.h"
 
 namespace suminfo {
 
@@ -21,7 +22,7 @@ public:
     void Finish();
 
 private:
-    std::filesystem::path path_, part_;
+    PartFile part_;
     FILE* stream_;
 };
 

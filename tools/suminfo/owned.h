@@ -1,4 +1,4 @@
-// Owners of what the storage hands out.
+// Owners of what the system hands out.
 #pragma once
 
 #include <memory>
@@ -17,9 +17,9 @@ struct ReleaseReference {
 template <class Interface>
 using Owned = std::unique_ptr<Interface, ReleaseReference>;
 
-struct FreeTaskMemory {
-    void operator()(void* block) const { ::CoTaskMemFree(block); }
+struct CloseFile {
+    void operator()(HANDLE file) const { ::CloseHandle(file); }
 };
-using OwnedName = std::unique_ptr<OLECHAR, FreeTaskMemory>;
+using OwnedFile = std::unique_ptr<void, CloseFile>;
 
 } // namespace suminfo

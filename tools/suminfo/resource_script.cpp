@@ -111,7 +111,12 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     std::optional<OutputFile> file;
     OnFile(script, [&] { file.emplace(script); });
     CRCFile rc(file->Stream());
-    Print(set, sound.Held(), "Sections of " + source.file, rc);
+    try {
+        Print(set, sound.Held(), "Sections of " + source.file, rc);
+    } catch (CFileException* full) {
+        full->Delete();
+        throw Failure(script, "can't be written: the disk is full or failed");
+    }
     OnFile(script, [&] { file->Finish(); });
 }
 

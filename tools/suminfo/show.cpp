@@ -71,7 +71,7 @@ void AddTable(const NamedStream& stream, Report& report) {
     const auto damaged = std::count_if(findings.begin(), findings.end(), [](const orlo::Finding& finding) {
         return finding.severity == orlo::Severity::damaged;
     });
-    if (!stream.error.empty()) table += "    (cut: " + stream.error + ")\n";
+    if (!stream.error.empty()) table += "    (damaged: " + stream.error + ")\n";
     if (damaged != 0) table += "    (damaged; see suminfo check)\n";
     report.clean = report.clean && stream.error.empty() && damaged == 0;
 }
@@ -80,27 +80,32 @@ void AddTable(const NamedStream& stream, Report& report) {
 
 Report ShowTable(const Source& source) {
     Report report = {source.file + "\n"};
-    const std::vector<NamedStream> sets = SetsOf(source);
-    if (sets.empty()) report.text += "  no property sets\n";
-    for (const NamedStream& stream : sets)
+    const SourceSets sets = SetsOf(source);
+    if (sets.streams.empty()) report.text += "  no property sets\n";
+    for (const NamedStream& stream : sets.streams)
         AddTable(stream, report);
+    for (const std::string& damage : sets.damage)
+        report.text += "  (damaged: " + damage + ")\n";
+    report.clean = report.clean && sets.damage.empty();
     return report;
 }
 
 Report ShowJson(const Source& source) {
     Json json = {{"file", source.file}};
-    const std::vector<NamedStream> sets = SetsOf(source);
+    const SourceSets sets = SetsOf(source);
     Report report;
+    report.clean = sets.damage.empty();
     const auto keep = [&report](Json stream) {
         report.clean = report.clean && !stream.contains("error") && stream["damage"].empty();
         return stream;
     };
     if (source.bare) {
-        json.update(keep(StreamJson(sets.front())));
+        json.update(keep(StreamJson(sets.streams.front())));
         json["stream"] = nullptr;
     } else {
+        json["damage"] = sets.damage;
         Json& list = json["property_sets"] = Json::array();
-        for (const NamedStream& stream : sets)
+        for (const NamedStream& stream : sets.streams)
             list.push_back(keep(StreamJson(stream)));
     }
     report.text = Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";

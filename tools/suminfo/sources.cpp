@@ -13,14 +13,15 @@ namespace fs = std::filesystem;
 
 namespace suminfo {
 
-std::vector<NamedStream> SetsOf(const Source& source) {
-    if (source.bare) return {{"", ReadFile(source.file), ""}};
-    return Document::ForReading(source.file).PropertySets();
+SourceSets SetsOf(const Source& source) {
+    if (source.bare) return {{{"", ReadFile(source.file), ""}}, {}, {}};
+    const Document document(source.file);
+    return {document.PropertySets(), document.Damage(), document.StreamDamage()};
 }
 
 NamedStream SummaryOf(const Source& source) {
     if (source.bare) return {"", ReadFile(source.file), ""};
-    auto bytes = Document::ForReading(source.file).Read(kSummaryStream);
+    auto bytes = Document(source.file).Read(kSummaryStream);
     if (!bytes) throw Failure("it has no summary");
     return {kSummaryStream, std::move(*bytes), ""};
 }

@@ -1,0 +1,443 @@
+// Header, allocation tables, directory, streams: each is checked before what hangs on it is read.
+
+#include "orlo/summary/compound_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+#include "orlo/summary/bytes.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::array<uint8_t, 8> kSignature = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
+constexpr size_t kEntryBytes = 128;
+constexpr size_t kNameBytes = 64;
+constexpr size_t kShortSectorBytes = 64;
+constexpr uint32_t kShorterAreShort = 4096;     // bytes of a stream
+constexpr uint32_t kHighestSector = 0xFFFFFFFA; // above it stand the marks
+constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector, no entry
+constexpr size_t kTablesInHeader = 109;
+constexpr size_t kDeepestStorage = 64; // no document has more
+
+enum Kind : uint8_t { kFree = 0, kStorage = 1, kStream = 2, kRoot = 5 };
+
+uint64_t Pieces(uint64_t size, size_t each) {
+    return size / each + (size % each != 0);
+}
+
+bool IsShort(uint64_t size) {
+    return size < kShorterAreShort;
+}
+
+// Siblings stand in the order of their names: by length, then by letters without case. The order of two letters outside of
+// ASCII is the system's to know.
+bool MayFollow(const std::u16string& before, const std::u16string& after) {
+    if (before.size() != after.size()) return before.size() < after.size();
+    const auto upper = [](char16_t c) { return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c; };
+    for (size_t i = 0; i < before.size(); ++i) {
+        const char16_t first = upper(before[i]), second = upper(after[i]);
+        if (first != second) return first < second || (first > 0x7F && second > 0x7F);
+    }
+    return false;
+}
+
+struct Entry {
+    std::u16string name;
+    bool isNamed;      // the name's length is possible
+    bool isTerminated; // by one NUL, behind the name
+    uint8_t kind;
+    uint32_t left, right, child, start;
+    uint64_t size;
+
+    Entry(const uint8_t* at, bool wideSizes)
+        : kind(at[66]), left(LittleEndian<uint32_t>(at + 68)), right(LittleEndian<uint32_t>(at + 72)),
+          child(LittleEndian<uint32_t>(at + 76)), start(LittleEndian<uint32_t>(at + 116)),
+          size(wideSizes ? LittleEndian<uint64_t>(at + 120) : LittleEndian<uint32_t>(at + 120)) {
+        const auto nameBytes = LittleEndian<uint16_t>(at + 64); // its NUL is one of them
+        isNamed = nameBytes >= 2 && nameBytes <= kNameBytes && nameBytes % 2 == 0;
+        for (size_t i = 0; isNamed && i < nameBytes; i += 2)
+            name.push_back(LittleEndian<uint16_t>(at + i));
+        isTerminated = isNamed && name.find(u'\0') == name.size() - 1;
+        if (isNamed) name.pop_back();
+    }
+};
+
+struct Storage {
+    uint32_t firstEntry;
+    std::u16string path; // with a slash behind it
+    size_t depth;
+};
+
+} // namespace
+
+class CompoundReader::Structure {
+public:
+    Structure(ReadAt read, uint64_t size);
+
+    CompoundState State() const { return state_; }
+    const std::vector<std::string>& Damage() const { return damage_; }
+    const std::vector<CompoundStream>& Streams() const { return streams_; }
+    std::vector<uint8_t> Read(const CompoundStream& stream) const;
+
+private:
+    void Damaged(std::string what, CompoundState state = CompoundState::unsafe);
+    bool ReadHeader();
+    void CheckHeader();
+    uint32_t Header(size_t offset) const;
+    void Count(const char* what, size_t offset, size_t found);
+    std::vector<uint8_t> Sector(uint32_t sector, const char* what);
+    std::vector<uint32_t> Numbers(const std::vector<uint32_t>& sectors, const char* what);
+    bool Claim(uint32_t sector, std::vector<bool>& claimed);
+    void ReadTable();
+    SectorTable::Chain WalkWhole(uint32_t start, const char* what);
+    std::vector<Entry> ReadDirectory();
+    void ReadShortStreams(const Entry& root);
+    void WalkTree(const std::vector<Entry>& entries);
+    bool MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen);
+    void WalkStorage(const std::vector<Entry>& entries, const Storage& storage, std::vector<bool>& seen,
+                     std::vector<Storage>& ahead);
+    void AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen);
+    void CheckName(const Entry& entry, const Entry* before, uint32_t id);
+    void AddStream(const Entry& entry, std::u16string path, bool isLost);
+    void WalkStream(CompoundStream& stream);
+    uint64_t SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort);
+    uint64_t BytesOf(const std::vector<uint32_t>& chain) const;
+    uint64_t At(uint32_t sector) const { return (uint64_t{sector} + 1) * sectorBytes_; }
+    uint64_t ShortAt(uint32_t sector) const;
+
+    ReadAt read_;
+    uint64_t fileSize_;
+    std::array<uint8_t, 512> header_ = {};
+    CompoundState state_ = CompoundState::foreign;
+    size_t sectorBytes_ = 0;
+    uint64_t sectors_ = 0;    // that the file has room for; a last one that was cut is one all the same
+    uint64_t sharedLeft_ = 0; // sectors that streams may still have together
+    SectorTable table_, shortTable_;
+    std::vector<uint32_t> shortStreams_; // sectors of the stream that the short ones lie in
+    std::vector<std::string> damage_;
+    std::vector<CompoundStream> streams_;
+};
+
+CompoundReader::Structure::Structure(ReadAt read, uint64_t size) : read_(std::move(read)), fileSize_(size) {
+    if (!ReadHeader()) return;
+    ReadTable();
+    const std::vector<Entry> entries = ReadDirectory();
+    if (entries.empty() || entries[0].kind != kRoot) {
+        Damaged("the directory: it has no root");
+        return;
+    }
+    ReadShortStreams(entries[0]);
+    WalkTree(entries);
+}
+
+void CompoundReader::Structure::Damaged(std::string what, CompoundState state) {
+    damage_.push_back(std::move(what));
+    state_ = std::max(state_, state);
+}
+
+uint32_t CompoundReader::Structure::Header(size_t offset) const {
+    return LittleEndian<uint32_t>(header_.data() + offset);
+}
+
+// False if nothing behind it can be found.
+bool CompoundReader::Structure::ReadHeader() {
+    if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
+    if (!std::equal(kSignature.begin(), kSignature.end(), header_.begin())) return false;
+    state_ = CompoundState::sound;
+    const auto shift = LittleEndian<uint16_t>(header_.data() + 30);
+    if (shift != 9 && shift != 12) {
+        Damaged("the header: sectors of 2^" + std::to_string(shift) + " bytes");
+        return false;
+    }
+    sectorBytes_ = size_t{1} << shift;
+    sectors_ = std::min<uint64_t>(Pieces(fileSize_, sectorBytes_) - 1, kHighestSector);
+    sharedLeft_ = sectors_;
+    CheckHeader();
+    return true;
+}
+
+void CompoundReader::Structure::CheckHeader() {
+    const auto isFixed = [this](size_t offset, uint16_t value) {
+        return LittleEndian<uint16_t>(header_.data() + offset) == value;
+    };
+    if (!isFixed(26, sectorBytes_ == 512 ? 3 : 4)) Damaged("the header: its version");
+    if (!isFixed(28, 0xFFFE)) Damaged("the header: its byte order");
+    if (!isFixed(32, 6)) Damaged("the header: the size of short sectors");
+    if (Header(56) != kShorterAreShort) Damaged("the header: the limit of short streams");
+}
+
+// A number of the header, against what was found.
+void CompoundReader::Structure::Count(const char* what, size_t offset, size_t found) {
+    if (Header(offset) == found) return;
+    Damaged(std::string("the header: ") + std::to_string(Header(offset)) + " sectors of " + what + ", and " +
+            std::to_string(found) + " are there");
+}
+
+// A part of the structure. What isn't there reads as free.
+std::vector<uint8_t> CompoundReader::Structure::Sector(uint32_t sector, const char* what) {
+    std::vector<uint8_t> bytes(sectorBytes_, 0xFF);
+    const uint64_t at = At(sector);
+    const uint64_t there = sector < sectors_ ? std::min<uint64_t>(bytes.size(), fileSize_ - at) : 0;
+    if (there != bytes.size() || !read_(at, bytes.data(), bytes.size())) {
+        Damaged(std::string(what) + ": sector " + std::to_string(sector) + " can't be read");
+        if (there != 0) read_(at, bytes.data(), static_cast<size_t>(there));
+    }
+    return bytes;
+}
+
+// All numbers of these sectors, one after the other.
+std::vector<uint32_t> CompoundReader::Structure::Numbers(const std::vector<uint32_t>& sectors,
+                                                         const char* what) {
+    std::vector<uint32_t> numbers;
+    for (const uint32_t sector : sectors) {
+        const std::vector<uint8_t> bytes = Sector(sector, what);
+        for (size_t i = 0; i < bytes.size(); i += 4)
+            numbers.push_back(LittleEndian<uint32_t>(bytes.data() + i));
+    }
+    return numbers;
+}
+
+bool CompoundReader::Structure::Claim(uint32_t sector, std::vector<bool>& claimed) {
+    const bool isFree = sector < claimed.size() && !claimed[sector];
+    if (isFree)
+        claimed[sector] = true;
+    else
+        Damaged("the allocation table: sector " + std::to_string(sector) +
+                (sector < claimed.size() ? " is named twice" : " isn't there"));
+    return isFree;
+}
+
+// Its own sectors are listed in the header, then in a chain of further lists.
+void CompoundReader::Structure::ReadTable() {
+    constexpr char kWhat[] = "the allocation table";
+    std::vector<uint32_t> tables;
+    std::vector<bool> claimed(static_cast<size_t>(sectors_));
+    const auto add = [&](uint32_t sector) {
+        if (sector != kNone && Claim(sector, claimed)) tables.push_back(sector);
+    };
+    for (size_t i = 0; i < kTablesInHeader; ++i)
+        add(Header(76 + 4 * i));
+    std::vector<uint32_t> lists;
+    for (uint32_t list = Header(68); list < kHighestSector && Claim(list, claimed);) {
+        const std::vector<uint32_t> numbers = Numbers({list}, kWhat);
+        std::for_each(numbers.begin(), numbers.end() - 1, add);
+        lists.push_back(list);
+        list = numbers.back();
+    }
+    Count("the allocation table", 44, tables.size());
+    Count("the list of allocation tables", 72, lists.size());
+    std::vector<uint32_t> next = Numbers(tables, kWhat);
+    table_ = SectorTable(std::move(next), sectors_);
+    tables.insert(tables.end(), lists.begin(), lists.end());
+    if (!table_.Reserve(tables)) Damaged("the allocation table: it calls sectors of its own free");
+}
+
+// The chain of a part of the structure.
+SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const char* what) {
+    SectorTable::Chain chain = table_.Walk(start);
+    if (chain.fault != ChainFault::none)
+        Damaged(std::string(what) + ": its chain of sectors " + InWords(chain.fault),
+                chain.fault == ChainFault::isCut ? CompoundState::torn : CompoundState::unsafe);
+    return chain;
+}
+
+std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
+    constexpr char kWhat[] = "the directory";
+    const bool wide = sectorBytes_ > header_.size();
+    std::vector<Entry> entries;
+    const SectorTable::Chain chain = WalkWhole(Header(48), kWhat);
+    if (wide) Count(kWhat, 40, chain.length);
+    for (const uint32_t sector : chain.sectors) {
+        const std::vector<uint8_t> bytes = Sector(sector, kWhat);
+        for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
+            entries.emplace_back(bytes.data() + at, wide);
+    }
+    return entries;
+}
+
+// Short streams lie together in the stream of the root, and have a table of their own.
+void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
+    constexpr char kTable[] = "the table of short streams", kStreams[] = "the short streams";
+    const SectorTable::Chain tables = Header(64) == 0 ? SectorTable::Chain() : WalkWhole(Header(60), kTable);
+    Count(kTable, 64, tables.length);
+    const SectorTable::Chain streams =
+        root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
+    const uint64_t there = std::min(root.size, BytesOf(streams.sectors));
+    if (streams.length < Pieces(root.size, sectorBytes_))
+        Damaged(std::string(kStreams) + ": their chain of sectors is too short");
+    else if (there < root.size)
+        Damaged(std::string(kStreams) + ": they go on past the end of the file", CompoundState::torn);
+    std::vector<uint32_t> next = Numbers(tables.sectors, kTable);
+    next.resize(static_cast<size_t>(std::min<uint64_t>(next.size(), Pieces(root.size, kShortSectorBytes))));
+    shortTable_ = SectorTable(std::move(next), there / kShortSectorBytes);
+    shortStreams_ = streams.sectors;
+}
+
+void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
+    std::vector<bool> seen(entries.size());
+    seen[0] = true;
+    std::vector<Storage> ahead = {{entries[0].child, {}, 0}};
+    for (size_t i = 0; i < ahead.size(); ++i)
+        WalkStorage(entries, Storage(ahead[i]), seen, ahead);
+    AddLost(entries, seen);
+}
+
+// Entries that nothing leads to: a link of the tree was damaged, and their streams may be whole.
+void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen) {
+    size_t lost = 0;
+    for (size_t id = 0; id < entries.size(); ++id) {
+        if (seen[id] || entries[id].kind == kFree) continue;
+        ++lost;
+        if (entries[id].kind == kStream && entries[id].isNamed)
+            AddStream(entries[id], entries[id].name, true);
+    }
+    if (lost != 0)
+        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage",
+                CompoundState::torn);
+}
+
+bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id,
+                                         std::vector<bool>& seen) {
+    if (id == kNone) return false;
+    const char* fault = nullptr;
+    if (id >= entries.size())
+        fault = " isn't there";
+    else if (seen[id])
+        fault = " is named twice";
+    else if (!entries[id].isNamed || (entries[id].kind != kStorage && entries[id].kind != kStream))
+        fault = " is neither stream nor storage";
+    if (fault)
+        Damaged("the directory: entry " + std::to_string(id) + fault);
+    else
+        seen[id] = true;
+    return !fault;
+}
+
+// The entries of a storage are a tree, in the order of their names from left to right.
+void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, const Storage& storage,
+                                            std::vector<bool>& seen, std::vector<Storage>& ahead) {
+    std::vector<uint32_t> above;
+    const Entry* before = nullptr;
+    uint32_t id = storage.firstEntry;
+    while (true) {
+        for (; MayEnter(entries, id, seen); id = entries[id].left)
+            above.push_back(id);
+        if (above.empty()) return;
+        const Entry& entry = entries[above.back()];
+        CheckName(entry, std::exchange(before, &entry), above.back());
+        above.pop_back();
+        id = entry.right;
+        std::u16string path = storage.path + entry.name;
+        if (entry.kind == kStream)
+            AddStream(entry, std::move(path), false);
+        else if (storage.depth < kDeepestStorage)
+            ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1});
+        else
+            Damaged("the directory: storages in storages, more than " + std::to_string(kDeepestStorage) +
+                    " deep");
+    }
+}
+
+// The system finds a name by the order; one that stands elsewhere, or twice, it would add once more.
+void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* before, uint32_t id) {
+    if (!entry.isTerminated || (before && !MayFollow(before->name, entry.name)))
+        Damaged("the directory: the name of entry " + std::to_string(id) + " is wrong for its place",
+                CompoundState::torn);
+}
+
+void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string path, bool isLost) {
+    CompoundStream stream = {std::move(path), entry.size, entry.start, 0, ChainFault::none, isLost};
+    if (entry.size != 0)
+        WalkStream(stream);
+    else if (entry.start < kHighestSector)
+        stream.fault = ChainFault::isOfNothing;
+    const bool hangs = stream.fault == ChainFault::isCircle && !isLost;
+    if (stream.fault != ChainFault::none)
+        state_ = std::max(state_, hangs ? CompoundState::unsafe : CompoundState::torn);
+    streams_.push_back(std::move(stream));
+}
+
+void CompoundReader::Structure::WalkStream(CompoundStream& stream) {
+    const bool isShort = IsShort(stream.size);
+    const SectorTable::Chain chain = (isShort ? shortTable_ : table_).Walk(stream.start);
+    const uint64_t wanted = Pieces(stream.size, isShort ? kShortSectorBytes : sectorBytes_);
+    stream.sectors = chain.sectors.size();
+    stream.fault = chain.fault;
+    if (stream.fault == ChainFault::isShared) stream.sectors += SectorsOfOthers(stream, wanted, isShort);
+    if (stream.fault == ChainFault::none &&
+        (stream.sectors < wanted || (!isShort && BytesOf(chain.sectors) < stream.size)))
+        stream.fault = ChainFault::isShort;
+}
+
+// How far the chain goes on in sectors of other streams. All streams together get no more of them than the file has: they
+// would be read once for each.
+uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream, uint64_t wanted,
+                                                    bool isShort) {
+    if (stream.sectors >= wanted) return 0;
+    const uint64_t most = std::min(wanted, stream.sectors + sharedLeft_);
+    const uint64_t shared =
+        (isShort ? shortTable_ : table_).Follow(stream.start, most).size() - stream.sectors;
+    sharedLeft_ -= shared;
+    return shared;
+}
+
+// How many bytes the file has of these sectors, from the first on: its last sector can be cut.
+uint64_t CompoundReader::Structure::BytesOf(const std::vector<uint32_t>& chain) const {
+    const auto cut =
+        fileSize_ % sectorBytes_ == 0 ? chain.end() : std::find(chain.begin(), chain.end(), sectors_ - 1);
+    const uint64_t before = static_cast<uint64_t>(cut - chain.begin()) * sectorBytes_;
+    return cut == chain.end() ? before : before + fileSize_ % sectorBytes_;
+}
+
+uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
+    const uint64_t inside = uint64_t{sector} * kShortSectorBytes;
+    return At(shortStreams_[static_cast<size_t>(inside / sectorBytes_)]) + inside % sectorBytes_;
+}
+
+// Neighbouring sectors are read at once: most streams are one run of them.
+std::vector<uint8_t> CompoundReader::Structure::Read(const CompoundStream& stream) const {
+    const bool isShort = IsShort(stream.size);
+    const size_t each = isShort ? kShortSectorBytes : sectorBytes_;
+    const uint64_t most = std::min(stream.sectors, Pieces(stream.size, each));
+    const auto sectors = (isShort ? shortTable_ : table_).Follow(stream.start, most);
+    const auto at = [&](size_t i) { return isShort ? ShortAt(sectors[i]) : At(sectors[i]); };
+    constexpr size_t kLongestRun = 2048;
+    std::vector<uint8_t> bytes;
+    for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
+        do
+            ++next;
+        while (next < sectors.size() && next - first < kLongestRun && at(next) == at(next - 1) + each);
+        const size_t before = bytes.size();
+        const uint64_t start = at(first);
+        const uint64_t wanted = std::min<uint64_t>((next - first) * each, stream.size - before);
+        const auto there = static_cast<size_t>(start < fileSize_ ? std::min(wanted, fileSize_ - start) : 0);
+        bytes.resize(before + there);
+        if (there == 0 || !read_(start, bytes.data() + before, there)) bytes.resize(before);
+        if (bytes.size() - before != wanted) break;
+    }
+    return bytes;
+}
+
+CompoundReader::CompoundReader(ReadAt read, uint64_t size)
+    : structure_(std::make_shared<const Structure>(std::move(read), size)) {}
+
+CompoundState CompoundReader::State() const {
+    return structure_->State();
+}
+
+const std::vector<std::string>& CompoundReader::Damage() const {
+    return structure_->Damage();
+}
+
+const std::vector<CompoundStream>& CompoundReader::Streams() const {
+    return structure_->Streams();
+}
+
+std::vector<uint8_t> CompoundReader::Read(const CompoundStream& stream) const {
+    return structure_->Read(stream);
+}
+
+} // namespace orlo

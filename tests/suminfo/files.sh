@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# What suminfo does to files on disks as they are: links, permissions, too little room. files.sh SUMINFO DOCUMENTS FOLDER
+# Ends with 77 where it may not mount a disk of its own.
+set -euo pipefail
+program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3
+
+suminfo() { timeout -k 5 60 wine "$program" "$@"; }
+fail() { printf '%s\n' "$*"; exit 1; }
+only_file() { [ "$(ls -A "$(dirname "$1")")" = "$(basename "$1")" ] || fail "$2: beside it is $(ls -A "$(dirname "$1")")"; }
+edit() { suminfo set "$1" "title=$(printf 't%.0s' {1..9000})" --custom New=int:1; }
+
+umount "$folder/disk" 2>/dev/null || true
+rm -rf "$folder"
+mkdir -p "$folder"/{disk,inner,outer}
+cd "$folder"
+
+# Through a link, the file behind it; what others may not read stays so (of a group the system here knows nothing).
+install -m 600 "$document" inner/plan.fpx
+ln -s ../inner/plan.fpx outer/link.fpx
+edit outer/link.fpx
+[ -L outer/link.fpx ] || fail "the link has become a file"
+cmp -s "$document" inner/plan.fpx && fail "the file behind the link has not changed"
+[ $((0$(stat -c %a inner/plan.fpx) & 07)) = 0 ] || fail "permissions are $(stat -c %a inner/plan.fpx) now"
+only_file inner/plan.fpx "a link"
+
+[ "$(id -u)" = 0 ] || exit 77
+pages=$((($(stat -c %s "$document") + 4095) / 4096))
+mount -t tmpfs -o "size=$((4 * pages))k" tmpfs disk || exit 77
+trap 'umount "$folder/disk"' EXIT
+install -m 644 "$document" disk/plan.fpx
+refused=0
+while ! message=$(edit disk/plan.fpx 2>&1); do
+    cmp "$document" disk/plan.fpx
+    only_file disk/plan.fpx "$pages pages"
+    grep -q 'plan.fpx: .*the disk is full' <<<"$message" || fail "$pages pages: $message"
+    refused=$((refused + 1)) pages=$((pages + 1))
+    [ $refused -lt 40 ] || fail "it never has room enough"
+    mount -o "remount,size=$((4 * pages))k" disk
+done
+cmp inner/plan.fpx disk/plan.fpx
+only_file disk/plan.fpx "done"
+[ $refused -gt 9 ] || fail "only $refused sizes were too small"
+
+# A script that finds no room leaves no file.
+head -c 1000000 /dev/zero >disk/rest 2>/dev/null || true
+message=$(suminfo rc "$document" disk/out.rc 2>&1) && fail "a script was written without room"
+grep -q 'out.rc: .*the disk is full' <<<"$message" || fail "$message"
+rm disk/rest
+only_file disk/plan.fpx "a script without room"
+echo "refused at $refused sizes, then done"

@@ -1,0 +1,25 @@
+// A file that is written beside another and takes its place in one step: whatever fails before leaves what was there.
+#pragma once
+
+#include <string>
+
+namespace suminfo {
+
+class PartFile {
+public:
+    // Empty, in the folder of `target` and with its permissions, if that is there. Failure if it can't be made.
+    explicit PartFile(std::wstring target);
+    // Takes it away if it hasn't taken the target's place.
+    ~PartFile();
+    PartFile(const PartFile&) = delete;
+    PartFile& operator=(const PartFile&) = delete;
+
+    const std::wstring& Path() const { return path_; }
+    // When all handles to both are closed. Failure leaves the target as it was.
+    void TakePlace();
+
+private:
+    std::wstring target_, path_;
+};
+
+} // namespace suminfo
