@@ -34,7 +34,6 @@ EXCEPTIONS = {
     "orlo/binding/object_set.cpp": {"orlo/frame/graphic_property_sheet.h"},
     "orlo/binding/property_access.cpp": {"orlo/frame/graphic_property_page.h", "orlo/frame/graphic_property_sheet.h"},
     "orlo/binding/write_outcome.cpp": {"afxwin.h", "orlo/frame/graphic_property_page.h", "orlo/resources/library_text.h", "orlo/resources/resource.h"},
-    "orlo/frame/entry.cpp": {"orlo/pages/brush_page.h", "orlo/pages/general_page.h", "orlo/pages/insert_page.h", "orlo/pages/line_page.h", "orlo/pages/text_page.h"},
     "orlo/summary/thumbnail.cpp": {"orlo/controls/paint.h"},
     "tools/suminfo/check.cpp": {"orlo/propset/set_image.h"},
     "tools/suminfo/commands.h": {"orlo/propset/value.h"},
