@@ -2,7 +2,7 @@
 
 #include "orlo/controls/style_sample.h"
 
-#include "orlo/controls/paint.h"
+#include "orlo/win/gdi.h"
 
 namespace {
 
