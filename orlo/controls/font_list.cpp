@@ -6,11 +6,11 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/controls/font_size_text.h"
-#include "orlo/controls/pen_width_list.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/samples/pen_width_list.h"
 #include "orlo/win/gdi.h"
 
 namespace {
