@@ -2,9 +2,13 @@
 
 #include "orlo/binding/ddp_record.h"
 
+#include <cstdint>
+
 namespace {
 
-WORD KeyOf(const void* member) { return LOWORD(reinterpret_cast<UINT_PTR>(member)); }
+WORD KeyOf(const void* member) {
+    return static_cast<WORD>(reinterpret_cast<uintptr_t>(member));
+}
 
 } // namespace
 

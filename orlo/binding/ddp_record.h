@@ -3,7 +3,8 @@
 #pragma once
 
 #include <afxcoll.h>
-#include <afxwin.h>
+
+class CDataExchange;
 
 using DDPEnd = void (*)(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName);
 

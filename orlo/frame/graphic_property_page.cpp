@@ -1,5 +1,5 @@
 // CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family stands in
-// orlo/binding/property_access.cpp.
+// property_access.cpp.
 
 #include "orlo/frame/graphic_property_page.h"
 

@@ -6,9 +6,9 @@
 
 #include <cmath>
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/color_control.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"

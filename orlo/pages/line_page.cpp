@@ -2,8 +2,8 @@
 
 #include "orlo/pages/line_page.h"
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"

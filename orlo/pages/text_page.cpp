@@ -2,11 +2,11 @@
 
 #include "orlo/pages/text_page.h"
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/control_items.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/owners.h"

@@ -29,12 +29,6 @@ OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "drawcore":
 
 # Arrows of old that still stand. One that is gone must leave this list.
 EXCEPTIONS = {
-    "orlo/binding/ddp.cpp": {"orlo/frame/graphic_property_page.h", "orlo/frame/graphic_property_sheet.h"},
-    "orlo/binding/ddp.h": {"afxwin.h"},
-    "orlo/binding/ddp_record.h": {"afxwin.h"},
-    "orlo/binding/object_set.cpp": {"orlo/frame/graphic_property_sheet.h"},
-    "orlo/binding/property_access.cpp": {"orlo/frame/graphic_property_page.h", "orlo/frame/graphic_property_sheet.h"},
-    "orlo/binding/write_outcome.cpp": {"afxwin.h", "orlo/frame/graphic_property_page.h", "orlo/resources/library_text.h", "orlo/resources/resource.h"},
     "tools/suminfo/check.cpp": {"orlo/propset/set_image.h"},
     "tools/suminfo/commands.h": {"orlo/propset/value.h"},
     "tools/suminfo/document.cpp": {"orlo/summary/compound_file.h"},
