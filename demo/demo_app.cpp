@@ -6,7 +6,7 @@
 #include "demo/tour/tour.h"
 #include "demo/viewer/main_frame.h"
 #include "drawcore/application.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
 

@@ -7,7 +7,7 @@
 #include "bench/paired_timer.h"
 #include "drawcore/drawing.h"
 #include "drawcore/selection.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/host.h"

@@ -10,7 +10,7 @@
 #include "bench/paired_timer.h"
 #include "drawcore/drawing.h"
 #include "drawcore/selection.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/memory.h"
 #include "support/test_sheet.h"
 

@@ -7,7 +7,7 @@
 
 #include "bench/paired_timer.h"
 #include "bench/sheet/open_sheet.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "support/graphic_kit.h"
 #include "support/host_frame.h"
 

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 
 namespace {
 

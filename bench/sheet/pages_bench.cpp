@@ -8,7 +8,7 @@
 #include "bench/paired_timer.h"
 #include "bench/sheet/mixed_crowd.h"
 #include "bench/sheet/open_sheet.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "support/host_frame.h"
 #include "support/test_sheet.h"
 

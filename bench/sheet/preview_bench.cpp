@@ -4,7 +4,7 @@
 #include "bench/sheet/sheet_bench.h"
 
 #include "bench/paired_timer.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/viewport.h"
 #include "support/host_frame.h"
 #include "support/test_sheet.h"

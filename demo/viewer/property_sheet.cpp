@@ -6,7 +6,7 @@
 
 #include "demo/viewer/document.h"
 #include "drawcore/regen.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/walk.h"
 

@@ -54,6 +54,8 @@ protected:
     ~IStream() = default;
 };
 
+using VARIANT_BOOL = short;
+
 enum VARENUM : DWORD {
     VT_EMPTY = 0,
     VT_NULL = 1,

@@ -2,11 +2,13 @@
 
 #include "orlo/binding/ddp_record.h"
 
-#include "orlo/frame/graphic_property_page.h"
+#include <cstdint>
 
 namespace {
 
-WORD KeyOf(const void* member) { return LOWORD(reinterpret_cast<UINT_PTR>(member)); }
+WORD KeyOf(const void* member) {
+    return static_cast<WORD>(reinterpret_cast<uintptr_t>(member));
+}
 
 } // namespace
 
@@ -21,8 +23,6 @@ CDDPRecord::~CDDPRecord() {
         delete record;
     }
 }
-
-CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page) { return page->m_mapDDP; }
 
 void LayRecord(CMapWordToOb& records, CDDPRecord* record) {
     const WORD key = KeyOf(record->m_pMember);

@@ -3,7 +3,8 @@
 #pragma once
 
 #include <afxcoll.h>
-#include <afxwin.h>
+
+class CDataExchange;
 
 using DDPEnd = void (*)(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName);
 
@@ -18,10 +19,6 @@ public:
     const char* m_pszPropName; // not copied
     CDDPRecord* m_pNext;     // the next record of the same key, owned
 };
-
-class CGraphicPropertyPage;
-
-CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
 
 // Lays a record; one of the same member takes the place of an earlier one.
 void LayRecord(CMapWordToOb& records, CDDPRecord* record);

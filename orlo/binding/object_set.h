@@ -1,15 +1,14 @@
-// The graphics that a page works on: the sheet's selection, or its preview group.
+// The graphics that a page works on: the members of a set that pass a filter.
 #pragma once
 
 #include "orlo/host/graphic.h"
 
-class CGraphicPropertySheet;
-
-// The walk puts the preview mark on the graphics of the preview group that it gives, and takes it off those of the selection.
+// The walk marks the graphics that it gives as seen in a preview, or takes that mark off them.
 class ObjectSet {
 public:
-    // Empty without a sheet.
-    ObjectSet(CGraphicPropertySheet* sheet, int bPreview);
+    // Without a set it is empty.
+    ObjectSet(GraphicStruct* set, uint32_t filter, bool preview)
+        : m_set(set), m_filter(filter), m_preview(preview) {}
 
     // position is one 32-bit word of the caller's. Null at the end.
     GraphicStruct* First(void* position) const {

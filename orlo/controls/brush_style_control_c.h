@@ -6,7 +6,7 @@
 #pragma once
 
 #include "orlo/controls/combo_control.h"
-#include "orlo/controls/style_sample.h"
+#include "orlo/samples/style_sample.h"
 
 class ORLO_API CBrushStyleControlC : public CComboControl {
     DECLARE_DYNCREATE(CBrushStyleControlC)

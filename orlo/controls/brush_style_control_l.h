@@ -6,7 +6,7 @@
 #pragma once
 
 #include "orlo/controls/list_control.h"
-#include "orlo/controls/style_sample.h"
+#include "orlo/samples/style_sample.h"
 
 class ORLO_API CBrushStyleControlL : public CListControl {
     DECLARE_DYNCREATE(CBrushStyleControlL)

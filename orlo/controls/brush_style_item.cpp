@@ -2,11 +2,11 @@
 
 #include "orlo/controls/brush_style_item.h"
 
-#include "orlo/controls/hatch_scale.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/vertex.h"
+#include "orlo/samples/hatch_scale.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look,
 
 SampleGraphic MakeBrushSample(const BrushStyleLook& look) {
     const double outer = look.ratio, right = outer - kMargin, top = 1.0 - kMargin;
-    const ScratchVertex vertex(VertexNewEx(kMargin, kMargin, 0.0));
+    const orlo::host::OwnedVertex vertex(VertexNewEx(kMargin, kMargin, 0.0));
     SampleGraphic graphic = MakeSampleGraphic(vertex, {{kMargin, kMargin, Stroke::Kept},
                                                        {kMargin, top, Stroke::Kept},
                                                        {0.0, 1.0, Stroke::Starts},

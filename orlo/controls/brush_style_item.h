@@ -3,8 +3,8 @@
 #pragma once
 
 #include "orlo/controls/style_item.h"
-#include "orlo/controls/style_sample.h"
 #include "orlo/host/strings.h"
+#include "orlo/samples/style_sample.h"
 
 constexpr unsigned int kBrushStyleSpecial = 0xFFFE; // and above: nothing to show
 

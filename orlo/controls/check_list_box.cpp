@@ -6,9 +6,9 @@
 
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/text_height.h"
 #include "orlo/resources/library_text.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 
@@ -17,14 +17,14 @@ constexpr int kLeastHeight = 14; // of a row at 96 dpi, so that the box grows wi
 constexpr int kTextGap = 3;
 
 // One picture for all lists of the process.
-OwnedGdi<HBITMAP>& CheckPicture() {
-    static OwnedGdi<HBITMAP> picture;
+OwnedBitmap& CheckPicture() {
+    static OwnedBitmap picture;
     return picture;
 }
 
 void LoadCheckPicture() {
     constexpr char kName[] = "W95CHECK";
-    OwnedGdi<HBITMAP>& picture = CheckPicture();
+    OwnedBitmap& picture = CheckPicture();
     if (!picture) picture.reset(::LoadBitmapA(LibraryModule(), kName));
 }
 
@@ -33,14 +33,11 @@ int BoxMargin() {
 }
 
 void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
-    const HDC source = ::CreateCompatibleDC(dc);
+    const OwnedDC source(::CreateCompatibleDC(dc));
     if (!source) return;
-    {
-        const SelectedObject selected(source, picture);
-        ::StretchBlt(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, source, 0, 0,
-                     kPictureSize, kPictureSize, SRCCOPY);
-    }
-    ::DeleteDC(source);
+    const SelectedObject selected(source.get(), picture);
+    ::StretchBlt(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, source.get(), 0, 0,
+                 kPictureSize, kPictureSize, SRCCOPY);
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 #include <cstring>
 
 #include "orlo/controls/paint.h"
-#include "orlo/controls/realized_palette.h"
 #include "orlo/host/application.h"
+#include "orlo/win/realized_palette.h"
 
 namespace {
 

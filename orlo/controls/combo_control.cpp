@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "orlo/controls/filling.h"
-#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include <cstring>
 
-#include "orlo/controls/paint.h"
-#include "orlo/controls/screen_scale.h"
+#include "orlo/win/gdi.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 

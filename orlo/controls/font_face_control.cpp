@@ -5,7 +5,6 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/item_drawing.h"
-#include "orlo/controls/paint.h"
 #include "orlo/controls/plain_item.h"
 #include "orlo/controls/table_control.h"
 

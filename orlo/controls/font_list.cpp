@@ -6,11 +6,12 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/controls/font_size_text.h"
-#include "orlo/controls/pen_width_list.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/samples/pen_width_list.h"
+#include "orlo/win/gdi.h"
 
 namespace {
 
@@ -82,7 +83,8 @@ void AddStyles(const ControlItems& items) {
 } // namespace
 
 int FillFontDropDown(HWND hWnd, LPARAM lParam) {
-    const HDC dc = ::GetDC(nullptr);
+    const WindowDC screen(nullptr);
+    const HDC dc = screen.get();
     if (!dc) return 0;
     const Filling filling(hWnd);
     const ControlItems items = ControlItems::OfCombo(hWnd);
@@ -101,6 +103,5 @@ int FillFontDropDown(HWND hWnd, LPARAM lParam) {
         AddStyles(items);
         break;
     }
-    ::ReleaseDC(nullptr, dc);
     return control == kFaces || control == kMoreFaces || control == kSizes;
 }

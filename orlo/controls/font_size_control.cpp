@@ -8,7 +8,6 @@
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_text.h"
 #include "orlo/controls/item_drawing.h"
-#include "orlo/controls/paint.h"
 #include "orlo/controls/plain_item.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/drawing.h"

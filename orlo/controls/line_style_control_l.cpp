@@ -5,8 +5,8 @@
 #include "orlo/controls/filling.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/line_style_item.h"
-#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 

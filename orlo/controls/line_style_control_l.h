@@ -3,7 +3,7 @@
 #pragma once
 
 #include "orlo/controls/list_control.h"
-#include "orlo/controls/style_sample.h"
+#include "orlo/samples/style_sample.h"
 
 class ORLO_API CLineStyleControlL : public CListControl {
     DECLARE_DYNCREATE(CLineStyleControlL)

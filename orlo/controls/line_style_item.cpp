@@ -63,7 +63,7 @@ bool IsListedStyle(const char* name) {
 
 SampleGraphic MakeComboLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 16, 320);
-    const ScratchVertex vertex(VertexNewFromEx(nullptr));
+    const orlo::host::OwnedVertex vertex(VertexNewFromEx(nullptr));
     return InPaperScale(
         MakeSampleGraphic(vertex, {{0.01 * w, 0.5, Stroke::Starts}, {0.99 * w, 0.5, Stroke::Continues}}));
 }
@@ -71,7 +71,7 @@ SampleGraphic MakeComboLineSample(int controlWidth) {
 // The outer vertices draw nothing; they widen the extents.
 SampleGraphic MakeListLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 6, 136);
-    const ScratchVertex vertex(VertexNewEx(0.0, 0.0, 0.0));
+    const orlo::host::OwnedVertex vertex(VertexNewEx(0.0, 0.0, 0.0));
     return InPaperScale(MakeSampleGraphic(vertex, {{0.0, 0.0, Stroke::Kept},
                                                    {0.01 * w, 0.5, Stroke::Starts},
                                                    {0.99 * w, 0.5, Stroke::Continues},

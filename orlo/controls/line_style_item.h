@@ -3,8 +3,8 @@
 #pragma once
 
 #include "orlo/controls/style_item.h"
-#include "orlo/controls/style_sample.h"
 #include "orlo/host/strings.h"
+#include "orlo/samples/style_sample.h"
 
 constexpr unsigned int kLineStyleDefault = 0xFFFE; // the default item, by the host's text
 constexpr unsigned int kLineStyleHidden = 0xFFFD;  // by the host's text; no list offers it

@@ -7,9 +7,9 @@
 
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/filling.h"
-#include "orlo/controls/screen_scale.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
+#include "orlo/win/screen_scale.h"
 
 WNDPROC CListControl::lpfnSuperWndProc = nullptr;
 

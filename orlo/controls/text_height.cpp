@@ -2,7 +2,7 @@
 
 #include "orlo/controls/text_height.h"
 
-#include "orlo/controls/paint.h"
+#include "orlo/win/gdi.h"
 
 namespace {
 

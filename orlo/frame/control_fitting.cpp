@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "orlo/controls/paint.h"
-#include "orlo/controls/screen_scale.h"
+#include "orlo/win/child_windows.h"
+#include "orlo/win/gdi.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 
@@ -54,16 +55,12 @@ void FitWidth(HWND child, HWND page) {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
-BOOL CALLBACK FitControl(HWND child, LPARAM parameter) {
-    const auto page = reinterpret_cast<HWND>(parameter);
-    if (::GetParent(child) != page) return TRUE; // a part of a control
-    PassOverLabel(child);
-    FitWidth(child, page);
-    return TRUE;
-}
-
 } // namespace
 
 void FitControls(HWND page) {
-    ::EnumChildWindows(page, FitControl, reinterpret_cast<LPARAM>(page));
+    ForEachChild(page, [page](HWND child) {
+        if (::GetParent(child) != page) return; // a part of a control
+        PassOverLabel(child);
+        FitWidth(child, page);
+    });
 }

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "orlo/win/gdi.h"
+
 namespace {
 
 constexpr int kPointsPerInch = 72;
@@ -103,7 +105,7 @@ CSize BaseUnits(const DialogFont& font) {
         const LONG units = ::GetDialogBaseUnits();
         return CSize(LOWORD(units), HIWORD(units));
     }
-    CFont* before = screen.SelectObject(&made);
+    const SelectedObject selected(screen.m_hDC, made.m_hObject);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.m_hDC, &metrics);
     int width = metrics.tmAveCharWidth;
@@ -113,7 +115,6 @@ CSize BaseUnits(const DialogFont& font) {
         ::GetTextExtentPointA(screen.m_hDC, letters, static_cast<int>(std::strlen(letters)), &extent);
         width = (extent.cx / 26 + 1) / 2;
     }
-    screen.SelectObject(before);
     return CSize(width, metrics.tmHeight);
 }
 

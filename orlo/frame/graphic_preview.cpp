@@ -2,10 +2,10 @@
 
 #include "orlo/frame/graphic_preview.h"
 
-#include "orlo/controls/realized_palette.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
+#include "orlo/win/realized_palette.h"
 
 IMPLEMENT_DYNAMIC(CGraphicPreview, CWnd)
 

@@ -1,7 +1,10 @@
 // CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family stands in
-// orlo/binding/property_access.cpp.
+// property_access.cpp.
 
 #include "orlo/frame/graphic_property_page.h"
+
+#include <algorithm>
+#include <vector>
 
 #include "orlo/frame/control_fitting.h"
 #include "orlo/frame/control_notifications.h"
@@ -9,6 +12,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/viewport.h"
+#include "orlo/win/child_windows.h"
 
 IMPLEMENT_DYNAMIC(CGraphicPropertyPage, COrloPropertyPage)
 
@@ -85,38 +89,15 @@ BOOL CGraphicPropertyPage::OnSetActive() {
     return TRUE;
 }
 
-namespace {
-
-BOOL CALLBACK CountChild(HWND, LPARAM count) {
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-struct StatusRows {
-    ControlStatus* next;
-    ControlStatus* end;
-};
-
-BOOL CALLBACK AddRow(HWND child, LPARAM parameter) {
-    auto* rows = reinterpret_cast<StatusRows*>(parameter);
-    if (rows->next == rows->end) return FALSE;
-    *rows->next++ = {static_cast<unsigned int>(::GetDlgCtrlID(child)), 0};
-    return TRUE;
-}
-
-} // namespace
-
 void CGraphicPropertyPage::BuildStatusTable() {
+    std::vector<ControlStatus> rows;
+    ForEachChild(m_hWnd, [&rows](HWND child) {
+        rows.push_back({static_cast<unsigned int>(::GetDlgCtrlID(child)), 0});
+    });
     delete[] m_pStatus;
-    m_pStatus = nullptr;
-    m_nControls = 0;
-    int count = 0;
-    ::EnumChildWindows(m_hWnd, CountChild, reinterpret_cast<LPARAM>(&count));
-    if (count == 0) return;
-    m_pStatus = new ControlStatus[count];
-    StatusRows rows = {m_pStatus, m_pStatus + count};
-    ::EnumChildWindows(m_hWnd, AddRow, reinterpret_cast<LPARAM>(&rows));
-    m_nControls = static_cast<int>(rows.next - m_pStatus);
+    m_pStatus = rows.empty() ? nullptr : new ControlStatus[rows.size()];
+    std::copy(rows.begin(), rows.end(), m_pStatus);
+    m_nControls = static_cast<int>(rows.size());
 }
 
 ControlStatus* CGraphicPropertyPage::FindStatus(unsigned int nID) const {

@@ -1,7 +1,7 @@
 // The tabbed dialog over the selected graphics of a drawing: holds what all its pages share, owns the preview group and the
 // preview window, and lays itself out with the page at the left and buttons and preview in a column beside it.
 //
-// Made by InitGraphicPropertySheet (orlo/frame/entry.h); the host runs and deletes it. Drawing and selection stay the
+// Made by InitGraphicPropertySheet (orlo/entry/entry.h); the host runs and deletes it. Drawing and selection stay the
 // host's. DoModal gives 1 after OK, IDCANCEL after Cancel, or a code that a page has chosen.
 #pragma once
 

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "orlo/win/gdi.h"
+
 namespace {
 
 constexpr int kButtonIds[] = {IDOK, IDCANCEL, ID_HELP};
@@ -90,27 +92,9 @@ void CGraphicPropertySheet::RecalcLayout() {
 
 namespace {
 
-// A pen of a system colour, selected for as long as it lives.
-class FramePen {
-public:
-    FramePen(HDC dc, int systemColor)
-        : m_dc(dc), m_pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor))),
-          m_before(m_pen ? ::SelectObject(dc, m_pen) : nullptr) {}
-    ~FramePen() {
-        if (m_before) ::SelectObject(m_dc, m_before);
-        ::DeleteObject(m_pen);
-    }
-    FramePen(const FramePen&) = delete;
-    FramePen& operator=(const FramePen&) = delete;
-
-private:
-    HDC m_dc;
-    HPEN m_pen;
-    HGDIOBJ m_before;
-};
-
 void DrawCorner(HDC dc, int systemColor, const POINT (&points)[3]) {
-    const FramePen pen(dc, systemColor);
+    const OwnedPen pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor)));
+    const SelectedObject selected(dc, pen.get());
     ::MoveToEx(dc, points[0].x, points[0].y, nullptr);
     ::LineTo(dc, points[1].x, points[1].y);
     ::LineTo(dc, points[2].x, points[2].y);

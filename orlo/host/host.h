@@ -20,7 +20,7 @@
 //   picture.h      pictures in memory
 //   strings.h      texts of the host
 //
-// In C++, header only: owners.h, walk.h and property.h.
+// In C++, header only: owners.h, owned_string.h, walk.h and property.h.
 //
 // All lengths in a graphic are drawing units unless said otherwise. Results named "int" are non-zero on success.
 // Everything is called on the user-interface thread.

@@ -8,11 +8,10 @@
 #pragma once
 
 #include <memory>
-#include <utility>
 
 #include "orlo/host/graphic.h"
 #include "orlo/host/matrix.h"
-#include "orlo/host/memory.h"
+#include "orlo/host/owned_string.h"
 #include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
 
@@ -29,23 +28,5 @@ using OwnedGraphic = std::unique_ptr<GraphicStruct, Disposer>; // one that belon
 using OwnedVertex = std::unique_ptr<VertexStruct, Disposer>;
 using OwnedViewport = std::unique_ptr<ViewportStruct, Disposer>;
 using OwnedMatrix = std::unique_ptr<MatrixStruct, Disposer>;
-
-// A string of the host's making, or null.
-class String {
-public:
-    String() = default;
-    ~String() { ::BStringNULL(&text_); }
-    String(String&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
-    String(const String&) = delete;
-    String& operator=(const String&) = delete;
-
-    const char* Get() const { return text_; }
-    const char* OrEmpty() const { return text_ ? text_ : ""; }
-    // For a call of the host that makes a string; a former one is released by the host.
-    char** Variable() { return &text_; }
-
-private:
-    char* text_ = nullptr;
-};
 
 } // namespace orlo::host

@@ -3,9 +3,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <windows.h>
 
 #include "orlo/host/words.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+using HPALETTE = struct HPALETTE__*;
+#endif
 
 struct AppStruct;
 struct DrawingStruct;
@@ -44,7 +49,7 @@ struct AppStruct {
     DrawingStruct* pCurrentDrawing;
     uint8_t host24[0x48 - 0x24 - sizeof(void*)];
     TableStruct* pVariables;
-#ifndef _WIN64
+#if UINTPTR_MAX == 0xFFFFFFFF
     uint8_t host48[4];
 #endif
     HPALETTE hPalette;

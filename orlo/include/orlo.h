@@ -1,12 +1,11 @@
 // The library's whole public interface: every exported class and function is reachable from here.
 //
-//   frame/entry.h opens a sheet over a selection; frame/graphic_property_page.h is the base of a host's own pages, which
-//   bind properties by binding/ddp.h and values by exchange/ddx.h. controls/ has the combos and lists, propset/ and
+//   entry/entry.h opens a sheet over a selection; frame/graphic_property_page.h is the base of a host's own pages, which
+//   bind properties by exchange/ddp.h and values by exchange/ddx.h. controls/ has the combos and lists, propset/ and
 //   summary/ the property sets of documents, wizard/ a sheet that walks its pages. host/host.h is what the library asks of
 //   its host.
 #pragma once
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/brush_style_control_c.h"
@@ -28,8 +27,9 @@
 #include "orlo/controls/list_control.h"
 #include "orlo/controls/style_name_control.h"
 #include "orlo/controls/text_height.h"
+#include "orlo/entry/entry.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
-#include "orlo/frame/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"

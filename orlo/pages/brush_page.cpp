@@ -6,10 +6,9 @@
 
 #include <cmath>
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/color_control.h"
-#include "orlo/controls/hatch_scale.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
@@ -21,10 +20,11 @@
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/mixed_value.h"
 #include "orlo/pages/passed_over.h"
-#include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/samples/hatch_scale.h"
+#include "orlo/samples/preview_shape.h"
 
 IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
 

@@ -4,9 +4,9 @@
 
 #include <string.h>
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/combo_control.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/style_end_code.h"

@@ -2,14 +2,15 @@
 
 #include "orlo/pages/insert_page.h"
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/binding/object_set.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/exchange/number_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/sheet_objects.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
 #include "orlo/pages/insert_preview.h"
@@ -143,7 +144,7 @@ void CInsertPage::DoDataExchange(CDataExchange* pDX) {
 void CInsertPage::LoadInsertParts(int bPreview) {
     InsertParts merged{};
     bool found = false, withRotationZ = true;
-    ForEachInsertion(ObjectSet(GetSheet(), bPreview), withRotationZ,
+    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), withRotationZ,
                      [&](GraphicStruct*, const InsertParts& parts) {
                          if (!found) merged = parts;
                          found = true;
@@ -163,7 +164,7 @@ void CInsertPage::ApplyInsertParts(int bPreview) {
     for (size_t i = 0; i < std::size(kFields); ++i)
         counts[i] = !IsIndeterminate(this->*kFields[i].member) &&
                     (bPreview || (GetControlStatus(kFields[i].nID) && ShowsNewText(kFields[i])));
-    ForEachInsertion(ObjectSet(GetSheet(), bPreview), true,
+    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true,
                      [&](GraphicStruct* graphic, const InsertParts& parts) {
                          InsertParts wanted = parts;
                          for (size_t i = 0; i < std::size(kFields); ++i)

@@ -8,8 +8,8 @@
 #include <iterator>
 
 #include "orlo/binding/fuzzy.h"
-#include "orlo/controls/scratch_vertex.h"
 #include "orlo/host/matrix.h"
+#include "orlo/host/owners.h"
 #include "orlo/host/vertex.h"
 
 namespace {
@@ -154,7 +154,7 @@ bool HasScale(const InsertParts& parts) {
                        [&](const double& scale) { return CompareDoubles(&scale, &one) != 0; });
 }
 
-void BuildMatrix(const InsertParts& parts, const ScratchVertex& scratch, HostMatrix& matrix) {
+void BuildMatrix(const InsertParts& parts, const orlo::host::OwnedVertex& scratch, HostMatrix& matrix) {
     if (HasScale(parts)) {
         ::VertexSet(scratch.get(), parts.scale[0], parts.scale[1], parts.scale[2]);
         matrix.Take(::MatrixScale(matrix.get(), scratch.get(), 0));
@@ -193,7 +193,7 @@ void InsertGetParts(GraphicStruct* graphic, InsertParts* parts) {
 
 void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts) {
     Corners corners{};
-    const ScratchVertex scratch(::VertexNewEx(0, 0, 0));
+    const orlo::host::OwnedVertex scratch(::VertexNewEx(0, 0, 0));
     if (scratch.get() == nullptr || !FindCorners(graphic, corners)) return;
     HostMatrix matrix;
     BuildMatrix(*parts, scratch, matrix);

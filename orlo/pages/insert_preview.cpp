@@ -2,9 +2,9 @@
 
 #include "orlo/pages/insert_preview.h"
 
-#include "orlo/controls/scratch_vertex.h"
 #include "orlo/host/block.h"
-#include "orlo/pages/preview_shape.h"
+#include "orlo/host/owners.h"
+#include "orlo/samples/preview_shape.h"
 
 namespace {
 
@@ -66,7 +66,7 @@ uint16_t AddBlock(TableStruct* blocks) {
 } // namespace
 
 GraphicStruct* NewInsertPreview(DrawingStruct* drawing) {
-    const ScratchVertex origin(::VertexNewEx(0, 0, 0));
+    const orlo::host::OwnedVertex origin(::VertexNewEx(0, 0, 0));
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
     if (origin.get() == nullptr || blocks == nullptr) return nullptr;
     uint16_t id = ::BlocksFindBlock(blocks, kBlockName);

@@ -2,8 +2,8 @@
 
 #include "orlo/pages/line_page.h"
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
@@ -11,8 +11,8 @@
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/mixed_value.h"
 #include "orlo/pages/pen_width.h"
-#include "orlo/pages/preview_shape.h"
 #include "orlo/pages/scale_text.h"
+#include "orlo/samples/preview_shape.h"
 
 IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
 

@@ -3,10 +3,10 @@
 #include "orlo/pages/pen_width.h"
 
 #include "orlo/binding/indeterminate.h"
-#include "orlo/controls/pen_width_list.h"
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
+#include "orlo/samples/pen_width_list.h"
 
 namespace {
 

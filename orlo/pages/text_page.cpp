@@ -2,14 +2,14 @@
 
 #include "orlo/pages/text_page.h"
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/control_items.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
-#include "orlo/controls/scratch_vertex.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/host/owners.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
 #include "orlo/pages/mixed_value.h"
@@ -119,7 +119,7 @@ void CTextPage::OnFontChange() {
 }
 
 void* CTextPage::CreatePreviewGraphic() {
-    const ScratchVertex vertex(::VertexNewEx(0, 0, 0));
+    const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
     if (vertex.get() == nullptr) return nullptr;
     GraphicStruct* const graphic = ::GraphicNewEx(kGraphicText, 0, 1);
     if (graphic == nullptr) return nullptr;

@@ -7,8 +7,9 @@
 #include <vector>
 
 #include "orlo/propset/property_set.h"
-#include "orlo/summary/com_owner.h"
 #include "orlo/summary/compound_file.h"
+#include "orlo/win/com_owner.h"
+#include "orlo/win/system_text.h"
 
 using orlo::Owned;
 using orlo::Receive;
@@ -20,14 +21,6 @@ constexpr DWORD kChange = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kReplace = STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE;
 constexpr size_t kShortestLong = 4096; // bytes: shorter streams lie together in sectors that they share
 using Bytes = std::vector<BYTE>;
-
-std::wstring Wide(const char* text) {
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
-    std::wstring wide(length > 0 ? static_cast<size_t>(length) : 1, L'\0');
-    ::MultiByteToWideChar(CP_ACP, 0, text, -1, wide.data(), length);
-    wide.pop_back(); // the NUL that was counted
-    return wide;
-}
 
 bool SeekTo(IStream* stream, size_t offset) {
     LARGE_INTEGER at;
@@ -195,14 +188,14 @@ HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPrope
     *ppStorage = nullptr;
     const std::wstring name = Wide(pszFileName);
     if (orlo::StateOfCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
-    HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, ppStorage);
+    Owned<IStorage> storage;
+    HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, Receive(storage));
     if (FAILED(result)) return result;
     if (!*ppSumInfo) *ppSumInfo = OleStdInitSummaryInfo(0);
-    result = *ppSumInfo ? LoadSummaryInfo(*ppStorage, *ppSumInfo) : E_FAIL;
-    if (FAILED(result)) {
-        (*ppStorage)->Release();
-        *ppStorage = nullptr;
+    result = *ppSumInfo ? LoadSummaryInfo(storage.get(), *ppSumInfo) : E_FAIL;
+    if (SUCCEEDED(result))
+        *ppStorage = storage.release();
+    else
         OleStdFreeSummaryInfo(ppSumInfo);
-    }
     return result;
 }

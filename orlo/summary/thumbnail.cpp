@@ -7,12 +7,12 @@
 #include <memory>
 #include <vector>
 
-#include "orlo/controls/paint.h"
 #include "orlo/summary/bytes.h"
 #include "orlo/summary/dib_layout.h"
 #include "orlo/summary/metafile_check.h"
 #include "orlo/summary/metafile_player.h"
 #include "orlo/summary/readable_bytes.h"
+#include "orlo/win/gdi.h"
 
 using orlo::LittleEndian;
 using orlo::Readable;
@@ -113,26 +113,6 @@ int DrawByFormat(unsigned format, const Readable& picture, HDC dc, const RECT* r
     return 0;
 }
 
-struct DeleteDeviceContext {
-    void operator()(HDC dc) const { ::DeleteDC(dc); }
-};
-using OwnedDC = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDeviceContext>;
-using OwnedBitmap = OwnedGdi<HBITMAP>;
-
-class ScreenDC {
-public:
-    ScreenDC() : dc_(::GetDC(nullptr)) {}
-    ~ScreenDC() {
-        if (dc_) ::ReleaseDC(nullptr, dc_);
-    }
-    ScreenDC(const ScreenDC&) = delete;
-    ScreenDC& operator=(const ScreenDC&) = delete;
-    HDC get() const { return dc_; }
-
-private:
-    HDC dc_;
-};
-
 } // namespace
 
 int DrawDIB(const BITMAPINFOHEADER* pDIB, HDC hDC, const RECT* pRect, int bKeepAspect) {
@@ -161,16 +141,17 @@ HBITMAP CreateBitmapFromMetaFilePict(const void* pPict, const SIZE* pSize) {
     OwnedDC memory;
     OwnedBitmap bitmap;
     {
-        const ScreenDC screen;
+        const WindowDC screen(nullptr);
         memory.reset(::CreateCompatibleDC(screen.get()));
         bitmap.reset(::CreateCompatibleBitmap(screen.get(), pSize->cx, pSize->cy));
     }
     if (!memory || !bitmap) return nullptr;
-    const HGDIOBJ before = ::SelectObject(memory.get(), bitmap.get());
-    if (!before) return nullptr;
-    const RECT whole = {0, 0, pSize->cx, pSize->cy};
-    ::PatBlt(memory.get(), 0, 0, pSize->cx, pSize->cy, WHITENESS);
-    DrawMetaFilePict(pPict, memory.get(), &whole, 1);
-    ::SelectObject(memory.get(), before);
+    {
+        const SelectedObject selected(memory.get(), bitmap.get());
+        if (!selected) return nullptr;
+        const RECT whole = {0, 0, pSize->cx, pSize->cy};
+        ::PatBlt(memory.get(), 0, 0, pSize->cx, pSize->cy, WHITENESS);
+        DrawMetaFilePict(pPict, memory.get(), &whole, 1);
+    }
     return bitmap.release();
 }

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "orlo/binding/indeterminate.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "support/test_sheet.h"
 
 namespace {

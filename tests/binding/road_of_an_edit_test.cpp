@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "orlo/binding/ddp.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "support/test_sheet.h"
 

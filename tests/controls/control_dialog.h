@@ -9,7 +9,7 @@
 #include "controls.h"
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/list_control.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "support/test_drawing.h"
 
 // Gets what controls tell the application.

@@ -6,7 +6,7 @@
 
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/memory_picture.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 
 namespace {
 

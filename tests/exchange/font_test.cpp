@@ -7,8 +7,8 @@
 
 #include "exchange.h"
 #include "orlo/controls/font_size_control.h"
+#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_font.h"
-#include "orlo/frame/entry.h"
 #include "support/test_drawing.h"
 
 namespace {

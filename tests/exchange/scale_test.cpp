@@ -4,8 +4,8 @@
 
 #include <cmath>
 
+#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_scale.h"
-#include "orlo/frame/entry.h"
 #include "orlo/resources/resource.h"
 #include "support/test_drawing.h"
 

@@ -4,8 +4,8 @@
 
 #include <functional>
 
+#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddv.h"
-#include "orlo/frame/entry.h"
 #include "orlo/resources/resource.h"
 
 namespace {

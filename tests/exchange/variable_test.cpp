@@ -2,9 +2,9 @@
 
 #include "exchange_dialog.h"
 
+#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_button.h"
 #include "orlo/exchange/ddx_variable.h"
-#include "orlo/frame/entry.h"
 #include "orlo/resources/resource.h"
 #include "support/test_drawing.h"
 

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "support/message_box_watcher.h"
 #include "support/test_sheet.h"

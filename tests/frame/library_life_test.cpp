@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/resources/resource.h"
 #include "support/graphic_kit.h"
 #include "support/host_frame.h"

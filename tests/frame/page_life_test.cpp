@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "support/test_sheet.h"
 

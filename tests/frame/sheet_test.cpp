@@ -7,9 +7,9 @@
 #include <string>
 
 #include "drawcore/regen.h"
-#include "orlo/binding/ddp.h"
+#include "orlo/entry/entry.h"
+#include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
-#include "orlo/frame/entry.h"
 #include "support/host_frame.h"
 #include "support/object_counts.h"
 #include "support/test_sheet.h"

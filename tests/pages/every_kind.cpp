@@ -7,7 +7,7 @@
 #include <oaidl.h>
 
 #include "drawcore/selection.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 
 namespace {
 

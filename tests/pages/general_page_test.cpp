@@ -7,7 +7,7 @@
 
 #include "drawcore/drawing.h"
 #include "drawcore/table.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/block.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"

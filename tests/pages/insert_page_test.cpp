@@ -9,7 +9,7 @@
 
 #include "drawcore/selection.h"
 #include "drawcore/undo.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/insert_parts.h"

@@ -12,7 +12,7 @@
 #include "drawcore/dxf.h"
 #include "drawcore/selection.h"
 #include "drawcore/undo.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "support/host_frame.h"

@@ -11,7 +11,7 @@
 #include "drawcore/linestyle.h"
 #include "drawcore/table.h"
 #include "orlo/binding/indeterminate.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 #include "orlo/host/units.h"

@@ -18,7 +18,7 @@
 #include "drawcore/table.h"
 #include "drawcore/units.h"
 #include "orlo/binding/indeterminate.h"
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 #include "orlo/host/text.h"

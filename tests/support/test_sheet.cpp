@@ -2,7 +2,7 @@
 
 #include "support/test_sheet.h"
 
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 
 ExchangePage::ExchangePage(Exchange exchange, unsigned int nIDTemplate)
     : CGraphicPropertyPage(nIDTemplate, 0), m_exchange(std::move(exchange)) {}

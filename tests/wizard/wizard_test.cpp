@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "orlo.h"
+#include <orlo.h>
+
 #include "support/object_counts.h"
 #include "support/sheet_driver.h"
 

@@ -6,16 +6,11 @@
 
 #include <objbase.h>
 
+#include "orlo/win/com_owner.h"
+
 namespace suminfo {
 
-struct ReleaseReference {
-    template <class Interface>
-    void operator()(Interface* object) const {
-        object->Release();
-    }
-};
-template <class Interface>
-using Owned = std::unique_ptr<Interface, ReleaseReference>;
+using orlo::Owned;
 
 struct CloseFile {
     void operator()(HANDLE file) const { ::CloseHandle(file); }

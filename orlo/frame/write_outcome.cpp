@@ -1,4 +1,4 @@
-#include "orlo/binding/write_outcome.h"
+#include "orlo/frame/write_outcome.h"
 
 #include <afxwin.h>
 

@@ -17,7 +17,8 @@ public:
     WriteOutcome(const WriteOutcome&) = delete;
     WriteOutcome& operator=(const WriteOutcome&) = delete;
 
-    void AddUnchanged(const GraphicStruct* graphic) { m_unchanged.insert(graphic); }
+    // The graphics that did not take a value.
+    std::set<const GraphicStruct*>& Unchanged() { return m_unchanged; }
     // Something was thrown that is none of the framework's exceptions; of several texts the first counts.
     void AddFailure(const char* text);
     // A message box, if there is anything to say. total: the graphics of the selection.

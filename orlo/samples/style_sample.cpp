@@ -1,8 +1,8 @@
 // The sample by which a control shows a style.
 
-#include "orlo/controls/style_sample.h"
+#include "orlo/samples/style_sample.h"
 
-#include "orlo/controls/paint.h"
+#include "orlo/win/gdi.h"
 
 namespace {
 
@@ -15,11 +15,8 @@ void DisposeSampleGraphic::operator()(GraphicStruct* graphic) const {
     GraphicDispose(&graphic);
 }
 
-void DisposeViewport::operator()(ViewportStruct* viewport) const {
-    ViewportDispose(&viewport);
-}
-
-SampleGraphic MakeSampleGraphic(const ScratchVertex& vertex, std::initializer_list<SampleVertex> vertices) {
+SampleGraphic MakeSampleGraphic(const orlo::host::OwnedVertex& vertex,
+                                std::initializer_list<SampleVertex> vertices) {
     if (!vertex) return nullptr;
     SampleGraphic graphic(GraphicNewEx(kGraphicVertices, 0, 1));
     if (!graphic) return nullptr;

@@ -1,6 +1,6 @@
 // Library entry, hook-up to the framework, and the choice of a sheet's pages.
 
-#include "orlo/frame/entry.h"
+#include "orlo/entry/entry.h"
 
 #include <afxext.h>
 
@@ -82,8 +82,9 @@ extern "C" int PropPageInit() {
     return 1;
 }
 
-extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods, DrawingStruct* pDrawing,
-                                                           void* pGraphics, unsigned long dwGraphicFlags) try {
+extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,
+                                                           DrawingStruct* pDrawing, void* pGraphics,
+                                                           unsigned long dwGraphicFlags) try {
     auto sheet = std::make_unique<CGraphicPropertySheet>(IDS_PROPERTIES, pRegenMethods, pDrawing, pGraphics,
                                                          dwGraphicFlags, pParentWnd, 0);
     Add(std::make_unique<BuiltIn<CGeneralPage>>(), sheet.get());
@@ -92,7 +93,8 @@ extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, voi
     return nullptr;
 }
 
-extern "C" int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet) try {
+extern "C" int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
+                                      CGraphicPropertySheet* pSheet) try {
     auto* graphic = static_cast<GraphicStruct*>(pGraphic);
     if (graphic == nullptr || pSheet == nullptr) return 0;
     AddOwnPages(graphic, pSheet);

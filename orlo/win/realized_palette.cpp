@@ -1,6 +1,6 @@
 // An application's palette in a device context.
 
-#include "orlo/controls/realized_palette.h"
+#include "orlo/win/realized_palette.h"
 
 RealizedPalette::RealizedPalette(HDC dc, HPALETTE palette)
     : dc_(dc), before_(palette ? ::SelectPalette(dc, palette, FALSE) : nullptr) {

@@ -1,11 +1,7 @@
-// Owns one reference of a COM object, and a text as the system's wide one.
+// Owns one reference of a COM object. Header only, for programs too.
 #pragma once
 
 #include <memory>
-#include <string>
-#include <string_view>
-
-#include <windows.h>
 
 namespace orlo {
 

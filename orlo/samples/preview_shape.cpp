@@ -1,8 +1,8 @@
 // Preview shapes.
 
-#include "orlo/pages/preview_shape.h"
+#include "orlo/samples/preview_shape.h"
 
-#include "orlo/controls/scratch_vertex.h"
+#include "orlo/host/owners.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ constexpr uint16_t kDrawn = 1; // the segment to the vertex is drawn
 } // namespace
 
 GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
-    const ScratchVertex scratch(::VertexNewEx(0, 0, 0));
+    const orlo::host::OwnedVertex scratch(::VertexNewEx(0, 0, 0));
     if (scratch.get() == nullptr) return nullptr;
     GraphicStruct* graphic = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (graphic == nullptr) return nullptr;

@@ -1,4 +1,4 @@
-// An application's palette in a device context, for as long as an object lives. No control.
+// An application's palette in a device context, for as long as an object lives.
 #pragma once
 
 #include <windows.h>

@@ -1,19 +1,25 @@
 // The DDP_ family.
 
-#include "orlo/binding/ddp.h"
+#include "orlo/exchange/ddp.h"
 
 #include <exception>
 #include <memory>
 
 #include "orlo/binding/ddp_record.h"
-#include "orlo/binding/write_outcome.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/write_outcome.h"
 #include "orlo/host/graphic.h"
+
+CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page) {
+    return page->m_mapDDP;
+}
 
 namespace {
 
-CGraphicPropertyPage* PageOf(CDataExchange* pDX) { return static_cast<CGraphicPropertyPage*>(pDX->m_pDlgWnd); }
+CGraphicPropertyPage* PageOf(CDataExchange* pDX) {
+    return static_cast<CGraphicPropertyPage*>(pDX->m_pDlgWnd);
+}
 
 // An end function with its member's type forgotten, as a record holds it.
 template <class T, void (*End)(CDataExchange*, int, T*, const char*)>
@@ -53,13 +59,14 @@ void Bind(CDataExchange* pDX, int nID, T* pMember, const char* pszPropName, Load
 } // namespace
 
 // The overloads of one name differ in the member's type alone.
-#define ORLO_DDP(kind, T, argument)                                                                                    \
-    void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                                 \
-        if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                             \
-    }                                                                                                                  \
-    void DDP_##kind(CDataExchange* pDX, int nID, T& member, const char* pszPropName) {                                 \
-        Bind<T, DDP_End##kind>(pDX, nID, &member, pszPropName,                                                         \
-                               [&](CGraphicPropertyPage* page) { page->GetProp##kind(pszPropName, &member, 0); });     \
+#define ORLO_DDP(kind, T, argument)                                                                          \
+    void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                       \
+        if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                   \
+    }                                                                                                        \
+    void DDP_##kind(CDataExchange* pDX, int nID, T& member, const char* pszPropName) {                       \
+        Bind<T, DDP_End##kind>(pDX, nID, &member, pszPropName, [&](CGraphicPropertyPage* page) {             \
+            page->GetProp##kind(pszPropName, &member, 0);                                                    \
+        });                                                                                                  \
     }
 
 // Not a public overload: its only caller is the record of an unsigned short.

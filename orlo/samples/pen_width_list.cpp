@@ -1,6 +1,6 @@
 // CPenWidthList.
 
-#include "orlo/controls/pen_width_list.h"
+#include "orlo/samples/pen_width_list.h"
 
 #include <cstdio>
 #include <cstring>

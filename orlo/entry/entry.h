@@ -32,4 +32,5 @@ extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParen
 
 // Adds the pages that this graphic calls for and the sheet has not got yet, then lets its regen method add its own.
 // 0, or what RegenMethodGetPropPage gave; 0 also if there is no memory: the sheet keeps the pages that it has.
-extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet);
+extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
+                                               CGraphicPropertySheet* pSheet);

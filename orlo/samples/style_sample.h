@@ -1,13 +1,13 @@
 // The sample by which a control shows a style: a small graphic of the host that is restyled for each item,
-// and the viewport in which the host draws it. Knows no control.
+// and the viewport in which the host draws it.
 #pragma once
 
 #include <initializer_list>
 #include <memory>
 #include <windows.h>
 
-#include "orlo/controls/scratch_vertex.h"
 #include "orlo/host/graphic.h"
+#include "orlo/host/owners.h"
 #include "orlo/host/table.h"
 #include "orlo/host/viewport.h"
 
@@ -15,12 +15,9 @@
 struct DisposeSampleGraphic {
     void operator()(GraphicStruct* graphic) const;
 };
-struct DisposeViewport {
-    void operator()(ViewportStruct* viewport) const;
-};
 
 using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
-using SampleViewport = std::unique_ptr<ViewportStruct, DisposeViewport>;
+using SampleViewport = orlo::host::OwnedViewport;
 
 // Whether a vertex starts a stroke or continues the one before; Kept: as the vertex before it.
 enum class Stroke { Kept, Starts, Continues };
@@ -32,7 +29,8 @@ struct SampleVertex {
 
 // A vertex graphic in pen colour 0, built with the one vertex set anew each time; null if either cannot be
 // made.
-SampleGraphic MakeSampleGraphic(const ScratchVertex& vertex, std::initializer_list<SampleVertex> vertices);
+SampleGraphic MakeSampleGraphic(const orlo::host::OwnedVertex& vertex,
+                                std::initializer_list<SampleVertex> vertices);
 
 // Ties the sample to the drawing that owns the table of its styles; without a table unties it, so that a
 // drawing that the host closes is left in time. makeGraphic is called if the control has been given a table

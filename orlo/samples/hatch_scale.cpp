@@ -1,4 +1,4 @@
-#include "orlo/controls/hatch_scale.h"
+#include "orlo/samples/hatch_scale.h"
 
 #include <cmath>
 

@@ -1,0 +1,9 @@
+#include "orlo/frame/sheet_objects.h"
+
+#include "orlo/frame/graphic_property_sheet.h"
+
+ObjectSet ObjectsOf(CGraphicPropertySheet* sheet, int bPreview) {
+    if (sheet == nullptr) return ObjectSet(nullptr, 0, bPreview != 0);
+    if (bPreview) return ObjectSet(sheet->GetPreviewGroup(), kAllGraphics, true);
+    return ObjectSet(static_cast<GraphicStruct*>(sheet->GetGraphics()), sheet->GetGraphicFlags(), false);
+}
