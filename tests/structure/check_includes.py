@@ -72,12 +72,13 @@ def outside(allowed, header, public):
         return None
     if allowed == PUBLIC and header in public or allowed == HOST and header.startswith("orlo/host/"):
         return None
-    return f"only {allowed} here"
+    return f"this folder may include {allowed}"
 
 
-def spelling(mark, header):
+def spelling(top, mark, header):
     """One spelling: <orlo.h> as a host writes it, everything else by its path from the root."""
-    if (header == "orlo.h") != (mark == "<") and header.startswith("orlo"):
+    relative = mark == '"' and not header.startswith("orlo/") and (top == "orlo" or "orlo/" in header)
+    if relative or (header == "orlo.h") != (mark == "<") and header.startswith("orlo"):
         return 'written otherwise than <orlo.h> or "orlo/..."'
     return None
 
@@ -88,8 +89,9 @@ def faults(root, public):
             name = path.relative_to(root).as_posix()
             for mark, header in includes(path):
                 why = inside(name, header) if top == "orlo" else outside(OUTSIDE[top], header, public)
-                if why or spelling(mark, header):
-                    yield name, header, why or spelling(mark, header)
+                why = why or spelling(top, mark, header)
+                if why:
+                    yield name, header, why
 
 
 def unreached(root, public):

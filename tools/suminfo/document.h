@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 #include "owned.h"
 
 namespace suminfo {
