@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "orlo/propset/image_dictionary.h"
+#include "orlo/propset/inspect/image_dictionary.h"
 #include "orlo/propset/property_section.h"
 #include "tests/propset/memory_stream.h"
 

@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/property_set.h"
-#include "orlo/propset/set_image.h"
 #include "tests/propset/memory_stream.h"
 
 namespace {

@@ -15,8 +15,8 @@
 
 #include "bench/paired_timer.h"
 #include "bench/propset/propset_bench.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/property_set.h"
-#include "orlo/propset/set_image.h"
 #include "tests/propset/corpus.h"
 #include "tests/propset/memory_stream.h"
 

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "bench/paired_timer.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/property_set.h"
-#include "orlo/propset/set_image.h"
 #include "tests/propset/corpus.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // The library's whole public interface: every exported class and function is reachable from here.
 //
 //   entry/entry.h opens a sheet over a selection; frame/graphic_property_page.h is the base of a host's own pages, which
-//   bind properties by exchange/ddp.h and values by exchange/ddx.h. controls/ has the combos and lists, propset/ and
-//   summary/ the property sets of documents, wizard/ a sheet that walks its pages. host/host.h is what the library asks of
-//   its host.
+//   bind properties by exchange/ddp.h and values by exchange/ddx.h; pages/ has the library's own. controls/ has the combos
+//   and lists, propset/ and summary/ the property sets of documents, wizard/ a sheet that walks its pages. host/host.h is
+//   what the library asks of its host.
 #pragma once
 
 #include "orlo/binding/fuzzy.h"
@@ -36,10 +36,19 @@
 #include "orlo/frame/orlo_property_sheet.h"
 #include "orlo/frame/style_end_code.h"
 #include "orlo/host/host.h"
+#include "orlo/pages/brush_page.h"
+#include "orlo/pages/general_page.h"
+#include "orlo/pages/line_page.h"
+#include "orlo/pages/text_page.h"
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/property.h"
 #include "orlo/propset/property_section.h"
 #include "orlo/propset/property_set.h"
 #include "orlo/propset/rc_file.h"
+#include "orlo/propset/tokens.h"
+#include "orlo/propset/value_text.h"
+#include "orlo/summary/compound_file.h"
 #include "orlo/summary/ole_summary.h"
 #include "orlo/summary/summary_info.h"
 #include "orlo/summary/thumbnail.h"

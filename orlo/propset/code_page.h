@@ -14,6 +14,7 @@ namespace orlo {
 
 constexpr uint16_t kCodePageUtf16 = 1200; // "8-bit" texts of such a section are 16-bit characters
 constexpr uint16_t kCodePageUtf8 = 65001;
+constexpr uint16_t kUsualCodePage = 1252; // of a section that names none
 
 // The text as UTF-8; nothing if the code page is unknown here or the bytes are no text of it. 1200 takes the
 // bytes as 16-bit characters; 0 stands for the system's own code page (1252 where there is none).

@@ -13,16 +13,12 @@
 
 namespace {
 
+using orlo::BaseType;
 using orlo::Form;
 using orlo::FormOf;
+using orlo::IsVector;
+using orlo::PaddingOf;
 using orlo::TypeForm;
-
-DWORD BaseType(DWORD type) {
-    return type & ~static_cast<DWORD>(VT_VECTOR);
-}
-bool IsVector(DWORD type) {
-    return (type & VT_VECTOR) != 0;
-}
 
 // What goes on the stream for a property.
 struct Stored {
@@ -74,10 +70,6 @@ std::optional<Stored> StoredForm(DWORD type, const void* block, DWORD blockSize)
     const std::optional<size_t> size = orlo::StoredSize(type, bytes, blockSize);
     if (!size) return std::nullopt;
     return Stored{type, bytes, *size};
-}
-
-size_t PaddingOf(size_t size) {
-    return (4 - size % 4) % 4;
 }
 
 // The bytes of the elements at the reader's position, which stays where it is. Nothing if a count falls

@@ -10,14 +10,12 @@
 #include "orlo/propset/image_writer.h"
 #include "orlo/propset/property_index.h"
 #include "orlo/propset/rc_file.h"
+#include "orlo/propset/set_layout.h"
 #include "orlo/propset/stream_reader.h"
 #include "orlo/propset/value_form.h"
 
 namespace {
 
-constexpr DWORD kDictionaryID = 0;
-constexpr DWORD kCodePageID = 1;
-constexpr DWORD kTableEntrySize = 8;
 constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer
 
 void* ToMapped(DWORD id) {
@@ -120,7 +118,7 @@ POSITION CPropertySection::FindProperty(DWORD dwPropID) {
 }
 
 void CPropertySection::AddProperty(CProperty* pProp) {
-    if (pProp->GetID() == kDictionaryID) {
+    if (pProp->GetID() == orlo::kDictionaryId) {
         m_PropertyList.AddHead(pProp);
         m_pIndex.reset();
     } else {
@@ -198,7 +196,7 @@ int CPropertySection::WriteToStream(IStream* pStream) {
 }
 
 int CPropertySection::AppendTo(orlo::ImageWriter& image) {
-    if (!m_NameMap.IsEmpty()) Set(kDictionaryID, nullptr, VT_EMPTY);
+    if (!m_NameMap.IsEmpty()) Set(orlo::kDictionaryId, nullptr, VT_EMPTY);
     m_dwSize = 0;
     m_dwPropertyCount = GetCount();
     const size_t head = image.Size();
@@ -209,12 +207,13 @@ int CPropertySection::AppendTo(orlo::ImageWriter& image) {
     if (m_dwPropertyCount == 0) return 1;
 
     size_t entry = image.Size();
-    image.PutZeros(size_t{kTableEntrySize} * m_dwPropertyCount);
-    for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr; entry += kTableEntrySize) {
+    image.PutZeros(orlo::kPropertyLineSize * m_dwPropertyCount);
+    for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;
+         entry += orlo::kPropertyLineSize) {
         const CProperty* property = NextProperty(m_PropertyList, next);
         image.Patch32(entry, property->m_dwID);
         image.Patch32(entry + 4, static_cast<uint32_t>(image.Size() - head));
-        if (property->m_dwID == kDictionaryID)
+        if (property->m_dwID == orlo::kDictionaryId)
             AppendDictionary(image);
         else if (!property->AppendTo(image))
             return 0;
@@ -237,7 +236,7 @@ int CPropertySection::WriteNameDictToStream(IStream* pStream) {
 
 void CPropertySection::AppendDictionary(orlo::ImageWriter& image) const {
     image.Put32(static_cast<uint32_t>(m_NameMap.GetCount()) + 1);
-    orlo::AppendName(image, kDictionaryID, m_strSectionName);
+    orlo::AppendName(image, orlo::kDictionaryId, m_strSectionName);
     CString name;
     void* mapped;
     for (POSITION next = m_NameMap.GetStartPosition(); next != nullptr;) {
@@ -281,7 +280,7 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
         const auto came = static_cast<DWORD>(reader.Read(entries, wanted * sizeof(Entry)) / sizeof(Entry));
         if (came == 0 || !reader.Spend(ULONGLONG{came} * sizeof(Entry))) break;
         for (DWORD i = 0; i < came; ++i) {
-            if (entries[i].id == kDictionaryID) {
+            if (entries[i].id == orlo::kDictionaryId) {
                 dictionaries.push_back(values + entries[i].offset);
             } else {
                 reader.SeekTo(values + entries[i].offset);
@@ -316,7 +315,7 @@ int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
 // Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes has
 // not.
 bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
-    CProperty* codePage = GetProperty(kCodePageID);
+    CProperty* codePage = GetProperty(orlo::kCodePageId);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;
     return value != nullptr && orlo::Load16(static_cast<const uint8_t*>(value)) == orlo::kCodePageUtf16 &&
            orlo::AreNamesWide(reader);
@@ -331,7 +330,7 @@ int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
         uint32_t id;
         CString name;
         if (!readName(reader, id, name)) return 0;
-        if (i == 0 && id == kDictionaryID)
+        if (i == 0 && id == orlo::kDictionaryId)
             m_strSectionName = name;
         else if (!isWide || !name.IsEmpty())
             SetName(id, name);
@@ -340,7 +339,7 @@ int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
 }
 
 int CPropertySection::WriteToRC(CRCFile* pRC) {
-    Set(kDictionaryID, nullptr, VT_EMPTY);
+    Set(orlo::kDictionaryId, nullptr, VT_EMPTY);
     m_dwPropertyCount = GetCount();
     m_dwSize = 0;
     const ULONGLONG head = pRC->GetPosition();
@@ -357,11 +356,11 @@ int CPropertySection::WriteToRC(CRCFile* pRC) {
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;)
         writeEntry(NextProperty(m_PropertyList, next)->m_dwID, 0);
 
-    DWORD offset = 8 + kTableEntrySize * m_dwPropertyCount;
+    DWORD offset = orlo::kSectionHeadSize + orlo::kPropertyLineSize * m_dwPropertyCount;
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;) {
         CProperty* property = NextProperty(m_PropertyList, next);
         const DWORD size =
-            property->m_dwID == kDictionaryID ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
+            property->m_dwID == orlo::kDictionaryId ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
         if (size == 0) return 0;
         const ULONGLONG end = pRC->GetPosition();
         pRC->Seek(static_cast<LONGLONG>(entry), CStdioFile::begin);
@@ -394,7 +393,7 @@ DWORD CPropertySection::WriteNameDictToRC(CRCFile* pRC) {
         pRC->WriteCString(name, length);
         size += 8 + length;
     };
-    writeName(kDictionaryID, m_strSectionName);
+    writeName(orlo::kDictionaryId, m_strSectionName);
     CString name;
     void* mapped;
     for (POSITION next = m_NameMap.GetStartPosition(); next != nullptr;) {

@@ -5,20 +5,14 @@
 #include <new>
 
 #include "orlo/propset/image_writer.h"
+#include "orlo/propset/set_layout.h"
 #include "orlo/propset/stream_reader.h"
 #include "orlo/propset/value_form.h"
 
 namespace {
 
-constexpr WORD kLittleEndianMark = 0xFFFE;
 constexpr DWORD kWindows = 2;
-constexpr size_t kHeaderSize = 28;
-constexpr size_t kListEntrySize = 20;
 constexpr size_t kUsualSetSize = 1000; // of a summary without a picture
-
-bool IsSame(const GUID& a, const GUID& b) {
-    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
-}
 
 CPropertySection* NextSection(const CObList& list, POSITION& position) {
     return static_cast<CPropertySection*>(list.GetNext(position));
@@ -29,7 +23,7 @@ CPropertySection* NextSection(const CObList& list, POSITION& position) {
 CPropertySet::CPropertySet() : CPropertySet(GUID{}) {}
 
 CPropertySet::CPropertySet(GUID clsID)
-    : m_wByteOrder(kLittleEndianMark), m_wFormatVersion(0),
+    : m_wByteOrder(orlo::kLittleEndianMark), m_wFormatVersion(0),
       m_dwOSVersion((::GetVersion() & 0xFFFF) | kWindows << 16), m_ClassID(clsID), m_dwSectionCount(0),
       m_SectionList(10) {}
 
@@ -78,7 +72,7 @@ void CPropertySet::RemoveAll() {
 POSITION CPropertySet::FindSection(const GUID& FormatID) {
     for (POSITION next = m_SectionList.GetHeadPosition(); next != nullptr;) {
         const POSITION here = next;
-        if (IsSame(NextSection(m_SectionList, next)->GetFormatID(), FormatID)) return here;
+        if (orlo::IsSame(NextSection(m_SectionList, next)->GetFormatID(), FormatID)) return here;
     }
     return nullptr;
 }
@@ -161,8 +155,8 @@ int CPropertySet::AppendTo(orlo::ImageWriter& image, ULONGLONG start) {
     image.Put(&m_ClassID, sizeof m_ClassID);
     image.Put32(m_dwSectionCount);
     size_t entry = image.Size();
-    image.PutZeros(kListEntrySize * m_dwSectionCount);
-    for (POSITION next = m_SectionList.GetHeadPosition(); next != nullptr; entry += kListEntrySize) {
+    image.PutZeros(orlo::kSectionLineSize * m_dwSectionCount);
+    for (POSITION next = m_SectionList.GetHeadPosition(); next != nullptr; entry += orlo::kSectionLineSize) {
         CPropertySection* section = NextSection(m_SectionList, next);
         const GUID format = section->GetFormatID();
         image.Patch(entry, &format, sizeof format);
@@ -183,7 +177,7 @@ int CPropertySet::ReadFromStream(IStream* pStream) {
 }
 
 int CPropertySet::ReadFrom(orlo::StreamReader& reader, ULONGLONG base) {
-    uint8_t header[kHeaderSize];
+    uint8_t header[orlo::kSetHeadSize];
     if (reader.Read(header, sizeof header) != sizeof header) return 0;
     m_wByteOrder = orlo::Load16(header);
     m_wFormatVersion = orlo::Load16(header + 2);
@@ -193,8 +187,8 @@ int CPropertySet::ReadFrom(orlo::StreamReader& reader, ULONGLONG base) {
     m_dwSectionCount = count;
 
     for (DWORD i = 0; i < count; ++i) {
-        uint8_t entry[kListEntrySize];
-        reader.SeekTo(base + kHeaderSize + ULONGLONG{kListEntrySize} * i);
+        uint8_t entry[orlo::kSectionLineSize];
+        reader.SeekTo(base + orlo::kSetHeadSize + ULONGLONG{orlo::kSectionLineSize} * i);
         if (reader.Read(entry, sizeof entry) != sizeof entry || !reader.Spend(sizeof entry)) return 0;
         GUID format;
         std::memcpy(&format, entry, sizeof format);

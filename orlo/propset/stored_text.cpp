@@ -95,13 +95,13 @@ bool PutElement(ImageWriter& image, const char* token, DWORD type) {
 } // namespace
 
 std::optional<std::vector<BYTE>> StoredFromText(const char* text, DWORD type) {
-    const DWORD base = type & ~static_cast<DWORD>(VT_VECTOR);
+    const DWORD base = BaseType(type);
     if (!FormOf(base).inProperty) return std::nullopt;
     std::vector<char> copy(text, text + std::strlen(text) + 1); // GetToken cuts it up
     char* cursor = copy.data();
     ImageWriter image;
     int count = 1;
-    if (type & VT_VECTOR) {
+    if (IsVector(type)) {
         count = CountTokens(cursor);
         image.Put32(static_cast<uint32_t>(count));
     }

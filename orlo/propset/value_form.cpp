@@ -1,7 +1,5 @@
 #include "orlo/propset/value_form.h"
 
-#include <objidl.h>
-
 #include <array>
 #include <cstring>
 
@@ -94,11 +92,11 @@ uint64_t CountedSize(Form form, uint32_t count) {
 }
 
 std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize) {
-    const TypeForm& form = FormOf(type & ~uint32_t{VT_VECTOR});
+    const TypeForm& form = FormOf(BaseType(type));
     if (!form.inProperty) return std::nullopt;
     uint64_t count = 1;
     uint64_t total = 0;
-    if (type & VT_VECTOR) {
+    if (IsVector(type)) {
         if (blockSize < 4) return std::nullopt;
         count = Load32(block);
         total = 4;

@@ -2,6 +2,8 @@
 // library.
 #pragma once
 
+#include <objidl.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -22,6 +24,16 @@ struct TypeForm {
     bool isText = false;     // counted bytes that are a text with its NUL
     bool inProperty = false; // CProperty holds it; the others are only read and written by SetImage
 };
+
+inline bool IsVector(uint32_t type) {
+    return (type & VT_VECTOR) != 0;
+}
+inline uint32_t BaseType(uint32_t type) {
+    return type & ~uint32_t{VT_VECTOR};
+}
+inline size_t PaddingOf(size_t size) {
+    return (4 - size % 4) % 4;
+}
 
 // The form of a type, VT_VECTOR taken away.
 const TypeForm& FormOf(uint32_t type);

@@ -1,24 +1,12 @@
 // The walk over a stored value of any type, vectors of variants included. Used inside the library.
 #pragma once
 
-#include <objidl.h>
-
 #include <optional>
 #include <string_view>
 
 #include "orlo/propset/value_form.h"
 
 namespace orlo {
-
-inline bool IsVector(uint32_t type) {
-    return (type & VT_VECTOR) != 0;
-}
-inline uint32_t BaseType(uint32_t type) {
-    return type & ~uint32_t{VT_VECTOR};
-}
-inline size_t PaddingOf(size_t size) {
-    return (4 - size % 4) % 4;
-}
 
 // What is left of the bytes of a value.
 struct Cursor {

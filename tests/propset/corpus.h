@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 struct CorpusStream {
     std::string path;

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/property_set.h"
-#include "orlo/propset/set_image.h"
 #include "tests/propset/corpus.h"
 #include "tests/propset/memory_stream.h"
 

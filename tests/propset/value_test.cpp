@@ -1,6 +1,6 @@
 // Values in plain terms: what their bytes mean, and the bytes of a meaning; names of types and class IDs; code pages.
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 #include <gtest/gtest.h>
 

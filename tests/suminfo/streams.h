@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 
 // Path inside the file ("Outer/Inner", 8-bit) to bytes.
 std::map<std::string, std::vector<unsigned char>> StreamsOf(const std::filesystem::path& file);

@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "commands.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "sources.h"
 #include "text.h"
 

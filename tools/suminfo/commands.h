@@ -6,7 +6,7 @@
 #include <vector>
 #include <windows.h>
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 namespace suminfo {
 

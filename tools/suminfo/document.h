@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 #include "orlo/summary/compound_reader.h"
 #include "owned.h"
 

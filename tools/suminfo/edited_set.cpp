@@ -14,7 +14,6 @@
 namespace suminfo {
 namespace {
 
-constexpr uint16_t kUsualCodePage = 1252;
 constexpr uint32_t kFirstCustomId = 2;
 // A custom property that is linked to a place in the document has that place under its own ID with this flag; readers
 // show no property from there on.
@@ -90,7 +89,7 @@ void TurnToUtf8(orlo::ImageSection& section) {
                                             section.codePage, value);
         auto bytes = read ? orlo::EncodeValue(value, orlo::kCodePageUtf8) : std::nullopt;
         if (!bytes)
-            throw Failure("code page " + std::to_string(section.codePage.value_or(kUsualCodePage)) +
+            throw Failure("code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) +
                           " can't say the new text, and property " + std::to_string(property.id) +
                           " is no text of it that could be turned to UTF-8");
         property.bytes = std::move(*bytes);
@@ -139,7 +138,7 @@ orlo::ImageSection& EditedSet::Section(const GUID& format) {
     if (::IsEqualGUID(format, kUserDefinedFormat)) Section(kDocumentSummaryFormat);
     orlo::ImageSection& section = set_.sections.emplace_back();
     section.formatId = format;
-    PutCodePage(section, kUsualCodePage);
+    PutCodePage(section, orlo::kUsualCodePage);
     return section;
 }
 
@@ -181,7 +180,7 @@ void EditedSet::SetCustom(const std::string& name, orlo::Value value) {
         Store(section, *id, value);
         return;
     }
-    if (!orlo::Utf8ToCodePage(name, section.codePage.value_or(kUsualCodePage))) TurnToUtf8(section);
+    if (!orlo::Utf8ToCodePage(name, section.codePage.value_or(orlo::kUsualCodePage))) TurnToUtf8(section);
     const uint32_t id = FreeCustomId(section);
     section.dictionary->push_back({id, name});
     Store(section, id, value);

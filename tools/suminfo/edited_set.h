@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 
 namespace suminfo {
 

@@ -6,7 +6,7 @@
 #include <windows.h>
 
 #include "fields.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "text.h"
 #include "value_display.h"
 

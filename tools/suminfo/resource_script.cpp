@@ -20,8 +20,6 @@
 namespace suminfo {
 namespace {
 
-constexpr uint16_t kUsualCodePage = 1252;
-
 Owned<IStream> StreamOf(const orlo::Bytes& bytes) {
     IStream* made = nullptr;
     HRESULT result = ::CreateStreamOnHGlobal(nullptr, TRUE, &made);
@@ -74,7 +72,7 @@ void RefuseUnlessSame(CPropertySection& printed, const orlo::ImageSection& held)
     if (held.codePage == orlo::kCodePageUtf16)
         throw Failure("names in 16-bit characters can't be printed in a script");
     for (const orlo::DictionaryEntry& entry : *held.dictionary)
-        if (!HasName(printed, entry, held.codePage.value_or(kUsualCodePage)))
+        if (!HasName(printed, entry, held.codePage.value_or(orlo::kUsualCodePage)))
             throw Failure("the name " + OneLine(entry.name) + " can't be printed in a script");
 }
 

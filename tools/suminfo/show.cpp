@@ -6,7 +6,7 @@
 #include "commands.h"
 #include "fields.h"
 #include "json_output.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "sources.h"
 #include "text.h"
 #include "value_display.h"

@@ -9,7 +9,7 @@
 #include "commands.h"
 #include "failure.h"
 #include "fields.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 #include "orlo/summary/thumbnail.h"
 #include "output_file.h"
 #include "sources.h"

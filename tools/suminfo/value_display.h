@@ -5,7 +5,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 
 namespace suminfo {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 namespace suminfo {
 

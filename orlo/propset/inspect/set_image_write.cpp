@@ -1,13 +1,12 @@
-#include "orlo/propset/image_dictionary.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/inspect/image_dictionary.h"
+#include "orlo/propset/inspect/set_image.h"
+#include "orlo/propset/set_layout.h"
 #include "orlo/propset/value_walk.h"
 
 namespace orlo {
 
 namespace {
-
-constexpr uint16_t kLittleEndianMark = 0xFFFE;
-constexpr uint32_t kDictionaryId = 0;
 
 void Align(ImageWriter& image) {
     image.PutZeros(PaddingOf(image.Size()));
@@ -17,12 +16,12 @@ void Align(ImageWriter& image) {
 class Table {
 public:
     Table(ImageWriter& image, size_t head, size_t count) : image_(image), head_(head), next_(image.Size()) {
-        image.PutZeros(count * 8);
+        image.PutZeros(count * kPropertyLineSize);
     }
     void Add(uint32_t id) {
         image_.Patch32(next_, id);
         image_.Patch32(next_ + 4, static_cast<uint32_t>(image_.Size() - head_));
-        next_ += 8;
+        next_ += kPropertyLineSize;
     }
 
 private:
@@ -42,7 +41,8 @@ bool AppendSection(const ImageSection& section, ImageWriter& image) {
     Table table(image, head, count);
     if (section.dictionary) {
         table.Add(kDictionaryId);
-        if (!AppendImageDictionary(*section.dictionary, section.codePage.value_or(1252), image)) return false;
+        if (!AppendImageDictionary(*section.dictionary, section.codePage.value_or(kUsualCodePage), image))
+            return false;
         Align(image);
     }
     for (const ImageProperty& property : section.properties) {
@@ -66,11 +66,11 @@ std::optional<Bytes> WriteSetImage(const SetImage& set) {
     image.Put(&set.classId, sizeof set.classId);
     image.Put32(static_cast<uint32_t>(set.sections.size()));
     size_t entry = image.Size();
-    image.PutZeros(set.sections.size() * 20);
+    image.PutZeros(set.sections.size() * kSectionLineSize);
     for (const ImageSection& section : set.sections) {
         image.Patch(entry, &section.formatId, sizeof section.formatId);
         image.Patch32(entry + 16, static_cast<uint32_t>(image.Size()));
-        entry += 20;
+        entry += kSectionLineSize;
         if (!AppendSection(section, image)) return std::nullopt;
     }
     return image.Take();

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "orlo/propset/image_writer.h"
-#include "orlo/propset/report.h"
+#include "orlo/propset/inspect/report.h"
 
 namespace orlo {
 

@@ -19,7 +19,7 @@
 #include <vector>
 
 #include "orlo/export.h"
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 namespace orlo {
 

@@ -1,5 +1,6 @@
-#include "orlo/propset/section_reader.h"
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/section_reader.h"
+#include "orlo/propset/inspect/set_image.h"
+#include "orlo/propset/set_layout.h"
 #include "orlo/propset/value_walk.h"
 
 #include <algorithm>
@@ -10,15 +11,6 @@
 namespace orlo {
 
 namespace {
-
-constexpr size_t kHeaderSize = 28;
-constexpr size_t kListEntrySize = 20;
-constexpr size_t kSectionHeadSize = 8;
-constexpr uint16_t kLittleEndianMark = 0xFFFE;
-
-bool IsSame(const GUID& a, const GUID& b) {
-    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
-}
 
 class SetReader {
 public:
@@ -46,12 +38,12 @@ private:
     Allowance allowance_;
     Report report_;
     SetImage image_;
-    size_t reached_ = kHeaderSize;
+    size_t reached_ = kSetHeadSize;
 };
 
 bool SetReader::ReadHeader() {
-    if (size_ < kHeaderSize) {
-        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kHeaderSize, " bytes, ",
+    if (size_ < kSetHeadSize) {
+        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kSetHeadSize, " bytes, ",
                     size_, " are there; this is no property set");
         return false;
     }
@@ -65,10 +57,10 @@ bool SetReader::ReadHeader() {
                     image_.byteOrder, " instead of fffe; this is no property set");
         return false;
     }
-    const size_t left = size_ - kHeaderSize;
-    if (image_.sectionCount > left / kListEntrySize) {
+    const size_t left = size_ - kSetHeadSize;
+    if (image_.sectionCount > left / kSectionLineSize) {
         report_.Add(FindingCode::sectionListShort, Severity::damaged, 24, "list of ", image_.sectionCount,
-                    " sections needs ", uint64_t{image_.sectionCount} * kListEntrySize, " bytes, ", left,
+                    " sections needs ", uint64_t{image_.sectionCount} * kSectionLineSize, " bytes, ", left,
                     " are left; this is no property set");
         return false;
     }
@@ -80,7 +72,7 @@ bool SetReader::ReadHeader() {
     if (image_.sectionCount > 2)
         report_.Add(FindingCode::manySections, Severity::irregular, 24, image_.sectionCount,
                     " sections; most readers take one or two");
-    reached_ += kListEntrySize * image_.sectionCount;
+    reached_ += kSectionLineSize * image_.sectionCount;
     return true;
 }
 
@@ -88,13 +80,13 @@ void SetReader::ReadSections() {
     const size_t listEnd = reached_;
     std::vector<size_t> heads;
     for (uint32_t i = 0; i < image_.sectionCount; ++i)
-        heads.push_back(Load32(data_ + kHeaderSize + kListEntrySize * i + 16));
+        heads.push_back(Load32(data_ + kSetHeadSize + kSectionLineSize * i + 16));
     std::vector<size_t> sorted = heads;
     std::sort(sorted.begin(), sorted.end());
     std::set<std::string_view> formats; // their bytes
 
     for (uint32_t i = 0; i < image_.sectionCount; ++i) {
-        const size_t entry = kHeaderSize + kListEntrySize * i;
+        const size_t entry = kSetHeadSize + kSectionLineSize * i;
         const size_t head = heads[i];
         const std::string place = "section " + std::to_string(i);
         if (head > size_ - kSectionHeadSize) {

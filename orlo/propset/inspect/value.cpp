@@ -1,4 +1,4 @@
-#include "orlo/propset/value.h"
+#include "orlo/propset/inspect/value.h"
 
 #include <cstdio>
 #include <cstring>
@@ -10,8 +10,6 @@
 namespace orlo {
 
 namespace {
-
-constexpr uint16_t kUsualCodePage = 1252;
 
 template <class Number>
 Number Load(std::string_view bytes) {

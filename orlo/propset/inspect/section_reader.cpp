@@ -1,21 +1,17 @@
-#include "orlo/propset/section_reader.h"
+#include "orlo/propset/inspect/section_reader.h"
 
 #include <algorithm>
 #include <iomanip>
 
-#include "orlo/propset/image_dictionary.h"
-#include "orlo/propset/value_findings.h"
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/inspect/image_dictionary.h"
+#include "orlo/propset/inspect/value_findings.h"
+#include "orlo/propset/set_layout.h"
 #include "orlo/propset/value_walk.h"
 
 namespace orlo {
 
 namespace {
-
-constexpr size_t kHeadSize = 8;
-constexpr size_t kEntrySize = 8;
-constexpr size_t kTypeSize = 4;
-constexpr uint32_t kDictionaryId = 0;
-constexpr uint32_t kCodePageId = 1;
 
 struct Hex {
     uint32_t number;
@@ -56,7 +52,7 @@ std::string SectionReader::NameOf(const Entry& entry) const {
 size_t SectionReader::Read() {
     section_.size = Load32(head_);
     section_.count = Load32(head_ + 4);
-    reached_ = kHeadSize;
+    reached_ = kSectionHeadSize;
     if (section_.size > left_)
         report_.Add(FindingCode::sectionSizePastEnd, Severity::irregular, section_.offset, place_, ": size ",
                     section_.size, ", but only ", left_,
@@ -74,18 +70,18 @@ size_t SectionReader::Read() {
 }
 
 void SectionReader::ReadTable() {
-    const size_t fitting = (left_ - kHeadSize) / kEntrySize;
+    const size_t fitting = (left_ - kSectionHeadSize) / kPropertyLineSize;
     const bool isShort = section_.count > fitting;
     if (isShort)
         report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_,
                     ": table of ", section_.count, " properties needs ",
-                    uint64_t{section_.count} * kEntrySize, " bytes, ", left_ - kHeadSize,
+                    uint64_t{section_.count} * kPropertyLineSize, " bytes, ", left_ - kSectionHeadSize,
                     " are left; read up to the first value");
     size_t firstValue = left_;
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
-        const size_t at = kHeadSize + i * kEntrySize;
-        if (isShort && at + kEntrySize > firstValue) break; // no table reaches into its values
-        if (!allowance_.Spend(kEntrySize)) {
+        const size_t at = kSectionHeadSize + i * kPropertyLineSize;
+        if (isShort && at + kPropertyLineSize > firstValue) break; // no table reaches into its values
+        if (!allowance_.Spend(kPropertyLineSize)) {
             report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + at, place_,
                         ": the tables hold more than the stream could; the rest is left out");
             break;
@@ -93,10 +89,10 @@ void SectionReader::ReadTable() {
         Entry entry{};
         entry.id = Load32(head_ + at);
         entry.offset = Load32(head_ + at + 4);
-        if (entry.offset >= at + kEntrySize) firstValue = std::min<size_t>(firstValue, entry.offset);
+        if (entry.offset >= at + kPropertyLineSize) firstValue = std::min<size_t>(firstValue, entry.offset);
         entries_.push_back(std::move(entry));
     }
-    reached_ += entries_.size() * kEntrySize;
+    reached_ += entries_.size() * kPropertyLineSize;
 }
 
 // Sorts the entries by offset, and looks at what the table alone tells.
@@ -110,11 +106,11 @@ void SectionReader::LookAtTable() {
     }
     LookForRepeatedIds();
     if (unaligned > 0)
-        report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kHeadSize, place_, ": ",
-                    unaligned, " values stand at offsets that are no multiples of 4");
+        report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kSectionHeadSize, place_,
+                    ": ", unaligned, " values stand at offsets that are no multiples of 4");
     if (!isAscending)
-        report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kHeadSize, place_,
-                    ": the values are not in the order of the table");
+        report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kSectionHeadSize,
+                    place_, ": the values are not in the order of the table");
     std::stable_sort(sorted_.begin(), sorted_.end(),
                      [](const Entry* a, const Entry* b) { return a->offset < b->offset; });
 }
@@ -126,7 +122,8 @@ void SectionReader::LookForRepeatedIds() {
     for (size_t i = 1; i < byId.size(); ++i) {
         const Entry& entry = *byId[i];
         if (entry.id != byId[i - 1]->id) continue;
-        const size_t at = kHeadSize + static_cast<size_t>(&entry - entries_.data()) * kEntrySize;
+        const size_t at =
+            kSectionHeadSize + static_cast<size_t>(&entry - entries_.data()) * kPropertyLineSize;
         report_.Add(FindingCode::idRepeated, Severity::irregular, section_.offset + at, NameOf(entry),
                     ": listed before; readers take the first or the last");
     }
@@ -246,7 +243,7 @@ void SectionReader::ReadDictionary(Entry& entry) {
     }
     const uint8_t* bytes = head_ + entry.offset;
     const size_t size = kTypeSize + entry.room;
-    const uint16_t codePage = section_.codePage.value_or(1252);
+    const uint16_t codePage = section_.codePage.value_or(kUsualCodePage);
     if (!allowance_.Spend(size)) return TooLarge(entry);
     const uint32_t type = Load32(bytes);
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);

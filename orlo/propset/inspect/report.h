@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "orlo/propset/set_image.h"
+#include "orlo/propset/inspect/set_image.h"
 
 namespace orlo {
 

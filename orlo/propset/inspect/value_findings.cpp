@@ -1,4 +1,4 @@
-#include "orlo/propset/value_findings.h"
+#include "orlo/propset/inspect/value_findings.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -86,7 +86,7 @@ void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> co
                    ": the elements are padded to 4 bytes each; a reader that expects them packed goes wrong");
     Cursor cursor{bytes, size};
     const auto look = [&](uint32_t type, const TypeForm& form, std::string_view element) {
-        const uint16_t page = type == VT_LPWSTR ? kCodePageUtf16 : codePage.value_or(1252);
+        const uint16_t page = type == VT_LPWSTR ? kCodePageUtf16 : codePage.value_or(kUsualCodePage);
         const size_t at = static_cast<size_t>(reinterpret_cast<const uint8_t*>(element.data()) - bytes);
         const Look here{page, offset + at, place, property.id, report};
         if (form.isText) LookAtText(element, here);

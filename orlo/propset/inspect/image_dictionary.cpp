@@ -1,4 +1,4 @@
-#include "orlo/propset/image_dictionary.h"
+#include "orlo/propset/inspect/image_dictionary.h"
 
 #include <set>
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "orlo/propset/report.h"
+#include "orlo/propset/inspect/report.h"
 
 namespace orlo {
 

@@ -1,0 +1,25 @@
+// The parts of which the stream of a property set consists. Used inside the library.
+#pragma once
+
+#include <objidl.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace orlo {
+
+constexpr uint16_t kLittleEndianMark = 0xFFFE;
+constexpr size_t kSetHeadSize = 28;     // byte order, versions, class, count of sections
+constexpr size_t kSectionLineSize = 20; // of the list of sections: format ID and offset
+constexpr size_t kSectionHeadSize = 8;  // size and count of properties
+constexpr size_t kPropertyLineSize = 8; // of a section's table: ID and offset
+constexpr size_t kTypeSize = 4;         // in front of a value
+constexpr uint32_t kDictionaryId = 0;
+constexpr uint32_t kCodePageId = 1;
+
+inline bool IsSame(const GUID& a, const GUID& b) {
+    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
+}
+
+} // namespace orlo
