@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include "fields.h"
+#include "orlo/propset/code_page.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "text.h"
 #include "value_display.h"
@@ -84,7 +85,8 @@ Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& 
                                  section.codePage, value)) {
         json["value"] = ValueJson(value);
     } else {
-        json["error"] = "not readable in code page " + std::to_string(section.codePage.value_or(1252));
+        json["error"] =
+            "not readable in code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage));
     }
     const bool raw = json.contains("error") || property.type == VT_BOOL;
     if (raw)
