@@ -47,11 +47,9 @@ using LPCSTR = const char*;
 
 #if defined(NDEBUG)
 #define ASSERT(f) ((void)0)
-#define VERIFY(f) ((void)(f))
 #else
 [[noreturn]] AFX_API void AfxAssertFailed(LPCSTR lpszText, LPCSTR lpszFileName, int nLine);
 #define ASSERT(f) ((f) ? (void)0 : AfxAssertFailed(#f, __FILE__, __LINE__))
-#define VERIFY(f) ASSERT(f)
 #endif
 
 // A place in a collection; null before the first and behind the last.

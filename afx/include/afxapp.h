@@ -88,8 +88,6 @@ AFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmd
 
 // ---- Resources. Searched in the program, then in the extension modules, the latest first, then in the
 // framework.
-AFX_API HINSTANCE AfxGetResourceHandle();
-AFX_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 // The module that has it; the program's own if none has.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType);
 // The length copied, 0 if there is no such string: then the buffer is empty.

@@ -21,8 +21,6 @@ public:
     ~CButton() override;
     virtual BOOL Create(LPCSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
-    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
-    void SetCheck(int nCheck) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
 };
 
 class AFX_API CEdit : public CWnd {
@@ -32,10 +30,6 @@ public:
     ~CEdit() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
-    void SetSel(int nStartChar, int nEndChar) {
-        SendMessage(EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
-    }
-    void LimitText(int nChars = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
 };
 
 // What the two controls with items have in common in their names: results are LB_ERR or CB_ERR (-1) on
@@ -54,7 +48,6 @@ public:
     int GetTopIndex() const { return Send(LB_GETTOPINDEX); }
     int AddString(LPCSTR lpszItem) { return Send(LB_ADDSTRING, 0, lpszItem); }
     int InsertString(int nIndex, LPCSTR lpszItem) { return Send(LB_INSERTSTRING, nIndex, lpszItem); }
-    int DeleteString(UINT nIndex) { return Send(LB_DELETESTRING, static_cast<int>(nIndex)); }
     void ResetContent() { Send(LB_RESETCONTENT); }
     int FindString(int nStartAfter, LPCSTR lpszItem) const {
         return Send(LB_FINDSTRING, nStartAfter, lpszItem);
@@ -62,7 +55,6 @@ public:
     int FindStringExact(int nStartAfter, LPCSTR lpszFind) const {
         return Send(LB_FINDSTRINGEXACT, nStartAfter, lpszFind);
     }
-    int GetTextLen(int nIndex) const { return Send(LB_GETTEXTLEN, nIndex); }
     int GetText(int nIndex, LPSTR lpszBuffer) const { return Send(LB_GETTEXT, nIndex, lpszBuffer); }
     // An index out of range leaves rString empty.
     void GetText(int nIndex, CString& rString) const;
@@ -104,7 +96,6 @@ public:
     int SetCurSel(int nSelect) { return Send(CB_SETCURSEL, nSelect); }
     int AddString(LPCSTR lpszString) { return Send(CB_ADDSTRING, 0, lpszString); }
     int InsertString(int nIndex, LPCSTR lpszString) { return Send(CB_INSERTSTRING, nIndex, lpszString); }
-    int DeleteString(UINT nIndex) { return Send(CB_DELETESTRING, static_cast<int>(nIndex)); }
     void ResetContent() { Send(CB_RESETCONTENT); }
     int FindString(int nStartAfter, LPCSTR lpszString) const {
         return Send(CB_FINDSTRING, nStartAfter, lpszString);
@@ -112,13 +103,11 @@ public:
     int FindStringExact(int nIndexStart, LPCSTR lpszFind) const {
         return Send(CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
     }
-    int GetLBTextLen(int nIndex) const { return Send(CB_GETLBTEXTLEN, nIndex); }
     int GetLBText(int nIndex, LPSTR lpszText) const { return Send(CB_GETLBTEXT, nIndex, lpszText); }
     // An index out of range leaves rString empty.
     void GetLBText(int nIndex, CString& rString) const;
     BOOL GetDroppedState() const { return Send(CB_GETDROPPEDSTATE); }
     void ShowDropDown(BOOL bShowIt = TRUE) { Send(CB_SHOWDROPDOWN, bShowIt); }
-    void LimitText(int nMaxChars) { Send(CB_LIMITTEXT, nMaxChars); }
 
     // Owner drawing, as with CListBox. Item -1 is the closed combo's field without a selection.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

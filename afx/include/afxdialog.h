@@ -73,7 +73,6 @@ public:
     // TRUE: the first control gets the focus. FALSE: OnInitDialog has set it. If the first exchange fails, or
     // something is thrown, the dialog ends with -1.
     virtual BOOL OnInitDialog();
-    void NextDlgCtrl() const;
     void GotoDlgCtrl(CWnd* pWndCtrl);
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

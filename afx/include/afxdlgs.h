@@ -1,9 +1,10 @@
 // Property sheets and their pages; the file dialog.
 //
 //   CPropertySheet sheet("Properties", pParent);
-//   CColorPage colors;                       // CPropertyPage(IDD_COLORS): the template's caption is the
-//   tab's sheet.AddPage(&colors);                  // borrowed: pages outlive the sheet, or are removed if
-//   (sheet.DoModal() == IDOK) ...
+//   CColorPage colors;      // CPropertyPage(IDD_COLORS): the template's caption is the tab's
+//   sheet.AddPage(&colors); // borrowed: it outlives the sheet, or is removed
+//   if (sheet.DoModal() == IDOK)
+//       Use(colors);
 //
 // A page's window is made when the page is first activated. A page is left only if its OnKillActive, which
 // saves by its exchange, says so: else the sheet stays on it. OK leaves the active page and calls its OnOK;

@@ -68,7 +68,6 @@ public:
     void SetRectEmpty() { SetRect(0, 0, 0, 0); }
     void InflateRect(int x, int y) { ::InflateRect(this, x, y); }
     void DeflateRect(int x, int y) { ::InflateRect(this, -x, -y); }
-    void OffsetRect(int x, int y) { ::OffsetRect(this, x, y); }
     BOOL IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) { return ::IntersectRect(this, lpRect1, lpRect2); }
     BOOL UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) { return ::UnionRect(this, lpRect1, lpRect2); }
     // Left not right of right, top not below bottom.
@@ -90,11 +89,9 @@ public:
     ~CGdiObject() override;
 
     HGDIOBJ m_hObject;
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
     BOOL Attach(HGDIOBJ hObject);
     HGDIOBJ Detach();
     BOOL DeleteObject();
-    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObjectA(m_hObject, nCount, lpObject); }
 };
 
 class AFX_API CPen : public CGdiObject {
@@ -129,7 +126,6 @@ public:
     static CFont* FromHandle(HFONT hFont);
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     BOOL CreateFontIndirect(const LOGFONTA* lpLogFont) { return Attach(::CreateFontIndirectA(lpLogFont)); }
-    int GetLogFont(LOGFONTA* pLogFont) const;
 };
 
 class AFX_API CBitmap : public CGdiObject {
@@ -139,20 +135,7 @@ public:
     ~CBitmap() override;
     static CBitmap* FromHandle(HBITMAP hBitmap);
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
-    BOOL LoadBitmap(UINT nIDResource) { return AttachResource(nIDResource); }
     BOOL CreateCompatibleBitmap(class CDC* pDC, int nWidth, int nHeight);
-
-private:
-    BOOL AttachResource(UINT nIDResource);
-};
-
-class AFX_API CPalette : public CGdiObject {
-    DECLARE_DYNAMIC(CPalette)
-public:
-    CPalette();
-    ~CPalette() override;
-    static CPalette* FromHandle(HPALETTE hPalette);
-    operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
 };
 
 // ---- Device contexts
@@ -167,56 +150,22 @@ public:
 
     HDC m_hDC;
     HDC m_hAttribDC;
-    HDC GetSafeHdc() const { return m_hDC; }
     static CDC* FromHandle(HDC hDC);
     BOOL Attach(HDC hDC);
     HDC Detach();
     BOOL CreateCompatibleDC(CDC* pDC);
     BOOL DeleteDC();
-    int SaveDC() { return ::SaveDC(m_hDC); }
-    BOOL RestoreDC(int nSavedDC) { return ::RestoreDC(m_hDC, nSavedDC); }
-    int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
 
     // Each gives the object that was there before, as a temporary one.
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     CFont* SelectObject(CFont* pFont);
     CBitmap* SelectObject(CBitmap* pBitmap);
-    HGDIOBJ SelectStockObject(int nIndex) { return ::SelectObject(m_hDC, ::GetStockObject(nIndex)); }
-    CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
-    UINT RealizePalette() { return ::RealizePalette(m_hDC); }
 
-    COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
-    COLORREF SetBkColor(COLORREF crColor) { return ::SetBkColor(m_hDC, crColor); }
     int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
-    int SetROP2(int nDrawMode) { return ::SetROP2(m_hDC, nDrawMode); }
-    int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
-
-    int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hDC, lpRect); }
-    int IntersectClipRect(LPCRECT r) {
-        return ::IntersectClipRect(m_hDC, r->left, r->top, r->right, r->bottom);
-    }
-
-    CPoint MoveTo(int x, int y);
-    BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
-    BOOL Rectangle(LPCRECT r) { return ::Rectangle(m_hDC, r->left, r->top, r->right, r->bottom); }
-    void FillRect(LPCRECT lpRect, CBrush* pBrush);
     // Leaves the background colour as it was.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
-    void DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
-    BOOL BitBlt(int x, int y, int cx, int cy, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop) {
-        return ::BitBlt(m_hDC, x, y, cx, cy, pSrcDC->m_hDC, xSrc, ySrc, dwRop);
-    }
-
-    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str) {
-        return ::ExtTextOutA(m_hDC, x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), nullptr);
-    }
-    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-        return ::DrawTextA(m_hDC, str, str.GetLength(), lpRect, nFormat);
-    }
-    CSize GetTextExtent(const CString& str) const;
-    BOOL GetTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hAttribDC, lpMetrics); }
 };
 
 // The device context of a WM_PAINT handler.

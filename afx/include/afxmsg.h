@@ -38,8 +38,6 @@ enum AfxSig : UINT {
     AfxSig_bD,    // BOOL (CDC*)
     AfxSig_vWl,   // the same, from lParam
     AfxSig_vW,    // void (CWnd*)
-    AfxSig_vwWb,  // void (UINT, CWnd*, BOOL)
-    AfxSig_bWww,  // BOOL (CWnd*, UINT, UINT)
     AfxSig_vdrop, // void (HDROP)
     AfxSig_vdraw, // void (int, LPDRAWITEMSTRUCT)
     AfxSig_vmeas, // void (int, LPMEASUREITEMSTRUCT)
@@ -108,7 +106,6 @@ protected:                                                                      
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
-#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
 #define ON_CBN_EDITCHANGE(id, memberFxn) ON_CONTROL(CBN_EDITCHANGE, id, memberFxn)
@@ -135,16 +132,10 @@ protected:                                                                      
 #define ON_WM_WINDOWPOSCHANGING()                                                                            \
     AFX_WM_ENTRY(WM_WINDOWPOSCHANGING, AfxSig_vpos, void (CWnd::*)(WINDOWPOS*),                              \
                  &ThisClass::OnWindowPosChanging)
-#define ON_WM_ACTIVATE()                                                                                     \
-    AFX_WM_ENTRY(WM_ACTIVATE, AfxSig_vwWb, void (CWnd::*)(UINT, CWnd*, BOOL), &ThisClass::OnActivate)
 #define ON_WM_SETFOCUS() AFX_WM_ENTRY(WM_SETFOCUS, AfxSig_vW, void (CWnd::*)(CWnd*), &ThisClass::OnSetFocus)
-#define ON_WM_KILLFOCUS()                                                                                    \
-    AFX_WM_ENTRY(WM_KILLFOCUS, AfxSig_vW, void (CWnd::*)(CWnd*), &ThisClass::OnKillFocus)
 #define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, AfxSig_vt, void (CWnd::*)(UINT_PTR), &ThisClass::OnTimer)
 #define ON_WM_DROPFILES()                                                                                    \
     AFX_WM_ENTRY(WM_DROPFILES, AfxSig_vdrop, void (CWnd::*)(HDROP), &ThisClass::OnDropFiles)
-#define ON_WM_SETCURSOR()                                                                                    \
-    AFX_WM_ENTRY(WM_SETCURSOR, AfxSig_bWww, BOOL (CWnd::*)(CWnd*, UINT, UINT), &ThisClass::OnSetCursor)
 #define ON_WM_CAPTURECHANGED()                                                                               \
     AFX_WM_ENTRY(WM_CAPTURECHANGED, AfxSig_vWl, void (CWnd::*)(CWnd*), &ThisClass::OnCaptureChanged)
 

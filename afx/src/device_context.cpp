@@ -56,20 +56,6 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
     return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, pBitmap->m_hObject)));
 }
 
-CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
-    return CPalette::FromHandle(::SelectPalette(m_hDC, *pPalette, bForceBackground));
-}
-
-CPoint CDC::MoveTo(int x, int y) {
-    CPoint before;
-    ::MoveToEx(m_hDC, x, y, &before);
-    return before;
-}
-
-void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush) {
-    ::FillRect(m_hDC, lpRect, *pBrush);
-}
-
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     // An opaque text of no characters fills without a brush to be made.
     const COLORREF before = ::SetBkColor(m_hDC, clr);
@@ -80,12 +66,6 @@ void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
 void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
     const CRect rect(x, y, x + cx, y + cy);
     FillSolidRect(&rect, clr);
-}
-
-CSize CDC::GetTextExtent(const CString& str) const {
-    CSize size;
-    ::GetTextExtentPoint32A(m_hAttribDC, str, str.GetLength(), &size);
-    return size;
 }
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_ps(), m_hWnd(pWnd->m_hWnd) {

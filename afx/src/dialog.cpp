@@ -84,10 +84,6 @@ void CDialog::OnCancel() {
     EndDialog(IDCANCEL);
 }
 
-void CDialog::NextDlgCtrl() const {
-    SendMessage(WM_NEXTDLGCTL, 0, FALSE);
-}
-
 void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
     SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE);
 }

@@ -1,8 +1,7 @@
-// Pens, brushes, fonts, bitmaps and palettes.
+// Pens, brushes, fonts and bitmaps.
 
 #include "thread_state.h"
 
-#include <afxapp.h>
 #include <afxgdi.h>
 
 #include <utility>
@@ -12,7 +11,6 @@ IMPLEMENT_DYNAMIC(CPen, CGdiObject)
 IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
-IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
 
 namespace {
 
@@ -71,25 +69,12 @@ CFont::~CFont() = default;
 CFont* CFont::FromHandle(HFONT hFont) {
     return TempOver<CFont>(hFont);
 }
-int CFont::GetLogFont(LOGFONTA* pLogFont) const {
-    return GetObject(static_cast<int>(sizeof *pLogFont), pLogFont);
-}
 
 CBitmap::CBitmap() = default;
 CBitmap::~CBitmap() = default;
 CBitmap* CBitmap::FromHandle(HBITMAP hBitmap) {
     return TempOver<CBitmap>(hBitmap);
 }
-BOOL CBitmap::AttachResource(UINT nIDResource) {
-    LPCSTR name = MAKEINTRESOURCEA(nIDResource);
-    return Attach(::LoadBitmapA(AfxFindResourceHandle(name, reinterpret_cast<LPCSTR>(RT_BITMAP)), name));
-}
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return Attach(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
-}
-
-CPalette::CPalette() = default;
-CPalette::~CPalette() = default;
-CPalette* CPalette::FromHandle(HPALETTE hPalette) {
-    return TempOver<CPalette>(hPalette);
 }

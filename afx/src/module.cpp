@@ -9,8 +9,6 @@ IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
 namespace {
 
-HINSTANCE g_resources = nullptr; // the program's file until AfxSetResourceHandle
-
 // The latest module first.
 std::vector<CDynLinkLibrary*>& Libraries() {
     static std::vector<CDynLinkLibrary*> libraries;
@@ -28,7 +26,7 @@ HINSTANCE OwnModule() {
 // Asks the modules in the order of search until one says yes; that one, or null.
 template <class Has>
 HINSTANCE FindModule(Has has) {
-    if (has(AfxGetResourceHandle())) return AfxGetResourceHandle();
+    if (has(AfxGetInstanceHandle())) return AfxGetInstanceHandle();
     for (const CDynLinkLibrary* library : Libraries()) {
         if (library->m_hResource != nullptr && has(library->m_hResource)) return library->m_hResource;
     }
@@ -38,18 +36,10 @@ HINSTANCE FindModule(Has has) {
 
 } // namespace
 
-HINSTANCE AfxGetResourceHandle() {
-    return g_resources != nullptr ? g_resources : AfxGetInstanceHandle();
-}
-
-void AfxSetResourceHandle(HINSTANCE hInstResource) {
-    g_resources = hInstResource;
-}
-
 HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType) {
     HINSTANCE found =
         FindModule([=](HINSTANCE module) { return ::FindResourceA(module, lpszName, lpszType) != nullptr; });
-    return found != nullptr ? found : AfxGetResourceHandle();
+    return found != nullptr ? found : AfxGetInstanceHandle();
 }
 
 int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf) {

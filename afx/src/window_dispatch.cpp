@@ -83,12 +83,6 @@ LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l
         return Call<CWnd*>(wnd, pfn, WindowOf(w));
     case AfxSig_vWl:
         return Call<CWnd*>(wnd, pfn, WindowOf(static_cast<WPARAM>(l)));
-    case AfxSig_vwWb:
-        return Call<UINT, CWnd*, BOOL>(wnd, pfn, static_cast<UINT>(LOWORD(w)),
-                                       WindowOf(static_cast<WPARAM>(l)), static_cast<BOOL>(HIWORD(w)));
-    case AfxSig_bWww:
-        return CallForResult<BOOL, CWnd*, UINT, UINT>(wnd, pfn, WindowOf(w), static_cast<UINT>(LOWORD(l)),
-                                                      static_cast<UINT>(HIWORD(l)));
     case AfxSig_vdrop:
         return Call<HDROP>(wnd, pfn, reinterpret_cast<HDROP>(w));
     case AfxSig_vdraw:
@@ -214,13 +208,7 @@ void CWnd::OnSize(UINT, int, int) {
 void CWnd::OnWindowPosChanging(WINDOWPOS*) {
     Default();
 }
-void CWnd::OnActivate(UINT, CWnd*, BOOL) {
-    Default();
-}
 void CWnd::OnSetFocus(CWnd*) {
-    Default();
-}
-void CWnd::OnKillFocus(CWnd*) {
     Default();
 }
 void CWnd::OnTimer(UINT_PTR) {
@@ -240,7 +228,4 @@ void CWnd::OnKeyDown(UINT, UINT, UINT) {
 }
 void CWnd::OnKeyUp(UINT, UINT, UINT) {
     Default();
-}
-BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT) {
-    return static_cast<BOOL>(Default());
 }

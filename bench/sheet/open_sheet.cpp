@@ -1,3 +1,4 @@
+// Acting from inside the loop of a sheet as soon as it is open.
 #include "bench/sheet/open_sheet.h"
 
 #include <commctrl.h>

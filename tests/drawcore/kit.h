@@ -13,6 +13,7 @@
 
 #include "orlo/host/host.h"
 #include "support/pixels.h"
+#include "support/test_drawing.h"
 
 struct P {
     double x, y;
@@ -31,22 +32,12 @@ uint32_t GetWhole(GraphicStruct*, const char* name);
 double GetReal(GraphicStruct*, const char* name);
 std::string GetText(GraphicStruct*, const char* name);
 
-// A drawing that is freed at the end.
-class OwnDrawing {
+// A drawing that takes graphics and is passed as what the host's functions take.
+class OwnDrawing : public TestDrawing {
 public:
-    OwnDrawing() : m_drawing(DrawingNew()) {}
-    ~OwnDrawing() { Close(); }
-    OwnDrawing(const OwnDrawing&) = delete;
-    OwnDrawing& operator=(const OwnDrawing&) = delete;
-
-    operator DrawingStruct*() const { return m_drawing; }
-    GraphicStruct* Root() const { return DrawingGetRoot(m_drawing); }
-    TableStruct* Table(const char* name) const { return DrawingGetTable(m_drawing, name); }
+    operator DrawingStruct*() const { return Get(); }
+    GraphicStruct* Root() const { return DrawingGetRoot(Get()); }
     GraphicStruct* Add(GraphicStruct* graphic) const { return GraphicAdd(Root(), graphic); }
-    void Close() { DrawingDispose(&m_drawing); }
-
-private:
-    DrawingStruct* m_drawing;
 };
 
 // A picture of 0..100 drawing units on each side, one pixel for each: unit x is pixel column x, unit y row 100 - y.

@@ -13,19 +13,17 @@ namespace {
 using nlohmann::json;
 
 struct Drawing {
-    std::string folder;
-    json expected;
+    json expected; // its entry of the manifest
 };
 
 void PrintTo(const Drawing& drawing, std::ostream* to) {
-    *to << drawing.folder << drawing.expected["file"];
+    *to << drawing.expected["file"];
 }
 
 std::vector<Drawing> AllDrawings() {
     std::vector<Drawing> drawings;
-    for (const std::string& folder : DrawingFolders())
-        for (const json& entry : json::parse(ReadBytes(folder + "manifest.json")))
-            drawings.push_back({folder, entry});
+    for (const json& entry : json::parse(ReadBytes(kDrawings + "manifest.json")))
+        drawings.push_back({entry});
     return drawings;
 }
 
@@ -58,7 +56,7 @@ class Manifest : public testing::TestWithParam<Drawing> {};
 
 TEST_P(Manifest, IsMet) {
     const json& expected = GetParam().expected;
-    const std::string bytes = ReadBytes(GetParam().folder + expected["file"].get<std::string>());
+    const std::string bytes = ReadBytes(kDrawings + expected["file"].get<std::string>());
     ASSERT_EQ(bytes.size(), expected["size"]);
     dxf::Document document;
     try {

@@ -18,7 +18,7 @@ const char* const kFiles[] = {"made-inserts-R2000.dxf", "made-gbk-R2004.dxf",   
                               "vuer-linetypes.dxf",     "pyleecan-rotor-sector.dxf"};
 
 std::string Load(const char* file) {
-    return ReadBytes(DrawingFolders()[0] + file);
+    return ReadBytes(kDrawings + file);
 }
 
 // True if it was read.

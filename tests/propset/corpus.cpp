@@ -1,3 +1,4 @@
+// Reading the manifest of the streams, and values in its form.
 #include "tests/propset/corpus.h"
 
 #include <cctype>
@@ -19,18 +20,16 @@ void PrintTo(const CorpusStream& stream, std::ostream* out) {
 }
 
 std::vector<CorpusStream> AllCorpusStreams() {
+    const std::string folder = ORLO_TEST_DATA "/propset/";
+    std::ifstream manifest(folder + "manifest.json");
     std::vector<CorpusStream> streams;
-    for (const std::string folder : {ORLO_TEST_DATA "/propset", ORLO_CORPUS "/propset"}) {
-        std::ifstream manifest(folder + "/manifest.json");
-        if (!manifest) continue;
-        for (const json& entry : json::parse(manifest))
-            streams.push_back({folder + "/" + entry["file"].get<std::string>(), entry});
-    }
+    for (const json& entry : json::parse(manifest))
+        streams.push_back({folder + entry["file"].get<std::string>(), entry});
     return streams;
 }
 
 std::string CorpusTestName(const std::string& path) {
-    std::string name = path.find("/shared/") != std::string::npos ? "corpus_" : "data_";
+    std::string name;
     for (const char c : path.substr(path.rfind('/') + 1))
         name += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
     return name;

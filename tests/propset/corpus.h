@@ -1,4 +1,4 @@
-// The property-set streams of tests/data, and of the corpus beside the repository where that is there.
+// The property-set streams of tests/data/propset, with what independent readers see in them.
 #pragma once
 
 #include <nlohmann/json.hpp>

@@ -1,3 +1,4 @@
+// Raw-data items as tokens: what is read, and what is refused.
 #include "orlo/propset/tokens.h"
 
 #include <gtest/gtest.h>

@@ -244,7 +244,7 @@ std::map<std::string, Content> ContentsOf(const fs::path& folder) {
 TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
     std::map<std::string, std::vector<unsigned char>> bytes;
     std::map<fs::path, int> ofKind; // two of a kind are enough: each takes a start of suminfo
-    for (const auto& entry : fs::directory_iterator(fs::exists(kCorpus) ? kCorpus / "ole" : kDocuments)) {
+    for (const auto& entry : fs::directory_iterator(kDocuments)) {
         const fs::path kind = entry.path().extension();
         if (kind == ".json" || kind == ".md" || ++ofKind[kind] > 2) continue;
         folder_.Copy(entry.path());

@@ -37,4 +37,3 @@ std::vector<unsigned char> BytesOf(const std::filesystem::path& file);
 
 inline const std::filesystem::path kDocuments = std::filesystem::path(ORLO_TEST_DATA) / "ole";
 inline const std::filesystem::path kStreams = std::filesystem::path(ORLO_TEST_DATA) / "propset";
-inline const std::filesystem::path kCorpus = ORLO_CORPUS;

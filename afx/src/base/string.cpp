@@ -1,4 +1,4 @@
-// CString. What it loads from resources stands in string_resource.cpp.
+// CString. What it loads from resources is in module.cpp.
 
 #include <afx.h>
 

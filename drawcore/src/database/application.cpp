@@ -1,3 +1,4 @@
+// The one application of the process.
 #include "drawcore/src/database/application.h"
 
 #include "drawcore/include/drawcore/application.h"

@@ -1,3 +1,4 @@
+// Making and freeing a drawing; its tables and its coordinate space.
 #include "drawcore/src/database/drawing.h"
 
 #include "drawcore/include/drawcore/drawing.h"

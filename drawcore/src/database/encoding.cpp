@@ -1,3 +1,4 @@
+// Conversions by the functions of the system.
 #include "drawcore/src/database/encoding.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// Noting what a step changes, and putting it back.
 #include "drawcore/src/database/undo.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Object systems from their normals, and where the block of a dimension lies.
 #include "drawcore/src/dxf/placement.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// Points, images and extremes of arcs; arcs from centers and from bulges.
 #include "drawcore/src/geometry/arc.h"
 
 #include <cmath>

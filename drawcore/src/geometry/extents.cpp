@@ -1,3 +1,4 @@
+// Growing a box, and its image under a matrix.
 #include "drawcore/src/geometry/extents.h"
 
 #include <algorithm>

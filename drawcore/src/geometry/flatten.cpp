@@ -1,3 +1,4 @@
+// How many pieces a curve needs, and their ends.
 #include "drawcore/src/geometry/flatten.h"
 
 #include <algorithm>

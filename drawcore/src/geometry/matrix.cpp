@@ -1,3 +1,4 @@
+// Products, inverses and the images of points.
 #include "drawcore/src/geometry/matrix.h"
 
 #include <cmath>

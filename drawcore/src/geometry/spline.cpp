@@ -1,3 +1,4 @@
+// Points of a spline, and the spline through given points.
 #include "drawcore/src/geometry/spline.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Lengths, cross products and directions of vectors.
 #include "drawcore/src/geometry/vector.h"
 
 #include <cmath>

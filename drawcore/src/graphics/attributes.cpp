@@ -1,3 +1,4 @@
+// When two looks are the same.
 #include "drawcore/src/graphics/attributes.h"
 
 #include <functional>

@@ -1,3 +1,4 @@
+// What all graphics do alike: members, copies, extents.
 #include "drawcore/src/graphics/graphic.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Tracing the steps of an insertion, and its vertices.
 #include "drawcore/src/graphics/insert_graphic.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The tables themselves: how each property is read and written.
 #include "drawcore/src/graphics/properties.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Adding to a set and taking out of it, and the calls of the host.
 #include "drawcore/src/graphics/selection.h"
 
 #include "drawcore/include/drawcore/selection.h"

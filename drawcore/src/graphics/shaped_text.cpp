@@ -1,3 +1,4 @@
+// Shaping a row by the script engine of the system.
 #include "drawcore/src/graphics/shaped_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Tracing and transforming splines.
 #include "drawcore/src/graphics/spline_graphic.h"
 
 #include <algorithm>

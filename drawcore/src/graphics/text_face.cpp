@@ -1,3 +1,4 @@
+// Measuring a face on a device context in memory.
 #include "drawcore/src/graphics/text_face.h"
 
 #include <map>

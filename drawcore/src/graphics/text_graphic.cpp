@@ -1,3 +1,4 @@
+// Laying out the rows of a text, and tracing them.
 #include "drawcore/src/graphics/text_graphic.h"
 
 #include <algorithm>

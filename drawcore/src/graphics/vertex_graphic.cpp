@@ -1,3 +1,4 @@
+// Tracing and transforming lists of vertices.
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 #include <algorithm>

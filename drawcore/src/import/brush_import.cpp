@@ -1,3 +1,4 @@
+// The pattern of a hatch as a brush style, each pattern once.
 #include "drawcore/src/import/brush_import.h"
 
 #include <algorithm>

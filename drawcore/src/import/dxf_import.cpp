@@ -1,3 +1,4 @@
+// The order in which a document becomes a drawing.
 #include "drawcore/src/import/dxf_import.h"
 
 #include "drawcore/src/graphics/vertex_graphic.h"

@@ -1,3 +1,4 @@
+// One function for each kind of entity.
 #include "drawcore/src/import/entity_import.h"
 
 #include <algorithm>

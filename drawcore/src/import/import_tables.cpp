@@ -1,3 +1,4 @@
+// Filling the tables, and finding entries by the names of a document.
 #include "drawcore/src/import/import_tables.h"
 
 #include <algorithm>

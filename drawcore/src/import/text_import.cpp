@@ -1,3 +1,4 @@
+// The place, style and alignment of imported texts.
 #include "drawcore/src/import/text_import.h"
 
 #include <algorithm>

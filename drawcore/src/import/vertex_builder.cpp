@@ -1,3 +1,4 @@
+// Adding strokes, each from the end of the one before.
 #include "drawcore/src/import/vertex_builder.h"
 
 #include <cmath>

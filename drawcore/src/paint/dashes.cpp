@@ -1,3 +1,4 @@
+// Walking a path by the lengths of a pattern.
 #include "drawcore/src/paint/dashes.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Pens, brushes and paths of the device context.
 #include "drawcore/src/paint/gdi_painter.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The lines of a pattern over a box, and their cuts with an outline.
 #include "drawcore/src/paint/hatch_lines.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Distances to what is traced, and what a window holds.
 #include "drawcore/src/paint/hit_test.h"
 
 #include <algorithm>

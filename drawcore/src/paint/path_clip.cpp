@@ -1,3 +1,4 @@
+// Cutting segments and outlines, one side of the box after another.
 #include "drawcore/src/paint/path_clip.h"
 
 #include <algorithm>

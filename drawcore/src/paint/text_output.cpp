@@ -1,3 +1,4 @@
+// Fonts for rows of one size, and their output.
 #include "drawcore/src/paint/text_output.h"
 
 #include <cmath>

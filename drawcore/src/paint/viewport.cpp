@@ -1,3 +1,4 @@
+// The scale and the two mappings of a viewport.
 #include "drawcore/src/paint/viewport.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The entries of the table, and insertions that forget what they kept of a block.
 #include "drawcore/src/styles/block.h"
 
 #include "drawcore/src/database/drawing.h"

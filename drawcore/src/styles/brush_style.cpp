@@ -1,3 +1,4 @@
+// The styles that every drawing has, and the calls of the host.
 #include "drawcore/src/styles/brush_style.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The numbered colours, and the entries of the table.
 #include "drawcore/src/styles/colors.h"
 
 #include <algorithm>

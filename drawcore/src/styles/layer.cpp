@@ -1,3 +1,4 @@
+// The entries of the table, and the calls of the host.
 #include "drawcore/src/styles/layer.h"
 
 #include "drawcore/include/drawcore/layer.h"

@@ -1,3 +1,4 @@
+// The entries of the table, and the calls of the host.
 #include "drawcore/src/styles/line_style.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Entries by identifier and by name.
 #include "drawcore/src/tables/table.h"
 
 #include <algorithm>

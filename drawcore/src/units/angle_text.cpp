@@ -1,3 +1,4 @@
+// Writing and reading angles in each of their formats.
 #include "drawcore/src/units/angle_text.h"
 
 #include <algorithm>

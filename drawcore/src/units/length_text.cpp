@@ -1,3 +1,4 @@
+// Writing and reading lengths in each of their formats.
 #include "drawcore/src/units/length_text.h"
 
 #include <algorithm>

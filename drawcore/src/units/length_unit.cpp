@@ -1,3 +1,4 @@
+// The table of units.
 #include "drawcore/src/units/length_unit.h"
 
 #include "drawcore/src/tables/table.h"

@@ -1,3 +1,4 @@
+// Rounding, the decimal mark, and reading back.
 #include "drawcore/src/units/number_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Numbers, words and signs at the cursor.
 #include "drawcore/src/units/text_cursor.h"
 
 namespace drawcore {

@@ -1,3 +1,4 @@
+// The variables of the units table, checked as they are read.
 #include "drawcore/src/units/unit_settings.h"
 
 #include <algorithm>
