@@ -7,27 +7,12 @@
 #include <drawcore/dxf.h>
 #include <orlo.h>
 
-// Which table each kind of the library's controls shows.
-const char* TableOf(int kind) {
-    switch (kind) {
-    case kControlColors:
-        return "_Colors_";
-    case kControlLayers:
-        return "_Layers_";
-    case kControlBrushStyleList:
-        return "_BrushStyles_";
-    case kControlLineStyleList:
-        return "_LineStyles_";
-    default:
-        return "_Units_"; // fonts: of the drawing that owns the table
-    }
-}
-
 class CHostFrame : public CFrameWnd {
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        if (HIWORD(wParam) != kControlReady) return CFrameWnd::OnCommand(wParam, lParam);
+        const char* table = TableOfControl(LOWORD(wParam)); // by the kind of the library's control
+        if (HIWORD(wParam) != kControlReady || table == nullptr) return CFrameWnd::OnCommand(wParam, lParam);
         DrawingStruct* drawing = AppGetCurrentApp()->pCurrentDrawing;
-        const ControlFillRecord fill = {DrawingGetTable(drawing, TableOf(LOWORD(wParam))), 0, 0};
+        const ControlFillRecord fill = {DrawingGetTable(drawing, table), 0, 0};
         ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }

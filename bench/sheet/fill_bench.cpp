@@ -12,13 +12,12 @@
 #include "drawcore/drawing.h"
 #include "drawcore/table.h"
 #include "orlo/controls/control_fill.h"
+#include "orlo/controls/control_ids.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 
 namespace {
 
-constexpr int kColorCombo = 32005; // identifiers by which the window class makes its controls
-constexpr int kLayerCombo = 32008;
 constexpr DWORD kComboStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
 
@@ -132,8 +131,8 @@ Fill FillWith(const List& list, int n) {
 } // namespace
 
 void BenchFill() {
-    const List lists[] = {{"fill_colors_", kColorCombo, kTableColors, MakeColors},
-                          {"fill_layers_", kLayerCombo, kTableLayers, MakeLayers}};
+    const List lists[] = {{"fill_colors_", IDC_COLOR, kTableColors, MakeColors},
+                          {"fill_layers_", IDC_LAYER, kTableLayers, MakeLayers}};
     for (const List& list : lists) {
         Pair before{};
         for (const int n : {256, 1000, 10000}) {

@@ -12,12 +12,12 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/host.h"
 #include "orlo/pages/insert_parts.h"
+#include "orlo/resources/resource.h"
 #include "support/sheet_driver.h"
 
 namespace {
 
 constexpr int kRounds = 5;
-constexpr unsigned int kPage = 29004;
 
 // A drawing of n insertions, all selected, in one plane or turned anyhow.
 class Insertions {
@@ -99,7 +99,7 @@ Merge MeasureMerge(int n, bool plane) {
     Merge merge{};
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         user.SelectPage(1);
-        CPropertyPage* page = sheet->FindPage(kPage);
+        CPropertyPage* page = sheet->FindPage(IDD_INSERT_PAGE);
         volatile double sink = 0;
         const auto load = [&] { page->UpdateData(FALSE); };
         merge.calls = Compare(kRounds, load, [&] { sink = BareLoop(insertions.Selection()); });

@@ -6,6 +6,7 @@
 #include "bench/paired_timer.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/viewport.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/test_sheet.h"
 
@@ -13,7 +14,6 @@ namespace {
 
 constexpr int kRounds = 31;
 constexpr int kPaints = 50; // a round
-constexpr unsigned int kPen = 29001;
 
 // A window as large as the pane that does nothing but let the host draw.
 class BarePane : public CWnd {
@@ -66,7 +66,7 @@ void BenchPreview() {
     TestSheet sheet(kit);
     ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
     sheet.Run([&](SheetDriver& user) {
-        auto* page = static_cast<CGraphicPropertyPage*>(sheet.Sheet().FindPage(kPen));
+        auto* page = static_cast<CGraphicPropertyPage*>(sheet.Sheet().FindPage(IDD_PEN_PAGE));
         uint32_t position;
         BarePane bare(user.Sheet(), static_cast<GraphicStruct*>(page->GetFirstObject(&position, 1)));
         const auto repeat = [](auto work) {

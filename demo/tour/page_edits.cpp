@@ -5,16 +5,9 @@
 #include <cstdlib>
 #include <stdexcept>
 
-namespace {
+#include "orlo/resources/resource.h"
 
-// Controls of the pages.
-enum Control {
-    kInfo = 101,
-    kUnderline = 106,
-    kRotationZ = 106,
-    kPenColor = 32005,
-    kBrushStyle = 32024,
-};
+namespace {
 
 constexpr int kDotsBrush = 8; // its place in the list: through the dots all that lies below is seen
 constexpr unsigned long kOrange = RGB(255, 127, 0);
@@ -61,17 +54,20 @@ int IndexOfColor(HWND combo, unsigned long color) {
 }
 
 constexpr PageEdit kEdits[] = {
-    {"General", "Info", [](UserInput& user, HWND page) { TypeOver(user, page, kInfo, "Seen by the tour"); }},
+    {"General", "Info",
+     [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
     {"Pen", "PenColor",
      [](UserInput& user, HWND page) {
-         const HWND colors = FocusOn(page, kPenColor);
+         const HWND colors = FocusOn(page, IDC_COLOR);
          Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
      }},
     {"Brush", "BrushStyle",
-     [](UserInput& user, HWND page) { MoveTo(user, FocusOn(page, kBrushStyle), LB_GETCURSEL, kDotsBrush); }},
-    {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, kUnderline)); }},
+     [](UserInput& user, HWND page) {
+         MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDotsBrush);
+     }},
+    {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
     {"Block Insertion", "vertices",
-     [](UserInput& user, HWND page) { TypeOver(user, page, kRotationZ, "30"); }},
+     [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
 };
 
 } // namespace

@@ -16,6 +16,7 @@
 #include "demo/viewer/property_snapshot.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/style.h"
+#include "orlo/resources/resource.h"
 
 namespace {
 
@@ -23,9 +24,6 @@ constexpr unsigned kPause = 120; // milliseconds after an action, so that a look
 constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than what it takes
 
 constexpr int kWizardNext = 101;
-
-// Controls of the Pen page.
-enum PenControl { kWidth = 103, kScaleSystem = 109, kColor = 32005, kStyle = 32021 };
 
 // Orange, cyan, green: the first that is in the list and not there already.
 constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
@@ -248,7 +246,7 @@ void Tour::EditPenPage(HWND sheet) {
 }
 
 void Tour::PickColor(HWND page) {
-    const HWND combo = ::GetDlgItem(page, kColor);
+    const HWND combo = ::GetDlgItem(page, IDC_COLOR);
     const int now = Ask(combo, CB_GETCURSEL);
     int wanted = -1;
     for (const COLORREF color : kColors) {
@@ -266,7 +264,7 @@ void Tour::PickColor(HWND page) {
 
 // A width is then the same length on paper for all of the selection.
 void Tour::PickPaperScale(HWND page) {
-    const HWND combo = ::GetDlgItem(page, kScaleSystem);
+    const HWND combo = ::GetDlgItem(page, IDC_SCALE_SYSTEM);
     m_user.Click(combo, DropButton(combo));
     m_user.Keys(VK_HOME, 1);
     m_user.Keys(VK_DOWN, 1);
@@ -275,7 +273,7 @@ void Tour::PickPaperScale(HWND page) {
 }
 
 void Tour::PickWidth(HWND page) {
-    const HWND combo = ::GetDlgItem(page, kWidth);
+    const HWND combo = ::GetDlgItem(page, IDC_PEN_WIDTH);
     const int now = Ask(combo, CB_GETCURSEL), count = Ask(combo, CB_GETCOUNT);
     m_user.Click(combo, DropButton(combo));
     int wanted = -1;
@@ -296,7 +294,7 @@ void Tour::PickWidth(HWND page) {
 }
 
 void Tour::PickStyle(HWND page) {
-    const HWND list = ::GetDlgItem(page, kStyle);
+    const HWND list = ::GetDlgItem(page, IDC_LINE_STYLE_LIST);
     TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
     const int now = Ask(list, LB_GETCURSEL), count = Ask(list, LB_GETCOUNT);
     int wanted = -1;

@@ -2,7 +2,6 @@
 
 #include "demo/viewer/control_tables.h"
 
-#include <algorithm>
 #include <string>
 
 #include "orlo/controls/combo_control.h"
@@ -13,24 +12,6 @@
 #include "orlo/host/units.h"
 
 namespace {
-
-struct ControlTable {
-    ControlKind kind;
-    const char* table;
-    unsigned int selected; // 0, or a colour that is none: the page selects what the graphics have
-};
-
-constexpr ControlTable kTables[] = {
-    {kControlFontFaces, kTableUnits, 1},
-    {kControlFontSizes, kTableUnits, 0},
-    {kControlLineStyleCombo, kTableLineStyles, 0},
-    {kControlColors, kTableColors, ~1u},
-    {kControlBrushStyleCombo, kTableBrushStyles, 0},
-    {kControlLayers, kTableLayers, 0},
-    {kControlStyleNames, kTableBlocks, 0},
-    {kControlLineStyleList, kTableLineStyles, 0},
-    {kControlBrushStyleList, kTableBrushStyles, 0},
-};
 
 // The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
 std::string FaceOf(const Document& document) {
@@ -44,15 +25,19 @@ std::string FaceOf(const Document& document) {
 } // namespace
 
 bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
-    if (HIWORD(wParam) != kControlReady || !document) return false;
-    const auto row = std::find_if(std::begin(kTables), std::end(kTables),
-                                  [&](const ControlTable& table) { return table.kind == LOWORD(wParam); });
-    if (row == std::end(kTables)) return false;
+    const unsigned kind = LOWORD(wParam);
+    const char* const table = ::TableOfControl(kind);
+    if (HIWORD(wParam) != kControlReady || !document || !table) return false;
     DrawingStruct* drawing = document->Drawing();
-    ControlFillRecord fill = {::DrawingGetTable(drawing, row->table), 0, row->selected};
-    const std::string face = row->kind == kControlFontFaces ? FaceOf(*document) : "";
-    if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
-    if (row->kind == kControlStyleNames) fill.nSelected = document->Styles().Current();
+    // The page selects what the graphics have.
+    ControlFillRecord fill = {::DrawingGetTable(drawing, table), 0, 0};
+    const std::string face = kind == kControlFontFaces ? FaceOf(*document) : "";
+    if (kind == kControlFontFaces) {
+        fill.nSelected = 1;
+        if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
+    }
+    if (kind == kControlColors) fill.nSelected = kColorNone; // 0 is black
+    if (kind == kControlStyleNames) fill.nSelected = document->Styles().Current();
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
     return true;
 }

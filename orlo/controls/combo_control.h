@@ -4,8 +4,8 @@
 // From a dialog template the control is made by its window class and identifier (control_classes.h) and owns
 // itself. From code the program owns it:
 //
-//   CColorControl colors;                                        // or DDX_Control(1, pDX, 32005, colors)
-//   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, 32005);
+//   CColorControl colors;                                        // or DDX_Control(1, pDX, IDC_COLOR, colors)
+//   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, IDC_COLOR);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
 // The controls draw in the system's colours. A closed field shows the focus by the system's rectangle, and that it is disabled

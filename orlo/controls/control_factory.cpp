@@ -7,6 +7,7 @@
 #include "orlo/controls/brush_style_control_c.h"
 #include "orlo/controls/brush_style_control_l.h"
 #include "orlo/controls/color_control.h"
+#include "orlo/controls/control_ids.h"
 #include "orlo/controls/font_face_control.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/controls/layer_control.h"
@@ -34,32 +35,32 @@ CWnd* MakeFor(HWND window, Make make) {
 CWnd* CreateComboObject(HWND hWnd, int nID) {
     return MakeFor(hWnd, [=]() -> CWnd* {
         switch (nID) {
-        case 32000:
-        case 32022:
+        case IDC_FONT_FACE:
+        case IDC_FONT_FACE_2:
             return new CFontFaceControl(hWnd);
-        case 32001:
+        case IDC_FONT_SIZE:
             return new CFontSizeControl(hWnd);
-        case 32004:
-        case 32017:
-        case 32020:
-        case 32026:
+        case IDC_LINE_STYLE_COMBO:
+        case IDC_LINE_STYLE_COMBO_2:
+        case IDC_LINE_STYLE_COMBO_3:
+        case IDC_LINE_STYLE_COMBO_4:
             return new CLineStyleControlC(hWnd, 1);
-        case 32005:
-        case 32006:
-        case 32012:
-        case 32013:
-        case 32014:
-        case 32018:
-        case 32019:
-        case 32023:
-        case 32025:
-        case 32027:
+        case IDC_COLOR:
+        case IDC_BRUSH_COLOR:
+        case IDC_COLOR_2:
+        case IDC_COLOR_3:
+        case IDC_COLOR_4:
+        case IDC_COLOR_5:
+        case IDC_COLOR_6:
+        case IDC_TEXT_COLOR:
+        case IDC_COLOR_7:
+        case IDC_COLOR_8:
             return new CColorControl(hWnd, 1);
-        case 32007:
+        case IDC_BRUSH_STYLE_COMBO:
             return new CBrushStyleControlC(hWnd);
-        case 32008:
+        case IDC_LAYER:
             return new CLayerControl(hWnd);
-        case 32015:
+        case IDC_STYLE_NAME:
             return new CStyleNameControl(hWnd);
         default:
             return nullptr;
@@ -70,9 +71,9 @@ CWnd* CreateComboObject(HWND hWnd, int nID) {
 CWnd* CreateListObject(HWND hWnd, int nID) {
     return MakeFor(hWnd, [=]() -> CWnd* {
         switch (nID) {
-        case 32021:
+        case IDC_LINE_STYLE_LIST:
             return new CLineStyleControlL(hWnd);
-        case 32024:
+        case IDC_BRUSH_STYLE_LIST:
             return new CBrushStyleControlL(hWnd);
         default:
             return nullptr;

@@ -1,4 +1,5 @@
-// Which object a control of a dialog template becomes, by its control identifier. Internal to the library.
+// Which object a control of a dialog template becomes, by its control identifier (control_ids.h). Internal
+// to the library.
 #pragma once
 
 #include <afxwin.h>

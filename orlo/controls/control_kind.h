@@ -1,6 +1,8 @@
-// The kinds of the library's controls, by which they announce themselves. A kind is not the identifier of a control in its
-// dialog: all combos of line styles have the same.
+// The kinds of the library's controls, by which they announce themselves, and the table that each kind shows. A kind is not
+// the identifier of a control in its dialog (control_ids.h): all combos of line styles have the same.
 #pragma once
+
+#include "orlo/host/words.h"
 
 enum ControlKind : unsigned {
     kControlFontFaces = 0x7D00,
@@ -13,3 +15,28 @@ enum ControlKind : unsigned {
     kControlLineStyleList = 0x7D15,
     kControlBrushStyleList = 0x7D18,
 };
+
+struct ControlTable {
+    ControlKind kind;
+    const char* table; // its name, for DrawingGetTable
+};
+
+constexpr ControlTable kControlTables[] = {
+    {kControlFontFaces, kTableUnits}, // fonts are those of the drawing that owns the table
+    {kControlFontSizes, kTableUnits},
+    {kControlLineStyleCombo, kTableLineStyles},
+    {kControlColors, kTableColors},
+    {kControlBrushStyleCombo, kTableBrushStyles},
+    {kControlLayers, kTableLayers},
+    {kControlStyleNames, kTableBlocks},
+    {kControlLineStyleList, kTableLineStyles},
+    {kControlBrushStyleList, kTableBrushStyles},
+};
+
+// Name of the table that a host fills controls of that kind from; null for a number that is no kind.
+constexpr const char* TableOfControl(unsigned kind) {
+    for (const ControlTable& row : kControlTables) {
+        if (row.kind == kind) return row.table;
+    }
+    return nullptr;
+}

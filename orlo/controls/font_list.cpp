@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int kFaces = 32000, kMoreFaces = 32022, kSizes = 32001, kStyles = 32002;
 constexpr uint16_t kWorld = 0, kPaper = 1; // coordinate spaces
 
 int CALLBACK EnumFaceProc(const LOGFONTA* font, const TEXTMETRICA*, DWORD fontType, LPARAM items) {
@@ -92,16 +91,16 @@ int FillFontDropDown(HWND hWnd, LPARAM lParam) {
     DistinctItems distinct(items);
     const int control = ::GetDlgCtrlID(hWnd);
     switch (control) {
-    case kFaces:
-    case kMoreFaces:
+    case IDC_FONT_FACE:
+    case IDC_FONT_FACE_2:
         ::EnumFontFamiliesA(dc, nullptr, EnumFaceProc, reinterpret_cast<LPARAM>(&distinct));
         break;
-    case kSizes:
+    case IDC_FONT_SIZE:
         AddSizes(dc, reinterpret_cast<const FontListRequest*>(lParam), distinct);
         break;
-    case kStyles:
+    case IDC_FONT_STYLE:
         AddStyles(items);
         break;
     }
-    return control == kFaces || control == kMoreFaces || control == kSizes;
+    return control == IDC_FONT_FACE || control == IDC_FONT_FACE_2 || control == IDC_FONT_SIZE;
 }

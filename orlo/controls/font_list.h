@@ -13,12 +13,12 @@ struct FontListRequest {
     const char* pszFace;        // null or empty: no sizes
 };
 
-// Empties the combo and fills it by its control identifier:
+// Empties the combo and fills it by its control identifier (control_ids.h):
 //
-//   32000, 32022  TrueType faces of the system, each once; lParam: the CWnd* of the control
-//   32001         sizes of a face; lParam: const FontListRequest*
-//   32002         the four font styles, in the order of their numbers; lParam is not used
-//   others        stay empty
+//   IDC_FONT_FACE, IDC_FONT_FACE_2  TrueType faces of the system, each once; lParam: the CWnd* of the control
+//   IDC_FONT_SIZE                   sizes of a face; lParam: const FontListRequest*
+//   IDC_FONT_STYLE                  the four font styles, in the order of their numbers; lParam is not used
+//   others                          stay empty
 //
 // The items stand in the order of the enumeration or the configuration, unless the combo sorts. 1 for faces and sizes, else
 // 0; also 0, with nothing changed, without a device context.

@@ -12,6 +12,7 @@
 #include "orlo/exchange/failure.h"
 #include "orlo/exchange/window_text.h"
 #include "orlo/host/drawing.h"
+#include "orlo/resources/resource.h"
 
 namespace {
 
@@ -24,7 +25,11 @@ struct Effect {
     int nIDC;
     unsigned short bit;
 };
-constexpr Effect kEffects[] = {{103, 0x0004}, {104, 0x0008}, {105, 0x0040}, {106, 0x0100}, {107, 0x1000}};
+constexpr Effect kEffects[] = {{IDC_STRIKETHROUGH, 0x0004},
+                               {IDC_HIDDEN, 0x0008},
+                               {IDC_ALL_CAPS, 0x0040},
+                               {IDC_UNDERLINE, 0x0100},
+                               {IDC_TEXT_BOX, 0x1000}};
 
 void SetBits(unsigned short& word, unsigned short mask, unsigned short bits) {
     word = static_cast<unsigned short>((word & ~mask) | bits);

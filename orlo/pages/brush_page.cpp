@@ -30,19 +30,6 @@ IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
 
 namespace {
 
-enum : int {
-    kStyleList = IDC_BRUSH_STYLE_LIST,
-    kColorCombo = IDC_BRUSH_COLOR,
-    kScaleEdit = 105,
-    kAngleEdit = 106,
-    kAngleUpDown = 119,
-    kCrossBox = 113,
-    kWindingButton = 115, // first of the group
-    kAlternateButton = 116,
-    kStyleNameText = 112,
-    kStyleKindText = 118,
-};
-
 constexpr unsigned int kSolid = 1;
 
 constexpr double kLeastScale = 1e-7;
@@ -99,8 +86,9 @@ CBrushPage::~CBrushPage() = default;
 
 BOOL CBrushPage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        ::SendDlgItemMessageA(m_hWnd, kAngleUpDown, UDM_SETRANGE, 0, AngularUnitOf(CurrentDrawing()).highest);
-        CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, kColorCombo));
+        ::SendDlgItemMessageA(m_hWnd, IDC_BRUSH_ANGLE_ARROWS, UDM_SETRANGE, 0,
+                              AngularUnitOf(CurrentDrawing()).highest);
+        CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, IDC_BRUSH_COLOR));
         if (color != nullptr && color->IsKindOf(RUNTIME_CLASS(CColorControl)))
             static_cast<CColorControl*>(color)->EnableLastEntry(1);
     }
@@ -108,34 +96,35 @@ BOOL CBrushPage::OnInitDialog() {
 }
 
 void CBrushPage::DoDataExchange(CDataExchange* pDX) {
-    DDP_Text(pDX, kColorCombo, m_dwColor, "BrushColor");
-    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+    DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, "BrushColor");
+    DDX_CBTableColor(1, pDX, IDC_BRUSH_COLOR, m_dwColor);
 
     // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
-    DDP_Text(pDX, kAngleEdit, m_dAngle, "BrushAngle");
-    if (!DDX_TextAngle(pDX, kAngleEdit, m_dAngle, CurrentDrawing())) TellPassedOver(*this, pDX, kAngleEdit);
+    DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, "BrushAngle");
+    if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
+        TellPassedOver(*this, pDX, IDC_BRUSH_ANGLE);
     if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
-    DDP_Text(pDX, kScaleEdit, m_dScale, "BrushScale");
-    DDX_TextScale(1, pDX, kScaleEdit, m_dScale);
+    DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, "BrushScale");
+    DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
     if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
-    DDP_Text(pDX, kStyleList, m_nStyle, "BrushStyle");
+    DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, "BrushStyle");
     DDX_ConvertStyle(1, pDX, m_nStyle);
 
-    DDP_Check(pDX, kCrossBox, m_nHatchCross, "HatchCross");
-    DDX_Check(1, pDX, kCrossBox, m_nHatchCross);
+    DDP_Check(pDX, IDC_HATCH_CROSS, m_nHatchCross, "HatchCross");
+    DDX_Check(1, pDX, IDC_HATCH_CROSS, m_nHatchCross);
 
-    DDP_Radio(pDX, kWindingButton, m_nDrawMode, "BrushDrawMode");
-    DDX_RadioMap(1, pDX, kWindingButton, m_nDrawMode, drawModes, kDrawModeCount);
-    m_drawModes.Exchange(pDX, kWindingButton);
+    DDP_Radio(pDX, IDC_DRAW_WINDING, m_nDrawMode, "BrushDrawMode");
+    DDX_RadioMap(1, pDX, IDC_DRAW_WINDING, m_nDrawMode, drawModes, kDrawModeCount);
+    m_drawModes.Exchange(pDX, IDC_DRAW_WINDING);
 
     DDP_PostProcessing(pDX);
 }
 
 BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-    if (header->idFrom != kAngleUpDown || header->code != static_cast<UINT>(UDN_DELTAPOS))
+    if (header->idFrom != IDC_BRUSH_ANGLE_ARROWS || header->code != static_cast<UINT>(UDN_DELTAPOS))
         return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
     TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
     *pResult = TRUE; // the control itself reads and writes whole numbers only
@@ -146,12 +135,12 @@ void CBrushPage::TurnAngle(int steps) {
     DrawingStruct* drawing = CurrentDrawing();
     CDataExchange save(this, TRUE), load(this, FALSE);
     double angle = 0.0;
-    if (!DDX_TextAngle(&save, kAngleEdit, angle, drawing)) {
+    if (!DDX_TextAngle(&save, IDC_BRUSH_ANGLE, angle, drawing)) {
         ::MessageBeep(MB_ICONWARNING);
         return;
     }
     angle = Turned(IsMixed(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
-    DDX_TextAngle(&load, kAngleEdit, angle, drawing);
+    DDX_TextAngle(&load, IDC_BRUSH_ANGLE, angle, drawing);
 }
 
 CString CBrushPage::StyleName(unsigned int style) const {
@@ -165,8 +154,8 @@ CString CBrushPage::StyleName(unsigned int style) const {
 }
 
 int CBrushPage::DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style) {
-    if (!DDX_LBTableIndex(bReport, pDX, kStyleList, style)) return 0;
-    ShowStyleName(m_hWnd, kStyleNameText, StyleName(style), m_szStyleName);
+    if (!DDX_LBTableIndex(bReport, pDX, IDC_BRUSH_STYLE_LIST, style)) return 0;
+    ShowStyleName(m_hWnd, IDC_BRUSH_STYLE_TEXT, StyleName(style), m_szStyleName);
     return 1;
 }
 
@@ -208,21 +197,22 @@ void CBrushPage::SetPreviewProperties(int bAll) {
     CDataExchange dx(this, TRUE);
     const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
 
-    if (wanted(kColorCombo)) {
+    if (wanted(IDC_BRUSH_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("BrushColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_BRUSH_COLOR, color)) SetPropText("BrushColor", color, 1);
     }
-    if (wanted(kAngleEdit)) {
+    if (wanted(IDC_BRUSH_ANGLE)) {
         double angle = 0.0;
-        if (DDX_TextAngle(&dx, kAngleEdit, angle, CurrentDrawing()) && !IsMixed(angle) &&
+        if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsMixed(angle) &&
             DDV_Radians(1, &dx, angle))
             SetPropText("BrushAngle", angle, 1);
     }
-    if (wanted(kStyleList)) SetPreviewStyle(&dx);
-    if (wanted(kCrossBox)) SetPropCheck("HatchCross", CheckForPreview(&dx, kCrossBox, bAll, m_nLastCross), 1);
-    if (wanted(kWindingButton)) {
+    if (wanted(IDC_BRUSH_STYLE_LIST)) SetPreviewStyle(&dx);
+    if (wanted(IDC_HATCH_CROSS))
+        SetPropCheck("HatchCross", CheckForPreview(&dx, IDC_HATCH_CROSS, bAll, m_nLastCross), 1);
+    if (wanted(IDC_DRAW_WINDING)) {
         int mode = 0;
-        if (DDX_RadioMap(0, &dx, kWindingButton, mode, drawModes, kDrawModeCount))
+        if (DDX_RadioMap(0, &dx, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
             SetPropText("BrushDrawMode", mode, 1);
     }
 
@@ -245,15 +235,15 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
         }
         SetPropText("BrushStyle", style, 1);
     }
-    const bool chosen = ::SendDlgItemMessageA(m_hWnd, kStyleList, LB_GETCURSEL, 0, 0) != LB_ERR;
+    const bool chosen = ::SendDlgItemMessageA(m_hWnd, IDC_BRUSH_STYLE_LIST, LB_GETCURSEL, 0, 0) != LB_ERR;
     if (style == kBrushStyleNone || !chosen) {
         EnableHatchControls(kBrushStyleNone, 0);
-        ::SetDlgItemTextA(m_hWnd, kStyleKindText, "");
+        ::SetDlgItemTextA(m_hWnd, IDC_BRUSH_KIND_TEXT, "");
         return;
     }
     const unsigned short flags = ::BrushStyleGetFlags(m_pBrushStyles, static_cast<uint16_t>(style));
     const CString kind = LibraryText(flags & kBrushVector ? IDS_VECTOR_BRUSH : IDS_BITMAP_BRUSH);
-    ::SetDlgItemTextA(m_hWnd, kStyleKindText, kind);
+    ::SetDlgItemTextA(m_hWnd, IDC_BRUSH_KIND_TEXT, kind);
     EnableHatchControls(style, flags);
 }
 
@@ -262,11 +252,11 @@ void CBrushPage::EnableHatchControls(unsigned int style, unsigned short flags) {
     const bool colored =
         style == kSolid || vector || (style != kBrushStyleNone && (flags & kBrushTakesColor) != 0);
     const auto enable = [this](int nID, bool on) { ::EnableWindow(::GetDlgItem(m_hWnd, nID), on); };
-    enable(kColorCombo, colored);
-    enable(kScaleEdit, vector);
-    enable(kAngleEdit, vector);
-    enable(kAngleUpDown, vector);
-    enable(kCrossBox, vector);
-    enable(kWindingButton, style != kBrushStyleNone);
-    enable(kAlternateButton, style != kBrushStyleNone);
+    enable(IDC_BRUSH_COLOR, colored);
+    enable(IDC_BRUSH_SCALE, vector);
+    enable(IDC_BRUSH_ANGLE, vector);
+    enable(IDC_BRUSH_ANGLE_ARROWS, vector);
+    enable(IDC_HATCH_CROSS, vector);
+    enable(IDC_DRAW_WINDING, style != kBrushStyleNone);
+    enable(IDC_DRAW_ALTERNATE, style != kBrushStyleNone);
 }

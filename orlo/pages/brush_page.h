@@ -6,12 +6,13 @@
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/pages/radio_group.h"
 #include "orlo/pages/style_name.h"
+#include "orlo/resources/resource.h"
 
 class CBrushPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CBrushPage)
 
 public:
-    static constexpr unsigned int kTemplate = 29002;
+    static constexpr unsigned int kTemplate = IDD_BRUSH_PAGE;
 
     CBrushPage();
     ~CBrushPage() override;

@@ -19,13 +19,6 @@ IMPLEMENT_DYNAMIC(CGeneralPage, CGraphicPropertyPage)
 
 namespace {
 
-enum : int {
-    kInfoEdit = 101,
-    kNewButton = 102,
-    kDeleteButton = 103,
-    kStyleGroup = 104,
-};
-
 constexpr char kMixedInfo[] = "<Indeterminate>";
 constexpr int kLongestStyleName = 32;
 constexpr int kNameSize = 256;
@@ -74,8 +67,8 @@ BEGIN_MESSAGE_MAP(CGeneralPage, CGraphicPropertyPage)
 ON_CBN_EDITCHANGE(IDC_STYLE_NAME, &ThisClass::OnStyleEditChange)
 ON_CBN_CLOSEUP(IDC_STYLE_NAME, &ThisClass::OnStyleCloseUp)
 ON_CBN_SELCHANGE(IDC_STYLE_NAME, &ThisClass::OnStyleCloseUp)
-ON_BN_CLICKED(kNewButton, &ThisClass::OnNew)
-ON_BN_CLICKED(kDeleteButton, &ThisClass::OnDelete)
+ON_BN_CLICKED(IDC_STYLE_NEW, &ThisClass::OnNew)
+ON_BN_CLICKED(IDC_STYLE_DELETE, &ThisClass::OnDelete)
 ON_CBN_KILLFOCUS(IDC_STYLE_NAME, &ThisClass::OnStyleKillFocus)
 END_MESSAGE_MAP()
 
@@ -91,7 +84,7 @@ BOOL CGeneralPage::OnInitDialog() {
     const HWND layers = ::GetDlgItem(m_hWnd, IDC_LAYER);
     ::SetWindowLongPtrA(layers, GWL_STYLE, ::GetWindowLongPtrA(layers, GWL_STYLE) | WS_TABSTOP);
     if (!HasStylePart()) {
-        const int styleControls[] = {IDC_STYLE_NAME, kNewButton, kDeleteButton, kStyleGroup};
+        const int styleControls[] = {IDC_STYLE_NAME, IDC_STYLE_NEW, IDC_STYLE_DELETE, IDC_STYLE_GROUP};
         for (const int id : styleControls)
             ShowDlgControl(m_hWnd, id, 0);
     }
@@ -116,12 +109,12 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
 
 // Mixed texts show as a text of their own, which counts as untouched however it came there.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
-    DDP_Text(pDX, kInfoEdit, m_strInfo, "Info");
+    DDP_Text(pDX, IDC_INFO, m_strInfo, "Info");
     if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
         CString shown(kMixedInfo);
-        DDX_Text(1, pDX, kInfoEdit, shown);
+        DDX_Text(1, pDX, IDC_INFO, shown);
     } else {
-        DDX_Text(1, pDX, kInfoEdit, m_strInfo);
+        DDX_Text(1, pDX, IDC_INFO, m_strInfo);
         if (m_strInfo == kMixedInfo) m_strInfo = kIndeterminateText;
     }
 }
@@ -166,8 +159,8 @@ bool CGeneralPage::MayDelete(const char* name) const {
 }
 
 void CGeneralPage::EnableButtons(const char* name) {
-    EnableDlgControl(m_hWnd, kNewButton, *name != '\0' && FindInCombo(name) == CB_ERR);
-    EnableDlgControl(m_hWnd, kDeleteButton, MayDelete(name));
+    EnableDlgControl(m_hWnd, IDC_STYLE_NEW, *name != '\0' && FindInCombo(name) == CB_ERR);
+    EnableDlgControl(m_hWnd, IDC_STYLE_DELETE, MayDelete(name));
 }
 
 // The system tells nobody of a selection made so.
@@ -225,13 +218,13 @@ void CGeneralPage::OnStyleKillFocus() {
     const CString name = NameInCombo();
     if (!name.IsEmpty() && FindInCombo(name) != CB_ERR)
         LeaveComboForStyle(name, focus);
-    else if (name.IsEmpty() || focus != ::GetDlgItem(m_hWnd, kNewButton))
+    else if (name.IsEmpty() || focus != ::GetDlgItem(m_hWnd, IDC_STYLE_NEW))
         GoBackToCurrentStyle();
 }
 
 void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
     CGraphicPropertySheet* sheet = GetSheet();
-    if (focus == ::GetDlgItem(sheet->m_hWnd, IDCANCEL) || focus == ::GetDlgItem(m_hWnd, kDeleteButton))
+    if (focus == ::GetDlgItem(sheet->m_hWnd, IDCANCEL) || focus == ::GetDlgItem(m_hWnd, IDC_STYLE_DELETE))
         return;
     const bool byOk = focus == ::GetDlgItem(sheet->m_hWnd, IDOK);
     TableStruct* table = StyleTable();

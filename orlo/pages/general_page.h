@@ -6,12 +6,13 @@
 
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/resources/resource.h"
 
 class CGeneralPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CGeneralPage)
 
 public:
-    static constexpr unsigned int kTemplate = 29000;
+    static constexpr unsigned int kTemplate = IDD_GENERAL_PAGE;
 
     CGeneralPage();
     ~CGeneralPage() override;

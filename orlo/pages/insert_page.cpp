@@ -15,6 +15,7 @@
 #include "orlo/pages/insert_parts.h"
 #include "orlo/pages/insert_preview.h"
 #include "orlo/pages/mixed_value.h"
+#include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CInsertPage, CGraphicPropertyPage)
 
@@ -63,15 +64,15 @@ struct CInsertPage::Field {
 
 // In the order of the exchange.
 const CInsertPage::Field CInsertPage::kFields[9] = {
-    {101, &CInsertPage::m_dScaleX, &InsertParts::scale, 0, kMostScale},
-    {102, &CInsertPage::m_dScaleY, &InsertParts::scale, 1, kMostScale},
-    {103, &CInsertPage::m_dScaleZ, &InsertParts::scale, 2, kMostScale},
-    {107, &CInsertPage::m_dPositionX, &InsertParts::position, 0, kFarthest},
-    {108, &CInsertPage::m_dPositionY, &InsertParts::position, 1, kFarthest},
-    {109, &CInsertPage::m_dPositionZ, &InsertParts::position, 2, kFarthest},
-    {104, &CInsertPage::m_dRotateX, &InsertParts::rotation, 0, 0},
-    {105, &CInsertPage::m_dRotateY, &InsertParts::rotation, 1, 0},
-    {106, &CInsertPage::m_dRotateZ, &InsertParts::rotation, 2, 0}};
+    {IDC_SCALE_X, &CInsertPage::m_dScaleX, &InsertParts::scale, 0, kMostScale},
+    {IDC_SCALE_Y, &CInsertPage::m_dScaleY, &InsertParts::scale, 1, kMostScale},
+    {IDC_SCALE_Z, &CInsertPage::m_dScaleZ, &InsertParts::scale, 2, kMostScale},
+    {IDC_POSITION_X, &CInsertPage::m_dPositionX, &InsertParts::position, 0, kFarthest},
+    {IDC_POSITION_Y, &CInsertPage::m_dPositionY, &InsertParts::position, 1, kFarthest},
+    {IDC_POSITION_Z, &CInsertPage::m_dPositionZ, &InsertParts::position, 2, kFarthest},
+    {IDC_ROTATION_X, &CInsertPage::m_dRotateX, &InsertParts::rotation, 0, 0},
+    {IDC_ROTATION_Y, &CInsertPage::m_dRotateY, &InsertParts::rotation, 1, 0},
+    {IDC_ROTATION_Z, &CInsertPage::m_dRotateZ, &InsertParts::rotation, 2, 0}};
 
 size_t CInsertPage::IndexOf(const Field& field) {
     return static_cast<size_t>(&field - kFields);

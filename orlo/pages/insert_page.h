@@ -6,12 +6,13 @@
 #pragma once
 
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/resources/resource.h"
 
 class CInsertPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CInsertPage)
 
 public:
-    static constexpr unsigned int kTemplate = 29004;
+    static constexpr unsigned int kTemplate = IDD_INSERT_PAGE;
 
     CInsertPage();
     // Takes the preview's block out of the current drawing.

@@ -12,21 +12,12 @@
 #include "orlo/pages/mixed_value.h"
 #include "orlo/pages/pen_width.h"
 #include "orlo/pages/scale_text.h"
+#include "orlo/resources/resource.h"
 #include "orlo/samples/preview_shape.h"
 
 IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
 
 namespace {
-
-enum : int {
-    kStyleList = 32021,
-    kAlignmentBox = 110,
-    kColorCombo = 32005,
-    kScaleSystemCombo = 109,
-    kScaleEdit = 104,
-    kStyleNameText = 112,
-    kWidthCombo = 103,
-};
 
 constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
@@ -63,7 +54,7 @@ void MakeFieldScroll(HWND page, int nID) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
-ON_CBN_SELCHANGE(kScaleSystemCombo, &ThisClass::OnScaleSystemChange)
+ON_CBN_SELCHANGE(IDC_SCALE_SYSTEM, &ThisClass::OnScaleSystemChange)
 END_MESSAGE_MAP()
 
 CLinePage::CLinePage()
@@ -75,11 +66,11 @@ CLinePage::~CLinePage() = default;
 
 BOOL CLinePage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        MakeFieldScroll(m_hWnd, kWidthCombo);
+        MakeFieldScroll(m_hWnd, IDC_PEN_WIDTH);
         for (unsigned int id : {kStringWorldScale, kStringPaperScale}) {
             char text[64] = "";
             ::DrawCoreLoadString(id, text, sizeof text);
-            ::SendDlgItemMessageA(m_hWnd, kScaleSystemCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+            ::SendDlgItemMessageA(m_hWnd, IDC_SCALE_SYSTEM, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
         }
     }
     return CGraphicPropertyPage::OnInitDialog();
@@ -91,27 +82,27 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     // The property is wider than the member. Saving, the member already holds what the combo shows.
     unsigned short scaleSystem =
         m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
-    DDP_Text(pDX, kScaleSystemCombo, scaleSystem, "ScaleSystem");
+    DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, "ScaleSystem");
     m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
-    DDX_CBScaleSystem(1, pDX, kScaleSystemCombo, m_nScaleSystem);
+    DDX_CBScaleSystem(1, pDX, IDC_SCALE_SYSTEM, m_nScaleSystem);
 
-    DDP_Text(pDX, kColorCombo, m_dwColor, "PenColor");
-    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+    DDP_Text(pDX, IDC_COLOR, m_dwColor, "PenColor");
+    DDX_CBTableColor(1, pDX, IDC_COLOR, m_dwColor);
 
-    FillPenWidths(pDX, kWidthCombo, drawing, m_nScaleSystem);
-    DDP_Text(pDX, kWidthCombo, m_dWidth, "PenWidth");
+    FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
+    DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, "PenWidth");
     ExchangeWidth(pDX);
     if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
-    DDP_Text(pDX, kScaleEdit, m_dScale, "PenScale");
-    DDX_TextScale(1, pDX, kScaleEdit, m_dScale);
+    DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, "PenScale");
+    DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
     if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
-    DDP_Text(pDX, kStyleList, m_nStyle, "PenStyle");
+    DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, "PenStyle");
     DDX_ConvertLStyle(1, pDX, m_nStyle);
 
-    DDP_Check(pDX, kAlignmentBox, m_nAlignment, "PenAlignment");
-    DDX_Check(1, pDX, kAlignmentBox, m_nAlignment);
+    DDP_Check(pDX, IDC_PEN_ALIGNMENT, m_nAlignment, "PenAlignment");
+    DDX_Check(1, pDX, IDC_PEN_ALIGNMENT, m_nAlignment);
 
     DDP_PostProcessing(pDX);
 }
@@ -119,8 +110,8 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 // A width that the host cannot write leaves its field blank; that is no width only if the user has made it so.
 void CLinePage::ExchangeWidth(CDataExchange* pDX) {
     const bool save = pDX->m_bSaveAndValidate;
-    if (save && !GetControlStatus(kWidthCombo)) return;
-    DDX_CBPenWidth(save, pDX, kWidthCombo, m_dWidth, m_nScaleSystem, CurrentDrawing());
+    if (save && !GetControlStatus(IDC_PEN_WIDTH)) return;
+    DDX_CBPenWidth(save, pDX, IDC_PEN_WIDTH, m_dWidth, m_nScaleSystem, CurrentDrawing());
 }
 
 CString CLinePage::StyleName(unsigned int style) const {
@@ -144,8 +135,8 @@ CString CLinePage::StyleName(unsigned int style) const {
 }
 
 int CLinePage::DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& style) {
-    if (!DDX_LBTableIndex(bReport, pDX, kStyleList, style)) return 0;
-    ShowStyleName(m_hWnd, kStyleNameText, StyleName(style), m_szStyleName);
+    if (!DDX_LBTableIndex(bReport, pDX, IDC_LINE_STYLE_LIST, style)) return 0;
+    ShowStyleName(m_hWnd, IDC_PEN_STYLE_TEXT, StyleName(style), m_szStyleName);
     return 1;
 }
 
@@ -153,15 +144,15 @@ int CLinePage::DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& 
 void CLinePage::OnScaleSystemChange() {
     CDataExchange save(this, TRUE);
     unsigned char chosen = kScalePaper;
-    DDX_CBScaleSystem(1, &save, kScaleSystemCombo, chosen);
+    DDX_CBScaleSystem(1, &save, IDC_SCALE_SYSTEM, chosen);
     if (chosen == m_nScaleSystem) return;
-    ::SendDlgItemMessageA(m_hWnd, kWidthCombo, CB_RESETCONTENT, 0, 0);
+    ::SendDlgItemMessageA(m_hWnd, IDC_PEN_WIDTH, CB_RESETCONTENT, 0, 0);
     m_nScaleSystem = chosen;
 
     CDataExchange load(this, FALSE);
     DrawingStruct* drawing = CurrentDrawing();
-    FillPenWidths(&load, kWidthCombo, drawing, m_nScaleSystem);
-    DDP_Text(&load, kWidthCombo, m_dWidth, "PenWidth");
+    FillPenWidths(&load, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
+    DDP_Text(&load, IDC_PEN_WIDTH, m_dWidth, "PenWidth");
     ExchangeWidth(&load);
 }
 
@@ -178,33 +169,33 @@ void CLinePage::SetPreviewProperties(int bAll) {
     CDataExchange dx(this, TRUE);
     const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
 
-    if (wanted(kColorCombo)) {
+    if (wanted(IDC_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("PenColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_COLOR, color)) SetPropText("PenColor", color, 1);
     }
-    if (wanted(kWidthCombo)) {
+    if (wanted(IDC_PEN_WIDTH)) {
         double width = 0.0;
-        if (DDX_CBPenWidth(0, &dx, kWidthCombo, width, m_nScaleSystem, CurrentDrawing()) && !IsMixed(width) &&
-            DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
+        if (DDX_CBPenWidth(0, &dx, IDC_PEN_WIDTH, width, m_nScaleSystem, CurrentDrawing()) &&
+            !IsMixed(width) && DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
             SetPropText("PenWidth", width, 1);
     }
-    if (wanted(kScaleEdit)) {
+    if (wanted(IDC_PEN_SCALE)) {
         double scale = 0.0;
-        if (DDX_Text(0, &dx, kScaleEdit, scale) && !IsMixed(scale) &&
+        if (DDX_Text(0, &dx, IDC_PEN_SCALE, scale) && !IsMixed(scale) &&
             DDV_MinMaxDouble(0, &dx, scale, kLeastScale, kMostScale))
             SetPropText("PenScale", scale, 1);
     }
-    if (wanted(kStyleList)) {
+    if (wanted(IDC_LINE_STYLE_LIST)) {
         unsigned int style = m_nStyle;
         if (DDX_ConvertLStyle(0, &dx, style)) SetPropText("PenStyle", style, 1);
     }
-    if (wanted(kScaleSystemCombo)) {
+    if (wanted(IDC_SCALE_SYSTEM)) {
         unsigned char system = kScalePaper;
-        DDX_CBScaleSystem(0, &dx, kScaleSystemCombo, system);
+        DDX_CBScaleSystem(0, &dx, IDC_SCALE_SYSTEM, system);
         if (system != kScaleMixed) SetPropText("ScaleSystem", system, 1);
     }
-    if (wanted(kAlignmentBox))
-        SetPropCheck("PenAlignment", CheckForPreview(&dx, kAlignmentBox, bAll, m_nLastAlignment), 1);
+    if (wanted(IDC_PEN_ALIGNMENT))
+        SetPropCheck("PenAlignment", CheckForPreview(&dx, IDC_PEN_ALIGNMENT, bAll, m_nLastAlignment), 1);
 
     // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);

@@ -5,12 +5,13 @@
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/pages/style_name.h"
+#include "orlo/resources/resource.h"
 
 class CLinePage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CLinePage)
 
 public:
-    static constexpr unsigned int kTemplate = 29001;
+    static constexpr unsigned int kTemplate = IDD_PEN_PAGE;
 
     CLinePage();
     ~CLinePage() override;

@@ -14,20 +14,13 @@
 #include "orlo/host/text.h"
 #include "orlo/pages/mixed_value.h"
 #include "orlo/pages/passed_over.h"
+#include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CTextPage, CGraphicPropertyPage)
 
 namespace {
 
-enum : int {
-    kFontCombo = 32000,
-    kSizeCombo = 32001,
-    kStyleCombo = 32002,
-    kColorCombo = 32023,
-    kFirstFormat = 108,
-};
-
-constexpr int kEffectBoxes[] = {103, 104, 105, 106, 107};
+constexpr int kEffectBoxes[] = {IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX};
 
 constexpr double kUsualSize = 8.0;
 constexpr int kFaceTextSize = 128;
@@ -57,7 +50,7 @@ int FindOrAdd(const ControlItems& items, const CString& text) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CTextPage, CGraphicPropertyPage)
-ON_CBN_SELCHANGE(kFontCombo, &ThisClass::OnFontChange)
+ON_CBN_SELCHANGE(IDC_FONT_FACE, &ThisClass::OnFontChange)
 END_MESSAGE_MAP()
 
 CTextPage::CTextPage()
@@ -72,21 +65,21 @@ BOOL CTextPage::OnInitDialog() {
 }
 
 void CTextPage::DoDataExchange(CDataExchange* pDX) {
-    DDP_Text(pDX, kFontCombo, m_strFont, "TextFont");
-    DDX_CBString(1, pDX, kFontCombo, m_strFont);
+    DDP_Text(pDX, IDC_FONT_FACE, m_strFont, "TextFont");
+    DDX_CBString(1, pDX, IDC_FONT_FACE, m_strFont);
 
-    DDP_Text(pDX, kSizeCombo, m_dSize, "TextSize");
-    DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, kSizeCombo, m_dSize);
+    DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, "TextSize");
+    DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize);
     if (!IsMixed(m_dSize))
         DDV_FontSize(1, pDX, m_dSize);
     else
-        TellPassedOver(*this, pDX, kSizeCombo);
+        TellPassedOver(*this, pDX, IDC_FONT_SIZE);
 
-    DDP_Bits(pDX, kStyleCombo, m_wStyle, "TextStyle");
-    DDX_CBFontStyle(1, pDX, kStyleCombo, m_wStyle);
+    DDP_Bits(pDX, IDC_FONT_STYLE, m_wStyle, "TextStyle");
+    DDX_CBFontStyle(1, pDX, IDC_FONT_STYLE, m_wStyle);
 
-    DDP_Text(pDX, kColorCombo, m_dwColor, "PenColor");
-    DDX_CBTableColor(1, pDX, kColorCombo, m_dwColor);
+    DDP_Text(pDX, IDC_TEXT_COLOR, m_dwColor, "PenColor");
+    DDX_CBTableColor(1, pDX, IDC_TEXT_COLOR, m_dwColor);
 
     // The first exchange comes before there is a status of controls to bind.
     if (!m_bFirstExchange) {
@@ -95,16 +88,16 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     }
     DDX_ChkBoxEffects(1, pDX, m_wStyle);
 
-    DDP_Text(pDX, kFirstFormat, m_wFormat, "TextFormat");
-    DDX_Radio(1, pDX, kFirstFormat, m_wFormat);
-    m_formats.Exchange(pDX, kFirstFormat);
+    DDP_Text(pDX, IDC_JUSTIFY_LEFT, m_wFormat, "TextFormat");
+    DDX_Radio(1, pDX, IDC_JUSTIFY_LEFT, m_wFormat);
+    m_formats.Exchange(pDX, IDC_JUSTIFY_LEFT);
 
     DDP_PostProcessing(pDX);
     m_bFirstExchange = 0;
 }
 
 void CTextPage::OnFontChange() {
-    const HWND faces = ::GetDlgItem(m_hWnd, kFontCombo), sizes = ::GetDlgItem(m_hWnd, kSizeCombo);
+    const HWND faces = ::GetDlgItem(m_hWnd, IDC_FONT_FACE), sizes = ::GetDlgItem(m_hWnd, IDC_FONT_SIZE);
     char face[kFaceTextSize] = "";
     const ControlItems faceItems = ControlItems::OfCombo(faces), sizeItems = ControlItems::OfCombo(sizes);
     faceItems.GetText(faceItems.Selected(), face, sizeof face);
@@ -131,7 +124,7 @@ void* CTextPage::CreatePreviewGraphic() {
 }
 
 bool CTextPage::IsStyleWanted(int bAll) {
-    if (bAll || GetControlStatus(kStyleCombo)) return true;
+    if (bAll || GetControlStatus(IDC_FONT_STYLE)) return true;
     for (const int box : kEffectBoxes) {
         if (GetControlStatus(static_cast<unsigned int>(box))) return true;
     }
@@ -142,19 +135,19 @@ void CTextPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CDataExchange dx(this, TRUE);
 
-    if (bAll || GetControlStatus(kFontCombo)) {
-        if (DDX_CBString(0, &dx, kFontCombo, m_strFont)) SetPropText("TextFont", m_strFont, 1);
+    if (bAll || GetControlStatus(IDC_FONT_FACE)) {
+        if (DDX_CBString(0, &dx, IDC_FONT_FACE, m_strFont)) SetPropText("TextFont", m_strFont, 1);
     }
-    if (bAll || GetControlStatus(kColorCombo)) {
+    if (bAll || GetControlStatus(IDC_TEXT_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, kColorCombo, color)) SetPropText("PenColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_TEXT_COLOR, color)) SetPropText("PenColor", color, 1);
     }
     if (IsStyleWanted(bAll)) {
-        if (DDX_CBFontStyle(0, &dx, kStyleCombo, m_wStyle) && DDX_ChkBoxEffects(0, &dx, m_wStyle))
+        if (DDX_CBFontStyle(0, &dx, IDC_FONT_STYLE, m_wStyle) && DDX_ChkBoxEffects(0, &dx, m_wStyle))
             SetPropBits("TextStyle", m_wStyle, 1);
     }
-    if (bAll || GetControlStatus(kFirstFormat)) {
-        if (DDX_Radio(0, &dx, kFirstFormat, m_wFormat)) SetPropText("TextFormat", m_wFormat, 1);
+    if (bAll || GetControlStatus(IDC_JUSTIFY_LEFT)) {
+        if (DDX_Radio(0, &dx, IDC_JUSTIFY_LEFT, m_wFormat)) SetPropText("TextFormat", m_wFormat, 1);
     }
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

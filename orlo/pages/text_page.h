@@ -5,12 +5,13 @@
 #include "orlo/export.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/pages/radio_group.h"
+#include "orlo/resources/resource.h"
 
 class CTextPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CTextPage)
 
 public:
-    static constexpr unsigned int kTemplate = 29003;
+    static constexpr unsigned int kTemplate = IDD_TEXT_PAGE;
 
     CTextPage();
     ~CTextPage() override;

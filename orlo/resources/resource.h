@@ -1,6 +1,8 @@
 // Identifiers of the library's resources, for the sources and the resource script. Preprocessor only.
 #pragma once
 
+#include "orlo/controls/control_ids.h"
+
 // Dialog templates; the number is the identity of a page in its sheet.
 #define IDD_GENERAL_PAGE 29000
 #define IDD_PEN_PAGE 29001
@@ -40,14 +42,58 @@
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 
-// Controls that come to life in dialog templates; see controls/control_factory.h for every number.
-#define IDC_LINE_STYLE_LIST 32021
-#define IDC_COLOR 32005
-#define IDC_BRUSH_STYLE_LIST 32024
-#define IDC_BRUSH_COLOR 32006
-#define IDC_FONT_FACE 32000
-#define IDC_FONT_SIZE 32001
-#define IDC_FONT_STYLE 32002
-#define IDC_TEXT_COLOR 32023
-#define IDC_LAYER 32008
-#define IDC_STYLE_NAME 32015
+// Controls of the pages, beside those of control_ids.h. Of the General page.
+#define IDC_INFO 101
+#define IDC_STYLE_NEW 102
+#define IDC_STYLE_DELETE 103
+#define IDC_STYLE_GROUP 104
+
+// Of the Pen page.
+#define IDC_PEN_WIDTH_LABEL 101
+#define IDC_PEN_SCALE_LABEL 102
+#define IDC_PEN_WIDTH 103
+#define IDC_PEN_SCALE 104
+#define IDC_SCALE_SYSTEM_LABEL 105
+#define IDC_PEN_PATTERN_GROUP 106
+#define IDC_PEN_COLOR_GROUP 107
+#define IDC_PEN_WIDTH_GROUP 108
+#define IDC_SCALE_SYSTEM 109
+#define IDC_PEN_ALIGNMENT 110
+#define IDC_PEN_STYLE_TEXT 112
+
+// Of the Brush page.
+#define IDC_HATCH_GROUP 101
+#define IDC_BRUSH_ANGLE_LABEL 104
+#define IDC_BRUSH_SCALE 105
+#define IDC_BRUSH_ANGLE 106
+#define IDC_BRUSH_PATTERN_GROUP 108
+#define IDC_BRUSH_SCALE_LABEL 109
+#define IDC_BRUSH_STYLE_TEXT 112
+#define IDC_HATCH_CROSS 113
+#define IDC_DRAW_MODE_GROUP 114
+#define IDC_DRAW_WINDING 115 // first of the group
+#define IDC_DRAW_ALTERNATE 116
+#define IDC_BRUSH_COLOR_GROUP 117
+#define IDC_BRUSH_KIND_TEXT 118
+#define IDC_BRUSH_ANGLE_ARROWS 119
+
+// Of the Text page, and of every dialog that DDX_ChkBoxEffects is used in.
+#define IDC_STRIKETHROUGH 103
+#define IDC_HIDDEN 104
+#define IDC_ALL_CAPS 105
+#define IDC_UNDERLINE 106
+#define IDC_TEXT_BOX 107
+#define IDC_JUSTIFY_LEFT 108 // first of the group
+#define IDC_JUSTIFY_CENTER 109
+#define IDC_JUSTIFY_RIGHT 110
+
+// Of the Block Insertion page.
+#define IDC_SCALE_X 101
+#define IDC_SCALE_Y 102
+#define IDC_SCALE_Z 103
+#define IDC_ROTATION_X 104
+#define IDC_ROTATION_Y 105
+#define IDC_ROTATION_Z 106
+#define IDC_POSITION_X 107
+#define IDC_POSITION_Y 108
+#define IDC_POSITION_Z 109

@@ -191,9 +191,9 @@ TEST_F(ManyBrushStyles, AreMeasuredOnceAndDrawnWhereVisible) {
     m_dialog.ShowWindow(SW_SHOW);
     Pump();
     m_dialog.drawn = m_dialog.measured = 0;
-    Fill(IDC_BRUSH_LIST, table, 5);
+    Fill(IDC_BRUSH_STYLE_LIST, table, 5);
     Pump();
-    CListControl& list = Get<CListControl>(IDC_BRUSH_LIST);
+    CListControl& list = Get<CListControl>(IDC_BRUSH_STYLE_LIST);
     EXPECT_LE(2001, list.GetCount());
     EXPECT_GE(list.GetCount(), m_dialog.measured);
     CRect client;

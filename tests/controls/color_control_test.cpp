@@ -18,14 +18,14 @@ namespace {
 class ColorControl : public ControlDialog {
 protected:
     ColorControl()
-        : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLORS)) {}
+        : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLOR)) {}
 
     // The table keeps the address of the colour.
     void Add(const std::string& name, DWORD color) {
         m_colors.push_back(std::make_unique<DWORD>(color));
         ASSERT_NE(0, TableEntryAdd(m_table, name.c_str(), m_colors.back().get()));
     }
-    void FillColors(DWORD selected = 0xFFFFFFFE) { Fill(IDC_COLORS, m_table, selected); }
+    void FillColors(DWORD selected = 0xFFFFFFFE) { Fill(IDC_COLOR, m_table, selected); }
     std::vector<std::string> Items() {
         std::vector<std::string> items;
         for (int i = 0; i < m_control.GetCount(); ++i) {
@@ -179,7 +179,7 @@ class Swatch : public ColorControl {
 protected:
     void Draw(UINT item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0) {
         m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {ODT_COMBOBOX,     IDC_COLORS,    item, action, state,
+        DRAWITEMSTRUCT request = {ODT_COMBOBOX,     IDC_COLOR,     item, action, state,
                                   m_control.m_hWnd, m_pixels.DC(), rect, 0};
         m_control.DrawItem(&request);
     }

@@ -11,13 +11,13 @@ namespace {
 class ComboField : public ControlDialog {
 protected:
     ComboField() {
-        const std::pair<int, const char*> filled[] = {{IDC_COLORS, "_Colors_"},
-                                                      {IDC_LINE_COMBO, "_LineStyles_"},
-                                                      {IDC_BRUSH_COMBO, "_BrushStyles_"},
-                                                      {IDC_LAYERS, "_Layers_"}};
+        const std::pair<int, const char*> filled[] = {{IDC_COLOR, "_Colors_"},
+                                                      {IDC_LINE_STYLE_COMBO, "_LineStyles_"},
+                                                      {IDC_BRUSH_STYLE_COMBO, "_BrushStyles_"},
+                                                      {IDC_LAYER, "_Layers_"}};
         for (const auto& [id, table] : filled)
             Fill(id, m_drawing.Table(table));
-        for (const int id : {IDC_FACES, IDC_STYLE_NAMES})
+        for (const int id : {IDC_FONT_FACE, IDC_STYLE_NAME})
             Get<CComboControl>(id).AddString("Mmm");
     }
     using Picture = std::vector<COLORREF>;
@@ -60,7 +60,8 @@ protected:
 };
 
 TEST_F(ComboField, ShowsTheFocusAndThatItIsDisabled) {
-    const int ids[] = {IDC_COLORS, IDC_LINE_COMBO, IDC_BRUSH_COMBO, IDC_LAYERS, IDC_FACES, IDC_STYLE_NAMES};
+    const int ids[] = {IDC_COLOR, IDC_LINE_STYLE_COMBO, IDC_BRUSH_STYLE_COMBO,
+                       IDC_LAYER, IDC_FONT_FACE,        IDC_STYLE_NAME};
     for (const int id : ids)
         ExpectFocusAndDisabledState(id);
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)},

@@ -23,35 +23,43 @@ protected:
         const CWnd* const object = CWnd::FromHandlePermanent(Control(id));
         return object ? object->GetRuntimeClass() : nullptr;
     }
+    unsigned KindOf(int id) const {
+        const bool list = id == IDC_LINE_STYLE_LIST || id == IDC_BRUSH_STYLE_LIST;
+        return list ? Get<CListControl>(id).m_nControlID : Get<CComboControl>(id).m_nControlID;
+    }
 };
 
 TEST_F(Factory, TheIdentifierChoosesTheObject) {
-    for (const int id : {32004, 32017, 32020, 32026})
+    for (const int id :
+         {IDC_LINE_STYLE_COMBO, IDC_LINE_STYLE_COMBO_2, IDC_LINE_STYLE_COMBO_3, IDC_LINE_STYLE_COMBO_4})
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
-    for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
+    for (const int id : {IDC_COLOR, IDC_BRUSH_COLOR, IDC_COLOR_2, IDC_COLOR_3, IDC_COLOR_4, IDC_COLOR_5,
+                         IDC_COLOR_6, IDC_TEXT_COLOR, IDC_COLOR_7, IDC_COLOR_8})
         EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
-    EXPECT_EQ(1, Get<CColorControl>(32014).m_bExtraEntries);
-    EXPECT_EQ(0x7D04u, Get<CComboControl>(32020).m_nControlID) << "the kind, not the identifier";
+    EXPECT_EQ(1, Get<CColorControl>(IDC_COLOR_4).m_bExtraEntries);
     const struct {
         int id;
-        const CRuntimeClass* kind;
-        unsigned number;
-    } combos[] = {
-        {IDC_FACES, RUNTIME_CLASS(CFontFaceControl), 0x7D00},
-        {32022, RUNTIME_CLASS(CFontFaceControl), 0x7D00},
-        {IDC_SIZES, RUNTIME_CLASS(CFontSizeControl), 0x7D01},
-        {IDC_BRUSH_COMBO, RUNTIME_CLASS(CBrushStyleControlC), 0x7D07},
-        {IDC_LAYERS, RUNTIME_CLASS(CLayerControl), 0x7D08},
-        {IDC_STYLE_NAMES, RUNTIME_CLASS(CStyleNameControl), 0x7D0F},
+        const CRuntimeClass* object;
+        unsigned kind;
+    } rows[] = {
+        {IDC_FONT_FACE, RUNTIME_CLASS(CFontFaceControl), kControlFontFaces},
+        {IDC_FONT_SIZE, RUNTIME_CLASS(CFontSizeControl), kControlFontSizes},
+        {IDC_LINE_STYLE_COMBO, RUNTIME_CLASS(CLineStyleControlC), kControlLineStyleCombo},
+        {IDC_COLOR, RUNTIME_CLASS(CColorControl), kControlColors},
+        {IDC_BRUSH_STYLE_COMBO, RUNTIME_CLASS(CBrushStyleControlC), kControlBrushStyleCombo},
+        {IDC_LAYER, RUNTIME_CLASS(CLayerControl), kControlLayers},
+        {IDC_STYLE_NAME, RUNTIME_CLASS(CStyleNameControl), kControlStyleNames},
+        {IDC_LINE_STYLE_LIST, RUNTIME_CLASS(CLineStyleControlL), kControlLineStyleList},
+        {IDC_BRUSH_STYLE_LIST, RUNTIME_CLASS(CBrushStyleControlL), kControlBrushStyleList},
     };
-    for (const auto& row : combos) {
-        EXPECT_EQ(row.kind, ClassOf(row.id)) << row.id;
-        EXPECT_EQ(row.number, Get<CComboControl>(row.id).m_nControlID);
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.object, ClassOf(row.id)) << row.id;
+        EXPECT_EQ(row.kind, KindOf(row.id)) << row.id;
+        EXPECT_EQ(static_cast<unsigned>(row.id), row.kind)
+            << "hosts know a kind by the number of its first identifier";
     }
-    EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlL), ClassOf(IDC_LINE_LIST));
-    EXPECT_EQ(RUNTIME_CLASS(CBrushStyleControlL), ClassOf(IDC_BRUSH_LIST));
-    EXPECT_EQ(0x7D15u, Get<CListControl>(IDC_LINE_LIST).m_nControlID);
-    EXPECT_EQ(0x7D18u, Get<CListControl>(IDC_BRUSH_LIST).m_nControlID);
+    EXPECT_EQ(RUNTIME_CLASS(CFontFaceControl), ClassOf(IDC_FONT_FACE_2));
+    EXPECT_EQ(kControlLineStyleCombo, KindOf(IDC_LINE_STYLE_COMBO_3)) << "the kind, not the identifier";
 }
 
 TEST_F(Factory, OtherIdentifiersStayPlainControls) {
@@ -78,11 +86,8 @@ TEST_F(Factory, OtherIdentifiersStayPlainControls) {
 
 TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
     EXPECT_EQ(22, m_host.Count(kControlReady));
-    for (const HostWindow::Notification& n : m_host.notifications) {
-        const int id = ::GetDlgCtrlID(n.control);
-        const bool list = id == IDC_LINE_LIST || id == IDC_BRUSH_LIST;
-        EXPECT_EQ(list ? Get<CListControl>(id).m_nControlID : Get<CComboControl>(id).m_nControlID, n.kind);
-    }
+    for (const HostWindow::Notification& n : m_host.notifications)
+        EXPECT_EQ(KindOf(::GetDlgCtrlID(n.control)), n.kind);
     m_dialog.DestroyWindow();
     EXPECT_EQ(22, m_host.Count(kControlGone));
 }
@@ -111,7 +116,7 @@ TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
             if (i == 1) DrawCoreGetCensus(&before);
             CDialog dialog;
             ASSERT_TRUE(dialog.Create(IDD_FACTORY));
-            const HWND colors = ::GetDlgItem(dialog.m_hWnd, IDC_COLORS);
+            const HWND colors = ::GetDlgItem(dialog.m_hWnd, IDC_COLOR);
             dialog.DestroyWindow();
             EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(colors));
         }
@@ -126,7 +131,7 @@ TEST(ControlLife, ObjectsOfAProgramStay) {
     HostWindow host;
     CColorControl colors(0);
     ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
-                              CRect(0, 0, 100, 100), &host, 32005));
+                              CRect(0, 0, 100, 100), &host, IDC_COLOR));
     EXPECT_TRUE(colors.IsDialogCtrl());
     EXPECT_EQ(static_cast<unsigned long>(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
               colors.m_dwStyle & ~WS_CLIPSIBLINGS);

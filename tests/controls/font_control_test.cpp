@@ -29,7 +29,7 @@ std::vector<std::string> Texts(const CComboBox& combo) {
 
 class Fonts : public ControlDialog {
 protected:
-    Fonts() : m_faces(Get<CFontFaceControl>(IDC_FACES)), m_sizes(Get<CFontSizeControl>(IDC_SIZES)) {
+    Fonts() : m_faces(Get<CFontFaceControl>(IDC_FONT_FACE)), m_sizes(Get<CFontSizeControl>(IDC_FONT_SIZE)) {
         char folder[MAX_PATH];
         ::GetTempPathA(sizeof folder, folder);
         m_ini = std::string(folder) + "font_sizes.ini";
@@ -222,13 +222,13 @@ TEST_F(Fonts, NothingIsKeptOfADrawingThatIsTakenAway) {
 TEST_F(Fonts, TheIdentifierChoosesTheList) {
     CComboBox combo;
     const DWORD style = WS_CHILD | CBS_DROPDOWNLIST;
-    ASSERT_TRUE(combo.CWnd::Create("ComboBox", "", style, CRect(0, 0, 100, 100), &m_host, 32002));
+    ASSERT_TRUE(combo.CWnd::Create("ComboBox", "", style, CRect(0, 0, 100, 100), &m_host, IDC_FONT_STYLE));
     EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
     EXPECT_EQ((std::vector<std::string>{"Regular", "Italic", "Bold", "Bold Italic"}), Texts(combo));
     ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, 77);
     EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
     EXPECT_EQ(0, combo.GetCount()) << "emptied";
-    ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, 32022);
+    ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, IDC_FONT_FACE_2);
     EXPECT_EQ(1, FillFontDropDown(combo.m_hWnd, reinterpret_cast<LPARAM>(&combo)));
     EXPECT_LT(2, combo.GetCount());
     combo.DestroyWindow();
@@ -280,7 +280,7 @@ TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
     EXPECT_EQ(edit, ::GetFocus());
     ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1);
     ASSERT_EQ(1u, m_host.notifications.size());
-    EXPECT_EQ(0x7D01u, m_host.notifications[0].kind);
+    EXPECT_EQ(kControlFontSizes, m_host.notifications[0].kind);
     EXPECT_EQ(static_cast<unsigned>(CBN_SELENDOK), m_host.notifications[0].code);
     EXPECT_EQ(m_sizes.m_hWnd, m_host.notifications[0].control);
     EXPECT_EQ(m_host.m_hWnd, ::GetFocus());

@@ -17,7 +17,7 @@ const RECT kAll = {0, 0, 150, 60};
 
 class Layers : public ControlDialog {
 protected:
-    Layers() : m_table(m_drawing.Table("_Layers_")), m_control(Get<CLayerControl>(IDC_LAYERS)) {}
+    Layers() : m_table(m_drawing.Table("_Layers_")), m_control(Get<CLayerControl>(IDC_LAYER)) {}
 
     uint16_t Add(const char* name, COLORREF color, uint32_t flags) {
         const uint16_t id = TableEntryAdd(m_table, name, nullptr);
@@ -27,7 +27,7 @@ protected:
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
         m_pixels.Clear(kUntouched);
         DRAWITEMSTRUCT request = {
-            0, IDC_LAYERS, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
+            0, IDC_LAYER, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
         m_control.DrawItem(&request);
     }
     // Pixels of a column of the row that are neither background nor untouched.
@@ -59,7 +59,7 @@ TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
                 {"Frozen", kLayerFrozen, false, false}};
     for (const auto& row : rows) {
         const uint16_t id = Add(row.name, RGB(0, 0, 200), row.flags);
-        Fill(IDC_LAYERS, m_table, id);
+        Fill(IDC_LAYER, m_table, id);
         for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
             Draw(Index(id), ODA_DRAWENTIRE, state);
             const int back = state ? COLOR_HIGHLIGHT : COLOR_WINDOW;
@@ -74,7 +74,7 @@ TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
 TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
     const uint16_t green = Add("green", RGB(0, 200, 0), 0);
     const uint16_t hidden = Add("as the background", ::GetSysColor(COLOR_WINDOW), 0);
-    Fill(IDC_LAYERS, m_table, green);
+    Fill(IDC_LAYER, m_table, green);
     const RECT name = {32, 8, 140, 24};
     Draw(Index(green));
     EXPECT_LT(10, m_pixels.Count(name, RGB(0, 200, 0)));
@@ -88,7 +88,7 @@ TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
 
 TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
     const uint16_t id = Add("HHH", RGB(0, 0, 200), kLayerOff);
-    Fill(IDC_LAYERS, m_table, id);
+    Fill(IDC_LAYER, m_table, id);
     const auto ink = [&](LONG top, LONG bottom) {
         return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200));
     };
@@ -101,7 +101,7 @@ TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
 // A scheme of light text on a black window, as high contrast has it.
 TEST_F(Layers, NothingVanishesOnADarkWindow) {
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
-    Fill(IDC_LAYERS, m_table, black);
+    Fill(IDC_LAYER, m_table, black);
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
     Draw(Index(black));
     EXPECT_LT(10, m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0)));
@@ -109,7 +109,7 @@ TEST_F(Layers, NothingVanishesOnADarkWindow) {
 
 TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), kLayerLocked);
-    Fill(IDC_LAYERS, m_table, id);
+    Fill(IDC_LAYER, m_table, id);
     Draw(-1);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
     EXPECT_LT(30, InkFrom(16, 32));
@@ -126,7 +126,7 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
 
 TEST_F(Layers, AChangeOfFocusDrawsTheFocusAlone) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
-    Fill(IDC_LAYERS, m_table, id);
+    Fill(IDC_LAYER, m_table, id);
     Draw(Index(id), ODA_FOCUS, ODS_FOCUS);
     EXPECT_EQ(0, m_pixels.Count(kAll, RGB(200, 0, 0)));
     EXPECT_LT(50, m_pixels.CountWhere(kAll, [](COLORREF c) { return c != kUntouched; }));
@@ -175,7 +175,7 @@ TEST_F(Layers, TenThousandAreMeasuredOnceAndDrawnWhereVisible) {
     m_dialog.ShowWindow(SW_SHOW);
     Pump();
     m_dialog.drawn = m_dialog.measured = 0;
-    Fill(IDC_LAYERS, m_table, 9000);
+    Fill(IDC_LAYER, m_table, 9000);
     Pump();
     EXPECT_EQ(10001, m_control.GetCount());
     EXPECT_EQ(8999, m_control.GetCurSel());

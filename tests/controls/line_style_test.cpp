@@ -226,17 +226,17 @@ TEST_F(DrawnDialog, AListOfTwoThousandStylesAsksTheHostForTheVisibleRowsOnly) {
     m_dialog.ShowWindow(SW_SHOW);
     Pump();
     m_dialog.drawn = 0;
-    Fill(IDC_LINE_LIST, table, 5);
+    Fill(IDC_LINE_STYLE_LIST, table, 5);
     Pump();
     CRect client;
-    Get<CListControl>(IDC_LINE_LIST).GetClientRect(client);
+    Get<CListControl>(IDC_LINE_STYLE_LIST).GetClientRect(client);
     EXPECT_LT(0, m_dialog.drawn);
     EXPECT_GE(3 * (client.Height() / 22 + 1), m_dialog.drawn);
 }
 
 TEST_F(DrawnDialog, TheListHasItsOwnHeight) {
     CRect rect;
-    Get<CListControl>(IDC_LINE_LIST).GetWindowRect(rect);
+    Get<CListControl>(IDC_LINE_STYLE_LIST).GetWindowRect(rect);
     EXPECT_NEAR(136, rect.Height(), 22) << "whole rows";
 }
 

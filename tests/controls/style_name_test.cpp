@@ -11,7 +11,7 @@ namespace {
 class StyleNames : public ControlDialog {
 protected:
     StyleNames()
-        : m_blocks(BlocksFromDrawing(m_drawing.Get())), m_control(Get<CStyleNameControl>(IDC_STYLE_NAMES)) {}
+        : m_blocks(BlocksFromDrawing(m_drawing.Get())), m_control(Get<CStyleNameControl>(IDC_STYLE_NAME)) {}
 
     uint16_t Add(const char* name, const char* tree) {
         GraphicStruct* const graphic = GraphicNewEx(kGraphicVertices, 0, 1);
@@ -34,25 +34,25 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
     const uint16_t arch = Add("Arch", "doors");
     Add("Capital", "Doors");
     const uint16_t plain = Add("Plain", nullptr);
-    Fill(IDC_STYLE_NAMES, m_blocks, zebra);
+    Fill(IDC_STYLE_NAME, m_blocks, zebra);
     ASSERT_EQ(2, m_control.GetCount()) << "case counts";
     EXPECT_EQ("Zebra", Shown());
     EXPECT_EQ(1, m_control.GetCurSel()) << "where sorting has put it";
-    Fill(IDC_STYLE_NAMES, m_blocks, arch);
+    Fill(IDC_STYLE_NAME, m_blocks, arch);
     EXPECT_EQ(0, m_control.GetCurSel());
     EXPECT_EQ(0u, m_control.m_nSelected) << "not kept";
     for (const unsigned none : {0u, 0xFFFFu, 0x7777u, static_cast<unsigned>(plain)}) {
-        Fill(IDC_STYLE_NAMES, m_blocks, none);
+        Fill(IDC_STYLE_NAME, m_blocks, none);
         EXPECT_EQ(0, m_control.GetCount()) << none;
     }
-    Fill(IDC_STYLE_NAMES, nullptr, zebra);
+    Fill(IDC_STYLE_NAME, nullptr, zebra);
     EXPECT_EQ(nullptr, m_control.m_pTable);
 }
 
 TEST_F(StyleNames, TwoThousandInOneTree) {
     for (int i = 0; i < 2000; ++i)
         Add(("style " + std::to_string(7919 * i % 2000)).c_str(), "tree");
-    Fill(IDC_STYLE_NAMES, m_blocks, 1);
+    Fill(IDC_STYLE_NAME, m_blocks, 1);
     EXPECT_EQ(2000, m_control.GetCount());
     EXPECT_EQ("style 0", Shown());
 }

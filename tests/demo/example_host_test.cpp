@@ -7,10 +7,9 @@
 
 #include <string>
 
-namespace {
+#include "orlo/resources/resource.h"
 
-constexpr int kLayers = 32008, kLineStyles = 32021, kPenColors = 32005, kDashScale = 104,
-              kBrushStyles = 32024, kBrushColors = 32006;
+namespace {
 
 struct Child {
     int id;
@@ -87,17 +86,17 @@ TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndEndsWell) {
     Start(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     const HWND sheet = Sheet();
     ASSERT_NE(nullptr, sheet);
-    EXPECT_GT(Ask(Visible(sheet, kLayers), CB_GETCOUNT), 1);
+    EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
 
     const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
     ::PostMessageA(tabs, WM_KEYDOWN, VK_RIGHT, 1);
-    EXPECT_GT(Ask(Visible(sheet, kLineStyles), LB_GETCOUNT), 1);
-    EXPECT_GT(Ask(Visible(sheet, kPenColors), CB_GETCOUNT), 200);
-    ::SendMessageA(Visible(sheet, kDashScale), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("2.5"));
+    EXPECT_GT(Ask(Visible(sheet, IDC_LINE_STYLE_LIST), LB_GETCOUNT), 1);
+    EXPECT_GT(Ask(Visible(sheet, IDC_COLOR), CB_GETCOUNT), 200);
+    ::SendMessageA(Visible(sheet, IDC_PEN_SCALE), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("2.5"));
 
     ::PostMessageA(tabs, WM_KEYDOWN, VK_RIGHT, 1);
-    EXPECT_GT(Ask(Visible(sheet, kBrushStyles), LB_GETCOUNT), 1);
-    EXPECT_GT(Ask(Visible(sheet, kBrushColors), CB_GETCOUNT), 200);
+    EXPECT_GT(Ask(Visible(sheet, IDC_BRUSH_STYLE_LIST), LB_GETCOUNT), 1);
+    EXPECT_GT(Ask(Visible(sheet, IDC_BRUSH_COLOR), CB_GETCOUNT), 200);
 
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(0u, ExitCode());

@@ -1,11 +1,10 @@
 // The main window: opening, and the road of an edit through the library's sheet and back by undo.
 
 #include "demo/viewer.h"
+#include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
 
 namespace {
-
-constexpr int kColorCombo = 32005;
 
 void FocusByTab(UserInput& user, int control) {
     for (int i = 0; i < 20 && ::GetDlgCtrlID(::GetFocus()) != control; ++i)
@@ -19,7 +18,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
                       user.Key(VK_TAB, UserInput::kControl); // General, Pen
-                      FocusByTab(user, kColorCombo);
+                      FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
                       user.Key(VK_RETURN);
                   });
@@ -45,7 +44,7 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
         },
         [&](HWND sheet) {
             user.Key(VK_TAB, UserInput::kControl);
-            FocusByTab(user, kColorCombo);
+            FocusByTab(user, IDC_COLOR);
             user.Keys(VK_DOWN, 3);
             user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
             user.Key(VK_TAB, UserInput::kControl | UserInput::kShift);
@@ -66,7 +65,7 @@ TEST_F(Viewer, CancelLeavesNoStepOfUndo) {
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
                       user.Key(VK_TAB, UserInput::kControl);
-                      FocusByTab(user, kColorCombo);
+                      FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
                       user.Key(VK_ESCAPE);
                   });

@@ -7,11 +7,11 @@
 
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
+#include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
 
 namespace {
 
-constexpr int kStyleCombo = 32015, kNewButton = 102, kDeleteButton = 103, kColorCombo = 32005, kInfo = 101;
 constexpr int kBack = 100, kNext = 101;
 
 HWND PageOf(HWND sheet) {
@@ -51,7 +51,7 @@ protected:
         user.InDialogs([&] { user.Key(VK_RETURN, UserInput::kControl); }, scripts);
     }
     void TypeStyle(HWND sheet, const std::string& name) {
-        const HWND combo = OnPage(sheet, kStyleCombo);
+        const HWND combo = OnPage(sheet, IDC_STYLE_NAME);
         ::SetFocus(combo);
         ::SendMessageA(combo, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
         user.Type(name);
@@ -142,10 +142,10 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     Make("Red");
     const PropertySnapshot drawing = Properties();
     InStyleSheets({[&](HWND sheet) {
-        EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, kStyleCombo)));
-        EXPECT_EQ("Red", TextOf(OnPage(sheet, kStyleCombo)));
+        EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, IDC_STYLE_NAME)));
+        EXPECT_EQ("Red", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
         user.Key(VK_TAB, UserInput::kControl); // the Pen page
-        const HWND colors = OnPage(sheet, kColorCombo);
+        const HWND colors = OnPage(sheet, IDC_COLOR);
         ASSERT_NE(nullptr, colors);
         ::SetFocus(colors);
         user.Keys(VK_DOWN, 3);
@@ -161,7 +161,7 @@ TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {
     Make("Red");
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND sheet) {
-                      EXPECT_FALSE(::IsWindowVisible(OnPage(sheet, kStyleCombo)));
+                      EXPECT_FALSE(::IsWindowVisible(OnPage(sheet, IDC_STYLE_NAME)));
                       Close(sheet);
                   });
 }
@@ -170,10 +170,10 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
     Make("Red");
     InStyleSheets({[&](HWND sheet) {
                        TypeStyle(sheet, "Blue");
-                       user.Click(OnPage(sheet, kNewButton));
+                       user.Click(OnPage(sheet, IDC_STYLE_NEW));
                    },
                    [&](HWND sheet) {
-                       EXPECT_EQ("Blue", TextOf(OnPage(sheet, kStyleCombo)));
+                       EXPECT_EQ("Blue", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
                        Close(sheet);
                    }});
     EXPECT_EQ("Blue", current());
@@ -183,17 +183,17 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
 TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
     Make("Red");
     Make("Blue");
-    InStyleSheets({[&](HWND sheet) {
-                       TypeStyle(sheet, "Red");
-                       user.Click(
-                           OnPage(sheet, kInfo)); // leaves the combo: the sheet comes again over that style
-                   },
-                   [&](HWND sheet) {
-                       EXPECT_EQ("Red", TextOf(OnPage(sheet, kStyleCombo)));
-                       EXPECT_EQ("Red", current());
-                       TypeStyle(sheet, "Blue");
-                       user.Click(::GetDlgItem(sheet, IDOK));
-                   }});
+    InStyleSheets(
+        {[&](HWND sheet) {
+             TypeStyle(sheet, "Red");
+             user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
+         },
+         [&](HWND sheet) {
+             EXPECT_EQ("Red", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
+             EXPECT_EQ("Red", current());
+             TypeStyle(sheet, "Blue");
+             user.Click(::GetDlgItem(sheet, IDOK));
+         }});
     EXPECT_EQ("Blue", current()) << "and the sheet stayed closed";
 }
 
@@ -204,7 +204,7 @@ TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
         MessageBoxWatcher boxes(answer);
         InStyleSheets({[&](HWND sheet) {
             TypeStyle(sheet, name);
-            user.Click(OnPage(sheet, kDeleteButton));
+            user.Click(OnPage(sheet, IDC_STYLE_DELETE));
         }});
         return boxes.OnlyText();
     };

@@ -1,6 +1,8 @@
 // Controls of the dialog of these tests, for the sources and the resource script.
 #pragma once
 
+#include "orlo/resources/resource.h"
+
 #define IDD_EXCHANGE 100
 #define IDS_LINES 101
 // The controls of fonts, under the numbers that they have on a page.
@@ -19,5 +21,3 @@
 #define IDC_DROP_LIST 1011
 #define IDC_SCROLL 1012
 #define IDC_SORTED_COMBO 1013
-#define IDC_FONT_SIZE 32001
-#define IDC_FONT_STYLE 32002

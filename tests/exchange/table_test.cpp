@@ -141,7 +141,7 @@ TEST_F(TableExchange, ATextWithoutKeyIsColorZero) {
 
 TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     const uint16_t first = Add("Walls"), second = Add("Doors");
-    CComboControl control(0x7D0F);
+    CComboControl control(kControlStyleNames);
     control.SubclassWindow(Control(IDC_COMBO));
     unsigned int value = first;
     EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "no table yet";

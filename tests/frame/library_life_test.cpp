@@ -62,7 +62,7 @@ protected:
             ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
             user.SelectPage(1);
             ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
-            user.Type(104, std::to_string(scale));
+            user.Type(IDC_PEN_SCALE, std::to_string(scale));
             user.Ok();
         }));
         EXPECT_EQ(scale, kit[0].Number("PenScale"));

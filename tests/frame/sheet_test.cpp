@@ -10,13 +10,12 @@
 #include "orlo/entry/entry.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/object_counts.h"
 #include "support/test_sheet.h"
 
 namespace {
-
-constexpr unsigned int kGeneral = 29000, kPen = 29001, kBrush = 29002;
 
 struct Kind {
     const char* name;
@@ -27,9 +26,9 @@ struct Kind {
 };
 
 const Kind kKinds[] = {
-    {"PenBrush", 2, false, 0, {kPen, kBrush}},
-    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, {kPen, kBrush}},
-    {"Vertices", 0x0B, false, 0, {kPen, kBrush}},
+    {"PenBrush", 2, false, 0, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
+    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
+    {"Vertices", 0x0B, false, 0, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
     {"VerticesWithoutPen", 0x0B, false, kFlagNoPenBrush, {}},
     {"Group", 0x0B, true, 0, {}},
     {"Unknown", 0x33, false, 0, {}},
@@ -45,9 +44,10 @@ TEST_P(PagesOfAKind, AreAddedOnce) {
     graphic->bType = static_cast<uint8_t>(kind.type);
     graphic->dwFlags |= kind.flags;
     TestSheet sheet(kit);
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
     ASSERT_EQ(1 + static_cast<int>(kind.pages.size()), sheet.Sheet().GetPageCount());
-    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(kGeneral));
+    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(IDD_GENERAL_PAGE));
     for (size_t i = 0; i < kind.pages.size(); ++i)
         EXPECT_EQ(sheet.Sheet().GetPage(static_cast<int>(i) + 1), sheet.Sheet().FindPage(kind.pages[i]));
 }
@@ -73,7 +73,7 @@ TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
         EXPECT_EQ(41, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
         EXPECT_EQ(42, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
         EXPECT_EQ(5, sheet.Sheet().GetPageCount());
-        EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(kPen));
+        EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(IDD_PEN_PAGE));
     }
     ::RegenMethodsDispose(&methods);
 }
@@ -91,8 +91,8 @@ TEST(FindPage, NumbersFindNumbersAndNamesFindEqualNames) {
     const std::string otherAddress = "NAMED_PAGE", otherCase = "Named_Page";
     EXPECT_EQ(named, sheet.Sheet().FindPage(otherAddress.c_str()));
     EXPECT_EQ(nullptr, sheet.Sheet().FindPage(otherCase.c_str()));
-    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(0x12340000u + kGeneral));
-    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(kPen));
+    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(0x12340000u + IDD_GENERAL_PAGE));
+    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(IDD_PEN_PAGE));
 }
 
 TEST(SheetResult, OkIsOneAndEscapeCancels) {
@@ -230,10 +230,12 @@ TEST(ManySheets, LeaveNothingBehind) {
         ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
         sheet.Run([](SheetDriver& user) { user.Ok(); });
     };
-    for (int i = 0; i < 3; ++i) cycle();
+    for (int i = 0; i < 3; ++i)
+        cycle();
     const int gdi = GdiObjectCount(), user = UserObjectCount();
     const long blocks = kit.Blocks();
-    for (int i = 0; i < 1000; ++i) cycle();
+    for (int i = 0; i < 1000; ++i)
+        cycle();
     EXPECT_EQ(gdi, GdiObjectCount());
     EXPECT_EQ(user, UserObjectCount());
     EXPECT_EQ(blocks, kit.Blocks());

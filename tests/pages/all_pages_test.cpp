@@ -12,6 +12,7 @@
 
 #include "drawcore/census.h"
 #include "drawcore/undo.h"
+#include "orlo/resources/resource.h"
 #include "pages/every_kind.h"
 #include "support/database_dump.h"
 #include "support/host_frame.h"
@@ -135,8 +136,11 @@ TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
     struct {
         int page, control;
         const char* text;
-    } const rows[] = {
-        {1, 104, "thick"}, {2, 105, "wide"}, {3, 32001, "-4"}, {4, 101, "5000"}, {4, 107, "far"}};
+    } const rows[] = {{1, IDC_PEN_SCALE, "thick"},
+                      {2, IDC_BRUSH_SCALE, "wide"},
+                      {3, IDC_FONT_SIZE, "-4"},
+                      {4, IDC_SCALE_X, "5000"},
+                      {4, IDC_POSITION_X, "far"}};
     kinds.Select(kEverything);
     const std::vector<std::string> before = Dump();
     for (const auto& row : rows) {

@@ -19,6 +19,7 @@
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 #include "orlo/host/viewport.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/pixels.h"
@@ -26,19 +27,6 @@
 
 namespace {
 
-enum : int {
-    kStyle = 32024,
-    kColor = 32006,
-    kScale = 105,
-    kAngle = 106,
-    kUpDown = 119,
-    kCross = 113,
-    kWinding = 115,
-    kAlternate = 116,
-    kName = 112,
-    kKind = 118,
-};
-constexpr unsigned int kBrush = 29002;
 constexpr unsigned int kRed = 0x0000FF, kBlue = 0xFF0000;
 constexpr double kDegree = 0.017453292519943295;
 
@@ -67,7 +55,7 @@ protected:
         for (size_t i = 0; i < kit.Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
-            auto* page = sheet.Sheet().FindPage(kBrush);
+            auto* page = sheet.Sheet().FindPage(IDD_BRUSH_PAGE);
             ASSERT_NE(nullptr, page);
             sheet.Sheet().SetActivePage(page);
             script(user, static_cast<CGraphicPropertyPage&>(*page));
@@ -76,13 +64,14 @@ protected:
 
     // By its item; the list is walked with the keyboard.
     void ChooseStyle(SheetDriver& user, unsigned int style) {
-        user.Focus(kStyle);
+        user.Focus(IDC_BRUSH_STYLE_LIST);
         user.Key(VK_HOME);
         user.Key(VK_HOME);
-        const HWND list = user.Control(kStyle);
+        const HWND list = user.Control(IDC_BRUSH_STYLE_LIST);
         for (int i = 0; i < 40; ++i) {
             char text[300] = "";
-            ::SendMessageA(list, LB_GETTEXT, user.Selection(kStyle), reinterpret_cast<LPARAM>(text));
+            ::SendMessageA(list, LB_GETTEXT, user.Selection(IDC_BRUSH_STYLE_LIST),
+                           reinterpret_cast<LPARAM>(text));
             if (std::strtoul(text, nullptr, 16) == style) return;
             user.Key(VK_DOWN);
         }
@@ -98,14 +87,15 @@ TEST_F(BrushPage, ShowsAnEqualBrush) {
     for (int i = 0; i < 2; ++i)
         Add(Style("Diagonal cross"), kBlue, 2.5, 30 * kDegree, 1, 1);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ("Diagonal cross", user.Text(kName));
-                  EXPECT_EQ("Vector:", user.Text(kKind));
-                  EXPECT_EQ("2.5", user.Text(kScale));
-                  EXPECT_EQ(0u, user.Text(kAngle).find("30")) << user.Text(kAngle);
-                  EXPECT_EQ(BST_CHECKED, user.Check(kCross));
-                  EXPECT_EQ(BST_CHECKED, user.Check(kWinding));
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kAlternate));
-                  EXPECT_EQ("00FF0000", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
+                  EXPECT_EQ("Diagonal cross", user.Text(IDC_BRUSH_STYLE_TEXT));
+                  EXPECT_EQ("Vector:", user.Text(IDC_BRUSH_KIND_TEXT));
+                  EXPECT_EQ("2.5", user.Text(IDC_BRUSH_SCALE));
+                  EXPECT_EQ(0u, user.Text(IDC_BRUSH_ANGLE).find("30")) << user.Text(IDC_BRUSH_ANGLE);
+                  EXPECT_EQ(BST_CHECKED, user.Check(IDC_HATCH_CROSS));
+                  EXPECT_EQ(BST_CHECKED, user.Check(IDC_DRAW_WINDING));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_DRAW_ALTERNATE));
+                  EXPECT_EQ("00FF0000",
+                            user.ItemText(IDC_BRUSH_COLOR, user.Selection(IDC_BRUSH_COLOR)).substr(0, 8));
                   user.Ok();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -114,15 +104,15 @@ TEST_F(BrushPage, ShowsAnEqualBrush) {
 TEST_F(BrushPage, MixedBrushesShowTheirMarkersAndSurviveOk) {
     AddMixed();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ("Indeterminate", user.Text(kName));
-                  EXPECT_EQ(-1, user.Selection(kStyle));
-                  EXPECT_EQ(-1, user.Selection(kColor));
-                  EXPECT_EQ("Indeterminate", user.Text(kScale));
-                  EXPECT_EQ("Indeterminate", user.Text(kAngle));
-                  EXPECT_EQ(BST_INDETERMINATE, user.Check(kCross));
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kWinding));
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kAlternate));
-                  EXPECT_FALSE(::IsWindowEnabled(user.Control(kColor)));
+                  EXPECT_EQ("Indeterminate", user.Text(IDC_BRUSH_STYLE_TEXT));
+                  EXPECT_EQ(-1, user.Selection(IDC_BRUSH_STYLE_LIST));
+                  EXPECT_EQ(-1, user.Selection(IDC_BRUSH_COLOR));
+                  EXPECT_EQ("Indeterminate", user.Text(IDC_BRUSH_SCALE));
+                  EXPECT_EQ("Indeterminate", user.Text(IDC_BRUSH_ANGLE));
+                  EXPECT_EQ(BST_INDETERMINATE, user.Check(IDC_HATCH_CROSS));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_DRAW_WINDING));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_DRAW_ALTERNATE));
+                  EXPECT_FALSE(::IsWindowEnabled(user.Control(IDC_BRUSH_COLOR)));
                   user.Ok();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -136,11 +126,11 @@ TEST_F(BrushPage, OneEditOverMixedBrushesChangesOneProperty) {
     } const edits[] = {
         {"BrushStyle", [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); },
          static_cast<double>(Style("Horizontal"))},
-        {"BrushScale", [](SheetDriver& user) { user.Type(kScale, "4.5"); }, 4.5},
-        {"BrushAngle", [](SheetDriver& user) { user.Type(kAngle, "60"); }, 60 * kDegree},
-        {"HatchCross", [](SheetDriver& user) { user.Click(kCross); }, 0},
-        {"BrushDrawMode", [](SheetDriver& user) { user.Click(kAlternate); }, 0},
-        {"BrushColor", [](SheetDriver& user) { user.Choose(kColor, 0); }, 0x333333},
+        {"BrushScale", [](SheetDriver& user) { user.Type(IDC_BRUSH_SCALE, "4.5"); }, 4.5},
+        {"BrushAngle", [](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "60"); }, 60 * kDegree},
+        {"HatchCross", [](SheetDriver& user) { user.Click(IDC_HATCH_CROSS); }, 0},
+        {"BrushDrawMode", [](SheetDriver& user) { user.Click(IDC_DRAW_ALTERNATE); }, 0},
+        {"BrushColor", [](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); }, 0x333333},
     };
     Add(Style("Cross"), kRed, 2, 30 * kDegree, 1, 1);
     Add(Style("Cross"), kBlue, 3, 45 * kDegree, 0, 0);
@@ -181,11 +171,11 @@ TEST_F(BrushPage, TheStyleDecidesWhichControlsMakeSense) {
         for (const auto& row : rows) {
             SCOPED_TRACE(row.name);
             ChooseStyle(user, row.style);
-            expect({kColor}, row.color);
-            expect({kScale, kAngle, kUpDown, kCross}, row.hatch);
-            expect({kWinding, kAlternate}, row.mode);
-            EXPECT_EQ(row.kind, user.Text(kKind));
-            EXPECT_EQ(row.name, user.Text(kName));
+            expect({IDC_BRUSH_COLOR}, row.color);
+            expect({IDC_BRUSH_SCALE, IDC_BRUSH_ANGLE, IDC_BRUSH_ANGLE_ARROWS, IDC_HATCH_CROSS}, row.hatch);
+            expect({IDC_DRAW_WINDING, IDC_DRAW_ALTERNATE}, row.mode);
+            EXPECT_EQ(row.kind, user.Text(IDC_BRUSH_KIND_TEXT));
+            EXPECT_EQ(row.name, user.Text(IDC_BRUSH_STYLE_TEXT));
         }
     });
 }
@@ -196,17 +186,17 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
         SCOPED_TRACE(scale);
         Run([&](SheetDriver& user, CGraphicPropertyPage&) {
             MessageBoxWatcher boxes;
-            user.Click(kCross);
-            user.Type(kScale, scale);
+            user.Click(IDC_HATCH_CROSS);
+            user.Type(IDC_BRUSH_SCALE, scale);
             user.Ok();
             EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
             EXPECT_EQ(1u, boxes.Boxes().size());
-            EXPECT_EQ(user.Control(kScale), ::GetFocus());
+            EXPECT_EQ(user.Control(IDC_BRUSH_SCALE), ::GetFocus());
         });
         EXPECT_EQ(0, kit.Writes());
     }
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Type(kAngle, "steep");
+                  user.Type(IDC_BRUSH_ANGLE, "steep");
                   user.Ok();
               }));
     EXPECT_NEAR(30 * kDegree, kit[0].Number("BrushAngle"), 1e-9);
@@ -231,21 +221,21 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
         SCOPED_TRACE(row.text);
         ::TableSetIntVar(kit.Drawing()->pUnits, kUnitAngularSystem, row.system);
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-                      user.Type(kAngle, row.text);
+                      user.Type(IDC_BRUSH_ANGLE, row.text);
                       user.Key(row.key);
                       double shown = -1;
                       page.GetPropText("BrushAngle", &shown, 1);
-                      EXPECT_NEAR(row.expected, shown, 1e-6) << user.Text(kAngle);
+                      EXPECT_NEAR(row.expected, shown, 1e-6) << user.Text(IDC_BRUSH_ANGLE);
                       user.Ok();
                   }));
         EXPECT_NEAR(row.expected, kit[0].Number("BrushAngle"), 1e-6);
     }
     Run([](SheetDriver& user, CGraphicPropertyPage&) {
-        user.Type(kAngle, "steep");
+        user.Type(IDC_BRUSH_ANGLE, "steep");
         const LPARAM upper = MAKELPARAM(2, 2);
-        ::SendMessageA(user.Control(kUpDown), WM_LBUTTONDOWN, MK_LBUTTON, upper);
-        ::SendMessageA(user.Control(kUpDown), WM_LBUTTONUP, 0, upper);
-        EXPECT_EQ("steep", user.Text(kAngle)) << "not an angle to start from";
+        ::SendMessageA(user.Control(IDC_BRUSH_ANGLE_ARROWS), WM_LBUTTONDOWN, MK_LBUTTON, upper);
+        ::SendMessageA(user.Control(IDC_BRUSH_ANGLE_ARROWS), WM_LBUTTONUP, 0, upper);
+        EXPECT_EQ("steep", user.Text(IDC_BRUSH_ANGLE)) << "not an angle to start from";
     });
 }
 
@@ -260,9 +250,9 @@ TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
         EXPECT_NEAR(std::sqrt(2.0) / 20, shown("BrushScale"), 1e-6) << "two families of spacing 1";
         ChooseStyle(user, Style("Vertical"));
         EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6);
-        user.Type(kAngle, "90");
+        user.Type(IDC_BRUSH_ANGLE, "90");
         EXPECT_NEAR(90 * kDegree, shown("BrushAngle"), 1e-9);
-        user.Type(kScale, "7");
+        user.Type(IDC_BRUSH_SCALE, "7");
         EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6) << "never the user's";
     });
     EXPECT_EQ(0, kit.Writes());
@@ -286,7 +276,7 @@ TEST_F(BrushPage, ThePreviewShowsTheDrawMode) {
         };
         EXPECT_EQ(kRed, colors().first);
         EXPECT_NE(kRed, colors().second);
-        user.Click(kWinding);
+        user.Click(IDC_DRAW_WINDING);
         EXPECT_EQ(kRed, colors().first);
         EXPECT_EQ(kRed, colors().second);
     });

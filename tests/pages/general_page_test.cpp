@@ -11,12 +11,11 @@
 #include "orlo/host/block.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/test_sheet.h"
 
 namespace {
-
-enum : int { kInfo = 101, kNew = 102, kDelete = 103, kStyleGroup = 104, kLayer = 32008, kStyle = 32015 };
 
 bool IsEnabled(SheetDriver& user, int id) {
     return ::IsWindowEnabled(user.Control(id)) != 0;
@@ -37,8 +36,8 @@ protected:
 
     // What the layer combo shows, without its key.
     static std::string LayerShown(SheetDriver& user) {
-        const int index = user.Selection(kLayer);
-        return index < 0 ? "" : user.ItemText(kLayer, index).substr(9);
+        const int index = user.Selection(IDC_LAYER);
+        return index < 0 ? "" : user.ItemText(IDC_LAYER, index).substr(9);
     }
 
     GraphicKit kit;
@@ -52,8 +51,9 @@ TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
     Add(doors, "oak\r\npainted");
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
                   EXPECT_EQ("Doors", LayerShown(user));
-                  EXPECT_EQ("oak\r\npainted", user.Text(kInfo));
-                  for (const int id : {int{kStyle}, int{kNew}, int{kDelete}, int{kStyleGroup}}) {
+                  EXPECT_EQ("oak\r\npainted", user.Text(IDC_INFO));
+                  for (const int id : {int{IDC_STYLE_NAME}, int{IDC_STYLE_NEW}, int{IDC_STYLE_DELETE},
+                                       int{IDC_STYLE_GROUP}}) {
                       EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
                       EXPECT_FALSE(IsEnabled(user, id)) << id;
                   }
@@ -66,10 +66,10 @@ TEST_F(GeneralPage, KeepsMixedValuesThatNobodyTouched) {
     Add(walls, "a");
     Add(doors, "b");
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
-                  EXPECT_EQ(-1, user.Selection(kLayer));
-                  EXPECT_EQ("<Indeterminate>", user.Text(kInfo));
-                  user.Type(kInfo, "x");
-                  user.Type(kInfo, "<Indeterminate>"); // the same as untouched
+                  EXPECT_EQ(-1, user.Selection(IDC_LAYER));
+                  EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
+                  user.Type(IDC_INFO, "x");
+                  user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
                   user.Ok();
               }));
     EXPECT_EQ("a", kit[0].Text("Info"));
@@ -81,7 +81,7 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     Add(walls, "a");
     Add(doors, "b");
     Run([&](SheetDriver& user) {
-        user.Type(kInfo, "both");
+        user.Type(IDC_INFO, "both");
         user.Ok();
     });
     EXPECT_EQ("both", kit[0].Text("Info"));
@@ -89,13 +89,13 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     EXPECT_EQ(walls, kit[0].Number("Layer"));
     EXPECT_EQ(doors, kit[1].Number("Layer"));
     Run([&](SheetDriver& user) {
-        user.Choose(kLayer, 1);
+        user.Choose(IDC_LAYER, 1);
         EXPECT_EQ("Walls", LayerShown(user));
         user.Ok();
     });
     EXPECT_EQ(walls, kit[1].Number("Layer"));
     Run([&](SheetDriver& user) {
-        user.Choose(kLayer, 2);
+        user.Choose(IDC_LAYER, 2);
         user.Cancel();
     });
     EXPECT_EQ(walls, kit[1].Number("Layer"));
@@ -128,25 +128,25 @@ protected:
 
     // Back to the layer: the next control would be the Delete button.
     static void Leave(SheetDriver& user, const char* name) {
-        user.Type(kStyle, name);
+        user.Type(IDC_STYLE_NAME, name);
         user.Key(VK_TAB, true);
     }
 
     // By the arrow keys in the closed list.
     static void List(SheetDriver& user, const char* name) {
-        user.Focus(kStyle);
+        user.Focus(IDC_STYLE_NAME);
         for (int i = 0; i < 3; ++i)
             user.Key(VK_UP);
-        for (int i = 0; i < 3 && user.Text(kStyle) != name; ++i)
+        for (int i = 0; i < 3 && user.Text(IDC_STYLE_NAME) != name; ++i)
             user.Key(VK_DOWN);
-        ASSERT_EQ(name, user.Text(kStyle));
+        ASSERT_EQ(name, user.Text(IDC_STYLE_NAME));
     }
     // Return keeps sheet, name and focus.
     static void ExpectRefused(SheetDriver& user, const char* name) {
         user.Key(VK_RETURN);
         EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << name;
-        EXPECT_EQ(name, user.Text(kStyle));
-        EXPECT_TRUE(::IsChild(user.Control(kStyle), ::GetFocus())) << name;
+        EXPECT_EQ(name, user.Text(IDC_STYLE_NAME));
+        EXPECT_TRUE(::IsChild(user.Control(IDC_STYLE_NAME), ::GetFocus())) << name;
     }
 
     TableStruct* styles;
@@ -155,23 +155,23 @@ protected:
 
 TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
     RunOver(beam, [&](SheetDriver& user) {
-        EXPECT_EQ("Beam", user.ItemText(kStyle, 0));
-        EXPECT_EQ("Column", user.ItemText(kStyle, 1));
-        EXPECT_EQ("Standard", user.ItemText(kStyle, 2));
-        EXPECT_EQ("", user.ItemText(kStyle, 3));
+        EXPECT_EQ("Beam", user.ItemText(IDC_STYLE_NAME, 0));
+        EXPECT_EQ("Column", user.ItemText(IDC_STYLE_NAME, 1));
+        EXPECT_EQ("Standard", user.ItemText(IDC_STYLE_NAME, 2));
+        EXPECT_EQ("", user.ItemText(IDC_STYLE_NAME, 3));
         struct {
             const char* name;
             bool canMake, canDelete;
         } const rows[] = {{"Girder", true, false},    {"Column", false, true},  {"column", false, true},
                           {"Standard", false, false}, {"Outline", true, false}, {"", false, false}};
         for (const auto& row : rows) {
-            user.Type(kStyle, row.name);
-            EXPECT_EQ(row.canMake, IsEnabled(user, kNew)) << row.name;
-            EXPECT_EQ(row.canDelete, IsEnabled(user, kDelete)) << row.name;
+            user.Type(IDC_STYLE_NAME, row.name);
+            EXPECT_EQ(row.canMake, IsEnabled(user, IDC_STYLE_NEW)) << row.name;
+            EXPECT_EQ(row.canDelete, IsEnabled(user, IDC_STYLE_DELETE)) << row.name;
         }
-        user.Type(kStyle, std::string(60, 'W')); // wider than the field
-        EXPECT_EQ(32u, user.Text(kStyle).size());
-        user.Type(kStyle, "Beam");
+        user.Type(IDC_STYLE_NAME, std::string(60, 'W')); // wider than the field
+        EXPECT_EQ(32u, user.Text(IDC_STYLE_NAME).size());
+        user.Type(IDC_STYLE_NAME, "Beam");
     });
 }
 
@@ -179,29 +179,29 @@ TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
     EXPECT_EQ(1000 + column, RunOver(beam, [](SheetDriver& user) { Leave(user, "Column"); }));
     EXPECT_EQ(1000 + beam, RunOver(beam, [](SheetDriver& user) { Leave(user, "Beam"); }));
     EXPECT_EQ(3000 + column, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(kStyle, "Column");
+                  user.Type(IDC_STYLE_NAME, "Column");
                   user.Ok();
               }));
     EXPECT_EQ(2000 + column, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(kStyle, "Column");
-                  user.Click(kDelete);
+                  user.Type(IDC_STYLE_NAME, "Column");
+                  user.Click(IDC_STYLE_DELETE);
               }));
     EXPECT_NE(0, ::BlocksFindBlock(styles, "Column")) << "deleting is the host's";
     EXPECT_EQ(IDCANCEL, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(kStyle, "Column");
+                  user.Type(IDC_STYLE_NAME, "Column");
                   user.Cancel();
               }));
     EXPECT_EQ(IDOK, RunOver(beam, [](SheetDriver& user) {
-                  user.Focus(kStyle);
-                  user.Type(kStyle, "Beam");
+                  user.Focus(IDC_STYLE_NAME);
+                  user.Type(IDC_STYLE_NAME, "Beam");
                   user.Key(VK_RETURN); // OK, with the focus where it is
               }));
 }
 
 TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
     EXPECT_EQ(1000, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(kStyle, "Girder");
-                  user.Click(kNew);
+                  user.Type(IDC_STYLE_NAME, "Girder");
+                  user.Click(IDC_STYLE_NEW);
               }));
     const uint16_t girder = ::BlocksFindBlock(styles, "Girder");
     ASSERT_NE(0, girder);
@@ -213,22 +213,22 @@ TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
 
 TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
-                  user.Type(kStyle, "Girder");
-                  user.Focus(kInfo);
-                  EXPECT_EQ("Column", user.Text(kStyle));
-                  EXPECT_FALSE(IsEnabled(user, kNew));
-                  EXPECT_TRUE(IsEnabled(user, kDelete));
+                  user.Type(IDC_STYLE_NAME, "Girder");
+                  user.Focus(IDC_INFO);
+                  EXPECT_EQ("Column", user.Text(IDC_STYLE_NAME));
+                  EXPECT_FALSE(IsEnabled(user, IDC_STYLE_NEW));
+                  EXPECT_TRUE(IsEnabled(user, IDC_STYLE_DELETE));
 
-                  user.Type(kStyle, "");
-                  user.Focus(kInfo);
-                  EXPECT_EQ("Column", user.Text(kStyle));
+                  user.Type(IDC_STYLE_NAME, "");
+                  user.Focus(IDC_INFO);
+                  EXPECT_EQ("Column", user.Text(IDC_STYLE_NAME));
 
                   // Return is refused over a new name, a typed one of another style, and a listed one; the name stays for the
                   // user to look at.
-                  user.Type(kStyle, "Girder");
+                  user.Type(IDC_STYLE_NAME, "Girder");
                   ExpectRefused(user, "Girder");
-                  EXPECT_TRUE(IsEnabled(user, kNew));
-                  user.Type(kStyle, "Beam");
+                  EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));
+                  user.Type(IDC_STYLE_NAME, "Beam");
                   ExpectRefused(user, "Beam");
                   List(user, "Standard");
                   ExpectRefused(user, "Standard");
@@ -238,20 +238,20 @@ TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
 TEST_F(StylePart, ButtonsFollowEverySelection) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
                   List(user, "Standard");
-                  EXPECT_FALSE(IsEnabled(user, kDelete)) << "the application's own";
-                  ::SendMessageA(user.Page(), WM_COMMAND, kDelete,
-                                 reinterpret_cast<LPARAM>(user.Control(kDelete)));
+                  EXPECT_FALSE(IsEnabled(user, IDC_STYLE_DELETE)) << "the application's own";
+                  ::SendMessageA(user.Page(), WM_COMMAND, IDC_STYLE_DELETE,
+                                 reinterpret_cast<LPARAM>(user.Control(IDC_STYLE_DELETE)));
                   EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << "not even by its command";
-                  EXPECT_EQ("Standard", user.Text(kStyle));
+                  EXPECT_EQ("Standard", user.Text(IDC_STYLE_NAME));
                   List(user, "Beam");
-                  EXPECT_TRUE(IsEnabled(user, kDelete));
-                  user.Type(kStyle, "Girder");
-                  EXPECT_TRUE(IsEnabled(user, kNew));
+                  EXPECT_TRUE(IsEnabled(user, IDC_STYLE_DELETE));
+                  user.Type(IDC_STYLE_NAME, "Girder");
+                  EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));
                   List(user, "Column");
-                  EXPECT_FALSE(IsEnabled(user, kNew));
+                  EXPECT_FALSE(IsEnabled(user, IDC_STYLE_NEW));
                   for (const bool back : {false, true}) { // Tab goes past New to Delete, and back
                       user.Key(VK_TAB, back);
-                      EXPECT_EQ(back ? user.Control(kStyle) : user.Control(kDelete),
+                      EXPECT_EQ(back ? user.Control(IDC_STYLE_NAME) : user.Control(IDC_STYLE_DELETE),
                                 back ? ::GetParent(::GetFocus()) : ::GetFocus());
                   }
                   user.Cancel();
@@ -260,10 +260,10 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
 
 TEST_F(StylePart, AnotherProgramInFrontChoosesNothing) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
-                  user.Type(kStyle, "Beam");
+                  user.Type(IDC_STYLE_NAME, "Beam");
                   ::SetFocus(nullptr);
                   user.Pump();
-                  EXPECT_EQ("Beam", user.Text(kStyle));
+                  EXPECT_EQ("Beam", user.Text(IDC_STYLE_NAME));
               }));
 }
 

@@ -13,6 +13,7 @@
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/insert_parts.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/sheet_driver.h"
@@ -20,20 +21,8 @@
 
 namespace {
 
-enum : int {
-    kScaleX = 101,
-    kScaleY,
-    kScaleZ,
-    kRotateX,
-    kRotateY,
-    kRotateZ,
-    kPositionX,
-    kPositionY,
-    kPositionZ,
-};
-constexpr int kAll[] = {kScaleX,  kScaleY,    kScaleZ,    kRotateX,  kRotateY,
-                        kRotateZ, kPositionX, kPositionY, kPositionZ};
-constexpr unsigned int kPage = 29004;
+constexpr int kAll[] = {IDC_SCALE_X,    IDC_SCALE_Y,    IDC_SCALE_Z,    IDC_ROTATION_X, IDC_ROTATION_Y,
+                        IDC_ROTATION_Z, IDC_POSITION_X, IDC_POSITION_Y, IDC_POSITION_Z};
 constexpr double kDegree = 0.017453292519943295;
 
 using Vertices = std::vector<double>; // of all insertions, one after the other
@@ -100,7 +89,7 @@ protected:
         EXPECT_EQ(2, sheet->GetPageCount()) << "one page for all of them";
         return SheetDriver().Run(*sheet, [&](SheetDriver& user) {
             user.SelectPage(1);
-            auto* page = sheet->FindPage(kPage);
+            auto* page = sheet->FindPage(IDD_INSERT_PAGE);
             ASSERT_EQ(page, sheet->GetActivePage());
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
@@ -163,13 +152,13 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
         double (InsertParts::*group)[3];
         int axis;
         double value;
-    } kEdits[] = {{kScaleX, "4", &InsertParts::scale, 0, 4},
-                  {kScaleY, "0.5", &InsertParts::scale, 1, 0.5},
-                  {kScaleZ, "-3", &InsertParts::scale, 2, -3},
-                  {kRotateZ, "45", &InsertParts::rotation, 2, 45 * kDegree},
-                  {kPositionX, "-7.5", &InsertParts::position, 0, -7.5},
-                  {kPositionY, "1e6", &InsertParts::position, 1, 1e6},
-                  {kPositionZ, "3", &InsertParts::position, 2, 3}};
+    } kEdits[] = {{IDC_SCALE_X, "4", &InsertParts::scale, 0, 4},
+                  {IDC_SCALE_Y, "0.5", &InsertParts::scale, 1, 0.5},
+                  {IDC_SCALE_Z, "-3", &InsertParts::scale, 2, -3},
+                  {IDC_ROTATION_Z, "45", &InsertParts::rotation, 2, 45 * kDegree},
+                  {IDC_POSITION_X, "-7.5", &InsertParts::position, 0, -7.5},
+                  {IDC_POSITION_Y, "1e6", &InsertParts::position, 1, 1e6},
+                  {IDC_POSITION_Z, "3", &InsertParts::position, 2, 3}};
     AddMixed();
     const Vertices before = All();
     for (const auto& edit : kEdits) {
@@ -217,19 +206,19 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
                       takeBack(user, byUndo);
                       user.SelectPage(0);
                       user.SelectPage(1);
-                      Paste(user, kScaleZ, "7");
-                      Paste(user, kScaleZ, "*****"); // no value, whatever was there
+                      Paste(user, IDC_SCALE_Z, "7");
+                      Paste(user, IDC_SCALE_Z, "*****"); // no value, whatever was there
                       user.Ok();
                   }));
         EXPECT_EQ(before, All());
     }
     // Once written, the new text is the first one.
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  Paste(user, kPositionX, "9");
+                  Paste(user, IDC_POSITION_X, "9");
                   user.SelectPage(0);
                   EXPECT_EQ(9, Parts(0).position[0]);
                   user.SelectPage(1);
-                  Paste(user, kPositionX, "1.23457e+06");
+                  Paste(user, IDC_POSITION_X, "1.23457e+06");
                   user.Ok();
               }));
     EXPECT_EQ(1234570, Parts(1).position[0]);
@@ -262,16 +251,16 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
         int id;
         const char* text;
         size_t atOnce;
-    } kRows[] = {{kScaleX, "1001", 1},     {kScaleY, "-1000.1", 1}, {kScaleZ, "wide", 1},
-                 {kPositionX, "", 0},      {kPositionY, "1e", 0},   {kPositionZ, "1,5,7", 1},
-                 {kPositionZ, "1e39-", 1}, {kRotateX, "north", 1},  {kRotateY, "-", 0}};
+    } kRows[] = {{IDC_SCALE_X, "1001", 1},     {IDC_SCALE_Y, "-1000.1", 1},  {IDC_SCALE_Z, "wide", 1},
+                 {IDC_POSITION_X, "", 0},      {IDC_POSITION_Y, "1e", 0},    {IDC_POSITION_Z, "1,5,7", 1},
+                 {IDC_POSITION_Z, "1e39-", 1}, {IDC_ROTATION_X, "north", 1}, {IDC_ROTATION_Y, "-", 0}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.text);
         EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       MessageBoxWatcher boxes;
                       Paste(user, row.id, row.text);
                       EXPECT_EQ(row.atOnce, boxes.Boxes().size());
-                      user.Focus(row.id == kScaleX ? kScaleY : kScaleX);
+                      user.Focus(row.id == IDC_SCALE_X ? IDC_SCALE_Y : IDC_SCALE_X);
                       boxes.Forget();
                       user.Ok();
                       EXPECT_EQ(1u, boxes.Boxes().size());
@@ -295,8 +284,8 @@ TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
         SCOPED_TRACE(row.text);
         MessageBoxWatcher boxes;
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                      user.Type(kPositionY, "");
-                      user.Type(kPositionY, row.text);
+                      user.Type(IDC_POSITION_Y, "");
+                      user.Type(IDC_POSITION_Y, row.text);
                       user.Ok();
                   }));
         EXPECT_TRUE(boxes.Boxes().empty());
@@ -315,11 +304,11 @@ TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
         };
         EXPECT_NEAR(30 * kDegree, preview().rotation[2], 1e-6) << "as the selection from the start";
         EXPECT_NEAR(2, preview().scale[0], 1e-6);
-        user.Type(kRotateZ, "45");
+        user.Type(IDC_ROTATION_Z, "45");
         EXPECT_NEAR(45 * kDegree, preview().rotation[2], 1e-6);
-        user.Type(kRotateX, "10");
+        user.Type(IDC_ROTATION_X, "10");
         EXPECT_NEAR(10 * kDegree, preview().rotation[0], 1e-6);
-        Paste(user, kScaleZ, "-2");
+        Paste(user, IDC_SCALE_Z, "-2");
         EXPECT_NEAR(-2, preview().scale[2], 1e-6);
         EXPECT_EQ(before, All());
     });
@@ -328,15 +317,15 @@ TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
 TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
     Add({{0, 0, 0}, {2, 2, 0}, {0, 0, 30 * kDegree}});
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        EXPECT_EQ("0", user.Text(kScaleZ));
-        EXPECT_EQ("30", user.Text(kRotateZ));
-        user.Type(kRotateZ, "60");
+        EXPECT_EQ("0", user.Text(IDC_SCALE_Z));
+        EXPECT_EQ("30", user.Text(IDC_ROTATION_Z));
+        user.Type(IDC_ROTATION_Z, "60");
         user.Ok();
     });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
     EXPECT_EQ(0, Parts(0).scale[2]);
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        user.Type(kScaleZ, "3");
+        user.Type(IDC_SCALE_Z, "3");
         user.Ok();
     });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);

@@ -8,11 +8,11 @@
 
 #include <oaidl.h>
 
+#include "orlo/resources/resource.h"
 #include "pages/over_drawing.h"
 
 namespace {
 
-enum : int { kColor = 32005, kSystem = 109, kScale = 104, kWidth = 103 };
 constexpr const char* kProperties[] = {"PenColor", "PenWidth",    "PenScale",
                                        "PenStyle", "ScaleSystem", "PenAlignment"};
 
@@ -36,7 +36,7 @@ Pen PenOf(GraphicStruct* graphic) {
 
 class PenOverDrawing : public OverDrawing {
 protected:
-    PenOverDrawing() : OverDrawing(ORLO_TEST_DRAWING, 29001) {}
+    PenOverDrawing() : OverDrawing(ORLO_TEST_DRAWING, IDD_PEN_PAGE) {}
 
     std::vector<Pen> Pens() const {
         std::vector<Pen> pens;
@@ -64,9 +64,9 @@ TEST_F(PenOverDrawing, ChangesReachEveryPenAndNothingElseAndUndoTakesThemBack) {
         SCOPED_TRACE(step.width);
         ASSERT_TRUE(::DrawingBeginUndo(drawing));
         EXPECT_EQ(IDOK, RunSheet([&](SheetDriver& user) {
-                      user.Choose(kSystem, step.system);
-                      user.Choose(kColor, 3);
-                      user.Type(kWidth, step.width);
+                      user.Choose(IDC_SCALE_SYSTEM, step.system);
+                      user.Choose(IDC_COLOR, 3);
+                      user.Type(IDC_PEN_WIDTH, step.width);
                       user.Ok();
                   }));
         EXPECT_GT(::DrawingEndUndo(drawing), 0);

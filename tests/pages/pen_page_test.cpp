@@ -15,22 +15,13 @@
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 #include "orlo/host/units.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/test_sheet.h"
 
 namespace {
 
-enum : int {
-    kStyle = 32021,
-    kAlign = 110,
-    kColor = 32005,
-    kSystem = 109,
-    kScale = 104,
-    kStyleName = 112,
-    kWidth = 103
-};
-constexpr unsigned int kPen = 29001;
 constexpr double kInch = 25.4;
 constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colours in colour order
 
@@ -70,7 +61,7 @@ protected:
         for (size_t i = 0; i < kit.Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
-            auto* page = sheet.Sheet().FindPage(kPen);
+            auto* page = sheet.Sheet().FindPage(IDD_PEN_PAGE);
             ASSERT_NE(nullptr, page);
             ASSERT_EQ(page, sheet.Sheet().GetActivePage());
             script(user, static_cast<CGraphicPropertyPage&>(*page));
@@ -87,9 +78,9 @@ protected:
 
     std::vector<std::string> Widths(SheetDriver& user) {
         std::vector<std::string> widths;
-        const int count = static_cast<int>(::SendMessageA(user.Control(kWidth), CB_GETCOUNT, 0, 0));
+        const int count = static_cast<int>(::SendMessageA(user.Control(IDC_PEN_WIDTH), CB_GETCOUNT, 0, 0));
         for (int i = 0; i < count; ++i)
-            widths.push_back(user.ItemText(kWidth, i));
+            widths.push_back(user.ItemText(IDC_PEN_WIDTH, i));
         return widths;
     }
 
@@ -103,26 +94,26 @@ protected:
 TEST_F(PenPage, ShowsAnEqualPen) {
     AddEqual();
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        EXPECT_EQ("1 mm", user.Text(kWidth));
-        EXPECT_EQ("2", user.Text(kScale));
-        EXPECT_EQ("DASHED", user.Text(kStyleName));
-        EXPECT_NE(-1, user.Selection(kStyle));
-        EXPECT_EQ(1, user.Selection(kSystem));
-        EXPECT_EQ(BST_CHECKED, user.Check(kAlign));
-        EXPECT_EQ("000000FF\t", user.ItemText(kColor, user.Selection(kColor)).substr(0, 9));
+        EXPECT_EQ("1 mm", user.Text(IDC_PEN_WIDTH));
+        EXPECT_EQ("2", user.Text(IDC_PEN_SCALE));
+        EXPECT_EQ("DASHED", user.Text(IDC_PEN_STYLE_TEXT));
+        EXPECT_NE(-1, user.Selection(IDC_LINE_STYLE_LIST));
+        EXPECT_EQ(1, user.Selection(IDC_SCALE_SYSTEM));
+        EXPECT_EQ(BST_CHECKED, user.Check(IDC_PEN_ALIGNMENT));
+        EXPECT_EQ("000000FF\t", user.ItemText(IDC_COLOR, user.Selection(IDC_COLOR)).substr(0, 9));
     });
 }
 
 TEST_F(PenPage, MixedPensShowTheirMarkersAndSurviveOk) {
     AddMixed();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ("*****", user.Text(kWidth));
-                  EXPECT_EQ("Indeterminate", user.Text(kScale));
-                  EXPECT_EQ("Indeterminate", user.Text(kStyleName));
-                  EXPECT_EQ(-1, user.Selection(kStyle));
-                  EXPECT_EQ(-1, user.Selection(kSystem));
-                  EXPECT_EQ(-1, user.Selection(kColor));
-                  EXPECT_EQ(BST_INDETERMINATE, user.Check(kAlign));
+                  EXPECT_EQ("*****", user.Text(IDC_PEN_WIDTH));
+                  EXPECT_EQ("Indeterminate", user.Text(IDC_PEN_SCALE));
+                  EXPECT_EQ("Indeterminate", user.Text(IDC_PEN_STYLE_TEXT));
+                  EXPECT_EQ(-1, user.Selection(IDC_LINE_STYLE_LIST));
+                  EXPECT_EQ(-1, user.Selection(IDC_SCALE_SYSTEM));
+                  EXPECT_EQ(-1, user.Selection(IDC_COLOR));
+                  EXPECT_EQ(BST_INDETERMINATE, user.Check(IDC_PEN_ALIGNMENT));
                   user.Ok();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -138,18 +129,18 @@ struct Edit {
 // One control changed over a mixed selection: its property reaches both, all others stay each graphic's own.
 TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
     const Edit kEdits[] = {
-        {"color", [](SheetDriver& user) { user.Choose(kColor, 0); }, "PenColor", kDarkest},
-        {"width", [](SheetDriver& user) { user.Type(kWidth, "5 mm"); }, "PenWidth", 5 / kInch},
-        {"scale", [](SheetDriver& user) { user.Type(kScale, "4.5"); }, "PenScale", 4.5},
+        {"color", [](SheetDriver& user) { user.Choose(IDC_COLOR, 0); }, "PenColor", kDarkest},
+        {"width", [](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "5 mm"); }, "PenWidth", 5 / kInch},
+        {"scale", [](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "4.5"); }, "PenScale", 4.5},
         {"style",
          [&](SheetDriver& user) {
-             user.Focus(kStyle);
+             user.Focus(IDC_LINE_STYLE_LIST);
              user.Key(VK_END); // without a selection the first key selects where the caret is
              user.Key(VK_END);
          },
          "PenStyle", 65534},
-        {"system", [](SheetDriver& user) { user.Choose(kSystem, 1); }, "ScaleSystem", 2},
-        {"alignment", [](SheetDriver& user) { user.Click(kAlign); }, "PenAlignment", 0},
+        {"system", [](SheetDriver& user) { user.Choose(IDC_SCALE_SYSTEM, 1); }, "ScaleSystem", 2},
+        {"alignment", [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, "PenAlignment", 0},
     };
     AddMixed();
     for (const Edit& edit : kEdits) {
@@ -172,15 +163,15 @@ TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
 TEST_F(PenPage, TheWidthIsExpressedAnewWhenTheScaleSystemChanges) {
     AddEqual();
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        const std::string paper = user.Text(kWidth);
-        user.Type(kWidth, "7 mm");
-        user.Choose(kSystem, 0);
-        const std::string world = user.Text(kWidth);
+        const std::string paper = user.Text(IDC_PEN_WIDTH);
+        user.Type(IDC_PEN_WIDTH, "7 mm");
+        user.Choose(IDC_SCALE_SYSTEM, 0);
+        const std::string world = user.Text(IDC_PEN_WIDTH);
         double value = 0;
         EXPECT_TRUE(::DrawingStdTextToNumeric(kit.Drawing(), world.c_str(), &value, 0));
         EXPECT_NEAR(1 / kInch, value, 1e-4); // the stored number, the edit dropped
-        user.Choose(kSystem, 1);
-        EXPECT_EQ(paper, user.Text(kWidth));
+        user.Choose(IDC_SCALE_SYSTEM, 1);
+        EXPECT_EQ(paper, user.Text(IDC_PEN_WIDTH));
         user.Ok();
     });
     EXPECT_NEAR(1 / kInch, kit[0].Number("PenWidth"), 1e-9);
@@ -214,24 +205,24 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
             expected.push_back("1 mm");
             std::sort(expected.begin(), expected.end());
             EXPECT_EQ(expected, Widths(user));
-            EXPECT_EQ("1 mm", user.Text(kWidth));
+            EXPECT_EQ("1 mm", user.Text(IDC_PEN_WIDTH));
         });
     }
 }
 
 TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
     AddEqual();
-    for (const auto& [control, text] : {std::pair<int, const char*>{kWidth, "thick"},
-                                        {kWidth, "-1 mm"},
-                                        {kWidth, ""},
-                                        {kScale, "0"},
-                                        {kScale, "1e9"},
-                                        {kScale, "1,5,7"}}) {
+    for (const auto& [control, text] : {std::pair<int, const char*>{IDC_PEN_WIDTH, "thick"},
+                                        {IDC_PEN_WIDTH, "-1 mm"},
+                                        {IDC_PEN_WIDTH, ""},
+                                        {IDC_PEN_SCALE, "0"},
+                                        {IDC_PEN_SCALE, "1e9"},
+                                        {IDC_PEN_SCALE, "1,5,7"}}) {
         SCOPED_TRACE(text);
         EXPECT_EQ(IDCANCEL,
                   Run([&, control = control, text = text](SheetDriver& user, CGraphicPropertyPage&) {
                       MessageBoxWatcher boxes;
-                      user.Choose(kColor, 0);
+                      user.Choose(IDC_COLOR, 0);
                       user.Type(control, text);
                       user.Ok();
                       EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
@@ -243,7 +234,7 @@ TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
 TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
     AddEqual();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Type(kWidth, "0000.0625000000000000 in");
+                  user.Type(IDC_PEN_WIDTH, "0000.0625000000000000 in");
                   user.Ok();
               }));
     EXPECT_NEAR(0.0625, kit[0].Number("PenWidth"), 1e-9);
@@ -255,12 +246,12 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "furlong");
     MessageBoxWatcher boxes;
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ("", user.Text(kWidth));
-                  user.Choose(kSystem, 0);
-                  EXPECT_NE("", user.Text(kWidth));
-                  user.Choose(kSystem, 1);
-                  EXPECT_EQ("", user.Text(kWidth));
-                  user.Type(kScale, "4");
+                  EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
+                  user.Choose(IDC_SCALE_SYSTEM, 0);
+                  EXPECT_NE("", user.Text(IDC_PEN_WIDTH));
+                  user.Choose(IDC_SCALE_SYSTEM, 1);
+                  EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
+                  user.Type(IDC_PEN_SCALE, "4");
                   user.Ok();
               }));
     EXPECT_TRUE(boxes.Boxes().empty());
@@ -272,10 +263,10 @@ TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
     Add(1, 0, 0.0, dashed, 2, 1);
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         MessageBoxWatcher boxes;
-        EXPECT_EQ("1.17549e-38", user.Text(kScale));
+        EXPECT_EQ("1.17549e-38", user.Text(IDC_PEN_SCALE));
         user.Ok();
         EXPECT_EQ(1u, boxes.Boxes().size());
-        user.Type(kScale, "1");
+        user.Type(IDC_PEN_SCALE, "1");
         user.Ok();
     });
     EXPECT_EQ(1, kit[0].Number("PenScale"));
@@ -287,8 +278,8 @@ TEST_F(PenPage, AMixedAlignmentTogglesFromItsFirstClick) {
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         std::vector<int> states;
         for (int i = 0; i < 6; ++i) {
-            user.Click(kAlign);
-            states.push_back(user.Check(kAlign));
+            user.Click(IDC_PEN_ALIGNMENT);
+            states.push_back(user.Check(IDC_PEN_ALIGNMENT));
         }
         for (size_t i = 0; i < states.size(); ++i) {
             EXPECT_NE(BST_INDETERMINATE, states[i]);
@@ -309,7 +300,7 @@ TEST_F(PenPage, NamesEveryKindOfStyle) {
         other.Add({{"PenStyle", static_cast<double>(style)}});
         TestSheet sheet(other);
         ::AddGraphicPropertyPage(nullptr, other[0].graphic, &sheet.Sheet());
-        sheet.Run([&, name = name](SheetDriver& user) { EXPECT_EQ(name, user.Text(kStyleName)); });
+        sheet.Run([&, name = name](SheetDriver& user) { EXPECT_EQ(name, user.Text(IDC_PEN_STYLE_TEXT)); });
     }
 }
 
@@ -321,18 +312,18 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
         double width = 0, scale = 0;
         EXPECT_EQ(1, page.GetPropText("PenColor", &color, 1));
         EXPECT_EQ(0xFFul, color);
-        user.Choose(kColor, 0);
+        user.Choose(IDC_COLOR, 0);
         page.GetPropText("PenColor", &color, 1);
         EXPECT_EQ(kDarkest, color);
-        user.Type(kWidth, "3 mm");
+        user.Type(IDC_PEN_WIDTH, "3 mm");
         page.GetPropText("PenWidth", &width, 1);
         EXPECT_NEAR(3 / kInch, width, 1e-9);
-        user.Type(kWidth, "3 m?");
-        user.Type(kScale, "0.5");
+        user.Type(IDC_PEN_WIDTH, "3 m?");
+        user.Type(IDC_PEN_SCALE, "0.5");
         page.GetPropText("PenScale", &scale, 1);
         EXPECT_NEAR(0.5, scale, 1e-9);
         unsigned int style = 0;
-        user.Focus(kStyle);
+        user.Focus(IDC_LINE_STYLE_LIST);
         user.Key(VK_END);
         page.GetPropText("PenStyle", &style, 1);
         EXPECT_EQ(65534u, style);
@@ -345,12 +336,12 @@ TEST_F(PenPage, OutlivesTheStyleTable) {
     AddEqual();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   ::DrawingDeleteTable(kit.Drawing(), styles);
-                  user.Focus(kStyle);
+                  user.Focus(IDC_LINE_STYLE_LIST);
                   for (const UINT key : {VK_HOME, VK_DOWN, VK_END})
                       user.Key(key);
                   ::InvalidateRect(user.Sheet(), nullptr, TRUE);
                   user.Pump();
-                  user.Type(kScale, "3");
+                  user.Type(IDC_PEN_SCALE, "3");
                   user.Ok();
               }));
     EXPECT_EQ(3, kit[0].Number("PenScale"));

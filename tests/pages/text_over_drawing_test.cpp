@@ -6,11 +6,11 @@
 #include <oaidl.h>
 
 #include "orlo/host/memory.h"
+#include "orlo/resources/resource.h"
 #include "pages/over_drawing.h"
 
 namespace {
 
-enum : int { kFont = 32000, kSize = 32001, kStyle = 32002, kColor = 32023, kUnderline = 106, kRight = 110 };
 constexpr const char* kProperties[] = {"TextFont", "TextSize",   "TextStyle",
                                        "PenColor", "TextFormat", "Layer"};
 
@@ -35,7 +35,7 @@ Values ValuesOf(GraphicStruct* graphic) {
 
 class TextOverDrawing : public OverDrawing {
 protected:
-    TextOverDrawing() : OverDrawing(ORLO_TEST_TEXTS, 29003) {}
+    TextOverDrawing() : OverDrawing(ORLO_TEST_TEXTS, IDD_TEXT_PAGE) {}
 
     std::vector<Values> All() const {
         std::vector<Values> all;
@@ -60,12 +60,12 @@ TEST_F(TextOverDrawing, ChangesReachEveryTextAndUndoTakesThemBack) {
     ASSERT_TRUE(::DrawingBeginUndo(drawing));
     std::string face;
     EXPECT_EQ(IDOK, RunSheet([&](SheetDriver& user) {
-                  user.Choose(kFont, 0);
-                  face = user.ItemText(kFont, 0);
-                  user.Type(kSize, "7.5");
-                  while (user.Check(kUnderline) != BST_CHECKED)
-                      user.Click(kUnderline);
-                  user.Click(kRight);
+                  user.Choose(IDC_FONT_FACE, 0);
+                  face = user.ItemText(IDC_FONT_FACE, 0);
+                  user.Type(IDC_FONT_SIZE, "7.5");
+                  while (user.Check(IDC_UNDERLINE) != BST_CHECKED)
+                      user.Click(IDC_UNDERLINE);
+                  user.Click(IDC_JUSTIFY_RIGHT);
                   user.Ok();
               }));
     EXPECT_GT(::DrawingEndUndo(drawing), 0);

@@ -24,6 +24,7 @@
 #include "orlo/host/text.h"
 #include "orlo/host/units.h"
 #include "orlo/host/viewport.h"
+#include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/pixels.h"
@@ -31,23 +32,8 @@
 
 namespace {
 
-enum : int {
-    kFont = 32000,
-    kSize = 32001,
-    kStyle = 32002,
-    kColor = 32023,
-    kStrikethrough = 103,
-    kHidden = 104,
-    kAllCaps = 105,
-    kUnderline = 106,
-    kTextBox = 107,
-    kLeft = 108,
-    kCenter = 109,
-    kRight = 110,
-};
-constexpr int kEffects[] = {kStrikethrough, kHidden, kAllCaps, kUnderline, kTextBox};
+constexpr int kEffects[] = {IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX};
 constexpr int kEffectBits[] = {0x0004, 0x0008, 0x0040, 0x0100, 0x1000};
-constexpr unsigned int kText = 29003;
 constexpr unsigned int kRed = 0x0000FF, kBlue = 0xFF0000;
 constexpr char kSans[] = "DejaVu Sans", kSerif[] = "DejaVu Serif";
 
@@ -86,7 +72,7 @@ protected:
         for (size_t i = 0; i < kit.Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
-            auto* page = sheet.Sheet().FindPage(kText);
+            auto* page = sheet.Sheet().FindPage(IDD_TEXT_PAGE);
             ASSERT_NE(nullptr, page);
             sheet.Sheet().SetActivePage(page);
             script(user, static_cast<CGraphicPropertyPage&>(*page));
@@ -97,10 +83,10 @@ protected:
         return static_cast<int>(::SendMessageA(user.Control(combo), CB_GETCOUNT, 0, 0));
     }
     static void ChooseFont(SheetDriver& user, const char* face) {
-        const auto index = ::SendMessageA(user.Control(kFont), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                          reinterpret_cast<LPARAM>(face));
+        const auto index = ::SendMessageA(user.Control(IDC_FONT_FACE), CB_FINDSTRINGEXACT,
+                                          static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(face));
         ASSERT_LE(0, index);
-        user.Choose(kFont, static_cast<int>(index));
+        user.Choose(IDC_FONT_FACE, static_cast<int>(index));
     }
 
     GraphicKit kit;
@@ -112,16 +98,17 @@ TEST_F(TextPage, ShowsEqualTexts) {
     for (int i = 0; i < 2; ++i)
         Add(kSerif, 4.25, 0x1146, kBlue, 1);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ(kSerif, user.ItemText(kFont, user.Selection(kFont)));
-                  EXPECT_EQ(0u, user.Text(kSize).find("4.25")) << user.Text(kSize);
-                  EXPECT_LE(0, user.Selection(kSize)) << "a height in no list has joined it";
-                  EXPECT_EQ("Bold", user.ItemText(kStyle, user.Selection(kStyle)));
-                  EXPECT_EQ("00FF0000", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
+                  EXPECT_EQ(kSerif, user.ItemText(IDC_FONT_FACE, user.Selection(IDC_FONT_FACE)));
+                  EXPECT_EQ(0u, user.Text(IDC_FONT_SIZE).find("4.25")) << user.Text(IDC_FONT_SIZE);
+                  EXPECT_LE(0, user.Selection(IDC_FONT_SIZE)) << "a height in no list has joined it";
+                  EXPECT_EQ("Bold", user.ItemText(IDC_FONT_STYLE, user.Selection(IDC_FONT_STYLE)));
+                  EXPECT_EQ("00FF0000",
+                            user.ItemText(IDC_TEXT_COLOR, user.Selection(IDC_TEXT_COLOR)).substr(0, 8));
                   const int states[] = {BST_CHECKED, BST_UNCHECKED, BST_CHECKED, BST_CHECKED, BST_CHECKED};
                   for (int i = 0; i < 5; ++i)
                       EXPECT_EQ(states[i], user.Check(kEffects[i])) << kEffects[i];
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kLeft));
-                  EXPECT_EQ(BST_CHECKED, user.Check(kCenter));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_JUSTIFY_LEFT));
+                  EXPECT_EQ(BST_CHECKED, user.Check(IDC_JUSTIFY_CENTER));
                   user.Ok();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -130,18 +117,18 @@ TEST_F(TextPage, ShowsEqualTexts) {
 TEST_F(TextPage, MixedTextsShowNothingAndSurviveOk) {
     AddMixed();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  for (const int combo : {kFont, kSize, kStyle, kColor})
+                  for (const int combo : {IDC_FONT_FACE, IDC_FONT_SIZE, IDC_FONT_STYLE, IDC_TEXT_COLOR})
                       EXPECT_EQ(-1, user.Selection(combo)) << combo;
-                  EXPECT_EQ("", user.Text(kSize));
-                  const int mixed[] = {kAllCaps, kUnderline, kStrikethrough};
+                  EXPECT_EQ("", user.Text(IDC_FONT_SIZE));
+                  const int mixed[] = {IDC_ALL_CAPS, IDC_UNDERLINE, IDC_STRIKETHROUGH};
                   for (const int box : mixed)
                       EXPECT_EQ(BST_INDETERMINATE, user.Check(box)) << box;
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kHidden));
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kTextBox));
-                  user.Focus(kFont);
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_HIDDEN));
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_TEXT_BOX));
+                  user.Focus(IDC_FONT_FACE);
                   for (int i = 0; i < 14; ++i)
                       user.Key(VK_TAB); // round the sheet; to come by is no choice
-                  for (const int button : {kLeft, kCenter, kRight})
+                  for (const int button : {IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT})
                       EXPECT_EQ(BST_UNCHECKED, user.Check(button)) << button;
                   user.Ok();
               }));
@@ -176,8 +163,8 @@ TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
     KitGraphic& a = Add(kSans, 2, 0x2101, kRed, 0);
     KitGraphic& b = Add(kSans, 2, 0x0046, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ(4, Count(user, kStyle));
-                  user.Choose(kStyle, 3);
+                  EXPECT_EQ(4, Count(user, IDC_FONT_STYLE));
+                  user.Choose(IDC_FONT_STYLE, 3);
                   user.Ok();
               }));
     EXPECT_EQ(0x2103, a.Number("TextStyle"));
@@ -192,9 +179,9 @@ TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
         KitValue expected;
     } const edits[] = {
         {"TextFont", [](SheetDriver& user) { ChooseFont(user, kSerif); }, kSerif},
-        {"TextSize", [](SheetDriver& user) { user.Type(kSize, "7.5"); }, 7.5},
-        {"PenColor", [](SheetDriver& user) { user.Choose(kColor, 0); }, 0x333333},
-        {"TextFormat", [](SheetDriver& user) { user.Click(kCenter); }, 1},
+        {"TextSize", [](SheetDriver& user) { user.Type(IDC_FONT_SIZE, "7.5"); }, 7.5},
+        {"PenColor", [](SheetDriver& user) { user.Choose(IDC_TEXT_COLOR, 0); }, 0x333333},
+        {"TextFormat", [](SheetDriver& user) { user.Click(IDC_JUSTIFY_CENTER); }, 1},
     };
     const std::map<std::string, KitValue> before[] = {kit[0].properties, kit[1].properties};
     for (const auto& edit : edits) {
@@ -217,8 +204,8 @@ TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
 TEST_F(TextPage, AThirdStateOfAnEffectThatIsNotMixedIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Click(kHidden); // from checked into the third state
-                  EXPECT_EQ(BST_UNCHECKED, user.Check(kHidden))
+                  user.Click(IDC_HIDDEN); // from checked into the third state
+                  EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_HIDDEN))
                       << "taken back as soon as the preview follows";
                   user.Ok();
               }));
@@ -228,15 +215,15 @@ TEST_F(TextPage, AThirdStateOfAnEffectThatIsNotMixedIsOff) {
 TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
     KitGraphic& text = Add(kSans, 4.25, 0, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ(4, Count(user, kSize)) << "three configured, and the text's own";
-                  const std::string height = user.Text(kSize);
+                  EXPECT_EQ(4, Count(user, IDC_FONT_SIZE)) << "three configured, and the text's own";
+                  const std::string height = user.Text(IDC_FONT_SIZE);
                   ChooseFont(user, kSerif);
-                  EXPECT_EQ(4, Count(user, kSize));
-                  EXPECT_EQ(height, user.ItemText(kSize, user.Selection(kSize)));
-                  user.Type(kSize, "9.5");
+                  EXPECT_EQ(4, Count(user, IDC_FONT_SIZE));
+                  EXPECT_EQ(height, user.ItemText(IDC_FONT_SIZE, user.Selection(IDC_FONT_SIZE)));
+                  user.Type(IDC_FONT_SIZE, "9.5");
                   ChooseFont(user, kSans);
-                  EXPECT_EQ(4, Count(user, kSize)) << "the typed height instead";
-                  EXPECT_EQ("9.5", user.ItemText(kSize, user.Selection(kSize)));
+                  EXPECT_EQ(4, Count(user, IDC_FONT_SIZE)) << "the typed height instead";
+                  EXPECT_EQ("9.5", user.ItemText(IDC_FONT_SIZE, user.Selection(IDC_FONT_SIZE)));
                   user.Ok();
               }));
     EXPECT_EQ(9.5, text.Number("TextSize"));
@@ -250,7 +237,7 @@ TEST_F(TextPage, AChangeOfFontKeepsAHeightThatOthersBeginWith) {
     for (const double height : {1.0, 2.0, 3.0}) {
         text.properties["TextFont"] = kSans;
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                      user.Type(kSize, std::to_string(static_cast<int>(height)));
+                      user.Type(IDC_FONT_SIZE, std::to_string(static_cast<int>(height)));
                       ChooseFont(user, kSerif);
                       user.Ok();
                   }));
@@ -268,10 +255,10 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
             text->writes.clear();
         }
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-                      const std::string height = user.Text(kSize);
+                      const std::string height = user.Text(IDC_FONT_SIZE);
                       ChooseFont(user, kSerif);
-                      EXPECT_EQ(height, user.Text(kSize));
-                      EXPECT_FALSE(page.GetControlStatus(kSize));
+                      EXPECT_EQ(height, user.Text(IDC_FONT_SIZE));
+                      EXPECT_FALSE(page.GetControlStatus(IDC_FONT_SIZE));
                       user.Ok();
                   }));
         for (const KitGraphic* text : {&a, &b}) {
@@ -285,10 +272,10 @@ TEST_F(TextPage, AHeightOutOfRangeKeepsThePage) {
     Add(kSans, 2, 0, kRed, 0);
     MessageBoxWatcher boxes;
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Type(kSize, "0");
+                  user.Type(IDC_FONT_SIZE, "0");
                   user.Ok();
                   EXPECT_EQ("Please enter a valid font size.", boxes.OnlyText());
-                  EXPECT_EQ("0", user.Text(kSize));
+                  EXPECT_EQ("0", user.Text(IDC_FONT_SIZE));
                   user.Cancel();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -297,8 +284,8 @@ TEST_F(TextPage, AHeightOutOfRangeKeepsThePage) {
 TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
     Add(kSans, 2, 0, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Type(kSize, "tall");
-                  user.Click(kRight);
+                  user.Type(IDC_FONT_SIZE, "tall");
+                  user.Click(IDC_JUSTIFY_RIGHT);
                   user.Ok();
               }));
     EXPECT_EQ(2, kit[0].Number("TextSize"));
@@ -309,8 +296,8 @@ TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
 TEST_F(TextPage, ALongHeightIsStoredAsTyped) {
     KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  user.Type(kSize, "0012'-11 15/16\"");
-                  EXPECT_EQ("0012'-11 15/16\"", user.Text(kSize));
+                  user.Type(IDC_FONT_SIZE, "0012'-11 15/16\"");
+                  EXPECT_EQ("0012'-11 15/16\"", user.Text(IDC_FONT_SIZE));
                   user.Ok();
               }));
     EXPECT_NEAR(155.9375 * 25.4, text.Number("TextSize"), 1e-9);
@@ -321,8 +308,8 @@ TEST_F(TextPage, AHeightThatCannotBeWrittenLeavesItsFieldBlank) {
     KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
     ::DrawingSetCoordSpace(kit.Drawing(), 2);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ("", user.Text(kSize));
-                  user.Click(kRight);
+                  EXPECT_EQ("", user.Text(IDC_FONT_SIZE));
+                  user.Click(IDC_JUSTIFY_RIGHT);
                   user.Ok();
               }));
     EXPECT_EQ(2, text.Number("TextSize"));
@@ -333,11 +320,11 @@ TEST_F(TextPage, CancelWritesNothing) {
     AddMixed();
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   ChooseFont(user, kSerif);
-                  user.Type(kSize, "7.5");
-                  user.Choose(kStyle, 2);
+                  user.Type(IDC_FONT_SIZE, "7.5");
+                  user.Choose(IDC_FONT_STYLE, 2);
                   for (const int box : kEffects)
                       user.Click(box);
-                  user.Click(kCenter);
+                  user.Click(IDC_JUSTIFY_CENTER);
                   user.Cancel();
               }));
     EXPECT_EQ(0, kit.Writes());
@@ -346,9 +333,10 @@ TEST_F(TextPage, CancelWritesNothing) {
 TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
     kit.Add({}, kGraphicText);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_EQ(0u, user.Text(kSize).find("8")) << user.Text(kSize);
-                  EXPECT_EQ("FFFFFFFD", user.ItemText(kColor, user.Selection(kColor)).substr(0, 8));
-                  EXPECT_EQ(BST_CHECKED, user.Check(kLeft));
+                  EXPECT_EQ(0u, user.Text(IDC_FONT_SIZE).find("8")) << user.Text(IDC_FONT_SIZE);
+                  EXPECT_EQ("FFFFFFFD",
+                            user.ItemText(IDC_TEXT_COLOR, user.Selection(IDC_TEXT_COLOR)).substr(0, 8));
+                  EXPECT_EQ(BST_CHECKED, user.Check(IDC_JUSTIFY_LEFT));
                   user.Ok();
               }));
 }
@@ -367,16 +355,16 @@ TEST_F(TextPage, ThePreviewFollowsTheControls) {
         };
         const int plain = ink();
         EXPECT_LT(50, plain);
-        user.Choose(kStyle, 2);
+        user.Choose(IDC_FONT_STYLE, 2);
         EXPECT_LT(plain, ink()) << "bold";
-        user.Choose(kStyle, 0);
+        user.Choose(IDC_FONT_STYLE, 0);
         EXPECT_EQ(plain, ink());
-        user.Click(kUnderline);
+        user.Click(IDC_UNDERLINE);
         const int underlined = ink();
         EXPECT_NE(plain, underlined);
-        user.Click(kHidden);
+        user.Click(IDC_HIDDEN);
         EXPECT_EQ(0, ink());
-        user.Click(kHidden);
+        user.Click(IDC_HIDDEN);
         EXPECT_EQ(underlined, ink()) << "the third state counts as off";
         ChooseFont(user, kSerif);
         EXPECT_NE(underlined, ink());
