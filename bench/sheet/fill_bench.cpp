@@ -12,7 +12,7 @@
 #include "drawcore/drawing.h"
 #include "drawcore/table.h"
 #include "orlo/controls/control_fill.h"
-#include "orlo/controls/control_ids.h"
+#include "orlo/resources/control_ids.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 

@@ -1,7 +1,7 @@
 // Identifiers of the library's resources, for the sources and the resource script. Preprocessor only.
 #pragma once
 
-#include "orlo/controls/control_ids.h"
+#include "orlo/resources/control_ids.h"
 
 // Dialog templates; the number is the identity of a page in its sheet.
 #define IDD_GENERAL_PAGE 29000

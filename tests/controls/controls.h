@@ -1,7 +1,7 @@
 // Controls of the dialogs of these tests, for the sources and the resource script.
 #pragma once
 
-#include "orlo/controls/control_ids.h"
+#include "orlo/resources/control_ids.h"
 
 // Every identifier that a template may give a control, and two that are nobody's.
 #define IDD_FACTORY 100
