@@ -81,35 +81,36 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
     double width = 0.5;
     CString info("a text of usual length");
     results.writeNumber = Compare(
-        kRounds, [&] { page.SetPropText("PenWidth", width, 0); },
+        kRounds, [&] { page.SetPropText(kPropPenWidth, width, 0); },
         [&] {
-            BareLoop(selection, "PenWidth",
+            BareLoop(selection, kPropPenWidth,
                      [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
                          table->PropSet(graphic, number, VT_R8, &width);
                      });
         });
     results.writeText = Compare(
-        kRounds, [&] { page.SetPropText("Info", info, 0); },
+        kRounds, [&] { page.SetPropText(kPropInfo, info, 0); },
         [&] {
-            BareLoop(selection, "Info",
+            BareLoop(selection, kPropInfo,
                      [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
                          table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
                      });
         });
     results.number = Compare(
-        kRounds, [&] { page.GetPropText("PenWidth", &width, 0); }, [&] { BareGet(selection, "PenWidth"); });
+        kRounds, [&] { page.GetPropText(kPropPenWidth, &width, 0); },
+        [&] { BareGet(selection, kPropPenWidth); });
     results.text = Compare(
-        kRounds, [&] { page.GetPropText("Info", &info, 0); }, [&] { BareGetText(selection, "Info"); });
+        kRounds, [&] { page.GetPropText(kPropInfo, &info, 0); }, [&] { BareGetText(selection, kPropInfo); });
 
     uint32_t position;
     ::GraphicFirst(selection, &position, 1, kAllGraphics);
     GraphicStruct* second = ::GraphicNext(selection, &position, 1, kAllGraphics);
     const PropertyTable* table = ::GraphicGetVtbl(second);
-    const char* name = "PenWidth";
+    const char* name = kPropPenWidth;
     int32_t number;
     const double other = 7;
     if (table->PropLookup(second, &name, 1, 0, &number)) table->PropSet(second, number, VT_R8, &other);
-    results.mixed = Seconds([&] { page.GetPropText("PenWidth", &width, 0); });
+    results.mixed = Seconds([&] { page.GetPropText(kPropPenWidth, &width, 0); });
     return results;
 }
 
@@ -117,10 +118,10 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
 Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
     unsigned short bits[2] = {};
     return Compare(
-        kRounds, [&] { page.GetPropBits("TextStyle", bits, 0); },
+        kRounds, [&] { page.GetPropBits(kPropTextStyle, bits, 0); },
         [&] {
             unsigned all = 0;
-            BareLoop(selection, "TextStyle",
+            BareLoop(selection, kPropTextStyle,
                      [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
                          uint16_t value = 0;
                          table->PropGet(graphic, number, VT_UI2, &value);

@@ -20,8 +20,11 @@ Pair OpenOver(int n) {
     GraphicKit kit;
     HostFrame frame(kit.Drawing());
     for (int i = 0; i < n; ++i)
-        kit.Add(
-            {{"PenWidth", 0.1}, {"PenColor", 255}, {"PenScale", 1.0}, {"PenStyle", 1}, {"ScaleSystem", 2}});
+        kit.Add({{kPropPenWidth, 0.1},
+                 {kPropPenColor, 255},
+                 {kPropPenScale, 1.0},
+                 {kPropPenStyle, 1},
+                 {kPropScaleSystem, 2}});
     LoopWatch watch;
     ::PropPageInit();
     const auto ours = [&] {

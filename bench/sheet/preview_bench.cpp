@@ -62,7 +62,11 @@ private:
 void BenchPreview() {
     GraphicKit kit;
     HostFrame frame(kit.Drawing());
-    kit.Add({{"PenWidth", 0.1}, {"PenColor", 255}, {"PenScale", 1.0}, {"PenStyle", 1}, {"ScaleSystem", 2}});
+    kit.Add({{kPropPenWidth, 0.1},
+             {kPropPenColor, 255},
+             {kPropPenScale, 1.0},
+             {kPropPenStyle, 1},
+             {kPropScaleSystem, 2}});
     TestSheet sheet(kit);
     ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
     sheet.Run([&](SheetDriver& user) {

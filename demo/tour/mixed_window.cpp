@@ -47,7 +47,7 @@ std::vector<Item> ItemsOf(const Document& document) {
         if (!box || !HasPenPage(graphic)) continue;
         const PropertySnapshot snapshot(document.Drawing(), {graphic});
         std::string look = std::to_string(graphic->bType);
-        for (const char* property : {"PenColor", "PenWidth", "PenStyle", "Layer"}) {
+        for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle, kPropLayer}) {
             for (const auto& value : snapshot.Values(property))
                 look += "|" + value.first;
         }

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -54,18 +55,19 @@ int IndexOfColor(HWND combo, unsigned long color) {
 }
 
 constexpr PageEdit kEdits[] = {
-    {"General", "Info",
+    {"General", kPropInfo,
      [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
-    {"Pen", "PenColor",
+    {"Pen", kPropPenColor,
      [](UserInput& user, HWND page) {
          const HWND colors = FocusOn(page, IDC_COLOR);
          Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
      }},
-    {"Brush", "BrushStyle",
+    {"Brush", kPropBrushStyle,
      [](UserInput& user, HWND page) {
          MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDotsBrush);
      }},
-    {"Text", "TextStyle", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
+    {"Text", kPropTextStyle,
+     [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
     {"Block Insertion", "vertices",
      [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
 };

@@ -158,7 +158,7 @@ bool Tour::SelectMixedSet() {
     Selection& selection = m_frame.GetDocument()->Selected();
     Say("Select by window: " + std::to_string(selection.Count()) + " graphics.");
     const PropertySnapshot snapshot(m_frame.GetDocument()->Drawing(), selection.Members());
-    for (const char* property : {"PenColor", "PenWidth", "PenStyle"}) {
+    for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle}) {
         std::string line = std::string("  ") + property + ":";
         for (const auto& [value, count] : snapshot.Values(property))
             line += "  " + std::to_string(count) + " x " + value;

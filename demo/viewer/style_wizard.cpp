@@ -121,9 +121,10 @@ protected:
         const StyleBook::Parts& parts = m_draft.parts;
         const std::string text =
             "Style \"" + m_draft.name + "\"\r\n\r\n" +
-            PartText(m_draft, "Pen", parts.pen, examples.pen, {"PenColor", "PenWidth", "PenStyle"}) +
-            PartText(m_draft, "Brush", parts.brush, examples.brush, {"BrushStyle", "BrushColor"}) +
-            PartText(m_draft, "Text", parts.text, examples.text, {"TextFont", "TextSize", "PenColor"});
+            PartText(m_draft, "Pen", parts.pen, examples.pen, {kPropPenColor, kPropPenWidth, kPropPenStyle}) +
+            PartText(m_draft, "Brush", parts.brush, examples.brush, {kPropBrushStyle, kPropBrushColor}) +
+            PartText(m_draft, "Text", parts.text, examples.text,
+                     {kPropTextFont, kPropTextSize, kPropPenColor});
         SetDlgItemText(IDC_STYLE_SUMMARY, text.c_str());
         return TRUE;
     }

@@ -1,8 +1,8 @@
 // CBrushStyleControlL: a list box of brush styles, each shown by a sample that the host fills; the twin of
 // CBrushStyleControlC.
 //
-// Brush styles are identifiers of the table's entries; 0 is no brush, which is the first item and never selected by a
-// filling, 0xFFFF several. There is a single sample graphic and a single viewport, whatever the number of styles.
+// Brush styles are identifiers of the table's entries; kBrushStyleNone is no brush, which is the first item and never selected by a
+// filling, kBrushStyleMixed several. There is a single sample graphic and a single viewport, whatever the number of styles.
 #pragma once
 
 #include "orlo/controls/list_control.h"

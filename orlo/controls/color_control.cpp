@@ -18,18 +18,14 @@
 namespace {
 
 constexpr unsigned int kKind = kControlColors;
-constexpr DWORD kNoValue = 0xFFFFFFFE;
-constexpr DWORD kSeveralValues = 0xFFFFFFFF;
-constexpr DWORD kHiddenEntry = 0xFFFFFFFC;
-constexpr DWORD kLastEntry = 0xFFFFFFFB;
 
 unsigned int HostStringOf(DWORD marker) {
     switch (marker) {
     case kColorByLayer:
         return kStringByLayer;
-    case kHiddenEntry:
+    case kColorByBlock:
         return kStringByBlock;
-    case kLastEntry:
+    case kColorOfPen:
         return kStringLastColor;
     default:
         return 0;
@@ -89,12 +85,12 @@ void NameWithoutItem(DWORD color, char* name) {
 IMPLEMENT_DYNCREATE(CColorControl, CComboControl)
 
 CColorControl::CColorControl(int bExtraEntries) : CComboControl(kKind), m_bExtraEntries(bExtraEntries) {
-    m_nSelected = kNoValue;
+    m_nSelected = kColorNone;
 }
 
 CColorControl::CColorControl(HWND hWnd, int bExtraEntries)
     : CComboControl(kKind, hWnd), m_bExtraEntries(bExtraEntries) {
-    m_nSelected = kNoValue;
+    m_nSelected = kColorNone;
 }
 
 CColorControl::~CColorControl() = default;
@@ -104,7 +100,7 @@ void CColorControl::EnableLastEntry(int bEnable) {
 }
 
 int CColorControl::FindColor(DWORD dwColor) {
-    if (dwColor == kNoValue || dwColor == kSeveralValues) return -1;
+    if (dwColor == kColorNone || dwColor == kColorMixed) return -1;
     char key[kKeySize];
     DWord_to_Hex(dwColor, key);
     return FindString(-1, key);
@@ -135,7 +131,7 @@ void CColorControl::FillControl(WPARAM, LPARAM pFill) {
     if (m_bExtraEntries) {
         const ControlItems items = ControlItems::OfCombo(m_hWnd);
         AppendMarker(items, kColorByLayer);
-        if (m_bLastEntry) AppendMarker(items, kLastEntry);
+        if (m_bLastEntry) AppendMarker(items, kColorOfPen);
     }
     SetCurSel(FindColor(m_nSelected));
 }

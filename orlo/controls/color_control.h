@@ -5,9 +5,10 @@
 // identifiers. A colour that is in no item is shown all the same in the closed field, by its numbers. These
 // values are markers:
 //
-//   0xFFFFFFFE  no value yet       0xFFFFFFFF  several values     both show nothing
-//   0xFFFFFFFD  first extra entry  0xFFFFFFFB  second one         by the host's texts
-//   0xFFFFFFFC  shown if it comes up; no list offers it
+//   kColorNone, kColorMixed  no value yet, several values: both show nothing
+//   kColorByLayer            first extra entry, by the host's text
+//   kColorOfPen              second one, likewise
+//   kColorByBlock            shown if it comes up; no list offers it
 //
 // The current row of the open list is marked by two frames, of which one can be seen on any colour. A disabled field is a grey
 // name in a frame of its colour.
@@ -27,7 +28,7 @@ public:
     // The second extra entry goes behind the first, from the next filling on.
     void EnableLastEntry(int bEnable);
 
-    // Index of the item of that colour; -1 for 0xFFFFFFFE and 0xFFFFFFFF, or if there is none.
+    // Index of the item of that colour; -1 for kColorNone and kColorMixed, or if there is none.
     int FindColor(DWORD dwColor);
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;

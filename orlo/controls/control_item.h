@@ -24,9 +24,17 @@ ORLO_API unsigned long ParseControlItem(char* item);
 // CComboControl, the control no table, or the table no such name.
 ORLO_API unsigned long LookupControlItem(HWND hWnd, const char* name);
 
-// Identifiers that can stand for an entry: 0 is none, 0xFFFF and more are mixed or no 16-bit number.
+// Numbers that stand for no entry where the identifier of one is wanted: none, and several.
+enum : unsigned int { kEntryNone = 0, kEntryMixed = 0xFFFF };
+
+// Identifiers that can stand for an entry: from kEntryMixed on they are mixed or no 16-bit number.
 constexpr bool IsTableIdentifier(unsigned int id) {
-    return id != 0 && id < 0xFFFF;
+    return id != kEntryNone && id < kEntryMixed;
+}
+
+// Identifiers of which there is nothing to find or to show.
+constexpr bool IsNoEntry(unsigned int id) {
+    return id == kEntryNone || id == kEntryMixed;
 }
 
 // An item text in the making.

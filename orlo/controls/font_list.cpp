@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr uint16_t kWorld = 0, kPaper = 1; // coordinate spaces
-
 int CALLBACK EnumFaceProc(const LOGFONTA* font, const TEXTMETRICA*, DWORD fontType, LPARAM items) {
     if (fontType & TRUETYPE_FONTTYPE) reinterpret_cast<DistinctItems*>(items)->Add(font->lfFaceName);
     return 1;
@@ -44,14 +42,14 @@ public:
 
 private:
     void Add(const char* text) const {
-        if (control_.m_nCoordSpace != kWorld) {
+        if (control_.m_nCoordSpace != kSpaceWorld) {
             items_.Add(text);
             return;
         }
         double size = 0.0;
         char converted[kFontSizeTextSize];
-        if (TextToFontSize(control_.m_pDrawing, kPaper, text, &size) &&
-            FontSizeToText(control_.m_pDrawing, kWorld, size, converted, sizeof converted))
+        if (TextToFontSize(control_.m_pDrawing, kSpacePaper, text, &size) &&
+            FontSizeToText(control_.m_pDrawing, kSpaceWorld, size, converted, sizeof converted))
             items_.Add(converted);
     }
 

@@ -16,7 +16,6 @@
 namespace {
 
 constexpr unsigned int kKind = kControlLayers;
-constexpr COLORREF kNoColor = 0xFFFFFFFE;
 
 constexpr int kLeastPicture = 16;
 
@@ -35,7 +34,8 @@ void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
 // The layer's own colour where it can be told from the background.
 COLORREF NameColor(HDC dc, COLORREF color) {
     const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-    const bool invisible = color == kNoColor || ::GetNearestColor(dc, color) == ::GetNearestColor(dc, window);
+    const bool invisible =
+        color == kColorNone || ::GetNearestColor(dc, color) == ::GetNearestColor(dc, window);
     return invisible ? InkOnWindow() : color;
 }
 

@@ -1,8 +1,8 @@
 // CLineStyleControlC: a combo box of line styles, each shown by a sample that the host draws. Its twin is
 // CLineStyleControlL; both show the same table, the list with a margin around the sample.
 //
-// Line styles are identifiers of the table's entries; 0 and 0xFFFF show nothing, 0xFFFE is the default item
-// behind them.
+// Line styles are identifiers of the table's entries; kLineStyleNone and kLineStyleMixed show nothing,
+// kLineStyleByLayer is the default item after them.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

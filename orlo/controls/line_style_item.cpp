@@ -26,8 +26,8 @@ double SampleUnits(int controlWidth, int factor, int reference) {
     return std::max(controlWidth * factor / reference, 1);
 }
 
-SampleGraphic InPaperScale(SampleGraphic graphic) {
-    if (graphic) GraphicSetScaleSystem(graphic.get(), 0);
+SampleGraphic InWorldScale(SampleGraphic graphic) {
+    if (graphic) GraphicSetScaleSystem(graphic.get(), kScaleWorld);
     return graphic;
 }
 
@@ -52,7 +52,7 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const StyleItem& item, cons
 }
 
 void LoadSpecialName(unsigned int style, char* name, int size) {
-    DrawCoreLoadString(style == kLineStyleDefault ? kStringByLayer : kStringByBlock, name, size);
+    DrawCoreLoadString(style == kLineStyleByLayer ? kStringByLayer : kStringByBlock, name, size);
 }
 
 } // namespace
@@ -64,7 +64,7 @@ bool IsListedStyle(const char* name) {
 SampleGraphic MakeComboLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 16, 320);
     const orlo::host::OwnedVertex vertex(VertexNewFromEx(nullptr));
-    return InPaperScale(
+    return InWorldScale(
         MakeSampleGraphic(vertex, {{0.01 * w, 0.5, Stroke::Starts}, {0.99 * w, 0.5, Stroke::Continues}}));
 }
 
@@ -72,7 +72,7 @@ SampleGraphic MakeComboLineSample(int controlWidth) {
 SampleGraphic MakeListLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 6, 136);
     const orlo::host::OwnedVertex vertex(VertexNewEx(0.0, 0.0, 0.0));
-    return InPaperScale(MakeSampleGraphic(vertex, {{0.0, 0.0, Stroke::Kept},
+    return InWorldScale(MakeSampleGraphic(vertex, {{0.0, 0.0, Stroke::Kept},
                                                    {0.01 * w, 0.5, Stroke::Starts},
                                                    {0.99 * w, 0.5, Stroke::Continues},
                                                    {w, 1.0, Stroke::Starts}}));
@@ -86,10 +86,10 @@ double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidt
 
 bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item) {
     ClearItem(request);
-    if (item.style == 0 || item.style >= kLineStyleMixed) return true;
+    if (item.style == kLineStyleNone || item.style >= kLineStyleMixed) return true;
 
     const RECT cell = Inflated(request.rcItem, -2);
-    const bool special = item.style == kLineStyleDefault || item.style == kLineStyleHidden;
+    const bool special = item.style == kLineStyleByLayer || item.style == kLineStyleByBlock;
     if (!special && !item.table) return false;
     if (!special && item.graphic && item.viewport) {
         DrawStyledSample(request, item, cell);

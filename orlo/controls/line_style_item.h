@@ -6,9 +6,6 @@
 #include "orlo/host/strings.h"
 #include "orlo/samples/style_sample.h"
 
-constexpr unsigned int kLineStyleDefault = 0xFFFE; // the default item, by the host's text
-constexpr unsigned int kLineStyleHidden = 0xFFFD;  // by the host's text; no list offers it
-
 // Styles that are for construction only are never offered.
 bool IsListedStyle(const char* name);
 
@@ -16,14 +13,14 @@ bool IsListedStyle(const char* name);
 SampleGraphic MakeComboLineSample(int controlWidth);
 SampleGraphic MakeListLineSample(int controlWidth);
 
-// Calls add(text) for each style that is offered, in table order, and then for the default item if that is
-// wanted.
+// Calls add(text) for each style that is offered, in table order, and then for the default item, which is "by layer", if
+// that is wanted. No list offers "by block".
 template <class Add>
 void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     ForEachTableItem(table, [&](ItemText& text) {
         if (IsListedStyle(text.name())) add(text.c_str());
     });
-    if (withDefault) add(HostTextItem(kLineStyleDefault, kStringByLayer).c_str());
+    if (withDefault) add(HostTextItem(kLineStyleByLayer, kStringByLayer).c_str());
 }
 
 // Where a name stands: the combo frames the whole item, the list the cell inside.

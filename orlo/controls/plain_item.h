@@ -6,9 +6,9 @@
 struct PlainItem {
     unsigned int
         number;     // place in the list from 1, or m_nSelected in a request without an item; 0 if unreadable
-    char text[128]; // a longer one is cut; empty for the numbers 0 and 0xFFFF
+    char text[128]; // a longer one is cut; empty if IsNothing
 
-    bool IsNothing() const { return number == 0 || number == 0xFFFF; }
+    bool IsNothing() const { return IsNoEntry(number); }
 };
 
 PlainItem RequestedItem(const CComboControl& control, const DRAWITEMSTRUCT& request);

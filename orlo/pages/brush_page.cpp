@@ -96,26 +96,26 @@ BOOL CBrushPage::OnInitDialog() {
 }
 
 void CBrushPage::DoDataExchange(CDataExchange* pDX) {
-    DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, "BrushColor");
+    DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, kPropBrushColor);
     DDX_CBTableColor(1, pDX, IDC_BRUSH_COLOR, m_dwColor);
 
     // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
-    DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, "BrushAngle");
+    DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
         TellPassedOver(*this, pDX, IDC_BRUSH_ANGLE);
     if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
-    DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, "BrushScale");
+    DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
     DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
     if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
-    DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, "BrushStyle");
+    DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, kPropBrushStyle);
     DDX_ConvertStyle(1, pDX, m_nStyle);
 
-    DDP_Check(pDX, IDC_HATCH_CROSS, m_nHatchCross, "HatchCross");
+    DDP_Check(pDX, IDC_HATCH_CROSS, m_nHatchCross, kPropHatchCross);
     DDX_Check(1, pDX, IDC_HATCH_CROSS, m_nHatchCross);
 
-    DDP_Radio(pDX, IDC_DRAW_WINDING, m_nDrawMode, "BrushDrawMode");
+    DDP_Radio(pDX, IDC_DRAW_WINDING, m_nDrawMode, kPropBrushDrawMode);
     DDX_RadioMap(1, pDX, IDC_DRAW_WINDING, m_nDrawMode, drawModes, kDrawModeCount);
     m_drawModes.Exchange(pDX, IDC_DRAW_WINDING);
 
@@ -165,7 +165,7 @@ int CBrushPage::DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& 
 unsigned long CBrushPage::PenColorOfSelection() {
     CDataExchange load(this, FALSE);
     unsigned long color = kIndeterminateId;
-    DDP_Text(&load, 0, color, "PenColor");
+    DDP_Text(&load, 0, color, kPropPenColor);
     return color == kIndeterminateId ? 0 : color;
 }
 
@@ -199,21 +199,21 @@ void CBrushPage::SetPreviewProperties(int bAll) {
 
     if (wanted(IDC_BRUSH_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_BRUSH_COLOR, color)) SetPropText("BrushColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_BRUSH_COLOR, color)) SetPropText(kPropBrushColor, color, 1);
     }
     if (wanted(IDC_BRUSH_ANGLE)) {
         double angle = 0.0;
         if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsMixed(angle) &&
             DDV_Radians(1, &dx, angle))
-            SetPropText("BrushAngle", angle, 1);
+            SetPropText(kPropBrushAngle, angle, 1);
     }
     if (wanted(IDC_BRUSH_STYLE_LIST)) SetPreviewStyle(&dx);
     if (wanted(IDC_HATCH_CROSS))
-        SetPropCheck("HatchCross", CheckForPreview(&dx, IDC_HATCH_CROSS, bAll, m_nLastCross), 1);
+        SetPropCheck(kPropHatchCross, CheckForPreview(&dx, IDC_HATCH_CROSS, bAll, m_nLastCross), 1);
     if (wanted(IDC_DRAW_WINDING)) {
         int mode = 0;
         if (DDX_RadioMap(0, &dx, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
-            SetPropText("BrushDrawMode", mode, 1);
+            SetPropText(kPropBrushDrawMode, mode, 1);
     }
 
     // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
@@ -231,9 +231,9 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
             style != kBrushStyleNone && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
         if (hatched) {
             double scale = HatchScale(m_pBrushStyles, style, WidthOf(m_pPreviewGraphic), kLinesAcrossPreview);
-            SetPropText("BrushScale", scale, 1);
+            SetPropText(kPropBrushScale, scale, 1);
         }
-        SetPropText("BrushStyle", style, 1);
+        SetPropText(kPropBrushStyle, style, 1);
     }
     const bool chosen = ::SendDlgItemMessageA(m_hWnd, IDC_BRUSH_STYLE_LIST, LB_GETCURSEL, 0, 0) != LB_ERR;
     if (style == kBrushStyleNone || !chosen) {

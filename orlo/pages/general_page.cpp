@@ -93,13 +93,13 @@ BOOL CGeneralPage::OnInitDialog() {
 }
 
 void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
-    DDP_Text(pDX, IDC_LAYER, m_nLayer, "Layer");
+    DDP_Text(pDX, IDC_LAYER, m_nLayer, kPropLayer);
     DDX_CBTableIndex(1, pDX, IDC_LAYER, m_nLayer);
 
     ExchangeInfo(pDX);
 
     if (HasStylePart()) {
-        DDP_Text(pDX, IDC_STYLE_NAME, m_nStyleTree, "StyleTree");
+        DDP_Text(pDX, IDC_STYLE_NAME, m_nStyleTree, kPropStyleTree);
         DDX_CBTableLookupIndex(1, pDX, IDC_STYLE_NAME, m_nStyleTree);
         if (!pDX->m_bSaveAndValidate) OnStyleEditChange();
     }
@@ -109,7 +109,7 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
 
 // Mixed texts show as a text of their own, which counts as untouched however it came there.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
-    DDP_Text(pDX, IDC_INFO, m_strInfo, "Info");
+    DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
     if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
         CString shown(kMixedInfo);
         DDX_Text(1, pDX, IDC_INFO, shown);

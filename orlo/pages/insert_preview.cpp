@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr char kBlockName[] = "$PREVIEW_BLOCK";
 constexpr uint32_t kAxesColor = 0xFF00FF;
 
 // The base, and the edges to the apex.
@@ -58,7 +57,7 @@ uint16_t AddBlock(TableStruct* blocks) {
         ::GraphicAdd(pyramid, axes);
         ::GraphicSetPenColor(axes, kAxesColor);
     }
-    const uint16_t id = ::BlocksAddBlock(blocks, kBlockName, pyramid);
+    const uint16_t id = ::BlocksAddBlock(blocks, kPreviewBlock, pyramid);
     if (id == 0) ::GraphicDispose(&pyramid);
     return id;
 }
@@ -69,7 +68,7 @@ GraphicStruct* NewInsertPreview(DrawingStruct* drawing) {
     const orlo::host::OwnedVertex origin(::VertexNewEx(0, 0, 0));
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
     if (origin.get() == nullptr || blocks == nullptr) return nullptr;
-    uint16_t id = ::BlocksFindBlock(blocks, kBlockName);
+    uint16_t id = ::BlocksFindBlock(blocks, kPreviewBlock);
     if (id == 0) id = AddBlock(blocks);
     GraphicStruct* insertion = id != 0 ? ::GraphicNewEx(kGraphicInsert, 0, 1) : nullptr;
     if (insertion == nullptr) return nullptr;
@@ -82,5 +81,5 @@ GraphicStruct* NewInsertPreview(DrawingStruct* drawing) {
 
 void RemoveInsertPreview(DrawingStruct* drawing) {
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
-    if (const uint16_t id = ::BlocksFindBlock(blocks, kBlockName)) ::BlockDispose(blocks, id);
+    if (const uint16_t id = ::BlocksFindBlock(blocks, kPreviewBlock)) ::BlockDispose(blocks, id);
 }

@@ -82,26 +82,26 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     // The property is wider than the member. Saving, the member already holds what the combo shows.
     unsigned short scaleSystem =
         m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
-    DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, "ScaleSystem");
+    DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, kPropScaleSystem);
     m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
     DDX_CBScaleSystem(1, pDX, IDC_SCALE_SYSTEM, m_nScaleSystem);
 
-    DDP_Text(pDX, IDC_COLOR, m_dwColor, "PenColor");
+    DDP_Text(pDX, IDC_COLOR, m_dwColor, kPropPenColor);
     DDX_CBTableColor(1, pDX, IDC_COLOR, m_dwColor);
 
     FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
-    DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, "PenWidth");
+    DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(pDX);
     if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
-    DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, "PenScale");
+    DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
     if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
-    DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, "PenStyle");
+    DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
 
-    DDP_Check(pDX, IDC_PEN_ALIGNMENT, m_nAlignment, "PenAlignment");
+    DDP_Check(pDX, IDC_PEN_ALIGNMENT, m_nAlignment, kPropPenAlignment);
     DDX_Check(1, pDX, IDC_PEN_ALIGNMENT, m_nAlignment);
 
     DDP_PostProcessing(pDX);
@@ -152,7 +152,7 @@ void CLinePage::OnScaleSystemChange() {
     CDataExchange load(this, FALSE);
     DrawingStruct* drawing = CurrentDrawing();
     FillPenWidths(&load, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
-    DDP_Text(&load, IDC_PEN_WIDTH, m_dWidth, "PenWidth");
+    DDP_Text(&load, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(&load);
 }
 
@@ -171,31 +171,31 @@ void CLinePage::SetPreviewProperties(int bAll) {
 
     if (wanted(IDC_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_COLOR, color)) SetPropText("PenColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_COLOR, color)) SetPropText(kPropPenColor, color, 1);
     }
     if (wanted(IDC_PEN_WIDTH)) {
         double width = 0.0;
         if (DDX_CBPenWidth(0, &dx, IDC_PEN_WIDTH, width, m_nScaleSystem, CurrentDrawing()) &&
             !IsMixed(width) && DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
-            SetPropText("PenWidth", width, 1);
+            SetPropText(kPropPenWidth, width, 1);
     }
     if (wanted(IDC_PEN_SCALE)) {
         double scale = 0.0;
         if (DDX_Text(0, &dx, IDC_PEN_SCALE, scale) && !IsMixed(scale) &&
             DDV_MinMaxDouble(0, &dx, scale, kLeastScale, kMostScale))
-            SetPropText("PenScale", scale, 1);
+            SetPropText(kPropPenScale, scale, 1);
     }
     if (wanted(IDC_LINE_STYLE_LIST)) {
         unsigned int style = m_nStyle;
-        if (DDX_ConvertLStyle(0, &dx, style)) SetPropText("PenStyle", style, 1);
+        if (DDX_ConvertLStyle(0, &dx, style)) SetPropText(kPropPenStyle, style, 1);
     }
     if (wanted(IDC_SCALE_SYSTEM)) {
         unsigned char system = kScalePaper;
         DDX_CBScaleSystem(0, &dx, IDC_SCALE_SYSTEM, system);
-        if (system != kScaleMixed) SetPropText("ScaleSystem", system, 1);
+        if (system != kScaleMixed) SetPropText(kPropScaleSystem, system, 1);
     }
     if (wanted(IDC_PEN_ALIGNMENT))
-        SetPropCheck("PenAlignment", CheckForPreview(&dx, IDC_PEN_ALIGNMENT, bAll, m_nLastAlignment), 1);
+        SetPropCheck(kPropPenAlignment, CheckForPreview(&dx, IDC_PEN_ALIGNMENT, bAll, m_nLastAlignment), 1);
 
     // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);

@@ -65,30 +65,30 @@ BOOL CTextPage::OnInitDialog() {
 }
 
 void CTextPage::DoDataExchange(CDataExchange* pDX) {
-    DDP_Text(pDX, IDC_FONT_FACE, m_strFont, "TextFont");
+    DDP_Text(pDX, IDC_FONT_FACE, m_strFont, kPropTextFont);
     DDX_CBString(1, pDX, IDC_FONT_FACE, m_strFont);
 
-    DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, "TextSize");
+    DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, kPropTextSize);
     DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize);
     if (!IsMixed(m_dSize))
         DDV_FontSize(1, pDX, m_dSize);
     else
         TellPassedOver(*this, pDX, IDC_FONT_SIZE);
 
-    DDP_Bits(pDX, IDC_FONT_STYLE, m_wStyle, "TextStyle");
+    DDP_Bits(pDX, IDC_FONT_STYLE, m_wStyle, kPropTextStyle);
     DDX_CBFontStyle(1, pDX, IDC_FONT_STYLE, m_wStyle);
 
-    DDP_Text(pDX, IDC_TEXT_COLOR, m_dwColor, "PenColor");
+    DDP_Text(pDX, IDC_TEXT_COLOR, m_dwColor, kPropPenColor);
     DDX_CBTableColor(1, pDX, IDC_TEXT_COLOR, m_dwColor);
 
     // The first exchange comes before there is a status of controls to bind.
     if (!m_bFirstExchange) {
         for (const int box : kEffectBoxes)
-            DDP_TextSetAt(pDX, box, m_wStyle, "TextStyle");
+            DDP_TextSetAt(pDX, box, m_wStyle, kPropTextStyle);
     }
     DDX_ChkBoxEffects(1, pDX, m_wStyle);
 
-    DDP_Text(pDX, IDC_JUSTIFY_LEFT, m_wFormat, "TextFormat");
+    DDP_Text(pDX, IDC_JUSTIFY_LEFT, m_wFormat, kPropTextFormat);
     DDX_Radio(1, pDX, IDC_JUSTIFY_LEFT, m_wFormat);
     m_formats.Exchange(pDX, IDC_JUSTIFY_LEFT);
 
@@ -136,18 +136,18 @@ void CTextPage::SetPreviewProperties(int bAll) {
     CDataExchange dx(this, TRUE);
 
     if (bAll || GetControlStatus(IDC_FONT_FACE)) {
-        if (DDX_CBString(0, &dx, IDC_FONT_FACE, m_strFont)) SetPropText("TextFont", m_strFont, 1);
+        if (DDX_CBString(0, &dx, IDC_FONT_FACE, m_strFont)) SetPropText(kPropTextFont, m_strFont, 1);
     }
     if (bAll || GetControlStatus(IDC_TEXT_COLOR)) {
         unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_TEXT_COLOR, color)) SetPropText("PenColor", color, 1);
+        if (DDX_CBTableColor(0, &dx, IDC_TEXT_COLOR, color)) SetPropText(kPropPenColor, color, 1);
     }
     if (IsStyleWanted(bAll)) {
         if (DDX_CBFontStyle(0, &dx, IDC_FONT_STYLE, m_wStyle) && DDX_ChkBoxEffects(0, &dx, m_wStyle))
-            SetPropBits("TextStyle", m_wStyle, 1);
+            SetPropBits(kPropTextStyle, m_wStyle, 1);
     }
     if (bAll || GetControlStatus(IDC_JUSTIFY_LEFT)) {
-        if (DDX_Radio(0, &dx, IDC_JUSTIFY_LEFT, m_wFormat)) SetPropText("TextFormat", m_wFormat, 1);
+        if (DDX_Radio(0, &dx, IDC_JUSTIFY_LEFT, m_wFormat)) SetPropText(kPropTextFormat, m_wFormat, 1);
     }
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

@@ -4,12 +4,6 @@
 
 #include "orlo/host/owners.h"
 
-namespace {
-
-constexpr uint16_t kDrawn = 1; // the segment to the vertex is drawn
-
-} // namespace
-
 GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
     const orlo::host::OwnedVertex scratch(::VertexNewEx(0, 0, 0));
     if (scratch.get() == nullptr) return nullptr;
@@ -17,8 +11,8 @@ GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
     if (graphic == nullptr) return nullptr;
     for (const PreviewVertex& vertex : vertices) {
         ::VertexSet(scratch.get(), vertex.x, vertex.y, vertex.z);
-        scratch.get()->wFlags = static_cast<uint16_t>(vertex.drawn ? scratch.get()->wFlags | kDrawn
-                                                                   : scratch.get()->wFlags & ~kDrawn);
+        scratch.get()->wFlags = static_cast<uint16_t>(vertex.drawn ? scratch.get()->wFlags | kVertexDrawn
+                                                                   : scratch.get()->wFlags & ~kVertexDrawn);
         ::GraphicVertexAdd(graphic, scratch.get());
     }
     return graphic;

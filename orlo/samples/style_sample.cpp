@@ -4,12 +4,6 @@
 
 #include "orlo/win/gdi.h"
 
-namespace {
-
-constexpr uint16_t kContinues = 1; // bit of VertexStruct::wFlags
-
-} // namespace
-
 void DisposeSampleGraphic::operator()(GraphicStruct* graphic) const {
     GraphicAttach(graphic, nullptr);
     GraphicDispose(&graphic);
@@ -22,8 +16,8 @@ SampleGraphic MakeSampleGraphic(const orlo::host::OwnedVertex& vertex,
     if (!graphic) return nullptr;
     for (const SampleVertex& at : vertices) {
         VertexSet(vertex.get(), at.x, at.y, 0.0);
-        if (at.stroke == Stroke::Starts) vertex->wFlags &= static_cast<uint16_t>(~kContinues);
-        if (at.stroke == Stroke::Continues) vertex->wFlags |= kContinues;
+        if (at.stroke == Stroke::Starts) vertex->wFlags &= static_cast<uint16_t>(~kVertexDrawn);
+        if (at.stroke == Stroke::Continues) vertex->wFlags |= kVertexDrawn;
         GraphicVertexAdd(graphic.get(), vertex.get());
     }
     GraphicSetPenColor(graphic.get(), 0);

@@ -11,7 +11,7 @@
 namespace {
 
 // Plays the test with a page of an open sheet over the kit.
-void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned long filter = 0xFFFFFFFF) {
+void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned long filter = kAllGraphics) {
     TestSheet sheet(kit, filter);
     ExchangePage& page = sheet.Add([](CDataExchange*) {});
     page.hasPreview = true;
@@ -50,11 +50,11 @@ TEST(Merge, ComparesWithTheFirstAndStopsAtTheFirstDifference) {
 
 TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
     GraphicKit kit;
-    kit.Add({{"Info", ""}, {"Name", "a"}});
-    kit.Add({{"Info", ""}, {"Name", "A"}});
+    kit.Add({{kPropInfo, ""}, {"Name", "a"}});
+    kit.Add({{kPropInfo, ""}, {"Name", "A"}});
     WithPage(kit, [&](ExchangePage& page) {
         CString text("before");
-        EXPECT_EQ(1, page.GetPropText("Info", &text, 0));
+        EXPECT_EQ(1, page.GetPropText(kPropInfo, &text, 0));
         EXPECT_TRUE(text.IsEmpty());
         EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
         EXPECT_STREQ("\xFF", text);
@@ -129,10 +129,12 @@ TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
 // The walk clears the mark on what it reaches, and on nothing else; over the preview group it sets it.
 TEST(Walk, MarksWhatItReaches) {
     GraphicKit kit;
-    for (int i = 0; i < 3; ++i) kit.Add({{"Kind", i < 2 ? 1 : 2}, {"Last", 1}}).graphic->dwFlags |= kFlagPreview;
+    for (int i = 0; i < 3; ++i)
+        kit.Add({{"Kind", i < 2 ? 1 : 2}, {"Last", 1}}).graphic->dwFlags |= kFlagPreview;
     kit[1].properties["Kind"].number = 2; // differs from the first: the third is not reached
     WithPage(kit, [&](ExchangePage& page) {
-        for (size_t i = 0; i < kit.Size(); ++i) kit[i].graphic->dwFlags |= kFlagPreview;
+        for (size_t i = 0; i < kit.Size(); ++i)
+            kit[i].graphic->dwFlags |= kFlagPreview;
         int kind = 0;
         page.GetPropText("Kind", &kind, 0);
         EXPECT_FALSE(kit[0].graphic->dwFlags & kFlagPreview);
@@ -152,7 +154,8 @@ TEST(Walk, MarksWhatItReaches) {
 TEST(Walk, ANullSelectionHasNoObjectsAndWritesNothing) {
     GraphicKit kit;
     ::PropPageInit();
-    std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(nullptr, nullptr, kit.Drawing(), nullptr, 0));
+    std::unique_ptr<CGraphicPropertySheet> sheet(
+        ::InitGraphicPropertySheet(nullptr, nullptr, kit.Drawing(), nullptr, 0));
     auto* page = new ExchangePage([](CDataExchange*) {});
     sheet->AddPage(page);
     EXPECT_EQ(IDOK, SheetDriver().Run(*sheet, [&](SheetDriver& user) {

@@ -26,7 +26,7 @@ struct List : ListOf<CBrushStyleControlL> {
 template <class Kind>
 class BrushStyles : public StyleTwins<Kind> {
 protected:
-    BrushStyles() : StyleTwins<Kind>("_BrushStyles_") {}
+    BrushStyles() : StyleTwins<Kind>(kTableBrushStyles) {}
     uint16_t Add(const char* name, const std::vector<double>& spacings) {
         std::vector<BrushLine> lines;
         for (const double spacing : spacings)
@@ -77,7 +77,7 @@ TYPED_TEST(BrushStyles, AHatchIsScaledToTheSample) {
         this->Draw(this->IndexOf(row.name));
         const double width = this->m_control.Width();
         const double expected = row.combined != 0 ? width / (row.combined * TypeParam::kLines) : 1.0;
-        EXPECT_NEAR(expected, this->m_control.Number("BrushScale"), 1e-9) << row.name;
+        EXPECT_NEAR(expected, this->m_control.Number(kPropBrushScale), 1e-9) << row.name;
     }
 }
 
@@ -129,7 +129,11 @@ TYPED_TEST(BrushStyles, ValuesOfTheClosedField) {
     const struct {
         unsigned value;
         bool ink;
-    } rows[] = {{0, true}, {0xFFFF, false}, {0xFFFE, false}, {0xFFFFFFFF, false}, {style, true}};
+    } rows[] = {{kBrushStyleNone, true},
+                {kBrushStyleMixed, false},
+                {0xFFFE, false},
+                {0xFFFFFFFF, false},
+                {style, true}};
     for (const auto& row : rows) {
         this->Fill(row.value);
         this->Draw(-1, ODA_DRAWENTIRE, 0, field);
@@ -184,7 +188,7 @@ TEST(BrushStyleList, RowsAreThreeTenthsOfTheWidth) {
 class ManyBrushStyles : public ControlDialog {};
 
 TEST_F(ManyBrushStyles, AreMeasuredOnceAndDrawnWhereVisible) {
-    TableStruct* const table = m_drawing.Table("_BrushStyles_");
+    TableStruct* const table = m_drawing.Table(kTableBrushStyles);
     const BrushLine line = {0.5, 0, 0, 0, 1, 0, {}};
     for (int i = 0; i < 2000; ++i)
         BrushStyleAddLines(table, ("style " + std::to_string(i)).c_str(), &line, 1);

@@ -25,7 +25,7 @@ protected:
         m_colors.push_back(std::make_unique<DWORD>(color));
         ASSERT_NE(0, TableEntryAdd(m_table, name.c_str(), m_colors.back().get()));
     }
-    void FillColors(DWORD selected = 0xFFFFFFFE) { Fill(IDC_COLOR, m_table, selected); }
+    void FillColors(DWORD selected = kColorNone) { Fill(IDC_COLOR, m_table, selected); }
     std::vector<std::string> Items() {
         std::vector<std::string> items;
         for (int i = 0; i < m_control.GetCount(); ++i) {
@@ -94,23 +94,23 @@ TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
     for (const auto& row : rows) {
         m_control.m_bExtraEntries = row.extra;
         m_control.EnableLastEntry(row.last);
-        FillColors(0xFFFFFFFD);
+        FillColors(kColorByLayer);
         ASSERT_EQ(row.count, m_control.GetCount());
         EXPECT_EQ(row.extra ? 1 : -1, m_control.GetCurSel());
         if (row.count == 1) continue;
         char name[kItemTextSize], host[128] = "";
         DrawCoreLoadString(kStringByLayer, host, sizeof host);
-        EXPECT_EQ(0xFFFFFFFD, m_control.GetControlItem(1, name));
+        EXPECT_EQ(kColorByLayer, m_control.GetControlItem(1, name));
         EXPECT_STREQ(host, name);
-        EXPECT_EQ(row.last ? 0xFFFFFFFB : 0u, Color(2));
+        EXPECT_EQ(row.last ? kColorOfPen : 0u, Color(2));
     }
 }
 
 TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     Add("Red", RGB(255, 0, 0));
     m_control.AddString("FFFFFFFF\tnever found");
-    EXPECT_EQ(-1, m_control.FindColor(0xFFFFFFFF));
-    FillColors(0xFFFFFFFF);
+    EXPECT_EQ(-1, m_control.FindColor(kColorMixed));
+    FillColors(kColorMixed);
     EXPECT_EQ(-1, m_control.GetCurSel());
     FillColors(RGB(1, 2, 3));
     EXPECT_EQ(-1, m_control.GetCurSel());
@@ -234,7 +234,7 @@ TEST_F(Swatch, WhiteHasABlackFrame) {
 }
 
 TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
-    DrawOnly(0xFFFFFFFD, "");
+    DrawOnly(kColorByLayer, "");
     char host[128] = "";
     ASSERT_LT(0, DrawCoreLoadString(kStringByLayer, host, sizeof host));
     EXPECT_EQ(kBlack, m_pixels.At(50, 21)) << "frame inside the row";
@@ -253,7 +253,7 @@ TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
 }
 
 TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
-    for (const DWORD none : {0xFFFFFFFEul, 0xFFFFFFFFul}) {
+    for (const DWORD none : {kColorNone, kColorMixed}) {
         FillColors(none);
         Draw(static_cast<UINT>(-1), kField);
         EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite));
@@ -264,10 +264,10 @@ TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
 TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     const COLORREF yellow = RGB(255, 255, 0);
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
-    FillColors(0xFFFFFFFF);
+    FillColors(kColorMixed);
     Draw(static_cast<UINT>(-1), kField);
     EXPECT_EQ(100 * 16, m_pixels.Count(kField, kBlack));
-    DrawOnly(0xFFFFFFFD, "");
+    DrawOnly(kColorByLayer, "");
     EXPECT_LT(100, m_pixels.Count(kRow, yellow)) << "the label";
     DrawOnly(kWhite, "MMMM");
     EXPECT_LT(500, m_pixels.Count(kRow, kWhite));

@@ -1,6 +1,7 @@
 // The order of colours, and HSV there and back.
 
 #include "orlo/controls/color_order.h"
+#include "orlo/host/words.h"
 
 #include <gtest/gtest.h>
 
@@ -81,9 +82,9 @@ const OrderRow kOrders[] = {
     {"RedBehindMagenta", RGB(255, 0, 0), RGB(255, 0, 255), 1},
     {"ValueBeforeSaturation", RGB(200, 0, 0), RGB(255, 128, 128), -1},
     {"SaturationLast", RGB(255, 128, 128), RGB(255, 0, 0), -1},
-    {"BlackBeforeAMarker", 0, 0xFFFFFFFD, -1},
-    {"MarkersByNumber", 0xFFFFFFFD, 0xFFFFFFFB, 1},
-    {"MarkerCountsAsBlack", 0xFFFFFFFD, 0x00808080, -1},
+    {"BlackBeforeAMarker", 0, kColorByLayer, -1},
+    {"MarkersByNumber", kColorByLayer, kColorOfPen, 1},
+    {"MarkerCountsAsBlack", kColorByLayer, 0x00808080, -1},
 };
 
 class Order : public ::testing::TestWithParam<OrderRow> {};
@@ -100,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Colors, Order, ::testing::ValuesIn(kOrders),
 // A total order: sorting relies on it, and so does the equality of sorted and inserted lists.
 TEST(ColorOrder, IsTotal) {
     std::mt19937 random(11);
-    std::vector<DWORD> colors = {0, 0xFFFFFF, 0xFFFFFFFB, 0xFFFFFFFC, 0xFFFFFFFD, 0x01FF0000};
+    std::vector<DWORD> colors = {0, 0xFFFFFF, kColorOfPen, kColorByBlock, kColorByLayer, 0x01FF0000};
     for (int i = 0; i < 150; ++i)
         colors.push_back(random() & (i % 2 ? 0x0F0F0F : 0xFFFFFF));
     std::sort(colors.begin(), colors.end(), [](DWORD a, DWORD b) { return CompareHSVforRGBs(a, b) < 0; });

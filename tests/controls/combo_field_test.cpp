@@ -11,10 +11,10 @@ namespace {
 class ComboField : public ControlDialog {
 protected:
     ComboField() {
-        const std::pair<int, const char*> filled[] = {{IDC_COLOR, "_Colors_"},
-                                                      {IDC_LINE_STYLE_COMBO, "_LineStyles_"},
-                                                      {IDC_BRUSH_STYLE_COMBO, "_BrushStyles_"},
-                                                      {IDC_LAYER, "_Layers_"}};
+        const std::pair<int, const char*> filled[] = {{IDC_COLOR, kTableColors},
+                                                      {IDC_LINE_STYLE_COMBO, kTableLineStyles},
+                                                      {IDC_BRUSH_STYLE_COMBO, kTableBrushStyles},
+                                                      {IDC_LAYER, kTableLayers}};
         for (const auto& [id, table] : filled)
             Fill(id, m_drawing.Table(table));
         for (const int id : {IDC_FONT_FACE, IDC_STYLE_NAME})

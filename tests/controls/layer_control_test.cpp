@@ -17,7 +17,7 @@ const RECT kAll = {0, 0, 150, 60};
 
 class Layers : public ControlDialog {
 protected:
-    Layers() : m_table(m_drawing.Table("_Layers_")), m_control(Get<CLayerControl>(IDC_LAYER)) {}
+    Layers() : m_table(m_drawing.Table(kTableLayers)), m_control(Get<CLayerControl>(IDC_LAYER)) {}
 
     uint16_t Add(const char* name, COLORREF color, uint32_t flags) {
         const uint16_t id = TableEntryAdd(m_table, name, nullptr);
@@ -113,7 +113,7 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     Draw(-1);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
     EXPECT_LT(30, InkFrom(16, 32));
-    for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu}) {
+    for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryMixed}, 0xFFFFFFFFu}) {
         m_control.m_nSelected = none;
         Draw(-1);
         EXPECT_EQ(0, InkFrom(0, 140)) << none;

@@ -17,7 +17,7 @@ namespace {
 template <class Kind>
 class LineStyles : public StyleTwins<Kind> {
 protected:
-    LineStyles() : StyleTwins<Kind>("_LineStyles_") {}
+    LineStyles() : StyleTwins<Kind>(kTableLineStyles) {}
     uint16_t Add(const char* name, std::initializer_list<double> pattern) {
         return LineStyleAdd(this->m_table, name, nullptr, pattern.begin(), static_cast<int>(pattern.size()));
     }
@@ -43,7 +43,7 @@ TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
     DrawCoreLoadString(kStringByLayer, host, sizeof host);
     EXPECT_STREQ(host, name);
 
-    this->Fill(0xFFFE);
+    this->Fill(kLineStyleByLayer);
     EXPECT_EQ(this->m_control.GetCount() - 1, this->m_control.GetCurSel());
     this->Fill(0);
     EXPECT_EQ(-1, this->m_control.GetCurSel());
@@ -75,7 +75,7 @@ TYPED_TEST(LineStyles, TheFirstGapIsAFifteenthOfTheSample) {
         ASSERT_LE(0, index) << row.name;
         this->Draw(index);
         const double expected = row.length != 0 ? this->m_control.Width() / row.length : 1.0;
-        EXPECT_NEAR(expected, this->m_control.Number("PenScale"), 1e-9) << row.name;
+        EXPECT_NEAR(expected, this->m_control.Number(kPropPenScale), 1e-9) << row.name;
     }
 }
 
@@ -101,7 +101,11 @@ TYPED_TEST(LineStyles, SpecialValuesOfTheClosedFieldAreDrawnByName) {
     const struct {
         unsigned value;
         bool ink;
-    } rows[] = {{0, false}, {0xFFFF, false}, {0xFFFFFFFF, false}, {0xFFFE, true}, {0xFFFD, true}};
+    } rows[] = {{kLineStyleNone, false},
+                {kLineStyleMixed, false},
+                {0xFFFFFFFF, false},
+                {kLineStyleByLayer, true},
+                {kLineStyleByBlock, true}};
     for (const auto& row : rows) {
         this->Fill(row.value);
         this->m_control.m_nSelected = row.value;
@@ -168,7 +172,7 @@ TYPED_TEST(LineStyles, AnyWidthGivesASample) {
         this->Fill();
         ASSERT_LT(0.0, this->m_control.Width()) << width;
         this->Draw(this->IndexOf("Dashed"));
-        EXPECT_TRUE(std::isfinite(this->m_control.Number("PenScale")));
+        EXPECT_TRUE(std::isfinite(this->m_control.Number(kPropPenScale)));
     }
 }
 
@@ -209,7 +213,7 @@ TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
     for (const int wanted : {0, 1}) {
         CLineStyleControlC combo(wanted);
         ASSERT_TRUE(combo.Create(Combo::kStyle, CRect(0, 0, 100, 100), &host, 1));
-        const ControlFillRecord record = {drawing.Table("_LineStyles_"), 0, 0xFFFE};
+        const ControlFillRecord record = {drawing.Table(kTableLineStyles), 0, kLineStyleByLayer};
         combo.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
         EXPECT_EQ(wanted ? combo.GetCount() - 1 : -1, combo.GetCurSel());
         combo.DestroyWindow();
@@ -219,7 +223,7 @@ TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
 class DrawnDialog : public ControlDialog {};
 
 TEST_F(DrawnDialog, AListOfTwoThousandStylesAsksTheHostForTheVisibleRowsOnly) {
-    TableStruct* const table = m_drawing.Table("_LineStyles_");
+    TableStruct* const table = m_drawing.Table(kTableLineStyles);
     const double pattern[] = {1.0, -0.5};
     for (int i = 0; i < 2000; ++i)
         LineStyleAdd(table, ("style " + std::to_string(i)).c_str(), nullptr, pattern, 2);

@@ -90,7 +90,7 @@ TYPED_TEST(TableControl, SelectsNothingForWhatIsNoEntry) {
     this->m_control.AddString("00000000\tZero");
     this->m_control.AddString("0000FFFF\tMixed");
     EXPECT_EQ(-1, this->m_control.Find(0)) << "whatever the list holds";
-    EXPECT_EQ(-1, this->m_control.Find(0xFFFF));
+    EXPECT_EQ(-1, this->m_control.Find(kEntryMixed));
     for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
         this->Fill(this->m_table, none);
         EXPECT_EQ(-1, this->m_control.GetCurSel()) << none;

@@ -25,7 +25,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
     const std::vector<PropertyChange> changes = before.ChangesTo(Properties());
     ASSERT_EQ(4u, changes.size()); // red, green, yellow and the text have become one
     for (const PropertyChange& change : changes) {
-        EXPECT_EQ("PenColor", change.property);
+        EXPECT_EQ(kPropPenColor, change.property);
         EXPECT_EQ(changes[0].to, change.to);
         EXPECT_EQ(1, change.graphics);
     }

@@ -38,7 +38,7 @@ TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
     ::VertexSet(vertex, x + 1e-12, vertex->y, vertex->z);
     const DrawingState moved(document().Drawing());
     EXPECT_TRUE(before.Differs(moved, "vertices"));
-    EXPECT_FALSE(before.Differs(moved, "PenWidth"));
+    EXPECT_FALSE(before.Differs(moved, kPropPenWidth));
     ::VertexSet(vertex, x, vertex->y, vertex->z);
     EXPECT_TRUE(before.DifferencesTo(DrawingState(document().Drawing()), 9).empty());
 

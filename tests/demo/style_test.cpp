@@ -129,9 +129,9 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     user.Key('A', UserInput::kControl);
     const PropertySnapshot before = Properties();
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ((std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}), Properties().Values("PenColor"))
+    EXPECT_EQ((std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}), Properties().Values(kPropPenColor))
         << "a style without a text part leaves the text alone";
-    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values("StyleTree"));
+    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values(kPropStyleTree));
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
     EXPECT_EQ(0, document().UndoSteps());
@@ -153,8 +153,8 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     }});
     EXPECT_TRUE(drawing == Properties()) << "the style, not what it was made after";
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ(1u, drawing.Values("PenColor").count("Red"));
-    EXPECT_EQ(0u, Properties().Values("PenColor").count("Red"));
+    EXPECT_EQ(1u, drawing.Values(kPropPenColor).count("Red"));
+    EXPECT_EQ(0u, Properties().Values(kPropPenColor).count("Red"));
 }
 
 TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {

@@ -11,7 +11,7 @@
 
 namespace {
 
-std::vector<GraphicStruct*> Walk(GraphicStruct* set, uint32_t filter = 0xFFFFFFFF) {
+std::vector<GraphicStruct*> Walk(GraphicStruct* set, uint32_t filter = kAllGraphics) {
     std::vector<GraphicStruct*> found;
     uint32_t position = 0xDEADBEEF;
     for (GraphicStruct* g = GraphicFirst(set, &position, 1, filter); g;
@@ -191,19 +191,19 @@ TEST(Selections, AreCopiedAsAGroupOfCopies) {
     OwnDrawing drawing;
     const Balance balance;
     GraphicStruct *a = drawing.Add(MakeLines({{0, 0}, {1, 1}})), *b = drawing.Add(MakeSquare(2, 2, 2));
-    SetWhole(b, "BrushStyle", 3);
+    SetWhole(b, kPropBrushStyle, 3);
     GraphicStruct* selection = SelectionNew();
     SelectionAdd(selection, a);
     SelectionAdd(selection, b);
     GraphicStruct* copy = GraphicCopyEx(selection, 0, 0, 7);
     GraphicDispose(&selection);
-    SetWhole(b, "BrushStyle", 4);
+    SetWhole(b, kPropBrushStyle, 4);
     ASSERT_TRUE(GraphicGetIsGroup(copy));
     uint32_t position;
     GraphicStruct* first = GraphicFirst(copy, &position, 1, kFilterKinds);
     GraphicStruct* second = GraphicNext(copy, &position, 1, kFilterKinds);
     EXPECT_NE(first, a);
-    EXPECT_EQ(GetWhole(second, "BrushStyle"), 3u);
+    EXPECT_EQ(GetWhole(second, kPropBrushStyle), 3u);
     EXPECT_EQ(second->pParent, copy);
     EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(copy, 0)), 4);
     GraphicDispose(&copy);

@@ -20,8 +20,8 @@ protected:
     uint16_t FlagBlock(const char* name, uint32_t color = kRed) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
         for (GraphicStruct* square : {MakeSquare(0, 0, 1), MakeSquare(1, 0, 0.5)}) {
-            SetWhole(square, "BrushStyle", 1);
-            SetWhole(square, "PenColor", color);
+            SetWhole(square, kPropBrushStyle, 1);
+            SetWhole(square, kPropPenColor, color);
             GraphicAdd(content, square);
         }
         return BlocksAddBlock(drawing.Table(kTableBlocks), name, content);
@@ -73,14 +73,14 @@ TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
     // A block around the first: its own parts by block, too.
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);
-    SetWhole(inner, "PenColor", kColorByBlock);
+    SetWhole(inner, kPropPenColor, kColorByBlock);
     GraphicAdd(outer, inner);
     const uint16_t nested = BlocksAddBlock(drawing.Table(kTableBlocks), "NESTED", outer);
     int x = 0;
     for (const uint16_t block : {byBlock, nested, byLayer}) {
         GraphicStruct* insert = drawing.Add(Insert(block, x += 20, 50, 10, 10));
-        SetWhole(insert, "PenColor", kBlue);
-        SetWhole(insert, "Layer", green);
+        SetWhole(insert, kPropPenColor, kBlue);
+        SetWhole(insert, kPropLayer, green);
     }
     Draw();
     EXPECT_EQ(picture.At(25, 55), kBlue);
@@ -97,9 +97,10 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     const uint16_t hidden = TableEntryAdd(drawing.Table(kTableLayers), "Hidden", nullptr);
     const uint16_t flag = FlagBlock("FLAG");
     uint32_t position;
-    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table(kTableBlocks), flag), &position, 1, 0), "Layer", own);
+    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table(kTableBlocks), flag), &position, 1, 0), kPropLayer,
+             own);
     GraphicStruct* insert = drawing.Add(Insert(flag, 10, 10, 20, 20));
-    SetWhole(insert, "Layer", hidden);
+    SetWhole(insert, kPropLayer, hidden);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
     Draw();
     EXPECT_EQ(picture.At(20, 20), kRed);
@@ -136,7 +137,7 @@ TEST_F(Inserts, FollowTheirBlock) {
     GraphicAdd(BlockGetGraphic(drawing.Table(kTableBlocks), flag), MakeSquare(1, 0, 2));
     EXPECT_NEAR(right(), 90, 1e-9) << "through the block between them";
     int cookie = 0;
-    GraphicStruct* insert = GraphicFirst(outer, &cookie, 1, 0xFFFFFFFF);
+    GraphicStruct* insert = GraphicFirst(outer, &cookie, 1, kAllGraphics);
     VertexStruct* end = GraphicVertexFirst(insert, &cookie, 0, 0xFFFF);
     end = GraphicVertexNext(insert, &cookie, 0, 0xFFFF); // of the x axis
     VertexSet(end, 1.5, end->y, end->z);

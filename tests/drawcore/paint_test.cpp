@@ -18,7 +18,7 @@ class Paint : public testing::Test {
 protected:
     GraphicStruct* Line(double x1, double y1, double x2, double y2) {
         GraphicStruct* line = drawing.Add(MakeLines({{x1, y1}, {x2, y2}}));
-        SetWhole(line, "PenColor", kRed);
+        SetWhole(line, kPropPenColor, kRed);
         return line;
     }
     void Draw() { picture.Draw(drawing.Root()); }
@@ -41,10 +41,10 @@ TEST_F(Paint, AThinLineCoversItsPixelsBothEndsIncluded) {
 TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     const int dpi = ::GetDeviceCaps(picture.DC(), LOGPIXELSX);
     GraphicStruct* world = Line(10, 30, 90, 30);
-    SetWhole(world, "ScaleSystem", 0);
-    SetReal(world, "PenWidth", 8);
+    SetWhole(world, kPropScaleSystem, 0);
+    SetReal(world, kPropPenWidth, 8);
     GraphicStruct* paper = Line(10, 70, 90, 70);
-    SetReal(paper, "PenWidth", 6.0 / dpi);
+    SetReal(paper, kPropPenWidth, 6.0 / dpi);
     Draw();
     EXPECT_EQ(picture.Covered(50, 20, 50, 40), 8);
     EXPECT_EQ(picture.Covered(50, 60, 50, 80), 6);
@@ -72,8 +72,8 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
     int y = 10;
     for (const auto& row : kRows) {
         GraphicStruct* line = Line(10, y, 90, y);
-        SetWhole(line, "PenColor", row.color);
-        SetWhole(line, "Layer", row.layer);
+        SetWhole(line, kPropPenColor, row.color);
+        SetWhole(line, kPropLayer, row.layer);
         y += 10;
     }
     Draw();
@@ -95,7 +95,7 @@ TEST_F(Paint, LayersHide) {
         const uint16_t layer =
             TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         LayerSet(drawing, layer, kBlue, flag, 0);
-        SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), "Layer", layer);
+        SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), kPropLayer, layer);
     }
     Draw();
     EXPECT_EQ(picture.Covered(0, 0, 100, 25), 0);
@@ -134,21 +134,21 @@ protected:
 
 TEST_F(Dashes, HaveTheLengthsOfThePatternTimesThePenScale) {
     GraphicStruct* line = Line(10, 50, 90, 50);
-    SetWhole(line, "PenStyle", Style({4, -2}));
-    SetReal(line, "PenScale", 2);
-    SetWhole(line, "PenAlignment", 0);
-    SetWhole(line, "ScaleSystem", 0);
-    SetReal(line, "PenWidth", 3); // a thick pen ends its dashes where they end
+    SetWhole(line, kPropPenStyle, Style({4, -2}));
+    SetReal(line, kPropPenScale, 2);
+    SetWhole(line, kPropPenAlignment, 0);
+    SetWhole(line, kPropScaleSystem, 0);
+    SetReal(line, kPropPenWidth, 3); // a thick pen ends its dashes where they end
     Draw();
     EXPECT_EQ(Runs(50), (std::vector<int>{8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 1}));
 }
 
 TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
     GraphicStruct* line = Line(10, 50, 85, 50); // 75 long: six periods of 12 and 3 left
-    SetWhole(line, "PenStyle", Style({8, -4}));
-    SetWhole(line, "PenAlignment", 1);
-    SetWhole(line, "ScaleSystem", 0);
-    SetReal(line, "PenWidth", 2);
+    SetWhole(line, kPropPenStyle, Style({8, -4}));
+    SetWhole(line, kPropPenAlignment, 1);
+    SetWhole(line, kPropScaleSystem, 0);
+    SetReal(line, kPropPenWidth, 2);
     Draw();
     const std::vector<int> runs = Runs(50, 84);
     ASSERT_EQ(runs.size(), 13u);
@@ -160,11 +160,11 @@ TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
 
 TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
     GraphicStruct* dots = Line(10, 80, 90, 80);
-    SetWhole(dots, "PenStyle", Style({0, -5}));
+    SetWhole(dots, kPropPenStyle, Style({0, -5}));
     GraphicStruct* shorter = Line(10, 50, 20, 50);
-    SetWhole(shorter, "PenStyle", Style({8, -4})); // fitted: no room for a period
+    SetWhole(shorter, kPropPenStyle, Style({8, -4})); // fitted: no room for a period
     GraphicStruct* fine = Line(10, 20, 90, 20);
-    SetWhole(fine, "PenStyle", Style({0.5, -0.5}));
+    SetWhole(fine, kPropPenStyle, Style({0.5, -0.5}));
     Draw();
     EXPECT_NEAR(picture.Covered(0, 75, 100, 85), 17, 1);
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 11, 1);
@@ -175,11 +175,11 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Dashed", nullptr);
     LayerSet(drawing, layer, kBlue, 0, Style({10, -10}));
     GraphicStruct* line = Line(10, 50, 90, 50);
-    SetWhole(line, "Layer", layer);
-    SetWhole(line, "PenStyle", 65534);
-    SetWhole(Line(10, 20, 90, 20), "PenStyle", 0);
+    SetWhole(line, kPropLayer, layer);
+    SetWhole(line, kPropPenStyle, 65534);
+    SetWhole(Line(10, 20, 90, 20), kPropPenStyle, 0);
     GraphicStruct* lost = Line(10, 80, 90, 80);
-    SetWhole(lost, "PenStyle", 999); // no such style: solid
+    SetWhole(lost, kPropPenStyle, 999); // no such style: solid
     Draw();
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 41, 2);
     EXPECT_EQ(picture.Covered(0, 15, 100, 25), 0);
@@ -188,8 +188,8 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
 
 TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
     GraphicStruct* line = Line(-1e9, 50, 1e9, 50);
-    SetWhole(line, "PenStyle", Style({5, -5}));
-    SetWhole(line, "PenAlignment", 0);
+    SetWhole(line, kPropPenStyle, Style({5, -5}));
+    SetWhole(line, kPropPenAlignment, 0);
     Draw();
     EXPECT_NEAR(picture.Covered(), 55, 6);
 }
@@ -207,10 +207,10 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
                                           {90, 90},
                                           {40, 90},
                                           {40, 40}});
-        SetWhole(shape, "BrushStyle", 1);
-        SetWhole(shape, "BrushColor", kBlue);
-        SetWhole(shape, "BrushDrawMode", mode);
-        SetWhole(shape, "PenStyle", 0);
+        SetWhole(shape, kPropBrushStyle, 1);
+        SetWhole(shape, kPropBrushColor, kBlue);
+        SetWhole(shape, kPropBrushDrawMode, mode);
+        SetWhole(shape, kPropPenStyle, 0);
         ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(shape);
         EXPECT_EQ(picture.At(20, 20), kBlue);
@@ -224,9 +224,9 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
 TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     GraphicStruct* shape =
         MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}});
-    SetWhole(shape, "BrushStyle", 1);
-    SetWhole(shape, "BrushColor", kColorOfPen);
-    SetWhole(shape, "PenColor", kRed);
+    SetWhole(shape, kPropBrushStyle, 1);
+    SetWhole(shape, kPropBrushColor, kColorOfPen);
+    SetWhole(shape, kPropPenColor, kRed);
     shape->dwOneOutline = 1;
     picture.Draw(shape);
     EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's colour";
@@ -237,13 +237,13 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
 
 TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     GraphicStruct* square = MakeSquare(10, 10, 80);
-    SetWhole(square, "PenStyle", 0);
-    SetWhole(square, "BrushColor", kBlue);
-    SetReal(square, "BrushScale", 10);
+    SetWhole(square, kPropPenStyle, 0);
+    SetWhole(square, kPropBrushColor, kBlue);
+    SetReal(square, kPropBrushScale, 10);
     const auto rows = [&](uint16_t style, double angle, int cross) {
-        SetWhole(square, "BrushStyle", style);
-        SetReal(square, "BrushAngle", angle);
-        SetWhole(square, "HatchCross", cross);
+        SetWhole(square, kPropBrushStyle, style);
+        SetReal(square, kPropBrushAngle, angle);
+        SetWhole(square, kPropHatchCross, cross);
         ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 90, 90)) << "nothing outside";
@@ -259,11 +259,11 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
 
 TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
     GraphicStruct* square = MakeSquare(10, 10, 79);
-    SetWhole(square, "PenStyle", 0);
-    SetWhole(square, "BrushColor", kBlue);
+    SetWhole(square, kPropPenStyle, 0);
+    SetWhole(square, kPropBrushColor, kBlue);
     TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto draw = [&](const char* style) {
-        SetWhole(square, "BrushStyle", TableEntryGetIDFirst(styles, nullptr, style));
+        SetWhole(square, kPropBrushStyle, TableEntryGetIDFirst(styles, nullptr, style));
         ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 89, 89)) << "nothing outside";
@@ -302,8 +302,8 @@ TEST_F(Paint, SurvivesWhatIsFarAway) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
         GraphicStruct* shape =
             MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}});
-        SetWhole(shape, "BrushStyle", 1);
-        SetWhole(shape, "BrushColor", kBlue);
+        SetWhole(shape, kPropBrushStyle, 1);
+        SetWhole(shape, kPropBrushColor, kBlue);
         ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(shape);
         // Beyond, the digits of a double no longer tell where in the view an edge is.
@@ -329,10 +329,10 @@ TEST_F(Paint, SurvivesWhatIsFarAway) {
 }
 
 TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
-    SetWhole(Line(0, 0, 100, 100), "PenStyle",
+    SetWhole(Line(0, 0, 100, 100), kPropPenStyle,
              LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
-    SetWhole(square, "BrushStyle", 1);
+    SetWhole(square, kPropBrushStyle, 1);
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
     VertexStruct* vertex = VertexNewEx(10, 10, 0);
     TextSetVWHAEx(text, vertex, 0, 10, 0.5, "Text");
@@ -360,8 +360,8 @@ TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
 
 TEST_F(Paint, StaysInTheRectangle) {
     GraphicStruct* line = Line(0, 50, 100, 50);
-    SetWhole(line, "ScaleSystem", 0);
-    SetReal(line, "PenWidth", 30);
+    SetWhole(line, kPropScaleSystem, 0);
+    SetReal(line, kPropPenWidth, 30);
     const RECT half = {20, 45, 60, 55};
     ViewportSetRect(picture.Viewport(), &half);
     Draw();
@@ -408,19 +408,19 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     GraphicStruct* sample = MakeLines({{0, 0.5}, {1, 0.5}});
     GraphicAttach(sample, drawing);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), 3);
-    SetWhole(sample, "PenColor", kRed);
-    SetWhole(sample, "ScaleSystem", 0);
-    SetReal(sample, "PenWidth", 2); // millimetres, the drawing's unit
+    SetWhole(sample, kPropPenColor, kRed);
+    SetWhole(sample, kPropScaleSystem, 0);
+    SetReal(sample, kPropPenWidth, 2); // millimetres, the drawing's unit
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimetre, 1);
-    SetReal(sample, "PenWidth", 1000);
+    SetReal(sample, kPropPenWidth, 1000);
     ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 25, 1) << "never more than a quarter of the pane";
-    SetReal(sample, "PenWidth", 0);
-    SetWhole(sample, "PenAlignment", 0);
+    SetReal(sample, kPropPenWidth, 0);
+    SetWhole(sample, kPropPenAlignment, 0);
     const double dashes[] = {3, -3};
-    SetWhole(sample, "PenStyle", LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
+    SetWhole(sample, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(sample, 1);
     int changes = 0;
@@ -431,7 +431,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     long before = 0;
     TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);
     TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
-    SetWhole(sample, "PenColor", 0);
+    SetWhole(sample, kPropPenColor, 0);
     ::PatBlt(picture.DC(), 0, 0, 101, 101, BLACKNESS);
     picture.Draw(sample, 1);
     EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";

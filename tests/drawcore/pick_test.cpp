@@ -13,7 +13,7 @@ namespace {
 
 class Pick : public testing::Test {
 protected:
-    GraphicStruct* At(int x, int y, int tolerance = 3, uint32_t filter = 0xFFFFFFFF) {
+    GraphicStruct* At(int x, int y, int tolerance = 3, uint32_t filter = kAllGraphics) {
         return ViewportPick(picture.Viewport(), drawing.Root(), {x, 100 - y}, tolerance, filter);
     }
     // Within a rectangle of drawing units; the members in the order of drawing.
@@ -56,7 +56,7 @@ TEST_F(Pick, FitsWhatIsSeen) {
     const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
     GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
-    SetWhole(away, "Layer", hidden);
+    SetWhole(away, kPropLayer, hidden);
     const auto width = [&] { // of what fits into the picture, in drawing units
         ViewportFitSeen(picture.Viewport(), drawing.Root());
         double left, right, y;
@@ -67,17 +67,17 @@ TEST_F(Pick, FitsWhatIsSeen) {
     EXPECT_NEAR(width(), 990, 1);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
     EXPECT_NEAR(width(), 10, 0.1);
-    SetWhole(close, "Layer", hidden);
+    SetWhole(close, kPropLayer, hidden);
     EXPECT_NEAR(width(), 990, 1) << "nothing is seen: where it would be";
 }
 
 TEST_F(Pick, CountsWidthsAndFilledAreas) {
     GraphicStruct* wide = drawing.Add(MakeLines({{10, 80}, {90, 80}}));
-    SetWhole(wide, "ScaleSystem", 0);
-    SetReal(wide, "PenWidth", 20);
+    SetWhole(wide, kPropScaleSystem, 0);
+    SetReal(wide, kPropPenWidth, 20);
     GraphicStruct* hollow = drawing.Add(MakeSquare(10, 10, 20));
     GraphicStruct* filled = drawing.Add(MakeSquare(60, 10, 20));
-    SetWhole(filled, "BrushStyle", 1);
+    SetWhole(filled, kPropBrushStyle, 1);
     EXPECT_EQ(At(50, 89), wide);
     EXPECT_EQ(At(20, 20), nullptr);
     EXPECT_EQ(At(10, 20), hollow);
@@ -109,7 +109,7 @@ TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
         GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
         const uint16_t layer =
             TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
-        SetWhole(line, "Layer", layer);
+        SetWhole(line, kPropLayer, layer);
         EXPECT_EQ(At(50, 50), line);
         LayerSet(drawing, layer, 0, flag, 0);
         EXPECT_EQ(At(50, 50), nullptr) << flag;
@@ -126,7 +126,7 @@ TEST_F(Pick, ByWindowTakesWhatLiesInsideByCrossingWhatIsTouched) {
     EXPECT_EQ(Within(15, 15, 40, 40, 1), (List{inside, across}));
     EXPECT_EQ(Within(0, 0, 100, 100, 0), (List{inside, across, outside, around}));
     EXPECT_TRUE(Within(40, 40, 50, 50, 1).empty()) << "within an outline, touching nothing";
-    SetWhole(around, "BrushStyle", 1);
+    SetWhole(around, kPropBrushStyle, 1);
     EXPECT_EQ(Within(40, 40, 50, 50, 1), List{around}) << "within a filled area";
     EXPECT_EQ(Within(40, 40, 15, 15, 0), List{inside}) << "corners in any order";
 }
@@ -155,7 +155,7 @@ TEST_F(Pick, FollowsZoomAndPan) {
 TEST_F(Pick, HighlightsInOneColour) {
     GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     const double dashes[] = {5, -5};
-    SetWhole(line, "PenStyle", LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
+    SetWhole(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     GraphicStruct* selection = SelectionNew();
     SelectionAdd(selection, line);
     GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));

@@ -18,14 +18,14 @@
 
 namespace {
 
-const std::set<std::string> kGeneral = {"Info", "Layer", "StyleTree"};
-const std::set<std::string> kShape = {"BrushAngle", "BrushColor", "BrushDrawMode", "BrushScale",
-                                      "BrushStyle", "HatchCross", "PenAlignment",  "PenColor",
-                                      "PenScale",   "PenStyle",   "PenWidth",      "ScaleSystem",
-                                      "Info",       "Layer",      "StyleTree"};
-const std::set<std::string> kText = {"PenColor",   "TextFont", "TextSize", "TextStyle",
-                                     "TextFormat", "Info",     "Layer",    "StyleTree"};
-const std::set<std::string> kInsert = {"PenColor", "PenStyle", "Info", "Layer", "StyleTree"};
+const std::set<std::string> kGeneral = {kPropInfo, kPropLayer, kPropStyleTree};
+const std::set<std::string> kShape = {kPropBrushAngle, kPropBrushColor, kPropBrushDrawMode, kPropBrushScale,
+                                      kPropBrushStyle, kPropHatchCross, kPropPenAlignment,  kPropPenColor,
+                                      kPropPenScale,   kPropPenStyle,   kPropPenWidth,      kPropScaleSystem,
+                                      kPropInfo,       kPropLayer,      kPropStyleTree};
+const std::set<std::string> kText = {kPropPenColor,   kPropTextFont, kPropTextSize, kPropTextStyle,
+                                     kPropTextFormat, kPropInfo,     kPropLayer,    kPropStyleTree};
+const std::set<std::string> kInsert = {kPropPenColor, kPropPenStyle, kPropInfo, kPropLayer, kPropStyleTree};
 
 struct KindRow {
     const char* name;
@@ -61,7 +61,7 @@ TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
     int32_t number = 0;
     for (const char* name : {"", "pencolor", "PenColor ", "PenColo", "ZZZ", "AAA"})
         EXPECT_FALSE(Find(name, number)) << name;
-    const char* names[] = {"Layer", "Info"};
+    const char* names[] = {kPropLayer, kPropInfo};
     int32_t numbers[2];
     EXPECT_TRUE(table->PropLookup(graphic, names, 2, 0, numbers));
     EXPECT_NE(numbers[0], numbers[1]);
@@ -74,8 +74,9 @@ TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
 
 // Forms of a value: each whole-number property in each whole-number form, reals as float and double, texts as text.
 TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
-    const std::set<std::string> reals = {"BrushAngle", "BrushScale", "PenScale", "PenWidth", "TextSize"};
-    const std::set<std::string> texts = {"Info", "TextFont"};
+    const std::set<std::string> reals = {kPropBrushAngle, kPropBrushScale, kPropPenScale, kPropPenWidth,
+                                         kPropTextSize};
+    const std::set<std::string> texts = {kPropInfo, kPropTextFont};
     for (const std::string& name : GetParam().properties) {
         SCOPED_TRACE(name);
         int32_t number;
@@ -100,7 +101,7 @@ TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
             else if (vt == VT_BSTR)
                 in = kNew;
             else
-                value.whole = name == "ScaleSystem" ? (vt == VT_BOOL ? 0 : 2) : 1;
+                value.whole = name == kPropScaleSystem ? (vt == VT_BOOL ? 0 : 2) : 1;
             const bool isForm =
                 isReal   ? vt == VT_R4 || vt == VT_R8
                 : isText ? vt == VT_BSTR
@@ -122,9 +123,9 @@ TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
 
 TEST_P(OfKind, MarksItselfChanged) {
     GraphicSetDirty(graphic, 0);
-    EXPECT_FALSE(SetWhole(graphic, "PenColor", 0x12345678));
+    EXPECT_FALSE(SetWhole(graphic, kPropPenColor, 0x12345678));
     EXPECT_FALSE(GraphicIsDirty(graphic));
-    EXPECT_TRUE(SetWhole(graphic, "PenColor", 0x345678));
+    EXPECT_TRUE(SetWhole(graphic, kPropPenColor, 0x345678));
     EXPECT_TRUE(GraphicIsDirty(graphic));
 }
 
@@ -141,17 +142,18 @@ TEST_F(ShapeProperties, RefuseWhatIsOutOfLimits) {
     const struct {
         const char* name;
         std::vector<uint32_t> good, bad;
-    } kWhole[] = {
-        {"PenColor", {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC}, {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
-        {"BrushColor", {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
-        {"PenStyle", {0, 1, 65533, 65534}, {65535, 65536, 0xFFFFFFFF}},
-        {"BrushStyle", {0, 1, 300}, {65535, 0xFFFFFFFF}},
-        {"BrushDrawMode", {1, 0}, {2, 0xFFFFFFFF}},
-        {"ScaleSystem", {0, 2}, {1, 3, 0xFF, 0xFFFF}},
-        {"PenAlignment", {1, 0}, {2, 0xFFFFFFFF}},
-        {"HatchCross", {1, 0}, {2}},
-        {"Layer", {1, 500}, {0, 0xFFFF, 0x10001}},
-        {"StyleTree", {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
+    } kWhole[] = {{kPropPenColor,
+                   {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC},
+                   {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
+                  {kPropBrushColor, {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
+                  {kPropPenStyle, {0, 1, 65533, 65534}, {65535, 65536, 0xFFFFFFFF}},
+                  {kPropBrushStyle, {0, 1, 300}, {65535, 0xFFFFFFFF}},
+                  {kPropBrushDrawMode, {1, 0}, {2, 0xFFFFFFFF}},
+                  {kPropScaleSystem, {0, 2}, {1, 3, 0xFF, 0xFFFF}},
+                  {kPropPenAlignment, {1, 0}, {2, 0xFFFFFFFF}},
+                  {kPropHatchCross, {1, 0}, {2}},
+                  {kPropLayer, {1, 500}, {0, 0xFFFF, 0x10001}},
+                  {kPropStyleTree, {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
     for (const auto& row : kWhole) {
         for (const uint32_t value : row.good) {
             EXPECT_TRUE(SetWhole(graphic, row.name, value)) << row.name << value;
@@ -162,28 +164,28 @@ TEST_F(ShapeProperties, RefuseWhatIsOutOfLimits) {
             EXPECT_EQ(GetWhole(graphic, row.name), row.good.back()) << row.name << " must keep its value";
         }
     }
-    for (const char* name : {"PenWidth", "PenScale", "BrushScale", "BrushAngle"}) {
+    for (const char* name : {kPropPenWidth, kPropPenScale, kPropBrushScale, kPropBrushAngle}) {
         EXPECT_TRUE(SetReal(graphic, name, 0));
         EXPECT_TRUE(SetReal(graphic, name, 1e30)) << name;
         for (const double value : {HUGE_VAL, -HUGE_VAL, static_cast<double>(NAN)})
             EXPECT_FALSE(SetReal(graphic, name, value)) << name;
-        EXPECT_EQ(SetReal(graphic, name, -1), !std::strcmp(name, "BrushAngle"));
+        EXPECT_EQ(SetReal(graphic, name, -1), !std::strcmp(name, kPropBrushAngle));
     }
 }
 
 TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
     OwnDrawing drawing;
     GraphicAttach(graphic, drawing);
-    EXPECT_FALSE(SetWhole(graphic, "Layer", 2));
+    EXPECT_FALSE(SetWhole(graphic, kPropLayer, 2));
     const uint16_t id = TableEntryAdd(drawing.Table(kTableLayers), "Two", nullptr);
-    EXPECT_TRUE(SetWhole(graphic, "Layer", id));
+    EXPECT_TRUE(SetWhole(graphic, kPropLayer, id));
     GraphicAttach(graphic, nullptr);
 }
 
 TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
-    SetWhole(graphic, "PenColor", 0xFFFFFFFD);
+    SetWhole(graphic, kPropPenColor, 0xFFFFFFFD);
     int32_t number;
-    const char* name = "PenColor";
+    const char* name = kPropPenColor;
     const PropertyTable* table = GraphicGetVtbl(graphic);
     ASSERT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number));
     int32_t asSigned = 0;
@@ -193,8 +195,8 @@ TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
     EXPECT_FALSE(table->PropGet(graphic, number, VT_UI2, &narrow));
     EXPECT_FALSE(table->PropGet(graphic, number, VT_BOOL, &narrow));
     EXPECT_EQ(narrow, 5);
-    SetReal(graphic, "PenWidth", DBL_MAX);
-    name = "PenWidth";
+    SetReal(graphic, kPropPenWidth, DBL_MAX);
+    name = kPropPenWidth;
     table->PropLookup(graphic, &name, 1, 0, &number);
     float single = 5;
     EXPECT_FALSE(table->PropGet(graphic, number, VT_R4, &single)) << "no float holds it";
@@ -203,12 +205,12 @@ TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
 TEST_F(ShapeProperties, TakeBackTheTextThatAVariableHeld) {
     Balance balance;
     GraphicStruct* other = MakeSquare(0, 0, 1);
-    SetText(graphic, "Info", "one");
-    SetText(other, "Info", "");
+    SetText(graphic, kPropInfo, "one");
+    SetText(other, kPropInfo, "");
     char* text = nullptr;
     for (GraphicStruct* each : {graphic, other, graphic, graphic}) {
         const PropertyTable* table = GraphicGetVtbl(each);
-        const char* name = "Info";
+        const char* name = kPropInfo;
         int32_t number;
         table->PropLookup(each, &name, 1, 0, &number);
         table->PropGet(each, number, VT_BSTR, &text);

@@ -19,7 +19,7 @@ protected:
         VertexStruct* vertex = VertexNewEx(x, y, 0);
         EXPECT_TRUE(TextSetVWHAEx(text, vertex, width, height, angle, string));
         VertexDispose(&vertex);
-        SetText(text, "TextFont", "Tahoma");
+        SetText(text, kPropTextFont, "Tahoma");
         return drawing.Add(text);
     }
     void Draw() {
@@ -47,7 +47,7 @@ TEST_F(Texts, HaveTheHeightOfTheirCapitals) {
 TEST_F(Texts, AreJustifiedAroundTheirPosition) {
     GraphicStruct* text = Text("HOHO", 50, 50, 10);
     for (const uint32_t format : {0u, 1u, 2u}) {
-        ASSERT_TRUE(SetWhole(text, "TextFormat", format));
+        ASSERT_TRUE(SetWhole(text, kPropTextFormat, format));
         const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
         const double left = ExtentsGetX1(box), right = ExtentsGetX2(box);
         EXPECT_NEAR((50 - left) / (right - left), format / 2.0, 1e-9);
@@ -61,10 +61,10 @@ TEST_F(Texts, AreJustifiedAroundTheirPosition) {
 TEST_F(Texts, GrowWithTheirSizeAndStretchToTheirWidth) {
     GraphicStruct* text = Text("Sample", 0, 0, 2);
     const double width = Width(text);
-    SetReal(text, "TextSize", 6);
+    SetReal(text, kPropTextSize, 6);
     EXPECT_NEAR(Width(text), 3 * width, width * 0.01);
     EXPECT_NEAR(Width(Text("Sample", 0, 0, 2, 0, 50)), 50, 1e-9);
-    EXPECT_FALSE(SetReal(text, "TextSize", 0));
+    EXPECT_FALSE(SetReal(text, kPropTextSize, 0));
 }
 
 TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
@@ -85,10 +85,10 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
 // another.
 TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
     GraphicStruct* text = Text("x", 5, 40, 14);
-    SetText(text, "TextFont", "DejaVu Sans");
+    SetText(text, kPropTextFont, "DejaVu Sans");
     const auto covered = [&](const wchar_t* letters) {
         static_cast<drawcore::TextGraphic*>(drawcore::Graphic::From(text))->state.text = letters;
-        SetReal(text, "TextSize", 14); // it measures itself anew
+        SetReal(text, kPropTextSize, 14); // it measures itself anew
         Draw();
         return picture.Covered();
     };
@@ -110,18 +110,18 @@ TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
     char current[64] = "";
     EXPECT_TRUE(TableGetStringVar(drawing.Table(kTableUnits), kUnitFontName, current, sizeof current));
-    EXPECT_EQ(GetText(text, "TextFont"), current);
+    EXPECT_EQ(GetText(text, kPropTextFont), current);
     const HDC dc = ::GetDC(nullptr);
     EXPECT_EQ(::EnumFontFamiliesA(dc, current, Found, 0), 77) << current;
     ::ReleaseDC(nullptr, dc);
-    EXPECT_TRUE(SetText(text, "TextFont", "Nobody's Face"));
-    EXPECT_EQ(GetText(text, "TextFont"), "Nobody's Face") << "what it was told, whoever draws it";
+    EXPECT_TRUE(SetText(text, kPropTextFont, "Nobody's Face"));
+    EXPECT_EQ(GetText(text, kPropTextFont), "Nobody's Face") << "what it was told, whoever draws it";
 }
 
 TEST_F(Texts, ShowTheirEffects) {
     GraphicStruct* text = Text("nnnn", 10, 50, 10);
     const auto covered = [&](uint16_t style) {
-        EXPECT_TRUE(SetWhole(text, "TextStyle", style));
+        EXPECT_TRUE(SetWhole(text, kPropTextStyle, style));
         Draw();
         return picture.Covered();
     };
@@ -133,7 +133,7 @@ TEST_F(Texts, ShowTheirEffects) {
     EXPECT_GT(covered(0x1000), plain + 60) << "framed";
     EXPECT_GT(covered(0x0040), plain) << "NNNN";
     const double narrow = Width(text);
-    SetWhole(text, "TextStyle", 2);
+    SetWhole(text, kPropTextStyle, 2);
     EXPECT_NE(Width(text), narrow) << "bold";
     const int upright = covered(0);
     EXPECT_NE(covered(1), upright) << "italic";
@@ -194,14 +194,14 @@ TEST_F(Texts, ComeBackByUndo) {
     GraphicStruct* text = Text("Text", 0, 0, 5);
     const double width = Width(text);
     DrawingBeginUndo(drawing);
-    SetReal(text, "TextSize", 50);
-    SetText(text, "TextFont", "DejaVu Sans");
-    SetWhole(text, "TextStyle", 2);
+    SetReal(text, kPropTextSize, 50);
+    SetText(text, kPropTextFont, "DejaVu Sans");
+    SetWhole(text, kPropTextStyle, 2);
     EXPECT_EQ(DrawingEndUndo(drawing), 1);
     EXPECT_GT(Width(text), 5 * width);
     DrawingUndo(drawing);
     EXPECT_EQ(Width(text), width);
-    EXPECT_EQ(GetText(text, "TextFont"), "Tahoma");
+    EXPECT_EQ(GetText(text, kPropTextFont), "Tahoma");
 }
 
 } // namespace

@@ -14,7 +14,7 @@ protected:
         for (int i = 0; i < 3; ++i)
             lines.push_back(drawing.Add(MakeSquare(i, 0, 1)));
         for (GraphicStruct* line : lines)
-            SetReal(line, "PenWidth", 1);
+            SetReal(line, kPropPenWidth, 1);
     }
     Balance balance;
     OwnDrawing drawing;
@@ -25,11 +25,11 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
     ASSERT_TRUE(DrawingBeginUndo(drawing));
     EXPECT_FALSE(DrawingBeginUndo(drawing)) << "one is open";
     for (GraphicStruct* line : {lines[0], lines[1]}) {
-        SetReal(line, "PenWidth", 2);
-        SetReal(line, "PenWidth", 3);
-        SetWhole(line, "PenColor", 0xFF);
-        SetText(line, "Info", "changed");
-        SetWhole(line, "BrushStyle", 4);
+        SetReal(line, kPropPenWidth, 2);
+        SetReal(line, kPropPenWidth, 3);
+        SetWhole(line, kPropPenColor, 0xFF);
+        SetText(line, kPropInfo, "changed");
+        SetWhole(line, kPropBrushStyle, 4);
     }
     GraphicSetPenStyle(lines[0], 1);
     EXPECT_EQ(DrawingUndo(drawing), 0) << "still open";
@@ -37,11 +37,11 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
     EXPECT_EQ(DrawingCountUndo(drawing), 1);
     EXPECT_EQ(DrawingUndo(drawing), 2);
     for (GraphicStruct* line : lines) {
-        EXPECT_EQ(GetReal(line, "PenWidth"), 1);
-        EXPECT_EQ(GetWhole(line, "PenColor"), 0xFFFFFFFD);
-        EXPECT_EQ(GetText(line, "Info"), "");
-        EXPECT_EQ(GetWhole(line, "BrushStyle"), 0u);
-        EXPECT_EQ(GetWhole(line, "PenStyle"), 65534u);
+        EXPECT_EQ(GetReal(line, kPropPenWidth), 1);
+        EXPECT_EQ(GetWhole(line, kPropPenColor), 0xFFFFFFFD);
+        EXPECT_EQ(GetText(line, kPropInfo), "");
+        EXPECT_EQ(GetWhole(line, kPropBrushStyle), 0u);
+        EXPECT_EQ(GetWhole(line, kPropPenStyle), 65534u);
     }
     EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
 }
@@ -68,12 +68,12 @@ TEST_F(Undo, TakesBackVerticesThatWereMovedAndIgnoresThoseThatWereOnlyRead) {
 TEST_F(Undo, GoesBackStepByStep) {
     for (const double width : {2.0, 3.0, 4.0}) {
         DrawingBeginUndo(drawing);
-        SetReal(lines[0], "PenWidth", width);
+        SetReal(lines[0], kPropPenWidth, width);
         DrawingEndUndo(drawing);
     }
     for (const double width : {3.0, 2.0, 1.0}) {
         EXPECT_EQ(DrawingUndo(drawing), 1);
-        EXPECT_EQ(GetReal(lines[0], "PenWidth"), width);
+        EXPECT_EQ(GetReal(lines[0], kPropPenWidth), width);
     }
 }
 
@@ -81,7 +81,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
     const auto step = [&](double width) {
         DrawingBeginUndo(drawing);
         for (GraphicStruct* line : lines)
-            SetReal(line, "PenWidth", width);
+            SetReal(line, kPropPenWidth, width);
         EXPECT_EQ(DrawingEndUndo(drawing), 3);
         return DrawingCountForgotten(drawing);
     };
@@ -91,7 +91,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
     EXPECT_EQ(step(6), 1);
     EXPECT_EQ(DrawingUndo(drawing), 3);
     EXPECT_EQ(DrawingUndo(drawing), 0);
-    EXPECT_EQ(GetReal(lines[2], "PenWidth"), 5);
+    EXPECT_EQ(GetReal(lines[2], kPropPenWidth), 5);
 }
 
 size_t HeapBytes() {
@@ -115,7 +115,7 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
     for (int step = 1; step <= kSteps; ++step) {
         DrawingBeginUndo(drawing);
         for (GraphicStruct* line : lines)
-            SetWhole(line, "PenColor", static_cast<uint32_t>(step));
+            SetWhole(line, kPropPenColor, static_cast<uint32_t>(step));
         DrawingEndUndo(drawing);
     }
     EXPECT_LT((HeapBytes() - before) / kGraphics / kSteps, 30u) << "bytes a graphic and step";
@@ -124,36 +124,36 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
 // The look is saved first, and the shape is about to change only after the look has changed.
 TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
     DrawingBeginUndo(drawing);
-    SetReal(lines[0], "PenWidth", 7);
+    SetReal(lines[0], kPropPenWidth, 7);
     VertexStruct* vertex = VertexNewEx(50, 50, 0);
     GraphicVertexAdd(lines[0], vertex);
     VertexDispose(&vertex);
     EXPECT_EQ(DrawingEndUndo(drawing), 1);
     EXPECT_EQ(DrawingUndo(drawing), 1);
-    EXPECT_EQ(GetReal(lines[0], "PenWidth"), 1);
+    EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 1);
     EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(lines[0], 0)), 1);
 }
 
 TEST_F(Undo, TakesBackAllThatATextLooksLike) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
-    SetReal(text, "TextSize", 3);
+    SetReal(text, kPropTextSize, 3);
     DrawingBeginUndo(drawing);
-    SetReal(text, "TextSize", 4);
-    SetText(text, "TextFont", "Tahoma");
-    SetWhole(text, "TextStyle", 2);
-    SetWhole(text, "TextFormat", 1);
+    SetReal(text, kPropTextSize, 4);
+    SetText(text, kPropTextFont, "Tahoma");
+    SetWhole(text, kPropTextStyle, 2);
+    SetWhole(text, kPropTextFormat, 1);
     EXPECT_EQ(DrawingEndUndo(drawing), 1);
     EXPECT_EQ(DrawingUndo(drawing), 1);
-    EXPECT_EQ(GetReal(text, "TextSize"), 3);
-    EXPECT_NE(GetText(text, "TextFont"), "Tahoma");
-    EXPECT_EQ(GetWhole(text, "TextStyle") + GetWhole(text, "TextFormat"), 0u);
+    EXPECT_EQ(GetReal(text, kPropTextSize), 3);
+    EXPECT_NE(GetText(text, kPropTextFont), "Tahoma");
+    EXPECT_EQ(GetWhole(text, kPropTextStyle) + GetWhole(text, kPropTextFormat), 0u);
 }
 
 TEST_F(Undo, KeepsNoStepInWhichNothingBecameDifferent) {
     DrawingBeginUndo(drawing);
-    SetReal(lines[0], "PenWidth", 5);
-    SetReal(lines[0], "PenWidth", 1);
-    EXPECT_FALSE(SetReal(lines[1], "PenWidth", -1));
+    SetReal(lines[0], kPropPenWidth, 5);
+    SetReal(lines[0], kPropPenWidth, 1);
+    EXPECT_FALSE(SetReal(lines[1], kPropPenWidth, -1));
     EXPECT_EQ(DrawingEndUndo(drawing), 0);
     EXPECT_EQ(DrawingCountUndo(drawing), 0);
 }
@@ -175,15 +175,15 @@ TEST_F(Undo, LeavesOutPreviewsAndOutlivesGraphicsThatGo) {
     GraphicAttach(preview, drawing);
     GraphicAdd(preview, MakeSquare(0, 0, 1));
     uint32_t position;
-    SetReal(GraphicFirst(preview, &position, 1, 0), "PenWidth", 9);
+    SetReal(GraphicFirst(preview, &position, 1, 0), kPropPenWidth, 9);
     GraphicDispose(&preview);
-    SetReal(lines[0], "PenWidth", 9);
-    SetReal(lines[1], "PenWidth", 9);
+    SetReal(lines[0], kPropPenWidth, 9);
+    SetReal(lines[1], kPropPenWidth, 9);
     EXPECT_EQ(DrawingEndUndo(drawing), 2);
     GraphicDelete(drawing.Root(), lines[1]);
     GraphicDispose(&lines[1]);
     EXPECT_EQ(DrawingUndo(drawing), 1);
-    EXPECT_EQ(GetReal(lines[0], "PenWidth"), 1);
+    EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 1);
     drawing.Close();
     EXPECT_TRUE(balance.IsEven());
     EXPECT_FALSE(DrawingBeginUndo(drawing)) << "the drawing is gone";

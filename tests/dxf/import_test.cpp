@@ -199,38 +199,38 @@ TEST(Import, GraphicsLookAsInTheFile) {
         double value;
     };
     const Row rows[] = {
-        {"0|LINE", "PenColor", 0xFFFFFFFD}, // by layer
-        {"0|LINE", "PenStyle", 0xFFFE},
-        {"0|LINE|62|0|6|BYBLOCK", "PenColor", 0xFFFFFFFC},
-        {"0|LINE|62|0|6|BYBLOCK", "PenStyle", 0xFFFD},
-        {"0|LINE|62|3", "PenColor", 0x00FF00},
-        {"0|LINE|62|3|420|16711935", "PenColor", 0xFF00FF},
-        {"0|LINE|420|255", "PenColor", 0xFF0000},
-        {"0|LINE|48|2.5", "PenScale", 2.5},
-        {"0|LINE|370|127", "PenWidth", 0.05}, // inches
-        {"0|LINE|370|127", "ScaleSystem", 2}, // on paper
-        {"0|LINE|8|WALLS", "PenWidth", 25 / 2540.0},
-        {"0|LINE", "PenWidth", 0},
-        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", "PenWidth", 1.5},
-        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", "ScaleSystem", 0}, // in the drawing
-        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", "PenWidth",
+        {"0|LINE", kPropPenColor, 0xFFFFFFFD}, // by layer
+        {"0|LINE", kPropPenStyle, 0xFFFE},
+        {"0|LINE|62|0|6|BYBLOCK", kPropPenColor, 0xFFFFFFFC},
+        {"0|LINE|62|0|6|BYBLOCK", kPropPenStyle, 0xFFFD},
+        {"0|LINE|62|3", kPropPenColor, 0x00FF00},
+        {"0|LINE|62|3|420|16711935", kPropPenColor, 0xFF00FF},
+        {"0|LINE|420|255", kPropPenColor, 0xFF0000},
+        {"0|LINE|48|2.5", kPropPenScale, 2.5},
+        {"0|LINE|370|127", kPropPenWidth, 0.05}, // inches
+        {"0|LINE|370|127", kPropScaleSystem, 2}, // on paper
+        {"0|LINE|8|WALLS", kPropPenWidth, 25 / 2540.0},
+        {"0|LINE", kPropPenWidth, 0},
+        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropPenWidth, 1.5},
+        {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropScaleSystem, 0}, // in the drawing
+        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", kPropPenWidth,
          0}, // its segments have widths of their own
-        {"0|LWPOLYLINE|210|1|220|1|230|1|43|1.5|10|0|20|0|42|1|10|1|20|0", "PenWidth", 1.5}, // tilted
-        {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", "PenAlignment", 0},
-        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushStyle", 1},
-        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", "BrushColor", 0xFFFFFFFB}, // as the pen
-        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", "BrushStyle", 1},
-        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", "PenStyle", 0},
-        {"0|CIRCLE|40|1|8|WALLS", "Layer", 2},
-        {"0|TEXT|40|3|1|x", "TextSize", 3},
-        {"0|TEXT|40|3|1|x|72|2", "TextFormat", 2},
-        {"0|TEXT|40|3|1|%%ux", "TextStyle", 0x100},
-        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", "TextStyle", 0x100},
-        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", "TextSize", 6},
-        {"0|MTEXT|40|3|1|\\C2;x", "PenColor", 0x00FFFF},
-        {"0|MTEXT|40|3|1|x|71|6", "TextFormat", 2},
-        {"0|MTEXT|40|3|1|\\pxi1,qc,t2;x|71|1", "TextFormat", 1},
-        {"0|MTEXT|40|3|1|\\pql;x|71|6", "TextFormat", 0},
+        {"0|LWPOLYLINE|210|1|220|1|230|1|43|1.5|10|0|20|0|42|1|10|1|20|0", kPropPenWidth, 1.5}, // tilted
+        {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", kPropPenAlignment, 0},
+        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", kPropBrushStyle, 1},
+        {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", kPropBrushColor, 0xFFFFFFFB}, // as the pen
+        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", kPropBrushStyle, 1},
+        {"0|HATCH|70|1|91|1|92|2|10|0|20|0|10|1|20|0|10|0|20|1", kPropPenStyle, 0},
+        {"0|CIRCLE|40|1|8|WALLS", kPropLayer, 2},
+        {"0|TEXT|40|3|1|x", kPropTextSize, 3},
+        {"0|TEXT|40|3|1|x|72|2", kPropTextFormat, 2},
+        {"0|TEXT|40|3|1|%%ux", kPropTextStyle, 0x100},
+        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", kPropTextStyle, 0x100},
+        {"0|MTEXT|40|3|1|\\L\\H2x;x|71|5", kPropTextSize, 6},
+        {"0|MTEXT|40|3|1|\\C2;x", kPropPenColor, 0x00FFFF},
+        {"0|MTEXT|40|3|1|x|71|6", kPropTextFormat, 2},
+        {"0|MTEXT|40|3|1|\\pxi1,qc,t2;x|71|1", kPropTextFormat, 1},
+        {"0|MTEXT|40|3|1|\\pql;x|71|6", kPropTextFormat, 0},
     };
     for (const Row& row : rows) {
         const OwnedDrawing drawing = OpenText(Drawing2007(std::string(row.entity)));
@@ -311,11 +311,11 @@ TEST(Import, HatchesOfOnePatternShareItsStyle) {
         hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 3u);
-    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[0], "BrushStyle")), "Brick");
-    EXPECT_EQ(Number(members[1], "BrushStyle"), Number(members[0], "BrushStyle"));
-    EXPECT_EQ(Number(members[1], "BrushScale"), 10);
-    EXPECT_NEAR(Number(members[1], "BrushAngle"), drawcore::kPi / 2, 1e-12);
-    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[2], "BrushStyle")), "Brick 2");
+    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[0], kPropBrushStyle)), "Brick");
+    EXPECT_EQ(Number(members[1], kPropBrushStyle), Number(members[0], kPropBrushStyle));
+    EXPECT_EQ(Number(members[1], kPropBrushScale), 10);
+    EXPECT_NEAR(Number(members[1], kPropBrushAngle), drawcore::kPi / 2, 1e-12);
+    EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[2], kPropBrushStyle)), "Brick 2");
 }
 
 TEST(Import, AttributesBelongToTheirInsertion) {

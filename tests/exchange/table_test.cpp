@@ -2,6 +2,7 @@
 
 #include "exchange_dialog.h"
 
+#include "orlo/binding/indeterminate.h"
 #include "orlo/controls/combo_control.h"
 #include "orlo/exchange/ddx_table.h"
 #include "support/test_drawing.h"
@@ -91,13 +92,13 @@ TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
 }
 
 TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
-    unsigned int value = 0xFFFFFFFF;
-    unsigned long color = 0xFFFFFFFF;
+    unsigned int value = kIndeterminateId;
+    unsigned long color = kIndeterminateId;
     EXPECT_EQ(1, DDX_LBTableIndex(1, &m_save, IDC_LIST, value));
     EXPECT_EQ(1, DDX_CBTableIndex(1, &m_save, IDC_COMBO, value));
     EXPECT_EQ(1, DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, color));
-    EXPECT_EQ(0xFFFFFFFFu, value);
-    EXPECT_EQ(0xFFFFFFFFu, color);
+    EXPECT_EQ(kIndeterminateId, value);
+    EXPECT_EQ(kIndeterminateId, color);
 }
 
 TEST_F(TableExchange, ComboKeysGoBothWays) {
@@ -121,7 +122,7 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
     const struct {
         unsigned long color;
         int index;
-    } rows[] = {{0xFFFFFFFD, 1}, {0xFF, 2}, {0xFFFFFFFB, 3}, {0xFFFFFFFF, -1}, {0x00123456, -1}};
+    } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorMixed, -1}, {0x00123456, -1}};
     for (const auto& row : rows) {
         unsigned long value = row.color;
         EXPECT_EQ(1, DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value));
@@ -168,9 +169,9 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
         EXPECT_EQ(-1, control.GetCurSel()) << none;
     }
     SetText(IDC_COMBO, "");
-    value = 0xFFFFFFFF;
+    value = kIndeterminateId;
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(0xFFFFFFFFu, value) << "a mixed value survives";
+    EXPECT_EQ(kIndeterminateId, value) << "a mixed value survives";
 
     // The host closes the drawing: its table answers as an empty one.
     m_drawing.Close();

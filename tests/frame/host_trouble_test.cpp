@@ -90,7 +90,7 @@ TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
 
 TEST(HostTrouble, ASheetWhoseFirstPageCannotBeReadOpensOnTheNext) {
     GraphicKit kit;
-    kit.Add({{"Info", "wall"}}).onGet = ThrowStandard;
+    kit.Add({{kPropInfo, "wall"}}).onGet = ThrowStandard;
     TestSheet sheet(kit);
     const WidthPage page(sheet);
     MessageBoxWatcher boxes;

@@ -52,8 +52,8 @@ private:
 class LibraryLife : public ::testing::Test {
 protected:
     LibraryLife() {
-        kit.Add({{"PenWidth", 1.0}, {"PenScale", 1.0}});
-        kit.Add({{"TextSize", 1.0}}, kGraphicText);
+        kit.Add({{kPropPenWidth, 1.0}, {kPropPenScale, 1.0}});
+        kit.Add({{kPropTextSize, 1.0}}, kGraphicText);
     }
 
     // General, Pen, Brush and Text are whole, and a pen is written.
@@ -65,7 +65,7 @@ protected:
             user.Type(IDC_PEN_SCALE, std::to_string(scale));
             user.Ok();
         }));
-        EXPECT_EQ(scale, kit[0].Number("PenScale"));
+        EXPECT_EQ(scale, kit[0].Number(kPropPenScale));
     }
 
     GraphicKit kit;
@@ -94,7 +94,8 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
     if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
     // A copy that has not been hooked up to the framework yet is not there by the one before it.
     const HMODULE fresh = ::LoadLibraryA("orlo.dll");
-    EXPECT_NE(fresh, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
+    EXPECT_NE(fresh,
+              AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
     ::FreeLibrary(fresh);
 }
 

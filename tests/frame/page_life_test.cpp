@@ -24,7 +24,8 @@ struct Fixture : ::testing::Test {
     }
 
     void Send(SheetDriver& user, int id, int code) {
-        ::SendMessageA(user.Page(), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(user.Control(id)));
+        ::SendMessageA(user.Page(), WM_COMMAND, MAKEWPARAM(id, code),
+                       reinterpret_cast<LPARAM>(user.Control(id)));
     }
 
     GraphicKit kit;
@@ -150,14 +151,15 @@ TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
     page->onPreview = [&](ExchangePage& self, int) {
         CDataExchange save(&self, TRUE);
         double value = 0;
-        if (DDX_Text(0, &save, kEdit, value)) self.SetPropText("PenWidth", value, 1);
+        if (DDX_Text(0, &save, kEdit, value)) self.SetPropText(kPropPenWidth, value, 1);
     };
-    kit[0].properties["PenWidth"] = 1.0;
+    kit[0].properties[kPropPenWidth] = 1.0;
     sheet->Run([&](SheetDriver& user) {
-        for (const char* typed : {"2", "3.5", "half-typed", "7"}) user.Type(kEdit, typed);
+        for (const char* typed : {"2", "3.5", "half-typed", "7"})
+            user.Type(kEdit, typed);
         EXPECT_EQ(0, kit.Writes());
         double shown = 0;
-        EXPECT_EQ(1, page->GetPropText("PenWidth", &shown, 1));
+        EXPECT_EQ(1, page->GetPropText(kPropPenWidth, &shown, 1));
         EXPECT_EQ(7, shown);
     });
     EXPECT_EQ(0, kit.Writes());

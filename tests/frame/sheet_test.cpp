@@ -224,7 +224,7 @@ TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
 TEST(ManySheets, LeaveNothingBehind) {
     GraphicKit kit;
     HostFrame frame(kit.Drawing());
-    kit.Add({{"PenWidth", 1.0}, {"PenColor", 255}});
+    kit.Add({{kPropPenWidth, 1.0}, {kPropPenColor, 255}});
     const auto cycle = [&] {
         TestSheet sheet(kit);
         ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());

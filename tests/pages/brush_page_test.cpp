@@ -32,17 +32,17 @@ constexpr double kDegree = 0.017453292519943295;
 
 class BrushPage : public ::testing::Test {
 protected:
-    BrushPage() : frame(kit.Drawing()), styles(::DrawingGetTable(kit.Drawing(), "_BrushStyles_")) {}
+    BrushPage() : frame(kit.Drawing()), styles(::DrawingGetTable(kit.Drawing(), kTableBrushStyles)) {}
 
     uint16_t Style(const char* name) { return ::TableEntryGetIDFirst(styles, nullptr, name); }
 
     KitGraphic& Add(unsigned int style, unsigned int color, double scale, double angle, int cross, int mode) {
-        return kit.Add({{"BrushStyle", static_cast<double>(style)},
-                        {"BrushColor", static_cast<double>(color)},
-                        {"BrushScale", scale},
-                        {"BrushAngle", angle},
-                        {"HatchCross", cross},
-                        {"BrushDrawMode", mode}});
+        return kit.Add({{kPropBrushStyle, static_cast<double>(style)},
+                        {kPropBrushColor, static_cast<double>(color)},
+                        {kPropBrushScale, scale},
+                        {kPropBrushAngle, angle},
+                        {kPropHatchCross, cross},
+                        {kPropBrushDrawMode, mode}});
     }
 
     void AddMixed() {
@@ -124,13 +124,13 @@ TEST_F(BrushPage, OneEditOverMixedBrushesChangesOneProperty) {
         std::function<void(SheetDriver&)> edit;
         double expected;
     } const edits[] = {
-        {"BrushStyle", [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); },
+        {kPropBrushStyle, [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); },
          static_cast<double>(Style("Horizontal"))},
-        {"BrushScale", [](SheetDriver& user) { user.Type(IDC_BRUSH_SCALE, "4.5"); }, 4.5},
-        {"BrushAngle", [](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "60"); }, 60 * kDegree},
-        {"HatchCross", [](SheetDriver& user) { user.Click(IDC_HATCH_CROSS); }, 0},
-        {"BrushDrawMode", [](SheetDriver& user) { user.Click(IDC_DRAW_ALTERNATE); }, 0},
-        {"BrushColor", [](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); }, 0x333333},
+        {kPropBrushScale, [](SheetDriver& user) { user.Type(IDC_BRUSH_SCALE, "4.5"); }, 4.5},
+        {kPropBrushAngle, [](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "60"); }, 60 * kDegree},
+        {kPropHatchCross, [](SheetDriver& user) { user.Click(IDC_HATCH_CROSS); }, 0},
+        {kPropBrushDrawMode, [](SheetDriver& user) { user.Click(IDC_DRAW_ALTERNATE); }, 0},
+        {kPropBrushColor, [](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); }, 0x333333},
     };
     Add(Style("Cross"), kRed, 2, 30 * kDegree, 1, 1);
     Add(Style("Cross"), kBlue, 3, 45 * kDegree, 0, 0);
@@ -199,7 +199,7 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
                   user.Type(IDC_BRUSH_ANGLE, "steep");
                   user.Ok();
               }));
-    EXPECT_NEAR(30 * kDegree, kit[0].Number("BrushAngle"), 1e-9);
+    EXPECT_NEAR(30 * kDegree, kit[0].Number(kPropBrushAngle), 1e-9);
 }
 
 // One unit of the drawing's angular system further, in whatever form the angle is written, and round at a full turn.
@@ -224,11 +224,11 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
                       user.Type(IDC_BRUSH_ANGLE, row.text);
                       user.Key(row.key);
                       double shown = -1;
-                      page.GetPropText("BrushAngle", &shown, 1);
+                      page.GetPropText(kPropBrushAngle, &shown, 1);
                       EXPECT_NEAR(row.expected, shown, 1e-6) << user.Text(IDC_BRUSH_ANGLE);
                       user.Ok();
                   }));
-        EXPECT_NEAR(row.expected, kit[0].Number("BrushAngle"), 1e-6);
+        EXPECT_NEAR(row.expected, kit[0].Number(kPropBrushAngle), 1e-6);
     }
     Run([](SheetDriver& user, CGraphicPropertyPage&) {
         user.Type(IDC_BRUSH_ANGLE, "steep");
@@ -247,13 +247,13 @@ TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
             page.GetPropText(property, &value, 1);
             return value;
         };
-        EXPECT_NEAR(std::sqrt(2.0) / 20, shown("BrushScale"), 1e-6) << "two families of spacing 1";
+        EXPECT_NEAR(std::sqrt(2.0) / 20, shown(kPropBrushScale), 1e-6) << "two families of spacing 1";
         ChooseStyle(user, Style("Vertical"));
-        EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6);
+        EXPECT_NEAR(1.0 / 20, shown(kPropBrushScale), 1e-6);
         user.Type(IDC_BRUSH_ANGLE, "90");
-        EXPECT_NEAR(90 * kDegree, shown("BrushAngle"), 1e-9);
+        EXPECT_NEAR(90 * kDegree, shown(kPropBrushAngle), 1e-9);
         user.Type(IDC_BRUSH_SCALE, "7");
-        EXPECT_NEAR(1.0 / 20, shown("BrushScale"), 1e-6) << "never the user's";
+        EXPECT_NEAR(1.0 / 20, shown(kPropBrushScale), 1e-6) << "never the user's";
     });
     EXPECT_EQ(0, kit.Writes());
 }

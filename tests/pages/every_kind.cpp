@@ -59,7 +59,7 @@ void EveryKind::AddShape(int i) {
     ::GraphicSetPenWidth(shape, 0.01 * (i + 1));
     ::GraphicSetBrushStyle(shape, kCross); // or the page had nothing to type into
     ::GraphicSetBrushScale(shape, i + 1.0);
-    SetProperty(shape, "BrushDrawMode", static_cast<uint16_t>(i));
+    SetProperty(shape, kPropBrushDrawMode, static_cast<uint16_t>(i));
     Add(shape);
 }
 
@@ -68,7 +68,7 @@ void EveryKind::AddText(int i) {
     VertexStruct* vertex = ::VertexNewEx(0, i, 0);
     ::TextSetVWHAEx(text, vertex, 0, i + 1.0, 0, i ? "Section" : "Plan");
     ::VertexDispose(&vertex);
-    SetProperty(text, "TextFormat", static_cast<uint16_t>(i));
+    SetProperty(text, kPropTextFormat, static_cast<uint16_t>(i));
     Add(text);
 }
 
@@ -87,10 +87,10 @@ void EveryKind::AddInsertion(int i) {
 std::unique_ptr<CGraphicPropertySheet> EveryKind::NewSheet() const {
     ::PropPageInit();
     std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(nullptr, nullptr, Drawing(), m_selection, 0xFFFFFFFF));
+        ::InitGraphicPropertySheet(nullptr, nullptr, Drawing(), m_selection, kAllGraphics));
     uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(m_selection, &position, 1, 0xFFFFFFFF); graphic != nullptr;
-         graphic = ::GraphicNext(m_selection, &position, 1, 0xFFFFFFFF))
+    for (GraphicStruct* graphic = ::GraphicFirst(m_selection, &position, 1, kAllGraphics); graphic != nullptr;
+         graphic = ::GraphicNext(m_selection, &position, 1, kAllGraphics))
         ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
     return sheet;
 }

@@ -23,13 +23,13 @@ bool IsEnabled(SheetDriver& user, int id) {
 
 class GeneralPage : public ::testing::Test {
 protected:
-    GeneralPage() : frame(kit.Drawing()), layers(::DrawingGetTable(kit.Drawing(), "_Layers_")) {
+    GeneralPage() : frame(kit.Drawing()), layers(::DrawingGetTable(kit.Drawing(), kTableLayers)) {
         walls = ::TableEntryAdd(layers, "Walls", nullptr);
         doors = ::TableEntryAdd(layers, "Doors", nullptr);
     }
 
     void Add(unsigned int layer, const char* info) {
-        kit.Add({{"Layer", static_cast<double>(layer)}, {"Info", info}});
+        kit.Add({{kPropLayer, static_cast<double>(layer)}, {kPropInfo, info}});
     }
 
     int Run(const SheetDriver::Script& script) { return TestSheet(kit).Run(script); }
@@ -72,9 +72,9 @@ TEST_F(GeneralPage, KeepsMixedValuesThatNobodyTouched) {
                   user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
                   user.Ok();
               }));
-    EXPECT_EQ("a", kit[0].Text("Info"));
-    EXPECT_EQ("b", kit[1].Text("Info"));
-    EXPECT_EQ(walls, kit[0].Number("Layer"));
+    EXPECT_EQ("a", kit[0].Text(kPropInfo));
+    EXPECT_EQ("b", kit[1].Text(kPropInfo));
+    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
 }
 
 TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
@@ -84,27 +84,27 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
         user.Type(IDC_INFO, "both");
         user.Ok();
     });
-    EXPECT_EQ("both", kit[0].Text("Info"));
-    EXPECT_EQ("both", kit[1].Text("Info"));
-    EXPECT_EQ(walls, kit[0].Number("Layer"));
-    EXPECT_EQ(doors, kit[1].Number("Layer"));
+    EXPECT_EQ("both", kit[0].Text(kPropInfo));
+    EXPECT_EQ("both", kit[1].Text(kPropInfo));
+    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
+    EXPECT_EQ(doors, kit[1].Number(kPropLayer));
     Run([&](SheetDriver& user) {
         user.Choose(IDC_LAYER, 1);
         EXPECT_EQ("Walls", LayerShown(user));
         user.Ok();
     });
-    EXPECT_EQ(walls, kit[1].Number("Layer"));
+    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
     Run([&](SheetDriver& user) {
         user.Choose(IDC_LAYER, 2);
         user.Cancel();
     });
-    EXPECT_EQ(walls, kit[1].Number("Layer"));
+    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
 }
 
 // Three styles of one tree, one of them reserved, and a block of another tree.
 class StylePart : public GeneralPage {
 protected:
-    StylePart() : styles(::DrawingGetTable(kit.Drawing(), "_Blocks_")) {
+    StylePart() : styles(::DrawingGetTable(kit.Drawing(), kTableBlocks)) {
         beam = AddStyle("Beam", "Steel");
         column = AddStyle("Column", "Steel");
         standard = AddStyle("Standard", "Steel");
@@ -208,7 +208,7 @@ TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
     GraphicStruct* copy = ::BlockGetGraphic(styles, girder);
     EXPECT_NE(::BlockGetGraphic(styles, beam), copy);
     uint32_t position;
-    EXPECT_NE(nullptr, ::GraphicFirst(copy, &position, 1, 0xFFFFFFFF));
+    EXPECT_NE(nullptr, ::GraphicFirst(copy, &position, 1, kAllGraphics));
 }
 
 TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {

@@ -83,7 +83,7 @@ protected:
     int Run(std::function<void(SheetDriver&, CGraphicPropertyPage&)> script) {
         HostFrame frame(drawing.Get());
         const std::unique_ptr<CGraphicPropertySheet> sheet(
-            ::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(), selection, 0xFFFFFFFF));
+            ::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(), selection, kAllGraphics));
         for (GraphicStruct* graphic : insertions)
             ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
         EXPECT_EQ(2, sheet->GetPageCount()) << "one page for all of them";
@@ -229,14 +229,14 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     const Vertices before = All();
     ::DrawingBeginUndo(drawing.Get());
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_NE(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+                  EXPECT_NE(0, ::BlocksFindBlock(blocks, kPreviewBlock));
                   for (const int id : kAll)
                       Paste(user, id, "9");
                   user.Cancel();
               }));
     EXPECT_EQ(before, All());
     EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
-    EXPECT_EQ(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
     int cookie = 0;
     EXPECT_EQ(block, ::TableEntryFirst(blocks, &cookie));
     EXPECT_EQ(0, ::TableEntryNext(blocks, &cookie)) << "no other block";
@@ -335,12 +335,12 @@ TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
 
 TEST_F(InsertPage, UsesAPreviewBlockThatIsThereAndRemovesIt) {
     Add({{0, 0, 0}, {1, 1, 1}, {0, 0, 0}});
-    const uint16_t own = ::BlocksAddBlock(blocks, "$PREVIEW_BLOCK", ::GraphicNewEx(kGraphicVertices, 0, 1));
+    const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
     Run([&](SheetDriver&, CGraphicPropertyPage& page) {
-        EXPECT_EQ(own, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+        EXPECT_EQ(own, ::BlocksFindBlock(blocks, kPreviewBlock));
         EXPECT_NE(nullptr, page.GetPreviewGraphic());
     });
-    EXPECT_EQ(0, ::BlocksFindBlock(blocks, "$PREVIEW_BLOCK"));
+    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
 }
 
 } // namespace

@@ -31,8 +31,8 @@ protected:
         ::PropPageInit();
         uint32_t position;
         GraphicStruct* root = ::DrawingGetRoot(drawing);
-        for (GraphicStruct* graphic = ::GraphicFirst(root, &position, 1, 0xFFFFFFFF); graphic != nullptr;
-             graphic = ::GraphicNext(root, &position, 1, 0xFFFFFFFF)) {
+        for (GraphicStruct* graphic = ::GraphicFirst(root, &position, 1, kAllGraphics); graphic != nullptr;
+             graphic = ::GraphicNext(root, &position, 1, kAllGraphics)) {
             ::SelectionAdd(selection, graphic);
             graphics.push_back(graphic);
         }
@@ -45,7 +45,7 @@ protected:
 
     int RunSheet(std::function<void(SheetDriver&)> script) {
         const std::unique_ptr<CGraphicPropertySheet> sheet(
-            ::InitGraphicPropertySheet(frame.get(), nullptr, drawing, selection, 0xFFFFFFFF));
+            ::InitGraphicPropertySheet(frame.get(), nullptr, drawing, selection, kAllGraphics));
         for (GraphicStruct* graphic : graphics)
             ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
         return SheetDriver().Run(*sheet, [&](SheetDriver& user) {

@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr const char* kProperties[] = {"PenColor", "PenWidth",    "PenScale",
-                                       "PenStyle", "ScaleSystem", "PenAlignment"};
+constexpr const char* kProperties[] = {kPropPenColor, kPropPenWidth,    kPropPenScale,
+                                       kPropPenStyle, kPropScaleSystem, kPropPenAlignment};
 
 using Pen = std::map<std::string, double>;
 
@@ -27,7 +27,7 @@ Pen PenOf(GraphicStruct* graphic) {
         uint32_t integer = 0;
         if (table == nullptr || !table->PropLookup(graphic, &name, 1, 0, &number)) continue;
         if (table->PropGet(graphic, number, VT_UI4, &integer)) value = integer;
-        if (std::string(name) == "PenWidth" || std::string(name) == "PenScale")
+        if (std::string(name) == kPropPenWidth || std::string(name) == kPropPenScale)
             table->PropGet(graphic, number, VT_R8, &value);
         pen[name] = value;
     }
@@ -73,14 +73,14 @@ TEST_F(PenOverDrawing, ChangesReachEveryPenAndNothingElseAndUndoTakesThemBack) {
         const std::vector<Pen> after = Pens();
         const double color = [&] {
             for (const Pen& pen : after)
-                if (pen.count("PenColor")) return pen.at("PenColor");
+                if (pen.count(kPropPenColor)) return pen.at(kPropPenColor);
             return -1.0;
         }();
         for (size_t i = 0; i < after.size(); ++i) {
             Pen expected = before[i];
-            if (expected.count("PenColor")) expected["PenColor"] = color;
-            if (expected.count("PenWidth")) expected["PenWidth"] = step.stored;
-            if (expected.count("ScaleSystem")) expected["ScaleSystem"] = step.system == 0 ? 0 : 2;
+            if (expected.count(kPropPenColor)) expected[kPropPenColor] = color;
+            if (expected.count(kPropPenWidth)) expected[kPropPenWidth] = step.stored;
+            if (expected.count(kPropScaleSystem)) expected[kPropScaleSystem] = step.system == 0 ? 0 : 2;
             ASSERT_EQ(expected.size(), after[i].size());
             for (const auto& [name, value] : expected)
                 ASSERT_NEAR(value, after[i].at(name), 1e-6) << i << " " << name;

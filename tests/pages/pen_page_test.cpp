@@ -28,7 +28,7 @@ constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colours
 class PenPage : public ::testing::Test {
 protected:
     PenPage() : frame(kit.Drawing()) {
-        styles = ::DrawingGetTable(kit.Drawing(), "_LineStyles_");
+        styles = ::DrawingGetTable(kit.Drawing(), kTableLineStyles);
         const double dashes[] = {0.5, -0.25};
         dashed = ::LineStyleAdd(styles, "DASHED", nullptr, dashes, 2);
         ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "mm");
@@ -37,12 +37,12 @@ protected:
 
     KitGraphic& Add(double width, unsigned int color, double scale, unsigned int style, int system,
                     int alignment) {
-        return kit.Add({{"PenWidth", width},
-                        {"PenColor", static_cast<double>(color)},
-                        {"PenScale", scale},
-                        {"PenStyle", static_cast<double>(style)},
-                        {"ScaleSystem", system},
-                        {"PenAlignment", alignment}});
+        return kit.Add({{kPropPenWidth, width},
+                        {kPropPenColor, static_cast<double>(color)},
+                        {kPropPenScale, scale},
+                        {kPropPenStyle, static_cast<double>(style)},
+                        {kPropScaleSystem, system},
+                        {kPropPenAlignment, alignment}});
     }
 
     void AddEqual() {
@@ -52,7 +52,7 @@ protected:
 
     void AddMixed() {
         Add(1 / kInch, 0x0000FF, 2.0, dashed, 2, 1);
-        Add(2 / kInch, 0x00FF00, 3.0, 65534, 0, 0);
+        Add(2 / kInch, 0x00FF00, 3.0, kLineStyleByLayer, 0, 0);
     }
 
     // Opens the sheet over the kit on its Pen page.
@@ -129,18 +129,18 @@ struct Edit {
 // One control changed over a mixed selection: its property reaches both, all others stay each graphic's own.
 TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
     const Edit kEdits[] = {
-        {"color", [](SheetDriver& user) { user.Choose(IDC_COLOR, 0); }, "PenColor", kDarkest},
-        {"width", [](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "5 mm"); }, "PenWidth", 5 / kInch},
-        {"scale", [](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "4.5"); }, "PenScale", 4.5},
+        {"color", [](SheetDriver& user) { user.Choose(IDC_COLOR, 0); }, kPropPenColor, kDarkest},
+        {"width", [](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "5 mm"); }, kPropPenWidth, 5 / kInch},
+        {"scale", [](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "4.5"); }, kPropPenScale, 4.5},
         {"style",
          [&](SheetDriver& user) {
              user.Focus(IDC_LINE_STYLE_LIST);
              user.Key(VK_END); // without a selection the first key selects where the caret is
              user.Key(VK_END);
          },
-         "PenStyle", 65534},
-        {"system", [](SheetDriver& user) { user.Choose(IDC_SCALE_SYSTEM, 1); }, "ScaleSystem", 2},
-        {"alignment", [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, "PenAlignment", 0},
+         kPropPenStyle, kLineStyleByLayer},
+        {"system", [](SheetDriver& user) { user.Choose(IDC_SCALE_SYSTEM, 1); }, kPropScaleSystem, 2},
+        {"alignment", [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, kPropPenAlignment, 0},
     };
     AddMixed();
     for (const Edit& edit : kEdits) {
@@ -174,7 +174,7 @@ TEST_F(PenPage, TheWidthIsExpressedAnewWhenTheScaleSystemChanges) {
         EXPECT_EQ(paper, user.Text(IDC_PEN_WIDTH));
         user.Ok();
     });
-    EXPECT_NEAR(1 / kInch, kit[0].Number("PenWidth"), 1e-9);
+    EXPECT_NEAR(1 / kInch, kit[0].Number(kPropPenWidth), 1e-9);
 }
 
 struct IniCase {
@@ -237,7 +237,7 @@ TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
                   user.Type(IDC_PEN_WIDTH, "0000.0625000000000000 in");
                   user.Ok();
               }));
-    EXPECT_NEAR(0.0625, kit[0].Number("PenWidth"), 1e-9);
+    EXPECT_NEAR(0.0625, kit[0].Number(kPropPenWidth), 1e-9);
 }
 
 // A unit that the host does not know: there is no text for a width on paper.
@@ -255,8 +255,8 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
                   user.Ok();
               }));
     EXPECT_TRUE(boxes.Boxes().empty());
-    EXPECT_EQ(4, kit[0].Number("PenScale"));
-    EXPECT_EQ(1 / kInch, kit[0].Number("PenWidth"));
+    EXPECT_EQ(4, kit[0].Number(kPropPenScale));
+    EXPECT_EQ(1 / kInch, kit[0].Number(kPropPenWidth));
 }
 
 TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
@@ -269,7 +269,7 @@ TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
         user.Type(IDC_PEN_SCALE, "1");
         user.Ok();
     });
-    EXPECT_EQ(1, kit[0].Number("PenScale"));
+    EXPECT_EQ(1, kit[0].Number(kPropPenScale));
 }
 
 // The mixed state is left at the first click, for the other of the last definite state, and never comes back.
@@ -296,8 +296,8 @@ TEST_F(PenPage, NamesEveryKindOfStyle) {
         GraphicKit other;
         HostFrame otherFrame(other.Drawing());
         const double dashes[] = {0.5, -0.25};
-        ::LineStyleAdd(::DrawingGetTable(other.Drawing(), "_LineStyles_"), "DASHED", nullptr, dashes, 2);
-        other.Add({{"PenStyle", static_cast<double>(style)}});
+        ::LineStyleAdd(::DrawingGetTable(other.Drawing(), kTableLineStyles), "DASHED", nullptr, dashes, 2);
+        other.Add({{kPropPenStyle, static_cast<double>(style)}});
         TestSheet sheet(other);
         ::AddGraphicPropertyPage(nullptr, other[0].graphic, &sheet.Sheet());
         sheet.Run([&, name = name](SheetDriver& user) { EXPECT_EQ(name, user.Text(IDC_PEN_STYLE_TEXT)); });
@@ -310,22 +310,22 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
         unsigned long color = 1;
         double width = 0, scale = 0;
-        EXPECT_EQ(1, page.GetPropText("PenColor", &color, 1));
+        EXPECT_EQ(1, page.GetPropText(kPropPenColor, &color, 1));
         EXPECT_EQ(0xFFul, color);
         user.Choose(IDC_COLOR, 0);
-        page.GetPropText("PenColor", &color, 1);
+        page.GetPropText(kPropPenColor, &color, 1);
         EXPECT_EQ(kDarkest, color);
         user.Type(IDC_PEN_WIDTH, "3 mm");
-        page.GetPropText("PenWidth", &width, 1);
+        page.GetPropText(kPropPenWidth, &width, 1);
         EXPECT_NEAR(3 / kInch, width, 1e-9);
         user.Type(IDC_PEN_WIDTH, "3 m?");
         user.Type(IDC_PEN_SCALE, "0.5");
-        page.GetPropText("PenScale", &scale, 1);
+        page.GetPropText(kPropPenScale, &scale, 1);
         EXPECT_NEAR(0.5, scale, 1e-9);
         unsigned int style = 0;
         user.Focus(IDC_LINE_STYLE_LIST);
         user.Key(VK_END);
-        page.GetPropText("PenStyle", &style, 1);
+        page.GetPropText(kPropPenStyle, &style, 1);
         EXPECT_EQ(65534u, style);
         EXPECT_EQ(0, kit.Writes());
     });
@@ -344,7 +344,7 @@ TEST_F(PenPage, OutlivesTheStyleTable) {
                   user.Type(IDC_PEN_SCALE, "3");
                   user.Ok();
               }));
-    EXPECT_EQ(3, kit[0].Number("PenScale"));
+    EXPECT_EQ(3, kit[0].Number(kPropPenScale));
 }
 
 } // namespace

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr const char* kProperties[] = {"TextFont", "TextSize",   "TextStyle",
-                                       "PenColor", "TextFormat", "Layer"};
+constexpr const char* kProperties[] = {kPropTextFont, kPropTextSize,   kPropTextStyle,
+                                       kPropPenColor, kPropTextFormat, kPropLayer};
 
 using Values = std::map<std::string, std::string>;
 
@@ -49,7 +49,7 @@ TEST_F(TextOverDrawing, AnUntouchedPageLeavesEveryTextAsItWas) {
     const std::vector<Values> before = All();
     size_t texts = 0;
     for (const Values& values : before)
-        texts += values.count("TextFont");
+        texts += values.count(kPropTextFont);
     ASSERT_GT(texts, 5u);
     EXPECT_EQ(IDOK, RunSheet([](SheetDriver& user) { user.Ok(); }));
     EXPECT_EQ(before, All());
@@ -72,11 +72,11 @@ TEST_F(TextOverDrawing, ChangesReachEveryTextAndUndoTakesThemBack) {
     const std::vector<Values> after = All();
     for (size_t i = 0; i < before.size(); ++i) {
         Values expected = before[i];
-        if (expected.count("TextFont")) {
-            expected["TextFont"] = face;
-            expected["TextSize"] = std::to_string(7.5);
-            expected["TextFormat"] = "2";
-            expected["TextStyle"] = std::to_string(std::stoi(before[i].at("TextStyle")) | 0x100);
+        if (expected.count(kPropTextFont)) {
+            expected[kPropTextFont] = face;
+            expected[kPropTextSize] = std::to_string(7.5);
+            expected[kPropTextFormat] = "2";
+            expected[kPropTextStyle] = std::to_string(std::stoi(before[i].at(kPropTextStyle)) | 0x100);
         }
         EXPECT_EQ(expected, after[i]) << i;
     }

@@ -45,7 +45,7 @@ protected:
         ini = std::string(folder) + "text_page.ini";
         std::ofstream(ini) << "[FontSizes]\nmm=2.5,3.5,5\n";
         ::AppSetINIFileName(ini.c_str());
-        TableStruct* units = ::DrawingGetTable(kit.Drawing(), "_Units_");
+        TableStruct* units = ::DrawingGetTable(kit.Drawing(), kTableUnits);
         ::TableSetStringVar(units, kUnitTextSize, "mm");
         ::TableSetStringVar(units, kUnitFontName, kSans);
     }
@@ -55,11 +55,11 @@ protected:
     }
 
     KitGraphic& Add(const char* font, double size, int style, unsigned int color, int format) {
-        return kit.Add({{"TextFont", font},
-                        {"TextSize", size},
-                        {"TextStyle", style},
-                        {"PenColor", static_cast<double>(color)},
-                        {"TextFormat", format}},
+        return kit.Add({{kPropTextFont, font},
+                        {kPropTextSize, size},
+                        {kPropTextStyle, style},
+                        {kPropPenColor, static_cast<double>(color)},
+                        {kPropTextFormat, format}},
                        kGraphicText);
     }
     void AddMixed() {
@@ -142,8 +142,8 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
     for (int i = 0; i < 5; ++i) {
         for (const int clicks : {1, 2}) { // out of the mixed state to off, and on to on
             SCOPED_TRACE(kEffects[i] * 10 + clicks);
-            a.properties["TextStyle"] = 0x2A15;
-            b.properties["TextStyle"] = 0xFFFF & ~0x2A15;
+            a.properties[kPropTextStyle] = 0x2A15;
+            b.properties[kPropTextStyle] = 0xFFFF & ~0x2A15;
             a.writes.clear();
             b.writes.clear();
             EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
@@ -152,8 +152,8 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
                           user.Ok();
                       }));
             const int bit = kEffectBits[i], set = clicks == 2 ? bit : 0;
-            EXPECT_EQ((0x2A15 & ~bit) | set, a.Number("TextStyle"));
-            EXPECT_EQ((0xFFFF & ~0x2A15 & ~bit) | set, b.Number("TextStyle"));
+            EXPECT_EQ((0x2A15 & ~bit) | set, a.Number(kPropTextStyle));
+            EXPECT_EQ((0xFFFF & ~0x2A15 & ~bit) | set, b.Number(kPropTextStyle));
             EXPECT_EQ(1u, a.writes.size());
         }
     }
@@ -167,8 +167,8 @@ TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
                   user.Choose(IDC_FONT_STYLE, 3);
                   user.Ok();
               }));
-    EXPECT_EQ(0x2103, a.Number("TextStyle"));
-    EXPECT_EQ(0x0047, b.Number("TextStyle"));
+    EXPECT_EQ(0x2103, a.Number(kPropTextStyle));
+    EXPECT_EQ(0x0047, b.Number(kPropTextStyle));
 }
 
 TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
@@ -178,10 +178,10 @@ TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
         std::function<void(SheetDriver&)> edit;
         KitValue expected;
     } const edits[] = {
-        {"TextFont", [](SheetDriver& user) { ChooseFont(user, kSerif); }, kSerif},
-        {"TextSize", [](SheetDriver& user) { user.Type(IDC_FONT_SIZE, "7.5"); }, 7.5},
-        {"PenColor", [](SheetDriver& user) { user.Choose(IDC_TEXT_COLOR, 0); }, 0x333333},
-        {"TextFormat", [](SheetDriver& user) { user.Click(IDC_JUSTIFY_CENTER); }, 1},
+        {kPropTextFont, [](SheetDriver& user) { ChooseFont(user, kSerif); }, kSerif},
+        {kPropTextSize, [](SheetDriver& user) { user.Type(IDC_FONT_SIZE, "7.5"); }, 7.5},
+        {kPropPenColor, [](SheetDriver& user) { user.Choose(IDC_TEXT_COLOR, 0); }, 0x333333},
+        {kPropTextFormat, [](SheetDriver& user) { user.Click(IDC_JUSTIFY_CENTER); }, 1},
     };
     const std::map<std::string, KitValue> before[] = {kit[0].properties, kit[1].properties};
     for (const auto& edit : edits) {
@@ -209,7 +209,7 @@ TEST_F(TextPage, AThirdStateOfAnEffectThatIsNotMixedIsOff) {
                       << "taken back as soon as the preview follows";
                   user.Ok();
               }));
-    EXPECT_EQ(0, text.Number("TextStyle"));
+    EXPECT_EQ(0, text.Number(kPropTextStyle));
 }
 
 TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
@@ -226,8 +226,8 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
                   EXPECT_EQ("9.5", user.ItemText(IDC_FONT_SIZE, user.Selection(IDC_FONT_SIZE)));
                   user.Ok();
               }));
-    EXPECT_EQ(9.5, text.Number("TextSize"));
-    EXPECT_EQ(kSans, text.Text("TextFont"));
+    EXPECT_EQ(9.5, text.Number(kPropTextSize));
+    EXPECT_EQ(kSans, text.Text(kPropTextFont));
 }
 
 // A listed height that begins with it does not take its place.
@@ -235,13 +235,13 @@ TEST_F(TextPage, AChangeOfFontKeepsAHeightThatOthersBeginWith) {
     std::ofstream(ini) << "[FontSizes]\nmm=10,20,3.5\n";
     KitGraphic& text = Add(kSans, 5, 0, kRed, 0);
     for (const double height : {1.0, 2.0, 3.0}) {
-        text.properties["TextFont"] = kSans;
+        text.properties[kPropTextFont] = kSans;
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       user.Type(IDC_FONT_SIZE, std::to_string(static_cast<int>(height)));
                       ChooseFont(user, kSerif);
                       user.Ok();
                   }));
-        EXPECT_EQ(height, text.Number("TextSize"));
+        EXPECT_EQ(height, text.Number(kPropTextSize));
     }
 }
 
@@ -249,9 +249,9 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     KitGraphic& a = Add(kSans, 4, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 4, 0, kRed, 0);
     for (const double second : {3.0, 4.0}) { // mixed, equal
-        b.properties["TextSize"] = second;
+        b.properties[kPropTextSize] = second;
         for (KitGraphic* text : {&a, &b}) {
-            text->properties["TextFont"] = kSans;
+            text->properties[kPropTextFont] = kSans;
             text->writes.clear();
         }
         EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
@@ -263,7 +263,7 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
                   }));
         for (const KitGraphic* text : {&a, &b}) {
             EXPECT_EQ(1u, text->writes.size()) << "the font alone";
-            EXPECT_EQ(kSerif, text->Text("TextFont"));
+            EXPECT_EQ(kSerif, text->Text(kPropTextFont));
         }
     }
 }
@@ -288,8 +288,8 @@ TEST_F(TextPage, ATextThatIsNoHeightWritesNone) {
                   user.Click(IDC_JUSTIFY_RIGHT);
                   user.Ok();
               }));
-    EXPECT_EQ(2, kit[0].Number("TextSize"));
-    EXPECT_EQ(2, kit[0].Number("TextFormat"));
+    EXPECT_EQ(2, kit[0].Number(kPropTextSize));
+    EXPECT_EQ(2, kit[0].Number(kPropTextFormat));
 }
 
 // As long as the narrow field lets nobody see it whole.
@@ -300,7 +300,7 @@ TEST_F(TextPage, ALongHeightIsStoredAsTyped) {
                   EXPECT_EQ("0012'-11 15/16\"", user.Text(IDC_FONT_SIZE));
                   user.Ok();
               }));
-    EXPECT_NEAR(155.9375 * 25.4, text.Number("TextSize"), 1e-9);
+    EXPECT_NEAR(155.9375 * 25.4, text.Number(kPropTextSize), 1e-9);
 }
 
 // In a space without lengths there is no text for a height.
@@ -312,8 +312,8 @@ TEST_F(TextPage, AHeightThatCannotBeWrittenLeavesItsFieldBlank) {
                   user.Click(IDC_JUSTIFY_RIGHT);
                   user.Ok();
               }));
-    EXPECT_EQ(2, text.Number("TextSize"));
-    EXPECT_EQ(2, text.Number("TextFormat"));
+    EXPECT_EQ(2, text.Number(kPropTextSize));
+    EXPECT_EQ(2, text.Number(kPropTextFormat));
 }
 
 TEST_F(TextPage, CancelWritesNothing) {

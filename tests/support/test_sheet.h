@@ -48,7 +48,7 @@ private:
 // Owns the sheet with its pages. The General page is the first, pages of the test follow.
 class TestSheet {
 public:
-    explicit TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags = 0xFFFFFFFF);
+    explicit TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags = kAllGraphics);
     ~TestSheet();
 
     ExchangePage& Add(ExchangePage::Exchange exchange, unsigned int nIDTemplate = kTestPage);
