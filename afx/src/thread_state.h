@@ -16,9 +16,9 @@ struct AfxThreadState {
     CWnd* windowInCreation = nullptr;
     HHOOK createHook = nullptr;
     CWinThread* thread = nullptr;
-    bool reporting = false;      // an exception's message box is up
+    bool reporting = false;       // an exception's message box is up
     std::set<HWND> paintFailures; // windows that have reported an exception of their painting
-    HWND lastMeasured = nullptr; // the control whose row was last asked for
+    HWND lastMeasured = nullptr;  // the control whose row was last asked for
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
 

@@ -12,9 +12,9 @@
 #include "drawcore/drawing.h"
 #include "drawcore/table.h"
 #include "orlo/controls/control_fill.h"
-#include "orlo/resources/control_ids.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
+#include "orlo/resources/control_ids.h"
 
 namespace {
 

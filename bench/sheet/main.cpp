@@ -14,12 +14,8 @@ struct Bench {
     void (*run)();
 };
 
-constexpr Bench kBenches[] = {{"merge", BenchMerge},
-                              {"insert", BenchInsert},
-                              {"open", BenchOpen},
-                              {"pages", BenchPages},
-                              {"preview", BenchPreview},
-                              {"fill", BenchFill}};
+constexpr Bench kBenches[] = {{"merge", BenchMerge}, {"insert", BenchInsert},   {"open", BenchOpen},
+                              {"pages", BenchPages}, {"preview", BenchPreview}, {"fill", BenchFill}};
 
 bool Wanted(const char* name, int argc, char** argv) {
     for (int i = 1; i < argc; ++i)

@@ -15,9 +15,9 @@ public:
 
     DDPEnd m_pfnEnd;
     int m_nID;
-    void* m_pMember;         // read when the record is carried out
+    void* m_pMember;           // read when the record is carried out
     const char* m_pszPropName; // not copied
-    CDDPRecord* m_pNext;     // the next record of the same key, owned
+    CDDPRecord* m_pNext;       // the next record of the same key, owned
 };
 
 // Lays a record; one of the same member takes the place of an earlier one.

@@ -11,8 +11,8 @@ constexpr uint32_t kSign = 0x80000000u;
 
 // What tells one floating-point layout from another, on the word that holds sign and exponent.
 struct Layout {
-    uint32_t half;       // added before the low bits are dropped; exact halves go down
-    uint32_t keep;       // exponent and top 16 fraction bits
+    uint32_t half;        // added before the low bits are dropped; exact halves go down
+    uint32_t keep;        // exponent and top 16 fraction bits
     uint32_t farFromZero; // any of these bits makes a value more than nearly zero
 };
 
@@ -45,11 +45,16 @@ int CompareWords(uint32_t a, uint32_t b, const Layout& layout) {
 
 } // namespace
 
-int CompareDoubles(const double* a, const double* b) { return CompareWords(HighWord(a), HighWord(b), kDouble); }
+int CompareDoubles(const double* a, const double* b) {
+    return CompareWords(HighWord(a), HighWord(b), kDouble);
+}
 
-int CompareFloats(const float* a, const float* b) { return CompareWords(Bits(a), Bits(b), kFloat); }
+int CompareFloats(const float* a, const float* b) {
+    return CompareWords(Bits(a), Bits(b), kFloat);
+}
 
 void DWord_to_Hex(unsigned long value, char* out) {
-    for (int shift = 28; shift >= 0; shift -= 4) *out++ = "0123456789ABCDEF"[(value >> shift) & 0xF];
+    for (int shift = 28; shift >= 0; shift -= 4)
+        *out++ = "0123456789ABCDEF"[(value >> shift) & 0xF];
     *out = '\0';
 }

@@ -10,8 +10,8 @@
 #include <cstdint>
 #include <cstring>
 
-constexpr int kIndeterminateCheck = 2;               // the third state of a check box
-constexpr char kIndeterminateText[] = "\xFF";        // of a CString; only the first byte counts in a test
+constexpr int kIndeterminateCheck = 2;                // the third state of a check box
+constexpr char kIndeterminateText[] = "\xFF";         // of a CString; only the first byte counts in a test
 constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or colour
 
 template <class T>

@@ -7,13 +7,13 @@
 #include "orlo/controls/brush_style_control_c.h"
 #include "orlo/controls/brush_style_control_l.h"
 #include "orlo/controls/color_control.h"
-#include "orlo/resources/control_ids.h"
 #include "orlo/controls/font_face_control.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/controls/layer_control.h"
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
 #include "orlo/controls/style_name_control.h"
+#include "orlo/resources/control_ids.h"
 
 namespace {
 

@@ -29,15 +29,9 @@ constexpr Row kChanges[] = {
 };
 
 constexpr Row kEditEnds[] = {
-    {"Edit", EN_KILLFOCUS},
-    {"Button", BN_CLICKED},
-    {"Button", BN_DOUBLECLICKED},
-    {"ComboBox", CBN_SELENDOK},
-    {"ComboBox", CBN_SELENDCANCEL},
-    {"QXComboBox", CBN_SELENDOK},
-    {"QXComboBox", CBN_SELENDCANCEL},
-    {"QXListBox", LBN_DBLCLK},
-    {"QXListBox", LBN_SELCANCEL},
+    {"Edit", EN_KILLFOCUS},           {"Button", BN_CLICKED},         {"Button", BN_DOUBLECLICKED},
+    {"ComboBox", CBN_SELENDOK},       {"ComboBox", CBN_SELENDCANCEL}, {"QXComboBox", CBN_SELENDOK},
+    {"QXComboBox", CBN_SELENDCANCEL}, {"QXListBox", LBN_DBLCLK},      {"QXListBox", LBN_SELCANCEL},
     {"ListBox", LBN_SELCHANGE},
 };
 
@@ -59,13 +53,18 @@ PageNotification::PageNotification(HWND control, unsigned int notificationCode) 
     if (::GetClassNameA(control, className, sizeof className) == 0) className[0] = '\0';
 }
 
-bool PageNotification::IsChange() const { return Contains(kChanges, *this); }
+bool PageNotification::IsChange() const {
+    return Contains(kChanges, *this);
+}
 
-bool PageNotification::IsEditEnd() const { return Contains(kEditEnds, *this); }
+bool PageNotification::IsEditEnd() const {
+    return Contains(kEditEnds, *this);
+}
 
 unsigned int ChangedControlId(HWND control, unsigned int nID, const char* className) {
     if (!IsRadioButton(control, className)) return nID;
     for (HWND window = control; window != nullptr; window = ::GetWindow(window, GW_HWNDPREV))
-        if (::GetWindowLongPtrA(window, GWL_STYLE) & WS_GROUP) return static_cast<unsigned int>(::GetDlgCtrlID(window));
+        if (::GetWindowLongPtrA(window, GWL_STYLE) & WS_GROUP)
+            return static_cast<unsigned int>(::GetDlgCtrlID(window));
     return nID;
 }

@@ -83,8 +83,10 @@ DialogTemplate ReadTemplate(const void* resource) {
     DialogTemplate result;
     TemplateWords words(resource);
     WORD styleLow, width, height;
-    const size_t behindStyle = 14 - sizeof styleLow; // extended style, item count and position are of no use here
-    if (!words.Read(styleLow) || !words.SkipBytes(behindStyle) || !words.Read(width) || !words.Read(height)) return result;
+    const size_t behindStyle =
+        14 - sizeof styleLow; // extended style, item count and position are of no use here
+    if (!words.Read(styleLow) || !words.SkipBytes(behindStyle) || !words.Read(width) || !words.Read(height))
+        return result;
     result.width = width;
     result.height = height;
     const bool named = words.SkipNameOrOrdinal() && words.SkipNameOrOrdinal() && words.ReadText(nullptr, 0);

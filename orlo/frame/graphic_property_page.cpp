@@ -49,9 +49,13 @@ CGraphicPropertySheet* CGraphicPropertyPage::GetSheet() const {
     return static_cast<CGraphicPropertySheet*>(parent);
 }
 
-GraphicStruct* CGraphicPropertyPage::GetPreviewGraphic() const { return m_pPreviewGraphic; }
+GraphicStruct* CGraphicPropertyPage::GetPreviewGraphic() const {
+    return m_pPreviewGraphic;
+}
 
-unsigned int CGraphicPropertyPage::GetTemplateNumber() const { return m_nIDTemplate; }
+unsigned int CGraphicPropertyPage::GetTemplateNumber() const {
+    return m_nIDTemplate;
+}
 
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
@@ -118,7 +122,9 @@ int CGraphicPropertyPage::SetControlStatus(unsigned int nID, int bDirty) {
     return 1;
 }
 
-void CGraphicPropertyPage::IgnoreApply(unsigned int nID) { m_IDArray.Add(LOWORD(nID)); }
+void CGraphicPropertyPage::IgnoreApply(unsigned int nID) {
+    m_IDArray.Add(LOWORD(nID));
+}
 
 bool CGraphicPropertyPage::IsIgnored(unsigned int nID) const {
     for (int i = 0; i < static_cast<int>(m_IDArray.GetSize()); ++i)
@@ -174,24 +180,31 @@ void CGraphicPropertyPage::DrawPreview(CDC* pDC, void* pViewport, CRect& rect) {
     ::GraphicSetDirty(graphic, 1);
     ::GraphicSetExtentsDirty(graphic, 1);
     ::ViewportSetRect(viewport, &rect);
-    if (graphic->wRegenMethod != 0) ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
+    if (graphic->wRegenMethod != 0)
+        ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
     ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
     ::ViewportSetGDIStuff(viewport, nullptr, pDC->m_hDC, 1, 1);
     ::ViewportSetDrawing(viewport, ::GraphicGetDrawing(graphic));
     ::GraphicDrawEx2(graphic, nullptr, viewport, 1, 1);
 }
 
-void* CGraphicPropertyPage::CreatePreviewGraphic() { return nullptr; }
+void* CGraphicPropertyPage::CreatePreviewGraphic() {
+    return nullptr;
+}
 void CGraphicPropertyPage::SetPreviewProperties(int) {}
 void CGraphicPropertyPage::OnObjectsChanged() {}
-int CGraphicPropertyPage::OnEditProperty(long) { return 0; }
+int CGraphicPropertyPage::OnEditProperty(long) {
+    return 0;
+}
 
 void CGraphicPropertyPage::OnFinalRelease() {
     if (m_hWnd != nullptr) DestroyWindow();
     delete this;
 }
 
-void CGraphicPropertyPage::SetPageName(const char* lpszPageName) { m_strPageName = lpszPageName; }
+void CGraphicPropertyPage::SetPageName(const char* lpszPageName) {
+    m_strPageName = lpszPageName;
+}
 
 void CGraphicPropertyPage::SetDialogResource(void* hDialog) {
     if (m_hDialog != nullptr && m_hDialog != hDialog) ::FreeResource(m_hDialog);
@@ -199,7 +212,8 @@ void CGraphicPropertyPage::SetDialogResource(void* hDialog) {
     m_sizePage = MeasureDialog(hDialog);
 }
 
-void CGraphicPropertyPage::SetHelpInfo(const char* lpszDocString, const char* lpszHelpFile, unsigned long dwHelpContext) {
+void CGraphicPropertyPage::SetHelpInfo(const char* lpszDocString, const char* lpszHelpFile,
+                                       unsigned long dwHelpContext) {
     m_strDocString = lpszDocString;
     m_strHelpFile = lpszHelpFile;
     m_dwHelpContext = dwHelpContext;

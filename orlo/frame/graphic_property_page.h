@@ -113,7 +113,7 @@ protected:
     void OnFinalRelease() override;
 
     GraphicStruct* m_pPreviewGraphic; // a part of the sheet's preview group, but this page's to free
-    CMapWordToOb m_mapDDP; // writes left pending by the DDP_ functions
+    CMapWordToOb m_mapDDP;            // writes left pending by the DDP_ functions
     unsigned int m_nIDTemplate;
     unsigned int m_nIDCaption;
     CString m_strPageName;

@@ -8,9 +8,9 @@
 IMPLEMENT_DYNAMIC(CGraphicPropertySheet, COrloPropertySheet)
 
 BEGIN_MESSAGE_MAP(CGraphicPropertySheet, COrloPropertySheet)
-    ON_WM_CREATE()
-    ON_WM_PAINT()
-    ON_COMMAND(IDOK, &ThisClass::OnOK)
+ON_WM_CREATE()
+ON_WM_PAINT()
+ON_COMMAND(IDOK, &ThisClass::OnOK)
 END_MESSAGE_MAP()
 
 namespace {
@@ -36,15 +36,25 @@ CGraphicPropertySheet::~CGraphicPropertySheet() {
     delete m_pSheetData;
 }
 
-DrawingStruct* CGraphicPropertySheet::GetDrawing() { return m_pSheetData ? m_pSheetData->pDrawing : nullptr; }
+DrawingStruct* CGraphicPropertySheet::GetDrawing() {
+    return m_pSheetData ? m_pSheetData->pDrawing : nullptr;
+}
 
-unsigned long CGraphicPropertySheet::GetGraphicFlags() { return m_pSheetData ? m_pSheetData->dwGraphicFlags : 0; }
+unsigned long CGraphicPropertySheet::GetGraphicFlags() {
+    return m_pSheetData ? m_pSheetData->dwGraphicFlags : 0;
+}
 
-void* CGraphicPropertySheet::GetGraphics() { return m_pSheetData ? m_pSheetData->pGraphics : nullptr; }
+void* CGraphicPropertySheet::GetGraphics() {
+    return m_pSheetData ? m_pSheetData->pGraphics : nullptr;
+}
 
-void* CGraphicPropertySheet::GetRegenMethods() { return m_pSheetData ? m_pSheetData->pRegenMethods : nullptr; }
+void* CGraphicPropertySheet::GetRegenMethods() {
+    return m_pSheetData ? m_pSheetData->pRegenMethods : nullptr;
+}
 
-GraphicStruct* CGraphicPropertySheet::GetPreviewGroup() { return m_pPreviewGroup; }
+GraphicStruct* CGraphicPropertySheet::GetPreviewGroup() {
+    return m_pPreviewGroup;
+}
 
 GraphicStruct* CGraphicPropertySheet::GetPreviewGraphic() {
     CGraphicPropertyPage* page = GetActiveGraphicPage();
@@ -86,7 +96,8 @@ void CGraphicPropertySheet::DeletePages() {
 
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (!CreatePreviewRect()) return -1;
-    m_wndPreview.ModifyStyle(0, WS_GROUP); // the arrow keys do not get here from radio buttons that a page ends with
+    m_wndPreview.ModifyStyle(
+        0, WS_GROUP); // the arrow keys do not get here from radio buttons that a page ends with
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());

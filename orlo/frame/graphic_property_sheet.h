@@ -27,8 +27,9 @@ public:
     ORLO_API CRuntimeClass* GetRuntimeClass() const override;
 
     // nIDCaption: a text of the library.
-    CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing, void* pGraphics,
-                          unsigned long dwGraphicFlags, CWnd* pParentWnd, unsigned int iSelectPage);
+    CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
+                          void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
+                          unsigned int iSelectPage);
     ~CGraphicPropertySheet() override;
 
     // Null, or 0, without a record.

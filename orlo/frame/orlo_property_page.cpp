@@ -7,8 +7,8 @@
 IMPLEMENT_DYNAMIC(COrloPropertyPage, CPropertyPage)
 
 BEGIN_MESSAGE_MAP(COrloPropertyPage, CPropertyPage)
-    ON_WM_WINDOWPOSCHANGING()
-    ON_MESSAGE(WM_NEXTDLGCTL, &COrloPropertyPage::OnNextDlgCtl)
+ON_WM_WINDOWPOSCHANGING()
+ON_MESSAGE(WM_NEXTDLGCTL, &COrloPropertyPage::OnNextDlgCtl)
 END_MESSAGE_MAP()
 
 COrloPropertyPage::COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
@@ -19,9 +19,13 @@ COrloPropertyPage::COrloPropertyPage(const char* lpszTemplateName, unsigned int 
 
 COrloPropertyPage::~COrloPropertyPage() = default;
 
-int COrloPropertyPage::IsModified() { return m_bChanged; }
+int COrloPropertyPage::IsModified() {
+    return m_bChanged;
+}
 
-const char* COrloPropertyPage::GetTemplateName() const { return m_lpszTemplateName; }
+const char* COrloPropertyPage::GetTemplateName() const {
+    return m_lpszTemplateName;
+}
 
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
     SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);

@@ -11,9 +11,9 @@
 IMPLEMENT_DYNAMIC(COrloPropertySheet, CPropertySheet)
 
 BEGIN_MESSAGE_MAP(COrloPropertySheet, CPropertySheet)
-    ON_WM_NCCREATE()
-    ON_COMMAND(ID_HELP, &ThisClass::OnHelp)
-    ON_WM_WINDOWPOSCHANGING()
+ON_WM_NCCREATE()
+ON_COMMAND(ID_HELP, &ThisClass::OnHelp)
+ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 
 COrloPropertySheet::COrloPropertySheet(unsigned int nIDCaption, CWnd* pParentWnd, unsigned int iSelectPage)
@@ -47,7 +47,9 @@ COrloPropertyPage* COrloPropertySheet::FindPage(const char* lpszTemplateName) co
     return nullptr;
 }
 
-int COrloPropertySheet::OnNcCreate(CREATESTRUCT*) { return Default() != 0; }
+int COrloPropertySheet::OnNcCreate(CREATESTRUCT*) {
+    return Default() != 0;
+}
 
 void COrloPropertySheet::OnHelp() {
     if (CPropertyPage* page = GetActivePage()) page->CWnd::OnHelp();

@@ -78,12 +78,20 @@ TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
     for (int i = 0; i < 20000; ++i) {
         const uint32_t start = base(random);
         double v[3];
-        for (double& value : v) value = WithHighWord((start + near(random)) | (sign(random) << 31), random());
-        const int ab = CompareDoubles(&v[0], &v[1]), bc = CompareDoubles(&v[1], &v[2]), ac = CompareDoubles(&v[0], &v[2]);
+        for (double& value : v)
+            value = WithHighWord((start + near(random)) | (sign(random) << 31), random());
+        const int ab = CompareDoubles(&v[0], &v[1]), bc = CompareDoubles(&v[1], &v[2]),
+                  ac = CompareDoubles(&v[0], &v[2]);
         ASSERT_EQ(-ab, CompareDoubles(&v[1], &v[0]));
-        if (ab == 0 && bc == 0) { ASSERT_EQ(0, ac); }
-        if (ab < 0) { ASSERT_LT(v[0], v[1]); }
-        if (ab > 0) { ASSERT_GT(v[0], v[1]); }
+        if (ab == 0 && bc == 0) {
+            ASSERT_EQ(0, ac);
+        }
+        if (ab < 0) {
+            ASSERT_LT(v[0], v[1]);
+        }
+        if (ab > 0) {
+            ASSERT_GT(v[0], v[1]);
+        }
     }
 }
 

@@ -38,8 +38,8 @@ struct Sample<CString> {
 template <class T>
 class EditRoad : public ::testing::Test {};
 
-using EditTypes = ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long, float, double,
-                                   CString>;
+using EditTypes = ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long,
+                                   float, double, CString>;
 TYPED_TEST_SUITE(EditRoad, EditTypes);
 
 TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
@@ -181,7 +181,8 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
         DDP_PostProcessing(pDX);
     });
     sheet.Run([&](SheetDriver& user) {
-        for (int id = kRadio; id < kRadio + 3; ++id) EXPECT_EQ(0, user.Check(id)); // mixed: none
+        for (int id = kRadio; id < kRadio + 3; ++id)
+            EXPECT_EQ(0, user.Check(id)); // mixed: none
         user.Click(kRadio + 2);
         EXPECT_EQ(1, page.GetControlStatus(kRadio));
         EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));

@@ -446,7 +446,7 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
                  {1, 6, 0.001, "0d0'3.6\""},
                  {1, 4, 59.99999, "60d"},
                  {1, 0, 349 + 1 / 6.0, "349d10'"}, // four digits of it, not of a smaller one
-                 {1, 4, -1e-14, "0d"}, // what a calculation leaves of nothing
+                 {1, 4, -1e-14, "0d"},             // what a calculation leaves of nothing
                  {0, 4, 1e-14, "0"},
                  {2, 0, 45, "50"},
                  {3, 4, 180, "3.1416"},

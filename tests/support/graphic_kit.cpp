@@ -30,7 +30,8 @@ int32_t FirstNumber(const GraphicStruct* graphic) {
 std::pair<const std::string, KitValue>& At(GraphicStruct* graphic, int32_t number) {
     auto& properties = Kit().at(graphic)->properties;
     const int32_t index = number - FirstNumber(graphic);
-    if (index < 0 || index >= static_cast<int32_t>(properties.size())) throw std::out_of_range("a number of another graphic");
+    if (index < 0 || index >= static_cast<int32_t>(properties.size()))
+        throw std::out_of_range("a number of another graphic");
     return *std::next(properties.begin(), index);
 }
 
@@ -52,13 +53,25 @@ int Get(GraphicStruct* graphic, int32_t number, int vt, void* out) {
     const KitValue& value = At(graphic, number).second;
     ++Kit().at(graphic)->reads;
     switch (vt) {
-    case VT_I4: Store<int32_t>(out, value.number); break;
-    case VT_UI4: Store<uint32_t>(out, value.number); break;
-    case VT_R4: Store<float>(out, value.number); break;
-    case VT_R8: Store<double>(out, value.number); break;
+    case VT_I4:
+        Store<int32_t>(out, value.number);
+        break;
+    case VT_UI4:
+        Store<uint32_t>(out, value.number);
+        break;
+    case VT_R4:
+        Store<float>(out, value.number);
+        break;
+    case VT_R8:
+        Store<double>(out, value.number);
+        break;
     case VT_BOOL:
-    case VT_UI2: *static_cast<uint16_t*>(out) = static_cast<uint16_t>(static_cast<int32_t>(value.number)); break;
-    case VT_UI1: Store<uint8_t>(out, value.number); break;
+    case VT_UI2:
+        *static_cast<uint16_t*>(out) = static_cast<uint16_t>(static_cast<int32_t>(value.number));
+        break;
+    case VT_UI1:
+        Store<uint8_t>(out, value.number);
+        break;
     case VT_BSTR: {
         auto* text = static_cast<char**>(out);
         ::BStringNULL(text);
@@ -66,7 +79,8 @@ int Get(GraphicStruct* graphic, int32_t number, int vt, void* out) {
         std::memcpy(*text, value.text.c_str(), value.text.size() + 1);
         break;
     }
-    default: throw std::invalid_argument("a value type that no page uses");
+    default:
+        throw std::invalid_argument("a value type that no page uses");
     }
     if (Kit().at(graphic)->onGet) Kit().at(graphic)->onGet();
     return 1;
@@ -80,14 +94,29 @@ int Set(GraphicStruct* graphic, int32_t number, int vt, const void* in) {
     kit->writes.push_back({name, vt});
     switch (vt) {
     case VT_I4:
-    case VT_BOOL: value.number = *static_cast<const int32_t*>(in); break;
-    case VT_UI4: value.number = *static_cast<const uint32_t*>(in); break;
-    case VT_R4: value.number = *static_cast<const float*>(in); break;
-    case VT_R8: value.number = *static_cast<const double*>(in); break;
-    case VT_UI2: value.number = *static_cast<const uint16_t*>(in); break;
-    case VT_UI1: value.number = *static_cast<const uint8_t*>(in); break;
-    case VT_BSTR: value.text = static_cast<const char*>(in); break;
-    default: throw std::invalid_argument("a value type that no page uses");
+    case VT_BOOL:
+        value.number = *static_cast<const int32_t*>(in);
+        break;
+    case VT_UI4:
+        value.number = *static_cast<const uint32_t*>(in);
+        break;
+    case VT_R4:
+        value.number = *static_cast<const float*>(in);
+        break;
+    case VT_R8:
+        value.number = *static_cast<const double*>(in);
+        break;
+    case VT_UI2:
+        value.number = *static_cast<const uint16_t*>(in);
+        break;
+    case VT_UI1:
+        value.number = *static_cast<const uint8_t*>(in);
+        break;
+    case VT_BSTR:
+        value.text = static_cast<const char*>(in);
+        break;
+    default:
+        throw std::invalid_argument("a value type that no page uses");
     }
     return 1;
 }
@@ -103,10 +132,13 @@ KitGraphic::KitGraphic(int type, std::map<std::string, KitValue> offered)
     Kit()[graphic] = this;
 }
 
-GraphicKit::GraphicKit() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) { ::AppSetCurrentDrawing(m_drawing); }
+GraphicKit::GraphicKit() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
+    ::AppSetCurrentDrawing(m_drawing);
+}
 
 GraphicKit::~GraphicKit() {
-    for (const auto& kit : m_graphics) Kit().erase(kit->graphic);
+    for (const auto& kit : m_graphics)
+        Kit().erase(kit->graphic);
     ::GraphicDispose(&m_selection);
     ::DrawingDispose(&m_drawing);
 }
@@ -120,7 +152,8 @@ KitGraphic& GraphicKit::Add(std::map<std::string, KitValue> offered, int type) {
 }
 
 GraphicStruct* GraphicKit::AddWithoutTable() {
-    GraphicStruct* graphic = ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1));
+    GraphicStruct* graphic =
+        ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1));
     ::GraphicSetVtbl(graphic, kNoTable);
     ::SelectionAdd(m_selection, graphic);
     return graphic;
@@ -128,7 +161,8 @@ GraphicStruct* GraphicKit::AddWithoutTable() {
 
 int GraphicKit::Writes() const {
     size_t count = 0;
-    for (const auto& kit : m_graphics) count += kit->writes.size();
+    for (const auto& kit : m_graphics)
+        count += kit->writes.size();
     return static_cast<int>(count);
 }
 

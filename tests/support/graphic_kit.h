@@ -44,8 +44,8 @@ public:
     std::map<std::string, KitValue> properties;
     std::vector<KitWrite> writes;
     std::function<void(const std::string& name)> onSet; // before a value is stored
-    std::function<void()> onGet; // behind a value that was given
-    std::string refused;         // the property that is not taken
+    std::function<void()> onGet;                        // behind a value that was given
+    std::string refused;                                // the property that is not taken
     int reads = 0;
 };
 
@@ -64,7 +64,7 @@ public:
 
     DrawingStruct* Drawing() const { return m_drawing; }
     GraphicStruct* Selection() const { return m_selection; }
-    int Writes() const; // over all graphics
+    int Writes() const;  // over all graphics
     long Blocks() const; // of the host's, alive now
 
 private:

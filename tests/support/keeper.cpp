@@ -10,5 +10,6 @@ int main() {
     std::puts("ready");
     std::fflush(stdout);
     MSG message;
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0)
+        ::DispatchMessageA(&message);
 }

@@ -9,21 +9,27 @@ ExchangePage::ExchangePage(Exchange exchange, unsigned int nIDTemplate)
 
 ExchangePage::~ExchangePage() = default;
 
-void* ExchangePage::CreatePreviewGraphic() { return hasPreview ? ::GraphicNewEx(kGraphicVertices, 0, 1) : nullptr; }
+void* ExchangePage::CreatePreviewGraphic() {
+    return hasPreview ? ::GraphicNewEx(kGraphicVertices, 0, 1) : nullptr;
+}
 
 void ExchangePage::SetPreviewProperties(int bAll) {
     previewCalls.push_back(bAll);
     if (onPreview) onPreview(*this, bAll);
 }
 
-void ExchangePage::DoDataExchange(CDataExchange* pDX) { m_exchange(pDX); }
+void ExchangePage::DoDataExchange(CDataExchange* pDX) {
+    m_exchange(pDX);
+}
 
 TestSheet::TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags) {
     ::PropPageInit();
     m_sheet = ::InitGraphicPropertySheet(nullptr, nullptr, kit.Drawing(), kit.Selection(), dwGraphicFlags);
 }
 
-TestSheet::~TestSheet() { delete m_sheet; }
+TestSheet::~TestSheet() {
+    delete m_sheet;
+}
 
 ExchangePage& TestSheet::Add(ExchangePage::Exchange exchange, unsigned int nIDTemplate) {
     auto* page = new ExchangePage(std::move(exchange), nIDTemplate);
