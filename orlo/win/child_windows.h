@@ -3,12 +3,15 @@
 
 #include <windows.h>
 
+// A callback of the system has its calling convention, which a lambda has not in 32 bits.
+template <class Visit>
+BOOL CALLBACK VisitChild(HWND child, LPARAM visit) {
+    (*reinterpret_cast<Visit*>(visit))(child);
+    return TRUE;
+}
+
 // Calls visit(HWND) for each child and their children.
 template <class Visit>
 void ForEachChild(HWND window, Visit visit) {
-    const WNDENUMPROC call = [](HWND child, LPARAM parameter) -> BOOL {
-        (*reinterpret_cast<Visit*>(parameter))(child);
-        return TRUE;
-    };
-    ::EnumChildWindows(window, call, reinterpret_cast<LPARAM>(&visit));
+    ::EnumChildWindows(window, VisitChild<Visit>, reinterpret_cast<LPARAM>(&visit));
 }

@@ -8,6 +8,7 @@
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/child_windows.h"
 #include "support/message_box_watcher.h"
 
 namespace {
@@ -61,14 +62,11 @@ protected:
 
 void ExpectMnemonicsOfTheirOwn(HWND window) {
     std::set<int> found;
-    const auto take = [](HWND child, LPARAM taken) -> BOOL {
+    ForEachChild(window, [&](HWND child) {
         const std::string text = ::IsWindowVisible(child) ? TextOf(child) : "";
         const size_t mark = text.find('&');
-        auto& letters = *reinterpret_cast<std::set<int>*>(taken);
-        EXPECT_TRUE(mark == std::string::npos || letters.insert(std::tolower(text[mark + 1])).second) << text;
-        return TRUE;
-    };
-    ::EnumChildWindows(window, take, reinterpret_cast<LPARAM>(&found));
+        EXPECT_TRUE(mark == std::string::npos || found.insert(std::tolower(text[mark + 1])).second) << text;
+    });
 }
 
 TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
