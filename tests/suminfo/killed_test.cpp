@@ -19,8 +19,12 @@ public:
         std::wstring line = CommandLineOf(arguments);
         STARTUPINFOW start = {};
         start.cb = sizeof start;
-        started_ = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, DEBUG_ONLY_THIS_PROCESS,
-                                    nullptr, nullptr, &start, &process_);
+        // While the program that was killed before is still being cleared away, the system may fail to start another one.
+        for (int attempt = 0; !started_ && attempt < 10; ++attempt) {
+            if (attempt > 0) ::Sleep(300);
+            started_ = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE,
+                                        DEBUG_ONLY_THIS_PROCESS, nullptr, nullptr, &start, &process_);
+        }
         EXPECT_TRUE(started_) << ::GetLastError();
     }
     ~Victim() {
@@ -96,7 +100,7 @@ private:
     }
 
     PROCESS_INFORMATION process_ = {};
-    BOOL started_;
+    BOOL started_ = FALSE;
     std::map<void*, BYTE> first_; // of each function the byte that the break stands for
     void* passing_ = nullptr;
     int calls_ = 0;
