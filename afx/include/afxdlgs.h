@@ -43,6 +43,8 @@ public:
 protected:
     BOOL m_bChanged;
     HINSTANCE m_hTemplateModule; // the one module that has the template; null: searched along the chain
+    // The fields of its combo boxes scroll, whatever the template says: else what is typed beyond their width is dropped.
+    BOOL m_bScrollingCombos;
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnClose();

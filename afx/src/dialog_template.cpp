@@ -67,6 +67,19 @@ public:
         }
     }
 
+    // The class of a control is text here, as the resource compiler writes it.
+    bool TakeText(const char* wanted) {
+        const Reader before = *this;
+        if (Word() == 0xFFFF) {
+            Word();
+            return false;
+        }
+        *this = before;
+        return Text().CompareNoCase(wanted) == 0;
+    }
+    void Align(std::size_t whole) { Skip((whole - m_left) % sizeof(DWORD) ? sizeof(WORD) : 0); }
+    std::size_t Left() const { return m_left; }
+
 private:
     const BYTE* m_data;
     std::size_t m_left;
@@ -126,7 +139,36 @@ LOGFONTA AfxDialogTemplate::Font() const {
     return font;
 }
 
-std::vector<BYTE> AfxDialogTemplate::AsPage() const {
+void AfxDialogTemplate::ScrollCombos(std::vector<BYTE>& copy) const {
+    constexpr std::size_t kStylesPlaceAndId = 2 * sizeof(DWORD) + 5 * sizeof(WORD);
+    Reader reader(m_data, m_size);
+    DWORD style = 0;
+    std::memcpy(&style, m_data, sizeof style);
+    reader.Skip(2 * sizeof(DWORD));
+    const WORD controls = reader.Word();
+    reader.Skip(kCountAndRectangle - sizeof(WORD));
+    reader.SkipNameOrNumber(); // menu, class
+    reader.SkipNameOrNumber();
+    reader.Text();
+    if ((style & DS_SETFONT) != 0) {
+        reader.Word();
+        reader.Text();
+    }
+    for (WORD i = 0; i < controls && reader.Left() > kStylesPlaceAndId; ++i) {
+        reader.Align(m_size);
+        const std::size_t at = m_size - reader.Left();
+        reader.Skip(kStylesPlaceAndId);
+        const bool isCombo = reader.TakeText("COMBOBOX");
+        reader.SkipNameOrNumber(); // its text
+        reader.Skip(reader.Word());
+        if (!isCombo || m_size - at < sizeof style) continue;
+        std::memcpy(&style, &copy[at], sizeof style);
+        if ((style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST) style |= CBS_AUTOHSCROLL;
+        std::memcpy(&copy[at], &style, sizeof style);
+    }
+}
+
+std::vector<BYTE> AfxDialogTemplate::AsPage(bool scrollingCombos) const {
     std::vector<BYTE> copy(m_data, m_data + m_size);
     const std::size_t styleAt = IsExtended() ? offsetof(ExtendedHead, style) : 0;
     const std::size_t exStyleAt = IsExtended() ? offsetof(ExtendedHead, exStyle) : sizeof(DWORD);
@@ -140,5 +182,6 @@ std::vector<BYTE> AfxDialogTemplate::AsPage() const {
     // Its place is the sheet's to say; the size behind the place stays.
     const std::size_t placeAt = (IsExtended() ? sizeof(ExtendedHead) : 2 * sizeof(DWORD)) + sizeof(WORD);
     std::memset(&copy[placeAt], 0, 2 * sizeof(WORD));
+    if (scrollingCombos && !IsExtended()) ScrollCombos(copy);
     return copy;
 }

@@ -17,12 +17,14 @@ public:
     // The font of the template, or that of dialogs in general if it names none.
     LOGFONTA Font() const;
     // The same dialog as a child without frame and caption, hidden and enabled, whatever its template says.
-    std::vector<BYTE> AsPage() const;
+    // scrollingCombos: the edit fields of its combo boxes scroll (plain templates only).
+    std::vector<BYTE> AsPage(bool scrollingCombos) const;
 
 private:
     class Reader;
     bool IsExtended() const;
     void ReadHead();
+    void ScrollCombos(std::vector<BYTE>& copy) const;
 
     HINSTANCE m_module;
     const BYTE* m_data; // in the module; stays as long as that does

@@ -16,8 +16,8 @@ CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption)
     : CPropertyPage(MAKEINTRESOURCEA(nIDTemplate), nIDCaption) {}
 
 CPropertyPage::CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption)
-    : CDialog(lpszTemplateName), m_bChanged(FALSE), m_hTemplateModule(nullptr), m_pSheet(nullptr),
-      m_nIDCaption(nIDCaption) {}
+    : CDialog(lpszTemplateName), m_bChanged(FALSE), m_hTemplateModule(nullptr), m_bScrollingCombos(FALSE),
+      m_pSheet(nullptr), m_nIDCaption(nIDCaption) {}
 
 CPropertyPage::~CPropertyPage() {
     if (m_pSheet != nullptr) m_pSheet->RemovePage(this);
@@ -59,7 +59,7 @@ CString CPropertyPage::GetTabText() const {
 BOOL CPropertyPage::CreatePageWindow() {
     const AfxDialogTemplate dialog(m_lpszTemplateName, m_hTemplateModule);
     if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
-    const std::vector<BYTE> page = dialog.AsPage();
+    const std::vector<BYTE> page = dialog.AsPage(m_bScrollingCombos);
     const AfxWindowCreation creation(this);
     ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
                                  m_pSheet->m_hWnd, AfxDialogProc, 0);

@@ -23,34 +23,6 @@ constexpr double kWidest = 1e38;
 constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
 
-// The combo with its list open, in the page.
-CRect OpenPlace(HWND combo) {
-    CRect place;
-    ::SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&place)));
-    ::MapWindowPoints(nullptr, ::GetParent(combo), reinterpret_cast<POINT*>(static_cast<RECT*>(&place)), 2);
-    return place;
-}
-
-// Makes the combo anew with a field that scrolls, which only a new window can get: the template's drops what is typed beyond
-// its width.
-void MakeFieldScroll(HWND page, int nID) {
-    const HWND combo = ::GetDlgItem(page, nID);
-    const CRect place = OpenPlace(combo);
-    const auto style = static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_STYLE));
-    const auto extended = static_cast<DWORD>(::GetWindowLongPtrA(combo, GWL_EXSTYLE));
-    const HWND scrolling = ::CreateWindowExA(extended, "ComboBox", nullptr, style | CBS_AUTOHSCROLL,
-                                             place.left, place.top, place.Width(), place.Height(), page,
-                                             reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)),
-                                             AfxGetInstanceHandle(), nullptr);
-    if (scrolling == nullptr) return;
-    ::SendMessageA(scrolling, WM_SETFONT, static_cast<WPARAM>(::SendMessageA(combo, WM_GETFONT, 0, 0)),
-                   FALSE);
-    // A combo may tell another height than it was made with.
-    const int height = 2 * place.Height() - OpenPlace(scrolling).Height();
-    ::SetWindowPos(scrolling, combo, 0, 0, place.Width(), height, SWP_NOMOVE | SWP_NOACTIVATE);
-    ::DestroyWindow(combo);
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLinePage, CGraphicPropertyPage)
@@ -60,13 +32,14 @@ END_MESSAGE_MAP()
 CLinePage::CLinePage()
     : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable(kTableLineStyles)),
       m_dwColor(kColorByLayer), m_dWidth(0.0), m_dScale(1.0), m_nStyle(kLineStyleByLayer),
-      m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1), m_nLastAlignment(0) {}
+      m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1), m_nLastAlignment(0) {
+    m_bScrollingCombos = TRUE; // long widths
+}
 
 CLinePage::~CLinePage() = default;
 
 BOOL CLinePage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        MakeFieldScroll(m_hWnd, IDC_PEN_WIDTH);
         for (unsigned int id : {kStringWorldScale, kStringPaperScale}) {
             char text[64] = "";
             ::DrawCoreLoadString(id, text, sizeof text);
