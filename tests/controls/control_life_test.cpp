@@ -30,36 +30,28 @@ protected:
 };
 
 TEST_F(Factory, TheIdentifierChoosesTheObject) {
-    for (const int id :
-         {IDC_LINE_STYLE_COMBO, IDC_LINE_STYLE_COMBO_2, IDC_LINE_STYLE_COMBO_3, IDC_LINE_STYLE_COMBO_4})
+    // Numbers, not names, in this test: hosts' templates and answers hold them.
+    for (const int id : {32004, 32017, 32020, 32026})
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
-    for (const int id : {IDC_COLOR, IDC_BRUSH_COLOR, IDC_COLOR_2, IDC_COLOR_3, IDC_COLOR_4, IDC_COLOR_5,
-                         IDC_COLOR_6, IDC_TEXT_COLOR, IDC_COLOR_7, IDC_COLOR_8})
+    for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
         EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
     EXPECT_EQ(1, Get<CColorControl>(IDC_COLOR_4).m_bExtraEntries);
     const struct {
-        int id;
+        unsigned kind; // and the identifier of its first control
         const CRuntimeClass* object;
-        unsigned kind;
     } rows[] = {
-        {IDC_FONT_FACE, RUNTIME_CLASS(CFontFaceControl), kControlFontFaces},
-        {IDC_FONT_SIZE, RUNTIME_CLASS(CFontSizeControl), kControlFontSizes},
-        {IDC_LINE_STYLE_COMBO, RUNTIME_CLASS(CLineStyleControlC), kControlLineStyleCombo},
-        {IDC_COLOR, RUNTIME_CLASS(CColorControl), kControlColors},
-        {IDC_BRUSH_STYLE_COMBO, RUNTIME_CLASS(CBrushStyleControlC), kControlBrushStyleCombo},
-        {IDC_LAYER, RUNTIME_CLASS(CLayerControl), kControlLayers},
-        {IDC_STYLE_NAME, RUNTIME_CLASS(CStyleNameControl), kControlStyleNames},
-        {IDC_LINE_STYLE_LIST, RUNTIME_CLASS(CLineStyleControlL), kControlLineStyleList},
-        {IDC_BRUSH_STYLE_LIST, RUNTIME_CLASS(CBrushStyleControlL), kControlBrushStyleList},
+        {32000, RUNTIME_CLASS(CFontFaceControl)},    {32001, RUNTIME_CLASS(CFontSizeControl)},
+        {32004, RUNTIME_CLASS(CLineStyleControlC)},  {32005, RUNTIME_CLASS(CColorControl)},
+        {32007, RUNTIME_CLASS(CBrushStyleControlC)}, {32008, RUNTIME_CLASS(CLayerControl)},
+        {32015, RUNTIME_CLASS(CStyleNameControl)},   {32021, RUNTIME_CLASS(CLineStyleControlL)},
+        {32024, RUNTIME_CLASS(CBrushStyleControlL)},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(row.object, ClassOf(row.id)) << row.id;
-        EXPECT_EQ(row.kind, KindOf(row.id)) << row.id;
-        EXPECT_EQ(static_cast<unsigned>(row.id), row.kind)
-            << "hosts know a kind by the number of its first identifier";
+        EXPECT_EQ(row.object, ClassOf(static_cast<int>(row.kind))) << row.kind;
+        EXPECT_EQ(row.kind, KindOf(static_cast<int>(row.kind)));
     }
-    EXPECT_EQ(RUNTIME_CLASS(CFontFaceControl), ClassOf(IDC_FONT_FACE_2));
-    EXPECT_EQ(kControlLineStyleCombo, KindOf(IDC_LINE_STYLE_COMBO_3)) << "the kind, not the identifier";
+    EXPECT_EQ(RUNTIME_CLASS(CFontFaceControl), ClassOf(32022));
+    EXPECT_EQ(kControlLineStyleCombo, KindOf(32020)) << "the kind, not the identifier";
 }
 
 TEST_F(Factory, OtherIdentifiersStayPlainControls) {
