@@ -1,6 +1,6 @@
 # What every target of this project has in common: warnings, and the runtime DLLs beside the programs.
 
-include(GoogleTest)
+include(GNUInstallDirs)
 
 string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
@@ -10,6 +10,38 @@ function(orlo_target target)
     target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-gdwarf-4>)
   endif()
+endfunction()
+
+# A DLL or program that is handed on: its version in the system's form, and a place in the installed tree.
+#   orlo_product(afx "Framework layer of Orlo" [HEADERS_IN include/afx])
+function(orlo_product target description)
+  cmake_parse_arguments(arg "" "HEADERS_IN" "" ${ARGN})
+  if(NOT arg_HEADERS_IN)
+    set(arg_HEADERS_IN ${CMAKE_INSTALL_INCLUDEDIR})
+  endif()
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    set(file_type VFT_APP)
+    set(file_name ${target}.exe)
+    install(TARGETS ${target})
+  else()
+    set(file_type VFT_DLL)
+    set(file_name ${target}.dll)
+    orlo_install_library(${target} ${arg_HEADERS_IN})
+  endif()
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc @ONLY)
+  target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  set_property(GLOBAL APPEND PROPERTY ORLO_PRODUCTS ${target})
+endfunction()
+
+# A library with its public headers in the installed tree, there to be found as orlo::NAME.
+function(orlo_install_library target headers_in)
+  get_target_property(sets ${target} INTERFACE_HEADER_SETS)
+  set(headers)
+  foreach(set ${sets})
+    list(APPEND headers FILE_SET ${set} DESTINATION ${headers_in})
+  endforeach()
+  install(TARGETS ${target} EXPORT orloTargets ${headers})
 endfunction()
 
 # A test program: GoogleTest under ctest, one process, one time limit.
@@ -32,7 +64,8 @@ function(orlo_test)
   endif()
 endfunction()
 
-# The compiler's runtime DLLs go beside the programs, so that the folder can be copied to a Windows machine.
+# The compiler's runtime DLLs go beside the programs, so that the folder can be copied to a Windows machine. Their paths are
+# in ORLO_RUNTIME.
 function(orlo_copy_runtime)
   if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
     set(unwind libgcc_s_seh-1.dll)
@@ -45,4 +78,5 @@ function(orlo_copy_runtime)
     list(APPEND paths ${path})
   endforeach()
   file(COPY ${paths} DESTINATION ${ORLO_BIN})
+  set(ORLO_RUNTIME ${paths} PARENT_SCOPE)
 endfunction()

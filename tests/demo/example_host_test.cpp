@@ -16,6 +16,15 @@ struct Child {
     HWND found;
 };
 
+// The one that was built elsewhere and is named by EXAMPLE_HOST; else the one beside this test.
+std::string Program() {
+    char path[MAX_PATH];
+    if (::GetEnvironmentVariableA("EXAMPLE_HOST", path, MAX_PATH) > 0) return path;
+    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
+    const std::string own = path;
+    return own.substr(0, own.rfind('\\') + 1) + "example_host.exe";
+}
+
 BOOL CALLBACK IsVisibleChild(HWND window, LPARAM parameter) {
     auto* child = reinterpret_cast<Child*>(parameter);
     if (::GetDlgCtrlID(window) != child->id || !::IsWindowVisible(window)) return TRUE;
@@ -33,10 +42,7 @@ protected:
     }
 
     void Start(const std::string& arguments) {
-        char line[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, line, MAX_PATH);
-        const std::string own = line;
-        std::string command = own.substr(0, own.rfind('\\') + 1) + "example_host.exe " + arguments;
+        std::string command = Program() + " " + arguments;
         STARTUPINFOA start = {};
         start.cb = sizeof start;
         ASSERT_TRUE(::CreateProcessA(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr,

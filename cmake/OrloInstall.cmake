@@ -1,0 +1,47 @@
+# The installed tree, beside what each target puts there by orlo_product():
+#   bin/ lib/ include/   DLLs and programs with their debug data, import libraries, headers
+#   lib/cmake/orlo       find_package(orlo): orlo::orlo, orlo::afx, orlo::drawcore32, orlo::host
+#   lib/pkgconfig        pkg-config orlo
+#   share/               guides, licences, examples
+
+include(CMakePackageConfigHelpers)
+
+foreach(path ${ORLO_RUNTIME})
+  get_filename_component(name ${path} NAME)
+  list(APPEND runtime_names ${name})
+endforeach()
+string(REPLACE ";" " " runtime_words "${runtime_names}")
+
+set(config ${PROJECT_BINARY_DIR}/config)
+set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/orlo)
+configure_package_config_file(cmake/orloConfig.cmake.in ${config}/orloConfig.cmake INSTALL_DESTINATION ${config_folder})
+write_basic_package_version_file(${config}/orloConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${config}/orloConfig.cmake ${config}/orloConfigVersion.cmake DESTINATION ${config_folder})
+install(EXPORT orloTargets NAMESPACE orlo:: DESTINATION ${config_folder})
+
+configure_file(cmake/orlo.pc.in ${config}/orlo.pc @ONLY)
+install(FILES ${config}/orlo.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(FILES ${ORLO_RUNTIME} TYPE BIN)
+install(FILES demo/demo.ini TYPE BIN)
+install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN examples EXCLUDE)
+install(DIRECTORY packaging/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})
+set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
+install(DIRECTORY packaging/example/ DESTINATION ${examples})
+install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp
+        DESTINATION ${examples})
+install(FILES tests/data/dxf/kabeja-draft4-roof-details.dxf DESTINATION ${examples} RENAME roof.dxf)
+
+# Everything that is handed on, and nothing else: what has to be built before it is installed.
+get_property(products GLOBAL PROPERTY ORLO_PRODUCTS)
+add_custom_target(products DEPENDS ${products})
+
+# Last: what has been copied above loses its debug data to a file beside it.
+foreach(product ${products})
+  list(APPEND binaries $<TARGET_FILE_NAME:${product}>)
+endforeach()
+install(CODE "set(objcopy \"${CMAKE_OBJCOPY}\")
+set(binaries \"${binaries}\")
+set(runtime \"${runtime_names}\")")
+install(SCRIPT cmake/SplitDebugData.cmake)

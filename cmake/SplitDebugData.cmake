@@ -1,0 +1,12 @@
+# At installation: moves the debug data of each of ${binaries} in bin/ to NAME.debug beside it, where gdb finds it.
+
+foreach(name ${binaries})
+  set(binary $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/${name})
+  execute_process(COMMAND ${objcopy} --only-keep-debug ${binary} ${binary}.debug COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND ${objcopy} --strip-all --add-gnu-debuglink=${binary}.debug ${binary} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+
+# What the compiler came with is as large as its debug data makes it.
+foreach(name ${runtime})
+  execute_process(COMMAND ${objcopy} --strip-all $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/${name} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()

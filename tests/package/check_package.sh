@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Installs the build, moves it to another place, and from there alone builds and runs hosts as a new user would: by
+# find_package and by a bare compiler line. Then as a part of another project.
+#   check_package.sh BUILD SOURCE TOOLCHAIN_FILE COMPILER EXAMPLE_HOST_TEST WORK_FOLDER
+set -euo pipefail
+build=$1 source=$2 toolchain=$3 compiler=$4 example_host_test=$5 work=$6
+
+rm -rf "$work"
+mkdir -p "$work"
+cmake --install "$build" --prefix "$work/first" >/dev/null
+mv "$work/first" "$work/orlo"
+prefix=$work/orlo
+
+step() { echo "-- $*"; }
+for_windows() { printf 'Z:%s' "$1"; }
+run() { "$source/run.d/wine_program.sh" "$@"; }
+# Drives the host's sheet by messages, with keys and OK.
+drive() { EXAMPLE_HOST=$(for_windows "$1") run "$example_host_test"; }
+
+step "what is handed on is small, and its debug data is beside it"
+for binary in "$prefix"/bin/*.{dll,exe}; do
+    [ "$(stat -c %s "$binary")" -lt 2000000 ] || { echo "$binary is not stripped"; exit 1; }
+done
+for name in afx.dll drawcore32.dll orlo.dll demo.exe suminfo.exe; do
+    [ "$(stat -c %s "$prefix/bin/$name.debug")" -gt 1000000 ] || { echo "$name.debug holds nothing"; exit 1; }
+done
+python3 - "$prefix/bin/orlo.dll" <<'TEXT' || { echo "orlo.dll does not tell its version"; exit 1; }
+import sys
+sys.exit("ProductVersion".encode("utf-16-le") not in open(sys.argv[1], "rb").read())
+TEXT
+
+step "the examples by find_package"
+cmake -S "$prefix/share/orlo/examples" -B "$work/examples" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.log"; exit 1; }
+run "$work/examples/page_host.exe"
+drive "$work/examples/example_host.exe"
+
+step "the example by one compiler line"
+export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig
+# shellcheck disable=SC2046 # flags are words
+"$compiler" -std=c++17 -municode -o "$prefix/bin/bare_host.exe" "$prefix/share/orlo/examples/example_host.cpp" \
+    $(pkg-config --define-prefix --cflags --libs orlo)
+drive "$prefix/bin/bare_host.exe"
+
+step "as a part of another project"
+mkdir "$work/part"
+cat >"$work/part/CMakeLists.txt" <<TEXT
+cmake_minimum_required(VERSION 3.25)
+project(part LANGUAGES C CXX RC)
+include(FetchContent)
+FetchContent_Declare(orlo SOURCE_DIR $source)
+FetchContent_MakeAvailable(orlo)
+add_executable(part part.cpp)
+target_link_libraries(part PRIVATE orlo::afx orlo::host)
+TEXT
+cat >"$work/part/part.cpp" <<'TEXT'
+#include <afx.h>
+#include "orlo/host/words.h"
+int main() { return CString(kPropPenScale) == "PenScale" ? 0 : 1; }
+TEXT
+cmake -S "$work/part" -B "$work/part/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" >/dev/null
+cmake --build "$work/part/build" --target part >"$work/part.log" || { cat "$work/part.log"; exit 1; }
+cp "$work/part/build/part.exe" "$work/part/build/_deps/orlo-build/bin"
+run "$work/part/build/_deps/orlo-build/bin/part.exe"
