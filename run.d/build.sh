@@ -1,7 +1,7 @@
-# Builds for 64-bit Windows into build/bin.
+# Builds for Windows, for 64 bits into build/bin unless a word has chosen otherwise.
 
 source run.d/setup.sh
-say "building (64-bit Windows)"
-configure x86_64
+say "building ($preset Windows)"
+configure "$preset"
 if [ "$word" = build ]; then targets=("$@"); fi   # other words may set targets before; none: everything
-cmake --build build/x86_64 ${targets[0]:+--target "${targets[@]}"}
+cmake --build "build/$preset" ${targets[0]:+--target "${targets[@]}"}

@@ -3,6 +3,8 @@
 say() { printf '== %s\n' "$*" >&2; }
 die() { printf 'run: %s\n' "$*" >&2; exit 1; }
 
+preset=x86_64 bin=build/bin   # what is built for Windows, and where its programs are
+
 # Wine takes its code page from the locale: without one its conversions crash, and file names reach programs mangled.
 export LC_ALL=C.UTF-8
 export WINEPREFIX=${ORLO_WINEPREFIX:-$PWD/build/wine}
@@ -64,7 +66,7 @@ wine_session() {
     wineserver -p || true
     # Waits for its window: what the first program starts for all (services, desktop) would otherwise be started by a
     # test, and hold the pipe open that the test's reader waits on.
-    exec {keeper_fd}< <(exec wine build/bin/keeper.exe </dev/null 2>/dev/null)
+    exec {keeper_fd}< <(exec wine "$bin/keeper.exe" </dev/null 2>/dev/null)
     keeper_pid=$!
     read -r -t 60 -u "$keeper_fd" || die "Wine's desktop did not start"
 }
