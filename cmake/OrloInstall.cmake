@@ -1,6 +1,6 @@
 # The installed tree, beside what each target puts there by orlo_product():
 #   bin/ lib/ include/   DLLs and programs with their debug data, import libraries, headers
-#   lib/cmake/orlo       find_package(orlo): orlo::orlo, orlo::afx, orlo::drawcore32, orlo::host
+#   lib/cmake/orlo       find_package(orlo): orlo::orlo, orlo::afx, orlo::drawcore32, orlo::host, orlo::propset
 #   lib/pkgconfig        pkg-config orlo
 #   share/               guides, licences, examples
 

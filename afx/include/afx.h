@@ -37,12 +37,17 @@ using LPCSTR = const char*;
 #define AFX_PRINTF printf
 #endif
 
-#if !defined(_WIN32)
+#if !defined(_WIN32) || defined(AFX_STATIC)
 #define AFX_API
 #elif defined(AFX_BUILD)
 #define AFX_API __declspec(dllexport)
 #else
 #define AFX_API __declspec(dllimport)
+#endif
+
+// The static library afx_base has no string table and no message boxes, on Windows as elsewhere.
+#if defined(_WIN32) && !defined(AFX_STATIC)
+#define AFX_HAS_WINDOWS
 #endif
 
 #if defined(NDEBUG)
@@ -174,7 +179,7 @@ public:
     // -1: the text ends at its first NUL.
     void ReleaseBuffer(int nNewLength = -1);
 
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     // The string resource of that number, searched along the chain of modules; false leaves the text empty.
     BOOL LoadString(UINT nID) {
         return ReadResource(nID);
@@ -182,7 +187,7 @@ public:
 #endif
 
 private:
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     BOOL ReadResource(UINT nID);
 #endif
     std::string m_text;
@@ -225,7 +230,7 @@ public:
     ~CException() override;
     void Delete();
 
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     // Text for a person, with its NUL cut to nMaxError bytes; false and an empty text if the exception has
     // none.
     virtual BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr);
@@ -251,7 +256,7 @@ class AFX_API CNotSupportedException : public CException {
 public:
     CNotSupportedException();
     ~CNotSupportedException() override;
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) override;
 #endif
 };
@@ -262,7 +267,7 @@ class AFX_API CResourceException : public CException {
 public:
     CResourceException();
     ~CResourceException() override;
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) override;
 #endif
 };
@@ -291,7 +296,7 @@ public:
     LONG m_lOsError; // errno of the failed call
     CString m_strFileName;
 
-#if defined(_WIN32)
+#if defined(AFX_HAS_WINDOWS)
     BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr) override;
 #endif
 };

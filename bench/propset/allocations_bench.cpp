@@ -16,7 +16,7 @@ constexpr GUID kFormat = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
 
 } // namespace
 
-// This program's allocator, in the place of the one that native/ has for the library.
+// This program's allocator, in the place of the one that the static library has.
 void* DrawCoreNew(size_t size) {
     ++allocations;
     return std::malloc(size);

@@ -35,6 +35,9 @@ cmake -S "$prefix/share/orlo/examples" -B "$work/examples" -G Ninja -DCMAKE_TOOL
 cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.log"; exit 1; }
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
+mkdir "$work/alone" # without any DLL in reach
+cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
+[ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
 
 step "the example by one compiler line"
 export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig

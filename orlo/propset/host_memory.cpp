@@ -1,4 +1,4 @@
-// The host's allocator on this machine.
+// The host's allocator for programs that have no host: part of the static library only.
 
 #include "orlo/host/memory.h"
 
