@@ -23,7 +23,6 @@ configure_file(cmake/orlo.pc.in ${config}/orlo.pc @ONLY)
 install(FILES ${config}/orlo.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 install(FILES ${ORLO_RUNTIME} TYPE BIN)
-install(FILES demo/demo.ini TYPE BIN)
 install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN examples EXCLUDE)
 install(DIRECTORY packaging/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -1,0 +1,10 @@
+# Orlo for vcpkg, as an overlay port: vcpkg install orlo --overlay-ports=packaging --triplet x64-mingw-dynamic
+# The sources are those that this folder stands in. The libraries alone; programs come with the zip of ./run package.
+
+get_filename_component(SOURCE_PATH "${CMAKE_CURRENT_LIST_DIR}/../.." ABSOLUTE)
+vcpkg_cmake_configure(SOURCE_PATH "${SOURCE_PATH}" OPTIONS -DORLO_TESTS=OFF -DORLO_PROGRAMS=OFF)
+vcpkg_cmake_install()
+vcpkg_cmake_config_fixup(CONFIG_PATH lib/cmake/orlo)
+vcpkg_fixup_pkgconfig()
+file(REMOVE_RECURSE "${CURRENT_PACKAGES_DIR}/debug/include" "${CURRENT_PACKAGES_DIR}/debug/share")
+vcpkg_install_copyright(FILE_LIST "${SOURCE_PATH}/LICENSE")

@@ -1,0 +1,6 @@
+# Makes out/orlo-VERSION.tar.xz: the sources as they are committed.
+
+version=$(sed -n 's/^project(orlo VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+mkdir -p out
+git archive --prefix="orlo-$version/" HEAD | xz >"out/orlo-$version.tar.xz"
+say "out/orlo-$version.tar.xz ($(du -h "out/orlo-$version.tar.xz" | cut -f 1))"
