@@ -2,7 +2,7 @@
 // CBrushStyleControlL.
 //
 // Brush styles are identifiers of the table's entries; kBrushStyleNone is no brush, which is the first item and never selected by a
-// filling, kBrushStyleMixed several. There is a single sample graphic and a single viewport, whatever the number of styles.
+// filling, kBrushStyleIndeterminate several. There is a single sample graphic and a single viewport, whatever the number of styles.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

@@ -100,7 +100,7 @@ void CColorControl::EnableLastEntry(int bEnable) {
 }
 
 int CColorControl::FindColor(DWORD dwColor) {
-    if (dwColor == kColorNone || dwColor == kColorMixed) return -1;
+    if (dwColor == kColorNone || dwColor == kColorIndeterminate) return -1;
     char key[kKeySize];
     DWord_to_Hex(dwColor, key);
     return FindString(-1, key);

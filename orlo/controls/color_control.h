@@ -5,7 +5,7 @@
 // identifiers. A colour that is in no item is shown all the same in the closed field, by its numbers. These
 // values are markers:
 //
-//   kColorNone, kColorMixed  no value yet, several values: both show nothing
+//   kColorNone, kColorIndeterminate  no value yet, several values: both show nothing
 //   kColorByLayer            first extra entry, by the host's text
 //   kColorOfPen              second one, likewise
 //   kColorByBlock            shown if it comes up; no list offers it
@@ -28,7 +28,7 @@ public:
     // The second extra entry goes behind the first, from the next filling on.
     void EnableLastEntry(int bEnable);
 
-    // Index of the item of that colour; -1 for kColorNone and kColorMixed, or if there is none.
+    // Index of the item of that colour; -1 for kColorNone and kColorIndeterminate, or if there is none.
     int FindColor(DWORD dwColor);
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;

@@ -25,16 +25,17 @@ ORLO_API unsigned long ParseControlItem(char* item);
 ORLO_API unsigned long LookupControlItem(HWND hWnd, const char* name);
 
 // Numbers that stand for no entry where the identifier of one is wanted: none, and several.
-enum : unsigned int { kEntryNone = 0, kEntryMixed = 0xFFFF };
+enum : unsigned int { kEntryNone = 0, kEntryIndeterminate = 0xFFFF };
 
-// Identifiers that can stand for an entry: from kEntryMixed on they are mixed or no 16-bit number.
+// Identifiers that can stand for an entry: from kEntryIndeterminate on they are indeterminate or no 16-bit
+// number.
 constexpr bool IsTableIdentifier(unsigned int id) {
-    return id != kEntryNone && id < kEntryMixed;
+    return id != kEntryNone && id < kEntryIndeterminate;
 }
 
 // Identifiers of which there is nothing to find or to show.
 constexpr bool IsNoEntry(unsigned int id) {
-    return id == kEntryNone || id == kEntryMixed;
+    return id == kEntryNone || id == kEntryIndeterminate;
 }
 
 // An item text in the making.

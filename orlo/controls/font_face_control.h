@@ -1,6 +1,6 @@
 // CFontFaceControl: a combo box of the TrueType faces of the system, as plain names.
 //
-// The host fills it with the face to select in dwValue (const char*) and any nSelected but kEntryNone and kEntryMixed; a face that the
+// The host fills it with the face to select in dwValue (const char*) and any nSelected but kEntryNone and kEntryIndeterminate; a face that the
 // system does not have joins the list.
 #pragma once
 

@@ -1,7 +1,7 @@
 // CFontSizeControl: a combo box in which a font height is typed or chosen, as a length of the drawing.
 //
 // The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but
-// kEntryNone and kEntryMixed. The heights are those of the drawing's current font (kUnitFontName of its units table); a height that is in no
+// kEntryNone and kEntryIndeterminate. The heights are those of the drawing's current font (kUnitFontName of its units table); a height that is in no
 // list joins it. Return in the edit field counts as choosing an item: see enter_edit.h.
 #pragma once
 

@@ -86,7 +86,7 @@ double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidt
 
 bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item) {
     ClearItem(request);
-    if (item.style == kLineStyleNone || item.style >= kLineStyleMixed) return true;
+    if (item.style == kLineStyleNone || item.style >= kLineStyleIndeterminate) return true;
 
     const RECT cell = Inflated(request.rcItem, -2);
     const bool special = item.style == kLineStyleByLayer || item.style == kLineStyleByBlock;

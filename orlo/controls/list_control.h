@@ -44,7 +44,7 @@ protected:
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Index of the item of that identifier; -1 for kEntryNone and kEntryMixed, or if there is none.
+    // Index of the item of that identifier; -1 for kEntryNone and kEntryIndeterminate, or if there is none.
     int FindItem(unsigned int nID) const {
         char key[kKeySize];
         DWord_to_Hex(nID, key);

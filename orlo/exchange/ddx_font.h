@@ -25,6 +25,6 @@ ORLO_API int DDX_CBFontStyle(int bReport, CDataExchange* pDX, unsigned int nIDC,
 // cannot be written.
 ORLO_API int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& size);
 
-// The five effects in the three-state check boxes 103 to 107. The third state on an effect that is not mixed counts as off,
+// The five effects in the three-state check boxes 103 to 107. The third state on an effect in which the texts agree counts as off,
 // and is taken out of the box. Cannot fail.
 ORLO_API int DDX_ChkBoxEffects(int bReport, CDataExchange* pDX, unsigned short* pStyle);

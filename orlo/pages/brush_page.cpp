@@ -10,6 +10,7 @@
 #include "orlo/controls/color_control.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/style.h"
@@ -18,8 +19,8 @@
 #include "orlo/host/viewport.h"
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/pages/passed_over.h"
+#include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
@@ -71,8 +72,8 @@ double WidthOf(GraphicStruct* graphic) {
     return ::ExtentsGetX2(extents) - ::ExtentsGetX1(extents);
 }
 
-bool IsMixedStyle(unsigned int style) {
-    return style == kBrushStyleMixed || style == kIndeterminateId;
+bool IsIndeterminateStyle(unsigned int style) {
+    return style == kBrushStyleIndeterminate || style == kIndeterminateId;
 }
 
 } // namespace
@@ -103,11 +104,11 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
         TellPassedOver(*this, pDX, IDC_BRUSH_ANGLE);
-    if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
+    if (!IsNearlyIndeterminate(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
     DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
     DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
-    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, kPropBrushStyle);
     DDX_ConvertStyle(1, pDX, m_nStyle);
@@ -139,12 +140,12 @@ void CBrushPage::TurnAngle(int steps) {
         ::MessageBeep(MB_ICONWARNING);
         return;
     }
-    angle = Turned(IsMixed(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
+    angle = Turned(IsNearlyIndeterminate(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
     DDX_TextAngle(&load, IDC_BRUSH_ANGLE, angle, drawing);
 }
 
 CString CBrushPage::StyleName(unsigned int style) const {
-    if (IsMixedStyle(style)) return kMixedText;
+    if (IsIndeterminateStyle(style)) return kIndeterminateWord;
     char name[kStyleNameSize] = "";
     if (style == kBrushStyleNone)
         ::DrawCoreLoadString(kStringNoBrush, name, sizeof name);
@@ -203,7 +204,7 @@ void CBrushPage::SetPreviewProperties(int bAll) {
     }
     if (wanted(IDC_BRUSH_ANGLE)) {
         double angle = 0.0;
-        if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsMixed(angle) &&
+        if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsNearlyIndeterminate(angle) &&
             DDV_Radians(1, &dx, angle))
             SetPropText(kPropBrushAngle, angle, 1);
     }
@@ -226,7 +227,7 @@ void CBrushPage::SetPreviewProperties(int bAll) {
 void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
     unsigned int style = m_nStyle;
-    if (DDX_ConvertStyle(0, pDX, style) && !IsMixedStyle(style)) {
+    if (DDX_ConvertStyle(0, pDX, style) && !IsIndeterminateStyle(style)) {
         const bool hatched =
             style != kBrushStyleNone && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
         if (hatched) {

@@ -28,7 +28,7 @@ public:
 
 protected:
     // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written as the host does. One
-    // beyond a full turn begins again, a mixed angle begins at 0, and a text that is no angle stays, with a beep.
+    // beyond a full turn begins again, an indeterminate angle begins at 0, and a text that is no angle stays, with a beep.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:

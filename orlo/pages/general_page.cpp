@@ -19,7 +19,6 @@ IMPLEMENT_DYNAMIC(CGeneralPage, CGraphicPropertyPage)
 
 namespace {
 
-constexpr char kMixedInfo[] = "<Indeterminate>";
 constexpr int kLongestStyleName = 32;
 constexpr int kNameSize = 256;
 constexpr unsigned long kNoStylePart = 4; // bit of the graphic flags
@@ -107,15 +106,15 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
     m_bFirstExchange = 0;
 }
 
-// Mixed texts show as a text of their own, which counts as untouched however it came there.
+// Indeterminate texts show as a text of their own, which counts as untouched however it came there.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
     if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
-        CString shown(kMixedInfo);
+        CString shown(kIndeterminateInfo);
         DDX_Text(1, pDX, IDC_INFO, shown);
     } else {
         DDX_Text(1, pDX, IDC_INFO, m_strInfo);
-        if (m_strInfo == kMixedInfo) m_strInfo = kIndeterminateText;
+        if (m_strInfo == kIndeterminateInfo) m_strInfo = kIndeterminateString;
     }
 }
 

@@ -14,7 +14,6 @@
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
 #include "orlo/pages/insert_preview.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CInsertPage, CGraphicPropertyPage)
@@ -110,7 +109,7 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     const int id = static_cast<int>(field.nID);
     double& value = this->*field.member;
     DDX_Text(1, pDX, id, value);
-    if (IsMixed(value)) return;
+    if (IsNearlyIndeterminate(value)) return;
     if (field.limit == 0) {
         DDX_TextRadians(1, pDX, field.nID, value);
         DDV_Radians(1, pDX, value);

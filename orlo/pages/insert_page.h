@@ -27,7 +27,7 @@ public:
 
     // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
     void LoadInsertParts(int bPreview);
-    // Puts the members into all insertions of the set. A mixed member, and in the selection one whose control the user has not
+    // Puts the members into all insertions of the set. An indeterminate member, and in the selection one whose control the user has not
     // touched or has brought back to its first text, leaves each insertion its own.
     void ApplyInsertParts(int bPreview);
 

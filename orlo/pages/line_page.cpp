@@ -5,12 +5,13 @@
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/pages/pen_width.h"
+#include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/preview_shape.h"
@@ -54,7 +55,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 
     // The property is wider than the member. Saving, the member already holds what the combo shows.
     unsigned short scaleSystem =
-        m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
+        m_nScaleSystem == kScaleIndeterminate ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
     DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, kPropScaleSystem);
     m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
     DDX_CBScaleSystem(1, pDX, IDC_SCALE_SYSTEM, m_nScaleSystem);
@@ -65,11 +66,11 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
     DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(pDX);
-    if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
+    if (!IsNearlyIndeterminate(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
-    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
@@ -92,9 +93,9 @@ CString CLinePage::StyleName(unsigned int style) const {
     switch (style) {
     case kLineStyleNone:
         return "Undefined";
-    case kLineStyleMixed:
+    case kLineStyleIndeterminate:
     case kIndeterminateId:
-        return kMixedText;
+        return kIndeterminateWord;
     case kLineStyleByLayer:
         ::DrawCoreLoadString(kStringByLayer, name, sizeof name);
         break;
@@ -149,12 +150,12 @@ void CLinePage::SetPreviewProperties(int bAll) {
     if (wanted(IDC_PEN_WIDTH)) {
         double width = 0.0;
         if (DDX_CBPenWidth(0, &dx, IDC_PEN_WIDTH, width, m_nScaleSystem, CurrentDrawing()) &&
-            !IsMixed(width) && DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
+            !IsNearlyIndeterminate(width) && DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
             SetPropText(kPropPenWidth, width, 1);
     }
     if (wanted(IDC_PEN_SCALE)) {
         double scale = 0.0;
-        if (DDX_Text(0, &dx, IDC_PEN_SCALE, scale) && !IsMixed(scale) &&
+        if (DDX_Text(0, &dx, IDC_PEN_SCALE, scale) && !IsNearlyIndeterminate(scale) &&
             DDV_MinMaxDouble(0, &dx, scale, kLeastScale, kMostScale))
             SetPropText(kPropPenScale, scale, 1);
     }
@@ -165,7 +166,7 @@ void CLinePage::SetPreviewProperties(int bAll) {
     if (wanted(IDC_SCALE_SYSTEM)) {
         unsigned char system = kScalePaper;
         DDX_CBScaleSystem(0, &dx, IDC_SCALE_SYSTEM, system);
-        if (system != kScaleMixed) SetPropText(kPropScaleSystem, system, 1);
+        if (system != kScaleIndeterminate) SetPropText(kPropScaleSystem, system, 1);
     }
     if (wanted(IDC_PEN_ALIGNMENT))
         SetPropCheck(kPropPenAlignment, CheckForPreview(&dx, IDC_PEN_ALIGNMENT, bAll, m_nLastAlignment), 1);

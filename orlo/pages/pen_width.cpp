@@ -70,7 +70,7 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
         return TextToPenWidth(drawing, scaleSystem, text, &value) ? 1 : Refuse(bReport, pDX);
     }
     if (IsIndeterminate(value)) {
-        SelectText(combo, kIndeterminateDisplay);
+        SelectText(combo, kIndeterminateStars);
         return 1;
     }
     char text[256];
@@ -99,7 +99,7 @@ int DDX_CBScaleSystem(int, CDataExchange* pDX, int nIDC, unsigned char& value) {
     const HWND combo = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
         const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
-        value = index == 0 ? kScaleWorld : index == 1 ? kScalePaper : kScaleMixed;
+        value = index == 0 ? kScaleWorld : index == 1 ? kScalePaper : kScaleIndeterminate;
     } else {
         const int index = value == kScaleWorld ? 0 : value == kScalePaper ? 1 : -1;
         ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);

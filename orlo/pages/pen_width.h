@@ -23,5 +23,5 @@ void FillPenWidths(CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigne
 void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing,
                      unsigned char scaleSystem);
 
-// Exchanges the combo of scale systems: item 0 is world, item 1 paper, no item mixed. Always 1.
+// Exchanges the combo of scale systems: item 0 is world, item 1 paper, no item the indeterminate one. Always 1.
 int DDX_CBScaleSystem(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);

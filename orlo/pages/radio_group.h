@@ -5,7 +5,7 @@
 #include <afxwin.h>
 
 // The first button of the group. Windows, unlike Wine, takes the focus of an unchecked button for a choice; with none in the
-// group checked it is no choice here, so that mixed values survive a user who passes by.
+// group checked it is no choice here, so that indeterminate values survive a user who passes by.
 class CRadioGroup : public CButton {
 public:
     // Behind the exchange of the group that begins with nIDC. Loading attaches the button; saving does nothing.

@@ -8,11 +8,11 @@
 #include "orlo/controls/font_size_control.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/owners.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/pages/passed_over.h"
 #include "orlo/resources/resource.h"
 
@@ -70,7 +70,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, kPropTextSize);
     DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize);
-    if (!IsMixed(m_dSize))
+    if (!IsNearlyIndeterminate(m_dSize))
         DDV_FontSize(1, pDX, m_dSize);
     else
         TellPassedOver(*this, pDX, IDC_FONT_SIZE);

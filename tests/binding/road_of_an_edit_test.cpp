@@ -65,7 +65,7 @@ TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
     EXPECT_TRUE(kit[1].writes.empty());
 }
 
-TYPED_TEST(EditRoad, MixedValuesSurviveAnUntouchedPage) {
+TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
     GraphicKit kit;
     kit.Add({{kName, Sample<TypeParam>::A()}});
     kit.Add({{kName, Sample<TypeParam>::B()}});
@@ -95,8 +95,8 @@ TYPED_TEST(EditRoad, AMissingPropertyKeepsTheDefaultAndWritesNothing) {
     EXPECT_EQ(0, kit.Writes());
 }
 
-// A mixed field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
-TEST(MixedNumber, TypedOverReachesAllAndRestoredReachesNone) {
+// An indeterminate field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
+TEST(IndeterminateNumber, TypedOverReachesAllAndRestoredReachesNone) {
     for (const char* typed : {"3.5", "*****"}) {
         SCOPED_TRACE(typed);
         GraphicKit kit;
@@ -130,7 +130,7 @@ ExchangePage::Exchange InCheck(T& member) {
     };
 }
 
-TYPED_TEST(CheckRoad, MixedShowsTheThirdStateAndAClickWritesAll) {
+TYPED_TEST(CheckRoad, DifferingGraphicsShowTheThirdStateAndAClickWritesAll) {
     for (const bool touched : {false, true}) {
         GraphicKit kit;
         kit.Add({{kName, 1}});
@@ -182,7 +182,7 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
     });
     sheet.Run([&](SheetDriver& user) {
         for (int id = kRadio; id < kRadio + 3; ++id)
-            EXPECT_EQ(0, user.Check(id)); // mixed: none
+            EXPECT_EQ(0, user.Check(id)); // differing: none
         user.Click(kRadio + 2);
         EXPECT_EQ(1, page.GetControlStatus(kRadio));
         EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));

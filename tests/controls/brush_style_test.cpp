@@ -130,7 +130,7 @@ TYPED_TEST(BrushStyles, ValuesOfTheClosedField) {
         unsigned value;
         bool ink;
     } rows[] = {{kBrushStyleNone, true},
-                {kBrushStyleMixed, false},
+                {kBrushStyleIndeterminate, false},
                 {0xFFFE, false},
                 {0xFFFFFFFF, false},
                 {style, true}};

@@ -109,8 +109,8 @@ TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
 TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     Add("Red", RGB(255, 0, 0));
     m_control.AddString("FFFFFFFF\tnever found");
-    EXPECT_EQ(-1, m_control.FindColor(kColorMixed));
-    FillColors(kColorMixed);
+    EXPECT_EQ(-1, m_control.FindColor(kColorIndeterminate));
+    FillColors(kColorIndeterminate);
     EXPECT_EQ(-1, m_control.GetCurSel());
     FillColors(RGB(1, 2, 3));
     EXPECT_EQ(-1, m_control.GetCurSel());
@@ -253,7 +253,7 @@ TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
 }
 
 TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
-    for (const DWORD none : {kColorNone, kColorMixed}) {
+    for (const DWORD none : {kColorNone, kColorIndeterminate}) {
         FillColors(none);
         Draw(static_cast<UINT>(-1), kField);
         EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite));
@@ -264,7 +264,7 @@ TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
 TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     const COLORREF yellow = RGB(255, 255, 0);
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
-    FillColors(kColorMixed);
+    FillColors(kColorIndeterminate);
     Draw(static_cast<UINT>(-1), kField);
     EXPECT_EQ(100 * 16, m_pixels.Count(kField, kBlack));
     DrawOnly(kColorByLayer, "");

@@ -137,7 +137,7 @@ TEST_F(Fonts, WithoutASizeOrAFontNothingIsShown) {
     const struct {
         float size;
         unsigned selected;
-    } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, kEntryMixed}};
+    } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, kEntryIndeterminate}};
     for (const auto& row : rows) {
         FillSizes(row.size, row.selected);
         EXPECT_EQ(3, m_sizes.GetCount());

@@ -113,7 +113,7 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     Draw(-1);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
     EXPECT_LT(30, InkFrom(16, 32));
-    for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryMixed}, 0xFFFFFFFFu}) {
+    for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryIndeterminate}, 0xFFFFFFFFu}) {
         m_control.m_nSelected = none;
         Draw(-1);
         EXPECT_EQ(0, InkFrom(0, 140)) << none;

@@ -102,7 +102,7 @@ TYPED_TEST(LineStyles, SpecialValuesOfTheClosedFieldAreDrawnByName) {
         unsigned value;
         bool ink;
     } rows[] = {{kLineStyleNone, false},
-                {kLineStyleMixed, false},
+                {kLineStyleIndeterminate, false},
                 {0xFFFFFFFF, false},
                 {kLineStyleByLayer, true},
                 {kLineStyleByBlock, true}};

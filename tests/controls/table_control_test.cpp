@@ -88,9 +88,9 @@ TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
 TYPED_TEST(TableControl, SelectsNothingForWhatIsNoEntry) {
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_control.AddString("00000000\tZero");
-    this->m_control.AddString("0000FFFF\tMixed");
+    this->m_control.AddString("0000FFFF\tIndeterminate");
     EXPECT_EQ(-1, this->m_control.Find(0)) << "whatever the list holds";
-    EXPECT_EQ(-1, this->m_control.Find(kEntryMixed));
+    EXPECT_EQ(-1, this->m_control.Find(kEntryIndeterminate));
     for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
         this->Fill(this->m_table, none);
         EXPECT_EQ(-1, this->m_control.GetCurSel()) << none;

@@ -97,7 +97,7 @@ TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
     }
 }
 
-TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerMixed) {
+TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
     for (size_t i = 0; i < 5; ++i) {
         const unsigned short bit = kEffectBits[i];
         unsigned short style[] = {0xFFFF, 0};
@@ -115,7 +115,7 @@ TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerMixed) {
         EXPECT_EQ(0xFFFF & ~bit, style[0]);
         EXPECT_EQ(0xFFFF & ~bit, style[1]);
 
-        style[0] = 0; // the user clicks on into the third state of an effect that is not mixed
+        style[0] = 0; // the user clicks on into the third state of an effect in which the texts agree
         style[1] = bit;
         DDX_ChkBoxEffects(1, &m_load, style);
         Send(kEffectBoxes[i], BM_CLICK);
@@ -138,10 +138,10 @@ TEST_F(FontExchange, AHeightIsShownAndReadBack) {
     }
     EXPECT_EQ(3, Send(IDC_FONT_SIZE, CB_GETCOUNT)) << "each joins once";
 
-    double mixed = HUGE_VAL;
+    double indeterminate = HUGE_VAL;
     const std::string before = SizeText();
-    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, mixed));
-    EXPECT_EQ(before, SizeText()) << "a mixed value leaves the control";
+    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, indeterminate));
+    EXPECT_EQ(before, SizeText()) << "an indeterminate value leaves the control";
 
     double size = 7.0;
     Send(IDC_FONT_SIZE, CB_SETCURSEL, static_cast<WPARAM>(-1));

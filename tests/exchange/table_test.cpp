@@ -122,7 +122,7 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
     const struct {
         unsigned long color;
         int index;
-    } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorMixed, -1}, {0x00123456, -1}};
+    } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorIndeterminate, -1}, {0x00123456, -1}};
     for (const auto& row : rows) {
         unsigned long value = row.color;
         EXPECT_EQ(1, DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value));
@@ -171,7 +171,7 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     SetText(IDC_COMBO, "");
     value = kIndeterminateId;
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(kIndeterminateId, value) << "a mixed value survives";
+    EXPECT_EQ(kIndeterminateId, value) << "an indeterminate value survives";
 
     // The host closes the drawing: its table answers as an empty one.
     m_drawing.Close();

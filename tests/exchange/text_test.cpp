@@ -211,7 +211,7 @@ TEST_F(TextExchange, ShownNumbersReadBack) {
     }
 }
 
-TEST_F(TextExchange, TheMarkerOfAMixedValueSurvivesAnUntouchedField) {
+TEST_F(TextExchange, TheIndeterminateMarkerSurvivesAnUntouchedField) {
     double value = HUGE_VAL;
     EXPECT_EQ("*****", Shown(value));
     for (const int bReport : {0, 1}) {

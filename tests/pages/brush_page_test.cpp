@@ -1,4 +1,4 @@
-// The Brush page in a real sheet: what it shows of equal and mixed fillings, which controls a style enables, what it
+// The Brush page in a real sheet: what it shows of equal and differing fillings, which controls a style enables, what it
 // writes, and what its preview shows.
 
 #include <gtest/gtest.h>
@@ -45,7 +45,7 @@ protected:
                         {kPropBrushDrawMode, mode}});
     }
 
-    void AddMixed() {
+    void AddDiffering() {
         Add(Style("Cross"), kRed, 2, 30 * kDegree, 1, 1);
         Add(Style("Vertical"), kBlue, 3, 45 * kDegree, 0, 0);
     }
@@ -101,8 +101,8 @@ TEST_F(BrushPage, ShowsAnEqualBrush) {
     EXPECT_EQ(0, kit.Writes());
 }
 
-TEST_F(BrushPage, MixedBrushesShowTheirMarkersAndSurviveOk) {
-    AddMixed();
+TEST_F(BrushPage, DifferingBrushesShowTheirMarkersAndSurviveOk) {
+    AddDiffering();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   EXPECT_EQ("Indeterminate", user.Text(IDC_BRUSH_STYLE_TEXT));
                   EXPECT_EQ(-1, user.Selection(IDC_BRUSH_STYLE_LIST));
@@ -118,7 +118,7 @@ TEST_F(BrushPage, MixedBrushesShowTheirMarkersAndSurviveOk) {
     EXPECT_EQ(0, kit.Writes());
 }
 
-TEST_F(BrushPage, OneEditOverMixedBrushesChangesOneProperty) {
+TEST_F(BrushPage, OneEditOverDifferingBrushesChangesOneProperty) {
     struct {
         const char* property;
         std::function<void(SheetDriver&)> edit;

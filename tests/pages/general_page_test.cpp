@@ -62,7 +62,7 @@ TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
     EXPECT_EQ(0, kit.Writes());
 }
 
-TEST_F(GeneralPage, KeepsMixedValuesThatNobodyTouched) {
+TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
     Add(walls, "a");
     Add(doors, "b");
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {

@@ -1,4 +1,4 @@
-// The Block Insertion page over real insertions: what it shows of equal and mixed ones, what it writes, and its preview.
+// The Block Insertion page over real insertions: what it shows of equal and differing ones, what it writes, and its preview.
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,7 @@ protected:
         insertions.push_back(graphic);
         return graphic;
     }
-    void AddMixed() {
+    void AddDiffering() {
         Add({{1, 2, 0}, {2, 2, 1}, {0, 0, 30 * kDegree}});
         Add({{1, 5, 0}, {2, 2, 1}, {0, 0, 60 * kDegree}});
         Add({{1, 7, 0}, {2, 3, 1}, {0, 0, 90 * kDegree}});
@@ -110,7 +110,7 @@ protected:
 };
 
 TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
-    AddMixed();
+    AddDiffering();
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         const char* const kTexts[] = {"2", "*****", "1", "0", "0", "*****", "1", "*****", "0"};
         for (size_t i = 0; i < std::size(kAll); ++i)
@@ -144,7 +144,7 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
     EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
 }
 
-// One field changed over a mixed selection reaches all, and everything else stays each insertion's own; undo takes it back.
+// One field changed over a selection that differs reaches all, and everything else stays each insertion's own; undo takes it back.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;
@@ -159,7 +159,7 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
                   {IDC_POSITION_X, "-7.5", &InsertParts::position, 0, -7.5},
                   {IDC_POSITION_Y, "1e6", &InsertParts::position, 1, 1e6},
                   {IDC_POSITION_Z, "3", &InsertParts::position, 2, 3}};
-    AddMixed();
+    AddDiffering();
     const Vertices before = All();
     for (const auto& edit : kEdits) {
         SCOPED_TRACE(edit.id);
@@ -225,7 +225,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
 }
 
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
-    AddMixed();
+    AddDiffering();
     const Vertices before = All();
     ::DrawingBeginUndo(drawing.Get());
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
@@ -245,7 +245,7 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
 // The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
 // the value is good.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
-    AddMixed();
+    AddDiffering();
     const Vertices before = All();
     const struct {
         int id;

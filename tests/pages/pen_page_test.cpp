@@ -1,4 +1,4 @@
-// The Pen page in a real sheet: what it shows of equal and mixed pens, what it writes, and what its preview follows.
+// The Pen page in a real sheet: what it shows of equal and differing pens, what it writes, and what its preview follows.
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ protected:
         Add(1 / kInch, 0x0000FF, 2.0, dashed, 2, 1);
     }
 
-    void AddMixed() {
+    void AddDiffering() {
         Add(1 / kInch, 0x0000FF, 2.0, dashed, 2, 1);
         Add(2 / kInch, 0x00FF00, 3.0, kLineStyleByLayer, 0, 0);
     }
@@ -104,8 +104,8 @@ TEST_F(PenPage, ShowsAnEqualPen) {
     });
 }
 
-TEST_F(PenPage, MixedPensShowTheirMarkersAndSurviveOk) {
-    AddMixed();
+TEST_F(PenPage, DifferingPensShowTheirMarkersAndSurviveOk) {
+    AddDiffering();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   EXPECT_EQ("*****", user.Text(IDC_PEN_WIDTH));
                   EXPECT_EQ("Indeterminate", user.Text(IDC_PEN_SCALE));
@@ -126,8 +126,8 @@ struct Edit {
     double expected;
 };
 
-// One control changed over a mixed selection: its property reaches both, all others stay each graphic's own.
-TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
+// One control changed over a selection that differs: its property reaches both, all others stay each graphic's own.
+TEST_F(PenPage, OneEditOverDifferingPensChangesOneProperty) {
     const Edit kEdits[] = {
         {"color", [](SheetDriver& user) { user.Choose(IDC_COLOR, 0); }, kPropPenColor, kDarkest},
         {"width", [](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "5 mm"); }, kPropPenWidth, 5 / kInch},
@@ -142,7 +142,7 @@ TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
         {"system", [](SheetDriver& user) { user.Choose(IDC_SCALE_SYSTEM, 1); }, kPropScaleSystem, 2},
         {"alignment", [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, kPropPenAlignment, 0},
     };
-    AddMixed();
+    AddDiffering();
     for (const Edit& edit : kEdits) {
         SCOPED_TRACE(edit.name);
         kit[0].writes.clear();
@@ -156,7 +156,7 @@ TEST_F(PenPage, OneEditOverMixedPensChangesOneProperty) {
             EXPECT_EQ(edit.property, kit[i].writes[0].name);
             EXPECT_NEAR(edit.expected, kit[i].Number(edit.property), 1e-9);
         }
-        kit[1].properties[edit.property].number += 1; // mixed again
+        kit[1].properties[edit.property].number += 1; // different again
     }
 }
 
@@ -272,9 +272,9 @@ TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
     EXPECT_EQ(1, kit[0].Number(kPropPenScale));
 }
 
-// The mixed state is left at the first click, for the other of the last definite state, and never comes back.
-TEST_F(PenPage, AMixedAlignmentTogglesFromItsFirstClick) {
-    AddMixed();
+// The indeterminate state is left at the first click, for the other of the last definite state, and never comes back.
+TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
+    AddDiffering();
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         std::vector<int> states;
         for (int i = 0; i < 6; ++i) {

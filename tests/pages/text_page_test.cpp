@@ -1,4 +1,4 @@
-// The Text page in a real sheet: what it shows of equal and mixed texts, what one edit writes and leaves alone, the list of
+// The Text page in a real sheet: what it shows of equal and differing texts, what one edit writes and leaves alone, the list of
 // heights of a font, and the preview.
 
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ protected:
                         {kPropTextFormat, format}},
                        kGraphicText);
     }
-    void AddMixed() {
+    void AddDiffering() {
         Add(kSans, 2, 0x2101, kRed, 0); // 0x2000 is none of the page's bits
         Add(kSerif, 3, 0x0046, kBlue, 2);
     }
@@ -114,14 +114,14 @@ TEST_F(TextPage, ShowsEqualTexts) {
     EXPECT_EQ(0, kit.Writes());
 }
 
-TEST_F(TextPage, MixedTextsShowNothingAndSurviveOk) {
-    AddMixed();
+TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
+    AddDiffering();
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   for (const int combo : {IDC_FONT_FACE, IDC_FONT_SIZE, IDC_FONT_STYLE, IDC_TEXT_COLOR})
                       EXPECT_EQ(-1, user.Selection(combo)) << combo;
                   EXPECT_EQ("", user.Text(IDC_FONT_SIZE));
-                  const int mixed[] = {IDC_ALL_CAPS, IDC_UNDERLINE, IDC_STRIKETHROUGH};
-                  for (const int box : mixed)
+                  const int differing[] = {IDC_ALL_CAPS, IDC_UNDERLINE, IDC_STRIKETHROUGH};
+                  for (const int box : differing)
                       EXPECT_EQ(BST_INDETERMINATE, user.Check(box)) << box;
                   EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_HIDDEN));
                   EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_TEXT_BOX));
@@ -140,7 +140,7 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
     KitGraphic& a = Add(kSans, 2, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 2, 0, kRed, 0);
     for (int i = 0; i < 5; ++i) {
-        for (const int clicks : {1, 2}) { // out of the mixed state to off, and on to on
+        for (const int clicks : {1, 2}) { // out of the indeterminate state to off, and on to on
             SCOPED_TRACE(kEffects[i] * 10 + clicks);
             a.properties[kPropTextStyle] = 0x2A15;
             b.properties[kPropTextStyle] = 0xFFFF & ~0x2A15;
@@ -171,8 +171,8 @@ TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
     EXPECT_EQ(0x0047, b.Number(kPropTextStyle));
 }
 
-TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
-    AddMixed();
+TEST_F(TextPage, OneEditOverDifferingTextsChangesOneProperty) {
+    AddDiffering();
     struct {
         const char* property;
         std::function<void(SheetDriver&)> edit;
@@ -201,7 +201,7 @@ TEST_F(TextPage, OneEditOverMixedTextsChangesOneProperty) {
     }
 }
 
-TEST_F(TextPage, AThirdStateOfAnEffectThatIsNotMixedIsOff) {
+TEST_F(TextPage, AThirdStateOfAnEffectInWhichTextsAgreeIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   user.Click(IDC_HIDDEN); // from checked into the third state
@@ -248,7 +248,7 @@ TEST_F(TextPage, AChangeOfFontKeepsAHeightThatOthersBeginWith) {
 TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     KitGraphic& a = Add(kSans, 4, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 4, 0, kRed, 0);
-    for (const double second : {3.0, 4.0}) { // mixed, equal
+    for (const double second : {3.0, 4.0}) { // different, equal
         b.properties[kPropTextSize] = second;
         for (KitGraphic* text : {&a, &b}) {
             text->properties[kPropTextFont] = kSans;
@@ -317,7 +317,7 @@ TEST_F(TextPage, AHeightThatCannotBeWrittenLeavesItsFieldBlank) {
 }
 
 TEST_F(TextPage, CancelWritesNothing) {
-    AddMixed();
+    AddDiffering();
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                   ChooseFont(user, kSerif);
                   user.Type(IDC_FONT_SIZE, "7.5");

@@ -1,13 +1,9 @@
-#include "orlo/pages/mixed_value.h"
+// CheckForPreview.
 
-#include "orlo/binding/fuzzy.h"
+#include "orlo/pages/preview_rows.h"
+
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddx.h"
-
-bool IsMixed(double value) {
-    const double marker = Indeterminate<double>::Value();
-    return CompareDoubles(&value, &marker) == 0;
-}
 
 int CheckForPreview(CDataExchange* pDX, int nID, int bAll, int& last) {
     int value = 0;
