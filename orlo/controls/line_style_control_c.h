@@ -11,6 +11,7 @@
 class ORLO_API CLineStyleControlC : public CComboControl {
     DECLARE_DYNCREATE(CLineStyleControlC)
     friend CWnd* CreateComboObject(HWND hWnd, int nID);
+    friend struct StyleControl;
 
 public:
     explicit CLineStyleControlC(int bAddDefaultItem = 1);

@@ -59,26 +59,14 @@ CFontSizeControl* SizeControlOf(HWND window) {
 
 void SaveSize(CFontSizeControl& control, double& size) {
     size = Indeterminate<double>::Value();
-    const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
-    const int selected = items.Selected();
-    CString text;
-    if (selected == CB_ERR)
-        text = WindowText(control.m_hWnd);
-    else
-        items.GetText(selected, text);
-    control.ReConvertFontSize(text, size);
+    control.ReConvertFontSize(ShownText(control.m_hWnd), size);
 }
 
 bool LoadSize(CFontSizeControl& control, double size) {
     char text[kSizeTextSize];
     if (!DrawingStdNumericToText(control.m_pDrawing, size, text, sizeof text, kTextSizeKind)) return false;
     const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
-    int index = items.FindExact(text);
-    if (index == CB_ERR) {
-        items.Add(text);
-        index = items.FindExact(text);
-    }
-    items.Select(index);
+    items.Select(items.FindOrAdd(text));
     return true;
 }
 

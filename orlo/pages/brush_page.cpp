@@ -1,4 +1,4 @@
-// CBrushPage.
+// CBrushPage: exchange of the filling, the arrows beside the angle, and the preview with its hatch.
 
 #include "orlo/pages/brush_page.h"
 
@@ -19,13 +19,13 @@
 #include "orlo/host/viewport.h"
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/passed_over.h"
+#include "orlo/pages/ignored_text.h"
 #include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/hatch_scale.h"
-#include "orlo/samples/preview_shape.h"
+#include "orlo/samples/vertex_list.h"
 
 IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
 
@@ -41,10 +41,10 @@ constexpr double kLinesAcrossPreview = 20.0;
 int drawModes[] = {-1, 1, 0};
 constexpr int kDrawModeCount = 3;
 
-// What the arrows beside the angle turn by, and where they begin again.
+// The step of the arrows beside the angle, and where they wrap around.
 struct AngularUnit {
     double radians;
-    double turn; // units
+    double turn; // in units
     int highest; // whole angle of the up-down control
 };
 
@@ -100,10 +100,10 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, kPropBrushColor);
     DDX_CBTableColor(1, pDX, IDC_BRUSH_COLOR, m_dwColor);
 
-    // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
+    // An angle that cannot be read does not end the exchange: the limits check what the host made of it.
     DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
-        TellPassedOver(*this, pDX, IDC_BRUSH_ANGLE);
+        WarnOfIgnoredText(*this, pDX, IDC_BRUSH_ANGLE);
     if (!IsNearlyIndeterminate(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
     DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
@@ -128,7 +128,7 @@ BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->idFrom != IDC_BRUSH_ANGLE_ARROWS || header->code != static_cast<UINT>(UDN_DELTAPOS))
         return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
     TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
-    *pResult = TRUE; // the control itself reads and writes whole numbers only
+    *pResult = TRUE; // the control itself handles whole numbers only
     return TRUE;
 }
 
@@ -193,37 +193,43 @@ void* CBrushPage::CreatePreviewGraphic() {
     return shape;
 }
 
+struct CBrushPage::Preview {
+    static const PreviewRow<CBrushPage> kRows[5];
+};
+
+const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
+    {{IDC_BRUSH_COLOR},
+     [](CBrushPage& page, CDataExchange* pDX, int) {
+         CarryColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor);
+     }},
+    {{IDC_BRUSH_ANGLE},
+     [](CBrushPage& page, CDataExchange* pDX, int) {
+         double angle = 0.0;
+         if (DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsNearlyIndeterminate(angle) &&
+             DDV_Radians(1, pDX, angle))
+             page.SetPropText(kPropBrushAngle, angle, 1);
+     }},
+    {{IDC_BRUSH_STYLE_LIST}, [](CBrushPage& page, CDataExchange* pDX, int) { page.SetPreviewStyle(pDX); }},
+    {{IDC_HATCH_CROSS},
+     [](CBrushPage& page, CDataExchange* pDX, int bAll) {
+         CarryCheck(page, pDX, IDC_HATCH_CROSS, bAll, page.m_nLastCross, kPropHatchCross);
+     }},
+    {{IDC_DRAW_WINDING}, [](CBrushPage& page, CDataExchange* pDX, int) {
+         int mode = 0;
+         if (DDX_RadioMap(0, pDX, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
+             page.SetPropText(kPropBrushDrawMode, mode, 1);
+     }}};
+
 void CBrushPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CDataExchange dx(this, TRUE);
-    const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
-
-    if (wanted(IDC_BRUSH_COLOR)) {
-        unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_BRUSH_COLOR, color)) SetPropText(kPropBrushColor, color, 1);
-    }
-    if (wanted(IDC_BRUSH_ANGLE)) {
-        double angle = 0.0;
-        if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsNearlyIndeterminate(angle) &&
-            DDV_Radians(1, &dx, angle))
-            SetPropText(kPropBrushAngle, angle, 1);
-    }
-    if (wanted(IDC_BRUSH_STYLE_LIST)) SetPreviewStyle(&dx);
-    if (wanted(IDC_HATCH_CROSS))
-        SetPropCheck(kPropHatchCross, CheckForPreview(&dx, IDC_HATCH_CROSS, bAll, m_nLastCross), 1);
-    if (wanted(IDC_DRAW_WINDING)) {
-        int mode = 0;
-        if (DDX_RadioMap(0, &dx, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
-            SetPropText(kPropBrushDrawMode, mode, 1);
-    }
-
+    CarryToPreview(*this, Preview::kRows, bAll);
     // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
     ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);
     ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }
 
-// The style decides on the preview's scale, so that any hatch can be told there, and on which controls make sense.
+// The style decides the scale of the preview, so that any hatch can be recognised there, and which controls make sense.
 void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
     unsigned int style = m_nStyle;
