@@ -1,4 +1,4 @@
-// The value that stands for "the selected graphics differ", one for each member type.
+// The indeterminate value, which means that the selected graphics differ: one for each member type.
 //
 // A merged member holds it when two graphics disagree; a member that still holds it at the write-back is skipped, so that
 // every graphic keeps its own value.

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The next window of the group, null behind its last.
+// The next window of the group, or null after its last.
 HWND NextInGroup(HWND window) {
     const HWND next = ::GetWindow(window, GW_HWNDNEXT);
     return next && !(::GetWindowLongPtrA(next, GWL_STYLE) & WS_GROUP) ? next : nullptr;

@@ -110,7 +110,7 @@ TEST(Records, OfOneKeyAreAllKept) {
     const std::vector<char> memory(0x20001);
     CMapWordToOb records;
     const auto lay = [&](size_t offset, int nID) {
-        LayRecord(records, new CDDPRecord(Nothing, nID, const_cast<char*>(&memory[offset]), "Any"));
+        AddRecord(records, new CDDPRecord(Nothing, nID, const_cast<char*>(&memory[offset]), "Any"));
     };
     lay(0, 1);
     lay(0x10000, 2);
