@@ -185,25 +185,4 @@ TEST(BrushStyleList, RowsAreThreeTenthsOfTheWidth) {
     list.DestroyWindow();
 }
 
-class ManyBrushStyles : public ControlDialog {};
-
-TEST_F(ManyBrushStyles, AreMeasuredOnceAndDrawnWhereVisible) {
-    TableStruct* const table = m_drawing.Table(kTableBrushStyles);
-    const BrushLine line = {0.5, 0, 0, 0, 1, 0, {}};
-    for (int i = 0; i < 2000; ++i)
-        BrushStyleAddLines(table, ("style " + std::to_string(i)).c_str(), &line, 1);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = m_dialog.measured = 0;
-    Fill(IDC_BRUSH_STYLE_LIST, table, 5);
-    Pump();
-    CListControl& list = Get<CListControl>(IDC_BRUSH_STYLE_LIST);
-    EXPECT_LE(2001, list.GetCount());
-    EXPECT_GE(list.GetCount(), m_dialog.measured);
-    CRect client;
-    list.GetClientRect(client);
-    EXPECT_LT(0, m_dialog.drawn);
-    EXPECT_GE(3 * (client.Height() / (client.Width() * 30 / 100) + 1), m_dialog.drawn);
-}
-
 } // namespace

@@ -1,4 +1,4 @@
-// The colour control: the order of its list, its swatches by pixel, and what filling and drawing cost.
+// The colour control: the order of its list, and its swatches by pixel.
 
 #include "control_dialog.h"
 
@@ -7,8 +7,6 @@
 #include <random>
 
 #include "orlo/controls/color_control.h"
-#include "orlo/controls/color_order.h"
-#include "orlo/controls/text_height.h"
 #include "support/object_counts.h"
 #include "support/pixels.h"
 #include "support/scheme_colors.h"
@@ -140,32 +138,6 @@ TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
     CString first;
     filtered.GetLBText(0, first);
     EXPECT_EQ("00090909\tgrey", std::string(first));
-}
-
-// ---- What it costs
-
-TEST_F(ColorControl, TenThousandColorsAreDrawnOnlyAsFarAsTheyShow) {
-    std::mt19937 random(5);
-    for (int i = 0; i < 10000; ++i)
-        Add("c" + std::to_string(i), random() & 0xFFFFFF);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = m_dialog.measured = 0;
-    FillColors();
-    Pump();
-    EXPECT_EQ(10001, m_control.GetCount());
-    EXPECT_GE(2, m_dialog.drawn) << "at most the closed field";
-    for (int i = 1; i < 10000; ++i)
-        ASSERT_LE(CompareHSVforRGBs(Color(i - 1), Color(i)), 0);
-
-    m_control.SizeDropDown();
-    m_dialog.drawn = 0;
-    m_control.ShowDropDown();
-    Pump();
-    const int rows = 320 / GetOwnerDrawFixedTextHeight(m_control.m_hWnd);
-    EXPECT_LE(rows / 2, m_dialog.drawn);
-    EXPECT_GE(3 * rows, m_dialog.drawn);
-    m_control.ShowDropDown(FALSE);
 }
 
 // ---- Drawing, by pixel

@@ -1,4 +1,4 @@
-// The layer control: icons, names and colours of its rows, and lists of ten thousand layers.
+// The layer control: icons, names and colours of its rows.
 
 #include "control_dialog.h"
 
@@ -166,29 +166,6 @@ TEST_F(Layers, RowsFitIconAndFont) {
     EXPECT_LE(48u, measure.itemHeight);
     m_control.SendMessage(WM_SETFONT, 0, 0);
     ::DeleteObject(large);
-}
-
-// Each layer is asked for once, and only what can be seen is drawn.
-TEST_F(Layers, TenThousandAreMeasuredOnceAndDrawnWhereVisible) {
-    for (int i = 0; i < 10000; ++i)
-        TableEntryAdd(m_table, ("layer " + std::to_string(i)).c_str(), nullptr);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = m_dialog.measured = 0;
-    Fill(IDC_LAYER, m_table, 9000);
-    Pump();
-    EXPECT_EQ(10001, m_control.GetCount());
-    EXPECT_EQ(8999, m_control.GetCurSel());
-    EXPECT_GE(10001, m_dialog.measured);
-    EXPECT_GE(3, m_dialog.drawn) << "the closed field";
-
-    m_dialog.drawn = 0;
-    m_control.SizeDropDown();
-    m_control.ShowDropDown(TRUE);
-    Pump();
-    EXPECT_LE(2, m_dialog.drawn);
-    EXPECT_GE(3 * (320 / 16), m_dialog.drawn);
-    m_control.ShowDropDown(FALSE);
 }
 
 } // namespace

@@ -222,22 +222,6 @@ TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
 
 class DrawnDialog : public ControlDialog {};
 
-TEST_F(DrawnDialog, AListOfTwoThousandStylesAsksTheHostForTheVisibleRowsOnly) {
-    TableStruct* const table = m_drawing.Table(kTableLineStyles);
-    const double pattern[] = {1.0, -0.5};
-    for (int i = 0; i < 2000; ++i)
-        LineStyleAdd(table, ("style " + std::to_string(i)).c_str(), nullptr, pattern, 2);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = 0;
-    Fill(IDC_LINE_STYLE_LIST, table, 5);
-    Pump();
-    CRect client;
-    Get<CListControl>(IDC_LINE_STYLE_LIST).GetClientRect(client);
-    EXPECT_LT(0, m_dialog.drawn);
-    EXPECT_GE(3 * (client.Height() / 22 + 1), m_dialog.drawn);
-}
-
 TEST_F(DrawnDialog, TheListHasItsOwnHeight) {
     CRect rect;
     Get<CListControl>(IDC_LINE_STYLE_LIST).GetWindowRect(rect);
