@@ -2,7 +2,6 @@
 
 #include "exchange_dialog.h"
 
-#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_button.h"
 #include "orlo/exchange/ddx_variable.h"
 #include "orlo/resources/resource.h"
@@ -15,7 +14,7 @@ constexpr unsigned long kLong = 0x12340000ul | kVariable; // only the low half c
 
 class VariableExchange : public ExchangeDialog {
 protected:
-    VariableExchange() : m_table(m_drawing.Get()->pUnits) { PropPageInit(); }
+    VariableExchange() : m_table(m_drawing.Get()->pUnits) {}
 
     double Real() const {
         double value = -99.0;
@@ -115,9 +114,7 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
     {
         MessageBoxWatcher boxes;
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 2, 0); }));
-        CString expected;
-        expected.LoadString(AFX_IDP_PARSE_REAL);
-        EXPECT_EQ(std::string(expected), boxes.OnlyText()) << "without limits";
+        EXPECT_EQ(Prompt(AFX_IDP_PARSE_REAL), boxes.OnlyText()) << "without limits";
     }
     EXPECT_EQ(0, exchange(0, m_save, 0, 2));
     EXPECT_NEAR(1.0, Real(), 1e-12);
