@@ -65,6 +65,9 @@ TEST_F(Graphics, WithoutThePropertyNothingIsMerged) {
     EXPECT_EQ(0, Merge<Double>(set, "Any", &width));
     EXPECT_EQ(0, Merge<Double>(ObjectSet(nullptr, 0, false), "Any", &width));
     EXPECT_EQ(-1, width);
+    unsigned short pair[] = {9, 9};
+    EXPECT_EQ(0, MergeBits(set, "Any", pair));
+    EXPECT_EQ(0, pair[0]);
 }
 
 TEST_F(Graphics, ADifferenceEndsTheWalk) {

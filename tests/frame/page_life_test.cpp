@@ -11,8 +11,8 @@
 namespace {
 
 // A page that shows one number and one list, and follows its edit in the preview.
-struct Fixture : ::testing::Test {
-    Fixture() {
+struct PageLife : ::testing::Test {
+    PageLife() {
         kit.Add({{"Width", 1.0}});
         sheet = std::make_unique<TestSheet>(kit);
         page = &sheet->Add([this](CDataExchange* pDX) {
@@ -34,8 +34,6 @@ struct Fixture : ::testing::Test {
     double width = 0;
 };
 
-using PageLife = Fixture;
-
 TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
     sheet->Run([&](SheetDriver& user) {
         EXPECT_EQ(0, page->IsModified());
@@ -45,40 +43,26 @@ TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
     });
 }
 
-struct Notice {
-    const char* name;
-    int id, code;
-    bool change; // marks the control
-    bool end;    // tells the end of an edit, on a dirty control of a modified page
-};
-
-constexpr Notice kNotices[] = {
-    {"EditChange", kEdit, EN_CHANGE, true, false},
-    {"EditUpdate", kEdit, EN_UPDATE, false, false},
-    {"EditKillFocus", kEdit, EN_KILLFOCUS, false, true},
-    {"ButtonClicked", kCheck, BN_CLICKED, true, true},
-    {"ButtonDoubleClicked", kCheck, BN_DOUBLECLICKED, true, true},
-    {"ButtonSetFocus", kCheck, BN_SETFOCUS, false, false},
-    {"ComboEditChange", kCombo, CBN_EDITCHANGE, true, false},
-    {"ComboSelChange", kCombo, CBN_SELCHANGE, true, false},
-    {"ComboSelEndOk", kCombo, CBN_SELENDOK, true, true},
-    {"ComboSelEndCancel", kCombo, CBN_SELENDCANCEL, false, true},
-    {"ComboDropDown", kCombo, CBN_DROPDOWN, false, false},
-    {"ListSelChange", kList, LBN_SELCHANGE, true, true},
-    {"ListDoubleClick", kList, LBN_DBLCLK, false, false},
-};
-
 TEST_F(PageLife, NotificationsMarkByTheTables) {
+    const struct {
+        int id, code;
+        bool change; // marks the control
+    } rows[] = {
+        {kEdit, EN_CHANGE, true},          {kEdit, EN_UPDATE, false},        {kEdit, EN_KILLFOCUS, false},
+        {kCheck, BN_CLICKED, true},        {kCheck, BN_DOUBLECLICKED, true}, {kCheck, BN_SETFOCUS, false},
+        {kCombo, CBN_EDITCHANGE, true},    {kCombo, CBN_SELCHANGE, true},    {kCombo, CBN_SELENDOK, true},
+        {kCombo, CBN_SELENDCANCEL, false}, {kCombo, CBN_DROPDOWN, false},    {kList, LBN_SELCHANGE, true},
+        {kList, LBN_DBLCLK, false},
+    };
     sheet->Run([&](SheetDriver& user) {
-        for (const Notice& notice : kNotices) {
-            SCOPED_TRACE(notice.name);
-            page->SetControlStatus(notice.id, 0);
+        for (const auto& row : rows) {
+            page->SetControlStatus(row.id, 0);
             page->SetModifiedFlag(0);
             page->previewCalls.clear();
-            Send(user, notice.id, notice.code);
-            EXPECT_EQ(notice.change, page->GetControlStatus(notice.id) != 0);
-            EXPECT_EQ(notice.change, page->IsModified() != 0);
-            EXPECT_EQ(notice.change, !page->previewCalls.empty());
+            Send(user, row.id, row.code);
+            EXPECT_EQ(row.change, page->GetControlStatus(row.id) != 0) << row.id << " " << row.code;
+            EXPECT_EQ(row.change, page->IsModified() != 0) << row.id << " " << row.code;
+            EXPECT_EQ(row.change, !page->previewCalls.empty()) << row.id << " " << row.code;
         }
     });
 }
@@ -107,19 +91,17 @@ TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
     });
 }
 
-TEST_F(PageLife, IgnoredControlsChangeNothing) {
+TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
     page->IgnoreApply(kOtherEdit);
     sheet->Run([&](SheetDriver& user) {
         user.Type(kOtherEdit, "x");
         EXPECT_EQ(0, page->IsModified());
         EXPECT_EQ(0, page->GetControlStatus(kOtherEdit));
-    });
-}
-
-TEST_F(PageLife, ControlsWithoutARowReadAsDirtyAndCannotBeSet) {
-    sheet->Run([&](SheetDriver&) {
-        EXPECT_EQ(1, page->GetControlStatus(9999));
+        EXPECT_EQ(1, page->GetControlStatus(9999)) << "no such control";
         EXPECT_EQ(0, page->SetControlStatus(9999, 1));
+        kit[0].properties["Width"].number = 8;
+        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0); // a refresh that has not been asked for
+        EXPECT_EQ("1", user.Text(kEdit));
     });
 }
 
@@ -136,14 +118,6 @@ TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
         EXPECT_NE(0, page->IsModified());
     });
     EXPECT_EQ(8, kit[0].Number("Width")); // Cancel writes nothing further and undoes nothing
-}
-
-TEST_F(PageLife, TheRefreshCommandReloadsOnlyWhenAsked) {
-    sheet->Run([&](SheetDriver& user) {
-        kit[0].properties["Width"].number = 8;
-        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0);
-        EXPECT_EQ("1", user.Text(kEdit));
-    });
 }
 
 // The selection stays as it is through any number of previews; only graphics of the group are written.

@@ -238,7 +238,7 @@ TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
                   steps[2]->accepts = false;
                   user.ClickSheetButton(kNext);
                   EXPECT_EQ("2 Back Finish", State(user));
-                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks behind the pages' OnOK, and stays open";
+                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks after the pages' OnOK, and stays open";
                   steps[2]->accepts = true;
                   user.ClickSheetButton(kNext);
               }));
@@ -336,27 +336,18 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
     }
 }
 
-TEST_F(Wizard, SystemMenuMovesAndCloses) {
+TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
     RunThree([](SheetDriver& user) {
         const HMENU menu = ::GetSystemMenu(user.Sheet(), FALSE);
         ASSERT_EQ(2, ::GetMenuItemCount(menu));
         EXPECT_EQ(UINT{SC_MOVE}, ::GetMenuItemID(menu, 0));
         EXPECT_EQ(UINT{SC_CLOSE}, ::GetMenuItemID(menu, 1));
-    });
-}
 
-TEST_F(Wizard, ActivationIsLeftToThePages) {
-    RunThree([](SheetDriver& user) {
         EXPECT_EQ(1, ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_INACTIVE, 0));
-        const HWND field = user.Control(kField);
-        ::SetFocus(field);
+        ::SetFocus(user.Control(kField));
         ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_ACTIVE, 0);
-        EXPECT_EQ(field, ::GetFocus());
-    });
-}
+        EXPECT_EQ(user.Control(kField), ::GetFocus());
 
-TEST_F(Wizard, FontAndButtonsAreThePages) {
-    RunThree([](SheetDriver& user) {
         LOGFONTA page = {}, button = {};
         ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page,
                      &page);
