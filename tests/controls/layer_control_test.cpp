@@ -6,12 +6,10 @@
 
 #include "orlo/controls/layer_control.h"
 #include "orlo/exchange/ddx_control.h"
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
 
 namespace {
 
-const COLORREF kUntouched = RGB(1, 2, 3);
+const COLORREF kUntouched = DrawnPixels::kUntouched;
 const RECT kRow = {0, 8, 140, 24};
 const RECT kAll = {0, 0, 150, 60};
 
@@ -25,16 +23,11 @@ protected:
         return id;
     }
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
-        m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {
-            0, IDC_LAYER, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
-        m_control.DrawItem(&request);
+        m_pixels.Draw(m_control, item, rect, action, state);
     }
-    // Pixels of a column of the row that are neither background nor untouched.
+    // In a column of the row.
     int InkFrom(int left, int right, int background = COLOR_WINDOW) const {
-        const COLORREF back = ::GetSysColor(background);
-        return m_pixels.CountWhere({left, 0, right, 60},
-                                   [=](COLORREF c) { return c != back && c != kUntouched; });
+        return m_pixels.Ink({left, 0, right, 60}, background);
     }
     int Index(uint16_t id) {
         char name[kItemTextSize];
@@ -45,7 +38,7 @@ protected:
 
     TableStruct* m_table;
     CLayerControl& m_control;
-    Pixels m_pixels{150, 60};
+    DrawnPixels m_pixels{150, 60};
 };
 
 TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
@@ -146,10 +139,7 @@ TEST_F(Layers, ASubclassedWindowHasItsIcons) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
     const ControlFillRecord record = {m_table, 0, id};
     control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
-    m_pixels.Clear(kUntouched);
-    DRAWITEMSTRUCT request = {
-        0, 2, static_cast<UINT>(-1), ODA_DRAWENTIRE, 0, control.m_hWnd, m_pixels.DC(), kRow, 0};
-    control.DrawItem(&request);
+    m_pixels.Draw(control, -1, kRow);
     EXPECT_LT(30, InkFrom(0, 16));
     control.DestroyWindow();
 }

@@ -14,8 +14,6 @@
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
 #include "orlo/exchange/ddx_control.h"
-#include "support/object_counts.h"
-#include "support/pixels.h"
 
 namespace {
 
@@ -77,7 +75,7 @@ using LineList = ListOf<Lines, CLineStyleControlL>;
 using BrushCombo = ComboOf<Brushes, CBrushStyleControlC>;
 using BrushList = ListOf<Brushes, CBrushStyleControlL>;
 
-const COLORREF kUntouched = RGB(1, 2, 3);
+const COLORREF kUntouched = DrawnPixels::kUntouched;
 const RECT kRow = {0, 20, 136, 42}, kField = {5, 20, 140, 42}, kAll = {0, 0, 150, 60};
 
 template <class Kind>
@@ -109,16 +107,9 @@ protected:
         return id;
     }
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
-        m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {
-            0, 1, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
-        m_control.DrawItem(&request);
+        m_pixels.Draw(m_control, item, rect, action, state);
     }
-    // Pixels that are neither background nor untouched.
-    int Ink(const RECT& rect = kAll) {
-        const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-        return m_pixels.CountWhere(rect, [=](COLORREF c) { return c != window && c != kUntouched; });
-    }
+    int Ink(const RECT& rect = kAll) { return m_pixels.Ink(rect); }
     // length: what the sample's width is divided by for the scale; 0: the scale stays 1.
     struct ScaleRow {
         const char* name;
@@ -141,7 +132,7 @@ protected:
     TestDrawing m_drawing;
     TableStruct* m_table;
     typename Kind::Control m_control;
-    Pixels m_pixels{150, 60};
+    DrawnPixels m_pixels{150, 60};
 };
 
 // ---- All four
