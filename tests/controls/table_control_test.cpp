@@ -9,31 +9,25 @@
 
 namespace {
 
-// Bases made concrete: they show what they hold and draw nothing.
-class TableCombo : public CComboControl {
+// A base made concrete: it shows what it holds and draws nothing.
+template <class Base, unsigned kKind>
+class Concrete : public Base {
 public:
-    TableCombo() : CComboControl(0x7D99) {}
-    bool MakeIn(CWnd* parent) {
-        return Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 120, 24),
-                      parent, 1);
-    }
-    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
-    void DrawItem(LPDRAWITEMSTRUCT) override {}
-    int Find(unsigned id) const { return FindItem(id); }
-    UINT rowHeight = 16;
-};
+    static constexpr bool kIsCombo = std::is_base_of<CComboBox, Base>::value;
+    static constexpr DWORD kStyle =
+        WS_CHILD | CBS_OWNERDRAWFIXED | (kIsCombo ? CBS_DROPDOWNLIST | CBS_HASSTRINGS : LBS_HASSTRINGS);
 
-class TableList : public CListControl {
-public:
-    TableList() : CListControl(0x7D98) {}
+    Concrete() : Base(kKind) {}
     bool MakeIn(CWnd* parent) {
-        return Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 120, 80), parent, 1);
+        return this->Create(kStyle, CRect(0, 0, 120, kIsCombo ? 24 : 80), parent, 1);
     }
     void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
     void DrawItem(LPDRAWITEMSTRUCT) override {}
-    int Find(unsigned id) const { return FindItem(id); }
+    int Find(unsigned id) const { return this->FindItem(id); }
     UINT rowHeight = 16;
 };
+using TableCombo = Concrete<CComboControl, 0x7D99>;
+using TableList = Concrete<CListControl, 0x7D98>;
 
 template <class Control>
 class TableControl : public ::testing::Test {
@@ -60,13 +54,7 @@ protected:
 };
 
 using Twins = ::testing::Types<TableCombo, TableList>;
-struct TwinName {
-    template <class Control>
-    static std::string GetName(int) {
-        return std::is_base_of<CComboBox, Control>::value ? "Combo" : "List";
-    }
-};
-TYPED_TEST_SUITE(TableControl, Twins, TwinName);
+TYPED_TEST_SUITE(TableControl, Twins);
 
 TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
     const uint16_t zinc = TableEntryAdd(this->m_table, "Zinc", nullptr);
@@ -142,15 +130,12 @@ TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
 
 // Rows, font, size and the announcement, which the host answers at once.
 TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
-    constexpr bool combo = std::is_base_of<CComboBox, TypeParam>::value;
+    constexpr bool combo = TypeParam::kIsCombo;
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_host.answer = this->m_table;
-    constexpr DWORD kFixed = CBS_OWNERDRAWFIXED,
-                    kVariable = CBS_OWNERDRAWVARIABLE; // those of a list are the same
-    for (const DWORD drawn : {kFixed, kVariable}) {
+    for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // those of a list are the same
         for (const bool exchanged : {false, true}) {
-            const DWORD style =
-                WS_CHILD | drawn | (combo ? CBS_DROPDOWNLIST | CBS_HASSTRINGS : LBS_HASSTRINGS);
+            const DWORD style = (TypeParam::kStyle & ~DWORD{CBS_OWNERDRAWFIXED}) | drawn;
             const HWND window =
                 ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
                                   this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
@@ -312,8 +297,7 @@ TEST(ComboClick, OnlyTheButtonOpensTheList) {
     ASSERT_TRUE(parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300,
                                       nullptr, nullptr));
     TableCombo combo;
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
-                             CRect(30, 40, 150, 140), &parent, 1));
+    ASSERT_TRUE(combo.Create(WS_VISIBLE | TableCombo::kStyle, CRect(30, 40, 150, 140), &parent, 1));
     combo.AddString("item");
     combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 5));
     EXPECT_FALSE(combo.GetDroppedState());

@@ -4,22 +4,13 @@
 
 #include <string>
 
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
-#include "support/test_sheet.h"
+#include "frame/width_page.h"
 
 namespace {
 
 // A page that shows one number and one list, and follows its edit in the preview.
 struct PageLife : ::testing::Test {
-    PageLife() {
-        kit.Add({{"Width", 1.0}});
-        sheet = std::make_unique<TestSheet>(kit);
-        page = &sheet->Add([this](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
+    PageLife() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), page(&width.page) {
         page->hasPreview = true;
     }
 
@@ -29,13 +20,13 @@ struct PageLife : ::testing::Test {
     }
 
     GraphicKit kit;
-    std::unique_ptr<TestSheet> sheet;
+    TestSheet sheet;
+    WidthPage width;
     ExchangePage* page;
-    double width = 0;
 };
 
 TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         EXPECT_EQ(0, page->IsModified());
         EXPECT_EQ(0, page->GetControlStatus(kEdit));
         EXPECT_EQ(std::vector<int>{1}, page->previewCalls);
@@ -54,7 +45,7 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
         {kCombo, CBN_SELENDCANCEL, false}, {kCombo, CBN_DROPDOWN, false},    {kList, LBN_SELCHANGE, true},
         {kList, LBN_DBLCLK, false},
     };
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         for (const auto& row : rows) {
             page->SetControlStatus(row.id, 0);
             page->SetModifiedFlag(0);
@@ -69,7 +60,7 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
 
 // The end of an edit tells the sheet, but renews no preview: that has followed each change.
 TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all
         EXPECT_EQ(0, page->IsModified());
         user.Type(kEdit, "2");
@@ -82,7 +73,7 @@ TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
 }
 
 TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Click(kRadio + 1);
         EXPECT_EQ(1, page->GetControlStatus(kRadio));
         EXPECT_EQ(0, page->GetControlStatus(kRadio + 1));
@@ -93,7 +84,7 @@ TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
 
 TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
     page->IgnoreApply(kOtherEdit);
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Type(kOtherEdit, "x");
         EXPECT_EQ(0, page->IsModified());
         EXPECT_EQ(0, page->GetControlStatus(kOtherEdit));
@@ -106,7 +97,7 @@ TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
 }
 
 TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Type(kEdit, "5");
         EXPECT_EQ(1, kit[0].Number("Width"));
         user.SelectPage(0);
@@ -128,7 +119,7 @@ TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
         if (DDX_Text(0, &save, kEdit, value)) self.SetPropText(kPropPenWidth, value, 1);
     };
     kit[0].properties[kPropPenWidth] = 1.0;
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         for (const char* typed : {"2", "3.5", "half-typed", "7"})
             user.Type(kEdit, typed);
         EXPECT_EQ(0, kit.Writes());

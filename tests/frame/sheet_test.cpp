@@ -7,11 +7,9 @@
 #include <string>
 
 #include "drawcore/regen.h"
+#include "frame/width_page.h"
 #include "orlo/entry/entry.h"
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
 #include "orlo/resources/resource.h"
-#include "support/test_sheet.h"
 
 namespace {
 
@@ -86,13 +84,8 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});
     for (const UINT key : {VK_RETURN, VK_ESCAPE}) {
-        double width = 0;
         TestSheet sheet(kit);
-        sheet.Add([&](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
+        const WidthPage width(sheet);
         const int result = sheet.Run([&](SheetDriver& user) {
             user.Type(kEdit, "4");
             user.Key(key);
@@ -171,23 +164,20 @@ TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
     });
 }
 
-class MeasuredPage : public CGraphicPropertyPage {
-public:
-    MeasuredPage() : CGraphicPropertyPage(kTestPage, 0) {}
-    CSize Measure(void* dialog) {
-        SetDialogResource(dialog);
-        return m_sizePage;
-    }
-};
+CSize Measure(void* dialog) {
+    class Page : public CGraphicPropertyPage {
+    public:
+        explicit Page(void* resource) : CGraphicPropertyPage(kTestPage, 0) { SetDialogResource(resource); }
+        CSize Size() const { return m_sizePage; }
+    };
+    return Page(dialog).Size();
+}
 
 TEST(DialogMeasure, FollowsTemplateAndFont) {
     const HMODULE module = ::GetModuleHandleA(nullptr);
     const HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(kTestPage), RT_DIALOG);
     ASSERT_NE(nullptr, found);
-    MeasuredPage page;
-    const CSize measured = page.Measure(::LoadResource(module, found));
-    MeasuredPage none;
-    const CSize standard = none.Measure(nullptr);
+    const CSize measured = Measure(::LoadResource(module, found)), standard = Measure(nullptr);
     EXPECT_GT(measured.cx, 200);
     EXPECT_LT(measured.cx, 800);
     EXPECT_GT(measured.cy, standard.cy); // 160 against 62 units
@@ -202,8 +192,7 @@ TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
     for (const size_t size : {2, 14, 18, 20, 24, 40}) {
         char* start = static_cast<char*>(pages) + 0x1000 - size;
         std::memset(start, 0x41, size); // DS_SETFONT, names without an end
-        MeasuredPage page;
-        EXPECT_GT(page.Measure(start).cx, 0);
+        EXPECT_GT(Measure(start).cx, 0);
     }
     ::VirtualFree(pages, 0, MEM_RELEASE);
 }

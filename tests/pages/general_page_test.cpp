@@ -1,18 +1,8 @@
 // The General page in a real sheet: layer and attribute text of a selection, and the style part over a style's graphic.
 
-#include <gtest/gtest.h>
+#include "pages/page_over_kit.h"
 
 #include <memory>
-#include <string>
-
-#include "drawcore/drawing.h"
-#include "drawcore/table.h"
-#include "orlo/entry/entry.h"
-#include "orlo/host/host.h"
-#include "orlo/host/walk.h"
-#include "orlo/resources/resource.h"
-#include "support/host_frame.h"
-#include "support/test_sheet.h"
 
 namespace {
 
@@ -20,42 +10,23 @@ bool IsEnabled(SheetDriver& user, int id) {
     return ::IsWindowEnabled(user.Control(id)) != 0;
 }
 
-class GeneralPage : public ::testing::Test {
+class GeneralPage : public PageOverKit {
 protected:
-    GeneralPage() : frame(kit.Drawing()), layers(::DrawingGetTable(kit.Drawing(), kTableLayers)) {
+    GeneralPage() : PageOverKit(IDD_GENERAL_PAGE) {
+        TableStruct* const layers = ::DrawingGetTable(kit.Drawing(), kTableLayers);
         walls = ::TableEntryAdd(layers, "Walls", nullptr);
         doors = ::TableEntryAdd(layers, "Doors", nullptr);
     }
+    void Add(int layer, const char* info) { kit.Add({{kPropLayer, layer}, {kPropInfo, info}}); }
 
-    void Add(unsigned int layer, const char* info) {
-        kit.Add({{kPropLayer, static_cast<double>(layer)}, {kPropInfo, info}});
-    }
-
-    int Run(const SheetDriver::Script& script) { return TestSheet(kit).Run(script); }
-    void RunOk(const SheetDriver::Script& script) {
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
-                      script(user);
-                      user.Ok();
-                  }));
-    }
-
-    // What the layer combo shows, without its key.
-    static std::string LayerShown(SheetDriver& user) {
-        const int index = user.Selection(IDC_LAYER);
-        return index < 0 ? "" : user.ItemText(IDC_LAYER, index).substr(9);
-    }
-
-    GraphicKit kit;
-    HostFrame frame;
-    TableStruct* layers;
     uint16_t walls, doors;
 };
 
 TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
-    Add(doors, "oak\r\npainted");
-    Add(doors, "oak\r\npainted");
+    for (int i = 0; i < 2; ++i)
+        Add(doors, "oak\r\npainted");
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("Doors", LayerShown(user));
+        EXPECT_EQ("Doors", user.ItemText(IDC_LAYER, user.Selection(IDC_LAYER)).substr(9));
         EXPECT_EQ("oak\r\npainted", user.Text(IDC_INFO));
         for (const int id : {IDC_STYLE_NAME, IDC_STYLE_NEW, IDC_STYLE_DELETE, IDC_STYLE_GROUP}) {
             EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
@@ -74,29 +45,20 @@ TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
         user.Type(IDC_INFO, "x");
         user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
     });
-    EXPECT_EQ("a", kit[0].Text(kPropInfo));
-    EXPECT_EQ("b", kit[1].Text(kPropInfo));
-    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
+    EXPECT_EQ(0, kit.Writes());
 }
 
 TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     Add(walls, "a");
     Add(doors, "b");
-    RunOk([](SheetDriver& user) { user.Type(IDC_INFO, "both"); });
-    EXPECT_EQ("both", kit[0].Text(kPropInfo));
-    EXPECT_EQ("both", kit[1].Text(kPropInfo));
-    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
-    EXPECT_EQ(doors, kit[1].Number(kPropLayer));
-    RunOk([](SheetDriver& user) {
-        user.Choose(IDC_LAYER, 1);
-        EXPECT_EQ("Walls", LayerShown(user));
-    });
-    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
-    Run([&](SheetDriver& user) {
+    ExpectEachChangesOneProperty(
+        {{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
+         {kPropLayer, [](SheetDriver& user) { user.Choose(IDC_LAYER, 1); }, int{walls}}});
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         user.Choose(IDC_LAYER, 2);
         user.Cancel();
     });
-    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
+    EXPECT_EQ(0, kit.Writes());
 }
 
 // Three styles of one tree, one of them reserved, and a block of another tree.
