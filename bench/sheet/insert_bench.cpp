@@ -11,7 +11,7 @@
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/host.h"
-#include "orlo/pages/insert_parts.h"
+#include "orlo/pages/insert_parts.h" // not exported: compiled in, to time the parts without the page
 #include "orlo/resources/resource.h"
 #include "support/sheet_driver.h"
 

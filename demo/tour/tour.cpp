@@ -9,9 +9,9 @@
 #include <stdexcept>
 
 #include "demo/tour/drawing_state.h"
-#include "demo/tour/mixed_window.h"
 #include "demo/tour/page_edits.h"
 #include "demo/tour/screenshot.h"
+#include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
 #include "orlo/host/drawing.h"
@@ -80,7 +80,7 @@ Tour::Tour(CMainFrame& frame, const std::string& folder) : m_frame(frame), m_fol
 bool Tour::Play(const std::string& drawing) {
     try {
         Open(drawing);
-        if (!SelectMixedSet()) {
+        if (!SelectVariedSet()) {
             Say("Nothing in this drawing has a pen: there is nothing to edit.");
             return true;
         }
@@ -142,8 +142,8 @@ void Tour::Open(const std::string& drawing) {
     TakePicture("open");
 }
 
-bool Tour::SelectMixedSet() {
-    const std::optional<WorldBox> box = FindMixedWindow(*m_frame.GetDocument());
+bool Tour::SelectVariedSet() {
+    const std::optional<WorldBox> box = FindVariedWindow(*m_frame.GetDocument());
     if (!box) return false;
     ShowClosely(*box);
 

@@ -1,4 +1,4 @@
-// A scripted tour for machines without a user: opens a drawing, selects a mixed set, edits its pen in the sheet, takes it
+// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the sheet, takes it
 // back, makes a style by the wizard, then selects all and visits every page; all by keys and mouse messages, with a picture
 // of each station and a report of what changed.
 #pragma once
@@ -24,7 +24,7 @@ private:
     void TakePicture(const std::string& name);
 
     void Open(const std::string& drawing);
-    bool SelectMixedSet();
+    bool SelectVariedSet();
     void ShowClosely(const struct WorldBox& box);
     bool EditAndUndo(const std::string& changed, const std::string& undone,
                      const std::function<void()>& edit);

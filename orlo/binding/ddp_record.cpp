@@ -24,7 +24,7 @@ CDDPRecord::~CDDPRecord() {
     }
 }
 
-void LayRecord(CMapWordToOb& records, CDDPRecord* record) {
+void AddRecord(CMapWordToOb& records, CDDPRecord* record) {
     const WORD key = KeyOf(record->m_pMember);
     CObject* head = nullptr;
     records.Lookup(key, head);

@@ -20,8 +20,8 @@ public:
     CDDPRecord* m_pNext;       // the next record of the same key, owned
 };
 
-// Lays a record; one of the same member takes the place of an earlier one.
-void LayRecord(CMapWordToOb& records, CDDPRecord* record);
+// Adds a record; it replaces an earlier one of the same member.
+void AddRecord(CMapWordToOb& records, CDDPRecord* record);
 
-// Takes every record out of the map and gives the chain of them to the caller.
+// Takes every record out of the map and returns the chain of them, which the caller owns.
 CDDPRecord* TakeRecords(CMapWordToOb& records);

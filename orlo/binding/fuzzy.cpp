@@ -9,7 +9,7 @@ namespace {
 
 constexpr uint32_t kSign = 0x80000000u;
 
-// What tells one floating-point layout from another, on the word that holds sign and exponent.
+// The differences between floating-point layouts, on the word that holds sign and exponent.
 struct Layout {
     uint32_t half;        // added before the low bits are dropped; exact halves go down
     uint32_t keep;        // exponent and top 16 fraction bits

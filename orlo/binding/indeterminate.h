@@ -1,4 +1,4 @@
-// The value that stands for "the selected graphics differ", one for each member type.
+// The indeterminate value, which means that the selected graphics differ: one for each member type.
 //
 // A merged member holds it when two graphics disagree; a member that still holds it at the write-back is skipped, so that
 // every graphic keeps its own value.
@@ -11,8 +11,13 @@
 #include <cstring>
 
 constexpr int kIndeterminateCheck = 2;                // the third state of a check box
-constexpr char kIndeterminateText[] = "\xFF";         // of a CString; only the first byte counts in a test
+constexpr char kIndeterminateString[] = "\xFF";       // of a CString; only the first byte counts in a test
 constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or colour
+
+// What a field shows for the marker. A text that reads so means no value.
+constexpr char kIndeterminateStars[] = "*****";          // of a number
+constexpr char kIndeterminateWord[] = "Indeterminate";   // of a scale or an angle, and as the name of a style
+constexpr char kIndeterminateInfo[] = "<Indeterminate>"; // of the attribute text
 
 template <class T>
 struct Indeterminate;
@@ -56,7 +61,7 @@ struct Indeterminate<double> {
 };
 template <>
 struct Indeterminate<CString> {
-    static CString Value() { return CString(kIndeterminateText); }
+    static CString Value() { return CString(kIndeterminateString); }
 };
 
 template <class T>

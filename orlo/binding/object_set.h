@@ -3,14 +3,14 @@
 
 #include "orlo/host/graphic.h"
 
-// The walk marks the graphics that it gives as seen in a preview, or takes that mark off them.
+// The walk sets the preview mark on the graphics that it returns, or removes it.
 class ObjectSet {
 public:
     // Without a set it is empty.
     ObjectSet(GraphicStruct* set, uint32_t filter, bool preview)
         : m_set(set), m_filter(filter), m_preview(preview) {}
 
-    // position is one 32-bit word of the caller's. Null at the end.
+    // position is the caller's 32-bit word. Null at the end.
     GraphicStruct* First(void* position) const {
         return m_set ? Marked(::GraphicFirst(m_set, position, 1, m_filter)) : nullptr;
     }

@@ -26,7 +26,7 @@ struct Property {
     int Set(int vt, const void* value) const { return table->PropSet(graphic, number, vt, value); }
 };
 
-// Calls visit(Property) for each graphic of the set that has the property, until it gives false.
+// Calls visit(Property) for each graphic of the set that has the property, until it returns false.
 template <class Visit>
 bool ForEachProperty(const ObjectSet& set, const char* name, Visit visit) {
     bool found = false;
@@ -84,23 +84,23 @@ int Merge(const ObjectSet& set, const char* name, typename Type::Member* member)
     });
 }
 
-// The set that a write goes to, and who wants to know which of its graphics kept what they had.
+// The set that a write goes to, and where the graphics that kept their value are collected.
 struct WriteTarget {
     ObjectSet set;
-    std::set<const GraphicStruct*>* unchanged; // null: nobody
+    std::set<const GraphicStruct*>* unchanged; // may be null
 };
 
-// After a write that threw at the graphic behind last (null: at the first): that one and all further ones are unchanged.
+// After a write that threw at the graphic after last (null: at the first): that one and all further ones are unchanged.
 inline void AddRest(const WriteTarget& target, const char* name, const GraphicStruct* last) {
-    bool behind = last == nullptr;
+    bool after = last == nullptr;
     ForEachProperty(target.set, name, [&](const Property& property) {
-        if (behind) target.unchanged->insert(property.graphic);
-        behind = behind || property.graphic == last;
+        if (after) target.unchanged->insert(property.graphic);
+        after = after || property.graphic == last;
         return true;
     });
 }
 
-// write(Property) gives what PropSet gave.
+// write(Property) returns what PropSet returned.
 template <class WriteOne>
 int WriteEach(const WriteTarget& target, const char* name, WriteOne write) {
     const GraphicStruct* last = nullptr;

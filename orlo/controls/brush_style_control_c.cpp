@@ -4,12 +4,15 @@
 
 #include "orlo/controls/brush_style_item.h"
 #include "orlo/controls/filling.h"
-#include "orlo/controls/item_drawing.h"
-#include "orlo/controls/table_control.h"
+#include "orlo/controls/style_control.h"
 
 namespace {
 
 constexpr unsigned int kKind = kControlBrushStyleCombo;
+
+SampleGraphic MakeSample() {
+    return MakeBrushSample(kComboBrushLook);
+}
 
 } // namespace
 
@@ -24,24 +27,15 @@ CBrushStyleControlC::CBrushStyleControlC() : CComboControl(kKind) {}
 CBrushStyleControlC::CBrushStyleControlC(HWND hWnd) : CComboControl(kKind, hWnd) {}
 
 CBrushStyleControlC::~CBrushStyleControlC() {
-    m_pGraphic.reset();
-    m_pViewport.reset();
+    StyleControl::DisposeSample(*this);
 }
 
 int CBrushStyleControlC::OnCreate(LPCREATESTRUCT) {
-    if (Default() == -1) return -1;
-    m_pGraphic = MakeBrushSample(kComboBrushLook);
-    m_pViewport.reset(ViewportNewEx());
-    return 0;
+    return StyleControl::Create(*this, MakeSample);
 }
 
 void CBrushStyleControlC::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
-    const bool hasTable = BeginFill(*this, lParam);
-    AttachSample(m_pGraphic, m_pViewport, m_pTable, [] { return MakeBrushSample(kComboBrushLook); });
-    if (!hasTable) return;
-    ForEachBrushStyle(m_pTable, [this](const char* text) { AddControlItem(text); });
-    SetCurSel(FindItem(m_nSelected));
+    StyleControl::Fill(*this, lParam, MakeSample, [this](auto add) { ForEachBrushStyle(m_pTable, add); });
 }
 
 void CBrushStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
@@ -49,10 +43,7 @@ void CBrushStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CBrushStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    DrawRequest(*pDIS, {1, 2}, [=] {
-        char name[kItemTextSize];
-        const unsigned int style = RequestedStyle(*this, *pDIS, name);
-        return DrawBrushStyleItem(*pDIS, kComboBrushLook,
-                                  {style, name, m_pTable, m_pGraphic.get(), m_pViewport.get()});
+    StyleControl::DrawItem(*this, *pDIS, {1, 2}, [pDIS](const StyleItem& item) {
+        return DrawBrushStyleItem(*pDIS, kComboBrushLook, item);
     });
 }

@@ -5,15 +5,17 @@
 #include <algorithm>
 
 #include "orlo/controls/brush_style_item.h"
-#include "orlo/controls/filling.h"
-#include "orlo/controls/item_drawing.h"
-#include "orlo/controls/table_control.h"
+#include "orlo/controls/style_control.h"
 
 namespace {
 
 constexpr unsigned int kKind = kControlBrushStyleList;
 constexpr int kHeight = 136;     // of the list
 constexpr LONG kRowPercent = 30; // of the client width
+
+SampleGraphic MakeSample() {
+    return MakeBrushSample(kListBrushLook);
+}
 
 } // namespace
 
@@ -32,24 +34,15 @@ CBrushStyleControlL::CBrushStyleControlL(HWND hWnd) : CListControl(kKind, hWnd) 
 }
 
 CBrushStyleControlL::~CBrushStyleControlL() {
-    m_pGraphic.reset();
-    m_pViewport.reset();
+    StyleControl::DisposeSample(*this);
 }
 
 int CBrushStyleControlL::OnCreate(LPCREATESTRUCT) {
-    if (Default() == -1) return -1;
-    m_pGraphic = MakeBrushSample(kListBrushLook);
-    m_pViewport.reset(ViewportNewEx());
-    return 0;
+    return StyleControl::Create(*this, MakeSample);
 }
 
 void CBrushStyleControlL::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
-    const bool hasTable = BeginFill(*this, lParam);
-    AttachSample(m_pGraphic, m_pViewport, m_pTable, [] { return MakeBrushSample(kListBrushLook); });
-    if (!hasTable) return;
-    ForEachBrushStyle(m_pTable, [this](const char* text) { AddString(text); });
-    SetCurSel(FindItem(m_nSelected));
+    StyleControl::Fill(*this, lParam, MakeSample, [this](auto add) { ForEachBrushStyle(m_pTable, add); });
 }
 
 void CBrushStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
@@ -59,10 +52,7 @@ void CBrushStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CBrushStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    DrawRequest(*pDIS, {0, 0}, [=] {
-        char name[kItemTextSize];
-        const unsigned int style = RequestedStyle(*this, *pDIS, name);
-        return DrawBrushStyleItem(*pDIS, kListBrushLook,
-                                  {style, name, m_pTable, m_pGraphic.get(), m_pViewport.get()});
+    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
+        return DrawBrushStyleItem(*pDIS, kListBrushLook, item);
     });
 }

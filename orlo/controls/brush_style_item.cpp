@@ -7,6 +7,7 @@
 #include "orlo/host/graphic.h"
 #include "orlo/host/vertex.h"
 #include "orlo/samples/hatch_scale.h"
+#include "orlo/samples/vertex_list.h"
 
 namespace {
 
@@ -31,16 +32,15 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look,
 
 SampleGraphic MakeBrushSample(const BrushStyleLook& look) {
     const double outer = look.ratio, right = outer - kMargin, top = 1.0 - kMargin;
-    const orlo::host::OwnedVertex vertex(VertexNewEx(kMargin, kMargin, 0.0));
-    SampleGraphic graphic = MakeSampleGraphic(vertex, {{kMargin, kMargin, Stroke::Kept},
-                                                       {kMargin, top, Stroke::Kept},
-                                                       {0.0, 1.0, Stroke::Starts},
-                                                       {kMargin, top, Stroke::Starts},
-                                                       {right, top, Stroke::Continues},
-                                                       {right, kMargin, Stroke::Continues},
-                                                       {outer, 0.0, Stroke::Starts},
-                                                       {right, kMargin, Stroke::Starts},
-                                                       {kMargin, kMargin, Stroke::Continues}});
+    SampleGraphic graphic = NewSample({{kMargin, kMargin, 0, true},
+                                       {kMargin, top, 0, true},
+                                       {0.0, 1.0, 0, false},
+                                       {kMargin, top, 0, false},
+                                       {right, top, 0, true},
+                                       {right, kMargin, 0, true},
+                                       {outer, 0.0, 0, false},
+                                       {right, kMargin, 0, false},
+                                       {kMargin, kMargin, 0, true}});
     if (graphic) graphic->dwOneOutline = 1;
     return graphic;
 }

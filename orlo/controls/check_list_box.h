@@ -38,7 +38,7 @@ protected:
     void DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD dwColor, int bChecked);
     // The row at a point of the client area; -1 outside. Below the last row -1, or the count with bPastEnd.
     int ItemFromPoint(CPoint point, int bPastEnd);
-    // Place of an item's check box. 0, or -1 if there is no such item.
+    // Rectangle of an item's check box. 0, or -1 without such an item.
     int GetCheckRect(int nIndex, CRect& rect);
 
     void PreSubclassWindow() override;

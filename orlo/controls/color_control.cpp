@@ -45,9 +45,8 @@ struct Entry {
     unsigned place; // in the table
 };
 
-// Of equal colours the later entry stands first, as if each had been inserted ahead of the ones already
-// there.
-bool StandsBefore(const Entry& a, const Entry& b) {
+// Of equal colours the later entry comes first, as if each had been inserted before its equals.
+bool ComesBefore(const Entry& a, const Entry& b) {
     const int order = CompareColorKeys(a.key, b.key);
     return order ? order < 0 : a.place > b.place;
 }
@@ -62,7 +61,7 @@ std::vector<Entry> SortedColors(TableStruct* table) {
         const DWORD value = *static_cast<const DWORD*>(color);
         if (IsPlainColor(value)) entries.emplace_back(id, value, place++);
     }
-    std::sort(entries.begin(), entries.end(), StandsBefore);
+    std::sort(entries.begin(), entries.end(), ComesBefore);
     return entries;
 }
 
@@ -100,7 +99,7 @@ void CColorControl::EnableLastEntry(int bEnable) {
 }
 
 int CColorControl::FindColor(DWORD dwColor) {
-    if (dwColor == kColorNone || dwColor == kColorMixed) return -1;
+    if (dwColor == kColorNone || dwColor == kColorIndeterminate) return -1;
     char key[kKeySize];
     DWord_to_Hex(dwColor, key);
     return FindString(-1, key);

@@ -5,9 +5,9 @@
 // identifiers. A colour that is in no item is shown all the same in the closed field, by its numbers. These
 // values are markers:
 //
-//   kColorNone, kColorMixed  no value yet, several values: both show nothing
+//   kColorNone, kColorIndeterminate  no value yet, several values: both show nothing
 //   kColorByLayer            first extra entry, by the host's text
-//   kColorOfPen              second one, likewise
+//   kColorOfPen              second extra entry, by the host's text
 //   kColorByBlock            shown if it comes up; no list offers it
 //
 // The current row of the open list is marked by two frames, of which one can be seen on any colour. A disabled field is a grey
@@ -25,10 +25,10 @@ public:
     explicit CColorControl(int bExtraEntries = 1);
     ~CColorControl() override;
 
-    // The second extra entry goes behind the first, from the next filling on.
+    // Whether the second extra entry follows the first, from the next filling on.
     void EnableLastEntry(int bEnable);
 
-    // Index of the item of that colour; -1 for kColorNone and kColorMixed, or if there is none.
+    // Index of the item of that colour; -1 for kColorNone and kColorIndeterminate, or if not found.
     int FindColor(DWORD dwColor);
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;

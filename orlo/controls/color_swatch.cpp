@@ -56,7 +56,7 @@ void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor,
     DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
 }
 
-// White on white needs a frame, and so does a colour on its like.
+// A colour on a background of the same colour needs a frame.
 void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT frame = Inflated(place.rect, 1);
     FillSolid(place.dc, place.rect, color);

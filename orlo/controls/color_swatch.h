@@ -9,7 +9,7 @@ struct SwatchPlace {
     RECT rect;           // device pixels
     bool inField;        // the closed field of a combo, whose border the swatch covers
     bool disabled;       // a label in a frame of its colour
-    COLORREF ink, paper; // of labels, and of what is behind all
+    COLORREF ink, paper; // of labels, and of their background
     HFONT font;          // written in bold; null: the font of dc
 };
 

@@ -149,7 +149,7 @@ int CComboControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
     return static_cast<int>(Default());
 }
 
-// The text part is no button: a click there is the parent's, in whose coordinates it arrives.
+// Only the button opens the list: a click on the text part goes to the parent, in the parent's coordinates.
 void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
     RECT client = {};
     ::GetClientRect(m_hWnd, &client);

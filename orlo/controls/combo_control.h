@@ -13,7 +13,7 @@
 //
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
-// (control_fill.h) whenever it likes.
+// (control_fill.h) at any time.
 //
 // An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style.
 #pragma once
@@ -26,7 +26,7 @@
 #include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
-// WM_COMMAND to the top-level frame, else to the thread's main window; without either nobody is told. The low
+// WM_COMMAND to the top-level frame, else to the thread's main window; without either the notification is dropped. The low
 // word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
 // window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
@@ -40,7 +40,7 @@ public:
 
     int Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) override;
 
-    // Whether the control stands in a dialog, not in a control bar; Create finds out.
+    // Whether the control is in a dialog, not in a control bar; Create determines it.
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
@@ -76,7 +76,7 @@ protected:
     // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Index of the item of that identifier; -1 for kEntryNone and kEntryMixed, or if there is none.
+    // Index of the item of that identifier; -1 for kEntryNone and kEntryIndeterminate, or if not found.
     int FindItem(unsigned int nID) const {
         char key[kKeySize];
         DWord_to_Hex(nID, key);
@@ -95,5 +95,5 @@ private:
     bool m_beingMade = false; // the window; false too where one is taken over
 };
 
-// The object of that window, null if there is none of this class.
+// The object of that window, or null if it is not of this class.
 CComboControl* ComboControlOf(HWND window);

@@ -57,7 +57,7 @@ int RegisterControlClasses(HINSTANCE module) {
     return combo && list;
 }
 
-// The framework keeps the procedure that stands behind the classes: it is the system's, and another copy may need it.
+// The framework keeps the original procedure of the classes: it is the system's, and another copy may need it.
 void UnregisterControlClasses(HINSTANCE module) {
     ::UnregisterClassA(kComboClass, module);
     ::UnregisterClassA(kListClass, module);

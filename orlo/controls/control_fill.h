@@ -1,7 +1,7 @@
 // Filling a control with a host table: the message and its record.
 //
-// The host sends the message to a control of the library whenever it likes; the control is emptied and filled
-// anew:
+// The host sends the message to a control of the library at any time; the control is emptied and filled
+// again:
 //
 //   ControlFillRecord fill = {layers, 0, currentLayer};
 //   SendMessageA(control, kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));

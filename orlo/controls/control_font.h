@@ -1,4 +1,4 @@
-// The font that all controls of the library share. The module entry gives it back.
+// The font that all controls of the library share. The module entry releases it.
 #pragma once
 
 #include <windows.h>

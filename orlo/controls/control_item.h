@@ -24,17 +24,17 @@ ORLO_API unsigned long ParseControlItem(char* item);
 // CComboControl, the control no table, or the table no such name.
 ORLO_API unsigned long LookupControlItem(HWND hWnd, const char* name);
 
-// Numbers that stand for no entry where the identifier of one is wanted: none, and several.
-enum : unsigned int { kEntryNone = 0, kEntryMixed = 0xFFFF };
+// Numbers that are not the identifier of an entry: none, and several.
+enum : unsigned int { kEntryNone = 0, kEntryIndeterminate = 0xFFFF };
 
-// Identifiers that can stand for an entry: from kEntryMixed on they are mixed or no 16-bit number.
+// Identifiers that can belong to an entry. From kEntryIndeterminate on they are indeterminate, or exceed 16 bits.
 constexpr bool IsTableIdentifier(unsigned int id) {
-    return id != kEntryNone && id < kEntryMixed;
+    return id != kEntryNone && id < kEntryIndeterminate;
 }
 
-// Identifiers of which there is nothing to find or to show.
+// Identifiers that can be neither found nor shown.
 constexpr bool IsNoEntry(unsigned int id) {
-    return id == kEntryNone || id == kEntryMixed;
+    return id == kEntryNone || id == kEntryIndeterminate;
 }
 
 // An item text in the making.

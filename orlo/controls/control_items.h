@@ -3,7 +3,7 @@
 //   ControlItems items = ControlItems::OfCombo(hWnd);
 //   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection
 //
-// A window that has gone, or is no such control, has no items and takes none.
+// A window that is gone, or is another kind of control, has no items and accepts none.
 #pragma once
 
 #include <afxwin.h>
@@ -22,17 +22,29 @@ public:
     int Add(const char* text) const;
     int Insert(int index, const char* text) const;
 
-    // Without regard to case; -1 if there is none.
+    // Without regard to case; -1 if not found.
     int FindExact(const char* text) const;
     int FindPrefix(const char* prefix) const;
-    // Selects the first item behind `from` (-1: of all) that begins so, going round; false, with nothing
-    // changed, if none.
+    // The item of that whole text, without regard to case. A text that is not in the list is added first, with add(text) if
+    // given.
+    int FindOrAdd(const char* text) const {
+        return FindOrAdd(text, [this](const char* item) { Add(item); });
+    }
+    template <class AddItem>
+    int FindOrAdd(const char* text, AddItem add) const {
+        const int index = FindExact(text);
+        if (index >= 0) return index;
+        add(text);
+        return FindExact(text);
+    }
+    // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed, if
+    // there is none.
     bool SelectPrefix(int from, const char* prefix) const;
 
-    // Height of a row in device pixels; -1 is the closed field of a combo. One row stands for all where they are alike.
+    // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them all.
     void SetRowHeight(int index, int height) const;
 
-    // The item's text; false, with text emptied, if there is no such item.
+    // The item's text; false, with text emptied, without such an item.
     bool GetText(int index, CString& text) const;
     // The same into a buffer; what does not fit is cut off.
     bool GetText(int index, char* buffer, int size) const;

@@ -33,7 +33,7 @@ constexpr ControlTable kControlTables[] = {
     {kControlBrushStyleList, kTableBrushStyles},
 };
 
-// Name of the table that a host fills controls of that kind from; null for a number that is no kind.
+// Name of the table that a host fills controls of that kind from; null for a number that is not a kind.
 constexpr const char* TableOfControl(unsigned kind) {
     for (const ControlTable& row : kControlTables) {
         if (row.kind == kind) return row.table;

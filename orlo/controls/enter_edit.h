@@ -1,4 +1,4 @@
-// CEnterEdit: the edit field of a combo of the library, which tells the application that Return has been pressed.
+// CEnterEdit: the edit field of a combo of the library, which notifies the application when Return is pressed.
 //
 // The thread's main window gets WM_COMMAND as if an item had been chosen, CBN_SELENDOK with the kind of the combo (its
 // m_nControlID) and the combo's window, and then the focus.

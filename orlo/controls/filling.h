@@ -13,7 +13,7 @@ public:
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
 
-    // The filling of that window that is under way, null if none is.
+    // The filling of that window that is in progress, or null.
     static Filling* Of(HWND window);
 
     bool ItemsInFinalOrder() const { return items_ == Items::InFinalOrder; }

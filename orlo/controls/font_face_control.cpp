@@ -2,6 +2,7 @@
 
 #include "orlo/controls/font_face_control.h"
 
+#include "orlo/controls/control_items.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/item_drawing.h"
@@ -30,13 +31,9 @@ void CFontFaceControl::FillControl(WPARAM, LPARAM lParam) {
     const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
     const char* const face = record ? reinterpret_cast<const char*>(record->dwValue) : nullptr;
     int index = -1;
-    if (face && IsTableIdentifier(m_nSelected)) {
-        index = FindStringExact(-1, face);
-        if (index < 0) {
-            AddControlItem(face);
-            index = FindStringExact(-1, face);
-        }
-    }
+    if (face && IsTableIdentifier(m_nSelected))
+        index =
+            ControlItems::OfCombo(m_hWnd).FindOrAdd(face, [this](const char* text) { AddControlItem(text); });
     SetCurSel(index);
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "orlo/controls/control_items.h"
 #include "orlo/controls/filling.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_text.h"
@@ -52,7 +53,7 @@ void CFontSizeControl::WatchEditField() {
 }
 
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
-    WatchEditField(); // a control that subclasses a window has not seen it made
+    WatchEditField(); // a control that subclasses a window was not there at its creation
     const Filling filling(m_hWnd);
     m_pDrawing = nullptr; // the host may be about to close it
     if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
@@ -66,7 +67,7 @@ void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
         Show(size);
 }
 
-// Drawing, font and coordinate space of the table. False if there are no sizes to list.
+// Drawing, font and coordinate space of the table. False without sizes to list.
 bool CFontSizeControl::TakeDrawing() {
     m_pDrawing = TableGetOwner(m_pTable);
     if (!m_pDrawing) return false;
@@ -86,11 +87,7 @@ void CFontSizeControl::Show(double size) {
         SetCurSel(-1);
         return;
     }
-    int index = FindStringExact(-1, text);
-    if (index < 0) {
-        AddString(text);
-        index = FindStringExact(-1, text);
-    }
+    const int index = ControlItems::OfCombo(m_hWnd).FindOrAdd(text);
     if (GetDroppedState()) {
         SetCurSel(index);
     } else {

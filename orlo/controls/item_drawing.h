@@ -28,8 +28,8 @@ RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 enum class ItemPart { Nothing, Whole, SelectionFrame, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 
-// The frame that shows the selection, in the window's colour where there is none, so that drawing it again
-// removes it. Its far corner lies beyond the item's by that much (device pixels).
+// The frame that shows the selection, in the window's colour without a selection, so that drawing it again
+// removes it. Its far corner exceeds the item's by that much (device pixels).
 void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
 
 // Marks the current row of a list whose rows have any colour: two frames of which one can be seen on each.
@@ -41,7 +41,7 @@ void DrawItemFocus(const DRAWITEMSTRUCT& item);
 // The item's background, the border of a closed field included.
 void ClearItem(const DRAWITEMSTRUCT& item);
 
-// A row of plain text, which stands at that distance from the item's corner.
+// A row of plain text, at that distance from the item's corner.
 constexpr POINT kPlainTextAt = {4, 1};
 void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors);
 
@@ -49,7 +49,7 @@ void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors&
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name);
 
 // Draws what a request asks of a control of style samples. drawStyle draws the whole item but selection and
-// focus, and gives false if there is nothing to draw these on.
+// focus, and returns false if these cannot be drawn on it.
 template <class DrawStyle>
 void DrawRequest(const DRAWITEMSTRUCT& item, SIZE beyond, DrawStyle drawStyle) {
     switch (RequestedPart(item)) {

@@ -31,7 +31,7 @@ void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
     ::DrawIconEx(dc, x, top, icon, 2 * size, 2 * size, 0, nullptr, DI_NORMAL);
 }
 
-// The layer's own colour where it can be told from the background.
+// The layer's own colour where it differs from the background.
 COLORREF NameColor(HDC dc, COLORREF color) {
     const COLORREF window = ::GetSysColor(COLOR_WINDOW);
     const bool invisible =

@@ -3,9 +3,8 @@
 #include "orlo/controls/line_style_control_c.h"
 
 #include "orlo/controls/filling.h"
-#include "orlo/controls/item_drawing.h"
 #include "orlo/controls/line_style_item.h"
-#include "orlo/controls/table_control.h"
+#include "orlo/controls/style_control.h"
 
 namespace {
 
@@ -26,25 +25,17 @@ CLineStyleControlC::CLineStyleControlC(HWND hWnd, int bAddDefaultItem)
     : CComboControl(kKind, hWnd), m_bAddDefaultItem(bAddDefaultItem) {}
 
 CLineStyleControlC::~CLineStyleControlC() {
-    m_pGraphic.reset();
-    m_pViewport.reset();
+    StyleControl::DisposeSample(*this);
 }
 
 int CLineStyleControlC::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (Default() == -1) return -1;
-    m_pGraphic = MakeComboLineSample(lpCreateStruct->cx);
-    m_pViewport.reset(ViewportNewEx());
-    return 0;
+    return StyleControl::Create(*this, [=] { return MakeComboLineSample(lpCreateStruct->cx); });
 }
 
 void CLineStyleControlC::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
-    const bool hasTable = BeginFill(*this, lParam);
-    AttachSample(m_pGraphic, m_pViewport, m_pTable,
-                 [this] { return MakeComboLineSample(WindowSize(m_hWnd).cx); });
-    if (!hasTable) return;
-    ForEachLineStyle(m_pTable, m_bAddDefaultItem != 0, [this](const char* text) { AddControlItem(text); });
-    SetCurSel(FindItem(m_nSelected));
+    StyleControl::Fill(
+        *this, lParam, [this] { return MakeComboLineSample(WindowSize(m_hWnd).cx); },
+        [this](auto add) { ForEachLineStyle(m_pTable, m_bAddDefaultItem != 0, add); });
 }
 
 void CLineStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
@@ -52,10 +43,7 @@ void CLineStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CLineStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    DrawRequest(*pDIS, {0, 0}, [=] {
-        char name[kItemTextSize];
-        const unsigned int style = RequestedStyle(*this, *pDIS, name);
-        return DrawLineStyleItem(*pDIS, kComboLineLook,
-                                 {style, name, m_pTable, m_pGraphic.get(), m_pViewport.get()});
+    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
+        return DrawLineStyleItem(*pDIS, kComboLineLook, item);
     });
 }

@@ -1,7 +1,7 @@
 // CLineStyleControlC: a combo box of line styles, each shown by a sample that the host draws. Its twin is
 // CLineStyleControlL; both show the same table, the list with a margin around the sample.
 //
-// Line styles are identifiers of the table's entries; kLineStyleNone and kLineStyleMixed show nothing,
+// Line styles are identifiers of the table's entries; kLineStyleNone and kLineStyleIndeterminate show nothing,
 // kLineStyleByLayer is the default item after them.
 #pragma once
 
@@ -11,6 +11,7 @@
 class ORLO_API CLineStyleControlC : public CComboControl {
     DECLARE_DYNCREATE(CLineStyleControlC)
     friend CWnd* CreateComboObject(HWND hWnd, int nID);
+    friend struct StyleControl;
 
 public:
     explicit CLineStyleControlC(int bAddDefaultItem = 1);

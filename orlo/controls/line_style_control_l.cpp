@@ -2,10 +2,8 @@
 
 #include "orlo/controls/line_style_control_l.h"
 
-#include "orlo/controls/filling.h"
-#include "orlo/controls/item_drawing.h"
 #include "orlo/controls/line_style_item.h"
-#include "orlo/controls/table_control.h"
+#include "orlo/controls/style_control.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
@@ -31,25 +29,17 @@ CLineStyleControlL::CLineStyleControlL(HWND hWnd) : CListControl(kKind, hWnd) {
 }
 
 CLineStyleControlL::~CLineStyleControlL() {
-    m_pGraphic.reset();
-    m_pViewport.reset();
+    StyleControl::DisposeSample(*this);
 }
 
 int CLineStyleControlL::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (Default() == -1) return -1;
-    m_pGraphic = MakeListLineSample(lpCreateStruct->cx);
-    m_pViewport.reset(ViewportNewEx());
-    return 0;
+    return StyleControl::Create(*this, [=] { return MakeListLineSample(lpCreateStruct->cx); });
 }
 
 void CLineStyleControlL::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
-    const bool hasTable = BeginFill(*this, lParam);
-    AttachSample(m_pGraphic, m_pViewport, m_pTable,
-                 [this] { return MakeListLineSample(WindowSize(m_hWnd).cx); });
-    if (!hasTable) return;
-    ForEachLineStyle(m_pTable, true, [this](const char* text) { AddString(text); });
-    SetCurSel(FindItem(m_nSelected));
+    StyleControl::Fill(
+        *this, lParam, [this] { return MakeListLineSample(WindowSize(m_hWnd).cx); },
+        [this](auto add) { ForEachLineStyle(m_pTable, true, add); });
 }
 
 void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
@@ -57,10 +47,7 @@ void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    DrawRequest(*pDIS, {0, 0}, [=] {
-        char name[kItemTextSize];
-        const unsigned int style = RequestedStyle(*this, *pDIS, name);
-        return DrawLineStyleItem(*pDIS, kListLineLook,
-                                 {style, name, m_pTable, m_pGraphic.get(), m_pViewport.get()});
+    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
+        return DrawLineStyleItem(*pDIS, kListLineLook, item);
     });
 }

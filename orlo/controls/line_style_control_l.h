@@ -8,6 +8,7 @@
 class ORLO_API CLineStyleControlL : public CListControl {
     DECLARE_DYNCREATE(CLineStyleControlL)
     friend CWnd* CreateListObject(HWND hWnd, int nID);
+    friend struct StyleControl;
 
 public:
     CLineStyleControlL();

@@ -13,12 +13,12 @@
 #include "orlo/host/graphic.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/style.h"
-#include "orlo/host/vertex.h"
+#include "orlo/samples/vertex_list.h"
 
 namespace {
 
 constexpr double kGapsAcross = 15.0;      // gaps of a style that would fit across the sample
-constexpr double kLengthWithoutGap = 2.5; // stands for fifteen gaps of a style that has none
+constexpr double kLengthWithoutGap = 2.5; // instead of fifteen gaps, for a style without a gap
 constexpr double kNoLength = 1e-7;
 
 // A control of any width has a sample that is not a point.
@@ -63,19 +63,14 @@ bool IsListedStyle(const char* name) {
 
 SampleGraphic MakeComboLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 16, 320);
-    const orlo::host::OwnedVertex vertex(VertexNewFromEx(nullptr));
-    return InWorldScale(
-        MakeSampleGraphic(vertex, {{0.01 * w, 0.5, Stroke::Starts}, {0.99 * w, 0.5, Stroke::Continues}}));
+    return InWorldScale(NewSample({{0.01 * w, 0.5, 0, false}, {0.99 * w, 0.5, 0, true}}));
 }
 
 // The outer vertices draw nothing; they widen the extents.
 SampleGraphic MakeListLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 6, 136);
-    const orlo::host::OwnedVertex vertex(VertexNewEx(0.0, 0.0, 0.0));
-    return InWorldScale(MakeSampleGraphic(vertex, {{0.0, 0.0, Stroke::Kept},
-                                                   {0.01 * w, 0.5, Stroke::Starts},
-                                                   {0.99 * w, 0.5, Stroke::Continues},
-                                                   {w, 1.0, Stroke::Starts}}));
+    return InWorldScale(NewSample(
+        {{0.0, 0.0, 0, true}, {0.01 * w, 0.5, 0, false}, {0.99 * w, 0.5, 0, true}, {w, 1.0, 0, false}}));
 }
 
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth) {
@@ -86,7 +81,7 @@ double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidt
 
 bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item) {
     ClearItem(request);
-    if (item.style == kLineStyleNone || item.style >= kLineStyleMixed) return true;
+    if (item.style == kLineStyleNone || item.style >= kLineStyleIndeterminate) return true;
 
     const RECT cell = Inflated(request.rcItem, -2);
     const bool special = item.style == kLineStyleByLayer || item.style == kLineStyleByBlock;

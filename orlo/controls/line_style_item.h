@@ -23,7 +23,7 @@ void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     if (withDefault) add(HostTextItem(kLineStyleByLayer, kStringByLayer).c_str());
 }
 
-// Where a name stands: the combo frames the whole item, the list the cell inside.
+// Where a name is drawn: the combo frames the whole item, the list the cell inside.
 struct LineStyleLook {
     bool framesCell;
     POINT textAt; // from the corner of the item

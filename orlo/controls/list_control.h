@@ -1,5 +1,5 @@
 // CListControl: a list box that shows the entries of a host table; base of the library's lists, and the twin
-// of CComboControl, whose header tells how both come to life and get their table. It draws nothing.
+// of CComboControl, whose header describes how both are created and get their table. It draws nothing.
 #pragma once
 
 #include <afxwin.h>
@@ -44,7 +44,7 @@ protected:
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Index of the item of that identifier; -1 for kEntryNone and kEntryMixed, or if there is none.
+    // Index of the item of that identifier; -1 for kEntryNone and kEntryIndeterminate, or if not found.
     int FindItem(unsigned int nID) const {
         char key[kKeySize];
         DWord_to_Hex(nID, key);

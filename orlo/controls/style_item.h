@@ -13,5 +13,5 @@ struct StyleItem {
     ViewportStruct* viewport;
 };
 
-// The item of an identifier that is no entry, named by a text of the host.
+// The item of an identifier that is not an entry, named by a text of the host.
 ItemText HostTextItem(DWORD number, unsigned int stringID);

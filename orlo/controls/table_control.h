@@ -6,7 +6,7 @@
 #include "orlo/controls/control_items.h"
 
 // Empties a control for the record of a fill message, and takes table and selection over from it. False if
-// there is no table to fill it from; so is a null lParam.
+// the record has no table, or lParam is null.
 template <class Control>
 bool BeginFill(Control& control, LPARAM lParam) {
     const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
@@ -20,8 +20,8 @@ bool BeginFill(Control& control, LPARAM lParam) {
 // item.
 unsigned long ItemOf(const ControlItems& items, int index, char* text);
 
-// Makes a window that was there before its object what a template makes: its rows get that height (device pixels), and the
-// control is told to announce itself, which the host may answer at once.
+// Prepares a window that existed before its object as a template would: its rows get that height (device pixels), and the
+// control announces itself, which the host may answer at once.
 void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight);
 
 // Height of a row of the control in device pixels, as it measures it.
@@ -41,5 +41,5 @@ SIZE WindowSize(HWND window);
 // Gives a control that height, its width and place as they are. Nothing is redrawn.
 void SetControlHeight(HWND control, int height);
 
-// Tells the application about a control of that kind; see combo_control.h.
+// Notifies the application of a control of that kind; see combo_control.h.
 void NotifyApplication(CWnd& control, unsigned int kind, unsigned int notification);

@@ -1,9 +1,9 @@
-// Typing ahead in a control whose items may begin with a key that nobody sees. Internal to the library.
+// Typing ahead in a control whose items may begin with a key that is not shown. Internal to the library.
 #pragma once
 
 #include "orlo/controls/control_items.h"
 
 // Characters typed into the control in a row, until the system's pause, are one prefix: the first item from the selected one
-// on, going round, whose name begins with it is selected, and the parent told. Nothing found leaves the selection. The same
-// letter again is the next item with it. False, with nothing done, if the character is to take its usual way.
+// on, going round, whose name begins with it is selected, and the parent notified. Without a match the selection stays. The
+// same letter again is the next item with it. False, with nothing done, if the character is to take its usual way.
 bool TypeAhead(HWND control, const ControlItems& items, WPARAM character);

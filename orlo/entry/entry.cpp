@@ -34,7 +34,7 @@ public:
     }
 };
 
-// The sheet owns its pages from then on.
+// The sheet owns the page afterwards.
 void Add(std::unique_ptr<CPropertyPage> page, CGraphicPropertySheet* sheet) {
     sheet->AddPage(page.get());
     page.release();
@@ -68,7 +68,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
         RegisterControlClasses(instance);
     } else if (reason == DLL_PROCESS_DETACH) {
         ReleaseSharedFont();
-        if (processEnds == nullptr) { // else the framework may have gone before
+        if (processEnds == nullptr) { // otherwise the framework may be gone already
             AfxTermExtensionModule(extensionModule);
             UnregisterControlClasses(instance);
         }

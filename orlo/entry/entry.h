@@ -1,4 +1,4 @@
-// The library's door to its host:
+// The entry points of the library:
 //
 //   PropPageInit();                                                       // once
 //   CGraphicPropertySheet* sheet =
@@ -25,12 +25,12 @@ class CGraphicPropertySheet;
 extern "C" ORLO_API int PropPageInit();
 
 // A sheet with its General page over the members of pGraphics that pass dwGraphicFlags (see GraphicFirst). The caller runs
-// and deletes it. pGraphics may be null: the sheet then edits nothing. Null if there is no memory.
+// and deletes it. pGraphics may be null: the sheet then edits nothing. Null without memory.
 extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,
                                                                     DrawingStruct* pDrawing, void* pGraphics,
                                                                     unsigned long dwGraphicFlags);
 
-// Adds the pages that this graphic calls for and the sheet has not got yet, then lets its regen method add its own.
-// 0, or what RegenMethodGetPropPage gave; 0 also if there is no memory: the sheet keeps the pages that it has.
+// Adds the pages that this graphic needs and the sheet lacks, then lets its regen method add its own.
+// 0, or what RegenMethodGetPropPage returned; 0 also without memory: the sheet keeps the pages that it has.
 extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
                                                CGraphicPropertySheet* pSheet);

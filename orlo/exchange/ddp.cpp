@@ -21,13 +21,13 @@ CGraphicPropertyPage* PageOf(CDataExchange* pDX) {
     return static_cast<CGraphicPropertyPage*>(pDX->m_pDlgWnd);
 }
 
-// An end function with its member's type forgotten, as a record holds it.
+// Calls an end function through the untyped signature of a record.
 template <class T, void (*End)(CDataExchange*, int, T*, const char*)>
-void Forgetting(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName) {
+void CallTypedEnd(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName) {
     End(pDX, nID, static_cast<T*>(pMember), pszPropName);
 }
 
-// Goes with an exchange, and takes along what it leaves pending: its members may have been local variables.
+// Ends with an exchange, and drops the writes that it leaves pending: their members may have been local variables.
 class PendingWritesEnd : public CObject {
 public:
     explicit PendingWritesEnd(CMapWordToOb& records) : m_records(records) {}
@@ -37,19 +37,19 @@ private:
     CMapWordToOb& m_records;
 };
 
-void LayIfDirty(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName, DDPEnd pfnEnd) {
+void RecordIfDirty(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName, DDPEnd pfnEnd) {
     CGraphicPropertyPage* page = PageOf(pDX);
     if (!page->GetControlStatus(nID)) return;
     CMapWordToOb& records = PendingWritesOf(page);
     if (records.IsEmpty()) pDX->Keep(std::make_unique<PendingWritesEnd>(records));
-    LayRecord(records, new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
+    AddRecord(records, new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
 }
 
 // load(page) merges the property into the member.
 template <class T, void (*End)(CDataExchange*, int, T*, const char*), class Load>
 void Bind(CDataExchange* pDX, int nID, T* pMember, const char* pszPropName, Load load) {
     if (pDX->m_bSaveAndValidate) {
-        LayIfDirty(pDX, nID, pMember, pszPropName, Forgetting<T, End>);
+        RecordIfDirty(pDX, nID, pMember, pszPropName, CallTypedEnd<T, End>);
         return;
     }
     load(PageOf(pDX));
@@ -58,7 +58,7 @@ void Bind(CDataExchange* pDX, int nID, T* pMember, const char* pszPropName, Load
 
 } // namespace
 
-// The overloads of one name differ in the member's type alone.
+// The overloads of a name differ only in the type of the member.
 #define ORLO_DDP(kind, T, argument)                                                                          \
     void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                       \
         if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                   \
@@ -115,7 +115,7 @@ private:
     CWnd* m_window;
 };
 
-// What a host throws out of one write stays with that write: the other properties are written all the same.
+// An exception of the host ends that one write only: the other properties are still written.
 void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcome) {
     try {
         record.m_pfnEnd(pDX, record.m_nID, record.m_pMember, record.m_pszPropName);
@@ -128,7 +128,7 @@ void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcom
     }
 }
 
-// Gives the number of selected graphics. Not GetFirstObject: this walk leaves the preview mark alone.
+// Returns the number of selected graphics. Not GetFirstObject: this walk does not touch the preview mark.
 int StampSelection(CGraphicPropertyPage* page) {
     CGraphicPropertySheet* sheet = page->GetSheet();
     auto* set = sheet != nullptr ? static_cast<GraphicStruct*>(sheet->GetGraphics()) : nullptr;

@@ -23,7 +23,7 @@ ORLO_API int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long valu
 ORLO_API int DDV_MinMaxFloat(int bReport, CDataExchange* pDX, const float& value, float min, float max);
 ORLO_API int DDV_MinMaxDouble(int bReport, CDataExchange* pDX, const double& value, double min, double max);
 
-// An angle that is none: beyond 1e38 either way.
+// An angle: from -1e38 to 1e38.
 ORLO_API int DDV_Radians(int bReport, CDataExchange* pDX, const double& value);
 // From 1e-7 to 1e38.
 ORLO_API int DDV_FontSize(int bReport, CDataExchange* pDX, const double& value);

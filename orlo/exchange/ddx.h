@@ -8,7 +8,7 @@
 //
 // For all of them:
 //   bReport  non-zero: a failure is shown where the function has a message, and leaves by CDataExchange::Fail, which does
-//            not return. Zero: a failure shows nothing and gives 0.
+//            not return. Zero: a failure shows nothing and returns 0.
 //   pDX      m_bSaveAndValidate non-zero carries the control into the variable, zero the variable into the control.
 //   result   1: done, or nothing was to be done. 0: failed. Unless it says otherwise, the variable is then as before.
 #pragma once

@@ -2,13 +2,12 @@
 
 #include "orlo/exchange/ddx_button.h"
 
+#include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/failure.h"
 
 namespace {
 
-constexpr unsigned short kMixed = 0xFFFF;
-
-// The next window of the group, null behind its last.
+// The next window of the group, or null after its last.
 HWND NextInGroup(HWND window) {
     const HWND next = ::GetWindow(window, GW_HWNDNEXT);
     return next && !(::GetWindowLongPtrA(next, GWL_STYLE) & WS_GROUP) ? next : nullptr;
@@ -28,11 +27,12 @@ int DDX_Check(int, CDataExchange* pDX, int nIDC, int& value) {
 }
 
 int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) {
-    if (!pDX->m_bSaveAndValidate && value != kMixed && value > BST_CHECKED) value = BST_UNCHECKED;
-    int state = value == kMixed ? BST_INDETERMINATE : value;
+    if (!pDX->m_bSaveAndValidate && !IsIndeterminate(value) && value > BST_CHECKED) value = BST_UNCHECKED;
+    int state = IsIndeterminate(value) ? BST_INDETERMINATE : value;
     DDX_Check(bReport, pDX, nIDC, state);
     if (pDX->m_bSaveAndValidate)
-        value = state == BST_INDETERMINATE ? kMixed : static_cast<unsigned short>(state);
+        value = state == BST_INDETERMINATE ? Indeterminate<unsigned short>::Value()
+                                           : static_cast<unsigned short>(state);
     return 1;
 }
 
@@ -52,7 +52,7 @@ int DDX_Radio(int, CDataExchange* pDX, int nIDC, int& value) {
 }
 
 int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) {
-    int position = value == kMixed ? -1 : value;
+    int position = IsIndeterminate(value) ? -1 : value;
     DDX_Radio(bReport, pDX, nIDC, position);
     if (pDX->m_bSaveAndValidate) value = static_cast<unsigned short>(position);
     return 1;

@@ -2,14 +2,13 @@
 
 #include "orlo/exchange/ddx_font.h"
 
-#include <cmath>
-
-#include "orlo/binding/fuzzy.h"
+#include "orlo/binding/indeterminate.h"
 #include "orlo/controls/control_items.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/exchange/ddx_button.h"
 #include "orlo/exchange/failure.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/exchange/window_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/resources/resource.h"
@@ -17,7 +16,6 @@
 namespace {
 
 constexpr unsigned short kStyleBits = 0x0003;
-constexpr unsigned short kThirdState = 0xFFFF;
 constexpr int kTextSizeKind = 1; // of DrawingStdNumericToText
 constexpr int kSizeTextSize = 0x100;
 
@@ -38,17 +36,18 @@ void SetBits(unsigned short& word, unsigned short mask, unsigned short bits) {
 void SaveEffect(CDataExchange* pDX, const Effect& effect, unsigned short& mask, unsigned short& values) {
     unsigned short state = 0;
     DDX_Check(1, pDX, effect.nIDC, state);
-    if (state != kThirdState) {
+    if (!IsIndeterminate(state)) {
         SetBits(mask, effect.bit, 0);
     } else if (!(mask & effect.bit)) {
         state = 0;
         ::SendMessageA(pDX->PrepareCtrl(effect.nIDC), BM_SETCHECK, BST_UNCHECKED, 0);
     }
-    if (state != kThirdState) SetBits(values, effect.bit, state ? effect.bit : 0);
+    if (!IsIndeterminate(state)) SetBits(values, effect.bit, state ? effect.bit : 0);
 }
 
 void LoadEffect(CDataExchange* pDX, const Effect& effect, unsigned short mask, unsigned short values) {
-    unsigned short state = mask & effect.bit ? kThirdState : (values & effect.bit) != 0;
+    unsigned short state =
+        mask & effect.bit ? Indeterminate<unsigned short>::Value() : (values & effect.bit) != 0;
     DDX_Check(1, pDX, effect.nIDC, state);
 }
 
@@ -59,27 +58,15 @@ CFontSizeControl* SizeControlOf(HWND window) {
 }
 
 void SaveSize(CFontSizeControl& control, double& size) {
-    size = HUGE_VAL;
-    const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
-    const int selected = items.Selected();
-    CString text;
-    if (selected == CB_ERR)
-        text = WindowText(control.m_hWnd);
-    else
-        items.GetText(selected, text);
-    control.ReConvertFontSize(text, size);
+    size = Indeterminate<double>::Value();
+    control.ReConvertFontSize(ShownText(control.m_hWnd), size);
 }
 
 bool LoadSize(CFontSizeControl& control, double size) {
     char text[kSizeTextSize];
     if (!DrawingStdNumericToText(control.m_pDrawing, size, text, sizeof text, kTextSizeKind)) return false;
     const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
-    int index = items.FindExact(text);
-    if (index == CB_ERR) {
-        items.Add(text);
-        index = items.FindExact(text);
-    }
-    items.Select(index);
+    items.Select(items.FindOrAdd(text));
     return true;
 }
 
@@ -108,8 +95,7 @@ int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& s
         SaveSize(*control, size);
         return 1;
     }
-    const double mixed = HUGE_VAL;
-    if (CompareDoubles(&size, &mixed) == 0) return 1;
+    if (IsNearlyIndeterminate(size)) return 1;
     return LoadSize(*control, size) ? 1 : FailExchange(bReport, pDX);
 }
 

@@ -20,11 +20,11 @@
 // controls/font_list.h. Cannot fail.
 ORLO_API int DDX_CBFontStyle(int bReport, CDataExchange* pDX, unsigned int nIDC, unsigned short* pStyle);
 
-// A height in a CFontSizeControl that knows its drawing. Saving a text that is no height gives _HUGE and 1; loading _HUGE
-// leaves the control as it is, and a height that is in no list joins it. Fails without such a control, and if the height
+// A height in a CFontSizeControl that knows its drawing. Saving a text that is not a height gives _HUGE and 1; loading _HUGE
+// leaves the control unchanged, and a height that is not in the list is added. Fails without such a control, and if the height
 // cannot be written.
 ORLO_API int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& size);
 
-// The five effects in the three-state check boxes 103 to 107. The third state on an effect that is not mixed counts as off,
-// and is taken out of the box. Cannot fail.
+// The five effects in the three-state check boxes 103 to 107. The third state on an effect in which the texts agree counts as
+// off, and is taken out of the box. Cannot fail.
 ORLO_API int DDX_ChkBoxEffects(int bReport, CDataExchange* pDX, unsigned short* pStyle);

@@ -18,6 +18,6 @@ ORLO_API int DDX_CBString(int bReport, CDataExchange* pDX, int nIDC, CString& va
 ORLO_API int DDX_LBStringExact(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 ORLO_API int DDX_CBStringExact(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 
-// Index of the selected item, -1 for none.
+// Index of the selected item, or -1.
 ORLO_API int DDX_LBIndex(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_CBIndex(int bReport, CDataExchange* pDX, int nIDC, int& value);

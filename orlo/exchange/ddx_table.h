@@ -33,6 +33,6 @@ ORLO_API int DDX_CBTableIndex(int bReport, CDataExchange* pDX, int nIDC, unsigne
 ORLO_API int DDX_CBTableColor(int bReport, CDataExchange* pDX, int nIDC, unsigned long& value);
 
 // A CComboControl whose items hold plain names; the identifier comes from the control's own table. 0 and
-// 0xFFFF, and identifiers without a name, clear the selection. Fails if the control is none of the library's
+// 0xFFFF, and identifiers without a name, clear the selection. Fails if the control is not one of the library's
 // or has no table.
 ORLO_API int DDX_CBTableLookupIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value);

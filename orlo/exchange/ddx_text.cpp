@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/failure.h"
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/exchange/number_text.h"
@@ -134,7 +135,7 @@ int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, double& value) {
         value = local;
         return result;
     }
-    if (control && value == HUGE_VAL) {
+    if (control && IsIndeterminate(value)) {
         SetIndeterminateText(control);
         return 1;
     }

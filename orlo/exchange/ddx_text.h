@@ -21,8 +21,8 @@ ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, CString& value)
 // Real numbers, shown with 6 significant digits. A number too large for a float is refused.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, float& value);
 
-// Goes through a float: what is saved is the float nearest to the text. _HUGE, the marker of a mixed value, is shown as
-// "*****". Saving that text leaves the variable alone and gives 0 in either mode: there is no value to go on with. A silent
+// Goes through a float: what is saved is the float nearest to the text. _HUGE, the indeterminate marker, is shown as
+// "*****". Saving that text leaves the variable alone and gives 0 in either mode, since there is no value to use. A silent
 // failure sets the variable to 0.0.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, double& value);
 

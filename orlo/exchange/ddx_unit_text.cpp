@@ -16,7 +16,7 @@ constexpr int kTextSize = 0x100; // with the NUL
 constexpr double kSmallestScale = 1e-7;
 constexpr double kDegrees = 57.29577951308232, kRadians = 0.017453292519943295;
 
-// Carries the text of an edit control through the host: read(text) and write(buffer) give the host's result.
+// Carries the text of an edit control through the host: read(text) and write(buffer) return the host's result.
 template <class Read, class Write>
 int ExchangeHostText(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, int bBlank, Read read,
                      Write write) {

@@ -23,7 +23,7 @@ ORLO_API int DDX_TextVarString(int bReport, CDataExchange* pDX, unsigned int nID
 ORLO_API int DDX_CBVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
                              unsigned long nID);
 
-// A length on paper: inches in the variable, 0.025 if there is none, and the text in the units of pUnits. Limits in inches,
+// A length on paper: inches in the variable, 0.025 if it is missing, and the text in the units of pUnits. Limits in inches,
 // checked only if min is below max; nIDPrompt is the message with both, which a bad text shows too.
 ORLO_API int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pUnits,
                                      TableStruct* pVariables, unsigned short nID, double min, double max,
@@ -35,15 +35,15 @@ ORLO_API int DDX_CheckVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC,
                              unsigned long nID);
 ORLO_API int DDX_RadioVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
                              unsigned long nID);
-// A radio group whose buttons stand for other numbers: see DDX_RadioMap.
+// A radio group whose buttons map to other numbers: see DDX_RadioMap.
 ORLO_API int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
                                 unsigned long nID, long* pMap, int nCount);
 
 // The variable holds nBase plus the index of the combo's item. Saving no item, or one beyond nMax, stores nDefault; loading a
-// variable that is no item clears the selection.
+// variable that is not an item clears the selection.
 ORLO_API int DDX_CBVarIndex(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
                             unsigned long nID, int nBase, int nMax, int nDefault);
 
-// The scale of a drawing in a combo of scales: see DDX_CBScale. A text that is no scale leaves the drawing's as it is; the
+// The scale of a drawing in a combo of scales: see DDX_CBScale. A text that is not a scale leaves the drawing's unchanged; the
 // result is 1 all the same.
 ORLO_API int DDX_CBVarScale(int bReport, CDataExchange* pDX, unsigned int nIDC, DrawingStruct* pDrawing);

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-// Leaves by CDataExchange::Fail, or gives 0 in silent mode.
+// Leaves by CDataExchange::Fail, or returns 0 in silent mode.
 int FailExchange(int bReport, CDataExchange* pDX);
 
 // The same, with that string in a message box when reporting.

@@ -1,8 +1,11 @@
-// Texts of a field that are no values.
+// Fields that show no value.
 
 #include "orlo/exchange/indeterminate_text.h"
 
 #include <cstring>
+
+#include "orlo/binding/fuzzy.h"
+#include "orlo/binding/indeterminate.h"
 
 bool IsBlankText(HWND window) {
     char text[64] = "";
@@ -11,9 +14,14 @@ bool IsBlankText(HWND window) {
 }
 
 bool IsIndeterminateText(const char* text) {
-    return std::strcmp(text, kIndeterminateDisplay) == 0;
+    return std::strcmp(text, kIndeterminateStars) == 0;
 }
 
 void SetIndeterminateText(HWND window) {
-    ::SetWindowTextA(window, kIndeterminateDisplay);
+    ::SetWindowTextA(window, kIndeterminateStars);
+}
+
+bool IsNearlyIndeterminate(double value) {
+    const double marker = Indeterminate<double>::Value();
+    return CompareDoubles(&value, &marker) == 0;
 }

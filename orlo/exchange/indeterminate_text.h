@@ -1,4 +1,4 @@
-// Texts of a field that are no values: blank, and "*****" for a mixed value.
+// Fields that show no value: blank ones, and those of a number in which the graphics differ.
 #pragma once
 
 #include <windows.h>
@@ -6,9 +6,9 @@
 // Nothing but blanks and tabs in the first 63 characters of the window's text.
 bool IsBlankText(HWND window);
 
-// The text of a mixed value.
-constexpr char kIndeterminateDisplay[] = "*****";
-
-// That text, exactly.
+// Whether the text is kIndeterminateStars, exactly.
 bool IsIndeterminateText(const char* text);
 void SetIndeterminateText(HWND window);
+
+// Whether the number counts as the indeterminate marker, as far as a text field distinguishes numbers (CompareDoubles).
+bool IsNearlyIndeterminate(double value);

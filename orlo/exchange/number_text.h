@@ -2,12 +2,12 @@
 #pragma once
 
 // The whole number that makes up the text. isUnsigned as strtoul, which takes a minus sign, else as strtol; a
-// number beyond 32 bits gives the limit. False, with value untouched: no digit, or more than the number.
+// number beyond 32 bits gives the limit. False, with value unchanged: without a digit, or with more than the number.
 bool ScanTextValue(const char* text, bool isUnsigned, long& value);
 
-// The real number that makes up the text, as the host reads it. False, with value untouched: no number that
-// begins with a digit or is not zero, more than the number, or too large for a float.
+// The real number that makes up the text, as the host reads it. False, with value unchanged: not a number that
+// begins with a digit or is not zero, with more than the number, or too large for a float.
 bool ScanRealText(const char* text, float& value);
 
-// Whether the text is no number yet and becomes one with a digit behind it: "", "-", ".", "1e-".
+// Whether the text is not a number yet and becomes one with a further digit: "", "-", ".", "1e-".
 bool IsBeginningOfReal(const char* text);

@@ -1,6 +1,8 @@
-// The text of a control.
+// The texts of controls.
 
 #include "orlo/exchange/window_text.h"
+
+#include "orlo/controls/control_items.h"
 
 CString WindowText(HWND control) {
     int length = ::GetWindowTextLengthA(control);
@@ -10,5 +12,14 @@ CString WindowText(HWND control) {
     buffer[0] = '\0';
     ::GetWindowTextA(control, buffer, length + 1);
     text.ReleaseBuffer();
+    return text;
+}
+
+CString ShownText(HWND combo) {
+    const ControlItems items = ControlItems::OfCombo(combo);
+    const int selected = items.Selected();
+    if (selected == CB_ERR) return WindowText(combo);
+    CString text;
+    items.GetText(selected, text);
     return text;
 }

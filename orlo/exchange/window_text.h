@@ -1,7 +1,10 @@
-// The text of a control, as the exchange functions read it. Internal to this folder.
+// The texts of controls, as the exchange functions read them. Internal to the library.
 #pragma once
 
 #include <afxwin.h>
 
-// The whole text; of a control that does not tell its length up to 255 characters.
+// The whole text; up to 255 characters of a control that does not give its length.
 CString WindowText(HWND control);
+
+// What a combo shows: the text of its selected item, or its window text without one.
+CString ShownText(HWND combo);

@@ -1,3 +1,5 @@
+// Fitting of a page's controls to keyboard, page and screen.
+
 #include "orlo/frame/control_fitting.h"
 
 #include <algorithm>
@@ -9,9 +11,9 @@
 namespace {
 
 constexpr int kBoxWidth = 13; // of a check or radio button, pixels at 96 dpi
-constexpr int kLabelRoom = 8; // between box and label, and behind it
+constexpr int kLabelRoom = 8; // between box and label, and after the label
 
-// Labels of the templates are tab stops; the keyboard has nothing to do there.
+// Labels of the templates are tab stops, although they take no keys.
 void PassOverLabel(HWND child) {
     const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
     if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "orlo/win/gdi.h"
+#include "orlo/win/system_text.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ struct DialogTemplate {
     int height = 62;
 };
 
-// Words of a locked resource. Nobody tells its size, but what lies behind it in its mapping cannot be part of it.
+// Words of a locked resource. Its size is unknown, but it ends with its mapping at the latest.
 class TemplateWords {
 public:
     explicit TemplateWords(const void* start) : m_next(static_cast<const char*>(start)), m_left(0) {
@@ -74,8 +75,7 @@ bool ReadFont(TemplateWords& words, DialogFont& font) {
     wchar_t face[kFaceSize] = {};
     if (!words.Read(points) || !words.ReadText(face, kFaceSize - 1)) return false;
     font.points = points;
-    ::WideCharToMultiByte(CP_ACP, 0, face, -1, font.face, sizeof font.face, " ", nullptr);
-    font.face[sizeof font.face - 1] = '\0';
+    Narrow(face, font.face, sizeof font.face);
     return true;
 }
 
@@ -83,9 +83,9 @@ DialogTemplate ReadTemplate(const void* resource) {
     DialogTemplate result;
     TemplateWords words(resource);
     WORD styleLow, width, height;
-    const size_t behindStyle =
+    const size_t afterStyle =
         14 - sizeof styleLow; // extended style, item count and position are of no use here
-    if (!words.Read(styleLow) || !words.SkipBytes(behindStyle) || !words.Read(width) || !words.Read(height))
+    if (!words.Read(styleLow) || !words.SkipBytes(afterStyle) || !words.Read(width) || !words.Read(height))
         return result;
     result.width = width;
     result.height = height;

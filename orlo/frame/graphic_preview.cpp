@@ -1,4 +1,4 @@
-// CGraphicPreview.
+// CGraphicPreview: the background of the pane and the frame of the drawing in it.
 
 #include "orlo/frame/graphic_preview.h"
 

@@ -1,4 +1,4 @@
-// CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family stands in
+// CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family is in
 // property_access.cpp.
 
 #include "orlo/frame/graphic_property_page.h"
@@ -152,7 +152,7 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// Marks the control if the notification changes it. The first change of a page never gives the bit of an edit's end.
+// Marks the control if the notification changes it. The first change of a page never sets the bit of an edit's end.
 unsigned long CGraphicPropertyPage::ChangeFlags(unsigned int nID, unsigned int code, HWND control) {
     const PageNotification notification(control, code);
     unsigned long flags = 0;

@@ -60,8 +60,8 @@ public:
     // A system message box without an owner; a null caption is the application's name.
     int MessageBoxA(const char* lpszText, const char* lpszCaption, unsigned int nType);
 
-    // The walk over the selection (bPreview 0) or the sheet's preview group. pPos is one 32-bit word of the caller's.
-    // The graphics that it gives lose, or get, the preview mark. Null at the end, or without a set.
+    // The walk over the selection (bPreview 0) or the sheet's preview group. pPos is the caller's 32-bit word.
+    // The graphics that it returns lose, or get, the preview mark. Null at the end, or without a set.
     void* GetFirstObject(void* pPos, int bPreview);
     void* GetNextObject(void* pPos, int bPreview);
 
@@ -103,7 +103,7 @@ public:
     // Bits inside the mask keep each graphic's own state.
     int SetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview);
 
-    // The sheet that the page stands in; null before its window is made, or in a sheet of another kind.
+    // The sheet that the page is in; null before its window is made, or in a sheet of another kind.
     CGraphicPropertySheet* GetSheet() const;
     GraphicStruct* GetPreviewGraphic() const;
     unsigned int GetTemplateNumber() const;
@@ -123,9 +123,9 @@ protected:
     unsigned long m_dwHelpContext;
     int m_bRefreshPending; // the next refresh command reloads the controls
     int m_bInitializing;   // notifications of controls are ignored
-    // Set by a page's constructor: OnInitDialog takes the tab stops from labels and fits the widths of controls to the page and
-    // to the resolution of the screen, as the templates of the library need it. Else a page's controls stay as its template has
-    // them.
+    // Set by a page's constructor: OnInitDialog removes the tab stops of labels and fits the widths of controls to the page and
+    // to the resolution of the screen, as the templates of the library need it. Otherwise a page's controls stay as in its
+    // template.
     int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;
@@ -141,5 +141,5 @@ private:
 
     friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
     friend class WriteOutcome;
-    class WriteOutcome* m_pOutcome = nullptr; // of the write-back that is going on
+    class WriteOutcome* m_pOutcome = nullptr; // of the write-back in progress
 };

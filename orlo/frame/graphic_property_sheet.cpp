@@ -1,4 +1,4 @@
-// CGraphicPropertySheet: its life and its data. Layout and frame painting stand in sheet_layout.cpp.
+// CGraphicPropertySheet: its life and its data. Layout and frame painting are in sheet_layout.cpp.
 
 #include "orlo/frame/graphic_property_sheet.h"
 
@@ -96,8 +96,7 @@ void CGraphicPropertySheet::DeletePages() {
 
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (!CreatePreviewRect()) return -1;
-    m_wndPreview.ModifyStyle(
-        0, WS_GROUP); // the arrow keys do not get here from radio buttons that a page ends with
+    m_wndPreview.ModifyStyle(0, WS_GROUP); // keeps the arrow keys in radio buttons that end a page
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());

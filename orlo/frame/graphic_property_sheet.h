@@ -2,7 +2,7 @@
 // preview window, and lays itself out with the page at the left and buttons and preview in a column beside it.
 //
 // Made by InitGraphicPropertySheet (orlo/entry/entry.h); the host runs and deletes it. Drawing and selection stay the
-// host's. DoModal gives 1 after OK, IDCANCEL after Cancel, or a code that a page has chosen.
+// host's. DoModal returns 1 after OK, IDCANCEL after Cancel, or a code that a page has chosen.
 #pragma once
 
 #include <cstdint>
@@ -39,7 +39,7 @@ public:
     void* GetRegenMethods();
 
     GraphicStruct* GetPreviewGroup();
-    // Of the active page; null if it has none.
+    // Of the active page, or null.
     GraphicStruct* GetPreviewGraphic();
 
     // Marks the preview for repainting; bNow repaints before it returns.
@@ -51,7 +51,7 @@ public:
     // OK ends the dialog with this code, without an exchange if it is set before OK.
     void EndWithCode(int nEndCode);
 
-    // A page's word that something changed. Bit 0: a control became dirty; bit 1: a dirty control ended an edit.
+    // A page reports that something changed. Bit 0: a control became dirty; bit 1: a dirty control ended an edit.
     // 1 if the active page has a preview graphic.
     virtual int OnStatusChange(unsigned long dwFlags);
     // Sizes the sheet to the active page.

@@ -1,4 +1,4 @@
-// COrloPropertyPage.
+// COrloPropertyPage: drop-down lists of a page, and its focus while it is left.
 
 #include "orlo/frame/orlo_property_page.h"
 

@@ -25,7 +25,7 @@ public:
     const char* GetTemplateName() const;
 
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
-    // An edit control of several lines asks its parent when it gets Tab. The way round is the sheet's: buttons and tabs are on it.
+    // A multi-line edit control passes Tab to its parent. The tab order is the sheet's, which has the buttons and the tabs.
     LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
         return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
     }

@@ -25,7 +25,7 @@ CRect WindowRect(HWND window) {
     return rect;
 }
 
-// Width in pixels that a button's caption text asks for, or standard if it asks for none.
+// Width in pixels that a button's caption text specifies, else the standard one.
 int ButtonWidth(unsigned int nIDText, HWND page, int standard) {
     char text[256];
     if (AfxLoadString(nIDText, text, sizeof text) == 0) return standard;

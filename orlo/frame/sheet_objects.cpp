@@ -1,3 +1,5 @@
+// The graphics that the pages of a sheet work on.
+
 #include "orlo/frame/sheet_objects.h"
 
 #include "orlo/frame/graphic_property_sheet.h"

@@ -1,3 +1,5 @@
+// WriteOutcome: what a write-back did not achieve, and how the user learns of it.
+
 #include "orlo/frame/write_outcome.h"
 
 #include <afxwin.h>

@@ -1,4 +1,4 @@
-// What of a write-back the host did not take: told to the user once, when it is over.
+// What the host did not accept in a write-back: reported to the user once, when it is over.
 #pragma once
 
 #include <afx.h>
@@ -11,17 +11,17 @@ class CGraphicPropertyPage;
 
 class WriteOutcome {
 public:
-    // The page's writes to the selection are noted while the object lives.
+    // The page's writes to the selection are recorded while the object lives.
     explicit WriteOutcome(CGraphicPropertyPage* page);
     ~WriteOutcome();
     WriteOutcome(const WriteOutcome&) = delete;
     WriteOutcome& operator=(const WriteOutcome&) = delete;
 
-    // The graphics that did not take a value.
+    // The graphics that did not accept a value.
     std::set<const GraphicStruct*>& Unchanged() { return m_unchanged; }
-    // Something was thrown that is none of the framework's exceptions; of several texts the first counts.
+    // An exception other than the framework's; of several texts the first counts.
     void AddFailure(const char* text);
-    // A message box, if there is anything to say. total: the graphics of the selection.
+    // A message box, if there is anything to report. total: the graphics of the selection.
     void Report(int total) const;
 
 private:

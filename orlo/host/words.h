@@ -68,23 +68,28 @@ ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFBu; // all, and the General page has its style part
 
 // Markers among the colours, which are 0x00bbggrr else.
-ORLO_CONSTANT uint32_t kColorMixed = 0xFFFFFFFFu;
+ORLO_CONSTANT uint32_t kColorIndeterminate = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kColorNone = 0xFFFFFFFEu;
 ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
 ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // of a brush
 
 // Markers among the line styles, which are entries of kTableLineStyles else.
-enum { kLineStyleNone = 0, kLineStyleByBlock = 65533, kLineStyleByLayer = 65534, kLineStyleMixed = 65535 };
+enum {
+    kLineStyleNone = 0,
+    kLineStyleByBlock = 65533,
+    kLineStyleByLayer = 65534,
+    kLineStyleIndeterminate = 65535
+};
 
 // Of the brush styles, which are entries of kTableBrushStyles else.
-enum { kBrushStyleNone = 0, kBrushStyleMixed = 65535 };
+enum { kBrushStyleNone = 0, kBrushStyleIndeterminate = 65535 };
 
 // What the width of a pen means.
 enum {
-    kScaleWorld = 0,   // drawing units: it grows with the drawing
-    kScalePaper = 2,   // inches of paper, the same at every zoom
-    kScaleMixed = 0xFF // texts of widths are as on paper
+    kScaleWorld = 0,           // drawing units: it grows with the drawing
+    kScalePaper = 2,           // inches of paper, the same at every zoom
+    kScaleIndeterminate = 0xFF // texts of widths are as on paper
 };
 
 // Spaces that the lengths of a drawing are in (DrawingGetCoordSpace).

@@ -1,4 +1,4 @@
-// CBrushPage.
+// CBrushPage: exchange of the filling, the arrows beside the angle, and the preview with its hatch.
 
 #include "orlo/pages/brush_page.h"
 
@@ -10,6 +10,7 @@
 #include "orlo/controls/color_control.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/style.h"
@@ -18,13 +19,13 @@
 #include "orlo/host/viewport.h"
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/mixed_value.h"
-#include "orlo/pages/passed_over.h"
+#include "orlo/pages/ignored_text.h"
+#include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/hatch_scale.h"
-#include "orlo/samples/preview_shape.h"
+#include "orlo/samples/vertex_list.h"
 
 IMPLEMENT_DYNAMIC(CBrushPage, CGraphicPropertyPage)
 
@@ -40,10 +41,10 @@ constexpr double kLinesAcrossPreview = 20.0;
 int drawModes[] = {-1, 1, 0};
 constexpr int kDrawModeCount = 3;
 
-// What the arrows beside the angle turn by, and where they begin again.
+// The step of the arrows beside the angle, and where they wrap around.
 struct AngularUnit {
     double radians;
-    double turn; // units
+    double turn; // in units
     int highest; // whole angle of the up-down control
 };
 
@@ -71,8 +72,8 @@ double WidthOf(GraphicStruct* graphic) {
     return ::ExtentsGetX2(extents) - ::ExtentsGetX1(extents);
 }
 
-bool IsMixedStyle(unsigned int style) {
-    return style == kBrushStyleMixed || style == kIndeterminateId;
+bool IsIndeterminateStyle(unsigned int style) {
+    return style == kBrushStyleIndeterminate || style == kIndeterminateId;
 }
 
 } // namespace
@@ -99,15 +100,15 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, kPropBrushColor);
     DDX_CBTableColor(1, pDX, IDC_BRUSH_COLOR, m_dwColor);
 
-    // An angle that cannot be read ends nothing here: the limits judge what the host made of it.
+    // An angle that cannot be read does not end the exchange: the limits check what the host made of it.
     DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
-        TellPassedOver(*this, pDX, IDC_BRUSH_ANGLE);
-    if (!IsMixed(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
+        WarnOfIgnoredText(*this, pDX, IDC_BRUSH_ANGLE);
+    if (!IsNearlyIndeterminate(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 
     DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
     DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
-    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, kPropBrushStyle);
     DDX_ConvertStyle(1, pDX, m_nStyle);
@@ -127,7 +128,7 @@ BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->idFrom != IDC_BRUSH_ANGLE_ARROWS || header->code != static_cast<UINT>(UDN_DELTAPOS))
         return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
     TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
-    *pResult = TRUE; // the control itself reads and writes whole numbers only
+    *pResult = TRUE; // the control itself handles whole numbers only
     return TRUE;
 }
 
@@ -139,12 +140,12 @@ void CBrushPage::TurnAngle(int steps) {
         ::MessageBeep(MB_ICONWARNING);
         return;
     }
-    angle = Turned(IsMixed(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
+    angle = Turned(IsNearlyIndeterminate(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
     DDX_TextAngle(&load, IDC_BRUSH_ANGLE, angle, drawing);
 }
 
 CString CBrushPage::StyleName(unsigned int style) const {
-    if (IsMixedStyle(style)) return kMixedText;
+    if (IsIndeterminateStyle(style)) return kIndeterminateWord;
     char name[kStyleNameSize] = "";
     if (style == kBrushStyleNone)
         ::DrawCoreLoadString(kStringNoBrush, name, sizeof name);
@@ -192,41 +193,47 @@ void* CBrushPage::CreatePreviewGraphic() {
     return shape;
 }
 
+struct CBrushPage::Preview {
+    static const PreviewRow<CBrushPage> kRows[5];
+};
+
+const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
+    {{IDC_BRUSH_COLOR},
+     [](CBrushPage& page, CDataExchange* pDX, int) {
+         CarryColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor);
+     }},
+    {{IDC_BRUSH_ANGLE},
+     [](CBrushPage& page, CDataExchange* pDX, int) {
+         double angle = 0.0;
+         if (DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsNearlyIndeterminate(angle) &&
+             DDV_Radians(1, pDX, angle))
+             page.SetPropText(kPropBrushAngle, angle, 1);
+     }},
+    {{IDC_BRUSH_STYLE_LIST}, [](CBrushPage& page, CDataExchange* pDX, int) { page.SetPreviewStyle(pDX); }},
+    {{IDC_HATCH_CROSS},
+     [](CBrushPage& page, CDataExchange* pDX, int bAll) {
+         CarryCheck(page, pDX, IDC_HATCH_CROSS, bAll, page.m_nLastCross, kPropHatchCross);
+     }},
+    {{IDC_DRAW_WINDING}, [](CBrushPage& page, CDataExchange* pDX, int) {
+         int mode = 0;
+         if (DDX_RadioMap(0, pDX, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
+             page.SetPropText(kPropBrushDrawMode, mode, 1);
+     }}};
+
 void CBrushPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CDataExchange dx(this, TRUE);
-    const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
-
-    if (wanted(IDC_BRUSH_COLOR)) {
-        unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_BRUSH_COLOR, color)) SetPropText(kPropBrushColor, color, 1);
-    }
-    if (wanted(IDC_BRUSH_ANGLE)) {
-        double angle = 0.0;
-        if (DDX_TextAngle(&dx, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsMixed(angle) &&
-            DDV_Radians(1, &dx, angle))
-            SetPropText(kPropBrushAngle, angle, 1);
-    }
-    if (wanted(IDC_BRUSH_STYLE_LIST)) SetPreviewStyle(&dx);
-    if (wanted(IDC_HATCH_CROSS))
-        SetPropCheck(kPropHatchCross, CheckForPreview(&dx, IDC_HATCH_CROSS, bAll, m_nLastCross), 1);
-    if (wanted(IDC_DRAW_WINDING)) {
-        int mode = 0;
-        if (DDX_RadioMap(0, &dx, IDC_DRAW_WINDING, mode, drawModes, kDrawModeCount))
-            SetPropText(kPropBrushDrawMode, mode, 1);
-    }
-
+    CarryToPreview(*this, Preview::kRows, bAll);
     // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
     ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);
     ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }
 
-// The style decides on the preview's scale, so that any hatch can be told there, and on which controls make sense.
+// The style decides the scale of the preview, so that any hatch can be recognised there, and which controls make sense.
 void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
     unsigned int style = m_nStyle;
-    if (DDX_ConvertStyle(0, pDX, style) && !IsMixedStyle(style)) {
+    if (DDX_ConvertStyle(0, pDX, style) && !IsIndeterminateStyle(style)) {
         const bool hatched =
             style != kBrushStyleNone && (::BrushStyleGetFlags(m_pBrushStyles, style) & kLines) == kLines;
         if (hatched) {

@@ -1,3 +1,5 @@
+// The current drawing of the application, and its tables.
+
 #include "orlo/pages/current_drawing.h"
 
 #include "orlo/host/application.h"

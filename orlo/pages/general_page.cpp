@@ -1,4 +1,4 @@
-// CGeneralPage.
+// CGeneralPage: exchange of layer and attribute text, and the part that chooses styles.
 
 #include "orlo/pages/general_page.h"
 
@@ -6,6 +6,7 @@
 
 #include "orlo/binding/indeterminate.h"
 #include "orlo/controls/combo_control.h"
+#include "orlo/controls/control_items.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
@@ -19,7 +20,6 @@ IMPLEMENT_DYNAMIC(CGeneralPage, CGraphicPropertyPage)
 
 namespace {
 
-constexpr char kMixedInfo[] = "<Indeterminate>";
 constexpr int kLongestStyleName = 32;
 constexpr int kNameSize = 256;
 constexpr unsigned long kNoStylePart = 4; // bit of the graphic flags
@@ -35,12 +35,12 @@ void EnableDlgControl(HWND hDlg, int nID, bool enable) {
     if (const HWND control = ::GetDlgItem(hDlg, nID)) ::EnableWindow(control, enable);
 }
 
-// The first entry that the test likes; 0 if there is none.
+// The first entry that passes the test; 0 if none does.
 template <class Test>
-uint16_t FindEntry(TableStruct* table, Test likes) {
+uint16_t FindEntry(TableStruct* table, Test matches) {
     int cookie = 0;
     uint16_t id = ::TableEntryFirst(table, &cookie);
-    while (id != 0 && !likes(id))
+    while (id != 0 && !matches(id))
         id = ::TableEntryNext(table, &cookie);
     return id;
 }
@@ -107,15 +107,15 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
     m_bFirstExchange = 0;
 }
 
-// Mixed texts show as a text of their own, which counts as untouched however it came there.
+// Indeterminate texts show as a text of their own, which counts as untouched even if the user has typed it.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
     if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
-        CString shown(kMixedInfo);
+        CString shown(kIndeterminateInfo);
         DDX_Text(1, pDX, IDC_INFO, shown);
     } else {
         DDX_Text(1, pDX, IDC_INFO, m_strInfo);
-        if (m_strInfo == kMixedInfo) m_strInfo = kIndeterminateText;
+        if (m_strInfo == kIndeterminateInfo) m_strInfo = kIndeterminateString;
     }
 }
 
@@ -131,7 +131,7 @@ TableStruct* CGeneralPage::StyleTable() const {
     return control != nullptr ? control->m_pTable : nullptr;
 }
 
-// Of the style whose graphic the sheet is open over; empty if there is none.
+// Name of the style whose graphic the sheet is open over; empty without one.
 CString CGeneralPage::CurrentStyleName() const {
     TableStruct* table = StyleTable();
     char name[kNameSize] = "";
@@ -150,8 +150,7 @@ CString CGeneralPage::NameInCombo() const {
 }
 
 int CGeneralPage::FindInCombo(const char* name) const {
-    return static_cast<int>(::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_FINDSTRINGEXACT,
-                                                  static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name)));
+    return ControlItems::OfCombo(::GetDlgItem(m_hWnd, IDC_STYLE_NAME)).FindExact(name);
 }
 
 bool CGeneralPage::MayDelete(const char* name) const {
@@ -163,9 +162,9 @@ void CGeneralPage::EnableButtons(const char* name) {
     EnableDlgControl(m_hWnd, IDC_STYLE_DELETE, MayDelete(name));
 }
 
-// The system tells nobody of a selection made so.
+// The system sends no notification for a selection made this way.
 void CGeneralPage::SelectInCombo(int index) {
-    ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    ControlItems::OfCombo(::GetDlgItem(m_hWnd, IDC_STYLE_NAME)).Select(index);
     EnableButtons(NameInCombo());
 }
 
@@ -177,15 +176,9 @@ void CGeneralPage::OnStyleEditChange() {
 void CGeneralPage::OnStyleCloseUp() {
     const HWND combo = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME);
     if (!HasStylePart() || combo == nullptr) return;
-    const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
-    if (index == CB_ERR) return;
-    const LRESULT length = ::SendMessageA(combo, CB_GETLBTEXTLEN, index, 0);
-    if (length == CB_ERR) return;
+    const ControlItems items = ControlItems::OfCombo(combo);
     CString name;
-    ::SendMessageA(combo, CB_GETLBTEXT, index,
-                   reinterpret_cast<LPARAM>(name.GetBuffer(static_cast<int>(length))));
-    name.ReleaseBuffer();
-    EnableButtons(name);
+    if (items.GetText(items.Selected(), name)) EnableButtons(name);
 }
 
 void CGeneralPage::OnNew() {
@@ -212,7 +205,7 @@ void CGeneralPage::OnStyleKillFocus() {
     m_bStyleChecked = 0;
     if (checked || combo == nullptr || !HasStylePart()) return;
     const HWND focus = ::GetFocus();
-    // Without a focus another program has come to the front. The user is still in the combo, as after moves inside it.
+    // Without a focus another program has come to the front, and the user is still in the combo.
     if (focus == nullptr || focus == combo || ::IsChild(combo, focus)) return;
 
     const CString name = NameInCombo();

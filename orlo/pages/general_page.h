@@ -1,5 +1,5 @@
-// The General page, first in every sheet: layer and attribute text of the selected graphics, and, over the graphic that a
-// style stands for, the style's name with New and Delete.
+// The General page, first in every sheet: layer and attribute text of the selected graphics, and, over the graphic of a
+// style, the style's name with New and Delete.
 //
 // The style part edits nothing: choosing, making or deleting a style ends the sheet with a code (style_end_code.h).
 #pragma once
@@ -19,7 +19,7 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // Refuses, with a beep, while the style combo names another style than the current one.
+    // Refuses, with a beep, while the style combo names a style other than the current one.
     BOOL OnKillActive() override;
 
 protected:
@@ -49,8 +49,8 @@ private:
     unsigned int m_nStyleTree;
     CString m_strInfo;
     int m_bFirstExchange;
-    int m_bStyleChecked; // the focus change that follows has been looked at already
+    int m_bStyleChecked; // the focus change that follows has been handled
 };
 
-// 0 for a name that the host keeps for itself.
+// 0 for a name that the host reserves.
 int IsUserStyleName(CString name);

@@ -1,4 +1,4 @@
-// CInsertPage.
+// CInsertPage: exchange and merge of the parts of insertions, and the preview.
 
 #include "orlo/pages/insert_page.h"
 
@@ -14,7 +14,6 @@
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
 #include "orlo/pages/insert_preview.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CInsertPage, CGraphicPropertyPage)
@@ -24,7 +23,7 @@ namespace {
 constexpr double kMostScale = 1000.0;
 constexpr double kFarthest = 1e38;
 
-// Calls visit for the insertions of the set until it gives false. It may clear withRotationZ for those that follow.
+// Calls visit for the insertions of the set until it returns false. It may clear withRotationZ for the insertions that follow.
 template <class Visit>
 void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit visit) {
     uint32_t position = 0;
@@ -36,7 +35,7 @@ void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit vis
     }
 }
 
-// Makes a merged part the marker where the insertion's is another number. False if all are the marker by then.
+// Makes a merged part the marker where the insertion's is another number. False if by then all are the marker.
 bool Merge(const double (&parts)[3], double (&merged)[3]) {
     bool definite = false;
     for (int i = 0; i < 3; ++i) {
@@ -110,7 +109,7 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     const int id = static_cast<int>(field.nID);
     double& value = this->*field.member;
     DDX_Text(1, pDX, id, value);
-    if (IsMixed(value)) return;
+    if (IsNearlyIndeterminate(value)) return;
     if (field.limit == 0) {
         DDX_TextRadians(1, pDX, field.nID, value);
         DDV_Radians(1, pDX, value);
@@ -119,7 +118,7 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     DDV_MinMaxDouble(1, pDX, value, -field.limit, field.limit);
 }
 
-// A field that shows nothing new stands for what it did: limits, and the range of a float, are for what the user has typed.
+// A field without a new text keeps its value: limits, and the range of a float, apply to what the user has typed.
 void CInsertPage::SaveField(CDataExchange* pDX, const Field& field) {
     if (ShowsNewText(field))
         ExchangeField(pDX, field);

@@ -2,7 +2,7 @@
 // properties: see insert_parts.h.
 //
 // What counts is what the user sees: a field whose text has come back to what it was, or that shows "*****", writes nothing and
-// is not judged, whatever has been typed in between.
+// is not checked, whatever has been typed in between.
 #pragma once
 
 #include "orlo/frame/graphic_property_page.h"
@@ -22,13 +22,13 @@ public:
     BOOL OnInitDialog() override;
     // An insertion of a pyramid with lettered axes, a block of the current drawing for as long as the page lives.
     void* CreatePreviewGraphic() override;
-    // Reports at once what is no number or out of range, but waits while the text may still become one: "", "-", ".", "1e".
+    // Reports at once a text that is not a number or out of range, but waits while it may still become one: "", "-", ".", "1e".
     void SetPreviewProperties(int bAll) override;
 
     // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
     void LoadInsertParts(int bPreview);
-    // Puts the members into all insertions of the set. A mixed member, and in the selection one whose control the user has not
-    // touched or has brought back to its first text, leaves each insertion its own.
+    // Writes the members to all insertions of the set. Each insertion keeps its own value where a member is indeterminate and,
+    // in the selection, where the user has not changed the control or has restored its first text.
     void ApplyInsertParts(int bPreview);
 
 private:

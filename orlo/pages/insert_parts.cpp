@@ -1,4 +1,4 @@
-// Taking insertions apart.
+// Insertions as position, scale and rotation.
 
 #include "orlo/pages/insert_parts.h"
 
@@ -60,7 +60,7 @@ Axes AxesOf(const Corners& corners) {
 // Of a frame without shear, from the directions of its x and z axes. Adding 0.0 turns -0.0 to 0.0.
 void FindRotations(Vector a, const Vector& c, bool withZ, double rotation[3]) {
     if (c.x == 0.0 && c.y == 0.0 &&
-        c.z > 0.0) { // in the plane, as most are: the formulas' result without their work
+        c.z > 0.0) { // in the plane, as most are: the result of the formulas without computing them
         rotation[0] = rotation[1] = 0.0;
         if (withZ) rotation[2] = a.y == 0.0 && a.x > 0.0 ? 0.0 : std::atan2(a.y, a.x);
         return;
@@ -99,8 +99,7 @@ bool Direct(Vector& axis) {
     return true;
 }
 
-// The coordinate axis after the others in the order z, x, y that stands most nearly at right angles to the direction, put at
-// right angles.
+// The first coordinate axis in the order z, x, y that is far enough from the direction, made perpendicular to it.
 Vector RightAngleTo(const Vector& direction) {
     const Vector kCandidates[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}};
     for (const Vector& candidate : kCandidates) {
@@ -111,7 +110,7 @@ Vector RightAngleTo(const Vector& direction) {
     return kCandidates[0];
 }
 
-// Puts directions in the place of collapsed axes.
+// Replaces collapsed axes by directions.
 Axes CompleteFrame(Axes axes) {
     bool there[3];
     for (size_t i = 0; i < 3; ++i)

@@ -12,20 +12,20 @@ struct InsertParts {
     double rotation[3]; // radians, about x, y and z
 };
 
-// Leaves alone what it cannot tell: all of the record for a graphic without the four vertices of an insertion, the rotations
-// if an axis is collapsed (1e-7 or shorter).
+// Does not touch what cannot be computed: the whole record for a graphic without the four vertices of an insertion, the
+// rotations if an axis is collapsed (1e-7 or shorter).
 void InsertGetParts(GraphicStruct* graphic, InsertParts* parts);
 
 // Writes the four vertices; nothing to a graphic that lacks them. Scales of almost 1 (all three, CompareDoubles) and rotations
-// of at most 1e-7 count as none.
+// of at most 1e-7 are treated as absent.
 void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts);
 
 // The parts of any insertion. The rotations of one with collapsed axes are those of the axes that are left, each missing one
-// standing at right angles to the others; rotations of at most 1e-7 are 0. False, and the record is without meaning, for a
-// graphic without the four vertices, or with one that is no point.
-// withRotationZ false leaves that rotation alone: half of the time goes into it, and in most selections it differs.
+// at right angles to the others; rotations of at most 1e-7 are 0. False, and the record is meaningless, for a
+// graphic without the four vertices, or with one that is not finite.
+// withRotationZ false skips that rotation: it takes half of the time, and in most selections it differs.
 bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts, bool withRotationZ = true);
 
 // Carries the insertion from its parts to others. One that is only moved keeps its axes as they are, sheared ones too. Writes
-// nothing if the parts are equal or a new one is no number.
+// nothing if the parts are equal or a new one is not a number.
 void ChangeInsertParts(GraphicStruct* graphic, const InsertParts& from, const InsertParts& to);

@@ -4,7 +4,7 @@
 
 #include "orlo/host/block.h"
 #include "orlo/host/owners.h"
-#include "orlo/samples/preview_shape.h"
+#include "orlo/samples/vertex_list.h"
 
 namespace {
 

@@ -3,8 +3,9 @@
 
 #include "orlo/host/graphic.h"
 
-// A new insertion, the caller's, of the block "$PREVIEW_BLOCK", which the drawing gets if it has none. Null on failure.
+// A new insertion, the caller's, of the block "$PREVIEW_BLOCK", which is added to the drawing if it is missing. Null on
+// failure.
 GraphicStruct* NewInsertPreview(DrawingStruct* drawing);
 
-// Takes the block out of the drawing, if it is there.
+// Removes the block from the drawing, if present.
 void RemoveInsertPreview(DrawingStruct* drawing);

@@ -1,19 +1,20 @@
-// CLinePage.
+// CLinePage: exchange of the pen, the change of its scale system, and the preview.
 
 #include "orlo/pages/line_page.h"
 
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/mixed_value.h"
 #include "orlo/pages/pen_width.h"
+#include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
-#include "orlo/samples/preview_shape.h"
+#include "orlo/samples/vertex_list.h"
 
 IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
 
@@ -52,9 +53,9 @@ BOOL CLinePage::OnInitDialog() {
 void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DrawingStruct* drawing = CurrentDrawing();
 
-    // The property is wider than the member. Saving, the member already holds what the combo shows.
+    // The property is wider than the member. While saving, the member already holds what the combo shows.
     unsigned short scaleSystem =
-        m_nScaleSystem == kScaleMixed ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
+        m_nScaleSystem == kScaleIndeterminate ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
     DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, kPropScaleSystem);
     m_nScaleSystem = static_cast<unsigned char>(scaleSystem);
     DDX_CBScaleSystem(1, pDX, IDC_SCALE_SYSTEM, m_nScaleSystem);
@@ -65,11 +66,11 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
     DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(pDX);
-    if (!IsMixed(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
+    if (!IsNearlyIndeterminate(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
-    if (!IsMixed(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
@@ -80,7 +81,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDP_PostProcessing(pDX);
 }
 
-// A width that the host cannot write leaves its field blank; that is no width only if the user has made it so.
+// A width that the host cannot write leaves its field blank; a blank field is refused only if the user has emptied it.
 void CLinePage::ExchangeWidth(CDataExchange* pDX) {
     const bool save = pDX->m_bSaveAndValidate;
     if (save && !GetControlStatus(IDC_PEN_WIDTH)) return;
@@ -92,9 +93,9 @@ CString CLinePage::StyleName(unsigned int style) const {
     switch (style) {
     case kLineStyleNone:
         return "Undefined";
-    case kLineStyleMixed:
+    case kLineStyleIndeterminate:
     case kIndeterminateId:
-        return kMixedText;
+        return kIndeterminateWord;
     case kLineStyleByLayer:
         ::DrawCoreLoadString(kStringByLayer, name, sizeof name);
         break;
@@ -137,39 +138,45 @@ void* CLinePage::CreatePreviewGraphic() {
                             {0.1, 0.2, 0, true}});
 }
 
+struct CLinePage::Preview {
+    static const PreviewRow<CLinePage> kRows[6];
+};
+
+const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
+    {{IDC_COLOR},
+     [](CLinePage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_COLOR, kPropPenColor); }},
+    {{IDC_PEN_WIDTH},
+     [](CLinePage& page, CDataExchange* pDX, int) {
+         double width = 0.0;
+         if (DDX_CBPenWidth(0, pDX, IDC_PEN_WIDTH, width, page.m_nScaleSystem, CurrentDrawing()) &&
+             !IsNearlyIndeterminate(width) && DDV_MinMaxDouble(0, pDX, width, 0.0, kWidest))
+             page.SetPropText(kPropPenWidth, width, 1);
+     }},
+    {{IDC_PEN_SCALE},
+     [](CLinePage& page, CDataExchange* pDX, int) {
+         double scale = 0.0;
+         if (DDX_Text(0, pDX, IDC_PEN_SCALE, scale) && !IsNearlyIndeterminate(scale) &&
+             DDV_MinMaxDouble(0, pDX, scale, kLeastScale, kMostScale))
+             page.SetPropText(kPropPenScale, scale, 1);
+     }},
+    {{IDC_LINE_STYLE_LIST},
+     [](CLinePage& page, CDataExchange* pDX, int) {
+         unsigned int style = page.m_nStyle;
+         if (page.DDX_ConvertLStyle(0, pDX, style)) page.SetPropText(kPropPenStyle, style, 1);
+     }},
+    {{IDC_SCALE_SYSTEM},
+     [](CLinePage& page, CDataExchange* pDX, int) {
+         unsigned char system = kScalePaper;
+         DDX_CBScaleSystem(0, pDX, IDC_SCALE_SYSTEM, system);
+         if (system != kScaleIndeterminate) page.SetPropText(kPropScaleSystem, system, 1);
+     }},
+    {{IDC_PEN_ALIGNMENT}, [](CLinePage& page, CDataExchange* pDX, int bAll) {
+         CarryCheck(page, pDX, IDC_PEN_ALIGNMENT, bAll, page.m_nLastAlignment, kPropPenAlignment);
+     }}};
+
 void CLinePage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CDataExchange dx(this, TRUE);
-    const auto wanted = [&](int nID) { return bAll || GetControlStatus(nID); };
-
-    if (wanted(IDC_COLOR)) {
-        unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_COLOR, color)) SetPropText(kPropPenColor, color, 1);
-    }
-    if (wanted(IDC_PEN_WIDTH)) {
-        double width = 0.0;
-        if (DDX_CBPenWidth(0, &dx, IDC_PEN_WIDTH, width, m_nScaleSystem, CurrentDrawing()) &&
-            !IsMixed(width) && DDV_MinMaxDouble(0, &dx, width, 0.0, kWidest))
-            SetPropText(kPropPenWidth, width, 1);
-    }
-    if (wanted(IDC_PEN_SCALE)) {
-        double scale = 0.0;
-        if (DDX_Text(0, &dx, IDC_PEN_SCALE, scale) && !IsMixed(scale) &&
-            DDV_MinMaxDouble(0, &dx, scale, kLeastScale, kMostScale))
-            SetPropText(kPropPenScale, scale, 1);
-    }
-    if (wanted(IDC_LINE_STYLE_LIST)) {
-        unsigned int style = m_nStyle;
-        if (DDX_ConvertLStyle(0, &dx, style)) SetPropText(kPropPenStyle, style, 1);
-    }
-    if (wanted(IDC_SCALE_SYSTEM)) {
-        unsigned char system = kScalePaper;
-        DDX_CBScaleSystem(0, &dx, IDC_SCALE_SYSTEM, system);
-        if (system != kScaleMixed) SetPropText(kPropScaleSystem, system, 1);
-    }
-    if (wanted(IDC_PEN_ALIGNMENT))
-        SetPropCheck(kPropPenAlignment, CheckForPreview(&dx, IDC_PEN_ALIGNMENT, bAll, m_nLastAlignment), 1);
-
+    CarryToPreview(*this, Preview::kRows, bAll);
     // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);

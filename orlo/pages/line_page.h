@@ -1,5 +1,5 @@
 // The Pen page: colour, width with its scale system, dash scale, line style and alignment of the selected graphics. A width
-// that the host cannot write shows as a blank field and holds nobody up.
+// that the host cannot write shows as a blank field and does not keep the user on the page.
 #pragma once
 
 #include "orlo/export.h"
@@ -31,6 +31,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    struct Preview; // the rows of SetPreviewProperties
+
     void ExchangeWidth(CDataExchange* pDX);
     CString StyleName(unsigned int style) const;
 

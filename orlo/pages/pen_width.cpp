@@ -3,7 +3,9 @@
 #include "orlo/pages/pen_width.h"
 
 #include "orlo/binding/indeterminate.h"
+#include "orlo/controls/control_items.h"
 #include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/window_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
 #include "orlo/samples/pen_width_list.h"
@@ -12,30 +14,12 @@ namespace {
 
 constexpr char kSection[] = "PenWidths";
 
-// The selected item's text, or what is typed.
-CString ComboText(HWND combo) {
-    CString text;
-    const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
-    if (index == CB_ERR) {
-        CWnd::FromHandle(combo)->GetWindowText(text);
-        return text;
-    }
-    const LRESULT length = ::SendMessageA(combo, CB_GETLBTEXTLEN, index, 0);
-    if (length == CB_ERR) return text;
-    ::SendMessageA(combo, CB_GETLBTEXT, index,
-                   reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length) + 1)));
-    text.ReleaseBuffer();
-    return text;
-}
-
 void SelectText(HWND combo, const char* text) {
-    const auto item = reinterpret_cast<LPARAM>(text);
-    LRESULT index = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), item);
-    if (index == CB_ERR) index = ::SendMessageA(combo, CB_ADDSTRING, 0, item);
-    ::SendMessageA(combo, CB_SETCURSEL, index, 0);
+    const ControlItems items = ControlItems::OfCombo(combo);
+    items.Select(items.FindOrAdd(text));
 }
 
-// In silent mode 0; with bReport a beep, and it does not come back.
+// In silent mode 0; with bReport a beep, and it does not return.
 int Refuse(int bReport, CDataExchange* pDX) {
     if (bReport) {
         ::MessageBeep(MB_ICONWARNING);
@@ -65,12 +49,12 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
                    DrawingStruct* drawing) {
     const HWND combo = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
     if (pDX->m_bSaveAndValidate) {
-        const CString text = ComboText(combo);
+        const CString text = ShownText(combo);
         if (IsIndeterminateText(text)) return 1;
         return TextToPenWidth(drawing, scaleSystem, text, &value) ? 1 : Refuse(bReport, pDX);
     }
     if (IsIndeterminate(value)) {
-        SelectText(combo, kIndeterminateDisplay);
+        SelectText(combo, kIndeterminateStars);
         return 1;
     }
     char text[256];
@@ -99,7 +83,7 @@ int DDX_CBScaleSystem(int, CDataExchange* pDX, int nIDC, unsigned char& value) {
     const HWND combo = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
         const LRESULT index = ::SendMessageA(combo, CB_GETCURSEL, 0, 0);
-        value = index == 0 ? kScaleWorld : index == 1 ? kScalePaper : kScaleMixed;
+        value = index == 0 ? kScaleWorld : index == 1 ? kScalePaper : kScaleIndeterminate;
     } else {
         const int index = value == kScaleWorld ? 0 : value == kScalePaper ? 1 : -1;
         ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);

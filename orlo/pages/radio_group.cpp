@@ -1,4 +1,4 @@
-// CRadioGroup.
+// CRadioGroup: focus and arrow keys in a group of radio buttons.
 
 #include "orlo/pages/radio_group.h"
 
@@ -17,8 +17,8 @@ bool IsRadioButton(HWND window) {
 
 } // namespace
 
-// Null if the buttons are the last windows.
-HWND CRadioGroup::WindowBehind() const {
+// The window after the group; null if the buttons are the last windows.
+HWND CRadioGroup::WindowAfter() const {
     HWND window = m_hWnd;
     while (window != nullptr && IsRadioButton(window))
         window = ::GetWindow(window, GW_HWNDNEXT);
@@ -26,9 +26,9 @@ HWND CRadioGroup::WindowBehind() const {
 }
 
 bool CRadioGroup::IsAnyChecked() const {
-    const HWND behind = WindowBehind();
+    const HWND after = WindowAfter();
     bool checked = false;
-    for (HWND button = m_hWnd; button != behind && !checked; button = ::GetWindow(button, GW_HWNDNEXT))
+    for (HWND button = m_hWnd; button != after && !checked; button = ::GetWindow(button, GW_HWNDNEXT))
         checked = ::SendMessageA(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
     return checked;
 }
@@ -36,11 +36,11 @@ bool CRadioGroup::IsAnyChecked() const {
 void CRadioGroup::Exchange(CDataExchange* pDX, int nIDC) {
     if (pDX->m_bSaveAndValidate) return;
     if (m_hWnd == nullptr && !SubclassDlgItem(nIDC, pDX->m_pDlgWnd)) return;
-    if (const HWND behind = WindowBehind()) SetStyle(behind, StyleOf(behind) | WS_GROUP);
+    if (const HWND after = WindowAfter()) SetStyle(after, StyleOf(after) | WS_GROUP);
     if (!IsAnyChecked()) SetStyle(m_hWnd, StyleOf(m_hWnd) | WS_TABSTOP);
 }
 
-// While it takes the focus the button is a check box, which that does not click.
+// While it takes the focus the button is a check box, which the focus does not click.
 LRESULT CRadioGroup::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_SETFOCUS || IsAnyChecked()) return CButton::WindowProc(message, wParam, lParam);
     const LONG_PTR style = StyleOf(m_hWnd);

@@ -1,3 +1,5 @@
+// The name of the selected style beside its list.
+
 #include "orlo/pages/style_name.h"
 
 #include <cstring>

@@ -1,19 +1,20 @@
-// CTextPage.
+// CTextPage: exchange of font, height, style and justification, and the preview with the sample text.
 
 #include "orlo/pages/text_page.h"
 
-#include "orlo/binding/indeterminate.h"
 #include "orlo/controls/control_items.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
+#include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/window_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/owners.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
-#include "orlo/pages/mixed_value.h"
-#include "orlo/pages/passed_over.h"
+#include "orlo/pages/ignored_text.h"
+#include "orlo/pages/preview_rows.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CTextPage, CGraphicPropertyPage)
@@ -24,28 +25,7 @@ constexpr int kEffectBoxes[] = {IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC
 
 constexpr double kUsualSize = 8.0;
 constexpr int kFaceTextSize = 128;
-constexpr int kSizeTextSize = 256;
 constexpr double kSampleHeight = 2.0;
-
-// What a combo shows: its selected item, else its text.
-CString ShownText(HWND combo) {
-    char text[kSizeTextSize] = "";
-    const ControlItems items = ControlItems::OfCombo(combo);
-    const int selected = items.Selected();
-    if (selected == CB_ERR)
-        ::GetWindowTextA(combo, text, sizeof text);
-    else
-        items.GetText(selected, text, sizeof text);
-    return text;
-}
-
-// The item of that text, which joins the list if it is not there. One that only begins with it is another height.
-int FindOrAdd(const ControlItems& items, const CString& text) {
-    const int index = items.FindExact(text);
-    if (index != CB_ERR) return index;
-    items.Add(text);
-    return items.FindExact(text);
-}
 
 } // namespace
 
@@ -70,10 +50,10 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, kPropTextSize);
     DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize);
-    if (!IsMixed(m_dSize))
+    if (!IsNearlyIndeterminate(m_dSize))
         DDV_FontSize(1, pDX, m_dSize);
     else
-        TellPassedOver(*this, pDX, IDC_FONT_SIZE);
+        WarnOfIgnoredText(*this, pDX, IDC_FONT_SIZE);
 
     DDP_Bits(pDX, IDC_FONT_STYLE, m_wStyle, kPropTextStyle);
     DDX_CBFontStyle(1, pDX, IDC_FONT_STYLE, m_wStyle);
@@ -81,7 +61,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_TEXT_COLOR, m_dwColor, kPropPenColor);
     DDX_CBTableColor(1, pDX, IDC_TEXT_COLOR, m_dwColor);
 
-    // The first exchange comes before there is a status of controls to bind.
+    // The first exchange runs before the controls have a status to bind to.
     if (!m_bFirstExchange) {
         for (const int box : kEffectBoxes)
             DDP_TextSetAt(pDX, box, m_wStyle, kPropTextStyle);
@@ -108,7 +88,7 @@ void CTextPage::OnFontChange() {
     const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
     const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
     FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
-    sizeItems.Select(size.IsEmpty() ? selected : FindOrAdd(sizeItems, size));
+    sizeItems.Select(size.IsEmpty() ? selected : sizeItems.FindOrAdd(size));
 }
 
 void* CTextPage::CreatePreviewGraphic() {
@@ -123,31 +103,31 @@ void* CTextPage::CreatePreviewGraphic() {
     return graphic;
 }
 
-bool CTextPage::IsStyleWanted(int bAll) {
-    if (bAll || GetControlStatus(IDC_FONT_STYLE)) return true;
-    for (const int box : kEffectBoxes) {
-        if (GetControlStatus(static_cast<unsigned int>(box))) return true;
-    }
-    return false;
-}
+struct CTextPage::Preview {
+    static const PreviewRow<CTextPage> kRows[4];
+};
+
+const PreviewRow<CTextPage> CTextPage::Preview::kRows[] = {
+    {{IDC_FONT_FACE},
+     [](CTextPage& page, CDataExchange* pDX, int) {
+         if (DDX_CBString(0, pDX, IDC_FONT_FACE, page.m_strFont))
+             page.SetPropText(kPropTextFont, page.m_strFont, 1);
+     }},
+    {{IDC_TEXT_COLOR},
+     [](CTextPage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_TEXT_COLOR, kPropPenColor); }},
+    {{IDC_FONT_STYLE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX},
+     [](CTextPage& page, CDataExchange* pDX, int) {
+         if (DDX_CBFontStyle(0, pDX, IDC_FONT_STYLE, page.m_wStyle) &&
+             DDX_ChkBoxEffects(0, pDX, page.m_wStyle))
+             page.SetPropBits(kPropTextStyle, page.m_wStyle, 1);
+     }},
+    {{IDC_JUSTIFY_LEFT}, [](CTextPage& page, CDataExchange* pDX, int) {
+         if (DDX_Radio(0, pDX, IDC_JUSTIFY_LEFT, page.m_wFormat))
+             page.SetPropText(kPropTextFormat, page.m_wFormat, 1);
+     }}};
 
 void CTextPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CDataExchange dx(this, TRUE);
-
-    if (bAll || GetControlStatus(IDC_FONT_FACE)) {
-        if (DDX_CBString(0, &dx, IDC_FONT_FACE, m_strFont)) SetPropText(kPropTextFont, m_strFont, 1);
-    }
-    if (bAll || GetControlStatus(IDC_TEXT_COLOR)) {
-        unsigned long color = kIndeterminateId;
-        if (DDX_CBTableColor(0, &dx, IDC_TEXT_COLOR, color)) SetPropText(kPropPenColor, color, 1);
-    }
-    if (IsStyleWanted(bAll)) {
-        if (DDX_CBFontStyle(0, &dx, IDC_FONT_STYLE, m_wStyle) && DDX_ChkBoxEffects(0, &dx, m_wStyle))
-            SetPropBits(kPropTextStyle, m_wStyle, 1);
-    }
-    if (bAll || GetControlStatus(IDC_JUSTIFY_LEFT)) {
-        if (DDX_Radio(0, &dx, IDC_JUSTIFY_LEFT, m_wFormat)) SetPropText(kPropTextFormat, m_wFormat, 1);
-    }
+    CarryToPreview(*this, Preview::kRows, bAll);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

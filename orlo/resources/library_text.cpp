@@ -1,3 +1,5 @@
+// The texts of the library's own module.
+
 #include "orlo/resources/library_text.h"
 
 #include <afxwin.h>

@@ -36,7 +36,7 @@
 #define IDS_ENTER_POSITIVE 122
 #define IDS_ENTER_SCALE 123
 
-// What a host has not written: %d of %d graphics.
+// Graphics that the host has not changed: %d of %d.
 #define IDS_NOT_CHANGED 124
 
 // Caption of the property sheet.

@@ -1,3 +1,5 @@
+// The brush scale of a sample.
+
 #include "orlo/samples/hatch_scale.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// CPenWidthList.
+// CPenWidthList: reading a list and its aliases from the configuration file.
 
 #include "orlo/samples/pen_width_list.h"
 
@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kEntrySize = 256;
-constexpr int kMostAliases = 100; // a circle of aliases ends here
+constexpr int kMostAliases = 100; // limit for circular aliases
 constexpr char kAlias = '*';
 
 } // namespace

@@ -2,7 +2,6 @@
 // and the viewport in which the host draws it.
 #pragma once
 
-#include <initializer_list>
 #include <memory>
 #include <windows.h>
 
@@ -18,19 +17,6 @@ struct DisposeSampleGraphic {
 
 using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
 using SampleViewport = orlo::host::OwnedViewport;
-
-// Whether a vertex starts a stroke or continues the one before; Kept: as the vertex before it.
-enum class Stroke { Kept, Starts, Continues };
-
-struct SampleVertex {
-    double x, y; // drawing units
-    Stroke stroke;
-};
-
-// A vertex graphic in pen colour 0, built with the one vertex set anew each time; null if either cannot be
-// made.
-SampleGraphic MakeSampleGraphic(const orlo::host::OwnedVertex& vertex,
-                                std::initializer_list<SampleVertex> vertices);
 
 // Ties the sample to the drawing that owns the table of its styles; without a table unties it, so that a
 // drawing that the host closes is left in time. makeGraphic is called if the control has been given a table

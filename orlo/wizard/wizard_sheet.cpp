@@ -1,4 +1,4 @@
-// CWizardSheet.
+// CWizardSheet: window, layout and navigation.
 
 #include "orlo/wizard/wizard_sheet.h"
 
@@ -49,8 +49,8 @@ HWND ChildAround(HWND page, HWND control) {
     return control;
 }
 
-// Whether a field of the page stands behind that control in the order of the Tab key.
-bool HasFieldBehind(HWND page, HWND control) {
+// Whether a field of the page follows that control in the tab order.
+bool HasFieldAfter(HWND page, HWND control) {
     const HWND first = ::GetNextDlgTabItem(page, nullptr, FALSE), from = ChildAround(page, control);
     HWND next = ::GetNextDlgTabItem(page, from, FALSE);
     while (next != nullptr && next != first && next != from && IsPushButton(next))
@@ -58,8 +58,8 @@ bool HasFieldBehind(HWND page, HWND control) {
     return next != nullptr && next != first && next != from;
 }
 
-// A field of several lines takes every key, and gives this one to a default button of its own parent, the page, which has
-// none.
+// A multi-line field takes every key, and passes this one to the default button of its parent, the page, which has no such
+// button.
 bool TakesReturn(MSG& message) {
     const LRESULT code =
         ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
@@ -68,7 +68,7 @@ bool TakesReturn(MSG& message) {
     return (code & (DLGC_WANTALLKEYS | DLGC_WANTMESSAGE)) != 0;
 }
 
-// Whether that is the key of the default button: a button presses itself.
+// Whether the message is Return for the default button; a focused button handles it by itself.
 bool IsReturnForDefault(MSG& message) {
     return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && !IsPushButton(message.hwnd) &&
            !TakesReturn(message);
@@ -200,7 +200,7 @@ CWizardSheet::Row CWizardSheet::MeasureRow() {
     return row;
 }
 
-// At the right: Back and Next together, Cancel behind a gap.
+// At the right: Back and Next together, Cancel after a gap.
 void CWizardSheet::PlaceRow(const Row& row, int cxClient, int cyClient) {
     int x = cxClient - m_sizeTabMargin.cx - row.gaps - row.sum;
     const int y = cyClient - m_sizeButton.cy - m_sizeTabMargin.cy;
@@ -276,14 +276,14 @@ void CWizardSheet::ShowHeading() {
     ::SetDlgItemTextA(m_hWnd, kHeadingId, item.pszText);
 }
 
-// Tab row, heading and buttons follow the page that has come, and stay where it has not.
+// Tab row, heading and buttons change with the page, and stay if it refuses.
 bool CWizardSheet::MoveTo(int nPage) {
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
     ShowHeading();
     const CSize size = WindowSize(GetActivePage()->m_hWnd);
     if (size.cx < m_sizePages.cx || size.cy < m_sizePages.cy) RecalcWizardLayout();
-    // A system that takes the focus from a button which is disabled leaves the keyboard with nobody.
+    // A system that takes the focus from a disabled button leaves the keyboard without a window.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
     return true;
 }
@@ -306,14 +306,14 @@ LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
     return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
 }
 
-// The default button is Next. Return presses it, unless it would skip what the user has not read.
+// The default button is Next. Return presses it, unless that would skip fields that the user has not seen.
 BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
     const HWND page = GetActivePage() != nullptr ? GetActivePage()->m_hWnd : nullptr;
     if (m_bModeless || page == nullptr || !::IsChild(page, pMsg->hwnd) || !IsReturnForDefault(*pMsg))
         return CPropertySheet::PreTranslateMessage(pMsg);
-    const bool heldDown = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0; // since a page that nobody has seen
+    const bool heldDown = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0; // since an earlier page
     const bool finishes = m_nCurPage == GetPageCount() - 1;
-    if (!heldDown && (finishes || !HasFieldBehind(page, pMsg->hwnd))) OnNext();
+    if (!heldDown && (finishes || !HasFieldAfter(page, pMsg->hwnd))) OnNext();
     return TRUE;
 }
 

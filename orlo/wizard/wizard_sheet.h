@@ -1,23 +1,23 @@
-// A property sheet that is walked like a book: one page at a time by Back and Next, which is Finish on the last page. The
-// tab row is there, but hidden.
+// A property sheet that shows one page at a time, with Back and Next; Next is Finish on the last page. The tab row exists, but
+// is hidden.
 //
 //   CWizardSheet wizard("New style", pParent, 0);
 //   wizard.AddPage(&name);                        // pages are the host's, as in any sheet
 //   wizard.AddPage(&summary);
 //   if (wizard.DoModal() == IDOK) ...
 //
-// A page is left forwards and backwards only if its OnKillActive says so; one that refuses stays, with the buttons as they
-// were, and so does one whose successor cannot be made. Finish calls OnOK of all pages, the first one first, and then does
+// A page is left in either direction only if its OnKillActive agrees; one that refuses stays, with unchanged buttons, and so
+// does one whose successor cannot be created. Finish calls OnOK of all pages, the first one first, and then does
 // what OK does in every sheet: the last page is asked to be left, and gets its OnOK once more. A host that must not act
-// before the last page has agreed therefore acts behind DoModal, not in OnOK.
+// before the last page has agreed therefore acts after DoModal, not in OnOK.
 //
-// Next is the default button: Return goes on, but not while fields stand behind the one with the focus, which it would skip
-// unread; on the last page it finishes from any field. Held down it goes one step. Behind Next the focus is on the first field
-// of the page that has come.
+// Next is the default button: Return moves on, but not while fields follow the one with the focus, which it would skip; on the
+// last page it finishes from any field. Held down it moves one step. After Next the focus is on the first field of the new
+// page.
 //
-// The sheet is as large as the page that it opens on, and grows with a larger one. The caption of the page stands where the
+// The sheet is as large as the page that it opens on, and grows with a larger one. The caption of the page is where the
 // tabs would be. It opens with Back disabled and with "Next >", whatever page that is, until the first move. The buttons' texts
-// are strings 111 to 114: the host's, if it has them, else the library's, which are found behind PropPageInit. A modeless one
+// are strings 111 to 114: the host's, if it has them, else the library's, which are found after PropPageInit. A modeless one
 // has no buttons; its owner sends it the commands 100 (back) and 101 (next).
 #pragma once
 
@@ -37,11 +37,11 @@ public:
 protected:
     static constexpr int kTextSize = 256;
 
-    // A string up to its line feed, into kTextSize bytes. 0: there is none, or nothing before the line feed.
+    // A string up to its line feed, into kTextSize bytes. 0: the string is missing, or empty before the line feed.
     int LoadButtonText(UINT nID, char* pszBuffer);
-    // A button that has the focus gives it to the control nNewFocusID first, unless that is -1 or not there.
+    // A button that has the focus gives it to the control nNewFocusID first, unless that is -1 or missing.
     void EnableButton(HWND hWndSheet, int nID, BOOL bEnable, int nNewFocusID = -1);
-    // What the buttons are on that page.
+    // Texts and states of the buttons on that page.
     void SetButtonStates(int nPage);
     // 0 on failure.
     int CreateButtons();
@@ -69,7 +69,7 @@ private:
     int ButtonWidth(UINT nIDText);
     Row MeasureRow();
     void PlaceRow(const Row& row, int cxClient, int cyClient);
-    bool MoveTo(int nPage); // false: the page has stayed
+    bool MoveTo(int nPage); // false: the page stayed
     void ShowHeading();
 
     CSize m_sizePages; // width and height of the largest page so far

@@ -65,6 +65,9 @@ TEST_F(Graphics, WithoutThePropertyNothingIsMerged) {
     EXPECT_EQ(0, Merge<Double>(set, "Any", &width));
     EXPECT_EQ(0, Merge<Double>(ObjectSet(nullptr, 0, false), "Any", &width));
     EXPECT_EQ(-1, width);
+    unsigned short pair[] = {9, 9};
+    EXPECT_EQ(0, MergeBits(set, "Any", pair));
+    EXPECT_EQ(0, pair[0]);
 }
 
 TEST_F(Graphics, ADifferenceEndsTheWalk) {
@@ -110,7 +113,7 @@ TEST(Records, OfOneKeyAreAllKept) {
     const std::vector<char> memory(0x20001);
     CMapWordToOb records;
     const auto lay = [&](size_t offset, int nID) {
-        LayRecord(records, new CDDPRecord(Nothing, nID, const_cast<char*>(&memory[offset]), "Any"));
+        AddRecord(records, new CDDPRecord(Nothing, nID, const_cast<char*>(&memory[offset]), "Any"));
     };
     lay(0, 1);
     lay(0x10000, 2);

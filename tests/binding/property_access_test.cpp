@@ -30,24 +30,6 @@ TEST(Merge, OneGraphicGivesItsValueEvenIfItIsTheMarker) {
     });
 }
 
-// Each later graphic is compared with the first, by buckets; the first difference ends the walk.
-TEST(Merge, ComparesWithTheFirstAndStopsAtTheFirstDifference) {
-    GraphicKit kit;
-    kit.Add({{"Width", 1.0000000001}, {"Kind", 1}});
-    kit.Add({{"Width", 1.0000000002}, {"Kind", 2}});
-    kit.Add({{"Width", 1.0000000001}, {"Kind", 1}});
-    WithPage(kit, [&](ExchangePage& page) {
-        double width = 0;
-        EXPECT_EQ(1, page.GetPropText("Width", &width, 0));
-        EXPECT_EQ(1.0000000001, width);
-        unsigned int kind = 0;
-        kit[2].reads = 0;
-        EXPECT_EQ(1, page.GetPropText("Kind", &kind, 0));
-        EXPECT_TRUE(IsIndeterminate(kind));
-        EXPECT_EQ(0, kit[2].reads);
-    });
-}
-
 TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
     GraphicKit kit;
     kit.Add({{kPropInfo, ""}, {"Name", "a"}});
@@ -84,26 +66,6 @@ TEST(Merge, ChecksFoldOnlyAsInt) {
         EXPECT_EQ(0, kit[1].Number("On"));
         EXPECT_EQ(1, page.SetPropCheck("On", static_cast<unsigned short>(2), 0));
         EXPECT_EQ(2, kit[0].Number("On"));
-    });
-}
-
-TEST(Merge, BitsOfAllGraphicsJoinTheMask) {
-    GraphicKit kit;
-    kit.Add({{"Bits", 0b0101}});
-    kit.Add({{"Bits", 0b0101}});
-    kit.Add({{"Bits", 0b0110}});
-    kit.Add({{"Bits", 0b0001}});
-    WithPage(kit, [&](ExchangePage& page) {
-        unsigned short pair[2] = {9, 9};
-        EXPECT_EQ(1, page.GetPropBits("Bits", pair, 0));
-        EXPECT_EQ(0b0111, pair[0]);
-        EXPECT_EQ(0b0101, pair[1]);
-        unsigned short change[2] = {0b0011, 0b1000};
-        EXPECT_EQ(1, page.SetPropBits("Bits", change, 0));
-        EXPECT_EQ(0b1001, kit[0].Number("Bits"));
-        EXPECT_EQ(0b1010, kit[2].Number("Bits"));
-        EXPECT_EQ(0, page.GetPropBits("Nowhere", pair, 0));
-        EXPECT_EQ(0, pair[0]);
     });
 }
 

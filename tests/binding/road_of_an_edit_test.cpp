@@ -65,7 +65,7 @@ TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
     EXPECT_TRUE(kit[1].writes.empty());
 }
 
-TYPED_TEST(EditRoad, MixedValuesSurviveAnUntouchedPage) {
+TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
     GraphicKit kit;
     kit.Add({{kName, Sample<TypeParam>::A()}});
     kit.Add({{kName, Sample<TypeParam>::B()}});
@@ -81,22 +81,8 @@ TYPED_TEST(EditRoad, MixedValuesSurviveAnUntouchedPage) {
     EXPECT_TRUE(kit[1].properties[kName] == Sample<TypeParam>::B());
 }
 
-TYPED_TEST(EditRoad, AMissingPropertyKeepsTheDefaultAndWritesNothing) {
-    GraphicKit kit;
-    kit.Add({{"Other", 1}});
-    TypeParam member{};
-    TestSheet sheet(kit);
-    sheet.Add(InEdit(member));
-    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
-        EXPECT_FALSE(IsIndeterminate(member));
-        user.Type(kEdit, "42");
-        user.Ok();
-    }));
-    EXPECT_EQ(0, kit.Writes());
-}
-
-// A mixed field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
-TEST(MixedNumber, TypedOverReachesAllAndRestoredReachesNone) {
+// An indeterminate field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
+TEST(IndeterminateNumber, TypedOverReachesAllAndRestoredReachesNone) {
     for (const char* typed : {"3.5", "*****"}) {
         SCOPED_TRACE(typed);
         GraphicKit kit;
@@ -121,48 +107,34 @@ class CheckRoad : public ::testing::Test {};
 using CheckTypes = ::testing::Types<int, unsigned short>;
 TYPED_TEST_SUITE(CheckRoad, CheckTypes);
 
-template <class T>
-ExchangePage::Exchange InCheck(T& member) {
-    return [&member](CDataExchange* pDX) {
-        DDP_Check(pDX, kCheck, member, kName);
-        DDX_Check(1, pDX, kCheck, member);
-        DDP_PostProcessing(pDX);
-    };
-}
-
-TYPED_TEST(CheckRoad, MixedShowsTheThirdStateAndAClickWritesAll) {
-    for (const bool touched : {false, true}) {
+TYPED_TEST(CheckRoad, AClickWritesAllAndUntouchedNothing) {
+    const struct {
+        int values[2];
+        bool clicked;
+        int shown, written[2];
+    } rows[] = {{{1, 0}, false, BST_INDETERMINATE, {1, 0}},
+                {{1, 0}, true, BST_INDETERMINATE, {0, 0}}, // the third state gives way to unchecked
+                {{0, 0}, true, BST_UNCHECKED, {1, 1}}};
+    for (const auto& row : rows) {
         GraphicKit kit;
-        kit.Add({{kName, 1}});
-        kit.Add({{kName, 0}});
+        for (const int value : row.values)
+            kit.Add({{kName, value}});
         TypeParam member{};
         TestSheet sheet(kit);
-        sheet.Add(InCheck(member));
+        sheet.Add([&](CDataExchange* pDX) {
+            DDP_Check(pDX, kCheck, member, kName);
+            DDX_Check(1, pDX, kCheck, member);
+            DDP_PostProcessing(pDX);
+        });
         sheet.Run([&](SheetDriver& user) {
-            EXPECT_EQ(BST_INDETERMINATE, user.Check(kCheck));
-            if (touched) user.Click(kCheck); // the third state gives way to unchecked
+            EXPECT_EQ(row.shown, user.Check(kCheck));
+            if (row.clicked) user.Click(kCheck);
             user.Ok();
         });
-        EXPECT_EQ(touched ? 2 : 0, kit.Writes());
-        EXPECT_EQ(touched ? 0 : 1, kit[0].Number(kName));
-        EXPECT_EQ(0, kit[1].Number(kName));
+        EXPECT_EQ(row.clicked ? 2 : 0, kit.Writes());
+        for (size_t i : {0, 1})
+            EXPECT_EQ(row.written[i], kit[i].Number(kName));
     }
-}
-
-TYPED_TEST(CheckRoad, AClearBoxIsCheckedInAll) {
-    GraphicKit kit;
-    kit.Add({{kName, 0}});
-    kit.Add({{kName, 0}});
-    TypeParam member{};
-    TestSheet sheet(kit);
-    sheet.Add(InCheck(member));
-    sheet.Run([&](SheetDriver& user) {
-        EXPECT_EQ(BST_UNCHECKED, user.Check(kCheck));
-        user.Click(kCheck);
-        user.Ok();
-    });
-    EXPECT_EQ(1, kit[0].Number(kName));
-    EXPECT_EQ(1, kit[1].Number(kName));
 }
 
 template <class T>
@@ -182,7 +154,7 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
     });
     sheet.Run([&](SheetDriver& user) {
         for (int id = kRadio; id < kRadio + 3; ++id)
-            EXPECT_EQ(0, user.Check(id)); // mixed: none
+            EXPECT_EQ(0, user.Check(id)); // differing: none
         user.Click(kRadio + 2);
         EXPECT_EQ(1, page.GetControlStatus(kRadio));
         EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));

@@ -1,4 +1,4 @@
-// The colour control: the order of its list, its swatches by pixel, and what filling and drawing cost.
+// The colour control: the order of its list, and its swatches by pixel.
 
 #include "control_dialog.h"
 
@@ -7,11 +7,6 @@
 #include <random>
 
 #include "orlo/controls/color_control.h"
-#include "orlo/controls/color_order.h"
-#include "orlo/controls/text_height.h"
-#include "support/object_counts.h"
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
 
 namespace {
 
@@ -109,8 +104,8 @@ TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
 TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     Add("Red", RGB(255, 0, 0));
     m_control.AddString("FFFFFFFF\tnever found");
-    EXPECT_EQ(-1, m_control.FindColor(kColorMixed));
-    FillColors(kColorMixed);
+    EXPECT_EQ(-1, m_control.FindColor(kColorIndeterminate));
+    FillColors(kColorIndeterminate);
     EXPECT_EQ(-1, m_control.GetCurSel());
     FillColors(RGB(1, 2, 3));
     EXPECT_EQ(-1, m_control.GetCurSel());
@@ -142,32 +137,6 @@ TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
     EXPECT_EQ("00090909\tgrey", std::string(first));
 }
 
-// ---- What it costs
-
-TEST_F(ColorControl, TenThousandColorsAreDrawnOnlyAsFarAsTheyShow) {
-    std::mt19937 random(5);
-    for (int i = 0; i < 10000; ++i)
-        Add("c" + std::to_string(i), random() & 0xFFFFFF);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = m_dialog.measured = 0;
-    FillColors();
-    Pump();
-    EXPECT_EQ(10001, m_control.GetCount());
-    EXPECT_GE(2, m_dialog.drawn) << "at most the closed field";
-    for (int i = 1; i < 10000; ++i)
-        ASSERT_LE(CompareHSVforRGBs(Color(i - 1), Color(i)), 0);
-
-    m_control.SizeDropDown();
-    m_dialog.drawn = 0;
-    m_control.ShowDropDown();
-    Pump();
-    const int rows = 320 / GetOwnerDrawFixedTextHeight(m_control.m_hWnd);
-    EXPECT_LE(rows / 2, m_dialog.drawn);
-    EXPECT_GE(3 * rows, m_dialog.drawn);
-    m_control.ShowDropDown(FALSE);
-}
-
 // ---- Drawing, by pixel
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -177,11 +146,8 @@ const RECT kField = {10, 20, 110, 36}; // closed
 
 class Swatch : public ColorControl {
 protected:
-    void Draw(UINT item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0) {
-        m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {ODT_COMBOBOX,     IDC_COLOR,     item, action, state,
-                                  m_control.m_hWnd, m_pixels.DC(), rect, 0};
-        m_control.DrawItem(&request);
+    void Draw(int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0) {
+        m_pixels.Draw(m_control, item, rect, action, state);
     }
     void DrawOnly(DWORD color, const char* name, const RECT& rect = kRow) {
         m_control.ResetContent();
@@ -194,8 +160,8 @@ protected:
         return {rect.left + 20, rect.top + 2, rect.right - 20, rect.bottom - 2};
     }
 
-    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
-    Pixels m_pixels{120, 60};
+    static constexpr COLORREF kUntouched = DrawnPixels::kUntouched;
+    DrawnPixels m_pixels{120, 60};
 };
 
 TEST_F(Swatch, ColorFillsTheRowAndTheNameContrasts) {
@@ -245,18 +211,15 @@ TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
 
 TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
     FillColors(0x00123456);
-    Draw(static_cast<UINT>(-1), kField);
+    Draw(-1, kField);
     EXPECT_EQ(RGB(0x56, 0x34, 0x12), m_pixels.At(12, 22));
     EXPECT_LT(10, m_pixels.Count(Middle(kField), kWhite)) << "its numbers";
     EXPECT_EQ(kWhite, m_pixels.At(50, 18)) << "the border of the field is covered";
     EXPECT_EQ(kUntouched, m_pixels.At(50, 17));
-}
-
-TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
-    for (const DWORD none : {kColorNone, kColorMixed}) {
+    for (const DWORD none : {kColorNone, kColorIndeterminate}) {
         FillColors(none);
-        Draw(static_cast<UINT>(-1), kField);
-        EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite));
+        Draw(-1, kField);
+        EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite)) << "empty without a value";
     }
 }
 
@@ -264,8 +227,8 @@ TEST_F(Swatch, TheClosedFieldIsEmptyWithoutAValue) {
 TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     const COLORREF yellow = RGB(255, 255, 0);
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
-    FillColors(kColorMixed);
-    Draw(static_cast<UINT>(-1), kField);
+    FillColors(kColorIndeterminate);
+    Draw(-1, kField);
     EXPECT_EQ(100 * 16, m_pixels.Count(kField, kBlack));
     DrawOnly(kColorByLayer, "");
     EXPECT_LT(100, m_pixels.Count(kRow, yellow)) << "the label";
@@ -308,7 +271,7 @@ TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {
     int objects = 0;
     for (int round = 0; round < 200; ++round) {
         if (round == 20) objects = GdiObjectCount();
-        for (UINT item = 0; item < 3; ++item)
+        for (int item = 0; item < 3; ++item)
             Draw(item, kRow, ODA_DRAWENTIRE, ODS_FOCUS);
     }
     EXPECT_EQ(objects, GdiObjectCount());

@@ -12,36 +12,23 @@
 
 namespace {
 
-struct HsvRow {
-    const char* name;
-    double r, g, b, h, s, v;
-};
-
-const HsvRow kHsv[] = {
-    {"RedIsAtTheUpperEnd", 1, 0, 0, 1, 1, 1}, {"Yellow", 1, 1, 0, 1 / 6.0, 1, 1},
-    {"Green", 0, 1, 0, 2 / 6.0, 1, 1},        {"Cyan", 0, 1, 1, 0.5, 1, 1},
-    {"Blue", 0, 0, 1, 4 / 6.0, 1, 1},         {"Magenta", 1, 0, 1, 5 / 6.0, 1, 1},
-    {"Grey", 0.5, 0.5, 0.5, 0, 0, 0.5},       {"Black", 0, 0, 0, 0, 0, 0},
-    {"Pale", 1, 0.5, 0.5, 1, 0.5, 1},         {"DarkOrange", 0.5, 0.25, 0, 0.5 / 6, 1, 0.5},
-};
-
-class Hsv : public ::testing::TestWithParam<HsvRow> {};
-
-TEST_P(Hsv, ThereAndBack) {
-    const HsvRow& row = GetParam();
-    double h, s, v, r, g, b;
-    RGB_to_HSV(row.r, row.g, row.b, &h, &s, &v);
-    EXPECT_DOUBLE_EQ(row.h, h);
-    EXPECT_DOUBLE_EQ(row.s, s);
-    EXPECT_DOUBLE_EQ(row.v, v);
-    HSV_to_RGB(h, s, v, &r, &g, &b);
-    EXPECT_NEAR(row.r, r, 1e-12);
-    EXPECT_NEAR(row.g, g, 1e-12);
-    EXPECT_NEAR(row.b, b, 1e-12);
+TEST(HsvValues, OfKnownColors) {
+    const struct {
+        double r, g, b, h, s, v;
+    } rows[] = {
+        {1, 0, 0, 1, 1, 1}, // red is at the upper end
+        {1, 1, 0, 1 / 6.0, 1, 1}, {0, 1, 0, 2 / 6.0, 1, 1}, {0, 1, 1, 0.5, 1, 1},
+        {0, 0, 1, 4 / 6.0, 1, 1}, {1, 0, 1, 5 / 6.0, 1, 1}, {0.5, 0.5, 0.5, 0, 0, 0.5},
+        {0, 0, 0, 0, 0, 0},       {1, 0.5, 0.5, 1, 0.5, 1}, {0.5, 0.25, 0, 0.5 / 6, 1, 0.5},
+    };
+    for (const auto& row : rows) {
+        double h, s, v;
+        RGB_to_HSV(row.r, row.g, row.b, &h, &s, &v);
+        EXPECT_DOUBLE_EQ(row.h, h);
+        EXPECT_DOUBLE_EQ(row.s, s);
+        EXPECT_DOUBLE_EQ(row.v, v);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Colors, Hsv, ::testing::ValuesIn(kHsv),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(HsvValues, ComeBackForEveryColor) {
     std::mt19937 random(7);
@@ -68,35 +55,27 @@ TEST(HsvValues, OutOfRangeGiveColorsInRange) {
     }
 }
 
-struct OrderRow {
-    const char* name;
-    DWORD first, second;
-    int order;
-};
-
-const OrderRow kOrders[] = {
-    {"Same", 0xFF, 0xFF, 0},
-    {"BlackBeforeDarkGrey", 0, RGB(1, 1, 1), -1},
-    {"GreysByValue", RGB(200, 200, 200), RGB(90, 90, 90), 1},
-    {"WhiteBeforeAnyHue", 0xFFFFFF, RGB(2, 2, 0), -1},
-    {"RedBehindMagenta", RGB(255, 0, 0), RGB(255, 0, 255), 1},
-    {"ValueBeforeSaturation", RGB(200, 0, 0), RGB(255, 128, 128), -1},
-    {"SaturationLast", RGB(255, 128, 128), RGB(255, 0, 0), -1},
-    {"BlackBeforeAMarker", 0, kColorByLayer, -1},
-    {"MarkersByNumber", kColorByLayer, kColorOfPen, 1},
-    {"MarkerCountsAsBlack", kColorByLayer, 0x00808080, -1},
-};
-
-class Order : public ::testing::TestWithParam<OrderRow> {};
-
-TEST_P(Order, HoldsBothWays) {
-    const OrderRow& row = GetParam();
-    EXPECT_EQ(row.order, CompareHSVforRGBs(row.first, row.second));
-    EXPECT_EQ(-row.order, CompareHSVforRGBs(row.second, row.first));
+TEST(ColorOrder, HoldsBothWays) {
+    const struct {
+        DWORD first, second;
+        int order;
+    } rows[] = {
+        {0xFF, 0xFF, 0},
+        {0, RGB(1, 1, 1), -1},
+        {RGB(200, 200, 200), RGB(90, 90, 90), 1}, // greys by value
+        {0xFFFFFF, RGB(2, 2, 0), -1},             // white before any hue
+        {RGB(255, 0, 0), RGB(255, 0, 255), 1},    // red after magenta
+        {RGB(200, 0, 0), RGB(255, 128, 128), -1}, // value before saturation
+        {RGB(255, 128, 128), RGB(255, 0, 0), -1}, // saturation last
+        {0, kColorByLayer, -1},                   // markers count as black, and by number
+        {kColorByLayer, kColorOfPen, 1},
+        {kColorByLayer, 0x00808080, -1},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.order, CompareHSVforRGBs(row.first, row.second)) << std::hex << row.first;
+        EXPECT_EQ(-row.order, CompareHSVforRGBs(row.second, row.first)) << std::hex << row.first;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Colors, Order, ::testing::ValuesIn(kOrders),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 // A total order: sorting relies on it, and so does the equality of sorted and inserted lists.
 TEST(ColorOrder, IsTotal) {

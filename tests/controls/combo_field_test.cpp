@@ -3,9 +3,6 @@
 
 #include "control_dialog.h"
 
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
-
 namespace {
 
 class ComboField : public ControlDialog {
@@ -21,14 +18,8 @@ protected:
             Get<CComboControl>(id).AddString("Mmm");
     }
     using Picture = std::vector<COLORREF>;
-    // times: a field is drawn again over what it shows.
-    Picture Draw(int id, UINT state, UINT action = ODA_DRAWENTIRE, int times = 1, UINT item = 0) {
-        CComboControl& control = Get<CComboControl>(id);
-        m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {ODT_COMBOBOX,   static_cast<UINT>(id), item,   action, state,
-                                  control.m_hWnd, m_pixels.DC(),         kField, 0};
-        for (int i = 0; i < times; ++i)
-            control.DrawItem(&request);
+    Picture Draw(int id, UINT state, UINT action = ODA_DRAWENTIRE, int times = 1, int item = 0) {
+        m_pixels.Draw(Get<CComboControl>(id), item, kField, action, state, times);
         Picture picture;
         for (int y = kField.top; y < kField.bottom; ++y)
             for (int x = kField.left; x < kField.right; ++x)
@@ -46,17 +37,15 @@ protected:
         EXPECT_LE(50, Differences(plain, focused)) << id;
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn whole";
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2)) << id;
-        const UINT none = static_cast<UINT>(-1);
-        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, none), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, none))
+        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, -1), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, -1))
             << id;
         Draw(id, ODS_DISABLED);
         EXPECT_LE(5, m_pixels.Count(kField, ::GetSysColor(COLOR_GRAYTEXT))) << id;
         EXPECT_LE(800, m_pixels.Count(kField, ::GetSysColor(COLOR_3DFACE))) << id;
     }
 
-    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
     static constexpr RECT kField = {10, 10, 110, 26};
-    Pixels m_pixels{120, 40};
+    DrawnPixels m_pixels{120, 40};
 };
 
 TEST_F(ComboField, ShowsTheFocusAndThatItIsDisabled) {

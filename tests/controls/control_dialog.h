@@ -10,6 +10,9 @@
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/list_control.h"
 #include "orlo/entry/entry.h"
+#include "support/object_counts.h"
+#include "support/pixels.h"
+#include "support/scheme_colors.h"
 #include "support/test_drawing.h"
 
 // Gets what controls tell the application.
@@ -64,6 +67,30 @@ protected:
         CDialog::OnMeasureItem(nIDCtl, item);
     }
     DECLARE_MESSAGE_MAP()
+};
+
+// A picture of what a control draws for one request; what it leaves alone keeps a colour of its own.
+class DrawnPixels : public Pixels {
+public:
+    static constexpr COLORREF kUntouched = RGB(1, 2, 3);
+    static constexpr int kNoItem = -1;
+
+    using Pixels::Pixels;
+    // times: drawn again over what is there.
+    template <class Control>
+    void Draw(Control& control, int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0,
+              int times = 1) {
+        Clear(kUntouched);
+        DRAWITEMSTRUCT request = {0,    1, static_cast<UINT>(item), action, state, control.m_hWnd, DC(),
+                                  rect, 0};
+        for (int i = 0; i < times; ++i)
+            control.DrawItem(&request);
+    }
+    // Pixels that are neither the background nor untouched.
+    int Ink(const RECT& rect, int background = COLOR_WINDOW) const {
+        const COLORREF back = ::GetSysColor(background);
+        return CountWhere(rect, [=](COLORREF c) { return c != back && c != kUntouched; });
+    }
 };
 
 class ControlDialog : public ::testing::Test {

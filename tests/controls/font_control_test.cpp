@@ -12,8 +12,6 @@
 #include "orlo/controls/font_face_control.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_control.h"
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
 
 namespace {
 
@@ -43,15 +41,23 @@ protected:
         ::DeleteFileA(m_ini.c_str());
     }
     TableStruct* Units() const { return m_drawing.Get()->pUnits; }
+    void FillFrom(TableStruct* table, CWnd& control, UINT_PTR value = 0, unsigned selected = 0) {
+        const ControlFillRecord record = {table, value, selected};
+        control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+    }
     void FillFaces(const char* face, unsigned selected) {
-        const ControlFillRecord record = {Units(), reinterpret_cast<UINT_PTR>(face), selected};
-        m_faces.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+        FillFrom(Units(), m_faces, reinterpret_cast<UINT_PTR>(face), selected);
     }
     void FillSizes(float size, unsigned selected = 1) {
         uint32_t bits;
         std::memcpy(&bits, &size, sizeof bits);
-        const ControlFillRecord record = {Units(), bits, selected};
-        m_sizes.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+        FillFrom(Units(), m_sizes, bits, selected);
+    }
+    // What the control makes of the text; 77 is left alone.
+    double HeightOf(const char* text) {
+        double value = 77.0;
+        m_sizes.ReConvertFontSize(text, value);
+        return value;
     }
     std::string Shown() const {
         char text[64] = "";
@@ -104,21 +110,17 @@ TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
         EXPECT_EQ(installed, m_faces.GetCount());
         EXPECT_EQ(-1, m_faces.GetCurSel());
     }
-    const ControlFillRecord noTable = {nullptr, 0, 0};
-    m_faces.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&noTable));
+    FillFrom(nullptr, m_faces);
     EXPECT_EQ(installed, m_faces.GetCount()) << "faces need no table";
 }
 
 TEST_F(Fonts, SizesInTheWorldAreNumbersOfTheDrawing) {
     TableSetStringVar(Units(), kUnitDrawing, "cm");
     FillSizes(5.0f);
-    double value = 0.0;
     const double expected[] = {2.5, 3.5, 5};
     ASSERT_EQ(3, m_sizes.GetCount()) << "a size that comes twice stands once, and 5 is in the list";
-    for (int i = 0; i < 3; ++i) {
-        m_sizes.ReConvertFontSize(Texts(m_sizes)[static_cast<size_t>(i)].c_str(), value);
-        EXPECT_NEAR(expected[i], value, 1e-9);
-    }
+    for (size_t i = 0; i < 3; ++i)
+        EXPECT_NEAR(expected[i], HeightOf(Texts(m_sizes)[i].c_str()), 1e-9);
     EXPECT_EQ(Texts(m_sizes)[2], Shown());
     EXPECT_EQ(-1, m_sizes.GetCurSel()) << "a closed combo shows the height without selecting an item";
 
@@ -137,7 +139,7 @@ TEST_F(Fonts, WithoutASizeOrAFontNothingIsShown) {
     const struct {
         float size;
         unsigned selected;
-    } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, kEntryMixed}};
+    } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, kEntryIndeterminate}};
     for (const auto& row : rows) {
         FillSizes(row.size, row.selected);
         EXPECT_EQ(3, m_sizes.GetCount());
@@ -163,38 +165,24 @@ TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
     }
     FillSizesOf("System");
     ASSERT_LE(1, m_sizes.GetCount()) << "a bitmap font has the sizes that it has";
-    double value = 0.0;
-    m_sizes.ReConvertFontSize(Texts(m_sizes)[0].c_str(), value);
-    EXPECT_LT(0.0, value);
-}
-
-TEST_F(Fonts, ARasterFontIsAsHighAsItsLettersInPoints) {
-    FillSizes(0.0f);
+    EXPECT_LT(0.0, HeightOf(Texts(m_sizes)[0].c_str()));
     TEXTMETRICA metrics = {};
     metrics.tmHeight = 20;
     metrics.tmInternalLeading = 2;
     CString text;
     m_sizes.RasterSizeText(metrics, text);
-    double value = 0.0;
-    m_sizes.ReConvertFontSize(text, value);
-    EXPECT_NEAR(6.35, value, 1e-6);
+    EXPECT_NEAR(6.35, HeightOf(text), 1e-6) << "as high as its letters in points";
 }
 
 TEST_F(Fonts, ATextThatIsNoHeightLeavesTheValue) {
     FillSizes(0.0f);
-    for (const char* text : {"", "high", "5 mm x", "1e999"}) {
-        double value = 77.0;
-        m_sizes.ReConvertFontSize(text, value);
-        EXPECT_EQ(77.0, value) << text;
-    }
+    for (const char* text : {"", "high", "5 mm x", "1e999"})
+        EXPECT_EQ(77.0, HeightOf(text)) << text;
     m_sizes.m_nCoordSpace = 2;
-    double value = 77.0;
-    m_sizes.ReConvertFontSize("5", value);
-    EXPECT_EQ(77.0, value) << "a device has no lengths";
+    EXPECT_EQ(77.0, HeightOf("5")) << "a device has no lengths";
 }
 
 TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
-    FillSizes(5.0f);
     ASSERT_TRUE(DrawingSetCoordSpace(m_drawing.Get(), 2)); // a device has no lengths
     FillSizes(5.0f);
     for (const std::string& text : Texts(m_sizes))
@@ -205,13 +193,10 @@ TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
 
 TEST_F(Fonts, NothingIsKeptOfADrawingThatIsTakenAway) {
     FillSizes(5.0f);
-    const ControlFillRecord noTable = {nullptr, 0, 0};
-    m_sizes.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&noTable));
+    FillFrom(nullptr, m_sizes);
     m_drawing.Close();
     EXPECT_EQ(nullptr, m_sizes.m_pDrawing);
-    double value = 77.0;
-    m_sizes.ReConvertFontSize("5", value);
-    EXPECT_EQ(77.0, value);
+    EXPECT_EQ(77.0, HeightOf("5"));
     CString text("before");
     m_sizes.FontSizeText(5.0, text);
     EXPECT_TRUE(text.IsEmpty());
@@ -237,14 +222,11 @@ TEST_F(Fonts, TheIdentifierChoosesTheList) {
 TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
     FillFaces(nullptr, 0);
     FillSizes(5.0f);
-    Pixels pixels(120, 40);
+    DrawnPixels pixels(120, 40);
     const RECT row = {0, 10, 100, 30};
     const int area = 100 * 20;
     const auto draw = [&](CComboControl& control, int item, UINT state) {
-        pixels.Clear(RGB(9, 9, 9));
-        DRAWITEMSTRUCT request = {
-            0, 1, static_cast<UINT>(item), ODA_DRAWENTIRE, state, control.m_hWnd, pixels.DC(), row, 0};
-        control.DrawItem(&request);
+        pixels.Draw(control, item, row, ODA_DRAWENTIRE, state);
     };
     for (CComboControl* const control :
          {static_cast<CComboControl*>(&m_faces), static_cast<CComboControl*>(&m_sizes)}) {
@@ -255,11 +237,11 @@ TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
         EXPECT_LT(area / 2, pixels.Count(row, ::GetSysColor(COLOR_HIGHLIGHT)));
         control->m_nSelected = 5;
         draw(*control, -1, ODS_FOCUS);
-        EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9))) << "there is no name at hand";
+        EXPECT_EQ(area, pixels.Count(row, DrawnPixels::kUntouched)) << "there is no name at hand";
         control->m_nSelected = 0;
     }
     draw(m_faces, -1, 0);
-    EXPECT_EQ(area, pixels.Count(row, RGB(9, 9, 9)));
+    EXPECT_EQ(area, pixels.Count(row, DrawnPixels::kUntouched));
     draw(m_sizes, -1, 0);
     EXPECT_EQ(area, pixels.Count(row, ::GetSysColor(COLOR_WINDOW)));
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}});

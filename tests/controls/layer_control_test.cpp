@@ -1,4 +1,4 @@
-// The layer control: icons, names and colours of its rows, and lists of ten thousand layers.
+// The layer control: icons, names and colours of its rows.
 
 #include "control_dialog.h"
 
@@ -6,12 +6,10 @@
 
 #include "orlo/controls/layer_control.h"
 #include "orlo/exchange/ddx_control.h"
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
 
 namespace {
 
-const COLORREF kUntouched = RGB(1, 2, 3);
+const COLORREF kUntouched = DrawnPixels::kUntouched;
 const RECT kRow = {0, 8, 140, 24};
 const RECT kAll = {0, 0, 150, 60};
 
@@ -25,16 +23,11 @@ protected:
         return id;
     }
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
-        m_pixels.Clear(kUntouched);
-        DRAWITEMSTRUCT request = {
-            0, IDC_LAYER, static_cast<UINT>(item), action, state, m_control.m_hWnd, m_pixels.DC(), rect, 0};
-        m_control.DrawItem(&request);
+        m_pixels.Draw(m_control, item, rect, action, state);
     }
-    // Pixels of a column of the row that are neither background nor untouched.
+    // In a column of the row.
     int InkFrom(int left, int right, int background = COLOR_WINDOW) const {
-        const COLORREF back = ::GetSysColor(background);
-        return m_pixels.CountWhere({left, 0, right, 60},
-                                   [=](COLORREF c) { return c != back && c != kUntouched; });
+        return m_pixels.Ink({left, 0, right, 60}, background);
     }
     int Index(uint16_t id) {
         char name[kItemTextSize];
@@ -45,7 +38,7 @@ protected:
 
     TableStruct* m_table;
     CLayerControl& m_control;
-    Pixels m_pixels{150, 60};
+    DrawnPixels m_pixels{150, 60};
 };
 
 TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
@@ -113,7 +106,7 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     Draw(-1);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
     EXPECT_LT(30, InkFrom(16, 32));
-    for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryMixed}, 0xFFFFFFFFu}) {
+    for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryIndeterminate}, 0xFFFFFFFFu}) {
         m_control.m_nSelected = none;
         Draw(-1);
         EXPECT_EQ(0, InkFrom(0, 140)) << none;
@@ -146,10 +139,7 @@ TEST_F(Layers, ASubclassedWindowHasItsIcons) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
     const ControlFillRecord record = {m_table, 0, id};
     control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
-    m_pixels.Clear(kUntouched);
-    DRAWITEMSTRUCT request = {
-        0, 2, static_cast<UINT>(-1), ODA_DRAWENTIRE, 0, control.m_hWnd, m_pixels.DC(), kRow, 0};
-    control.DrawItem(&request);
+    m_pixels.Draw(control, -1, kRow);
     EXPECT_LT(30, InkFrom(0, 16));
     control.DestroyWindow();
 }
@@ -166,29 +156,6 @@ TEST_F(Layers, RowsFitIconAndFont) {
     EXPECT_LE(48u, measure.itemHeight);
     m_control.SendMessage(WM_SETFONT, 0, 0);
     ::DeleteObject(large);
-}
-
-// Each layer is asked for once, and only what can be seen is drawn.
-TEST_F(Layers, TenThousandAreMeasuredOnceAndDrawnWhereVisible) {
-    for (int i = 0; i < 10000; ++i)
-        TableEntryAdd(m_table, ("layer " + std::to_string(i)).c_str(), nullptr);
-    m_dialog.ShowWindow(SW_SHOW);
-    Pump();
-    m_dialog.drawn = m_dialog.measured = 0;
-    Fill(IDC_LAYER, m_table, 9000);
-    Pump();
-    EXPECT_EQ(10001, m_control.GetCount());
-    EXPECT_EQ(8999, m_control.GetCurSel());
-    EXPECT_GE(10001, m_dialog.measured);
-    EXPECT_GE(3, m_dialog.drawn) << "the closed field";
-
-    m_dialog.drawn = 0;
-    m_control.SizeDropDown();
-    m_control.ShowDropDown(TRUE);
-    Pump();
-    EXPECT_LE(2, m_dialog.drawn);
-    EXPECT_GE(3 * (320 / 16), m_dialog.drawn);
-    m_control.ShowDropDown(FALSE);
 }
 
 } // namespace

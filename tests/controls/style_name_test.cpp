@@ -3,8 +3,6 @@
 #include "control_dialog.h"
 
 #include "orlo/controls/style_name_control.h"
-#include "support/pixels.h"
-#include "support/scheme_colors.h"
 
 namespace {
 
@@ -62,20 +60,11 @@ TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
     ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
                                CRect(0, 0, 120, 100), &m_host, 1));
     control.AddString("Zebra");
-    Pixels pixels(120, 40);
+    DrawnPixels pixels(120, 40);
+    const RECT all = {0, 0, 120, 40};
     const auto ink = [&](int item, int left, UINT state = 0) {
-        pixels.Clear(RGB(9, 9, 9));
-        DRAWITEMSTRUCT request = {0,
-                                  1,
-                                  static_cast<UINT>(item),
-                                  ODA_DRAWENTIRE,
-                                  state,
-                                  control.m_hWnd,
-                                  pixels.DC(),
-                                  {left, 10, 100, 30},
-                                  0};
-        control.DrawItem(&request);
-        return pixels.Count({0, 0, 120, 40}, ::GetSysColor(COLOR_WINDOWTEXT));
+        pixels.Draw(control, item, {left, 10, 100, 30}, ODA_DRAWENTIRE, state);
+        return pixels.Count(all, ::GetSysColor(COLOR_WINDOWTEXT));
     };
     EXPECT_EQ(0, ink(-1, 3));
     EXPECT_LT(2 * 100 + 20, ink(0, 0)) << "frame and name";
@@ -83,10 +72,10 @@ TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
     ink(0, 3);
     EXPECT_EQ(RGB(0, 0, 0), pixels.At(2, 9)) << "the closed field is covered with its border";
     ink(0, 0, ODS_SELECTED);
-    EXPECT_LT(200, pixels.Count({0, 0, 120, 40}, ::GetSysColor(COLOR_HIGHLIGHT))) << "the current row";
+    EXPECT_LT(200, pixels.Count(all, ::GetSysColor(COLOR_HIGHLIGHT))) << "the current row";
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
     EXPECT_LT(2 * 100 + 20, ink(0, 0));
-    EXPECT_LT(1000, pixels.Count({0, 0, 120, 40}, RGB(0, 0, 0)));
+    EXPECT_LT(1000, pixels.Count(all, RGB(0, 0, 0)));
     control.DestroyWindow();
 }
 

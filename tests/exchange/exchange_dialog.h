@@ -7,11 +7,15 @@
 #include <string>
 
 #include "exchange.h"
+#include "orlo/entry/entry.h"
 #include "support/message_box_watcher.h"
 
 class ExchangeDialog : public ::testing::Test {
 protected:
-    ExchangeDialog() { EXPECT_TRUE(m_dialog.Create(IDD_EXCHANGE)); }
+    explicit ExchangeDialog(UINT nIDTemplate = IDD_EXCHANGE) {
+        PropPageInit();
+        EXPECT_TRUE(m_dialog.Create(nIDTemplate));
+    }
     ~ExchangeDialog() override { m_dialog.DestroyWindow(); }
 
     HWND Control(int id) const { return ::GetDlgItem(m_dialog.m_hWnd, id); }
@@ -30,6 +34,11 @@ protected:
         return text;
     }
 
+    static std::string Prompt(UINT nID) {
+        CString text;
+        text.LoadString(nID);
+        return std::string(text);
+    }
     // Whether the exchange was ended by Fail.
     template <class Exchange>
     static bool Refused(Exchange exchange) {

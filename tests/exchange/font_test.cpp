@@ -1,13 +1,10 @@
 // Exchange of font values: style, height and effects.
 
-#include <afxwin.h>
-#include <gtest/gtest.h>
+#include "exchange_dialog.h"
 
 #include <cmath>
 
-#include "exchange.h"
 #include "orlo/controls/font_size_control.h"
-#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_font.h"
 #include "support/test_drawing.h"
 
@@ -16,46 +13,17 @@ namespace {
 constexpr int kEffectBoxes[] = {103, 104, 105, 106, 107};
 constexpr unsigned short kEffectBits[] = {0x0004, 0x0008, 0x0040, 0x0100, 0x1000};
 
-class FontExchange : public ::testing::Test {
+class FontExchange : public ExchangeDialog {
 protected:
-    FontExchange() {
-        PropPageInit();
-        EXPECT_TRUE(m_dialog.Create(IDD_FONTS));
-    }
-    ~FontExchange() override { m_dialog.DestroyWindow(); }
+    FontExchange() : ExchangeDialog(IDD_FONTS) {}
 
-    LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-        return ::SendMessageA(::GetDlgItem(m_dialog.m_hWnd, id), message, wParam, lParam);
-    }
-    CFontSizeControl& Sizes() {
-        return *static_cast<CFontSizeControl*>(
-            CWnd::FromHandlePermanent(::GetDlgItem(m_dialog.m_hWnd, IDC_FONT_SIZE)));
-    }
     void FillSizes() {
         const ControlFillRecord record = {m_drawing.Get()->pUnits, 0, 0};
         TableSetStringVar(m_drawing.Get()->pUnits, kUnitFontName, "Nobody's Face");
-        Send(IDC_FONT_SIZE, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
-    }
-    std::string SizeText() {
-        char text[64] = "";
-        ::GetDlgItemTextA(m_dialog.m_hWnd, IDC_FONT_SIZE, text, sizeof text);
-        return text;
-    }
-    template <class Exchange>
-    static bool Refused(Exchange exchange) {
-        try {
-            exchange();
-        } catch (CUserException* exception) {
-            exception->Delete();
-            return true;
-        }
-        return false;
+        Send(IDC_FONT_SIZE, kFillMessage, 0, &record);
     }
 
     TestDrawing m_drawing;
-    CDialog m_dialog;
-    CDataExchange m_save{&m_dialog, TRUE};
-    CDataExchange m_load{&m_dialog, FALSE};
 };
 
 TEST_F(FontExchange, TheStyleComboShowsTheTwoLowestBits) {
@@ -97,26 +65,19 @@ TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
     }
 }
 
-TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerMixed) {
+TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
     for (size_t i = 0; i < 5; ++i) {
-        const unsigned short bit = kEffectBits[i];
-        unsigned short style[] = {0xFFFF, 0};
-        DDX_ChkBoxEffects(1, &m_load, style);
-        Send(kEffectBoxes[i], BM_SETCHECK, BST_CHECKED);
-        DDX_ChkBoxEffects(1, &m_save, style);
-        EXPECT_EQ(0xFFFF & ~bit, style[0]);
-        EXPECT_EQ(bit, style[1]);
-
-        style[0] = 0xFFFF;
-        style[1] = 0xFFFF;
-        DDX_ChkBoxEffects(1, &m_load, style);
-        Send(kEffectBoxes[i], BM_SETCHECK, BST_UNCHECKED);
-        DDX_ChkBoxEffects(1, &m_save, style);
-        EXPECT_EQ(0xFFFF & ~bit, style[0]);
-        EXPECT_EQ(0xFFFF & ~bit, style[1]);
-
-        style[0] = 0; // the user clicks on into the third state of an effect that is not mixed
-        style[1] = bit;
+        const unsigned short bit = kEffectBits[i], rest = 0xFFFF & ~bit;
+        for (const bool on : {true, false}) {
+            unsigned short style[] = {0xFFFF, static_cast<unsigned short>(on ? 0 : 0xFFFF)};
+            DDX_ChkBoxEffects(1, &m_load, style);
+            Send(kEffectBoxes[i], BM_SETCHECK, on);
+            DDX_ChkBoxEffects(1, &m_save, style);
+            EXPECT_EQ(rest, style[0]);
+            EXPECT_EQ(on ? bit : rest, style[1]);
+        }
+        unsigned short style[] = {
+            0, bit}; // the user clicks on into the third state of an effect in which the texts agree
         DDX_ChkBoxEffects(1, &m_load, style);
         Send(kEffectBoxes[i], BM_CLICK);
         ASSERT_EQ(BST_INDETERMINATE, Send(kEffectBoxes[i], BM_GETCHECK));
@@ -138,18 +99,18 @@ TEST_F(FontExchange, AHeightIsShownAndReadBack) {
     }
     EXPECT_EQ(3, Send(IDC_FONT_SIZE, CB_GETCOUNT)) << "each joins once";
 
-    double mixed = HUGE_VAL;
-    const std::string before = SizeText();
-    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, mixed));
-    EXPECT_EQ(before, SizeText()) << "a mixed value leaves the control";
+    double indeterminate = HUGE_VAL;
+    const std::string before = Text(IDC_FONT_SIZE);
+    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, indeterminate));
+    EXPECT_EQ(before, Text(IDC_FONT_SIZE)) << "an indeterminate value leaves the control";
 
     double size = 7.0;
     Send(IDC_FONT_SIZE, CB_SETCURSEL, static_cast<WPARAM>(-1));
-    m_dialog.SetDlgItemText(IDC_FONT_SIZE, "4.75");
+    SetText(IDC_FONT_SIZE, "4.75");
     DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size);
     EXPECT_NEAR(4.75, size, 1e-9) << "a typed text";
     for (const char* none : {"", "tall", "5 and a half"}) {
-        m_dialog.SetDlgItemText(IDC_FONT_SIZE, none);
+        SetText(IDC_FONT_SIZE, none);
         size = 7.0;
         EXPECT_EQ(1, DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size));
         EXPECT_EQ(HUGE_VAL, size) << none;

@@ -2,9 +2,6 @@
 
 #include "exchange_dialog.h"
 
-#include <cmath>
-
-#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_scale.h"
 #include "orlo/resources/resource.h"
 #include "support/test_drawing.h"
@@ -64,25 +61,19 @@ TEST_F(ScaleExchange, ATypedScaleTakesOverTheTextOfAnEqualItem) {
     EXPECT_EQ("1 : 7", Text(IDC_COMBO));
 }
 
-TEST_F(ScaleExchange, WhatIsNoScaleIsRefused) {
-    PropPageInit();
+TEST_F(ScaleExchange, WithoutAScaleItIsRefused) {
     SetText(IDC_COMBO, "large");
     CString text;
     double scale = 3.0;
     EXPECT_EQ(0, DDX_CBScale(0, &m_save, IDC_COMBO, text, m_units, &scale));
     MessageBoxWatcher boxes;
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale); }));
-    CString expected;
-    expected.LoadString(IDS_ENTER_SCALE);
-    EXPECT_EQ(std::string(expected), boxes.OnlyText());
+    EXPECT_EQ(Prompt(IDS_ENTER_SCALE), boxes.OnlyText());
     EXPECT_EQ(3.0, scale);
     EXPECT_EQ(0, Count());
-}
-
-TEST_F(ScaleExchange, NothingToLoadIsAFailure) {
-    CString text;
+    text.Empty(); // nothing to load
+    boxes.Forget();
     EXPECT_EQ(0, DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr));
-    MessageBoxWatcher boxes;
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
     EXPECT_TRUE(boxes.Boxes().empty()) << "the caller has not asked the user anything";
 }

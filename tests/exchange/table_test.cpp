@@ -49,16 +49,11 @@ TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
     EXPECT_EQ(1, FillListBoxTable(&list, m_table, 2));
     EXPECT_EQ(2, FillListBoxTable(&list, m_table, 3));
     EXPECT_EQ("Zinc;Amber;first;Zinc\tfirst;Amber;", Items(IDC_LIST));
-    list.Detach();
-}
-
-TEST_F(TableExchange, NamesTooLongForAPlainControlAreCut) {
     Add(std::string(200, 'n').c_str());
-    CComboBox combo;
-    combo.Attach(Control(IDC_COMBO));
-    FillComboTable(&combo, m_table, 0);
-    EXPECT_GE(64u, Items(IDC_COMBO).size());
-    combo.Detach();
+    list.ResetContent();
+    FillListBoxTable(&list, m_table, 1);
+    EXPECT_GE(64u + 11, Items(IDC_LIST).size()) << "a name that is too long is cut";
+    list.Detach();
 }
 
 TEST_F(TableExchange, LinesOfAStringAreItems) {
@@ -122,7 +117,7 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
     const struct {
         unsigned long color;
         int index;
-    } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorMixed, -1}, {0x00123456, -1}};
+    } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorIndeterminate, -1}, {0x00123456, -1}};
     for (const auto& row : rows) {
         unsigned long value = row.color;
         EXPECT_EQ(1, DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value));
@@ -131,9 +126,6 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
         DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, value);
         EXPECT_EQ(row.index < 0 ? 0x77 : row.color, value);
     }
-}
-
-TEST_F(TableExchange, ATextWithoutKeyIsColorZero) {
     SetText(IDC_COMBO, "no key");
     unsigned long color = 5;
     DDX_CBTableColor(1, &m_save, IDC_COMBO, color);
@@ -142,9 +134,10 @@ TEST_F(TableExchange, ATextWithoutKeyIsColorZero) {
 
 TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     const uint16_t first = Add("Walls"), second = Add("Doors");
+    unsigned int value = first;
+    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "a plain combo";
     CComboControl control(kControlStyleNames);
     control.SubclassWindow(Control(IDC_COMBO));
-    unsigned int value = first;
     EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "no table yet";
     EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value); }));
 
@@ -171,7 +164,7 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     SetText(IDC_COMBO, "");
     value = kIndeterminateId;
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(kIndeterminateId, value) << "a mixed value survives";
+    EXPECT_EQ(kIndeterminateId, value) << "an indeterminate value survives";
 
     // The host closes the drawing: its table answers as an empty one.
     m_drawing.Close();
@@ -179,12 +172,6 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
     EXPECT_EQ(0u, value);
     control.UnsubclassWindow();
-}
-
-TEST_F(TableExchange, APlainComboHasNoTableToLookInto) {
-    unsigned int value = 1;
-    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value));
-    EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value); }));
 }
 
 } // namespace

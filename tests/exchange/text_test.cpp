@@ -9,84 +9,6 @@
 
 namespace {
 
-// ---- Whole numbers
-
-enum class Width { Byte, Int, Word, UInt };
-
-struct WholeRow {
-    const char* name;
-    Width width;
-    const char* typed;
-    bool read;
-    long long value;
-};
-
-const WholeRow kWholes[] = {
-    {"BlanksAround", Width::Int, " \t12  ", true, 12},
-    {"LeadingZeros", Width::Int, "007", true, 7},
-    {"Zero", Width::Int, "0", true, 0},
-    {"Negative", Width::Int, "-5", true, -5},
-    {"BeyondTheRangeGivesTheLimit", Width::Int, "99999999999", true, 2147483647},
-    {"LetterBehind", Width::Int, "12a", false, 0},
-    {"TwoNumbers", Width::Int, "1 2", false, 0},
-    {"Fraction", Width::Int, "1.5", false, 0},
-    {"Empty", Width::Int, "", false, 0},
-    {"Blanks", Width::Int, "  \t ", false, 0},
-    {"LoneSign", Width::Int, "-", false, 0},
-    {"SignedZero", Width::Int, "+0", false, 0},
-    {"Indeterminate", Width::Int, "*****", false, 0},
-    {"Text31Characters", Width::Int, "0000000000000000000000000000012", true, 12},
-    {"TextBeyond31CharactersIsNotLookedAt", Width::Int, "0000000000000000000000000000012x", true, 12},
-    {"LargestByte", Width::Byte, "255", true, 255},
-    {"AboveAByte", Width::Byte, "256", false, 0},
-    {"NegativeByteWraps", Width::Byte, "-1", true, 255},
-    {"WordKeepsLowBits", Width::Word, "65537", true, 1},
-    {"NegativeWordWraps", Width::Word, "-1", true, 65535},
-    {"LargestUnsigned", Width::UInt, "4294967295", true, 4294967295},
-    {"NegativeUnsignedWraps", Width::UInt, "-1", true, 4294967295},
-};
-
-class WholeText : public ExchangeDialog, public ::testing::WithParamInterface<WholeRow> {
-protected:
-    template <class Whole>
-    void Check(UINT prompt) {
-        const WholeRow& row = GetParam();
-        SetText(IDC_EDIT, row.typed);
-        Whole value = 77;
-        EXPECT_EQ(row.read, DDX_Text(0, &m_save, IDC_EDIT, value));
-        EXPECT_EQ(row.read ? static_cast<Whole>(row.value) : Whole{77}, value);
-        if (row.read) return;
-        MessageBoxWatcher boxes;
-        EXPECT_TRUE(Refused([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
-        EXPECT_EQ(Whole{77}, value);
-        CString expected;
-        expected.LoadString(prompt);
-        EXPECT_EQ(std::string(expected), boxes.OnlyText());
-    }
-};
-
-TEST_P(WholeText, IsReadOrRefused) {
-    switch (GetParam().width) {
-    case Width::Byte:
-        Check<unsigned char>(AFX_IDP_PARSE_BYTE);
-        break;
-    case Width::Int:
-        Check<int>(AFX_IDP_PARSE_INT);
-        Check<long>(AFX_IDP_PARSE_INT);
-        break;
-    case Width::Word:
-        Check<unsigned short>(AFX_IDP_PARSE_UINT);
-        break;
-    case Width::UInt:
-        Check<unsigned int>(AFX_IDP_PARSE_UINT);
-        Check<unsigned long>(AFX_IDP_PARSE_UINT);
-        break;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Typed, WholeText, ::testing::ValuesIn(kWholes),
-                         [](const auto& row) { return std::string(row.param.name); });
-
 class TextExchange : public ExchangeDialog {
 protected:
     template <class Value>
@@ -94,7 +16,55 @@ protected:
         EXPECT_EQ(1, DDX_Text(1, &m_load, IDC_EDIT, value));
         return Text(IDC_EDIT);
     }
+    template <class Value>
+    void ExpectRead(std::initializer_list<std::pair<const char*, Value>> rows) {
+        for (const auto& [typed, expected] : rows) {
+            SetText(IDC_EDIT, typed);
+            Value value = 77;
+            EXPECT_EQ(1, DDX_Text(0, &m_save, IDC_EDIT, value)) << typed;
+            EXPECT_EQ(expected, value) << typed;
+        }
+    }
+    // In silence the variable becomes `left`; otherwise it stays, and the user reads the prompt.
+    template <class Value>
+    void ExpectRefused(UINT prompt, std::initializer_list<const char*> rows, Value left = 77) {
+        for (const char* typed : rows) {
+            SCOPED_TRACE(typed);
+            SetText(IDC_EDIT, typed);
+            Value value = 77;
+            EXPECT_EQ(0, DDX_Text(0, &m_save, IDC_EDIT, value));
+            EXPECT_EQ(left, value);
+            value = 77;
+            MessageBoxWatcher boxes;
+            EXPECT_TRUE(Refused([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
+            EXPECT_EQ(Value{77}, value);
+            EXPECT_EQ(Prompt(prompt), boxes.OnlyText());
+        }
+    }
 };
+
+// ---- Whole numbers
+
+TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
+    ExpectRead<int>({{" \t12  ", 12},
+                     {"007", 7},
+                     {"0", 0},
+                     {"-5", -5},
+                     {"99999999999", 2147483647}, // the limit
+                     {"0000000000000000000000000000012", 12},
+                     {"0000000000000000000000000000012x", 12}}); // beyond 31 characters nothing counts
+    ExpectRead<long>({{"-5", -5}});
+    ExpectRead<unsigned char>({{"255", 255}, {"-1", 255}});
+    ExpectRead<unsigned short>({{"65537", 1}, {"-1", 65535}}); // the low 16 bits
+    ExpectRead<unsigned int>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
+    ExpectRead<unsigned long>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
+    ExpectRefused<int>(AFX_IDP_PARSE_INT, {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****"});
+    ExpectRefused<long>(AFX_IDP_PARSE_INT, {"12a"});
+    ExpectRefused<unsigned char>(AFX_IDP_PARSE_BYTE, {"256", "x"});
+    ExpectRefused<unsigned short>(AFX_IDP_PARSE_UINT, {"x"});
+    ExpectRefused<unsigned int>(AFX_IDP_PARSE_UINT, {"x"});
+    ExpectRefused<unsigned long>(AFX_IDP_PARSE_UINT, {"x"});
+}
 
 TEST_F(TextExchange, WholeNumbersAreShownInTheirRange) {
     EXPECT_EQ("255", Shown<unsigned char>(255));
@@ -129,55 +99,13 @@ TEST_F(TextExchange, ALongTextGoesThroughWhole) {
 
 // ---- Real numbers
 
-struct RealRow {
-    const char* name;
-    const char* typed;
-    bool read;
-    float value;
-};
-
-const RealRow kReals[] = {
-    {"Plain", "2.5", true, 2.5f},
-    {"BlanksAround", "  -3.25\t", true, -3.25f},
-    {"Zero", "0", true, 0.0f},
-    {"ZeroWithFraction", "0.000", true, 0.0f},
-    {"Exponent", "1e5", true, 1e5f},
-    {"NotWrittenAsAZero", ".0", false, 0},
-    {"Empty", "", false, 0},
-    {"Blanks", "   ", false, 0},
-    {"Word", "wide", false, 0},
-    {"UnitBehind", "2.5 mm", false, 0},
-    {"TwoPoints", "1.2.3", false, 0},
-    {"BeyondAFloat", "1e39", false, 0},
-    {"BeyondADouble", "1e999", false, 0},
-    {"MarkerAndMore", "******", false, 0},
-};
-
-class RealText : public ExchangeDialog, public ::testing::WithParamInterface<RealRow> {};
-
-TEST_P(RealText, IsReadOrRefused) {
-    const RealRow& row = GetParam();
-    SetText(IDC_EDIT, row.typed);
-    float single = 77.0f;
-    double value = 77.0;
-    EXPECT_EQ(row.read, DDX_Text(0, &m_save, IDC_EDIT, single));
-    EXPECT_EQ(row.read, DDX_Text(0, &m_save, IDC_EDIT, value));
-    EXPECT_EQ(row.read ? row.value : 77.0f, single);
-    // A double that cannot be read in silence becomes 0.
-    EXPECT_EQ(row.read ? row.value : 0.0, value);
-    if (row.read) return;
-
-    MessageBoxWatcher boxes;
-    value = 77.0;
-    EXPECT_TRUE(Refused([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
-    EXPECT_EQ(77.0, value);
-    CString expected;
-    expected.LoadString(AFX_IDP_PARSE_REAL);
-    EXPECT_EQ(std::string(expected), boxes.OnlyText());
+TEST_F(TextExchange, RealNumbersAreReadOrRefused) {
+    ExpectRead<float>({{"2.5", 2.5f}, {"  -3.25\t", -3.25f}, {"0", 0.0f}, {"0.000", 0.0f}, {"1e5", 1e5f}});
+    ExpectRead<double>({{"2.5", 2.5}, {"0", 0.0}, {"1e5", 1e5}});
+    const auto refused = {".0", "", "   ", "wide", "2.5 mm", "1.2.3", "1e39", "1e999", "******"};
+    ExpectRefused<float>(AFX_IDP_PARSE_REAL, refused);
+    ExpectRefused<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // what cannot be read in silence becomes 0
 }
-
-INSTANTIATE_TEST_SUITE_P(Typed, RealText, ::testing::ValuesIn(kReals),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {
     const auto hasExponent = [this](double value) {
@@ -211,7 +139,7 @@ TEST_F(TextExchange, ShownNumbersReadBack) {
     }
 }
 
-TEST_F(TextExchange, TheMarkerOfAMixedValueSurvivesAnUntouchedField) {
+TEST_F(TextExchange, TheIndeterminateMarkerSurvivesAnUntouchedField) {
     double value = HUGE_VAL;
     EXPECT_EQ("*****", Shown(value));
     for (const int bReport : {0, 1}) {

@@ -2,7 +2,6 @@
 
 #include "exchange_dialog.h"
 
-#include "orlo/entry/entry.h"
 #include "orlo/exchange/ddx_button.h"
 #include "orlo/exchange/ddx_variable.h"
 #include "orlo/resources/resource.h"
@@ -15,7 +14,7 @@ constexpr unsigned long kLong = 0x12340000ul | kVariable; // only the low half c
 
 class VariableExchange : public ExchangeDialog {
 protected:
-    VariableExchange() : m_table(m_drawing.Get()->pUnits) { PropPageInit(); }
+    VariableExchange() : m_table(m_drawing.Get()->pUnits) {}
 
     double Real() const {
         double value = -99.0;
@@ -41,32 +40,30 @@ protected:
     TableStruct* m_table;
 };
 
-TEST_F(VariableExchange, RealNumbersAreCheckedAndWritten) {
+TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
     EXPECT_EQ(1, DDX_TextVarNumeric(1, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
     EXPECT_EQ("0", Text(IDC_EDIT)) << "no such variable";
-    SetText(IDC_EDIT, "2.5");
-    EXPECT_EQ(1, DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5));
-    EXPECT_EQ(2.5, Real());
-    SetText(IDC_EDIT, "6");
-    EXPECT_EQ(0, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 1, 5));
+    const struct {
+        const char* typed;
+        double min, max;
+        int saved;
+        double real; // what is then stored
+    } rows[] = {{"2.5", 1, 5, 1, 2.5}, {"6", 1, 5, 0, 2.5}, {"6", 0, 0, 1, 6.0}, {"six", 5, 1, 0, 6.0}};
+    for (const auto& row : rows) {
+        SetText(IDC_EDIT, row.typed);
+        EXPECT_EQ(row.saved, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, row.min, row.max));
+        EXPECT_EQ(row.real, Real()) << row.typed;
+    }
     MessageBoxWatcher boxes;
     EXPECT_TRUE(Refused([&] { DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5); }));
-    EXPECT_EQ(2.5, Real());
     EXPECT_EQ(1u, boxes.Boxes().size());
-    EXPECT_EQ(1, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0)) << "equal limits are none";
-    EXPECT_EQ(6.0, Real());
-    SetText(IDC_EDIT, "six");
-    EXPECT_EQ(0, DDX_TextVarNumeric(0, &m_save, IDC_EDIT, m_table, kLong, 5, 1));
-    EXPECT_EQ(6.0, Real());
     EXPECT_EQ(1, DDX_TextVarNumeric(0, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
     EXPECT_EQ("6", Text(IDC_EDIT));
-}
 
-TEST_F(VariableExchange, WholeNumbersAreCheckedAndWritten) {
     SetText(IDC_EDIT, "-12");
     EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 100));
-    EXPECT_EQ(-99, Whole());
-    EXPECT_EQ(1, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0));
+    EXPECT_EQ(-99, Whole()) << "no whole number";
+    EXPECT_EQ(1, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0)) << "without limits";
     EXPECT_EQ(-12, Whole());
     SetText(IDC_EDIT, "1.5");
     EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0));
@@ -115,9 +112,7 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
     {
         MessageBoxWatcher boxes;
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 2, 0); }));
-        CString expected;
-        expected.LoadString(AFX_IDP_PARSE_REAL);
-        EXPECT_EQ(std::string(expected), boxes.OnlyText()) << "without limits";
+        EXPECT_EQ(Prompt(AFX_IDP_PARSE_REAL), boxes.OnlyText()) << "without limits";
     }
     EXPECT_EQ(0, exchange(0, m_save, 0, 2));
     EXPECT_NEAR(1.0, Real(), 1e-12);

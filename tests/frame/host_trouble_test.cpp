@@ -4,18 +4,13 @@
 
 #include <stdexcept>
 
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
+#include "frame/width_page.h"
 #include "support/message_box_watcher.h"
-#include "support/test_sheet.h"
 
 namespace {
 
 using Thrower = void (*)();
 
-void ThrowFrameworks() {
-    AfxThrowNotSupportedException();
-}
 void ThrowStandard() {
     throw std::runtime_error("no disk");
 }
@@ -23,19 +18,16 @@ void ThrowStandard() {
 constexpr struct {
     Thrower fail;
     const char* text;
-} kFailures[] = {{ThrowFrameworks, "This is not possible here."}, {ThrowStandard, "no disk"}};
+} kFailures[] = {{AfxThrowNotSupportedException, "This is not possible here."}, {ThrowStandard, "no disk"}};
 
-class BadDrawing : public ExchangePage {
-public:
-    explicit BadDrawing(Thrower fail) : ExchangePage([](CDataExchange*) {}), m_fail(fail) {}
+struct BadDrawing : ExchangePage {
+    explicit BadDrawing(Thrower thrower) : ExchangePage([](CDataExchange*) {}), fail(thrower) {}
     void DrawPreview(CDC*, void*, CRect&) override {
         ++drawn;
-        m_fail();
+        fail();
     }
+    Thrower fail;
     int drawn = 0;
-
-private:
-    Thrower m_fail;
 };
 
 TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
@@ -54,17 +46,6 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
         EXPECT_EQ(failure.text, boxes.OnlyText());
     }
 }
-
-struct WidthPage {
-    explicit WidthPage(TestSheet& sheet) {
-        sheet.Add([this](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
-    }
-    double width = 0;
-};
 
 // A page that cannot be read does not come up, and may be tried again.
 TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
@@ -102,14 +83,11 @@ TEST(HostTrouble, ASheetWhoseFirstPageCannotBeReadOpensOnTheNext) {
     }));
 }
 
-class PreviewOfAnother : public ExchangePage {
-public:
-    explicit PreviewOfAnother(GraphicStruct* member)
-        : ExchangePage([](CDataExchange*) {}), m_member(member) {}
-    void* CreatePreviewGraphic() override { return m_member; }
-
-private:
-    GraphicStruct* m_member;
+struct PreviewOfAnother : ExchangePage {
+    explicit PreviewOfAnother(GraphicStruct* graphic)
+        : ExchangePage([](CDataExchange*) {}), member(graphic) {}
+    void* CreatePreviewGraphic() override { return member; }
+    GraphicStruct* member;
 };
 
 // The reference database takes no graphic that is a member already.

@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
+#include "frame/width_page.h"
 #include "support/message_box_watcher.h"
-#include "support/test_sheet.h"
 
 #include <commctrl.h>
 
@@ -14,19 +12,14 @@ namespace {
 
 class Keyboard : public ::testing::Test {
 protected:
-    Keyboard() : sheet((kit.Add({{"Width", 1.0}}), kit)) {
-        sheet.Add([this](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
+    Keyboard() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet) {
         sheet.Add([](CDataExchange*) {}, kWordsPage);
     }
     HWND Tabs() { return sheet.Sheet().GetTabControl()->m_hWnd; }
 
     GraphicKit kit;
     TestSheet sheet;
-    double width = 0;
+    WidthPage width;
 };
 
 TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {

@@ -4,22 +4,13 @@
 
 #include <string>
 
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
-#include "support/test_sheet.h"
+#include "frame/width_page.h"
 
 namespace {
 
 // A page that shows one number and one list, and follows its edit in the preview.
-struct Fixture : ::testing::Test {
-    Fixture() {
-        kit.Add({{"Width", 1.0}});
-        sheet = std::make_unique<TestSheet>(kit);
-        page = &sheet->Add([this](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
+struct PageLife : ::testing::Test {
+    PageLife() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), page(&width.page) {
         page->hasPreview = true;
     }
 
@@ -29,15 +20,13 @@ struct Fixture : ::testing::Test {
     }
 
     GraphicKit kit;
-    std::unique_ptr<TestSheet> sheet;
+    TestSheet sheet;
+    WidthPage width;
     ExchangePage* page;
-    double width = 0;
 };
 
-using PageLife = Fixture;
-
 TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         EXPECT_EQ(0, page->IsModified());
         EXPECT_EQ(0, page->GetControlStatus(kEdit));
         EXPECT_EQ(std::vector<int>{1}, page->previewCalls);
@@ -45,47 +34,33 @@ TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
     });
 }
 
-struct Notice {
-    const char* name;
-    int id, code;
-    bool change; // marks the control
-    bool end;    // tells the end of an edit, on a dirty control of a modified page
-};
-
-constexpr Notice kNotices[] = {
-    {"EditChange", kEdit, EN_CHANGE, true, false},
-    {"EditUpdate", kEdit, EN_UPDATE, false, false},
-    {"EditKillFocus", kEdit, EN_KILLFOCUS, false, true},
-    {"ButtonClicked", kCheck, BN_CLICKED, true, true},
-    {"ButtonDoubleClicked", kCheck, BN_DOUBLECLICKED, true, true},
-    {"ButtonSetFocus", kCheck, BN_SETFOCUS, false, false},
-    {"ComboEditChange", kCombo, CBN_EDITCHANGE, true, false},
-    {"ComboSelChange", kCombo, CBN_SELCHANGE, true, false},
-    {"ComboSelEndOk", kCombo, CBN_SELENDOK, true, true},
-    {"ComboSelEndCancel", kCombo, CBN_SELENDCANCEL, false, true},
-    {"ComboDropDown", kCombo, CBN_DROPDOWN, false, false},
-    {"ListSelChange", kList, LBN_SELCHANGE, true, true},
-    {"ListDoubleClick", kList, LBN_DBLCLK, false, false},
-};
-
 TEST_F(PageLife, NotificationsMarkByTheTables) {
-    sheet->Run([&](SheetDriver& user) {
-        for (const Notice& notice : kNotices) {
-            SCOPED_TRACE(notice.name);
-            page->SetControlStatus(notice.id, 0);
+    const struct {
+        int id, code;
+        bool change; // marks the control
+    } rows[] = {
+        {kEdit, EN_CHANGE, true},          {kEdit, EN_UPDATE, false},        {kEdit, EN_KILLFOCUS, false},
+        {kCheck, BN_CLICKED, true},        {kCheck, BN_DOUBLECLICKED, true}, {kCheck, BN_SETFOCUS, false},
+        {kCombo, CBN_EDITCHANGE, true},    {kCombo, CBN_SELCHANGE, true},    {kCombo, CBN_SELENDOK, true},
+        {kCombo, CBN_SELENDCANCEL, false}, {kCombo, CBN_DROPDOWN, false},    {kList, LBN_SELCHANGE, true},
+        {kList, LBN_DBLCLK, false},
+    };
+    sheet.Run([&](SheetDriver& user) {
+        for (const auto& row : rows) {
+            page->SetControlStatus(row.id, 0);
             page->SetModifiedFlag(0);
             page->previewCalls.clear();
-            Send(user, notice.id, notice.code);
-            EXPECT_EQ(notice.change, page->GetControlStatus(notice.id) != 0);
-            EXPECT_EQ(notice.change, page->IsModified() != 0);
-            EXPECT_EQ(notice.change, !page->previewCalls.empty());
+            Send(user, row.id, row.code);
+            EXPECT_EQ(row.change, page->GetControlStatus(row.id) != 0) << row.id << " " << row.code;
+            EXPECT_EQ(row.change, page->IsModified() != 0) << row.id << " " << row.code;
+            EXPECT_EQ(row.change, !page->previewCalls.empty()) << row.id << " " << row.code;
         }
     });
 }
 
 // The end of an edit tells the sheet, but renews no preview: that has followed each change.
 TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all
         EXPECT_EQ(0, page->IsModified());
         user.Type(kEdit, "2");
@@ -98,7 +73,7 @@ TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
 }
 
 TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Click(kRadio + 1);
         EXPECT_EQ(1, page->GetControlStatus(kRadio));
         EXPECT_EQ(0, page->GetControlStatus(kRadio + 1));
@@ -107,24 +82,22 @@ TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
     });
 }
 
-TEST_F(PageLife, IgnoredControlsChangeNothing) {
+TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
     page->IgnoreApply(kOtherEdit);
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Type(kOtherEdit, "x");
         EXPECT_EQ(0, page->IsModified());
         EXPECT_EQ(0, page->GetControlStatus(kOtherEdit));
-    });
-}
-
-TEST_F(PageLife, ControlsWithoutARowReadAsDirtyAndCannotBeSet) {
-    sheet->Run([&](SheetDriver&) {
-        EXPECT_EQ(1, page->GetControlStatus(9999));
+        EXPECT_EQ(1, page->GetControlStatus(9999)) << "no such control";
         EXPECT_EQ(0, page->SetControlStatus(9999, 1));
+        kit[0].properties["Width"].number = 8;
+        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0); // a refresh that has not been asked for
+        EXPECT_EQ("1", user.Text(kEdit));
     });
 }
 
 TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         user.Type(kEdit, "5");
         EXPECT_EQ(1, kit[0].Number("Width"));
         user.SelectPage(0);
@@ -138,14 +111,6 @@ TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
     EXPECT_EQ(8, kit[0].Number("Width")); // Cancel writes nothing further and undoes nothing
 }
 
-TEST_F(PageLife, TheRefreshCommandReloadsOnlyWhenAsked) {
-    sheet->Run([&](SheetDriver& user) {
-        kit[0].properties["Width"].number = 8;
-        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0);
-        EXPECT_EQ("1", user.Text(kEdit));
-    });
-}
-
 // The selection stays as it is through any number of previews; only graphics of the group are written.
 TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
     page->onPreview = [&](ExchangePage& self, int) {
@@ -154,7 +119,7 @@ TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
         if (DDX_Text(0, &save, kEdit, value)) self.SetPropText(kPropPenWidth, value, 1);
     };
     kit[0].properties[kPropPenWidth] = 1.0;
-    sheet->Run([&](SheetDriver& user) {
+    sheet.Run([&](SheetDriver& user) {
         for (const char* typed : {"2", "3.5", "half-typed", "7"})
             user.Type(kEdit, typed);
         EXPECT_EQ(0, kit.Writes());

@@ -7,53 +7,38 @@
 #include <string>
 
 #include "drawcore/regen.h"
+#include "frame/width_page.h"
 #include "orlo/entry/entry.h"
-#include "orlo/exchange/ddp.h"
-#include "orlo/exchange/ddx.h"
 #include "orlo/resources/resource.h"
-#include "support/host_frame.h"
-#include "support/object_counts.h"
-#include "support/test_sheet.h"
 
 namespace {
 
-struct Kind {
-    const char* name;
-    int type;
-    bool group;
-    uint32_t flags;
-    std::vector<unsigned int> pages; // behind General
-};
-
-const Kind kKinds[] = {
-    {"PenBrush", 2, false, 0, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
-    {"PenBrushWhateverItsFlags", 2, false, kFlagNoPenBrush, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
-    {"Vertices", 0x0B, false, 0, {IDD_PEN_PAGE, IDD_BRUSH_PAGE}},
-    {"VerticesWithoutPen", 0x0B, false, kFlagNoPenBrush, {}},
-    {"Group", 0x0B, true, 0, {}},
-    {"Unknown", 0x33, false, 0, {}},
-};
-
-class PagesOfAKind : public ::testing::TestWithParam<Kind> {};
-
-TEST_P(PagesOfAKind, AreAddedOnce) {
-    const Kind& kind = GetParam();
-    GraphicKit kit;
-    GraphicStruct* graphic = kit.Add({}, kind.type == 0x33 ? 0x0B : kind.type).graphic;
-    if (kind.group) ::GraphicAdd(graphic, ::GraphicNewEx(kGraphicVertices, 0, 1));
-    graphic->bType = static_cast<uint8_t>(kind.type);
-    graphic->dwFlags |= kind.flags;
-    TestSheet sheet(kit);
-    for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
-    ASSERT_EQ(1 + static_cast<int>(kind.pages.size()), sheet.Sheet().GetPageCount());
-    EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(IDD_GENERAL_PAGE));
-    for (size_t i = 0; i < kind.pages.size(); ++i)
-        EXPECT_EQ(sheet.Sheet().GetPage(static_cast<int>(i) + 1), sheet.Sheet().FindPage(kind.pages[i]));
+TEST(PagesOfAKind, AreAddedOnce) {
+    const struct {
+        int type;
+        bool group;
+        uint32_t flags;
+        bool penAndBrush; // after General
+    } rows[] = {{kGraphicPenBrush, false, 0, true}, {kGraphicPenBrush, false, kFlagNoPenBrush, true},
+                {kGraphicVertices, false, 0, true}, {kGraphicVertices, false, kFlagNoPenBrush, false},
+                {kGraphicVertices, true, 0, false}, {0x33, false, 0, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        GraphicKit kit;
+        GraphicStruct* graphic = kit.Add({}, row.type == 0x33 ? kGraphicVertices : row.type).graphic;
+        if (row.group) ::GraphicAdd(graphic, ::GraphicNewEx(kGraphicVertices, 0, 1));
+        graphic->bType = static_cast<uint8_t>(row.type);
+        graphic->dwFlags |= row.flags;
+        TestSheet sheet(kit);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
+        ASSERT_EQ(row.penAndBrush ? 3 : 1, sheet.Sheet().GetPageCount());
+        EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(IDD_GENERAL_PAGE));
+        if (!row.penAndBrush) continue;
+        EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(IDD_PEN_PAGE));
+        EXPECT_EQ(sheet.Sheet().GetPage(2), sheet.Sheet().FindPage(IDD_BRUSH_PAGE));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Table, PagesOfAKind, ::testing::ValuesIn(kKinds),
-                         [](const auto& test) { return std::string(test.param.name); });
 
 // The method comes second, for every graphic, and its result goes back to the host.
 TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
@@ -99,13 +84,8 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});
     for (const UINT key : {VK_RETURN, VK_ESCAPE}) {
-        double width = 0;
         TestSheet sheet(kit);
-        sheet.Add([&](CDataExchange* pDX) {
-            DDP_Text(pDX, kEdit, width, "Width");
-            DDX_Text(1, pDX, kEdit, width);
-            DDP_PostProcessing(pDX);
-        });
+        const WidthPage width(sheet);
         const int result = sheet.Run([&](SheetDriver& user) {
             user.Type(kEdit, "4");
             user.Key(key);
@@ -184,23 +164,20 @@ TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
     });
 }
 
-class MeasuredPage : public CGraphicPropertyPage {
-public:
-    MeasuredPage() : CGraphicPropertyPage(kTestPage, 0) {}
-    CSize Measure(void* dialog) {
-        SetDialogResource(dialog);
-        return m_sizePage;
-    }
-};
+CSize Measure(void* dialog) {
+    class Page : public CGraphicPropertyPage {
+    public:
+        explicit Page(void* resource) : CGraphicPropertyPage(kTestPage, 0) { SetDialogResource(resource); }
+        CSize Size() const { return m_sizePage; }
+    };
+    return Page(dialog).Size();
+}
 
 TEST(DialogMeasure, FollowsTemplateAndFont) {
     const HMODULE module = ::GetModuleHandleA(nullptr);
     const HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(kTestPage), RT_DIALOG);
     ASSERT_NE(nullptr, found);
-    MeasuredPage page;
-    const CSize measured = page.Measure(::LoadResource(module, found));
-    MeasuredPage none;
-    const CSize standard = none.Measure(nullptr);
+    const CSize measured = Measure(::LoadResource(module, found)), standard = Measure(nullptr);
     EXPECT_GT(measured.cx, 200);
     EXPECT_LT(measured.cx, 800);
     EXPECT_GT(measured.cy, standard.cy); // 160 against 62 units
@@ -215,30 +192,9 @@ TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
     for (const size_t size : {2, 14, 18, 20, 24, 40}) {
         char* start = static_cast<char*>(pages) + 0x1000 - size;
         std::memset(start, 0x41, size); // DS_SETFONT, names without an end
-        MeasuredPage page;
-        EXPECT_GT(page.Measure(start).cx, 0);
+        EXPECT_GT(Measure(start).cx, 0);
     }
     ::VirtualFree(pages, 0, MEM_RELEASE);
-}
-
-TEST(ManySheets, LeaveNothingBehind) {
-    GraphicKit kit;
-    HostFrame frame(kit.Drawing());
-    kit.Add({{kPropPenWidth, 1.0}, {kPropPenColor, 255}});
-    const auto cycle = [&] {
-        TestSheet sheet(kit);
-        ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
-        sheet.Run([](SheetDriver& user) { user.Ok(); });
-    };
-    for (int i = 0; i < 3; ++i)
-        cycle();
-    const int gdi = GdiObjectCount(), user = UserObjectCount();
-    const long blocks = kit.Blocks();
-    for (int i = 0; i < 1000; ++i)
-        cycle();
-    EXPECT_EQ(gdi, GdiObjectCount());
-    EXPECT_EQ(user, UserObjectCount());
-    EXPECT_EQ(blocks, kit.Blocks());
 }
 
 } // namespace

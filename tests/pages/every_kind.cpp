@@ -15,12 +15,11 @@ constexpr uint16_t kCross = 6; // of the brush styles of a new drawing
 
 GraphicStruct* NewOutline(double size) {
     GraphicStruct* outline = ::GraphicNewEx(kGraphicVertices, 0, 1);
-    VertexStruct* vertex = ::VertexNewEx(0, 0, 0);
+    const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
     for (const auto& [x, y] : {std::pair(0.0, 0.0), {size, 0.0}, {size, size}, {0.0, 0.0}}) {
-        ::VertexSet(vertex, x, y, 0);
-        ::GraphicVertexAdd(outline, vertex);
+        ::VertexSet(vertex.get(), x, y, 0);
+        ::GraphicVertexAdd(outline, vertex.get());
     }
-    ::VertexDispose(&vertex);
     return outline;
 }
 
@@ -65,22 +64,20 @@ void EveryKind::AddShape(int i) {
 
 void EveryKind::AddText(int i) {
     GraphicStruct* text = ::GraphicNewEx(kGraphicText, 0, 1);
-    VertexStruct* vertex = ::VertexNewEx(0, i, 0);
-    ::TextSetVWHAEx(text, vertex, 0, i + 1.0, 0, i ? "Section" : "Plan");
-    ::VertexDispose(&vertex);
+    const orlo::host::OwnedVertex vertex(::VertexNewEx(0, i, 0));
+    ::TextSetVWHAEx(text, vertex.get(), 0, i + 1.0, 0, i ? "Section" : "Plan");
     SetProperty(text, kPropTextFormat, static_cast<uint16_t>(i));
     Add(text);
 }
 
 void EveryKind::AddInsertion(int i) {
     GraphicStruct* insertion = ::GraphicNewEx(kGraphicInsert, 0, 1);
-    VertexStruct* vertex = ::VertexNewEx(5.0 * i, 3, 0);
+    const orlo::host::OwnedVertex vertex(::VertexNewEx(5.0 * i, 3, 0));
     MatrixStruct* turned = ::MatrixRotateZ(nullptr, 0.5 * (i + 1), 0);
-    MatrixStruct* placed = ::MatrixOffset(turned, vertex);
+    MatrixStruct* placed = ::MatrixOffset(turned, vertex.get());
     ::InsertSetData(insertion, ::BlocksFromDrawing(m_drawing.Get()), m_block, placed);
     ::MatrixDispose(&turned);
     ::MatrixDispose(&placed);
-    ::VertexDispose(&vertex);
     Add(insertion);
 }
 
@@ -88,9 +85,7 @@ std::unique_ptr<CGraphicPropertySheet> EveryKind::NewSheet() const {
     ::PropPageInit();
     std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(nullptr, nullptr, Drawing(), m_selection, kAllGraphics));
-    uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(m_selection, &position, 1, kAllGraphics); graphic != nullptr;
-         graphic = ::GraphicNext(m_selection, &position, 1, kAllGraphics))
+    for (GraphicStruct* graphic : orlo::host::Members(m_selection))
         ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
     return sheet;
 }

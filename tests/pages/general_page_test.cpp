@@ -1,19 +1,8 @@
 // The General page in a real sheet: layer and attribute text of a selection, and the style part over a style's graphic.
 
-#include <gtest/gtest.h>
+#include "pages/page_over_kit.h"
 
 #include <memory>
-#include <string>
-
-#include "drawcore/drawing.h"
-#include "drawcore/table.h"
-#include "orlo/entry/entry.h"
-#include "orlo/host/block.h"
-#include "orlo/host/drawing.h"
-#include "orlo/host/table.h"
-#include "orlo/resources/resource.h"
-#include "support/host_frame.h"
-#include "support/test_sheet.h"
 
 namespace {
 
@@ -21,84 +10,55 @@ bool IsEnabled(SheetDriver& user, int id) {
     return ::IsWindowEnabled(user.Control(id)) != 0;
 }
 
-class GeneralPage : public ::testing::Test {
+class GeneralPage : public PageOverKit {
 protected:
-    GeneralPage() : frame(kit.Drawing()), layers(::DrawingGetTable(kit.Drawing(), kTableLayers)) {
+    GeneralPage() : PageOverKit(IDD_GENERAL_PAGE) {
+        TableStruct* const layers = ::DrawingGetTable(kit.Drawing(), kTableLayers);
         walls = ::TableEntryAdd(layers, "Walls", nullptr);
         doors = ::TableEntryAdd(layers, "Doors", nullptr);
     }
+    void Add(int layer, const char* info) { kit.Add({{kPropLayer, layer}, {kPropInfo, info}}); }
 
-    void Add(unsigned int layer, const char* info) {
-        kit.Add({{kPropLayer, static_cast<double>(layer)}, {kPropInfo, info}});
-    }
-
-    int Run(const SheetDriver::Script& script) { return TestSheet(kit).Run(script); }
-
-    // What the layer combo shows, without its key.
-    static std::string LayerShown(SheetDriver& user) {
-        const int index = user.Selection(IDC_LAYER);
-        return index < 0 ? "" : user.ItemText(IDC_LAYER, index).substr(9);
-    }
-
-    GraphicKit kit;
-    HostFrame frame;
-    TableStruct* layers;
     uint16_t walls, doors;
 };
 
 TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
-    Add(doors, "oak\r\npainted");
-    Add(doors, "oak\r\npainted");
-    EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
-                  EXPECT_EQ("Doors", LayerShown(user));
-                  EXPECT_EQ("oak\r\npainted", user.Text(IDC_INFO));
-                  for (const int id : {int{IDC_STYLE_NAME}, int{IDC_STYLE_NEW}, int{IDC_STYLE_DELETE},
-                                       int{IDC_STYLE_GROUP}}) {
-                      EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
-                      EXPECT_FALSE(IsEnabled(user, id)) << id;
-                  }
-                  user.Ok();
-              }));
+    for (int i = 0; i < 2; ++i)
+        Add(doors, "oak\r\npainted");
+    RunOk([&](SheetDriver& user) {
+        EXPECT_EQ("Doors", user.ItemText(IDC_LAYER, user.Selection(IDC_LAYER)).substr(9));
+        EXPECT_EQ("oak\r\npainted", user.Text(IDC_INFO));
+        for (const int id : {IDC_STYLE_NAME, IDC_STYLE_NEW, IDC_STYLE_DELETE, IDC_STYLE_GROUP}) {
+            EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
+            EXPECT_FALSE(IsEnabled(user, id)) << id;
+        }
+    });
     EXPECT_EQ(0, kit.Writes());
 }
 
-TEST_F(GeneralPage, KeepsMixedValuesThatNobodyTouched) {
+TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
     Add(walls, "a");
     Add(doors, "b");
-    EXPECT_EQ(IDOK, Run([&](SheetDriver& user) {
-                  EXPECT_EQ(-1, user.Selection(IDC_LAYER));
-                  EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
-                  user.Type(IDC_INFO, "x");
-                  user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
-                  user.Ok();
-              }));
-    EXPECT_EQ("a", kit[0].Text(kPropInfo));
-    EXPECT_EQ("b", kit[1].Text(kPropInfo));
-    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
+    RunOk([&](SheetDriver& user) {
+        EXPECT_EQ(-1, user.Selection(IDC_LAYER));
+        EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
+        user.Type(IDC_INFO, "x");
+        user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
+    });
+    EXPECT_EQ(0, kit.Writes());
 }
 
 TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     Add(walls, "a");
     Add(doors, "b");
-    Run([&](SheetDriver& user) {
-        user.Type(IDC_INFO, "both");
-        user.Ok();
-    });
-    EXPECT_EQ("both", kit[0].Text(kPropInfo));
-    EXPECT_EQ("both", kit[1].Text(kPropInfo));
-    EXPECT_EQ(walls, kit[0].Number(kPropLayer));
-    EXPECT_EQ(doors, kit[1].Number(kPropLayer));
-    Run([&](SheetDriver& user) {
-        user.Choose(IDC_LAYER, 1);
-        EXPECT_EQ("Walls", LayerShown(user));
-        user.Ok();
-    });
-    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
-    Run([&](SheetDriver& user) {
+    ExpectEachChangesOneProperty(
+        {{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
+         {kPropLayer, [](SheetDriver& user) { user.Choose(IDC_LAYER, 1); }, int{walls}}});
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         user.Choose(IDC_LAYER, 2);
         user.Cancel();
     });
-    EXPECT_EQ(walls, kit[1].Number(kPropLayer));
+    EXPECT_EQ(0, kit.Writes());
 }
 
 // Three styles of one tree, one of them reserved, and a block of another tree.
@@ -124,12 +84,6 @@ protected:
         const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
             nullptr, nullptr, kit.Drawing(), ::BlockGetGraphic(styles, style), kWithStylePart));
         return SheetDriver().Run(*sheet, script);
-    }
-
-    // Back to the layer: the next control would be the Delete button.
-    static void Leave(SheetDriver& user, const char* name) {
-        user.Type(IDC_STYLE_NAME, name);
-        user.Key(VK_TAB, true);
     }
 
     // By the arrow keys in the closed list.
@@ -176,26 +130,24 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
 }
 
 TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
-    EXPECT_EQ(1000 + column, RunOver(beam, [](SheetDriver& user) { Leave(user, "Column"); }));
-    EXPECT_EQ(1000 + beam, RunOver(beam, [](SheetDriver& user) { Leave(user, "Beam"); }));
-    EXPECT_EQ(3000 + column, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(IDC_STYLE_NAME, "Column");
-                  user.Ok();
-              }));
-    EXPECT_EQ(2000 + column, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(IDC_STYLE_NAME, "Column");
-                  user.Click(IDC_STYLE_DELETE);
-              }));
+    const struct {
+        const char* name;
+        std::function<void(SheetDriver&)> then;
+        int code;
+    } rows[] = {{"Column", [](SheetDriver& user) { user.Key(VK_TAB, true); }, 1000 + column},
+                {"Beam", [](SheetDriver& user) { user.Key(VK_TAB, true); }, 1000 + beam},
+                {"Column", [](SheetDriver& user) { user.Ok(); }, 3000 + column},
+                {"Column", [](SheetDriver& user) { user.Click(IDC_STYLE_DELETE); }, 2000 + column},
+                {"Column", [](SheetDriver& user) { user.Cancel(); }, IDCANCEL},
+                // OK, with the focus where it is
+                {"Beam", [](SheetDriver& user) { user.Key(VK_RETURN); }, IDOK}};
+    for (const auto& row : rows)
+        EXPECT_EQ(row.code, RunOver(beam, [&](SheetDriver& user) {
+                      user.Type(IDC_STYLE_NAME, row.name);
+                      row.then(
+                          user); // Tab goes back to the layer: the next control would be the Delete button
+                  }));
     EXPECT_NE(0, ::BlocksFindBlock(styles, "Column")) << "deleting is the host's";
-    EXPECT_EQ(IDCANCEL, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(IDC_STYLE_NAME, "Column");
-                  user.Cancel();
-              }));
-    EXPECT_EQ(IDOK, RunOver(beam, [](SheetDriver& user) {
-                  user.Focus(IDC_STYLE_NAME);
-                  user.Type(IDC_STYLE_NAME, "Beam");
-                  user.Key(VK_RETURN); // OK, with the focus where it is
-              }));
 }
 
 TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
@@ -207,8 +159,7 @@ TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
     ASSERT_NE(0, girder);
     GraphicStruct* copy = ::BlockGetGraphic(styles, girder);
     EXPECT_NE(::BlockGetGraphic(styles, beam), copy);
-    uint32_t position;
-    EXPECT_NE(nullptr, ::GraphicFirst(copy, &position, 1, kAllGraphics));
+    EXPECT_NE(nullptr, *orlo::host::Members(copy).begin());
 }
 
 TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {

@@ -1,9 +1,7 @@
-// The Block Insertion page over real insertions: what it shows of equal and mixed ones, what it writes, and its preview.
+// The Block Insertion page over real insertions: what it shows of equal and differing ones, what it writes, and its preview.
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -27,27 +25,12 @@ constexpr double kDegree = 0.017453292519943295;
 
 using Vertices = std::vector<double>; // of all insertions, one after the other
 
-Vertices VerticesOf(GraphicStruct* graphic) {
-    Vertices vertices;
-    int cookie = 0;
-    for (VertexStruct* v = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); v != nullptr;
-         v = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF))
-        vertices.insert(vertices.end(), {v->x, v->y, v->z});
-    return vertices;
-}
-
 class InsertPage : public ::testing::Test {
 protected:
     InsertPage() {
         ::PropPageInit();
         blocks = ::BlocksFromDrawing(drawing.Get());
-        GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
-        for (const double x : {0.0, 1.0}) {
-            VertexStruct* vertex = ::VertexNewEx(x, 2 * x, 0);
-            ::GraphicVertexAdd(content, vertex);
-            ::VertexDispose(&vertex);
-        }
-        block = ::BlocksAddBlock(blocks, "FLAG", content);
+        block = ::BlocksAddBlock(blocks, "FLAG", ::GraphicNewEx(kGraphicVertices, 0, 1));
     }
     ~InsertPage() override { ::GraphicDispose(&selection); }
 
@@ -60,7 +43,7 @@ protected:
         insertions.push_back(graphic);
         return graphic;
     }
-    void AddMixed() {
+    void AddDiffering() {
         Add({{1, 2, 0}, {2, 2, 1}, {0, 0, 30 * kDegree}});
         Add({{1, 5, 0}, {2, 2, 1}, {0, 0, 60 * kDegree}});
         Add({{1, 7, 0}, {2, 3, 1}, {0, 0, 90 * kDegree}});
@@ -68,10 +51,9 @@ protected:
 
     Vertices All() const {
         Vertices all;
-        for (GraphicStruct* graphic : insertions) {
-            const Vertices one = VerticesOf(graphic);
-            all.insert(all.end(), one.begin(), one.end());
-        }
+        for (GraphicStruct* graphic : insertions)
+            for (const VertexStruct* v : orlo::host::Vertices(graphic))
+                all.insert(all.end(), {v->x, v->y, v->z});
         return all;
     }
     InsertParts Parts(size_t i) const {
@@ -94,6 +76,15 @@ protected:
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
     }
+    // The same with OK at the end, which has to be accepted without a message.
+    void RunOk(const SheetDriver::Script& script) {
+        MessageBoxWatcher boxes;
+        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                      script(user);
+                      user.Ok();
+                  }));
+        EXPECT_TRUE(boxes.Boxes().empty());
+    }
     // What a paste does: one change for the whole text.
     static void Paste(SheetDriver& user, int id, const char* text) {
         user.Focus(id);
@@ -110,11 +101,12 @@ protected:
 };
 
 TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
-    AddMixed();
-    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        const char* const kTexts[] = {"2", "*****", "1", "0", "0", "*****", "1", "*****", "0"};
-        for (size_t i = 0; i < std::size(kAll); ++i)
-            EXPECT_EQ(kTexts[i], user.Text(kAll[i])) << kAll[i];
+    AddDiffering();
+    RunOk([&](SheetDriver& user) {
+        std::string texts;
+        for (const int id : kAll)
+            texts += user.Text(id) + " ";
+        EXPECT_EQ("2 ***** 1 0 0 ***** 1 ***** 0 ", texts);
     });
 }
 
@@ -132,19 +124,16 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
         for (size_t k = 0; k < std::size(kOdd); ++k)
             if (k == i || i == std::size(kOdd)) Add(kOdd[k]);
         const Vertices before = All();
-        MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, Run([](SheetDriver& user, CGraphicPropertyPage&) {
-                      user.SelectPage(0);
-                      user.SelectPage(1);
-                      user.Ok();
-                  }));
-        EXPECT_TRUE(boxes.Boxes().empty());
+        RunOk([](SheetDriver& user) {
+            user.SelectPage(0);
+            user.SelectPage(1);
+        });
         EXPECT_EQ(before, All());
     }
     EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
 }
 
-// One field changed over a mixed selection reaches all, and everything else stays each insertion's own; undo takes it back.
+// One field changed over a selection that differs reaches all, and everything else stays each insertion's own; undo takes it back.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;
@@ -159,7 +148,7 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
                   {IDC_POSITION_X, "-7.5", &InsertParts::position, 0, -7.5},
                   {IDC_POSITION_Y, "1e6", &InsertParts::position, 1, 1e6},
                   {IDC_POSITION_Z, "3", &InsertParts::position, 2, 3}};
-    AddMixed();
+    AddDiffering();
     const Vertices before = All();
     for (const auto& edit : kEdits) {
         SCOPED_TRACE(edit.id);
@@ -169,19 +158,14 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
             (expected.back().*edit.group)[edit.axis] = edit.value;
         }
         ASSERT_TRUE(::DrawingBeginUndo(drawing.Get()));
-        MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                      Paste(user, edit.id, edit.text);
-                      EXPECT_EQ(before, All()) << "not while the sheet is open";
-                      user.Ok();
-                  }));
-        EXPECT_TRUE(boxes.Boxes().empty());
+        RunOk([&](SheetDriver& user) {
+            Paste(user, edit.id, edit.text);
+            EXPECT_EQ(before, All()) << "not while the sheet is open";
+        });
         for (size_t i = 0; i < insertions.size(); ++i)
-            for (int k = 0; k < 3; ++k) {
-                EXPECT_NEAR(expected[i].position[k], Parts(i).position[k], 1e-6);
-                EXPECT_NEAR(expected[i].scale[k], Parts(i).scale[k], 1e-6);
-                EXPECT_NEAR(expected[i].rotation[k], Parts(i).rotation[k], 1e-6);
-            }
+            for (const auto group : {&InsertParts::position, &InsertParts::scale, &InsertParts::rotation})
+                for (int k = 0; k < 3; ++k)
+                    EXPECT_NEAR((expected[i].*group)[k], (Parts(i).*group)[k], 1e-6);
         EXPECT_EQ(3, ::DrawingEndUndo(drawing.Get()));
         EXPECT_EQ(3, ::DrawingUndo(drawing.Get()));
         EXPECT_EQ(before, All());
@@ -202,30 +186,35 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
         }
     };
     for (const bool byUndo : {true, false}) {
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                      takeBack(user, byUndo);
-                      user.SelectPage(0);
-                      user.SelectPage(1);
-                      Paste(user, IDC_SCALE_Z, "7");
-                      Paste(user, IDC_SCALE_Z, "*****"); // no value, whatever was there
-                      user.Ok();
-                  }));
+        RunOk([&](SheetDriver& user) {
+            takeBack(user, byUndo);
+            user.SelectPage(0);
+            user.SelectPage(1);
+            Paste(user, IDC_SCALE_Z, "7");
+            Paste(user, IDC_SCALE_Z, "*****"); // no value, whatever was there
+        });
         EXPECT_EQ(before, All());
     }
     // Once written, the new text is the first one.
-    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  Paste(user, IDC_POSITION_X, "9");
-                  user.SelectPage(0);
-                  EXPECT_EQ(9, Parts(0).position[0]);
-                  user.SelectPage(1);
-                  Paste(user, IDC_POSITION_X, "1.23457e+06");
-                  user.Ok();
-              }));
+    RunOk([&](SheetDriver& user) {
+        Paste(user, IDC_POSITION_X, "9");
+        user.SelectPage(0);
+        EXPECT_EQ(9, Parts(0).position[0]);
+        user.SelectPage(1);
+        Paste(user, IDC_POSITION_X, "1.23457e+06");
+    });
     EXPECT_EQ(1234570, Parts(1).position[0]);
 }
 
+// A preview block that is there is used; the page takes it out all the same.
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
-    AddMixed();
+    AddDiffering();
+    const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
+    Run([&](SheetDriver&, CGraphicPropertyPage& page) {
+        EXPECT_EQ(own, ::BlocksFindBlock(blocks, kPreviewBlock));
+        EXPECT_NE(nullptr, page.GetPreviewGraphic());
+    });
+    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
     const Vertices before = All();
     ::DrawingBeginUndo(drawing.Get());
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
@@ -245,7 +234,7 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
 // The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
 // the value is good.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
-    AddMixed();
+    AddDiffering();
     const Vertices before = All();
     const struct {
         int id;
@@ -282,13 +271,10 @@ TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
     } kRows[] = {{"-5", -5}, {".5", 0.5}, {"-0.0625", -0.0625}, {"1e2", 100}, {"+2.5e-1", 0.25}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.text);
-        MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                      user.Type(IDC_POSITION_Y, "");
-                      user.Type(IDC_POSITION_Y, row.text);
-                      user.Ok();
-                  }));
-        EXPECT_TRUE(boxes.Boxes().empty());
+        RunOk([&](SheetDriver& user) {
+            user.Type(IDC_POSITION_Y, "");
+            user.Type(IDC_POSITION_Y, row.text);
+        });
         EXPECT_EQ(row.value, Parts(0).position[1]);
     }
 }
@@ -316,31 +302,17 @@ TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
 
 TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
     Add({{0, 0, 0}, {2, 2, 0}, {0, 0, 30 * kDegree}});
-    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+    RunOk([&](SheetDriver& user) {
         EXPECT_EQ("0", user.Text(IDC_SCALE_Z));
         EXPECT_EQ("30", user.Text(IDC_ROTATION_Z));
         user.Type(IDC_ROTATION_Z, "60");
-        user.Ok();
     });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
     EXPECT_EQ(0, Parts(0).scale[2]);
-    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        user.Type(IDC_SCALE_Z, "3");
-        user.Ok();
-    });
+    RunOk([](SheetDriver& user) { user.Type(IDC_SCALE_Z, "3"); });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
     EXPECT_NEAR(3, Parts(0).scale[2], 1e-6);
     EXPECT_NEAR(2, Parts(0).scale[0], 1e-6);
-}
-
-TEST_F(InsertPage, UsesAPreviewBlockThatIsThereAndRemovesIt) {
-    Add({{0, 0, 0}, {1, 1, 1}, {0, 0, 0}});
-    const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
-    Run([&](SheetDriver&, CGraphicPropertyPage& page) {
-        EXPECT_EQ(own, ::BlocksFindBlock(blocks, kPreviewBlock));
-        EXPECT_NE(nullptr, page.GetPreviewGraphic());
-    });
-    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
 }
 
 } // namespace

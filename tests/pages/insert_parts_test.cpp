@@ -21,20 +21,16 @@ protected:
 
     Corners Get() const {
         Corners corners{};
-        int cookie = 0;
-        VertexStruct* vertex = ::GraphicVertexFirst(m_graphic, &cookie, 0, 0xFFFF);
-        for (auto& corner : corners) {
-            corner = {vertex->x, vertex->y, vertex->z};
-            vertex = ::GraphicVertexNext(m_graphic, &cookie, 0, 0xFFFF);
-        }
+        size_t i = 0;
+        for (const VertexStruct* vertex : orlo::host::Vertices(m_graphic))
+            corners.at(i++) = {vertex->x, vertex->y, vertex->z};
         return corners;
     }
     void Set(const Corners& corners) {
-        int cookie = 0;
-        VertexStruct* vertex = ::GraphicVertexFirst(m_graphic, &cookie, 0, 0xFFFF);
-        for (const auto& corner : corners) {
+        size_t i = 0;
+        for (VertexStruct* vertex : orlo::host::Vertices(m_graphic)) {
+            const auto& corner = corners.at(i++);
             ::VertexSet(vertex, corner[0], corner[1], corner[2]);
-            vertex = ::GraphicVertexNext(m_graphic, &cookie, 0, 0xFFFF);
         }
     }
     // Around the point (10, 20, 30).

@@ -105,16 +105,14 @@ void ClickWithMouse(SheetDriver& user, int id) {
 TEST_F(Wizard, IsWalkedByMouse) {
     EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
                   EXPECT_EQ("0 - &Next >", State(user));
-                  ClickWithMouse(user, kBack); // disabled
-                  EXPECT_EQ("0 - &Next >", State(user));
-                  ClickWithMouse(user, kNext);
-                  EXPECT_EQ("1 Back &Next >", State(user));
-                  ClickWithMouse(user, kNext);
-                  EXPECT_EQ("2 Back Finish", State(user));
-                  ClickWithMouse(user, kBack);
-                  EXPECT_EQ("1 Back &Next >", State(user));
-                  ClickWithMouse(user, kBack);
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  for (const auto& [button, state] : {std::pair(kBack, "0 - &Next >"), // disabled
+                                                      {kNext, "1 Back &Next >"},
+                                                      {kNext, "2 Back Finish"},
+                                                      {kBack, "1 Back &Next >"},
+                                                      {kBack, "0 - &Next >"}}) {
+                      ClickWithMouse(user, button);
+                      EXPECT_EQ(state, State(user));
+                  }
                   EXPECT_EQ("", log);
                   for (int i = 0; i < 3; ++i)
                       ClickWithMouse(user, kNext);
@@ -137,9 +135,18 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
                   user.Key(VK_SPACE);
                   EXPECT_EQ("1 Back &Next >", State(user));
                   EXPECT_EQ(user.Control(kField), ::GetFocus()) << "the first field of the new page";
+                  ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
+                  user.Key(VK_SPACE); // disables the button that has the focus
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page";
+                  for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
+                      user.Key(VK_TAB);
+                  for (const char* state : {"1 Back &Next >", "2 Back Finish"}) {
+                      ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
+                      user.Key(VK_RETURN); // the button's own
+                      EXPECT_EQ(state, State(user));
+                  }
                   ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
-                  user.Key(VK_RETURN); // the button's own
-                  EXPECT_EQ("2 Back Finish", State(user));
                   user.Key(VK_RETURN);
               }));
     EXPECT_EQ("1o 2o 3o 3o ", log);
@@ -238,7 +245,7 @@ TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
                   steps[2]->accepts = false;
                   user.ClickSheetButton(kNext);
                   EXPECT_EQ("2 Back Finish", State(user));
-                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks behind the pages' OnOK, and stays open";
+                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks after the pages' OnOK, and stays open";
                   steps[2]->accepts = true;
                   user.ClickSheetButton(kNext);
               }));
@@ -270,34 +277,12 @@ TEST_F(Wizard, OpensEmptyWithoutItsFirstPage) {
     EXPECT_EQ(IDOK, Run(*alone, [](SheetDriver& user) { user.ClickSheetButton(kNext); }));
 }
 
-TEST_F(Wizard, OfOnePageFinishesByNext) {
-    const auto wizard = Make({kWide});
-    EXPECT_EQ(IDOK, Run(*wizard, [](SheetDriver& user) {
-                  EXPECT_EQ("0 - &Next >", State(user));
-                  user.ClickSheetButton(kNext);
-              }));
-    EXPECT_EQ("1o 1o ", log);
-}
-
 TEST_F(Wizard, ThatOpensLaterShowsTheFirstPagesButtonsUntilItMoves) {
     const auto wizard = Make({kWide, kWide, kWide}, 2);
     Run(*wizard, [](SheetDriver& user) {
         EXPECT_EQ("2 - &Next >", State(user));
         ::SendMessageA(user.Sheet(), WM_COMMAND, kBack, 0); // its button is disabled
         EXPECT_EQ("1 Back &Next >", State(user));
-    });
-}
-
-TEST_F(Wizard, KeyboardOutlivesABackThatIsDisabled) {
-    RunThree([](SheetDriver& user) {
-        user.ClickSheetButton(kNext);
-        ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
-        user.Key(VK_SPACE);
-        EXPECT_EQ("0 - &Next >", State(user));
-        ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page, as the system likes";
-        for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
-            user.Key(VK_TAB);
-        EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
     });
 }
 
@@ -336,27 +321,18 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
     }
 }
 
-TEST_F(Wizard, SystemMenuMovesAndCloses) {
+TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
     RunThree([](SheetDriver& user) {
         const HMENU menu = ::GetSystemMenu(user.Sheet(), FALSE);
         ASSERT_EQ(2, ::GetMenuItemCount(menu));
         EXPECT_EQ(UINT{SC_MOVE}, ::GetMenuItemID(menu, 0));
         EXPECT_EQ(UINT{SC_CLOSE}, ::GetMenuItemID(menu, 1));
-    });
-}
 
-TEST_F(Wizard, ActivationIsLeftToThePages) {
-    RunThree([](SheetDriver& user) {
         EXPECT_EQ(1, ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_INACTIVE, 0));
-        const HWND field = user.Control(kField);
-        ::SetFocus(field);
+        ::SetFocus(user.Control(kField));
         ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_ACTIVE, 0);
-        EXPECT_EQ(field, ::GetFocus());
-    });
-}
+        EXPECT_EQ(user.Control(kField), ::GetFocus());
 
-TEST_F(Wizard, FontAndButtonsAreThePages) {
-    RunThree([](SheetDriver& user) {
         LOGFONTA page = {}, button = {};
         ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page,
                      &page);
@@ -391,8 +367,13 @@ TEST_F(Wizard, ModelessHasNoButtonsButItsCommands) {
     wizard->DestroyWindow();
 }
 
-TEST_F(Wizard, WithoutPagesIsNotMade) {
+TEST_F(Wizard, WithoutPagesIsNotMadeAndOfOneFinishes) {
     EXPECT_EQ(-1, Make({})->DoModal());
+    EXPECT_EQ(IDOK, Run(*Make({kWide}), [](SheetDriver& user) {
+                  EXPECT_EQ("0 - &Next >", State(user));
+                  user.ClickSheetButton(kNext);
+              }));
+    EXPECT_EQ("1o 1o ", log) << "of one page finishes by Next";
 }
 
 TEST_F(Wizard, GivesEverythingBack) {

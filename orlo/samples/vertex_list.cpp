@@ -1,15 +1,15 @@
-// Preview shapes.
+// Vertex lists.
 
-#include "orlo/samples/preview_shape.h"
+#include "orlo/samples/vertex_list.h"
 
 #include "orlo/host/owners.h"
 
-GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
+GraphicStruct* NewVertexList(std::initializer_list<ListedVertex> vertices) {
     const orlo::host::OwnedVertex scratch(::VertexNewEx(0, 0, 0));
     if (scratch.get() == nullptr) return nullptr;
     GraphicStruct* graphic = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (graphic == nullptr) return nullptr;
-    for (const PreviewVertex& vertex : vertices) {
+    for (const ListedVertex& vertex : vertices) {
         ::VertexSet(scratch.get(), vertex.x, vertex.y, vertex.z);
         scratch.get()->wFlags = static_cast<uint16_t>(vertex.drawn ? scratch.get()->wFlags | kVertexDrawn
                                                                    : scratch.get()->wFlags & ~kVertexDrawn);
@@ -18,7 +18,7 @@ GraphicStruct* NewVertexList(std::initializer_list<PreviewVertex> vertices) {
     return graphic;
 }
 
-GraphicStruct* NewPreviewShape(std::initializer_list<PreviewVertex> vertices) {
+GraphicStruct* NewPreviewShape(std::initializer_list<ListedVertex> vertices) {
     GraphicStruct* shape = NewVertexList(vertices);
     if (shape == nullptr) return nullptr;
     if (GraphicStruct* corners = NewVertexList({{0, 0, 0, false}, {1, 1, 0, false}})) {
@@ -26,4 +26,10 @@ GraphicStruct* NewPreviewShape(std::initializer_list<PreviewVertex> vertices) {
         ::GraphicAdd(shape, corners);
     }
     return shape;
+}
+
+SampleGraphic NewSample(std::initializer_list<ListedVertex> vertices) {
+    SampleGraphic sample(NewVertexList(vertices));
+    if (sample) ::GraphicSetPenColor(sample.get(), 0);
+    return sample;
 }

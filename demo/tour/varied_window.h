@@ -8,4 +8,4 @@
 class Document;
 
 // Nothing if no selectable graphic of the drawing has a Pen page.
-std::optional<WorldBox> FindMixedWindow(const Document& document);
+std::optional<WorldBox> FindVariedWindow(const Document& document);

@@ -4,7 +4,7 @@
 // cell that it lies in wholly. Of the cells with few enough graphics to be seen one by one, the one with the most
 // different looks wins, then the larger one.
 
-#include "demo/tour/mixed_window.h"
+#include "demo/tour/varied_window.h"
 
 #include <cmath>
 #include <cstdint>
@@ -74,7 +74,7 @@ Cells Fill(const std::vector<Item>& items, const WorldBox& grid, double size) {
 
 } // namespace
 
-std::optional<WorldBox> FindMixedWindow(const Document& document) {
+std::optional<WorldBox> FindVariedWindow(const Document& document) {
     const std::vector<Item> items = ItemsOf(document);
     if (items.empty()) return std::nullopt;
     WorldBox all = items.front().box;

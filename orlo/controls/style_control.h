@@ -1,0 +1,54 @@
+// What the combos and the lists of styles do alike. Internal to the library.
+#pragma once
+
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/filling.h"
+#include "orlo/controls/item_drawing.h"
+#include "orlo/controls/list_control.h"
+#include "orlo/controls/style_item.h"
+#include "orlo/controls/table_control.h"
+#include "orlo/samples/style_sample.h"
+
+// A friend of the four controls, each of which keeps a sample (m_pGraphic, m_pViewport). make() returns a new sample.
+struct StyleControl {
+    // WM_CREATE.
+    template <class Control, class Make>
+    static int Create(Control& control, Make make) {
+        if (control.Default() == -1) return -1;
+        control.m_pGraphic = make();
+        control.m_pViewport.reset(ViewportNewEx());
+        return 0;
+    }
+
+    // In the order in which they depend on each other.
+    template <class Control>
+    static void DisposeSample(Control& control) {
+        control.m_pGraphic.reset();
+        control.m_pViewport.reset();
+    }
+
+    // The fill message; addAll(add) calls add(text) for each item.
+    template <class Control, class Make, class AddAll>
+    static void Fill(Control& control, LPARAM lParam, Make make, AddAll addAll) {
+        const Filling filling(control.m_hWnd);
+        const bool hasTable = BeginFill(control, lParam);
+        AttachSample(control.m_pGraphic, control.m_pViewport, control.m_pTable, make);
+        if (!hasTable) return;
+        addAll([&](const char* text) { AddItem(control, text); });
+        control.SetCurSel(control.FindItem(control.m_nSelected));
+    }
+
+    // draw(StyleItem) draws a whole item, and returns false if neither selection nor focus can be drawn on it.
+    template <class Control, class Draw>
+    static void DrawItem(Control& control, const DRAWITEMSTRUCT& request, SIZE beyond, Draw draw) {
+        DrawRequest(request, beyond, [&] {
+            char name[kItemTextSize];
+            const unsigned int style = RequestedStyle(control, request, name);
+            return draw({style, name, control.m_pTable, control.m_pGraphic.get(), control.m_pViewport.get()});
+        });
+    }
+
+private:
+    static void AddItem(CComboControl& control, const char* text) { control.AddControlItem(text); }
+    static void AddItem(CListControl& control, const char* text) { control.AddString(text); }
+};
