@@ -130,7 +130,7 @@ TEST_P(Corpus, IsJudgedAsItDeserves) {
     Severity worst = Severity::note;
     for (const Finding& finding : findings) {
         worst = std::max(worst, finding.severity);
-        EXPECT_LE(finding.offset, bytes.size() + UINT32_MAX);
+        EXPECT_LE(finding.offset, uint64_t{bytes.size()} + UINT32_MAX);
     }
     const json& kind = stream.manifest["class"];
     EXPECT_EQ(worst, kind == "damaged"     ? Severity::damaged
