@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,11 @@ constexpr int kWrongUsage = 2;
 // Without the program's own name. The 8-bit command line would lose file names of other scripts.
 std::vector<std::string> Arguments() {
     int count = 0;
-    wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    const std::unique_ptr<wchar_t*[], decltype(&::LocalFree)> words(
+        ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
         arguments.push_back(Utf8(words[i]));
-    ::LocalFree(words);
     return arguments;
 }
 

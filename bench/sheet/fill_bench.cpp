@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "bench/paired_timer.h"
-#include "drawcore/drawing.h"
 #include "drawcore/table.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
 #include "orlo/resources/control_ids.h"
+#include "support/test_drawing.h"
 
 namespace {
 
@@ -42,19 +42,6 @@ protected:
         measures += message == WM_MEASUREITEM;
         return CWnd::WindowProc(message, wParam, lParam);
     }
-};
-
-class OwnDrawing {
-public:
-    OwnDrawing() : m_drawing(::DrawingNew()) {}
-    ~OwnDrawing() { ::DrawingDispose(&m_drawing); }
-    OwnDrawing(const OwnDrawing&) = delete;
-    OwnDrawing& operator=(const OwnDrawing&) = delete;
-
-    TableStruct* Table(const char* name) const { return ::DrawingGetTable(m_drawing, name); }
-
-private:
-    DrawingStruct* m_drawing;
 };
 
 void MakeColors(TableStruct* table, int n) {
@@ -104,7 +91,7 @@ struct Fill {
 };
 
 Fill FillWith(const List& list, int n) {
-    const OwnDrawing drawing;
+    const TestDrawing drawing;
     list.make(drawing.Table(list.table), n);
     Parent parent;
     const HWND ours = parent.Add("QXComboBox", list.combo), plain = parent.Add("COMBOBOX", 1);

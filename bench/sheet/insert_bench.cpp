@@ -5,8 +5,7 @@
 #include <memory>
 
 #include "bench/paired_timer.h"
-#include "drawcore/drawing.h"
-#include "drawcore/selection.h"
+#include "bench/sheet/crowd.h"
 #include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
@@ -19,35 +18,21 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// A drawing of n insertions, all selected, in one plane or turned anyhow.
-class Insertions {
+// Insertions in one plane, or turned out of it.
+class Insertions : public Crowd {
 public:
-    Insertions(int n, bool plane) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
-        TableStruct* blocks = ::BlocksFromDrawing(m_drawing);
+    Insertions(int n, bool plane) {
+        using orlo::host::OwnedMatrix;
+        TableStruct* blocks = ::BlocksFromDrawing(Drawing());
         const uint16_t block = ::BlocksAddBlock(blocks, "FLAG", ::GraphicNewEx(kGraphicVertices, 0, 1));
-        MatrixStruct* about = plane ? nullptr : ::MatrixRotateX(nullptr, 0.3, 0);
+        const OwnedMatrix about(plane ? nullptr : ::MatrixRotateX(nullptr, 0.3, 0));
         for (int i = 0; i < n; ++i) {
-            MatrixStruct* matrix = ::MatrixRotateZ(about, i % 7 * 0.1, 0);
+            const OwnedMatrix matrix(::MatrixRotateZ(about.get(), i % 7 * 0.1, 0));
             GraphicStruct* insertion = ::GraphicNewEx(kGraphicInsert, 0, 1);
-            ::InsertSetData(insertion, blocks, block, matrix);
-            ::MatrixDispose(&matrix);
-            ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing), insertion));
+            ::InsertSetData(insertion, blocks, block, matrix.get());
+            Add(insertion);
         }
-        ::MatrixDispose(&about);
     }
-    ~Insertions() {
-        ::GraphicDispose(&m_selection);
-        ::DrawingDispose(&m_drawing);
-    }
-    Insertions(const Insertions&) = delete;
-    Insertions& operator=(const Insertions&) = delete;
-
-    GraphicStruct* Selection() const { return m_selection; }
-    DrawingStruct* Drawing() const { return m_drawing; }
-
-private:
-    DrawingStruct* m_drawing;
-    GraphicStruct* m_selection;
 };
 
 template <class Visit>

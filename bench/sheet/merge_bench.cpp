@@ -8,8 +8,7 @@
 #include <oaidl.h>
 
 #include "bench/paired_timer.h"
-#include "drawcore/drawing.h"
-#include "drawcore/selection.h"
+#include "bench/sheet/crowd.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/memory.h"
 #include "support/test_sheet.h"
@@ -18,27 +17,13 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// A drawing of n graphics of one type, all selected.
-class Crowd {
+// Graphics of one type.
+class Uniform : public Crowd {
 public:
-    Crowd(int n, int type) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
+    Uniform(int n, int type) {
         for (int i = 0; i < n; ++i)
-            ::SelectionAdd(m_selection,
-                           ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(type, 0, 1)));
+            Add(::GraphicNewEx(type, 0, 1));
     }
-    ~Crowd() {
-        ::GraphicDispose(&m_selection);
-        ::DrawingDispose(&m_drawing);
-    }
-    Crowd(const Crowd&) = delete;
-    Crowd& operator=(const Crowd&) = delete;
-
-    GraphicStruct* Selection() const { return m_selection; }
-    DrawingStruct* Drawing() const { return m_drawing; }
-
-private:
-    DrawingStruct* m_drawing;
-    GraphicStruct* m_selection;
 };
 
 // The host calls of a merge or a write, and nothing else.
@@ -134,7 +119,7 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
 // In a sheet over n graphics of that type.
 template <class Measuring>
 auto MeasureCrowd(int n, int type, Measuring measure) {
-    const Crowd crowd(n, type);
+    const Uniform crowd(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), kAllGraphics));

@@ -4,8 +4,7 @@
 #include <initializer_list>
 
 #include "drawcore/application.h"
-#include "drawcore/drawing.h"
-#include "drawcore/selection.h"
+#include "orlo/host/host.h"
 
 namespace {
 
@@ -18,26 +17,20 @@ void AddSegment(GraphicStruct* outline, VertexStruct* vertex, double length) {
 
 } // namespace
 
-MixedCrowd::MixedCrowd(int n) : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
-    ::AppSetCurrentDrawing(m_drawing);
-    VertexStruct* vertex = ::VertexNewEx(0, 0, 0);
-    TableStruct* blocks = ::BlocksFromDrawing(m_drawing);
+MixedCrowd::MixedCrowd(int n) {
+    ::AppSetCurrentDrawing(Drawing());
+    const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
+    TableStruct* blocks = ::BlocksFromDrawing(Drawing());
     GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
-    AddSegment(content, vertex, 1);
+    AddSegment(content, vertex.get(), 1);
     const uint16_t block = ::BlocksAddBlock(blocks, "Block", content);
     for (int i = 0; i < n; ++i) {
         constexpr uint8_t kTypes[] = {kGraphicVertices, kGraphicText, kGraphicInsert};
         GraphicStruct* graphic = ::GraphicNewEx(kTypes[i % 3], 0, 1);
-        if (i % 3 == 0) AddSegment(graphic, vertex, 1);
-        ::VertexSet(vertex, 0, 0, 0);
-        if (i % 3 == 1) ::TextSetVWHAEx(graphic, vertex, 0, 1, 0, "Text");
+        if (i % 3 == 0) AddSegment(graphic, vertex.get(), 1);
+        ::VertexSet(vertex.get(), 0, 0, 0);
+        if (i % 3 == 1) ::TextSetVWHAEx(graphic, vertex.get(), 0, 1, 0, "Text");
         if (i % 3 == 2) ::InsertSetData(graphic, blocks, block, nullptr);
-        ::SelectionAdd(m_selection, ::GraphicAdd(::DrawingGetRoot(m_drawing), graphic));
+        Add(graphic);
     }
-    ::VertexDispose(&vertex);
-}
-
-MixedCrowd::~MixedCrowd() {
-    ::GraphicDispose(&m_selection);
-    ::DrawingDispose(&m_drawing);
 }

@@ -5,7 +5,7 @@
 
 #include "bench/paired_timer.h"
 #include "orlo/entry/entry.h"
-#include "orlo/host/viewport.h"
+#include "orlo/host/owners.h"
 #include "orlo/resources/resource.h"
 #include "support/host_frame.h"
 #include "support/test_sheet.h"
@@ -22,7 +22,6 @@ public:
         CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 100, 100, parent,
                  nullptr);
     }
-    ~BarePane() override { ::ViewportDispose(&m_viewport); }
 
     void Refresh() {
         ::InvalidateRect(m_hWnd, nullptr, TRUE);
@@ -36,11 +35,11 @@ public:
         rect.InflateRect(-4, -4);
         ::GraphicSetDirty(m_graphic, 1);
         ::GraphicSetExtentsDirty(m_graphic, 1);
-        ::ViewportSetRect(m_viewport, &rect);
-        ::ViewportSetExtents(m_viewport, ::GraphicGetExtentsSel(m_graphic, 0), 3);
-        ::ViewportSetGDIStuff(m_viewport, nullptr, dc, 1, 1);
-        ::ViewportSetDrawing(m_viewport, ::GraphicGetDrawing(m_graphic));
-        ::GraphicDrawEx2(m_graphic, nullptr, m_viewport, 1, 1);
+        ::ViewportSetRect(m_viewport.get(), &rect);
+        ::ViewportSetExtents(m_viewport.get(), ::GraphicGetExtentsSel(m_graphic, 0), 3);
+        ::ViewportSetGDIStuff(m_viewport.get(), nullptr, dc, 1, 1);
+        ::ViewportSetDrawing(m_viewport.get(), ::GraphicGetDrawing(m_graphic));
+        ::GraphicDrawEx2(m_graphic, nullptr, m_viewport.get(), 1, 1);
     }
 
 protected:
@@ -54,7 +53,7 @@ protected:
 
 private:
     GraphicStruct* m_graphic;
-    ViewportStruct* m_viewport;
+    const orlo::host::OwnedViewport m_viewport;
 };
 
 } // namespace

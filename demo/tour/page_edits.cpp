@@ -3,8 +3,8 @@
 #include "demo/tour/page_edits.h"
 
 #include <cstdlib>
-#include <stdexcept>
 
+#include "demo/automation/control_text.h"
 #include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
@@ -13,7 +13,7 @@ namespace {
 constexpr int kDotsBrush = 8; // its place in the list: through the dots all that lies below is seen
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
-int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
 }
 
@@ -24,33 +24,29 @@ HWND FocusOn(HWND page, int id) {
 }
 
 void TypeOver(UserInput& user, HWND page, int id, const std::string& text) {
-    Ask(FocusOn(page, id), EM_SETSEL, 0, -1);
+    Send(FocusOn(page, id), EM_SETSEL, 0, -1);
     user.Type(text);
 }
 
 // To the item below, or above the last one; without a selection to the item of that number.
 void Move(UserInput& user, HWND list, UINT getSelection, int first) {
-    const int before = Ask(list, getSelection);
+    const int before = Send(list, getSelection);
     if (before < 0) return user.Keys(VK_DOWN, first + 1);
     user.Key(VK_DOWN);
-    if (Ask(list, getSelection) == before) user.Key(VK_UP);
+    if (Send(list, getSelection) == before) user.Key(VK_UP);
 }
 
 // To the item of that number, or another one if it is chosen already. Without a selection the first key only makes one.
 void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
-    if (Ask(list, getSelection) == wanted) return user.Key(VK_UP);
+    if (Send(list, getSelection) == wanted) return user.Key(VK_UP);
     user.Keys(VK_HOME, 2);
     user.Keys(VK_DOWN, wanted);
 }
 
 // The first item of a colour list if there is none: its items begin with the colour in hexadecimal digits.
 int IndexOfColor(HWND combo, unsigned long color) {
-    char item[256];
-    for (int i = 0; i < Ask(combo, CB_GETCOUNT); ++i) {
-        if (Ask(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i)) >= static_cast<int>(sizeof item)) continue;
-        Ask(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(item));
-        if (std::strtoul(item, nullptr, 16) == color) return i;
-    }
+    for (int i = 0; i < Send(combo, CB_GETCOUNT); ++i)
+        if (std::strtoul(ComboItem(combo, i).c_str(), nullptr, 16) == color) return i;
     return 0;
 }
 
@@ -79,38 +75,4 @@ const PageEdit* FindPageEdit(const std::string& title) {
         if (title == edit.title) return &edit;
     }
     return nullptr;
-}
-
-CPropertySheet& SheetOf(HWND window) {
-    auto* sheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(window));
-    if (!sheet) throw std::runtime_error("that is no property sheet");
-    return *sheet;
-}
-
-HWND ActivePageOf(HWND sheet) {
-    return SheetOf(sheet).GetActivePage()->m_hWnd;
-}
-
-std::vector<std::string> PageTitles(HWND sheet) {
-    const HWND tabs = SheetOf(sheet).GetTabControl()->m_hWnd;
-    std::vector<std::string> titles;
-    for (int i = 0; i < Ask(tabs, TCM_GETITEMCOUNT); ++i) {
-        char text[64] = "";
-        TCITEMA item = {};
-        item.mask = TCIF_TEXT;
-        item.pszText = text;
-        item.cchTextMax = sizeof text;
-        Ask(tabs, TCM_GETITEMA, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-        titles.push_back(text);
-    }
-    return titles;
-}
-
-bool ClickTab(UserInput& user, HWND sheet, int page) {
-    const HWND tabs = SheetOf(sheet).GetTabControl()->m_hWnd;
-    CRect rect;
-    Ask(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(page),
-        reinterpret_cast<LPARAM>(static_cast<LPRECT>(rect)));
-    user.Click(tabs, rect.CenterPoint());
-    return SheetOf(sheet).GetActiveIndex() == page;
 }

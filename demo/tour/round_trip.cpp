@@ -2,21 +2,17 @@
 
 #include "demo/tour/round_trip.h"
 
-#include <cstdio>
 #include <stdexcept>
 
-#include "demo/tour/drawing_state.h"
+#include "demo/automation/drawing_state.h"
+#include "demo/automation/sheet_pages.h"
 #include "demo/tour/page_edits.h"
+#include "demo/tour/report.h"
 #include "demo/viewer/main_frame.h"
 
 namespace {
 
-constexpr size_t kMostDifferences = 5; // told of one drawing
-
-void Say(const std::string& text) {
-    std::printf("%s\n", text.c_str());
-    std::fflush(stdout);
-}
+constexpr size_t kMostDifferences = 5; // reported of one drawing
 
 } // namespace
 
@@ -26,16 +22,16 @@ bool RoundTrip::Check(const std::vector<std::string>& drawings) {
         try {
             different += !CheckOne(drawing);
         } catch (const OpenError&) {
-            Say(drawing + ": cannot be opened");
+            Report(drawing + ": cannot be opened");
         } catch (const std::exception& error) {
-            Say(drawing + ": " + error.what());
+            Report(drawing + ": " + error.what());
             ++unchecked;
         }
     }
     std::string end =
         std::to_string(drawings.size()) + " drawings, " + std::to_string(different) + " with differences";
     if (unchecked) end += ", " + std::to_string(unchecked) + " not checked to the end";
-    Say(end);
+    Report(end);
     return different + unchecked == 0;
 }
 
@@ -47,7 +43,7 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     m_user.Key('A', UserInput::kControl);
     const int count = document.Selected().Count();
     if (count == 0) {
-        Say(drawing + ": nothing can be selected");
+        Report(drawing + ": nothing can be selected");
         return true;
     }
     const std::vector<std::string> pages = EditAllPages();
@@ -63,9 +59,9 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     m_user.Key('Z', UserInput::kControl);
     const std::vector<std::string> differences =
         before.DifferencesTo(DrawingState(document.Drawing()), kMostDifferences);
-    Say(line + (differences.empty() ? ": as before" : ": DIFFERENT"));
+    Report(line + (differences.empty() ? ": as before" : ": DIFFERENT"));
     for (const std::string& difference : differences)
-        Say("  " + difference.substr(0, 300));
+        Report("  " + difference.substr(0, 300));
     return good && differences.empty();
 }
 

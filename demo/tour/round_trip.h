@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "demo/tour/user_input.h"
+#include "demo/automation/user_input.h"
 
 class CMainFrame;
 

@@ -24,11 +24,10 @@ void SaveScreenshot(const RECT& area, const std::string& path) {
     MemoryPicture picture;
     if (rect.IsRectEmpty() || !picture.Resize(rect.Size()))
         throw std::runtime_error("no picture of that size");
-    const HDC screen = ::GetDC(nullptr);
-    const BOOL copied =
-        ::BitBlt(picture.Dc(), 0, 0, rect.Width(), rect.Height(), screen, rect.left, rect.top, SRCCOPY);
-    ::ReleaseDC(nullptr, screen);
-    if (!copied) throw std::runtime_error("the screen cannot be read");
+    const WindowDC screen(nullptr);
+    if (!::BitBlt(picture.Dc(), 0, 0, rect.Width(), rect.Height(), screen.get(), rect.left, rect.top,
+                  SRCCOPY))
+        throw std::runtime_error("the screen cannot be read");
 
     std::vector<uint8_t> rgb;
     rgb.reserve(static_cast<size_t>(rect.Width()) * rect.Height() * 3);

@@ -8,8 +8,11 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "demo/tour/drawing_state.h"
+#include "demo/automation/control_text.h"
+#include "demo/automation/drawing_state.h"
+#include "demo/automation/sheet_pages.h"
 #include "demo/tour/page_edits.h"
+#include "demo/tour/report.h"
 #include "demo/tour/screenshot.h"
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
@@ -28,25 +31,8 @@ constexpr int kWizardNext = 101;
 // Orange, cyan, green: the first that is in the list and not there already.
 constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
 
-int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
-}
-
-std::string ItemText(HWND window, UINT length, UINT text, int index) {
-    const int size = Ask(window, length, static_cast<WPARAM>(index));
-    if (size < 0) return "";
-    std::string item(static_cast<size_t>(size) + 1, '\0');
-    Ask(window, text, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item[0]));
-    item.resize(static_cast<size_t>(size));
-    return item;
-}
-
-std::string ComboItem(HWND combo, int index) {
-    return ItemText(combo, CB_GETLBTEXTLEN, CB_GETLBTEXT, index);
-}
-
-std::string ListItem(HWND list, int index) {
-    return ItemText(list, LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
 // Items of style controls: eight hexadecimal digits, a tab, the name.
@@ -81,18 +67,18 @@ bool Tour::Play(const std::string& drawing) {
     try {
         Open(drawing);
         if (!SelectVariedSet()) {
-            Say("Nothing in this drawing has a pen: there is nothing to edit.");
+            Report("Nothing in this drawing has a pen: there is nothing to edit.");
             return true;
         }
         if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
         MakeStyle();
-        Say("Ctrl+A selects all.");
+        Report("Ctrl+A selects all.");
         m_user.Key(VK_HOME);
         m_user.Key('A', UserInput::kControl);
         TakePicture("all-selected");
         return EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); });
     } catch (const std::exception& error) {
-        Say(std::string("The tour ends here: ") + error.what());
+        Report(std::string("The tour ends here: ") + error.what());
         return false;
     }
 }
@@ -106,20 +92,15 @@ bool Tour::EditAndUndo(const std::string& changed, const std::string& undone,
     const DrawingState exactly(document.Drawing());
     edit();
     TakePicture(changed);
-    const bool differs = Report(before, PropertySnapshot(document.Drawing(), all));
+    const bool differs = ReportChanges(before, PropertySnapshot(document.Drawing(), all));
 
     m_user.Key('Z', UserInput::kControl);
     TakePicture(undone);
     const std::vector<std::string> left = exactly.DifferencesTo(DrawingState(document.Drawing()), 5);
-    Say(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
+    Report(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
     for (const std::string& line : left)
-        Say("  " + line);
+        Report("  " + line);
     return differs && left.empty();
-}
-
-void Tour::Say(const std::string& text) {
-    std::printf("%s\n", text.c_str());
-    std::fflush(stdout);
 }
 
 void Tour::TakePicture(const std::string& name) {
@@ -129,7 +110,7 @@ void Tour::TakePicture(const std::string& name) {
     CRect window;
     m_frame.GetWindowRect(window);
     SaveScreenshot(window, m_folder + "\\" + file);
-    Say(std::string("  [") + file + "]");
+    Report(std::string("  [") + file + "]");
 }
 
 // ---- Stations
@@ -138,7 +119,7 @@ void Tour::Open(const std::string& drawing) {
     m_user.Wait(kPause);
     if (!m_frame.Open(drawing)) throw std::runtime_error("the drawing could not be opened");
     const Document& document = *m_frame.GetDocument();
-    Say("Open " + document.Name() + ": " + std::to_string(document.Selectable().size()) + " graphics.");
+    Report("Open " + document.Name() + ": " + std::to_string(document.Selectable().size()) + " graphics.");
     TakePicture("open");
 }
 
@@ -156,13 +137,13 @@ bool Tour::SelectVariedSet() {
     TakePicture("select-window");
     m_user.Release(view, frame.BottomRight());
     Selection& selection = m_frame.GetDocument()->Selected();
-    Say("Select by window: " + std::to_string(selection.Count()) + " graphics.");
+    Report("Select by window: " + std::to_string(selection.Count()) + " graphics.");
     const PropertySnapshot snapshot(m_frame.GetDocument()->Drawing(), selection.Members());
     for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle}) {
         std::string line = std::string("  ") + property + ":";
         for (const auto& [value, count] : snapshot.Values(property))
             line += "  " + std::to_string(count) + " x " + value;
-        Say(line);
+        Report(line);
     }
     TakePicture("selected");
     if (selection.Count() == 0) throw std::runtime_error("nothing was selected");
@@ -182,13 +163,13 @@ void Tour::ShowClosely(const WorldBox& box) {
 }
 
 void Tour::EditPen() {
-    Say("Alt+Enter opens the properties.");
+    Report("Alt+Enter opens the properties.");
     m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
                     [this](HWND sheet) {
                         TakePicture("general-page");
                         OpenPage(sheet, "Pen");
                         EditPenPage(sheet);
-                        Say("OK.");
+                        Report("OK.");
                         m_user.Click(::GetDlgItem(sheet, IDOK));
                     });
 }
@@ -202,7 +183,7 @@ void Tour::OpenPage(HWND sheet, const std::string& title) {
 
 // Three steps and Finish.
 void Tour::MakeStyle() {
-    Say("Ctrl+N makes a style after the selection.");
+    Report("Ctrl+N makes a style after the selection.");
     m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
                     [this](HWND wizard) {
                         m_user.Type("Tour");
@@ -211,7 +192,7 @@ void Tour::MakeStyle() {
                             m_user.Click(::GetDlgItem(wizard, kWizardNext));
                         }
                     });
-    Say("Ctrl+Enter shows the style.");
+    Report("Ctrl+Enter shows the style.");
     m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kControl); },
                     [this](HWND sheet) {
                         TakePicture("style-page");
@@ -220,7 +201,7 @@ void Tour::MakeStyle() {
 }
 
 void Tour::EditAllPages() {
-    Say("Alt+Enter opens the properties of all.");
+    Report("Alt+Enter opens the properties of all.");
     m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
                     [this](HWND sheet) {
                         for (const std::string& title : PageTitles(sheet)) {
@@ -229,14 +210,14 @@ void Tour::EditAllPages() {
                                 page->edit(m_user, ActivePageOf(sheet));
                             TakePicture("all-" + FileNameOf(title));
                         }
-                        Say("OK.");
+                        Report("OK.");
                         m_user.Click(::GetDlgItem(sheet, IDOK));
                     });
 }
 
 void Tour::EditPenPage(HWND sheet) {
     const HWND page = ActivePageOf(sheet);
-    Say("Pen page.");
+    Report("Pen page.");
     TakePicture("pen-page");
     PickColor(page);
     PickPaperScale(page);
@@ -247,19 +228,19 @@ void Tour::EditPenPage(HWND sheet) {
 
 void Tour::PickColor(HWND page) {
     const HWND combo = ::GetDlgItem(page, IDC_COLOR);
-    const int now = Ask(combo, CB_GETCURSEL);
+    const int now = Send(combo, CB_GETCURSEL);
     int wanted = -1;
     for (const COLORREF color : kColors) {
-        for (int i = 0; wanted < 0 && i < Ask(combo, CB_GETCOUNT); ++i)
+        for (int i = 0; wanted < 0 && i < Send(combo, CB_GETCOUNT); ++i)
             if (i != now && KeyOf(ComboItem(combo, i)) == color) wanted = i;
     }
-    if (wanted < 0) return Say("  no other colour is listed");
+    if (wanted < 0) return Report("  no other colour is listed");
     m_user.Click(combo, DropButton(combo));
     m_user.Keys(VK_HOME, 1);
     m_user.Keys(VK_DOWN, wanted);
     TakePicture("colour-list");
     m_user.Key(VK_RETURN);
-    Say("  colour: " + NameOf(ComboItem(combo, Ask(combo, CB_GETCURSEL))));
+    Report("  colour: " + NameOf(ComboItem(combo, Send(combo, CB_GETCURSEL))));
 }
 
 // A width is then the same length on paper for all of the selection.
@@ -269,12 +250,12 @@ void Tour::PickPaperScale(HWND page) {
     m_user.Keys(VK_HOME, 1);
     m_user.Keys(VK_DOWN, 1);
     m_user.Key(VK_RETURN);
-    Say("  width scaling: " + ComboItem(combo, Ask(combo, CB_GETCURSEL)));
+    Report("  width scaling: " + ComboItem(combo, Send(combo, CB_GETCURSEL)));
 }
 
 void Tour::PickWidth(HWND page) {
     const HWND combo = ::GetDlgItem(page, IDC_PEN_WIDTH);
-    const int now = Ask(combo, CB_GETCURSEL), count = Ask(combo, CB_GETCOUNT);
+    const int now = Send(combo, CB_GETCURSEL), count = Send(combo, CB_GETCOUNT);
     m_user.Click(combo, DropButton(combo));
     int wanted = -1;
     for (int i = 0; i < count; ++i)
@@ -288,15 +269,13 @@ void Tour::PickWidth(HWND page) {
         m_user.Key(VK_ESCAPE);
         m_user.Type("0.7");
     }
-    char text[64] = "";
-    ::GetWindowTextA(combo, text, sizeof text);
-    Say(std::string("  width: ") + text);
+    Report("  width: " + WindowText(combo));
 }
 
 void Tour::PickStyle(HWND page) {
     const HWND list = ::GetDlgItem(page, IDC_LINE_STYLE_LIST);
     TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
-    const int now = Ask(list, LB_GETCURSEL), count = Ask(list, LB_GETCOUNT);
+    const int now = Send(list, LB_GETCURSEL), count = Send(list, LB_GETCOUNT);
     int wanted = -1;
     for (int i = count - 1; i >= 0; --i) { // the first one with dashes; else any
         if (i == now) continue;
@@ -304,21 +283,21 @@ void Tour::PickStyle(HWND page) {
             ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
         if (dashed || wanted < 0) wanted = i;
     }
-    if (wanted < 0) return Say("  no other line style is listed");
+    if (wanted < 0) return Report("  no other line style is listed");
     m_user.Click(list, CPoint(10, 8));
     m_user.Keys(VK_HOME, 1);
     m_user.Keys(VK_DOWN, wanted);
-    Say("  line style: " + NameOf(ListItem(list, Ask(list, LB_GETCURSEL))));
+    Report("  line style: " + NameOf(ListItem(list, Send(list, LB_GETCURSEL))));
 }
 
-bool Tour::Report(const PropertySnapshot& before, const PropertySnapshot& after) {
+bool Tour::ReportChanges(const PropertySnapshot& before, const PropertySnapshot& after) {
     const std::vector<PropertyChange> changes = before.ChangesTo(after);
-    Say(changes.empty() ? "Nothing changed in the drawing." : "What changed in the drawing:");
+    Report(changes.empty() ? "Nothing changed in the drawing." : "What changed in the drawing:");
     for (const PropertyChange& change : changes) {
         char line[256];
         std::snprintf(line, sizeof line, "  %-12s %5d x  %s -> %s", change.property.c_str(), change.graphics,
                       change.from.c_str(), change.to.c_str());
-        Say(line);
+        Report(line);
     }
     return !changes.empty();
 }

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "demo/tour/user_input.h"
+#include "demo/automation/user_input.h"
 
 class CMainFrame;
 class PropertySnapshot;
@@ -20,7 +20,6 @@ public:
     bool Play(const std::string& drawing);
 
 private:
-    void Say(const std::string& text);
     void TakePicture(const std::string& name);
 
     void Open(const std::string& drawing);
@@ -37,7 +36,7 @@ private:
     void PickPaperScale(HWND page);
     void PickWidth(HWND page);
     void PickStyle(HWND page);
-    bool Report(const PropertySnapshot& before, const PropertySnapshot& after);
+    bool ReportChanges(const PropertySnapshot& before, const PropertySnapshot& after);
 
     CMainFrame& m_frame;
     std::string m_folder;

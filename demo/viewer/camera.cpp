@@ -21,30 +21,26 @@ Camera::Camera() : m_viewport(::ViewportNewEx()) {
     if (!m_viewport) throw std::bad_alloc();
 }
 
-Camera::~Camera() {
-    ::ViewportDispose(&m_viewport);
-}
-
 void Camera::SetWindow(CSize pixels) {
     m_window = pixels;
-    ::ViewportSetRect(m_viewport, CRect(CPoint(), m_window));
+    ::ViewportSetRect(Viewport(), CRect(CPoint(), m_window));
 }
 
 void Camera::Fit(GraphicStruct* graphic, int margin) {
     const CRect window(CPoint(), m_window);
     CRect inner = window;
     inner.DeflateRect(margin, margin);
-    ::ViewportSetRect(m_viewport, inner.IsRectEmpty() ? window : inner);
-    ::ViewportFitSeen(m_viewport, graphic);
-    ::ViewportSetRect(m_viewport, window);
+    ::ViewportSetRect(Viewport(), inner.IsRectEmpty() ? window : inner);
+    ::ViewportFitSeen(Viewport(), graphic);
+    ::ViewportSetRect(Viewport(), window);
 }
 
 void Camera::Zoom(double factor, CPoint anchor) {
-    ::ViewportZoom(m_viewport, anchor, factor);
+    ::ViewportZoom(Viewport(), anchor, factor);
 }
 
 void Camera::Pan(CSize pixels) {
-    ::ViewportPan(m_viewport, pixels.cx, pixels.cy);
+    ::ViewportPan(Viewport(), pixels.cx, pixels.cy);
 }
 
 void Camera::CenterOn(WorldPoint point) {
@@ -54,7 +50,7 @@ void Camera::CenterOn(WorldPoint point) {
 
 WorldPoint Camera::ToWorld(CPoint pixel) const {
     WorldPoint point;
-    ::ViewportToDrawing(m_viewport, pixel, &point.x, &point.y);
+    ::ViewportToDrawing(Viewport(), pixel, &point.x, &point.y);
     return point;
 }
 

@@ -5,17 +5,14 @@
 #include <afxgdi.h>
 
 #include "demo/viewer/world.h"
-#include "orlo/host/viewport.h"
+#include "orlo/host/owners.h"
 
 class Camera {
 public:
     Camera();
-    ~Camera();
-    Camera(const Camera&) = delete;
-    Camera& operator=(const Camera&) = delete;
 
-    ViewportStruct* Viewport() const { return m_viewport; }
-    void SetDrawing(DrawingStruct* drawing) { ::ViewportSetDrawing(m_viewport, drawing); }
+    ViewportStruct* Viewport() const { return m_viewport.get(); }
+    void SetDrawing(DrawingStruct* drawing) { ::ViewportSetDrawing(Viewport(), drawing); }
 
     // Size of the client area; the middle of the picture stays the middle.
     void SetWindow(CSize pixels);
@@ -34,6 +31,6 @@ public:
     WorldBox Visible() const;
 
 private:
-    ViewportStruct* m_viewport;
+    orlo::host::OwnedViewport m_viewport;
     CSize m_window{1, 1};
 };

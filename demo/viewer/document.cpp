@@ -6,7 +6,6 @@
 
 #include "demo/viewer/file_name.h"
 #include "drawcore/application.h"
-#include "drawcore/drawing.h"
 #include "drawcore/dxf.h"
 #include "drawcore/layer.h"
 #include "drawcore/undo.h"
@@ -41,21 +40,16 @@ std::unique_ptr<Document> Document::Open(const std::string& path, const Progress
     char message[512] = "";
     Opening opening = {progress, {}};
     const DxfListener listener = {&opening, ShowProgress, KeepFinding};
-    DrawingStruct* drawing = ::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message);
+    OwnedDrawing drawing(::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message));
     if (!drawing) throw OpenError(path + "\n\n" + message);
-    ::AppSetCurrentDrawing(drawing);
-    std::unique_ptr<Document> document(new Document(path, drawing));
+    ::AppSetCurrentDrawing(drawing.get());
+    std::unique_ptr<Document> document(new Document(path, std::move(drawing)));
     document->m_findings = std::move(opening.findings);
     return document;
 }
 
-Document::Document(const std::string& path, DrawingStruct* drawing)
-    : m_path(path), m_drawing(drawing), m_root(::DrawingGetRoot(drawing)), m_styles(drawing) {}
-
-Document::~Document() {
-    m_selection.Clear(); // before its members go
-    ::DrawingDispose(&m_drawing);
-}
+Document::Document(const std::string& path, OwnedDrawing drawing)
+    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()) {}
 
 std::string Document::Name() const {
     return m_path.substr(m_path.find_last_of("\\/") + 1);
@@ -64,7 +58,7 @@ std::string Document::Name() const {
 std::vector<GraphicStruct*> Document::Selectable() const {
     std::vector<GraphicStruct*> graphics;
     for (GraphicStruct* graphic : orlo::host::Members(m_root))
-        if (IsSelectable(m_drawing, graphic)) graphics.push_back(graphic);
+        if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
     return graphics;
 }
 
@@ -80,29 +74,29 @@ GraphicStruct* Document::Next(bool forward) const {
 
 std::string Document::LengthText(double length) const {
     char text[64] = "";
-    ::DrawingStdNumericToText(m_drawing, length, text, sizeof text, 0);
+    ::DrawingStdNumericToText(Drawing(), length, text, sizeof text, 0);
     return text;
 }
 
 int Document::Change(const std::function<void()>& change) {
-    ::DrawingBeginUndo(m_drawing);
+    ::DrawingBeginUndo(Drawing());
     try {
         change();
     } catch (...) {
-        ::DrawingEndUndo(m_drawing);
+        ::DrawingEndUndo(Drawing());
         throw;
     }
-    return ::DrawingEndUndo(m_drawing);
+    return ::DrawingEndUndo(Drawing());
 }
 
 int Document::ForgottenSteps() const {
-    return ::DrawingCountForgotten(m_drawing);
+    return ::DrawingCountForgotten(Drawing());
 }
 
 int Document::UndoSteps() const {
-    return ::DrawingCountUndo(m_drawing);
+    return ::DrawingCountUndo(Drawing());
 }
 
 int Document::Undo() {
-    return ::DrawingUndo(m_drawing);
+    return ::DrawingUndo(Drawing());
 }

@@ -10,6 +10,7 @@
 
 #include "demo/viewer/selection.h"
 #include "demo/viewer/style_book.h"
+#include "drawcore/owned_drawing.h"
 #include "orlo/host/drawing.h"
 
 // what(): the file's name and what is wrong with it, with the line where it can be told. UTF-8.
@@ -25,9 +26,6 @@ public:
     // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError; the drawing that was current
     // then still is.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
-    ~Document();
-    Document(const Document&) = delete;
-    Document& operator=(const Document&) = delete;
 
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
@@ -35,7 +33,7 @@ public:
     // What was left out of the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }
 
-    DrawingStruct* Drawing() const { return m_drawing; }
+    DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Root() const { return m_root; }
     Selection& Selected() { return m_selection; }
     const Selection& Selected() const { return m_selection; }
@@ -60,11 +58,11 @@ public:
     int Undo();
 
 private:
-    Document(const std::string& path, DrawingStruct* drawing);
+    Document(const std::string& path, OwnedDrawing drawing);
 
     std::string m_path;
     std::vector<std::string> m_findings;
-    DrawingStruct* m_drawing;
+    OwnedDrawing m_drawing; // goes after those who hold its graphics
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;

@@ -274,10 +274,9 @@ void CDrawingView::RenewPicture() {
     for (const CRect& area : m_spoiled) {
         m_picture.Fill(area, kBackground);
         if (m_document) {
-            const int saved = ::SaveDC(m_picture.Dc());
+            const SavedDC saved(m_picture.Dc());
             ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);
             DrawGraphic(m_picture.Dc(), m_document->Root());
-            ::RestoreDC(m_picture.Dc(), saved);
         }
         CRect glowing = area;
         glowing.InflateRect(Glow::kRadius, Glow::kRadius);
@@ -291,7 +290,7 @@ void CDrawingView::RenewScene() {
     area.IntersectRect(area, m_scene.Bounds());
     m_spoiledScene.SetRectEmpty();
     if (area.IsRectEmpty()) return;
-    m_scene.CopyFrom(m_picture, area);
+    m_scene.CopyFrom(m_picture.Dc(), area);
     if (m_document && m_document->Selected().Count() > 0)
         m_glow.Put(m_scene, area, [this](HDC dc) { DrawGraphic(dc, m_document->Selected().Set()); });
 }

@@ -19,20 +19,6 @@ uint32_t Blend(uint32_t below) {
     return quarter + ((kRim >> 1) & 0x7F7F7F) + ((kRim >> 2) & 0x3F3F3F);
 }
 
-class Clipped {
-public:
-    Clipped(HDC dc, const CRect& area) : m_dc(dc), m_saved(::SaveDC(dc)) {
-        ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
-    }
-    ~Clipped() { ::RestoreDC(m_dc, m_saved); }
-    Clipped(const Clipped&) = delete;
-    Clipped& operator=(const Clipped&) = delete;
-
-private:
-    HDC m_dc;
-    int m_saved;
-};
-
 } // namespace
 
 void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>& draw) {
@@ -43,7 +29,8 @@ void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>&
     around.IntersectRect(around, scene.Bounds());
     m_mask.Fill(around, kGround);
     {
-        const Clipped clipped(m_mask.Dc(), around);
+        const SavedDC saved(m_mask.Dc());
+        ::IntersectClipRect(m_mask.Dc(), around.left, around.top, around.right, around.bottom);
         draw(m_mask.Dc());
     }
     Spread(around);

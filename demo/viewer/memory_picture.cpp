@@ -4,19 +4,11 @@
 
 #include <cstddef>
 
-MemoryPicture::~MemoryPicture() {
-    Free();
-}
-
 void MemoryPicture::Free() {
-    if (m_before) ::SelectObject(m_dc, m_before);
-    if (m_bitmap) ::DeleteObject(m_bitmap);
-    if (m_dc) ::DeleteDC(m_dc);
     m_size = CSize();
-    m_dc = nullptr;
-    m_bitmap = nullptr;
-    m_before = nullptr;
     m_pixels = nullptr;
+    m_dc.reset();
+    m_bitmap.reset();
 }
 
 bool MemoryPicture::Resize(CSize size) {
@@ -30,33 +22,32 @@ bool MemoryPicture::Resize(CSize size) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
-    m_dc = ::CreateCompatibleDC(nullptr);
-    if (m_dc) m_bitmap = ::CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    m_dc.reset(::CreateCompatibleDC(nullptr));
+    if (m_dc) m_bitmap.reset(::CreateDIBSection(m_dc.get(), &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
     if (!m_bitmap) {
         Free();
         return false;
     }
-    m_before = ::SelectObject(m_dc, m_bitmap);
+    ::SelectObject(m_dc.get(), m_bitmap.get());
     m_pixels = static_cast<uint32_t*>(pixels);
     m_size = size;
     return true;
 }
 
-uint32_t* MemoryPicture::Row(int y) {
+uint32_t* MemoryPicture::Row(int y) const {
     ::GdiFlush();
     return m_pixels + static_cast<ptrdiff_t>(y) * m_size.cx;
 }
 
 void MemoryPicture::Fill(const CRect& area, COLORREF color) {
-    ::SetBkColor(m_dc, color);
-    ::ExtTextOutA(m_dc, 0, 0, ETO_OPAQUE, area, nullptr, 0, nullptr);
+    ::SetBkColor(Dc(), color);
+    ::ExtTextOutA(Dc(), 0, 0, ETO_OPAQUE, area, nullptr, 0, nullptr);
 }
 
-void MemoryPicture::CopyFrom(const MemoryPicture& other, const CRect& area) {
-    ::BitBlt(m_dc, area.left, area.top, area.Width(), area.Height(), other.m_dc, area.left, area.top,
-             SRCCOPY);
+void MemoryPicture::CopyFrom(HDC source, const CRect& area) {
+    ::BitBlt(Dc(), area.left, area.top, area.Width(), area.Height(), source, area.left, area.top, SRCCOPY);
 }
 
 void MemoryPicture::Shift(CSize by) {
-    ::BitBlt(m_dc, by.cx, by.cy, m_size.cx, m_size.cy, m_dc, 0, 0, SRCCOPY);
+    ::BitBlt(Dc(), by.cx, by.cy, m_size.cx, m_size.cy, Dc(), 0, 0, SRCCOPY);
 }

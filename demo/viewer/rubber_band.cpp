@@ -22,12 +22,10 @@ void RubberBand::Draw(HDC dc) const {
         const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 48, 0};
         ::AlphaBlend(dc, frame.left, frame.top, frame.Width(), frame.Height(), tint.Dc(), 0, 0, 1, 1, blend);
     }
-    CPen pen(IsCrossing() ? PS_DASH : PS_SOLID, 1, color);
-    const HGDIOBJ penBefore = ::SelectObject(dc, pen.m_hObject);
-    const HGDIOBJ brushBefore = ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
-    const int modeBefore = ::SetBkMode(dc, TRANSPARENT);
+    const OwnedPen pen(::CreatePen(IsCrossing() ? PS_DASH : PS_SOLID, 1, color));
+    const SavedDC saved(dc);
+    ::SelectObject(dc, pen.get());
+    ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
+    ::SetBkMode(dc, TRANSPARENT);
     ::Rectangle(dc, frame.left, frame.top, frame.right, frame.bottom);
-    ::SetBkMode(dc, modeBefore);
-    ::SelectObject(dc, brushBefore);
-    ::SelectObject(dc, penBefore);
 }

@@ -19,13 +19,9 @@ Selection::Selection() : m_set(::SelectionNew()) {
     if (!m_set) throw std::bad_alloc();
 }
 
-Selection::~Selection() {
-    ::GraphicDispose(&m_set);
-}
-
 std::vector<GraphicStruct*> Selection::Members() const {
     std::vector<GraphicStruct*> members;
-    for (GraphicStruct* graphic : orlo::host::Members(m_set))
+    for (GraphicStruct* graphic : orlo::host::Members(Set()))
         members.push_back(graphic);
     return members;
 }
@@ -33,13 +29,13 @@ std::vector<GraphicStruct*> Selection::Members() const {
 void Selection::Clear() {
     for (GraphicStruct* graphic : Members())
         Note(graphic);
-    ::SelectionClear(m_set);
+    ::SelectionClear(Set());
 }
 
 void Selection::Apply(const std::vector<GraphicStruct*>& graphics, Way way) {
     if (way == Way::Replace) Clear();
     for (GraphicStruct* graphic : graphics) {
-        if (::SelectionAdd(m_set, graphic) || (way == Way::Toggle && ::SelectionRemove(m_set, graphic)))
+        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic)))
             Note(graphic);
     }
 }

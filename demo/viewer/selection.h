@@ -6,6 +6,7 @@
 
 #include "demo/viewer/world.h"
 #include "drawcore/selection.h"
+#include "orlo/host/owners.h"
 
 // The box of a graphic; nothing for one without an extent.
 std::optional<WorldBox> ExtentsOf(GraphicStruct* graphic);
@@ -15,16 +16,13 @@ public:
     enum class Way { Replace, Add, Toggle };
 
     Selection();
-    ~Selection();
-    Selection(const Selection&) = delete;
-    Selection& operator=(const Selection&) = delete;
 
     // The set that the library walks; also a graphic that draws all its members.
-    GraphicStruct* Set() const { return m_set; }
-    int Count() const { return ::SelectionCount(m_set); }
-    bool Contains(GraphicStruct* graphic) const { return ::SelectionContains(m_set, graphic); }
+    GraphicStruct* Set() const { return m_set.get(); }
+    int Count() const { return ::SelectionCount(Set()); }
+    bool Contains(GraphicStruct* graphic) const { return ::SelectionContains(Set(), graphic); }
     std::vector<GraphicStruct*> Members() const;
-    std::optional<WorldBox> Extents() const { return ExtentsOf(m_set); }
+    std::optional<WorldBox> Extents() const { return ExtentsOf(Set()); }
 
     void Clear();
     void Apply(const std::vector<GraphicStruct*>& graphics, Way way);
@@ -35,6 +33,6 @@ public:
 private:
     void Note(GraphicStruct* graphic);
 
-    GraphicStruct* m_set;
+    orlo::host::OwnedGraphic m_set;
     std::optional<WorldBox> m_changed;
 };

@@ -146,15 +146,13 @@ StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics)
 
 uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
     if (!WhyNot(name).empty()) return 0;
-    GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
-    GraphicStruct* shape = ::GraphicAdd(content, NewShape());
-    GraphicStruct* text = ::GraphicAdd(content, NewText());
-    ::GraphicSetStyleName(content, kTree);
-    const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content);
-    if (!id) {
-        ::GraphicDispose(&content);
-        return 0;
-    }
+    orlo::host::OwnedGraphic content(::GraphicNewEx(kGraphicVertices, 0, 1));
+    GraphicStruct* shape = ::GraphicAdd(content.get(), NewShape());
+    GraphicStruct* text = ::GraphicAdd(content.get(), NewText());
+    ::GraphicSetStyleName(content.get(), kTree);
+    const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content.get());
+    if (!id) return 0;
+    content.release(); // the table's now
     const Examples examples = ExamplesOf(graphics);
     if (examples.pen) CopyProperties(examples.pen, shape, kPen);
     if (examples.brush) CopyProperties(examples.brush, shape, kBrush);

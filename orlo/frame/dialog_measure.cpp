@@ -4,8 +4,8 @@
 
 #include <cstring>
 
+#include "orlo/win/encoded_text.h"
 #include "orlo/win/gdi.h"
-#include "orlo/win/system_text.h"
 
 namespace {
 
@@ -75,7 +75,8 @@ bool ReadFont(TemplateWords& words, DialogFont& font) {
     wchar_t face[kFaceSize] = {};
     if (!words.Read(points) || !words.ReadText(face, kFaceSize - 1)) return false;
     font.points = points;
-    Narrow(face, font.face, sizeof font.face);
+    const size_t length = orlo::Narrow(face, CP_ACP).copy(font.face, sizeof font.face - 1);
+    font.face[length] = '\0';
     return true;
 }
 

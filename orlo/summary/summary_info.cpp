@@ -9,10 +9,11 @@
 #include "orlo/propset/property_set.h"
 #include "orlo/summary/compound_file.h"
 #include "orlo/win/com_owner.h"
-#include "orlo/win/system_text.h"
+#include "orlo/win/encoded_text.h"
 
 using orlo::Owned;
 using orlo::Receive;
+using orlo::Widen;
 
 namespace {
 
@@ -162,7 +163,7 @@ HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
     Owned<IStream> stream;
     const HRESULT opened =
-        pStorage->OpenStream(Wide(kSummaryStreamName).c_str(), nullptr, kRead, 0, Receive(stream));
+        pStorage->OpenStream(Widen(kSummaryStreamName, CP_ACP).c_str(), nullptr, kRead, 0, Receive(stream));
     if (FAILED(opened)) return opened;
     return OleStdReadSummaryInfo(stream.get(), pSumInfo) ? opened : E_FAIL;
 }
@@ -173,7 +174,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     // First into memory: what fails there costs the document nothing.
     Bytes image, before;
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
-    const std::wstring name = Wide(kSummaryStreamName);
+    const std::wstring name = Widen(kSummaryStreamName, CP_ACP);
     Owned<IStream> stream;
     const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);
@@ -186,7 +187,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
 HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo) {
     if (!pszFileName || !ppStorage || !ppSumInfo) return E_FAIL;
     *ppStorage = nullptr;
-    const std::wstring name = Wide(pszFileName);
+    const std::wstring name = Widen(pszFileName, CP_ACP);
     if (orlo::StateOfCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
     Owned<IStorage> storage;
     HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, Receive(storage));

@@ -1,6 +1,6 @@
 // Real drawings through all pages and back, and that the comparison sees what is different.
 
-#include "demo/tour/drawing_state.h"
+#include "demo/automation/drawing_state.h"
 #include "demo/tour/round_trip.h"
 #include "demo/viewer.h"
 #include "drawcore/table.h"

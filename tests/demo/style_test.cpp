@@ -1,10 +1,10 @@
 // Styles in the viewer: the wizard that makes one, the sheet over a style with its end codes, and applying.
 
-#include <afxdlgs.h>
-
 #include <cctype>
 #include <set>
 
+#include "demo/automation/control_text.h"
+#include "demo/automation/sheet_pages.h"
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
 #include "orlo/resources/resource.h"
@@ -15,19 +15,8 @@ namespace {
 
 constexpr int kBack = 100, kNext = 101;
 
-HWND PageOf(HWND sheet) {
-    auto* object = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(sheet));
-    return object ? object->GetActivePage()->m_hWnd : nullptr;
-}
-
 HWND OnPage(HWND sheet, int id) {
-    return ::GetDlgItem(PageOf(sheet), id);
-}
-
-std::string TextOf(HWND window) {
-    char text[512] = "";
-    ::GetWindowTextA(window, text, sizeof text);
-    return text;
+    return ::GetDlgItem(ActivePageOf(sheet), id);
 }
 
 class Styles : public Viewer {
@@ -63,7 +52,7 @@ protected:
 void ExpectMnemonicsOfTheirOwn(HWND window) {
     std::set<int> found;
     ForEachChild(window, [&](HWND child) {
-        const std::string text = ::IsWindowVisible(child) ? TextOf(child) : "";
+        const std::string text = ::IsWindowVisible(child) ? WindowText(child) : "";
         const size_t mark = text.find('&');
         EXPECT_TRUE(mark == std::string::npos || found.insert(std::tolower(text[mark + 1])).second) << text;
     });
@@ -81,13 +70,13 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
                       user.Key(VK_SPACE); // not the brush
                       user.Key(VK_RETURN);
                       ExpectMnemonicsOfTheirOwn(wizard);
-                      const std::string summary = TextOf(OnPage(wizard, IDC_STYLE_SUMMARY));
+                      const std::string summary = WindowText(OnPage(wizard, IDC_STYLE_SUMMARY));
                       EXPECT_NE(std::string::npos, summary.find("\"Walls\""));
                       EXPECT_NE(std::string::npos, summary.find("Pen: Red")) << summary;
                       EXPECT_NE(std::string::npos, summary.find("Brush: as each")) << summary;
                       user.Click(::GetDlgItem(wizard, kBack));
                       user.Click(::GetDlgItem(wizard, kNext));
-                      EXPECT_EQ(summary, TextOf(OnPage(wizard, IDC_STYLE_SUMMARY)));
+                      EXPECT_EQ(summary, WindowText(OnPage(wizard, IDC_STYLE_SUMMARY)));
                       user.Key(VK_RETURN); // the last page: Finish
                   });
     EXPECT_EQ("Walls", current());
@@ -114,7 +103,7 @@ TEST_F(Styles, NeedANameOfTheirOwn) {
                       }
                       ::SetWindowTextA(edit, "");
                       user.Type(std::string(40, 'x'));
-                      EXPECT_EQ(32u, TextOf(edit).size());
+                      EXPECT_EQ(32u, WindowText(edit).size());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_EQ(1u, styles().All().size());
@@ -141,7 +130,7 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     const PropertySnapshot drawing = Properties();
     InStyleSheets({[&](HWND sheet) {
         EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, IDC_STYLE_NAME)));
-        EXPECT_EQ("Red", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
+        EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
         user.Key(VK_TAB, UserInput::kControl); // the Pen page
         const HWND colors = OnPage(sheet, IDC_COLOR);
         ASSERT_NE(nullptr, colors);
@@ -171,7 +160,7 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
                        user.Click(OnPage(sheet, IDC_STYLE_NEW));
                    },
                    [&](HWND sheet) {
-                       EXPECT_EQ("Blue", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
+                       EXPECT_EQ("Blue", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
                        Close(sheet);
                    }});
     EXPECT_EQ("Blue", current());
@@ -187,7 +176,7 @@ TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
              user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
          },
          [&](HWND sheet) {
-             EXPECT_EQ("Red", TextOf(OnPage(sheet, IDC_STYLE_NAME)));
+             EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
              EXPECT_EQ("Red", current());
              TypeStyle(sheet, "Blue");
              user.Click(::GetDlgItem(sheet, IDOK));

@@ -70,9 +70,7 @@ std::vector<uint32_t> Viewer::Seen() {
     ::GetClientRect(view(), client);
     MemoryPicture picture;
     EXPECT_TRUE(picture.Resize(client.Size()));
-    const HDC dc = ::GetDC(view());
-    ::BitBlt(picture.Dc(), 0, 0, client.Width(), client.Height(), dc, 0, 0, SRCCOPY);
-    ::ReleaseDC(view(), dc);
+    picture.CopyFrom(WindowDC(view()).get(), client);
     std::vector<uint32_t> pixels;
     for (int y = 0; y < client.Height(); ++y)
         for (int x = 0; x < client.Width(); ++x)

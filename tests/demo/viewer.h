@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "demo/tour/user_input.h"
+#include "demo/automation/user_input.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
 

@@ -11,15 +11,6 @@
 
 namespace {
 
-std::vector<GraphicStruct*> Walk(GraphicStruct* set, uint32_t filter = kAllGraphics) {
-    std::vector<GraphicStruct*> found;
-    uint32_t position = 0xDEADBEEF;
-    for (GraphicStruct* g = GraphicFirst(set, &position, 1, filter); g;
-         g = GraphicNext(set, &position, 1, filter))
-        found.push_back(g);
-    return found;
-}
-
 using List = std::vector<GraphicStruct*>;
 
 TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
@@ -70,7 +61,7 @@ TEST(Graphics, OwnTheirParts) {
     EXPECT_EQ(GraphicGetDrawing(b), static_cast<DrawingStruct*>(drawing)) << "parts go with the whole";
     GraphicDelete(parent, a);
     EXPECT_NE(a->dwFlags & kFlagNoParent, 0u);
-    EXPECT_EQ(Walk(parent), List{b});
+    EXPECT_EQ(Members(parent), List{b});
     GraphicDelete(parent, a); // no part any more: nothing happens
     GraphicDispose(&a);
     drawing.Close();
@@ -80,10 +71,9 @@ TEST(Graphics, OwnTheirParts) {
 }
 
 TEST(Graphics, OfAPolylineWithPartsAreNoGroup) {
-    GraphicStruct* shape = MakeSquare(0, 0, 1);
+    const Loose shape(MakeSquare(0, 0, 1));
     GraphicAdd(shape, MakeSquare(1, 1, 1));
     EXPECT_FALSE(GraphicGetIsGroup(shape));
-    GraphicDispose(&shape);
 }
 
 TEST(Graphics, AreWalkedByKind) {
@@ -97,13 +87,13 @@ TEST(Graphics, AreWalkedByKind) {
     drawing.Add(group);
     const List all = {line, circle, text, insert, group};
     GraphicStruct* root = drawing.Root();
-    EXPECT_EQ(Walk(root), all) << "a group counts as one";
-    EXPECT_EQ(Walk(root, 0xFFFFFFFF & ~4u), all);
-    EXPECT_EQ(Walk(root, 4), all) << "no kind is named";
-    EXPECT_EQ(Walk(root, 0), all);
-    EXPECT_EQ(Walk(root, kKindVertices), List{line});
-    EXPECT_EQ(Walk(root, kKindCurve | kKindText | 4), (List{circle, text}));
-    EXPECT_EQ(Walk(root, kKindInsert | kKindGroup), (List{insert, group}));
+    EXPECT_EQ(Members(root), all) << "a group counts as one";
+    EXPECT_EQ(Members(root, 0xFFFFFFFF & ~4u), all);
+    EXPECT_EQ(Members(root, 4), all) << "no kind is named";
+    EXPECT_EQ(Members(root, 0), all);
+    EXPECT_EQ(Members(root, kKindVertices), List{line});
+    EXPECT_EQ(Members(root, kKindCurve | kKindText | 4), (List{circle, text}));
+    EXPECT_EQ(Members(root, kKindInsert | kKindGroup), (List{insert, group}));
     EXPECT_EQ(GraphicFirst(nullptr, &root, 1, 0), nullptr);
 }
 
@@ -132,7 +122,7 @@ TEST(Vertices, AreWalkedInOrderAndCanBeMoved) {
         if (++count == 2) VertexSet(v, 90, v->y, v->z);
     EXPECT_EQ(count, 5);
     EXPECT_EQ(GraphicVertexNext(square, &cookie, 0, 0xFFFF), nullptr);
-    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(square, 0)), 90);
+    EXPECT_EQ(BoxOf(square).right, 90);
     GraphicDispose(&square);
     EXPECT_EQ(GraphicVertexFirst(nullptr, &cookie, 0, 0xFFFF), nullptr);
 }
@@ -140,22 +130,20 @@ TEST(Vertices, AreWalkedInOrderAndCanBeMoved) {
 TEST(Extents, FollowTheGraphicAndItsParts) {
     OwnDrawing drawing;
     GraphicStruct* a = drawing.Add(MakeSquare(10, 0, 5));
-    const auto left = [&] { return ExtentsGetX1(GraphicGetExtentsSel(drawing.Root(), 0)); };
-    const auto right = [&] { return ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)); };
+    const auto left = [&] { return BoxOf(drawing.Root()).left; };
+    const auto right = [&] { return BoxOf(drawing.Root()).right; };
     EXPECT_EQ(left(), 10);
     EXPECT_EQ(right(), 15);
     GraphicStruct* b = drawing.Add(MakeSquare(-7, 0, 1));
     EXPECT_EQ(left(), -7);
-    VertexStruct* vertex = VertexNewEx(99, 0, 0);
-    GraphicVertexAdd(a, vertex);
-    VertexDispose(&vertex);
+    AddVertex(a, 99, 0);
     EXPECT_EQ(right(), 99) << "a part has grown";
     GraphicDelete(drawing.Root(), b);
     GraphicDispose(&b);
     EXPECT_EQ(left(), 10);
     GraphicStruct* circle = drawing.Add(GraphicNewEx(kGraphicPenBrush, 0, 1));
-    EXPECT_NEAR(ExtentsGetX1(GraphicGetExtentsSel(circle, 0)), -1, 1e-12);
-    EXPECT_NEAR(ExtentsGetX2(GraphicGetExtentsSel(circle, 0)), 1, 1e-12);
+    EXPECT_NEAR(BoxOf(circle).left, -1, 1e-12);
+    EXPECT_NEAR(BoxOf(circle).right, 1, 1e-12);
 }
 
 TEST(Selections, BorrowTheirMembers) {
@@ -171,18 +159,18 @@ TEST(Selections, BorrowTheirMembers) {
     EXPECT_TRUE(SelectionRemove(selection, lines[1]));
     EXPECT_FALSE(SelectionRemove(selection, lines[1]));
     EXPECT_TRUE(SelectionRemove(selection, lines[3]));
-    EXPECT_EQ(Walk(selection), (List{lines[0], lines[2], lines[4]})) << "the order stays";
+    EXPECT_EQ(Members(selection), (List{lines[0], lines[2], lines[4]})) << "the order stays";
     EXPECT_TRUE(SelectionContains(selection, lines[4]));
     EXPECT_FALSE(SelectionContains(selection, lines[3]));
     EXPECT_TRUE(SelectionRemove(selection, lines[4]));
-    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(selection, 0)), 3);
+    EXPECT_EQ(BoxOf(selection).right, 3);
     EXPECT_EQ(lines[0]->pParent, drawing.Root());
     EXPECT_FALSE(SelectionAdd(drawing.Root(), lines[0])) << "no selection";
     SelectionClear(selection);
     EXPECT_EQ(SelectionCount(selection), 0);
     SelectionAdd(selection, lines[0]);
     GraphicDispose(&selection);
-    EXPECT_EQ(Walk(drawing.Root()).size(), 5u) << "the members stay the drawing's";
+    EXPECT_EQ(Members(drawing.Root()).size(), 5u) << "the members stay the drawing's";
     drawing.Close();
     EXPECT_TRUE(balance.IsEven());
 }
@@ -205,7 +193,7 @@ TEST(Selections, AreCopiedAsAGroupOfCopies) {
     EXPECT_NE(first, a);
     EXPECT_EQ(GetWhole(second, kPropBrushStyle), 3u);
     EXPECT_EQ(second->pParent, copy);
-    EXPECT_EQ(ExtentsGetX2(GraphicGetExtentsSel(copy, 0)), 4);
+    EXPECT_EQ(BoxOf(copy).right, 4);
     GraphicDispose(&copy);
     for (GraphicStruct* graphic : {a, b}) {
         GraphicDelete(drawing.Root(), graphic);

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 
 #include <drawcore/layer.h>
 
 #include "drawcore/kit.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -27,17 +27,7 @@ protected:
         return BlocksAddBlock(drawing.Table(kTableBlocks), name, content);
     }
     GraphicStruct* Insert(uint16_t block, double x, double y, double sx, double sy, double angle = 0) {
-        GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
-        VertexStruct* vertex = VertexNewEx(sx, sy, 1);
-        MatrixStruct* scaled = MatrixScale(nullptr, vertex, 0);
-        MatrixStruct* turned = MatrixRotateZ(scaled, angle, 0);
-        VertexSet(vertex, x, y, 0);
-        MatrixStruct* placed = MatrixOffset(turned, vertex);
-        EXPECT_TRUE(InsertSetData(insert, drawing.Table(kTableBlocks), block, placed));
-        for (MatrixStruct* matrix : {scaled, turned, placed})
-            MatrixDispose(&matrix);
-        VertexDispose(&vertex);
-        return insert;
+        return MakeInsert(drawing.Table(kTableBlocks), block, {x, y}, sx, sy, angle);
     }
     void Draw() { picture.Draw(drawing.Root()); }
 
@@ -60,9 +50,8 @@ TEST_F(Inserts, ScaleTurnAndMirror) {
     EXPECT_EQ(picture.At(25, 70), kRed);
     EXPECT_EQ(picture.At(35, 85), kRed);
     EXPECT_EQ(picture.At(25, 85), kWhite);
-    const ExtentsStruct* box = GraphicGetExtentsSel(drawing.Root(), 0);
-    EXPECT_NEAR(ExtentsGetX1(box), 10, 1e-6);
-    EXPECT_NEAR(ExtentsGetX2(box), 90, 1e-6);
+    EXPECT_NEAR(BoxOf(drawing.Root()).left, 10, 1e-6);
+    EXPECT_NEAR(BoxOf(drawing.Root()).right, 90, 1e-6);
 }
 
 TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
@@ -87,7 +76,6 @@ TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
     EXPECT_EQ(picture.At(45, 55), kBlue) << "through two levels";
     EXPECT_EQ(picture.At(65, 55), kGreen) << "layer 0 in a block is the insertion's layer";
     LayerSet(drawing, green, kGreen, kLayerOff, 0);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     Draw();
     EXPECT_EQ(picture.Covered(), 0);
 }
@@ -96,9 +84,7 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     const uint16_t own = TableEntryAdd(drawing.Table(kTableLayers), "Own", nullptr);
     const uint16_t hidden = TableEntryAdd(drawing.Table(kTableLayers), "Hidden", nullptr);
     const uint16_t flag = FlagBlock("FLAG");
-    uint32_t position;
-    SetWhole(GraphicFirst(BlockGetGraphic(drawing.Table(kTableBlocks), flag), &position, 1, 0), kPropLayer,
-             own);
+    SetWhole(Members(BlockGetGraphic(drawing.Table(kTableBlocks), flag))[0], kPropLayer, own);
     GraphicStruct* insert = drawing.Add(Insert(flag, 10, 10, 20, 20));
     SetWhole(insert, kPropLayer, hidden);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
@@ -106,7 +92,6 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     EXPECT_EQ(picture.At(20, 20), kRed);
     EXPECT_EQ(picture.At(35, 15), kWhite);
     LayerSet(drawing, hidden, 0, kLayerFrozen, 0);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     Draw();
     EXPECT_EQ(picture.Covered(), 0) << "frozen hides it all";
 }
@@ -119,9 +104,7 @@ TEST_F(Inserts, OfABlockThatIsGoneShowNothing) {
     BlockDispose(blocks, flag);
     EXPECT_EQ(BlocksFindBlock(blocks, "FLAG"), 0);
     EXPECT_EQ(BlockGetGraphic(blocks, flag), nullptr);
-    GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
-    EXPECT_FALSE(InsertSetData(insert, blocks, flag, nullptr));
-    GraphicDispose(&insert);
+    EXPECT_FALSE(InsertSetData(Loose(GraphicNewEx(kGraphicInsert, 0, 1)), blocks, flag, nullptr));
     Draw();
     EXPECT_EQ(picture.Covered(), 0);
 }
@@ -132,7 +115,7 @@ TEST_F(Inserts, FollowTheirBlock) {
     GraphicAdd(outer, Insert(flag, 1, 0, 1, 1));
     const uint16_t nested = BlocksAddBlock(drawing.Table(kTableBlocks), "NESTED", outer);
     drawing.Add(Insert(nested, 10, 10, 20, 20));
-    const auto right = [&] { return ExtentsGetX2(GraphicGetExtentsSel(drawing.Root(), 0)); };
+    const auto right = [&] { return BoxOf(drawing.Root()).right; };
     EXPECT_NEAR(right(), 60, 1e-9);
     GraphicAdd(BlockGetGraphic(drawing.Table(kTableBlocks), flag), MakeSquare(1, 0, 2));
     EXPECT_NEAR(right(), 90, 1e-9) << "through the block between them";
@@ -149,28 +132,24 @@ TEST_F(Inserts, FollowTheirBlock) {
 // As the attributes of a block, which lie in the drawing, and what is in an array.
 TEST_F(Inserts, TakeTheirMembersAlong) {
     for (const double flat : {1.0, 0.0}) {
-        GraphicStruct* insert = Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20);
+        const Loose insert(Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20));
         GraphicAdd(insert, MakeSquare(20, 30, 4));
         GraphicAttach(insert, drawing);
-        const auto box = [&] {
-            std::array<double, 4> sides{};
-            ExtentsGetBox(GraphicGetExtentsSel(insert, 0), sides.data());
-            return sides;
+        const auto expectBox = [&](const Box& expected) {
+            EXPECT_NEAR(BoxOf(insert).left, expected.left, 1e-9);
+            EXPECT_NEAR(BoxOf(insert).bottom, expected.bottom, 1e-9);
+            EXPECT_NEAR(BoxOf(insert).right, expected.right, 1e-9);
+            EXPECT_NEAR(BoxOf(insert).top, expected.top, 1e-9);
         };
-        EXPECT_EQ(box(), (std::array<double, 4>{10, 10, 40, 34}));
-        VertexStruct* corners[4];
-        int cookie = 0;
-        corners[0] = GraphicVertexFirst(insert, &cookie, 0, 0xFFFF);
-        for (int i = 1; i < 4; ++i)
-            corners[i] = GraphicVertexNext(insert, &cookie, 0, 0xFFFF);
+        expectBox({10, 10, 40, 34});
         // Twice as large at (100, 0), a quarter turned to the left.
         const double turned[4][3] = {{100, 0, 0}, {100, 40, 0}, {60, 0, 0}, {100, 0, flat}};
-        for (int i = 0; i < 4; ++i)
-            VertexSet(corners[i], turned[i][0], turned[i][1], turned[i][2]);
-        const std::array<double, 4> expected = {52, 0, 100, 60};
-        for (size_t i = 0; i < 4; ++i)
-            EXPECT_NEAR(box()[i], expected[i], 1e-9) << i;
-        GraphicDispose(&insert);
+        int i = 0;
+        for (VertexStruct* corner : orlo::host::Vertices(insert)) {
+            VertexSet(corner, turned[i][0], turned[i][1], turned[i][2]);
+            ++i;
+        }
+        expectBox({52, 0, 100, 60});
     }
 }
 
@@ -196,7 +175,7 @@ TEST_F(Inserts, ThatMultiplyWithoutEndComeToAnEnd) {
     GraphicStruct* bomb = drawing.Add(Insert(block, 10, 10, 20, 20));
     Draw();
     EXPECT_EQ(picture.At(20, 20), kRed);
-    EXPECT_NEAR(ExtentsGetX2(GraphicGetExtentsSel(bomb, 0)), 40, 1e-9);
+    EXPECT_NEAR(BoxOf(bomb).right, 40, 1e-9);
 }
 
 TEST_F(Inserts, InsideEachOtherBeyondAllDepthShowNothingThere) {

@@ -6,15 +6,17 @@
 
 #include <windows.h>
 
-#include <wtypes.h>
+#include "orlo/host/walk.h"
+
+using orlo::host::OwnedMatrix;
+using orlo::host::OwnedVertex;
 
 GraphicStruct* MakeLines(const std::vector<P>& points) {
     GraphicStruct* graphic = GraphicNewEx(kGraphicVertices, 0, 1);
     for (const P& p : points) {
-        VertexStruct* vertex = VertexNewEx(p.x, p.y, 0);
+        const OwnedVertex vertex(VertexNewEx(p.x, p.y, 0));
         if (!p.drawn) vertex->wFlags = 0;
-        GraphicVertexAdd(graphic, vertex);
-        VertexDispose(&vertex);
+        GraphicVertexAdd(graphic, vertex.get());
     }
     return graphic;
 }
@@ -24,68 +26,50 @@ GraphicStruct* MakeSquare(double left, double bottom, double size) {
     return MakeLines({{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
 }
 
-namespace {
-
-bool Set(GraphicStruct* graphic, const char* name, int vt, const void* value) {
-    const PropertyTable* table = GraphicGetVtbl(graphic);
-    int32_t number;
-    return table && table->PropLookup(graphic, &name, 1, 0, &number) &&
-           table->PropSet(graphic, number, vt, value);
+GraphicStruct* MakeText(const char* text, P at, double height, double angle, double width) {
+    GraphicStruct* graphic = GraphicNewEx(kGraphicText, 0, 1);
+    TextSetVWHAEx(graphic, OwnedVertex(VertexNewEx(at.x, at.y, 0)).get(), width, height, angle, text);
+    SetText(graphic, kPropTextFont, "Tahoma");
+    return graphic;
 }
 
-bool Get(GraphicStruct* graphic, const char* name, int vt, void* value) {
-    const PropertyTable* table = GraphicGetVtbl(graphic);
-    int32_t number;
-    return table && table->PropLookup(graphic, &name, 1, 0, &number) &&
-           table->PropGet(graphic, number, vt, value);
+GraphicStruct* MakeInsert(TableStruct* blocks, uint16_t block, P at, double sx, double sy, double angle) {
+    const OwnedMatrix scaled(MatrixScale(nullptr, OwnedVertex(VertexNewEx(sx, sy, 1)).get(), 0));
+    const OwnedMatrix turned(MatrixRotateZ(scaled.get(), angle, 0));
+    const OwnedMatrix placed(MatrixOffset(turned.get(), OwnedVertex(VertexNewEx(at.x, at.y, 0)).get()));
+    GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
+    InsertSetData(insert, blocks, block, placed.get());
+    return insert;
 }
 
-} // namespace
-
-bool SetWhole(GraphicStruct* graphic, const char* name, uint32_t value) {
-    return Set(graphic, name, VT_UI4, &value);
+void AddVertex(GraphicStruct* graphic, double x, double y) {
+    GraphicVertexAdd(graphic, OwnedVertex(VertexNewEx(x, y, 0)).get());
 }
 
-bool SetReal(GraphicStruct* graphic, const char* name, double value) {
-    return Set(graphic, name, VT_R8, &value);
+std::vector<GraphicStruct*> Members(GraphicStruct* set, uint32_t filter) {
+    std::vector<GraphicStruct*> members;
+    for (GraphicStruct* member : orlo::host::Members(set, filter))
+        members.push_back(member);
+    return members;
 }
 
-bool SetText(GraphicStruct* graphic, const char* name, const char* value) {
-    return Set(graphic, name, VT_BSTR, value);
+Box BoxOf(GraphicStruct* graphic) {
+    double box[4] = {};
+    ExtentsGetBox(GraphicGetExtentsSel(graphic, 0), box);
+    return {box[0], box[1], box[2], box[3]};
 }
 
-uint32_t GetWhole(GraphicStruct* graphic, const char* name) {
-    uint32_t value = 0xDEAD;
-    Get(graphic, name, VT_UI4, &value);
-    return value;
-}
-
-double GetReal(GraphicStruct* graphic, const char* name) {
-    double value = -999;
-    Get(graphic, name, VT_R8, &value);
-    return value;
-}
-
-std::string GetText(GraphicStruct* graphic, const char* name) {
-    char* value = nullptr;
-    Get(graphic, name, VT_BSTR, &value);
-    const std::string copy = value ? value : "(null)";
-    BStringNULL(&value);
-    return copy;
-}
-
-Picture::Picture(DrawingStruct* drawing) : m_pixels(101, 101), m_viewport(ViewportNewEx()) {
+Picture::Picture(DrawingStruct* drawing) : m_viewport(ViewportNewEx()) {
     const RECT rect = {0, 0, 101, 101};
-    GraphicStruct* frame = MakeSquare(0, 0, 100);
-    ViewportSetRect(m_viewport, &rect);
-    ViewportSetExtents(m_viewport, GraphicGetExtentsSel(frame, 0), 3);
-    ViewportSetGDIStuff(m_viewport, nullptr, m_pixels.DC(), MM_TEXT, 1);
-    ViewportSetDrawing(m_viewport, drawing);
-    GraphicDispose(&frame);
+    ViewportSetRect(Viewport(), &rect);
+    ViewportSetExtents(Viewport(), GraphicGetExtentsSel(Loose(MakeSquare(0, 0, 100)), 0), 3);
+    ViewportSetGDIStuff(Viewport(), nullptr, m_pixels.DC(), MM_TEXT, 1);
+    ViewportSetDrawing(Viewport(), drawing);
 }
 
-Picture::~Picture() {
-    ViewportDispose(&m_viewport);
+void Picture::Draw(GraphicStruct* graphic, int preview, COLORREF paper) {
+    m_pixels.Clear(paper);
+    GraphicDrawEx2(graphic, nullptr, Viewport(), preview, 1);
 }
 
 int Picture::Covered(int left, int bottom, int right, int top) const {

@@ -12,6 +12,8 @@
 #include <drawcore/view.h>
 
 #include "orlo/host/host.h"
+#include "orlo/host/owners.h"
+#include "orlo/host/property.h"
 #include "support/pixels.h"
 #include "support/test_drawing.h"
 
@@ -20,17 +22,51 @@ struct P {
     bool drawn = true;
 };
 
-// A vertex graphic that belongs to nobody.
+// Graphics that belong to nobody.
 GraphicStruct* MakeLines(const std::vector<P>& points);
 GraphicStruct* MakeSquare(double left, double bottom, double size);
+// In Tahoma; as wide as its letters if width is 0.
+GraphicStruct* MakeText(const char* text, P at, double height, double angle = 0, double width = 0);
+GraphicStruct* MakeInsert(TableStruct* blocks, uint16_t block, P at, double sx, double sy, double angle = 0);
 
-// Values by name; false if the graphic has no such property, or refuses.
-bool SetWhole(GraphicStruct*, const char* name, uint32_t value);
-bool SetReal(GraphicStruct*, const char* name, double value);
-bool SetText(GraphicStruct*, const char* name, const char* value);
-uint32_t GetWhole(GraphicStruct*, const char* name);
-double GetReal(GraphicStruct*, const char* name);
-std::string GetText(GraphicStruct*, const char* name);
+void AddVertex(GraphicStruct* graphic, double x, double y);
+std::vector<GraphicStruct*> Members(GraphicStruct* set, uint32_t filter = kAllGraphics);
+
+struct Box {
+    double left, bottom, right, top;
+};
+Box BoxOf(GraphicStruct* graphic);
+
+// Disposes of a graphic that belongs to nobody.
+class Loose {
+public:
+    explicit Loose(GraphicStruct* graphic) : m_graphic(graphic) {}
+    operator GraphicStruct*() const { return m_graphic.get(); }
+    GraphicStruct* operator->() const { return m_graphic.get(); }
+
+private:
+    orlo::host::OwnedGraphic m_graphic;
+};
+
+// Values by name; false, or a value that nothing else has, if the graphic has no such property, or refuses.
+inline bool SetWhole(GraphicStruct* graphic, const char* name, uint32_t value) {
+    return orlo::host::WriteProperty(graphic, name, value);
+}
+inline bool SetReal(GraphicStruct* graphic, const char* name, double value) {
+    return orlo::host::WriteProperty(graphic, name, value);
+}
+inline bool SetText(GraphicStruct* graphic, const char* name, const std::string& value) {
+    return orlo::host::WriteProperty(graphic, name, value);
+}
+inline uint32_t GetWhole(GraphicStruct* graphic, const char* name) {
+    return orlo::host::ReadProperty<uint32_t>(graphic, name).value_or(0xDEAD);
+}
+inline double GetReal(GraphicStruct* graphic, const char* name) {
+    return orlo::host::ReadProperty<double>(graphic, name).value_or(-999);
+}
+inline std::string GetText(GraphicStruct* graphic, const char* name) {
+    return orlo::host::ReadProperty<std::string>(graphic, name).value_or("(none)");
+}
 
 // A drawing that takes graphics and is passed as what the host's functions take.
 class OwnDrawing : public TestDrawing {
@@ -44,14 +80,10 @@ public:
 class Picture {
 public:
     explicit Picture(DrawingStruct*);
-    ~Picture();
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
 
-    void Draw(GraphicStruct* graphic, int preview = 0) {
-        GraphicDrawEx2(graphic, nullptr, m_viewport, preview, 1);
-    }
-    ViewportStruct* Viewport() const { return m_viewport; }
+    // The graphic alone, on paper of that colour.
+    void Draw(GraphicStruct* graphic, int preview = 0, COLORREF paper = RGB(255, 255, 255));
+    ViewportStruct* Viewport() const { return m_viewport.get(); }
     const Pixels& Bits() const { return m_pixels; }
     HDC DC() const { return m_pixels.DC(); }
     // The colour at a point of the drawing.
@@ -61,8 +93,8 @@ public:
     int Covered() const { return Covered(0, 0, 100, 100); }
 
 private:
-    Pixels m_pixels;
-    ViewportStruct* m_viewport;
+    Pixels m_pixels{101, 101};
+    orlo::host::OwnedViewport m_viewport;
 };
 
 // Nothing that was made since the construction is left.

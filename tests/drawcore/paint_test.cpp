@@ -51,7 +51,6 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     EXPECT_EQ(picture.Covered(0, 20, 9, 40), 0) << "cut off flat";
     // Twice as near: the drawing's width grows, the plotter's pen doesn't.
     ViewportZoom(picture.Viewport(), {50, 50}, 2);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     Draw();
     EXPECT_EQ(picture.Covered(50, 0, 50, 40), 16);
     EXPECT_EQ(picture.Covered(50, 60, 50, 100), 6);
@@ -83,9 +82,8 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
         y += 10;
     }
     // The layer's colour can be its own: white is seen on black as it is, and black is not.
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, BLACKNESS);
     ViewportSetBackground(picture.Viewport(), kBlack);
-    Draw();
+    picture.Draw(drawing.Root(), 0, kBlack);
     EXPECT_EQ(picture.At(50, 50), kWhite);
     EXPECT_EQ(picture.At(50, 30), kWhite);
 }
@@ -197,33 +195,31 @@ TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
 TEST_F(Paint, FillsFollowTheDrawMode) {
     // Two squares that overlap, in one stroke each.
     for (const uint32_t mode : {0u, 1u}) {
-        GraphicStruct* shape = MakeLines({{10, 10},
-                                          {60, 10},
-                                          {60, 60},
-                                          {10, 60},
-                                          {10, 10},
-                                          {40, 40, false},
-                                          {90, 40},
-                                          {90, 90},
-                                          {40, 90},
-                                          {40, 40}});
+        const Loose shape(MakeLines({{10, 10},
+                                     {60, 10},
+                                     {60, 60},
+                                     {10, 60},
+                                     {10, 10},
+                                     {40, 40, false},
+                                     {90, 40},
+                                     {90, 90},
+                                     {40, 90},
+                                     {40, 40}}));
         SetWhole(shape, kPropBrushStyle, 1);
         SetWhole(shape, kPropBrushColor, kBlue);
         SetWhole(shape, kPropBrushDrawMode, mode);
         SetWhole(shape, kPropPenStyle, 0);
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(shape);
         EXPECT_EQ(picture.At(20, 20), kBlue);
         EXPECT_EQ(picture.At(80, 80), kBlue);
         EXPECT_EQ(picture.At(50, 50), mode ? kBlue : kWhite);
         EXPECT_EQ(picture.At(30, 80), kWhite);
-        GraphicDispose(&shape);
     }
 }
 
 TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
-    GraphicStruct* shape =
-        MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}});
+    const Loose shape(
+        MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
     SetWhole(shape, kPropBrushStyle, 1);
     SetWhole(shape, kPropBrushColor, kColorOfPen);
     SetWhole(shape, kPropPenColor, kRed);
@@ -232,11 +228,10 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's colour";
     EXPECT_EQ(picture.At(5, 95), kWhite) << "the excursion shows no line";
     EXPECT_EQ(picture.Covered(), 81 * 81);
-    GraphicDispose(&shape);
 }
 
 TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
-    GraphicStruct* square = MakeSquare(10, 10, 80);
+    const Loose square(MakeSquare(10, 10, 80));
     SetWhole(square, kPropPenStyle, 0);
     SetWhole(square, kPropBrushColor, kBlue);
     SetReal(square, kPropBrushScale, 10);
@@ -244,7 +239,6 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
         SetWhole(square, kPropBrushStyle, style);
         SetReal(square, kPropBrushAngle, angle);
         SetWhole(square, kPropHatchCross, cross);
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 90, 90)) << "nothing outside";
         return std::pair(picture.Covered(55, 10, 55, 90), picture.Covered(10, 55, 90, 55));
@@ -254,17 +248,15 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     EXPECT_EQ(rows(horizontal, 0, 0).second, 0);
     EXPECT_NEAR(rows(horizontal, 1.5707963267948966, 0).second, 8, 1) << "turned";
     EXPECT_NEAR(rows(horizontal, 0, 1).second, 8, 1) << "crossed";
-    GraphicDispose(&square);
 }
 
 TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
-    GraphicStruct* square = MakeSquare(10, 10, 79);
+    const Loose square(MakeSquare(10, 10, 79));
     SetWhole(square, kPropPenStyle, 0);
     SetWhole(square, kPropBrushColor, kBlue);
     TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto draw = [&](const char* style) {
         SetWhole(square, kPropBrushStyle, TableEntryGetIDFirst(styles, nullptr, style));
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 89, 89)) << "nothing outside";
         return picture.Covered(16, 16, 79, 79) / 4096.0; // whole tiles
@@ -278,14 +270,12 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
     for (int x = 20; x < 28; ++x)
         blue += picture.At(x, 50) == kBlue;
     EXPECT_EQ(blue, 4);
-    GraphicDispose(&square);
 }
 
 TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
-    GraphicStruct* circle = GraphicNewEx(kGraphicPenBrush, 0, 1); // unit circle
+    const Loose circle(GraphicNewEx(kGraphicPenBrush, 0, 1)); // unit circle
     picture.Draw(circle);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), 3);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(circle);
     for (int degrees = 0; degrees < 360; ++degrees) {
         const double x = 50 + 50 * std::cos(degrees * 0.0174532925),
@@ -294,37 +284,30 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
         EXPECT_GT(picture.Covered(cx - 1, cy - 1, cx + 1, cy + 1), 0) << degrees;
     }
     EXPECT_EQ(picture.Covered(20, 20, 80, 80), 0);
-    GraphicDispose(&circle);
 }
 
 // What no device takes: numbers out of all bounds, and none.
 TEST_F(Paint, SurvivesWhatIsFarAway) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
-        GraphicStruct* shape =
-            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}});
+        const Loose shape(
+            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
         SetWhole(shape, kPropBrushStyle, 1);
         SetWhole(shape, kPropBrushColor, kBlue);
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
         picture.Draw(shape);
         // Beyond, the digits of a double no longer tell where in the view an edge is.
         if (away <= 1e15) {
             EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view lies inside";
         }
-        GraphicStruct* line = MakeLines({{-away, 50}, {away, 50}});
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        const Loose line(MakeLines({{-away, 50}, {away, 50}}));
         picture.Draw(line);
         if (away <= 1e15) {
             EXPECT_EQ(picture.Covered(), 101) << away;
         }
-        GraphicDispose(&shape);
-        GraphicDispose(&line);
     }
     for (const double none : {static_cast<double>(NAN), HUGE_VAL}) {
-        GraphicStruct* line = MakeLines({{10, 10}, {none, 50}, {90, 90}});
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        const Loose line(MakeLines({{10, 10}, {none, 50}, {90, 90}}));
         picture.Draw(line);
         EXPECT_EQ(picture.Covered(), 0);
-        GraphicDispose(&line);
     }
 }
 
@@ -333,10 +316,7 @@ TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
              LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
     SetWhole(square, kPropBrushStyle, 1);
-    GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
-    VertexStruct* vertex = VertexNewEx(10, 10, 0);
-    TextSetVWHAEx(text, vertex, 0, 10, 0.5, "Text");
-    VertexDispose(&vertex);
+    drawing.Add(MakeText("Text", {10, 10}, 10, 0.5));
     HDC dc = picture.DC();
     ::SetTextAlign(dc, TA_RIGHT);
     ::SetBkMode(dc, OPAQUE);
@@ -372,7 +352,7 @@ TEST_F(Paint, StaysInTheRectangle) {
 TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
     const RECT wide = {0, 0, 101, 51};
     ViewportSetRect(picture.Viewport(), &wide);
-    GraphicStruct* square = MakeSquare(1000, 1000, 2);
+    const Loose square(MakeSquare(1000, 1000, 2));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(square, 0), 3);
     picture.Draw(square);
     EXPECT_EQ(picture.Bits().At(25, 10), kBlack);
@@ -381,31 +361,26 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
     EXPECT_EQ(picture.Bits().At(50, 50), kBlack);
     EXPECT_EQ(picture.Covered(), 200);
     // Without a height, without both, without anything: still a picture, in the middle.
-    GraphicStruct* flat = MakeLines({{0, 7}, {4, 7}});
+    const Loose flat(MakeLines({{0, 7}, {4, 7}}));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), 3);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(flat);
     EXPECT_EQ(picture.Covered(), 101);
     EXPECT_EQ(picture.Bits().At(0, 25), kBlack);
-    GraphicStruct* point = MakeLines({{3, 3}});
+    const Loose point(MakeLines({{3, 3}}));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(point, 0), 3);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(point);
     EXPECT_EQ(picture.Covered(), 1) << "a point is a dot";
     EXPECT_EQ(picture.Bits().At(50, 25), kBlack);
-    GraphicStruct* nothing = GraphicNewEx(kGraphicVertices, 0, 1);
+    const Loose nothing(GraphicNewEx(kGraphicVertices, 0, 1));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(nothing, 0), 3);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(nothing);
     EXPECT_EQ(picture.Covered(), 0);
-    for (GraphicStruct* graphic : {square, flat, point, nothing})
-        GraphicDispose(&graphic);
 }
 
 TEST_F(Paint, PreviewsShowPensAtFullSize) {
     // A sample in the unit square, fitted to 100 pixels; its dashes and widths are those of paper all the same.
     const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimetre = inch / 25.4;
-    GraphicStruct* sample = MakeLines({{0, 0.5}, {1, 0.5}});
+    const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), 3);
     SetWhole(sample, kPropPenColor, kRed);
@@ -414,14 +389,12 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimetre, 1);
     SetReal(sample, kPropPenWidth, 1000);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 25, 1) << "never more than a quarter of the pane";
     SetReal(sample, kPropPenWidth, 0);
     SetWhole(sample, kPropPenAlignment, 0);
     const double dashes[] = {3, -3};
     SetWhole(sample, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
     picture.Draw(sample, 1);
     int changes = 0;
     for (int x = 1; x <= 100; ++x)
@@ -432,11 +405,9 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);
     TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
     SetWhole(sample, kPropPenColor, 0);
-    ::PatBlt(picture.DC(), 0, 0, 101, 101, BLACKNESS);
-    picture.Draw(sample, 1);
+    picture.Draw(sample, 1, kBlack);
     EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";
     TableSetIntVar(application->pVariables, kVarPreviewBackground, before);
-    GraphicDispose(&sample);
 }
 
 } // namespace

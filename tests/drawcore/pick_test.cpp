@@ -18,18 +18,12 @@ protected:
     }
     // Within a rectangle of drawing units; the members in the order of drawing.
     std::vector<GraphicStruct*> Within(int left, int bottom, int right, int top, int crossing) {
-        GraphicStruct* selection = SelectionNew();
+        const Loose selection(SelectionNew());
         const RECT rect = {left, 100 - top, right, 100 - bottom};
         const int added =
             ViewportPickWindow(picture.Viewport(), drawing.Root(), &rect, crossing, 0xFFFFFFFF, selection);
-        std::vector<GraphicStruct*> found;
-        uint32_t position;
-        for (GraphicStruct* g = GraphicFirst(selection, &position, 1, 0); g;
-             g = GraphicNext(selection, &position, 1, 0))
-            found.push_back(g);
-        EXPECT_EQ(added, static_cast<int>(found.size()));
-        GraphicDispose(&selection);
-        return found;
+        EXPECT_EQ(added, SelectionCount(selection));
+        return Members(selection);
     }
 
     OwnDrawing drawing;
@@ -86,20 +80,11 @@ TEST_F(Pick, CountsWidthsAndFilledAreas) {
 }
 
 TEST_F(Pick, FindsTextsByTheirBoxAndInsertionsAsAWhole) {
-    GraphicStruct* text = GraphicNewEx(kGraphicText, 0, 1);
-    VertexStruct* vertex = VertexNewEx(10, 80, 0);
-    TextSetVWHAEx(text, vertex, 60, 10, 0, "i i i");
-    drawing.Add(text);
+    GraphicStruct* text = drawing.Add(MakeText("i i i", {10, 80}, 10, 0, 60));
     EXPECT_EQ(At(40, 85), text);
     EXPECT_EQ(At(40, 60), nullptr);
     const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "B", MakeSquare(0, 0, 20));
-    GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
-    VertexSet(vertex, 30, 30, 0);
-    MatrixStruct* placed = MatrixOffset(nullptr, vertex);
-    InsertSetData(insert, drawing.Table(kTableBlocks), block, placed);
-    MatrixDispose(&placed);
-    VertexDispose(&vertex);
-    drawing.Add(insert);
+    GraphicStruct* insert = drawing.Add(MakeInsert(drawing.Table(kTableBlocks), block, {30, 30}, 1, 1));
     EXPECT_EQ(At(50, 40), insert);
     EXPECT_EQ(At(40, 40), nullptr);
 }
@@ -156,13 +141,12 @@ TEST_F(Pick, HighlightsInOneColour) {
     GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     const double dashes[] = {5, -5};
     SetWhole(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
-    GraphicStruct* selection = SelectionNew();
+    const Loose selection(SelectionNew());
     SelectionAdd(selection, line);
     GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));
     const RECT all = {0, 0, 101, 101};
     EXPECT_NEAR(picture.Bits().Count(all, RGB(0, 120, 215)), 81 * 3, 6) << "solid and three pixels wide";
     EXPECT_EQ(picture.Covered(), picture.Bits().Count(all, RGB(0, 120, 215)));
-    GraphicDispose(&selection);
 }
 
 } // namespace

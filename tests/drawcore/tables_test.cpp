@@ -10,13 +10,13 @@
 #include <drawcore/units.h>
 
 #include "drawcore/kit.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
 std::vector<uint16_t> Walk(TableStruct* table) {
     std::vector<uint16_t> ids;
-    int cookie = 12345; // needs no start value
-    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie))
+    for (const uint16_t id : orlo::host::Entries(table))
         ids.push_back(id);
     return ids;
 }
@@ -174,7 +174,6 @@ TEST_F(Tables, HoldLayers) {
     EXPECT_FALSE(LayerGetVisible(drawing, 999));
 }
 
-// Every call on a table or drawing that is gone has an answer.
 TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
     TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto id = [&](const char* name) { return TableEntryGetIDFirst(styles, nullptr, name); };
@@ -211,6 +210,7 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
     EXPECT_EQ(BrushStyleAddLines(styles, "weave", lines, 2), 0) << "the name is taken";
 }
 
+// Every call on a table or drawing that is gone has an answer.
 TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
     TableStruct* styles = drawing.Table(kTableLineStyles);
     TableStruct* units = drawing.Table(kTableUnits);

@@ -4,8 +4,6 @@
 
 #include <cmath>
 
-#include <drawcore/undo.h>
-
 #include "drawcore/kit.h"
 #include "drawcore/src/graphics/text_graphic.h"
 
@@ -15,21 +13,10 @@ class Texts : public testing::Test {
 protected:
     GraphicStruct* Text(const char* string, double x, double y, double height, double angle = 0,
                         double width = 0) {
-        GraphicStruct* text = GraphicNewEx(kGraphicText, 0, 1);
-        VertexStruct* vertex = VertexNewEx(x, y, 0);
-        EXPECT_TRUE(TextSetVWHAEx(text, vertex, width, height, angle, string));
-        VertexDispose(&vertex);
-        SetText(text, kPropTextFont, "Tahoma");
-        return drawing.Add(text);
+        return drawing.Add(MakeText(string, {x, y}, height, angle, width));
     }
-    void Draw() {
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
-        picture.Draw(drawing.Root());
-    }
-    double Width(GraphicStruct* text) {
-        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
-        return ExtentsGetX2(box) - ExtentsGetX1(box);
-    }
+    void Draw() { picture.Draw(drawing.Root()); }
+    double Width(GraphicStruct* text) { return BoxOf(text).right - BoxOf(text).left; }
 
     OwnDrawing drawing;
     Picture picture{drawing};
@@ -48,8 +35,7 @@ TEST_F(Texts, AreJustifiedAroundTheirPosition) {
     GraphicStruct* text = Text("HOHO", 50, 50, 10);
     for (const uint32_t format : {0u, 1u, 2u}) {
         ASSERT_TRUE(SetWhole(text, kPropTextFormat, format));
-        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
-        const double left = ExtentsGetX1(box), right = ExtentsGetX2(box);
+        const double left = BoxOf(text).left, right = BoxOf(text).right;
         EXPECT_NEAR((50 - left) / (right - left), format / 2.0, 1e-9);
         Draw();
         EXPECT_GT(picture.Covered(), 50);
@@ -95,8 +81,7 @@ TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
     const int narrow = covered(L"\x05D9"), digits = covered(L"8888");
     const int apart = 4 * narrow + digits;
     EXPECT_NEAR(covered(L"\x05D9\x05D9\x05D9\x05D9 8888"), apart, apart / 20);
-    const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
-    const int right = static_cast<int>(ExtentsGetX2(box));
+    const int right = static_cast<int>(BoxOf(text).right);
     EXPECT_EQ(picture.Covered(right + 2, 0, 100, 100), 0);
     EXPECT_GT(picture.Covered(right - 5, 0, right + 1, 100), 10);
 }
@@ -111,9 +96,7 @@ TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     char current[64] = "";
     EXPECT_TRUE(TableGetStringVar(drawing.Table(kTableUnits), kUnitFontName, current, sizeof current));
     EXPECT_EQ(GetText(text, kPropTextFont), current);
-    const HDC dc = ::GetDC(nullptr);
-    EXPECT_EQ(::EnumFontFamiliesA(dc, current, Found, 0), 77) << current;
-    ::ReleaseDC(nullptr, dc);
+    EXPECT_EQ(::EnumFontFamiliesA(WindowDC(nullptr).get(), current, Found, 0), 77) << current;
     EXPECT_TRUE(SetText(text, kPropTextFont, "Nobody's Face"));
     EXPECT_EQ(GetText(text, kPropTextFont), "Nobody's Face") << "what it was told, whoever draws it";
 }
@@ -143,9 +126,8 @@ TEST_F(Texts, TurnAndKeepInsideTheirExtents) {
     for (int step = 0; step < 8; ++step) {
         GraphicStruct* text = Text("Turn", 50, 50, 10, step * 0.7853981634);
         Draw();
-        const ExtentsStruct* box = GraphicGetExtentsSel(text, 0);
-        const int left = static_cast<int>(std::floor(ExtentsGetX1(box))),
-                  right = static_cast<int>(std::ceil(ExtentsGetX2(box)));
+        const int left = static_cast<int>(std::floor(BoxOf(text).left)),
+                  right = static_cast<int>(std::ceil(BoxOf(text).right));
         EXPECT_GT(picture.Covered(), 30) << step;
         EXPECT_EQ(picture.Covered(left - 1, 0, right + 1, 100), picture.Covered()) << step;
         GraphicDelete(drawing.Root(), text);
@@ -159,23 +141,13 @@ TEST_F(Texts, AreMirroredWithTheirInsertion) {
     GraphicDelete(drawing.Root(), text);
     const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "L", text);
     for (const double side : {40.0, -40.0}) {
-        GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
-        VertexStruct* vertex = VertexNewEx(side, 40, 1);
-        MatrixStruct* scaled = MatrixScale(nullptr, vertex, 0);
-        VertexSet(vertex, 50, 30, 0);
-        MatrixStruct* placed = MatrixOffset(scaled, vertex);
-        InsertSetData(insert, drawing.Table(kTableBlocks), block, placed);
-        MatrixDispose(&scaled);
-        MatrixDispose(&placed);
-        VertexDispose(&vertex);
-        ::PatBlt(picture.DC(), 0, 0, 101, 101, WHITENESS);
+        const Loose insert(MakeInsert(drawing.Table(kTableBlocks), block, {50, 30}, side, 40));
         picture.Draw(insert);
         const int left = picture.Covered(0, 30, 49, 72), right = picture.Covered(51, 30, 100, 72);
         EXPECT_GT(side > 0 ? right : left, 50);
         EXPECT_EQ(side > 0 ? left : right, 0);
         const int upper = picture.Covered(0, 50, 100, 72), lower = picture.Covered(0, 28, 100, 49);
         EXPECT_GT(lower, upper) << "the foot is below";
-        GraphicDispose(&insert);
     }
 }
 
@@ -188,20 +160,6 @@ TEST_F(Texts, BreakIntoLines) {
     EXPECT_EQ(picture.Covered(40, 75, 60, 78), 0) << "between the lines";
     EXPECT_EQ(picture.Covered(40, 0, 60, 44), 0);
     EXPECT_LT(Width(text), 12);
-}
-
-TEST_F(Texts, ComeBackByUndo) {
-    GraphicStruct* text = Text("Text", 0, 0, 5);
-    const double width = Width(text);
-    DrawingBeginUndo(drawing);
-    SetReal(text, kPropTextSize, 50);
-    SetText(text, kPropTextFont, "DejaVu Sans");
-    SetWhole(text, kPropTextStyle, 2);
-    EXPECT_EQ(DrawingEndUndo(drawing), 1);
-    EXPECT_GT(Width(text), 5 * width);
-    DrawingUndo(drawing);
-    EXPECT_EQ(Width(text), width);
-    EXPECT_EQ(GetText(text, kPropTextFont), "Tahoma");
 }
 
 } // namespace

@@ -8,10 +8,10 @@
 #include <windows.h>
 
 #include "drawcore/include/drawcore/census.h"
-#include "drawcore/include/drawcore/drawing.h"
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/include/drawcore/graphic.h"
 #include "drawcore/include/drawcore/layer.h"
+#include "drawcore/include/drawcore/owned_drawing.h"
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/geometry/extents.h"
@@ -24,11 +24,6 @@
 #include "tests/dxf/test_files.h"
 
 namespace {
-
-struct DisposeDrawing {
-    void operator()(DrawingStruct* drawing) const { DrawingDispose(&drawing); }
-};
-using OwnedDrawing = std::unique_ptr<DrawingStruct, DisposeDrawing>;
 
 struct Heard {
     std::vector<int> progress;

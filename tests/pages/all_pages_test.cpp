@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "demo/automation/drawing_state.h"
 #include "drawcore/census.h"
 #include "drawcore/undo.h"
 #include "orlo/resources/resource.h"
 #include "pages/every_kind.h"
-#include "support/database_dump.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/object_counts.h"
@@ -42,7 +42,10 @@ protected:
         return titles;
     }
 
-    std::vector<std::string> Dump() const { return DumpDrawing(kinds.Drawing()); }
+    DrawingState State() const { return DrawingState(kinds.Drawing()); }
+    void ExpectUnchanged(const DrawingState& before) const {
+        EXPECT_EQ(before.DifferencesTo(State(), 1), std::vector<std::string>());
+    }
 
     EveryKind kinds;
     HostFrame frame;
@@ -69,7 +72,7 @@ TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
 // Every page is seen, and left by its tab; in the end OK.
 TEST_F(AllPages, UntouchedPagesWriteNothing) {
     kinds.Select(kEverything);
-    const std::vector<std::string> before = Dump();
+    const DrawingState before = State();
     for (const bool ok : {true, false}) {
         ::DrawingBeginUndo(kinds.Drawing());
         auto sheet = kinds.NewSheet();
@@ -83,7 +86,7 @@ TEST_F(AllPages, UntouchedPagesWriteNothing) {
         });
         sheet.reset(); // with the block of its preview
         EXPECT_EQ(0, ::DrawingEndUndo(kinds.Drawing()));
-        EXPECT_EQ("", FirstDifference(before, Dump()));
+        ExpectUnchanged(before);
     }
 }
 
@@ -142,7 +145,7 @@ TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
                       {4, IDC_SCALE_X, "5000"},
                       {4, IDC_POSITION_X, "far"}};
     kinds.Select(kEverything);
-    const std::vector<std::string> before = Dump();
+    const DrawingState before = State();
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         auto sheet = kinds.NewSheet();
@@ -158,7 +161,7 @@ TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
             EXPECT_FALSE(boxes.Boxes().empty());
         });
         sheet.reset();
-        EXPECT_EQ("", FirstDifference(before, Dump()));
+        ExpectUnchanged(before);
     }
 }
 
@@ -173,7 +176,7 @@ TEST_F(AllPages, FiveHundredSheetsLeaveNothingBehind) {
     };
     for (int i = 0; i < 3; ++i)
         openAndClose();
-    const std::vector<std::string> before = Dump();
+    const DrawingState before = State();
     DrawCoreCensus held, now;
     ::DrawCoreGetCensus(&held);
     const int gdi = GdiObjectCount(), windows = UserObjectCount();
@@ -186,7 +189,7 @@ TEST_F(AllPages, FiveHundredSheetsLeaveNothingBehind) {
     EXPECT_EQ(held.graphics, now.graphics);
     EXPECT_EQ(held.vertices, now.vertices);
     EXPECT_EQ(held.viewports, now.viewports);
-    EXPECT_EQ("", FirstDifference(before, Dump()));
+    ExpectUnchanged(before);
 }
 
 } // namespace

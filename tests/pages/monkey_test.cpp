@@ -4,8 +4,8 @@
 
 #include <random>
 
+#include "demo/automation/drawing_state.h"
 #include "pages/every_kind.h"
-#include "support/database_dump.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/object_counts.h"
@@ -100,8 +100,8 @@ private:
 };
 
 // What a drawing must never hold, whatever was typed.
-void ExpectSound(const std::vector<std::string>& lines, int step) {
-    for (const std::string& line : lines)
+void ExpectSound(const DrawingState& state, int step) {
+    for (const std::string& line : state.Lines())
         ASSERT_TRUE(line.find("nan") == std::string::npos && line.find("inf") == std::string::npos)
             << step << ": " << line;
 }
@@ -115,15 +115,15 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
         MessageBoxWatcher boxes;
         Monkey monkey(user, *sheet);
         int gdi = 0, windows = 0;
-        std::vector<std::string> before = DumpDrawing(kinds.Drawing());
+        DrawingState before(kinds.Drawing());
         for (int i = 0; i < 20000; ++i) {
             const bool leaves = monkey.Act();
             ASSERT_TRUE(::IsWindow(user.Sheet())) << i;
             ASSERT_TRUE(::IsWindowVisible(user.Page())) << i;
             if (leaves || i % 500 == 0) {
-                const std::vector<std::string> now = DumpDrawing(kinds.Drawing());
+                const DrawingState now(kinds.Drawing());
                 if (!leaves) {
-                    ASSERT_EQ("", FirstDifference(before, now)) << i;
+                    ASSERT_EQ(before.DifferencesTo(now, 1), std::vector<std::string>()) << i;
                 }
                 before = now;
                 ExpectSound(now, i);

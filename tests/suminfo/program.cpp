@@ -7,16 +7,14 @@
 #include <iterator>
 #include <windows.h>
 
+#include "orlo/win/encoded_text.h"
+
 namespace fs = std::filesystem;
 
 namespace {
 
 std::wstring Wide(const std::string& utf8) {
-    const int size = static_cast<int>(utf8.size());
-    std::wstring wide(static_cast<size_t>(::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)),
-                      L'\0');
-    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), static_cast<int>(wide.size()));
-    return wide;
+    return orlo::Widen(utf8, CP_UTF8);
 }
 
 // As the system's own rules take a command line apart: quotes and the backslashes before them are escaped.

@@ -133,29 +133,27 @@ KitGraphic::KitGraphic(int type, std::map<std::string, KitValue> offered)
 }
 
 GraphicKit::GraphicKit() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {
-    ::AppSetCurrentDrawing(m_drawing);
+    ::AppSetCurrentDrawing(Drawing());
 }
 
 GraphicKit::~GraphicKit() {
     for (const auto& kit : m_graphics)
         Kit().erase(kit->graphic);
-    ::GraphicDispose(&m_selection);
-    ::DrawingDispose(&m_drawing);
 }
 
 KitGraphic& GraphicKit::Add(std::map<std::string, KitValue> offered, int type) {
     m_graphics.push_back(std::make_unique<KitGraphic>(type, std::move(offered)));
     GraphicStruct* graphic = m_graphics.back()->graphic;
-    ::GraphicAdd(::DrawingGetRoot(m_drawing), graphic);
-    ::SelectionAdd(m_selection, graphic);
+    ::GraphicAdd(::DrawingGetRoot(Drawing()), graphic);
+    ::SelectionAdd(Selection(), graphic);
     return *m_graphics.back();
 }
 
 GraphicStruct* GraphicKit::AddWithoutTable() {
     GraphicStruct* graphic =
-        ::GraphicAdd(::DrawingGetRoot(m_drawing), ::GraphicNewEx(kGraphicVertices, 0, 1));
+        ::GraphicAdd(::DrawingGetRoot(Drawing()), ::GraphicNewEx(kGraphicVertices, 0, 1));
     ::GraphicSetVtbl(graphic, kNoTable);
-    ::SelectionAdd(m_selection, graphic);
+    ::SelectionAdd(Selection(), graphic);
     return graphic;
 }
 

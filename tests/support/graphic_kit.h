@@ -14,7 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "orlo/host/graphic.h"
+#include "drawcore/owned_drawing.h"
+#include "orlo/host/owners.h"
 
 struct KitValue {
     KitValue() = default;
@@ -62,13 +63,13 @@ public:
     KitGraphic& operator[](size_t index) { return *m_graphics[index]; }
     size_t Size() const { return m_graphics.size(); }
 
-    DrawingStruct* Drawing() const { return m_drawing; }
-    GraphicStruct* Selection() const { return m_selection; }
+    DrawingStruct* Drawing() const { return m_drawing.get(); }
+    GraphicStruct* Selection() const { return m_selection.get(); }
     int Writes() const;  // over all graphics
     long Blocks() const; // of the host's, alive now
 
 private:
-    DrawingStruct* m_drawing;
-    GraphicStruct* m_selection;
+    OwnedDrawing m_drawing;
+    orlo::host::OwnedGraphic m_selection;                // goes before its members
     std::vector<std::unique_ptr<KitGraphic>> m_graphics; // the drawing owns the records
 };

@@ -2,16 +2,12 @@
 
 #include "support/message_box_watcher.h"
 
+#include "demo/automation/control_text.h"
+
 namespace {
 
 constexpr int kTextID = 0xFFFF;
 constexpr int kIconID = 1088;
-
-std::string WindowText(HWND window) {
-    std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(static_cast<size_t>(::GetWindowTextA(window, &text[0], static_cast<int>(text.size()))));
-    return text;
-}
 
 bool IsMessageBox(HWND window) {
     char name[16] = "";

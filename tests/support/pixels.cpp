@@ -1,34 +1,22 @@
-// A picture in memory.
+// Looking at a picture in memory.
 
 #include "support/pixels.h"
 
-Pixels::Pixels(int width, int height)
-    : m_width(width), m_height(height), m_dc(::CreateCompatibleDC(nullptr)) {
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    m_bits = static_cast<const DWORD*>(bits);
-    m_before = ::SelectObject(m_dc, m_bitmap);
+#include <stdexcept>
+
+Pixels::Pixels(int width, int height) {
+    if (!m_picture.Resize({width, height})) throw std::runtime_error("no memory for a picture");
     Clear(RGB(255, 255, 255));
 }
 
-Pixels::~Pixels() {
-    ::SelectObject(m_dc, m_before);
-    ::DeleteObject(m_bitmap);
-    ::DeleteDC(m_dc);
-}
-
 void Pixels::Clear(COLORREF color) {
-    const COLORREF before = ::SetBkColor(m_dc, color);
-    const RECT all = {0, 0, m_width, m_height};
-    ::ExtTextOutA(m_dc, 0, 0, ETO_OPAQUE, &all, nullptr, 0, nullptr);
-    ::SetBkColor(m_dc, before);
+    const COLORREF before = ::GetBkColor(DC());
+    m_picture.Fill(m_picture.Bounds(), color);
+    ::SetBkColor(DC(), before);
 }
 
 COLORREF Pixels::At(int x, int y) const {
-    ::GdiFlush();
-    const DWORD pixel = m_bits[y * m_width + x];
+    const uint32_t pixel = m_picture.Row(y)[x];
     return RGB(pixel >> 16, pixel >> 8, pixel);
 }
 

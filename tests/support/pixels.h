@@ -1,18 +1,15 @@
 // A picture in memory to draw into and to look at pixel by pixel.
 #pragma once
 
-#include <windows.h>
-
 #include <functional>
+
+#include "demo/viewer/memory_picture.h"
 
 class Pixels {
 public:
-    Pixels(int width, int height);
-    ~Pixels();
-    Pixels(const Pixels&) = delete;
-    Pixels& operator=(const Pixels&) = delete;
+    Pixels(int width, int height); // white
 
-    HDC DC() const { return m_dc; }
+    HDC DC() const { return m_picture.Dc(); }
     void Clear(COLORREF color);
     COLORREF At(int x, int y) const;
     // Pixels of the rectangle that are of that colour.
@@ -22,9 +19,5 @@ public:
     int ChangesAlongRow(int y, int left, int right, COLORREF color) const;
 
 private:
-    int m_width, m_height;
-    HDC m_dc;
-    HBITMAP m_bitmap;
-    HGDIOBJ m_before;
-    const DWORD* m_bits;
+    MemoryPicture m_picture;
 };

@@ -10,9 +10,10 @@
 
 #include <afxdlgs.h>
 
-#include <exception>
 #include <functional>
 #include <string>
+
+#include "demo/automation/user_input.h"
 
 class SheetDriver {
 public:
@@ -21,25 +22,25 @@ public:
     // DoModal's result. A sheet that is still open when the script has ended is cancelled. Throws if it does not open.
     int Run(CPropertySheet& sheet, Script script);
 
-    HWND Sheet() const;
-    HWND Page() const; // of the active page
-    HWND Control(int id) const;
-    int ActivePage() const;
+    HWND Sheet() const { return m_sheet->m_hWnd; }
+    HWND Page() const { return m_sheet->GetActivePage()->m_hWnd; }
+    HWND Control(int id) const { return ::GetDlgItem(Page(), id); }
+    int ActivePage() const { return m_sheet->GetActiveIndex(); }
 
     // Takes all waiting messages through the thread's own filters.
-    void Pump();
+    void Pump() { m_user.Wait(0); }
 
     void SelectPage(int index); // by a click on its tab
     void Click(int id);         // a button of the page
     void ClickSheetButton(int id);
-    void Ok();
-    void Cancel();
+    void Ok() { ClickSheetButton(IDOK); }
+    void Cancel() { ClickSheetButton(IDCANCEL); }
 
     void Focus(int id);
     void Type(int id, const std::string& text); // over what is there
     void Choose(int id, int index);             // in a combo or list, by Home and Down keys
     void Key(UINT virtualKey, bool shift = false, bool control = false);
-    void Mnemonic(char letter); // Alt and the letter
+    void Mnemonic(char letter) { m_user.Mnemonic(letter); }
 
     std::string Text(int id) const;
     int Selection(int id) const; // of a combo or list, -1 for none
@@ -48,11 +49,6 @@ public:
     std::string ItemText(int id, int index) const; // of a combo
 
 private:
-    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
-    void Play();
-
     CPropertySheet* m_sheet = nullptr;
-    Script m_script;
-    std::exception_ptr m_thrown;
-    bool m_played = false; // the script has begun
+    UserInput m_user{0};
 };

@@ -2,23 +2,20 @@
 #pragma once
 
 #include <drawcore/application.h>
-#include <drawcore/drawing.h>
+#include <drawcore/owned_drawing.h>
 #include <drawcore/table.h>
 
 #include "orlo/host/host.h"
 
 class TestDrawing {
 public:
-    TestDrawing() : m_drawing(DrawingNew()) { AppSetCurrentDrawing(m_drawing); }
-    ~TestDrawing() { Close(); }
-    TestDrawing(const TestDrawing&) = delete;
-    TestDrawing& operator=(const TestDrawing&) = delete;
+    TestDrawing() : m_drawing(DrawingNew()) { AppSetCurrentDrawing(Get()); }
 
-    DrawingStruct* Get() const { return m_drawing; }
-    TableStruct* Table(const char* name) const { return DrawingGetTable(m_drawing, name); }
+    DrawingStruct* Get() const { return m_drawing.get(); }
+    TableStruct* Table(const char* name) const { return DrawingGetTable(Get(), name); }
     // Earlier than the end: what a host does while controls still hold its tables.
-    void Close() { DrawingDispose(&m_drawing); }
+    void Close() { m_drawing.reset(); }
 
 private:
-    DrawingStruct* m_drawing;
+    OwnedDrawing m_drawing;
 };

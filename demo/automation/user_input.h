@@ -27,6 +27,7 @@ public:
     void Key(UINT virtualKey, unsigned modifiers = kNone);
     void Keys(UINT virtualKey, int count);
     void Type(const std::string& text);
+    void Mnemonic(char letter); // Alt and the letter
 
     // Points are pixels of the window's client area.
     void Click(HWND window, CPoint point, unsigned modifiers = kNone);
@@ -41,7 +42,7 @@ public:
     // std::runtime_error if no window comes up, and what the script throws; the window is cancelled then.
     using Script = std::function<void(HWND)>;
     void InDialog(const std::function<void()>& open, const Script& script);
-    // The same for modal windows that come one behind the other, with a script for each.
+    // The same for modal windows that come one after the other, with a script for each.
     void InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts);
 
 private:

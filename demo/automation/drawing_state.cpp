@@ -1,6 +1,6 @@
 // Everything that a drawing holds.
 
-#include "demo/tour/drawing_state.h"
+#include "demo/automation/drawing_state.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -176,6 +176,14 @@ std::vector<std::string> DrawingState::DifferencesTo(const DrawingState& later, 
                             b.values[v].second);
         }
     }
+    return lines;
+}
+
+std::vector<std::string> DrawingState::Lines() const {
+    std::vector<std::string> lines;
+    for (const Thing& thing : m_things)
+        for (const auto& [name, value] : thing.values)
+            lines.push_back(thing.name + ", " + name + ": " + value);
     return lines;
 }
 

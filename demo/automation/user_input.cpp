@@ -1,15 +1,17 @@
 // Plays a user in this process.
 
-#include "demo/tour/user_input.h"
+#include "demo/automation/user_input.h"
 
 #include <afxwin.h>
 
 #include <exception>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
 constexpr unsigned kPatience = 5000; // milliseconds, until a window comes up, or closes
+constexpr unsigned kTick = 10;       // milliseconds between looks at what has come up
 
 LPARAM At(CPoint point) {
     return MAKELPARAM(point.x, point.y);
@@ -42,20 +44,32 @@ private:
 
 } // namespace
 
-// Modal windows that are expected, and what is to be played in them.
+// Modal windows that are expected, and what is to be played in them. While the object lives, a timer of this thread looks for
+// them; it stands still while the last script plays.
 struct UserInput::Dialog {
-    const HWND before; // was active
+    explicit Dialog(const std::vector<Script>& toPlay) : scripts(toPlay) { StartTimer(); }
+    ~Dialog() {
+        StopTimer();
+        awaited = outer;
+    }
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+
+    bool Awaits() const { return begun < scripts.size() && !::IsWindow(window); }
+    void Begin();
+    void GiveUp();
+    void StartTimer() { timer = ::SetTimer(nullptr, 0, kTick, OnTimer); }
+    void StopTimer() { ::KillTimer(nullptr, timer); }
+
+    static inline thread_local Dialog* awaited = nullptr;
+    Dialog* const outer = std::exchange(awaited, this);
+    const HWND before = ::GetActiveWindow();
     const std::vector<Script>& scripts;
     size_t begun = 0;      // scripts
     HWND window = nullptr; // the last one that came up
     ULONGLONG played = 0;  // when the script ended
     std::exception_ptr thrown;
-
-    bool Awaits() const { return begun < scripts.size() && !::IsWindow(window); }
-    void Begin();
-    void GiveUp();
-
-    static inline thread_local Dialog* awaited = nullptr;
+    UINT_PTR timer = 0;
 };
 
 void UserInput::TakeAll() {
@@ -101,6 +115,11 @@ void UserInput::Keys(UINT virtualKey, int count) {
         ::PostMessageA(focus, WM_KEYUP, virtualKey, 0xC0000001);
         TakeAll();
     }
+    Wait(m_pause);
+}
+
+void UserInput::Mnemonic(char letter) {
+    ::PostMessageA(Focus(), WM_SYSCHAR, static_cast<unsigned char>(letter), 0x20000001);
     Wait(m_pause);
 }
 
@@ -157,22 +176,18 @@ void UserInput::InDialog(const std::function<void()>& open, const Script& script
 }
 
 void UserInput::InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts) {
-    Dialog dialog{::GetActiveWindow(), scripts, 0, nullptr, 0, nullptr};
-    Dialog* const outer = Dialog::awaited;
-    Dialog::awaited = &dialog;
-    const UINT_PTR timer = ::SetTimer(nullptr, 0, 20, OnTimer);
+    Dialog dialog(scripts);
     open();
     const ULONGLONG end = ::GetTickCount64() + kPatience;
     while (dialog.begun < scripts.size() && !dialog.thrown && ::GetTickCount64() < end)
-        Wait(20);
-    ::KillTimer(nullptr, timer);
-    Dialog::awaited = outer;
+        Wait(kTick);
+    dialog.StopTimer();
     if (dialog.thrown) std::rethrow_exception(dialog.thrown);
     if (dialog.begun < scripts.size()) throw std::runtime_error("no window came up");
     Wait(m_pause);
 }
 
-// No exception crosses the system's frames: it is kept and thrown again behind the modal loop.
+// No exception crosses the system's frames: it is kept and thrown again after the modal loop.
 void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     Dialog* dialog = Dialog::awaited;
     if (dialog && dialog->Awaits())
@@ -187,13 +202,17 @@ void UserInput::Dialog::Begin() {
     window = active;
     played = 0;
     const HeldKeys released(kNone); // those that have opened it
+    const Script& script = scripts[begun++];
+    const bool isLast = begun == scripts.size();
+    if (isLast) StopTimer();
     try {
-        scripts[begun++](window);
+        script(window);
     } catch (...) {
         thrown = std::current_exception();
         ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
     }
     played = ::GetTickCount64();
+    if (isLast) StartTimer();
 }
 
 void UserInput::Dialog::GiveUp() {

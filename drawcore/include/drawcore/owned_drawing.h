@@ -1,0 +1,14 @@
+// Owns a drawing. C++ only.
+//
+//   const OwnedDrawing drawing(DrawingNew());
+#pragma once
+
+#include <memory>
+
+#include "drawcore/drawing.h"
+
+struct DisposeDrawing {
+    void operator()(DrawingStruct* drawing) const { DrawingDispose(&drawing); }
+};
+
+using OwnedDrawing = std::unique_ptr<DrawingStruct, DisposeDrawing>;
