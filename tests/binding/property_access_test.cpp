@@ -18,18 +18,6 @@ void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned
     sheet.Run([&](SheetDriver&) { test(page); });
 }
 
-TEST(Merge, OneGraphicGivesItsValueEvenIfItIsTheMarker) {
-    GraphicKit kit;
-    kit.Add({{"Small", 0xFF}});
-    WithPage(kit, [&](ExchangePage& page) {
-        unsigned char value = 0;
-        EXPECT_EQ(1, page.GetPropText("Small", &value, 0));
-        EXPECT_EQ(0xFF, value);
-        EXPECT_EQ(0, page.SetPropText("Small", value, 0));
-        EXPECT_EQ(0, kit.Writes());
-    });
-}
-
 TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
     GraphicKit kit;
     kit.Add({{kPropInfo, ""}, {"Name", "a"}});

@@ -81,27 +81,6 @@ TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
     EXPECT_TRUE(kit[1].properties[kName] == Sample<TypeParam>::B());
 }
 
-// An indeterminate field that is typed over gives every graphic the one new value; typed over with the marker, nothing.
-TEST(IndeterminateNumber, TypedOverReachesAllAndRestoredReachesNone) {
-    for (const char* typed : {"3.5", "*****"}) {
-        SCOPED_TRACE(typed);
-        GraphicKit kit;
-        kit.Add({{kName, 1.0}});
-        kit.Add({{kName, 2.0}});
-        double member = 0;
-        TestSheet sheet(kit);
-        sheet.Add(InEdit(member));
-        sheet.Run([&](SheetDriver& user) {
-            EXPECT_EQ("*****", user.Text(kEdit));
-            user.Type(kEdit, typed);
-            user.Ok();
-        });
-        const bool number = typed[0] != '*';
-        EXPECT_EQ(number ? 3.5 : 1.0, kit[0].Number(kName));
-        EXPECT_EQ(number ? 3.5 : 2.0, kit[1].Number(kName));
-    }
-}
-
 template <class T>
 class CheckRoad : public ::testing::Test {};
 using CheckTypes = ::testing::Types<int, unsigned short>;
@@ -162,33 +141,6 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
     });
     EXPECT_EQ(2, kit[0].Number(kName));
     EXPECT_EQ(2, kit[1].Number(kName));
-}
-
-// Bits in which graphics differ stay each graphic's own; the touched bits are set in all; one write each.
-TEST(BitsRoad, SeveralControlsOfOnePairWriteOnce) {
-    GraphicKit kit;
-    kit.Add({{kName, 0b0101}});
-    kit.Add({{kName, 0b0110}});
-    unsigned short pair[2] = {};
-    TestSheet sheet(kit);
-    sheet.Add([&](CDataExchange* pDX) {
-        DDP_Bits(pDX, kEdit, pair, kName);
-        DDP_TextSetAt(pDX, kCheck, pair, kName);
-        DDP_TextSetAt(pDX, kOtherEdit, pair, kName);
-        if (pDX->m_bSaveAndValidate) pair[1] |= 0b1000;
-        DDP_PostProcessing(pDX);
-    });
-    sheet.Run([&](SheetDriver& user) {
-        EXPECT_EQ(0b0011, pair[0]);
-        EXPECT_EQ(0b0101, pair[1]);
-        user.Type(kEdit, "x");
-        user.Click(kCheck);
-        user.Type(kOtherEdit, "y");
-        user.Ok();
-    });
-    EXPECT_EQ(0b1101, kit[0].Number(kName));
-    EXPECT_EQ(0b1110, kit[1].Number(kName));
-    EXPECT_EQ(2, kit.Writes());
 }
 
 } // namespace

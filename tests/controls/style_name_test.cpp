@@ -47,14 +47,6 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
     EXPECT_EQ(nullptr, m_control.m_pTable);
 }
 
-TEST_F(StyleNames, TwoThousandInOneTree) {
-    for (int i = 0; i < 2000; ++i)
-        Add(("style " + std::to_string(7919 * i % 2000)).c_str(), "tree");
-    Fill(IDC_STYLE_NAME, m_blocks, 1);
-    EXPECT_EQ(2000, m_control.GetCount());
-    EXPECT_EQ("style 0", Shown());
-}
-
 TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
     CStyleNameControl control;
     ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,

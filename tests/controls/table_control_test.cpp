@@ -117,17 +117,6 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
     EXPECT_GE(kEntryNameSize, static_cast<int>(this->Name(0).size()));
 }
 
-TYPED_TEST(TableControl, IsNotRedrawnForEachItem) {
-    for (int i = 0; i < 50; ++i)
-        TableEntryAdd(this->m_table, ("entry " + std::to_string(i)).c_str(), nullptr);
-    this->m_host.SetWindowPos(nullptr, 0, 0, 200, 200, SWP_SHOWWINDOW);
-    this->m_control.ShowWindow(SW_SHOW);
-    this->m_control.UpdateWindow();
-    this->Fill(this->m_table, 1);
-    RECT update = {};
-    EXPECT_TRUE(::GetUpdateRect(this->m_control.m_hWnd, &update, FALSE)) << "painted once, afterwards";
-}
-
 // Rows, font, size and the announcement, which the host answers at once.
 TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
     constexpr bool combo = TypeParam::kIsCombo;

@@ -111,23 +111,4 @@ TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
     EXPECT_EQ(8, kit[0].Number("Width")); // Cancel writes nothing further and undoes nothing
 }
 
-// The selection stays as it is through any number of previews; only graphics of the group are written.
-TEST_F(PageLife, PreviewsLeaveTheSelectionAlone) {
-    page->onPreview = [&](ExchangePage& self, int) {
-        CDataExchange save(&self, TRUE);
-        double value = 0;
-        if (DDX_Text(0, &save, kEdit, value)) self.SetPropText(kPropPenWidth, value, 1);
-    };
-    kit[0].properties[kPropPenWidth] = 1.0;
-    sheet.Run([&](SheetDriver& user) {
-        for (const char* typed : {"2", "3.5", "half-typed", "7"})
-            user.Type(kEdit, typed);
-        EXPECT_EQ(0, kit.Writes());
-        double shown = 0;
-        EXPECT_EQ(1, page->GetPropText(kPropPenWidth, &shown, 1));
-        EXPECT_EQ(7, shown);
-    });
-    EXPECT_EQ(0, kit.Writes());
-}
-
 } // namespace

@@ -96,24 +96,6 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
     EXPECT_EQ(1u, kit[0].writes.size());
 }
 
-TEST(SheetStatus, AnswersWhetherTheActivePageHasAPreview) {
-    GraphicKit kit;
-    kit.Add({});
-    TestSheet sheet(kit);
-    ExchangePage& page = sheet.Add([](CDataExchange*) {});
-    page.hasPreview = true;
-    sheet.Run([&](SheetDriver& user) {
-        page.previewCalls.clear();
-        EXPECT_EQ(1, sheet.Sheet().OnStatusChange(2));
-        EXPECT_TRUE(page.previewCalls.empty());
-        EXPECT_EQ(1, sheet.Sheet().OnStatusChange(1));
-        EXPECT_EQ(std::vector<int>{0}, page.previewCalls);
-        user.SelectPage(0);
-        EXPECT_EQ(0, sheet.Sheet().OnStatusChange(1));
-        EXPECT_EQ(1u, page.previewCalls.size());
-    });
-}
-
 RECT InSheet(HWND window, HWND sheet) {
     RECT rect;
     ::GetWindowRect(window, &rect);

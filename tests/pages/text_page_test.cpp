@@ -160,18 +160,6 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     }
 }
 
-TEST_F(TextPage, AHeightOutOfRangeKeepsThePage) {
-    Add(kSans, 2, 0, kRed, 0);
-    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  MessageBoxWatcher boxes;
-                  user.Type(IDC_FONT_SIZE, "0");
-                  user.Ok();
-                  EXPECT_EQ("Please enter a valid font size.", boxes.OnlyText());
-                  EXPECT_EQ("0", user.Text(IDC_FONT_SIZE));
-              }));
-    EXPECT_EQ(0, kit.Writes());
-}
-
 // A text that is no height, one that is longer than the field, and a field that is blank because a space without lengths has no
 // texts for heights.
 TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
