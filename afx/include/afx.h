@@ -1,5 +1,5 @@
 // The framework's base: run-time classes, strings, exceptions, buffered files. It includes no window header
-// of its own and compiles on this machine as well, where a block of types stands in for the system's.
+// of its own and compiles on this machine as well, where a block of types replaces the system's.
 //
 //   CString text;
 //   text.Format("%d of %d", 3, 10);
@@ -57,7 +57,7 @@ using LPCSTR = const char*;
 #define ASSERT(f) ((f) ? (void)0 : AfxAssertFailed(#f, __FILE__, __LINE__))
 #endif
 
-// A place in a collection; null before the first and behind the last.
+// A place in a collection; null before the first and after the last.
 struct AFX_POSITION;
 typedef AFX_POSITION* POSITION;
 
@@ -243,7 +243,7 @@ private:
     BOOL m_bAutoDelete;
 };
 
-// The user's action cannot go on, and the user was told.
+// The user's action cannot go on, and the user was informed.
 class AFX_API CUserException : public CException {
     DECLARE_DYNAMIC(CUserException)
 public:

@@ -31,7 +31,7 @@ public:
     void SetModified(BOOL bChanged = TRUE);
 
     // The page comes to the front. Here: makes its window if there is none yet; false on failure. A page whose first
-    // exchange fails has none: the user was told why.
+    // exchange fails has none: the user was informed why.
     virtual BOOL OnSetActive();
     // The page is to be left. Here: saves; false if a check has failed.
     virtual BOOL OnKillActive();

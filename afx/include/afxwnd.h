@@ -113,7 +113,7 @@ public:
     void EndModalLoop(int nResult);
 
     // ---- Data exchange
-    // False: a check has failed, and the user was told.
+    // False: a check has failed, and the user was informed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // ---- Text and style
@@ -189,7 +189,7 @@ public:
     afx_msg void OnHelp();
 
 protected:
-    // Where the procedure stands that the window had before it was this object's; null there: the system's
+    // Where the procedure is kept that the window had before it was this object's; null there: the system's
     // default.
     virtual WNDPROC* GetSuperWndProcAddr();
     virtual BOOL PreCreateWindow(CREATESTRUCTA& cs);

@@ -56,7 +56,7 @@ public:
             ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, room, nullptr, nullptr));
         return text;
     }
-    // A menu or window class: a number behind 0xFFFF, or a text.
+    // A menu or window class: a number after 0xFFFF, or a text.
     void SkipNameOrNumber() {
         const WORD first = Word();
         if (first == 0xFFFF) {
@@ -179,7 +179,7 @@ std::vector<BYTE> AfxDialogTemplate::AsPage(bool scrollingCombos) const {
     MakePageStyle(style, exStyle);
     std::memcpy(&copy[styleAt], &style, sizeof style);
     std::memcpy(&copy[exStyleAt], &exStyle, sizeof exStyle);
-    // Its place is the sheet's to say; the size behind the place stays.
+    // Its place is the sheet's to say; the size after the place stays.
     const std::size_t placeAt = (IsExtended() ? sizeof(ExtendedHead) : 2 * sizeof(DWORD)) + sizeof(WORD);
     std::memset(&copy[placeAt], 0, 2 * sizeof(WORD));
     if (scrollingCombos && !IsExtended()) ScrollCombos(copy);

@@ -189,7 +189,7 @@ bool CPropertySheet::ActivatePage(int nPage) {
     return true;
 }
 
-// The first page shown, or the next one behind it whose window can be made.
+// The first page shown, or the next one after it whose window can be made.
 bool CPropertySheet::ActivateFirstPage() {
     const int first = m_nCurPage;
     for (int i = 0; i < GetPageCount(); ++i) {

@@ -16,7 +16,7 @@ CTabRow::~CTabRow() = default;
 int CTabRow::GetHeight() const {
     CRect tab;
     if (!GetItemRect(0, &tab)) return 0;
-    // The tab in front stands out of its row by two pixels.
+    // The tab in front rises above its row by two pixels.
     constexpr int kEdge = 2;
     return static_cast<int>(SendMessage(TCM_GETROWCOUNT)) * tab.Height() + 2 * kEdge;
 }

@@ -53,7 +53,7 @@ private:
     MSG m_before;
 };
 
-// An exception that is none of the framework's, made one, so that there is one way to report it.
+// An exception that is not the framework's, turned into one, so that there is one way to report it.
 class UnexpectedException : public CException {
 public:
     explicit UnexpectedException(LPCSTR text) : CException(FALSE), m_text(text) {}

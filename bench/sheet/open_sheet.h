@@ -24,11 +24,11 @@ private:
 // All that waits for painting in the sheet is painted before it returns.
 void PaintSheet(HWND sheet);
 
-// The system's sheet with the first pages of system_pages.rc. It is cancelled behind act.
+// The system's sheet with the first pages of system_pages.rc. It is cancelled after act.
 void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND sheet)>& act);
 void ShowSystemPage(HWND sheet, int page);
 
-// The library's sheet over a selection, with the pages that it deserves. It is cancelled behind act.
+// The library's sheet over a selection, with the pages that belong to it. It is cancelled after act.
 std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing,
                                                 GraphicStruct* selection);
 void RunSheet(LoopWatch& watch, CGraphicPropertySheet& sheet, const std::function<void(HWND sheet)>& act);

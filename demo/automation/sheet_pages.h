@@ -8,7 +8,7 @@
 
 #include "demo/automation/user_input.h"
 
-// The sheet that a window is. Throws std::runtime_error if it is none.
+// The sheet that a window is. Throws std::runtime_error if it is not one.
 CPropertySheet& SheetOf(HWND window);
 HWND ActivePageOf(HWND sheet);
 // Titles of the pages, in their order.

@@ -7,7 +7,7 @@
 
 struct PageEdit {
     const char* title;   // of the page's tab
-    const char* changes; // name of the value that is another one behind it (see DrawingState)
+    const char* changes; // name of the value that is changed by it (see DrawingState)
     void (*edit)(UserInput&, HWND page);
 };
 

@@ -13,7 +13,7 @@ class RoundTrip {
 public:
     explicit RoundTrip(CMainFrame& frame) : m_frame(frame), m_user(0) {}
 
-    // Paths in UTF-8. Reports each drawing on standard output; one that cannot be opened is told, and is no fault. False: a
+    // Paths in UTF-8. Reports each drawing on standard output; one that cannot be opened is reported, and is not a fault. False: a
     // page did not change what it should, or a drawing was not as before.
     bool Check(const std::vector<std::string>& drawings);
 

@@ -89,7 +89,7 @@ int Document::Change(const std::function<void()>& change) {
     return ::DrawingEndUndo(Drawing());
 }
 
-int Document::ForgottenSteps() const {
+int Document::DroppedSteps() const {
     return ::DrawingCountForgotten(Drawing());
 }
 

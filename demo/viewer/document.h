@@ -13,7 +13,7 @@
 #include "drawcore/owned_drawing.h"
 #include "orlo/host/drawing.h"
 
-// what(): the file's name and what is wrong with it, with the line where it can be told. UTF-8.
+// what(): the file's name and what is wrong with it, with the line where that is known. UTF-8.
 class OpenError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -52,7 +52,7 @@ public:
     // Runs a change as one step that Undo takes back. The number of graphics that it changed.
     int Change(const std::function<void()>& change);
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
-    int ForgottenSteps() const;
+    int DroppedSteps() const;
     int UndoSteps() const;
     // The number of graphics that are as before again.
     int Undo();

@@ -171,8 +171,8 @@ void CMainFrame::OnEditProperties() {
     if (outcome.changed) {
         m_view.Redraw();
         std::string message = Counted(outcome.changed, "graphic") + " changed";
-        if (const int forgotten = m_document->ForgottenSteps())
-            message += "; there is no memory left to take back the oldest " + Counted(forgotten, "change");
+        if (const int dropped = m_document->DroppedSteps())
+            message += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
         m_status.ShowMessage(message);
     } else {
         m_status.ShowMessage("Nothing changed");

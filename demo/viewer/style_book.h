@@ -43,7 +43,7 @@ public:
     };
     static Examples ExamplesOf(const std::vector<GraphicStruct*>& graphics);
 
-    // Makes a style after the graphics and makes it the current one. 0 if the name is none for a new style.
+    // Makes a style after the graphics and makes it the current one. 0 if the name does not suit a new style.
     uint16_t Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts);
     // A style has come into the table as a copy of the current one: makes it the current one. 0 if none has.
     uint16_t TakeAdded();

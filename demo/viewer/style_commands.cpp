@@ -13,7 +13,7 @@ std::string Quoted(const Document& document, uint16_t style) {
     return "\"" + document.Styles().Name(style) + "\"";
 }
 
-// The style of a code, 0 if it is none of that kind. Identifiers reach beyond a thousand in drawings of many blocks, so
+// The style of a code, 0 if it is not of that kind. Identifiers reach beyond a thousand in drawings of many blocks, so
 // that a code can be read in several ways: only one of them names a style.
 uint16_t StyleIn(const Document& document, int code, int kind) {
     const int id = code - kind;

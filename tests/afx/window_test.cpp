@@ -12,7 +12,7 @@
 
 namespace {
 
-// Keeps what it is told, in the order of its coming.
+// Keeps the messages that it gets, in their order.
 class CLog : public CWnd {
 public:
     std::vector<UINT> messages;

@@ -240,7 +240,7 @@ TEST(Import, EverythingLiesInItsPlace) {
         const OwnedDrawing drawing = OpenText(Drawing(row.entities, kExtentsBlocks));
         const drawcore::Extents& box = BoxOf(drawing);
         if (std::string(row.entities).find("ATTRIB") != std::string::npos)
-            continue;                  // a text without letters is none
+            continue;                  // a text without letters has no box
         constexpr double kNear = 2e-3; // arcs that no bulge can show are short lines
         EXPECT_LE(box.low.x, row.x1 + kNear) << row.name;
         EXPECT_LE(box.low.y, row.y1 + kNear) << row.name;

@@ -26,7 +26,7 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         {"AC1015", "Klingon", "\xE4", "\u00E4"},
         {"AC1021", "ANSI_1252", "\xC3\xA4\xF0\x9F\x98\x80", "\u00E4\U0001F600"},
         {"AC1021", "ANSI_1251", "\xD1\xF2", "\u0421\u0442"}, // says UTF-8, is not
-        {"AC1021", "ANSI_1252", "\xC0\xAF", "\u00C0\u00AF"}, // an overlong sequence is none
+        {"AC1021", "ANSI_1252", "\xC0\xAF", "\u00C0\u00AF"}, // an overlong sequence is not valid
     };
     for (const Row& row : rows) {
         dxf::TextDecoder decoder;

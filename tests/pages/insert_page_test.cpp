@@ -250,7 +250,7 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
                       Paste(user, row.id, row.text);
                       EXPECT_EQ(row.atOnce, boxes.Boxes().size());
                       user.Focus(row.id == IDC_SCALE_X ? IDC_SCALE_Y : IDC_SCALE_X);
-                      boxes.Forget();
+                      boxes.Clear();
                       user.Ok();
                       EXPECT_EQ(1u, boxes.Boxes().size());
                       EXPECT_TRUE(::IsWindowVisible(user.Sheet()));

@@ -1,4 +1,4 @@
-// A drawing and graphics with property tables of any shape, for tests: what a graphic offers, holds, and was told.
+// A drawing and graphics with property tables of any shape, for tests: what a graphic offers, holds, and was given.
 //
 //   GraphicKit kit;
 //   kit.Add({{"PenWidth", 1.0}, {"Info", "wall"}});
@@ -45,7 +45,7 @@ public:
     std::map<std::string, KitValue> properties;
     std::vector<KitWrite> writes;
     std::function<void(const std::string& name)> onSet; // before a value is stored
-    std::function<void()> onGet;                        // behind a value that was given
+    std::function<void()> onGet;                        // after a value that was given
     std::string refused;                                // the property that is not taken
     int reads = 0;
 };

@@ -28,7 +28,7 @@ public:
     const std::vector<Box>& Boxes() const { return m_boxes; }
     // The text of the one box that came; says so if it was none or several.
     std::string OnlyText() const;
-    void Forget() { m_boxes.clear(); }
+    void Clear() { m_boxes.clear(); }
 
 private:
     static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);

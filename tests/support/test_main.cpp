@@ -11,7 +11,7 @@
 namespace {
 
 constexpr DWORD kLimit = 280000; // milliseconds; below ctest's own limit
-constexpr int kHung = 77;        // told from 1 (failed) and the system's own codes
+constexpr int kHung = 77;        // distinct from 1 (failed) and the system's own codes
 
 DWORD WINAPI Watch(void* finished) {
     if (::WaitForSingleObject(finished, kLimit) == WAIT_OBJECT_0) return 0;

@@ -15,5 +15,5 @@ struct BrushLine {
 };
 
 // Adds a style to a table "_BrushStyles_"; count 0 is a solid filling, at most 256. The identifier; 0 if the name is bad or
-// taken or a number is none.
+// taken or a value is not a number.
 DRAWCORE_API uint16_t BrushStyleAddLines(TableStruct*, const char* name, const BrushLine* lines, int count);

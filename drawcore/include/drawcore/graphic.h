@@ -5,7 +5,7 @@
 #include "orlo/host/records.h"
 
 // Kinds of graphic, one bit each; a filter of GraphicFirst and GraphicNext passes the kinds whose bits it has, or all if it
-// has none of them. Bit 2 (value 4) is no kind: the library reads it (the General page is without its style part).
+// has none of them. Bit 2 (value 4) is not a kind: the library reads it (the General page is without its style part).
 enum : uint32_t {
     kKindVertices = 1,  // lines, polylines, outlines, points (type 0x0B)
     kKindCurve = 2,     // circles, arcs, ellipses, splines (type 2)

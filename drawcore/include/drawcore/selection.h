@@ -13,7 +13,7 @@
 
 // Null if there is no memory.
 DRAWCORE_API GraphicStruct* SelectionNew(void);
-// 0 if it is in already (or, for SelectionRemove, is not), or if the first argument is no selection.
+// 0 if it is in already (or, for SelectionRemove, is not), or if the first argument is not a selection.
 DRAWCORE_API int SelectionAdd(GraphicStruct* selection, GraphicStruct*);
 DRAWCORE_API int SelectionRemove(GraphicStruct* selection, GraphicStruct*);
 DRAWCORE_API int SelectionContains(GraphicStruct* selection, GraphicStruct*);

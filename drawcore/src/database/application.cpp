@@ -20,7 +20,7 @@ Application::Application() : AppStruct{} {
     variables_.SetVariable(kVarDecimalMark, std::string("."));
 }
 
-void Application::Forget(const Drawing& drawing) {
+void Application::Remove(const Drawing& drawing) {
     if (pCurrentDrawing == &drawing) pCurrentDrawing = nullptr;
 }
 

@@ -13,7 +13,7 @@ public:
     static Application& Get();
 
     void SetCurrentDrawing(Drawing* drawing) { pCurrentDrawing = reinterpret_cast<DrawingStruct*>(drawing); }
-    void Forget(const Drawing& drawing); // it is about to go
+    void Remove(const Drawing& drawing); // it is about to go
     // Variable kVarPreviewBackground; white if the host program has taken the variable away.
     uint32_t PreviewBackground() const;
     const Table& Variables() const { return variables_; }

@@ -31,7 +31,7 @@ Drawing::Drawing()
 
 Drawing::~Drawing() {
     Live<DrawingStruct>::Leave(this);
-    Application::Get().Forget(*this);
+    Application::Get().Remove(*this);
 }
 
 Drawing* Drawing::Find(DrawingStruct* drawing) {

@@ -70,7 +70,7 @@ void UndoLog::MakeRoom() {
     size_t whole = 0;
     for (const Step& step : steps_)
         whole += step.size;
-    for (forgotten_ = 0; whole > room_ && steps_.size() > 1; ++forgotten_) {
+    for (dropped_ = 0; whole > room_ && steps_.size() > 1; ++dropped_) {
         whole -= steps_.front().size;
         steps_.pop_front();
     }
@@ -118,7 +118,7 @@ void UndoLog::SaveState(Graphic& graphic) {
     entry->state = std::move(state);
 }
 
-void UndoLog::Forget(Graphic& graphic) {
+void UndoLog::Remove(Graphic& graphic) {
     if (open_)
         if (Saved* entry = InOpenStep(graphic)) {
             std::vector<Saved>& saved = steps_.back().saved;
@@ -161,7 +161,7 @@ int DrawingCountUndo(DrawingStruct* drawing) {
 
 int DrawingCountForgotten(DrawingStruct* drawing) {
     Drawing* found = Drawing::Find(drawing);
-    return found ? found->Undo().Forgotten() : 0;
+    return found ? found->Undo().Dropped() : 0;
 }
 
 void DrawingSetUndoRoom(DrawingStruct* drawing, size_t bytes) {

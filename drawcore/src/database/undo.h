@@ -27,11 +27,11 @@ public:
     size_t Steps() const { return steps_.size() - (open_ ? 1 : 0); }
 
     void SetRoom(size_t bytes) { room_ = bytes; }
-    int Forgotten() const { return forgotten_; } // steps that the last End has let go for want of room
+    int Dropped() const { return dropped_; } // steps that the last End has let go for want of room
 
     void SaveLook(Graphic& graphic);  // other properties are about to be set
     void SaveState(Graphic& graphic); // anything is about to change
-    void Forget(Graphic& graphic);    // about to go
+    void Remove(Graphic& graphic);    // about to go
 
 private:
     struct Saved {
@@ -59,7 +59,7 @@ private:
     std::deque<Step> steps_;
     bool open_ = false;
     size_t room_ = size_t{256} << 20;
-    int forgotten_ = 0;
+    int dropped_ = 0;
 };
 
 } // namespace drawcore

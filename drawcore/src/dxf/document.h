@@ -16,8 +16,8 @@ namespace dxf {
 struct Header {
     std::string version;  // "AC1015"; empty if the file does not tell
     std::string codePage; // "ANSI_1252"; empty if the file does not tell
-    int unit = 0;         // of a drawing unit: 1 inch, 2 foot, 4 mm, 5 cm, 6 m ...; 0: not told
-    int metric = -1;      // 1 metric, 0 not, in use where unit is 0; -1: not told
+    int unit = 0;         // of a drawing unit: 1 inch, 2 foot, 4 mm, 5 cm, 6 m ...; 0: unknown
+    int metric = -1;      // 1 metric, 0 not, in use where unit is 0; -1: unknown
     int lengthFormat = 2; // 1 scientific, 2 decimal, 3 engineering, 4 architectural, 5 fractional
     int lengthDigits = 4;
     int angleFormat = 0; // 0 degrees, 1 degrees minutes seconds, 2 grads, 3 radians, 4 surveyor's

@@ -14,7 +14,7 @@ class EntityReader {
 public:
     explicit EntityReader(RecordReader& in) : in_(in) {}
 
-    // Reads the record at which the reader stands, with the records that belong to it, and goes to the next
+    // Reads the record at which the reader is, with the records that belong to it, and goes to the next
     // one. A sound entity is appended to the list; the others leave a finding.
     void Read(std::vector<Entity>& entities);
 

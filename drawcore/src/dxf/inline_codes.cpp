@@ -40,7 +40,7 @@ private:
         return c;
     }
 
-    // What stands before the next semicolon, which is taken too.
+    // What comes before the next semicolon, which is taken too.
     std::string_view TakeArgument() {
         const size_t length = std::min(rest_.find(';'), rest_.size());
         const std::string_view argument = rest_.substr(0, length);

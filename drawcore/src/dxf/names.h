@@ -16,7 +16,7 @@ class Names {
 public:
     Names(std::vector<Thing>& things, const TextDecoder& decoder) : things_(things), decoder_(decoder) {}
 
-    // Position of the thing of that name, as it stands in the file; makes one that is only mentioned if there
+    // Position of the thing of that name, as it is in the file; makes one that is only mentioned if there
     // is none.
     size_t Find(std::string_view raw) {
         if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer

@@ -3,7 +3,7 @@
 //   dxf::Document drawing = dxf::Read(bytes, {});
 //   dxf::Read("0\nSECTION\n", {});   // throws dxf::ReadError: "line 2: the file ends within a section ..."
 //
-// A file whose structure is broken (a group code that is no number, a section that does not end, no EOF) is
+// A file whose structure is broken (a group code that is not a number, a section that does not end, no EOF) is
 // refused. A single value or reference that makes no sense costs its entity only, and a finding says so.
 #pragma once
 

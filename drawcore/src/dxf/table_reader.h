@@ -5,10 +5,10 @@
 
 namespace dxf {
 
-// Takes the value at which the reader stands, if the header keeps that variable.
+// Takes the value at which the reader is, if the header keeps that variable.
 void ReadVariable(RecordReader& in, std::string_view variable);
 
-// Reads the record at which the reader stands, or passes over it, and goes to the next one.
+// Reads the record at which the reader is, or passes over it, and goes to the next one.
 void ReadTableRecord(RecordReader& in);
 
 } // namespace dxf

@@ -20,7 +20,7 @@ struct Tag {
     bool StartsRecord() const { return code == 0; }
     std::string_view Trimmed() const;
 
-    // The value as a number; ReadError if it is none. Real gives NaN for what is no place in a drawing: not
+    // The value as a number; ReadError if it is not one. Real gives NaN for what cannot be a place in a drawing: not
     // finite, or so large that a unit is beyond a double. Integer takes "7.0" as 7 and holds at the limits of
     // an int.
     double Real() const;
@@ -34,7 +34,7 @@ public:
     TagReader(std::string_view bytes, const Progress& progress);
 
     // Goes to the next tag. A file ends with the tag EOF, so that running out of lines is a ReadError, as is
-    // a group code that is no number.
+    // a group code that is not a number.
     const Tag& Next();
     const Tag& Current() const { return tag_; }
 

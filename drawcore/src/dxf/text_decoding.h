@@ -28,7 +28,7 @@ std::string ToDisplayText(std::string_view stored);
 // Appends what the escape at the start of the text stands for and gives its length; 0 if there is none.
 size_t AppendEscape(std::string& text, std::string_view stored);
 
-// Appends a code point as UTF-8; what is none as U+FFFD.
+// Appends a code point as UTF-8; what is not one as U+FFFD.
 void AppendUtf8(std::string& text, uint32_t codePoint);
 
 // A single-line text as shown, escapes already resolved, with its switches: "%%d" is a degree sign, "%%u"

@@ -29,7 +29,7 @@ double SweepBetween(double start, double end) {
 
 std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge) {
     const Vec3 chord = b - a;
-    // Flatter than this the arc is nowhere further from its chord than its center, that far away, can be told.
+    // Flatter than this the arc is nowhere further from its chord than its center, that far away, can be distinguished.
     if (!std::isfinite(bulge) || std::fabs(bulge) < 1e-9 || (chord.x == 0 && chord.y == 0))
         return std::nullopt;
     // The center lies on the chord's middle line; (1 - b^2) / 4b of the chord away, to the left for a small left arc.

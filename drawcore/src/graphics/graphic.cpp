@@ -15,9 +15,9 @@ namespace drawcore {
 namespace {
 
 // Those of the block that has this content: their boxes come from its.
-void ForgetInsertions(const Graphic& content) {
+void InvalidateInsertions(const Graphic& content) {
     const Drawing* drawing = content.GetDrawing();
-    if (drawing && drawing->Blocks()) drawing->Blocks()->ForgetInsertionsOf(content);
+    if (drawing && drawing->Blocks()) drawing->Blocks()->InvalidateInsertionsOf(content);
 }
 
 } // namespace
@@ -41,7 +41,7 @@ Graphic::Graphic(const Graphic& other)
 Graphic::~Graphic() {
     --Census::graphics;
     if (!inUndoLog_) return;
-    if (Drawing* drawing = GetDrawing()) drawing->Undo().Forget(*this);
+    if (Drawing* drawing = GetDrawing()) drawing->Undo().Remove(*this);
 }
 
 std::unique_ptr<Graphic> Graphic::Clone() const {
@@ -56,7 +56,7 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     added->pParent = this;
     added->dwFlags &= ~kFlagNoParent;
     if (drawing_) added->Attach(drawing_);
-    ForgetExtents();
+    InvalidateExtents();
     return added;
 }
 
@@ -69,7 +69,7 @@ std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
     parts_.erase(std::next(found).base());
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
-    ForgetExtents();
+    InvalidateExtents();
     return released;
 }
 
@@ -82,7 +82,7 @@ const Graphic& Graphic::Top() const {
 
 void Graphic::Attach(Drawing* drawing) {
     drawing_ = drawing;
-    ForgetExtents();
+    InvalidateExtents();
     for (const auto& part : parts_)
         part->Attach(drawing);
 }
@@ -111,15 +111,15 @@ void Graphic::ChangingShape() {
 
 void Graphic::ChangedShape() {
     ChangedLook();
-    ForgetExtents();
+    InvalidateExtents();
 }
 
-void Graphic::ForgetExtents() {
+void Graphic::InvalidateExtents() {
     // A graphic whose extents are known has members whose extents are known: the way up ends at the first that isn't.
     Graphic* graphic = this;
     do {
         const bool known = std::exchange(graphic->extentsKnown_, false);
-        if (known && graphic->isBlockContent_) ForgetInsertions(*graphic);
+        if (known && graphic->isBlockContent_) InvalidateInsertions(*graphic);
     } while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
 }
 

@@ -51,7 +51,7 @@ public:
     virtual Look GetLook() const;
     virtual void SetLook(const Look& look);
 
-    // The vertex at that place, null behind the last one and for graphics without vertices.
+    // The vertex at that place, null after the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }
 
     // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
@@ -60,7 +60,7 @@ public:
     // Where the members have gone from their own coordinates; false if they are where these say.
     virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
-    // Takes the part out and hands it over; null if it is none.
+    // Takes the part out and hands it over; null if it is not one.
     std::unique_ptr<Graphic> Release(Graphic* part);
 
     // The graphic that holds this one; null for a free one, a block's content and a drawing's root.
@@ -81,7 +81,7 @@ public:
     void SetStyleName(const char* name);
 
     const Extents& GetExtents() const; // with members
-    void ForgetExtents();              // and those of all that hold it
+    void InvalidateExtents();          // and those of all that hold it
 
     // The shape of this graphic alone, without members, into the sink of the trace.
     virtual void TraceShape(const Trace& trace, const PenUse& use) const = 0;
@@ -102,7 +102,7 @@ protected:
     void RestoreAttributes(const Graphic& saved);
     bool EqualAttributes(const Graphic& saved) const;
 
-    // Whether the box can be kept until ForgetExtents says otherwise.
+    // Whether the box can be kept until InvalidateExtents says otherwise.
     virtual bool KeepsExtents() const { return true; }
 
 private:

@@ -37,7 +37,7 @@ Graphic* NewOfType(int type) {
     }
 }
 
-// The first member from that place on that passes; the position becomes the place behind it.
+// The first member from that place on that passes; the position becomes the place after it.
 GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t place, void* position, uint32_t filter) {
     if (!set || !position) return nullptr;
     const Graphic& graphic = *Graphic::From(set);
@@ -153,7 +153,7 @@ int GraphicIsDirty(GraphicStruct* graphic) {
 }
 
 void GraphicSetExtentsDirty(GraphicStruct* graphic, int dirty) {
-    if (graphic && dirty) Graphic::From(graphic)->ForgetExtents();
+    if (graphic && dirty) Graphic::From(graphic)->InvalidateExtents();
 }
 
 const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int) {

@@ -60,7 +60,7 @@ TextGraphic::TextGraphic() : Graphic(kGraphicText, &kTextProperties) {}
 
 std::unique_ptr<Graphic> TextGraphic::CloneState() const {
     auto copy = std::make_unique<TextGraphic>(*this);
-    copy->ForgetLayout();
+    copy->InvalidateLayout();
     return copy;
 }
 
@@ -90,7 +90,7 @@ void TextGraphic::SetLook(const Look& look) {
     state.format = look.textFormat;
 }
 
-void TextGraphic::ForgetLayout() {
+void TextGraphic::InvalidateLayout() {
     rows_.clear();
     laidOut_ = {};
     hasLayout_ = false;

@@ -75,7 +75,7 @@ private:
         double width;
     };
     void LayOut() const;
-    void ForgetLayout();
+    void InvalidateLayout();
     void PlaceRows(const TextFace& face) const;
     double BoxWidth() const;
     void TraceFrame(const Trace& trace, const PenUse& use) const;

@@ -78,7 +78,7 @@ struct TraceTools {
     Path path;
 };
 
-// Where a tracing stands.
+// How far a tracing has come.
 struct Trace {
     Trace(GeometrySink& traceSink, TraceTools& traceTools, const Matrix& start = {})
         : sink(traceSink), tools(traceTools), matrix(start) {}

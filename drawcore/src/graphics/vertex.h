@@ -1,4 +1,4 @@
-// Vertices: the record that host and library share, with bulge and widths behind it.
+// Vertices: the record that host and library share, followed by bulge and widths.
 #pragma once
 
 #include "drawcore/src/geometry/matrix.h"

@@ -37,7 +37,7 @@ DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener* listener, 
         return Open(path, listener ? *listener : DxfListener()).release();
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory for the drawing", message, size);
-    } catch (const std::exception& error) { // dxf::ReadError; a path that is none
+    } catch (const std::exception& error) { // dxf::ReadError; an invalid path
         CopyText(error.what(), message, size);
     }
     return nullptr;

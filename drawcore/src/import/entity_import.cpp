@@ -74,7 +74,8 @@ dxf::Polyline Straightened(const dxf::Polyline& polyline) {
 std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline& polyline) {
     if (!IsUpright(entity.normal) && std::any_of(polyline.vertices.begin(), polyline.vertices.end(),
                                                  [](const auto& v) { return v.bulge != 0; }))
-        return MakeFlat(entity, Straightened(polyline)); // seen at an angle, a circle is none
+        return MakeFlat(entity,
+                        Straightened(polyline)); // seen at an angle, a circle is not a circle any more
     auto graphic = std::make_unique<VertexGraphic>();
     const Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {

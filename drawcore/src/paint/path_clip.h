@@ -12,7 +12,7 @@ struct Box {
     Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 };
 
-enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: some coordinate is no number
+enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: some coordinate is not a number
 
 // Where the points of a path lie, taken together.
 Where Locate(const Path& path, const Box& box);

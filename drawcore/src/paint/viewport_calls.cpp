@@ -22,7 +22,7 @@ const Drawing* DrawingFor(const Viewport& viewport, const Graphic& graphic) {
     return drawing ? drawing : graphic.GetDrawing();
 }
 
-// Dash patterns grow with the drawing's scale only in the drawing itself; a sample or a preview stands alone.
+// Dash patterns grow with the drawing's scale only in the drawing itself; a sample or a preview is drawn by itself.
 double LineScale(const Graphic& graphic, const Drawing* drawing) {
     return drawing && &graphic.Top() == &drawing->Root() ? drawing->lineScale : 1.0;
 }

@@ -1,4 +1,4 @@
-// The entries of the table, and insertions that forget what they kept of a block.
+// The entries of the table, and insertions whose measures a change of their block makes out of date.
 #include "drawcore/src/styles/block.h"
 
 #include "drawcore/src/database/drawing.h"
@@ -27,30 +27,30 @@ std::unique_ptr<TableEntry> BlockTable::MakeEntry(std::string_view name, void* d
 
 namespace {
 
-void ForgetIn(Graphic& graphic, Id block) {
+void InvalidateIn(Graphic& graphic, Id block) {
     if (graphic.GetKind() == Kind::Insert && static_cast<InsertGraphic&>(graphic).block == block)
         graphic.ChangedShape();
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
-        ForgetIn(*graphic.MemberAt(i), block);
+        InvalidateIn(*graphic.MemberAt(i), block);
 }
 
 } // namespace
 
 bool BlockTable::Remove(Id id) {
     const bool removed = TableOf::Remove(id);
-    if (removed) ForgetInsertionsOf(id);
+    if (removed) InvalidateInsertionsOf(id);
     return removed;
 }
 
-void BlockTable::ForgetInsertionsOf(const Graphic& content) const {
+void BlockTable::InvalidateInsertionsOf(const Graphic& content) const {
     for (Id id = First(); id; id = Next(id))
-        if (&At(id)->Content() == &content) ForgetInsertionsOf(id);
+        if (&At(id)->Content() == &content) InvalidateInsertionsOf(id);
 }
 
-void BlockTable::ForgetInsertionsOf(Id id) const {
-    ForgetIn(Owner()->Root(), id);
+void BlockTable::InvalidateInsertionsOf(Id id) const {
+    InvalidateIn(Owner()->Root(), id);
     for (Id other = First(); other; other = Next(other))
-        ForgetIn(At(other)->Content(), id);
+        InvalidateIn(At(other)->Content(), id);
 }
 
 } // namespace drawcore

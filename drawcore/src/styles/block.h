@@ -31,10 +31,10 @@ public:
     bool Remove(Id id) override;
 
     // Marks the insertions of the block of this content as changed, in the drawing and in its blocks.
-    void ForgetInsertionsOf(const Graphic& content) const;
+    void InvalidateInsertionsOf(const Graphic& content) const;
 
 private:
-    void ForgetInsertionsOf(Id id) const;
+    void InvalidateInsertionsOf(Id id) const;
 };
 
 } // namespace drawcore

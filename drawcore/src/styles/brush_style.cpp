@@ -62,7 +62,7 @@ const BrushStyle* FindStyle(TableStruct* table, uint16_t id) {
     return styles ? styles->At(id) : nullptr;
 }
 
-// The line at that place of the walk; the cookie becomes the place behind it.
+// The line at that place of the walk; the cookie becomes the place after it.
 const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int place, int* cookie) {
     const BrushStyle* style = FindStyle(table, id);
     if (!style || !cookie || place < 0 || static_cast<size_t>(place) >= style->lines.size()) return nullptr;

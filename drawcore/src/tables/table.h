@@ -24,7 +24,7 @@ using Id = uint16_t;
 constexpr Id kNoId = 0;
 constexpr Id kHighestId = 0xFFF0; // what is above are markers: by layer, by block, mixed
 
-// What stands under one identifier.
+// What one identifier refers to.
 class TableEntry {
 public:
     explicit TableEntry(std::string_view entryName) : name(entryName) {}

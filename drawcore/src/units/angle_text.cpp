@@ -41,7 +41,7 @@ bool IsDivided(double unit) {
     return unit == kDegree || unit == kDegree / 60;
 }
 
-// A number with its unit, or degrees, minutes and seconds: of these only the last number has a part behind the mark, and
+// A number with its unit, or degrees, minutes and seconds: of these only the last number has a part after the mark, and
 // each is less than makes one of the unit before.
 bool ReadParts(std::string_view text, double bare, double& radians) {
     TextCursor cursor(text);
@@ -97,7 +97,7 @@ bool ReadBearing(std::string_view whole, double bare, double& radians) {
     return true;
 }
 
-// How finely degrees are divided: whole ones, minutes, seconds, and digits behind the mark of the seconds.
+// How finely degrees are divided: whole ones, minutes, seconds, and digits after the mark of the seconds.
 class Division {
 public:
     explicit Division(int digits) : level_(digits <= 0 ? 0 : digits <= 2 ? 1 : std::max(2, digits - 2)) {}

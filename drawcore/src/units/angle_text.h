@@ -15,15 +15,15 @@ enum class AngleSystem { Degrees, DegreesMinutesSeconds, Grads, Radians, Bearing
 // How an angle is written.
 struct AngleFormat {
     AngleSystem system = AngleSystem::Degrees;
-    // Digits behind the decimal mark. Of degrees, minutes and seconds: 0 degrees, 1 and 2 with minutes, 3 and 4 with
+    // Digits after the decimal mark. Of degrees, minutes and seconds: 0 degrees, 1 and 2 with minutes, 3 and 4 with
     // seconds, and each one more a digit of the seconds.
     int digits = 4;
 };
 
-// Radians of the text; a number without a unit is in that of the system. False, and value left alone, if it is no angle.
+// Radians of the text; a number without a unit is in that of the system. False, and value left alone, if it is not an angle.
 bool ReadAngle(std::string_view text, AngleSystem bare, double& radians);
 
-// Empty if the angle is no number. A bearing has neither turns nor sign: for an angle beyond one turn or below 0 degrees,
+// Empty if the angle is not a number. A bearing has neither turns nor sign: for an angle beyond one turn or below 0 degrees,
 // minutes and seconds stand in its place. One that its digits, or four of a right angle, do not tell from a direction of the
 // compass is that direction.
 std::string WriteAngle(double radians, const AngleFormat& format);

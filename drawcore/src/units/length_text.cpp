@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    // Inches behind feet: "1'-6", "1' 6 1/2\"".
+    // Inches after feet: "1'-6", "1' 6 1/2\"".
     bool ReadInches(double& sum) {
         cursor_.Take('-');
         const LengthUnit& inch = *FindLengthUnit("in");

@@ -17,15 +17,15 @@ enum class LengthSystem { Scientific = 1, Decimal, Engineering, Architectural, F
 // How a length is written.
 struct LengthFormat {
     LengthSystem system = LengthSystem::Decimal;
-    // Digits behind the decimal mark; of a fraction the power of two of its denominator (4: sixteenths).
+    // Digits after the decimal mark; of a fraction the power of two of its denominator (4: sixteenths).
     int digits = 4;
     bool suffix = false; // the unit's name follows after a blank, where the form has no marks of its own
 };
 
-// Millimetres of the text; a number without a unit is in the given one. False, and value left alone, if it is no length.
+// Millimetres of the text; a number without a unit is in the given one. False, and value left alone, if it is not a length.
 bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres);
 
-// Empty if the length is no number. Feet and inches (engineering, architectural) are true ones, whatever the unit is. A length
+// Empty if the length is not a number. Feet and inches (engineering, architectural) are true ones, whatever the unit is. A length
 // that has no place in its form, because it is too large or a fraction would make nothing of it, is written as a decimal.
 std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format);
 

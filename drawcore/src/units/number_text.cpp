@@ -25,7 +25,7 @@ size_t CountDigits(std::string_view text) {
     return static_cast<size_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
 }
 
-// Length of an exponent at the start of the text: a letter without digits is none.
+// Length of an exponent at the start of the text: a letter without digits is not one.
 size_t CountExponent(std::string_view text) {
     if (text.empty() || (text[0] != 'e' && text[0] != 'E')) return 0;
     const size_t lead = text.size() > 1 && (text[1] == '+' || text[1] == '-') ? 2 : 1;
@@ -38,7 +38,7 @@ char DecimalMark() {
     return mark && *mark == "," ? ',' : '.';
 }
 
-// Removes zeros behind the point, and the point behind which nothing is left; the exponent stays.
+// Removes zeros after the point, and a point after which nothing is left; the exponent stays.
 std::string Trimmed(std::string text) {
     const size_t mark = text.find('.');
     if (mark == std::string::npos) return text;

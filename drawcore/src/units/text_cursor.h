@@ -11,10 +11,10 @@ class TextCursor {
 public:
     explicit TextCursor(std::string_view text) : text_(text) {}
 
-    bool AtEnd(); // behind blanks
+    bool AtEnd(); // apart from blanks
     std::string_view Rest() const { return text_.substr(at_); }
     void SkipBlanks();
-    // Takes the character if it stands here, in either case of a letter.
+    // Takes the character if it comes next, in either case of a letter.
     bool Take(char c);
     // A plus or minus, or none; true for a minus.
     bool TakeMinus();
