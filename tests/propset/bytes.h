@@ -8,7 +8,7 @@
 
 using Bytes = std::vector<uint8_t>;
 
-// "0a0b 0c"_hex; blanks stand between bytes only.
+// "0a0b 0c"_hex; blanks between bytes are skipped.
 inline Bytes operator""_hex(const char* digits, size_t size) {
     Bytes bytes;
     for (size_t i = 0; i + 1 < size; ++i)

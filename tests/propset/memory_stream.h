@@ -13,7 +13,7 @@
     "-Wnon-virtual-dtor" // the system's interface has none; nobody deletes through it
 
 #if defined(_WIN32)
-// What property sets never call, and the references of an object that lives where it stands.
+// What property sets never call, and the references of an object that lives on the stack.
 class UnusedCalls : public IStream {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }

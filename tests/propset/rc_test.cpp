@@ -45,12 +45,6 @@ struct ItemRow {
     const char* text;
 };
 
-class RcItem : public ::testing::TestWithParam<ItemRow> {};
-
-TEST_P(RcItem, IsPrinted) {
-    EXPECT_EQ(Script(GetParam().write), GetParam().text);
-}
-
 const ItemRow kItems[] = {
     {"WordsOfADWord", [](CRCFile& rc) { rc.WriteDWord(0x7654CDEF); }, "0xCDEF, 0x7654"},
     {"WordKeepsItsWidth", [](CRCFile& rc) { rc.WriteWord(0xA); }, "0x000A"},
@@ -86,8 +80,11 @@ const ItemRow kItems[] = {
      },
      "\"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx\", 0x0001,\n    0x0002"},
 };
-INSTANTIATE_TEST_SUITE_P(Items, RcItem, ::testing::ValuesIn(kItems),
-                         [](const auto& row) { return row.param.name; });
+
+TEST(RcItem, IsPrinted) {
+    for (const ItemRow& row : kItems)
+        EXPECT_EQ(Script(row.write), row.text) << row.name;
+}
 
 TEST(RcSection, IsTheListingOfItsImage) {
     CPropertySection section;
@@ -167,7 +164,7 @@ protected:
 };
 
 TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
-    std::string odd; // every character but NUL, and hexadecimal digits behind a control character
+    std::string odd; // every character but NUL, and hexadecimal digits after a control character
     for (int c = 1; c < 256; ++c)
         odd += {static_cast<char>(c), 'A', '7'};
     const std::string longText(70001, 'x');
@@ -233,7 +230,7 @@ std::shared_ptr<CPropertySet> SetOfOddNames() {
     return set;
 }
 
-// The sections of real files besides: texts padded behind their NULs, several sections, dictionaries, pictures.
+// The sections of real files besides: texts padded after their NULs, several sections, dictionaries, pictures.
 TEST_F(CompiledScript, OfEverySetReadsBackAsTheSet) {
     std::vector<std::function<void(CRCFile&)>> writers;
     std::vector<std::string> names;

@@ -75,6 +75,8 @@ TEST_P(ValueForm, IsRefusedWhereAByteIsMissing) {
     }
 }
 
+const json kVariants = {json::array({30, "a"}), json::array({3, 7})};
+
 const Row kRows[] = {
     {"Empty", VT_EMPTY, 1252, {}, nullptr},
     {"Null", VT_NULL, 1252, {}, nullptr},
@@ -110,11 +112,8 @@ const Row kRows[] = {
      "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"},
     {"VectorOfI2", VT_VECTOR | VT_I2, 1252, "02000000 01000200"_hex, {1, 2}},
     {"VectorOfTexts", VT_VECTOR | VT_LPSTR, 1252, "02000000 020000006100 03000000626300"_hex, {"a", "bc"}},
-    {"VectorOfVariants",
-     VT_VECTOR | VT_VARIANT,
-     1252,
-     "02000000 1e000000 020000006100 03000000 07000000"_hex,
-     {json::array({30, "a"}), json::array({3, 7})}},
+    {"VectorOfVariants", VT_VECTOR | VT_VARIANT, 1252, "02000000 1e000000 020000006100 03000000 07000000"_hex,
+     kVariants},
     {"VectorOfNothing", VT_VECTOR | VT_R8, 1252, "00000000"_hex, json::array()},
 };
 INSTANTIATE_TEST_SUITE_P(Types, ValueForm, ::testing::ValuesIn(kRows),
@@ -137,9 +136,7 @@ TEST(Value, ReadsWhatItWouldNotWrite) {
         {VT_VECTOR | VT_LPSTR,
          "03000000 0200000061000000 0300000062630000 020000006400"_hex,
          {"a", "bc", "d"}},
-        {VT_VECTOR | VT_VARIANT,
-         "02000000 1e000000 0200000061000000 03000000 07000000"_hex,
-         {json::array({30, "a"}), json::array({3, 7})}},
+        {VT_VECTOR | VT_VARIANT, "02000000 1e000000 0200000061000000 03000000 07000000"_hex, kVariants},
     };
     for (const auto& row : rows) {
         orlo::Value value;
