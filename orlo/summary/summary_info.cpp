@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "orlo/propset/property_set.h"
+#include "orlo/propset/wide_text.h"
 #include "orlo/summary/compound_file.h"
 #include "orlo/win/com_owner.h"
-#include "orlo/win/system_text.h"
 
 using orlo::Owned;
 using orlo::Receive;
@@ -61,7 +61,7 @@ bool ImageOf(CPropertySet* set, Bytes& image) {
     return stream && OleStdWriteSummaryInfo(stream.get(), set) && ReadAll(stream.get(), image);
 }
 
-// What the new bytes are longer comes first, behind the old ones: where room is short, it shows before those are touched.
+// The part by which the new bytes are longer is written first, after the old ones: a lack of room shows before those are touched.
 bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
     const size_t common = std::min(before.size(), after.size());
     return (after.size() <= before.size() || SetLength(stream, after.size())) &&
@@ -69,7 +69,7 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
            SetLength(stream, after.size());
 }
 
-// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros behind.
+// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros after it.
 void PutBack(IStream* stream, Bytes bytes) {
     if (!SetLength(stream, bytes.size())) {
         bytes.resize(std::max(bytes.size(), kShortestLong));
@@ -162,7 +162,7 @@ HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
     Owned<IStream> stream;
     const HRESULT opened =
-        pStorage->OpenStream(Wide(kSummaryStreamName).c_str(), nullptr, kRead, 0, Receive(stream));
+        pStorage->OpenStream(orlo::ToWide(kSummaryStreamName, 0).c_str(), nullptr, kRead, 0, Receive(stream));
     if (FAILED(opened)) return opened;
     return OleStdReadSummaryInfo(stream.get(), pSumInfo) ? opened : E_FAIL;
 }
@@ -173,7 +173,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     // First into memory: what fails there costs the document nothing.
     Bytes image, before;
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
-    const std::wstring name = Wide(kSummaryStreamName);
+    const std::wstring name = orlo::ToWide(kSummaryStreamName, 0);
     Owned<IStream> stream;
     const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);
@@ -186,7 +186,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
 HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo) {
     if (!pszFileName || !ppStorage || !ppSumInfo) return E_FAIL;
     *ppStorage = nullptr;
-    const std::wstring name = Wide(pszFileName);
+    const std::wstring name = orlo::ToWide(pszFileName, 0);
     if (orlo::StateOfCompoundFile(name.c_str()) == orlo::CompoundState::unsafe) return STG_E_DOCFILECORRUPT;
     Owned<IStorage> storage;
     HRESULT result = ::StgOpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, Receive(storage));

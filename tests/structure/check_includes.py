@@ -28,7 +28,8 @@ WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding"]
 WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|dlgs|cmn|ctl|gdi|app|msg|dialog)\.h")
 
 # Outside the library: which of its headers a folder may include.
-ALSO_PUBLIC = ["orlo/win/com_owner.h"]  # header only, and no part of the interface
+# Not part of the interface: owners in headers alone, and what only the static library has.
+ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/gdi.h", "orlo/propset/wide_text.h"]
 PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
 OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "drawcore": HOST, "afx": NOTHING}
 

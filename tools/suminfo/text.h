@@ -7,10 +7,15 @@
 #include <string_view>
 #include <vector>
 
+#include "orlo/propset/code_page.h"
+#include "orlo/propset/wide_text.h"
+
 namespace suminfo {
 
-std::wstring ToWide(std::string_view utf8);
-std::string ToUtf8(std::wstring_view wide);
+using orlo::ToUtf8;
+inline std::wstring ToWide(std::string_view utf8) {
+    return orlo::ToWide(utf8, orlo::kCodePageUtf8);
+}
 
 inline std::filesystem::path PathOf(std::string_view utf8) {
     return std::filesystem::path(ToWide(utf8));
