@@ -12,15 +12,16 @@
 
 namespace orlo {
 
+constexpr uint32_t kCodePageId = 1;       // the property of a section that names its code page
 constexpr uint16_t kCodePageUtf16 = 1200; // "8-bit" texts of such a section are 16-bit characters
 constexpr uint16_t kCodePageUtf8 = 65001;
 constexpr uint16_t kUsualCodePage = 1252; // of a section that names none
 
-// The text as UTF-8; nothing if the code page is unknown here or the bytes are no text of it. 1200 takes the
+// The text as UTF-8; nothing if the code page is unknown here or the bytes are not text in it. 1200 takes the
 // bytes as 16-bit characters; 0 stands for the system's own code page (1252 where there is none).
 ORLO_API std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage);
 
-// The text in that code page; nothing if it can't say every character.
+// The text in that code page; nothing if it can't represent every character.
 ORLO_API std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage);
 
 } // namespace orlo

@@ -1,3 +1,5 @@
+// The names of a dictionary, 8-bit or wide, entry by entry.
+
 #include "orlo/propset/dictionary_stream.h"
 
 #include <algorithm>
@@ -15,7 +17,7 @@ constexpr DWORD kLongestRead = 256;
 
 using WideBuffer = std::array<uint16_t, kLongestRead>;
 
-// The next wide entry as it stands; the length counts characters and its NUL.
+// The next wide entry as stored; the length counts characters and its NUL.
 bool ReadWideEntry(StreamReader& reader, uint32_t& id, uint32_t& length, WideBuffer& characters) {
     if (!reader.Spend(8) || !reader.Read32(id) || !reader.Read32(length) || length > kLongestRead)
         return false;

@@ -1,3 +1,5 @@
+// The value block of a property: set, walked, written and read.
+
 #include "orlo/propset/property.h"
 
 #include <cstring>
@@ -50,7 +52,7 @@ size_t PlainTextSize(const void* text, Form form) {
     return (length + 1) * 2;
 }
 
-// The old block of a property, given back when the new value stands: the new one may be made from it.
+// The old block of a property, released once the new value is complete: the new one may be made from it.
 class OldBlock {
 public:
     explicit OldBlock(void*& block) : block_(block) { block = nullptr; }

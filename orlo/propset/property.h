@@ -1,4 +1,4 @@
-// CProperty: one value of a property set, kept in the very bytes that stand on the stream behind its type
+// CProperty: one value of a property set, kept in the very bytes that are on the stream after its type
 // code.
 //
 //   CProperty title;
@@ -11,7 +11,7 @@
 // Types: VT_EMPTY, VT_I2, VT_UI2, VT_I4, VT_UI4, VT_BOOL (4 bytes), VT_R4, VT_R8, VT_CY, VT_DATE, VT_I8,
 // VT_FILETIME, VT_CLSID; counted 8-bit texts VT_LPSTR, VT_BSTR, VT_STREAM, VT_STORAGE, VT_STREAMED_OBJECT,
 // VT_STORED_OBJECT; counted bytes VT_BLOB, VT_BLOB_OBJECT, VT_CF and the codes 73 to 75; counted 16-bit text
-// VT_LPWSTR; and vectors of them (VT_VECTOR), whose elements stand end to end without padding. Everything is
+// VT_LPWSTR; and vectors of them (VT_VECTOR), whose elements lie end to end without padding. Everything is
 // little-endian, never swapped.
 #pragma once
 
@@ -51,7 +51,7 @@ public:
     int Set(DWORD dwID, const CString& strValue, DWORD dwType);
     int Set(const CString& strValue);
 
-    // The element, behind its length for texts, VT_CF and the codes 73 and 74, with its length for VT_BLOB,
+    // The element, after its length for texts, VT_CF and the codes 73 and 74, with its length for VT_BLOB,
     // VT_BLOB_OBJECT and the code 75; *pcb (may be null) is its size in bytes without the length. Null with
     // *pcb left alone for a vector and for a type without a form. Null with *pcb = 0 without a value, or if
     // the block is too short for the type. The property's, until its next change.
@@ -69,7 +69,7 @@ public:
     // the NUL alone), no bytes, a vector of no elements; for a fixed size, of which none would be true,
     // VT_EMPTY.
     int WriteToStream(IStream* pStream);
-    // Leaves the stream directly behind the value, before its padding. 0 if the value is not there in full:
+    // Leaves the stream directly after the value, before its padding. 0 if the value is not there in full:
     // then what came of it stays, the rest of the block is zero; a length out of all proportion to the stream
     // leaves no value.
     int ReadFromStream(IStream* pStream);

@@ -1,3 +1,5 @@
+// Hash tables over the list of properties and the map of names.
+
 #include "orlo/propset/property_index.h"
 
 #include <atomic>

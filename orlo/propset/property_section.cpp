@@ -1,3 +1,5 @@
+// Properties and names of a section: looked up, written and read.
+
 #include "orlo/propset/property_section.h"
 
 #include <cstring>

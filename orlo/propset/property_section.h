@@ -65,7 +65,7 @@ public:
     int SetSectionName(const char* pszName);
     const char* GetSectionName();
 
-    // Writes at the stream's position, and leaves it behind the section. Nothing is written if a property has
+    // Writes at the stream's position, and leaves it after the section. Nothing is written if a property has
     // a type without a form on the stream.
     int WriteToStream(IStream* pStream);
     // Reads the section at the stream's position; liBase is the position of the head of the set. What can't
@@ -75,7 +75,7 @@ public:
     int ReadFromStream(IStream* pStream, LARGE_INTEGER liBase);
     // The dictionary at the stream's position. Reading: 0 if it falls short or a name is longer than 256
     // bytes; the names before that stay. Names in 16-bit characters, as others write them under code page
-    // 1200, are read as well; one that the system's code page can't say is left out.
+    // 1200, are read as well; one that the system's code page can't represent is left out.
     int WriteNameDictToStream(IStream* pStream);
     int ReadNameDictFromStream(IStream* pStream);
 

@@ -1,3 +1,5 @@
+// The header of a set and the list of its sections.
+
 #include "orlo/propset/property_set.h"
 
 #include <cstring>

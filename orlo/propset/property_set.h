@@ -1,4 +1,4 @@
-// CPropertySet: a property set with its sections, as it stands on a stream.
+// CPropertySet: a property set with its sections, as stored on a stream.
 //
 //   CPropertySet set;
 //   set.Set(format, 2, title, VT_LPSTR);   // 1; makes the section
@@ -64,7 +64,7 @@ private:
     int AppendTo(orlo::ImageWriter& image, ULONGLONG start);
     int ReadFrom(orlo::StreamReader& reader, ULONGLONG base);
 
-    WORD m_wByteOrder; // these five are the header as it stands on the stream
+    WORD m_wByteOrder; // these five are the header as stored on the stream
     WORD m_wFormatVersion;
     DWORD m_dwOSVersion;
     GUID m_ClassID;

@@ -1,3 +1,5 @@
+// Items, separators and line breaks of a resource script.
+
 #include "orlo/propset/rc_file.h"
 
 #include <cstring>
@@ -9,7 +11,7 @@ constexpr int kWrapColumn = 70;
 constexpr int kIndent = 4;
 constexpr int kBreakColumn = 1000; // beyond every line: the next item begins one
 
-// As it stands between the quotes of a script's text. Line feeds, tabs and their like too are written by
+// As it is written between the quotes of a script's text. Line feeds, tabs and their like too are written by
 // number: a raw line feed ends the literal for windres.
 void AppendEscaped(std::string& text, char character) {
     const auto code = static_cast<unsigned char>(character);

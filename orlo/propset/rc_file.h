@@ -10,11 +10,11 @@
 //   other.WriteToRC(&rc);
 //   rc.CStdioFile::WriteString("\nEND\n");
 //
-// A text is printed up to its first NUL, although the length ahead of it counts what may stand behind: the block
+// A text is printed up to its first NUL, although the length ahead of it counts what may follow: the block
 // is then shorter than it says. Files of other programs have such texts, padded to a round length; PrintWholeTexts
 // has them printed to the end of their count.
 //
-// Bytes from 0x80 upward stand in texts as they are; compile the script with the code page that they are in.
+// Bytes from 0x80 upward are printed as they are; compile the script with the code page that they are in.
 #pragma once
 
 #include <afx.h>
@@ -29,16 +29,16 @@ public:
     CRCFile(const char* pszFileName, UINT nOpenFlags);
     ~CRCFile() override;
 
-    // The items so far were a block of their own: the next one stands at the head of another.
+    // The items so far were a block of their own: the next one begins another.
     void StartBlock();
-    // From now on texts are printed to the end of their count, as further items behind their first NUL.
+    // From now on texts are printed to the end of their count, as further items after their first NUL.
     void PrintWholeTexts();
     // The next item begins a new line.
     void NewLine();
     // The separator that is due before an item: a comma, or the end of the line and the indent of the next.
     void Format();
 
-    // An item, as it stands.
+    // An item, as given.
     void WriteString(const char* psz) override;
     // A quoted text of at most cb bytes; a NUL ends it, and is its last character. Characters below 0x20 are
     // written as "\x09" is, line feeds and tabs too: raw ones break the line of the script.

@@ -16,7 +16,6 @@ constexpr size_t kSectionHeadSize = 8;  // size and count of properties
 constexpr size_t kPropertyLineSize = 8; // of a section's table: ID and offset
 constexpr size_t kTypeSize = 4;         // in front of a value
 constexpr uint32_t kDictionaryId = 0;
-constexpr uint32_t kCodePageId = 1;
 
 inline bool IsSame(const GUID& a, const GUID& b) {
     return std::memcmp(&a, &b, sizeof(GUID)) == 0;

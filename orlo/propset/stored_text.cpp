@@ -1,3 +1,5 @@
+// Builds a stored value from the tokens of a text.
+
 #include "orlo/propset/stored_text.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// Reads a stream through a buffer and limits how much is read in all.
+
 #include "orlo/propset/stream_reader.h"
 
 #include <algorithm>

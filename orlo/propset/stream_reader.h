@@ -30,7 +30,7 @@ public:
     // it. False if they do.
     bool Spend(ULONGLONG bytes);
 
-    // Puts the stream where the reader stands.
+    // Moves the stream to the reader's position.
     void Settle();
 
 private:

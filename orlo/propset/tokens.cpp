@@ -1,3 +1,5 @@
+// The grammar of tokens: one search serves counting and cutting.
+
 #include "orlo/propset/tokens.h"
 
 #include <cctype>

@@ -1,3 +1,5 @@
+// The table of types and how each is stored.
+
 #include "orlo/propset/value_form.h"
 
 #include <array>

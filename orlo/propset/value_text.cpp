@@ -1,3 +1,5 @@
+// Parses the text forms of dates, money, whole numbers and class IDs.
+
 #include "orlo/propset/value_text.h"
 
 #include <charconv>

@@ -18,7 +18,7 @@
 
 namespace orlo {
 
-// One element of that type, as it stands on a stream (8 bytes, 16 for VT_CLSID). False: another type, or no
+// One element of that type, as stored on a stream (8 bytes, 16 for VT_CLSID). False: another type, or no
 // such text.
 ORLO_API bool ParseValueText(std::string_view text, uint32_t type, uint8_t* element);
 

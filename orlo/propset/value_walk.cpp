@@ -1,3 +1,5 @@
+// Measures a value: where it ends, and whether its elements are padded.
+
 #include "orlo/propset/value_walk.h"
 
 namespace orlo {

@@ -22,7 +22,7 @@ struct Cursor {
     }
 };
 
-// The bytes of one element that is no variant: of fixed size, or behind a count, which is left out.
+// The bytes of one element that is not a variant: of fixed size, or after a count, which is left out.
 inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeForm& form) {
     size_t size = form.size;
     if (form.form != Form::fixed) {
@@ -49,7 +49,7 @@ inline void SkipPadding(Cursor& cursor, const uint8_t* begin) {
 }
 
 // Walks over the elements of a vector, or the one element of another value, and gives each to
-// visit(type, form, bytes), which may end the walk. The cursor is then behind the value.
+// visit(type, form, bytes), which may end the walk. The cursor is then after the value.
 template <class Visit>
 bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
     const uint8_t* const begin = cursor.at;
@@ -77,7 +77,7 @@ bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
 }
 
 struct Extent {
-    size_t size;         // behind the type code, without padding at the end
+    size_t size;         // after the type code, without padding at the end
     bool elementsPadded; // each element of the vector fills up to 4 bytes; most writers pack them
 };
 

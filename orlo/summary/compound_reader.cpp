@@ -17,7 +17,7 @@ constexpr size_t kEntryBytes = 128;
 constexpr size_t kNameBytes = 64;
 constexpr size_t kShortSectorBytes = 64;
 constexpr uint32_t kShorterAreShort = 4096;     // bytes of a stream
-constexpr uint32_t kHighestSector = 0xFFFFFFFA; // above it stand the marks
+constexpr uint32_t kHighestSector = 0xFFFFFFFA; // the marks are above it
 constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector, no entry
 constexpr size_t kTablesInHeader = 109;
 constexpr size_t kDeepestStorage = 64; // no document has more
@@ -32,7 +32,7 @@ bool IsShort(uint64_t size) {
     return size < kShorterAreShort;
 }
 
-// Siblings stand in the order of their names: by length, then by letters without case. The order of two letters outside of
+// Siblings are in the order of their names: by length, then by letters without case. The order of two letters outside of
 // ASCII is the system's to know.
 bool MayFollow(const std::u16string& before, const std::u16string& after) {
     if (before.size() != after.size()) return before.size() < after.size();
@@ -47,7 +47,7 @@ bool MayFollow(const std::u16string& before, const std::u16string& after) {
 struct Entry {
     std::u16string name;
     bool isNamed;      // the name's length is possible
-    bool isTerminated; // by one NUL, behind the name
+    bool isTerminated; // by one NUL, after the name
     uint8_t kind;
     uint32_t left, right, child, start;
     uint64_t size;
@@ -67,7 +67,7 @@ struct Entry {
 
 struct Storage {
     uint32_t firstEntry;
-    std::u16string path; // with a slash behind it
+    std::u16string path; // with a slash after it
     size_t depth;
 };
 
@@ -142,7 +142,7 @@ uint32_t CompoundReader::Structure::Header(size_t offset) const {
     return LittleEndian<uint32_t>(header_.data() + offset);
 }
 
-// False if nothing behind it can be found.
+// False if nothing after it can be found.
 bool CompoundReader::Structure::ReadHeader() {
     if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
     if (!std::equal(kSignature.begin(), kSignature.end(), header_.begin())) return false;
@@ -341,7 +341,7 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
     }
 }
 
-// The system finds a name by the order; one that stands elsewhere, or twice, it would add once more.
+// The system finds a name by the order; one that is elsewhere, or twice, it would add once more.
 void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* before, uint32_t id) {
     if (!entry.isTerminated || (before && !MayFollow(before->name, entry.name)))
         Damaged("the directory: the name of entry " + std::to_string(id) + " is wrong for its place",

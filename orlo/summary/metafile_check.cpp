@@ -85,7 +85,7 @@ enum Function : uint16_t {
     kStretchDib = 0x0F43,
 };
 
-// A record behind its head: parameters in 16-bit words.
+// A record after its head: parameters in 16-bit words.
 class Parameters {
 public:
     Parameters(const uint8_t* data, size_t words) : data_(data), words_(words) {}
@@ -93,7 +93,7 @@ public:
     size_t Count() const { return words_; }
     uint16_t Word(size_t index) const { return LittleEndian<uint16_t>(data_ + 2 * index); }
     const uint8_t* At(size_t index) const { return data_ + 2 * index; }
-    // Words behind the first `used` ones.
+    // Words after the first `used` ones.
     size_t Behind(size_t used) const { return used < words_ ? words_ - used : 0; }
 
 private:
@@ -227,7 +227,7 @@ std::optional<DibColours> ColoursOf(uint16_t usage) {
     return std::nullopt;
 }
 
-// A bitmap whose colour use stands in word `usageAt`.
+// A bitmap whose colour use is in word `usageAt`.
 std::optional<DibLayout> TaggedBitmapIn(const Parameters& p, size_t usageAt, size_t at,
                                         uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;

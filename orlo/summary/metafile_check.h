@@ -1,4 +1,4 @@
-// Reads the head of a metafile picture and checks every record behind it, so that the system can play them.
+// Reads the head of a metafile picture and checks every record after it, so that the system can play them.
 // Plays nothing and needs no window header.
 //
 // What passes: all records lie inside the metafile, every count inside a record (points, text, bitmap,

@@ -50,7 +50,7 @@ Description Current(HDC dc, UINT type) {
     return description;
 }
 
-// Where the points of a shape stand in its record: up to its end, one word for each direction in turn.
+// Where the points of a shape are in its record: up to its end, one word for each direction in turn.
 struct Points {
     size_t first;
     bool xFirst;
@@ -67,7 +67,7 @@ std::optional<Points> PointsOf(const METARECORD& record) {
     case META_CHORD:
         return Points{0, false};
     case META_ROUNDRECT:
-        return Points{2, false}; // behind the size of its corners, which can't be larger than it
+        return Points{2, false}; // after the size of its corners, which can't be larger than it
     case META_POLYGON:
     case META_POLYLINE:
         return Points{1, true};

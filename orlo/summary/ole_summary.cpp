@@ -7,12 +7,12 @@
 #include <memory>
 #include <string>
 
+#include "orlo/propset/code_page.h"
 #include "orlo/propset/property_set.h"
 #include "orlo/summary/summary_field.h"
 
 namespace {
 
-constexpr DWORD kCodePage = 1;
 constexpr DWORD kCleared[] = {PIDSI_TITLE,     PIDSI_SUBJECT,   PIDSI_AUTHOR,
                               PIDSI_KEYWORDS,  PIDSI_COMMENTS,  PIDSI_TEMPLATE,
                               PIDSI_REVNUMBER, PIDSI_THUMBNAIL, PIDSI_APPNAME};
@@ -26,7 +26,7 @@ DWORD SystemVersion() {
     return MAKELONG(LOWORD(version), onTopOf16Bits ? 0 : 2);
 }
 
-// A text that fills its block to the last byte is no C text: it is stored once more, with a NUL.
+// A text that fills its block to the last byte is not a C string: it is stored once more, with a NUL.
 char* Terminated(CProperty& property) {
     DWORD size = 0;
     auto text = static_cast<char*>(property.Get(&size));
@@ -43,7 +43,7 @@ CPropertySet* OleStdInitSummaryInfo(int nCodePage) {
     set->SetOSVersion(SystemVersion());
     auto codePage = static_cast<WORD>(nCodePage != 0 ? nCodePage : static_cast<int>(::GetACP()));
     CPropertySection* section = set->AddSection(orlo::kSummaryFormat);
-    section->AddProperty(new CProperty(kCodePage, &codePage, VT_I2));
+    section->AddProperty(new CProperty(orlo::kCodePageId, &codePage, VT_I2));
     return set.release();
 }
 

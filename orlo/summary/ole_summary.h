@@ -66,6 +66,6 @@ ORLO_API int OleStdSetThumbNailProperty(CPropertySet* pSumInfo, DWORD dwFormat, 
 // property.
 ORLO_API void OleStdGetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int* pnYear, int* pnMonth,
                                     int* pnDay, int* pnSeconds);
-// Six zeros, or numbers that are no date, remove the property. A year before 1980 is taken for 1980.
+// Six zeros, or numbers that are not a date, remove the property. A year before 1980 is taken for 1980.
 ORLO_API int OleStdSetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int nYear, int nMonth, int nDay,
                                    int nHour, int nMinute, int nSecond);

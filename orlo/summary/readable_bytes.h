@@ -1,4 +1,4 @@
-// How many bytes behind an address can be read: the limit for pictures that are handed over without their
+// How many bytes from an address on can be read: the limit for pictures that are handed over without their
 // length.
 #pragma once
 

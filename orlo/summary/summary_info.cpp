@@ -62,7 +62,7 @@ bool ImageOf(CPropertySet* set, Bytes& image) {
     return stream && OleStdWriteSummaryInfo(stream.get(), set) && ReadAll(stream.get(), image);
 }
 
-// What the new bytes are longer comes first, behind the old ones: where room is short, it shows before those are touched.
+// The part by which the new bytes are longer is written first, after the old ones: a lack of room shows before those are touched.
 bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
     const size_t common = std::min(before.size(), after.size());
     return (after.size() <= before.size() || SetLength(stream, after.size())) &&
@@ -70,7 +70,7 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
            SetLength(stream, after.size());
 }
 
-// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros behind.
+// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros after it.
 void PutBack(IStream* stream, Bytes bytes) {
     if (!SetLength(stream, bytes.size())) {
         bytes.resize(std::max(bytes.size(), kShortestLong));

@@ -40,7 +40,7 @@ ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // Writes the summary stream, over one that is there; no other element of the storage is touched, or made for the time being.
 // A set that can't be written, and a disk without room for it, leave the old summary byte for byte (E_FAIL). A stream that
 // is there and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
-// least: behind a shorter summary it holds zeros.
+// least: after a shorter summary it holds zeros.
 //
 // In a transacted storage nothing is on the disk before its Commit, whose result counts: without room it fails, and the file
 // is as before. A storage in direct mode writes at once, step by step: a program that is killed in the middle leaves a

@@ -12,7 +12,7 @@ namespace {
 
 constexpr DWORD kSystemFormat = 0xFFFFFFFF;
 
-// What stands before the picture, behind the length.
+// What comes between the length and the picture.
 struct Head {
     DWORD tag, format;
 };

@@ -67,7 +67,7 @@ struct DeleteHandleOfMetaFile {
 };
 using OwnedMetaFile = std::unique_ptr<std::remove_pointer_t<HMETAFILE>, DeleteHandleOfMetaFile>;
 
-// A metafile of its own for the system: the records that were checked, an end, and zeros behind it. Drawing
+// A metafile of its own for the system: the records that were checked, an end, and zeros after it. Drawing
 // reads a font record as if its name always filled its field, beyond the end of a record that is shorter.
 OwnedMetaFile MakeMetaFile(const orlo::MetaFilePicture& picture) {
     constexpr uint32_t kEnd[] = {3, 0};

@@ -8,7 +8,7 @@
 // Pictures are foreign data. Each is checked to its last record before the system sees any of it, and one
 // that doesn't pass draws nothing. The length is part of that check only where it is given: prefer
 // DrawThumbnailValue for what comes from a file. The other functions know no length; for them it is what can
-// be read behind the pointer.
+// be read from the pointer on.
 //
 // A rectangle is in device pixels for metafile pictures, in units of the device context for bitmaps; with the
 // default mapping mode these are the same. The device context is given back as it came. Nothing here shows a
@@ -31,7 +31,7 @@ struct ThumbnailClip {
 // Proportions kept. 0 for a record that doesn't pass or a format other than 3 and 8.
 ORLO_API int DrawThumbnail(const ThumbnailClip* pClip, HDC hDC, const RECT* pRect);
 
-// The value of a thumbnail property as it is stored behind its length: format tag, format, picture; cb bytes
+// The value of a thumbnail property as it is stored after its length: format tag, format, picture; cb bytes
 // in all. As DrawThumbnail otherwise.
 ORLO_API int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const RECT* pRect);
 

@@ -72,7 +72,7 @@ TEST_F(ScaleExchange, WithoutAScaleItIsRefused) {
     EXPECT_EQ(3.0, scale);
     EXPECT_EQ(0, Count());
     text.Empty(); // nothing to load
-    boxes.Forget();
+    boxes.Clear();
     EXPECT_EQ(0, DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr));
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
     EXPECT_TRUE(boxes.Boxes().empty()) << "the caller has not asked the user anything";

@@ -8,17 +8,23 @@
 
 using Bytes = std::vector<uint8_t>;
 
-// "0a0b"_hex
+// "0a0b 0c"_hex; blanks between bytes are skipped.
 inline Bytes operator""_hex(const char* digits, size_t size) {
     Bytes bytes;
-    for (size_t i = 0; i + 1 < size; i += 2)
-        bytes.push_back(static_cast<uint8_t>(std::stoul(std::string(digits + i, 2), nullptr, 16)));
+    for (size_t i = 0; i + 1 < size; ++i)
+        if (digits[i] != ' ')
+            bytes.push_back(static_cast<uint8_t>(std::stoul(std::string(digits + i++, 2), nullptr, 16)));
     return bytes;
 }
 
 inline Bytes operator+(Bytes a, const Bytes& b) {
     a.insert(a.end(), b.begin(), b.end());
     return a;
+}
+
+// The bytes before that place.
+inline Bytes UpTo(size_t size, const Bytes& bytes) {
+    return Bytes(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(size));
 }
 
 inline Bytes LittleEndian(uint32_t number) {

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "orlo/propset/inspect/value.h"
-
 struct CorpusStream {
     std::string path;
     nlohmann::json manifest; // what independent readers see in it
@@ -20,6 +18,3 @@ void PrintTo(const CorpusStream& stream, std::ostream* out);
 std::vector<CorpusStream> AllCorpusStreams();
 // For the name of a parameterised test.
 std::string CorpusTestName(const std::string& path);
-
-// A value in the form that the manifest has.
-nlohmann::json ToJson(const orlo::Value& value);

@@ -33,10 +33,3 @@ HRESULT MemoryStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* pos
     if (position != nullptr) position->QuadPart = position_;
     return S_OK;
 }
-
-#if defined(_WIN32)
-HRESULT MemoryStream::QueryInterface(REFIID, void** object) {
-    *object = nullptr;
-    return E_NOINTERFACE;
-}
-#endif

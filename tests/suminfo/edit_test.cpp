@@ -1,18 +1,16 @@
 // suminfo set, remove and copy: what was asked for is there, everything else is as it was.
 
 #include <gtest/gtest.h>
-#include <memory>
-#include <nlohmann/json.hpp>
 #include <set>
-#include <sstream>
 #include <windows.h>
 
 #include <objbase.h>
 
+#include "orlo/win/com_owner.h"
 #include "program.h"
 #include "streams.h"
+#include "support/file_bytes.h"
 
-using Json = nlohmann::json;
 namespace fs = std::filesystem;
 
 namespace {
@@ -92,28 +90,26 @@ TEST_F(Edit, FieldsOfEveryKind) {
 
 TEST_F(Edit, CustomPropertiesOfEveryType) {
     const fs::path file = Document("test11--695187.doc"); // has none yet
-    ExpectDone({"set",      file.string(),
-                "--custom", "Client=text:ACME",
-                "--custom", "Wide=wide:Ωmega",
-                "--custom", "Sheets=int:-12",
-                "--custom", "Scale=number:0.1",
-                "--custom", "Done=bool:no",
-                "--custom", "Due=date:2001-02-03",
-                "--custom", "Price=money:12.5",
-                "--custom", "Long=long:-9223372036854775808",
-                "--custom", "Id=guid:F29F85E0-4FF9-1068-AB91-08002B27B3D9"});
+    const struct {
+        const char *name, *typed;
+        Json value;
+    } rows[] = {
+        {"Client", "text:ACME", "ACME"},
+        {"Wide", "wide:Ωmega", "Ωmega"},
+        {"Sheets", "int:-12", -12},
+        {"Scale", "number:0.1", 0.1},
+        {"Done", "bool:no", false},
+        {"Due", "date:2001-02-03", "126256320000000000"},
+        {"Price", "money:12.5", "125000"},
+        {"Long", "long:-9223372036854775808", "-9223372036854775808"},
+        {"Id", "guid:F29F85E0-4FF9-1068-AB91-08002B27B3D9", "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"}};
+    std::vector<std::string> line = {"set", file.string()};
+    for (const auto& row : rows)
+        line.insert(line.end(), {"--custom", std::string(row.name) + "=" + row.typed});
+    ExpectDone(line);
     const Content made(file);
-    const std::map<std::string, Json> expected = {{"Client", "ACME"},
-                                                  {"Wide", "Ωmega"},
-                                                  {"Sheets", -12},
-                                                  {"Scale", 0.1},
-                                                  {"Done", false},
-                                                  {"Due", "126256320000000000"},
-                                                  {"Price", "125000"},
-                                                  {"Long", "-9223372036854775808"},
-                                                  {"Id", "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"}};
-    for (const auto& [name, value] : expected)
-        EXPECT_EQ(made[name], value) << name;
+    for (const auto& row : rows)
+        EXPECT_EQ(made[row.name], row.value) << row.name;
     // The same, whatever the case; and a field may follow.
     ExpectDone(
         {"set", "--custom", "client=text:Other", file.string(), "--custom", "Sheets=int:3", "pages=7"});
@@ -232,12 +228,8 @@ TEST_F(Edit, OtherStreamsKeepEveryByte) {
 // All documents of a folder, by their names.
 std::map<std::string, Content> ContentsOf(const fs::path& folder) {
     std::map<std::string, Content> contents;
-    std::istringstream lines(RunSuminfo({"show", "--json", "-r", "."}, folder).out);
-    for (std::string line; std::getline(lines, line);) {
-        Json file = Json::parse(line);
-        const auto name = fs::path(file["file"].get<std::string>()).filename().string();
-        contents.emplace(name, Content(std::move(file)));
-    }
+    for (auto& [name, file] : ByFile(RunSuminfo({"show", "--json", "-r", "."}, folder).out))
+        contents.emplace(name, Content(file));
     return contents;
 }
 
@@ -248,7 +240,7 @@ TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
         const fs::path kind = entry.path().extension();
         if (kind == ".json" || kind == ".md" || ++ofKind[kind] > 2) continue;
         folder_.Copy(entry.path());
-        bytes[entry.path().filename().string()] = BytesOf(entry.path());
+        bytes[entry.path().filename().string()] = FileBytes(entry.path());
     }
     const auto before = ContentsOf(folder_.Path());
     std::set<std::string> refused;
@@ -267,43 +259,38 @@ TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
                 ADD_FAILURE() << key << " was " << value << ", is " << values.at(key);
     }
     for (const std::string& name : refused)
-        EXPECT_EQ(BytesOf(folder_.Path() / name), bytes[name]) << name << " was refused, but changed";
+        EXPECT_EQ(FileBytes(folder_.Path() / name), bytes[name]) << name << " was refused, but changed";
 }
 
 TEST_F(Edit, WhatIsRefusedChangesNothing) {
     const fs::path file = Document("test11--695187.doc");
-    const std::vector<unsigned char> before = BytesOf(file);
+    const std::vector<unsigned char> before = FileBytes(file);
     const std::string name = file.string();
     ExpectRefused({"set", name, "title=New", "pages=many"}, "pages: 'many' is no whole number");
     ExpectRefused({"set", name, "title=New", "saved=2001-02-30"}, "is no date");
     ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is no span of time");
     ExpectRefused({"remove", name, "title", "--custom", "Nobody"}, "it has no custom property 'Nobody'");
-    EXPECT_EQ(BytesOf(file), before);
+    EXPECT_EQ(FileBytes(file), before);
 }
 
 TEST_F(Edit, DamagedDocumentsAreLeftAlone) {
     for (const char* name :
          {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", "loop-in-alloc--d3743f.bin"}) {
         const fs::path file = Document(name);
-        const std::vector<unsigned char> before = BytesOf(file);
+        const std::vector<unsigned char> before = FileBytes(file);
         ExpectRefused({"set", file.string(), "title=New"}, "is damaged");
-        EXPECT_EQ(BytesOf(file), before);
+        EXPECT_EQ(FileBytes(file), before);
     }
 }
-
-struct ReleaseStorage {
-    void operator()(IStorage* storage) const { storage->Release(); }
-};
 
 TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
     const fs::path file = Document("test11--695187.doc");
     const fs::path other = Document("25695--d41532.xls");
-    const std::vector<unsigned char> before = BytesOf(file);
+    const std::vector<unsigned char> before = FileBytes(file);
     {
-        IStorage* storage = nullptr;
+        orlo::Owned<IStorage> holder;
         constexpr DWORD kHold = STGM_READ | STGM_SHARE_DENY_WRITE;
-        ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kHold, nullptr, 0, &storage), S_OK);
-        const std::unique_ptr<IStorage, ReleaseStorage> holder(storage);
+        ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kHold, nullptr, 0, orlo::Receive(holder)), S_OK);
         ExpectRefused({"set", file.string(), "title=New"},
                       "test11--695187.doc: can't be opened: another program has it open");
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
@@ -315,7 +302,7 @@ TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
     ExpectRefused({"remove", file.string(), "title"}, "was left alone: the file is read-only");
     EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0);
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_EQ(BytesOf(file), before);
+    EXPECT_EQ(FileBytes(file), before);
 }
 
 TEST_F(Edit, AttributesStay) {

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "program.h"
+#include "support/file_bytes.h"
 
 namespace fs = std::filesystem;
 
@@ -101,7 +102,7 @@ private:
 
     PROCESS_INFORMATION process_ = {};
     BOOL started_ = FALSE;
-    std::map<void*, BYTE> first_; // of each function the byte that the break stands for
+    std::map<void*, BYTE> first_; // of each function the byte that the break replaces
     void* passing_ = nullptr;
     int calls_ = 0;
 };
@@ -109,16 +110,16 @@ private:
 TEST(Killed, AtAnyWriteLeavesTheOldDocumentOrTheNew) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");
-    const std::vector<unsigned char> before = BytesOf(file);
+    const std::vector<unsigned char> before = FileBytes(file);
     const std::vector<std::string> edit = {"set", file.string(), "title=New"};
     ASSERT_EQ(RunSuminfo(edit).exitCode, 0);
-    const std::vector<unsigned char> after = BytesOf(file);
+    const std::vector<unsigned char> after = FileBytes(file);
     int call = 0;
     for (bool killed = true; killed;) {
         fs::remove(file);
         folder.Copy(kDocuments / "test11--695187.doc");
         killed = Victim(edit).KillBefore(++call);
-        EXPECT_EQ(BytesOf(file), killed ? before : after) << "killed at call " << call;
+        EXPECT_EQ(FileBytes(file), killed ? before : after) << "killed at call " << call;
     }
     EXPECT_GT(call, 10);
     // What was left lies beside it, and in nobody's way.

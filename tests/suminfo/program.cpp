@@ -4,17 +4,17 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <sstream>
 #include <windows.h>
 
-#include "orlo/win/encoded_text.h"
+#include "support/file_bytes.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 std::wstring Wide(const std::string& utf8) {
-    return orlo::Widen(utf8, CP_UTF8);
+    return fs::u8path(utf8).wstring();
 }
 
 // As the system's own rules take a command line apart: quotes and the backslashes before them are escaped.
@@ -45,8 +45,8 @@ HANDLE Inherited(const fs::path& file, DWORD access, DWORD creation) {
 }
 
 std::string TextOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(stream), {});
+    const std::vector<uint8_t> bytes = FileBytes(file);
+    return {bytes.begin(), bytes.end()};
 }
 
 } // namespace
@@ -91,6 +91,17 @@ Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& fo
     return {static_cast<int>(exitCode), TextOf(out), TextOf(err)};
 }
 
+std::map<std::string, Json> ByFile(const std::string& lines) {
+    std::map<std::string, Json> objects;
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) {
+        Json object = Json::parse(line);
+        const auto name = fs::path(object["file"].get<std::string>()).filename().string();
+        objects[name] = std::move(object);
+    }
+    return objects;
+}
+
 Folder::Folder() {
     static int count = 0;
     const std::string name =
@@ -109,9 +120,4 @@ fs::path Folder::Copy(const fs::path& file, const std::string& name) const {
     fs::copy_file(file, copy);
     ::SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_NORMAL);
     return copy;
-}
-
-std::vector<unsigned char> BytesOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return std::vector<unsigned char>(std::istreambuf_iterator<char>(stream), {});
 }

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
+
+using Json = nlohmann::json;
 
 struct Outcome {
     int exitCode;
@@ -12,10 +16,13 @@ struct Outcome {
 
 // What starts suminfo.exe with these arguments, in UTF-8.
 std::wstring CommandLineOf(const std::vector<std::string>& arguments);
-// Arguments in UTF-8; the working folder is the given one; on standard input stands the given text.
+// Arguments in UTF-8; the working folder is the given one; standard input holds the given text.
 Outcome RunSuminfo(const std::vector<std::string>& arguments,
                    const std::filesystem::path& folder = std::filesystem::temp_directory_path(),
                    const std::string& input = {});
+
+// What show --json has printed, one object a line, by the bare names of the files.
+std::map<std::string, Json> ByFile(const std::string& lines);
 
 // A folder of its own for each test, gone afterwards.
 class Folder {
@@ -32,8 +39,6 @@ public:
 private:
     std::filesystem::path path_;
 };
-
-std::vector<unsigned char> BytesOf(const std::filesystem::path& file);
 
 inline const std::filesystem::path kDocuments = std::filesystem::path(ORLO_TEST_DATA) / "ole";
 inline const std::filesystem::path kStreams = std::filesystem::path(ORLO_TEST_DATA) / "propset";

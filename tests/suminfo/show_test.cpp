@@ -2,31 +2,15 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <map>
-#include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "program.h"
 
-using Json = nlohmann::json;
 namespace fs = std::filesystem;
 
 namespace {
 
 Json Load(const fs::path& file) {
     return Json::parse(std::ifstream(file));
-}
-
-// One object a line, by the file's bare name.
-std::map<std::string, Json> ByFile(const std::string& lines) {
-    std::map<std::string, Json> objects;
-    std::istringstream stream(lines);
-    for (std::string line; std::getline(stream, line);) {
-        Json object = Json::parse(line);
-        const auto name = fs::path(object["file"].get<std::string>()).filename().string();
-        objects[name] = std::move(object);
-    }
-    return objects;
 }
 
 // Without the raw bytes that the manifest gives beside some texts of variants.

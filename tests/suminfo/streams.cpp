@@ -1,51 +1,23 @@
-// Storages in storages.
+// Reading by the system, and writing one stream.
 
 #include "streams.h"
 
 #include <gtest/gtest.h>
-#include <windows.h>
 
-#include <objbase.h>
+#include "orlo/win/com_owner.h"
+#include "support/system_streams.h"
 
-namespace {
+using orlo::Owned;
+using orlo::Receive;
 
-constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
-using Streams = std::map<std::string, std::vector<unsigned char>>;
-
-void Collect(IStorage* storage, const std::string& prefix, Streams& streams) {
-    IEnumSTATSTG* list = nullptr;
-    ASSERT_EQ(storage->EnumElements(0, nullptr, 0, &list), S_OK);
-    STATSTG stat;
-    while (list->Next(1, &stat, nullptr) == S_OK) {
-        const std::wstring wide = stat.pwcsName;
-        ::CoTaskMemFree(stat.pwcsName);
-        const std::string name = prefix + std::filesystem::path(wide).string();
-        IStorage* inner = nullptr;
-        IStream* stream = nullptr;
-        if (stat.type == STGTY_STORAGE &&
-            storage->OpenStorage(wide.c_str(), nullptr, kRead, nullptr, 0, &inner) == S_OK) {
-            Collect(inner, name + "/", streams);
-            inner->Release();
-        } else if (storage->OpenStream(wide.c_str(), nullptr, kRead, 0, &stream) == S_OK) {
-            std::vector<unsigned char>& bytes = streams[name];
-            bytes.resize(static_cast<size_t>(stat.cbSize.QuadPart));
-            stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-            stream->Release();
-        }
-    }
-    list->Release();
-}
-
-} // namespace
-
-Streams StreamsOf(const std::filesystem::path& file) {
-    Streams streams;
-    IStorage* storage = nullptr;
-    const HRESULT opened = ::StgOpenStorage(file.c_str(), nullptr, kRead, nullptr, 0, &storage);
-    EXPECT_EQ(opened, S_OK) << file;
-    if (FAILED(opened)) return streams;
-    Collect(storage, "", streams);
-    storage->Release();
+std::map<std::string, std::vector<unsigned char>> StreamsOf(const std::filesystem::path& file) {
+    std::map<std::string, std::vector<unsigned char>> streams;
+    Owned<IStorage> storage;
+    constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
+    EXPECT_EQ(::StgOpenStorage(file.c_str(), nullptr, kRead, nullptr, 0, Receive(storage)), S_OK) << file;
+    if (!storage) return streams;
+    for (auto& [path, bytes] : SystemStreamsOf(storage.get()))
+        streams[std::string(path.begin(), path.end())] = bytes;
     return streams;
 }
 
@@ -58,12 +30,10 @@ void EditSet(const std::filesystem::path& file, const std::string& stream,
     edit(*image);
     const orlo::Bytes edited = orlo::WriteSetImage(*image).value();
     constexpr DWORD kReplace = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
-    IStorage* storage = nullptr;
-    IStream* opened = nullptr;
-    ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kReplace, nullptr, 0, &storage), S_OK);
+    Owned<IStorage> storage;
+    Owned<IStream> opened;
+    ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kReplace, nullptr, 0, Receive(storage)), S_OK);
     const std::wstring name(stream.begin(), stream.end());
-    ASSERT_EQ(storage->CreateStream(name.c_str(), kReplace | STGM_CREATE, 0, 0, &opened), S_OK);
+    ASSERT_EQ(storage->CreateStream(name.c_str(), kReplace | STGM_CREATE, 0, 0, Receive(opened)), S_OK);
     opened->Write(edited.data(), static_cast<ULONG>(edited.size()), nullptr);
-    opened->Release();
-    storage->Release();
 }

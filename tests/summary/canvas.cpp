@@ -12,6 +12,13 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 Canvas::Canvas(int width, int height) : Pixels(width, height), width_(width), height_(height) {}
 
+void Canvas::Fill(const std::vector<uint8_t>& colors) {
+    const uint8_t* at = colors.data();
+    for (int y = 0; y < height_; ++y)
+        for (int x = 0; x < width_; ++x, at += 3)
+            ::SetPixelV(DC(), x, y, RGB(at[0], at[1], at[2]));
+}
+
 std::optional<RECT> Canvas::Covered() const {
     RECT covered = {width_, height_, 0, 0};
     for (LONG y = 0; y < height_; ++y) {

@@ -1,7 +1,9 @@
 // A white picture to draw on, and what of it is covered afterwards.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "support/pixels.h"
 
@@ -14,6 +16,8 @@ public:
     Canvas(int width, int height);
 
     RECT Whole() const { return {0, 0, width_, height_}; }
+    // Red, green and blue of every pixel, line by line from the top.
+    void Fill(const std::vector<uint8_t>& colors);
     void Whiten() { Clear(RGB(255, 255, 255)); }
     // The smallest rectangle around everything that isn't white, or nothing.
     std::optional<RECT> Covered() const;

@@ -8,28 +8,23 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <memory>
 #include <random>
 
 #include "compound_bytes.h"
 #include "failing_bytes.h"
+#include "orlo/win/com_owner.h"
+#include "owned_summary.h"
+#include "support/file_bytes.h"
+#include "support/system_streams.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 using Bytes = std::vector<uint8_t>;
+using orlo::Owned;
+using orlo::Receive;
 constexpr size_t kSector = 512;
-
-struct ReleaseObject {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-using Storage = std::unique_ptr<IStorage, ReleaseObject>;
-
-Bytes Load(const char* name) {
-    std::ifstream file(fs::path(ORLO_TEST_DATA) / "ole" / name, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(file), {});
-}
 
 uint32_t Number(const Bytes& file, size_t at) {
     uint32_t number;
@@ -48,16 +43,10 @@ Bytes Damaged(Bytes file, unsigned seed) {
         const size_t start = part < 2 ? 0 : (size_t{sectors[part - 2]} + 1) * kSector;
         const size_t at = start + random() % (part < 2 ? 96 : kSector);
         if (at + 4 > file.size()) continue;
-        const uint32_t numbers[] = {0,
-                                    1,
-                                    0xFFFFFFFF,
-                                    0xFFFFFFFE,
-                                    0xFFFFFFFD,
-                                    directory,
-                                    table,
-                                    shortTable,
-                                    static_cast<uint32_t>(random() % (file.size() / kSector)),
-                                    static_cast<uint32_t>(random())};
+        const auto anySector = static_cast<uint32_t>(random() % (file.size() / kSector));
+        const auto any = static_cast<uint32_t>(random());
+        const uint32_t numbers[] = {0,         1,     0xFFFFFFFF, 0xFFFFFFFE, 0xFFFFFFFD,
+                                    directory, table, shortTable, anySector,  any};
         const uint32_t number = numbers[random() % std::size(numbers)];
         if (random() % 3 == 0)
             file[at] = static_cast<uint8_t>(random());
@@ -68,54 +57,14 @@ Bytes Damaged(Bytes file, unsigned seed) {
     return file;
 }
 
-Bytes ReadAll(IStorage* storage, const wchar_t* name) {
-    Bytes bytes;
-    IStream* stream = nullptr;
-    if (FAILED(storage->OpenStream(name, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream)))
-        return bytes;
-    const std::unique_ptr<IStream, ReleaseObject> owner(stream);
-    Bytes piece(4096);
-    for (ULONG got = 1; got != 0;) {
-        if (FAILED(stream->Read(piece.data(), static_cast<ULONG>(piece.size()), &got))) break;
-        bytes.insert(bytes.end(), piece.begin(), piece.begin() + static_cast<ptrdiff_t>(got));
-    }
-    return bytes;
-}
-
-// What the system reads.
-void Collect(IStorage* storage, const std::u16string& prefix, Streams& streams) {
-    IEnumSTATSTG* opened = nullptr;
-    if (FAILED(storage->EnumElements(0, nullptr, 0, &opened))) return;
-    const std::unique_ptr<IEnumSTATSTG, ReleaseObject> list(opened);
-    STATSTG stat;
-    while (list->Next(1, &stat, nullptr) == S_OK) {
-        const std::wstring name = stat.pwcsName ? stat.pwcsName : L"";
-        ::CoTaskMemFree(stat.pwcsName);
-        const std::u16string path = prefix + std::u16string(name.begin(), name.end());
-        IStorage* inner = nullptr;
-        if (stat.type != STGTY_STORAGE) {
-            streams[path] = ReadAll(storage, name.c_str());
-        } else if (SUCCEEDED(storage->OpenStorage(name.c_str(), nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE,
-                                                  nullptr, 0, &inner))) {
-            Collect(Storage(inner).get(), path + u'/', streams);
-        }
-    }
-}
-
-struct Summary {
-    CPropertySet* set = OleStdInitSummaryInfo(1252);
-    ~Summary() { OleStdFreeSummaryInfo(&set); }
-};
-
 void ExpectSavingChangesNoOther(const Bytes& file, size_t titleLength) {
     FailingBytes disk(file);
-    Summary summary;
-    OleStdSetStringProperty(summary.set, PIDSI_TITLE, std::string(titleLength, 't').c_str());
+    const OwnedSummary summary = SummaryOf(std::string(titleLength, 't'));
     {
-        IStorage* opened = nullptr;
+        Owned<IStorage> storage;
         constexpr DWORD kWrite = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
-        ASSERT_EQ(::StgOpenStorageOnILockBytes(&disk, nullptr, kWrite, nullptr, 0, &opened), S_OK);
-        EXPECT_EQ(SaveSummaryInfo(Storage(opened).get(), summary.set), S_OK);
+        ASSERT_EQ(::StgOpenStorageOnILockBytes(&disk, nullptr, kWrite, nullptr, 0, Receive(storage)), S_OK);
+        EXPECT_EQ(SaveSummaryInfo(storage.get(), summary.get()), S_OK);
     }
     EXPECT_EQ(ReaderOf(disk.bytes).State(), orlo::CompoundState::sound);
     Streams before = StreamsOf(file), after = StreamsOf(disk.bytes);
@@ -128,7 +77,7 @@ void ExpectSavingChangesNoOther(const Bytes& file, size_t titleLength) {
 class DamagedDocument : public testing::TestWithParam<const char*> {};
 
 TEST_P(DamagedDocument, IsRefusedOrRead) {
-    const Bytes whole = Load(GetParam());
+    const Bytes whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path = fs::temp_directory_path() / "orlo-random-damage.doc";
     int sound = 0, refused = 0;
     for (unsigned seed = 0; seed < 1000; ++seed) {
@@ -137,19 +86,18 @@ TEST_P(DamagedDocument, IsRefusedOrRead) {
         std::ofstream(path, std::ios::binary)
             .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
         const auto state = ReaderOf(file).State();
-        IStorage* opened = nullptr;
-        Summary summary;
-        const HRESULT result = GetFileSummaryInfo(path.string().c_str(), &opened, &summary.set);
-        const Storage storage(opened);
+        Owned<IStorage> storage;
+        CPropertySet* read = nullptr;
+        const HRESULT result = GetFileSummaryInfo(path.string().c_str(), Receive(storage), &read);
+        const OwnedSummary summary(read);
         if (state == orlo::CompoundState::unsafe) {
             EXPECT_EQ(result, STG_E_DOCFILECORRUPT);
             ++refused;
         }
-        Streams read;
-        if (storage) Collect(storage.get(), u"", read);
+        const Streams streams = storage ? SystemStreamsOf(storage.get()) : Streams();
         if (state != orlo::CompoundState::sound) continue;
         ++sound;
-        EXPECT_TRUE(!storage || read == StreamsOf(file));
+        EXPECT_TRUE(!storage || streams == StreamsOf(file));
         ExpectSavingChangesNoOther(file, seed % 3 * 4000);
     }
     fs::remove(path);

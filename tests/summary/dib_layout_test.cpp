@@ -11,14 +11,6 @@ using orlo::ReadDibLayout;
 
 namespace {
 
-DibBytes Dib(int32_t width, int32_t height, uint16_t bits) {
-    DibBytes dib;
-    dib.width = width;
-    dib.height = height;
-    dib.bitsPerPixel = bits;
-    return dib;
-}
-
 struct Passing {
     const char* name;
     DibBytes dib;
@@ -32,55 +24,36 @@ DibBytes WithTable(DibBytes dib, size_t colours, uint32_t used) {
     return dib.Fill(0);
 }
 
-DibBytes RunLength(DibBytes dib, ByteVector codes) {
-    dib.compression = dib.bitsPerPixel == 8 ? 1 : 2;
-    dib.table.assign(size_t{1} << dib.bitsPerPixel, 0);
-    dib.imageBytes = static_cast<uint32_t>(codes.size());
-    dib.pixels = std::move(codes);
-    return dib;
-}
-
-DibBytes Masked(DibBytes dib) {
-    dib.compression = 3;
-    dib.table = {0xF800, 0x07E0, 0x001F};
-    return dib.Fill(0);
-}
-
 const Passing kPassing[] = {
     {"TrueColour", Dib(3, 2, 24).Fill(0), 40, 24},
     {"OneBitTwoColours", WithTable(Dib(33, 2, 1), 2, 0), 48, 16},
     {"FourBitsFewColours", WithTable(Dib(3, 1, 4), 5, 5), 60, 4},
     {"EightBitsFullTable", WithTable(Dib(3, 1, 8), 256, 0), 40 + 1024, 4},
     {"TrueColourWithTable", WithTable(Dib(1, 1, 24), 7, 7), 68, 4},
-    {"Masks", Masked(Dib(2, 2, 16)), 52, 8},
+    {"Masks", Dib(2, 2, 16).Masked(), 52, 8},
     {"TopDown", Dib(3, -2, 32).Fill(0), 40, 24},
-    {"RunLengthEight", RunLength(Dib(4, 2, 8), {4, 1, 0, 0, 0, 3, 1, 2, 3, 0, 1, 9, 0, 1}), 40 + 1024, 14},
-    {"RunLengthFour", RunLength(Dib(4, 2, 4), {4, 0x12, 0, 0, 0, 2, 1, 0, 0, 3, 0x12, 0x30, 0, 1}), 40 + 64,
+    {"RunLengthEight", Dib(4, 2, 8).RunLength({4, 1, 0, 0, 0, 3, 1, 2, 3, 0, 1, 9, 0, 1}), 40 + 1024, 14},
+    {"RunLengthFour", Dib(4, 2, 4).RunLength({4, 0x12, 0, 0, 0, 2, 1, 0, 0, 3, 0x12, 0x30, 0, 1}), 40 + 64,
      14},
 };
 
-class DibPasses : public testing::TestWithParam<Passing> {};
-
-TEST_P(DibPasses, WithItsPartsInPlace) {
-    const ByteVector bytes = GetParam().dib.Build();
-    const auto layout = ReadDibLayout(bytes.data(), bytes.size(), DibColours::Rgb);
-    ASSERT_TRUE(layout);
-    EXPECT_EQ(layout->pixelOffset, GetParam().pixelOffset);
-    EXPECT_EQ(layout->pixelBytes, GetParam().pixelBytes);
-    EXPECT_EQ(layout->height, std::abs(GetParam().dib.height));
-    EXPECT_EQ(layout->topDown, GetParam().dib.height < 0);
-}
-
-TEST_P(DibPasses, NotWhenCutAnywhere) {
-    const ByteVector bytes = GetParam().dib.Build();
-    for (size_t size = 0; size < bytes.size(); ++size) {
-        const ByteVector cut(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(size));
-        EXPECT_FALSE(ReadDibLayout(cut.data(), cut.size(), DibColours::Rgb)) << size << " bytes";
+TEST(DibLayout, HasThePartsInPlaceAndPassesNotWhenCutAnywhere) {
+    for (const Passing& row : kPassing) {
+        SCOPED_TRACE(row.name);
+        const ByteVector bytes = row.dib.Build();
+        const auto layout = ReadDibLayout(bytes.data(), bytes.size(), DibColours::Rgb);
+        ASSERT_TRUE(layout);
+        EXPECT_EQ(layout->pixelOffset, row.pixelOffset);
+        EXPECT_EQ(layout->pixelBytes, row.pixelBytes);
+        EXPECT_EQ(layout->height, std::abs(row.dib.height));
+        EXPECT_EQ(layout->topDown, row.dib.height < 0);
+        for (size_t size = 0; size < bytes.size(); ++size) {
+            const ByteVector cut(bytes.begin(),
+                                 bytes.begin() + static_cast<ptrdiff_t>(size)); // its end is guarded
+            EXPECT_FALSE(ReadDibLayout(cut.data(), cut.size(), DibColours::Rgb)) << size << " bytes";
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Bitmaps, DibPasses, testing::ValuesIn(kPassing),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 struct Refused {
     const char* name;
@@ -108,28 +81,25 @@ const Refused kRefused[] = {
     {"OtherHeader", With(Dib(1, 1, 24).Fill(0), &DibBytes::headerSize, 41u)},
     {"HeaderSizeOf32Bits", With(Dib(1, 1, 24).Fill(0), &DibBytes::headerSize, 0x10028u)},
     {"WholeJpegInside", With(Dib(1, 1, 24).Fill(0), &DibBytes::compression, 4u)},
-    {"MasksOfTrueColour", Masked(Dib(1, 1, 24))},
-    {"RunPastTheLine", RunLength(Dib(4, 2, 8), {5, 1, 0, 1})},
-    {"LinesPastTheTop", RunLength(Dib(4, 1, 8), {0, 0, 1, 1, 0, 1})},
-    {"DeltaOutside", RunLength(Dib(4, 2, 8), {0, 2, 3, 3, 0, 1})},
-    {"DeltaCut", RunLength(Dib(4, 2, 8), {0, 2, 1})},
-    {"AbsoluteCut", RunLength(Dib(4, 2, 8), {0, 4, 1, 2})},
-    {"NoEnd", RunLength(Dib(4, 2, 8), {4, 1})},
-    {"RunLengthBomb", RunLength(Dib(30000, 30000, 8), {0, 1})},
-    {"RunLengthTopDown", RunLength(Dib(4, -2, 8), {4, 1, 0, 1})},
+    {"MasksOfTrueColour", Dib(1, 1, 24).Masked()},
+    {"RunPastTheLine", Dib(4, 2, 8).RunLength({5, 1, 0, 1})},
+    {"LinesPastTheTop", Dib(4, 1, 8).RunLength({0, 0, 1, 1, 0, 1})},
+    {"DeltaOutside", Dib(4, 2, 8).RunLength({0, 2, 3, 3, 0, 1})},
+    {"DeltaCut", Dib(4, 2, 8).RunLength({0, 2, 1})},
+    {"AbsoluteCut", Dib(4, 2, 8).RunLength({0, 4, 1, 2})},
+    {"NoEnd", Dib(4, 2, 8).RunLength({4, 1})},
+    {"RunLengthBomb", Dib(30000, 30000, 8).RunLength({0, 1})},
+    {"RunLengthTopDown", Dib(4, -2, 8).RunLength({4, 1, 0, 1})},
     {"RunLengthOfOtherBits", With(Dib(4, 2, 24).Fill(0), &DibBytes::compression, 1u)},
-    {"RunLengthWithoutSize", With(RunLength(Dib(4, 2, 8), {0, 1}), &DibBytes::imageBytes, 0u)},
+    {"RunLengthWithoutSize", With(Dib(4, 2, 8).RunLength({0, 1}), &DibBytes::imageBytes, 0u)},
 };
 
-class DibIsRefused : public testing::TestWithParam<Refused> {};
-
-TEST_P(DibIsRefused, WithoutReadingPastIt) {
-    const ByteVector bytes = GetParam().dib.Build();
-    EXPECT_FALSE(ReadDibLayout(bytes.data(), bytes.size(), DibColours::Rgb));
+TEST(DibLayout, IsRefusedWithoutReadingPastIt) {
+    for (const Refused& row : kRefused) {
+        const ByteVector bytes = row.dib.Build();
+        EXPECT_FALSE(ReadDibLayout(bytes.data(), bytes.size(), DibColours::Rgb)) << row.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Bitmaps, DibIsRefused, testing::ValuesIn(kRefused),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(DibLayout, PaletteIndicesTakeTwoBytesEach) {
     DibBytes dib = Dib(4, 1, 8);
@@ -150,9 +120,7 @@ TEST(DibLayout, OnlyTheLinesThatAreAskedForNeedBeThere) {
 
 TEST(DibLayout, ReadsTheOldTwelveByteHeader) {
     ByteVector bytes;
-    AppendLong(bytes, 12);
-    for (const uint16_t word : {8, 2, 1, 1})
-        AppendWord(bytes, word);
+    AppendWords(bytes, {12, 0, 8, 2, 1, 1});
     bytes.insert(bytes.end(), 2 * 3 + 2 * 4, 0); // two colours of three bytes, two lines
     const auto layout = ReadDibLayout(bytes.data(), bytes.size(), DibColours::Rgb);
     ASSERT_TRUE(layout);

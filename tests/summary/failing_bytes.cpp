@@ -36,14 +36,6 @@ HRESULT FailingBytes::SetSize(ULARGE_INTEGER size) {
     return S_OK;
 }
 
-HRESULT FailingBytes::LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) {
-    return STG_E_INVALIDFUNCTION;
-}
-
-HRESULT FailingBytes::UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) {
-    return STG_E_INVALIDFUNCTION;
-}
-
 HRESULT FailingBytes::Stat(STATSTG* stat, DWORD) {
     *stat = {};
     stat->type = STGTY_LOCKBYTES;

@@ -23,15 +23,19 @@ public:
     std::vector<std::vector<uint8_t>> history;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives where it stands
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives on the stack
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE ReadAt(ULARGE_INTEGER at, void* buffer, ULONG size, ULONG* done) override;
     HRESULT STDMETHODCALLTYPE WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size,
                                       ULONG* done) override;
     HRESULT STDMETHODCALLTYPE Flush() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetSize(ULARGE_INTEGER size) override;
-    HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override;
-    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override;
+    HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {
+        return STG_E_INVALIDFUNCTION;
+    }
+    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {
+        return STG_E_INVALIDFUNCTION;
+    }
     HRESULT STDMETHODCALLTYPE Stat(STATSTG* stat, DWORD flags) override;
 };
 #pragma GCC diagnostic pop

@@ -3,34 +3,50 @@
 #include "picture_bytes.h"
 
 #include <cstdlib>
+#include <utility>
 
-void AppendWord(ByteVector& bytes, uint16_t value) {
-    bytes.push_back(static_cast<uint8_t>(value));
-    bytes.push_back(static_cast<uint8_t>(value >> 8));
+void AppendWords(ByteVector& bytes, const std::vector<uint16_t>& words) {
+    for (const uint16_t word : words)
+        bytes.insert(bytes.end(), {static_cast<uint8_t>(word), static_cast<uint8_t>(word >> 8)});
 }
 
 void AppendLong(ByteVector& bytes, uint32_t value) {
-    AppendWord(bytes, static_cast<uint16_t>(value));
-    AppendWord(bytes, static_cast<uint16_t>(value >> 16));
+    AppendWords(bytes, {static_cast<uint16_t>(value), static_cast<uint16_t>(value >> 16)});
 }
 
 ByteVector DibBytes::Build() const {
     ByteVector bytes;
-    AppendLong(bytes, headerSize);
-    AppendLong(bytes, static_cast<uint32_t>(width));
-    AppendLong(bytes, static_cast<uint32_t>(height));
-    AppendWord(bytes, planes);
-    AppendWord(bytes, bitsPerPixel);
-    AppendLong(bytes, compression);
-    AppendLong(bytes, imageBytes);
-    AppendLong(bytes, 0); // resolution
-    AppendLong(bytes, 0);
-    AppendLong(bytes, coloursUsed);
-    AppendLong(bytes, 0); // important colours
+    for (const uint32_t field : {headerSize, static_cast<uint32_t>(width), static_cast<uint32_t>(height)})
+        AppendLong(bytes, field);
+    AppendWords(bytes, {planes, bitsPerPixel});
+    for (const uint32_t field : {compression, imageBytes, 0u, 0u, coloursUsed, 0u})
+        AppendLong(bytes, field);
     for (const uint32_t color : table)
         AppendLong(bytes, color);
     bytes.insert(bytes.end(), pixels.begin(), pixels.end());
     return bytes;
+}
+
+DibBytes Dib(int32_t width, int32_t height, uint16_t bits) {
+    DibBytes dib;
+    dib.width = width;
+    dib.height = height;
+    dib.bitsPerPixel = bits;
+    return dib;
+}
+
+DibBytes& DibBytes::RunLength(ByteVector codes) {
+    compression = bitsPerPixel == 8 ? 1 : 2;
+    table.resize(size_t{1} << bitsPerPixel);
+    imageBytes = static_cast<uint32_t>(codes.size());
+    pixels = std::move(codes);
+    return *this;
+}
+
+DibBytes& DibBytes::Masked() {
+    compression = 3;
+    table = {0xF800, 0x07E0, 0x001F};
+    return Fill(0);
 }
 
 DibBytes& DibBytes::Fill(uint8_t byte) {
@@ -55,15 +71,13 @@ MetaFileBytes& MetaFileBytes::Record(uint16_t function, std::initializer_list<ui
 
 MetaFileBytes& MetaFileBytes::Record(uint16_t function, const std::vector<uint16_t>& parameters) {
     AppendLong(records_, static_cast<uint32_t>(3 + parameters.size()));
-    AppendWord(records_, function);
-    for (const uint16_t word : parameters)
-        AppendWord(records_, word);
+    AppendWords(records_, {function});
+    AppendWords(records_, parameters);
     return *this;
 }
 
 MetaFileBytes& MetaFileBytes::Raw(std::initializer_list<uint16_t> words) {
-    for (const uint16_t word : words)
-        AppendWord(records_, word);
+    AppendWords(records_, words);
     return *this;
 }
 
@@ -79,41 +93,24 @@ MetaFileBytes& MetaFileBytes::FilledRectangle(uint32_t color, int16_t left, int1
     return Record(0x061D, {0x0021, 0x00F0, word(height), word(width), word(top), word(left)});
 }
 
-ByteVector MetaFileBytes::MetaFile() const {
+ByteVector MetaFileBytes::Under(const std::vector<uint16_t>& head) const {
+    const auto words = static_cast<uint32_t>(9 + records_.size() / 2 + 3);
     ByteVector bytes;
-    AppendWord(bytes, 1);
-    AppendWord(bytes, 9);
-    AppendWord(bytes, version_);
-    AppendLong(bytes, static_cast<uint32_t>(9 + records_.size() / 2 + 3));
-    AppendWord(bytes, objects_);
-    AppendLong(bytes, 0); // largest record
-    AppendWord(bytes, 0);
+    AppendWords(bytes, head);
+    AppendWords(bytes, {1, 9, version_});
+    AppendLong(bytes, words);
+    AppendWords(bytes, {objects_, 0, 0, 0}); // the largest record is not given
     bytes.insert(bytes.end(), records_.begin(), records_.end());
-    AppendLong(bytes, 3);
-    AppendWord(bytes, 0);
+    AppendWords(bytes, {3, 0, 0});
     return bytes;
 }
 
 ByteVector MetaFileBytes::Build() const {
-    ByteVector bytes;
-    AppendWord(bytes, 8);
-    AppendWord(bytes, static_cast<uint16_t>(xExtent_));
-    AppendWord(bytes, static_cast<uint16_t>(yExtent_));
-    AppendWord(bytes, 0);
-    const ByteVector metafile = MetaFile();
-    bytes.insert(bytes.end(), metafile.begin(), metafile.end());
-    return bytes;
+    return Under({8, static_cast<uint16_t>(xExtent_), static_cast<uint16_t>(yExtent_), 0});
 }
 
 ByteVector MetaFileBytes::BuildWide() const {
-    ByteVector bytes;
-    AppendLong(bytes, 8);
-    AppendLong(bytes, static_cast<uint32_t>(xExtent_));
-    AppendLong(bytes, static_cast<uint32_t>(yExtent_));
-    AppendLong(bytes, 0);
-    const ByteVector metafile = MetaFile();
-    bytes.insert(bytes.end(), metafile.begin(), metafile.end());
-    return bytes;
+    return Under({8, 0, static_cast<uint16_t>(xExtent_), 0, static_cast<uint16_t>(yExtent_), 0, 0, 0});
 }
 
 std::vector<uint16_t> Words(std::initializer_list<uint16_t> head, const ByteVector& tail) {

@@ -7,10 +7,10 @@
 
 using ByteVector = std::vector<uint8_t>;
 
-void AppendWord(ByteVector& bytes, uint16_t value);
+void AppendWords(ByteVector& bytes, const std::vector<uint16_t>& words);
 void AppendLong(ByteVector& bytes, uint32_t value);
 
-// A 40-byte header with whatever stands in the fields, a colour table and pixels of one value.
+// A 40-byte header with any values in the fields, a colour table and pixels of one value.
 struct DibBytes {
     uint32_t headerSize = 40;
     int32_t width = 1;
@@ -26,7 +26,12 @@ struct DibBytes {
     ByteVector Build() const;
     // Fills pixels: every byte of every line.
     DibBytes& Fill(uint8_t byte);
+    // Run lengths over a full table, in the compression of the depth.
+    DibBytes& RunLength(ByteVector codes);
+    // The masks of 5, 6 and 5 bits.
+    DibBytes& Masked();
 };
+DibBytes Dib(int32_t width, int32_t height, uint16_t bits);
 
 // A metafile under a 16-bit head.
 class MetaFileBytes {
@@ -47,7 +52,7 @@ public:
     ByteVector BuildWide() const;
 
 private:
-    ByteVector MetaFile() const;
+    ByteVector Under(const std::vector<uint16_t>& head) const;
 
     int16_t xExtent_, yExtent_;
     uint16_t objects_ = 4;

@@ -2,6 +2,7 @@
 
 #include "orlo/summary/summary_info.h"
 
+#include <array>
 #include <cstring>
 #include <ctime>
 #include <filesystem>
@@ -14,6 +15,8 @@
 #include "compound_bytes.h"
 #include "failing_bytes.h"
 #include "orlo/propset/property_set.h"
+#include "orlo/win/com_owner.h"
+#include "owned_summary.h"
 
 namespace fs = std::filesystem;
 
@@ -21,23 +24,11 @@ namespace {
 
 const GUID kFormat = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
 constexpr DWORD kMake = STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
+constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
 constexpr wchar_t kStream[] = L"\005SummaryInformation";
 
-struct ReleaseStorage {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-using Storage = std::unique_ptr<IStorage, ReleaseStorage>;
-struct FreeSummary {
-    void operator()(CPropertySet* set) const { OleStdFreeSummaryInfo(&set); }
-};
-using OwnedSummary = std::unique_ptr<CPropertySet, FreeSummary>;
-
-OwnedSummary SummaryOf(const std::string& title) {
-    OwnedSummary summary(OleStdInitSummaryInfo(1252));
-    OleStdSetStringProperty(summary.get(), PIDSI_TITLE, title.c_str());
-    return summary;
-}
-
+using Storage = orlo::Owned<IStorage>;
+using orlo::Receive;
 std::string TitleIn(IStorage* storage) {
     OwnedSummary summary(OleStdInitSummaryInfo(1252));
     if (FAILED(LoadSummaryInfo(storage, summary.get()))) return "(none)";
@@ -57,20 +48,18 @@ public:
     File& operator=(const File&) = delete;
     std::string Name() const { return path_.string(); }
 
-    Storage Create() const { return Made(kMake); }
-    Storage Open(DWORD mode) const {
-        IStorage* storage = nullptr;
-        ::StgOpenStorage(path_.c_str(), nullptr, mode, nullptr, 0, &storage);
-        return Storage(storage);
+    Storage Create() const {
+        Storage storage;
+        EXPECT_EQ(::StgCreateDocfile(path_.c_str(), kMake, 0, Receive(storage)), S_OK);
+        return storage;
     }
-    Storage Read() const { return Open(STGM_READ | STGM_SHARE_EXCLUSIVE); }
+    Storage Read() const {
+        Storage storage;
+        ::StgOpenStorage(path_.c_str(), nullptr, kRead, nullptr, 0, Receive(storage));
+        return storage;
+    }
 
 private:
-    Storage Made(DWORD mode) const {
-        IStorage* storage = nullptr;
-        EXPECT_EQ(::StgCreateDocfile(path_.c_str(), mode, 0, &storage), S_OK);
-        return Storage(storage);
-    }
     fs::path path_;
 };
 
@@ -90,32 +79,18 @@ TEST(SummaryInfo, CreatedNowInPlaceOfAnother) {
     OleStdGetDateProperty(summary, PIDSI_CREATE_DTM, &year, &month, &day, &seconds);
     struct tm now;
     TimeStamp(&now);
-    struct tm stored = {};
-    stored.tm_year = year - 1900;
-    stored.tm_mon = month - 1;
-    stored.tm_mday = day;
-    stored.tm_sec = seconds;
-    stored.tm_isdst = now.tm_isdst;
+    struct tm stored = {seconds, 0, 0, day, month - 1, year - 1900, 0, 0, now.tm_isdst};
     EXPECT_NEAR(std::difftime(std::mktime(&now), std::mktime(&stored)), 1, 60);
     OleStdFreeSummaryInfo(&summary);
 }
 
 TEST(SummaryInfo, DatesCountMonthsFromZeroAndYearsFrom1900) {
     const OwnedSummary summary = SummaryOf("plan");
-    struct tm time = {};
-    time.tm_year = 98;
-    time.tm_mon = 2;
-    time.tm_mday = 2;
-    time.tm_hour = 13;
-    time.tm_min = 5;
-    time.tm_sec = 7;
+    struct tm time = {7, 5, 13, 2, 2, 98, 0, 0, 0};
     EXPECT_EQ(SetSumInfoDate(summary.get(), PIDSI_CREATE_DTM, &time), 1);
     int year, month, day, seconds;
     OleStdGetDateProperty(summary.get(), PIDSI_CREATE_DTM, &year, &month, &day, &seconds);
-    EXPECT_EQ(year, 1998);
-    EXPECT_EQ(month, 3);
-    EXPECT_EQ(day, 2);
-    EXPECT_EQ(seconds, 47106);
+    EXPECT_EQ((std::array{year, month, day, seconds}), (std::array{1998, 3, 2, 47106}));
 }
 
 TEST(SummaryInfo, FieldsInOneCall) {
@@ -126,14 +101,11 @@ TEST(SummaryInfo, FieldsInOneCall) {
         const char* stored = OleStdGetStringProperty(summary.get(), id);
         return std::string(stored ? stored : "(none)");
     };
-    EXPECT_EQ(text(PIDSI_TITLE), "(none)");
-    EXPECT_EQ(text(PIDSI_SUBJECT), "s");
-    EXPECT_EQ(text(PIDSI_AUTHOR), "a");
-    EXPECT_EQ(text(PIDSI_LASTAUTHOR), "a");
-    EXPECT_EQ(text(PIDSI_KEYWORDS), "k");
-    EXPECT_EQ(text(PIDSI_COMMENTS), "c");
-    EXPECT_EQ(text(PIDSI_APPNAME), "app");
-    EXPECT_EQ(text(PIDSI_REVNUMBER), "7");
+    std::string all;
+    for (const DWORD id : {PIDSI_TITLE, PIDSI_SUBJECT, PIDSI_AUTHOR, PIDSI_LASTAUTHOR, PIDSI_KEYWORDS,
+                           PIDSI_COMMENTS, PIDSI_APPNAME, PIDSI_REVNUMBER})
+        all += text(id) + " ";
+    EXPECT_EQ(all, "(none) s a a k c app 7 ");
     EXPECT_EQ(OleStdGetSecurityProperty(summary.get()), 0u);
     SetSummaryInfoFields1(summary.get(), "t", "", nullptr, "", "", "", "");
     EXPECT_EQ(text(PIDSI_AUTHOR), "(none)");
@@ -148,9 +120,9 @@ TEST(SummaryInfo, ThumbnailGoesWithTheFile) {
     EXPECT_EQ(SetSummaryInfoThumbnail(summary.get(), 8, picture, 5000, 77), S_OK);
     EXPECT_EQ(SetSummaryInfoThumbnail(summary.get(), 8, nullptr, 5, 0), E_FAIL);
     EXPECT_EQ(SaveSummaryInfo(file.Create().get(), summary.get()), S_OK);
-    IStorage* storage = nullptr;
+    Storage storage;
     CPropertySet* loaded = nullptr;
-    ASSERT_EQ(GetFileSummaryInfo(file.Name().c_str(), &storage, &loaded), S_OK);
+    ASSERT_EQ(GetFileSummaryInfo(file.Name().c_str(), Receive(storage), &loaded), S_OK);
     DWORD format = 0, size = 0;
     HGLOBAL copy = nullptr;
     EXPECT_EQ(OleStdGetThumbNailProperty(loaded, &format, &copy, &size), -1);
@@ -158,7 +130,6 @@ TEST(SummaryInfo, ThumbnailGoesWithTheFile) {
     EXPECT_STREQ(OleStdGetStringProperty(loaded, PIDSI_TITLE), "plan");
     ::GlobalFree(copy);
     ::GlobalFree(picture);
-    storage->Release();
     OleStdFreeSummaryInfo(&loaded);
 }
 
@@ -170,7 +141,7 @@ TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
     EXPECT_EQ(SaveSummaryInfo(storage.get(), SummaryOf("short").get()), S_OK);
     EXPECT_EQ(TitleIn(storage.get()), "short");
     IStream* stream = nullptr;
-    ASSERT_EQ(storage->OpenStream(kStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
+    ASSERT_EQ(storage->OpenStream(kStream, nullptr, kRead, 0, &stream), S_OK);
     STATSTG stat;
     stream->Stat(&stat, STATFLAG_NONAME);
     EXPECT_LE(stat.cbSize.QuadPart, 4096u);
@@ -179,7 +150,7 @@ TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
     stream->Read(rest.data(), 4096, &read);
     EXPECT_EQ(rest.substr(0, read).find("xx"), std::string::npos) << "nothing of the longer one is left";
     stream->Release();
-    ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream), S_OK);
+    ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, kRead, 0, &stream), S_OK);
     char text[12] = {};
     stream->Read(text, 11, nullptr);
     EXPECT_STREQ(text, "the drawing");
@@ -241,18 +212,18 @@ TEST(SummaryInfo, ASetThatCantBeWrittenLeavesTheStream) {
 }
 
 Storage OpenOn(FailingBytes& disk, DWORD mode) {
-    IStorage* storage = nullptr;
-    ::StgOpenStorageOnILockBytes(&disk, nullptr, mode | STGM_SHARE_EXCLUSIVE, nullptr, 0, &storage);
-    return Storage(storage);
+    Storage storage;
+    ::StgOpenStorageOnILockBytes(&disk, nullptr, mode | STGM_SHARE_EXCLUSIVE, nullptr, 0, Receive(storage));
+    return storage;
 }
 
 std::vector<uint8_t> DocumentWith(const std::string& title) {
     FailingBytes disk;
-    IStorage* storage = nullptr;
-    EXPECT_EQ(::StgCreateDocfileOnILockBytes(&disk, kMake, 0, &storage), S_OK);
-    const Storage owner(storage);
-    WriteBytes(storage, L"Contents", std::string(5000, 'c'));
-    if (!title.empty()) SaveSummaryInfo(storage, SummaryOf(title).get());
+    Storage storage;
+    EXPECT_EQ(::StgCreateDocfileOnILockBytes(&disk, kMake, 0, Receive(storage)), S_OK);
+    WriteBytes(storage.get(), L"Contents", std::string(5000, 'c'));
+    if (!title.empty()) SaveSummaryInfo(storage.get(), SummaryOf(title).get());
+    storage.reset();
     return disk.bytes;
 }
 
@@ -272,7 +243,7 @@ Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD m
     return {done, disk.bytes};
 }
 
-// A summary may have zeros behind it that make its stream a long one.
+// A summary may have zeros after it that make its stream a long one.
 Streams WithoutZeros(Streams streams) {
     const auto summary = streams.find(u"\005SummaryInformation");
     while (summary != streams.end() && !summary->second.empty() && summary->second.back() == 0)

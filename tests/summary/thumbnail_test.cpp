@@ -1,4 +1,4 @@
-// Pictures drawn on a canvas: where they come to lie, what they leave behind, and that hostile ones do
+// Pictures drawn on a canvas: where they come to lie, what they leave after, and that hostile ones do
 // nothing.
 
 #include "orlo/summary/thumbnail.h"
@@ -9,6 +9,7 @@
 #include <psapi.h>
 
 #include "canvas.h"
+#include "orlo/win/gdi.h"
 #include "picture_bytes.h"
 
 namespace {
@@ -16,10 +17,7 @@ namespace {
 constexpr uint32_t kBlue = 0x00FF0000; // as a COLORREF
 
 ByteVector BlueDib(int width, int height) {
-    DibBytes dib;
-    dib.width = width;
-    dib.height = height;
-    dib.bitsPerPixel = 8;
+    DibBytes dib = Dib(width, height, 8);
     dib.coloursUsed = 2;
     dib.table = {0x00FF0000, 0x000000FF}; // red, blue
     return dib.Fill(1).Build();
@@ -54,33 +52,24 @@ const Fit kFits[] = {
     {"AwayFromTheCorner", 10, 20, {30, 40, 70, 80}, 1, {40, 40, 60, 80}},
 };
 
-class Fitting : public testing::TestWithParam<Fit> {
-protected:
-    void Check(int drawn) {
-        EXPECT_NE(drawn, 0);
-        const auto covered = canvas_.Covered();
-        ASSERT_TRUE(covered);
-        EXPECT_TRUE(*covered == GetParam().covered)
-            << covered->left << " " << covered->top << " " << covered->right << " " << covered->bottom;
-        EXPECT_EQ(canvas_.At(covered->left, covered->top), kBlue);
+TEST(Fitting, OfBitmapsAndMetafilePictures) {
+    for (const Fit& fit : kFits) {
+        Canvas canvas(100, 100);
+        const auto width = static_cast<int16_t>(fit.width), height = static_cast<int16_t>(fit.height);
+        const auto expectDrawn = [&](const char* kind, int drawn) {
+            SCOPED_TRACE(std::string(fit.name) + " " + kind);
+            const RECT covered = canvas.Covered().value_or(RECT());
+            EXPECT_NE(drawn, 0);
+            EXPECT_TRUE(covered == fit.covered)
+                << covered.left << " " << covered.top << " " << covered.right << " " << covered.bottom;
+            EXPECT_EQ(canvas.At(fit.covered.left, fit.covered.top), kBlue);
+            canvas.Whiten();
+        };
+        expectDrawn("bitmap", DrawDib(BlueDib(width, height), canvas.DC(), &fit.target, fit.keepAspect));
+        expectDrawn("picture",
+                    DrawMeta(BluePicture(width, height), canvas.DC(), &fit.target, fit.keepAspect));
     }
-    Canvas canvas_{100, 100};
-};
-
-TEST_P(Fitting, OfABitmap) {
-    const Fit& fit = GetParam();
-    Check(DrawDib(BlueDib(fit.width, fit.height), canvas_.DC(), &fit.target, fit.keepAspect));
 }
-
-TEST_P(Fitting, OfAMetafilePicture) {
-    const Fit& fit = GetParam();
-    const auto width = static_cast<int16_t>(fit.width), height = static_cast<int16_t>(fit.height);
-    EXPECT_EQ(DrawMeta(BluePicture(width, height), canvas_.DC(), &fit.target, fit.keepAspect), 1);
-    Check(1);
-}
-
-INSTANTIATE_TEST_SUITE_P(Proportions, Fitting, testing::ValuesIn(kFits),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 // Extents whose product leaves 32 bits.
 TEST(Fitting, OfHugeExtents) {
@@ -107,6 +96,7 @@ TEST_F(Thumbnail, EmptyRectanglesDrawNothing) {
 }
 
 TEST_F(Thumbnail, NothingToDrawOrToDrawOn) {
+    EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.DC(), &whole_, 1), 0) << "from the top down";
     EXPECT_EQ(DrawDIB(nullptr, canvas_.DC(), &whole_, 1), 0);
     EXPECT_EQ(DrawMetaFilePict(nullptr, canvas_.DC(), &whole_, 1), 0);
     EXPECT_EQ(DrawDib(BlueDib(4, 4), nullptr, &whole_, 1), 0);
@@ -119,7 +109,6 @@ TEST_F(Thumbnail, ByFormatWithProportionsKept) {
     const ByteVector dib = BlueDib(2, 1);
     const ByteVector picture = BluePicture(2, 1);
     const unsigned char formats[] = {3, 8, 14};
-    EXPECT_EQ(DrawThumbnail(nullptr, canvas_.DC(), &whole_), 0);
     const ThumbnailClip refused[] = {
         {0, 0xFFFFFFFF, &formats[1], dib.data()},
         {1, 0xFFFFFFFE, &formats[1], dib.data()},
@@ -153,46 +142,25 @@ TEST_F(Thumbnail, StoredValueIsLimitedByItsLength) {
     EXPECT_TRUE(*canvas_.Covered() == whole_);
 }
 
-TEST_F(Thumbnail, TopDownBitmapsAreRefused) {
-    EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.DC(), &whole_, 1), 0);
-    ExpectNothingDrawn();
-}
-
-TEST_F(Thumbnail, BitmapsOfEveryDepthDraw) {
-    for (const uint16_t bits : {1, 4, 8, 16, 24, 32}) {
+TEST_F(Thumbnail, BitmapsOfEveryKindDraw) {
+    struct Row {
         DibBytes dib;
-        dib.width = 5;
-        dib.height = 3;
-        dib.bitsPerPixel = bits;
+        COLORREF color;
+    };
+    std::vector<Row> rows = {{Dib(4, 1, 16).Masked(), RGB(255, 0, 0)},
+                             {Dib(4, 1, 8).RunLength({4, 1, 0, 1}), kBlue}};
+    rows[0].dib.pixels = {0, 0xF8, 0, 0xF8, 0, 0xF8, 0, 0xF8};
+    rows[1].dib.table.assign(256, 0x000000FF);
+    for (const uint16_t bits : {1, 4, 8, 16, 24, 32}) {
+        DibBytes dib = Dib(5, 3, bits);
         if (bits <= 8) dib.table.assign(size_t{1} << bits, 0x000000FF);
-        if (bits > 8) dib.Fill(0);
-        canvas_.Whiten();
-        EXPECT_NE(DrawDib(dib.Fill(0).Build(), canvas_.DC(), &whole_, 0), 0) << bits;
-        EXPECT_EQ(canvas_.At(30, 30), bits <= 8 ? kBlue : 0u) << bits;
+        rows.push_back({dib.Fill(0), bits <= 8 ? kBlue : 0u});
     }
-}
-
-TEST_F(Thumbnail, RunLengthAndMasksDraw) {
-    DibBytes dib;
-    dib.width = 4;
-    dib.height = 1;
-    dib.bitsPerPixel = 8;
-    dib.compression = BI_RLE8;
-    dib.table.assign(256, 0x000000FF);
-    dib.pixels = {4, 1, 0, 1};
-    dib.imageBytes = 4;
-    EXPECT_NE(DrawDib(dib.Build(), canvas_.DC(), &whole_, 0), 0);
-    EXPECT_EQ(canvas_.At(30, 30), kBlue);
-    DibBytes masked;
-    masked.width = 4;
-    masked.height = 1;
-    masked.bitsPerPixel = 16;
-    masked.compression = BI_BITFIELDS;
-    masked.table = {0xF800, 0x07E0, 0x001F};
-    for (int i = 0; i < 4; ++i)
-        AppendWord(masked.pixels, 0xF800);
-    EXPECT_NE(DrawDib(masked.Build(), canvas_.DC(), &whole_, 0), 0);
-    EXPECT_EQ(canvas_.At(30, 30), RGB(255, 0, 0));
+    for (const Row& row : rows) {
+        canvas_.Whiten();
+        EXPECT_NE(DrawDib(row.dib.Build(), canvas_.DC(), &whole_, 0), 0) << row.dib.bitsPerPixel;
+        EXPECT_EQ(canvas_.At(30, 30), row.color) << row.dib.bitsPerPixel;
+    }
 }
 
 // The DC's own objects, mapping and clipping are those from before, even if the metafile saves without
@@ -201,7 +169,6 @@ TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
     ::SetMapMode(canvas_.DC(), MM_ANISOTROPIC);
     ::SetViewportOrgEx(canvas_.DC(), 7, 8, nullptr);
     const HGDIOBJ brush = ::GetCurrentObject(canvas_.DC(), OBJ_BRUSH);
-    const HGDIOBJ pen = ::GetCurrentObject(canvas_.DC(), OBJ_PEN);
     const ByteVector picture = MetaFileBytes(50, 50)
                                    .Record(0x001E, {})
                                    .Record(0x001E, {})
@@ -214,7 +181,6 @@ TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
     EXPECT_EQ(origin.y, 8);
     EXPECT_EQ(::GetMapMode(canvas_.DC()), MM_ANISOTROPIC);
     EXPECT_EQ(::GetCurrentObject(canvas_.DC(), OBJ_BRUSH), brush);
-    EXPECT_EQ(::GetCurrentObject(canvas_.DC(), OBJ_PEN), pen);
     EXPECT_EQ(::SaveDC(canvas_.DC()), 1) << "states were left on the stack";
 }
 
@@ -351,19 +317,15 @@ TEST_F(Thumbnail, BitmapFromAPicture) {
         COLORREF middle;
     } rows[] = {{BluePicture(40, 20), kBlue}, {BluePicture(0, 20), RGB(255, 255, 255)}};
     for (const auto& row : rows) {
-        const HBITMAP bitmap = CreateBitmapFromMetaFilePict(row.picture.data(), &size);
+        const OwnedBitmap bitmap(CreateBitmapFromMetaFilePict(row.picture.data(), &size));
         ASSERT_NE(bitmap, nullptr);
         BITMAP shape;
-        ::GetObjectA(bitmap, sizeof shape, &shape);
-        EXPECT_EQ(shape.bmWidth, 40);
-        EXPECT_EQ(shape.bmHeight, 40);
-        const HDC memory = ::CreateCompatibleDC(nullptr);
-        const HGDIOBJ before = ::SelectObject(memory, bitmap);
-        EXPECT_EQ(::GetPixel(memory, 20, 20), row.middle);
-        EXPECT_EQ(::GetPixel(memory, 20, 2), RGB(255, 255, 255)) << "above the picture";
-        ::SelectObject(memory, before);
-        ::DeleteDC(memory);
-        EXPECT_TRUE(::DeleteObject(bitmap));
+        ::GetObjectA(bitmap.get(), sizeof shape, &shape);
+        EXPECT_TRUE(shape.bmWidth == 40 && shape.bmHeight == 40);
+        const OwnedDC memory(::CreateCompatibleDC(nullptr));
+        const SelectedObject selected(memory.get(), bitmap.get());
+        EXPECT_EQ(::GetPixel(memory.get(), 20, 20), row.middle);
+        EXPECT_EQ(::GetPixel(memory.get(), 20, 2), RGB(255, 255, 255)) << "above the picture";
     }
 }
 

@@ -42,7 +42,7 @@ std::vector<Assignment> ParseFields(const std::vector<std::string>& texts) {
     std::vector<Assignment> fields;
     for (const std::string& text : texts) {
         fields.push_back(Split(text));
-        FieldToSet(fields.back().name); // refuses what is none
+        FieldToSet(fields.back().name); // refuses anything else
     }
     return fields;
 }

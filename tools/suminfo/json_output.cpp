@@ -28,7 +28,7 @@ Json DataJson(const orlo::Bytes& bytes) {
     return {{"length", bytes.size()}, {"sha256", Sha256(bytes)}};
 }
 
-// Length and hash of all that stands behind the tag: the format number first where there is one, then the picture.
+// Length and hash of everything after the tag: the format number first where there is one, then the picture.
 Json ClipboardJson(const orlo::ClipboardData& clip) {
     orlo::Bytes behindTag;
     if (clip.tag == -1 || clip.tag == -2)

@@ -19,7 +19,7 @@ namespace {
 
 using namespace suminfo;
 
-// The work on one file; false if it failed, which was said.
+// The work on one file; false if it failed, which was reported.
 template <typename Work>
 bool Try(const std::string& file, Progress& progress, Work work) {
     const auto say = [&progress](const std::string& name, const std::exception& failure) {
@@ -42,7 +42,7 @@ Report ReportOn(const CommandLine& line, const Source& source) {
     return line.json ? ShowJson(source) : ShowTable(source);
 }
 
-// show and check: one file after the other, failures said in their place.
+// show and check: one file after the other, failures reported in their place.
 int ReportAll(const CommandLine& line) {
     const FileList list = FilesOf(line.files, line.recursive);
     for (const FileList::Unreadable& unreadable : list.unreadable)

@@ -1,4 +1,4 @@
-// A name that nobody has, the permissions, and the step.
+// Makes the file under an unused name, with the target's permissions, and renames it.
 
 #include "part_file.h"
 

@@ -26,7 +26,7 @@ private:
     size_t total_;
     size_t done_ = 0;
     bool terminal_;
-    size_t shown_ = 0; // bytes of the line that stands there
+    size_t shown_ = 0; // bytes of the line on the terminal
     std::chrono::steady_clock::time_point nextDraw_;
 };
 

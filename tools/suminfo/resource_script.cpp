@@ -1,4 +1,4 @@
-// Sections as raw-data resources: the library prints the items, this file what stands around them.
+// Sections as raw-data resources: the library prints the items, this file the lines around them.
 
 #include <memory>
 #include <objbase.h>

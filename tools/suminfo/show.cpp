@@ -58,7 +58,7 @@ void AddTable(const NamedStream& stream, Report& report) {
     std::vector<orlo::Finding> findings;
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
     std::string& table = report.text;
-    // The usual streams are told by their sections; others need their name.
+    // The usual streams are recognized by their sections; others need their name.
     const bool inner = stream.name.find('/') != std::string::npos;
     if (inner || !set)
         table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";

@@ -1,4 +1,4 @@
-// Conversions by the system's own functions.
+// Texts made fit to be shown or compared.
 
 #include "text.h"
 
@@ -12,14 +12,6 @@
 #include "orlo/win/encoded_text.h"
 
 namespace suminfo {
-
-std::wstring ToWide(std::string_view utf8) {
-    return orlo::Widen(utf8, CP_UTF8);
-}
-
-std::string ToUtf8(std::wstring_view wide) {
-    return orlo::Narrow(wide, CP_UTF8);
-}
 
 std::string StreamNameShown(std::string_view name) {
     std::string shown;

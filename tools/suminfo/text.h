@@ -7,10 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "orlo/propset/code_page.h"
+#include "orlo/win/encoded_text.h"
+
 namespace suminfo {
 
-std::wstring ToWide(std::string_view utf8);
-std::string ToUtf8(std::wstring_view wide);
+inline std::string ToUtf8(std::wstring_view wide) {
+    return orlo::Narrow(wide, CP_UTF8);
+}
+inline std::wstring ToWide(std::string_view utf8) {
+    return orlo::Widen(utf8, CP_UTF8);
+}
 
 inline std::filesystem::path PathOf(std::string_view utf8) {
     return std::filesystem::path(ToWide(utf8));

@@ -11,6 +11,7 @@
 #include "fields.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "orlo/summary/thumbnail.h"
+#include "orlo/win/gdi.h"
 #include "output_file.h"
 #include "sources.h"
 
@@ -24,9 +25,9 @@ namespace {
 constexpr uint32_t kThumbnailId = 17;
 constexpr LONG kLargest = 8192;      // pixels on a side
 constexpr LONG kVectorSide = 256;    // a metafile has no size in pixels: its longer side
-constexpr size_t kPictureOffset = 8; // behind tag and format
+constexpr size_t kPictureOffset = 8; // after tag and format
 
-// The value of the thumbnail, behind its length.
+// The value of the thumbnail, after its length.
 orlo::Bytes ThumbnailOf(const Source& source) {
     const NamedStream stream = SummaryOf(source);
     std::vector<orlo::Finding> findings;
@@ -70,43 +71,40 @@ SIZE OwnSize(const orlo::Bytes& value) {
 
 class WhiteBitmap {
 public:
-    explicit WhiteBitmap(SIZE size) : size_(size), dc_(::CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info = {};
-        info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        pixels_ = static_cast<const uint8_t*>(bits);
-        before_ = ::SelectObject(dc_, bitmap_);
-        ::PatBlt(dc_, 0, 0, size.cx, size.cy, WHITENESS);
-        ::SetStretchBltMode(dc_, HALFTONE);
+    explicit WhiteBitmap(SIZE size)
+        : size_(size), dc_(::CreateCompatibleDC(nullptr)), bitmap_(Made(dc_.get(), size, pixels_)),
+          selected_(dc_.get(), bitmap_.get()) {
+        if (!selected_) throw Failure("the system can't make a bitmap of that size");
+        ::PatBlt(dc_.get(), 0, 0, size.cx, size.cy, WHITENESS);
+        ::SetStretchBltMode(dc_.get(), HALFTONE);
     }
-    ~WhiteBitmap() {
-        ::SelectObject(dc_, before_);
-        ::DeleteObject(bitmap_);
-        ::DeleteDC(dc_);
-    }
-    WhiteBitmap(const WhiteBitmap&) = delete;
-    WhiteBitmap& operator=(const WhiteBitmap&) = delete;
 
-    HDC dc() const { return dc_; }
+    HDC dc() const { return dc_.get(); }
     // Red, green and blue, line by line from the top.
     std::vector<uint8_t> Pixels() const {
         ::GdiFlush();
-        if (!pixels_) throw Failure("the system can't make a bitmap of that size");
         const size_t count = static_cast<size_t>(size_.cx) * static_cast<size_t>(size_.cy);
         std::vector<uint8_t> colours;
         colours.reserve(3 * count);
-        for (const uint8_t* at = pixels_; at != pixels_ + 4 * count; at += 4)
+        const auto* pixels = static_cast<const uint8_t*>(pixels_);
+        for (const uint8_t* at = pixels; at != pixels + 4 * count; at += 4)
             colours.insert(colours.end(), {at[2], at[1], at[0]});
         return colours;
     }
 
 private:
+    // From the top down; the bitmap's memory is stored in `pixels`.
+    static HBITMAP Made(HDC dc, SIZE size, void*& pixels) {
+        BITMAPINFO info = {};
+        info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        return ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    }
+
     SIZE size_;
-    HDC dc_;
-    HBITMAP bitmap_;
-    HGDIOBJ before_;
-    const uint8_t* pixels_ = nullptr;
+    void* pixels_ = nullptr;
+    OwnedDC dc_;
+    OwnedBitmap bitmap_;
+    SelectedObject selected_;
 };
 
 void Append(void* file, void* data, int size) {

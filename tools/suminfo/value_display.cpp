@@ -41,7 +41,7 @@ std::string Moment(uint64_t ticks) {
                    time.wMinute, time.wSecond);
 }
 
-// Days since the end of 1899, the hours behind the point.
+// Days since the end of 1899, the hours are the fraction.
 std::string DayNumber(double days) {
     constexpr double kDaysFrom1601 = 109205;
     const double ticks = (days + kDaysFrom1601) * 86400.0 * kSecond;

@@ -1,4 +1,4 @@
-// Each kind of value has its own strict parser: a text that is only half a number is none.
+// Each kind of value has its own strict parser: a text that is only half a number is refused.
 
 #include "value_input.h"
 

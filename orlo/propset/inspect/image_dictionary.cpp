@@ -1,3 +1,5 @@
+// The dictionary of a set image, in each of the forms that writers give it.
+
 #include "orlo/propset/inspect/image_dictionary.h"
 
 #include <set>
@@ -11,7 +13,7 @@ namespace {
 
 constexpr size_t kEntryHead = 8; // ID and length
 
-// One form in which the names may stand.
+// One form in which names may be stored.
 struct NameForm {
     uint16_t codePage;
     bool isWide;

@@ -20,11 +20,11 @@ bool IsWholeDictionary(const uint8_t* bytes, size_t size, uint16_t codePage);
 
 // Names are 8-bit texts of the code page, packed; under code page 1200 they are 16-bit characters padded to 4
 // bytes, or 8-bit texts after all, as CPropertySection writes them. `place` names the section in findings,
-// `offset` is where the dictionary stands. Nothing if not even its first name is there.
+// `offset` is where the dictionary is. Nothing if not even its first name is there.
 std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t size, uint16_t codePage,
                                                    uint64_t offset, const std::string& place, Report& report);
 
-// False if the code page can't say a name.
+// False if the code page can't represent a name.
 bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage,
                            ImageWriter& image);
 

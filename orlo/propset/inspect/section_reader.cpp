@@ -1,3 +1,5 @@
+// Reads one section of a set image and notes everything that is irregular about it.
+
 #include "orlo/propset/inspect/section_reader.h"
 
 #include <algorithm>
@@ -25,7 +27,7 @@ size_t Aligned(size_t size) {
     return size + PaddingOf(size);
 }
 
-// A value of that type has a size that can be told.
+// A value of that type has a known size.
 bool HasForm(uint32_t type) {
     return IsVector(type) ? SmallestElement(BaseType(type)) != 0 : FormOf(type).form != Form::none;
 }

@@ -25,12 +25,12 @@ private:
 
 class SectionReader {
 public:
-    // The section's head stands at `head`, with at least 8 bytes; `left` are all bytes up to the end of the
+    // The section's head is at `head`, with at least 8 bytes; `left` are all bytes up to the end of the
     // stream and `room` those up to the next section. The section has its offset; the rest is filled in.
     SectionReader(const uint8_t* head, size_t left, size_t room, std::string place, Allowance& allowance,
                   Report& report, ImageSection& section);
 
-    // Gives the place behind the last thing that was read, from the head of the section.
+    // The place after the last thing that was read, from the head of the section.
     size_t Read();
 
 private:
@@ -38,8 +38,8 @@ private:
     struct Entry {
         uint32_t id;
         uint32_t offset;
-        size_t room = 0;         // behind the type code, up to the next value
-        size_t end = 0;          // behind what was read; 0: nothing was
+        size_t room = 0;         // after the type code, up to the next value
+        size_t end = 0;          // after what was read; 0: nothing was
         bool isProperty = false; // false: the dictionary
         ImageProperty property{};
     };

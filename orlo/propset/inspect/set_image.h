@@ -3,10 +3,10 @@
 //
 //   std::vector<Finding> findings;
 //   std::optional<SetImage> image = ReadSetImage(data, size, findings);
-//   if (!image) ... no property set; findings say why ...
+//   if (!image) ... not a property set; findings say why ...
 //   for (const ImageSection& section : image->sections) ...
 //
-// Unlike CPropertySet it keeps what that can't hold: vectors of variants, types that nobody knows, names in
+// Unlike CPropertySet it keeps what that can't hold: vectors of variants, unknown types, names in
 // 16-bit characters and in their own case. An image that is written and read again is equal but for offsets.
 // It judges and keeps; it shows nothing. It takes no more memory than a few times the stream.
 #pragma once
@@ -28,7 +28,7 @@ struct DictionaryEntry {
     std::string name; // UTF-8
 };
 
-// complete: the bytes are the value. opaque: nobody knows the type; the bytes are all up to the next value,
+// complete: the bytes are the value. opaque: unknown type; the bytes are all up to the next value,
 // filled up to 4, and are kept. partial: the value is not there in full; the bytes are what is.
 enum class ValueState { complete, opaque, partial };
 
@@ -37,7 +37,7 @@ struct ImageProperty {
     uint32_t type = VT_EMPTY;
     uint32_t offset = 0; // of the type code, from the head of its section
     ValueState state = ValueState::complete;
-    Bytes bytes; // behind the type code, without padding
+    Bytes bytes; // after the type code, without padding
 };
 
 struct ImageSection {
@@ -123,16 +123,16 @@ enum class FindingCode {
 struct Finding {
     FindingCode code;
     Severity severity;
-    uint64_t offset;  // from the head of the stream, where the odd thing stands
+    uint64_t offset;  // from the head of the stream
     std::string text; // names it, what it needs and what was found, and what a reader makes of it
 };
 
-// Nothing if the stream is no property set (too short, another byte order, no room for its list of sections).
+// Nothing if the stream is not a property set (too short, another byte order, no room for its list of sections).
 ORLO_API std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size,
                                               std::vector<Finding>& findings);
 
 // The image as a stream: sections and values in order and aligned to 4 bytes, names and texts padded as the
-// published format asks, partial values left out. Nothing if the code page can't say a name
+// published format asks, partial values left out. Nothing if the code page can't represent a name
 // of the dictionary.
 ORLO_API std::optional<Bytes> WriteSetImage(const SetImage& image);
 

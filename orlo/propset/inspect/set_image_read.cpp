@@ -1,3 +1,5 @@
+// Reads a set image: the header, the list of sections, then each section.
+
 #include "orlo/propset/inspect/section_reader.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "orlo/propset/set_layout.h"

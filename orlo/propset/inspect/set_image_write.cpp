@@ -1,3 +1,5 @@
+// Writes a set image with every value byte for byte as it was kept.
+
 #include "orlo/propset/code_page.h"
 #include "orlo/propset/inspect/image_dictionary.h"
 #include "orlo/propset/inspect/set_image.h"

@@ -1,3 +1,5 @@
+// Decodes and encodes values, type by type.
+
 #include "orlo/propset/inspect/value.h"
 
 #include <cstdio>

@@ -2,7 +2,7 @@
 //
 //   Value value;
 //   if (DecodeValue(VT_LPSTR, bytes, size, 1252, value)) ... std::get<std::string>(value.data) is UTF-8 ...
-//   DecodeValue(VT_DISPATCH, ...)   false: nobody knows what that would look like on a stream
+//   DecodeValue(VT_DISPATCH, ...)   false: that type has no form on a stream
 #pragma once
 
 #include <objidl.h>
@@ -39,14 +39,14 @@ struct Value {
     std::vector<Value> elements; // of a vector; their own types differ only under VT_VARIANT
 };
 
-// Reads a value from the bytes behind its type code. False: no such type, bytes missing, or a text that is
+// Reads a value from the bytes after its type code. False: no such type, bytes missing, or a text that is
 // none of the code page (1252 where the section names none). Elements of a vector may be padded to 4 bytes
 // each, as a few writers do.
 ORLO_API bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage,
                           Value& value);
 
-// The bytes behind the type code, without padding at the end; nothing if the type has no form or the code
-// page can't say a text. Texts get their length and NUL; elements of a vector are packed.
+// The bytes after the type code, without padding at the end; nothing if the type has no form or the code
+// page can't represent a text. Texts get their length and NUL; elements of a vector are packed.
 ORLO_API std::optional<Bytes> EncodeValue(const Value& value, std::optional<uint16_t> codePage);
 
 // "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".

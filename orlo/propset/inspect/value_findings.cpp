@@ -1,3 +1,5 @@
+// Judges a value: texts, padding, booleans, clipboard data.
+
 #include "orlo/propset/inspect/value_findings.h"
 
 #include <algorithm>

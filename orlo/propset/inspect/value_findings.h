@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// `place` names the section, `offset` is where the property's bytes stand in the stream.
+// `place` names the section, `offset` is where the property's bytes are in the stream.
 void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> codePage, uint64_t offset,
                        const std::string& place, Report& report);
 
