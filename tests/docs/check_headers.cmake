@@ -1,4 +1,5 @@
-# Headers that documents and headers point to exist, and host.h has all C headers of its folder: cmake -D ROOT=FOLDER -P check_headers.cmake
+# Headers that documents and headers point to exist; host.h has all C headers of its folder, and they are C:
+# cmake -D ROOT=FOLDER -D CC=COMPILER -P check_headers.cmake
 
 file(GLOB texts ${ROOT}/*.md ${ROOT}/docs/*.md ${ROOT}/afx/*.md)
 file(GLOB_RECURSE headers ${ROOT}/orlo/*.h)
@@ -27,4 +28,19 @@ foreach(part ${parts})
   if(found EQUAL -1 AND NOT for_cpp)
     message(SEND_ERROR "orlo/host/host.h does not include ${part}")
   endif()
+endforeach()
+
+# Each C header alone, as a C program of a host includes it, in both kinds of text.
+foreach(part orlo/host/host.h ${parts})
+  file(STRINGS ${ROOT}/${part} for_cpp REGEX "^namespace")
+  foreach(text "" -DUNICODE)
+    if(NOT for_cpp)
+      execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${text}
+                              -I ${ROOT} -include ${part} -x c /dev/null
+                      RESULT_VARIABLE code ERROR_VARIABLE messages)
+      if(code)
+        message(SEND_ERROR "${part} does not compile as C ${text}:\n${messages}")
+      endif()
+    endif()
+  endforeach()
 endforeach()
