@@ -60,25 +60,49 @@ void RefusesNoLengths(const Subject& s) {
     });
 }
 
-// 25.4 mm are 25.4 / unit drawing units; with the arguments exchanged it would be another number.
+// Makes the drawing one in centimetres, as far as the database knows them: in millimetres exchanged arguments would not show.
+class Centimetres {
+public:
+    explicit Centimetres(const Subject& s) : subject_(s) {
+        CALL(s.host, TableGetStringVar)(s.Units(), kUnitDrawing, before_, sizeof before_);
+        CALL(s.host, TableSetStringVar)(s.Units(), kUnitDrawing, "cm");
+        if (CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &millimetres)) return;
+        Restore();
+        Expect(CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &millimetres),
+               "UnitsGetLUnitValue gave 0");
+    }
+    ~Centimetres() { Restore(); }
+    Centimetres(const Centimetres&) = delete;
+    Centimetres& operator=(const Centimetres&) = delete;
+
+    double millimetres = 0; // of a drawing unit
+
+private:
+    void Restore() { CALL(subject_.host, TableSetStringVar)(subject_.Units(), kUnitDrawing, before_); }
+
+    const Subject& subject_;
+    char before_[64] = "";
+};
+
 void TakesTheNumberFirst(const Subject& s) {
-    double unit = 0, found = 0;
-    Expect(CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &unit), "UnitsGetLUnitValue gave 0");
-    Expect(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitDrawing, kUnitMillimetre, "25.4", &found),
-           "does not read 25.4");
-    Expect(IsNear(found, 25.4 / unit), "reads 25.4 mm as %g drawing units of %g mm", found, unit);
+    const Centimetres unit(s);
+    double found = 0;
+    Expect(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitDrawing, kUnitMillimetre, "25", &found),
+           "does not read 25");
+    Expect(IsNear(found, 25 / unit.millimetres), "reads 25 mm as %g drawing units of %g mm", found,
+           unit.millimetres);
 }
 
 void TakesTheDisplayFirst(const Subject& s) {
-    double unit = 0, found = 0;
+    const Centimetres unit(s);
     char text[64] = "";
-    CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &unit);
     Expect(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimetre, kUnitDrawing, 2.5, text,
                                               sizeof text, 0, 0),
            "gave no text");
     char* end = nullptr;
-    found = CALL(s.host, StringToDouble)(0, text, &end);
-    Expect(IsNear(found, 2.5 * unit), "wrote 2.5 drawing units of %g mm as \"%s\" millimetres", unit, text);
+    const double found = CALL(s.host, StringToDouble)(0, text, &end);
+    Expect(IsNear(found, 2.5 * unit.millimetres), "wrote 2.5 drawing units of %g mm as \"%s\" millimetres",
+           unit.millimetres, text);
 }
 
 void PaperCountsInMillimetres(const Subject& s) {
