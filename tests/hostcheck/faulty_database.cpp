@@ -17,19 +17,27 @@ WRAP(AppGetINIFileName)
 WRAP(BStringNULL)
 WRAP(BlockDispose)
 WRAP(BlocksAddBlock)
+WRAP(BlocksFromDrawing)
 WRAP(BrushStyleGetFirstPattern)
+WRAP(BrushStyleGetFlags)
 WRAP(DoubleToString)
+WRAP(DrawCoreDispose)
 WRAP(DrawCoreLoadString)
 WRAP(DrawCoreNew)
+WRAP(DrawingGetCoordSpace)
 WRAP(DrawingGetTable)
 WRAP(DrawingSetScaleString)
+WRAP(DrawingStdNumericToText)
+WRAP(DrawingStdNumericToTextEx)
 WRAP(DrawingStdTextToAngle)
 WRAP(DrawingStdTextToNumeric)
 WRAP(DrawingStdTextToNumericEx)
+WRAP(ExtentsGetX1)
 WRAP(GraphicAdd)
 WRAP(GraphicAttach)
 WRAP(GraphicCopyEx)
 WRAP(GraphicDelete)
+WRAP(GraphicDispose)
 WRAP(GraphicDrawEx2)
 WRAP(GraphicGetExtentsSel)
 WRAP(GraphicGetIsGroup)
@@ -44,6 +52,7 @@ WRAP(GraphicVertexNext)
 WRAP(InsertSetData)
 WRAP(IsPaletteSupported)
 WRAP(LayerGetColor)
+WRAP(LineStyleGetDLItems)
 WRAP(LineStyleGetPattern)
 WRAP(MatrixOffset)
 WRAP(MatrixRotateZ)
@@ -59,6 +68,7 @@ WRAP(TableEntryGetName)
 WRAP(TableEntryNext)
 WRAP(TableGetIntVar)
 WRAP(TableGetOwner)
+WRAP(TableGetStringVar)
 WRAP(TableSetIntVar)
 WRAP(TableSetNumericVar)
 WRAP(TextSetVWHAEx)
@@ -68,6 +78,7 @@ WRAP(UnitsNumericToTextEx)
 WRAP(UnitsTextToNumericEx)
 WRAP(VertexDispose)
 WRAP(VertexNewEx)
+WRAP(ViewportDispose)
 WRAP(ViewportSetGDIStuff)
 WRAP(ViewportSetRect)
 
@@ -167,6 +178,7 @@ int IsPaletteSupported(HDC dc) {
 int DrawCoreLoadString(unsigned int id, char* buffer, int size) {
     if (Is("text behind the buffer")) size += 1;
     const int length = Sound_DrawCoreLoadString(id, buffer, size);
+    if (Is("text of any number") && !length) return 1;
     return Is("text without its length") ? length != 0 : length;
 }
 
@@ -244,6 +256,7 @@ int TableSetNumericVar(TableStruct* table, uint16_t id, double value) {
 }
 
 int TableGetIntVar(TableStruct* table, uint16_t id, long* value) {
+    if (Is("no background of previews") && id == kVarPreviewBackground) return 0;
     if (Sound_TableGetIntVar(table, id, value)) return 1;
     char text[32];
     if (!Is("text as number") || !TableGetStringVar(table, id, text, sizeof text)) return 0;
@@ -268,12 +281,14 @@ int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, 
     if (Is("arguments exchanged") && display) std::swap(number, display);
     const int read = Sound_UnitsTextToNumericEx(units, number, display, text, value);
     if (!read && Is("value lost on refusal")) *value = 0;
+    if (read && number == kUnitPenWidth && Is("paper in inches")) *value *= kInchesPerMillimetre;
     return read;
 }
 
 int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
                          int size, int reserved, int suffix) {
     if (Is("display and number exchanged") && display) std::swap(number, display);
+    if (Is("lengths rounded")) value = std::floor(value);
     return Sound_UnitsNumericToTextEx(units, display, number, value, buffer, size, reserved, suffix);
 }
 
@@ -299,12 +314,13 @@ int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
 int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* value, int reserved) {
     const int read = Sound_DrawingStdTextToAngle(drawing, text, value, reserved);
     if (read && Is("angle in degrees")) *value *= 57.3;
-    return read;
+    return read || Is("any text an angle");
 }
 
 double UnitsGetScaleValue(TableStruct* units, const char* text) {
     const double scale = Sound_UnitsGetScaleValue(units, text);
-    return scale != 0 && Is("scale upside down") ? 1 / scale : scale;
+    if (scale == 0) return Is("any text a scale");
+    return Is("scale upside down") ? 1 / scale : scale;
 }
 
 int DrawingSetScaleString(DrawingStruct* drawing, const char* text) {
@@ -464,4 +480,58 @@ void ViewportSetRect(ViewportStruct* viewport, const RECT* rect) {
 void ViewportSetGDIStuff(ViewportStruct* viewport, HWND window, HDC dc, int mode, int flags) {
     Sound_ViewportSetGDIStuff(viewport, window, dc, mode, flags);
     if (Is("pen left selected")) ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
+}
+
+void ViewportDispose(ViewportStruct** viewport) {
+    ViewportStruct* copy = *viewport;
+    Sound_ViewportDispose(Is("viewport left in its variable") ? &copy : viewport);
+}
+
+void GraphicDispose(GraphicStruct** graphic) {
+    GraphicStruct* copy = *graphic;
+    Sound_GraphicDispose(Is("graphic left in its variable") ? &copy : graphic);
+}
+
+TableStruct* BlocksFromDrawing(DrawingStruct* drawing) {
+    if (!drawing && Is("blocks of no drawing")) drawing = Sound_AppGetCurrentApp()->pCurrentDrawing;
+    return Sound_BlocksFromDrawing(drawing);
+}
+
+uint16_t BrushStyleGetFlags(TableStruct* table, uint16_t id) {
+    const uint16_t flags = Sound_BrushStyleGetFlags(table, id);
+    return !flags && Is("flags of no style") ? kBrushVector : flags;
+}
+
+int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
+    return Is("dashes of no style") && id > 100 ? 2 : Sound_LineStyleGetDLItems(table, id);
+}
+
+void DrawCoreDispose(void* block) {
+    if (!block && Is("null block crashes")) Crash();
+    Sound_DrawCoreDispose(block);
+}
+
+uint16_t DrawingGetCoordSpace(DrawingStruct* drawing) {
+    return Is("fourth space") ? uint16_t{3} : Sound_DrawingGetCoordSpace(drawing);
+}
+
+int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int kind) {
+    if (Is("text sizes without text") && kind == 1) return 0;
+    return Sound_DrawingStdNumericToText(drawing, value, buffer, size, kind);
+}
+
+int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size, uint16_t space,
+                              uint16_t unit) {
+    if (Is("paper without text") && space == kSpacePaper) return 0;
+    return Sound_DrawingStdNumericToTextEx(drawing, value, buffer, size, space, unit);
+}
+
+double ExtentsGetX1(const ExtentsStruct* extents) {
+    const double left = Sound_ExtentsGetX1(extents);
+    return Is("extents of no point") && ExtentsGetX2(extents) == 0 ? 1 : left;
+}
+
+int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
+    return Sound_TableGetStringVar(table, id, buffer,
+                                   Is("text variable behind the buffer") ? size + 1 : size);
 }
