@@ -3,6 +3,9 @@
 
 constexpr char kFaultVariable[] = "ORLO_FAULT";
 
+// No fault: functions that may be stubs are some.
+constexpr char kStubs[] = "stubs";
+
 struct Fault {
     const char* name;
     const char* function; // the one whose promise is broken

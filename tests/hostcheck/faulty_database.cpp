@@ -79,6 +79,7 @@ WRAP(UnitsTextToNumericEx)
 WRAP(VertexDispose)
 WRAP(VertexNewEx)
 WRAP(ViewportDispose)
+WRAP(ViewportNewEx)
 WRAP(ViewportSetGDIStuff)
 WRAP(ViewportSetRect)
 
@@ -448,6 +449,7 @@ int InsertSetData(GraphicStruct* graphic, TableStruct* blocks, uint16_t id, cons
 }
 
 uint32_t LayerGetColor(DrawingStruct* drawing, uint16_t id) {
+    if (Is(kStubs)) return kColorNone;
     return Is("layer by layer") ? kColorByLayer : Sound_LayerGetColor(drawing, id);
 }
 
@@ -458,7 +460,8 @@ int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
 }
 
 const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* table, uint16_t id, int* cookie) {
-    return Is("hatch without lines") ? nullptr : Sound_BrushStyleGetFirstPattern(table, id, cookie);
+    return Is("hatch without lines") || Is(kStubs) ? nullptr
+                                                   : Sound_BrushStyleGetFirstPattern(table, id, cookie);
 }
 
 // Those of a graphic without a point.
@@ -482,6 +485,10 @@ void ViewportSetGDIStuff(ViewportStruct* viewport, HWND window, HDC dc, int mode
     if (Is("pen left selected")) ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
 }
 
+ViewportStruct* ViewportNewEx(void) {
+    return Is(kStubs) ? nullptr : Sound_ViewportNewEx();
+}
+
 void ViewportDispose(ViewportStruct** viewport) {
     ViewportStruct* copy = *viewport;
     Sound_ViewportDispose(Is("viewport left in its variable") ? &copy : viewport);
@@ -493,6 +500,7 @@ void GraphicDispose(GraphicStruct** graphic) {
 }
 
 TableStruct* BlocksFromDrawing(DrawingStruct* drawing) {
+    if (Is(kStubs)) return nullptr;
     if (!drawing && Is("blocks of no drawing")) drawing = Sound_AppGetCurrentApp()->pCurrentDrawing;
     return Sound_BlocksFromDrawing(drawing);
 }
@@ -503,6 +511,7 @@ uint16_t BrushStyleGetFlags(TableStruct* table, uint16_t id) {
 }
 
 int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
+    if (Is(kStubs)) return 0;
     return Is("dashes of no style") && id > 100 ? 2 : Sound_LineStyleGetDLItems(table, id);
 }
 

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "hostcheck/faults.h"
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_kind.h"
@@ -64,6 +65,7 @@ private:
 
 class Skeleton : public ::testing::Test {
 protected:
+    explicit Skeleton(const char* database = "skeleton\\drawcore32.dll") : host(database) {}
     ~Skeleton() override { CALL(host, DrawingDispose)(&drawing); }
 
     int Run(SheetDriver::Script script) {
@@ -93,7 +95,7 @@ protected:
         return value;
     }
 
-    const Module host{"skeleton\\drawcore32.dll"};
+    const Module host;
     const Module library{"orlo.dll"};
     DrawingStruct* drawing = CALL(host, DrawingNew)();
     GraphicStruct* root = CALL(host, DrawingGetRoot)(drawing);
@@ -101,8 +103,9 @@ protected:
     Frame frame{host};
 };
 
+enum { kPen = 1, kBrush, kText, kInsertion };
+
 TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
-    enum { kPen = 1, kBrush, kText, kInsertion };
     EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
                   EXPECT_EQ(2, ::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0));
                   user.SelectPage(kPen);
@@ -144,6 +147,27 @@ TEST_F(Skeleton, DrawsThePreviewInTheChosenColor) {
         ::ReleaseDC(pane, screen);
         EXPECT_GT(picture.Count(all, chosen), 50) << item;
     });
+}
+
+class SkeletonWithStubs : public Skeleton {
+protected:
+    SkeletonWithStubs() : Skeleton((::_putenv_s(kFaultVariable, kStubs), "faulty\\drawcore32.dll")) {}
+    ~SkeletonWithStubs() override { ::_putenv_s(kFaultVariable, ""); }
+};
+
+TEST_F(SkeletonWithStubs, LosesPicturesOnly) {
+    EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
+                  user.SelectPage(kPen);
+                  user.Choose(IDC_LINE_STYLE_LIST, 1);
+                  user.SelectPage(kBrush);
+                  user.Choose(IDC_BRUSH_STYLE_LIST, 1);
+                  user.SelectPage(kInsertion);
+                  user.Type(IDC_POSITION_X, "30");
+                  user.Ok();
+              }));
+    EXPECT_NE(0u, Property<uint32_t>(Member(0), kPropBrushStyle, VT_UI4));
+    int cookie;
+    EXPECT_DOUBLE_EQ(30, CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF)->x);
 }
 
 } // namespace
