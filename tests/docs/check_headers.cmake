@@ -30,17 +30,20 @@ foreach(part ${parts})
   endif()
 endforeach()
 
-# Each C header alone, as a C program of a host includes it, in both kinds of text.
-foreach(part orlo/host/host.h ${parts})
+# Each C header alone, as a C program of a host includes it, and all of them in a UNICODE one.
+function(check_c header)
+  execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${ARGN}
+                          -I ${ROOT} -include ${header} -x c /dev/null
+                  RESULT_VARIABLE code ERROR_VARIABLE messages)
+  if(code)
+    message(SEND_ERROR "${header} does not compile as C ${ARGN}:\n${messages}")
+  endif()
+endfunction()
+
+check_c(orlo/host/host.h -DUNICODE)
+foreach(part ${parts})
   file(STRINGS ${ROOT}/${part} for_cpp REGEX "^namespace")
-  foreach(text "" -DUNICODE)
-    if(NOT for_cpp)
-      execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${text}
-                              -I ${ROOT} -include ${part} -x c /dev/null
-                      RESULT_VARIABLE code ERROR_VARIABLE messages)
-      if(code)
-        message(SEND_ERROR "${part} does not compile as C ${text}:\n${messages}")
-      endif()
-    endif()
-  endforeach()
+  if(NOT for_cpp)
+    check_c(${part})
+  endif()
 endforeach()
