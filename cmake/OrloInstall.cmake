@@ -30,6 +30,7 @@ set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
 install(DIRECTORY packaging/example/ DESTINATION ${examples})
 install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp
         DESTINATION ${examples})
+install(DIRECTORY skeleton DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo)
 install(FILES tests/data/dxf/kabeja-draft4-roof-details.dxf DESTINATION ${examples} RENAME roof.dxf)
 
 # Everything that is handed on, and nothing else: what has to be built before it is installed.

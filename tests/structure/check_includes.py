@@ -30,7 +30,8 @@ WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|d
 # Outside the library: which of its headers a folder may include.
 ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, and no part of the interface
 PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
-OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST, "afx": NOTHING}
+OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST,
+           "skeleton": HOST, "afx": NOTHING}
 
 
 def includes(path):
