@@ -5,7 +5,8 @@ include(GoogleTest)
 string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
 function(orlo_target target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Werror
+                         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
   if(WIN32)
     target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-gdwarf-4>)
