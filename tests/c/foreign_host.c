@@ -8,7 +8,7 @@
 
 #ifdef WITH_ADAPTER
 #include <drawcore_host.h>
-#define WINDOW(window) window
+
 #else
 typedef struct HWND__* HWND;
 typedef void* HMODULE;
@@ -41,7 +41,7 @@ typedef struct Database {
 } Database;
 
 static void* Take(HMODULE module, const char* name) {
-    void* found = (void*)GetProcAddress(module, name);
+    void* found = (void*)(uintptr_t)GetProcAddress(module, name);
     if (found == 0) ExitProcess(20);
     return found;
 }
@@ -115,6 +115,21 @@ static const wchar_t* Argument(const wchar_t* line, int count, wchar_t* buffer) 
     return buffer;
 }
 
+#ifdef WITH_ADAPTER
+static void HandOver(HMODULE module) {
+    static DrawCoreHost host; // too large for a stack that nobody probes
+    const char* text = "12";
+    char* end = 0;
+#define TAKE(function) *(void**)&host.function = Take(module, #function);
+    DRAWCORE_HOST_FUNCTIONS(TAKE)
+    if (AppGetCurrentApp() != 0 || StringToDouble(0, text, &end) != 0 || end != text) ExitProcess(10);
+    if (DrawCoreSetHost(&host, 0) || DrawCoreSetHost(&host, sizeof host + sizeof(void*))) ExitProcess(11);
+    if (!DrawCoreSetHost(&host, sizeof(void*)) || AppGetCurrentApp() == 0) ExitProcess(12); // an early host's
+    if (StringToDouble(0, text, &end) != 0) ExitProcess(13);
+    if (!DrawCoreSetHost(&host, sizeof host) || StringToDouble(0, text, &end) != 12) ExitProcess(14);
+}
+#endif
+
 void Start(void) {
     static wchar_t name[1024];
     Database database;
@@ -123,12 +138,7 @@ void Start(void) {
     if (module == 0 || OrloGetVersion() != ORLO_VERSION) ExitProcess(1);
     TakeAll(module, &database);
 #ifdef WITH_ADAPTER
-    {
-        DrawCoreHost host = {0};
-#define TAKE(function) *(void**)&host.function = Take(module, #function);
-        DRAWCORE_HOST_FUNCTIONS(TAKE)
-        if (!DrawCoreSetHost(&host, sizeof host)) ExitProcess(9);
-    }
+    HandOver(module);
 #endif
     drawing = database.open(Argument(GetCommandLineW(), 2, name), 0, 0, 0);
     if (drawing == 0 || !database.makeCurrent(drawing)) ExitProcess(2);
