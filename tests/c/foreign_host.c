@@ -8,7 +8,6 @@
 
 #ifdef WITH_ADAPTER
 #include <drawcore_host.h>
-
 #else
 typedef struct HWND__* HWND;
 typedef void* HMODULE;
