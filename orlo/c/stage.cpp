@@ -46,8 +46,7 @@ Stage::Stage(HWND owner, Announced announced) : m_main(std::move(announced)), m_
 
 Stage::~Stage() {
     if (m_ownerObject.m_hWnd != nullptr) m_ownerObject.Detach();
-    m_main.DestroyWindow();
-    AfxGetThread()->m_pMainWnd = m_mainBefore;
+    AfxGetThread()->m_pMainWnd = m_mainBefore; // the window of m_main goes with it
 }
 
 } // namespace orlo

@@ -24,7 +24,9 @@ TEST_P(ForeignHost, EditsThePenColorOverItsOwnWindow) {
     Start(std::string(GetParam()) + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(nullptr, sheet) << ExitCode();
-    EXPECT_FALSE(::IsWindowEnabled(::GetWindow(sheet, GW_OWNER)));
+    const HWND owner = ::GetWindow(sheet, GW_OWNER);
+    EXPECT_EQ(::FindWindowA("STATIC", "Host"), owner);
+    EXPECT_FALSE(::IsWindowEnabled(owner));
     EXPECT_EQ(0, Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT));
 
     PressInTabs(sheet, VK_RIGHT);

@@ -10,8 +10,6 @@
 #include <string>
 #include <vector>
 
-#include "support/graphic_kit.h"
-
 namespace {
 
 constexpr wchar_t kDocument[] = L"" TEST_DATA "/ole/25695--d41532.xls";
@@ -89,8 +87,9 @@ TEST(CPropset, SavesIntoAFileInOneStepAndLeavesTheRest) {
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloAuthor, kOrloTypeText, "\xE0\xB8\x81"), kOrloOk);
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"), kOrloUnsayable);
     {
-        const HANDLE held = ::CreateFileW(file.path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                          OPEN_EXISTING, 0, nullptr);
+        constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        const HANDLE held =
+            ::CreateFileW(file.path.c_str(), GENERIC_READ, kEverything, nullptr, OPEN_EXISTING, 0, nullptr);
         const std::string before = FileBytes(file.path);
         EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloSystem);
         ::CloseHandle(held);
@@ -117,7 +116,8 @@ TEST(CPropset, MakesSetsFilesAndNames) {
     EXPECT_EQ(OrloPropsetSetName(set, &kOrloUserDefined, 3, "WOOD"), kOrloBadArgument);
     const uint8_t blob[] = {2, 0, 0, 0, 7, 8, 0, 0};
     EXPECT_EQ(OrloPropsetSetBytes(set, &kOrloUserDefined, 4, kOrloTypeBlob, blob, 6), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetBytes(set, &kOrloUserDefined, 4, kOrloTypeBlob, blob, 5), kOrloWrongType);
+    for (const size_t wrong : {5, 8})
+        EXPECT_EQ(OrloPropsetSetBytes(set, &kOrloUserDefined, 4, kOrloTypeBlob, blob, wrong), kOrloWrongType);
     EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), "Set"), kOrloOk) << ErrorText();
     OrloPropsetClose(set);
 
@@ -148,6 +148,29 @@ TEST(CPropset, MakesSetsFilesAndNames) {
     EXPECT_EQ(OrloPropsetGetBytes(copy, &kOrloUserDefined, 4, nullptr, &blobSize), kOrloOk);
     EXPECT_EQ(blobSize, 6u);
     OrloPropsetClose(copy);
+    OrloPropsetClose(set);
+}
+
+TEST(CPropset, LeavesWhatIsDamagedAlone) {
+    OrloPropset set = Opened(kDocument), cut = nullptr;
+    size_t size = 0;
+    ASSERT_EQ(OrloPropsetSaveMemory(set, nullptr, &size), kOrloOk);
+    std::vector<char> bytes(size);
+    ASSERT_EQ(OrloPropsetSaveMemory(set, bytes.data(), &size), kOrloOk);
+    size -= 8;
+    EXPECT_EQ(OrloPropsetSaveMemory(set, bytes.data(), &size), kOrloTooSmall);
+    EXPECT_EQ(size, bytes.size());
+    ASSERT_EQ(OrloPropsetOpenMemory(bytes.data(), size - 8, &cut), kOrloOk);
+    EXPECT_EQ(Text(cut, kOrloSummary, kOrloAuthor), "Sompop");
+    EXPECT_EQ(OrloPropsetSetText(cut, &kOrloSummary, kOrloTitle, kOrloTypeText, "a"), kOrloDamaged);
+    EXPECT_EQ(OrloPropsetSaveMemory(cut, nullptr, &size), kOrloDamaged);
+    OrloPropsetClose(cut);
+
+    ScratchFile file; // whose allocation table goes in a circle
+    ASSERT_TRUE(::CopyFileW(L"" TEST_DATA "/ole/loop-in-alloc--d3743f.bin", file.path.c_str(), FALSE));
+    const std::string before = FileBytes(file.path);
+    EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloDamaged);
+    EXPECT_EQ(FileBytes(file.path), before);
     OrloPropsetClose(set);
 }
 
@@ -225,7 +248,7 @@ TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
     OrloPropsetClose(set);
 }
 
-TEST(CInterface, AnswersEveryWrongArgument) {
+TEST(CPropset, AnswersEveryWrongArgument) {
     OrloPropset set = nullptr, closed = nullptr, out = nullptr;
     OrloPropsetNew(&set);
     OrloPropsetNew(&closed);
@@ -274,25 +297,6 @@ TEST(CInterface, AnswersEveryWrongArgument) {
     EXPECT_EQ(OrloPropsetCountSections(set, &sections), kOrloOk);
     EXPECT_EQ(sections, 0u); // what was refused has made none
     OrloPropsetClose(set);
-
-    GraphicKit kit;
-    int32_t code = 9;
-    OrloSheet sheet = {};
-    EXPECT_EQ(OrloRunSheet(nullptr, &code), bad);
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), bad); // its size
-    sheet.size = sizeof sheet;
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), bad); // its drawing
-    sheet.drawing = kit.Drawing();
-    EXPECT_EQ(OrloRunSheet(&sheet, nullptr), bad);
-    sheet.owner = reinterpret_cast<HWND>(uintptr_t{0x1234});
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), bad);
-    sheet.owner = ::GetDesktopWindow();
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadThread);
-    EXPECT_EQ(code, 0);
-    char one[1] = {'x'};
-    EXPECT_EQ(OrloGetErrorText(one, 1), ErrorText().size() + 1);
-    EXPECT_EQ(one[0], '\0');
-    EXPECT_NE(ErrorText(), "");
 }
 
 } // namespace
