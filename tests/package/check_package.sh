@@ -35,6 +35,7 @@ cmake -S "$prefix/share/orlo/examples" -B "$work/examples" -G Ninja -DCMAKE_TOOL
 cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.log"; exit 1; }
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
+drive "$work/examples/c_host.exe"
 mkdir "$work/alone" # without any DLL in reach
 cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
 [ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
