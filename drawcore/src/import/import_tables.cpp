@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "drawcore/src/database/encoding.h"
+#include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/units/unit_settings.h"
@@ -55,7 +56,7 @@ Id ImportLayer(const dxf::Layer& from, const LineStyleTable& styles, LayerTable&
     const Id id = FindOrAdd(layers, HostName(from.name), make);
     Layer* layer = layers.At(id);
     if (!layer) return kLayerZero;
-    const Color color = ColorOfDxf(std::abs(from.color), from.trueColor);
+    const Color color = dxf::ColorOf(std::abs(from.color), from.trueColor);
     layer->color = IsPlainColor(color) ? color : kWhite;
     layer->lineStyle = styles.IdOf(HostName(from.lineType));
     layer->off = from.color < 0;
@@ -100,15 +101,6 @@ void ImportUnits(const dxf::Header& header, Table& units) {
 }
 
 } // namespace
-
-Color ColorOfDxf(int index, int32_t trueColor) {
-    if (trueColor >= 0) {
-        const auto rgb = static_cast<uint32_t>(trueColor);
-        return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF);
-    }
-    if (index == dxf::kIndexByBlock) return kColorByBlock;
-    return index >= 1 && index <= 255 ? ColorOfIndex(index) : kColorByLayer;
-}
 
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
     ImportedTables tables;

@@ -19,7 +19,4 @@ struct ImportedTables {
 // Fills tables and units; the blocks are still empty.
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
 
-// A colour number of an entity (256 by layer, 0 by block) or its true colour (-1: none).
-Color ColorOfDxf(int index, int32_t trueColor);
-
 } // namespace drawcore
