@@ -223,6 +223,9 @@ struct OwnValue {
     std::string text;
     std::vector<double> numbers;
 };
+inline bool operator==(const OwnValue& a, const OwnValue& b) {
+    return a.name == b.name && a.text == b.text && a.numbers == b.numbers;
+}
 using OwnData = std::vector<OwnValue>;
 constexpr char kApplication[] = "ORLO";
 

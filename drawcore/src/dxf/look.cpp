@@ -7,6 +7,7 @@
 
 #include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/standard_brushes.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
 namespace dxf {
@@ -105,11 +106,16 @@ constexpr OwnRow kOwnRows[] = {
          std::vector<Hatch::PatternLine> lines;
          if (!LinesFromNumbers(own.numbers, lines)) return;
          look.brush.style = own.text;
-         look.brush.lines = std::move(lines);
+         look.brush.lines = lines.empty() ? StandardLines(own.text) : std::move(lines);
      }},
     {kPropBrushColor, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         look.brush.color = ToColor(own.numbers[0], look.brush.color);
+         // With two numbers the groups show the brush's colour, and the other one is the pen's.
+         const uint32_t color = ToColor(own.numbers[0], look.brush.color);
+         const bool inGroups = own.numbers.size() > 1;
+         if (inGroups && look.color != color) return;
+         look.brush.color = color;
+         if (inGroups) look.color = ToColor(own.numbers[1], look.color);
      }},
     {kPropBrushScale, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {

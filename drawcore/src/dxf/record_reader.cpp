@@ -68,6 +68,8 @@ OwnValue RecordReader::ReadOwnValue() {
         if (tag.code == kExtendedReal) value.numbers.push_back(tag.Real());
     }
     if (tag.code == kExtendedBrace) tags.Next();
+    const auto isNone = [](double number) { return !std::isfinite(number); };
+    if (std::any_of(value.numbers.begin(), value.numbers.end(), isNone)) value.numbers.clear();
     value.text = ReadOwnText(decoder.Decode(bytes));
     return value;
 }

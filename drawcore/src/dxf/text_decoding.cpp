@@ -118,6 +118,19 @@ std::string TextDecoder::Encode(std::string_view utf8) const {
     return bytes;
 }
 
+std::vector<std::string> TextDecoder::EncodePieces(std::string_view utf8) const {
+    constexpr size_t kLongest = 250; // bytes
+    std::vector<std::string> pieces;
+    while (!utf8.empty()) {
+        const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
+        const std::string character = Encode(utf8.substr(0, length));
+        if (pieces.empty() || pieces.back().size() + character.size() > kLongest) pieces.emplace_back();
+        pieces.back() += character;
+        utf8.remove_prefix(length);
+    }
+    return pieces;
+}
+
 size_t AppendEscape(std::string& text, std::string_view stored) {
     if (stored.size() < 7 || stored[0] != '\\') return 0;
     uint32_t unit = 0;
@@ -213,6 +226,17 @@ LineText ReadControlCodes(std::string_view rest) {
         rest.remove_prefix(length);
     }
     return line;
+}
+
+std::string WithoutSwitch(std::string_view rest, char letter) {
+    std::string text;
+    while (!rest.empty()) {
+        const bool isCode = rest.size() >= 3 && rest.substr(0, 2) == "%%";
+        const size_t length = isCode ? 3 : 1;
+        if (!isCode || (rest[2] != letter && rest[2] != letter - 'a' + 'A')) text += rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return text;
 }
 
 } // namespace dxf

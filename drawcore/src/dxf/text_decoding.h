@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "drawcore/src/dxf/code_page.h"
 
@@ -17,6 +18,8 @@ public:
     std::string Decode(std::string_view bytes) const;
     // The way back: a character that the code page lacks becomes "\U+4E57".
     std::string Encode(std::string_view utf8) const;
+    // In pieces that lines of every program hold, none of which ends within a character. None for an empty text.
+    std::vector<std::string> EncodePieces(std::string_view utf8) const;
 
 private:
     CodePage page_{1252};
@@ -46,5 +49,7 @@ struct LineText {
     bool struckThrough = false;
 };
 LineText ReadControlCodes(std::string_view text);
+// The stored text without the switches of that letter (small).
+std::string WithoutSwitch(std::string_view stored, char letter);
 
 } // namespace dxf

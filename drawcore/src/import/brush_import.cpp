@@ -9,25 +9,13 @@ namespace {
 
 constexpr int kMostNumbers = 1000; // of patterns under one name
 
-std::vector<PatternLine> HostLines(const std::vector<dxf::Hatch::PatternLine>& lines) {
-    std::vector<PatternLine> made;
-    for (const dxf::Hatch::PatternLine& from : lines) {
-        PatternLine& line = made.emplace_back();
-        line.angle = Radians(from.angle);
-        line.base = {from.base.x, from.base.y};
-        line.offset = {from.offset.x, from.offset.y};
-        line.dashes = from.dashes;
-    }
-    return made;
-}
-
 // The style that draws these lines, under the name or the name with a number; 0 if there is no room.
 Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::PatternLine>& lines,
                   BrushStyleTable& styles) {
     for (int number = 1; number <= kMostNumbers; ++number) {
         const std::string numbered = number == 1 ? name : name + " " + std::to_string(number);
         const BrushStyle* known = styles.At(numbered);
-        if (!known) return styles.Add(std::make_unique<BrushStyle>(numbered, HostLines(lines)));
+        if (!known) return styles.Add(std::make_unique<BrushStyle>(numbered, LinesFromFile(lines)));
         if (dxf::SameLines(FileLines(*known), lines)) return styles.IdOf(numbered);
     }
     return kNoId;

@@ -156,7 +156,7 @@ public:
         if (dimension->block == dxf::BlockIndex::none) return nullptr;
         const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
         if (!block) return nullptr;
-        return std::make_unique<InsertGraphic>(block, Matrix::Translation(dimension->offset));
+        return std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity_));
     }
 
 private:
@@ -170,10 +170,8 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
     const Id block =
         insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
-    // The block's base point is the block's own business.
-    const Matrix first = dxf::InsertMatrix(entity, insert, dxf::Block(), 0, 0);
     const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
-    auto graphic = std::make_unique<InsertGraphic>(block, first);
+    auto graphic = std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity));
     graphic->array.columns = static_cast<int>(insert.columns);
     graphic->array.rows = static_cast<int>(insert.rows);
     graphic->array.columnStep = turned.Turn({insert.columnSpacing, 0, 0});

@@ -9,18 +9,17 @@
 #include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
-#include "drawcore/src/units/unit_settings.h"
+#include "drawcore/src/units/header_units.h"
 
 namespace drawcore {
 
-namespace {
-
-constexpr size_t kLongestName = 255;
-
 std::string HostName(const std::string& stored) {
+    constexpr size_t kLongestName = 255;
     std::string name = CodePageFromUtf8(dxf::ToDisplayText(stored)).substr(0, kLongestName);
     return name.empty() ? "(no name)" : name;
 }
+
+namespace {
 
 // The entry of that name, which is made if there is none yet; 0 if the table is full.
 template <class Entry, class Make>
@@ -79,27 +78,6 @@ Id ImportBlock(const dxf::Block& from, BlockTable& blocks) {
     return blocks.Add(std::move(block));
 }
 
-// Engineering and architectural lengths are of a drawing in inches, if nothing else is said.
-bool CountsInFeet(const dxf::Header& header) {
-    return header.lengthFormat == 3 || header.lengthFormat == 4;
-}
-
-void ImportUnits(const dxf::Header& header, Table& units) {
-    const LengthUnit* unit = LengthUnitOfDxf(header.unit);
-    UnitSettings settings;
-    if (unit)
-        settings.drawingUnit = unit->name;
-    else if (header.metric == 0 || CountsInFeet(header))
-        settings.drawingUnit = "in";
-    const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
-    if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
-    settings.lengthSystem = static_cast<LengthSystem>(header.lengthFormat);
-    settings.lengthDigits = std::clamp(header.lengthDigits, 0, 8);
-    settings.angleSystem = static_cast<AngleSystem>(header.angleFormat);
-    settings.angleDigits = std::clamp(header.angleDigits, 0, 8);
-    settings.Store(units);
-}
-
 } // namespace
 
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
@@ -111,7 +89,7 @@ ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
         tables.layers.push_back(ImportLayer(layer, styles, *drawing.Layers()));
     for (const dxf::Block& block : document.blocks)
         tables.blocks.push_back(ImportBlock(block, *drawing.Blocks()));
-    ImportUnits(document.header, *drawing.Units());
+    UnitsOf(document.header).Store(*drawing.Units());
     if (document.header.lineTypeScale > 0) drawing.lineScale = document.header.lineTypeScale;
     return tables;
 }

@@ -16,6 +16,9 @@ struct ImportedTables {
     std::vector<Id> blocks; // no identifier for what is only mentioned, and for model and paper space
 };
 
+// The name of an entry for a name as it is stored in a file.
+std::string HostName(const std::string& stored);
+
 // Fills tables and units; the blocks are still empty.
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
 

@@ -1,0 +1,178 @@
+// Walks two drawings side by side.
+#include "drawcore/src/export/drawing_comparison.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "drawcore/src/export/look_export.h"
+#include "drawcore/src/graphics/insert_graphic.h"
+#include "drawcore/src/graphics/text_graphic.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/import/brush_import.h"
+
+namespace drawcore {
+
+namespace {
+
+using dxf::Near;
+
+bool Near(const Vec3& a, const Vec3& b) {
+    return Near(a.x, b.x) && Near(a.y, b.y) && Near(a.z, b.z);
+}
+
+// Calls visit with each pair of graphics; stops where it, or the number of members, says so. False if it was stopped.
+using Visit = std::function<bool(Graphic&, Graphic&)>;
+bool WalkPairs(const Graphic& a, const Graphic& b, const Visit& visit) {
+    if (a.MemberCount() != b.MemberCount()) return false;
+    for (size_t i = 0; i < a.MemberCount(); ++i)
+        if (!visit(*a.MemberAt(i), *b.MemberAt(i)) || !WalkPairs(*a.MemberAt(i), *b.MemberAt(i), visit))
+            return false;
+    return true;
+}
+
+// The entries of one table for identifiers of another: names that are the same stand for the same.
+template <class Entry>
+std::vector<Id> SameNames(const TableOf<Entry>* from, const TableOf<Entry>* to) {
+    std::vector<Id> same(1, kNoId);
+    if (!from || !to) return same;
+    for (Id id = from->First(); id; id = from->Next(id)) {
+        same.resize(size_t{id} + 1, kNoId);
+        same[id] = to->IdOf(from->At(id)->name);
+    }
+    return same;
+}
+
+class Comparison {
+public:
+    Comparison(const Drawing& saved, const Drawing& read)
+        : saved_(saved), read_(read), layers_(SameNames(read.Layers(), saved.Layers())),
+          lines_(SameNames(read.LineStyles(), saved.LineStyles())),
+          blocks_(SameNames(read.Blocks(), saved.Blocks())) {}
+
+    bool Same(const Graphic& a, const Graphic& b) {
+        if (a.GetKind() != b.GetKind() || a.bType != b.bType) return Differ("the kind");
+        if (a.layer != Of(layers_, b.layer)) return Differ(kPropLayer);
+        if ((a.info ? *a.info : "") != (b.info ? *b.info : "")) return Differ(kPropInfo);
+        if (a.styleTree != Of(blocks_, b.styleTree) && IsInFile(a.styleTree)) return Differ(kPropStyleTree);
+        return SamePen(a.pen, b.pen) && SameBrush(a.brush, b.brush) && SameShape(a, b);
+    }
+
+    std::string difference;
+
+private:
+    bool Differ(const char* what) {
+        difference = what;
+        return false;
+    }
+
+    // Markers stand for themselves.
+    static Id Of(const std::vector<Id>& same, Id id) { return id < same.size() ? same[id] : id; }
+
+    bool IsInFile(Id block) const {
+        return std::find(blocks_.begin(), blocks_.end(), block) != blocks_.end();
+    }
+
+    bool SamePen(const Pen& a, const Pen& b) {
+        if (a.color != b.color) return Differ(kPropPenColor);
+        if (a.style != Of(lines_, b.style)) return Differ(kPropPenStyle);
+        if (!Near(a.scale, b.scale)) return Differ(kPropPenScale);
+        if (!Near(a.width, b.width) || a.scaleSystem != b.scaleSystem) return Differ(kPropPenWidth);
+        return a.alignment == b.alignment || Differ(kPropPenAlignment);
+    }
+
+    bool SameBrush(const Brush& a, const Brush& b) {
+        if (!SameStyle(a.style, b.style)) return Differ(kPropBrushStyle);
+        if (a.color != b.color) return Differ(kPropBrushColor);
+        if (!Near(a.scale, b.scale)) return Differ(kPropBrushScale);
+        if (!Near(a.angle, b.angle)) return Differ(kPropBrushAngle);
+        if (a.cross != b.cross) return Differ(kPropHatchCross);
+        return a.drawMode == b.drawMode || Differ(kPropBrushDrawMode);
+    }
+
+    bool SameStyle(Id a, Id b) {
+        if (a == kBrushStyleNone || b == kBrushStyleNone) return a == b;
+        const auto [found, isNew] = styles_.emplace(std::make_pair(a, b), false);
+        if (!isNew) return found->second;
+        const BrushStyle* one = saved_.BrushStyles() ? saved_.BrushStyles()->At(a) : nullptr;
+        const BrushStyle* other = read_.BrushStyles()->At(b);
+        if (!one || !other) return false;
+        const bool byName = one->bitmap || other->bitmap;
+        return found->second =
+                   byName ? one->name == other->name : dxf::SameLines(FileLines(*one), FileLines(*other));
+    }
+
+    bool SameShape(const Graphic& a, const Graphic& b) {
+        if (a.GetKind() == Kind::Text) return SameText(a, b);
+        if (a.GetKind() == Kind::Insert)
+            return SameInsert(static_cast<const InsertGraphic&>(a), static_cast<const InsertGraphic&>(b));
+        const auto* vertices = dynamic_cast<const VertexGraphic*>(&a);
+        const auto* others = dynamic_cast<const VertexGraphic*>(&b);
+        return !vertices ||
+               (others && vertices->vertices == others->vertices && vertices->closed == others->closed) ||
+               Differ("its vertices");
+    }
+
+    bool SameText(const Graphic& a, const Graphic& b) {
+        const TextState& one = static_cast<const TextGraphic&>(a).state;
+        const TextState& other = static_cast<const TextGraphic&>(b).state;
+        if (one.text != other.text) return Differ("its text");
+        if (one.font != other.font) return Differ(kPropTextFont);
+        if (!Near(SeenHeight(a), SeenHeight(b))) return Differ(kPropTextSize);
+        if (one.style != other.style) return Differ(kPropTextStyle);
+        if (one.format != other.format) return Differ(kPropTextFormat);
+        Matrix motion;
+        if (a.Parent() && a.Parent()->FindMotion(motion))
+            return (Near(motion.Apply(one.position), other.position) &&
+                    Near(Normalized(motion.Turn(one.along)), other.along) &&
+                    Near(Normalized(motion.Turn(one.up)), other.up)) ||
+                   Differ("the place of an attribute");
+        return (Near(one.position, other.position) && Near(one.along, other.along) &&
+                Near(one.up, other.up) && Near(one.fitWidth, other.fitWidth)) ||
+               Differ("its place");
+    }
+
+    bool SameInsert(const InsertGraphic& a, const InsertGraphic& b) {
+        if (a.block != Of(blocks_, b.block)) return Differ("its block");
+        for (int i = 0; i < 4; ++i)
+            if (!Near(a.vertices[i].Position(), b.vertices[i].Position())) return Differ("its placement");
+        const InsertArray one = a.MovedArray(), other = b.MovedArray();
+        const bool same = one.columns == other.columns && one.rows == other.rows &&
+                          Near(one.columnStep, other.columnStep) && Near(one.rowStep, other.rowStep);
+        return same || Differ("its array");
+    }
+
+    const Drawing &saved_, &read_;
+    const std::vector<Id> layers_, lines_, blocks_; // of the saved drawing, by those of the one that was read
+    std::map<std::pair<Id, Id>, bool> styles_;
+};
+
+// Root and blocks of both drawings.
+bool WalkAll(const Drawing& saved, const Drawing& read, const Visit& visit) {
+    if (!WalkPairs(saved.Root(), read.Root(), visit)) return false;
+    const BlockTable* blocks = saved.Blocks();
+    for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id)) {
+        const Block* other = read.Blocks()->At(blocks->At(id)->name);
+        if (other && !WalkPairs(blocks->At(id)->Content(), other->Content(), visit)) return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::string FirstDifference(const Drawing& saved, const Drawing& read) {
+    Comparison comparison(saved, read);
+    const bool same = WalkAll(saved, read, [&](Graphic& a, Graphic& b) { return comparison.Same(a, b); });
+    if (same) return {};
+    if (comparison.difference.empty()) return "the file would hold other graphics";
+    return "the file can't hold a change of " + comparison.difference;
+}
+
+void TakeSources(const Drawing& saved, const Drawing& read) {
+    WalkAll(saved, read, [](Graphic& a, Graphic& b) {
+        a.source = b.source;
+        a.touched = false;
+        return true;
+    });
+}
+
+} // namespace drawcore
