@@ -1,14 +1,14 @@
-// Walks two drawings side by side.
+// Compares a drawing with a document, graphic by graphic.
 #include "drawcore/src/export/drawing_comparison.h"
 
 #include <algorithm>
-#include <functional>
 
 #include "drawcore/src/export/look_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/brush_import.h"
+#include "drawcore/src/import/entity_import.h"
 
 namespace drawcore {
 
@@ -18,16 +18,6 @@ using dxf::Near;
 
 bool Near(const Vec3& a, const Vec3& b) {
     return Near(a.x, b.x) && Near(a.y, b.y) && Near(a.z, b.z);
-}
-
-// Calls visit with each pair of graphics; stops where it, or the number of members, says so. False if it was stopped.
-using Visit = std::function<bool(Graphic&, Graphic&)>;
-bool WalkPairs(const Graphic& a, const Graphic& b, const Visit& visit) {
-    if (a.MemberCount() != b.MemberCount()) return false;
-    for (size_t i = 0; i < a.MemberCount(); ++i)
-        if (!visit(*a.MemberAt(i), *b.MemberAt(i)) || !WalkPairs(*a.MemberAt(i), *b.MemberAt(i), visit))
-            return false;
-    return true;
 }
 
 // The entries of one table for identifiers of another: names that are the same stand for the same.
@@ -146,33 +136,66 @@ private:
     std::map<std::pair<Id, Id>, bool> styles_;
 };
 
-// Root and blocks of both drawings.
-bool WalkAll(const Drawing& saved, const Drawing& read, const Visit& visit) {
-    if (!WalkPairs(saved.Root(), read.Root(), visit)) return false;
-    const BlockTable* blocks = saved.Blocks();
-    for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id)) {
-        const Block* other = read.Blocks()->At(blocks->At(id)->name);
-        if (other && !WalkPairs(blocks->At(id)->Content(), other->Content(), visit)) return false;
+// Makes the graphics of the document one after the other, and drops each as soon as it was compared.
+class ReadBack {
+public:
+    ReadBack(const Drawing& saved, const dxf::Document& document, Sources& sources)
+        : saved_(saved), document_(document), sources_(sources), tables_(ImportTables(document, read_)),
+          import_(document, tables_, read_), comparison_(saved, read_) {}
+
+    std::string FirstDifference() {
+        if (IsSame()) return {};
+        if (comparison_.difference.empty()) return "the file would hold other graphics";
+        return "the file can't hold a change of " + comparison_.difference;
     }
-    return true;
-}
+
+private:
+    bool IsSame() {
+        if (!SameMembers(saved_.Root(), document_.entities, false)) return false;
+        const BlockTable* blocks = saved_.Blocks();
+        for (size_t i = 0; blocks && i < document_.blocks.size(); ++i) {
+            if (!tables_.blocks[i]) continue;
+            const Block* block = blocks->At(read_.Blocks()->At(tables_.blocks[i])->name);
+            if (!block || !SameMembers(block->Content(), document_.blocks[i].entities, true)) return false;
+        }
+        return true;
+    }
+
+    bool SameMembers(const Graphic& saved, const std::vector<dxf::Entity>& entities, bool inBlock) {
+        size_t place = 0;
+        for (const dxf::Entity& entity : entities) {
+            if (!inBlock && entity.inPaperSpace) continue;
+            VertexGraphic made;
+            import_.AddTo(made, entity, inBlock);
+            for (size_t i = 0; i < made.MemberCount(); ++i, ++place)
+                if (place >= saved.MemberCount() ||
+                    !SameWithMembers(*saved.MemberAt(place), *made.MemberAt(i)))
+                    return false;
+        }
+        return place == saved.MemberCount();
+    }
+
+    bool SameWithMembers(Graphic& saved, const Graphic& made) {
+        if (!comparison_.Same(saved, made) || saved.MemberCount() != made.MemberCount()) return false;
+        sources_.emplace_back(&saved, made.source);
+        for (size_t i = 0; i < saved.MemberCount(); ++i)
+            if (!SameWithMembers(*saved.MemberAt(i), *made.MemberAt(i))) return false;
+        return true;
+    }
+
+    const Drawing& saved_;
+    const dxf::Document& document_;
+    Sources& sources_;
+    Drawing read_; // its tables alone
+    const ImportedTables tables_;
+    EntityImport import_;
+    Comparison comparison_;
+};
 
 } // namespace
 
-std::string FirstDifference(const Drawing& saved, const Drawing& read) {
-    Comparison comparison(saved, read);
-    const bool same = WalkAll(saved, read, [&](Graphic& a, Graphic& b) { return comparison.Same(a, b); });
-    if (same) return {};
-    if (comparison.difference.empty()) return "the file would hold other graphics";
-    return "the file can't hold a change of " + comparison.difference;
-}
-
-void TakeSources(const Drawing& saved, const Drawing& read) {
-    WalkAll(saved, read, [](Graphic& a, Graphic& b) {
-        a.source = b.source;
-        a.touched = false;
-        return true;
-    });
+std::string FirstDifference(const Drawing& saved, const dxf::Document& read, Sources& sources) {
+    return ReadBack(saved, read, sources).FirstDifference();
 }
 
 } // namespace drawcore

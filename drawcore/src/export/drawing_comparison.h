@@ -1,16 +1,22 @@
-// Whether a drawing that was read back is the drawing that was saved.
+// Whether the file that a drawing is saved into gives that drawing when it is read.
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "drawcore/src/database/drawing.h"
+#include "drawcore/src/dxf/document.h"
+#include "drawcore/src/graphics/graphic.h"
 
 namespace drawcore {
 
+// Graphics of a drawing, and where their records are in a text.
+using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
+
 // The first difference, for the user; empty if there is none. Identifiers of entries may differ, and of numbers the last
-// digits. What `read` lacks are blocks that the program has made, which is no difference.
-std::string FirstDifference(const Drawing& saved, const Drawing& read);
-// Notes in the graphics of `saved` where their records are in the text of `read`.
-void TakeSources(const Drawing& saved, const Drawing& read);
+// digits. What the document lacks are blocks that the program has made, which is no difference. Without one, sources has all
+// graphics of the file.
+std::string FirstDifference(const Drawing& saved, const dxf::Document& read, Sources& sources);
 
 } // namespace drawcore

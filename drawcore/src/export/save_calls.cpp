@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
 
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/src/database/dxf_source.h"
@@ -11,7 +12,6 @@
 #include "drawcore/src/export/look_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
-#include "drawcore/src/import/dxf_import.h"
 #include "drawcore/src/import/import_tables.h"
 #include "drawcore/src/save/file_replacement.h"
 #include "drawcore/src/save/save_error.h"
@@ -69,21 +69,37 @@ private:
     bool touched_ = false, hasOthers_ = false;
 };
 
-// The drawing as it will be read from the changed file; null, and its bytes are the source's, if nobody has touched it.
-std::unique_ptr<Drawing> Changed(const Drawing& drawing) {
+// What a drawing becomes when it is saved.
+struct ChangedSource {
+    std::string bytes;
+    dxf::Document known;
+    Sources sources;
+};
+
+// None, and the source stays, if nobody has touched the drawing.
+std::optional<ChangedSource> Changed(const Drawing& drawing) {
     const DxfSource& source = *drawing.source;
     const std::string_view text = dxf::TextOf(source.bytes);
     dxf::DrawingPatch patch(text, source.known.Tables());
     ChangeExport changes(drawing, patch);
     changes.Write();
-    if (!changes.WasTouched()) return nullptr;
-    std::string bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
-    dxf::Document document = dxf::Read(bytes, {});
-    std::unique_ptr<Drawing> read = ImportDxf(document, {});
-    read->source = std::make_unique<DxfSource>(std::move(bytes), document);
-    if (const std::string difference = FirstDifference(drawing, *read); !difference.empty())
-        throw dxf::SaveError(difference);
-    return read;
+    if (!changes.WasTouched()) return std::nullopt;
+    ChangedSource changed;
+    changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
+    const dxf::Document document = dxf::Read(changed.bytes, {});
+    const std::string difference = FirstDifference(drawing, document, changed.sources);
+    if (!difference.empty()) throw dxf::SaveError(difference);
+    changed.known = document.Tables();
+    return changed;
+}
+
+void TakeOver(ChangedSource&& changed, DxfSource& source) {
+    for (const auto& [graphic, place] : changed.sources) {
+        graphic->source = place;
+        graphic->touched = false;
+    }
+    source.bytes = std::move(changed.bytes);
+    source.known = std::move(changed.known);
 }
 
 bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
@@ -96,15 +112,11 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags) {
     const bool replacesSource = IsSameFile(path, source.path);
     if (replacesSource && !(flags & kSaveOverChanged) && !dxf::Holds(path, source.bytes))
         return kSaveFileChanged;
-    const std::unique_ptr<Drawing> changed = Changed(drawing);
+    std::optional<ChangedSource> changed = Changed(drawing);
     dxf::FileReplacement file(path);
-    file.Write(changed ? changed->source->bytes : source.bytes);
+    file.Write(changed ? changed->bytes : source.bytes);
     file.TakePlace();
-    if (changed) {
-        TakeSources(drawing, *changed);
-        source.known = std::move(changed->source->known);
-        source.bytes = std::move(changed->source->bytes);
-    }
+    if (changed) TakeOver(std::move(*changed), source);
     source.path = path;
     return kSaveDone;
 }
