@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "drawcore/src/database/dxf_source.h"
+#include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/export/look_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/text_graphic.h"
@@ -136,12 +138,14 @@ private:
     std::map<std::pair<Id, Id>, bool> styles_;
 };
 
-// Makes the graphics of the document one after the other, and drops each as soon as it was compared.
+// Makes the graphics of the document one after the other, and drops each as soon as it was compared. One that nobody has
+// touched, and whose record is the same to the byte, is what it was: that is not made again.
 class ReadBack {
 public:
-    ReadBack(const Drawing& saved, const dxf::Document& document, Sources& sources)
-        : saved_(saved), document_(document), sources_(sources), tables_(ImportTables(document, read_)),
-          import_(document, tables_, read_), comparison_(saved, read_) {}
+    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Sources& sources)
+        : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document),
+          sources_(sources), tables_(ImportTables(document, read_)), import_(document, tables_, read_),
+          comparison_(saved, read_) {}
 
     std::string FirstDifference() {
         if (IsSame()) return {};
@@ -163,16 +167,42 @@ private:
 
     bool SameMembers(const Graphic& saved, const std::vector<dxf::Entity>& entities, bool inBlock) {
         size_t place = 0;
-        for (const dxf::Entity& entity : entities) {
+        for (size_t i = 0; i < entities.size(); ++i) {
+            const dxf::Entity& entity = entities[i];
             if (!inBlock && entity.inPaperSpace) continue;
+            const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
+            if (place < saved.MemberCount() && IsAsBefore(*saved.MemberAt(place), entity.offset, end)) {
+                NoteSources(*saved.MemberAt(place++), entity.offset);
+                continue;
+            }
             VertexGraphic made;
             import_.AddTo(made, entity, inBlock);
-            for (size_t i = 0; i < made.MemberCount(); ++i, ++place)
+            for (size_t k = 0; k < made.MemberCount(); ++k, ++place)
                 if (place >= saved.MemberCount() ||
-                    !SameWithMembers(*saved.MemberAt(place), *made.MemberAt(i)))
+                    !SameWithMembers(*saved.MemberAt(place), *made.MemberAt(k)))
                     return false;
         }
         return place == saved.MemberCount();
+    }
+
+    static bool IsTouched(const Graphic& graphic) {
+        bool touched = graphic.touched;
+        for (size_t i = 0; i < graphic.MemberCount(); ++i)
+            touched = touched || IsTouched(*graphic.MemberAt(i));
+        return touched;
+    }
+
+    // The records from begin to end, which are one entity's, against those of the graphic in the text before.
+    bool IsAsBefore(const Graphic& graphic, size_t begin, size_t end) const {
+        return end > begin && !IsTouched(graphic) &&
+               before_.compare(graphic.source, end - begin, text_, begin, end - begin) == 0;
+    }
+
+    void NoteSources(Graphic& graphic, uint32_t place) {
+        const uint32_t shift = place - graphic.source;
+        sources_.emplace_back(&graphic, place);
+        for (size_t i = 0; i < graphic.MemberCount(); ++i)
+            NoteSources(*graphic.MemberAt(i), graphic.MemberAt(i)->source + shift);
     }
 
     bool SameWithMembers(Graphic& saved, const Graphic& made) {
@@ -184,6 +214,7 @@ private:
     }
 
     const Drawing& saved_;
+    const std::string_view before_, text_;
     const dxf::Document& document_;
     Sources& sources_;
     Drawing read_; // its tables alone
@@ -194,8 +225,9 @@ private:
 
 } // namespace
 
-std::string FirstDifference(const Drawing& saved, const dxf::Document& read, Sources& sources) {
-    return ReadBack(saved, read, sources).FirstDifference();
+std::string FirstDifference(const Drawing& saved, std::string_view text, const dxf::Document& read,
+                            Sources& sources) {
+    return ReadBack(saved, text, read, sources).FirstDifference();
 }
 
 } // namespace drawcore

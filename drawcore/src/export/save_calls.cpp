@@ -87,7 +87,8 @@ std::optional<ChangedSource> Changed(const Drawing& drawing) {
     ChangedSource changed;
     changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
     const dxf::Document document = dxf::Read(changed.bytes, {});
-    const std::string difference = FirstDifference(drawing, document, changed.sources);
+    const std::string difference =
+        FirstDifference(drawing, dxf::TextOf(changed.bytes), document, changed.sources);
     if (!difference.empty()) throw dxf::SaveError(difference);
     changed.known = document.Tables();
     return changed;
