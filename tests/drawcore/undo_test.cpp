@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <drawcore/property_schema.h>
 #include <drawcore/undo.h>
 
 #include "drawcore/kit.h"
@@ -44,6 +45,36 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
         EXPECT_EQ(GetWhole(line, kPropPenStyle), 65534u);
     }
     EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
+}
+
+// Each alone: a property that the log overlooks is not taken back.
+TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
+    GraphicStruct* const text = drawing.Add(MakeText("text", {0, 0}, 1));
+    int count = 0;
+    const PropertyInfo* const properties = DrawCoreGetProperties(&count);
+    ASSERT_GT(count, 0);
+    for (GraphicStruct* graphic : {lines[0], text})
+        for (const PropertyInfo* property = properties; property < properties + count; ++property) {
+            const char* const name = property->name;
+            if (!orlo::host::FindProperty(graphic, name)) continue;
+            SCOPED_TRACE(name);
+            const auto value = [&] {
+                if (property->form == kFormText) return GetText(graphic, name);
+                return std::to_string(property->form == kFormReal ? GetReal(graphic, name)
+                                                                  : GetWhole(graphic, name));
+            };
+            const std::string before = value();
+            ASSERT_TRUE(DrawingBeginUndo(drawing));
+            if (property->form == kFormText) SetText(graphic, name, "Courier New");
+            if (property->form == kFormReal) SetReal(graphic, name, 0.25);
+            if (property->form == kFormWhole)
+                for (const uint32_t other : {0u, 1u})
+                    if (value() == before) SetWhole(graphic, name, other);
+            EXPECT_TRUE(value() != before || name == std::string(kPropLayer)) << "the only layer";
+            DrawingEndUndo(drawing);
+            DrawingUndo(drawing);
+            EXPECT_EQ(value(), before);
+        }
 }
 
 TEST_F(Undo, TakesBackVerticesThatWereMovedAndIgnoresThoseThatWereOnlyRead) {

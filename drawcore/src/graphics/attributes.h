@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <tuple>
 
 #include "drawcore/src/styles/brush_style.h"
 #include "drawcore/src/styles/colors.h"
@@ -18,6 +19,10 @@ struct Pen {
     uint16_t style = kLineStyleByLayer;
     uint8_t scaleSystem = kScalePaper;
     bool alignment = true; // dashes fitted to each segment; else the pattern runs on through the corners
+
+    auto Values() const {
+        return std::tie(width, scale, color, style, scaleSystem, alignment);
+    } // all of them
 };
 
 struct Brush {
@@ -27,10 +32,16 @@ struct Brush {
     int32_t drawMode = 0; // 1 winding, 0 alternate
     uint16_t style = kBrushStyleNone;
     bool cross = false; // the hatch once more, at a right angle
+
+    auto Values() const { return std::tie(scale, angle, color, drawMode, style, cross); } // all of them
 };
 
-bool operator==(const Pen& a, const Pen& b);
-bool operator==(const Brush& a, const Brush& b);
+inline bool operator==(const Pen& a, const Pen& b) {
+    return a.Values() == b.Values();
+}
+inline bool operator==(const Brush& a, const Brush& b) {
+    return a.Values() == b.Values();
+}
 
 // The values of all properties of a graphic together, for the undo log: many graphics have the same.
 struct Look {
@@ -47,6 +58,8 @@ struct Look {
     // Not a property, but written with them: GraphicStruct::wLastPage.
     uint16_t lastPage = 0;
 
+    // Those of pen and brush aside.
+    auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
     bool HasSameProperties(const Look& other) const;
     bool operator==(const Look& other) const {
         return lastPage == other.lastPage && HasSameProperties(other);
