@@ -165,7 +165,7 @@ public:
     void TrimLeft();
     void TrimRight();
 
-    // Index of the first (last) match, -1 if there is none.
+    // Index of the first (last) match, -1 if there isn't one.
     int Find(char ch) const;
     int Find(LPCSTR lpszSub) const;
     int ReverseFind(char ch) const;

@@ -23,7 +23,7 @@ public:
     BOOL PumpMessage();
 
     // An exception that a message handler has thrown; the result is the message's. Shows its text, unless the
-    // user was told. What a window throws in painting itself or its items is shown once.
+    // user has been informed. What a window throws while painting itself or its items is shown once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:
@@ -90,7 +90,7 @@ AFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmd
 // framework.
 // The module that has it; the program's own if none has.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType);
-// The length copied, 0 if there is no such string: then the buffer is empty.
+// The length copied; 0, with an empty buffer, if there is no such string.
 AFX_API int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf = 256);
 
 // ---- Messages to the user

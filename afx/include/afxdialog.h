@@ -60,8 +60,8 @@ public:
     explicit CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    // Modeless. The template is searched along the chain of modules. False: none found, or no window was
-    // made.
+    // Modeless. The template is searched along the chain of modules. False: there is no such template, or the
+    // window could not be made.
     BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     BOOL Create(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     using CWnd::Create;

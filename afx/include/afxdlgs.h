@@ -30,8 +30,8 @@ public:
     // Tells the sheet, whose Apply button is enabled while a page is modified.
     void SetModified(BOOL bChanged = TRUE);
 
-    // The page comes to the front. Here: makes its window if there is none yet; false on failure. A page whose first
-    // exchange fails has none: the user was informed why.
+    // The page comes to the front. Here: makes its window if there isn't one yet; false on failure. A page whose first
+    // exchange fails has none: the user has been informed why.
     virtual BOOL OnSetActive();
     // The page is to be left. Here: saves; false if a check has failed.
     virtual BOOL OnKillActive();

@@ -1,4 +1,4 @@
-// CCmdTarget and CWnd: an object with a message map, and one that stands for a window.
+// CCmdTarget and CWnd: an object with a message map, and one that represents a window.
 //
 // A CWnd and its window find each other by the permanent map, from Create, Attach or SubclassWindow until the
 // window is destroyed or Detach is called. FromHandle makes a temporary object for a window that has none:
@@ -46,7 +46,7 @@ public:
     virtual void OnFinalRelease();
 
     // Runs the handler of a command (nCode CN_COMMAND) or notification, or only names it in pHandlerInfo if
-    // given. False: there is none.
+    // given. False: there isn't one.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
     // The hourglass; calls nest.
@@ -160,7 +160,7 @@ public:
 
     // ---- Family
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    // The outermost frame window around this one, owners included; null if there is none.
+    // The outermost frame window around this one, owners included; null if there isn't one.
     CFrameWnd* GetTopLevelFrame() const;
     CFrameWnd* GetParentFrame() const;
     virtual BOOL IsFrameWnd() const;
@@ -204,7 +204,7 @@ protected:
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // A message about this window that its parent has got (owner drawing). Non-zero: handled.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    // The last call for a window; the object has none any more. An object on the heap may delete itself here.
+    // The last call for a window, which the object no longer has. An object on the heap may delete itself here.
     virtual void PostNcDestroy();
     virtual void DoDataExchange(CDataExchange* pDX);
 

@@ -169,8 +169,8 @@ bool CPropertySheet::LeaveFor(int nPage) {
     return active->OnKillActive();
 }
 
-// The active page has been left, or there was none: that one comes. If it does not, the one before is as it
-// was.
+// The active page has been left, or there was none: the given page comes to the front. If it can't, the one
+// before it stays as it was.
 bool CPropertySheet::ActivatePage(int nPage) {
     const int before = m_nCurPage;
     CPropertyPage* page = GetPage(nPage);
