@@ -1,4 +1,4 @@
-// What stands behind the pointers that the library gets. Records that both sides know are derived from; what only the host
+// What the pointers that the library gets refer to. Records that both sides know are derived from; what only the host
 // knows (tables, viewports, extents) is defined here as it likes.
 #pragma once
 

@@ -26,7 +26,7 @@ enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
 enum { kSaveOverChanged = 1 };
 
 // Writes the drawing into a file, which may be the one that it was opened from: that file's text, in which only the groups
-// differ that carry a change. What the format has no group for stands in extended data under the application name ORLO. The
+// that carry a change differ. What the format has no group for is kept in extended data under the application name ORLO. The
 // file is written beside the old one, compared with the drawing, and then takes its place in one step.
 //
 // kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened

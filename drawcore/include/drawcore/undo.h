@@ -21,7 +21,7 @@ DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
 DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
 // Room for all steps, in bytes (256 MB unless set); the last step is kept whatever it takes.
 DRAWCORE_API void DrawingSetUndoRoom(DrawingStruct*, size_t bytes);
-// Takes back the last step. The number of graphics that it changed back; 0 if there is none, or one is still open.
+// Takes back the last step. The number of graphics that it changed back; 0 if there isn't one, or one is still open.
 DRAWCORE_API int DrawingUndo(DrawingStruct*);
 // Number of steps that can be taken back.
 DRAWCORE_API int DrawingCountUndo(DrawingStruct*);

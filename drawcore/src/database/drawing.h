@@ -26,7 +26,7 @@ public:
     // The drawing behind a pointer from outside; null for null and for a drawing that is gone.
     static Drawing* Find(DrawingStruct* drawing);
 
-    // Any of its tables by name; null if there is none.
+    // Any of its tables by name; null if there isn't one.
     Table* FindTable(std::string_view name) const;
     Table* AddTable(std::string_view name, std::unique_ptr<Table> table); // null if the name is taken
     bool RemoveTable(Table* table);

@@ -89,7 +89,7 @@ struct Spline {
 struct Text {
     enum class Horizontal : uint8_t { left, center, right, aligned, middle, fit };
     enum class Vertical : uint8_t { baseline, bottom, middle, top };
-    // A definition is shown only where it does not stand in a block: there inserts bring attributes of their
+    // A definition is shown only outside of blocks: within a block, inserts bring attributes of their
     // own.
     enum class Role : uint8_t { text, attribute, definition };
     Role role = Role::text;

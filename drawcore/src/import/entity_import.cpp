@@ -229,7 +229,7 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
         graphic->source = entity.offset;
         added = group.Add(std::move(graphic));
     }
-    // The attributes of an insertion that shows nothing itself stand alone.
+    // The attributes of an insertion that shows nothing itself are graphics by themselves.
     if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
         AddAttributes(added ? *added : group, **insert);
 }

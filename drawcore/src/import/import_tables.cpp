@@ -21,7 +21,7 @@ std::string HostName(const std::string& stored) {
 
 namespace {
 
-// The entry of that name, which is made if there is none yet; 0 if the table is full.
+// The entry of that name, which is made if there isn't one yet; 0 if the table is full.
 template <class Entry, class Make>
 Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
     const Id known = table.IdOf(name);

@@ -38,7 +38,7 @@ public:
     Layer& Describe(LayerIndex index) { return in_.document.layers[static_cast<size_t>(index)]; }
     LineType& Describe(LineTypeIndex index) { return in_.document.lineTypes[static_cast<size_t>(index)]; }
 
-    // The entity whose record begins there. ReadError, SaveError if there is none that can be read.
+    // The entity whose record begins there. ReadError, SaveError if there isn't one that can be read.
     Entity EntityAt(size_t offset);
     Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
 

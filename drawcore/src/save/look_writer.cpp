@@ -35,7 +35,7 @@ LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
 void LookWriter::Write(const Look& wanted) {
     if (!(Now() == wanted)) {
         WriteLayer(wanted);
-        WriteText(wanted); // before the colour, which may stand within the text
+        WriteText(wanted); // before the colour, which may be set within the text
         WriteColor(wanted);
         WriteBrush(wanted);
         WriteLineType(wanted);

@@ -85,7 +85,7 @@ void RecordPatch::RemoveAll(int code, bool common) {
         if (IsOf(group, code, common)) Remove(group);
 }
 
-// Some programs write what all entities have behind the marker of the kind.
+// Some programs write the groups that all entities have after the marker of the kind.
 void RecordPatch::SetCommon(int code, const std::string& value) {
     SetAll(code, value, HasCommon(code), CommonPlace(code));
 }

@@ -24,8 +24,8 @@ struct AngleFormat {
 bool ReadAngle(std::string_view text, AngleSystem bare, double& radians);
 
 // Empty if the angle is not a number. A bearing has neither turns nor sign: for an angle beyond one turn or below 0 degrees,
-// minutes and seconds stand in its place. One that its digits, or four of a right angle, do not tell from a direction of the
-// compass is that direction.
+// degrees, minutes and seconds are written instead. One that its digits, or four of a right angle, do not tell from a
+// direction of the compass is that direction.
 std::string WriteAngle(double radians, const AngleFormat& format);
 
 } // namespace drawcore
