@@ -22,7 +22,7 @@ OrloPropset Hold(HeldSet set);
 void Release(OrloPropset handle);
 
 const GUID& AsGuid(const OrloGuid& format);
-// Of the first section of that format. Throws Refusal if there is none.
+// Of the first section of that format. Throws Refusal if there isn't one.
 ImageSection& SectionOf(SetImage& image, const OrloGuid* format);
 ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id);
 

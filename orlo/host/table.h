@@ -15,10 +15,10 @@ DRAWCORE_API int TableEntryGetName(TableStruct*, uint16_t id, char* buffer, int 
 // The entry's data, whose kind is the table's: a text, a COLORREF, a graphic. The table's own; may be null.
 DRAWCORE_API void* TableEntryGetData(TableStruct*, uint16_t id);
 
-// Identifier of the first entry of that name, 0 if there is none; A to Z count like a to z. The cookie may be null.
+// Identifier of the first entry of that name, 0 if there isn't one; A to Z count like a to z. The cookie may be null.
 DRAWCORE_API uint16_t TableEntryGetIDFirst(TableStruct*, int* cookie, const char* name);
 
-// The drawing that owns the table; null if there is none.
+// The drawing that owns the table; null if there isn't one.
 DRAWCORE_API DrawingStruct* TableGetOwner(TableStruct*);
 
 // Typed variables. 0, with the value left alone, if there is none of that number and type.

@@ -47,7 +47,7 @@ ORLO_CONSTANT char kPropTextFormat[] = "TextFormat"; // 0 left, 1 centre, 2 righ
 enum {
     kGraphicPenBrush = 2, // always takes pen and brush
     kGraphicText = 6,
-    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup tells
+    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup says which
     kGraphicInsert = 0x11
 };
 

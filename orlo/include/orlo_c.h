@@ -50,7 +50,7 @@ typedef enum OrloResult {
     kOrloTooSmall = 4,    // the buffer; the size that it needs is stored
     kOrloNotFound = 5,    // no such section, property, name, stream or file
     kOrloWrongType = 6,   // the property is of another type, or its type can't hold the value
-    kOrloDamaged = 7,     // bytes that are no property set, or no sound one
+    kOrloDamaged = 7,     // bytes that are not a property set, or not a sound one
     kOrloUnsayable = 8,   // the code page of the section can't say the text
     kOrloSystem = 9,      // the system refuses: a file, a stream, a window
     kOrloNoMemory = 10,
@@ -179,7 +179,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buf
 // At the position of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
 // Into the stream of a compound file, in one step: in a copy of the file, which then takes its place. The file is made if
-// there is none; a damaged one, and one that somebody else has open, is left alone.
+// there isn't one; a damaged one, and one that somebody else has open, is left alone.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path,
                                                     const char* streamName);
 
@@ -195,11 +195,11 @@ typedef struct OrloProperty {
     uint32_t id;
     uint32_t type;
     uint32_t isComplete; // 0: the value is damaged or of a type that nobody knows; only its bytes can be had
-    size_t bytes;        // behind the type code
+    size_t bytes;        // after the type code
 } OrloProperty;
 
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count);
-// By position, from 0; kOrloNotFound behind the last one. The record's size is set before.
+// By position, from 0; kOrloNotFound after the last one. The caller sets the record's size first.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
                                                        OrloProperty* property);
@@ -210,7 +210,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloG
                                                     uint32_t* id);
 
 // Values of the first section of that format. Buffers are as of OrloPropsetSaveMemory, a text's size counts its NUL.
-// Integer: whole numbers, truths (0, 1) and file times. Real: float, double, dates. Bytes: of any type, behind its code.
+// Integer: whole numbers, truths (0, 1) and file times. Real: float, double, dates. Bytes: of any type, after its code.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       int64_t* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -220,7 +220,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGu
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     void* buffer, size_t* size);
 
-// Adds or replaces a property, with its section if there is none. A new section has the code page 65001, UTF-8; for another
+// Adds or replaces a property, with its section if there isn't one. A new section has the code page 65001, UTF-8; for another
 // one its property kOrloCodePage is set first, which takes no later change. A property that is there is replaced by one of its
 // own type only. A value that its type can't hold gives kOrloWrongType; a float is rounded. Bytes are one value of their type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -234,7 +234,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloG
 // Names a property in the dictionary of its section, which is there. A name is for one property.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
-// With its name. kOrloNotFound if there is none.
+// With its name. kOrloNotFound if there isn't one.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id);
 
 // ---- The thumbnail of a summary

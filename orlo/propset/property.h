@@ -45,7 +45,7 @@ public:
 
     // From a text: its first token (see tokens.h), or every token under VT_VECTOR. An empty text: no value, a
     // success. Numbers are read as far as they are numbers, with a "." as the decimal mark, and are 0 if they
-    // are none. VT_LPWSTR takes the token as text of the system's code page. The types of value_text.h
+    // are not numbers. VT_LPWSTR takes the token as text of the system's code page. The types of value_text.h
     // (VT_CY, VT_DATE, VT_I8, VT_FILETIME, VT_CLSID) take the forms named there; a token that has none of
     // them is refused.
     int Set(DWORD dwID, const CString& strValue, DWORD dwType);

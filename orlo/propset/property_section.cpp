@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer
+constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer than that
 
 void* ToMapped(DWORD id) {
     return reinterpret_cast<void*>(static_cast<uintptr_t>(id));

@@ -36,7 +36,7 @@ public:
     // Sets a property or adds it. The property is kept even where its value was refused (0 only for a new
     // one).
     int Set(DWORD dwPropID, void* pValue, DWORD dwType);
-    // Sets the value of a property that is there with a type other than 0; 0 if there is none.
+    // Sets the value of a property that is there with a type other than 0; 0 if there isn't one.
     int Set(DWORD dwPropID, void* pValue);
     // As CProperty::Get; null if there is no such property.
     void* Get(DWORD dwPropID, DWORD* pcb);

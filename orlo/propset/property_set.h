@@ -34,7 +34,7 @@ public:
 
     // The first section of that format ID, or null. It stays the set's.
     CPropertySection* GetSection(GUID FormatID);
-    // The section of that format ID, made at the tail if there is none.
+    // The section of that format ID, made at the tail if there isn't one.
     CPropertySection* AddSection(GUID FormatID);
     // Takes the section over, at the tail.
     void AddSection(CPropertySection* pSection);

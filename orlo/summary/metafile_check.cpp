@@ -383,7 +383,7 @@ private:
     uint64_t patternPixels_ = 0; // of all patterns so far
 };
 
-// The head's words alone tell which of the two heads it is.
+// The head's words alone show which of the two heads it is.
 struct Head {
     size_t bytes;
     int32_t xExtent, yExtent;

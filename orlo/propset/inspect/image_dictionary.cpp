@@ -50,7 +50,7 @@ std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const Name
     return raw;
 }
 
-// The name's bytes up to its NUL; false if there is none.
+// The name's bytes up to its NUL; false if there isn't one.
 bool CutAtNul(std::string_view& name, const NameForm& form) {
     const size_t unit = form.UnitSize();
     for (size_t i = 0; i + unit <= name.size(); i += unit) {
