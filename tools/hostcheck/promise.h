@@ -30,7 +30,7 @@ public:
     const Host& host;
     DrawingStruct* const drawing;
 
-    TableStruct* Table(const char* name) const; // throws Broken if there is none
+    TableStruct* Table(const char* name) const; // throws Broken if there isn't one
     TableStruct* Units() const { return drawing->pUnits; }
 
     // Throw Broken for null.

@@ -36,7 +36,7 @@ struct Report {
 Report ShowTable(const Source& source);
 // One line of JSON.
 Report ShowJson(const Source& source);
-// A line for each finding, or one that says that there is none.
+// A line for each finding, or one that says that there are none.
 Report Check(const Source& source);
 
 // Changes fields and custom properties. All of them or, after a Failure, none.
