@@ -15,7 +15,7 @@
 #include "support/scheme_colors.h"
 #include "support/test_drawing.h"
 
-// Gets what controls tell the application.
+// Receives what controls report to the application.
 class HostWindow : public CWnd {
 public:
     struct Notification {

@@ -1,4 +1,4 @@
-// What a sheet does when the host it stands on fails: in drawing, in giving values, in taking the preview's graphics.
+// What a sheet does when its host fails: while drawing, giving values, or taking the preview's graphics.
 
 #include <gtest/gtest.h>
 
