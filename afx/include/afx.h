@@ -317,8 +317,8 @@ public:
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        modeCreate = 0x1000,     // makes the file, empties one that is there
-        modeNoTruncate = 0x2000, // with modeCreate: one that is there keeps its content
+        modeCreate = 0x1000,     // makes the file, empties an existing one
+        modeNoTruncate = 0x2000, // with modeCreate: an existing one keeps its content
         typeText = 0x4000,
         typeBinary = 0x8000,
     };

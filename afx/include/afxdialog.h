@@ -5,7 +5,7 @@
 //       DDX_Check(pDX, IDC_BOLD, m_bBold);
 //   }
 //
-// When a dialog's window is there, all its descendants get WM_INITIALUPDATE, and then OnInitDialog runs,
+// Once a dialog's window exists, all its descendants get WM_INITIALUPDATE, and then OnInitDialog runs,
 // which does the first exchange: a control that fills itself at that message is filled when its value comes.
 #pragma once
 

@@ -61,7 +61,7 @@ class AFX_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
     CWnd();
-    // Destroys the window if there still is one; the derived class gets no message of that any more.
+    // Destroys the window if there still is one; the derived class no longer gets a message of that.
     ~CWnd() override;
 
     HWND m_hWnd;

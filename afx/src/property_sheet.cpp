@@ -290,7 +290,7 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->hwndFrom != m_tabRow.m_hWnd) return CWnd::OnNotify(wParam, lParam, pResult);
     if (header->code == static_cast<UINT>(TCN_SELCHANGING)) {
         *pResult = !LeaveFor(-1); // TRUE keeps the tab
-        // Wine's row goes on to the next tab all the same if it was a key: it comes back when that is done.
+        // Wine's row goes on to the next tab anyway if it was a key: it comes back when that is done.
         if (*pResult) m_tabRow.PostMessage(TCM_SETCURSEL, static_cast<WPARAM>(m_nCurPage));
         return TRUE;
     }

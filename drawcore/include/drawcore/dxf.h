@@ -17,12 +17,12 @@ typedef struct DxfListener {
 } DxfListener;
 
 // A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
-// in message (size bytes with the NUL): a file is opened as a whole or not at all. The listener may be null.
+// in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // What DrawingSaveDxf gives.
 enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
-// Flag: a file that another program has changed since the drawing was opened is overwritten all the same.
+// Flag: a file that another program has changed since the drawing was opened is overwritten anyway.
 enum { kSaveOverChanged = 1 };
 
 // Writes the drawing into a file, which may be the one that it was opened from: that file's text, in which only the groups

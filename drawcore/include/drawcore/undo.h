@@ -5,7 +5,7 @@
 //   DrawingEndUndo(drawing);        // 12 graphics changed
 //   DrawingUndo(drawing);           // all 12 are as they were
 //
-// The oldest steps go when all together take more room than they may have: what can't be taken back any more is said.
+// The oldest steps go when all together take more room than they may have: what can no longer be taken back is reported.
 //
 // Recorded are properties, attributes and vertices of the drawing's own graphics; previews and samples are not.
 #pragma once

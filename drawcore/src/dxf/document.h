@@ -70,7 +70,7 @@ struct Block {
     std::vector<Entity> entities;
 };
 
-// Something that was left out or mended; the drawing opened all the same.
+// Something that was left out or mended; the drawing was opened nevertheless.
 struct Finding {
     uint32_t line = 0; // of the file; 0: no one line
     std::string text;

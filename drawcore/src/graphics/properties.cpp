@@ -39,7 +39,7 @@ struct TextAccess {
     void (*set)(Graphic&, const char*);
 };
 
-// One property: exactly one of the three accesses is there.
+// One property: exactly one of the three accesses is set.
 struct Property {
     const char* name;
     PropertyMeaning meaning;

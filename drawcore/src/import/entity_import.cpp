@@ -68,7 +68,7 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
     if (!IsUpright(entity.normal) && std::any_of(polyline.vertices.begin(), polyline.vertices.end(),
                                                  [](const auto& v) { return v.bulge != 0; }))
         return MakeFlat(entity,
-                        Straightened(polyline)); // seen at an angle, a circle is not a circle any more
+                        Straightened(polyline)); // seen at an angle, a circle is no longer a circle
     auto graphic = std::make_unique<VertexGraphic>();
     const Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {

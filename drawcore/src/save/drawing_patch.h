@@ -1,5 +1,5 @@
 // Changes of a drawing's text, entity by entity: only the groups that carry a change are replaced, added or removed. What the
-// file format has no group for, goes into extended data under kApplication. Knows no database.
+// file format has no group for goes into extended data under kApplication. Knows no database.
 //
 //   dxf::DrawingPatch patch(text, std::move(document));
 //   dxf::Look look = patch.LookAt(entity.offset);

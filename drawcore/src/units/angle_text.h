@@ -1,7 +1,7 @@
 // Angles as text.
 //
 // Reading: "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), blanks around it. A minus counts for the
-// whole angle; the text is read whole or refused. Every form is read, whatever form the drawing writes.
+// whole angle; the text is read in full or refused. Every form is read, whatever form the drawing writes.
 #pragma once
 
 #include <string>
