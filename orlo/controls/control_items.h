@@ -25,8 +25,8 @@ public:
     // Without regard to case; -1 if not found.
     int FindExact(const char* text) const;
     int FindPrefix(const char* prefix) const;
-    // The item of that whole text, without regard to case. A text that is not in the list is added first, with add(text) if
-    // given.
+    // The item with exactly that text, without regard to case. A text that is not in the list is added first, with add(text)
+    // if given.
     int FindOrAdd(const char* text) const {
         return FindOrAdd(text, [this](const char* item) { Add(item); });
     }

@@ -63,7 +63,7 @@ ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
 
 // ---- The sheet
 
-struct HWND__; // what the system's handles point to, whether windows.h is there or not
+struct HWND__; // what the system's handles point to, with or without windows.h
 struct HBITMAP__;
 struct IStream;
 struct DrawingStruct; // the host's own, see orlo/host
@@ -76,7 +76,7 @@ typedef struct OrloFill {
     uint32_t kind;             // of the control: 0x7D00 font faces, ...; docs/host-guide.md has the list
     const char* tableName;     // which table that kind shows: "_Layers_", ...
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
-    uint32_t selected;         // entry or colour; only the style names mind it, a page chooses for the others
+    uint32_t selected;         // entry or colour; only the style names use it, a page chooses for the others
     float height;              // font heights: above 0, the one that is chosen
     const char* face;          // font faces: not null, a face that joins the list; in the system's code page
 } OrloFill;
@@ -194,7 +194,7 @@ typedef struct OrloProperty {
     uint32_t size;
     uint32_t id;
     uint32_t type;
-    uint32_t isComplete; // 0: the value is damaged or of a type that nobody knows; only its bytes can be had
+    uint32_t isComplete; // 0: the value is damaged or of an unknown type; only its bytes are available
     size_t bytes;        // after the type code
 } OrloProperty;
 
@@ -210,7 +210,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloG
                                                     uint32_t* id);
 
 // Values of the first section of that format. Buffers are as of OrloPropsetSaveMemory, a text's size counts its NUL.
-// Integer: whole numbers, truths (0, 1) and file times. Real: float, double, dates. Bytes: of any type, after its code.
+// Integer: whole numbers, Booleans (0, 1) and file times. Real: float, double, dates. Bytes: of any type, after its code.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       int64_t* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -221,7 +221,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloG
                                                     void* buffer, size_t* size);
 
 // Adds or replaces a property, with its section if there isn't one. A new section has the code page 65001, UTF-8; for another
-// one its property kOrloCodePage is set first, which takes no later change. A property that is there is replaced by one of its
+// one its property kOrloCodePage is set first, which takes no later change. An existing property is replaced by one of its
 // own type only. A value that its type can't hold gives kOrloWrongType; a float is rounded. Bytes are one value of their type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t type, int64_t value);
@@ -231,7 +231,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    uint32_t type, const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     uint32_t type, const void* data, size_t size);
-// Names a property in the dictionary of its section, which is there. A name is for one property.
+// Names a property in the dictionary of its section, which must exist. A name is for one property.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
 // With its name. kOrloNotFound if there isn't one.

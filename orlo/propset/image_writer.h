@@ -28,7 +28,7 @@ public:
     void Put16(uint16_t number) { Put(&number, sizeof number); }
     void Put32(uint32_t number) { Put(&number, sizeof number); }
     void PutZeros(size_t count) { bytes_.resize(bytes_.size() + count); }
-    // Writes over bytes that are there.
+    // Writes over existing bytes.
     void Patch(size_t at, const void* bytes, size_t size) { std::memcpy(&bytes_[at], bytes, size); }
     void Patch32(size_t at, uint32_t number) { Patch(at, &number, sizeof number); }
 

@@ -22,7 +22,7 @@ public:
 
     // Sets a property, and makes its section if need be. The result is 1.
     int Set(GUID FormatID, DWORD dwPropID, void* pValue, DWORD dwType);
-    // Sets the value of a property that is there.
+    // Sets the value of an existing property.
     int Set(GUID FormatID, DWORD dwPropID, void* pValue);
     // As CProperty::Get; null without the section or the property.
     void* Get(GUID FormatID, DWORD dwPropID, DWORD* pcb);

@@ -1,4 +1,4 @@
-// Header, colour table, run-length data: each is checked before the next is looked at.
+// Header, colour table, run-length data: each is checked before the next is read.
 
 #include "orlo/summary/dib_layout.h"
 

@@ -37,9 +37,9 @@ ORLO_API HRESULT SetSummaryInfoThumbnail(CPropertySet* pSumInfo, DWORD dwFormat,
 // Reads the summary stream. Without that stream the summary stays as it was; one that can't be read leaves it
 // cleared.
 ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
-// Writes the summary stream, over one that is there; no other element of the storage is touched, or made for the time being.
+// Writes the summary stream, over an existing one; no other element of the storage is touched, or made temporarily.
 // A set that can't be written, and a disk without room for it, leave the old summary byte for byte (E_FAIL). A stream that
-// is there and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
+// exists and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
 // least: after a shorter summary it holds zeros.
 //
 // In a transacted storage nothing is on the disk before its Commit, whose result counts: without room it fails, and the file

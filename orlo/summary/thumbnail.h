@@ -3,7 +3,7 @@
 //
 //   DrawThumbnailValue(value, size, dc, &rect)   // 1: drawn in the middle of rect, proportions kept
 //   DrawDIB(header, dc, &rect, 0)                // lines drawn: it fills rect
-//   a picture whose header promises more than there is: 0, and dc is as it was
+//   a picture whose header promises more than it has: 0, and dc is as it was
 //
 // Pictures are foreign data. Each is checked to its last record before the system sees any of it, and one
 // that doesn't pass draws nothing. The length is part of that check only where it is given: prefer

@@ -34,7 +34,7 @@ struct RawDictionary {
     size_t size;
 };
 
-// The names as far as they are there.
+// The names as far as they exist.
 std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const NameForm& form) {
     if (size < 4) return std::nullopt;
     RawDictionary raw{Load32(bytes), {}, 4};
