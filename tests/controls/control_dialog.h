@@ -76,7 +76,7 @@ public:
     static constexpr int kNoItem = -1;
 
     using Pixels::Pixels;
-    // times: drawn again over what is there.
+    // times: drawn again over what was drawn before.
     template <class Control>
     void Draw(Control& control, int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0,
               int times = 1) {

@@ -42,7 +42,7 @@ OwnedDrawing Open(const std::wstring& path, Heard& heard) {
     return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
 }
 
-// A file that is there as long as the test needs it.
+// A file that exists as long as the test needs it.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& bytes) {

@@ -47,7 +47,7 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
     }
 }
 
-// A page that cannot be read does not come up, and may be tried again.
+// A page that cannot be read does not open, and may be tried again.
 TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;

@@ -206,7 +206,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     EXPECT_EQ(1234570, Parts(1).position[0]);
 }
 
-// A preview block that is there is used; the page takes it out all the same.
+// An existing preview block is used; the page takes it out nevertheless.
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     AddDiffering();
     const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));

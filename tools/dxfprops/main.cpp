@@ -64,7 +64,7 @@ std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool a
     return made;
 }
 
-// Work on one file after the other; what fails is said and does not keep the others.
+// Work on one file after the other; a failure is reported and does not stop the others.
 template <class Work>
 int ForEach(const std::vector<std::string>& files, Work work) {
     int result = kDone;

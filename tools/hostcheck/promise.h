@@ -22,7 +22,7 @@ void Expect(bool kept, const char* format, ...) __attribute__((format(gnu_printf
 template <class T>
 using Made = std::unique_ptr<T, void (*)(T*)>;
 
-// The database that is looked at, with a drawing of it that is current.
+// The database under inspection, with a drawing of it that is current.
 class Subject {
 public:
     Subject(const Host& host, DrawingStruct* drawing);
@@ -65,5 +65,5 @@ constexpr Topic TopicOf(const Promise (&rows)[count]) {
 extern const Topic kApplicationPromises, kTablePromises, kUnitPromises, kGraphicPromises, kPropertyPromises,
     kVertexPromises, kMatrixPromises, kBlockPromises, kStylePromises, kViewPromises;
 
-// All of them: that every function is there first, then topic by topic. The order is the same in each process.
+// All of them: first that every function exists, then topic by topic. The order is the same in each process.
 const std::vector<Promise>& AllPromises();

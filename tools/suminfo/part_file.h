@@ -7,7 +7,7 @@ namespace suminfo {
 
 class PartFile {
 public:
-    // Empty, in the folder of `target` and with its permissions, if that is there. Failure if it can't be made.
+    // Empty, in the folder of `target` and with its permissions, if that exists. Failure if it can't be made.
     explicit PartFile(std::wstring target);
     // Takes it away if it hasn't taken the target's place.
     ~PartFile();
