@@ -36,7 +36,7 @@ private:
 class AFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
-    // Without a name the program's file gives it.
+    // Without a name it is that of the program's file.
     explicit CWinApp(LPCSTR lpszAppName = nullptr);
     ~CWinApp() override;
 
@@ -100,5 +100,5 @@ AFX_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = sta
 // The string nIDS with its %1 and %2 replaced.
 AFX_API void AfxFormatString1(CString& rString, UINT nIDS, LPCSTR lpsz1);
 AFX_API void AfxFormatString2(CString& rString, UINT nIDS, LPCSTR lpsz1, LPCSTR lpsz2);
-// Part iSubString of a text, the first being 0. False, and rString empty, if there are not so many.
+// Part iSubString of a text, the first being 0. False, and rString empty, if there are fewer.
 AFX_API BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep = '\n');

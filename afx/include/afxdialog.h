@@ -30,8 +30,8 @@ public:
     HWND PrepareEditCtrl(int nIDC);
     // An object that lives as long as the exchange, whatever ends it.
     void Keep(std::unique_ptr<CObject> pObject);
-    // Ends the exchange by a CUserException, the focus on the control last prepared. The user was informed
-    // before.
+    // Ends the exchange by a CUserException, the focus on the control last prepared. The user must have
+    // been informed.
     [[noreturn]] void Fail();
 
 private:

@@ -42,7 +42,7 @@ public:
     ~CCmdTarget() override;
     static const AFX_MSGMAP messageMap;
 
-    // The last user has let the object go: here deletes it.
+    // The last user has released the object: here deletes it.
     virtual void OnFinalRelease();
 
     // Runs the handler of a command (nCode CN_COMMAND) or notification, or only names it in pHandlerInfo if
@@ -76,9 +76,9 @@ public:
     // has one.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    // Gives the window its procedure back, and the window itself.
+    // Gives the window its procedure back and returns the window.
     HWND UnsubclassWindow();
-    // Stands for the look of an earlier system, which today's controls have by themselves: does nothing, says
+    // For the look of an earlier system, which today's controls have by themselves: does nothing, returns
     // TRUE.
     BOOL SubclassCtl3d(int nControlType);
 
@@ -113,7 +113,7 @@ public:
     void EndModalLoop(int nResult);
 
     // ---- Data exchange
-    // False: a check has failed, and the user was informed.
+    // False: a check has failed, and the user has been informed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // ---- Text and style
@@ -182,7 +182,7 @@ public:
         return ShowMessage(lpszText, lpszCaption, nType);
     }
 
-    // Destroys the window if there is one, which ends in PostNcDestroy; else calls that.
+    // Destroys the window if there is one, which ends in PostNcDestroy; otherwise calls that.
     void OnFinalRelease() override;
     // Help for this window: asks it and its parents by WM_COMMANDHELP, the nearest first, until one gives
     // help.
@@ -263,8 +263,8 @@ private:
 // procedure of AfxRegisterSuperWndProc for its class, else to that of the class itself.
 AFX_API WNDPROC AfxGetAfxWndProc();
 
-// Says which procedure a window goes on with that has AfxGetAfxWndProc() but no object: for window classes
-// that decide window by window whether to make one.
+// Names the procedure with which a window continues that has AfxGetAfxWndProc() but no object: for window
+// classes that decide window by window whether to make one.
 AFX_API void AfxRegisterSuperWndProc(ATOM atomClass, WNDPROC pfnSuper);
 
 // The next window made in this thread gets pWnd as its object before its first message. AfxUnhookWindowCreate
@@ -276,5 +276,5 @@ AFX_API BOOL AfxUnhookWindowCreate();
 AFX_API LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                                    HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 
-// Sets the text only if it is another one: no needless repaint.
+// Sets the text only if it differs, so that nothing is repainted needlessly.
 AFX_API void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew);
