@@ -8,8 +8,8 @@
 DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct*, const char* name);
 
 // Length text to drawing units and back, in the drawing's own unit settings. A number without a unit is in drawing units, and
-// so it is written. A text that is not wholly a length gives 0 and leaves the value alone.
-// kind: 0 a length, 1 a text size: in a drawing on paper millimetres, with the unit of text sizes in the text.
+// is written that way. A text that is not wholly a length gives 0 and leaves the value alone.
+// kind: 0 a length, 1 a text size: in a drawing on paper in millimetres, the text with the unit of text sizes.
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct*, const char* text, double* value, int kind);
 DRAWCORE_API int DrawingStdNumericToText(DrawingStruct*, double value, char* buffer, int size, int kind);
 

@@ -10,7 +10,7 @@
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits; exponentForm 1: as mantissa and exponent.
-// The buffer takes at least 32 bytes. context and reserved are always 0, trim always 1: no trailing zeros.
+// The buffer has at least 32 bytes. context and reserved are always 0, trim always 1: no trailing zeros.
 DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved,
                                  int exponentForm, int trim);
 

@@ -9,14 +9,14 @@
 //   int32_t code;
 //   if (OrloRunSheet(&sheet, &code) == kOrloOk) ...      1: OK, 2: Cancel
 //
-// The promise: within one ORLO_VERSION_MAJOR a function keeps its name, its parameters and its meaning, a number keeps its
+// Compatibility: within one ORLO_VERSION_MAJOR a function keeps its name, its parameters and its meaning, a number keeps its
 // value, and a record only grows at its end. Each record begins with its size in bytes, which the caller sets: a later library
-// takes members that are missing for 0, an earlier one refuses a record that it does not know. The C++ classes of the other
+// takes missing members as 0, an earlier one refuses a record that it does not know. The C++ classes of the other
 // headers promise nothing of the kind: they belong to one compiler and one version.
 //
-// Every function of type OrloResult gives kOrloOk or says why not, and OrloGetErrorText has the reason in words. On failure
-// nothing has changed, and what the function would store is 0, but for a size that was asked for. No exception leaves a
-// function, and no argument is followed that could be known to be wrong. Texts are UTF-8, names of files UTF-16.
+// Every function of type OrloResult returns kOrloOk or says why not, and OrloGetErrorText has the reason in words. On
+// failure nothing has changed, and what the function would store is 0, except for a size that was asked for. No exception leaves a
+// function, and arguments that can be recognised as wrong are never followed. Texts are UTF-8, names of files UTF-16.
 #pragma once
 
 #include <stddef.h>
@@ -45,7 +45,7 @@ ORLO_C_API uint32_t ORLO_CALL OrloGetVersion(void);
 typedef enum OrloResult {
     kOrloOk = 0,
     kOrloBadArgument = 1, // a null, a record of unknown size, a number out of its range
-    kOrloBadHandle = 2,   // no property set, or one that was closed
+    kOrloBadHandle = 2,   // not a property set, or one that was closed
     kOrloBadThread = 3,   // the window belongs to another thread, or another thread runs the framework
     kOrloTooSmall = 4,    // the buffer; the size that it needs is stored
     kOrloNotFound = 5,    // no such section, property, name, stream or file
@@ -57,8 +57,8 @@ typedef enum OrloResult {
     kOrloFailed = 11 // anything else
 } OrloResult;
 
-// Why the last function of this thread that failed did so: at most size bytes with the NUL. Gives the bytes that the whole text
-// needs.
+// Why the last function of this thread that failed did so: at most size bytes with the NUL. Returns the bytes that the whole
+// text needs.
 ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
 
 // ---- The sheet
@@ -81,7 +81,7 @@ typedef struct OrloFill {
     const char* face;          // font faces: not null, a face that joins the list; in the system's code page
 } OrloFill;
 
-// Called on the thread of OrloRunSheet, for each control that comes to life. It throws nothing.
+// Called on the thread of OrloRunSheet, for each control that comes to life. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
 typedef struct OrloSheet {
@@ -95,14 +95,14 @@ typedef struct OrloSheet {
     void* context;                   // handed to fill
 } OrloSheet;
 
-// Opens the sheet over the selection and comes back when the user has closed it. code: 1 after OK, 2 after Cancel, -1 if the
+// Opens the sheet over the selection and returns when the user has closed it. code: 1 after OK, 2 after Cancel, -1 if the
 // program ends meanwhile, or the code of a page (see style_end_code.h). A page that was left has written, whatever the code.
-// To be called on the thread of the owner and of the host's drawing; the program needs nothing of the framework.
+// To be called on the thread of the owner and of the host's drawing; the program need not use the framework.
 ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code);
 
 // ---- Property sets and the summaries of documents
 
-// A property set in memory. Closed ones are recognised. One set is for one thread at a time.
+// A property set in memory. Closed ones are recognised. One thread at a time may use a set.
 typedef struct OrloPropset__* OrloPropset;
 
 // Laid out as the system's GUID.
@@ -174,7 +174,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const c
                                                     OrloPropset* set);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 
-// size: the room in the buffer, then the bytes of the set. A null buffer asks for these alone and gives kOrloOk.
+// size: the room in the buffer, then the bytes of the set. A null buffer only asks for these and returns kOrloOk.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size);
 // At the position of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
@@ -231,7 +231,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    uint32_t type, const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     uint32_t type, const void* data, size_t size);
-// Names a property in the dictionary of its section, which must exist. A name is for one property.
+// Names a property in the dictionary of its section, which must exist. A name belongs to one property.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
 // With its name. kOrloNotFound if there isn't one.

@@ -15,7 +15,7 @@ class ImageWriter {
 public:
     size_t Size() const { return bytes_.size(); }
 
-    // About so many bytes will follow: room for them is made at once.
+    // About that many bytes will follow: room for them is made at once.
     void Expect(size_t size) {
         if (bytes_.capacity() - bytes_.size() < size)
             bytes_.reserve(std::max(bytes_.size() + size, 2 * bytes_.capacity()));
