@@ -9,7 +9,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// What a program hears while a drawing opens; context is handed to both, and either may be null.
+// What a program learns while a drawing opens; context is handed to both, and either may be null.
 typedef struct DxfListener {
     void* context;
     void (*progress)(void* context, int permille);              // the share done, 0 to 1000, rising
@@ -20,7 +20,7 @@ typedef struct DxfListener {
 // in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
-// What DrawingSaveDxf gives.
+// Results of DrawingSaveDxf.
 enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
 // Flag: a file that another program has changed since the drawing was opened is overwritten anyway.
 enum { kSaveOverChanged = 1 };

@@ -13,7 +13,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Colour that lies under the drawing: lines of nearly that colour are drawn black or white, so that they are seen. Without
+// Background colour of the drawing: lines of nearly that colour are drawn black or white, so that they can be seen. Without
 // this call it is the system's window colour or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 

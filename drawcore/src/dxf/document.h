@@ -72,7 +72,7 @@ struct Block {
 
 // Something that was left out or mended; the drawing was opened nevertheless.
 struct Finding {
-    uint32_t line = 0; // of the file; 0: no one line
+    uint32_t line = 0; // of the file; 0: no particular line
     std::string text;
 };
 

@@ -1,4 +1,4 @@
-// The entities of a DXF drawing as plain data: what stood in the file, angles in degrees, lengths in drawing
+// The entities of a DXF drawing as plain data: what the file contains, angles in degrees, lengths in drawing
 // units. Coordinates are as stored; where an entity has an object coordinate system, says so, and placement.h
 // converts.
 #pragma once
@@ -67,7 +67,7 @@ struct Polyline {
     Kind kind = Kind::flat;
     bool closed = false;        // in the direction of m for a mesh
     bool closedN = false;       // mesh only
-    bool dashesThrough = false; // the dash pattern goes on around corners
+    bool dashesThrough = false; // the dash pattern continues around corners
     uint32_t rows = 0;          // mesh only: vertices[row * columns + column]
     uint32_t columns = 0;
     std::vector<Vertex> vertices;

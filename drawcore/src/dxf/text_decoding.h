@@ -1,4 +1,4 @@
-// From the bytes of a drawing to texts that a person reads: code pages, and the escapes within single-line
+// From the bytes of a drawing to readable texts: code pages, and the escapes within single-line
 // texts. MTEXT has more of them: see inline_codes.h.
 #pragma once
 

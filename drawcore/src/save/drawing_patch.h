@@ -42,8 +42,8 @@ public:
     Entity EntityAt(size_t offset);
     Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
 
-    // One call for each entity at the most. placement: of an insertion, from the block's coordinates (without its base
-    // point) to those of the space that it lies in. Its attributes move with it, also those that no call follows for.
+    // At most one call for each entity. placement: of an insertion, from the block's coordinates (without its base
+    // point) to those of the space that it lies in. Its attributes move with it, even those without a call of their own.
     void Change(size_t offset, const Look& wanted, const Matrix* placement = nullptr);
 
     bool IsChanged() const { return !patch_.IsEmpty(); }
