@@ -14,7 +14,7 @@ struct HeldSet {
     bool isDamaged = false; // part of what the stream announces could not be read; it is not written again
 };
 
-// Throws Refusal for a handle that was never given or is closed.
+// Throws Refusal for a handle that was never issued or is closed.
 std::shared_ptr<HeldSet> Held(OrloPropset handle);
 // The same for a set that is to be changed or written.
 std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle);

@@ -15,8 +15,8 @@
 // headers promise nothing of the kind: they belong to one compiler and one version.
 //
 // Every function of type OrloResult returns kOrloOk or says why not, and OrloGetErrorText has the reason in words. On
-// failure nothing has changed, and what the function would store is 0, except for a size that was asked for. No exception leaves a
-// function, and arguments that can be recognised as wrong are never followed. Texts are UTF-8, names of files UTF-16.
+// failure nothing has changed, and what the function would store is 0, except for a size that was asked for. No exception
+// leaves a function, and arguments that can be recognised as wrong are never followed. Texts are UTF-8, file names UTF-16.
 #pragma once
 
 #include <stddef.h>
