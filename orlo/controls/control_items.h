@@ -3,7 +3,7 @@
 //   ControlItems items = ControlItems::OfCombo(hWnd);
 //   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection
 //
-// A window that is gone, or is another kind of control, has no items and accepts none.
+// A window that no longer exists, or is another kind of control, has no items and accepts none.
 #pragma once
 
 #include <afxwin.h>
@@ -38,7 +38,7 @@ public:
         return FindExact(text);
     }
     // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed, if
-    // there is none.
+    // there isn't one.
     bool SelectPrefix(int from, const char* prefix) const;
 
     // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them all.
