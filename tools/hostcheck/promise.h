@@ -18,7 +18,7 @@ struct Broken {
 // Throws Broken with what was found.
 void Expect(bool kept, const char* format, ...) __attribute__((format(gnu_printf, 2, 3)));
 
-// What a database has made, given back to it.
+// Owners of what a database has made.
 template <class T>
 using Made = std::unique_ptr<T, void (*)(T*)>;
 

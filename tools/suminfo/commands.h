@@ -1,4 +1,4 @@
-// What suminfo can do, one function a command. Each throws Failure when it can't do its work on a file.
+// What suminfo can do, one function per command. Each throws Failure when it can't do its work on a file.
 #pragma once
 
 #include <optional>
