@@ -1,4 +1,4 @@
-// Tables: entries under identifiers from 1 on, and variables. A table that is gone answers as an empty one.
+// Tables: entries under identifiers from 1 on, and variables. A freed table answers like an empty one.
 
 #include <cstring>
 #include <set>

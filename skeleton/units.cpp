@@ -60,7 +60,7 @@ std::string Shown(double number) {
     return text;
 }
 
-// Of a length in the drawing the unit is that of the drawing; of a paper length the millimetre.
+// A length in the drawing has the drawing's unit, a paper length the millimetre.
 double NumberUnit(uint16_t variable, const Unit& own) {
     return variable == kUnitDrawing ? own.millimetres : 1.0;
 }

@@ -162,7 +162,7 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
     return LeaveFor(nPage) && ActivatePage(nPage);
 }
 
-// Whether the active page lets itself be left for that one; -1: for good. One without a window has nothing to save.
+// Whether the active page can be left for that one; -1: for good. One without a window has nothing to save.
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;

@@ -38,7 +38,7 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
-// A number of exactly so many digits at the start of the text; false if there isn't one.
+// A number of exactly that many digits at the start of the text; false if there isn't one.
 bool ReadDigits(std::string_view text, size_t digits, int base, uint32_t& number) {
     if (text.size() < digits) return false;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + digits, number, base);
@@ -100,7 +100,7 @@ void TextDecoder::SetVersion(std::string_view version) {
 }
 
 std::string TextDecoder::Decode(std::string_view bytes) const {
-    // Programs exist that write the new version number and go on with their old code page.
+    // Programs exist that write the new version number but keep their old code page.
     if (IsAscii(bytes) || (utf8_ && IsUtf8(bytes))) return std::string(bytes);
     return page_.ToUtf8(bytes);
 }

@@ -29,7 +29,7 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
     return graphic;
 }
 
-// A width that is the same throughout is the pen's; else each segment has its own.
+// A width that is the same throughout is the pen's; otherwise each segment has its own.
 void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     if (dxf::HasOneWidth(polyline)) return;
     for (size_t i = 0; i < polyline.vertices.size(); ++i) {

@@ -28,7 +28,7 @@ Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
     return known ? known : table.Add(make(name));
 }
 
-// A pattern that a line can be drawn with; else a solid line.
+// A pattern that a line can be drawn with, or a solid line.
 std::vector<double> SoundPattern(const std::vector<double>& dashes) {
     constexpr size_t kMostItems = 64;
     double length = 0;

@@ -63,7 +63,7 @@ Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     return normal * (front * insert.scaleZ < 0 ? -1 : 1);
 }
 
-// The directions in which an array goes on.
+// The directions in which an array extends.
 Matrix AxesOf(const Entity& entity, const Insert& insert) {
     return Matrix::RotationZ(Radians(insert.rotation)) * ObjectSystem(entity.normal);
 }

@@ -130,7 +130,7 @@ void LookWriter::WriteColor(const Look& wanted) {
     const uint32_t brush = wanted.brush.color;
     RemoveOwn(kPropPenColor);
     RemoveOwn(kPropBrushColor);
-    // Of a hatch others see its brush alone.
+    // Other programs see only the brush of a hatch.
     if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
         PutColor(brush);
         OwnNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});

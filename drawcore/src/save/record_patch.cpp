@@ -102,7 +102,7 @@ void RecordPatch::Remove(int code) {
     RemoveAll(code, false);
 }
 
-// Behind the last group of those that programs write before it.
+// After the last group of those that programs write before it.
 size_t RecordPatch::CommonPlace(int code) const {
     const auto order = [](int wanted) {
         return std::find(std::begin(kCommonOrder), std::end(kCommonOrder), wanted) - kCommonOrder;

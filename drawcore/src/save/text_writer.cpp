@@ -85,7 +85,7 @@ void LookWriter::PutFace(Text& text, const FontFace& face) {
     if (!style.empty()) text.style = TextStyleIndex(drawing_.in_.textStyles.FindUtf8(style));
 }
 
-// The text hangs on the same point as before.
+// The text keeps its insertion point.
 void LookWriter::PutFormat(Text& text, uint16_t format) {
     const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center,
