@@ -27,7 +27,7 @@ Number At(const Bytes& bytes, size_t offset) {
     return number;
 }
 
-// Behind its length: tag, format, picture.
+// After its length: tag, format, picture.
 Bytes ThumbnailOf(OrloPropset set) {
     const auto held = Held(set);
     const ImageProperty& property = PropertyOf(held->image, &kOrloSummary, kOrloThumbnail);

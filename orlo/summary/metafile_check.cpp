@@ -244,7 +244,7 @@ bool ScanLinesFit(const Parameters& p) {
     return p.Count() > 9 && TaggedBitmapIn(p, 0, 9, p.Word(1));
 }
 
-// Records that hold counts of their own; of others nothing is known here.
+// Records that hold counts of their own; nothing is known here of others.
 bool ContentFits(uint16_t function, const Parameters& p) {
     switch (function) {
     case kSetPaletteEntries:
