@@ -90,7 +90,7 @@ struct PreviewOfAnother : ExchangePage {
     GraphicStruct* member;
 };
 
-// The reference database takes no graphic that is a member already.
+// The reference database refuses a graphic that is already a member.
 TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});

@@ -1,4 +1,4 @@
-// The sheet: which pages a graphic adds, finding them, results, layout, and what is given back.
+// The sheet: which pages a graphic adds, finding them, results, layout, and what is freed.
 
 #include <gtest/gtest.h>
 

@@ -133,7 +133,7 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
     EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
 }
 
-// One field changed over a selection that differs reaches all, and everything else stays each insertion's own; undo takes it back.
+// One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts it.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;

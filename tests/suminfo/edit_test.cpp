@@ -1,4 +1,4 @@
-// suminfo set, remove and copy: what was asked for is there, everything else is as it was.
+// suminfo set, remove and copy: what was asked for is done, everything else is as it was.
 
 #include <gtest/gtest.h>
 #include <set>

@@ -13,7 +13,7 @@ namespace {
 
 constexpr DWORD kWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 
-// Whoever has the file open now would go on with the old one, or write over the new one.
+// Whoever has the file open now would continue with the old one, or write over the new one.
 const std::string& Unused(const std::string& file) {
     // Some systems let an administrator write nevertheless.
     const DWORD attributes = ::GetFileAttributesW(ToWide(file).c_str());
