@@ -1,4 +1,4 @@
-// Compound files: any bytes are walked and read in bounded time and memory, and of a sound file every stream is whole.
+// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a sound file is complete.
 
 #include <cstdint>
 #include <cstdlib>

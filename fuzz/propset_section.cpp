@@ -1,4 +1,4 @@
-// One section, wherever the set's list of sections says it stands.
+// One section, wherever the set's list of sections says it is.
 
 #include <cstring>
 

@@ -51,7 +51,7 @@ int AppSetCurrentDrawing(DrawingStruct* drawing) {
     return 1;
 }
 
-// There is none: the lists of widths and heights are empty, and the user types.
+// There isn't one: the lists of widths and heights are empty, and the user types.
 int AppGetINIFileName(AppStruct*, char*, int) {
     return 0;
 }

@@ -1,4 +1,4 @@
-// What stands behind the pointers that the library gets. Records that both sides know are derived from; what only the host
+// What the pointers that the library gets refer to. Records that both sides know are derived from; what only the host
 // knows (tables, viewports, extents) is defined here as it likes.
 #pragma once
 
@@ -43,7 +43,7 @@ struct TableStruct {
     TableStruct(const TableStruct&) = delete;
     TableStruct& operator=(const TableStruct&) = delete;
 
-    // The library may still hold a table that has gone: null for that.
+    // The library may still hold a table that has been freed: null for it.
     static TableStruct* Find(TableStruct* table);
     Entry* At(uint16_t id);
     uint16_t IdOf(const char* name) const;      // 0: none
@@ -54,7 +54,7 @@ struct TableStruct {
     std::map<uint16_t, std::variant<long, double, std::string>> variables;
 };
 
-// What a graphic shows and says: what a copy has too.
+// What a graphic shows and says, which a copy has too.
 struct Content {
     std::vector<VertexStruct> vertices; // of an insertion: the origin and the ends of the axes
     uint16_t block = 0;                 // of an insertion

@@ -1,4 +1,4 @@
-// Drawings: their tables with what stands in them from the start, and a few graphics to look at.
+// Drawings: their tables with the entries that they start with, and a few graphics to look at.
 
 #include <new>
 

@@ -41,7 +41,7 @@ bool UpTo(double value) {
     return value <= most;
 }
 
-// One of the three members is there.
+// One of the three members is set.
 struct Property {
     const char* name;
     int owners;

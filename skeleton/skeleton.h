@@ -8,7 +8,7 @@
 
 #include "orlo/host/host.h"
 
-// A drawing with its tables, a rectangle, a text, a block and an insertion of it. Null if there is no memory.
+// A drawing with its tables, a rectangle, a text, a block and an insertion of it. Null if memory runs out.
 DRAWCORE_API DrawingStruct* DrawingNew(void);
 // Frees the drawing with all that it owns and clears the pointer.
 DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);

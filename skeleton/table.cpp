@@ -1,4 +1,4 @@
-// Tables: entries under identifiers from 1 on, and variables. A table that is gone answers as an empty one.
+// Tables: entries under identifiers from 1 on, and variables. A freed table answers like an empty one.
 
 #include <cstring>
 #include <set>
@@ -38,7 +38,7 @@ uint16_t TableStruct::IdOf(const char* name) const {
 }
 
 uint16_t TableStruct::Add(const char* name, Entry rest) {
-    constexpr uint16_t kHighest = 0xFFF0; // markers stand above
+    constexpr uint16_t kHighest = 0xFFF0; // the numbers above are markers
     const uint16_t id = entries.empty() ? uint16_t{1} : static_cast<uint16_t>(entries.rbegin()->first + 1);
     if (!*name || IdOf(name) || id > kHighest) return 0;
     rest.name = name;

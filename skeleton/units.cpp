@@ -33,7 +33,7 @@ const char* SkipBlanks(const char* text) {
     return text + std::strspn(text, " \t");
 }
 
-// A number and nothing else, in the unit that it names or else in that one. False: the text is none.
+// A number and nothing else, in the unit that it names or else in that one. False: the text is anything else.
 bool ReadLength(const char* text, const Unit& customary, double& millimetres) {
     char* end = nullptr;
     const double number = ::StringToDouble(0, text, &end);
@@ -47,7 +47,7 @@ bool ReadLength(const char* text, const Unit& customary, double& millimetres) {
     return std::isfinite(millimetres);
 }
 
-// A text that does not fit is none.
+// A text that does not fit is refused: cut off, it would be another one.
 int Give(const std::string& text, char* buffer, int size) {
     if (text.size() >= static_cast<size_t>(std::max(size, 0))) return 0;
     CopyText(text, buffer, size);
@@ -60,7 +60,7 @@ std::string Shown(double number) {
     return text;
 }
 
-// Of a length in the drawing the unit is that of the drawing; of a paper length the millimetre.
+// A length in the drawing has the drawing's unit, a paper length the millimetre.
 double NumberUnit(uint16_t variable, const Unit& own) {
     return variable == kUnitDrawing ? own.millimetres : 1.0;
 }
@@ -73,7 +73,7 @@ uint16_t NumberIn(uint16_t space) {
 
 double StringToDouble(int, const char* text, char** end) {
     const char* first = SkipBlanks(text);
-    // The runtime reads "inf", "nan" and hexadecimal numbers, which are none here.
+    // The runtime reads "inf", "nan" and hexadecimal numbers, which are not numbers here.
     const size_t length = std::strspn(first, "+-.0123456789eE");
     const std::string plain(first, length);
     char* stop = nullptr;

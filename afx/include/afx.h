@@ -154,7 +154,7 @@ public:
     int Compare(LPCSTR lpsz) const;
     int CompareNoCase(LPCSTR lpsz) const;
 
-    // Parts out of range are cut to what there is.
+    // Parts out of range are cut to the text.
     CString Mid(int nFirst) const;
     CString Mid(int nFirst, int nCount) const;
     CString Left(int nCount) const;
@@ -165,7 +165,7 @@ public:
     void TrimLeft();
     void TrimRight();
 
-    // Index of the first (last) match, -1 if there is none.
+    // Index of the first (last) match, -1 if there isn't one.
     int Find(char ch) const;
     int Find(LPCSTR lpszSub) const;
     int ReverseFind(char ch) const;
@@ -222,7 +222,7 @@ inline bool operator<(const CString& a, const CString& b) {
 
 // ---- Exceptions
 
-// Thrown by pointer. Who catches one and does not throw it on calls Delete.
+// Thrown by pointer. Whoever catches one and does not rethrow it calls Delete.
 class AFX_API CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
@@ -261,7 +261,7 @@ public:
 #endif
 };
 
-// A resource, or a window or GDI object made from one, is not to be had.
+// A resource, or a window or GDI object made from one, is not available.
 class AFX_API CResourceException : public CException {
     DECLARE_DYNAMIC(CResourceException)
 public:
@@ -309,7 +309,7 @@ public:
 // ---- Buffered files
 
 // A file of the C library. Text unless typeBinary is given. Failures of reading, writing and seeking are
-// thrown as CFileException; what the destructor closes is closed in silence.
+// thrown as CFileException; the destructor closes without reporting failures.
 class AFX_API CStdioFile : public CObject {
     DECLARE_DYNAMIC(CStdioFile)
 public:
@@ -317,8 +317,8 @@ public:
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        modeCreate = 0x1000,     // makes the file, empties one that is there
-        modeNoTruncate = 0x2000, // with modeCreate: one that is there keeps its content
+        modeCreate = 0x1000,     // makes the file, empties an existing one
+        modeNoTruncate = 0x2000, // with modeCreate: an existing one keeps its content
         typeText = 0x4000,
         typeBinary = 0x8000,
     };

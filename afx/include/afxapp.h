@@ -23,7 +23,7 @@ public:
     BOOL PumpMessage();
 
     // An exception that a message handler has thrown; the result is the message's. Shows its text, unless the
-    // user was told. What a window throws in painting itself or its items is shown once.
+    // user has been informed. What a window throws while painting itself or its items is shown once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:
@@ -36,7 +36,7 @@ private:
 class AFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
-    // Without a name the program's file gives it.
+    // Without a name it is that of the program's file.
     explicit CWinApp(LPCSTR lpszAppName = nullptr);
     ~CWinApp() override;
 
@@ -90,7 +90,7 @@ AFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmd
 // framework.
 // The module that has it; the program's own if none has.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType);
-// The length copied, 0 if there is no such string: then the buffer is empty.
+// The length copied; 0, with an empty buffer, if there is no such string.
 AFX_API int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf = 256);
 
 // ---- Messages to the user
@@ -100,5 +100,5 @@ AFX_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = sta
 // The string nIDS with its %1 and %2 replaced.
 AFX_API void AfxFormatString1(CString& rString, UINT nIDS, LPCSTR lpsz1);
 AFX_API void AfxFormatString2(CString& rString, UINT nIDS, LPCSTR lpsz1, LPCSTR lpsz2);
-// Part iSubString of a text, the first being 0. False, and rString empty, if there are not so many.
+// Part iSubString of a text, the first being 0. False, and rString empty, if there are fewer.
 AFX_API BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep = '\n');

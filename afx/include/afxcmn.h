@@ -22,7 +22,7 @@ public:
             SendMessage(TCM_GETITEMRECT, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(lpRect)));
     }
     int GetCurSel() const { return static_cast<int>(SendMessage(TCM_GETCURSEL)); }
-    // Tells nobody: see CPropertySheet::SetActivePage.
+    // Notifies nobody: see CPropertySheet::SetActivePage.
     int SetCurSel(int nItem) {
         return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(nItem)));
     }

@@ -1,5 +1,5 @@
-// Collections: a list of objects, maps by number and by text, an array of words. Owns no object that is put
-// in. Maps give their entries in the order in which the keys were first set.
+// Collections: a list of objects, maps by number and by text, an array of words. They do not own the objects
+// put in. Maps return their entries in the order in which the keys were first set.
 #pragma once
 
 #include <afx.h>
@@ -70,7 +70,7 @@ public:
     CObject* GetNext(POSITION& rPosition) const;
     CObject* GetPrev(POSITION& rPosition) const;
     CObject* GetAt(POSITION position) const;
-    // First place of that very object, null if it is not in the list.
+    // First position of that very object, null if it is not in the list.
     POSITION Find(const CObject* searchValue) const;
 
 private:

@@ -5,7 +5,7 @@
 //       DDX_Check(pDX, IDC_BOLD, m_bBold);
 //   }
 //
-// When a dialog's window is there, all its descendants get WM_INITIALUPDATE, and then OnInitDialog runs,
+// Once a dialog's window exists, all its descendants get WM_INITIALUPDATE, and then OnInitDialog runs,
 // which does the first exchange: a control that fills itself at that message is filled when its value comes.
 #pragma once
 
@@ -30,8 +30,8 @@ public:
     HWND PrepareEditCtrl(int nIDC);
     // An object that lives as long as the exchange, whatever ends it.
     void Keep(std::unique_ptr<CObject> pObject);
-    // Ends the exchange by a CUserException, the focus on the control last prepared. The user was informed
-    // before.
+    // Ends the exchange by a CUserException, the focus on the control last prepared. The user must have
+    // been informed.
     [[noreturn]] void Fail();
 
 private:
@@ -60,8 +60,8 @@ public:
     explicit CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    // Modeless. The template is searched along the chain of modules. False: none found, or no window was
-    // made.
+    // Modeless. The template is searched along the chain of modules. False: there is no such template, or the
+    // window could not be made.
     BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     BOOL Create(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     using CWnd::Create;

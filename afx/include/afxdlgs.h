@@ -7,7 +7,7 @@
 //       Use(colors);
 //
 // A page's window is made when the page is first activated. A page is left only if its OnKillActive, which
-// saves by its exchange, says so: else the sheet stays on it. OK leaves the active page and calls its OnOK;
+// saves by its exchange, allows it: otherwise the sheet stays on it. OK leaves the active page and calls its OnOK;
 // the other pages have saved when they were left. Cancel calls OnCancel of all pages that have a window.
 #pragma once
 
@@ -27,11 +27,11 @@ public:
     explicit CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption = 0);
     ~CPropertyPage() override;
 
-    // Tells the sheet, whose Apply button is enabled while a page is modified.
+    // Notifies the sheet, whose Apply button is enabled while a page is modified.
     void SetModified(BOOL bChanged = TRUE);
 
-    // The page comes to the front. Here: makes its window if there is none yet; false on failure. A page whose first
-    // exchange fails has none: the user was informed why.
+    // The page comes to the front. Here: makes its window if there isn't one yet; false on failure. A page whose first
+    // exchange fails has none: the user has been informed why.
     virtual BOOL OnSetActive();
     // The page is to be left. Here: saves; false if a check has failed.
     virtual BOOL OnKillActive();
@@ -43,7 +43,7 @@ public:
 protected:
     BOOL m_bChanged;
     HINSTANCE m_hTemplateModule; // the one module that has the template; null: searched along the chain
-    // The fields of its combo boxes scroll, whatever the template says: else what is typed beyond their width is dropped.
+    // The fields of its combo boxes scroll, whatever the template says: otherwise text beyond their width is dropped.
     BOOL m_bScrollingCombos;
 
     DECLARE_MESSAGE_MAP()
@@ -102,7 +102,7 @@ public:
     int GetPageIndex(const CPropertyPage* pPage) const; // -1: not in this sheet
     int GetActiveIndex() const { return m_nCurPage; }
     CPropertyPage* GetActivePage() const; // null: none is active
-    // False: the active page did not let itself be left, or the new one could not be made. The sheet is as
+    // False: the active page could not be left, or the new one could not be made. The sheet is as
     // before.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);

@@ -98,7 +98,7 @@ class AFX_API CPen : public CGdiObject {
     DECLARE_DYNAMIC(CPen)
 public:
     CPen();
-    // Throws a CResourceException if there is no such pen to be had.
+    // Throws a CResourceException if no such pen can be made.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     ~CPen() override;
     static CPen* FromHandle(HPEN hPen);
@@ -110,7 +110,7 @@ class AFX_API CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 public:
     CBrush();
-    // Throws a CResourceException if there is no such brush to be had.
+    // Throws a CResourceException if no such brush can be made.
     explicit CBrush(COLORREF crColor);
     ~CBrush() override;
     static CBrush* FromHandle(HBRUSH hBrush);

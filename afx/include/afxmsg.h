@@ -47,7 +47,7 @@ enum AfxSig : UINT {
 
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;
-    UINT nCode; // of a control notification; CN_COMMAND else
+    UINT nCode; // of a control notification; CN_COMMAND otherwise
     UINT nID;   // commands and notifications: from nID to nLastID
     UINT nLastID;
     UINT nSig;

@@ -1,4 +1,4 @@
-// CCmdTarget and CWnd: an object with a message map, and one that stands for a window.
+// CCmdTarget and CWnd: an object with a message map, and one that represents a window.
 //
 // A CWnd and its window find each other by the permanent map, from Create, Attach or SubclassWindow until the
 // window is destroyed or Detach is called. FromHandle makes a temporary object for a window that has none:
@@ -42,11 +42,11 @@ public:
     ~CCmdTarget() override;
     static const AFX_MSGMAP messageMap;
 
-    // The last user has let the object go: here deletes it.
+    // The last user has released the object: here deletes it.
     virtual void OnFinalRelease();
 
     // Runs the handler of a command (nCode CN_COMMAND) or notification, or only names it in pHandlerInfo if
-    // given. False: there is none.
+    // given. False: there isn't one.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
     // The hourglass; calls nest.
@@ -61,7 +61,7 @@ class AFX_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
     CWnd();
-    // Destroys the window if there still is one; the derived class gets no message of that any more.
+    // Destroys the window if there still is one; the derived class no longer gets a message of that.
     ~CWnd() override;
 
     HWND m_hWnd;
@@ -76,9 +76,9 @@ public:
     // has one.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    // Gives the window its procedure back, and the window itself.
+    // Gives the window its procedure back and returns the window.
     HWND UnsubclassWindow();
-    // Stands for the look of an earlier system, which today's controls have by themselves: does nothing, says
+    // For the look of an earlier system, which today's controls have by themselves: does nothing, returns
     // TRUE.
     BOOL SubclassCtl3d(int nControlType);
 
@@ -113,7 +113,7 @@ public:
     void EndModalLoop(int nResult);
 
     // ---- Data exchange
-    // False: a check has failed, and the user was informed.
+    // False: a check has failed, and the user has been informed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // ---- Text and style
@@ -160,7 +160,7 @@ public:
 
     // ---- Family
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    // The outermost frame window around this one, owners included; null if there is none.
+    // The outermost frame window around this one, owners included; null if there isn't one.
     CFrameWnd* GetTopLevelFrame() const;
     CFrameWnd* GetParentFrame() const;
     virtual BOOL IsFrameWnd() const;
@@ -182,7 +182,7 @@ public:
         return ShowMessage(lpszText, lpszCaption, nType);
     }
 
-    // Destroys the window if there is one, which ends in PostNcDestroy; else calls that.
+    // Destroys the window if there is one, which ends in PostNcDestroy; otherwise calls that.
     void OnFinalRelease() override;
     // Help for this window: asks it and its parents by WM_COMMANDHELP, the nearest first, until one gives
     // help.
@@ -204,7 +204,7 @@ protected:
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // A message about this window that its parent has got (owner drawing). Non-zero: handled.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    // The last call for a window; the object has none any more. An object on the heap may delete itself here.
+    // The last call for a window, which the object no longer has. An object on the heap may delete itself here.
     virtual void PostNcDestroy();
     virtual void DoDataExchange(CDataExchange* pDX);
 
@@ -263,8 +263,8 @@ private:
 // procedure of AfxRegisterSuperWndProc for its class, else to that of the class itself.
 AFX_API WNDPROC AfxGetAfxWndProc();
 
-// Says which procedure a window goes on with that has AfxGetAfxWndProc() but no object: for window classes
-// that decide window by window whether to make one.
+// Names the procedure with which a window continues that has AfxGetAfxWndProc() but no object: for window
+// classes that decide window by window whether to make one.
 AFX_API void AfxRegisterSuperWndProc(ATOM atomClass, WNDPROC pfnSuper);
 
 // The next window made in this thread gets pWnd as its object before its first message. AfxUnhookWindowCreate
@@ -276,5 +276,5 @@ AFX_API BOOL AfxUnhookWindowCreate();
 AFX_API LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                                    HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 
-// Sets the text only if it is another one: no needless repaint.
+// Sets the text only if it differs, so that nothing is repainted needlessly.
 AFX_API void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew);

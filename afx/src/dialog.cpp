@@ -65,7 +65,7 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     try {
         return OnInitDialog();
     } catch (...) {
-        EndDialog(-1); // no half of a dialog comes up
+        EndDialog(-1); // half a dialog is not shown
         throw;
     }
 }

@@ -179,7 +179,7 @@ std::vector<BYTE> AfxDialogTemplate::AsPage(bool scrollingCombos) const {
     MakePageStyle(style, exStyle);
     std::memcpy(&copy[styleAt], &style, sizeof style);
     std::memcpy(&copy[exStyleAt], &exStyle, sizeof exStyle);
-    // Its place is the sheet's to say; the size after the place stays.
+    // The sheet determines its place; the size after the place stays.
     const std::size_t placeAt = (IsExtended() ? sizeof(ExtendedHead) : 2 * sizeof(DWORD)) + sizeof(WORD);
     std::memset(&copy[placeAt], 0, 2 * sizeof(WORD));
     if (scrollingCombos && !IsExtended()) ScrollCombos(copy);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The window that a box is to stand before.
+// The window that a box is to appear in front of.
 HWND BoxOwner() {
     HWND active = ::GetActiveWindow();
     if (active != nullptr) return active;

@@ -23,7 +23,7 @@ HINSTANCE OwnModule() {
     return module;
 }
 
-// Asks the modules in the order of search until one says yes; that one, or null.
+// Asks the modules in the order of search until one agrees; returns that one, or null.
 template <class Has>
 HINSTANCE FindModule(Has has) {
     if (has(AfxGetInstanceHandle())) return AfxGetInstanceHandle();

@@ -162,15 +162,15 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
     return LeaveFor(nPage) && ActivatePage(nPage);
 }
 
-// Whether the active page lets itself be left for that one; -1: for good. One without a window has nothing to save.
+// Whether the active page can be left for that one; -1: for good. One without a window has nothing to save.
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
     return active->OnKillActive();
 }
 
-// The active page has been left, or there was none: that one comes. If it does not, the one before is as it
-// was.
+// The active page has been left, or there was none: the given page comes to the front. If it can't, the one
+// before it stays as it was.
 bool CPropertySheet::ActivatePage(int nPage) {
     const int before = m_nCurPage;
     CPropertyPage* page = GetPage(nPage);
@@ -290,7 +290,7 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->hwndFrom != m_tabRow.m_hWnd) return CWnd::OnNotify(wParam, lParam, pResult);
     if (header->code == static_cast<UINT>(TCN_SELCHANGING)) {
         *pResult = !LeaveFor(-1); // TRUE keeps the tab
-        // Wine's row goes on to the next tab all the same if it was a key: it comes back when that is done.
+        // Wine's row goes on to the next tab anyway if it was a key: it comes back when that is done.
         if (*pResult) m_tabRow.PostMessage(TCM_SETCURSEL, static_cast<WPARAM>(m_nCurPage));
         return TRUE;
     }

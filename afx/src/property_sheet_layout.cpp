@@ -1,4 +1,4 @@
-// CPropertySheet: its tab row and buttons, where they stand, and the frame around the page.
+// CPropertySheet: its tab row and buttons, their places, and the frame around the page.
 
 #include <afxapp.h>
 #include <afxdlgs.h>

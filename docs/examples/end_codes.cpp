@@ -1,4 +1,4 @@
-// The sheet over a style, until it ends with a code that is none of a style's.
+// The sheet over a style, until it ends with a code that does not concern a style.
 
 #include <memory>
 

@@ -23,7 +23,7 @@ void UnitCalls(DrawingStruct* drawing) {
     // An angle in degrees: 1.570796, and "90".
     DrawingStdTextToAngle(drawing, "90", &value, 0);
     DrawingStdAngleToText(drawing, value, text, sizeof text, 0);
-    // A scale: 48, and "1 : 48"; 0.0 is none.
+    // A scale: 48, and "1 : 48"; 0.0 is not a scale.
     value = UnitsGetScaleValue(units, "1 : 48");
     UnitsMakeScaleString(units, 48, text, sizeof text);
     // A plain number, to its end; six digits, mantissa and exponent if exponentForm is 1.

@@ -15,13 +15,13 @@ struct Refusal {
 };
 
 [[noreturn]] void Refuse(OrloResult result, const char* text);
-// With the system's text of that error; null for what goes before.
+// The reason is `what`, a colon and the system's text of that error.
 [[noreturn]] void RefuseBySystem(long error, const char* what);
 
 // Runs the work of one function. Whatever is thrown in it becomes the answer.
 OrloResult Answer(const std::function<void()>& work);
 
-// A pointer that has to be there.
+// A pointer that must not be null.
 template <class T>
 T& Given(T* pointer, const char* name) {
     if (pointer == nullptr) Refuse(kOrloBadArgument, (std::string(name) + " is null").c_str());

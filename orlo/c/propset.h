@@ -14,7 +14,7 @@ struct HeldSet {
     bool isDamaged = false; // part of what the stream announces could not be read; it is not written again
 };
 
-// Throws Refusal for a handle that was never given or is closed.
+// Throws Refusal for a handle that was never issued or is closed.
 std::shared_ptr<HeldSet> Held(OrloPropset handle);
 // The same for a set that is to be changed or written.
 std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle);
@@ -22,7 +22,7 @@ OrloPropset Hold(HeldSet set);
 void Release(OrloPropset handle);
 
 const GUID& AsGuid(const OrloGuid& format);
-// Of the first section of that format. Throws Refusal if there is none.
+// Of the first section of that format. Throws Refusal if there isn't one.
 ImageSection& SectionOf(SetImage& image, const OrloGuid* format);
 ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id);
 

@@ -151,7 +151,7 @@ void WriteInto(IStorage& storage, const std::wstring& name, const Bytes& bytes) 
 void SaveInCopy(const wchar_t* path, const std::wstring& name, const Bytes& bytes) {
     const DWORD attributes = ::GetFileAttributesW(path);
     const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
-    // Some systems let an administrator replace it all the same.
+    // Some systems let an administrator replace it nevertheless.
     if (isThere && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
         Refuse(kOrloSystem, "the file is read-only and was left alone");
     const std::wstring file = isThere ? WritableFile(path) : path;

@@ -16,8 +16,8 @@ namespace {
 
 constexpr uint32_t kLargest = 8192;     // pixels on a side
 constexpr double kVectorSide = 256;     // the longer side of a picture that has no size in pixels
-constexpr size_t kLengthSize = 4;       // in front of the value
-constexpr size_t kPictureOffset = 8;    // behind tag and format
+constexpr size_t kLengthSize = 4;       // before the value
+constexpr size_t kPictureOffset = 8;    // after tag and format
 constexpr uint32_t kColor = 0x00FFFFFF; // of a pixel; the rest is its alpha
 
 template <class Number>
@@ -27,7 +27,7 @@ Number At(const Bytes& bytes, size_t offset) {
     return number;
 }
 
-// Behind its length: tag, format, picture.
+// After its length: tag, format, picture.
 Bytes ThumbnailOf(OrloPropset set) {
     const auto held = Held(set);
     const ImageProperty& property = PropertyOf(held->image, &kOrloSummary, kOrloThumbnail);

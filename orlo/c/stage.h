@@ -28,7 +28,7 @@ private:
 // One at a time on a thread, or one inside the other. Throws Refusal.
 class Stage {
 public:
-    // owner may be null; else it is a window of this thread.
+    // owner may be null; otherwise it is a window of this thread.
     Stage(HWND owner, Announced announced);
     ~Stage();
     Stage(const Stage&) = delete;

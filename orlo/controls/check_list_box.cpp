@@ -152,7 +152,7 @@ int CCheckListBox::ItemFromPoint(CPoint point, int bPastEnd) {
     return bPastEnd ? count : -1;
 }
 
-// A window that is taken over has rows that the parent has measured without this object. One in the making measures them
+// A window that is taken over has rows that the parent has measured without this object. One being created measures them
 // later, and does not know the message yet.
 void CCheckListBox::PreSubclassWindow() {
     ::SendMessageA(m_hWnd, LB_SETITEMHEIGHT, 0, ItemHeight());

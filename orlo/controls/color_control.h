@@ -2,13 +2,13 @@
 // names.
 //
 // Its table's entries hold a COLORREF as data; m_nSelected and the items' numbers are colours, not
-// identifiers. A colour that is in no item is shown all the same in the closed field, by its numbers. These
+// identifiers. A colour that no item has is still shown in the closed field, by its numbers. These
 // values are markers:
 //
 //   kColorNone, kColorIndeterminate  no value yet, several values: both show nothing
 //   kColorByLayer            first extra entry, by the host's text
 //   kColorOfPen              second extra entry, by the host's text
-//   kColorByBlock            shown if it comes up; no list offers it
+//   kColorByBlock            shown if it occurs; no list offers it
 //
 // The current row of the open list is marked by two frames, of which one can be seen on any colour. A disabled field is a grey
 // name in a frame of its colour.

@@ -88,7 +88,7 @@ BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
     return CComboBox::PreCreateWindow(cs);
 }
 
-// Called for a window in the making and for one that is taken over, whose rows the parent has measured without an object
+// Called for a window being created and for one that is taken over, whose rows the parent has measured without an object
 // and whose WM_INITIALUPDATE is over.
 void CComboControl::PreSubclassWindow() {
     if (std::exchange(m_beingMade, false)) return;

@@ -52,7 +52,7 @@ public:
     virtual unsigned long GetControlItem(int index, char* text);
     // lParam: const ControlFillRecord*; null counts as a record without a table.
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
-    // Adds an item of that whole text; its index, negative on failure.
+    // Adds an item with exactly that text; its index, negative on failure.
     virtual int AddControlItem(const char* text);
 
     unsigned int m_nControlID;

@@ -8,7 +8,7 @@
 #include <windows.h>
 
 // Registers both classes for the module, global to the process. A global class of another module (a second copy of the
-// library) stays, and this one is the module's own: only its dialogs get it. The result is 1 if both are there, else 0.
+// library) stays, and this one is the module's own: only its dialogs get it. The result is 1 if both exist, else 0.
 int RegisterControlClasses(HINSTANCE module);
-// Before the module goes; no window of the classes is left.
+// Before the module is unloaded; no window of the classes may be left.
 void UnregisterControlClasses(HINSTANCE module);

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// Made at the first call; null if it cannot be made, and tried again at the next.
+// Made at the first call; null if it cannot be made, in which case the next call tries again.
 HFONT SharedControlFont();
 
 // At process detach.

@@ -16,7 +16,7 @@ constexpr int kKeySize = 9;          // eight digits and the tab, or the NUL
 constexpr int kEntryNameSize = 0x80; // names longer than this are cut by the host
 constexpr int kItemTextSize = 0x90;  // the longest item text with its NUL
 
-// Takes an item text apart in place: the number is the result, the name is left in the buffer. A text without
+// Splits an item text in place: the number is the result, the name is left in the buffer. A text without
 // a tab gives 0 and stays as it is.
 ORLO_API unsigned long ParseControlItem(char* item);
 
@@ -37,7 +37,7 @@ constexpr bool IsNoEntry(unsigned int id) {
     return id == kEntryNone || id == kEntryIndeterminate;
 }
 
-// An item text in the making.
+// An item text under construction.
 class ItemText {
 public:
     // Digits and tab of that number; the name is still empty.

@@ -3,7 +3,7 @@
 //   ControlItems items = ControlItems::OfCombo(hWnd);
 //   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection
 //
-// A window that is gone, or is another kind of control, has no items and accepts none.
+// A window that no longer exists, or is another kind of control, has no items and accepts none.
 #pragma once
 
 #include <afxwin.h>
@@ -25,8 +25,8 @@ public:
     // Without regard to case; -1 if not found.
     int FindExact(const char* text) const;
     int FindPrefix(const char* prefix) const;
-    // The item of that whole text, without regard to case. A text that is not in the list is added first, with add(text) if
-    // given.
+    // The item with exactly that text, without regard to case. A text that is not in the list is added first, with add(text)
+    // if given.
     int FindOrAdd(const char* text) const {
         return FindOrAdd(text, [this](const char* item) { Add(item); });
     }
@@ -38,7 +38,7 @@ public:
         return FindExact(text);
     }
     // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed, if
-    // there is none.
+    // there isn't one.
     bool SelectPrefix(int from, const char* prefix) const;
 
     // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them all.

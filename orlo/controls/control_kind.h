@@ -1,5 +1,5 @@
 // The kinds of the library's controls, by which they announce themselves, and the table that each kind shows. A kind is not
-// the identifier of a control in its dialog (control_ids.h): all combos of line styles have the same.
+// the identifier of a control in its dialog (control_ids.h): all combos of line styles have the same kind.
 #pragma once
 
 #include "orlo/host/words.h"

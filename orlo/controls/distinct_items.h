@@ -1,4 +1,4 @@
-// Fills a control with texts that come more than once, each of which it is to show once. Internal to the library.
+// Fills a control with texts that may occur more than once, and shows each once. Internal to the library.
 #pragma once
 
 #include <afxwin.h>
@@ -13,7 +13,7 @@ public:
     // The control is empty.
     explicit DistinctItems(const ControlItems& items) : items_(items) {}
 
-    // Adds the text unless it has been added before, in whatever case.
+    // Adds the text unless it has been added before, in any case.
     void Add(const char* text) {
         if (added_.insert(text).second) items_.Add(text);
     }

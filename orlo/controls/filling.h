@@ -27,6 +27,5 @@ private:
 };
 
 // Height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font if that is
-// larger; asked once in a filling. A list of
-// variable row height wants it for every item that is added.
+// larger; determined once per filling. A list of variable row height asks for it with every item that is added.
 int RowTextHeight(HWND window);

@@ -26,7 +26,7 @@ public:
     unsigned int m_nControlID;
     int m_nHeight =
         320; // given to the window at WM_INITIALUPDATE, in pixels at 96 dpi; at a higher resolution
-             // it is the template's room between these pixels and as many as they are there
+             // it is the template's room, between these pixels and the same size scaled
     unsigned long m_dwStyle = 0;     // window style at the creation
     int m_bAutoDelete = 0;           // the object goes with its window
     TableStruct* m_pTable = nullptr; // the host's

@@ -1,4 +1,4 @@
-// What an item of a combo whose items are plain names, with no key, is drawn from. Internal to the library.
+// What is needed to draw an item of a combo whose items are plain names without a key. Internal to the library.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

@@ -2,7 +2,7 @@
 // names.
 //
 // The host fills it with a table of blocks and the identifier of one of them. Blocks are of one tree if the pszStyleName of
-// their graphics is the same text; a block without one has no tree and lists nothing. Where the host has it drawn, the
+// their graphics is the same text; a block without one has no tree and lists nothing. If the control is owner-drawn, the
 // current row of the open list is marked by a frame.
 #pragma once
 

@@ -49,7 +49,7 @@ bool BeginsWith(const char* name, const std::string& prefix) {
     return std::memcmp(start, prefix.data(), size) == 0;
 }
 
-// The first item from that one on, going round, whose name begins so; -1 without one.
+// The first item from that one on, wrapping around, whose name begins with it; -1 without one.
 int FindName(const ControlItems& items, const std::string& prefix, int from) {
     char text[kItemTextSize];
     const int count = items.Count();

@@ -53,6 +53,6 @@ ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, unsigned short* pMember,
 ORLO_API void DDP_EndBits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
 // Saving: carries out the records and stamps every selected graphic with the page's number. What a write throws ends that
-// property, not the others; a CException is dropped. Afterwards one message box says how many of the graphics did not take
+// property, not the others; a CException is dropped. Afterwards one message box says how many of the graphics did not accept
 // a value (PropSet gave 0, or threw), and what else was thrown.
 ORLO_API void DDP_PostProcessing(CDataExchange* pDX);

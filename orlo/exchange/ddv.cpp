@@ -10,7 +10,7 @@ namespace {
 constexpr double kLargest = 1e38;
 constexpr double kSmallestFontSize = 1e-7;
 
-// Limits go through long: every width here has 32 bits at the most, and the format distinguishes signed
+// Limits go through long: every width here has at most 32 bits, and the format distinguishes signed
 // from unsigned.
 template <class Whole>
 int CheckWhole(int bReport, CDataExchange* pDX, Whole value, Whole min, Whole max, const char* format) {

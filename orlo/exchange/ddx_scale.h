@@ -7,7 +7,7 @@
 #include "orlo/host/records.h"
 
 // The combo's items are scale texts in falling order of scale. In both directions the scale of `text` is
-// selected; one that is in no list is inserted at its place, one that equals an item's takes over the item's
+// selected; one that is not in the list is inserted at its place, one that equals an item's takes over the item's
 // text.
 //   text     the scale as text, in the form of the drawing's units
 //   units    the drawing's unit table

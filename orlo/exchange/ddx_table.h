@@ -23,13 +23,13 @@ ORLO_API int FillListBoxTable(CListBox* pList, TableStruct* pTable, unsigned int
 ORLO_API int FillComboStringTable(CComboBox* pCombo, unsigned int nIDS, int nCount);
 
 // Controls whose items begin with the identifier in hexadecimal digits. Saving an empty selection leaves the
-// variable alone. Loading an identifier that is in no item leaves the selection alone and makes the key the
+// variable alone. Loading an identifier that no item has leaves the selection alone and makes the key the
 // window text, which no control draws.
 ORLO_API int DDX_LBTableIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value);
 ORLO_API int DDX_CBTableIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value);
 
-// The same with a 32-bit key, such as a colour. A key that is in no item clears the selection; of equal ones
-// the last counts.
+// The same with a 32-bit key, such as a colour. A key that no item has clears the selection; the last of
+// equal ones counts.
 ORLO_API int DDX_CBTableColor(int bReport, CDataExchange* pDX, int nIDC, unsigned long& value);
 
 // A CComboControl whose items hold plain names; the identifier comes from the control's own table. 0 and

@@ -5,7 +5,7 @@
 
 #include "orlo/export.h"
 
-// Whole numbers. Blanks around the number are allowed, nothing else is; of a text of 32 characters and more
+// Integers. Only blanks are allowed around the number; of a text of 32 characters or more
 // the first 31 count. A number beyond 32 bits gives the limit. The 8-bit form refuses what is above 255; the
 // 16-bit form keeps the low 16 bits.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);

@@ -1,5 +1,5 @@
-// Exchange of lengths and angles with edit controls, as the drawing writes them. See ddx.h for the convention; a bad text
-// shows no message of its own.
+// Exchange of lengths and angles with edit controls, as the drawing writes them. See ddx.h for the convention; an invalid
+// text shows no message of its own.
 //
 //   DDX_TextPaperMM(1, pDX, 104, m_dGap, drawing, 0);    // the field "1/4 in" saves 6.35
 //

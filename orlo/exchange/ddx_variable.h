@@ -45,5 +45,5 @@ ORLO_API int DDX_CBVarIndex(int bReport, CDataExchange* pDX, unsigned int nIDC, 
                             unsigned long nID, int nBase, int nMax, int nDefault);
 
 // The scale of a drawing in a combo of scales: see DDX_CBScale. A text that is not a scale leaves the drawing's unchanged; the
-// result is 1 all the same.
+// result is still 1.
 ORLO_API int DDX_CBVarScale(int bReport, CDataExchange* pDX, unsigned int nIDC, DrawingStruct* pDrawing);

@@ -23,7 +23,7 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
     char* end = nullptr;
     const long result =
         isUnsigned ? static_cast<long>(std::strtoul(first, &end, 10)) : std::strtol(first, &end, 10);
-    // Zero must be written as a zero: so an empty text is refused, and a lone sign.
+    // Zero must be written as a zero: an empty text or a lone sign is refused.
     if (result == 0 && *first != '0') return false;
     if (*SkipBlanks(end) != '\0') return false;
     value = result;

@@ -1,4 +1,4 @@
-// The import and export macro of the host's functions. Plain C, like all of host.h that is not said to be C++; no window header.
+// The import and export macro of the host's functions. Plain C, like all of host.h not marked as C++; no window header.
 #pragma once
 
 #ifdef __cplusplus

@@ -4,12 +4,12 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// The table of that name (kTableLineStyles, kTableBrushStyles, ...), the drawing's own; null if there is none.
+// The table of that name (kTableLineStyles, kTableBrushStyles, ...), the drawing's own; null if there isn't one.
 DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct*, const char* name);
 
 // Length text to drawing units and back, in the drawing's own unit settings. A number without a unit is in drawing units, and
-// so it is written. A text that is not wholly a length gives 0 and leaves the value alone.
-// kind: 0 a length, 1 a text size: in a drawing on paper millimetres, with the unit of text sizes in the text.
+// is written that way. A text that is not wholly a length gives 0 and leaves the value alone.
+// kind: 0 a length, 1 a text size: in a drawing on paper in millimetres, the text with the unit of text sizes.
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct*, const char* text, double* value, int kind);
 DRAWCORE_API int DrawingStdNumericToText(DrawingStruct*, double value, char* buffer, int size, int kind);
 
@@ -19,7 +19,7 @@ DRAWCORE_API int DrawingStdTextToAngle(DrawingStruct*, const char* text, double*
 DRAWCORE_API int DrawingStdAngleToText(DrawingStruct*, double value, char* buffer, int size, int reserved);
 
 // The scale of the drawing on paper, in the words that it was set in. Setting gives 0, with nothing changed, for a text that
-// is no scale.
+// is not a scale.
 DRAWCORE_API int DrawingGetScaleString(DrawingStruct*, char* buffer, int size);
 DRAWCORE_API int DrawingSetScaleString(DrawingStruct*, const char* text);
 

@@ -7,7 +7,7 @@
 // Makes a graphic of that type that belongs to nobody. reserved is 0, flags is 1. Null on failure.
 DRAWCORE_API GraphicStruct* GraphicNewEx(int type, int reserved, int flags);
 
-// Frees the graphic with its parts and clears the pointer. It has left its owner before.
+// Frees the graphic with its parts and clears the pointer. It must have left its owner.
 DRAWCORE_API void GraphicDispose(GraphicStruct** graphic);
 
 // A copy of the graphic with copies of its parts, that belongs to nobody; of a set, a group with copies of its members.
@@ -18,8 +18,8 @@ DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct*, int reserved1, int res
 DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
 DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
 
-// Makes child a part of parent, which then owns it; gives the child, or null if it was not taken. GraphicDelete takes it out
-// again.
+// Makes child a part of parent, which then owns it; returns the child, or null if it was not accepted. GraphicDelete removes
+// it again.
 DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
 DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
 

@@ -8,5 +8,5 @@
 DRAWCORE_API uint32_t LayerGetColor(DrawingStruct*, uint16_t id);
 // Non-zero if the layer is neither off nor frozen; what is on it is drawn and can be picked.
 DRAWCORE_API int LayerGetVisible(DrawingStruct*, uint16_t id);
-// Non-zero if the layer is locked: what is on it is drawn, and not picked.
+// Non-zero if the layer is locked: what is on it is drawn, but can't be picked.
 DRAWCORE_API int LayerGetReadOnly(DrawingStruct*, uint16_t id);

@@ -8,8 +8,8 @@ typedef struct MatrixStruct {
     double at[4][4];
 } MatrixStruct;
 
-// Each call gives a new matrix, which MatrixDispose frees: the given one (null: the identity), followed by the step. The
-// given one stays the caller's. reserved is 0. Null if there is no memory.
+// Each call returns a new matrix, which MatrixDispose frees: the given one (null: the identity), followed by the step. The
+// given one remains the caller's. reserved is 0. Null if memory runs out.
 DRAWCORE_API MatrixStruct* MatrixScale(const MatrixStruct*, const VertexStruct* factors, int reserved);
 // Radians; a positive angle about z turns x to y, about x turns y to z, about y turns z to x.
 DRAWCORE_API MatrixStruct* MatrixRotateX(const MatrixStruct*, double angle, int reserved);

@@ -5,7 +5,7 @@
 
 #include "orlo/host/api.h"
 
-// A block of that size, null if there is no memory; DrawCoreDispose takes it back (null is harmless).
+// A block of that size, null if memory runs out; DrawCoreDispose frees it (null is harmless).
 DRAWCORE_API void* DrawCoreNew(size_t size);
 DRAWCORE_API void DrawCoreDispose(void* block);
 

@@ -18,7 +18,7 @@ public:
 
     const char* Get() const { return text_; }
     const char* OrEmpty() const { return text_ ? text_ : ""; }
-    // For a call of the host that makes a string; a former one is released by the host.
+    // For a call of the host that makes a string; the host releases an earlier one.
     char** Variable() { return &text_; }
 
 private:

@@ -88,8 +88,8 @@ static_assert(offsetof(VertexStruct, y) == 0x20);
 static_assert(offsetof(VertexStruct, z) == 0x28);
 #endif
 
-// Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only. PropSet gives 0 if the
-// graphic does not take the value; the user is then told how many graphics could not be changed.
+// Slots of a graphic's property table. The number that PropLookup returns is valid for that graphic only. PropSet returns 0
+// if the graphic does not accept the value; a message then says how many graphics could not be changed.
 //
 // Value types are the OLE Automation variant type numbers. PropGet fills, and PropSet gets a pointer to:
 //   3, 0x13     32 bits

@@ -4,7 +4,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Number of items of the style's dash list, at most 8: of a longer one the first 8 count. 0 or 1 is a solid line.
+// Number of items of the style's dash list, at most 8: only the first 8 of a longer one are used. 0 or 1 is a solid line.
 DRAWCORE_API int LineStyleGetDLItems(TableStruct*, uint16_t id);
 // Copies that many items (drawing units at scale 1): a positive item is a dash, a negative one a gap, 0 a dot. 0, with
 // nothing copied, if there is no such style.
@@ -12,7 +12,7 @@ DRAWCORE_API int LineStyleGetPattern(TableStruct*, uint16_t id, double* pattern)
 
 // What a brush style is. Set: the style is a vector pattern; clear: a bitmap.
 ORLO_CONSTANT uint16_t kBrushVector = 1;
-// The second bit says of a vector pattern that it has lines, and of a bitmap that it takes the brush colour.
+// The second bit: a vector pattern has lines; a bitmap takes the brush colour.
 ORLO_CONSTANT uint16_t kBrushHasLines = 2;
 ORLO_CONSTANT uint16_t kBrushTakesColor = 2;
 

@@ -4,13 +4,13 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Number at the start of the text, behind blanks; *end is the first character behind it (the text itself if there is none, or
-// none that a double holds). The decimal mark is the host's, here and in all other texts.
+// Number at the start of the text, after blanks; *end is the first character after it (the text itself if there is no
+// number, or none that a double holds). The decimal mark is the host's, here and in all other texts.
 // context is always 0.
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits; exponentForm 1: as mantissa and exponent.
-// The buffer takes at least 32 bytes. context and reserved are always 0, trim always 1: no trailing zeros.
+// The buffer has at least 32 bytes. context and reserved are always 0, trim always 1: no trailing zeros.
 DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved,
                                  int exponentForm, int trim);
 
@@ -24,7 +24,7 @@ DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint1
 DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value,
                                       char* buffer, int size, int reserved, int suffix);
 
-// A drawing scale ("1 in = 1 ft", "1 : 48") as a factor; 0.0 if the text is no scale. And back.
+// A drawing scale ("1 in = 1 ft", "1 : 48") as a factor; 0.0 if the text is not a scale. And back.
 DRAWCORE_API double UnitsGetScaleValue(TableStruct* units, const char* text);
 DRAWCORE_API int UnitsMakeScaleString(TableStruct* units, double scale, char* buffer, int size);
 

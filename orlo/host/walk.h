@@ -15,7 +15,7 @@
 
 namespace orlo::host {
 
-// Step: has First() and Next(), which give a value, or one that is false at the end.
+// Step: has First() and Next(), which return a value, false at the end.
 template <class Step>
 class Walk {
 public:

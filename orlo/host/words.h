@@ -47,7 +47,7 @@ ORLO_CONSTANT char kPropTextFormat[] = "TextFormat"; // 0 left, 1 centre, 2 righ
 enum {
     kGraphicPenBrush = 2, // always takes pen and brush
     kGraphicText = 6,
-    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup tells
+    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup says which
     kGraphicInsert = 0x11
 };
 
@@ -67,14 +67,14 @@ enum {
 ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFBu; // all, and the General page has its style part
 
-// Markers among the colours, which are 0x00bbggrr else.
+// Markers among the colours, which are 0x00bbggrr otherwise.
 ORLO_CONSTANT uint32_t kColorIndeterminate = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kColorNone = 0xFFFFFFFEu;
 ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
 ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // of a brush
 
-// Markers among the line styles, which are entries of kTableLineStyles else.
+// Markers among the line styles, which are entries of kTableLineStyles otherwise.
 enum {
     kLineStyleNone = 0,
     kLineStyleByBlock = 65533,
@@ -82,7 +82,7 @@ enum {
     kLineStyleIndeterminate = 65535
 };
 
-// Of the brush styles, which are entries of kTableBrushStyles else.
+// A marker among the brush styles, which are entries of kTableBrushStyles otherwise.
 enum { kBrushStyleNone = 0, kBrushStyleIndeterminate = 65535 };
 
 // What the width of a pen means.

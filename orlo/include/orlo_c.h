@@ -9,14 +9,14 @@
 //   int32_t code;
 //   if (OrloRunSheet(&sheet, &code) == kOrloOk) ...      1: OK, 2: Cancel
 //
-// The promise: within one ORLO_VERSION_MAJOR a function keeps its name, its parameters and its meaning, a number keeps its
+// Compatibility: within one ORLO_VERSION_MAJOR a function keeps its name, its parameters and its meaning, a number keeps its
 // value, and a record only grows at its end. Each record begins with its size in bytes, which the caller sets: a later library
-// takes members that are missing for 0, an earlier one refuses a record that it does not know. The C++ classes of the other
+// takes missing members as 0, an earlier one refuses a record that it does not know. The C++ classes of the other
 // headers promise nothing of the kind: they belong to one compiler and one version.
 //
-// Every function of type OrloResult gives kOrloOk or says why not, and OrloGetErrorText has the reason in words. On failure
-// nothing has changed, and what the function would store is 0, but for a size that was asked for. No exception leaves a
-// function, and no argument is followed that could be known to be wrong. Texts are UTF-8, names of files UTF-16.
+// Every function of type OrloResult returns kOrloOk or says why not, and OrloGetErrorText has the reason in words. On
+// failure nothing has changed, and what the function would store is 0, except for a size that was asked for. No exception
+// leaves a function, and arguments that can be recognised as wrong are never followed. Texts are UTF-8, file names UTF-16.
 #pragma once
 
 #include <stddef.h>
@@ -45,25 +45,25 @@ ORLO_C_API uint32_t ORLO_CALL OrloGetVersion(void);
 typedef enum OrloResult {
     kOrloOk = 0,
     kOrloBadArgument = 1, // a null, a record of unknown size, a number out of its range
-    kOrloBadHandle = 2,   // no property set, or one that was closed
+    kOrloBadHandle = 2,   // not a property set, or one that was closed
     kOrloBadThread = 3,   // the window belongs to another thread, or another thread runs the framework
     kOrloTooSmall = 4,    // the buffer; the size that it needs is stored
     kOrloNotFound = 5,    // no such section, property, name, stream or file
     kOrloWrongType = 6,   // the property is of another type, or its type can't hold the value
-    kOrloDamaged = 7,     // bytes that are no property set, or no sound one
+    kOrloDamaged = 7,     // bytes that are not a property set, or not a sound one
     kOrloUnsayable = 8,   // the code page of the section can't say the text
     kOrloSystem = 9,      // the system refuses: a file, a stream, a window
     kOrloNoMemory = 10,
     kOrloFailed = 11 // anything else
 } OrloResult;
 
-// Why the last function of this thread that failed did so: at most size bytes with the NUL. Gives the bytes that the whole text
-// needs.
+// Why the last function of this thread that failed did so: at most size bytes with the NUL. Returns the bytes that the whole
+// text needs.
 ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
 
 // ---- The sheet
 
-struct HWND__; // what the system's handles point to, whether windows.h is there or not
+struct HWND__; // what the system's handles point to, with or without windows.h
 struct HBITMAP__;
 struct IStream;
 struct DrawingStruct; // the host's own, see orlo/host
@@ -76,12 +76,12 @@ typedef struct OrloFill {
     uint32_t kind;             // of the control: 0x7D00 font faces, ...; docs/host-guide.md has the list
     const char* tableName;     // which table that kind shows: "_Layers_", ...
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
-    uint32_t selected;         // entry or colour; only the style names mind it, a page chooses for the others
+    uint32_t selected;         // entry or colour; only the style names use it, a page chooses for the others
     float height;              // font heights: above 0, the one that is chosen
     const char* face;          // font faces: not null, a face that joins the list; in the system's code page
 } OrloFill;
 
-// Called on the thread of OrloRunSheet, for each control that comes to life. It throws nothing.
+// Called on the thread of OrloRunSheet, for each control that comes to life. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
 typedef struct OrloSheet {
@@ -95,14 +95,14 @@ typedef struct OrloSheet {
     void* context;                   // handed to fill
 } OrloSheet;
 
-// Opens the sheet over the selection and comes back when the user has closed it. code: 1 after OK, 2 after Cancel, -1 if the
+// Opens the sheet over the selection and returns when the user has closed it. code: 1 after OK, 2 after Cancel, -1 if the
 // program ends meanwhile, or the code of a page (see style_end_code.h). A page that was left has written, whatever the code.
-// To be called on the thread of the owner and of the host's drawing; the program needs nothing of the framework.
+// To be called on the thread of the owner and of the host's drawing; the program need not use the framework.
 ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code);
 
 // ---- Property sets and the summaries of documents
 
-// A property set in memory. Closed ones are recognised. One set is for one thread at a time.
+// A property set in memory. Closed ones are recognised. One thread at a time may use a set.
 typedef struct OrloPropset__* OrloPropset;
 
 // Laid out as the system's GUID.
@@ -174,12 +174,12 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const c
                                                     OrloPropset* set);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 
-// size: the room in the buffer, then the bytes of the set. A null buffer asks for these alone and gives kOrloOk.
+// size: the room in the buffer, then the bytes of the set. A null buffer only asks for these and returns kOrloOk.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size);
 // At the position of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
 // Into the stream of a compound file, in one step: in a copy of the file, which then takes its place. The file is made if
-// there is none; a damaged one, and one that somebody else has open, is left alone.
+// there isn't one; a damaged one, and one that somebody else has open, is left alone.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path,
                                                     const char* streamName);
 
@@ -194,12 +194,12 @@ typedef struct OrloProperty {
     uint32_t size;
     uint32_t id;
     uint32_t type;
-    uint32_t isComplete; // 0: the value is damaged or of a type that nobody knows; only its bytes can be had
-    size_t bytes;        // behind the type code
+    uint32_t isComplete; // 0: the value is damaged or of an unknown type; only its bytes are available
+    size_t bytes;        // after the type code
 } OrloProperty;
 
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count);
-// By position, from 0; kOrloNotFound behind the last one. The record's size is set before.
+// By position, from 0; kOrloNotFound after the last one. The caller sets the record's size first.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
                                                        OrloProperty* property);
@@ -210,7 +210,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloG
                                                     uint32_t* id);
 
 // Values of the first section of that format. Buffers are as of OrloPropsetSaveMemory, a text's size counts its NUL.
-// Integer: whole numbers, truths (0, 1) and file times. Real: float, double, dates. Bytes: of any type, behind its code.
+// Integer: whole numbers, Booleans (0, 1) and file times. Real: float, double, dates. Bytes: of any type, after its code.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       int64_t* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -220,8 +220,8 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGu
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     void* buffer, size_t* size);
 
-// Adds or replaces a property, with its section if there is none. A new section has the code page 65001, UTF-8; for another
-// one its property kOrloCodePage is set first, which takes no later change. A property that is there is replaced by one of its
+// Adds or replaces a property, with its section if there isn't one. A new section has the code page 65001, UTF-8; for another
+// one its property kOrloCodePage is set first, which takes no later change. An existing property is replaced by one of its
 // own type only. A value that its type can't hold gives kOrloWrongType; a float is rounded. Bytes are one value of their type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t type, int64_t value);
@@ -231,10 +231,10 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    uint32_t type, const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     uint32_t type, const void* data, size_t size);
-// Names a property in the dictionary of its section, which is there. A name is for one property.
+// Names a property in the dictionary of its section, which must exist. A name belongs to one property.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
-// With its name. kOrloNotFound if there is none.
+// With its name. kOrloNotFound if there isn't one.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id);
 
 // ---- The thumbnail of a summary

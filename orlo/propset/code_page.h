@@ -1,5 +1,5 @@
-// Code pages: 8-bit text of a numbered code page to UTF-8 and to 16-bit text, and back. No text is ever
-// guessed.
+// Code pages: 8-bit text of a numbered code page to UTF-8 and to 16-bit text, and back. Never guesses
+// at a text.
 #pragma once
 
 #include <cstddef>

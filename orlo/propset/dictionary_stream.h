@@ -14,7 +14,7 @@ namespace orlo {
 DWORD StoredNameSize(const CString& name);
 void AppendName(ImageWriter& image, DWORD id, const CString& name);
 
-// The next entry; false if it falls short or its name is longer than 256 bytes (characters for a wide one). A
+// The next entry; false if it is cut short or its name is longer than 256 bytes (characters for a wide one). A
 // wide name that the system's code page can't represent is empty.
 bool ReadName(StreamReader& reader, uint32_t& id, CString& name);
 bool ReadWideName(StreamReader& reader, uint32_t& id, CString& name);

@@ -15,7 +15,7 @@ class ImageWriter {
 public:
     size_t Size() const { return bytes_.size(); }
 
-    // About so many bytes will follow: room for them is made at once.
+    // About that many bytes will follow: room for them is made at once.
     void Expect(size_t size) {
         if (bytes_.capacity() - bytes_.size() < size)
             bytes_.reserve(std::max(bytes_.size() + size, 2 * bytes_.capacity()));
@@ -28,7 +28,7 @@ public:
     void Put16(uint16_t number) { Put(&number, sizeof number); }
     void Put32(uint32_t number) { Put(&number, sizeof number); }
     void PutZeros(size_t count) { bytes_.resize(bytes_.size() + count); }
-    // Writes over bytes that are there.
+    // Writes over existing bytes.
     void Patch(size_t at, const void* bytes, size_t size) { std::memcpy(&bytes_[at], bytes, size); }
     void Patch32(size_t at, uint32_t number) { Patch(at, &number, sizeof number); }
 

@@ -37,7 +37,7 @@ public:
 
     // From memory. pValue points to the value (fixed sizes), a plain text that ends with NUL (text types; the
     // length is added here), the length and bytes (counted bytes), or the complete stored block (vectors: the
-    // element count, then the elements in stored form). It is copied. Null, or type 0: no value, and that is
+    // element count, then the elements in stored form). It is copied. Null, or type 0: no value, which is
     // a success.
     int Set(DWORD dwID, void* const pValue, DWORD dwType);
     int Set(void* const pValue, DWORD dwType);
@@ -45,7 +45,7 @@ public:
 
     // From a text: its first token (see tokens.h), or every token under VT_VECTOR. An empty text: no value, a
     // success. Numbers are read as far as they are numbers, with a "." as the decimal mark, and are 0 if they
-    // are none. VT_LPWSTR takes the token as text of the system's code page. The types of value_text.h
+    // are not numbers. VT_LPWSTR takes the token as text of the system's code page. The types of value_text.h
     // (VT_CY, VT_DATE, VT_I8, VT_FILETIME, VT_CLSID) take the forms named there; a token that has none of
     // them is refused.
     int Set(DWORD dwID, const CString& strValue, DWORD dwType);
@@ -70,7 +70,7 @@ public:
     // VT_EMPTY.
     int WriteToStream(IStream* pStream);
     // Leaves the stream directly after the value, before its padding. 0 if the value is not there in full:
-    // then what came of it stays, the rest of the block is zero; a length out of all proportion to the stream
+    // then what was read of it stays, the rest of the block is zero; a length out of all proportion to the stream
     // leaves no value.
     int ReadFromStream(IStream* pStream);
     // The same as items of a resource script; the number of bytes that they stand for, or 0.

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer
+constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer than that
 
 void* ToMapped(DWORD id) {
     return reinterpret_cast<void*>(static_cast<uintptr_t>(id));
@@ -299,7 +299,7 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
     return left == 0;
 }
 
-// A value that can't be read leaves its property without it, and the section goes on.
+// A value that can't be read leaves its property without one, and reading continues.
 void CPropertySection::ReadProperty(orlo::StreamReader& reader, DWORD dwPropID) {
     auto property = std::make_unique<CProperty>(dwPropID, nullptr, VT_EMPTY);
     property->ReadFrom(reader);
@@ -314,8 +314,8 @@ int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
     return result;
 }
 
-// Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes has
-// not.
+// Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes
+// does not.
 bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
     CProperty* codePage = GetProperty(orlo::kCodePageId);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;

@@ -36,7 +36,7 @@ public:
     // Sets a property or adds it. The property is kept even where its value was refused (0 only for a new
     // one).
     int Set(DWORD dwPropID, void* pValue, DWORD dwType);
-    // Sets the value of a property that is there with a type other than 0; 0 if there is none.
+    // Sets the value of an existing property with a type other than 0; 0 if there isn't one.
     int Set(DWORD dwPropID, void* pValue);
     // As CProperty::Get; null if there is no such property.
     void* Get(DWORD dwPropID, DWORD* pcb);
@@ -68,12 +68,12 @@ public:
     // Writes at the stream's position, and leaves it after the section. Nothing is written if a property has
     // a type without a form on the stream.
     int WriteToStream(IStream* pStream);
-    // Reads the section at the stream's position; liBase is the position of the head of the set. What can't
-    // be read of a value leaves its property without it; 0 only if the table itself falls short. Names are
-    // added to those that are there. At most four times the stream's size is read in all, so that values laid
-    // over one another end somewhere.
+    // Reads the section at the stream's position; liBase is the position of the head of the set. A value
+    // that can't be read leaves its property without one; 0 only if the table itself is cut short. Names are
+    // added to those already there. At most four times the stream's size is read in all, so that overlapping
+    // values come to an end.
     int ReadFromStream(IStream* pStream, LARGE_INTEGER liBase);
-    // The dictionary at the stream's position. Reading: 0 if it falls short or a name is longer than 256
+    // The dictionary at the stream's position. Reading: 0 if it is cut short or a name is longer than 256
     // bytes; the names before that stay. Names in 16-bit characters, as others write them under code page
     // 1200, are read as well; one that the system's code page can't represent is left out.
     int WriteNameDictToStream(IStream* pStream);

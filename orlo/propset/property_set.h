@@ -5,8 +5,8 @@
 //   set.WriteToStream(stream);             // 1
 //   set.Set(other, 2, title);              // 0: no such section, and no type to make the property with
 //
-// A set begins at position 0 of its stream. Byte order and format version of a stream are read and not
-// judged; who wants to know what a foreign stream is worth asks ReadSetImage (set_image.h).
+// A set begins at position 0 of its stream. Byte order and format version of a stream are read but not
+// judged; to check a foreign stream use ReadSetImage (set_image.h).
 #pragma once
 
 #include <afxcoll.h>
@@ -20,9 +20,9 @@ public:
     explicit CPropertySet(GUID clsID);
     ~CPropertySet() override;
 
-    // Sets a property, and makes its section if need be. The result is 1.
+    // Sets a property, and makes its section if necessary. The result is 1.
     int Set(GUID FormatID, DWORD dwPropID, void* pValue, DWORD dwType);
-    // Sets the value of a property that is there.
+    // Sets the value of an existing property.
     int Set(GUID FormatID, DWORD dwPropID, void* pValue);
     // As CProperty::Get; null without the section or the property.
     void* Get(GUID FormatID, DWORD dwPropID, DWORD* pcb);
@@ -34,7 +34,7 @@ public:
 
     // The first section of that format ID, or null. It stays the set's.
     CPropertySection* GetSection(GUID FormatID);
-    // The section of that format ID, made at the tail if there is none.
+    // The section of that format ID, made at the tail if there isn't one.
     CPropertySection* AddSection(GUID FormatID);
     // Takes the section over, at the tail.
     void AddSection(CPropertySection* pSection);
@@ -55,7 +55,7 @@ public:
 
     // In one Write, so that a set that can't be written leaves the stream as it was; a short write gives 0.
     int WriteToStream(IStream* pStream);
-    // Replaces all sections. 0 if the header or the list of sections falls short; a damaged section stays in
+    // Replaces all sections. 0 if the header or the list of sections is cut short; a damaged section stays in
     // the list with what could be read of it. The position of the stream is undefined afterwards.
     int ReadFromStream(IStream* pStream);
 

@@ -14,7 +14,7 @@ constexpr size_t kSetHeadSize = 28;     // byte order, versions, class, count of
 constexpr size_t kSectionLineSize = 20; // of the list of sections: format ID and offset
 constexpr size_t kSectionHeadSize = 8;  // size and count of properties
 constexpr size_t kPropertyLineSize = 8; // of a section's table: ID and offset
-constexpr size_t kTypeSize = 4;         // in front of a value
+constexpr size_t kTypeSize = 4;         // before a value
 constexpr uint32_t kDictionaryId = 0;
 
 inline bool IsSame(const GUID& a, const GUID& b) {

@@ -19,7 +19,7 @@ namespace orlo {
 
 namespace {
 
-// The number at the start, held within 32 bits; 0 if there is none.
+// The number at the start, held within 32 bits; 0 if there isn't one.
 int32_t WholeNumber(const char* token) {
     return static_cast<int32_t>(
         std::clamp<long long>(std::strtoll(token, nullptr, 10), INT32_MIN, INT32_MAX));

@@ -22,7 +22,7 @@ public:
 
     // Reads and moves on; less than asked for only at the end or where the stream fails.
     size_t Read(void* to, size_t size);
-    // False if fewer than four bytes came.
+    // False if fewer than four bytes could be read.
     bool Read32(uint32_t& number) { return Read(&number, sizeof number) == sizeof number; }
 
     // Takes that many bytes from the reader's allowance: four times the stream's size (and a page). What a

@@ -19,7 +19,7 @@ using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
 using SampleViewport = orlo::host::OwnedViewport;
 
 // Ties the sample to the drawing that owns the table of its styles; without a table unties it, so that a
-// drawing that the host closes is left in time. makeGraphic is called if the control has been given a table
+// drawing is released before the host closes it. makeGraphic is called if the control has been given a table
 // before it has a sample.
 template <class MakeGraphic>
 void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table,
@@ -31,7 +31,7 @@ void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct*
     if (viewport) ViewportSetDrawing(viewport.get(), drawing);
 }
 
-// Draws the sample as it is styled now, fitted into the cell (device pixels). dc comes back as it was.
+// Draws the sample as it is styled now, fitted into the cell (device pixels). dc is left as it was.
 void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell);
 
 // Width of the sample in drawing units.

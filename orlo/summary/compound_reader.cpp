@@ -113,7 +113,7 @@ private:
     std::array<uint8_t, 512> header_ = {};
     CompoundState state_ = CompoundState::foreign;
     size_t sectorBytes_ = 0;
-    uint64_t sectors_ = 0;    // that the file has room for; a last one that was cut is one all the same
+    uint64_t sectors_ = 0;    // that the file has room for; a last one that was cut counts too
     uint64_t sharedLeft_ = 0; // sectors that streams may still have together
     SectorTable table_, shortTable_;
     std::vector<uint32_t> shortStreams_; // sectors of the stream that the short ones lie in
@@ -285,7 +285,7 @@ void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
     AddLost(entries, seen);
 }
 
-// Entries that nothing leads to: a link of the tree was damaged, and their streams may be whole.
+// Entries that nothing leads to: a link of the tree was damaged, and their streams may be intact.
 void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen) {
     size_t lost = 0;
     for (size_t id = 0; id < entries.size(); ++id) {

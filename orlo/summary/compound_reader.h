@@ -1,9 +1,9 @@
 // A compound file read without the system: its streams, and everything in its structure that is damaged. On damage the
-// system's own reader may turn for ever or die. Needs no window header.
+// system's own reader may loop for ever or crash. Needs no window header.
 //
 //   CompoundReader file(reader, size);
 //   if (file.State() == CompoundState::sound) ...   // the system may open it, and write into it
-//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // what there is, of a damaged file too
+//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever there is, even in a damaged file
 #pragma once
 
 #include <cstddef>
@@ -19,7 +19,7 @@
 namespace orlo {
 
 enum class CompoundState {
-    foreign, // no compound file
+    foreign, // not a compound file
     sound,
     torn, // streams lack sectors or share them, names are wrong: the system can read it, and nothing should be written
     unsafe // header, tables or directory are damaged, or a chain is a circle: not for the system

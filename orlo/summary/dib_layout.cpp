@@ -1,4 +1,4 @@
-// Header, colour table, run-length data: each is checked before the next is looked at.
+// Header, colour table, run-length data: each is checked before the next is read.
 
 #include "orlo/summary/dib_layout.h"
 
@@ -22,7 +22,7 @@ constexpr uint32_t kBitFields = 3;
 
 constexpr size_t kMaskBytes = 12;
 constexpr uint32_t kMostColours = 256;
-// A few bytes of run-length data can name any number of pixels, and the system gives each its memory: a limit
+// A few bytes of run-length data can name any number of pixels, and the system allocates memory for each: a limit
 // is needed.
 constexpr uint64_t kMostRunLengthPixels = 1u << 24;
 

@@ -244,7 +244,7 @@ bool ScanLinesFit(const Parameters& p) {
     return p.Count() > 9 && TaggedBitmapIn(p, 0, 9, p.Word(1));
 }
 
-// Records that hold counts of their own; of others nothing is known here.
+// Records that hold counts of their own; nothing is known here of others.
 bool ContentFits(uint16_t function, const Parameters& p) {
     switch (function) {
     case kSetPaletteEntries:
@@ -383,7 +383,7 @@ private:
     uint64_t patternPixels_ = 0; // of all patterns so far
 };
 
-// The head's words alone tell which of the two heads it is.
+// The head's words alone show which of the two heads it is.
 struct Head {
     size_t bytes;
     int32_t xExtent, yExtent;

@@ -1,11 +1,10 @@
 // Reads the head of a metafile picture and checks every record after it, so that the system can play them.
 // Plays nothing and needs no window header.
 //
-// What passes: all records lie inside the metafile, every count inside a record (points, text, bitmap,
-// palette, region) lies inside the record, every object that is used has a slot, all
-// patterns together have no more than 16 million pixels, and the state that is restored was saved by the same
-// metafile. Sizes that depend on the mapping are the player's matter. Records that no table here knows pass: the system skips what it
-// doesn't know.
+// A metafile passes if all records lie inside it, every count inside a record (points, text, bitmap, palette,
+// region) lies inside the record, every object that is used has a slot, all patterns together have no more than
+// 16 million pixels, and the state that is restored was saved by the same metafile. Sizes that depend on the
+// mapping are left to the player. Records that no table here knows pass: the system skips what it doesn't know.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Plays a metafile whose records were checked, and holds within bounds what they ask of the system.
+// Plays a metafile whose records have been checked, and limits what they ask of the system.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,7 @@ namespace orlo {
 
 // Plays the records into dc, whose mapping gives the picture its place.
 //
-// Passed over: what would change the palette of the whole system, what only a device of its own would
+// Skipped: what would change the palette of the whole system, what only a device of its own would
 // understand, and what would take the system more memory than a picture is worth: shapes that reach far beyond
 // every screen, very wide pens, and text once the glyphs of the picture are large enough to fill one many times.
 void PlayPicture(HDC dc, HMETAFILE metafile);

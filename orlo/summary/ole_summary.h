@@ -3,12 +3,12 @@
 //
 //   CPropertySet* summary = OleStdInitSummaryInfo(1252);
 //   OleStdSetStringProperty(summary, PIDSI_TITLE, "Ground floor");   // 1
-//   OleStdSetIntProperty(summary, PIDSI_TITLE, 7);                   // 0: a text is there; it stays
+//   OleStdSetIntProperty(summary, PIDSI_TITLE, 7);                   // 0: it holds a text, which stays
 //   OleStdSetStringProperty(summary, PIDSI_TITLE, "");               // 1: removed
 //   OleStdFreeSummaryInfo(&summary);
 //
-// The set is the caller's. A null set, or one without the section, gives the failure value of each function.
-// A property of another type than its field has reads like a missing one. Results named int are 1 for success
+// The set is the caller's. For a null set, or one without the section, every function returns its failure value.
+// A property whose type is not that of its field reads like a missing one. Results named int are 1 for success
 // and 0 for failure; no function shows a message. Texts are in the code page of property 1; nothing here
 // converts them.
 #pragma once
@@ -43,7 +43,7 @@ ORLO_API int OleStdSetStringProperty(CPropertySet* pSumInfo, DWORD dwPropID, con
 ORLO_API int OleStdGetIntProperty(CPropertySet* pSumInfo, DWORD dwPropID);
 ORLO_API int OleStdSetIntProperty(CPropertySet* pSumInfo, DWORD dwPropID, int nValue);
 
-// Pages, words and characters. Setting stops at the first that fails.
+// Pages, words and characters. Setting stops at the first failure.
 ORLO_API void OleStdGetDocProperty(CPropertySet* pSumInfo, DWORD* pnPages, DWORD* pnWords, DWORD* pnChars);
 ORLO_API int OleStdSetDocProperty(CPropertySet* pSumInfo, DWORD nPages, DWORD nWords, DWORD nChars);
 
@@ -66,6 +66,6 @@ ORLO_API int OleStdSetThumbNailProperty(CPropertySet* pSumInfo, DWORD dwFormat, 
 // property.
 ORLO_API void OleStdGetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int* pnYear, int* pnMonth,
                                     int* pnDay, int* pnSeconds);
-// Six zeros, or numbers that are not a date, remove the property. A year before 1980 is taken for 1980.
+// Six zeros, or numbers that are not a date, remove the property. A year before 1980 is taken as 1980.
 ORLO_API int OleStdSetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int nYear, int nMonth, int nDay,
                                    int nHour, int nMinute, int nSecond);

@@ -13,7 +13,7 @@ struct Readable {
     size_t size; // bytes
 };
 
-// The memory from `address` to the end of the readable pages around it, 256 MB at the most. It says what may
+// The memory from `address` to the end of the readable pages around it, at most 256 MB. It says what may
 // be read without a fault, not what belongs to the picture.
 Readable ReadableFrom(const void* address);
 

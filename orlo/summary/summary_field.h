@@ -11,11 +11,11 @@ namespace orlo {
 // {F29F85E0-4FF9-1068-AB91-08002B27B3D9}
 extern const GUID kSummaryFormat;
 
-// The property if it is there with that type, or null.
+// The property if it exists with that type, or null.
 CProperty* SummaryProperty(CPropertySet* set, DWORD id, DWORD type);
 
 // Adds, replaces or (value null) removes a property; value as CProperty::Set takes it. 1, or 0 if there is no
-// summary, the property is there with another type, or the value can't be stored.
+// summary, the property exists with another type, or the value can't be stored.
 int StoreSummaryProperty(CPropertySet* set, DWORD id, DWORD type, void* value);
 
 } // namespace orlo

@@ -94,7 +94,7 @@ bool HasRoomForShort(IStream* stream) {
     return SetLength(stream, 0) && written;
 }
 
-// Some systems open a stream for writing all the same.
+// Some systems open a stream for writing nevertheless.
 bool IsReadOnly(IStorage* storage) {
     STATSTG stat;
     return SUCCEEDED(storage->Stat(&stat, STATFLAG_NONAME)) &&

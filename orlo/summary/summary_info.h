@@ -37,19 +37,19 @@ ORLO_API HRESULT SetSummaryInfoThumbnail(CPropertySet* pSumInfo, DWORD dwFormat,
 // Reads the summary stream. Without that stream the summary stays as it was; one that can't be read leaves it
 // cleared.
 ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
-// Writes the summary stream, over one that is there; no other element of the storage is touched, or made for the time being.
+// Writes the summary stream, over an existing one; no other element of the storage is touched, or made temporarily.
 // A set that can't be written, and a disk without room for it, leave the old summary byte for byte (E_FAIL). A stream that
-// is there and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
+// exists and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
 // least: after a shorter summary it holds zeros.
 //
 // In a transacted storage nothing is on the disk before its Commit, whose result counts: without room it fails, and the file
 // is as before. A storage in direct mode writes at once, step by step: a program that is killed in the middle leaves a
 // mixture of both summaries, and after a full disk the system may have announced sectors that the file hasn't, which suminfo
-// calls damage. A host that can't afford that opens the storage with STGM_TRANSACTED, or saves into a copy of the file and
+// calls damage. A host that can't accept that opens the storage with STGM_TRANSACTED, or saves into a copy of the file and
 // puts that in its place.
 ORLO_API HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // Opens a compound file for reading and reads its summary, into a new set if the pointer holds null. A file whose header,
-// allocation tables or directory are damaged is refused (STG_E_DOCFILECORRUPT): the system might never come back from it.
+// allocation tables or directory are damaged is refused (STG_E_DOCFILECORRUPT): the system might never return from it.
 // The storage stays open, the caller's. On failure both pointers are null, and a set that was passed in is
-// destroyed, but for a file that can't be opened: then the set stays.
+// destroyed, except for a file that can't be opened: then the set stays.
 ORLO_API HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo);

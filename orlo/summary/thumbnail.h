@@ -3,7 +3,7 @@
 //
 //   DrawThumbnailValue(value, size, dc, &rect)   // 1: drawn in the middle of rect, proportions kept
 //   DrawDIB(header, dc, &rect, 0)                // lines drawn: it fills rect
-//   a picture whose header promises more than there is: 0, and dc is as it was
+//   a picture whose header promises more than it has: 0, and dc is as it was
 //
 // Pictures are foreign data. Each is checked to its last record before the system sees any of it, and one
 // that doesn't pass draws nothing. The length is part of that check only where it is given: prefer
@@ -11,7 +11,7 @@
 // be read from the pointer on.
 //
 // A rectangle is in device pixels for metafile pictures, in units of the device context for bitmaps; with the
-// default mapping mode these are the same. The device context is given back as it came. Nothing here shows a
+// default mapping mode these are the same. The device context is left as it was. Nothing here shows a
 // message.
 #pragma once
 
@@ -38,9 +38,9 @@ ORLO_API int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const REC
 // The number of lines that StretchDIBits has drawn, or 0. Bitmaps stored from the top down are refused.
 ORLO_API int DrawDIB(const BITMAPINFOHEADER* pDIB, HDC hDC, const RECT* pRect, int bKeepAspect);
 
-// 1, or 0. Nothing is painted outside of the rectangle. Records that speak to a printer are passed over, and
+// 1, or 0. Nothing is painted outside of the rectangle. Records that address a printer are skipped, and
 // so are those that realize a palette or hold bitmaps in the format of a 16-bit device. A pattern of that format
-// paints nothing. Also passed over are shapes and pens that reach more than 32,768 pixels from the origin of the
+// paints nothing. Also skipped are shapes and pens that reach more than 32,768 pixels from the origin of the
 // picture, and text whose glyphs would cover more than 64 million pixels in one picture.
 ORLO_API int DrawMetaFilePict(const void* pPict, HDC hDC, const RECT* pRect, int bKeepAspect);
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// A callback of the system has its calling convention, which a lambda has not in 32 bits.
+// A callback of the system has its calling convention, which a lambda does not have in 32 bits.
 template <class Visit>
 BOOL CALLBACK VisitChild(HWND child, LPARAM visit) {
     (*reinterpret_cast<Visit*>(visit))(child);

@@ -1,5 +1,5 @@
 // Owners of what drawing takes from the system, and guards that put back what was set before. Every room with windows uses
-// these: nothing is given back by hand.
+// these: nothing is released by hand.
 //
 //   const OwnedPen pen(::CreatePen(PS_SOLID, 1, color));
 //   const SelectedObject selected(dc, pen.get());   // what was selected before comes back at the end of the block
@@ -47,7 +47,7 @@ private:
     HGDIOBJ before_;
 };
 
-// The device context of a window's client area, or with null of the screen; get() is null if the system has none to give.
+// The device context of a window's client area, or with null of the screen; get() is null if the system has none left.
 class WindowDC {
 public:
     explicit WindowDC(HWND window) : window_(window), dc_(::GetDC(window)) {}

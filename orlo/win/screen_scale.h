@@ -1,4 +1,4 @@
-// Sizes that are meant for 96 dots per inch, on the screen at hand.
+// Sizes that are meant for 96 dots per inch, on the current screen.
 #pragma once
 
 // Device pixels of the screen for a size in pixels at 96 dpi, rounded; the same number at 96 dpi.

@@ -1,5 +1,5 @@
 // A host with a page of its own over a line: the page shows the pen's dash scale and writes what is typed. It types by itself,
-// so that the program can be tried without a hand: it ends with 0 if the line has got what was typed.
+// so that the program can be tried unattended: it ends with 0 if the line has received what was typed.
 #include <afxwin.h>
 #include <drawcore/application.h>
 #include <drawcore/drawing.h>

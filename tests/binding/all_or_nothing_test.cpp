@@ -77,7 +77,7 @@ std::function<void(const std::string&)> AtWidth(Throw fail) {
     };
 }
 
-// What a host does not take stays with its property and is said once, when all the rest is written.
+// What a host does not take stays with its property and is reported once, when all the rest is written.
 TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
     const Refusal kRefusals[] = {
         {"result", nullptr, 2, "1 of 3 graphics could not be changed."},

@@ -1,6 +1,6 @@
 // A host that knows nothing of this project's compiler: C99, orlo_c.h, and the few functions of the system it declares itself.
 //
-//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have one pen colour; else the number of what is wrong
+//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have one pen colour; else the number of the error
 //
 // The database is taken by name. If drawcore32.dll is the adapter, it is handed that database first.
 

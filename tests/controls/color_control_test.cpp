@@ -112,7 +112,7 @@ TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     EXPECT_EQ(RGB(1, 2, 3), m_control.m_nSelected);
 }
 
-// A class of the host that has a say in what is listed.
+// A class of the host that decides what is listed.
 class FilteredColors : public CColorControl {
 public:
     FilteredColors() : CColorControl(0) {}

@@ -15,7 +15,7 @@
 #include "support/scheme_colors.h"
 #include "support/test_drawing.h"
 
-// Gets what controls tell the application.
+// Receives what controls report to the application.
 class HostWindow : public CWnd {
 public:
     struct Notification {
@@ -76,7 +76,7 @@ public:
     static constexpr int kNoItem = -1;
 
     using Pixels::Pixels;
-    // times: drawn again over what is there.
+    // times: drawn again over what was drawn before.
     template <class Control>
     void Draw(Control& control, int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0,
               int times = 1) {

@@ -146,7 +146,7 @@ TEST(ControlLife, TheFrameworkMakesControlsByName) {
     EXPECT_EQ(nullptr, RUNTIME_CLASS(CComboControl)->m_pfnCreateObject) << "a base is not made by name";
 }
 
-// One by its class, one that the exchange takes over and fills from, both of a page of the program's.
+// One by its class, one that the exchange takes over and fills from, both on a page of the program's.
 class LayerAndColor : public CPropertyPage {
 public:
     LayerAndColor() : CPropertyPage(IDD_PAGE, 0) {}

@@ -357,7 +357,7 @@ TYPED_TEST(BrushStyles, TheSampleOfAComboTakesTheShapeOfItsCell) {
     }
 }
 
-// A solid style fills the cell, a hatch a part of it, and none of them what is around it.
+// A solid style fills the cell, a hatch a part of it, and neither paints around it.
 TYPED_TEST(BrushStyles, SamplesAreFilledWithinTheCell) {
     TypeParam::Add(this->m_table, "Hatch");
     this->Fill();

@@ -1,9 +1,9 @@
-# Each example stands whole in its document: cmake -D ROOT=FOLDER -P check_examples.cmake
+# Each example is in its document word for word: cmake -D ROOT=FOLDER -P check_examples.cmake
 
 function(check example document)
   file(READ ${ROOT}/${example} code)
   file(READ ${ROOT}/${document} text)
-  # Behind the line that says what the example is.
+  # From the first include on, after the line that says what the example is.
   string(FIND "${code}" "#include" begin)
   string(SUBSTRING "${code}" ${begin} -1 code)
   string(FIND "${text}" "${code}" found)

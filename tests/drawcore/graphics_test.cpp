@@ -1,4 +1,4 @@
-// Graphics: making, owning, walking with filters, extents, selections, and what is given back.
+// Graphics: making, owning, walking with filters, extents, selections, and what is freed.
 
 #include <gtest/gtest.h>
 
@@ -62,7 +62,7 @@ TEST(Graphics, OwnTheirParts) {
     GraphicDelete(parent, a);
     EXPECT_NE(a->dwFlags & kFlagNoParent, 0u);
     EXPECT_EQ(Members(parent), List{b});
-    GraphicDelete(parent, a); // no part any more: nothing happens
+    GraphicDelete(parent, a); // no longer a part: nothing happens
     GraphicDispose(&a);
     drawing.Close();
     EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing is gone";

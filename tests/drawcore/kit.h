@@ -68,7 +68,7 @@ inline std::string GetText(GraphicStruct* graphic, const char* name) {
     return orlo::host::ReadProperty<std::string>(graphic, name).value_or("(none)");
 }
 
-// A drawing that takes graphics and is passed as what the host's functions take.
+// A drawing that takes graphics and converts to what the host's functions take.
 class OwnDrawing : public TestDrawing {
 public:
     operator DrawingStruct*() const { return Get(); }

@@ -378,7 +378,7 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
 }
 
 TEST_F(Paint, PreviewsShowPensAtFullSize) {
-    // A sample in the unit square, fitted to 100 pixels; its dashes and widths are those of paper all the same.
+    // A sample in the unit square, fitted to 100 pixels; its dashes and widths are still those of paper.
     const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimetre = inch / 25.4;
     const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);

@@ -1,4 +1,4 @@
-// Undo: a step takes back everything that was changed in it, and nothing else.
+// Undo: undoing a step reverts everything that was changed in it, and nothing else.
 
 #include <gtest/gtest.h>
 
@@ -117,7 +117,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
         return DrawingCountForgotten(drawing);
     };
     EXPECT_EQ(step(2) + step(3) + step(4), 0);
-    DrawingSetUndoRoom(drawing, 1); // the last one stays all the same
+    DrawingSetUndoRoom(drawing, 1); // the last one still stays
     EXPECT_EQ(step(5), 3);
     EXPECT_EQ(step(6), 1);
     EXPECT_EQ(DrawingUndo(drawing), 3);

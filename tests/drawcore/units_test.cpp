@@ -1,4 +1,4 @@
-// Numbers and lengths as text: what is read, what is refused whole, and that what is written is read back.
+// Numbers and lengths as text: what is read, what is refused altogether, and that what is written is read back.
 
 #include <gtest/gtest.h>
 

@@ -125,7 +125,7 @@ def check_handles(path):
 
 
 def check_words():
-    """Wrong words get those that are allowed; results are told by exit codes."""
+    """Wrong words get those that are allowed; results are reported by exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
     for arguments, code, words in [
         (["set", drawing, "PenColour=red", "-o", OUT], 2, "is none of Layer, Info, StyleTree, PenColor"),

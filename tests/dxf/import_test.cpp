@@ -42,7 +42,7 @@ OwnedDrawing Open(const std::wstring& path, Heard& heard) {
     return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
 }
 
-// A file that is there as long as the test needs it.
+// A file that exists as long as the test needs it.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& bytes) {
@@ -320,7 +320,7 @@ TEST(Import, AttributesBelongToTheirInsertion) {
         "0|INSERT|2|DOOR|66|1|" + attribute + "0|INSERT|2|gone|66|1|" + attribute + "0|ATTDEF|40|1|2|TAG",
         blocks));
     const auto members = Members(drawing);
-    ASSERT_EQ(members.size(), 3u); // the attribute of the insertion without a block stands alone
+    ASSERT_EQ(members.size(), 3u); // the attribute of the insertion without a block is a member itself
     EXPECT_EQ(GraphicGetKind(members[0]), uint32_t{kKindInsert});
     ASSERT_EQ(Members(members[0]).size(), 1u);
     EXPECT_EQ(GraphicGetKind(members[1]), uint32_t{kKindText});

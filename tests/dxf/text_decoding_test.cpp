@@ -9,7 +9,7 @@ namespace {
 TEST(TextDecoder, FollowsCodePageAndVersion) {
     struct Row {
         const char* version;
-        const char* codePage; // null: the file does not tell
+        const char* codePage; // null: the file does not say
         const char* bytes;
         const char* text;
     };

@@ -1,4 +1,4 @@
-// The scale combo: finds a scale by its value, and takes in one that is in no list.
+// The scale combo: finds a scale by its value, and adds one that is not in the list.
 
 #include "exchange_dialog.h"
 

@@ -1,4 +1,4 @@
-// Limits of values: inclusive, checked when saving only, told to the user with both limits.
+// Limits of values: inclusive, checked when saving only, reported to the user with both limits.
 
 #include "exchange_dialog.h"
 

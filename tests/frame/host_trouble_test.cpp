@@ -1,4 +1,4 @@
-// What a sheet does when the host it stands on fails: in drawing, in giving values, in taking the preview's graphics.
+// What a sheet does when its host fails: while drawing, giving values, or taking the preview's graphics.
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
     }
 }
 
-// A page that cannot be read does not come up, and may be tried again.
+// A page that cannot be read does not open, and may be tried again.
 TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;
@@ -90,7 +90,7 @@ struct PreviewOfAnother : ExchangePage {
     GraphicStruct* member;
 };
 
-// The reference database takes no graphic that is a member already.
+// The reference database refuses a graphic that is already a member.
 TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});

@@ -56,7 +56,7 @@ protected:
         kit.Add({{kPropTextSize, 1.0}}, kGraphicText);
     }
 
-    // General, Pen, Brush and Text are whole, and a pen is written.
+    // General, Pen, Brush and Text are complete, and a pen is written.
     void ExpectWorking(const Copy& copy, double scale) {
         EXPECT_EQ(IDOK, copy.Run(kit, [&](SheetDriver& user) {
             ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);

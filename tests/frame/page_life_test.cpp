@@ -1,4 +1,4 @@
-// A page's life: which notifications make it dirty, what the sheet is told, and when the preview follows.
+// A page's life: which notifications make it dirty, what the sheet learns of it, and when the preview follows.
 
 #include <gtest/gtest.h>
 
@@ -58,7 +58,7 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
     });
 }
 
-// The end of an edit tells the sheet, but renews no preview: that has followed each change.
+// The end of an edit informs the sheet but doesn't renew the preview, which has followed each change.
 TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
     sheet.Run([&](SheetDriver& user) {
         Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all

@@ -1,4 +1,4 @@
-// The sheet: which pages a graphic adds, finding them, results, layout, and what is given back.
+// The sheet: which pages a graphic adds, finding them, results, layout, and what is freed.
 
 #include <gtest/gtest.h>
 
@@ -128,7 +128,7 @@ TEST(SheetLayout, PageAtTheLeftButtonsAboveASquarePreviewNoApply) {
             bottom = button.bottom;
         }
         EXPECT_LE(bottom, preview.top);
-        user.SelectPage(0); // a page that comes later stands where the first one does
+        user.SelectPage(0); // a page that comes later is placed where the first one is
         const RECT other = InSheet(user.Page(), window);
         EXPECT_TRUE(::EqualRect(&page, &other));
     });
@@ -166,7 +166,7 @@ TEST(DialogMeasure, FollowsTemplateAndFont) {
     EXPECT_GT(standard.cx, 250);
 }
 
-// A template of four words and nothing behind is not read beyond its mapping.
+// A template of four words with nothing after them is not read beyond its mapping.
 TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
     void* pages = ::VirtualAlloc(nullptr, 0x2000, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
     DWORD before;

@@ -1,4 +1,4 @@
-// A host that defines UNICODE: the macros of windows.h rename members of the framework here, and what they name must be there.
+// A host that defines UNICODE: macros of windows.h rename members of the framework here, and the renamed ones must exist.
 
 #include <afxext.h>
 #include <orlo.h>

@@ -1,4 +1,4 @@
-// hostcheck as a host's author runs it: whole databases pass, and each fault is told at its function.
+// hostcheck as a host's author runs it: complete databases pass, and each fault is reported at its function.
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -133,7 +133,7 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
     EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
 }
 
-// One field changed over a selection that differs reaches all, and everything else stays each insertion's own; undo takes it back.
+// One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts it.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;
@@ -206,7 +206,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     EXPECT_EQ(1234570, Parts(1).position[0]);
 }
 
-// A preview block that is there is used; the page takes it out all the same.
+// An existing preview block is used; the page takes it out nevertheless.
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     AddDiffering();
     const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));

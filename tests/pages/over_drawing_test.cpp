@@ -84,7 +84,7 @@ protected:
             user.Ok();
         }));
     }
-    // The edit, which may add to the values, gives them to all graphics that have them, and undo takes them back.
+    // The edit, which may add to the values, gives them to all graphics that have them, and undo reverts them.
     void ExpectEdit(Values& changed, const SheetDriver::Script& edit) {
         ASSERT_TRUE(::DrawingBeginUndo(m_drawing));
         RunOk(edit);

@@ -26,7 +26,7 @@ protected:
                        kGraphicText);
     }
     void AddDiffering() {
-        Add(kSans, 2, 0x2101, kRed, 0); // 0x2000 is none of the page's bits
+        Add(kSans, 2, 0x2101, kRed, 0); // 0x2000 is not one of the page's bits
         Add(kSerif, 3, 0x0046, kBlue, 2);
     }
 
@@ -62,7 +62,7 @@ TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
             EXPECT_EQ(-1, user.Selection(combo)) << combo;
         user.Focus(IDC_FONT_FACE);
         for (int i = 0; i < 14; ++i)
-            user.Key(VK_TAB); // round the sheet; to come by is no choice
+            user.Key(VK_TAB); // round the sheet; passing by is not a choice
         EXPECT_EQ((std::vector<std::string>{"", "2", "0", "2", "2", "0", "0", "0", "0"}),
                   Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE,
                                IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}));
@@ -160,8 +160,8 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     }
 }
 
-// A text that is no height, one that is longer than the field, and a field that is blank because a space without lengths has no
-// texts for heights.
+// A text that is not a height, one that is longer than the field, and a field that is blank because a space without lengths
+// has no texts for heights.
 TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
     const struct {
         int space;

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reads the include lines of the tree and fails on each that the layer rules forbid: check_includes.py ROOT
 
-docs/architecture.md says the same rules in words. What is public stands in three places that must agree: what orlo.h reaches,
+docs/architecture.md says the same rules in words. What is public is named in three places that must agree: what orlo.h reaches,
 the headers that the CMakeLists.txt of each room declare, and the list of exported names.
 """
 import pathlib

@@ -1,4 +1,4 @@
-// suminfo set, remove and copy: what was asked for is there, everything else is as it was.
+// suminfo set, remove and copy: what was asked for is done, everything else is as it was.
 
 #include <gtest/gtest.h>
 #include <set>
@@ -26,13 +26,13 @@ public:
         : Content(Json::parse(RunSuminfo({"show", "--json", file.string()}).out)) {}
     explicit Content(Json file) : file_(std::move(file)) {}
 
-    // Null if there is none, whichever section it may be in.
+    // Null if there isn't one, whichever section it may be in.
     Json operator[](const std::string& name) const {
         for (const auto& [key, value] : Values())
             if (key.substr(key.find('}') + 1) == name) return value;
         return nullptr;
     }
-    // Of the section with that property; 0 if it says none, -1 if there is no such property.
+    // Of the section with that property; 0 if it names none, -1 if there is no such property.
     int CodePageOf(const std::string& name) const {
         for (const Json& set : file_["property_sets"])
             for (const Json& section : set["sections"])

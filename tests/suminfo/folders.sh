@@ -21,7 +21,7 @@ shown=$(timeout -k 5 60 wine "$program" show -r . 2>errors) || status=$?
 [ "$(grep '\.doc$' <<<"$shown")" = $'./a:colon.doc\n./again.doc' ] || { printf 'not each once:\n%s\n' "$shown"; exit 1; }
 [ "$(cat errors)" = "suminfo: ./a?mark.doc: the system can't open a file of this name" ] || { cat errors; exit 1; }
 
-# The first line is enough for its reader, and the missing file behind it is never looked at.
+# The first line is enough for its reader, and the missing file after it is never looked at.
 for ((i = 0; i < 2000; i++)); do echo -ne 'inner/plan.doc\0'; done >names
 echo -ne 'missing.doc\0' >>names
 timeout -k 5 60 wine "$program" show @- <names 2>errors | head -n 1 >first || true

@@ -17,7 +17,7 @@ std::wstring Wide(const std::string& utf8) {
     return fs::u8path(utf8).wstring();
 }
 
-// As the system's own rules take a command line apart: quotes and the backslashes before them are escaped.
+// As the system's own rules split a command line: quotes and the backslashes before them are escaped.
 std::wstring Quoted(const std::string& argument) {
     std::wstring quoted = L"\"";
     size_t backslashes = 0;

@@ -63,7 +63,7 @@ const Json* Stream(const Json& file, const Json& name) {
     return nullptr;
 }
 
-// Damaged ones say so, and don't hang; what can be read of them is there.
+// Damaged ones say so, and don't hang; what can be read of them is shown.
 TEST(Show, ValuesOfRealDocuments) {
     const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
     const auto shown = ByFile(run.out);
@@ -159,7 +159,7 @@ TEST(Show, ControlCharactersAreShownByTheirNumbers) {
     EXPECT_EQ(json.out.find_first_of("\x1B\x7F\x9B"), std::string::npos) << "raw";
 }
 
-// The root of the directory has lost its entries: what nothing leads to any more is shown, and named as damage.
+// The root of the directory has lost its entries: what nothing leads to now is shown, and named as damage.
 TEST(Show, ADamagedDirectoryFailsAndWhatItStillHasIsShown) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");

@@ -1,4 +1,4 @@
-// Structures of compound files, whole ones and ones bent on purpose. Runs without windows too, under the sanitizers.
+// Structures of compound files, sound ones and ones damaged on purpose. Runs without windows too, under the sanitizers.
 
 #include "orlo/summary/compound_reader.h"
 

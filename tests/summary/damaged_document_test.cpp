@@ -1,5 +1,5 @@
-// Real documents, damaged at random in all that holds them together: none makes the system hang or crash, and no stream is
-// changed that nobody meant.
+// Real documents, damaged at random in all that holds them together: none makes the system hang or crash, and no stream
+// changes that was not meant to.
 
 #include "orlo/summary/summary_info.h"
 

@@ -1,4 +1,4 @@
-// A summary that goes with its variable.
+// A summary that is freed with its variable.
 #pragma once
 
 #include <memory>

@@ -64,7 +64,7 @@ TEST(RealThumbnails, DrawLikeTheirReferencesAndLeaveNoObjects) {
     EXPECT_EQ(GdiObjectCount(), before);
 }
 
-// Every byte of the head, one after the other, turned over: whatever comes of it, nothing breaks.
+// Every byte of the head inverted, one after the other: whatever results, nothing breaks.
 TEST(RealThumbnails, SurviveEveryWrongByteInTheirHeads) {
     Canvas canvas(50, 50);
     const RECT whole = canvas.Whole();

@@ -276,7 +276,7 @@ TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
     EXPECT_GT(saved, 1);
 }
 
-// Killed after any step: no stream is there that nobody knows, and the others are whole; in a transacted storage the summary
+// Killed after any step: there is no unknown stream, and the others are intact; in a transacted storage the summary
 // is the old or the new one too.
 TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
     FailingBytes disk(document_);

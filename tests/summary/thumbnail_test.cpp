@@ -1,4 +1,4 @@
-// Pictures drawn on a canvas: where they come to lie, what they leave after, and that hostile ones do
+// Pictures drawn on a canvas: where they are placed, what they leave alone, and that hostile ones do
 // nothing.
 
 #include "orlo/summary/thumbnail.h"

@@ -37,7 +37,7 @@ public:
     void Cancel() { ClickSheetButton(IDCANCEL); }
 
     void Focus(int id);
-    void Type(int id, const std::string& text); // over what is there
+    void Type(int id, const std::string& text); // over the existing text
     void Choose(int id, int index);             // in a combo or list, by Home and Down keys
     void Key(UINT virtualKey, bool shift = false, bool control = false);
     void Mnemonic(char letter) { m_user.Mnemonic(letter); }

@@ -70,7 +70,7 @@ protected:
     int RunThree(const SheetDriver::Script& script) { return Run(*Make({kWide, kWide, kWide}), script); }
 };
 
-// Page, Back enabled, text of the other button: the three always tell the same.
+// Page, Back enabled, text of the other button: the three always agree.
 std::string State(const SheetDriver& user) {
     const HWND sheet = user.Sheet();
     const auto tab = ::SendDlgItemMessageA(sheet, kTabs, TCM_GETCURSEL, 0, 0);
@@ -152,7 +152,7 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
     EXPECT_EQ("1o 2o 3o 3o ", log);
 }
 
-// Next is the default button. What stands behind the field with the focus would be skipped unread.
+// Next is the default button. Any field after the one with the focus would be skipped unread.
 TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
     const auto wizard = Make({kWide, kNarrow, kWide});
     EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {

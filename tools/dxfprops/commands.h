@@ -17,12 +17,12 @@ void PrintProperties(const std::string& file, const std::vector<Condition>& wher
                      const std::vector<std::string>& show, std::ostream& out);
 
 // Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into `output`:
-// only what has changed differs. The number of entities that are different now.
+// only what has changed differs. Returns the number of entities that have changed.
 size_t SetProperties(const std::string& file, const std::vector<Condition>& where,
                      const std::vector<Condition>& values, const std::string& output);
 
-// Which properties differ, entity by entity: of the same handle, or else at the same place. The number of entities that
-// differ.
+// Which properties differ, entity by entity: of the same handle, or else at the same place. Returns the number of entities
+// that differ.
 size_t PrintDifferences(const std::string& before, const std::string& after, std::ostream& out);
 
 } // namespace dxfprops

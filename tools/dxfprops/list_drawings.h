@@ -13,6 +13,6 @@
 // something was left out, findings.
 nlohmann::ordered_json Describe(const dxf::Document& drawing);
 
-// Writes an array with one object a file: file and what Describe gives, or file, error, line for one that is refused.
+// Writes an array with one object per file: file and what Describe returns, or file, error, line for one that is refused.
 // Paths and output are UTF-8. False if any file was refused.
 bool ListDrawings(const std::vector<std::string>& files, std::ostream& out);

@@ -64,7 +64,7 @@ std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool a
     return made;
 }
 
-// Work on one file after the other; what fails is said and does not keep the others.
+// Work on one file after the other; a failure is reported and does not stop the others.
 template <class Work>
 int ForEach(const std::vector<std::string>& files, Work work) {
     int result = kDone;
@@ -104,7 +104,7 @@ int Set(CommandLine& line) {
                                                                                               : line.files)
             .push_back(std::move(word));
     for (const std::string& file :
-         line.files) // a name that is none was meant to be one, unless there is such a file
+         line.files) // NAME=VALUE with an unknown name is not a file, unless there is such a file
         if (file.find('=') != file.npos && !std::filesystem::exists(std::filesystem::u8path(file)))
             Known(file.substr(0, file.find('=')), false);
     const std::vector<Condition> where = Assignments(line.where, true), wanted = Assignments(values, false);

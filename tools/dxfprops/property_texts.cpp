@@ -164,7 +164,7 @@ struct PropertyForms {
             throw dxf::SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
         return millimetres;
     }
-    // Lengths are shown whole: what is set from them is what they were.
+    // Lengths are shown with all their digits: what is set from them is what they were.
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;

@@ -27,7 +27,7 @@ public:
     static bool Has(const dxf::Entity& entity, std::string_view name);
 
     std::string Get(std::string_view name, const dxf::Look& look) const;
-    // SaveError if the text is no value of the property; the message has those that are allowed.
+    // SaveError if the text is not a value of the property; the message lists those that are allowed.
     void Set(std::string_view name, const std::string& text, dxf::Look& look) const;
 
 private:

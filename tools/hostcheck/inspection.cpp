@@ -18,7 +18,7 @@ LONG WINAPI EndWithCode(EXCEPTION_POINTERS* pointers) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
-// Calls of a database that make drawings are no part of the contract: these have the names and the forms that the reference
+// Calls of a database that make drawings are not part of the contract: these have the names and the forms that the reference
 // database and the skeleton give them.
 using DrawingOpenDxf = DrawingStruct*(const wchar_t* path, const void* listener, char* message, int size);
 using DrawingNew = DrawingStruct*();

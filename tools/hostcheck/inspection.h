@@ -1,4 +1,4 @@
-// One process's share of an inspection: checks promise after promise and tells the process that started it, line by line.
+// One process's share of an inspection: checks promise after promise and reports each to the process that started it.
 //
 //   drawing            the database is loaded and has a drawing
 //   start 12           promise 12 is being checked

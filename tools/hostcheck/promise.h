@@ -18,11 +18,11 @@ struct Broken {
 // Throws Broken with what was found.
 void Expect(bool kept, const char* format, ...) __attribute__((format(gnu_printf, 2, 3)));
 
-// What a database has made, given back to it.
+// Owners of what a database has made.
 template <class T>
 using Made = std::unique_ptr<T, void (*)(T*)>;
 
-// The database that is looked at, with a drawing of it that is current.
+// The database under inspection, with a drawing of it that is current.
 class Subject {
 public:
     Subject(const Host& host, DrawingStruct* drawing);
@@ -30,7 +30,7 @@ public:
     const Host& host;
     DrawingStruct* const drawing;
 
-    TableStruct* Table(const char* name) const; // throws Broken if there is none
+    TableStruct* Table(const char* name) const; // throws Broken if there isn't one
     TableStruct* Units() const { return drawing->pUnits; }
 
     // Throw Broken for null.
@@ -65,5 +65,5 @@ constexpr Topic TopicOf(const Promise (&rows)[count]) {
 extern const Topic kApplicationPromises, kTablePromises, kUnitPromises, kGraphicPromises, kPropertyPromises,
     kVertexPromises, kMatrixPromises, kBlockPromises, kStylePromises, kViewPromises;
 
-// All of them: that every function is there first, then topic by topic. The order is the same in each process.
+// All of them: first that every function exists, then topic by topic. The order is the same in each process.
 const std::vector<Promise>& AllPromises();

@@ -16,7 +16,7 @@ struct CloseIt {
 };
 using Handle = std::unique_ptr<void, CloseIt>;
 
-// A process of this program that inspects from a promise on, and the lines that it tells.
+// A process of this program that inspects from a promise on, and the lines that it reports.
 class Inspector {
 public:
     Inspector(const std::wstring& database, const std::wstring& drawingFile, size_t first) {
@@ -41,7 +41,7 @@ public:
         process_.reset(process.hProcess);
     }
 
-    // False when there is none any more: the process has ended, or has been ended since it took too long.
+    // False when there are no more: the process has ended, or has been ended since it took too long.
     bool NextLine(std::string& line) {
         size_t end;
         while ((end = told_.find('\n')) == std::string::npos)

@@ -1,5 +1,5 @@
-// The whole inspection: processes that check, one after the other, since a promise that a database breaks by a crash or by
-// never coming back takes its process along.
+// The whole inspection: processes that check, one after the other, since a database that breaks a promise by a crash or by
+// never returning takes its process along.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// Vertices, scratch ones and those of graphics, and texts, which stand at one.
+// Vertices, scratch ones and those of graphics, and texts, which are placed at one.
 
 #include "promise.h"
 

@@ -1,4 +1,4 @@
-// The command line: which command on which files. Parsing prints help and what is wrong.
+// The command line: which command on which files. Parsing prints help and errors.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// What suminfo can do, one function a command. Each throws Failure when it can't do its work on a file.
+// What suminfo can do, one function per command. Each throws Failure when it can't do its work on a file.
 #pragma once
 
 #include <optional>
@@ -36,7 +36,7 @@ struct Report {
 Report ShowTable(const Source& source);
 // One line of JSON.
 Report ShowJson(const Source& source);
-// A line for each finding, or one that says that there is none.
+// A line for each finding, or one that says that there are none.
 Report Check(const Source& source);
 
 // Changes fields and custom properties. All of them or, after a Failure, none.

@@ -27,15 +27,15 @@ struct NamedStream {
 
 class Document {
 public:
-    // Others may read the file meanwhile, and nobody may write it.
+    // Others may read the file meanwhile, but not write it.
     explicit Document(const std::string& file);
 
     // Every stream whose name begins with byte 5, in all storages: the document's own first.
     std::vector<NamedStream> PropertySets() const;
-    // A stream of the document's own storage, if it is there.
+    // A stream of the document's own storage, if it exists.
     std::optional<orlo::Bytes> Read(const std::string& name) const;
 
-    // What is damaged in the structure, one text each; PropertySets has what could be read all the same.
+    // What is damaged in the structure, one text each; PropertySets has what could still be read.
     const std::vector<std::string>& Damage() const { return reader_.Damage(); }
     // The same for each damaged stream, property set or not.
     std::vector<std::string> StreamDamage() const;

@@ -13,9 +13,9 @@ namespace {
 
 constexpr DWORD kWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 
-// Whoever has the file open now would go on with the old one, or write over the new one.
+// Whoever has the file open now would continue with the old one, or write over the new one.
 const std::string& Unused(const std::string& file) {
-    // Some systems let an administrator write all the same.
+    // Some systems let an administrator write nevertheless.
     const DWORD attributes = ::GetFileAttributesW(ToWide(file).c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
         throw Failure("was left alone: the file is read-only");
@@ -31,7 +31,7 @@ void CheckResult(HRESULT result, const std::string& name) {
 void WriteStream(IStorage& storage, const std::string& name, const orlo::Bytes& bytes) {
     const std::wstring wide = ToWide(name);
     IStream* opened = nullptr;
-    // One that is there keeps its place and the case of its name.
+    // An existing one keeps its place and the case of its name.
     HRESULT result = storage.OpenStream(wide.c_str(), nullptr, kWriting, 0, &opened);
     if (result == STG_E_FILENOTFOUND)
         result = storage.CreateStream(wide.c_str(), kWriting | STGM_FAILIFTHERE, 0, 0, &opened);
@@ -98,7 +98,7 @@ bool EditedDocument::IsWritten(const std::u16string& path) const {
                        [&](const auto& stream) { return SameName(stream.first, name); });
 }
 
-// What was written is there, nothing else has changed, and the file is sound.
+// Everything written is present, nothing else has changed, and the file is sound.
 void EditedDocument::Check(const std::wstring& copy) const {
     const Document changed(ToUtf8(copy));
     const orlo::CompoundReader& before = document_.Reader();

@@ -20,7 +20,7 @@ public:
     // Nobody else may have the file open; a read-only or damaged one is refused.
     explicit EditedDocument(const std::string& file);
 
-    // A stream of the document's own storage as it was, if it is there.
+    // A stream of the document's own storage as it was, if it exists.
     std::optional<orlo::Bytes> Read(const std::string& name) const { return document_.Read(name); }
     void Write(const std::string& name, orlo::Bytes bytes) { written_[name] = std::move(bytes); }
     // The last call. Attributes, permissions and the time of creation stay; links are followed.

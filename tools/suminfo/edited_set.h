@@ -17,7 +17,7 @@ public:
     // read of it.
     explicit EditedSet(const std::optional<orlo::Bytes>& bytes);
 
-    // Stores a value, or removes the property when it is an empty text. A property that is there keeps its kind of text or
+    // Stores a value, or removes the property when it is an empty text. An existing property keeps its kind of text or
     // number; another kind is refused.
     void SetField(const GUID& format, uint32_t id, const std::string& text, uint32_t usualType);
     // The named property of the user-defined section, added or replaced.

@@ -26,7 +26,7 @@ struct Field {
 };
 
 const std::vector<Field>& Fields();
-// The field of that name; Failure if there is none that can be removed, or set.
+// The field of that name; Failure if there isn't one that can be removed, or set.
 const Field& FieldToRemove(const std::string& name);
 const Field& FieldToSet(const std::string& name);
 // Null if no field has that name (in any case), or no field that ID.

@@ -7,9 +7,9 @@ namespace suminfo {
 
 class PartFile {
 public:
-    // Empty, in the folder of `target` and with its permissions, if that is there. Failure if it can't be made.
+    // Empty, in the folder of `target` and with its permissions, if that exists. Failure if it can't be made.
     explicit PartFile(std::wstring target);
-    // Takes it away if it hasn't taken the target's place.
+    // Removes it if it hasn't taken the target's place.
     ~PartFile();
     PartFile(const PartFile&) = delete;
     PartFile& operator=(const PartFile&) = delete;

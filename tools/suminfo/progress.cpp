@@ -9,7 +9,7 @@
 namespace suminfo {
 namespace {
 
-constexpr auto kPatience = std::chrono::milliseconds(500); // before the bar comes up
+constexpr auto kPatience = std::chrono::milliseconds(500); // before the bar appears
 constexpr auto kPace = std::chrono::milliseconds(100);     // between two drawings of it
 constexpr size_t kBar = 24;
 constexpr size_t kName = 40; // bytes; the whole line stays below 80

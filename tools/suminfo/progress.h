@@ -15,7 +15,7 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    // Before work on the next file; the bar comes up when the work takes longer than a moment.
+    // Before work on the next file; the bar appears when the work takes longer than a moment.
     void Next(const std::string& file);
     // Before anything else is printed on that stream.
     void MakeWayFor(FILE* stream);

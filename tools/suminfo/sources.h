@@ -18,7 +18,7 @@ struct SourceSets {
 
 // All property-set streams of a document, or the one that a bare file is (its name then is empty).
 SourceSets SetsOf(const Source& source);
-// The document's own summary, or the bare stream. Failure if there is none.
+// The document's own summary, or the bare stream. Failure if there isn't one.
 NamedStream SummaryOf(const Source& source);
 orlo::Bytes ReadFile(const std::string& file);
 

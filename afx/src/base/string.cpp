@@ -20,7 +20,7 @@ std::size_t Size(int n) {
 }
 
 #if !defined(_WIN32)
-// Code page 1252, as the system that the texts come from.
+// Code page 1252, that of the system that the texts come from.
 bool HasCasePair(unsigned char lower) {
     return (lower >= 0xE0 && lower != 0xF7 && lower != 0xFF);
 }

@@ -1,4 +1,4 @@
-// How many objects are alive, for programs and tests that look for what was not given back.
+// How many objects are alive, for programs and tests that look for what was not released.
 #pragma once
 
 #include "orlo/host/api.h"

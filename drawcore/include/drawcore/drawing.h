@@ -9,7 +9,7 @@
 #include "orlo/host/records.h"
 
 // A drawing with the tables "_Layers_", "_LineStyles_", "_BrushStyles_", "_Colors_", "_Blocks_" and "_Units_". Null if
-// there is no memory.
+// memory runs out.
 DRAWCORE_API DrawingStruct* DrawingNew(void);
 // Frees the drawing with all that it owns and clears the pointer. Tables of it that someone still holds answer from then
 // on like empty ones.

@@ -9,7 +9,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// What a program hears while a drawing opens; context is handed to both, and either may be null.
+// What a program learns while a drawing opens; context is handed to both, and either may be null.
 typedef struct DxfListener {
     void* context;
     void (*progress)(void* context, int permille);              // the share done, 0 to 1000, rising
@@ -17,16 +17,16 @@ typedef struct DxfListener {
 } DxfListener;
 
 // A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
-// in message (size bytes with the NUL): a file is opened as a whole or not at all. The listener may be null.
+// in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
-// What DrawingSaveDxf gives.
+// Results of DrawingSaveDxf.
 enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
-// Flag: a file that another program has changed since the drawing was opened is overwritten all the same.
+// Flag: a file that another program has changed since the drawing was opened is overwritten anyway.
 enum { kSaveOverChanged = 1 };
 
 // Writes the drawing into a file, which may be the one that it was opened from: that file's text, in which only the groups
-// differ that carry a change. What the format has no group for stands in extended data under the application name ORLO. The
+// that carry a change differ. What the format has no group for is kept in extended data under the application name ORLO. The
 // file is written beside the old one, compared with the drawing, and then takes its place in one step.
 //
 // kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened

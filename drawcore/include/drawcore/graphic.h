@@ -24,6 +24,6 @@ DRAWCORE_API void GraphicSetVtbl(GraphicStruct*, const PropertyTable*);
 // Whether the graphic has changed since it was drawn last.
 DRAWCORE_API int GraphicIsDirty(GraphicStruct*);
 
-// Names the style tree that the contents of a block belong to (pszStyleName), copied; null or "" takes it out of all. What
-// is copied from the graphic belongs to the same one.
+// Names the style tree that the contents of a block belong to (pszStyleName), copied; null or "" removes it from all. Copies
+// of the graphic belong to the same one.
 DRAWCORE_API void GraphicSetStyleName(GraphicStruct*, const char* name);

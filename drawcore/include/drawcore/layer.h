@@ -1,4 +1,4 @@
-// Layers of a drawing, for host programs: what orlo/host/layer.h does not tell. The layer "0" has the identifier 1.
+// Layers of a drawing, for host programs: what orlo/host/layer.h does not cover. The layer "0" has the identifier 1.
 #pragma once
 
 #include "orlo/host/layer.h"

@@ -18,7 +18,7 @@ enum PropertyMeaning {
     kMeansBits,
     kMeansText,
     kMeansColor,
-    kMeansLineStyle, // an entry of the table, or a marker: likewise the next ones
+    kMeansLineStyle, // an entry of the table, or a marker; so are the next ones
     kMeansBrushStyle,
     kMeansLayer,
     kMeansBlock,

@@ -15,7 +15,7 @@ struct RegenMethod {
     int (*getPropPage)(void* context, GraphicStruct* graphic, void* sheet); // may be null: 0
 };
 
-// An empty table, null if there is no memory. RegenMethodsDispose frees it and clears the pointer.
+// An empty table, null if memory runs out. RegenMethodsDispose frees it and clears the pointer.
 DRAWCORE_API void* RegenMethodsNew(void);
 DRAWCORE_API void RegenMethodsDispose(void** methods);
 // Copies the method under that number (not 0), in place of an older one.

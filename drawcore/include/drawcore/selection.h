@@ -11,7 +11,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Null if there is no memory.
+// Null if memory runs out.
 DRAWCORE_API GraphicStruct* SelectionNew(void);
 // 0 if it is in already (or, for SelectionRemove, is not), or if the first argument is not a selection.
 DRAWCORE_API int SelectionAdd(GraphicStruct* selection, GraphicStruct*);

@@ -13,5 +13,5 @@
 //   "_Blocks_"       GraphicStruct*, which the table then owns
 //   any other        kept as it is and given back by TableEntryGetData; stays the caller's
 DRAWCORE_API uint16_t TableEntryAdd(TableStruct*, const char* name, void* data);
-// Removes the entry with what it owns. 0 if there is none.
+// Removes the entry with what it owns. 0 if there isn't one.
 DRAWCORE_API int TableEntryDelete(TableStruct*, uint16_t id);

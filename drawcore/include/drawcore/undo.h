@@ -5,9 +5,9 @@
 //   DrawingEndUndo(drawing);        // 12 graphics changed
 //   DrawingUndo(drawing);           // all 12 are as they were
 //
-// The oldest steps go when all together take more room than they may have: what can't be taken back any more is said.
+// The oldest steps are dropped when all together exceed their room: what can no longer be undone is reported.
 //
-// Recorded are properties, attributes and vertices of the drawing's own graphics; previews and samples are not.
+// Properties, attributes and vertices of the drawing's own graphics are recorded; previews and samples are not.
 #pragma once
 
 #include "orlo/host/api.h"
@@ -17,11 +17,11 @@
 DRAWCORE_API int DrawingBeginUndo(DrawingStruct*);
 // Closes the step. The number of graphics that are different now; with 0 no step is kept.
 DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
-// How many of the oldest steps the last DrawingEndUndo has let go for want of room.
+// How many of the oldest steps the last DrawingEndUndo has dropped for lack of room.
 DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
 // Room for all steps, in bytes (256 MB unless set); the last step is kept whatever it takes.
 DRAWCORE_API void DrawingSetUndoRoom(DrawingStruct*, size_t bytes);
-// Takes back the last step. The number of graphics that it changed back; 0 if there is none, or one is still open.
+// Undoes the last step. The number of graphics that it changed back; 0 if there isn't one, or one is still open.
 DRAWCORE_API int DrawingUndo(DrawingStruct*);
-// Number of steps that can be taken back.
+// Number of steps that can be undone.
 DRAWCORE_API int DrawingCountUndo(DrawingStruct*);

@@ -13,7 +13,7 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Colour that lies under the drawing: lines of nearly that colour are drawn black or white, so that they are seen. Without
+// Background colour of the drawing: lines of nearly that colour are drawn black or white, so that they can be seen. Without
 // this call it is the system's window colour or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 
@@ -32,7 +32,7 @@ DRAWCORE_API void ViewportPan(ViewportStruct*, int dx, int dy);
 DRAWCORE_API void ViewportToDrawing(ViewportStruct*, POINT device, double* x, double* y);
 
 // The member of the set (a drawing's root, a selection) that is drawn last of those within tolerance of the pixel, or null.
-// filter as in GraphicFirst. What is on invisible or locked layers is not found; of an insertion the whole is.
+// filter as in GraphicFirst. What is on invisible or locked layers is not found; an insertion is found as a whole.
 DRAWCORE_API GraphicStruct* ViewportPick(ViewportStruct*, GraphicStruct* set, POINT device, int tolerance,
                                          uint32_t filter);
 // Adds to the selection the members that lie wholly in the rectangle or, with crossing, have a part in it; the number

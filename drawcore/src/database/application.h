@@ -13,8 +13,8 @@ public:
     static Application& Get();
 
     void SetCurrentDrawing(Drawing* drawing) { pCurrentDrawing = reinterpret_cast<DrawingStruct*>(drawing); }
-    void Remove(const Drawing& drawing); // it is about to go
-    // Variable kVarPreviewBackground; white if the host program has taken the variable away.
+    void Remove(const Drawing& drawing); // it is about to be freed
+    // Variable kVarPreviewBackground; white if the host program has removed the variable.
     uint32_t PreviewBackground() const;
     const Table& Variables() const { return variables_; }
 

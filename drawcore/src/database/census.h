@@ -1,4 +1,4 @@
-// How many objects are alive that a host program or the library has to give back.
+// How many objects are alive that a host program or the library has to free.
 #pragma once
 
 namespace drawcore {
@@ -6,7 +6,7 @@ namespace drawcore {
 struct Census {
     inline static long blocks = 0; // of DrawCoreNew
     inline static long graphics = 0;
-    inline static long vertices = 0; // made by VertexNewEx and its kin
+    inline static long vertices = 0; // made by VertexNewEx and the like
     inline static long viewports = 0;
 };
 

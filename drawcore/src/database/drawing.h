@@ -23,10 +23,10 @@ public:
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
 
-    // The drawing behind a pointer from outside; null for null and for a drawing that is gone.
+    // The drawing behind a pointer from outside; null for null and for a drawing that has been freed.
     static Drawing* Find(DrawingStruct* drawing);
 
-    // Any of its tables by name; null if there is none.
+    // Any of its tables by name; null if there isn't one.
     Table* FindTable(std::string_view name) const;
     Table* AddTable(std::string_view name, std::unique_ptr<Table> table); // null if the name is taken
     bool RemoveTable(Table* table);
@@ -47,7 +47,7 @@ public:
     std::string scaleText = "1 : 1"; // of the drawing on paper
     uint16_t coordSpace = kSpaceWorld;
     std::unique_ptr<DxfSource> source; // null: the drawing was not read from a file
-    double lineScale = 1; // DXF's $LTSCALE: dash patterns of the drawing's own graphics grow by it
+    double lineScale = 1; // DXF's $LTSCALE: scales the dash patterns of the drawing's own graphics
 
 private:
     std::map<std::string, std::unique_ptr<Table>, std::less<>> tables_;

@@ -15,7 +15,7 @@ struct DxfSource {
     std::string bytes;
     dxf::Document known; // header and tables
     std::filesystem::path path;
-    size_t graphics = 0; // that were made of it
+    size_t graphics = 0; // that were made from it
 };
 
 } // namespace drawcore

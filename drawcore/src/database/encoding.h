@@ -1,4 +1,4 @@
-// Texts between UTF-8, UTF-16 and the 8-bit code page of the system, in which the host's calls give and take texts.
+// Texts between UTF-8, UTF-16 and the 8-bit code page of the system, in which the host's calls return and take texts.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ std::wstring Utf16FromUtf8(std::string_view text);
 std::wstring Utf16FromCodePage(std::string_view text);
 std::string Utf8FromCodePage(std::string_view text);
 
-// A character that the code page lacks becomes its number, as in "\U+4E57": texts that differ still do afterwards.
+// A character that the code page lacks becomes its number, as in "\U+4E57": texts that differ remain different.
 std::string CodePageFromUtf8(std::string_view text);
 
 } // namespace drawcore

@@ -1,5 +1,5 @@
-// The objects of one kind that are alive now. A pointer from outside is asked here before it is used: a table or
-// drawing can go while someone still holds it, and every call on it then has to have an answer.
+// The objects of one kind that are alive now. A pointer from outside is looked up here before it is used: a table or
+// drawing can be freed while someone still holds it, and every call on it then needs an answer.
 #pragma once
 
 #include <unordered_set>

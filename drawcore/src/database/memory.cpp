@@ -1,4 +1,4 @@
-// Blocks and strings that cross the boundary, and the count of everything that has to be given back.
+// Blocks and strings that cross the boundary, and the count of everything that has to be freed.
 
 #include "orlo/host/memory.h"
 

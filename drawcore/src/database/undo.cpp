@@ -25,7 +25,7 @@ void UndoLog::Saved::Restore() const {
     graphic->ChangedShape();
 }
 
-// Drops what is as it was, and what is not needed any more once nothing is added.
+// Drops what has not changed, and what is no longer needed once nothing is added.
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());

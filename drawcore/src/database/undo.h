@@ -1,6 +1,6 @@
-// The undo log of a drawing: what its graphics were before each step. Kept is what a step changes: of a graphic that has other
-// properties now its look, which it shares with all that looked the same; of one whose shape is about to change the whole
-// state. Graphics that only show something (previews, samples) are not part of the drawing and not saved.
+// The undo log of a drawing: what its graphics were before each step. A step keeps what it changes: the look of a graphic
+// whose properties change, shared with all that looked the same, and the whole state of one whose shape is about to change.
+// Graphics that only show something (previews, samples) are not part of the drawing and not saved.
 #pragma once
 
 #include <cstddef>
@@ -23,15 +23,15 @@ public:
     bool IsOpen() const { return open_; }
     bool Begin(); // false if a step is open already
     int End();    // number of graphics that are different now; a step without any is dropped
-    int Undo();   // takes back the last step; number of graphics changed back, 0 without a step
+    int Undo();   // reverts the last step; number of graphics changed back, 0 without a step
     size_t Steps() const { return steps_.size() - (open_ ? 1 : 0); }
 
     void SetRoom(size_t bytes) { room_ = bytes; }
-    int Dropped() const { return dropped_; } // steps that the last End has let go for want of room
+    int Dropped() const { return dropped_; } // steps that the last End has dropped for lack of room
 
     void SaveLook(Graphic& graphic);  // other properties are about to be set
     void SaveState(Graphic& graphic); // anything is about to change
-    void Remove(Graphic& graphic);    // about to go
+    void Remove(Graphic& graphic);    // about to be freed
 
 private:
     struct Saved {

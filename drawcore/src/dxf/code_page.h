@@ -10,7 +10,7 @@ namespace dxf {
 
 class CodePage {
 public:
-    // By a drawing's name for it ("ANSI_1252", "dos850", "gb2312"), in any case. A name that nobody knows:
+    // By a drawing's name for it ("ANSI_1252", "dos850", "gb2312"), in any case. Unknown names:
     // Windows 1252.
     explicit CodePage(std::string_view name);
     explicit CodePage(int number);

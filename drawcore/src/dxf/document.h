@@ -14,8 +14,8 @@
 namespace dxf {
 
 struct Header {
-    std::string version;  // "AC1015"; empty if the file does not tell
-    std::string codePage; // "ANSI_1252"; empty if the file does not tell
+    std::string version;  // "AC1015"; empty if the file does not say
+    std::string codePage; // "ANSI_1252"; empty if the file does not say
     int unit = 0;         // of a drawing unit: 1 inch, 2 foot, 4 mm, 5 cm, 6 m ...; 0: unknown
     int metric = -1;      // 1 metric, 0 not, in use where unit is 0; -1: unknown
     int lengthFormat = 2; // 1 scientific, 2 decimal, 3 engineering, 4 architectural, 5 fractional
@@ -52,7 +52,7 @@ struct TextStyle {
     std::string name;
     bool declared = false;
     std::string fontFile; // "txt.shx", "arial.ttf"
-    std::string fontFace; // TrueType family; empty if the file does not tell
+    std::string fontFace; // TrueType family; empty if the file does not say
     bool bold = false;
     bool italic = false;
     double fixedHeight = 0; // 0: each text has its own
@@ -70,9 +70,9 @@ struct Block {
     std::vector<Entity> entities;
 };
 
-// Something that was left out or mended; the drawing opened all the same.
+// Something that was left out or mended; the drawing was opened nevertheless.
 struct Finding {
-    uint32_t line = 0; // of the file; 0: no one line
+    uint32_t line = 0; // of the file; 0: no particular line
     std::string text;
 };
 

@@ -1,4 +1,4 @@
-// The entities of a DXF drawing as plain data: what stood in the file, angles in degrees, lengths in drawing
+// The entities of a DXF drawing as plain data: what the file contains, angles in degrees, lengths in drawing
 // units. Coordinates are as stored; where an entity has an object coordinate system, says so, and placement.h
 // converts.
 #pragma once
@@ -67,7 +67,7 @@ struct Polyline {
     Kind kind = Kind::flat;
     bool closed = false;        // in the direction of m for a mesh
     bool closedN = false;       // mesh only
-    bool dashesThrough = false; // the dash pattern goes on around corners
+    bool dashesThrough = false; // the dash pattern continues around corners
     uint32_t rows = 0;          // mesh only: vertices[row * columns + column]
     uint32_t columns = 0;
     std::vector<Vertex> vertices;
@@ -89,7 +89,7 @@ struct Spline {
 struct Text {
     enum class Horizontal : uint8_t { left, center, right, aligned, middle, fit };
     enum class Vertical : uint8_t { baseline, bottom, middle, top };
-    // A definition is shown only where it does not stand in a block: there inserts bring attributes of their
+    // A definition is shown only outside of blocks: within a block, inserts bring attributes of their
     // own.
     enum class Role : uint8_t { text, attribute, definition };
     Role role = Role::text;

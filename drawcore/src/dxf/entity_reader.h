@@ -21,7 +21,7 @@ public:
     // Counts records by type from here on.
     void CountRecords() { counting_ = true; }
 
-    // Says which types of entities were passed over.
+    // Reports which types of entities were skipped.
     void ReportSkipped();
 
 private:
@@ -82,7 +82,7 @@ private:
     std::map<std::string, Skipped> skipped_;
 };
 
-// Makes sure that control points, knots and weights fit together, else falls back on the fit points. False if
+// Makes sure that control points, knots and weights fit together, otherwise falls back on the fit points. False if
 // there is nothing to draw.
 bool MakeSound(Spline& spline);
 

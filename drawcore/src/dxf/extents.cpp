@@ -76,7 +76,7 @@ private:
         return *box;
     }
 
-    // Most inserts of a drawing lie amid others: only those that reach out are looked at part by part.
+    // Most inserts of a drawing lie amid others: only those that reach out are measured part by part.
     void AddBlock(const Block& block, const Extents& box, const Matrix& toWorld) {
         if (!box_.Covers(box.Transformed(toWorld))) AddEntities(block, toWorld);
     }

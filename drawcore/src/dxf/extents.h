@@ -7,8 +7,8 @@
 namespace dxf {
 
 // Exact for lines, arcs, ellipses and what is made of them, inserted in any way; lines without their widths.
-// Splines are taken as the chain of points that they are drawn by, texts as the points that they hang on: how
-// wide they are, the font decides.
+// Splines count as the chain of points that they are drawn by, texts as their insertion points: their width
+// depends on the font.
 drawcore::Extents ExtentsOf(const Document& drawing);
 
 } // namespace dxf

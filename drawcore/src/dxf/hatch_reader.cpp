@@ -1,4 +1,4 @@
-// HATCH: the one entity in which the meaning of a group code depends on what stood before it.
+// HATCH: the one entity in which the meaning of a group code depends on what came before it.
 
 #include <utility>
 

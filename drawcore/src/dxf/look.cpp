@@ -71,7 +71,7 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
     return LineTypeIndex::byLayer;
 }
 
-// Where a group tells nearly the same, the value says which group it goes with: a group that another program has
+// Where a group says nearly the same, the value says which group it goes with: a group that another program has
 // changed since then counts.
 constexpr OwnRow kOwnRows[] = {
     {kPropInfo, 0,

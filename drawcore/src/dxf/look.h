@@ -1,5 +1,5 @@
 // How an entity looks, as the pages of the sheet show it: its groups, the line weight of its layer and what its own extended
-// data adds, resolved. What colours, line styles and brushes the words of orlo/host/words.h stand for, holds here too.
+// data adds, resolved. The words of orlo/host/words.h mean the same colours, line styles and brushes here.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -50,7 +50,7 @@ Look LookByGroups(const Document& document, const Entity& entity);
 // Its own value of that name; null if it has none.
 const OwnValue* FindOwn(const Entity& entity, std::string_view name);
 
-// Own values that are no property of the sheet.
+// Own values that are not properties of the sheet.
 constexpr char kOwnPlacement[] = "Placement"; // of an insertion: ends of the three axes, and the origin
 
 // Numbers that differ by rounding only.
@@ -61,7 +61,7 @@ bool operator==(const BrushLook& a, const BrushLook& b);
 bool operator==(const TextLook& a, const TextLook& b);
 bool operator==(const Look& a, const Look& b);
 
-// By what a polyline and its neighbours in the format tell: whether all segments have one width.
+// Whether all segments of a polyline have one width.
 bool HasOneWidth(const Polyline& polyline);
 
 // The family and cut (bits of a text's style) of a text style; an empty family is the default face.

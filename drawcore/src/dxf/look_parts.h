@@ -7,7 +7,7 @@
 
 namespace dxf {
 
-// Line types that are no names of a table.
+// Line types whose names are not in a table.
 constexpr char kByLayerName[] = "BYLAYER";
 constexpr char kByBlockName[] = "BYBLOCK";
 
@@ -15,7 +15,7 @@ BrushLook BrushOf(const Hatch& hatch);
 // A pattern as the hatch holds it: at its scale and angle, with the first line where it is.
 std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale,
                                             double angle, const Vec3& base);
-// A pattern as a row of numbers; false, and nothing is written, if they are none.
+// A pattern as a row of numbers; false, and nothing is written, if they are not a pattern.
 bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Hatch::PatternLine>& lines);
 std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& lines);
 

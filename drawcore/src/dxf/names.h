@@ -20,7 +20,7 @@ public:
     }
 
     // Position of the thing of that name, as it is in the file; makes one that is only mentioned if there
-    // is none.
+    // isn't one.
     size_t Find(std::string_view raw) {
         if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer
         last_ = FindUtf8(decoder_.Decode(raw));

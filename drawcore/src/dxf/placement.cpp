@@ -39,7 +39,7 @@ Matrix PlacementByGroups(const Entity& entity) {
 
 } // namespace
 
-// The groups' place goes with it: where another program has moved the insertion since, that counts.
+// The groups' place is stored with it: if another program has moved the insertion since, the groups count.
 Matrix PlacementOf(const Entity& entity) {
     const Matrix groups = PlacementByGroups(entity);
     const OwnValue* own = FindOwn(entity, kOwnPlacement);

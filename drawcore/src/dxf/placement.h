@@ -20,7 +20,7 @@ Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& blo
 Matrix PlacementOf(const Entity& entity);
 // A placement as numbers for the own extended data of the entity that it belongs to.
 std::vector<double> NumbersOf(const Matrix& placement, const Entity& entity);
-// The same placement with a z axis all the same: files have a good many insertions with a z scale of 0.
+// The same placement, but with a z axis in any case: files have a good many insertions with a z scale of 0.
 Matrix Solid(const Matrix& placement);
 Matrix DimensionMatrix(const Dimension& dimension, const Block& block);
 

@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    // Stands at its ENDSEC afterwards.
+    // The reader is at its ENDSEC afterwards.
     void ReadSection() {
         sectionLine_ = tag_.line;
         in_.tags.SetPlace("a section");

@@ -37,7 +37,7 @@ using Progress = std::function<void(int permille)>;
 // The bytes need not outlive the call. Throws ReadError, std::bad_alloc.
 Document Read(std::string_view bytes, const Progress& progress);
 
-// What Read reads of the bytes of a file: a mark of UTF-8 in front is none of it, and offsets of entities don't count it.
+// What Read reads of the bytes of a file: all but a UTF-8 mark in front, which offsets of entities don't count either.
 std::string_view TextOf(std::string_view bytes);
 
 // The bytes of a file; one that cannot be read is a ReadError without a line.

@@ -57,7 +57,7 @@ void RecordReader::ReadExtended() {
     }
 }
 
-// A name and what stands in the braces behind it: numbers, or the pieces of one text.
+// A name and what is in the braces after it: numbers, or the pieces of one text.
 OwnValue RecordReader::ReadOwnValue() {
     OwnValue value{Text(tags.Current()), {}, {}};
     const Tag& tag = tags.Next();

@@ -50,7 +50,7 @@ public:
     // attach: groups in braces (code 102), extended data, embedded objects. Extended data of kApplication is
     // kept for TakeOwn.
     bool NextTag();
-    // What the record that was read has in extended data of kApplication; null if there is none.
+    // What the record that was read has in extended data of kApplication; null if there isn't one.
     Apart<OwnData> TakeOwn() { return std::move(own_); }
 
     // False if the table has no such code.

@@ -1,5 +1,5 @@
 // Ties inserts to their blocks so that whoever walks the drawing needs no care: afterwards every reference is
-// to a block that is there, no block contains itself, nesting is shallow, and all inserts together draw a
+// to an existing block, no block contains itself, nesting is shallow, and all inserts together draw a
 // bounded number of parts. A reference that would break this is cut (its block becomes none), and a finding
 // says so.
 #pragma once

@@ -60,7 +60,7 @@ void ReadLineType(RecordReader& in) {
     lineType = std::move(read);
 }
 
-// The family and cut of a TrueType face stand in extended data of the application ACAD.
+// The family and cut of a TrueType face are in extended data of the application ACAD.
 void TakeTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
     constexpr int kBold = 0x2000000;
     constexpr int kItalic = 0x1000000;

@@ -1,4 +1,4 @@
-// Takes a DXF text apart into tags: a group code and the value on the line below it. Knows no sections or
+// Splits a DXF text into tags: a group code and the value on the line below it. Knows no sections or
 // entities.
 #pragma once
 
@@ -34,8 +34,8 @@ struct Tag {
     std::string_view Trimmed() const;
 
     // The value as a number; ReadError if it is not one. Real gives NaN for what cannot be a place in a drawing: not
-    // finite, or so large that a unit is beyond a double. Integer takes "7.0" as 7 and holds at the limits of
-    // an int.
+    // finite, or so large that a double can't resolve a unit. Integer takes "7.0" as 7 and clamps to the limits
+    // of an int.
     double Real() const;
     int Integer() const;
     bool Flag() const { return Integer() != 0; }

@@ -15,7 +15,7 @@ bool IsAscii(std::string_view bytes) {
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// The length of the well-formed UTF-8 sequence at the start of the bytes, 0 if there is none.
+// The length of the well-formed UTF-8 sequence at the start of the bytes, 0 if there isn't one.
 size_t SequenceLength(std::string_view bytes) {
     const auto byte = [&](size_t i) { return static_cast<unsigned char>(bytes[i]); };
     const unsigned char first = byte(0);
@@ -38,7 +38,7 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
-// A number of exactly so many digits at the start of the text; false if there is none.
+// A number of exactly that many digits at the start of the text; false if there isn't one.
 bool ReadDigits(std::string_view text, size_t digits, int base, uint32_t& number) {
     if (text.size() < digits) return false;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + digits, number, base);
@@ -63,7 +63,7 @@ std::string UnicodeEscape(std::string_view character) {
     return c < 0x10000 ? escape(c) : escape(0xD7C0 + (c >> 10)) + escape(0xDC00 + (c & 0x3FF));
 }
 
-// "\M+nXXXX": two bytes of one of five code pages. Gives the length of the escape, 0 if there is none.
+// "\M+nXXXX": two bytes of one of five code pages. Gives the length of the escape, 0 if there isn't one.
 size_t AppendMultiByteEscape(std::string& to, std::string_view text) {
     constexpr int kPages[] = {932, 950, 949, 1361, 936};
     uint32_t bytes = 0;
@@ -100,7 +100,7 @@ void TextDecoder::SetVersion(std::string_view version) {
 }
 
 std::string TextDecoder::Decode(std::string_view bytes) const {
-    // Programs exist that write the new version number and go on with their old code page.
+    // Programs exist that write the new version number but keep their old code page.
     if (IsAscii(bytes) || (utf8_ && IsUtf8(bytes))) return std::string(bytes);
     return page_.ToUtf8(bytes);
 }

@@ -1,4 +1,4 @@
-// From the bytes of a drawing to texts that a person reads: code pages, and the escapes within single-line
+// From the bytes of a drawing to readable texts: code pages, and the escapes within single-line
 // texts. MTEXT has more of them: see inline_codes.h.
 #pragma once
 
@@ -34,7 +34,7 @@ std::string ToDisplayText(std::string_view stored);
 std::string ReadOwnText(std::string_view stored);
 std::string WriteOwnText(std::string_view text);
 
-// Appends what the escape at the start of the text stands for and gives its length; 0 if there is none.
+// Appends what the escape at the start of the text stands for and gives its length; 0 if there isn't one.
 size_t AppendEscape(std::string& text, std::string_view stored);
 
 // Appends a code point as UTF-8; what is not one as U+FFFD.

@@ -138,7 +138,7 @@ private:
     std::map<std::pair<Id, Id>, bool> styles_;
 };
 
-// Makes the graphics of the document one after the other, and drops each as soon as it was compared. One that nobody has
+// Makes the graphics of the document one after the other, and drops each once it has been compared. One that nobody has
 // touched, and whose record is the same to the byte, is what it was: that is not made again.
 class ReadBack {
 public:

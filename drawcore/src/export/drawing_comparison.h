@@ -15,9 +15,9 @@ namespace drawcore {
 // Graphics of a drawing, and where their records are in a text.
 using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 
-// The first difference, for the user; empty if there is none. Identifiers of entries may differ, and of numbers the last
-// digits. What the document lacks are blocks that the program has made, which is no difference. Without one, sources has all
-// graphics of the file. The text is what the document was read from.
+// The first difference, for the user; empty if there isn't one. Identifiers of entries may differ, and the last digits
+// of numbers. Blocks that the program has made, which the document lacks, do not count. Without a difference, sources has
+// all graphics of the file. The text is what the document was read from.
 std::string FirstDifference(const Drawing& saved, std::string_view text, const dxf::Document& read,
                             Sources& sources);
 

@@ -20,7 +20,7 @@ public:
     void Add(const Vec3& point); // one that is not finite does not count
     void Add(const Extents& other);
     void Add(const EllipseArc& arc);
-    // Whether the other one, seen from above, reaches nowhere out of this one.
+    // Whether the other one, seen from above, lies entirely within this one.
     bool Covers(const Extents& other) const;
     // The box around this box after the transformation: exact for scaling and moving, else wider.
     Extents Transformed(const Matrix& matrix) const;

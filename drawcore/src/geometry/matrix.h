@@ -25,7 +25,7 @@ struct Matrix {
         return {p.x * at[0][0] + p.y * at[1][0] + p.z * at[2][0] + at[3][0],
                 p.x * at[0][1] + p.y * at[1][1] + p.z * at[2][1] + at[3][1]};
     }
-    // The transformation that takes this one back; false, and nothing is written, if it makes a solid flat.
+    // The inverse transformation; false, and nothing is written, if it makes a solid flat.
     bool Invert(Matrix& inverse) const;
     // Mean factor by which lengths in the xy plane grow: the square root of the area's factor.
     double PlanScale() const;

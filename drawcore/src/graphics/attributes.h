@@ -1,4 +1,4 @@
-// How a graphic is drawn: pen, brush, and all else that its properties say. Values only; the properties of these names are
+// How a graphic is drawn: pen, brush, and the rest of its properties. Values only; the properties of these names are
 // in properties.h.
 #pragma once
 

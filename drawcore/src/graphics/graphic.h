@@ -69,7 +69,7 @@ public:
 
     // Ties this graphic and its members to a drawing, or to none.
     void Attach(Drawing* drawing);
-    Drawing* GetDrawing() const; // null too when the drawing is gone
+    Drawing* GetDrawing() const; // also null once the drawing has been freed
 
     // A setter calls one of the first two before it changes anything, for the undo log, and one of the others after.
     void ChangingLook();  // what GetLook gives, and nothing else
@@ -107,7 +107,7 @@ protected:
     void RestoreAttributes(const Graphic& saved);
     bool EqualAttributes(const Graphic& saved) const;
 
-    // Whether the box can be kept until InvalidateExtents says otherwise.
+    // Whether the box stays valid until InvalidateExtents is called.
     virtual bool KeepsExtents() const { return true; }
 
 private:

@@ -39,7 +39,7 @@ struct TextAccess {
     void (*set)(Graphic&, const char*);
 };
 
-// One property: exactly one of the three accesses is there.
+// One property: exactly one of the three accesses is set.
 struct Property {
     const char* name;
     PropertyMeaning meaning;
@@ -158,7 +158,7 @@ using InPen = At<&Graphic::pen, field>;
 template <auto field>
 using InBrush = At<&Graphic::brush, field>;
 
-// A text of the default face tells which one that is here.
+// A text in the default face names the face that is the default here.
 const char* GetFont(const Graphic& graphic) {
     const std::string& font = InText<&TextState::font>::In(graphic);
     return font.empty() ? TextFace::Get(font, 0).Name().c_str() : font.c_str();

@@ -21,8 +21,8 @@ struct ShapedRun {
     int width = 0;
 };
 
-// From left to right as seen. Empty for a row that needs no shaping, and for one that the font of the device context lacks
-// letters for. cache belongs to that font.
+// From left to right as seen. Empty for a row that needs no shaping, and for one whose letters the font of the device
+// context lacks. cache belongs to that font.
 std::vector<ShapedRun> ShapeRow(HDC dc, SCRIPT_CACHE& cache, std::wstring_view row);
 
 // left, baseline: logical coordinates of the device context, whose font is the one that the row was shaped for.

@@ -8,8 +8,8 @@ namespace drawcore {
 
 class Graphic;
 
-// The graphic whose own vertex this is, from the moment that someone outside is given it: what is written to the vertex then
-// changes the graphic. A copy of the vertex is nobody's.
+// The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the vertex then
+// changes the graphic. A copy of the vertex belongs to none.
 struct VertexOwner {
     VertexOwner() = default;
     VertexOwner(const VertexOwner&) {}

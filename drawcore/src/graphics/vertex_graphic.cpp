@@ -77,7 +77,7 @@ void BuildStrokes(const VertexGraphic& graphic, const Trace& trace, Path& path) 
     AddSegment(list.back(), list.front(), trace, path);
 }
 
-// Whether the list goes to this vertex and back again without drawing: that encloses nothing, and is left out.
+// Whether the list goes to this vertex and back again without drawing: such a detour encloses nothing and is left out.
 bool IsExcursion(const std::vector<Vertex>& list, size_t i) {
     return i > 0 && i + 1 < list.size() && !IsDrawn(list[i]) && !IsDrawn(list[i + 1]) &&
            list[i - 1].Position() == list[i + 1].Position();

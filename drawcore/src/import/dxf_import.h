@@ -1,4 +1,4 @@
-// Makes a drawing of a DXF document that was read. Shows nothing, reads no file.
+// Makes a drawing from a DXF document that has been read. Shows nothing, reads no file.
 #pragma once
 
 #include <memory>

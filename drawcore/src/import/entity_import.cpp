@@ -29,7 +29,7 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
     return graphic;
 }
 
-// A width that is the same throughout is the pen's; else each segment has its own.
+// A width that is the same throughout is the pen's; otherwise each segment has its own.
 void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     if (dxf::HasOneWidth(polyline)) return;
     for (size_t i = 0; i < polyline.vertices.size(); ++i) {
@@ -68,7 +68,7 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
     if (!IsUpright(entity.normal) && std::any_of(polyline.vertices.begin(), polyline.vertices.end(),
                                                  [](const auto& v) { return v.bulge != 0; }))
         return MakeFlat(entity,
-                        Straightened(polyline)); // seen at an angle, a circle is not a circle any more
+                        Straightened(polyline)); // seen at an angle, a circle is no longer a circle
     auto graphic = std::make_unique<VertexGraphic>();
     const Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {
@@ -229,7 +229,7 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
         graphic->source = entity.offset;
         added = group.Add(std::move(graphic));
     }
-    // The attributes of an insertion that shows nothing itself stand alone.
+    // The attributes of an insertion that shows nothing itself are graphics by themselves.
     if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
         AddAttributes(added ? *added : group, **insert);
 }

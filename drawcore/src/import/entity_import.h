@@ -14,8 +14,8 @@ public:
     EntityImport(const dxf::Document& document, const ImportedTables& tables, Drawing& drawing)
         : document_(document), tables_(tables), drawing_(drawing) {}
 
-    // Adds what the entity shows to the group: as a rule one graphic, none for what shows nothing. What stands in a block
-    // leaves out definitions of attributes.
+    // Adds what the entity shows to the group: as a rule one graphic, none for what shows nothing. Within a block,
+    // definitions of attributes are left out.
     void AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock);
 
 private:

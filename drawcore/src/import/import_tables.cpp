@@ -21,14 +21,14 @@ std::string HostName(const std::string& stored) {
 
 namespace {
 
-// The entry of that name, which is made if there is none yet; 0 if the table is full.
+// The entry of that name, which is made if there isn't one yet; 0 if the table is full.
 template <class Entry, class Make>
 Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
     const Id known = table.IdOf(name);
     return known ? known : table.Add(make(name));
 }
 
-// A pattern that a line can be drawn with; else a solid line.
+// A pattern that a line can be drawn with, or a solid line.
 std::vector<double> SoundPattern(const std::vector<double>& dashes) {
     constexpr size_t kMostItems = 64;
     double length = 0;

@@ -32,7 +32,7 @@ TextAnchor AnchorOf(const dxf::Text& text) {
     }
 }
 
-// Where a single line stands and how it is turned, mirrored and slanted.
+// Where a single line is placed and how it is turned, mirrored and slanted.
 void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
     using Horizontal = dxf::Text::Horizontal;
     const Matrix system = dxf::ObjectSystem(entity.normal);

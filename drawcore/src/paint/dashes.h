@@ -1,5 +1,5 @@
-// Lines cut into the dashes of a pattern. Our own work, not the device's: its patterns count in whole pixels, start anew with
-// each call and know no dots.
+// Lines cut into the dashes of a pattern. Done here, not by the device: its patterns count in whole pixels, start anew
+// with each call and have no dots.
 #pragma once
 
 #include "drawcore/src/geometry/path.h"

@@ -1,4 +1,4 @@
-// Owners of GDI objects: each gives back what it holds, and a selection puts back what was selected before.
+// Owners of GDI objects: each frees what it holds, and a selection restores what was selected before.
 #pragma once
 
 #include <memory>

@@ -44,7 +44,7 @@ private:
 
     Color Seen(Color color) const;
     PenKey KeyOf(const PenUse& use) const;
-    // lastPixel: the thinnest lines, of which the device leaves out the last pixel, get it all the same.
+    // lastPixel: the thinnest lines, whose last pixel the device leaves out, get it anyway.
     void AddLines(const Path& path, const PenKey& key, bool lastPixel);
     void AddDot(const Point& p, const PenKey& key);
     void AddPolyline(const Path& path, size_t line, const PenKey& key, bool lastPixel);

@@ -11,7 +11,7 @@
 namespace drawcore {
 
 // The member drawn last whose lines come within that many pixels of the point, or whose filled area or text box holds it;
-// null if there is none.
+// null if there isn't one.
 Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance,
                 uint32_t filter);
 

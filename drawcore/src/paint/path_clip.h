@@ -17,7 +17,7 @@ enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: some coordina
 // Where the points of a path lie, taken together.
 Where Locate(const Path& path, const Box& box);
 
-// The part of a segment in the box as shares of its length; false if there is none.
+// The part of a segment in the box as shares of its length; false if there isn't one.
 bool ClipSegment(const Point& a, const Point& b, const Box& box, double& from, double& to);
 
 void ClipLines(const Path& path, const Box& box, Path& clipped);

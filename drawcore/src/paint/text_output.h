@@ -25,7 +25,7 @@ private:
     bool open_ = false;
     int mode_ = GM_COMPATIBLE; // what the device context had before
     XFORM before_{};
-    XFORM form_{}; // what is set now, but for before_
+    XFORM form_{}; // what is set now, apart from before_
 };
 
 } // namespace drawcore

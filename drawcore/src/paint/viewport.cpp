@@ -10,7 +10,7 @@ namespace drawcore {
 
 namespace {
 
-// Beyond these the numbers of a double, or of a device, say nothing any more.
+// Beyond these the numbers of a double, or of a device, no longer mean anything.
 constexpr double kSmallestScale = 1e-12, kLargestScale = 1e12;
 
 } // namespace

@@ -34,7 +34,7 @@ double FullSizeUnit(HDC dc, const Drawing* drawing) {
     return (unit ? unit->millimetres : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetresPerInch;
 }
 
-// The device context in the units that the viewport counts in: pixels. Other mapping modes have the rectangle turned.
+// The device context in the units that the viewport counts in: pixels. In other mapping modes the rectangle is converted.
 class PixelDC {
 public:
     PixelDC(const Viewport& viewport) : saved_(viewport.dc), rect_(viewport.rect) {

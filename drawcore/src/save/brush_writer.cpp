@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kHatchStyle = 75; // first of the groups of the pattern
 constexpr int kPatternType = 76;
-constexpr int kSeeds = 98; // first of those behind it
+constexpr int kSeeds = 98; // first of those after the pattern
 constexpr int kGradient = 450;
 constexpr int kLastGradient = 470;
 
@@ -59,7 +59,7 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
         if (held.style != kSolidBrush || !held.lines.empty()) PutSolid(hatch);
         return;
     }
-    if (wanted.lines.empty()) return; // no brush, or one that is no pattern of lines
+    if (wanted.lines.empty()) return; // no brush, or one that is not a pattern of lines
     BrushLook put = wanted;
     if (!(put.scale > 0)) put.scale = held.scale;
     if (!IsWithinTurn(put.angle)) put.angle = held.angle;
@@ -69,7 +69,7 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
     if (!same) PutPattern(hatch, put);
 }
 
-// What is written behind the head and the outlines, in place of what stands there.
+// What is written after the head and the outlines, in place of what is there.
 void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
     const std::vector<Group>& groups = record_.Groups();
     const auto from = std::find_if(groups.rbegin(), groups.rend(),

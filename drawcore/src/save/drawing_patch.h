@@ -1,5 +1,5 @@
 // Changes of a drawing's text, entity by entity: only the groups that carry a change are replaced, added or removed. What the
-// file format has no group for, goes into extended data under kApplication. Knows no database.
+// file format has no group for goes into extended data under kApplication. Knows no database.
 //
 //   dxf::DrawingPatch patch(text, std::move(document));
 //   dxf::Look look = patch.LookAt(entity.offset);
@@ -38,12 +38,12 @@ public:
     Layer& Describe(LayerIndex index) { return in_.document.layers[static_cast<size_t>(index)]; }
     LineType& Describe(LineTypeIndex index) { return in_.document.lineTypes[static_cast<size_t>(index)]; }
 
-    // The entity whose record begins there. ReadError, SaveError if there is none that can be read.
+    // The entity whose record begins there. ReadError, SaveError if there isn't one that can be read.
     Entity EntityAt(size_t offset);
     Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
 
-    // One call for each entity at the most. placement: of an insertion, from the block's coordinates (without its base
-    // point) to those of the space that it lies in. Its attributes move with it, also those that no call follows for.
+    // At most one call for each entity. placement: of an insertion, from the block's coordinates (without its base
+    // point) to those of the space that it lies in. Its attributes move with it, even those without a call of their own.
     void Change(size_t offset, const Look& wanted, const Matrix* placement = nullptr);
 
     bool IsChanged() const { return !patch_.IsEmpty(); }

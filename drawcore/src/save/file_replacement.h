@@ -17,14 +17,14 @@ public:
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // All at once, onto the disk, and read back from there: SaveError if that are other bytes.
+    // All at once, onto the disk, and read back from there: SaveError if the bytes differ.
     void Write(std::string_view bytes);
     // SaveError leaves the target as it was.
     void TakePlace();
 
 private:
     const std::filesystem::path target_;
-    std::filesystem::path path_; // empty once it is gone
+    std::filesystem::path path_; // empty once the file is gone
 };
 
 // Whether the file holds just these bytes now; false too if it can't be read.

@@ -1,4 +1,4 @@
-// Insertions of blocks: where they stand, how large and how turned.
+// Insertions of blocks: where they are, how large and how turned.
 #include <cmath>
 
 #include "drawcore/src/dxf/placement.h"
@@ -21,7 +21,7 @@ bool Near(const Matrix& a, const Matrix& b) {
     return true;
 }
 
-// Without what calculating with angles leaves behind the ninth digit.
+// Without the remainder that calculating with angles leaves after the ninth decimal.
 double Clean(double number) {
     const double round = std::round(number * 1e9) / 1e9;
     return dxf::Near(round, number) ? round : number;
@@ -55,7 +55,7 @@ Matrix MatrixOf(const Vec3& normal, const Insert& insert) {
     return InsertMatrix(entity, insert, Block(), 0, 0);
 }
 
-// Of the plane in which the placed block lies; what its z scale was in front or behind of, stays so.
+// Of the plane in which the placed block lies, to the side that leaves the z scale its sign.
 Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     const Vec3 z = placement.Turn({0, 0, 1});
     const Vec3 normal = Normalized(Cross(placement.Turn({1, 0, 0}), placement.Turn({0, 1, 0})));
@@ -63,7 +63,7 @@ Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     return normal * (front * insert.scaleZ < 0 ? -1 : 1);
 }
 
-// The directions in which an array goes on.
+// The directions in which an array extends.
 Matrix AxesOf(const Entity& entity, const Insert& insert) {
     return Matrix::RotationZ(Radians(insert.rotation)) * ObjectSystem(entity.normal);
 }

@@ -35,7 +35,7 @@ LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
 void LookWriter::Write(const Look& wanted) {
     if (!(Now() == wanted)) {
         WriteLayer(wanted);
-        WriteText(wanted); // before the colour, which may stand within the text
+        WriteText(wanted); // before the colour, which may be set within the text
         WriteColor(wanted);
         WriteBrush(wanted);
         WriteLineType(wanted);
@@ -130,7 +130,7 @@ void LookWriter::WriteColor(const Look& wanted) {
     const uint32_t brush = wanted.brush.color;
     RemoveOwn(kPropPenColor);
     RemoveOwn(kPropBrushColor);
-    // Of a hatch others see its brush alone.
+    // Other programs see only the brush of a hatch.
     if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
         PutColor(brush);
         OwnNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});

@@ -11,7 +11,7 @@ class LookWriter {
 public:
     LookWriter(DrawingPatch& drawing, size_t offset);
 
-    // Before Write, once at the most: the entity is moved, or an insertion is placed anew.
+    // Before Write, at most once: the entity is moved, or an insertion is placed anew.
     void Move(const Matrix& motion);
     void Place(const Matrix& placement);
 

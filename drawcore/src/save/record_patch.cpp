@@ -85,7 +85,7 @@ void RecordPatch::RemoveAll(int code, bool common) {
         if (IsOf(group, code, common)) Remove(group);
 }
 
-// Some programs write what all entities have behind the marker of the kind.
+// Some programs write the groups that all entities have after the marker of the kind.
 void RecordPatch::SetCommon(int code, const std::string& value) {
     SetAll(code, value, HasCommon(code), CommonPlace(code));
 }
@@ -102,7 +102,7 @@ void RecordPatch::Remove(int code) {
     RemoveAll(code, false);
 }
 
-// Behind the last group of those that programs write before it.
+// After the last group of those that programs write before it.
 size_t RecordPatch::CommonPlace(int code) const {
     const auto order = [](int wanted) {
         return std::find(std::begin(kCommonOrder), std::end(kCommonOrder), wanted) - kCommonOrder;

@@ -15,7 +15,7 @@ struct Group {
     int code;
     std::string_view value; // of the drawing's text
     size_t begin, end;      // with both lines
-    int part;               // how many subclass markers stand before it
+    int part;               // how many subclass markers come before it
     bool attached;          // between braces, of an embedded object, or extended data
 };
 
@@ -32,7 +32,7 @@ public:
     void SetCommon(int code, const std::string& value);
     void RemoveCommon(int code);
 
-    // What the kind of record has. A group that is missing goes behind the last of the others, or to the end.
+    // What the kind of record has. A group that is missing goes after the last of the others, or to the end.
     const Group* Find(int code) const { return Find(code, false); }
     void Set(int code, const std::string& value, std::initializer_list<int> behind = {});
     void Remove(int code);
@@ -40,10 +40,10 @@ public:
     void SetValue(const Group& group, const std::string& value);
     void Remove(const Group& group) { patch_.Replace(group.begin, group.end - group.begin, {}); }
     void Insert(size_t at, int code, const std::string& value) { patch_.Insert(at, Lines(code, value)); }
-    // Where a group behind the last of these begins, or else one at the end of the record's own groups.
+    // Where a group after the last of these begins, or else one at the end of the record's own groups.
     size_t PlaceBehind(std::initializer_list<int> codes) const;
 
-    // In place of the extended data of that application; empty values: none any more.
+    // In place of the extended data of that application; empty values remove it.
     struct Value {
         int code;
         std::string text;

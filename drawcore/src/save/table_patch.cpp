@@ -205,7 +205,7 @@ void TablePatch::Finish() {
     std::string newTables;
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID"}) { // a layer's line type stands before it
+    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID"}) { // a layer's line type comes before it
         Table& table = tables_[name];
         if (table.newLines.empty()) continue;
         if (table.isNew) {

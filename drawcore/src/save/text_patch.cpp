@@ -7,7 +7,7 @@
 namespace dxf {
 
 std::string TextPatch::Result() {
-    // What is put in at a place comes before what is taken away from there.
+    // What is inserted at a place comes before what is removed from there.
     std::stable_sort(edits_.begin(), edits_.end(), [](const Edit& a, const Edit& b) {
         return std::make_pair(a.at, a.length != 0) < std::make_pair(b.at, b.length != 0);
     });

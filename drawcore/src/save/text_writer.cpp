@@ -85,7 +85,7 @@ void LookWriter::PutFace(Text& text, const FontFace& face) {
     if (!style.empty()) text.style = TextStyleIndex(drawing_.in_.textStyles.FindUtf8(style));
 }
 
-// The text hangs on the same point as before.
+// The text keeps its insertion point.
 void LookWriter::PutFormat(Text& text, uint16_t format) {
     const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center,
@@ -166,7 +166,7 @@ void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
     const bool missing = !record_.Find(code);
     const bool same = Near(was.x, now.x) && Near(was.y, now.y) && Near(was.z, now.z);
     if (same) return;
-    // A point is written as a whole: what is missing of it goes behind the coordinate before.
+    // A point is written as a whole: a missing coordinate goes after the one that precedes it.
     record_.Set(code, RealText(now.x), {72, 50, 1, 40, 30});
     if (missing || !Near(was.y, now.y)) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
     if (missing || !Near(was.z, now.z))

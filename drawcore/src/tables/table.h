@@ -66,7 +66,7 @@ public:
 
     using Value = std::variant<int, double, std::string>;
     void SetVariable(uint16_t number, Value value) { variables_[number] = std::move(value); }
-    // Null if there is none of that number and type.
+    // Null if there isn't one of that number and type.
     template <class Type>
     const Type* Variable(uint16_t number) const {
         const auto found = variables_.find(number);

@@ -1,7 +1,7 @@
 // Angles as text.
 //
 // Reading: "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), blanks around it. A minus counts for the
-// whole angle; the text is read whole or refused. Every form is read, whatever form the drawing writes.
+// whole angle; the text is read in full or refused. Every form is read, whatever form the drawing writes.
 #pragma once
 
 #include <string>
@@ -24,8 +24,8 @@ struct AngleFormat {
 bool ReadAngle(std::string_view text, AngleSystem bare, double& radians);
 
 // Empty if the angle is not a number. A bearing has neither turns nor sign: for an angle beyond one turn or below 0 degrees,
-// minutes and seconds stand in its place. One that its digits, or four of a right angle, do not tell from a direction of the
-// compass is that direction.
+// degrees, minutes and seconds are written instead. One that its digits, or four of a right angle, do not tell from a
+// direction of the compass is that direction.
 std::string WriteAngle(double radians, const AngleFormat& format);
 
 } // namespace drawcore

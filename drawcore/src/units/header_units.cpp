@@ -7,7 +7,7 @@ namespace drawcore {
 
 namespace {
 
-// Engineering and architectural lengths are of a drawing in inches, if nothing else is said.
+// Engineering and architectural lengths belong to a drawing in inches, unless it says otherwise.
 bool CountsInFeet(const dxf::Header& header) {
     return header.lengthFormat == 3 || header.lengthFormat == 4;
 }

@@ -10,7 +10,7 @@ struct LengthUnit {
     double millimetres; // that one of it has
 };
 
-// By name or another spelling of it ("inches", a double quote); case does not count. Null if there is none.
+// By name or another spelling of it ("inches", a double quote); case does not count. Null if there isn't one.
 const LengthUnit* FindLengthUnit(std::string_view name);
 // By DXF's number for units of an inserted drawing; null for none and for those that no drawing has here.
 const LengthUnit* LengthUnitOfDxf(int number);

@@ -22,7 +22,7 @@ struct UnitSettings {
     void Store(Table& units) const;
 };
 
-// The unit that a string variable names; null if there is none, or none of that name.
+// The unit that a string variable names; null if there isn't one, or none of that name.
 const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable);
 
 // How lengths and angles are written; what a variable doesn't say, or says wrongly, is as in new drawings.

@@ -34,7 +34,7 @@ struct RawDictionary {
     size_t size;
 };
 
-// The names as far as they are there.
+// The names as far as they exist.
 std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const NameForm& form) {
     if (size < 4) return std::nullopt;
     RawDictionary raw{Load32(bytes), {}, 4};
@@ -50,7 +50,7 @@ std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const Name
     return raw;
 }
 
-// The name's bytes up to its NUL; false if there is none.
+// The name's bytes up to its NUL; false if there isn't one.
 bool CutAtNul(std::string_view& name, const NameForm& form) {
     const size_t unit = form.UnitSize();
     for (size_t i = 0; i + unit <= name.size(); i += unit) {

@@ -15,12 +15,12 @@ struct ImageDictionary {
     size_t size; // on the stream
 };
 
-// True if as many names as it announces are there.
+// True if it has as many names as it announces.
 bool IsWholeDictionary(const uint8_t* bytes, size_t size, uint16_t codePage);
 
 // Names are 8-bit texts of the code page, packed; under code page 1200 they are 16-bit characters padded to 4
 // bytes, or 8-bit texts after all, as CPropertySection writes them. `place` names the section in findings,
-// `offset` is where the dictionary is. Nothing if not even its first name is there.
+// `offset` is where the dictionary is. Nothing if even its first name is missing.
 std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t size, uint16_t codePage,
                                                    uint64_t offset, const std::string& place, Report& report);
 

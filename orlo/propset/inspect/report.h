@@ -1,4 +1,4 @@
-// Report: collects the findings of one reading, no more than a person would read. Used inside the library.
+// Report: collects the findings of one reading, and no more of them than a person would read. Used inside the library.
 #pragma once
 
 #include <algorithm>

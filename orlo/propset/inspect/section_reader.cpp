@@ -97,7 +97,7 @@ void SectionReader::ReadTable() {
     reached_ += entries_.size() * kPropertyLineSize;
 }
 
-// Sorts the entries by offset, and looks at what the table alone tells.
+// Sorts the entries by offset, and checks what the table alone shows.
 void SectionReader::LookAtTable() {
     size_t unaligned = 0;
     bool isAscending = true;

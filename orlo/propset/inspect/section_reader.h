@@ -1,4 +1,4 @@
-// SectionReader: one section of a SetImage from the stream, with all that is wrong with it. Used inside the
+// SectionReader: one section of a SetImage from the stream, with everything that is wrong with it. Used inside the
 // library.
 #pragma once
 
@@ -34,7 +34,7 @@ public:
     size_t Read();
 
 private:
-    // A line of the table, and what became of it.
+    // A line of the table, and what was read of it.
     struct Entry {
         uint32_t id;
         uint32_t offset;

@@ -1,13 +1,13 @@
-// SetImage: a property-set stream as plain data, whatever its writer did, with a list of all that is wrong
-// with it.
+// SetImage: a property-set stream as plain data, whatever its writer did, with a list of everything that is
+// wrong with it.
 //
 //   std::vector<Finding> findings;
 //   std::optional<SetImage> image = ReadSetImage(data, size, findings);
 //   if (!image) ... not a property set; findings say why ...
 //   for (const ImageSection& section : image->sections) ...
 //
-// Unlike CPropertySet it keeps what that can't hold: vectors of variants, unknown types, names in
-// 16-bit characters and in their own case. An image that is written and read again is equal but for offsets.
+// It keeps what CPropertySet can't hold: vectors of variants, unknown types, names in
+// 16-bit characters and in their own case. An image that is written and read again is equal except for offsets.
 // It judges and keeps; it shows nothing. It takes no more memory than a few times the stream.
 #pragma once
 
@@ -29,7 +29,7 @@ struct DictionaryEntry {
 };
 
 // complete: the bytes are the value. opaque: unknown type; the bytes are all up to the next value,
-// filled up to 4, and are kept. partial: the value is not there in full; the bytes are what is.
+// filled up to 4, and are kept. partial: the value is incomplete; the bytes are those present.
 enum class ValueState { complete, opaque, partial };
 
 struct ImageProperty {
@@ -69,8 +69,8 @@ struct SetImage {
 // damaged: something that the stream announces can't be read.
 enum class Severity { note, irregular, damaged };
 
-// Numbers of findings: 1xx the header, 2xx sections, 3xx properties, 4xx values, 5xx dictionaries. They stay
-// what they are; docs/property-sets.md lists them.
+// Numbers of findings: 1xx the header, 2xx sections, 3xx properties, 4xx values, 5xx dictionaries. They never
+// change; docs/property-sets.md lists them.
 enum class FindingCode {
     headerShort = 100,
     byteOrder = 101,

@@ -40,7 +40,7 @@ struct Value {
 };
 
 // Reads a value from the bytes after its type code. False: no such type, bytes missing, or a text that is
-// none of the code page (1252 where the section names none). Elements of a vector may be padded to 4 bytes
+// not valid in the code page (1252 where the section names none). Elements of a vector may be padded to 4 bytes
 // each, as a few writers do.
 ORLO_API bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage,
                           Value& value);
