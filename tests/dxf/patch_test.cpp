@@ -125,6 +125,18 @@ TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
     }
 }
 
+// The first byte of a file is a place too.
+TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
+    const std::string text = Section("ENTITIES", "0|LINE|8|0|10|0|20|0|11|1|21|0") + Tags("0|EOF");
+    const dxf::Document document = dxf::Read(text, {});
+    dxf::DrawingPatch patch(text, document.Tables());
+    Look look = patch.LookAt(document.entities.at(0).offset);
+    look.info = "registered";
+    patch.Change(document.entities[0].offset, look);
+    const dxf::Document read = dxf::Read(patch.Finish(), {});
+    EXPECT_TRUE(dxf::LookOf(read, read.entities.at(0)) == look);
+}
+
 TEST(Patches, RefusesWhatItCannotWriteBack) {
     std::string text = Drawing2004("0|TEXT|8|0|10|0|20|0|40|1|1|\xE4%%u");
     text.replace(text.find("AC1018"), 6, "AC1021"); // whose texts are UTF-8

@@ -75,7 +75,7 @@ void TablePatch::Scan() {
             const size_t section = tag.offset;
             tags.Next();
             const bool isHead = tag.Is(2, "HEADER") || tag.Is(2, "CLASSES");
-            if (!isHead && firstBody_ == 0) firstBody_ = section;
+            if (!isHead && !firstBody_) firstBody_ = section;
             if (tag.Is(2, "TABLES")) ScanTables(tags);
         } else if (tag.Is(9, "$HANDSEED")) {
             tags.Next();
@@ -85,7 +85,7 @@ void TablePatch::Scan() {
         }
         tags.Next();
     }
-    if (firstBody_ == 0) firstBody_ = tag.offset;
+    if (!firstBody_) firstBody_ = tag.offset;
     if (!seed_) return;
     if (const auto seed = HandleOf(Tag{kHandle, seed_->value}.Trimmed()); seed && *seed > 0)
         highest_ = std::max(highest_, *seed - 1);
@@ -119,7 +119,7 @@ TablePatch::Table& TablePatch::NeedTable(const char* name) {
 std::string TablePatch::LinesOf(const Values& values) {
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    const RecordPatch form(patch_, tags, tablesEnd_.value_or(firstBody_));
+    const RecordPatch form(patch_, tags, tablesEnd_.value_or(*firstBody_));
     std::string lines;
     for (const RecordPatch::Value& value : values)
         lines += form.Lines(value.code, decoder_.Encode(value.text));
@@ -225,7 +225,7 @@ void TablePatch::Finish() {
     }
     if (!newTables.empty() && !tablesEnd_)
         newTables = LinesOf({{0, "SECTION"}, {2, "TABLES"}}) + newTables + LinesOf({{0, "ENDSEC"}});
-    if (!newTables.empty()) patch_.Insert(tablesEnd_.value_or(firstBody_), newTables);
+    if (!newTables.empty()) patch_.Insert(tablesEnd_.value_or(*firstBody_), newTables);
     if (handleTaken_ && seed_)
         patch_.Replace(static_cast<size_t>(seed_->value.data() - patch_.Text().data()), seed_->value.size(),
                        Hex(highest_ + 1));

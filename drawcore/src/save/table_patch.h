@@ -54,7 +54,7 @@ private:
     std::map<std::string, Table> tables_;
     std::vector<std::string> applications_;
     std::optional<size_t> tablesEnd_; // of the ENDSEC of the section
-    size_t firstBody_ = 0;            // where such a section would begin
+    std::optional<size_t> firstBody_; // where such a section would begin
     std::optional<Group> seed_;       // the header's next free handle
     uint64_t highest_ = 0;
     bool handleTaken_ = false;
