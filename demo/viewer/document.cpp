@@ -79,14 +79,22 @@ std::string Document::LengthText(double length) const {
 }
 
 int Document::Change(const std::function<void()>& change) {
+    return Attempt([&] {
+        change();
+        return true;
+    });
+}
+
+int Document::Attempt(const std::function<bool()>& change) {
     ::DrawingBeginUndo(Drawing());
     try {
-        change();
+        if (change()) return ::DrawingEndUndo(Drawing());
     } catch (...) {
         ::DrawingEndUndo(Drawing());
         throw;
     }
-    return ::DrawingEndUndo(Drawing());
+    ::DrawingCancelUndo(Drawing());
+    return 0;
 }
 
 int Document::DroppedSteps() const {
@@ -99,4 +107,12 @@ int Document::UndoSteps() const {
 
 int Document::Undo() {
     return ::DrawingUndo(Drawing());
+}
+
+int Document::RedoSteps() const {
+    return ::DrawingCountRedo(Drawing());
+}
+
+int Document::Redo() {
+    return ::DrawingRedo(Drawing());
 }

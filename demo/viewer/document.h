@@ -1,4 +1,4 @@
-// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, and undo.
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, undo and redo.
 #pragma once
 
 #include <functional>
@@ -51,11 +51,16 @@ public:
 
     // Runs a change as one step that Undo takes back. The number of graphics that it changed.
     int Change(const std::function<void()>& change);
+    // The same; with false from the change all is at once as if it had never been.
+    int Attempt(const std::function<bool()>& change);
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
     int DroppedSteps() const;
     int UndoSteps() const;
     // The number of graphics that are as before again.
     int Undo();
+    int RedoSteps() const;
+    // The number of graphics that are changed again.
+    int Redo();
 
 private:
     Document(const std::string& path, OwnedDrawing drawing);

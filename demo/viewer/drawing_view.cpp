@@ -53,7 +53,10 @@ BOOL CDrawingView::Create(CWnd* parent, UINT id) {
 
 void CDrawingView::SetDocument(Document* document) {
     EndDrag();
+    HearOfChanges(nullptr);
     m_document = document;
+    const ChangeListener listener = {this, OnGraphicChanging};
+    HearOfChanges(&listener);
     m_camera.SetDrawing(document ? document->Drawing() : nullptr);
     SpoilAll();
     FitAll();
@@ -81,7 +84,7 @@ void CDrawingView::Zoom(double factor, CPoint anchor) {
 
 void CDrawingView::Pan(CSize pixels) {
     const CRect all = m_picture.Bounds();
-    if (m_spoiled.size() == 1 && m_spoiled.front() == all) { // nothing worth moving
+    if (IsAllSpoiled()) { // nothing worth moving
         m_camera.Pan(pixels);
         return;
     }
@@ -99,6 +102,15 @@ void CDrawingView::Pan(CSize pixels) {
 
 void CDrawingView::Redraw() {
     SpoilAll();
+}
+
+void CDrawingView::HearOfChanges(const ChangeListener* listener) {
+    if (m_document) ::DrawingSetChangeListener(m_document->Drawing(), listener);
+}
+
+void CDrawingView::OnGraphicChanging(void* view) {
+    CDrawingView& self = *static_cast<CDrawingView*>(view);
+    if (!self.IsAllSpoiled()) self.SpoilAll();
 }
 
 // ---- Selecting
@@ -268,6 +280,10 @@ void CDrawingView::Spoil(CRect area) {
     if (area == m_picture.Bounds()) m_spoiled.clear();
     m_spoiled.push_back(area);
     InvalidateRect(area, FALSE);
+}
+
+bool CDrawingView::IsAllSpoiled() const {
+    return m_spoiled.size() == 1 && m_spoiled.front() == m_picture.Bounds();
 }
 
 void CDrawingView::RenewPicture() {

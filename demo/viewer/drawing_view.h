@@ -15,6 +15,7 @@
 #include "demo/viewer/glow.h"
 #include "demo/viewer/memory_picture.h"
 #include "demo/viewer/rubber_band.h"
+#include "drawcore/undo.h"
 
 class DrawingViewClient {
 public:
@@ -35,7 +36,7 @@ public:
     BOOL Create(CWnd* parent, UINT id);
     // Shows the whole of the document, which outlives the view or is replaced before it goes; null: nothing.
     void SetDocument(Document* document);
-    // The look of graphics has changed.
+    // Draws everything anew. Changes of the document's graphics need no call: the view hears of them.
     void Redraw();
 
     const Camera& GetCamera() const { return m_camera; }
@@ -77,7 +78,11 @@ private:
     void EndDrag();
     void MoveBand(CPoint point);
 
+    static void OnGraphicChanging(void* view);
+    void HearOfChanges(const ChangeListener* listener);
+
     void Spoil(CRect area); // of the drawing's picture
+    bool IsAllSpoiled() const;
     void SpoilAll() { Spoil(m_picture.Bounds()); }
     void RenewPicture();
     void RenewScene();

@@ -20,7 +20,7 @@ constexpr const char* kKeys =
     "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
     "Tab\tselect the next one; Ctrl+A all, Esc none\n"
     "Double click, Alt+Enter\tproperties of the selection\n"
-    "Ctrl+Z\ttake the last change back\n"
+    "Ctrl+Z\ttake the last change back; Ctrl+Y makes it again\n"
     "Ctrl+N\tnew style after the selection; Ctrl+Enter edits it, Ctrl+E applies it\n"
     "\n"
     "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
@@ -45,6 +45,7 @@ ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
 ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnEditUndo)
+ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnEditRedo)
 ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
 ON_COMMAND(ID_EDIT_SELECT_NEXT, &CMainFrame::OnSelectNext)
 ON_COMMAND(ID_EDIT_SELECT_PREVIOUS, &CMainFrame::OnSelectPrevious)
@@ -169,7 +170,6 @@ void CMainFrame::OnEditProperties() {
     }
     const SheetOutcome outcome = EditSelection(this, *m_document);
     if (outcome.changed) {
-        m_view.Redraw();
         std::string message = Counted(outcome.changed, "graphic") + " changed";
         if (const int dropped = m_document->DroppedSteps())
             message += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
@@ -182,7 +182,10 @@ void CMainFrame::OnEditProperties() {
 void CMainFrame::OnEditUndo() {
     if (!CanDo(ID_EDIT_UNDO)) return;
     m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
-    m_view.Redraw();
+}
+
+void CMainFrame::OnEditRedo() {
+    if (CanDo(ID_EDIT_REDO)) m_status.ShowMessage("Made again for " + Counted(m_document->Redo(), "graphic"));
 }
 
 // ---- Styles
@@ -198,7 +201,6 @@ void CMainFrame::OnStyleProperties() {
 void CMainFrame::OnApplyStyle() {
     if (!CanDo(ID_STYLE_APPLY)) return;
     m_status.ShowMessage(ApplyStyle(*m_document));
-    m_view.Redraw();
 }
 
 // ---- Selecting
@@ -257,6 +259,8 @@ bool CMainFrame::CanDo(UINT command) const {
     switch (command) {
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
+    case ID_EDIT_REDO:
+        return m_document && m_document->RedoSteps() > 0;
     case ID_STYLE_PROPERTIES:
         return m_document && m_document->Styles().Current() != 0;
     case ID_STYLE_APPLY:

@@ -40,6 +40,7 @@ protected:
     afx_msg void OnFileOpen();
     afx_msg void OnAppExit();
     afx_msg void OnEditUndo();
+    afx_msg void OnEditRedo();
     afx_msg void OnSelectAll();
     afx_msg void OnSelectNext();
     afx_msg void OnSelectPrevious();

@@ -1,6 +1,7 @@
 // The main window: opening, and the road of an edit through the library's sheet and back by undo.
 
 #include "demo/viewer.h"
+#include "orlo/host/graphic.h"
 #include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
 
@@ -59,18 +60,29 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
     EXPECT_EQ(seen, Seen());
 }
 
-TEST_F(Viewer, CancelLeavesNoStepOfUndo) {
+// A page writes when it is left: the drawing behind the sheet shows it, and Cancel takes it back.
+TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable().front(), 0.5); });
+    user.Key('Z', UserInput::kControl);
     const PropertySnapshot before = Properties();
     user.Key('A', UserInput::kControl);
+    const std::vector<uint32_t> seen = Seen();
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
                       user.Key(VK_TAB, UserInput::kControl);
                       FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
+                      const std::vector<uint32_t> behind = Seen();
+                      user.Key(VK_TAB, UserInput::kControl);
+                      EXPECT_EQ(4u, before.ChangesTo(Properties()).size());
+                      EXPECT_NE(behind, Seen());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_TRUE(before == Properties());
+    EXPECT_EQ(seen, Seen());
     EXPECT_EQ(0, document().UndoSteps());
+    user.Key('Y', UserInput::kControl);
+    EXPECT_FALSE(before == Properties()) << "what was taken back before can still be made again";
 }
 
 TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
