@@ -47,6 +47,9 @@ public:
     void Pan(CSize pixels);
 
     void SelectAll();
+    void SelectOnly(const std::vector<GraphicStruct*>& graphics) {
+        Select(graphics, Selection::Way::Replace);
+    }
     void SelectNext(bool forward);
     void ClearSelection();
 

@@ -5,6 +5,7 @@
 #include <afxdlgs.h>
 
 #include "demo/viewer/control_tables.h"
+#include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/resource.h"
@@ -26,6 +27,9 @@ constexpr const char* kKeys =
     "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
     "Middle button, arrows\tmove the drawing\n"
     "Ctrl+O\topen a drawing";
+
+constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
+constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
 std::string Counted(int count, const char* one) {
     return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
@@ -50,6 +54,9 @@ ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
 ON_COMMAND(ID_EDIT_SELECT_NEXT, &CMainFrame::OnSelectNext)
 ON_COMMAND(ID_EDIT_SELECT_PREVIOUS, &CMainFrame::OnSelectPrevious)
 ON_COMMAND(ID_EDIT_SELECT_NONE, &CMainFrame::OnSelectNone)
+ON_COMMAND(ID_EDIT_SELECT_SIMILAR, &CMainFrame::OnSelectSimilar)
+ON_COMMAND_RANGE(ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST, &CMainFrame::OnSelectKind)
+ON_COMMAND_RANGE(ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST, &CMainFrame::OnSelectLayer)
 ON_COMMAND(ID_EDIT_PROPERTIES, &CMainFrame::OnProperties)
 ON_COMMAND(ID_STYLE_NEW, &CMainFrame::OnNewStyle)
 ON_COMMAND(ID_STYLE_PROPERTIES, &CMainFrame::OnStyleProperties)
@@ -169,6 +176,7 @@ void CMainFrame::OnEditProperties() {
         return;
     }
     const SheetOutcome outcome = EditSelection(this, *m_document);
+    ShowChange();
     if (outcome.changed) {
         std::string message = Counted(outcome.changed, "graphic") + " changed";
         if (const int dropped = m_document->DroppedSteps())
@@ -179,13 +187,21 @@ void CMainFrame::OnEditProperties() {
     }
 }
 
+// What the window says of graphics besides the drawing itself.
+void CMainFrame::ShowChange() {
+    OnSelectionChanged();
+}
+
 void CMainFrame::OnEditUndo() {
     if (!CanDo(ID_EDIT_UNDO)) return;
     m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
+    ShowChange();
 }
 
 void CMainFrame::OnEditRedo() {
-    if (CanDo(ID_EDIT_REDO)) m_status.ShowMessage("Made again for " + Counted(m_document->Redo(), "graphic"));
+    if (!CanDo(ID_EDIT_REDO)) return;
+    m_status.ShowMessage("Made again for " + Counted(m_document->Redo(), "graphic"));
+    ShowChange();
 }
 
 // ---- Styles
@@ -201,6 +217,7 @@ void CMainFrame::OnStyleProperties() {
 void CMainFrame::OnApplyStyle() {
     if (!CanDo(ID_STYLE_APPLY)) return;
     m_status.ShowMessage(ApplyStyle(*m_document));
+    ShowChange();
 }
 
 // ---- Selecting
@@ -221,9 +238,36 @@ void CMainFrame::OnSelectNone() {
     m_view.ClearSelection();
 }
 
+void CMainFrame::OnSelectSimilar() {
+    if (CanDo(ID_EDIT_SELECT_SIMILAR))
+        m_view.SelectOnly(LikeThese(m_document->Selectable(), m_document->Selected().Members()));
+}
+
+std::vector<KindCount> CMainFrame::SelectedKinds() const {
+    return m_document ? CountKinds(m_document->Selected().Members()) : std::vector<KindCount>();
+}
+
+void CMainFrame::OnSelectKind(UINT command) {
+    const std::vector<KindCount> kinds = SelectedKinds();
+    const size_t place = command - kKindCommands.first;
+    if (place < kinds.size()) m_view.SelectOnly(OfKind(m_document->Selected().Members(), kinds[place].kind));
+}
+
+std::vector<LayerCount> CMainFrame::Layers() const {
+    return m_document ? CountLayers(m_document->Drawing(), m_document->Selectable())
+                      : std::vector<LayerCount>();
+}
+
+void CMainFrame::OnSelectLayer(UINT command) {
+    const std::vector<LayerCount> layers = Layers();
+    const size_t place = command - kLayerCommands.first;
+    if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
+}
+
 void CMainFrame::OnSelectionChanged() {
-    const int count = m_document ? m_document->Selected().Count() : 0;
-    m_status.ShowSelection(count ? std::to_string(count) + " selected" : "");
+    if (!m_document) return m_status.ShowSelection("", "");
+    const Graphics selected = m_document->Selected().Members();
+    m_status.ShowSelection(KindsText(selected), WidthsText(m_document->Drawing(), selected));
 }
 
 void CMainFrame::OnPointerMoved(WorldPoint point) {
@@ -266,6 +310,7 @@ bool CMainFrame::CanDo(UINT command) const {
     case ID_STYLE_APPLY:
         return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
     case ID_STYLE_NEW:
+    case ID_EDIT_SELECT_SIMILAR:
     case ID_EDIT_PROPERTIES:
     case ID_EDIT_SELECT_NONE:
     case ID_VIEW_FIT_SELECTION:
@@ -282,8 +327,27 @@ bool CMainFrame::CanDo(UINT command) const {
     }
 }
 
+// A submenu is known by its first item.
+bool CMainFrame::FillSubmenu(HMENU menu) {
+    const UINT command = ::GetMenuItemID(menu, 0);
+    std::vector<std::string> texts;
+    if (command == kKindCommands.first) {
+        for (const KindCount& kind : SelectedKinds())
+            texts.push_back(KindText(kind));
+        FillMenu(menu, kKindCommands, texts, "Nothing is selected");
+    } else if (command == kLayerCommands.first) {
+        for (const LayerCount& layer : Layers())
+            texts.push_back(layer.name + "\t" + std::to_string(layer.count));
+        FillMenu(menu, kLayerCommands, texts, "No graphics");
+    } else {
+        return false;
+    }
+    return true;
+}
+
 LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
     const HMENU menu = reinterpret_cast<HMENU>(wParam);
+    if (FillSubmenu(menu)) return 0;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         const UINT command = ::GetMenuItemID(menu, i);
         ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));

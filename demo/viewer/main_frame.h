@@ -5,9 +5,11 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "demo/viewer/document.h"
 #include "demo/viewer/drawing_view.h"
+#include "demo/viewer/likeness.h"
 #include "demo/viewer/status_line.h"
 
 class CMainFrame : public CFrameWnd, private DrawingViewClient {
@@ -45,6 +47,9 @@ protected:
     afx_msg void OnSelectNext();
     afx_msg void OnSelectPrevious();
     afx_msg void OnSelectNone();
+    afx_msg void OnSelectSimilar();
+    afx_msg void OnSelectKind(UINT command);
+    afx_msg void OnSelectLayer(UINT command);
     afx_msg void OnProperties();
     afx_msg void OnNewStyle();
     afx_msg void OnStyleProperties();
@@ -63,7 +68,11 @@ private:
 
     void ShowWhatOpened();
     void ShowTitle();
+    void ShowChange();
     bool CanDo(UINT command) const;
+    std::vector<KindCount> SelectedKinds() const;
+    std::vector<LayerCount> Layers() const;
+    bool FillSubmenu(HMENU menu);
 
     CDrawingView m_view;
     CStatusLine m_status;

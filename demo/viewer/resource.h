@@ -14,6 +14,7 @@
 #define ID_EDIT_SELECT_PREVIOUS 202
 #define ID_EDIT_SELECT_NONE 203
 #define ID_EDIT_PROPERTIES 204
+#define ID_EDIT_SELECT_SIMILAR 208
 #define ID_STYLE_NEW 205
 #define ID_STYLE_PROPERTIES 206
 #define ID_STYLE_APPLY 207
@@ -22,6 +23,12 @@
 #define ID_VIEW_FIT_ALL 212
 #define ID_VIEW_FIT_SELECTION 213
 #define ID_HELP_KEYS 220
+
+// Submenus that are made as they open: the first and the last command of each.
+#define ID_SELECT_KIND_FIRST 400
+#define ID_SELECT_KIND_LAST 419
+#define ID_SELECT_LAYER_FIRST 1000
+#define ID_SELECT_LAYER_LAST 1999
 
 // Steps of the wizard that makes a style.
 #define IDD_STYLE_NAME 300

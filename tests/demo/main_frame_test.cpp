@@ -1,6 +1,7 @@
 // The main window: opening, and the road of an edit through the library's sheet and back by undo.
 
 #include "demo/viewer.h"
+#include "demo/viewer/resource.h"
 #include "orlo/host/graphic.h"
 #include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
@@ -122,6 +123,53 @@ TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
 TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {
     user.Key(VK_RETURN, UserInput::kAlt);
     EXPECT_EQ(frame->m_hWnd, ::GetActiveWindow());
+}
+
+// What a submenu offers when it opens, and choosing from it.
+TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
+    const auto pane = [&](int place) {
+        char text[256] = "";
+        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, static_cast<WPARAM>(place),
+                       reinterpret_cast<LPARAM>(text));
+        return std::string(text);
+    };
+    const auto choose = [&](UINT command) { ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0); };
+    const auto offers = [&](UINT first) {
+        std::vector<std::string> texts;
+        const HMENU edit = ::GetSubMenu(::GetMenu(frame->m_hWnd), 1);
+        for (int i = 0; i < ::GetMenuItemCount(edit); ++i) {
+            const HMENU menu = ::GetSubMenu(edit, i);
+            if (!menu || ::GetMenuItemID(menu, 0) != first) continue;
+            ::SendMessageA(frame->m_hWnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0);
+            for (int item = 0; item < ::GetMenuItemCount(menu); ++item) {
+                char text[64] = "";
+                ::GetMenuStringA(menu, static_cast<UINT>(item), text, sizeof text, MF_BYPOSITION);
+                texts.push_back(text);
+            }
+        }
+        return texts;
+    };
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(offers(ID_SELECT_KIND_FIRST), Texts{"Nothing is selected"});
+    EXPECT_EQ(offers(ID_SELECT_LAYER_FIRST), (Texts{"0\t3", "A && B\t1"}));
+    choose(ID_SELECT_LAYER_FIRST + 1);
+    EXPECT_EQ(pane(1), " 1 text");
+    user.Key('A', UserInput::kControl);
+    EXPECT_EQ(pane(1), " 4: 1 text, 3 lines");
+    EXPECT_EQ(offers(ID_SELECT_KIND_FIRST), (Texts{"1 text", "3 lines"}));
+    choose(ID_SELECT_KIND_FIRST + 1);
+    EXPECT_EQ(pane(1), " 3 lines");
+    EXPECT_EQ(pane(2), " 3 x 0 mm");
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[1], 10 / 25.4); });
+    user.Key('A', UserInput::kControl);
+    EXPECT_EQ(pane(2), " 2 x 0 mm, 1 x 10 mm");
+    user.Key('Z', UserInput::kControl);
+    EXPECT_EQ(pane(2), " 3 x 0 mm");
+
+    ::GraphicSetPenColor(document().Selectable()[1], RGB(255, 0, 0)); // that of the first one
+    user.Click(view(), Pixel(10, 5));
+    user.Key('I', UserInput::kControl);
+    EXPECT_EQ(selection().Count(), 2);
 }
 
 } // namespace
