@@ -42,7 +42,7 @@ ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
-    ::ViewportSetBackground(m_camera.Viewport(), kBackground);
+    SetPaper(kDarkPaper);
 }
 
 CDrawingView::~CDrawingView() = default;
@@ -111,6 +111,18 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
     if (!self.IsAllSpoiled()) self.SpoilAll();
+}
+
+void CDrawingView::SetPaper(COLORREF paper) {
+    m_paper = paper;
+    ::ViewportSetBackground(m_camera.Viewport(), paper);
+    SpoilAll();
+}
+
+void CDrawingView::ShowLineWeights(bool show) {
+    m_lineWeights = show;
+    ::ViewportShowLineWeights(m_camera.Viewport(), show);
+    SpoilAll();
 }
 
 // ---- Selecting
@@ -288,7 +300,7 @@ bool CDrawingView::IsAllSpoiled() const {
 
 void CDrawingView::RenewPicture() {
     for (const CRect& area : m_spoiled) {
-        m_picture.Fill(area, kBackground);
+        m_picture.Fill(area, m_paper);
         if (m_document) {
             const SavedDC saved(m_picture.Dc());
             ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);

@@ -28,7 +28,8 @@ public:
 class CDrawingView : public CWnd {
     DECLARE_DYNAMIC(CDrawingView)
 public:
-    static constexpr COLORREF kBackground = RGB(33, 40, 48);
+    static constexpr COLORREF kDarkPaper = RGB(33, 40, 48);
+    static constexpr COLORREF kLightPaper = RGB(255, 255, 255);
 
     explicit CDrawingView(DrawingViewClient& client);
     ~CDrawingView() override;
@@ -38,6 +39,13 @@ public:
     void SetDocument(Document* document);
     // Draws everything anew. Changes of the document's graphics need no call: the view hears of them.
     void Redraw();
+
+    // The colour that lies under the drawing; dark at first.
+    COLORREF Paper() const { return m_paper; }
+    void SetPaper(COLORREF paper);
+    // Whether lines are as wide as their pens, which they are at first, or all thin.
+    bool ShowsLineWeights() const { return m_lineWeights; }
+    void ShowLineWeights(bool show);
 
     const Camera& GetCamera() const { return m_camera; }
     void FitAll();
@@ -94,6 +102,8 @@ private:
     DrawingViewClient& m_client;
     Document* m_document = nullptr;
     Camera m_camera;
+    COLORREF m_paper = kDarkPaper;
+    bool m_lineWeights = true;
 
     MemoryPicture m_picture; // the drawing
     MemoryPicture m_scene;   // with the selection

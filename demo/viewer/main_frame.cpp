@@ -10,29 +10,49 @@
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/resource.h"
 #include "demo/viewer/style_commands.h"
+#include "drawcore/application.h"
+#include "orlo/host/application.h"
+#include "orlo/host/table.h"
 
 namespace {
 
 constexpr const char* kTitle = "Orlo Demo";
 constexpr const char* kOpenFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
-constexpr const char* kKeys =
-    "Click\tselect; Ctrl adds or takes away, Shift adds\n"
-    "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
-    "Tab\tselect the next one; Ctrl+A all, Esc none\n"
-    "Double click, Alt+Enter\tproperties of the selection\n"
-    "Ctrl+Z\ttake the last change back; Ctrl+Y makes it again\n"
-    "Ctrl+N\tnew style after the selection; Ctrl+Enter edits it, Ctrl+E applies it\n"
-    "\n"
-    "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
-    "Middle button, arrows\tmove the drawing\n"
-    "Ctrl+O\topen a drawing";
+// Lines so short that the box breaks none of them.
+constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift adds\n"
+                              "Drag to the right\tselect what is inside\n"
+                              "Drag to the left\tselect also what is crossed\n"
+                              "Tab, Shift+Tab\tselect the next one, the one before\n"
+                              "Ctrl+A, Esc\tselect all, nothing\n"
+                              "Ctrl+I\tselect all that are similar\n"
+                              "\n"
+                              "Double click, Alt+Enter\tproperties of the selection\n"
+                              "Ctrl+Z, Ctrl+Y\ttake the last change back, make it again\n"
+                              "Ctrl+N\tnew style after the selection\n"
+                              "Ctrl+Enter, Ctrl+E\tedit the style, apply it\n"
+                              "\n"
+                              "Wheel, + and -\tzoom\n"
+                              "Home, End\tfit the drawing, the selection\n"
+                              "Middle button, arrows\tmove the drawing\n"
+                              "Ctrl+W\tline weights, or all lines thin\n"
+                              "\n"
+                              "Ctrl+O\topen a drawing";
 
 constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
 constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
 std::string Counted(int count, const char* one) {
     return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
+
+// Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
+int DpiOf(HWND window) {
+    using Function = UINT(WINAPI*)(HWND);
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
+    if (found) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
+    const WindowDC screen(nullptr);
+    return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
 
 } // namespace
@@ -45,6 +65,7 @@ ON_WM_DESTROY()
 ON_WM_SIZE()
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
+ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
@@ -65,6 +86,9 @@ ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
 ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
 ON_COMMAND(ID_VIEW_FIT_ALL, &CMainFrame::OnFitAll)
 ON_COMMAND(ID_VIEW_FIT_SELECTION, &CMainFrame::OnFitSelection)
+ON_COMMAND(ID_VIEW_DARK_PAPER, &CMainFrame::OnDarkPaper)
+ON_COMMAND(ID_VIEW_LIGHT_PAPER, &CMainFrame::OnLightPaper)
+ON_COMMAND(ID_VIEW_LINE_WEIGHTS, &CMainFrame::OnLineWeights)
 ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
 END_MESSAGE_MAP()
 
@@ -85,6 +109,8 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
+    SetPaper(CDrawingView::kDarkPaper);
+    m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
     DragAcceptFiles();
     return 0;
@@ -97,9 +123,23 @@ void CMainFrame::OnDestroy() {
 
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
-    if (type == SIZE_MINIMIZED || !m_status.GetSafeHwnd()) return;
+    if (type != SIZE_MINIMIZED && m_status.GetSafeHwnd()) ArrangeClient();
+}
+
+void CMainFrame::ArrangeClient() {
     m_status.Arrange();
-    m_view.MoveWindow(0, 0, cx, std::max(0, cy - m_status.Height()));
+    CRect client;
+    GetClientRect(client);
+    m_view.MoveWindow(0, 0, client.Width(), std::max(0, client.Height() - m_status.Height()));
+}
+
+// The window has come to a monitor of another resolution, which says how large it should be there.
+LRESULT CMainFrame::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
+    m_status.SetDpi(HIWORD(wParam));
+    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
+    MoveWindow(place.left, place.top, place.right - place.left, place.bottom - place.top);
+    ArrangeClient(); // also if the size is the same
+    return 0;
 }
 
 void CMainFrame::OnSetFocus(CWnd*) {
@@ -293,6 +333,23 @@ void CMainFrame::OnFitSelection() {
     m_view.FitSelection();
 }
 
+void CMainFrame::OnDarkPaper() {
+    SetPaper(CDrawingView::kDarkPaper);
+}
+
+void CMainFrame::OnLightPaper() {
+    SetPaper(CDrawingView::kLightPaper);
+}
+
+void CMainFrame::SetPaper(COLORREF paper) {
+    m_view.SetPaper(paper);
+    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(paper));
+}
+
+void CMainFrame::OnLineWeights() {
+    m_view.ShowLineWeights(!m_view.ShowsLineWeights());
+}
+
 void CMainFrame::OnHelpKeys() {
     MessageBox(kKeys, kTitle, MB_OK | MB_ICONINFORMATION);
 }
@@ -345,12 +402,26 @@ bool CMainFrame::FillSubmenu(HMENU menu) {
     return true;
 }
 
+bool CMainFrame::IsChosen(UINT command) const {
+    switch (command) {
+    case ID_VIEW_DARK_PAPER:
+        return m_view.Paper() == CDrawingView::kDarkPaper;
+    case ID_VIEW_LIGHT_PAPER:
+        return m_view.Paper() == CDrawingView::kLightPaper;
+    case ID_VIEW_LINE_WEIGHTS:
+        return m_view.ShowsLineWeights();
+    default:
+        return false;
+    }
+}
+
 LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
     const HMENU menu = reinterpret_cast<HMENU>(wParam);
     if (FillSubmenu(menu)) return 0;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         const UINT command = ::GetMenuItemID(menu, i);
         ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));
+        ::CheckMenuItem(menu, i, MF_BYPOSITION | (IsChosen(command) ? MF_CHECKED : MF_UNCHECKED));
     }
     return 0;
 }

@@ -37,6 +37,7 @@ protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* before);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
     afx_msg void OnFileOpen();
@@ -58,6 +59,9 @@ protected:
     afx_msg void OnZoomOut();
     afx_msg void OnFitAll();
     afx_msg void OnFitSelection();
+    afx_msg void OnDarkPaper();
+    afx_msg void OnLightPaper();
+    afx_msg void OnLineWeights();
     afx_msg void OnHelpKeys();
     DECLARE_MESSAGE_MAP()
 
@@ -70,6 +74,9 @@ private:
     void ShowTitle();
     void ShowChange();
     bool CanDo(UINT command) const;
+    bool IsChosen(UINT command) const;
+    void ArrangeClient();
+    void SetPaper(COLORREF paper); // of view and previews
     std::vector<KindCount> SelectedKinds() const;
     std::vector<LayerCount> Layers() const;
     bool FillSubmenu(HMENU menu);

@@ -22,6 +22,9 @@
 #define ID_VIEW_ZOOM_OUT 211
 #define ID_VIEW_FIT_ALL 212
 #define ID_VIEW_FIT_SELECTION 213
+#define ID_VIEW_DARK_PAPER 214
+#define ID_VIEW_LIGHT_PAPER 215
+#define ID_VIEW_LINE_WEIGHTS 216
 #define ID_HELP_KEYS 220
 
 // Submenus that are made as they open: the first and the last command of each.

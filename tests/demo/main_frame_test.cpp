@@ -120,6 +120,22 @@ TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
     EXPECT_STREQ("kabeja-draft4-roof-details.dxf - Orlo Demo", title);
 }
 
+TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
+    const HWND status = ::GetDlgItem(frame->m_hWnd, IDC_STATUS);
+    const auto windowOf = [](HWND window) {
+        CRect rect;
+        ::GetWindowRect(window, rect);
+        return rect;
+    };
+    const int before = windowOf(status).Height();
+    CRect wanted = windowOf(frame->m_hWnd); // of the same size: nothing else would arrange it
+    ::OffsetRect(wanted, 10, 20);
+    ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
+    EXPECT_EQ(windowOf(frame->m_hWnd), wanted);
+    EXPECT_GT(windowOf(status).Height(), before * 3 / 2);
+    EXPECT_EQ(windowOf(view()).bottom, windowOf(status).top);
+}
+
 TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {
     user.Key(VK_RETURN, UserInput::kAlt);
     EXPECT_EQ(frame->m_hWnd, ::GetActiveWindow());
