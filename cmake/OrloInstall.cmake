@@ -28,18 +28,23 @@ install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN example
 install(DIRECTORY packaging/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})
 set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
 install(DIRECTORY packaging/example/ DESTINATION ${examples})
-install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp
+install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp docs/examples/c_host.c
         DESTINATION ${examples})
+install(DIRECTORY skeleton DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo)
+# The adapter has the name of the reference database: a host that needs it ships it in its place.
+install(TARGETS drawcore_adapter DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo/adapter)
+install(FILES ${ORLO_ADAPTER_HEADER} TYPE INCLUDE)
 install(FILES tests/data/dxf/kabeja-draft4-roof-details.dxf DESTINATION ${examples} RENAME roof.dxf)
 
 # Everything that is handed on, and nothing else: what has to be built before it is installed.
 get_property(products GLOBAL PROPERTY ORLO_PRODUCTS)
-add_custom_target(products DEPENDS ${products})
+add_custom_target(products DEPENDS ${products} drawcore_adapter)
 
 # Last: what has been copied above loses its debug data to a file beside it.
 foreach(product ${products})
-  list(APPEND binaries $<TARGET_FILE_NAME:${product}>)
+  list(APPEND binaries bin/$<TARGET_FILE_NAME:${product}>)
 endforeach()
+list(APPEND binaries ${CMAKE_INSTALL_DATADIR}/orlo/adapter/$<TARGET_FILE_NAME:drawcore_adapter>)
 install(CODE "set(objcopy \"${CMAKE_OBJCOPY}\")
 set(binaries \"${binaries}\")
 set(runtime \"${runtime_names}\")")

@@ -1,7 +1,7 @@
-# At installation: moves the debug data of each of ${binaries} in bin/ to NAME.debug beside it, where gdb finds it.
+# At installation: moves the debug data of each of ${binaries} to NAME.debug beside it, where gdb finds it.
 
 foreach(name ${binaries})
-  set(binary $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/${name})
+  set(binary $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${name})
   execute_process(COMMAND ${objcopy} --only-keep-debug ${binary} ${binary}.debug COMMAND_ERROR_IS_FATAL ANY)
   execute_process(COMMAND ${objcopy} --strip-all --add-gnu-debuglink=${binary}.debug ${binary} COMMAND_ERROR_IS_FATAL ANY)
 endforeach()

@@ -15,7 +15,8 @@ struct Bench {
 };
 
 constexpr Bench kBenches[] = {{"merge", BenchMerge}, {"insert", BenchInsert},   {"open", BenchOpen},
-                              {"pages", BenchPages}, {"preview", BenchPreview}, {"fill", BenchFill}};
+                              {"pages", BenchPages}, {"preview", BenchPreview}, {"fill", BenchFill},
+                              {"c", BenchC}};
 
 bool Wanted(const char* name, int argc, char** argv) {
     for (int i = 1; i < argc; ++i)

@@ -7,3 +7,4 @@ void BenchOpen();
 void BenchPages();
 void BenchPreview();
 void BenchFill();
+void BenchC();

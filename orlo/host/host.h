@@ -20,7 +20,7 @@
 //   picture.h      pictures in memory
 //   strings.h      texts of the host
 //
-// In C++, header only: owners.h, owned_string.h, walk.h and property.h.
+// Plain C, for any compiler. In C++, header only, besides: owners.h, owned_string.h, walk.h and property.h.
 //
 // All lengths in a graphic are drawing units unless said otherwise. Results named "int" are non-zero on success.
 // Everything is called on the user-interface thread.
@@ -33,9 +33,7 @@
 #include "orlo/host/layer.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
-#include "orlo/host/owners.h"
 #include "orlo/host/picture.h"
-#include "orlo/host/property.h"
 #include "orlo/host/records.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/strings.h"
@@ -45,5 +43,10 @@
 #include "orlo/host/units.h"
 #include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
-#include "orlo/host/walk.h"
 #include "orlo/host/words.h"
+
+#ifdef __cplusplus
+#include "orlo/host/owners.h"
+#include "orlo/host/property.h"
+#include "orlo/host/walk.h"
+#endif

@@ -4,9 +4,9 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-struct MatrixStruct {
+typedef struct MatrixStruct {
     double at[4][4];
-};
+} MatrixStruct;
 
 // Each call gives a new matrix, which MatrixDispose frees: the given one (null: the identity), followed by the step. The
 // given one stays the caller's. reserved is 0. Null if there is no memory.

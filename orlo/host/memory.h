@@ -1,7 +1,7 @@
 // Blocks and strings that cross the boundary between library and host. No window header.
 #pragma once
 
-#include <cstddef>
+#include <stddef.h>
 
 #include "orlo/host/api.h"
 

@@ -1,7 +1,7 @@
 // Pictures in memory.
 #pragma once
 
-#include <cstdint>
+#include <stdint.h>
 
 #include "orlo/host/api.h"
 

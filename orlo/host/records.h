@@ -1,22 +1,27 @@
 // Records whose byte offsets are a contract between library and host. A pointer has its natural width.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <stddef.h>
+#include <stdint.h>
 
 #include "orlo/host/words.h"
 
 #if defined(_WIN32)
 #include <windows.h>
 #else
-using HPALETTE = struct HPALETTE__*;
+typedef struct HPALETTE__* HPALETTE;
 #endif
 
-struct AppStruct;
-struct DrawingStruct;
-struct TableStruct;
-struct ExtentsStruct;
-struct ViewportStruct;
+typedef struct AppStruct AppStruct;
+typedef struct DrawingStruct DrawingStruct;
+typedef struct GraphicStruct GraphicStruct;
+typedef struct VertexStruct VertexStruct;
+typedef struct PropertyTable PropertyTable;
+
+// The host's own.
+typedef struct TableStruct TableStruct;
+typedef struct ExtentsStruct ExtentsStruct;
+typedef struct ViewportStruct ViewportStruct;
 
 #pragma pack(push, 4)
 
@@ -64,6 +69,7 @@ struct VertexStruct {
 
 #pragma pack(pop)
 
+#ifdef __cplusplus
 static_assert(offsetof(GraphicStruct, dwFlags) == 4);
 static_assert(offsetof(GraphicStruct, bType) == 0x20);
 static_assert(offsetof(GraphicStruct, wRegenMethod) == 0x22);
@@ -80,6 +86,7 @@ static_assert(offsetof(VertexStruct, wFlags) == 4);
 static_assert(offsetof(VertexStruct, x) == 0x18);
 static_assert(offsetof(VertexStruct, y) == 0x20);
 static_assert(offsetof(VertexStruct, z) == 0x28);
+#endif
 
 // Slots of a graphic's property table. The number that PropLookup gives is valid for that graphic only. PropSet gives 0 if the
 // graphic does not take the value; the user is then told how many graphics could not be changed.

@@ -11,13 +11,13 @@ DRAWCORE_API int LineStyleGetDLItems(TableStruct*, uint16_t id);
 DRAWCORE_API int LineStyleGetPattern(TableStruct*, uint16_t id, double* pattern);
 
 // What a brush style is. Set: the style is a vector pattern; clear: a bitmap.
-constexpr uint16_t kBrushVector = 1;
+ORLO_CONSTANT uint16_t kBrushVector = 1;
 // The second bit says of a vector pattern that it has lines, and of a bitmap that it takes the brush colour.
-constexpr uint16_t kBrushHasLines = 2;
-constexpr uint16_t kBrushTakesColor = 2;
+ORLO_CONSTANT uint16_t kBrushHasLines = 2;
+ORLO_CONSTANT uint16_t kBrushTakesColor = 2;
 
 // One family of lines of a vector pattern; the host's.
-struct BrushPatternStruct {};
+typedef struct BrushPatternStruct BrushPatternStruct;
 
 // 0 if there is no such style.
 DRAWCORE_API uint16_t BrushStyleGetFlags(TableStruct*, uint16_t id);

@@ -13,6 +13,10 @@
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
 #include "orlo/controls/style_name_control.h"
+#include "orlo/exchange/ddx_control.h"
+#include "orlo/exchange/ddx_table.h"
+#include "orlo/wizard/wizard_sheet.h"
+#include "support/sheet_driver.h"
 
 namespace {
 
@@ -140,6 +144,49 @@ TEST(ControlLife, TheFrameworkMakesControlsByName) {
         delete object;
     }
     EXPECT_EQ(nullptr, RUNTIME_CLASS(CComboControl)->m_pfnCreateObject) << "a base is not made by name";
+}
+
+// One by its class, one that the exchange takes over and fills from, both of a page of the program's.
+class LayerAndColor : public CPropertyPage {
+public:
+    LayerAndColor() : CPropertyPage(IDD_PAGE, 0) {}
+
+    CColorControl colors;
+    unsigned int layer = 1;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        CPropertyPage::DoDataExchange(pDX);
+        DDX_Control(1, pDX, IDC_TAKEN_OVER, colors);
+        DDX_CBTableIndex(1, pDX, IDC_LAYER, layer);
+    }
+};
+
+TEST(ControlLife, AWizardsPageHasThemToo) {
+    HostWindow host;
+    const TestDrawing drawing;
+    TableStruct* layers = drawing.Table(kTableLayers);
+    TableEntryAdd(layers, "Walls", nullptr);
+    host.answer = layers;
+    LayerAndColor page;
+    CPropertyPage last(IDD_PAGE, 0);
+    CWizardSheet wizard("New wall", nullptr, 0);
+    wizard.AddPage(&page);
+    wizard.AddPage(&last);
+    constexpr int kNext = 101;
+    EXPECT_EQ(IDOK, SheetDriver().Run(wizard, [&](SheetDriver& user) {
+        const CWnd* control = CWnd::FromHandlePermanent(user.Control(IDC_LAYER));
+        ASSERT_TRUE(control != nullptr && control->IsKindOf(RUNTIME_CLASS(CLayerControl)));
+        EXPECT_EQ(layers, static_cast<const CLayerControl*>(control)->m_pTable);
+        EXPECT_EQ(user.Control(IDC_TAKEN_OVER), page.colors.m_hWnd);
+        EXPECT_EQ(layers, page.colors.m_pTable);
+        EXPECT_EQ(2, host.Count(kControlReady));
+        EXPECT_EQ(0, user.Selection(IDC_LAYER)) << "filled before the page shows its values";
+        user.Choose(IDC_LAYER, 1);
+        user.ClickSheetButton(kNext);
+        user.ClickSheetButton(kNext);
+    }));
+    EXPECT_EQ(2u, page.layer);
 }
 
 } // namespace

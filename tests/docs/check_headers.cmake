@@ -1,4 +1,5 @@
-# Headers that documents and headers point to exist, and host.h has all C headers of its folder: cmake -D ROOT=FOLDER -P check_headers.cmake
+# Headers that documents and headers point to exist; host.h has all C headers of its folder, and they are C:
+# cmake -D ROOT=FOLDER -D CC=COMPILER -P check_headers.cmake
 
 file(GLOB texts ${ROOT}/*.md ${ROOT}/docs/*.md ${ROOT}/afx/*.md)
 file(GLOB_RECURSE headers ${ROOT}/orlo/*.h)
@@ -26,5 +27,23 @@ foreach(part ${parts})
   string(FIND "${host}" "#include \"${part}\"" found)
   if(found EQUAL -1 AND NOT for_cpp)
     message(SEND_ERROR "orlo/host/host.h does not include ${part}")
+  endif()
+endforeach()
+
+# Each C header alone, as a C program of a host includes it, and all of them in a UNICODE one.
+function(check_c header)
+  execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${ARGN}
+                          -I ${ROOT} -include ${header} -x c /dev/null
+                  RESULT_VARIABLE code ERROR_VARIABLE messages)
+  if(code)
+    message(SEND_ERROR "${header} does not compile as C ${ARGN}:\n${messages}")
+  endif()
+endfunction()
+
+check_c(orlo/host/host.h -DUNICODE)
+foreach(part ${parts})
+  file(STRINGS ${ROOT}/${part} for_cpp REGEX "^namespace")
+  if(NOT for_cpp)
+    check_c(${part})
   endif()
 endforeach()

@@ -35,9 +35,17 @@ cmake -S "$prefix/share/orlo/examples" -B "$work/examples" -G Ninja -DCMAKE_TOOL
 cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.log"; exit 1; }
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
+drive "$work/examples/c_host.exe"
 mkdir "$work/alone" # without any DLL in reach
 cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
 [ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
+
+step "a database of its own, from the skeleton"
+cmake -S "$prefix/share/orlo/skeleton" -B "$work/skeleton" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$work/skeleton" >"$work/skeleton.log" || { cat "$work/skeleton.log"; exit 1; }
+run "$prefix/bin/hostcheck.exe" "$(for_windows "$work/skeleton/drawcore32.dll")" >"$work/hostcheck.log" ||
+    { cat "$work/hostcheck.log"; exit 1; }
 
 step "the example by one compiler line"
 export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig

@@ -9,9 +9,10 @@ import re
 import sys
 
 # The rooms of the library from top to bottom: a room includes itself and those below it.
-LAYERS = ["entry", "pages", "exchange", "frame", "controls", "samples", "binding", "win", "host"]
+LAYERS = ["c", "entry", "pages", "exchange", "frame", "controls", "samples", "binding", "win", "host"]
 MAY = {room: set(LAYERS[place:]) for place, room in enumerate(LAYERS)}
 MAY["binding"] = {"binding", "host"}  # win is below it, but has windows
+MAY["c"] |= {"propset", "summary"}
 MAY["include"] = set(LAYERS) | {"propset", "summary", "wizard"}
 MAY["propset"] = {"propset"}
 MAY["summary"] = {"summary", "propset", "win"}
@@ -19,6 +20,8 @@ MAY["wizard"] = {"wizard", "win"}
 MAY["resources"] = {"resources"}
 for room in "entry pages exchange frame controls wizard".split():
     MAY[room].add("resources")  # texts, and the numbers of templates and controls
+
+TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # as a host writes them, in angle brackets
 
 # Single headers that a room may have besides: they hold declarations of the host contract and no window.
 MAY_ALSO = {"propset": {"orlo/host/memory.h"}, "summary": {"orlo/host/picture.h"}}
@@ -30,7 +33,8 @@ WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|d
 # Outside the library: which of its headers a folder may include.
 ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, and no part of the interface
 PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
-OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST, "afx": NOTHING}
+OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST,
+           "skeleton": HOST, "afx": NOTHING}
 
 
 def includes(path):
@@ -42,9 +46,9 @@ def sources(folder):
 
 
 def public_headers(root):
-    """What orlo.h reaches, and the host contract with its C++ helpers."""
+    """What orlo.h reaches, orlo_c.h, and the host contract with its C++ helpers."""
     host = [path.relative_to(root).as_posix() for path in root.glob("orlo/host/*.h")]
-    reached, open_ = set(), ["orlo/include/orlo.h", *ALSO_PUBLIC, *host]
+    reached, open_ = set(), ["orlo/include/orlo.h", "orlo/include/orlo_c.h", *ALSO_PUBLIC, *host]
     while open_:
         name = open_.pop()
         if name in reached or not (root / name).exists():
@@ -68,7 +72,7 @@ def inside(name, header):
 
 
 def outside(allowed, header, public):
-    if not header.startswith("orlo") or header == "orlo.h" and allowed == PUBLIC:
+    if not header.startswith("orlo") or header in TOP_HEADERS and allowed == PUBLIC:
         return None
     if allowed == PUBLIC and header in public or allowed == HOST and header.startswith("orlo/host/"):
         return None
@@ -76,10 +80,10 @@ def outside(allowed, header, public):
 
 
 def spelling(top, mark, header):
-    """One spelling: <orlo.h> as a host writes it, everything else by its path from the root."""
+    """One spelling: <orlo.h> and <orlo_c.h> as a host writes it, everything else by its path from the root."""
     relative = mark == '"' and not header.startswith("orlo/") and (top == "orlo" or "orlo/" in header)
-    if relative or (header == "orlo.h") != (mark == "<") and header.startswith("orlo"):
-        return 'written otherwise than <orlo.h> or "orlo/..."'
+    if relative or (header in TOP_HEADERS) != (mark == "<") and header.startswith("orlo"):
+        return 'written otherwise than <orlo.h>, <orlo_c.h> or "orlo/..."'
     return None
 
 

@@ -11,4 +11,4 @@ DRAWCORE_API void AppSetINIFileName(const char* path);
 
 // String variable of the application's table: the decimal mark of all numbers as text, read and written; "." or ",". A new
 // process has ".".
-constexpr uint16_t kVarDecimalMark = 0x5105;
+ORLO_CONSTANT uint16_t kVarDecimalMark = 0x5105;

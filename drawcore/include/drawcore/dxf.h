@@ -10,11 +10,11 @@
 #include "orlo/host/records.h"
 
 // What a program hears while a drawing opens; context is handed to both, and either may be null.
-struct DxfListener {
+typedef struct DxfListener {
     void* context;
     void (*progress)(void* context, int permille);              // the share done, 0 to 1000, rising
     void (*finding)(void* context, int line, const char* text); // something was left out; line 0: no one line
-};
+} DxfListener;
 
 // A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
 // in message (size bytes with the NUL): a file is opened as a whole or not at all. The listener may be null.

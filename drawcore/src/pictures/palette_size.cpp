@@ -2,7 +2,9 @@
 
 #include "orlo/host/picture.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -17,6 +19,7 @@ struct InfoHeader {
 };
 static_assert(sizeof(InfoHeader) == 40, "the header is read as it stands");
 
+constexpr uint32_t kPublishedSizes[] = {40, 52, 56, 108, 124};
 constexpr uint32_t kBitFields = 3;
 constexpr uint64_t kMaskBytes = 12; // three masks, outside of the header only where it has no room for them
 constexpr uint64_t kColourBytes = 4;
@@ -31,7 +34,8 @@ uint64_t Colours(const InfoHeader& header) {
 uint16_t PaletteSize(const void* dib) {
     uint32_t size;
     std::memcpy(&size, dib, sizeof size);
-    if (size < sizeof(InfoHeader)) return 0;
+    if (std::find(std::begin(kPublishedSizes), std::end(kPublishedSizes), size) == std::end(kPublishedSizes))
+        return 0;
     InfoHeader header;
     std::memcpy(&header, dib, sizeof header);
     const bool masks = header.compression == kBitFields && size == sizeof(InfoHeader);

@@ -9,6 +9,8 @@
 #include "drawcore/src/tables/table.h"
 #include "orlo/host/style.h"
 
+struct BrushPatternStruct {};
+
 namespace drawcore {
 
 constexpr uint16_t kBrushSolid = 1;

@@ -1,0 +1,81 @@
+// Exceptions turned to numbers, and the text of the last one.
+
+#include "orlo/c/answer.h"
+
+#include <afxwin.h>
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <system_error>
+
+namespace orlo {
+namespace {
+
+std::string& LastText() {
+    thread_local std::string text;
+    return text;
+}
+
+OrloResult Failed(OrloResult result, const char* text) noexcept {
+    try {
+        LastText() = text;
+    } catch (const std::bad_alloc&) {
+        LastText().clear();
+    }
+    return result;
+}
+
+// The framework throws pointers.
+OrloResult Failed(CException* exception) noexcept {
+    char text[512] = "";
+    exception->GetErrorMessage(text, sizeof text);
+    exception->Delete();
+    return Failed(kOrloFailed, text[0] != '\0' ? text : "the framework has failed");
+}
+
+} // namespace
+
+void Refuse(OrloResult result, const char* text) {
+    throw Refusal{result, text};
+}
+
+void RefuseBySystem(long error, const char* what) {
+    std::string text = std::system_category().message(error);
+    while (!text.empty() && std::strchr("\r\n. ", text.back()) != nullptr)
+        text.pop_back();
+    throw Refusal{error == E_OUTOFMEMORY ? kOrloNoMemory : kOrloSystem, std::string(what) + ": " + text};
+}
+
+OrloResult Answer(const std::function<void()>& work) {
+    try {
+        work();
+        return kOrloOk;
+    } catch (const Refusal& refusal) {
+        return Failed(refusal.result, refusal.text.c_str());
+    } catch (CException* exception) {
+        return Failed(exception);
+    } catch (const std::bad_alloc&) {
+        return Failed(kOrloNoMemory, "there is no memory for it");
+    } catch (const std::exception& exception) {
+        return Failed(kOrloFailed, exception.what());
+    } catch (...) {
+        return Failed(kOrloFailed, "an unknown exception of the host");
+    }
+}
+
+} // namespace orlo
+
+uint32_t ORLO_CALL OrloGetVersion(void) {
+    return ORLO_VERSION;
+}
+
+size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size) {
+    const std::string& text = orlo::LastText();
+    if (buffer != nullptr && size > 0) {
+        const size_t copied = std::min(text.size(), size - 1);
+        std::memcpy(buffer, text.data(), copied);
+        buffer[copied] = '\0';
+    }
+    return text.size() + 1;
+}

@@ -1,0 +1,131 @@
+// The table of handles, and what all functions of property sets share.
+
+#include "orlo/c/propset.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <mutex>
+
+#include "orlo/c/answer.h"
+
+namespace orlo {
+namespace {
+
+struct Table {
+    std::mutex lock;
+    std::map<OrloPropset, std::shared_ptr<HeldSet>> sets;
+    uintptr_t last = 0;
+};
+
+Table& TheTable() {
+    static Table table;
+    return table;
+}
+
+} // namespace
+
+std::shared_ptr<HeldSet> Held(OrloPropset handle) {
+    Table& table = TheTable();
+    const std::lock_guard<std::mutex> locked(table.lock);
+    const auto found = table.sets.find(handle);
+    if (found == table.sets.end()) Refuse(kOrloBadHandle, "no property set has this handle");
+    return found->second;
+}
+
+std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle) {
+    std::shared_ptr<HeldSet> set = Held(handle);
+    if (set->isDamaged) Refuse(kOrloDamaged, "the property set is damaged and takes no change");
+    return set;
+}
+
+OrloPropset Hold(HeldSet set) {
+    auto held = std::make_shared<HeldSet>(std::move(set));
+    Table& table = TheTable();
+    const std::lock_guard<std::mutex> locked(table.lock);
+    const auto handle = reinterpret_cast<OrloPropset>(++table.last);
+    table.sets[handle] = std::move(held);
+    return handle;
+}
+
+void Release(OrloPropset handle) {
+    const std::shared_ptr<HeldSet> goes = Held(handle); // outlives the lock
+    Table& table = TheTable();
+    const std::lock_guard<std::mutex> locked(table.lock);
+    table.sets.erase(handle);
+}
+
+const GUID& AsGuid(const OrloGuid& format) {
+    static_assert(sizeof(OrloGuid) == sizeof(GUID));
+    return reinterpret_cast<const GUID&>(format);
+}
+
+ImageSection& SectionOf(SetImage& image, const OrloGuid* format) {
+    ImageSection* section = image.Find(AsGuid(Given(format, "the format")));
+    if (section == nullptr) Refuse(kOrloNotFound, "the set has no section of that format");
+    return *section;
+}
+
+ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id) {
+    ImageProperty* property = SectionOf(image, format).Find(id);
+    if (property == nullptr) Refuse(kOrloNotFound, "the section has no such property");
+    return *property;
+}
+
+void HandOut(const void* bytes, size_t count, void* buffer, size_t* size) {
+    const size_t room = Given(size, "the size");
+    *size = count;
+    if (buffer == nullptr) return;
+    if (room < count) Refuse(kOrloTooSmall, "the buffer is too small");
+    if (count > 0) std::memcpy(buffer, bytes, count);
+}
+
+} // namespace orlo
+
+using namespace orlo;
+
+OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
+    return Answer([&] {
+        Given(set, "the handle") = nullptr;
+        *set = Hold({});
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
+    return Answer([&] { Release(set); });
+}
+
+OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {
+    return Answer([&] {
+        Given(count, "the count") = 0;
+        *count = static_cast<uint32_t>(Held(set)->image.sections.size());
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section) {
+    return Answer([&] {
+        OrloSection& record = GivenRecord(section, "the section");
+        record = {sizeof record, {}, 0, 0};
+        const auto held = Held(set);
+        if (index >= held->image.sections.size()) Refuse(kOrloNotFound, "there are not so many sections");
+        const ImageSection& found = held->image.sections[index];
+        std::memcpy(&record.format, &found.formatId, sizeof record.format);
+        record.codePage = found.codePage.value_or(0);
+        record.properties = static_cast<uint32_t>(found.properties.size());
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
+                                            OrloProperty* property) {
+    return Answer([&] {
+        OrloProperty& record = GivenRecord(property, "the property");
+        record = {sizeof record, 0, 0, 0, 0};
+        const auto held = Held(set);
+        if (section >= held->image.sections.size() ||
+            index >= held->image.sections[section].properties.size())
+            Refuse(kOrloNotFound, "there are not so many properties");
+        const ImageProperty& found = held->image.sections[section].properties[index];
+        record = {sizeof record, found.id, found.type, found.state == ValueState::complete,
+                  found.bytes.size()};
+    });
+}

@@ -1,0 +1,128 @@
+// The thumbnail of a summary, drawn on white at any size.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "orlo/c/answer.h"
+#include "orlo/c/propset.h"
+#include "orlo/summary/thumbnail.h"
+#include "orlo/win/gdi.h"
+
+using namespace orlo;
+
+namespace {
+
+constexpr uint32_t kLargest = 8192;     // pixels on a side
+constexpr double kVectorSide = 256;     // the longer side of a picture that has no size in pixels
+constexpr size_t kLengthSize = 4;       // in front of the value
+constexpr size_t kPictureOffset = 8;    // behind tag and format
+constexpr uint32_t kColor = 0x00FFFFFF; // of a pixel; the rest is its alpha
+
+template <class Number>
+Number At(const Bytes& bytes, size_t offset) {
+    Number number = 0;
+    if (offset + sizeof number <= bytes.size()) std::memcpy(&number, bytes.data() + offset, sizeof number);
+    return number;
+}
+
+// Behind its length: tag, format, picture.
+Bytes ThumbnailOf(OrloPropset set) {
+    const auto held = Held(set);
+    const ImageProperty& property = PropertyOf(held->image, &kOrloSummary, kOrloThumbnail);
+    if (property.type != kOrloTypeClipboard) Refuse(kOrloWrongType, "the thumbnail is no picture");
+    if (property.state != ValueState::complete || property.bytes.size() < kLengthSize + kPictureOffset)
+        Refuse(kOrloDamaged, "the thumbnail is damaged");
+    return Bytes(property.bytes.begin() + kLengthSize, property.bytes.end());
+}
+
+// Width and height in the picture's own head; drawing has the last word on whether it is one.
+SIZE SizeInside(const Bytes& value) {
+    if (At<uint32_t>(value, 4) == CF_DIB)
+        return {At<LONG>(value, kPictureOffset + 4), At<LONG>(value, kPictureOffset + 8)};
+    const auto width = At<int16_t>(value, kPictureOffset + 2);
+    if (width > 0) return {width, At<int16_t>(value, kPictureOffset + 4)};
+    return {At<LONG>(value, kPictureOffset + 4), At<LONG>(value, kPictureOffset + 8)};
+}
+
+SIZE OwnSize(const Bytes& value) {
+    const SIZE size = SizeInside(value);
+    if (size.cx <= 0 || size.cy <= 0)
+        Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
+    const double longer = std::max(size.cx, size.cy);
+    if (At<uint32_t>(value, 4) == CF_DIB && longer <= kLargest) return size;
+    const double scale = kVectorSide / longer;
+    return {std::max(1L, static_cast<LONG>(size.cx * scale)),
+            std::max(1L, static_cast<LONG>(size.cy * scale))};
+}
+
+// The size that was asked for, stored where it was left open.
+SIZE Sized(const Bytes& value, uint32_t& width, uint32_t& height) {
+    if (width == 0 && height == 0) {
+        const SIZE own = OwnSize(value);
+        width = static_cast<uint32_t>(own.cx);
+        height = static_cast<uint32_t>(own.cy);
+    }
+    if (width == 0 || height == 0 || width > kLargest || height > kLargest)
+        Refuse(kOrloBadArgument, "a size is between 1x1 and 8192x8192");
+    return {static_cast<LONG>(width), static_cast<LONG>(height)};
+}
+
+struct Picture {
+    OwnedBitmap bitmap;
+    uint32_t* pixels; // the bitmap's, from the top; blue in the lowest byte
+};
+
+Picture Drawn(const Bytes& value, SIZE size) {
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const OwnedDC dc(::CreateCompatibleDC(nullptr));
+    void* bits = nullptr;
+    Picture picture{OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
+                    nullptr};
+    if (!picture.bitmap) Refuse(kOrloNoMemory, "the system can't make a bitmap of that size");
+    picture.pixels = static_cast<uint32_t*>(bits);
+    const SelectedObject selected(dc.get(), picture.bitmap.get());
+    ::PatBlt(dc.get(), 0, 0, size.cx, size.cy, WHITENESS);
+    ::SetStretchBltMode(dc.get(), HALFTONE);
+    const RECT all = {0, 0, size.cx, size.cy};
+    if (!::DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), dc.get(), &all))
+        Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
+    ::GdiFlush();
+    const size_t count = static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy);
+    std::for_each(picture.pixels, picture.pixels + count, [](uint32_t& pixel) { pixel |= ~kColor; });
+    return picture;
+}
+
+void SwapRedAndBlue(uint32_t& pixel) {
+    pixel = (pixel & 0xFF00FF00) | (pixel & 0xFF) << 16 | (pixel >> 16 & 0xFF);
+}
+
+} // namespace
+
+OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order, uint32_t* width,
+                                                   uint32_t* height, void* buffer, size_t* size) {
+    return Answer([&] {
+        Given(size, "the size");
+        if (order > kOrloRgba) Refuse(kOrloBadArgument, "there is no such order of pixels");
+        const Bytes value = ThumbnailOf(set);
+        const SIZE pixels = Sized(value, Given(width, "the width"), Given(height, "the height"));
+        const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
+        if (buffer == nullptr || *size < count * sizeof(uint32_t)) // nothing is drawn for a question
+            return HandOut(nullptr, count * sizeof(uint32_t), buffer, size);
+        const Picture picture = Drawn(value, pixels);
+        if (order == kOrloRgba) std::for_each(picture.pixels, picture.pixels + count, SwapRedAndBlue);
+        HandOut(picture.pixels, count * sizeof(uint32_t), buffer, size);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width, uint32_t* height,
+                                                   HBITMAP__** bitmap) {
+    return Answer([&] {
+        Given(bitmap, "the bitmap") = nullptr;
+        const Bytes value = ThumbnailOf(set);
+        const SIZE size = Sized(value, Given(width, "the width"), Given(height, "the height"));
+        *bitmap = Drawn(value, size).bitmap.release();
+    });
+}

@@ -1,0 +1,292 @@
+// Values and names of property sets: read and stored by the rules of their types.
+
+#include <propidl.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "orlo/c/answer.h"
+#include "orlo/c/propset.h"
+#include "orlo/propset/code_page.h"
+
+using namespace orlo;
+
+namespace {
+
+Value ValueOf(OrloPropset set, const OrloGuid* format, uint32_t id) {
+    const auto held = Held(set);
+    const ImageProperty& property = PropertyOf(held->image, format, id);
+    Value value;
+    if (property.state != ValueState::complete ||
+        !DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
+                     SectionOf(held->image, format).codePage, value))
+        Refuse(kOrloDamaged, "the value can't be read");
+    return value;
+}
+
+int64_t IntegerOf(const Value& value) {
+    if (const bool* truth = std::get_if<bool>(&value.data)) return *truth ? 1 : 0;
+    if (const int64_t* number = std::get_if<int64_t>(&value.data)) return *number;
+    const uint64_t* number = std::get_if<uint64_t>(&value.data);
+    if (number == nullptr || *number > INT64_MAX) Refuse(kOrloWrongType, "the value is no 64-bit integer");
+    return static_cast<int64_t>(*number);
+}
+
+bool SameName(const std::string& a, const std::string& b) {
+    const auto wide = [](const std::string& text) {
+        return Utf8ToCodePage(text, kCodePageUtf16).value_or(std::string());
+    };
+    const std::string first = wide(a), second = wide(b);
+    return ::CompareStringOrdinal(reinterpret_cast<const wchar_t*>(first.data()),
+                                  static_cast<int>(first.size() / sizeof(wchar_t)),
+                                  reinterpret_cast<const wchar_t*>(second.data()),
+                                  static_cast<int>(second.size() / sizeof(wchar_t)), TRUE) == CSTR_EQUAL;
+}
+
+DictionaryEntry* Named(ImageSection& section, const std::string& name) {
+    if (!section.dictionary) return nullptr;
+    for (DictionaryEntry& entry : *section.dictionary)
+        if (SameName(entry.name, name)) return &entry;
+    return nullptr;
+}
+
+ImageSection NewSection(const GUID& format, uint16_t codePage) {
+    ImageSection section;
+    section.formatId = format;
+    section.codePage = codePage;
+    ImageProperty& property = section.properties.emplace_back();
+    property.id = kOrloCodePage;
+    property.type = VT_I2;
+    property.bytes = {static_cast<uint8_t>(codePage), static_cast<uint8_t>(codePage >> 8)};
+    return section;
+}
+
+// The section, or a new one that belongs to nobody yet.
+ImageSection SectionFor(SetImage& image, const OrloGuid* format) {
+    const GUID& wanted = AsGuid(Given(format, "the format"));
+    const ImageSection* found = image.Find(wanted);
+    return found != nullptr ? *found : NewSection(wanted, kCodePageUtf8);
+}
+
+// Puts a section in the place of the one of its format, or at the end.
+void PutSection(SetImage& image, ImageSection section) {
+    if (ImageSection* found = image.Find(section.formatId)) {
+        *found = std::move(section);
+        return;
+    }
+    // Readers look for the user-defined section in the second place.
+    const GUID& first = AsGuid(kOrloDocumentSummary);
+    if (section.formatId == AsGuid(kOrloUserDefined) && image.Find(first) == nullptr)
+        image.sections.push_back(NewSection(first, kCodePageUtf8));
+    image.sections.push_back(std::move(section));
+}
+
+// What a section without its code page would be: only the first property may name one.
+void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
+    const GUID& wanted = AsGuid(Given(format, "the format"));
+    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is no code page");
+    if (image.Find(wanted) != nullptr)
+        Refuse(kOrloBadArgument, "the texts of the section are in its code page, which stays");
+    if (!Utf8ToCodePage("a", static_cast<uint16_t>(codePage)))
+        Refuse(kOrloBadArgument, "the system does not know the code page");
+    PutSection(image, NewSection(wanted, static_cast<uint16_t>(codePage)));
+}
+
+void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t type, Bytes bytes) {
+    if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page are no values");
+    ImageSection section = SectionFor(image, format);
+    ImageProperty* property = section.Find(id);
+    if (property != nullptr && property->type != type)
+        Refuse(kOrloWrongType, "the property is there with another type");
+    if (property == nullptr) {
+        property = &section.properties.emplace_back();
+        property->id = id;
+        property->type = type;
+    }
+    property->state = ValueState::complete;
+    property->bytes = std::move(bytes);
+    PutSection(image, std::move(section));
+}
+
+// Encodes and stores; unfit is the answer for a value that the type has no room for.
+void StoreValue(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
+    const auto held = HeldWhole(set);
+    const auto codePage = SectionFor(held->image, format).codePage;
+    std::optional<Bytes> bytes = EncodeValue(value, codePage);
+    if (!bytes) Refuse(unfit, "the value has no form in that type");
+    StoreBytes(held->image, format, id, value.type, std::move(*bytes));
+}
+
+Value WholeValue(uint32_t type, int64_t number) {
+    switch (type) {
+    case VT_BOOL:
+        if (number != 0 && number != 1) Refuse(kOrloWrongType, "a truth is 0 or 1");
+        return {type, number == 1, {}};
+    case VT_UI1:
+    case VT_UI2:
+    case VT_UI4:
+    case VT_UINT:
+    case VT_UI8:
+    case VT_FILETIME:
+        if (number < 0) Refuse(kOrloWrongType, "the type has no negative numbers");
+        return {type, static_cast<uint64_t>(number), {}};
+    case VT_I1:
+    case VT_I2:
+    case VT_I4:
+    case VT_INT:
+    case VT_I8:
+    case VT_CY:
+    case VT_ERROR:
+        return {type, number, {}};
+    default:
+        Refuse(kOrloWrongType, "this is no type of whole numbers");
+    }
+}
+
+} // namespace
+
+OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                           int64_t* value) {
+    return Answer([&] {
+        Given(value, "the value") = 0;
+        *value = IntegerOf(ValueOf(set, format, id));
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value) {
+    return Answer([&] {
+        Given(value, "the value") = 0;
+        const Value found = ValueOf(set, format, id);
+        const double* number = std::get_if<double>(&found.data);
+        if (number == nullptr) Refuse(kOrloWrongType, "the value is no real number");
+        *value = *number;
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
+                                        size_t* size) {
+    return Answer([&] {
+        const Value found = ValueOf(set, format, id);
+        const std::string* text = std::get_if<std::string>(&found.data);
+        if (text == nullptr) Refuse(kOrloWrongType, "the value is no text");
+        HandOut(text->c_str(), text->size() + 1, buffer, size);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
+                                         size_t* size) {
+    return Answer([&] {
+        const auto held = Held(set);
+        const Bytes& bytes = PropertyOf(held->image, format, id).bytes;
+        HandOut(bytes.data(), bytes.size(), buffer, size);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                           uint32_t type, int64_t value) {
+    return Answer([&] {
+        if (id == kOrloCodePage)
+            StoreCodePage(HeldWhole(set)->image, format, value);
+        else
+            StoreValue(set, format, id, WholeValue(type, value), kOrloWrongType);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                        double value) {
+    return Answer([&] {
+        if (type != VT_R4 && type != VT_R8 && type != VT_DATE)
+            Refuse(kOrloWrongType, "this is no type of real numbers");
+        if (!std::isfinite(value)) Refuse(kOrloBadArgument, "the number is not finite");
+        if (type == VT_R4 && std::isinf(static_cast<float>(value)))
+            Refuse(kOrloWrongType, "a float can't hold the number");
+        StoreValue(set, format, id, {type, value, {}}, kOrloWrongType);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                        const char* value) {
+    return Answer([&] {
+        if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR)
+            Refuse(kOrloWrongType, "this is no type of texts");
+        Given(value, "the text");
+        StoreValue(set, format, id, {type, std::string(value), {}}, kOrloUnsayable);
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                         const void* data, size_t size) {
+    return Answer([&] {
+        const auto* first = static_cast<const uint8_t*>(data);
+        if (size > 0) Given(first, "the data");
+        Bytes bytes(first, first + size);
+        const auto held = HeldWhole(set);
+        const auto codePage = SectionFor(held->image, format).codePage;
+        Value value;
+        if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) ||
+            EncodeValue(value, codePage) != bytes)
+            Refuse(kOrloWrongType, "the bytes are not one value of that type");
+        StoreBytes(held->image, format, id, type, std::move(bytes));
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id) {
+    return Answer([&] {
+        const auto held = HeldWhole(set);
+        if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page stay with their section");
+        PropertyOf(held->image, format, id);
+        ImageSection& section = SectionOf(held->image, format);
+        const auto isIt = [id](const auto& item) { return item.id == id; };
+        section.properties.erase(std::remove_if(section.properties.begin(), section.properties.end(), isIt),
+                                 section.properties.end());
+        if (!section.dictionary) return;
+        auto& names = *section.dictionary;
+        names.erase(std::remove_if(names.begin(), names.end(), isIt), names.end());
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
+                                        size_t* size) {
+    return Answer([&] {
+        const auto held = Held(set);
+        const ImageSection& section = SectionOf(held->image, format);
+        if (section.dictionary)
+            for (const DictionaryEntry& entry : *section.dictionary)
+                if (entry.id == id) return HandOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
+        Refuse(kOrloNotFound, "the property has no name");
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
+                                         uint32_t* id) {
+    return Answer([&] {
+        Given(id, "the identifier") = 0;
+        const auto held = Held(set);
+        const DictionaryEntry* entry = Named(SectionOf(held->image, format), &Given(name, "the name"));
+        if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
+        *id = entry->id;
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                        const char* name) {
+    return Answer([&] {
+        const auto held = HeldWhole(set);
+        const std::string text = &Given(name, "the name");
+        PropertyOf(held->image, format, id);
+        ImageSection& section = SectionOf(held->image, format);
+        if (text.empty() || id <= kOrloCodePage) Refuse(kOrloBadArgument, "this can't be named so");
+        if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
+            Refuse(kOrloUnsayable, "the code page of the section can't say the name");
+        const DictionaryEntry* there = Named(section, text);
+        if (there != nullptr && there->id != id) Refuse(kOrloBadArgument, "another property has that name");
+        if (!section.dictionary) section.dictionary.emplace();
+        auto& names = *section.dictionary;
+        const auto own =
+            std::find_if(names.begin(), names.end(), [id](const auto& entry) { return entry.id == id; });
+        if (own != names.end())
+            own->name = text;
+        else
+            names.push_back({id, text});
+    });
+}

@@ -1,0 +1,42 @@
+// Hosts in C, of this compiler and of another, as programs of their own over a real drawing.
+
+#include "support/host_process.h"
+
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr char kDrawing[] = " " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
+
+class CHost : public HostProcess {};
+class ForeignHost : public HostProcess, public ::testing::WithParamInterface<const char*> {};
+
+TEST_F(CHost, OfTheGuideShowsTheTablesOfItsDrawing) {
+    Start(std::string("c_host.exe") + kDrawing);
+    const HWND sheet = Sheet();
+    ASSERT_NE(nullptr, sheet);
+    EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
+    ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
+    EXPECT_EQ(0u, ExitCode());
+}
+
+TEST_P(ForeignHost, EditsThePenColorOverItsOwnWindow) {
+    Start(std::string(GetParam()) + kDrawing);
+    const HWND sheet = Sheet();
+    ASSERT_NE(nullptr, sheet) << ExitCode();
+    const HWND owner = ::GetWindow(sheet, GW_OWNER);
+    EXPECT_EQ(::FindWindowA("STATIC", "Host"), owner);
+    EXPECT_FALSE(::IsWindowEnabled(owner));
+    EXPECT_EQ(0, Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT));
+
+    PressInTabs(sheet, VK_RIGHT);
+    const HWND color = Visible(sheet, IDC_COLOR);
+    EXPECT_GT(Ask(color, CB_GETCOUNT), 200);
+    ::PostMessageA(color, WM_KEYDOWN, VK_DOWN, 1);
+    ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
+    EXPECT_EQ(0u, ExitCode());
+}
+
+INSTANTIATE_TEST_SUITE_P(Compilers, ForeignHost, ::testing::Values(FOREIGN_HOSTS));
+
+} // namespace

@@ -1,0 +1,82 @@
+// The sheet through the C interface inside a program of the framework, and the arguments that it refuses.
+
+#include <afxwin.h>
+#include <orlo_c.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+
+#include "support/graphic_kit.h"
+#include "support/host_frame.h"
+
+namespace {
+
+std::string ErrorText() {
+    char text[256];
+    OrloGetErrorText(text, sizeof text);
+    return text;
+}
+
+OrloSheet SheetOver(const GraphicKit& kit) {
+    OrloSheet sheet = {};
+    sheet.size = sizeof sheet;
+    sheet.filter = kAllGraphics;
+    sheet.drawing = kit.Drawing();
+    sheet.selection = kit.Selection();
+    return sheet;
+}
+
+void CALLBACK CancelSheet(HWND, UINT, UINT_PTR timer, DWORD) {
+    const HWND sheet = ::GetActiveWindow();
+    if (::FindWindowA("#32770", "Properties") != sheet) return;
+    ::KillTimer(nullptr, timer);
+    ::PostMessageA(sheet, WM_COMMAND, IDCANCEL, 0);
+}
+
+TEST(CSheet, LeavesTheFrameworkOfAProgramAsItWas) {
+    GraphicKit kit;
+    kit.Add({{kPropPenColor, 255}});
+    HostFrame frame(kit.Drawing());
+    const CWinApp* const application = AfxGetApp();
+    OrloSheet sheet = SheetOver(kit);
+    sheet.owner = frame.m_hWnd;
+    int32_t code = 0;
+    ::SetTimer(nullptr, 0, 10, CancelSheet);
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloOk) << ErrorText();
+    EXPECT_EQ(code, IDCANCEL);
+    EXPECT_FALSE(frame.notifications.empty()); // its own frame is asked as ever
+    EXPECT_EQ(AfxGetApp(), application);
+    EXPECT_EQ(AfxGetMainWnd(), &frame);
+    EXPECT_EQ(CWnd::FromHandlePermanent(sheet.owner), &frame);
+}
+
+TEST(CSheet, RefusesWrongArguments) {
+    GraphicKit kit;
+    int32_t code = 9;
+    OrloSheet sheet = SheetOver(kit);
+    sheet.size = 0;
+    sheet.drawing = nullptr;
+    EXPECT_EQ(OrloRunSheet(nullptr, &code), kOrloBadArgument);
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // its size
+    sheet.size = sizeof sheet;
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // its drawing
+    sheet.drawing = kit.Drawing();
+    EXPECT_EQ(OrloRunSheet(&sheet, nullptr), kOrloBadArgument);
+    sheet.owner = reinterpret_cast<HWND>(uintptr_t{0x1234});
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument);
+    sheet.owner = ::GetDesktopWindow();
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadThread);
+    sheet.owner = nullptr;
+    OrloResult elsewhere = kOrloOk; // than on the thread that has the framework
+    std::thread([&] { elsewhere = OrloRunSheet(&sheet, &code); }).join();
+    EXPECT_EQ(elsewhere, kOrloBadThread);
+    EXPECT_EQ(code, 0);
+    char one[1] = {'x'};
+    EXPECT_EQ(OrloGetErrorText(one, 1), ErrorText().size() + 1);
+    EXPECT_EQ(one[0], '\0');
+    EXPECT_NE(ErrorText(), "");
+}
+
+} // namespace

@@ -1,0 +1,115 @@
+// hostcheck as a host's author runs it: whole databases pass, and each fault is told at its function.
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <memory>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "faults.h"
+
+namespace {
+
+struct CloseIt {
+    void operator()(void* handle) const { ::CloseHandle(handle); }
+};
+using Handle = std::unique_ptr<void, CloseIt>;
+
+struct Outcome {
+    DWORD exitCode = 99;
+    std::string out; // and what went to the other stream
+};
+
+std::string Folder() {
+    char own[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, own, MAX_PATH);
+    const std::string path = own;
+    return path.substr(0, path.rfind('\\') + 1);
+}
+
+Outcome Hostcheck(const std::string& arguments) {
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    HANDLE read = nullptr, write = nullptr;
+    ::CreatePipe(&read, &write, &inherited, 0);
+    const Handle ours(read);
+    Handle theirs(write);
+    ::SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
+    STARTUPINFOA start = {};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = start.hStdError = write;
+    std::string command = Folder() + "hostcheck.exe " + arguments;
+    PROCESS_INFORMATION process = {};
+    Outcome outcome;
+    if (!::CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, Folder().c_str(), &start,
+                          &process))
+        return outcome;
+    const Handle thread(process.hThread), running(process.hProcess);
+    theirs.reset();
+    char bytes[4096];
+    for (DWORD count; ::ReadFile(read, bytes, sizeof bytes, &count, nullptr) && count;)
+        outcome.out.append(bytes, count);
+    ::WaitForSingleObject(running.get(), INFINITE);
+    ::GetExitCodeProcess(running.get(), &outcome.exitCode);
+    return outcome;
+}
+
+TEST(HostcheckProgram, PassesDatabasesThatKeepEveryPromise) {
+    ::SetEnvironmentVariableA(kFaultVariable, nullptr);
+    for (const char* arguments :
+         {"drawcore32.dll", "drawcore32.dll --drawing " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf",
+          "skeleton\\drawcore32.dll", "faulty\\drawcore32.dll"}) {
+        const Outcome outcome = Hostcheck(arguments);
+        EXPECT_EQ(0u, outcome.exitCode) << arguments << '\n' << outcome.out;
+        EXPECT_NE(std::string::npos, outcome.out.find("kept    MatrixScale")) << outcome.out;
+    }
+}
+
+// The lines of promises that have that state, without it.
+std::set<std::string> Promises(const Outcome& outcome, const std::string& state) {
+    std::set<std::string> promises;
+    std::istringstream lines(outcome.out);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind(state, 0) == 0 && line.find("is exported") == std::string::npos)
+            promises.insert(line.substr(8, line.find_last_not_of('\r') - 7));
+    return promises;
+}
+
+TEST(HostcheckProgram, TellsEachFaultAtItsFunctionAndSeesEachPromiseBroken) {
+    std::set<std::string> broken;
+    for (const Fault& fault : kFaults) {
+        ::SetEnvironmentVariableA(kFaultVariable, fault.name);
+        const Outcome outcome = Hostcheck("faulty\\drawcore32.dll");
+        EXPECT_EQ(1u, outcome.exitCode) << fault.name;
+        EXPECT_NE(std::string::npos, outcome.out.find(std::string("broken  ") + fault.function + ' '))
+            << fault.name;
+        EXPECT_NE(std::string::npos, outcome.out.find(" kept, ")) << fault.name << ": not all are checked";
+        broken.merge(Promises(outcome, "broken"));
+    }
+    ::SetEnvironmentVariableA(kFaultVariable, nullptr);
+    const std::set<std::string> all = Promises(Hostcheck("faulty\\drawcore32.dll"), "kept");
+    EXPECT_GT(all.size(), 100u);
+    for (const std::string& promise : all)
+        EXPECT_EQ(1u, broken.count(promise)) << "no fault breaks: " << promise;
+}
+
+TEST(HostcheckProgram, SaysWhyNothingCanBeChecked) {
+    struct Row {
+        const char* arguments;
+        const char* says;
+    };
+    for (const Row& row : {Row{"nosuch.dll", "cannot be loaded"},
+                           {"hostcheck.exe", "AppGetCurrentApp"},
+                           {"drawcore32.dll --drawing nosuch.dxf", "cannot be opened"},
+                           {"skeleton\\drawcore32.dll --drawing x.dxf", "DrawingOpenDxf"},
+                           {"", "usage"},
+                           {"--nosuch", "usage"}}) {
+        const Outcome outcome = Hostcheck(row.arguments);
+        EXPECT_EQ(2u, outcome.exitCode) << row.arguments;
+        EXPECT_NE(std::string::npos, outcome.out.find(row.says)) << row.arguments << ": " << outcome.out;
+    }
+}
+
+} // namespace

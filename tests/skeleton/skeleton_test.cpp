@@ -1,0 +1,173 @@
+// The real sheet over the skeleton's database: every page opens, and what the user does on them is in the graphics.
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <memory>
+
+#include "hostcheck/faults.h"
+#include "orlo/controls/combo_control.h"
+#include "orlo/controls/control_fill.h"
+#include "orlo/controls/control_kind.h"
+#include "orlo/entry/entry.h"
+#include "orlo/resources/resource.h"
+#include "skeleton/skeleton.h"
+#include "support/pixels.h"
+#include "support/sheet_driver.h"
+
+namespace {
+
+class Module {
+public:
+    explicit Module(const char* file) : m_module(::LoadLibraryA(file)) {
+        if (m_module == nullptr) throw std::runtime_error(file);
+    }
+    ~Module() { ::FreeLibrary(m_module); }
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+
+    template <class F>
+    F* Function(const char* name) const {
+        return reinterpret_cast<F*>(reinterpret_cast<void*>(::GetProcAddress(m_module, name)));
+    }
+
+private:
+    HMODULE m_module;
+};
+
+#define CALL(module, name) module.Function<decltype(::name)>(#name)
+
+class Frame : public CFrameWnd {
+public:
+    explicit Frame(const Module& host) : m_host(host) {
+        Create(nullptr, "host");
+        AfxGetThread()->m_pMainWnd = this;
+    }
+    ~Frame() override {
+        AfxGetThread()->m_pMainWnd = nullptr;
+        DestroyWindow();
+    }
+
+private:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        const char* table = TableOfControl(LOWORD(wParam));
+        if (HIWORD(wParam) != kControlReady || table == nullptr) return CFrameWnd::OnCommand(wParam, lParam);
+        DrawingStruct* drawing = CALL(m_host, AppGetCurrentApp)()->pCurrentDrawing;
+        const ControlFillRecord fill = {CALL(m_host, DrawingGetTable)(drawing, table), 0, 0};
+        ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
+        return TRUE;
+    }
+    void PostNcDestroy() override {}
+
+    const Module& m_host;
+};
+
+class Skeleton : public ::testing::Test {
+protected:
+    explicit Skeleton(const char* database = "skeleton\\drawcore32.dll") : host(database) {}
+    ~Skeleton() override { CALL(host, DrawingDispose)(&drawing); }
+
+    int Run(SheetDriver::Script script) {
+        CALL(library, PropPageInit)();
+        // The class is the library's, of which this program knows only the framework's base.
+        CGraphicPropertySheet* made =
+            CALL(library, InitGraphicPropertySheet)(&frame, nullptr, drawing, root, kAllGraphics);
+        const std::unique_ptr<CPropertySheet> sheet(reinterpret_cast<CPropertySheet*>(made));
+        for (int i = 0; i < 3; ++i)
+            CALL(library, AddGraphicPropertyPage)(nullptr, Member(i), made);
+        return SheetDriver().Run(*sheet, std::move(script));
+    }
+    GraphicStruct* Member(int index) const {
+        uint32_t place;
+        GraphicStruct* member = CALL(host, GraphicFirst)(root, &place, 1, kAllGraphics);
+        while (index-- > 0)
+            member = CALL(host, GraphicNext)(root, &place, 1, kAllGraphics);
+        return member;
+    }
+    template <class Value>
+    Value Property(GraphicStruct* graphic, const char* name, int vt) const {
+        const PropertyTable* table = CALL(host, GraphicGetVtbl)(graphic);
+        int32_t number = 0;
+        Value value{};
+        EXPECT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number));
+        EXPECT_TRUE(table->PropGet(graphic, number, vt, &value));
+        return value;
+    }
+
+    const Module host;
+    const Module library{"orlo.dll"};
+    DrawingStruct* drawing = CALL(host, DrawingNew)();
+    GraphicStruct* root = CALL(host, DrawingGetRoot)(drawing);
+    const int current = CALL(host, AppSetCurrentDrawing)(drawing);
+    Frame frame{host};
+};
+
+enum { kPen = 1, kBrush, kText, kInsertion };
+
+TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
+    EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
+                  EXPECT_EQ(2, ::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0));
+                  user.SelectPage(kPen);
+                  user.Choose(IDC_COLOR, 0);
+                  user.Type(IDC_PEN_WIDTH, "0.5 mm");
+                  user.SelectPage(kBrush);
+                  user.Choose(IDC_BRUSH_STYLE_LIST, 1);
+                  user.SelectPage(kText);
+                  user.Type(IDC_FONT_SIZE, "7.5");
+                  user.SelectPage(kInsertion);
+                  ASSERT_EQ(kInsertion, user.ActivePage());
+                  user.Type(IDC_SCALE_X, "3");
+                  user.Ok();
+              }));
+    GraphicStruct* rectangle = Member(0);
+    EXPECT_LT(Property<uint32_t>(rectangle, kPropPenColor, VT_UI4), 0x1000000u); // was by layer
+    EXPECT_DOUBLE_EQ(0.5 * kInchesPerMillimetre, Property<double>(rectangle, kPropPenWidth, VT_R8));
+    EXPECT_NE(0u, Property<uint32_t>(rectangle, kPropBrushStyle, VT_UI4));
+    EXPECT_DOUBLE_EQ(7.5, Property<double>(Member(1), kPropTextSize, VT_R8));
+    int cookie;
+    CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF);
+    EXPECT_DOUBLE_EQ(3, CALL(host, GraphicVertexNext)(Member(2), &cookie, 0, 0xFFFF)->x);
+}
+
+TEST_F(Skeleton, DrawsThePreviewInTheChosenColor) {
+    Run([](SheetDriver& user) {
+        user.SelectPage(1);
+        user.Choose(IDC_COLOR, 0);
+        const int row = user.Selection(IDC_COLOR);
+        const std::string item = user.ItemText(IDC_COLOR, row);
+        const auto chosen = static_cast<COLORREF>(std::stoul(item, nullptr, 16));
+        constexpr int kPreview = 3999;
+        const HWND pane = ::GetDlgItem(user.Sheet(), kPreview);
+        RECT all;
+        ::GetClientRect(pane, &all);
+        const Pixels picture(all.right, all.bottom);
+        const HDC screen = ::GetDC(pane);
+        ::BitBlt(picture.DC(), 0, 0, all.right, all.bottom, screen, 0, 0, SRCCOPY);
+        ::ReleaseDC(pane, screen);
+        EXPECT_GT(picture.Count(all, chosen), 50) << item;
+    });
+}
+
+class SkeletonWithStubs : public Skeleton {
+protected:
+    SkeletonWithStubs() : Skeleton((::_putenv_s(kFaultVariable, kStubs), "faulty\\drawcore32.dll")) {}
+    ~SkeletonWithStubs() override { ::_putenv_s(kFaultVariable, ""); }
+};
+
+TEST_F(SkeletonWithStubs, LosesPicturesOnly) {
+    EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
+                  user.SelectPage(kPen);
+                  user.Choose(IDC_LINE_STYLE_LIST, 1);
+                  user.SelectPage(kBrush);
+                  user.Choose(IDC_BRUSH_STYLE_LIST, 1);
+                  user.SelectPage(kInsertion);
+                  user.Type(IDC_POSITION_X, "30");
+                  user.Ok();
+              }));
+    EXPECT_NE(0u, Property<uint32_t>(Member(0), kPropBrushStyle, VT_UI4));
+    int cookie;
+    EXPECT_DOUBLE_EQ(30, CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF)->x);
+}
+
+} // namespace

@@ -1,0 +1,80 @@
+// Programs started beside this one, and their windows.
+
+#include "support/host_process.h"
+
+#include <commctrl.h>
+
+namespace {
+
+struct Child {
+    int id;
+    HWND found;
+};
+
+BOOL CALLBACK IsVisibleChild(HWND window, LPARAM parameter) {
+    auto* child = reinterpret_cast<Child*>(parameter);
+    if (::GetDlgCtrlID(window) != child->id || !::IsWindowVisible(window)) return TRUE;
+    child->found = window;
+    return FALSE;
+}
+
+} // namespace
+
+HostProcess::~HostProcess() {
+    if (m_process.hProcess == nullptr) return;
+    ::TerminateProcess(m_process.hProcess, 99); // it has ended, unless the test has failed
+    ::CloseHandle(m_process.hProcess);
+    ::CloseHandle(m_process.hThread);
+}
+
+void HostProcess::Start(const std::string& command) {
+    char own[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, own, MAX_PATH);
+    std::string line = command;
+    if (command.find(':') != 1) line.insert(0, own, std::string(own).rfind('\\') + 1);
+    STARTUPINFOA start = {};
+    start.cb = sizeof start;
+    ASSERT_TRUE(::CreateProcessA(nullptr, &line[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                                 &m_process));
+}
+
+DWORD HostProcess::ExitCode() {
+    DWORD code = 99;
+    if (::WaitForSingleObject(m_process.hProcess, 60000) == WAIT_OBJECT_0)
+        ::GetExitCodeProcess(m_process.hProcess, &code);
+    return code;
+}
+
+template <class Find>
+HWND HostProcess::Wait(Find find) {
+    for (int i = 0; i < 3000; ++i) {
+        if (const HWND window = find()) return window;
+        if (::WaitForSingleObject(m_process.hProcess, 20) == WAIT_OBJECT_0) return nullptr;
+    }
+    return nullptr;
+}
+
+HWND HostProcess::Sheet() {
+    return Wait([this] {
+        const HWND sheet = ::FindWindowA("#32770", "Properties");
+        DWORD owner = 0;
+        if (sheet != nullptr) ::GetWindowThreadProcessId(sheet, &owner);
+        return owner == m_process.dwProcessId && ::IsWindowVisible(sheet) ? sheet : nullptr;
+    });
+}
+
+HWND HostProcess::Visible(HWND sheet, int id) {
+    return Wait([=] {
+        Child child = {id, nullptr};
+        ::EnumChildWindows(sheet, IsVisibleChild, reinterpret_cast<LPARAM>(&child));
+        return child.found;
+    });
+}
+
+void HostProcess::PressInTabs(HWND sheet, WPARAM key) {
+    ::PostMessageA(::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr), WM_KEYDOWN, key, 1);
+}
+
+LRESULT Ask(HWND control, UINT message) {
+    return ::SendMessageA(control, message, 0, 0);
+}
