@@ -13,13 +13,8 @@ for_windows() { printf 'Z:%s' "$(realpath -m -- "$1")"; }
 
 list_drawings() {
     [ $# -gt 0 ] || usage
-    targets=(dxflist)
-    source run.d/build.sh >&2
-    wine_prefix >&2
-    local lister=$PWD/build/bin/dxflist.exe status=0
-    cd "$ORLO_CALLER_DIR"   # file names stay as they were given
-    wine "$lister" "$@" || status=$?
-    exit $status
+    set -- list --json "$@"
+    source run.d/dxfprops.sh
 }
 
 # Exit code 0: every drawing that can be opened is as it was.

@@ -6,7 +6,7 @@
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
 #include "tests/dxf/test_files.h"
-#include "tools/dxflist/list_drawings.h"
+#include "tools/dxfprops/list_drawings.h"
 
 namespace {
 

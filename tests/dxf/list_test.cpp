@@ -1,6 +1,6 @@
-// The list that dxflist prints.
+// The list that dxfprops prints.
 
-#include "tools/dxflist/list_drawings.h"
+#include "tools/dxfprops/list_drawings.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,4 +1,4 @@
-// Opening DXF drawings (ASCII, R12 to 2018), for host programs.
+// Opening and saving DXF drawings (ASCII, R12 to 2018), for host programs.
 //
 //   char message[256];
 //   DxfListener listener = {&bar, ShowProgress, nullptr};
@@ -19,3 +19,18 @@ typedef struct DxfListener {
 // A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
 // in message (size bytes with the NUL): a file is opened as a whole or not at all. The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
+
+// What DrawingSaveDxf gives.
+enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
+// Flag: a file that another program has changed since the drawing was opened is overwritten all the same.
+enum { kSaveOverChanged = 1 };
+
+// Writes the drawing into a file, which may be the one that it was opened from: that file's text, in which only the groups
+// differ that carry a change. What the format has no group for stands in extended data under the application name ORLO. The
+// file is written beside the old one, compared with the drawing, and then takes its place in one step.
+//
+// kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened
+// from, and another program has changed it since; nothing was written. kSaveFailed: message (size bytes with the NUL) says
+// why, and no file was changed: the drawing comes from no file, graphics were added or removed, the disk is full ...
+// Properties of graphics and the places of insertions are saved, also within blocks; blocks that a program has made are not.
+DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, char* message, int size);

@@ -4,6 +4,7 @@
 #include "drawcore/include/drawcore/application.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/styles/colors.h"
+#include "drawcore/src/units/decimal_mark.h"
 #include "orlo/host/application.h"
 
 namespace drawcore {
@@ -27,6 +28,11 @@ void Application::Remove(const Drawing& drawing) {
 uint32_t Application::PreviewBackground() const {
     const int* color = variables_.Variable<int>(kVarPreviewBackground);
     return color ? static_cast<uint32_t>(*color) : kWhite;
+}
+
+char DecimalMark() {
+    const std::string* mark = Application::Get().Variables().Variable<std::string>(kVarDecimalMark);
+    return mark && *mark == "," ? ',' : '.';
 }
 
 } // namespace drawcore

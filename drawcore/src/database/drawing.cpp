@@ -3,6 +3,7 @@
 
 #include "drawcore/include/drawcore/drawing.h"
 #include "drawcore/src/database/application.h"
+#include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/live.h"
 #include "drawcore/src/database/undo.h"
 #include "drawcore/src/graphics/text_face.h"

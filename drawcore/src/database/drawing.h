@@ -1,4 +1,4 @@
-// A drawing: its tables, its graphics, its undo log. Where it came from is not its business (see dxf/).
+// A drawing: its tables, its graphics, its undo log, and the file that it was read from (see dxf/ and export/).
 #pragma once
 
 #include <map>
@@ -12,6 +12,7 @@
 
 namespace drawcore {
 
+struct DxfSource;
 class UndoLog;
 class VertexGraphic;
 
@@ -45,6 +46,7 @@ public:
 
     std::string scaleText = "1 : 1"; // of the drawing on paper
     uint16_t coordSpace = kSpaceWorld;
+    std::unique_ptr<DxfSource> source; // null: the drawing was not read from a file
     double lineScale = 1; // DXF's $LTSCALE: dash patterns of the drawing's own graphics grow by it
 
 private:

@@ -61,25 +61,60 @@ struct CodePage::Converter {
         utf8.resize(static_cast<size_t>(size));
         return utf8;
     }
+
+    std::optional<std::string> ConvertBack(std::string_view text) const {
+        const int length = static_cast<int>(text.size());
+        std::wstring wide(text.size(), L'\0');
+        const int units = ::MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), length);
+        std::string bytes(text.size() * 2, '\0');
+        const int size =
+            ::WideCharToMultiByte(page, page == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS, wide.data(), units,
+                                  bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+        bytes.resize(static_cast<size_t>(size));
+        // A character that some pages lack becomes another one, whatever the flags.
+        if (Convert(bytes) != text) return std::nullopt;
+        return bytes;
+    }
 };
 
 #else
 
 struct CodePage::Converter {
-    explicit Converter(int number) : handle(Open(number)) {}
+    explicit Converter(int number) : name(NameOf(number)), handle(Open(name)) {}
     ~Converter() { ::iconv_close(handle); }
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
+    std::string name;
     iconv_t handle;
 
-    static iconv_t Open(int number) {
+    static std::string NameOf(int number) {
         std::string name = "CP" + std::to_string(number);
         if (number == 65001) name = "UTF-8";
         if (number == 10000) name = "MACINTOSH";
         if (number == 1361) name = "JOHAB";
         if (number > 28590 && number <= 28605) name = "ISO-8859-" + std::to_string(number - 28590);
+        return name;
+    }
+
+    // A page that the system doesn't know becomes Windows 1252.
+    static iconv_t Open(std::string& name) {
         const iconv_t opened = ::iconv_open("UTF-8", name.c_str());
-        return opened != reinterpret_cast<iconv_t>(-1) ? opened : ::iconv_open("UTF-8", "CP1252");
+        if (opened != reinterpret_cast<iconv_t>(-1)) return opened;
+        name = "CP1252";
+        return ::iconv_open("UTF-8", name.c_str());
+    }
+
+    std::optional<std::string> ConvertBack(std::string_view text) const {
+        const std::unique_ptr<void, int (*)(iconv_t)> back(::iconv_open(name.c_str(), "UTF-8"),
+                                                           ::iconv_close);
+        std::string bytes(text.size() * 2, '\0');
+        char* in = const_cast<char*>(text.data());
+        size_t left = text.size();
+        char* out = bytes.data();
+        size_t space = bytes.size();
+        if (::iconv(back.get(), &in, &left, &out, &space) == static_cast<size_t>(-1)) return std::nullopt;
+        bytes.resize(bytes.size() - space);
+        return bytes;
     }
 
     std::string Convert(std::string_view bytes) const {
@@ -106,6 +141,10 @@ CodePage::CodePage(int number) : converter_(std::make_unique<Converter>(number))
 CodePage::~CodePage() = default;
 CodePage::CodePage(CodePage&&) noexcept = default;
 CodePage& CodePage::operator=(CodePage&&) noexcept = default;
+
+std::optional<std::string> CodePage::FromUtf8(std::string_view text) const {
+    return text.empty() ? std::string() : converter_->ConvertBack(text);
+}
 
 std::string CodePage::ToUtf8(std::string_view bytes) const {
     return bytes.empty() ? std::string() : converter_->Convert(bytes);

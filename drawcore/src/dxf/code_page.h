@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ public:
 
     // What the page has no character for becomes U+FFFD.
     std::string ToUtf8(std::string_view bytes) const;
+    // None if the page lacks one of the characters.
+    std::optional<std::string> FromUtf8(std::string_view text) const;
 
 private:
     struct Converter; // the system's

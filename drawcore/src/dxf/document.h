@@ -91,7 +91,11 @@ struct Document {
     std::vector<Finding> findings; // at most kMostFindings, then one that says how many more there were
     static constexpr size_t kMostFindings = 200;
 
+    // The same without entities and what was found.
+    Document Tables() const;
+
     const TextStyle& At(TextStyleIndex index) const { return textStyles[static_cast<size_t>(index)]; }
+    const LineType& At(LineTypeIndex index) const { return lineTypes[static_cast<size_t>(index)]; }
     const Layer& At(LayerIndex index) const { return layers[static_cast<size_t>(index)]; }
     const Block& At(BlockIndex index) const { return blocks[static_cast<size_t>(index)]; }
 };

@@ -18,7 +18,11 @@ using drawcore::Vec3;
 
 // Positions in the lists of a Document. A reference to a name that no table holds makes an entry there.
 enum class LayerIndex : uint32_t {};
-enum class LineTypeIndex : uint32_t { byLayer = 0xFFFFFFFE, byBlock = 0xFFFFFFFF };
+enum class LineTypeIndex : uint32_t {
+    none = 0xFFFFFFFD, // no line at all; of no file
+    byLayer = 0xFFFFFFFE,
+    byBlock = 0xFFFFFFFF
+};
 enum class TextStyleIndex : uint32_t {};
 enum class BlockIndex : uint32_t { none = 0xFFFFFFFF };
 
@@ -213,6 +217,18 @@ constexpr int16_t kLineWeightByLayer = -1;
 constexpr int16_t kLineWeightByBlock = -2;
 constexpr int16_t kLineWeightDefault = -3;
 
+// What the file format has no group for: a name with numbers or a text, kept in extended data under kApplication.
+struct OwnValue {
+    std::string name;
+    std::string text;
+    std::vector<double> numbers;
+};
+inline bool operator==(const OwnValue& a, const OwnValue& b) {
+    return a.name == b.name && a.text == b.text && a.numbers == b.numbers;
+}
+using OwnData = std::vector<OwnValue>;
+constexpr char kApplication[] = "ORLO";
+
 struct Entity {
     Shape shape;
     LayerIndex layer{};
@@ -225,6 +241,8 @@ struct Entity {
     double lineTypeScale = 1;
     Vec3 normal{0, 0, 1}; // the extrusion direction: z axis of the object system
     uint32_t line = 0;    // of the file, for messages
+    uint32_t offset = 0;  // of its record in the text of the file
+    Apart<OwnData> own;   // null: none
 };
 
 } // namespace dxf

@@ -63,6 +63,8 @@ Entity EntityReader::NewEntity() {
     Entity entity;
     entity.layer = LayerIndex(in_.layers.Find("0"));
     entity.line = in_.tags.Current().line;
+    entity.offset = static_cast<uint32_t>(in_.tags.Current().offset);
+    in_.TakeOwn();
     return entity;
 }
 
@@ -79,6 +81,7 @@ void EntityReader::Read(std::vector<Entity>& entities) {
     }
     Entity entity = NewEntity();
     (this->*kind->read)(entity);
+    TakeOwn(entity);
     if (const uint32_t line = in_.TakeUnsound())
         Refuse("a number that has no place in a drawing, in line " + std::to_string(line));
     if (refused_.empty())
@@ -161,6 +164,7 @@ void EntityReader::ReadInsert(Entity& entity) {
     constexpr uint32_t kMostCells = INT16_MAX; // the file format's own limit
     Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());
     ReadTags(kFields, insert, entity);
+    TakeOwn(entity);
     insert.columns = std::clamp(insert.columns, 1u, kMostCells);
     insert.rows = std::clamp(insert.rows, 1u, kMostCells);
     ReadAttributesOf(insert);
@@ -173,7 +177,8 @@ void EntityReader::ReadTable(Entity& entity) {
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (tag.Is(100, "AcDbTable")) {
-            in_.tags.SkipRecord();
+            while (in_.NextTag()) {
+            }
             return;
         }
         if (!in_.SetField(kFields, insert, tag)) SetCommon(entity);

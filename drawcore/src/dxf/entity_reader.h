@@ -41,6 +41,10 @@ private:
             if (!in_.SetField(table, shape, in_.tags.Current())) SetCommon(entity);
     }
     void SetCommon(Entity& entity);
+    // Before records that belong to the entity are read, if there are any.
+    void TakeOwn(Entity& entity) {
+        if (!entity.own) entity.own = in_.TakeOwn();
+    }
     // Refuses the entity for a reason that is not a number without a place.
     void Refuse(std::string reason) { refused_ = std::move(reason); }
 

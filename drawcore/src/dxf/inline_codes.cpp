@@ -268,4 +268,20 @@ FormattedText ReadInlineCodes(std::string_view stored, double height) {
     return InlineReader(stored, height).Read();
 }
 
+std::string WithoutCodes(std::string_view rest, std::string_view letters) {
+    constexpr std::string_view kWithArgument = "FfHWCcSAQTp";
+    std::string kept;
+    while (!rest.empty()) {
+        std::string escape;
+        size_t length = AppendEscape(escape, rest);
+        const bool isCode = length == 0 && rest.size() > 1 && rest[0] == '\\';
+        if (length == 0) length = isCode ? 2 : 1;
+        if (isCode && kWithArgument.find(rest[1]) != kWithArgument.npos)
+            length = std::min(rest.find(';'), rest.size() - 1) + 1;
+        if (!isCode || letters.find(rest[1]) == letters.npos) kept += rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return kept;
+}
+
 } // namespace dxf

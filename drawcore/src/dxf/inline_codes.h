@@ -38,4 +38,7 @@ struct FormattedText {
 // height: of the text, in drawing units; heights within are given in the same.
 FormattedText ReadInlineCodes(std::string_view stored, double height);
 
+// The stored form without the codes of these letters and their arguments.
+std::string WithoutCodes(std::string_view stored, std::string_view letters);
+
 } // namespace dxf

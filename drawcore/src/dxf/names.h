@@ -14,17 +14,25 @@ namespace dxf {
 template <class Thing>
 class Names {
 public:
-    Names(std::vector<Thing>& things, const TextDecoder& decoder) : things_(things), decoder_(decoder) {}
+    Names(std::vector<Thing>& things, const TextDecoder& decoder) : things_(things), decoder_(decoder) {
+        for (size_t i = 0; i < things.size(); ++i)
+            byName_.emplace(Key(things[i].name), i);
+    }
 
     // Position of the thing of that name, as it is in the file; makes one that is only mentioned if there
     // is none.
     size_t Find(std::string_view raw) {
         if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer
-        std::string name = decoder_.Decode(raw);
-        const auto [found, isNew] = byName_.emplace(Key(name), things_.size());
-        if (isNew) things_.emplace_back().name = std::move(name);
+        last_ = FindUtf8(decoder_.Decode(raw));
         lastRaw_ = raw;
-        return last_ = found->second;
+        return last_;
+    }
+
+    // The same by a name in UTF-8.
+    size_t FindUtf8(const std::string& name) {
+        const auto [found, isNew] = byName_.emplace(Key(name), things_.size());
+        if (isNew) things_.emplace_back().name = name;
+        return found->second;
     }
 
     // The thing that a table's record declares. Of two records with one name the first keeps it.

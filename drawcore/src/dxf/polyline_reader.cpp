@@ -99,6 +99,7 @@ bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
 void EntityReader::ReadPolyline(Entity& entity) {
     PolylineCodes codes;
     ReadTags(kPolyline, codes, entity);
+    TakeOwn(entity);
     Polyline& polyline = entity.shape.emplace<Polyline>();
     polyline.kind = KindOf(codes.flags);
     polyline.closed = (codes.flags & kClosed) != 0;

@@ -154,11 +154,22 @@ private:
 
 } // namespace
 
+Document Document::Tables() const {
+    Document tables;
+    tables.header = header;
+    tables.layers = layers;
+    tables.lineTypes = lineTypes;
+    tables.textStyles = textStyles;
+    for (const Block& block : blocks)
+        tables.blocks.push_back({block.name, block.declared, block.base, block.flags, {}});
+    return tables;
+}
+
 ReadError::ReadError(uint32_t line, const std::string& text)
     : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line),
       text_(text) {}
 
-Document ReadFile(const std::filesystem::path& path, const Progress& progress) {
+std::string ReadBytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file) throw ReadError(0, "the file cannot be opened");
     const std::streamoff size = file.tellg();
@@ -167,13 +178,21 @@ Document ReadFile(const std::filesystem::path& path, const Progress& progress) {
     std::string bytes(static_cast<size_t>(size), '\0');
     file.seekg(0);
     if (!file.read(bytes.data(), size)) throw ReadError(0, "the file cannot be read");
-    return Read(bytes, progress);
+    return bytes;
+}
+
+Document ReadFile(const std::filesystem::path& path, const Progress& progress) {
+    return Read(ReadBytes(path), progress);
+}
+
+std::string_view TextOf(std::string_view bytes) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    return bytes.substr(0, kMark.size()) == kMark ? bytes.substr(kMark.size()) : bytes;
 }
 
 Document Read(std::string_view bytes, const Progress& progress) {
     RefuseOtherFiles(bytes);
-    if (bytes.substr(0, 3) == "\xEF\xBB\xBF") bytes.remove_prefix(3);
-    Document document = FileReader(bytes, progress).Read();
+    Document document = FileReader(TextOf(bytes), progress).Read();
     if (progress) progress(1000);
     return document;
 }

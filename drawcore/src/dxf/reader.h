@@ -37,7 +37,12 @@ using Progress = std::function<void(int permille)>;
 // The bytes need not outlive the call. Throws ReadError, std::bad_alloc.
 Document Read(std::string_view bytes, const Progress& progress);
 
-// The same for a file; one that cannot be read is a ReadError without a line.
+// What Read reads of the bytes of a file: a mark of UTF-8 in front is none of it, and offsets of entities don't count it.
+std::string_view TextOf(std::string_view bytes);
+
+// The bytes of a file; one that cannot be read is a ReadError without a line.
+std::string ReadBytes(const std::filesystem::path& path);
+// Both in one.
 Document ReadFile(const std::filesystem::path& path, const Progress& progress);
 
 } // namespace dxf

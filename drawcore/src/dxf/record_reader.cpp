@@ -17,25 +17,61 @@ bool SameName(std::string_view a, std::string_view upper) {
 
 } // namespace
 
+RecordReader::RecordReader(std::string_view bytes, const Progress& progress, Document known)
+    : tags(bytes, progress), document(std::move(known)) {
+    decoder.SetVersion(document.header.version);
+    decoder.SetCodePage(document.header.codePage);
+}
+
 bool RecordReader::NextTag() {
-    constexpr int kGroup = 102;
-    constexpr int kEmbedded = 101;
-    constexpr int kExtended = 1000;
     const Tag& tag = tags.Next();
     while (!tag.StartsRecord()) {
         if (tag.code == kEmbedded) {
-            tags.SkipRecord();
+            while (!tags.Next().StartsRecord() && tag.code < kExtended) {
+            }
         } else if (tag.code == kGroup && !tag.value.empty() && tag.value[0] == '{') {
             while (!tags.Next().StartsRecord() && !tag.Is(kGroup, "}")) {
             }
             if (!tag.StartsRecord()) tags.Next();
         } else if (tag.code >= kExtended) {
-            tags.Next();
+            ReadExtended();
         } else {
             return true;
         }
     }
     return false;
+}
+
+void RecordReader::ReadExtended() {
+    if (!tags.Current().Is(kApplicationName, kApplication)) {
+        tags.Next();
+        return;
+    }
+    own_ = std::make_unique<OwnData>();
+    const Tag& tag = tags.Next();
+    while (tag.code >= kExtended && tag.code != kApplicationName) {
+        if (tag.code == kExtendedText)
+            own_->push_back(ReadOwnValue());
+        else
+            tags.Next();
+    }
+}
+
+// A name and what stands in the braces behind it: numbers, or the pieces of one text.
+OwnValue RecordReader::ReadOwnValue() {
+    OwnValue value{Text(tags.Current()), {}, {}};
+    const Tag& tag = tags.Next();
+    if (!tag.Is(kExtendedBrace, "{")) return value;
+    std::string bytes;
+    while (tags.Next().code >= kExtended && tag.code != kApplicationName && tag.code != kExtendedBrace) {
+        if (tag.code == kExtendedText) bytes += tag.value;
+        if (tag.code == kExtendedReal) value.numbers.push_back(tag.Real());
+    }
+    if (tag.code == kExtendedBrace) tags.Next();
+    const auto isNone = [](double number) { return !std::isfinite(number); };
+    if (std::any_of(value.numbers.begin(), value.numbers.end(), isNone)) value.numbers.clear();
+    value.text = ReadOwnText(decoder.Decode(bytes));
+    return value;
 }
 
 double RecordReader::Real(const Tag& tag) {

@@ -26,6 +26,8 @@ struct Field {
 class RecordReader {
 public:
     RecordReader(std::string_view bytes, const Progress& progress) : tags(bytes, progress) {}
+    // Reads on in a file whose header and tables are known.
+    RecordReader(std::string_view bytes, const Progress& progress, Document known);
     RecordReader(const RecordReader&) = delete;
     RecordReader& operator=(const RecordReader&) = delete;
 
@@ -45,8 +47,11 @@ public:
     }
 
     // Goes to the next tag of the record; false at its end. Passes over what programs other than the writer
-    // attach: groups in braces (code 102), extended data, embedded objects.
+    // attach: groups in braces (code 102), extended data, embedded objects. Extended data of kApplication is
+    // kept for TakeOwn.
     bool NextTag();
+    // What the record that was read has in extended data of kApplication; null if there is none.
+    Apart<OwnData> TakeOwn() { return std::move(own_); }
 
     // False if the table has no such code.
     template <class T, size_t N>
@@ -72,6 +77,9 @@ public:
     void Report(uint32_t line, std::string text);
 
 private:
+    void ReadExtended();
+    OwnValue ReadOwnValue();
+
     void Assign(double& to, const Tag& tag, int) { to = Real(tag); }
     void Assign(int& to, const Tag& tag, int) { to = tag.Integer(); }
     void Assign(int16_t& to, const Tag& tag, int);
@@ -84,6 +92,7 @@ private:
     void Assign(TextStyleIndex& to, const Tag& tag, int) { to = TextStyleIndex(textStyles.Find(tag.value)); }
     void Assign(BlockIndex& to, const Tag& tag, int) { to = BlockIndex(blocks.Find(tag.value)); }
 
+    Apart<OwnData> own_;
     uint32_t unsound_ = 0;
     size_t unreported_ = 0;
 };

@@ -114,18 +114,25 @@ void TagReader::FailAtEnd() const {
 const Tag& TagReader::Next() {
     do {
         std::string_view code;
+        tag_.offset = Offset();
         if (!NextLine(code)) FailAtEnd();
         tag_.code = ParseCode(code);
         tag_.line = line_;
         if (!NextLine(tag_.value)) FailAtEnd();
     } while (tag_.code == 999);
-    const auto done = static_cast<size_t>(at_ - begin_);
+    const size_t done = Offset();
     if (done >= reportAt_) {
         const auto whole = static_cast<size_t>(end_ - begin_);
         progress_(static_cast<int>(static_cast<double>(done) / static_cast<double>(whole) * 999));
         reportAt_ = done + std::max<size_t>(whole / 200, 1 << 16);
     }
     return tag_;
+}
+
+const Tag& TagReader::Seek(size_t offset) {
+    at_ = begin_ + offset;
+    line_ = 0;
+    return Next();
 }
 
 const Tag& TagReader::SkipRecord() {

@@ -10,10 +10,23 @@
 
 namespace dxf {
 
+// Group codes whose meaning is the same in every record.
+enum GroupCode {
+    kSubclass = 100,
+    kEmbedded = 101,
+    kGroup = 102,
+    kExtended = 1000, // and above
+    kExtendedText = 1000,
+    kApplicationName = 1001,
+    kExtendedBrace = 1002,
+    kExtendedReal = 1040,
+};
+
 struct Tag {
     int code = 0;
     std::string_view value; // without its line end; blanks as stored
     uint32_t line = 0;      // of the group code; the value is on the next one
+    size_t offset = 0;      // of the line of the group code in the text
 
     bool Is(int wanted, std::string_view text) const { return code == wanted && Trimmed() == text; }
     // A new record begins with a tag of code 0.
@@ -40,6 +53,11 @@ public:
 
     // Goes on to the next tag that starts a record.
     const Tag& SkipRecord();
+
+    // Goes to the tag whose group code begins there; lines are counted from it on.
+    const Tag& Seek(size_t offset);
+    // Where the next tag begins.
+    size_t Offset() const { return static_cast<size_t>(at_ - begin_); }
 
     // What is being read, for the message about a file that ends too early; null between sections. Kept by
     // pointer.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdio>
 
 namespace dxf {
 
@@ -49,6 +50,19 @@ bool ReadUnicodeEscape(std::string_view text, uint32_t& unit) {
            ReadDigits(text.substr(3), 4, 16, unit);
 }
 
+// The escape of one character, which is well-formed: of one beyond 16 bits that of its two units.
+std::string UnicodeEscape(std::string_view character) {
+    uint32_t c = static_cast<unsigned char>(character[0]) & (0xFFu >> (character.size() + 1));
+    for (const char next : character.substr(1))
+        c = c << 6 | (static_cast<unsigned char>(next) & 0x3F);
+    const auto escape = [](uint32_t unit) {
+        char text[8];
+        std::snprintf(text, sizeof text, "\\U+%04X", static_cast<unsigned>(unit & 0xFFFF));
+        return std::string(text);
+    };
+    return c < 0x10000 ? escape(c) : escape(0xD7C0 + (c >> 10)) + escape(0xDC00 + (c & 0x3FF));
+}
+
 // "\M+nXXXX": two bytes of one of five code pages. Gives the length of the escape, 0 if there is none.
 size_t AppendMultiByteEscape(std::string& to, std::string_view text) {
     constexpr int kPages[] = {932, 950, 949, 1361, 936};
@@ -91,6 +105,32 @@ std::string TextDecoder::Decode(std::string_view bytes) const {
     return page_.ToUtf8(bytes);
 }
 
+std::string TextDecoder::Encode(std::string_view utf8) const {
+    if (IsAscii(utf8) || utf8_) return std::string(utf8);
+    std::string bytes;
+    while (!utf8.empty()) {
+        const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
+        const std::string_view character = utf8.substr(0, length);
+        bytes += length == 1 ? std::string(character)
+                             : page_.FromUtf8(character).value_or(UnicodeEscape(character));
+        utf8.remove_prefix(length);
+    }
+    return bytes;
+}
+
+std::vector<std::string> TextDecoder::EncodePieces(std::string_view utf8) const {
+    constexpr size_t kLongest = 250; // bytes
+    std::vector<std::string> pieces;
+    while (!utf8.empty()) {
+        const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
+        const std::string character = Encode(utf8.substr(0, length));
+        if (pieces.empty() || pieces.back().size() + character.size() > kLongest) pieces.emplace_back();
+        pieces.back() += character;
+        utf8.remove_prefix(length);
+    }
+    return pieces;
+}
+
 size_t AppendEscape(std::string& text, std::string_view stored) {
     if (stored.size() < 7 || stored[0] != '\\') return 0;
     uint32_t unit = 0;
@@ -110,6 +150,30 @@ std::string ToDisplayText(std::string_view stored) {
         stored.remove_prefix(length);
     }
     return shown;
+}
+
+std::string ReadOwnText(std::string_view stored) {
+    std::string text;
+    const std::string shown = ToDisplayText(stored);
+    for (size_t i = 0; i < shown.size(); ++i) {
+        const bool escaped = shown[i] == '^' && i + 1 < shown.size();
+        if (escaped) ++i;
+        text += !escaped ? shown[i] : shown[i] == ' ' ? '^' : static_cast<char>(shown[i] & 0x1F);
+    }
+    return text;
+}
+
+std::string WriteOwnText(std::string_view text) {
+    std::string stored;
+    for (const char c : text) {
+        if (c == '^')
+            stored += "^ ";
+        else if (static_cast<unsigned char>(c) < ' ')
+            stored += {'^', static_cast<char>(c + '@')};
+        else
+            stored += c;
+    }
+    return stored;
 }
 
 LineText ReadControlCodes(std::string_view rest) {
@@ -162,6 +226,17 @@ LineText ReadControlCodes(std::string_view rest) {
         rest.remove_prefix(length);
     }
     return line;
+}
+
+std::string WithoutSwitch(std::string_view rest, char letter) {
+    std::string text;
+    while (!rest.empty()) {
+        const bool isCode = rest.size() >= 3 && rest.substr(0, 2) == "%%";
+        const size_t length = isCode ? 3 : 1;
+        if (!isCode || (rest[2] != letter && rest[2] != letter - 'a' + 'A')) text += rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return text;
 }
 
 } // namespace dxf

@@ -102,10 +102,12 @@ UndoLog* Graphic::OpenUndoLog() const {
 }
 
 void Graphic::ChangingLook() {
+    touched = true;
     if (UndoLog* log = OpenUndoLog()) log->SaveLook(*this);
 }
 
 void Graphic::ChangingShape() {
+    touched = true;
     if (UndoLog* log = OpenUndoLog()) log->SaveState(*this);
 }
 

@@ -95,6 +95,11 @@ public:
     std::unique_ptr<std::string> info; // attribute text; null is empty
     const PropertyTable* propertyTable;
 
+    static constexpr uint32_t kNoSource = UINT32_MAX;
+    uint32_t source =
+        kNoSource; // where its record begins in the text of the file that it was read from; not of copies
+    bool touched = false; // since then someone could have changed it
+
 protected:
     Graphic(uint8_t type, const PropertyTable* properties);
     Graphic(const Graphic& other); // without parts; no owner

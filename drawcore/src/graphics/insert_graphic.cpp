@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "drawcore/src/database/drawing.h"
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/trace.h"
 
@@ -21,12 +22,6 @@ bool IsOpen(const Block* block, const Trace& trace) {
 
 Vec3 Origin(const Matrix& placement) {
     return placement.Apply({});
-}
-
-// The placement of a flat insertion with a z axis all the same: files have a good many with a z scale of 0.
-Matrix Solid(const Matrix& placement) {
-    const Vec3 x = placement.Turn({1, 0, 0}), y = placement.Turn({0, 1, 0}), z = placement.Turn({0, 0, 1});
-    return Length(z) > 0 ? placement : Matrix::FromAxes(x, y, Normalized(Cross(x, y)), Origin(placement));
 }
 
 } // namespace
@@ -89,8 +84,8 @@ bool InsertGraphic::FindMotion(Matrix& motion) const {
     const Matrix now = Placement();
     if (std::equal(&now.at[0][0], &now.at[0][0] + 16, &first_->at[0][0])) return false;
     Matrix back;
-    motion =
-        Solid(*first_).Invert(back) ? back * Solid(now) : Matrix::Translation(Origin(now) - Origin(*first_));
+    motion = dxf::Solid(*first_).Invert(back) ? back * dxf::Solid(now)
+                                              : Matrix::Translation(Origin(now) - Origin(*first_));
     return true;
 }
 

@@ -33,6 +33,7 @@ public:
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
     void Place(const Matrix& placement);
+    InsertArray MovedArray() const; // as it is seen
 
     Id block; // entry of "_Blocks_" of the drawing that this graphic is attached to
     Vertex vertices[4];
@@ -43,7 +44,6 @@ protected:
 
 private:
     void KeepFirst(); // someone is about to move it
-    InsertArray MovedArray() const;
 
     std::optional<Matrix> first_; // the placement before it was moved; none as long as nobody could have
 };

@@ -3,23 +3,11 @@
 
 #include <optional>
 
+#include "drawcore/src/dxf/text_bits.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/shaped_text.h"
 
 namespace drawcore {
-
-// Bits of TextGraphic::style.
-enum : uint16_t {
-    kTextItalic = 0x0001,
-    kTextBold = 0x0002,
-    kTextStrikethrough = 0x0004,
-    kTextHidden = 0x0008,
-    kTextAllCaps = 0x0040,
-    kTextUnderline = 0x0100,
-    kTextBox = 0x1000,
-};
-
-enum : uint16_t { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 
 // Which height of the text lies on the position.
 enum class TextAnchor : uint8_t { Baseline, Bottom, Middle, Top };

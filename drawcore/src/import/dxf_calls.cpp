@@ -3,7 +3,9 @@
 #include <new>
 
 #include "drawcore/include/drawcore/dxf.h"
+#include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/dxf_import.h"
 
 using namespace drawcore;
@@ -12,18 +14,36 @@ namespace {
 
 constexpr int kReadingShare = 700; // of 1000: reading takes longer than making the drawing
 
+size_t CountMembers(const Graphic& group) {
+    size_t count = group.MemberCount();
+    for (size_t i = 0; i < group.MemberCount(); ++i)
+        count += CountMembers(*group.MemberAt(i));
+    return count;
+}
+
+size_t CountGraphics(const Drawing& drawing) {
+    const BlockTable& blocks = *drawing.Blocks();
+    size_t count = CountMembers(drawing.Root());
+    for (Id id = blocks.First(); id; id = blocks.Next(id))
+        count += CountMembers(blocks.At(id)->Content());
+    return count;
+}
+
 std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener& listener) {
     const auto report = [&](int permille) {
         if (listener.progress) listener.progress(listener.context, permille);
     };
-    dxf::Document document =
-        dxf::ReadFile(path, [&](int permille) { report(permille * kReadingShare / 1000); });
+    std::string bytes = dxf::ReadBytes(path);
+    dxf::Document document = dxf::Read(bytes, [&](int permille) { report(permille * kReadingShare / 1000); });
     std::unique_ptr<Drawing> drawing = ImportDxf(
         document, [&](int permille) { report(kReadingShare + permille * (1000 - kReadingShare) / 1000); });
     for (const dxf::Finding& finding : document.findings)
         if (listener.finding)
             listener.finding(listener.context, static_cast<int>(finding.line),
                              CodePageFromUtf8(finding.text).c_str());
+    drawing->source = std::make_unique<DxfSource>(std::move(bytes), document);
+    drawing->source->path = std::filesystem::absolute(path);
+    drawing->source->graphics = CountGraphics(*drawing);
     report(1000);
     return drawing;
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/path.h"
 #include "drawcore/src/graphics/ellipse_graphic.h"
 #include "drawcore/src/graphics/insert_graphic.h"
@@ -30,16 +31,8 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
 
 // A width that is the same throughout is the pen's; else each segment has its own.
 void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
-    const double width = polyline.vertices[0].startWidth;
-    const bool constant =
-        std::all_of(polyline.vertices.begin(), polyline.vertices.end(), [&](const auto& vertex) {
-            return vertex.startWidth == width && vertex.endWidth == width;
-        });
-    if (constant && width > 0) {
-        graphic.pen.width = width;
-        graphic.pen.scaleSystem = kScaleWorld;
-    }
-    for (size_t i = 0; !constant && i < polyline.vertices.size(); ++i) {
+    if (dxf::HasOneWidth(polyline)) return;
+    for (size_t i = 0; i < polyline.vertices.size(); ++i) {
         graphic.vertices[i].startWidth = std::max(polyline.vertices[i].startWidth, 0.0);
         graphic.vertices[i].endWidth = std::max(polyline.vertices[i].endWidth, 0.0);
     }
@@ -135,7 +128,6 @@ public:
             const bool drawn = !(face->hiddenEdges >> edge & 1);
             graphic->AddVertex(system.Apply(face->corners[(edge + 1) % 4]), drawn);
         }
-        if (face->filled) graphic->brush.style = kBrushSolid;
         return graphic;
     }
 
@@ -146,19 +138,15 @@ public:
             Matrix::Translation({0, 0, hatch->elevation}) * dxf::ObjectSystem(entity_.normal);
         for (const dxf::Hatch::Loop& loop : hatch->loops)
             if (IsFilled(*hatch, loop)) dxf::Trace(loop, system, builder);
-        graphic->brush = ImportBrush(*hatch, *importer_.drawing_.BrushStyles());
-        if (graphic->vertices.empty()) return nullptr;
-        if (graphic->brush.style != kBrushStyleNone)
-            graphic->pen.style = kLineStyleNone; // a hatch shows no outline
-        return graphic;
+        return graphic->vertices.empty() ? nullptr : std::move(graphic);
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Text>& text) {
-        return ImportText(entity_, *text, importer_.document_.At(text->style));
+        return ImportText(entity_, *text);
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::MText>& text) {
-        return ImportText(entity_, *text, importer_.document_.At(text->style));
+        return ImportText(entity_, *text, importer_.document_);
     }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Insert>& insert) {
@@ -169,7 +157,7 @@ public:
         if (dimension->block == dxf::BlockIndex::none) return nullptr;
         const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
         if (!block) return nullptr;
-        return std::make_unique<InsertGraphic>(block, Matrix::Translation(dimension->offset));
+        return std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity_));
     }
 
 private:
@@ -183,10 +171,8 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
     const Id block =
         insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
-    // The block's base point is the block's own business.
-    const Matrix first = dxf::InsertMatrix(entity, insert, dxf::Block(), 0, 0);
     const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
-    auto graphic = std::make_unique<InsertGraphic>(block, first);
+    auto graphic = std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity));
     graphic->array.columns = static_cast<int>(insert.columns);
     graphic->array.rows = static_cast<int>(insert.rows);
     graphic->array.columnStep = turned.Turn({insert.columnSpacing, 0, 0});
@@ -194,21 +180,38 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
     return graphic;
 }
 
-void EntityImport::SetLook(Graphic& graphic, const dxf::Entity& entity) const {
+void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
     Pen& pen = graphic.pen;
-    const dxf::Layer& layer = document_.At(entity.layer);
-    graphic.layer = tables_.layers[static_cast<size_t>(entity.layer)];
-    if (pen.color == kColorByLayer) pen.color = ColorOfDxf(std::abs(entity.color), entity.trueColor);
-    if (entity.lineTypeScale > 0) pen.scale = entity.lineTypeScale;
-    if (pen.style == kLineStyleByLayer && entity.lineType == dxf::LineTypeIndex::byBlock)
-        pen.style = kLineStyleByBlock;
-    else if (pen.style == kLineStyleByLayer && entity.lineType != dxf::LineTypeIndex::byLayer)
-        pen.style = tables_.lineStyles[static_cast<size_t>(entity.lineType)];
-    const auto* polyline = std::get_if<dxf::Polyline>(&entity.shape);
-    pen.alignment = !(polyline && polyline->dashesThrough);
-    const int weight = entity.lineWeight == dxf::kLineWeightByLayer ? layer.lineWeight : entity.lineWeight;
-    constexpr double kInch = kMillimetresPerInch * 100; // in the hundredths of a millimetre of a line weight
-    if (weight > 0 && pen.width == 0) pen.width = weight / kInch;
+    pen.color = look.color;
+    pen.style = LineStyleOf(look.lineType);
+    pen.scale = look.lineScale;
+    pen.width = look.width;
+    pen.scaleSystem = look.worldWidth ? kScaleWorld : kScalePaper;
+    pen.alignment = look.dashesFitted;
+    graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
+    graphic.brush = ImportBrush(look.brush, *drawing_.BrushStyles());
+    if (!look.info.empty()) graphic.info = std::make_unique<std::string>(CodePageFromUtf8(look.info));
+    if (!look.styleTree.empty())
+        graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));
+    if (graphic.GetKind() != Kind::Text) return;
+    TextState& text = static_cast<TextGraphic&>(graphic).state;
+    text.font = CodePageFromUtf8(look.text.font);
+    text.height = look.text.height;
+    text.style = look.text.style;
+    text.format = look.text.format;
+}
+
+uint16_t EntityImport::LineStyleOf(dxf::LineTypeIndex type) const {
+    switch (type) {
+    case dxf::LineTypeIndex::none:
+        return kLineStyleNone;
+    case dxf::LineTypeIndex::byLayer:
+        return kLineStyleByLayer;
+    case dxf::LineTypeIndex::byBlock:
+        return kLineStyleByBlock;
+    default:
+        return tables_.lineStyles[static_cast<size_t>(type)];
+    }
 }
 
 void EntityImport::AddAttributes(Graphic& group, const dxf::Insert& insert) {
@@ -222,7 +225,8 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
     std::unique_ptr<Graphic> graphic = std::visit(ShapeImport(*this, entity), entity.shape);
     Graphic* added = nullptr;
     if (graphic) {
-        SetLook(*graphic, entity);
+        SetLook(*graphic, dxf::LookOf(document_, entity));
+        graphic->source = entity.offset;
         added = group.Add(std::move(graphic));
     }
     // The attributes of an insertion that shows nothing itself stand alone.

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "drawcore/src/dxf/document.h"
+#include "drawcore/src/dxf/look.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/import/import_tables.h"
 
@@ -23,7 +23,8 @@ private:
 
     std::unique_ptr<Graphic> MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert);
     void AddAttributes(Graphic& group, const dxf::Insert& insert);
-    void SetLook(Graphic& graphic, const dxf::Entity& entity) const;
+    void SetLook(Graphic& graphic, const dxf::Look& look) const;
+    uint16_t LineStyleOf(dxf::LineTypeIndex type) const;
 
     const dxf::Document& document_;
     const ImportedTables& tables_;

@@ -6,20 +6,20 @@
 #include <cstdlib>
 
 #include "drawcore/src/database/encoding.h"
+#include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
-#include "drawcore/src/units/unit_settings.h"
+#include "drawcore/src/units/header_units.h"
 
 namespace drawcore {
 
-namespace {
-
-constexpr size_t kLongestName = 255;
-
 std::string HostName(const std::string& stored) {
+    constexpr size_t kLongestName = 255;
     std::string name = CodePageFromUtf8(dxf::ToDisplayText(stored)).substr(0, kLongestName);
     return name.empty() ? "(no name)" : name;
 }
+
+namespace {
 
 // The entry of that name, which is made if there is none yet; 0 if the table is full.
 template <class Entry, class Make>
@@ -55,7 +55,7 @@ Id ImportLayer(const dxf::Layer& from, const LineStyleTable& styles, LayerTable&
     const Id id = FindOrAdd(layers, HostName(from.name), make);
     Layer* layer = layers.At(id);
     if (!layer) return kLayerZero;
-    const Color color = ColorOfDxf(std::abs(from.color), from.trueColor);
+    const Color color = dxf::ColorOf(std::abs(from.color), from.trueColor);
     layer->color = IsPlainColor(color) ? color : kWhite;
     layer->lineStyle = styles.IdOf(HostName(from.lineType));
     layer->off = from.color < 0;
@@ -78,37 +78,7 @@ Id ImportBlock(const dxf::Block& from, BlockTable& blocks) {
     return blocks.Add(std::move(block));
 }
 
-// Engineering and architectural lengths are of a drawing in inches, if nothing else is said.
-bool CountsInFeet(const dxf::Header& header) {
-    return header.lengthFormat == 3 || header.lengthFormat == 4;
-}
-
-void ImportUnits(const dxf::Header& header, Table& units) {
-    const LengthUnit* unit = LengthUnitOfDxf(header.unit);
-    UnitSettings settings;
-    if (unit)
-        settings.drawingUnit = unit->name;
-    else if (header.metric == 0 || CountsInFeet(header))
-        settings.drawingUnit = "in";
-    const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
-    if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
-    settings.lengthSystem = static_cast<LengthSystem>(header.lengthFormat);
-    settings.lengthDigits = std::clamp(header.lengthDigits, 0, 8);
-    settings.angleSystem = static_cast<AngleSystem>(header.angleFormat);
-    settings.angleDigits = std::clamp(header.angleDigits, 0, 8);
-    settings.Store(units);
-}
-
 } // namespace
-
-Color ColorOfDxf(int index, int32_t trueColor) {
-    if (trueColor >= 0) {
-        const auto rgb = static_cast<uint32_t>(trueColor);
-        return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF);
-    }
-    if (index == dxf::kIndexByBlock) return kColorByBlock;
-    return index >= 1 && index <= 255 ? ColorOfIndex(index) : kColorByLayer;
-}
 
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
     ImportedTables tables;
@@ -119,7 +89,7 @@ ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
         tables.layers.push_back(ImportLayer(layer, styles, *drawing.Layers()));
     for (const dxf::Block& block : document.blocks)
         tables.blocks.push_back(ImportBlock(block, *drawing.Blocks()));
-    ImportUnits(document.header, *drawing.Units());
+    UnitsOf(document.header).Store(*drawing.Units());
     if (document.header.lineTypeScale > 0) drawing.lineScale = document.header.lineTypeScale;
     return tables;
 }

@@ -16,10 +16,10 @@ struct ImportedTables {
     std::vector<Id> blocks; // no identifier for what is only mentioned, and for model and paper space
 };
 
+// The name of an entry for a name as it is stored in a file.
+std::string HostName(const std::string& stored);
+
 // Fills tables and units; the blocks are still empty.
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
-
-// A colour number of an entity (256 by layer, 0 by block) or its true colour (-1: none).
-Color ColorOfDxf(int index, int32_t trueColor);
 
 } // namespace drawcore

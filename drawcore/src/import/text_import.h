@@ -8,10 +8,9 @@
 
 namespace drawcore {
 
-// Null if there is nothing to read in it. Layer and colour are the caller's to set, but for a colour within an MTEXT.
-std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::Text& text,
-                                        const dxf::TextStyle& style);
+// Null if there is nothing to read in it. All that a look says is the caller's to set.
+std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::Text& text);
 std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MText& text,
-                                        const dxf::TextStyle& style);
+                                        const dxf::Document& document);
 
 } // namespace drawcore

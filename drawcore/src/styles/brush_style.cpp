@@ -5,19 +5,30 @@
 #include <cmath>
 
 #include "drawcore/include/drawcore/brushstyle.h"
+#include "drawcore/src/dxf/standard_brushes.h"
 #include "orlo/host/style.h"
 
 namespace drawcore {
 
 namespace {
 
-constexpr double kQuarter = 0.78539816339744831; // 45 degrees
+// Tiles of the bitmaps among the styles that every drawing has.
+struct NamedBitmap {
+    const char* name;
+    BrushBitmap bitmap;
+};
+constexpr BrushBitmap::Colors kBrickColors = {0x00305CB0, 0x00D8E0E4};
+constexpr NamedBitmap kBitmaps[] = {
+    {"Dots 25%", {{0x88, 0x22, 0x88, 0x22, 0x88, 0x22, 0x88, 0x22}, {}}},
+    {"Dots 50%", {{0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55}, {}}},
+    {"Dots 75%", {{0x77, 0xDD, 0x77, 0xDD, 0x77, 0xDD, 0x77, 0xDD}, {}}},
+    {"Brick bitmap", {{0x00, 0xFE, 0xFE, 0xFE, 0x00, 0xEF, 0xEF, 0xEF}, kBrickColors}},
+};
 
-PatternLine Family(double angle) {
-    PatternLine line;
-    line.angle = angle;
-    line.offset = {-std::sin(angle), std::cos(angle)};
-    return line;
+const BrushBitmap* FindBitmap(const std::string& name) {
+    for (const NamedBitmap& named : kBitmaps)
+        if (name == named.name) return &named.bitmap;
+    return nullptr;
 }
 
 } // namespace
@@ -26,26 +37,24 @@ double PatternLine::Spacing() const {
     return std::fabs(offset.y * std::cos(angle) - offset.x * std::sin(angle));
 }
 
-BrushStyleTable::BrushStyleTable(Drawing* owner) : TableOf(owner) {
-    const auto add = [this](const char* name, std::vector<PatternLine> lines) {
-        Add(std::make_unique<BrushStyle>(name, std::move(lines)));
-    };
-    add("Solid", {});
-    add("Horizontal", {Family(0)});
-    add("Vertical", {Family(2 * kQuarter)});
-    add("Diagonal up", {Family(kQuarter)});
-    add("Diagonal down", {Family(3 * kQuarter)});
-    add("Cross", {Family(0), Family(2 * kQuarter)});
-    add("Diagonal cross", {Family(kQuarter), Family(3 * kQuarter)});
+std::vector<PatternLine> LinesFromFile(const std::vector<dxf::Hatch::PatternLine>& lines) {
+    std::vector<PatternLine> made;
+    for (const dxf::Hatch::PatternLine& from : lines) {
+        PatternLine& line = made.emplace_back();
+        line.angle = Radians(from.angle);
+        line.base = {from.base.x, from.base.y};
+        line.offset = {from.offset.x, from.offset.y};
+        line.dashes = from.dashes;
+    }
+    return made;
+}
 
-    const auto addBitmap = [this](const char* name, const BrushBitmap& bitmap) {
-        Add(std::make_unique<BrushStyle>(name, bitmap));
-    };
-    addBitmap("Dots 25%", {{0x88, 0x22, 0x88, 0x22, 0x88, 0x22, 0x88, 0x22}, {}});
-    addBitmap("Dots 50%", {{0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55}, {}});
-    addBitmap("Dots 75%", {{0x77, 0xDD, 0x77, 0xDD, 0x77, 0xDD, 0x77, 0xDD}, {}});
-    constexpr BrushBitmap::Colors kBrickColors = {0x00305CB0, 0x00D8E0E4};
-    addBitmap("Brick bitmap", {{0x00, 0xFE, 0xFE, 0xFE, 0x00, 0xEF, 0xEF, 0xEF}, kBrickColors});
+BrushStyleTable::BrushStyleTable(Drawing* owner) : TableOf(owner) {
+    for (const dxf::StandardBrush& brush : dxf::StandardBrushes()) {
+        const BrushBitmap* bitmap = FindBitmap(brush.name);
+        Add(bitmap ? std::make_unique<BrushStyle>(brush.name, *bitmap)
+                   : std::make_unique<BrushStyle>(brush.name, LinesFromFile(brush.lines)));
+    }
 }
 
 std::unique_ptr<TableEntry> BrushStyleTable::MakeEntry(std::string_view name, void*) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "drawcore/src/dxf/entities.h"
 #include "drawcore/src/geometry/matrix.h"
 #include "drawcore/src/styles/colors.h"
 #include "drawcore/src/tables/table.h"
@@ -23,6 +24,9 @@ struct PatternLine : BrushPatternStruct {
     std::vector<double> dashes; // as of a line style; empty is solid
     double Spacing() const;     // distance from line to line
 };
+
+// Lines of a pattern as a file has them, in degrees.
+std::vector<PatternLine> LinesFromFile(const std::vector<dxf::Hatch::PatternLine>& lines);
 
 // A tile of 8 by 8 device pixels, the same size at every zoom; scale, angle and cross do not touch it.
 struct BrushBitmap {

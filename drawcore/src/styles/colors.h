@@ -14,9 +14,6 @@ constexpr bool IsPlainColor(Color color) {
     return (color >> 24) == 0;
 }
 
-// Colour of a DXF colour number, 1 to 255; white for any other.
-Color ColorOfIndex(int index);
-
 class ColorEntry : public TableEntry {
 public:
     ColorEntry(std::string_view entryName, Color color) : TableEntry(entryName), color_(color) {}

@@ -88,11 +88,4 @@ int CopyText(std::string_view text, char* buffer, int size) {
     return static_cast<int>(count);
 }
 
-std::string FoldName(std::string_view name) {
-    std::string folded(name);
-    for (char& c : folded)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return folded;
-}
-
 } // namespace drawcore

@@ -14,6 +14,8 @@
 #include <variant>
 #include <vector>
 
+#include "drawcore/src/tables/fold_name.h"
+
 struct TableStruct {};
 
 namespace drawcore {
@@ -93,7 +95,5 @@ public:
 
 // Copies a text, at most size bytes with the NUL; the number of characters copied.
 int CopyText(std::string_view text, char* buffer, int size);
-// The name as look-ups compare it.
-std::string FoldName(std::string_view name);
 
 } // namespace drawcore

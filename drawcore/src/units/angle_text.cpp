@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/tables/table.h"
+#include "drawcore/src/tables/fold_name.h"
 #include "drawcore/src/units/text_cursor.h"
 
 namespace drawcore {

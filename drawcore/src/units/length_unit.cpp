@@ -1,7 +1,7 @@
 // The table of units.
 #include "drawcore/src/units/length_unit.h"
 
-#include "drawcore/src/tables/table.h"
+#include "drawcore/src/tables/fold_name.h"
 #include "orlo/host/words.h"
 
 namespace drawcore {

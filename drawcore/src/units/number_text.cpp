@@ -6,8 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "drawcore/include/drawcore/application.h"
-#include "drawcore/src/database/application.h"
+#include "drawcore/src/units/decimal_mark.h"
 #include "orlo/host/units.h"
 
 namespace drawcore {
@@ -31,11 +30,6 @@ size_t CountExponent(std::string_view text) {
     const size_t lead = text.size() > 1 && (text[1] == '+' || text[1] == '-') ? 2 : 1;
     const size_t digits = CountDigits(text.substr(lead));
     return digits ? lead + digits : 0;
-}
-
-char DecimalMark() {
-    const std::string* mark = Application::Get().Variables().Variable<std::string>(kVarDecimalMark);
-    return mark && *mark == "," ? ',' : '.';
 }
 
 // Removes zeros after the point, and a point after which nothing is left; the exponent stays.

@@ -1,6 +1,6 @@
 // What drawings hold, as a list.
 
-#include "tools/dxflist/list_drawings.h"
+#include "tools/dxfprops/list_drawings.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,0 +1,85 @@
+// The 255 numbered colours.
+#include "drawcore/src/dxf/color_numbers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "orlo/host/words.h"
+
+namespace dxf {
+
+namespace {
+
+using Color = uint32_t;
+
+constexpr Color kWhite = 0x00FFFFFF;
+
+constexpr Color Rgb(int r, int g, int b) {
+    return static_cast<Color>(r | g << 8 | b << 16);
+}
+
+constexpr Color kFirst[] = {Rgb(255, 0, 0),   Rgb(255, 255, 0),   Rgb(0, 255, 0),
+                            Rgb(0, 255, 255), Rgb(0, 0, 255),     Rgb(255, 0, 255),
+                            kWhite,           Rgb(128, 128, 128), Rgb(192, 192, 192)};
+constexpr int kGreys[] = {51, 80, 105, 130, 190, 255};
+
+// The numbers 10 to 249 are 24 hues, 15 degrees apart, each in five brightnesses, full and half saturated.
+Color HueColor(int index) {
+    constexpr int kBrightness[] = {255, 165, 127, 76, 38};
+    const double hue = (index / 10 - 1) / 4.0; // in sixths of the circle
+    const double value = kBrightness[index % 10 / 2], saturation = index % 2 ? 0.5 : 1.0;
+    const auto part = [&](double shift) {
+        const double away = std::fabs(std::fmod(hue + shift, 6.0) - 3.0); // 3 at the part's own hue
+        const double share = std::clamp(away - 1.0, 0.0, 1.0);
+        return static_cast<int>(value * (1 - saturation * (1 - share)));
+    };
+    return Rgb(part(0), part(4), part(2));
+}
+
+constexpr const char* kFirstNames[] = {"Red", "Yellow", "Green", "Cyan", "Blue", "Magenta", "White"};
+
+int Distance(Color a, Color b) {
+    int sum = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int way = static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF);
+        sum += way * way;
+    }
+    return sum;
+}
+
+} // namespace
+
+Color ColorOfIndex(int index) {
+    if (index >= 1 && index <= 9) return kFirst[index - 1];
+    if (index >= 10 && index <= 249) return HueColor(index);
+    if (index >= 250 && index <= 255)
+        return Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
+    return kWhite;
+}
+
+std::string NameOfIndex(int index) {
+    return index <= 7 ? kFirstNames[index - 1] : "Color " + std::to_string(index);
+}
+
+int NearestIndex(uint32_t color) {
+    int nearest = 7;
+    for (int index = 1; index <= kColorNumbers; ++index)
+        if (Distance(ColorOfIndex(index), color) < Distance(ColorOfIndex(nearest), color)) nearest = index;
+    return nearest;
+}
+
+uint32_t ColorOf(int index, int32_t trueColor) {
+    if (trueColor >= 0) {
+        const auto rgb = static_cast<uint32_t>(trueColor);
+        return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF);
+    }
+    if (index == kIndexByBlock) return kColorByBlock;
+    return index >= 1 && index <= kColorNumbers ? ColorOfIndex(index) : kColorByLayer;
+}
+
+int32_t TrueColorOf(uint32_t color) {
+    return static_cast<int32_t>((color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF));
+}
+
+} // namespace dxf

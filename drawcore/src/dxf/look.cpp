@@ -1,0 +1,214 @@
+// The look of an entity by its groups, and by its own extended data.
+#include "drawcore/src/dxf/look.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/standard_brushes.h"
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+namespace {
+
+class LookByShape {
+public:
+    LookByShape(const Document& document, Look& look) : document_(document), look_(look) {}
+
+    template <class Other>
+    void operator()(const Other&) {}
+    void operator()(const Polyline& polyline) {
+        look_.dashesFitted = !polyline.dashesThrough;
+        if (polyline.kind != Polyline::Kind::flat || polyline.vertices.empty()) return;
+        const double width = polyline.vertices[0].startWidth;
+        if (!HasOneWidth(polyline) || width <= 0) return;
+        look_.width = width;
+        look_.worldWidth = true;
+    }
+    void operator()(const Apart<Face>& face) {
+        if (face->filled) look_.brush.style = kSolidBrush;
+    }
+    void operator()(const Apart<Hatch>& hatch) {
+        look_.brush = BrushOf(*hatch);
+        if (!look_.brush.style.empty()) look_.lineType = LineTypeIndex::none; // a hatch shows no outline
+    }
+    void operator()(const Apart<Text>& text) { look_.text = TextLookOf(*text, document_.At(text->style)); }
+    void operator()(const Apart<MText>& text) {
+        const InlineFormat format = ReadInlineCodes(text->text, HeightOf(*text, document_)).Prevailing();
+        look_.text = TextLookOf(*text, document_.At(text->style), format);
+        if (format.color >= 0 || format.trueColor >= 0) look_.color = ColorOf(format.color, format.trueColor);
+    }
+
+private:
+    const Document& document_;
+    Look& look_;
+};
+
+// Own values by the property that they set. Numbers are finite, and as many as the row says at the least.
+struct OwnRow {
+    const char* name;
+    size_t count;
+    void (*apply)(const OwnValue& value, const Document& document, const Entity& entity, Look& look);
+};
+
+bool IsBit(double number) {
+    return number == 0 || number == 1;
+}
+
+uint32_t ToColor(double number, uint32_t otherwise) {
+    return number >= 0 && number <= UINT32_MAX ? static_cast<uint32_t>(number) : otherwise;
+}
+
+LineTypeIndex FindLineType(const Document& document, const std::string& name) {
+    if (name.empty()) return LineTypeIndex::none;
+    if (name == kByLayerName) return LineTypeIndex::byLayer;
+    if (name == kByBlockName) return LineTypeIndex::byBlock;
+    for (size_t i = 0; i < document.lineTypes.size(); ++i)
+        if (ToDisplayText(document.lineTypes[i].name) == name) return LineTypeIndex(i);
+    return LineTypeIndex::byLayer;
+}
+
+// Where a group tells nearly the same, the value says which group it goes with: a group that another program has
+// changed since then counts.
+constexpr OwnRow kOwnRows[] = {
+    {kPropInfo, 0,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.info = own.text; }},
+    {kPropStyleTree, 0,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.styleTree = own.text; }},
+    {kPropPenColor, 2,
+     [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
+         if (entity.trueColor < 0 && entity.color == own.numbers[1])
+             look.color = ToColor(own.numbers[0], look.color);
+     }},
+    {kPropPenStyle, 0,
+     [](const OwnValue& own, const Document& document, const Entity&, Look& look) {
+         look.lineType = FindLineType(document, own.text);
+     }},
+    {kPropPenScale, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (own.numbers[0] >= 0) look.lineScale = own.numbers[0];
+     }},
+    {kPropPenWidth, 3,
+     [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
+         if (own.numbers[0] < 0 || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
+         look.width = own.numbers[0];
+         look.worldWidth = own.numbers[1] != 0;
+     }},
+    {kPropPenAlignment, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (IsBit(own.numbers[0])) look.dashesFitted = own.numbers[0] != 0;
+     }},
+    {kPropBrushStyle, 0,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         std::vector<Hatch::PatternLine> lines;
+         if (!LinesFromNumbers(own.numbers, lines)) return;
+         look.brush.style = own.text;
+         look.brush.lines = lines.empty() ? StandardLines(own.text) : std::move(lines);
+     }},
+    {kPropBrushColor, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         // With two numbers the groups show the brush's colour, and the other one is the pen's.
+         const uint32_t color = ToColor(own.numbers[0], look.brush.color);
+         const bool inGroups = own.numbers.size() > 1;
+         if (inGroups && look.color != color) return;
+         look.brush.color = color;
+         if (inGroups) look.color = ToColor(own.numbers[1], look.color);
+     }},
+    {kPropBrushScale, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (own.numbers[0] >= 0) look.brush.scale = own.numbers[0];
+     }},
+    {kPropBrushAngle, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         look.brush.angle = own.numbers[0];
+     }},
+    {kPropHatchCross, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (IsBit(own.numbers[0])) look.brush.cross = own.numbers[0] != 0;
+     }},
+    {kPropBrushDrawMode, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (IsBit(own.numbers[0])) look.brush.winding = own.numbers[0] != 0;
+     }},
+    {kPropTextFont, 0,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.text.font = own.text; }},
+    {kPropTextStyle, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (own.numbers[0] >= 0 && own.numbers[0] <= UINT16_MAX)
+             look.text.style |= static_cast<uint16_t>(own.numbers[0]);
+     }},
+    {kPropTextFormat, 1,
+     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (own.numbers[0] >= drawcore::kTextLeft && own.numbers[0] <= drawcore::kTextRight)
+             look.text.format = static_cast<uint16_t>(own.numbers[0]);
+     }},
+};
+
+} // namespace
+
+Look LookByGroups(const Document& document, const Entity& entity) {
+    Look look;
+    std::visit(LookByShape(document, look), entity.shape);
+    look.layer = entity.layer;
+    if (look.color == kColorByLayer) look.color = ColorOf(std::abs(entity.color), entity.trueColor);
+    if (entity.lineTypeScale > 0) look.lineScale = entity.lineTypeScale;
+    if (look.lineType == LineTypeIndex::byLayer) look.lineType = entity.lineType;
+    const int weight =
+        entity.lineWeight == kLineWeightByLayer ? document.At(entity.layer).lineWeight : entity.lineWeight;
+    if (weight > 0 && look.width == 0) look.width = weight / kWeightsPerInch;
+    return look;
+}
+
+Look LookOf(const Document& document, const Entity& entity) {
+    Look look = LookByGroups(document, entity);
+    if (!entity.own) return look;
+    for (const OwnRow& row : kOwnRows) {
+        const OwnValue* own = FindOwn(entity, row.name);
+        if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, look);
+    }
+    return look;
+}
+
+const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
+    if (!entity.own) return nullptr;
+    for (const OwnValue& value : *entity.own)
+        if (value.name == name) return &value;
+    return nullptr;
+}
+
+bool HasOneWidth(const Polyline& polyline) {
+    return std::all_of(polyline.vertices.begin(), polyline.vertices.end(),
+                       [&](const Polyline::Vertex& vertex) {
+                           const double width = polyline.vertices[0].startWidth;
+                           return vertex.startWidth == width && vertex.endWidth == width;
+                       });
+}
+
+bool Near(double a, double b) {
+    return std::fabs(a - b) <= 1e-9 * std::max({1.0, std::fabs(a), std::fabs(b)});
+}
+
+bool operator==(const BrushLook& a, const BrushLook& b) {
+    const bool sameStyle =
+        a.lines.empty() && b.lines.empty() ? a.style == b.style : SameLines(a.lines, b.lines);
+    return sameStyle && a.style.empty() == b.style.empty() && a.color == b.color && Near(a.scale, b.scale) &&
+           Near(a.angle, b.angle) && a.cross == b.cross && a.winding == b.winding;
+}
+
+bool operator==(const TextLook& a, const TextLook& b) {
+    return std::tie(a.font, a.style, a.format) == std::tie(b.font, b.style, b.format) &&
+           Near(a.height, b.height);
+}
+
+bool operator==(const Look& a, const Look& b) {
+    const auto whole = [](const Look& look) {
+        return std::tie(look.layer, look.color, look.lineType, look.worldWidth, look.dashesFitted, look.info,
+                        look.styleTree, look.brush, look.text);
+    };
+    return whole(a) == whole(b) && Near(a.lineScale, b.lineScale) && Near(a.width, b.width);
+}
+
+} // namespace dxf

@@ -1,0 +1,78 @@
+// How an entity looks, as the pages of the sheet show it: its groups, the line weight of its layer and what its own extended
+// data adds, resolved. What colours, line styles and brushes the words of orlo/host/words.h stand for, holds here too.
+#pragma once
+
+#include "drawcore/src/dxf/document.h"
+#include "orlo/host/words.h"
+
+namespace dxf {
+
+// The brush style of fillings without a pattern.
+constexpr char kSolidBrush[] = "Solid";
+
+struct BrushLook {
+    std::string style; // UTF-8; empty: no brush
+    std::vector<Hatch::PatternLine>
+        lines; // at scale 1 and angle 0, the first one through the origin; empty: a style
+               // that every drawing has
+    uint32_t color = kColorOfPen;
+    double scale = 1;
+    double angle = 0; // radians
+    bool cross = false;
+    bool winding = false;
+};
+
+struct TextLook {
+    std::string font; // face, UTF-8; empty: the default face
+    double height = 0;
+    uint16_t style = 0; // bits
+    uint16_t format = 0;
+};
+
+struct Look {
+    LayerIndex layer{};
+    uint32_t color = kColorByLayer;
+    LineTypeIndex lineType = LineTypeIndex::byLayer;
+    double lineScale = 1;
+    double width = 0; // inches of paper, or drawing units if worldWidth
+    bool worldWidth = false;
+    bool dashesFitted = true;
+    BrushLook brush; // of all but texts and insertions
+    TextLook text;   // of texts
+    std::string info;
+    std::string styleTree; // name of a block, UTF-8; empty: none
+};
+
+Look LookOf(const Document& document, const Entity& entity);
+// The same by its groups alone, without its own extended data.
+Look LookByGroups(const Document& document, const Entity& entity);
+
+// Its own value of that name; null if it has none.
+const OwnValue* FindOwn(const Entity& entity, std::string_view name);
+
+// Own values that are no property of the sheet.
+constexpr char kOwnPlacement[] = "Placement"; // of an insertion: ends of the three axes, and the origin
+
+// Numbers that differ by rounding only.
+bool Near(double a, double b);
+bool SameLine(const Hatch::PatternLine& a, const Hatch::PatternLine& b);
+bool SameLines(const std::vector<Hatch::PatternLine>& a, const std::vector<Hatch::PatternLine>& b);
+bool operator==(const BrushLook& a, const BrushLook& b);
+bool operator==(const TextLook& a, const TextLook& b);
+bool operator==(const Look& a, const Look& b);
+
+// By what a polyline and its neighbours in the format tell: whether all segments have one width.
+bool HasOneWidth(const Polyline& polyline);
+
+// The family and cut (bits of a text's style) of a text style; an empty family is the default face.
+struct FontFace {
+    std::string family;
+    uint16_t cut = 0;
+};
+FontFace FaceOf(const TextStyle& style);
+// The font file of a family in that cut.
+std::string FontFileOf(const FontFace& face);
+
+constexpr double kWeightsPerInch = kMillimetresPerInch * 100; // line weights are hundredths of a millimetre
+
+} // namespace dxf

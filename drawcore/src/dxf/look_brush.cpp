@@ -1,0 +1,127 @@
+// The pattern of a hatch: a file holds it at the scale and angle of the hatch.
+#include <algorithm>
+#include <cmath>
+
+#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/placement.h"
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+namespace {
+
+using Family = Hatch::PatternLine;
+
+constexpr size_t kMostLines = 256; // of real patterns the largest have a few dozen
+constexpr size_t kMostDashes = 64;
+
+Vec3 Turned(const Vec3& p, double angle, double scale) {
+    const double c = std::cos(angle) * scale, s = std::sin(angle) * scale;
+    return {p.x * c - p.y * s, p.x * s + p.y * c, 0};
+}
+
+// Where the first line starts does not count.
+std::vector<Family> NormalLines(const Hatch& hatch, double scale, double angle) {
+    std::vector<Family> lines;
+    for (const Family& from : hatch.lines) {
+        Family& line = lines.emplace_back();
+        line.angle = from.angle - angle * (180 / drawcore::kPi);
+        line.base = Turned(from.base - hatch.lines[0].base, -angle, 1 / scale);
+        line.offset = Turned(from.offset, -angle, 1 / scale);
+        for (const double dash : from.dashes)
+            line.dashes.push_back(dash / scale);
+    }
+    return lines;
+}
+
+double Spacing(const Family& line) {
+    const double angle = Radians(line.angle);
+    return std::fabs(line.offset.y * std::cos(angle) - line.offset.x * std::sin(angle));
+}
+
+bool IsSound(const std::vector<Family>& lines) {
+    return !lines.empty() && lines.size() <= kMostLines &&
+           std::all_of(lines.begin(), lines.end(), [](const Family& line) {
+               return Spacing(line) > 0 && std::isfinite(Spacing(line)) && line.dashes.size() <= kMostDashes;
+           });
+}
+
+// Patterns were calculated by other programs: they are the same if nobody sees a difference.
+bool Alike(double a, double b) {
+    return std::fabs(a - b) <= 1e-6 * (1 + std::max(std::fabs(a), std::fabs(b)));
+}
+
+} // namespace
+
+bool SameLine(const Family& a, const Family& b) {
+    const double p = Radians(a.angle), q = Radians(b.angle);
+    return Alike(std::cos(p), std::cos(q)) && Alike(std::sin(p), std::sin(q)) && Alike(a.base.x, b.base.x) &&
+           Alike(a.base.y, b.base.y) && Alike(a.offset.x, b.offset.x) && Alike(a.offset.y, b.offset.y) &&
+           std::equal(a.dashes.begin(), a.dashes.end(), b.dashes.begin(), b.dashes.end(), Alike);
+}
+
+bool SameLines(const std::vector<Family>& a, const std::vector<Family>& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), SameLine);
+}
+
+BrushLook BrushOf(const Hatch& hatch) {
+    BrushLook brush;
+    if (hatch.solid || hatch.gradient) {
+        brush.style = kSolidBrush;
+        return brush;
+    }
+    const double scale = hatch.scale > 0 ? hatch.scale : 1, angle = Radians(std::fmod(hatch.angle, 360));
+    std::vector<Family> lines = NormalLines(hatch, scale, angle);
+    if (!IsSound(lines)) return brush;
+    const std::string name = ToDisplayText(hatch.pattern);
+    brush.style = name.empty() ? "Pattern" : name;
+    brush.cross = hatch.crossed && lines.size() == 1;
+    brush.lines = std::move(lines);
+    brush.scale = scale;
+    brush.angle = angle;
+    return brush;
+}
+
+std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, double angle,
+                                const Vec3& base) {
+    std::vector<Family> placed;
+    for (const Family& from : lines) {
+        Family& line = placed.emplace_back();
+        line.angle = from.angle + angle * (180 / drawcore::kPi);
+        line.base = base + Turned(from.base - lines[0].base, angle, scale);
+        line.offset = Turned(from.offset, angle, scale);
+        for (const double dash : from.dashes)
+            line.dashes.push_back(dash * scale);
+    }
+    return placed;
+}
+
+// Of each line its angle, base, offset, the number of its dashes, and these.
+bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Family>& lines) {
+    constexpr size_t kHead = 6;
+    std::vector<Family> read;
+    for (size_t at = 0; at < numbers.size();) {
+        if (numbers.size() - at < kHead) return false;
+        const double* n = &numbers[at];
+        const size_t left = numbers.size() - at - kHead;
+        if (!(n[5] >= 0 && n[5] <= static_cast<double>(left))) return false;
+        const auto dashes = static_cast<size_t>(n[5]);
+        read.push_back({n[0], {n[1], n[2], 0}, {n[3], n[4], 0}, {n + kHead, n + kHead + dashes}});
+        at += kHead + dashes;
+    }
+    if (!read.empty() && !IsSound(read)) return false;
+    lines = std::move(read);
+    return true;
+}
+
+std::vector<double> NumbersFromLines(const std::vector<Family>& lines) {
+    std::vector<double> numbers;
+    for (const Family& line : lines) {
+        numbers.insert(numbers.end(), {line.angle, line.base.x, line.base.y, line.offset.x, line.offset.y,
+                                       static_cast<double>(line.dashes.size())});
+        numbers.insert(numbers.end(), line.dashes.begin(), line.dashes.end());
+    }
+    return numbers;
+}
+
+} // namespace dxf

@@ -1,0 +1,27 @@
+// The looks of hatches and of texts.
+#pragma once
+
+#include "drawcore/src/dxf/inline_codes.h"
+#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/text_bits.h"
+
+namespace dxf {
+
+// Line types that are no names of a table.
+constexpr char kByLayerName[] = "BYLAYER";
+constexpr char kByBlockName[] = "BYBLOCK";
+
+BrushLook BrushOf(const Hatch& hatch);
+// A pattern as the hatch holds it: at its scale and angle, with the first line where it is.
+std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale,
+                                            double angle, const Vec3& base);
+// A pattern as a row of numbers; false, and nothing is written, if they are none.
+bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Hatch::PatternLine>& lines);
+std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& lines);
+
+TextLook TextLookOf(const Text& text, const TextStyle& style);
+TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format);
+// In drawing units, where the format knows a height of nothing.
+double HeightOf(const MText& text, const Document& document);
+
+} // namespace dxf

@@ -1,0 +1,128 @@
+// The face of a text style, and what texts take from it.
+#include <algorithm>
+
+#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+using namespace drawcore; // bits of texts
+
+namespace {
+
+struct FontFile {
+    const char* stem;
+    const char* family;
+    uint16_t cut;
+};
+constexpr FontFile kFontFiles[] = {
+    {"arial", "Arial", 0},
+    {"arialbd", "Arial", kTextBold},
+    {"ariali", "Arial", kTextItalic},
+    {"arialbi", "Arial", kTextBold | kTextItalic},
+    {"times", "Times New Roman", 0},
+    {"timesbd", "Times New Roman", kTextBold},
+    {"timesi", "Times New Roman", kTextItalic},
+    {"cour", "Courier New", 0},
+    {"courbd", "Courier New", kTextBold},
+    {"romant", "Times New Roman", 0}, // stroke fonts that have the look of a face
+    {"romanc", "Times New Roman", 0},
+    {"italict", "Times New Roman", kTextItalic},
+    {"italicc", "Times New Roman", kTextItalic},
+    {"monotxt", "Courier New", 0},
+};
+
+// The face that stands for a font file: that of a TrueType file, the default for the other stroke fonts.
+FontFace FaceOfFile(std::string file) {
+    std::transform(file.begin(), file.end(), file.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    file.erase(0, file.find_last_of("\\/") + 1);
+    const std::string stem = file.substr(0, file.find('.'));
+    for (const FontFile& known : kFontFiles)
+        if (stem == known.stem) return {known.family, known.cut};
+    const bool trueType =
+        file.size() > 4 && (file.compare(file.size() - 4, 4, ".ttf") == 0 || file.find('.') == file.npos);
+    return {trueType ? stem : "", 0};
+}
+
+uint16_t LineBits(bool underlined, bool struckThrough) {
+    return static_cast<uint16_t>((underlined ? kTextUnderline : 0) |
+                                 (struckThrough ? kTextStrikethrough : 0));
+}
+
+double SoundHeight(double height, const TextStyle& style) {
+    if (height > 0) return height;
+    return style.fixedHeight > 0 ? style.fixedHeight : 1;
+}
+
+uint16_t FormatOf(Text::Horizontal horizontal) {
+    switch (horizontal) {
+    case Text::Horizontal::center:
+    case Text::Horizontal::middle:
+        return kTextCenter;
+    case Text::Horizontal::right:
+        return kTextRight;
+    default:
+        return kTextLeft;
+    }
+}
+
+uint16_t FormatOf(const MText& text, char paragraphs) {
+    switch (paragraphs) {
+    case 0:
+        return static_cast<uint16_t>((text.attachment - 1) % 3);
+    case 'c':
+        return kTextCenter;
+    case 'r':
+        return kTextRight;
+    default:
+        return kTextLeft;
+    }
+}
+
+} // namespace
+
+FontFace FaceOf(const TextStyle& style) {
+    if (style.fontFace.empty()) return FaceOfFile(style.fontFile);
+    return {style.fontFace,
+            static_cast<uint16_t>((style.bold ? kTextBold : 0) | (style.italic ? kTextItalic : 0))};
+}
+
+std::string FontFileOf(const FontFace& face) {
+    for (const FontFile& known : kFontFiles)
+        if (face.family == known.family && face.cut == known.cut) return known.stem + std::string(".ttf");
+    return face.family + ".ttf";
+}
+
+double HeightOf(const MText& text, const Document& document) {
+    return SoundHeight(text.height, document.At(text.style));
+}
+
+TextLook TextLookOf(const Text& text, const TextStyle& style) {
+    const bool isDefinition = text.role == Text::Role::definition;
+    const LineText line = ReadControlCodes(ToDisplayText(isDefinition ? text.tag : text.text));
+    FontFace face = FaceOf(style);
+    TextLook look;
+    look.font = std::move(face.family);
+    look.style = face.cut | LineBits(line.underlined, line.struckThrough);
+    if (text.hidden) look.style |= kTextHidden;
+    look.height = SoundHeight(text.height, style);
+    look.format = FormatOf(text.horizontal);
+    return look;
+}
+
+TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format) {
+    FontFace face = FaceOf(style);
+    if (!format.font.empty())
+        face = format.font.find('.') != format.font.npos ? FaceOfFile(format.font) : FontFace{format.font, 0};
+    TextLook look;
+    look.font = std::move(face.family);
+    look.style = face.cut | LineBits(format.underlined, format.struckThrough);
+    if (format.bold) look.style |= kTextBold;
+    if (format.italic) look.style |= kTextItalic;
+    look.height = SoundHeight(text.height, style) * format.scale;
+    look.format = FormatOf(text, format.alignment);
+    return look;
+}
+
+} // namespace dxf

@@ -1,0 +1,135 @@
+// The filling of an entity: groups of a hatch, extended data of all others.
+#include <algorithm>
+#include <cmath>
+
+#include "drawcore/src/dxf/standard_brushes.h"
+#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+constexpr int kHatchStyle = 75; // first of the groups of the pattern
+constexpr int kPatternType = 76;
+constexpr int kSeeds = 98; // first of those behind it
+constexpr int kGradient = 450;
+constexpr int kLastGradient = 470;
+
+bool IsOfPattern(int code) {
+    constexpr int kCodes[] = {52, 41, 77, 78, 53, 43, 44, 45, 46, 79, 49};
+    return std::find(std::begin(kCodes), std::end(kCodes), code) != std::end(kCodes);
+}
+
+bool IsOfGradient(int code) {
+    return (code >= kGradient && code <= kLastGradient) || code == 63 || code == 421;
+}
+
+// An angle that a hatch says as it is.
+bool IsWithinTurn(double angle) {
+    return std::fabs(angle) < 2 * drawcore::kPi;
+}
+
+} // namespace
+
+void LookWriter::WriteBrush(const Look& wanted) {
+    if (Now().brush == wanted.brush) return;
+    for (const char* name :
+         {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
+        RemoveOwn(name);
+    const BrushLook& brush = wanted.brush;
+    if (auto* hatch = std::get_if<Apart<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
+    const BrushLook held = LookByGroups(drawing_.Known(), entity_).brush;
+    const bool sameLines = brush.lines.empty() && held.lines.empty() ? brush.style == held.style
+                                                                     : SameLines(brush.lines, held.lines);
+    if (!sameLines || brush.style.empty() != held.style.empty())
+        OwnText(kPropBrushStyle, brush.style,
+                SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
+                                                                   : NumbersFromLines(brush.lines));
+    if (!Near(brush.scale, held.scale)) OwnNumbers(kPropBrushScale, {brush.scale});
+    if (!Near(brush.angle, held.angle)) OwnNumbers(kPropBrushAngle, {brush.angle});
+    if (brush.cross != held.cross) OwnNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
+    if (brush.winding != held.winding) OwnNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
+}
+
+// As far as a hatch can have that brush.
+void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
+    const BrushLook held = BrushOf(hatch);
+    if (wanted.style == kSolidBrush && wanted.lines.empty()) {
+        if (held.style != kSolidBrush || !held.lines.empty()) PutSolid(hatch);
+        return;
+    }
+    if (wanted.lines.empty()) return; // no brush, or one that is no pattern of lines
+    BrushLook put = wanted;
+    if (!(put.scale > 0)) put.scale = held.scale;
+    if (!IsWithinTurn(put.angle)) put.angle = held.angle;
+    put.cross = wanted.cross && wanted.lines.size() == 1;
+    const bool same = SameLines(put.lines, held.lines) && Near(put.scale, held.scale) &&
+                      Near(put.angle, held.angle) && put.cross == held.cross;
+    if (!same) PutPattern(hatch, put);
+}
+
+// What is written behind the head and the outlines, in place of what stands there.
+void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
+    const std::vector<Group>& groups = record_.Groups();
+    const auto from = std::find_if(groups.rbegin(), groups.rend(),
+                                   [](const Group& group) { return group.code == kHatchStyle; });
+    if (from == groups.rend()) throw SaveError("a hatch lacks the groups of its pattern");
+    size_t place = from->end;
+    bool inPattern = true, inGradient = false;
+    for (auto group = from.base(); group != groups.end() && !group->attached; ++group) {
+        if (group->code == kPatternType) place = group->end;
+        inPattern = inPattern && group->code != kSeeds;
+        inGradient = inGradient || group->code == kGradient;
+        if ((inPattern && IsOfPattern(group->code)) || (inGradient && IsOfGradient(group->code)))
+            record_.Remove(*group);
+    }
+    for (const RecordPatch::Value& value : values)
+        record_.Insert(place, value.code, value.text);
+}
+
+void LookWriter::PutHatchHead(const Hatch& hatch) {
+    const std::vector<Group>& groups = record_.Groups();
+    const std::string name = hatch.solid ? "SOLID" : drawing_.in_.decoder.Encode(hatch.pattern);
+    for (const Group& group : groups) {
+        if (group.code == 91 || group.code == 92) break; // outlines follow
+        if (group.attached) continue;
+        if (group.code == 2) record_.SetValue(group, name);
+        if (group.code == 70) record_.SetValue(group, hatch.solid ? "1" : "0");
+    }
+}
+
+void LookWriter::PutSolid(Hatch& hatch) {
+    hatch.solid = true;
+    hatch.gradient = false;
+    PutHatchHead(hatch);
+    ReplacePattern({});
+}
+
+void LookWriter::PutPattern(Hatch& hatch, const BrushLook& wanted) {
+    const Vec3 base = hatch.lines.empty() ? Vec3() : hatch.lines[0].base;
+    hatch.solid = hatch.gradient = false;
+    hatch.pattern = wanted.style;
+    hatch.scale = wanted.scale;
+    hatch.angle = wanted.angle * (180 / drawcore::kPi);
+    hatch.crossed = wanted.cross;
+    hatch.lines = PlacedLines(wanted.lines, wanted.scale, wanted.angle, base);
+    PutHatchHead(hatch);
+    std::vector<RecordPatch::Value> values = {{52, RealText(hatch.angle)},
+                                              {41, RealText(hatch.scale)},
+                                              {77, hatch.crossed ? "1" : "0"},
+                                              {78, std::to_string(hatch.lines.size())}};
+    for (const Hatch::PatternLine& line : hatch.lines) {
+        values.push_back({53, RealText(line.angle)});
+        values.push_back({43, RealText(line.base.x)});
+        values.push_back({44, RealText(line.base.y)});
+        values.push_back({45, RealText(line.offset.x)});
+        values.push_back({46, RealText(line.offset.y)});
+        values.push_back({79, std::to_string(line.dashes.size())});
+        for (const double dash : line.dashes)
+            values.push_back({49, RealText(dash)});
+    }
+    ReplacePattern(values);
+}
+
+} // namespace dxf

@@ -1,0 +1,91 @@
+// The entities of a drawing, and what their changes need in its tables.
+#include "drawcore/src/save/drawing_patch.h"
+
+#include <algorithm>
+
+#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+const Progress kSilent;
+
+} // namespace
+
+DrawingPatch::DrawingPatch(std::string_view text, Document known)
+    : in_(text, kSilent, std::move(known)), patch_(text),
+      tables_(patch_, in_.decoder, in_.document.header.version) {}
+
+Entity DrawingPatch::EntityAt(size_t offset) {
+    in_.tags.Seek(offset);
+    std::vector<Entity> read;
+    entities_.Read(read);
+    if (read.size() != 1) throw SaveError("an entity of the drawing cannot be read again");
+    return std::move(read[0]);
+}
+
+void DrawingPatch::Change(size_t offset, const Look& wanted, const Matrix* placement) {
+    const auto moved = moved_.find(offset);
+    LookWriter writer(*this, offset);
+    if (moved != moved_.end()) {
+        writer.Move(moved->second);
+        moved_.erase(moved);
+    }
+    if (placement) writer.Place(*placement);
+    writer.Write(wanted);
+}
+
+std::string DrawingPatch::Finish() {
+    while (!moved_.empty()) {
+        const auto [offset, motion] = *moved_.begin();
+        moved_.erase(moved_.begin());
+        LookWriter writer(*this, offset);
+        writer.Move(motion);
+        writer.Write(writer.Now());
+    }
+    tables_.Finish();
+    return patch_.Result();
+}
+
+void DrawingPatch::NeedRecord(LayerIndex index) {
+    Layer& layer = Describe(index);
+    if (layer.declared) return;
+    layer.declared = true;
+    tables_.AddLayer(layer);
+}
+
+void DrawingPatch::NeedRecord(LineTypeIndex index) {
+    LineType& type = Describe(index);
+    if (type.declared) return;
+    type.declared = true;
+    tables_.AddLineType(type);
+}
+
+std::string DrawingPatch::TextStyleFor(const FontFace& face) {
+    std::vector<TextStyle>& styles = in_.document.textStyles;
+    const auto fits = [&](const TextStyle& style) {
+        const FontFace has = FaceOf(style);
+        return style.declared && has.family == face.family && has.cut == face.cut;
+    };
+    const auto known = std::find_if(styles.begin(), styles.end(), fits);
+    if (known != styles.end()) return known->name;
+    if (face.family.empty()) return {};
+    const std::string plain = face.family + (face.cut & drawcore::kTextBold ? " Bold" : "") +
+                              (face.cut & drawcore::kTextItalic ? " Italic" : "");
+    size_t index = 0;
+    for (int number = 1; index == 0 || styles[index].declared;
+         ++number) // one of that name may have another face
+        index = in_.textStyles.FindUtf8(number == 1 ? plain : plain + " " + std::to_string(number));
+    TextStyle& style = styles[index];
+    style.declared = true;
+    style.fontFace = face.family;
+    style.fontFile = FontFileOf(face);
+    style.bold = (face.cut & drawcore::kTextBold) != 0;
+    style.italic = (face.cut & drawcore::kTextItalic) != 0;
+    tables_.AddTextStyle(style);
+    return style.name;
+}
+
+} // namespace dxf

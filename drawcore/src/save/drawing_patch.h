@@ -1,0 +1,68 @@
+// Changes of a drawing's text, entity by entity: only the groups that carry a change are replaced, added or removed. What the
+// file format has no group for, goes into extended data under kApplication. Knows no database.
+//
+//   dxf::DrawingPatch patch(text, std::move(document));
+//   dxf::Look look = patch.LookAt(entity.offset);
+//   look.color = 0x0000FF;
+//   patch.SetLook(entity.offset, look);
+//   const std::string changed = patch.Finish();
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "drawcore/src/dxf/entity_reader.h"
+#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/geometry/matrix.h"
+#include "drawcore/src/save/table_patch.h"
+
+namespace dxf {
+
+using drawcore::Matrix;
+
+class DrawingPatch {
+public:
+    // The text that the document was read from (without a mark of UTF-8); of the document the header and the tables count.
+    // The text has to outlive the patch.
+    DrawingPatch(std::string_view text, Document known);
+
+    const Document& Known() const { return in_.document; }
+    Document TakeKnown() { return std::move(in_.document); }
+
+    // Things by name (UTF-8, any case). One that no table of the file has gets a record there when an entity first needs it:
+    // as it is described until then.
+    LayerIndex FindLayer(const std::string& name) { return LayerIndex(in_.layers.FindUtf8(name)); }
+    LineTypeIndex FindLineType(const std::string& name) {
+        return LineTypeIndex(in_.lineTypes.FindUtf8(name));
+    }
+    Layer& Describe(LayerIndex index) { return in_.document.layers[static_cast<size_t>(index)]; }
+    LineType& Describe(LineTypeIndex index) { return in_.document.lineTypes[static_cast<size_t>(index)]; }
+
+    // The entity whose record begins there. ReadError, SaveError if there is none that can be read.
+    Entity EntityAt(size_t offset);
+    Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
+
+    // One call for each entity at the most. placement: of an insertion, from the block's coordinates (without its base
+    // point) to those of the space that it lies in. Its attributes move with it, also those that no call follows for.
+    void Change(size_t offset, const Look& wanted, const Matrix* placement = nullptr);
+
+    bool IsChanged() const { return !patch_.IsEmpty(); }
+    // The changed text; nothing can be changed afterwards.
+    std::string Finish();
+
+private:
+    friend class LookWriter;
+
+    void NeedRecord(LayerIndex index);
+    void NeedRecord(LineTypeIndex index);
+    // The name of a text style with that face.
+    std::string TextStyleFor(const FontFace& face);
+
+    RecordReader in_;
+    EntityReader entities_{in_};
+    TextPatch patch_;
+    TablePatch tables_;
+    std::map<size_t, Matrix> moved_; // attributes, by their insertions; until they are changed themselves
+};
+
+} // namespace dxf

@@ -1,0 +1,33 @@
+// A file written beside another that takes its place in one step: whatever fails before, and wherever the process ends,
+// leaves the old file whole.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace dxf {
+
+class FileReplacement {
+public:
+    // Makes an empty file in the folder of the target, with its permissions. SaveError if the target can't be replaced.
+    explicit FileReplacement(std::filesystem::path target);
+    // Removes the file unless it has taken its place.
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    // All at once, onto the disk, and read back from there: SaveError if that are other bytes.
+    void Write(std::string_view bytes);
+    // SaveError leaves the target as it was.
+    void TakePlace();
+
+private:
+    const std::filesystem::path target_;
+    std::filesystem::path path_; // empty once it is gone
+};
+
+// Whether the file holds just these bytes now; false too if it can't be read.
+bool Holds(const std::filesystem::path& path, std::string_view bytes);
+
+} // namespace dxf

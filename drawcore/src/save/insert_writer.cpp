@@ -1,0 +1,136 @@
+// Insertions of blocks: where they stand, how large and how turned.
+#include <cmath>
+
+#include "drawcore/src/dxf/placement.h"
+#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+bool Near(const Vec3& a, const Vec3& b) {
+    return dxf::Near(a.x, b.x) && dxf::Near(a.y, b.y) && dxf::Near(a.z, b.z);
+}
+
+bool Near(const Matrix& a, const Matrix& b) {
+    for (int row = 0; row < 4; ++row)
+        if (!Near(Vec3{a.at[row][0], a.at[row][1], a.at[row][2]},
+                  Vec3{b.at[row][0], b.at[row][1], b.at[row][2]}))
+            return false;
+    return true;
+}
+
+// Without what calculating with angles leaves behind the ninth digit.
+double Clean(double number) {
+    const double round = std::round(number * 1e9) / 1e9;
+    return dxf::Near(round, number) ? round : number;
+}
+
+// The numbers of an insertion in its object system that place it so, nearly. A mirrored x axis and a half turn look alike but
+// for the y axis: what was mirrored stays so, and what becomes so keeps its angle.
+Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
+    Insert placed;
+    Matrix back;
+    if (!ObjectSystem(normal).Invert(back)) return placed;
+    const Vec3 x = back.Turn(placement.Turn({1, 0, 0})), y = back.Turn(placement.Turn({0, 1, 0}));
+    const double old = Radians(insert.rotation);
+    const bool mirrors = (x.x * y.y - x.y * y.x < 0) != (insert.scaleX * insert.scaleY < 0);
+    double sign = insert.scaleX < 0 ? -1 : 1;
+    const auto angleOf = [&] { return Length(x) > 0 ? std::atan2(x.y * sign, x.x * sign) : old; };
+    if (mirrors && std::cos(angleOf() - old) < 0) sign = -sign;
+    const double angle = angleOf();
+    placed.scaleX = Clean(x.x * std::cos(angle) + x.y * std::sin(angle));
+    placed.scaleY = Clean(y.y * std::cos(angle) - y.x * std::sin(angle));
+    placed.scaleZ = Clean(back.Turn(placement.Turn({0, 0, 1})).z);
+    placed.rotation = Clean(angle * (180 / drawcore::kPi));
+    const Vec3 at = back.Apply(placement.Apply({}));
+    placed.at = {Clean(at.x), Clean(at.y), Clean(at.z)};
+    return placed;
+}
+
+Matrix MatrixOf(const Vec3& normal, const Insert& insert) {
+    Entity entity;
+    entity.normal = normal;
+    return InsertMatrix(entity, insert, Block(), 0, 0);
+}
+
+// Of the plane in which the placed block lies; what its z scale was in front or behind of, stays so.
+Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
+    const Vec3 z = placement.Turn({0, 0, 1});
+    const Vec3 normal = Normalized(Cross(placement.Turn({1, 0, 0}), placement.Turn({0, 1, 0})));
+    const double front = normal.x * z.x + normal.y * z.y + normal.z * z.z;
+    return normal * (front * insert.scaleZ < 0 ? -1 : 1);
+}
+
+// The directions in which an array goes on.
+Matrix AxesOf(const Entity& entity, const Insert& insert) {
+    return Matrix::RotationZ(Radians(insert.rotation)) * ObjectSystem(entity.normal);
+}
+
+} // namespace
+
+void LookWriter::Place(const Matrix& placement) {
+    const Matrix was = PlacementOf(entity_);
+    if (Near(was, placement)) return;
+    RemoveOwn(kOwnPlacement);
+    Matrix back;
+    const Matrix motion = Solid(was).Invert(back) ? back * Solid(placement)
+                                                  : Matrix::Translation(placement.Apply({}) - was.Apply({}));
+    if (auto* insert = std::get_if<Apart<Insert>>(&entity_.shape)) {
+        const Matrix axes = AxesOf(entity_, **insert);
+        PutPlacement(**insert, placement);
+        if ((*insert)->columns > 1 || (*insert)->rows > 1) MoveArray(**insert, axes * motion);
+        for (const Entity& attribute : (*insert)->attributes)
+            drawing_.moved_[attribute.offset] = motion;
+    } else if (auto* dimension = std::get_if<Apart<Dimension>>(&entity_.shape)) {
+        const Vec3 to = placement.Apply({});
+        PutPoint(12, (*dimension)->offset, to);
+        (*dimension)->offset = to;
+    }
+    if (!Near(PlacementOf(entity_), placement)) OwnNumbers(kOwnPlacement, NumbersOf(placement, entity_));
+}
+
+void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
+    const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
+    Vec3 normal = entity_.normal;
+    Insert placed = PlacedInsert(normal, insert, placement);
+    if (!isTable && !Near(MatrixOf(normal, placed), placement)) { // it has left its plane
+        const Vec3 tilted = NormalOf(placement, insert);
+        Insert other = PlacedInsert(tilted, insert, placement);
+        if (Near(MatrixOf(tilted, other), placement)) {
+            normal = tilted;
+            placed = std::move(other);
+        }
+    }
+    PutPoint(10, insert.at, placed.at);
+    insert.at = placed.at;
+    if (isTable) return; // that has no scale, and its turn is a vector
+    PutPoint(210, entity_.normal, normal);
+    PutReal(41, insert.scaleX, placed.scaleX, {30});
+    PutReal(42, insert.scaleY, placed.scaleY, {41, 30});
+    PutReal(43, insert.scaleZ, placed.scaleZ, {42, 41, 30});
+    PutReal(50, insert.rotation, placed.rotation, {43, 42, 41, 30});
+    entity_.normal = normal;
+    insert.scaleX = placed.scaleX;
+    insert.scaleY = placed.scaleY;
+    insert.scaleZ = placed.scaleZ;
+    insert.rotation = placed.rotation;
+}
+
+// The steps of an array go along its turned axes; moved are the axes that they had.
+void LookWriter::MoveArray(Insert& insert, const Matrix& moved) {
+    const Matrix axes = AxesOf(entity_, insert);
+    const auto step = [&](int code, double& spacing, const Vec3& axis) {
+        const Vec3 now = moved.Turn(axis * spacing), along = axes.Turn(axis);
+        const double length = Clean(now.x * along.x + now.y * along.y + now.z * along.z);
+        if (!Near(along * length, now))
+            throw SaveError("an array of insertions is slanted, which the file can't hold");
+        PutReal(code, spacing, length, {71, 70, 43, 42, 41, 30});
+        spacing = length;
+    };
+    step(44, insert.columnSpacing, {1, 0, 0});
+    step(45, insert.rowSpacing, {0, 1, 0});
+}
+
+} // namespace dxf

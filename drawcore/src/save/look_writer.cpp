@@ -1,0 +1,242 @@
+// Layer, colour, line and the extended data of an entity.
+#include "drawcore/src/save/look_writer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+// The line weights that the file format knows, hundredths of a millimetre.
+constexpr int kWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
+                            53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+
+int NearestWeight(double inches) {
+    const double weight = inches * kWeightsPerInch;
+    return *std::min_element(std::begin(kWeights), std::end(kWeights),
+                             [&](int a, int b) { return std::fabs(a - weight) < std::fabs(b - weight); });
+}
+
+constexpr int kThrough = 128; // flag of a polyline: dashes go on around corners
+
+} // namespace
+
+LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
+    : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)),
+      entity_(drawing.EntityAt(offset)), record_(drawing.patch_, drawing.in_.tags, offset) {
+    if (!entity_.own) entity_.own = std::make_unique<OwnData>();
+}
+
+void LookWriter::Write(const Look& wanted) {
+    if (!(Now() == wanted)) {
+        WriteLayer(wanted);
+        WriteText(wanted); // before the colour, which may stand within the text
+        WriteColor(wanted);
+        WriteBrush(wanted);
+        WriteLineType(wanted);
+        WriteLineScale(wanted);
+        WriteWidth(wanted);
+        WriteDashes(wanted);
+        wanted.info.empty() ? RemoveOwn(kPropInfo) : OwnText(kPropInfo, wanted.info);
+        wanted.styleTree.empty() ? RemoveOwn(kPropStyleTree) : OwnText(kPropStyleTree, wanted.styleTree);
+    }
+    if (const auto* text = std::get_if<Apart<Text>>(&entity_.shape)) PutText(**text);
+    if (const auto* text = std::get_if<Apart<MText>>(&entity_.shape)) PutText(**text);
+    WriteOwn();
+}
+
+void LookWriter::OwnText(const char* name, std::string text, std::vector<double> numbers) {
+    for (OwnValue& value : *entity_.own)
+        if (value.name == name) {
+            value.text = std::move(text);
+            value.numbers = std::move(numbers);
+            return;
+        }
+    entity_.own->push_back({name, std::move(text), std::move(numbers)});
+}
+
+void LookWriter::RemoveOwn(std::string_view name) {
+    const auto isNamed = [&](const OwnValue& own) { return own.name == name; };
+    entity_.own->erase(std::remove_if(entity_.own->begin(), entity_.own->end(), isNamed), entity_.own->end());
+}
+
+void LookWriter::AppendOwn(const OwnValue& value, const TextDecoder& decoder,
+                           std::vector<RecordPatch::Value>& to) {
+    to.push_back({kExtendedText, decoder.Encode(value.name)});
+    to.push_back({kExtendedBrace, "{"});
+    for (std::string& piece : decoder.EncodePieces(WriteOwnText(value.text)))
+        to.push_back({kExtendedText, std::move(piece)});
+    for (const double number : value.numbers)
+        to.push_back({kExtendedReal, RealText(number)});
+    to.push_back({kExtendedBrace, "}"});
+}
+
+void LookWriter::WriteOwn() {
+    if (*entity_.own == (stored_.own ? *stored_.own : OwnData())) return;
+    std::vector<RecordPatch::Value> values;
+    for (const OwnValue& value : *entity_.own)
+        AppendOwn(value, drawing_.in_.decoder, values);
+    constexpr size_t kMost = 16383; // bytes of extended data that an entity may have
+    size_t size = 0;
+    for (const RecordPatch::Value& value : values)
+        size += value.code == kExtendedReal ? sizeof(double) : value.text.size() + 1;
+    if (size > kMost) throw SaveError("an attribute text is longer than the file format allows");
+    if (!values.empty()) drawing_.tables_.AddApplication(kApplication);
+    record_.SetExtended(kApplication, values);
+}
+
+void LookWriter::WriteLayer(const Look& wanted) {
+    if (wanted.layer == entity_.layer) return;
+    drawing_.NeedRecord(wanted.layer);
+    record_.SetCommon(8, drawing_.in_.decoder.Encode(drawing_.Known().At(wanted.layer).name));
+    entity_.layer = wanted.layer;
+}
+
+bool LookWriter::CanPutColor(uint32_t color) const {
+    const bool plain = color >> 24 == 0;
+    return !plain || ColorOfIndex(NearestIndex(color)) == color || IsNewer("AC1018") ||
+           record_.HasCommon(420);
+}
+
+void LookWriter::PutColor(uint32_t color) {
+    entity_.trueColor = -1;
+    record_.RemoveCommon(430); // a name of the colour that was
+    if (color == kColorByLayer || color == kColorByBlock) {
+        entity_.color = color == kColorByLayer ? kIndexByLayer : kIndexByBlock;
+    } else {
+        entity_.color = static_cast<int16_t>(NearestIndex(color));
+        const bool exact = ColorOfIndex(entity_.color) == color;
+        if (!exact && CanPutColor(color)) entity_.trueColor = TrueColorOf(color);
+    }
+    if (entity_.color == kIndexByLayer)
+        record_.RemoveCommon(62);
+    else
+        record_.SetCommon(62, std::to_string(entity_.color));
+    if (entity_.trueColor >= 0)
+        record_.SetCommon(420, std::to_string(entity_.trueColor));
+    else
+        record_.RemoveCommon(420);
+}
+
+void LookWriter::WriteColor(const Look& wanted) {
+    const Look now = Now();
+    if (now.color == wanted.color && now.brush.color == wanted.brush.color) return;
+    const bool isHatch = std::holds_alternative<Apart<Hatch>>(entity_.shape);
+    const uint32_t brush = wanted.brush.color;
+    RemoveOwn(kPropPenColor);
+    RemoveOwn(kPropBrushColor);
+    // Of a hatch others see its brush alone.
+    if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
+        PutColor(brush);
+        OwnNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});
+        return;
+    }
+    if (LookByGroups(drawing_.Known(), entity_).color != wanted.color) PutColor(wanted.color);
+    if (!CanPutColor(wanted.color))
+        OwnNumbers(kPropPenColor, {static_cast<double>(wanted.color), static_cast<double>(entity_.color)});
+    if (brush != kColorOfPen) OwnNumbers(kPropBrushColor, {static_cast<double>(brush)});
+}
+
+void LookWriter::WriteLineType(const Look& wanted) {
+    const LineTypeIndex type = wanted.lineType;
+    if (Now().lineType == type) return;
+    const bool named = type < LineTypeIndex::none;
+    if (named) drawing_.NeedRecord(type);
+    const std::string name = type == LineTypeIndex::none      ? ""
+                             : type == LineTypeIndex::byLayer ? kByLayerName
+                             : type == LineTypeIndex::byBlock ? kByBlockName
+                                                              : drawing_.Known().At(type).name;
+    RemoveOwn(kPropPenStyle);
+    const bool outlined = LookByGroups(drawing_.Known(), entity_).lineType != LineTypeIndex::none;
+    if (type == LineTypeIndex::none || !outlined) {
+        if (outlined || type != LineTypeIndex::none) OwnText(kPropPenStyle, ToDisplayText(name));
+        return;
+    }
+    entity_.lineType = type;
+    if (type == LineTypeIndex::byLayer)
+        record_.RemoveCommon(6);
+    else
+        record_.SetCommon(6, drawing_.in_.decoder.Encode(name));
+}
+
+void LookWriter::WriteLineScale(const Look& wanted) {
+    if (Near(Now().lineScale, wanted.lineScale)) return;
+    RemoveOwn(kPropPenScale);
+    const bool held = wanted.lineScale > 0 && (IsNewer("AC1012") || record_.HasCommon(48));
+    if (!held) return OwnNumbers(kPropPenScale, {wanted.lineScale});
+    entity_.lineTypeScale = wanted.lineScale;
+    record_.SetCommon(48, RealText(wanted.lineScale));
+}
+
+void LookWriter::WriteWidth(const Look& wanted) {
+    const Look now = Now();
+    if (Near(now.width, wanted.width) && now.worldWidth == wanted.worldWidth) return;
+    RemoveOwn(kPropPenWidth);
+    auto* polyline = std::get_if<Polyline>(&entity_.shape);
+    const bool holdsWidth = polyline && polyline->kind == Polyline::Kind::flat && HasOneWidth(*polyline);
+    if (wanted.worldWidth && wanted.width > 0 && holdsWidth) return PutPolylineWidth(*polyline, wanted.width);
+    if (!wanted.worldWidth) {
+        if (LookByGroups(drawing_.Known(), entity_).worldWidth) PutPolylineWidth(*polyline, 0);
+        WritePaperWidth(wanted);
+    }
+    const Look written = Now();
+    if (Near(written.width, wanted.width) && written.worldWidth == wanted.worldWidth) return;
+    OwnNumbers(kPropPenWidth,
+               {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
+}
+
+void LookWriter::WritePaperWidth(const Look& wanted) {
+    if (!IsNewer("AC1015") && !record_.HasCommon(370)) return;
+    if (Near(Now().width, wanted.width)) return; // that of its layer
+    entity_.lineWeight = static_cast<int16_t>(NearestWeight(wanted.width));
+    record_.SetCommon(370, std::to_string(entity_.lineWeight));
+}
+
+void LookWriter::PutPolylineWidth(const Polyline& polyline, double width) {
+    const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
+    if (isLight) {
+        record_.Remove(40);
+        record_.Remove(41);
+        width > 0 ? record_.Set(43, RealText(width), {70, 90}) : record_.Remove(43);
+    } else {
+        for (const int code : {40, 41})
+            width > 0 ? record_.Set(code, RealText(width), {70, 40}) : record_.Remove(code);
+        RemoveVertexWidths();
+    }
+    Polyline put = polyline;
+    for (Polyline::Vertex& vertex : put.vertices)
+        vertex.startWidth = vertex.endWidth = width;
+    entity_.shape = std::move(put);
+}
+
+// Those of the records that follow: without them the polyline's own counts.
+void LookWriter::RemoveVertexWidths() {
+    TagReader& tags = drawing_.in_.tags;
+    for (size_t at = record_.End(); tags.Seek(at).Is(0, "VERTEX");) {
+        RecordPatch vertex(drawing_.patch_, tags, at);
+        vertex.Remove(40);
+        vertex.Remove(41);
+        at = vertex.End();
+    }
+}
+
+void LookWriter::WriteDashes(const Look& wanted) {
+    if (Now().dashesFitted == wanted.dashesFitted) return;
+    RemoveOwn(kPropPenAlignment);
+    auto* polyline = std::get_if<Polyline>(&entity_.shape);
+    if (!polyline) {
+        if (!wanted.dashesFitted) OwnNumbers(kPropPenAlignment, {0});
+        return;
+    }
+    polyline->dashesThrough = !wanted.dashesFitted;
+    const Group* group = record_.Find(70);
+    const int flags = group ? Tag{70, group->value}.Integer() : 0;
+    record_.Set(70, std::to_string(wanted.dashesFitted ? flags & ~kThrough : flags | kThrough), {90, 66, 30});
+}
+
+} // namespace dxf

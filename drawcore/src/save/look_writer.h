@@ -1,0 +1,74 @@
+// Writes the look of one entity into its record: compares what is wanted with what the groups say, and changes those that
+// differ. What no group can hold becomes extended data.
+#pragma once
+
+#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/save/drawing_patch.h"
+
+namespace dxf {
+
+class LookWriter {
+public:
+    LookWriter(DrawingPatch& drawing, size_t offset);
+
+    // Before Write, once at the most: the entity is moved, or an insertion is placed anew.
+    void Move(const Matrix& motion);
+    void Place(const Matrix& placement);
+
+    Look Now() const { return LookOf(drawing_.Known(), entity_); }
+    void Write(const Look& wanted);
+
+private:
+    bool IsNewer(const char* version) const { return drawing_.Known().header.version >= version; }
+
+    void OwnText(const char* name, std::string text, std::vector<double> numbers = {});
+    void OwnNumbers(const char* name, std::vector<double> numbers) { OwnText(name, {}, std::move(numbers)); }
+    void RemoveOwn(std::string_view name);
+    void WriteOwn();
+    static void AppendOwn(const OwnValue& value, const TextDecoder& decoder,
+                          std::vector<RecordPatch::Value>& to);
+
+    void WriteLayer(const Look& wanted);
+    void WriteColor(const Look& wanted);
+    void PutColor(uint32_t color);
+    bool CanPutColor(uint32_t color) const;
+    void WriteLineType(const Look& wanted);
+    void WriteLineScale(const Look& wanted);
+    void WriteWidth(const Look& wanted);
+    void WritePaperWidth(const Look& wanted);
+    void WriteDashes(const Look& wanted);
+    void PutPolylineWidth(const Polyline& polyline, double width); // 0: none
+    void RemoveVertexWidths();
+
+    void WriteBrush(const Look& wanted);
+    void PutBrush(Hatch& hatch, const BrushLook& wanted);
+    void PutSolid(Hatch& hatch);
+    void PutPattern(Hatch& hatch, const BrushLook& wanted);
+    void PutHatchHead(const Hatch& hatch);
+    void ReplacePattern(const std::vector<RecordPatch::Value>& values);
+
+    void WriteText(const Look& wanted);
+    void WriteLine(Text& text, const TextLook& wanted);
+    void WriteParagraphs(MText& text, const Look& wanted);
+    void WriteEffects(const TextLook& wanted); // and what else the groups can't hold
+    void PutFace(Text& text, const FontFace& face);
+    static void PutFormat(Text& text, uint16_t format);
+    static void PutSwitch(std::string& text, char letter, bool was, bool wanted);
+    void PutText(const Text& now);
+    void PutText(const MText& now);
+    void PutParagraphs(const std::string& text);
+    void CheckText(std::string_view stored) const;
+
+    void PutPlacement(Insert& insert, const Matrix& placement);
+    void MoveArray(Insert& insert, const Matrix& moved);
+    void PutPoint(int code, const Vec3& was, const Vec3& now);
+    void PutReal(int code, double was, double now, std::initializer_list<int> behind = {});
+
+    DrawingPatch& drawing_;
+    const size_t offset_;
+    const Entity stored_; // as it is in the file
+    Entity entity_;       // as it will be there
+    RecordPatch record_;
+};
+
+} // namespace dxf

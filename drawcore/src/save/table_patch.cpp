@@ -1,0 +1,234 @@
+// Where the tables of a drawing are, and records for them.
+#include "drawcore/src/save/table_patch.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+
+#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+constexpr int kHandle = 5;
+constexpr int kDimensionStyleHandle = 105;
+constexpr int kOwner = 330;
+
+std::string Hex(uint64_t number) {
+    char text[20];
+    std::snprintf(text, sizeof text, "%llX", static_cast<unsigned long long>(number));
+    return text;
+}
+
+std::optional<uint64_t> HandleOf(std::string_view text) {
+    uint64_t number = 0;
+    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number, 16);
+    if (error != std::errc() || rest != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+void TablePatch::NoteHandle(const Tag& tag) {
+    if (tag.code != kHandle && tag.code != kDimensionStyleHandle) return;
+    if (const auto handle = HandleOf(tag.Trimmed())) highest_ = std::max(highest_, *handle);
+}
+
+void TablePatch::ScanTables(TagReader& tags) {
+    const Tag& tag = tags.Current();
+    Table* table = nullptr;
+    while (!tags.Next().Is(0, "ENDSEC")) {
+        NoteHandle(tag);
+        if (tag.Is(0, "TABLE")) {
+            const size_t head = tag.offset;
+            tags.Next();
+            table = &tables_[std::string(tag.Trimmed())];
+            table->head = head;
+        } else if (tag.Is(0, "ENDTAB") && table) {
+            table->end = tag.offset;
+            table = nullptr;
+        } else if (tag.code == 0 && table) {
+            ++table->count;
+            if (!table->sample) table->sample = tag.offset;
+            if (tag.Is(0, "APPID")) {
+                while (tags.Next().code != 2 && tag.code != 0)
+                    NoteHandle(tag);
+                applications_.push_back(decoder_.Decode(tag.Trimmed()));
+            }
+        } else if (tag.code == kHandle && table && !table->sample) {
+            table->handle = tag.Trimmed();
+        }
+    }
+    tablesEnd_ = tag.offset;
+}
+
+void TablePatch::Scan() {
+    if (scanned_) return;
+    scanned_ = true;
+    const Progress none;
+    TagReader tags(patch_.Text(), none);
+    const Tag& tag = tags.Next();
+    while (!tag.Is(0, "EOF")) {
+        if (tag.Is(0, "SECTION")) {
+            const size_t section = tag.offset;
+            tags.Next();
+            const bool isHead = tag.Is(2, "HEADER") || tag.Is(2, "CLASSES");
+            if (!isHead && firstBody_ == 0) firstBody_ = section;
+            if (tag.Is(2, "TABLES")) ScanTables(tags);
+        } else if (tag.Is(9, "$HANDSEED")) {
+            tags.Next();
+            seed_ = Group{tag.code, tag.value, tag.offset, tags.Offset(), 0, false};
+        } else {
+            NoteHandle(tag);
+        }
+        tags.Next();
+    }
+    if (firstBody_ == 0) firstBody_ = tag.offset;
+    if (!seed_) return;
+    if (const auto seed = HandleOf(Tag{kHandle, seed_->value}.Trimmed()); seed && *seed > 0)
+        highest_ = std::max(highest_, *seed - 1);
+}
+
+std::string TablePatch::TakeHandle() {
+    constexpr uint64_t kLast = UINT64_MAX - 1; // the next one has to be a number too
+    if (highest_ >= kLast)
+        throw SaveError("the drawing has no handle left for what has to be added to its tables");
+    handleTaken_ = true;
+    return Hex(++highest_);
+}
+
+bool TablePatch::HasApplication(const std::string& name) {
+    Scan();
+    return std::find(applications_.begin(), applications_.end(), name) != applications_.end();
+}
+
+TablePatch::Table& TablePatch::NeedTable(const char* name) {
+    Scan();
+    Table& table = tables_[name];
+    if (table.head != 0 && table.end == 0)
+        throw SaveError(std::string("table ") + name +
+                        " of the drawing has no end, so that nothing can be added to it");
+    if (table.head != 0 || table.isNew) return table;
+    table.isNew = true;
+    if (HasMarkers()) table.handle = TakeHandle();
+    return table;
+}
+
+std::string TablePatch::LinesOf(const Values& values) {
+    const Progress none;
+    TagReader tags(patch_.Text(), none);
+    const RecordPatch form(patch_, tags, tablesEnd_.value_or(firstBody_));
+    std::string lines;
+    for (const RecordPatch::Value& value : values)
+        lines += form.Lines(value.code, decoder_.Encode(value.text));
+    return lines;
+}
+
+void TablePatch::Add(const char* name, const char* marker, const Values& values, const Values& extended) {
+    Table& table = NeedTable(name);
+    const Progress none;
+    TagReader tags(patch_.Text(), none);
+    std::optional<RecordPatch> sample;
+    if (table.sample) sample.emplace(patch_, tags, *table.sample);
+    Values record = {{0, name}};
+    if (sample ? sample->Find(kHandle) != nullptr : HasMarkers()) record.push_back({kHandle, TakeHandle()});
+    const bool owned = sample ? sample->Find(kOwner) != nullptr : version_ >= "AC1015";
+    if (owned && !table.handle.empty()) record.push_back({kOwner, table.handle});
+    if (sample ? sample->Find(kSubclass) != nullptr : HasMarkers()) {
+        record.push_back({kSubclass, "AcDbSymbolTableRecord"});
+        record.push_back({kSubclass, marker});
+    }
+    record.insert(record.end(), values.begin(), values.end());
+    constexpr int kCopied[] = {390, 347}; // plot style and material that all layers have
+    for (const int code : kCopied)
+        if (const Group* group = sample && table.head != 0 ? sample->Find(code) : nullptr)
+            record.push_back({code, decoder_.Decode(group->value)});
+    record.insert(record.end(), extended.begin(), extended.end());
+    table.newLines += LinesOf(record);
+    ++table.count;
+}
+
+void TablePatch::AddApplication(const std::string& name) {
+    if (HasApplication(name)) return;
+    Add("APPID", "AcDbRegAppTableRecord", {{2, name}, {70, "0"}});
+    applications_.push_back(name);
+}
+
+void TablePatch::AddLayer(const Layer& layer) {
+    Values values = {{2, layer.name},
+                     {70, std::to_string(layer.flags)},
+                     {62, std::to_string(layer.color)},
+                     {6, layer.lineType.empty() ? "Continuous" : layer.lineType}};
+    if (layer.trueColor >= 0 && version_ >= "AC1018")
+        values.push_back({420, std::to_string(layer.trueColor)});
+    if (version_ >= "AC1015") values.push_back({370, std::to_string(layer.lineWeight)});
+    Add("LAYER", "AcDbLayerTableRecord", values);
+}
+
+void TablePatch::AddLineType(const LineType& type) {
+    Values values = {{2, type.name},
+                     {70, "0"},
+                     {3, type.description},
+                     {72, "65"},
+                     {73, std::to_string(type.dashes.size())}};
+    double length = 0;
+    for (const double dash : type.dashes)
+        length += dash < 0 ? -dash : dash;
+    values.push_back({40, RealText(length)});
+    for (const double dash : type.dashes) {
+        values.push_back({49, RealText(dash)});
+        if (HasMarkers()) values.push_back({74, "0"});
+    }
+    Add("LTYPE", "AcDbLinetypeTableRecord", values);
+}
+
+void TablePatch::AddTextStyle(const TextStyle& style) {
+    constexpr int kBold = 0x2000000, kItalic = 0x1000000;
+    AddApplication("ACAD");
+    const int cut = (style.bold ? kBold : 0) | (style.italic ? kItalic : 0);
+    Add("STYLE", "AcDbTextStyleTableRecord",
+        {{2, style.name},
+         {70, "0"},
+         {40, "0.0"},
+         {41, "1.0"},
+         {50, "0.0"},
+         {71, "0"},
+         {42, "2.5"},
+         {3, style.fontFile},
+         {4, ""}},
+        {{kApplicationName, "ACAD"}, {kExtendedText, style.fontFace}, {1071, std::to_string(cut)}});
+}
+
+void TablePatch::Finish() {
+    std::string newTables;
+    const Progress none;
+    TagReader tags(patch_.Text(), none);
+    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID"}) { // a layer's line type stands before it
+        Table& table = tables_[name];
+        if (table.newLines.empty()) continue;
+        if (table.isNew) {
+            Values head = {{0, "TABLE"}, {2, name}};
+            if (!table.handle.empty()) head.push_back({kHandle, table.handle});
+            if (!table.handle.empty() && version_ >= "AC1015") head.push_back({kOwner, "0"});
+            if (HasMarkers()) head.push_back({kSubclass, "AcDbSymbolTable"});
+            head.push_back({70, std::to_string(table.count)});
+            newTables += LinesOf(head) + table.newLines + LinesOf({{0, "ENDTAB"}});
+            continue;
+        }
+        patch_.Insert(table.end, table.newLines);
+        RecordPatch head(patch_, tags, table.head);
+        const Group* most = head.Find(70);
+        if (most && Tag{70, most->value}.Integer() < table.count)
+            head.SetValue(*most, std::to_string(table.count));
+    }
+    if (!newTables.empty() && !tablesEnd_)
+        newTables = LinesOf({{0, "SECTION"}, {2, "TABLES"}}) + newTables + LinesOf({{0, "ENDSEC"}});
+    if (!newTables.empty()) patch_.Insert(tablesEnd_.value_or(firstBody_), newTables);
+    if (handleTaken_ && seed_)
+        patch_.Replace(static_cast<size_t>(seed_->value.data() - patch_.Text().data()), seed_->value.size(),
+                       Hex(highest_ + 1));
+}
+
+} // namespace dxf

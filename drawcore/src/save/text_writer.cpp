@@ -1,0 +1,241 @@
+// Texts: face, height, effects, justification and place.
+#include <algorithm>
+#include <cmath>
+
+#include "drawcore/src/dxf/placement.h"
+#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+using namespace drawcore; // bits of texts, angles
+
+namespace {
+
+constexpr uint16_t kCut = kTextBold | kTextItalic;
+constexpr int kBackward = 2, kUpsideDown = 4; // of group 71
+constexpr int kHidden = 1;                    // of an attribute's group 70
+
+bool IsFitted(const Text& text) {
+    return text.horizontal == Text::Horizontal::aligned || text.horizontal == Text::Horizontal::fit;
+}
+
+bool HangsOnInsertion(const Text& text) {
+    return text.horizontal == Text::Horizontal::left && text.vertical == Text::Vertical::baseline;
+}
+
+double Degrees(double radians) {
+    const double degrees = radians * (180 / kPi), round = std::round(degrees * 1e9) / 1e9;
+    return Near(round, degrees) ? round : degrees;
+}
+
+double AngleOf(const Vec3& v) {
+    return std::atan2(v.y, v.x);
+}
+
+Vec3 Direction(double radians) {
+    return {std::cos(radians), std::sin(radians), 0};
+}
+
+// Whether the code of an effect goes with that name of a face: its own signs would end it.
+bool IsNameForCode(const std::string& family) {
+    return !family.empty() && family.find_first_of("\\{}|;") == family.npos;
+}
+
+} // namespace
+
+void LookWriter::WriteText(const Look& wanted) {
+    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted.text);
+    if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
+}
+
+void LookWriter::WriteEffects(const TextLook& wanted) {
+    RemoveOwn(kPropTextStyle);
+    const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
+    if (const int missing = wanted.style & ~held.style)
+        OwnNumbers(kPropTextStyle, {static_cast<double>(missing)});
+    RemoveOwn(kPropTextFont);
+    if (held.font != wanted.font) OwnText(kPropTextFont, wanted.font);
+    RemoveOwn(kPropTextFormat);
+    if (held.format != wanted.format) OwnNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
+}
+
+void LookWriter::WriteLine(Text& text, const TextLook& wanted) {
+    const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
+    if (!Near(held.height, wanted.height)) text.height = wanted.height;
+    if (held.font != wanted.font || (held.style ^ wanted.style) & kCut)
+        PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
+    if (held.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
+    if (text.role != Text::Role::definition) { // that shows its tag, which is a name
+        PutSwitch(text.text, 'u', held.style & kTextUnderline, wanted.style & kTextUnderline);
+        PutSwitch(text.text, 'k', held.style & kTextStrikethrough, wanted.style & kTextStrikethrough);
+    }
+    if (text.role == Text::Role::attribute) text.hidden = (wanted.style & kTextHidden) != 0;
+    WriteEffects(wanted);
+}
+
+void LookWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted) {
+    if (was == wanted) return;
+    text = WithoutSwitch(text, letter);
+    if (wanted) text.insert(0, std::string("%%") + letter);
+}
+
+void LookWriter::PutFace(Text& text, const FontFace& face) {
+    const std::string style = drawing_.TextStyleFor(face);
+    if (!style.empty()) text.style = TextStyleIndex(drawing_.in_.textStyles.FindUtf8(style));
+}
+
+// The text hangs on the same point as before.
+void LookWriter::PutFormat(Text& text, uint16_t format) {
+    const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
+    constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center,
+                                             Text::Horizontal::right};
+    if (text.horizontal == Text::Horizontal::middle) text.vertical = Text::Vertical::middle;
+    text.horizontal = kFormats[format];
+    (HangsOnInsertion(text) ? text.insertion : text.alignment) = place;
+}
+
+void LookWriter::WriteParagraphs(MText& text, const Look& wanted) {
+    const TextLook& look = wanted.text;
+    const auto held = [&] { return LookByGroups(drawing_.Known(), entity_); };
+    if (!Near(held().text.height, look.height)) text.height = look.height;
+    if (!Near(held().text.height, look.height)) text.text = WithoutCodes(text.text, "H");
+    const bool otherFace = held().text.font != look.font || (held().text.style ^ look.style) & kCut;
+    if (otherFace && IsNameForCode(look.font)) {
+        const std::string cut =
+            std::string(look.style & kTextBold ? "|b1" : "|b0") + (look.style & kTextItalic ? "|i1" : "|i0");
+        text.text = "\\f" + look.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
+    }
+    const auto put = [&](uint16_t bit, const char* codes) {
+        if (!((held().text.style ^ look.style) & bit)) return;
+        text.text = WithoutCodes(text.text, codes);
+        if (look.style & bit) text.text = std::string("\\") + codes[0] + text.text;
+    };
+    put(kTextUnderline, "Ll");
+    put(kTextStrikethrough, "Kk");
+    if (held().color != wanted.color) text.text = WithoutCodes(text.text, "Cc");
+    if (held().text.format != look.format) {
+        const int row = (text.attachment - 1) / 3;
+        const FormattedText shown = ReadInlineCodes(text.text, text.height);
+        if (shown.Prevailing().alignment == 0)
+            text.attachment = row * 3 + look.format + 1;
+        else
+            text.text = std::string("\\pxq") + "lcr"[look.format] + ";" + WithoutCodes(text.text, "p");
+    }
+    WriteEffects(look);
+}
+
+// Turned, mirrored and slanted with the motion, and into another plane if that is tilted.
+void LookWriter::Move(const Matrix& motion) {
+    auto* held = std::get_if<Apart<Text>>(&entity_.shape);
+    if (!held) return;
+    Text& text = **held;
+    const Matrix system = ObjectSystem(entity_.normal);
+    const double angle = Radians(text.rotation), up = angle + kPi / 2 - Radians(text.oblique);
+    Vec3 along = motion.Turn(system.Turn(Direction(angle))), rise = motion.Turn(system.Turn(Direction(up)));
+    const Vec3 insertion = motion.Apply(system.Apply(text.insertion));
+    const Vec3 alignment = motion.Apply(system.Apply(text.alignment));
+    const Vec3 old = system.Turn({0, 0, 1}), across = Normalized(Cross(along, rise));
+    const double front = across.x * old.x + across.y * old.y + across.z * old.z;
+    const Vec3 normal = across * (front < 0 ? -1 : 1);
+    const bool tilted = Length(normal) > 0 && !Near(std::fabs(front), 1);
+    if (tilted) entity_.normal = normal;
+    Matrix back;
+    if (!ObjectSystem(entity_.normal).Invert(back)) return;
+    text.insertion = back.Apply(insertion);
+    text.alignment = back.Apply(alignment);
+    along = back.Turn(along);
+    rise = back.Turn(rise);
+    const double length = Length(along), height = Length(rise);
+    if (!(length > 0) || !(height > 0)) return;
+    if (Cross(along, rise).z < 0) {
+        text.upsideDown = !text.upsideDown;
+        rise = rise * -1;
+    }
+    text.height *= height;
+    text.widthFactor = (text.widthFactor > 0 ? text.widthFactor : 1) * length / height;
+    text.rotation = Degrees(AngleOf(along));
+    text.oblique = Degrees(std::remainder(kPi / 2 - (AngleOf(rise) - AngleOf(along)), 2 * kPi));
+}
+
+void LookWriter::PutReal(int code, double was, double now, std::initializer_list<int> behind) {
+    if (!Near(was, now)) record_.Set(code, RealText(now), behind);
+}
+
+void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
+    const bool missing = !record_.Find(code);
+    const bool same = Near(was.x, now.x) && Near(was.y, now.y) && Near(was.z, now.z);
+    if (same) return;
+    // A point is written as a whole: what is missing of it goes behind the coordinate before.
+    record_.Set(code, RealText(now.x), {72, 50, 1, 40, 30});
+    if (missing || !Near(was.y, now.y)) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
+    if (missing || !Near(was.z, now.z))
+        record_.Set(code + 20, RealText(now.z), {code + 10, code, 72, 50, 1, 40, 30});
+}
+
+// What was damaged before can't be written back.
+void LookWriter::CheckText(std::string_view stored) const {
+    const TextDecoder& decoder = drawing_.in_.decoder;
+    if (decoder.Encode(decoder.Decode(stored)) != stored)
+        throw SaveError("a text of the drawing is not in its code page, so that it cannot be changed");
+}
+
+void LookWriter::PutText(const Text& now) {
+    const Text& was = *std::get<Apart<Text>>(stored_.shape);
+    if (was.text != now.text) {
+        const Group* group = record_.Find(1);
+        if (group) CheckText(group->value);
+        record_.Set(1, drawing_.in_.decoder.Encode(now.text), {40, 30});
+    }
+    PutPoint(210, stored_.normal, entity_.normal);
+    PutPoint(10, was.insertion, now.insertion);
+    PutReal(40, was.height, now.height, {30, 20, 10});
+    PutReal(50, was.rotation, now.rotation, {1, 40});
+    PutReal(41, was.widthFactor, now.widthFactor, {50, 1, 40});
+    PutReal(51, was.oblique, now.oblique, {41, 50, 1, 40});
+    if (was.style != now.style)
+        record_.Set(7, drawing_.in_.decoder.Encode(drawing_.Known().At(now.style).name), {51, 41, 50, 1, 40});
+    const auto setBits = [&](int code, int bits, int mask) {
+        const Group* group = record_.Find(code);
+        const int old = group ? Tag{code, group->value}.Integer() : 0;
+        record_.Set(code, std::to_string((old & ~mask) | bits), {7, 51, 41, 50, 1, 40});
+    };
+    if (was.backward != now.backward || was.upsideDown != now.upsideDown)
+        setBits(71, (now.backward ? kBackward : 0) | (now.upsideDown ? kUpsideDown : 0),
+                kBackward | kUpsideDown);
+    if (was.horizontal != now.horizontal)
+        record_.Set(72, std::to_string(static_cast<int>(now.horizontal)), {71, 7, 51, 41, 50, 1, 40});
+    PutPoint(11, was.alignment, now.alignment);
+    const bool isText = record_.Groups()[0].value.find("TEXT") != std::string_view::npos;
+    if (was.vertical != now.vertical)
+        record_.Set(isText ? 73 : 74, std::to_string(static_cast<int>(now.vertical)));
+    if (was.hidden != now.hidden) setBits(70, now.hidden ? kHidden : 0, kHidden);
+}
+
+void LookWriter::PutText(const MText& now) {
+    const MText& was = *std::get<Apart<MText>>(stored_.shape);
+    PutReal(40, was.height, now.height, {30, 20, 10});
+    if (was.attachment != now.attachment) record_.Set(71, std::to_string(now.attachment), {41, 40});
+    if (was.text != now.text) PutParagraphs(now.text);
+}
+
+// In pieces: of code 3, and the last one of code 1.
+void LookWriter::PutParagraphs(const std::string& text) {
+    std::string stored;
+    size_t place = record_.PlaceBehind({72, 71, 41, 40});
+    bool first = true;
+    for (const Group& group : record_.Groups()) {
+        if (group.attached || (group.code != 1 && group.code != 3)) continue;
+        stored += group.value;
+        if (first) place = group.begin;
+        first = false;
+        record_.Remove(group);
+    }
+    CheckText(stored);
+    const std::vector<std::string> pieces = drawing_.in_.decoder.EncodePieces(text);
+    for (size_t i = 0; i + 1 < pieces.size(); ++i)
+        record_.Insert(place, 3, pieces[i]);
+    record_.Insert(place, 1, pieces.empty() ? "" : pieces.back());
+}
+
+} // namespace dxf

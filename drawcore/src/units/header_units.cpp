@@ -1,0 +1,33 @@
+// Units by the variables of a header.
+#include "drawcore/src/units/header_units.h"
+
+#include <algorithm>
+
+namespace drawcore {
+
+namespace {
+
+// Engineering and architectural lengths are of a drawing in inches, if nothing else is said.
+bool CountsInFeet(const dxf::Header& header) {
+    return header.lengthFormat == 3 || header.lengthFormat == 4;
+}
+
+} // namespace
+
+UnitSettings UnitsOf(const dxf::Header& header) {
+    const LengthUnit* unit = LengthUnitOfDxf(header.unit);
+    UnitSettings settings;
+    if (unit)
+        settings.drawingUnit = unit->name;
+    else if (header.metric == 0 || CountsInFeet(header))
+        settings.drawingUnit = "in";
+    const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
+    if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
+    settings.lengthSystem = static_cast<LengthSystem>(header.lengthFormat);
+    settings.lengthDigits = std::clamp(header.lengthDigits, 0, 8);
+    settings.angleSystem = static_cast<AngleSystem>(header.angleFormat);
+    settings.angleDigits = std::clamp(header.angleDigits, 0, 8);
+    return settings;
+}
+
+} // namespace drawcore

@@ -1,0 +1,195 @@
+#!/usr/bin/env python3
+"""Saves drawings with dxfprops and looks at the files from outside: byte by byte, group by group, by another reader.
+
+check_saved.py DXFPROPS FOLDER
+"""
+import difflib
+import os
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+
+try:
+    from ezdxf import recover
+except ImportError:  # ./run setup installs it
+    recover = None
+
+PROGRAM, FOLDER = sys.argv[1:3]
+WORK = tempfile.mkdtemp()
+OUT = os.path.join(WORK, "saved.dxf")
+OWN = {1000, 1001, 1002, 1040}  # extended data
+# What is set, and the groups that may change: all others stay.
+ROWS = [
+    (["PenColor=red"], {62, 420, 430, 1, 3}),
+    (["PenColor=By Layer"], {62, 420, 430, 1, 3}),
+    (["PenColor=#123456"], {62, 420, 430, 1, 3} | OWN),
+    (["PenStyle=By Block"], {6} | OWN),
+    (["PenStyle=No Line", "PenAlignment=off", "Info=ä ^ 乗", "StyleTree="], {70} | OWN),
+    (["PenScale=2.5"], {48} | OWN),
+    (["ScaleSystem=World Scale", "PenWidth=0.75"], {40, 41, 43} | OWN),
+    (["ScaleSystem=Paper Scale", "PenWidth=0.5 mm"], {40, 41, 43, 370} | OWN),
+    (["ScaleSystem=Paper Scale", "PenWidth=0.27 mm"], {40, 41, 43, 370} | OWN),
+    (["Layer=0"], {8, 370}),
+    (["BrushStyle=Cross", "BrushScale=2", "BrushAngle=30", "BrushColor=blue"],
+     {2, 70, 52, 41, 77, 78, 53, 43, 44, 45, 46, 79, 49, 62, 420, 450, 451, 452, 453, 460, 461, 462, 463, 63, 421, 470} | OWN),
+    (["BrushStyle=Brick bitmap", "HatchCross=on", "BrushDrawMode=winding"], {77, 78, 52, 41, 53, 43, 44, 45, 46, 79, 49} | OWN),
+    (["TextSize=7"], {40, 1, 3}),
+    (["TextFont=Verdana", "TextStyle=Bold+Underline"], {1, 3, 7, 70} | OWN),
+    (["TextFormat=Right"], {1, 3, 10, 20, 30, 11, 21, 31, 71, 72, 73, 74} | OWN),
+    (["TextFormat=Center", "TextStyle=All Caps"], {1, 3, 7, 10, 20, 30, 11, 21, 31, 70, 71, 72, 73, 74} | OWN),
+]
+# What the other reader sees then, of entities that have such a group.
+SEEN = {
+    "PenColor=red": [("LINE LWPOLYLINE CIRCLE ARC TEXT INSERT", "color", 1)],
+    "PenColor=#123456": [("LINE LWPOLYLINE", "true_color", 0x123456)],
+    "PenScale=2.5": [("LINE LWPOLYLINE CIRCLE ARC", "ltscale", 2.5)],
+    "PenWidth=0.5 mm": [("LINE CIRCLE ARC", "lineweight", 50)],
+    "PenWidth=0.27 mm": [("LINE CIRCLE ARC", "lineweight", 25)],
+    "PenWidth=0.75": [("LWPOLYLINE[const_width>0]", "const_width", 0.75)],
+    "TextSize=7": [("TEXT", "height", 7)],
+    "BrushColor=blue": [("HATCH", "color", 5)],
+}
+failures = []
+
+
+def run(*arguments, **options):
+    return subprocess.run([PROGRAM, *arguments], capture_output=True, **options)
+
+
+def read(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
+def pairs(path):
+    lines = read(path).replace(b"\r\n", b"\n").replace(b"\r", b"\n").split(b"\n")
+    return [(code, value) for code, value in zip(lines[::2], lines[1::2]) if code.strip().isdigit()]
+
+
+def entities(path):
+    """The groups of the sections of entities, each as bytes of code and value."""
+    groups = [(int(code), value) for code, value in pairs(path)]
+    start = next((i for i, group in enumerate(groups) if group == (2, b"ENTITIES")), 0)
+    return groups[start:]
+
+
+def version(path):
+    """Of the file; the other reader takes older ones as newer."""
+    found = [value for code, value in pairs(path)[:40] if value.startswith(b"AC10")]
+    return found[0] if found else b""
+
+
+def audit(path):
+    """The number of faults, and the drawing; none where the other reader gives up."""
+    try:
+        drawing, auditor = recover.readfile(path)
+    except Exception:
+        return None, None
+    return len(auditor.errors) + len(auditor.fixes), drawing
+
+
+def check_row(path, values, codes):
+    done = run("set", path, *values, "-o", OUT)
+    if done.returncode:
+        return failures.append(f"{path} {values}: {done.stderr.decode()}")
+    before, after = entities(path), entities(OUT)
+    for kind, i1, i2, j1, j2 in difflib.SequenceMatcher(None, before, after, autojunk=False).get_opcodes():
+        others = {code for code, _ in before[i1:i2] + after[j1:j2]} - codes if kind != "equal" else set()
+        if others:
+            failures.append(f"{path} {values}: groups {others} changed")
+    again = run("set", OUT, *values, "-o", OUT + "2")
+    if again.returncode or read(OUT) != read(OUT + "2"):
+        failures.append(f"{path} {values}: is not what is read back")
+    allowed = audit(path)[0] if recover else None
+    if allowed is None:
+        return
+    count, drawing = audit(OUT)
+    if count is None or count > allowed:
+        return failures.append(f"{path} {values}: the other reader finds more faults")
+    for kinds, attribute, expected in SEEN.get(values[-1], []) if version(path) >= b"AC1018" else []:
+        seen = {entity.dxf.get(attribute) for entity in drawing.modelspace().query(kinds)}
+        if seen - {expected}:
+            failures.append(f"{path} {values}: the other reader sees {attribute} {seen}")
+
+
+def check_handles(path):
+    """What was added has handles of its own, and the next free one follows."""
+    groups = [(int(code), value.strip()) for code, value in pairs(path)]
+    seeds = [groups.pop(i + 1)[1] for i, group in enumerate(groups) if group == (9, b"$HANDSEED")]
+    handles = [int(value, 16) for code, value in groups if code in (5, 105)]
+    if seeds and (len(handles) != len(set(handles)) or max(handles) >= int(seeds[0], 16)):
+        failures.append(f"{path}: handles are not free")
+
+
+def check_words():
+    """Wrong words get those that are allowed; results are told by exit codes."""
+    drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
+    for arguments, code, words in [
+        (["set", drawing, "PenColour=red", "-o", OUT], 2, "is none of Layer, Info, StyleTree, PenColor"),
+        (["set", drawing, "PenColor=purple", "-o", OUT], 1, "'purple' is none of By Layer, By Block, Red"),
+        (["set", drawing, "Layer=Walls", "-o", OUT], 1, "'Walls' is none of 0, Titles, ConstantWidth"),
+        (["set", drawing, "PenWidth=wide", "-o", OUT], 1, "'wide' is no length"),
+        (["set", drawing, "PenColor=red"], 2, "say where the drawing goes"),
+        (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is none of kind, handle"),
+        (["set", "none.dxf", "PenColor=red", "--in-place"], 1, "none.dxf: the file cannot be opened"),
+        (["set", drawing, "--where", "kind=LINE,penstyle=dashed", "PenColor=red", "-o", OUT], 0, "1 entity changed"),
+        (["diff", drawing, OUT], 1, 'LINE (line 383) PenColor: "By Layer" -> "Red"'),
+        (["get", OUT, "--where", "PenColor=red", "--show", "PenStyle"], 0, 'LINE (line 383) PenStyle="DASHED"'),
+        (["diff", OUT, OUT], 0, ""),
+        (["list", OUT, "none.dxf", "--json"], 1, '"LWPOLYLINE": 5'),
+    ]:
+        done = run(*arguments)
+        if done.returncode != code or words not in (done.stdout + done.stderr).decode():
+            failures.append(f"{arguments}: {done}")
+
+
+def check_safety(path):
+    """A full disk and a kill leave the old file or the new one."""
+    copy = os.path.join(WORK, "copy.dxf")
+    run("set", path, "PenColor=red", "-o", OUT)
+    old, new = read(path), read(OUT)
+
+    def limit(size):
+        signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+        resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
+
+    for size in (0, 1000, len(new) - 1):
+        shutil.copy(path, copy)
+        done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size))
+        if done.returncode != 1 or read(copy) != old or len(os.listdir(WORK)) != len({OUT, OUT + "2", copy}):
+            failures.append(f"a disk that is full at {size}: {done}")
+    for delay in range(0, 60, 3):
+        shutil.copy(path, copy)
+        process = subprocess.Popen([PROGRAM, "set", copy, "PenColor=red", "--in-place"], stdout=subprocess.DEVNULL)
+        try:
+            process.wait(delay / 1000)
+        except subprocess.TimeoutExpired:
+            process.kill()
+        process.wait()
+        if read(copy) not in (old, new):
+            failures.append(f"a kill after {delay} ms leaves neither file")
+    shutil.copy(path, copy)
+    os.chmod(copy, 0o444)
+    done = run("set", copy, "PenColor=red", "--in-place")
+    if done.returncode != 1 or b"read-only" not in done.stderr or read(copy) != old:
+        failures.append(f"a read-only file: {done}")
+
+
+for name in sorted(os.listdir(FOLDER)):
+    drawing_path = os.path.join(FOLDER, name)
+    if not name.endswith(".dxf") or name.startswith("bad-") or os.path.getsize(drawing_path) > 30000 or run("list", drawing_path).returncode:
+        continue
+    if run("set", drawing_path, "--where", "kind=none", "PenColor=red", "-o", OUT).returncode or read(OUT) != read(drawing_path):
+        failures.append(f"{name}: without changes it is another file")
+    for row in ROWS:
+        check_row(drawing_path, *row)
+check_row(os.path.join(FOLDER, "dxf-dimensions.dxf"), ["Info=x"], OWN)
+check_handles(OUT)
+check_words()
+check_safety(os.path.join(FOLDER, "ezdxf-insert-nested-mirrored.dxf"))
+shutil.rmtree(WORK)
+if failures:
+    sys.exit("\n".join(failures))

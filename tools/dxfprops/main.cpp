@@ -1,0 +1,187 @@
+// dxfprops: the properties of drawings on the command line. docs/dxfprops.md describes it.
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+#include "tools/dxfprops/commands.h"
+#include "tools/dxfprops/list_drawings.h"
+
+namespace {
+
+using namespace dxfprops;
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1; // a file failed, or diff found differences
+constexpr int kUsage = 2;
+
+constexpr char kExamples[] = R"(
+Examples:
+  dxfprops list plan.dxf                          what it holds; --json: as JSON
+  dxfprops get plan.dxf --where kind=LINE --show PenColor,Layer
+  dxfprops set plan.dxf --where kind=LINE,layer=WALLS PenColor=red PenWidth="0.5 mm" -o thick.dxf
+  dxfprops set *.dxf --where PenColor=red PenColor="By Layer" --in-place
+  dxfprops diff plan.dxf thick.dxf                what differs, entity by entity
+
+Results: 0 done; 1 a file failed, or diff found differences; 2 wrong command line.)";
+
+struct CommandLine {
+    std::vector<std::string> files, where, show, rest;
+    std::string output, before, after;
+    bool json = false, inPlace = false;
+};
+
+std::string AllNames() {
+    std::string names;
+    for (const std::string& name : PropertyTexts::Names())
+        names += (names.empty() ? "" : ", ") + name;
+    return names;
+}
+
+std::string Known(const std::string& name, bool alsoConditions) {
+    for (const char* condition : {"kind", "handle"})
+        if (alsoConditions && CLI::detail::to_lower(name) == condition) return condition;
+    if (const auto known = PropertyTexts::NameOf(name)) return *known;
+    throw CLI::ValidationError("'" + name + "' is none of " + (alsoConditions ? "kind, handle, " : "") +
+                               AllNames());
+}
+
+std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool alsoConditions) {
+    std::vector<Condition> made;
+    for (const std::string& text : texts) {
+        const size_t equals = text.find('=');
+        if (equals == text.npos || equals == 0)
+            throw CLI::ValidationError("'" + text + "' should be name=value");
+        made.push_back({Known(text.substr(0, equals), alsoConditions), text.substr(equals + 1)});
+    }
+    return made;
+}
+
+// Work on one file after the other; what fails is said and does not keep the others.
+template <class Work>
+int ForEach(const std::vector<std::string>& files, Work work) {
+    int result = kDone;
+    for (const std::string& file : files) {
+        try {
+            work(file);
+        } catch (const std::bad_alloc&) {
+            std::cerr << "dxfprops: " << file << ": there is not enough memory for it\n";
+            result = kFailed;
+        } catch (const std::exception& error) { // ReadError, SaveError, of the file system
+            std::cerr << "dxfprops: " << file << ": " << error.what() << "\n";
+            result = kFailed;
+        }
+    }
+    return result;
+}
+
+int List(const CommandLine& line) {
+    if (line.json) return ListDrawings(line.files, std::cout) ? kDone : kFailed;
+    return ForEach(line.files, [](const std::string& file) { PrintSummary(file, std::cout); });
+}
+
+int Get(const CommandLine& line) {
+    const std::vector<Condition> where = Assignments(line.where, true);
+    for (const std::string& name : line.show)
+        Known(name, false);
+    return ForEach(line.files, [&](const std::string& file) {
+        if (line.files.size() > 1) std::cout << file << "\n";
+        PrintProperties(file, where, line.show, std::cout);
+    });
+}
+
+int Set(CommandLine& line) {
+    std::vector<std::string> values;
+    for (std::string& word : line.rest) // files come first; a word with a property's name in front is a value
+        (PropertyTexts::NameOf(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values
+                                                                                              : line.files)
+            .push_back(std::move(word));
+    for (const std::string& file :
+         line.files) // a name that is none was meant to be one, unless there is such a file
+        if (file.find('=') != file.npos && !std::filesystem::exists(std::filesystem::u8path(file)))
+            Known(file.substr(0, file.find('=')), false);
+    const std::vector<Condition> where = Assignments(line.where, true), wanted = Assignments(values, false);
+    if (line.files.empty()) throw CLI::ValidationError("set", "no file is named");
+    if (wanted.empty())
+        throw CLI::ValidationError("set", "nothing to set: name a property, as in PenColor=red");
+    if (line.inPlace == !line.output.empty())
+        throw CLI::ValidationError("set", "say where the drawing goes: -o OUT or --in-place");
+    if (!line.output.empty() && line.files.size() > 1)
+        throw CLI::ValidationError("set", "-o takes one file; --in-place takes many");
+    return ForEach(line.files, [&](const std::string& file) {
+        const size_t count = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
+        std::cout << file << ": " << count << (count == 1 ? " entity changed\n" : " entities changed\n");
+    });
+}
+
+int Diff(const CommandLine& line) {
+    size_t differences = 0;
+    const int result = ForEach({line.after}, [&](const std::string& after) {
+        differences = PrintDifferences(line.before, after, std::cout);
+    });
+    return differences > 0 ? kFailed : result;
+}
+
+int Run(std::vector<std::string> arguments) {
+    CLI::App usage{"Reads and sets the properties of entities in DXF drawings.", "dxfprops"};
+    CommandLine line;
+    usage.allow_windows_style_options(false);
+    usage.require_subcommand(1);
+    usage.footer("Properties: " + AllNames() + ".\n" + kExamples);
+    const auto where = [&line](CLI::App* command) {
+        command
+            ->add_option("--where", line.where,
+                         "kind=LINE, layer=WALLS, handle=2F, or a property; all have to hold")
+            ->delimiter(',')
+            ->allow_extra_args(false);
+    };
+    CLI::App* list = usage.add_subcommand("list", "Print what drawings hold");
+    list->add_option("FILE", line.files, "drawings")->required();
+    list->add_flag("--json", line.json, "as JSON");
+    CLI::App* get = usage.add_subcommand("get", "Print the properties of entities");
+    get->add_option("FILE", line.files, "drawings")->required();
+    get->add_option("--show", line.show, "these properties alone")->delimiter(',')->allow_extra_args(false);
+    where(get);
+    CLI::App* set = usage.add_subcommand("set", "Set properties of entities");
+    set->add_option("FILE PROPERTY=VALUE", line.rest, "drawings, and what is set")->required();
+    set->add_option("-o", line.output, "the file that the drawing is written into");
+    set->add_flag("--in-place", line.inPlace, "each drawing is written into its own file");
+    where(set);
+    CLI::App* diff = usage.add_subcommand("diff", "Print which properties differ");
+    diff->add_option("BEFORE", line.before, "a drawing")->required();
+    diff->add_option("AFTER", line.after, "another one")->required();
+    try {
+        std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
+        usage.parse(arguments);
+        return list->parsed()  ? List(line)
+               : get->parsed() ? Get(line)
+               : set->parsed() ? Set(line)
+                               : Diff(line);
+    } catch (const CLI::ParseError& error) {
+        return usage.exit(error) ? kUsage : kDone;
+    }
+}
+
+} // namespace
+
+#ifdef _WIN32
+int wmain(int count, wchar_t** words) {
+    for (FILE* stream : {stdout, stderr})
+        ::_setmode(::_fileno(stream), _O_BINARY);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(std::filesystem::path(words[i]).u8string());
+    return Run(std::move(arguments));
+}
+#else
+int main(int count, char** words) {
+    return Run({words + 1, words + count});
+}
+#endif

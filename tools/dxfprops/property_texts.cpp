@@ -1,0 +1,401 @@
+// The forms of values, one row for each property.
+#include "tools/dxfprops/property_texts.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+#include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/dxf/standard_brushes.h"
+#include "drawcore/src/dxf/text_bits.h"
+#include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/save/save_error.h"
+#include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/units/decimal_mark.h"
+#include "drawcore/src/units/header_units.h"
+#include "drawcore/src/units/number_text.h"
+
+char drawcore::DecimalMark() {
+    return '.';
+}
+
+namespace dxfprops {
+
+using drawcore::FoldName;
+using dxf::Look;
+
+namespace {
+
+constexpr char kByLayer[] = "By Layer", kByBlock[] = "By Block";
+constexpr char kPenColor[] = "Pen Color"; // of a brush
+constexpr char kNoBrush[] = "No Brush", kNoLine[] = "No Line";
+
+struct Choice {
+    const char* text;
+    uint32_t value;
+};
+constexpr Choice kSwitch[] = {{"Off", 0}, {"On", 1}};
+constexpr Choice kDrawModes[] = {{"Alternate", 0}, {"Winding", 1}};
+constexpr Choice kSystems[] = {{"Paper Scale", 0}, {"World Scale", 1}};
+constexpr Choice kFormats[] = {
+    {"Left", drawcore::kTextLeft}, {"Center", drawcore::kTextCenter}, {"Right", drawcore::kTextRight}};
+constexpr Choice kEffects[] = {{"Bold", drawcore::kTextBold},
+                               {"Italic", drawcore::kTextItalic},
+                               {"Strikethrough", drawcore::kTextStrikethrough},
+                               {"Underline", drawcore::kTextUnderline},
+                               {"Text Box", drawcore::kTextBox},
+                               {"Hidden", drawcore::kTextHidden},
+                               {"All Caps", drawcore::kTextAllCaps}};
+constexpr char kRegular[] = "Regular"; // no effect
+
+bool Same(std::string_view a, std::string_view b) {
+    return FoldName(a) == FoldName(b);
+}
+
+[[noreturn]] void Refuse(const std::string& text, const std::string& allowed) {
+    throw dxf::SaveError("'" + text + "' is none of " + allowed);
+}
+
+std::string Listed(const std::vector<std::string>& texts) {
+    std::string list;
+    for (const std::string& text : texts)
+        list += (list.empty() ? "" : ", ") + text;
+    return list;
+}
+
+template <size_t N>
+std::string TextOf(const Choice (&choices)[N], uint32_t value) {
+    for (const Choice& choice : choices)
+        if (choice.value == value) return choice.text;
+    return std::to_string(value);
+}
+
+template <size_t N>
+uint32_t ValueOf(const Choice (&choices)[N], const std::string& text) {
+    std::vector<std::string> allowed;
+    for (const Choice& choice : choices) {
+        if (Same(choice.text, text)) return choice.value;
+        allowed.push_back(choice.text);
+    }
+    Refuse(text, Listed(allowed));
+}
+
+std::string ColorText(uint32_t color) {
+    if (color == kColorByLayer) return kByLayer;
+    if (color == kColorByBlock) return kByBlock;
+    if (color == kColorOfPen) return kPenColor;
+    const int index = dxf::NearestIndex(color);
+    if (dxf::ColorOfIndex(index) == color) return dxf::NameOfIndex(index);
+    char text[8];
+    std::snprintf(text, sizeof text, "#%06X", static_cast<unsigned>(dxf::TrueColorOf(color)));
+    return text;
+}
+
+uint32_t ReadColor(const std::string& text, bool ofBrush) {
+    if (Same(text, kByLayer)) return kColorByLayer;
+    if (Same(text, kByBlock)) return kColorByBlock;
+    if (ofBrush && Same(text, kPenColor)) return kColorOfPen;
+    for (int index = 1; index <= dxf::kColorNumbers; ++index)
+        if (Same(text, dxf::NameOfIndex(index))) return dxf::ColorOfIndex(index);
+    uint32_t rgb = 0;
+    const char* const end = text.data() + text.size();
+    if (text.size() == 7 && text[0] == '#' && std::from_chars(text.data() + 1, end, rgb, 16).ptr == end)
+        return dxf::ColorOf(0, static_cast<int32_t>(rgb));
+    std::string allowed =
+        std::string(kByLayer) + ", " + kByBlock + ", " + (ofBrush ? std::string(kPenColor) + ", " : "");
+    for (int index = 1; index <= 7; ++index)
+        allowed += dxf::NameOfIndex(index) + ", ";
+    Refuse(text, allowed + "Color 8 to Color 255, #RRGGBB");
+}
+
+std::string NumberText(double value) {
+    constexpr int kDigits = 12;
+    return drawcore::DecimalText(value, kDigits);
+}
+
+double ReadNumber(const std::string& text) {
+    double value = 0;
+    if (drawcore::ScanUnsigned(text, value) != text.size() || text.empty())
+        throw dxf::SaveError("'" + text + "' is no number from 0 on");
+    return value;
+}
+
+template <class Index, class Thing>
+std::optional<Index> FindName(const std::vector<Thing>& things, const std::string& name) {
+    for (size_t i = 0; i < things.size(); ++i)
+        if (Same(dxf::ToDisplayText(things[i].name), name)) return Index(i);
+    return std::nullopt;
+}
+
+template <class Thing>
+std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
+    std::vector<std::string> names;
+    for (const Thing& thing : things)
+        names.push_back(dxf::ToDisplayText(thing.name));
+    return names;
+}
+
+} // namespace
+
+// How each property is shown and read.
+struct PropertyForms {
+    using Get = std::string (*)(const PropertyTexts&, const Look&);
+    using Set = void (*)(const PropertyTexts&, const std::string&, Look&);
+    enum Owners { shapes = 1, texts = 2, inserts = 4, all = 7 };
+
+    const char* name;
+    int owners;
+    Get get;
+    Set set;
+
+    static const PropertyForms kAll[];
+    static const PropertyForms* Find(std::string_view name);
+
+    static const drawcore::LengthUnit& PaperUnit(const PropertyTexts& of) {
+        return *drawcore::FindLengthUnit(of.units_.penWidthUnit);
+    }
+    static const drawcore::LengthUnit& DrawingUnit(const PropertyTexts& of) {
+        return *drawcore::FindLengthUnit(of.units_.drawingUnit);
+    }
+    static double ReadLength(const std::string& text, const drawcore::LengthUnit& unit) {
+        double millimetres = 0;
+        if (!drawcore::ReadLength(text, unit, millimetres) || millimetres < 0)
+            throw dxf::SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
+        return millimetres;
+    }
+    // Lengths are shown whole: what is set from them is what they were.
+    static std::string LengthText(const PropertyTexts& of, double units) {
+        const drawcore::LengthUnit& unit = DrawingUnit(of);
+        constexpr int kDigits = 9;
+        return drawcore::WriteLength(units * unit.millimetres, unit,
+                                     {of.units_.lengthSystem, kDigits, false});
+    }
+
+    static std::string GetWidth(const PropertyTexts& of, const Look& look) {
+        if (look.worldWidth) return LengthText(of, look.width);
+        constexpr int kDigits = 6;
+        return drawcore::WriteLength(look.width * kMillimetresPerInch, PaperUnit(of),
+                                     {drawcore::LengthSystem::Decimal, kDigits, true});
+    }
+    static void SetWidth(const PropertyTexts& of, const std::string& text, Look& look) {
+        if (look.worldWidth)
+            look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
+        else
+            look.width = ReadLength(text, PaperUnit(of)) / kMillimetresPerInch;
+    }
+
+    static std::string GetLineType(const PropertyTexts& of, const Look& look) {
+        if (look.lineType == dxf::LineTypeIndex::byLayer) return kByLayer;
+        if (look.lineType == dxf::LineTypeIndex::byBlock) return kByBlock;
+        if (look.lineType == dxf::LineTypeIndex::none) return kNoLine;
+        return dxf::ToDisplayText(of.document_.At(look.lineType).name);
+    }
+    static void SetLineType(const PropertyTexts& of, const std::string& text, Look& look) {
+        if (Same(text, kByLayer))
+            look.lineType = dxf::LineTypeIndex::byLayer;
+        else if (Same(text, kByBlock))
+            look.lineType = dxf::LineTypeIndex::byBlock;
+        else if (Same(text, kNoLine))
+            look.lineType = dxf::LineTypeIndex::none;
+        else if (const auto found = FindName<dxf::LineTypeIndex>(of.document_.lineTypes, text))
+            look.lineType = *found;
+        else
+            Refuse(text, std::string(kByLayer) + ", " + kByBlock + ", " + kNoLine + ", " +
+                             Listed(NamesOf(of.document_.lineTypes)));
+    }
+
+    static void SetLayer(const PropertyTexts& of, const std::string& text, Look& look) {
+        const auto found = FindName<dxf::LayerIndex>(of.document_.layers, text);
+        if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
+        look.layer = *found;
+    }
+
+    static void SetTree(const PropertyTexts& of, const std::string& text, Look& look) {
+        if (!text.empty() && !FindName<dxf::BlockIndex>(of.document_.blocks, text))
+            Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
+        look.styleTree = text;
+    }
+
+    static std::string GetBrush(const PropertyTexts&, const Look& look) {
+        return look.brush.style.empty() ? kNoBrush : look.brush.style;
+    }
+    static void SetBrush(const PropertyTexts& of, const std::string& text, Look& look) {
+        std::vector<std::string> allowed = {kNoBrush};
+        const auto take = [&](const std::string& style, const std::vector<dxf::Hatch::PatternLine>& lines) {
+            allowed.push_back(style);
+            if (!Same(style, text)) return false;
+            look.brush.style = style;
+            look.brush.lines = lines;
+            return true;
+        };
+        if (Same(text, kNoBrush)) {
+            look.brush.style.clear();
+            look.brush.lines.clear();
+            return;
+        }
+        for (const dxf::StandardBrush& brush : dxf::StandardBrushes())
+            if (take(brush.name, brush.lines)) return;
+        for (const dxf::BrushLook& brush : of.patterns_)
+            if (take(brush.style, brush.lines)) return;
+        Refuse(text, Listed(allowed));
+    }
+
+    static std::string GetAngle(const PropertyTexts& of, const Look& look) {
+        constexpr int kDigits = 9;
+        return drawcore::WriteAngle(look.brush.angle, {of.units_.angleSystem, kDigits});
+    }
+    static void SetAngle(const PropertyTexts& of, const std::string& text, Look& look) {
+        if (!drawcore::ReadAngle(text, of.units_.angleSystem, look.brush.angle))
+            throw dxf::SaveError("'" + text + "' is no angle");
+    }
+
+    static std::string GetEffects(const PropertyTexts&, const Look& look) {
+        std::string text;
+        for (const Choice& effect : kEffects)
+            if (look.text.style & effect.value) text += (text.empty() ? "" : "+") + std::string(effect.text);
+        return text.empty() ? kRegular : text;
+    }
+    static void SetEffects(const PropertyTexts&, const std::string& text, Look& look) {
+        look.text.style = 0;
+        for (size_t at = 0; !Same(text, kRegular) && at <= text.size();) {
+            const size_t end = std::min(text.find('+', at), text.size());
+            look.text.style |= static_cast<uint16_t>(ValueOf(kEffects, text.substr(at, end - at)));
+            at = end + 1;
+        }
+    }
+
+    static void SetSize(const PropertyTexts& of, const std::string& text, Look& look) {
+        const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
+        if (!(size > 0)) throw dxf::SaveError("a text has a height above 0");
+        look.text.height = size;
+    }
+};
+
+// In the order in which they are set: how a width is read depends on its scale system.
+const PropertyForms PropertyForms::kAll[] = {
+    {kPropLayer, all,
+     [](const PropertyTexts& of, const Look& look) {
+         return dxf::ToDisplayText(of.document_.At(look.layer).name);
+     },
+     SetLayer},
+    {kPropInfo, all, [](const PropertyTexts&, const Look& look) { return look.info; },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.info = text; }},
+    {kPropStyleTree, all, [](const PropertyTexts&, const Look& look) { return look.styleTree; }, SetTree},
+    {kPropPenColor, all, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.color = ReadColor(text, false); }},
+    {kPropScaleSystem, shapes,
+     [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.worldWidth = ValueOf(kSystems, text) != 0;
+     }},
+    {kPropPenWidth, shapes, GetWidth, SetWidth},
+    {kPropPenStyle, shapes | inserts, GetLineType, SetLineType},
+    {kPropPenScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.lineScale = ReadNumber(text); }},
+    {kPropPenAlignment, shapes,
+     [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.dashesFitted); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.dashesFitted = ValueOf(kSwitch, text) != 0;
+     }},
+    {kPropBrushStyle, shapes, GetBrush, SetBrush},
+    {kPropBrushColor, shapes,
+     [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.brush.color = ReadColor(text, true);
+     }},
+    {kPropBrushScale, shapes,
+     [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.scale = ReadNumber(text); }},
+    {kPropBrushAngle, shapes, GetAngle, SetAngle},
+    {kPropHatchCross, shapes,
+     [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.brush.cross = ValueOf(kSwitch, text) != 0;
+     }},
+    {kPropBrushDrawMode, shapes,
+     [](const PropertyTexts&, const Look& look) { return TextOf(kDrawModes, look.brush.winding); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.brush.winding = ValueOf(kDrawModes, text) != 0;
+     }},
+    {kPropTextFont, texts, [](const PropertyTexts&, const Look& look) { return look.text.font; },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.text.font = text; }},
+    {kPropTextSize, texts,
+     [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); }, SetSize},
+    {kPropTextStyle, texts, GetEffects, SetEffects},
+    {kPropTextFormat, texts,
+     [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
+     [](const PropertyTexts&, const std::string& text, Look& look) {
+         look.text.format = static_cast<uint16_t>(ValueOf(kFormats, text));
+     }},
+};
+
+const PropertyForms* PropertyForms::Find(std::string_view name) {
+    for (const PropertyForms& forms : kAll)
+        if (Same(forms.name, name)) return &forms;
+    return nullptr;
+}
+
+PropertyTexts::PropertyTexts(const dxf::Document& document)
+    : document_(document), units_(drawcore::UnitsOf(document.header)) {
+    for (const dxf::Entity& entity : document.entities) {
+        if (!std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape)) continue;
+        dxf::BrushLook brush = dxf::LookOf(document, entity).brush;
+        const auto known = [&](const dxf::BrushLook& other) { return other.style == brush.style; };
+        if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
+            patterns_.push_back(std::move(brush));
+    }
+}
+
+std::vector<std::string> PropertyTexts::Names() {
+    std::vector<std::string> names;
+    for (const PropertyForms& forms : PropertyForms::kAll)
+        names.push_back(forms.name);
+    return names;
+}
+
+std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
+    const PropertyForms* forms = PropertyForms::Find(name);
+    return forms ? std::optional<std::string>(forms->name) : std::nullopt;
+}
+
+bool PropertyTexts::Has(const dxf::Entity& entity, std::string_view name) {
+    const auto is = [&](auto... kinds) {
+        return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...);
+    };
+    if (is(dxf::Apart<dxf::Viewport>())) return false;
+    const int owner = is(dxf::Apart<dxf::Text>(), dxf::Apart<dxf::MText>())         ? PropertyForms::texts
+                      : is(dxf::Apart<dxf::Insert>(), dxf::Apart<dxf::Dimension>()) ? PropertyForms::inserts
+                                                                                    : PropertyForms::shapes;
+    const PropertyForms* forms = PropertyForms::Find(name);
+    return forms && (forms->owners & owner);
+}
+
+std::string PropertyTexts::Get(std::string_view name, const dxf::Look& look) const {
+    return PropertyForms::Find(name)->get(*this, look);
+}
+
+void PropertyTexts::Set(std::string_view name, const std::string& text, dxf::Look& look) const {
+    const PropertyForms* forms = PropertyForms::Find(name);
+    try {
+        forms->set(*this, text, look);
+    } catch (const dxf::SaveError& error) {
+        throw dxf::SaveError(std::string(forms->name) + ": " + error.what());
+    }
+}
+
+bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document& b, const dxf::Look& other) {
+    const auto name = [](const dxf::Document& of, dxf::LineTypeIndex type) {
+        return type < dxf::LineTypeIndex::none ? FoldName(dxf::ToDisplayText(of.At(type).name))
+                                               : std::to_string(static_cast<uint32_t>(type));
+    };
+    if (!Same(dxf::ToDisplayText(a.At(one.layer).name), dxf::ToDisplayText(b.At(other.layer).name)))
+        return false;
+    if (name(a, one.lineType) != name(b, other.lineType)) return false;
+    Look adapted = other;
+    adapted.layer = one.layer;
+    adapted.lineType = one.lineType;
+    return adapted == one;
+}
+
+} // namespace dxfprops
