@@ -49,10 +49,30 @@ std::unique_ptr<Document> Document::Open(const std::string& path, const Progress
 }
 
 Document::Document(const std::string& path, OwnedDrawing drawing)
-    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()) {}
+    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()),
+      m_savedMark(::DrawingGetUndoMark(Drawing())) {}
 
 std::string Document::Name() const {
     return m_path.substr(m_path.find_last_of("\\/") + 1);
+}
+
+bool Document::IsModified() const {
+    return ::DrawingGetUndoMark(Drawing()) != m_savedMark;
+}
+
+bool Document::Save(const std::string& path, bool overChanged) {
+    char message[512] = "";
+    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), overChanged ? uint32_t{kSaveOverChanged} : 0,
+                             message, sizeof message)) {
+    case kSaveDone:
+        m_path = path;
+        m_savedMark = ::DrawingGetUndoMark(Drawing());
+        return true;
+    case kSaveFileChanged:
+        return false;
+    default:
+        throw SaveError(path + "\n\n" + Utf8FromSystem(message));
+    }
 }
 
 std::vector<GraphicStruct*> Document::Selectable() const {

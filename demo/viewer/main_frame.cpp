@@ -8,6 +8,7 @@
 #include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/property_sheet.h"
+#include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "demo/viewer/style_commands.h"
 #include "drawcore/application.h"
@@ -17,7 +18,7 @@
 namespace {
 
 constexpr const char* kTitle = "Orlo Demo";
-constexpr const char* kOpenFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
+constexpr const char* kFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
 // Lines so short that the box breaks none of them.
 constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift adds\n"
@@ -37,8 +38,11 @@ constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift add
                               "Middle button, arrows\tmove the drawing\n"
                               "Ctrl+W\tline weights, or all lines thin\n"
                               "\n"
-                              "Ctrl+O\topen a drawing";
+                              "Ctrl+O, Ctrl+S\topen a drawing, save it\n"
+                              "Ctrl+Shift+S\tsave it under another name";
 
+constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
+static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
 constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
 constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
@@ -61,6 +65,8 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
 ON_WM_CREATE()
+ON_WM_CLOSE()
+ON_MESSAGE(WM_QUERYENDSESSION, &CMainFrame::OnQueryEndSession)
 ON_WM_DESTROY()
 ON_WM_SIZE()
 ON_WM_SETFOCUS()
@@ -68,6 +74,9 @@ ON_WM_DROPFILES()
 ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
+ON_COMMAND_RANGE(ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST, &CMainFrame::OnRecentFile)
+ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
+ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
 ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
 ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnEditUndo)
 ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnEditRedo)
@@ -149,12 +158,14 @@ void CMainFrame::OnSetFocus(CWnd*) {
 // ---- Opening
 
 bool CMainFrame::Open(const std::string& path) {
+    if (!MayLeaveDocument()) return false;
     try {
         m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
         std::unique_ptr<Document> opened =
             Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
         m_status.EndProgress();
         Show(std::move(opened));
+        RecentFiles::Add(path);
         return true;
     } catch (const OpenError& error) {
         m_status.EndProgress();
@@ -180,11 +191,12 @@ void CMainFrame::ShowWhatOpened() {
 }
 
 void CMainFrame::ShowTitle() {
-    SetWindowText((SystemText(m_document->Name()) + " - " + kTitle).c_str());
+    const char* mark = m_document->IsModified() ? "*" : "";
+    SetWindowText((mark + SystemText(m_document->Name()) + " - " + kTitle).c_str());
 }
 
 void CMainFrame::OnFileOpen() {
-    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kOpenFilter, this);
+    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kFilter, this);
     if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
 }
 
@@ -193,6 +205,72 @@ void CMainFrame::OnDropFiles(HDROP drop) {
     ::DragQueryFileW(drop, 0, path, MAX_PATH);
     ::DragFinish(drop);
     if (path[0] && IsWindowEnabled()) Open(Utf8(path));
+}
+
+void CMainFrame::OnRecentFile(UINT command) {
+    const std::vector<std::string> files = RecentFiles::List();
+    const size_t place = command - kRecentCommands.first;
+    if (place >= files.size()) return;
+    const std::string& path = files[place];
+    if (::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
+        Open(path);
+        return;
+    }
+    RecentFiles::Remove(path);
+    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
+}
+
+// ---- Saving
+
+bool CMainFrame::Save(const std::string& path) {
+    constexpr const char* kChanged =
+        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
+    try {
+        if (!m_document->Save(path, false)) {
+            if (AfxMessageBox((SystemText(path) + kChanged).c_str(), MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
+                return false;
+            m_document->Save(path, true);
+        }
+    } catch (const SaveError& error) {
+        AfxMessageBox(SystemText(error.what()).c_str());
+        return false;
+    }
+    RecentFiles::Add(path);
+    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
+    ShowTitle();
+    return true;
+}
+
+void CMainFrame::OnFileSave() {
+    if (CanDo(ID_FILE_SAVE)) Save(m_document->Path());
+}
+
+void CMainFrame::OnFileSaveAs() {
+    if (!CanDo(ID_FILE_SAVE_AS)) return;
+    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
+                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
+    if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
+}
+
+bool CMainFrame::MayLeaveDocument() {
+    if (!m_document || !m_document->IsModified()) return true;
+    const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
+    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES:
+        return Save(m_document->Path());
+    case IDNO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CMainFrame::OnClose() {
+    if (MayLeaveDocument()) CFrameWnd::OnClose();
+}
+
+LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
+    return IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
 }
 
 void CMainFrame::OnAppExit() {
@@ -229,6 +307,7 @@ void CMainFrame::OnEditProperties() {
 
 // What the window says of graphics besides the drawing itself.
 void CMainFrame::ShowChange() {
+    ShowTitle();
     OnSelectionChanged();
 }
 
@@ -358,6 +437,9 @@ void CMainFrame::OnHelpKeys() {
 
 bool CMainFrame::CanDo(UINT command) const {
     switch (command) {
+    case ID_FILE_SAVE:
+    case ID_FILE_SAVE_AS:
+        return m_document != nullptr;
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
     case ID_EDIT_REDO:
@@ -388,6 +470,12 @@ bool CMainFrame::CanDo(UINT command) const {
 bool CMainFrame::FillSubmenu(HMENU menu) {
     const UINT command = ::GetMenuItemID(menu, 0);
     std::vector<std::string> texts;
+    if (command == kRecentCommands.first) {
+        for (const std::string& path : RecentFiles::List())
+            texts.push_back(SystemText(path));
+        FillMenu(menu, kRecentCommands, texts, "None");
+        return true;
+    }
     if (command == kKindCommands.first) {
         for (const KindCount& kind : SelectedKinds())
             texts.push_back(KindText(kind));

@@ -21,10 +21,13 @@ public:
     // False: no window could be made, and the object is gone.
     BOOL Create();
 
-    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one.
+    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one, which
+    // it also keeps if the user thinks better of it for the sake of unsaved changes.
     bool Open(const std::string& path);
-    // The same for a drawing that has been opened already.
+    // Shows a drawing that has been opened already, whatever becomes of the one before.
     void Show(std::unique_ptr<Document> document);
+    // Saves the drawing to that file, which it belongs to from then on. False: the user has been told why not, or did not want it.
+    bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }
 
@@ -32,6 +35,8 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCTA& cs) override;
 
+    afx_msg void OnClose();
+    afx_msg LRESULT OnQueryEndSession(WPARAM wParam, LPARAM lParam);
     afx_msg int OnCreate(LPCREATESTRUCTA create);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -41,6 +46,9 @@ protected:
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
     afx_msg void OnFileOpen();
+    afx_msg void OnRecentFile(UINT command);
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
     afx_msg void OnAppExit();
     afx_msg void OnEditUndo();
     afx_msg void OnEditRedo();
@@ -70,6 +78,8 @@ private:
     void OnPointerMoved(WorldPoint point) override;
     void OnEditProperties() override;
 
+    // Whether the document may go: nothing is unsaved, or the user has answered what is to become of it.
+    bool MayLeaveDocument();
     void ShowWhatOpened();
     void ShowTitle();
     void ShowChange();

@@ -6,6 +6,8 @@
 #define IDC_STATUS 130
 
 #define ID_FILE_OPEN 0xE101
+#define ID_FILE_SAVE 0xE103
+#define ID_FILE_SAVE_AS 0xE104
 #define ID_APP_EXIT 0xE141
 #define ID_EDIT_UNDO 0xE12B
 #define ID_EDIT_REDO 0xE12C
@@ -30,6 +32,8 @@
 // Submenus that are made as they open: the first and the last command of each.
 #define ID_SELECT_KIND_FIRST 400
 #define ID_SELECT_KIND_LAST 419
+#define ID_FILE_RECENT_FIRST 420
+#define ID_FILE_RECENT_LAST 427
 #define ID_SELECT_LAYER_FIRST 1000
 #define ID_SELECT_LAYER_LAST 1999
 

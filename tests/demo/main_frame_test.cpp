@@ -1,8 +1,13 @@
 // The main window: opening, and the road of an edit through the library's sheet and back by undo.
 
+#include <algorithm>
+#include <memory>
+
 #include "demo/viewer.h"
+#include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "orlo/host/graphic.h"
+#include "orlo/host/property.h"
 #include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
 
@@ -186,6 +191,115 @@ TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
     user.Click(view(), Pixel(10, 5));
     user.Key('I', UserInput::kControl);
     EXPECT_EQ(selection().Count(), 2);
+}
+
+// The red line becomes as wide as that.
+class Saving : public Viewer {
+protected:
+    void Widen(double width) {
+        document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], width / 25.4); });
+    }
+    bool IsMarked() {
+        CString title;
+        frame->GetWindowText(title);
+        return title[0] == '*';
+    }
+    // What a drawing file holds of the line's width, as if opened anew.
+    double SavedWidth(const std::string& path) {
+        const std::unique_ptr<Document> opened = Document::Open(path, [](int) {});
+        return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
+    }
+    void Save() { user.Key('S', UserInput::kControl); }
+};
+
+TEST_F(Saving, MarkFollowsUndoAndRedo) {
+    const MessageBoxWatcher boxes;
+    Widen(0.5);
+    Widen(0.7);
+    for (const auto& [key, marked] : std::vector<std::pair<char, bool>>{
+             {'Z', true}, {'Z', false}, {'Y', true}, {'S', false}, {'Z', true}, {'Y', false}}) {
+        user.Key(static_cast<UINT>(key), UserInput::kControl);
+        EXPECT_EQ(IsMarked(), marked) << key;
+    }
+    EXPECT_TRUE(boxes.Boxes().empty()) << boxes.OnlyText();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+}
+
+TEST_F(Saving, UnsavedChangesAreAskedFor) {
+    Widen(0.5);
+    const std::string content = file.Read();
+    const DrawingFile other(content.c_str());
+    for (const int answer : {IDCANCEL, IDYES}) {
+        MessageBoxWatcher boxes(answer);
+        EXPECT_EQ(frame->Open(other.Path()), answer == IDYES);
+        EXPECT_EQ(boxes.OnlyText().find("Save the changes to "), 0u);
+    }
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+    Widen(0.7);
+    MessageBoxWatcher boxes(IDCANCEL);
+    const HWND window = frame->m_hWnd;
+    ::SendMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(boxes.Boxes().size(), 1u);
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_FALSE(::SendMessageA(window, WM_QUERYENDSESSION, 0, 0));
+    EXPECT_EQ(other.Read(), content);
+}
+
+TEST_F(Saving, AFileThatChangedMeanwhileIsAskedFor) {
+    Widen(0.5);
+    const std::string foreign = "999\nby another program\n" + file.Read();
+    file.Write(foreign);
+    {
+        MessageBoxWatcher boxes(IDNO);
+        Save();
+        EXPECT_NE(boxes.OnlyText().find("Another program has changed"), std::string::npos);
+    }
+    EXPECT_EQ(file.Read(), foreign);
+    EXPECT_TRUE(document().IsModified());
+    MessageBoxWatcher boxes(IDYES);
+    Save();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+}
+
+TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
+    Widen(0.5);
+    {
+        const MessageBoxWatcher boxes;
+        EXPECT_FALSE(frame->Save("no such folder/copy.dxf"));
+        EXPECT_EQ(boxes.OnlyText().find("no such folder/copy.dxf"), 0u);
+    }
+    EXPECT_TRUE(document().IsModified());
+    EXPECT_EQ(document().Path(), file.Path());
+    const DrawingFile copy("");
+    ASSERT_TRUE(frame->Save(copy.Path()));
+    EXPECT_FALSE(document().IsModified());
+    EXPECT_EQ(document().Path(), copy.Path());
+    EXPECT_NEAR(SavedWidth(copy.Path()), 0.5, 0.001);
+    EXPECT_EQ(SavedWidth(file.Path()), 0);
+}
+
+TEST_F(Saving, RecentFilesAreOfferedAndForgottenWhenTheyHaveGone) {
+    std::string gone;
+    {
+        const DrawingFile other(file.Read().c_str());
+        ASSERT_TRUE(frame->Open(other.Path()));
+        gone = other.Path();
+        frame->Open(file.Path());
+    }
+    const std::vector<std::string> files = RecentFiles::List();
+    ASSERT_GE(files.size(), 2u);
+    EXPECT_LE(files.size(), RecentFiles::kMost);
+    EXPECT_EQ(files[1], gone);
+    MessageBoxWatcher boxes;
+    ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST + 1, 0);
+    EXPECT_EQ(boxes.OnlyText().find(gone), 0u);
+    EXPECT_EQ(std::count(files.begin(), files.end(), gone), 1);
+    const std::vector<std::string> left = RecentFiles::List();
+    EXPECT_EQ(std::count(left.begin(), left.end(), gone), 0);
+    const Document* before = &document();
+    ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST, 0);
+    EXPECT_NE(before, &document());
+    EXPECT_EQ(document().Path(), left[0]);
 }
 
 } // namespace
