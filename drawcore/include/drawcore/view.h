@@ -13,9 +13,8 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Colour that lies under the drawing: lines of nearly that colour are drawn black or white, so that they are seen, and on a dark
-// one lines that are too dark are drawn in a lighter shade of their colour. Without
-// this call it is the system's window colour or, for previews, the application's preview background.
+// Colour that lies under the drawing: lines of nearly that colour are drawn black or white, so that they are seen, and on a
+// dark one lines that are too dark are drawn in a lighter shade of their colour. Without this call it is the system's window colour or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 
 // Whether pens are as wide as they are (so it is without this call), or all as thin as can be.

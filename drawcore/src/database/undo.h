@@ -1,6 +1,7 @@
-// The undo log of a drawing: what its graphics were before each step, and after each one taken back. Kept is what a step changes: of a graphic that has other
-// properties now its look, which it shares with all that looked the same; of one whose shape is about to change the whole
-// state. Graphics that only show something (previews, samples) are not part of the drawing and not saved.
+// The undo log of a drawing: what its graphics were before each step, and after each one taken back. Kept is what a step
+// changes: of a graphic that has other properties now its look, which it shares with all that looked the same; of one whose
+// shape is about to change the whole state. Graphics that only show something (previews, samples) are not part of the drawing
+// and not saved.
 #pragma once
 
 #include <cstddef>
