@@ -8,7 +8,6 @@
 #include "drawcore/application.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/application.h"
-#include "orlo/host/table.h"
 
 IMPLEMENT_DYNAMIC(CDemoApp, CWinApp)
 
@@ -26,7 +25,6 @@ std::string ProgramFolder() {
 BOOL CDemoApp::InitInstance() {
     ::PropPageInit();
     ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
-    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, CDrawingView::kBackground);
 
     auto* frame = new CMainFrame;
     if (!frame->Create()) return FALSE;

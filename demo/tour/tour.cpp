@@ -71,12 +71,16 @@ bool Tour::Play(const std::string& drawing) {
             return true;
         }
         if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
+        Report("Ctrl+Y makes it again.");
+        m_user.Key('Y', UserInput::kControl);
         MakeStyle();
         Report("Ctrl+A selects all.");
         m_user.Key(VK_HOME);
         m_user.Key('A', UserInput::kControl);
         TakePicture("all-selected");
-        return EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); });
+        if (!EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); })) return false;
+        SaveCopy();
+        return true;
     } catch (const std::exception& error) {
         Report(std::string("The tour ends here: ") + error.what());
         return false;
@@ -213,6 +217,18 @@ void Tour::EditAllPages() {
                         Report("OK.");
                         m_user.Click(::GetDlgItem(sheet, IDOK));
                     });
+}
+
+// Shows the drawing by itself, on paper, and saves it with the pen that was made again.
+void Tour::SaveCopy() {
+    m_user.Key(VK_ESCAPE);
+    m_user.Key(VK_HOME);
+    m_frame.View().SetPaper(CDrawingView::kLightPaper);
+    const std::string name = m_frame.GetDocument()->Name();
+    const std::string copy = name.substr(0, name.rfind('.')) + "-edited.dxf";
+    if (!m_frame.Save(m_folder + "\\" + copy)) throw std::runtime_error(copy + " could not be saved");
+    Report("Save as " + copy + ".");
+    TakePicture("saved");
 }
 
 void Tour::EditPenPage(HWND sheet) {

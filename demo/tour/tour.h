@@ -1,5 +1,5 @@
 // A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the sheet, takes it
-// back, makes a style by the wizard, then selects all and visits every page; all by keys and mouse messages, with a picture
+// back and makes it again, makes a style by the wizard, then selects all and visits every page, and saves a copy; all by keys and mouse messages, with a picture
 // of each station and a report of what changed.
 #pragma once
 
@@ -29,6 +29,7 @@ private:
                      const std::function<void()>& edit);
     void MakeStyle();
     void EditAllPages();
+    void SaveCopy();
     void EditPen();
     void EditPenPage(HWND sheet);
     void OpenPage(HWND sheet, const std::string& title);

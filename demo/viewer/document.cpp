@@ -49,10 +49,30 @@ std::unique_ptr<Document> Document::Open(const std::string& path, const Progress
 }
 
 Document::Document(const std::string& path, OwnedDrawing drawing)
-    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()) {}
+    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()),
+      m_savedMark(::DrawingGetUndoMark(Drawing())) {}
 
 std::string Document::Name() const {
     return m_path.substr(m_path.find_last_of("\\/") + 1);
+}
+
+bool Document::IsModified() const {
+    return ::DrawingGetUndoMark(Drawing()) != m_savedMark;
+}
+
+bool Document::Save(const std::string& path, bool overChanged) {
+    char message[512] = "";
+    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), overChanged ? uint32_t{kSaveOverChanged} : 0,
+                             message, sizeof message)) {
+    case kSaveDone:
+        m_path = path;
+        m_savedMark = ::DrawingGetUndoMark(Drawing());
+        return true;
+    case kSaveFileChanged:
+        return false;
+    default:
+        throw SaveError(path + "\n\n" + Utf8FromSystem(message));
+    }
 }
 
 std::vector<GraphicStruct*> Document::Selectable() const {
@@ -79,14 +99,22 @@ std::string Document::LengthText(double length) const {
 }
 
 int Document::Change(const std::function<void()>& change) {
+    return Attempt([&] {
+        change();
+        return true;
+    });
+}
+
+int Document::Attempt(const std::function<bool()>& change) {
     ::DrawingBeginUndo(Drawing());
     try {
-        change();
+        if (change()) return ::DrawingEndUndo(Drawing());
     } catch (...) {
         ::DrawingEndUndo(Drawing());
         throw;
     }
-    return ::DrawingEndUndo(Drawing());
+    ::DrawingCancelUndo(Drawing());
+    return 0;
 }
 
 int Document::DroppedSteps() const {
@@ -99,4 +127,12 @@ int Document::UndoSteps() const {
 
 int Document::Undo() {
     return ::DrawingUndo(Drawing());
+}
+
+int Document::RedoSteps() const {
+    return ::DrawingCountRedo(Drawing());
+}
+
+int Document::Redo() {
+    return ::DrawingRedo(Drawing());
 }

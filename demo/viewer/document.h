@@ -1,6 +1,7 @@
-// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, and undo.
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, undo and redo.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -19,6 +20,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// what(): why nothing was saved. UTF-8.
+class SaveError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 class Document {
 public:
     using Progress = std::function<void(int permille)>;
@@ -29,6 +36,12 @@ public:
 
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
+
+    // Whether changes of graphics are unsaved; undo and redo can come back to what is saved. Styles are not in the file.
+    bool IsModified() const;
+    // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
+    // file that it was opened from; overChanged: writes all the same. Throws SaveError.
+    bool Save(const std::string& path, bool overChanged);
 
     // What was left out of the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }
@@ -51,11 +64,16 @@ public:
 
     // Runs a change as one step that Undo takes back. The number of graphics that it changed.
     int Change(const std::function<void()>& change);
+    // The same; with false from the change all is at once as if it had never been.
+    int Attempt(const std::function<bool()>& change);
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
     int DroppedSteps() const;
     int UndoSteps() const;
     // The number of graphics that are as before again.
     int Undo();
+    int RedoSteps() const;
+    // The number of graphics that are changed again.
+    int Redo();
 
 private:
     Document(const std::string& path, OwnedDrawing drawing);
@@ -66,4 +84,5 @@ private:
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;
+    uint32_t m_savedMark;
 };

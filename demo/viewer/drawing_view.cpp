@@ -42,7 +42,7 @@ ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
-    ::ViewportSetBackground(m_camera.Viewport(), kBackground);
+    SetPaper(kDarkPaper);
 }
 
 CDrawingView::~CDrawingView() = default;
@@ -53,7 +53,10 @@ BOOL CDrawingView::Create(CWnd* parent, UINT id) {
 
 void CDrawingView::SetDocument(Document* document) {
     EndDrag();
+    HearOfChanges(nullptr);
     m_document = document;
+    const ChangeListener listener = {this, OnGraphicChanging};
+    HearOfChanges(&listener);
     m_camera.SetDrawing(document ? document->Drawing() : nullptr);
     SpoilAll();
     FitAll();
@@ -81,7 +84,7 @@ void CDrawingView::Zoom(double factor, CPoint anchor) {
 
 void CDrawingView::Pan(CSize pixels) {
     const CRect all = m_picture.Bounds();
-    if (m_spoiled.size() == 1 && m_spoiled.front() == all) { // nothing worth moving
+    if (IsAllSpoiled()) { // nothing worth moving
         m_camera.Pan(pixels);
         return;
     }
@@ -98,6 +101,27 @@ void CDrawingView::Pan(CSize pixels) {
 }
 
 void CDrawingView::Redraw() {
+    SpoilAll();
+}
+
+void CDrawingView::HearOfChanges(const ChangeListener* listener) {
+    if (m_document) ::DrawingSetChangeListener(m_document->Drawing(), listener);
+}
+
+void CDrawingView::OnGraphicChanging(void* view) {
+    CDrawingView& self = *static_cast<CDrawingView*>(view);
+    if (!self.IsAllSpoiled()) self.SpoilAll();
+}
+
+void CDrawingView::SetPaper(COLORREF paper) {
+    m_paper = paper;
+    ::ViewportSetBackground(m_camera.Viewport(), paper);
+    SpoilAll();
+}
+
+void CDrawingView::ShowLineWeights(bool show) {
+    m_lineWeights = show;
+    ::ViewportShowLineWeights(m_camera.Viewport(), show);
     SpoilAll();
 }
 
@@ -270,9 +294,13 @@ void CDrawingView::Spoil(CRect area) {
     InvalidateRect(area, FALSE);
 }
 
+bool CDrawingView::IsAllSpoiled() const {
+    return m_spoiled.size() == 1 && m_spoiled.front() == m_picture.Bounds();
+}
+
 void CDrawingView::RenewPicture() {
     for (const CRect& area : m_spoiled) {
-        m_picture.Fill(area, kBackground);
+        m_picture.Fill(area, m_paper);
         if (m_document) {
             const SavedDC saved(m_picture.Dc());
             ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);

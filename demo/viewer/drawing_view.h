@@ -15,6 +15,7 @@
 #include "demo/viewer/glow.h"
 #include "demo/viewer/memory_picture.h"
 #include "demo/viewer/rubber_band.h"
+#include "drawcore/undo.h"
 
 class DrawingViewClient {
 public:
@@ -27,7 +28,8 @@ public:
 class CDrawingView : public CWnd {
     DECLARE_DYNAMIC(CDrawingView)
 public:
-    static constexpr COLORREF kBackground = RGB(33, 40, 48);
+    static constexpr COLORREF kDarkPaper = RGB(33, 40, 48);
+    static constexpr COLORREF kLightPaper = RGB(255, 255, 255);
 
     explicit CDrawingView(DrawingViewClient& client);
     ~CDrawingView() override;
@@ -35,8 +37,15 @@ public:
     BOOL Create(CWnd* parent, UINT id);
     // Shows the whole of the document, which outlives the view or is replaced before it goes; null: nothing.
     void SetDocument(Document* document);
-    // The look of graphics has changed.
+    // Draws everything anew. Changes of the document's graphics need no call: the view hears of them.
     void Redraw();
+
+    // The colour that lies under the drawing; dark at first.
+    COLORREF Paper() const { return m_paper; }
+    void SetPaper(COLORREF paper);
+    // Whether lines are as wide as their pens, which they are at first, or all thin.
+    bool ShowsLineWeights() const { return m_lineWeights; }
+    void ShowLineWeights(bool show);
 
     const Camera& GetCamera() const { return m_camera; }
     void FitAll();
@@ -46,6 +55,9 @@ public:
     void Pan(CSize pixels);
 
     void SelectAll();
+    void SelectOnly(const std::vector<GraphicStruct*>& graphics) {
+        Select(graphics, Selection::Way::Replace);
+    }
     void SelectNext(bool forward);
     void ClearSelection();
 
@@ -77,7 +89,11 @@ private:
     void EndDrag();
     void MoveBand(CPoint point);
 
+    static void OnGraphicChanging(void* view);
+    void HearOfChanges(const ChangeListener* listener);
+
     void Spoil(CRect area); // of the drawing's picture
+    bool IsAllSpoiled() const;
     void SpoilAll() { Spoil(m_picture.Bounds()); }
     void RenewPicture();
     void RenewScene();
@@ -86,6 +102,8 @@ private:
     DrawingViewClient& m_client;
     Document* m_document = nullptr;
     Camera m_camera;
+    COLORREF m_paper = kDarkPaper;
+    bool m_lineWeights = true;
 
     MemoryPicture m_picture; // the drawing
     MemoryPicture m_scene;   // with the selection

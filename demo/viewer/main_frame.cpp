@@ -5,30 +5,58 @@
 #include <afxdlgs.h>
 
 #include "demo/viewer/control_tables.h"
+#include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/property_sheet.h"
+#include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "demo/viewer/style_commands.h"
+#include "drawcore/application.h"
+#include "orlo/host/application.h"
+#include "orlo/host/table.h"
 
 namespace {
 
 constexpr const char* kTitle = "Orlo Demo";
-constexpr const char* kOpenFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
+constexpr const char* kFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
-constexpr const char* kKeys =
-    "Click\tselect; Ctrl adds or takes away, Shift adds\n"
-    "Drag\tselect what is inside (to the right) or also crossed (to the left)\n"
-    "Tab\tselect the next one; Ctrl+A all, Esc none\n"
-    "Double click, Alt+Enter\tproperties of the selection\n"
-    "Ctrl+Z\ttake the last change back\n"
-    "Ctrl+N\tnew style after the selection; Ctrl+Enter edits it, Ctrl+E applies it\n"
-    "\n"
-    "Wheel, + and -\tzoom; Home fits the drawing, End the selection\n"
-    "Middle button, arrows\tmove the drawing\n"
-    "Ctrl+O\topen a drawing";
+// Lines so short that the box breaks none of them.
+constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift adds\n"
+                              "Drag to the right\tselect what is inside\n"
+                              "Drag to the left\tselect also what is crossed\n"
+                              "Tab, Shift+Tab\tselect the next one, the one before\n"
+                              "Ctrl+A, Esc\tselect all, nothing\n"
+                              "Ctrl+I\tselect all that are similar\n"
+                              "\n"
+                              "Double click, Alt+Enter\tproperties of the selection\n"
+                              "Ctrl+Z, Ctrl+Y\ttake the last change back, make it again\n"
+                              "Ctrl+N\tnew style after the selection\n"
+                              "Ctrl+Enter, Ctrl+E\tedit the style, apply it\n"
+                              "\n"
+                              "Wheel, + and -\tzoom\n"
+                              "Home, End\tfit the drawing, the selection\n"
+                              "Middle button, arrows\tmove the drawing\n"
+                              "Ctrl+W\tline weights, or all lines thin\n"
+                              "\n"
+                              "Ctrl+O, Ctrl+S\topen a drawing, save it\n"
+                              "Ctrl+Shift+S\tsave it under another name";
+
+constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
+static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
+constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
+constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
 std::string Counted(int count, const char* one) {
     return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
+
+// Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
+int DpiOf(HWND window) {
+    using Function = UINT(WINAPI*)(HWND);
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
+    if (found) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
+    const WindowDC screen(nullptr);
+    return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
 
 } // namespace
@@ -37,18 +65,28 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
 ON_WM_CREATE()
+ON_WM_CLOSE()
+ON_MESSAGE(WM_QUERYENDSESSION, &CMainFrame::OnQueryEndSession)
 ON_WM_DESTROY()
 ON_WM_SIZE()
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
+ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
+ON_COMMAND_RANGE(ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST, &CMainFrame::OnRecentFile)
+ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
+ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
 ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
 ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnEditUndo)
+ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnEditRedo)
 ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
 ON_COMMAND(ID_EDIT_SELECT_NEXT, &CMainFrame::OnSelectNext)
 ON_COMMAND(ID_EDIT_SELECT_PREVIOUS, &CMainFrame::OnSelectPrevious)
 ON_COMMAND(ID_EDIT_SELECT_NONE, &CMainFrame::OnSelectNone)
+ON_COMMAND(ID_EDIT_SELECT_SIMILAR, &CMainFrame::OnSelectSimilar)
+ON_COMMAND_RANGE(ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST, &CMainFrame::OnSelectKind)
+ON_COMMAND_RANGE(ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST, &CMainFrame::OnSelectLayer)
 ON_COMMAND(ID_EDIT_PROPERTIES, &CMainFrame::OnProperties)
 ON_COMMAND(ID_STYLE_NEW, &CMainFrame::OnNewStyle)
 ON_COMMAND(ID_STYLE_PROPERTIES, &CMainFrame::OnStyleProperties)
@@ -57,6 +95,9 @@ ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
 ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
 ON_COMMAND(ID_VIEW_FIT_ALL, &CMainFrame::OnFitAll)
 ON_COMMAND(ID_VIEW_FIT_SELECTION, &CMainFrame::OnFitSelection)
+ON_COMMAND(ID_VIEW_DARK_PAPER, &CMainFrame::OnDarkPaper)
+ON_COMMAND(ID_VIEW_LIGHT_PAPER, &CMainFrame::OnLightPaper)
+ON_COMMAND(ID_VIEW_LINE_WEIGHTS, &CMainFrame::OnLineWeights)
 ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
 END_MESSAGE_MAP()
 
@@ -77,6 +118,8 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
+    SetPaper(CDrawingView::kDarkPaper);
+    m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
     DragAcceptFiles();
     return 0;
@@ -89,9 +132,23 @@ void CMainFrame::OnDestroy() {
 
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
-    if (type == SIZE_MINIMIZED || !m_status.GetSafeHwnd()) return;
+    if (type != SIZE_MINIMIZED && m_status.GetSafeHwnd()) ArrangeClient();
+}
+
+void CMainFrame::ArrangeClient() {
     m_status.Arrange();
-    m_view.MoveWindow(0, 0, cx, std::max(0, cy - m_status.Height()));
+    CRect client;
+    GetClientRect(client);
+    m_view.MoveWindow(0, 0, client.Width(), std::max(0, client.Height() - m_status.Height()));
+}
+
+// The window has come to a monitor of another resolution, which says how large it should be there.
+LRESULT CMainFrame::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
+    m_status.SetDpi(HIWORD(wParam));
+    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
+    MoveWindow(place.left, place.top, place.right - place.left, place.bottom - place.top);
+    ArrangeClient(); // also if the size is the same
+    return 0;
 }
 
 void CMainFrame::OnSetFocus(CWnd*) {
@@ -101,12 +158,14 @@ void CMainFrame::OnSetFocus(CWnd*) {
 // ---- Opening
 
 bool CMainFrame::Open(const std::string& path) {
+    if (!MayLeaveDocument()) return false;
     try {
         m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
         std::unique_ptr<Document> opened =
             Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
         m_status.EndProgress();
         Show(std::move(opened));
+        RecentFiles::Add(path);
         return true;
     } catch (const OpenError& error) {
         m_status.EndProgress();
@@ -132,11 +191,12 @@ void CMainFrame::ShowWhatOpened() {
 }
 
 void CMainFrame::ShowTitle() {
-    SetWindowText((SystemText(m_document->Name()) + " - " + kTitle).c_str());
+    const char* mark = m_document->IsModified() ? "*" : "";
+    SetWindowText((mark + SystemText(m_document->Name()) + " - " + kTitle).c_str());
 }
 
 void CMainFrame::OnFileOpen() {
-    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kOpenFilter, this);
+    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kFilter, this);
     if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
 }
 
@@ -145,6 +205,72 @@ void CMainFrame::OnDropFiles(HDROP drop) {
     ::DragQueryFileW(drop, 0, path, MAX_PATH);
     ::DragFinish(drop);
     if (path[0] && IsWindowEnabled()) Open(Utf8(path));
+}
+
+void CMainFrame::OnRecentFile(UINT command) {
+    const std::vector<std::string> files = RecentFiles::List();
+    const size_t place = command - kRecentCommands.first;
+    if (place >= files.size()) return;
+    const std::string& path = files[place];
+    if (::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
+        Open(path);
+        return;
+    }
+    RecentFiles::Remove(path);
+    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
+}
+
+// ---- Saving
+
+bool CMainFrame::Save(const std::string& path) {
+    constexpr const char* kChanged =
+        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
+    try {
+        if (!m_document->Save(path, false)) {
+            if (AfxMessageBox((SystemText(path) + kChanged).c_str(), MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
+                return false;
+            m_document->Save(path, true);
+        }
+    } catch (const SaveError& error) {
+        AfxMessageBox(SystemText(error.what()).c_str());
+        return false;
+    }
+    RecentFiles::Add(path);
+    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
+    ShowTitle();
+    return true;
+}
+
+void CMainFrame::OnFileSave() {
+    if (CanDo(ID_FILE_SAVE)) Save(m_document->Path());
+}
+
+void CMainFrame::OnFileSaveAs() {
+    if (!CanDo(ID_FILE_SAVE_AS)) return;
+    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
+                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
+    if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
+}
+
+bool CMainFrame::MayLeaveDocument() {
+    if (!m_document || !m_document->IsModified()) return true;
+    const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
+    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES:
+        return Save(m_document->Path());
+    case IDNO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CMainFrame::OnClose() {
+    if (MayLeaveDocument()) CFrameWnd::OnClose();
+}
+
+LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
+    return IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
 }
 
 void CMainFrame::OnAppExit() {
@@ -168,8 +294,8 @@ void CMainFrame::OnEditProperties() {
         return;
     }
     const SheetOutcome outcome = EditSelection(this, *m_document);
+    ShowChange();
     if (outcome.changed) {
-        m_view.Redraw();
         std::string message = Counted(outcome.changed, "graphic") + " changed";
         if (const int dropped = m_document->DroppedSteps())
             message += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
@@ -179,10 +305,22 @@ void CMainFrame::OnEditProperties() {
     }
 }
 
+// What the window says of graphics besides the drawing itself.
+void CMainFrame::ShowChange() {
+    ShowTitle();
+    OnSelectionChanged();
+}
+
 void CMainFrame::OnEditUndo() {
     if (!CanDo(ID_EDIT_UNDO)) return;
     m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
-    m_view.Redraw();
+    ShowChange();
+}
+
+void CMainFrame::OnEditRedo() {
+    if (!CanDo(ID_EDIT_REDO)) return;
+    m_status.ShowMessage("Made again for " + Counted(m_document->Redo(), "graphic"));
+    ShowChange();
 }
 
 // ---- Styles
@@ -198,7 +336,7 @@ void CMainFrame::OnStyleProperties() {
 void CMainFrame::OnApplyStyle() {
     if (!CanDo(ID_STYLE_APPLY)) return;
     m_status.ShowMessage(ApplyStyle(*m_document));
-    m_view.Redraw();
+    ShowChange();
 }
 
 // ---- Selecting
@@ -219,9 +357,36 @@ void CMainFrame::OnSelectNone() {
     m_view.ClearSelection();
 }
 
+void CMainFrame::OnSelectSimilar() {
+    if (CanDo(ID_EDIT_SELECT_SIMILAR))
+        m_view.SelectOnly(LikeThese(m_document->Selectable(), m_document->Selected().Members()));
+}
+
+std::vector<KindCount> CMainFrame::SelectedKinds() const {
+    return m_document ? CountKinds(m_document->Selected().Members()) : std::vector<KindCount>();
+}
+
+void CMainFrame::OnSelectKind(UINT command) {
+    const std::vector<KindCount> kinds = SelectedKinds();
+    const size_t place = command - kKindCommands.first;
+    if (place < kinds.size()) m_view.SelectOnly(OfKind(m_document->Selected().Members(), kinds[place].kind));
+}
+
+std::vector<LayerCount> CMainFrame::Layers() const {
+    return m_document ? CountLayers(m_document->Drawing(), m_document->Selectable())
+                      : std::vector<LayerCount>();
+}
+
+void CMainFrame::OnSelectLayer(UINT command) {
+    const std::vector<LayerCount> layers = Layers();
+    const size_t place = command - kLayerCommands.first;
+    if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
+}
+
 void CMainFrame::OnSelectionChanged() {
-    const int count = m_document ? m_document->Selected().Count() : 0;
-    m_status.ShowSelection(count ? std::to_string(count) + " selected" : "");
+    if (!m_document) return m_status.ShowSelection("", "");
+    const Graphics selected = m_document->Selected().Members();
+    m_status.ShowSelection(KindsText(selected), WidthsText(m_document->Drawing(), selected));
 }
 
 void CMainFrame::OnPointerMoved(WorldPoint point) {
@@ -247,6 +412,23 @@ void CMainFrame::OnFitSelection() {
     m_view.FitSelection();
 }
 
+void CMainFrame::OnDarkPaper() {
+    SetPaper(CDrawingView::kDarkPaper);
+}
+
+void CMainFrame::OnLightPaper() {
+    SetPaper(CDrawingView::kLightPaper);
+}
+
+void CMainFrame::SetPaper(COLORREF paper) {
+    m_view.SetPaper(paper);
+    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(paper));
+}
+
+void CMainFrame::OnLineWeights() {
+    m_view.ShowLineWeights(!m_view.ShowsLineWeights());
+}
+
 void CMainFrame::OnHelpKeys() {
     MessageBox(kKeys, kTitle, MB_OK | MB_ICONINFORMATION);
 }
@@ -255,13 +437,19 @@ void CMainFrame::OnHelpKeys() {
 
 bool CMainFrame::CanDo(UINT command) const {
     switch (command) {
+    case ID_FILE_SAVE:
+    case ID_FILE_SAVE_AS:
+        return m_document != nullptr;
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
+    case ID_EDIT_REDO:
+        return m_document && m_document->RedoSteps() > 0;
     case ID_STYLE_PROPERTIES:
         return m_document && m_document->Styles().Current() != 0;
     case ID_STYLE_APPLY:
         return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
     case ID_STYLE_NEW:
+    case ID_EDIT_SELECT_SIMILAR:
     case ID_EDIT_PROPERTIES:
     case ID_EDIT_SELECT_NONE:
     case ID_VIEW_FIT_SELECTION:
@@ -278,11 +466,50 @@ bool CMainFrame::CanDo(UINT command) const {
     }
 }
 
+// A submenu is known by its first item.
+bool CMainFrame::FillSubmenu(HMENU menu) {
+    const UINT command = ::GetMenuItemID(menu, 0);
+    std::vector<std::string> texts;
+    if (command == kRecentCommands.first) {
+        for (const std::string& path : RecentFiles::List())
+            texts.push_back(SystemText(path));
+        FillMenu(menu, kRecentCommands, texts, "None");
+        return true;
+    }
+    if (command == kKindCommands.first) {
+        for (const KindCount& kind : SelectedKinds())
+            texts.push_back(KindText(kind));
+        FillMenu(menu, kKindCommands, texts, "Nothing is selected");
+    } else if (command == kLayerCommands.first) {
+        for (const LayerCount& layer : Layers())
+            texts.push_back(layer.name + "\t" + std::to_string(layer.count));
+        FillMenu(menu, kLayerCommands, texts, "No graphics");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool CMainFrame::IsChosen(UINT command) const {
+    switch (command) {
+    case ID_VIEW_DARK_PAPER:
+        return m_view.Paper() == CDrawingView::kDarkPaper;
+    case ID_VIEW_LIGHT_PAPER:
+        return m_view.Paper() == CDrawingView::kLightPaper;
+    case ID_VIEW_LINE_WEIGHTS:
+        return m_view.ShowsLineWeights();
+    default:
+        return false;
+    }
+}
+
 LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
     const HMENU menu = reinterpret_cast<HMENU>(wParam);
+    if (FillSubmenu(menu)) return 0;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         const UINT command = ::GetMenuItemID(menu, i);
         ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));
+        ::CheckMenuItem(menu, i, MF_BYPOSITION | (IsChosen(command) ? MF_CHECKED : MF_UNCHECKED));
     }
     return 0;
 }

@@ -5,9 +5,11 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "demo/viewer/document.h"
 #include "demo/viewer/drawing_view.h"
+#include "demo/viewer/likeness.h"
 #include "demo/viewer/status_line.h"
 
 class CMainFrame : public CFrameWnd, private DrawingViewClient {
@@ -19,10 +21,13 @@ public:
     // False: no window could be made, and the object is gone.
     BOOL Create();
 
-    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one.
+    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one, which
+    // it also keeps if the user thinks better of it for the sake of unsaved changes.
     bool Open(const std::string& path);
-    // The same for a drawing that has been opened already.
+    // Shows a drawing that has been opened already, whatever becomes of the one before.
     void Show(std::unique_ptr<Document> document);
+    // Saves the drawing to that file, which it belongs to from then on. False: the user has been told why not, or did not want it.
+    bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }
 
@@ -30,20 +35,30 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCTA& cs) override;
 
+    afx_msg void OnClose();
+    afx_msg LRESULT OnQueryEndSession(WPARAM wParam, LPARAM lParam);
     afx_msg int OnCreate(LPCREATESTRUCTA create);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* before);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
     afx_msg void OnFileOpen();
+    afx_msg void OnRecentFile(UINT command);
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
     afx_msg void OnAppExit();
     afx_msg void OnEditUndo();
+    afx_msg void OnEditRedo();
     afx_msg void OnSelectAll();
     afx_msg void OnSelectNext();
     afx_msg void OnSelectPrevious();
     afx_msg void OnSelectNone();
+    afx_msg void OnSelectSimilar();
+    afx_msg void OnSelectKind(UINT command);
+    afx_msg void OnSelectLayer(UINT command);
     afx_msg void OnProperties();
     afx_msg void OnNewStyle();
     afx_msg void OnStyleProperties();
@@ -52,6 +67,9 @@ protected:
     afx_msg void OnZoomOut();
     afx_msg void OnFitAll();
     afx_msg void OnFitSelection();
+    afx_msg void OnDarkPaper();
+    afx_msg void OnLightPaper();
+    afx_msg void OnLineWeights();
     afx_msg void OnHelpKeys();
     DECLARE_MESSAGE_MAP()
 
@@ -60,9 +78,18 @@ private:
     void OnPointerMoved(WorldPoint point) override;
     void OnEditProperties() override;
 
+    // Whether the document may go: nothing is unsaved, or the user has answered what is to become of it.
+    bool MayLeaveDocument();
     void ShowWhatOpened();
     void ShowTitle();
+    void ShowChange();
     bool CanDo(UINT command) const;
+    bool IsChosen(UINT command) const;
+    void ArrangeClient();
+    void SetPaper(COLORREF paper); // of view and previews
+    std::vector<KindCount> SelectedKinds() const;
+    std::vector<LayerCount> Layers() const;
+    bool FillSubmenu(HMENU menu);
 
     CDrawingView m_view;
     CStatusLine m_status;

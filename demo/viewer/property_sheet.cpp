@@ -23,7 +23,7 @@ int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned l
     const RegenMethods methods(::RegenMethodsNew());
     const std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(owner, methods.get(), drawing, set, flags));
-    if (!sheet) return -1;
+    if (!sheet) return kNotShown;
     for (GraphicStruct* graphic : orlo::host::Members(set, flags))
         ::AddGraphicPropertyPage(methods.get(), graphic, sheet.get());
     return static_cast<int>(sheet->DoModal());
@@ -32,7 +32,9 @@ int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned l
 SheetOutcome EditSelection(CWnd* owner, Document& document) {
     SheetOutcome outcome = {};
     // A cancelled sheet may have written too: a page writes when it is left for another one.
-    outcome.changed = document.Change(
-        [&] { outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics); });
+    outcome.changed = document.Attempt([&] {
+        outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics);
+        return outcome.code != IDCANCEL && outcome.code != kNotShown;
+    });
     return outcome;
 }

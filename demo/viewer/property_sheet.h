@@ -8,7 +8,9 @@
 class Document;
 
 // Shows the sheet with the pages that the members of the set deserve and waits until it is closed. owner is the main window,
-// which fills the sheet's controls; flags are kAllGraphics or kWithStylePart. IDOK, IDCANCEL, an end code of a page, or -1: the sheet could not be shown.
+// which fills the sheet's controls; flags are kAllGraphics or kWithStylePart. IDOK, IDCANCEL, an end code of a page, or
+// kNotShown.
+constexpr int kNotShown = -1;
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
 
 struct SheetOutcome {
@@ -16,4 +18,5 @@ struct SheetOutcome {
     int changed; // graphics; one step of undo takes them back
 };
 
+// Cancel takes back all that the sheet has written.
 SheetOutcome EditSelection(CWnd* owner, Document& document);

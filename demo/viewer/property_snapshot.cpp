@@ -29,12 +29,6 @@ std::string Number(double value) {
     return text;
 }
 
-std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
-    char name[128] = "";
-    ::TableEntryGetName(::DrawingGetTable(drawing, table), id, name, sizeof name);
-    return name[0] ? name : "#" + std::to_string(id);
-}
-
 std::string ColorText(DrawingStruct* drawing, uint32_t color) {
     switch (color) {
     case kColorByLayer:
@@ -66,10 +60,13 @@ std::string LineStyleText(DrawingStruct* drawing, uint16_t style) {
     }
 }
 
+bool IsWorldScaled(GraphicStruct* graphic) {
+    return ReadProperty<uint8_t>(graphic, kPropScaleSystem) == uint8_t{kScaleWorld};
+}
+
 std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double width) {
-    const bool world = ReadProperty<uint8_t>(graphic, kPropScaleSystem) == uint8_t{kScaleWorld};
     char text[64] = "";
-    if (world)
+    if (IsWorldScaled(graphic))
         ::DrawingStdNumericToText(drawing, width, text, sizeof text, 0);
     else
         ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetresPerInch, text,
@@ -117,6 +114,28 @@ std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const Prop
 }
 
 } // namespace
+
+std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
+    char name[128] = "";
+    ::TableEntryGetName(::DrawingGetTable(drawing, table), id, name, sizeof name);
+    return name[0] ? name : "#" + std::to_string(id);
+}
+
+std::vector<ValueCount> CountWidths(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics) {
+    struct Width {
+        GraphicStruct* example;
+        int count;
+    };
+    std::map<std::pair<double, bool>, Width> widths; // texts are made of the few that differ only
+    for (GraphicStruct* graphic : graphics) {
+        const auto width = ReadProperty<double>(graphic, kPropPenWidth);
+        if (width) ++widths.insert({{*width, IsWorldScaled(graphic)}, {graphic, 0}}).first->second.count;
+    }
+    std::vector<ValueCount> counts;
+    for (const auto& [key, width] : widths)
+        counts.push_back({WidthText(drawing, width.example, key.first), width.count});
+    return counts;
+}
 
 PropertySnapshot::PropertySnapshot(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics) {
     m_values.reserve(graphics.size());

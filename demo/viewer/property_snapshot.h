@@ -1,6 +1,7 @@
 // What graphics have as their properties, as texts in the host's own reading, and what changed between two moments.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -14,6 +15,17 @@ struct PropertyChange {
     std::string to;
     int graphics;
 };
+
+// So many graphics have a value.
+struct ValueCount {
+    std::string value;
+    int count;
+};
+
+// The pen widths of graphics, thin ones first.
+std::vector<ValueCount> CountWidths(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics);
+// The name of a table's entry; "#12" without one.
+std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id);
 
 class PropertySnapshot {
 public:

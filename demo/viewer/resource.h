@@ -6,13 +6,17 @@
 #define IDC_STATUS 130
 
 #define ID_FILE_OPEN 0xE101
+#define ID_FILE_SAVE 0xE103
+#define ID_FILE_SAVE_AS 0xE104
 #define ID_APP_EXIT 0xE141
 #define ID_EDIT_UNDO 0xE12B
+#define ID_EDIT_REDO 0xE12C
 #define ID_EDIT_SELECT_ALL 0xE12A
 #define ID_EDIT_SELECT_NEXT 201
 #define ID_EDIT_SELECT_PREVIOUS 202
 #define ID_EDIT_SELECT_NONE 203
 #define ID_EDIT_PROPERTIES 204
+#define ID_EDIT_SELECT_SIMILAR 208
 #define ID_STYLE_NEW 205
 #define ID_STYLE_PROPERTIES 206
 #define ID_STYLE_APPLY 207
@@ -20,7 +24,18 @@
 #define ID_VIEW_ZOOM_OUT 211
 #define ID_VIEW_FIT_ALL 212
 #define ID_VIEW_FIT_SELECTION 213
+#define ID_VIEW_DARK_PAPER 214
+#define ID_VIEW_LIGHT_PAPER 215
+#define ID_VIEW_LINE_WEIGHTS 216
 #define ID_HELP_KEYS 220
+
+// Submenus that are made as they open: the first and the last command of each.
+#define ID_SELECT_KIND_FIRST 400
+#define ID_SELECT_KIND_LAST 419
+#define ID_FILE_RECENT_FIRST 420
+#define ID_FILE_RECENT_LAST 427
+#define ID_SELECT_LAYER_FIRST 1000
+#define ID_SELECT_LAYER_LAST 1999
 
 // Steps of the wizard that makes a style.
 #define IDD_STYLE_NAME 300

@@ -2,11 +2,15 @@
 
 #include "demo/viewer/status_line.h"
 
+#include <algorithm>
+
 namespace {
 
-constexpr int kSelectionWidth = 170; // pixels
+// At 96 dots per inch.
+constexpr int kPaneMargin = 16;
 constexpr int kPointerWidth = 230;
 constexpr int kProgressWidth = 200;
+constexpr int kWidestPane = 3; // that part of the line, for the selection and for its widths
 constexpr UINT kProgressId = 1;
 
 } // namespace
@@ -33,18 +37,56 @@ void CStatusLine::Arrange() {
     SendMessage(WM_SIZE); // it finds its own place in the parent
     CRect client;
     GetClientRect(client);
-    const int pointer = client.right - kPointerWidth;
-    int rightEdges[kPanes] = {pointer - kSelectionWidth, pointer, -1};
+    int rightEdges[kPanes];
+    rightEdges[kPointer] = -1;
+    rightEdges[kWidths] = client.right - Scaled(kPointerWidth);
+    for (int pane = kWidths; pane > kMessage; --pane)
+        rightEdges[pane - 1] = rightEdges[pane] - std::min(WidthFor(m_texts[pane]),
+                                                           static_cast<int>(client.right) / kWidestPane);
     SetParts(kPanes, rightEdges);
     CRect pane;
     GetRect(kMessage, pane);
-    m_progress.MoveWindow(pane.right - kProgressWidth, pane.top + 2, kProgressWidth - 4, pane.Height() - 4);
+    const int width = Scaled(kProgressWidth);
+    m_progress.MoveWindow(pane.right - width, pane.top + 2, width - 4, pane.Height() - 4);
 }
 
-void CStatusLine::ShowText(Pane pane, const std::string& text) {
-    if (m_texts[pane] == text) return;
+int CStatusLine::Scaled(int at96) const {
+    return ::MulDiv(at96, m_dpi, 96);
+}
+
+int CStatusLine::WidthFor(const std::string& text) const {
+    if (text.empty()) return 0;
+    const WindowDC dc(m_hWnd);
+    const SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
+    return size.cx + Scaled(kPaneMargin);
+}
+
+void CStatusLine::SetDpi(int dpi) {
+    NONCLIENTMETRICSA metrics = {};
+    metrics.cbSize = sizeof metrics;
+    const WindowDC screen(nullptr);
+    if (!::SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) || !screen.get())
+        return;
+    m_dpi = dpi;
+    LOGFONTA& font = metrics.lfStatusFont; // for the system's resolution
+    font.lfHeight = ::MulDiv(font.lfHeight, dpi, ::GetDeviceCaps(screen.get(), LOGPIXELSY));
+    OwnedFont sized(::CreateFontIndirectA(&font));
+    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(sized.get()), TRUE);
+    m_font = std::move(sized);
+}
+
+bool CStatusLine::ShowText(Pane pane, const std::string& text) {
+    if (m_texts[pane] == text) return false;
     m_texts[pane] = text;
     SetText((" " + text).c_str(), pane, 0);
+    return true;
+}
+
+void CStatusLine::ShowSelection(const std::string& kinds, const std::string& widths) {
+    const bool changed = ShowText(kSelection, kinds);
+    if (ShowText(kWidths, widths) || changed) Arrange();
 }
 
 void CStatusLine::StartProgress(const std::string& text) {

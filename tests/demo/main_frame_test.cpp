@@ -1,6 +1,13 @@
 // The main window: opening, and the road of an edit through the library's sheet and back by undo.
 
+#include <algorithm>
+#include <memory>
+
 #include "demo/viewer.h"
+#include "demo/viewer/recent_files.h"
+#include "demo/viewer/resource.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/property.h"
 #include "orlo/resources/resource.h"
 #include "support/message_box_watcher.h"
 
@@ -59,18 +66,29 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
     EXPECT_EQ(seen, Seen());
 }
 
-TEST_F(Viewer, CancelLeavesNoStepOfUndo) {
+// A page writes when it is left: the drawing behind the sheet shows it, and Cancel takes it back.
+TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable().front(), 0.5); });
+    user.Key('Z', UserInput::kControl);
     const PropertySnapshot before = Properties();
     user.Key('A', UserInput::kControl);
+    const std::vector<uint32_t> seen = Seen();
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
                       user.Key(VK_TAB, UserInput::kControl);
                       FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
+                      const std::vector<uint32_t> behind = Seen();
+                      user.Key(VK_TAB, UserInput::kControl);
+                      EXPECT_EQ(4u, before.ChangesTo(Properties()).size());
+                      EXPECT_NE(behind, Seen());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_TRUE(before == Properties());
+    EXPECT_EQ(seen, Seen());
     EXPECT_EQ(0, document().UndoSteps());
+    user.Key('Y', UserInput::kControl);
+    EXPECT_FALSE(before == Properties()) << "what was taken back before can still be made again";
 }
 
 TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
@@ -107,9 +125,181 @@ TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
     EXPECT_STREQ("kabeja-draft4-roof-details.dxf - Orlo Demo", title);
 }
 
+TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
+    const HWND status = ::GetDlgItem(frame->m_hWnd, IDC_STATUS);
+    const auto windowOf = [](HWND window) {
+        CRect rect;
+        ::GetWindowRect(window, rect);
+        return rect;
+    };
+    const int before = windowOf(status).Height();
+    CRect wanted = windowOf(frame->m_hWnd); // of the same size: nothing else would arrange it
+    ::OffsetRect(wanted, 10, 20);
+    ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
+    EXPECT_EQ(windowOf(frame->m_hWnd), wanted);
+    EXPECT_GT(windowOf(status).Height(), before * 3 / 2);
+    EXPECT_EQ(windowOf(view()).bottom, windowOf(status).top);
+}
+
 TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {
     user.Key(VK_RETURN, UserInput::kAlt);
     EXPECT_EQ(frame->m_hWnd, ::GetActiveWindow());
+}
+
+// What a submenu offers when it opens, and choosing from it.
+TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
+    const auto pane = [&](int place) {
+        char text[256] = "";
+        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, static_cast<WPARAM>(place),
+                       reinterpret_cast<LPARAM>(text));
+        return std::string(text);
+    };
+    const auto choose = [&](UINT command) { ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0); };
+    const auto offers = [&](UINT first) {
+        std::vector<std::string> texts;
+        const HMENU edit = ::GetSubMenu(::GetMenu(frame->m_hWnd), 1);
+        for (int i = 0; i < ::GetMenuItemCount(edit); ++i) {
+            const HMENU menu = ::GetSubMenu(edit, i);
+            if (!menu || ::GetMenuItemID(menu, 0) != first) continue;
+            ::SendMessageA(frame->m_hWnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0);
+            for (int item = 0; item < ::GetMenuItemCount(menu); ++item) {
+                char text[64] = "";
+                ::GetMenuStringA(menu, static_cast<UINT>(item), text, sizeof text, MF_BYPOSITION);
+                texts.push_back(text);
+            }
+        }
+        return texts;
+    };
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(offers(ID_SELECT_KIND_FIRST), Texts{"Nothing is selected"});
+    EXPECT_EQ(offers(ID_SELECT_LAYER_FIRST), (Texts{"0\t3", "A && B\t1"}));
+    choose(ID_SELECT_LAYER_FIRST + 1);
+    EXPECT_EQ(pane(1), " 1 text");
+    user.Key('A', UserInput::kControl);
+    EXPECT_EQ(pane(1), " 4: 1 text, 3 lines");
+    EXPECT_EQ(offers(ID_SELECT_KIND_FIRST), (Texts{"1 text", "3 lines"}));
+    choose(ID_SELECT_KIND_FIRST + 1);
+    EXPECT_EQ(pane(1), " 3 lines");
+    EXPECT_EQ(pane(2), " 3 x 0 mm");
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[1], 10 / 25.4); });
+    user.Key('A', UserInput::kControl);
+    EXPECT_EQ(pane(2), " 2 x 0 mm, 1 x 10 mm");
+    user.Key('Z', UserInput::kControl);
+    EXPECT_EQ(pane(2), " 3 x 0 mm");
+
+    ::GraphicSetPenColor(document().Selectable()[1], RGB(255, 0, 0)); // that of the first one
+    user.Click(view(), Pixel(10, 5));
+    user.Key('I', UserInput::kControl);
+    EXPECT_EQ(selection().Count(), 2);
+}
+
+// The red line becomes as wide as that.
+class Saving : public Viewer {
+protected:
+    void Widen(double width) {
+        document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], width / 25.4); });
+    }
+    bool IsMarked() {
+        CString title;
+        frame->GetWindowText(title);
+        return title[0] == '*';
+    }
+    // What a drawing file holds of the line's width, as if opened anew.
+    double SavedWidth(const std::string& path) {
+        const std::unique_ptr<Document> opened = Document::Open(path, [](int) {});
+        return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
+    }
+    void Save() { user.Key('S', UserInput::kControl); }
+};
+
+TEST_F(Saving, MarkFollowsUndoAndRedo) {
+    const MessageBoxWatcher boxes;
+    Widen(0.5);
+    Widen(0.7);
+    for (const auto& [key, marked] : std::vector<std::pair<char, bool>>{
+             {'Z', true}, {'Z', false}, {'Y', true}, {'S', false}, {'Z', true}, {'Y', false}}) {
+        user.Key(static_cast<UINT>(key), UserInput::kControl);
+        EXPECT_EQ(IsMarked(), marked) << key;
+    }
+    EXPECT_TRUE(boxes.Boxes().empty()) << boxes.OnlyText();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+}
+
+TEST_F(Saving, UnsavedChangesAreAskedFor) {
+    Widen(0.5);
+    const std::string content = file.Read();
+    const DrawingFile other(content.c_str());
+    for (const int answer : {IDCANCEL, IDYES}) {
+        MessageBoxWatcher boxes(answer);
+        EXPECT_EQ(frame->Open(other.Path()), answer == IDYES);
+        EXPECT_EQ(boxes.OnlyText().find("Save the changes to "), 0u);
+    }
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+    Widen(0.7);
+    MessageBoxWatcher boxes(IDCANCEL);
+    const HWND window = frame->m_hWnd;
+    ::SendMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(boxes.Boxes().size(), 1u);
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_FALSE(::SendMessageA(window, WM_QUERYENDSESSION, 0, 0));
+    EXPECT_EQ(other.Read(), content);
+}
+
+TEST_F(Saving, AFileThatChangedMeanwhileIsAskedFor) {
+    Widen(0.5);
+    const std::string foreign = "999\nby another program\n" + file.Read();
+    file.Write(foreign);
+    {
+        MessageBoxWatcher boxes(IDNO);
+        Save();
+        EXPECT_NE(boxes.OnlyText().find("Another program has changed"), std::string::npos);
+    }
+    EXPECT_EQ(file.Read(), foreign);
+    EXPECT_TRUE(document().IsModified());
+    MessageBoxWatcher boxes(IDYES);
+    Save();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+}
+
+TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
+    Widen(0.5);
+    {
+        const MessageBoxWatcher boxes;
+        EXPECT_FALSE(frame->Save("no such folder/copy.dxf"));
+        EXPECT_EQ(boxes.OnlyText().find("no such folder/copy.dxf"), 0u);
+    }
+    EXPECT_TRUE(document().IsModified());
+    EXPECT_EQ(document().Path(), file.Path());
+    const DrawingFile copy("");
+    ASSERT_TRUE(frame->Save(copy.Path()));
+    EXPECT_FALSE(document().IsModified());
+    EXPECT_EQ(document().Path(), copy.Path());
+    EXPECT_NEAR(SavedWidth(copy.Path()), 0.5, 0.001);
+    EXPECT_EQ(SavedWidth(file.Path()), 0);
+}
+
+TEST_F(Saving, RecentFilesAreOfferedAndForgottenWhenTheyHaveGone) {
+    std::string gone;
+    {
+        const DrawingFile other(file.Read().c_str());
+        ASSERT_TRUE(frame->Open(other.Path()));
+        gone = other.Path();
+        frame->Open(file.Path());
+    }
+    const std::vector<std::string> files = RecentFiles::List();
+    ASSERT_GE(files.size(), 2u);
+    EXPECT_LE(files.size(), RecentFiles::kMost);
+    EXPECT_EQ(files[1], gone);
+    MessageBoxWatcher boxes;
+    ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST + 1, 0);
+    EXPECT_EQ(boxes.OnlyText().find(gone), 0u);
+    EXPECT_EQ(std::count(files.begin(), files.end(), gone), 1);
+    const std::vector<std::string> left = RecentFiles::List();
+    EXPECT_EQ(std::count(left.begin(), left.end(), gone), 0);
+    const Document* before = &document();
+    ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST, 0);
+    EXPECT_NE(before, &document());
+    EXPECT_EQ(document().Path(), left[0]);
 }
 
 } // namespace

@@ -2,6 +2,11 @@
 
 #include "demo/viewer.h"
 
+#include <algorithm>
+
+#include "demo/viewer/resource.h"
+#include "orlo/host/graphic.h"
+
 namespace {
 
 struct WindowCase {
@@ -89,6 +94,23 @@ TEST_F(Viewer, RubberBandLeavesNothingBehind) {
     user.MoveTo(view(), Pixel(19, 21));
     user.Release(view(), Pixel(19, 21));
     EXPECT_EQ(before, Seen());
+}
+
+TEST_F(Viewer, PaperAndLineWeightsAreAMatterOfChoice) {
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
+    const auto choose = [&](UINT command) {
+        ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0);
+        return Seen();
+    };
+    const auto drawn = [](const std::vector<uint32_t>& pixels) {
+        return std::count_if(pixels.begin(), pixels.end(), [&](uint32_t p) { return p != pixels.front(); });
+    };
+    const std::vector<uint32_t> dark = Seen(), light = choose(ID_VIEW_LIGHT_PAPER);
+    EXPECT_EQ(light.front(), 0xFFFFFFu);
+    EXPECT_LT(drawn(choose(ID_VIEW_LINE_WEIGHTS)) * 2, drawn(light));
+    EXPECT_EQ(choose(ID_VIEW_LINE_WEIGHTS), light);
+    EXPECT_EQ(choose(ID_VIEW_DARK_PAPER), dark);
+    EXPECT_NE(dark.front(), light.front());
 }
 
 // Moving keeps what is there and draws only what comes in at the edges.

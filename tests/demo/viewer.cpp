@@ -2,7 +2,8 @@
 
 #include "demo/viewer.h"
 
-#include <cstdio>
+#include <fstream>
+#include <iterator>
 
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/memory_picture.h"
@@ -10,42 +11,46 @@
 
 namespace {
 
-constexpr const char* kDrawing = "0\nSECTION\n2\nENTITIES\n"
-                                 "0\nLINE\n8\n0\n62\n1\n10\n5\n20\n5\n11\n15\n21\n5\n"
-                                 "0\nLINE\n8\n0\n62\n3\n10\n5\n20\n35\n11\n15\n21\n35\n"
-                                 "0\nLINE\n8\n0\n62\n2\n10\n25\n20\n5\n11\n35\n21\n15\n"
-                                 "0\nTEXT\n8\n0\n10\n25\n20\n30\n40\n4\n1\nOrlo\n"
-                                 "0\nENDSEC\n0\nEOF\n";
-
-// A file of the temporary folder, for as long as the object lives.
-class DrawingFile {
-public:
-    explicit DrawingFile(const char* content) {
-        char folder[MAX_PATH], path[MAX_PATH];
-        ::GetTempPathA(sizeof folder, folder);
-        ::GetTempFileNameA(folder, "dxf", 0, path);
-        m_path = path;
-        std::FILE* file = std::fopen(path, "wb");
-        std::fputs(content, file);
-        std::fclose(file);
-    }
-    ~DrawingFile() { ::DeleteFileA(m_path.c_str()); }
-    DrawingFile(const DrawingFile&) = delete;
-    DrawingFile& operator=(const DrawingFile&) = delete;
-    std::string Path() const { return Utf8FromSystem(m_path.c_str()); }
-
-private:
-    std::string m_path;
-};
+constexpr const char* kDrawing =
+    "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+    "0\nLINE\n8\n0\n62\n1\n10\n5\n20\n5\n11\n15\n21\n5\n"
+    "0\nLINE\n8\n0\n62\n3\n10\n5\n20\n35\n11\n15\n21\n35\n"
+    "0\nLINE\n8\n0\n62\n2\n10\n25\n20\n5\n11\n35\n21\n15\n"
+    "0\nTEXT\n8\nA & B\n10\n25\n20\n30\n40\n4\n1\nOrlo\n"
+    "0\nENDSEC\n0\nEOF\n";
 
 } // namespace
 
-Viewer::Viewer() : frame(new CMainFrame) {
+DrawingFile::DrawingFile(const char* content) {
+    char folder[MAX_PATH], path[MAX_PATH];
+    ::GetTempPathA(sizeof folder, folder);
+    ::GetTempFileNameA(folder, "dxf", 0, path);
+    m_path = path;
+    Write(content);
+}
+
+DrawingFile::~DrawingFile() {
+    ::DeleteFileA(m_path.c_str());
+}
+
+std::string DrawingFile::Path() const {
+    return Utf8FromSystem(m_path.c_str());
+}
+
+void DrawingFile::Write(const std::string& content) const {
+    std::ofstream(m_path, std::ios::binary) << content;
+}
+
+std::string DrawingFile::Read() const {
+    std::ifstream stream(m_path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+Viewer::Viewer() : frame(new CMainFrame), file(kDrawing) {
     ::PropPageInit();
     if (!frame->Create()) throw std::runtime_error("no window");
     AfxGetThread()->m_pMainWnd = frame;
     frame->ShowWindow(SW_SHOW);
-    const DrawingFile file(kDrawing);
     frame->Open(file.Path());
     frame->View().SetFocus();
     user.Wait(0);

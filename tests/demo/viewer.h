@@ -16,6 +16,22 @@
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
 
+// A file of the temporary folder, for as long as the object lives.
+class DrawingFile {
+public:
+    explicit DrawingFile(const char* content);
+    ~DrawingFile();
+    DrawingFile(const DrawingFile&) = delete;
+    DrawingFile& operator=(const DrawingFile&) = delete;
+
+    std::string Path() const; // UTF-8
+    void Write(const std::string& content) const;
+    std::string Read() const;
+
+private:
+    std::string m_path; // as the system's 8-bit functions want it
+};
+
 class Viewer : public ::testing::Test {
 protected:
     Viewer();
@@ -32,5 +48,6 @@ protected:
     std::vector<uint32_t> Seen();
 
     CMainFrame* frame; // goes with its window
+    DrawingFile file;  // that is open
     UserInput user{0};
 };

@@ -86,6 +86,10 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
     picture.Draw(drawing.Root(), 0, kBlack);
     EXPECT_EQ(picture.At(50, 50), kWhite);
     EXPECT_EQ(picture.At(50, 30), kWhite);
+    EXPECT_EQ(picture.At(50, 10), kRed);
+    const COLORREF blue = picture.At(50, 20);
+    EXPECT_GT(GetGValue(blue), 50) << "lighter, so that it can be read";
+    EXPECT_EQ(RGB(GetGValue(blue), GetGValue(blue), 255), blue);
 }
 
 TEST_F(Paint, LayersHide) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <drawcore/property_schema.h>
 #include <drawcore/undo.h>
 
@@ -108,6 +110,73 @@ TEST_F(Undo, GoesBackStepByStep) {
     }
 }
 
+TEST_F(Undo, MakesAgainWhatWasTakenBackUntilSomethingElseIsChanged) {
+    const auto step = [&](const std::function<void()>& change) {
+        DrawingBeginUndo(drawing);
+        change();
+        return DrawingEndUndo(drawing);
+    };
+    const uint32_t start = DrawingGetUndoMark(drawing);
+    step([&] { SetReal(lines[0], kPropPenWidth, 2); });
+    const uint32_t middle = DrawingGetUndoMark(drawing);
+    step([&] {
+        SetReal(lines[0], kPropPenWidth, 7);
+        AddVertex(lines[0], 50, 50);
+        SetReal(lines[1], kPropPenWidth, 3);
+    });
+    const uint32_t end = DrawingGetUndoMark(drawing);
+    for (int turn = 0; turn < 2; ++turn) {
+        EXPECT_EQ(DrawingUndo(drawing), 2);
+        EXPECT_EQ(DrawingGetUndoMark(drawing), middle);
+        EXPECT_EQ(DrawingUndo(drawing), 1);
+        EXPECT_EQ(DrawingGetUndoMark(drawing), start);
+        EXPECT_EQ(DrawingCountRedo(drawing), 2);
+        EXPECT_EQ(DrawingRedo(drawing), 1);
+        EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 2);
+        EXPECT_EQ(BoxOf(lines[0]).right, 1);
+        EXPECT_EQ(DrawingRedo(drawing), 2);
+        EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 7);
+        EXPECT_EQ(BoxOf(lines[0]).right, 50);
+        EXPECT_EQ(DrawingGetUndoMark(drawing), end);
+        EXPECT_EQ(DrawingRedo(drawing), 0);
+    }
+    DrawingUndo(drawing);
+    EXPECT_EQ(step([] {}), 0) << "changes nothing";
+    GraphicDelete(drawing.Root(), lines[1]);
+    GraphicDispose(&lines[1]);
+    EXPECT_EQ(DrawingRedo(drawing), 1) << "one of the two has gone";
+    DrawingUndo(drawing);
+    EXPECT_EQ(step([&] { SetReal(lines[2], kPropPenWidth, 9); }), 1);
+    EXPECT_EQ(DrawingRedo(drawing), 0);
+    EXPECT_NE(DrawingGetUndoMark(drawing), end) << "another state, though as many steps away";
+}
+
+TEST_F(Undo, CancelTakesBackTheOpenStepAndLeavesTheOthers) {
+    for (const double width : {2.0, 3.0}) {
+        DrawingBeginUndo(drawing);
+        SetReal(lines[0], kPropPenWidth, width);
+        DrawingEndUndo(drawing);
+    }
+    DrawingUndo(drawing);
+    int heard = 0;
+    const ChangeListener listener = {&heard, [](void* context) { ++*static_cast<int*>(context); }};
+    DrawingSetChangeListener(drawing, &listener);
+    SetReal(lines[2], kPropPenWidth, 8);
+    EXPECT_EQ(heard, 0) << "no step is open";
+    DrawingBeginUndo(drawing);
+    SetReal(lines[0], kPropPenWidth, 4);
+    SetReal(lines[0], kPropPenWidth, 5);
+    AddVertex(lines[1], 50, 50);
+    EXPECT_EQ(heard, 3);
+    EXPECT_EQ(DrawingCancelUndo(drawing), 2);
+    EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 2);
+    EXPECT_EQ(BoxOf(lines[1]).right, 2);
+    EXPECT_EQ(DrawingCountUndo(drawing), 1);
+    EXPECT_EQ(DrawingRedo(drawing), 1);
+    EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 3);
+    EXPECT_EQ(DrawingCancelUndo(drawing), 0) << "none is open";
+}
+
 TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
     const auto step = [&](double width) {
         DrawingBeginUndo(drawing);
@@ -120,9 +189,13 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
     DrawingSetUndoRoom(drawing, 1); // the last one still stays
     EXPECT_EQ(step(5), 3);
     EXPECT_EQ(step(6), 1);
+    const uint32_t end = DrawingGetUndoMark(drawing);
     EXPECT_EQ(DrawingUndo(drawing), 3);
     EXPECT_EQ(DrawingUndo(drawing), 0);
     EXPECT_EQ(GetReal(lines[2], kPropPenWidth), 5);
+    EXPECT_NE(DrawingGetUndoMark(drawing), 0u) << "not what was opened";
+    EXPECT_EQ(DrawingRedo(drawing), 3) << "the only one, in whatever room";
+    EXPECT_EQ(DrawingGetUndoMark(drawing), end);
 }
 
 size_t HeapBytes() {

@@ -13,9 +13,13 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Background colour of the drawing: lines of nearly that colour are drawn black or white, so that they can be seen. Without
-// this call it is the system's window colour or, for previews, the application's preview background.
+// Background colour of the drawing: lines of nearly that colour are drawn black or white, so that they can be seen, and on a
+// dark one lines that are too dark are drawn in a lighter shade of their colour. Without this call it is the system's window
+// colour or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
+
+// Whether pens are as wide as they are (so it is without this call), or all as thin as can be.
+DRAWCORE_API void ViewportShowLineWeights(ViewportStruct*, int show);
 
 // Fits what is seen of the graphic into the rectangle, as ViewportSetExtents does: all but what lies on hidden layers. If
 // nothing is seen, all of it.

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <functional>
 
-#include "drawcore/include/drawcore/undo.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/graphic.h"
 
@@ -41,12 +40,45 @@ void UndoLog::Step::Close() {
         size += look.info.size();
 }
 
+UndoLog::Step UndoLog::Step::Present() const {
+    Step present;
+    present.mark = mark;
+    for (const Saved& entry : saved) {
+        if (entry.look)
+            present.Add(*entry.graphic, entry.graphic->GetLook());
+        else if (entry.state)
+            present.saved.push_back({entry.graphic, nullptr, entry.graphic->CloneState()});
+    }
+    return present;
+}
+
+int UndoLog::Step::Restore() const {
+    int restored = 0;
+    for (const Saved& entry : saved) {
+        if (entry.IsGone()) continue;
+        entry.Restore();
+        ++restored;
+    }
+    return restored;
+}
+
+void UndoLog::Step::Add(Graphic& graphic, const Look& look) {
+    saved.push_back({&graphic, &*looks.insert(look).first, nullptr});
+}
+
 UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
     const auto found =
         std::lower_bound(saved.begin(), saved.end(), &graphic, [](const Saved& entry, const Graphic* key) {
             return std::less<const Graphic*>()(entry.graphic, key);
         });
     return found != saved.end() && found->graphic == &graphic ? &*found : nullptr;
+}
+
+void UndoLog::Step::Forget(const Graphic& graphic) {
+    Saved* entry = Find(graphic);
+    if (!entry) return;
+    entry->look = nullptr;
+    entry->state.reset();
 }
 
 bool UndoLog::Begin() {
@@ -61,32 +93,67 @@ int UndoLog::End() {
     Step& step = steps_.back();
     step.Close();
     const int changed = static_cast<int>(step.saved.size());
-    if (!changed) steps_.pop_back();
+    if (changed) {
+        step.mark = ++lastMark_;
+        undone_.clear();
+    } else {
+        steps_.pop_back();
+    }
     MakeRoom();
     return changed;
 }
 
+int UndoLog::Cancel() {
+    if (!open_) return 0;
+    open_ = false;
+    steps_.back().Close();
+    TellListener();
+    const int restored = steps_.back().Restore();
+    steps_.pop_back();
+    return restored;
+}
+
+// What was undone last goes last: it is the next to come back.
 void UndoLog::MakeRoom() {
     size_t whole = 0;
-    for (const Step& step : steps_)
-        whole += step.size;
+    for (const std::deque<Step>* steps : {&steps_, &undone_})
+        for (const Step& step : *steps)
+            whole += step.size;
+    for (; whole > room_ && undone_.size() > 1; undone_.pop_front())
+        whole -= undone_.front().size;
     for (dropped_ = 0; whole > room_ && steps_.size() > 1; ++dropped_) {
         whole -= steps_.front().size;
+        firstMark_ = steps_.front().mark;
         steps_.pop_front();
     }
 }
 
+int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
+    TellListener();
+    Step& step = from.back();
+    to.push_back(step.Present());
+    const int restored = step.Restore();
+    to.back().Close();
+    from.pop_back();
+    return restored;
+}
+
 int UndoLog::Undo() {
     if (open_ || steps_.empty()) return 0;
-    const Step step = std::move(steps_.back());
-    steps_.pop_back();
-    int restored = 0;
-    for (const Saved& entry : step.saved) {
-        if (entry.IsGone()) continue;
-        entry.Restore();
-        ++restored;
-    }
+    const int restored = Turn(steps_, undone_);
+    MakeRoom();
     return restored;
+}
+
+int UndoLog::Redo() {
+    if (open_ || undone_.empty()) return 0;
+    const int restored = Turn(undone_, steps_);
+    MakeRoom();
+    return restored;
+}
+
+uint32_t UndoLog::Mark() const {
+    return Steps() ? steps_[Steps() - 1].mark : firstMark_;
 }
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
@@ -95,24 +162,31 @@ UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
     return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
 }
 
-UndoLog::Saved& UndoLog::Add(Graphic& graphic) {
-    std::vector<Saved>& saved = steps_.back().saved;
-    graphic.undoPlace_ = static_cast<uint32_t>(saved.size());
+void UndoLog::Enter(Graphic& graphic) {
+    graphic.undoPlace_ = static_cast<uint32_t>(steps_.back().saved.size());
     graphic.inUndoLog_ = true;
-    return saved.emplace_back(Saved{&graphic, nullptr, nullptr});
 }
 
 void UndoLog::SaveLook(Graphic& graphic) {
+    TellListener();
     if (InOpenStep(graphic)) return;
-    const Look* look = &*steps_.back().looks.insert(graphic.GetLook()).first;
-    Add(graphic).look = look;
+    Enter(graphic);
+    steps_.back().Add(graphic, graphic.GetLook());
+}
+
+void UndoLog::TellListener() const {
+    if (listener_.changing) listener_.changing(listener_.context);
 }
 
 void UndoLog::SaveState(Graphic& graphic) {
+    TellListener();
     Saved* entry = InOpenStep(graphic);
     if (entry && entry->state) return;
     std::unique_ptr<Graphic> state = graphic.CloneState();
-    if (!entry) entry = &Add(graphic);
+    if (!entry) {
+        Enter(graphic);
+        entry = &steps_.back().saved.emplace_back(Saved{&graphic, nullptr, nullptr});
+    }
     if (entry->look) state->SetLook(*entry->look); // as it was before the step
     entry->look = nullptr;
     entry->state = std::move(state);
@@ -129,41 +203,73 @@ void UndoLog::Remove(Graphic& graphic) {
             saved.pop_back();
         }
     for (size_t i = 0; i < Steps(); ++i)
-        if (Saved* entry = steps_[i].Find(graphic)) {
-            entry->look = nullptr;
-            entry->state.reset();
-        }
+        steps_[i].Forget(graphic);
+    for (Step& step : undone_)
+        step.Forget(graphic);
 }
 
 } // namespace drawcore
 
 using drawcore::Drawing;
+using drawcore::UndoLog;
+
+namespace {
+
+// What the log answers; 0 if there is no such drawing.
+template <class Answer>
+Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)()) {
+    Drawing* found = Drawing::Find(drawing);
+    return found ? (found->Undo().*question)() : Answer{};
+}
+template <class Answer>
+Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)() const) {
+    Drawing* found = Drawing::Find(drawing);
+    return found ? (found->Undo().*question)() : Answer{};
+}
+
+} // namespace
 
 int DrawingBeginUndo(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    return found && found->Undo().Begin();
+    return Ask(drawing, &UndoLog::Begin);
 }
 
 int DrawingEndUndo(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? found->Undo().End() : 0;
+    return Ask(drawing, &UndoLog::End);
+}
+
+int DrawingCancelUndo(DrawingStruct* drawing) {
+    return Ask(drawing, &UndoLog::Cancel);
 }
 
 int DrawingUndo(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? found->Undo().Undo() : 0;
+    return Ask(drawing, &UndoLog::Undo);
+}
+
+int DrawingRedo(DrawingStruct* drawing) {
+    return Ask(drawing, &UndoLog::Redo);
 }
 
 int DrawingCountUndo(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? static_cast<int>(found->Undo().Steps()) : 0;
+    return static_cast<int>(Ask(drawing, &UndoLog::Steps));
+}
+
+int DrawingCountRedo(DrawingStruct* drawing) {
+    return static_cast<int>(Ask(drawing, &UndoLog::UndoneSteps));
 }
 
 int DrawingCountForgotten(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? found->Undo().Dropped() : 0;
+    return Ask(drawing, &UndoLog::Dropped);
+}
+
+uint32_t DrawingGetUndoMark(DrawingStruct* drawing) {
+    return Ask(drawing, &UndoLog::Mark);
 }
 
 void DrawingSetUndoRoom(DrawingStruct* drawing, size_t bytes) {
     if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetRoom(bytes);
+}
+
+void DrawingSetChangeListener(DrawingStruct* drawing, const ChangeListener* listener) {
+    if (Drawing* found = Drawing::Find(drawing))
+        found->Undo().SetListener(listener ? *listener : ChangeListener{});
 }

@@ -27,6 +27,28 @@ Box BoxOf(const RECT& rect) {
             static_cast<double>(rect.bottom)};
 }
 
+// As the eye weighs the parts: 0 black, 1 white.
+double LuminanceOf(Color color) {
+    const auto part = [color](int shift) { return std::pow((color >> shift & 0xFF) / 255.0, 2.2); };
+    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
+}
+
+// The first shade of the colour, on its way to white, that stands out from dark paper: pure blue on black can't be read.
+Color LegibleOn(Color paper, Color color) {
+    constexpr double kContrast = 3, kGlare = 0.05;
+    constexpr uint32_t kShades = 16;
+    const double wanted = kContrast * (LuminanceOf(paper) + kGlare) - kGlare;
+    for (uint32_t shade = 0; shade < kShades; ++shade) {
+        Color lighter = 0;
+        for (const int shift : {0, 8, 16}) {
+            const uint32_t part = color >> shift & 0xFF;
+            lighter |= (part + (255 - part) * shade / kShades) << shift;
+        }
+        if (LuminanceOf(lighter) >= wanted) return lighter;
+    }
+    return kWhite;
+}
+
 Color Mixed(Color a, Color b) {
     return ((a & 0xFEFEFE) >> 1) + ((b & 0xFEFEFE) >> 1);
 }
@@ -59,7 +81,7 @@ bool GdiPainter::Wants(const Extents& box, double reach) const {
            box.low.y <= clip_.bottom + reach && box.high.y >= clip_.top - reach;
 }
 
-Color GdiPainter::Seen(Color color) const {
+Color GdiPainter::Seen(Color color) {
     if (settings_.highlight) return *settings_.highlight;
     int difference = 0, brightness = 0;
     for (const int shift : {0, 8, 16}) {
@@ -70,11 +92,14 @@ Color GdiPainter::Seen(Color color) const {
     constexpr int kTooNear = 24;
     const bool bright = brightness > 3 * 127;
     // Black and white are the ink of the paper, whichever it is.
-    if (difference > kTooNear && color != (bright ? kWhite : 0)) return color;
-    return bright ? 0 : kWhite;
+    if (difference <= kTooNear || color == (bright ? kWhite : 0)) return bright ? 0 : kWhite;
+    if (bright) return color;
+    const auto [shade, isNew] = shades_.try_emplace(color, color);
+    if (isNew) shade->second = LegibleOn(settings_.background, color);
+    return shade->second;
 }
 
-GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) const {
+GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) {
     const double wide = std::min(use.width, settings_.widestPen);
     int width = wide < 1.5 ? 1 : static_cast<int>(std::min(std::floor(wide + 0.5), 30000.0));
     if (settings_.highlight) width = std::max(width, kHighlightWidth);

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <unordered_map>
 
 #include "drawcore/src/graphics/trace.h"
 #include "drawcore/src/paint/gdi.h"
@@ -42,8 +43,8 @@ private:
         bool operator==(const PenKey& other) const;
     };
 
-    Color Seen(Color color) const;
-    PenKey KeyOf(const PenUse& use) const;
+    Color Seen(Color color);
+    PenKey KeyOf(const PenUse& use);
     // lastPixel: the thinnest lines, whose last pixel the device leaves out, get it anyway.
     void AddLines(const Path& path, const PenKey& key, bool lastPixel);
     void AddDot(const Point& p, const PenKey& key);
@@ -60,6 +61,7 @@ private:
     const double inch_;
     const Box clip_;
     std::map<PenKey, OwnedPen> pens_;
+    std::unordered_map<Color, Color> shades_; // of colours that were looked at on dark paper
     TextOutput texts_;
 
     // Lines that wait for the device.

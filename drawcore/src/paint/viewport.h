@@ -36,6 +36,7 @@ public:
     int mapMode = MM_TEXT;
     DrawingStruct* drawing = nullptr;
     std::optional<Color> background;
+    bool lineWeights = true;
 
 private:
     Point Middle() const;

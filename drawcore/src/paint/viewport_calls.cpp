@@ -127,12 +127,17 @@ void ViewportSetBackground(ViewportStruct* viewport, uint32_t color) {
     if (viewport) Viewport::From(viewport)->background = color;
 }
 
+void ViewportShowLineWeights(ViewportStruct* viewport, int show) {
+    if (viewport) Viewport::From(viewport)->lineWeights = show != 0;
+}
+
 void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
                     int) {
     if (!graphic || !viewport) return;
     const Viewport& view = *Viewport::From(viewport);
     PaintSettings settings;
     settings.background = BackgroundOf(view, preview != 0);
+    if (!view.lineWeights) settings.widestPen = 1;
     Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), settings, preview != 0);
     graphic->dwFlags &= ~kFlagDirty;
 }

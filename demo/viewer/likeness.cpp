@@ -1,0 +1,112 @@
+// Kinds, widths and layers of graphics, counted and compared.
+
+#include "demo/viewer/likeness.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <tuple>
+
+#include "demo/viewer/property_snapshot.h"
+#include "drawcore/graphic.h"
+#include "orlo/host/drawing.h"
+#include "orlo/host/property.h"
+#include "orlo/host/table.h"
+#include "orlo/host/words.h"
+
+namespace {
+
+constexpr size_t kMostWidths = 3; // that are shown
+
+struct KindName {
+    uint32_t kind;
+    const char* one;
+};
+constexpr KindName kKinds[] = {{kKindText, "text"},
+                               {kKindVertices, "line"},
+                               {kKindCurve, "curve"},
+                               {kKindInsert, "insertion"},
+                               {kKindGroup, "group"}};
+
+uint16_t LayerOf(GraphicStruct* graphic) {
+    return orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
+}
+
+using Likeness = std::tuple<uint32_t, uint16_t, uint32_t>;
+
+Likeness LikenessOf(GraphicStruct* graphic) {
+    const uint32_t color = orlo::host::ReadProperty<uint32_t>(graphic, kPropPenColor).value_or(0);
+    return {::GraphicGetKind(graphic), LayerOf(graphic), color};
+}
+
+template <class Test>
+Graphics Those(const Graphics& graphics, Test test) {
+    Graphics found;
+    std::copy_if(graphics.begin(), graphics.end(), std::back_inserter(found), test);
+    return found;
+}
+
+} // namespace
+
+std::vector<KindCount> CountKinds(const Graphics& graphics) {
+    std::map<uint32_t, int> counts;
+    for (GraphicStruct* graphic : graphics)
+        ++counts[::GraphicGetKind(graphic)];
+    std::vector<KindCount> kinds;
+    for (const KindName& name : kKinds)
+        if (const int count = counts[name.kind]) kinds.push_back({name.kind, count});
+    return kinds;
+}
+
+std::string KindText(const KindCount& kind) {
+    const auto* name = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                    [&](const KindName& row) { return row.kind == kind.kind; });
+    return std::to_string(kind.count) + " " + name->one + (kind.count == 1 ? "" : "s");
+}
+
+std::string KindsText(const Graphics& graphics) {
+    std::string text;
+    const std::vector<KindCount> kinds = CountKinds(graphics);
+    for (const KindCount& kind : kinds)
+        text += (text.empty() ? "" : ", ") + KindText(kind);
+    return kinds.size() > 1 ? std::to_string(graphics.size()) + ": " + text : text;
+}
+
+std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics) {
+    std::vector<ValueCount> widths = CountWidths(drawing, graphics);
+    std::stable_sort(widths.begin(), widths.end(),
+                     [](const ValueCount& a, const ValueCount& b) { return a.count > b.count; });
+    std::string text;
+    for (size_t i = 0; i < std::min(widths.size(), kMostWidths); ++i)
+        text += (i ? ", " : "") + std::to_string(widths[i].count) + " x " + widths[i].value;
+    if (widths.size() > kMostWidths) text += " and " + std::to_string(widths.size() - kMostWidths) + " more";
+    return text;
+}
+
+Graphics OfKind(const Graphics& graphics, uint32_t kind) {
+    return Those(graphics, [&](GraphicStruct* graphic) { return ::GraphicGetKind(graphic) == kind; });
+}
+
+Graphics OnLayer(const Graphics& graphics, uint16_t layer) {
+    return Those(graphics, [&](GraphicStruct* graphic) { return LayerOf(graphic) == layer; });
+}
+
+Graphics LikeThese(const Graphics& graphics, const Graphics& examples) {
+    std::set<Likeness> wanted;
+    for (GraphicStruct* graphic : examples)
+        wanted.insert(LikenessOf(graphic));
+    return Those(graphics, [&](GraphicStruct* graphic) { return wanted.count(LikenessOf(graphic)) > 0; });
+}
+
+std::vector<LayerCount> CountLayers(DrawingStruct* drawing, const Graphics& graphics) {
+    std::map<uint16_t, int> counts;
+    for (GraphicStruct* graphic : graphics)
+        ++counts[LayerOf(graphic)];
+    std::vector<LayerCount> layers;
+    for (const auto& [layer, count] : counts)
+        layers.push_back({layer, EntryName(drawing, kTableLayers, layer), count});
+    std::sort(layers.begin(), layers.end(), [](const LayerCount& a, const LayerCount& b) {
+        return std::tie(a.name, a.layer) < std::tie(b.name, b.layer);
+    });
+    return layers;
+}
