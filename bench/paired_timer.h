@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 // Seconds that work takes.
@@ -21,8 +22,9 @@ inline double Median(std::vector<double> values) {
 }
 
 struct Pair {
-    double ratio;   // of ours to the baseline
-    double seconds; // of ours
+    double ratio;    // of ours to the baseline
+    double seconds;  // of ours
+    double baseline; // its seconds
 };
 
 // Runs both once to warm up, then rounds times in turn.
@@ -30,17 +32,24 @@ template <class Ours, class Baseline>
 Pair Compare(int rounds, Ours&& ours, Baseline&& baseline) {
     ours();
     baseline();
-    std::vector<double> ratios, seconds;
+    std::vector<double> ratios, seconds, baselines;
     for (int i = 0; i < rounds; ++i) {
         const double own = Seconds(ours);
         const double base = Seconds(baseline);
         ratios.push_back(own / base);
         seconds.push_back(own);
+        baselines.push_back(base);
     }
-    return {Median(ratios), Median(seconds)};
+    return {Median(ratios), Median(seconds), Median(baselines)};
 }
 
 inline void Print(const char* name, double value, const char* unit) {
     std::printf("%s %.3g %s\n", name, value, unit);
     std::fflush(stdout);
+}
+
+// What ten times as much costs, of ours and of the baseline: where both grow alike, the machine's caches are the cause.
+inline void PrintGrowth(const std::string& name, const Pair& small, const Pair& large) {
+    Print((name + "_growth").c_str(), large.seconds / small.seconds, "x_for_10n");
+    Print((name + "_baseline_growth").c_str(), large.baseline / small.baseline, "x_for_10n");
 }

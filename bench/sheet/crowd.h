@@ -1,6 +1,7 @@
-// A drawing of its own whose graphics are all selected.
+// A drawing of its own, the application's current one, whose graphics are all selected.
 #pragma once
 
+#include "drawcore/application.h"
 #include "drawcore/drawing.h"
 #include "drawcore/owned_drawing.h"
 #include "drawcore/selection.h"
@@ -8,7 +9,7 @@
 
 class Crowd {
 public:
-    Crowd() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) {}
+    Crowd() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) { ::AppSetCurrentDrawing(Drawing()); }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Selection() const { return m_selection.get(); }
@@ -20,4 +21,13 @@ public:
 private:
     OwnedDrawing m_drawing;
     orlo::host::OwnedGraphic m_selection; // goes before its members
+};
+
+// Graphics of one type.
+class UniformCrowd : public Crowd {
+public:
+    UniformCrowd(int n, int type) {
+        for (int i = 0; i < n; ++i)
+            Add(::GraphicNewEx(type, 0, 1));
+    }
 };

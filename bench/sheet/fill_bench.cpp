@@ -128,9 +128,7 @@ void BenchFill() {
             Print(name.c_str(), fill.pair.ratio, "x_presorted_insertion");
             Print((name + "_draw_requests").c_str(), fill.draws, "when_dropped");
             Print((name + "_measure_requests").c_str(), fill.measures, "in_a_fill");
-            if (n == 10000)
-                Print((std::string(list.name) + "growth").c_str(), fill.pair.seconds / before.seconds,
-                      "x_for_10n");
+            if (n == 10000) PrintGrowth(std::string(list.name) + "1000_to_10000", before, fill.pair);
             before = fill.pair;
         }
     }

@@ -101,5 +101,5 @@ void BenchInsert() {
     Print("merge_insertions_1000000", plane.parts.ratio, "x_bare_host_calls_and_taking_apart");
     Print("merge_insertions_turned_anyhow_1000000", solid.parts.ratio, "x_bare_host_calls_and_taking_apart");
     Print("merge_insertions_calls_1000000", plane.calls.ratio, "x_bare_host_calls");
-    Print("merge_insertions_growth", plane.calls.seconds / small.calls.seconds, "x_for_10n");
+    PrintGrowth("merge_insertions", small.calls, plane.calls);
 }

@@ -17,15 +17,6 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// Graphics of one type.
-class Uniform : public Crowd {
-public:
-    Uniform(int n, int type) {
-        for (int i = 0; i < n; ++i)
-            Add(::GraphicNewEx(type, 0, 1));
-    }
-};
-
 // The host calls of a merge or a write, and nothing else.
 template <class Visit>
 void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
@@ -119,7 +110,7 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
 // In a sheet over n graphics of that type.
 template <class Measuring>
 auto MeasureCrowd(int n, int type, Measuring measure) {
-    const Uniform crowd(n, type);
+    const UniformCrowd crowd(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), kAllGraphics));
@@ -139,17 +130,17 @@ void BenchMerge() {
     const Results small = MeasureCrowd(100000, kGraphicVertices, Measure);
     const Results large = MeasureCrowd(1000000, kGraphicVertices, Measure);
     Print("merge_number_1000000", large.number.ratio, "x_bare_host_calls");
-    Print("merge_number_growth", large.number.seconds / small.number.seconds, "x_for_10n");
+    PrintGrowth("merge_number", small.number, large.number);
     Print("merge_text_1000000", large.text.ratio, "x_bare_host_calls");
-    Print("merge_text_growth", large.text.seconds / small.text.seconds, "x_for_10n");
+    PrintGrowth("merge_text", small.text, large.text);
     Print("merge_mixed_at_second_1000000", large.mixed / large.number.seconds, "x_merge_of_equal_values");
     Print("write_number_1000000", large.writeNumber.ratio, "x_bare_host_calls");
-    Print("write_number_growth", large.writeNumber.seconds / small.writeNumber.seconds, "x_for_10n");
+    PrintGrowth("write_number", small.writeNumber, large.writeNumber);
     Print("write_text_1000000", large.writeText.ratio, "x_bare_host_calls");
-    Print("write_text_growth", large.writeText.seconds / small.writeText.seconds, "x_for_10n");
+    PrintGrowth("write_text", small.writeText, large.writeText);
 
     const Pair fewTexts = MeasureCrowd(100000, kGraphicText, MeasureBits);
     const Pair texts = MeasureCrowd(1000000, kGraphicText, MeasureBits);
     Print("merge_text_style_1000000", texts.ratio, "x_bare_host_calls");
-    Print("merge_text_style_growth", texts.seconds / fewTexts.seconds, "x_for_10n");
+    PrintGrowth("merge_text_style", fewTexts, texts);
 }

@@ -3,7 +3,6 @@
 
 #include <initializer_list>
 
-#include "drawcore/application.h"
 #include "orlo/host/host.h"
 
 namespace {
@@ -18,7 +17,6 @@ void AddSegment(GraphicStruct* outline, VertexStruct* vertex, double length) {
 } // namespace
 
 MixedCrowd::MixedCrowd(int n) {
-    ::AppSetCurrentDrawing(Drawing());
     const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
     TableStruct* blocks = ::BlocksFromDrawing(Drawing());
     GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);

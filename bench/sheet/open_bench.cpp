@@ -6,9 +6,9 @@
 #include <string>
 
 #include "bench/paired_timer.h"
+#include "bench/sheet/crowd.h"
 #include "bench/sheet/open_sheet.h"
 #include "orlo/entry/entry.h"
-#include "support/graphic_kit.h"
 #include "support/host_frame.h"
 
 namespace {
@@ -17,18 +17,12 @@ constexpr int kRounds = 15;
 constexpr int kPages = 3; // General, Pen, Brush
 
 Pair OpenOver(int n) {
-    GraphicKit kit;
-    HostFrame frame(kit.Drawing());
-    for (int i = 0; i < n; ++i)
-        kit.Add({{kPropPenWidth, 0.1},
-                 {kPropPenColor, 255},
-                 {kPropPenScale, 1.0},
-                 {kPropPenStyle, 1},
-                 {kPropScaleSystem, 2}});
+    const UniformCrowd crowd(n, kGraphicVertices);
+    HostFrame frame(crowd.Drawing());
     LoopWatch watch;
     ::PropPageInit();
     const auto ours = [&] {
-        const auto sheet = NewSheet(&frame, kit.Drawing(), kit.Selection());
+        const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
         RunSheet(watch, *sheet, [&](HWND window) {
             PaintSheet(window);
             sheet->SetActivePage(1);

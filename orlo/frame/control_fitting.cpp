@@ -36,22 +36,21 @@ int LabelWidth(HWND child) {
     return size.cx;
 }
 
-// The width that a control should have. Boxes grow with the resolution of the screen, which the room that the template has
-// for them and their labels may not.
-int WantedWidth(HWND child, int width) {
-    const int box = ScreenPixels(kBoxWidth);
+// The width that a control should have. Boxes, that wide, grow with the resolution of the screen, which the room that the
+// template has for them and their labels may not.
+int WantedWidth(HWND child, int width, int box) {
     if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
     return std::max(width, box + kLabelRoom + LabelWidth(child));
 }
 
 // Boxes of the templates reach beyond the page, which would cut their right edges off.
-void FitWidth(HWND child, HWND page) {
+void FitWidth(HWND child, HWND page, int box) {
     RECT client, rect;
     ::GetClientRect(page, &client);
     ::GetWindowRect(child, &rect);
     ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
     const int width = rect.right - rect.left;
-    const int fitting = std::min<int>(WantedWidth(child, width), client.right - rect.left);
+    const int fitting = std::min<int>(WantedWidth(child, width, box), client.right - rect.left);
     if (fitting == width || fitting <= 0) return;
     ::SetWindowPos(child, nullptr, 0, 0, fitting, rect.bottom - rect.top,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
@@ -60,9 +59,10 @@ void FitWidth(HWND child, HWND page) {
 } // namespace
 
 void FitControls(HWND page) {
-    ForEachChild(page, [page](HWND child) {
+    const int box = ScreenPixels(kBoxWidth);
+    ForEachChild(page, [page, box](HWND child) {
         if (::GetParent(child) != page) return; // a part of a control
         PassOverLabel(child);
-        FitWidth(child, page);
+        FitWidth(child, page, box);
     });
 }

@@ -27,8 +27,9 @@ const char* COrloPropertyPage::GetTemplateName() const {
     return m_lpszTemplateName;
 }
 
+// A page that comes up or waits behind another has closed its lists when it was hidden.
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
-    SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
+    if (GetStyle() & WS_VISIBLE) SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
     Default();
 }
 

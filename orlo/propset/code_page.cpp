@@ -56,6 +56,7 @@ std::optional<std::string> CheckedFromWide(std::wstring_view wide, UINT codePage
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
+    if (IsPlainText(text, codePage)) return std::string(text);
     if (codePage != kCodePageUtf16) {
         const std::optional<std::wstring> wide = CheckedToWide(text, codePage);
         return wide ? CheckedFromWide(*wide, CP_UTF8) : std::nullopt;
@@ -66,6 +67,7 @@ std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePa
 }
 
 std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage) {
+    if (IsPlainText(utf8, codePage)) return std::string(utf8);
     const std::optional<std::wstring> wide = CheckedToWide(utf8, CP_UTF8);
     if (!wide) return std::nullopt;
     if (codePage != kCodePageUtf16) return CheckedFromWide(*wide, codePage);

@@ -2,6 +2,7 @@
 // at a text.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -20,6 +21,14 @@ constexpr uint16_t kUsualCodePage = 1252; // of a section that names none
 // The text as UTF-8; nothing if the code page is unknown here or the bytes are not text in it. 1200 takes the
 // bytes as 16-bit characters; 0 stands for the system's own code page (1252 where there is none).
 ORLO_API std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage);
+
+// True for a text whose bytes are the same in that code page and in UTF-8, known without a conversion.
+inline bool IsPlainText(std::string_view text, uint16_t codePage) {
+    const bool isOfWindows = codePage == kCodePageUtf8 || codePage == 874 || codePage == 932 ||
+                             codePage == 936 || codePage == 949 || codePage == 950 ||
+                             (codePage >= 1250 && codePage <= 1258);
+    return isOfWindows && std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
 
 // The text in that code page; nothing if it can't represent every character.
 ORLO_API std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage);

@@ -23,6 +23,8 @@ std::ostream& operator<<(std::ostream& out, Hex hex) {
                << std::dec;
 }
 
+constexpr size_t kUsualEntries = 32; // room for them is made at once
+
 size_t Aligned(size_t size) {
     return size + PaddingOf(size);
 }
@@ -66,6 +68,7 @@ size_t SectionReader::Read() {
     LookAtTable();
     ReadValues();
     LookAtGaps();
+    section_.properties.reserve(entries_.size());
     for (Entry& entry : entries_)
         if (entry.isProperty) section_.properties.push_back(std::move(entry.property));
     return reached_;
@@ -80,6 +83,7 @@ void SectionReader::ReadTable() {
                     uint64_t{section_.count} * kPropertyLineSize, " bytes, ", left_ - kSectionHeadSize,
                     " are left; read up to the first value");
     size_t firstValue = left_;
+    entries_.reserve(std::min({fitting, size_t{section_.count}, kUsualEntries}));
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
         const size_t at = kSectionHeadSize + i * kPropertyLineSize;
         if (isShort && at + kPropertyLineSize > firstValue) break; // no table reaches into its values
@@ -101,6 +105,7 @@ void SectionReader::ReadTable() {
 void SectionReader::LookAtTable() {
     size_t unaligned = 0;
     bool isAscending = true;
+    sorted_.reserve(entries_.size());
     for (Entry& entry : entries_) {
         if (!sorted_.empty() && entry.offset < sorted_.back()->offset) isAscending = false;
         sorted_.push_back(&entry);
@@ -110,14 +115,16 @@ void SectionReader::LookAtTable() {
     if (unaligned > 0)
         report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kSectionHeadSize, place_,
                     ": ", unaligned, " values stand at offsets that are no multiples of 4");
-    if (!isAscending)
-        report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kSectionHeadSize,
-                    place_, ": the values are not in the order of the table");
+    if (isAscending) return;
+    report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kSectionHeadSize, place_,
+                ": the values are not in the order of the table");
     std::stable_sort(sorted_.begin(), sorted_.end(),
                      [](const Entry* a, const Entry* b) { return a->offset < b->offset; });
 }
 
 void SectionReader::LookForRepeatedIds() {
+    const auto isNotAscending = [](const Entry* a, const Entry* b) { return a->id >= b->id; };
+    if (std::adjacent_find(sorted_.begin(), sorted_.end(), isNotAscending) == sorted_.end()) return;
     std::vector<const Entry*> byId(sorted_.begin(), sorted_.end()); // in the order of the table still
     const auto less = [](const Entry* a, const Entry* b) { return a->id < b->id; };
     std::stable_sort(byId.begin(), byId.end(), less);
@@ -251,8 +258,8 @@ void SectionReader::ReadDictionary(Entry& entry) {
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);
     const bool isLastInSection =
         asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
-    if (!IsWholeDictionary(bytes, size, codePage) && asValue &&
-        (isLastInSection || entry.room - asValue->size < 4)) {
+    if (asValue && (isLastInSection || entry.room - asValue->size < 4) &&
+        !IsWholeDictionary(bytes, size, codePage)) {
         report_.Add(FindingCode::dictionaryTyped, Severity::irregular, at, place_,
                     ": property 0 is no dictionary but a value of type ", TypeName(type));
         return ReadValue(entry);

@@ -2,7 +2,6 @@
 
 #include "orlo/propset/inspect/value_findings.h"
 
-#include <algorithm>
 #include <cstdio>
 
 #include "orlo/propset/code_page.h"
@@ -26,14 +25,6 @@ struct Look {
     }
 };
 
-// True for what needs no conversion to be known as a text.
-bool IsPlain(std::string_view text, uint16_t codePage) {
-    const bool isOfWindows = codePage == kCodePageUtf8 || codePage == 874 || codePage == 932 ||
-                             codePage == 936 || codePage == 949 || codePage == 950 ||
-                             (codePage >= 1250 && codePage <= 1258);
-    return isOfWindows && std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-}
-
 // Where the text ends: at its first NUL, or with its bytes.
 size_t TextEnd(std::string_view text, bool isWide) {
     const size_t unit = isWide ? 2 : 1;
@@ -52,7 +43,7 @@ void LookAtText(std::string_view bytes, const Look& look) {
         look.Add(FindingCode::bytesAfterNul, Severity::note,
                  "bytes stand behind the text's NUL; readers leave them out");
     const std::string_view text = bytes.substr(0, end);
-    if (!IsPlain(text, look.codePage) && !CodePageToUtf8(text, look.codePage))
+    if (!IsPlainText(text, look.codePage) && !CodePageToUtf8(text, look.codePage))
         look.Add(FindingCode::textUndecodable, Severity::irregular, "the text is none of code page ",
                  look.codePage);
 }
