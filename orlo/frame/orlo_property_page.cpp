@@ -27,9 +27,8 @@ const char* COrloPropertyPage::GetTemplateName() const {
     return m_lpszTemplateName;
 }
 
-// A page that comes up or waits behind another has closed its lists when it was hidden.
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
-    if (GetStyle() & WS_VISIBLE) SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
+    SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
     Default();
 }
 
