@@ -73,7 +73,7 @@ struct TableStruct;
 // What a control of the sheet is filled with. The library fills the record in, and the host's callback may change it.
 typedef struct OrloFill {
     uint32_t size;
-    uint32_t kind;             // of the control: 0x7D00 font faces, ...; docs/host-guide.md has the list
+    uint32_t kind;             // of the control: docs/host-guide.md has the list
     const char* tableName;     // which table that kind shows: "_Layers_", ...
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
     uint32_t selected;         // entry or colour; only the style names use it, a page chooses for the others
