@@ -315,6 +315,24 @@ TEST_F(Paint, SurvivesWhatIsFarAway) {
     }
 }
 
+// A unit of the letter's font is more than a pixel here.
+TEST_F(Paint, ALargeLetterIsMovedByTheSamePixelsAsItsPlace) {
+    const auto leftEdge = [&](double x) {
+        GraphicStruct* text = drawing.Add(MakeText("l", {x, -300}, 900));
+        Draw();
+        GraphicDelete(drawing.Root(), text);
+        GraphicDispose(&text);
+        int pixel = 0;
+        while (pixel < 100 && picture.Covered(pixel, 50, pixel, 50) == 0)
+            ++pixel;
+        return pixel;
+    };
+    for (double x = -59.95; x < -59; x += 0.1)
+        for (const int by : {3, 7, 12})
+            EXPECT_EQ(leftEdge(x + by), leftEdge(x) + by) << "from " << x;
+    EXPECT_LT(leftEdge(-60), 60) << "it is in the picture";
+}
+
 TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
     SetWhole(Line(0, 0, 100, 100), kPropPenStyle,
              LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));

@@ -8,7 +8,7 @@ namespace drawcore {
 
 namespace {
 
-// The directions of a row in units of its font; its position is given with each row.
+// The directions of a row in units of its font: rows of one direction and size share the transform.
 XFORM Directions(const TextRow& row) {
     const double unit = 1.0 / row.face->CapitalHeight(); // the font's y goes down, the row's up
     const auto& m = row.matrix.at;
@@ -20,15 +20,24 @@ XFORM Directions(const TextRow& row) {
             0};
 }
 
-// The row's position in units of its font; false if the row is seen from its edge, or too far away for the device.
-bool Position(const TextRow& row, const XFORM& form, POINT& position) {
-    const double x = row.matrix.at[3][0], y = row.matrix.at[3][1];
+// Where the row begins: a position in units of its font, rounded to the pixel that it is in, so that a picture that is moved by
+// whole pixels does not differ from one that is drawn there. Where such a unit is larger than a pixel the transform takes the
+// position instead. False if the row is seen from its edge, or too far away for the device.
+bool Place(const TextRow& row, XFORM& form, POINT& position) {
+    const double x = std::floor(row.matrix.at[3][0] + 0.5), y = std::floor(row.matrix.at[3][1] + 0.5);
     const double turn =
         static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
     const double px = (x * form.eM22 - y * form.eM21) / turn, py = (y * form.eM11 - x * form.eM12) / turn;
     constexpr double kFarthest = 1 << 26; // what the device counts to
     if (!(std::fabs(px) < kFarthest && std::fabs(py) < kFarthest)) return false;
     position = {static_cast<LONG>(std::lround(px)), static_cast<LONG>(std::lround(py))};
+    const auto side = [](FLOAT a, FLOAT b) { return std::fabs(a) + std::fabs(b); };
+    constexpr FLOAT kMostPixels = 0.9f; // a unit rounded away is less than half a pixel then
+    if (side(form.eM11, form.eM21) > kMostPixels || side(form.eM12, form.eM22) > kMostPixels) {
+        position = {};
+        form.eDx = static_cast<FLOAT>(x);
+        form.eDy = static_cast<FLOAT>(y);
+    }
     return true;
 }
 
@@ -43,9 +52,9 @@ void TextOutput::Begin() {
 }
 
 void TextOutput::Draw(const TextRow& row, Color color) {
-    const XFORM form = Directions(row);
+    XFORM form = Directions(row);
     POINT at;
-    if (!Position(row, form, at)) return;
+    if (!Place(row, form, at)) return;
     if (!open_) Begin();
     if (std::memcmp(&form, &form_, sizeof form) != 0) {
         XFORM whole;
