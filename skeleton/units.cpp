@@ -16,7 +16,8 @@ struct Unit {
     const char* name;
     double millimetres;
 };
-constexpr Unit kUnits[] = {{"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", 25.4}, {"pt", 25.4 / 72}};
+constexpr Unit kUnits[] = {
+    {"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", kMillimetresPerInch}, {"pt", kMillimetresPerInch / 72}};
 
 const Unit* UnitNamed(const std::string& name) {
     for (const Unit& unit : kUnits)

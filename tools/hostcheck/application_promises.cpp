@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "orlo/win/gdi.h"
 #include "promise.h"
 
 namespace {
@@ -35,10 +36,9 @@ void NamesItsFileInTheBuffer(const Subject& s) {
 }
 
 void TellsPaletteDevices(const Subject& s) {
-    const HDC screen = ::CreateCompatibleDC(nullptr);
-    const int expected = (::GetDeviceCaps(screen, RASTERCAPS) & RC_PALETTE) != 0;
-    const int found = CALL(s.host, IsPaletteSupported)(screen) != 0;
-    ::DeleteDC(screen);
+    const OwnedDC screen(::CreateCompatibleDC(nullptr));
+    const int expected = (::GetDeviceCaps(screen.get(), RASTERCAPS) & RC_PALETTE) != 0;
+    const int found = CALL(s.host, IsPaletteSupported)(screen.get()) != 0;
     Expect(found == expected, "gave %d where GetDeviceCaps says %d", found, expected);
 }
 

@@ -1,3 +1,5 @@
+// Loads the database and looks its functions up.
+
 #include "host.h"
 
 #include <stdexcept>

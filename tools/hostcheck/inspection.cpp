@@ -1,3 +1,5 @@
+// Checks promise after promise in a process of its own.
+
 #include "inspection.h"
 
 #include <stdexcept>

@@ -1,3 +1,5 @@
+// What a check says when a promise is broken.
+
 #include "promise.h"
 
 #include <cstdarg>

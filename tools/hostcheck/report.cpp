@@ -1,3 +1,5 @@
+// Starts the processes that check, listens to them, and prints a line for each promise.
+
 #include "report.h"
 
 #include <cstdio>
