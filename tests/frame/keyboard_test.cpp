@@ -60,6 +60,25 @@ TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
     }
 }
 
+// A page may refuse without naming a field (Fail moves the focus to one): the user then stays where he was.
+TEST_F(Keyboard, StaysInTheFieldWhenAPageRefusesOfItself) {
+    bool refuses = true;
+    sheet.Add([&](CDataExchange* pDX) {
+        if (pDX->m_bSaveAndValidate && refuses) AfxThrowUserException();
+    });
+    sheet.Run([&](SheetDriver& user) {
+        user.SelectPage(3);
+        user.Focus(kOtherEdit);
+        const HWND field = ::GetFocus();
+        sheet.Sheet().SetActivePage(1);
+        EXPECT_EQ(user.ActivePage(), 3);
+        EXPECT_EQ(::GetFocus(), field);
+        refuses = false;
+        sheet.Sheet().SetActivePage(1);
+        EXPECT_EQ(user.ActivePage(), 1);
+    });
+}
+
 UINT TypeOf(HWND button) {
     return static_cast<UINT>(::GetWindowLongPtrA(button, GWL_STYLE)) & BS_TYPEMASK;
 }
