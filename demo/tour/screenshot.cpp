@@ -24,7 +24,7 @@ void SaveScreenshot(const RECT& area, const std::string& path) {
     MemoryPicture picture;
     if (rect.IsRectEmpty() || !picture.Resize(rect.Size()))
         throw std::runtime_error("no picture of that size");
-    const WindowDC screen(nullptr);
+    const orlo::WindowDC screen(nullptr);
     if (!::BitBlt(picture.Dc(), 0, 0, rect.Width(), rect.Height(), screen.get(), rect.left, rect.top,
                   SRCCOPY))
         throw std::runtime_error("the screen cannot be read");

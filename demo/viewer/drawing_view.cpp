@@ -302,7 +302,7 @@ void CDrawingView::RenewPicture() {
     for (const CRect& area : m_spoiled) {
         m_picture.Fill(area, m_paper);
         if (m_document) {
-            const SavedDC saved(m_picture.Dc());
+            const orlo::SavedDC saved(m_picture.Dc());
             ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);
             DrawGraphic(m_picture.Dc(), m_document->Root());
         }

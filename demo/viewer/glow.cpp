@@ -29,7 +29,7 @@ void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>&
     around.IntersectRect(around, scene.Bounds());
     m_mask.Fill(around, kGround);
     {
-        const SavedDC saved(m_mask.Dc());
+        const orlo::SavedDC saved(m_mask.Dc());
         ::IntersectClipRect(m_mask.Dc(), around.left, around.top, around.right, around.bottom);
         draw(m_mask.Dc());
     }

@@ -55,7 +55,7 @@ int DpiOf(HWND window) {
     using Function = UINT(WINAPI*)(HWND);
     const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
     if (found) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
-    const WindowDC screen(nullptr);
+    const orlo::WindowDC screen(nullptr);
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
 

@@ -29,7 +29,7 @@ private:
     void Free();
 
     CSize m_size;
-    OwnedBitmap m_bitmap; // selected as long as the device context is there
-    OwnedDC m_dc;
+    orlo::OwnedBitmap m_bitmap; // selected as long as the device context is there
+    orlo::OwnedDC m_dc;
     uint32_t* m_pixels = nullptr;
 };

@@ -22,8 +22,8 @@ void RubberBand::Draw(HDC dc) const {
         const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 48, 0};
         ::AlphaBlend(dc, frame.left, frame.top, frame.Width(), frame.Height(), tint.Dc(), 0, 0, 1, 1, blend);
     }
-    const OwnedPen pen(::CreatePen(IsCrossing() ? PS_DASH : PS_SOLID, 1, color));
-    const SavedDC saved(dc);
+    const orlo::OwnedPen pen(::CreatePen(IsCrossing() ? PS_DASH : PS_SOLID, 1, color));
+    const orlo::SavedDC saved(dc);
     ::SelectObject(dc, pen.get());
     ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
     ::SetBkMode(dc, TRANSPARENT);

@@ -56,8 +56,8 @@ int CStatusLine::Scaled(int at96) const {
 
 int CStatusLine::WidthFor(const std::string& text) const {
     if (text.empty()) return 0;
-    const WindowDC dc(m_hWnd);
-    const SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    const orlo::WindowDC dc(m_hWnd);
+    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
     SIZE size = {};
     ::GetTextExtentPoint32A(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
     return size.cx + Scaled(kPaneMargin);
@@ -66,13 +66,13 @@ int CStatusLine::WidthFor(const std::string& text) const {
 void CStatusLine::SetDpi(int dpi) {
     NONCLIENTMETRICSA metrics = {};
     metrics.cbSize = sizeof metrics;
-    const WindowDC screen(nullptr);
+    const orlo::WindowDC screen(nullptr);
     if (!::SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) || !screen.get())
         return;
     m_dpi = dpi;
     LOGFONTA& font = metrics.lfStatusFont; // for the system's resolution
     font.lfHeight = ::MulDiv(font.lfHeight, dpi, ::GetDeviceCaps(screen.get(), LOGPIXELSY));
-    OwnedFont sized(::CreateFontIndirectA(&font));
+    orlo::OwnedFont sized(::CreateFontIndirectA(&font));
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(sized.get()), TRUE);
     m_font = std::move(sized);
 }

@@ -38,7 +38,7 @@ private:
     int WidthFor(const std::string& text) const;
 
     CProgressCtrl m_progress;
-    OwnedFont m_font; // null: the system's
+    orlo::OwnedFont m_font; // null: the system's
     int m_dpi = 96;
     std::string m_texts[kPanes];
     int m_permille = -1;

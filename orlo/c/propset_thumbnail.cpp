@@ -70,20 +70,20 @@ SIZE Sized(const Bytes& value, uint32_t& width, uint32_t& height) {
 }
 
 struct Picture {
-    OwnedBitmap bitmap;
+    orlo::OwnedBitmap bitmap;
     uint32_t* pixels; // the bitmap's, from the top; blue in the lowest byte
 };
 
 Picture Drawn(const Bytes& value, SIZE size) {
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    const OwnedDC dc(::CreateCompatibleDC(nullptr));
+    const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     void* bits = nullptr;
-    Picture picture{OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
+    Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
                     nullptr};
     if (!picture.bitmap) Refuse(kOrloNoMemory, "the system can't make a bitmap of that size");
     picture.pixels = static_cast<uint32_t*>(bits);
-    const SelectedObject selected(dc.get(), picture.bitmap.get());
+    const orlo::SelectedObject selected(dc.get(), picture.bitmap.get());
     ::PatBlt(dc.get(), 0, 0, size.cx, size.cy, WHITENESS);
     ::SetStretchBltMode(dc.get(), HALFTONE);
     const RECT all = {0, 0, size.cx, size.cy};

@@ -17,14 +17,14 @@ constexpr int kLeastHeight = 14; // of a row at 96 dpi, so that the box grows wi
 constexpr int kTextGap = 3;
 
 // One picture for all lists of the process.
-OwnedBitmap& CheckPicture() {
-    static OwnedBitmap picture;
+orlo::OwnedBitmap& CheckPicture() {
+    static orlo::OwnedBitmap picture;
     return picture;
 }
 
 void LoadCheckPicture() {
     constexpr char kName[] = "W95CHECK";
-    OwnedBitmap& picture = CheckPicture();
+    orlo::OwnedBitmap& picture = CheckPicture();
     if (!picture) picture.reset(::LoadBitmapA(LibraryModule(), kName));
 }
 
@@ -33,9 +33,9 @@ int BoxMargin() {
 }
 
 void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
-    const OwnedDC source(::CreateCompatibleDC(dc));
+    const orlo::OwnedDC source(::CreateCompatibleDC(dc));
     if (!source) return;
-    const SelectedObject selected(source.get(), picture);
+    const orlo::SelectedObject selected(source.get(), picture);
     ::StretchBlt(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, source.get(), 0, 0,
                  kPictureSize, kPictureSize, SRCCOPY);
 }
@@ -124,7 +124,7 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
     FillSolid(pDIS->hDC, text, colors.background);
     DrawClippedText(pDIS->hDC, text.left + kTextGap, row.top + offset, text, name, colors.text);
     {
-        const SavedDC clipped(pDIS->hDC);
+        const orlo::SavedDC clipped(pDIS->hDC);
         ::IntersectClipRect(pDIS->hDC, row.left, row.top, row.right, row.bottom);
         DrawCheck(dc, box.left, box.top, box.Width(), box.Height(), colors.text, IsItemChecked(index));
     }

@@ -15,11 +15,11 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr DWORD kMarkerBits = 0xFF000000;
 constexpr DWORD kPaletteRelative = 0x02000000;
 
-OwnedFont BoldVersion(HFONT font) {
+orlo::OwnedFont BoldVersion(HFONT font) {
     LOGFONTA description = {};
     if (!font || !::GetObjectA(font, sizeof description, &description)) return nullptr;
     description.lfWeight = FW_BOLD;
-    return OwnedFont(::CreateFontIndirectA(&description));
+    return orlo::OwnedFont(::CreateFontIndirectA(&description));
 }
 
 COLORREF ReadableOn(DWORD color) {
@@ -35,15 +35,15 @@ void FillWithColor(HDC dc, const RECT& rect, DWORD color) {
         color |= kPaletteRelative;
     }
     const RealizedPalette realized(dc, palette);
-    const OwnedBrush brush(::CreateSolidBrush(color));
+    const orlo::OwnedBrush brush(::CreateSolidBrush(color));
     ::FillRect(dc, &rect, brush.get());
 }
 
 // Bold, in the middle; a name that is too wide begins at the left if that is wanted.
 void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF color, bool keepStart) {
-    const OwnedFont bold = BoldVersion(place.font);
-    const SelectedObject selected(place.dc, bold.get());
-    const TextColor colors(place.dc, color);
+    const orlo::OwnedFont bold = BoldVersion(place.font);
+    const orlo::SelectedObject selected(place.dc, bold.get());
+    const orlo::TextColor colors(place.dc, color);
     SIZE size = {};
     ::GetTextExtentPoint32A(place.dc, name, static_cast<int>(std::strlen(name)), &size);
     const bool centred = !keepStart || rect.right - rect.left > size.cx;

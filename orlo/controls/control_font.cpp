@@ -9,16 +9,16 @@
 
 namespace {
 
-OwnedFont CreateSharedFont() {
+orlo::OwnedFont CreateSharedFont() {
     LOGFONTA font = {};
     font.lfHeight = -ScreenPixels(12);
     font.lfWeight = FW_NORMAL;
     font.lfCharSet = DEFAULT_CHARSET;
     std::strcpy(font.lfFaceName, "MS Sans Serif");
-    return OwnedFont(::CreateFontIndirectA(&font));
+    return orlo::OwnedFont(::CreateFontIndirectA(&font));
 }
 
-OwnedFont g_font;
+orlo::OwnedFont g_font;
 
 } // namespace
 

@@ -80,7 +80,7 @@ void AddStyles(const ControlItems& items) {
 } // namespace
 
 int FillFontDropDown(HWND hWnd, LPARAM lParam) {
-    const WindowDC screen(nullptr);
+    const orlo::WindowDC screen(nullptr);
     const HDC dc = screen.get();
     if (!dc) return 0;
     const Filling filling(hWnd);

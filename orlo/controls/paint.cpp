@@ -11,14 +11,14 @@ void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
 }
 
 void FrameRectangle(HDC dc, const RECT& rect, COLORREF color, int width) {
-    const OwnedPen pen(::CreatePen(PS_SOLID, width, color));
-    const SelectedObject selectedPen(dc, pen.get());
-    const SelectedObject hollow(dc, ::GetStockObject(NULL_BRUSH));
+    const orlo::OwnedPen pen(::CreatePen(PS_SOLID, width, color));
+    const orlo::SelectedObject selectedPen(dc, pen.get());
+    const orlo::SelectedObject hollow(dc, ::GetStockObject(NULL_BRUSH));
     ::Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
 }
 
 void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, COLORREF color) {
-    const TextColor colors(dc, color);
+    const orlo::TextColor colors(dc, color);
     ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &clip, text, static_cast<UINT>(std::strlen(text)), nullptr);
 }
 

@@ -10,9 +10,9 @@ constexpr int kHeightWithoutDC = 16;
 
 // In that font; null: in the font that the device context has by default.
 int HeightInFont(HWND window, HFONT font) {
-    const WindowDC dc(window);
+    const orlo::WindowDC dc(window);
     if (!dc.get()) return kHeightWithoutDC;
-    const SelectedObject selected(dc.get(), font);
+    const orlo::SelectedObject selected(dc.get(), font);
     return TextHeight(dc.get());
 }
 

@@ -108,7 +108,7 @@ CSize BaseUnits(const DialogFont& font) {
         const LONG units = ::GetDialogBaseUnits();
         return CSize(LOWORD(units), HIWORD(units));
     }
-    const SelectedObject selected(screen.m_hDC, made.m_hObject);
+    const orlo::SelectedObject selected(screen.m_hDC, made.m_hObject);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.m_hDC, &metrics);
     int width = metrics.tmAveCharWidth;

@@ -97,8 +97,8 @@ void CGraphicPropertySheet::RecalcLayout() {
 namespace {
 
 void DrawCorner(HDC dc, int systemColor, const POINT (&points)[3]) {
-    const OwnedPen pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor)));
-    const SelectedObject selected(dc, pen.get());
+    const orlo::OwnedPen pen(::CreatePen(PS_SOLID, 1, ::GetSysColor(systemColor)));
+    const orlo::SelectedObject selected(dc, pen.get());
     ::MoveToEx(dc, points[0].x, points[0].y, nullptr);
     ::LineTo(dc, points[1].x, points[1].y);
     ::LineTo(dc, points[2].x, points[2].y);

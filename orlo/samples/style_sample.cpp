@@ -10,7 +10,7 @@ void DisposeSampleGraphic::operator()(GraphicStruct* graphic) const {
 }
 
 void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell) {
-    const SavedDC saved(dc);
+    const orlo::SavedDC saved(dc);
     ViewportSetRect(viewport, &cell);
     ViewportSetExtents(viewport, GraphicGetExtentsSel(graphic, 0), 3);
     ViewportSetGDIStuff(viewport, nullptr, dc, ::GetMapMode(dc), 1);

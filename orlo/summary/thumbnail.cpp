@@ -96,7 +96,7 @@ int DrawPicture(const Readable& memory, HDC dc, const RECT* rect, bool keepAspec
     const OwnedMetaFile metafile = MakeMetaFile(*picture);
     if (!metafile) return 0;
     const Place to = Fitted(*rect, picture->xExtent, picture->yExtent, keepAspect);
-    const SavedDC saved(dc);
+    const orlo::SavedDC saved(dc);
     LimitPaintingTo(dc, *rect);
     ::SetMapMode(dc, MM_ANISOTROPIC);
     ::SetWindowOrgEx(dc, 0, 0, nullptr);
@@ -138,16 +138,16 @@ int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const RECT* pRect)
 
 HBITMAP CreateBitmapFromMetaFilePict(const void* pPict, const SIZE* pSize) {
     if (!pPict || !pSize) return nullptr;
-    OwnedDC memory;
-    OwnedBitmap bitmap;
+    orlo::OwnedDC memory;
+    orlo::OwnedBitmap bitmap;
     {
-        const WindowDC screen(nullptr);
+        const orlo::WindowDC screen(nullptr);
         memory.reset(::CreateCompatibleDC(screen.get()));
         bitmap.reset(::CreateCompatibleBitmap(screen.get(), pSize->cx, pSize->cy));
     }
     if (!memory || !bitmap) return nullptr;
     {
-        const SelectedObject selected(memory.get(), bitmap.get());
+        const orlo::SelectedObject selected(memory.get(), bitmap.get());
         if (!selected) return nullptr;
         const RECT whole = {0, 0, pSize->cx, pSize->cy};
         ::PatBlt(memory.get(), 0, 0, pSize->cx, pSize->cy, WHITENESS);

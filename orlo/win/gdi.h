@@ -1,8 +1,8 @@
 // Owners of what drawing takes from the system, and guards that put back what was set before. Every room with windows uses
 // these: nothing is released by hand.
 //
-//   const OwnedPen pen(::CreatePen(PS_SOLID, 1, color));
-//   const SelectedObject selected(dc, pen.get());   // what was selected before comes back at the end of the block
+//   const orlo::OwnedPen pen(::CreatePen(PS_SOLID, 1, color));
+//   const orlo::SelectedObject selected(dc, pen.get());   // what was selected before comes back at the end of the block
 //
 // A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the default.
 #pragma once
@@ -10,6 +10,8 @@
 #include <memory>
 #include <type_traits>
 #include <windows.h>
+
+namespace orlo {
 
 struct DeleteGdiObject {
     void operator()(HGDIOBJ object) const { ::DeleteObject(object); }
@@ -96,3 +98,5 @@ private:
     HDC dc_;
     int level_;
 };
+
+} // namespace orlo

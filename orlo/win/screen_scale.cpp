@@ -5,6 +5,6 @@
 #include "orlo/win/gdi.h"
 
 int ScreenPixels(int at96) {
-    const WindowDC screen(nullptr);
+    const orlo::WindowDC screen(nullptr);
     return screen.get() ? ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96) : at96;
 }

@@ -75,7 +75,7 @@ std::vector<uint32_t> Viewer::Seen() {
     ::GetClientRect(view(), client);
     MemoryPicture picture;
     EXPECT_TRUE(picture.Resize(client.Size()));
-    picture.CopyFrom(WindowDC(view()).get(), client);
+    picture.CopyFrom(orlo::WindowDC(view()).get(), client);
     std::vector<uint32_t> pixels;
     for (int y = 0; y < client.Height(); ++y)
         for (int x = 0; x < client.Width(); ++x)

@@ -96,7 +96,7 @@ TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     char current[64] = "";
     EXPECT_TRUE(TableGetStringVar(drawing.Table(kTableUnits), kUnitFontName, current, sizeof current));
     EXPECT_EQ(GetText(text, kPropTextFont), current);
-    EXPECT_EQ(::EnumFontFamiliesA(WindowDC(nullptr).get(), current, Found, 0), 77) << current;
+    EXPECT_EQ(::EnumFontFamiliesA(orlo::WindowDC(nullptr).get(), current, Found, 0), 77) << current;
     EXPECT_TRUE(SetText(text, kPropTextFont, "Nobody's Face"));
     EXPECT_EQ(GetText(text, kPropTextFont), "Nobody's Face") << "what it was told, whoever draws it";
 }

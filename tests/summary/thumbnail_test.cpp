@@ -317,13 +317,13 @@ TEST_F(Thumbnail, BitmapFromAPicture) {
         COLORREF middle;
     } rows[] = {{BluePicture(40, 20), kBlue}, {BluePicture(0, 20), RGB(255, 255, 255)}};
     for (const auto& row : rows) {
-        const OwnedBitmap bitmap(CreateBitmapFromMetaFilePict(row.picture.data(), &size));
+        const orlo::OwnedBitmap bitmap(CreateBitmapFromMetaFilePict(row.picture.data(), &size));
         ASSERT_NE(bitmap, nullptr);
         BITMAP shape;
         ::GetObjectA(bitmap.get(), sizeof shape, &shape);
         EXPECT_TRUE(shape.bmWidth == 40 && shape.bmHeight == 40);
-        const OwnedDC memory(::CreateCompatibleDC(nullptr));
-        const SelectedObject selected(memory.get(), bitmap.get());
+        const orlo::OwnedDC memory(::CreateCompatibleDC(nullptr));
+        const orlo::SelectedObject selected(memory.get(), bitmap.get());
         EXPECT_EQ(::GetPixel(memory.get(), 20, 20), row.middle);
         EXPECT_EQ(::GetPixel(memory.get(), 20, 2), RGB(255, 255, 255)) << "above the picture";
     }

@@ -36,7 +36,7 @@ void NamesItsFileInTheBuffer(const Subject& s) {
 }
 
 void TellsPaletteDevices(const Subject& s) {
-    const OwnedDC screen(::CreateCompatibleDC(nullptr));
+    const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
     const int expected = (::GetDeviceCaps(screen.get(), RASTERCAPS) & RC_PALETTE) != 0;
     const int found = CALL(s.host, IsPaletteSupported)(screen.get()) != 0;
     Expect(found == expected, "gave %d where GetDeviceCaps says %d", found, expected);

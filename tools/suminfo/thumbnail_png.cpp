@@ -102,9 +102,9 @@ private:
 
     SIZE size_;
     void* pixels_ = nullptr;
-    OwnedDC dc_;
-    OwnedBitmap bitmap_;
-    SelectedObject selected_;
+    orlo::OwnedDC dc_;
+    orlo::OwnedBitmap bitmap_;
+    orlo::SelectedObject selected_;
 };
 
 void Append(void* file, void* data, int size) {
