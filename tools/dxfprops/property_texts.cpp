@@ -12,6 +12,7 @@
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
 #include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
 #include "drawcore/src/units/header_units.h"
 #include "drawcore/src/units/number_text.h"
@@ -116,7 +117,8 @@ std::string NumberText(double value) {
 
 double ReadNumber(const std::string& text) {
     double value = 0;
-    if (drawcore::ScanUnsigned(text, value) != text.size() || text.empty())
+    drawcore::TextCursor cursor(text);
+    if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
         throw dxf::SaveError("'" + text + "' is no number from 0 on");
     return value;
 }
