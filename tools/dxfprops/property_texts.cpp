@@ -340,9 +340,15 @@ const PropertyForms* PropertyForms::Find(std::string_view name) {
 
 PropertyTexts::PropertyTexts(const dxf::Document& document)
     : document_(document), units_(drawcore::UnitsOf(document.header)) {
-    for (const dxf::Entity& entity : document.entities) {
+    AddPatterns(document.entities);
+    for (const dxf::Block& block : document.blocks)
+        AddPatterns(block.entities);
+}
+
+void PropertyTexts::AddPatterns(const std::vector<dxf::Entity>& entities) {
+    for (const dxf::Entity& entity : entities) {
         if (!std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape)) continue;
-        dxf::BrushLook brush = dxf::LookOf(document, entity).brush;
+        dxf::BrushLook brush = dxf::LookOf(document_, entity).brush;
         const auto known = [&](const dxf::BrushLook& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
             patterns_.push_back(std::move(brush));
