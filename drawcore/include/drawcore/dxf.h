@@ -33,7 +33,8 @@ enum { kSaveOverChanged = 1 };
 //
 // kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened
 // from, and another program has changed it since; nothing was written. kSaveFailed: message (size bytes with the NUL) says
-// why, and no file was changed: the drawing comes from no file, graphics were added or removed, the disk is full ...
+// why, and no file was changed: the drawing comes from no file, graphics were added or removed, the disk is full, another
+// program holds the file ...
 // kSaveCancelled: the listener, which may be null, has cancelled, and no file was changed.
 // Properties of graphics and the places of insertions are saved, also within blocks; blocks that a program has made are not.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,

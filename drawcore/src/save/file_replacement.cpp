@@ -141,6 +141,7 @@ void FileReplacement::TakePlace() {
 
 bool Holds(const std::filesystem::path& path, std::string_view bytes) {
     std::ifstream file(path, std::ios::binary);
+    if (!file) Fail("the file cannot be read, perhaps because another program holds it", LastError());
     std::string piece(kPiece, '\0');
     while (file) {
         file.read(piece.data(), static_cast<std::streamsize>(piece.size()));
@@ -148,7 +149,8 @@ bool Holds(const std::filesystem::path& path, std::string_view bytes) {
         if (size > bytes.size() || std::memcmp(piece.data(), bytes.data(), size) != 0) return false;
         bytes.remove_prefix(size);
     }
-    return file.eof() && bytes.empty();
+    if (!file.eof()) Fail("the file cannot be read", LastError());
+    return bytes.empty();
 }
 
 } // namespace dxf

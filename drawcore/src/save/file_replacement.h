@@ -29,7 +29,7 @@ private:
     std::filesystem::path path_; // empty once the file is gone
 };
 
-// Whether the file holds just these bytes now; false too if it can't be read.
+// Whether the file holds just these bytes now. SaveError if it can't be read.
 bool Holds(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace dxf
