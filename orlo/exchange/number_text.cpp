@@ -2,8 +2,10 @@
 
 #include "orlo/exchange/number_text.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -43,5 +45,13 @@ bool ScanRealText(const char* text, float& value) {
 
 bool IsBeginningOfReal(const char* text) {
     float value = 0;
-    return !ScanRealText(text, value) && ScanRealText((std::string(text) + "1").c_str(), value);
+    const std::string begun = text;
+    if (ScanRealText(text, value)) return false;
+    const auto open =
+        std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
+    const std::string closed(static_cast<size_t>(std::max<ptrdiff_t>(open, 0)), ')');
+    // A second digit, since "1-1" is a zero that is not written as one; a bar for "6 1", from which "6 1/2" may come.
+    for (const char* next : {"", "1", "2", "/1"})
+        if (ScanRealText((begun + next + closed).c_str(), value)) return true;
+    return false;
 }

@@ -9,5 +9,6 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value);
 // begins with a digit or is not zero, with more than the number, or too large for a float.
 bool ScanRealText(const char* text, float& value);
 
-// Whether the text is not a number yet and becomes one with a further digit: "", "-", ".", "1e-".
+// Whether the text is not a number yet and becomes one with a further digit and what closes its brackets: "", "-", ".", "1e-",
+// and where the host calculates "2*", "(1+".
 bool IsBeginningOfReal(const char* text);

@@ -33,16 +33,57 @@ const NumberRow kNumbers[] = {{"12", 12, 2},    {"  -1.5e3x", -1500, 8},
                               {"-1e999", 0, 0}, {"--1", 0, 0},
                               {"+-1", 0, 0},    {"1.7976931348623157e308", 1.7976931348623157e308, 22}};
 
+// The longest calculation that comes first; what is left over is the caller's to refuse.
+const NumberRow kCalculations[] = {{"2*3+1/8", 6.125, 7},
+                                   {"2*3-1/8", 5.875, 7},
+                                   {"90/4", 22.5, 4},
+                                   {" ( 1 + 2 ) * 3 x", 9, 14},
+                                   {"2-3-4", -5, 5},
+                                   {"8/4/2", 1, 5},
+                                   {"1.5/12/4", 0.03125, 8},
+                                   {"-2*-3", 6, 5},
+                                   {"-(1+2)", -3, 6},
+                                   {"8/(1+3)", 2, 7},
+                                   {"1e2+1e-2", 100.01, 8},
+                                   {"1/2", 0.5, 3},
+                                   {"-6 1/2", -6.5, 6},
+                                   {"6-1/2 ", 6.5, 5}, // alone it is one number
+                                   {"6 - 1/2", 5.5, 7},
+                                   {"6-1/2+3", 8.5, 7},
+                                   {"1 -2", -1, 4},
+                                   {"2*", 2, 1},
+                                   {"3+/4", 3, 1},
+                                   {"2 + 3*", 5, 5},
+                                   {"2+(3", 2, 1},
+                                   {"1/0", 1, 1},
+                                   {"1/(2-2)", 1, 1},
+                                   {"1e308*10", 1e308, 5},
+                                   {"1e308+1e308", 1e308, 5},
+                                   {"1e-300*1e-300", 1e-300, 6},
+                                   {"1e-300/1e300", 1e-300, 6},
+                                   {"5--3", 5, 1},
+                                   {"2(3)", 2, 1},
+                                   {"(1", 0, 0},
+                                   {"()", 0, 0},
+                                   {"-", 0, 0},
+                                   {"*2", 0, 0},
+                                   {"(((((((((((((((((1)))))))))))))))))", 1, 35}};
+
 TEST(PlainNumber, IsReadFromTheStart) {
-    for (const NumberRow& row : kNumbers) {
-        char* end = nullptr;
-        EXPECT_EQ(StringToDouble(0, row.text, &end), row.value) << row.text;
-        EXPECT_EQ(end - row.text, row.taken) << row.text;
-    }
+    for (const auto& [rows, count] :
+         {std::pair(kNumbers, std::size(kNumbers)), std::pair(kCalculations, std::size(kCalculations))})
+        for (const NumberRow& row : std::vector<NumberRow>(rows, rows + count)) {
+            char* end = nullptr;
+            EXPECT_DOUBLE_EQ(StringToDouble(0, row.text, &end), row.value) << row.text;
+            EXPECT_EQ(end - row.text, row.taken) << row.text;
+        }
+    const std::string brackets = std::string(100000, '(') + "1" + std::string(100000, ')');
     const std::string digits(10000, '9');
     char* end = nullptr;
     EXPECT_EQ(StringToDouble(0, digits.c_str(), &end), 0.0);
     EXPECT_EQ(end, digits.c_str()) << "too large for a double: refused";
+    EXPECT_EQ(StringToDouble(0, brackets.c_str(), &end), 0.0);
+    EXPECT_EQ(end, brackets.c_str()) << "brackets in brackets without end";
 }
 
 struct WrittenRow {
@@ -123,13 +164,38 @@ const LengthRow kLengths[] = {{"2", 2},
                               {"1 1/2'", 18},
                               {"-1'-6-1/2\"", -18.5},
                               {"1'6.5\"", 18.5},
-                              {"1 m", 1000 / 25.4}};
+                              {"1 m", 1000 / 25.4},
+                              {"2*3+1/8", 6.125},
+                              {"6-1/2 + 3", 8.5}, // no units: the hyphen is a minus
+                              // a unit at the end only: of the whole
+                              {"100+50 mm", 150 / 25.4},
+                              {"(1+2)*3 ft", 108},
+                              {"(100 + 50) mm", 150 / 25.4},
+                              {"100*2/4mm", 50 / 25.4},
+                              {"10.5/4 ft", 31.5},
+                              {"-(1+2) ft", -36},
+                              // several units: a number without one is the drawing's
+                              {"2 ft + 3", 27},
+                              {"3 + 2 ft - 1 in", 26},
+                              {"1'-6\" + 2 in", 20},
+                              {"2 - 1'-6\"", -16},
+                              {"1' - 6\"", 6},
+                              {"10'-6'", 48},
+                              {"1'-6 1/2\"*2", 37},
+                              {"2*(1' + 6\")/3", 12},
+                              {"2*-1'", -24},
+                              {"(1+2) ft + 1 in", 37},
+                              {"25.4 mm*1/2", 0.5},
+                              {"1 ft/4/2", 1.5}};
 
-const char* const kNoLengths[] = {"",         " ",     "-",     "+",     "abc",      "2x",       "2 apples",
-                                  "2 2",      "1,5",   "1e999", "nan",   "inf",      "0x10",     "1/0",
-                                  "1/",       "/2",    "1 1/",  "mm",    "1 mm 2",   "1' 2 mm",  "1'-",
-                                  "1' 2' 3'", "--1",   "1-6",   "5%",    "1..2",     "1e308 mi", "1.5 1/2",
-                                  "1.5/2",    "1/2/3", "- 1",   "1'--6", "-1'-6 mm", "1e-999"};
+const char* const kNoLengths[] = {
+    "", " ", "-", "+", "abc", "2x", "2 apples", "2 2", "1,5", "1e999", "nan", "inf", "0x10", "1/0", "1/",
+    "/2", "1 1/", "mm", "1 mm 2", "1' 2 mm", "1'-", "--1", "5%", "1..2", "1e308 mi", "1.5 1/2", "- 1",
+    "1' 2' 3'", "1'--6", "1e-999", "2*", "3+/4", "(1", "1)", "()", "1/(2-2)", "1e308*10", "2 in*", "2 in + x",
+    "(1 in", "1 in/0", "1 in*1 in", "1 in/1 in", "4/(2 in)", "1 in 1/2", "2(3)", "(2)3", "(1 in) in",
+    "(1+2)x", "2 ft--1", "1e300 mi*1e10", "1e-300*1e-300",
+    // one number or a difference? with units around, nobody can tell
+    "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2"};
 
 class Lengths : public testing::Test {
 protected:
@@ -289,6 +355,7 @@ TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
     EXPECT_NEAR(UnitsGetScaleValue(units, text), 2.5, 1e-12);
     char* end = nullptr;
     EXPECT_EQ(StringToDouble(0, "-1,5e3", &end), -1500);
+    EXPECT_EQ(StringToDouble(0, "1,5*(2,5-,5)", &end), 3);
     DoubleToString(0, 0.25, 6, text, 0, 0, 1);
     EXPECT_STREQ(text, "0,25");
     TableSetStringVar(settings, kVarDecimalMark, ".");
@@ -393,13 +460,23 @@ const AngleRow kAngles[] = {{"45", 45},
                             {"n45dw", 135},
                             {"S 30d30' E", 300.5},
                             {"S 30 W", 240},
-                            {"N 0 E", 90}};
+                            {"N 0 E", 90},
+                            {"90/4", 22.5},
+                            {"1/2", 0.5},
+                            {"(30+15)*2", 90},
+                            {"20+30g", 45}, // a unit at the end only: of the whole
+                            {"12d30' + 5", 17.5},
+                            {"45d -3'", 44.95},
+                            {"2*12d30'", 25},
+                            {"6-1/2", 6.5},
+                            {"N 90/4 E", 67.5}};
 
-const char* const kNoAngles[] = {"",       " ",      "-",       "d",       "'",      "45x",        "45dd",
-                                 "45 45",  "12d60'", "12d1.5",  "1.5d30'", "30'12d", "12d30'60\"", "45d -3'",
-                                 "--4",    "- 4",    "1e999",   "nan",     "inf",    "0x10",       "NE",
-                                 "N 91 E", "N -4 E", "45 E",    "N 45",    "N 45 S", "-N",         "50g30'",
-                                 "1,5",    "1/2",    "N 1d W E"};
+const char* const kNoAngles[] = {
+    "",        " ",      "-",       "d",        "'",          "45x",     "45dd", "45 45",
+    "12d60'",  "12d1.5", "1.5d30'", "30'12d",   "12d30'60\"", "--4",     "- 4",  "1e999",
+    "nan",     "inf",    "0x10",    "NE",       "N 91 E",     "N -4 E",  "45 E", "N 45",
+    "N 45 S",  "-N",     "50g30'",  "1,5",      "1/0",        "2*",      "3+/4", "(1",
+    "45d--3'", "2d*2d",  "4/(2d)",  "N 90*2 E", "N 45 E + 1", "N 1d W E"};
 
 class Angles : public Lengths {};
 
@@ -526,7 +603,7 @@ TEST_F(Lengths, MakeScales) {
                  {"1/4\" = 1'", 48}, {"1 mm = 1 m", 1000}, {"1=1", 1},       {"1 : 0", 0},
                  {"0 : 1", 0},       {"-1 : 1", 0},        {"48", 0},        {"", 0},
                  {"1 :", 0},         {": 1", 0},           {"1 : 2 : 3", 0}, {"one : two", 0},
-                 {"1 : 1e999", 0}};
+                 {"1 : 1e999", 0},   {"1 : 2*25", 50},     {"1 : 2*", 0}};
     for (const auto& row : kRows)
         EXPECT_NEAR(UnitsGetScaleValue(units, row.text), row.scale, 1e-9) << row.text;
     std::mt19937 random(3);

@@ -4,6 +4,7 @@
 check_saved.py DXFPROPS FOLDER
 """
 import difflib
+import json
 import os
 import resource
 import shutil
@@ -18,6 +19,7 @@ except ImportError:  # ./run setup installs it
     recover = None
 
 PROGRAM, FOLDER = sys.argv[1:3]
+BLOCKS = os.path.join(FOLDER, "acadsharp-sample-AC1032.dxf")
 WORK = tempfile.mkdtemp()
 OUT = os.path.join(WORK, "saved.dxf")
 OWN = {1000, 1001, 1002, 1040}  # extended data
@@ -124,6 +126,30 @@ def check_handles(path):
         failures.append(f"{path}: handles are not free")
 
 
+def check_blocks():
+    """Entities of a block are chosen, changed and compared like those of model space; JSON says the same as the lines."""
+    done = run("set", BLOCKS, "--where", "block=MyBlock,kind=LINE", "PenColor=red", "PenScale=1+1/2", "-o", OUT)
+    lines = run("diff", BLOCKS, OUT)
+    found = json.loads(run("diff", BLOCKS, OUT, "--json").stdout)[0]["differences"]
+    shown = json.loads(run("get", OUT, "--where", "block=MyBlock", "--json").stdout)[0]["entities"]
+    red = [entity for entity in shown if entity["properties"].get("PenScale") == "1.5"]
+    wanted = {"PenColor": {"before": "By Layer", "after": "Red"}, "PenScale": {"before": "1", "after": "1.5"}}
+    if (
+        done.returncode
+        or not found
+        or len(found) != lines.stdout.count(b"\n")
+        or [entity["handle"] for entity in found] != [entity["handle"] for entity in red]
+        or any(entity["kind"] != "LINE" or entity["block"] != "MyBlock" for entity in found)
+        or any(entity["properties"] != wanted for entity in found)
+    ):
+        failures.append(f"a block: {done} {lines} {found}")
+    if recover and {line.dxf.color for line in audit(OUT)[1].blocks.get("MyBlock").query("LINE")} != {1}:
+        failures.append("a block: the other reader sees other colours")
+    broken = json.loads(run("get", BLOCKS, "none.dxf", "--json").stdout)
+    if "entities" not in broken[0] or broken[1]["error"] != "the file cannot be opened":
+        failures.append(f"JSON of a file that is not there: {broken[1]}")
+
+
 def check_words():
     """Wrong words get those that are allowed; results are reported by exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
@@ -133,7 +159,15 @@ def check_words():
         (["set", drawing, "Layer=Walls", "-o", OUT], 1, "'Walls' is none of 0, Titles, ConstantWidth"),
         (["set", drawing, "PenWidth=wide", "-o", OUT], 1, "'wide' is no length"),
         (["set", drawing, "PenColor=red"], 2, "say where the drawing goes"),
-        (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is none of kind, handle"),
+        (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is none of kind, handle, block, Layer"),
+        (["set", drawing, "--where", "kind=LIN", "PenColor=redd", "-o", OUT], 1, "'redd' is none of By Layer"),
+        (["set", drawing, "--where", "kind=LIN", "PenColor=red", "-o", OUT], 1, "nothing meets kind=LIN; there are entities of the kinds LINE, LWPOLYLINE"),
+        (["get", drawing, "--where", "layer=walls"], 1, "nothing meets layer=walls"),
+        (["get", drawing, BLOCKS, "--where", "kind=ellipse", "--show", "Layer"], 0, "ELLIPSE"),
+        (["get", drawing, "--where", "block=Door"], 1, "block: the drawing has none"),
+        (["get", BLOCKS, "--where", "block=Door"], 1, "block: 'Door' is none of *Model_Space"),
+        (["get", BLOCKS, "--where", "block=myblock", "--show", "Layer"], 0, 'block MyBlock) Layer="0"'),
+        (["set", drawing, "--where", "kind=LINE", "PenScale=2*", "-o", OUT], 1, "'2*' is no number"),
         (["set", "none.dxf", "PenColor=red", "--in-place"], 1, "none.dxf: the file cannot be opened"),
         (["set", drawing, "--where", "kind=LINE,penstyle=dashed", "PenColor=red", "-o", OUT], 0, "1 entity changed"),
         (["diff", drawing, OUT], 1, 'LINE (line 383) PenColor: "By Layer" -> "Red"'),
@@ -147,30 +181,29 @@ def check_words():
 
 
 def check_safety(path):
-    """A full disk and a kill leave the old file or the new one."""
+    """A full disk and the end of the process leave the old file."""
     copy = os.path.join(WORK, "copy.dxf")
     run("set", path, "PenColor=red", "-o", OUT)
     old, new = read(path), read(OUT)
 
-    def limit(size):
-        signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+    def limit(size, action):
+        signal.signal(signal.SIGXFSZ, action)
         resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
 
     for size in (0, 1000, len(new) - 1):
         shutil.copy(path, copy)
-        done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size))
+        done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_IGN))
         if done.returncode != 1 or read(copy) != old or len(os.listdir(WORK)) != len({OUT, OUT + "2", copy}):
             failures.append(f"a disk that is full at {size}: {done}")
-    for delay in range(0, 60, 3):
+    for size in range(0, len(new), len(new) // 40):  # the process ends within the write that would go further
         shutil.copy(path, copy)
-        process = subprocess.Popen([PROGRAM, "set", copy, "PenColor=red", "--in-place"], stdout=subprocess.DEVNULL)
-        try:
-            process.wait(delay / 1000)
-        except subprocess.TimeoutExpired:
-            process.kill()
-        process.wait()
-        if read(copy) not in (old, new):
-            failures.append(f"a kill after {delay} ms leaves neither file")
+        done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_DFL))
+        if done.returncode != -signal.SIGXFSZ or read(copy) != old:
+            failures.append(f"a process that ends at {size} bytes: {done}")
+        for left in set(os.listdir(WORK)) - {os.path.basename(name) for name in (OUT, OUT + "2", copy)}:
+            os.remove(os.path.join(WORK, left))
+            if left != "copy.dxf.1.tmp":
+                failures.append(f"a process that ends at {size} bytes leaves {left}")
     shutil.copy(path, copy)
     os.chmod(copy, 0o444)
     done = run("set", copy, "PenColor=red", "--in-place")
@@ -182,13 +215,14 @@ for name in sorted(os.listdir(FOLDER)):
     drawing_path = os.path.join(FOLDER, name)
     if not name.endswith(".dxf") or name.startswith("bad-") or os.path.getsize(drawing_path) > 30000 or run("list", drawing_path).returncode:
         continue
-    if run("set", drawing_path, "--where", "kind=none", "PenColor=red", "-o", OUT).returncode or read(OUT) != read(drawing_path):
+    if run("set", drawing_path, "--where", "kind=none", "PenColor=red", "-o", OUT).returncode != 1 or read(OUT) != read(drawing_path):
         failures.append(f"{name}: without changes it is another file")
     for row in ROWS:
         check_row(drawing_path, *row)
 check_row(os.path.join(FOLDER, "dxf-dimensions.dxf"), ["Info=x"], OWN)
 check_handles(OUT)
 check_words()
+check_blocks()
 check_safety(os.path.join(FOLDER, "ezdxf-insert-nested-mirrored.dxf"))
 shutil.rmtree(WORK)
 if failures:

@@ -242,7 +242,8 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
         size_t atOnce;
     } kRows[] = {{IDC_SCALE_X, "1001", 1},     {IDC_SCALE_Y, "-1000.1", 1},  {IDC_SCALE_Z, "wide", 1},
                  {IDC_POSITION_X, "", 0},      {IDC_POSITION_Y, "1e", 0},    {IDC_POSITION_Z, "1,5,7", 1},
-                 {IDC_POSITION_Z, "1e39-", 1}, {IDC_ROTATION_X, "north", 1}, {IDC_ROTATION_Y, "-", 0}};
+                 {IDC_POSITION_Z, "1e39-", 1}, {IDC_ROTATION_X, "north", 1}, {IDC_ROTATION_Y, "-", 0},
+                 {IDC_POSITION_X, "2*(", 0},   {IDC_POSITION_Y, "2*)", 1},   {IDC_POSITION_Z, "1/0", 0}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.text);
         EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
@@ -268,7 +269,8 @@ TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
     const struct {
         const char* text;
         double value;
-    } kRows[] = {{"-5", -5}, {".5", 0.5}, {"-0.0625", -0.0625}, {"1e2", 100}, {"+2.5e-1", 0.25}};
+    } kRows[] = {{"-5", -5},        {".5", 0.5},       {"-0.0625", -0.0625}, {"1e2", 100},
+                 {"+2.5e-1", 0.25}, {"2*(1-1.5)", -1}, {"6 1/2", 6.5}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.text);
         RunOk([&](SheetDriver& user) {

@@ -1,9 +1,12 @@
 // Choosing entities.
 #include "tools/dxfprops/drawing_file.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/save/save_error.h"
 #include "drawcore/src/tables/fold_name.h"
 
 namespace dxfprops {
@@ -11,7 +14,8 @@ namespace dxfprops {
 using drawcore::FoldName;
 
 std::string EntityName::Text() const {
-    return kind + (handle.empty() ? "" : " " + handle) + " (line " + std::to_string(line) + ")";
+    return kind + (handle.empty() ? "" : " " + handle) + " (line " + std::to_string(line) +
+           (block.empty() ? "" : ", block " + block) + ")";
 }
 
 DrawingFile::DrawingFile(const std::string& file)
@@ -22,44 +26,84 @@ std::string_view DrawingFile::Text() const {
     return dxf::TextOf(bytes_);
 }
 
-EntityName DrawingFile::NameOf(const dxf::Entity& entity) const {
-    constexpr int kHandle = 5;
+EntityName DrawingFile::NameOf(const Found& found) const {
+    constexpr int kHandleCode = 5;
     const dxf::Progress silent;
     dxf::TagReader tags(Text(), silent);
-    const dxf::Tag& tag = tags.Seek(entity.offset);
-    EntityName name{std::string(tag.Trimmed()), {}, entity.line};
+    const dxf::Tag& tag = tags.Seek(found.entity->offset);
+    EntityName name{std::string(tag.Trimmed()), {}, found.entity->line, {}};
+    if (found.block) name.block = dxf::ToDisplayText(found.block->name);
     while (!tags.Next().StartsRecord() && tag.code != dxf::kSubclass)
-        if (tag.code == kHandle) name.handle = tag.Trimmed();
+        if (tag.code == kHandleCode) name.handle = tag.Trimmed();
     return name;
 }
 
-bool DrawingFile::Meets(const dxf::Entity& entity, const std::vector<Condition>& where) const {
+bool DrawingFile::Meets(const Found& found, const std::vector<Condition>& where) const {
     const auto value = [&](const std::string& name) {
-        if (name == "kind") return NameOf(entity).kind;
-        if (name == "handle") return NameOf(entity).handle;
-        return texts_.Get(name, LookOf(entity));
+        if (name == kKind) return NameOf(found).kind;
+        if (name == kHandle) return NameOf(found).handle;
+        if (name == kBlock) return NameOf(found).block;
+        return texts_.Get(name, LookOf(*found.entity));
     };
     for (const Condition& condition : where) {
         const bool isProperty = PropertyTexts::NameOf(condition.name).has_value();
-        if (isProperty && !PropertyTexts::Has(entity, condition.name)) return false;
+        if (isProperty && !PropertyTexts::Has(*found.entity, condition.name)) return false;
         if (FoldName(value(condition.name)) != FoldName(condition.value)) return false;
     }
     return true;
 }
 
-std::vector<const dxf::Entity*> DrawingFile::Select(const std::vector<Condition>& where) const {
-    std::vector<const dxf::Entity*> selected;
-    const auto offer = [&](const dxf::Entity& entity) {
-        if (PropertyTexts::Has(entity, kPropLayer) && Meets(entity, where)) selected.push_back(&entity);
+std::vector<Found> AllOf(const dxf::Document& document) {
+    std::vector<Found> all;
+    const auto offer = [&](const dxf::Entity& entity, const dxf::Block* block) {
+        if (PropertyTexts::Has(entity, kPropLayer)) all.push_back({&entity, block});
     };
-    for (const dxf::Entity& entity : document_.entities) {
-        if (entity.inPaperSpace) continue;
-        offer(entity);
-        if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
-            for (const dxf::Entity& attribute : (*insert)->attributes)
-                offer(attribute);
+    const auto offerAll = [&](const std::vector<dxf::Entity>& entities, const dxf::Block* block) {
+        for (const dxf::Entity& entity : entities) {
+            if (!block && entity.inPaperSpace) continue;
+            offer(entity, block);
+            if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
+                for (const dxf::Entity& attribute : (*insert)->attributes)
+                    offer(attribute, block);
+        }
+    };
+    offerAll(document.entities, nullptr);
+    for (const dxf::Block& block : document.blocks)
+        offerAll(block.entities, &block);
+    return all;
+}
+
+std::vector<Found> DrawingFile::Around(const std::vector<Condition>& where) const {
+    const auto named =
+        std::find_if(where.begin(), where.end(), [](const Condition& some) { return some.name == kBlock; });
+    const dxf::Block* wanted = nullptr;
+    std::string names;
+    for (const dxf::Block& block : document_.blocks) {
+        const std::string name = dxf::ToDisplayText(block.name);
+        if (named != where.end() && FoldName(name) == FoldName(named->value)) wanted = &block;
+        names += (names.empty() ? "" : ", ") + name;
     }
+    if (named != where.end() && !wanted)
+        throw dxf::SaveError(names.empty() ? "block: the drawing has none"
+                                           : "block: '" + named->value + "' is none of " + names);
+    std::vector<Found> around;
+    for (const Found& found : All())
+        if (found.block == wanted) around.push_back(found);
+    return around;
+}
+
+std::vector<Found> DrawingFile::Select(const std::vector<Condition>& where) const {
+    std::vector<Found> selected = Around(where);
+    const auto fails = [&](const Found& found) { return !Meets(found, where); };
+    selected.erase(std::remove_if(selected.begin(), selected.end(), fails), selected.end());
     return selected;
+}
+
+std::set<std::string> DrawingFile::KindsAround(const std::vector<Condition>& where) const {
+    std::set<std::string> kinds;
+    for (const Found& found : Around(where))
+        kinds.insert(NameOf(found).kind);
+    return kinds;
 }
 
 } // namespace dxfprops

@@ -1,7 +1,7 @@
 // A drawing in a file with the entities that have properties.
 #pragma once
 
-#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,19 +11,31 @@
 
 namespace dxfprops {
 
-// "layer=WALLS": kind, layer, handle, or a property. Case does not count.
+// "layer=WALLS": kind, handle, block, or a property. Case does not count.
 struct Condition {
     std::string name, value;
 };
+// Names of conditions that are no properties.
+constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
 
 // An entity as it is named in messages.
 struct EntityName {
     std::string kind;   // "LINE"
     std::string handle; // empty: none
     uint32_t line = 0;  // of the file
+    std::string block;  // that it is in; empty: model space
 
-    std::string Text() const; // "LINE 2F (line 1024)"
+    std::string Text() const; // "LINE 2F (line 1024)", "LINE 3A (line 512, block DOOR)"
 };
+
+// An entity and the block that it is in; null: model space.
+struct Found {
+    const dxf::Entity* entity;
+    const dxf::Block* block;
+};
+
+// Entities with properties: of model space, with the attributes of its insertions, and then of the blocks. In their order.
+std::vector<Found> AllOf(const dxf::Document& document);
 
 class DrawingFile {
 public:
@@ -35,13 +47,17 @@ public:
     const dxf::Document& Document() const { return document_; }
     const PropertyTexts& Texts() const { return texts_; }
 
-    // All entities of model space and the attributes of its insertions that meet the conditions, in their order.
-    std::vector<const dxf::Entity*> Select(const std::vector<Condition>& where) const;
-    EntityName NameOf(const dxf::Entity& entity) const;
+    // Those that meet the conditions: of model space, unless one names a block. SaveError if there is no such block.
+    std::vector<Found> Select(const std::vector<Condition>& where) const;
+    // The kinds of all that are there, whatever the other conditions say.
+    std::set<std::string> KindsAround(const std::vector<Condition>& where) const;
+    std::vector<Found> All() const { return AllOf(document_); }
+    EntityName NameOf(const Found& found) const;
     dxf::Look LookOf(const dxf::Entity& entity) const { return dxf::LookOf(document_, entity); }
 
 private:
-    bool Meets(const dxf::Entity& entity, const std::vector<Condition>& where) const;
+    std::vector<Found> Around(const std::vector<Condition>& where) const;
+    bool Meets(const Found& found, const std::vector<Condition>& where) const;
 
     const std::string bytes_;
     const dxf::Document document_;

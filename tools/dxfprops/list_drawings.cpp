@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <new>
 
 #include <nlohmann/json.hpp>
 
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
+#include "tools/dxfprops/output.h"
 
 namespace {
 
@@ -61,20 +61,8 @@ Json Describe(const dxf::Document& drawing) {
 }
 
 bool ListDrawings(const std::vector<std::string>& files, std::ostream& out) {
-    Json list = Json::array();
-    bool allRead = true;
-    for (const std::string& file : files) {
-        Json entry{{"file", file}};
-        try {
-            entry.update(Describe(dxf::ReadFile(std::filesystem::u8path(file), {})));
-        } catch (const dxf::ReadError& error) {
-            entry.update({{"error", error.Text()}, {"line", error.Line() ? Json(error.Line()) : Json()}});
-        } catch (const std::bad_alloc&) {
-            entry.update({{"error", "there is not enough memory for it"}, {"line", nullptr}});
-        }
-        allRead = allRead && !entry.contains("error");
-        list.push_back(std::move(entry));
-    }
-    out << list.dump(2) << "\n";
-    return allRead;
+    return dxfprops::PrintArray(
+        files,
+        [](const std::string& file) { return Describe(dxf::ReadFile(std::filesystem::u8path(file), {})); },
+        out);
 }

@@ -6,20 +6,23 @@
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
+#include <set>
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
 #endif
 
-#include "tools/dxfprops/commands.h"
+#include <nlohmann/json.hpp>
+
 #include "tools/dxfprops/list_drawings.h"
+#include "tools/dxfprops/output.h"
 
 namespace {
 
 using namespace dxfprops;
 
 constexpr int kDone = 0;
-constexpr int kFailed = 1; // a file failed, or diff found differences
+constexpr int kFailed = 1; // a file failed, nothing was found, or diff found differences
 constexpr int kUsage = 2;
 
 constexpr char kExamples[] = R"(
@@ -30,13 +33,39 @@ Examples:
   dxfprops set *.dxf --where PenColor=red PenColor="By Layer" --in-place
   dxfprops diff plan.dxf thick.dxf                what differs, entity by entity
 
-Results: 0 done; 1 a file failed, or diff found differences; 2 wrong command line.)";
+Results: 0 done; 1 a file failed, nothing meets --where, or diff found differences; 2 wrong command line.)";
 
 struct CommandLine {
     std::vector<std::string> files, where, show, rest;
     std::string output, before, after;
     bool json = false, inPlace = false;
 };
+
+// What --where has found in all files.
+struct Matches {
+    size_t count = 0;
+    std::set<std::string> kinds; // of files without one
+
+    void Add(size_t found, const std::set<std::string>& others) {
+        count += found;
+        kinds.insert(others.begin(), others.end());
+    }
+};
+
+// As programs that search do: to find nothing is a result of its own.
+int ResultOf(int result, const CommandLine& line, const Matches& matches) {
+    if (result != kDone || line.where.empty() || matches.count > 0) return result;
+    std::cerr << "dxfprops: nothing meets";
+    for (const std::string& condition : line.where)
+        std::cerr << " " << condition;
+    const char* separator = "; there are entities of the kinds ";
+    for (const std::string& kind : matches.kinds) {
+        std::cerr << separator << kind;
+        separator = ", ";
+    }
+    std::cerr << "\n";
+    return kFailed;
+}
 
 std::string AllNames() {
     std::string names;
@@ -46,11 +75,11 @@ std::string AllNames() {
 }
 
 std::string Known(const std::string& name, bool alsoConditions) {
-    for (const char* condition : {"kind", "handle"})
+    for (const char* condition : {kKind, kHandle, kBlock})
         if (alsoConditions && CLI::detail::to_lower(name) == condition) return condition;
     if (const auto known = PropertyTexts::NameOf(name)) return *known;
-    throw CLI::ValidationError("'" + name + "' is none of " + (alsoConditions ? "kind, handle, " : "") +
-                               AllNames());
+    throw CLI::ValidationError("'" + name + "' is none of " +
+                               (alsoConditions ? "kind, handle, block, " : "") + AllNames());
 }
 
 std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool alsoConditions) {
@@ -91,10 +120,20 @@ int Get(const CommandLine& line) {
     const std::vector<Condition> where = Assignments(line.where, true);
     for (const std::string& name : line.show)
         Known(name, false);
-    return ForEach(line.files, [&](const std::string& file) {
+    Matches matches;
+    const auto list = [&](const std::string& file) {
+        Listing listing = ListProperties(file, where, line.show);
+        matches.Add(listing.entities.size(), listing.kinds);
+        return listing;
+    };
+    const auto print = [&](const std::string& file) {
+        const Listing listing = list(file);
         if (line.files.size() > 1) std::cout << file << "\n";
-        PrintProperties(file, where, line.show, std::cout);
-    });
+        Print(listing, std::cout);
+    };
+    if (!line.json) return ResultOf(ForEach(line.files, print), line, matches);
+    const auto describe = [&](const std::string& file) { return JsonOf(list(file)); };
+    return ResultOf(PrintArray(line.files, describe, std::cout) ? kDone : kFailed, line, matches);
 }
 
 int Set(CommandLine& line) {
@@ -115,18 +154,29 @@ int Set(CommandLine& line) {
         throw CLI::ValidationError("set", "say where the drawing goes: -o OUT or --in-place");
     if (!line.output.empty() && line.files.size() > 1)
         throw CLI::ValidationError("set", "-o takes one file; --in-place takes many");
-    return ForEach(line.files, [&](const std::string& file) {
-        const size_t count = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
-        std::cout << file << ": " << count << (count == 1 ? " entity changed\n" : " entities changed\n");
+    Matches matches;
+    const int result = ForEach(line.files, [&](const std::string& file) {
+        const SetResult set = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
+        matches.Add(set.matched, set.kinds);
+        std::cout << file << ": " << set.changed
+                  << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
     });
+    return ResultOf(result, line, matches);
 }
 
 int Diff(const CommandLine& line) {
-    size_t differences = 0;
-    const int result = ForEach({line.after}, [&](const std::string& after) {
-        differences = PrintDifferences(line.before, after, std::cout);
-    });
-    return differences > 0 ? kFailed : result;
+    size_t count = 0;
+    const auto find = [&](const std::string& after) {
+        std::vector<Difference> differences = FindDifferences(line.before, after);
+        count = differences.size();
+        return differences;
+    };
+    const auto print = [&](const std::string& after) { Print(find(after), line.before, after, std::cout); };
+    const auto describe = [&](const std::string& after) { return JsonOf(find(after)); };
+    const int result = !line.json                                      ? ForEach({line.after}, print)
+                       : PrintArray({line.after}, describe, std::cout) ? kDone
+                                                                       : kFailed;
+    return count > 0 ? kFailed : result;
 }
 
 int Run(std::vector<std::string> arguments) {
@@ -138,7 +188,8 @@ int Run(std::vector<std::string> arguments) {
     const auto where = [&line](CLI::App* command) {
         command
             ->add_option("--where", line.where,
-                         "kind=LINE, layer=WALLS, handle=2F, or a property; all have to hold")
+                         "kind=LINE, layer=WALLS, handle=2F, or a property; all have to hold; block=NAME: in "
+                         "that block")
             ->delimiter(',')
             ->allow_extra_args(false);
     };
@@ -148,6 +199,7 @@ int Run(std::vector<std::string> arguments) {
     CLI::App* get = usage.add_subcommand("get", "Print the properties of entities");
     get->add_option("FILE", line.files, "drawings")->required();
     get->add_option("--show", line.show, "these properties alone")->delimiter(',')->allow_extra_args(false);
+    get->add_flag("--json", line.json, "as JSON");
     where(get);
     CLI::App* set = usage.add_subcommand("set", "Set properties of entities");
     set->add_option("FILE PROPERTY=VALUE", line.rest, "drawings, and what is set")->required();
@@ -157,6 +209,7 @@ int Run(std::vector<std::string> arguments) {
     CLI::App* diff = usage.add_subcommand("diff", "Print which properties differ");
     diff->add_option("BEFORE", line.before, "a drawing")->required();
     diff->add_option("AFTER", line.after, "another one")->required();
+    diff->add_flag("--json", line.json, "as JSON");
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
         usage.parse(arguments);

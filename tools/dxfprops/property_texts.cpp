@@ -12,6 +12,7 @@
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
 #include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
 #include "drawcore/src/units/header_units.h"
 #include "drawcore/src/units/number_text.h"
@@ -116,7 +117,8 @@ std::string NumberText(double value) {
 
 double ReadNumber(const std::string& text) {
     double value = 0;
-    if (drawcore::ScanUnsigned(text, value) != text.size() || text.empty())
+    drawcore::TextCursor cursor(text);
+    if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
         throw dxf::SaveError("'" + text + "' is no number from 0 on");
     return value;
 }
@@ -338,9 +340,15 @@ const PropertyForms* PropertyForms::Find(std::string_view name) {
 
 PropertyTexts::PropertyTexts(const dxf::Document& document)
     : document_(document), units_(drawcore::UnitsOf(document.header)) {
-    for (const dxf::Entity& entity : document.entities) {
+    AddPatterns(document.entities);
+    for (const dxf::Block& block : document.blocks)
+        AddPatterns(block.entities);
+}
+
+void PropertyTexts::AddPatterns(const std::vector<dxf::Entity>& entities) {
+    for (const dxf::Entity& entity : entities) {
         if (!std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape)) continue;
-        dxf::BrushLook brush = dxf::LookOf(document, entity).brush;
+        dxf::BrushLook brush = dxf::LookOf(document_, entity).brush;
         const auto known = [&](const dxf::BrushLook& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
             patterns_.push_back(std::move(brush));

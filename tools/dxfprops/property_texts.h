@@ -33,6 +33,8 @@ public:
 private:
     friend struct PropertyForms;
 
+    void AddPatterns(const std::vector<dxf::Entity>& entities);
+
     const dxf::Document& document_;
     drawcore::UnitSettings units_;
     std::vector<dxf::BrushLook> patterns_; // that its hatches have

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "drawcore/src/tables/fold_name.h"
-#include "drawcore/src/units/text_cursor.h"
+#include "drawcore/src/units/calculation.h"
 
 namespace drawcore {
 
@@ -41,36 +41,32 @@ bool IsDivided(double unit) {
     return unit == kDegree || unit == kDegree / 60;
 }
 
-// A number with its unit, or degrees, minutes and seconds: of these only the last number has a part after the mark, and
-// each is less than makes one of the unit before.
-bool ReadParts(std::string_view text, double bare, double& radians) {
-    TextCursor cursor(text);
-    double sum = 0, before = 0;
-    for (;;) {
-        double number = 0;
-        if (!cursor.Number(number)) return false;
-        cursor.SkipBlanks();
-        const std::string_view name = cursor.TakeWord();
-        const double unit = name.empty() && !before ? bare : FindUnit(name);
-        if (!unit || (before && number >= std::round(before / unit))) return false;
-        sum += number * unit;
-        if (cursor.AtEnd()) break;
-        if (!IsDivided(unit) || number != std::floor(number)) return false;
-        before = unit;
-    }
-    if (!std::isfinite(sum)) return false;
-    radians = sum;
-    return true;
-}
+class Angles : public Measure {
+public:
+    explicit Angles(double bare) : Measure(bare) {}
 
-bool ReadSigned(std::string_view text, double bare, double& radians) {
-    TextCursor cursor(text);
-    cursor.SkipBlanks();
-    const bool negative = cursor.TakeMinus();
-    if (!ReadParts(cursor.Rest(), bare, radians)) return false;
-    if (negative) radians = -radians;
-    return true;
-}
+    double Unit(std::string_view name) const override { return FindUnit(name); }
+
+    // A number with or without its unit, or degrees, minutes and seconds: of these only the last number has a part after the
+    // mark, and each is less than makes one of the unit before.
+    bool ReadOne(TextCursor& cursor, Quantity& angle) const override {
+        double before = 0;
+        do {
+            double number = 0;
+            if (!cursor.Mixed(number)) return false;
+            const std::string_view name = cursor.TakeUnit();
+            if (name.empty() && !before) {
+                angle = {number, false};
+                return true;
+            }
+            const double unit = FindUnit(name);
+            if (!unit || (before && number >= std::round(before / unit))) return false;
+            angle = {angle.value + number * unit, true};
+            before = IsDivided(unit) && number == std::floor(number) ? unit : 0;
+        } while (before && cursor.NumberFollows());
+        return true;
+    }
+};
 
 std::string_view WithoutBlanks(std::string_view text) {
     const size_t first = text.find_first_not_of(" \t");
@@ -91,7 +87,7 @@ bool ReadBearing(std::string_view whole, double bare, double& radians) {
     double away = 0;
     if (side != 'e' && side != 'w') return false;
     const std::string_view middle = std::string_view(text).substr(1, text.size() - 2);
-    if (!ReadParts(WithoutBlanks(middle), bare, away) || away > kRight) return false;
+    if (!ReadMeasured(middle, Angles(bare), away) || away < 0 || away > kRight) return false;
     const bool north = text[0] == 'n';
     radians = (north ? 1 : 3) * kRight + (north == (side == 'w') ? away : -away);
     return true;
@@ -166,8 +162,7 @@ std::string WriteBearing(double degrees, int digits) {
 } // namespace
 
 bool ReadAngle(std::string_view text, AngleSystem bare, double& radians) {
-    if (text.size() > kLongestText) return false;
-    return ReadBearing(text, BareUnit(bare), radians) || ReadSigned(text, BareUnit(bare), radians);
+    return ReadBearing(text, BareUnit(bare), radians) || ReadMeasured(text, Angles(BareUnit(bare)), radians);
 }
 
 std::string WriteAngle(double radians, const AngleFormat& format) {

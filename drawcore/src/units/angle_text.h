@@ -1,7 +1,8 @@
 // Angles as text.
 //
-// Reading: "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), blanks around it. A minus counts for the
-// whole angle; the text is read in full or refused. Every form is read, whatever form the drawing writes.
+// Reading: "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), blanks around it, and calculations with them
+// (calculation.h), though not with bearings. A minus counts for the whole angle; the text is read in full or refused. Every
+// form is read, whatever form the drawing writes.
 #pragma once
 
 #include <string>

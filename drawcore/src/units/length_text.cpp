@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/units/text_cursor.h"
+#include "drawcore/src/units/calculation.h"
 #include "orlo/host/words.h"
 
 namespace drawcore {
@@ -14,51 +14,45 @@ namespace {
 constexpr double kInch = kMillimetresPerInch, kFoot = 304.8; // 12 inches, to the last digit
 constexpr int kMostDecimals = 12;
 
-class LengthReader {
+class Lengths : public Measure {
 public:
-    LengthReader(std::string_view text, const LengthUnit& bare) : cursor_(text), bare_(bare) {}
+    explicit Lengths(const LengthUnit& bare) : Measure(bare.millimetres) {}
 
-    bool Read(double& millimetres) {
-        cursor_.SkipBlanks();
-        const bool negative = cursor_.TakeMinus();
-        double sum = 0;
-        const LengthUnit* unit = nullptr;
-        if (!ReadPart(sum, unit)) return false;
-        if (unit->millimetres == kFoot && !cursor_.AtEnd() && !ReadInches(sum)) return false;
-        if (!cursor_.AtEnd() || !std::isfinite(sum)) return false;
-        millimetres = negative ? -sum : sum;
+    double Unit(std::string_view name) const override {
+        const LengthUnit* unit = FindLengthUnit(name);
+        return unit ? unit->millimetres : 0;
+    }
+
+    bool ReadOne(TextCursor& cursor, Quantity& length) const override {
+        std::string_view name;
+        if (!ReadPart(cursor, length, name)) return false;
+        if (length.measured && Unit(name) == kFoot) ReadInches(cursor, length.value);
         return true;
     }
 
 private:
-    // Inches after feet: "1'-6", "1' 6 1/2\"".
-    bool ReadInches(double& sum) {
-        cursor_.Take('-');
-        const LengthUnit& inch = *FindLengthUnit("in");
-        const LengthUnit* unit = &inch;
-        double inches = 0;
-        if (!ReadPart(inches, unit) || unit != &inch) return false;
-        sum += inches;
-        return true;
+    // Inches behind feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus.
+    void ReadInches(TextCursor& cursor, double& feet) const {
+        const TextCursor before = cursor;
+        if (!cursor.Take('-')) cursor.SkipBlanks();
+        Quantity inches;
+        std::string_view name;
+        if (ReadPart(cursor, inches, name) && (!inches.measured || Unit(name) == kInch))
+            feet += inches.measured ? inches.value : inches.value * kInch;
+        else
+            cursor = before;
     }
 
-    // A number with its unit. unit: what it is without one (null: bare_); what it turned out to be.
-    bool ReadPart(double& millimetres, const LengthUnit*& unit) {
+    // A number, and its unit if it has one.
+    bool ReadPart(TextCursor& cursor, Quantity& part, std::string_view& name) const {
         double number = 0;
-        if (!cursor_.Mixed(number)) return false;
-        cursor_.SkipBlanks();
-        const std::string_view name = cursor_.TakeWord();
-        if (!name.empty())
-            unit = FindLengthUnit(name);
-        else if (!unit)
-            unit = &bare_;
-        if (!unit) return false;
-        millimetres = number * unit->millimetres;
-        return true;
+        if (!cursor.JoinedNumber(number)) return false;
+        name = cursor.TakeUnit();
+        part = {number, false};
+        if (name.empty()) return true;
+        part = {number * Unit(name), true};
+        return Unit(name) != 0;
     }
-
-    TextCursor cursor_;
-    const LengthUnit& bare_;
 };
 
 std::string WithUnit(const std::string& number, const LengthUnit& unit, bool suffix) {
@@ -118,7 +112,7 @@ std::string WriteFraction(double number, const LengthFormat& format) {
 } // namespace
 
 bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres) {
-    return text.size() <= kLongestText && LengthReader(text, bare).Read(millimetres);
+    return ReadMeasured(text, Lengths(bare), millimetres);
 }
 
 std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format) {

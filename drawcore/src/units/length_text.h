@@ -1,7 +1,7 @@
 // Lengths as text.
 //
-// Reading: "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", blanks around it. A minus counts for the whole length; the
-// text is read in full or refused. Every form is read, whatever form the drawing writes.
+// Reading: "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", blanks around it, and calculations with them (calculation.h). A
+// minus counts for the whole length; the text is read in full or refused. Every form is read, whatever form the drawing writes.
 #pragma once
 
 #include <string>

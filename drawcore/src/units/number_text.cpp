@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
 #include "orlo/host/units.h"
 
@@ -109,14 +110,13 @@ double StringToDouble(int, const char* text, char** end) {
     char* const start = const_cast<char*>(text); // as strtod: the caller's own text comes back
     if (end) *end = start;
     if (!text) return 0;
-    size_t at = std::strspn(text, " \t");
-    const bool negative = text[at] == '-';
-    if (negative || text[at] == '+') ++at;
+    const std::string_view whole = text;
+    TextCursor cursor(whole);
+    cursor.SkipBlanks();
     double value = 0;
-    const size_t length = ScanUnsigned(text + at, value);
-    if (!length) return 0;
-    if (end) *end = start + at + length;
-    return negative ? -value : value;
+    if (!ReadCalculation(cursor, value)) return 0;
+    if (end) *end = start + (whole.size() - cursor.Rest().size());
+    return value;
 }
 
 void DoubleToString(int, double value, int digits, char* buffer, int, int exponentForm, int) {

@@ -38,11 +38,33 @@ bool TextCursor::TakeMinus() {
     return minus;
 }
 
+char TextCursor::TakeOperator(char one, char other) {
+    const size_t begin = at_;
+    SkipBlanks();
+    const char taken = Take(one) ? one : Take(other) ? other : '\0';
+    SkipBlanks();
+    const bool signs = (taken == '+' || taken == '-') && (Next() == '+' || Next() == '-');
+    if (taken && !signs) return taken;
+    at_ = begin;
+    return '\0';
+}
+
 std::string_view TextCursor::TakeWord() {
     const size_t begin = at_;
     while (at_ < text_.size() && IsWordCharacter(text_[at_]))
         ++at_;
     return text_.substr(begin, at_ - begin);
+}
+
+std::string_view TextCursor::TakeUnit() {
+    SkipBlanks();
+    return TakeWord();
+}
+
+bool TextCursor::NumberFollows() {
+    SkipBlanks();
+    double number = 0;
+    return ScanUnsigned(Rest(), number) != 0;
 }
 
 bool TextCursor::Number(double& value) {
@@ -68,20 +90,30 @@ bool TextCursor::Fraction(double& value) {
     return false;
 }
 
-bool TextCursor::Mixed(double& value) {
-    if (Fraction(value)) return true;
+// join: takes what stands between the two, at least a character.
+template <class Join>
+bool TextCursor::WholeAndFraction(double& value, Join join) {
     const size_t begin = at_;
-    double part = 0;
-    if (Whole(value)) {
-        const size_t behind = at_;
-        if (!Take('-')) SkipBlanks();
-        if (at_ > behind && Fraction(part)) {
-            value += part;
-            return true;
-        }
+    double whole = 0, part = 0;
+    if (Whole(whole) && join() && Fraction(part)) {
+        value = whole + part;
+        return true;
     }
     at_ = begin;
-    return Number(value);
+    return false;
+}
+
+bool TextCursor::Mixed(double& value) {
+    const auto blanks = [this] {
+        const size_t behind = at_;
+        SkipBlanks();
+        return at_ > behind;
+    };
+    return Fraction(value) || WholeAndFraction(value, blanks) || Number(value);
+}
+
+bool TextCursor::JoinedNumber(double& value) {
+    return WholeAndFraction(value, [this] { return Take('-'); }) || Mixed(value);
 }
 
 } // namespace drawcore

@@ -1,0 +1,187 @@
+// A descent through sums, products and factors that goes back to the last complete piece where it finds no other.
+#include "drawcore/src/units/calculation.h"
+
+#include <cmath>
+
+namespace drawcore {
+
+namespace {
+
+constexpr int kDeepest = 32; // brackets in brackets
+
+class Calculation {
+public:
+    // measure: null for plain numbers.
+    Calculation(TextCursor& cursor, const Measure* measure) : cursor_(cursor), measure_(measure) {}
+
+    bool Sum(Quantity& result) {
+        if (!Product(result)) return false;
+        for (;;) {
+            const TextCursor before = cursor_;
+            Quantity next;
+            const char sign = cursor_.TakeOperator('+', '-');
+            if (sign && Product(next) && Add(result, next, sign == '-' ? -1 : 1)) continue;
+            cursor_ = before;
+            return true;
+        }
+    }
+
+private:
+    bool Product(Quantity& result) {
+        if (!Factor(result, false)) return false;
+        for (;;) {
+            const TextCursor before = cursor_;
+            Quantity next;
+            const char sign = cursor_.TakeOperator('*', '/');
+            if (sign == '*' && Factor(next, false) && Multiply(result, next)) continue;
+            if (sign == '/' && Factor(next, true) && Divide(result, next)) continue;
+            cursor_ = before;
+            return true;
+        }
+    }
+
+    // A divisor is no fraction, of which "8/4/2" would else make 8 / (4/2).
+    bool Factor(Quantity& result, bool divisor) {
+        const TextCursor before = cursor_;
+        const bool negative = cursor_.TakeMinus();
+        if (cursor_.Take('(') ? Bracket(result) : divisor ? cursor_.Number(result.value) : One(result)) {
+            if (negative) result.value = -result.value;
+            return true;
+        }
+        cursor_ = before;
+        return false;
+    }
+
+    bool One(Quantity& result) {
+        return measure_ ? measure_->ReadOne(cursor_, result) : cursor_.Mixed(result.value);
+    }
+
+    bool Bracket(Quantity& result) {
+        if (depth_ == kDeepest) return false;
+        ++depth_;
+        cursor_.SkipBlanks();
+        const bool read = Sum(result);
+        --depth_;
+        cursor_.SkipBlanks();
+        return read && cursor_.Take(')') && (!measure_ || result.measured || UnitOfBracket(result));
+    }
+
+    bool UnitOfBracket(Quantity& result) {
+        const TextCursor before = cursor_;
+        const std::string_view name = cursor_.TakeUnit();
+        const double unit = measure_->Unit(name);
+        if (unit) return Set(result, {result.value * unit, true});
+        cursor_ = before;
+        return name.empty();
+    }
+
+    bool Add(Quantity& sum, Quantity next, double sign) const {
+        const bool measured = sum.measured || next.measured;
+        for (Quantity* part : {&sum, &next})
+            if (measured && !part->measured) part->value *= measure_->Bare();
+        return Set(sum, {sum.value + sign * next.value, measured});
+    }
+
+    static bool Multiply(Quantity& product, Quantity next) {
+        if (product.measured && next.measured) return false;
+        const double value = product.value * next.value;
+        const bool lost = value == 0 && product.value != 0 && next.value != 0;
+        return !lost && Set(product, {value, product.measured || next.measured});
+    }
+
+    static bool Divide(Quantity& quotient, Quantity divisor) {
+        if (divisor.measured || divisor.value == 0) return false;
+        const double value = quotient.value / divisor.value;
+        const bool lost = value == 0 && quotient.value != 0;
+        return !lost && Set(quotient, {value, quotient.measured});
+    }
+
+    static bool Set(Quantity& quantity, Quantity result) {
+        if (!std::isfinite(result.value)) return false;
+        quantity = result;
+        return true;
+    }
+
+    TextCursor& cursor_;
+    const Measure* measure_;
+    int depth_ = 0;
+};
+
+// One number of the measure alone.
+bool ReadLiteral(TextCursor cursor, const Measure& measure, double& value) {
+    Quantity one;
+    const bool negative = cursor.TakeMinus();
+    if (!measure.ReadOne(cursor, one) || !cursor.AtEnd()) return false;
+    const double size = one.measured ? one.value : one.value * measure.Bare();
+    value = negative ? -size : size;
+    return true;
+}
+
+bool ReadWithoutUnit(TextCursor cursor, const Measure& measure, double& value) {
+    double number = 0;
+    if (!ReadCalculation(cursor, number) || !cursor.AtEnd()) return false;
+    value = number * measure.Bare();
+    return true;
+}
+
+// A calculation of plain numbers, and a unit for all of it.
+bool ReadWithLastUnit(TextCursor cursor, const Measure& measure, double& value) {
+    double number = 0;
+    if (!ReadCalculation(cursor, number)) return false;
+    const double unit = measure.Unit(cursor.TakeUnit());
+    value = number * unit;
+    return unit != 0 && cursor.AtEnd();
+}
+
+bool ReadWithUnits(TextCursor cursor, const Measure& measure, double& value) {
+    Quantity sum;
+    if (!Calculation(cursor, &measure).Sum(sum) || !cursor.AtEnd()) return false;
+    value = sum.value;
+    return sum.measured;
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// "6-1/2" somewhere. With units around, it is six and a half to some and five and a half to others.
+bool HasJoinedFraction(std::string_view text) {
+    for (size_t hyphen = text.find('-'); hyphen != text.npos; hyphen = text.find('-', hyphen + 1)) {
+        const size_t bar = text.find_first_not_of("0123456789", hyphen + 1);
+        const bool fraction = bar != text.npos && bar > hyphen + 1 && text[bar] == '/';
+        if (fraction && hyphen > 0 && IsDigit(text[hyphen - 1])) return true;
+    }
+    return false;
+}
+
+} // namespace
+
+bool ReadCalculation(TextCursor& cursor, double& value) {
+    TextCursor literal = cursor;
+    const bool negative = literal.TakeMinus();
+    double number = 0;
+    if (literal.JoinedNumber(number) && TextCursor(literal).AtEnd()) {
+        cursor = literal;
+        value = negative ? -number : number;
+        return true;
+    }
+    Quantity sum;
+    if (!Calculation(cursor, nullptr).Sum(sum)) return false;
+    value = sum.value;
+    return true;
+}
+
+bool ReadMeasured(std::string_view text, const Measure& measure, double& value) {
+    if (text.size() > kLongestText) return false;
+    TextCursor cursor(text);
+    cursor.SkipBlanks();
+    double read = 0;
+    const bool known = ReadLiteral(cursor, measure, read) || ReadWithoutUnit(cursor, measure, read) ||
+                       (!HasJoinedFraction(text) &&
+                        (ReadWithLastUnit(cursor, measure, read) || ReadWithUnits(cursor, measure, read)));
+    if (!known || !std::isfinite(read)) return false;
+    value = read;
+    return true;
+}
+
+} // namespace drawcore

@@ -1,0 +1,51 @@
+// Numbers, lengths and angles from texts.
+
+#include <cmath>
+#include <string>
+
+#include "drawcore/src/units/angle_text.h"
+#include "drawcore/src/units/decimal_mark.h"
+#include "drawcore/src/units/length_text.h"
+#include "orlo/host/units.h"
+
+char drawcore::DecimalMark() {
+    return '.';
+}
+
+namespace {
+
+constexpr double kUntouched = 7;
+
+void Require(bool holds) {
+    if (!holds) __builtin_trap();
+}
+
+double NumberIn(const std::string& text) {
+    char* end = nullptr;
+    const double number = StringToDouble(0, text.c_str(), &end);
+    Require(end >= text.c_str() && end <= text.c_str() + text.size() && std::isfinite(number));
+    return number;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    std::string text(reinterpret_cast<const char*>(data), size);
+    text.resize(text.find('\0') == text.npos ? size : text.find('\0'));
+    char* end = nullptr;
+    const double number = StringToDouble(0, text.c_str(), &end);
+    const std::string taken(text.c_str(), static_cast<const char*>(end));
+    Require(NumberIn(text) == NumberIn(taken) || taken.find('-') != taken.npos); // "6-1/2x" is a difference
+    if (!taken.empty() && taken.find('-') == taken.npos) {
+        const double alike = NumberIn("1*(" + taken + ")");
+        Require(alike == number || taken.find('(') != taken.npos); // which may be too deep
+    }
+
+    double value = kUntouched;
+    const bool isLength = drawcore::ReadLength(text, *drawcore::FindLengthUnit("in"), value);
+    Require(std::isfinite(value) && (isLength || value == kUntouched));
+    value = kUntouched;
+    const bool isAngle = drawcore::ReadAngle(text, drawcore::AngleSystem::Degrees, value);
+    Require(std::isfinite(value) && (isAngle || value == kUntouched));
+    return 0;
+}
