@@ -57,7 +57,7 @@ std::string Document::Name() const {
 }
 
 bool Document::IsModified() const {
-    return ::DrawingGetUndoMark(Drawing()) != m_savedMark;
+    return ::DrawingGetUndoMark(Drawing()) != m_savedMark || m_styles.Changes() != m_savedStyles;
 }
 
 bool Document::Save(const std::string& path, bool overChanged) {
@@ -67,6 +67,7 @@ bool Document::Save(const std::string& path, bool overChanged) {
     case kSaveDone:
         m_path = path;
         m_savedMark = ::DrawingGetUndoMark(Drawing());
+        m_savedStyles = m_styles.Changes();
         return true;
     case kSaveFileChanged:
         return false;

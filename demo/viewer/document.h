@@ -37,7 +37,8 @@ public:
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
 
-    // Whether changes of graphics are unsaved; undo and redo can come back to what is saved. Styles are not in the file.
+    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count too,
+    // although the file holds none of their names.
     bool IsModified() const;
     // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
     // file that it was opened from; overChanged: writes all the same. Throws SaveError.
@@ -86,3 +87,4 @@ private:
     StyleBook m_styles;
     uint32_t m_savedMark;
 };
+    uint32_t m_savedStyles = 0;

@@ -236,7 +236,9 @@ bool CMainFrame::Save(const std::string& path) {
         return false;
     }
     RecentFiles::Add(path);
-    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
+    const bool hasStyles = !m_document->Styles().All().empty();
+    m_status.ShowMessage("Saved " + SystemText(m_document->Name()) +
+                         (hasStyles ? "; the file holds no styles" : ""));
     ShowTitle();
     return true;
 }
@@ -326,11 +328,15 @@ void CMainFrame::OnEditRedo() {
 // ---- Styles
 
 void CMainFrame::OnNewStyle() {
-    if (CanDo(ID_STYLE_NEW)) m_status.ShowMessage(NewStyle(this, *m_document));
+    if (!CanDo(ID_STYLE_NEW)) return;
+    m_status.ShowMessage(NewStyle(this, *m_document));
+    ShowTitle();
 }
 
 void CMainFrame::OnStyleProperties() {
-    if (CanDo(ID_STYLE_PROPERTIES)) m_status.ShowMessage(EditStyles(this, *m_document));
+    if (!CanDo(ID_STYLE_PROPERTIES)) return;
+    m_status.ShowMessage(EditStyles(this, *m_document));
+    ShowTitle();
 }
 
 void CMainFrame::OnApplyStyle() {
