@@ -83,6 +83,13 @@ std::vector<GraphicStruct*> Document::Selectable() const {
     return graphics;
 }
 
+std::vector<GraphicStruct*> Document::StillSelectable() const {
+    std::vector<GraphicStruct*> graphics;
+    for (GraphicStruct* graphic : m_selection.Members())
+        if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
+    return graphics;
+}
+
 GraphicStruct* Document::Next(bool forward) const {
     const std::vector<GraphicStruct*> all = Selectable();
     if (all.empty()) return nullptr;
@@ -99,6 +106,22 @@ std::string Document::LengthText(double length) const {
     return text;
 }
 
+// Closes the step in which changes gather, and opens the next one at the end.
+class Document::GatheringPause {
+public:
+    explicit GatheringPause(Document& document) : m_document(document) {
+        if (m_document.m_isGathering) ::DrawingEndUndo(m_document.Drawing());
+    }
+    ~GatheringPause() {
+        if (m_document.m_isGathering) ::DrawingBeginUndo(m_document.Drawing());
+    }
+    GatheringPause(const GatheringPause&) = delete;
+    GatheringPause& operator=(const GatheringPause&) = delete;
+
+private:
+    Document& m_document;
+};
+
 int Document::Change(const std::function<void()>& change) {
     return Attempt([&] {
         change();
@@ -107,6 +130,7 @@ int Document::Change(const std::function<void()>& change) {
 }
 
 int Document::Attempt(const std::function<bool()>& change) {
+    const GatheringPause pause(*this);
     ::DrawingBeginUndo(Drawing());
     try {
         if (change()) return ::DrawingEndUndo(Drawing());
@@ -118,6 +142,28 @@ int Document::Attempt(const std::function<bool()>& change) {
     return 0;
 }
 
+void Document::BeginGathering() {
+    m_isGathering = true;
+    ::DrawingBeginUndo(Drawing());
+}
+
+void Document::EndGathering() {
+    m_isGathering = false;
+    ::DrawingEndUndo(Drawing());
+}
+
+int Document::TakeGathered() {
+    const int changed = ::DrawingEndUndo(Drawing());
+    ::DrawingBeginUndo(Drawing());
+    return changed;
+}
+
+int Document::DropGathered() {
+    const int changed = ::DrawingCancelUndo(Drawing());
+    ::DrawingBeginUndo(Drawing());
+    return changed;
+}
+
 int Document::DroppedSteps() const {
     return ::DrawingCountForgotten(Drawing());
 }
@@ -127,6 +173,7 @@ int Document::UndoSteps() const {
 }
 
 int Document::Undo() {
+    const GatheringPause pause(*this);
     return ::DrawingUndo(Drawing());
 }
 
@@ -135,5 +182,6 @@ int Document::RedoSteps() const {
 }
 
 int Document::Redo() {
+    const GatheringPause pause(*this);
     return ::DrawingRedo(Drawing());
 }

@@ -57,6 +57,8 @@ public:
 
     // In the order of drawing: those that are seen and can be selected.
     std::vector<GraphicStruct*> Selectable() const;
+    // The selected graphics without those whose layer has been locked or hidden since.
+    std::vector<GraphicStruct*> StillSelectable() const;
     // The next one after the last of the selection, round and round; null if nothing can be selected.
     GraphicStruct* Next(bool forward) const;
 
@@ -67,6 +69,12 @@ public:
     int Change(const std::function<void()>& change);
     // The same; with false from the change all is at once as if it had never been.
     int Attempt(const std::function<bool()>& change);
+    // For a window that stays open: what it changes from here on, outside of Change and Attempt, gathers until it is taken as
+    // one step, or dropped. Change, Attempt, Undo and Redo make a step of it first.
+    void BeginGathering();
+    void EndGathering();
+    int TakeGathered(); // graphics that the step has changed; with 0 there is none
+    int DropGathered(); // graphics changed back
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
     int DroppedSteps() const;
     int UndoSteps() const;
@@ -77,6 +85,8 @@ public:
     int Redo();
 
 private:
+    class GatheringPause;
+
     Document(const std::string& path, OwnedDrawing drawing);
 
     std::string m_path;
@@ -86,5 +96,6 @@ private:
     Selection m_selection;
     StyleBook m_styles;
     uint32_t m_savedMark;
-};
     uint32_t m_savedStyles = 0;
+    bool m_isGathering = false;
+};

@@ -148,6 +148,7 @@ void CDrawingView::ClearSelection() {
 }
 
 void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
+    if (!m_client.MayChangeSelection()) return;
     m_document->Selected().Apply(graphics, way);
     ShowSelectionChange();
 }

@@ -20,6 +20,8 @@
 class DrawingViewClient {
 public:
     virtual ~DrawingViewClient();
+    // Whether another selection may come; asked before each.
+    virtual bool MayChangeSelection() = 0;
     virtual void OnSelectionChanged() = 0;
     virtual void OnPointerMoved(WorldPoint point) = 0;
     virtual void OnEditProperties() = 0;

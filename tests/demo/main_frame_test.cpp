@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <memory>
 
+#include <shlobj.h>
+
 #include "demo/viewer.h"
+#include "demo/viewer/file_name.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "orlo/host/graphic.h"
@@ -191,6 +194,37 @@ TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
     user.Click(view(), Pixel(10, 5));
     user.Key('I', UserInput::kControl);
     EXPECT_EQ(selection().Count(), 2);
+}
+
+// As the system hands over what was dropped on a window.
+HDROP Dropped(const std::vector<std::string>& files) {
+    std::wstring names; // each with its NUL, and one more at the end
+    for (const std::string& file : files)
+        names += Wide(file) + L'\0';
+    const size_t bytes = (names.size() + 1) * sizeof(wchar_t);
+    const HGLOBAL block = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+    auto* drop = static_cast<DROPFILES*>(::GlobalLock(block));
+    drop->pFiles = sizeof(DROPFILES);
+    drop->fWide = TRUE;
+    std::copy(names.begin(), names.end(), reinterpret_cast<wchar_t*>(drop + 1));
+    ::GlobalUnlock(block);
+    return static_cast<HDROP>(block);
+}
+
+TEST_F(Viewer, TheFirstOfDroppedFilesIsOpenedAndTheOthersAreKept) {
+    const std::string first = TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
+    const auto drop = [&](const std::vector<std::string>& files) {
+        frame->PostMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(files)));
+        user.Wait(0);
+    };
+    drop({first, file.Path()});
+    EXPECT_EQ(document().Path(), first);
+    EXPECT_EQ(RecentFiles::List()[1], file.Path());
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
+    MessageBoxWatcher boxes(IDCANCEL);
+    drop({file.Path()});
+    EXPECT_EQ(boxes.OnlyText().find("Save the changes"), 0u);
+    EXPECT_EQ(document().Path(), first);
 }
 
 // The red line becomes as wide as that.
