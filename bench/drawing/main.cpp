@@ -52,7 +52,7 @@ void OpenAndSave(const fs::path& from, const fs::path& to, bool change) {
     if (change)
         orlo::host::WriteProperty(*orlo::host::Members(::DrawingGetRoot(drawing)).begin(), kPropPenColor,
                                   uint32_t{255});
-    if (::DrawingSaveDxf(drawing, to.c_str(), 0, message, sizeof message) != kSaveDone)
+    if (::DrawingSaveDxf(drawing, to.c_str(), 0, nullptr, message, sizeof message) != kSaveDone)
         std::printf("%s\n", message);
     ::DrawingDispose(&drawing);
 }

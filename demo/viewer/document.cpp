@@ -25,8 +25,9 @@ struct Opening {
     std::vector<std::string> findings;
 };
 
-void ShowProgress(void* context, int permille) {
+int ShowProgress(void* context, int permille) {
     static_cast<Opening*>(context)->progress(permille);
+    return 1;
 }
 
 void KeepFinding(void* context, int line, const char* text) {
@@ -63,7 +64,7 @@ bool Document::IsModified() const {
 bool Document::Save(const std::string& path, bool overChanged) {
     char message[512] = "";
     switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), overChanged ? uint32_t{kSaveOverChanged} : 0,
-                             message, sizeof message)) {
+                             nullptr, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
         m_savedMark = ::DrawingGetUndoMark(Drawing());

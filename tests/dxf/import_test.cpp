@@ -26,6 +26,7 @@
 namespace {
 
 struct Heard {
+    int cancelAt = 1001; // never
     std::vector<int> progress;
     std::string findings;
     char message[256] = "not written";
@@ -33,7 +34,9 @@ struct Heard {
 
 OwnedDrawing Open(const std::wstring& path, Heard& heard) {
     const auto progress = [](void* context, int permille) {
-        static_cast<Heard*>(context)->progress.push_back(permille);
+        Heard& hears = *static_cast<Heard*>(context);
+        hears.progress.push_back(permille);
+        return permille < hears.cancelAt ? 1 : 0;
     };
     const auto finding = [](void* context, int line, const char* text) {
         static_cast<Heard*>(context)->findings += std::to_string(line) + " " + text + "\n";
@@ -145,6 +148,23 @@ TEST(Import, AFileThatIsNotThereGivesAMessage) {
     EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", heard));
     EXPECT_STREQ(heard.message, "the file cannot be opened");
     EXPECT_FALSE(DrawingOpenDxf(nullptr, nullptr, nullptr, 0));
+}
+
+TEST(Import, CanBeCancelledWithEachReport) {
+    const std::wstring path = std::filesystem::path(kDrawings + "kabeja-draft4-roof-details.dxf").wstring();
+    Heard whole;
+    ASSERT_TRUE(Open(path, whole));
+    DrawCoreCensus before{}, after{};
+    DrawCoreGetCensus(&before);
+    for (const int permille : whole.progress) {
+        Heard heard;
+        heard.cancelAt = permille;
+        EXPECT_FALSE(Open(path, heard)) << permille;
+        EXPECT_STREQ(heard.message, "cancelled");
+        EXPECT_EQ(heard.progress.back(), permille) << "and nothing is reported afterwards";
+    }
+    DrawCoreGetCensus(&after);
+    EXPECT_EQ(before.graphics, after.graphics);
 }
 
 TEST(Import, TablesAreThoseOfTheFile) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <functional>
@@ -41,13 +42,18 @@ class Save : public testing::Test {
 protected:
     ~Save() override { fs::remove(path); }
 
-    int Write(const OwnedDrawing& drawing, uint32_t flags = 0) {
+    int Write(const OwnedDrawing& drawing, uint32_t flags = 0, const DxfListener* listener = nullptr) {
         char text[256] = "not written";
-        const int result = DrawingSaveDxf(drawing.get(), path.c_str(), flags, text, sizeof text);
+        const int result = DrawingSaveDxf(drawing.get(), path.c_str(), flags, listener, text, sizeof text);
         message = text;
         return result;
     }
     bool IsWritten(const fs::path& original) const { return ReadBytes(path) == ReadBytes(original); }
+
+    bool LeavesOthersBehind() const {
+        return std::any_of(fs::directory_iterator(path.parent_path()), fs::directory_iterator(),
+                           [](const auto& entry) { return entry.path().extension() == ".tmp"; });
+    }
 
     const fs::path path = fs::temp_directory_path() / L"ges\u00E4ichert \u4E57.dxf";
     std::string message;
@@ -209,6 +215,43 @@ TEST_F(Save, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
     EXPECT_TRUE(IsWritten(kDrawings + "made-gbk-R2004.dxf"));
 }
 
+struct Reports {
+    std::vector<int> heard;
+    int cancelAt = 1001; // never
+    static int Hear(void* context, int permille) {
+        Reports& reports = *static_cast<Reports*>(context);
+        reports.heard.push_back(permille);
+        return permille < reports.cancelAt ? 1 : 0;
+    }
+};
+
+TEST_F(Save, CanBeCancelledWithEachReport) {
+    const fs::path original = kDrawings + "acadsharp-sample-AC1032.dxf";
+    fs::copy_file(original, path, fs::copy_options::overwrite_existing);
+    const OwnedDrawing drawing = Open(path);
+    ForGraphics(DrawingGetRoot(drawing.get()),
+                [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("x")); });
+    Reports whole;
+    const DxfListener listener = {&whole, Reports::Hear, nullptr};
+    ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
+    EXPECT_TRUE(std::is_sorted(whole.heard.begin(), whole.heard.end()));
+    EXPECT_EQ(whole.heard.back(), 1000);
+    const std::string saved = ReadBytes(path);
+    ForGraphics(DrawingGetRoot(drawing.get()),
+                [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("y")); });
+    for (const int permille : whole.heard) {
+        Reports reports;
+        reports.cancelAt = permille;
+        const DxfListener cancels = {&reports, Reports::Hear, nullptr};
+        EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCancelled) << permille;
+        EXPECT_EQ(message, "cancelled");
+        EXPECT_EQ(reports.heard.back(), permille) << "and nothing is reported afterwards";
+        EXPECT_TRUE(ReadBytes(path) == saved) << permille;
+        EXPECT_FALSE(LeavesOthersBehind()) << permille;
+    }
+    EXPECT_EQ(Write(drawing), kSaveDone) << "as if nobody had cancelled: " << message;
+}
+
 TEST_F(Save, LeavesTheFileAloneWhereItFails) {
     const fs::path original = kDrawings + "made-gbk-R2004.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);
@@ -236,15 +279,13 @@ TEST_F(Save, LeavesTheFileAloneWhereItFails) {
     VertexSet(moved, x, moved->y, moved->z);
 
     EXPECT_TRUE(IsWritten(original));
-    EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), {}),
-              std::count_if(fs::directory_iterator(path.parent_path()), fs::directory_iterator(),
-                            [](const auto& entry) { return entry.path().extension() != ".tmp"; }));
+    EXPECT_FALSE(LeavesOthersBehind());
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 
     const OwnedDrawing made(DrawingNew());
     EXPECT_EQ(Write(made), kSaveFailed);
     EXPECT_EQ(message, "the drawing was not opened from a DXF file");
-    EXPECT_EQ(DrawingSaveDxf(nullptr, path.c_str(), 0, nullptr, 0), kSaveFailed);
+    EXPECT_EQ(DrawingSaveDxf(nullptr, path.c_str(), 0, nullptr, nullptr, 0), kSaveFailed);
 }
 
 } // namespace

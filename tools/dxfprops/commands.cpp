@@ -124,7 +124,7 @@ size_t SetProperties(const std::string& file, const std::vector<Condition>& wher
     if (output == file && !dxf::Holds(target, drawing.Bytes()))
         throw dxf::SaveError("the file was changed while this program worked on it");
     dxf::FileReplacement replacement(target);
-    replacement.Write(bytes);
+    replacement.Write(bytes, {});
     replacement.TakePlace();
     return wanted.size();
 }

@@ -1,7 +1,7 @@
 // Opening and saving DXF drawings (ASCII, R12 to 2018), for host programs.
 //
 //   char message[256];
-//   DxfListener listener = {&bar, ShowProgress, nullptr};
+//   DxfListener listener = {&bar, ShowProgress, nullptr}; // int ShowProgress(void* bar, int permille)
 //   DrawingStruct* drawing = DrawingOpenDxf(L"roof.dxf", &listener, message, sizeof message);
 //   if (!drawing) ...                                  // message: "line 1234: group code 'x' is not a number"
 #pragma once
@@ -9,19 +9,21 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// What a program learns while a drawing opens; context is handed to both, and either may be null.
+// What a program learns while a drawing opens or is saved, on the thread that has called; context is handed to both, and
+// either may be null.
 typedef struct DxfListener {
     void* context;
-    void (*progress)(void* context, int permille);              // the share done, 0 to 1000, rising
+    int (*progress)(void* context, int permille); // the share done, 0 to 1000, rising; 0 cancels
     void (*finding)(void* context, int line, const char* text); // something was left out; line 0: no one line
 } DxfListener;
 
 // A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
-// in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null.
+// in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null. When it cancels,
+// the message is "cancelled".
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // Results of DrawingSaveDxf.
-enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2 };
+enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3 };
 // Flag: a file that another program has changed since the drawing was opened is overwritten anyway.
 enum { kSaveOverChanged = 1 };
 
@@ -32,5 +34,7 @@ enum { kSaveOverChanged = 1 };
 // kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened
 // from, and another program has changed it since; nothing was written. kSaveFailed: message (size bytes with the NUL) says
 // why, and no file was changed: the drawing comes from no file, graphics were added or removed, the disk is full ...
+// kSaveCancelled: the listener, which may be null, has cancelled, and no file was changed.
 // Properties of graphics and the places of insertions are saved, also within blocks; blocks that a program has made are not.
-DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, char* message, int size);
+DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
+                                char* message, int size);

@@ -7,6 +7,7 @@
 // refused. A single value or reference that makes no sense costs its entity only, and a finding says so.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -33,6 +34,9 @@ private:
 // Called now and then with the share that is done, 0 to 1000, rising; once at least, and with 1000 at the
 // end.
 using Progress = std::function<void(int permille)>;
+inline int Permille(size_t done, size_t whole) {
+    return static_cast<int>(static_cast<double>(done) / static_cast<double>(whole) * 1000);
+}
 
 // The bytes need not outlive the call. Throws ReadError, std::bad_alloc.
 Document Read(std::string_view bytes, const Progress& progress);

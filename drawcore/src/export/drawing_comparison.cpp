@@ -142,10 +142,11 @@ private:
 // touched, and whose record is the same to the byte, is what it was: that is not made again.
 class ReadBack {
 public:
-    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Sources& sources)
+    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Sources& sources,
+             const dxf::Progress& progress)
         : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document),
-          sources_(sources), tables_(ImportTables(document, read_)), import_(document, tables_, read_),
-          comparison_(saved, read_) {}
+          sources_(sources), progress_(progress), tables_(ImportTables(document, read_)),
+          import_(document, tables_, read_), comparison_(saved, read_) {}
 
     std::string FirstDifference() {
         if (IsSame()) return {};
@@ -169,6 +170,7 @@ private:
         size_t place = 0;
         for (size_t i = 0; i < entities.size(); ++i) {
             const dxf::Entity& entity = entities[i];
+            Advance(entity.offset);
             if (!inBlock && entity.inPaperSpace) continue;
             const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
             if (place < saved.MemberCount() && IsAsBefore(*saved.MemberAt(place), entity.offset, end)) {
@@ -183,6 +185,11 @@ private:
                     return false;
         }
         return place == saved.MemberCount();
+    }
+
+    void Advance(size_t offset) {
+        const int permille = dxf::Permille(offset, text_.size());
+        if (permille > done_) progress_(done_ = permille);
     }
 
     static bool IsTouched(const Graphic& graphic) {
@@ -217,17 +224,19 @@ private:
     const std::string_view before_, text_;
     const dxf::Document& document_;
     Sources& sources_;
+    const dxf::Progress& progress_;
     Drawing read_; // its tables alone
     const ImportedTables tables_;
     EntityImport import_;
     Comparison comparison_;
+    int done_ = 0;
 };
 
 } // namespace
 
 std::string FirstDifference(const Drawing& saved, std::string_view text, const dxf::Document& read,
-                            Sources& sources) {
-    return ReadBack(saved, text, read, sources).FirstDifference();
+                            Sources& sources, const dxf::Progress& progress) {
+    return ReadBack(saved, text, read, sources, progress).FirstDifference();
 }
 
 } // namespace drawcore

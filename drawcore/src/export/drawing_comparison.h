@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/dxf/document.h"
+#include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/graphics/graphic.h"
 
 namespace drawcore {
@@ -19,6 +19,6 @@ using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 // of numbers. Blocks that the program has made, which the document lacks, do not count. Without a difference, sources has
 // all graphics of the file. The text is what the document was read from.
 std::string FirstDifference(const Drawing& saved, std::string_view text, const dxf::Document& read,
-                            Sources& sources);
+                            Sources& sources, const dxf::Progress& progress);
 
 } // namespace drawcore

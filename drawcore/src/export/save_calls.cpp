@@ -13,6 +13,7 @@
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/import_tables.h"
+#include "drawcore/src/import/progress_report.h"
 #include "drawcore/src/save/file_replacement.h"
 #include "drawcore/src/save/save_error.h"
 
@@ -69,6 +70,9 @@ private:
     bool touched_ = false, hasOthers_ = false;
 };
 
+// The shares of 1000 that are done then.
+constexpr int kPatched = 200, kReadBack = 500, kCompared = 700;
+
 // What a drawing becomes when it is saved.
 struct ChangedSource {
     std::string bytes;
@@ -77,7 +81,7 @@ struct ChangedSource {
 };
 
 // None, and the source stays, if nobody has touched the drawing.
-std::optional<ChangedSource> Changed(const Drawing& drawing) {
+std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressReport& report) {
     const DxfSource& source = *drawing.source;
     const std::string_view text = dxf::TextOf(source.bytes);
     dxf::DrawingPatch patch(text, source.known.Tables());
@@ -86,9 +90,10 @@ std::optional<ChangedSource> Changed(const Drawing& drawing) {
     if (!changes.WasTouched()) return std::nullopt;
     ChangedSource changed;
     changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
-    const dxf::Document document = dxf::Read(changed.bytes, {});
-    const std::string difference =
-        FirstDifference(drawing, dxf::TextOf(changed.bytes), document, changed.sources);
+    report(kPatched);
+    const dxf::Document document = dxf::Read(changed.bytes, report.Part(kPatched, kReadBack));
+    const std::string difference = FirstDifference(drawing, dxf::TextOf(changed.bytes), document,
+                                                   changed.sources, report.Part(kReadBack, kCompared));
     if (!difference.empty()) throw dxf::SaveError(difference);
     changed.known = document.Tables();
     return changed;
@@ -108,15 +113,16 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
     return std::filesystem::equivalent(a, b, error);
 }
 
-int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags) {
+int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, const ProgressReport& report) {
     DxfSource& source = *drawing.source;
     const bool replacesSource = IsSameFile(path, source.path);
     if (replacesSource && !(flags & kSaveOverChanged) && !dxf::Holds(path, source.bytes))
         return kSaveFileChanged;
-    std::optional<ChangedSource> changed = Changed(drawing);
+    report(0);
+    std::optional<ChangedSource> changed = Changed(drawing, report);
     dxf::FileReplacement file(path);
-    file.Write(changed ? changed->bytes : source.bytes);
-    file.TakePlace();
+    file.Write(changed ? changed->bytes : source.bytes, report.Part(kCompared, 1000));
+    file.TakePlace(); // from here on nothing is cancelled
     if (changed) TakeOver(std::move(*changed), source);
     source.path = path;
     return kSaveDone;
@@ -124,7 +130,8 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags) {
 
 } // namespace
 
-int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, char* message, int size) {
+int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, const DxfListener* listener,
+                   char* message, int size) {
     Drawing* found = Drawing::Find(drawing);
     CopyText("", message, size);
     if (!found || !path) return kSaveFailed;
@@ -133,9 +140,12 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         return kSaveFailed;
     }
     try {
-        const int result = Save(*found, std::filesystem::absolute(path), flags);
+        const int result = Save(*found, std::filesystem::absolute(path), flags, ProgressReport(listener));
         if (result == kSaveFileChanged) CopyText("the file has changed since it was opened", message, size);
         return result;
+    } catch (const Cancelled& cancelled) {
+        CopyText(cancelled.what(), message, size);
+        return kSaveCancelled;
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory to save the drawing", message, size);
     } catch (const std::exception& error) { // SaveError, ReadError, of a path

@@ -7,6 +7,7 @@
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/dxf_import.h"
+#include "drawcore/src/import/progress_report.h"
 
 using namespace drawcore;
 
@@ -29,18 +30,15 @@ size_t CountGraphics(const Drawing& drawing) {
     return count;
 }
 
-std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener& listener) {
-    const auto report = [&](int permille) {
-        if (listener.progress) listener.progress(listener.context, permille);
-    };
+std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) {
+    const ProgressReport report(listener);
     std::string bytes = dxf::ReadBytes(path);
-    dxf::Document document = dxf::Read(bytes, [&](int permille) { report(permille * kReadingShare / 1000); });
-    std::unique_ptr<Drawing> drawing = ImportDxf(
-        document, [&](int permille) { report(kReadingShare + permille * (1000 - kReadingShare) / 1000); });
+    dxf::Document document = dxf::Read(bytes, report.Part(0, kReadingShare));
+    std::unique_ptr<Drawing> drawing = ImportDxf(document, report.Part(kReadingShare, 1000));
     for (const dxf::Finding& finding : document.findings)
-        if (listener.finding)
-            listener.finding(listener.context, static_cast<int>(finding.line),
-                             CodePageFromUtf8(finding.text).c_str());
+        if (listener && listener->finding)
+            listener->finding(listener->context, static_cast<int>(finding.line),
+                              CodePageFromUtf8(finding.text).c_str());
     drawing->source = std::make_unique<DxfSource>(std::move(bytes), document);
     drawing->source->path = std::filesystem::absolute(path);
     drawing->source->graphics = CountGraphics(*drawing);
@@ -54,10 +52,10 @@ DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener* listener, 
     if (!path) return nullptr;
     CopyText("", message, size);
     try {
-        return Open(path, listener ? *listener : DxfListener()).release();
+        return Open(path, listener).release();
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory for the drawing", message, size);
-    } catch (const std::exception& error) { // dxf::ReadError; an invalid path
+    } catch (const std::exception& error) { // dxf::ReadError, Cancelled; an invalid path
         CopyText(error.what(), message, size);
     }
     return nullptr;

@@ -46,7 +46,7 @@ private:
 
     void Advance() {
         constexpr size_t kOften = 4096;
-        if (++done_ % kOften == 0 && progress_) progress_(static_cast<int>(done_ * 1000 / whole_));
+        if (++done_ % kOften == 0 && progress_) progress_(dxf::Permille(done_, whole_));
     }
 
     dxf::Document& document_;

@@ -23,7 +23,8 @@ namespace dxf {
 
 namespace {
 
-constexpr int kMostTries = 1000; // names beside the target
+constexpr int kMostTries = 1000;           // names beside the target
+constexpr size_t kPiece = size_t{1} << 20; // that is written or read at once
 
 [[noreturn]] void Fail(const std::string& what, const std::error_code& why) {
     throw SaveError(what + ": " + why.message());
@@ -112,11 +113,15 @@ FileReplacement::~FileReplacement() {
     if (!path_.empty()) std::filesystem::remove(path_, ignored);
 }
 
-void FileReplacement::Write(std::string_view bytes) {
+void FileReplacement::Write(std::string_view bytes, const Progress& progress) {
     OwnedFile file = OpenToWrite(path_);
-    const bool written = file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-                         FlushToDisk(file.get());
-    if (!written) Fail("the drawing cannot be written", LastError());
+    bool written = file != nullptr;
+    for (size_t at = 0; written && at < bytes.size(); at += kPiece) {
+        const std::string_view piece = bytes.substr(at, kPiece);
+        written = std::fwrite(piece.data(), 1, piece.size(), file.get()) == piece.size();
+        if (progress) progress(Permille(at + piece.size(), bytes.size()));
+    }
+    if (!written || !FlushToDisk(file.get())) Fail("the drawing cannot be written", LastError());
     file.reset();
     if (!Holds(path_, bytes))
         throw SaveError("the drawing was written, but the disk gives back something else");
@@ -136,7 +141,7 @@ void FileReplacement::TakePlace() {
 
 bool Holds(const std::filesystem::path& path, std::string_view bytes) {
     std::ifstream file(path, std::ios::binary);
-    std::string piece(size_t{1} << 20, '\0');
+    std::string piece(kPiece, '\0');
     while (file) {
         file.read(piece.data(), static_cast<std::streamsize>(piece.size()));
         const auto size = static_cast<size_t>(file.gcount());

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "drawcore/src/dxf/reader.h"
+
 namespace dxf {
 
 class FileReplacement {
@@ -17,8 +19,8 @@ public:
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // All at once, onto the disk, and read back from there: SaveError if the bytes differ.
-    void Write(std::string_view bytes);
+    // Onto the disk, and read back from there: SaveError if the bytes differ. What progress throws ends it.
+    void Write(std::string_view bytes, const Progress& progress);
     // SaveError leaves the target as it was.
     void TakePlace();
 
