@@ -20,28 +20,32 @@ bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
     return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
 }
 
-struct Opening {
+// What the listener of an opening or saving drawing keeps.
+struct Task {
     const Document::Progress& progress;
     std::vector<std::string> findings;
+    bool isCancelled = false;
 };
 
 int ShowProgress(void* context, int permille) {
-    static_cast<Opening*>(context)->progress(permille);
-    return 1;
+    Task& task = *static_cast<Task*>(context);
+    if (!task.progress(permille)) task.isCancelled = true;
+    return !task.isCancelled;
 }
 
 void KeepFinding(void* context, int line, const char* text) {
     const std::string place = line ? "line " + std::to_string(line) + ": " : "";
-    static_cast<Opening*>(context)->findings.push_back(place + text);
+    static_cast<Task*>(context)->findings.push_back(place + text);
 }
 
 } // namespace
 
 std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
     char message[512] = "";
-    Opening opening = {progress, {}};
+    Task opening = {progress, {}};
     const DxfListener listener = {&opening, ShowProgress, KeepFinding};
     OwnedDrawing drawing(::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message));
+    if (!drawing && opening.isCancelled) throw Cancelled();
     if (!drawing) throw OpenError(path + "\n\n" + message);
     ::AppSetCurrentDrawing(drawing.get());
     std::unique_ptr<Document> document(new Document(path, std::move(drawing)));
@@ -61,10 +65,12 @@ bool Document::IsModified() const {
     return ::DrawingGetUndoMark(Drawing()) != m_savedMark || m_styles.Changes() != m_savedStyles;
 }
 
-bool Document::Save(const std::string& path, bool overChanged) {
+bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
     char message[512] = "";
-    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), overChanged ? uint32_t{kSaveOverChanged} : 0,
-                             nullptr, message, sizeof message)) {
+    Task saving = {progress, {}};
+    const DxfListener listener = {&saving, ShowProgress, nullptr};
+    const uint32_t flags = overChanged ? kSaveOverChanged : 0;
+    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
         m_savedMark = ::DrawingGetUndoMark(Drawing());
@@ -72,6 +78,8 @@ bool Document::Save(const std::string& path, bool overChanged) {
         return true;
     case kSaveFileChanged:
         return false;
+    case kSaveCancelled:
+        throw Cancelled();
     default:
         throw SaveError(path + "\n\n" + Utf8FromSystem(message));
     }

@@ -26,12 +26,16 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Opening or saving has been given up by the caller's own Progress.
+class Cancelled : public std::exception {};
+
 class Document {
 public:
-    using Progress = std::function<void(int permille)>;
+    // The share done; false gives the task up.
+    using Progress = std::function<bool(int permille)>;
 
-    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError; the drawing that was current
-    // then still is.
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled; the drawing
+    // that was current then still is.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
 
     const std::string& Path() const { return m_path; }
@@ -41,8 +45,9 @@ public:
     // although the file holds none of their names.
     bool IsModified() const;
     // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
-    // file that it was opened from; overChanged: writes all the same. Throws SaveError.
-    bool Save(const std::string& path, bool overChanged);
+    // file that it was opened from; overChanged: writes all the same. Throws SaveError
+    // or Cancelled, with nothing written either.
+    bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
     // What was left out of the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }

@@ -110,7 +110,9 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
-    if (!self.IsAllSpoiled()) self.SpoilAll();
+    if (self.IsAllSpoiled()) return;
+    self.SpoilAll();
+    self.m_client.OnDrawingChanging();
 }
 
 void CDrawingView::SetPaper(COLORREF paper) {

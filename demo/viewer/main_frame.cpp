@@ -2,15 +2,15 @@
 
 #include "demo/viewer/main_frame.h"
 
-#include <afxdlgs.h>
-
 #include <utility>
 
 #include "demo/viewer/control_tables.h"
+#include "demo/viewer/counted.h"
 #include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/keys_dialog.h"
 #include "demo/viewer/layers_dialog.h"
+#include "demo/viewer/long_task.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
@@ -21,17 +21,11 @@
 
 namespace {
 
-constexpr const char* kTitle = "Orlo Demo";
-constexpr const char* kFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
 constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
 static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
 constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
 constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
-
-std::string Counted(int count, const char* one) {
-    return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
-}
 
 std::string ChangedText(int changed, const Document& document) {
     if (!changed) return "Nothing changed";
@@ -44,17 +38,6 @@ std::string ChangedText(int changed, const Document& document) {
 // Commands that neither change a drawing nor what is selected in it.
 bool IsOfLooks(UINT command) {
     return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_KEYS && command != ID_VIEW_PROPERTIES;
-}
-
-std::vector<std::string> DroppedFiles(HDROP drop) {
-    std::vector<std::string> files;
-    const UINT count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
-    for (UINT i = 0; i < count; ++i) {
-        std::wstring path(::DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0');
-        ::DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size()));
-        files.push_back(Utf8(path.c_str()));
-    }
-    return files;
 }
 
 // Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
@@ -79,6 +62,7 @@ ON_WM_SIZE()
 ON_MESSAGE(WM_ACTIVATE, &CMainFrame::OnActivate)
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
+ON_MESSAGE(kHourglassEnds, &CMainFrame::OnHourglassEnds)
 ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
@@ -179,140 +163,6 @@ void CMainFrame::OnSetFocus(CWnd*) {
     if (!m_view.GetSafeHwnd()) return;
     const HWND focus = std::exchange(m_focus, nullptr);
     ::SetFocus(focus && ::IsChild(m_pane.m_hWnd, focus) ? focus : m_view.m_hWnd);
-}
-
-// ---- Opening
-
-bool CMainFrame::Open(const std::string& path) {
-    if (!MayLeaveDocument()) return false;
-    try {
-        m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
-        std::unique_ptr<Document> opened =
-            Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
-        m_status.EndProgress();
-        Show(std::move(opened));
-        RecentFiles::Add(path);
-        return true;
-    } catch (const OpenError& error) {
-        m_status.EndProgress();
-        AfxMessageBox(SystemText(error.what()).c_str());
-        return false;
-    }
-}
-
-void CMainFrame::Show(std::unique_ptr<Document> document) {
-    m_pane.SetDocument(nullptr);
-    m_view.SetDocument(document.get());
-    m_document = std::move(document); // the one before goes now
-    m_pane.SetDocument(m_document.get());
-    ShowWhatOpened();
-    OnSelectionChanged();
-    ShowTitle();
-}
-
-void CMainFrame::ShowWhatOpened() {
-    std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
-    const std::vector<std::string>& findings = m_document->Findings();
-    if (!findings.empty()) text += "; " + findings.front();
-    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
-    m_status.ShowMessage(text);
-}
-
-void CMainFrame::ShowTitle() {
-    const char* mark = m_document->IsModified() ? "*" : "";
-    SetWindowText((mark + SystemText(m_document->Name()) + " - " + kTitle).c_str());
-}
-
-void CMainFrame::OnFileOpen() {
-    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kFilter, this);
-    if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
-}
-
-// One window shows one drawing: the first file. The others wait in the list of recent ones.
-void CMainFrame::OnDropFiles(HDROP drop) {
-    const std::vector<std::string> files = DroppedFiles(drop);
-    ::DragFinish(drop);
-    if (files.empty() || !IsWindowEnabled()) return;
-    ::SetForegroundWindow(m_hWnd); // that of the program that the files come from has been it
-    for (size_t i = files.size(); i > 1; --i)
-        RecentFiles::Add(files[i - 1]);
-    if (Open(files.front()) && files.size() > 1)
-        m_status.ShowMessage("1 of " + std::to_string(files.size()) +
-                             " files opened; the others are in File, Recent Files");
-}
-
-void CMainFrame::OnRecentFile(UINT command) {
-    const std::vector<std::string> files = RecentFiles::List();
-    const size_t place = command - kRecentCommands.first;
-    if (place >= files.size()) return;
-    const std::string& path = files[place];
-    if (::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
-        Open(path);
-        return;
-    }
-    RecentFiles::Remove(path);
-    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
-}
-
-// ---- Saving
-
-bool CMainFrame::Save(const std::string& path) {
-    constexpr const char* kChanged =
-        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
-    if (!m_pane.Apply()) return false;
-    try {
-        if (!m_document->Save(path, false)) {
-            if (AfxMessageBox((SystemText(path) + kChanged).c_str(), MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
-                return false;
-            m_document->Save(path, true);
-        }
-    } catch (const SaveError& error) {
-        AfxMessageBox(SystemText(error.what()).c_str());
-        return false;
-    }
-    RecentFiles::Add(path);
-    const bool hasStyles = !m_document->Styles().All().empty();
-    m_status.ShowMessage("Saved " + SystemText(m_document->Name()) +
-                         (hasStyles ? "; the file holds no styles" : ""));
-    ShowTitle();
-    return true;
-}
-
-void CMainFrame::OnFileSave() {
-    if (CanDo(ID_FILE_SAVE)) Save(m_document->Path());
-}
-
-void CMainFrame::OnFileSaveAs() {
-    if (!CanDo(ID_FILE_SAVE_AS)) return;
-    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
-                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
-    if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
-}
-
-bool CMainFrame::MayLeaveDocument() {
-    if (!m_pane.Apply()) return false;
-    if (!m_document || !m_document->IsModified()) return true;
-    const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
-    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES:
-        return Save(m_document->Path());
-    case IDNO:
-        return true;
-    default:
-        return false;
-    }
-}
-
-void CMainFrame::OnClose() {
-    if (MayLeaveDocument()) CFrameWnd::OnClose();
-}
-
-LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
-    return IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
-}
-
-void CMainFrame::OnAppExit() {
-    PostMessage(WM_CLOSE);
 }
 
 // ---- Editing
@@ -425,6 +275,16 @@ void CMainFrame::OnSelectLayer(UINT command) {
     const std::vector<LayerCount> layers = Layers();
     const size_t place = command - kLayerCommands.first;
     if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
+}
+
+// A sheet, undo or a style: whoever changes graphics, of many of them it takes a while.
+void CMainFrame::OnDrawingChanging() {
+    ShowHourglass(*this);
+}
+
+LRESULT CMainFrame::OnHourglassEnds(WPARAM, LPARAM) {
+    EndHourglass();
+    return 0;
 }
 
 bool CMainFrame::MayChangeSelection() {

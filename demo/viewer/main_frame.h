@@ -46,6 +46,7 @@ protected:
     afx_msg LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSetFocus(CWnd* before);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnHourglassEnds(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
@@ -82,10 +83,12 @@ protected:
 
 private:
     bool MayChangeSelection() override;
+    void OnDrawingChanging() override;
     void OnSelectionChanged() override;
     void OnPointerMoved(WorldPoint point) override;
     void OnEditProperties() override;
 
+    bool SaveTo(const std::string& path, bool overChanged);
     // Whether the document may go: nothing is unsaved, or the user has answered what is to become of it.
     bool MayLeaveDocument();
     void ShowWhatOpened();
@@ -108,5 +111,6 @@ private:
     CPropertiesPane m_pane;
     DialogMessages m_dialogMessages;
     HACCEL m_paneKeys;      // the system's, for as long as the program runs
+    bool m_isBusy = false;  // with a file
     HWND m_focus = nullptr; // in the pane, when another window became the active one
 };

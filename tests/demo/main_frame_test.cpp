@@ -240,7 +240,7 @@ protected:
     }
     // What a drawing file holds of the line's width, as if opened anew.
     double SavedWidth(const std::string& path) {
-        const std::unique_ptr<Document> opened = Document::Open(path, [](int) {});
+        const std::unique_ptr<Document> opened = Document::Open(path, [](int) { return true; });
         return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
     }
     void Save() { user.Key('S', UserInput::kControl); }
@@ -310,6 +310,27 @@ TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
     EXPECT_EQ(document().Path(), copy.Path());
     EXPECT_NEAR(SavedWidth(copy.Path()), 0.5, 0.001);
     EXPECT_EQ(SavedWidth(file.Path()), 0);
+}
+
+// The key is in the queue when the task looks for it.
+TEST_F(Saving, EscapeCancelsAndLeavesAllAsItWas) {
+    const MessageBoxWatcher boxes;
+    const auto pressEscape = [&] { ::PostMessageA(view(), WM_KEYDOWN, VK_ESCAPE, 1); };
+    user.Key('A', UserInput::kControl);
+    const Document* before = &document();
+    pressEscape();
+    EXPECT_FALSE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
+    EXPECT_EQ(&document(), before);
+    EXPECT_EQ(selection().Count(), 4) << "the key means the task alone";
+    Widen(0.5);
+    const std::string content = file.Read();
+    pressEscape();
+    EXPECT_FALSE(frame->Save(file.Path()));
+    EXPECT_EQ(file.Read(), content);
+    EXPECT_TRUE(document().IsModified());
+    Save();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+    EXPECT_TRUE(boxes.Boxes().empty());
 }
 
 TEST_F(Saving, RecentFilesAreOfferedAndForgottenWhenTheyHaveGone) {
