@@ -36,7 +36,7 @@ bool RoundTrip::Check(const std::vector<std::string>& drawings) {
 }
 
 bool RoundTrip::CheckOne(const std::string& drawing) {
-    m_frame.Show(Document::Open(drawing, [](int) {}));
+    m_frame.Show(Document::Open(drawing, [](int) { return true; }));
     m_frame.View().SetFocus();
     Document& document = *m_frame.GetDocument();
     const DrawingState before(document.Drawing());

@@ -20,28 +20,32 @@ bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
     return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
 }
 
-struct Opening {
+// What the listener of an opening or saving drawing keeps.
+struct Task {
     const Document::Progress& progress;
     std::vector<std::string> findings;
+    bool isCancelled = false;
 };
 
 int ShowProgress(void* context, int permille) {
-    static_cast<Opening*>(context)->progress(permille);
-    return 1;
+    Task& task = *static_cast<Task*>(context);
+    if (!task.progress(permille)) task.isCancelled = true;
+    return !task.isCancelled;
 }
 
 void KeepFinding(void* context, int line, const char* text) {
     const std::string place = line ? "line " + std::to_string(line) + ": " : "";
-    static_cast<Opening*>(context)->findings.push_back(place + text);
+    static_cast<Task*>(context)->findings.push_back(place + text);
 }
 
 } // namespace
 
 std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
     char message[512] = "";
-    Opening opening = {progress, {}};
+    Task opening = {progress, {}};
     const DxfListener listener = {&opening, ShowProgress, KeepFinding};
     OwnedDrawing drawing(::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message));
+    if (!drawing && opening.isCancelled) throw Cancelled();
     if (!drawing) throw OpenError(path + "\n\n" + message);
     ::AppSetCurrentDrawing(drawing.get());
     std::unique_ptr<Document> document(new Document(path, std::move(drawing)));
@@ -58,19 +62,24 @@ std::string Document::Name() const {
 }
 
 bool Document::IsModified() const {
-    return ::DrawingGetUndoMark(Drawing()) != m_savedMark;
+    return ::DrawingGetUndoMark(Drawing()) != m_savedMark || m_styles.Changes() != m_savedStyles;
 }
 
-bool Document::Save(const std::string& path, bool overChanged) {
+bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
     char message[512] = "";
-    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), overChanged ? uint32_t{kSaveOverChanged} : 0,
-                             nullptr, message, sizeof message)) {
+    Task saving = {progress, {}};
+    const DxfListener listener = {&saving, ShowProgress, nullptr};
+    const uint32_t flags = overChanged ? kSaveOverChanged : 0;
+    switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
         m_savedMark = ::DrawingGetUndoMark(Drawing());
+        m_savedStyles = m_styles.Changes();
         return true;
     case kSaveFileChanged:
         return false;
+    case kSaveCancelled:
+        throw Cancelled();
     default:
         throw SaveError(path + "\n\n" + Utf8FromSystem(message));
     }
@@ -79,6 +88,13 @@ bool Document::Save(const std::string& path, bool overChanged) {
 std::vector<GraphicStruct*> Document::Selectable() const {
     std::vector<GraphicStruct*> graphics;
     for (GraphicStruct* graphic : orlo::host::Members(m_root))
+        if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
+    return graphics;
+}
+
+std::vector<GraphicStruct*> Document::StillSelectable() const {
+    std::vector<GraphicStruct*> graphics;
+    for (GraphicStruct* graphic : m_selection.Members())
         if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
     return graphics;
 }
@@ -99,6 +115,22 @@ std::string Document::LengthText(double length) const {
     return text;
 }
 
+// Closes the step in which changes gather, and opens the next one at the end.
+class Document::GatheringPause {
+public:
+    explicit GatheringPause(Document& document) : m_document(document) {
+        if (m_document.m_isGathering) ::DrawingEndUndo(m_document.Drawing());
+    }
+    ~GatheringPause() {
+        if (m_document.m_isGathering) ::DrawingBeginUndo(m_document.Drawing());
+    }
+    GatheringPause(const GatheringPause&) = delete;
+    GatheringPause& operator=(const GatheringPause&) = delete;
+
+private:
+    Document& m_document;
+};
+
 int Document::Change(const std::function<void()>& change) {
     return Attempt([&] {
         change();
@@ -107,6 +139,7 @@ int Document::Change(const std::function<void()>& change) {
 }
 
 int Document::Attempt(const std::function<bool()>& change) {
+    const GatheringPause pause(*this);
     ::DrawingBeginUndo(Drawing());
     try {
         if (change()) return ::DrawingEndUndo(Drawing());
@@ -118,6 +151,28 @@ int Document::Attempt(const std::function<bool()>& change) {
     return 0;
 }
 
+void Document::BeginGathering() {
+    m_isGathering = true;
+    ::DrawingBeginUndo(Drawing());
+}
+
+void Document::EndGathering() {
+    m_isGathering = false;
+    ::DrawingEndUndo(Drawing());
+}
+
+int Document::TakeGathered() {
+    const int changed = ::DrawingEndUndo(Drawing());
+    ::DrawingBeginUndo(Drawing());
+    return changed;
+}
+
+int Document::DropGathered() {
+    const int changed = ::DrawingCancelUndo(Drawing());
+    ::DrawingBeginUndo(Drawing());
+    return changed;
+}
+
 int Document::DroppedSteps() const {
     return ::DrawingCountForgotten(Drawing());
 }
@@ -127,6 +182,7 @@ int Document::UndoSteps() const {
 }
 
 int Document::Undo() {
+    const GatheringPause pause(*this);
     return ::DrawingUndo(Drawing());
 }
 
@@ -135,5 +191,6 @@ int Document::RedoSteps() const {
 }
 
 int Document::Redo() {
+    const GatheringPause pause(*this);
     return ::DrawingRedo(Drawing());
 }

@@ -26,22 +26,28 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Opening or saving has been given up by the caller's own Progress.
+class Cancelled : public std::exception {};
+
 class Document {
 public:
-    using Progress = std::function<void(int permille)>;
+    // The share done; false gives the task up.
+    using Progress = std::function<bool(int permille)>;
 
-    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError; the drawing that was current
-    // then still is.
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled; the drawing
+    // that was current then still is.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
 
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
 
-    // Whether changes of graphics are unsaved; undo and redo can come back to what is saved. Styles are not in the file.
+    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count too,
+    // although the file holds none of their names.
     bool IsModified() const;
     // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
-    // file that it was opened from; overChanged: writes all the same. Throws SaveError.
-    bool Save(const std::string& path, bool overChanged);
+    // file that it was opened from; overChanged: writes all the same. Throws SaveError
+    // or Cancelled, with nothing written either.
+    bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
     // What was left out of the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }
@@ -56,6 +62,8 @@ public:
 
     // In the order of drawing: those that are seen and can be selected.
     std::vector<GraphicStruct*> Selectable() const;
+    // The selected graphics without those whose layer has been locked or hidden since.
+    std::vector<GraphicStruct*> StillSelectable() const;
     // The next one after the last of the selection, round and round; null if nothing can be selected.
     GraphicStruct* Next(bool forward) const;
 
@@ -66,6 +74,12 @@ public:
     int Change(const std::function<void()>& change);
     // The same; with false from the change all is at once as if it had never been.
     int Attempt(const std::function<bool()>& change);
+    // For a window that stays open: what it changes from here on, outside of Change and Attempt, gathers until it is taken as
+    // one step, or dropped. Change, Attempt, Undo and Redo make a step of it first.
+    void BeginGathering();
+    void EndGathering();
+    int TakeGathered(); // graphics that the step has changed; with 0 there is none
+    int DropGathered(); // graphics changed back
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
     int DroppedSteps() const;
     int UndoSteps() const;
@@ -76,6 +90,8 @@ public:
     int Redo();
 
 private:
+    class GatheringPause;
+
     Document(const std::string& path, OwnedDrawing drawing);
 
     std::string m_path;
@@ -85,4 +101,6 @@ private:
     Selection m_selection;
     StyleBook m_styles;
     uint32_t m_savedMark;
+    uint32_t m_savedStyles = 0;
+    bool m_isGathering = false;
 };

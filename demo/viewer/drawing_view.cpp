@@ -110,7 +110,9 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
-    if (!self.IsAllSpoiled()) self.SpoilAll();
+    if (self.IsAllSpoiled()) return;
+    self.SpoilAll();
+    self.m_client.OnDrawingChanging();
 }
 
 void CDrawingView::SetPaper(COLORREF paper) {
@@ -148,6 +150,7 @@ void CDrawingView::ClearSelection() {
 }
 
 void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
+    if (!m_client.MayChangeSelection()) return;
     m_document->Selected().Apply(graphics, way);
     ShowSelectionChange();
 }

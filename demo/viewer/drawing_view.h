@@ -20,6 +20,10 @@
 class DrawingViewClient {
 public:
     virtual ~DrawingViewClient();
+    // Whether another selection may come; asked before each.
+    virtual bool MayChangeSelection() = 0;
+    // The first of several changes of graphics is about to come.
+    virtual void OnDrawingChanging() = 0;
     virtual void OnSelectionChanged() = 0;
     virtual void OnPointerMoved(WorldPoint point) = 0;
     virtual void OnEditProperties() = 0;

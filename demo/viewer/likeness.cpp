@@ -8,10 +8,12 @@
 #include <tuple>
 
 #include "demo/viewer/property_snapshot.h"
+#include "drawcore/drawing.h"
 #include "drawcore/graphic.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/property.h"
 #include "orlo/host/table.h"
+#include "orlo/host/walk.h"
 #include "orlo/host/words.h"
 
 namespace {
@@ -37,6 +39,17 @@ using Likeness = std::tuple<uint32_t, uint16_t, uint32_t>;
 Likeness LikenessOf(GraphicStruct* graphic) {
     const uint32_t color = orlo::host::ReadProperty<uint32_t>(graphic, kPropPenColor).value_or(0);
     return {::GraphicGetKind(graphic), LayerOf(graphic), color};
+}
+
+// By name.
+std::vector<LayerCount> Named(DrawingStruct* drawing, const std::map<uint16_t, int>& counts) {
+    std::vector<LayerCount> layers;
+    for (const auto& [layer, count] : counts)
+        layers.push_back({layer, EntryName(drawing, kTableLayers, layer), count});
+    std::sort(layers.begin(), layers.end(), [](const LayerCount& a, const LayerCount& b) {
+        return std::tie(a.name, a.layer) < std::tie(b.name, b.layer);
+    });
+    return layers;
 }
 
 template <class Test>
@@ -102,11 +115,16 @@ std::vector<LayerCount> CountLayers(DrawingStruct* drawing, const Graphics& grap
     std::map<uint16_t, int> counts;
     for (GraphicStruct* graphic : graphics)
         ++counts[LayerOf(graphic)];
-    std::vector<LayerCount> layers;
-    for (const auto& [layer, count] : counts)
-        layers.push_back({layer, EntryName(drawing, kTableLayers, layer), count});
-    std::sort(layers.begin(), layers.end(), [](const LayerCount& a, const LayerCount& b) {
-        return std::tie(a.name, a.layer) < std::tie(b.name, b.layer);
-    });
-    return layers;
+    return Named(drawing, counts);
+}
+
+std::vector<LayerCount> AllLayers(DrawingStruct* drawing) {
+    std::map<uint16_t, int> counts;
+    for (const uint16_t layer : orlo::host::Entries(::DrawingGetTable(drawing, kTableLayers)))
+        counts[layer] = 0;
+    for (GraphicStruct* graphic : orlo::host::Members(::DrawingGetRoot(drawing))) {
+        const auto layer = counts.find(LayerOf(graphic));
+        if (layer != counts.end()) ++layer->second;
+    }
+    return Named(drawing, counts);
 }

@@ -34,3 +34,5 @@ struct LayerCount {
 };
 // The layers that graphics are on, in the order of their names.
 std::vector<LayerCount> CountLayers(DrawingStruct* drawing, const Graphics& graphics);
+// All layers, with the number of all graphics on each, in the order of their names.
+std::vector<LayerCount> AllLayers(DrawingStruct* drawing);

@@ -2,11 +2,15 @@
 
 #include "demo/viewer/main_frame.h"
 
-#include <afxdlgs.h>
+#include <utility>
 
 #include "demo/viewer/control_tables.h"
+#include "demo/viewer/counted.h"
 #include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
+#include "demo/viewer/keys_dialog.h"
+#include "demo/viewer/layers_dialog.h"
+#include "demo/viewer/long_task.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
@@ -17,37 +21,23 @@
 
 namespace {
 
-constexpr const char* kTitle = "Orlo Demo";
-constexpr const char* kFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
-// Lines so short that the box breaks none of them.
-constexpr const char* kKeys = "Click\tselect; Ctrl adds or takes away, Shift adds\n"
-                              "Drag to the right\tselect what is inside\n"
-                              "Drag to the left\tselect also what is crossed\n"
-                              "Tab, Shift+Tab\tselect the next one, the one before\n"
-                              "Ctrl+A, Esc\tselect all, nothing\n"
-                              "Ctrl+I\tselect all that are similar\n"
-                              "\n"
-                              "Double click, Alt+Enter\tproperties of the selection\n"
-                              "Ctrl+Z, Ctrl+Y\ttake the last change back, make it again\n"
-                              "Ctrl+N\tnew style after the selection\n"
-                              "Ctrl+Enter, Ctrl+E\tedit the style, apply it\n"
-                              "\n"
-                              "Wheel, + and -\tzoom\n"
-                              "Home, End\tfit the drawing, the selection\n"
-                              "Middle button, arrows\tmove the drawing\n"
-                              "Ctrl+W\tline weights, or all lines thin\n"
-                              "\n"
-                              "Ctrl+O, Ctrl+S\topen a drawing, save it\n"
-                              "Ctrl+Shift+S\tsave it under another name";
-
 constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
 static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
 constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
 constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
-std::string Counted(int count, const char* one) {
-    return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+std::string ChangedText(int changed, const Document& document) {
+    if (!changed) return "Nothing changed";
+    std::string text = Counted(changed, "graphic") + " changed";
+    if (const int dropped = document.DroppedSteps())
+        text += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
+    return text;
+}
+
+// Commands that neither change a drawing nor what is selected in it.
+bool IsOfLooks(UINT command) {
+    return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_KEYS && command != ID_VIEW_PROPERTIES;
 }
 
 // Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
@@ -69,8 +59,10 @@ ON_WM_CLOSE()
 ON_MESSAGE(WM_QUERYENDSESSION, &CMainFrame::OnQueryEndSession)
 ON_WM_DESTROY()
 ON_WM_SIZE()
+ON_MESSAGE(WM_ACTIVATE, &CMainFrame::OnActivate)
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
+ON_MESSAGE(kHourglassEnds, &CMainFrame::OnHourglassEnds)
 ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
@@ -98,10 +90,16 @@ ON_COMMAND(ID_VIEW_FIT_SELECTION, &CMainFrame::OnFitSelection)
 ON_COMMAND(ID_VIEW_DARK_PAPER, &CMainFrame::OnDarkPaper)
 ON_COMMAND(ID_VIEW_LIGHT_PAPER, &CMainFrame::OnLightPaper)
 ON_COMMAND(ID_VIEW_LINE_WEIGHTS, &CMainFrame::OnLineWeights)
+ON_COMMAND(ID_VIEW_LAYERS, &CMainFrame::OnLayers)
+ON_COMMAND(ID_VIEW_PROPERTIES, &CMainFrame::OnPropertiesPane)
+ON_COMMAND(ID_VIEW_SWITCH_PANE, &CMainFrame::OnSwitchPane)
 ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
 END_MESSAGE_MAP()
 
-CMainFrame::CMainFrame() : m_view(*this) {}
+CMainFrame::CMainFrame()
+    : m_view(*this), m_pane([this](int changed) { ShowApplied(changed); }),
+      m_dialogMessages([this](MSG& message) { return OnDialogMessage(message); }),
+      m_paneKeys(::LoadAcceleratorsA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PANE))) {}
 
 CMainFrame::~CMainFrame() = default;
 
@@ -118,6 +116,7 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
+    if (!m_pane.Create(this, IDC_PROPERTIES_PANE)) return -1;
     SetPaper(CDrawingView::kDarkPaper);
     m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
@@ -126,6 +125,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 void CMainFrame::OnDestroy() {
+    m_pane.SetDocument(nullptr);
     m_view.SetDocument(nullptr);
     CFrameWnd::OnDestroy();
 }
@@ -139,7 +139,10 @@ void CMainFrame::ArrangeClient() {
     m_status.Arrange();
     CRect client;
     GetClientRect(client);
-    m_view.MoveWindow(0, 0, client.Width(), std::max(0, client.Height() - m_status.Height()));
+    const int height = std::max(0, client.Height() - m_status.Height());
+    const int width = std::max(0, client.Width() - m_pane.Width());
+    m_view.MoveWindow(0, 0, width, height);
+    m_pane.MoveWindow(width, 0, m_pane.Width(), height);
 }
 
 // The window has come to a monitor of another resolution, which says how large it should be there.
@@ -151,136 +154,23 @@ LRESULT CMainFrame::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
+LRESULT CMainFrame::OnActivate(WPARAM wParam, LPARAM) {
+    if (LOWORD(wParam) == WA_INACTIVE) m_focus = m_pane.HasFocus() ? ::GetFocus() : nullptr;
+    return Default();
+}
+
 void CMainFrame::OnSetFocus(CWnd*) {
-    if (m_view.GetSafeHwnd()) m_view.SetFocus();
-}
-
-// ---- Opening
-
-bool CMainFrame::Open(const std::string& path) {
-    if (!MayLeaveDocument()) return false;
-    try {
-        m_status.StartProgress("Opening " + SystemText(path.substr(path.find_last_of("\\/") + 1)));
-        std::unique_ptr<Document> opened =
-            Document::Open(path, [this](int permille) { m_status.ShowProgress(permille); });
-        m_status.EndProgress();
-        Show(std::move(opened));
-        RecentFiles::Add(path);
-        return true;
-    } catch (const OpenError& error) {
-        m_status.EndProgress();
-        AfxMessageBox(SystemText(error.what()).c_str());
-        return false;
-    }
-}
-
-void CMainFrame::Show(std::unique_ptr<Document> document) {
-    m_view.SetDocument(document.get());
-    m_document = std::move(document); // the one before goes now
-    ShowWhatOpened();
-    OnSelectionChanged();
-    ShowTitle();
-}
-
-void CMainFrame::ShowWhatOpened() {
-    std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
-    const std::vector<std::string>& findings = m_document->Findings();
-    if (!findings.empty()) text += "; " + findings.front();
-    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
-    m_status.ShowMessage(text);
-}
-
-void CMainFrame::ShowTitle() {
-    const char* mark = m_document->IsModified() ? "*" : "";
-    SetWindowText((mark + SystemText(m_document->Name()) + " - " + kTitle).c_str());
-}
-
-void CMainFrame::OnFileOpen() {
-    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kFilter, this);
-    if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
-}
-
-void CMainFrame::OnDropFiles(HDROP drop) {
-    wchar_t path[MAX_PATH] = L"";
-    ::DragQueryFileW(drop, 0, path, MAX_PATH);
-    ::DragFinish(drop);
-    if (path[0] && IsWindowEnabled()) Open(Utf8(path));
-}
-
-void CMainFrame::OnRecentFile(UINT command) {
-    const std::vector<std::string> files = RecentFiles::List();
-    const size_t place = command - kRecentCommands.first;
-    if (place >= files.size()) return;
-    const std::string& path = files[place];
-    if (::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
-        Open(path);
-        return;
-    }
-    RecentFiles::Remove(path);
-    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
-}
-
-// ---- Saving
-
-bool CMainFrame::Save(const std::string& path) {
-    constexpr const char* kChanged =
-        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
-    try {
-        if (!m_document->Save(path, false)) {
-            if (AfxMessageBox((SystemText(path) + kChanged).c_str(), MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
-                return false;
-            m_document->Save(path, true);
-        }
-    } catch (const SaveError& error) {
-        AfxMessageBox(SystemText(error.what()).c_str());
-        return false;
-    }
-    RecentFiles::Add(path);
-    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
-    ShowTitle();
-    return true;
-}
-
-void CMainFrame::OnFileSave() {
-    if (CanDo(ID_FILE_SAVE)) Save(m_document->Path());
-}
-
-void CMainFrame::OnFileSaveAs() {
-    if (!CanDo(ID_FILE_SAVE_AS)) return;
-    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
-                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
-    if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
-}
-
-bool CMainFrame::MayLeaveDocument() {
-    if (!m_document || !m_document->IsModified()) return true;
-    const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
-    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES:
-        return Save(m_document->Path());
-    case IDNO:
-        return true;
-    default:
-        return false;
-    }
-}
-
-void CMainFrame::OnClose() {
-    if (MayLeaveDocument()) CFrameWnd::OnClose();
-}
-
-LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
-    return IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
-}
-
-void CMainFrame::OnAppExit() {
-    PostMessage(WM_CLOSE);
+    if (!m_view.GetSafeHwnd()) return;
+    const HWND focus = std::exchange(m_focus, nullptr);
+    ::SetFocus(focus && ::IsChild(m_pane.m_hWnd, focus) ? focus : m_view.m_hWnd);
 }
 
 // ---- Editing
 
+// What was typed in the pane comes before all that a command does with the drawing.
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (lParam && FillStyleControl(wParam, lParam, m_document.get())) return TRUE;
+    if (!lParam && !IsOfLooks(LOWORD(wParam)) && !m_pane.Apply()) return TRUE;
     return CFrameWnd::OnCommand(wParam, lParam);
 }
 
@@ -295,20 +185,20 @@ void CMainFrame::OnEditProperties() {
     }
     const SheetOutcome outcome = EditSelection(this, *m_document);
     ShowChange();
-    if (outcome.changed) {
-        std::string message = Counted(outcome.changed, "graphic") + " changed";
-        if (const int dropped = m_document->DroppedSteps())
-            message += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
-        m_status.ShowMessage(message);
-    } else {
-        m_status.ShowMessage("Nothing changed");
-    }
+    m_status.ShowMessage(ChangedText(outcome.changed, *m_document));
 }
 
 // What the window says of graphics besides the drawing itself.
 void CMainFrame::ShowChange() {
     ShowTitle();
     OnSelectionChanged();
+}
+
+// The pane shows what it has written.
+void CMainFrame::ShowApplied(int changed) {
+    ShowTitle();
+    ShowSelected();
+    m_status.ShowMessage(ChangedText(changed, *m_document));
 }
 
 void CMainFrame::OnEditUndo() {
@@ -326,11 +216,15 @@ void CMainFrame::OnEditRedo() {
 // ---- Styles
 
 void CMainFrame::OnNewStyle() {
-    if (CanDo(ID_STYLE_NEW)) m_status.ShowMessage(NewStyle(this, *m_document));
+    if (!CanDo(ID_STYLE_NEW)) return;
+    m_status.ShowMessage(NewStyle(this, *m_document));
+    ShowTitle();
 }
 
 void CMainFrame::OnStyleProperties() {
-    if (CanDo(ID_STYLE_PROPERTIES)) m_status.ShowMessage(EditStyles(this, *m_document));
+    if (!CanDo(ID_STYLE_PROPERTIES)) return;
+    m_status.ShowMessage(EditStyles(this, *m_document));
+    ShowTitle();
 }
 
 void CMainFrame::OnApplyStyle() {
@@ -383,7 +277,26 @@ void CMainFrame::OnSelectLayer(UINT command) {
     if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
 }
 
+// A sheet, undo or a style: whoever changes graphics, of many of them it takes a while.
+void CMainFrame::OnDrawingChanging() {
+    ShowHourglass(*this);
+}
+
+LRESULT CMainFrame::OnHourglassEnds(WPARAM, LPARAM) {
+    EndHourglass();
+    return 0;
+}
+
+bool CMainFrame::MayChangeSelection() {
+    return m_pane.Apply();
+}
+
 void CMainFrame::OnSelectionChanged() {
+    ShowSelected();
+    m_pane.Follow();
+}
+
+void CMainFrame::ShowSelected() {
     if (!m_document) return m_status.ShowSelection("", "");
     const Graphics selected = m_document->Selected().Members();
     m_status.ShowSelection(KindsText(selected), WidthsText(m_document->Drawing(), selected));
@@ -429,8 +342,43 @@ void CMainFrame::OnLineWeights() {
     m_view.ShowLineWeights(!m_view.ShowsLineWeights());
 }
 
+void CMainFrame::OnLayers() {
+    if (!CanDo(ID_VIEW_LAYERS)) return;
+    CLayersDialog(this, m_document->Drawing(), [this] { m_view.Redraw(); }).DoModal();
+    const std::vector<GraphicStruct*> selectable = m_document->StillSelectable();
+    const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
+    if (left == 0) return;
+    m_view.SelectOnly(selectable);
+    m_status.ShowMessage(Counted(left, "graphic") + " on locked or hidden layers left the selection");
+}
+
+// ---- The pane of properties
+
+void CMainFrame::OnPropertiesPane() {
+    if (m_pane.IsOpen()) {
+        if (m_pane.HasFocus()) m_view.SetFocus();
+        m_pane.Close();
+    } else {
+        m_pane.Open();
+    }
+    ArrangeClient();
+}
+
+void CMainFrame::OnSwitchPane() {
+    if (m_pane.HasFocus()) {
+        m_view.SetFocus();
+        return;
+    }
+    if (!m_pane.IsOpen()) OnPropertiesPane();
+    m_pane.TakeFocus();
+}
+
+bool CMainFrame::OnDialogMessage(MSG& message) {
+    return ::IsChild(m_pane.m_hWnd, message.hwnd) && ::TranslateAcceleratorA(m_hWnd, m_paneKeys, &message);
+}
+
 void CMainFrame::OnHelpKeys() {
-    MessageBox(kKeys, kTitle, MB_OK | MB_ICONINFORMATION);
+    CKeysDialog(this).DoModal();
 }
 
 // ---- Menu
@@ -460,6 +408,7 @@ bool CMainFrame::CanDo(UINT command) const {
     case ID_VIEW_ZOOM_IN:
     case ID_VIEW_ZOOM_OUT:
     case ID_VIEW_FIT_ALL:
+    case ID_VIEW_LAYERS:
         return m_document != nullptr;
     default:
         return true;
@@ -498,6 +447,8 @@ bool CMainFrame::IsChosen(UINT command) const {
         return m_view.Paper() == CDrawingView::kLightPaper;
     case ID_VIEW_LINE_WEIGHTS:
         return m_view.ShowsLineWeights();
+    case ID_VIEW_PROPERTIES:
+        return m_pane.IsOpen();
     default:
         return false;
     }

@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "demo/viewer/dialog_messages.h"
 #include "demo/viewer/document.h"
 #include "demo/viewer/drawing_view.h"
 #include "demo/viewer/likeness.h"
+#include "demo/viewer/properties_pane.h"
 #include "demo/viewer/status_line.h"
 
 class CMainFrame : public CFrameWnd, private DrawingViewClient {
@@ -30,6 +32,7 @@ public:
     bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }
+    CPropertiesPane& Pane() { return m_pane; }
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -40,8 +43,10 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCTA create);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSetFocus(CWnd* before);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnHourglassEnds(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
@@ -70,19 +75,28 @@ protected:
     afx_msg void OnDarkPaper();
     afx_msg void OnLightPaper();
     afx_msg void OnLineWeights();
+    afx_msg void OnLayers();
+    afx_msg void OnPropertiesPane();
+    afx_msg void OnSwitchPane();
     afx_msg void OnHelpKeys();
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool MayChangeSelection() override;
+    void OnDrawingChanging() override;
     void OnSelectionChanged() override;
     void OnPointerMoved(WorldPoint point) override;
     void OnEditProperties() override;
 
+    bool SaveTo(const std::string& path, bool overChanged);
     // Whether the document may go: nothing is unsaved, or the user has answered what is to become of it.
     bool MayLeaveDocument();
     void ShowWhatOpened();
     void ShowTitle();
+    void ShowSelected();
     void ShowChange();
+    void ShowApplied(int changed);
+    bool OnDialogMessage(MSG& message);
     bool CanDo(UINT command) const;
     bool IsChosen(UINT command) const;
     void ArrangeClient();
@@ -94,4 +108,9 @@ private:
     CDrawingView m_view;
     CStatusLine m_status;
     std::unique_ptr<Document> m_document;
+    CPropertiesPane m_pane;
+    DialogMessages m_dialogMessages;
+    HACCEL m_paneKeys;      // the system's, for as long as the program runs
+    bool m_isBusy = false;  // with a file
+    HWND m_focus = nullptr; // in the pane, when another window became the active one
 };

@@ -2,31 +2,26 @@
 
 #include "demo/viewer/property_sheet.h"
 
-#include <memory>
-
 #include "demo/viewer/document.h"
 #include "drawcore/regen.h"
 #include "orlo/entry/entry.h"
-#include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/walk.h"
 
-namespace {
+void SelectionSheet::RegenMethodsDeleter::operator()(void* methods) const {
+    ::RegenMethodsDispose(&methods);
+}
 
-struct RegenMethodsDeleter {
-    void operator()(void* methods) const { ::RegenMethodsDispose(&methods); }
-};
-using RegenMethods = std::unique_ptr<void, RegenMethodsDeleter>;
-
-} // namespace
+SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags)
+    : m_methods(::RegenMethodsNew()),
+      m_sheet(::InitGraphicPropertySheet(owner, m_methods.get(), drawing, set, flags)) {
+    if (!m_sheet) return;
+    for (GraphicStruct* graphic : orlo::host::Members(set, flags))
+        ::AddGraphicPropertyPage(m_methods.get(), graphic, m_sheet.get());
+}
 
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags) {
-    const RegenMethods methods(::RegenMethodsNew());
-    const std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(owner, methods.get(), drawing, set, flags));
-    if (!sheet) return kNotShown;
-    for (GraphicStruct* graphic : orlo::host::Members(set, flags))
-        ::AddGraphicPropertyPage(methods.get(), graphic, sheet.get());
-    return static_cast<int>(sheet->DoModal());
+    const SelectionSheet sheet(owner, drawing, set, flags);
+    return sheet.get() ? static_cast<int>(sheet->DoModal()) : kNotShown;
 }
 
 SheetOutcome EditSelection(CWnd* owner, Document& document) {

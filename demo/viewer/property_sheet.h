@@ -3,13 +3,32 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
+#include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/records.h"
 
 class Document;
 
-// Shows the sheet with the pages that the members of the set deserve and waits until it is closed. owner is the main window,
-// which fills the sheet's controls; flags are kAllGraphics or kWithStylePart. IDOK, IDCANCEL, an end code of a page, or
-// kNotShown.
+// A sheet with the pages that the members of the set deserve, and the regen methods that they use.
+class SelectionSheet {
+public:
+    // owner is the main window, which fills the sheet's controls; flags are kAllGraphics or kWithStylePart.
+    SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
+
+    // Null if none could be made.
+    CGraphicPropertySheet* get() const { return m_sheet.get(); }
+    CGraphicPropertySheet* operator->() const { return get(); }
+
+private:
+    struct RegenMethodsDeleter {
+        void operator()(void* methods) const;
+    };
+    std::unique_ptr<void, RegenMethodsDeleter> m_methods; // goes after the sheet
+    std::unique_ptr<CGraphicPropertySheet> m_sheet;
+};
+
+// Shows the sheet and waits until it is closed. IDOK, IDCANCEL, an end code of a page, or kNotShown.
 constexpr int kNotShown = -1;
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
 

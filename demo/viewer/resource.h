@@ -4,6 +4,9 @@
 #define IDR_MAINFRAME 128
 #define IDC_VIEW 129
 #define IDC_STATUS 130
+#define IDC_PROPERTIES_PANE 131
+// Keys of the main window that hold in the pane too.
+#define IDR_PANE 132
 
 #define ID_FILE_OPEN 0xE101
 #define ID_FILE_SAVE 0xE103
@@ -27,7 +30,11 @@
 #define ID_VIEW_DARK_PAPER 214
 #define ID_VIEW_LIGHT_PAPER 215
 #define ID_VIEW_LINE_WEIGHTS 216
+#define ID_VIEW_PROPERTIES 217
+#define ID_VIEW_SWITCH_PANE 218
 #define ID_HELP_KEYS 220
+#define ID_PANE_RESET 230
+#define ID_VIEW_LAYERS 231
 
 // Submenus that are made as they open: the first and the last command of each.
 #define ID_SELECT_KIND_FIRST 400
@@ -45,3 +52,15 @@
 #define IDC_STYLE_PARTS_PLACE 311
 #define IDC_STYLE_PARTS 312
 #define IDC_STYLE_SUMMARY 313
+
+// The dialog of layers; the boxes of its states follow each other.
+#define IDD_LAYERS 320
+#define IDC_LAYER_LIST 321
+#define IDC_LAYER_ON 322
+#define IDC_LAYER_FROZEN 323
+#define IDC_LAYER_LOCKED 324
+
+// The list of keys, in two columns.
+#define IDD_KEYS 330
+#define IDC_KEYS 331
+#define IDC_MEANINGS 332

@@ -19,6 +19,11 @@ Selection::Selection() : m_set(::SelectionNew()) {
     if (!m_set) throw std::bad_alloc();
 }
 
+Selection::Selection(const Selection& other) : Selection() {
+    for (GraphicStruct* graphic : other.Members())
+        ::SelectionAdd(Set(), graphic);
+}
+
 std::vector<GraphicStruct*> Selection::Members() const {
     std::vector<GraphicStruct*> members;
     for (GraphicStruct* graphic : orlo::host::Members(Set()))

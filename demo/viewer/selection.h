@@ -16,6 +16,9 @@ public:
     enum class Way { Replace, Add, Toggle };
 
     Selection();
+    // The same graphics in a set of its own.
+    Selection(const Selection& other);
+    Selection& operator=(const Selection&) = delete;
 
     // The set that the library walks; also a graphic that draws all its members.
     GraphicStruct* Set() const { return m_set.get(); }

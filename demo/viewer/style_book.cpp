@@ -20,6 +20,7 @@ namespace {
 using orlo::host::Entries;
 using orlo::host::FindProperty;
 using orlo::host::Members;
+using orlo::host::OwnedGraphic;
 using orlo::host::OwnedVertex;
 using orlo::host::ReadProperty;
 using orlo::host::WriteProperty;
@@ -38,17 +39,20 @@ void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
     if (const auto value = ReadProperty<Value>(from, name)) WriteProperty(to, name, *value);
 }
 
+void CopyProperty(GraphicStruct* from, GraphicStruct* to, const PropertyInfo& property) {
+    if (property.form == kFormWhole)
+        CopyProperty<uint32_t>(from, to, property.name);
+    else if (property.form == kFormReal)
+        CopyProperty<double>(from, to, property.name);
+    else
+        CopyProperty<std::string>(from, to, property.name);
+}
+
 // Those that both have.
 void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) {
     for (const PropertyInfo& property : AllProperties()) {
         const auto isThis = [&](const char* name) { return !std::strcmp(name, property.name); };
-        if (std::none_of(names.begin(), names.end(), isThis)) continue;
-        if (property.form == kFormWhole)
-            CopyProperty<uint32_t>(from, to, property.name);
-        else if (property.form == kFormReal)
-            CopyProperty<double>(from, to, property.name);
-        else
-            CopyProperty<std::string>(from, to, property.name);
+        if (std::any_of(names.begin(), names.end(), isThis)) CopyProperty(from, to, property);
     }
 }
 
@@ -146,7 +150,7 @@ StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics)
 
 uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
     if (!WhyNot(name).empty()) return 0;
-    orlo::host::OwnedGraphic content(::GraphicNewEx(kGraphicVertices, 0, 1));
+    OwnedGraphic content(::GraphicNewEx(kGraphicVertices, 0, 1));
     GraphicStruct* shape = ::GraphicAdd(content.get(), NewShape());
     GraphicStruct* text = ::GraphicAdd(content.get(), NewText());
     ::GraphicSetStyleName(content.get(), kTree);
@@ -174,6 +178,7 @@ uint16_t StyleBook::TakeAdded() {
 void StyleBook::Enter(uint16_t id, Parts parts) {
     m_parts[id] = parts;
     m_current = id;
+    ++m_changes;
     for (GraphicStruct* member : Members(Content(id)))
         WriteProperty(member, kPropStyleTree, id);
 }
@@ -182,8 +187,21 @@ bool StyleBook::Delete(uint16_t id) {
     if (Uses(id) > 0) return false;
     ::BlockDispose(Table(), id);
     m_parts.erase(id);
+    ++m_changes;
     if (m_current == id) m_current = m_parts.empty() ? 0 : m_parts.begin()->first;
     return true;
+}
+
+OwnedGraphic StyleBook::Copy(uint16_t id) const {
+    return OwnedGraphic(::GraphicCopyEx(Content(id), 0, 0, 7));
+}
+
+void StyleBook::Restore(uint16_t id, GraphicStruct* copy) {
+    const Samples from(copy), to(Content(id));
+    for (const PropertyInfo& property : AllProperties()) {
+        CopyProperty(from.shape, to.shape, property);
+        CopyProperty(from.text, to.text, property);
+    }
 }
 
 void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const {

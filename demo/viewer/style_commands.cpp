@@ -4,8 +4,11 @@
 
 #include "demo/viewer/document.h"
 #include "demo/viewer/property_sheet.h"
+#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/style_wizard.h"
 #include "orlo/frame/style_end_code.h"
+#include "orlo/host/owners.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -19,6 +22,24 @@ uint16_t StyleIn(const Document& document, int code, int kind) {
     const int id = code - kind;
     if (id <= 0 || id > 0xFFFF) return 0;
     return document.Styles().IsStyle(static_cast<uint16_t>(id)) ? static_cast<uint16_t>(id) : 0;
+}
+
+PropertySnapshot SnapshotOf(const Document& document, uint16_t style) {
+    std::vector<GraphicStruct*> samples;
+    for (GraphicStruct* sample : orlo::host::Members(document.Styles().Content(style)))
+        samples.push_back(sample);
+    return {document.Drawing(), samples};
+}
+
+// Undo knows no styles: Cancel puts back a copy that was taken before. The code is RunSheet's.
+int EditStyle(CWnd* owner, Document& document, uint16_t style) {
+    StyleBook& styles = document.Styles();
+    const orlo::host::OwnedGraphic copy = styles.Copy(style);
+    const PropertySnapshot before = SnapshotOf(document, style);
+    const int code = RunSheet(owner, document.Drawing(), styles.Content(style), kWithStylePart);
+    if (code == IDCANCEL && copy) styles.Restore(style, copy.get());
+    if (!(before == SnapshotOf(document, style))) styles.NoteEdit();
+    return code;
 }
 
 std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
@@ -45,8 +66,7 @@ std::string NewStyle(CWnd* owner, Document& document) {
 std::string EditStyles(CWnd* owner, Document& document) {
     StyleBook& styles = document.Styles();
     for (;;) {
-        const int code =
-            RunSheet(owner, document.Drawing(), styles.Content(styles.Current()), kWithStylePart);
+        const int code = EditStyle(owner, document, styles.Current());
         if (code == kStyleAdded) {
             if (!styles.TakeAdded()) return "The style could not be added";
         } else if (const uint16_t chosen = StyleIn(document, code, kStyleChosen)) {

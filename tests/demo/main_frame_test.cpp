@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <memory>
 
+#include <shlobj.h>
+
 #include "demo/viewer.h"
+#include "demo/viewer/file_name.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "orlo/host/graphic.h"
@@ -193,6 +196,37 @@ TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
     EXPECT_EQ(selection().Count(), 2);
 }
 
+// As the system hands over what was dropped on a window.
+HDROP Dropped(const std::vector<std::string>& files) {
+    std::wstring names; // each with its NUL, and one more at the end
+    for (const std::string& file : files)
+        names += Wide(file) + L'\0';
+    const size_t bytes = (names.size() + 1) * sizeof(wchar_t);
+    const HGLOBAL block = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+    auto* drop = static_cast<DROPFILES*>(::GlobalLock(block));
+    drop->pFiles = sizeof(DROPFILES);
+    drop->fWide = TRUE;
+    std::copy(names.begin(), names.end(), reinterpret_cast<wchar_t*>(drop + 1));
+    ::GlobalUnlock(block);
+    return static_cast<HDROP>(block);
+}
+
+TEST_F(Viewer, TheFirstOfDroppedFilesIsOpenedAndTheOthersAreKept) {
+    const std::string first = TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
+    const auto drop = [&](const std::vector<std::string>& files) {
+        frame->PostMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(files)));
+        user.Wait(0);
+    };
+    drop({first, file.Path()});
+    EXPECT_EQ(document().Path(), first);
+    EXPECT_EQ(RecentFiles::List()[1], file.Path());
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
+    MessageBoxWatcher boxes(IDCANCEL);
+    drop({file.Path()});
+    EXPECT_EQ(boxes.OnlyText().find("Save the changes"), 0u);
+    EXPECT_EQ(document().Path(), first);
+}
+
 // The red line becomes as wide as that.
 class Saving : public Viewer {
 protected:
@@ -206,7 +240,7 @@ protected:
     }
     // What a drawing file holds of the line's width, as if opened anew.
     double SavedWidth(const std::string& path) {
-        const std::unique_ptr<Document> opened = Document::Open(path, [](int) {});
+        const std::unique_ptr<Document> opened = Document::Open(path, [](int) { return true; });
         return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
     }
     void Save() { user.Key('S', UserInput::kControl); }
@@ -276,6 +310,27 @@ TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
     EXPECT_EQ(document().Path(), copy.Path());
     EXPECT_NEAR(SavedWidth(copy.Path()), 0.5, 0.001);
     EXPECT_EQ(SavedWidth(file.Path()), 0);
+}
+
+// The key is in the queue when the task looks for it.
+TEST_F(Saving, EscapeCancelsAndLeavesAllAsItWas) {
+    const MessageBoxWatcher boxes;
+    const auto pressEscape = [&] { ::PostMessageA(view(), WM_KEYDOWN, VK_ESCAPE, 1); };
+    user.Key('A', UserInput::kControl);
+    const Document* before = &document();
+    pressEscape();
+    EXPECT_FALSE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
+    EXPECT_EQ(&document(), before);
+    EXPECT_EQ(selection().Count(), 4) << "the key means the task alone";
+    Widen(0.5);
+    const std::string content = file.Read();
+    pressEscape();
+    EXPECT_FALSE(frame->Save(file.Path()));
+    EXPECT_EQ(file.Read(), content);
+    EXPECT_TRUE(document().IsModified());
+    Save();
+    EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+    EXPECT_TRUE(boxes.Boxes().empty());
 }
 
 TEST_F(Saving, RecentFilesAreOfferedAndForgottenWhenTheyHaveGone) {

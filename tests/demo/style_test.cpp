@@ -144,6 +144,27 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     EXPECT_EQ(0u, Properties().Values(kPropPenColor).count("Red"));
 }
 
+// A page writes when it is left, into the style too.
+TEST_F(Styles, CancelTakesBackWhatPagesHaveWritten) {
+    SelectOnly({10, 5});
+    Make("Red");
+    ASSERT_TRUE(frame->Save(file.Path()));
+    ASSERT_FALSE(document().IsModified());
+    for (const UINT last : {VK_ESCAPE, VK_RETURN}) {
+        InStyleSheets({[&](HWND sheet) {
+            user.Key(VK_TAB, UserInput::kControl);
+            ::SetFocus(OnPage(sheet, IDC_COLOR));
+            user.Keys(VK_DOWN, 3);
+            user.Key(VK_TAB, UserInput::kControl);
+            user.Key(last);
+        }});
+        EXPECT_EQ(document().IsModified(), last == VK_RETURN);
+    }
+    user.Key('A', UserInput::kControl);
+    user.Key('E', UserInput::kControl);
+    EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u) << "OK kept the other colour";
+}
+
 TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {
     Make("Red");
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
@@ -197,7 +218,9 @@ TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
     };
     EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDNO));
     EXPECT_EQ(2u, styles().All().size());
+    ASSERT_TRUE(frame->Save(file.Path()));
     EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDYES));
+    EXPECT_TRUE(document().IsModified());
     EXPECT_EQ(1u, styles().All().size());
     EXPECT_EQ("Blue", current());
 

@@ -1,0 +1,46 @@
+// What the user sees of a long task.
+
+#include "demo/viewer/long_task.h"
+
+namespace {
+
+bool IsEscapePressed() {
+    bool escape = false;
+    MSG key;
+    while (::PeekMessageA(&key, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+        escape = escape || (key.message == WM_KEYDOWN && key.wParam == VK_ESCAPE);
+    return escape;
+}
+
+void PaintNext() {
+    MSG paint;
+    if (::PeekMessageA(&paint, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE)) ::DispatchMessageA(&paint);
+}
+
+} // namespace
+
+void ShowHourglass(const CWnd& window) {
+    ::SetCursor(::LoadCursorA(nullptr, IDC_WAIT));
+    window.PostMessage(kHourglassEnds);
+}
+
+void EndHourglass() {
+    POINT point;
+    ::GetCursorPos(&point);
+    ::SetCursorPos(point.x, point.y); // the window there is asked for its cursor
+}
+
+LongTask::LongTask(const CWnd& window, CStatusLine& line, const std::string& text) : m_line(line) {
+    ShowHourglass(window);
+    m_line.StartProgress(text + " - Esc cancels");
+}
+
+LongTask::~LongTask() {
+    m_line.EndProgress();
+}
+
+bool LongTask::GoOn(int permille) {
+    m_line.ShowProgress(permille);
+    PaintNext();
+    return !IsEscapePressed();
+}

@@ -1,0 +1,187 @@
+// The main window's files: opening, saving, and what is asked before a drawing goes.
+
+#include "demo/viewer/main_frame.h"
+
+#include <afxdlgs.h>
+
+#include "demo/viewer/counted.h"
+#include "demo/viewer/file_name.h"
+#include "demo/viewer/long_task.h"
+#include "demo/viewer/recent_files.h"
+#include "demo/viewer/resource.h"
+
+namespace {
+
+constexpr const char* kTitle = "Orlo Demo";
+constexpr const char* kFilter = "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||";
+
+class BusyMark {
+public:
+    explicit BusyMark(bool& mark) : m_mark(mark) { m_mark = true; }
+    ~BusyMark() { m_mark = false; }
+    BusyMark(const BusyMark&) = delete;
+    BusyMark& operator=(const BusyMark&) = delete;
+
+private:
+    bool& m_mark;
+};
+
+std::vector<std::string> DroppedFiles(HDROP drop) {
+    std::vector<std::string> files;
+    const UINT count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        std::wstring path(::DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0');
+        ::DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size()));
+        files.push_back(Utf8(path.c_str()));
+    }
+    return files;
+}
+
+} // namespace
+
+// ---- Opening
+
+bool CMainFrame::Open(const std::string& path) {
+    if (!MayLeaveDocument()) return false;
+    const std::string name = SystemText(path.substr(path.find_last_of("\\/") + 1));
+    try {
+        std::unique_ptr<Document> opened;
+        {
+            const BusyMark busy(m_isBusy);
+            LongTask task(*this, m_status, "Opening " + name);
+            opened = Document::Open(path, [&](int permille) { return task.GoOn(permille); });
+        }
+        Show(std::move(opened));
+        RecentFiles::Add(path);
+        return true;
+    } catch (const Cancelled&) {
+        m_status.ShowMessage("Opening " + name + " was cancelled");
+    } catch (const OpenError& error) {
+        AfxMessageBox(SystemText(error.what()).c_str());
+    }
+    return false;
+}
+
+void CMainFrame::Show(std::unique_ptr<Document> document) {
+    m_pane.SetDocument(nullptr);
+    m_view.SetDocument(document.get());
+    m_document = std::move(document); // the one before goes now
+    m_pane.SetDocument(m_document.get());
+    ShowWhatOpened();
+    OnSelectionChanged();
+    ShowTitle();
+}
+
+void CMainFrame::ShowWhatOpened() {
+    std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
+    const std::vector<std::string>& findings = m_document->Findings();
+    if (!findings.empty()) text += "; " + findings.front();
+    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
+    m_status.ShowMessage(text);
+}
+
+void CMainFrame::ShowTitle() {
+    const char* mark = m_document->IsModified() ? "*" : "";
+    SetWindowText((mark + SystemText(m_document->Name()) + " - " + kTitle).c_str());
+}
+
+void CMainFrame::OnFileOpen() {
+    CFileDialog dialog(TRUE, "dxf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kFilter, this);
+    if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
+}
+
+// One window shows one drawing: the first file. The others wait in the list of recent ones.
+void CMainFrame::OnDropFiles(HDROP drop) {
+    const std::vector<std::string> files = DroppedFiles(drop);
+    ::DragFinish(drop);
+    if (files.empty() || !IsWindowEnabled()) return;
+    ::SetForegroundWindow(m_hWnd); // that of the program that the files come from has been it
+    for (size_t i = files.size(); i > 1; --i)
+        RecentFiles::Add(files[i - 1]);
+    if (Open(files.front()) && files.size() > 1)
+        m_status.ShowMessage("1 of " + std::to_string(files.size()) +
+                             " files opened; the others are in File, Recent Files");
+}
+
+void CMainFrame::OnRecentFile(UINT command) {
+    const std::vector<std::string> files = RecentFiles::List();
+    const size_t place = command - ID_FILE_RECENT_FIRST;
+    if (place >= files.size()) return;
+    const std::string& path = files[place];
+    if (::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
+        Open(path);
+        return;
+    }
+    RecentFiles::Remove(path);
+    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
+}
+
+// ---- Saving
+
+bool CMainFrame::Save(const std::string& path) {
+    constexpr const char* kChanged =
+        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
+    if (!m_pane.Apply()) return false;
+    try {
+        if (!SaveTo(path, false)) {
+            if (AfxMessageBox((SystemText(path) + kChanged).c_str(), MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
+                return false;
+            SaveTo(path, true);
+        }
+    } catch (const Cancelled&) {
+        m_status.ShowMessage("Saving was cancelled; the file is as it was");
+        return false;
+    } catch (const SaveError& error) {
+        AfxMessageBox(SystemText(error.what()).c_str());
+        return false;
+    }
+    RecentFiles::Add(path);
+    const bool hasStyles = !m_document->Styles().All().empty();
+    m_status.ShowMessage("Saved " + SystemText(m_document->Name()) +
+                         (hasStyles ? "; the file holds no styles" : ""));
+    ShowTitle();
+    return true;
+}
+
+bool CMainFrame::SaveTo(const std::string& path, bool overChanged) {
+    const BusyMark busy(m_isBusy);
+    LongTask task(*this, m_status, "Saving " + SystemText(m_document->Name()));
+    return m_document->Save(path, overChanged, [&](int permille) { return task.GoOn(permille); });
+}
+
+void CMainFrame::OnFileSave() {
+    if (CanDo(ID_FILE_SAVE)) Save(m_document->Path());
+}
+
+void CMainFrame::OnFileSaveAs() {
+    if (!CanDo(ID_FILE_SAVE_AS)) return;
+    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
+                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
+    if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
+}
+
+bool CMainFrame::MayLeaveDocument() {
+    if (!m_pane.Apply()) return false;
+    if (!m_document || !m_document->IsModified()) return true;
+    const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
+    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES:
+        return Save(m_document->Path());
+    case IDNO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CMainFrame::OnClose() {
+    if (MayLeaveDocument()) CFrameWnd::OnClose();
+}
+
+LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
+    return !m_isBusy && IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
+}
+
+void CMainFrame::OnAppExit() {
+    PostMessage(WM_CLOSE);
+}

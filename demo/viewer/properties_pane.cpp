@@ -1,0 +1,247 @@
+// The pane of the selection's properties.
+
+#include "demo/viewer/properties_pane.h"
+
+#include <commctrl.h>
+
+#include <afxres.h>
+
+#include "demo/viewer/resource.h"
+#include "orlo/frame/graphic_property_page.h"
+
+namespace {
+
+constexpr UINT kRenew = WM_APP;
+constexpr UINT kNothingId = 1;
+constexpr int kMargin = 8; // pixels
+
+struct Button {
+    UINT id;
+    const char* text;
+};
+constexpr Button kButtons[] = {
+    {IDOK, "&Apply"}, {ID_PANE_RESET, "&Reset"}, {ID_VIEW_PROPERTIES, "&Close"}, {ID_HELP, "&Help"}};
+
+CRect PlaceIn(HWND parent, HWND window) {
+    CRect rect;
+    ::GetWindowRect(window, rect);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CPropertiesPane, CWnd)
+
+BEGIN_MESSAGE_MAP(CPropertiesPane, CWnd)
+ON_WM_SIZE()
+ON_COMMAND(IDOK, &CPropertiesPane::OnApply)
+ON_COMMAND(IDCANCEL, &CPropertiesPane::OnCancel)
+ON_COMMAND(ID_PANE_RESET, &CPropertiesPane::Reset)
+ON_MESSAGE(kRenew, &CPropertiesPane::OnRenew)
+END_MESSAGE_MAP()
+
+CPropertiesPane::Edited::Edited(CWnd* owner, const Document& document)
+    : graphics(document.Selected()), sheet(owner, document.Drawing(), graphics.Set(), kAllGraphics) {}
+
+CPropertiesPane::CPropertiesPane(Applied applied) : m_applied(std::move(applied)) {}
+
+CPropertiesPane::~CPropertiesPane() = default;
+
+BOOL CPropertiesPane::Create(CWnd* parent, UINT id) {
+    const HBRUSH face = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    const LPCSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_ARROW), face);
+    return CWnd::Create(windowClass, "Properties", WS_CHILD | WS_CLIPCHILDREN, CRect(), parent, id) &&
+           m_nothing.Create("STATIC", "Nothing is selected", WS_CHILD | SS_NOPREFIX, CRect(), this,
+                            kNothingId);
+}
+
+void CPropertiesPane::OnSize(UINT, int cx, int) {
+    const HFONT font = static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT));
+    m_nothing.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font));
+    m_nothing.MoveWindow(kMargin, kMargin, cx - 2 * kMargin, 2 * kMargin);
+}
+
+// ---- What it shows
+
+void CPropertiesPane::SetDocument(Document* document) {
+    if (m_document && m_isOpen) m_document->EndGathering();
+    m_edited.reset();
+    m_document = document;
+    if (m_document && m_isOpen) m_document->BeginGathering();
+    Follow();
+}
+
+void CPropertiesPane::Open() {
+    if (m_isOpen) return;
+    m_isOpen = true;
+    if (m_document) m_document->BeginGathering();
+    Renew();
+    ShowWindow(SW_SHOWNA);
+}
+
+void CPropertiesPane::Close() {
+    if (!m_isOpen) return;
+    ShowWindow(SW_HIDE);
+    if (m_document) {
+        m_document->DropGathered();
+        m_document->EndGathering();
+    }
+    m_isOpen = false;
+    m_edited.reset();
+}
+
+void CPropertiesPane::Follow() {
+    if (!m_isOpen || m_isStale) return;
+    m_isStale = true;
+    PostMessage(kRenew);
+}
+
+LRESULT CPropertiesPane::OnRenew(WPARAM, LPARAM) {
+    if (m_isStale) Renew();
+    return 0;
+}
+
+void CPropertiesPane::Renew() {
+    m_isStale = false;
+    if (!m_isOpen) return;
+    const HWND focus = ::GetFocus();
+    const std::optional<Focus> within = FocusWithin();
+    const COrloPropertyPage* shown = ActivePage();
+    const char* page = shown ? shown->GetTemplateName() : nullptr;
+    SendMessage(WM_SETREDRAW, FALSE);
+    m_edited.reset();
+    if (m_document) {
+        m_edited.emplace(GetParent(), *m_document);
+        if (!Sheet() || !ShowSheet(page)) m_edited.reset();
+    }
+    const bool any = m_edited && m_edited->graphics.Count() > 0;
+    if (m_edited) Sheet()->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
+    m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
+    SendMessage(WM_SETREDRAW, TRUE);
+    ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    if (within && any)
+        SetFocusWithin(*within);
+    else if (focus != ::GetFocus())
+        ::SetFocus(::IsWindow(focus) ? focus : GetParent()->m_hWnd);
+}
+
+// page: the template of the one that comes to the front, if the sheet has it.
+bool CPropertiesPane::ShowSheet(const char* page) {
+    CGraphicPropertySheet* sheet = Sheet();
+    if (COrloPropertyPage* wanted = page ? sheet->FindPage(page) : nullptr) sheet->SetActivePage(wanted);
+    if (!sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
+    sheet->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    m_width = PlaceIn(m_hWnd, sheet->m_hWnd).Width();
+    ::SetWindowSubclass(sheet->m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(this));
+    AddButtons();
+    return true;
+}
+
+// Where a modal sheet has its buttons: in the column beside the page, above the preview.
+void CPropertiesPane::AddButtons() {
+    const HWND sheet = Sheet()->m_hWnd, page = Sheet()->GetActivePage()->m_hWnd;
+    CRect units(4, 4, 50, 14); // in dialog units
+    ::MapDialogRect(page, units);
+    const CSize gap(units.left, units.top), size(units.right, units.bottom);
+    CRect client;
+    ::GetClientRect(sheet, client);
+    const LRESULT font = ::SendMessageA(page, WM_GETFONT, 0, 0);
+    CPoint place(client.right - 2 * gap.cx - size.cx, PlaceIn(sheet, page).top + gap.cy);
+    for (const Button& button : kButtons) {
+        const DWORD kind = button.id == IDOK ? WS_GROUP | BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        const HWND window = ::CreateWindowExA(
+            0, "BUTTON", button.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx,
+            size.cy, sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
+        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
+        place.y += size.cy + gap.cy;
+    }
+    ::SendMessageA(sheet, DM_SETDEFID, IDOK, 0);
+}
+
+// ---- Writing
+
+bool CPropertiesPane::IsTyped() const {
+    COrloPropertyPage* page = ActivePage();
+    return page && !m_isStale && page->IsModified();
+}
+
+bool CPropertiesPane::Apply() {
+    if (!m_document || !m_isOpen) return true;
+    if (IsTyped()) {
+        const HWND focus = ::GetFocus();
+        COrloPropertyPage* page = ActivePage();
+        if (!page->OnKillActive()) return false;
+        page->OnOK();
+        page->OnSetActive(); // all its controls are clean
+        page->SetModified(FALSE);
+        if (::IsChild(page->m_hWnd, focus)) ::SetFocus(focus);
+    }
+    if (const int changed = m_document->TakeGathered()) m_applied(changed);
+    return true;
+}
+
+void CPropertiesPane::Reset() {
+    if (m_document && m_isOpen) m_document->DropGathered();
+    Follow();
+}
+
+// ---- Keys and buttons
+
+LRESULT CALLBACK CPropertiesPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
+                                                 UINT_PTR id, DWORD_PTR pane) {
+    const auto* self = reinterpret_cast<CPropertiesPane*>(pane);
+    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(sheet, OnSheetMessage, id);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (message == WM_COMMAND && (!control || ::GetParent(control) == sheet)) {
+        switch (LOWORD(wParam)) {
+        case IDOK:
+        case IDCANCEL:
+        case ID_PANE_RESET:
+            return self->SendMessage(WM_COMMAND, LOWORD(wParam));
+        case ID_VIEW_PROPERTIES: // closes the sheet with the button that says so
+            return ::PostMessageA(::GetParent(self->m_hWnd), WM_COMMAND, LOWORD(wParam), 0);
+        }
+    }
+    return ::DefSubclassProc(sheet, message, wParam, lParam);
+}
+
+void CPropertiesPane::OnApply() {
+    Apply();
+}
+
+void CPropertiesPane::OnCancel() {
+    Reset();
+    GetParent()->SendMessage(WM_COMMAND, ID_VIEW_SWITCH_PANE);
+}
+
+// Null for a page that a regen method has made of another class.
+COrloPropertyPage* CPropertiesPane::ActivePage() const {
+    CPropertyPage* page = Sheet() ? Sheet()->GetActivePage() : nullptr;
+    const bool isOrlos = page && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
+    return isOrlos ? static_cast<COrloPropertyPage*>(page) : nullptr;
+}
+
+std::optional<CPropertiesPane::Focus> CPropertiesPane::FocusWithin() const {
+    const COrloPropertyPage* page = ActivePage();
+    HWND control = ::GetFocus();
+    if (!page || !HasFocus() || control == Sheet()->m_hWnd || control == page->m_hWnd) return std::nullopt;
+    const bool inPage = ::IsChild(page->m_hWnd, control);
+    while (::GetParent(control) != (inPage ? page->m_hWnd : Sheet()->m_hWnd)) // the edit of a combo
+        control = ::GetParent(control);
+    return Focus{inPage, ::GetDlgCtrlID(control)};
+}
+
+void CPropertiesPane::SetFocusWithin(const Focus& focus) {
+    const CWnd* parent = focus.inPage ? static_cast<CWnd*>(ActivePage()) : Sheet();
+    const HWND control = parent ? ::GetDlgItem(parent->m_hWnd, focus.control) : nullptr;
+    if (!control || !::IsWindowVisible(control)) return TakeFocus();
+    Sheet()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
+void CPropertiesPane::TakeFocus() {
+    if (m_isStale) Renew();
+    if (!Sheet() || !Sheet()->IsWindowVisible()) return;
+    const HWND first = ::GetNextDlgTabItem(Sheet()->GetActivePage()->m_hWnd, nullptr, FALSE);
+    Sheet()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+}

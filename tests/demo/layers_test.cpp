@@ -1,0 +1,94 @@
+// The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it back.
+
+#include "demo/viewer.h"
+#include "demo/viewer/resource.h"
+
+namespace {
+
+class Layers : public Viewer {
+protected:
+    void InDialog(const std::function<void(HWND)>& play) {
+        user.InDialog([&] { user.Key('L', UserInput::kControl); }, play);
+    }
+    static std::string Cell(HWND dialog, int row, int column) {
+        char text[64] = "";
+        LVITEMA item = {};
+        item.iSubItem = column;
+        item.pszText = text;
+        item.cchTextMax = sizeof text;
+        ::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETITEMTEXTA, static_cast<WPARAM>(row),
+                              reinterpret_cast<LPARAM>(&item));
+        return text;
+    }
+    static std::string Row(HWND dialog, int row) {
+        std::string text = Cell(dialog, row, 0);
+        for (int column = 1; column < 5; ++column)
+            text += " " + Cell(dialog, row, column);
+        return text;
+    }
+    static LRESULT Box(HWND dialog, int id) { return ::SendDlgItemMessageA(dialog, id, BM_GETCHECK, 0, 0); }
+    int SelectAll() {
+        user.Key('A', UserInput::kControl);
+        return selection().Count();
+    }
+};
+
+TEST_F(Layers, AreLockedByKeysAndStaySeen) {
+    const std::vector<uint32_t> seen = Seen();
+    ASSERT_EQ(SelectAll(), 4);
+    InDialog([&](HWND dialog) {
+        EXPECT_EQ(Row(dialog, 0), "0 yes - - 3");
+        EXPECT_EQ(Row(dialog, 1), "A & B yes - - 1");
+        ASSERT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_LAYER_LIST);
+        user.Key(VK_DOWN);
+        user.Mnemonic('k');
+        EXPECT_EQ(Row(dialog, 1), "A & B yes - yes 1");
+        user.Key(VK_RETURN);
+    });
+    EXPECT_EQ(selection().Count(), 3) << "the text left the selection";
+    EXPECT_EQ(SelectAll(), 3);
+    user.Click(view(), Pixel(26, 31));
+    EXPECT_EQ(selection().Count(), 0);
+    user.Key(VK_ESCAPE);
+    EXPECT_EQ(Seen(), seen);
+}
+
+TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
+    const std::vector<uint32_t> seen = Seen();
+    for (const int state : {IDC_LAYER_ON, IDC_LAYER_FROZEN}) {
+        InDialog([&](HWND dialog) {
+            user.Click(::GetDlgItem(dialog, state)); // of the first row
+            EXPECT_NE(Seen(), seen);
+            ::SetFocus(::GetDlgItem(dialog, IDC_LAYER_LIST));
+            user.Key(VK_DOWN, UserInput::kShift); // both rows
+            EXPECT_EQ(Box(dialog, state), BST_INDETERMINATE);
+            user.Click(::GetDlgItem(dialog, state));
+            EXPECT_EQ(Box(dialog, state), BST_CHECKED) << "all of them, before none";
+            EXPECT_EQ(Cell(dialog, 0, 1 + state - IDC_LAYER_ON), "yes");
+            user.Click(::GetDlgItem(dialog, state));
+            EXPECT_EQ(Cell(dialog, 1, 1 + state - IDC_LAYER_ON), "-");
+            user.Key(VK_ESCAPE);
+        });
+        EXPECT_EQ(Seen(), seen);
+        EXPECT_EQ(SelectAll(), 4);
+        user.Key(VK_ESCAPE);
+    }
+}
+
+TEST_F(Layers, AClickOnAStateChangesItsRowAlone) {
+    InDialog([&](HWND dialog) {
+        const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
+        RECT cell = {LVIR_BOUNDS, 1, 0, 0}; // that column, of the second row
+        ::SendMessageA(list, LVM_GETSUBITEMRECT, 1, reinterpret_cast<LPARAM>(&cell));
+        const CPoint middle = CRect(cell).CenterPoint();
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) // the list waits for both
+            ::PostMessageA(list, message, 0, MAKELPARAM(middle.x, middle.y));
+        user.Wait(0);
+        EXPECT_EQ(Row(dialog, 1), "A & B - - - 1");
+        EXPECT_EQ(Row(dialog, 0), "0 yes - - 3");
+        user.Click(::GetDlgItem(dialog, IDOK));
+    });
+    EXPECT_EQ(SelectAll(), 3);
+}
+
+} // namespace

@@ -1,0 +1,159 @@
+// The pane of properties beside the drawing: follows the selection, writes by Apply, loses nothing that was typed.
+
+#include "demo/automation/control_text.h"
+#include "demo/automation/sheet_pages.h"
+#include "demo/viewer.h"
+#include "demo/viewer/resource.h"
+#include "orlo/host/graphic.h"
+#include "orlo/host/property.h"
+#include "orlo/resources/resource.h"
+#include "support/message_box_watcher.h"
+#include "support/object_counts.h"
+
+namespace {
+
+class Pane : public Viewer {
+protected:
+    Pane() {
+        user.Key(VK_TAB); // the red line
+        user.Key(VK_F4);
+    }
+
+    HWND pane() { return frame->Pane().m_hWnd; }
+    HWND sheet() { return ::FindWindowExA(pane(), nullptr, "#32770", nullptr); }
+    HWND control(int id) { return ::GetDlgItem(ActivePageOf(sheet()), id); }
+    int focused() { return ::GetDlgCtrlID(::GetFocus()); }
+    void ShowPen() { ASSERT_TRUE(ClickTab(user, sheet(), 1)); }
+    void FocusByTab(int id) {
+        for (int i = 0; i < 20 && focused() != id; ++i)
+            user.Key(VK_TAB);
+        ASSERT_EQ(focused(), id);
+    }
+    void TypeScale(const std::string& text) {
+        ::SetFocus(control(IDC_PEN_SCALE));
+        ::SendMessageA(control(IDC_PEN_SCALE), EM_SETSEL, 0, -1);
+        user.Type(text);
+    }
+    double ScaleOf(size_t graphic) {
+        return *orlo::host::ReadProperty<double>(document().Selectable()[graphic], kPropPenScale);
+    }
+    void ClickOnGreen() { user.Click(view(), Pixel(10, 35)); }
+};
+
+TEST_F(Pane, OneApplyByKeysIsOneStepOverAllPages) {
+    const PropertySnapshot before = Properties();
+    EXPECT_EQ(::GetFocus(), view()) << "the drawing keeps the keys";
+    user.Key(VK_F6);
+    ASSERT_TRUE(::IsChild(pane(), ::GetFocus()));
+    FocusByTab(IDC_INFO);
+    user.Type("Wall");
+    user.Key(VK_TAB, UserInput::kControl);
+    FocusByTab(IDC_COLOR);
+    user.Keys(VK_DOWN, 3);
+    user.Key(VK_RETURN);
+    EXPECT_EQ(before.ChangesTo(Properties()).size(), 2u);
+    EXPECT_EQ(document().UndoSteps(), 1);
+    EXPECT_EQ(focused(), IDC_COLOR) << "the sheet stays, and the focus in it";
+    user.Key(VK_F6);
+    EXPECT_EQ(::GetFocus(), view());
+    user.Key('Z', UserInput::kControl);
+    EXPECT_TRUE(before == Properties());
+    user.Wait(0);
+    ASSERT_TRUE(ClickTab(user, sheet(), 0));
+    EXPECT_EQ(WindowText(control(IDC_INFO)), "") << "the pane shows what undo has made";
+}
+
+TEST_F(Pane, TheNextSelectionAppliesWhatWasTyped) {
+    ShowPen();
+    TypeScale("2.5");
+    ClickOnGreen();
+    EXPECT_EQ(ScaleOf(0), 2.5);
+    EXPECT_EQ(ScaleOf(1), 1);
+    EXPECT_EQ(document().UndoSteps(), 1);
+    EXPECT_EQ(SheetOf(sheet()).GetActiveIndex(), 1) << "the new sheet is on the same page";
+    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "1");
+    TypeScale("4");
+    EXPECT_EQ(ScaleOf(0), 2.5);
+    user.Click(::GetDlgItem(sheet(), IDOK));
+    EXPECT_EQ(ScaleOf(1), 4);
+    EXPECT_EQ(ScaleOf(0), 2.5);
+}
+
+TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
+    ShowPen();
+    TypeScale("0");
+    const PropertySnapshot before = Properties();
+    const auto refuses = [&](const char* way, const std::function<void()>& act) {
+        MessageBoxWatcher boxes;
+        act();
+        EXPECT_EQ(boxes.Boxes().size(), 1u) << way;
+        EXPECT_EQ(focused(), IDC_PEN_SCALE) << way;
+        EXPECT_EQ(selection().Members(), std::vector<GraphicStruct*>{document().Selectable()[0]}) << way;
+        EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "0") << way;
+    };
+    refuses("Enter", [&] { user.Key(VK_RETURN); });
+    refuses("another page", [&] { user.Key(VK_TAB, UserInput::kControl); });
+    refuses("another graphic", [&] { ClickOnGreen(); });
+    refuses("the pane's end", [&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_VIEW_PROPERTIES, 0); });
+    refuses("the window's end", [&] { ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0); });
+    user.Key(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), view());
+    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "1");
+    ClickOnGreen();
+    EXPECT_TRUE(selection().Contains(document().Selectable()[1]));
+    EXPECT_TRUE(before == Properties());
+}
+
+TEST_F(Pane, ResetTakesBackToTheLastApply) {
+    ShowPen();
+    TypeScale("2");
+    user.Key(VK_RETURN);
+    TypeScale("3");
+    user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
+    EXPECT_EQ(ScaleOf(0), 3);
+    user.Click(::GetDlgItem(sheet(), ID_PANE_RESET));
+    EXPECT_EQ(ScaleOf(0), 2);
+    EXPECT_EQ(document().UndoSteps(), 1);
+}
+
+TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
+    ShowPen();
+    TypeScale("2");
+    user.Click(::GetDlgItem(sheet(), ID_VIEW_PROPERTIES));
+    EXPECT_FALSE(::IsWindowVisible(pane()));
+    EXPECT_EQ(ScaleOf(0), 2);
+    user.Key(VK_F4);
+    ShowPen();
+    TypeScale("3");
+    MessageBoxWatcher boxes(IDCANCEL);
+    ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0);
+    EXPECT_EQ(boxes.OnlyText().find("Save the changes"), 0u);
+    EXPECT_EQ(ScaleOf(0), 3);
+    EXPECT_EQ(document().UndoSteps(), 2);
+}
+
+TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
+    user.Key('A', UserInput::kControl);
+    ASSERT_TRUE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
+    user.Wait(0);
+    EXPECT_FALSE(::IsWindowVisible(sheet())) << "nothing is selected";
+    user.Key(VK_TAB);
+    EXPECT_TRUE(::IsWindowVisible(sheet()));
+}
+
+TEST_F(Pane, FiftySelectionsLeaveNothingBehind) {
+    const auto walk = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            ::SetFocus(view());
+            user.Key(VK_TAB);
+            ClickTab(user, sheet(), i % 2);
+        }
+    };
+    walk(4);
+    const int gdi = GdiObjectCount(), objects = UserObjectCount();
+    walk(48);
+    EXPECT_EQ(GdiObjectCount(), gdi);
+    EXPECT_EQ(UserObjectCount(), objects);
+}
+
+} // namespace
