@@ -11,11 +11,12 @@
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/exchange/window_text.h"
 #include "orlo/host/drawing.h"
+#include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
 namespace {
 
-constexpr unsigned short kStyleBits = 0x0003;
+constexpr unsigned short kStyleBits = kTextItalic | kTextBold;
 constexpr int kTextSizeKind = 1; // of DrawingStdNumericToText
 constexpr int kSizeTextSize = 0x100;
 
@@ -23,11 +24,11 @@ struct Effect {
     int nIDC;
     unsigned short bit;
 };
-constexpr Effect kEffects[] = {{IDC_STRIKETHROUGH, 0x0004},
-                               {IDC_HIDDEN, 0x0008},
-                               {IDC_ALL_CAPS, 0x0040},
-                               {IDC_UNDERLINE, 0x0100},
-                               {IDC_TEXT_BOX, 0x1000}};
+constexpr Effect kEffects[] = {{IDC_STRIKETHROUGH, kTextStrikethrough},
+                               {IDC_HIDDEN, kTextHidden},
+                               {IDC_ALL_CAPS, kTextAllCaps},
+                               {IDC_UNDERLINE, kTextUnderline},
+                               {IDC_TEXT_BOX, kTextBox}};
 
 void SetBits(unsigned short& word, unsigned short mask, unsigned short bits) {
     word = static_cast<unsigned short>((word & ~mask) | bits);

@@ -4,12 +4,12 @@
 // values. A control that has been set takes its bits out of the mask; one that still shows nothing, or the third state,
 // changes neither word:
 //
-//   0x0003  font style: 0 Regular, 1 Italic, 2 Bold, 3 Bold Italic
-//   0x0004  strikethrough, check box 103
-//   0x0008  hidden, 104
-//   0x0040  all caps, 105
-//   0x0100  underline, 106
-//   0x1000  text box, 107
+//   kTextItalic, kTextBold   font style: 0 Regular, 1 Italic, 2 Bold, 3 Bold Italic
+//   kTextStrikethrough        check box 103
+//   kTextHidden               104
+//   kTextAllCaps              105
+//   kTextUnderline            106
+//   kTextBox                  107
 #pragma once
 
 #include <afxwin.h>

@@ -41,7 +41,21 @@ ORLO_CONSTANT char kPropHatchCross[] = "HatchCross";
 ORLO_CONSTANT char kPropTextFont[] = "TextFont";
 ORLO_CONSTANT char kPropTextSize[] = "TextSize";     // height of a capital letter, drawing units
 ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";   // bits
-ORLO_CONSTANT char kPropTextFormat[] = "TextFormat"; // 0 left, 1 centre, 2 right
+ORLO_CONSTANT char kPropTextFormat[] = "TextFormat"; // kTextLeft ...
+
+// Bits of kPropTextStyle. The two lowest, as a number, are the place in the list of font styles.
+enum {
+    kTextItalic = 0x0001,
+    kTextBold = 0x0002,
+    kTextStrikethrough = 0x0004,
+    kTextHidden = 0x0008,
+    kTextAllCaps = 0x0040,
+    kTextUnderline = 0x0100,
+    kTextBox = 0x1000
+};
+
+// Values of kPropTextFormat.
+enum { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 
 // Types of graphics (GraphicStruct::bType).
 enum {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "drawcore/src/dxf/reader.h"
-#include "drawcore/src/dxf/text_bits.h"
 #include "drawcore/src/save/drawing_patch.h"
 #include "drawcore/src/save/save_error.h"
+#include "orlo/host/words.h"
 #include "tests/dxf/drawing_text.h"
 
 namespace {
@@ -82,7 +82,7 @@ const Row kRows[] = {
      [](Look& look) {
          look.color = 0x0000FF;
          look.text.height = 5;
-         look.text.style = drawcore::kTextUnderline;
+         look.text.style = kTextUnderline;
          look.text.format = 2;
      }},
     {"ATextHangsOnItsPlace",

@@ -8,7 +8,6 @@
 
 #include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/standard_brushes.h"
-#include "drawcore/src/dxf/text_bits.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
 #include "drawcore/src/tables/fold_name.h"
@@ -16,6 +15,7 @@
 #include "drawcore/src/units/decimal_mark.h"
 #include "drawcore/src/units/header_units.h"
 #include "drawcore/src/units/number_text.h"
+#include "orlo/host/words.h"
 
 char drawcore::DecimalMark() {
     return '.';
@@ -39,15 +39,11 @@ struct Choice {
 constexpr Choice kSwitch[] = {{"Off", 0}, {"On", 1}};
 constexpr Choice kDrawModes[] = {{"Alternate", 0}, {"Winding", 1}};
 constexpr Choice kSystems[] = {{"Paper Scale", 0}, {"World Scale", 1}};
-constexpr Choice kFormats[] = {
-    {"Left", drawcore::kTextLeft}, {"Center", drawcore::kTextCenter}, {"Right", drawcore::kTextRight}};
-constexpr Choice kEffects[] = {{"Bold", drawcore::kTextBold},
-                               {"Italic", drawcore::kTextItalic},
-                               {"Strikethrough", drawcore::kTextStrikethrough},
-                               {"Underline", drawcore::kTextUnderline},
-                               {"Text Box", drawcore::kTextBox},
-                               {"Hidden", drawcore::kTextHidden},
-                               {"All Caps", drawcore::kTextAllCaps}};
+constexpr Choice kFormats[] = {{"Left", kTextLeft}, {"Center", kTextCenter}, {"Right", kTextRight}};
+constexpr Choice kEffects[] = {
+    {"Bold", kTextBold},           {"Italic", kTextItalic}, {"Strikethrough", kTextStrikethrough},
+    {"Underline", kTextUnderline}, {"Text Box", kTextBox},  {"Hidden", kTextHidden},
+    {"All Caps", kTextAllCaps}};
 constexpr char kRegular[] = "Regular"; // no effect
 
 bool Same(std::string_view a, std::string_view b) {

@@ -142,7 +142,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropTextFormat, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (own.numbers[0] >= drawcore::kTextLeft && own.numbers[0] <= drawcore::kTextRight)
+         if (own.numbers[0] >= kTextLeft && own.numbers[0] <= kTextRight)
              look.text.format = static_cast<uint16_t>(own.numbers[0]);
      }},
 };

@@ -3,7 +3,7 @@
 
 #include "drawcore/src/dxf/inline_codes.h"
 #include "drawcore/src/dxf/look.h"
-#include "drawcore/src/dxf/text_bits.h"
+#include "orlo/host/words.h"
 
 namespace dxf {
 

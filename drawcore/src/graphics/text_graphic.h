@@ -3,9 +3,9 @@
 
 #include <optional>
 
-#include "drawcore/src/dxf/text_bits.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/shaped_text.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
 

@@ -72,8 +72,8 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     const auto known = std::find_if(styles.begin(), styles.end(), fits);
     if (known != styles.end()) return known->name;
     if (face.family.empty()) return {};
-    const std::string plain = face.family + (face.cut & drawcore::kTextBold ? " Bold" : "") +
-                              (face.cut & drawcore::kTextItalic ? " Italic" : "");
+    const std::string plain =
+        face.family + (face.cut & kTextBold ? " Bold" : "") + (face.cut & kTextItalic ? " Italic" : "");
     size_t index = 0;
     for (int number = 1; index == 0 || styles[index].declared;
          ++number) // one of that name may have another face
@@ -82,8 +82,8 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     style.declared = true;
     style.fontFace = face.family;
     style.fontFile = FontFileOf(face);
-    style.bold = (face.cut & drawcore::kTextBold) != 0;
-    style.italic = (face.cut & drawcore::kTextItalic) != 0;
+    style.bold = (face.cut & kTextBold) != 0;
+    style.italic = (face.cut & kTextItalic) != 0;
     tables_.AddTextStyle(style);
     return style.name;
 }
