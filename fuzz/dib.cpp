@@ -1,7 +1,8 @@
-// Bitmap headers: whatever passes has all its parts inside the block.
+// Bitmaps: whatever passes has all its parts inside the block, and is drawn from there.
 
 #include <cstdint>
 
+#include "orlo/summary/dib_drawing.h"
 #include "orlo/summary/dib_layout.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -14,6 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     // A thumbnail's value has tag and format before the picture.
     constexpr size_t kHead = 8;
-    if (size > kHead) orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColours::Rgb, 3);
+    if (size > kHead) {
+        orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColours::Rgb, 3);
+        orlo::DrawDibFitted(data + kHead, size - kHead, 7, 5);
+    }
     return 0;
 }

@@ -1,88 +1,113 @@
-// Code pages on this machine, by iconv.
+// Code pages on this machine: the tables of Wine, so that a text is the same here and in the Windows programs.
 
 #include "orlo/propset/code_page.h"
 
-#include <iconv.h>
-
-#include <array>
-#include <cerrno>
 #include <map>
-#include <memory>
+
+#include "native/nls_table.h"
 
 namespace orlo {
 
 namespace {
 
-std::string NameOf(uint16_t codePage) {
-    switch (codePage) {
-    case 0:
-        return "CP1252";
-    case kCodePageUtf16:
-        return "UTF-16LE";
-    case kCodePageUtf8:
-        return "UTF-8";
-    case 10000:
-        return "MACINTOSH";
-    default:
-        return "CP" + std::to_string(codePage);
-    }
+constexpr char32_t kFirstHalf = 0xD800, kSecondHalf = 0xDC00, kAfterHalves = 0xE000;
+constexpr char32_t kPastHalves = 0x10000; // from here on a character takes two halves
+
+bool IsFirstHalf(char32_t c) {
+    return c >= kFirstHalf && c < kSecondHalf;
+}
+bool IsSecondHalf(char32_t c) {
+    return c >= kSecondHalf && c < kAfterHalves;
 }
 
-// One conversion and its descriptor.
-class Converter {
-public:
-    Converter(const std::string& to, const std::string& from)
-        : handle_(::iconv_open(to.c_str(), from.c_str())) {}
-    ~Converter() {
-        if (IsOpen()) ::iconv_close(handle_);
+// Nothing for half a character.
+std::optional<std::string> ToUtf8(std::u16string_view text) {
+    std::string utf8;
+    utf8.reserve(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        char32_t code = text[i];
+        if (IsFirstHalf(code) && i + 1 < text.size() && IsSecondHalf(text[i + 1]))
+            code = kPastHalves + ((code - kFirstHalf) << 10) + (text[++i] - kSecondHalf);
+        else if (code >= kFirstHalf && code < kAfterHalves)
+            return std::nullopt;
+        const int following = code < 0x80 ? 0 : code < 0x800 ? 1 : code < kPastHalves ? 2 : 3;
+        constexpr uint8_t kLeads[] = {0x00, 0xC0, 0xE0, 0xF0};
+        utf8 += static_cast<char>(kLeads[following] | code >> (6 * following));
+        for (int rest = following - 1; rest >= 0; --rest)
+            utf8 += static_cast<char>(0x80 | (code >> (6 * rest) & 0x3F));
     }
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
+    return utf8;
+}
 
-    std::optional<std::string> Convert(std::string_view text) {
-        if (!IsOpen()) return std::nullopt;
-        ::iconv(handle_, nullptr, nullptr, nullptr, nullptr); // forgets a text that broke off
-        std::string out;
-        auto* in = const_cast<char*>(text.data()); // iconv takes no const and writes nothing
-        size_t inLeft = text.size();
-        while (inLeft > 0)
-            if (!Step(&in, &inLeft, out)) return std::nullopt;
-        if (!Step(nullptr, nullptr, out)) return std::nullopt; // what was held back for an accent to follow
-        return out;
+// Nothing for bytes that are no UTF-8, as forms of a character that are longer than its shortest.
+std::optional<std::u16string> ToUtf16(std::string_view utf8) {
+    std::u16string text;
+    text.reserve(utf8.size());
+    for (size_t i = 0; i < utf8.size();) {
+        const auto lead = static_cast<uint8_t>(utf8[i++]);
+        const int following = lead < 0x80 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+        if ((lead >= 0x80 && lead < 0xC0) || lead >= 0xF8) return std::nullopt;
+        char32_t code = following == 0 ? lead : lead & (0x3Fu >> following);
+        for (int rest = following; rest > 0; --rest) {
+            if (i == utf8.size() || (utf8[i] & 0xC0) != 0x80) return std::nullopt;
+            code = code << 6 | (utf8[i++] & 0x3Fu);
+        }
+        constexpr char32_t kLowest[] = {0, 0x80, 0x800, kPastHalves}, kHighest = 0x10FFFF;
+        if (code < kLowest[following] || code > kHighest || IsFirstHalf(code) || IsSecondHalf(code))
+            return std::nullopt;
+        if (code >= kPastHalves) {
+            text += static_cast<char16_t>(kFirstHalf + ((code - kPastHalves) >> 10));
+            code = kSecondHalf + ((code - kPastHalves) & 0x3FF);
+        }
+        text += static_cast<char16_t>(code);
     }
+    return text;
+}
 
-private:
-    bool Step(char** in, size_t* inLeft, std::string& out) {
-        std::array<char, 512> part;
-        char* end = part.data();
-        size_t room = part.size();
-        const size_t result = ::iconv(handle_, in, inLeft, &end, &room);
-        out.append(part.data(), end);
-        return result != static_cast<size_t>(-1) || errno == E2BIG;
-    }
-    bool IsOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
-    iconv_t handle_;
-};
+// The numbers below it stand for the code pages of a system.
+uint16_t NumberOf(uint16_t codePage) {
+    constexpr uint16_t kOfTheSystem[] = {kUsualCodePage, 437, 10000, kUsualCodePage};
+    return codePage < std::size(kOfTheSystem) ? kOfTheSystem[codePage] : codePage;
+}
 
-// Opening one takes longer than most texts.
-Converter& ConverterOf(const std::string& to, const std::string& from) {
-    thread_local std::map<std::pair<std::string, std::string>, std::unique_ptr<Converter>> converters;
-    std::unique_ptr<Converter>& converter = converters[{to, from}];
-    if (!converter) converter = std::make_unique<Converter>(to, from);
-    return *converter;
+const NlsTable& TableOf(uint16_t codePage) {
+    thread_local std::map<uint16_t, NlsTable>
+        tables; // what a file says; reading it takes longer than most texts
+    return tables.try_emplace(codePage, codePage).first->second;
+}
+
+// Tables give the bytes that a code page of Windows leaves undefined the control characters of their numbers.
+bool HasUndefined(std::u16string_view text, uint16_t codePage) {
+    const bool isOfWindows = codePage == 0 || codePage == 874 || (codePage >= 1250 && codePage <= 1258);
+    return isOfWindows &&
+           std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x80 && c < 0xA0; });
 }
 
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
-    if (IsPlainText(text, codePage)) return std::string(text);
-    if (codePage == kCodePageUtf16) text = text.substr(0, text.size() / 2 * 2);
-    return ConverterOf("UTF-8", NameOf(codePage)).Convert(text);
+    if (text.empty() || IsPlainText(text, codePage)) return std::string(text);
+    if (codePage == kCodePageUtf8) return ToUtf16(text) ? std::optional<std::string>(text) : std::nullopt;
+    std::optional<std::u16string> wide;
+    if (codePage == kCodePageUtf16) {
+        wide.emplace(text.size() / 2, u'\0');
+        text.copy(reinterpret_cast<char*>(wide->data()), wide->size() * 2);
+    } else if (const NlsTable& table = TableOf(NumberOf(codePage)); table.IsKnown()) {
+        wide = table.ToUtf16(text);
+    }
+    if (!wide || HasUndefined(*wide, codePage)) return std::nullopt;
+    return ToUtf8(*wide);
 }
 
 std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage) {
-    if (IsPlainText(utf8, codePage)) return std::string(utf8);
-    return ConverterOf(NameOf(codePage), "UTF-8").Convert(utf8);
+    if (utf8.empty() || IsPlainText(utf8, codePage)) return std::string(utf8);
+    const std::optional<std::u16string> wide = ToUtf16(utf8);
+    if (!wide) return std::nullopt;
+    if (codePage == kCodePageUtf8) return std::string(utf8);
+    if (codePage == kCodePageUtf16)
+        return std::string(reinterpret_cast<const char*>(wide->data()), wide->size() * 2);
+    const NlsTable& table = TableOf(NumberOf(codePage));
+    return table.IsKnown() ? table.FromUtf16(*wide) : std::nullopt;
 }
 
 } // namespace orlo

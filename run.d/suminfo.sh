@@ -1,18 +1,54 @@
-# Runs suminfo under Wine, where the caller stands. Builds it first when something is newer. No display is needed.
+# Runs suminfo where the caller stands: the program for this machine, and under Wine the Windows program for what that one
+# leaves to it, which is writing documents and playing metafiles. Each is built when it is needed and something is newer. No
+# display is needed.
 
-program=$PWD/build/bin/suminfo.exe
-newer_sources() { find orlo afx drawcore tools cmake CMakeLists.txt -newer "$program" -type f -print -quit; }
-if [ ! -e "$program" ] || [ -n "$(newer_sources)" ]; then
+native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.exe
+# Looked at here: a program that does so would take longer than suminfo itself.
+shopt -s globstar
+is_current() {
+    local part
+    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},drawcore/src/pictures,tools/suminfo,native,cmake}/**; do
+        if [ "$part" -nt "$1" ]; then return 1; fi # also when there is no program
+    done
+}
+
+if ! is_current "$native"; then
+    ( set --; source run.d/setup.sh; configure native; cmake --build build/native --target suminfo ) >&2
+    touch "$native"
+fi
+cd "$ORLO_CALLER_DIR"
+case ${1-} in show|check|rc) exec "$native" "$@" ;; esac
+
+# Both programs may have to read arguments on standard input.
+input=
+for argument; do
+    if [ "$argument" = @- ]; then
+        input=$(mktemp)
+        trap 'rm -f "$input"' EXIT
+        cat >"$input"
+        break
+    fi
+done
+start() { if [ -n "$input" ]; then "$@" <"$input"; else "$@"; fi; }
+
+left_to_windows=3 # as tools/suminfo/exit_codes.h has it
+status=0
+start "$native" "$@" || status=$?
+[ $status -eq $left_to_windows ] || exit $status
+
+cd "$OLDPWD"
+if ! is_current "$windows"; then
     ( set --; word=build; set -- suminfo; source run.d/build.sh ) >&2
-    touch "$program"
+    touch "$windows"
 fi
 wine_prefix
-
 # Names of files come and go in UTF-8. The server stays for a moment: the next call then starts in a tenth of the time.
 case ${LC_ALL:-${LC_CTYPE:-${LANG-}}} in *[Uu][Tt][Ff]*8*) ;; *) export LC_ALL=C.UTF-8 ;; esac
 wineserver -p30 2>/dev/null || true
 cd "$ORLO_CALLER_DIR"
 # A command line of the system holds 32,767 characters, an escaped name twice its own. "@-": the rest is on standard input.
 arguments="$*"
-if [ $((2 * ${#arguments} + 3 * $#)) -gt 32000 ]; then exec wine "$program" @- < <(printf '%s\0' "$@"); fi
-exec wine "$program" "$@"
+if [ $((2 * ${#arguments} + 3 * $#)) -gt 32000 ]; then exec wine "$windows" @- < <(printf '%s\0' "$@"); fi
+status=0
+start wine "$windows" "$@" || status=$?
+exit $status

@@ -1,5 +1,5 @@
 // bench_propset [NAME...]: measures property sets on this machine: real streams against libgsf and against a copy of
-// their bytes, large sets for their growth, allocations for each value. Without a name: all.
+// their bytes, large sets for their growth, allocations for each value, suminfo against gsf. Without a name: all.
 
 #include <cstring>
 
@@ -12,8 +12,10 @@ struct Bench {
     void (*run)();
 };
 
-constexpr Bench kBenches[] = {
-    {"streams", BenchStreams}, {"growth", BenchGrowth}, {"allocations", BenchAllocations}};
+constexpr Bench kBenches[] = {{"streams", BenchStreams},
+                              {"growth", BenchGrowth},
+                              {"allocations", BenchAllocations},
+                              {"programs", BenchPrograms}};
 
 bool Wanted(const char* name, int argc, char** argv) {
     for (int i = 1; i < argc; ++i)

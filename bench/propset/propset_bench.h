@@ -4,3 +4,4 @@
 void BenchStreams();
 void BenchGrowth();
 void BenchAllocations();
+void BenchPrograms();

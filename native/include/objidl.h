@@ -1,7 +1,9 @@
-// The system's stream interface and its types, for this machine: as much of them as orlo/propset uses.
+// The system's stream interface and its types, for this machine: as much of them as orlo/propset and tools/suminfo use.
 #pragma once
 
 #include <afx.h>
+
+#include <cstring>
 
 using ULONG = std::uint32_t;
 using HRESULT = std::int32_t;
@@ -26,6 +28,9 @@ struct GUID {
     std::uint8_t Data4[8];
 };
 static_assert(sizeof(GUID) == 16, "a GUID is written as it stands");
+inline bool IsEqualGUID(const GUID& a, const GUID& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
 
 union LARGE_INTEGER {
     struct {

@@ -49,6 +49,7 @@
 #include "orlo/propset/tokens.h"
 #include "orlo/propset/value_text.h"
 #include "orlo/summary/compound_file.h"
+#include "orlo/summary/dib_drawing.h"
 #include "orlo/summary/ole_summary.h"
 #include "orlo/summary/summary_info.h"
 #include "orlo/summary/thumbnail.h"

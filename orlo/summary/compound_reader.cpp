@@ -12,7 +12,6 @@
 namespace orlo {
 namespace {
 
-constexpr std::array<uint8_t, 8> kSignature = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
 constexpr size_t kEntryBytes = 128;
 constexpr size_t kNameBytes = 64;
 constexpr size_t kShortSectorBytes = 64;
@@ -145,7 +144,7 @@ uint32_t CompoundReader::Structure::Header(size_t offset) const {
 // False if nothing after it can be found.
 bool CompoundReader::Structure::ReadHeader() {
     if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
-    if (!std::equal(kSignature.begin(), kSignature.end(), header_.begin())) return false;
+    if (!std::equal(kCompoundSignature.begin(), kCompoundSignature.end(), header_.begin())) return false;
     state_ = CompoundState::sound;
     const auto shift = LittleEndian<uint16_t>(header_.data() + 30);
     if (shift != 9 && shift != 12) {

@@ -6,6 +6,7 @@
 //   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever there is, even in a damaged file
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -17,6 +18,9 @@
 #include "orlo/summary/sector_table.h"
 
 namespace orlo {
+
+// What every compound file begins with.
+constexpr std::array<uint8_t, 8> kCompoundSignature = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
 
 enum class CompoundState {
     foreign, // not a compound file

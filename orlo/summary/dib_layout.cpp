@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "orlo/summary/bytes.h"
+#include "orlo/summary/run_length.h"
 
 namespace orlo {
 namespace {
@@ -14,11 +15,6 @@ constexpr uint32_t kCoreHeader = 12;
 constexpr uint32_t kInfoHeader = 40;
 // The header with masks, with an alpha mask, version 4 and version 5.
 constexpr uint32_t kLaterHeaders[] = {52, 56, 108, 124};
-
-constexpr uint32_t kUncompressed = 0;
-constexpr uint32_t kRunLength8 = 1;
-constexpr uint32_t kRunLength4 = 2;
-constexpr uint32_t kBitFields = 3;
 
 constexpr size_t kMaskBytes = 12;
 constexpr uint32_t kMostColours = 256;
@@ -71,13 +67,13 @@ std::optional<Header> ReadHeader(const uint8_t* data, size_t size) {
 bool CompressionFits(const DibLayout& layout) {
     const uint16_t bits = layout.bitsPerPixel;
     switch (layout.compression) {
-    case kUncompressed:
+    case kDibUncompressed:
         return bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
-    case kRunLength8:
+    case kDibRunLength8:
         return bits == 8 && !layout.topDown;
-    case kRunLength4:
+    case kDibRunLength4:
         return bits == 4 && !layout.topDown;
-    case kBitFields:
+    case kDibBitFields:
         return bits == 16 || bits == 32;
     default:
         return false; // whole files of other kinds inside a bitmap are for printers
@@ -93,69 +89,15 @@ std::optional<size_t> TableBytes(const Header& header, DibColours colours) {
     if (count == 0 && layout.bitsPerPixel <= 8) count = nameable;
     size_t each = colours == DibColours::PaletteIndices ? 2 : 4;
     if (layout.headerSize == kCoreHeader && colours == DibColours::Rgb) each = 3;
-    const bool masks = layout.compression == kBitFields && layout.headerSize == kInfoHeader;
+    const bool masks = layout.compression == kDibBitFields && layout.headerSize == kInfoHeader;
     return count * each + (masks ? kMaskBytes : 0);
 }
-
-// Walks run-length data: every code lies inside the block, every pixel inside the picture, and the end is
-// marked.
-class RunLengthWalk {
-public:
-    RunLengthWalk(const uint8_t* data, size_t size, const DibLayout& layout)
-        : data_(data), size_(size), layout_(layout) {}
-
-    bool Passes() {
-        while (size_ - at_ >= 2) {
-            const uint8_t count = data_[at_];
-            const uint8_t value = data_[at_ + 1];
-            at_ += 2;
-            if (count == 0 && value == kEndOfBitmap) return true;
-            if (!(count != 0 ? Pixels(count) : Escape(value))) return false;
-        }
-        return false;
-    }
-
-private:
-    static constexpr uint8_t kEndOfLine = 0;
-    static constexpr uint8_t kEndOfBitmap = 1;
-    static constexpr uint8_t kDelta = 2;
-
-    bool Pixels(uint32_t count) {
-        x_ += count;
-        return y_ < layout_.height && x_ <= layout_.width;
-    }
-
-    bool Escape(uint8_t value) {
-        if (value == kEndOfLine) {
-            x_ = 0;
-            return ++y_ <= layout_.height;
-        }
-        if (value == kDelta) {
-            if (size_ - at_ < 2) return false;
-            x_ += data_[at_];
-            y_ += data_[at_ + 1];
-            at_ += 2;
-            return x_ <= layout_.width && y_ <= layout_.height;
-        }
-        const size_t bytes = layout_.bitsPerPixel == 8 ? value : (value + 1u) / 2;
-        const size_t padded = (bytes + 1) & ~size_t{1};
-        if (size_ - at_ < padded) return false;
-        at_ += padded;
-        return Pixels(value);
-    }
-
-    const uint8_t* data_;
-    size_t size_;
-    const DibLayout& layout_;
-    size_t at_ = 0;
-    int64_t x_ = 0;
-    int64_t y_ = 0;
-};
 
 bool RunLengthPasses(const uint8_t* pixels, size_t left, uint32_t imageBytes, const DibLayout& layout) {
     if (imageBytes == 0 || imageBytes > left) return false;
     const uint64_t area = static_cast<uint64_t>(layout.width) * static_cast<uint64_t>(layout.height);
-    return area <= kMostRunLengthPixels && RunLengthWalk(pixels, imageBytes, layout).Passes();
+    const auto skip = [](const RunOfPixels&) {};
+    return area <= kMostRunLengthPixels && WalkRunLength(pixels, imageBytes, layout, skip);
 }
 
 } // namespace
@@ -172,7 +114,7 @@ std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColo
     layout.pixelOffset = layout.headerSize + *table;
     const size_t left = size - layout.pixelOffset;
 
-    if (layout.compression == kRunLength8 || layout.compression == kRunLength4) {
+    if (layout.compression == kDibRunLength8 || layout.compression == kDibRunLength4) {
         if (!RunLengthPasses(data + layout.pixelOffset, left, header->imageBytes, layout))
             return std::nullopt;
         layout.pixelBytes = header->imageBytes;

@@ -16,15 +16,21 @@ namespace orlo {
 // palette.
 enum class DibColours { Rgb, PaletteIndices };
 
+// Compressions.
+constexpr uint32_t kDibUncompressed = 0;
+constexpr uint32_t kDibRunLength8 = 1;
+constexpr uint32_t kDibRunLength4 = 2;
+constexpr uint32_t kDibBitFields = 3; // not compressed: colours are where masks say
+
 struct DibLayout {
     int32_t width = 0;  // pixels
     int32_t height = 0; // pixels, never negative
     bool topDown = false;
     uint16_t bitsPerPixel = 0;
-    uint32_t headerSize = 0;  // bytes
-    uint32_t compression = 0; // 0 none, 1 and 2 run-length, 3 colour masks
-    size_t pixelOffset = 0;   // bytes from the header: header, colour masks and colour table
-    size_t pixelBytes = 0;    // what drawing reads from there
+    uint32_t headerSize = 0; // bytes
+    uint32_t compression = kDibUncompressed;
+    size_t pixelOffset = 0; // bytes from the header: header, colour masks and colour table
+    size_t pixelBytes = 0;  // what drawing reads from there
 };
 
 // The layout of the bitmap at data, of which size bytes may be read. Nothing comes back for a header that

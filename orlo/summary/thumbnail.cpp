@@ -9,12 +9,14 @@
 
 #include "orlo/summary/bytes.h"
 #include "orlo/summary/dib_layout.h"
+#include "orlo/summary/fitting.h"
 #include "orlo/summary/metafile_check.h"
 #include "orlo/summary/metafile_player.h"
 #include "orlo/summary/readable_bytes.h"
 #include "orlo/win/gdi.h"
 
 using orlo::LittleEndian;
+using orlo::Place;
 using orlo::Readable;
 using orlo::ReadableFrom;
 
@@ -22,31 +24,13 @@ namespace {
 
 constexpr DWORD kSystemFormat = 0xFFFFFFFF;
 
-struct Place {
-    int left, top, width, height;
-};
-
 bool IsEmpty(const RECT* rect) {
     return !rect || rect->right <= rect->left || rect->bottom <= rect->top;
 }
 
-// The target, or the largest part in its middle that has the proportions of the source. Products of two
-// extents don't fit 32 bits.
-Place Fitted(const RECT& target, double sourceWidth, double sourceHeight, bool keepAspect) {
-    Place place = {target.left, target.top, target.right - target.left, target.bottom - target.top};
-    if (!keepAspect) return place;
-    const double across = place.width * sourceHeight;
-    const double down = place.height * sourceWidth;
-    if (down > across) {
-        const int height = static_cast<int>(across / sourceWidth);
-        place.top += (place.height - height) / 2;
-        place.height = height;
-    } else if (down < across) {
-        const int width = static_cast<int>(down / sourceHeight);
-        place.left += (place.width - width) / 2;
-        place.width = width;
-    }
-    return place;
+Place PlaceIn(const RECT& rect, double sourceWidth, double sourceHeight, bool keepAspect) {
+    const Place target = {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+    return keepAspect ? orlo::Fitted(target, sourceWidth, sourceHeight) : target;
 }
 
 int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
@@ -56,7 +40,7 @@ int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
     // The host says where the pixels begin.
     const size_t pixels = layout->headerSize + PaletteSize(dib.data);
     if (pixels > dib.size || layout->pixelBytes > dib.size - pixels) return 0;
-    const Place to = Fitted(*rect, layout->width, layout->height, keepAspect);
+    const Place to = PlaceIn(*rect, layout->width, layout->height, keepAspect);
     return ::StretchDIBits(dc, to.left, to.top, to.width, to.height, 0, 0, layout->width, layout->height,
                            dib.data + pixels, reinterpret_cast<const BITMAPINFO*>(dib.data), DIB_RGB_COLORS,
                            SRCCOPY);
@@ -95,7 +79,7 @@ int DrawPicture(const Readable& memory, HDC dc, const RECT* rect, bool keepAspec
     if (!picture) return 0;
     const OwnedMetaFile metafile = MakeMetaFile(*picture);
     if (!metafile) return 0;
-    const Place to = Fitted(*rect, picture->xExtent, picture->yExtent, keepAspect);
+    const Place to = PlaceIn(*rect, picture->xExtent, picture->yExtent, keepAspect);
     const orlo::SavedDC saved(dc);
     LimitPaintingTo(dc, *rect);
     ::SetMapMode(dc, MM_ANISOTROPIC);

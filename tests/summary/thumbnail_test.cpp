@@ -3,12 +3,14 @@
 
 #include "orlo/summary/thumbnail.h"
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <psapi.h>
 
 #include "canvas.h"
+#include "orlo/summary/dib_drawing.h"
 #include "orlo/win/gdi.h"
 #include "picture_bytes.h"
 
@@ -160,6 +162,37 @@ TEST_F(Thumbnail, BitmapsOfEveryKindDraw) {
         canvas_.Whiten();
         EXPECT_NE(DrawDib(row.dib.Build(), canvas_.DC(), &whole_, 0), 0) << row.dib.bitsPerPixel;
         EXPECT_EQ(canvas_.At(30, 30), row.color) << row.dib.bitsPerPixel;
+    }
+}
+
+// Pixel for pixel, in their own size.
+TEST(DrawingWithoutTheSystem, HasTheColoursOfTheSystem) {
+    std::vector<DibBytes> dibs = {Dib(5, 3, 16).Masked(),
+                                  Dib(5, 3, 8).RunLength({4, 1, 0, 0, 0, 3, 1, 200, 3, 9, 0, 2, 1, 1, 0, 1}),
+                                  Dib(5, 3, 4).RunLength({5, 0x12, 0, 0, 0, 3, 0xF2, 0x30, 0, 1})};
+    for (const uint16_t bits : {1, 4, 8, 16, 24, 32}) {
+        dibs.push_back(Dib(5, 3, bits).Fill(0));
+        if (bits <= 8) dibs.back().table.resize(size_t{1} << bits);
+    }
+    for (DibBytes& dib : dibs) {
+        SCOPED_TRACE(std::to_string(dib.bitsPerPixel) + " bits, form " + std::to_string(dib.compression));
+        uint32_t next = 1;
+        const auto any = [&next] { return next = next * 1103515245 + 12345; };
+        if (dib.bitsPerPixel <= 8)
+            std::generate(dib.table.begin(), dib.table.end(), [&] { return any() >> 8; });
+        if (dib.imageBytes == 0)
+            std::generate(dib.pixels.begin(), dib.pixels.end(), [&] { return any() >> 16; });
+        const ByteVector bytes = dib.Build();
+        Canvas canvas(dib.width, dib.height);
+        const RECT whole = canvas.Whole();
+        ASSERT_NE(DrawDib(bytes, canvas.DC(), &whole, 1), 0);
+        const auto drawn = orlo::DrawDibFitted(bytes.data(), bytes.size(), dib.width, dib.height);
+        ASSERT_TRUE(drawn);
+        for (int y = 0; y < dib.height; ++y)
+            for (int x = 0; x < dib.width; ++x) {
+                const uint8_t* at = drawn->data() + 3 * (y * dib.width + x);
+                EXPECT_EQ(RGB(at[0], at[1], at[2]), canvas.At(x, y)) << x << ", " << y;
+            }
     }
 }
 

@@ -1,7 +1,6 @@
 // Everything odd about the property sets of a file, one line each.
 
 #include <cstdio>
-#include <windows.h>
 
 #include "commands.h"
 #include "orlo/propset/inspect/set_image.h"

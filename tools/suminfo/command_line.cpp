@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "console.h"
+#include "exit_codes.h"
 #include "failure.h"
 #include "fields.h"
 #include "value_input.h"
@@ -60,7 +61,7 @@ std::vector<CustomValue> ParseCustom(const std::vector<std::string>& texts) {
     return custom;
 }
 
-std::optional<SIZE> ParseSize(const std::string& text) {
+std::optional<Extent> ParseSize(const std::string& text) {
     if (text.empty()) return std::nullopt;
     unsigned width = 0, height = 0;
     int used = 0;
@@ -68,7 +69,7 @@ std::optional<SIZE> ParseSize(const std::string& text) {
     if (!read || static_cast<size_t>(used) != text.size() || width == 0 || height == 0)
         throw CLI::ValidationError("--size",
                                    "'" + text + "' should be WIDTHxHEIGHT in pixels, as in 200x150");
-    return SIZE{static_cast<LONG>(width), static_cast<LONG>(height)};
+    return Extent{static_cast<int>(width), static_cast<int>(height)};
 }
 
 std::string FieldNames() {

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 #include "commands.h"
 
@@ -23,7 +22,7 @@ struct CommandLine {
     std::vector<CustomValue> custom;                  // set
     std::vector<std::string> fieldNames, customNames; // remove
     std::string output;                               // thumbnail, rc, copy
-    std::optional<SIZE> size;
+    std::optional<Extent> size;
 };
 
 // The parsed line, or the exit code when there is nothing more to do (help was printed, or the line is wrong).
@@ -32,9 +31,5 @@ struct Parsed {
     int exitCode = 0;
 };
 Parsed ParseCommandLine(const std::vector<std::string>& arguments);
-
-constexpr int kDone = 0;
-constexpr int kFailed = 1; // a file failed, or a check found something
-constexpr int kUsage = 2;  // the command line is wrong
 
 } // namespace suminfo

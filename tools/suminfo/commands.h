@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 #include "orlo/propset/inspect/value.h"
 
@@ -25,6 +24,11 @@ struct Assignment {
 struct CustomValue {
     std::string name;
     orlo::Value value;
+};
+
+// Pixels.
+struct Extent {
+    int width, height;
 };
 
 struct Report {
@@ -48,7 +52,7 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
 void CopySummary(const std::string& from, const std::string& to);
 
 // Draws the thumbnail into a PNG file: in its own size, or in the middle of a white picture of the given one.
-void SaveThumbnail(const Source& source, const std::string& png, std::optional<SIZE> size);
+void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size);
 // Prints the sections of the summary (of all of a bare stream) as resources 1, 2, ... of a resource script.
 void SaveResourceScript(const Source& source, const std::string& script);
 

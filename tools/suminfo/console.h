@@ -11,5 +11,6 @@ void PrepareStreams();
 // On stdout or stderr, at once, with control characters by their numbers. When nobody reads stdout any longer, or it can't
 // be written, the program ends.
 void Print(FILE* stream, const std::string& utf8);
+bool IsTerminal(FILE* stream);
 
 } // namespace suminfo

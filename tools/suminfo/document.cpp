@@ -5,19 +5,16 @@
 #include <filesystem>
 
 #include "failure.h"
-#include "orlo/summary/compound_file.h"
 #include "text.h"
 
 namespace suminfo {
 namespace {
 
 OwnedFile Open(const std::string& file) {
-    if (std::filesystem::is_directory(PathOf(file))) throw Failure("is a folder; -r looks into folders");
-    return OpenFile(ToWide(file), GENERIC_READ, FILE_SHARE_READ);
-}
-
-std::string Utf8(const std::u16string& text) {
-    return ToUtf8(std::wstring(text.begin(), text.end()));
+    std::error_code none; // whatever it is, opening it says more
+    if (std::filesystem::is_directory(std::filesystem::u8path(file), none))
+        throw Failure("is a folder; -r looks into folders");
+    return OpenDocument(file);
 }
 
 std::string ErrorOf(const orlo::CompoundStream& stream) {
@@ -33,9 +30,9 @@ bool IsPropertySet(const std::u16string& path) {
 
 } // namespace
 
-Document::Document(const std::string& file)
-    : file_(Open(file)), reader_(orlo::ReadCompoundFile(file_.get())) {
-    if (reader_.State() == orlo::CompoundState::foreign) Fail(STG_E_INVALIDHEADER, "can't be opened");
+Document::Document(const std::string& file) : file_(Open(file)), reader_(ReadCompound(file_)) {
+    if (reader_.State() == orlo::CompoundState::foreign)
+        throw Failure("can't be opened: not a compound file");
 }
 
 std::vector<NamedStream> Document::PropertySets() const {
@@ -63,21 +60,6 @@ std::vector<std::string> Document::StreamDamage() const {
         if (!error.empty()) damage.push_back("stream " + StreamNameShown(Utf8(stream.path)) + ": " + error);
     }
     return damage;
-}
-
-std::wstring Document::Path() const {
-    std::wstring path(32768, L'\0'); // no path is longer
-    const DWORD size =
-        ::GetFinalPathNameByHandleW(file_.get(), path.data(), static_cast<DWORD>(path.size()), 0);
-    if (size == 0 || size >= path.size()) FailBySystem("its own name can't be found");
-    path.resize(size);
-    return path;
-}
-
-OwnedFile OpenFile(const std::wstring& file, DWORD access, DWORD sharing) {
-    const HANDLE opened = ::CreateFileW(file.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) FailBySystem("can't be opened");
-    return OwnedFile(opened);
 }
 
 } // namespace suminfo

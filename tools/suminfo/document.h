@@ -12,7 +12,7 @@
 
 #include "orlo/propset/inspect/value.h"
 #include "orlo/summary/compound_reader.h"
-#include "owned.h"
+#include "system_file.h"
 
 namespace suminfo {
 
@@ -27,7 +27,6 @@ struct NamedStream {
 
 class Document {
 public:
-    // Others may read the file meanwhile, but not write it.
     explicit Document(const std::string& file);
 
     // Every stream whose name begins with byte 5, in all storages: the document's own first.
@@ -40,16 +39,11 @@ public:
     // The same for each damaged stream, property set or not.
     std::vector<std::string> StreamDamage() const;
     const orlo::CompoundReader& Reader() const { return reader_; }
-    // The file's own name, where the given one is a link.
-    std::wstring Path() const;
-    void Close() { file_.reset(); }
+    const OwnedFile& File() const { return file_; }
 
 private:
     OwnedFile file_;
     orlo::CompoundReader reader_;
 };
-
-// Failure, with the reason, if the system doesn't open it.
-OwnedFile OpenFile(const std::wstring& file, DWORD access, DWORD sharing);
 
 } // namespace suminfo

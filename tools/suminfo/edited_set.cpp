@@ -3,7 +3,6 @@
 #include "edited_set.h"
 
 #include <algorithm>
-#include <windows.h>
 
 #include "failure.h"
 #include "fields.h"

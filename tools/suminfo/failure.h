@@ -3,7 +3,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <windows.h>
 
 namespace suminfo {
 
@@ -29,10 +28,17 @@ void OnFile(const std::string& file, Work work) {
     }
 }
 
-// A result of the storage in words, or its number where words are missing.
-std::string TextOf(HRESULT result);
-[[noreturn]] void Fail(HRESULT result, const std::string& doing);
-// The same for the last error of the system.
+// Why a system doesn't do what it is asked, in the same words on each.
+namespace why {
+constexpr char kNoFile[] = "no such file";
+constexpr char kNoFolder[] = "no such folder";
+constexpr char kDenied[] = "access is denied, or the file is read-only";
+constexpr char kFull[] = "the disk is full";
+constexpr char kNotWritten[] = "it can't be written: the disk is full or failed";
+constexpr char kNoMemory[] = "not enough memory";
+} // namespace why
+
+// Throws what failed, with the last error of the system in words, or its number where words are missing.
 [[noreturn]] void FailBySystem(const std::string& doing);
 
 } // namespace suminfo

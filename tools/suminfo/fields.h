@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <objidl.h>
 #include <string>
 #include <string_view>
 #include <vector>
-#include <windows.h>
 
 #include "orlo/propset/code_page.h"
 

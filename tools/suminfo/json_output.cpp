@@ -3,7 +3,6 @@
 #include "json_output.h"
 
 #include <cstdio>
-#include <windows.h>
 
 #include "fields.h"
 #include "orlo/propset/code_page.h"

@@ -5,15 +5,18 @@
 #include <iostream>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 #include "command_line.h"
 #include "commands.h"
 #include "console.h"
+#include "exit_codes.h"
 #include "failure.h"
 #include "file_list.h"
 #include "progress.h"
 #include "text.h"
+#ifdef _WIN32
+#include "wide_text.h"
+#endif
 
 namespace {
 
@@ -89,22 +92,32 @@ int Run(const std::vector<std::string>& arguments) {
 }
 
 // "@-" stands for arguments on standard input, each ended by a NUL: more names than a command line of the system holds.
-std::vector<std::string> ArgumentsOf(int count, wchar_t** words) {
+int RunWith(const std::vector<std::string>& words) {
     std::vector<std::string> arguments;
-    for (int i = 1; i < count; ++i) {
-        if (std::wstring_view(words[i]) != L"@-") {
-            arguments.push_back(ToUtf8(words[i]));
+    for (const std::string& word : words) {
+        if (word != "@-") {
+            arguments.push_back(word);
             continue;
         }
         for (std::string argument; std::getline(std::cin, argument, '\0');)
             arguments.push_back(argument);
     }
-    return arguments;
+    return Run(arguments);
 }
 
 } // namespace
 
+#ifdef _WIN32
 int wmain(int count, wchar_t** words) {
     PrepareStreams();
-    return Run(ArgumentsOf(count, words));
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(ToUtf8(words[i]));
+    return RunWith(arguments);
 }
+#else
+int main(int count, char** words) {
+    PrepareStreams();
+    return RunWith({words + 1, words + count});
+}
+#endif

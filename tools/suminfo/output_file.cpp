@@ -2,15 +2,11 @@
 
 #include "output_file.h"
 
-#include <windows.h>
-
 #include "failure.h"
-#include "text.h"
 
 namespace suminfo {
 
-OutputFile::OutputFile(const std::string& file)
-    : part_(ToWide(file)), stream_(::_wfopen(part_.Path().c_str(), L"w+b")) {
+OutputFile::OutputFile(const std::string& file) : part_(file), stream_(part_.Open()) {
     if (!stream_) FailBySystem("can't be made");
 }
 
@@ -19,10 +15,11 @@ OutputFile::~OutputFile() {
 }
 
 void OutputFile::Finish() {
-    const bool written = std::fflush(stream_) == 0 && !std::ferror(stream_);
-    const bool closed = std::fclose(stream_) == 0;
-    stream_ = nullptr;
-    if (!written || !closed) FailBySystem("can't be written");
+    if (FILE* stream = HandOver()) {
+        const bool written = std::fflush(stream) == 0 && !std::ferror(stream);
+        const bool closed = std::fclose(stream) == 0;
+        if (!written || !closed) FailBySystem("can't be written");
+    }
     part_.TakePlace();
 }
 

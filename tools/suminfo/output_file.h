@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <string>
+#include <utility>
 
 #include "part_file.h"
 
@@ -18,7 +19,9 @@ public:
 
     // Open for reading and writing, binary.
     FILE* Stream() const { return stream_; }
-    // Failure if not all of it could be written.
+    // The same for somebody who closes it.
+    FILE* HandOver() { return std::exchange(stream_, nullptr); }
+    // When a stream that was handed over is closed. Failure if not all of it could be written.
     void Finish();
 
 private:

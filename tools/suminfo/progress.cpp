@@ -2,8 +2,6 @@
 
 #include "progress.h"
 
-#include <io.h>
-
 #include "console.h"
 
 namespace suminfo {
@@ -27,8 +25,7 @@ std::string Shortened(const std::string& file) {
 } // namespace
 
 Progress::Progress(size_t total)
-    : total_(total), terminal_(::_isatty(::_fileno(stderr)) != 0),
-      nextDraw_(std::chrono::steady_clock::now() + kPatience) {}
+    : total_(total), terminal_(IsTerminal(stderr)), nextDraw_(std::chrono::steady_clock::now() + kPatience) {}
 
 void Progress::Next(const std::string& file) {
     const size_t at = done_++;
@@ -43,7 +40,7 @@ void Progress::Next(const std::string& file) {
 }
 
 void Progress::MakeWayFor(FILE* stream) {
-    if (::_isatty(::_fileno(stream))) Hide(); // else it goes elsewhere
+    if (IsTerminal(stream)) Hide(); // else it goes elsewhere
 }
 
 void Progress::Hide() {

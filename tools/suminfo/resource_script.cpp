@@ -1,11 +1,10 @@
 // Sections as raw-data resources: the library prints the items, this file the lines around them.
 
-#include <memory>
-#include <objbase.h>
+#include <algorithm>
 #include <optional>
 #include <string>
-#include <windows.h>
 
+#include "byte_stream.h"
 #include "commands.h"
 #include "edited_set.h"
 #include "failure.h"
@@ -13,31 +12,11 @@
 #include "orlo/propset/property_set.h"
 #include "orlo/propset/rc_file.h"
 #include "output_file.h"
-#include "owned.h"
 #include "sources.h"
 #include "text.h"
 
 namespace suminfo {
 namespace {
-
-Owned<IStream> StreamOf(const orlo::Bytes& bytes) {
-    IStream* made = nullptr;
-    HRESULT result = ::CreateStreamOnHGlobal(nullptr, TRUE, &made);
-    Owned<IStream> stream(made);
-    if (SUCCEEDED(result)) result = stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-    if (FAILED(result)) Fail(result, "it can't be read");
-    stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    return stream;
-}
-
-// True if the stream begins with these bytes.
-bool BeginsWith(IStream& stream, const orlo::Bytes& bytes) {
-    orlo::Bytes read(bytes.size());
-    ULONG came = 0;
-    stream.Seek({}, STREAM_SEEK_SET, nullptr);
-    return SUCCEEDED(stream.Read(read.data(), static_cast<ULONG>(read.size()), &came)) &&
-           came == read.size() && read == bytes;
-}
 
 // The classes that print hold less than a stream can: values whose form they know, names in small letters of one code
 // page.
@@ -46,8 +25,10 @@ bool IsSame(CProperty& printed, const orlo::ImageProperty& held) {
     for (int shift = 0; shift < 32; shift += 8)
         form.push_back(static_cast<uint8_t>(held.type >> shift));
     form.insert(form.end(), held.bytes.begin(), held.bytes.end());
-    const Owned<IStream> stream = StreamOf({});
-    return printed.GetID() == held.id && printed.WriteToStream(stream.get()) && BeginsWith(*stream, form);
+    const ByteStream stream;
+    if (printed.GetID() != held.id || !printed.WriteToStream(stream.get())) return false;
+    const orlo::Bytes written = stream.Bytes(); // filled up to 4 bytes
+    return written.size() >= form.size() && std::equal(form.begin(), form.end(), written.begin());
 }
 
 bool HasName(CPropertySection& printed, const orlo::DictionaryEntry& entry, uint16_t codePage) {
@@ -105,12 +86,13 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     const NamedStream stream = SummaryOf(source);
     const EditedSet sound(stream.bytes); // refuses what is damaged
     CPropertySet set;
-    if (!set.ReadFromStream(StreamOf(stream.bytes).get())) throw Failure("it is no property set");
+    if (!set.ReadFromStream(ByteStream(stream.bytes).get())) throw Failure("it is no property set");
     std::optional<OutputFile> file;
     OnFile(script, [&] { file.emplace(script); });
-    CRCFile rc(file->Stream());
+    CRCFile rc(file->HandOver());
     try {
         Print(set, sound.Held(), "Sections of " + source.file, rc);
+        rc.Close();
     } catch (CFileException* full) {
         full->Delete();
         throw Failure(script, "can't be written: the disk is full or failed");

@@ -1,7 +1,6 @@
 // Property sets as tables, and as a line of JSON.
 
 #include <algorithm>
-#include <windows.h>
 
 #include "commands.h"
 #include "fields.h"

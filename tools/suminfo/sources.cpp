@@ -7,7 +7,6 @@
 #include <iterator>
 
 #include "failure.h"
-#include "text.h"
 
 namespace fs = std::filesystem;
 
@@ -27,10 +26,11 @@ NamedStream SummaryOf(const Source& source) {
 }
 
 orlo::Bytes ReadFile(const std::string& file) {
-    const fs::path path = PathOf(file);
-    if (fs::is_directory(path)) throw Failure("is a folder");
+    const fs::path path = fs::u8path(file);
+    std::error_code none; // whatever it is, opening it says more
+    if (fs::is_directory(path, none)) throw Failure("is a folder");
     std::ifstream stream(path, std::ios::binary);
-    if (!stream) throw Failure(fs::exists(path) ? "can't be opened" : "can't be opened: no such file");
+    if (!stream) throw Failure(fs::exists(path, none) ? "can't be opened" : "can't be opened: no such file");
     return orlo::Bytes(std::istreambuf_iterator<char>(stream), {});
 }
 

@@ -2,16 +2,25 @@
 
 #include "text.h"
 
-#include <array>
 #include <cstdio>
-#include <windows.h>
 
-#include <bcrypt.h>
-
-#include "failure.h"
-#include "orlo/win/encoded_text.h"
+#include "orlo/propset/code_page.h"
 
 namespace suminfo {
+
+std::string Utf8(std::u16string text) {
+    const auto isHalf = [&text](size_t i, char16_t first) {
+        return i < text.size() && text[i] >= first && text[i] < first + 0x400;
+    };
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (isHalf(i, 0xD800) && isHalf(i + 1, 0xDC00))
+            ++i;
+        else if (isHalf(i, 0xD800) || isHalf(i, 0xDC00))
+            text[i] = 0xFFFD;
+    }
+    const std::string_view bytes(reinterpret_cast<const char*>(text.data()), 2 * text.size());
+    return orlo::CodePageToUtf8(bytes, orlo::kCodePageUtf16).value_or("");
+}
 
 std::string StreamNameShown(std::string_view name) {
     std::string shown;
@@ -22,12 +31,6 @@ std::string StreamNameShown(std::string_view name) {
             shown += c;
     }
     return shown;
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-    const std::wstring wideA = ToWide(a), wideB = ToWide(b);
-    return ::CompareStringOrdinal(wideA.data(), static_cast<int>(wideA.size()), wideB.data(),
-                                  static_cast<int>(wideB.size()), TRUE) == CSTR_EQUAL;
 }
 
 std::string Printable(std::string_view utf8, const char* escape) {
@@ -74,21 +77,6 @@ std::string Hex(const uint8_t* bytes, size_t size) {
         text += kDigits[bytes[i] & 0xF];
     }
     return text;
-}
-
-std::string Sha256(const std::vector<uint8_t>& bytes) {
-    std::array<uint8_t, 32> hash;
-    auto* data = const_cast<uint8_t*>(bytes.data()); // the system takes its input as PUCHAR
-    BCRYPT_ALG_HANDLE algorithm = nullptr;
-    BCRYPT_HASH_HANDLE state = nullptr;
-    const bool done = ::BCryptOpenAlgorithmProvider(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, 0) >= 0 &&
-                      ::BCryptCreateHash(algorithm, &state, nullptr, 0, nullptr, 0, 0) >= 0 &&
-                      ::BCryptHashData(state, data, static_cast<ULONG>(bytes.size()), 0) >= 0 &&
-                      ::BCryptFinishHash(state, hash.data(), static_cast<ULONG>(hash.size()), 0) >= 0;
-    if (state) ::BCryptDestroyHash(state);
-    if (algorithm) ::BCryptCloseAlgorithmProvider(algorithm, 0);
-    if (!done) throw Failure("the system can't make a SHA-256");
-    return Hex(hash.data(), hash.size());
 }
 
 } // namespace suminfo

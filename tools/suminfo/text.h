@@ -1,28 +1,15 @@
-// Text on its way in and out: UTF-8 inside, the system's wide text at its edges.
+// Texts, in UTF-8, made fit to be shown or compared.
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "orlo/propset/code_page.h"
-#include "orlo/win/encoded_text.h"
-
 namespace suminfo {
 
-inline std::string ToUtf8(std::wstring_view wide) {
-    return orlo::Narrow(wide, CP_UTF8);
-}
-inline std::wstring ToWide(std::string_view utf8) {
-    return orlo::Widen(utf8, CP_UTF8);
-}
-
-inline std::filesystem::path PathOf(std::string_view utf8) {
-    return std::filesystem::path(ToWide(utf8));
-}
-
+// Halves of characters become U+FFFD.
+std::string Utf8(std::u16string text);
 // A stream's name as it is shown: the byte 5 of property sets as \005.
 std::string StreamNameShown(std::string_view name);
 // Without regard to case, as the storage compares names.

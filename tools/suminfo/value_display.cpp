@@ -3,49 +3,69 @@
 #include "value_display.h"
 
 #include <algorithm>
-#include <cinttypes>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <windows.h>
+#include <cstdlib>
+#include <objidl.h>
 
 #include "fields.h"
+#include "picture_format.h"
 #include "text.h"
 
 namespace suminfo {
 namespace {
 
 constexpr uint64_t kSecond = 10000000; // in 100 ns
+constexpr uint64_t kSecondsOfDay = 86400;
 
-std::string Printed(const char* format, ...) __attribute__((format(gnu_printf, 1, 2)));
-std::string Printed(const char* format, ...) {
-    char text[64];
-    va_list arguments;
-    va_start(arguments, format);
-    __mingw_vsnprintf(text, sizeof text, format, arguments);
-    va_end(arguments);
-    return text;
+std::string Padded(uint64_t number, size_t digits) {
+    const std::string text = std::to_string(number);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
+std::string TimeOf(uint64_t seconds, size_t hourDigits) {
+    return Padded(seconds / 3600, hourDigits) + ":" + Padded(seconds / 60 % 60, 2) + ":" +
+           Padded(seconds % 60, 2);
 }
 
 std::string Span(uint64_t ticks) {
-    const uint64_t seconds = ticks / kSecond;
-    return Printed("%" PRIu64 ":%02d:%02d", seconds / 3600, static_cast<int>(seconds / 60 % 60),
-                   static_cast<int>(seconds % 60));
+    return TimeOf(ticks / kSecond, 1);
+}
+
+// Of days since 1601. Years are counted from March on: the day that not every year has is then their last one.
+std::string DateOf(uint64_t days) {
+    constexpr uint64_t kDaysOf400Years = 146097, kDaysFromMarch1600 = 306;
+    const uint64_t since1600 = days + kDaysFromMarch1600;
+    const uint64_t day = since1600 % kDaysOf400Years; // of these 400 years, and so on
+    const uint64_t year = (day - day / 1460 + day / 36524 - day / (kDaysOf400Years - 1)) / 365;
+    const uint64_t dayOfYear = day - (365 * year + year / 4 - year / 100);
+    const uint64_t monthFromMarch = (5 * dayOfYear + 2) / 153; // five months in a row have 153 days
+    const uint64_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
+    const uint64_t dayOfMonth = dayOfYear - (153 * monthFromMarch + 2) / 5 + 1;
+    const uint64_t calendarYear = 1600 + 400 * (since1600 / kDaysOf400Years) + year + (month < 3);
+    return Padded(calendarYear, 4) + "-" + Padded(month, 2) + "-" + Padded(dayOfMonth, 2);
 }
 
 std::string Moment(uint64_t ticks) {
     if (ticks == 0) return "never";
-    const FILETIME fileTime = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
-    SYSTEMTIME time;
-    if (!::FileTimeToSystemTime(&fileTime, &time)) return std::to_string(ticks) + " (no date)";
-    return Printed("%04d-%02d-%02d %02d:%02d:%02d UTC", time.wYear, time.wMonth, time.wDay, time.wHour,
-                   time.wMinute, time.wSecond);
+    if (ticks > INT64_MAX) return std::to_string(ticks) + " (no date)"; // nor is it one for Windows
+    const uint64_t seconds = ticks / kSecond;
+    return DateOf(seconds / kSecondsOfDay) + " " + TimeOf(seconds % kSecondsOfDay, 2) + " UTC";
+}
+
+std::string Digits(double number, int digits) {
+    std::array<char, 32> text;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, digits);
+    return std::string(text.data(), end.ptr);
 }
 
 // Days since the end of 1899, the hours are the fraction.
 std::string DayNumber(double days) {
     constexpr double kDaysFrom1601 = 109205;
-    const double ticks = (days + kDaysFrom1601) * 86400.0 * kSecond;
-    if (!(ticks >= 0) || ticks > 9e18) return Printed("day %.17g", days);
+    const double ticks = (days + kDaysFrom1601) * static_cast<double>(kSecondsOfDay * kSecond);
+    if (!(ticks >= 0) || ticks > 9e18) return "day " + Digits(days, 17);
     const std::string moment = Moment(static_cast<uint64_t>(std::llround(ticks / kSecond)) * kSecond);
     return moment.substr(0, moment.find(" UTC")); // the type has no time zone
 }
@@ -53,17 +73,16 @@ std::string DayNumber(double days) {
 std::string Money(int64_t tenThousandths) {
     const uint64_t size = tenThousandths < 0 ? 0 - static_cast<uint64_t>(tenThousandths)
                                              : static_cast<uint64_t>(tenThousandths);
-    return Printed("%s%" PRIu64 ".%04d", tenThousandths < 0 ? "-" : "", size / 10000,
-                   static_cast<int>(size % 10000));
+    return (tenThousandths < 0 ? "-" : "") + std::to_string(size / 10000) + "." + Padded(size % 10000, 4);
 }
 
 std::string Real(double number) {
     // The shortest form that reads back as the same number.
     for (int digits = 1; digits < 17; ++digits) {
-        const std::string text = Printed("%.*g", digits, number);
+        const std::string text = Digits(number, digits);
         if (std::strtod(text.c_str(), nullptr) == number) return text;
     }
-    return Printed("%.17g", number);
+    return Digits(number, 17);
 }
 
 std::string Bytes(size_t count) {
@@ -71,12 +90,11 @@ std::string Bytes(size_t count) {
 }
 
 std::string Picture(const orlo::ClipboardData& clip) {
-    constexpr int32_t kWindows = -1, kMacintosh = -2;
     std::string kind = "data of clipboard format " + std::to_string(clip.format);
-    if (clip.tag == kWindows && clip.format == CF_METAFILEPICT) kind = "metafile picture";
-    if (clip.tag == kWindows && clip.format == CF_DIB) kind = "bitmap";
-    if (clip.tag == kWindows && clip.format == CF_ENHMETAFILE) kind = "enhanced metafile";
-    if (clip.tag == kMacintosh) kind = "Macintosh picture";
+    if (clip.tag == kOfWindows && clip.format == kMetafilePicture) kind = "metafile picture";
+    if (clip.tag == kOfWindows && clip.format == kBitmap) kind = "bitmap";
+    if (clip.tag == kOfWindows && clip.format == kEnhancedMetafile) kind = "enhanced metafile";
+    if (clip.tag == kOfMacintosh) kind = "Macintosh picture";
     return kind + ", " + Bytes(clip.data.size());
 }
 

@@ -6,8 +6,8 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstdlib>
-#include <windows.h>
 
 #include "failure.h"
 #include "orlo/propset/value_text.h"
@@ -57,11 +57,10 @@ bool Truth(const std::string& text) {
 }
 
 uint64_t Now() {
-    FILETIME now;
-    ::GetSystemTimeAsFileTime(&now);
-    constexpr uint64_t kSecond = 10000000;
-    const uint64_t ticks = uint64_t{now.dwHighDateTime} << 32 | now.dwLowDateTime;
-    return ticks / kSecond * kSecond;
+    constexpr uint64_t kSecond = 10000000, kSecondsTo1970 = 11644473600; // since 1601
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now).count();
+    return (static_cast<uint64_t>(seconds) + kSecondsTo1970) * kSecond;
 }
 
 // Types whose text forms the library knows.

@@ -7,7 +7,7 @@
 #include <windows.h>
 
 #include "failure.h"
-#include "owned.h"
+#include "wide_text.h"
 
 namespace suminfo {
 namespace {
@@ -41,21 +41,29 @@ std::wstring MakeBeside(const std::wstring& target, Permissions* permissions) {
 
 } // namespace
 
-PartFile::PartFile(std::wstring target) : target_(std::move(target)), path_(MakeBeside(target_, nullptr)) {
-    Permissions wanted = PermissionsOf(target_);
-    if (wanted.empty() || wanted == PermissionsOf(path_)) return;
+PartFile::PartFile(std::string target) : target_(std::move(target)) {
+    const std::wstring beside = ToWide(target_);
+    std::wstring path = MakeBeside(beside, nullptr);
+    path_ = ToUtf8(path);
+    Permissions wanted = PermissionsOf(beside);
+    if (wanted.empty() || wanted == PermissionsOf(path)) return;
     // Made anew: while it is empty nobody reads anything, and inherited permissions aren't written down without need.
-    ::DeleteFileW(path_.c_str());
-    path_ = MakeBeside(target_, &wanted);
+    ::DeleteFileW(path.c_str());
+    path_ = ToUtf8(MakeBeside(beside, &wanted));
 }
 
 PartFile::~PartFile() {
-    if (!path_.empty()) ::DeleteFileW(path_.c_str());
+    if (!path_.empty()) ::DeleteFileW(ToWide(path_).c_str());
+}
+
+FILE* PartFile::Open() const {
+    return ::_wfopen(ToWide(path_).c_str(), L"w+b");
 }
 
 void PartFile::TakePlace() {
     constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (!::MoveFileExW(path_.c_str(), target_.c_str(), kHow)) FailBySystem("can't be replaced");
+    if (!::MoveFileExW(ToWide(path_).c_str(), ToWide(target_).c_str(), kHow))
+        FailBySystem("can't be replaced");
     path_.clear();
 }
 

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <objbase.h>
 
+#include "storage_failure.h"
+
 namespace suminfo {
 namespace {
 
@@ -14,22 +16,18 @@ struct Words {
     const char* text;
 };
 constexpr std::array kWords = {
-    Words{STG_E_FILENOTFOUND, "no such file"},
-    Words{STG_E_PATHNOTFOUND, "no such folder"},
-    Words{STG_E_ACCESSDENIED, "access is denied, or the file is read-only"},
+    Words{STG_E_FILENOTFOUND, why::kNoFile},
+    Words{STG_E_PATHNOTFOUND, why::kNoFolder},
+    Words{STG_E_ACCESSDENIED, why::kDenied},
     Words{STG_E_SHAREVIOLATION, "another program has it open"},
     Words{STG_E_LOCKVIOLATION, "another program has it open"},
-    Words{STG_E_FILEALREADYEXISTS, "not a compound file"},
-    Words{STG_E_INVALIDHEADER, "not a compound file"},
     Words{STG_E_OLDFORMAT, "a compound file of an old format"},
     Words{STG_E_DOCFILECORRUPT, "the compound file is damaged"},
     Words{STG_E_READFAULT, "it can't be read: the compound file is damaged, or the disk failed"},
-    Words{STG_E_WRITEFAULT, "it can't be written: the disk is full or failed"},
-    Words{STG_E_MEDIUMFULL, "the disk is full"},
-    Words{E_OUTOFMEMORY, "not enough memory"},
+    Words{STG_E_WRITEFAULT, why::kNotWritten},
+    Words{STG_E_MEDIUMFULL, why::kFull},
+    Words{E_OUTOFMEMORY, why::kNoMemory},
 };
-
-} // namespace
 
 std::string TextOf(HRESULT result) {
     for (const Words& words : kWords)
@@ -38,6 +36,8 @@ std::string TextOf(HRESULT result) {
     std::snprintf(number, sizeof number, "error 0x%08lX", static_cast<unsigned long>(result));
     return number;
 }
+
+} // namespace
 
 void Fail(HRESULT result, const std::string& doing) {
     throw Failure(doing + ": " + TextOf(result));

@@ -21,16 +21,16 @@ public:
     explicit EditedDocument(const std::string& file);
 
     // A stream of the document's own storage as it was, if it exists.
-    std::optional<orlo::Bytes> Read(const std::string& name) const { return document_.Read(name); }
+    std::optional<orlo::Bytes> Read(const std::string& name) const { return document_->Read(name); }
     void Write(const std::string& name, orlo::Bytes bytes) { written_[name] = std::move(bytes); }
     // The last call. Attributes, permissions and the time of creation stay; links are followed.
     void Commit();
 
 private:
     bool IsWritten(const std::u16string& path) const;
-    void Check(const std::wstring& copy) const;
+    void Check(const std::string& copy) const;
 
-    Document document_;
+    std::optional<Document> document_; // until the copy takes its place
     std::map<std::string, orlo::Bytes> written_;
 };
 

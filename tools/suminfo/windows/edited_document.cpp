@@ -3,10 +3,14 @@
 #include "edited_document.h"
 
 #include <algorithm>
+#include <objbase.h>
 
 #include "failure.h"
+#include "orlo/win/com_owner.h"
 #include "part_file.h"
+#include "storage_failure.h"
 #include "text.h"
+#include "wide_text.h"
 
 namespace suminfo {
 namespace {
@@ -24,6 +28,16 @@ const std::string& Unused(const std::string& file) {
     return file;
 }
 
+// The file's own name, where the given one is a link.
+std::wstring PathOf(const OwnedFile& file) {
+    std::wstring path(32768, L'\0'); // no path is longer
+    const DWORD size =
+        ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
+    if (size == 0 || size >= path.size()) FailBySystem("its own name can't be found");
+    path.resize(size);
+    return path;
+}
+
 void CheckResult(HRESULT result, const std::string& name) {
     if (FAILED(result)) Fail(result, "stream " + StreamNameShown(name));
 }
@@ -36,7 +50,7 @@ void WriteStream(IStorage& storage, const std::string& name, const orlo::Bytes& 
     if (result == STG_E_FILENOTFOUND)
         result = storage.CreateStream(wide.c_str(), kWriting | STGM_FAILIFTHERE, 0, 0, &opened);
     CheckResult(result, name);
-    const Owned<IStream> stream(opened);
+    const orlo::Owned<IStream> stream(opened);
     ULARGE_INTEGER size;
     size.QuadPart = bytes.size();
     CheckResult(stream->SetSize(size), name);
@@ -49,7 +63,7 @@ void WriteStreams(const std::wstring& file, const std::map<std::string, orlo::By
     IStorage* opened = nullptr;
     const HRESULT result = ::StgOpenStorage(file.c_str(), nullptr, kWriting, nullptr, 0, &opened);
     if (FAILED(result)) Fail(result, "its copy");
-    const Owned<IStorage> storage(opened);
+    const orlo::Owned<IStorage> storage(opened);
     for (const auto& [name, bytes] : streams)
         WriteStream(*storage, name, bytes);
     const HRESULT committed = storage->Commit(STGC_DEFAULT);
@@ -76,32 +90,33 @@ void Settle(const std::wstring& copy, const std::wstring& document) {
 } // namespace
 
 EditedDocument::EditedDocument(const std::string& file) : document_(Unused(file)) {
-    if (document_.Reader().State() != orlo::CompoundState::sound)
+    if (document_->Reader().State() != orlo::CompoundState::sound)
         throw Failure("was left alone: the compound file is damaged, writing could make it worse");
 }
 
 void EditedDocument::Commit() {
     if (written_.empty()) return;
-    const std::wstring path = document_.Path();
-    PartFile copy(path);
-    if (!::CopyFileW(path.c_str(), copy.Path().c_str(), FALSE)) FailBySystem("can't be copied");
-    WriteStreams(copy.Path(), written_);
-    Settle(copy.Path(), path);
-    Check(copy.Path());
-    document_.Close();
-    copy.TakePlace();
+    const std::wstring path = PathOf(document_->File());
+    PartFile part(ToUtf8(path));
+    const std::wstring copy = ToWide(part.Path());
+    if (!::CopyFileW(path.c_str(), copy.c_str(), FALSE)) FailBySystem("can't be copied");
+    WriteStreams(copy, written_);
+    Settle(copy, path);
+    Check(part.Path());
+    document_.reset();
+    part.TakePlace();
 }
 
 bool EditedDocument::IsWritten(const std::u16string& path) const {
-    const std::string name = ToUtf8(std::wstring(path.begin(), path.end()));
+    const std::string name = Utf8(path);
     return std::any_of(written_.begin(), written_.end(),
                        [&](const auto& stream) { return SameName(stream.first, name); });
 }
 
 // Everything written is present, nothing else has changed, and the file is sound.
-void EditedDocument::Check(const std::wstring& copy) const {
-    const Document changed(ToUtf8(copy));
-    const orlo::CompoundReader& before = document_.Reader();
+void EditedDocument::Check(const std::string& copy) const {
+    const Document changed(copy);
+    const orlo::CompoundReader& before = document_->Reader();
     const orlo::CompoundReader& after = changed.Reader();
     std::map<std::u16string, const orlo::CompoundStream*> streams;
     for (const orlo::CompoundStream& stream : after.Streams())

@@ -8,8 +8,9 @@
 #include <io.h>
 #include <windows.h>
 
-#include "command_line.h"
+#include "exit_codes.h"
 #include "text.h"
+#include "wide_text.h"
 
 namespace suminfo {
 namespace {
@@ -49,6 +50,10 @@ void Print(FILE* stream, const std::string& utf8) {
     const bool written =
         std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (!written && stream == stdout) EndWithoutReader();
+}
+
+bool IsTerminal(FILE* stream) {
+    return ::_isatty(::_fileno(stream)) != 0;
 }
 
 } // namespace suminfo

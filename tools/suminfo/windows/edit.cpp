@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <objbase.h>
-#include <windows.h>
 
 #include "commands.h"
 #include "edited_document.h"

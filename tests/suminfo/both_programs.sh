@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# The program for this machine against the one for Windows: what they print, what they end with and the files that they make
+# are the same to the byte. both_programs.sh WINDOWS NATIVE DOCUMENTS STREAMS FOLDER
+# Over real documents and streams, damaged ones, and texts of every code page; also over the folder that ORLO_CORPUS names.
+# Ends with 77 if the native program, which ./run test makes first, isn't there.
+set -euo pipefail
+windows=$1 native=$2 documents=$3 streams=$4 folder=$5
+here=$(dirname "$(realpath "$0")")
+[ -x "$native" ] || exit 77
+left_to_windows=3
+
+fail() { printf '%.300s\n' "$*"; exit 1; }
+run_into() { # NAME PROGRAM...: with the file out, if one is made
+    local name=$1 status=0
+    shift
+    rm -f out
+    timeout -k 5 120 "$@" >"$name.stdout" 2>"$name.stderr" <"$input" || status=$?
+    echo $status >"$name.status"
+    if [ -e out ]; then mv out "$name.file"; else rm -f "$name.file"; fi
+}
+differ() { ! cmp -s "$1" "$2"; }
+compare() { # ARGUMENTS...
+    run_into native "$native" "$@"
+    if [ "$(cat native.status)" = $left_to_windows ]; then
+        [ "$1" = thumbnail ] || fail "$*: left to the other program"
+        [ ! -s native.stdout ] && [ ! -s native.stderr ] && [ ! -e native.file ] || fail "$*: left, but not in silence"
+        left=$((left + 1))
+        return
+    fi
+    run_into windows wine "$windows" "$@"
+    for part in status stdout stderr file; do
+        if [ -e native.$part ] || [ -e windows.$part ]; then
+            if differ windows.$part native.$part; then
+                diff -a windows.$part native.$part | cut -c -300 | head -n 6 || true
+                fail "$*: $part differs"
+            fi
+        fi
+    done
+    same=$((same + 1))
+    if [ -e native.file ]; then files=$((files + 1)); fi
+}
+compare_many() { # ARGUMENTS... -- FILES...: more of them than a command line of Windows holds
+    local arguments=()
+    while [ "$1" != -- ]; do arguments+=("$1"); shift; done
+    shift
+    printf '%s\0' "$@" >names
+    input=names
+    compare "${arguments[@]}" @-
+    input=/dev/null
+}
+
+rm -rf "$folder"
+mkdir -p "$folder"
+cd "$folder"
+same=0 left=0 files=0 input=/dev/null
+cp -r "$documents" documents
+cp -r "$streams" streams
+chmod -R u+w documents streams
+/usr/bin/python3 "$here/damage.py" documents damaged-documents
+/usr/bin/python3 "$here/damage.py" streams damaged-streams
+/usr/bin/python3 "$here/code_pages.py" texts
+
+for what in show check "show --json"; do # shellcheck disable=SC2086 # words
+    compare $what -r documents
+    compare $what -r damaged-documents
+    for kind in streams damaged-streams texts; do compare_many $what --stream -- $kind/*; done
+    if [ -n "${ORLO_CORPUS-}" ]; then compare $what -r "$ORLO_CORPUS"; fi
+done
+for file in documents/*-* missing.doc; do
+    for what in rc thumbnail "thumbnail --size 60x50"; do compare $what "$file" out; done
+done
+for file in streams/*.bin texts/name*; do compare rc --stream "$file" out; done
+for file in streams/*Summary*.bin; do compare thumbnail --stream "$file" out; done
+
+document=documents/test11--695187.doc
+echo "no compound file" >text.doc
+mkdir empty
+compare show text.doc missing.doc nowhere/missing.doc . empty $document
+compare check -r empty nowhere
+compare show --stream missing.bin .
+compare rc $document nowhere/out
+compare rc $document empty
+compare thumbnail $document out --size 9000x1
+for line in "" "--help" "--version" "set --help" "shov x" "show" "set x colour=red" "set x --custom A=int:12x" "thumbnail x" \
+            "thumbnail x y --size 0x9"; do # shellcheck disable=SC2086 # words
+    compare $line
+done
+[ $left -ge 3 ] && [ $files -ge 20 ] || fail "only $left pictures were left, and $files files made"
+echo "$same times the same, $files files made, $left pictures left to Windows"

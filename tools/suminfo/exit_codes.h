@@ -1,0 +1,11 @@
+// What suminfo ends with.
+#pragma once
+
+namespace suminfo {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;        // a file failed, or a check found something
+constexpr int kUsage = 2;         // the command line is wrong
+constexpr int kLeftToWindows = 3; // nothing was done: it is work for the Windows program
+
+} // namespace suminfo
