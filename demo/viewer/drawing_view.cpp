@@ -14,6 +14,10 @@ constexpr int kDragStart = 4;   // pixels that make a click a drag
 constexpr int kPanStep = 60;    // pixels an arrow key pans
 constexpr int kPenOverhang = 8; // pixels that a wide pen may stand out of a graphic's box
 
+constexpr UINT_PTR kRestTimer = 1;
+constexpr UINT kRest = 60; // milliseconds without a move after which the exact picture is drawn
+constexpr UINT kTurn = 10; // milliseconds of its drawing between two looks at what else there is to do
+
 Selection::Way WayOf(UINT mouseFlags) {
     if (mouseFlags & MK_CONTROL) return Selection::Way::Toggle;
     if (mouseFlags & MK_SHIFT) return Selection::Way::Add;
@@ -39,6 +43,7 @@ ON_WM_MOUSEMOVE()
 ON_WM_MOUSEWHEEL()
 ON_WM_KEYDOWN()
 ON_WM_CAPTURECHANGED()
+ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
@@ -58,6 +63,7 @@ void CDrawingView::SetDocument(Document* document) {
     const ChangeListener listener = {this, OnGraphicChanging};
     HearOfChanges(&listener);
     m_camera.SetDrawing(document ? document->Drawing() : nullptr);
+    m_picture.SetDocument(document);
     SpoilAll();
     FitAll();
 }
@@ -78,26 +84,13 @@ void CDrawingView::FitTo(GraphicStruct* graphic) {
 }
 
 void CDrawingView::Zoom(double factor, CPoint anchor) {
-    m_camera.Zoom(factor, anchor);
-    SpoilAll();
+    m_picture.Zoom(factor, anchor);
+    ShowMove();
 }
 
 void CDrawingView::Pan(CSize pixels) {
-    const CRect all = m_picture.Bounds();
-    if (IsAllSpoiled()) { // nothing worth moving
-        m_camera.Pan(pixels);
-        return;
-    }
-    RenewPicture();
-    RenewScene();
-    m_camera.Pan(pixels);
-    m_picture.Shift(pixels);
-    m_scene.Shift(pixels);
-    Spoil(pixels.cx > 0 ? CRect(0, 0, pixels.cx, all.bottom)
-                        : CRect(all.right + pixels.cx, 0, all.right, all.bottom));
-    Spoil(pixels.cy > 0 ? CRect(0, 0, all.right, pixels.cy)
-                        : CRect(0, all.bottom + pixels.cy, all.right, all.bottom));
-    Invalidate(FALSE);
+    m_picture.Pan(pixels);
+    ShowMove();
 }
 
 void CDrawingView::Redraw() {
@@ -110,7 +103,7 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
-    if (self.IsAllSpoiled()) return;
+    if (self.m_picture.IsAllSpoiled()) return;
     self.SpoilAll();
     self.m_client.OnDrawingChanging();
 }
@@ -118,6 +111,7 @@ void CDrawingView::OnGraphicChanging(void* view) {
 void CDrawingView::SetPaper(COLORREF paper) {
     m_paper = paper;
     ::ViewportSetBackground(m_camera.Viewport(), paper);
+    m_picture.SetPaper(paper);
     SpoilAll();
 }
 
@@ -150,7 +144,6 @@ void CDrawingView::ClearSelection() {
 }
 
 void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
-    if (!m_client.MayChangeSelection()) return;
     m_document->Selected().Apply(graphics, way);
     ShowSelectionChange();
 }
@@ -159,7 +152,7 @@ void CDrawingView::ShowSelectionChange() {
     if (const std::optional<WorldBox> changed = m_document->Selected().TakeChanged()) {
         CRect area = m_camera.ToPixels(*changed);
         area.InflateRect(Glow::kRadius + kPenOverhang, Glow::kRadius + kPenOverhang);
-        m_spoiledScene.UnionRect(m_spoiledScene, area);
+        m_picture.SpoilGlow(area);
         InvalidateRect(area, FALSE);
     }
     m_client.OnSelectionChanged();
@@ -281,7 +274,6 @@ void CDrawingView::EndDrag() {
 void CDrawingView::OnSize(UINT, int cx, int cy) {
     m_camera.SetWindow(CSize(cx, cy));
     m_picture.Resize(CSize(cx, cy));
-    m_scene.Resize(CSize(cx, cy));
     SpoilAll();
 }
 
@@ -289,61 +281,40 @@ BOOL CDrawingView::OnEraseBkgnd(CDC*) {
     return TRUE; // painting covers everything
 }
 
-void CDrawingView::Spoil(CRect area) {
-    area.IntersectRect(area, m_picture.Bounds());
-    if (area.IsRectEmpty()) return;
-    if (area == m_picture.Bounds()) m_spoiled.clear();
-    m_spoiled.push_back(area);
-    InvalidateRect(area, FALSE);
+void CDrawingView::SpoilAll() {
+    m_picture.SpoilAll();
+    if (m_hWnd) Invalidate(FALSE);
 }
 
-bool CDrawingView::IsAllSpoiled() const {
-    return m_spoiled.size() == 1 && m_spoiled.front() == m_picture.Bounds();
+void CDrawingView::ShowMove() {
+    Invalidate(FALSE);
+    if (m_picture.IsMoved()) SetTimer(kRestTimer, kRest);
 }
 
-void CDrawingView::RenewPicture() {
-    for (const CRect& area : m_spoiled) {
-        m_picture.Fill(area, m_paper);
-        if (m_document) {
-            const orlo::SavedDC saved(m_picture.Dc());
-            ::IntersectClipRect(m_picture.Dc(), area.left, area.top, area.right, area.bottom);
-            DrawGraphic(m_picture.Dc(), m_document->Root());
-        }
-        CRect glowing = area;
-        glowing.InflateRect(Glow::kRadius, Glow::kRadius);
-        m_spoiledScene.UnionRect(m_spoiledScene, glowing);
+// Nothing has moved for a while, or there was no time to go on since.
+void CDrawingView::OnTimer(UINT_PTR) {
+    KillTimer(kRestTimer);
+    if (IsAtRest()) return;
+    while (!m_picture.Settle(kTurn)) {
+        if (!HIWORD(::GetQueueStatus(QS_INPUT | QS_POSTMESSAGE | QS_PAINT))) continue;
+        SetTimer(kRestTimer, kTurn);
+        return;
     }
-    m_spoiled.clear();
-}
-
-void CDrawingView::RenewScene() {
-    CRect area = m_spoiledScene;
-    area.IntersectRect(area, m_scene.Bounds());
-    m_spoiledScene.SetRectEmpty();
-    if (area.IsRectEmpty()) return;
-    m_scene.CopyFrom(m_picture.Dc(), area);
-    if (m_document && m_document->Selected().Count() > 0)
-        m_glow.Put(m_scene, area, [this](HDC dc) { DrawGraphic(dc, m_document->Selected().Set()); });
-}
-
-void CDrawingView::DrawGraphic(HDC dc, GraphicStruct* graphic) {
-    ::ViewportSetGDIStuff(m_camera.Viewport(), m_hWnd, dc, MM_TEXT, 1);
-    ::GraphicDrawEx2(graphic, nullptr, m_camera.Viewport(), 0, 1);
+    Invalidate(FALSE);
 }
 
 void CDrawingView::OnPaint() {
-    RenewPicture();
-    RenewScene();
+    m_picture.Renew();
     CPaintDC dc(this);
     const CRect area(dc.m_ps.rcPaint);
-    if (!m_scene.Dc()) return;
+    if (!m_picture.Dc()) return;
     MemoryPicture frame; // so that the band does not flicker
     if (!m_band.IsActive() || !frame.Resize(area.Size())) {
-        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_scene.Dc(), area.left,
+        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_picture.Dc(), area.left,
                  area.top, SRCCOPY);
         return;
     }
-    ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_scene.Dc(), area.left, area.top, SRCCOPY);
+    ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top, SRCCOPY);
     ::SetViewportOrgEx(frame.Dc(), -area.left, -area.top, nullptr);
     m_band.Draw(frame.Dc());
     ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), frame.Dc(), area.left, area.top,

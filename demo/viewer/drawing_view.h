@@ -1,8 +1,6 @@
 // The window that shows a drawing: zooming, panning, selecting. It changes nothing in the drawing; what is selected, and
 // what the user wants to edit, it tells its client.
-//
-// Two pictures in memory hold what is seen: the drawing alone, and the drawing with the selection's glow. Only what is out
-// of date of each is drawn anew, and the window is painted from the second one in one go.
+// The window is painted in one go from a picture in memory.
 #pragma once
 
 #include <afxwin.h>
@@ -12,8 +10,7 @@
 
 #include "demo/viewer/camera.h"
 #include "demo/viewer/document.h"
-#include "demo/viewer/glow.h"
-#include "demo/viewer/memory_picture.h"
+#include "demo/viewer/kept_picture.h"
 #include "demo/viewer/rubber_band.h"
 #include "drawcore/undo.h"
 
@@ -57,6 +54,8 @@ public:
     void ZoomIn() { Zoom(kZoomStep, m_picture.Bounds().CenterPoint()); }
     void ZoomOut() { Zoom(1 / kZoomStep, m_picture.Bounds().CenterPoint()); }
     void Pan(CSize pixels);
+    // Whether what is shown is exact; after a move it may take until there is time for it.
+    bool IsAtRest() const { return !m_picture.IsMoved(); }
 
     void SelectAll();
     void SelectOnly(const std::vector<GraphicStruct*>& graphics) {
@@ -78,6 +77,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint screenPoint);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnCaptureChanged(CWnd* window);
+    afx_msg void OnTimer(UINT_PTR timer);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -85,6 +85,7 @@ private:
     static constexpr double kZoomStep = 1.25;
 
     void Zoom(double factor, CPoint anchor);
+    void ShowMove();
     void FitTo(GraphicStruct* graphic);
     void Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way);
     void ShowSelectionChange();
@@ -96,24 +97,14 @@ private:
     static void OnGraphicChanging(void* view);
     void HearOfChanges(const ChangeListener* listener);
 
-    void Spoil(CRect area); // of the drawing's picture
-    bool IsAllSpoiled() const;
-    void SpoilAll() { Spoil(m_picture.Bounds()); }
-    void RenewPicture();
-    void RenewScene();
-    void DrawGraphic(HDC dc, GraphicStruct* graphic);
+    void SpoilAll();
 
     DrawingViewClient& m_client;
     Document* m_document = nullptr;
     Camera m_camera;
     COLORREF m_paper = kDarkPaper;
     bool m_lineWeights = true;
-
-    MemoryPicture m_picture; // the drawing
-    MemoryPicture m_scene;   // with the selection
-    Glow m_glow;
-    std::vector<CRect> m_spoiled; // of the picture
-    CRect m_spoiledScene;
+    KeptPicture m_picture{m_camera};
 
     Drag m_drag = Drag::None;
     CPoint m_dragFrom;

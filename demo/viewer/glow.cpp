@@ -21,20 +21,23 @@ uint32_t Blend(uint32_t below) {
 
 } // namespace
 
-void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>& draw) {
-    area.IntersectRect(area, scene.Bounds());
-    if (area.IsRectEmpty() || !m_mask.Resize(scene.Size())) return;
-    CRect around = area;
-    around.InflateRect(kRadius, kRadius);
-    around.IntersectRect(around, scene.Bounds());
-    m_mask.Fill(around, kGround);
-    {
-        const orlo::SavedDC saved(m_mask.Dc());
-        ::IntersectClipRect(m_mask.Dc(), around.left, around.top, around.right, around.bottom);
-        draw(m_mask.Dc());
-    }
-    Spread(around);
+bool Glow::Begin(CSize scene, CRect area) {
+    const CRect all(CPoint(), scene);
+    m_area.SetRectEmpty();
+    if (!m_mask.Resize(scene) || !m_area.IntersectRect(area, all)) return false;
+    m_around = m_area;
+    m_around.InflateRect(kRadius, kRadius);
+    m_around.IntersectRect(m_around, all);
+    ::SelectClipRgn(m_mask.Dc(), nullptr);
+    m_mask.Fill(m_around, kGround);
+    ::IntersectClipRect(m_mask.Dc(), m_around.left, m_around.top, m_around.right, m_around.bottom);
+    return true;
+}
 
+void Glow::Put(MemoryPicture& scene) {
+    if (m_area.IsRectEmpty()) return;
+    Spread();
+    const CRect &area = m_area, &around = m_around;
     const int width = around.Width();
     for (int y = area.top; y < area.bottom; ++y) {
         uint32_t* pixels = scene.Row(y);
@@ -52,7 +55,8 @@ void Glow::Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>&
     }
 }
 
-void Glow::Spread(const CRect& area) {
+void Glow::Spread() {
+    const CRect& area = m_around;
     const int width = area.Width();
     m_drawn.assign(static_cast<size_t>(width) * area.Height(), 0);
     m_spread.assign(m_drawn.size(), 0);

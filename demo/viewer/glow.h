@@ -1,7 +1,6 @@
 // The look of a selection: a bright rim around what is drawn, which keeps its own colours.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "demo/viewer/memory_picture.h"
@@ -10,13 +9,17 @@ class Glow {
 public:
     static constexpr int kRadius = 2; // pixels by which the rim surrounds a line
 
-    // Puts the rim around all that `draw` draws into the device context it gets, within the area of the scene.
-    // Draw's context is clipped to what is needed.
-    void Put(MemoryPicture& scene, CRect area, const std::function<void(HDC)>& draw);
+    // What is selected is drawn into Dc next, as far as that area of a scene of that size needs it, then Put is called.
+    // False: there is no room, and no rim is put.
+    bool Begin(CSize scene, CRect area);
+    HDC Dc() const { return m_mask.Dc(); }
+    void Put(MemoryPicture& scene);
 
 private:
-    void Spread(const CRect& area);
+    void Spread();
 
+    CRect m_area;   // of the scene
+    CRect m_around; // what of the selection may show there
     MemoryPicture m_mask;
     std::vector<uint8_t> m_drawn;  // of the area and its surroundings: 1 where something is drawn
     std::vector<uint8_t> m_spread; // the same, spread along the rows

@@ -48,6 +48,12 @@ void MemoryPicture::CopyFrom(HDC source, const CRect& area) {
     ::BitBlt(Dc(), area.left, area.top, area.Width(), area.Height(), source, area.left, area.top, SRCCOPY);
 }
 
+void MemoryPicture::Stretch(HDC source, const CRect& from, const CRect& to) {
+    ::SetStretchBltMode(Dc(), COLORONCOLOR);
+    ::StretchBlt(Dc(), to.left, to.top, to.Width(), to.Height(), source, from.left, from.top, from.Width(),
+                 from.Height(), SRCCOPY);
+}
+
 void MemoryPicture::Shift(CSize by) {
     ::BitBlt(Dc(), by.cx, by.cy, m_size.cx, m_size.cy, Dc(), 0, 0, SRCCOPY);
 }

@@ -22,6 +22,8 @@ public:
     void Fill(const CRect& area, COLORREF color);
     // Copies an area to the same place here.
     void CopyFrom(HDC source, const CRect& area);
+    // Copies one area to another, larger or smaller; each pixel is one of the source's.
+    void Stretch(HDC source, const CRect& from, const CRect& to);
     // Shifts the content; what comes in at the edges is undefined.
     void Shift(CSize by);
 

@@ -113,7 +113,6 @@ TEST_F(Viewer, PaperAndLineWeightsAreAMatterOfChoice) {
     EXPECT_NE(dark.front(), light.front());
 }
 
-// Moving keeps what is there and draws only what comes in at the edges.
 TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
     user.Key('A', UserInput::kControl);
     user.Wheel(view(), Pixel(20, 20), 3);
@@ -124,6 +123,27 @@ TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
         frame->View().Redraw();
         EXPECT_EQ(Seen(), moved) << "after key " << key;
     }
+}
+
+// More than a frame has time for: the picture moves along, and is drawn when nothing moves any more.
+TEST_F(Viewer, ALargeDrawingComesToRestAsDrawn) {
+    constexpr int kSide = 400;
+    std::string lines = "0\nSECTION\n2\nENTITIES\n";
+    for (int i = 0; i < kSide * kSide; ++i) {
+        const std::string x = std::to_string(i % kSide), y = std::to_string(i / kSide);
+        lines += "0\nLINE\n8\n0\n62\n" + std::to_string(i % 6 + 1) + "\n10\n" + x + "\n20\n" + y + "\n11\n" +
+                 x + ".7\n21\n" + y + ".4\n";
+    }
+    const DrawingFile large((lines + "0\nENDSEC\n0\nEOF\n").c_str());
+    ASSERT_TRUE(frame->Open(large.Path()));
+    user.Wait(0);
+    user.Wheel(view(), Pixel(100, 100), 2);
+    user.PanDrag(view(), CPoint(300, 300), CPoint(287, 322));
+    user.Wheel(view(), Pixel(120, 130), -1);
+    user.Key(VK_LEFT);
+    const std::vector<uint32_t> moved = Seen();
+    frame->View().Redraw();
+    EXPECT_EQ(Seen(), moved);
 }
 
 } // namespace

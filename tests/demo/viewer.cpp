@@ -70,7 +70,9 @@ void Viewer::Drag(WorldPoint from, WorldPoint to, unsigned modifiers) {
 }
 
 std::vector<uint32_t> Viewer::Seen() {
-    user.Wait(0);
+    constexpr unsigned kTick = 10;
+    for (user.Wait(0); !frame->View().IsAtRest();)
+        user.Wait(kTick);
     CRect client;
     ::GetClientRect(view(), client);
     MemoryPicture picture;

@@ -44,7 +44,7 @@ protected:
     PropertySnapshot Properties() { return {document().Drawing(), document().Selectable()}; }
 
     void Drag(WorldPoint from, WorldPoint to, unsigned modifiers = UserInput::kNone);
-    // What the view shows, pixel by pixel.
+    // What the view shows once it is at rest, pixel by pixel.
     std::vector<uint32_t> Seen();
 
     CMainFrame* frame; // goes with its window

@@ -25,6 +25,11 @@ DRAWCORE_API void ViewportShowLineWeights(ViewportStruct*, int show);
 // nothing is seen, all of it.
 DRAWCORE_API void ViewportFitSeen(ViewportStruct*, GraphicStruct*);
 
+// Draws like GraphicDrawEx2 (no preview), for so many milliseconds and a little longer; 0 if there is more to draw. place is 0
+// at first, and goes to the next call as this one has left it. Until all is drawn, viewport and clipping must stay as they
+// are, and nothing else may be drawn by the viewport; what is removed from the set or changed meanwhile may be missing.
+DRAWCORE_API int GraphicDrawOn(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
+
 // Draws a graphic with its members in one colour, solid and at least three pixels wide.
 DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);
 

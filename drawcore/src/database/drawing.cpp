@@ -6,8 +6,8 @@
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/live.h"
 #include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/drawing_root.h"
 #include "drawcore/src/graphics/text_face.h"
-#include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/units/unit_settings.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
@@ -15,7 +15,7 @@
 namespace drawcore {
 
 Drawing::Drawing()
-    : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<VertexGraphic>()) {
+    : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<DrawingRoot>()) {
     Live<DrawingStruct>::Enter(this);
     pApplication = &Application::Get();
     AddTable(kTableLayers, std::make_unique<LayerTable>(this));

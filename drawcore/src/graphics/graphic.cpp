@@ -8,6 +8,7 @@
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/database/undo.h"
 #include "drawcore/src/graphics/extents_sink.h"
+#include "drawcore/src/graphics/place_index.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {
@@ -54,6 +55,7 @@ std::unique_ptr<Graphic> Graphic::Clone() const {
 Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     Graphic* added = parts_.emplace_back(std::move(part)).get();
     added->pParent = this;
+    added->place_ = static_cast<uint32_t>(parts_.size() - 1);
     added->dwFlags &= ~kFlagNoParent;
     if (drawing_) added->Attach(drawing_);
     InvalidateExtents();
@@ -61,14 +63,16 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
 }
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
-    // From the end: what was added last goes first, as a rule.
-    const auto found =
-        std::find_if(parts_.rbegin(), parts_.rend(), [part](const auto& item) { return item.get() == part; });
-    if (found == parts_.rend()) return nullptr;
-    std::unique_ptr<Graphic> released = std::move(*found);
-    parts_.erase(std::next(found).base());
+    const size_t place = part->place_;
+    if (place >= parts_.size() || parts_[place].get() != part) return nullptr;
+    std::unique_ptr<Graphic> released = std::move(parts_[place]);
+    parts_.erase(parts_.begin() + static_cast<std::ptrdiff_t>(place));
+    for (size_t i = place; i < parts_.size(); ++i)
+        parts_[i]->place_ = static_cast<uint32_t>(i);
+    MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
+    released->indexed_ = false;
     InvalidateExtents();
     return released;
 }
@@ -111,6 +115,11 @@ void Graphic::ChangingShape() {
     if (UndoLog* log = OpenUndoLog()) log->SaveState(*this);
 }
 
+void Graphic::ChangedLook() {
+    dwFlags |= kFlagDirty;
+    if (PlaceIndex* index = Top().IndexOfMembers()) index->NoteReach(*this);
+}
+
 void Graphic::ChangedShape() {
     ChangedLook();
     InvalidateExtents();
@@ -120,6 +129,7 @@ void Graphic::InvalidateExtents() {
     // A graphic whose extents are known has members whose extents are known: the way up ends at the first that isn't.
     Graphic* graphic = this;
     do {
+        if (graphic->indexed_) graphic->Parent()->IndexOfMembers()->Forget(*graphic);
         const bool known = std::exchange(graphic->extentsKnown_, false);
         if (known && graphic->isBlockContent_) InvalidateInsertions(*graphic);
     } while ((graphic = graphic->Parent()) && graphic->extentsKnown_);

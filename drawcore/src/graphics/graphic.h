@@ -17,6 +17,7 @@
 namespace drawcore {
 
 class Drawing;
+class PlaceIndex;
 class UndoLog;
 struct Vertex;
 struct Trace;
@@ -74,7 +75,7 @@ public:
     // A setter calls one of the first two before it changes anything, for the undo log, and one of the others after.
     void ChangingLook();  // what GetLook gives, and nothing else
     void ChangingShape(); // anything
-    void ChangedLook() { dwFlags |= kFlagDirty; }
+    void ChangedLook();
     void ChangedShape();
 
     // The record's pszStyleName, from then on a copy of the text. A program may also have put a text of its own there.
@@ -87,6 +88,8 @@ public:
     virtual void TraceShape(const Trace& trace, const PenUse& use) const = 0;
     // How far the shape goes beyond its extents, pen width apart: half of a segment's own width.
     virtual double Reach() const { return 0; }
+    // Where the members are; null for a graphic that has few.
+    virtual PlaceIndex* IndexOfMembers() const { return nullptr; }
 
     Pen pen;
     Brush brush;
@@ -109,10 +112,13 @@ protected:
 
     // Whether the box stays valid until InvalidateExtents is called.
     virtual bool KeepsExtents() const { return true; }
+    // One was taken out: those after it have moved up.
+    virtual void MembersMoved() {}
 
 private:
     friend class UndoLog;
     friend class Block;
+    friend class PlaceIndex;
 
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
@@ -123,6 +129,8 @@ private:
     mutable bool extentsKnown_ = false;
     bool inUndoLog_ = false;
     uint32_t undoPlace_ = 0; // in the open step of the undo log; says nothing by itself
+    uint32_t place_ = 0;     // among the parts of the graphic that owns it
+    bool indexed_ = false;   // in the owner's index, by extents_
     bool isBlockContent_ = false;
 };
 

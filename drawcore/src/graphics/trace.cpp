@@ -55,14 +55,6 @@ void TraceDot(const Extents& box, const Trace& trace, const PenUse& use) {
     trace.sink.Stroke(path, use);
 }
 
-void TraceMembers(const Graphic& graphic, const Trace& trace) {
-    Trace inner = trace;
-    Matrix motion;
-    if (graphic.FindMotion(motion)) inner.matrix = motion * trace.matrix;
-    for (size_t i = 0; i < graphic.MemberCount(); ++i)
-        TraceGraphic(*graphic.MemberAt(i), inner);
-}
-
 bool HidesNothing(const LayerTable& layers) {
     for (Id id = layers.First(); id; id = layers.Next(id))
         if (!layers.At(id)->IsVisible()) return false;
@@ -111,37 +103,43 @@ void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
     trace.sink.Fill(trace.tools.path, fill);
 }
 
-void TraceGraphic(const Graphic& graphic, const Trace& trace) {
-    if (trace.depth > 0 && --trace.tools.budget < 0) return;
+Trace TraceOfMembers(const Graphic& graphic, const Trace& trace) {
+    Trace inner = trace;
+    Matrix motion;
+    if (graphic.FindMotion(motion)) inner.matrix = motion * trace.matrix;
+    return inner;
+}
+
+bool TraceAlone(const Graphic& graphic, const Trace& trace) {
+    if (trace.depth > 0 && --trace.tools.budget < 0) return false;
     const Extents box = graphic.GetExtents().Transformed(trace.matrix);
-    if (box.IsEmpty()) return;
+    if (box.IsEmpty()) return false;
     const PenUse use = ResolvePen(graphic, trace);
     const double reach = std::max(use.width / 2, graphic.Reach() * trace.matrix.PlanScale());
     const bool isGroup = graphic.GetKind() == Kind::Group;
-    if (!isGroup && !trace.sink.Wants(box, reach)) return;
+    if (!isGroup && !trace.sink.Wants(box, reach)) return false;
     if (!isGroup && IsShown(graphic, trace)) {
         if (IsDot(box, trace.sink))
             TraceDot(box, trace, use);
         else
             graphic.TraceShape(trace, use);
     }
-    if (graphic.MemberCount() != 0) TraceMembers(graphic, trace);
+    return true;
 }
 
-void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
-               double lineScale, double penUnit) {
-    TraceTools tools(drawing);
-    Trace trace(sink, tools, matrix);
-    trace.lineScale = lineScale;
-    trace.penUnit = penUnit;
-    TraceGraphic(graphic, trace);
+void TraceGraphic(const Graphic& graphic, const Trace& trace) {
+    if (!TraceAlone(graphic, trace) || graphic.MemberCount() == 0) return;
+    const Trace inner = TraceOfMembers(graphic, trace);
+    for (size_t i = 0; i < graphic.MemberCount(); ++i)
+        TraceGraphic(*graphic.MemberAt(i), inner);
 }
 
 Extents SeenExtents(const Graphic& graphic, const Drawing* drawing) {
     if (!drawing || !drawing->Layers() || HidesNothing(*drawing->Layers())) return graphic.GetExtents();
     Extents extents;
     ExtentsSink sink(extents);
-    TraceFrom(graphic, sink, drawing, {}, 1, 0);
+    TraceTools tools(drawing);
+    TraceGraphic(graphic, Trace(sink, tools));
     return extents;
 }
 

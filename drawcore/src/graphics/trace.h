@@ -100,10 +100,10 @@ struct Trace {
 
 // Traces the graphic and its members, as far as their layers are visible.
 void TraceGraphic(const Graphic& graphic, const Trace& trace);
-
-// The same from the start.
-void TraceFrom(const Graphic& graphic, GeometrySink& sink, const Drawing* drawing, const Matrix& matrix,
-               double lineScale, double penUnit);
+// The graphic without its members; false if these do not matter either.
+bool TraceAlone(const Graphic& graphic, const Trace& trace);
+// For the members of a graphic that is traced so.
+Trace TraceOfMembers(const Graphic& graphic, const Trace& trace);
 
 // The box of what is seen of the graphic and its members: extents without what lies on hidden layers.
 Extents SeenExtents(const Graphic& graphic, const Drawing* drawing);

@@ -27,6 +27,20 @@ Box BoxOf(const RECT& rect) {
             static_cast<double>(rect.bottom)};
 }
 
+// Clips the device context to the rectangle. Where in it something has to be to show: there may be less that is let through,
+// but what lies a little outside of that can reach into it.
+Box WantedOf(HDC dc, const RECT& clip) {
+    ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
+    RECT through = clip;
+    const DWORD type = ::GetObjectType(dc);
+    const bool records = type == OBJ_ENHMETADC || type == OBJ_METADC; // has no pixels to leave out
+    if (!records) ::GetClipBox(dc, &through);
+    constexpr int kOverhang = 64; // pixels: of letters beyond the box of their row, of rounded ends
+    ::InflateRect(&through, kOverhang, kOverhang);
+    ::IntersectRect(&through, &through, &clip);
+    return BoxOf(through);
+}
+
 // As the eye weighs the parts: 0 black, 1 white.
 double LuminanceOf(Color color) {
     const auto part = [color](int shift) { return std::pow((color >> shift & 0xFF) / 255.0, 2.2); };
@@ -65,8 +79,7 @@ bool GdiPainter::PenKey::operator==(const PenKey& other) const {
 
 GdiPainter::GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings)
     : dc_(dc), saved_(dc), settings_(settings), inch_(::GetDeviceCaps(dc, LOGPIXELSX)), clip_(BoxOf(clip)),
-      texts_(dc) {
-    ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
+      wanted_(WantedOf(dc, clip)), texts_(dc) {
     ::SetBkMode(dc, TRANSPARENT);
     ::SetROP2(dc, R2_COPYPEN);
 }
@@ -77,8 +90,8 @@ GdiPainter::~GdiPainter() {
 }
 
 bool GdiPainter::Wants(const Extents& box, double reach) const {
-    return box.low.x <= clip_.right + reach && box.high.x >= clip_.left - reach &&
-           box.low.y <= clip_.bottom + reach && box.high.y >= clip_.top - reach;
+    return box.low.x <= wanted_.right + reach && box.high.x >= wanted_.left - reach &&
+           box.low.y <= wanted_.bottom + reach && box.high.y >= wanted_.top - reach;
 }
 
 Color GdiPainter::Seen(Color color) {

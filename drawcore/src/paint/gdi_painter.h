@@ -26,6 +26,9 @@ public:
     GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings);
     ~GdiPainter() override;
 
+    // The part of clip in which something has to be to show.
+    const Box& Wanted() const { return wanted_; }
+
     bool Wants(const Extents& box, double reach) const override;
     double DotSize() const override { return 0.75; }
     double Tolerance() const override { return 0.2; }
@@ -59,7 +62,9 @@ private:
     SavedDC saved_;
     const PaintSettings settings_;
     const double inch_;
-    const Box clip_;
+    const Box
+        clip_; // lines are cut here, whatever part of it is wanted: a cut line may pass through other pixels
+    const Box wanted_;
     std::map<PenKey, OwnedPen> pens_;
     std::unordered_map<Color, Color> shades_; // of colours that were looked at on dark paper
     TextOutput texts_;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/src/paint/seen_members.h"
+
 namespace drawcore {
 
 namespace {
@@ -143,12 +145,16 @@ private:
 // One tracing after the other of the members of a set.
 class Picker {
 public:
-    Picker(const Viewport& viewport, const Graphic& set, HitSink& sink, uint32_t filter)
+    // place: all that can be hit lies in it.
+    Picker(const Viewport& viewport, const Graphic& set, const Box& place, HitSink& sink, uint32_t filter)
         : set_(set), sink_(sink), filter_(filter), tools_(DrawingOf(viewport, set)),
-          matrix_(viewport.ToDevice()) {}
+          matrix_(viewport.ToDevice()), near_(set, place, matrix_, kInch) {}
 
-    bool Hits(size_t index) {
-        const Graphic& member = *set_.MemberAt(index);
+    size_t Count() const { return near_.CountIn(set_); }
+    Graphic* At(size_t number) const { return near_.At(set_, number); }
+
+    bool Hits(size_t number) {
+        const Graphic& member = *At(number);
         if (!PassesFilter(member, filter_) || IsLocked(member)) return false;
         sink_.Begin();
         tools_.budget = kTraceBudget;
@@ -171,6 +177,7 @@ private:
     const uint32_t filter_;
     TraceTools tools_;
     const Matrix matrix_;
+    const SeenMembers near_;
 };
 
 } // namespace
@@ -178,9 +185,10 @@ private:
 Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance,
                 uint32_t filter) {
     PointSink sink(device, tolerance);
-    Picker picker(viewport, set, sink, filter);
-    for (size_t i = set.MemberCount(); i-- > 0;)
-        if (picker.Hits(i)) return set.MemberAt(i);
+    const Box place = Box{device.x, device.y, device.x, device.y}.Grown(tolerance);
+    Picker picker(viewport, set, place, sink, filter);
+    for (size_t i = picker.Count(); i-- > 0;)
+        if (picker.Hits(i)) return picker.At(i);
     return nullptr;
 }
 
@@ -189,10 +197,10 @@ std::vector<Graphic*> PickWithin(const Viewport& viewport, const Graphic& set, c
     CrossingSink crossingSink(device);
     InsideSink insideSink(device);
     HitSink& sink = crossing ? static_cast<HitSink&>(crossingSink) : insideSink;
-    Picker picker(viewport, set, sink, filter);
+    Picker picker(viewport, set, device, sink, filter);
     std::vector<Graphic*> found;
-    for (size_t i = 0; i < set.MemberCount(); ++i)
-        if (picker.Hits(i)) found.push_back(set.MemberAt(i));
+    for (size_t i = 0; i < picker.Count(); ++i)
+        if (picker.Hits(i)) found.push_back(picker.At(i));
     return found;
 }
 

@@ -8,6 +8,7 @@
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/paint/seen_members.h"
 
 struct ViewportStruct {};
 
@@ -37,6 +38,12 @@ public:
     DrawingStruct* drawing = nullptr;
     std::optional<Color> background;
     bool lineWeights = true;
+
+    struct Painting { // that goes on with the next call
+        SeenMembers seen;
+        long budget = 0; // of the tracing
+    };
+    Painting painting;
 
 private:
     Point Middle() const;

@@ -1,5 +1,6 @@
 // The host's and the host program's calls on viewports: what they show, drawing, finding.
 
+#include <chrono>
 #include <new>
 
 #include "drawcore/include/drawcore/units.h"
@@ -61,24 +62,61 @@ private:
     RECT rect_;
 };
 
-void Paint(const Graphic& graphic, const Viewport& viewport, const Matrix& placement, PaintSettings settings,
-           bool preview) {
-    if (!viewport.dc) return;
+using Clock = std::chrono::steady_clock;
+
+// Paints a graphic, then its members, of which there may be many, until the time is up. place: 0 at first, then where the last
+// call has stopped. True once all is painted.
+bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewport, uint32_t& place,
+                const Matrix& placement, PaintSettings settings, bool preview) {
+    if (!viewport.dc) return true;
     const PixelDC device(viewport);
     const RECT& rect = device.Rect();
     const Drawing* drawing = DrawingFor(viewport, graphic);
     if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 4.0;
     GdiPainter painter(viewport.dc, rect, settings);
-    const Matrix matrix = placement * viewport.ToDevice() * device.FromViewport(viewport.rect);
+    TraceTools tools(drawing);
+    Trace trace(painter, tools, placement * viewport.ToDevice() * device.FromViewport(viewport.rect));
     if (preview)
-        TraceFrom(graphic, painter, drawing, matrix, 1.0, FullSizeUnit(viewport.dc, drawing));
+        trace.penUnit = FullSizeUnit(viewport.dc, drawing);
     else
-        TraceFrom(graphic, painter, drawing, matrix, LineScale(graphic, drawing), 0);
+        trace.lineScale = LineScale(graphic, drawing);
+    if (place == 0) {
+        if (!TraceAlone(graphic, trace)) return true;
+        viewport.painting.budget = tools.budget;
+        viewport.painting.seen =
+            preview ? SeenMembers()
+                    : SeenMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
+    }
+    tools.budget = viewport.painting.budget;
+    const Trace inner = TraceOfMembers(graphic, trace);
+    const SeenMembers& seen = viewport.painting.seen;
+    const size_t count = seen.CountIn(graphic);
+    while (place < count) {
+        if (const Graphic* member = seen.At(graphic, place)) TraceGraphic(*member, inner);
+        constexpr uint32_t kAtOnce = 64; // between two looks at the clock
+        if (++place % kAtOnce == 0 && Clock::now() >= end) break;
+    }
+    viewport.painting.budget = tools.budget;
+    return place >= count;
+}
+
+void Paint(const Graphic& graphic, Viewport& viewport, const Matrix& placement, const PaintSettings& settings,
+           bool preview) {
+    uint32_t place = 0;
+    PaintUntil(Clock::time_point::max(), graphic, viewport, place, placement, settings, preview);
+    viewport.painting = {};
 }
 
 Color BackgroundOf(const Viewport& viewport, bool preview) {
     if (viewport.background) return *viewport.background;
     return preview ? Application::Get().PreviewBackground() : ::GetSysColor(COLOR_WINDOW);
+}
+
+PaintSettings SettingsOf(const Viewport& viewport, bool preview) {
+    PaintSettings settings;
+    settings.background = BackgroundOf(viewport, preview);
+    if (!viewport.lineWeights) settings.widestPen = 1;
+    return settings;
 }
 
 } // namespace
@@ -134,12 +172,20 @@ void ViewportShowLineWeights(ViewportStruct* viewport, int show) {
 void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
                     int) {
     if (!graphic || !viewport) return;
-    const Viewport& view = *Viewport::From(viewport);
-    PaintSettings settings;
-    settings.background = BackgroundOf(view, preview != 0);
-    if (!view.lineWeights) settings.widestPen = 1;
-    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), settings, preview != 0);
+    Viewport& view = *Viewport::From(viewport);
+    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), SettingsOf(view, preview != 0),
+          preview != 0);
     graphic->dwFlags &= ~kFlagDirty;
+}
+
+int GraphicDrawOn(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t* place, int milliseconds) {
+    if (!graphic || !viewport || !place) return 1;
+    Viewport& view = *Viewport::From(viewport);
+    const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
+    if (!PaintUntil(end, *Graphic::From(graphic), view, *place, {}, SettingsOf(view, false), false)) return 0;
+    view.painting = {};
+    graphic->dwFlags &= ~kFlagDirty;
+    return 1;
 }
 
 void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct* viewport, uint32_t color) {

@@ -1,0 +1,5 @@
+// The benches of drawings: each prints its lines.
+#pragma once
+
+void BenchSaving();
+void BenchMillion();

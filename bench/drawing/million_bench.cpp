@@ -1,0 +1,211 @@
+// A drawing of a million entities in the viewer: frames while it moves, a change of all and its undo, memory.
+//
+// A frame is counted in copies of a picture of the view's size from memory to memory, without which none gets along.
+
+#include "bench/drawing/drawing_bench.h"
+
+#include <afxwin.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+#include "bench/paired_timer.h"
+#include "demo/viewer/file_name.h"
+#include "demo/viewer/main_frame.h"
+#include "demo/viewer/memory_picture.h"
+#include "demo/viewer/resource.h"
+#include "orlo/entry/entry.h"
+#include "orlo/host/property.h"
+#include "orlo/host/walk.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kSide = 1000; // entities along each side of the field that they fill
+constexpr int kEntities = kSide * kSide;
+constexpr int kRounds = 3;
+
+void WriteEntity(FILE* file, int number) {
+    const int x = number % kSide * 10, y = number / kSide * 10, layer = number % 7;
+    const auto begin = [&](const char* kind) {
+        std::fprintf(file, "  0\n%s\n  8\nL%d\n 62\n%d\n 10\n%d.25\n 20\n%d.5\n", kind, layer, number % 6 + 1,
+                     x, y);
+    };
+    switch (number % 10) {
+    case 0:
+        begin("CIRCLE");
+        std::fputs(" 40\n4.0\n", file);
+        break;
+    case 1:
+        begin("TEXT");
+        std::fprintf(file, " 40\n2.5\n  1\nT%d\n", number % 1000);
+        break;
+    case 2:
+        begin("INSERT");
+        std::fprintf(file, "  2\nMark\n 50\n%d.0\n", number % 360);
+        break;
+    default:
+        begin("LINE");
+        std::fprintf(file, " 11\n%d.75\n 21\n%d.0\n", x + 5 + number % 30, y + number % 17);
+    }
+}
+
+// Seven lines of ten, with circles, texts and insertions among them.
+void WriteDrawing(const fs::path& path) {
+    FILE* file = ::_wfopen(path.c_str(), L"wb");
+    std::fputs("  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1009\n  0\nENDSEC\n"
+               "  0\nSECTION\n  2\nBLOCKS\n  0\nBLOCK\n  8\n0\n  2\nMark\n 70\n0\n 10\n0.0\n 20\n0.0\n"
+               "  0\nLINE\n  8\n0\n 10\n-3.0\n 20\n0.0\n 11\n3.0\n 21\n0.0\n"
+               "  0\nLINE\n  8\n0\n 10\n0.0\n 20\n-3.0\n 11\n0.0\n 21\n3.0\n"
+               "  0\nENDBLK\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n",
+               file);
+    for (int i = 0; i < kEntities; ++i)
+        WriteEntity(file, i);
+    std::fputs("  0\nENDSEC\n  0\nEOF\n", file);
+    std::fclose(file);
+}
+
+// Bytes of all blocks of all heaps, with what each block costs besides.
+double HeapBytes() {
+    double bytes = 0;
+    HANDLE heaps[64];
+    const DWORD count = ::GetProcessHeaps(64, heaps);
+    for (DWORD i = 0; i < count && i < 64; ++i) {
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData + entry.cbOverhead;
+    }
+    return bytes;
+}
+
+// The viewer with that drawing.
+class MillionViewer {
+public:
+    MillionViewer() : m_path(fs::temp_directory_path() / "bench_mixed.dxf"), m_frame(new CMainFrame) {
+        WriteDrawing(m_path);
+        ::PropPageInit();
+        m_frame->Create();
+        AfxGetThread()->m_pMainWnd = m_frame;
+        m_frame->ShowWindow(SW_SHOW);
+        const double before = HeapBytes();
+        m_frame->Show(Document::Open(Utf8(m_path.c_str()), [](int) {}));
+        Paint();
+        m_bytes = HeapBytes() - before - static_cast<double>(fs::file_size(m_path));
+    }
+    ~MillionViewer() {
+        m_frame->DestroyWindow();
+        AfxGetThread()->m_pMainWnd = nullptr;
+        fs::remove(m_path);
+    }
+
+    CMainFrame& Frame() { return *m_frame; }
+    CDrawingView& View() { return m_frame->View(); }
+    Document& Drawing() { return *m_frame->GetDocument(); }
+    double Bytes() const {
+        return m_bytes;
+    } // of the drawing and all that shows it, without the text of its file
+
+    void Paint() { ::UpdateWindow(View().m_hWnd); }
+
+private:
+    const fs::path m_path;
+    CMainFrame* const m_frame; // goes with its window
+    double m_bytes = 0;
+};
+
+// Copies a picture of the view's size.
+class Copy {
+public:
+    explicit Copy(CWnd& view) {
+        CRect client;
+        view.GetClientRect(client);
+        m_from.Resize(client.Size());
+        m_to.Resize(client.Size());
+        m_from.Fill(client, RGB(40, 40, 40));
+    }
+    void operator()() { m_to.CopyFrom(m_from.Dc(), m_to.Bounds()); }
+
+private:
+    MemoryPicture m_from, m_to;
+};
+
+// A frame of each step, by turns there and back.
+template <class There, class Back>
+void PrintFrames(const char* name, MillionViewer& viewer, Copy& copy, There there, Back back) {
+    constexpr int kTurns = 4;
+    const auto frames = [&] {
+        for (int i = 0; i < kTurns; ++i) {
+            there();
+            viewer.Paint();
+            back();
+            viewer.Paint();
+        }
+    };
+    const Pair pair = Compare(kRounds, frames, [&] {
+        for (int i = 0; i < 2 * kTurns; ++i)
+            copy();
+    });
+    Print(name, pair.ratio, "x_copy_of_the_picture");
+    Print((std::string(name) + "_frame").c_str(), pair.seconds / (2 * kTurns) * 1000, "ms");
+}
+
+void BenchFrames(MillionViewer& viewer) {
+    CDrawingView& view = viewer.View();
+    Copy copy(view);
+    const auto pan = [&](const char* name) {
+        PrintFrames(
+            name, viewer, copy, [&] { view.Pan(CSize(37, -23)); }, [&] { view.Pan(CSize(-37, 23)); });
+    };
+    pan("view_pan_all_1000000");
+    PrintFrames(
+        "view_zoom_all_1000000", viewer, copy, [&] { view.ZoomIn(); }, [&] { view.ZoomOut(); });
+    PrintFrames(
+        "view_draw_all_1000000", viewer, copy, [&] { view.Redraw(); }, [&] { view.Redraw(); });
+    for (int i = 0; i < 16; ++i)
+        view.ZoomIn();
+    PrintFrames(
+        "view_draw_part_1000000", viewer, copy, [&] { view.Redraw(); }, [&] { view.Redraw(); });
+    pan("view_pan_part_1000000");
+    view.FitAll();
+    viewer.Paint();
+}
+
+void SetAll(GraphicStruct* set, uint32_t color) {
+    for (GraphicStruct* graphic : orlo::host::Members(set))
+        orlo::host::WriteProperty(graphic, kPropPenColor, color);
+}
+
+void PrintSeconds(const char* name, const Pair& pair) {
+    Print(name, pair.ratio, "x_bare_host_calls");
+    Print((std::string(name) + "_time").c_str(), pair.seconds, "s");
+}
+
+// One property of all graphics: as a step that can be undone, and its undo, each against the bare loop; and as the user sees
+// it, with all that the window shows of it.
+void BenchChange(MillionViewer& viewer) {
+    Document& drawing = viewer.Drawing();
+    uint32_t color = 0;
+    const auto bare = [&] { SetAll(drawing.Root(), ++color); };
+    PrintSeconds("write_undoable_1000000", Compare(
+                                               kRounds, [&] { drawing.Change(bare); }, bare));
+    PrintSeconds("undo_1000000", Compare(
+                                     kRounds, [&] { drawing.Undo(); }, bare));
+    PrintSeconds("redo_1000000", Compare(
+                                     kRounds, [&] { drawing.Redo(); }, bare));
+    const auto undo = [&] {
+        ::SendMessageA(viewer.Frame().m_hWnd, WM_COMMAND, ID_EDIT_UNDO, 0);
+        viewer.Paint();
+    };
+    PrintSeconds("view_undo_1000000", Compare(kRounds, undo, bare));
+}
+
+} // namespace
+
+void BenchMillion() {
+    MillionViewer viewer;
+    Print("drawing_bytes_1000000", viewer.Bytes() / kEntities, "bytes_an_entity");
+    BenchFrames(viewer);
+    BenchChange(viewer);
+}

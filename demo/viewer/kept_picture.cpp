@@ -1,0 +1,244 @@
+// Moving a picture along, and drawing it.
+
+#include "demo/viewer/kept_picture.h"
+
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+#include "drawcore/view.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+int MillisecondsSince(Clock::time_point start) {
+    return static_cast<int>(
+        std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count());
+}
+
+class Clipped {
+public:
+    Clipped(HDC dc, const CRect& area) : m_saved(dc) {
+        ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
+    }
+
+private:
+    orlo::SavedDC m_saved;
+};
+
+// One direction of a picture that is stretched: pixels of it and of where it goes.
+struct Span {
+    int from, fromLength, to, toLength;
+};
+
+// position: of the picture's pixel 0 in the window; scale: window pixels of one of its pixels; length: of both.
+Span VisibleSpan(double position, double scale, int length) {
+    const double first = std::clamp(std::floor(-position / scale), 0.0, static_cast<double>(length));
+    const double last =
+        std::clamp(std::ceil((length - position) / scale), first, static_cast<double>(length));
+    const int begin = static_cast<int>(std::lround(position + first * scale)),
+              end = static_cast<int>(std::lround(position + last * scale));
+    return {static_cast<int>(first), static_cast<int>(last - first), begin, end - begin};
+}
+
+// What of all lies around the inner one.
+std::vector<CRect> Around(const CRect& inner, const CRect& all) {
+    CRect seen;
+    if (!seen.IntersectRect(inner, all)) return {all};
+    std::vector<CRect> gaps;
+    for (const CRect& gap :
+         {CRect(all.left, all.top, all.right, seen.top), CRect(all.left, seen.bottom, all.right, all.bottom),
+          CRect(all.left, seen.top, seen.left, seen.bottom),
+          CRect(seen.right, seen.top, all.right, seen.bottom)})
+        if (!gap.IsRectEmpty()) gaps.push_back(gap);
+    return gaps;
+}
+
+} // namespace
+
+KeptPicture::KeptPicture(Camera& camera, int frameTime) : m_camera(camera), m_frameTime(frameTime) {}
+
+void KeptPicture::SetDocument(Document* document) {
+    m_document = document;
+    SpoilAll();
+}
+
+void KeptPicture::SetPaper(COLORREF paper) {
+    m_paper = paper;
+    SpoilAll();
+}
+
+void KeptPicture::Resize(CSize size) {
+    m_picture.Resize(size);
+    m_scene.Resize(size);
+    SpoilAll();
+}
+
+// ---- Moving
+
+void KeptPicture::Zoom(double factor, CPoint anchor) {
+    const bool along = StartMoving();
+    m_camera.Zoom(factor, anchor);
+    if (along)
+        m_stretch = true;
+    else
+        SpoilAll();
+}
+
+void KeptPicture::Pan(CSize pixels) {
+    const bool along = StartMoving();
+    m_camera.Pan(pixels);
+    if (!along) return SpoilAll();
+    if (m_stretch) return; // comes where it belongs with that
+    m_frame.Shift(pixels);
+    for (CRect& gap : m_gaps)
+        ::OffsetRect(&gap, pixels.cx, pixels.cy);
+    for (const CRect& gap : Around(CRect(CPoint(pixels.cx, pixels.cy), Bounds().Size()), Bounds()))
+        m_gaps.push_back(gap);
+}
+
+bool KeptPicture::StartMoving() {
+    m_turn = {};
+    if (m_moving) return true;
+    if (!m_slow || IsAllSpoiled() || !m_frame.Resize(m_scene.Size())) return false;
+    Renew();
+    m_sceneBox = m_camera.Visible();
+    m_frame.CopyFrom(m_scene.Dc(), m_scene.Bounds());
+    m_stretch = false;
+    m_gaps.clear();
+    return m_moving = true;
+}
+
+void KeptPicture::EndMoving() {
+    m_moving = false;
+    m_turn = {};
+}
+
+// The camera has zoomed: all of the frame comes from the scene, which is exact.
+void KeptPicture::MoveFrame() {
+    m_stretch = false;
+    const CSize size = m_frame.Size();
+    const WorldBox now = m_camera.Visible();
+    const double scale = m_sceneBox.Width() / now.Width();
+    const Span x = VisibleSpan((m_sceneBox.x1 - now.x1) / now.Width() * size.cx, scale, size.cx);
+    const Span y = VisibleSpan((now.y2 - m_sceneBox.y2) / now.Height() * size.cy, scale, size.cy);
+    const CRect to(CPoint(x.to, y.to), CSize(x.toLength, y.toLength));
+    m_gaps = Around(to, Bounds());
+    m_frame.Stretch(m_scene.Dc(), CRect(CPoint(x.from, y.from), CSize(x.fromLength, y.fromLength)), to);
+    for (const CRect& gap : m_gaps)
+        m_frame.Fill(gap, m_paper);
+}
+
+void KeptPicture::DrawGaps() {
+    const Clock::time_point start = Clock::now();
+    for (CRect gap : std::exchange(m_gaps, {})) {
+        if (!gap.IntersectRect(gap, Bounds())) continue;
+        m_frame.Fill(gap, m_paper);
+        if (!m_document) continue;
+        const Clipped clipped(m_frame.Dc(), gap);
+        uint32_t place = 0;
+        DrawOn(m_frame.Dc(), m_document->Root(), place, m_frameTime - MillisecondsSince(start));
+    }
+}
+
+bool KeptPicture::Settle(int milliseconds) {
+    if (!m_moving) return true;
+    const Clock::time_point start = Clock::now();
+    const bool done = SettleSince(start, milliseconds);
+    m_turn.spent += MillisecondsSince(start);
+    if (!done) return false;
+    m_slow = m_turn.spent >= m_frameTime;
+    EndMoving();
+    return true;
+}
+
+bool KeptPicture::SettleSince(Clock::time_point start, int milliseconds) {
+    const auto left = [&] { return milliseconds - MillisecondsSince(start); };
+    if (!m_turn.begun) {
+        if (!m_next.Resize(m_picture.Size())) {
+            SpoilAll();
+            return true;
+        }
+        m_next.Fill(m_next.Bounds(), m_paper);
+        m_turn.begun = true;
+    }
+    if (m_turn.part == Turn::Part::Drawing) {
+        if (m_document && !DrawOn(m_next.Dc(), m_document->Root(), m_turn.place, left())) return false;
+        m_turn.part = Turn::Part::Selection;
+        m_turn.place = 0;
+        if (HasGlow()) m_glow.Begin(m_next.Size(), m_next.Bounds());
+    }
+    if (HasGlow() && !DrawOn(m_glow.Dc(), m_document->Selected().Set(), m_turn.place, left())) return false;
+    std::swap(m_picture, m_next);
+    m_scene.CopyFrom(m_picture.Dc(), m_scene.Bounds());
+    if (HasGlow()) m_glow.Put(m_scene);
+    return true;
+}
+
+// ---- Drawing
+
+void KeptPicture::Spoil(CRect area) {
+    if (m_moving) area = Bounds(); // the picture is out of date by its place already
+    EndMoving();
+    area.IntersectRect(area, Bounds());
+    if (area.IsRectEmpty()) return;
+    if (area == Bounds()) m_spoiled.clear();
+    m_spoiled.push_back(area);
+}
+
+bool KeptPicture::IsAllSpoiled() const {
+    return m_spoiled.size() == 1 && m_spoiled.front() == Bounds();
+}
+
+void KeptPicture::SpoilGlow(const CRect& area) {
+    if (m_moving) SpoilAll();
+    m_spoiledScene.UnionRect(m_spoiledScene, area);
+}
+
+void KeptPicture::Renew() {
+    if (m_moving) {
+        if (m_stretch) MoveFrame();
+        return DrawGaps();
+    }
+    const bool all = IsAllSpoiled();
+    const Clock::time_point start = Clock::now();
+    RenewPicture();
+    RenewScene();
+    if (all) m_slow = MillisecondsSince(start) >= m_frameTime;
+}
+
+void KeptPicture::RenewPicture() {
+    for (const CRect& area : m_spoiled) {
+        m_picture.Fill(area, m_paper);
+        if (m_document) {
+            const Clipped clipped(m_picture.Dc(), area);
+            Draw(m_picture.Dc(), m_document->Root());
+        }
+        CRect glowing = area;
+        glowing.InflateRect(Glow::kRadius, Glow::kRadius);
+        m_spoiledScene.UnionRect(m_spoiledScene, glowing);
+    }
+    m_spoiled.clear();
+}
+
+void KeptPicture::RenewScene() {
+    CRect area = m_spoiledScene;
+    area.IntersectRect(area, m_scene.Bounds());
+    m_spoiledScene.SetRectEmpty();
+    if (area.IsRectEmpty()) return;
+    m_scene.CopyFrom(m_picture.Dc(), area);
+    if (!HasGlow() || !m_glow.Begin(m_scene.Size(), area)) return;
+    Draw(m_glow.Dc(), m_document->Selected().Set());
+    m_glow.Put(m_scene);
+}
+
+void KeptPicture::Draw(HDC dc, GraphicStruct* graphic) {
+    ::ViewportSetGDIStuff(m_camera.Viewport(), nullptr, dc, MM_TEXT, 1);
+    ::GraphicDrawEx2(graphic, nullptr, m_camera.Viewport(), 0, 1);
+}
+
+bool KeptPicture::DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds) {
+    ::ViewportSetGDIStuff(m_camera.Viewport(), nullptr, dc, MM_TEXT, 1);
+    return ::GraphicDrawOn(graphic, m_camera.Viewport(), &place, milliseconds) != 0;
+}

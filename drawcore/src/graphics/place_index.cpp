@@ -1,0 +1,141 @@
+// An R-tree of boxes in single precision, rounded outwards.
+#include "drawcore/src/graphics/place_index.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include <boost/geometry/algorithms/covered_by.hpp>
+#include <boost/geometry/geometries/box.hpp>
+#include <boost/geometry/geometries/point.hpp>
+#include <boost/geometry/index/rtree.hpp>
+#include <boost/iterator/function_output_iterator.hpp>
+
+#include "drawcore/src/graphics/graphic.h"
+
+namespace drawcore {
+
+namespace {
+
+namespace bg = boost::geometry;
+namespace bgi = boost::geometry::index;
+
+using TreePoint = bg::model::point<float, 2, bg::cs::cartesian>;
+using TreeBox = bg::model::box<TreePoint>;
+
+struct Entry {
+    TreeBox box;
+    uint32_t place;
+};
+
+struct BoxOfEntry {
+    using result_type = const TreeBox&;
+    result_type operator()(const Entry& entry) const { return entry.box; }
+};
+
+struct SamePlace {
+    bool operator()(const Entry& a, const Entry& b) const { return a.place == b.place; }
+};
+
+constexpr float kFarthest = std::numeric_limits<float>::max();
+
+float RoundedDown(double value) {
+    const float nearest = static_cast<float>(std::clamp<double>(value, -kFarthest, kFarthest));
+    return nearest > value ? std::nextafter(nearest, -kFarthest) : nearest;
+}
+
+float RoundedUp(double value) {
+    return -RoundedDown(-value);
+}
+
+TreeBox BoxOf(const Extents& extents) {
+    return {{RoundedDown(extents.low.x), RoundedDown(extents.low.y)},
+            {RoundedUp(extents.high.x), RoundedUp(extents.high.y)}};
+}
+
+} // namespace
+
+class PlaceIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SamePlace> {
+public:
+    using rtree::rtree;
+};
+
+PlaceIndex::PlaceIndex() = default;
+PlaceIndex::~PlaceIndex() = default;
+
+void PlaceIndex::NoteReach(const Graphic& graphic) {
+    const double half = graphic.pen.width / 2;
+    if (graphic.pen.scaleSystem == kScaleWorld)
+        worldReach_ = std::max(worldReach_, half);
+    else
+        paperReach_ = std::max(paperReach_, half);
+    worldReach_ = std::max(worldReach_, graphic.Reach());
+}
+
+void PlaceIndex::NoteMember(const Graphic& member) {
+    NoteReach(member);
+    for (size_t i = 0; i < member.MemberCount(); ++i)
+        NoteMember(*member.MemberAt(i));
+}
+
+void PlaceIndex::Build(const Graphic& group) {
+    std::vector<Entry> entries;
+    entries.reserve(group.MemberCount());
+    for (uint32_t place = 0; place < group.MemberCount(); ++place) {
+        Graphic& member = *group.MemberAt(place);
+        const Extents& extents = member.GetExtents();
+        if (!extents.IsEmpty()) entries.push_back({BoxOf(extents), place});
+        member.indexed_ = true;
+        NoteMember(member);
+    }
+    tree_ = std::make_unique<Tree>(entries.begin(), entries.end());
+    changed_.clear();
+    known_ = group.MemberCount();
+}
+
+// Members that were added meanwhile have the places after the known ones.
+void PlaceIndex::TakeUp(const Graphic& group) {
+    for (; known_ < group.MemberCount(); ++known_)
+        changed_.push_back(static_cast<uint32_t>(known_));
+    constexpr size_t kFew = 64;
+    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16)
+        return Build(group); // faster than one by one
+    for (const uint32_t place : changed_) {
+        Graphic& member = *group.MemberAt(place);
+        const Extents& extents = member.GetExtents();
+        if (!extents.IsEmpty()) tree_->insert({BoxOf(extents), place});
+        member.indexed_ = true;
+        NoteMember(member);
+    }
+    changed_.clear();
+}
+
+void PlaceIndex::Forget(Graphic& member) {
+    member.indexed_ = false;
+    if (!tree_) return;
+    changed_.push_back(member.place_);
+    const Extents& extents = member.extents_;
+    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.place_});
+}
+
+void PlaceIndex::Drop() {
+    tree_.reset();
+}
+
+std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, const Extents& box,
+                                                      double paperInch) {
+    if (box.Covers(group.GetExtents())) return std::nullopt;
+    TakeUp(group);
+    const double reach = std::max(worldReach_, paperReach_ * paperInch);
+    Extents around = box;
+    around.Add(box.low - Vec3{reach, reach, 0});
+    around.Add(box.high + Vec3{reach, reach, 0});
+    std::vector<uint32_t> places;
+    tree_->query(
+        bgi::intersects(BoxOf(around)),
+        boost::make_function_output_iterator([&](const Entry& entry) { places.push_back(entry.place); }));
+    std::sort(places.begin(), places.end());
+    return places;
+}
+
+} // namespace drawcore

@@ -1,0 +1,39 @@
+// From a box of the device to one of the drawing.
+#include "drawcore/src/paint/seen_members.h"
+
+#include <cmath>
+
+#include "drawcore/src/graphics/place_index.h"
+
+namespace drawcore {
+
+namespace {
+
+// Whether the plan is moved, scaled and mirrored only, so that a box stays a box, and alike in both directions.
+bool KeepsBoxes(const Matrix& m) {
+    return m.at[0][1] == 0 && m.at[1][0] == 0 && m.at[2][0] == 0 && m.at[2][1] == 0 &&
+           std::isnormal(m.at[0][0]) && std::fabs(m.at[0][0]) == std::fabs(m.at[1][1]);
+}
+
+Extents BackFrom(const Box& device, const Matrix& m) {
+    Extents box;
+    for (const Point& p : {Point{device.left, device.top}, {device.right, device.bottom}})
+        box.Add(Vec3{(p.x - m.at[3][0]) / m.at[0][0], (p.y - m.at[3][1]) / m.at[1][1], 0});
+    return box;
+}
+
+} // namespace
+
+SeenMembers::SeenMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch) {
+    PlaceIndex* index = set.IndexOfMembers();
+    if (!index || !KeepsBoxes(toDevice)) return;
+    constexpr double kRounding = 1; // a pixel: more than any error of the arithmetic
+    places_ = index->Find(set, BackFrom(device.Grown(kRounding), toDevice), paperInch / toDevice.PlanScale());
+}
+
+Graphic* SeenMembers::At(const Graphic& set, size_t number) const {
+    const size_t place = places_ ? (*places_)[number] : number;
+    return place < set.MemberCount() ? set.MemberAt(place) : nullptr;
+}
+
+} // namespace drawcore

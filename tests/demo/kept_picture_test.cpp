@@ -1,0 +1,160 @@
+// A picture that moves along: what it shows meanwhile, and that it is the same at rest as one drawn there.
+
+#include "demo/viewer/kept_picture.h"
+
+#include "demo/viewer.h"
+
+#include <random>
+
+#include "drawcore/view.h"
+#include "orlo/host/graphic.h"
+
+namespace {
+
+// Squares filled solid, a long line through all of them, texts.
+std::string Drawing() {
+    std::string text = "0\nSECTION\n2\nENTITIES\n";
+    const auto pair = [&](const char* code, double value) { text += code + std::to_string(value) + "\n"; };
+    for (int i = 0; i < 49; ++i) {
+        const double x = i % 7 * 10, y = i / 7 * 10;
+        text += "0\nSOLID\n8\n0\n62\n" + std::to_string(i % 5 + 1) + "\n";
+        pair("10\n", x), pair("20\n", y), pair("11\n", x + 7), pair("21\n", y);
+        pair("12\n", x), pair("22\n", y + 7), pair("13\n", x + 7), pair("23\n", y + 7);
+        text += "0\nTEXT\n8\n0\n62\n6\n1\nText\n40\n2\n";
+        pair("10\n", x), pair("20\n", y + 8);
+    }
+    return text + "0\nLINE\n8\n0\n10\n-999\n20\n-800\n11\n999\n21\n1234\n0\nENDSEC\n0\nEOF\n";
+}
+
+using Seen = std::vector<uint32_t>;
+
+class MovingPicture : public ::testing::Test {
+protected:
+    const CSize kSize{240, 200};
+    static constexpr int kEveryPictureIsSlow = 0;
+
+    MovingPicture() {
+        camera.SetWindow(kSize);
+        camera.SetDrawing(document->Drawing());
+        ::ViewportSetBackground(camera.Viewport(), CDrawingView::kDarkPaper);
+        camera.Fit(document->Root(), 0);
+        camera.Zoom(12, CPoint(120, 100));
+        Prepare(picture);
+        picture.Renew();
+    }
+
+    void Prepare(KeptPicture& some) {
+        some.SetDocument(document.get());
+        some.SetPaper(CDrawingView::kDarkPaper);
+        some.Resize(kSize);
+    }
+
+    Seen Pixels(const KeptPicture& some) const {
+        MemoryPicture copy;
+        copy.Resize(kSize);
+        copy.CopyFrom(some.Dc(), copy.Bounds());
+        Seen pixels;
+        for (int y = 0; y < kSize.cy; ++y)
+            pixels.insert(pixels.end(), copy.Row(y), copy.Row(y) + kSize.cx);
+        return pixels;
+    }
+
+    Seen Shown() {
+        picture.Renew();
+        return Pixels(picture);
+    }
+
+    Seen DrawnAnew() {
+        KeptPicture fresh(camera);
+        Prepare(fresh);
+        fresh.Renew();
+        return Pixels(fresh);
+    }
+
+    void Rest() {
+        while (!picture.Settle(0)) {
+        }
+    }
+
+    int Number(int below) { return std::uniform_int_distribution<>(0, below - 1)(random); }
+
+    std::mt19937 random{3};
+    const DrawingFile file{Drawing().c_str()};
+    const std::unique_ptr<Document> document = Document::Open(file.Path(), [](int) {});
+    Camera camera;
+    KeptPicture picture{camera, kEveryPictureIsSlow};
+};
+
+TEST_F(MovingPicture, ShowsWhatWasThereAndDrawsTheEdges) {
+    const Seen before = Shown();
+    const CSize by(31, -17);
+    picture.Pan(by);
+    const Seen moved = Shown(), wanted = DrawnAnew();
+    ASSERT_TRUE(picture.IsMoved());
+    ASSERT_NE(before, wanted);
+    for (int y = 0; y < kSize.cy; ++y)
+        for (int x = 0; x < kSize.cx; ++x) {
+            const int fromX = x - by.cx, fromY = y - by.cy;
+            const bool kept = fromX >= 0 && fromX < kSize.cx && fromY >= 0 && fromY < kSize.cy;
+            ASSERT_EQ(moved[static_cast<size_t>(y * kSize.cx + x)],
+                      kept ? before[static_cast<size_t>(fromY * kSize.cx + fromX)]
+                           : wanted[static_cast<size_t>(y * kSize.cx + x)])
+                << x << ", " << y;
+        }
+}
+
+TEST_F(MovingPicture, StretchesWhatWasThere) {
+    for (const double factor : {2.0, 0.5, 0.8, 1.1, 40.0, 0.02}) {
+        SCOPED_TRACE(factor);
+        picture.Zoom(factor, CPoint(70, 150));
+        const Seen moved = Shown(), wanted = DrawnAnew();
+        ASSERT_TRUE(picture.IsMoved());
+        size_t same = 0;
+        for (size_t i = 0; i < moved.size(); ++i)
+            same += moved[i] == wanted[i];
+        EXPECT_GT(same * 100, moved.size() * 80) << "but for edges and letters";
+        Rest();
+    }
+}
+
+TEST_F(MovingPicture, IsTheSameAtRestAsDrawnAnew) {
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE(round);
+        if (round % 5 == 0)
+            document->Selected().Apply({document->Selectable()[static_cast<size_t>(Number(90))]},
+                                       Selection::Way::Toggle);
+        if (round % 5 == 0) picture.SpoilGlow(picture.Bounds());
+        for (int moves = Number(4); moves >= 0; --moves) {
+            if (Number(3) == 0)
+                picture.Zoom(Number(2) ? 1.25 : 0.8, CPoint(Number(kSize.cx), Number(kSize.cy)));
+            else
+                picture.Pan(CSize(Number(61) - 30, Number(61) - 30));
+            if (Number(2)) picture.Renew();
+            if (Number(2)) picture.Settle(0); // interrupted by the next move
+        }
+        Rest();
+        ASSERT_FALSE(picture.IsMoved());
+        ASSERT_EQ(Shown(), DrawnAnew());
+    }
+}
+
+TEST_F(MovingPicture, NeverShowsWhatHasChanged) {
+    const auto paint = [&](uint32_t color) {
+        document->Change([&] {
+            for (GraphicStruct* graphic : document->Selectable())
+                ::GraphicSetPenColor(graphic, color);
+        });
+        picture.SpoilAll();
+    };
+    picture.Pan(CSize(20, 10));
+    picture.Settle(0);
+    paint(RGB(9, 200, 9));
+    EXPECT_EQ(Shown(), DrawnAnew());
+    picture.Zoom(1.25, CPoint(9, 9));
+    Shown();
+    document->Selected().Apply({document->Selectable()[40]}, Selection::Way::Add);
+    picture.SpoilGlow(CRect(0, 0, 1, 1));
+    EXPECT_EQ(Shown(), DrawnAnew());
+}
+
+} // namespace
