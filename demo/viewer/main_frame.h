@@ -79,6 +79,8 @@ protected:
     afx_msg void OnPropertiesPane();
     afx_msg void OnSwitchPane();
     afx_msg void OnHelpKeys();
+    afx_msg void OnHelpGuide();
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
