@@ -6,11 +6,9 @@
 
 #include <shlwapi.h>
 
-#include <algorithm>
-
 #include "demo/viewer/file_name.h"
+#include "demo/viewer/sheet_around.h"
 #include "orlo/frame/orlo_property_page.h"
-#include "orlo/frame/orlo_property_sheet.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -28,15 +26,6 @@ constexpr Topic kTopics[] = {{IDD_GENERAL_PAGE, "general"},
                              {IDD_BRUSH_PAGE, "brush"},
                              {IDD_TEXT_PAGE, "text"},
                              {IDD_INSERT_PAGE, "block-insertion"}};
-
-COrloPropertySheet* SheetAround(HWND window) {
-    for (; window; window = ::GetAncestor(window, GA_PARENT)) {
-        CWnd* found = CWnd::FromHandlePermanent(window);
-        if (found && found->IsKindOf(RUNTIME_CLASS(COrloPropertySheet)))
-            return static_cast<COrloPropertySheet*>(found);
-    }
-    return nullptr;
-}
 
 std::wstring GuidePath() {
     std::wstring path(MAX_PATH, L'\0');

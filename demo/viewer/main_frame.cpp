@@ -101,6 +101,7 @@ END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame()
     : m_view(*this), m_pane([this](int changed) { ShowApplied(changed); }),
+      m_hints([this](const std::string& hint) { m_status.ShowMessage(hint); }),
       m_dialogMessages([this](MSG& message) { return OnDialogMessage(message); }),
       m_paneKeys(::LoadAcceleratorsA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PANE))) {}
 
@@ -119,7 +120,7 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
-    if (!m_pane.Create(this, IDC_PROPERTIES_PANE)) return -1;
+    if (!m_pane.Create(this, IDC_PROPERTIES_PANE) || !m_hints.Create(m_hWnd)) return -1;
     SetPaper(CDrawingView::kDarkPaper);
     m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
@@ -377,6 +378,7 @@ void CMainFrame::OnSwitchPane() {
 }
 
 bool CMainFrame::OnDialogMessage(MSG& message) {
+    m_hints.Watch(message, m_document.get());
     if (message.message == WM_KEYDOWN && message.wParam == VK_F1) {
         ShowHelp(::GetActiveWindow(), HelpTopicOf(message.hwnd));
         return true;
