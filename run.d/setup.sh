@@ -1,8 +1,9 @@
 # Installs what is missing, with apt. Quick when nothing is.
 
 packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth fonts-wine
-          fonts-dejavu-core googletest libboost-dev libcli11-dev nlohmann-json3-dev libstb-dev pkg-config clang-14 clang-format-14
-          libclang-rt-14-dev lld-14 llvm-14 nettle-dev python3 libgsf-bin python3-olefile python3-ezdxf" # the last three read what we have written
+          fonts-dejavu-core googletest libboost-dev libcli11-dev nlohmann-json3-dev libstb-dev pkg-config clang-14
+          clang-format-14 libclang-rt-14-dev lld-14 llvm-14 nettle-dev python3 python3-markdown libgsf-bin python3-olefile
+          python3-ezdxf" # the last three read what we have written
 
 setup() {
     local package missing=()

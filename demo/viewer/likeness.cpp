@@ -7,7 +7,6 @@
 #include <set>
 #include <tuple>
 
-#include "demo/viewer/property_snapshot.h"
 #include "drawcore/drawing.h"
 #include "drawcore/graphic.h"
 #include "orlo/host/drawing.h"
@@ -18,7 +17,7 @@
 
 namespace {
 
-constexpr size_t kMostWidths = 3; // that are shown
+constexpr size_t kMostValues = 3; // that are shown
 
 struct KindName {
     uint32_t kind;
@@ -85,15 +84,16 @@ std::string KindsText(const Graphics& graphics) {
     return kinds.size() > 1 ? std::to_string(graphics.size()) + ": " + text : text;
 }
 
-std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics) {
-    std::vector<ValueCount> widths = CountWidths(drawing, graphics);
-    std::stable_sort(widths.begin(), widths.end(),
-                     [](const ValueCount& a, const ValueCount& b) { return a.count > b.count; });
+std::string CountsText(const std::vector<ValueCount>& counts) {
     std::string text;
-    for (size_t i = 0; i < std::min(widths.size(), kMostWidths); ++i)
-        text += (i ? ", " : "") + std::to_string(widths[i].count) + " x " + widths[i].value;
-    if (widths.size() > kMostWidths) text += " and " + std::to_string(widths.size() - kMostWidths) + " more";
+    for (size_t i = 0; i < std::min(counts.size(), kMostValues); ++i)
+        text += (i ? ", " : "") + std::to_string(counts[i].count) + " x " + counts[i].value;
+    if (counts.size() > kMostValues) text += " and " + std::to_string(counts.size() - kMostValues) + " more";
     return text;
+}
+
+std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics) {
+    return CountsText(CountValues(drawing, graphics, kPropPenWidth));
 }
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "demo/viewer/property_snapshot.h"
 #include "orlo/host/records.h"
 
 using Graphics = std::vector<GraphicStruct*>;
@@ -19,7 +20,9 @@ std::vector<KindCount> CountKinds(const Graphics& graphics);
 std::string KindText(const KindCount& kind); // "6 texts"
 // "116: 6 texts, 80 lines, 30 curves"; of one kind only "80 lines"; empty for none.
 std::string KindsText(const Graphics& graphics);
-// "3 x 0.25 mm, 2 x 0.5 mm": the widths that occur most first, and how many others; empty if no graphic has a pen.
+// "3 x 0.25 mm, 2 x 0.5 mm": the first ones, and how many others there are.
+std::string CountsText(const std::vector<ValueCount>& counts);
+// Of the pens' widths; empty if no graphic has a pen.
 std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics);
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind);

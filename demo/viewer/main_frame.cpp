@@ -8,6 +8,7 @@
 #include "demo/viewer/counted.h"
 #include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
+#include "demo/viewer/help.h"
 #include "demo/viewer/keys_dialog.h"
 #include "demo/viewer/layers_dialog.h"
 #include "demo/viewer/long_task.h"
@@ -37,7 +38,7 @@ std::string ChangedText(int changed, const Document& document) {
 
 // Commands that neither change a drawing nor what is selected in it.
 bool IsOfLooks(UINT command) {
-    return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_KEYS && command != ID_VIEW_PROPERTIES;
+    return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_GUIDE && command != ID_VIEW_PROPERTIES;
 }
 
 // Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
@@ -94,10 +95,13 @@ ON_COMMAND(ID_VIEW_LAYERS, &CMainFrame::OnLayers)
 ON_COMMAND(ID_VIEW_PROPERTIES, &CMainFrame::OnPropertiesPane)
 ON_COMMAND(ID_VIEW_SWITCH_PANE, &CMainFrame::OnSwitchPane)
 ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
+ON_COMMAND(ID_HELP_GUIDE, &CMainFrame::OnHelpGuide)
+ON_MESSAGE(WM_COMMANDHELP, &CMainFrame::OnCommandHelp)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame()
     : m_view(*this), m_pane([this](int changed) { ShowApplied(changed); }),
+      m_hints([this](const std::string& hint) { m_status.ShowMessage(hint); }),
       m_dialogMessages([this](MSG& message) { return OnDialogMessage(message); }),
       m_paneKeys(::LoadAcceleratorsA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PANE))) {}
 
@@ -116,7 +120,7 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
-    if (!m_pane.Create(this, IDC_PROPERTIES_PANE)) return -1;
+    if (!m_pane.Create(this, IDC_PROPERTIES_PANE) || !m_hints.Create(m_hWnd)) return -1;
     SetPaper(CDrawingView::kDarkPaper);
     m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
@@ -374,11 +378,26 @@ void CMainFrame::OnSwitchPane() {
 }
 
 bool CMainFrame::OnDialogMessage(MSG& message) {
+    m_hints.Watch(message, m_document.get());
+    if (message.message == WM_KEYDOWN && message.wParam == VK_F1) {
+        ShowHelp(::GetActiveWindow(), HelpTopicOf(message.hwnd));
+        return true;
+    }
     return ::IsChild(m_pane.m_hWnd, message.hwnd) && ::TranslateAcceleratorA(m_hWnd, m_paneKeys, &message);
 }
 
 void CMainFrame::OnHelpKeys() {
     CKeysDialog(this).DoModal();
+}
+
+void CMainFrame::OnHelpGuide() {
+    ShowHelp(m_hWnd, HelpTopicOf(m_hWnd));
+}
+
+// The Help button of a sheet, which has the focus, comes here by way of its page.
+LRESULT CMainFrame::OnCommandHelp(WPARAM, LPARAM) {
+    ShowHelp(::GetActiveWindow(), HelpTopicOf(::GetFocus()));
+    return TRUE;
 }
 
 // ---- Menu

@@ -10,6 +10,7 @@
 #include "demo/viewer/dialog_messages.h"
 #include "demo/viewer/document.h"
 #include "demo/viewer/drawing_view.h"
+#include "demo/viewer/field_hints.h"
 #include "demo/viewer/likeness.h"
 #include "demo/viewer/properties_pane.h"
 #include "demo/viewer/status_line.h"
@@ -79,6 +80,8 @@ protected:
     afx_msg void OnPropertiesPane();
     afx_msg void OnSwitchPane();
     afx_msg void OnHelpKeys();
+    afx_msg void OnHelpGuide();
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -109,6 +112,7 @@ private:
     CStatusLine m_status;
     std::unique_ptr<Document> m_document;
     CPropertiesPane m_pane;
+    FieldHints m_hints;
     DialogMessages m_dialogMessages;
     HACCEL m_paneKeys;      // the system's, for as long as the program runs
     bool m_isBusy = false;  // with a file

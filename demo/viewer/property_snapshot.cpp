@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 #include <tuple>
+#include <variant>
 
 #include "drawcore/property_schema.h"
 #include "orlo/host/drawing.h"
+#include "orlo/host/layer.h"
 #include "orlo/host/property.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/units.h"
@@ -96,6 +99,29 @@ std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t 
     }
 }
 
+// A value as graphics share it: the width of a pen by the scale system, a colour by layer with the layer's.
+using Value = std::tuple<std::variant<uint32_t, double, std::string>, uint32_t>;
+
+struct Holders {
+    GraphicStruct* example;
+    int count;
+};
+
+std::optional<Value> ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property,
+                             uint32_t mask) {
+    if (property.form == kFormText) {
+        if (const auto text = ReadProperty<std::string>(graphic, property.name)) return Value{*text, 0};
+    } else if (property.form == kFormReal) {
+        if (const auto real = ReadProperty<double>(graphic, property.name))
+            return Value{*real, property.meaning == kMeansWidth && IsWorldScaled(graphic)};
+    } else if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) {
+        const bool byLayer = property.meaning == kMeansColor && *whole == kColorByLayer;
+        const auto layer = ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
+        return Value{*whole & mask, byLayer ? ::LayerGetColor(drawing, layer) : 0};
+    }
+    return std::nullopt;
+}
+
 // Empty if the graphic has no such property.
 std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
     switch (property.form) {
@@ -113,6 +139,28 @@ std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const Prop
     return "";
 }
 
+std::string ShownText(DrawingStruct* drawing, GraphicStruct* example, const PropertyInfo& property,
+                      const Value& value, uint32_t mask) {
+    if (property.meaning == kMeansBits) {
+        const uint32_t bits = std::get<uint32_t>(std::get<0>(value));
+        const bool isOne = (mask & (mask - 1)) == 0;
+        return isOne ? (bits ? "yes" : "no") : std::to_string(bits);
+    }
+    char buffer[64] = "";
+    const double* real = std::get_if<double>(&std::get<0>(value));
+    if (real && property.meaning == kMeansLength &&
+        ::DrawingStdNumericToText(drawing, *real, buffer, sizeof buffer, 0))
+        return buffer;
+    if (real && property.meaning == kMeansAngle &&
+        ::DrawingStdAngleToText(drawing, *real, buffer, sizeof buffer, 0))
+        return buffer;
+    const std::string text = ValueText(drawing, example, property);
+    const uint32_t layerColor = std::get<1>(value);
+    if (property.meaning != kMeansColor || std::get<0>(value) != decltype(std::get<0>(value))(kColorByLayer))
+        return text;
+    return text + " (" + ColorText(drawing, layerColor) + ")";
+}
+
 } // namespace
 
 std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
@@ -121,19 +169,21 @@ std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
     return name[0] ? name : "#" + std::to_string(id);
 }
 
-std::vector<ValueCount> CountWidths(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics) {
-    struct Width {
-        GraphicStruct* example;
-        int count;
-    };
-    std::map<std::pair<double, bool>, Width> widths; // texts are made of the few that differ only
+std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
+                                    const char* name, uint32_t mask) {
+    const PropertyInfo* property =
+        std::find_if(AllProperties().begin(), AllProperties().end(),
+                     [&](const PropertyInfo& info) { return std::string(info.name) == name; });
+    std::map<Value, Holders> values; // texts are made of the few that differ only
     for (GraphicStruct* graphic : graphics) {
-        const auto width = ReadProperty<double>(graphic, kPropPenWidth);
-        if (width) ++widths.insert({{*width, IsWorldScaled(graphic)}, {graphic, 0}}).first->second.count;
+        const std::optional<Value> value = ValueOf(drawing, graphic, *property, mask);
+        if (value) ++values.insert({*value, {graphic, 0}}).first->second.count;
     }
     std::vector<ValueCount> counts;
-    for (const auto& [key, width] : widths)
-        counts.push_back({WidthText(drawing, width.example, key.first), width.count});
+    for (const auto& [value, holders] : values)
+        counts.push_back({ShownText(drawing, holders.example, *property, value, mask), holders.count});
+    std::stable_sort(counts.begin(), counts.end(),
+                     [](const ValueCount& a, const ValueCount& b) { return a.count > b.count; });
     return counts;
 }
 

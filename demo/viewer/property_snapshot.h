@@ -22,8 +22,10 @@ struct ValueCount {
     int count;
 };
 
-// The pen widths of graphics, thin ones first.
-std::vector<ValueCount> CountWidths(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics);
+// The values that graphics have of a property (of its bits in the mask), those that occur most first. A colour by layer is told
+// with the layer's.
+std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
+                                    const char* property, uint32_t mask = ~uint32_t{0});
 // The name of a table's entry; "#12" without one.
 std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id);
 

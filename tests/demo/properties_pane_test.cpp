@@ -141,6 +141,51 @@ TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
     EXPECT_TRUE(::IsWindowVisible(sheet()));
 }
 
+// In one way: in the status line for the field that has the focus, and in a tip over the one under the pointer.
+TEST_F(Pane, TellsWhatDiffersInAField) {
+    document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[1], 10 / 25.4); });
+    user.Key('A', UserInput::kControl);
+    const auto message = [&] {
+        char text[256] = "";
+        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, 0,
+                       reinterpret_cast<LPARAM>(text));
+        return std::string(text);
+    };
+    const auto tip = [&](HWND over) {
+        ::PostMessageA(over, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+        user.Wait(0);
+        HWND tips = nullptr;
+        while ((tips = ::FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr)) != nullptr) {
+            char text[256] = "";
+            TOOLINFOA tool = {};
+            tool.cbSize = TTTOOLINFOA_V1_SIZE;
+            tool.uFlags = TTF_IDISHWND;
+            tool.uId = reinterpret_cast<UINT_PTR>(over);
+            tool.lpszText = text;
+            ::SendMessageA(tips, TTM_GETTEXTA, sizeof text, reinterpret_cast<LPARAM>(&tool));
+            if (::GetWindow(tips, GW_OWNER) == frame->m_hWnd) return std::string(text);
+        }
+        return std::string("no tips");
+    };
+    user.Key(VK_F6);
+    user.Key(VK_TAB, UserInput::kControl);
+    ::SetFocus(control(IDC_PEN_WIDTH)); // its edit
+    user.Key(VK_END);
+    EXPECT_EQ(message(), " Width: 2 x 0 mm, 1 x 10 mm");
+    EXPECT_EQ(tip(control(IDC_COLOR)), "Color: 1 x Red, 1 x Green, 1 x Yellow and 1 more");
+    EXPECT_EQ(tip(control(IDC_PEN_SCALE)), "Dash scale: 3 x 1");
+    EXPECT_EQ(tip(control(IDC_PEN_WIDTH_LABEL)), "");
+    ASSERT_TRUE(ClickTab(user, sheet(), 3));
+    EXPECT_EQ(tip(control(IDC_TEXT_COLOR)), "Color: 1 x Red, 1 x Green, 1 x Yellow and 1 more");
+    user.Click(view(), Pixel(26, 31)); // the text
+    user.Wait(0);
+    ASSERT_TRUE(ClickTab(user, sheet(), 1));
+    EXPECT_EQ(tip(control(IDC_TEXT_COLOR)), "Color: 1 x By Layer (White)");
+    EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x no");
+    EXPECT_EQ(tip(control(IDC_JUSTIFY_CENTER)), "Justification: 1 x Left");
+    EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 4");
+}
+
 TEST_F(Pane, FiftySelectionsLeaveNothingBehind) {
     const auto walk = [&](int count) {
         for (int i = 0; i < count; ++i) {

@@ -1,0 +1,130 @@
+// Hints of fields.
+
+#include "demo/viewer/field_hints.h"
+
+#include <commctrl.h>
+
+#include "demo/viewer/document.h"
+#include "demo/viewer/likeness.h"
+#include "demo/viewer/sheet_around.h"
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/orlo_property_page.h"
+#include "orlo/host/words.h"
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr unsigned long kNoStylePart = 4; // bit of a sheet's flags: it is over graphics of the drawing
+
+struct Field {
+    unsigned int pageTemplate;
+    int control;
+    const char* name;
+    const char* property;
+    uint32_t bits = ~uint32_t{0};       // of the property
+    const char* const* words = nullptr; // of its values, from 0
+};
+constexpr const char* kDrawModes[] = {"Alternate", "Winding"};
+constexpr const char* kFontStyles[] = {"Regular", "Italic", "Bold", "Bold Italic"};
+constexpr const char* kJustifications[] = {"Left", "Center", "Right"};
+constexpr uint32_t kAllBits = ~uint32_t{0};
+
+constexpr Field kFields[] = {
+    {IDD_GENERAL_PAGE, IDC_INFO, "Attribute", kPropInfo},
+    {IDD_GENERAL_PAGE, IDC_LAYER, "Layer", kPropLayer},
+    {IDD_PEN_PAGE, IDC_LINE_STYLE_LIST, "Pattern", kPropPenStyle},
+    {IDD_PEN_PAGE, IDC_PEN_ALIGNMENT, "Alignment", kPropPenAlignment},
+    {IDD_PEN_PAGE, IDC_COLOR, "Color", kPropPenColor},
+    {IDD_PEN_PAGE, IDC_PEN_SCALE, "Dash scale", kPropPenScale},
+    {IDD_PEN_PAGE, IDC_SCALE_SYSTEM, "Width scaling", kPropScaleSystem},
+    {IDD_PEN_PAGE, IDC_PEN_WIDTH, "Width", kPropPenWidth},
+    {IDD_BRUSH_PAGE, IDC_BRUSH_STYLE_LIST, "Pattern", kPropBrushStyle},
+    {IDD_BRUSH_PAGE, IDC_BRUSH_COLOR, "Color", kPropBrushColor},
+    {IDD_BRUSH_PAGE, IDC_BRUSH_SCALE, "Scale", kPropBrushScale},
+    {IDD_BRUSH_PAGE, IDC_BRUSH_ANGLE, "Angle", kPropBrushAngle},
+    {IDD_BRUSH_PAGE, IDC_HATCH_CROSS, "Crossed", kPropHatchCross},
+    {IDD_BRUSH_PAGE, IDC_DRAW_WINDING, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
+    {IDD_BRUSH_PAGE, IDC_DRAW_ALTERNATE, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
+    {IDD_TEXT_PAGE, IDC_FONT_FACE, "Font", kPropTextFont},
+    {IDD_TEXT_PAGE, IDC_FONT_SIZE, "Height", kPropTextSize},
+    {IDD_TEXT_PAGE, IDC_FONT_STYLE, "Style", kPropTextStyle, 3, kFontStyles},
+    {IDD_TEXT_PAGE, IDC_TEXT_COLOR, "Color", kPropPenColor},
+    {IDD_TEXT_PAGE, IDC_STRIKETHROUGH, "Strikethrough", kPropTextStyle, 4},
+    {IDD_TEXT_PAGE, IDC_HIDDEN, "Hidden", kPropTextStyle, 8},
+    {IDD_TEXT_PAGE, IDC_ALL_CAPS, "All caps", kPropTextStyle, 0x40},
+    {IDD_TEXT_PAGE, IDC_UNDERLINE, "Underline", kPropTextStyle, 0x100},
+    {IDD_TEXT_PAGE, IDC_TEXT_BOX, "Text box", kPropTextStyle, 0x1000},
+    {IDD_TEXT_PAGE, IDC_JUSTIFY_LEFT, "Justification", kPropTextFormat, kAllBits, kJustifications},
+    {IDD_TEXT_PAGE, IDC_JUSTIFY_CENTER, "Justification", kPropTextFormat, kAllBits, kJustifications},
+    {IDD_TEXT_PAGE, IDC_JUSTIFY_RIGHT, "Justification", kPropTextFormat, kAllBits, kJustifications}};
+
+// The field that a window belongs to, which may be the edit of a combo; null if it is none.
+const Field* FieldOf(HWND window) {
+    const COrloPropertySheet* sheet = SheetAround(window);
+    CPropertyPage* page = sheet ? sheet->GetActivePage() : nullptr;
+    if (!page || !::IsChild(page->m_hWnd, window)) return nullptr;
+    while (::GetParent(window) != page->m_hWnd)
+        window = ::GetParent(window);
+    const int control = ::GetDlgCtrlID(window);
+    for (const Field& field : kFields)
+        if (field.control == control && sheet->FindPage(field.pageTemplate) == page) return &field;
+    return nullptr;
+}
+
+bool IsOverDrawing(HWND window) {
+    COrloPropertySheet* sheet = SheetAround(window);
+    return sheet && sheet->IsKindOf(RUNTIME_CLASS(CGraphicPropertySheet)) &&
+           (static_cast<CGraphicPropertySheet*>(sheet)->GetGraphicFlags() & kNoStylePart);
+}
+
+std::string HintFor(HWND window, const Document& document) {
+    const Field* field = FieldOf(window);
+    if (!field || !IsOverDrawing(window)) return "";
+    std::vector<ValueCount> counts =
+        CountValues(document.Drawing(), document.Selected().Members(), field->property, field->bits);
+    if (field->words)
+        for (ValueCount& count : counts)
+            count.value = field->words[std::stoi(count.value)];
+    return counts.empty() ? "" : std::string(field->name) + ": " + CountsText(counts);
+}
+
+} // namespace
+
+FieldHints::~FieldHints() {
+    if (m_tip) ::DestroyWindow(m_tip);
+}
+
+bool FieldHints::Create(HWND owner) {
+    m_tip =
+        ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
+                          0, 0, 0, owner, nullptr, nullptr, nullptr);
+    return m_tip != nullptr;
+}
+
+void FieldHints::Watch(const MSG& message, const Document* document) {
+    if (!document) return;
+    const HWND focus = ::GetFocus();
+    if (focus != m_focused && SheetAround(focus)) {
+        m_focused = focus;
+        const std::string hint = HintFor(focus, *document);
+        if (!hint.empty()) m_show(hint);
+    }
+    if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) ShowTip(message, *document);
+}
+
+// The tip is made for one window at a time; what it says is new with each coming of the pointer.
+void FieldHints::ShowTip(const MSG& message, const Document& document) {
+    TOOLINFOA tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND;
+    if (message.hwnd != m_hovered) {
+        tool.uId = reinterpret_cast<UINT_PTR>(m_hovered);
+        ::SendMessageA(m_tip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+        m_hovered = message.hwnd;
+        std::string hint = HintFor(m_hovered, document);
+        tool.uId = reinterpret_cast<UINT_PTR>(m_hovered);
+        tool.lpszText = hint.data();
+        if (!hint.empty()) ::SendMessageA(m_tip, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+    ::SendMessageA(m_tip, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+}
