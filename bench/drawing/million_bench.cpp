@@ -90,7 +90,7 @@ public:
         AfxGetThread()->m_pMainWnd = m_frame;
         m_frame->ShowWindow(SW_SHOW);
         const double before = HeapBytes();
-        m_frame->Show(Document::Open(Utf8(m_path.c_str()), [](int) {}));
+        m_frame->Show(Document::Open(Utf8(m_path.c_str()), [](int) { return true; }));
         Paint();
         m_bytes = HeapBytes() - before - static_cast<double>(fs::file_size(m_path));
     }

@@ -80,7 +80,7 @@ protected:
 
     std::mt19937 random{3};
     const DrawingFile file{Drawing().c_str()};
-    const std::unique_ptr<Document> document = Document::Open(file.Path(), [](int) {});
+    const std::unique_ptr<Document> document = Document::Open(file.Path(), [](int) { return true; });
     Camera camera;
     KeptPicture picture{camera, kEveryPictureIsSlow};
 };
