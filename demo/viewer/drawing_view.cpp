@@ -53,7 +53,7 @@ CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
 CDrawingView::~CDrawingView() = default;
 
 BOOL CDrawingView::Create(CWnd* parent, UINT id) {
-    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(), parent, id);
+    return CWnd::Create(nullptr, "Drawing", WS_CHILD | WS_VISIBLE, CRect(), parent, id);
 }
 
 void CDrawingView::SetDocument(Document* document) {
@@ -144,6 +144,7 @@ void CDrawingView::ClearSelection() {
 }
 
 void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
+    if (!m_client.MayChangeSelection()) return;
     m_document->Selected().Apply(graphics, way);
     ShowSelectionChange();
 }
