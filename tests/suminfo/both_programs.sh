@@ -69,8 +69,13 @@ done
 for file in documents/*-* missing.doc; do
     for what in rc thumbnail "thumbnail --size 60x50"; do compare $what "$file" out; done
 done
-for file in streams/*.bin texts/name*; do compare rc --stream "$file" out; done
-for file in streams/*Summary*.bin; do compare thumbnail --stream "$file" out; done
+every() { # NUMBER FILES...: each start of the Windows program takes its time
+    local step=$1 i
+    shift
+    for ((i = 1; i <= $#; i += step)); do printf '%s\n' "${!i}"; done
+}
+for file in $(every 2 streams/*.bin texts/name*); do compare rc --stream "$file" out; done
+for file in $(every 2 streams/*Summary*.bin); do compare thumbnail --stream "$file" out; done
 
 document=documents/test11--695187.doc
 echo "no compound file" >text.doc

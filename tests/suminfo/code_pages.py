@@ -5,9 +5,10 @@ import struct
 import sys
 
 USER_DEFINED = bytes.fromhex("05d5cdd59c2e1b10939708002b2cf9ae")
-KNOWN = [0, 1, 2, 3, 37, 437, 500, 708, 720, 737, 775, *range(850, 870), 874, 875, 932, 936, 949, 950, 1026, 1200, 1201,
-         *range(1250, 1259), 1361, *range(10000, 10083), 12000, 20127, 20866, 20932, 20949, 21866, *range(28591, 28606),
-         50220, 54936, 65000, 65001]
+KNOWN = [0, 1, 2, 3, 37, 437, 500, 708, 720, 737, 775, 850, 852, *range(855, 858), *range(860, 867), 869, 874, 875, 932, 936,
+         949, 950, 1026, 1200, 1201, *range(1250, 1259), 1361, *range(10000, 10009), 10010, 10017, 10021, 10029, 10079, 10081,
+         10082, 20127, 20866, 20932, 20949, 21866, *range(28591, 28600), 28603, 28605, 50220, 65000, 65001]
+UNKNOWN = [10018, 28600]  # searched for in the system's files at each conversion, which takes its time
 
 PAIRED = {932, 936, 949, 950, 1200, 1361, 10001, 10002, 10003, 10008, 20932, 20949}
 
@@ -37,7 +38,7 @@ def stream(code_page, values, names=()):
 
 folder = pathlib.Path(sys.argv[1])
 folder.mkdir()
-for code_page in KNOWN:
+for code_page in KNOWN + UNKNOWN:
     singles = [bytes([byte]) for byte in range(1, 256)]
     leads = range(0x81, 0xFF, 5) if code_page in PAIRED else []
     pairs = [bytes([lead, second]) for lead in leads for second in range(0x40, 0xFF, 7)]
