@@ -69,8 +69,15 @@ std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
     parts_.erase(std::next(found).base());
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
+    released->ForgetSource();
     InvalidateExtents();
     return released;
+}
+
+void Graphic::ForgetSource() {
+    source = kNoSource;
+    for (const auto& part : parts_)
+        part->ForgetSource();
 }
 
 const Graphic& Graphic::Top() const {

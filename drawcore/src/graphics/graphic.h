@@ -114,6 +114,7 @@ private:
     friend class UndoLog;
     friend class Block;
 
+    void ForgetSource();          // it is no longer where its record says
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
     std::vector<std::unique_ptr<Graphic>> parts_;
