@@ -176,6 +176,22 @@ TEST_F(SaveStructure, HoldsBlocksThatTheProgramHasMade) {
     });
 }
 
+TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
+    const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
+    TableStruct* blocks = BlocksFromDrawing(drawing.get());
+    GraphicStruct* content = BlockGetGraphic(blocks, AddBlock(drawing.get(), "Part"));
+    WriteProperty(content, kPropInfo, std::string("of the whole"));
+    EXPECT_EQ(Write(drawing), kSaveFailed);
+    EXPECT_EQ(message, "block \"Part\": the file has no place for properties of the block as a whole");
+    WriteProperty(content, kPropInfo, std::string());
+    GraphicStruct* group = GraphicAdd(content, GraphicCopyEx(content, 0, 0, 7));
+    EXPECT_EQ(Write(drawing), kSaveFailed);
+    EXPECT_EQ(message, "block \"Part\": a group of graphics was added, which the file can't hold");
+    GraphicDelete(content, group);
+    GraphicDispose(&group);
+    EXPECT_EQ(Write(drawing), kSaveDone) << message;
+}
+
 TEST_F(SaveStructure, SaysWhetherSomethingIsUnsaved) {
     const OwnedDrawing drawing = Open(kDrawings + "acadsharp-sample-AC1032.dxf");
     DrawingStruct* const d = drawing.get();

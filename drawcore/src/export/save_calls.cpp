@@ -96,9 +96,10 @@ std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressRepor
     StructureExport structure(drawing, structurePatch);
     structure.Write();
     if (!structurePatch.IsChanged() && !IsTouched(drawing)) return std::nullopt;
-    const std::string structured = structurePatch.Finish();
-    dxf::DrawingPatch patch(structured, structurePatch.IsChanged() ? dxf::Read(structured, {}).Tables()
-                                                                   : source.known.Tables());
+    const bool restructured = structurePatch.IsChanged();
+    const std::string other = restructured ? structurePatch.Finish() : std::string();
+    dxf::DrawingPatch patch(restructured ? std::string_view(other) : text,
+                            restructured ? dxf::Read(other, {}).Tables() : source.known.Tables());
     ChangeExport(drawing, structure, patch).Write();
     ChangedSource changed;
     changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
