@@ -7,6 +7,7 @@
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/save/drawing_patch.h"
 #include "drawcore/src/save/save_error.h"
+#include "drawcore/src/save/structure_patch.h"
 
 namespace {
 
@@ -29,8 +30,28 @@ void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entitie
         look.text.font = "Verdana";
         const drawcore::Matrix placement =
             drawcore::Matrix::Scaling({2, -3, 4}) * drawcore::Matrix::Translation({1, 2, 3});
-        patch.Change(entity.offset, look, &placement);
+        patch.Change(entity.offset, look, {&placement, nullptr});
     }
+}
+
+// Takes every other entity out and adds some; what is left has moved as it says.
+void CheckStructure(std::string_view text, const dxf::Document& drawing) {
+    dxf::StructurePatch patch(text, drawing.Tables());
+    dxf::Block block;
+    block.name = "made";
+    block.entities.emplace_back().shape = dxf::Circle{{1, 2, 0}, 3};
+    patch.AddBlock(block);
+    for (size_t i = 0; i < drawing.entities.size(); i += 2)
+        patch.Remove(drawing.entities[i].offset);
+    dxf::Entity line;
+    line.shape = dxf::Line{{1, 2, 3}, {4, 5, 6}};
+    const size_t added = patch.Add(line, nullptr);
+    const std::string changed = patch.Finish();
+    const std::vector<dxf::Entity> after = dxf::Read(changed, {}).entities;
+    if (after.size() != drawing.entities.size() / 2 + 1 || after.back().offset != patch.PlaceOf(added))
+        std::abort();
+    for (size_t i = 1; i < drawing.entities.size(); i += 2)
+        if (after[i / 2].offset != patch.Moved(drawing.entities[i].offset)) std::abort();
 }
 
 } // namespace
@@ -49,6 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         dxf::DrawingPatch patch(text, drawing.Tables());
         ChangeAll(patch, drawing.entities);
         changed = patch.Finish();
+        CheckStructure(text, drawing);
     } catch (const dxf::SaveError&) {
         return 0; // said, and nothing is written
     } catch (const dxf::ReadError&) {

@@ -143,6 +143,11 @@ StyleBook::Examples StyleBook::ExamplesOf(const std::vector<GraphicStruct*>& gra
     return {first(kPropPenWidth), first(kPropBrushStyle), first(kPropTextFont)};
 }
 
+StyleBook::Parts StyleBook::PartsOf(uint16_t id) const {
+    const auto known = m_parts.find(id);
+    return known != m_parts.end() ? known->second : Parts{true, true, true};
+}
+
 StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics) {
     const Examples examples = ExamplesOf(graphics);
     return {examples.pen != nullptr, examples.brush != nullptr, examples.text != nullptr};
@@ -168,7 +173,7 @@ uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruc
 uint16_t StyleBook::TakeAdded() {
     for (const uint16_t id : All()) {
         if (m_parts.count(id)) continue;
-        Enter(id, m_parts.at(m_current));
+        Enter(id, PartsOf(m_current));
         return id;
     }
     return 0;
@@ -206,7 +211,7 @@ void StyleBook::Restore(uint16_t id, GraphicStruct* copy) {
 
 void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const {
     const Samples samples(Content(m_current));
-    const Parts& parts = m_parts.at(m_current);
+    const Parts parts = PartsOf(m_current);
     for (GraphicStruct* graphic : graphics) {
         if (graphic->bType == kGraphicText) {
             if (parts.text) CopyProperties(samples.text, graphic, kText);

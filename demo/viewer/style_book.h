@@ -62,6 +62,7 @@ public:
 
 private:
     void Enter(uint16_t id, Parts parts);
+    Parts PartsOf(uint16_t id) const; // of a style that was in the file: all
 
     DrawingStruct* m_drawing;
     std::map<uint16_t, Parts> m_parts;

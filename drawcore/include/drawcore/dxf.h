@@ -33,9 +33,15 @@ enum { kSaveOverChanged = 1 };
 //
 // kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened
 // from, and another program has changed it since; nothing was written. kSaveFailed: message (size bytes with the NUL) says
-// why, and no file was changed: the drawing comes from no file, graphics were added or removed, the disk is full, another
-// program holds the file ...
+// why, and no file was changed: the drawing comes from no file, the version of the file has no such entity, the disk is full,
+// another program holds the file ...
 // kSaveCancelled: the listener, which may be null, has cancelled, and no file was changed.
-// Properties of graphics and the places of insertions are saved, also within blocks; blocks that a program has made are not.
+// Saved are properties of graphics, the places of insertions, vertices that were moved, and what was added or removed: graphics,
+// and blocks with theirs.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
                                 char* message, int size);
+
+// Whether the drawing has become another than its file holds, by steps of its undo log, by graphics or blocks that were added
+// or removed, or by changes within blocks; undo and redo can come back to what is saved. 0 for a drawing that comes from no
+// file.
+DRAWCORE_API int DrawingIsModified(DrawingStruct*);

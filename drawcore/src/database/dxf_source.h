@@ -3,19 +3,32 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "drawcore/src/dxf/document.h"
 
 namespace drawcore {
 
+class Drawing;
+
 struct DxfSource {
     DxfSource(std::string text, const dxf::Document& document)
         : bytes(std::move(text)), known(document.Tables()) {}
 
+    // The drawing is what the file holds.
+    void NoteContents(const Drawing& drawing);
+    // Whether it has become another since: by steps of its undo log, by what was added or removed, within its blocks.
+    bool IsOutdated(const Drawing& drawing) const;
+
     std::string bytes;
     dxf::Document known; // header and tables
     std::filesystem::path path;
-    size_t graphics = 0; // that were made from it
+    std::vector<uint32_t> graphics;  // that were made from it: where their records are, rising
+    std::vector<std::string> blocks; // likewise, by their names in the drawing
+
+private:
+    uint32_t undoMark_ = 0;
+    size_t contentsMark_ = 0;
 };
 
 } // namespace drawcore

@@ -26,13 +26,16 @@ std::wstring Utf16FromCodePage(std::string_view text) {
     return Utf16(text, CP_ACP);
 }
 
-std::string Utf8FromCodePage(std::string_view text) {
-    const std::wstring wide = Utf16FromCodePage(text);
-    std::string narrow(wide.size() * 3, '\0'); // a unit makes three bytes at the most
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()),
+std::string Utf8FromUtf16(std::wstring_view text) {
+    std::string narrow(text.size() * 3, '\0'); // a unit makes three bytes at the most
+    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
                                            narrow.data(), static_cast<int>(narrow.size()), nullptr, nullptr);
     narrow.resize(static_cast<size_t>(size));
     return narrow;
+}
+
+std::string Utf8FromCodePage(std::string_view text) {
+    return Utf8FromUtf16(Utf16FromCodePage(text));
 }
 
 std::string CodePageFromUtf8(std::string_view text) {

@@ -8,6 +8,7 @@ namespace drawcore {
 
 std::wstring Utf16FromUtf8(std::string_view text);
 std::wstring Utf16FromCodePage(std::string_view text);
+std::string Utf8FromUtf16(std::wstring_view text);
 std::string Utf8FromCodePage(std::string_view text);
 
 // A character that the code page lacks becomes its number, as in "\U+4E57": texts that differ remain different.

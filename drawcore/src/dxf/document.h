@@ -68,6 +68,8 @@ struct Block {
     Vec3 base;
     int flags = 0;
     std::vector<Entity> entities;
+    OwnData own;                 // of its BLOCK record
+    uint32_t begin = 0, end = 0; // of its BLOCK and its ENDBLK record in the text of the file
 };
 
 // Something that was left out or mended; the drawing was opened nevertheless.

@@ -52,6 +52,7 @@ const OwnValue* FindOwn(const Entity& entity, std::string_view name);
 
 // Own values that are not properties of the sheet.
 constexpr char kOwnPlacement[] = "Placement"; // of an insertion: ends of the three axes, and the origin
+constexpr char kOwnStyleTree[] = "StyleName"; // of a block: the tree of styles that its contents belong to
 
 // Numbers that differ by rounding only.
 bool Near(double a, double b);

@@ -113,29 +113,32 @@ private:
         static const Field<Block> kFields[] = {{2, &Block::name}, {10, &Block::base}, {70, &Block::flags}};
         const uint32_t line = tag_.line;
         Block head;
+        head.begin = static_cast<uint32_t>(tag_.offset);
         std::string_view name;
+        in_.TakeOwn(); // of the record before
         while (in_.NextTag()) {
             if (tag_.code == 2) name = tag_.value;
             in_.SetField(kFields, head, tag_);
         }
+        if (const Apart<OwnData> own = in_.TakeOwn()) head.own = *own;
         if (in_.TakeUnsound())
             in_.Report(line, "the base point of block " + Quoted(name) +
                                  " has no place in a drawing; the origin is taken");
         constexpr int kExternal = 4;
         if (head.flags & kExternal)
             in_.Report(line, "block " + Quoted(name) + " is in another file, which is not opened");
-        std::vector<Entity> entities;
         while (!tag_.Is(0, "ENDBLK")) {
             if (tag_.Is(0, "BLOCK") || AtSectionEnd())
                 throw ReadError(tag_.line,
                                 "block " + Quoted(name) + " of line " + std::to_string(line) + " has no end");
-            entities_.Read(entities);
+            entities_.Read(head.entities);
         }
+        head.end = static_cast<uint32_t>(tag_.offset);
         in_.tags.SkipRecord();
         Block& block = in_.blocks.Declare(name);
-        block.base = head.base;
-        block.flags = head.flags;
-        block.entities = std::move(entities);
+        head.name = block.name;
+        head.declared = true;
+        block = std::move(head);
     }
 
     void ReadEntities() {
@@ -161,7 +164,8 @@ Document Document::Tables() const {
     tables.lineTypes = lineTypes;
     tables.textStyles = textStyles;
     for (const Block& block : blocks)
-        tables.blocks.push_back({block.name, block.declared, block.base, block.flags, {}});
+        tables.blocks.push_back(
+            {block.name, block.declared, block.base, block.flags, {}, block.own, block.begin, block.end});
     return tables;
 }
 

@@ -6,6 +6,8 @@
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/export/look_export.h"
+#include "drawcore/src/export/structure_export.h"
+#include "drawcore/src/graphics/ellipse_graphic.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
@@ -45,7 +47,7 @@ public:
         if (a.GetKind() != b.GetKind() || a.bType != b.bType) return Differ("the kind");
         if (a.layer != Of(layers_, b.layer)) return Differ(kPropLayer);
         if ((a.info ? *a.info : "") != (b.info ? *b.info : "")) return Differ(kPropInfo);
-        if (a.styleTree != Of(blocks_, b.styleTree) && IsInFile(a.styleTree)) return Differ(kPropStyleTree);
+        if (a.styleTree != Of(blocks_, b.styleTree) && IsBlock(a.styleTree)) return Differ(kPropStyleTree);
         return SamePen(a.pen, b.pen) && SameBrush(a.brush, b.brush) && SameShape(a, b);
     }
 
@@ -60,9 +62,7 @@ private:
     // Markers stand for themselves.
     static Id Of(const std::vector<Id>& same, Id id) { return id < same.size() ? same[id] : id; }
 
-    bool IsInFile(Id block) const {
-        return std::find(blocks_.begin(), blocks_.end(), block) != blocks_.end();
-    }
+    bool IsBlock(Id block) const { return saved_.Blocks() && saved_.Blocks()->At(block); }
 
     bool SamePen(const Pen& a, const Pen& b) {
         if (a.color != b.color) return Differ(kPropPenColor);
@@ -97,11 +97,37 @@ private:
         if (a.GetKind() == Kind::Text) return SameText(a, b);
         if (a.GetKind() == Kind::Insert)
             return SameInsert(static_cast<const InsertGraphic&>(a), static_cast<const InsertGraphic&>(b));
-        const auto* vertices = dynamic_cast<const VertexGraphic*>(&a);
-        const auto* others = dynamic_cast<const VertexGraphic*>(&b);
-        return !vertices ||
-               (others && vertices->vertices == others->vertices && vertices->closed == others->closed) ||
+        if (a.GetKind() == Kind::Curve) return SameCurve(a, b);
+        return SameVertices(static_cast<const VertexGraphic&>(a), static_cast<const VertexGraphic&>(b)) ||
                Differ("its vertices");
+    }
+
+    // Whether the first vertex is drawn says nothing.
+    static bool SameVertices(const VertexGraphic& a, const VertexGraphic& b) {
+        const auto same = [](const Vertex& one, const Vertex& other) {
+            return Near(one.Position(), other.Position()) && Near(one.bulge, other.bulge) &&
+                   Near(one.startWidth, other.startWidth) && Near(one.endWidth, other.endWidth);
+        };
+        const auto alike = [](const Vertex& one, const Vertex& other) { return one.wFlags == other.wFlags; };
+        return a.closed == b.closed && a.vertices.size() == b.vertices.size() &&
+               std::equal(a.vertices.begin(), a.vertices.end(), b.vertices.begin(), same) &&
+               (a.vertices.empty() ||
+                std::equal(a.vertices.begin() + 1, a.vertices.end(), b.vertices.begin() + 1, alike));
+    }
+
+    // A curve that was read is never changed; one that was added may run in the other direction.
+    bool SameCurve(const Graphic& a, const Graphic& b) {
+        const auto* arc = dynamic_cast<const EllipseGraphic*>(&a);
+        const auto* other = dynamic_cast<const EllipseGraphic*>(&b);
+        if (!arc || !other) return (!arc && !other) || Differ("its curve");
+        const auto point = [](const EllipseArc& of, double share) {
+            return of.At(of.start + of.sweep * share);
+        };
+        const bool backwards = !Near(point(arc->arc, 0.25), point(other->arc, 0.25));
+        for (const double share : {0.0, 0.25, 0.5, 0.75, 1.0})
+            if (!Near(point(arc->arc, share), point(other->arc, backwards ? 1 - share : share)))
+                return Differ("its curve");
+        return true;
     }
 
     bool SameText(const Graphic& a, const Graphic& b) {
@@ -163,6 +189,9 @@ private:
             const Block* block = blocks->At(read_.Blocks()->At(tables_.blocks[i])->name);
             if (!block || !SameMembers(block->Content(), document_.blocks[i].entities, true)) return false;
         }
+        for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
+            if (StructureExport::Has(*blocks->At(id)) && !read_.Blocks()->At(blocks->At(id)->name))
+                return false;
         return true;
     }
 
@@ -193,7 +222,7 @@ private:
     }
 
     static bool IsTouched(const Graphic& graphic) {
-        bool touched = graphic.touched;
+        bool touched = graphic.touched || graphic.source == Graphic::kNoSource;
         for (size_t i = 0; i < graphic.MemberCount(); ++i)
             touched = touched || IsTouched(*graphic.MemberAt(i));
         return touched;

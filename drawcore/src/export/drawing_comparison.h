@@ -16,7 +16,7 @@ namespace drawcore {
 using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 
 // The first difference, for the user; empty if there isn't one. Identifiers of entries may differ, and the last digits
-// of numbers. Blocks that the program has made, which the document lacks, do not count. Without a difference, sources has
+// of numbers. Without a difference, sources has
 // all graphics of the file. The text is what the document was read from.
 std::string FirstDifference(const Drawing& saved, std::string_view text, const dxf::Document& read,
                             Sources& sources, const dxf::Progress& progress);

@@ -1,6 +1,5 @@
 // The call with which a host program saves a drawing into a DXF file.
 
-#include <algorithm>
 #include <new>
 #include <optional>
 
@@ -10,9 +9,9 @@
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/export/drawing_comparison.h"
 #include "drawcore/src/export/look_export.h"
+#include "drawcore/src/export/structure_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
-#include "drawcore/src/import/import_tables.h"
 #include "drawcore/src/import/progress_report.h"
 #include "drawcore/src/save/file_replacement.h"
 #include "drawcore/src/save/save_error.h"
@@ -21,54 +20,63 @@ using namespace drawcore;
 
 namespace {
 
-// Carries what was touched into the text.
+// Carries the looks of what was touched into the text, and where it was moved to.
 class ChangeExport {
 public:
-    ChangeExport(const Drawing& drawing, dxf::DrawingPatch& patch)
-        : drawing_(drawing), patch_(patch), looks_(drawing, patch) {}
+    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch)
+        : drawing_(drawing), structure_(structure), patch_(patch), looks_(drawing, patch) {}
 
     void Write() {
         const BlockTable* blocks = drawing_.Blocks();
         WriteMembers(drawing_.Root());
         for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
-            if (IsInFile(*blocks->At(id))) WriteMembers(blocks->At(id)->Content());
-        if (count_ != drawing_.source->graphics || hasOthers_)
-            throw dxf::SaveError("graphics were added or removed, which the file can't take");
+            if (structure_.Has(*blocks->At(id))) WriteMembers(blocks->At(id)->Content());
     }
-    bool WasTouched() const { return touched_; }
 
 private:
-    bool IsInFile(const Block& block) const {
-        return std::any_of(
-            patch_.Known().blocks.begin(), patch_.Known().blocks.end(), [&](const dxf::Block& known) {
-                return known.declared && FoldName(HostName(known.name)) == FoldName(block.name);
-            });
-    }
-
     void WriteMembers(const Graphic& group) {
         for (size_t i = 0; i < group.MemberCount(); ++i) {
-            ++count_;
-            Write(*group.MemberAt(i));
-            WriteMembers(*group.MemberAt(i));
+            const Graphic& graphic = *group.MemberAt(i);
+            if (graphic.touched || graphic.source == Graphic::kNoSource) Write(graphic);
+            WriteMembers(graphic);
         }
     }
 
     void Write(const Graphic& graphic) {
-        hasOthers_ = hasOthers_ || graphic.source == Graphic::kNoSource;
-        if (!graphic.touched || hasOthers_) return;
-        touched_ = true;
-        const auto* insert =
-            graphic.GetKind() == Kind::Insert ? static_cast<const InsertGraphic*>(&graphic) : nullptr;
-        const Matrix placement = insert ? insert->Placement() : Matrix();
-        patch_.Change(graphic.source, looks_.LookOf(graphic), insert ? &placement : nullptr);
+        dxf::EntityPlace place;
+        Matrix placement;
+        std::vector<Vec3> positions;
+        if (graphic.GetKind() == Kind::Insert) {
+            placement = static_cast<const InsertGraphic&>(graphic).Placement();
+            place.placement = &placement;
+        } else if (const auto* list = dynamic_cast<const VertexGraphic*>(&graphic)) {
+            for (const Vertex& vertex : list->vertices)
+                positions.push_back(vertex.Position());
+            place.vertices = &positions;
+        }
+        patch_.Change(structure_.PlaceOf(graphic), looks_.LookOf(graphic), place);
     }
 
     const Drawing& drawing_;
+    const StructureExport& structure_;
     dxf::DrawingPatch& patch_;
     LookExport looks_;
-    size_t count_ = 0;
-    bool touched_ = false, hasOthers_ = false;
 };
+
+bool IsTouched(const Graphic& graphic) {
+    bool touched = graphic.touched;
+    for (size_t i = 0; i < graphic.MemberCount() && !touched; ++i)
+        touched = IsTouched(*graphic.MemberAt(i));
+    return touched;
+}
+
+bool IsTouched(const Drawing& drawing) {
+    const BlockTable* blocks = drawing.Blocks();
+    bool touched = IsTouched(drawing.Root());
+    for (Id id = blocks ? blocks->First() : kNoId; id && !touched; id = blocks->Next(id))
+        touched = IsTouched(blocks->At(id)->Content());
+    return touched;
+}
 
 // The shares of 1000 that are done then.
 constexpr int kPatched = 200, kReadBack = 500, kCompared = 700;
@@ -84,10 +92,15 @@ struct ChangedSource {
 std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressReport& report) {
     const DxfSource& source = *drawing.source;
     const std::string_view text = dxf::TextOf(source.bytes);
-    dxf::DrawingPatch patch(text, source.known.Tables());
-    ChangeExport changes(drawing, patch);
-    changes.Write();
-    if (!changes.WasTouched()) return std::nullopt;
+    dxf::StructurePatch structurePatch(text, source.known.Tables());
+    StructureExport structure(drawing, structurePatch);
+    structure.Write();
+    if (!structurePatch.IsChanged() && !IsTouched(drawing)) return std::nullopt;
+    const bool restructured = structurePatch.IsChanged();
+    const std::string other = restructured ? structurePatch.Finish() : std::string();
+    dxf::DrawingPatch patch(restructured ? std::string_view(other) : text,
+                            restructured ? dxf::Read(other, {}).Tables() : source.known.Tables());
+    ChangeExport(drawing, structure, patch).Write();
     ChangedSource changed;
     changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
     report(kPatched);
@@ -124,6 +137,7 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, co
     file.Write(changed ? changed->bytes : source.bytes, report.Part(kCompared, 1000));
     file.TakePlace(); // from here on nothing is cancelled
     if (changed) TakeOver(std::move(*changed), source);
+    source.NoteContents(drawing);
     source.path = path;
     return kSaveDone;
 }
@@ -152,4 +166,9 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         CopyText(error.what(), message, size);
     }
     return kSaveFailed;
+}
+
+int DrawingIsModified(DrawingStruct* drawing) {
+    const Drawing* found = Drawing::Find(drawing);
+    return found && found->source && found->source->IsOutdated(*found);
 }

@@ -73,8 +73,15 @@ std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
     released->indexed_ = false;
+    released->ForgetSource();
     InvalidateExtents();
     return released;
+}
+
+void Graphic::ForgetSource() {
+    source = kNoSource;
+    for (const auto& part : parts_)
+        part->ForgetSource();
 }
 
 const Graphic& Graphic::Top() const {

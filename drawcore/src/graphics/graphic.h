@@ -120,6 +120,7 @@ private:
     friend class Block;
     friend class PlaceIndex;
 
+    void ForgetSource();          // it is no longer where its record says
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
     std::vector<std::unique_ptr<Graphic>> parts_;

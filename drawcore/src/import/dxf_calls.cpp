@@ -5,7 +5,6 @@
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/dxf_import.h"
 #include "drawcore/src/import/progress_report.h"
 
@@ -14,21 +13,6 @@ using namespace drawcore;
 namespace {
 
 constexpr int kReadingShare = 700; // of 1000: reading takes longer than making the drawing
-
-size_t CountMembers(const Graphic& group) {
-    size_t count = group.MemberCount();
-    for (size_t i = 0; i < group.MemberCount(); ++i)
-        count += CountMembers(*group.MemberAt(i));
-    return count;
-}
-
-size_t CountGraphics(const Drawing& drawing) {
-    const BlockTable& blocks = *drawing.Blocks();
-    size_t count = CountMembers(drawing.Root());
-    for (Id id = blocks.First(); id; id = blocks.Next(id))
-        count += CountMembers(blocks.At(id)->Content());
-    return count;
-}
 
 std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) {
     const ProgressReport report(listener);
@@ -41,7 +25,7 @@ std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) 
                               CodePageFromUtf8(finding.text).c_str());
     drawing->source = std::make_unique<DxfSource>(std::move(bytes), document);
     drawing->source->path = std::filesystem::absolute(path);
-    drawing->source->graphics = CountGraphics(*drawing);
+    drawing->source->NoteContents(*drawing);
     report(1000);
     return drawing;
 }

@@ -1,6 +1,8 @@
 // The order in which a document becomes a drawing.
 #include "drawcore/src/import/dxf_import.h"
 
+#include "drawcore/src/database/encoding.h"
+#include "drawcore/src/dxf/look.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/entity_import.h"
 
@@ -38,6 +40,9 @@ public:
 
 private:
     void FillBlock(const dxf::Block& from, Block& block) {
+        for (const dxf::OwnValue& own : from.own)
+            if (own.name == dxf::kOwnStyleTree)
+                block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
         for (const dxf::Entity& entity : from.entities) {
             Advance();
             entities_.AddTo(block.Content(), entity, true);

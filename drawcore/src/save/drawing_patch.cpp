@@ -26,14 +26,15 @@ Entity DrawingPatch::EntityAt(size_t offset) {
     return std::move(read[0]);
 }
 
-void DrawingPatch::Change(size_t offset, const Look& wanted, const Matrix* placement) {
+void DrawingPatch::Change(size_t offset, const Look& wanted, const EntityPlace& place) {
     const auto moved = moved_.find(offset);
     LookWriter writer(*this, offset);
     if (moved != moved_.end()) {
         writer.Move(moved->second);
         moved_.erase(moved);
     }
-    if (placement) writer.Place(*placement);
+    if (place.placement) writer.Place(*place.placement);
+    if (place.vertices) writer.MoveVertices(*place.vertices);
     writer.Write(wanted);
 }
 

@@ -20,6 +20,15 @@ namespace dxf {
 
 using drawcore::Matrix;
 
+// Where an entity is wanted; null: where it is.
+struct EntityPlace {
+    // Of an insertion, from the block's coordinates (without its base point) to those of the space that it lies in. Its
+    // attributes move with it, even those without a change of their own.
+    const Matrix* placement = nullptr;
+    // Of lines and polylines, in the world, as many as it has.
+    const std::vector<Vec3>* vertices = nullptr;
+};
+
 class DrawingPatch {
 public:
     // The text that the document was read from (without a mark of UTF-8); of the document the header and the tables count.
@@ -42,9 +51,8 @@ public:
     Entity EntityAt(size_t offset);
     Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
 
-    // At most one call for each entity. placement: of an insertion, from the block's coordinates (without its base
-    // point) to those of the space that it lies in. Its attributes move with it, even those without a call of their own.
-    void Change(size_t offset, const Look& wanted, const Matrix* placement = nullptr);
+    // At most one call for each entity.
+    void Change(size_t offset, const Look& wanted, const EntityPlace& place = {});
 
     bool IsChanged() const { return !patch_.IsEmpty(); }
     // The changed text; nothing can be changed afterwards.

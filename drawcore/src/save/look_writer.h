@@ -11,9 +11,11 @@ class LookWriter {
 public:
     LookWriter(DrawingPatch& drawing, size_t offset);
 
-    // Before Write, at most once: the entity is moved, or an insertion is placed anew.
+    // Before Write, at most once: the entity is moved, an insertion is placed anew, vertices are elsewhere.
     void Move(const Matrix& motion);
     void Place(const Matrix& placement);
+    // Those of the graphic that is made of the entity, in its order. What can't be moved stays.
+    void MoveVertices(const std::vector<Vec3>& to);
 
     Look Now() const { return LookOf(drawing_.Known(), entity_); }
     void Write(const Look& wanted);
@@ -58,6 +60,11 @@ private:
     void PutText(const MText& now);
     void PutParagraphs(const std::string& text);
     void CheckText(std::string_view stored) const;
+
+    void MoveCorners(const Face& face, const std::vector<Vec3>& to);
+    void MovePolyline(Polyline& polyline, const std::vector<Vec3>& to);
+    void MoveVertexRecords(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool flat);
+    void PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace);
 
     void PutPlacement(Insert& insert, const Matrix& placement);
     void MoveArray(Insert& insert, const Matrix& moved);

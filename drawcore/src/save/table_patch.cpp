@@ -15,6 +15,7 @@ namespace {
 constexpr int kHandle = 5;
 constexpr int kDimensionStyleHandle = 105;
 constexpr int kOwner = 330;
+constexpr char kBlockRecord[] = "BLOCK_RECORD";
 
 std::string Hex(uint64_t number) {
     char text[20];
@@ -39,8 +40,11 @@ void TablePatch::NoteHandle(const Tag& tag) {
 void TablePatch::ScanTables(TagReader& tags) {
     const Tag& tag = tags.Current();
     Table* table = nullptr;
+    bool isBlockRecord = false;
     while (!tags.Next().Is(0, "ENDSEC")) {
         NoteHandle(tag);
+        if (tag.code == 0) isBlockRecord = table && tag.Is(0, kBlockRecord);
+        if (isBlockRecord) NoteBlockRecord(tag);
         if (tag.Is(0, "TABLE")) {
             const size_t head = tag.offset;
             tags.Next();
@@ -64,6 +68,21 @@ void TablePatch::ScanTables(TagReader& tags) {
     tablesEnd_ = tag.offset;
 }
 
+// Its handle comes before its name.
+void TablePatch::NoteBlockRecord(const Tag& tag) {
+    if (tag.code == 0) blockRecord_ = {{}, {}, tag.offset, true};
+    if (tag.code == kHandle) blockRecord_.handle = tag.Trimmed();
+    if (tag.code != 2) return;
+    Record& record = blockRecordNames_.Declare(tag.value);
+    record.handle = blockRecord_.handle;
+    record.begin = blockRecord_.begin;
+}
+
+void TablePatch::NoteSection(const Tag& tag) {
+    if (tag.Is(0, "ENDSEC") && section_ == "BLOCKS") sections_.blocksEnd = tag.offset;
+    if (tag.Is(0, "ENDSEC") && section_ == "ENTITIES") sections_.entitiesEnd = tag.offset;
+}
+
 void TablePatch::Scan() {
     if (scanned_) return;
     scanned_ = true;
@@ -73,18 +92,21 @@ void TablePatch::Scan() {
     while (!tag.Is(0, "EOF")) {
         if (tag.Is(0, "SECTION")) {
             const size_t section = tag.offset;
-            tags.Next();
+            section_ = tags.Next().Trimmed();
+            if (section_ == "ENTITIES") sections_.entities = section;
             const bool isHead = tag.Is(2, "HEADER") || tag.Is(2, "CLASSES");
             if (!isHead && !firstBody_) firstBody_ = section;
             if (tag.Is(2, "TABLES")) ScanTables(tags);
-        } else if (tag.Is(9, "$HANDSEED")) {
+        } else if (tag.Is(9, "$HANDSEED") && section_ == "HEADER") {
             tags.Next();
             seed_ = Group{tag.code, tag.value, tag.offset, tags.Offset(), 0, false};
         } else {
             NoteHandle(tag);
+            NoteSection(tag);
         }
         tags.Next();
     }
+    sections_.fileEnd = tag.offset;
     if (!firstBody_) firstBody_ = tag.offset;
     if (!seed_) return;
     if (const auto seed = HandleOf(Tag{kHandle, seed_->value}.Trimmed()); seed && *seed > 0)
@@ -97,6 +119,40 @@ std::string TablePatch::TakeHandle() {
         throw SaveError("the drawing has no handle left for what has to be added to its tables");
     handleTaken_ = true;
     return Hex(++highest_);
+}
+
+bool TablePatch::HasHandles() {
+    Scan();
+    return HasMarkers() || highest_ > 0;
+}
+
+const TablePatch::Sections& TablePatch::FindSections() {
+    Scan();
+    return sections_;
+}
+
+TablePatch::Record& TablePatch::BlockRecordOf(const std::string& name) {
+    Scan();
+    return blockRecords_[blockRecordNames_.FindUtf8(name)];
+}
+
+std::string TablePatch::BlockRecord(const std::string& name) {
+    return BlockRecordOf(name).handle;
+}
+
+std::string TablePatch::AddBlockRecord(const std::string& name) {
+    if (!HasMarkers()) return {};
+    Values values = {{2, name}};
+    if (HasOwners()) values.push_back({340, "0"}); // no layout
+    return Add(kBlockRecord, "AcDbBlockTableRecord", values);
+}
+
+void TablePatch::RemoveBlockRecord(const std::string& name) {
+    const Record& record = BlockRecordOf(name);
+    if (!record.declared) return;
+    const Progress none;
+    TagReader tags(patch_.Text(), none);
+    patch_.Replace(record.begin, RecordPatch(patch_, tags, record.begin).End() - record.begin, {});
 }
 
 bool TablePatch::HasApplication(const std::string& name) {
@@ -117,6 +173,7 @@ TablePatch::Table& TablePatch::NeedTable(const char* name) {
 }
 
 std::string TablePatch::LinesOf(const Values& values) {
+    Scan();
     const Progress none;
     TagReader tags(patch_.Text(), none);
     const RecordPatch form(patch_, tags, tablesEnd_.value_or(*firstBody_));
@@ -126,15 +183,18 @@ std::string TablePatch::LinesOf(const Values& values) {
     return lines;
 }
 
-void TablePatch::Add(const char* name, const char* marker, const Values& values, const Values& extended) {
+std::string TablePatch::Add(const char* name, const char* marker, const Values& values,
+                            const Values& extended) {
     Table& table = NeedTable(name);
     const Progress none;
     TagReader tags(patch_.Text(), none);
     std::optional<RecordPatch> sample;
     if (table.sample) sample.emplace(patch_, tags, *table.sample);
     Values record = {{0, name}};
-    if (sample ? sample->Find(kHandle) != nullptr : HasMarkers()) record.push_back({kHandle, TakeHandle()});
-    const bool owned = sample ? sample->Find(kOwner) != nullptr : version_ >= "AC1015";
+    std::string handle;
+    if (sample ? sample->Find(kHandle) != nullptr : HasMarkers()) handle = TakeHandle();
+    if (!handle.empty()) record.push_back({kHandle, handle});
+    const bool owned = sample ? sample->Find(kOwner) != nullptr : HasOwners();
     if (owned && !table.handle.empty()) record.push_back({kOwner, table.handle});
     if (sample ? sample->Find(kSubclass) != nullptr : HasMarkers()) {
         record.push_back({kSubclass, "AcDbSymbolTableRecord"});
@@ -148,6 +208,7 @@ void TablePatch::Add(const char* name, const char* marker, const Values& values,
     record.insert(record.end(), extended.begin(), extended.end());
     table.newLines += LinesOf(record);
     ++table.count;
+    return handle;
 }
 
 void TablePatch::AddApplication(const std::string& name) {
@@ -205,13 +266,14 @@ void TablePatch::Finish() {
     std::string newTables;
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID"}) { // a layer's line type comes before it
+    for (const char* name :
+         {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // a layer's line type comes before it
         Table& table = tables_[name];
         if (table.newLines.empty()) continue;
         if (table.isNew) {
             Values head = {{0, "TABLE"}, {2, name}};
             if (!table.handle.empty()) head.push_back({kHandle, table.handle});
-            if (!table.handle.empty() && version_ >= "AC1015") head.push_back({kOwner, "0"});
+            if (!table.handle.empty() && HasOwners()) head.push_back({kOwner, "0"});
             if (HasMarkers()) head.push_back({kSubclass, "AcDbSymbolTable"});
             head.push_back({70, std::to_string(table.count)});
             newTables += LinesOf(head) + table.newLines + LinesOf({{0, "ENDTAB"}});

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "drawcore/src/dxf/document.h"
-#include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/dxf/names.h"
 #include "drawcore/src/save/record_patch.h"
 
 namespace dxf {
@@ -23,6 +23,24 @@ public:
     void AddLineType(const LineType& type);
     void AddTextStyle(const TextStyle& style);
     bool HasApplication(const std::string& name);
+    // Of a block: the handle of its record, empty where the version or the file has none.
+    std::string AddBlockRecord(const std::string& name);
+    std::string BlockRecord(const std::string& name);
+    void RemoveBlockRecord(const std::string& name);
+
+    // Where the sections of blocks and entities end (their ENDSEC), where that of entities begins, and the end of the file.
+    struct Sections {
+        std::optional<size_t> blocksEnd, entities, entitiesEnd;
+        size_t fileEnd = 0;
+    };
+    const Sections& FindSections();
+    // For records of other sections. With subclass markers, a record has a handle too.
+    bool HasMarkers() const { return version_ >= "AC1012"; }
+    bool HasOwners() const { return version_ >= "AC1015"; }
+    bool HasHandles();
+    std::string TakeHandle();
+    using Values = std::vector<RecordPatch::Value>;
+    std::string LinesOf(const Values& values);
 
     // The tables' heads and the next free handle: after the last record. SaveError if there is no handle left.
     void Finish();
@@ -36,16 +54,20 @@ private:
         std::string handle;
         std::string newLines;
     };
-    using Values = std::vector<RecordPatch::Value>;
+    struct Record {
+        std::string name, handle;
+        size_t begin = 0;
+        bool declared = false;
+    };
 
     void Scan();
     void ScanTables(TagReader& tags);
+    void NoteBlockRecord(const Tag& tag);
+    void NoteSection(const Tag& tag);
     void NoteHandle(const Tag& tag);
-    std::string TakeHandle();
+    Record& BlockRecordOf(const std::string& name);
     Table& NeedTable(const char* name);
-    void Add(const char* name, const char* marker, const Values& values, const Values& extended = {});
-    std::string LinesOf(const Values& values);
-    bool HasMarkers() const { return version_ >= "AC1012"; }
+    std::string Add(const char* name, const char* marker, const Values& values, const Values& extended = {});
 
     TextPatch& patch_;
     const TextDecoder& decoder_;
@@ -53,6 +75,11 @@ private:
     bool scanned_ = false;
     std::map<std::string, Table> tables_;
     std::vector<std::string> applications_;
+    std::vector<Record> blockRecords_;
+    Names<Record> blockRecordNames_{blockRecords_, decoder_};
+    Record blockRecord_; // that is being scanned
+    Sections sections_;
+    std::string section_;             // that is being scanned
     std::optional<size_t> tablesEnd_; // of the ENDSEC of the section
     std::optional<size_t> firstBody_; // where such a section would begin
     std::optional<Group> seed_;       // the header's next free handle

@@ -21,8 +21,16 @@ std::string TextPatch::Result() {
         result.append(text_, at, edit.at - at);
         result += edit.with;
         at = edit.at + edit.length;
+        shifts_.push_back(static_cast<ptrdiff_t>(result.size()) - static_cast<ptrdiff_t>(at));
     }
     return result.append(text_, at);
+}
+
+size_t TextPatch::Moved(size_t at) const {
+    const auto behind = std::partition_point(edits_.begin(), edits_.end(),
+                                             [at](const Edit& edit) { return edit.at + edit.length <= at; });
+    if (behind == edits_.begin()) return at;
+    return at + static_cast<size_t>(shifts_[static_cast<size_t>(behind - edits_.begin()) - 1]);
 }
 
 } // namespace dxf

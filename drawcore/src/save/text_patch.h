@@ -1,6 +1,7 @@
 // Changes of a text, kept as pieces to be replaced: whatever none of them covers stays byte for byte.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,8 @@ public:
     bool IsEmpty() const { return edits_.empty(); }
     std::string_view Text() const { return text_; }
     std::string Result();
+    // After Result: where what was there is in it, behind all that was inserted there.
+    size_t Moved(size_t at) const;
 
 private:
     struct Edit {
@@ -29,6 +32,7 @@ private:
     };
     std::string_view text_;
     std::vector<Edit> edits_;
+    std::vector<ptrdiff_t> shifts_; // of what comes behind each edit, once they are in order
 };
 
 } // namespace dxf

@@ -1,0 +1,87 @@
+// What of a drawing is in its file.
+#include "drawcore/src/database/dxf_source.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+
+namespace drawcore {
+
+namespace {
+
+void NoteMembers(const Graphic& group, std::vector<uint32_t>& sources) {
+    for (size_t i = 0; i < group.MemberCount(); ++i) {
+        const Graphic& member = *group.MemberAt(i);
+        if (member.source != Graphic::kNoSource) sources.push_back(member.source);
+        NoteMembers(member, sources);
+    }
+}
+
+// A number for what the undo log does not see.
+class ContentsMark {
+public:
+    explicit ContentsMark(const Drawing& drawing) {
+        for (size_t i = 0; i < drawing.Root().MemberCount(); ++i)
+            Mix(static_cast<const void*>(drawing.Root().MemberAt(i)));
+        const BlockTable* table = drawing.Blocks();
+        for (Id id = table ? table->First() : kNoId; id; id = table->Next(id))
+            if (table->At(id)->name != kPreviewBlock) Mix(*table->At(id));
+    }
+    size_t Number() const { return number_; }
+
+private:
+    template <class Value>
+    void Mix(const Value& value) {
+        number_ = number_ * 31 + std::hash<Value>()(value);
+    }
+    void Mix(const Block& block) {
+        const char* tree = block.Content().pszStyleName;
+        Mix(block.name);
+        Mix(std::string(tree ? tree : ""));
+        MixMembers(block.Content());
+    }
+    void MixMembers(const Graphic& group) {
+        Mix(group.MemberCount());
+        for (size_t i = 0; i < group.MemberCount(); ++i) {
+            Graphic& member = *group.MemberAt(i);
+            Look look = member.GetLook();
+            look.lastPage = 0; // of no file
+            number_ = number_ * 31 + LookHash()(look);
+            for (size_t place = 0; const Vertex* vertex = member.VertexAt(place); ++place) {
+                Mix(vertex->x);
+                Mix(vertex->y);
+                Mix(vertex->z);
+            }
+            MixMembers(member);
+        }
+    }
+
+    size_t number_ = 0;
+};
+
+} // namespace
+
+bool DxfSource::IsOutdated(const Drawing& drawing) const {
+    return drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
+}
+
+void DxfSource::NoteContents(const Drawing& drawing) {
+    undoMark_ = drawing.Undo().Mark();
+    contentsMark_ = ContentsMark(drawing).Number();
+    graphics.clear();
+    blocks.clear();
+    NoteMembers(drawing.Root(), graphics);
+    const BlockTable& table = *drawing.Blocks();
+    for (Id id = table.First(); id; id = table.Next(id)) {
+        const Block& block = *table.At(id);
+        if (block.name == kPreviewBlock) continue;
+        blocks.push_back(block.name);
+        NoteMembers(block.Content(), graphics);
+    }
+    std::sort(graphics.begin(), graphics.end());
+}
+
+} // namespace drawcore

@@ -1,0 +1,101 @@
+// Vertices that were moved: of lines, polylines, faces, points and leaders.
+#include <algorithm>
+
+#include "drawcore/src/dxf/placement.h"
+#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace dxf {
+
+namespace {
+
+bool Near(const Vec3& a, const Vec3& b) {
+    return dxf::Near(a.x, b.x) && dxf::Near(a.y, b.y) && dxf::Near(a.z, b.z);
+}
+
+} // namespace
+
+void LookWriter::MoveVertices(const std::vector<Vec3>& to) {
+    if (auto* line = std::get_if<Line>(&entity_.shape); line && to.size() == 2) {
+        PutPoint(10, line->start, to[0]);
+        PutPoint(11, line->end, to[1]);
+    } else if (auto* mark = std::get_if<PointMark>(&entity_.shape); mark && to.size() == 2) {
+        PutPoint(10, mark->at, to[0]);
+    } else if (auto* face = std::get_if<Apart<Face>>(&entity_.shape); face && to.size() == 5) {
+        MoveCorners(**face, to);
+    } else if (auto* leader = std::get_if<Leader>(&entity_.shape)) {
+        PutPoints(leader->vertices, to, true);
+    } else if (auto* polyline = std::get_if<Polyline>(&entity_.shape)) {
+        MovePolyline(*polyline, to);
+    }
+}
+
+void LookWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
+    Matrix back;
+    if (face.filled && !ObjectSystem(entity_.normal).Invert(back)) return;
+    constexpr int kAround[] = {10, 11, 12, 13}, kCrosswise[] = {10, 11, 13, 12};
+    for (size_t i = 0; i < 4; ++i)
+        PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i], back.Apply(to[i]));
+}
+
+void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
+    const bool flat = polyline.kind == Polyline::Kind::flat;
+    const Matrix system = flat ? ObjectSystem(entity_.normal) : Matrix();
+    Matrix back;
+    if (!(flat || polyline.kind == Polyline::Kind::spatial) || polyline.vertices.empty() ||
+        to.size() != polyline.vertices.size() || !system.Invert(back))
+        return;
+    std::vector<Vec3> was, now;
+    for (size_t i = 0; i < to.size(); ++i) {
+        was.push_back(polyline.vertices[i].at);
+        const bool moved = !Near(system.Apply(was.back()), to[i]);
+        now.push_back(moved ? back.Apply(to[i]) : was.back());
+        polyline.vertices[i].at = now.back();
+    }
+    const double height = now[0].z;
+    const auto isOff = [height](const Vec3& point) { return !dxf::Near(point.z, height); };
+    if (flat && std::any_of(now.begin(), now.end(), isOff))
+        throw SaveError("a polyline has left its plane, which the file can't hold");
+    const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
+    if (isLight) {
+        PutReal(38, was[0].z, height, {43, 70, 90});
+        PutPoints(was, now, false);
+        return;
+    }
+    if (flat) PutPoint(10, {0, 0, was[0].z}, {0, 0, height});
+    MoveVertexRecords(was, now, flat);
+}
+
+// The groups 10, 20 and perhaps 30 that a record has once for each point.
+void LookWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace) {
+    if (was.size() != now.size()) return;
+    size_t begun = 0;
+    for (const Group& group : record_.Groups()) {
+        if (group.attached) continue;
+        if (group.code == 10) ++begun;
+        const size_t i = begun - 1;
+        const double Vec3::*axis = group.code == 10              ? &Vec3::x
+                                   : group.code == 20            ? &Vec3::y
+                                   : group.code == 30 && inSpace ? &Vec3::z
+                                                                 : nullptr;
+        if (axis && begun > 0 && begun <= now.size() && !dxf::Near(was[i].*axis, now[i].*axis))
+            record_.SetValue(group, RealText(now[i].*axis));
+    }
+}
+
+void LookWriter::MoveVertexRecords(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool flat) {
+    TagReader& tags = drawing_.in_.tags;
+    size_t at = record_.End();
+    for (size_t i = 0; i < now.size() && tags.Seek(at).Is(0, "VERTEX"); ++i) {
+        RecordPatch vertex(drawing_.patch_, tags, at);
+        const auto put = [&](int code, double before, double after) {
+            if (!dxf::Near(before, after)) vertex.Set(code, RealText(after), {code - 10, 10});
+        };
+        put(10, was[i].x, now[i].x);
+        put(20, was[i].y, now[i].y);
+        if (!flat || vertex.Find(30)) put(30, was[i].z, now[i].z);
+        at = vertex.End();
+    }
+}
+
+} // namespace dxf
