@@ -2,6 +2,7 @@
 # The program for this machine and what only this machine has: names of any bytes, pipes and devices in a folder, permissions.
 # And that it leaves work to the Windows program untouched. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
 set -euo pipefail
+here=$(dirname "$(realpath "$0")")
 program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4
 stream=$3/fn-et--SummaryInformation--b68908.bin
 
@@ -28,6 +29,13 @@ expect "its documents" "$(cut -d: -f1 out | uniq)" \
     "$(printf '%s\n' 'some/inner/a?mark.doc' some/inner/again.doc 'some/inner/latin\xe9.doc' 'some/inner/two\nlines.doc')"
 expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file of this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: can\'t be opened: not a compound file'
+
+# Moments as another calendar has them.
+PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "$here/moments.py" moments moments.txt
+suminfo show --stream moments | sed -n 's/^    property [0-9]*  *//p' >out
+diff out moments.txt | head -n 5
+cmp -s out moments.txt || fail "moments differ"
+rm moments moments.txt
 
 # A reader that has seen enough, and a disk that is full.
 for ((i = 0; i < 2000; i++)); do echo -ne 'some/inner/plan.doc\0'; done >names
