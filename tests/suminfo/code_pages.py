@@ -36,17 +36,30 @@ def stream(code_page, values, names=()):
     return struct.pack("<HHI16xI", 0xFFFE, 0, 0x20006, 1) + USER_DEFINED + struct.pack("<I", 48) + section
 
 
-folder = pathlib.Path(sys.argv[1])
-folder.mkdir()
-for code_page in KNOWN + UNKNOWN:
-    singles = [bytes([byte]) for byte in range(1, 256)]
-    leads = range(0x81, 0xFF, 5) if code_page in PAIRED else []
-    pairs = [bytes([lead, second]) for lead in leads for second in range(0x40, 0xFF, 7)]
-    (folder / f"page{code_page}").write_bytes(stream(code_page, [text(t) for t in singles + pairs + [b""]]))
+# UTF-8 and what isn't: longer forms than needed, halves of characters, past the last one, cut.
+SEQUENCES = ["c3a9", "c080", "c1bf", "e08080", "e09fbf", "e0a080", "eda080", "edbfbf", "ee8080", "f0808080", "f08fbfbf",
+             "f0908080", "f48fbfbf", "f4908080", "f5808080", "f8888080", "ff", "80", "c3", "e282", "f09f98", "c341", "efbfbe"]
+
 NAMES = {1251: ["Название", "ДАТА", "ёж"], 1252: ["Größe", "ÉTÉ", "Straße µ ÿ"], 1253: ["Όνομα", "ΣΊΓΜΑΣ ς"], 932: ["名前", "ＡＢＣ", "ソ表"],
          1254: ["İSTANBUL ı"], 65001: ["Ǆ ǅ ǆ ﬀ", "Ω Å K", "ſ"], 936: ["日期"]}
-for code_page, words in NAMES.items():
-    encoding = "utf-8" if code_page == 65001 else f"cp{code_page}"
-    for place, word in enumerate(words):
-        names = [(2, word.encode(encoding))]
-        (folder / f"name{code_page}-{place}").write_bytes(stream(code_page, [text(b"value")], names))
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1])
+    folder.mkdir()
+    for code_page in KNOWN + UNKNOWN:
+        singles = [bytes([byte]) for byte in range(1, 256)]
+        leads = range(0x81, 0xFF, 5) if code_page in PAIRED else []
+        pairs = [bytes([lead, second]) for lead in leads for second in range(0x40, 0xFF, 7)]
+        if code_page == 65001:
+            pairs = [bytes.fromhex(sequence) for sequence in SEQUENCES]
+        (folder / f"page{code_page}").write_bytes(stream(code_page, [text(t) for t in singles + pairs + [b""]]))
+    for code_page, words in NAMES.items():
+        encoding = "utf-8" if code_page == 65001 else f"cp{code_page}"
+        for place, word in enumerate(words):
+            names = [(2, word.encode(encoding))]
+            (folder / f"name{code_page}-{place}").write_bytes(stream(code_page, [text(b"value")], names))
+
+
+if __name__ == "__main__":
+    main()

@@ -105,8 +105,8 @@ TEST(DibDrawing, IsFittedIntoTheMiddle) {
 
 TEST(DibDrawing, ASmallerPictureHasTheMeanOfEachPart) {
     const ByteVector even =
-        With(Dib(4, 2, 8), {0x000000, 0x040810, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
-    EXPECT_EQ(Draw(even, 2, 1), (Drawn{0x03060C, 0xBFBFBF}));
+        With(Dib(4, 2, 8), {0x000000, 0x050A11, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
+    EXPECT_EQ(Draw(even, 2, 1), (Drawn{0x04080D, 0xBFBFBF}));
     // Each of two has one and a half.
     const ByteVector odd = With(Dib(3, 3, 8), {0, 0x0000FF}, {0, 1, 1, 0, 0, 1, 1, 0, 0, 1, 1, 0}).Build();
     EXPECT_EQ(Draw(odd, 2, 2), (Drawn{0x000055, 0x0000FF, 0x000055, 0x0000FF}));

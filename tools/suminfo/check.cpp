@@ -32,15 +32,15 @@ std::string Line(const std::string& place, const orlo::Finding& finding) {
 
 Report Check(const Source& source) {
     Report report;
+    const std::string file = OneLine(source.file);
     const SourceSets sets = SetsOf(source);
     for (const auto* all : {&sets.damage, &sets.damagedStreams})
         for (const std::string& damage : *all) {
-            report.text += source.file + ": damaged: " + damage + "\n";
+            report.text += file + ": damaged: " + damage + "\n";
             report.clean = false;
         }
     for (const NamedStream& stream : sets.streams) {
-        const std::string place =
-            source.file + (stream.name.empty() ? "" : ": " + StreamNameShown(stream.name));
+        const std::string place = file + (stream.name.empty() ? "" : ": " + StreamNameShown(stream.name));
         std::vector<orlo::Finding> findings;
         orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
         for (const orlo::Finding& finding : findings) {
@@ -49,8 +49,7 @@ Report Check(const Source& source) {
         }
     }
     if (report.clean)
-        report.text +=
-            source.file + (sets.streams.empty() ? ": no property sets\n" : ": nothing irregular\n");
+        report.text += file + (sets.streams.empty() ? ": no property sets\n" : ": nothing irregular\n");
     return report;
 }
 

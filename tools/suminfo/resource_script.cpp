@@ -91,7 +91,7 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     OnFile(script, [&] { file.emplace(script); });
     CRCFile rc(file->HandOver());
     try {
-        Print(set, sound.Held(), "Sections of " + source.file, rc);
+        Print(set, sound.Held(), "Sections of " + OneLine(source.file), rc);
         rc.Close();
     } catch (CFileException* full) {
         full->Delete();

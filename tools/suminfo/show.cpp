@@ -78,7 +78,7 @@ void AddTable(const NamedStream& stream, Report& report) {
 } // namespace
 
 Report ShowTable(const Source& source) {
-    Report report = {source.file + "\n"};
+    Report report = {OneLine(source.file) + "\n"};
     const SourceSets sets = SetsOf(source);
     if (sets.streams.empty()) report.text += "  no property sets\n";
     for (const NamedStream& stream : sets.streams)

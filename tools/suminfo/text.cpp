@@ -7,6 +7,18 @@
 #include "orlo/propset/code_page.h"
 
 namespace suminfo {
+namespace {
+
+// Of the first character, in bytes; 1 for a byte that begins none.
+size_t CharacterSize(std::string_view utf8) {
+    const auto lead = static_cast<unsigned char>(utf8[0]);
+    const size_t size = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 1;
+    for (size_t i = 1; i < size; ++i)
+        if (i == utf8.size() || (utf8[i] & 0xC0) != 0x80) return 1;
+    return size;
+}
+
+} // namespace
 
 std::string Utf8(std::u16string text) {
     const auto isHalf = [&text](size_t i, char16_t first) {
@@ -35,19 +47,19 @@ std::string StreamNameShown(std::string_view name) {
 
 std::string Printable(std::string_view utf8, const char* escape) {
     std::string printable;
-    for (size_t i = 0; i < utf8.size(); ++i) {
+    for (size_t i = 0, size = 0; i < utf8.size(); i += size) {
         unsigned code = static_cast<unsigned char>(utf8[i]);
+        size = CharacterSize(utf8.substr(i));
         const bool endsLine = code == '\n' || code == '\r';
-        // The second set of them, of two bytes.
-        const bool isLong =
-            code == 0xC2 && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xA0;
-        if (isLong) code = static_cast<unsigned char>(utf8[++i]);
-        if (isLong || code == 0x7F || (code < 0x20 && !endsLine)) {
+        if (size == 2 && code == 0xC2) code = static_cast<unsigned char>(utf8[i + 1]); // as its number
+        const bool isControl = (code < 0x20 && !endsLine) || code == 0x7F || (size == 2 && code < 0xA0);
+        const bool isStray = size == 1 && code >= 0x80; // in the name of a file, which may be any bytes
+        if (isControl || isStray) {
             char escaped[16];
             std::snprintf(escaped, sizeof escaped, escape, code);
             printable += escaped;
         } else {
-            printable += utf8[i];
+            printable += utf8.substr(i, size);
         }
     }
     return printable;

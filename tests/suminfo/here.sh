@@ -1,0 +1,68 @@
+#!/usr/bin/env bash
+# The program for this machine and what only this machine has: names of any bytes, pipes and devices in a folder, permissions.
+# And that it leaves work to the Windows program untouched. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
+set -euo pipefail
+here=$(dirname "$(realpath "$0")")
+program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4
+stream=$3/fn-et--SummaryInformation--b68908.bin
+
+fail() { printf '%s\n' "$*"; exit 1; }
+expect() { [ "$2" = "$3" ] || fail "$(printf '%s is\n%s\nand not\n%s' "$1" "$2" "$3")"; }
+suminfo() { timeout -k 5 30 "$program" "$@"; }
+ended() { local status=0; "$@" >out 2>err || status=$?; echo $status; }
+
+rm -rf "$folder"
+mkdir -p "$folder/some/inner"
+cd "$folder"
+for name in plan.doc 'a?mark.doc' $'latin\xE9.doc' $'two\nlines.doc'; do
+    cp "$document" "some/inner/$name"
+    chmod u+w "some/inner/$name"
+done
+mkfifo some/pipe.doc
+ln -s /dev/zero some/zero.doc
+ln -s nothing some/dangling.doc
+ln -s . some/itself
+ln -s plan.doc some/inner/again.doc
+
+expect "a folder's result" "$(ended suminfo check -r some)" 1 # irregular
+expect "its documents" "$(cut -d: -f1 out | uniq)" \
+    "$(printf '%s\n' 'some/inner/a?mark.doc' some/inner/again.doc 'some/inner/latin\xe9.doc' 'some/inner/two\nlines.doc')"
+expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file of this name"
+expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: can\'t be opened: not a compound file'
+
+# Moments as another calendar has them.
+PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "$here/moments.py" moments moments.txt
+suminfo show --stream moments | sed -n 's/^    property [0-9]*  *//p' >out
+diff out moments.txt | head -n 5
+cmp -s out moments.txt || fail "moments differ"
+rm moments moments.txt
+
+# A reader that has seen enough, and a disk that is full.
+for ((i = 0; i < 2000; i++)); do echo -ne 'some/inner/plan.doc\0'; done >names
+echo -ne 'missing.doc\0' >>names
+{ suminfo show @- <names 2>err || echo $? >status; } | head -n 1 >out
+expect "the first line" "$(cat out status err)" $'some/inner/plan.doc\n1'
+expect "a full disk" "$(suminfo show "$document" 2>&1 >/dev/full || echo $?)" $'suminfo: the output can\'t be written\n1'
+
+# The script takes the place of a file, with its permissions, and of nothing else.
+echo old >script.rc
+chmod 640 script.rc
+suminfo rc --stream "$stream" script.rc
+expect "permissions" "$(stat -c %a script.rc)" 640
+grep -q RCDATA script.rc || fail "no script"
+mkdir taken
+for target in taken /dev/full; do
+    expect "$target" "$(ended suminfo rc --stream "$stream" $target; cat err)" \
+        "$(printf "1\nsuminfo: $target: can't be replaced: access is denied, or the file is read-only")"
+done
+[ -c /dev/full ] || fail "the device is gone"
+expect "beside it" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
+
+# Three says that it is work for the other program.
+cp some/inner/plan.doc before.doc
+for line in "set some/inner/plan.doc title=x" "remove some/inner/plan.doc title" "copy $picture some/inner/plan.doc" \
+            "thumbnail $picture picture.png"; do # shellcheck disable=SC2086 # words
+    expect "$line" "$(ended suminfo $line; cat out err)" 3
+done
+cmp before.doc some/inner/plan.doc
+[ ! -e picture.png ] || fail "a picture was made"
