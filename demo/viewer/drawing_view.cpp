@@ -48,7 +48,7 @@ CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
 CDrawingView::~CDrawingView() = default;
 
 BOOL CDrawingView::Create(CWnd* parent, UINT id) {
-    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(), parent, id);
+    return CWnd::Create(nullptr, "Drawing", WS_CHILD | WS_VISIBLE, CRect(), parent, id);
 }
 
 void CDrawingView::SetDocument(Document* document) {
