@@ -67,7 +67,7 @@ void Paint(const Graphic& graphic, const Viewport& viewport, const Matrix& place
     const PixelDC device(viewport);
     const RECT& rect = device.Rect();
     const Drawing* drawing = DrawingFor(viewport, graphic);
-    if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 4.0;
+    if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 8.0;
     GdiPainter painter(viewport.dc, rect, settings);
     const Matrix matrix = placement * viewport.ToDevice() * device.FromViewport(viewport.rect);
     if (preview)
