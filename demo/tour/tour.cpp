@@ -17,6 +17,7 @@
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
+#include "demo/viewer/resource.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/style.h"
 #include "orlo/resources/resource.h"
@@ -224,7 +225,7 @@ void Tour::EditAllPages() {
 void Tour::SaveCopy() {
     m_user.Key(VK_ESCAPE);
     m_user.Key(VK_HOME);
-    m_frame.View().SetPaper(CDrawingView::kLightPaper);
+    m_frame.SendMessage(WM_COMMAND, ID_VIEW_LIGHT_PAPER);
     const std::string name = m_frame.GetDocument()->Name();
     const std::string copy = name.substr(0, name.rfind('.')) + "-edited.dxf";
     if (!m_frame.Save(m_folder + "\\" + copy)) throw std::runtime_error(copy + " could not be saved");
