@@ -34,11 +34,12 @@ bool IsOfLooks(UINT command) {
     return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_GUIDE && command != ID_VIEW_PROPERTIES;
 }
 
-// Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
+// Of the monitor that the window is on; null: the system's. Systems before Windows 10 know one resolution for all.
 int DpiOf(HWND window) {
     using Function = UINT(WINAPI*)(HWND);
     const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
-    if (found) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
+    if (found && window)
+        return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
     const WindowDC screen(nullptr);
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
@@ -105,8 +106,11 @@ BOOL CMainFrame::Create() {
 }
 
 BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.cx = 1000;
-    cs.cy = 740;
+    CRect work; // of the screen
+    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, static_cast<RECT*>(work), 0);
+    const int dpi = DpiOf(nullptr);
+    cs.cx = std::min(::MulDiv(1000, dpi, 96), work.Width());
+    cs.cy = std::min(::MulDiv(740, dpi, 96), work.Height());
     return CFrameWnd::PreCreateWindow(cs);
 }
 
