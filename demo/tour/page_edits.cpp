@@ -10,7 +10,9 @@
 
 namespace {
 
-constexpr int kDotsBrush = 8; // its place in the list: through the dots all that lies below is seen
+constexpr int kDiagonalLines =
+    5; // the brush's place in the list: between its lines all that lies below is seen
+constexpr const char* kWideApart = "60"; // the scale of these lines, over a whole drawing
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
 int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -60,7 +62,8 @@ constexpr PageEdit kEdits[] = {
      }},
     {"Brush", kPropBrushStyle,
      [](UserInput& user, HWND page) {
-         MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDotsBrush);
+         MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
+         TypeOver(user, page, IDC_BRUSH_SCALE, kWideApart);
      }},
     {"Text", kPropTextStyle,
      [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},

@@ -17,6 +17,7 @@
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
+#include "demo/viewer/resource.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/style.h"
 #include "orlo/resources/resource.h"
@@ -80,6 +81,7 @@ bool Tour::Play(const std::string& drawing) {
         TakePicture("all-selected");
         if (!EditAndUndo("all-changed", "all-undone", [this] { EditAllPages(); })) return false;
         SaveCopy();
+        ShowPaneAndLayers();
         return true;
     } catch (const std::exception& error) {
         Report(std::string("The tour ends here: ") + error.what());
@@ -223,12 +225,34 @@ void Tour::EditAllPages() {
 void Tour::SaveCopy() {
     m_user.Key(VK_ESCAPE);
     m_user.Key(VK_HOME);
-    m_frame.View().SetPaper(CDrawingView::kLightPaper);
+    m_frame.SendMessage(WM_COMMAND, ID_VIEW_LIGHT_PAPER);
     const std::string name = m_frame.GetDocument()->Name();
     const std::string copy = name.substr(0, name.rfind('.')) + "-edited.dxf";
     if (!m_frame.Save(m_folder + "\\" + copy)) throw std::runtime_error(copy + " could not be saved");
     Report("Save as " + copy + ".");
     TakePicture("saved");
+}
+
+// The pane over the next graphic that has a pen, and what it does to it.
+void Tour::ShowPaneAndLayers() {
+    Report("F4 opens the pane of properties; Tab selects the next graphic.");
+    m_user.Key(VK_F4);
+    m_user.Key(VK_TAB);
+    m_user.Key(VK_END);
+    TakePicture("pane");
+    Report("F6 moves into it, Ctrl+Tab to the next page, Enter applies.");
+    m_user.Key(VK_F6);
+    m_user.Key(VK_TAB, UserInput::kControl);
+    m_user.Key(VK_RETURN);
+    TakePicture("pane-page");
+    m_user.Key(VK_F6);
+    Report("Ctrl+L lists the layers.");
+    m_user.InDialog([this] { m_user.Key('L', UserInput::kControl); },
+                    [this](HWND) {
+                        m_user.Keys(VK_DOWN, 3);
+                        TakePicture("layers");
+                        m_user.Key(VK_ESCAPE);
+                    });
 }
 
 void Tour::EditPenPage(HWND sheet) {

@@ -1,6 +1,6 @@
 // A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the sheet, takes it
-// back and makes it again, makes a style by the wizard, then selects all and visits every page, and saves a copy; all by keys and mouse messages, with a picture
-// of each station and a report of what changed.
+// back and makes it again, makes a style by the wizard, selects all and visits every page, saves a copy, and shows the pane and
+// the layers; all by keys and mouse messages, with a picture of each station and a report of what changed.
 #pragma once
 
 #include <functional>
@@ -30,6 +30,7 @@ private:
     void MakeStyle();
     void EditAllPages();
     void SaveCopy();
+    void ShowPaneAndLayers();
     void EditPen();
     void EditPenPage(HWND sheet);
     void OpenPage(HWND sheet, const std::string& title);

@@ -106,8 +106,7 @@ void FieldHints::Watch(const MSG& message, const Document* document) {
     const HWND focus = ::GetFocus();
     if (focus != m_focused && SheetAround(focus)) {
         m_focused = focus;
-        const std::string hint = HintFor(focus, *document);
-        if (!hint.empty()) m_show(hint);
+        m_show(HintFor(focus, *document));
     }
     if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) ShowTip(message, *document);
 }

@@ -11,7 +11,7 @@ class Document;
 
 class FieldHints {
 public:
-    // show is called with the text of each field that gets the focus.
+    // show is called with the text of each field that gets the focus; empty if there is nothing to tell.
     explicit FieldHints(std::function<void(const std::string&)> show) : m_show(std::move(show)) {}
     ~FieldHints();
     FieldHints(const FieldHints&) = delete;

@@ -31,7 +31,7 @@ constexpr Row kRows[] = {{"Click", "select; Ctrl adds or takes away, Shift adds"
                          {"Middle button, arrows", "move the drawing"},
                          {"Ctrl+W", "line weights, or all lines thin"},
                          {"", ""},
-                         {"Ctrl+O, or drop a file", "open a drawing; Esc while it opens keeps the old one"},
+                         {"Ctrl+O, or drop a file", "open a drawing; Esc gives it up"},
                          {"Ctrl+S, Ctrl+Shift+S", "save it, under another name"},
                          {"F1", "in a sheet: help on its page"}};
 

@@ -6,14 +6,12 @@
 
 #include "demo/viewer/control_tables.h"
 #include "demo/viewer/counted.h"
-#include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/help.h"
 #include "demo/viewer/keys_dialog.h"
 #include "demo/viewer/layers_dialog.h"
 #include "demo/viewer/long_task.h"
 #include "demo/viewer/property_sheet.h"
-#include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
 #include "demo/viewer/style_commands.h"
 #include "drawcore/application.h"
@@ -23,11 +21,6 @@
 namespace {
 
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
-constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
-static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
-constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
-constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
-
 std::string ChangedText(int changed, const Document& document) {
     if (!changed) return "Nothing changed";
     std::string text = Counted(changed, "graphic") + " changed";
@@ -41,11 +34,12 @@ bool IsOfLooks(UINT command) {
     return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_GUIDE && command != ID_VIEW_PROPERTIES;
 }
 
-// Of the monitor that the window is on. Systems before Windows 10 know one resolution for all.
+// Of the monitor that the window is on; null: the system's. Systems before Windows 10 know one resolution for all.
 int DpiOf(HWND window) {
     using Function = UINT(WINAPI*)(HWND);
     const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
-    if (found) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
+    if (found && window)
+        return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
     const orlo::WindowDC screen(nullptr);
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
@@ -112,8 +106,11 @@ BOOL CMainFrame::Create() {
 }
 
 BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.cx = 1000;
-    cs.cy = 740;
+    CRect work; // of the screen
+    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, static_cast<RECT*>(work), 0);
+    const int dpi = DpiOf(nullptr);
+    cs.cx = std::min(::MulDiv(1000, dpi, 96), work.Width());
+    cs.cy = std::min(::MulDiv(740, dpi, 96), work.Height());
     return CFrameWnd::PreCreateWindow(cs);
 }
 
@@ -266,7 +263,7 @@ std::vector<KindCount> CMainFrame::SelectedKinds() const {
 
 void CMainFrame::OnSelectKind(UINT command) {
     const std::vector<KindCount> kinds = SelectedKinds();
-    const size_t place = command - kKindCommands.first;
+    const size_t place = command - ID_SELECT_KIND_FIRST;
     if (place < kinds.size()) m_view.SelectOnly(OfKind(m_document->Selected().Members(), kinds[place].kind));
 }
 
@@ -277,7 +274,7 @@ std::vector<LayerCount> CMainFrame::Layers() const {
 
 void CMainFrame::OnSelectLayer(UINT command) {
     const std::vector<LayerCount> layers = Layers();
-    const size_t place = command - kLayerCommands.first;
+    const size_t place = command - ID_SELECT_LAYER_FIRST;
     if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
 }
 
@@ -398,88 +395,4 @@ void CMainFrame::OnHelpGuide() {
 LRESULT CMainFrame::OnCommandHelp(WPARAM, LPARAM) {
     ShowHelp(::GetActiveWindow(), HelpTopicOf(::GetFocus()));
     return TRUE;
-}
-
-// ---- Menu
-
-bool CMainFrame::CanDo(UINT command) const {
-    switch (command) {
-    case ID_FILE_SAVE:
-    case ID_FILE_SAVE_AS:
-        return m_document != nullptr;
-    case ID_EDIT_UNDO:
-        return m_document && m_document->UndoSteps() > 0;
-    case ID_EDIT_REDO:
-        return m_document && m_document->RedoSteps() > 0;
-    case ID_STYLE_PROPERTIES:
-        return m_document && m_document->Styles().Current() != 0;
-    case ID_STYLE_APPLY:
-        return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
-    case ID_STYLE_NEW:
-    case ID_EDIT_SELECT_SIMILAR:
-    case ID_EDIT_PROPERTIES:
-    case ID_EDIT_SELECT_NONE:
-    case ID_VIEW_FIT_SELECTION:
-        return m_document && m_document->Selected().Count() > 0;
-    case ID_EDIT_SELECT_ALL:
-    case ID_EDIT_SELECT_NEXT:
-    case ID_EDIT_SELECT_PREVIOUS:
-    case ID_VIEW_ZOOM_IN:
-    case ID_VIEW_ZOOM_OUT:
-    case ID_VIEW_FIT_ALL:
-    case ID_VIEW_LAYERS:
-        return m_document != nullptr;
-    default:
-        return true;
-    }
-}
-
-// A submenu is known by its first item.
-bool CMainFrame::FillSubmenu(HMENU menu) {
-    const UINT command = ::GetMenuItemID(menu, 0);
-    std::vector<std::string> texts;
-    if (command == kRecentCommands.first) {
-        for (const std::string& path : RecentFiles::List())
-            texts.push_back(SystemText(path));
-        FillMenu(menu, kRecentCommands, texts, "None");
-        return true;
-    }
-    if (command == kKindCommands.first) {
-        for (const KindCount& kind : SelectedKinds())
-            texts.push_back(KindText(kind));
-        FillMenu(menu, kKindCommands, texts, "Nothing is selected");
-    } else if (command == kLayerCommands.first) {
-        for (const LayerCount& layer : Layers())
-            texts.push_back(layer.name + "\t" + std::to_string(layer.count));
-        FillMenu(menu, kLayerCommands, texts, "No graphics");
-    } else {
-        return false;
-    }
-    return true;
-}
-
-bool CMainFrame::IsChosen(UINT command) const {
-    switch (command) {
-    case ID_VIEW_DARK_PAPER:
-        return m_view.Paper() == CDrawingView::kDarkPaper;
-    case ID_VIEW_LIGHT_PAPER:
-        return m_view.Paper() == CDrawingView::kLightPaper;
-    case ID_VIEW_LINE_WEIGHTS:
-        return m_view.ShowsLineWeights();
-    case ID_VIEW_PROPERTIES:
-        return m_pane.IsOpen();
-    default:
-        return false;
-    }
-}
-
-LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
-    const HMENU menu = reinterpret_cast<HMENU>(wParam);
-    if (FillSubmenu(menu)) return 0;
-    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
-        const UINT command = ::GetMenuItemID(menu, i);
-        ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));
-        ::CheckMenuItem(menu, i, MF_BYPOSITION | (IsChosen(command) ? MF_CHECKED : MF_UNCHECKED));
-    }
-    return 0;
 }

@@ -83,10 +83,7 @@ void CPropertiesPane::Open() {
 void CPropertiesPane::Close() {
     if (!m_isOpen) return;
     ShowWindow(SW_HIDE);
-    if (m_document) {
-        m_document->DropGathered();
-        m_document->EndGathering();
-    }
+    if (m_document) m_document->EndGathering();
     m_isOpen = false;
     m_edited.reset();
 }

@@ -29,8 +29,7 @@ public:
 
     bool IsOpen() const { return m_isOpen; }
     void Open();
-    // Without an Apply: what was not applied is taken back.
-    void Close();
+    void Close(); // what was written stays; what was typed has been applied before, or is dropped
     int Width() const { return m_isOpen ? m_width : 0; } // pixels
 
     // Selection or graphics have changed: a new sheet comes as soon as the present message has been dealt with.

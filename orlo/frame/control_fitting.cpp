@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "orlo/frame/label_order.h"
 #include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
@@ -66,4 +67,5 @@ void FitControls(HWND page) {
         PassOverLabel(child);
         FitWidth(child, page, box);
     });
+    PutLabelsBeforeFields(page);
 }

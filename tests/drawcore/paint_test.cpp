@@ -56,6 +56,17 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     EXPECT_EQ(picture.Covered(50, 60, 50, 100), 6);
 }
 
+TEST_F(Paint, AWideOutlineIsClosedWhereItBegins) {
+    GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 60));
+    SetWhole(square, kPropScaleSystem, 0);
+    SetReal(square, kPropPenWidth, 10);
+    Draw();
+    for (const int x : {18, 82})
+        for (const int y : {18, 82})
+            EXPECT_EQ(picture.At(x, y), picture.At(50, 20)) << x << " " << y;
+    EXPECT_NE(picture.At(50, 20), kWhite);
+}
+
 TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Blue", nullptr);
     LayerSet(drawing, layer, kBlue, 0, 0);
@@ -412,7 +423,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimetre, 1);
     SetReal(sample, kPropPenWidth, 1000);
     picture.Draw(sample, 1);
-    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 25, 1) << "never more than a quarter of the pane";
+    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 12.5, 1) << "never more than an eighth of the pane";
     SetReal(sample, kPropPenWidth, 0);
     SetWhole(sample, kPropPenAlignment, 0);
     const double dashes[] = {3, -3};

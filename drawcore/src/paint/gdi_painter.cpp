@@ -154,7 +154,10 @@ void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key, b
         points_.pop_back();
         return AddDot(path.points[begin], key);
     }
-    const POINT last = points_.back();
+    const POINT last = points_.back(), first = points_[before];
+    // Where a wide line comes back to its start the device joins only what goes on.
+    const bool closed = last.x == first.x && last.y == first.y;
+    if (closed && key.width > 1) points_.push_back(points_[before + 1]);
     if (lastPixel) points_.push_back({last.x + 1, last.y});
     counts_.push_back(static_cast<DWORD>(points_.size() - before));
 }

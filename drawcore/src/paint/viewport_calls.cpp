@@ -72,7 +72,7 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
     const PixelDC device(viewport);
     const RECT& rect = device.Rect();
     const Drawing* drawing = DrawingFor(viewport, graphic);
-    if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 4.0;
+    if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 8.0;
     GdiPainter painter(viewport.dc, rect, settings);
     TraceTools tools(drawing);
     Trace trace(painter, tools, placement * viewport.ToDevice() * device.FromViewport(viewport.rect));

@@ -1,0 +1,99 @@
+// The main window's menu: what can be done and what is chosen as it opens, and the submenus that are made then.
+
+#include "demo/viewer/main_frame.h"
+
+#include "demo/viewer/drawing_menu.h"
+#include "demo/viewer/file_name.h"
+#include "demo/viewer/recent_files.h"
+#include "demo/viewer/resource.h"
+
+namespace {
+
+constexpr CommandRange kRecentCommands = {ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST};
+static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::kMost, "a command for each");
+constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
+constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
+
+} // namespace
+
+bool CMainFrame::CanDo(UINT command) const {
+    switch (command) {
+    case ID_FILE_SAVE:
+    case ID_FILE_SAVE_AS:
+        return m_document != nullptr;
+    case ID_EDIT_UNDO:
+        return m_document && m_document->UndoSteps() > 0;
+    case ID_EDIT_REDO:
+        return m_document && m_document->RedoSteps() > 0;
+    case ID_STYLE_PROPERTIES:
+        return m_document && m_document->Styles().Current() != 0;
+    case ID_STYLE_APPLY:
+        return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
+    case ID_STYLE_NEW:
+    case ID_EDIT_SELECT_SIMILAR:
+    case ID_EDIT_PROPERTIES:
+    case ID_EDIT_SELECT_NONE:
+    case ID_VIEW_FIT_SELECTION:
+        return m_document && m_document->Selected().Count() > 0;
+    case ID_EDIT_SELECT_ALL:
+    case ID_EDIT_SELECT_NEXT:
+    case ID_EDIT_SELECT_PREVIOUS:
+    case ID_VIEW_ZOOM_IN:
+    case ID_VIEW_ZOOM_OUT:
+    case ID_VIEW_FIT_ALL:
+    case ID_VIEW_LAYERS:
+        return m_document != nullptr;
+    default:
+        return true;
+    }
+}
+
+// A submenu is known by its first item.
+bool CMainFrame::FillSubmenu(HMENU menu) {
+    const UINT command = ::GetMenuItemID(menu, 0);
+    std::vector<std::string> texts;
+    if (command == kRecentCommands.first) {
+        for (const std::string& path : RecentFiles::List())
+            texts.push_back(SystemText(path));
+        FillMenu(menu, kRecentCommands, texts, "None");
+        return true;
+    }
+    if (command == kKindCommands.first) {
+        for (const KindCount& kind : SelectedKinds())
+            texts.push_back(KindText(kind));
+        FillMenu(menu, kKindCommands, texts, "Nothing is selected");
+    } else if (command == kLayerCommands.first) {
+        for (const LayerCount& layer : Layers())
+            texts.push_back(layer.name + "\t" + std::to_string(layer.count));
+        FillMenu(menu, kLayerCommands, texts, "No graphics");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool CMainFrame::IsChosen(UINT command) const {
+    switch (command) {
+    case ID_VIEW_DARK_PAPER:
+        return m_view.Paper() == CDrawingView::kDarkPaper;
+    case ID_VIEW_LIGHT_PAPER:
+        return m_view.Paper() == CDrawingView::kLightPaper;
+    case ID_VIEW_LINE_WEIGHTS:
+        return m_view.ShowsLineWeights();
+    case ID_VIEW_PROPERTIES:
+        return m_pane.IsOpen();
+    default:
+        return false;
+    }
+}
+
+LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {
+    const HMENU menu = reinterpret_cast<HMENU>(wParam);
+    if (FillSubmenu(menu)) return 0;
+    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+        const UINT command = ::GetMenuItemID(menu, i);
+        ::EnableMenuItem(menu, i, MF_BYPOSITION | (CanDo(command) ? MF_ENABLED : MF_GRAYED));
+        ::CheckMenuItem(menu, i, MF_BYPOSITION | (IsChosen(command) ? MF_CHECKED : MF_UNCHECKED));
+    }
+    return 0;
+}

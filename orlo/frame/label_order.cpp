@@ -1,0 +1,89 @@
+// Finding labels, and putting them in their place.
+
+#include "orlo/frame/label_order.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "orlo/win/child_windows.h"
+
+namespace {
+
+constexpr RECT kReach = {0, 0, 30, 12}; // dialog units from a label to its field, across and down
+
+struct Child {
+    HWND window;
+    RECT place;
+};
+
+enum class Role { Other, Field, Text, GroupBox };
+
+Role RoleOf(HWND child) {
+    constexpr LRESULT kNone = 0;
+    const LRESULT code = ::SendMessageA(child, WM_GETDLGCODE, 0, 0);
+    if (code != kNone && !(code & (DLGC_STATIC | DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
+        return Role::Field;
+    if (!(code & DLGC_STATIC) || ::GetWindowTextLengthA(child) == 0) return Role::Other;
+    char name[16] = "";
+    ::GetClassNameA(child, name, sizeof name);
+    return ::lstrcmpiA(name, "Button") == 0 ? Role::GroupBox : Role::Text;
+}
+
+bool IsWithin(const RECT& inner, const RECT& outer) {
+    return outer.left <= inner.left && inner.right <= outer.right && outer.top <= inner.top &&
+           inner.top <= outer.bottom; // the list of a combo reaches below
+}
+
+// How far a text is from the field that it stands before or above; negative: it does neither.
+int DistanceToText(const RECT& text, const RECT& field, const RECT& reach) {
+    const LONG middle = (text.top + text.bottom) / 2;
+    const LONG across = field.left - text.right, down = field.top - text.bottom;
+    const bool before = middle >= field.top && middle <= field.bottom && across >= 0 && across <= reach.right;
+    const bool above =
+        text.left < field.right && text.right > field.left && down >= 0 && down <= reach.bottom;
+    return before ? across : above ? down : -1;
+}
+
+const Child* LabelOf(const Child& field, const std::vector<Child>& texts, const std::vector<Child>& boxes,
+                     const RECT& reach) {
+    const Child* label = nullptr;
+    int nearest = 0;
+    for (const Child& text : texts) {
+        const int distance = DistanceToText(text.place, field.place, reach);
+        if (distance < 0 || (label && distance >= nearest)) continue;
+        label = &text;
+        nearest = distance;
+    }
+    if (label) return label;
+    const auto around = std::find_if(boxes.begin(), boxes.end(),
+                                     [&](const Child& box) { return IsWithin(field.place, box.place); });
+    return around != boxes.end() ? &*around : nullptr;
+}
+
+// A label that began a group of the arrow keys would begin one at its new place.
+void PutBefore(HWND label, HWND field) {
+    const HWND previous = ::GetWindow(field, GW_HWNDPREV);
+    if (previous == label) return;
+    ::SetWindowLongPtrA(label, GWL_STYLE, ::GetWindowLongPtrA(label, GWL_STYLE) & ~LONG_PTR{WS_GROUP});
+    ::SetWindowPos(label, previous ? previous : HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+}
+
+} // namespace
+
+void PutLabelsBeforeFields(HWND page) {
+    std::vector<Child> fields, texts, boxes;
+    ForEachChild(page, [&](HWND window) {
+        if (::GetParent(window) != page) return; // a part of a control
+        Child child = {window, {}};
+        ::GetWindowRect(window, &child.place);
+        const Role role = RoleOf(window);
+        if (role == Role::Field) fields.push_back(child);
+        if (role == Role::Text) texts.push_back(child);
+        if (role == Role::GroupBox) boxes.push_back(child);
+    });
+    RECT reach = kReach;
+    ::MapDialogRect(page, &reach);
+    for (const Child& field : fields)
+        if (const Child* label = LabelOf(field, texts, boxes, reach)) PutBefore(label->window, field.window);
+}
