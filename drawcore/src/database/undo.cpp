@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/graphic.h"
@@ -13,15 +14,15 @@ UndoLog::UndoLog() = default;
 UndoLog::~UndoLog() = default;
 
 bool UndoLog::Saved::IsDifferentNow() const {
-    return state ? !graphic->EqualState(*state) : !graphic->GetLook().HasSameProperties(*look);
+    return state ? !graphic->EqualState(*state) : !graphic->HasLook(*look);
 }
 
 void UndoLog::Saved::Restore() const {
-    if (state)
-        graphic->Restore(*state);
+    if (state) graphic->Restore(*state);
+    if (state || graphic->SetLook(*look))
+        graphic->ChangedShape();
     else
-        graphic->SetLook(*look);
-    graphic->ChangedShape();
+        graphic->ChangedLook();
 }
 
 // Drops what has not changed, and what is no longer needed once nothing is added.
@@ -29,8 +30,6 @@ void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
     saved.shrink_to_fit();
-    std::sort(saved.begin(), saved.end(),
-              [](const Saved& a, const Saved& b) { return std::less<>()(a.graphic, b.graphic); });
     constexpr size_t kNode =
         sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
     size = saved.size() * sizeof(Saved) + looks.size() * kNode;
@@ -45,7 +44,7 @@ UndoLog::Step UndoLog::Step::Present() const {
     present.mark = mark;
     for (const Saved& entry : saved) {
         if (entry.look)
-            present.Add(*entry.graphic, entry.graphic->GetLook());
+            present.Add(*entry.graphic);
         else if (entry.state)
             present.saved.push_back({entry.graphic, nullptr, entry.graphic->CloneState()});
     }
@@ -62,15 +61,24 @@ int UndoLog::Step::Restore() const {
     return restored;
 }
 
-void UndoLog::Step::Add(Graphic& graphic, const Look& look) {
-    saved.push_back({&graphic, &*looks.insert(look).first, nullptr});
+// Many look like the one before.
+void UndoLog::Step::Add(Graphic& graphic) {
+    const Look* look = saved.empty() ? nullptr : saved.back().look;
+    if (!look || look->lastPage != graphic.wLastPage || !graphic.HasLook(*look))
+        look = &*looks.insert(graphic.GetLook()).first;
+    saved.push_back({&graphic, look, nullptr});
+    sorted = false;
 }
 
+// Sorts when it is first asked: graphics seldom go.
 UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
+    const std::less<const Graphic*> before;
+    if (!std::exchange(sorted, true))
+        std::sort(saved.begin(), saved.end(),
+                  [&](const Saved& a, const Saved& b) { return before(a.graphic, b.graphic); });
     const auto found =
-        std::lower_bound(saved.begin(), saved.end(), &graphic, [](const Saved& entry, const Graphic* key) {
-            return std::less<const Graphic*>()(entry.graphic, key);
-        });
+        std::lower_bound(saved.begin(), saved.end(), &graphic,
+                         [&](const Saved& entry, const Graphic* key) { return before(entry.graphic, key); });
     return found != saved.end() && found->graphic == &graphic ? &*found : nullptr;
 }
 
@@ -171,7 +179,7 @@ void UndoLog::SaveLook(Graphic& graphic) {
     TellListener();
     if (InOpenStep(graphic)) return;
     Enter(graphic);
-    steps_.back().Add(graphic, graphic.GetLook());
+    steps_.back().Add(graphic);
 }
 
 void UndoLog::TellListener() const {

@@ -52,13 +52,14 @@ private:
         void Restore() const;
     };
     struct Step {
-        std::vector<Saved> saved; // by address of the graphics, once the step is closed
+        std::vector<Saved> saved;
+        bool sorted = false; // by address of the graphics; never as long as the step is open
         std::unordered_set<Look, LookHash> looks;
         size_t size = 0;   // bytes
         uint32_t mark = 0; // of the state that it leads to
 
         Saved* Find(const Graphic& graphic);
-        void Add(Graphic& graphic, const Look& look);
+        void Add(Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
         Step Present() const; // what the same graphics are now

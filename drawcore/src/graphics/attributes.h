@@ -60,9 +60,9 @@ struct Look {
 
     // Those of pen and brush aside.
     auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
-    bool HasSameProperties(const Look& other) const;
     bool operator==(const Look& other) const {
-        return lastPage == other.lastPage && HasSameProperties(other);
+        return lastPage == other.lastPage && pen == other.pen && brush == other.brush &&
+               Values() == other.Values();
     }
 };
 

@@ -166,13 +166,19 @@ Look Graphic::GetLook() const {
     return look;
 }
 
-void Graphic::SetLook(const Look& look) {
+bool Graphic::HasLook(const Look& look) const {
+    return pen == look.pen && brush == look.brush && layer == look.layer && styleTree == look.styleTree &&
+           (info ? *info == look.info : look.info.empty());
+}
+
+bool Graphic::SetLook(const Look& look) {
     pen = look.pen;
     brush = look.brush;
     layer = look.layer;
     styleTree = look.styleTree;
     info = look.info.empty() ? nullptr : std::make_unique<std::string>(look.info);
     wLastPage = look.lastPage;
+    return false;
 }
 
 void Graphic::RestoreAttributes(const Graphic& saved) {
@@ -181,7 +187,7 @@ void Graphic::RestoreAttributes(const Graphic& saved) {
 }
 
 bool Graphic::EqualAttributes(const Graphic& saved) const {
-    return GetLook().HasSameProperties(saved.GetLook());
+    return HasLook(saved.GetLook());
 }
 
 } // namespace drawcore

@@ -50,7 +50,8 @@ public:
     virtual size_t StateSize() const = 0;
     // The part of the state that properties set.
     virtual Look GetLook() const;
-    virtual void SetLook(const Look& look);
+    virtual bool HasLook(const Look& look) const; // lastPage aside
+    virtual bool SetLook(const Look& look);       // whether the shape is another now
 
     // The vertex at that place, null after the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }

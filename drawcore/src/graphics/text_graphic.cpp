@@ -82,12 +82,23 @@ Look TextGraphic::GetLook() const {
     return look;
 }
 
-void TextGraphic::SetLook(const Look& look) {
+bool TextGraphic::HasLetters(const Look& look) const {
+    return state.font == look.font && state.height == look.textHeight && state.style == look.textStyle &&
+           state.format == look.textFormat;
+}
+
+bool TextGraphic::HasLook(const Look& look) const {
+    return Graphic::HasLook(look) && HasLetters(look);
+}
+
+bool TextGraphic::SetLook(const Look& look) {
     Graphic::SetLook(look);
+    if (HasLetters(look)) return false;
     state.font = look.font;
     state.height = look.textHeight;
     state.style = look.textStyle;
     state.format = look.textFormat;
+    return true;
 }
 
 void TextGraphic::InvalidateLayout() {

@@ -48,7 +48,8 @@ public:
     bool EqualState(const Graphic& saved) const override;
     size_t StateSize() const override;
     Look GetLook() const override;
-    void SetLook(const Look& look) override;
+    bool HasLook(const Look& look) const override;
+    bool SetLook(const Look& look) override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
     TextState state;
@@ -62,6 +63,7 @@ private:
         Point origin;
         double width;
     };
+    bool HasLetters(const Look& look) const;
     void LayOut() const;
     void InvalidateLayout();
     void PlaceRows(const TextFace& face) const;
