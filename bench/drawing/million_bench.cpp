@@ -15,6 +15,7 @@
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/memory_picture.h"
 #include "demo/viewer/resource.h"
+#include "drawcore/view.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/property.h"
 #include "orlo/host/walk.h"
@@ -92,6 +93,8 @@ public:
         const double before = HeapBytes();
         m_frame->Show(Document::Open(Utf8(m_path.c_str()), [](int) {}));
         Paint();
+        ::ViewportPick(View().GetCamera().Viewport(), Drawing().Root(), {0, 0}, 1,
+                       kAllGraphics); // makes the index
         m_bytes = HeapBytes() - before - static_cast<double>(fs::file_size(m_path));
     }
     ~MillionViewer() {

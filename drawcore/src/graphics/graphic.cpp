@@ -47,15 +47,16 @@ Graphic::~Graphic() {
 
 std::unique_ptr<Graphic> Graphic::Clone() const {
     std::unique_ptr<Graphic> copy = CloneState();
-    for (const auto& part : parts_)
-        copy->Add(part->Clone());
+    for (size_t i = 0; parts_ && i < parts_->size(); ++i)
+        copy->Add((*parts_)[i]->Clone());
     return copy;
 }
 
 Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
-    Graphic* added = parts_.emplace_back(std::move(part)).get();
+    if (!parts_) parts_ = std::make_unique<std::vector<std::unique_ptr<Graphic>>>();
+    Graphic* added = parts_->emplace_back(std::move(part)).get();
     added->pParent = this;
-    added->place_ = static_cast<uint32_t>(parts_.size() - 1);
+    added->place_ = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
     if (drawing_) added->Attach(drawing_);
     InvalidateExtents();
@@ -64,11 +65,11 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
     const size_t place = part->place_;
-    if (place >= parts_.size() || parts_[place].get() != part) return nullptr;
-    std::unique_ptr<Graphic> released = std::move(parts_[place]);
-    parts_.erase(parts_.begin() + static_cast<std::ptrdiff_t>(place));
-    for (size_t i = place; i < parts_.size(); ++i)
-        parts_[i]->place_ = static_cast<uint32_t>(i);
+    if (!parts_ || place >= parts_->size() || (*parts_)[place].get() != part) return nullptr;
+    std::unique_ptr<Graphic> released = std::move((*parts_)[place]);
+    parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(place));
+    for (size_t i = place; i < parts_->size(); ++i)
+        (*parts_)[i]->place_ = static_cast<uint32_t>(i);
     MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
@@ -87,8 +88,8 @@ const Graphic& Graphic::Top() const {
 void Graphic::Attach(Drawing* drawing) {
     drawing_ = drawing;
     InvalidateExtents();
-    for (const auto& part : parts_)
-        part->Attach(drawing);
+    for (size_t i = 0; parts_ && i < parts_->size(); ++i)
+        (*parts_)[i]->Attach(drawing);
 }
 
 Drawing* Graphic::GetDrawing() const {

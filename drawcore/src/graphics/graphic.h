@@ -57,8 +57,8 @@ public:
     virtual Vertex* VertexAt(size_t) { return nullptr; }
 
     // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
-    virtual size_t MemberCount() const { return parts_.size(); }
-    virtual Graphic* MemberAt(size_t index) const { return parts_[index].get(); }
+    virtual size_t MemberCount() const { return parts_ ? parts_->size() : 0; }
+    virtual Graphic* MemberAt(size_t index) const { return (*parts_)[index].get(); }
     // Where the members have gone from their own coordinates; false if they are where these say.
     virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
@@ -123,7 +123,7 @@ private:
 
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
-    std::vector<std::unique_ptr<Graphic>> parts_;
+    std::unique_ptr<std::vector<std::unique_ptr<Graphic>>> parts_; // null: none
     std::unique_ptr<std::string> styleName_;
     Drawing* drawing_ = nullptr;
     mutable Extents extents_;

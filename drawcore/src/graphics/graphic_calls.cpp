@@ -221,6 +221,6 @@ VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, 
 VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int, int) {
     if (!graphic || !cookie) return nullptr;
     Vertex* const vertex = Graphic::From(graphic)->VertexAt(static_cast<size_t>(++*cookie));
-    if (vertex) vertex->owner.graphic = Graphic::From(graphic);
+    if (vertex) vertex->SetOwner(Graphic::From(graphic));
     return vertex;
 }

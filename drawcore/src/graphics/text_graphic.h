@@ -54,6 +54,9 @@ public:
 
     TextState state;
 
+protected:
+    void AddShapeExtents(Extents& extents) const override;
+
 private:
     // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
     struct Row {
@@ -65,16 +68,13 @@ private:
     };
     bool HasLetters(const Look& look) const;
     void LayOut() const;
-    void InvalidateLayout();
     void PlaceRows(const TextFace& face) const;
     double BoxWidth() const;
     void TraceFrame(const Trace& trace, const PenUse& use) const;
     Matrix RowMatrix(const Row& row) const;
 
-    mutable std::vector<Row> rows_;
-    mutable double stretch_ = 1; // of the letters' widths
-    mutable TextState laidOut_;  // what rows_ shows
-    mutable bool hasLayout_ = false;
+    mutable std::vector<Row> rows_; // made when the extents are; none: to be made
+    mutable double stretch_ = 1;    // of the letters' widths
 };
 
 } // namespace drawcore
