@@ -46,7 +46,7 @@ public:
         if (a.layer != Of(layers_, b.layer)) return Differ(kPropLayer);
         if ((a.info ? *a.info : "") != (b.info ? *b.info : "")) return Differ(kPropInfo);
         if (a.styleTree != Of(blocks_, b.styleTree) && IsInFile(a.styleTree)) return Differ(kPropStyleTree);
-        return SamePen(a.pen, b.pen) && SameBrush(a.brush, b.brush) && SameShape(a, b);
+        return SamePen(a.GetPen(), b.GetPen()) && SameBrush(a.GetBrush(), b.GetBrush()) && SameShape(a, b);
     }
 
     std::string difference;

@@ -36,6 +36,9 @@ struct Brush {
     auto Values() const { return std::tie(scale, angle, color, drawMode, style, cross); } // all of them
 };
 
+// That of most graphics.
+inline constexpr Brush kNoBrush{};
+
 inline bool operator==(const Pen& a, const Pen& b) {
     return a.Values() == b.Values();
 }

@@ -23,20 +23,36 @@ void InvalidateInsertions(const Graphic& content) {
 
 } // namespace
 
-Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{}, propertyTable(properties) {
+Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{} {
+    MakeHostParts();
+    SetPropertyTable(properties);
     bType = type;
     dwFlags = kFlagNoParent | kFlagDirty;
     ++Census::graphics;
 }
 
 Graphic::Graphic(const Graphic& other)
-    : GraphicStruct(other), pen(other.pen), brush(other.brush), layer(other.layer),
-      styleTree(other.styleTree), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
-      propertyTable(other.propertyTable), drawing_(other.drawing_) {
+    : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
+      layer(other.layer), styleTree(other.styleTree) {
+    MakeHostParts();
+    Ties() = other.Ties();
+    GetPen() = other.GetPen();
+    SetBrush(other.GetBrush());
     ++Census::graphics;
     pParent = nullptr;
     dwFlags |= kFlagNoParent;
     if (other.styleName_) SetStyleName(other.styleName_->c_str());
+}
+
+void Graphic::SetBrush(const Brush& brush) {
+    if (brush == GetBrush()) return;
+    brush_ = brush == kNoBrush ? nullptr : std::make_unique<const Brush>(brush);
+}
+
+void Graphic::MakeHostParts() {
+    new (host8) Pen;
+    new (host68) Tied;
+    new (host28) Extents;
 }
 
 Graphic::~Graphic() {
@@ -58,7 +74,7 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     added->pParent = this;
     added->place_ = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
-    if (drawing_) added->Attach(drawing_);
+    if (Drawing* drawing = Ties().drawing) added->Attach(drawing);
     InvalidateExtents();
     return added;
 }
@@ -86,14 +102,14 @@ const Graphic& Graphic::Top() const {
 }
 
 void Graphic::Attach(Drawing* drawing) {
-    drawing_ = drawing;
+    Ties().drawing = drawing;
     InvalidateExtents();
     for (size_t i = 0; parts_ && i < parts_->size(); ++i)
         (*parts_)[i]->Attach(drawing);
 }
 
 Drawing* Graphic::GetDrawing() const {
-    return Drawing::Find(drawing_);
+    return Drawing::Find(Ties().drawing);
 }
 
 void Graphic::SetStyleName(const char* name) {
@@ -137,17 +153,18 @@ void Graphic::InvalidateExtents() {
 }
 
 const Extents& Graphic::GetExtents() const {
-    if (extentsKnown_) return extents_;
-    extents_ = {};
+    Extents& extents = Box();
+    if (extentsKnown_) return extents;
+    extents = {};
     extentsKnown_ = KeepsExtents(); // before the members: a block may hold an insertion of itself
-    AddShapeExtents(extents_);
+    AddShapeExtents(extents);
     Matrix motion;
     const bool moved = FindMotion(motion);
     for (size_t i = 0; i < MemberCount(); ++i) {
         const Extents& box = MemberAt(i)->GetExtents();
-        extents_.Add(moved ? box.Transformed(motion) : box);
+        extents.Add(moved ? box.Transformed(motion) : box);
     }
-    return extents_;
+    return extents;
 }
 
 void Graphic::AddShapeExtents(Extents& extents) const {
@@ -158,8 +175,8 @@ void Graphic::AddShapeExtents(Extents& extents) const {
 
 Look Graphic::GetLook() const {
     Look look;
-    look.pen = pen;
-    look.brush = brush;
+    look.pen = GetPen();
+    look.brush = GetBrush();
     look.layer = layer;
     look.styleTree = styleTree;
     if (info) look.info = *info;
@@ -168,13 +185,13 @@ Look Graphic::GetLook() const {
 }
 
 bool Graphic::HasLook(const Look& look) const {
-    return pen == look.pen && brush == look.brush && layer == look.layer && styleTree == look.styleTree &&
-           (info ? *info == look.info : look.info.empty());
+    return GetPen() == look.pen && GetBrush() == look.brush && layer == look.layer &&
+           styleTree == look.styleTree && (info ? *info == look.info : look.info.empty());
 }
 
 bool Graphic::SetLook(const Look& look) {
-    pen = look.pen;
-    brush = look.brush;
+    GetPen() = look.pen;
+    SetBrush(look.brush);
     layer = look.layer;
     styleTree = look.styleTree;
     info = look.info.empty() ? nullptr : std::make_unique<std::string>(look.info);

@@ -64,8 +64,8 @@ PlaceIndex::PlaceIndex() = default;
 PlaceIndex::~PlaceIndex() = default;
 
 void PlaceIndex::NoteReach(const Graphic& graphic) {
-    const double half = graphic.pen.width / 2;
-    if (graphic.pen.scaleSystem == kScaleWorld)
+    const double half = graphic.GetPen().width / 2;
+    if (graphic.GetPen().scaleSystem == kScaleWorld)
         worldReach_ = std::max(worldReach_, half);
     else
         paperReach_ = std::max(paperReach_, half);
@@ -114,7 +114,7 @@ void PlaceIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
     changed_.push_back(member.place_);
-    const Extents& extents = member.extents_;
+    const Extents& extents = member.Box();
     if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.place_});
 }
 

@@ -180,7 +180,7 @@ void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse&
 void VertexGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     if (vertices.empty()) return;
     Path& path = trace.tools.path;
-    if (brush.style != kBrushStyleNone && vertices.size() > 2) {
+    if (GetBrush().style != kBrushStyleNone && vertices.size() > 2) {
         if (dwOneOutline)
             BuildOutline(*this, trace, path);
         else

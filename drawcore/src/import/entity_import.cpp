@@ -182,7 +182,7 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
 }
 
 void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
-    Pen& pen = graphic.pen;
+    Pen& pen = graphic.GetPen();
     pen.color = look.color;
     pen.style = LineStyleOf(look.lineType);
     pen.scale = look.lineScale;
@@ -190,7 +190,7 @@ void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
     pen.scaleSystem = look.worldWidth ? kScaleWorld : kScalePaper;
     pen.alignment = look.dashesFitted;
     graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
-    graphic.brush = ImportBrush(look.brush, *drawing_.BrushStyles());
+    graphic.SetBrush(ImportBrush(look.brush, *drawing_.BrushStyles()));
     if (!look.info.empty()) graphic.info = std::make_unique<std::string>(CodePageFromUtf8(look.info));
     if (!look.styleTree.empty())
         graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));
