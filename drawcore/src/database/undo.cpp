@@ -166,12 +166,12 @@ uint32_t UndoLog::Mark() const {
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
     std::vector<Saved>& saved = steps_.back().saved;
-    const size_t place = graphic.undoPlace_;
+    const size_t place = graphic.Ties().undoPlace;
     return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
 }
 
 void UndoLog::Enter(Graphic& graphic) {
-    graphic.undoPlace_ = static_cast<uint32_t>(steps_.back().saved.size());
+    graphic.Ties().undoPlace = static_cast<uint32_t>(steps_.back().saved.size());
     graphic.inUndoLog_ = true;
 }
 
@@ -206,7 +206,7 @@ void UndoLog::Remove(Graphic& graphic) {
             std::vector<Saved>& saved = steps_.back().saved;
             if (entry != &saved.back()) {
                 *entry = std::move(saved.back());
-                entry->graphic->undoPlace_ = graphic.undoPlace_;
+                entry->graphic->Ties().undoPlace = graphic.Ties().undoPlace;
             }
             saved.pop_back();
         }

@@ -35,7 +35,8 @@ Graphic::Graphic(const Graphic& other)
     : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
       layer(other.layer), styleTree(other.styleTree) {
     MakeHostParts();
-    Ties() = other.Ties();
+    Ties().drawing = other.Ties().drawing;
+    Ties().properties = other.Ties().properties;
     GetPen() = other.GetPen();
     SetBrush(other.GetBrush());
     ++Census::graphics;
@@ -72,7 +73,7 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     if (!parts_) parts_ = std::make_unique<std::vector<std::unique_ptr<Graphic>>>();
     Graphic* added = parts_->emplace_back(std::move(part)).get();
     added->pParent = this;
-    added->place_ = static_cast<uint32_t>(parts_->size() - 1);
+    added->Ties().place = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
     if (Drawing* drawing = Ties().drawing) added->Attach(drawing);
     InvalidateExtents();
@@ -80,12 +81,12 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
 }
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
-    const size_t place = part->place_;
+    const size_t place = part->Ties().place;
     if (!parts_ || place >= parts_->size() || (*parts_)[place].get() != part) return nullptr;
     std::unique_ptr<Graphic> released = std::move((*parts_)[place]);
     parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(place));
     for (size_t i = place; i < parts_->size(); ++i)
-        (*parts_)[i]->place_ = static_cast<uint32_t>(i);
+        (*parts_)[i]->Ties().place = static_cast<uint32_t>(i);
     MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;

@@ -133,6 +133,8 @@ private:
     struct Tied {
         Drawing* drawing = nullptr;
         const PropertyTable* properties = nullptr;
+        uint32_t undoPlace = 0; // in the open step of the undo log; says nothing by itself
+        uint32_t place = 0;     // among the parts of the graphic that owns it
     };
     Tied& Ties() { return *Place<Tied>(host68); }
     const Tied& Ties() const { return *Place<Tied>(const_cast<Graphic*>(this)->host68); }
@@ -149,8 +151,6 @@ private:
     std::unique_ptr<std::vector<std::unique_ptr<Graphic>>> parts_; // null: none
     std::unique_ptr<std::string> styleName_;
     std::unique_ptr<const Brush> brush_; // null: kNoBrush
-    uint32_t undoPlace_ = 0;             // in the open step of the undo log; says nothing by itself
-    uint32_t place_ = 0;                 // among the parts of the graphic that owns it
     bool inUndoLog_ = false;
     bool isBlockContent_ = false;
     bool indexed_ = false;              // in the owner's index, by Box()

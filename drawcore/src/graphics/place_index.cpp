@@ -113,9 +113,9 @@ void PlaceIndex::TakeUp(const Graphic& group) {
 void PlaceIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
-    changed_.push_back(member.place_);
+    changed_.push_back(member.Ties().place);
     const Extents& extents = member.Box();
-    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.place_});
+    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.Ties().place});
 }
 
 void PlaceIndex::Drop() {
