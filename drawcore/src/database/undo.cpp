@@ -29,7 +29,6 @@ void UndoLog::Saved::Restore() const {
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
-    saved.shrink_to_fit();
     constexpr size_t kNode =
         sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
     size = saved.size() * sizeof(Saved) + looks.size() * kNode;
@@ -61,12 +60,18 @@ int UndoLog::Step::Restore() const {
     return restored;
 }
 
-// Many look like the one before.
-void UndoLog::Step::Add(Graphic& graphic) {
-    const Look* look = saved.empty() ? nullptr : saved.back().look;
+// Graphics have few looks, compared with how many there are: one that has been seen just now costs a comparison.
+const Look* UndoLog::Step::Take(const Graphic& graphic) {
+    const size_t key =
+        (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
+    const Look*& look = recent[key % recent.size()];
     if (!look || look->lastPage != graphic.wLastPage || !graphic.HasLook(*look))
         look = &*looks.insert(graphic.GetLook()).first;
-    saved.push_back({&graphic, look, nullptr});
+    return look;
+}
+
+void UndoLog::Step::Add(Graphic& graphic) {
+    saved.push_back({&graphic, Take(graphic), nullptr});
     sorted = false;
 }
 
@@ -165,7 +170,7 @@ uint32_t UndoLog::Mark() const {
 }
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
-    std::vector<Saved>& saved = steps_.back().saved;
+    std::deque<Saved>& saved = steps_.back().saved;
     const size_t place = graphic.Ties().undoPlace;
     return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
 }
@@ -203,7 +208,7 @@ void UndoLog::SaveState(Graphic& graphic) {
 void UndoLog::Remove(Graphic& graphic) {
     if (open_)
         if (Saved* entry = InOpenStep(graphic)) {
-            std::vector<Saved>& saved = steps_.back().saved;
+            std::deque<Saved>& saved = steps_.back().saved;
             if (entry != &saved.back()) {
                 *entry = std::move(saved.back());
                 entry->graphic->Ties().undoPlace = graphic.Ties().undoPlace;

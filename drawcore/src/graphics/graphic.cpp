@@ -135,7 +135,7 @@ void Graphic::ChangingShape() {
 
 void Graphic::ChangedLook() {
     dwFlags |= kFlagDirty;
-    if (PlaceIndex* index = Top().IndexOfMembers()) index->NoteReach(*this);
+    if (PlaceIndex* index = Top().IndexOfMembers()) index->NotePen(GetPen());
 }
 
 void Graphic::ChangedShape() {

@@ -63,17 +63,14 @@ public:
 PlaceIndex::PlaceIndex() = default;
 PlaceIndex::~PlaceIndex() = default;
 
-void PlaceIndex::NoteReach(const Graphic& graphic) {
-    const double half = graphic.GetPen().width / 2;
-    if (graphic.GetPen().scaleSystem == kScaleWorld)
-        worldReach_ = std::max(worldReach_, half);
-    else
-        paperReach_ = std::max(paperReach_, half);
-    worldReach_ = std::max(worldReach_, graphic.Reach());
+void PlaceIndex::NotePen(const Pen& pen) {
+    double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
+    reach = std::max(reach, pen.width / 2);
 }
 
 void PlaceIndex::NoteMember(const Graphic& member) {
-    NoteReach(member);
+    NotePen(member.GetPen());
+    worldReach_ = std::max(worldReach_, member.Reach());
     for (size_t i = 0; i < member.MemberCount(); ++i)
         NoteMember(*member.MemberAt(i));
 }
