@@ -103,7 +103,7 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
-    if (self.m_picture.IsAllSpoiled()) return;
+    if (self.m_picture.IsSpoiled()) return;
     self.SpoilAll();
     self.m_client.OnDrawingChanging();
 }

@@ -101,18 +101,13 @@ void KeptPicture::Pan(CSize pixels) {
 bool KeptPicture::StartMoving() {
     m_turn = {};
     if (m_moving) return true;
-    if (!m_slow || IsAllSpoiled() || !m_frame.Resize(m_scene.Size())) return false;
+    if (!m_slow || m_spoiled || !m_frame.Resize(m_scene.Size())) return false;
     Renew();
     m_sceneBox = m_camera.Visible();
     m_frame.CopyFrom(m_scene.Dc(), m_scene.Bounds());
     m_stretch = false;
     m_gaps.clear();
     return m_moving = true;
-}
-
-void KeptPicture::EndMoving() {
-    m_moving = false;
-    m_turn = {};
 }
 
 // The camera has zoomed: all of the frame comes from the scene, which is exact.
@@ -149,7 +144,7 @@ bool KeptPicture::Settle(int milliseconds) {
     m_turn.spent += MillisecondsSince(start);
     if (!done) return false;
     m_slow = m_turn.spent >= m_frameTime;
-    EndMoving();
+    m_moving = false;
     return true;
 }
 
@@ -178,17 +173,9 @@ bool KeptPicture::SettleSince(Clock::time_point start, int milliseconds) {
 
 // ---- Drawing
 
-void KeptPicture::Spoil(CRect area) {
-    if (m_moving) area = Bounds(); // the picture is out of date by its place already
-    EndMoving();
-    area.IntersectRect(area, Bounds());
-    if (area.IsRectEmpty()) return;
-    if (area == Bounds()) m_spoiled.clear();
-    m_spoiled.push_back(area);
-}
-
-bool KeptPicture::IsAllSpoiled() const {
-    return m_spoiled.size() == 1 && m_spoiled.front() == Bounds();
+void KeptPicture::SpoilAll() {
+    m_moving = false;
+    m_spoiled = true;
 }
 
 void KeptPicture::SpoilGlow(const CRect& area) {
@@ -201,7 +188,7 @@ void KeptPicture::Renew() {
         if (m_stretch) MoveFrame();
         return DrawGaps();
     }
-    const bool all = IsAllSpoiled();
+    const bool all = m_spoiled;
     const Clock::time_point start = Clock::now();
     RenewPicture();
     RenewScene();
@@ -209,17 +196,10 @@ void KeptPicture::Renew() {
 }
 
 void KeptPicture::RenewPicture() {
-    for (const CRect& area : m_spoiled) {
-        m_picture.Fill(area, m_paper);
-        if (m_document) {
-            const Clipped clipped(m_picture.Dc(), area);
-            Draw(m_picture.Dc(), m_document->Root());
-        }
-        CRect glowing = area;
-        glowing.InflateRect(Glow::kRadius, Glow::kRadius);
-        m_spoiledScene.UnionRect(m_spoiledScene, glowing);
-    }
-    m_spoiled.clear();
+    if (!std::exchange(m_spoiled, false)) return;
+    m_picture.Fill(Bounds(), m_paper);
+    if (m_document) Draw(m_picture.Dc(), m_document->Root());
+    m_spoiledScene = Bounds();
 }
 
 void KeptPicture::RenewScene() {

@@ -24,10 +24,9 @@ public:
     void Resize(CSize size);
     CRect Bounds() const { return m_picture.Bounds(); }
 
-    // Something else is to be seen there. It is never shown as it was before.
-    void Spoil(CRect area);
-    void SpoilAll() { Spoil(Bounds()); }
-    bool IsAllSpoiled() const;
+    // Something else is to be seen. It is never shown as it was before.
+    void SpoilAll();
+    bool IsSpoiled() const { return m_spoiled; }
     // Something else is selected there.
     void SpoilGlow(const CRect& area);
 
@@ -55,7 +54,6 @@ private:
     };
 
     bool StartMoving(); // false: the picture does not move along
-    void EndMoving();
     void MoveFrame();
     void DrawGaps();
 
@@ -74,7 +72,7 @@ private:
     MemoryPicture m_picture; // the drawing
     MemoryPicture m_scene;   // with the selection
     Glow m_glow;
-    std::vector<CRect> m_spoiled; // of the picture
+    bool m_spoiled = true; // all of the picture, and of the scene
     CRect m_spoiledScene;
     bool m_slow = false; // drawing it all has taken longer than a frame
 

@@ -298,12 +298,12 @@ TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
     const auto& graphic = static_cast<const drawcore::VertexGraphic&>(*drawcore::Graphic::From(members[0]));
     ASSERT_GT(graphic.vertices.size(), 20u);
     EXPECT_TRUE(graphic.closed);
-    EXPECT_EQ(graphic.vertices.back().startWidth, 3);
-    EXPECT_EQ(graphic.vertices.back().endWidth, 3);
+    EXPECT_EQ(graphic.vertices.back().Next().startWidth, 3);
+    EXPECT_EQ(graphic.vertices.back().Next().endWidth, 3);
     const size_t pieces = graphic.vertices.size() - 1;
     for (size_t i = 0; i < pieces; ++i) {
-        EXPECT_NEAR(graphic.vertices[i].startWidth, 2.0 * i / pieces, 1e-9) << i;
-        EXPECT_NEAR(graphic.vertices[i].endWidth, 2.0 * (i + 1) / pieces, 1e-9) << i;
+        EXPECT_NEAR(graphic.vertices[i].Next().startWidth, 2.0 * i / pieces, 1e-9) << i;
+        EXPECT_NEAR(graphic.vertices[i].Next().endWidth, 2.0 * (i + 1) / pieces, 1e-9) << i;
     }
     EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle, seen at an angle";
 }

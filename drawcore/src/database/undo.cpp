@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/graphic.h"
@@ -13,24 +14,21 @@ UndoLog::UndoLog() = default;
 UndoLog::~UndoLog() = default;
 
 bool UndoLog::Saved::IsDifferentNow() const {
-    return state ? !graphic->EqualState(*state) : !graphic->GetLook().HasSameProperties(*look);
+    return state ? !graphic->EqualState(*state) : !graphic->HasLook(*look);
 }
 
 void UndoLog::Saved::Restore() const {
-    if (state)
-        graphic->Restore(*state);
+    if (state) graphic->Restore(*state);
+    if (state || graphic->SetLook(*look))
+        graphic->ChangedShape();
     else
-        graphic->SetLook(*look);
-    graphic->ChangedShape();
+        graphic->ChangedLook();
 }
 
 // Drops what has not changed, and what is no longer needed once nothing is added.
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
-    saved.shrink_to_fit();
-    std::sort(saved.begin(), saved.end(),
-              [](const Saved& a, const Saved& b) { return std::less<>()(a.graphic, b.graphic); });
     constexpr size_t kNode =
         sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
     size = saved.size() * sizeof(Saved) + looks.size() * kNode;
@@ -45,7 +43,7 @@ UndoLog::Step UndoLog::Step::Present() const {
     present.mark = mark;
     for (const Saved& entry : saved) {
         if (entry.look)
-            present.Add(*entry.graphic, entry.graphic->GetLook());
+            present.Add(*entry.graphic);
         else if (entry.state)
             present.saved.push_back({entry.graphic, nullptr, entry.graphic->CloneState()});
     }
@@ -62,15 +60,30 @@ int UndoLog::Step::Restore() const {
     return restored;
 }
 
-void UndoLog::Step::Add(Graphic& graphic, const Look& look) {
-    saved.push_back({&graphic, &*looks.insert(look).first, nullptr});
+// Graphics have few looks, compared with how many there are: one that has been seen just now costs a comparison.
+const Look* UndoLog::Step::Take(const Graphic& graphic) {
+    const size_t key =
+        (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
+    const Look*& look = recent[key % recent.size()];
+    if (!look || look->lastPage != graphic.wLastPage || !graphic.HasLook(*look))
+        look = &*looks.insert(graphic.GetLook()).first;
+    return look;
 }
 
+void UndoLog::Step::Add(Graphic& graphic) {
+    saved.push_back({&graphic, Take(graphic), nullptr});
+    sorted = false;
+}
+
+// Sorts when it is first asked: graphics seldom go.
 UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
+    const std::less<const Graphic*> before;
+    if (!std::exchange(sorted, true))
+        std::sort(saved.begin(), saved.end(),
+                  [&](const Saved& a, const Saved& b) { return before(a.graphic, b.graphic); });
     const auto found =
-        std::lower_bound(saved.begin(), saved.end(), &graphic, [](const Saved& entry, const Graphic* key) {
-            return std::less<const Graphic*>()(entry.graphic, key);
-        });
+        std::lower_bound(saved.begin(), saved.end(), &graphic,
+                         [&](const Saved& entry, const Graphic* key) { return before(entry.graphic, key); });
     return found != saved.end() && found->graphic == &graphic ? &*found : nullptr;
 }
 
@@ -157,13 +170,13 @@ uint32_t UndoLog::Mark() const {
 }
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
-    std::vector<Saved>& saved = steps_.back().saved;
-    const size_t place = graphic.undoPlace_;
+    std::deque<Saved>& saved = steps_.back().saved;
+    const size_t place = graphic.Ties().undoPlace;
     return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
 }
 
 void UndoLog::Enter(Graphic& graphic) {
-    graphic.undoPlace_ = static_cast<uint32_t>(steps_.back().saved.size());
+    graphic.Ties().undoPlace = static_cast<uint32_t>(steps_.back().saved.size());
     graphic.inUndoLog_ = true;
 }
 
@@ -171,7 +184,7 @@ void UndoLog::SaveLook(Graphic& graphic) {
     TellListener();
     if (InOpenStep(graphic)) return;
     Enter(graphic);
-    steps_.back().Add(graphic, graphic.GetLook());
+    steps_.back().Add(graphic);
 }
 
 void UndoLog::TellListener() const {
@@ -195,10 +208,10 @@ void UndoLog::SaveState(Graphic& graphic) {
 void UndoLog::Remove(Graphic& graphic) {
     if (open_)
         if (Saved* entry = InOpenStep(graphic)) {
-            std::vector<Saved>& saved = steps_.back().saved;
+            std::deque<Saved>& saved = steps_.back().saved;
             if (entry != &saved.back()) {
                 *entry = std::move(saved.back());
-                entry->graphic->undoPlace_ = graphic.undoPlace_;
+                entry->graphic->Ties().undoPlace = graphic.Ties().undoPlace;
             }
             saved.pop_back();
         }

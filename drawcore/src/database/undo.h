@@ -4,6 +4,7 @@
 // saved.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -52,13 +53,16 @@ private:
         void Restore() const;
     };
     struct Step {
-        std::vector<Saved> saved; // by address of the graphics, once the step is closed
+        std::deque<Saved> saved;
+        bool sorted = false; // by address of the graphics; never as long as the step is open
         std::unordered_set<Look, LookHash> looks;
-        size_t size = 0;   // bytes
-        uint32_t mark = 0; // of the state that it leads to
+        std::array<const Look*, 64> recent{}; // of them, where a graphic that looks so is expected
+        size_t size = 0;                      // bytes
+        uint32_t mark = 0;                    // of the state that it leads to
 
         Saved* Find(const Graphic& graphic);
-        void Add(Graphic& graphic, const Look& look);
+        void Add(Graphic& graphic);
+        const Look* Take(const Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
         Step Present() const; // what the same graphics are now

@@ -48,7 +48,7 @@ public:
         if (a.layer != Of(layers_, b.layer)) return Differ(kPropLayer);
         if ((a.info ? *a.info : "") != (b.info ? *b.info : "")) return Differ(kPropInfo);
         if (a.styleTree != Of(blocks_, b.styleTree) && IsBlock(a.styleTree)) return Differ(kPropStyleTree);
-        return SamePen(a.pen, b.pen) && SameBrush(a.brush, b.brush) && SameShape(a, b);
+        return SamePen(a.GetPen(), b.GetPen()) && SameBrush(a.GetBrush(), b.GetBrush()) && SameShape(a, b);
     }
 
     std::string difference;
@@ -105,8 +105,9 @@ private:
     // Whether the first vertex is drawn says nothing.
     static bool SameVertices(const VertexGraphic& a, const VertexGraphic& b) {
         const auto same = [](const Vertex& one, const Vertex& other) {
-            return Near(one.Position(), other.Position()) && Near(one.bulge, other.bulge) &&
-                   Near(one.startWidth, other.startWidth) && Near(one.endWidth, other.endWidth);
+            const Segment next = one.Next(), others = other.Next();
+            return Near(one.Position(), other.Position()) && Near(next.bulge, others.bulge) &&
+                   Near(next.startWidth, others.startWidth) && Near(next.endWidth, others.endWidth);
         };
         const auto alike = [](const Vertex& one, const Vertex& other) { return one.wFlags == other.wFlags; };
         return a.closed == b.closed && a.vertices.size() == b.vertices.size() &&

@@ -32,15 +32,13 @@ bool IsLevel(const std::vector<Vertex>& vertices) {
                        [&](const Vertex& vertex) { return vertex.z == vertices[0].z; });
 }
 
-bool IsStraight(const Vertex& vertex) {
-    return vertex.bulge == 0 && vertex.startWidth == 0 && vertex.endWidth == 0;
-}
-
 dxf::Polyline PolylineOf(const std::vector<Vertex>& vertices, bool closed) {
     dxf::Polyline polyline;
     polyline.closed = closed;
-    for (const Vertex& vertex : vertices)
-        polyline.vertices.push_back({vertex.Position(), vertex.bulge, vertex.startWidth, vertex.endWidth});
+    for (const Vertex& vertex : vertices) {
+        const Segment next = vertex.Next();
+        polyline.vertices.push_back({vertex.Position(), next.bulge, next.startWidth, next.endWidth});
+    }
     return polyline;
 }
 
@@ -72,10 +70,11 @@ dxf::Shape ShapeOf(const VertexGraphic& graphic) {
     const bool isOneStroke = std::all_of(vertices.begin() + 1, vertices.end(),
                                          [](const Vertex& vertex) { return vertex.wFlags & kVertexDrawn; });
     const bool isLevel = IsLevel(vertices);
-    if (!isOneStroke && graphic.pen.style == kLineStyleNone && isLevel) return HatchOf(graphic);
+    if (!isOneStroke && graphic.GetPen().style == kLineStyleNone && isLevel) return HatchOf(graphic);
     if (!isOneStroke || vertices.size() < 2)
         throw dxf::SaveError("a graphic of several strokes was added, which the file can't hold");
-    const bool isStraight = std::all_of(vertices.begin(), vertices.end(), IsStraight);
+    const bool isStraight = std::all_of(vertices.begin(), vertices.end(),
+                                        [](const Vertex& vertex) { return vertex.Next().IsPlain(); });
     if (!graphic.closed && isStraight && vertices.size() == 2) {
         if (vertices[0].Position() == vertices[1].Position()) return dxf::PointMark{vertices[0].Position()};
         return dxf::Line{vertices[0].Position(), vertices[1].Position()};
@@ -179,7 +178,7 @@ dxf::Shape ShapeOf(const TextState& state) {
 }
 
 dxf::Shape ShapeOf(const InsertGraphic& insert) {
-    if (insert.MemberCount() > 0 || insert.array.columns > 1 || insert.array.rows > 1)
+    if (insert.MemberCount() > 0 || !insert.Array().IsOne())
         throw dxf::SaveError("an insertion with attributes or in rows was added, which can't be saved yet");
     return std::make_unique<dxf::Insert>();
 }

@@ -87,13 +87,13 @@ dxf::TextLook LookExport::TextOf(const Graphic& graphic) {
 dxf::Look LookExport::LookOf(const Graphic& graphic) {
     dxf::Look look;
     look.layer = LayerOf(graphic.layer);
-    look.color = graphic.pen.color;
-    look.lineType = LineTypeOf(graphic.pen.style);
-    look.lineScale = graphic.pen.scale;
-    look.width = graphic.pen.width;
-    look.worldWidth = graphic.pen.scaleSystem == kScaleWorld;
-    look.dashesFitted = graphic.pen.alignment;
-    look.brush = BrushOf(graphic.brush);
+    look.color = graphic.GetPen().color;
+    look.lineType = LineTypeOf(graphic.GetPen().style);
+    look.lineScale = graphic.GetPen().scale;
+    look.width = graphic.GetPen().width;
+    look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld;
+    look.dashesFitted = graphic.GetPen().alignment;
+    look.brush = BrushOf(graphic.GetBrush());
     look.text = TextOf(graphic);
     if (graphic.info) look.info = Utf8FromCodePage(*graphic.info);
     const Block* tree = drawing_.Blocks() ? drawing_.Blocks()->At(graphic.styleTree) : nullptr;

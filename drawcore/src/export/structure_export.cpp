@@ -66,7 +66,7 @@ void StructureExport::RemoveBlocks() {
 
 void StructureExport::WriteBlock(const Block& block) {
     try {
-        if (!block.Content().GetLook().HasSameProperties(VertexGraphic().GetLook()))
+        if (!block.Content().HasLook(VertexGraphic().GetLook()))
             throw dxf::SaveError("the file has no place for properties of the block as a whole");
         const auto known = inFile_.find(FoldName(block.name));
         if (known != inFile_.end()) return AddMissing(block.Content(), &known->second);

@@ -32,6 +32,11 @@ bool Extents::Covers(const Extents& other) const {
 Extents Extents::Transformed(const Matrix& matrix) const {
     Extents box;
     if (IsEmpty()) return box;
+    if (matrix.KeepsAxes()) { // as good as always, while a drawing is drawn
+        box.Add(matrix.Apply(low));
+        box.Add(matrix.Apply(high));
+        return box;
+    }
     for (int corner = 0; corner < 8; ++corner)
         box.Add(matrix.Apply(
             {corner & 1 ? high.x : low.x, corner & 2 ? high.y : low.y, corner & 4 ? high.z : low.z}));

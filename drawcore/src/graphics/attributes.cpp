@@ -1,14 +1,10 @@
-// When two looks are the same.
+// Looks as keys.
 #include "drawcore/src/graphics/attributes.h"
 
 #include <functional>
 #include <tuple>
 
 namespace drawcore {
-
-bool Look::HasSameProperties(const Look& other) const {
-    return pen == other.pen && brush == other.brush && Values() == other.Values();
-}
 
 size_t LookHash::operator()(const Look& look) const {
     size_t hash = 0;

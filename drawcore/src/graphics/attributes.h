@@ -36,6 +36,9 @@ struct Brush {
     auto Values() const { return std::tie(scale, angle, color, drawMode, style, cross); } // all of them
 };
 
+// That of most graphics.
+inline constexpr Brush kNoBrush{};
+
 inline bool operator==(const Pen& a, const Pen& b) {
     return a.Values() == b.Values();
 }
@@ -60,9 +63,9 @@ struct Look {
 
     // Those of pen and brush aside.
     auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
-    bool HasSameProperties(const Look& other) const;
     bool operator==(const Look& other) const {
-        return lastPage == other.lastPage && HasSameProperties(other);
+        return lastPage == other.lastPage && pen == other.pen && brush == other.brush &&
+               Values() == other.Values();
     }
 };
 

@@ -23,20 +23,37 @@ void InvalidateInsertions(const Graphic& content) {
 
 } // namespace
 
-Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{}, propertyTable(properties) {
+Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{} {
+    MakeHostParts();
+    SetPropertyTable(properties);
     bType = type;
     dwFlags = kFlagNoParent | kFlagDirty;
     ++Census::graphics;
 }
 
 Graphic::Graphic(const Graphic& other)
-    : GraphicStruct(other), pen(other.pen), brush(other.brush), layer(other.layer),
-      styleTree(other.styleTree), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
-      propertyTable(other.propertyTable), drawing_(other.drawing_) {
+    : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
+      layer(other.layer), styleTree(other.styleTree) {
+    MakeHostParts();
+    Ties().drawing = other.Ties().drawing;
+    Ties().properties = other.Ties().properties;
+    GetPen() = other.GetPen();
+    SetBrush(other.GetBrush());
     ++Census::graphics;
     pParent = nullptr;
     dwFlags |= kFlagNoParent;
     if (other.styleName_) SetStyleName(other.styleName_->c_str());
+}
+
+void Graphic::SetBrush(const Brush& brush) {
+    if (brush == GetBrush()) return;
+    brush_ = brush == kNoBrush ? nullptr : std::make_unique<const Brush>(brush);
+}
+
+void Graphic::MakeHostParts() {
+    new (host8) Pen;
+    new (host68) Tied;
+    new (host28) Extents;
 }
 
 Graphic::~Graphic() {
@@ -47,28 +64,29 @@ Graphic::~Graphic() {
 
 std::unique_ptr<Graphic> Graphic::Clone() const {
     std::unique_ptr<Graphic> copy = CloneState();
-    for (const auto& part : parts_)
-        copy->Add(part->Clone());
+    for (size_t i = 0; parts_ && i < parts_->size(); ++i)
+        copy->Add((*parts_)[i]->Clone());
     return copy;
 }
 
 Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
-    Graphic* added = parts_.emplace_back(std::move(part)).get();
+    if (!parts_) parts_ = std::make_unique<std::vector<std::unique_ptr<Graphic>>>();
+    Graphic* added = parts_->emplace_back(std::move(part)).get();
     added->pParent = this;
-    added->place_ = static_cast<uint32_t>(parts_.size() - 1);
+    added->Ties().place = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
-    if (drawing_) added->Attach(drawing_);
+    if (Drawing* drawing = Ties().drawing) added->Attach(drawing);
     InvalidateExtents();
     return added;
 }
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
-    const size_t place = part->place_;
-    if (place >= parts_.size() || parts_[place].get() != part) return nullptr;
-    std::unique_ptr<Graphic> released = std::move(parts_[place]);
-    parts_.erase(parts_.begin() + static_cast<std::ptrdiff_t>(place));
-    for (size_t i = place; i < parts_.size(); ++i)
-        parts_[i]->place_ = static_cast<uint32_t>(i);
+    const size_t place = part->Ties().place;
+    if (!parts_ || place >= parts_->size() || (*parts_)[place].get() != part) return nullptr;
+    std::unique_ptr<Graphic> released = std::move((*parts_)[place]);
+    parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(place));
+    for (size_t i = place; i < parts_->size(); ++i)
+        (*parts_)[i]->Ties().place = static_cast<uint32_t>(i);
     MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
@@ -80,8 +98,8 @@ std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
 
 void Graphic::ForgetSource() {
     source = kNoSource;
-    for (const auto& part : parts_)
-        part->ForgetSource();
+    for (size_t i = 0; parts_ && i < parts_->size(); ++i)
+        (*parts_)[i]->ForgetSource();
 }
 
 const Graphic& Graphic::Top() const {
@@ -92,14 +110,14 @@ const Graphic& Graphic::Top() const {
 }
 
 void Graphic::Attach(Drawing* drawing) {
-    drawing_ = drawing;
+    Ties().drawing = drawing;
     InvalidateExtents();
-    for (const auto& part : parts_)
-        part->Attach(drawing);
+    for (size_t i = 0; parts_ && i < parts_->size(); ++i)
+        (*parts_)[i]->Attach(drawing);
 }
 
 Drawing* Graphic::GetDrawing() const {
-    return Drawing::Find(drawing_);
+    return Drawing::Find(Ties().drawing);
 }
 
 void Graphic::SetStyleName(const char* name) {
@@ -124,7 +142,7 @@ void Graphic::ChangingShape() {
 
 void Graphic::ChangedLook() {
     dwFlags |= kFlagDirty;
-    if (PlaceIndex* index = Top().IndexOfMembers()) index->NoteReach(*this);
+    if (PlaceIndex* index = Top().IndexOfMembers()) index->NotePen(GetPen());
 }
 
 void Graphic::ChangedShape() {
@@ -143,17 +161,18 @@ void Graphic::InvalidateExtents() {
 }
 
 const Extents& Graphic::GetExtents() const {
-    if (extentsKnown_) return extents_;
-    extents_ = {};
+    Extents& extents = Box();
+    if (extentsKnown_) return extents;
+    extents = {};
     extentsKnown_ = KeepsExtents(); // before the members: a block may hold an insertion of itself
-    AddShapeExtents(extents_);
+    AddShapeExtents(extents);
     Matrix motion;
     const bool moved = FindMotion(motion);
     for (size_t i = 0; i < MemberCount(); ++i) {
         const Extents& box = MemberAt(i)->GetExtents();
-        extents_.Add(moved ? box.Transformed(motion) : box);
+        extents.Add(moved ? box.Transformed(motion) : box);
     }
-    return extents_;
+    return extents;
 }
 
 void Graphic::AddShapeExtents(Extents& extents) const {
@@ -164,8 +183,8 @@ void Graphic::AddShapeExtents(Extents& extents) const {
 
 Look Graphic::GetLook() const {
     Look look;
-    look.pen = pen;
-    look.brush = brush;
+    look.pen = GetPen();
+    look.brush = GetBrush();
     look.layer = layer;
     look.styleTree = styleTree;
     if (info) look.info = *info;
@@ -173,13 +192,19 @@ Look Graphic::GetLook() const {
     return look;
 }
 
-void Graphic::SetLook(const Look& look) {
-    pen = look.pen;
-    brush = look.brush;
+bool Graphic::HasLook(const Look& look) const {
+    return GetPen() == look.pen && GetBrush() == look.brush && layer == look.layer &&
+           styleTree == look.styleTree && (info ? *info == look.info : look.info.empty());
+}
+
+bool Graphic::SetLook(const Look& look) {
+    GetPen() = look.pen;
+    SetBrush(look.brush);
     layer = look.layer;
     styleTree = look.styleTree;
     info = look.info.empty() ? nullptr : std::make_unique<std::string>(look.info);
     wLastPage = look.lastPage;
+    return false;
 }
 
 void Graphic::RestoreAttributes(const Graphic& saved) {
@@ -188,7 +213,7 @@ void Graphic::RestoreAttributes(const Graphic& saved) {
 }
 
 bool Graphic::EqualAttributes(const Graphic& saved) const {
-    return GetLook().HasSameProperties(saved.GetLook());
+    return HasLook(saved.GetLook());
 }
 
 } // namespace drawcore

@@ -7,7 +7,9 @@
 #pragma once
 
 #include <memory>
+#include <new>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "drawcore/src/geometry/extents.h"
@@ -50,14 +52,15 @@ public:
     virtual size_t StateSize() const = 0;
     // The part of the state that properties set.
     virtual Look GetLook() const;
-    virtual void SetLook(const Look& look);
+    virtual bool HasLook(const Look& look) const; // lastPage aside
+    virtual bool SetLook(const Look& look);       // whether the shape is another now
 
     // The vertex at that place, null after the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }
 
     // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
-    virtual size_t MemberCount() const { return parts_.size(); }
-    virtual Graphic* MemberAt(size_t index) const { return parts_[index].get(); }
+    virtual size_t MemberCount() const { return parts_ ? parts_->size() : 0; }
+    virtual Graphic* MemberAt(size_t index) const { return (*parts_)[index].get(); }
     // Where the members have gone from their own coordinates; false if they are where these say.
     virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
@@ -91,12 +94,16 @@ public:
     // Where the members are; null for a graphic that has few.
     virtual PlaceIndex* IndexOfMembers() const { return nullptr; }
 
-    Pen pen;
-    Brush brush;
-    Id layer = 1;
-    uint16_t styleTree = kNoId;        // entry of "_Blocks_": the style that it is drawn in
+    const PropertyTable* GetPropertyTable() const { return Ties().properties; }
+    void SetPropertyTable(const PropertyTable* table) { Ties().properties = table; }
+
+    const Pen& GetPen() const { return *Place<Pen>(const_cast<Graphic*>(this)->host8); }
+    Pen& GetPen() { return *Place<Pen>(host8); }
+    const Brush& GetBrush() const { return brush_ ? *brush_ : kNoBrush; }
+    void SetBrush(const Brush& brush);
     std::unique_ptr<std::string> info; // attribute text; null is empty
-    const PropertyTable* propertyTable;
+    Id layer = 1;
+    uint16_t styleTree = kNoId; // entry of "_Blocks_": the style that it is drawn in
 
     static constexpr uint32_t kNoSource = UINT32_MAX;
     uint32_t source =
@@ -123,16 +130,32 @@ private:
     void ForgetSource();          // it is no longer where its record says
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
-    std::vector<std::unique_ptr<Graphic>> parts_;
+    // What fits into the bytes of the record that are the host's own: of a million graphics they would be a hundred megabytes.
+    struct Tied {
+        Drawing* drawing = nullptr;
+        const PropertyTable* properties = nullptr;
+        uint32_t undoPlace = 0; // in the open step of the undo log; says nothing by itself
+        uint32_t place = 0;     // among the parts of the graphic that owns it
+    };
+    Tied& Ties() { return *Place<Tied>(host68); }
+    const Tied& Ties() const { return *Place<Tied>(const_cast<Graphic*>(this)->host68); }
+    Extents& Box() const { return *Place<Extents>(const_cast<Graphic*>(this)->host28); }
+    void MakeHostParts();
+
+    // The processors that this runs on read doubles at any four bytes, as the record's are in a program of 32 bits.
+    template <class Value, size_t size>
+    static Value* Place(uint8_t (&bytes)[size]) {
+        static_assert(sizeof(Value) <= size && std::is_trivially_destructible_v<Value>);
+        return std::launder(reinterpret_cast<Value*>(bytes));
+    }
+
+    std::unique_ptr<std::vector<std::unique_ptr<Graphic>>> parts_; // null: none
     std::unique_ptr<std::string> styleName_;
-    Drawing* drawing_ = nullptr;
-    mutable Extents extents_;
-    mutable bool extentsKnown_ = false;
+    std::unique_ptr<const Brush> brush_; // null: kNoBrush
     bool inUndoLog_ = false;
-    uint32_t undoPlace_ = 0; // in the open step of the undo log; says nothing by itself
-    uint32_t place_ = 0;     // among the parts of the graphic that owns it
-    bool indexed_ = false;   // in the owner's index, by extents_
     bool isBlockContent_ = false;
+    bool indexed_ = false;              // in the owner's index, by Box()
+    mutable bool extentsKnown_ = false; // Box() holds them
 };
 
 // Whether the filter of a walk lets the graphic through (see drawcore/graphic.h).

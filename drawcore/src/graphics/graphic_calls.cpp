@@ -57,14 +57,28 @@ VertexGraphic* AsVertices(GraphicStruct* graphic) {
                : nullptr;
 }
 
-// Sets one attribute directly: no check against properties, but the undo log sees it.
-template <class Field, class Value>
-void SetAttribute(GraphicStruct* record, Field&& field, Value value) {
+// Changes an attribute directly: no check against properties, but the undo log sees it.
+template <class Change>
+void ChangeAttribute(GraphicStruct* record, Change change) {
     if (!record) return;
     Graphic& graphic = *Graphic::From(record);
     graphic.ChangingLook();
-    field(graphic) = value;
+    change(graphic);
     graphic.ChangedLook();
+}
+
+template <class Change>
+void ChangePen(GraphicStruct* record, Change change) {
+    ChangeAttribute(record, [&](Graphic& graphic) { change(graphic.GetPen()); });
+}
+
+template <class Change>
+void ChangeBrush(GraphicStruct* record, Change change) {
+    ChangeAttribute(record, [&](Graphic& graphic) {
+        Brush brush = graphic.GetBrush();
+        change(brush);
+        graphic.SetBrush(brush);
+    });
 }
 
 } // namespace
@@ -129,11 +143,11 @@ uint32_t GraphicGetKind(GraphicStruct* graphic) {
 }
 
 const PropertyTable* GraphicGetVtbl(GraphicStruct* graphic) {
-    return graphic ? Graphic::From(graphic)->propertyTable : nullptr;
+    return graphic ? Graphic::From(graphic)->GetPropertyTable() : nullptr;
 }
 
 void GraphicSetVtbl(GraphicStruct* graphic, const PropertyTable* table) {
-    if (graphic) Graphic::From(graphic)->propertyTable = table;
+    if (graphic) Graphic::From(graphic)->SetPropertyTable(table);
 }
 
 void GraphicSetStyleName(GraphicStruct* graphic, const char* name) {
@@ -161,47 +175,36 @@ const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int) {
 }
 
 void GraphicSetPenColor(GraphicStruct* graphic, uint32_t color) {
-    SetAttribute(
-        graphic, [](Graphic & g) -> auto& { return g.pen.color; }, color);
+    ChangePen(graphic, [&](Pen& pen) { pen.color = color; });
 }
 
 void GraphicSetPenStyle(GraphicStruct* graphic, uint16_t style) {
-    SetAttribute(
-        graphic, [](Graphic & g) -> auto& { return g.pen.style; }, style);
+    ChangePen(graphic, [&](Pen& pen) { pen.style = style; });
 }
 
 void GraphicSetPenScale(GraphicStruct* graphic, double scale) {
-    if (std::isfinite(scale))
-        SetAttribute(
-            graphic, [](Graphic & g) -> auto& { return g.pen.scale; }, std::fabs(scale));
+    if (std::isfinite(scale)) ChangePen(graphic, [&](Pen& pen) { pen.scale = std::fabs(scale); });
 }
 
 void GraphicSetScaleSystem(GraphicStruct* graphic, int system) {
     const uint8_t value = system == kScaleWorld ? kScaleWorld : kScalePaper;
-    SetAttribute(
-        graphic, [](Graphic & g) -> auto& { return g.pen.scaleSystem; }, value);
+    ChangePen(graphic, [&](Pen& pen) { pen.scaleSystem = value; });
 }
 
 void GraphicSetPenWidth(GraphicStruct* graphic, double width) {
-    if (std::isfinite(width))
-        SetAttribute(
-            graphic, [](Graphic & g) -> auto& { return g.pen.width; }, std::fabs(width));
+    if (std::isfinite(width)) ChangePen(graphic, [&](Pen& pen) { pen.width = std::fabs(width); });
 }
 
 void GraphicSetBrushColor(GraphicStruct* graphic, uint32_t color) {
-    SetAttribute(
-        graphic, [](Graphic & g) -> auto& { return g.brush.color; }, color);
+    ChangeBrush(graphic, [&](Brush& brush) { brush.color = color; });
 }
 
 void GraphicSetBrushScale(GraphicStruct* graphic, double scale) {
-    if (std::isfinite(scale))
-        SetAttribute(
-            graphic, [](Graphic & g) -> auto& { return g.brush.scale; }, std::fabs(scale));
+    if (std::isfinite(scale)) ChangeBrush(graphic, [&](Brush& brush) { brush.scale = std::fabs(scale); });
 }
 
 void GraphicSetBrushStyle(GraphicStruct* graphic, uint16_t style) {
-    SetAttribute(
-        graphic, [](Graphic & g) -> auto& { return g.brush.style; }, style);
+    ChangeBrush(graphic, [&](Brush& brush) { brush.style = style; });
 }
 
 int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex) {
@@ -221,6 +224,6 @@ VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, 
 VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int, int) {
     if (!graphic || !cookie) return nullptr;
     Vertex* const vertex = Graphic::From(graphic)->VertexAt(static_cast<size_t>(++*cookie));
-    if (vertex) vertex->owner.graphic = Graphic::From(graphic);
+    if (vertex) vertex->SetOwner(Graphic::From(graphic));
     return vertex;
 }

@@ -24,11 +24,32 @@ Vec3 Origin(const Matrix& placement) {
     return placement.Apply({});
 }
 
+bool operator==(const InsertArray& a, const InsertArray& b) {
+    return a.columns == b.columns && a.rows == b.rows && a.columnStep == b.columnStep &&
+           a.rowStep == b.rowStep;
+}
+
 } // namespace
 
 InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
     : Graphic(kGraphicInsert, &kInsertProperties), block(blockId) {
     Place(placement);
+}
+
+InsertGraphic::InsertGraphic(const InsertGraphic& other)
+    : Graphic(other), block(other.block),
+      more_(other.more_ ? std::make_unique<More>(*other.more_) : nullptr) {
+    std::copy(std::begin(other.vertices), std::end(other.vertices), vertices);
+}
+
+InsertGraphic::More& InsertGraphic::GetMore() {
+    if (!more_) more_ = std::make_unique<More>();
+    return *more_;
+}
+
+// Steps that nothing goes count too: they are kept for the file.
+void InsertGraphic::SetArray(const InsertArray& array) {
+    if (more_ || !(array == InsertArray())) GetMore().array = array;
 }
 
 void InsertGraphic::Place(const Matrix& placement) {
@@ -48,7 +69,7 @@ void InsertGraphic::Restore(const Graphic& saved) {
     RestoreAttributes(other);
     std::copy(std::begin(other.vertices), std::end(other.vertices), vertices);
     block = other.block;
-    array = other.array;
+    SetArray(other.Array());
 }
 
 size_t InsertGraphic::StateSize() const {
@@ -58,8 +79,7 @@ size_t InsertGraphic::StateSize() const {
 bool InsertGraphic::EqualState(const Graphic& saved) const {
     const auto& other = static_cast<const InsertGraphic&>(saved);
     return EqualAttributes(other) && std::equal(std::begin(vertices), std::end(vertices), other.vertices) &&
-           block == other.block && array.columns == other.array.columns && array.rows == other.array.rows &&
-           array.columnStep == other.array.columnStep && array.rowStep == other.array.rowStep;
+           block == other.block && Array() == other.Array();
 }
 
 Matrix InsertGraphic::Placement() const {
@@ -69,8 +89,8 @@ Matrix InsertGraphic::Placement() const {
 }
 
 void InsertGraphic::KeepFirst() {
-    const bool leads = MemberCount() > 0 || array.columns > 1 || array.rows > 1;
-    if (leads && !first_) first_ = Placement();
+    const bool leads = MemberCount() > 0 || !Array().IsOne();
+    if (leads && !(more_ && more_->first)) GetMore().first = Placement();
 }
 
 Vertex* InsertGraphic::VertexAt(size_t place) {
@@ -80,21 +100,22 @@ Vertex* InsertGraphic::VertexAt(size_t place) {
 }
 
 bool InsertGraphic::FindMotion(Matrix& motion) const {
-    if (!first_) return false;
+    if (!more_ || !more_->first) return false;
+    const Matrix& first = *more_->first;
     const Matrix now = Placement();
-    if (std::equal(&now.at[0][0], &now.at[0][0] + 16, &first_->at[0][0])) return false;
+    if (std::equal(&now.at[0][0], &now.at[0][0] + 16, &first.at[0][0])) return false;
     Matrix back;
-    motion = dxf::Solid(*first_).Invert(back) ? back * dxf::Solid(now)
-                                              : Matrix::Translation(Origin(now) - Origin(*first_));
+    motion = dxf::Solid(first).Invert(back) ? back * dxf::Solid(now)
+                                            : Matrix::Translation(Origin(now) - Origin(first));
     return true;
 }
 
 InsertArray InsertGraphic::MovedArray() const {
-    InsertArray moved = array;
+    InsertArray moved = Array();
     Matrix motion;
-    if ((array.columns > 1 || array.rows > 1) && FindMotion(motion)) {
-        moved.columnStep = motion.Turn(array.columnStep);
-        moved.rowStep = motion.Turn(array.rowStep);
+    if (!moved.IsOne() && FindMotion(motion)) {
+        moved.columnStep = motion.Turn(moved.columnStep);
+        moved.rowStep = motion.Turn(moved.rowStep);
     }
     return moved;
 }

@@ -12,13 +12,15 @@ namespace drawcore {
 struct InsertArray {
     int columns = 1, rows = 1;
     Vec3 columnStep, rowStep; // from one copy to the next
+
+    bool IsOne() const { return columns <= 1 && rows <= 1; }
 };
 
 class InsertGraphic : public Graphic {
 public:
     // The matrix is held as four vertices: the origin and the end points of the block's axes.
     explicit InsertGraphic(Id blockId = kNoId, const Matrix& placement = {});
-    InsertGraphic(const InsertGraphic&) = default;
+    InsertGraphic(const InsertGraphic& other);
 
     Kind GetKind() const override { return Kind::Insert; }
     std::unique_ptr<Graphic> CloneState() const override;
@@ -33,11 +35,12 @@ public:
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
     void Place(const Matrix& placement);
+    InsertArray Array() const { return more_ ? more_->array : InsertArray(); }
+    void SetArray(const InsertArray& array);
     InsertArray MovedArray() const; // as it is seen
 
     Id block; // entry of "_Blocks_" of the drawing that this graphic is attached to
     Vertex vertices[4];
-    InsertArray array;
 
 protected:
     void AddShapeExtents(Extents& extents) const override;
@@ -45,7 +48,14 @@ protected:
 private:
     void KeepFirst(); // someone is about to move it
 
-    std::optional<Matrix> first_; // the placement before it was moved; none as long as nobody could have
+    // What few insertions need.
+    struct More {
+        InsertArray array;
+        std::optional<Matrix> first; // the placement before it was moved; none as long as nobody could have
+    };
+    More& GetMore();
+
+    std::unique_ptr<More> more_;
 };
 
 } // namespace drawcore

@@ -63,17 +63,14 @@ public:
 PlaceIndex::PlaceIndex() = default;
 PlaceIndex::~PlaceIndex() = default;
 
-void PlaceIndex::NoteReach(const Graphic& graphic) {
-    const double half = graphic.pen.width / 2;
-    if (graphic.pen.scaleSystem == kScaleWorld)
-        worldReach_ = std::max(worldReach_, half);
-    else
-        paperReach_ = std::max(paperReach_, half);
-    worldReach_ = std::max(worldReach_, graphic.Reach());
+void PlaceIndex::NotePen(const Pen& pen) {
+    double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
+    reach = std::max(reach, pen.width / 2);
 }
 
 void PlaceIndex::NoteMember(const Graphic& member) {
-    NoteReach(member);
+    NotePen(member.GetPen());
+    worldReach_ = std::max(worldReach_, member.Reach());
     for (size_t i = 0; i < member.MemberCount(); ++i)
         NoteMember(*member.MemberAt(i));
 }
@@ -113,9 +110,9 @@ void PlaceIndex::TakeUp(const Graphic& group) {
 void PlaceIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
-    changed_.push_back(member.place_);
-    const Extents& extents = member.extents_;
-    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.place_});
+    changed_.push_back(member.Ties().place);
+    const Extents& extents = member.Box();
+    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.Ties().place});
 }
 
 void PlaceIndex::Drop() {

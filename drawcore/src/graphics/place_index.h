@@ -13,6 +13,7 @@
 namespace drawcore {
 
 class Graphic;
+struct Pen;
 
 class PlaceIndex {
 public:
@@ -28,8 +29,8 @@ public:
     // Members have got other places.
     void Drop();
 
-    // Something that the group holds has perhaps got a wider line.
-    void NoteReach(const Graphic& graphic);
+    // Something that the group holds is drawn with this pen now.
+    void NotePen(const Pen& pen);
 
 private:
     class Tree;

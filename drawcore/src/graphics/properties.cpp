@@ -51,40 +51,53 @@ struct Property {
 };
 
 // Places of values in a graphic.
+template <class Place>
+struct Assigned {
+    template <class Value>
+    static void Set(Graphic& graphic, Value value) {
+        auto& place = Place::In(graphic);
+        place = static_cast<std::decay_t<decltype(place)>>(value);
+    }
+};
 template <auto field>
-struct Own {
+struct Own : Assigned<Own<field>> {
     template <class Of>
     static auto& In(Of& graphic) {
         return graphic.*field;
     }
 };
-template <auto part, auto field>
-struct At {
+template <auto field>
+struct InPen : Assigned<InPen<field>> {
     template <class Of>
     static auto& In(Of& graphic) {
-        return (graphic.*part).*field;
+        return graphic.GetPen().*field;
     }
 };
 template <auto field>
-struct InText {
+struct InBrush {
+    static const auto& In(const Graphic& graphic) { return graphic.GetBrush().*field; }
+    template <class Value>
+    static void Set(Graphic& graphic, Value value) {
+        Brush brush = graphic.GetBrush();
+        brush.*field = static_cast<std::decay_t<decltype(brush.*field)>>(value);
+        graphic.SetBrush(brush);
+    }
+};
+template <auto field>
+struct InText : Assigned<InText<field>> {
     static const auto& In(const Graphic& graphic) {
         return static_cast<const TextGraphic&>(graphic).state.*field;
     }
     static auto& In(Graphic& graphic) { return static_cast<TextGraphic&>(graphic).state.*field; }
 };
 
-template <class Place>
-void SetNumber(Graphic& graphic, int64_t value) {
-    auto& place = Place::In(graphic);
-    place = static_cast<std::decay_t<decltype(place)>>(value);
-}
-
 template <class Place, bool (*accepts)(const Graphic&, int64_t)>
 constexpr Property Whole(const char* name, PropertyMeaning meaning, uint8_t owners, bool shapes = false) {
     return {name,
             meaning,
             owners,
-            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts, SetNumber<Place>},
+            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts,
+             Place::template Set<int64_t>},
             {},
             {},
             shapes};
@@ -96,8 +109,7 @@ constexpr Property Real(const char* name, PropertyMeaning meaning, uint8_t owner
             meaning,
             owners,
             {},
-            {[](const Graphic& g) -> double { return Place::In(g); }, accepts,
-             [](Graphic& g, double v) { Place::In(g) = v; }},
+            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>},
             {},
             shapes};
 }
@@ -152,11 +164,6 @@ const char* GetInfo(const Graphic& graphic) {
 void SetInfo(Graphic& graphic, const char* text) {
     graphic.info = *text ? std::make_unique<std::string>(text) : nullptr;
 }
-
-template <auto field>
-using InPen = At<&Graphic::pen, field>;
-template <auto field>
-using InBrush = At<&Graphic::brush, field>;
 
 // A text in the default face names the face that is the default here.
 const char* GetFont(const Graphic& graphic) {

@@ -60,7 +60,7 @@ TextGraphic::TextGraphic() : Graphic(kGraphicText, &kTextProperties) {}
 
 std::unique_ptr<Graphic> TextGraphic::CloneState() const {
     auto copy = std::make_unique<TextGraphic>(*this);
-    copy->InvalidateLayout();
+    copy->rows_ = {};
     return copy;
 }
 
@@ -82,18 +82,29 @@ Look TextGraphic::GetLook() const {
     return look;
 }
 
-void TextGraphic::SetLook(const Look& look) {
+bool TextGraphic::HasLetters(const Look& look) const {
+    return state.font == look.font && state.height == look.textHeight && state.style == look.textStyle &&
+           state.format == look.textFormat;
+}
+
+bool TextGraphic::HasLook(const Look& look) const {
+    return Graphic::HasLook(look) && HasLetters(look);
+}
+
+bool TextGraphic::SetLook(const Look& look) {
     Graphic::SetLook(look);
+    if (HasLetters(look)) return false;
     state.font = look.font;
     state.height = look.textHeight;
     state.style = look.textStyle;
     state.format = look.textFormat;
+    return true;
 }
 
-void TextGraphic::InvalidateLayout() {
+// Something may have changed since the rows were laid out.
+void TextGraphic::AddShapeExtents(Extents& extents) const {
     rows_.clear();
-    laidOut_ = {};
-    hasLayout_ = false;
+    Graphic::AddShapeExtents(extents);
 }
 
 bool TextGraphic::EqualState(const Graphic& saved) const {
@@ -101,9 +112,7 @@ bool TextGraphic::EqualState(const Graphic& saved) const {
 }
 
 void TextGraphic::LayOut() const {
-    if (hasLayout_ && laidOut_ == state) return;
-    laidOut_ = state;
-    hasLayout_ = true;
+    if (!rows_.empty()) return;
     std::wstring text = state.text;
     if (state.style & kTextAllCaps) ::CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
     const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
@@ -115,7 +124,7 @@ void TextGraphic::LayOut() const {
         else
             texts.push_back(line);
     }
-    rows_.clear();
+    rows_.reserve(texts.size());
     for (std::wstring& row : texts) {
         std::vector<ShapedRun> runs = face.Shape(row);
         std::vector<int> steps;

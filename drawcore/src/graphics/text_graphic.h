@@ -48,10 +48,14 @@ public:
     bool EqualState(const Graphic& saved) const override;
     size_t StateSize() const override;
     Look GetLook() const override;
-    void SetLook(const Look& look) override;
+    bool HasLook(const Look& look) const override;
+    bool SetLook(const Look& look) override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
     TextState state;
+
+protected:
+    void AddShapeExtents(Extents& extents) const override;
 
 private:
     // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
@@ -62,17 +66,15 @@ private:
         Point origin;
         double width;
     };
+    bool HasLetters(const Look& look) const;
     void LayOut() const;
-    void InvalidateLayout();
     void PlaceRows(const TextFace& face) const;
     double BoxWidth() const;
     void TraceFrame(const Trace& trace, const PenUse& use) const;
     Matrix RowMatrix(const Row& row) const;
 
-    mutable std::vector<Row> rows_;
-    mutable double stretch_ = 1; // of the letters' widths
-    mutable TextState laidOut_;  // what rows_ shows
-    mutable bool hasLayout_ = false;
+    mutable std::vector<Row> rows_; // made when the extents are; none: to be made
+    mutable double stretch_ = 1;    // of the letters' widths
 };
 
 } // namespace drawcore

@@ -73,7 +73,7 @@ Id EffectiveLayer(const Graphic& graphic, const Trace& trace) {
 }
 
 PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
-    const Pen& pen = graphic.pen;
+    const Pen& pen = graphic.GetPen();
     const Id layer = EffectiveLayer(graphic, trace);
     const double unit = trace.penUnit > 0 ? trace.penUnit : trace.matrix.PlanScale();
     PenUse use;
@@ -89,7 +89,7 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
 }
 
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
-    const Brush& brush = graphic.brush;
+    const Brush& brush = graphic.GetBrush();
     if (brush.style == kBrushStyleNone) return;
     BrushUse fill;
     fill.color = brush.color == kColorOfPen

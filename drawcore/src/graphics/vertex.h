@@ -1,5 +1,8 @@
-// Vertices: the record that host and library share, followed by bulge and widths.
+// Vertices: the record that host and library share, which is all that most of them need.
 #pragma once
+
+#include <cstring>
+#include <memory>
 
 #include "drawcore/src/geometry/matrix.h"
 #include "orlo/host/records.h"
@@ -8,22 +11,25 @@ namespace drawcore {
 
 class Graphic;
 
-// The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the vertex then
-// changes the graphic. A copy of the vertex belongs to none.
-struct VertexOwner {
-    VertexOwner() = default;
-    VertexOwner(const VertexOwner&) {}
-    VertexOwner& operator=(const VertexOwner&) { return *this; }
+// Of the segment from a vertex to the next. Most are straight and as wide as the pen.
+struct Segment {
+    double bulge = 0;                    // tangent of a quarter of the arc's angle, positive to the left
+    double startWidth = 0, endWidth = 0; // drawing units
 
-    Graphic* graphic = nullptr;
+    bool IsPlain() const { return bulge == 0 && startWidth == 0 && endWidth == 0; }
 };
 
-struct Vertex : VertexStruct {
+class Vertex : public VertexStruct {
+public:
     Vertex() : Vertex(Vec3{}) {}
     explicit Vertex(const Vec3& p, bool drawn = true) : VertexStruct{} {
         wFlags = drawn ? kVertexDrawn : 0;
         Set(p);
     }
+    Vertex(const Vertex& other) : Vertex() { *this = other; }
+    Vertex(Vertex&& other) noexcept : VertexStruct(other) { other.Keep({}); }
+    Vertex& operator=(const Vertex& other);
+    ~Vertex() { delete Kept().segment; }
 
     static Vertex* From(VertexStruct* vertex) { return static_cast<Vertex*>(vertex); }
 
@@ -34,14 +40,31 @@ struct Vertex : VertexStruct {
         z = p.z;
     }
 
-    // Of the segment from this vertex to the next. bulge: tangent of a quarter of the arc's angle, positive to the left;
-    // widths in drawing units.
-    double bulge = 0;
-    double startWidth = 0;
-    double endWidth = 0;
+    Segment Next() const { return Kept().segment ? *Kept().segment : Segment{}; }
+    void SetNext(const Segment& segment);
 
-    VertexOwner owner;
+    // The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the vertex then
+    // changes the graphic. A copy of the vertex belongs to none.
+    Graphic* Owner() const { return Kept().owner; }
+    void SetOwner(Graphic* owner) { Keep({Kept().segment, owner}); }
+
+private:
+    // In the bytes of the record that are the host's own.
+    struct HostPart {
+        const Segment* segment = nullptr; // owned; null: plain
+        Graphic* owner = nullptr;
+    };
+    static_assert(sizeof(HostPart) <= sizeof VertexStruct::host6);
+
+    HostPart Kept() const {
+        HostPart part;
+        std::memcpy(&part, host6, sizeof part);
+        return part;
+    }
+    void Keep(const HostPart& part) { std::memcpy(host6, &part, sizeof part); }
 };
+
+static_assert(sizeof(Vertex) == sizeof(VertexStruct));
 
 bool operator==(const Vertex& a, const Vertex& b);
 

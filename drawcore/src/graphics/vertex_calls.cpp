@@ -24,7 +24,7 @@ VertexStruct* VertexNewFromEx(VertexStruct* from) {
 
 void VertexSet(VertexStruct* vertex, double x, double y, double z) {
     if (!vertex) return;
-    drawcore::Graphic* const graphic = Vertex::From(vertex)->owner.graphic;
+    drawcore::Graphic* const graphic = Vertex::From(vertex)->Owner();
     if (graphic) graphic->ChangingShape();
     Vertex::From(vertex)->Set({x, y, z});
     if (graphic) graphic->ChangedShape();

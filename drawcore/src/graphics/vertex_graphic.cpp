@@ -11,9 +11,24 @@
 
 namespace drawcore {
 
+Vertex& Vertex::operator=(const Vertex& other) {
+    if (this == &other) return *this;
+    wFlags = other.wFlags;
+    Set(other.Position());
+    SetNext(other.Next());
+    return *this;
+}
+
+void Vertex::SetNext(const Segment& segment) {
+    const Segment* made = segment.IsPlain() ? nullptr : new Segment(segment);
+    delete Kept().segment;
+    Keep({made, Kept().owner});
+}
+
 bool operator==(const Vertex& a, const Vertex& b) {
-    return std::tie(a.wFlags, a.bulge, a.startWidth, a.endWidth) ==
-               std::tie(b.wFlags, b.bulge, b.startWidth, b.endWidth) &&
+    const Segment one = a.Next(), other = b.Next();
+    return std::tie(a.wFlags, one.bulge, one.startWidth, one.endWidth) ==
+               std::tie(b.wFlags, other.bulge, other.startWidth, other.endWidth) &&
            a.Position() == b.Position();
 }
 
@@ -47,7 +62,7 @@ namespace {
 
 // Adds the segment from a to b, with a's bulge.
 void AddSegment(const Vertex& a, const Vertex& b, const Trace& trace, Path& path) {
-    if (const std::optional<EllipseArc> arc = ArcOfBulge(a.Position(), b.Position(), a.bulge))
+    if (const std::optional<EllipseArc> arc = ArcOfBulge(a.Position(), b.Position(), a.Next().bulge))
         FlattenArc(*arc, trace.matrix, trace.sink.Tolerance(), path);
     else
         path.LineTo(trace.matrix.Plan(b.Position()));
@@ -105,8 +120,8 @@ public:
         AddSegment(a, b, trace, middle_);
         for (size_t i = 1; i < middle_.points.size(); ++i)
             length_ += Distance(i);
-        start_ = a.startWidth;
-        end_ = a.endWidth;
+        start_ = a.Next().startWidth;
+        end_ = a.Next().endWidth;
     }
 
     void Outline(Path& path) const {
@@ -138,9 +153,12 @@ private:
     double scale_, length_ = 0, start_ = 0, end_ = 0;
 };
 
+bool HasWidth(const Segment& segment) {
+    return segment.startWidth > 0 || segment.endWidth > 0;
+}
+
 bool HasWidths(const std::vector<Vertex>& vertices) {
-    return std::any_of(vertices.begin(), vertices.end(),
-                       [](const Vertex& v) { return v.startWidth > 0 || v.endWidth > 0; });
+    return std::any_of(vertices.begin(), vertices.end(), [](const Vertex& v) { return HasWidth(v.Next()); });
 }
 
 // The segments with widths as areas in the pen's colour.
@@ -151,7 +169,7 @@ void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse&
     for (size_t i = 0; i + (graphic.closed ? 0 : 1) < count; ++i) {
         const Vertex &a = graphic.vertices[i], &b = graphic.vertices[(i + 1) % count];
         const bool drawn = i + 1 == count || (b.wFlags & kVertexDrawn);
-        if (!drawn || (a.startWidth <= 0 && a.endWidth <= 0)) continue;
+        if (!drawn || !HasWidth(a.Next())) continue;
         WideSegment(a, b, trace).Outline(trace.tools.path);
         trace.sink.Fill(trace.tools.path, solid);
     }
@@ -162,7 +180,7 @@ void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse&
 void VertexGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     if (vertices.empty()) return;
     Path& path = trace.tools.path;
-    if (brush.style != kBrushStyleNone && vertices.size() > 2) {
+    if (GetBrush().style != kBrushStyleNone && vertices.size() > 2) {
         if (dwOneOutline)
             BuildOutline(*this, trace, path);
         else
@@ -179,12 +197,12 @@ void VertexGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
 double VertexGraphic::Reach() const {
     double widest = 0;
     for (const Vertex& vertex : vertices)
-        widest = std::max({widest, vertex.startWidth, vertex.endWidth});
+        widest = std::max({widest, vertex.Next().startWidth, vertex.Next().endWidth});
     return widest / 2;
 }
 
 void VertexGraphic::AddShapeExtents(Extents& extents) const {
-    const auto isArc = [](const Vertex& v) { return v.bulge != 0; };
+    const auto isArc = [](const Vertex& v) { return v.Next().bulge != 0; };
     for (const Vertex& vertex : vertices)
         extents.Add(vertex.Position());
     if (std::any_of(vertices.begin(), vertices.end(), isArc)) Graphic::AddShapeExtents(extents);

@@ -27,8 +27,8 @@ public:
     bool IsGroup() const { return vertices.empty() && MemberCount() != 0; }
     void AddVertex(const Vec3& point, bool drawn = true) { vertices.emplace_back(point, drawn); }
 
-    std::vector<Vertex> vertices;
     bool closed = false; // the last vertex has a segment to the first
+    std::vector<Vertex> vertices;
 
 protected:
     void AddShapeExtents(Extents& extents) const override;

@@ -26,6 +26,7 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
     auto graphic = std::make_unique<VertexGraphic>();
     VertexBuilder builder(*graphic);
     dxf::Trace(entity, {}, builder);
+    graphic->vertices.shrink_to_fit();
     return graphic;
 }
 
@@ -33,8 +34,9 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
 void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     if (dxf::HasOneWidth(polyline)) return;
     for (size_t i = 0; i < polyline.vertices.size(); ++i) {
-        graphic.vertices[i].startWidth = std::max(polyline.vertices[i].startWidth, 0.0);
-        graphic.vertices[i].endWidth = std::max(polyline.vertices[i].endWidth, 0.0);
+        const dxf::Polyline::Vertex& from = polyline.vertices[i];
+        graphic.vertices[i].SetNext(
+            {graphic.vertices[i].Next().bulge, std::max(from.startWidth, 0.0), std::max(from.endWidth, 0.0)});
     }
 }
 
@@ -70,10 +72,11 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
         return MakeFlat(entity,
                         Straightened(polyline)); // seen at an angle, a circle is no longer a circle
     auto graphic = std::make_unique<VertexGraphic>();
+    graphic->vertices.reserve(polyline.vertices.size());
     const Matrix system = dxf::ObjectSystem(entity.normal);
     for (const dxf::Polyline::Vertex& from : polyline.vertices) {
         Vertex& vertex = graphic->vertices.emplace_back(system.Apply(from.at));
-        vertex.bulge = from.bulge * (entity.normal.z < 0 ? -1 : 1);
+        vertex.SetNext({from.bulge * (entity.normal.z < 0 ? -1 : 1), 0, 0});
     }
     graphic->closed = polyline.closed;
     SetWidths(polyline, *graphic);
@@ -173,15 +176,13 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
     if (!block) return nullptr;
     const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
     auto graphic = std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity));
-    graphic->array.columns = static_cast<int>(insert.columns);
-    graphic->array.rows = static_cast<int>(insert.rows);
-    graphic->array.columnStep = turned.Turn({insert.columnSpacing, 0, 0});
-    graphic->array.rowStep = turned.Turn({0, insert.rowSpacing, 0});
+    graphic->SetArray({static_cast<int>(insert.columns), static_cast<int>(insert.rows),
+                       turned.Turn({insert.columnSpacing, 0, 0}), turned.Turn({0, insert.rowSpacing, 0})});
     return graphic;
 }
 
 void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
-    Pen& pen = graphic.pen;
+    Pen& pen = graphic.GetPen();
     pen.color = look.color;
     pen.style = LineStyleOf(look.lineType);
     pen.scale = look.lineScale;
@@ -189,7 +190,7 @@ void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
     pen.scaleSystem = look.worldWidth ? kScaleWorld : kScalePaper;
     pen.alignment = look.dashesFitted;
     graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
-    graphic.brush = ImportBrush(look.brush, *drawing_.BrushStyles());
+    graphic.SetBrush(ImportBrush(look.brush, *drawing_.BrushStyles()));
     if (!look.info.empty()) graphic.info = std::make_unique<std::string>(CodePageFromUtf8(look.info));
     if (!look.styleTree.empty())
         graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));

@@ -32,7 +32,7 @@ void VertexBuilder::ArcTo(const EllipseArc& arc) {
     const bool mirrored = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x < 0;
     const double bulge = circle ? std::tan(arc.sweep / pieces / 4) * (mirrored ? -1 : 1) : 0;
     for (int i = 1; i <= pieces; ++i) {
-        if (circle) vertices_.back().bulge = bulge;
+        if (circle) vertices_.back().SetNext({bulge, 0, 0});
         LineTo(arc.At(arc.start + arc.sweep * i / pieces));
     }
 }

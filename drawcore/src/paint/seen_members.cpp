@@ -9,10 +9,9 @@ namespace drawcore {
 
 namespace {
 
-// Whether the plan is moved, scaled and mirrored only, so that a box stays a box, and alike in both directions.
+// Whether a box of the plan stays one, and grows alike in both directions.
 bool KeepsBoxes(const Matrix& m) {
-    return m.at[0][1] == 0 && m.at[1][0] == 0 && m.at[2][0] == 0 && m.at[2][1] == 0 &&
-           std::isnormal(m.at[0][0]) && std::fabs(m.at[0][0]) == std::fabs(m.at[1][1]);
+    return m.KeepsAxes() && std::isnormal(m.at[0][0]) && std::fabs(m.at[0][0]) == std::fabs(m.at[1][1]);
 }
 
 Extents BackFrom(const Box& device, const Matrix& m) {
