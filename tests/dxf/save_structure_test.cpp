@@ -26,23 +26,39 @@ void ExpectNear(const std::vector<double>& a, const std::vector<double>& b) {
         ASSERT_NEAR(a[i], b[i], 1e-6 * std::max(1.0, std::fabs(b[i]))) << "number " << i;
 }
 
+void Remove(GraphicStruct* set, GraphicStruct* member) {
+    GraphicDelete(set, member);
+    GraphicDispose(&member);
+}
+
 TEST_F(SaveStructure, TakesOutWhatWasRemoved) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
-        std::vector<GraphicStruct*> removed;
-        int index = 0;
-        for (GraphicStruct* g : Members(root))
-            if (++index % 2 == 0) removed.push_back(g);
-        for (GraphicStruct* g : removed) {
-            GraphicDelete(root, g);
-            GraphicDispose(&g);
+        for (const int kept : {2, 1}) { // first every other one, then all
+            std::vector<GraphicStruct*> removed;
+            int index = 0;
+            for (GraphicStruct* g : Members(root))
+                if (++index % kept == 0) removed.push_back(g);
+            for (GraphicStruct* g : removed)
+                Remove(root, g);
+            ASSERT_EQ(Write(drawing), kSaveDone) << message;
+            const OwnedDrawing read = Open(path);
+            ASSERT_TRUE(read);
+            ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
         }
-        ASSERT_EQ(Write(drawing), kSaveDone) << message;
-        const OwnedDrawing read = Open(path);
-        ASSERT_TRUE(read);
-        ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
-        ASSERT_EQ(Write(drawing), kSaveDone) << "once more, of what is left: " << message;
+        EXPECT_TRUE(BoxesOf(root).empty());
     });
+}
+
+TEST_F(SaveStructure, KeepsTheOrderOfWhatIsTakenOutAndPutInAgain) {
+    const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
+    GraphicStruct* root = DrawingGetRoot(drawing.get());
+    GraphicStruct* first = *Members(root).begin();
+    GraphicDelete(root, first);
+    GraphicAdd(root, first);
+    ASSERT_EQ(Write(drawing), kSaveDone) << message;
+    const OwnedDrawing read = Open(path);
+    ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
 }
 
 // What can't be saved is refused as a whole; the file then holds the rest.
@@ -63,8 +79,7 @@ TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
             done ? ++saved[GraphicGetKind(g)] : ++refused;
             if (done) continue;
             EXPECT_FALSE(message.empty());
-            GraphicDelete(root, copy);
-            GraphicDispose(&copy);
+            Remove(root, copy);
         }
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
         const OwnedDrawing read = Open(path);
@@ -165,8 +180,7 @@ TEST_F(SaveStructure, HoldsBlocksThatTheProgramHasMade) {
         GraphicStruct* last = nullptr;
         for (GraphicStruct* g : Members(root))
             last = g;
-        GraphicDelete(root, last);
-        GraphicDispose(&last);
+        Remove(root, last);
         BlockDispose(BlocksFromDrawing(drawing.get()), id);
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
         const OwnedDrawing without = Open(path);
@@ -187,8 +201,7 @@ TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
     GraphicStruct* group = GraphicAdd(content, GraphicCopyEx(content, 0, 0, 7));
     EXPECT_EQ(Write(drawing), kSaveFailed);
     EXPECT_EQ(message, "block \"Part\": a group of graphics was added, which the file can't hold");
-    GraphicDelete(content, group);
-    GraphicDispose(&group);
+    Remove(content, group);
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 }
 
@@ -216,10 +229,7 @@ TEST_F(SaveStructure, SaysWhetherSomethingIsUnsaved) {
          [&] { WriteProperty(part, kPropPenColor, was); }},
         {"a vertex of a block", [&] { VertexSet(*Vertices(part).begin(), 1, 2, 77); }, nullptr},
         {"a graphic", [&] { added = GraphicAdd(root, GraphicCopyEx(*Members(root).begin(), 0, 0, 7)); },
-         [&] {
-             GraphicDelete(root, added);
-             GraphicDispose(&added);
-         }},
+         [&] { Remove(root, added); }},
         {"a style",
          [&] {
              style = BlocksAddBlock(
