@@ -30,6 +30,11 @@ expect "its documents" "$(cut -d: -f1 out | uniq)" \
 expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file of this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: can\'t be opened: not a compound file'
 
+# Half a character in the name of a stream.
+LC_ALL=C sed 's/\x05\x00S\x00u/\x05\x00\x00\xd8u/' some/inner/plan.doc >half.doc
+expect "half a character" "$(ended suminfo check half.doc; grep -c '^half.doc: \\005�ummaryInformation: ' out)" $'1\n1'
+rm half.doc
+
 # Moments as another calendar has them.
 PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "$here/moments.py" moments moments.txt
 suminfo show --stream moments | sed -n 's/^    property [0-9]*  *//p' >out

@@ -84,6 +84,7 @@ const Refused kRefused[] = {
     {"MasksOfTrueColour", Dib(1, 1, 24).Masked()},
     {"RunPastTheLine", Dib(4, 2, 8).RunLength({5, 1, 0, 1})},
     {"LinesPastTheTop", Dib(4, 1, 8).RunLength({0, 0, 1, 1, 0, 1})},
+    {"EmptyLinesPastTheTop", Dib(4, 1, 8).RunLength({0, 0, 0, 0, 0, 1})},
     {"DeltaOutside", Dib(4, 2, 8).RunLength({0, 2, 3, 3, 0, 1})},
     {"DeltaCut", Dib(4, 2, 8).RunLength({0, 2, 1})},
     {"AbsoluteCut", Dib(4, 2, 8).RunLength({0, 4, 1, 2})},
