@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <utility>
 
+#include <drawcore/dxf.h>
 #include <drawcore/graphic.h>
+#include <drawcore/owned_drawing.h>
 #include <drawcore/regen.h>
 
 #include "drawcore/kit.h"
@@ -239,6 +244,30 @@ TEST(Strings, AreTheHostsTexts) {
     EXPECT_EQ(DrawCoreLoadString(1, text, sizeof text), 0);
     EXPECT_STREQ(text, "");
     EXPECT_EQ(DrawCoreLoadString(kStringByLayer, text, 0), 0);
+}
+
+// A half circle to the right of its chord, and a segment that grows wide: vertices are copied with what follows them.
+TEST(Copies, HaveTheArcsAndWidthsOfTheOriginal) {
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "orlo_copies.dxf";
+    std::ofstream(path) << "0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n8\n0\n90\n3\n70\n0\n"
+                           "10\n20\n20\n20\n42\n1\n10\n20\n20\n60\n40\n0\n41\n20\n10\n80\n20\n60\n"
+                           "0\nENDSEC\n0\nEOF\n";
+    const OwnedDrawing drawing(DrawingOpenDxf(path.c_str(), nullptr, nullptr, 0));
+    std::filesystem::remove(path);
+    ASSERT_NE(drawing, nullptr);
+    GraphicStruct* original = Members(DrawingGetRoot(drawing.get())).at(0);
+    const Loose copy(GraphicCopyEx(original, 0, 0, 7));
+    EXPECT_NEAR(BoxOf(original).right, 80, 1e-9);
+    EXPECT_NEAR(BoxOf(copy).bottom, BoxOf(original).bottom, 1e-9);
+    Picture picture(drawing.get());
+    const auto pixels = [&](GraphicStruct* graphic) {
+        picture.Draw(graphic);
+        return std::pair(picture.Covered(20, 20, 45, 60), picture.Covered(60, 50, 90, 70));
+    };
+    const auto [arc, wide] = pixels(original);
+    EXPECT_GT(arc, 60) << "longer than its chord";
+    EXPECT_GT(wide, 200);
+    EXPECT_EQ(pixels(copy), std::pair(arc, wide));
 }
 
 } // namespace

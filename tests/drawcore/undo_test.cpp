@@ -225,6 +225,21 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
     EXPECT_LT((HeapBytes() - before) / kGraphics / kSteps, 30u) << "bytes a graphic and step";
 }
 
+// It is written beside the properties, and goes back with them: graphics that look the same may have different ones.
+TEST_F(Undo, TakesBackThePageThatWroteLast) {
+    lines[0]->wLastPage = 5;
+    lines[1]->wLastPage = 6;
+    DrawingBeginUndo(drawing);
+    for (GraphicStruct* line : lines) {
+        SetReal(line, kPropPenWidth, 2);
+        line->wLastPage = 9;
+    }
+    DrawingEndUndo(drawing);
+    DrawingUndo(drawing);
+    EXPECT_EQ(lines[0]->wLastPage, 5);
+    EXPECT_EQ(lines[1]->wLastPage, 6);
+}
+
 // The look is saved first, and the shape is about to change only after the look has changed.
 TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
     DrawingBeginUndo(drawing);

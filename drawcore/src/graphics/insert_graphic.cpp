@@ -69,7 +69,6 @@ void InsertGraphic::Restore(const Graphic& saved) {
     RestoreAttributes(other);
     std::copy(std::begin(other.vertices), std::end(other.vertices), vertices);
     block = other.block;
-    SetArray(other.Array());
 }
 
 size_t InsertGraphic::StateSize() const {

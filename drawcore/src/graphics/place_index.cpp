@@ -53,6 +53,19 @@ TreeBox BoxOf(const Extents& extents) {
             {RoundedUp(extents.high.x), RoundedUp(extents.high.y)}};
 }
 
+double Share(double low, double high, double allLow, double allHigh) {
+    const double all = allHigh - allLow;
+    return all > 0 ? std::clamp((std::min(high, allHigh) - std::max(low, allLow)) / all, 0.0, 1.0) : 1;
+}
+
+// Whether so much of all lies in the box that it takes less time to look at every member than to sort those in it.
+bool HoldsMuch(const Extents& box, const Extents& all) {
+    constexpr double kMuch = 0.125;
+    return Share(box.low.x, box.high.x, all.low.x, all.high.x) *
+               Share(box.low.y, box.high.y, all.low.y, all.high.y) >
+           kMuch;
+}
+
 } // namespace
 
 class PlaceIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SamePlace> {
@@ -121,7 +134,7 @@ void PlaceIndex::Drop() {
 
 std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, const Extents& box,
                                                       double paperInch) {
-    if (box.Covers(group.GetExtents())) return std::nullopt;
+    if (HoldsMuch(box, group.GetExtents())) return std::nullopt;
     TakeUp(group);
     const double reach = std::max(worldReach_, paperReach_ * paperInch);
     Extents around = box;
