@@ -99,7 +99,5 @@ private:
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;
-    uint32_t m_savedMark;
-    uint32_t m_savedStyles = 0;
     bool m_isGathering = false;
 };
