@@ -54,15 +54,14 @@ std::unique_ptr<Document> Document::Open(const std::string& path, const Progress
 }
 
 Document::Document(const std::string& path, OwnedDrawing drawing)
-    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()),
-      m_savedMark(::DrawingGetUndoMark(Drawing())) {}
+    : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()) {}
 
 std::string Document::Name() const {
     return m_path.substr(m_path.find_last_of("\\/") + 1);
 }
 
 bool Document::IsModified() const {
-    return ::DrawingGetUndoMark(Drawing()) != m_savedMark || m_styles.Changes() != m_savedStyles;
+    return ::DrawingIsModified(Drawing());
 }
 
 bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
@@ -73,8 +72,6 @@ bool Document::Save(const std::string& path, bool overChanged, const Progress& p
     switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
-        m_savedMark = ::DrawingGetUndoMark(Drawing());
-        m_savedStyles = m_styles.Changes();
         return true;
     case kSaveFileChanged:
         return false;

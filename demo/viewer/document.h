@@ -41,8 +41,7 @@ public:
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
 
-    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count too,
-    // although the file holds none of their names.
+    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count too.
     bool IsModified() const;
     // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
     // file that it was opened from; overChanged: writes all the same. Throws SaveError
@@ -100,7 +99,5 @@ private:
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;
-    uint32_t m_savedMark;
-    uint32_t m_savedStyles = 0;
     bool m_isGathering = false;
 };

@@ -136,9 +136,7 @@ bool CMainFrame::Save(const std::string& path) {
         return false;
     }
     RecentFiles::Add(path);
-    const bool hasStyles = !m_document->Styles().All().empty();
-    m_status.ShowMessage("Saved " + SystemText(m_document->Name()) +
-                         (hasStyles ? "; the file holds no styles" : ""));
+    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
     ShowTitle();
     return true;
 }

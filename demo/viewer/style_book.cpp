@@ -34,9 +34,11 @@ const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
                       kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
 const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
 
+// What is the same already is not written: writing the size of a text, for one, may round its shape.
 template <class Value>
 void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
-    if (const auto value = ReadProperty<Value>(from, name)) WriteProperty(to, name, *value);
+    const auto value = ReadProperty<Value>(from, name);
+    if (value && value != ReadProperty<Value>(to, name)) WriteProperty(to, name, *value);
 }
 
 void CopyProperty(GraphicStruct* from, GraphicStruct* to, const PropertyInfo& property) {
@@ -183,7 +185,6 @@ uint16_t StyleBook::TakeAdded() {
 void StyleBook::Enter(uint16_t id, Parts parts) {
     m_parts[id] = parts;
     m_current = id;
-    ++m_changes;
     for (GraphicStruct* member : Members(Content(id)))
         WriteProperty(member, kPropStyleTree, id);
 }
@@ -192,7 +193,6 @@ bool StyleBook::Delete(uint16_t id) {
     if (Uses(id) > 0) return false;
     ::BlockDispose(Table(), id);
     m_parts.erase(id);
-    ++m_changes;
     if (m_current == id) m_current = m_parts.empty() ? 0 : m_parts.begin()->first;
     return true;
 }

@@ -53,10 +53,6 @@ public:
     // Its contents as they are now, and what puts them back.
     orlo::host::OwnedGraphic Copy(uint16_t id) const;
     void Restore(uint16_t id, GraphicStruct* copy);
-    // Somebody else has edited a style.
-    void NoteEdit() { ++m_changes; }
-    // Grows whenever a style comes, goes or is edited.
-    uint32_t Changes() const { return m_changes; }
     // Gives the graphics the current style's parts.
     void ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const;
 
@@ -66,6 +62,5 @@ private:
 
     DrawingStruct* m_drawing;
     std::map<uint16_t, Parts> m_parts;
-    uint32_t m_changes = 0;
     uint16_t m_current = 0;
 };

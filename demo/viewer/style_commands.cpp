@@ -4,11 +4,9 @@
 
 #include "demo/viewer/document.h"
 #include "demo/viewer/property_sheet.h"
-#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/style_wizard.h"
 #include "orlo/frame/style_end_code.h"
 #include "orlo/host/owners.h"
-#include "orlo/host/walk.h"
 
 namespace {
 
@@ -24,21 +22,12 @@ uint16_t StyleIn(const Document& document, int code, int kind) {
     return document.Styles().IsStyle(static_cast<uint16_t>(id)) ? static_cast<uint16_t>(id) : 0;
 }
 
-PropertySnapshot SnapshotOf(const Document& document, uint16_t style) {
-    std::vector<GraphicStruct*> samples;
-    for (GraphicStruct* sample : orlo::host::Members(document.Styles().Content(style)))
-        samples.push_back(sample);
-    return {document.Drawing(), samples};
-}
-
 // Undo knows no styles: Cancel puts back a copy that was taken before. The code is RunSheet's.
 int EditStyle(CWnd* owner, Document& document, uint16_t style) {
     StyleBook& styles = document.Styles();
     const orlo::host::OwnedGraphic copy = styles.Copy(style);
-    const PropertySnapshot before = SnapshotOf(document, style);
     const int code = RunSheet(owner, document.Drawing(), styles.Content(style), kWithStylePart);
     if (code == IDCANCEL && copy) styles.Restore(style, copy.get());
-    if (!(before == SnapshotOf(document, style))) styles.NoteEdit();
     return code;
 }
 

@@ -217,9 +217,10 @@ TEST_F(Viewer, TheFirstOfDroppedFilesIsOpenedAndTheOthersAreKept) {
         frame->PostMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(files)));
         user.Wait(0);
     };
-    drop({first, file.Path()});
+    const DrawingFile other(file.Read().c_str());
+    drop({first, other.Path()});
     EXPECT_EQ(document().Path(), first);
-    EXPECT_EQ(RecentFiles::List()[1], file.Path());
+    EXPECT_EQ(RecentFiles::List()[1], other.Path());
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
     MessageBoxWatcher boxes(IDCANCEL);
     drop({file.Path()});

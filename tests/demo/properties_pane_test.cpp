@@ -132,6 +132,34 @@ TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
     EXPECT_EQ(document().UndoSteps(), 2);
 }
 
+// The modal sheet has a step of its own, whatever the pane has begun.
+TEST_F(Pane, StandsBackForTheModalSheet) {
+    ShowPen();
+    TypeScale("2");
+    user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
+    for (const UINT end : {VK_ESCAPE, VK_RETURN}) {
+        user.InDialog(
+            [&] {
+                ::SetFocus(view());
+                user.Key(VK_RETURN, UserInput::kAlt);
+            },
+            [&](HWND modal) {
+                EXPECT_FALSE(::IsWindowEnabled(frame->m_hWnd)) << "the pane with it";
+                ASSERT_TRUE(ClickTab(user, modal, 1));
+                const HWND scale = ::GetDlgItem(ActivePageOf(modal), IDC_PEN_SCALE);
+                EXPECT_EQ(WindowText(scale), "2");
+                ::SetFocus(scale);
+                ::SendMessageA(scale, EM_SETSEL, 0, -1);
+                user.Type("5");
+                user.Key(end);
+            });
+        EXPECT_EQ(ScaleOf(0), end == VK_RETURN ? 5 : 2);
+        EXPECT_EQ(document().UndoSteps(), end == VK_RETURN ? 2 : 1);
+    }
+    ShowPen();
+    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "5");
+}
+
 TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
     user.Key('A', UserInput::kControl);
     ASSERT_TRUE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
