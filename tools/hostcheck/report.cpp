@@ -12,6 +12,8 @@ namespace {
 
 constexpr DWORD kLongest = 20000; // milliseconds that one promise may take
 constexpr DWORD kTimedOut = 0xFFFFFFFF;
+constexpr int kAttempts = 3;            // to start a process: a busy system refuses one in some thousands
+constexpr DWORD kBetweenAttempts = 200; // milliseconds
 
 struct CloseIt {
     void operator()(void* handle) const { ::CloseHandle(handle); }
@@ -36,9 +38,12 @@ public:
         STARTUPINFOW start = {};
         start.cb = sizeof start;
         PROCESS_INFORMATION process = {};
-        if (!::CreateProcessW(own, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
-                              &process))
-            throw std::runtime_error("the inspecting process cannot be started");
+        for (int attempt = 1; !::CreateProcessW(own, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                                &start, &process);
+             ++attempt) {
+            if (attempt == kAttempts) throw std::runtime_error("the inspecting process cannot be started");
+            ::Sleep(kBetweenAttempts);
+        }
         ::CloseHandle(process.hThread);
         process_.reset(process.hProcess);
     }
