@@ -2,17 +2,50 @@
 
 #include "demo/viewer/property_sheet.h"
 
+#include <optional>
+
 #include "demo/viewer/document.h"
+#include "drawcore/application.h"
 #include "drawcore/regen.h"
 #include "orlo/entry/entry.h"
+#include "orlo/host/application.h"
+#include "orlo/host/property.h"
+#include "orlo/host/table.h"
 #include "orlo/host/walk.h"
+
+namespace {
+
+uint16_t SharedLayer(GraphicStruct* set) {
+    std::optional<uint16_t> shared;
+    for (GraphicStruct* graphic : orlo::host::Members(set)) {
+        const uint16_t layer = orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
+        if (shared && *shared != layer) return 0;
+        shared = layer;
+    }
+    return shared.value_or(0);
+}
+
+TableStruct* Variables() {
+    return ::AppGetCurrentApp()->pVariables;
+}
+
+} // namespace
+
+PreviewLayer::PreviewLayer(GraphicStruct* set) {
+    ::TableGetIntVar(Variables(), kVarPreviewLayer, &m_before);
+    ::TableSetIntVar(Variables(), kVarPreviewLayer, SharedLayer(set));
+}
+
+PreviewLayer::~PreviewLayer() {
+    ::TableSetIntVar(Variables(), kVarPreviewLayer, m_before);
+}
 
 void SelectionSheet::RegenMethodsDeleter::operator()(void* methods) const {
     ::RegenMethodsDispose(&methods);
 }
 
 SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags)
-    : m_methods(::RegenMethodsNew()),
+    : m_previewLayer(set), m_methods(::RegenMethodsNew()),
       m_sheet(::InitGraphicPropertySheet(owner, m_methods.get(), drawing, set, flags)) {
     if (!m_sheet) return;
     for (GraphicStruct* graphic : orlo::host::Members(set, flags))

@@ -10,6 +10,18 @@
 
 class Document;
 
+// The layer of previews while the object lives: that which all members of the set share, else none.
+class PreviewLayer {
+public:
+    explicit PreviewLayer(GraphicStruct* set);
+    ~PreviewLayer();
+    PreviewLayer(const PreviewLayer&) = delete;
+    PreviewLayer& operator=(const PreviewLayer&) = delete;
+
+private:
+    long m_before = 0;
+};
+
 // A sheet with the pages that the members of the set deserve, and the regen methods that they use.
 class SelectionSheet {
 public:
@@ -24,6 +36,7 @@ private:
     struct RegenMethodsDeleter {
         void operator()(void* methods) const;
     };
+    PreviewLayer m_previewLayer;
     std::unique_ptr<void, RegenMethodsDeleter> m_methods; // goes after the sheet
     std::unique_ptr<CGraphicPropertySheet> m_sheet;
 };

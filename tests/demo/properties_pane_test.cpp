@@ -4,9 +4,11 @@
 #include "demo/automation/sheet_pages.h"
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
+#include "drawcore/layer.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/property.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/gdi.h"
 #include "support/message_box_watcher.h"
 #include "support/object_counts.h"
 
@@ -212,6 +214,34 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x no");
     EXPECT_EQ(tip(control(IDC_JUSTIFY_CENTER)), "Justification: 1 x Left");
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 4");
+}
+
+TEST_F(Pane, ItsPreviewKnowsTheColourOfTheLayer) {
+    constexpr COLORREF kGreen = RGB(0, 255, 0);
+    constexpr int kPreview = 3999;
+    const auto layer = orlo::host::ReadProperty<uint16_t>(document().Selectable()[3], kPropLayer);
+    ASSERT_TRUE(::LayerSet(document().Drawing(), *layer, kGreen, 0, 0));
+    const auto green = [&] {
+        user.Wait(0);
+        const HWND preview = ::GetDlgItem(sheet(), kPreview);
+        const orlo::WindowDC dc(preview);
+        CRect client;
+        ::GetClientRect(preview, client);
+        int count = 0;
+        for (int y = 0; y < client.bottom; ++y)
+            for (int x = 0; x < client.right; ++x)
+                count += ::GetPixel(dc.get(), x, y) == kGreen;
+        return count;
+    };
+    user.Click(view(), Pixel(26, 31)); // the text
+    user.Wait(0);
+    ASSERT_TRUE(ClickTab(user, sheet(), 1));
+    EXPECT_GT(green(), 10);
+    ::SetFocus(view());
+    user.Key('A', UserInput::kControl); // of two layers
+    user.Wait(0);
+    ASSERT_TRUE(ClickTab(user, sheet(), 3));
+    EXPECT_EQ(green(), 0);
 }
 
 TEST_F(Pane, FiftySelectionsLeaveNothingBehind) {

@@ -441,6 +441,16 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     picture.Draw(sample, 1, kBlack);
     EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";
     TableSetIntVar(application->pVariables, kVarPreviewBackground, before);
+
+    const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Walls", nullptr);
+    TableSetIntVar(application->pVariables, kVarPreviewLayer, layer);
+    SetWhole(sample, kPropPenColor, kColorByLayer);
+    for (const uint32_t flags : {uint32_t{0}, uint32_t{kLayerOff}}) {
+        LayerSet(drawing, layer, kBlue, flags, 0);
+        picture.Draw(sample, 1);
+        EXPECT_EQ(picture.At(1, 50), flags ? kBlack : kBlue) << "a hidden layer does not hide the preview";
+    }
+    TableSetIntVar(application->pVariables, kVarPreviewLayer, 0);
 }
 
 } // namespace

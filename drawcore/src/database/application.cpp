@@ -18,6 +18,7 @@ Application::Application() : AppStruct{} {
     pVariables = &variables_;
     hPalette = static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE));
     variables_.SetVariable(kVarPreviewBackground, static_cast<int>(kWhite));
+    variables_.SetVariable(kVarPreviewLayer, int{kNoId});
     variables_.SetVariable(kVarDecimalMark, std::string("."));
 }
 
@@ -28,6 +29,11 @@ void Application::Remove(const Drawing& drawing) {
 uint32_t Application::PreviewBackground() const {
     const int* color = variables_.Variable<int>(kVarPreviewBackground);
     return color ? static_cast<uint32_t>(*color) : kWhite;
+}
+
+Id Application::PreviewLayer() const {
+    const int* layer = variables_.Variable<int>(kVarPreviewLayer);
+    return layer ? static_cast<Id>(*layer) : kNoId;
 }
 
 char DecimalMark() {

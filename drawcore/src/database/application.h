@@ -16,6 +16,7 @@ public:
     void Remove(const Drawing& drawing); // it is about to be freed
     // Variable kVarPreviewBackground; white if the host program has removed the variable.
     uint32_t PreviewBackground() const;
+    Id PreviewLayer() const; // variable kVarPreviewLayer
     const Table& Variables() const { return variables_; }
 
     std::string configurationFile;

@@ -62,6 +62,14 @@ private:
     RECT rect_;
 };
 
+// A layer that is hidden would hide the preview.
+Id PreviewLayerOf(const Drawing* drawing) {
+    const Id id = Application::Get().PreviewLayer();
+    const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
+    const Layer* layer = layers ? layers->At(id) : nullptr;
+    return layer && layer->IsVisible() ? id : kLayerZero;
+}
+
 using Clock = std::chrono::steady_clock;
 
 // Paints a graphic, then its members, of which there may be many, until the time is up. place: 0 at first, then where the last
@@ -76,10 +84,12 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
     GdiPainter painter(viewport.dc, rect, settings);
     TraceTools tools(drawing);
     Trace trace(painter, tools, placement * viewport.ToDevice() * device.FromViewport(viewport.rect));
-    if (preview)
+    if (preview) {
         trace.penUnit = FullSizeUnit(viewport.dc, drawing);
-    else
+        trace.layer = PreviewLayerOf(drawing);
+    } else {
         trace.lineScale = LineScale(graphic, drawing);
+    }
     if (place == 0) {
         if (!TraceAlone(graphic, trace)) return true;
         viewport.painting.budget = tools.budget;
