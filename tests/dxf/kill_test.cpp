@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <stdexcept>
 #include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,8 +16,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr int kNotTraced = 3; // exit code: the system does not let processes trace others
+
 [[noreturn]] void ReplaceTraced(const fs::path& path, const std::string& bytes) {
-    ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(kNotTraced);
     ::raise(SIGSTOP);
     {
         dxf::FileReplacement file(path);
@@ -32,6 +35,7 @@ bool KillsAt(int stops, const fs::path& path, const std::string& bytes) {
     if (child == 0) ReplaceTraced(path, bytes);
     int status = 0;
     ::waitpid(child, &status, 0);
+    if (WIFEXITED(status)) throw std::runtime_error("this system lets no process trace another");
     for (int i = 0; i < stops; ++i) {
         ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
         ::waitpid(child, &status, 0);

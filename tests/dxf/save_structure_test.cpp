@@ -4,6 +4,8 @@
 
 #include <map>
 
+#include "drawcore/include/drawcore/layer.h"
+
 namespace {
 
 class SaveStructure : public SavedDrawing {};
@@ -187,6 +189,43 @@ TEST_F(SaveStructure, HoldsBlocksThatTheProgramHasMade) {
         EXPECT_EQ(BlocksFindBlock(BlocksFromDrawing(without.get()), "Made \xC4"), 0);
         ExpectNear(BoxesOf(DrawingGetRoot(without.get())), before);
         EXPECT_EQ(ReadBytes(path).find("Made "), std::string::npos) << "nothing of it is left";
+    });
+}
+
+std::vector<uint32_t> LayersOf(DrawingStruct* drawing) {
+    std::vector<uint32_t> states;
+    for (const uint16_t id : orlo::host::Entries(DrawingGetTable(drawing, kTableLayers)))
+        states.insert(states.end(), {LayerGetFlags(drawing, id), LayerGetColor(drawing, id)});
+    return states;
+}
+
+TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
+    ForDrawings([&](const fs::path& original, const OwnedDrawing& drawing) {
+        DrawingStruct* const d = drawing.get();
+        const uint16_t layer = TableEntryFirst(DrawingGetTable(d, kTableLayers), nullptr);
+        const uint32_t flags = LayerGetFlags(d, layer), color = LayerGetColor(d, layer);
+        const uint16_t line = LayerGetLineStyle(d, layer);
+        const auto change = [&](uint32_t toColor, uint32_t toFlags) {
+            LayerSet(d, layer, toColor, toFlags, line);
+            const int result = Write(drawing);
+            const OwnedDrawing read = Open(path);
+            if (result == kSaveDone) {
+                EXPECT_EQ(LayersOf(read.get()), LayersOf(d));
+            }
+            return result;
+        };
+        EXPECT_EQ(change(color, flags ^ (kLayerOff | kLayerFrozen | kLayerLocked)), kSaveDone) << message;
+        EXPECT_EQ(change(RGB(255, 0, 0), flags ^ kLayerOff), kSaveDone) << message;
+        if (change(0x563412, flags) != kSaveDone) {
+            EXPECT_EQ(message, "a file of this version can't hold the colour of a layer");
+        }
+        LayerSet(d, layer, 0x563412, flags ^ kLayerLocked, line);
+        EXPECT_TRUE(DrawingIsModified(d));
+        EXPECT_EQ(change(color, flags), kSaveDone) << message;
+        EXPECT_FALSE(DrawingIsModified(d));
+        // at most a table for the layer
+        EXPECT_NEAR(static_cast<double>(ReadBytes(path).size()), static_cast<double>(fs::file_size(original)),
+                    100);
     });
 }
 

@@ -36,12 +36,12 @@ enum { kSaveOverChanged = 1 };
 // why, and no file was changed: the drawing comes from no file, the version of the file has no such entity, the disk is full,
 // another program holds the file ...
 // kSaveCancelled: the listener, which may be null, has cancelled, and no file was changed.
-// Saved are properties of graphics, the places of insertions, vertices that were moved, and what was added or removed: graphics,
-// and blocks with theirs.
+// Saved are properties of graphics, the places of insertions, vertices that were moved, what was added or removed (graphics,
+// and blocks with theirs), and the layers of the file: their states, colours and line types.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
                                 char* message, int size);
 
 // Whether the drawing has become another than its file holds, by steps of its undo log, by graphics or blocks that were added
-// or removed, or by changes within blocks; undo and redo can come back to what is saved. 0 for a drawing that comes from no
+// or removed, or by changes within blocks and of layers; undo and redo can come back to what is saved. 0 for a drawing that comes from no
 // file.
 DRAWCORE_API int DrawingIsModified(DrawingStruct*);

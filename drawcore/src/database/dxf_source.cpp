@@ -26,6 +26,9 @@ public:
     explicit ContentsMark(const Drawing& drawing) {
         for (size_t i = 0; i < drawing.Root().MemberCount(); ++i)
             Mix(static_cast<const void*>(drawing.Root().MemberAt(i)));
+        const LayerTable* layers = drawing.Layers();
+        for (Id id = layers ? layers->First() : kNoId; id; id = layers->Next(id))
+            Mix(*layers->At(id));
         const BlockTable* table = drawing.Blocks();
         for (Id id = table ? table->First() : kNoId; id; id = table->Next(id))
             if (table->At(id)->name != kPreviewBlock) Mix(*table->At(id));
@@ -36,6 +39,13 @@ private:
     template <class Value>
     void Mix(const Value& value) {
         number_ = number_ * 31 + std::hash<Value>()(value);
+    }
+    void Mix(const Layer& layer) {
+        Mix(layer.off);
+        Mix(layer.frozen);
+        Mix(layer.locked);
+        Mix(layer.color);
+        Mix(layer.lineStyle);
     }
     void Mix(const Block& block) {
         const char* tree = block.Content().pszStyleName;

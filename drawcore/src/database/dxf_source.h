@@ -17,7 +17,7 @@ struct DxfSource {
 
     // The drawing is what the file holds.
     void NoteContents(const Drawing& drawing);
-    // Whether it has become another since: by steps of its undo log, by what was added or removed, within its blocks.
+    // Whether it has become another since: by steps of its undo log, by what was added or removed, in blocks or layers.
     bool IsOutdated(const Drawing& drawing) const;
 
     std::string bytes;

@@ -28,16 +28,19 @@ struct Header {
     double dimensionScale = 1;
 };
 
+constexpr int kLayerIsFrozen = 1, kLayerIsLocked = 4;
+
 // Every named thing says whether a table holds it, or an entity only mentions it.
 struct Layer {
     std::string name;
     bool declared = false;
     int color = 7; // as stored; negative: the layer is off
-    int flags = 0; // 1 frozen, 4 locked
+    int flags = 0; // kLayerIsFrozen, kLayerIsLocked, and others
     std::string lineType;
     int32_t trueColor = -1; // 0xRRGGBB; -1: none
     int lineWeight = kLineWeightDefault;
     bool plotted = true;
+    uint32_t offset = 0; // of its record in the text of the file
 };
 
 struct LineType {

@@ -27,6 +27,7 @@ void ReadLayer(RecordReader& in) {
                                            {6, &Layer::lineType},     {420, &Layer::trueColor},
                                            {370, &Layer::lineWeight}, {290, &Layer::plotted}};
     Layer read;
+    read.offset = static_cast<uint32_t>(in.tags.Current().offset);
     std::string_view name;
     while (in.NextTag()) {
         const Tag& tag = in.tags.Current();

@@ -2,7 +2,7 @@
 #include "drawcore/src/export/look_export.h"
 
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/export/layer_export.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/import/brush_import.h"
 #include "drawcore/src/import/import_tables.h"
@@ -37,10 +37,7 @@ dxf::LayerIndex LookExport::LayerOf(Id id) {
     const dxf::LayerIndex index = patch_.FindLayer(Utf8FromCodePage(layer->name));
     const dxf::LineTypeIndex line = LineTypeOf(layer->lineStyle);
     dxf::Layer& made = patch_.Describe(index);
-    made.color = dxf::NearestIndex(layer->color) * (layer->off ? -1 : 1);
-    if (dxf::ColorOfIndex(std::abs(made.color)) != layer->color)
-        made.trueColor = dxf::TrueColorOf(layer->color);
-    made.flags = (layer->frozen ? 1 : 0) | (layer->locked ? 4 : 0);
+    drawcore::Describe(*layer, made);
     if (line < dxf::LineTypeIndex::none) made.lineType = patch_.Known().At(line).name;
     layers_.emplace(id, index);
     return index;

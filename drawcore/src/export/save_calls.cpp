@@ -8,6 +8,7 @@
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/export/drawing_comparison.h"
+#include "drawcore/src/export/layer_export.h"
 #include "drawcore/src/export/look_export.h"
 #include "drawcore/src/export/structure_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
@@ -95,11 +96,14 @@ std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressRepor
     dxf::StructurePatch structurePatch(text, source.known.Tables());
     StructureExport structure(drawing, structurePatch);
     structure.Write();
-    if (!structurePatch.IsChanged() && !IsTouched(drawing)) return std::nullopt;
+    const auto layers = ChangedLayers(drawing, source.known);
+    if (!structurePatch.IsChanged() && layers.empty() && !IsTouched(drawing)) return std::nullopt;
     const bool restructured = structurePatch.IsChanged();
     const std::string other = restructured ? structurePatch.Finish() : std::string();
     dxf::DrawingPatch patch(restructured ? std::string_view(other) : text,
                             restructured ? dxf::Read(other, {}).Tables() : source.known.Tables());
+    for (const auto& [index, layer] : layers)
+        patch.ChangeLayer(index, layer);
     ChangeExport(drawing, structure, patch).Write();
     ChangedSource changed;
     changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
@@ -108,6 +112,8 @@ std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressRepor
     const std::string difference = FirstDifference(drawing, dxf::TextOf(changed.bytes), document,
                                                    changed.sources, report.Part(kReadBack, kCompared));
     if (!difference.empty()) throw dxf::SaveError(difference);
+    if (!ChangedLayers(drawing, document).empty())
+        throw dxf::SaveError("the file can't hold a change of a layer");
     changed.known = document.Tables();
     return changed;
 }

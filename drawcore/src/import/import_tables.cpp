@@ -21,6 +21,15 @@ std::string HostName(const std::string& stored) {
 
 namespace {
 
+void SetLayer(Layer& layer, const dxf::Layer& from, const LineStyleTable& styles) {
+    const Color color = dxf::ColorOf(std::abs(from.color), from.trueColor);
+    layer.color = IsPlainColor(color) ? color : kWhite;
+    layer.lineStyle = styles.IdOf(HostName(from.lineType));
+    layer.off = from.color < 0;
+    layer.frozen = from.flags & dxf::kLayerIsFrozen;
+    layer.locked = from.flags & dxf::kLayerIsLocked;
+}
+
 // The entry of that name, which is made if there isn't one yet; 0 if the table is full.
 template <class Entry, class Make>
 Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
@@ -55,12 +64,7 @@ Id ImportLayer(const dxf::Layer& from, const LineStyleTable& styles, LayerTable&
     const Id id = FindOrAdd(layers, HostName(from.name), make);
     Layer* layer = layers.At(id);
     if (!layer) return kLayerZero;
-    const Color color = dxf::ColorOf(std::abs(from.color), from.trueColor);
-    layer->color = IsPlainColor(color) ? color : kWhite;
-    layer->lineStyle = styles.IdOf(HostName(from.lineType));
-    layer->off = from.color < 0;
-    layer->frozen = from.flags & 1;
-    layer->locked = from.flags & 4;
+    SetLayer(*layer, from, styles);
     return id;
 }
 
@@ -79,6 +83,12 @@ Id ImportBlock(const dxf::Block& from, BlockTable& blocks) {
 }
 
 } // namespace
+
+Layer ImportedLayer(const dxf::Layer& from, const LineStyleTable& styles) {
+    Layer layer(HostName(from.name));
+    SetLayer(layer, from, styles);
+    return layer;
+}
 
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
     ImportedTables tables;

@@ -19,6 +19,9 @@ struct ImportedTables {
 // The name of an entry for a name as it is stored in a file.
 std::string HostName(const std::string& stored);
 
+// What a layer of the document is in a drawing with these line styles.
+Layer ImportedLayer(const dxf::Layer& from, const LineStyleTable& styles);
+
 // Fills tables and units; the blocks are still empty.
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
 

@@ -2,6 +2,7 @@
 #include "drawcore/src/save/drawing_patch.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "drawcore/src/save/look_writer.h"
 #include "drawcore/src/save/save_error.h"
@@ -36,6 +37,22 @@ void DrawingPatch::Change(size_t offset, const Look& wanted, const EntityPlace& 
     if (place.placement) writer.Place(*place.placement);
     if (place.vertices) writer.MoveVertices(*place.vertices);
     writer.Write(wanted);
+}
+
+void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
+    Layer& layer = Describe(index);
+    if (wanted.trueColor >= 0 && layer.trueColor < 0 && Known().header.version < "AC1018")
+        throw SaveError("a file of this version can't hold the colour of a layer");
+    const bool otherLine = wanted.lineType != layer.lineType;
+    if (otherLine) NeedRecord(FindLineType(wanted.lineType));
+    const Layer was = std::exchange(layer, wanted);
+    if (!was.declared) return NeedRecord(index);
+    RecordPatch record(patch_, in_.tags, was.offset);
+    if (wanted.color != was.color) record.Set(62, std::to_string(wanted.color), {70, 2});
+    if (wanted.flags != was.flags) record.Set(70, std::to_string(wanted.flags), {2});
+    if (otherLine) record.Set(6, in_.decoder.Encode(wanted.lineType), {62, 70, 2});
+    if (wanted.trueColor == was.trueColor) return;
+    wanted.trueColor < 0 ? record.Remove(420) : record.Set(420, std::to_string(wanted.trueColor), {62});
 }
 
 std::string DrawingPatch::Finish() {

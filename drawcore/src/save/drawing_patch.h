@@ -54,6 +54,9 @@ public:
     // At most one call for each entity.
     void Change(size_t offset, const Look& wanted, const EntityPlace& place = {});
 
+    // Colour, flags and line type (by name) of a layer; at most once for each, before changes of entities.
+    void ChangeLayer(LayerIndex index, const Layer& wanted);
+
     bool IsChanged() const { return !patch_.IsEmpty(); }
     // The changed text; nothing can be changed afterwards.
     std::string Finish();
