@@ -346,6 +346,7 @@ void CMainFrame::OnLineWeights() {
 void CMainFrame::OnLayers() {
     if (!CanDo(ID_VIEW_LAYERS)) return;
     CLayersDialog(this, m_document->Drawing(), [this] { m_view.Redraw(); }).DoModal();
+    ShowTitle();
     const std::vector<GraphicStruct*> selectable = m_document->StillSelectable();
     const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
     if (left == 0) return;

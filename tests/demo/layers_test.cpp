@@ -1,5 +1,6 @@
 // The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it back.
 
+#include "demo/automation/control_text.h"
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
 
@@ -46,6 +47,7 @@ TEST_F(Layers, AreLockedByKeysAndStaySeen) {
         user.Key(VK_RETURN);
     });
     EXPECT_EQ(selection().Count(), 3) << "the text left the selection";
+    EXPECT_EQ(WindowText(frame->m_hWnd)[0], '*') << "the file will have it";
     EXPECT_EQ(SelectAll(), 3);
     user.Click(view(), Pixel(26, 31));
     EXPECT_EQ(selection().Count(), 0);
@@ -70,6 +72,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
             user.Key(VK_ESCAPE);
         });
         EXPECT_EQ(Seen(), seen);
+        EXPECT_NE(WindowText(frame->m_hWnd)[0], '*');
         EXPECT_EQ(SelectAll(), 4);
         user.Key(VK_ESCAPE);
     }

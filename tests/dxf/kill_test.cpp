@@ -16,10 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kNotTraced = 3; // exit code: the system does not let processes trace others
+// Some containers forbid it.
+bool MayTrace() {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) == 0 ? 0 : 1);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
 
 [[noreturn]] void ReplaceTraced(const fs::path& path, const std::string& bytes) {
-    if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(kNotTraced);
+    ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
     ::raise(SIGSTOP);
     {
         dxf::FileReplacement file(path);
@@ -35,7 +42,6 @@ bool KillsAt(int stops, const fs::path& path, const std::string& bytes) {
     if (child == 0) ReplaceTraced(path, bytes);
     int status = 0;
     ::waitpid(child, &status, 0);
-    if (WIFEXITED(status)) throw std::runtime_error("this system lets no process trace another");
     for (int i = 0; i < stops; ++i) {
         ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
         ::waitpid(child, &status, 0);
@@ -47,6 +53,7 @@ bool KillsAt(int stops, const fs::path& path, const std::string& bytes) {
 }
 
 TEST(Replacement, KilledAtAnyCallLeavesTheOldFileOrTheNewOne) {
+    if (!MayTrace()) GTEST_SKIP() << "this system lets no process trace another";
     const fs::path folder = fs::temp_directory_path() / ("killed-" + std::to_string(::getpid()));
     const fs::path path = folder / "plan.dxf";
     const std::string before = ReadBytes(kDrawings + "made-gbk-R2004.dxf");
