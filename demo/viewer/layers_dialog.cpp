@@ -28,7 +28,7 @@ constexpr int kFirstState = 1; // column, after the name
 constexpr int kCountColumn = kFirstState + static_cast<int>(kStateCount);
 
 // Dialog units.
-constexpr int kStateWidth = 34;
+constexpr int kStateWidth = 38;
 constexpr int kCountWidth = 44;
 
 void SetFlags(DrawingStruct* drawing, uint16_t layer, uint32_t flags) {

@@ -66,7 +66,7 @@ void CPropertiesPane::OnSize(UINT, int cx, int) {
 
 void CPropertiesPane::SetDocument(Document* document) {
     if (m_document && m_isOpen) m_document->EndGathering();
-    m_edited.reset();
+    DropSheet();
     m_document = document;
     if (m_document && m_isOpen) m_document->BeginGathering();
     Follow();
@@ -85,7 +85,7 @@ void CPropertiesPane::Close() {
     ShowWindow(SW_HIDE);
     if (m_document) m_document->EndGathering();
     m_isOpen = false;
-    m_edited.reset();
+    DropSheet();
 }
 
 void CPropertiesPane::Follow() {
@@ -104,15 +104,13 @@ void CPropertiesPane::Renew() {
     if (!m_isOpen) return;
     const HWND focus = ::GetFocus();
     const std::optional<Focus> within = FocusWithin();
-    const COrloPropertyPage* shown = ActivePage();
-    const char* page = shown ? shown->GetTemplateName() : nullptr;
     SendMessage(WM_SETREDRAW, FALSE);
-    m_edited.reset();
+    DropSheet();
     if (m_document) {
         m_edited.emplace(GetParent(), *m_document);
-        if (!Sheet() || !ShowSheet(page)) m_edited.reset();
+        if (!Sheet() || !ShowSheet()) m_edited.reset();
     }
-    const bool any = m_edited && m_edited->graphics.Count() > 0;
+    const bool any = IsOverGraphics();
     if (m_edited) Sheet()->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
     m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
     SendMessage(WM_SETREDRAW, TRUE);
@@ -123,10 +121,16 @@ void CPropertiesPane::Renew() {
         ::SetFocus(::IsWindow(focus) ? focus : GetParent()->m_hWnd);
 }
 
-// page: the template of the one that comes to the front, if the sheet has it.
-bool CPropertiesPane::ShowSheet(const char* page) {
+// The sheet over nothing has pages too, which nobody has chosen.
+void CPropertiesPane::DropSheet() {
+    const COrloPropertyPage* page = IsOverGraphics() ? ActivePage() : nullptr;
+    if (page) m_page = page->GetTemplateName();
+    m_edited.reset();
+}
+
+bool CPropertiesPane::ShowSheet() {
     CGraphicPropertySheet* sheet = Sheet();
-    if (COrloPropertyPage* wanted = page ? sheet->FindPage(page) : nullptr) sheet->SetActivePage(wanted);
+    if (COrloPropertyPage* wanted = m_page ? sheet->FindPage(m_page) : nullptr) sheet->SetActivePage(wanted);
     if (!sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
     sheet->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     m_width = PlaceIn(m_hWnd, sheet->m_hWnd).Width();

@@ -67,7 +67,9 @@ private:
     void SetFocusWithin(const Focus& focus);
     bool IsTyped() const;
     void Renew();
-    bool ShowSheet(const char* page);
+    bool IsOverGraphics() const { return m_edited && m_edited->graphics.Count() > 0; }
+    void DropSheet();
+    bool ShowSheet();
     void AddButtons();
     static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
                                            UINT_PTR id, DWORD_PTR pane);
@@ -75,7 +77,8 @@ private:
     Applied m_applied;
     Document* m_document = nullptr;
     std::optional<Edited> m_edited;
-    CWnd m_nothing; // says that nothing is selected
+    const char* m_page = nullptr; // the template of the page that comes to the front if the sheet has it
+    CWnd m_nothing;               // says that nothing is selected
     bool m_isOpen = false;
     bool m_isStale = false; // the sheet is to be replaced
     int m_width = 0;

@@ -10,7 +10,6 @@ namespace {
 constexpr int kPaneMargin = 16;
 constexpr int kPointerWidth = 230;
 constexpr int kProgressWidth = 200;
-constexpr int kWidestPane = 3; // that part of the line, for the selection and for its widths
 constexpr UINT kProgressId = 1;
 
 } // namespace
@@ -37,16 +36,19 @@ void CStatusLine::Arrange() {
     SendMessage(WM_SIZE); // it finds its own place in the parent
     CRect client;
     GetClientRect(client);
+    const int widest = client.Width() / kPanes; // so that the message has as much at least
+    const auto widthOf = [&](int pane) {
+        return std::min(pane == kPointer ? Scaled(kPointerWidth) : WidthFor(m_texts[pane]), widest);
+    };
     int rightEdges[kPanes];
-    rightEdges[kPointer] = -1;
-    rightEdges[kWidths] = client.right - Scaled(kPointerWidth);
-    for (int pane = kWidths; pane > kMessage; --pane)
-        rightEdges[pane - 1] = rightEdges[pane] - std::min(WidthFor(m_texts[pane]),
-                                                           static_cast<int>(client.right) / kWidestPane);
+    rightEdges[kPointer] = client.right;
+    for (int pane = kPointer; pane > kMessage; --pane)
+        rightEdges[pane - 1] = rightEdges[pane] - widthOf(pane);
+    rightEdges[kPointer] = -1; // with the grip
     SetParts(kPanes, rightEdges);
     CRect pane;
     GetRect(kMessage, pane);
-    const int width = Scaled(kProgressWidth);
+    const int width = std::min(Scaled(kProgressWidth), pane.Width() / 2);
     m_progress.MoveWindow(pane.right - width, pane.top + 2, width - 4, pane.Height() - 4);
 }
 

@@ -88,6 +88,8 @@ struct Samples {
 
 } // namespace
 
+StyleBook::StyleBook(DrawingStruct* drawing) : m_drawing(drawing), m_current(Any()) {}
+
 TableStruct* StyleBook::Table() const {
     return ::BlocksFromDrawing(m_drawing);
 }
@@ -97,6 +99,11 @@ std::vector<uint16_t> StyleBook::All() const {
     for (const uint16_t id : Entries(Table()))
         if (IsStyle(id)) styles.push_back(id);
     return styles;
+}
+
+uint16_t StyleBook::Any() const {
+    const std::vector<uint16_t> styles = All();
+    return styles.empty() ? 0 : styles.front();
 }
 
 bool StyleBook::IsStyle(uint16_t id) const {
@@ -193,7 +200,7 @@ bool StyleBook::Delete(uint16_t id) {
     if (Uses(id) > 0) return false;
     ::BlockDispose(Table(), id);
     m_parts.erase(id);
-    if (m_current == id) m_current = m_parts.empty() ? 0 : m_parts.begin()->first;
+    if (m_current == id) m_current = Any();
     return true;
 }
 

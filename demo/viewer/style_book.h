@@ -21,7 +21,8 @@ public:
         bool pen, brush, text;
     };
 
-    explicit StyleBook(DrawingStruct* drawing) : m_drawing(drawing) {}
+    // Of the styles that the drawing has, the first one is the current one.
+    explicit StyleBook(DrawingStruct* drawing);
 
     TableStruct* Table() const;
     std::vector<uint16_t> All() const; // in the order of the table
@@ -57,10 +58,11 @@ public:
     void ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const;
 
 private:
+    uint16_t Any() const; // 0 without one
     void Enter(uint16_t id, Parts parts);
     Parts PartsOf(uint16_t id) const; // of a style that was in the file: all
 
     DrawingStruct* m_drawing;
     std::map<uint16_t, Parts> m_parts;
-    uint16_t m_current = 0;
+    uint16_t m_current;
 };

@@ -34,10 +34,13 @@ int DDX_LBString(int, CDataExchange* pDX, int nIDC, CString& value) {
 
 int DDX_CBString(int, CDataExchange* pDX, int nIDC, CString& value) {
     const HWND control = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    const ControlItems items = ControlItems::OfCombo(control);
+    if (pDX->m_bSaveAndValidate) {
         value = WindowText(control);
-    else if (!SelectExact(ControlItems::OfCombo(control), value))
+    } else if (!SelectExact(items, value)) {
+        items.Select(-1); // a drop-down list, which has no field for another text, keeps its choice
         AfxSetWindowText(control, value);
+    }
     return 1;
 }
 

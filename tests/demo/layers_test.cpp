@@ -55,6 +55,19 @@ TEST_F(Layers, AreLockedByKeysAndStaySeen) {
     EXPECT_EQ(Seen(), seen);
 }
 
+TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
+    InDialog([&](HWND dialog) {
+        const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
+        WPARAM column = 0;
+        for (const char* title : {"Name", "On", "Frozen", "Locked", "Graphics"}) {
+            const auto text = ::SendMessageA(list, LVM_GETSTRINGWIDTHA, 0, reinterpret_cast<LPARAM>(title));
+            const auto margins = 2 * 9; // of a title
+            EXPECT_GE(::SendMessageA(list, LVM_GETCOLUMNWIDTH, column++, 0), text + margins) << title;
+        }
+        user.Key(VK_ESCAPE);
+    });
+}
+
 TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
     const std::vector<uint32_t> seen = Seen();
     for (const int state : {IDC_LAYER_ON, IDC_LAYER_FROZEN}) {

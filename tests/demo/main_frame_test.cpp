@@ -142,6 +142,13 @@ TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
     EXPECT_EQ(windowOf(frame->m_hWnd), wanted);
     EXPECT_GT(windowOf(status).Height(), before * 5 / 4); // its frame does not grow with its font
     EXPECT_EQ(windowOf(view()).bottom, windowOf(status).top);
+
+    user.Key('A', UserInput::kControl);
+    wanted.right = wanted.left + 600; // too little for all panes
+    ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
+    CRect message;
+    ::SendMessageA(status, SB_GETRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(message)));
+    EXPECT_GT(message.Width(), 600 / 5) << "room for what the window says";
 }
 
 TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {

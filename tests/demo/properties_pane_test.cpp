@@ -81,6 +81,18 @@ TEST_F(Pane, TheNextSelectionAppliesWhatWasTyped) {
     EXPECT_EQ(ScaleOf(0), 2.5);
 }
 
+TEST_F(Pane, ThePageComesBackWhereThereWasNoSheet) {
+    ShowPen();
+    user.Key(VK_ESCAPE); // nothing is selected
+    user.Wait(0);
+    user.Key(VK_TAB);
+    user.Wait(0);
+    EXPECT_EQ(SheetOf(sheet()).GetActiveIndex(), 1);
+    user.Key(VK_F4);
+    user.Key(VK_F4);
+    EXPECT_EQ(SheetOf(sheet()).GetActiveIndex(), 1) << "closed and opened";
+}
+
 TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
     ShowPen();
     TypeScale("0");

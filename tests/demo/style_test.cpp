@@ -124,6 +124,20 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     EXPECT_EQ(0, document().UndoSteps());
 }
 
+TEST_F(Styles, OfTheFileAreEditedAndAppliedToo) {
+    SelectOnly({10, 5});
+    Make("Red");
+    ASSERT_TRUE(frame->Save(file.Path()));
+    ASSERT_TRUE(frame->Open(file.Path()));
+    InStyleSheets({[&](HWND sheet) {
+        EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
+        Close(sheet);
+    }});
+    user.Key('A', UserInput::kControl);
+    user.Key('E', UserInput::kControl);
+    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values(kPropStyleTree));
+}
+
 TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     SelectOnly({10, 5});
     Make("Red");

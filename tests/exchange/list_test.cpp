@@ -54,6 +54,18 @@ TEST_F(ListExchange, AComboShowsATextThatIsInNoList) {
     EXPECT_EQ("", std::string(text)) << "a list without a selection";
 }
 
+TEST_F(ListExchange, ATextThatIsInNoListTakesTheChoiceAway) {
+    Send(IDC_DROP_LIST, CB_ADDSTRING, 0, "Solid");
+    for (const int combo : {IDC_COMBO, IDC_DROP_LIST}) {
+        Send(combo, CB_SETCURSEL, 0);
+        CString text("Wavy");
+        DDX_CBString(1, &m_load, combo, text);
+        EXPECT_EQ(CB_ERR, Selected(combo)) << combo;
+        EXPECT_NE("Solid", Text(combo)) << combo;
+    }
+    EXPECT_EQ("Wavy", Text(IDC_COMBO));
+}
+
 TEST_F(ListExchange, IndicesGoBothWays) {
     for (const int index : {2, 0, -1}) {
         int value = index;

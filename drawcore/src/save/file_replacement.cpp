@@ -59,7 +59,21 @@ OwnedFile OpenToWrite(const std::filesystem::path& path) {
 #endif
 }
 
+// A disk that gets full takes the beginning of what is written, which is no error of the system's: the runtime of Windows then
+// names the error that the system had last.
+void NameFullDiskOfShortWrite() {
+#ifdef _WIN32
+    ::SetLastError(ERROR_DISK_FULL);
+#endif
+}
+
+bool WritePiece(FILE* file, std::string_view piece) {
+    NameFullDiskOfShortWrite();
+    return std::fwrite(piece.data(), 1, piece.size(), file) == piece.size();
+}
+
 bool FlushToDisk(FILE* file) {
+    NameFullDiskOfShortWrite();
 #ifdef _WIN32
     return std::fflush(file) == 0 && ::_commit(::_fileno(file)) == 0;
 #else
@@ -114,14 +128,15 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::Write(std::string_view bytes, const Progress& progress) {
+    const char* const what = "the drawing cannot be written";
     OwnedFile file = OpenToWrite(path_);
-    bool written = file != nullptr;
-    for (size_t at = 0; written && at < bytes.size(); at += kPiece) {
+    if (!file) Fail(what, LastError());
+    for (size_t at = 0; at < bytes.size(); at += kPiece) {
         const std::string_view piece = bytes.substr(at, kPiece);
-        written = std::fwrite(piece.data(), 1, piece.size(), file.get()) == piece.size();
+        if (!WritePiece(file.get(), piece)) Fail(what, LastError());
         if (progress) progress(Permille(at + piece.size(), bytes.size()));
     }
-    if (!written || !FlushToDisk(file.get())) Fail("the drawing cannot be written", LastError());
+    if (!FlushToDisk(file.get())) Fail(what, LastError());
     file.reset();
     if (!Holds(path_, bytes))
         throw SaveError("the drawing was written, but the disk gives back something else");
