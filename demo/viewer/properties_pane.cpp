@@ -174,7 +174,8 @@ bool CPropertiesPane::Apply() {
         COrloPropertyPage* page = ActivePage();
         if (!page->OnKillActive()) return false;
         page->OnOK();
-        page->OnSetActive(); // all its controls are clean
+        page->OnSetActive();     // all its controls are clean
+        page->UpdateData(FALSE); // and show what was written, as "1.5" in place of "2*3/4"
         page->SetModified(FALSE);
         if (::IsChild(page->m_hWnd, focus)) ::SetFocus(focus);
     }

@@ -120,8 +120,9 @@ TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
 
 TEST_F(Pane, ResetTakesBackToTheLastApply) {
     ShowPen();
-    TypeScale("2");
+    TypeScale("4/2");
     user.Key(VK_RETURN);
+    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "2") << "what was written";
     TypeScale("3");
     user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
     EXPECT_EQ(ScaleOf(0), 3);
