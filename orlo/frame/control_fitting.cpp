@@ -3,6 +3,7 @@
 #include "orlo/frame/control_fitting.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "orlo/frame/label_order.h"
 #include "orlo/win/child_windows.h"
@@ -61,11 +62,14 @@ void FitWidth(HWND child, HWND page, int box) {
 } // namespace
 
 void FitControls(HWND page) {
-    const int box = ScreenPixels(kBoxWidth);
-    ForEachChild(page, [page, box](HWND child) {
-        if (::GetParent(child) != page) return; // a part of a control
-        PassOverLabel(child);
-        FitWidth(child, page, box);
+    std::vector<HWND> controls;
+    ForEachChild(page, [&](HWND child) {
+        if (::GetParent(child) == page) controls.push_back(child); // not the parts of a control
     });
-    PutLabelsBeforeFields(page);
+    const int box = ScreenPixels(kBoxWidth);
+    for (const HWND control : controls) {
+        PassOverLabel(control);
+        FitWidth(control, page, box);
+    }
+    PutLabelsBeforeFields(page, controls);
 }

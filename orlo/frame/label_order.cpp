@@ -3,9 +3,6 @@
 #include "orlo/frame/label_order.h"
 
 #include <algorithm>
-#include <vector>
-
-#include "orlo/win/child_windows.h"
 
 namespace {
 
@@ -61,29 +58,36 @@ const Child* LabelOf(const Child& field, const std::vector<Child>& texts, const 
 }
 
 // A label that began a group of the arrow keys would begin one at its new place.
-void PutBefore(HWND label, HWND field) {
-    const HWND previous = ::GetWindow(field, GW_HWNDPREV);
+void EndGroup(HWND label) {
+    const LONG_PTR style = ::GetWindowLongPtrA(label, GWL_STYLE);
+    if (style & WS_GROUP) ::SetWindowLongPtrA(label, GWL_STYLE, style & ~LONG_PTR{WS_GROUP});
+}
+
+void PutBefore(HWND label, HWND field, std::vector<HWND>& order) {
+    const auto place = std::find(order.begin(), order.end(), field);
+    const HWND previous = place == order.begin() ? HWND_TOP : place[-1];
     if (previous == label) return;
-    ::SetWindowLongPtrA(label, GWL_STYLE, ::GetWindowLongPtrA(label, GWL_STYLE) & ~LONG_PTR{WS_GROUP});
-    ::SetWindowPos(label, previous ? previous : HWND_TOP, 0, 0, 0, 0,
-                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+    EndGroup(label);
+    ::SetWindowPos(label, previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+    order.erase(std::find(order.begin(), order.end(), label));
+    order.insert(std::find(order.begin(), order.end(), field), label);
 }
 
 } // namespace
 
-void PutLabelsBeforeFields(HWND page) {
+void PutLabelsBeforeFields(HWND page, std::vector<HWND> controls) {
     std::vector<Child> fields, texts, boxes;
-    ForEachChild(page, [&](HWND window) {
-        if (::GetParent(window) != page) return; // a part of a control
+    for (const HWND window : controls) {
         Child child = {window, {}};
         ::GetWindowRect(window, &child.place);
         const Role role = RoleOf(window);
         if (role == Role::Field) fields.push_back(child);
         if (role == Role::Text) texts.push_back(child);
         if (role == Role::GroupBox) boxes.push_back(child);
-    });
+    }
     RECT reach = kReach;
     ::MapDialogRect(page, &reach);
     for (const Child& field : fields)
-        if (const Child* label = LabelOf(field, texts, boxes, reach)) PutBefore(label->window, field.window);
+        if (const Child* label = LabelOf(field, texts, boxes, reach))
+            PutBefore(label->window, field.window, controls);
 }
