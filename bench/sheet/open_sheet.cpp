@@ -4,7 +4,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
-#include <array>
+#include <vector>
 
 #include "orlo/entry/entry.h"
 
@@ -40,12 +40,13 @@ void PaintSheet(HWND sheet) {
 }
 
 void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND)>& act) {
-    std::array<PROPSHEETPAGEA, kSystemPages> templates{};
-    for (int i = 0; i < kSystemPages; ++i) {
-        templates[i].dwSize = sizeof templates[i];
-        templates[i].hInstance = ::GetModuleHandleA(nullptr);
-        templates[i].pszTemplate = MAKEINTRESOURCEA(kFirstSystemPage + i);
-        templates[i].pfnDlgProc = PageProc;
+    std::vector<PROPSHEETPAGEA> templates(static_cast<size_t>(pages));
+    for (int i = 0; i < pages; ++i) {
+        PROPSHEETPAGEA& page = templates[static_cast<size_t>(i)];
+        page.dwSize = sizeof page;
+        page.hInstance = ::GetModuleHandleA(nullptr);
+        page.pszTemplate = MAKEINTRESOURCEA(kFirstSystemPage + i % kSystemPages);
+        page.pfnDlgProc = PageProc;
     }
     PROPSHEETHEADERA header = {};
     header.dwSize = sizeof header;

@@ -62,6 +62,14 @@ Results Measure(int n) {
     return results;
 }
 
+double ManySystemPages() {
+    LoopWatch watch;
+    return Compare(
+               kRounds, [&] { RunSystemSheet(watch, kManyPages, PaintSheet); },
+               [&] { RunSystemSheet(watch, kPages, PaintSheet); })
+        .ratio;
+}
+
 // Pages that nobody looks at cost next to nothing.
 double ManyPages() {
     const MixedCrowd crowd(3);
@@ -97,4 +105,5 @@ void BenchPages() {
         before = results;
     }
     Print("open_twenty_pages", ManyPages(), "x_five_pages");
+    Print("open_twenty_pages_baseline", ManySystemPages(), "x_five_pages_of_the_system");
 }
