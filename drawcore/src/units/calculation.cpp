@@ -9,6 +9,12 @@ namespace {
 
 constexpr int kDeepest = 32; // brackets in brackets
 
+// As a double is stored: processors of 32 bits compute in a larger range.
+double Stored(double value) {
+    volatile double stored = value;
+    return stored;
+}
+
 class Calculation {
 public:
     // measure: null for plain numbers.
@@ -79,19 +85,19 @@ private:
         const bool measured = sum.measured || next.measured;
         for (Quantity* part : {&sum, &next})
             if (measured && !part->measured) part->value *= measure_->Bare();
-        return Set(sum, {sum.value + sign * next.value, measured});
+        return Set(sum, {Stored(sum.value + sign * next.value), measured});
     }
 
     static bool Multiply(Quantity& product, Quantity next) {
         if (product.measured && next.measured) return false;
-        const double value = product.value * next.value;
+        const double value = Stored(product.value * next.value);
         const bool lost = value == 0 && product.value != 0 && next.value != 0;
         return !lost && Set(product, {value, product.measured || next.measured});
     }
 
     static bool Divide(Quantity& quotient, Quantity divisor) {
         if (divisor.measured || divisor.value == 0) return false;
-        const double value = quotient.value / divisor.value;
+        const double value = Stored(quotient.value / divisor.value);
         const bool lost = value == 0 && quotient.value != 0;
         return !lost && Set(quotient, {value, quotient.measured});
     }
