@@ -4,13 +4,23 @@ include(GNUInstallDirs)
 
 string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
-function(orlo_target target)
+function(orlo_compile_options target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Werror
                          $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
   if(WIN32)
     target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-gdwarf-4>)
   endif()
+endfunction()
+
+# A target of this project, compiled with the precompiled headers of the product unless others are named.
+function(orlo_target target)
+  cmake_parse_arguments(arg "" "PRECOMPILED" "" ${ARGN})
+  if(NOT arg_PRECOMPILED)
+    set(arg_PRECOMPILED precompiled)
+  endif()
+  orlo_compile_options(${target})
+  target_precompile_headers(${target} REUSE_FROM ${arg_PRECOMPILED})
 endfunction()
 
 # A DLL or program that is handed on: its version in the system's form, and a place in the installed tree.
@@ -45,15 +55,17 @@ function(orlo_install_library target headers_in)
   install(TARGETS ${target} EXPORT orloTargets ${headers})
 endfunction()
 
+# Tests are compiled more often than they run: no time is spent on making them fast.
+set(ORLO_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
+
 # A test program: GoogleTest under ctest, one process, one time limit.
 #   orlo_test(NAME binding SOURCES ... LIBRARIES ...)
 function(orlo_test)
   cmake_parse_arguments(arg "" "NAME;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(test_${arg_NAME} ${arg_SOURCES})
-  orlo_target(test_${arg_NAME})
+  orlo_target(test_${arg_NAME} PRECOMPILED precompiled_for_tests)
   target_link_libraries(test_${arg_NAME} PRIVATE ${arg_LIBRARIES} gtest)
-  # Tests are compiled more often than they run: no time is spent on making them fast.
-  target_compile_options(test_${arg_NAME} PRIVATE $<$<CONFIG:Release>:-O0>)
+  target_compile_options(test_${arg_NAME} PRIVATE ${ORLO_TEST_OPTIONS})
   add_test(NAME ${arg_NAME} COMMAND test_${arg_NAME})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
