@@ -49,9 +49,9 @@ DibBytes& DibBytes::Masked() {
     return Fill(0);
 }
 
-DibBytes& DibBytes::Fill(uint8_t byte) {
+DibBytes& DibBytes::Fill(uint8_t value) {
     const int stride = (width * bitsPerPixel + 31) / 32 * 4;
-    pixels.assign(static_cast<size_t>(stride) * static_cast<size_t>(std::abs(height)), byte);
+    pixels.assign(static_cast<size_t>(stride) * static_cast<size_t>(std::abs(height)), value);
     return *this;
 }
 
