@@ -1,10 +1,12 @@
-# Builds what measures, and prints one line "name value unit" each; names choose the benches, whichever program has them.
+# ./run bench [NAME...]
+# Builds the benchmarks and prints one line "name value unit" for each, or for those named. Each value is a ratio
+# against a baseline that is measured in the same run.
 
 targets=(bench_sheet bench_drawing bench_propset_system keeper)
 source run.d/build.sh
-packages="libgsf-1-dev pkg-config" # what the native property sets are measured against
+packages="libgsf-1-dev pkg-config" # the baseline of the native property sets
 setup
-say "building (this machine)"
+say "building (Linux)"
 configure native
 cmake --build build/native --target bench_propset
 

@@ -1,7 +1,10 @@
-# Builds for Windows, for 64 bits into build/bin unless a word has chosen otherwise.
+# ./run build [TARGET...]
+# Builds everything, or the named targets, for 64-bit Windows into build/bin.
+
+# Other commands source this file with targets and preset set; no targets: everything.
 
 source run.d/setup.sh
 say "building ($preset Windows)"
 configure "$preset"
-if [ "$word" = build ]; then targets=("$@"); fi   # other words may set targets before; none: everything
+if [ "$command" = build ]; then targets=("$@"); fi
 cmake --build "build/$preset" ${targets[0]:+--target "${targets[@]}"}

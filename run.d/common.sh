@@ -1,9 +1,9 @@
-# Shared by the words of ./run: messages, and the Wine session that every Windows program here runs in.
+# Shared by the commands of ./run: messages, and the Wine session in which every Windows program runs.
 
 say() { printf '== %s\n' "$*" >&2; }
 die() { printf 'run: %s\n' "$*" >&2; exit 1; }
 
-preset=x86_64 bin=build/bin   # what is built for Windows, and where its programs are
+preset=x86_64 bin=build/bin   # the preset for Windows, and the folder of its programs
 
 # Wine takes its code page from the locale: without one its conversions crash, and file names reach programs mangled.
 export LC_ALL=C.UTF-8
@@ -11,8 +11,8 @@ export WINEPREFIX=${ORLO_WINEPREFIX:-$PWD/build/wine}
 export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml="
 
-# Makes ready to build in build/PRESET. What CMake notes there are whole paths: a folder that was moved or copied since
-# then can't go on with it.
+# Configures build/PRESET. CMake stores absolute paths there, so a folder that has been moved or copied cannot be
+# reused.
 configure() {
     local preset=$1 made_in
     if [ -e "build/$preset/CMakeCache.txt" ]; then
@@ -24,7 +24,7 @@ configure() {
     cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 || { cat "build/configure-$preset.log"; exit 1; }
 }
 
-# Makes the Wine prefix once: no window manager is expected, crashes print and do not ask, fonts are there.
+# Creates the Wine prefix once: without a window manager, without a dialog for crashes, with fonts.
 wine_prefix() {
     [ -e "$WINEPREFIX/.ready" ] && return
     say "preparing Wine in ${WINEPREFIX#"$PWD"/} (once, about 10 s)"
@@ -38,8 +38,8 @@ wine_prefix() {
     touch "$WINEPREFIX/.ready"
 }
 
-# X server, Wine server and programs talk to each other thousands of times a second. On one processor they do so several times
-# as fast: waking another one takes longer than the answer, most of all on an idle virtual machine.
+# X server, Wine server and programs exchange thousands of messages a second. On one processor this is several times as
+# fast: waking another processor takes longer than the reply, most of all on an idle virtual machine.
 on_one_processor() {
     local self=$BASHPID list
     list=$(taskset -cp $self) && taskset -cp "${list##*[ ,-]}" $self >/dev/null || true
@@ -60,12 +60,12 @@ wine_session() {
         read -r -t 20 -u "$xvfb_fd" number || die "Xvfb did not start"
         export DISPLAY=:$number
     fi
-    # The server of a program that has just ended lingers for seconds, and would refuse to stay; one that another session
-    # of this folder keeps is shared.
+    # The server of a program that has just ended lingers for seconds and would not become persistent. A server that
+    # another session of this folder keeps is shared.
     timeout 10 wineserver -w || true
     wineserver -p || true
-    # Waits for its window: what the first program starts for all (services, desktop) would otherwise be started by a
-    # test, and hold the pipe open that the test's reader waits on.
+    # Waits for the keeper's window: services and desktop, which the first program starts, would otherwise be started
+    # by a test and keep open the pipe that the test's reader waits on.
     exec {keeper_fd}< <(exec wine "$bin/keeper.exe" </dev/null 2>/dev/null)
     keeper_pid=$!
     read -r -t 60 -u "$keeper_fd" || die "Wine's desktop did not start"

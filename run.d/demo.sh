@@ -1,6 +1,9 @@
-# The drawing viewer. With a display: opens on it. Without one, or with --tour: plays a tour over the drawing and leaves
-# pictures in out/. --check changes something on every page over all of each drawing, takes it back and compares (no display
-# needed). --list prints what drawings hold (JSON on stdout, all else on stderr; no display needed).
+# ./run demo [--tour] [FILE.dxf]
+#   Opens a drawing in the viewer. Without a display, or with --tour: plays a tour and leaves pictures in out/.
+# ./run demo --check FILE.dxf...
+#   Edits all of each drawing on every page, undoes the edits and reports differences. Needs no display.
+# ./run demo --list FILE.dxf...
+#   Prints the contents of drawings as JSON. Needs no display.
 
 sample=tests/data/dxf/kabeja-draft4-roof-details.dxf
 program=$PWD/build/bin/demo.exe
@@ -8,7 +11,7 @@ targets=(demo keeper)
 
 usage() { echo "usage: ./run demo [--tour] [FILE.dxf] | ./run demo --check FILE.dxf... | ./run demo --list FILE.dxf..." >&2; exit 2; }
 
-# A path as the caller means it, for a program that sees the file system as drive Z.
+# Converts an absolute path for a Windows program: the file system is drive Z.
 for_windows() { printf 'Z:%s' "$(realpath -m -- "$1")"; }
 
 list_drawings() {
@@ -17,7 +20,7 @@ list_drawings() {
     source run.d/dxfprops.sh
 }
 
-# Exit code 0: every drawing that can be opened is as it was.
+# Exits with 0 if every drawing that can be opened is unchanged.
 check_drawings() {
     [ $# -gt 0 ] || usage
     local files=() file
@@ -31,7 +34,7 @@ check_drawings() {
     exit $status
 }
 
-# Whether windows belong to the window manager of the display; where there is none they would wait for it.
+# Sets whether a window manager handles the windows (Y or N); without one they would wait for it.
 managed() {
     wine reg add 'HKCU\Software\Wine\AppDefaults\demo.exe\X11 Driver' /v Managed /d "$1" /f >/dev/null
 }
@@ -62,7 +65,7 @@ if [ "${1-}" = --tour ]; then shift; show=play_tour; fi
 case ${1-} in -*) usage ;; esac
 drawing=$sample
 if [ $# -eq 1 ]; then drawing=$(cd "$ORLO_CALLER_DIR" && realpath -m -- "$1"); fi
-[ -f "$drawing" ] || die "there is no file $drawing"
+[ -f "$drawing" ] || die "demo: $drawing: no such file"
 drawing=$(for_windows "$drawing")
 set --
 source run.d/build.sh

@@ -1,4 +1,5 @@
-# Makes out/orlo-VERSION.tar.xz: the sources as they are committed.
+# ./run dist
+# Creates out/orlo-VERSION.tar.xz from the committed sources.
 
 version=$(sed -n 's/^project(orlo VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 mkdir -p out

@@ -1,4 +1,5 @@
-# Fuzzes the readers of foreign data, one after the other: ./run fuzz [SECONDS] [NAME...]
+# ./run fuzz [SECONDS] [NAME...]
+# Fuzzes the readers of foreign data, or those named, one after the other for SECONDS (60) each.
 
 seconds=${1:-60}
 wanted=" ${*:2} "
@@ -10,7 +11,7 @@ cmake --build build/sanitize --target fuzzers
 failed=0
 while read -r name seeds; do
     if [ "$wanted" != "  " ] && [[ $wanted != *" $name "* ]]; then continue; fi
-    found=build/fuzz/$name   # what the fuzzer learned, from one run to the next
+    found=build/fuzz/$name   # the corpus that the fuzzer has built, kept between runs
     mkdir -p "$found"
     say "fuzzing $name for $seconds s"
     # shellcheck disable=SC2086 # the seeds are words

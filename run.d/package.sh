@@ -1,4 +1,6 @@
-# Makes what is handed on: out/orlo-VERSION-win64.zip and -win32.zip, each with a -debug.zip of the debug data beside it.
+# ./run package
+# Creates out/orlo-VERSION-win64.zip and -win32.zip for hosts to build against, each with its debug data in a
+# -debug.zip.
 
 zip_tree() { # NAME EXTRA-TAR-ARGUMENTS...: the folder out/NAME, or the files of it that a list names
     local zip=$1; shift

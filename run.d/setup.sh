@@ -1,9 +1,10 @@
-# Installs what is missing, with apt. Quick when nothing is.
+# ./run setup
+# Installs missing packages with apt.
 
 packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth fonts-wine
           fonts-dejavu-core googletest libboost-dev libcli11-dev nlohmann-json3-dev libstb-dev pkg-config clang-14
           clang-format-14 libclang-rt-14-dev lld-14 llvm-14 nettle-dev python3 python3-markdown libgsf-bin python3-olefile
-          python3-ezdxf" # the last three read what we have written
+          python3-ezdxf" # the last three read the files that the tests write
 
 setup() {
     local package missing=()
@@ -22,4 +23,4 @@ setup() {
 }
 
 setup
-if [ "$word" = setup ]; then say "all packages are there"; fi
+if [ "$command" = setup ]; then say "all packages are installed"; fi

@@ -1,6 +1,5 @@
-# Runs suminfo where the caller stands: the program for this machine, and under Wine the Windows program for what that one
-# leaves to it, which is writing documents and playing metafiles. Each is built when it is needed and something is newer. No
-# display is needed.
+# Runs suminfo in the caller's folder: the Linux program, and under Wine the Windows program for what that one does not
+# support, which is writing documents and playing metafiles. Each is rebuilt if a source is newer. Needs no display.
 
 native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.exe
 # Looked at here: a program that does so would take longer than suminfo itself.
@@ -38,7 +37,7 @@ start "$native" "$@" || status=$?
 
 cd "$OLDPWD"
 if ! is_current "$windows"; then
-    ( set --; word=build; set -- suminfo; source run.d/build.sh ) >&2
+    ( set --; command=build; set -- suminfo; source run.d/build.sh ) >&2
     touch "$windows"
 fi
 wine_prefix
@@ -46,7 +45,8 @@ wine_prefix
 case ${LC_ALL:-${LC_CTYPE:-${LANG-}}} in *[Uu][Tt][Ff]*8*) ;; *) export LC_ALL=C.UTF-8 ;; esac
 wineserver -p30 2>/dev/null || true
 cd "$ORLO_CALLER_DIR"
-# A command line of the system holds 32,767 characters, an escaped name twice its own. "@-": the rest is on standard input.
+# A command line of the system holds 32,767 characters, an escaped name twice its own. "@-": the rest is on standard
+# input.
 arguments="$*"
 if [ $((2 * ${#arguments} + 3 * $#)) -gt 32000 ]; then exec wine "$windows" @- < <(printf '%s\0' "$@"); fi
 status=0

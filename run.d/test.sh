@@ -1,26 +1,71 @@
-# Builds everything and runs the tests: the window-free code on this machine under the sanitizers, then everything as
-# Windows programs under one Wine server and one X server. --bits 32: the Windows programs alone, of 32 bits.
+# ./run test [--bits 32|64] [REGEX]
+# Builds everything and runs the tests, or those whose name matches: the window-free code on this machine under the
+# sanitizers, then everything as Windows programs under one Wine server and one X server. --bits 32: the Windows
+# programs alone, for 32 bits.
 
 native=yes
+targets=(all all_verify_interface_header_sets)   # the second compiles each public header alone
 if [ "${1-}" = --bits ]; then
     case ${2-} in
         64) ;;
-        32) preset=i686 bin=build/bin32 native=no ;;
-        *) die "test --bits takes 32 or 64" ;;
+        32) preset=i686 bin=build/bin32 native=no targets=(all) ;;
+        *) die "test: --bits takes 32 or 64" ;;
     esac
     shift 2
 fi
 
 failed=0
-test_natively() {
-    say "building (this machine, with sanitizers)"
-    configure sanitize
-    cmake --build build/sanitize
-    ctest --test-dir build/sanitize --output-on-failure -j 2 ${1:+-R "$1"} || failed=1
+durations=()
+
+# Runs a part of the test run and records how long it took.
+timed() { # NAME COMMAND...
+    local name=$1 begin=$SECONDS; shift
+    "$@"
+    durations+=("$((SECONDS - begin)) s  $name")
 }
 
-source run.d/build.sh
-if [ $native = yes ]; then test_natively "$@"; else source run.d/wine32.sh; fi
+run_tests() { # FOLDER [REGEX]
+    ctest --test-dir "$1" --output-on-failure -j 2 ${2:+-R "$2"} || failed=1
+}
+
+build_natively() {
+    say "building (Linux, with sanitizers)"
+    configure sanitize
+    cmake --build build/sanitize
+}
+
+build_for_windows() { source run.d/build.sh; }
+
+# Files that an interrupted run has left would be taken for those of a test with the same process number.
+empty_temporary_folders() { rm -rf "$WINEPREFIX"/drive_c/users/*/Temp/*; }
+
+# The tests that took longest, from what ctest recorded.
+slowest() { # FOLDER
+    local costs=$1/Testing/Temporary/CTestCostData.txt
+    [ -e "$costs" ] || return 0
+    sed '/^---/,$d' "$costs" | sort -k 3 -rn | head -n 5 | awk '{ printf "       %5.1f s  %s\n", $3, $1 }'
+}
+
+report() {
+    say "where the time went:"
+    printf '%8s\n' "${durations[@]}" >&2
+    say "slowest tests, on average:"
+    slowest "build/$preset" >&2
+}
+
+if [ "$preset" = i686 ]; then
+    source run.d/wine32.sh
+    require_32_bit_kernel
+fi
+timed "build for Windows" build_for_windows
+if [ $native = yes ]; then
+    timed "build for Linux" build_natively
+    timed "tests on Linux" run_tests build/sanitize "$@"
+else
+    use_wine32
+fi
 wine_session own
-ctest --test-dir "build/$preset" --output-on-failure -j 2 ${1:+-R "$1"} || failed=1
+empty_temporary_folders
+timed "tests on Windows" run_tests "build/$preset" "$@"
+report
 if [ $failed -ne 0 ]; then die "tests failed"; fi

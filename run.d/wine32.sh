@@ -1,7 +1,20 @@
-# Wine for 32-bit programs, in build/wine32: Debian's i386 packages unpacked into a folder of their own, so that the user's
-# system gets no second architecture. From here on wine and wineserver are those.
+# Wine for 32-bit programs: Debian's i386 packages, unpacked into build/wine32 so that the user's system needs no second
+# architecture.
 
 wine32_root=$PWD/build/wine32/root
+
+# Ends with a message if the kernel does not run 32-bit programs, before anything is built or fetched for them.
+require_32_bit_kernel() {
+    local probe=build/probe32
+    mkdir -p build
+    # A program of seven bytes that exits with 0, after the headers of a 32-bit ELF file.
+    { printf '\x7fELF\1\1\1\0\0\0\0\0\0\0\0\0\2\0\3\0\1\0\0\0\x54\x80\4\x8\x34\0\0\0\0\0\0\0\0\0\0\0\x34\0\x20\0\1\0\0\0\0\0\0\0'
+      printf '\1\0\0\0\0\0\0\0\0\x80\4\x8\0\x80\4\x8\x5b\0\0\0\x5b\0\0\0\5\0\0\0\0\x10\0\0'
+      printf '\x31\xdb\x31\xc0\x40\xcd\x80'; } >"$probe"
+    chmod +x "$probe"
+    "./$probe" 2>/dev/null || die "32-bit programs cannot be run here: the kernel has no support for them"
+    rm "$probe"
+}
 
 fetch_wine32() {
     [ -x "$wine32_root/usr/lib/wine/wine" ] && return
@@ -17,13 +30,13 @@ fetch_wine32() {
     mmdebstrap --quiet --architectures=i386 --variant=extract --include=libc-bin,wine,wine32,fonts-wine,fonts-dejavu-core "$release" \
         "$wine32_root" "deb $mirror $release main" >build/wine32/fetch.log 2>&1 ||
         { cat build/wine32/fetch.log; rm -rf "$wine32_root"; die "32-bit Wine could not be fetched"; }
-    # What the package does when it is installed: the DLL gets the mark by which Wine knows its own.
+    # Done by the package's installation: adds the marker by which Wine recognizes its own DLLs.
     local zlib=$wine32_root/usr/i686-w64-mingw32/lib/zlib1.dll
     { head -c 64 "$zlib"; printf 'Wine builtin DLL'; head -c 16 /dev/zero; tail -c +97 "$zlib"; } \
         >"$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"
 }
 
-# Programs that run their namesakes of that folder, with everything of this machine but its system in sight.
+# Creates wrappers that run that folder's programs with this machine's /dev, /tmp and the current folder visible.
 wrap_wine32() {
     local name target
     mkdir -p build/wine32/bin
@@ -42,9 +55,11 @@ TEXT
     done
     export PATH=$PWD/build/wine32/bin:$PATH
     export WINEPREFIX=$PWD/build/wine32/prefix WINEARCH=win32
-    wine --version >/dev/null || die "32-bit programs cannot be run here: bubblewrap needs user namespaces or root, and the \
-kernel 32-bit support"
+    wine --version >/dev/null || die "32-bit programs cannot be run here: bubblewrap needs user namespaces or root"
 }
 
-fetch_wine32
-wrap_wine32
+# From here on wine and wineserver are the 32-bit ones.
+use_wine32() {
+    fetch_wine32
+    wrap_wine32
+}

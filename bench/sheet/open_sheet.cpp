@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "orlo/entry/entry.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -70,9 +71,7 @@ std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* draw
                                                 GraphicStruct* selection) {
     std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(owner, nullptr, drawing, selection, kAllGraphics));
-    uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(selection, &position, 1, kAllGraphics); graphic != nullptr;
-         graphic = ::GraphicNext(selection, &position, 1, kAllGraphics))
+    for (GraphicStruct* graphic : orlo::host::Members(selection))
         ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
     return sheet;
 }
