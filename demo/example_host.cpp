@@ -1,11 +1,13 @@
-// The smallest host there is: opens the drawing that is named on its command line and shows the properties of all that is
-// in it. Its main window answers the library's controls, which ask for the tables that they show.
+// The smallest host: opens the drawing named on its command line and shows the properties of everything in it. Its main
+// window fills the library's controls with the tables that they show.
 
 #include <afxwin.h>
 #include <drawcore/application.h> // the reference database; a host of your own has its own calls here
 #include <drawcore/drawing.h>
 #include <drawcore/dxf.h>
 #include <orlo.h>
+
+#include "orlo/host/walk.h"
 
 class CHostFrame : public CFrameWnd {
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
@@ -29,10 +31,8 @@ int wmain(int count, wchar_t** arguments) {
     AppSetCurrentDrawing(drawing);
     GraphicStruct* all = DrawingGetRoot(drawing);
     CGraphicPropertySheet* sheet = InitGraphicPropertySheet(frame, nullptr, drawing, all, kAllGraphics);
-    uint32_t place;
-    for (GraphicStruct* g = GraphicFirst(all, &place, 1, kAllGraphics); g;
-         g = GraphicNext(all, &place, 1, kAllGraphics))
-        AddGraphicPropertyPage(nullptr, g, sheet);
+    for (GraphicStruct* graphic : orlo::host::Members(all))
+        AddGraphicPropertyPage(nullptr, graphic, sheet);
     const auto code = sheet->DoModal(); // 1: OK, and the drawing has changed
     delete sheet;                       // with its pages and previews; the drawing stays the host's
     frame->DestroyWindow();
