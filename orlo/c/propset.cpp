@@ -7,7 +7,7 @@
 #include <map>
 #include <mutex>
 
-#include "orlo/c/answer.h"
+#include "orlo/c/guarded_call.h"
 
 namespace orlo {
 namespace {
@@ -61,7 +61,7 @@ const GUID& AsGuid(const OrloGuid& format) {
 }
 
 ImageSection& SectionOf(SetImage& image, const OrloGuid* format) {
-    ImageSection* section = image.Find(AsGuid(Given(format, "the format")));
+    ImageSection* section = image.Find(AsGuid(RequireNotNull(format, "the format")));
     if (section == nullptr) Refuse(kOrloNotFound, "the set has no section of that format");
     return *section;
 }
@@ -73,10 +73,10 @@ ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id) 
 }
 
 void HandOut(const void* bytes, size_t count, void* buffer, size_t* size) {
-    const size_t room = Given(size, "the size");
+    const size_t room = RequireNotNull(size, "the size");
     *size = count;
     if (buffer == nullptr) return;
-    if (room < count) Refuse(kOrloTooSmall, "the buffer is too small");
+    if (room < count) Refuse(kOrloBufferTooSmall, "the buffer is too small");
     if (count > 0) std::memcpy(buffer, bytes, count);
 }
 
@@ -85,26 +85,26 @@ void HandOut(const void* bytes, size_t count, void* buffer, size_t* size) {
 using namespace orlo;
 
 OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
-    return Answer([&] {
-        Given(set, "the handle") = nullptr;
+    return GuardedCall([&] {
+        RequireNotNull(set, "the handle") = nullptr;
         *set = Hold({});
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
-    return Answer([&] { Release(set); });
+    return GuardedCall([&] { Release(set); });
 }
 
 OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {
-    return Answer([&] {
-        Given(count, "the count") = 0;
+    return GuardedCall([&] {
+        RequireNotNull(count, "the count") = 0;
         *count = static_cast<uint32_t>(Held(set)->image.sections.size());
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section) {
-    return Answer([&] {
-        OrloSection& record = GivenRecord(section, "the section");
+    return GuardedCall([&] {
+        OrloSection& record = RequireRecord(section, "the section");
         record = {sizeof record, {}, 0, 0};
         const auto held = Held(set);
         if (index >= held->image.sections.size()) Refuse(kOrloNotFound, "there are not so many sections");
@@ -117,8 +117,8 @@ OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, Orlo
 
 OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
                                             OrloProperty* property) {
-    return Answer([&] {
-        OrloProperty& record = GivenRecord(property, "the property");
+    return GuardedCall([&] {
+        OrloProperty& record = RequireRecord(property, "the property");
         record = {sizeof record, 0, 0, 0, 0};
         const auto held = Held(set);
         if (section >= held->image.sections.size() ||

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "orlo/c/answer.h"
+#include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
 #include "orlo/propset/code_page.h"
 #include "orlo/summary/compound_file.h"
@@ -26,11 +26,11 @@ struct CloseFile {
 using OwnedFile = std::unique_ptr<void, CloseFile>;
 
 [[noreturn]] void RefuseByLastError(const char* what) {
-    RefuseBySystem(static_cast<long>(::GetLastError()), what);
+    RefuseWithSystemError(static_cast<long>(::GetLastError()), what);
 }
 
 void Check(HRESULT result, const char* what) {
-    if (FAILED(result)) RefuseBySystem(result, what);
+    if (FAILED(result)) RefuseWithSystemError(result, what);
 }
 
 OrloPropset Open(const uint8_t* data, size_t size) {
@@ -45,7 +45,7 @@ OrloPropset Open(const uint8_t* data, size_t size) {
 
 Bytes Written(OrloPropset set) {
     std::optional<Bytes> bytes = WriteSetImage(HeldWhole(set)->image);
-    if (!bytes) Refuse(kOrloUnsayable, "the code page of a section can't say one of its names");
+    if (!bytes) Refuse(kOrloNotEncodable, "the code page of a section can't say one of its names");
     return std::move(*bytes);
 }
 
@@ -86,7 +86,7 @@ OwnedFile OpenFile(const wchar_t* path, DWORD access, DWORD sharing) {
     const DWORD error = ::GetLastError();
     if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
         Refuse(kOrloNotFound, "there is no such file");
-    RefuseBySystem(static_cast<long>(error), "the file can't be opened");
+    RefuseWithSystemError(static_cast<long>(error), "the file can't be opened");
 }
 
 Bytes ReadStream(const wchar_t* path, const std::wstring& name) {
@@ -153,7 +153,7 @@ void SaveInCopy(const wchar_t* path, const std::wstring& name, const Bytes& byte
     const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
     // Some systems let an administrator replace it nevertheless.
     if (isThere && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
-        Refuse(kOrloSystem, "the file is read-only and was left alone");
+        Refuse(kOrloSystemError, "the file is read-only and was left alone");
     const std::wstring file = isThere ? WritableFile(path) : path;
     PartFile part(file);
     if (isThere && !::CopyFileW(file.c_str(), part.Path(), FALSE))
@@ -166,7 +166,7 @@ void SaveInCopy(const wchar_t* path, const std::wstring& name, const Bytes& byte
         WriteInto(*storage, name, bytes);
     }
     if (StateOfCompoundFile(part.Path()) != CompoundState::sound || ReadStream(part.Path(), name) != bytes)
-        Refuse(kOrloSystem, "the changed copy is not as it should be");
+        Refuse(kOrloSystemError, "the changed copy is not as it should be");
     if (!::FlushFileBuffers(OpenFile(part.Path(), GENERIC_WRITE, 0).get()))
         RefuseByLastError("the file can't be written");
     part.TakePlaceOf(file, isThere);
@@ -175,39 +175,40 @@ void SaveInCopy(const wchar_t* path, const std::wstring& name, const Bytes& byte
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t size, OrloPropset* set) {
-    return Answer([&] {
-        Given(set, "the handle") = nullptr;
-        *set = Open(&Given(static_cast<const uint8_t*>(data), "the data"), size);
+    return GuardedCall([&] {
+        RequireNotNull(set, "the handle") = nullptr;
+        *set = Open(&RequireNotNull(static_cast<const uint8_t*>(data), "the data"), size);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenStream(IStream* stream, OrloPropset* set) {
-    return Answer([&] {
-        Given(set, "the handle") = nullptr;
-        const Bytes bytes = ReadToEnd(Given(stream, "the stream"));
+    return GuardedCall([&] {
+        RequireNotNull(set, "the handle") = nullptr;
+        const Bytes bytes = ReadToEnd(RequireNotNull(stream, "the stream"));
         *set = Open(bytes.data(), bytes.size());
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set) {
-    return Answer([&] {
-        Given(set, "the handle") = nullptr;
-        const Bytes bytes = ReadStream(&Given(path, "the path"), StreamName(streamName));
+    return GuardedCall([&] {
+        RequireNotNull(set, "the handle") = nullptr;
+        const Bytes bytes = ReadStream(&RequireNotNull(path, "the path"), StreamName(streamName));
         *set = Open(bytes.data(), bytes.size());
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const Bytes bytes = Written(set);
         HandOut(bytes.data(), bytes.size(), buffer, size);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, IStream* stream) {
-    return Answer([&] { WriteWhole(Given(stream, "the stream"), Written(set)); });
+    return GuardedCall([&] { WriteWhole(RequireNotNull(stream, "the stream"), Written(set)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path, const char* streamName) {
-    return Answer([&] { SaveInCopy(&Given(path, "the path"), StreamName(streamName), Written(set)); });
+    return GuardedCall(
+        [&] { SaveInCopy(&RequireNotNull(path, "the path"), StreamName(streamName), Written(set)); });
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "orlo/c/answer.h"
+#include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
 #include "orlo/summary/thumbnail.h"
 #include "orlo/win/gdi.h"
@@ -81,7 +81,7 @@ Picture Drawn(const Bytes& value, SIZE size) {
     void* bits = nullptr;
     Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
                     nullptr};
-    if (!picture.bitmap) Refuse(kOrloNoMemory, "the system can't make a bitmap of that size");
+    if (!picture.bitmap) Refuse(kOrloOutOfMemory, "the system can't make a bitmap of that size");
     picture.pixels = static_cast<uint32_t*>(bits);
     const orlo::SelectedObject selected(dc.get(), picture.bitmap.get());
     ::PatBlt(dc.get(), 0, 0, size.cx, size.cy, WHITENESS);
@@ -103,11 +103,12 @@ void SwapRedAndBlue(uint32_t& pixel) {
 
 OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order, uint32_t* width,
                                                    uint32_t* height, void* buffer, size_t* size) {
-    return Answer([&] {
-        Given(size, "the size");
+    return GuardedCall([&] {
+        RequireNotNull(size, "the size");
         if (order > kOrloRgba) Refuse(kOrloBadArgument, "there is no such order of pixels");
         const Bytes value = ThumbnailOf(set);
-        const SIZE pixels = Sized(value, Given(width, "the width"), Given(height, "the height"));
+        const SIZE pixels =
+            Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
         if (buffer == nullptr || *size < count * sizeof(uint32_t)) // nothing is drawn for a question
             return HandOut(nullptr, count * sizeof(uint32_t), buffer, size);
@@ -119,10 +120,11 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
 
 OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width, uint32_t* height,
                                                    HBITMAP__** bitmap) {
-    return Answer([&] {
-        Given(bitmap, "the bitmap") = nullptr;
+    return GuardedCall([&] {
+        RequireNotNull(bitmap, "the bitmap") = nullptr;
         const Bytes value = ThumbnailOf(set);
-        const SIZE size = Sized(value, Given(width, "the width"), Given(height, "the height"));
+        const SIZE size =
+            Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         *bitmap = Drawn(value, size).bitmap.release();
     });
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "orlo/c/answer.h"
+#include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
 #include "orlo/propset/code_page.h"
 
@@ -63,7 +63,7 @@ ImageSection NewSection(const GUID& format, uint16_t codePage) {
 
 // The section, or a new one that belongs to nobody yet.
 ImageSection SectionFor(SetImage& image, const OrloGuid* format) {
-    const GUID& wanted = AsGuid(Given(format, "the format"));
+    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     const ImageSection* found = image.Find(wanted);
     return found != nullptr ? *found : NewSection(wanted, kCodePageUtf8);
 }
@@ -83,7 +83,7 @@ void PutSection(SetImage& image, ImageSection section) {
 
 // What a section without its code page would be: only the first property may name one.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
-    const GUID& wanted = AsGuid(Given(format, "the format"));
+    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is no code page");
     if (image.Find(wanted) != nullptr)
         Refuse(kOrloBadArgument, "the texts of the section are in its code page, which stays");
@@ -147,15 +147,15 @@ Value WholeValue(uint32_t type, int64_t number) {
 
 OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                            int64_t* value) {
-    return Answer([&] {
-        Given(value, "the value") = 0;
+    return GuardedCall([&] {
+        RequireNotNull(value, "the value") = 0;
         *value = IntegerOf(ValueOf(set, format, id));
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value) {
-    return Answer([&] {
-        Given(value, "the value") = 0;
+    return GuardedCall([&] {
+        RequireNotNull(value, "the value") = 0;
         const Value found = ValueOf(set, format, id);
         const double* number = std::get_if<double>(&found.data);
         if (number == nullptr) Refuse(kOrloWrongType, "the value is no real number");
@@ -165,7 +165,7 @@ OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format,
 
 OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
                                         size_t* size) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const Value found = ValueOf(set, format, id);
         const std::string* text = std::get_if<std::string>(&found.data);
         if (text == nullptr) Refuse(kOrloWrongType, "the value is no text");
@@ -175,7 +175,7 @@ OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format,
 
 OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
                                          size_t* size) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const auto held = Held(set);
         const Bytes& bytes = PropertyOf(held->image, format, id).bytes;
         HandOut(bytes.data(), bytes.size(), buffer, size);
@@ -184,7 +184,7 @@ OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format
 
 OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                            uint32_t type, int64_t value) {
-    return Answer([&] {
+    return GuardedCall([&] {
         if (id == kOrloCodePage)
             StoreCodePage(HeldWhole(set)->image, format, value);
         else
@@ -194,7 +194,7 @@ OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* form
 
 OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         double value) {
-    return Answer([&] {
+    return GuardedCall([&] {
         if (type != VT_R4 && type != VT_R8 && type != VT_DATE)
             Refuse(kOrloWrongType, "this is no type of real numbers");
         if (!std::isfinite(value)) Refuse(kOrloBadArgument, "the number is not finite");
@@ -206,19 +206,19 @@ OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format,
 
 OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         const char* value) {
-    return Answer([&] {
+    return GuardedCall([&] {
         if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR)
             Refuse(kOrloWrongType, "this is no type of texts");
-        Given(value, "the text");
-        StoreValue(set, format, id, {type, std::string(value), {}}, kOrloUnsayable);
+        RequireNotNull(value, "the text");
+        StoreValue(set, format, id, {type, std::string(value), {}}, kOrloNotEncodable);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                          const void* data, size_t size) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const auto* first = static_cast<const uint8_t*>(data);
-        if (size > 0) Given(first, "the data");
+        if (size > 0) RequireNotNull(first, "the data");
         Bytes bytes(first, first + size);
         const auto held = HeldWhole(set);
         const auto codePage = SectionFor(held->image, format).codePage;
@@ -231,7 +231,7 @@ OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format
 }
 
 OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const auto held = HeldWhole(set);
         if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page stay with their section");
         PropertyOf(held->image, format, id);
@@ -247,7 +247,7 @@ OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, 
 
 OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
                                         size_t* size) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const auto held = Held(set);
         const ImageSection& section = SectionOf(held->image, format);
         if (section.dictionary)
@@ -259,10 +259,11 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
 
 OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
                                          uint32_t* id) {
-    return Answer([&] {
-        Given(id, "the identifier") = 0;
+    return GuardedCall([&] {
+        RequireNotNull(id, "the identifier") = 0;
         const auto held = Held(set);
-        const DictionaryEntry* entry = Named(SectionOf(held->image, format), &Given(name, "the name"));
+        const DictionaryEntry* entry =
+            Named(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
         *id = entry->id;
     });
@@ -270,14 +271,14 @@ OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format
 
 OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                         const char* name) {
-    return Answer([&] {
+    return GuardedCall([&] {
         const auto held = HeldWhole(set);
-        const std::string text = &Given(name, "the name");
+        const std::string text = &RequireNotNull(name, "the name");
         PropertyOf(held->image, format, id);
         ImageSection& section = SectionOf(held->image, format);
         if (text.empty() || id <= kOrloCodePage) Refuse(kOrloBadArgument, "this can't be named so");
         if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
-            Refuse(kOrloUnsayable, "the code page of the section can't say the name");
+            Refuse(kOrloNotEncodable, "the code page of the section can't say the name");
         const DictionaryEntry* there = Named(section, text);
         if (there != nullptr && there->id != id) Refuse(kOrloBadArgument, "another property has that name");
         if (!section.dictionary) section.dictionary.emplace();

@@ -1,11 +1,11 @@
-// OrloRunSheet: the sheet for a program that has nothing of the framework.
+// OrloRunSheet: runs the sheet for a program that does not use the framework.
 
 #include <afxwin.h>
 
 #include <memory>
 
-#include "orlo/c/answer.h"
-#include "orlo/c/stage.h"
+#include "orlo/c/framework_scope.h"
+#include "orlo/c/guarded_call.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_kind.h"
 #include "orlo/entry/entry.h"
@@ -17,8 +17,8 @@ namespace {
 
 using orlo::Refuse;
 
-// The record of the control protocol, from the one of the C interface.
-ControlFillRecord RecordOf(const OrloFill& fill) {
+// Converts the fill record of the C interface to that of the control protocol.
+ControlFillRecord ToFillRecord(const OrloFill& fill) {
     ControlFillRecord record = {fill.table, 0, fill.selected};
     if (fill.kind == kControlFontFaces && fill.face != nullptr) {
         record.dwValue = reinterpret_cast<UINT_PTR>(fill.face);
@@ -44,16 +44,17 @@ void FillControl(const OrloSheet& sheet, unsigned kind, HWND control) {
     fill.table = ::DrawingGetTable(sheet.drawing, table);
     fill.selected = kind == kControlColors ? kColorNone : 0; // 0 is black
     if (sheet.fill != nullptr) sheet.fill(sheet.context, &fill);
-    const ControlFillRecord record = RecordOf(fill);
+    const ControlFillRecord record = ToFillRecord(fill);
     ::SendMessageA(control, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
 }
 
 int32_t Run(const OrloSheet& record) {
-    orlo::Stage stage(record.owner, [&](unsigned kind, HWND control) { FillControl(record, kind, control); });
+    orlo::FrameworkScope framework(record.owner,
+                                   [&](unsigned kind, HWND control) { FillControl(record, kind, control); });
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
-        stage.Owner(), record.regenMethods, record.drawing, record.selection, record.filter));
-    if (!sheet) Refuse(kOrloNoMemory, "there is no memory for the sheet");
+        framework.Owner(), record.regenMethods, record.drawing, record.selection, record.filter));
+    if (!sheet) Refuse(kOrloOutOfMemory, "out of memory while the sheet was created");
     if (record.selection != nullptr)
         for (GraphicStruct* graphic : orlo::host::Members(record.selection, record.filter))
             ::AddGraphicPropertyPage(record.regenMethods, graphic, sheet.get());
@@ -63,10 +64,10 @@ int32_t Run(const OrloSheet& record) {
 } // namespace
 
 OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code) {
-    return orlo::Answer([&] {
-        orlo::Given(code, "code") = 0;
-        const OrloSheet record = orlo::GivenRecord(sheet, "the sheet");
-        orlo::Given(record.drawing, "the drawing");
+    return orlo::GuardedCall([&] {
+        orlo::RequireNotNull(code, "code") = 0;
+        const OrloSheet record = orlo::RequireRecord(sheet, "sheet");
+        orlo::RequireNotNull(record.drawing, "sheet->drawing");
         *code = Run(record);
     });
 }

@@ -47,13 +47,13 @@ typedef enum OrloResult {
     kOrloBadArgument = 1, // a null, a record of unknown size, a number out of its range
     kOrloBadHandle = 2,   // not a property set, or one that was closed
     kOrloBadThread = 3,   // the window belongs to another thread, or another thread runs the framework
-    kOrloTooSmall = 4,    // the buffer; the size that it needs is stored
+    kOrloBufferTooSmall = 4,    // the buffer; the size that it needs is stored
     kOrloNotFound = 5,    // no such section, property, name, stream or file
     kOrloWrongType = 6,   // the property is of another type, or its type can't hold the value
     kOrloDamaged = 7,     // bytes that are not a property set, or not a sound one
-    kOrloUnsayable = 8,   // the code page of the section can't say the text
-    kOrloSystem = 9,      // the system refuses: a file, a stream, a window
-    kOrloNoMemory = 10,
+    kOrloNotEncodable = 8,   // the code page of the section can't say the text
+    kOrloSystemError = 9,      // the system refuses: a file, a stream, a window
+    kOrloOutOfMemory = 10,
     kOrloFailed = 11 // anything else
 } OrloResult;
 

@@ -85,13 +85,13 @@ TEST(CPropset, SavesIntoAFileInOneStepAndLeavesTheRest) {
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     OrloPropset set = Opened(file.path.c_str()), other = nullptr;
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloAuthor, kOrloTypeText, "\xE0\xB8\x81"), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"), kOrloUnsayable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
     {
         constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         const HANDLE held =
             ::CreateFileW(file.path.c_str(), GENERIC_READ, kEverything, nullptr, OPEN_EXISTING, 0, nullptr);
         const std::string before = FileBytes(file.path);
-        EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloSystem);
+        EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloSystemError);
         ::CloseHandle(held);
         EXPECT_EQ(FileBytes(file.path), before);
     }
@@ -158,7 +158,7 @@ TEST(CPropset, LeavesWhatIsDamagedAlone) {
     std::vector<char> bytes(size);
     ASSERT_EQ(OrloPropsetSaveMemory(set, bytes.data(), &size), kOrloOk);
     size -= 8;
-    EXPECT_EQ(OrloPropsetSaveMemory(set, bytes.data(), &size), kOrloTooSmall);
+    EXPECT_EQ(OrloPropsetSaveMemory(set, bytes.data(), &size), kOrloBufferTooSmall);
     EXPECT_EQ(size, bytes.size());
     ASSERT_EQ(OrloPropsetOpenMemory(bytes.data(), size - 8, &cut), kOrloOk);
     EXPECT_EQ(Text(cut, kOrloSummary, kOrloAuthor), "Sompop");
@@ -211,7 +211,7 @@ TEST(CPropset, StoresWhatATypeCanHold) {
     EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloSummary, kOrloCodePage, kOrloTypeInt16, 1252),
               kOrloBadArgument);
     EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloDocumentSummary, kOrloCodePage, kOrloTypeInt16, 932), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"), kOrloUnsayable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
     OrloPropsetClose(set);
 }
 
@@ -235,7 +235,7 @@ TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
     EXPECT_GT(drawn, bgra.size() / 100);
     --size;
     EXPECT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, bgra.data(), &size),
-              kOrloTooSmall);
+              kOrloBufferTooSmall);
     width = height = 40;
     HBITMAP bitmap = nullptr;
     ASSERT_EQ(OrloPropsetGetThumbnailBitmap(set, &width, &height, &bitmap), kOrloOk);
@@ -280,7 +280,7 @@ TEST(CPropset, AnswersEveryWrongArgument) {
     EXPECT_EQ(OrloPropsetOpenFile(kDocument, "nothing", &out), none);
     EXPECT_EQ(out, nullptr);
     EXPECT_EQ(OrloPropsetSaveFile(set, nullptr, nullptr), bad);
-    EXPECT_EQ(OrloPropsetSaveFile(set, noFile, nullptr), kOrloSystem);
+    EXPECT_EQ(OrloPropsetSaveFile(set, noFile, nullptr), kOrloSystemError);
     EXPECT_EQ(OrloPropsetSaveStream(set, nullptr), bad);
     EXPECT_EQ(OrloPropsetSaveMemory(set, nullptr, nullptr), bad);
     EXPECT_EQ(OrloPropsetGetSection(set, 0, &section), bad);
@@ -288,7 +288,7 @@ TEST(CPropset, AnswersEveryWrongArgument) {
     EXPECT_EQ(OrloPropsetGetText(set, nullptr, 2, nullptr, &size), bad);
     EXPECT_EQ(OrloPropsetGetText(set, &kNoFormat, 2, nullptr, &size), none);
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, 2, kOrloTypeText, nullptr), bad);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, 2, kOrloTypeText, "\xFF"), kOrloUnsayable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, 2, kOrloTypeText, "\xFF"), kOrloNotEncodable);
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, 0, kOrloTypeText, "a"), bad);
     EXPECT_EQ(OrloPropsetSetBytes(set, &kOrloSummary, 2, kOrloTypeBlob, nullptr, 4), bad);
     EXPECT_EQ(OrloPropsetRemove(set, &kOrloSummary, 2), none);

@@ -1,6 +1,6 @@
-// Exceptions turned to numbers, and the text of the last one.
+// Converts exceptions to result codes and stores the message of the last one for each thread.
 
-#include "orlo/c/answer.h"
+#include "orlo/c/guarded_call.h"
 
 #include <afxwin.h>
 
@@ -26,12 +26,12 @@ OrloResult Failed(OrloResult result, const char* text) noexcept {
     return result;
 }
 
-// The framework throws pointers.
+// The framework throws exceptions by pointer.
 OrloResult Failed(CException* exception) noexcept {
     char text[512] = "";
     exception->GetErrorMessage(text, sizeof text);
     exception->Delete();
-    return Failed(kOrloFailed, text[0] != '\0' ? text : "the framework has failed");
+    return Failed(kOrloFailed, text[0] != '\0' ? text : "the framework reported an error without a message");
 }
 
 } // namespace
@@ -40,14 +40,15 @@ void Refuse(OrloResult result, const char* text) {
     throw Refusal{result, text};
 }
 
-void RefuseBySystem(long error, const char* what) {
+void RefuseWithSystemError(long error, const char* what) {
     std::string text = std::system_category().message(error);
     while (!text.empty() && std::strchr("\r\n. ", text.back()) != nullptr)
         text.pop_back();
-    throw Refusal{error == E_OUTOFMEMORY ? kOrloNoMemory : kOrloSystem, std::string(what) + ": " + text};
+    throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError,
+                  std::string(what) + ": " + text};
 }
 
-OrloResult Answer(const std::function<void()>& work) {
+OrloResult GuardedCall(const std::function<void()>& work) {
     try {
         work();
         return kOrloOk;
@@ -56,11 +57,11 @@ OrloResult Answer(const std::function<void()>& work) {
     } catch (CException* exception) {
         return Failed(exception);
     } catch (const std::bad_alloc&) {
-        return Failed(kOrloNoMemory, "there is no memory for it");
+        return Failed(kOrloOutOfMemory, "out of memory");
     } catch (const std::exception& exception) {
         return Failed(kOrloFailed, exception.what());
     } catch (...) {
-        return Failed(kOrloFailed, "an unknown exception of the host");
+        return Failed(kOrloFailed, "the host threw an exception of an unknown type");
     }
 }
 

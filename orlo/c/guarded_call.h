@@ -1,0 +1,42 @@
+// Error handling of the C interface: each function returns a result code and stores a message for its thread.
+#pragma once
+
+#include <orlo_c.h>
+
+#include <functional>
+#include <string>
+
+namespace orlo {
+
+// The exception for a call that fails with a certain result code. It never leaves GuardedCall.
+struct Refusal {
+    OrloResult result;
+    std::string text;
+};
+
+[[noreturn]] void Refuse(OrloResult result, const char* text);
+// Throws Refusal with kOrloSystemError (kOrloOutOfMemory for E_OUTOFMEMORY). The text is `what`, a colon and the system's
+// message for the error.
+[[noreturn]] void RefuseWithSystemError(long error, const char* what);
+
+// Runs the body of one function. Returns kOrloOk, or the result code for the exception that `work` threw; the message is
+// then stored for OrloGetErrorText.
+OrloResult GuardedCall(const std::function<void()>& work);
+
+// Returns *pointer. Throws Refusal if it is null.
+template <class T>
+T& RequireNotNull(T* pointer, const char* name) {
+    if (pointer == nullptr) Refuse(kOrloBadArgument, (std::string(name) + " is null").c_str());
+    return *pointer;
+}
+
+// Returns *record. Throws Refusal if it is null or its `size` is not that of the record in this version.
+template <class Record>
+Record& RequireRecord(Record* record, const char* name) {
+    if (RequireNotNull(record, name).size != sizeof(Record))
+        Refuse(kOrloBadArgument,
+               (std::string(name) + " has a size that this version does not support").c_str());
+    return *record;
+}
+
+} // namespace orlo
