@@ -43,7 +43,7 @@ void FillTables(Drawing& drawing) {
         add(kTableColors, name, std::move(entry));
     }
     auto& variables = drawing.tables[kTableUnits]->variables;
-    for (const uint16_t unit : {kUnitDrawing, kUnitMillimetre, kUnitTextSize, kUnitPenWidth})
+    for (const uint16_t unit : {kUnitDrawing, kUnitMillimeter, kUnitTextSize, kUnitPenWidth})
         variables[unit] = std::string("mm");
     variables[kUnitFontName] = std::string("Arial");
 }

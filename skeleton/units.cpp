@@ -17,7 +17,7 @@ struct Unit {
     double millimetres;
 };
 constexpr Unit kUnits[] = {
-    {"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", kMillimetresPerInch}, {"pt", kMillimetresPerInch / 72}};
+    {"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", kMillimetersPerInch}, {"pt", kMillimetersPerInch / 72}};
 
 const Unit* UnitNamed(const std::string& name) {
     for (const Unit& unit : kUnits)
@@ -67,7 +67,7 @@ double NumberUnit(uint16_t variable, const Unit& own) {
 }
 
 uint16_t NumberIn(uint16_t space) {
-    return space == kSpaceWorld ? kUnitDrawing : kUnitMillimetre;
+    return space == kSpaceWorld ? kUnitDrawing : kUnitMillimeter;
 }
 
 } // namespace

@@ -25,7 +25,7 @@ using orlo::host::ReadProperty;
 
 constexpr const char* kTables[] = {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors,
                                    kTableBlocks};
-constexpr uint16_t kUnitNames[] = {kUnitDrawing, kUnitMillimetre, kUnitTextSize, kUnitPenWidth,
+constexpr uint16_t kUnitNames[] = {kUnitDrawing, kUnitMillimeter, kUnitTextSize, kUnitPenWidth,
                                    kUnitFontName};
 constexpr uint16_t kUnitNumbers[] = {kUnitLinearSystem, kUnitLinearDigits, kUnitAngularSystem,
                                      kUnitAngularDigits};

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr unsigned long kNoStylePart = 4; // bit of a sheet's flags: it is over graphics of the drawing
-
 struct Field {
     unsigned int pageTemplate;
     int control;

@@ -72,7 +72,7 @@ std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double wid
     if (IsWorldScaled(graphic))
         ::DrawingStdNumericToText(drawing, width, text, sizeof text, 0);
     else
-        ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetresPerInch, text,
+        ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetersPerInch, text,
                                sizeof text, 0, 1);
     return text[0] ? text : Number(width);
 }

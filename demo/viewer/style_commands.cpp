@@ -5,8 +5,8 @@
 #include "demo/viewer/document.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/style_wizard.h"
-#include "orlo/frame/style_end_code.h"
 #include "orlo/host/owners.h"
+#include "orlo/host/words.h"
 
 namespace {
 

@@ -8,9 +8,9 @@ void UnitCalls(DrawingStruct* drawing) {
     double value;
     char text[256];
     // The number's variable before the text's: 25 mm are 2.5 drawing units.
-    UnitsTextToNumericEx(units, kUnitDrawing, kUnitMillimetre, "25", &value);
+    UnitsTextToNumericEx(units, kUnitDrawing, kUnitMillimeter, "25", &value);
     // The text's variable before the number's: "25 mm".
-    UnitsNumericToTextEx(units, kUnitMillimetre, kUnitDrawing, 2.5, text, sizeof text, 0, 1);
+    UnitsNumericToTextEx(units, kUnitMillimeter, kUnitDrawing, 2.5, text, sizeof text, 0, 1);
     // A length on paper counts in millimetres, whatever the text is in: 10, and "10 mm".
     UnitsTextToNumericEx(units, kUnitPenWidth, 0, "1 cm", &value);
     UnitsNumericToTextEx(units, 0, kUnitPenWidth, 10, text, sizeof text, 0, 1);

@@ -1,28 +1,15 @@
-// The kinds of the library's controls, by which they announce themselves, and the table that each kind shows. A kind is not
-// the identifier of a control in its dialog (control_ids.h): all combos of line styles have the same kind.
+// The table that each kind of control (orlo/host/words.h) shows.
 #pragma once
 
 #include "orlo/host/words.h"
 
-enum ControlKind : unsigned {
-    kControlFontFaces = 0x7D00,
-    kControlFontSizes = 0x7D01,
-    kControlLineStyleCombo = 0x7D04,
-    kControlColors = 0x7D05,
-    kControlBrushStyleCombo = 0x7D07,
-    kControlLayers = 0x7D08,
-    kControlStyleNames = 0x7D0F,
-    kControlLineStyleList = 0x7D15,
-    kControlBrushStyleList = 0x7D18,
-};
-
 struct ControlTable {
     ControlKind kind;
-    const char* table; // its name, for DrawingGetTable
+    const char* table; // name for DrawingGetTable
 };
 
 constexpr ControlTable kControlTables[] = {
-    {kControlFontFaces, kTableUnits}, // fonts are those of the drawing that owns the table
+    {kControlFontFaces, kTableUnits}, // lists the fonts of the drawing that owns the table
     {kControlFontSizes, kTableUnits},
     {kControlLineStyleCombo, kTableLineStyles},
     {kControlColors, kTableColors},
@@ -33,7 +20,7 @@ constexpr ControlTable kControlTables[] = {
     {kControlBrushStyleList, kTableBrushStyles},
 };
 
-// Name of the table that a host fills controls of that kind from; null for a number that is not a kind.
+// Returns the name of the table that controls of this kind are filled from, or null if `kind` is not a kind of control.
 constexpr const char* TableOfControl(unsigned kind) {
     for (const ControlTable& row : kControlTables) {
         if (row.kind == kind) return row.table;

@@ -108,7 +108,7 @@ void CFontSizeControl::FontSizeText(double value, CString& text) {
 
 void CFontSizeControl::RasterSizeText(const TEXTMETRICA& metrics, CString& text) {
     const double points = metrics.tmHeight - metrics.tmInternalLeading;
-    FontSizeText(points / m_nLogicalInch * kMillimetresPerInch, text);
+    FontSizeText(points / m_nLogicalInch * kMillimetersPerInch, text);
 }
 
 void CFontSizeControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {

@@ -45,9 +45,9 @@ int ExchangePaperText(int bReport, CDataExchange* pDX, unsigned int nIDC, double
     if (!units) return FailExchange(bReport, pDX);
     return ExchangeHostText(
         bReport, pDX, nIDC, value, bBlank,
-        [&](const char* text) { return UnitsTextToNumericEx(units, kUnitMillimetre, nUnit, text, &value); },
+        [&](const char* text) { return UnitsTextToNumericEx(units, kUnitMillimeter, nUnit, text, &value); },
         [&](char* buffer) {
-            return UnitsNumericToTextEx(units, nUnit, kUnitMillimetre, value, buffer, kTextSize, 0, 1);
+            return UnitsNumericToTextEx(units, nUnit, kUnitMillimeter, value, buffer, kTextSize, 0, 1);
         });
 }
 
@@ -69,7 +69,7 @@ int DDX_TextLinear(int bReport, CDataExchange* pDX, unsigned int nIDC, double& v
 
 int DDX_TextPaper(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
                   int bBlank) {
-    return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, kUnitMillimetre);
+    return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, kUnitMillimeter);
 }
 
 int DDX_TextPaperMM(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,

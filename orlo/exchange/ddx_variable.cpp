@@ -53,12 +53,12 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
 // Inches of the field, checked.
 int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min,
                      double max, unsigned int nIDPrompt, double& inches) {
-    double length = kCustomary * kMillimetresPerInch;
-    if (!UnitsTextToNumericEx(pUnits, kUnitMillimetre, 0, text, &length)) {
+    double length = kCustomary * kMillimetersPerInch;
+    if (!UnitsTextToNumericEx(pUnits, kUnitMillimeter, 0, text, &length)) {
         if (min < max) return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
         return FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
     }
-    inches = length * kInchesPerMillimetre;
+    inches = length * kInchesPerMillimeter;
     if (min < max && (inches < min || inches > max))
         return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
     return 1;
@@ -127,7 +127,7 @@ int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, 
         return 1;
     }
     TableGetNumericVar(pVariables, nID, &inches);
-    const int written = UnitsNumericToTextEx(pUnits, 0, kUnitMillimetre, inches * kMillimetresPerInch,
+    const int written = UnitsNumericToTextEx(pUnits, 0, kUnitMillimeter, inches * kMillimetersPerInch,
                                              text.GetBuffer(kTextSize - 1), kTextSize, 0, 1);
     text.ReleaseBuffer();
     return written ? DDX_Text(bReport, pDX, id, text) : FailExchange(bReport, pDX);

@@ -16,7 +16,7 @@ DRAWCORE_API void DoubleToString(int context, double value, int digits, char* bu
                                  int exponentForm, int trim);
 
 // A length as text and back. number: the variable of the units table that says what the number is: kUnitDrawing a length in
-// drawing units; kUnitMillimetre, kUnitTextSize, kUnitPenWidth a length on paper, in millimetres whatever unit the text is in.
+// drawing units; kUnitMillimeter, kUnitTextSize, kUnitPenWidth a length on paper, in millimetres whatever unit the text is in.
 // display: the variable that names the unit of the text, and of a text without a unit; 0 is the number's own variable.
 // A text that is not wholly a length gives 0 and leaves the value alone. Where the host calculates, a unit at the end alone
 // counts for the whole text ("100+50 mm" is 150 mm); among others with units, a number without one is in the display's ("2 ft

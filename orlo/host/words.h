@@ -1,5 +1,5 @@
 // The vocabulary of the contract between library and host: names of tables and properties, types and flags of graphics,
-// markers that stand for a value, numbers of variables and strings. Plain C; no window header.
+// special values (markers), numbers of variables and strings, kinds of controls. Plain C; no window header.
 #pragma once
 
 #include <stdint.h>
@@ -10,40 +10,40 @@
 #define ORLO_CONSTANT static const
 #endif
 
-// Tables of a drawing, by the names that DrawingGetTable takes.
+// Tables of a drawing: names for DrawingGetTable.
 ORLO_CONSTANT char kTableLayers[] = "_Layers_";
 ORLO_CONSTANT char kTableLineStyles[] = "_LineStyles_";
 ORLO_CONSTANT char kTableBrushStyles[] = "_BrushStyles_";
-ORLO_CONSTANT char kTableColors[] = "_Colors_";
-ORLO_CONSTANT char kTableBlocks[] = "_Blocks_";
-ORLO_CONSTANT char kTableUnits[] = "_Units_";
+ORLO_CONSTANT char kTableColors[] = "_Colors_"; // the data of an entry is a COLORREF*
+ORLO_CONSTANT char kTableBlocks[] = "_Blocks_"; // the data of an entry is a GraphicStruct*, its contents
+ORLO_CONSTANT char kTableUnits[] = "_Units_";   // variables only
 
-// A block that lives as long as a Block Insertion page; a host that lists its blocks leaves it out.
+// Name of a block that exists while a Block Insertion page is open. A host should not show it in its list of blocks.
 ORLO_CONSTANT char kPreviewBlock[] = "$PREVIEW_BLOCK";
 
-// Properties of graphics, by the names that PropLookup takes.
-ORLO_CONSTANT char kPropLayer[] = "Layer";
-ORLO_CONSTANT char kPropInfo[] = "Info"; // attribute text
-ORLO_CONSTANT char kPropStyleTree[] =
-    "StyleTree"; // the style that the graphic is drawn in, an entry of the block table
-ORLO_CONSTANT char kPropPenColor[] = "PenColor";
-ORLO_CONSTANT char kPropPenWidth[] = "PenWidth"; // by kPropScaleSystem
-ORLO_CONSTANT char kPropPenScale[] = "PenScale"; // of the dash pattern
-ORLO_CONSTANT char kPropPenStyle[] = "PenStyle";
-ORLO_CONSTANT char kPropPenAlignment[] = "PenAlignment"; // 1: dashes are fitted to each segment
-ORLO_CONSTANT char kPropScaleSystem[] = "ScaleSystem";
-ORLO_CONSTANT char kPropBrushColor[] = "BrushColor";
-ORLO_CONSTANT char kPropBrushAngle[] = "BrushAngle"; // radians
-ORLO_CONSTANT char kPropBrushScale[] = "BrushScale";
-ORLO_CONSTANT char kPropBrushStyle[] = "BrushStyle";
+// Properties of graphics: names for PropertyTable::PropLookup. docs/host-guide.md has a table of their value types.
+ORLO_CONSTANT char kPropLayer[] = "Layer"; // identifier of an entry of kTableLayers
+ORLO_CONSTANT char kPropInfo[] = "Info";   // attribute text
+// Entry of kTableBlocks: the style that the graphic is drawn in, 0 for none.
+ORLO_CONSTANT char kPropStyleTree[] = "StyleTree";
+ORLO_CONSTANT char kPropPenColor[] = "PenColor"; // a COLORREF, kColorByLayer or kColorByBlock
+ORLO_CONSTANT char kPropPenWidth[] = "PenWidth"; // in the unit that kPropScaleSystem selects
+ORLO_CONSTANT char kPropPenScale[] = "PenScale"; // factor of the dash pattern
+ORLO_CONSTANT char kPropPenStyle[] = "PenStyle"; // entry of kTableLineStyles or a kLineStyle... marker
+ORLO_CONSTANT char kPropPenAlignment[] = "PenAlignment";   // 1: dashes are fitted to each segment
+ORLO_CONSTANT char kPropScaleSystem[] = "ScaleSystem";     // kScaleWorld or kScalePaper
+ORLO_CONSTANT char kPropBrushColor[] = "BrushColor";       // like kPropPenColor, also kColorOfPen
+ORLO_CONSTANT char kPropBrushAngle[] = "BrushAngle";       // radians, counterclockwise
+ORLO_CONSTANT char kPropBrushScale[] = "BrushScale";       // factor of the distances in a hatch
+ORLO_CONSTANT char kPropBrushStyle[] = "BrushStyle";       // entry of kTableBrushStyles or kBrushStyleNone
 ORLO_CONSTANT char kPropBrushDrawMode[] = "BrushDrawMode"; // 0 alternate, 1 winding
-ORLO_CONSTANT char kPropHatchCross[] = "HatchCross";
-ORLO_CONSTANT char kPropTextFont[] = "TextFont";
-ORLO_CONSTANT char kPropTextSize[] = "TextSize";     // height of a capital letter, drawing units
-ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";   // bits
-ORLO_CONSTANT char kPropTextFormat[] = "TextFormat"; // kTextLeft ...
+ORLO_CONSTANT char kPropHatchCross[] = "HatchCross";       // 1: a second set of lines crosses the first
+ORLO_CONSTANT char kPropTextFont[] = "TextFont";           // face name
+ORLO_CONSTANT char kPropTextSize[] = "TextSize";           // height of a capital letter, in drawing units
+ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";         // bits: kTextItalic and following
+ORLO_CONSTANT char kPropTextFormat[] = "TextFormat";       // kTextLeft, kTextCenter or kTextRight
 
-// Bits of kPropTextStyle. The two lowest, as a number, are the place in the list of font styles.
+// Bits of kPropTextStyle. The two lowest bits, read as a number, are the index in the list of font styles.
 enum {
     kTextItalic = 0x0001,
     kTextBold = 0x0002,
@@ -59,89 +59,122 @@ enum { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 
 // Types of graphics (GraphicStruct::bType).
 enum {
-    kGraphicPenBrush = 2, // always takes pen and brush
-    kGraphicText = 6,
-    kGraphicVertices = 0x0B, // a vertex list, or a group: GraphicGetIsGroup says which
-    kGraphicInsert = 0x11
+    kGraphicPenBrush = 2,    // a curve; gets the Pen and Brush pages
+    kGraphicText = 6,        // a text
+    kGraphicVertices = 0x0B, // a vertex list, or a group if GraphicGetIsGroup returns non-zero
+    kGraphicInsert = 0x11    // an insertion of a block
 };
 
 // Flags of graphics (GraphicStruct::dwFlags).
 enum {
-    kFlagNoPenBrush = 0x40, // a vertex graphic that gets no Pen and Brush pages
-    kFlagNoParent = 0x100,  // pParent does not apply
-    kFlagPreview = 0x10000  // seen last by a walk over preview graphics
+    kFlagNoPenBrush = 0x40, // a vertex graphic that does not get the Pen and Brush pages
+    kFlagNoParent = 0x100,  // pParent is not valid
+    kFlagPreview = 0x10000 // set or cleared by the library at each iteration: the graphic is one of a preview
 };
 
 // Flags of vertices (VertexStruct::wFlags).
 enum {
-    kVertexDrawn = 1 // the segment to this vertex is drawn; a new vertex has it
+    kVertexDrawn = 1 // the segment that ends at this vertex is drawn; set in a new vertex
 };
 
-// Filters of GraphicFirst and GraphicNext, and flags of a sheet.
-ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;
-ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFBu; // all, and the General page has its style part
+// Filters of GraphicFirst and GraphicNext, which are also the flags of a sheet. Their bits are defined by the host,
+// except for kNoStylePart.
+enum {
+    kNoStylePart = 4 // if set, the General page has no style part
+};
+ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;                  // all graphics, without the style part
+ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFFu - kNoStylePart; // all graphics, with the style part
 
-// Markers among the colours, which are 0x00bbggrr otherwise.
-ORLO_CONSTANT uint32_t kColorIndeterminate = 0xFFFFFFFFu;
+// Markers: colors that are not a COLORREF (0x00bbggrr).
+ORLO_CONSTANT uint32_t kColorIndeterminate =
+    0xFFFFFFFFu; // the graphics of a selection differ; never stored in a graphic
 ORLO_CONSTANT uint32_t kColorNone = 0xFFFFFFFEu;
 ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
-ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // of a brush
+ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // brushes only: the color of the pen
 
-// Markers among the line styles, which are entries of kTableLineStyles otherwise.
+// Markers: line styles that are not an entry of kTableLineStyles.
 enum {
-    kLineStyleNone = 0,
+    kLineStyleNone = 0, // no line
     kLineStyleByBlock = 65533,
     kLineStyleByLayer = 65534,
-    kLineStyleIndeterminate = 65535
+    kLineStyleIndeterminate = 65535 // the graphics of a selection differ; never stored in a graphic
 };
 
-// A marker among the brush styles, which are entries of kTableBrushStyles otherwise.
-enum { kBrushStyleNone = 0, kBrushStyleIndeterminate = 65535 };
-
-// What the width of a pen means.
+// Markers: brush styles that are not an entry of kTableBrushStyles.
 enum {
-    kScaleWorld = 0,           // drawing units: it grows with the drawing
-    kScalePaper = 2,           // inches of paper, the same at every zoom
-    kScaleIndeterminate = 0xFF // texts of widths are as on paper
+    kBrushStyleNone = 0, // no filling
+    kBrushStyleIndeterminate = 65535
 };
 
-// Spaces that the lengths of a drawing are in (DrawingGetCoordSpace).
+// Values of kPropScaleSystem: the unit of a pen width.
+enum {
+    kScaleWorld = 0,           // drawing units; the width grows with the drawing
+    kScalePaper = 2,           // inches on paper; the same width at every zoom
+    kScaleIndeterminate = 0xFF // the graphics of a selection differ; widths are then displayed as on paper
+};
+
+// Spaces of lengths (DrawingGetCoordSpace).
 enum {
     kSpaceWorld = 0, // drawing units
-    kSpacePaper = 1, // millimetres
-    kSpaceDevice = 2 // has no lengths
+    kSpacePaper = 1, // millimeters
+    kSpaceDevice = 2 // pixels; lengths cannot be converted
 };
 
-// Variables of a units table.
+// Variables of a units table. They are strings.
 enum {
     kUnitDrawing = 0x5033,    // name of the unit of lengths in the drawing, and of a number without a unit
-    kUnitMillimetre = 0x5034, // always "mm"
+    kUnitMillimeter = 0x5034, // always "mm"
     kUnitTextSize = 0x5035,   // name of the unit of text sizes on paper
-    kUnitPenWidth = 0x5036,   // of pen widths on paper
-    kUnitFontName = 0x50BC    // the face of the current font
+    kUnitPenWidth = 0x5036,   // name of the unit of pen widths on paper
+    kUnitFontName = 0x50BC    // face name of the current font
 };
 
 // Variables of the application's table.
 enum {
-    kVarPreviewBackground = 0x5104 // a COLORREF
+    kVarPreviewBackground = 0x5104 // integer: a COLORREF
 };
 
-// Texts that the library asks the host for (DrawCoreLoadString).
+// User-visible strings supplied by the host (DrawCoreLoadString).
 enum {
-    kStringByBlock = 0x7052,    // kLineStyleByBlock, kColorByBlock
-    kStringByLayer = 0x7053,    // kLineStyleByLayer, kColorByLayer
-    kStringLastColor = 0x7054,  // kColorOfPen
-    kStringNoBrush = 0x7058,    // kBrushStyleNone
-    kStringPaperScale = 0x7059, // kScalePaper
-    kStringWorldScale = 0x705A, // kScaleWorld
-    kStringSampleText = 0x705C  // preview of the Text page; at most 63 characters
+    kStringByBlock = 0x7052,    // for kLineStyleByBlock and kColorByBlock
+    kStringByLayer = 0x7053,    // for kLineStyleByLayer and kColorByLayer
+    kStringLastColor = 0x7054,  // for kColorOfPen
+    kStringNoBrush = 0x7058,    // for kBrushStyleNone
+    kStringPaperScale = 0x7059, // for kScalePaper
+    kStringWorldScale = 0x705A, // for kScaleWorld
+    kStringSampleText = 0x705C  // the preview of the Text page; at most 63 characters
 };
 
-// Names of styles that the host keeps for itself, in the order in which the library compares.
+// Strings that name the host's predefined styles, which users cannot delete. In the order in which the library
+// compares.
 ORLO_CONSTANT unsigned int kStringsReservedStyles[] = {0x704A, 0x704B, 0x704C, 0x704D,
                                                        0x704E, 0x7050, 0x704F, 0x7051};
 
-// An inch, the unit of pen widths on paper.
-ORLO_CONSTANT double kMillimetresPerInch = 25.4;
-ORLO_CONSTANT double kInchesPerMillimetre = 0.03937007874015748;
+// Kinds of the library's controls (OrloFill::kind, and the low word of wParam in a notification). A kind is not the
+// identifier of a control in its dialog: all combo boxes of line styles have the same kind.
+typedef enum ControlKind {
+    kControlFontFaces = 0x7D00,
+    kControlFontSizes = 0x7D01,
+    kControlLineStyleCombo = 0x7D04,
+    kControlColors = 0x7D05,
+    kControlBrushStyleCombo = 0x7D07,
+    kControlLayers = 0x7D08,
+    kControlStyleNames = 0x7D0F,
+    kControlLineStyleList = 0x7D15,
+    kControlBrushStyleList = 0x7D18
+} ControlKind;
+
+// Codes with which the General page ends a sheet over a style. The sheet is then closed, and the drawing is unchanged
+// except for a style that was added; the host does the rest. With identifiers of 1000 and more a code can be read in
+// two ways: the host checks which one names a style.
+typedef enum StyleEndCode {
+    kStyleAdded = 1000,     // a style was added to the table: a copy of the sheet's graphics
+    kStyleChosen = 1000,    // + identifier: the user selected a style and moved to another control
+    kStyleToDelete = 2000,  // + identifier: the user pressed Delete; the style still exists
+    kStyleChosenByOk = 3000 // + identifier: the user selected a style and pressed OK
+} StyleEndCode;
+
+// Conversion of pen widths, which are in inches on paper.
+ORLO_CONSTANT double kMillimetersPerInch = 25.4;
+ORLO_CONSTANT double kInchesPerMillimeter = 0.03937007874015748;

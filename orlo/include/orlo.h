@@ -34,7 +34,6 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
 #include "orlo/frame/orlo_property_sheet.h"
-#include "orlo/frame/style_end_code.h"
 #include "orlo/host/host.h"
 #include "orlo/pages/brush_page.h"
 #include "orlo/pages/general_page.h"

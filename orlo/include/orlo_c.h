@@ -1,7 +1,7 @@
-// The library's interface for programs in C, and in every language and compiler that can call C.
+// The C interface of the library, for programs in C and in every language and compiler that can call C.
 //
-//   if (OrloGetVersion() < ORLO_VERSION) ...             older than this header
-//   OrloSheet sheet = {sizeof sheet};                    the rest is 0
+//   if (OrloGetVersion() < ORLO_VERSION) ...             the library is older than this header
+//   OrloSheet sheet = {sizeof sheet};                    the other members are 0
 //   sheet.filter = kAllGraphics;
 //   sheet.owner = window;
 //   sheet.drawing = drawing;
@@ -9,18 +9,22 @@
 //   int32_t code;
 //   if (OrloRunSheet(&sheet, &code) == kOrloOk) ...      1: OK, 2: Cancel
 //
-// Compatibility: within one ORLO_VERSION_MAJOR a function keeps its name, its parameters and its meaning, a number keeps its
-// value, and a record only grows at its end. Each record begins with its size in bytes, which the caller sets: a later library
-// takes missing members as 0, an earlier one refuses a record that it does not know. The C++ classes of the other
-// headers promise nothing of the kind: they belong to one compiler and one version.
+// Compatibility: within one ORLO_VERSION_MAJOR, functions keep their names, parameters and meaning, and constants keep
+// their values. Records only grow at the end. Each record begins with its size in bytes, which the caller sets: a later
+// library treats missing members as 0, and an earlier library rejects a record of an unknown size. The C++ classes in
+// the other headers are not covered: they require the same compiler and the same version.
 //
-// Every function of type OrloResult returns kOrloOk or says why not, and OrloGetErrorText has the reason in words. On
-// failure nothing has changed, and what the function would store is 0, except for a size that was asked for. No exception
-// leaves a function, and arguments that can be recognised as wrong are never followed. Texts are UTF-8, file names UTF-16.
+// Errors: every function of type OrloResult returns kOrloOk or the reason why it failed; OrloGetErrorText returns a
+// message. If a function fails, nothing has changed, and its output parameters are 0, except for a required buffer
+// size. Exceptions never leave a function. Invalid arguments that can be detected are rejected.
+//
+// Strings are UTF-8, file names UTF-16. Output parameters other than buffers must not be null.
 #pragma once
 
 #include <stddef.h>
 #include <stdint.h>
+
+#include "orlo/host/words.h"
 
 #define ORLO_VERSION_MAJOR 1
 #define ORLO_VERSION_MINOR 0
@@ -39,79 +43,84 @@
 #endif
 #define ORLO_CALL __cdecl
 
-// The version of the library that is loaded, as ORLO_VERSION has it.
+// Returns the version of the loaded library, in the format of ORLO_VERSION.
 ORLO_C_API uint32_t ORLO_CALL OrloGetVersion(void);
 
 typedef enum OrloResult {
     kOrloOk = 0,
-    kOrloBadArgument = 1, // a null, a record of unknown size, a number out of its range
-    kOrloBadHandle = 2,   // not a property set, or one that was closed
-    kOrloBadThread = 3,   // the window belongs to another thread, or another thread runs the framework
-    kOrloBufferTooSmall = 4,    // the buffer; the size that it needs is stored
-    kOrloNotFound = 5,    // no such section, property, name, stream or file
-    kOrloWrongType = 6,   // the property is of another type, or its type can't hold the value
-    kOrloDamaged = 7,     // bytes that are not a property set, or not a sound one
-    kOrloNotEncodable = 8,   // the code page of the section can't say the text
-    kOrloSystemError = 9,      // the system refuses: a file, a stream, a window
+    kOrloBadArgument = 1,    // null, a record of unknown size, or a number out of range
+    kOrloBadHandle = 2,      // not a property set, or closed
+    kOrloBadThread = 3,      // the window belongs to another thread, or the framework runs on another thread
+    kOrloBufferTooSmall = 4, // the required size was stored
+    kOrloNotFound = 5,       // the section, property, name, stream or file does not exist
+    kOrloWrongType = 6,      // the property has another type, or its type cannot represent the value
+    kOrloDamaged = 7,        // the bytes are not a property set, or the set is damaged
+    kOrloNotEncodable = 8,   // the text cannot be represented in the code page of the section
+    kOrloSystemError = 9,    // a system call failed: file, stream or window
     kOrloOutOfMemory = 10,
-    kOrloFailed = 11 // anything else
+    kOrloFailed = 11 // any other failure
 } OrloResult;
 
-// Why the last function of this thread that failed did so: at most size bytes with the NUL. Returns the bytes that the whole
-// text needs.
+// Copies the message for the last function that failed on this thread: at most size bytes, including the NUL. Returns
+// the buffer size for the whole message, including the NUL. buffer may be null.
 ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
 
 // ---- The sheet
 
-struct HWND__; // what the system's handles point to, with or without windows.h
+struct HWND__; // the targets of the system's handles, so that windows.h is not required
 struct HBITMAP__;
 struct IStream;
-struct DrawingStruct; // the host's own, see orlo/host
+struct DrawingStruct; // defined by the host; see orlo/host
 struct GraphicStruct;
 struct TableStruct;
 
-// What a control of the sheet is filled with. The library fills the record in, and the host's callback may change it.
+// The contents of one control of the sheet. The library fills the record in; the callback can change it.
 typedef struct OrloFill {
-    uint32_t size;
-    uint32_t kind;             // of the control: docs/host-guide.md has the list
-    const char* tableName;     // which table that kind shows: "_Layers_", ...
+    uint32_t size;             // set by the library
+    uint32_t kind;             // a ControlKind, such as kControlLayers
+    const char* tableName;     // name of the table that this kind shows, such as kTableLayers
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
-    uint32_t selected;         // entry or colour; only the style names use it, a page chooses for the others
-    float height;              // font heights: above 0, the one that is chosen
-    const char* face;          // font faces: not null, a face that joins the list; in the system's code page
+    uint32_t selected; // entry or color to select; only kControlStyleNames uses it, pages select the others
+    float height;      // kControlFontSizes: if above 0, the font height to select
+    const char* face;  // kControlFontFaces: if not null, a face to add; in the code page of the system
 } OrloFill;
 
-// Called on the thread of OrloRunSheet, for each control that comes to life. Must not throw.
+// Called on the thread of OrloRunSheet when a control was created. context is OrloSheet::context. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
 typedef struct OrloSheet {
-    uint32_t size;
-    uint32_t filter;                 // which members of the selection: see GraphicFirst
-    struct HWND__* owner;            // disabled while the sheet is open; null for none
-    struct DrawingStruct* drawing;   // it is also the host's current one
-    struct GraphicStruct* selection; // a graphic whose members are edited
-    void* regenMethods;              // handed to RegenMethodGetPropPage; may be null
+    uint32_t size;        // sizeof(OrloSheet)
+    uint32_t filter;      // which members of the selection to edit: kAllGraphics, or see GraphicFirst
+    struct HWND__* owner; // disabled while the sheet is open; null for none
+    struct DrawingStruct* drawing;   // must be the host's current drawing; must not be null
+    struct GraphicStruct* selection; // the graphic whose members are edited; null: the sheet edits nothing
+    void* regenMethods;              // passed to RegenMethodGetPropPage; may be null
     OrloFillCallback fill;           // null: every control shows its table of the drawing
-    void* context;                   // handed to fill
+    void* context;                   // passed to fill
 } OrloSheet;
 
-// Opens the sheet over the selection and returns when the user has closed it. code: 1 after OK, 2 after Cancel, -1 if the
-// program ends meanwhile, or the code of a page (see style_end_code.h). A page that was left has written, whatever the code.
-// To be called on the thread of the owner and of the host's drawing; the program need not use the framework.
+// Opens the sheet and returns when the user has closed it. *code is 1 after OK, 2 after Cancel, a StyleEndCode, or -1
+// if the program ended meanwhile. A page writes its values when the user leaves it, so values may have been written
+// whatever the code is.
+//
+// Must be called on the thread of the owner and of the host's drawing. The program does not have to use the framework.
+// Fails with kOrloBadThread on another thread and with kOrloBadArgument if owner is not a window.
 ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code);
 
-// ---- Property sets and the summaries of documents
+// ---- Property sets and summaries of documents
 
-// A property set in memory. Closed ones are recognised. One thread at a time may use a set.
+// A property set in memory. Calls with a closed handle fail with kOrloBadHandle. A set must not be used by two threads
+// at the same time; different sets can be.
 typedef struct OrloPropset__* OrloPropset;
 
-// Laid out as the system's GUID.
+// Same layout as the system's GUID.
 typedef struct OrloGuid {
     uint32_t data1;
     uint16_t data2, data3;
     uint8_t data4[8];
 } OrloGuid;
 
+// Formats of sections. The last two are sections of the stream "\005DocumentSummaryInformation".
 static const OrloGuid kOrloSummary = {
     0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
 static const OrloGuid kOrloDocumentSummary = {
@@ -121,7 +130,7 @@ static const OrloGuid kOrloUserDefined = {
 
 // Properties of kOrloSummary.
 enum {
-    kOrloCodePage = 1, // of every section: the code page of its texts
+    kOrloCodePage = 1, // in every section: the code page of its texts
     kOrloTitle = 2,
     kOrloSubject = 3,
     kOrloAuthor = 4,
@@ -130,7 +139,7 @@ enum {
     kOrloTemplate = 7,
     kOrloLastAuthor = 8,
     kOrloRevision = 9,
-    kOrloEditTime = 10,
+    kOrloEditTime = 10, // a duration
     kOrloPrinted = 11,
     kOrloCreated = 12,
     kOrloSaved = 13,
@@ -142,75 +151,87 @@ enum {
     kOrloSecurity = 19
 };
 
-// Types of values: the system's variant types. A list has 0x1000 added.
+// Value types, with the numbers of the system's variant types. A vector has 0x1000 added.
 enum {
-    kOrloTypeInt16 = 2,
-    kOrloTypeInt32 = 3,
-    kOrloTypeFloat = 4,
-    kOrloTypeDouble = 5,
-    kOrloTypeDate = 7,
-    kOrloTypeBool = 11,
-    kOrloTypeUInt8 = 17,
-    kOrloTypeUInt16 = 18,
-    kOrloTypeUInt32 = 19,
-    kOrloTypeInt64 = 20,
-    kOrloTypeUInt64 = 21,
-    kOrloTypeText = 30, // in the code page of the section
-    kOrloTypeWideText = 31,
-    kOrloTypeFileTime = 64, // 100 ns since 1601, UTC; of kOrloEditTime a span
-    kOrloTypeBlob = 65,
-    kOrloTypeClipboard = 71
+    kOrloTypeInt16 = 2,     // VT_I2
+    kOrloTypeInt32 = 3,     // VT_I4
+    kOrloTypeFloat = 4,     // VT_R4
+    kOrloTypeDouble = 5,    // VT_R8
+    kOrloTypeDate = 7,      // VT_DATE: days since 1899-12-30
+    kOrloTypeBool = 11,     // VT_BOOL
+    kOrloTypeUInt8 = 17,    // VT_UI1
+    kOrloTypeUInt16 = 18,   // VT_UI2
+    kOrloTypeUInt32 = 19,   // VT_UI4
+    kOrloTypeInt64 = 20,    // VT_I8
+    kOrloTypeUInt64 = 21,   // VT_UI8
+    kOrloTypeText = 30,     // VT_LPSTR: in the code page of the section
+    kOrloTypeWideText = 31, // VT_LPWSTR
+    kOrloTypeFileTime = 64, // VT_FILETIME: 100 ns since 1601-01-01 UTC; kOrloEditTime: a duration in 100 ns
+    kOrloTypeBlob = 65,     // VT_BLOB
+    kOrloTypeClipboard = 71 // VT_CF
 };
 
-// An empty set.
+// Creates an empty set. The caller closes it with OrloPropsetClose, like those of the following functions.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set);
-// The bytes are copied. A set with damage opens as far as it can be read, and does not take changes.
+// Reads a set from memory; the bytes are copied. Fails with kOrloDamaged if they are not a property set. A damaged set
+// is opened as far as it can be read; changing or saving it then fails with kOrloDamaged.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t size, OrloPropset* set);
-// From the position of the stream, which stays the caller's, to its end.
+// Reads a set from the current position of the stream to its end. The stream remains the caller's.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenStream(struct IStream* stream, OrloPropset* set);
-// A stream of a compound file, read without the system, so that no damage hangs it. Null for the name: the summary,
-// "\005SummaryInformation". The file is closed again.
+// Reads a set from a stream of a compound file; the file is closed again. If streamName is null, the stream is
+// "\005SummaryInformation". The library's own reader is used, so a damaged file cannot make the system hang.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName,
                                                     OrloPropset* set);
+// Closes a set and frees it.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 
-// size: the room in the buffer, then the bytes of the set. A null buffer only asks for these and returns kOrloOk.
+// Buffers: *size is the size of the buffer in bytes; on return it is the size of the data. If buffer is null, only that
+// size is stored and the function returns kOrloOk. Fails with kOrloBufferTooSmall if the data does not fit.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size);
-// At the position of the stream.
+// Writes the set at the current position of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
-// Into the stream of a compound file, in one step: in a copy of the file, which then takes its place. The file is made if
-// there isn't one; a damaged one, and one that somebody else has open, is left alone.
+// Writes the set to a stream of a compound file (null: "\005SummaryInformation"), which is created if it does not
+// exist. The change is made in a copy that then replaces the file in one step. A file that is damaged or open elsewhere
+// is not changed.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path,
                                                     const char* streamName);
 
 typedef struct OrloSection {
-    uint32_t size;
+    uint32_t size; // sizeof(OrloSection)
     OrloGuid format;
-    uint32_t codePage;   // 0: the section names none
-    uint32_t properties; // how many
+    uint32_t codePage;   // 0 if the section has no kOrloCodePage
+    uint32_t properties; // their number
 } OrloSection;
 
 typedef struct OrloProperty {
-    uint32_t size;
+    uint32_t size; // sizeof(OrloProperty)
     uint32_t id;
-    uint32_t type;
-    uint32_t isComplete; // 0: the value is damaged or of an unknown type; only its bytes are available
-    size_t bytes;        // after the type code
+    uint32_t type;       // kOrloType..., or any other type in the set
+    uint32_t isComplete; // 0 if the value is damaged or of an unknown type: only its bytes are available
+    size_t bytes;        // size of the value without its type code
 } OrloProperty;
 
+// Stores the number of sections.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count);
-// By position, from 0; kOrloNotFound after the last one. The caller sets the record's size first.
+// Stores a section, and a property of a section, by index. Fails with kOrloNotFound if the index is out of range, so
+// that a loop can end there. The caller sets the record's size first.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
                                                        OrloProperty* property);
-// The name that the section's dictionary has for a property, and the other way round: A to Z count like a to z.
+// Stores the name of a property in the dictionary of the section, or the identifier for a name. Names are compared
+// without regard to the case of A to Z.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    char* buffer, size_t* size);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
                                                     uint32_t* id);
 
-// Values of the first section of that format. Buffers are as of OrloPropsetSaveMemory, a text's size counts its NUL.
-// Integer: whole numbers, Booleans (0, 1) and file times. Real: float, double, dates. Bytes: of any type, after its code.
+// Store a value of the first section of that format. For buffers see OrloPropsetSaveMemory; the size of a text includes
+// its NUL. Fail with kOrloNotFound if the section or the property does not exist and with kOrloWrongType for another
+// type:
+//   Integer  integer types, Booleans (0 or 1), file times
+//   Real     float, double, dates
+//   Text     text and wide text
+//   Bytes    any type: the bytes after the type code
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       int64_t* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -220,9 +241,10 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGu
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     void* buffer, size_t* size);
 
-// Adds or replaces a property, with its section if there isn't one. A new section has the code page 65001, UTF-8; for another
-// one its property kOrloCodePage is set first, which takes no later change. An existing property is replaced by one of its
-// own type only. A value that its type can't hold gives kOrloWrongType; a float is rounded. Bytes are one value of their type.
+// Add or replace a property; its section is created if it does not exist. A new section has the code page 65001
+// (UTF-8). For another code page, set kOrloCodePage first; it cannot be changed later. An existing property can only be
+// replaced by a value of the same type. Fail with kOrloWrongType if the type cannot represent the value; a double is
+// rounded to a float. The bytes of SetBytes must be one value of the type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t type, int64_t value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -231,23 +253,24 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    uint32_t type, const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                     uint32_t type, const void* data, size_t size);
-// Names a property in the dictionary of its section, which must exist. A name belongs to one property.
+// Names a property in the dictionary of its section, which must exist. Two properties cannot have the same name.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
-// With its name. kOrloNotFound if there isn't one.
+// Removes a property and its name. Fails with kOrloNotFound if it does not exist.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id);
 
 // ---- The thumbnail of a summary
 
-enum { kOrloBgra = 0, kOrloRgba = 1 }; // orders of pixels
+enum { kOrloBgra = 0, kOrloRgba = 1 }; // byte order of a pixel
 
-// Width and height in pixels, 1 to 8192 on a side. With both 0 they become those of the picture itself; a metafile, which has
-// none, gets 256 on its longer side.
-//
-// Pixels: four bytes each, row by row from the top, the fourth 255; a null buffer asks for the size alone.
+// *width and *height are the size of the result in pixels, 1 to 8192 each. If both are 0, the size of the picture is
+// used and stored; a metafile then gets 256 pixels on its longer side.
+
+// Stores the pixels of the thumbnail: four bytes each (alpha is 255), row by row from the top. For the buffer see
+// OrloPropsetSaveMemory.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order,
                                                               uint32_t* width, uint32_t* height, void* buffer,
                                                               size_t* size);
-// A bitmap of the system, which the caller deletes.
+// Creates a bitmap of the thumbnail. The caller deletes it with DeleteObject.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width,
                                                               uint32_t* height, struct HBITMAP__** bitmap);

@@ -10,10 +10,10 @@
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/frame/graphic_property_sheet.h"
-#include "orlo/frame/style_end_code.h"
 #include "orlo/host/block.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
+#include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
 IMPLEMENT_DYNAMIC(CGeneralPage, CGraphicPropertyPage)
@@ -22,7 +22,6 @@ namespace {
 
 constexpr int kLongestStyleName = 32;
 constexpr int kNameSize = 256;
-constexpr unsigned long kNoStylePart = 4; // bit of the graphic flags
 
 void ShowDlgControl(HWND hDlg, int nID, int bShow) {
     const HWND control = ::GetDlgItem(hDlg, nID);

@@ -34,14 +34,14 @@ int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char
     if (drawing == nullptr) return 0;
     if (scaleSystem == kScaleWorld) return ::DrawingStdTextToNumeric(drawing, text, value, 0);
     if (!::UnitsTextToNumericEx(drawing->pUnits, kUnitPenWidth, 0, text, value)) return 0;
-    *value *= kInchesPerMillimetre;
+    *value *= kInchesPerMillimeter;
     return 1;
 }
 
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size) {
     if (drawing == nullptr) return 0;
     if (scaleSystem == kScaleWorld) return ::DrawingStdNumericToText(drawing, value, buffer, size, 0);
-    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetresPerInch, buffer,
+    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetersPerInch, buffer,
                                   size, 0, 1);
 }
 

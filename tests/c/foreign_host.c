@@ -56,12 +56,12 @@ static void TakeAll(HMODULE module, Database* all) {
 
 // Whether all graphics that have a pen colour have the same.
 static int OneColor(const Database* database, struct GraphicStruct* set) {
-    static const char* const name = "PenColor";
+    static const char* const name = kPropPenColor;
     uint32_t place, color = 0, other;
     int count = 0;
     struct GraphicStruct* graphic;
-    for (graphic = database->first(set, &place, 1, 0xFFFFFFFFu); graphic != 0;
-         graphic = database->next(set, &place, 1, 0xFFFFFFFFu)) {
+    for (graphic = database->first(set, &place, 1, kAllGraphics); graphic != 0;
+         graphic = database->next(set, &place, 1, kAllGraphics)) {
         const Slots* slots = database->slots(graphic);
         int32_t number;
         if (slots == 0 || !slots->lookup(graphic, &name, 1, 0, &number) ||
@@ -87,7 +87,7 @@ static int RunSheet(const Database* database, struct DrawingStruct* drawing) {
     HWND owner = CreateWindowExA(0, "STATIC", "Host", 0x10CF0000u, 50, 50, 400, 300, 0, 0, 0, 0);
     if (OneColor(database, all)) return 3; // nothing to see
     sheet.size = sizeof sheet;
-    sheet.filter = 0xFFFFFFFFu;
+    sheet.filter = kAllGraphics;
     sheet.owner = owner;
     sheet.drawing = drawing;
     sheet.selection = all;

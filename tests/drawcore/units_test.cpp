@@ -271,13 +271,13 @@ TEST_F(Lengths, OnPaperAreMillimetresInWhateverUnitTheTextIs) {
     EXPECT_NEAR(value, 0.254, 1e-12);
     EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "0.35 mm", &value));
     EXPECT_NEAR(value, 0.35, 1e-12);
-    EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, kUnitMillimetre, "0.5", &value))
+    EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, kUnitMillimeter, "0.5", &value))
         << "shown in another unit";
     EXPECT_NEAR(value, 0.5, 1e-12);
     char text[64];
     EXPECT_TRUE(UnitsNumericToTextEx(units, 0, kUnitPenWidth, 25.4, text, sizeof text, 0, 1));
     EXPECT_STREQ(text, "1 in");
-    EXPECT_TRUE(UnitsNumericToTextEx(units, kUnitMillimetre, kUnitPenWidth, 25.4, text, sizeof text, 0, 0));
+    EXPECT_TRUE(UnitsNumericToTextEx(units, kUnitMillimeter, kUnitPenWidth, 25.4, text, sizeof text, 0, 0));
     EXPECT_STREQ(text, "25.4");
     TableSetStringVar(units, kUnitPenWidth, "cubits");
     EXPECT_FALSE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "1", &value));

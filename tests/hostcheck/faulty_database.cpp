@@ -282,7 +282,7 @@ int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, 
     if (Is("arguments exchanged") && display) std::swap(number, display);
     const int read = Sound_UnitsTextToNumericEx(units, number, display, text, value);
     if (!read && Is("value lost on refusal")) *value = 0;
-    if (read && number == kUnitPenWidth && Is("paper in inches")) *value *= kInchesPerMillimetre;
+    if (read && number == kUnitPenWidth && Is("paper in inches")) *value *= kInchesPerMillimeter;
     return read;
 }
 
@@ -308,7 +308,7 @@ int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* 
 
 int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
     const int found = Sound_UnitsGetLUnitValue(units, variable, value);
-    if (found && Is("inches as millimetres")) *value = kMillimetresPerInch;
+    if (found && Is("inches as millimetres")) *value = kMillimetersPerInch;
     return found;
 }
 

@@ -122,7 +122,7 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
               }));
     GraphicStruct* rectangle = Member(0);
     EXPECT_LT(Property<uint32_t>(rectangle, kPropPenColor, VT_UI4), 0x1000000u); // was by layer
-    EXPECT_DOUBLE_EQ(0.5 * kInchesPerMillimetre, Property<double>(rectangle, kPropPenWidth, VT_R8));
+    EXPECT_DOUBLE_EQ(0.5 * kInchesPerMillimeter, Property<double>(rectangle, kPropPenWidth, VT_R8));
     EXPECT_NE(0u, Property<uint32_t>(rectangle, kPropBrushStyle, VT_UI4));
     EXPECT_DOUBLE_EQ(7.5, Property<double>(Member(1), kPropTextSize, VT_R8));
     int cookie;

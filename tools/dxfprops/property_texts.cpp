@@ -173,14 +173,14 @@ struct PropertyForms {
     static std::string GetWidth(const PropertyTexts& of, const Look& look) {
         if (look.worldWidth) return LengthText(of, look.width);
         constexpr int kDigits = 6;
-        return drawcore::WriteLength(look.width * kMillimetresPerInch, PaperUnit(of),
+        return drawcore::WriteLength(look.width * kMillimetersPerInch, PaperUnit(of),
                                      {drawcore::LengthSystem::Decimal, kDigits, true});
     }
     static void SetWidth(const PropertyTexts& of, const std::string& text, Look& look) {
         if (look.worldWidth)
             look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
         else
-            look.width = ReadLength(text, PaperUnit(of)) / kMillimetresPerInch;
+            look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
     }
 
     static std::string GetLineType(const PropertyTexts& of, const Look& look) {

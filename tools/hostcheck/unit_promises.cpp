@@ -9,7 +9,7 @@
 namespace {
 
 constexpr char kUntouched = '\x5A';
-constexpr uint16_t kUnitVariables[] = {kUnitDrawing, kUnitMillimetre, kUnitTextSize, kUnitPenWidth};
+constexpr uint16_t kUnitVariables[] = {kUnitDrawing, kUnitMillimeter, kUnitTextSize, kUnitPenWidth};
 
 // A text shows a few digits only.
 bool IsNear(double found, double expected) {
@@ -87,7 +87,7 @@ private:
 void TakesTheNumberFirst(const Subject& s) {
     const Centimetres unit(s);
     double found = 0;
-    Expect(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitDrawing, kUnitMillimetre, "25", &found),
+    Expect(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitDrawing, kUnitMillimeter, "25", &found),
            "does not read 25");
     Expect(IsNear(found, 25 / unit.millimetres), "reads 25 mm as %g drawing units of %g mm", found,
            unit.millimetres);
@@ -96,7 +96,7 @@ void TakesTheNumberFirst(const Subject& s) {
 void TakesTheDisplayFirst(const Subject& s) {
     const Centimetres unit(s);
     char text[64] = "";
-    Expect(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimetre, kUnitDrawing, 2.5, text,
+    Expect(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimeter, kUnitDrawing, 2.5, text,
                                               sizeof text, 0, 0),
            "gave no text");
     char* end = nullptr;
@@ -117,7 +117,7 @@ void UnitsHaveLengths(const Subject& s) {
         double millimetres = 0;
         Expect(CALL(s.host, UnitsGetLUnitValue)(s.Units(), variable, &millimetres) && millimetres > 0,
                "the unit of 0x%X has %g mm", variable, millimetres);
-        Expect(variable != kUnitMillimetre || millimetres == 1, "a millimetre has %g mm", millimetres);
+        Expect(variable != kUnitMillimeter || millimetres == 1, "a millimetre has %g mm", millimetres);
     }
     double value = 77;
     Expect(!CALL(s.host, UnitsGetLUnitValue)(s.Units(), 1, &value) && value == 77, "the unit of 1 has %g mm",

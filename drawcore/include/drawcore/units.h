@@ -3,7 +3,7 @@
 
 #include "orlo/host/words.h"
 
-// kUnitDrawing, kUnitMillimetre, kUnitTextSize and kUnitPenWidth (orlo/host/words.h) are strings, names of units ("mm", "cm",
+// kUnitDrawing, kUnitMillimeter, kUnitTextSize and kUnitPenWidth (orlo/host/words.h) are strings, names of units ("mm", "cm",
 // "m", "in", "ft", "pt", ...), whose case does not count.
 
 // Whole numbers: how lengths in drawing units and angles are written. Every form is read, whatever is written.

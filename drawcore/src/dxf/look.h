@@ -74,6 +74,6 @@ FontFace FaceOf(const TextStyle& style);
 // The font file of a family in that cut.
 std::string FontFileOf(const FontFace& face);
 
-constexpr double kWeightsPerInch = kMillimetresPerInch * 100; // line weights are hundredths of a millimetre
+constexpr double kWeightsPerInch = kMillimetersPerInch * 100; // line weights are hundredths of a millimetre
 
 } // namespace dxf

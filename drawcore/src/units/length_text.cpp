@@ -11,7 +11,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kInch = kMillimetresPerInch, kFoot = 304.8; // 12 inches, to the last digit
+constexpr double kInch = kMillimetersPerInch, kFoot = 304.8; // 12 inches, to the last digit
 constexpr int kMostDecimals = 12;
 
 class Lengths : public Measure {

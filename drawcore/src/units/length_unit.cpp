@@ -15,12 +15,12 @@ constexpr LengthUnit kUnits[] = {{"mm", 1},
                                  {"km", 1e6},
                                  {"um", 0.001},
                                  {"nm", 1e-6},
-                                 {"in", kMillimetresPerInch},
+                                 {"in", kMillimetersPerInch},
                                  {"ft", 304.8},
                                  {"yd", 914.4},
                                  {"mi", 1609344},
                                  {"mil", 0.0254},
-                                 {"pt", kMillimetresPerInch / 72}};
+                                 {"pt", kMillimetersPerInch / 72}};
 
 constexpr struct {
     const char *spelling, *name;

@@ -70,7 +70,7 @@ uint16_t UnitInSpace(uint16_t space) {
 // The variable that says what the number itself is; one that no table has for the space without lengths.
 uint16_t NumberInSpace(uint16_t space) {
     if (space == kSpaceDevice) return 0;
-    return space == kSpaceWorld ? kUnitDrawing : kUnitMillimetre;
+    return space == kSpaceWorld ? kUnitDrawing : kUnitMillimeter;
 }
 
 } // namespace

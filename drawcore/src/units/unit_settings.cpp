@@ -28,7 +28,7 @@ System SystemOf(const Table& units, uint16_t variable, System first, System last
 
 void UnitSettings::Store(Table& units) const {
     units.SetVariable(kUnitDrawing, drawingUnit);
-    units.SetVariable(kUnitMillimetre, std::string("mm"));
+    units.SetVariable(kUnitMillimeter, std::string("mm"));
     units.SetVariable(kUnitTextSize, textSizeUnit);
     units.SetVariable(kUnitPenWidth, penWidthUnit);
     units.SetVariable(kUnitLinearSystem, static_cast<int>(lengthSystem));
