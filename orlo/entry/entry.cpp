@@ -1,4 +1,4 @@
-// Library entry, hook-up to the framework, and the choice of a sheet's pages.
+// Entry points of the library: DllMain, resource registration with the framework, and the selection of a sheet's pages.
 
 #include "orlo/entry/entry.h"
 
@@ -24,7 +24,8 @@ namespace {
 AFX_EXTENSION_MODULE extensionModule;
 bool initDone = false;
 
-// A built-in page: made from the library's own template, whatever the host has under that number.
+// One of the library's pages. Its template is always the library's, even if the host has a template with the same
+// number.
 template <class Page>
 class BuiltIn final : public Page {
 public:
@@ -34,7 +35,7 @@ public:
     }
 };
 
-// The sheet owns the page afterwards.
+// Adds a page to the sheet, which then owns it.
 void Add(std::unique_ptr<CPropertyPage> page, CGraphicPropertySheet* sheet) {
     sheet->AddPage(page.get());
     page.release();
@@ -68,7 +69,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
         RegisterControlClasses(instance);
     } else if (reason == DLL_PROCESS_DETACH) {
         ReleaseSharedFont();
-        if (processEnds == nullptr) { // otherwise the framework may be gone already
+        if (processEnds == nullptr) { // when the process ends, the framework may be unloaded already
             AfxTermExtensionModule(extensionModule);
             UnregisterControlClasses(instance);
         }
@@ -77,7 +78,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
 }
 
 extern "C" int PropPageInit() {
-    if (!initDone) new CDynLinkLibrary(extensionModule); // the framework's chain owns it
+    if (!initDone) new CDynLinkLibrary(extensionModule); // owned by the framework's list of modules
     initDone = true;
     return 1;
 }

@@ -1,17 +1,18 @@
-// The entry points of the library:
+// The entry points of the library for C++ hosts:
 //
 //   PropPageInit();                                                       // once
 //   CGraphicPropertySheet* sheet =
 //       InitGraphicPropertySheet(frame, regenMethods, drawing, selection, kAllGraphics);
 //   for (each graphic of the selection) AddGraphicPropertyPage(regenMethods, graphic, sheet);
-//   int code = sheet->DoModal();                                          // 1 after OK, IDCANCEL, or a page's end code
-//   delete sheet;                                                         // with its pages and previews
+//   int code = sheet->DoModal();                                          // IDOK, IDCANCEL or a StyleEndCode
+//   delete sheet;                                                         // including its pages and previews
 //
-// All on the user-interface thread. Drawing, selection and regen methods stay the host's and outlive the sheet.
+// All functions are called on the user-interface thread. Drawing, selection and regen methods belong to the host and
+// must outlive the sheet.
 //
-// The library may be unloaded (FreeLibrary) when its last sheet and its last control are gone, and loaded again. Of two
-// copies in one process each has its own controls in its own pages; templates of other modules that name "QXComboBox" or
-// "QXListBox" get the controls of the copy that was loaded first, and cannot be used once that copy is gone.
+// The library can be unloaded (FreeLibrary) when its last sheet and its last control are destroyed, and loaded again.
+// Two copies in one process use their own controls in their own pages. Dialog templates of other modules that name the
+// classes "QXComboBox" or "QXListBox" get the controls of the copy that was loaded first, until that copy is unloaded.
 #pragma once
 
 #include <afxwin.h>
@@ -21,16 +22,25 @@
 
 class CGraphicPropertySheet;
 
-// Hooks the library up to the framework, so that its resources are found from outside too. Always 1.
+// Registers the library's resources with the framework, so that other modules find them. Call it once, before the first
+// sheet. Always returns 1.
 extern "C" ORLO_API int PropPageInit();
 
-// A sheet with its General page over the members of pGraphics that pass dwGraphicFlags (see GraphicFirst). The caller runs
-// and deletes it. pGraphics may be null: the sheet then edits nothing. Null without memory.
+// Creates a sheet with the General page. The caller runs it with DoModal and deletes it. Returns null if memory runs
+// out.
+//
+//   pParentWnd      owner of the dialog; may be null
+//   pRegenMethods   passed to RegenMethodGetPropPage; may be null
+//   pDrawing        the drawing; it must stay the host's current drawing until the sheet is deleted
+//   pGraphics       a GraphicStruct whose members are edited; null: the sheet edits nothing
+//   dwGraphicFlags  which members are edited: kAllGraphics or another filter of GraphicFirst; without kNoStylePart the
+//                   General page has a style part
 extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,
                                                                     DrawingStruct* pDrawing, void* pGraphics,
                                                                     unsigned long dwGraphicFlags);
 
-// Adds the pages that this graphic needs and the sheet lacks, then lets its regen method add its own.
-// 0, or what RegenMethodGetPropPage returned; 0 also without memory: the sheet keeps the pages that it has.
+// Adds the pages for the type of this graphic that the sheet does not have yet, then the pages of its regen method.
+// Returns the result of RegenMethodGetPropPage, or 0 if the graphic has no regen method. Also returns 0 if memory runs
+// out; the sheet keeps the pages that it has.
 extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
                                                CGraphicPropertySheet* pSheet);

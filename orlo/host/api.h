@@ -1,4 +1,7 @@
-// The import and export macro of the host's functions. Plain C, like all of host.h not marked as C++; no window header.
+// DRAWCORE_API, the import and export macro of the host's functions. Plain C; no window header.
+//
+// A database defines DRAWCORE_BUILD in its own sources, so that the functions are exported, or DRAWCORE_STATIC if it is
+// linked statically.
 #pragma once
 
 #ifdef __cplusplus

@@ -1,53 +1,60 @@
-// Graphics: making, walking, property tables, drawing attributes.
+// Graphics: creation and ownership, members, property tables, drawing attributes.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Makes a graphic of that type that belongs to nobody. reserved is 0, flags is 1. Null on failure.
+// Creates a graphic of the given type (kGraphicText, ...) without an owner. The caller frees it with GraphicDispose.
+// Returns null on failure. reserved is 0, flags is 1.
 DRAWCORE_API GraphicStruct* GraphicNewEx(int type, int reserved, int flags);
 
-// Frees the graphic with its parts and clears the pointer. It must have left its owner.
+// Frees the graphic with its members and sets the pointer to null. The graphic must not have an owner.
 DRAWCORE_API void GraphicDispose(GraphicStruct** graphic);
 
-// A copy of the graphic with copies of its parts, that belongs to nobody; of a set, a group with copies of its members.
-// reserved are 0, flags is 7. Null on failure.
-DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct*, int reserved1, int reserved2, int flags);
+// Creates a copy of the graphic with copies of its members, without an owner. The copy of a set is a group. Returns
+// null on failure. reserved1 and reserved2 are 0, flags is 7.
+DRAWCORE_API GraphicStruct* GraphicCopyEx(GraphicStruct* graphic, int reserved1, int reserved2, int flags);
 
-// Ties a graphic (with its parts) to a drawing for style look-ups; null unties it.
-DRAWCORE_API void GraphicAttach(GraphicStruct*, DrawingStruct*);
-DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct*);
+// Attaches a graphic and its members to the drawing in which its styles, layers and blocks are looked up; null detaches
+// it.
+DRAWCORE_API void GraphicAttach(GraphicStruct* graphic, DrawingStruct* drawing);
+// Returns the drawing that the graphic is attached to, or null.
+DRAWCORE_API DrawingStruct* GraphicGetDrawing(GraphicStruct* graphic);
 
-// Makes child a part of parent, which then owns it; returns the child, or null if it was not accepted. GraphicDelete removes
-// it again.
+// Adds child to the members of parent, which then owns it. Returns the child, or null if it was rejected.
 DRAWCORE_API GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child);
+// Removes child from the members of its owner. The caller then owns it.
 DRAWCORE_API void GraphicDelete(GraphicStruct* owner, GraphicStruct* child);
 
-// Walk over the members of a set that pass the filter (kAllGraphics: all). The position is one 32-bit word of the
-// caller's, set by GraphicFirst. flags is 1. Null at the end.
+// Iterate over the members of a set that pass the filter (kAllGraphics: all members). Return null at the end. position
+// points to a 32-bit word of the caller that GraphicFirst initializes and that holds the whole state: iterations can be
+// nested. flags is 1.
 DRAWCORE_API GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int flags, uint32_t filter);
 DRAWCORE_API GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter);
 
-// Non-zero if this vertex graphic is a group of others.
-DRAWCORE_API int GraphicGetIsGroup(GraphicStruct*);
+// Returns non-zero if a graphic of the type kGraphicVertices is a group of other graphics.
+DRAWCORE_API int GraphicGetIsGroup(GraphicStruct* graphic);
 
-// The graphic's property table, or null. The host's.
-DRAWCORE_API const PropertyTable* GraphicGetVtbl(GraphicStruct*);
+// Returns the graphic's property table, or null if it has no properties. It belongs to the host.
+DRAWCORE_API const PropertyTable* GraphicGetVtbl(GraphicStruct* graphic);
 
-// Marks a graphic, or its extents, for rebuilding.
-DRAWCORE_API void GraphicSetDirty(GraphicStruct*, int dirty);
-DRAWCORE_API void GraphicSetExtentsDirty(GraphicStruct*, int dirty);
+// Mark a graphic, or its extents, as changed, to be computed again.
+DRAWCORE_API void GraphicSetDirty(GraphicStruct* graphic, int dirty);
+DRAWCORE_API void GraphicSetExtentsDirty(GraphicStruct* graphic, int dirty);
 
-// Drawing attributes. A colour is 0x00bbggrr, kColorByLayer or kColorByBlock. A pen style is an entry of kTableLineStyles,
-// kLineStyleByLayer, kLineStyleByBlock or kLineStyleNone: no line. The scale multiplies the dash pattern. The scale system says
-// what the pen's width means. A brush style is an entry of kTableBrushStyles or kBrushStyleNone: no filling.
-DRAWCORE_API void GraphicSetPenColor(GraphicStruct*, uint32_t color);
-DRAWCORE_API void GraphicSetPenStyle(GraphicStruct*, uint16_t style);
-DRAWCORE_API void GraphicSetPenScale(GraphicStruct*, double scale);
-DRAWCORE_API void GraphicSetScaleSystem(GraphicStruct*, int system);
-DRAWCORE_API void GraphicSetPenWidth(GraphicStruct*, double width);
-DRAWCORE_API void GraphicSetBrushStyle(GraphicStruct*, uint16_t style);
-// Also kColorOfPen.
-DRAWCORE_API void GraphicSetBrushColor(GraphicStruct*, uint32_t color);
-// Multiplies the spacing of a vector pattern.
-DRAWCORE_API void GraphicSetBrushScale(GraphicStruct*, double scale);
+// Set a drawing attribute. The library uses them for samples and previews only.
+// color: 0x00bbggrr, kColorByLayer or kColorByBlock.
+DRAWCORE_API void GraphicSetPenColor(GraphicStruct* graphic, uint32_t color);
+// style: an entry of kTableLineStyles, kLineStyleByLayer, kLineStyleByBlock or kLineStyleNone.
+DRAWCORE_API void GraphicSetPenStyle(GraphicStruct* graphic, uint16_t style);
+// scale: factor of the dash pattern.
+DRAWCORE_API void GraphicSetPenScale(GraphicStruct* graphic, double scale);
+// system: kScaleWorld or kScalePaper; the unit of the pen width.
+DRAWCORE_API void GraphicSetScaleSystem(GraphicStruct* graphic, int system);
+DRAWCORE_API void GraphicSetPenWidth(GraphicStruct* graphic, double width);
+// style: an entry of kTableBrushStyles or kBrushStyleNone.
+DRAWCORE_API void GraphicSetBrushStyle(GraphicStruct* graphic, uint16_t style);
+// color: as for pens, also kColorOfPen.
+DRAWCORE_API void GraphicSetBrushColor(GraphicStruct* graphic, uint32_t color);
+// scale: factor of the distances in a vector pattern.
+DRAWCORE_API void GraphicSetBrushScale(GraphicStruct* graphic, double scale);

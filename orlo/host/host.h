@@ -1,13 +1,13 @@
-// What the library expects of its host's drawing database: every record, table and function it uses.
-// Declarations only; a host with a database of its own implements them and exports them as drawcore32.dll.
+// The functions, records and names that the library requires from the host's drawing database. These are declarations
+// only: a host with its own database implements them and exports them from drawcore32.dll.
 //
 //   words.h        names and numbers that both sides use: tables, properties, types, markers
-//   records.h      layouts that library and host share byte for byte
-//   application.h  the application record, configuration file, host strings
-//   drawing.h      drawings and their named tables
+//   records.h      records that library and host share byte for byte
+//   application.h  the application: current drawing, variables, configuration file
+//   drawing.h      drawings: named tables, lengths and angles as text
 //   table.h        tables: named entries and typed variables under 16-bit identifiers
-//   units.h        numbers as text in the units of a drawing
-//   graphic.h      graphics, their walk, property tables and drawing attributes
+//   units.h        numbers and lengths as text
+//   graphic.h      graphics: members, property tables, drawing attributes
 //   text.h         text graphics
 //   vertex.h       vertices
 //   viewport.h     viewports, extents and drawing
@@ -16,14 +16,15 @@
 //   block.h        blocks and their insertions
 //   matrix.h       transformations
 //   regen.h        regen methods
-//   memory.h       blocks and strings that cross the boundary
-//   picture.h      pictures in memory
-//   strings.h      texts of the host
+//   memory.h       memory blocks and strings that are passed between library and host
+//   picture.h      bitmaps in memory
+//   strings.h      user-visible strings supplied by the host
 //
-// Plain C, for any compiler. In C++, header only, besides: owners.h, owned_string.h, walk.h and property.h.
+// All of them are plain C, for any compiler. For C++ there are also the header-only owners.h, owned_string.h, walk.h
+// and property.h.
 //
-// All lengths in a graphic are drawing units unless said otherwise. Results named "int" are non-zero on success.
-// Everything is called on the user-interface thread.
+// Unless stated otherwise: lengths are in drawing units, angles in radians. A result of type int is non-zero on
+// success. All functions are called on the user-interface thread. Pointers to objects are not null.
 #pragma once
 
 #include "orlo/host/application.h"

@@ -1,20 +1,25 @@
-// Transformations: sixteen doubles in rows, acting on row vectors; row 3 holds the translation.
+// Transformations.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
+// A 4x4 matrix in row-major order that transforms row vectors. Row 3 contains the translation.
 typedef struct MatrixStruct {
     double at[4][4];
 } MatrixStruct;
 
-// Each call returns a new matrix, which MatrixDispose frees: the given one (null: the identity), followed by the step. The
-// given one remains the caller's. reserved is 0. Null if memory runs out.
-DRAWCORE_API MatrixStruct* MatrixScale(const MatrixStruct*, const VertexStruct* factors, int reserved);
-// Radians; a positive angle about z turns x to y, about x turns y to z, about y turns z to x.
-DRAWCORE_API MatrixStruct* MatrixRotateX(const MatrixStruct*, double angle, int reserved);
-DRAWCORE_API MatrixStruct* MatrixRotateY(const MatrixStruct*, double angle, int reserved);
-DRAWCORE_API MatrixStruct* MatrixRotateZ(const MatrixStruct*, double angle, int reserved);
-DRAWCORE_API MatrixStruct* MatrixOffset(const MatrixStruct*, const VertexStruct* by);
-// Frees the matrix and clears the pointer.
+// Create a matrix that applies the given one (null: the identity) first and then the new transformation. The caller
+// frees it with MatrixDispose; the given matrix is not changed. Return null if memory runs out. reserved is 0.
+
+// Scales by the coordinates of `factors`.
+DRAWCORE_API MatrixStruct* MatrixScale(const MatrixStruct* matrix, const VertexStruct* factors, int reserved);
+// Rotate about an axis by an angle in radians. A positive angle turns y to z, z to x, or x to y.
+DRAWCORE_API MatrixStruct* MatrixRotateX(const MatrixStruct* matrix, double angle, int reserved);
+DRAWCORE_API MatrixStruct* MatrixRotateY(const MatrixStruct* matrix, double angle, int reserved);
+DRAWCORE_API MatrixStruct* MatrixRotateZ(const MatrixStruct* matrix, double angle, int reserved);
+// Translates by the coordinates of `by`.
+DRAWCORE_API MatrixStruct* MatrixOffset(const MatrixStruct* matrix, const VertexStruct* by);
+
+// Frees the matrix and sets the pointer to null.
 DRAWCORE_API void MatrixDispose(MatrixStruct** matrix);

@@ -1,4 +1,4 @@
-// The owner of a string that the host makes. C++ only; no window header.
+// Owns a string that the host created. C++ only; no window header.
 #pragma once
 
 #include <utility>
@@ -7,7 +7,7 @@
 
 namespace orlo::host {
 
-// A string of the host's making, or null.
+// Owns a string that the host created with PropGet, or null. The destructor frees it with BStringNULL.
 class String {
 public:
     String() = default;
@@ -18,7 +18,7 @@ public:
 
     const char* Get() const { return text_; }
     const char* OrEmpty() const { return text_ ? text_ : ""; }
-    // For a call of the host that makes a string; the host releases an earlier one.
+    // Returns the variable to pass to PropGet, which frees a previous string before it stores a new one.
     char** Variable() { return &text_; }
 
 private:

@@ -1,4 +1,4 @@
-// Owners of what the host makes. C++ only.
+// Smart pointers for objects that the host created. C++ only.
 //
 //   const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
 //   if (!vertex || !::GraphicVertexAdd(graphic, vertex.get())) ...
@@ -24,7 +24,7 @@ struct Disposer {
     void operator()(MatrixStruct* matrix) const { ::MatrixDispose(&matrix); }
 };
 
-using OwnedGraphic = std::unique_ptr<GraphicStruct, Disposer>; // one that belongs to nobody else
+using OwnedGraphic = std::unique_ptr<GraphicStruct, Disposer>; // a graphic without another owner
 using OwnedVertex = std::unique_ptr<VertexStruct, Disposer>;
 using OwnedViewport = std::unique_ptr<ViewportStruct, Disposer>;
 using OwnedMatrix = std::unique_ptr<MatrixStruct, Disposer>;

@@ -1,11 +1,11 @@
-// Pictures in memory.
+// Bitmaps in memory.
 #pragma once
 
 #include <stdint.h>
 
 #include "orlo/host/api.h"
 
-// The bytes between the header of a device-independent bitmap and its pixels: colour masks and colour table.
-// Only the header is read; 0 for a header of a size other than the published ones, or a table whose size
-// does not fit 16 bits.
+// Returns the number of bytes between the header of a device-independent bitmap and its pixels: color masks and color
+// table. Only the header is read. Returns 0 if the header size is not one of the documented ones or the result does not
+// fit into 16 bits.
 DRAWCORE_API uint16_t PaletteSize(const void* dib);

@@ -1,10 +1,10 @@
-// One property of one graphic as a C++ value. C++ only.
+// Reads and writes one property of one graphic as a C++ value. C++ only.
 //
-//   if (auto width = orlo::host::ReadProperty<double>(graphic, kPropPenWidth)) ...   // none: it has no such property
-//   orlo::host::WriteProperty(graphic, kPropInfo, std::string("wall"));              // false: the host refuses
+//   if (auto width = orlo::host::ReadProperty<double>(graphic, kPropPenWidth)) ...   // empty: no such property
+//   orlo::host::WriteProperty(graphic, kPropInfo, std::string("wall"));              // false: the host rejects it
 //
-// Values: double and float; uint8_t, uint16_t and uint32_t; bool; std::string. The merge over a selection, which has to be fast,
-// is the library's (binding/).
+// Value types: double and float; uint8_t, uint16_t and uint32_t; bool; std::string. To read a property of a whole
+// selection the library uses the faster functions of orlo/binding.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@
 
 namespace orlo::host {
 
-// The variant type number under which a property moves as a value of that type.
+// Returns the variant type number (VT_R8, ...) for a C++ type.
 template <class Value>
 constexpr int VariantType() {
     if constexpr (std::is_same_v<Value, double>) return VT_R8;
@@ -31,7 +31,8 @@ constexpr int VariantType() {
     if constexpr (std::is_same_v<Value, std::string>) return VT_BSTR;
 }
 
-// The number of a property of this graphic; none if it has no such property, or no properties at all.
+// Returns the number of a property, which is valid for this graphic only, or nullopt if the graphic has no such
+// property.
 inline std::optional<int32_t> FindProperty(GraphicStruct* graphic, const char* name) {
     const PropertyTable* table = ::GraphicGetVtbl(graphic);
     int32_t number = 0;
@@ -39,7 +40,7 @@ inline std::optional<int32_t> FindProperty(GraphicStruct* graphic, const char* n
     return number;
 }
 
-// None if the graphic has no such property, or not in that form.
+// Returns the value, or nullopt if the graphic has no such property or cannot return it as that type.
 template <class Value>
 std::optional<Value> ReadProperty(GraphicStruct* graphic, const char* name) {
     const std::optional<int32_t> number = FindProperty(graphic, name);
@@ -62,7 +63,7 @@ std::optional<Value> ReadProperty(GraphicStruct* graphic, const char* name) {
     }
 }
 
-// False if the graphic has no such property, or the host refuses the value.
+// Returns false if the graphic has no such property or the host rejects the value.
 template <class Value>
 bool WriteProperty(GraphicStruct* graphic, const char* name, const Value& value) {
     const std::optional<int32_t> number = FindProperty(graphic, name);

@@ -1,4 +1,7 @@
-// Records whose byte offsets are a contract between library and host. A pointer has its natural width.
+// Records that library and host share byte for byte, for 32-bit and 64-bit programs.
+//
+// Members named host... belong to the host, which can use them as it likes. A host derives its own records from these,
+// or declares records with the same layout.
 #pragma once
 
 #include <stddef.h>
@@ -18,7 +21,7 @@ typedef struct GraphicStruct GraphicStruct;
 typedef struct VertexStruct VertexStruct;
 typedef struct PropertyTable PropertyTable;
 
-// The host's own.
+// Defined by the host; the library only uses pointers to them.
 typedef struct TableStruct TableStruct;
 typedef struct ExtentsStruct ExtentsStruct;
 typedef struct ViewportStruct ViewportStruct;
@@ -27,42 +30,43 @@ typedef struct ViewportStruct ViewportStruct;
 
 struct GraphicStruct {
     uint8_t host0[4];
-    uint32_t dwFlags;
+    uint32_t dwFlags; // kFlag...
     uint8_t host8[0x18];
-    uint8_t bType;
+    uint8_t bType; // kGraphic...
     uint8_t host21;
-    uint16_t wRegenMethod; // 0 for none
-    uint32_t
-        dwOneOutline; // 1: the brush takes the whole vertex list as one outline, undrawn segments included
+    uint16_t wRegenMethod; // number of the regen method, 0 for none
+    // Set to 1 by the library on samples and previews of brushes: the brush then fills the whole vertex list as one
+    // outline, including undrawn segments. Otherwise 0.
+    uint32_t dwOneOutline;
     uint8_t host28[0x34];
-    GraphicStruct* pParent;
+    GraphicStruct* pParent; // not valid if kFlagNoParent is set
     uint8_t host5C[0x68 - 0x5C - sizeof(void*)];
-    const char* pszStyleName; // null or NUL-terminated
+    const char* pszStyleName; // name of the style tree that the contents of a block belong to, or null
     uint8_t host68[0x8C - 0x68 - sizeof(void*)];
-    uint16_t wLastPage; // template number of the page that last wrote this graphic
+    uint16_t wLastPage; // template number of the page that last wrote to this graphic; set by the library
 };
 
 struct DrawingStruct {
     uint8_t host0[0x18];
     AppStruct* pApplication;
     uint8_t host18[0x30 - 0x18 - sizeof(void*)];
-    TableStruct* pUnits;
+    TableStruct* pUnits; // the drawing's table kTableUnits
 };
 
 struct AppStruct {
     uint8_t host0[0x24];
-    DrawingStruct* pCurrentDrawing;
+    DrawingStruct* pCurrentDrawing; // null if there is none
     uint8_t host24[0x48 - 0x24 - sizeof(void*)];
-    TableStruct* pVariables;
+    TableStruct* pVariables; // kVar...
 #if UINTPTR_MAX == 0xFFFFFFFF
     uint8_t host48[4];
 #endif
-    HPALETTE hPalette;
+    HPALETTE hPalette; // used if IsPaletteSupported returns non-zero; may be null
 };
 
 struct VertexStruct {
     uint8_t host0[4];
-    uint16_t wFlags;
+    uint16_t wFlags; // kVertexDrawn
     uint8_t host6[0x12];
     double x, y, z; // drawing units
 };
@@ -88,19 +92,22 @@ static_assert(offsetof(VertexStruct, y) == 0x20);
 static_assert(offsetof(VertexStruct, z) == 0x28);
 #endif
 
-// Slots of a graphic's property table. The number that PropLookup returns is valid for that graphic only. PropSet returns 0
-// if the graphic does not accept the value; a message then says how many graphics could not be changed.
+// The property table of a graphic. Value types (vt) are the variant type numbers of <wtypes.h>:
 //
-// Value types are the OLE Automation variant type numbers. PropGet fills, and PropSet gets a pointer to:
-//   3, 0x13     32 bits
-//   4, 5        float, double
-//   0x0B        PropGet 16 bits, PropSet a 32-bit 0 or 1
-//   0x11, 0x12  8, 16 bits
-//   8           PropGet a char* variable with a string of the host's making, given back by BStringNULL; PropSet gets the
-//               text itself
+//   VT_I4, VT_UI4   32 bits
+//   VT_UI1, VT_UI2  8 or 16 bits
+//   VT_R4, VT_R8    float or double
+//   VT_BOOL         PropGet stores 16 bits; PropSet receives a 32-bit 0 or 1
+//   VT_BSTR         PropGet frees the string that the char* variable points to, if any, and stores a new 8-bit string,
+//                   which the caller frees with BStringNULL. PropSet receives the characters, which the host copies
 struct PropertyTable {
     void* slot0; // not used by the library
+    // Stores the number of the property named *ppszName, which is valid for this graphic only. Returns 0 if the graphic
+    // has no such property. count is 1, reserved is 0.
     int (*PropLookup)(GraphicStruct*, const char* const* ppszName, int count, int reserved, int32_t* pNumber);
+    // Stores the value in *pValue and returns non-zero. Pages set the variable to 0 beforehand and ignore the result.
     int (*PropGet)(GraphicStruct*, int32_t number, int vt, void* pValue);
+    // Sets the value from *pValue. Returns 0 if the graphic does not accept it; the user is then told how many graphics
+    // could not be changed.
     int (*PropSet)(GraphicStruct*, int32_t number, int vt, const void* pValue);
 };

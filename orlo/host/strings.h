@@ -1,8 +1,9 @@
-// Texts of the host that the library shows; their numbers are in words.h.
+// User-visible strings supplied by the host; their numbers (kString...) are in words.h.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/words.h"
 
-// Copies the text, at most size bytes with the NUL; the number of characters copied, 0 if there is no such text.
+// Copies a string, at most size bytes including the NUL. Returns the number of characters copied, or 0 if there is no
+// such string.
 DRAWCORE_API int DrawCoreLoadString(unsigned int id, char* buffer, int size);

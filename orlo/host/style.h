@@ -4,27 +4,32 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Number of items of the style's dash list, at most 8: only the first 8 of a longer one are used. 0 or 1 is a solid line.
-DRAWCORE_API int LineStyleGetDLItems(TableStruct*, uint16_t id);
-// Copies that many items (drawing units at scale 1): a positive item is a dash, a negative one a gap, 0 a dot. 0, with
-// nothing copied, if there is no such style.
-DRAWCORE_API int LineStyleGetPattern(TableStruct*, uint16_t id, double* pattern);
+// Returns the number of items in the style's dash list, 0 to 8; only the first 8 items of a longer list are used. 0 or
+// 1 item is a solid line.
+DRAWCORE_API int LineStyleGetDLItems(TableStruct* styles, uint16_t id);
+// Copies that many items, in drawing units at pen scale 1: a positive item is a dash, a negative one a gap, 0 a dot.
+// Returns 0, and copies nothing, if there is no such style.
+DRAWCORE_API int LineStyleGetPattern(TableStruct* styles, uint16_t id, double* pattern);
 
-// What a brush style is. Set: the style is a vector pattern; clear: a bitmap.
-ORLO_CONSTANT uint16_t kBrushVector = 1;
-// The second bit: a vector pattern has lines; a bitmap takes the brush colour.
-ORLO_CONSTANT uint16_t kBrushHasLines = 2;
-ORLO_CONSTANT uint16_t kBrushTakesColor = 2;
+// Flags of a brush style.
+ORLO_CONSTANT uint16_t kBrushVector = 1;     // set: a vector pattern; clear: a bitmap
+ORLO_CONSTANT uint16_t kBrushHasLines = 2;   // of a vector pattern: it has lines
+ORLO_CONSTANT uint16_t kBrushTakesColor = 2; // of a bitmap: it is drawn in the brush color
 
-// One family of lines of a vector pattern; the host's.
+// One family of parallel lines in a vector pattern. Defined by the host.
 typedef struct BrushPatternStruct BrushPatternStruct;
 
-// 0 if there is no such style.
-DRAWCORE_API uint16_t BrushStyleGetFlags(TableStruct*, uint16_t id);
-// Walk over the families of lines of a style; they belong to the style. The cookie starts at 0. Null at the end.
-DRAWCORE_API const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct*, uint16_t id, int* cookie);
-DRAWCORE_API const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct*, uint16_t id, int* cookie);
-// Direction of the lines (radians), a point of the first one, the offset to the next one along and across the lines
-// (drawing units at brush scale 1), and the first 8 items of the dash list.
-DRAWCORE_API void BrushPatternGetData(const BrushPatternStruct*, double* angle, double* baseX, double* baseY,
-                                      double* along, double* spacing, int* dashCount, double* dashes);
+// Returns the flags, or 0 if there is no such style.
+DRAWCORE_API uint16_t BrushStyleGetFlags(TableStruct* styles, uint16_t id);
+// Iterate over the families of lines of a style, to which they belong. Return null at the end. *cookie is 0 at the
+// start.
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* styles, uint16_t id,
+                                                                 int* cookie);
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct* styles, uint16_t id,
+                                                                int* cookie);
+// Stores a family of lines: their direction in radians, a point on the first line, the offset of the next line along
+// and across the lines (drawing units at brush scale 1), and the first 8 items of the dash list. dashes has room for 8
+// items.
+DRAWCORE_API void BrushPatternGetData(const BrushPatternStruct* lines, double* angle, double* baseX,
+                                      double* baseY, double* along, double* spacing, int* dashCount,
+                                      double* dashes);

@@ -1,19 +1,23 @@
-// Vertices: scratch points from which the library builds its sample graphics, and those of graphics.
+// Vertices: temporary points from which the library builds sample graphics, and the vertices of graphics.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Null on failure. VertexNewFromEx(0) makes one at the origin.
+// Create a vertex, or a copy of one (null: at the origin). The caller frees it with VertexDispose. Return null on
+// failure.
 DRAWCORE_API VertexStruct* VertexNewEx(double x, double y, double z);
 DRAWCORE_API VertexStruct* VertexNewFromEx(VertexStruct* from);
-DRAWCORE_API void VertexSet(VertexStruct*, double x, double y, double z);
+// Moves a vertex. If it belongs to a graphic, the graphic changes.
+DRAWCORE_API void VertexSet(VertexStruct* vertex, double x, double y, double z);
+// Frees a vertex that does not belong to a graphic and sets the pointer to null.
 DRAWCORE_API void VertexDispose(VertexStruct** vertex);
 
-// Appends a copy of the vertex, flag word included.
-DRAWCORE_API int GraphicVertexAdd(GraphicStruct*, VertexStruct*);
+// Appends a copy of the vertex, including its flags. Returns non-zero on success.
+DRAWCORE_API int GraphicVertexAdd(GraphicStruct* graphic, VertexStruct* vertex);
 
-// Walk over the vertices of a vertex graphic or an insertion; they are the graphic's own, and VertexSet moves them. The cookie
-// is the caller's. from is 0, flags 0xFFFF. Null at the end.
-DRAWCORE_API VertexStruct* GraphicVertexFirst(GraphicStruct*, int* cookie, int from, int flags);
-DRAWCORE_API VertexStruct* GraphicVertexNext(GraphicStruct*, int* cookie, int from, int flags);
+// Iterate over the vertices of a vertex graphic or an insertion. They belong to the graphic and can be moved with
+// VertexSet. Return null at the end. *cookie belongs to the caller and holds the whole state. from is 0, flags is
+// 0xFFFF.
+DRAWCORE_API VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, int flags);
+DRAWCORE_API VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int from, int flags);

@@ -1,30 +1,34 @@
-// Viewports: where and how graphics are drawn.
+// Viewports: where and how graphics are drawn. The functions are called in this order: ViewportSetRect,
+// ViewportSetExtents, ViewportSetGDIStuff, GraphicDrawEx2.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/records.h"
 
+// Creates a viewport. The caller frees it with ViewportDispose. Returns null on failure.
 DRAWCORE_API ViewportStruct* ViewportNewEx(void);
+// Frees the viewport and sets the pointer to null.
 DRAWCORE_API void ViewportDispose(ViewportStruct** viewport);
 
-// Device rectangle to draw in, in device pixels.
-DRAWCORE_API void ViewportSetRect(ViewportStruct*, const RECT*);
-// Fits the extents (drawing units) into the rectangle set before, aspect kept, centred. fit is always 3.
-DRAWCORE_API void ViewportSetExtents(ViewportStruct*, const ExtentsStruct*, int fit);
-// Device to draw on; the caller keeps it. mapMode as of GetMapMode.
-DRAWCORE_API void ViewportSetGDIStuff(ViewportStruct*, HWND, HDC, int mapMode, int flags);
-// Drawing for the look-up of styles, layers and blocks; null: that of the graphic.
-DRAWCORE_API void ViewportSetDrawing(ViewportStruct*, DrawingStruct*);
+// Sets the rectangle to draw in, in logical units of the device context; nothing is drawn outside.
+DRAWCORE_API void ViewportSetRect(ViewportStruct* viewport, const RECT* rect);
+// Fits the extents (drawing units) into the rectangle: centered, with the aspect ratio kept. fit is 3.
+DRAWCORE_API void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int fit);
+// Sets the device context to draw on, which remains the caller's. mapMode is the result of GetMapMode. flags is 1.
+DRAWCORE_API void ViewportSetGDIStuff(ViewportStruct* viewport, HWND window, HDC dc, int mapMode, int flags);
+// Sets the drawing in which styles, layers and blocks are looked up; null: the drawing of the graphic.
+DRAWCORE_API void ViewportSetDrawing(ViewportStruct* viewport, DrawingStruct* drawing);
 
-// Extents of a graphic with its parts; the graphic's own, valid until it changes. selected is 0.
-DRAWCORE_API const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct*, int selected);
-// Left and right end; 0 for extents without a point.
-DRAWCORE_API double ExtentsGetX1(const ExtentsStruct*);
-DRAWCORE_API double ExtentsGetX2(const ExtentsStruct*);
+// Returns the extents of a graphic and its members. They belong to the graphic and are valid until it changes. selected
+// is 0.
+DRAWCORE_API const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int selected);
+// Return the left and the right end; 0 if the extents are empty.
+DRAWCORE_API double ExtentsGetX1(const ExtentsStruct* extents);
+DRAWCORE_API double ExtentsGetX2(const ExtentsStruct* extents);
 
-// Draws the graphic with its parts, first transformed by the matrix (null: as it is). preview 1: for a preview of its look:
-// widths and dashes as on paper at full size, whatever the extents were fitted to; 0: as it is in the drawing, or as a
-// sample. flags is 1. The device context is left as it was.
-DRAWCORE_API void GraphicDrawEx2(GraphicStruct*, const MatrixStruct*, ViewportStruct*, int preview,
-                                 int flags);
+// Draws the graphic and its members, transformed by the matrix (null: not transformed). The device context is left as
+// it was. preview 1: the preview of an appearance; widths and dashes have the size that they have on paper at full
+// size, whatever the extents were fitted to. preview 0: as in the drawing, or a sample. flags is 1.
+DRAWCORE_API void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport,
+                                 int preview, int flags);

@@ -1,10 +1,10 @@
-// The host's walks as ranges. C++ only.
+// The host's iterations as C++ ranges. C++ only.
 //
 //   for (GraphicStruct* graphic : orlo::host::Members(set)) ...
 //   for (VertexStruct* vertex : orlo::host::Vertices(graphic)) ...
 //   for (uint16_t id : orlo::host::Entries(table)) ...
 //
-// Null is an empty range. What is walked over must not gain or lose members meanwhile.
+// A null pointer is an empty range. Members, vertices and entries must not be added or removed during the iteration.
 #pragma once
 
 #include <utility>
@@ -15,7 +15,7 @@
 
 namespace orlo::host {
 
-// Step: has First() and Next(), which return a value, false at the end.
+// A range over First() and Next() of Step, which return a value that converts to false at the end.
 template <class Step>
 class Walk {
 public:
@@ -31,7 +31,7 @@ public:
             value_ = step_.Next();
             return *this;
         }
-        // Of use against the end only.
+        // Valid for a comparison with end() only.
         bool operator!=(const Iterator& end) const { return value_ != end.value_; }
 
     private:
@@ -72,17 +72,17 @@ struct EntryStep {
     uint16_t Next() { return ::TableEntryNext(table, &cookie); }
 };
 
-// The members of a set (a selection, a group, a drawing's root) that pass the filter.
+// Returns the members of a set (a selection, a group, the root of a drawing) that pass the filter.
 inline Walk<MemberStep> Members(GraphicStruct* set, uint32_t filter = kAllGraphics) {
     return Walk<MemberStep>({set, filter, 0});
 }
 
-// The vertices of a vertex graphic or an insertion; the graphic's own.
+// Returns the vertices of a vertex graphic or an insertion. They belong to the graphic.
 inline Walk<VertexStep> Vertices(GraphicStruct* graphic) {
     return Walk<VertexStep>({graphic, 0});
 }
 
-// The identifiers of a table's entries.
+// Returns the identifiers of the entries of a table.
 inline Walk<EntryStep> Entries(TableStruct* table) {
     return Walk<EntryStep>({table, 0});
 }

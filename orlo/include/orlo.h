@@ -1,9 +1,13 @@
-// The library's whole public interface: every exported class and function is reachable from here.
+// The public C++ interface of the library: includes every exported class and function.
 //
-//   entry/entry.h opens a sheet over a selection; frame/graphic_property_page.h is the base of a host's own pages, which
-//   bind properties by exchange/ddp.h and values by exchange/ddx.h; pages/ has the library's own. controls/ has the combos
-//   and lists, propset/ and summary/ the property sets of documents, wizard/ a sheet that walks its pages. host/host.h is
-//   what the library asks of its host.
+//   entry/entry.h                  opens a sheet over a selection
+//   frame/graphic_property_page.h  base class of a host's own pages
+//   exchange/ddp.h, ddx.h          data exchange between properties, members and controls of a page
+//   pages/                         the library's own pages
+//   controls/                      combo boxes and list boxes of styles, colors, layers and fonts
+//   propset/, summary/             OLE property sets and the summaries of documents
+//   wizard/                        a wizard sheet
+//   host/host.h                    the functions that the host's drawing database implements
 #pragma once
 
 #include "orlo/binding/fuzzy.h"

@@ -1,16 +1,16 @@
-// The windows inside a window.
+// Iteration over child windows.
 #pragma once
 
 #include <windows.h>
 
-// A callback of the system has its calling convention, which a lambda does not have in 32 bits.
+// A system callback. A lambda would not have the required calling convention in 32-bit programs.
 template <class Visit>
 BOOL CALLBACK VisitChild(HWND child, LPARAM visit) {
     (*reinterpret_cast<Visit*>(visit))(child);
     return TRUE;
 }
 
-// Calls visit(HWND) for each child and their children.
+// Calls visit(HWND) for each child window, recursively.
 template <class Visit>
 void ForEachChild(HWND window, Visit visit) {
     ::EnumChildWindows(window, VisitChild<Visit>, reinterpret_cast<LPARAM>(&visit));

@@ -1,4 +1,4 @@
-// Owns one reference of a COM object. Header only, for programs too.
+// Smart pointer for COM objects. Header only, also for programs.
 #pragma once
 
 #include <memory>
@@ -14,7 +14,8 @@ struct ReleaseReference {
 template <class Interface>
 using Owned = std::unique_ptr<Interface, ReleaseReference>;
 
-// Takes the reference that a call stores: OpenStream(..., Receive(stream)).
+// Passes an owner to a function with an output parameter: OpenStream(..., Receive(stream)). The owner is set at the end
+// of the full expression.
 template <class Interface>
 class Receive {
 public:

@@ -1,4 +1,4 @@
-// Text between a code page and the wide characters of the system. Header only, for programs too.
+// Conversion of text between a code page and wide characters. Header only, also for programs.
 #pragma once
 
 #include <string>
@@ -7,6 +7,7 @@
 
 namespace orlo {
 
+// Returns the text as wide characters.
 inline std::wstring Widen(std::string_view text, UINT codePage) {
     const int size = static_cast<int>(text.size());
     const int needed = ::MultiByteToWideChar(codePage, 0, text.data(), size, nullptr, 0);
@@ -15,7 +16,8 @@ inline std::wstring Widen(std::string_view text, UINT codePage) {
     return wide;
 }
 
-// Characters that the code page lacks become those that the system puts in their place, mostly question marks.
+// Returns the text in the code page. Characters that it cannot represent are replaced by the system, mostly with a
+// question mark.
 inline std::string Narrow(std::wstring_view text, UINT codePage) {
     const int size = static_cast<int>(text.size());
     const int needed = ::WideCharToMultiByte(codePage, 0, text.data(), size, nullptr, 0, nullptr, nullptr);

@@ -1,10 +1,10 @@
-// Owners of what drawing takes from the system, and guards that put back what was set before. Every room with windows uses
-// these: nothing is released by hand.
+// RAII owners of GDI objects and guards that restore the previous state of a device context. All modules with windows
+// use them; no object is released by hand.
 //
 //   const orlo::OwnedPen pen(::CreatePen(PS_SOLID, 1, color));
-//   const orlo::SelectedObject selected(dc, pen.get());   // what was selected before comes back at the end of the block
+//   const orlo::SelectedObject selected(dc, pen.get());   // the previous pen is selected again at the end of the block
 //
-// A guard without an object (null) does nothing, so that a pen or font that could not be made leaves the default.
+// A guard for a null object does nothing: if a pen or font cannot be created, the default is used.
 #pragma once
 
 #include <memory>
@@ -28,28 +28,30 @@ using OwnedPen = OwnedGdi<HPEN>;
 using OwnedBrush = OwnedGdi<HBRUSH>;
 using OwnedFont = OwnedGdi<HFONT>;
 using OwnedBitmap = OwnedGdi<HBITMAP>;
-// Of CreateCompatibleDC.
+// Owns a device context created with CreateCompatibleDC.
 using OwnedDC = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDC>;
 
+// Selects an object into a device context; the destructor selects the previous one again.
 class SelectedObject {
 public:
     SelectedObject(HDC dc, HGDIOBJ object)
-        : dc_(dc), before_(object ? ::SelectObject(dc, object) : nullptr) {}
+        : dc_(dc), previous_(object ? ::SelectObject(dc, object) : nullptr) {}
     ~SelectedObject() {
-        if (before_) ::SelectObject(dc_, before_);
+        if (previous_) ::SelectObject(dc_, previous_);
     }
     SelectedObject(const SelectedObject&) = delete;
     SelectedObject& operator=(const SelectedObject&) = delete;
 
-    // Whether the object is selected: a bitmap may be refused.
-    explicit operator bool() const { return before_ != nullptr; }
+    // Returns true if the object was selected. A bitmap cannot be selected twice, for example.
+    explicit operator bool() const { return previous_ != nullptr; }
 
 private:
     HDC dc_;
-    HGDIOBJ before_;
+    HGDIOBJ previous_;
 };
 
-// The device context of a window's client area, or with null of the screen; get() is null if the system has none left.
+// Owns the device context of a window's client area or, if the window is null, of the screen. get() returns null if the
+// system has run out of them.
 class WindowDC {
 public:
     explicit WindowDC(HWND window) : window_(window), dc_(::GetDC(window)) {}
@@ -66,7 +68,7 @@ private:
     HDC dc_;
 };
 
-// Text in that colour on whatever is below it.
+// Sets the text color and a transparent background; the destructor restores both.
 class TextColor {
 public:
     TextColor(HDC dc, COLORREF color)
@@ -84,7 +86,7 @@ private:
     int mode_;
 };
 
-// Everything that foreign drawing code may leave behind in a device context: objects, clipping, mapping.
+// Saves the state of a device context and restores it after a call of host code: selected objects, clipping, mapping.
 class SavedDC {
 public:
     explicit SavedDC(HDC dc) : dc_(dc), level_(::SaveDC(dc)) {}

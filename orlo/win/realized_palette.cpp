@@ -1,14 +1,14 @@
-// An application's palette in a device context.
+// Guard that realizes a palette in a device context.
 
 #include "orlo/win/realized_palette.h"
 
 RealizedPalette::RealizedPalette(HDC dc, HPALETTE palette)
-    : dc_(dc), before_(palette ? ::SelectPalette(dc, palette, FALSE) : nullptr) {
-    if (before_) ::RealizePalette(dc);
+    : dc_(dc), previous_(palette ? ::SelectPalette(dc, palette, FALSE) : nullptr) {
+    if (previous_) ::RealizePalette(dc);
 }
 
 RealizedPalette::~RealizedPalette() {
-    if (!before_) return;
-    ::SelectPalette(dc_, before_, TRUE);
+    if (!previous_) return;
+    ::SelectPalette(dc_, previous_, TRUE);
     ::RealizePalette(dc_);
 }

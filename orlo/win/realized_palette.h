@@ -1,9 +1,10 @@
-// An application's palette in a device context, for as long as an object lives.
+// Guard that realizes a palette in a device context.
 #pragma once
 
 #include <windows.h>
 
-// The palette is realized in the foreground, the one before it goes back to the background. Null does nothing.
+// Selects and realizes a palette as a foreground palette. The destructor selects the previous one as a background
+// palette. Does nothing if the palette is null.
 class RealizedPalette {
 public:
     RealizedPalette(HDC dc, HPALETTE palette);
@@ -13,5 +14,5 @@ public:
 
 private:
     HDC dc_;
-    HPALETTE before_;
+    HPALETTE previous_;
 };

@@ -1,4 +1,4 @@
-// Sizes that are meant for 96 dots per inch.
+// Conversion of sizes from 96 dpi to the resolution of the screen.
 
 #include "orlo/win/screen_scale.h"
 

@@ -1,5 +1,5 @@
-// Sizes that are meant for 96 dots per inch, on the current screen.
+// Conversion of sizes from 96 dpi to the resolution of the screen.
 #pragma once
 
-// Device pixels of the screen for a size in pixels at 96 dpi, rounded; the same number at 96 dpi.
+// Converts a size in pixels at 96 dpi to pixels of the screen, rounded.
 int ScreenPixels(int at96);
