@@ -1,17 +1,19 @@
-// Settings of the application, for host programs; reading them is in orlo/host/application.h.
+// Sets the application's current drawing and settings. Functions that read them are in orlo/host/application.h.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Makes a drawing the current one (null: none). 0 if there is no such drawing. A drawing that is freed stops being current.
+// Makes a drawing the current one; null for none. Returns 0 if there is no such drawing. When the current drawing is
+// freed, there is none.
 DRAWCORE_API int AppSetCurrentDrawing(DrawingStruct*);
-// Full path of the configuration file, copied; null or "" for none.
+// Sets the full path of the configuration file; the string is copied. Null or "" for none.
 DRAWCORE_API void AppSetINIFileName(const char* path);
 
-// String variable of the application's table: the decimal mark of all numbers as text, read and written; "." or ",". A new
-// process has ".".
+// String variable of the application's table: the decimal mark in all numbers that are read and written, "." (the
+// default) or ",".
 ORLO_CONSTANT uint16_t kVarDecimalMark = 0x5105;
-// Whole number variable of the application's table: the layer, an entry of the drawing's table, that previews take for theirs,
-// so that what is by layer looks as it does in the drawing. 0 in a new process: none, it is drawn in the ink of the paper.
+// Integer variable of the application's table: the layer that previews use for properties "by layer", an entry of the
+// drawing's table kTableLayers. 0 (the default): none; such graphics are drawn in the contrasting color of the
+// background.
 ORLO_CONSTANT uint16_t kVarPreviewLayer = 0x5106;

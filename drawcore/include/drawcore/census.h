@@ -1,13 +1,14 @@
-// How many objects are alive, for programs and tests that look for what was not released.
+// Counts of existing objects, for programs and tests that look for leaks.
 #pragma once
 
 #include "orlo/host/api.h"
 
 struct DrawCoreCensus {
-    long blocks;   // of DrawCoreNew, strings among them
-    long graphics; // the drawings' own too
-    long vertices; // scratch vertices
+    long blocks;   // memory blocks of DrawCoreNew, including strings
+    long graphics; // including those of drawings
+    long vertices; // without those of graphics
     long viewports;
 };
 
+// Stores the present counts of the process.
 DRAWCORE_API void DrawCoreGetCensus(DrawCoreCensus*);

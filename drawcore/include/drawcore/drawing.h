@@ -1,27 +1,28 @@
-// Drawings, for host programs.
+// Creates drawings and their tables.
 //
-//   DrawingStruct* drawing = DrawingNew();        // empty: layer "0", a solid line style, the numbered colours
-//   GraphicAdd(DrawingGetRoot(drawing), graphic); // the drawing owns it now
-//   DrawingDispose(&drawing);                     // with all tables and graphics
+//   DrawingStruct* drawing = DrawingNew();        // empty: layer "0", a solid line style, the standard colors
+//   GraphicAdd(DrawingGetRoot(drawing), graphic); // now owned by the drawing
+//   DrawingDispose(&drawing);                     // including all tables and graphics
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// A drawing with the tables "_Layers_", "_LineStyles_", "_BrushStyles_", "_Colors_", "_Blocks_" and "_Units_". Null if
+// Creates a drawing with the tables of orlo/host/words.h. The caller frees it with DrawingDispose. Returns null if
 // memory runs out.
 DRAWCORE_API DrawingStruct* DrawingNew(void);
-// Frees the drawing with all that it owns and clears the pointer. Tables of it that someone still holds answer from then
-// on like empty ones.
+// Frees the drawing and everything that it owns, and sets the pointer to null. Functions that are called with one of
+// its tables later behave as for an empty table.
 DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);
 
-// The group of all graphics of the drawing, in the order of drawing. The drawing's.
+// Returns the group of all graphics of the drawing, in drawing order. It belongs to the drawing.
 DRAWCORE_API GraphicStruct* DrawingGetRoot(DrawingStruct*);
 
-// What DrawingGetCoordSpace gives from then on; a new drawing has 0. 0, with nothing changed, if there is no such space.
+// Sets the result of DrawingGetCoordSpace (kSpaceWorld in a new drawing). Returns 0, and changes nothing, if `space` is
+// not one of the kSpace... values.
 DRAWCORE_API int DrawingSetCoordSpace(DrawingStruct*, uint16_t space);
 
-// Adds a table of plain entries, whose data stays the caller's; null if the name is taken.
+// Adds a table whose entries have caller-owned data. Returns null if the name already exists.
 DRAWCORE_API TableStruct* DrawingAddTable(DrawingStruct*, const char* name);
-// Removes any table of the drawing with its entries. 0 if the table is not this drawing's.
+// Removes a table of the drawing, including its entries. Returns 0 if the table does not belong to this drawing.
 DRAWCORE_API int DrawingDeleteTable(DrawingStruct*, TableStruct*);

@@ -1,4 +1,4 @@
-// Opening and saving DXF drawings (ASCII, R12 to 2018), for host programs.
+// Opens and saves DXF drawings (ASCII, R12 to 2018).
 //
 //   char message[256];
 //   DxfListener listener = {&bar, ShowProgress, nullptr}; // int ShowProgress(void* bar, int permille)
@@ -9,39 +9,44 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// What a program learns while a drawing opens or is saved, on the thread that has called; context is handed to both, and
-// either may be null.
+// Progress and warnings while a drawing is opened or saved, as callbacks on the calling thread. context is passed to
+// both; either may be null.
 typedef struct DxfListener {
     void* context;
-    int (*progress)(void* context, int permille); // the share done, 0 to 1000, rising; 0 cancels
-    void (*finding)(void* context, int line, const char* text); // something was left out; line 0: no one line
+    // permille increases from 0 to 1000. Return 0 to cancel.
+    int (*progress)(void* context, int permille);
+    // A warning that something was left out. line is 0 if it does not refer to a single line.
+    void (*finding)(void* context, int line, const char* text);
 } DxfListener;
 
-// A new drawing, the caller's, with the model space of the file; it doesn't become the current one. Or null, with the reason
-// in message (size bytes with the NUL): a file is opened completely or not at all. The listener may be null. When it cancels,
-// the message is "cancelled".
+// Creates a drawing from the model space of the file. The caller frees it with DrawingDispose. It does not become the
+// current drawing. If the file cannot be opened completely, returns null and stores an error message (at most size
+// bytes, including the NUL); if the listener canceled, the message is "cancelled". The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // Results of DrawingSaveDxf.
 enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3 };
-// Flag: a file that another program has changed since the drawing was opened is overwritten anyway.
+// Flag: overwrites the file even if another program has changed it since the drawing was opened.
 enum { kSaveOverChanged = 1 };
 
-// Writes the drawing into a file, which may be the one that it was opened from: that file's text, in which only the groups
-// that carry a change differ. What the format has no group for is kept in extended data under the application name ORLO. The
-// file is written beside the old one, compared with the drawing, and then takes its place in one step.
+// Saves the drawing to a file, which may be the one that it was opened from. The text of the original file is copied,
+// and only the groups with changes differ. Values without a DXF group are stored in extended data (XDATA) of the
+// application ORLO. The file is written under a temporary name, compared with the drawing, and then replaces the old
+// file in one step.
 //
-// kSaveDone: the drawing belongs to that file from then on. kSaveFileChanged: it is the file that the drawing was opened
-// from, and another program has changed it since; nothing was written. kSaveFailed: message (size bytes with the NUL) says
-// why, and no file was changed: the drawing comes from no file, the version of the file has no such entity, the disk is full,
-// another program holds the file ...
-// kSaveCancelled: the listener, which may be null, has cancelled, and no file was changed.
-// Saved are properties of graphics, the places of insertions, vertices that were moved, what was added or removed (graphics,
-// and blocks with theirs), and the layers of the file: their states, colours and line types.
+//   kSaveDone         saved; from now on the drawing belongs to that file
+//   kSaveFileChanged  another program has changed the file since the drawing was opened from it; nothing was written
+//   kSaveCancelled    the listener canceled; no file was changed
+//   kSaveFailed       message (at most size bytes, including the NUL) contains the reason; no file was changed. Examples:
+//                     the drawing was not opened from a file, the version of the file has no such entity, the disk is
+//                     full, the file is open in another program
+//
+// Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics and blocks, and
+// the states, colors and line types of layers. The listener may be null.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
                                 char* message, int size);
 
-// Whether the drawing has become another than its file holds, by steps of its undo log, by graphics or blocks that were added
-// or removed, or by changes within blocks and of layers; undo and redo can come back to what is saved. 0 for a drawing that comes from no
-// file.
+// Returns non-zero if the drawing differs from its file: by undoable steps, added or removed graphics or blocks, or
+// changes in blocks and layers. Undo and redo can return to the saved state. Returns 0 if the drawing was not opened
+// from a file.
 DRAWCORE_API int DrawingIsModified(DrawingStruct*);

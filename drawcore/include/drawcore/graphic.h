@@ -1,29 +1,30 @@
-// Graphics, for host programs: kinds, filters, property tables of one's own.
+// Graphics: kinds and filters, custom property tables, style names.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Kinds of graphic, one bit each; a filter of GraphicFirst and GraphicNext passes the kinds whose bits it has, or all if it
-// has none of them. Bit 2 (value 4) is not a kind: the library reads it (the General page is without its style part).
+// Kinds of graphics, one bit each. A filter of GraphicFirst and GraphicNext passes the kinds whose bits are set, or all
+// kinds if none is set. The bit kNoStylePart is not a kind; it is used by the library.
 enum : uint32_t {
-    kKindVertices = 1,  // lines, polylines, outlines, points (type 0x0B)
-    kKindCurve = 2,     // circles, arcs, ellipses, splines (type 2)
-    kKindText = 8,      // type 6
-    kKindInsert = 0x10, // type 0x11
-    kKindGroup = 0x20,  // type 0x0B
+    kKindVertices = 1,  // lines, polylines, outlines, points (kGraphicVertices)
+    kKindCurve = 2,     // circles, arcs, ellipses, splines (kGraphicPenBrush)
+    kKindText = 8,      // kGraphicText
+    kKindInsert = 0x10, // kGraphicInsert
+    kKindGroup = 0x20,  // groups (kGraphicVertices)
     kFilterKinds = 0x3B,
 };
 
+// Returns the kind of a graphic.
 DRAWCORE_API uint32_t GraphicGetKind(GraphicStruct*);
 
-// Puts a property table of the caller's in place of the graphic's own, for kinds of graphic that drawcore doesn't know; it
-// has to outlive the graphic. Null: the graphic has no properties.
+// Replaces the property table of a graphic, for custom kinds of graphics. The table belongs to the caller and must
+// outlive the graphic. Null: the graphic has no properties.
 DRAWCORE_API void GraphicSetVtbl(GraphicStruct*, const PropertyTable*);
 
-// Whether the graphic has changed since it was drawn last.
+// Returns non-zero if the graphic has changed since it was last drawn.
 DRAWCORE_API int GraphicIsDirty(GraphicStruct*);
 
-// Names the style tree that the contents of a block belong to (pszStyleName), copied; null or "" removes it from all. Copies
-// of the graphic belong to the same one.
+// Sets the name of the style tree that the contents of a block belong to (GraphicStruct::pszStyleName). The name is
+// copied; null or "" for none. Copies of the graphic belong to the same style tree.
 DRAWCORE_API void GraphicSetStyleName(GraphicStruct*, const char* name);

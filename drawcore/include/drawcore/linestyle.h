@@ -1,11 +1,11 @@
-// Making line styles, for host programs; reading them is in orlo/host/style.h.
+// Creates line styles. Functions that read them are in orlo/host/style.h.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Adds a style to a table "_LineStyles_": a positive item is a dash, a negative one a gap, 0 a dot, in drawing units
-// at pen scale 1; count 0 is a solid line, at most 64. Returns the identifier; 0 if the name is bad or taken or an item is
-// not a number.
+// Adds a style of 0 (solid) to 64 items to a table kTableLineStyles. A positive item is a dash, a negative one a gap, 0
+// a dot, in drawing units at pen scale 1. Returns its identifier, or 0 if the name is invalid or already exists, or if
+// an item is not finite.
 DRAWCORE_API uint16_t LineStyleAdd(TableStruct*, const char* name, const char* description,
                                    const double* pattern, int count);

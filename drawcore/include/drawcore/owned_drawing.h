@@ -1,4 +1,4 @@
-// Owns a drawing. C++ only.
+// Smart pointer for drawings. C++ only.
 //
 //   const OwnedDrawing drawing(DrawingNew());
 #pragma once

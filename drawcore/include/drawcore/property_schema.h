@@ -1,29 +1,29 @@
-// Every property that graphics of this database can have.
+// The schema of the properties of graphics: name, form and meaning of each.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// The form in which a value is held; PropGet gives it in others too.
+// The form in which a value is stored. PropGet converts it to other types.
 enum PropertyForm {
-    kFormWhole, // 32 bits
-    kFormReal,  // a double
+    kFormWhole, // 32-bit integer
+    kFormReal,  // double
     kFormText
 };
 
-// What a value stands for.
+// The meaning of a value.
 enum PropertyMeaning {
     kMeansNumber,
     kMeansSwitch, // 0 or 1
     kMeansBits,
     kMeansText,
     kMeansColor,
-    kMeansLineStyle, // an entry of the table, or a marker; so are the next ones
+    kMeansLineStyle, // an entry of the table or a marker; also the following ones
     kMeansBrushStyle,
     kMeansLayer,
     kMeansBlock,
     kMeansScaleSystem,
-    kMeansWidth, // by the graphic's scale system
+    kMeansWidth, // in the unit of the graphic's scale system
     kMeansLength,
     kMeansAngle // radians
 };
@@ -34,7 +34,7 @@ struct PropertyInfo {
     PropertyMeaning meaning;
 };
 
-// All of them, in the order of their names; drawcore's own.
+// Returns the descriptions of all properties, sorted by name, and stores their number. They are static.
 //
 //   for (const PropertyInfo& property : AllProperties()) ...
 DRAWCORE_API const PropertyInfo* DrawCoreGetProperties(int* count);
@@ -47,6 +47,7 @@ struct PropertySchema {
     const PropertyInfo* end() const { return first + count; }
 };
 
+// Returns the same descriptions as a range.
 inline PropertySchema AllProperties() {
     PropertySchema schema{};
     schema.first = DrawCoreGetProperties(&schema.count);

@@ -1,4 +1,4 @@
-// Regen methods, for host programs: rules by which graphics are rebuilt, and their own property pages, as callbacks.
+// Regen methods as callbacks: rules by which graphics are rebuilt, and which can add property pages.
 //
 //   void* methods = RegenMethodsNew();
 //   RegenMethod gear = {&plan, RebuildGear, AddGearPage};
@@ -10,13 +10,14 @@
 #include "orlo/host/records.h"
 
 struct RegenMethod {
-    void* context;                                                          // handed to both; the program's
+    void* context;                                                          // passed to both callbacks
     void (*regen)(void* context, GraphicStruct* graphic);                   // may be null
-    int (*getPropPage)(void* context, GraphicStruct* graphic, void* sheet); // may be null: 0
+    int (*getPropPage)(void* context, GraphicStruct* graphic, void* sheet); // may be null
 };
 
-// An empty table, null if memory runs out. RegenMethodsDispose frees it and clears the pointer.
+// Creates an empty table of methods. Returns null if memory runs out. RegenMethodsDispose frees it and sets the pointer
+// to null.
 DRAWCORE_API void* RegenMethodsNew(void);
 DRAWCORE_API void RegenMethodsDispose(void** methods);
-// Copies the method under that number (not 0), in place of an older one.
+// Registers a copy of the method under a number other than 0, replacing a previous one. Returns non-zero on success.
 DRAWCORE_API int RegenMethodRegister(void* methods, uint16_t number, const RegenMethod*);

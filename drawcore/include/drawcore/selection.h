@@ -1,21 +1,25 @@
-// Selections: sets of graphics that belong to others. A selection is itself a graphic, which GraphicFirst and GraphicNext
-// walk in the order of adding; GraphicDispose frees it and leaves its members alone.
+// Selections: sets of graphics that they do not own. A selection is itself a graphic: GraphicFirst and GraphicNext
+// iterate over its members in the order in which they were added, and GraphicDispose frees it without its members.
 //
 //   GraphicStruct* selection = SelectionNew();
-//   SelectionAdd(selection, picked);                       // picked stays the drawing's
+//   SelectionAdd(selection, picked);                       // picked remains the drawing's
 //   InitGraphicPropertySheet(..., drawing, selection, 0xFFFFFFFF);
 //
-// A graphic has to leave the selections that hold it before it is freed.
+// A graphic must be removed from all selections before it is freed.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Null if memory runs out.
+// Creates an empty selection. Returns null if memory runs out.
 DRAWCORE_API GraphicStruct* SelectionNew(void);
-// 0 if it is in already (or, for SelectionRemove, is not), or if the first argument is not a selection.
+// Add and remove a graphic. Return 0 if it was already (or, for SelectionRemove, was not) in the selection, or if the
+// first argument is not a selection.
 DRAWCORE_API int SelectionAdd(GraphicStruct* selection, GraphicStruct*);
 DRAWCORE_API int SelectionRemove(GraphicStruct* selection, GraphicStruct*);
+// Returns non-zero if the graphic is in the selection.
 DRAWCORE_API int SelectionContains(GraphicStruct* selection, GraphicStruct*);
+// Removes all graphics.
 DRAWCORE_API void SelectionClear(GraphicStruct* selection);
+// Returns the number of graphics.
 DRAWCORE_API int SelectionCount(GraphicStruct* selection);

@@ -1,47 +1,50 @@
-// Undo and redo of changes to the graphics of a drawing, step by step; one step holds whatever one sheet has written.
+// Undo and redo of changes to the graphics of a drawing. One step contains everything that a sheet has written.
 //
 //   DrawingBeginUndo(drawing);
-//   ... the sheet runs and writes ...
+//   ... run the sheet ...
 //   DrawingEndUndo(drawing);        // 12 graphics changed
-//   DrawingUndo(drawing);           // all 12 are as they were
-//   DrawingRedo(drawing);           // and changed again
+//   DrawingUndo(drawing);           // all 12 have their previous values
+//   DrawingRedo(drawing);           // and the new ones again
 //
-// The oldest steps are dropped when all together exceed their room: what can no longer be undone is reported.
+// When the steps exceed their memory limit, the oldest ones are dropped; DrawingCountForgotten returns their number.
 //
-// Properties, attributes and vertices of the drawing's own graphics are recorded; previews and samples are not.
+// Recorded are properties, attributes and vertices of the graphics that belong to the drawing, but not previews and
+// samples.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Opens a step. 0 if one is open already.
+// Begins a step. Returns 0 if a step is already open.
 DRAWCORE_API int DrawingBeginUndo(DrawingStruct*);
-// Closes the step. The number of graphics that are different now: with 0 no step is kept, else what was taken back before
-// can't be made again any more.
+// Ends the step and returns the number of graphics that have changed. If it is 0, the step is discarded. Otherwise the
+// steps that could be redone are discarded.
 DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
-// Closes the step and takes back all that it has changed: the steps before it, and those taken back, stay as they were. The
-// number of graphics changed back.
+// Ends the step, undoes all of its changes and discards it. Steps that can be undone or redone are not affected.
+// Returns the number of graphics that were restored.
 DRAWCORE_API int DrawingCancelUndo(DrawingStruct*);
-// How many of the oldest steps the last DrawingEndUndo has dropped for lack of room.
+// Returns the number of old steps that the last DrawingEndUndo has dropped because of the memory limit.
 DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
-// Room for all steps, done and taken back, in bytes (256 MB unless set); the next one either way is kept whatever it takes.
+// Sets the memory limit for all steps in bytes (default: 256 MB). The next step to undo and the next one to redo are
+// kept even if they exceed it.
 DRAWCORE_API void DrawingSetUndoRoom(DrawingStruct*, size_t bytes);
-// Undoes the last step. The number of graphics that it changed back; 0 if there isn't one, or one is still open.
+// Undoes the last step. Returns the number of graphics that were restored, or 0 if there is no step or one is open.
 DRAWCORE_API int DrawingUndo(DrawingStruct*);
-// Makes the step again that was undone last. The number of graphics that it changed; 0 if there isn't one, or one is open.
+// Redoes the step that was undone last. Returns the number of graphics that were changed, or 0 if there is no step or
+// one is open.
 DRAWCORE_API int DrawingRedo(DrawingStruct*);
-// Number of steps that can be undone, and made again.
+// Return the number of steps that can be undone or redone.
 DRAWCORE_API int DrawingCountUndo(DrawingStruct*);
 DRAWCORE_API int DrawingCountRedo(DrawingStruct*);
-// A number for what the steps have made of the drawing: the same again when undo or redo comes back to it, and no other state
-// has it. Compared with that of the last saving, it says whether something is unsaved.
+// Returns a number that identifies the state of the drawing: undo and redo return to the same number, and different
+// states have different numbers. If it differs from the number at the last save, the drawing has unsaved changes.
 DRAWCORE_API uint32_t DrawingGetUndoMark(DrawingStruct*);
 
-// Who hears that graphics are about to change, one of them within an open step or those of a step that goes back or forth: a
-// view that shows the drawing behind a sheet. It is called often, and only takes note.
+// A listener that is called before graphics change, within an open step or when a step is undone or redone. It is
+// called often and should only set a flag, for example that a view needs repainting.
 struct ChangeListener {
     void* context;
     void (*changing)(void* context);
 };
-// Copied; null: nobody hears.
+// Sets the listener, which is copied; null removes it.
 DRAWCORE_API void DrawingSetChangeListener(DrawingStruct*, const ChangeListener*);

@@ -1,4 +1,4 @@
-// Viewing and picking, for host programs: what a window on a drawing needs beyond orlo/host/viewport.h.
+// Viewing and picking: the functions for a window with a drawing, in addition to orlo/host/viewport.h.
 //
 //   ViewportSetRect(view, &client);
 //   ViewportFitSeen(view, root);                                    // zoom to all
@@ -7,48 +7,50 @@
 //   GraphicDrawHighlighted(selection, view, RGB(0, 120, 215));
 //   picked = ViewportPick(view, root, cursor, 4, 0xFFFFFFFF);
 //
-// Positions and distances are device pixels unless said otherwise. A changed rectangle keeps scale and middle.
+// Positions and distances are in device pixels unless stated otherwise. If the rectangle of a viewport changes, the
+// scale and the center of the view stay.
 #pragma once
 
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Background colour of the drawing: lines of nearly that colour are drawn black or white, so that they can be seen, and on a
-// dark one lines that are too dark are drawn in a lighter shade of their colour. Without this call it is the system's window
-// colour or, for previews, the application's preview background.
+// Sets the background color of the drawing. Lines in nearly the same color are drawn in black or white, and on a dark
+// background dark lines are drawn in a lighter shade, so that they are visible. The default is the system's window
+// color or, for previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 
-// Whether pens are as wide as they are (so it is without this call), or all as thin as can be.
+// Draws pens at their true width (the default) or as hairlines.
 DRAWCORE_API void ViewportShowLineWeights(ViewportStruct*, int show);
 
-// Fits what is seen of the graphic into the rectangle, as ViewportSetExtents does: all but what lies on hidden layers. If
-// nothing is seen, all of it.
+// Fits the visible members of the graphic, those that are not on hidden layers, into the rectangle, as
+// ViewportSetExtents does. If none is visible, fits all of them.
 DRAWCORE_API void ViewportFitSeen(ViewportStruct*, GraphicStruct*);
 
-// Draws like GraphicDrawEx2 (no preview), for so many milliseconds and a little longer; 0 if there is more to draw. place is 0
-// at first, and goes to the next call as this one has left it. Until all is drawn, viewport and clipping must stay as they
-// are, and nothing else may be drawn by the viewport; what is removed from the set or changed meanwhile may be missing.
+// Draws like GraphicDrawEx2 (preview 0) for about the given time. Returns 0 if there is more to draw. *place is 0 for
+// the first call and is passed unchanged to the next one. Until everything is drawn, the viewport and the clipping
+// region must not be changed, and the viewport must not be used to draw anything else. Graphics that are removed or
+// changed meanwhile may be missing.
 DRAWCORE_API int GraphicDrawOn(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
 
-// Draws a graphic with its members in one colour, solid and at least three pixels wide.
+// Draws a graphic and its members in one color, with solid lines that are at least three pixels wide.
 DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);
 
-// Zooms in (factor above 1) or out; what is under fixed stays there.
+// Zooms in (factor above 1) or out. The point under `fixed` stays where it is.
 DRAWCORE_API void ViewportZoom(ViewportStruct*, POINT fixed, double factor);
-// Moves the picture by that much.
+// Moves the view.
 DRAWCORE_API void ViewportPan(ViewportStruct*, int dx, int dy);
-// The point of the drawing (drawing units) under a pixel.
+// Stores the position of a pixel in drawing units.
 DRAWCORE_API void ViewportToDrawing(ViewportStruct*, POINT device, double* x, double* y);
 
-// The member of the set (a drawing's root, a selection) that is drawn last of those within tolerance of the pixel, or null.
-// filter as in GraphicFirst. What is on invisible or locked layers is not found; an insertion is found as a whole.
+// Returns the topmost member of the set (the root of a drawing, a selection) within tolerance of the pixel, or null.
+// filter is as in GraphicFirst. Graphics on invisible or locked layers are not found; an insertion is found as a whole.
 DRAWCORE_API GraphicStruct* ViewportPick(ViewportStruct*, GraphicStruct* set, POINT device, int tolerance,
                                          uint32_t filter);
-// Adds to the selection the members that lie wholly in the rectangle or, with crossing, have a part in it; the number
-// added.
+// Adds to the selection the members that are completely in the rectangle or, if crossing is not 0, at least partly.
+// Returns the number of added members.
 DRAWCORE_API int ViewportPickWindow(ViewportStruct*, GraphicStruct* set, const RECT* device, int crossing,
                                     uint32_t filter, GraphicStruct* selection);
 
-// The box of a graphic (GraphicGetExtentsSel) in drawing units: left, bottom, right, top. 0, with nothing written, if it is
-// empty.
+// Stores the extents of a graphic (GraphicGetExtentsSel) in drawing units: left, bottom, right, top. Returns 0, and
+// stores nothing, if they are empty.
 DRAWCORE_API int ExtentsGetBox(const ExtentsStruct*, double box[4]);
