@@ -2,7 +2,7 @@
 #   bin/ lib/ include/   DLLs and programs with their debug data, import libraries, headers
 #   lib/cmake/orlo       find_package(orlo): orlo::orlo, orlo::afx, orlo::drawcore32, orlo::host, orlo::propset
 #   lib/pkgconfig        pkg-config orlo
-#   share/               guides, licences, examples
+#   share/               guides, licenses, examples
 
 include(CMakePackageConfigHelpers)
 
@@ -25,7 +25,7 @@ install(FILES ${config}/orlo.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 install(FILES ${ORLO_RUNTIME} TYPE BIN)
 install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN examples EXCLUDE)
-install(DIRECTORY packaging/licences DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY packaging/licenses DESTINATION ${CMAKE_INSTALL_DOCDIR})
 set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
 install(DIRECTORY packaging/example/ DESTINATION ${examples})
 install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp docs/examples/c_host.c

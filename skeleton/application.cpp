@@ -1,4 +1,4 @@
-// The application of the process, its texts, and what crosses the boundary as a block of memory.
+// The application, its strings, and memory that is passed to the library.
 
 #include <algorithm>
 #include <cstdlib>
@@ -51,7 +51,7 @@ int AppSetCurrentDrawing(DrawingStruct* drawing) {
     return 1;
 }
 
-// There isn't one: the lists of widths and heights are empty, and the user types.
+// This database has no configuration file: the lists of widths and heights are empty.
 int AppGetINIFileName(AppStruct*, char*, int) {
     return 0;
 }
@@ -80,7 +80,7 @@ void BStringNULL(char** string) {
     *string = nullptr;
 }
 
-// No graphic here has a regen method.
+// No graphic of this database has a regen method.
 int RegenMethodGetPropPage(void*, uint16_t, GraphicStruct*, void*) {
     return 0;
 }

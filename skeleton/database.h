@@ -1,5 +1,5 @@
-// What the pointers that the library gets refer to. Records that both sides know are derived from; what only the host
-// knows (tables, viewports, extents) is defined here as it likes.
+// The objects behind the pointers of the contract. Graphics and drawings derive from the shared records; tables,
+// viewports and extents are known to the database only, so that it can define them as it likes.
 #pragma once
 
 #include <map>
@@ -13,7 +13,7 @@
 struct Graphic;
 struct Drawing;
 
-// A box; empty as long as minX is above maxX.
+// A rectangle, empty if minX > maxX.
 struct ExtentsStruct {
     double minX = 1, minY = 1, maxX = 0, maxY = 0;
 
@@ -21,20 +21,20 @@ struct ExtentsStruct {
     void Add(double x, double y);
 };
 
-// One family of lines of a hatch.
+// One family of parallel lines in a hatch.
 struct BrushPatternStruct {
     double angle, spacing;
 };
 
-// An entry of any table; each kind of table uses its part.
+// An entry of any table. Each table uses the members for its kind.
 struct Entry {
     std::string name;
-    uint32_t color = 0;                    // of a layer, or the entry of the colour table itself
-    bool visible = true, readOnly = false; // of a layer
-    std::vector<double> dashes;            // of a line style
+    uint32_t color = 0;                    // layers, colors
+    bool visible = true, readOnly = false; // layers
+    std::vector<double> dashes;            // line styles
     uint16_t brushFlags = 0;
-    std::vector<BrushPatternStruct> lines; // of a brush style
-    std::unique_ptr<Graphic> contents;     // of a block
+    std::vector<BrushPatternStruct> lines; // brush styles
+    std::unique_ptr<Graphic> contents;     // blocks
 };
 
 struct TableStruct {
@@ -43,25 +43,25 @@ struct TableStruct {
     TableStruct(const TableStruct&) = delete;
     TableStruct& operator=(const TableStruct&) = delete;
 
-    // The library may still hold a table that has been freed: null for it.
+    // Returns the table, or null if it has been freed: controls can keep pointers to freed tables.
     static TableStruct* Find(TableStruct* table);
     Entry* At(uint16_t id);
-    uint16_t IdOf(const char* name) const;      // 0: none
-    uint16_t Add(const char* name, Entry rest); // 0: the name is bad or taken
+    uint16_t IdOf(const char* name) const;      // 0 if there is none
+    uint16_t Add(const char* name, Entry rest); // 0 if the name is invalid or exists
 
     Drawing* owner;
     std::map<uint16_t, Entry> entries;
     std::map<uint16_t, std::variant<long, double, std::string>> variables;
 };
 
-// What a graphic shows and says, which a copy has too.
+// The part of a graphic that is copied with it.
 struct Content {
-    std::vector<VertexStruct> vertices; // of an insertion: the origin and the ends of the axes
-    uint16_t block = 0;                 // of an insertion
-    double x = 0, y = 0, textAngle = 0; // of a text
+    std::vector<VertexStruct> vertices; // insertions: the origin and the end points of the axes
+    uint16_t block = 0;                 // insertions
+    double x = 0, y = 0, textAngle = 0; // texts
     std::string text;
 
-    // The properties, in the forms that property.cpp moves.
+    // The properties; property.cpp converts them to other types.
     uint32_t layer = 1, styleTree = 0;
     uint32_t penColor = kColorByLayer, penStyle = kLineStyleByLayer, penAlignment = 0,
              scaleSystem = kScalePaper;
@@ -96,8 +96,8 @@ struct Drawing : DrawingStruct {
     std::unique_ptr<Graphic> root;
 };
 
-// The property table of every graphic here (property.cpp).
+// The property table of all graphics (property.cpp).
 extern const PropertyTable kProperties;
 
-// Copies at most size bytes with the NUL; the number of characters copied.
+// Copies at most size bytes, including the NUL. Returns the number of characters copied.
 int CopyText(const std::string& text, char* buffer, int size);

@@ -1,4 +1,4 @@
-// Drawings: their tables with the entries that they start with, and a few graphics to look at.
+// Drawings: their tables with initial entries, and a few sample graphics.
 
 #include <new>
 
@@ -26,7 +26,7 @@ void FillTables(Drawing& drawing) {
     add(kTableLineStyles, "Dashed", std::move(entry));
 
     entry = {};
-    entry.brushFlags = kBrushVector; // the first brush style is the solid one
+    entry.brushFlags = kBrushVector; // the first brush style must be the solid one
     add(kTableBrushStyles, "Solid", std::move(entry));
     entry = {};
     entry.brushFlags = kBrushVector | kBrushHasLines;
@@ -113,7 +113,7 @@ TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* name) {
     return found != tables.end() ? found->second.get() : nullptr;
 }
 
-// Everything here is drawn in drawing units.
+// All drawings of this database are in world space.
 uint16_t DrawingGetCoordSpace(DrawingStruct*) {
     return kSpaceWorld;
 }

@@ -1,4 +1,4 @@
-// Graphics: making, owning and walking them, their attributes and vertices.
+// Graphics: creation, ownership, members, attributes and vertices.
 
 #include <new>
 
@@ -17,7 +17,7 @@ void Graphic::Attach(Drawing* to) {
 
 namespace {
 
-// The position is the number of the next member. All pass: the bits of a filter would be this database's own.
+// The position is the index of the next member. The filter is ignored; a database can define its bits.
 GraphicStruct* MemberAt(GraphicStruct* set, uint32_t* position) {
     const auto& members = Graphic::From(set)->members;
     return *position < members.size() ? members[(*position)++].get() : nullptr;
@@ -79,7 +79,7 @@ GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child) {
     return child;
 }
 
-// The child is the caller's from then on.
+// The caller then owns the child.
 void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
     if (!owner || !child) return;
     auto& members = Graphic::From(owner)->members;
@@ -113,7 +113,7 @@ const PropertyTable* GraphicGetVtbl(GraphicStruct* graphic) {
     return graphic ? &kProperties : nullptr;
 }
 
-// Everything is computed when it is asked for: nothing is ever out of date.
+// Extents are computed on demand, so that no marks are needed.
 void GraphicSetDirty(GraphicStruct*, int) {}
 
 void GraphicSetExtentsDirty(GraphicStruct*, int) {}
@@ -166,7 +166,7 @@ VertexStruct* VertexNewFromEx(VertexStruct* from) {
     return vertex;
 }
 
-// A host with undo would note the graphic of the vertex as changed here.
+// A host with undo would record the change of the vertex's graphic here.
 void VertexSet(VertexStruct* vertex, double x, double y, double z) {
     if (!vertex) return;
     vertex->x = x;

@@ -1,4 +1,4 @@
-// Transformations of row vectors: each call gives the given matrix, followed by one step.
+// Transformations of row vectors. Each function applies the given matrix first, then its own transformation.
 
 #include <cmath>
 #include <new>
@@ -20,7 +20,7 @@ MatrixStruct* Followed(const MatrixStruct* matrix, const MatrixStruct& step) {
     return product;
 }
 
-// Turns the axis `from` towards the axis `to`.
+// Rotates the axis `from` toward the axis `to`.
 MatrixStruct* Turned(const MatrixStruct* matrix, int from, int to, double angle) {
     MatrixStruct step = kIdentity;
     step.at[from][from] = step.at[to][to] = std::cos(angle);

@@ -1,4 +1,4 @@
-// Bitmaps in memory: what lies between header and pixels.
+// Bitmaps in memory: the size of the data between header and pixels.
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-// The property table: which property a graphic has, what it takes, and the forms in which values move.
+// The property table: the properties of each graphic, the values that they accept, and the conversion of value types.
 
 #include <cmath>
 #include <cstring>
@@ -41,7 +41,7 @@ bool UpTo(double value) {
     return value <= most;
 }
 
-// One of the three members is set.
+// Exactly one of the three members is set.
 struct Property {
     const char* name;
     int owners;
@@ -84,7 +84,7 @@ int OwnerOf(const GraphicStruct* graphic) {
     }
 }
 
-// The number of a property is its row.
+// The number of a property is the index of its row.
 const Property* RowOf(const GraphicStruct* graphic, int32_t number) {
     if (!graphic || number < 0 || static_cast<size_t>(number) >= std::size(kRows)) return nullptr;
     return kRows[number].owners & OwnerOf(graphic) ? &kRows[number] : nullptr;
@@ -147,7 +147,7 @@ bool TakeWhole(int vt, const void* in, uint32_t& value) {
     }
 }
 
-// The string replaces the one that the variable may hold.
+// Frees the previous string in the variable and stores the new one.
 int GiveText(void* out, const std::string& text) {
     auto* made = static_cast<char*>(::DrawCoreNew(text.size() + 1));
     if (!made) return 0;

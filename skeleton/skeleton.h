@@ -1,4 +1,5 @@
-// What a program calls besides the contract: drawings, and which of them is current. The names are those that hostcheck knows.
+// Functions for programs that are not part of the contract: drawings and the current drawing. hostcheck uses them by
+// name.
 //
 //   DrawingStruct* drawing = DrawingNew();
 //   AppSetCurrentDrawing(drawing);
@@ -8,11 +9,12 @@
 
 #include "orlo/host/host.h"
 
-// A drawing with its tables, a rectangle, a text, a block and an insertion of it. Null if memory runs out.
+// Creates a drawing with its tables, a rectangle, a text, a block and an insertion of it. The caller frees it with
+// DrawingDispose. Returns null if memory runs out.
 DRAWCORE_API DrawingStruct* DrawingNew(void);
-// Frees the drawing with all that it owns and clears the pointer.
+// Frees the drawing and everything that it owns, and sets the pointer to null.
 DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);
-// The set of all graphics of the drawing.
+// Returns the set of all graphics of the drawing. It belongs to the drawing.
 DRAWCORE_API GraphicStruct* DrawingGetRoot(DrawingStruct*);
-// The drawing that the sheet works in; null: none.
+// Makes a drawing the current one; null for none.
 DRAWCORE_API int AppSetCurrentDrawing(DrawingStruct*);

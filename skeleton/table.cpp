@@ -1,4 +1,4 @@
-// Tables: entries under identifiers from 1 on, and variables. A freed table answers like an empty one.
+// Tables: entries with identifiers from 1, and variables. A freed table behaves like an empty one.
 
 #include <cstring>
 #include <set>
@@ -38,7 +38,7 @@ uint16_t TableStruct::IdOf(const char* name) const {
 }
 
 uint16_t TableStruct::Add(const char* name, Entry rest) {
-    constexpr uint16_t kHighest = 0xFFF0; // the numbers above are markers
+    constexpr uint16_t kHighest = 0xFFF0; // higher numbers are markers
     const uint16_t id = entries.empty() ? uint16_t{1} : static_cast<uint16_t>(entries.rbegin()->first + 1);
     if (!*name || IdOf(name) || id > kHighest) return 0;
     rest.name = name;
@@ -97,7 +97,7 @@ int TableEntryGetName(TableStruct* table, uint16_t id, char* buffer, int size) {
     return 1;
 }
 
-// The colour of a colour, the contents of a block.
+// A color's COLORREF or the contents of a block.
 void* TableEntryGetData(TableStruct* table, uint16_t id) {
     TableStruct* found = TableStruct::Find(table);
     Entry* entry = found ? found->At(id) : nullptr;

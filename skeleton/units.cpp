@@ -1,4 +1,4 @@
-// Numbers, lengths, angles and scales as text. What is written is read back to the value that it shows.
+// Numbers, lengths, angles and scales as text. A text that was written is read as the value that it shows.
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +34,8 @@ const char* SkipBlanks(const char* text) {
     return text + std::strspn(text, " \t");
 }
 
-// A number and nothing else, in the unit that it names or else in that one. False: the text is anything else.
+// Reads a number with an optional unit; without one it is in the given unit. Returns false if the text is anything
+// else.
 bool ReadLength(const char* text, const Unit& customary, double& millimetres) {
     char* end = nullptr;
     const double number = ::StringToDouble(0, text, &end);
@@ -48,7 +49,7 @@ bool ReadLength(const char* text, const Unit& customary, double& millimetres) {
     return std::isfinite(millimetres);
 }
 
-// A text that does not fit is refused: cut off, it would be another one.
+// Returns 0 if the text does not fit: truncated, it would be another number.
 int Give(const std::string& text, char* buffer, int size) {
     if (text.size() >= static_cast<size_t>(std::max(size, 0))) return 0;
     CopyText(text, buffer, size);
@@ -61,7 +62,7 @@ std::string Shown(double number) {
     return text;
 }
 
-// A length in the drawing has the drawing's unit, a paper length the millimetre.
+// Lengths in the drawing are in drawing units, lengths on paper in millimeters.
 double NumberUnit(uint16_t variable, const Unit& own) {
     return variable == kUnitDrawing ? own.millimetres : 1.0;
 }
@@ -74,7 +75,7 @@ uint16_t NumberIn(uint16_t space) {
 
 double StringToDouble(int, const char* text, char** end) {
     const char* first = SkipBlanks(text);
-    // The runtime reads "inf", "nan" and hexadecimal numbers, which are not numbers here.
+    // The C library also reads "inf", "nan" and hexadecimal numbers, which are not allowed here.
     const size_t length = std::strspn(first, "+-.0123456789eE");
     const std::string plain(first, length);
     char* stop = nullptr;
@@ -85,7 +86,7 @@ double StringToDouble(int, const char* text, char** end) {
 }
 
 void DoubleToString(int, double value, int digits, char* buffer, int, int exponentForm, int) {
-    constexpr int kSize = 32; // what every caller's buffer takes
+    constexpr int kSize = 32; // the minimum size of the caller's buffer
     const int magnitude = value != 0 ? static_cast<int>(std::floor(std::log10(std::fabs(value)))) : 0;
     if (exponentForm || std::abs(magnitude) > 15)
         std::snprintf(buffer, kSize, "%.*e", std::max(digits - 1, 0), value);
@@ -132,7 +133,7 @@ int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer
                                   space != kSpaceWorld);
 }
 
-// Text sizes are drawing units here, as all lengths of the drawing.
+// Text sizes are in drawing units, like all lengths in the drawing.
 int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int) {
     return ::DrawingStdTextToNumericEx(drawing, text, value, kSpaceWorld, kUnitDrawing);
 }
@@ -175,7 +176,7 @@ int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
     return 1;
 }
 
-// Degrees.
+// The angular system is degrees.
 uint16_t UnitsGetAngularSystem(TableStruct*) {
     return 0;
 }

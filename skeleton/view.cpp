@@ -1,4 +1,4 @@
-// Extents, viewports and drawing: outlines, solid fillings and texts. Dashes and hatches would be drawn here too.
+// Extents, viewports and drawing: outlines, solid fillings and texts. Dashes and hatches are not implemented.
 
 #include <algorithm>
 #include <cmath>
@@ -26,13 +26,13 @@ void ExtentsStruct::Add(double x, double y) {
 
 namespace {
 
-// From drawing units to others, in the plane.
+// A transformation in the plane.
 struct Placement {
     double xx = 1, xy = 0, yx = 0, yy = 1, dx = 0, dy = 0;
 
     double X(double x, double y) const { return x * xx + y * yx + dx; }
     double Y(double x, double y) const { return x * xy + y * yy + dy; }
-    // This one, followed by the other.
+    // Returns the transformation that applies this one first.
     Placement Then(const Placement& next) const {
         return {xx * next.xx + xy * next.yx,
                 xx * next.xy + xy * next.yy,
@@ -49,7 +49,7 @@ Placement PlacementOf(const MatrixStruct* matrix) {
     return {m[0][0], m[0][1], m[1][0], m[1][1], m[3][0], m[3][1]};
 }
 
-// From the block to where its insertion puts it.
+// Returns the transformation from a block to its insertion.
 Placement PlacementOf(const Content& insertion) {
     const auto& at = insertion.vertices;
     return {at[1].x - at[0].x, at[1].y - at[0].y, at[2].x - at[0].x, at[2].y - at[0].y, at[0].x, at[0].y};
@@ -64,7 +64,7 @@ double TextWidth(const Content& content) {
     return 0.7 * content.textSize * static_cast<double>(content.text.size());
 }
 
-// Calls visit(graphic, placement) for the graphic and its parts, those of the block of an insertion included.
+// Calls visit(graphic, placement) for the graphic and its members, including those of inserted blocks.
 template <class Visit>
 void ForEachPart(const Graphic& graphic, const Placement& placement, Visit visit) {
     visit(graphic, placement);
@@ -158,7 +158,7 @@ private:
                            PlainColor(graphic, graphic.content.penColor));
     }
 
-    // The system takes 27 bits.
+    // GDI coordinates are limited to 27 bits.
     static POINT At(const Placement& to, double x, double y) {
         const auto pixel = [](double at) { return std::lround(std::clamp(at, -1e7, 1e7)); };
         return {pixel(to.X(x, y)), pixel(to.Y(x, y))};
@@ -168,7 +168,7 @@ private:
     int saved_;
 };
 
-// Fits what is shown into the rectangle, aspect kept, in the middle.
+// Fits the extents into the rectangle: centered, with the aspect ratio kept.
 Placement ToDevice(const ViewportStruct& viewport) {
     const RECT& rect = viewport.rect;
     const ExtentsStruct& shown = viewport.shown;
@@ -259,5 +259,5 @@ int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* at, double width, double
     return 1;
 }
 
-// A text is laid out when it is drawn.
+// Texts are laid out when they are drawn.
 void TextExternalJustify(GraphicStruct*, int) {}

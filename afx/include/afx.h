@@ -1,5 +1,5 @@
-// The framework's base: run-time classes, strings, exceptions, buffered files. It includes no window header
-// of its own and compiles on this machine as well, where a block of types replaces the system's.
+// The base of the framework: run-time classes, strings, exceptions, buffered files. Requires no windows and also
+// compiles on Linux, where the types below replace those of windows.h.
 //
 //   CString text;
 //   text.Format("%d of %d", 3, 10);
@@ -30,7 +30,7 @@ using LPCSTR = const char*;
 #define FALSE 0
 #endif
 
-// The format texts of the C++ library, not those of the system's C library.
+// Format strings are those of the C++ library, not of the system's C library.
 #if defined(_WIN32)
 #define AFX_PRINTF gnu_printf
 #else
@@ -45,7 +45,7 @@ using LPCSTR = const char*;
 #define AFX_API __declspec(dllimport)
 #endif
 
-// The static library afx_base has no string table and no message boxes, on Windows as elsewhere.
+// The static library afx_base has no string table and no message boxes, on any system.
 #if defined(_WIN32) && !defined(AFX_STATIC)
 #define AFX_HAS_WINDOWS
 #endif
@@ -57,7 +57,7 @@ using LPCSTR = const char*;
 #define ASSERT(f) ((f) ? (void)0 : AfxAssertFailed(#f, __FILE__, __LINE__))
 #endif
 
-// A place in a collection; null before the first and after the last.
+// A position in a collection. Null is before the first and after the last element.
 struct AFX_POSITION;
 typedef AFX_POSITION* POSITION;
 
@@ -69,12 +69,13 @@ class CString;
 struct AFX_API CRuntimeClass {
     LPCSTR m_lpszClassName;
     int m_nObjectSize;
-    UINT m_wSchema;                  // 0xFFFF: the class is not stored
-    CObject* (*m_pfnCreateObject)(); // null: not made by name
+    UINT m_wSchema;                  // 0xFFFF: objects of the class cannot be serialized
+    CObject* (*m_pfnCreateObject)(); // null: CreateObject is not supported
     CRuntimeClass* m_pBaseClass;
 
-    // A new object of the class, owned by the caller; null if the class cannot be made this way.
+    // Returns a new object of the class, owned by the caller, or null if the class does not support it.
     CObject* CreateObject();
+    // Returns true if the class is pBaseClass or derived from it.
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 };
 
@@ -120,10 +121,10 @@ public:                                                                         
     }                                                                                                        \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, class_name::CreateObject)
 
-// ---- Text
+// ---- Strings
 
-// 8-bit text in the system's code page. A null pointer counts as the empty text. Between GetBuffer and
-// ReleaseBuffer the text must only be touched through the pointer.
+// An 8-bit string in the system's code page. A null pointer is an empty string. Between GetBuffer and ReleaseBuffer the
+// string must only be accessed through the returned pointer.
 class AFX_API CString {
 public:
     CString();
@@ -150,11 +151,11 @@ public:
     void SetAt(int nIndex, char ch);
     operator LPCSTR() const { return m_text.c_str(); }
 
-    // Byte by byte; the sign of the result as with strcmp.
+    // Compare the bytes. The sign of the result is that of strcmp.
     int Compare(LPCSTR lpsz) const;
     int CompareNoCase(LPCSTR lpsz) const;
 
-    // Parts out of range are cut to the text.
+    // Return a part of the string. Ranges that exceed the string are limited to it.
     CString Mid(int nFirst) const;
     CString Mid(int nFirst, int nCount) const;
     CString Left(int nCount) const;
@@ -165,7 +166,7 @@ public:
     void TrimLeft();
     void TrimRight();
 
-    // Index of the first (last) match, -1 if there isn't one.
+    // Return the index of the first (ReverseFind: last) match, or -1 if there is none.
     int Find(char ch) const;
     int Find(LPCSTR lpszSub) const;
     int ReverseFind(char ch) const;
@@ -173,14 +174,15 @@ public:
     void Format(LPCSTR lpszFormat, ...) __attribute__((format(AFX_PRINTF, 2, 3)));
     void FormatV(LPCSTR lpszFormat, va_list args);
 
-    // A buffer for at least nMinBufLength characters and the NUL; it starts with the present text.
+    // Return a buffer for at least that many characters and the NUL. It contains the present string.
     LPSTR GetBuffer(int nMinBufLength);
     LPSTR GetBufferSetLength(int nNewLength);
-    // -1: the text ends at its first NUL.
+    // Sets the length after the buffer was changed. -1: the string ends at its first NUL.
     void ReleaseBuffer(int nNewLength = -1);
 
 #if defined(AFX_HAS_WINDOWS)
-    // The string resource of that number, searched along the chain of modules; false leaves the text empty.
+    // Loads the string resource with that number from the list of modules. If it does not exist, returns false, and the
+    // string is empty.
     BOOL LoadString(UINT nID) {
         return ReadResource(nID);
     }
@@ -222,7 +224,7 @@ inline bool operator<(const CString& a, const CString& b) {
 
 // ---- Exceptions
 
-// Thrown by pointer. Whoever catches one and does not rethrow it calls Delete.
+// Exceptions are thrown by pointer. A handler that does not rethrow the exception must call Delete.
 class AFX_API CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
@@ -231,11 +233,11 @@ public:
     void Delete();
 
 #if defined(AFX_HAS_WINDOWS)
-    // Text for a person, with its NUL cut to nMaxError bytes; false and an empty text if the exception has
-    // none.
+    // Copies the message, at most nMaxError bytes including the NUL. Returns false, and stores an empty string, if the
+    // exception has no message.
     virtual BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr);
-    // Shows that text in a message box, or the string nMessageID (0: the framework's "internal error")
-    // without one.
+    // Shows the message in a message box. An exception without a message shows the string nMessageID (0: the
+    // framework's "internal error"). Returns the identifier of the button.
     int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 #endif
 
@@ -243,7 +245,7 @@ private:
     BOOL m_bAutoDelete;
 };
 
-// The user's action cannot go on, and the user was informed.
+// An operation cannot be continued, and the user has been informed.
 class AFX_API CUserException : public CException {
     DECLARE_DYNAMIC(CUserException)
 public:
@@ -251,6 +253,7 @@ public:
     ~CUserException() override;
 };
 
+// An operation is not supported.
 class AFX_API CNotSupportedException : public CException {
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
@@ -261,7 +264,7 @@ public:
 #endif
 };
 
-// A resource, or a window or GDI object made from one, is not available.
+// A resource, window or GDI object cannot be created.
 class AFX_API CResourceException : public CException {
     DECLARE_DYNAMIC(CResourceException)
 public:
@@ -272,6 +275,7 @@ public:
 #endif
 };
 
+// A file operation failed.
 class AFX_API CFileException : public CException {
     DECLARE_DYNAMIC(CFileException)
 public:
@@ -289,7 +293,7 @@ public:
 
     explicit CFileException(int cause = none, LONG lOsError = 0, LPCSTR lpszFileName = nullptr);
     ~CFileException() override;
-    // The cause that fits a value of errno.
+    // Returns the cause for a value of errno.
     static int ErrnoToException(int nErrno);
 
     int m_cause;
@@ -308,8 +312,8 @@ public:
 
 // ---- Buffered files
 
-// A file of the C library. Text unless typeBinary is given. Failures of reading, writing and seeking are
-// thrown as CFileException; the destructor closes without reporting failures.
+// A buffered file of the C library, in text mode unless typeBinary is given. Functions that read, write or seek throw a
+// CFileException on failure. The destructor closes the file and ignores failures.
 class AFX_API CStdioFile : public CObject {
     DECLARE_DYNAMIC(CStdioFile)
 public:
@@ -317,36 +321,37 @@ public:
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        modeCreate = 0x1000,     // makes the file, empties an existing one
-        modeNoTruncate = 0x2000, // with modeCreate: an existing one keeps its content
+        modeCreate = 0x1000,     // creates the file or truncates an existing one
+        modeNoTruncate = 0x2000, // with modeCreate: does not truncate an existing file
         typeText = 0x4000,
         typeBinary = 0x8000,
     };
     enum SeekPosition : UINT { begin = 0, current = 1, end = 2 };
 
     CStdioFile();
-    // Takes an open stream over: it is closed by Close or the destructor.
+    // Takes ownership of an open stream, which is closed by Close or the destructor.
     explicit CStdioFile(FILE* pOpenStream);
     // Throws a CFileException if the file cannot be opened.
     CStdioFile(LPCSTR lpszFileName, UINT nOpenFlags);
     ~CStdioFile() override;
 
-    // False if the file cannot be opened; the reason goes to pError if given.
+    // Returns false if the file cannot be opened; the cause is stored in *pError unless it is null.
     BOOL Open(LPCSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr);
     void Close();
 
+    // Returns the number of bytes read, which is less than nCount at the end of the file.
     UINT Read(void* lpBuf, UINT nCount);
     void Write(const void* lpBuf, UINT nCount);
-    // One line without its line feed; false at the end of the file.
+    // Reads a line without its line feed. Returns false at the end of the file.
     BOOL ReadString(CString& rString);
     virtual void WriteString(LPCSTR lpsz);
 
-    // The new position from the start of the file, in bytes.
+    // Returns the new position from the start of the file, in bytes.
     ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
     ULONGLONG GetPosition() const;
     void Flush();
 
-    FILE* m_pStream; // null: no file is open
+    FILE* m_pStream; // null if no file is open
 
 private:
     [[noreturn]] void ThrowErrno(int nFallback) const;

@@ -1,4 +1,4 @@
-// The application: its thread, its main window, its resources and messages to the user.
+// Application, main thread and frame window; resources and message boxes.
 #pragma once
 
 #include <afxwnd.h>
@@ -9,34 +9,37 @@ public:
     CWinThread();
     ~CWinThread() override;
 
-    CWnd* m_pMainWnd; // when its window is destroyed, Run ends
+    CWnd* m_pMainWnd; // Run ends when its window is destroyed
     virtual CWnd* GetMainWnd();
 
+    // Called by AfxWinMain before Run, which is skipped if it returns false.
     virtual BOOL InitInstance();
     virtual int ExitInstance();
-    // The message loop, until WM_QUIT; its result is that of ExitInstance.
+    // Runs the message loop until WM_QUIT and returns the result of ExitInstance.
     virtual int Run();
-    // Nothing to do for now; lCount grows from 0. True: wants another call.
+    // Called while the message queue is empty; lCount counts up from 0. Return TRUE to be called again.
     virtual BOOL OnIdle(LONG lCount);
+    // Called before a message is dispatched. Return TRUE if it was handled.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    // One message; false: it was WM_QUIT.
+    // Waits for a message and dispatches it. Returns false for WM_QUIT.
     BOOL PumpMessage();
 
-    // An exception that a message handler has thrown; the result is the message's. Shows its text, unless the
-    // user has been informed. What a window throws while painting itself or its items is shown once.
+    // Called for an exception that a message handler has thrown; returns the result of the message. Shows the
+    // exception's message unless it is a CUserException. Exceptions that a window throws while it is painted are shown
+    // once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:
     friend class CWnd;
     bool m_bRunning;
-    int m_nExitCode; // of WM_QUIT
+    int m_nExitCode; // wParam of WM_QUIT
 };
 
-// The one application object of a program. Its constructor makes it what AfxGetApp and AfxGetThread give.
+// The only application object of a program, which AfxGetApp and AfxGetThread return.
 class AFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
-    // Without a name it is that of the program's file.
+    // If lpszAppName is null, the application is named after the program file.
     explicit CWinApp(LPCSTR lpszAppName = nullptr);
     ~CWinApp() override;
 
@@ -49,56 +52,61 @@ private:
     CString m_strAppName;
 };
 
-// A main window. The object is on the heap and goes with its window.
+// A main window. The object must be on the heap; it deletes itself when its window is destroyed.
 class AFX_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 public:
     CFrameWnd();
     ~CFrameWnd() override;
 
-    static const CRect rectDefault; // the system chooses place and size
+    static const CRect rectDefault; // the system determines position and size
 
-    // A top-level window; a null class name as in CWnd::Create. False: no window was made.
+    // Creates a top-level window. For a null class name see CWnd::Create. Returns false if the window cannot be
+    // created.
     BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
                 const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCSTR lpszMenuName = nullptr,
                 DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
-    // The same with menu, accelerators and icon of one resource number, window text from the string of that number.
+    // Creates a top-level window whose menu, accelerators, icon and title are the resources with that number.
     BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW, CWnd* pParentWnd = nullptr);
+    // Loads the accelerators. Returns false if they do not exist.
     BOOL LoadAccelTable(LPCSTR lpszResourceName);
     HACCEL m_hAccelTable;
 
     BOOL IsFrameWnd() const override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    // The frame first, then the application.
+    // Routes a command to the frame, then to the application.
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
 protected:
     void PostNcDestroy() override;
 };
 
+// Return null if there is no such object; AfxGetThread returns null on other threads than the application's.
 AFX_API CWinThread* AfxGetThread();
 AFX_API CWinApp* AfxGetApp();
 AFX_API CWnd* AfxGetMainWnd();
 AFX_API HINSTANCE AfxGetInstanceHandle();
-// The application's name; that of the program's file if there is no application object.
+// Returns the name of the application, or that of the program file if there is no application object.
 AFX_API LPCSTR AfxGetAppName();
 
-// What a program's WinMain calls: InitInstance, Run, ExitInstance of its application object.
+// Implements WinMain: calls InitInstance, Run and ExitInstance of the application object.
 AFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow);
 
-// ---- Resources. Searched in the program, then in the extension modules, the latest first, then in the
-// framework.
-// The module that has it; the program's own if none has.
+// ---- Resources
+// They are searched for in the program, in the extension modules from the latest to the first, and in the framework.
+
+// Returns the module that contains the resource, or the program if no module does.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType);
-// The length copied; 0, with an empty buffer, if there is no such string.
+// Copies a string and returns its length. If it does not exist, returns 0 and stores an empty string.
 AFX_API int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf = 256);
 
 // ---- Messages to the user
-// A type without an icon gets the exclamation mark. The result is the button's identifier.
+
+// Show a message box and return the identifier of the button. If nType has no icon, the exclamation mark is used.
 AFX_API int AfxMessageBox(LPCSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 AFX_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
-// The string nIDS with its %1 and %2 replaced.
+// Load the string nIDS and replace %1 and %2 in it.
 AFX_API void AfxFormatString1(CString& rString, UINT nIDS, LPCSTR lpsz1);
 AFX_API void AfxFormatString2(CString& rString, UINT nIDS, LPCSTR lpsz1, LPCSTR lpsz2);
-// Part iSubString of a text, the first being 0. False, and rString empty, if there are fewer.
+// Extracts part iSubString (from 0) of a string. Returns false, and empties rString, if there are fewer parts.
 AFX_API BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep = '\n');

@@ -1,4 +1,4 @@
-// Controls of the system's common library, as far as they are used.
+// Common controls: tab control, status bar, progress bar.
 #pragma once
 
 #include <afxwin.h>
@@ -22,7 +22,7 @@ public:
             SendMessage(TCM_GETITEMRECT, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(lpRect)));
     }
     int GetCurSel() const { return static_cast<int>(SendMessage(TCM_GETCURSEL)); }
-    // Notifies nobody: see CPropertySheet::SetActivePage.
+    // Sends no notification; see CPropertySheet::SetActivePage.
     int SetCurSel(int nItem) {
         return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(nItem)));
     }

@@ -1,5 +1,5 @@
-// Collections: a list of objects, maps by number and by text, an array of words. They do not own the objects
-// put in. Maps return their entries in the order in which the keys were first set.
+// Collections: a list of objects, maps with numbers or strings as keys, an array of words. They do not own their
+// elements. Maps are iterated in the order in which the keys were inserted.
 #pragma once
 
 #include <afx.h>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-// Nodes of a collection, allocated in blocks; a freed node is used again. All go with the pool.
+// Allocates the nodes of a collection in blocks and reuses freed nodes. The destructor frees all blocks.
 template <class Node>
 class AfxNodePool {
 public:
@@ -66,11 +66,11 @@ public:
 
     POSITION GetHeadPosition() const { return ToPosition(m_pHead); }
     POSITION GetTailPosition() const { return ToPosition(m_pTail); }
-    // The element at the position, which moves on.
+    // Return the element at the position and advance it.
     CObject* GetNext(POSITION& rPosition) const;
     CObject* GetPrev(POSITION& rPosition) const;
     CObject* GetAt(POSITION position) const;
-    // First position of that very object, null if it is not in the list.
+    // Returns the first position of the object, or null if it is not in the list.
     POSITION Find(const CObject* searchValue) const;
 
 private:
@@ -93,15 +93,15 @@ inline std::size_t AfxHashKey(WORD key) {
 }
 AFX_API std::size_t AfxHashKey(LPCSTR key);
 
-// What the maps have in common: a hash table that grows with its content, so that filling it with n keys
-// costs O(n). ARG_KEY is the form in which keys are asked for.
+// Base class of the maps: a hash table that grows with its contents, so that inserting n keys takes O(n). ARG_KEY is
+// the type of key parameters.
 template <class KEY, class ARG_KEY, class VALUE>
 class AfxMap : public CObject {
 public:
     int GetCount() const { return m_nCount; }
     BOOL IsEmpty() const { return m_nCount == 0; }
 
-    // False leaves rValue alone.
+    // Returns false, and does not change rValue, if the key does not exist.
     BOOL Lookup(ARG_KEY key, VALUE& rValue) const {
         const Node* node = FindNode(key, AfxHashKey(key));
         if (node == nullptr) return FALSE;
@@ -109,7 +109,7 @@ public:
         return TRUE;
     }
     void SetAt(ARG_KEY key, VALUE newValue) { (*this)[key] = newValue; }
-    // The value of the key, made as null if the key is new.
+    // Returns the value of the key, which is inserted with a null value if it does not exist.
     VALUE& operator[](ARG_KEY key) {
         const std::size_t hash = AfxHashKey(key);
         if (Node* node = FindNode(key, hash)) return node->m_value;
@@ -131,7 +131,7 @@ public:
     }
 
     POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(m_pFirst); }
-    // The entry at the position, which moves on.
+    // Stores the entry at the position and advances it.
     void GetNextAssoc(POSITION& rNextPosition, KEY& rKey, VALUE& rValue) const {
         const Node* node = reinterpret_cast<const Node*>(rNextPosition);
         rKey = node->m_key;
@@ -146,7 +146,7 @@ private:
     struct Node {
         Node* m_pNext = nullptr; // in order of insertion
         Node* m_pPrev = nullptr;
-        Node* m_pSame = nullptr; // next of the same bucket
+        Node* m_pSame = nullptr; // next in the same bucket
         std::size_t m_nHash = 0;
         KEY m_key{};
         VALUE m_value{};
@@ -195,7 +195,7 @@ private:
     int m_nCount = 0;
     Node* m_pFirst = nullptr;
     Node* m_pLast = nullptr;
-    std::vector<Node*> m_buckets; // a power of two
+    std::vector<Node*> m_buckets; // their number is a power of two
     AfxNodePool<Node> m_pool;
 };
 
@@ -222,7 +222,7 @@ public:
     int GetSize() const { return static_cast<int>(m_data.size()); }
     WORD GetAt(int nIndex) const { return m_data[static_cast<std::size_t>(nIndex)]; }
     WORD operator[](int nIndex) const { return GetAt(nIndex); }
-    int Add(WORD newElement); // its index
+    int Add(WORD newElement); // returns its index
     void RemoveAll();
 
 private:

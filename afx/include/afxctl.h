@@ -1,5 +1,6 @@
-// The system's controls as CWnd classes. Owner-draw lists and combos get their items' messages as virtual
-// calls, from the moment the object has the window; before that the parent answers as the system does.
+// The system's controls as CWnd classes. Owner-draw list boxes and combo boxes receive the messages for their items as
+// calls of virtual functions, once the object has its window. Before that, the messages get the system's default
+// handling.
 #pragma once
 
 #include <afxwnd.h>
@@ -32,8 +33,7 @@ public:
     using CWnd::Create;
 };
 
-// What the two controls with items have in common in their names: results are LB_ERR or CB_ERR (-1) on
-// failure.
+// CListBox and CComboBox have the same methods where possible. On failure they return LB_ERR or CB_ERR (-1).
 class AFX_API CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)
 public:
@@ -56,7 +56,7 @@ public:
         return Send(LB_FINDSTRINGEXACT, nStartAfter, lpszFind);
     }
     int GetText(int nIndex, LPSTR lpszBuffer) const { return Send(LB_GETTEXT, nIndex, lpszBuffer); }
-    // An index out of range leaves rString empty.
+    // rString is empty if the index is out of range.
     void GetText(int nIndex, CString& rString) const;
     DWORD_PTR GetItemData(int nIndex) const {
         return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
@@ -67,7 +67,7 @@ public:
     }
     int GetItemRect(int nIndex, LPRECT lpRect) const { return Send(LB_GETITEMRECT, nIndex, lpRect); }
 
-    // Owner drawing. A list that is made owner-draw overrides them; the base has nothing to draw.
+    // Owner drawing: override in a class for an owner-draw control. The base class draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
@@ -104,12 +104,12 @@ public:
         return Send(CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
     }
     int GetLBText(int nIndex, LPSTR lpszText) const { return Send(CB_GETLBTEXT, nIndex, lpszText); }
-    // An index out of range leaves rString empty.
+    // rString is empty if the index is out of range.
     void GetLBText(int nIndex, CString& rString) const;
     BOOL GetDroppedState() const { return Send(CB_GETDROPPEDSTATE); }
     void ShowDropDown(BOOL bShowIt = TRUE) { Send(CB_SHOWDROPDOWN, bShowIt); }
 
-    // Owner drawing, as with CListBox. Item -1 is the closed combo's field without a selection.
+    // Owner drawing, as with CListBox. Item -1 is the field of a closed combo box without a selection.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
@@ -117,7 +117,7 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-    // What the combo's own list asks goes on to the parent, which asks this object.
+    // Passes the message of the combo box's list to the parent, which passes it to this object.
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     DECLARE_MESSAGE_MAP()
 

@@ -1,12 +1,12 @@
-// CDialog, and the exchange of data between its members and its controls.
+// CDialog, and the data exchange between its members and its controls.
 //
 //   void CMyDialog::DoDataExchange(CDataExchange* pDX) {
 //       DDX_Text(pDX, IDC_NAME, m_strName);
 //       DDX_Check(pDX, IDC_BOLD, m_bBold);
 //   }
 //
-// Once a dialog's window exists, all its descendants get WM_INITIALUPDATE, and then OnInitDialog runs,
-// which does the first exchange: a control that fills itself at that message is filled when its value comes.
+// When the window of a dialog has been created, WM_INITIALUPDATE is sent to all its descendants. Then OnInitDialog does
+// the first exchange. A control that fills itself at that message is therefore filled before its value is set.
 #pragma once
 
 #include <afxwnd.h>
@@ -21,17 +21,16 @@ public:
     CDataExchange(const CDataExchange&) = delete;
     CDataExchange& operator=(const CDataExchange&) = delete;
 
-    BOOL m_bSaveAndValidate; // TRUE: from the controls to the variables
+    BOOL m_bSaveAndValidate; // TRUE: from controls to variables; FALSE: from variables to controls
     CWnd* m_pDlgWnd;
 
-    // The control's window, remembered as the one that Fail gives the focus to; PrepareEditCtrl: with its
-    // text selected. Throws a CNotSupportedException if there is no such control.
+    // Return the window of a control, which will get the focus if Fail is called; after PrepareEditCtrl its text is
+    // selected then. Throw a CNotSupportedException if there is no such control.
     HWND PrepareCtrl(int nIDC);
     HWND PrepareEditCtrl(int nIDC);
-    // An object that lives as long as the exchange, whatever ends it.
+    // Takes ownership of an object until the exchange ends.
     void Keep(std::unique_ptr<CObject> pObject);
-    // Ends the exchange by a CUserException, the focus on the control last prepared. The user must have
-    // been informed.
+    // Throws a CUserException and sets the focus to the control that was prepared last. Inform the user before.
     [[noreturn]] void Fail();
 
 private:
@@ -43,11 +42,11 @@ private:
 AFX_API void DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 AFX_API void DDX_Text(CDataExchange* pDX, int nIDC, int& value);
 AFX_API void DDX_Check(CDataExchange* pDX, int nIDC, int& value);
-// Saving: the selected item's text, empty without one. Loading: selects the first item that begins with the
-// text.
+// Saving stores the text of the selected item, or an empty string if none is selected. Loading selects the first item
+// that begins with the text.
 AFX_API void DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
-// Saving: the combo's text. Loading: selects the first item that begins with the text, or sets the text
-// without one.
+// Saving stores the text of the combo box. Loading selects the first item that begins with the text or, if there is
+// none, sets the text.
 AFX_API void DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
 
 class AFX_API CDialog : public CWnd {
@@ -55,33 +54,34 @@ class AFX_API CDialog : public CWnd {
 public:
     // For Create.
     CDialog();
-    // For DoModal. Without a parent the application's main window owns the dialog.
+    // For DoModal. If pParentWnd is null, the application's main window is the owner.
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     explicit CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    // Modeless. The template is searched along the chain of modules. False: there is no such template, or the
-    // window could not be made.
+    // Create a modeless dialog. The template is searched for in the list of modules. Return false if it does not exist
+    // or the window cannot be created.
     BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     BOOL Create(LPCSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     using CWnd::Create;
 
-    // What EndDialog was given; -1 if no dialog could be made.
+    // Returns the argument of EndDialog, or -1 if the dialog cannot be created.
     virtual int DoModal();
     void EndDialog(int nResult);
 
-    // TRUE: the first control gets the focus. FALSE: OnInitDialog has set it. If the first exchange fails, or
-    // something is thrown, the dialog ends with -1.
+    // Return TRUE to set the focus to the first control, or FALSE if the focus was set. If the first exchange fails or
+    // throws an exception, the dialog ends with -1.
     virtual BOOL OnInitDialog();
     void GotoDlgCtrl(CWnd* pWndCtrl);
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    // IDOK: saves, and ends the dialog if that passed.
+    // Saves, and ends the dialog with IDOK if all values are valid.
     virtual void OnOK();
+    // Ends the dialog with IDCANCEL.
     virtual void OnCancel();
 
-    LPCSTR m_lpszTemplateName; // a number below 0x10000, or a name
+    LPCSTR m_lpszTemplateName; // a name, or a number below 0x10000
     CWnd* m_pParentWnd;
 
     DECLARE_MESSAGE_MAP()

@@ -1,14 +1,15 @@
 // Property sheets and their pages; the file dialog.
 //
 //   CPropertySheet sheet("Properties", pParent);
-//   CColorPage colors;      // CPropertyPage(IDD_COLORS): the template's caption is the tab's
-//   sheet.AddPage(&colors); // borrowed: it outlives the sheet, or is removed
+//   CColorPage colors;      // CPropertyPage(IDD_COLORS): the tab has the caption of the template
+//   sheet.AddPage(&colors); // not owned: it must outlive the sheet or be removed
 //   if (sheet.DoModal() == IDOK)
 //       Use(colors);
 //
-// A page's window is made when the page is first activated. A page is left only if its OnKillActive, which
-// saves by its exchange, allows it: otherwise the sheet stays on it. OK leaves the active page and calls its OnOK;
-// the other pages have saved when they were left. Cancel calls OnCancel of all pages that have a window.
+// The window of a page is created when the page is first activated. Before another page is activated, OnKillActive of
+// the active page saves its values; if it returns false, the sheet stays on that page. OK calls OnKillActive and OnOK
+// of the active page; the other pages were saved when the user left them. Cancel calls OnCancel of all pages that have
+// a window.
 #pragma once
 
 #include <afxcmn.h>
@@ -22,28 +23,29 @@ class CPropertySheet;
 class AFX_API CPropertyPage : public CDialog {
     DECLARE_DYNAMIC(CPropertyPage)
 public:
-    // nIDCaption: the string for the tab; 0: the template's caption.
+    // nIDCaption is the string for the tab; 0: the caption of the template.
     explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0);
     explicit CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption = 0);
     ~CPropertyPage() override;
 
-    // Notifies the sheet, whose Apply button is enabled while a page is modified.
+    // Marks the page as modified. The Apply button of the sheet is enabled while a page is modified.
     void SetModified(BOOL bChanged = TRUE);
 
-    // The page comes to the front. Here: makes its window if there isn't one yet; false on failure. A page whose first
-    // exchange fails has none: the user has been informed why.
+    // Called when the page is activated. Creates its window if it does not exist. Returns false if that fails or if the
+    // first exchange fails, of which the user has then been informed.
     virtual BOOL OnSetActive();
-    // The page is to be left. Here: saves; false if a check has failed.
+    // Called before the page is left. Saves, and returns false if a value is invalid.
     virtual BOOL OnKillActive();
     void OnOK() override;
     void OnCancel() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    CPropertySheet* GetParentSheet() const { return m_pSheet; } // null: in none
+    CPropertySheet* GetParentSheet() const { return m_pSheet; } // null if the page is not in a sheet
 
 protected:
     BOOL m_bChanged;
-    HINSTANCE m_hTemplateModule; // the one module that has the template; null: searched along the chain
-    // The fields of its combo boxes scroll, whatever the template says: otherwise text beyond their width is dropped.
+    HINSTANCE m_hTemplateModule; // module of the template; null: searched for in the list of modules
+    // TRUE: edit fields of combo boxes scroll, even without CBS_AUTOHSCROLL in the template. Without scrolling, text is
+    // limited to the width of the field.
     BOOL m_bScrollingCombos;
 
     DECLARE_MESSAGE_MAP()
@@ -58,7 +60,7 @@ private:
     UINT m_nIDCaption;
 };
 
-// The row of tabs: as high as its tabs, whatever height it is given.
+// The tab control of a sheet. Its height is always that of its rows of tabs.
 class AFX_API CTabRow : public CTabCtrl {
     DECLARE_DYNAMIC(CTabRow)
 public:
@@ -78,15 +80,15 @@ private:
 class AFX_API CPropertySheet : public CWnd {
     DECLARE_DYNAMIC(CPropertySheet)
 public:
-    // Without a parent the application's main window owns the sheet. iSelectPage: the first page shown.
+    // If pParentWnd is null, the application's main window is the owner. iSelectPage is the page to activate first.
     explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     explicit CPropertySheet(LPCSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
-    // Deletes no page.
+    // Does not delete pages.
     ~CPropertySheet() override;
 
-    // What EndDialog was given: IDOK, IDCANCEL; -1 if the sheet could not be made.
+    // Returns the argument of EndDialog (IDOK, IDCANCEL), or -1 if the sheet cannot be created.
     virtual int DoModal();
-    // Modeless: no buttons. The object is the caller's and outlives the window.
+    // Creates a modeless sheet, without buttons. The object belongs to the caller and must outlive the window.
     BOOL Create(CWnd* pParentWnd = nullptr,
                 DWORD dwStyle = WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME | WS_VISIBLE,
                 DWORD dwExStyle = WS_EX_DLGMODALFRAME);
@@ -94,16 +96,16 @@ public:
     void EndDialog(int nEndID);
 
     void AddPage(CPropertyPage* pPage);
-    // Destroys the page's window. If it was the active one, its neighbour becomes active, without exchange.
+    // Remove a page and destroy its window. If it was active, the adjacent page is activated, without an exchange.
     void RemovePage(CPropertyPage* pPage);
     void RemovePage(int nPage);
     int GetPageCount() const { return static_cast<int>(m_pages.size()); }
     CPropertyPage* GetPage(int nPage) const { return m_pages[static_cast<std::size_t>(nPage)]; }
-    int GetPageIndex(const CPropertyPage* pPage) const; // -1: not in this sheet
+    int GetPageIndex(const CPropertyPage* pPage) const; // -1 if it is not in this sheet
     int GetActiveIndex() const { return m_nCurPage; }
-    CPropertyPage* GetActivePage() const; // null: none is active
-    // False: the active page could not be left, or the new one could not be made. The sheet is as
-    // before.
+    CPropertyPage* GetActivePage() const; // null if none is active
+    // Activate a page. Return false, and change nothing, if the active page cannot be left or the new one cannot be
+    // created.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);
     CTabCtrl* GetTabControl() const { return const_cast<CTabRow*>(&m_tabRow); }
@@ -111,32 +113,34 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    // Tab row, buttons (not modeless), first page, in this order; -1 on failure. A sheet that a derived class
-    // has not sized in its own OnCreate is laid out afterwards: tabs, page, row of buttons.
+    // Creates the tab control, the buttons (unless modeless) and the first page, in this order. Returns -1 on failure.
+    // Then lays out tabs, page and buttons, unless a derived class sets the size in its own OnCreate.
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnOK();
     afx_msg void OnCancel();
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
-    // For a derived class that replaces OnCreate; each false on failure. The first: the system's handling of the
-    // message, the caption, and m_nCurPage one of the pages.
+    // For derived classes that replace OnCreate; they return false on failure. BeginCreate does the default handling of
+    // the message, sets the caption, and makes sure that m_nCurPage is one of the pages.
     bool BeginCreate();
-    // Takes a tab per page, in m_font. It is as wide as the place says.
+    // Creates the tab control with a tab for each page, in m_font and with the width of `place`.
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
-    void FocusActivePage(); // its first control; without one the tabs, or the default button
+    // Sets the focus to the first control of the active page; without one to the tabs or the default button.
+    void FocusActivePage();
 
-    // Pixels; set when the first page has its window, from 50 x 14, 4 x 4 and 4 of its dialog units.
+    // Pixels. Set when the window of the first page is created: 50 x 14, 4 x 4 and 4 of its dialog units.
     CSize m_sizeButton;
     CSize m_sizeTabMargin;
     int m_cxButtonGap;
 
-    BOOL m_bHasApply; // TRUE; a derived class without an Apply button clears it before the window is made
-    CFont m_font;     // of tabs and buttons: that of the first page shown
+    // TRUE by default. Set it to FALSE before the window is created for a sheet without an Apply button.
+    BOOL m_bHasApply;
+    CFont m_font; // font of tabs and buttons: that of the first page
     CTabRow m_tabRow;
     BOOL m_bModeless;
-    BOOL m_bStacked; // tabs in several rows where one does not hold them
-    int m_nCurPage;  // -1: none
+    BOOL m_bStacked; // tabs in several rows if they do not fit into one
+    int m_nCurPage;  // -1 if none is active
 
     DECLARE_MESSAGE_MAP()
 
@@ -155,7 +159,7 @@ private:
     bool ActivatePage(int nPage);
     bool ActivateFirstPage();
     bool ShowPage(int nPage, const CRect& place);
-    CRect ActivePlace() const; // of the active page, client coordinates; empty: it has no window
+    CRect ActivePlace() const; // of the active page, in client coordinates; empty if it has no window
     bool HasFocus(const CPropertyPage* page) const;
     void EnableApplyButton();
     static int PageStep(const MSG& msg);
@@ -165,20 +169,20 @@ private:
     CWnd* m_pParentWnd;
 };
 
-// The system's dialog that asks for a file.
+// The system's dialogs to open and save a file.
 class AFX_API CFileDialog {
 public:
-    // lpszFilter: "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||".
+    // lpszFilter is for example "Drawings (*.dxf)|*.dxf|All files (*.*)|*.*||".
     explicit CFileDialog(BOOL bOpenFileDialog, LPCSTR lpszDefExt = nullptr, LPCSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCSTR lpszFilter = nullptr,
                          CWnd* pParentWnd = nullptr);
-    int DoModal(); // IDOK or IDCANCEL
+    int DoModal(); // returns IDOK or IDCANCEL
     CString GetPathName() const { return m_szPath; }
 
 private:
     BOOL m_bOpen;
     CString m_strDefExt;
-    CString m_strFilter; // its bars are NULs
+    CString m_strFilter; // with NULs instead of bars
     DWORD m_dwFlags;
     CWnd* m_pParentWnd;
     char m_szPath[MAX_PATH];

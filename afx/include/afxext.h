@@ -1,9 +1,9 @@
-// Extension modules: libraries whose resources the whole program finds.
+// Extension modules: DLLs whose resources are found by the whole program.
 //
-//   static AFX_EXTENSION_MODULE module;                       // zero
+//   static AFX_EXTENSION_MODULE module;                       // initialized with zeros
 //   in DllMain, attach:   AfxInitExtensionModule(module, hInstance);
-//   in an init function:  new CDynLinkLibrary(module);        // belongs to the framework's chain
-//   in DllMain, detach:   AfxTermExtensionModule(module);     // if the library can go before the program does
+//   in an init function:  new CDynLinkLibrary(module);        // owned by the framework
+//   in DllMain, detach:   AfxTermExtensionModule(module);     // if the DLL can be unloaded before the program ends
 #pragma once
 
 #include <afxwin.h>
@@ -14,11 +14,12 @@ struct AFX_EXTENSION_MODULE {
     HMODULE hResource;
 };
 
-// True, also when called again.
+// Initializes the module. Returns true, also when called again.
 AFX_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
-// Takes the module out of the chain.
+// Removes the module from the list of modules.
 AFX_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state);
 
+// Adds a module to the list of modules in which resources are searched for.
 class AFX_API CDynLinkLibrary : public CObject {
     DECLARE_DYNAMIC(CDynLinkLibrary)
 public:

@@ -1,8 +1,8 @@
-// Points, sizes and rectangles; device contexts and drawing objects. Coordinates are those of the device
+// Points, sizes and rectangles; device contexts and drawing objects. Coordinates are logical coordinates of the device
 // context.
 //
-// FromHandle gives a temporary object over a handle: good until the message now handled has been dealt with,
-// and it never frees the handle.
+// FromHandle returns a temporary object for a handle. It is valid until the current message has been handled and never
+// frees the handle.
 #pragma once
 
 #include <afx.h>
@@ -70,7 +70,7 @@ public:
     void DeflateRect(int x, int y) { ::InflateRect(this, -x, -y); }
     BOOL IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) { return ::IntersectRect(this, lpRect1, lpRect2); }
     BOOL UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) { return ::UnionRect(this, lpRect1, lpRect2); }
-    // Left not right of right, top not below bottom.
+    // Swaps coordinates so that left <= right and top <= bottom.
     void NormalizeRect() {
         if (left > right) std::swap(left, right);
         if (top > bottom) std::swap(top, bottom);
@@ -81,7 +81,7 @@ public:
 
 // ---- Drawing objects
 
-// Owns its handle: the destructor deletes the object.
+// Base class of drawing objects. Owns its handle: the destructor deletes the object.
 class AFX_API CGdiObject : public CObject {
     DECLARE_DYNAMIC(CGdiObject)
 public:
@@ -98,7 +98,7 @@ class AFX_API CPen : public CGdiObject {
     DECLARE_DYNAMIC(CPen)
 public:
     CPen();
-    // Throws a CResourceException if no such pen can be made.
+    // Throws a CResourceException if the pen cannot be created.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     ~CPen() override;
     static CPen* FromHandle(HPEN hPen);
@@ -110,7 +110,7 @@ class AFX_API CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 public:
     CBrush();
-    // Throws a CResourceException if no such brush can be made.
+    // Throws a CResourceException if the brush cannot be created.
     explicit CBrush(COLORREF crColor);
     ~CBrush() override;
     static CBrush* FromHandle(HBRUSH hBrush);
@@ -140,8 +140,8 @@ public:
 
 // ---- Device contexts
 
-// Owns its handle: the destructor deletes the device context. m_hAttribDC is what attributes are read from;
-// here always the same as m_hDC.
+// Owns its handle: the destructor deletes the device context. m_hAttribDC, from which attributes are read, is always
+// the same as m_hDC.
 class AFX_API CDC : public CObject {
     DECLARE_DYNAMIC(CDC)
 public:
@@ -156,14 +156,14 @@ public:
     BOOL CreateCompatibleDC(CDC* pDC);
     BOOL DeleteDC();
 
-    // Each gives the object that was there before, as a temporary one.
+    // Select an object and return the previous one as a temporary object.
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     CFont* SelectObject(CFont* pFont);
     CBitmap* SelectObject(CBitmap* pBitmap);
 
     int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
-    // Leaves the background colour as it was.
+    // Fill a rectangle. The background color is not changed.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
 };
@@ -180,8 +180,8 @@ private:
     HWND m_hWnd;
 };
 
-// The device context of a window's client area; a null window is the screen. Throws a CResourceException
-// without one.
+// The device context of a window's client area or, if pWnd is null, of the screen. Throws a CResourceException if there
+// is none.
 class AFX_API CClientDC : public CDC {
     DECLARE_DYNAMIC(CClientDC)
 public:

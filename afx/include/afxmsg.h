@@ -1,4 +1,4 @@
-// Message maps: which member function handles which message or command of a class.
+// Message maps, which assign member functions to messages, commands and notifications.
 //
 //   BEGIN_MESSAGE_MAP(CMyDialog, CDialog)
 //   ON_WM_TIMER()                                     void OnTimer(UINT_PTR nIDEvent)
@@ -6,8 +6,8 @@
 //   ON_MESSAGE(WM_APP, &CMyDialog::OnData)            LRESULT OnData(WPARAM wParam, LPARAM lParam)
 //   END_MESSAGE_MAP()
 //
-// A class with a map has DECLARE_MESSAGE_MAP() at its end. Of several entries for one message the first
-// counts; then the base class's. A handler of another signature does not compile.
+// A class with a message map has DECLARE_MESSAGE_MAP() at its end. The first entry for a message is used; messages
+// without an entry are passed to the map of the base class. A handler with a wrong signature does not compile.
 #pragma once
 
 #include <afx.h>
@@ -15,29 +15,29 @@
 class CCmdTarget;
 
 // Messages of the framework
-#define WM_INITIALUPDATE 0x0364 // to all descendants of a dialog, before OnInitDialog
-#define WM_COMMANDHELP 0x0365   // lParam: help context; non-zero: help was given
+#define WM_INITIALUPDATE 0x0364 // sent to all descendants of a dialog before OnInitDialog
+#define WM_COMMANDHELP 0x0365   // lParam: help context; a handler returns non-zero if it has shown help
 
 #define afx_msg // marks a message handler
 
 typedef void (CCmdTarget::*AFX_PMSG)();
 
-// The handler's signature: how the message's parameters become arguments.
+// Signatures of handlers, which define how the parameters of the message are converted to arguments.
 enum AfxSig : UINT {
     AfxSig_end = 0,
     AfxSig_vv,    // void ()
     AfxSig_lwl,   // LRESULT (WPARAM, LPARAM)
-    AfxSig_vw,    // void (UINT nID), the command's identifier
+    AfxSig_vw,    // void (UINT nID): the identifier of the command
     AfxSig_is,    // int (LPCREATESTRUCTA)
-    AfxSig_vwii,  // void (UINT, int, int), from the words of lParam
+    AfxSig_vwii,  // void (UINT, int, int): wParam and the words of lParam
     AfxSig_vwp,   // void (UINT, CPoint)
     AfxSig_bwsp,  // BOOL (UINT, short, CPoint)
     AfxSig_vwww,  // void (UINT, UINT, UINT)
     AfxSig_vt,    // void (UINT_PTR)
     AfxSig_vpos,  // void (WINDOWPOS*)
     AfxSig_bD,    // BOOL (CDC*)
-    AfxSig_vWl,   // the same, from lParam
-    AfxSig_vW,    // void (CWnd*)
+    AfxSig_vWl,   // void (CWnd*): the window in lParam
+    AfxSig_vW,    // void (CWnd*): the window in wParam
     AfxSig_vdrop, // void (HDROP)
     AfxSig_vdraw, // void (int, LPDRAWITEMSTRUCT)
     AfxSig_vmeas, // void (int, LPMEASUREITEMSTRUCT)
@@ -47,7 +47,7 @@ enum AfxSig : UINT {
 
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;
-    UINT nCode; // of a control notification; CN_COMMAND otherwise
+    UINT nCode; // of a notification; otherwise CN_COMMAND
     UINT nID;   // commands and notifications: from nID to nLastID
     UINT nLastID;
     UINT nSig;
@@ -56,12 +56,12 @@ struct AFX_MSGMAP_ENTRY {
 
 struct AFX_MSGMAP {
     const AFX_MSGMAP* pBaseMap;
-    const AFX_MSGMAP_ENTRY* lpEntries; // ends with AfxSig_end
+    const AFX_MSGMAP_ENTRY* lpEntries; // the last one has AfxSig_end
 };
 
 #define CN_COMMAND 0
 
-// The handler as the map keeps it. Only the dispatcher calls it, after turning it back by its signature.
+// Converts a handler to the type in message maps. The dispatcher converts it back by its signature before calling it.
 template <class Handler>
 AFX_PMSG AfxMessageHandler(Handler handler) {
 #pragma GCC diagnostic push
@@ -155,7 +155,7 @@ protected:                                                                      
 #define ON_WM_KEYDOWN() AFX_WM_KEY(WM_KEYDOWN, &ThisClass::OnKeyDown)
 #define ON_WM_KEYUP() AFX_WM_KEY(WM_KEYUP, &ThisClass::OnKeyUp)
 
-// What the parent of an owner-draw control gets; CWnd hands it to the control's object
+// Messages to the parent of an owner-draw control, which CWnd passes to the object of the control
 #define ON_WM_DRAWITEM()                                                                                     \
     AFX_WM_ENTRY(WM_DRAWITEM, AfxSig_vdraw, void (CWnd::*)(int, LPDRAWITEMSTRUCT), &ThisClass::OnDrawItem)
 #define ON_WM_MEASUREITEM()                                                                                  \

@@ -1,4 +1,4 @@
-// The framework's windows: all that a program with windows and dialogs needs.
+// Includes everything that a program with windows and dialogs needs.
 #pragma once
 
 #include <afx.h>

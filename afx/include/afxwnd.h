@@ -1,14 +1,14 @@
-// CCmdTarget and CWnd: an object with a message map, and one that represents a window.
+// CCmdTarget, an object with a message map, and CWnd, an object that represents a window.
 //
-// A CWnd and its window find each other by the permanent map, from Create, Attach or SubclassWindow until the
-// window is destroyed or Detach is called. FromHandle makes a temporary object for a window that has none:
-// good until the message now handled has been dealt with.
+// The permanent map of a thread connects CWnd objects and windows, from Create, Attach or SubclassWindow until the
+// window is destroyed or Detach is called. For a window without an object, FromHandle creates a temporary one, which is
+// valid until the current message has been handled.
 //
-// No exception leaves a window procedure: what a handler throws goes to CWinThread::ProcessWndProcException.
+// Exceptions never leave a window procedure: they are passed to CWinThread::ProcessWndProcException.
 //
-// Texts and records are the 8-bit ones (LPCREATESTRUCTA), also in a program that defines UNICODE. Members whose names
-// are macros of windows.h (GetWindowText) have another name there: they are inline, so that no name is missing at the
-// link.
+// Strings and structures are the 8-bit ones (LPCREATESTRUCTA), also in a program that defines UNICODE. Members whose
+// names are macros of windows.h (GetWindowText) have other names in such a program; they are inline, so that the linker
+// does not look for them.
 #pragma once
 
 #include <afxgdi.h>
@@ -20,7 +20,7 @@ class CDataExchange;
 class CFrameWnd;
 struct CCreateContext;
 
-// A virtual function has one name: the system's macro would give it another one where UNICODE is defined.
+// A virtual function must have one name, which the macro of windows.h would change in programs that define UNICODE.
 #undef DefWindowProc
 static inline LRESULT CALLBACK DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
 #ifdef UNICODE
@@ -42,14 +42,14 @@ public:
     ~CCmdTarget() override;
     static const AFX_MSGMAP messageMap;
 
-    // The last user has released the object: here deletes it.
+    // Called when the last user has released the object. Deletes it.
     virtual void OnFinalRelease();
 
-    // Runs the handler of a command (nCode CN_COMMAND) or notification, or only names it in pHandlerInfo if
-    // given. False: there isn't one.
+    // Calls the handler of a command (nCode is CN_COMMAND) or notification or, if pHandlerInfo is not null, stores it
+    // there. Returns false if there is no handler.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-    // The hourglass; calls nest.
+    // Show and hide the wait cursor. Calls can be nested.
     void BeginWaitCursor();
     void EndWaitCursor();
 
@@ -61,29 +61,32 @@ class AFX_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
     CWnd();
-    // Destroys the window if there still is one; the derived class no longer gets a message of that.
+    // Destroys the window if it still exists. The derived class does not receive messages for that.
     ~CWnd() override;
 
     HWND m_hWnd;
     HWND GetSafeHwnd() const { return m_hWnd; }
 
-    // ---- Object and window
+    // ---- Objects and windows
+    // Return the object of a window. Without one, FromHandle creates a temporary object and FromHandlePermanent returns
+    // null.
     static CWnd* FromHandle(HWND hWnd);
     static CWnd* FromHandlePermanent(HWND hWnd);
+    // Attach and detach a window without subclassing it. Attach returns false if hWndNew is null; Detach returns the
+    // window.
     BOOL Attach(HWND hWndNew);
     HWND Detach();
-    // The window's messages come to this object from now on. False: there is no such window, or the object
-    // has one.
+    // Attach a window and receive its messages. Return false if the window does not exist or the object has one
+    // already.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    // Gives the window its procedure back and returns the window.
+    // Restores the window's procedure, detaches the window and returns it.
     HWND UnsubclassWindow();
-    // For the look of an earlier system, which today's controls have by themselves: does nothing, returns
-    // TRUE.
+    // For compatibility: does nothing and returns TRUE. Controls have a 3D appearance by default.
     BOOL SubclassCtl3d(int nControlType);
 
-    // A child window (WS_CHILD is added; a frame has a Create of its own). A null class name is the framework's own:
-    // arrow, double clicks, no background. False: no window was made.
+    // Creates a child window; WS_CHILD is added. A null class name selects the framework's window class: arrow cursor,
+    // double clicks, no background. Returns false if the window cannot be created. Frames have their own Create.
     virtual BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
     BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
@@ -97,23 +100,25 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::PostMessageA(m_hWnd, message, wParam, lParam);
     }
-    // Down the tree if bDeep; without bOnlyPerm also to windows that have no object.
+    // Send a message to all child windows and, if bDeep, to their descendants; if bOnlyPerm, only to windows with a
+    // permanent object.
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
                                   BOOL bOnlyPerm = FALSE);
     static void SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
                                          BOOL bOnlyPerm);
-    // A message before it is dispatched; non-zero: it has been dealt with.
+    // Called before a message is dispatched. Return TRUE if it was handled.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     BOOL IsDialogMessage(MSG* pMsg) { return ::IsDialogMessageA(m_hWnd, pMsg); }
-    // Asks the permanent objects from the message's window up to hWndStop.
+    // Calls PreTranslateMessage of the permanent objects from the message's window up to hWndStop.
     static BOOL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
 
-    // ---- A loop of its own, until EndModalLoop. The result is that of the first such call; -1 if the window goes.
+    // ---- Modal loop
+    // Runs until EndModalLoop. Returns the argument of its first call, or -1 if the window is destroyed.
     int RunModalLoop();
     void EndModalLoop(int nResult);
 
     // ---- Data exchange
-    // False: a check has failed, and the user has been informed.
+    // Calls DoDataExchange. Returns false if a value is invalid; the user has then been informed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // ---- Text and style
@@ -129,12 +134,13 @@ public:
     int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_EXSTYLE)); }
-    // With nFlags also SetWindowPos of these flags, no move and no size. False: nothing was to change.
+    // Changes the style. If nFlags is not 0, also calls SetWindowPos with these flags, without moving or sizing the
+    // window. Returns false if the style was not changed.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     CFont* GetFont() const;
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
 
-    // ---- Place and look
+    // ---- Position and visibility
     void MoveWindow(const RECT& r, BOOL bRepaint = TRUE) {
         ::MoveWindow(m_hWnd, r.left, r.top, r.right - r.left, r.bottom - r.top, bRepaint);
     }
@@ -148,7 +154,7 @@ public:
     void ClientToScreen(LPRECT lpRect) const;
     void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const;
-    // In the middle of pAlternateOwner, or of the owner, and wholly on the monitor.
+    // Centers the window over pAlternateOwner or, if it is null, its owner. It is kept completely on the monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
@@ -158,10 +164,11 @@ public:
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
     void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
 
-    // ---- Family
+    // ---- Related windows
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    // The outermost frame window around this one, owners included; null if there isn't one.
+    // Returns the outermost frame window that contains or owns this one, or null.
     CFrameWnd* GetTopLevelFrame() const;
+    // Returns the nearest frame window that contains this one, or null.
     CFrameWnd* GetParentFrame() const;
     virtual BOOL IsFrameWnd() const;
     CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
@@ -177,41 +184,43 @@ public:
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
-    // A null caption is the application's name.
+    // If lpszCaption is null, the caption is the name of the application.
     int MessageBox(LPCSTR lpszText, LPCSTR lpszCaption = nullptr, UINT nType = MB_OK) {
         return ShowMessage(lpszText, lpszCaption, nType);
     }
 
-    // Destroys the window if there is one, which ends in PostNcDestroy; otherwise calls that.
+    // Destroys the window, which ends with PostNcDestroy; without a window calls PostNcDestroy.
     void OnFinalRelease() override;
-    // Help for this window: asks it and its parents by WM_COMMANDHELP, the nearest first, until one gives
-    // help.
+    // Shows help: sends WM_COMMANDHELP to this window and its parents until one returns non-zero.
     afx_msg void OnHelp();
 
 protected:
-    // Where the procedure is kept that the window had before it was this object's; null there: the system's
+    // Returns the address of the variable with the window's original procedure. If that is null, it is the system's
     // default.
     virtual WNDPROC* GetSuperWndProcAddr();
+    // Called before the window is created; can change cs. Return FALSE to cancel.
     virtual BOOL PreCreateWindow(CREATESTRUCTA& cs);
+    // Called before the object receives messages of the window.
     virtual void PreSubclassWindow();
 
-    // Result 0: the command or notification was not handled.
+    // Handle commands and notifications. Return 0 if not handled.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    // The procedure that the window had before.
+    // Calls the window's original procedure.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    // A message about this window that its parent has got (owner drawing). Non-zero: handled.
+    // Called for a message that the parent received about this window, such as owner drawing. Return TRUE if handled.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    // The last call for a window, which the object no longer has. An object on the heap may delete itself here.
+    // Called last, when the window has been destroyed and detached. An object on the heap can delete itself here.
     virtual void PostNcDestroy();
+    // Override to exchange data between members and controls; see afxdialog.h.
     virtual void DoDataExchange(CDataExchange* pDX);
 
-    // The message now handled goes to DefWindowProc, its parameters as they came.
+    // Passes the current message to DefWindowProc, with its original parameters.
     LRESULT Default();
 
-    // Handlers for ON_WM_... of a derived class to call; each is Default.
+    // Base implementations for handlers of ON_WM_...; each calls Default.
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg int OnNcCreate(LPCREATESTRUCTA lpCreateStruct);
     afx_msg void OnDestroy();
@@ -228,53 +237,55 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
 
-    // Owner drawing: to the permanent object of the control, else Default.
+    // Pass owner-draw messages to the permanent object of the control; without one they call Default.
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     afx_msg int OnCompareItem(int nIDCtl, LPCOMPAREITEMSTRUCT lpCompareItemStruct);
     afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
     afx_msg void OnNcDestroy();
 
-    // For DoModal: from before the window is made until it is gone. The owner is disabled meanwhile.
+    // Implements DoModal: creates the window with make, runs the loop and destroys the window. The owner is disabled
+    // meanwhile.
     template <class Make>
     int RunModal(CWnd* pParentWnd, Make make);
-    // Hides the window, gives the owner back and ends the loop; a window that is not modal is destroyed.
+    // Hides the window, enables the owner and ends the loop. A window that is not modal is destroyed.
     void CloseModal(int nResult);
-    bool IsModal() const; // and not ended
+    bool IsModal() const; // false after the loop was ended
 
-    // Where CenterWindow puts a window of that size; screen coordinates.
+    // Returns the position at which CenterWindow places a window of that size, in screen coordinates.
     CPoint GetCenteredPlace(CSize size, const CWnd* pAlternateOwner = nullptr) const;
 
     DECLARE_MESSAGE_MAP()
 
 private:
     friend class AfxWindowLink;
-    // A loop begins as running, at the latest with RunModalLoop: EndModalLoop may come before that.
+    // EndModalLoop can be called before RunModalLoop.
     enum class Modal { none, running, ended };
     Modal m_modal;
     int m_nModalResult;
-    class AfxModalOwner* m_pModalOwner; // while a window is modal and not ended
+    class AfxModalOwner* m_pModalOwner; // while the window is modal
     WNDPROC m_pfnSuper;
     int ShowMessage(LPCSTR lpszText, LPCSTR lpszCaption, UINT nType);
     bool NotifyChild(HWND hWndChild, LRESULT* pResult);
 };
 
-// The procedure of all windows that have an object. For a window without one the message goes to the
-// procedure of AfxRegisterSuperWndProc for its class, else to that of the class itself.
+// Returns the window procedure of all windows that have an object. Messages for a window without an object are passed
+// to the procedure that AfxRegisterSuperWndProc has registered for its class, else to that of the class.
 AFX_API WNDPROC AfxGetAfxWndProc();
 
-// Names the procedure with which a window continues that has AfxGetAfxWndProc() but no object: for window
-// classes that decide window by window whether to make one.
+// Registers the procedure for windows of a class that have the procedure AfxGetAfxWndProc() but no object. For window
+// classes that create an object for some of their windows only.
 AFX_API void AfxRegisterSuperWndProc(ATOM atomClass, WNDPROC pfnSuper);
 
-// The next window made in this thread gets pWnd as its object before its first message. AfxUnhookWindowCreate
-// takes that back and says whether it had been used.
+// AfxHookWindowCreate makes pWnd the object of the next window that is created on this thread, before its first
+// message. AfxUnhookWindowCreate ends that and returns true if a window was created.
 AFX_API void AfxHookWindowCreate(CWnd* pWnd);
 AFX_API BOOL AfxUnhookWindowCreate();
 
-// A window class of these properties, registered once; its name lives as long as the process.
+// Registers a window class, unless one with these properties exists, and returns its name, which is valid until the
+// process ends.
 AFX_API LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                                    HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 
-// Sets the text only if it differs, so that nothing is repainted needlessly.
+// Sets the text if it is different, so that an unchanged window is not repainted.
 AFX_API void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew);

@@ -1,4 +1,4 @@
-// CWinThread and CWinApp: the message loop, and what a program is.
+// CWinThread and CWinApp: message loop and application object.
 
 #include "modal.h"
 #include "thread_state.h"
@@ -13,7 +13,7 @@ namespace {
 
 CWinApp* g_app = nullptr;
 
-// The file's name without folder and ending.
+// Returns the file name without folder and extension.
 CString ProgramName() {
     char path[MAX_PATH] = "";
     ::GetModuleFileNameA(nullptr, path, MAX_PATH);
@@ -60,9 +60,10 @@ int CWinThread::Run() {
 }
 
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
-    if (pMsg->message == WM_PAINT) ::ValidateRect(pMsg->hwnd, nullptr); // or it would come again at once
+    // Otherwise the message would be sent again at once.
+    if (pMsg->message == WM_PAINT) ::ValidateRect(pMsg->hwnd, nullptr);
     AfxThreadState& state = AfxThreadState::Get();
-    // The message box would uncover the window and so bring the next one.
+    // Closing the message box would repaint the window and so cause the next exception.
     const bool painting = pMsg->message == WM_PAINT || pMsg->message == WM_DRAWITEM;
     const bool again = painting && !state.paintFailures.insert(pMsg->hwnd).second;
     if (!again && !state.reporting && !e->IsKindOf(RUNTIME_CLASS(CUserException))) {

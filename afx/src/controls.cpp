@@ -19,7 +19,7 @@ void NeedCommonControls(DWORD classes) {
     ::InitCommonControlsEx(&init);
 }
 
-// The messages of owner drawing, as calls of a list's or combo's virtuals.
+// Converts owner-draw messages to calls of the virtual functions of a list box or combo box.
 template <class Control>
 BOOL CallOwnerDraw(Control* control, UINT message, LPARAM lParam, LRESULT* pResult) {
     switch (message) {
@@ -42,7 +42,7 @@ BOOL CallOwnerDraw(Control* control, UINT message, LPARAM lParam, LRESULT* pResu
     return TRUE;
 }
 
-// The text of an item into a string, with the control's messages for length and text.
+// Copies the text of an item. The messages for length and text are those of the control.
 void GetItemText(HWND hWnd, UINT lengthMessage, UINT textMessage, int index, CString& text) {
     text.Empty();
     const LRESULT length = ::SendMessageA(hWnd, lengthMessage, static_cast<WPARAM>(index), 0);
@@ -124,7 +124,7 @@ BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nI
 int CTabCtrl::InsertItem(int nItem, LPCSTR lpszItem) {
     TCITEMA item = {};
     item.mask = TCIF_TEXT;
-    item.pszText = const_cast<LPSTR>(lpszItem); // only read by this message
+    item.pszText = const_cast<LPSTR>(lpszItem); // not modified by this message
     return static_cast<int>(
         SendMessage(TCM_INSERTITEMA, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(&item)));
 }

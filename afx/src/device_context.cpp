@@ -57,7 +57,7 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
 }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
-    // An opaque text of no characters fills without a brush to be made.
+    // An empty opaque text fills the rectangle without creating a brush.
     const COLORREF before = ::SetBkColor(m_hDC, clr);
     ::ExtTextOutA(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
     ::SetBkColor(m_hDC, before);

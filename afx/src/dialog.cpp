@@ -50,7 +50,7 @@ BOOL CDialog::CreateFromTemplate(HWND hWndParent) {
 int CDialog::DoModal() {
     return RunModal(m_pParentWnd, [this](HWND owner) {
         if (!CreateFromTemplate(owner)) return false;
-        // One that has ended already, in OnInitDialog, is not shown.
+        // A dialog that was ended in OnInitDialog is not shown.
         if (IsModal()) ShowWindow(SW_SHOWNORMAL);
         return true;
     });
@@ -65,7 +65,7 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     try {
         return OnInitDialog();
     } catch (...) {
-        EndDialog(-1); // half a dialog is not shown
+        EndDialog(-1); // an incomplete dialog is not shown
         throw;
     }
 }

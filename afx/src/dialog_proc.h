@@ -1,5 +1,5 @@
-// The dialog procedure of all windows that are made from a template: it leaves everything to the object's
-// message map.
+// The dialog procedure of all windows that are created from a template. Messages are handled by the object's message
+// map.
 #pragma once
 
 #include <afx.h>

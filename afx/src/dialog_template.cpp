@@ -1,4 +1,4 @@
-// Reads the head of a dialog template, in the plain and the extended form.
+// Reads dialog templates in the standard and the extended format.
 
 #include "dialog_template.h"
 
@@ -28,7 +28,7 @@ void MakePageStyle(DWORD& style, DWORD& exStyle) {
 
 } // namespace
 
-// Moves through 16-bit words; past the end everything is 0.
+// Reads 16-bit words. Past the end all words are 0.
 class AfxDialogTemplate::Reader {
 public:
     Reader(const BYTE* data, std::size_t size) : m_data(data), m_left(size) {}
@@ -50,13 +50,13 @@ public:
             wide += static_cast<wchar_t>(ch);
         CString text;
         const int length = static_cast<int>(wide.size());
-        const int room = length * 2; // enough for two-byte code pages
+        const int room = length * 2; // enough for double-byte code pages
         LPSTR buffer = text.GetBufferSetLength(room);
         text.ReleaseBuffer(
             ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, room, nullptr, nullptr));
         return text;
     }
-    // A menu or window class: a number after 0xFFFF, or a text.
+    // A menu or window class: 0xFFFF and a number, or a string.
     void SkipNameOrNumber() {
         const WORD first = Word();
         if (first == 0xFFFF) {
@@ -67,7 +67,7 @@ public:
         }
     }
 
-    // The class of a control is text here, as the resource compiler writes it.
+    // The class of a control is a string, as the resource compiler writes it.
     bool TakeText(const char* wanted) {
         const Reader before = *this;
         if (Word() == 0xFFFF) {
@@ -179,7 +179,7 @@ std::vector<BYTE> AfxDialogTemplate::AsPage(bool scrollingCombos) const {
     MakePageStyle(style, exStyle);
     std::memcpy(&copy[styleAt], &style, sizeof style);
     std::memcpy(&copy[exStyleAt], &exStyle, sizeof exStyle);
-    // The sheet determines its place; the size after the place stays.
+    // The sheet determines the position; the size, which follows, is kept.
     const std::size_t placeAt = (IsExtended() ? sizeof(ExtendedHead) : 2 * sizeof(DWORD)) + sizeof(WORD);
     std::memset(&copy[placeAt], 0, 2 * sizeof(WORD));
     if (scrollingCombos && !IsExtended()) ScrollCombos(copy);

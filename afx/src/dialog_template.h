@@ -1,4 +1,4 @@
-// A dialog template of the module chain, read once: its title, its font, and what it is as a page of a sheet.
+// A dialog template resource: reads its title and font, and converts it for a page of a sheet.
 #pragma once
 
 #include <afx.h>
@@ -7,17 +7,18 @@
 
 class AfxDialogTemplate {
 public:
-    // lpszName: a number below 0x10000, or a name. Without a module it is searched along the chain.
+    // lpszName is a name, or a number below 0x10000. If the module is null, the template is searched for in the list of
+    // modules.
     explicit AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule = nullptr);
 
     bool IsFound() const { return m_size != 0; }
     HINSTANCE Module() const { return m_module; }
     LPCDLGTEMPLATEA Get() const { return reinterpret_cast<LPCDLGTEMPLATEA>(m_data); }
     const CString& Title() const { return m_title; }
-    // The font of the template, or that of dialogs in general if it names none.
+    // Returns the font of the template, or the default font of dialogs if it has none.
     LOGFONTA Font() const;
-    // The same dialog as a child without frame and caption, hidden and enabled, whatever its template says.
-    // scrollingCombos: the edit fields of its combo boxes scroll (plain templates only).
+    // Returns the template of the same dialog as a child window: without frame and caption, hidden, enabled. If
+    // scrollingCombos is set, the edit fields of combo boxes scroll (not in extended templates).
     std::vector<BYTE> AsPage(bool scrollingCombos) const;
 
 private:
@@ -27,7 +28,7 @@ private:
     void ScrollCombos(std::vector<BYTE>& copy) const;
 
     HINSTANCE m_module;
-    const BYTE* m_data; // in the module; stays as long as that does
+    const BYTE* m_data; // valid as long as the module is loaded
     std::size_t m_size;
     CString m_title;
     int m_points = 0;

@@ -1,4 +1,4 @@
-// What exceptions say to a person: texts of the string table.
+// Messages of exceptions, from the string table.
 
 #include <afxapp.h>
 #include <afxres.h>

@@ -1,4 +1,4 @@
-// CFileDialog over the system's common dialogs.
+// CFileDialog, implemented with the system's common dialogs.
 
 #include <afxdlgs.h>
 

@@ -1,4 +1,4 @@
-// A handler as a message map keeps it, turned back into a function of its own signature.
+// Converts a handler from a message map to a function with its own signature.
 #pragma once
 
 #include <afxmsg.h>

@@ -1,4 +1,4 @@
-// Message boxes and the texts for them.
+// Message boxes and formatted strings.
 
 #include <afxapp.h>
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-// The window that a box is to appear in front of.
+// Returns the owner for a message box.
 HWND BoxOwner() {
     HWND active = ::GetActiveWindow();
     if (active != nullptr) return active;

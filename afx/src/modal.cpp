@@ -1,4 +1,4 @@
-// Modal loops and the messages that they take.
+// Modal loops.
 
 #include "modal.h"
 #include "thread_state.h"
@@ -41,7 +41,7 @@ int CWnd::RunModalLoop() {
     while (m_modal == Modal::running) {
         int exitCode = 0;
         if (AfxPumpOneMessage(exitCode)) continue;
-        // The end of the program: for the loops around this one too.
+        // Ends the outer loops too.
         ::PostQuitMessage(exitCode);
         EndModalLoop(-1);
     }
@@ -53,7 +53,7 @@ void CWnd::EndModalLoop(int nResult) {
     if (m_modal != Modal::running) return;
     m_nModalResult = nResult;
     m_modal = Modal::ended;
-    // The loop may be waiting for a message.
+    // Wakes up the loop, which may be waiting for a message.
     ::PostThreadMessageA(::GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
@@ -68,5 +68,5 @@ void CWnd::CloseModal(int nResult) {
     }
     if (m_modal == Modal::running && m_pModalOwner != nullptr) m_pModalOwner->Release();
     EndModalLoop(nResult);
-    ::ShowWindow(m_hWnd, SW_HIDE); // the loop may have something to finish before the window goes
+    ::ShowWindow(m_hWnd, SW_HIDE); // the window is destroyed when the loop has ended
 }

@@ -1,19 +1,19 @@
-// What a modal window does to its owner: disabled from construction, enabled again by Release or the
-// destructor.
+// The owner of a modal window: disabled by the constructor, enabled by Release or the destructor.
 #pragma once
 
 #include <afxwnd.h>
 
 class AfxModalOwner {
 public:
-    // The top-level window of pParentWnd, else the application's main window, else none.
+    // The owner is the top-level window of pParentWnd, else the application's main window, else there is none.
     explicit AfxModalOwner(CWnd* pParentWnd);
     ~AfxModalOwner() { Release(); }
     AfxModalOwner(const AfxModalOwner&) = delete;
     AfxModalOwner& operator=(const AfxModalOwner&) = delete;
 
     HWND Window() const { return m_hWnd; }
-    // Before the modal window goes: the system then activates the owner, and not another program's window.
+    // Enables the owner. Must be called before the modal window is destroyed, so that the system activates the owner
+    // and not a window of another program.
     void Release();
 
 private:
@@ -21,7 +21,7 @@ private:
     bool m_bDisabled;
 };
 
-// make(owner's window) makes and shows the window: false if it could not.
+// make(owner's window) creates and shows the window and returns false on failure.
 template <class Make>
 int CWnd::RunModal(CWnd* pParentWnd, Make make) {
     AfxModalOwner owner(pParentWnd);
@@ -39,6 +39,6 @@ int CWnd::RunModal(CWnd* pParentWnd, Make make) {
     return m_nModalResult;
 }
 
-// Takes one message from the queue, pretranslates and dispatches it. False: it was WM_QUIT, whose code is in
+// Waits for a message, calls PreTranslateMessage and dispatches it. Returns false for WM_QUIT and stores its code in
 // nExitCode.
 bool AfxPumpOneMessage(int& nExitCode);

@@ -1,4 +1,4 @@
-// The chain of modules that resources are looked for in.
+// The list of modules in which resources are searched for.
 
 #include <afxext.h>
 
@@ -9,7 +9,7 @@ IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
 namespace {
 
-// The latest module first.
+// Sorted from the latest to the first module.
 std::vector<CDynLinkLibrary*>& Libraries() {
     static std::vector<CDynLinkLibrary*> libraries;
     return libraries;
@@ -23,7 +23,7 @@ HINSTANCE OwnModule() {
     return module;
 }
 
-// Asks the modules in the order of search until one agrees; returns that one, or null.
+// Returns the first module in search order for which the condition is true, or null.
 template <class Has>
 HINSTANCE FindModule(Has has) {
     if (has(AfxGetInstanceHandle())) return AfxGetInstanceHandle();
@@ -54,7 +54,7 @@ int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf) {
 }
 
 BOOL CString::ReadResource(UINT nID) {
-    // Strings of a resource have no length to ask for: a full buffer asks for a larger one.
+    // The length of a string resource cannot be queried: a full buffer means that a larger one is needed.
     int length = 0;
     int room = 256;
     do {

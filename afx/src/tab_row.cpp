@@ -1,4 +1,4 @@
-// CTabRow: the system's tab control, kept as high as its tabs.
+// CTabRow: a tab control whose height is that of its rows of tabs.
 
 #include <afxdlgs.h>
 
@@ -16,7 +16,7 @@ CTabRow::~CTabRow() = default;
 int CTabRow::GetHeight() const {
     CRect tab;
     if (!GetItemRect(0, &tab)) return 0;
-    // The tab in front rises above its row by two pixels.
+    // The selected tab is two pixels higher than its row.
     constexpr int kEdge = 2;
     return static_cast<int>(SendMessage(TCM_GETROWCOUNT)) * tab.Height() + 2 * kEdge;
 }
@@ -28,11 +28,11 @@ void CTabRow::OnWindowPosChanging(WINDOWPOS* lpwndpos) {
 
 void CTabRow::OnSize(UINT, int cx, int cy) {
     Default();
-    // Another width can have made another number of rows.
+    // The number of rows can depend on the width.
     if (cy != GetHeight()) SetWindowPos(nullptr, 0, 0, cx, 0, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// A click brings the focus here past the dialog's own rules: a push button that had it would stay the default.
+// A click sets the focus without the dialog manager: a push button that had the focus would remain the default button.
 void CTabRow::OnSetFocus(CWnd*) {
     Default();
     GetParent()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(m_hWnd), TRUE);

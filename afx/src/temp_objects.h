@@ -1,5 +1,5 @@
-// The temporary objects that FromHandle gives: made in order, and released down to a mark, so that what a
-// message's handling has made goes when that message has been dealt with.
+// The temporary objects that FromHandle returns, as a stack: the objects that were created while a message was handled
+// are released afterwards.
 #pragma once
 
 #include <afx.h>
@@ -11,7 +11,7 @@
 
 class AfxTempObjects {
 public:
-    // The object of class T over the handle; made with the member that holds the handle set by `set`.
+    // Returns the object of class T for the handle. A new object gets the handle by set(object).
     template <class T, class Handle, class Set>
     T* Get(Handle handle, Set set) {
         const Key key(&kTypeTag<T>, handle);
@@ -44,7 +44,7 @@ private:
     };
     template <class T>
     struct Of : Entry {
-        ~Of() override { object.Detach(); } // the handle is not the object's to free
+        ~Of() override { object.Detach(); } // temporary objects do not own their handles
         T object;
     };
 

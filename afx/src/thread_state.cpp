@@ -1,11 +1,11 @@
-// The state's place in each thread, and the library's entry, which frees it when a thread ends.
+// Storage of the state for each thread, and DllMain, which frees it when a thread ends.
 
 #include "thread_state.h"
 
 namespace {
 
-// Not thread_local: objects of the program may still ask for the state while the process ends, after those
-// are gone.
+// Not thread_local: objects of the program can still use the state while the process ends, after thread_local objects
+// have been destroyed.
 const DWORD kSlot = ::TlsAlloc();
 
 } // namespace

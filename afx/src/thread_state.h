@@ -1,4 +1,4 @@
-// What the framework knows of each thread that has windows.
+// State of the framework for each thread with windows.
 #pragma once
 
 #include "temp_objects.h"
@@ -11,21 +11,21 @@
 struct AfxThreadState {
     std::unordered_map<HWND, CWnd*> windows; // the permanent map
     AfxTempObjects temps;
-    MSG lastMessage{}; // the message now handled, for Default
-    int procDepth = 0; // window procedures now running
+    MSG lastMessage{}; // the current message, for Default
+    int procDepth = 0; // nesting depth of window procedures
     CWnd* windowInCreation = nullptr;
     HHOOK createHook = nullptr;
     CWinThread* thread = nullptr;
-    bool reporting = false;       // an exception's message box is up
-    std::set<HWND> paintFailures; // windows that have reported an exception of their painting
-    HWND lastMeasured = nullptr;  // the control whose row was last asked for
+    bool reporting = false;       // the message box of an exception is open
+    std::set<HWND> paintFailures; // windows whose exceptions while painting were reported
+    HWND lastMeasured = nullptr;  // the control that was last asked for the size of a row
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
 
     static AfxThreadState& Get();
 };
 
-// Releases the temporary objects that are made while it lives.
+// Guard that releases the temporary objects that were created during its lifetime.
 class AfxTempScope {
 public:
     explicit AfxTempScope(AfxThreadState& state) : m_state(state), m_mark(state.temps.Mark()) {}

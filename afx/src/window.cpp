@@ -1,4 +1,4 @@
-// CWnd: handles and objects, creation and end, family, place.
+// CWnd: windows and objects, creation and destruction, related windows, position.
 
 #include "thread_state.h"
 #include "window_link.h"
@@ -22,7 +22,7 @@ CWnd::~CWnd() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();
 }
 
-// ---- Object and window
+// ---- Objects and windows
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd) {
     const auto& windows = AfxThreadState::Get().windows;
@@ -64,7 +64,7 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
 HWND CWnd::UnsubclassWindow() {
     WNDPROC* super = GetSuperWndProcAddr();
     ::SetWindowLongPtrA(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
-    m_pfnSuper = nullptr; // one that the class shares stays for its other objects
+    m_pfnSuper = nullptr; // a procedure shared by the class is kept for its other objects
     return Detach();
 }
 
@@ -76,7 +76,7 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
     return &m_pfnSuper;
 }
 
-// ---- Creation and end
+// ---- Creation and destruction
 
 BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                   CWnd* pParentWnd, UINT nID, CCreateContext* pContext) {
@@ -122,8 +122,8 @@ void CWnd::PreSubclassWindow() {}
 BOOL CWnd::DestroyWindow() {
     if (m_hWnd == nullptr) return FALSE;
     HWND hWnd = m_hWnd;
-    // With the framework's procedure the object leaves the map at the window's last message, and may be gone
-    // then.
+    // With the framework's procedure, the object is removed from the map at the window's last message and can then be
+    // deleted.
     const bool told =
         FromHandlePermanent(hWnd) == this &&
         reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(hWnd, GWLP_WNDPROC)) == AfxGetAfxWndProc();
@@ -182,7 +182,7 @@ BOOL CALLBACK SendToDescendant(HWND window, LPARAM lParam) {
 
 } // namespace
 
-// The system lists the windows of one parent at once, which costs half of asking each for the next.
+// EnumChildWindows takes half the time of calling GetWindow for each child.
 void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
                                     BOOL bOnlyPerm) {
     const MessageToDescendants send = {hWnd, message, wParam, lParam, bDeep, bOnlyPerm};
@@ -254,7 +254,7 @@ void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew) {
     ::SetWindowTextA(hWndCtrl, wanted);
 }
 
-// ---- Place
+// ---- Position
 
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
     HWND after = pWndInsertAfter != nullptr ? pWndInsertAfter->m_hWnd : nullptr;
@@ -293,7 +293,7 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
     ::SetWindowPos(m_hWnd, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// ---- Family
+// ---- Related windows
 
 BOOL CWnd::IsFrameWnd() const {
     return FALSE;
@@ -335,7 +335,7 @@ LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackgrou
     CString name;
     name.Format("Afx:%x:%p:%p:%p", nClassStyle, static_cast<void*>(hCursor),
                 static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
-    static std::set<std::string> names; // what is handed out stays
+    static std::set<std::string> names; // returned pointers remain valid
     LPCSTR kept = names.insert(static_cast<LPCSTR>(name)).first->c_str();
     HINSTANCE instance = AfxGetInstanceHandle();
     WNDCLASSA found;

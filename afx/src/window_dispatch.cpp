@@ -1,4 +1,4 @@
-// CWnd's way from a message to a handler: message maps, commands, owner drawing, and the default.
+// CWnd: dispatches messages to handlers: message maps, commands, owner drawing, default handling.
 
 #include "handler_as.h"
 #include "thread_state.h"
@@ -39,7 +39,7 @@ Struct* RecordOf(LPARAM lParam) {
     return reinterpret_cast<Struct*>(lParam);
 }
 
-// Calls a handler without result; its message's result is 0.
+// Calls a handler without a result. The result of the message is 0.
 template <class... Parameters, class... Arguments>
 LRESULT Call(CWnd* wnd, AFX_PMSG pfn, Arguments... arguments) {
     (wnd->*HandlerAs<void (CWnd::*)(Parameters...)>(pfn))(arguments...);
@@ -104,7 +104,7 @@ LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
-    if (OnWndMsg(message, wParam, lParam, &result)) return result; // this object may be gone now
+    if (OnWndMsg(message, wParam, lParam, &result)) return result; // this object can have been deleted
     return DefWindowProc(message, wParam, lParam);
 }
 
@@ -117,7 +117,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     const AFX_MSGMAP_ENTRY* entry = FindMessage(GetMessageMap(), message);
     if (entry == nullptr) return FALSE;
     *pResult = CallHandler(this, *entry, wParam, lParam);
-    // A wheel that was not used goes on to the parent, as by default.
+    // An unhandled wheel message is passed to the parent, as by default.
     return entry->nSig != AfxSig_bwsp || *pResult != 0;
 }
 
@@ -133,7 +133,7 @@ LRESULT CWnd::Default() {
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    // A menu's and an accelerator's command have no control; the high word only tells the two apart.
+    // Commands of menus and accelerators have no control; the high word only distinguishes the two.
     const int code = lParam != 0 ? HIWORD(wParam) : CN_COMMAND;
     return OnCmdMsg(LOWORD(wParam), code, nullptr, nullptr);
 }
@@ -158,7 +158,8 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if (lpDrawItemStruct->CtlType == ODT_MENU || !NotifyChild(lpDrawItemStruct->hwndItem, &result)) Default();
 }
 
-// A list that is filled asks for each item, and the search for a child is slow: the last one is tried first.
+// A list that is being filled sends a message for each item, and finding a child is slow: the last one is checked
+// first.
 static HWND MeasuredControl(HWND parent, int id) {
     HWND& last = AfxThreadState::Get().lastMeasured;
     if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent)
@@ -167,7 +168,7 @@ static HWND MeasuredControl(HWND parent, int id) {
 }
 
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    // The only one of the four records that does not name the window.
+    // The only one of the four structures without the window's handle.
     LRESULT result = 0;
     if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(MeasuredControl(m_hWnd, nIDCtl), &result))
         Default();

@@ -1,11 +1,11 @@
-// The tie between a window and its object, for the parts of the framework that make it.
+// Connects windows and objects; for the parts of the framework that create windows.
 #pragma once
 
 #include <afxwnd.h>
 
 class AfxWindowLink {
 public:
-    // Makes the object that of the window, and the framework's procedure the window's.
+    // Attaches the window to the object and subclasses it with the framework's procedure.
     static void Subclass(CWnd* wnd, HWND hWnd);
     static LRESULT Call(CWnd* wnd, UINT message, WPARAM wParam, LPARAM lParam) {
         return wnd->WindowProc(message, wParam, lParam);
@@ -13,8 +13,8 @@ public:
     static void PostNcDestroy(CWnd* wnd) { wnd->PostNcDestroy(); }
 };
 
-// From creation to end of the block: the next window made is the object's. If none was made, the object
-// learns of it by PostNcDestroy, as after a window that was made and has gone; it may be deleted then.
+// Guard that attaches the next created window to the object. If no window is created, the destructor calls
+// PostNcDestroy, as if a window had been created and destroyed; the object can delete itself then.
 class AfxWindowCreation {
 public:
     explicit AfxWindowCreation(CWnd* wnd) : m_wnd(wnd) { AfxHookWindowCreate(wnd); }

@@ -1,4 +1,4 @@
-// The one window procedure of all windows that have an object, and how a new window gets its object before
+// The window procedure of all windows that have an object, and the hook that attaches a new window to its object before
 // its first message.
 
 #include "thread_state.h"
@@ -29,7 +29,7 @@ WNDPROC ProcedureWithoutObject(HWND hWnd) {
     return proc != nullptr && proc != AfxGetAfxWndProc() ? proc : ::DefWindowProcA;
 }
 
-// Keeps the message that is being handled, for Default.
+// Guard that stores the current message for Default.
 class CurrentMessage {
 public:
     CurrentMessage(AfxThreadState& state, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
@@ -53,7 +53,7 @@ private:
     MSG m_before;
 };
 
-// An exception that is not the framework's, turned into one, so that there is one way to report it.
+// Wraps an exception that is not a CException, so that all exceptions are reported in the same way.
 class UnexpectedException : public CException {
 public:
     explicit UnexpectedException(LPCSTR text) : CException(FALSE), m_text(text) {}
@@ -110,7 +110,7 @@ LRESULT CALLBACK CreateHook(int code, WPARAM wParam, LPARAM lParam) {
     HHOOK hook = state.createHook;
     if (code == HCBT_CREATEWND && state.windowInCreation != nullptr) {
         CWnd* wnd = std::exchange(state.windowInCreation, nullptr);
-        // The children of the new window have no business here.
+        // Children of the new window are not attached.
         ::UnhookWindowsHookEx(std::exchange(state.createHook, nullptr));
         AfxWindowLink::Subclass(wnd, reinterpret_cast<HWND>(wParam));
     }

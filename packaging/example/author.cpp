@@ -1,4 +1,4 @@
-// Prints who wrote a document: a program that reads files and needs neither the sheets nor a drawing database.
+// Prints the author of a document: a program that uses neither the sheets nor a drawing database.
 #include <cstdio>
 
 #include "orlo/summary/ole_summary.h"

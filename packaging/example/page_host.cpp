@@ -1,5 +1,5 @@
-// A host with a page of its own over a line: the page shows the pen's dash scale and writes what is typed. It types by itself,
-// so that the program can be tried unattended: it ends with 0 if the line has received what was typed.
+// A host with a custom page, which edits the dash scale of a line. For an unattended test the page types a value by
+// itself, and the program returns 0 if the line has that value afterwards.
 #include <afxwin.h>
 #include <drawcore/application.h>
 #include <drawcore/drawing.h>
@@ -42,7 +42,7 @@ private:
     double m_scale = 0;
 };
 
-// The drawing owns the line.
+// Adds a line to the drawing, which owns it. Returns null on failure.
 static GraphicStruct* AddLine(DrawingStruct* drawing) {
     orlo::host::OwnedGraphic line(GraphicNewEx(kGraphicVertices, 0, 1));
     for (const double x : {0.0, 10.0}) {
@@ -56,7 +56,7 @@ static GraphicStruct* AddLine(DrawingStruct* drawing) {
 
 int main() {
     CWinApp application("Host");
-    auto* frame = new CFrameWnd; // goes with its window
+    auto* frame = new CFrameWnd; // deletes itself with its window
     if (!frame->Create(nullptr, "Host")) return 2;
     application.m_pMainWnd = frame;
     PropPageInit();
@@ -67,7 +67,7 @@ int main() {
     AppSetCurrentDrawing(drawing);
     CGraphicPropertySheet* sheet =
         InitGraphicPropertySheet(frame, nullptr, drawing, DrawingGetRoot(drawing), kAllGraphics);
-    auto* page = new CScalePage; // goes with the sheet
+    auto* page = new CScalePage; // deleted by the sheet
     sheet->AddPage(page);
     sheet->SetActivePage(page);
     const auto code = sheet->DoModal();

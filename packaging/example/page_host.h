@@ -1,4 +1,4 @@
-// Numbers of the page's dialog template.
+// Identifiers of the page's dialog template.
 #pragma once
 
 #define IDD_SCALE_PAGE 100

@@ -1,5 +1,5 @@
 # Orlo for vcpkg, as an overlay port: vcpkg install orlo --overlay-ports=packaging --triplet x64-mingw-dynamic
-# The sources are those that this folder is part of. Builds the libraries only; the zip of ./run package has the programs.
+# Builds the sources that contain this folder, and the libraries only; the zip of ./run package contains the programs.
 
 get_filename_component(SOURCE_PATH "${CMAKE_CURRENT_LIST_DIR}/../.." ABSOLUTE)
 vcpkg_cmake_configure(SOURCE_PATH "${SOURCE_PATH}" OPTIONS -DORLO_TESTS=OFF -DORLO_PROGRAMS=OFF)

@@ -1,4 +1,4 @@
-// The collections' parts that are not templates.
+// The parts of the collections that are not templates.
 
 #include <afxcoll.h>
 
@@ -75,7 +75,7 @@ POSITION CObList::Find(const CObject* searchValue) const {
     return ToPosition(node);
 }
 
-// FNV-1a.
+// FNV-1a hash.
 std::size_t AfxHashKey(LPCSTR key) {
     std::uint32_t hash = 2166136261u;
     for (; *key != '\0'; ++key)

@@ -1,4 +1,4 @@
-// The exception classes and what throws them. Their texts are in exception_text.cpp.
+// The exception classes and the functions that throw them. Their messages are in exception_text.cpp.
 
 #include <afx.h>
 

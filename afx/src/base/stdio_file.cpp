@@ -1,4 +1,4 @@
-// CStdioFile over the C library's streams.
+// CStdioFile, implemented with streams of the C library.
 
 #include <afx.h>
 
@@ -9,7 +9,7 @@ IMPLEMENT_DYNAMIC(CStdioFile, CObject)
 
 namespace {
 
-// The file is opened for update without emptying it, or made: what "w+" and "r+" each do only half of.
+// Opens a file for update without truncating it, or creates it; neither "w+" nor "r+" does both.
 FILE* OpenKeeping(LPCSTR name, const std::string& suffix) {
     if (FILE* stream = std::fopen(name, ("r+" + suffix).c_str())) return stream;
     return errno == ENOENT ? std::fopen(name, ("w+" + suffix).c_str()) : nullptr;

@@ -1,4 +1,4 @@
-// CString. What it loads from resources is in module.cpp.
+// CString. Loading from resources is in module.cpp.
 
 #include <afx.h>
 
@@ -20,7 +20,7 @@ std::size_t Size(int n) {
 }
 
 #if !defined(_WIN32)
-// Code page 1252, that of the system that the texts come from.
+// Code page 1252, the code page of Western Windows systems.
 bool HasCasePair(unsigned char lower) {
     return (lower >= 0xE0 && lower != 0xF7 && lower != 0xFF);
 }
@@ -192,7 +192,7 @@ void CString::FormatV(LPCSTR lpszFormat, va_list args) {
     va_list again;
     va_copy(again, args);
     const int length = std::vsnprintf(nullptr, 0, lpszFormat, args);
-    std::string text(Size(length), '\0'); // apart: an argument may be this very text
+    std::string text(Size(length), '\0'); // separate, because an argument can point into this string
     if (length > 0) std::vsnprintf(text.data(), text.size() + 1, lpszFormat, again);
     va_end(again);
     m_text = std::move(text);

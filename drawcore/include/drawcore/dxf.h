@@ -37,9 +37,9 @@ enum { kSaveOverChanged = 1 };
 //   kSaveDone         saved; from now on the drawing belongs to that file
 //   kSaveFileChanged  another program has changed the file since the drawing was opened from it; nothing was written
 //   kSaveCancelled    the listener canceled; no file was changed
-//   kSaveFailed       message (at most size bytes, including the NUL) contains the reason; no file was changed. Examples:
-//                     the drawing was not opened from a file, the version of the file has no such entity, the disk is
-//                     full, the file is open in another program
+//   kSaveFailed       no file was changed; message (at most size bytes, including the NUL) contains the reason, for
+//                     example: the drawing was not opened from a file, the version of the file has no such entity, the
+//                     disk is full, the file is open in another program
 //
 // Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics and blocks, and
 // the states, colors and line types of layers. The listener may be null.
