@@ -1,4 +1,4 @@
-// The skeleton with one fault, chosen by ORLO_FAULT; without it, the skeleton as it is.
+// The skeleton with one fault, selected by ORLO_FAULT; without it, the unmodified skeleton.
 
 #include <cmath>
 #include <cstdlib>
@@ -10,8 +10,8 @@
 #include "faults.h"
 #include "orlo/host/host.h"
 
-// The skeleton's own function, under another name; this file has one in its place.
-#define WRAP(name) extern "C" decltype(name) Sound_##name;
+// Declares the skeleton's function under another name; this file defines a function that replaces it.
+#define WRAP(name) extern "C" decltype(name) Original_##name;
 WRAP(AppGetCurrentApp)
 WRAP(AppGetINIFileName)
 WRAP(BStringNULL)
@@ -91,7 +91,8 @@ bool Is(const char* fault) {
 }
 
 void Crash() {
-    volatile uintptr_t nowhere = 0; // volatile: a plain null the compiler takes for what cannot be
+    volatile uintptr_t nowhere =
+        0; // volatile, so that the compiler does not treat a null pointer as impossible
     *reinterpret_cast<volatile int*>(nowhere) = 1;
 }
 
@@ -106,31 +107,31 @@ int Overflow(volatile int depth) {
 
 int Lookup(GraphicStruct* graphic, const char* const* names, int count, int reserved, int32_t* number) {
     if (Is("no text properties") && std::strncmp(*names, "Text", 4) == 0) return 0;
-    const int found = Sound_GraphicGetVtbl(graphic)->PropLookup(graphic, names, count, reserved, number);
+    const int found = Original_GraphicGetVtbl(graphic)->PropLookup(graphic, names, count, reserved, number);
     if (!found && Is("any property")) *number = 1;
     return found || Is("any property");
 }
 
 int Get(GraphicStruct* graphic, int32_t number, int vt, void* value) {
     if (Is("get writes too much") && vt == VT_BOOL) std::memset(value, 0, 4);
-    return Sound_GraphicGetVtbl(graphic)->PropGet(graphic, number, vt, value);
+    return Original_GraphicGetVtbl(graphic)->PropGet(graphic, number, vt, value);
 }
 
 int Set(GraphicStruct* graphic, int32_t number, int vt, const void* value) {
-    if (Is("preview's form refused") && vt == VT_UI1) return 0;
+    if (Is("preview type rejected") && vt == VT_UI1) return 0;
     if (Is("set crashes")) Crash();
-    const auto* sound = Sound_GraphicGetVtbl(graphic);
-    const int taken = sound->PropSet(graphic, number, vt, value);
+    const auto* original = Original_GraphicGetVtbl(graphic);
+    const int accepted = original->PropSet(graphic, number, vt, value);
     const uint16_t other = 2;
-    if (!taken && Is("refused and changed")) sound->PropSet(graphic, number, VT_UI2, &other);
-    return taken;
+    if (!accepted && Is("rejected, but changed")) original->PropSet(graphic, number, VT_UI2, &other);
+    return accepted;
 }
 
 constexpr PropertyTable kTable = {nullptr, Lookup, Get, Set};
 
-// ---- A function that is not there
+// ---- A missing function
 
-// Changes the last letter of the name in the export table of this module; the names stay in order.
+// Changes the last letter of the name in the export table of this module, which remains sorted.
 void HideExport(HMODULE module, const std::string& name) {
     auto* base = reinterpret_cast<char*>(module);
     const auto& headers =
@@ -160,177 +161,176 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) {
 
 AppStruct* AppGetCurrentApp(void) {
     static AppStruct other;
-    AppStruct* application = Sound_AppGetCurrentApp();
+    AppStruct* application = Original_AppGetCurrentApp();
     if (!Is("application of another drawing")) return application;
     other = *application;
     return &other;
 }
 
 int AppGetINIFileName(AppStruct* application, char* buffer, int size) {
-    if (!Is("path without its NUL")) return Sound_AppGetINIFileName(application, buffer, size);
+    if (!Is("path without its NUL")) return Original_AppGetINIFileName(application, buffer, size);
     std::memset(buffer, 'x', size);
     return size;
 }
 
 int IsPaletteSupported(HDC dc) {
-    return Is("palette everywhere") || Sound_IsPaletteSupported(dc);
+    return Is("palette everywhere") || Original_IsPaletteSupported(dc);
 }
 
 int DrawCoreLoadString(unsigned int id, char* buffer, int size) {
-    if (Is("text behind the buffer")) size += 1;
-    const int length = Sound_DrawCoreLoadString(id, buffer, size);
-    if (Is("text of any number") && !length) return 1;
-    return Is("text without its length") ? length != 0 : length;
+    if (Is("string past the buffer")) size += 1;
+    const int length = Original_DrawCoreLoadString(id, buffer, size);
+    if (Is("string of any number") && !length) return 1;
+    return Is("string without its length") ? length != 0 : length;
 }
 
 void* DrawCoreNew(size_t size) {
-    static void* one = Sound_DrawCoreNew(10000);
-    return Is("one block for all") ? one : Sound_DrawCoreNew(size);
+    static void* one = Original_DrawCoreNew(10000);
+    return Is("one block for all") ? one : Original_DrawCoreNew(size);
 }
 
 void BStringNULL(char** string) {
     if (Is("string left in its variable")) return;
     if (Is("null string crashes") && !*string) Crash();
-    Sound_BStringNULL(string);
+    Original_BStringNULL(string);
 }
 
 void RegenMethodRegen(void* methods, uint16_t method, GraphicStruct* graphic) {
-    if (Is("regen touches all")) Crash();
-    Sound_RegenMethodRegen(methods, method, graphic);
+    if (Is("regen changes any graphic")) Crash();
+    Original_RegenMethodRegen(methods, method, graphic);
 }
 
 int RegenMethodGetPropPage(void* methods, uint16_t method, GraphicStruct* graphic, void* sheet) {
-    return Is("page of any method") || Sound_RegenMethodGetPropPage(methods, method, graphic, sheet);
+    return Is("page of any method") || Original_RegenMethodGetPropPage(methods, method, graphic, sheet);
 }
 
 uint16_t PaletteSize(const void* dib) {
-    if (Is("never comes back")) ::Sleep(INFINITE);
-    const uint16_t size = Sound_PaletteSize(dib);
-    return Is("palette of masks forgotten") && size == 12 ? uint16_t{0} : size;
+    if (Is("never returns")) ::Sleep(INFINITE);
+    const uint16_t size = Original_PaletteSize(dib);
+    return Is("color masks ignored") && size == 12 ? uint16_t{0} : size;
 }
 
 TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* name) {
-    if (Is("no colours") && std::strcmp(name, kTableColors) == 0) return nullptr;
-    return Sound_DrawingGetTable(drawing, name);
+    if (Is("no colors") && std::strcmp(name, kTableColors) == 0) return nullptr;
+    return Original_DrawingGetTable(drawing, name);
 }
 
 uint16_t TableEntryFirst(TableStruct* table, int* cookie) {
-    const uint16_t id = Sound_TableEntryFirst(table, cookie);
+    const uint16_t id = Original_TableEntryFirst(table, cookie);
     return Is("identifier among the markers") && id ? uint16_t{kLineStyleByLayer} : id;
 }
 
 uint16_t TableEntryNext(TableStruct* table, int* cookie) {
     static int calls;
-    if (Is("walk without end")) return 1;
-    if (Is("walk leaves out") && ++calls % 3 == 0) return 0;
-    return Sound_TableEntryNext(table, cookie);
+    if (Is("endless iteration")) return 1;
+    if (Is("iteration skips an entry") && ++calls % 3 == 0) return 0;
+    return Original_TableEntryNext(table, cookie);
 }
 
 int TableEntryGetName(TableStruct* table, uint16_t id, char* buffer, int size) {
-    if (Is("name behind the buffer")) buffer[size] = '\0';
-    const int found = Sound_TableEntryGetName(table, id, buffer, size);
-    return found || (Is("name of no entry") && table);
+    if (Is("name past the buffer")) buffer[size] = '\0';
+    const int found = Original_TableEntryGetName(table, id, buffer, size);
+    return found || (Is("name of an unknown entry") && table);
 }
 
 uint16_t TableEntryGetIDFirst(TableStruct* table, int* cookie, const char* name) {
-    const uint16_t id = Sound_TableEntryGetIDFirst(table, cookie, name);
+    const uint16_t id = Original_TableEntryGetIDFirst(table, cookie, name);
     char entry[256] = "";
-    Sound_TableEntryGetName(table, id, entry, sizeof entry);
-    return Is("case counts") && std::strcmp(entry, name) != 0 ? uint16_t{0} : id;
+    Original_TableEntryGetName(table, id, entry, sizeof entry);
+    return Is("case-sensitive names") && std::strcmp(entry, name) != 0 ? uint16_t{0} : id;
 }
 
 void* TableEntryGetData(TableStruct* table, uint16_t id) {
-    return Is("colour without data") ? nullptr : Sound_TableEntryGetData(table, id);
+    return Is("color without data") ? nullptr : Original_TableEntryGetData(table, id);
 }
 
 DrawingStruct* TableGetOwner(TableStruct* table) {
-    return Is("no owner") ? nullptr : Sound_TableGetOwner(table);
+    return Is("no owner") ? nullptr : Original_TableGetOwner(table);
 }
 
 int TableSetIntVar(TableStruct* table, uint16_t id, long value) {
-    return Sound_TableSetIntVar(table, id, Is("number of 16 bits") ? static_cast<int16_t>(value) : value);
+    return Original_TableSetIntVar(table, id, Is("number of 16 bits") ? static_cast<int16_t>(value) : value);
 }
 
 int TableSetNumericVar(TableStruct* table, uint16_t id, double value) {
-    return Sound_TableSetNumericVar(table, id,
-                                    Is("real number as float") ? static_cast<float>(value) : value);
+    return Original_TableSetNumericVar(table, id, Is("double as float") ? static_cast<float>(value) : value);
 }
 
 int TableGetIntVar(TableStruct* table, uint16_t id, long* value) {
     if (Is("no background of previews") && id == kVarPreviewBackground) return 0;
-    if (Sound_TableGetIntVar(table, id, value)) return 1;
+    if (Original_TableGetIntVar(table, id, value)) return 1;
     char text[32];
-    if (!Is("text as number") || !TableGetStringVar(table, id, text, sizeof text)) return 0;
+    if (!Is("string as number") || !TableGetStringVar(table, id, text, sizeof text)) return 0;
     *value = std::atol(text);
     return 1;
 }
 
 double StringToDouble(int context, const char* text, char** end) {
     if (Is("reads infinity") && std::strcmp(text, "inf") == 0) return std::numeric_limits<double>::infinity();
-    const double value = Sound_StringToDouble(context, text, end);
-    if (end && Is("end forgotten")) *end = const_cast<char*>(text);
+    const double value = Original_StringToDouble(context, text, end);
+    if (end && Is("end not stored")) *end = const_cast<char*>(text);
     return value;
 }
 
 void DoubleToString(int context, double value, int digits, char* buffer, int reserved, int form, int trim) {
-    Sound_DoubleToString(context, value, digits, buffer, reserved, form, trim);
+    Original_DoubleToString(context, value, digits, buffer, reserved, form, trim);
     if (Is("trailing zeros")) std::strcat(buffer, std::strchr(buffer, '.') ? "00" : ".00");
 }
 
 int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
                          double* value) {
-    if (Is("arguments exchanged") && display) std::swap(number, display);
-    const int read = Sound_UnitsTextToNumericEx(units, number, display, text, value);
-    if (!read && Is("value lost on refusal")) *value = 0;
+    if (Is("arguments swapped") && display) std::swap(number, display);
+    const int read = Original_UnitsTextToNumericEx(units, number, display, text, value);
+    if (!read && Is("value changed on rejection")) *value = 0;
     if (read && number == kUnitPenWidth && Is("paper in inches")) *value *= kInchesPerMillimeter;
     return read;
 }
 
 int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
                          int size, int reserved, int suffix) {
-    if (Is("display and number exchanged") && display) std::swap(number, display);
+    if (Is("display and number swapped") && display) std::swap(number, display);
     if (Is("lengths rounded")) value = std::floor(value);
-    return Sound_UnitsNumericToTextEx(units, display, number, value, buffer, size, reserved, suffix);
+    return Original_UnitsNumericToTextEx(units, display, number, value, buffer, size, reserved, suffix);
 }
 
 int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int kind) {
     char* end = nullptr;
-    if (!Is("half a text read")) return Sound_DrawingStdTextToNumeric(drawing, text, value, kind);
-    *value = Sound_StringToDouble(0, text, &end);
+    if (!Is("half a text read")) return Original_DrawingStdTextToNumeric(drawing, text, value, kind);
+    *value = Original_StringToDouble(0, text, &end);
     return end != text;
 }
 
 int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space,
                               uint16_t unit) {
-    if (Is("device has lengths") && space == kSpaceDevice) space = kSpacePaper;
-    return Sound_DrawingStdTextToNumericEx(drawing, text, value, space, unit);
+    if (Is("device space has lengths") && space == kSpaceDevice) space = kSpacePaper;
+    return Original_DrawingStdTextToNumericEx(drawing, text, value, space, unit);
 }
 
 int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
-    const int found = Sound_UnitsGetLUnitValue(units, variable, value);
-    if (found && Is("inches as millimetres")) *value = kMillimetersPerInch;
+    const int found = Original_UnitsGetLUnitValue(units, variable, value);
+    if (found && Is("inches as millimeters")) *value = kMillimetersPerInch;
     return found;
 }
 
 int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* value, int reserved) {
-    const int read = Sound_DrawingStdTextToAngle(drawing, text, value, reserved);
+    const int read = Original_DrawingStdTextToAngle(drawing, text, value, reserved);
     if (read && Is("angle in degrees")) *value *= 57.3;
-    return read || Is("any text an angle");
+    return read || Is("any text as an angle");
 }
 
 double UnitsGetScaleValue(TableStruct* units, const char* text) {
-    const double scale = Sound_UnitsGetScaleValue(units, text);
-    if (scale == 0) return Is("any text a scale");
+    const double scale = Original_UnitsGetScaleValue(units, text);
+    if (scale == 0) return Is("any text as a scale");
     return Is("scale upside down") ? 1 / scale : scale;
 }
 
 int DrawingSetScaleString(DrawingStruct* drawing, const char* text) {
-    return Sound_DrawingSetScaleString(drawing, text) || Is("any scale taken");
+    return Original_DrawingSetScaleString(drawing, text) || Is("any scale accepted");
 }
 
 GraphicStruct* GraphicNewEx(int type, int reserved, int flags) {
     if (Is("no insertions") && type == kGraphicInsert) return nullptr;
-    GraphicStruct* graphic = Sound_GraphicNewEx(type, reserved, flags);
+    GraphicStruct* graphic = Original_GraphicNewEx(type, reserved, flags);
     static GraphicStruct owner;
     if (!graphic || !Is("new graphic with an owner")) return graphic;
     graphic->pParent = &owner;
@@ -339,49 +339,49 @@ GraphicStruct* GraphicNewEx(int type, int reserved, int flags) {
 }
 
 GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child) {
-    GraphicStruct* added = Sound_GraphicAdd(parent, child);
+    GraphicStruct* added = Original_GraphicAdd(parent, child);
     if (added && Is("child without its parent")) added->pParent = nullptr;
     return added;
 }
 
 void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
-    Sound_GraphicDelete(owner, child);
+    Original_GraphicDelete(owner, child);
     if (Is("child freed")) std::memset(static_cast<void*>(child), 0xDD, sizeof *child);
 }
 
 GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter) {
-    GraphicStruct* next = Sound_GraphicNext(set, position, flags, filter);
+    GraphicStruct* next = Original_GraphicNext(set, position, flags, filter);
     uint32_t behind = *static_cast<uint32_t*>(position);
-    return Is("last member left out") && !Sound_GraphicNext(set, &behind, flags, filter) ? nullptr : next;
+    return Is("last member left out") && !Original_GraphicNext(set, &behind, flags, filter) ? nullptr : next;
 }
 
 GraphicStruct* GraphicCopyEx(GraphicStruct* graphic, int reserved1, int reserved2, int flags) {
-    return Is("copy without parts") ? Sound_GraphicNewEx(graphic->bType, 0, 1)
-                                    : Sound_GraphicCopyEx(graphic, reserved1, reserved2, flags);
+    return Is("copy without members") ? Original_GraphicNewEx(graphic->bType, 0, 1)
+                                      : Original_GraphicCopyEx(graphic, reserved1, reserved2, flags);
 }
 
 void GraphicAttach(GraphicStruct* graphic, DrawingStruct* drawing) {
-    Sound_GraphicAttach(graphic, drawing);
+    Original_GraphicAttach(graphic, drawing);
     uint32_t position;
     if (GraphicStruct* part = GraphicFirst(graphic, &position, 1, kAllGraphics))
-        if (Is("parts stay behind")) Sound_GraphicAttach(part, nullptr);
+        if (Is("members not attached")) Original_GraphicAttach(part, nullptr);
 }
 
 int GraphicGetIsGroup(GraphicStruct* graphic) {
-    return Is("lists are groups") || Sound_GraphicGetIsGroup(graphic);
+    return Is("lists are groups") || Original_GraphicGetIsGroup(graphic);
 }
 
 void GraphicSetPenColor(GraphicStruct* graphic, uint32_t color) {
-    if (!Is("pen colour ignored")) Sound_GraphicSetPenColor(graphic, color);
+    if (!Is("pen color ignored")) Original_GraphicSetPenColor(graphic, color);
 }
 
 void GraphicSetBrushScale(GraphicStruct* graphic, double scale) {
-    if (!Is("brush scale ignored")) Sound_GraphicSetBrushScale(graphic, scale);
+    if (!Is("brush scale ignored")) Original_GraphicSetBrushScale(graphic, scale);
 }
 
 void GraphicSetDirty(GraphicStruct* graphic, int dirty) {
     if (Is("stack overflow")) Overflow(0);
-    Sound_GraphicSetDirty(graphic, dirty);
+    Original_GraphicSetDirty(graphic, dirty);
 }
 
 const PropertyTable* GraphicGetVtbl(GraphicStruct*) {
@@ -389,158 +389,158 @@ const PropertyTable* GraphicGetVtbl(GraphicStruct*) {
 }
 
 VertexStruct* VertexNewEx(double x, double y, double z) {
-    VertexStruct* vertex = Sound_VertexNewEx(x, Is("vertex elsewhere") ? y + 1 : y, z);
-    if (Is("vertex not drawn to")) vertex->wFlags = 0;
+    VertexStruct* vertex = Original_VertexNewEx(x, Is("vertex at another position") ? y + 1 : y, z);
+    if (Is("vertex without its flag")) vertex->wFlags = 0;
     return vertex;
 }
 
 void VertexDispose(VertexStruct** vertex) {
     if (Is("ends the process")) std::exit(0);
-    Sound_VertexDispose(vertex);
+    Original_VertexDispose(vertex);
 }
 
 VertexStruct* GraphicVertexFirst(GraphicStruct* graphic, int* cookie, int from, int flags) {
     static VertexStruct copy;
-    VertexStruct* first = Sound_GraphicVertexFirst(graphic, cookie, from, flags);
-    if (!first || !Is("vertices exchanged")) return first;
-    copy = *Sound_GraphicVertexNext(graphic, cookie, from, flags);
+    VertexStruct* first = Original_GraphicVertexFirst(graphic, cookie, from, flags);
+    if (!first || !Is("vertices swapped")) return first;
+    copy = *Original_GraphicVertexNext(graphic, cookie, from, flags);
     return &copy;
 }
 
 VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int from, int flags) {
     static int place;
-    if (!Is("one walk of vertices")) return Sound_GraphicVertexNext(graphic, cookie, from, flags);
-    if (*cookie == 1) place = 1 + (place == 2); // anew, unless another walk is under way
+    if (!Is("one iteration of vertices")) return Original_GraphicVertexNext(graphic, cookie, from, flags);
+    if (*cookie == 1) place = 1 + (place == 2); // restart unless there is another iteration
     *cookie = 7;
-    return Sound_GraphicVertexNext(graphic, &place, from, flags);
+    return Original_GraphicVertexNext(graphic, &place, from, flags);
 }
 
 int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* at, double width, double height, double angle,
                   const char* text) {
-    return Sound_TextSetVWHAEx(graphic, at, width, height, angle, text) || Is("text of any graphic");
+    return Original_TextSetVWHAEx(graphic, at, width, height, angle, text) || Is("text of any graphic");
 }
 
 MatrixStruct* MatrixRotateZ(const MatrixStruct* matrix, double angle, int reserved) {
-    return Sound_MatrixRotateZ(matrix, Is("turned the other way") ? -angle : angle, reserved);
+    return Original_MatrixRotateZ(matrix, Is("rotated the other way") ? -angle : angle, reserved);
 }
 
 MatrixStruct* MatrixScale(const MatrixStruct* matrix, const VertexStruct* factors, int reserved) {
-    MatrixStruct* scaled = Sound_MatrixScale(matrix, factors, reserved);
-    if (matrix && Is("step first")) std::memcpy(scaled->at[3], matrix->at[3], sizeof scaled->at[3]);
+    MatrixStruct* scaled = Original_MatrixScale(matrix, factors, reserved);
+    if (matrix && Is("given matrix last")) std::memcpy(scaled->at[3], matrix->at[3], sizeof scaled->at[3]);
     return scaled;
 }
 
 MatrixStruct* MatrixOffset(const MatrixStruct* matrix, const VertexStruct* by) {
     if (Is("exception")) throw std::runtime_error("no offset");
-    return Sound_MatrixOffset(matrix, by);
+    return Original_MatrixOffset(matrix, by);
 }
 
 uint16_t BlocksAddBlock(TableStruct* blocks, const char* name, GraphicStruct* contents) {
-    const uint16_t id = Sound_BlocksAddBlock(blocks, name, contents);
-    return !id && Is("taken name taken") ? BlocksFindBlock(blocks, name) : id;
+    const uint16_t id = Original_BlocksAddBlock(blocks, name, contents);
+    return !id && Is("existing name accepted") ? BlocksFindBlock(blocks, name) : id;
 }
 
 void BlockDispose(TableStruct* blocks, uint16_t id) {
-    if (!Is("block stays")) Sound_BlockDispose(blocks, id);
+    if (!Is("block stays")) Original_BlockDispose(blocks, id);
 }
 
 int InsertSetData(GraphicStruct* graphic, TableStruct* blocks, uint16_t id, const MatrixStruct* matrix) {
-    return Sound_InsertSetData(graphic, blocks, id, Is("insertion at the origin") ? nullptr : matrix);
+    return Original_InsertSetData(graphic, blocks, id, Is("insertion at the origin") ? nullptr : matrix);
 }
 
 uint32_t LayerGetColor(DrawingStruct* drawing, uint16_t id) {
     if (Is(kStubs)) return kColorNone;
-    return Is("layer by layer") ? kColorByLayer : Sound_LayerGetColor(drawing, id);
+    return Is("layer color by layer") ? kColorByLayer : Original_LayerGetColor(drawing, id);
 }
 
 int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
-    const int found = Sound_LineStyleGetPattern(table, id, pattern);
+    const int found = Original_LineStyleGetPattern(table, id, pattern);
     if (found && Is("one dash too many")) pattern[LineStyleGetDLItems(table, id)] = 1;
     return found;
 }
 
 const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* table, uint16_t id, int* cookie) {
     return Is("hatch without lines") || Is(kStubs) ? nullptr
-                                                   : Sound_BrushStyleGetFirstPattern(table, id, cookie);
+                                                   : Original_BrushStyleGetFirstPattern(table, id, cookie);
 }
 
-// Those of a graphic without a point.
+// The extents of a graphic without vertices.
 const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int selected) {
-    static GraphicStruct* const none = Sound_GraphicNewEx(kGraphicVertices, 0, 1);
-    return Sound_GraphicGetExtentsSel(Is("no extents") ? none : graphic, selected);
+    static GraphicStruct* const none = Original_GraphicNewEx(kGraphicVertices, 0, 1);
+    return Original_GraphicGetExtentsSel(Is("no extents") ? none : graphic, selected);
 }
 
 void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
                     int flags) {
-    if (!Is("draws nothing")) Sound_GraphicDrawEx2(graphic, matrix, viewport, preview, flags);
+    if (!Is("draws nothing")) Original_GraphicDrawEx2(graphic, matrix, viewport, preview, flags);
 }
 
 void ViewportSetRect(ViewportStruct* viewport, const RECT* rect) {
     const RECT all = {rect->left - 9, rect->top - 9, rect->right + 9, rect->bottom + 9};
-    Sound_ViewportSetRect(viewport, Is("draws all over") ? &all : rect);
+    Original_ViewportSetRect(viewport, Is("draws outside the rectangle") ? &all : rect);
 }
 
 void ViewportSetGDIStuff(ViewportStruct* viewport, HWND window, HDC dc, int mode, int flags) {
-    Sound_ViewportSetGDIStuff(viewport, window, dc, mode, flags);
+    Original_ViewportSetGDIStuff(viewport, window, dc, mode, flags);
     if (Is("pen left selected")) ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
 }
 
 ViewportStruct* ViewportNewEx(void) {
-    return Is(kStubs) ? nullptr : Sound_ViewportNewEx();
+    return Is(kStubs) ? nullptr : Original_ViewportNewEx();
 }
 
 void ViewportDispose(ViewportStruct** viewport) {
     ViewportStruct* copy = *viewport;
-    Sound_ViewportDispose(Is("viewport left in its variable") ? &copy : viewport);
+    Original_ViewportDispose(Is("viewport left in its variable") ? &copy : viewport);
 }
 
 void GraphicDispose(GraphicStruct** graphic) {
     GraphicStruct* copy = *graphic;
-    Sound_GraphicDispose(Is("graphic left in its variable") ? &copy : graphic);
+    Original_GraphicDispose(Is("graphic left in its variable") ? &copy : graphic);
 }
 
 TableStruct* BlocksFromDrawing(DrawingStruct* drawing) {
     if (Is(kStubs)) return nullptr;
-    if (!drawing && Is("blocks of no drawing")) drawing = Sound_AppGetCurrentApp()->pCurrentDrawing;
-    return Sound_BlocksFromDrawing(drawing);
+    if (!drawing && Is("blocks of a null drawing")) drawing = Original_AppGetCurrentApp()->pCurrentDrawing;
+    return Original_BlocksFromDrawing(drawing);
 }
 
 uint16_t BrushStyleGetFlags(TableStruct* table, uint16_t id) {
-    const uint16_t flags = Sound_BrushStyleGetFlags(table, id);
-    return !flags && Is("flags of no style") ? kBrushVector : flags;
+    const uint16_t flags = Original_BrushStyleGetFlags(table, id);
+    return !flags && Is("flags of an unknown style") ? kBrushVector : flags;
 }
 
 int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
     if (Is(kStubs)) return 0;
-    return Is("dashes of no style") && id > 100 ? 2 : Sound_LineStyleGetDLItems(table, id);
+    return Is("dashes of an unknown style") && id > 100 ? 2 : Original_LineStyleGetDLItems(table, id);
 }
 
 void DrawCoreDispose(void* block) {
     if (!block && Is("null block crashes")) Crash();
-    Sound_DrawCoreDispose(block);
+    Original_DrawCoreDispose(block);
 }
 
 uint16_t DrawingGetCoordSpace(DrawingStruct* drawing) {
-    return Is("fourth space") ? uint16_t{3} : Sound_DrawingGetCoordSpace(drawing);
+    return Is("fourth space") ? uint16_t{3} : Original_DrawingGetCoordSpace(drawing);
 }
 
 int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int kind) {
     if (Is("text sizes without text") && kind == 1) return 0;
-    return Sound_DrawingStdNumericToText(drawing, value, buffer, size, kind);
+    return Original_DrawingStdNumericToText(drawing, value, buffer, size, kind);
 }
 
 int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size, uint16_t space,
                               uint16_t unit) {
-    if (Is("paper without text") && space == kSpacePaper) return 0;
-    return Sound_DrawingStdNumericToTextEx(drawing, value, buffer, size, space, unit);
+    if (Is("paper space without text") && space == kSpacePaper) return 0;
+    return Original_DrawingStdNumericToTextEx(drawing, value, buffer, size, space, unit);
 }
 
 double ExtentsGetX1(const ExtentsStruct* extents) {
-    const double left = Sound_ExtentsGetX1(extents);
-    return Is("extents of no point") && ExtentsGetX2(extents) == 0 ? 1 : left;
+    const double left = Original_ExtentsGetX1(extents);
+    return Is("empty extents not zero") && ExtentsGetX2(extents) == 0 ? 1 : left;
 }
 
 int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
-    return Sound_TableGetStringVar(table, id, buffer,
-                                   Is("text variable behind the buffer") ? size + 1 : size);
+    return Original_TableGetStringVar(table, id, buffer,
+                                      Is("string variable past the buffer") ? size + 1 : size);
 }

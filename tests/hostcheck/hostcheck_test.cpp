@@ -1,4 +1,4 @@
-// hostcheck as a host's author runs it: complete databases pass, and each fault is reported at its function.
+// Runs hostcheck as the author of a host does: complete databases pass, and each fault is reported for its function.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -19,7 +19,7 @@ using Handle = std::unique_ptr<void, CloseIt>;
 
 struct Outcome {
     DWORD exitCode = 99;
-    std::string out; // and what went to the other stream
+    std::string out; // standard output and standard error
 };
 
 std::string Folder() {
@@ -56,59 +56,60 @@ Outcome Hostcheck(const std::string& arguments) {
     return outcome;
 }
 
-TEST(HostcheckProgram, PassesDatabasesThatKeepEveryPromise) {
+TEST(HostcheckProgram, PassesForCompleteDatabases) {
     ::SetEnvironmentVariableA(kFaultVariable, nullptr);
     for (const char* arguments :
          {"drawcore32.dll", "drawcore32.dll --drawing " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf",
           "skeleton\\drawcore32.dll", "faulty\\drawcore32.dll"}) {
         const Outcome outcome = Hostcheck(arguments);
         EXPECT_EQ(0u, outcome.exitCode) << arguments << '\n' << outcome.out;
-        EXPECT_NE(std::string::npos, outcome.out.find("kept    MatrixScale")) << outcome.out;
+        EXPECT_NE(std::string::npos, outcome.out.find("passed  MatrixScale")) << outcome.out;
     }
 }
 
-// The lines of promises that have that state, without it.
-std::set<std::string> Promises(const Outcome& outcome, const std::string& state) {
-    std::set<std::string> promises;
+// Returns the lines of requirements with that result, without the result.
+std::set<std::string> Requirements(const Outcome& outcome, const std::string& state) {
+    std::set<std::string> requirements;
     std::istringstream lines(outcome.out);
     for (std::string line; std::getline(lines, line);)
         if (line.rfind(state, 0) == 0 && line.find("is exported") == std::string::npos)
-            promises.insert(line.substr(8, line.find_last_not_of('\r') - 7));
-    return promises;
+            requirements.insert(line.substr(8, line.find_last_not_of('\r') - 7));
+    return requirements;
 }
 
-TEST(HostcheckProgram, TellsEachFaultAtItsFunctionAndSeesEachPromiseBroken) {
-    std::set<std::string> broken;
+TEST(HostcheckProgram, ReportsEachFaultAndEachRequirementCanFail) {
+    std::set<std::string> failed;
     for (const Fault& fault : kFaults) {
         ::SetEnvironmentVariableA(kFaultVariable, fault.name);
         const Outcome outcome = Hostcheck("faulty\\drawcore32.dll");
         EXPECT_EQ(1u, outcome.exitCode) << fault.name;
-        EXPECT_NE(std::string::npos, outcome.out.find(std::string("broken  ") + fault.function + ' '))
+        EXPECT_NE(std::string::npos, outcome.out.find(std::string("FAILED  ") + fault.function + ' '))
             << fault.name;
-        EXPECT_NE(std::string::npos, outcome.out.find(" kept, ")) << fault.name << ": not all are checked";
-        broken.merge(Promises(outcome, "broken"));
+        EXPECT_NE(std::string::npos, outcome.out.find(" passed, "))
+            << fault.name << ": some requirements were not checked";
+        failed.merge(Requirements(outcome, "FAILED"));
     }
     ::SetEnvironmentVariableA(kFaultVariable, nullptr);
-    const std::set<std::string> all = Promises(Hostcheck("faulty\\drawcore32.dll"), "kept");
+    const std::set<std::string> all = Requirements(Hostcheck("faulty\\drawcore32.dll"), "passed");
     EXPECT_GT(all.size(), 100u);
-    for (const std::string& promise : all)
-        EXPECT_EQ(1u, broken.count(promise)) << "no fault breaks: " << promise;
+    for (const std::string& requirement : all)
+        EXPECT_EQ(1u, failed.count(requirement)) << "no fault violates: " << requirement;
 }
 
-TEST(HostcheckProgram, SaysWhyNothingCanBeChecked) {
+TEST(HostcheckProgram, ReportsWhyNothingCanBeChecked) {
     struct Row {
         const char* arguments;
-        const char* says;
+        const char* message;
     };
-    for (const Row& row : {Row{"nosuch.dll", "cannot be loaded"},
+    for (const Row& row : {Row{"nosuch.dll", "cannot load the database"},
                            {"hostcheck.exe", "AppGetCurrentApp"},
-                           {"drawcore32.dll --drawing nosuch.dxf", "cannot be opened"},
+                           {"drawcore32.dll --drawing nosuch.dxf", "cannot open the drawing"},
                            {"skeleton\\drawcore32.dll --drawing x.dxf", "DrawingOpenDxf"},
                            {"", "usage"},
                            {"--nosuch", "usage"}}) {
         const Outcome outcome = Hostcheck(row.arguments);
         EXPECT_EQ(2u, outcome.exitCode) << row.arguments;
-        EXPECT_NE(std::string::npos, outcome.out.find(row.says)) << row.arguments << ": " << outcome.out;
+        EXPECT_NE(std::string::npos, outcome.out.find(row.message)) << row.arguments << ": " << outcome.out;
     }
 }
 

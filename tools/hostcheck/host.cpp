@@ -1,11 +1,12 @@
-// Loads the database and looks its functions up.
+// Loads the database and looks up its functions.
 
 #include "host.h"
 
 #include <stdexcept>
 
 Host::Host(const wchar_t* file) : module_(::LoadLibraryW(file)) {
-    if (!module_) throw std::runtime_error("cannot be loaded: error " + std::to_string(::GetLastError()));
+    if (!module_)
+        throw std::runtime_error("cannot load the database: error " + std::to_string(::GetLastError()));
 }
 
 bool Host::Has(const char* name) const {

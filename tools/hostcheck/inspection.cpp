@@ -1,27 +1,27 @@
-// Checks promise after promise in a process of its own.
+// Runs the checks in a child process.
 
 #include "inspection.h"
 
 #include <stdexcept>
 
-#include "promise.h"
+#include "requirement.h"
 
 namespace {
 
-void Tell(HANDLE report, const std::string& line) {
+void WriteLine(HANDLE report, const std::string& line) {
     const std::string whole = line + "\n";
     DWORD written;
     ::WriteFile(report, whole.data(), static_cast<DWORD>(whole.size()), &written, nullptr);
 }
 
-// The system would ask the user, or start a debugger.
+// Prevents the system's error dialog and the debugger.
 LONG WINAPI EndWithCode(EXCEPTION_POINTERS* pointers) {
     ::TerminateProcess(::GetCurrentProcess(), pointers->ExceptionRecord->ExceptionCode);
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
-// Calls of a database that make drawings are not part of the contract: these have the names and the forms that the reference
-// database and the skeleton give them.
+// Functions that create drawings are not part of the contract. These prototypes are those of the reference database and
+// the skeleton.
 using DrawingOpenDxf = DrawingStruct*(const wchar_t* path, const void* listener, char* message, int size);
 using DrawingNew = DrawingStruct*();
 using AppSetCurrentDrawing = int(DrawingStruct*);
@@ -29,11 +29,11 @@ using AppSetCurrentDrawing = int(DrawingStruct*);
 DrawingStruct* OpenDrawing(const Host& host, const std::wstring& file) {
     if (file.empty()) return host.Has("DrawingNew") ? host.Function<DrawingNew>("DrawingNew")() : nullptr;
     if (!host.Has("DrawingOpenDxf"))
-        throw std::runtime_error("the database has no DrawingOpenDxf that could open the drawing");
+        throw std::runtime_error("cannot open the drawing: the database does not export DrawingOpenDxf");
     char message[256] = "";
     DrawingStruct* drawing =
         host.Function<DrawingOpenDxf>("DrawingOpenDxf")(file.c_str(), nullptr, message, sizeof message);
-    if (!drawing) throw std::runtime_error(std::string("the drawing cannot be opened: ") + message);
+    if (!drawing) throw std::runtime_error(std::string("cannot open the drawing: ") + message);
     return drawing;
 }
 
@@ -44,33 +44,33 @@ DrawingStruct* CurrentDrawing(const Host& host, const std::wstring& file) {
     const AppStruct* application = CALL(host, AppGetCurrentApp)();
     if (!application || !application->pCurrentDrawing)
         throw std::runtime_error(
-            "no drawing is current: export DrawingNew and AppSetCurrentDrawing, or have one from "
-            "the start");
+            "the database has no current drawing; export DrawingNew and AppSetCurrentDrawing, or set one "
+            "when the database is loaded");
     return application->pCurrentDrawing;
 }
 
-// Empty: the promise is kept.
-std::string FoundInstead(const Promise& promise, const Subject& subject) try {
-    if (!subject.host.Has(promise.function)) return "it is missing";
-    if (promise.check) promise.check(subject);
+// Returns the violation of a requirement, or an empty string if it is met.
+std::string ViolationOf(const Requirement& requirement, const Subject& subject) try {
+    if (!subject.host.Has(requirement.function)) return "the function is not exported";
+    if (requirement.check) requirement.check(subject);
     return {};
-} catch (const Broken& broken) {
-    return broken.found;
+} catch (const Violation& violation) {
+    return violation.found;
 } catch (const Missing& missing) {
-    return missing.name + ", which the check needs, is missing";
+    return "the check requires " + missing.name + ", which is not exported";
 } catch (const std::exception& exception) {
-    return std::string("an exception came out of it: ") + exception.what();
+    return std::string("the function threw an exception: ") + exception.what();
 } catch (...) {
-    return "an exception came out of it";
+    return "the function threw an exception";
 }
 
-void InspectPromises(const Subject& subject, size_t first, HANDLE report) {
-    const auto& promises = AllPromises();
-    for (size_t i = first; i < promises.size(); ++i) {
+void CheckRequirements(const Subject& subject, size_t first, HANDLE report) {
+    const auto& requirements = AllRequirements();
+    for (size_t i = first; i < requirements.size(); ++i) {
         const std::string number = std::to_string(i);
-        Tell(report, "start " + number);
-        const std::string found = FoundInstead(promises[i], subject);
-        Tell(report, found.empty() ? "kept " + number : "broken " + number + " " + found);
+        WriteLine(report, "start " + number);
+        const std::string violation = ViolationOf(requirements[i], subject);
+        WriteLine(report, violation.empty() ? "passed " + number : "failed " + number + " " + violation);
     }
 }
 
@@ -81,10 +81,10 @@ void Inspect(const std::wstring& database, const std::wstring& drawingFile, size
     ::SetUnhandledExceptionFilter(EndWithCode);
     const Host host(database.c_str());
     const Subject subject(host, CurrentDrawing(host, drawingFile));
-    InspectPromises(subject, first, report);
-    Tell(report, "end");
+    CheckRequirements(subject, first, report);
+    WriteLine(report, "end");
 } catch (const Missing& missing) {
-    Tell(report, "failed the database has no " + missing.name);
+    WriteLine(report, "error the database does not export " + missing.name);
 } catch (const std::exception& exception) {
-    Tell(report, std::string("failed ") + exception.what());
+    WriteLine(report, std::string("error ") + exception.what());
 }

@@ -1,10 +1,9 @@
-// One process's share of an inspection: checks promise after promise and reports each to the process that started it.
+// Runs the checks in a child process and reports each result to the parent process, as lines of text:
 //
-//   drawing            the database is loaded and has a drawing
-//   start 12           promise 12 is being checked
-//   kept 12
-//   broken 12 found 3 entries
-//   failed TEXT        there is nothing to check: no database, no drawing
+//   start 12                  check 12 starts
+//   passed 12
+//   failed 12 found 3 entries
+//   error TEXT                nothing can be checked: the database cannot be loaded or has no drawing
 //   end
 #pragma once
 
@@ -12,5 +11,6 @@
 
 #include <string>
 
-// Checks the promises from that one on. A crash of the database ends the process with the exception's code.
+// Runs the checks from number `first` on and writes the lines to `report`. If the database crashes, the process ends
+// with the code of the exception.
 void Inspect(const std::wstring& database, const std::wstring& drawingFile, size_t first, HANDLE report);

@@ -1,4 +1,4 @@
-// hostcheck: whether a host's drawing database keeps the promises that the library counts on.
+// hostcheck: checks whether a host's drawing database meets the requirements of the library.
 
 #include <windows.h>
 
@@ -14,9 +14,10 @@ namespace {
 
 constexpr char kUsage[] =
     "usage: hostcheck DATABASE.dll [--drawing FILE]\n"
-    "Prints a line for each promise. Exit code: 0 all are kept, 1 some are broken, 2 nothing checked.\n";
+    "Checks a drawing database against the contract and prints a line for each requirement.\n"
+    "Exit code: 0 all checks passed, 1 some failed, 2 nothing was checked.\n";
 
-// A path as it is seen from anywhere.
+// Returns the absolute path.
 std::wstring FullPath(const std::wstring& path) {
     wchar_t full[MAX_PATH];
     const DWORD length = path.empty() ? 0 : ::GetFullPathNameW(path.c_str(), MAX_PATH, full, nullptr);
@@ -25,18 +26,18 @@ std::wstring FullPath(const std::wstring& path) {
 
 int Run(const std::wstring& database, const std::wstring& drawingFile) {
     const Inspected inspected = InspectInProcesses(database, drawingFile);
-    if (!inspected.failure.empty()) {
-        std::fprintf(stderr, "hostcheck: %s\n", inspected.failure.c_str());
-        return inspected.broken ? 1 : 2;
+    if (!inspected.error.empty()) {
+        std::fprintf(stderr, "hostcheck: %s\n", inspected.error.c_str());
+        return inspected.failed ? 1 : 2;
     }
-    std::printf("%zu kept, %zu broken\n", inspected.kept, inspected.broken);
-    return inspected.broken ? 1 : 0;
+    std::printf("%zu passed, %zu failed\n", inspected.passed, inspected.failed);
+    return inspected.failed ? 1 : 0;
 }
 
 } // namespace
 
-int wmain(int count, wchar_t** words) try {
-    const std::vector<std::wstring> arguments(words + 1, words + count);
+int wmain(int count, wchar_t** values) try {
+    const std::vector<std::wstring> arguments(values + 1, values + count);
     if (arguments.size() == 5 && arguments[0] == L"--inspect") {
         const auto report = reinterpret_cast<HANDLE>(static_cast<uintptr_t>(std::stoull(arguments[1])));
         Inspect(arguments[3], arguments[4], std::stoul(arguments[2]), report);

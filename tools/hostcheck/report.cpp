@@ -1,4 +1,4 @@
-// Starts the processes that check, listens to them, and prints a line for each promise.
+// Starts the child processes, reads their results, and prints a line for each requirement.
 
 #include "report.h"
 
@@ -6,13 +6,13 @@
 #include <memory>
 #include <stdexcept>
 
-#include "promise.h"
+#include "requirement.h"
 
 namespace {
 
-constexpr DWORD kLongest = 20000; // milliseconds that one promise may take
+constexpr DWORD kTimeLimit = 20000; // milliseconds for one check
 constexpr DWORD kTimedOut = 0xFFFFFFFF;
-constexpr int kAttempts = 3;            // to start a process: a busy system refuses one in some thousands
+constexpr int kAttempts = 3;            // to start a process, which rarely fails on a busy system
 constexpr DWORD kBetweenAttempts = 200; // milliseconds
 
 struct CloseIt {
@@ -20,15 +20,15 @@ struct CloseIt {
 };
 using Handle = std::unique_ptr<void, CloseIt>;
 
-// A process of this program that inspects from a promise on, and the lines that it reports.
-class Inspector {
+// A child process of this program that runs the checks from a certain one on, and the lines that it writes.
+class CheckProcess {
 public:
-    Inspector(const std::wstring& database, const std::wstring& drawingFile, size_t first) {
+    CheckProcess(const std::wstring& database, const std::wstring& drawingFile, size_t first) {
         SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
         HANDLE read = nullptr, write = nullptr;
-        if (!::CreatePipe(&read, &write, &inherited, 0)) throw std::runtime_error("no pipe");
+        if (!::CreatePipe(&read, &write, &inherited, 0)) throw std::runtime_error("cannot create a pipe");
         read_.reset(read);
-        const Handle theirs(write); // theirs alone once they have started: the pipe then ends with them
+        const Handle writeEnd(write); // closed here once the child has it: the pipe then ends with the child
         ::SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
         wchar_t own[MAX_PATH];
         ::GetModuleFileNameW(nullptr, own, MAX_PATH);
@@ -41,27 +41,28 @@ public:
         for (int attempt = 1; !::CreateProcessW(own, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                                 &start, &process);
              ++attempt) {
-            if (attempt == kAttempts) throw std::runtime_error("the inspecting process cannot be started");
+            if (attempt == kAttempts) throw std::runtime_error("cannot start the child process");
             ::Sleep(kBetweenAttempts);
         }
         ::CloseHandle(process.hThread);
         process_.reset(process.hProcess);
     }
 
-    // False when there are no more: the process has ended, or has been ended since it took too long.
+    // Returns false at the end of the lines: the process has ended, or was terminated because it exceeded the time
+    // limit.
     bool NextLine(std::string& line) {
         size_t end;
-        while ((end = told_.find('\n')) == std::string::npos)
+        while ((end = received_.find('\n')) == std::string::npos)
             if (!ReadMore()) return false;
-        line = told_.substr(0, end);
-        told_.erase(0, end + 1);
+        line = received_.substr(0, end);
+        received_.erase(0, end + 1);
         return true;
     }
 
     DWORD ExitCode() {
         if (timedOut_) return kTimedOut;
         DWORD code = 0;
-        ::WaitForSingleObject(process_.get(), kLongest);
+        ::WaitForSingleObject(process_.get(), kTimeLimit);
         ::GetExitCodeProcess(process_.get(), &code);
         return code;
     }
@@ -72,7 +73,7 @@ private:
         for (DWORD waited = 0; waiting == 0; waited += 10) {
             if (!::PeekNamedPipe(read_.get(), nullptr, 0, nullptr, &waiting, nullptr)) return false;
             if (waiting != 0) break;
-            if (waited >= kLongest) {
+            if (waited >= kTimeLimit) {
                 timedOut_ = true;
                 ::TerminateProcess(process_.get(), 1);
                 return false;
@@ -82,68 +83,70 @@ private:
         char bytes[1024];
         DWORD count = 0;
         if (!::ReadFile(read_.get(), bytes, sizeof bytes, &count, nullptr) || count == 0) return false;
-        told_.append(bytes, count);
+        received_.append(bytes, count);
         return true;
     }
 
     Handle read_, process_;
-    std::string told_;
+    std::string received_;
     bool timedOut_ = false;
 };
 
-std::string WhatEnded(DWORD code) {
+// Describes why a child process ended during a check.
+std::string DescribeEnd(DWORD code) {
     char text[64];
     switch (code) {
     case kTimedOut:
-        return "it did not come back within 20 seconds";
+        return "the function did not return within 20 seconds";
     case EXCEPTION_ACCESS_VIOLATION:
-        return "it crashed: access violation";
+        return "the function crashed: access violation";
     case EXCEPTION_STACK_OVERFLOW:
-        return "it crashed: stack overflow";
+        return "the function crashed: stack overflow";
     default:
-        std::snprintf(text, sizeof text, "it ended the process, code 0x%lX", code);
+        std::snprintf(text, sizeof text, "the function ended the process with code 0x%lX", code);
         return text;
     }
 }
 
-void Print(const Promise& promise, const std::string& found) {
-    std::printf("%-7s %-26s %s", found.empty() ? "kept" : "broken", promise.function, promise.what);
-    if (!found.empty()) std::printf("\n%35s%s", "", ("found: " + found).c_str());
+void Print(const Requirement& requirement, const std::string& violation) {
+    std::printf("%-7s %-26s %s", violation.empty() ? "passed" : "FAILED", requirement.function,
+                requirement.what);
+    if (!violation.empty()) std::printf("\n%35s%s", "", ("found: " + violation).c_str());
     std::printf("\n");
     std::fflush(stdout);
 }
 
-// What one process has found, from the promise `next` on; next is the first that is still to be checked.
-void Follow(Inspector& inspector, size_t& next, Inspected& inspected) {
-    const auto& promises = AllPromises();
+// Reads the results of one child process. `next` is the number of the next requirement to check.
+void ReadResults(CheckProcess& child, size_t& next, Inspected& inspected) {
+    const auto& requirements = AllRequirements();
     bool checking = false;
     std::string line;
-    while (inspector.NextLine(line)) {
-        if (line.rfind("failed ", 0) == 0) inspected.failure = line.substr(7);
-        if (line == "end" || !inspected.failure.empty()) return;
+    while (child.NextLine(line)) {
+        if (line.rfind("error ", 0) == 0) inspected.error = line.substr(6);
+        if (line == "end" || !inspected.error.empty()) return;
         checking = line.rfind("start ", 0) == 0;
         if (checking) continue;
-        const bool kept = line.rfind("kept ", 0) == 0;
+        const bool passed = line.rfind("passed ", 0) == 0;
         const size_t text = line.find(' ', line.find(' ') + 1);
-        Print(promises[next++], kept ? "" : line.substr(text + 1));
-        ++(kept ? inspected.kept : inspected.broken);
+        Print(requirements[next++], passed ? "" : line.substr(text + 1));
+        ++(passed ? inspected.passed : inspected.failed);
     }
-    const std::string ended = WhatEnded(inspector.ExitCode());
+    const std::string ended = DescribeEnd(child.ExitCode());
     if (!checking) {
-        inspected.failure = "while the database was loaded and its drawing made " + ended;
+        inspected.error = "while the database was loaded or its drawing created, " + ended;
         return;
     }
-    Print(promises[next++], ended);
-    ++inspected.broken;
+    Print(requirements[next++], ended);
+    ++inspected.failed;
 }
 
 } // namespace
 
 Inspected InspectInProcesses(const std::wstring& database, const std::wstring& drawingFile) {
     Inspected inspected;
-    for (size_t next = 0; next < AllPromises().size() && inspected.failure.empty();) {
-        Inspector inspector(database, drawingFile, next);
-        Follow(inspector, next, inspected);
+    for (size_t next = 0; next < AllRequirements().size() && inspected.error.empty();) {
+        CheckProcess child(database, drawingFile, next);
+        ReadResults(child, next, inspected);
     }
     return inspected;
 }

@@ -1,13 +1,13 @@
-// The whole inspection: processes that check, one after the other, since a database that breaks a promise by a crash or by
-// never returning takes its process along.
+// Checks a database in child processes, one after the other: a check that crashes or does not return ends its process,
+// and the next process continues after it.
 #pragma once
 
 #include <string>
 
 struct Inspected {
-    size_t kept = 0, broken = 0;
-    std::string failure; // why nothing could be checked; empty else
+    size_t passed = 0, failed = 0;
+    std::string error; // why nothing could be checked, or empty
 };
 
-// Prints a line for each promise.
+// Prints a line for each requirement.
 Inspected InspectInProcesses(const std::wstring& database, const std::wstring& drawingFile);

@@ -1,13 +1,13 @@
-// What a check says when a promise is broken.
+// Support for the checks: creates objects of the database and reports violations.
 
-#include "promise.h"
+#include "requirement.h"
 
 #include <cstdarg>
 #include <cstdio>
 
 namespace {
 
-const Host* disposing; // the one database of this process
+const Host* disposing; // the only database of this process; deleters of smart pointers cannot have state
 
 void DisposeGraphic(GraphicStruct* graphic) {
     CALL(*disposing, GraphicDispose)(&graphic);
@@ -30,14 +30,14 @@ constexpr const char kIsExported[] = "is exported";
 
 } // namespace
 
-void Expect(bool kept, const char* format, ...) {
-    if (kept) return;
+void Require(bool condition, const char* format, ...) {
+    if (condition) return;
     char text[256];
     va_list arguments;
     va_start(arguments, format);
     std::vsnprintf(text, sizeof text, format, arguments);
     va_end(arguments);
-    throw Broken{text};
+    throw Violation{text};
 }
 
 Subject::Subject(const Host& of, DrawingStruct* current) : host(of), drawing(current) {
@@ -46,40 +46,40 @@ Subject::Subject(const Host& of, DrawingStruct* current) : host(of), drawing(cur
 
 TableStruct* Subject::Table(const char* name) const {
     TableStruct* table = CALL(host, DrawingGetTable)(drawing, name);
-    Expect(table, "the drawing has no table %s", name);
+    Require(table, "the drawing has no table %s", name);
     return table;
 }
 
-Made<GraphicStruct> Subject::NewGraphic(int type) const {
-    Made<GraphicStruct> graphic(CALL(host, GraphicNewEx)(type, 0, 1), DisposeGraphic);
-    Expect(graphic != nullptr, "GraphicNewEx gave no graphic of type 0x%02X", type);
+Owned<GraphicStruct> Subject::NewGraphic(int type) const {
+    Owned<GraphicStruct> graphic(CALL(host, GraphicNewEx)(type, 0, 1), DisposeGraphic);
+    Require(graphic != nullptr, "GraphicNewEx returned null for type 0x%02X", type);
     return graphic;
 }
 
-Made<VertexStruct> Subject::NewVertex(double x, double y, double z) const {
-    Made<VertexStruct> vertex(CALL(host, VertexNewEx)(x, y, z), DisposeVertex);
-    Expect(vertex != nullptr, "VertexNewEx gave no vertex");
+Owned<VertexStruct> Subject::NewVertex(double x, double y, double z) const {
+    Owned<VertexStruct> vertex(CALL(host, VertexNewEx)(x, y, z), DisposeVertex);
+    Require(vertex != nullptr, "VertexNewEx returned null");
     return vertex;
 }
 
-Made<GraphicStruct> Subject::NewSquare(double size) const {
-    Made<GraphicStruct> square = NewGraphic(kGraphicVertices);
+Owned<GraphicStruct> Subject::NewSquare(double size) const {
+    Owned<GraphicStruct> square = NewGraphic(kGraphicVertices);
     const double corners[][2] = {{0, 0}, {size, 0}, {size, size}, {0, size}, {0, 0}};
     for (const auto& [x, y] : corners)
-        Expect(CALL(host, GraphicVertexAdd)(square.get(), NewVertex(x, y, 0).get()),
-               "GraphicVertexAdd gave 0");
+        Require(CALL(host, GraphicVertexAdd)(square.get(), NewVertex(x, y, 0).get()),
+                "GraphicVertexAdd returned 0");
     CALL(host, GraphicAttach)(square.get(), drawing);
     return square;
 }
 
-Made<ViewportStruct> Subject::NewViewport() const {
-    Made<ViewportStruct> viewport(CALL(host, ViewportNewEx)(), DisposeViewport);
-    Expect(viewport != nullptr, "ViewportNewEx gave no viewport");
+Owned<ViewportStruct> Subject::NewViewport() const {
+    Owned<ViewportStruct> viewport(CALL(host, ViewportNewEx)(), DisposeViewport);
+    Require(viewport != nullptr, "ViewportNewEx returned null");
     return viewport;
 }
 
-Made<MatrixStruct> Subject::Own(MatrixStruct* matrix) const {
-    Expect(matrix, "gave no matrix");
+Owned<MatrixStruct> Subject::Own(MatrixStruct* matrix) const {
+    Require(matrix, "returned null");
     return {matrix, DisposeMatrix};
 }
 
@@ -89,7 +89,7 @@ std::vector<uint16_t> Subject::Entries(TableStruct* table) const {
     for (uint16_t id = CALL(host, TableEntryFirst)(table, &cookie); id != 0;
          id = CALL(host, TableEntryNext)(table, &cookie)) {
         entries.push_back(id);
-        Expect(entries.size() <= UINT16_MAX, "the walk has no end");
+        Require(entries.size() <= UINT16_MAX, "the iteration does not end");
     }
     return entries;
 }
@@ -100,7 +100,7 @@ std::vector<GraphicStruct*> Subject::Members(GraphicStruct* set, uint32_t filter
     for (GraphicStruct* member = CALL(host, GraphicFirst)(set, place, 1, filter); member;
          member = CALL(host, GraphicNext)(set, place, 1, filter))
         members.push_back(member);
-    Expect(place[1] == 0xABABABAB, "the position took more than its 32 bits");
+    Require(place[1] == 0xABABABAB, "wrote more than 32 bits to the position");
     return members;
 }
 
@@ -113,16 +113,17 @@ std::vector<VertexStruct*> Subject::Vertices(GraphicStruct* graphic) const {
     return vertices;
 }
 
-const std::vector<Promise>& AllPromises() {
-    static const std::vector<Promise> all = [] {
-        std::vector<Promise> promises;
-        for (const char* function : kFunctions) // a check of null: being there is all
-            promises.push_back({function, kIsExported, nullptr});
+const std::vector<Requirement>& AllRequirements() {
+    static const std::vector<Requirement> all = [] {
+        std::vector<Requirement> requirements;
+        for (const char* function : kFunctions)
+            requirements.push_back({function, kIsExported, nullptr});
         for (const Topic& topic :
-             {kApplicationPromises, kTablePromises, kUnitPromises, kGraphicPromises, kPropertyPromises,
-              kVertexPromises, kMatrixPromises, kBlockPromises, kStylePromises, kViewPromises})
-            promises.insert(promises.end(), topic.rows, topic.rows + topic.count);
-        return promises;
+             {kApplicationRequirements, kTableRequirements, kUnitRequirements, kGraphicRequirements,
+              kPropertyRequirements, kVertexRequirements, kMatrixRequirements, kBlockRequirements,
+              kStyleRequirements, kViewRequirements})
+            requirements.insert(requirements.end(), topic.rows, topic.rows + topic.count);
+        return requirements;
     }();
     return all;
 }

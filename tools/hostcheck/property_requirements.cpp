@@ -1,9 +1,9 @@
-// The property tables of all types of graphics, in the forms in which the library asks and sets.
+// Requirements of property tables, for all types of graphics and with the value types that the library uses.
 
 #include <cstring>
 #include <iterator>
 
-#include "promise.h"
+#include "requirement.h"
 
 namespace {
 
@@ -16,11 +16,11 @@ struct Type {
 constexpr Type kTypes[] = {
     {kGraphicVertices, kShapes}, {kGraphicText, kTexts}, {kGraphicInsert, kInsertions}};
 
-// value: one that the graphic takes; of a text, "Arial".
+// value: a value that every graphic accepts; for VT_BSTR it is "Arial".
 struct Row {
     const char* name;
-    int owners; // types whose preview shows it
-    int asked, set, preview;
+    int owners;            // types of graphics that must have the property for their preview
+    int get, set, preview; // value types of PropGet, and of PropSet for selected graphics and for previews
     double value;
 };
 constexpr Row kProperties[] = {
@@ -45,27 +45,27 @@ constexpr Row kProperties[] = {
     {kPropStyleTree, 0, VT_UI4, VT_UI4, VT_UI4, 0},
 };
 
-// One property of one graphic.
+// One property of one graphic. Throws Violation if the property table is incomplete.
 class Property {
 public:
     Property(const Subject& s, GraphicStruct* graphic, const char* name)
         : subject_(s), graphic_(graphic), name_(name), table_(CALL(s.host, GraphicGetVtbl)(graphic)) {
-        Expect(table_ && table_->PropLookup && table_->PropGet && table_->PropSet,
-               "a graphic of type 0x%02X has no property table, or one without its slots", graphic->bType);
+        Require(table_ && table_->PropLookup && table_->PropGet && table_->PropSet,
+                "a graphic of type 0x%02X has no property table or an incomplete one", graphic->bType);
         has_ = table_->PropLookup(graphic, &name_, 1, 0, &number_) != 0;
     }
 
     explicit operator bool() const { return has_; }
 
-    // The value in up to eight bytes.
+    // Returns the value in the low bytes.
     uint64_t Get(int vt) const {
         unsigned char bytes[16];
         std::memset(bytes, 0xAB, sizeof bytes);
-        Expect(table_->PropGet(graphic_, number_, vt, bytes), "%s: PropGet gave 0 for type 0x%02X", name_,
-               vt);
+        Require(table_->PropGet(graphic_, number_, vt, bytes), "%s: PropGet returned 0 for type 0x%02X",
+                name_, vt);
         for (size_t i = SizeOf(vt); i < sizeof bytes; ++i)
-            Expect(bytes[i] == 0xAB, "%s: PropGet wrote more than %zu bytes for type 0x%02X", name_,
-                   SizeOf(vt), vt);
+            Require(bytes[i] == 0xAB, "%s: PropGet wrote more than %zu bytes for type 0x%02X", name_,
+                    SizeOf(vt), vt);
         uint64_t value = 0;
         std::memcpy(&value, bytes, SizeOf(vt));
         return value;
@@ -74,9 +74,9 @@ public:
 
     std::string GetText() const {
         char* text = nullptr;
-        for (int turn = 0; turn < 2; ++turn) // the second string replaces the first
-            Expect(table_->PropGet(graphic_, number_, VT_BSTR, &text) && text, "%s: PropGet gave no text",
-                   name_);
+        for (int pass = 0; pass < 2; ++pass) // the second string must replace the first one
+            Require(table_->PropGet(graphic_, number_, VT_BSTR, &text) && text,
+                    "%s: PropGet returned no string", name_);
         const std::string copy = text;
         CALL(subject_.host, BStringNULL)(&text);
         return copy;
@@ -108,14 +108,14 @@ private:
 
 uint64_t BitsOf(const Row& row) {
     uint64_t bits = 0;
-    if (row.asked == VT_R8)
+    if (row.get == VT_R8)
         std::memcpy(&bits, &row.value, sizeof row.value);
     else
         bits = static_cast<uint32_t>(row.value);
     return bits;
 }
 
-// Calls visit(graphic's property, row) for each property that a graphic of each type has.
+// Calls visit(property, row) for all properties of a graphic of each type.
 template <class Visit>
 void ForEachProperty(const Subject& s, Visit visit) {
     for (const Type& type : kTypes) {
@@ -128,91 +128,95 @@ void ForEachProperty(const Subject& s, Visit visit) {
     }
 }
 
-void HasWhatItsPagesShow(const Subject& s) {
+void HasThePropertiesOfPreviews(const Subject& s) {
     for (const Type& type : kTypes) {
         const auto graphic = s.NewGraphic(type.type);
         for (const Row& row : kProperties)
-            Expect(!(row.owners & type.bit) || Property(s, graphic.get(), row.name),
-                   "a graphic of type 0x%02X has no %s", type.type, row.name);
+            Require(!(row.owners & type.bit) || Property(s, graphic.get(), row.name),
+                    "a graphic of type 0x%02X has no %s", type.type, row.name);
     }
 }
 
-void HasNoOther(const Subject& s) {
+void RejectsUnknownNames(const Subject& s) {
     for (const Type& type : kTypes)
-        Expect(!Property(s, s.NewGraphic(type.type).get(), "NoSuchProperty"),
-               "a graphic of type 0x%02X has a property NoSuchProperty", type.type);
+        Require(!Property(s, s.NewGraphic(type.type).get(), "NoSuchProperty"),
+                "a graphic of type 0x%02X has an unknown property", type.type);
 }
 
-void TakesWhatItGave(const Subject& s) {
+void AcceptsReturnedValues(const Subject& s) {
     ForEachProperty(s, [](const Property& property, const Row& row) {
-        if (row.asked == VT_BSTR) {
+        if (row.get == VT_BSTR) {
             const std::string text = property.GetText();
-            Expect(property.SetText(text.c_str()), "%s: refuses \"%s\", which it gave", row.name,
-                   text.c_str());
+            Require(property.SetText(text.c_str()), "%s: PropSet rejects \"%s\", which PropGet returned",
+                    row.name, text.c_str());
             return;
         }
-        const uint64_t value = property.Get(row.asked);
-        Expect(property.Set(row.set, value), "%s: refuses 0x%llX, which it gave", row.name, value);
-        Expect(property.Get(row.asked) == value, "%s: gave 0x%llX, was set to that, and gives 0x%llX",
-               row.name, value, property.Get(row.asked));
+        const uint64_t value = property.Get(row.get);
+        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX, which PropGet returned", row.name,
+                value);
+        Require(property.Get(row.get) == value,
+                "%s: PropSet of the returned value 0x%llX changed it to 0x%llX", row.name, value,
+                property.Get(row.get));
     });
 }
 
-void GivesWhatItTook(const Subject& s) {
+void ReturnsSetValues(const Subject& s) {
     ForEachProperty(s, [](const Property& property, const Row& row) {
-        if (row.asked == VT_BSTR) {
+        if (row.get == VT_BSTR) {
             char own[] = "Arial";
-            Expect(property.SetText(own), "%s: refuses \"Arial\"", row.name);
-            own[0] = 'x'; // the caller's text is the caller's
-            Expect(property.GetText() == "Arial", "%s: took \"Arial\" and gives \"%s\"", row.name,
-                   property.GetText().c_str());
+            Require(property.SetText(own), "%s: PropSet rejects \"Arial\"", row.name);
+            own[0] = 'x'; // the database must have copied the text
+            Require(property.GetText() == "Arial", "%s: set to \"Arial\", but PropGet returns \"%s\"",
+                    row.name, property.GetText().c_str());
             return;
         }
         const uint64_t value = BitsOf(row);
-        Expect(property.Set(row.set, value), "%s: refuses 0x%llX as type 0x%02X", row.name, value, row.set);
-        Expect(property.Get(row.asked) == value, "%s: took 0x%llX and gives 0x%llX", row.name, value,
-               property.Get(row.asked));
+        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value,
+                row.set);
+        Require(property.Get(row.get) == value, "%s: set to 0x%llX, but PropGet returns 0x%llX", row.name,
+                value, property.Get(row.get));
     });
 }
 
-void TakesThePreviewsForm(const Subject& s) {
+void AcceptsPreviewTypes(const Subject& s) {
     ForEachProperty(s, [](const Property& property, const Row& row) {
         if (row.preview == row.set) return;
         const uint64_t value = BitsOf(row);
-        Expect(property.Set(row.preview, value), "%s: refuses 0x%llX as type 0x%02X", row.name, value,
-               row.preview);
-        Expect(property.Get(row.asked) == value, "%s: took 0x%llX as type 0x%02X and gives 0x%llX", row.name,
-               value, row.preview, property.Get(row.asked));
+        Require(property.Set(row.preview, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name,
+                value, row.preview);
+        Require(property.Get(row.get) == value,
+                "%s: set to 0x%llX as type 0x%02X, but PropGet returns 0x%llX", row.name, value, row.preview,
+                property.Get(row.get));
     });
 }
 
-void StaysItsOwn(const Subject& s) {
+void ChangesOneGraphic(const Subject& s) {
     const auto first = s.NewSquare(1), second = s.NewSquare(1);
     const Property one(s, first.get(), kPropPenWidth), other(s, second.get(), kPropPenWidth);
     const uint64_t before = other.Get(VT_R8);
     one.Set(VT_R8, BitsOf(kProperties[2]));
-    Expect(other.Get(VT_R8) == before, "a width set for one graphic is the width of another");
+    Require(other.Get(VT_R8) == before, "setting the width of one graphic changed another one");
 }
 
-void LeavesAloneWhatItRefuses(const Subject& s) {
+void KeepsRejectedProperties(const Subject& s) {
     const auto text = s.NewGraphic(kGraphicText);
     const Property format(s, text.get(), kPropTextFormat);
     const uint64_t before = format.Get(VT_UI2);
-    if (format.Set(VT_UI2, 777)) return; // a host may know more than the sheet
-    Expect(format.Get(VT_UI2) == before, "refuses format 777, and the format is %llu", format.Get(VT_UI2));
+    if (format.Set(VT_UI2, 777)) return; // a host may support more formats than the sheet
+    Require(format.Get(VT_UI2) == before, "rejects format 777, but has changed the format to %llu",
+            format.Get(VT_UI2));
 }
 
-constexpr Promise kRows[] = {
-    {"GraphicGetVtbl", "gives tables that know what the pages show in their previews", HasWhatItsPagesShow},
-    {"GraphicGetVtbl", "PropLookup gives 0 for a name that it does not know", HasNoOther},
-    {"GraphicGetVtbl", "PropGet gives each property in the form that is asked for, PropSet takes it back",
-     TakesWhatItGave},
-    {"GraphicGetVtbl", "PropSet takes a value of each property, PropGet gives it again", GivesWhatItTook},
-    {"GraphicGetVtbl", "PropSet takes the forms that previews use", TakesThePreviewsForm},
-    {"GraphicGetVtbl", "PropSet changes the one graphic", StaysItsOwn},
-    {"GraphicGetVtbl", "PropSet leaves alone what it refuses", LeavesAloneWhatItRefuses},
+constexpr Requirement kRows[] = {
+    {"GraphicGetVtbl", "returns a table with the properties that previews need", HasThePropertiesOfPreviews},
+    {"GraphicGetVtbl", "PropLookup returns 0 for an unknown name", RejectsUnknownNames},
+    {"GraphicGetVtbl", "PropSet accepts each value that PropGet returns", AcceptsReturnedValues},
+    {"GraphicGetVtbl", "PropGet returns each value that PropSet has set", ReturnsSetValues},
+    {"GraphicGetVtbl", "PropSet accepts the value types of previews", AcceptsPreviewTypes},
+    {"GraphicGetVtbl", "PropSet changes one graphic only", ChangesOneGraphic},
+    {"GraphicGetVtbl", "PropSet does not change a value that it rejects", KeepsRejectedProperties},
 };
 
 } // namespace
 
-const Topic kPropertyPromises = TopicOf(kRows);
+const Topic kPropertyRequirements = TopicOf(kRows);
