@@ -1,9 +1,9 @@
-// A host in C99: opens the drawing that is named on its command line and shows the properties of all that is in it.
+// A host in C99: opens the drawing named on the command line and shows the properties of all its graphics.
 
 #include <stdio.h>
 #include <windows.h>
 
-#include <drawcore/application.h> // the reference database; a host of your own has its own calls here
+#include <drawcore/application.h> // the reference database; your host includes its own headers here
 #include <drawcore/drawing.h>
 #include <drawcore/dxf.h>
 #include <orlo_c.h>
@@ -19,7 +19,7 @@ static int ShowProperties(HWND window, DrawingStruct* drawing) {
     if (OrloRunSheet(&sheet, &code) != kOrloOk) {
         char reason[256];
         OrloGetErrorText(reason, sizeof reason);
-        fprintf(stderr, "no sheet: %s\n", reason);
+        fprintf(stderr, "cannot open the sheet: %s\n", reason);
         return 2;
     }
     return code == IDOK ? 0 : 1;

@@ -1,4 +1,4 @@
-// A list of layers to be ticked.
+// A list of layers with check boxes.
 
 #include <orlo.h>
 
@@ -13,9 +13,9 @@ void FillLayerList(CCheckListBox& list, CWnd* parent, TableStruct* layers) {
     }
 }
 
-int CountTicked(const CCheckListBox& list) {
-    int ticked = 0;
+int CountChecked(const CCheckListBox& list) {
+    int checked = 0;
     for (int i = 0; i < list.GetCount(); ++i)
-        ticked += list.IsItemChecked(i);
-    return ticked;
+        checked += list.IsItemChecked(i);
+    return checked;
 }

@@ -1,10 +1,11 @@
-// The sheet over a style, until it ends with a code that does not concern a style.
+// Opens the sheet over a style until the user closes it with OK or Cancel.
 
 #include <memory>
 
 #include <orlo.h>
 
-// Gives the style that is current in the end. The style names must be filled with that style as nSelected.
+// Returns the style that is current at the end. The control with the style names must be filled with the current
+// style as nSelected.
 uint16_t EditStyle(CWnd* owner, DrawingStruct* drawing, uint16_t style) {
     TableStruct* styles = BlocksFromDrawing(drawing);
     for (;;) {
@@ -15,7 +16,7 @@ uint16_t EditStyle(CWnd* owner, DrawingStruct* drawing, uint16_t style) {
         if (code > kStyleToDelete)
             BlockDispose(styles, static_cast<uint16_t>(code - kStyleToDelete));
         else if (code > kStyleChosen)
-            style = static_cast<uint16_t>(code - kStyleChosen); // the sheet comes again, over that one
+            style = static_cast<uint16_t>(code - kStyleChosen); // opens the sheet over that style
         else if (code != kStyleAdded)
             return style; // OK or Cancel
     }

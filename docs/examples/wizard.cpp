@@ -1,12 +1,12 @@
-// A wizard of two pages of the host's own.
+// A wizard with two pages.
 
 #include <orlo.h>
 
 class CNamePage : public CPropertyPage {
 public:
-    CNamePage() : CPropertyPage(200, 0) {} // a dialog template of the host's
+    CNamePage() : CPropertyPage(200, 0) {} // the number of a dialog template of the host
 
-    // Next and Finish ask first: an empty name keeps the page.
+    // Called by Next and Finish. If the name is empty, the page stays.
     BOOL OnKillActive() override {
         if (!CPropertyPage::OnKillActive()) return FALSE;
         GetDlgItem(101)->GetWindowText(m_name);
