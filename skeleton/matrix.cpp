@@ -9,7 +9,7 @@ namespace {
 
 constexpr MatrixStruct kIdentity = {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
 
-MatrixStruct* Followed(const MatrixStruct* matrix, const MatrixStruct& step) {
+MatrixStruct* AppliedBefore(const MatrixStruct* matrix, const MatrixStruct& step) {
     auto* product = new (std::nothrow) MatrixStruct{};
     if (!product) return nullptr;
     const MatrixStruct& first = matrix ? *matrix : kIdentity;
@@ -21,12 +21,12 @@ MatrixStruct* Followed(const MatrixStruct* matrix, const MatrixStruct& step) {
 }
 
 // Rotates the axis `from` toward the axis `to`.
-MatrixStruct* Turned(const MatrixStruct* matrix, int from, int to, double angle) {
+MatrixStruct* Rotated(const MatrixStruct* matrix, int from, int to, double angle) {
     MatrixStruct step = kIdentity;
     step.at[from][from] = step.at[to][to] = std::cos(angle);
     step.at[from][to] = std::sin(angle);
     step.at[to][from] = -std::sin(angle);
-    return Followed(matrix, step);
+    return AppliedBefore(matrix, step);
 }
 
 } // namespace
@@ -36,19 +36,19 @@ MatrixStruct* MatrixScale(const MatrixStruct* matrix, const VertexStruct* factor
     step.at[0][0] = factors->x;
     step.at[1][1] = factors->y;
     step.at[2][2] = factors->z;
-    return Followed(matrix, step);
+    return AppliedBefore(matrix, step);
 }
 
 MatrixStruct* MatrixRotateX(const MatrixStruct* matrix, double angle, int) {
-    return Turned(matrix, 1, 2, angle);
+    return Rotated(matrix, 1, 2, angle);
 }
 
 MatrixStruct* MatrixRotateY(const MatrixStruct* matrix, double angle, int) {
-    return Turned(matrix, 2, 0, angle);
+    return Rotated(matrix, 2, 0, angle);
 }
 
 MatrixStruct* MatrixRotateZ(const MatrixStruct* matrix, double angle, int) {
-    return Turned(matrix, 0, 1, angle);
+    return Rotated(matrix, 0, 1, angle);
 }
 
 MatrixStruct* MatrixOffset(const MatrixStruct* matrix, const VertexStruct* by) {
@@ -56,7 +56,7 @@ MatrixStruct* MatrixOffset(const MatrixStruct* matrix, const VertexStruct* by) {
     step.at[3][0] = by->x;
     step.at[3][1] = by->y;
     step.at[3][2] = by->z;
-    return Followed(matrix, step);
+    return AppliedBefore(matrix, step);
 }
 
 void MatrixDispose(MatrixStruct** matrix) {

@@ -46,7 +46,7 @@ struct Property {
     const char* name;
     int owners;
     bool (*accepts)(double);
-    uint32_t Content::*whole;
+    uint32_t Content::*integer;
     double Content::*real;
     std::string Content::*text;
 };
@@ -100,47 +100,47 @@ int Lookup(GraphicStruct* graphic, const char* const* names, int, int, int32_t* 
 }
 
 template <class Form>
-int Give(void* out, Form value) {
+int Store(void* out, Form value) {
     std::memcpy(out, &value, sizeof value);
     return 1;
 }
 
 template <class Form>
-Form Taken(const void* in) {
+Form Load(const void* in) {
     Form value;
     std::memcpy(&value, in, sizeof value);
     return value;
 }
 
-int GiveWhole(int vt, void* out, uint32_t value) {
+int StoreInteger(int vt, void* out, uint32_t value) {
     switch (vt) {
     case VT_I4:
     case VT_UI4:
-        return Give(out, value);
+        return Store(out, value);
     case VT_BOOL:
     case VT_UI2:
-        return value <= UINT16_MAX ? Give(out, static_cast<uint16_t>(value)) : 0;
+        return value <= UINT16_MAX ? Store(out, static_cast<uint16_t>(value)) : 0;
     case VT_UI1:
-        return value <= UINT8_MAX ? Give(out, static_cast<uint8_t>(value)) : 0;
+        return value <= UINT8_MAX ? Store(out, static_cast<uint8_t>(value)) : 0;
     default:
         return 0;
     }
 }
 
-bool TakeWhole(int vt, const void* in, uint32_t& value) {
+bool LoadInteger(int vt, const void* in, uint32_t& value) {
     switch (vt) {
     case VT_I4:
     case VT_UI4:
-        value = Taken<uint32_t>(in);
+        value = Load<uint32_t>(in);
         return true;
     case VT_BOOL:
-        value = Taken<int32_t>(in) != 0;
+        value = Load<int32_t>(in) != 0;
         return true;
     case VT_UI2:
-        value = Taken<uint16_t>(in);
+        value = Load<uint16_t>(in);
         return true;
     case VT_UI1:
-        value = Taken<uint8_t>(in);
+        value = Load<uint8_t>(in);
         return true;
     default:
         return false;
@@ -148,13 +148,13 @@ bool TakeWhole(int vt, const void* in, uint32_t& value) {
 }
 
 // Frees the previous string in the variable and stores the new one.
-int GiveText(void* out, const std::string& text) {
-    auto* made = static_cast<char*>(::DrawCoreNew(text.size() + 1));
-    if (!made) return 0;
-    std::memcpy(made, text.c_str(), text.size() + 1);
+int StoreString(void* out, const std::string& text) {
+    auto* copy = static_cast<char*>(::DrawCoreNew(text.size() + 1));
+    if (!copy) return 0;
+    std::memcpy(copy, text.c_str(), text.size() + 1);
     auto* variable = static_cast<char**>(out);
     ::BStringNULL(variable);
-    *variable = made;
+    *variable = copy;
     return 1;
 }
 
@@ -162,26 +162,26 @@ int Get(GraphicStruct* graphic, int32_t number, int vt, void* out) {
     const Property* row = RowOf(graphic, number);
     if (!row || !out) return 0;
     const Content& content = Graphic::From(graphic)->content;
-    if (row->whole) return GiveWhole(vt, out, content.*row->whole);
-    if (row->text) return vt == VT_BSTR ? GiveText(out, content.*row->text) : 0;
-    if (vt == VT_R8) return Give(out, content.*row->real);
-    return vt == VT_R4 ? Give(out, static_cast<float>(content.*row->real)) : 0;
+    if (row->integer) return StoreInteger(vt, out, content.*row->integer);
+    if (row->text) return vt == VT_BSTR ? StoreString(out, content.*row->text) : 0;
+    if (vt == VT_R8) return Store(out, content.*row->real);
+    return vt == VT_R4 ? Store(out, static_cast<float>(content.*row->real)) : 0;
 }
 
 int Set(GraphicStruct* graphic, int32_t number, int vt, const void* in) {
     const Property* row = RowOf(graphic, number);
     if (!row || !in) return 0;
     Content& content = Graphic::From(graphic)->content;
-    if (row->whole) {
+    if (row->integer) {
         uint32_t value;
-        if (!TakeWhole(vt, in, value) || !row->accepts(value)) return 0;
-        content.*row->whole = value;
+        if (!LoadInteger(vt, in, value) || !row->accepts(value)) return 0;
+        content.*row->integer = value;
     } else if (row->text) {
         if (vt != VT_BSTR) return 0;
         content.*row->text = static_cast<const char*>(in);
     } else {
         if (vt != VT_R8 && vt != VT_R4) return 0;
-        const double value = vt == VT_R8 ? Taken<double>(in) : Taken<float>(in);
+        const double value = vt == VT_R8 ? Load<double>(in) : Load<float>(in);
         if (!std::isfinite(value) || !row->accepts(value)) return 0;
         content.*row->real = value;
     }

@@ -48,7 +48,7 @@ uint16_t TableStruct::Add(const char* name, Entry rest) {
 
 namespace {
 
-uint16_t Behind(TableStruct* table, int id, int* cookie) {
+uint16_t NextEntry(TableStruct* table, int id, int* cookie) {
     const TableStruct* found = TableStruct::Find(table);
     if (!found || !cookie || id < 0 || id > UINT16_MAX) return 0;
     const auto next = found->entries.upper_bound(static_cast<uint16_t>(id));
@@ -64,7 +64,7 @@ const Type* Variable(TableStruct* table, uint16_t id) {
 }
 
 template <class Type>
-int GiveVariable(TableStruct* table, uint16_t id, Type* value) {
+int GetVariable(TableStruct* table, uint16_t id, Type* value) {
     const Type* variable = Variable<Type>(table, id);
     if (!variable || !value) return 0;
     *value = *variable;
@@ -72,7 +72,7 @@ int GiveVariable(TableStruct* table, uint16_t id, Type* value) {
 }
 
 template <class Type>
-int TakeVariable(TableStruct* table, uint16_t id, Type value) {
+int SetVariable(TableStruct* table, uint16_t id, Type value) {
     TableStruct* found = TableStruct::Find(table);
     if (!found) return 0;
     found->variables[id] = std::move(value);
@@ -82,11 +82,11 @@ int TakeVariable(TableStruct* table, uint16_t id, Type value) {
 } // namespace
 
 uint16_t TableEntryFirst(TableStruct* table, int* cookie) {
-    return Behind(table, 0, cookie);
+    return NextEntry(table, 0, cookie);
 }
 
 uint16_t TableEntryNext(TableStruct* table, int* cookie) {
-    return cookie ? Behind(table, *cookie, cookie) : uint16_t{0};
+    return cookie ? NextEntry(table, *cookie, cookie) : uint16_t{0};
 }
 
 int TableEntryGetName(TableStruct* table, uint16_t id, char* buffer, int size) {
@@ -117,11 +117,11 @@ DrawingStruct* TableGetOwner(TableStruct* table) {
 }
 
 int TableGetIntVar(TableStruct* table, uint16_t id, long* value) {
-    return GiveVariable(table, id, value);
+    return GetVariable(table, id, value);
 }
 
 int TableGetNumericVar(TableStruct* table, uint16_t id, double* value) {
-    return GiveVariable(table, id, value);
+    return GetVariable(table, id, value);
 }
 
 int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
@@ -132,13 +132,13 @@ int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
 }
 
 int TableSetIntVar(TableStruct* table, uint16_t id, long value) {
-    return TakeVariable(table, id, value);
+    return SetVariable(table, id, value);
 }
 
 int TableSetNumericVar(TableStruct* table, uint16_t id, double value) {
-    return TakeVariable(table, id, value);
+    return SetVariable(table, id, value);
 }
 
 int TableSetStringVar(TableStruct* table, uint16_t id, const char* text) {
-    return text ? TakeVariable(table, id, std::string(text)) : 0;
+    return text ? SetVariable(table, id, std::string(text)) : 0;
 }

@@ -14,12 +14,12 @@ constexpr double kDegrees = 57.29577951308232;
 
 struct Unit {
     const char* name;
-    double millimetres;
+    double millimeters;
 };
 constexpr Unit kUnits[] = {
     {"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", kMillimetersPerInch}, {"pt", kMillimetersPerInch / 72}};
 
-const Unit* UnitNamed(const std::string& name) {
+const Unit* FindUnit(const std::string& name) {
     for (const Unit& unit : kUnits)
         if (name == unit.name) return &unit;
     return nullptr;
@@ -27,7 +27,7 @@ const Unit* UnitNamed(const std::string& name) {
 
 const Unit* UnitOf(TableStruct* units, uint16_t variable) {
     char name[16] = "";
-    return ::TableGetStringVar(units, variable, name, sizeof name) ? UnitNamed(name) : nullptr;
+    return ::TableGetStringVar(units, variable, name, sizeof name) ? FindUnit(name) : nullptr;
 }
 
 const char* SkipBlanks(const char* text) {
@@ -36,27 +36,27 @@ const char* SkipBlanks(const char* text) {
 
 // Reads a number with an optional unit; without one it is in the given unit. Returns false if the text is anything
 // else.
-bool ReadLength(const char* text, const Unit& customary, double& millimetres) {
+bool ReadLength(const char* text, const Unit& defaultUnit, double& millimeters) {
     char* end = nullptr;
     const double number = ::StringToDouble(0, text, &end);
     if (end == text) return false;
     std::string name = SkipBlanks(end);
     while (!name.empty() && std::strchr(" \t", name.back()))
         name.pop_back();
-    const Unit* unit = name.empty() ? &customary : UnitNamed(name);
+    const Unit* unit = name.empty() ? &defaultUnit : FindUnit(name);
     if (!unit) return false;
-    millimetres = number * unit->millimetres;
-    return std::isfinite(millimetres);
+    millimeters = number * unit->millimeters;
+    return std::isfinite(millimeters);
 }
 
 // Returns 0 if the text does not fit: truncated, it would be another number.
-int Give(const std::string& text, char* buffer, int size) {
+int Store(const std::string& text, char* buffer, int size) {
     if (text.size() >= static_cast<size_t>(std::max(size, 0))) return 0;
     CopyText(text, buffer, size);
     return 1;
 }
 
-std::string Shown(double number) {
+std::string NumberText(double number) {
     char text[32];
     std::snprintf(text, sizeof text, "%.10g", number);
     return text;
@@ -64,7 +64,7 @@ std::string Shown(double number) {
 
 // Lengths in the drawing are in drawing units, lengths on paper in millimeters.
 double NumberUnit(uint16_t variable, const Unit& own) {
-    return variable == kUnitDrawing ? own.millimetres : 1.0;
+    return variable == kUnitDrawing ? own.millimeters : 1.0;
 }
 
 uint16_t NumberIn(uint16_t space) {
@@ -104,9 +104,9 @@ int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, 
                          double* value) {
     const Unit* own = UnitOf(units, number);
     const Unit* shown = UnitOf(units, display ? display : number);
-    double millimetres;
-    if (!own || !shown || !text || !value || !ReadLength(text, *shown, millimetres)) return 0;
-    *value = millimetres / NumberUnit(number, *own);
+    double millimeters;
+    if (!own || !shown || !text || !value || !ReadLength(text, *shown, millimeters)) return 0;
+    *value = millimeters / NumberUnit(number, *own);
     return 1;
 }
 
@@ -115,9 +115,9 @@ int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, 
     const Unit* own = UnitOf(units, number);
     const Unit* shown = UnitOf(units, display ? display : number);
     if (!own || !shown || !std::isfinite(value)) return 0;
-    std::string text = Shown(value * NumberUnit(number, *own) / shown->millimetres);
+    std::string text = NumberText(value * NumberUnit(number, *own) / shown->millimeters);
     if (suffix) text += std::string(" ") + shown->name;
-    return Give(text, buffer, size);
+    return Store(text, buffer, size);
 }
 
 int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space,
@@ -151,7 +151,7 @@ int DrawingStdTextToAngle(DrawingStruct*, const char* text, double* value, int) 
 }
 
 int DrawingStdAngleToText(DrawingStruct*, double value, char* buffer, int size, int) {
-    return std::isfinite(value) ? Give(Shown(value * kDegrees), buffer, size) : 0;
+    return std::isfinite(value) ? Store(NumberText(value * kDegrees), buffer, size) : 0;
 }
 
 double UnitsGetScaleValue(TableStruct* units, const char* text) {
@@ -166,13 +166,13 @@ double UnitsGetScaleValue(TableStruct* units, const char* text) {
 
 int UnitsMakeScaleString(TableStruct*, double scale, char* buffer, int size) {
     if (!(scale > 0) || !std::isfinite(scale) || !std::isfinite(1 / scale)) return 0;
-    return Give(scale >= 1 ? "1 : " + Shown(scale) : Shown(1 / scale) + " : 1", buffer, size);
+    return Store(scale >= 1 ? "1 : " + NumberText(scale) : NumberText(1 / scale) + " : 1", buffer, size);
 }
 
 int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
     const Unit* unit = UnitOf(units, variable);
     if (!unit || !value) return 0;
-    *value = unit->millimetres;
+    *value = unit->millimeters;
     return 1;
 }
 

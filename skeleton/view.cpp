@@ -66,13 +66,13 @@ double TextWidth(const Content& content) {
 
 // Calls visit(graphic, placement) for the graphic and its members, including those of inserted blocks.
 template <class Visit>
-void ForEachPart(const Graphic& graphic, const Placement& placement, Visit visit) {
+void ForEachMember(const Graphic& graphic, const Placement& placement, Visit visit) {
     visit(graphic, placement);
     for (const auto& member : graphic.members)
-        ForEachPart(*member, placement, visit);
+        ForEachMember(*member, placement, visit);
     if (graphic.bType != kGraphicInsert) return;
     if (const Graphic* block = BlockOf(graphic))
-        ForEachPart(*block, PlacementOf(graphic.content).Then(placement), visit);
+        ForEachMember(*block, PlacementOf(graphic.content).Then(placement), visit);
 }
 
 COLORREF PlainColor(const Graphic& graphic, uint32_t color) {
@@ -215,7 +215,7 @@ const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int) {
     if (!graphic) return nullptr;
     ExtentsStruct& extents = Graphic::From(graphic)->extents;
     extents = {};
-    ForEachPart(*Graphic::From(graphic), {}, [&](const Graphic& part, const Placement& to) {
+    ForEachMember(*Graphic::From(graphic), {}, [&](const Graphic& part, const Placement& to) {
         const Content& content = part.content;
         if (part.bType == kGraphicVertices)
             for (const VertexStruct& vertex : content.vertices)
@@ -240,8 +240,8 @@ void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, Viewport
     if (!graphic || !viewport || !viewport->dc || viewport->shown.IsEmpty()) return;
     Painter painter(viewport->dc);
     painter.Clip(viewport->rect);
-    ForEachPart(*Graphic::From(graphic), PlacementOf(matrix).Then(ToDevice(*viewport)),
-                [&](const Graphic& part, const Placement& to) { painter.Draw(part, to); });
+    ForEachMember(*Graphic::From(graphic), PlacementOf(matrix).Then(ToDevice(*viewport)),
+                  [&](const Graphic& part, const Placement& to) { painter.Draw(part, to); });
 }
 
 // ---- Texts

@@ -67,8 +67,8 @@ public:
         }
     }
 
-    // The class of a control is a string, as the resource compiler writes it.
-    bool TakeText(const char* wanted) {
+    // Reads a name or number. Returns true if it is that name; classes of controls are written as names.
+    bool NextNameIs(const char* wanted) {
         const Reader before = *this;
         if (Word() == 0xFFFF) {
             Word();
@@ -158,7 +158,7 @@ void AfxDialogTemplate::ScrollCombos(std::vector<BYTE>& copy) const {
         reader.Align(m_size);
         const std::size_t at = m_size - reader.Left();
         reader.Skip(kStylesPlaceAndId);
-        const bool isCombo = reader.TakeText("COMBOBOX");
+        const bool isCombo = reader.NextNameIs("COMBOBOX");
         reader.SkipNameOrNumber(); // its text
         reader.Skip(reader.Word());
         if (!isCombo || m_size - at < sizeof style) continue;

@@ -124,11 +124,11 @@ BOOL CWnd::DestroyWindow() {
     HWND hWnd = m_hWnd;
     // With the framework's procedure, the object is removed from the map at the window's last message and can then be
     // deleted.
-    const bool told =
+    const bool isInMap =
         FromHandlePermanent(hWnd) == this &&
         reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(hWnd, GWLP_WNDPROC)) == AfxGetAfxWndProc();
     const BOOL destroyed = ::DestroyWindow(hWnd);
-    if (!told) Detach();
+    if (!isInMap) Detach();
     return destroyed;
 }
 

@@ -1,5 +1,5 @@
-// Provides what a sheet needs from the framework in a program that does not use it: an application object for the thread,
-// a main window that receives the notifications of controls, and an object for the owner's window.
+// Provides what a sheet needs from the framework in a program that does not use it: an application object for the
+// thread, a main window that receives the notifications of controls, and an object for the owner's window.
 #pragma once
 
 #include <afxwin.h>
@@ -28,8 +28,8 @@ private:
 // Scopes of one thread can be nested.
 class FrameworkScope {
 public:
-    // owner is null or a window of this thread. Throws Refusal if it is neither, if the framework runs on another thread,
-    // or if the main window cannot be created.
+    // owner is null or a window of this thread. Throws Refusal if it is neither, if the framework runs on another
+    // thread, or if the main window cannot be created.
     FrameworkScope(HWND owner, ControlReady onReady);
     ~FrameworkScope();
     FrameworkScope(const FrameworkScope&) = delete;

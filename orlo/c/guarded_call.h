@@ -15,12 +15,12 @@ struct Refusal {
 };
 
 [[noreturn]] void Refuse(OrloResult result, const char* text);
-// Throws Refusal with kOrloSystemError (kOrloOutOfMemory for E_OUTOFMEMORY). The text is `what`, a colon and the system's
-// message for the error.
+// Throws Refusal with kOrloSystemError (kOrloOutOfMemory for E_OUTOFMEMORY). The text is `what`, a colon and the
+// system's message for the error.
 [[noreturn]] void RefuseWithSystemError(long error, const char* what);
 
-// Runs the body of one function. Returns kOrloOk, or the result code for the exception that `work` threw; the message is
-// then stored for OrloGetErrorText.
+// Runs the body of one function. Returns kOrloOk, or the result code for the exception that `work` threw; the message
+// is then stored for OrloGetErrorText.
 OrloResult GuardedCall(const std::function<void()>& work);
 
 // Returns *pointer. Throws Refusal if it is null.

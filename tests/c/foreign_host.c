@@ -1,8 +1,8 @@
-// A host that knows nothing of this project's compiler: C99, orlo_c.h, and the few functions of the system it declares itself.
+// A host for any compiler: C99, orlo_c.h, and its own declarations of a few functions of the system.
 //
-//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have one pen colour; else the number of the error
+//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have the same pen color; else the error
 //
-// The database is taken by name. If drawcore32.dll is the adapter, it is handed that database first.
+// The functions of the database are looked up by name. If drawcore32.dll is the adapter, they are passed to it first.
 
 #include <orlo_c.h>
 
@@ -23,7 +23,7 @@ __declspec(dllimport) HWND WINAPI GetActiveWindow(void);
 __declspec(dllimport) void WINAPI ExitProcess(unsigned int code);
 #endif
 
-// The slots of a graphic's property table, as the contract has them.
+// The functions in a graphic's property table, as the contract defines them.
 typedef struct Slots {
     void* first;
     int (*lookup)(void* graphic, const char* const* name, int count, int reserved, int32_t* number);
@@ -54,7 +54,7 @@ static void TakeAll(HMODULE module, Database* all) {
     *(void**)&all->slots = Take(module, "GraphicGetVtbl");
 }
 
-// Whether all graphics that have a pen colour have the same.
+// Returns 1 if all graphics with a pen color have the same one.
 static int OneColor(const Database* database, struct GraphicStruct* set) {
     static const char* const name = kPropPenColor;
     uint32_t place, color = 0, other;
@@ -73,7 +73,7 @@ static int OneColor(const Database* database, struct GraphicStruct* set) {
     return count > 1;
 }
 
-// Fills all but the layers, whose control stays empty.
+// Leaves the control of layers empty.
 static void ORLO_CALL Fill(void* context, OrloFill* fill) {
     ++*(int*)context;
     if (fill->kind == 0x7D08) fill->table = 0;
@@ -85,7 +85,7 @@ static int RunSheet(const Database* database, struct DrawingStruct* drawing) {
     int32_t code = 99;
     OrloSheet sheet = {0};
     HWND owner = CreateWindowExA(0, "STATIC", "Host", 0x10CF0000u, 50, 50, 400, 300, 0, 0, 0, 0);
-    if (OneColor(database, all)) return 3; // nothing to see
+    if (OneColor(database, all)) return 3; // OK would change nothing
     sheet.size = sizeof sheet;
     sheet.filter = kAllGraphics;
     sheet.owner = owner;
@@ -100,7 +100,7 @@ static int RunSheet(const Database* database, struct DrawingStruct* drawing) {
     return OneColor(database, all) ? 0 : 8;
 }
 
-// Arguments without blanks.
+// Splits the command line at blanks.
 static const wchar_t* Argument(const wchar_t* line, int count, wchar_t* buffer) {
     while (count-- > 0) {
         while (*line != 0 && *line != ' ')
@@ -116,14 +116,14 @@ static const wchar_t* Argument(const wchar_t* line, int count, wchar_t* buffer) 
 
 #ifdef WITH_ADAPTER
 static void HandOver(HMODULE module) {
-    static DrawCoreHost host; // too large for a stack that nobody probes
+    static DrawCoreHost host; // too large for the stack, which is not probed
     const char* text = "12";
     char* end = 0;
 #define TAKE(function) *(void**)&host.function = Take(module, #function);
     DRAWCORE_HOST_FUNCTIONS(TAKE)
     if (AppGetCurrentApp() != 0 || StringToDouble(0, text, &end) != 0 || end != text) ExitProcess(10);
     if (DrawCoreSetHost(&host, 0) || DrawCoreSetHost(&host, sizeof host + sizeof(void*))) ExitProcess(11);
-    if (!DrawCoreSetHost(&host, sizeof(void*)) || AppGetCurrentApp() == 0) ExitProcess(12); // an early host's
+    if (!DrawCoreSetHost(&host, sizeof(void*)) || AppGetCurrentApp() == 0) ExitProcess(12); // early version
     if (StringToDouble(0, text, &end) != 0) ExitProcess(13);
     if (!DrawCoreSetHost(&host, sizeof host) || StringToDouble(0, text, &end) != 12) ExitProcess(14);
 }

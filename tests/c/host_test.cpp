@@ -1,4 +1,4 @@
-// Hosts in C, of this compiler and of another, as programs of their own over a real drawing.
+// Hosts in C, built by this compiler and by another one, run as programs over a real drawing.
 
 #include "support/host_process.h"
 

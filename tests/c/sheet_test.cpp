@@ -1,4 +1,4 @@
-// The sheet through the C interface inside a program of the framework, and the arguments that it refuses.
+// The sheet through the C interface in a program that uses the framework, and invalid arguments.
 
 #include <afxwin.h>
 #include <orlo_c.h>
@@ -46,22 +46,22 @@ TEST(CSheet, LeavesTheFrameworkOfAProgramAsItWas) {
     ::SetTimer(nullptr, 0, 10, CancelSheet);
     EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloOk) << ErrorText();
     EXPECT_EQ(code, IDCANCEL);
-    EXPECT_FALSE(frame.notifications.empty()); // its own frame is asked as ever
+    EXPECT_FALSE(frame.notifications.empty()); // sent to the program's own frame
     EXPECT_EQ(AfxGetApp(), application);
     EXPECT_EQ(AfxGetMainWnd(), &frame);
     EXPECT_EQ(CWnd::FromHandlePermanent(sheet.owner), &frame);
 }
 
-TEST(CSheet, RefusesWrongArguments) {
+TEST(CSheet, RejectsInvalidArguments) {
     GraphicKit kit;
     int32_t code = 9;
     OrloSheet sheet = SheetOver(kit);
     sheet.size = 0;
     sheet.drawing = nullptr;
     EXPECT_EQ(OrloRunSheet(nullptr, &code), kOrloBadArgument);
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // its size
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // invalid size
     sheet.size = sizeof sheet;
-    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // its drawing
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // no drawing
     sheet.drawing = kit.Drawing();
     EXPECT_EQ(OrloRunSheet(&sheet, nullptr), kOrloBadArgument);
     sheet.owner = reinterpret_cast<HWND>(uintptr_t{0x1234});
@@ -69,9 +69,9 @@ TEST(CSheet, RefusesWrongArguments) {
     sheet.owner = ::GetDesktopWindow();
     EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadThread);
     sheet.owner = nullptr;
-    OrloResult elsewhere = kOrloOk; // than on the thread that has the framework
-    std::thread([&] { elsewhere = OrloRunSheet(&sheet, &code); }).join();
-    EXPECT_EQ(elsewhere, kOrloBadThread);
+    OrloResult onOtherThread = kOrloOk;
+    std::thread([&] { onOtherThread = OrloRunSheet(&sheet, &code); }).join();
+    EXPECT_EQ(onOtherThread, kOrloBadThread);
     EXPECT_EQ(code, 0);
     char one[1] = {'x'};
     EXPECT_EQ(OrloGetErrorText(one, 1), ErrorText().size() + 1);

@@ -351,8 +351,9 @@ void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
 
 GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter) {
     GraphicStruct* next = Original_GraphicNext(set, position, flags, filter);
-    uint32_t behind = *static_cast<uint32_t*>(position);
-    return Is("last member left out") && !Original_GraphicNext(set, &behind, flags, filter) ? nullptr : next;
+    uint32_t nextPosition = *static_cast<uint32_t*>(position);
+    return Is("last member left out") && !Original_GraphicNext(set, &nextPosition, flags, filter) ? nullptr
+                                                                                                  : next;
 }
 
 GraphicStruct* GraphicCopyEx(GraphicStruct* graphic, int reserved1, int reserved2, int flags) {
