@@ -85,9 +85,9 @@ enum {
 ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;                  // all graphics, without the style part
 ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFFu - kNoStylePart; // all graphics, with the style part
 
-// Markers: colors that are not a COLORREF (0x00bbggrr).
-ORLO_CONSTANT uint32_t kColorIndeterminate =
-    0xFFFFFFFFu; // the graphics of a selection differ; never stored in a graphic
+// Markers: colors that are not a COLORREF (0x00bbggrr). An indeterminate value (color, line style, brush style, scale
+// system) means that the graphics of a selection differ; it is never stored in a graphic.
+ORLO_CONSTANT uint32_t kColorIndeterminate = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kColorNone = 0xFFFFFFFEu;
 ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
@@ -98,7 +98,7 @@ enum {
     kLineStyleNone = 0, // no line
     kLineStyleByBlock = 65533,
     kLineStyleByLayer = 65534,
-    kLineStyleIndeterminate = 65535 // the graphics of a selection differ; never stored in a graphic
+    kLineStyleIndeterminate = 65535
 };
 
 // Markers: brush styles that are not an entry of kTableBrushStyles.
@@ -111,7 +111,7 @@ enum {
 enum {
     kScaleWorld = 0,           // drawing units; the width grows with the drawing
     kScalePaper = 2,           // inches on paper; the same width at every zoom
-    kScaleIndeterminate = 0xFF // the graphics of a selection differ; widths are then displayed as on paper
+    kScaleIndeterminate = 0xFF // widths are then displayed as on paper
 };
 
 // Spaces of lengths (DrawingGetCoordSpace).
