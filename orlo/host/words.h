@@ -118,7 +118,7 @@ enum {
 enum {
     kSpaceWorld = 0, // drawing units
     kSpacePaper = 1, // millimeters
-    kSpaceDevice = 2 // pixels; lengths cannot be converted
+    kSpaceDevice = 2 // a device; lengths cannot be converted
 };
 
 // Variables of a units table. They are strings.
