@@ -131,6 +131,20 @@ TEST_F(Save, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
     EXPECT_TRUE(IsWritten(kDrawings + "made-gbk-R2004.dxf"));
 }
 
+TEST_F(Save, LooksAgainRightBeforeItReplacesTheFile) {
+    fs::copy_file(kDrawings + "made-gbk-R2004.dxf", path, fs::copy_options::overwrite_existing);
+    const OwnedDrawing drawing = Open(path);
+    const auto change = [](void* context, int permille) {
+        if (permille == 1000) std::ofstream(*static_cast<const fs::path*>(context)) << "of another program";
+        return 1;
+    };
+    fs::path file = path;
+    const DxfListener listener = {&file, change, nullptr};
+    EXPECT_EQ(Write(drawing, 0, &listener), kSaveFileChanged);
+    EXPECT_EQ(ReadBytes(path), "of another program");
+    EXPECT_FALSE(LeavesOthersBehind());
+}
+
 // Not to be taken for a file that has changed: to overwrite it would not help.
 TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
     const fs::path original = kDrawings + "made-gbk-R2004.dxf";
@@ -139,8 +153,7 @@ TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
     const HANDLE held = ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message.find("the file cannot be read, perhaps because another program holds it: "), 0u)
-        << message;
+    EXPECT_EQ(message.find("the file cannot be opened: another program has it open"), 0u) << message;
     EXPECT_EQ(Write(drawing, kSaveOverChanged), kSaveFailed);
     EXPECT_EQ(message.find("the file cannot be replaced: "), 0u) << message;
     EXPECT_FALSE(LeavesOthersBehind());
@@ -151,7 +164,7 @@ TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
     const fs::path nowhere = path.parent_path() / "no such folder" / "x.dxf";
     char text[256] = "";
     EXPECT_EQ(DrawingSaveDxf(drawing.get(), nowhere.c_str(), 0, nullptr, text, sizeof text), kSaveFailed);
-    EXPECT_EQ(std::string(text).find("no file can be made beside the drawing: "), 0u) << text;
+    EXPECT_EQ(std::string(text).find("no file can be created in its folder: no such folder"), 0u) << text;
     fs::remove(path);
     EXPECT_EQ(Write(drawing), kSaveDone) << "a file that is gone can be written anew: " << message;
     EXPECT_TRUE(IsWritten(original));

@@ -1,12 +1,10 @@
 // Reading, changing and comparing drawings.
 #include "tools/dxfprops/commands.h"
 
-#include <filesystem>
 #include <map>
 
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/save/drawing_patch.h"
-#include "drawcore/src/save/file_replacement.h"
 #include "drawcore/src/save/save_error.h"
 namespace dxfprops {
 
@@ -90,12 +88,7 @@ SetResult SetProperties(const std::string& file, const std::vector<Condition>& w
     std::string bytes =
         drawing.Bytes().substr(0, drawing.Bytes().size() - drawing.Text().size()) + patch.Finish();
     Check(drawing, patch.Known(), wanted, bytes);
-    const std::filesystem::path target = std::filesystem::u8path(output);
-    if (output == file && !dxf::Holds(target, drawing.Bytes()))
-        throw dxf::SaveError("the file was changed while this program worked on it");
-    dxf::FileReplacement replacement(target);
-    replacement.Write(bytes, {});
-    replacement.TakePlace();
+    drawing.Write(bytes, output);
     return result;
 }
 

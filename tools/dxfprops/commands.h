@@ -29,8 +29,8 @@ struct SetResult {
     std::set<std::string> kinds; // if none matched: what there is in their place
 };
 
-// Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into `output`:
-// only what has changed differs. A value that is none of its property is a SaveError even if no entity takes it.
+// Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into `output`, as
+// DrawingFile::Write does: only what has changed differs. A value that is none of its property is a SaveError even if no entity takes it.
 SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
                         const std::vector<Condition>& values, const std::string& output);
 

@@ -2,12 +2,15 @@
 #include "tools/dxfprops/drawing_file.h"
 
 #include <algorithm>
-#include <filesystem>
+#include <cstdio>
 
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
 #include "drawcore/src/tables/fold_name.h"
+#include "files/file_error.h"
+#include "files/file_replacement.h"
+#include "files/open_file.h"
 
 namespace dxfprops {
 
@@ -19,8 +22,25 @@ std::string EntityName::Text() const {
 }
 
 DrawingFile::DrawingFile(const std::string& file)
-    : bytes_(dxf::ReadBytes(std::filesystem::u8path(file))), document_(dxf::Read(bytes_, {})),
+    : path_(std::filesystem::u8path(file)), bytes_(dxf::ReadBytes(path_)), document_(dxf::Read(bytes_, {})),
       texts_(document_) {}
+
+void DrawingFile::Write(const std::string& bytes, const std::string& output) const {
+    if (output == kStandardOutput) {
+        if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() || std::fflush(stdout) != 0)
+            files::ThrowLastError("the drawing cannot be written");
+        return;
+    }
+    const std::filesystem::path target = std::filesystem::u8path(output);
+    std::error_code isNew;
+    const bool isOwn = std::filesystem::equivalent(target, path_, isNew);
+    if (isOwn && bytes == bytes_) return;
+    files::FileReplacement replacement(target);
+    replacement.Write(bytes);
+    if (isOwn && !files::HasContents(target, bytes_))
+        throw dxf::SaveError("the file was changed while this program worked on it");
+    replacement.TakePlace();
+}
 
 std::string_view DrawingFile::Text() const {
     return dxf::TextOf(bytes_);

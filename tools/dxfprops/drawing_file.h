@@ -1,6 +1,7 @@
 // A drawing in a file with the entities that have properties.
 #pragma once
 
+#include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,6 +18,9 @@ struct Condition {
 };
 // Names of conditions that are no properties.
 constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
+
+// The name of standard output.
+constexpr char kStandardOutput[] = "-";
 
 // An entity as it is named in messages.
 struct EntityName {
@@ -44,6 +48,10 @@ public:
 
     std::string_view Text() const;
     const std::string& Bytes() const { return bytes_; }
+    // Replaces the output file, or prints the bytes if the output is kStandardOutput. The drawing's own file is left alone if
+    // the bytes are its own, and refused if it has been changed meanwhile. Throws FileError and SaveError.
+    void Write(const std::string& bytes, const std::string& output) const;
+
     const dxf::Document& Document() const { return document_; }
     const PropertyTexts& Texts() const { return texts_; }
 
@@ -59,6 +67,7 @@ private:
     std::vector<Found> Around(const std::vector<Condition>& where) const;
     bool Meets(const Found& found, const std::vector<Condition>& where) const;
 
+    const std::filesystem::path path_;
     const std::string bytes_;
     const dxf::Document document_;
     const PropertyTexts texts_;

@@ -14,6 +14,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "files/file_replacement.h"
 #include "tools/dxfprops/list_drawings.h"
 #include "tools/dxfprops/output.h"
 
@@ -158,8 +159,9 @@ int Set(CommandLine& line) {
     const int result = ForEach(line.files, [&](const std::string& file) {
         const SetResult set = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
         matches.Add(set.matched, set.kinds);
-        std::cout << file << ": " << set.changed
-                  << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
+        (line.output == kStandardOutput ? std::cerr : std::cout)
+            << file << ": " << set.changed
+            << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
     });
     return ResultOf(result, line, matches);
 }
@@ -180,6 +182,7 @@ int Diff(const CommandLine& line) {
 }
 
 int Run(std::vector<std::string> arguments) {
+    files::RemoveTemporaryFileOnInterrupt();
     CLI::App usage{"Reads and sets the properties of entities in DXF drawings.", "dxfprops"};
     CommandLine line;
     usage.allow_windows_style_options(false);
@@ -203,7 +206,7 @@ int Run(std::vector<std::string> arguments) {
     where(get);
     CLI::App* set = usage.add_subcommand("set", "Set properties of entities");
     set->add_option("FILE PROPERTY=VALUE", line.rest, "drawings, and what is set")->required();
-    set->add_option("-o", line.output, "the file that the drawing is written into");
+    set->add_option("-o", line.output, "the file that the drawing is written into; - is standard output");
     set->add_flag("--in-place", line.inPlace, "each drawing is written into its own file");
     where(set);
     CLI::App* diff = usage.add_subcommand("diff", "Print which properties differ");

@@ -14,8 +14,9 @@
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/progress_report.h"
-#include "drawcore/src/save/file_replacement.h"
 #include "drawcore/src/save/save_error.h"
+#include "files/file_replacement.h"
+#include "files/open_file.h"
 
 using namespace drawcore;
 
@@ -134,14 +135,17 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
 
 int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, const ProgressReport& report) {
     DxfSource& source = *drawing.source;
-    const bool replacesSource = IsSameFile(path, source.path);
-    if (replacesSource && !(flags & kSaveOverChanged) && !dxf::Holds(path, source.bytes))
-        return kSaveFileChanged;
+    const bool mustBeSource = IsSameFile(path, source.path) && !(flags & kSaveOverChanged);
+    const auto isChanged = [&] { return mustBeSource && !files::HasContents(path, source.bytes); };
+    if (isChanged()) return kSaveFileChanged;
     report(0);
     std::optional<ChangedSource> changed = Changed(drawing, report);
-    dxf::FileReplacement file(path);
-    file.Write(changed ? changed->bytes : source.bytes, report.Part(kCompared, 1000));
-    file.TakePlace(); // from here on nothing is cancelled
+    const std::string& bytes = changed ? changed->bytes : source.bytes;
+    const dxf::Progress progress = report.Part(kCompared, 1000);
+    files::FileReplacement file(path);
+    file.Write(bytes, [&](size_t written) { progress(dxf::Permille(written, bytes.size())); });
+    if (isChanged()) return kSaveFileChanged; // while it was written
+    file.TakePlace();                         // from here on nothing is cancelled
     if (changed) TakeOver(std::move(*changed), source);
     source.NoteContents(drawing);
     source.path = path;
@@ -168,7 +172,7 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         return kSaveCancelled;
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory to save the drawing", message, size);
-    } catch (const std::exception& error) { // SaveError, ReadError, of a path
+    } catch (const std::exception& error) { // SaveError, ReadError, FileError, of a path
         CopyText(error.what(), message, size);
     }
     return kSaveFailed;

@@ -1,0 +1,76 @@
+// Wording of system errors.
+
+#include "files/file_error.h"
+
+#include <array>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cerrno>
+#endif
+
+namespace files {
+namespace {
+
+struct Wording {
+    std::errc reason;
+    const char* text;
+};
+constexpr std::array kWordings = {
+    Wording{std::errc::no_such_file_or_directory, "no such file"},
+    Wording{std::errc::not_a_directory, "no such folder"},
+    Wording{std::errc::permission_denied, "access is denied, or the file is read-only"},
+    Wording{std::errc::operation_not_permitted, "access is denied, or the file is read-only"},
+    Wording{std::errc::read_only_file_system, "access is denied, or the file is read-only"},
+    Wording{std::errc::is_a_directory, "it is a folder"},
+    Wording{std::errc::no_space_on_device, "the disk is full"},
+    Wording{std::errc::io_error, "the disk is full or failed"},
+    Wording{std::errc::device_or_resource_busy, "another program has it open"},
+    Wording{std::errc::not_enough_memory, "not enough memory"},
+};
+
+// The condition that an error stands for.
+std::error_condition ConditionOf(const std::error_code& error) {
+#ifdef _WIN32
+    if (error.category() == std::system_category()) switch (error.value()) {
+        case ERROR_PATH_NOT_FOUND:
+        case ERROR_DIRECTORY:
+            return std::errc::not_a_directory;
+        case ERROR_READ_FAULT:
+        case ERROR_WRITE_FAULT:
+            return std::errc::io_error;
+        default:
+            break;
+        }
+#endif
+    return error.default_error_condition();
+}
+
+std::string TextOf(const std::error_code& error) {
+    const std::error_condition condition = ConditionOf(error);
+    for (const Wording& wording : kWordings)
+        if (condition == wording.reason) return wording.text;
+    std::string text = error.message();
+    text.erase(text.find_last_not_of("\r\n. ") + 1);
+    return text;
+}
+
+} // namespace
+
+FileError::FileError(const std::string& what, std::error_code reason)
+    : std::runtime_error(what + ": " + TextOf(reason)), reason_(reason) {}
+
+std::error_code LastError() {
+#ifdef _WIN32
+    return {static_cast<int>(::GetLastError()), std::system_category()};
+#else
+    return {errno, std::generic_category()};
+#endif
+}
+
+void ThrowLastError(const std::string& what) {
+    throw FileError(what, LastError());
+}
+
+} // namespace files

@@ -1,0 +1,279 @@
+// Creates, describes and renames files by the calls of the system.
+
+#include "files/file_replacement.h"
+
+#include <algorithm>
+#include <atomic>
+#include <string>
+#include <vector>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+#endif
+
+#include "files/file_error.h"
+#include "files/open_file.h"
+
+namespace fs = std::filesystem;
+
+namespace files {
+namespace {
+
+constexpr char kNotReplaced[] = "the file cannot be replaced";
+constexpr char kNotKept[] = "owner, permissions and attributes of the file cannot be kept";
+
+// What an interrupt removes; null if there is nothing.
+std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
+
+[[noreturn]] void RefuseIrregular() {
+    throw FileError("it is not a regular file and cannot be replaced");
+}
+
+struct Found {
+    fs::path path;
+    bool isThere;
+};
+
+#ifdef _WIN32
+
+unsigned long ProcessId() {
+    return ::GetCurrentProcessId();
+}
+
+struct SignalsHeld {
+    ~SignalsHeld() {} // an interrupt runs in a thread of its own, which tries again
+};
+
+// The file that a name stands for. Devices have names in every folder.
+Found FileBehind(const fs::path& target) {
+    const DWORD attributes = ::GetFileAttributesW(target.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        RefuseIrregular();
+    const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
+    if (!file && attributes == INVALID_FILE_ATTRIBUTES) return {target, false};
+    if (!file) ThrowLastError(kNotReplaced); // such as a link to nothing
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) RefuseIrregular();
+    if (attributes & FILE_ATTRIBUTE_READONLY) throw FileError("the file is read-only");
+    std::wstring path(32768, L'\0'); // no path is longer
+    const DWORD size =
+        ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
+    if (size == 0 || size >= path.size()) return {target, true}; // a file system without such names
+    path.resize(size);
+    return {path, true};
+}
+
+OpenFile Create(const fs::path& path, bool) {
+    return OpenFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+}
+
+bool Exists(const std::error_code& error) {
+    return error.value() == ERROR_FILE_EXISTS || error.value() == ERROR_ALREADY_EXISTS;
+}
+
+using AccessList = std::vector<char>; // self-relative; empty if the file system has none
+
+AccessList AccessListOf(const fs::path& path) {
+    DWORD size = 0;
+    ::GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    AccessList list(size);
+    if (!::GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, list.data(), size, &size)) list.clear();
+    return list;
+}
+
+void KeepAttributes(const fs::path& from, const fs::path& to) {
+    AccessList list = AccessListOf(from);
+    if (!list.empty() && list != AccessListOf(to) &&
+        !::SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, list.data()))
+        ThrowLastError(kNotKept);
+    WIN32_FILE_ATTRIBUTE_DATA kept;
+    if (!::GetFileAttributesExW(from.c_str(), GetFileExInfoStandard, &kept)) ThrowLastError(kNotKept);
+    ::SetFileTime(OpenToWrite(to).get(), &kept.ftCreationTime, nullptr, nullptr);
+    constexpr DWORD kSettable = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                                FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    const DWORD attributes = kept.dwFileAttributes & kSettable;
+    if (!::SetFileAttributesW(to.c_str(), attributes != 0 ? attributes : FILE_ATTRIBUTE_NORMAL))
+        ThrowLastError(kNotKept);
+}
+
+// In one step. ReplaceFileW would keep more, as named streams, but takes several steps, between which no file has the name.
+void Rename(const fs::path& from, const fs::path& to) {
+    if (!::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        ThrowLastError(kNotReplaced);
+}
+
+bool Remove(const wchar_t* path) {
+    return ::DeleteFileW(path);
+}
+
+// A file that is just being written cannot be removed yet.
+BOOL WINAPI RemoveAndEnd(DWORD) {
+    constexpr int kTries = 100;
+    for (int i = 0; i < kTries; ++i) {
+        const wchar_t* const path = temporaryFile.load();
+        if (!path || Remove(path)) break;
+        ::Sleep(10);
+    }
+    return FALSE; // the program ends
+}
+
+#else
+
+unsigned long ProcessId() {
+    return static_cast<unsigned long>(::getpid());
+}
+
+// No signal is handled as long as it lives.
+class SignalsHeld {
+public:
+    SignalsHeld() {
+        sigset_t all;
+        ::sigfillset(&all);
+        ::pthread_sigmask(SIG_BLOCK, &all, &before_);
+    }
+    ~SignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsHeld(const SignalsHeld&) = delete;
+    SignalsHeld& operator=(const SignalsHeld&) = delete;
+
+private:
+    sigset_t before_;
+};
+
+Found FileBehind(const fs::path& target) {
+    std::error_code error;
+    const fs::file_status status = fs::status(target, error);
+    if (status.type() == fs::file_type::not_found) {
+        if (fs::is_symlink(target, error)) RefuseIrregular(); // a link to nothing
+        return {target, false};
+    }
+    if (!fs::status_known(status)) throw FileError(kNotReplaced, error);
+    if (!fs::is_regular_file(status)) RefuseIrregular();
+    constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((status.permissions() & kWrite) == fs::perms::none) throw FileError("the file is read-only");
+    if (::access(target.c_str(), W_OK) != 0) ThrowLastError(kNotReplaced);
+    return {fs::canonical(target), true};
+}
+
+// Nobody else may read the new contents of a file before it has the permissions of the old one.
+OpenFile Create(const fs::path& path, bool isPrivate) {
+    return OpenFile(::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, isPrivate ? 0600 : 0666));
+}
+
+bool Exists(const std::error_code& error) {
+    return error == std::errc::file_exists;
+}
+
+std::string ExtendedAttribute(const fs::path& path, const char* name) {
+    std::string value(65536, '\0'); // the system's limit
+    const ssize_t size = ::getxattr(path.c_str(), name, value.data(), value.size());
+    value.resize(size > 0 ? static_cast<size_t>(size) : 0);
+    return value;
+}
+
+// Access lists are among them. Labels of security modules are the system's own to set.
+void KeepExtendedAttributes(const fs::path& from, const fs::path& to) {
+    std::string names(65536, '\0');
+    const ssize_t size = ::listxattr(from.c_str(), names.data(), names.size());
+    names.resize(size > 0 ? static_cast<size_t>(size) : 0); // ends in NUL
+    for (size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
+        const std::string name = names.c_str() + at;
+        const std::string value = ExtendedAttribute(from, name.c_str());
+        const bool isOfUsers = name.compare(0, 5, "user.") == 0 || name.compare(0, 7, "system.") == 0;
+        if (::setxattr(to.c_str(), name.c_str(), value.data(), value.size(), 0) != 0 && isOfUsers)
+            ThrowLastError(kNotKept);
+    }
+}
+
+void KeepAttributes(const fs::path& from, const fs::path& to) {
+    struct stat kept, created;
+    if (::stat(from.c_str(), &kept) != 0 || ::stat(to.c_str(), &created) != 0) ThrowLastError(kNotKept);
+    const bool isOther = kept.st_uid != created.st_uid || kept.st_gid != created.st_gid;
+    if (isOther && ::chown(to.c_str(), kept.st_uid, kept.st_gid) != 0) ThrowLastError(kNotKept);
+    constexpr mode_t kPermissions = 07777;
+    if (::chmod(to.c_str(), kept.st_mode & kPermissions) != 0) ThrowLastError(kNotKept);
+    KeepExtendedAttributes(from, to);
+}
+
+void Rename(const fs::path& from, const fs::path& to) {
+    if (::rename(from.c_str(), to.c_str()) != 0) ThrowLastError(kNotReplaced);
+    const fs::path folder = to.has_parent_path() ? to.parent_path() : ".";
+    const OpenFile opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened) ::fsync(opened.get()); // the new name, too
+}
+
+bool Remove(const char* path) {
+    return ::unlink(path) == 0;
+}
+
+void RemoveAndEnd(int signal) {
+    if (const char* path = temporaryFile.load()) Remove(path);
+    std::signal(signal, SIG_DFL);
+    ::raise(signal);
+}
+
+#endif
+
+} // namespace
+
+FileReplacement::FileReplacement(const fs::path& target) {
+    Found found = FileBehind(target);
+    target_ = std::move(found.path);
+    isThere_ = found.isThere;
+    for (int number = 0;; ++number) { // an earlier process of this number may have left a file
+        path_ = target_.parent_path() /
+                ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
+        const SignalsHeld held;
+        if (Create(path_, isThere_)) {
+            temporaryFile = path_.c_str();
+            return;
+        }
+        const std::error_code error = LastError();
+        if (Exists(error)) continue;
+        const bool hasNoFolder = error == std::errc::no_such_file_or_directory;
+        throw FileError("no file can be created in its folder",
+                        hasNoFolder ? std::make_error_code(std::errc::not_a_directory) : error);
+    }
+}
+
+FileReplacement::~FileReplacement() {
+    if (path_.empty()) return;
+    Remove(path_.c_str());
+    temporaryFile = nullptr;
+}
+
+void FileReplacement::Write(std::string_view bytes, const std::function<void(size_t written)>& progress) {
+    constexpr size_t kPiece = size_t{1} << 20;
+    {
+        const OpenFile file = OpenToWrite(path_);
+        for (size_t at = 0; at < bytes.size(); at += kPiece) {
+            Append(file.get(), bytes.substr(at, kPiece));
+            if (progress) progress(std::min(at + kPiece, bytes.size()));
+        }
+    }
+    if (!HasContents(path_, bytes)) throw FileError("the file cannot be written", std::errc::io_error);
+}
+
+void FileReplacement::TakePlace() {
+    if (isThere_) KeepAttributes(target_, path_);
+    Flush(OpenToWrite(path_).get());
+    Rename(path_, target_);
+    temporaryFile = nullptr;
+    path_.clear();
+}
+
+void RemoveTemporaryFileOnInterrupt() {
+#ifdef _WIN32
+    ::SetConsoleCtrlHandler(RemoveAndEnd, TRUE);
+#else
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        if (std::signal(signal, RemoveAndEnd) == SIG_IGN) std::signal(signal, SIG_IGN); // as nohup asks for
+#endif
+}
+
+} // namespace files

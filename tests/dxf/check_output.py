@@ -1,0 +1,62 @@
+#!/usr/bin/env python3
+"""Where dxfprops writes a drawing: check_output.py DXFPROPS DRAWING"""
+import os
+import shutil
+import stat
+import subprocess
+import sys
+import tempfile
+
+DXFPROPS, DRAWING = map(os.path.abspath, sys.argv[1:])
+WORK = tempfile.mkdtemp()
+failures = []
+
+
+def run(*arguments):
+    return subprocess.run([DXFPROPS, *arguments], cwd=WORK, capture_output=True, timeout=60, check=False)
+
+
+def read(name):
+    with open(os.path.join(WORK, name), "rb") as file:
+        return file.read()
+
+
+def expect(what, is_so, done):
+    if not is_so:
+        failures.append(f"{what}: {done.returncode} {done.stderr} {done.stdout[:80]}")
+
+
+shutil.copy(DRAWING, os.path.join(WORK, "plan.dxf"))
+done = run("set", "plan.dxf", "PenColor=red", "-o", "red.dxf")
+expect("a file", done.returncode == 0 and read("red.dxf") != read("plan.dxf"), done)
+
+os.mkfifo(os.path.join(WORK, "pipe"))
+os.symlink("nothing", os.path.join(WORK, "dangling"))
+targets = [("pipe", stat.S_ISFIFO), ("dangling", stat.S_ISLNK), (".", stat.S_ISDIR)]
+if os.geteuid() == 0:  # a device of its own: a fault must not replace one of the system
+    os.mknod(os.path.join(WORK, "null"), 0o666 | stat.S_IFCHR, os.makedev(1, 3))
+    targets.append(("null", stat.S_ISCHR))
+for target, kind in targets:
+    done = run("set", "plan.dxf", "PenColor=red", "-o", target)
+    still = kind(os.lstat(os.path.join(WORK, target)).st_mode)
+    expect(target, done.returncode == 1 and b"not a regular file" in done.stderr and still, done)
+
+done = run("set", "plan.dxf", "PenColor=red", "-o", "-")
+expect("standard output", done.returncode == 0 and done.stdout == read("red.dxf") and b"changed" in done.stderr, done)
+
+os.symlink("plan.dxf", os.path.join(WORK, "link.dxf"))
+before = os.stat(os.path.join(WORK, "plan.dxf"))
+for arguments in (["--where", "kind=NONE", "PenColor=red"], ["--where", "kind=NONE", "PenColor=red", "--in-place"]):
+    done = run("set", "plan.dxf", *arguments, *([] if "--in-place" in arguments else ["-o", "./link.dxf"]))
+    after = os.stat(os.path.join(WORK, "plan.dxf"))
+    same = (before.st_ino, before.st_mtime_ns) == (after.st_ino, after.st_mtime_ns)
+    expect("nothing to change", done.returncode == 1 and same, done)
+
+done = run("set", "link.dxf", "PenColor=red", "--in-place")
+is_link = os.path.islink(os.path.join(WORK, "link.dxf"))
+expect("a link", done.returncode == 0 and is_link and read("plan.dxf") == read("red.dxf"), done)
+left = set(os.listdir(WORK)) - {"plan.dxf", "red.dxf", "link.dxf", "pipe", "dangling", "null"}
+expect(f"beside it is {left}", not left, done)
+shutil.rmtree(WORK)
+if failures:
+    sys.exit("\n".join(failures))
