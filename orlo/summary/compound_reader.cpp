@@ -87,7 +87,8 @@ private:
     void CheckHeader();
     uint32_t Header(size_t offset) const;
     void Count(const char* what, size_t offset, size_t found);
-    std::vector<uint8_t> Sector(uint32_t sector, const char* what);
+    void ReadSector(uint32_t sector, uint8_t* bytes, const char* what);
+    std::vector<uint8_t> Sectors(const std::vector<uint32_t>& sectors, const char* what);
     std::vector<uint32_t> Numbers(const std::vector<uint32_t>& sectors, const char* what);
     bool Claim(uint32_t sector, std::vector<bool>& claimed);
     void ReadTable();
@@ -112,6 +113,7 @@ private:
     std::array<uint8_t, 512> header_ = {};
     CompoundState state_ = CompoundState::foreign;
     size_t sectorBytes_ = 0;
+    bool hasWideSizes_ = false; // streams may have 4 GB and more
     uint64_t sectors_ = 0;    // that the file has room for; a last one that was cut counts too
     uint64_t sharedLeft_ = 0; // sectors that streams may still have together
     SectorTable table_, shortTable_;
@@ -162,7 +164,10 @@ void CompoundReader::Structure::CheckHeader() {
     const auto isFixed = [this](size_t offset, uint16_t value) {
         return LittleEndian<uint16_t>(header_.data() + offset) == value;
     };
-    if (!isFixed(26, sectorBytes_ == 512 ? 3 : 4)) Damaged("the header: its version");
+    // Older systems wrote long sectors under the version of short ones.
+    const bool isVersion = isFixed(26, 3) || (isFixed(26, 4) && sectorBytes_ != 512);
+    if (!isVersion) Damaged("the header: its version");
+    hasWideSizes_ = isFixed(26, 4);
     if (!isFixed(28, 0xFFFE)) Damaged("the header: its byte order");
     if (!isFixed(32, 6)) Damaged("the header: the size of short sectors");
     if (Header(56) != kShorterAreShort) Damaged("the header: the limit of short streams");
@@ -175,27 +180,37 @@ void CompoundReader::Structure::Count(const char* what, size_t offset, size_t fo
             std::to_string(found) + " are there");
 }
 
-// A part of the structure. What isn't there reads as free.
-std::vector<uint8_t> CompoundReader::Structure::Sector(uint32_t sector, const char* what) {
-    std::vector<uint8_t> bytes(sectorBytes_, 0xFF);
+// A part of the structure. What isn't there stays as it is.
+void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, const char* what) {
     const uint64_t at = At(sector);
-    const uint64_t there = sector < sectors_ ? std::min<uint64_t>(bytes.size(), fileSize_ - at) : 0;
-    if (there != bytes.size() || !read_(at, bytes.data(), bytes.size())) {
-        Damaged(std::string(what) + ": sector " + std::to_string(sector) + " can't be read");
-        if (there != 0) read_(at, bytes.data(), static_cast<size_t>(there));
+    const uint64_t there = sector < sectors_ ? std::min<uint64_t>(sectorBytes_, fileSize_ - at) : 0;
+    if (there == sectorBytes_ && read_(at, bytes, sectorBytes_)) return;
+    Damaged(std::string(what) + ": sector " + std::to_string(sector) + " can't be read");
+    if (there != 0) read_(at, bytes, static_cast<size_t>(there));
+}
+
+// All bytes of these sectors, one after the other; neighboring ones are read at once. What isn't there reads as free.
+std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors, const char* what) {
+    std::vector<uint8_t> bytes(sectors.size() * sectorBytes_, 0xFF);
+    for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
+        do
+            ++next;
+        while (next < sectors.size() && sectors[next] == sectors[next - 1] + 1);
+        const size_t size = (next - first) * sectorBytes_;
+        const uint64_t at = At(sectors[first]);
+        uint8_t* const to = bytes.data() + first * sectorBytes_;
+        if (at + size <= fileSize_ && read_(at, to, size)) continue;
+        for (size_t i = first; i < next; ++i)
+            ReadSector(sectors[i], bytes.data() + i * sectorBytes_, what);
     }
     return bytes;
 }
 
-// All numbers of these sectors, one after the other.
 std::vector<uint32_t> CompoundReader::Structure::Numbers(const std::vector<uint32_t>& sectors,
                                                          const char* what) {
-    std::vector<uint32_t> numbers;
-    for (const uint32_t sector : sectors) {
-        const std::vector<uint8_t> bytes = Sector(sector, what);
-        for (size_t i = 0; i < bytes.size(); i += 4)
-            numbers.push_back(LittleEndian<uint32_t>(bytes.data() + i));
-    }
+    const std::vector<uint8_t> bytes = Sectors(sectors, what);
+    std::vector<uint32_t> numbers(bytes.size() / sizeof(uint32_t));
+    std::memcpy(numbers.data(), bytes.data(), bytes.size());
     return numbers;
 }
 
@@ -245,15 +260,12 @@ SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const ch
 
 std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
     constexpr char kWhat[] = "the directory";
-    const bool wide = sectorBytes_ > header_.size();
     std::vector<Entry> entries;
     const SectorTable::Chain chain = WalkWhole(Header(48), kWhat);
-    if (wide) Count(kWhat, 40, chain.length);
-    for (const uint32_t sector : chain.sectors) {
-        const std::vector<uint8_t> bytes = Sector(sector, kWhat);
-        for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
-            entries.emplace_back(bytes.data() + at, wide);
-    }
+    if (hasWideSizes_ && Header(40) != 0) Count(kWhat, 40, chain.length); // older systems left it out
+    const std::vector<uint8_t> bytes = Sectors(chain.sectors, kWhat);
+    for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
+        entries.emplace_back(bytes.data() + at, hasWideSizes_);
     return entries;
 }
 

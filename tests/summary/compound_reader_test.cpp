@@ -99,6 +99,105 @@ TEST(CompoundReader, CutFiles) {
     EXPECT_GT(most, 3000u);
 }
 
+void PutShort(ByteVector& file, size_t offset, uint16_t number) {
+    std::memcpy(file.data() + offset, &number, sizeof number);
+}
+
+void PutName(ByteVector& file, size_t entry, const std::string& name) {
+    for (size_t i = 0; i < name.size(); ++i)
+        file[entry + 2 * i] = static_cast<uint8_t>(name[i]);
+    PutShort(file, entry + 64, static_cast<uint16_t>(2 * name.size() + 2));
+}
+
+// A file with one stream of 5000 bytes, of as many allocation sectors as are asked for: these, the directory, the stream.
+ByteVector MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
+    ByteVector file(sectorBytes * (1 + tables * sectorBytes / 4));
+    std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());
+    PutShort(file, 26, version);
+    PutShort(file, 28, 0xFFFE);
+    PutShort(file, 30, sectorBytes == kSector ? 9 : 12);
+    PutShort(file, 32, 6);
+    Put(file, 40, directories);
+    Put(file, 44, tables);
+    Put(file, 48, tables); // the directory
+    Put(file, 56, 4096);
+    Put(file, 60, 0xFFFFFFFE);
+    Put(file, 68, 0xFFFFFFFE);
+    for (uint32_t i = 0; i < 109; ++i)
+        Put(file, 76 + 4 * i, i < tables ? i : 0xFFFFFFFF);
+    const auto next = [&](uint32_t sector) { return sectorBytes + 4 * sector; };
+    std::fill(file.begin() + static_cast<ptrdiff_t>(sectorBytes),
+              file.begin() + static_cast<ptrdiff_t>(sectorBytes * (1 + tables)), uint8_t{0xFF});
+    for (uint32_t i = 0; i < tables; ++i)
+        Put(file, next(i), 0xFFFFFFFD);
+    const auto sectors = static_cast<uint32_t>((5000 + sectorBytes - 1) / sectorBytes);
+    Put(file, next(tables), 0xFFFFFFFE);
+    for (uint32_t i = 1; i <= sectors; ++i)
+        Put(file, next(tables + i), i == sectors ? 0xFFFFFFFE : tables + i + 1);
+    const size_t directory = sectorBytes * (1 + tables);
+    for (const size_t entry : {directory, directory + 128, directory + 256, directory + 384}) {
+        for (const size_t link : {68u, 72u, 76u})
+            Put(file, entry + link, 0xFFFFFFFF);
+    }
+    PutName(file, directory, "Root Entry");
+    file[directory + 66] = 5;
+    Put(file, directory + kChild, 1);
+    Put(file, directory + kStart, 0xFFFFFFFE);
+    PutName(file, directory + 128, "Contents");
+    file[directory + 128 + 66] = 2;
+    Put(file, directory + 128 + kStart, tables + 1);
+    Put(file, directory + 128 + kSize, 5000);
+    return file;
+}
+
+TEST(CompoundReader, LongSectorsAsSystemsOfAllAgesWroteThem) {
+    constexpr size_t kLong = 4096;
+    const struct {
+        uint16_t version;
+        uint32_t directories, highHalf;
+        CompoundState state;
+    } rows[] = {{4, 1, 0, CompoundState::sound},          {4, 0, 0, CompoundState::sound},
+                {4, 2, 0, CompoundState::unsafe},         {3, 0, 0, CompoundState::sound},
+                {3, 0, 0xCDCDCDCD, CompoundState::sound}, {4, 1, 1, CompoundState::torn},
+                {5, 1, 0, CompoundState::unsafe}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.version << " " << row.directories << " " << row.highHalf);
+        ByteVector file = MadeFile(kLong, row.version, row.directories, 1);
+        Put(file, 2 * kLong + 128 + kSize + 4, row.highHalf); // of the stream's size
+        const orlo::CompoundReader reader = ReaderOf(file);
+        EXPECT_EQ(reader.State(), row.state);
+        ASSERT_EQ(reader.Streams().size(), 1u);
+        EXPECT_EQ(reader.Read(reader.Streams()[0]).size() == 5000, row.highHalf != 1);
+    }
+}
+
+TEST(CompoundReader, ReadsAllocationSectorsSideBySideAtOnce) {
+    const ByteVector file = MadeFile(kSector, 3, 0, 100);
+    size_t reads = 0;
+    const orlo::ReadAt read = [&](uint64_t offset, void* buffer, size_t size) {
+        ++reads;
+        if (offset > file.size() || size > file.size() - offset) return false;
+        std::memcpy(buffer, file.data() + offset, size);
+        return true;
+    };
+    const orlo::CompoundReader reader(read, file.size());
+    EXPECT_EQ(reader.State(), CompoundState::sound) << testing::PrintToString(reader.Damage());
+    EXPECT_EQ(reader.Read(reader.Streams().at(0)).size(), 5000u);
+    EXPECT_LT(reads, 10u);
+}
+
+// A table may name more sectors than the file has.
+TEST(SectorTable, FollowsNoChainBeyondTheEndOfTheFile) {
+    orlo::SectorTable table({1, 2, 3, orlo::kEndOfChain}, 2);
+    EXPECT_EQ(table.Follow(0, 10), (std::vector<uint32_t>{0, 1}));
+    EXPECT_EQ(table.Follow(0, 1), (std::vector<uint32_t>{0}));
+    EXPECT_EQ(table.Follow(2, 10), (std::vector<uint32_t>{}));
+    const orlo::SectorTable::Chain chain = table.Walk(0);
+    EXPECT_EQ(chain.sectors, (std::vector<uint32_t>{0, 1}));
+    EXPECT_EQ(chain.length, 4u);
+    EXPECT_EQ(chain.fault, orlo::ChainFault::isCut);
+}
+
 struct Bend {
     const char* name;
     void (*bend)(ByteVector& file);
@@ -107,6 +206,7 @@ struct Bend {
 
 const Bend kBends[] = {
     {"SectorsOfAnotherSize", [](ByteVector& file) { file[30] = 11; }, CompoundState::unsafe},
+    {"ShortSectorsUnderTheVersionOfLongOnes", [](ByteVector& file) { file[26] = 4; }, CompoundState::unsafe},
     {"ShortSectorsOfAnotherSize", [](ByteVector& file) { file[32] = 7; }, CompoundState::unsafe},
     {"AnotherLimitOfShortStreams", [](ByteVector& file) { Put(file, 56, 512); }, CompoundState::unsafe},
     {"CountOfTablesTooHigh", [](ByteVector& file) { Put(file, 44, 0xFFFFFFFF); }, CompoundState::unsafe},
