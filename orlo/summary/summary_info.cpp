@@ -94,11 +94,11 @@ bool HasRoomForShort(IStream* stream) {
     return SetLength(stream, 0) && written;
 }
 
-// Some systems open a stream for writing nevertheless.
-bool IsReadOnly(IStorage* storage) {
+// STGM_READ, STGM_WRITE or STGM_READWRITE.
+DWORD AccessTo(IStorage* storage) {
+    constexpr DWORD kAccess = STGM_READ | STGM_WRITE | STGM_READWRITE;
     STATSTG stat;
-    return SUCCEEDED(storage->Stat(&stat, STATFLAG_NONAME)) &&
-           (stat.grfMode & (STGM_WRITE | STGM_READWRITE)) == 0;
+    return SUCCEEDED(storage->Stat(&stat, STATFLAG_NONAME)) ? stat.grfMode & kAccess : STGM_READWRITE;
 }
 
 HRESULT WriteNew(IStorage* storage, const wchar_t* name, const Bytes& image) {
@@ -170,11 +170,14 @@ HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
 
 HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
-    if (IsReadOnly(pStorage)) return STG_E_ACCESSDENIED;
+    const DWORD access = AccessTo(pStorage);
+    if (access == STGM_READ) return STG_E_ACCESSDENIED; // some systems open a stream for writing nevertheless
     // First into memory: what fails there costs the document nothing.
     Bytes image, before;
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
     const std::wstring name = Widen(kSummaryStreamName, CP_ACP);
+    if (access == STGM_WRITE)
+        return WriteNew(pStorage, name.c_str(), image); // nobody can read what there is to keep
     Owned<IStream> stream;
     const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);

@@ -42,11 +42,14 @@ ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // exists and can't be opened for writing gives the error of the storage. One that has grown to 4096 bytes stays as long at
 // least: after a shorter summary it holds zeros.
 //
-// In a transacted storage nothing is on the disk before its Commit, whose result counts: without room it fails, and the file
-// is as before. A storage in direct mode writes at once, step by step: a program that is killed in the middle leaves a
-// mixture of both summaries, and after a full disk the system may have announced sectors that the file hasn't, which suminfo
-// calls damage. A host that can't accept that opens the storage with STGM_TRANSACTED, or saves into a copy of the file and
-// puts that in its place.
+// Of a storage that is open for writing alone the old summary cannot be read: its stream is created anew, and is gone if there
+// is no room for the new one.
+//
+// No storage protects its file. In direct mode the system writes step by step: a program that is killed in the middle leaves a
+// mixture of both summaries, and after a full disk the system may have announced sectors that the file does not have. In a
+// transacted storage nothing is on the disk before its Commit; a Commit that fails on a full disk can leave a damaged file. A
+// host that needs the old file or the new one after any failure writes into a copy: orlo::EditedDocument
+// (edited_document.h) does that.
 ORLO_API HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // Opens a compound file for reading and reads its summary, into a new set if the pointer holds null. A file whose header,
 // allocation tables or directory are damaged is refused (STG_E_DOCFILECORRUPT): the system might never return from it.

@@ -197,6 +197,19 @@ TEST(SummaryInfo, AReadOnlyStorageKeepsItsSummary) {
     EXPECT_EQ(TitleIn(storage.get()), "first");
 }
 
+TEST(SummaryInfo, IsReplacedWhereTheStorageIsOpenForWritingAlone) {
+    const File file("orlo-write-only.drw");
+    SaveSummaryInfo(file.Create().get(), SummaryOf("first").get());
+    {
+        Storage storage;
+        constexpr DWORD kWrite = STGM_WRITE | STGM_SHARE_EXCLUSIVE;
+        const fs::path path = file.Name();
+        ASSERT_EQ(::StgOpenStorage(path.c_str(), nullptr, kWrite, nullptr, 0, Receive(storage)), S_OK);
+        EXPECT_EQ(SaveSummaryInfo(storage.get(), SummaryOf("second").get()), S_OK);
+    }
+    EXPECT_EQ(TitleIn(file.Read().get()), "second");
+}
+
 // A property of a type that has no form on a stream.
 TEST(SummaryInfo, ASetThatCantBeWrittenLeavesTheStream) {
     const File file("orlo-unwritable.drw");
