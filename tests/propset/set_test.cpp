@@ -50,6 +50,34 @@ TEST(Section, NameWithoutPropertiesHasItsSlot) {
               "02000000 6100"_hex);
 }
 
+TEST(Section, SetWithoutATypeNeedsAPropertyThatHasOne) {
+    CPropertySection section;
+    int number = 7;
+    EXPECT_EQ(section.Set(5, &number), 0) << "there is no such property";
+    EXPECT_EQ(section.Set(5, nullptr, VT_EMPTY), 1);
+    EXPECT_EQ(section.Set(5, &number), 0) << "nothing says what the value is";
+    EXPECT_EQ(section.Get(5), nullptr);
+    EXPECT_EQ(section.Set(5, &number, VT_I4), 1);
+    number = 8;
+    EXPECT_EQ(section.Set(5, &number), 1);
+    EXPECT_EQ(NumberOf(section, 5), 8);
+}
+
+// Others write names that are longer than ours.
+TEST(Section, ReadsNamesOf256BytesAndNoLongerOnes) {
+    for (const uint32_t length : {255u, 256u, 257u}) {
+        SCOPED_TRACE(length);
+        Bytes name(length, 'n');
+        name.back() = 0;
+        MemoryStream stream("01000000 02000000"_hex + LittleEndian(length) + name);
+        CPropertySection section;
+        EXPECT_EQ(section.ReadNameDictFromStream(&stream), length <= 256 ? 1 : 0);
+        CString read;
+        EXPECT_EQ(section.GetName(2, read), length <= 256 ? 1 : 0);
+        EXPECT_EQ(read.GetLength(), length <= 256 ? static_cast<int>(length) - 1 : 0);
+    }
+}
+
 TEST(Section, NamesDisregardCase) {
     CPropertySection section;
     EXPECT_EQ(section.SetName(5, "PenWidth"), 1);
