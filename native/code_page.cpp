@@ -2,6 +2,8 @@
 
 #include "orlo/propset/code_page.h"
 
+#include <clocale>
+#include <cwctype>
 #include <map>
 
 #include "native/nls_table.h"
@@ -83,6 +85,27 @@ bool HasUndefined(std::u16string_view text, uint16_t codePage) {
            std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x80 && c < 0xA0; });
 }
 
+// The letters of all scripts, whatever language the user has. Windows has upper case for letters that come back from it alone.
+wint_t Upper(wint_t letter) {
+    static const locale_t kAllScripts = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    if (!kAllScripts) return letter;
+    const wint_t upper = ::towupper_l(letter, kAllScripts);
+    return ::towlower_l(upper, kAllScripts) == letter ? upper : letter;
+}
+
+// In units of 16 bits, as storages compare names.
+std::optional<std::string> Folded(std::string_view utf8) {
+    std::optional<std::string> units = Utf8ToCodePage(utf8, kCodePageUtf16);
+    if (!units) return std::nullopt;
+    for (size_t i = 0; i + 1 < units->size(); i += 2) {
+        const wint_t unit =
+            Upper(static_cast<uint8_t>((*units)[i]) | wint_t{static_cast<uint8_t>((*units)[i + 1])} << 8);
+        (*units)[i] = static_cast<char>(unit);
+        (*units)[i + 1] = static_cast<char>(unit >> 8);
+    }
+    return units;
+}
+
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
@@ -108,6 +131,12 @@ std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePa
         return std::string(reinterpret_cast<const char*>(wide->data()), wide->size() * 2);
     const NlsTable& table = TableOf(NumberOf(codePage));
     return table.IsKnown() ? table.FromUtf16(*wide) : std::nullopt;
+}
+
+bool IsSameName(std::string_view a, std::string_view b) {
+    if (a == b) return true;
+    const auto first = Folded(a), second = Folded(b);
+    return first && first == second;
 }
 
 } // namespace orlo

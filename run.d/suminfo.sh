@@ -6,7 +6,7 @@ native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.ex
 shopt -s globstar
 is_current() {
     local part
-    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},drawcore/src/pictures,tools/suminfo,native,cmake}/**; do
+    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,tools/suminfo,native,cmake}/**; do
         if [ "$part" -nt "$1" ]; then return 1; fi # also when there is no program
     done
 }

@@ -3,15 +3,26 @@
 
 #include <orlo_c.h>
 
+#include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "orlo/propset/inspect/set_image.h"
 
 namespace orlo {
 
+// The stream of a compound file that a set was read from or saved to, as it was then.
+struct Origin {
+    std::filesystem::path file;
+    std::string stream;
+    Bytes bytes;
+};
+
 struct HeldSet {
     SetImage image;
     bool isDamaged = false; // part of what the stream announces could not be read; it is not written again
+    std::optional<Origin> origin = {};
 };
 
 // Throws Refusal for a handle that was never issued or is closed.

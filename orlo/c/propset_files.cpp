@@ -6,45 +6,34 @@
 
 #include <algorithm>
 
+#include "files/file_error.h"
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
 #include "orlo/propset/code_page.h"
-#include "orlo/summary/compound_file.h"
+#include "orlo/summary/edited_document.h"
 #include "orlo/summary/summary_info.h"
-#include "orlo/win/com_owner.h"
 
 using namespace orlo;
 
 namespace {
 
 constexpr size_t kLongest = 0x10000000; // bytes of a set that is read from a stream
-constexpr DWORD kWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
-
-struct CloseFile {
-    void operator()(HANDLE file) const { ::CloseHandle(file); }
-};
-using OwnedFile = std::unique_ptr<void, CloseFile>;
-
-[[noreturn]] void RefuseByLastError(const char* what) {
-    RefuseWithSystemError(static_cast<long>(::GetLastError()), what);
-}
-
 void Check(HRESULT result, const char* what) {
     if (FAILED(result)) RefuseWithSystemError(result, what);
 }
 
-OrloPropset Open(const uint8_t* data, size_t size) {
+OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin = std::nullopt) {
     std::vector<Finding> findings;
     std::optional<SetImage> image = ReadSetImage(data, size, findings);
-    if (!image) Refuse(kOrloDamaged, "this is no property set");
+    if (!image) Refuse(kOrloDamaged, "this is not a property set");
     const bool isDamaged = std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
         return finding.severity == Severity::damaged;
     });
-    return Hold({std::move(*image), isDamaged});
+    return Hold({std::move(*image), isDamaged, std::move(origin)});
 }
 
-Bytes Written(OrloPropset set) {
-    std::optional<Bytes> bytes = WriteSetImage(HeldWhole(set)->image);
+Bytes Written(const HeldSet& set) {
+    std::optional<Bytes> bytes = WriteSetImage(set.image);
     if (!bytes) Refuse(kOrloNotEncodable, "the code page of a section can't say one of its names");
     return std::move(*bytes);
 }
@@ -60,116 +49,62 @@ Bytes ReadToEnd(IStream& stream) {
     return bytes;
 }
 
+// The stream then has these bytes and no others.
 void WriteWhole(IStream& stream, const Bytes& bytes) {
-    ULONG written = 0;
-    Check(stream.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &written),
-          "the stream can't be written");
-    Check(written == bytes.size() ? S_OK : STG_E_MEDIUMFULL, "the stream can't be written");
-}
-
-std::wstring StreamName(const char* name) {
-    const std::string text = name != nullptr ? name : kSummaryStreamName;
-    const std::optional<std::string> wide = Utf8ToCodePage(text, kCodePageUtf16);
-    if (!wide || text.empty()) Refuse(kOrloBadArgument, "this is no name of a stream");
-    return std::wstring(reinterpret_cast<const wchar_t*>(wide->data()), wide->size() / sizeof(wchar_t));
-}
-
-bool SameStream(const std::u16string& path, const std::wstring& name) {
-    return ::CompareStringOrdinal(reinterpret_cast<const wchar_t*>(path.data()),
-                                  static_cast<int>(path.size()), name.data(), static_cast<int>(name.size()),
-                                  TRUE) == CSTR_EQUAL;
-}
-
-OwnedFile OpenFile(const wchar_t* path, DWORD access, DWORD sharing) {
-    const HANDLE file = ::CreateFileW(path, access, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file != INVALID_HANDLE_VALUE) return OwnedFile(file);
-    const DWORD error = ::GetLastError();
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
-        Refuse(kOrloNotFound, "there is no such file");
-    RefuseWithSystemError(static_cast<long>(error), "the file can't be opened");
-}
-
-Bytes ReadStream(const wchar_t* path, const std::wstring& name) {
-    const OwnedFile file = OpenFile(path, GENERIC_READ, FILE_SHARE_READ);
-    const CompoundReader reader = ReadCompoundFile(file.get());
-    if (reader.State() == CompoundState::foreign) Refuse(kOrloDamaged, "the file is no compound file");
-    for (const CompoundStream& stream : reader.Streams())
-        if (SameStream(stream.path, name)) return reader.Read(stream);
-    Refuse(kOrloNotFound, "the file has no such stream");
-}
-
-// The file's own name where the given one is a link. Refused: what somebody has open, and what is damaged.
-std::wstring WritableFile(const wchar_t* path) {
-    const OwnedFile file = OpenFile(path, GENERIC_READ | GENERIC_WRITE, 0);
-    if (ReadCompoundFile(file.get()).State() != CompoundState::sound)
-        Refuse(kOrloDamaged, "the file is no sound compound file and was left alone");
-    std::wstring own(32768, L'\0'); // no path is longer
-    const DWORD size = ::GetFinalPathNameByHandleW(file.get(), own.data(), static_cast<DWORD>(own.size()), 0);
-    if (size == 0 || size >= own.size()) RefuseByLastError("the file's own name can't be found");
-    own.resize(size);
-    return own;
-}
-
-// Goes with this object unless it has taken the place of its file.
-class PartFile {
-public:
-    explicit PartFile(const std::wstring& file)
-        : path_(file + L"." + std::to_wstring(::GetCurrentProcessId()) + L"-" +
-                std::to_wstring(::GetCurrentThreadId()) + L".part") {}
-    ~PartFile() {
-        if (!path_.empty()) ::DeleteFileW(path_.c_str());
-    }
-    PartFile(const PartFile&) = delete;
-    PartFile& operator=(const PartFile&) = delete;
-
-    const wchar_t* Path() const { return path_.c_str(); }
-    void TakePlaceOf(const std::wstring& file, bool isThere) {
-        const BOOL done = isThere ? ::ReplaceFileW(file.c_str(), Path(), nullptr, 0, nullptr, nullptr)
-                                  : ::MoveFileExW(Path(), file.c_str(), MOVEFILE_WRITE_THROUGH);
-        if (!done) RefuseByLastError("the file can't be replaced");
-        path_.clear();
-    }
-
-private:
-    std::wstring path_;
-};
-
-void WriteInto(IStorage& storage, const std::wstring& name, const Bytes& bytes) {
-    Owned<IStream> stream;
-    HRESULT result = storage.OpenStream(name.c_str(), nullptr, kWriting, 0, Receive(stream));
-    if (result == STG_E_FILENOTFOUND)
-        result = storage.CreateStream(name.c_str(), kWriting | STGM_FAILIFTHERE, 0, 0, Receive(stream));
-    Check(result, "the stream can't be made");
+    constexpr char kNotWritten[] = "the stream can't be written";
     ULARGE_INTEGER size;
     size.QuadPart = bytes.size();
-    Check(stream->SetSize(size), "the stream can't be written");
-    WriteWhole(*stream, bytes);
-    stream.reset();
-    Check(storage.Commit(STGC_DEFAULT), "the file can't be written");
+    Check(stream.SetSize(size), kNotWritten);
+    Check(stream.Seek({}, STREAM_SEEK_SET, nullptr), kNotWritten);
+    ULONG written = 0;
+    Check(stream.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &written), kNotWritten);
+    Check(written == bytes.size() ? S_OK : STG_E_MEDIUMFULL, kNotWritten);
 }
 
-void SaveInCopy(const wchar_t* path, const std::wstring& name, const Bytes& bytes) {
-    const DWORD attributes = ::GetFileAttributesW(path);
-    const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
-    // Some systems let an administrator replace it nevertheless.
-    if (isThere && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
-        Refuse(kOrloSystemError, "the file is read-only and was left alone");
-    const std::wstring file = isThere ? WritableFile(path) : path;
-    PartFile part(file);
-    if (isThere && !::CopyFileW(file.c_str(), part.Path(), FALSE))
-        RefuseByLastError("the file can't be copied");
-    {
-        Owned<IStorage> storage;
-        Check(isThere ? ::StgOpenStorage(part.Path(), nullptr, kWriting, nullptr, 0, Receive(storage))
-                      : ::StgCreateDocfile(part.Path(), kWriting | STGM_CREATE, 0, Receive(storage)),
-              "the file can't be written");
-        WriteInto(*storage, name, bytes);
+std::string StreamName(const char* name) {
+    const std::string text = name != nullptr ? name : kSummaryStreamName;
+    if (text.empty() || !Utf8ToCodePage(text, kCodePageUtf16))
+        Refuse(kOrloBadArgument, "this is not a name of a stream");
+    return text;
+}
+
+CompoundReader OpenToRead(const std::filesystem::path& path) {
+    try {
+        return OpenCompoundFile(path);
+    } catch (const files::FileError& error) {
+        const bool isMissing = error.Reason() == std::errc::no_such_file_or_directory;
+        Refuse(isMissing ? kOrloNotFound : kOrloSystemError, error.what());
     }
-    if (StateOfCompoundFile(part.Path()) != CompoundState::sound || ReadStream(part.Path(), name) != bytes)
-        Refuse(kOrloSystemError, "the changed copy is not as it should be");
-    if (!::FlushFileBuffers(OpenFile(part.Path(), GENERIC_WRITE, 0).get()))
-        RefuseByLastError("the file can't be written");
-    part.TakePlaceOf(file, isThere);
+}
+
+Bytes ReadStream(const std::filesystem::path& path, const std::string& name) {
+    const CompoundReader reader = OpenToRead(path);
+    if (reader.State() == CompoundState::foreign) Refuse(kOrloDamaged, "the file is not a compound file");
+    const CompoundStream* stream = FindStream(reader, name);
+    if (stream == nullptr) Refuse(kOrloNotFound, "the file has no such stream");
+    return reader.Read(*stream);
+}
+
+bool IsSamePlace(const Origin& origin, const std::filesystem::path& path, const std::string& stream) {
+    std::error_code isMissing;
+    return std::filesystem::equivalent(origin.file, path, isMissing) && IsSameName(origin.stream, stream);
+}
+
+void Save(HeldSet& set, const Bytes& bytes, const std::filesystem::path& path, const std::string& stream) {
+    try {
+        EditedDocument document(path, EditedDocument::IfMissing::Create);
+        if (set.origin && IsSamePlace(*set.origin, path, stream) &&
+            document.Read(stream) != set.origin->bytes)
+            Refuse(kOrloChanged, "the stream has been changed since the set was read");
+        document.Write(stream, bytes);
+        document.Commit();
+    } catch (const UnfitDocument& unfit) {
+        Refuse(kOrloDamaged, unfit.what());
+    } catch (const files::FileError& error) {
+        Refuse(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError,
+               error.what());
+    }
+    set.origin = Origin{path, stream, bytes};
 }
 
 } // namespace
@@ -192,23 +127,28 @@ OrloResult ORLO_CALL OrloPropsetOpenStream(IStream* stream, OrloPropset* set) {
 OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set) {
     return GuardedCall([&] {
         RequireNotNull(set, "the handle") = nullptr;
-        const Bytes bytes = ReadStream(&RequireNotNull(path, "the path"), StreamName(streamName));
-        *set = Open(bytes.data(), bytes.size());
+        const std::string stream = StreamName(streamName);
+        Bytes bytes = ReadStream(&RequireNotNull(path, "the path"), stream);
+        const uint8_t* data = bytes.data();
+        const size_t size = bytes.size();
+        *set = Open(data, size, Origin{path, stream, std::move(bytes)});
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size) {
     return GuardedCall([&] {
-        const Bytes bytes = Written(set);
+        const Bytes bytes = Written(*HeldWhole(set));
         HandOut(bytes.data(), bytes.size(), buffer, size);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, IStream* stream) {
-    return GuardedCall([&] { WriteWhole(RequireNotNull(stream, "the stream"), Written(set)); });
+    return GuardedCall([&] { WriteWhole(RequireNotNull(stream, "the stream"), Written(*HeldWhole(set))); });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path, const char* streamName) {
-    return GuardedCall(
-        [&] { SaveInCopy(&RequireNotNull(path, "the path"), StreamName(streamName), Written(set)); });
+    return GuardedCall([&] {
+        const auto held = HeldWhole(set);
+        Save(*held, Written(*held), &RequireNotNull(path, "the path"), StreamName(streamName));
+    });
 }

@@ -2,12 +2,12 @@
 
 #include <propidl.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
 #include "orlo/propset/code_page.h"
+#include "orlo/propset/inspect/set_edit.h"
 
 using namespace orlo;
 
@@ -32,87 +32,37 @@ int64_t IntegerOf(const Value& value) {
     return static_cast<int64_t>(*number);
 }
 
-bool SameName(const std::string& a, const std::string& b) {
-    const auto wide = [](const std::string& text) {
-        return Utf8ToCodePage(text, kCodePageUtf16).value_or(std::string());
-    };
-    const std::string first = wide(a), second = wide(b);
-    return ::CompareStringOrdinal(reinterpret_cast<const wchar_t*>(first.data()),
-                                  static_cast<int>(first.size() / sizeof(wchar_t)),
-                                  reinterpret_cast<const wchar_t*>(second.data()),
-                                  static_cast<int>(second.size() / sizeof(wchar_t)), TRUE) == CSTR_EQUAL;
-}
-
-DictionaryEntry* Named(ImageSection& section, const std::string& name) {
-    if (!section.dictionary) return nullptr;
-    for (DictionaryEntry& entry : *section.dictionary)
-        if (SameName(entry.name, name)) return &entry;
-    return nullptr;
-}
-
-ImageSection NewSection(const GUID& format, uint16_t codePage) {
-    ImageSection section;
-    section.formatId = format;
-    section.codePage = codePage;
-    ImageProperty& property = section.properties.emplace_back();
-    property.id = kOrloCodePage;
-    property.type = VT_I2;
-    property.bytes = {static_cast<uint8_t>(codePage), static_cast<uint8_t>(codePage >> 8)};
-    return section;
-}
-
-// The section, or a new one that belongs to nobody yet.
-ImageSection SectionFor(SetImage& image, const OrloGuid* format) {
-    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
-    const ImageSection* found = image.Find(wanted);
-    return found != nullptr ? *found : NewSection(wanted, kCodePageUtf8);
-}
-
-// Puts a section in the place of the one of its format, or at the end.
-void PutSection(SetImage& image, ImageSection section) {
-    if (ImageSection* found = image.Find(section.formatId)) {
-        *found = std::move(section);
-        return;
-    }
-    // Readers look for the user-defined section in the second place.
-    const GUID& first = AsGuid(kOrloDocumentSummary);
-    if (section.formatId == AsGuid(kOrloUserDefined) && image.Find(first) == nullptr)
-        image.sections.push_back(NewSection(first, kCodePageUtf8));
-    image.sections.push_back(std::move(section));
+// The code page of the section, or that of a new one.
+uint16_t CodePageOf(SetImage& image, const OrloGuid* format) {
+    const ImageSection* section = image.Find(AsGuid(RequireNotNull(format, "the format")));
+    return section != nullptr ? section->codePage.value_or(kUsualCodePage) : kCodePageUtf8;
 }
 
 // What a section without its code page would be: only the first property may name one.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
-    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is no code page");
+    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is not a code page");
     if (image.Find(wanted) != nullptr)
         Refuse(kOrloBadArgument, "the texts of the section are in its code page, which stays");
     if (!Utf8ToCodePage("a", static_cast<uint16_t>(codePage)))
         Refuse(kOrloBadArgument, "the system does not know the code page");
-    PutSection(image, NewSection(wanted, static_cast<uint16_t>(codePage)));
+    SectionFor(image, wanted, static_cast<uint16_t>(codePage));
 }
 
 void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t type, Bytes bytes) {
-    if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page are no values");
-    ImageSection section = SectionFor(image, format);
-    ImageProperty* property = section.Find(id);
+    if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page are not values");
+    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
+    const ImageSection* section = image.Find(wanted);
+    const ImageProperty* property = section != nullptr ? section->Find(id) : nullptr;
     if (property != nullptr && property->type != type)
-        Refuse(kOrloWrongType, "the property is there with another type");
-    if (property == nullptr) {
-        property = &section.properties.emplace_back();
-        property->id = id;
-        property->type = type;
-    }
-    property->state = ValueState::complete;
-    property->bytes = std::move(bytes);
-    PutSection(image, std::move(section));
+        Refuse(kOrloWrongType, "the property exists with another type");
+    StoreValue(SectionFor(image, wanted, kCodePageUtf8), id, type, std::move(bytes));
 }
 
 // Encodes and stores; unfit is the answer for a value that the type has no room for.
-void StoreValue(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
+void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
     const auto held = HeldWhole(set);
-    const auto codePage = SectionFor(held->image, format).codePage;
-    std::optional<Bytes> bytes = EncodeValue(value, codePage);
+    std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(held->image, format));
     if (!bytes) Refuse(unfit, "the value has no form in that type");
     StoreBytes(held->image, format, id, value.type, std::move(*bytes));
 }
@@ -188,7 +138,7 @@ OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* form
         if (id == kOrloCodePage)
             StoreCodePage(HeldWhole(set)->image, format, value);
         else
-            StoreValue(set, format, id, WholeValue(type, value), kOrloWrongType);
+            Store(set, format, id, WholeValue(type, value), kOrloWrongType);
     });
 }
 
@@ -200,7 +150,7 @@ OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format,
         if (!std::isfinite(value)) Refuse(kOrloBadArgument, "the number is not finite");
         if (type == VT_R4 && std::isinf(static_cast<float>(value)))
             Refuse(kOrloWrongType, "a float can't hold the number");
-        StoreValue(set, format, id, {type, value, {}}, kOrloWrongType);
+        Store(set, format, id, {type, value, {}}, kOrloWrongType);
     });
 }
 
@@ -210,7 +160,7 @@ OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format,
         if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR)
             Refuse(kOrloWrongType, "this is no type of texts");
         RequireNotNull(value, "the text");
-        StoreValue(set, format, id, {type, std::string(value), {}}, kOrloNotEncodable);
+        Store(set, format, id, {type, std::string(value), {}}, kOrloNotEncodable);
     });
 }
 
@@ -221,7 +171,7 @@ OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format
         if (size > 0) RequireNotNull(first, "the data");
         Bytes bytes(first, first + size);
         const auto held = HeldWhole(set);
-        const auto codePage = SectionFor(held->image, format).codePage;
+        const uint16_t codePage = CodePageOf(held->image, format);
         Value value;
         if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) ||
             EncodeValue(value, codePage) != bytes)
@@ -236,12 +186,8 @@ OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, 
         if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page stay with their section");
         PropertyOf(held->image, format, id);
         ImageSection& section = SectionOf(held->image, format);
-        const auto isIt = [id](const auto& item) { return item.id == id; };
-        section.properties.erase(std::remove_if(section.properties.begin(), section.properties.end(), isIt),
-                                 section.properties.end());
-        if (!section.dictionary) return;
-        auto& names = *section.dictionary;
-        names.erase(std::remove_if(names.begin(), names.end(), isIt), names.end());
+        RemoveValue(section, id);
+        RemoveName(section, id);
     });
 }
 
@@ -252,7 +198,8 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
         const ImageSection& section = SectionOf(held->image, format);
         if (section.dictionary)
             for (const DictionaryEntry& entry : *section.dictionary)
-                if (entry.id == id) return HandOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
+                if (entry.id == id && entry.undecoded.empty())
+                    return HandOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
         Refuse(kOrloNotFound, "the property has no name");
     });
 }
@@ -263,7 +210,7 @@ OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format
         RequireNotNull(id, "the identifier") = 0;
         const auto held = Held(set);
         const DictionaryEntry* entry =
-            Named(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
+            FindName(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
         *id = entry->id;
     });
@@ -279,15 +226,8 @@ OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format,
         if (text.empty() || id <= kOrloCodePage) Refuse(kOrloBadArgument, "this can't be named so");
         if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
             Refuse(kOrloNotEncodable, "the code page of the section can't say the name");
-        const DictionaryEntry* there = Named(section, text);
+        const DictionaryEntry* there = FindName(section, text);
         if (there != nullptr && there->id != id) Refuse(kOrloBadArgument, "another property has that name");
-        if (!section.dictionary) section.dictionary.emplace();
-        auto& names = *section.dictionary;
-        const auto own =
-            std::find_if(names.begin(), names.end(), [id](const auto& entry) { return entry.id == id; });
-        if (own != names.end())
-            own->name = text;
-        else
-            names.push_back({id, text});
+        StoreName(section, id, text);
     });
 }

@@ -58,7 +58,8 @@ typedef enum OrloResult {
     kOrloNotEncodable = 8,   // the text cannot be represented in the code page of the section
     kOrloSystemError = 9,    // a system call failed: file, stream or window
     kOrloOutOfMemory = 10,
-    kOrloFailed = 11 // any other failure
+    kOrloFailed = 11, // any other failure
+    kOrloChanged = 12 // the stream in the file has changed since the set was read
 } OrloResult;
 
 // Copies the message for the last function that failed on this thread: at most size bytes, including the NUL. Returns
@@ -180,6 +181,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t s
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenStream(struct IStream* stream, OrloPropset* set);
 // Reads a set from a stream of a compound file; the file is closed again. If streamName is null, the stream is
 // "\005SummaryInformation". The library's own reader is used, so a damaged file cannot make the system hang.
+// Other programs may have the file open for writing.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName,
                                                     OrloPropset* set);
 // Closes a set and frees it.
@@ -188,11 +190,12 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 // Buffers: *size is the size of the buffer in bytes; on return it is the size of the data. If buffer is null, only that
 // size is stored and the function returns kOrloOk. Fails with kOrloBufferTooSmall if the data does not fit.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size);
-// Writes the set at the current position of the stream.
+// Replaces the whole contents of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
 // Writes the set to a stream of a compound file (null: "\005SummaryInformation"), which is created if it does not
 // exist. The change is made in a copy that then replaces the file in one step. A file that is damaged or open elsewhere
-// is not changed.
+// is not changed. Fails with kOrloChanged if the set was read from this stream, or last saved to it, and the stream has
+// changed since then.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path,
                                                     const char* streamName);
 

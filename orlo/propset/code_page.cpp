@@ -74,4 +74,12 @@ std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePa
     return std::string(reinterpret_cast<const char*>(wide->data()), wide->size() * 2);
 }
 
+bool IsSameName(std::string_view a, std::string_view b) {
+    if (a == b) return true;
+    const auto first = CheckedToWide(a, CP_UTF8), second = CheckedToWide(b, CP_UTF8);
+    return first && second &&
+           ::CompareStringOrdinal(first->data(), Length(first->size()), second->data(),
+                                  Length(second->size()), TRUE) == CSTR_EQUAL;
+}
+
 } // namespace orlo

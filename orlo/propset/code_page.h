@@ -30,6 +30,9 @@ inline bool IsPlainText(std::string_view text, uint16_t codePage) {
     return isOfWindows && std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
 }
 
+// Returns true if two names in UTF-8 differ in case at the most, as storages and dictionaries compare names.
+ORLO_API bool IsSameName(std::string_view a, std::string_view b);
+
 // The text in that code page; nothing if it can't represent every character.
 ORLO_API std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage);
 

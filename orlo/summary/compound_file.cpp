@@ -1,43 +1,37 @@
-// Reads at offsets of a file that others may have open.
+// Reads at offsets of a file that other programs may have open.
 
 #include "orlo/summary/compound_file.h"
 
-#include <memory>
-#include <windows.h>
+#include "files/file_error.h"
+#include "files/open_file.h"
+#include "orlo/propset/code_page.h"
 
 namespace orlo {
-namespace {
 
-struct CloseFile {
-    void operator()(HANDLE file) const { ::CloseHandle(file); }
-};
-using OwnedFile = std::unique_ptr<void, CloseFile>;
-
-bool ReadFrom(HANDLE file, uint64_t offset, void* buffer, size_t size) {
-    OVERLAPPED at = {};
-    at.Offset = static_cast<DWORD>(offset);
-    at.OffsetHigh = static_cast<DWORD>(offset >> 32);
-    DWORD done = 0;
-    return ::ReadFile(file, buffer, static_cast<DWORD>(size), &done, &at) && done == size;
-}
-
-} // namespace
-
-CompoundReader ReadCompoundFile(void* file) {
-    LARGE_INTEGER size;
-    if (!::GetFileSizeEx(file, &size)) size.QuadPart = 0;
-    const ReadAt read = [file](uint64_t offset, void* buffer, size_t count) {
-        return ReadFrom(file, offset, buffer, count);
+CompoundReader OpenCompoundFile(const std::filesystem::path& file) {
+    const auto opened = std::make_shared<const files::OpenFile>(files::OpenToRead(file));
+    const ReadAt read = [opened](uint64_t offset, void* buffer, size_t size) {
+        return files::ReadAt(opened->get(), offset, buffer, size);
     };
-    return CompoundReader(read, static_cast<uint64_t>(size.QuadPart));
+    return CompoundReader(read, files::SizeOf(opened->get()));
 }
 
-CompoundState StateOfCompoundFile(const wchar_t* path) {
-    constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const HANDLE opened = ::CreateFileW(path, GENERIC_READ, kSharing, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return CompoundState::foreign;
-    const OwnedFile file(opened);
-    return ReadCompoundFile(opened).State();
+CompoundState StateOfCompoundFile(const std::filesystem::path& file) {
+    try {
+        return OpenCompoundFile(file).State();
+    } catch (const files::FileError&) {
+        return CompoundState::foreign;
+    }
+}
+
+const CompoundStream* FindStream(const CompoundReader& file, std::string_view name) {
+    for (const CompoundStream& stream : file.Streams()) {
+        const std::string_view path(reinterpret_cast<const char*>(stream.path.data()),
+                                    2 * stream.path.size());
+        const auto utf8 = CodePageToUtf8(path, kCodePageUtf16);
+        if (utf8 && IsSameName(*utf8, name)) return &stream;
+    }
+    return nullptr;
 }
 
 } // namespace orlo

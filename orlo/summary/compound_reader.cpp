@@ -114,8 +114,8 @@ private:
     CompoundState state_ = CompoundState::foreign;
     size_t sectorBytes_ = 0;
     bool hasWideSizes_ = false; // streams may have 4 GB and more
-    uint64_t sectors_ = 0;    // that the file has room for; a last one that was cut counts too
-    uint64_t sharedLeft_ = 0; // sectors that streams may still have together
+    uint64_t sectors_ = 0;      // that the file has room for; a last one that was cut counts too
+    uint64_t sharedLeft_ = 0;   // sectors that streams may still have together
     SectorTable table_, shortTable_;
     std::vector<uint32_t> shortStreams_; // sectors of the stream that the short ones lie in
     std::vector<std::string> damage_;
@@ -190,7 +190,8 @@ void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, cons
 }
 
 // All bytes of these sectors, one after the other; neighboring ones are read at once. What isn't there reads as free.
-std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors, const char* what) {
+std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors,
+                                                        const char* what) {
     std::vector<uint8_t> bytes(sectors.size() * sectorBytes_, 0xFF);
     for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
         do

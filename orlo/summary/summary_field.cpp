@@ -8,8 +8,6 @@
 
 namespace orlo {
 
-const GUID kSummaryFormat = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
-
 CProperty* SummaryProperty(CPropertySet* set, DWORD id, DWORD type) {
     CProperty* property = set ? set->GetProperty(kSummaryFormat, id) : nullptr;
     return property && property->GetType() == type ? property : nullptr;

@@ -3,13 +3,12 @@
 
 #include <windows.h>
 
+#include "orlo/propset/formats.h"
+
 class CProperty;
 class CPropertySet;
 
 namespace orlo {
-
-// {F29F85E0-4FF9-1068-AB91-08002B27B3D9}
-extern const GUID kSummaryFormat;
 
 // The property if it exists with that type, or null.
 CProperty* SummaryProperty(CPropertySet* set, DWORD id, DWORD type);

@@ -151,6 +151,65 @@ TEST(CPropset, MakesSetsFilesAndNames) {
     OrloPropsetClose(set);
 }
 
+TEST(CPropset, SavesOnlyOverWhatItHasRead) {
+    ScratchFile file;
+    ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
+    OrloPropset first = Opened(file.path.c_str()), second = Opened(file.path.c_str());
+    EXPECT_EQ(OrloPropsetSetText(first, &kOrloSummary, kOrloAuthor, kOrloTypeText, "first"), kOrloOk);
+    EXPECT_EQ(OrloPropsetSetText(second, &kOrloSummary, kOrloTitle, kOrloTypeText, "second"), kOrloOk);
+    EXPECT_EQ(OrloPropsetSaveFile(first, file.path.c_str(), nullptr), kOrloOk) << ErrorText();
+    EXPECT_EQ(OrloPropsetSaveFile(second, file.path.c_str(), nullptr), kOrloChanged);
+    EXPECT_EQ(ErrorText(), "the stream has been changed since the set was read");
+    EXPECT_EQ(OrloPropsetSaveFile(second, file.path.c_str(), "Another"), kOrloOk) << ErrorText();
+    EXPECT_EQ(OrloPropsetSetText(first, &kOrloSummary, kOrloTitle, kOrloTypeText, "again"), kOrloOk);
+    EXPECT_EQ(OrloPropsetSaveFile(first, file.path.c_str(), nullptr), kOrloOk) << ErrorText();
+    OrloPropsetClose(first);
+    OrloPropsetClose(second);
+    first = Opened(file.path.c_str());
+    EXPECT_EQ(Text(first, kOrloSummary, kOrloAuthor), "first");
+    EXPECT_EQ(Text(first, kOrloSummary, kOrloTitle), "again");
+    OrloPropsetClose(first);
+}
+
+TEST(CPropset, OpensAFileThatAnotherProgramWrites) {
+    ScratchFile file;
+    ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
+    constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE writer = ::CreateFileW(file.path.c_str(), GENERIC_READ | GENERIC_WRITE, kEverything, nullptr,
+                                        OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(writer, INVALID_HANDLE_VALUE);
+    const OrloPropset set = Opened(file.path.c_str());
+    EXPECT_EQ(Text(set, kOrloSummary, kOrloAuthor), "Sompop");
+    EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloSystemError) << "it is in use";
+    OrloPropsetClose(set);
+    ::CloseHandle(writer);
+}
+
+TEST(CPropset, AStreamHasTheSetAndNothingElseAfterwards) {
+    IStream* stream = nullptr;
+    ASSERT_EQ(::CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
+    OrloPropset set = nullptr, read = nullptr;
+    OrloPropsetNew(&set);
+    OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, std::string(900, 't').c_str());
+    EXPECT_EQ(OrloPropsetSaveStream(set, stream), kOrloOk);
+    OrloPropsetClose(set);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    ASSERT_EQ(OrloPropsetOpenStream(stream, &read), kOrloOk);
+    OrloPropsetSetText(read, &kOrloSummary, kOrloTitle, kOrloTypeText, "short");
+    EXPECT_EQ(OrloPropsetSaveStream(read, stream), kOrloOk);
+    size_t size = 0;
+    EXPECT_EQ(OrloPropsetSaveMemory(read, nullptr, &size), kOrloOk);
+    STATSTG is = {};
+    stream->Stat(&is, STATFLAG_NONAME);
+    EXPECT_EQ(is.cbSize.QuadPart, size);
+    OrloPropsetClose(read);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    ASSERT_EQ(OrloPropsetOpenStream(stream, &read), kOrloOk);
+    EXPECT_EQ(Text(read, kOrloSummary, kOrloTitle), "short");
+    OrloPropsetClose(read);
+    stream->Release();
+}
+
 TEST(CPropset, LeavesWhatIsDamagedAlone) {
     OrloPropset set = Opened(kDocument), cut = nullptr;
     size_t size = 0;

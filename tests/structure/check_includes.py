@@ -24,7 +24,7 @@ for room in "entry pages exchange frame controls wizard".split():
 TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # as a host writes them, in angle brackets
 
 # Single headers that a room may have besides: they hold declarations of the host contract and no window.
-MAY_ALSO = {"propset": {"orlo/host/memory.h"}, "summary": {"orlo/host/picture.h"}}
+MAY_ALSO = {"propset": {"orlo/host/memory.h"}, "summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
 
 # Rooms that also compile where there are no windows, and the headers that bring them.
 WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding"]
@@ -34,7 +34,8 @@ WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|d
 ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, and no part of the interface
 PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
 OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST,
-           "skeleton": HOST, "afx": NOTHING}
+           "skeleton": HOST, "afx": NOTHING, "files": NOTHING}
+WITH_FILES = ("orlo/summary", "orlo/c")  # of the library; programs and the database may use it too
 
 
 def includes(path):
@@ -63,6 +64,8 @@ def inside(name, header):
     folder = "/".join(name.split("/")[:2])
     if folder in WITHOUT_WINDOWS and WINDOW_HEADERS.fullmatch(header):
         return f"{folder} has no windows"
+    if header.startswith("files/") and folder not in WITH_FILES:
+        return f"{folder} replaces no files"
     if not header.startswith("orlo/") or header == "orlo/export.h":
         return None
     room, other = name.split("/")[1], header.split("/")[1]
@@ -81,7 +84,7 @@ def outside(allowed, header, public):
 
 def spelling(top, mark, header):
     """One spelling: <orlo.h> and <orlo_c.h> as a host writes it, everything else by its path from the root."""
-    relative = mark == '"' and not header.startswith("orlo/") and (top == "orlo" or "orlo/" in header)
+    relative = mark == '"' and not header.startswith(("orlo/", "files/")) and (top == "orlo" or "orlo/" in header)
     if relative or (header in TOP_HEADERS) != (mark == "<") and header.startswith("orlo"):
         return 'written otherwise than <orlo.h>, <orlo_c.h> or "orlo/..."'
     return None

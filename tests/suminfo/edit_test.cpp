@@ -292,14 +292,15 @@ TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
         constexpr DWORD kHold = STGM_READ | STGM_SHARE_DENY_WRITE;
         ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kHold, nullptr, 0, orlo::Receive(holder)), S_OK);
         ExpectRefused({"set", file.string(), "title=New"},
-                      "test11--695187.doc: can't be opened: another program has it open");
+                      "test11--695187.doc: the file cannot be opened: another program has it open");
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
         EXPECT_EQ(copy.exitCode, 1);
-        EXPECT_EQ(copy.err, "suminfo: " + file.string() + ": can't be opened: another program has it open\n");
+        EXPECT_EQ(copy.err,
+                  "suminfo: " + file.string() + ": the file cannot be opened: another program has it open\n");
         EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0) << "reading goes on";
     }
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    ExpectRefused({"remove", file.string(), "title"}, "was left alone: the file is read-only");
+    ExpectRefused({"remove", file.string(), "title"}, "the file is read-only");
     EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0);
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(FileBytes(file), before);

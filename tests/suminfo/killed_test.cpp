@@ -124,7 +124,7 @@ TEST(Killed, AtAnyWriteLeavesTheOldDocumentOrTheNew) {
     EXPECT_GT(call, 10);
     // What was left lies beside it and does no harm.
     for (const auto& entry : fs::directory_iterator(folder.Path()))
-        EXPECT_TRUE(entry.path() == file || entry.path().extension() == ".part") << entry.path();
+        EXPECT_TRUE(entry.path() == file || entry.path().extension() == ".tmp") << entry.path();
     EXPECT_EQ(RunSuminfo(edit).exitCode, 0);
 }
 

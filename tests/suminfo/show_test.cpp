@@ -123,9 +123,18 @@ TEST(Show, OtherFilesAreRefusedByName) {
     const Outcome run = RunSuminfo({"show", "text.doc", "missing.doc", "."}, folder.Path());
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "suminfo: text.doc: can't be opened: not a compound file\n"
-                       "suminfo: missing.doc: can't be opened: no such file\n"
+    EXPECT_EQ(run.err, "suminfo: text.doc: not a compound file\n"
+                       "suminfo: missing.doc: the file cannot be opened: no such file\n"
                        "suminfo: .: is a folder; -r looks into folders\n");
+}
+
+TEST(Show, ReadsADocumentThatAnotherProgramWrites) {
+    const Folder folder;
+    const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");
+    std::fstream writer(file, std::ios::in | std::ios::out | std::ios::binary);
+    ASSERT_TRUE(writer);
+    const Outcome run = RunSuminfo({"show", file.string()});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
 }
 
 TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {

@@ -7,14 +7,15 @@
 #include "failure.h"
 #include "text.h"
 
+namespace fs = std::filesystem;
+
 namespace suminfo {
 namespace {
 
-OwnedFile Open(const std::string& file) {
+orlo::CompoundReader Open(const std::string& file) {
     std::error_code none; // whatever it is, opening it says more
-    if (std::filesystem::is_directory(std::filesystem::u8path(file), none))
-        throw Failure("is a folder; -r looks into folders");
-    return OpenDocument(file);
+    if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; -r looks into folders");
+    return orlo::OpenCompoundFile(fs::u8path(file));
 }
 
 std::string ErrorOf(const orlo::CompoundStream& stream) {
@@ -30,9 +31,8 @@ bool IsPropertySet(const std::u16string& path) {
 
 } // namespace
 
-Document::Document(const std::string& file) : file_(Open(file)), reader_(ReadCompound(file_)) {
-    if (reader_.State() == orlo::CompoundState::foreign)
-        throw Failure("can't be opened: not a compound file");
+Document::Document(const std::string& file) : reader_(Open(file)) {
+    if (reader_.State() == orlo::CompoundState::foreign) throw Failure("not a compound file");
 }
 
 std::vector<NamedStream> Document::PropertySets() const {
@@ -44,13 +44,11 @@ std::vector<NamedStream> Document::PropertySets() const {
 }
 
 std::optional<orlo::Bytes> Document::Read(const std::string& name) const {
-    for (const orlo::CompoundStream& stream : reader_.Streams()) {
-        if (!SameName(Utf8(stream.path), name)) continue;
-        const std::string error = ErrorOf(stream);
-        if (!error.empty()) throw Failure("stream " + StreamNameShown(name) + ": " + error);
-        return reader_.Read(stream);
-    }
-    return std::nullopt;
+    const orlo::CompoundStream* stream = orlo::FindStream(reader_, name);
+    if (stream == nullptr) return std::nullopt;
+    const std::string error = ErrorOf(*stream);
+    if (!error.empty()) throw Failure("stream " + StreamNameShown(name) + ": " + error);
+    return reader_.Read(*stream);
 }
 
 std::vector<std::string> Document::StreamDamage() const {

@@ -11,8 +11,7 @@
 #include <vector>
 
 #include "orlo/propset/inspect/value.h"
-#include "orlo/summary/compound_reader.h"
-#include "system_file.h"
+#include "orlo/summary/compound_file.h"
 
 namespace suminfo {
 
@@ -38,11 +37,8 @@ public:
     const std::vector<std::string>& Damage() const { return reader_.Damage(); }
     // The same for each damaged stream, property set or not.
     std::vector<std::string> StreamDamage() const;
-    const orlo::CompoundReader& Reader() const { return reader_; }
-    const OwnedFile& File() const { return file_; }
 
 private:
-    OwnedFile file_;
     orlo::CompoundReader reader_;
 };
 

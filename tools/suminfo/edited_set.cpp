@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "failure.h"
-#include "fields.h"
 #include "orlo/propset/code_page.h"
-#include "text.h"
+#include "orlo/propset/formats.h"
+#include "orlo/propset/inspect/set_edit.h"
 #include "value_input.h"
 
 namespace suminfo {
@@ -47,61 +47,11 @@ Kind KindOf(uint32_t type) {
     }
 }
 
-// Types whose bytes depend on the code page.
-bool HasCodePageText(uint32_t type) {
-    switch (type & ~uint32_t{VT_VECTOR}) {
-    case VT_LPSTR:
-    case VT_BSTR:
-    case VT_VARIANT:
-    case VT_STREAM:
-    case VT_STORAGE:
-    case VT_STREAMED_OBJECT:
-    case VT_STORED_OBJECT:
-        return true;
-    default:
-        return false;
-    }
-}
-
-orlo::ImageProperty& PropertyFor(orlo::ImageSection& section, uint32_t id) {
-    if (orlo::ImageProperty* found = section.Find(id)) return *found;
-    orlo::ImageProperty added;
-    added.id = id;
-    // The code page comes first: whoever reads in order needs it before the texts.
-    const auto place = id == kCodePageId ? section.properties.begin() : section.properties.end();
-    return *section.properties.insert(place, std::move(added));
-}
-
-void PutCodePage(orlo::ImageSection& section, uint16_t codePage) {
-    orlo::ImageProperty& property = PropertyFor(section, kCodePageId);
-    property.type = VT_I2;
-    property.state = orlo::ValueState::complete;
-    property.bytes = {static_cast<uint8_t>(codePage), static_cast<uint8_t>(codePage >> 8)};
-    section.codePage = codePage;
-}
-
-void TurnToUtf8(orlo::ImageSection& section) {
-    for (orlo::ImageProperty& property : section.properties) {
-        if (property.state != orlo::ValueState::complete || !HasCodePageText(property.type)) continue;
-        orlo::Value value;
-        const bool read = orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
-                                            section.codePage, value);
-        auto bytes = read ? orlo::EncodeValue(value, orlo::kCodePageUtf8) : std::nullopt;
-        if (!bytes)
-            throw Failure("code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) +
-                          " can't say the new text, and property " + std::to_string(property.id) +
-                          " is no text of it that could be turned to UTF-8");
-        property.bytes = std::move(*bytes);
-    }
-    PutCodePage(section, orlo::kCodePageUtf8);
-}
-
-uint32_t* IdOfName(orlo::ImageSection& section, const std::string& name) {
-    if (!section.dictionary) return nullptr;
-    const auto found =
-        std::find_if(section.dictionary->begin(), section.dictionary->end(),
-                     [&](const orlo::DictionaryEntry& entry) { return SameName(entry.name, name); });
-    return found == section.dictionary->end() ? nullptr : &found->id;
+void RequireUtf8(orlo::ImageSection& section) {
+    if (const auto id = orlo::ConvertToUtf8(section))
+        throw Failure("code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) +
+                      " can't say the new text, and property " + std::to_string(*id) +
+                      " is not text of it that could be converted to UTF-8");
 }
 
 uint32_t FreeCustomId(const orlo::ImageSection& section) {
@@ -111,8 +61,9 @@ uint32_t FreeCustomId(const orlo::ImageSection& section) {
     };
     for (const orlo::ImageProperty& property : section.properties)
         pass(property.id);
-    for (const orlo::DictionaryEntry& entry : *section.dictionary)
-        pass(entry.id);
+    if (section.dictionary)
+        for (const orlo::DictionaryEntry& entry : *section.dictionary)
+            pass(entry.id);
     if (next >= kLinkFlag) throw Failure("no identifier is left for another custom property");
     return next;
 }
@@ -132,27 +83,18 @@ EditedSet::EditedSet(const std::optional<orlo::Bytes>& bytes) {
 }
 
 orlo::ImageSection& EditedSet::Section(const GUID& format) {
-    if (orlo::ImageSection* found = set_.Find(format)) return *found;
-    // Readers look for the user-defined section in the second place.
-    if (::IsEqualGUID(format, kUserDefinedFormat)) Section(kDocumentSummaryFormat);
-    orlo::ImageSection& section = set_.sections.emplace_back();
-    section.formatId = format;
-    PutCodePage(section, orlo::kUsualCodePage);
-    return section;
+    return orlo::SectionFor(set_, format, orlo::kUsualCodePage);
 }
 
 void EditedSet::Store(orlo::ImageSection& section, uint32_t id, const orlo::Value& value) {
     auto bytes = orlo::EncodeValue(value, section.codePage);
-    if (!bytes && HasCodePageText(value.type)) {
-        TurnToUtf8(section);
+    if (!bytes && orlo::HasCodePageText(value.type)) {
+        RequireUtf8(section);
         bytes = orlo::EncodeValue(value, section.codePage);
     }
     if (!bytes)
         throw Failure("property " + std::to_string(id) + " can't be stored as " + orlo::TypeName(value.type));
-    orlo::ImageProperty& property = PropertyFor(section, id);
-    property.type = value.type;
-    property.state = orlo::ValueState::complete;
-    property.bytes = std::move(*bytes);
+    orlo::StoreValue(section, id, value.type, std::move(*bytes));
     changed_ = true;
 }
 
@@ -168,46 +110,35 @@ void EditedSet::SetField(const GUID& format, uint32_t id, const std::string& tex
     if (KindOf(type) != KindOf(usualType))
         throw Failure("it is stored as " + orlo::TypeName(type) + ", not as " + orlo::TypeName(usualType));
     constexpr uint32_t kEditTime = 10;
-    const bool span = ::IsEqualGUID(format, kSummaryFormat) && id == kEditTime;
+    const bool span = ::IsEqualGUID(format, orlo::kSummaryFormat) && id == kEditTime;
     Store(section, id, span ? ParseSpan(text) : ParseValue(type, text));
 }
 
 void EditedSet::SetCustom(const std::string& name, orlo::Value value) {
-    orlo::ImageSection& section = Section(kUserDefinedFormat);
-    if (!section.dictionary) section.dictionary.emplace();
-    if (const uint32_t* id = IdOfName(section, name)) {
-        Store(section, *id, value);
-        return;
-    }
-    if (!orlo::Utf8ToCodePage(name, section.codePage.value_or(orlo::kUsualCodePage))) TurnToUtf8(section);
+    orlo::ImageSection& section = Section(orlo::kUserDefinedFormat);
+    if (const orlo::DictionaryEntry* named = orlo::FindName(section, name))
+        return Store(section, named->id, value);
+    if (!orlo::Utf8ToCodePage(name, section.codePage.value_or(orlo::kUsualCodePage))) RequireUtf8(section);
     const uint32_t id = FreeCustomId(section);
-    section.dictionary->push_back({id, name});
+    orlo::StoreName(section, id, name);
     Store(section, id, value);
 }
 
 bool EditedSet::Remove(const GUID& format, uint32_t id) {
     orlo::ImageSection* section = set_.Find(format);
-    if (!section) return false;
-    auto& properties = section->properties;
-    const auto kept = std::remove_if(properties.begin(), properties.end(),
-                                     [id](const orlo::ImageProperty& property) { return property.id == id; });
-    if (kept == properties.end()) return false;
-    properties.erase(kept, properties.end());
-    changed_ = true;
-    return true;
+    const bool isRemoved = section != nullptr && orlo::RemoveValue(*section, id);
+    changed_ = changed_ || isRemoved;
+    return isRemoved;
 }
 
 bool EditedSet::RemoveCustom(const std::string& name) {
-    orlo::ImageSection* section = set_.Find(kUserDefinedFormat);
-    const uint32_t* named = section ? IdOfName(*section, name) : nullptr;
+    orlo::ImageSection* section = set_.Find(orlo::kUserDefinedFormat);
+    const orlo::DictionaryEntry* named = section ? orlo::FindName(*section, name) : nullptr;
     if (!named) return false;
-    const uint32_t id = *named;
-    auto& names = *section->dictionary;
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [id](const orlo::DictionaryEntry& entry) { return entry.id == id; }),
-                names.end());
-    Remove(kUserDefinedFormat, id);
-    if (id < kLinkFlag) Remove(kUserDefinedFormat, id | kLinkFlag);
+    const uint32_t id = named->id;
+    orlo::RemoveName(*section, id);
+    orlo::RemoveValue(*section, id);
+    if (id < kLinkFlag) orlo::RemoveValue(*section, id | kLinkFlag);
     changed_ = true;
     return true;
 }

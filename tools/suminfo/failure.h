@@ -23,22 +23,9 @@ template <class Work>
 void OnFile(const std::string& file, Work work) {
     try {
         work();
-    } catch (const Failure& failure) {
+    } catch (const std::runtime_error& failure) { // Failure, or one of the system
         throw Failure(file, failure.what());
     }
 }
-
-// Why a system doesn't do what it is asked, in the same words on each.
-namespace why {
-constexpr char kNoFile[] = "no such file";
-constexpr char kNoFolder[] = "no such folder";
-constexpr char kDenied[] = "access is denied, or the file is read-only";
-constexpr char kFull[] = "the disk is full";
-constexpr char kNotWritten[] = "it can't be written: the disk is full or failed";
-constexpr char kNoMemory[] = "not enough memory";
-} // namespace why
-
-// Throws what failed, with the last error of the system in words, or its number where words are missing.
-[[noreturn]] void FailBySystem(const std::string& doing);
 
 } // namespace suminfo

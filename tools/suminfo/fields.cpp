@@ -3,18 +3,10 @@
 #include "fields.h"
 
 #include <algorithm>
-#include <objidl.h>
 
 #include "failure.h"
-#include "text.h"
 
 namespace suminfo {
-
-const GUID kSummaryFormat = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
-const GUID kDocumentSummaryFormat = {
-    0xD5CDD502, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
-const GUID kUserDefinedFormat = {
-    0xD5CDD505, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
 
 const std::vector<Field>& Fields() {
     static const std::vector<Field> fields = {
@@ -70,8 +62,9 @@ const std::vector<Field>& Fields() {
 
 const Field* FieldNamed(std::string_view name) {
     const auto& fields = Fields();
-    const auto found = std::find_if(fields.begin(), fields.end(),
-                                    [name](const Field& field) { return SameName(field.name, name); });
+    const auto found = std::find_if(fields.begin(), fields.end(), [name](const Field& field) {
+        return orlo::IsSameName(field.name, name);
+    });
     return found == fields.end() ? nullptr : &*found;
 }
 

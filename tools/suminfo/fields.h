@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "orlo/propset/code_page.h"
+#include "orlo/propset/formats.h"
 
 namespace suminfo {
 
-extern const GUID kSummaryFormat;         // {F29F85E0-4FF9-1068-AB91-08002B27B3D9}
-extern const GUID kDocumentSummaryFormat; // {D5CDD502-2E9C-101B-9397-08002B2CF9AE}
-extern const GUID kUserDefinedFormat;     // {D5CDD505-2E9C-101B-9397-08002B2CF9AE}
-
 using orlo::kCodePageId;
+using orlo::kDocumentSummaryFormat;
+using orlo::kSummaryFormat;
+using orlo::kUserDefinedFormat;
 constexpr uint32_t kLocaleId = 0x80000000;
 
 struct Field {

@@ -3,21 +3,107 @@
 #include "file_list.h"
 
 #include <algorithm>
+#include <array>
+#include <filesystem>
+#include <optional>
 #include <set>
 
-#include "folders.h"
+#include "files/file_error.h"
+#include "files/open_file.h"
+#include "orlo/summary/compound_reader.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include "orlo/win/encoded_text.h"
+#else
+#include <sys/stat.h>
+#endif
+
+namespace fs = std::filesystem;
 
 namespace suminfo {
 namespace {
 
-// The paths of what is in the folder, by name; nothing if it can't be listed. They are put together by hand: what takes
-// paths apart takes the a of a:b.doc for a drive.
+// Numbers that a file, or a folder, shares with no other.
+using FileIdentity = std::array<uint64_t, 4>;
+
+#ifdef _WIN32
+
+constexpr wchar_t kSeparators[] = L"/\\";
+
+std::string Utf8(const std::wstring& name) {
+    return orlo::Narrow(name, CP_UTF8);
+}
+
+uint64_t Joined(DWORD high, DWORD low) {
+    return uint64_t{high} << 32 | low;
+}
+
+// The index of a file is its own on one volume only, and not every system tells volumes apart; its times do.
+std::optional<FileIdentity> IdentityOf(const std::string& path) {
+    const files::OpenFile file =
+        files::OpenShared(fs::u8path(path), 0, FILE_FLAG_BACKUP_SEMANTICS); // folders too
+    BY_HANDLE_FILE_INFORMATION is;
+    if (!file || !::GetFileInformationByHandle(file.get(), &is)) return std::nullopt;
+    return FileIdentity{is.dwVolumeSerialNumber, Joined(is.nFileIndexHigh, is.nFileIndexLow),
+                        Joined(is.ftCreationTime.dwHighDateTime, is.ftCreationTime.dwLowDateTime),
+                        Joined(is.ftLastWriteTime.dwHighDateTime, is.ftLastWriteTime.dwLowDateTime)};
+}
+
+#else
+
+constexpr char kSeparators[] = "/";
+
+const std::string& Utf8(const std::string& name) {
+    return name;
+}
+
+std::optional<FileIdentity> IdentityOf(const std::string& path) {
+    struct stat is;
+    if (::stat(path.c_str(), &is) != 0) return std::nullopt;
+    return FileIdentity{is.st_dev, is.st_ino};
+}
+
+#endif
+
+bool IsFolder(const std::string& path) {
+    std::error_code unknown;
+    return fs::is_directory(fs::u8path(path), unknown);
+}
+
+bool IsThere(const std::string& path) {
+    std::error_code unknown;
+    return fs::exists(fs::u8path(path), unknown);
+}
+
+// Returns true for a compound file, and for a file that can't be opened: the work on it says why it fails.
+bool MayBeDocument(const std::string& path) {
+    std::error_code unknown;
+    if (!fs::is_regular_file(fs::u8path(path), unknown)) return false;
+    try {
+        std::array<uint8_t, orlo::kCompoundSignature.size()> head;
+        const files::OpenFile file = files::OpenToRead(fs::u8path(path));
+        return files::ReadAt(file.get(), 0, head.data(), head.size()) && head == orlo::kCompoundSignature;
+    } catch (const files::FileError&) {
+        return true;
+    }
+}
+
+// The paths of what is in the folder, by name; nothing if it can't be listed. They are put together by hand: fs::path takes the
+// a of a:b.doc for a drive.
 std::optional<std::vector<std::string>> EntriesOf(const std::string& folder) {
-    std::optional<std::vector<std::string>> entries = NamesIn(folder);
-    if (!entries) return std::nullopt;
-    for (std::string& name : *entries)
-        name = (EndsPath(folder) ? folder : folder + '/') + name;
-    std::sort(entries->begin(), entries->end());
+    std::error_code error;
+    const fs::path native = fs::u8path(folder);
+    const bool endsPath = native.native().find_last_of(kSeparators) == native.native().size() - 1;
+    std::vector<std::string> entries;
+    for (fs::directory_iterator at(native, error), end; !error && at != end; at.increment(error)) {
+        const auto& path = at->path().native();
+        entries.push_back((endsPath ? folder : folder + '/') +
+                          Utf8(path.substr(path.find_last_of(kSeparators) + 1)));
+    }
+    if (error) return std::nullopt;
+    std::sort(entries.begin(), entries.end());
     return entries;
 }
 

@@ -12,10 +12,11 @@
 #include "exit_codes.h"
 #include "failure.h"
 #include "file_list.h"
+#include "files/file_replacement.h"
 #include "progress.h"
 #include "text.h"
 #ifdef _WIN32
-#include "wide_text.h"
+#include "orlo/win/encoded_text.h"
 #endif
 
 namespace {
@@ -93,6 +94,8 @@ int Run(const std::vector<std::string>& arguments) {
 
 // "@-" stands for arguments on standard input, each ended by a NUL: more names than a command line of the system holds.
 int RunWith(const std::vector<std::string>& words) {
+    PrepareStreams();
+    files::RemoveTemporaryFileOnInterrupt();
     std::vector<std::string> arguments;
     for (const std::string& word : words) {
         if (word != "@-") {
@@ -109,15 +112,13 @@ int RunWith(const std::vector<std::string>& words) {
 
 #ifdef _WIN32
 int wmain(int count, wchar_t** words) {
-    PrepareStreams();
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
-        arguments.push_back(ToUtf8(words[i]));
+        arguments.push_back(orlo::Narrow(words[i], CP_UTF8));
     return RunWith(arguments);
 }
 #else
 int main(int count, char** words) {
-    PrepareStreams();
     return RunWith({words + 1, words + count});
 }
 #endif

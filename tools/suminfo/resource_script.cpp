@@ -1,103 +1,150 @@
-// Sections as raw-data resources: the library prints the items, this file the lines around them.
+// Sections as raw-data resources, in the bytes that a stream would have.
 
-#include <algorithm>
-#include <optional>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
 #include <string>
 
-#include "byte_stream.h"
 #include "commands.h"
 #include "edited_set.h"
 #include "failure.h"
+#include "files/file_error.h"
+#include "files/file_replacement.h"
 #include "orlo/propset/code_page.h"
-#include "orlo/propset/property_set.h"
 #include "orlo/propset/rc_file.h"
-#include "output_file.h"
 #include "sources.h"
 #include "text.h"
+
+namespace fs = std::filesystem;
 
 namespace suminfo {
 namespace {
 
-// The classes that print hold less than a stream can: values whose form they know, names in small letters of one code
-// page.
-bool IsSame(CProperty& printed, const orlo::ImageProperty& held) {
-    orlo::Bytes form;
-    for (int shift = 0; shift < 32; shift += 8)
-        form.push_back(static_cast<uint8_t>(held.type >> shift));
-    form.insert(form.end(), held.bytes.begin(), held.bytes.end());
-    const ByteStream stream;
-    if (printed.GetID() != held.id || !printed.WriteToStream(stream.get())) return false;
-    const orlo::Bytes written = stream.Bytes(); // filled up to 4 bytes
-    return written.size() >= form.size() && std::equal(form.begin(), form.end(), written.begin());
-}
+constexpr size_t kBeforeSection = 48; // bytes of a set with one section
 
-bool HasName(CPropertySection& printed, const orlo::DictionaryEntry& entry, uint16_t codePage) {
-    const auto name = orlo::Utf8ToCodePage(entry.name, codePage);
-    if (!name) return false;
-    if (entry.id == 0) return *name == printed.GetSectionName();
-    CString small(name->c_str());
-    small.MakeLower(); // byte for byte: it may tear characters of two bytes
-    const auto shown = orlo::CodePageToUtf8(static_cast<const char*>(small), codePage);
-    DWORD id = 0;
-    return shown && SameName(*shown, entry.name) && printed.GetID(small, &id) && id == entry.id;
-}
+// The stream form of a section, printed from its beginning to its end.
+class SectionPrinter {
+public:
+    SectionPrinter(const orlo::ImageSection& section, CRCFile& rc) : section_(section), rc_(rc) {
+        orlo::SetImage set;
+        set.sections.push_back(section);
+        auto bytes = orlo::WriteSetImage(set);
+        if (!bytes) throw Failure("a name of its dictionary can't be said in its code page");
+        bytes_.assign(bytes->begin() + kBeforeSection, bytes->end());
+    }
 
-void RefuseUnlessSame(CPropertySection& printed, const orlo::ImageSection& held) {
-    CObList& properties = *printed.GetList();
-    POSITION at = properties.GetHeadPosition();
-    for (const orlo::ImageProperty& property : held.properties)
-        if (!at || !IsSame(*static_cast<CProperty*>(properties.GetNext(at)), property))
-            throw Failure("property " + std::to_string(property.id) + ", " + orlo::TypeName(property.type) +
-                          ", can't be printed in a script");
-    if (!held.dictionary) return;
-    if (held.codePage == orlo::kCodePageUtf16)
-        throw Failure("names in 16-bit characters can't be printed in a script");
-    for (const orlo::DictionaryEntry& entry : *held.dictionary)
-        if (!HasName(printed, entry, held.codePage.value_or(orlo::kUsualCodePage)))
-            throw Failure("the name " + OneLine(entry.name) + " can't be printed in a script");
-}
+    void Print() {
+        rc_.NewLine();
+        PrintNumbers(2); // size and count
+        const size_t count = Number(4);
+        for (size_t i = 0; i < count; ++i) {
+            rc_.NewLine();
+            PrintNumbers(2);
+        }
+        for (size_t i = 0; i < count; ++i) {
+            const size_t end = i + 1 < count ? Number(20 + 8 * i) : bytes_.size();
+            if (i == 0 && section_.dictionary)
+                PrintDictionary();
+            else
+                PrintValue(Number(8 + 8 * i), end);
+            PrintBytes(end - at_); // padding
+        }
+    }
 
-void Print(CPropertySet& set, const orlo::SetImage& held, const std::string& title, CRCFile& rc) {
+private:
+    uint32_t Number(size_t at) const {
+        uint32_t number;
+        std::memcpy(&number, bytes_.data() + at, sizeof number);
+        return number;
+    }
+    uint32_t PrintNumbers(int count) {
+        uint32_t number = 0;
+        for (; count > 0; --count, at_ += sizeof number) {
+            number = Number(at_);
+            rc_.WriteDWord(number);
+        }
+        return number;
+    }
+    void PrintBytes(size_t size) {
+        rc_.WriteBytes(bytes_.data() + at_, static_cast<int>(size));
+        at_ += size;
+    }
+    void PrintText(size_t size) {
+        if (section_.codePage == orlo::kCodePageUtf16) return PrintBytes(size);
+        rc_.WriteCString(reinterpret_cast<const char*>(bytes_.data() + at_), static_cast<DWORD>(size));
+        at_ += size;
+    }
+
+    void PrintDictionary() {
+        const bool isWide = section_.codePage == orlo::kCodePageUtf16;
+        rc_.NewLine();
+        for (uint32_t names = PrintNumbers(1); names > 0; --names) {
+            rc_.NewLine();
+            const size_t size = size_t{PrintNumbers(2)} * (isWide ? 2 : 1); // after the ID
+            PrintText(size);
+            if (isWide) PrintBytes(size % 4);
+        }
+    }
+
+    void PrintValue(uint32_t id, size_t end) {
+        char comment[32];
+        std::snprintf(comment, sizeof comment, "// [ 0x%x ]\n    ", static_cast<unsigned>(id));
+        rc_.NewLine();
+        rc_.Format();
+        rc_.CStdioFile::WriteString(comment);
+        rc_.StartBlock();
+        const uint32_t type = PrintNumbers(1);
+        const uint32_t base = type & ~uint32_t{VT_VECTOR};
+        if (base != VT_LPSTR && base != VT_BSTR) return PrintBytes(end - at_);
+        for (uint32_t count = base == type ? 1 : PrintNumbers(1); count > 0; --count)
+            PrintText(PrintNumbers(1));
+    }
+
+    const orlo::ImageSection& section_;
+    CRCFile& rc_;
+    orlo::Bytes bytes_;
+    size_t at_ = 0;
+};
+
+void Print(const orlo::SetImage& set, const std::string& title, CRCFile& rc) {
     const auto plain = [&rc](const std::string& text) { rc.CStdioFile::WriteString(text.c_str()); };
+    if (set.sections.empty()) throw Failure("it has no sections");
     plain("// " + title + "\n");
     rc.PrintWholeTexts();
-    if (held.sections.empty()) throw Failure("it has no sections");
     int number = 0;
-    POSITION at = set.GetList()->GetHeadPosition();
-    for (const orlo::ImageSection& section : held.sections) {
-        const std::string place = "section " + std::to_string(++number);
-        if (!at) throw Failure(place + " can't be printed in a script");
-        auto& printed = *static_cast<CPropertySection*>(set.GetList()->GetNext(at));
-        try {
-            RefuseUnlessSame(printed, section);
-        } catch (const Failure& failure) {
-            throw Failure(place + ": " + failure.what());
-        }
-        plain("\n" + std::to_string(number) + " RCDATA\nBEGIN");
+    for (const orlo::ImageSection& section : set.sections) {
+        plain("\n" + std::to_string(++number) + " RCDATA\nBEGIN");
         rc.StartBlock();
-        if (!printed.WriteToRC(&rc)) throw Failure(place + " can't be printed in a script");
+        SectionPrinter(section, rc).Print();
         plain("\nEND\n");
     }
+}
+
+FILE* OpenStream(const fs::path& path) {
+#ifdef _WIN32
+    FILE* stream = ::_wfopen(path.c_str(), L"wb");
+#else
+    FILE* stream = std::fopen(path.c_str(), "wb");
+#endif
+    if (stream == nullptr) files::ThrowLastError("the file cannot be written");
+    return stream;
 }
 
 } // namespace
 
 void SaveResourceScript(const Source& source, const std::string& script) {
-    const NamedStream stream = SummaryOf(source);
-    const EditedSet sound(stream.bytes); // refuses what is damaged
-    CPropertySet set;
-    if (!set.ReadFromStream(ByteStream(stream.bytes).get())) throw Failure("it is no property set");
-    std::optional<OutputFile> file;
-    OnFile(script, [&] { file.emplace(script); });
-    CRCFile rc(file->HandOver());
+    const EditedSet sound(SummaryOf(source).bytes); // refuses what is damaged
+    std::optional<files::FileReplacement> file;
+    OnFile(script, [&] { file.emplace(fs::u8path(script)); });
     try {
-        Print(set, sound.Held(), "Sections of " + OneLine(source.file), rc);
+        CRCFile rc(OpenStream(file->Path()));
+        Print(sound.Held(), "Sections of " + OneLine(source.file), rc);
         rc.Close();
     } catch (CFileException* full) {
         full->Delete();
         throw Failure(script, "can't be written: the disk is full or failed");
     }
-    OnFile(script, [&] { file->Finish(); });
+    OnFile(script, [&] { file->TakePlace(); });
 }
 
 } // namespace suminfo

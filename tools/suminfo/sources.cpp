@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "failure.h"
+#include "files/open_file.h"
 
 namespace fs = std::filesystem;
 
@@ -29,8 +30,8 @@ orlo::Bytes ReadFile(const std::string& file) {
     const fs::path path = fs::u8path(file);
     std::error_code none; // whatever it is, opening it says more
     if (fs::is_directory(path, none)) throw Failure("is a folder");
+    files::OpenToRead(path); // says why it fails
     std::ifstream stream(path, std::ios::binary);
-    if (!stream) throw Failure(fs::exists(path, none) ? "can't be opened" : "can't be opened: no such file");
     return orlo::Bytes(std::istreambuf_iterator<char>(stream), {});
 }
 

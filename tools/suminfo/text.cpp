@@ -2,8 +2,17 @@
 
 #include "text.h"
 
+#include <array>
 #include <cstdio>
+#ifdef _WIN32
+#include <windows.h>
 
+#include <bcrypt.h>
+#else
+#include <nettle/sha2.h>
+#endif
+
+#include "failure.h"
 #include "orlo/propset/code_page.h"
 
 namespace suminfo {
@@ -90,5 +99,31 @@ std::string Hex(const uint8_t* bytes, size_t size) {
     }
     return text;
 }
+
+#ifdef _WIN32
+std::string Sha256(const std::vector<uint8_t>& bytes) {
+    std::array<uint8_t, 32> hash;
+    auto* data = const_cast<uint8_t*>(bytes.data()); // the system takes its input as PUCHAR
+    BCRYPT_ALG_HANDLE algorithm = nullptr;
+    BCRYPT_HASH_HANDLE state = nullptr;
+    const bool done = ::BCryptOpenAlgorithmProvider(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, 0) >= 0 &&
+                      ::BCryptCreateHash(algorithm, &state, nullptr, 0, nullptr, 0, 0) >= 0 &&
+                      ::BCryptHashData(state, data, static_cast<ULONG>(bytes.size()), 0) >= 0 &&
+                      ::BCryptFinishHash(state, hash.data(), static_cast<ULONG>(hash.size()), 0) >= 0;
+    if (state) ::BCryptDestroyHash(state);
+    if (algorithm) ::BCryptCloseAlgorithmProvider(algorithm, 0);
+    if (!done) throw Failure("the system can't make a SHA-256");
+    return Hex(hash.data(), hash.size());
+}
+#else
+std::string Sha256(const std::vector<uint8_t>& bytes) {
+    sha256_ctx state;
+    std::array<uint8_t, SHA256_DIGEST_SIZE> hash;
+    ::sha256_init(&state);
+    ::sha256_update(&state, bytes.size(), bytes.data());
+    ::sha256_digest(&state, hash.size(), hash.data());
+    return Hex(hash.data(), hash.size());
+}
+#endif
 
 } // namespace suminfo

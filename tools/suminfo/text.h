@@ -12,8 +12,6 @@ namespace suminfo {
 std::string Utf8(std::u16string text);
 // A stream's name as it is shown: the byte 5 of property sets as \005.
 std::string StreamNameShown(std::string_view name);
-// Without regard to case, as the storage compares names.
-bool SameName(std::string_view a, std::string_view b);
 // Fit for a terminal, which would obey them: control characters in this form of their number. Ends of lines stay.
 std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
 // The same on one line: \n, \t, \x01.

@@ -1,18 +1,19 @@
 // The thumbnail as a PNG file.
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "commands.h"
 #include "failure.h"
 #include "fields.h"
+#include "files/file_replacement.h"
 #include "metafile_drawing.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "orlo/summary/dib_drawing.h"
-#include "output_file.h"
 #include "picture_format.h"
 #include "sources.h"
 
@@ -71,8 +72,8 @@ Extent OwnExtent(const orlo::Bytes& value) {
     return {scaled(extent.width), scaled(extent.height)};
 }
 
-void Append(void* file, void* data, int size) {
-    std::fwrite(data, 1, static_cast<size_t>(size), static_cast<FILE*>(file));
+void Append(void* bytes, void* data, int size) {
+    static_cast<std::string*>(bytes)->append(static_cast<const char*>(data), static_cast<size_t>(size));
 }
 
 void RefuseOtherKinds(const orlo::Bytes& value) {
@@ -105,11 +106,13 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<E
         throw Failure("a size is between 1x1 and 8192x8192");
     const std::vector<uint8_t> colours = Drawn(value, extent);
     OnFile(png, [&] {
-        OutputFile file(png);
-        if (!stbi_write_png_to_func(Append, file.Stream(), extent.width, extent.height, 3, colours.data(),
+        std::string bytes;
+        if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colours.data(),
                                     3 * extent.width))
             throw Failure("can't be written");
-        file.Finish();
+        files::FileReplacement file(std::filesystem::u8path(png));
+        file.Write(bytes);
+        file.TakePlace();
     });
 }
 

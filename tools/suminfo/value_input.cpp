@@ -10,8 +10,8 @@
 #include <cstdlib>
 
 #include "failure.h"
+#include "orlo/propset/code_page.h"
 #include "orlo/propset/value_text.h"
-#include "text.h"
 
 namespace suminfo {
 namespace {
@@ -50,9 +50,9 @@ double Real(const std::string& text) {
 
 bool Truth(const std::string& text) {
     for (const char* yes : {"true", "yes", "1"})
-        if (SameName(text, yes)) return true;
+        if (orlo::IsSameName(text, yes)) return true;
     for (const char* no : {"false", "no", "0"})
-        if (SameName(text, no)) return false;
+        if (orlo::IsSameName(text, no)) return false;
     Refuse(text, "bool (true or false)");
 }
 
@@ -105,7 +105,7 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
         value.data = Truth(text);
         return value;
     case VT_FILETIME:
-        if (SameName(text, "now")) {
+        if (orlo::IsSameName(text, "now")) {
             value.data = Now();
             return value;
         }
@@ -146,7 +146,8 @@ orlo::Value ParseTyped(std::string_view typed) {
         throw Failure("'" + std::string(typed) + "' needs a type, as in text:" + std::string(typed));
     const std::string_view word = typed.substr(0, colon);
     for (const TypeWord& known : kTypeWords)
-        if (SameName(known.word, word)) return ParseValue(known.type, std::string(typed.substr(colon + 1)));
+        if (orlo::IsSameName(known.word, word))
+            return ParseValue(known.type, std::string(typed.substr(colon + 1)));
     throw Failure("'" + std::string(word) + "' is no type; types are " + TypeNames());
 }
 

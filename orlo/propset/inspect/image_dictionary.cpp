@@ -114,15 +114,16 @@ std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t 
         std::optional<std::string> utf8 = CodePageToUtf8(text, form.codePage);
         if (!utf8) {
             report.Add(FindingCode::nameUndecodable, Severity::irregular, offset + name.at, place,
-                       ": the name of property ", name.id, " is no text of code page ", form.codePage,
-                       "; left out");
+                       ": the name of property ", name.id, " is not text of code page ", form.codePage);
+            if (form.codePage == codePage)
+                result.entries.push_back({name.id, {}, Bytes(text.begin(), text.end())});
             continue;
         }
         if (!seen.insert(text).second)
             report.Add(FindingCode::nameRepeated, Severity::irregular, offset + name.at, place,
                        ": the name of property ", name.id,
                        " was given before; readers take the first or the last");
-        result.entries.push_back({name.id, std::move(*utf8)});
+        result.entries.push_back({name.id, std::move(*utf8), {}});
     }
     return result;
 }
@@ -132,8 +133,10 @@ bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t
     const NameForm form{codePage, codePage == kCodePageUtf16};
     image.Put32(static_cast<uint32_t>(entries.size()));
     for (const DictionaryEntry& entry : entries) {
-        const std::optional<std::string> name = Utf8ToCodePage(entry.name, codePage);
-        if (!name) return false;
+        const std::optional<std::string> name =
+            entry.undecoded.empty() ? Utf8ToCodePage(entry.name, codePage)
+                                    : std::string(entry.undecoded.begin(), entry.undecoded.end());
+        if (!name || name->size() % form.UnitSize() != 0) return false;
         const size_t size = name->size() + form.UnitSize();
         image.Put32(entry.id);
         image.Put32(static_cast<uint32_t>(size / form.UnitSize()));

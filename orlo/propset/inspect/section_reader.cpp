@@ -181,9 +181,10 @@ void SectionReader::ReadValue(Entry& entry) {
     }
     const uint32_t type = Load32(head_ + entry.offset);
     property.type = type & 0xFFFF;
+    property.typeHighHalf = static_cast<uint16_t>(type >> 16);
     if (type != property.type)
         report_.Add(FindingCode::typeHighHalf, Severity::irregular, at, NameOf(entry), ": type ", Hex{type},
-                    " has a high half, which is left out");
+                    " has a high half, which readers leave out");
 
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     const bool isVector = IsVector(property.type);

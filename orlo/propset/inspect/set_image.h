@@ -25,7 +25,8 @@ namespace orlo {
 
 struct DictionaryEntry {
     uint32_t id;
-    std::string name; // UTF-8
+    std::string name; // UTF-8; empty for a name that is not text of the code page
+    Bytes undecoded;  // the stored bytes of such a name
 };
 
 // complete: the bytes are the value. opaque: unknown type; the bytes are all up to the next value,
@@ -35,7 +36,8 @@ enum class ValueState { complete, opaque, partial };
 struct ImageProperty {
     uint32_t id = 0;
     uint32_t type = VT_EMPTY;
-    uint32_t offset = 0; // of the type code, from the head of its section
+    uint16_t typeHighHalf = 0; // 0 unless the writer put something after the type code
+    uint32_t offset = 0;       // of the type code, from the head of its section
     ValueState state = ValueState::complete;
     Bytes bytes; // after the type code, without padding
 };

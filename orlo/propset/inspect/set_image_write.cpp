@@ -50,7 +50,7 @@ bool AppendSection(const ImageSection& section, ImageWriter& image) {
     for (const ImageProperty& property : section.properties) {
         if (property.state == ValueState::partial) continue;
         table.Add(property.id);
-        image.Put32(property.type);
+        image.Put32(property.type | uint32_t{property.typeHighHalf} << 16);
         image.Put(property.bytes.data(), property.bytes.size());
         Align(image);
     }

@@ -1,15 +1,17 @@
 // set, remove and copy: streams read, changed in memory, and written all at once.
 
-#include <algorithm>
+#include <filesystem>
 #include <map>
-#include <objbase.h>
 
 #include "commands.h"
-#include "edited_document.h"
+#include "document.h"
 #include "edited_set.h"
 #include "failure.h"
 #include "fields.h"
+#include "orlo/summary/edited_document.h"
 #include "text.h"
+
+namespace fs = std::filesystem;
 
 namespace suminfo {
 namespace {
@@ -17,7 +19,7 @@ namespace {
 // The two summary streams of a document, each opened for changes when something wants to change it.
 class Edit {
 public:
-    explicit Edit(const std::string& file) : document_(file) {}
+    explicit Edit(const std::string& file) : document_(fs::u8path(file)) {}
 
     EditedSet& SetWith(const GUID& format) {
         const char* name = ::IsEqualGUID(format, kSummaryFormat) ? kSummaryStream : kDocumentSummaryStream;
@@ -37,7 +39,7 @@ public:
     }
 
 private:
-    EditedDocument document_;
+    orlo::EditedDocument document_;
     std::map<std::string, EditedSet> sets_;
 };
 
@@ -95,7 +97,7 @@ void CopySummary(const std::string& from, const std::string& to) {
         if (streams.empty()) throw Failure("it has no summary");
     }
     OnFile(to, [&] {
-        EditedDocument target(to);
+        orlo::EditedDocument target(fs::u8path(to));
         for (const auto& [name, bytes] : streams)
             target.Write(name, bytes);
         target.Commit();

@@ -1,0 +1,89 @@
+// Standard streams of the system.
+
+#include "console.h"
+
+#include <cstdlib>
+#ifdef _WIN32
+#include <algorithm>
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include "orlo/win/encoded_text.h"
+#else
+#include <cerrno>
+#include <csignal>
+#include <unistd.h>
+#endif
+
+#include "exit_codes.h"
+#include "text.h"
+
+namespace suminfo {
+namespace {
+
+#ifdef _WIN32
+
+// A console gets whole texts in 16-bit characters: the runtime would hand it UTF-8 byte by byte, and tear its characters.
+bool PrintOnConsole(FILE* stream, const std::string& utf8) {
+    const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
+    DWORD mode;
+    if (!::GetConsoleMode(console, &mode)) return false;
+    const std::wstring wide = orlo::Widen(utf8, CP_UTF8);
+    constexpr size_t kPiece = 8192; // consoles refuse very long ones
+    for (size_t at = 0; at < wide.size(); at += kPiece) {
+        const auto size = static_cast<DWORD>(std::min(wide.size() - at, kPiece));
+        DWORD written = 0;
+        if (!::WriteConsoleW(console, wide.data() + at, size, &written, nullptr)) break;
+    }
+    return true;
+}
+
+bool HasReaderGone() {
+    const DWORD error = ::GetLastError();
+    return error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_PIPE_NOT_CONNECTED;
+}
+
+#else
+
+bool PrintOnConsole(FILE*, const std::string&) {
+    return false; // terminals take UTF-8 as files do
+}
+
+bool HasReaderGone() {
+    return errno == EPIPE;
+}
+
+#endif
+
+} // namespace
+
+void PrepareStreams() {
+#ifdef _WIN32
+    for (FILE* stream : {stdin, stdout, stderr})
+        ::_setmode(::_fileno(stream), _O_BINARY);
+#else
+    std::signal(SIGPIPE, SIG_IGN); // a reader that goes is seen when something is written
+#endif
+}
+
+void Print(FILE* stream, const std::string& utf8) {
+    const std::string text = Printable(utf8);
+    if (PrintOnConsole(stream, text)) return;
+    const bool isWritten =
+        std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
+    if (isWritten || stream != stdout) return;
+    // A program that has read enough has closed the pipe; anything else is reported.
+    if (!HasReaderGone()) Print(stderr, "suminfo: the output can't be written\n");
+    std::exit(kFailed);
+}
+
+bool IsTerminal(FILE* stream) {
+#ifdef _WIN32
+    return ::_isatty(::_fileno(stream)) != 0;
+#else
+    return ::isatty(::fileno(stream)) != 0;
+#endif
+}
+
+} // namespace suminfo
