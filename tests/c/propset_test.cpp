@@ -85,7 +85,8 @@ TEST(CPropset, SavesIntoAFileInOneStepAndLeavesTheRest) {
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     OrloPropset set = Opened(file.path.c_str()), other = nullptr;
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloAuthor, kOrloTypeText, "\xE0\xB8\x81"), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"),
+              kOrloNotEncodable);
     {
         constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         const HANDLE held =
@@ -270,7 +271,8 @@ TEST(CPropset, StoresWhatATypeCanHold) {
     EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloSummary, kOrloCodePage, kOrloTypeInt16, 1252),
               kOrloBadArgument);
     EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloDocumentSummary, kOrloCodePage, kOrloTypeInt16, 932), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"),
+              kOrloNotEncodable);
     OrloPropsetClose(set);
 }
 
