@@ -64,7 +64,7 @@ const LengthRow kLengths[] = {{"2", 2},
                               {"1'-6\" + 2 in", 20},
                               {"2 - 1'-6\"", -16},
                               {"1' - 6\"", 6},
-                              {"10'-6'", 48},
+                              {"10' - 6'", 48},
                               {"1'-6 1/2\"*2", 37},
                               {"2*(1' + 6\")/3", 12},
                               {"2*-1'", -24},
@@ -79,7 +79,7 @@ const char* const kNoLengths[] = {
     "(1 in", "1 in/0", "1 in*1 in", "1 in/1 in", "4/(2 in)", "1 in 1/2", "2(3)", "(2)3", "(1 in) in",
     "(1+2)x", "2 ft--1", "1e300 mi*1e10", "1e-300*1e-300",
     // one number or a difference? with units around, nobody can tell
-    "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2"};
+    "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2", "1'-6'", "10'-6'", "2 + 1'-6'"};
 
 class Lengths : public testing::Test {
 protected:

@@ -26,21 +26,25 @@ public:
     bool ReadOne(TextCursor& cursor, Quantity& length) const override {
         std::string_view name;
         if (!ReadPart(cursor, length, name)) return false;
-        if (length.measured && Unit(name) == kFoot) ReadInches(cursor, length.value);
-        return true;
+        return !length.measured || Unit(name) != kFoot || ReadInches(cursor, length.value);
     }
 
 private:
-    // Inches behind feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus.
-    void ReadInches(TextCursor& cursor, double& feet) const {
+    // Inches after feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus. Fails for "1'-6'", which is more likely
+    // a slip of 1'-6" than a difference.
+    bool ReadInches(TextCursor& cursor, double& feet) const {
         const TextCursor before = cursor;
-        if (!cursor.Take('-')) cursor.SkipBlanks();
+        const bool joined = cursor.Take('-');
+        if (!joined) cursor.SkipBlanks();
         Quantity inches;
         std::string_view name;
-        if (ReadPart(cursor, inches, name) && (!inches.measured || Unit(name) == kInch))
+        const bool read = ReadPart(cursor, inches, name);
+        if (read && joined && name == "'") return false;
+        if (read && (!inches.measured || Unit(name) == kInch))
             feet += inches.measured ? inches.value : inches.value * kInch;
         else
             cursor = before;
+        return true;
     }
 
     // A number, and its unit if it has one.

@@ -43,8 +43,8 @@ char TextCursor::TakeOperator(char one, char other) {
     SkipBlanks();
     const char taken = Take(one) ? one : Take(other) ? other : '\0';
     SkipBlanks();
-    const bool signs = (taken == '+' || taken == '-') && (Next() == '+' || Next() == '-');
-    if (taken && !signs) return taken;
+    const bool doubled = (taken == '+' || taken == '-') && Next() == taken;
+    if (taken && !doubled) return taken;
     at_ = begin;
     return '\0';
 }

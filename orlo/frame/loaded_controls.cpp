@@ -1,0 +1,78 @@
+// LoadedControls, and the time during which a page is loaded.
+
+#include "orlo/frame/loaded_controls.h"
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "orlo/frame/control_state.h"
+#include "orlo/frame/graphic_property_page.h"
+
+// Lives as long as the exchange. The controls show the values only when it ends.
+class LoadedControls::Loading : public CObject {
+public:
+    explicit Loading(LoadedControls& controls)
+        : m_controls(controls), m_before(std::exchange(controls.m_page.m_bInitializing, 1)) {
+        controls.m_loading = this;
+    }
+    ~Loading() override {
+        for (const unsigned int nID : m_shown)
+            m_controls.Note(nID);
+        m_controls.m_loading = nullptr;
+        m_controls.m_page.m_bInitializing = m_before;
+    }
+    void Add(unsigned int nID) { m_shown.push_back(nID); }
+
+private:
+    LoadedControls& m_controls;
+    int m_before;
+    std::vector<unsigned int> m_shown;
+};
+
+LoadedControls& LoadedControls::Of(CGraphicPropertyPage& page) {
+    return *page.m_pLoaded;
+}
+
+HWND LoadedControls::Window(unsigned int nID) const {
+    return ::GetDlgItem(m_page.m_hWnd, static_cast<int>(nID));
+}
+
+bool LoadedControls::Agrees(unsigned int nID) const {
+    const auto found = m_controls.find(nID);
+    return found != m_controls.end() && found->second.shown && ShownState(Window(nID)) == found->second.shown;
+}
+
+void LoadedControls::Show(CDataExchange* pDX, unsigned int nID, const std::string& property) {
+    if (m_loading == nullptr) pDX->Keep(std::make_unique<Loading>(*this));
+    m_controls[nID].property = property;
+    m_loading->Add(nID);
+    m_page.SetControlStatus(nID, 0);
+}
+
+void LoadedControls::ShowUnbound(unsigned int nID) {
+    if (m_controls[nID].property.empty()) Note(nID);
+}
+
+// Out of memory, the control counts as edited as soon as it is touched.
+void LoadedControls::Note(unsigned int nID) {
+    std::optional<std::string>& shown = m_controls.at(nID).shown;
+    try {
+        shown = ShownState(Window(nID));
+    } catch (...) {
+        shown.reset();
+    }
+}
+
+void LoadedControls::NoteControlsOf(const std::string& property) {
+    for (const auto& [nID, control] : m_controls)
+        if (control.property == property) Note(nID);
+}
+
+bool LoadedControls::IsEdited(unsigned int nID) const {
+    return m_page.IsEdited(nID) != 0;
+}
+
+bool LoadedControls::ShowsStars(unsigned int nID) const {
+    return ShownState(Window(nID)) == std::string(kIndeterminateStars);
+}

@@ -1,0 +1,238 @@
+// What counts as an edit: a control that shows what was loaded writes nothing, and its member keeps every digit.
+
+#include <gtest/gtest.h>
+
+#include "orlo/exchange/ddp.h"
+#include "orlo/exchange/ddx.h"
+#include "support/message_box_watcher.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+constexpr double kThird = 1.0 / 3;
+
+// One property in each kind of control, and a step of the user that leads away from what is shown and back.
+struct KindOfControl {
+    const char* name;
+    int id;
+    std::function<void(CDataExchange*)> exchange;
+    SheetDriver::Script away, back;
+};
+
+class EditedControls : public ::testing::Test {
+protected:
+    EditedControls() {
+        for (int i = 0; i < 2; ++i)
+            kit.Add({{"Width", kThird},
+                     {"Text", "wall"},
+                     {"On", 1},
+                     {"Button", 1},
+                     {"Item", 2},
+                     {"Choice", 1},
+                     {"Bits", 5}});
+    }
+
+    static void FillLists(CDataExchange* pDX) {
+        if (pDX->m_bSaveAndValidate) return;
+        for (const char* item : {"A", "B", "C"}) {
+            ::SendMessageA(pDX->PrepareCtrl(kCombo), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+            ::SendMessageA(pDX->PrepareCtrl(kList), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+        }
+    }
+    static void Undo(SheetDriver& user, int id) {
+        ::SendMessageA(user.Control(id), WM_UNDO, 0, 0);
+        user.Pump();
+    }
+
+    GraphicKit kit;
+    double width = 0;
+    CString text;
+    int on = 0, button = 0, choice = 0, item = 0;
+    unsigned short bits[2] = {};
+    const KindOfControl kinds[6] = {
+        {"number", kEdit,
+         [this](CDataExchange* pDX) {
+             DDP_Text(pDX, kEdit, width, "Width");
+             DDX_Text(1, pDX, kEdit, width);
+         },
+         [](SheetDriver& user) { user.Type(kEdit, "5"); }, [](SheetDriver& user) { Undo(user, kEdit); }},
+        {"text", kOtherEdit,
+         [this](CDataExchange* pDX) {
+             DDP_Text(pDX, kOtherEdit, text, "Text");
+             DDX_Text(1, pDX, kOtherEdit, text);
+         },
+         [](SheetDriver& user) { user.Type(kOtherEdit, "door"); },
+         [](SheetDriver& user) { user.Type(kOtherEdit, "wall"); }},
+        {"box", kCheck,
+         [this](CDataExchange* pDX) {
+             DDP_Check(pDX, kCheck, on, "On");
+             DDX_Check(1, pDX, kCheck, on);
+         },
+         [](SheetDriver& user) { user.Click(kCheck); },
+         [](SheetDriver& user) {
+             for (int i = 0; i < 3 && user.Check(kCheck) != 1; ++i)
+                 user.Click(kCheck);
+         }},
+        {"buttons", kRadio,
+         [this](CDataExchange* pDX) {
+             DDP_Radio(pDX, kRadio, button, "Button");
+             DDX_Radio(1, pDX, kRadio, button);
+         },
+         [](SheetDriver& user) { user.Click(kRadio + 2); },
+         [](SheetDriver& user) { user.Click(kRadio + 1); }},
+        {"combo", kCombo,
+         [this](CDataExchange* pDX) {
+             DDP_Text(pDX, kCombo, choice, "Choice");
+             DDX_CBIndex(1, pDX, kCombo, choice);
+         },
+         [](SheetDriver& user) { user.Choose(kCombo, 2); },
+         [](SheetDriver& user) { user.Choose(kCombo, 1); }},
+        {"list", kList,
+         [this](CDataExchange* pDX) {
+             DDP_Text(pDX, kList, item, "Item");
+             DDX_LBIndex(1, pDX, kList, item);
+         },
+         [](SheetDriver& user) { user.Choose(kList, 0); }, [](SheetDriver& user) { user.Choose(kList, 2); }}};
+};
+
+TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
+    for (const KindOfControl& kind : kinds) {
+        for (const bool back : {true, false}) {
+            SCOPED_TRACE(kind.name);
+            std::map<std::string, KitValue> before = kit[0].properties;
+            TestSheet sheet(kit);
+            ExchangePage& page = sheet.Add([&](CDataExchange* pDX) {
+                FillLists(pDX);
+                kind.exchange(pDX);
+                DDP_PostProcessing(pDX);
+            });
+            EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+                EXPECT_EQ(0, page.IsEdited(kind.id));
+                kind.away(user);
+                EXPECT_EQ(1, page.IsEdited(kind.id));
+                if (back) kind.back(user);
+                EXPECT_EQ(1, page.GetControlStatus(kind.id)) << "the mark stays";
+                EXPECT_EQ(!back, page.IsEdited(kind.id) != 0);
+                user.Ok();
+            }));
+            EXPECT_EQ(back ? 0 : 2, kit.Writes());
+            EXPECT_EQ(back, before == kit[0].properties);
+            if (back && kind.id == kEdit) EXPECT_EQ(kThird, width) << "not what the text says";
+            for (size_t i : {0, 1}) {
+                kit[i].properties = before;
+                kit[i].writes.clear();
+            }
+        }
+    }
+}
+
+// Two controls of one member: one that was brought back to what it showed does not take back the write of the other.
+TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
+    kit[1].properties["Bits"] = 4;
+    TestSheet sheet(kit);
+    sheet.Add([&](CDataExchange* pDX) {
+        DDP_Bits(pDX, kCheck, bits, "Bits");
+        DDX_Check(1, pDX, kCheck, on);
+        if (pDX->m_bSaveAndValidate && on == 1) bits[1] |= 8;
+        DDP_TextSetAt(pDX, kOtherEdit, bits, "Bits");
+        DDX_Text(1, pDX, kOtherEdit, text);
+        DDP_PostProcessing(pDX);
+    });
+    sheet.Run([&](SheetDriver& user) {
+        user.Click(kCheck);
+        user.Type(kOtherEdit, "x");
+        user.Type(kOtherEdit, "");
+        user.Ok();
+    });
+    EXPECT_EQ(13, kit[0].Number("Bits"));
+    EXPECT_EQ(12, kit[1].Number("Bits"));
+    EXPECT_EQ(1u, kit[0].writes.size());
+}
+
+// Loading by the page itself and by the refresh command marks nothing, and the values keep all digits.
+TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
+    struct Refreshed : ExchangePage {
+        using ExchangePage::ExchangePage;
+        void Refresh() {
+            m_bRefreshPending = 1;
+            SendMessage(WM_COMMAND, 0xFFFF, 0);
+        }
+    };
+    TestSheet sheet(kit);
+    auto* page = new Refreshed([&](CDataExchange* pDX) {
+        DDP_Text(pDX, kEdit, width, "Width");
+        DDX_Text(1, pDX, kEdit, width);
+        DDP_PostProcessing(pDX);
+    });
+    sheet.Sheet().AddPage(page);
+    sheet.Run([&](SheetDriver& user) {
+        for (const bool byCommand : {true, false}) {
+            for (size_t i : {0, 1})
+                kit[i].properties["Width"].number /= 7;
+            byCommand ? page->Refresh() : void(page->UpdateData(FALSE));
+            EXPECT_EQ(0, page->GetControlStatus(kEdit));
+            EXPECT_EQ(0, page->IsModified());
+        }
+        EXPECT_EQ("0.00680272", user.Text(kEdit));
+        page->SetControlStatus(kEdit, 1); // and even then
+        user.Ok();
+    });
+    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kThird / 7 / 7, width);
+}
+
+// What was written is what a later edit is compared with, whether or not the page has been left in between.
+TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
+    for (const bool leave : {true, false}) {
+        TestSheet sheet(kit);
+        ExchangePage& page = sheet.Add([&](CDataExchange* pDX) {
+            kinds[0].exchange(pDX);
+            DDP_PostProcessing(pDX);
+        });
+        sheet.Run([&](SheetDriver& user) {
+            const std::string first = user.Text(kEdit);
+            const auto save = [&] {
+                if (leave) {
+                    user.SelectPage(0);
+                    user.SelectPage(1);
+                } else {
+                    EXPECT_TRUE(page.UpdateData(TRUE));
+                }
+            };
+            user.Type(kEdit, "5");
+            save();
+            EXPECT_EQ(5, kit[0].Number("Width"));
+            user.Type(kEdit, first);
+            save();
+            EXPECT_NEAR(kThird, kit[0].Number("Width"), 1e-6) << "typed, so another value now";
+            EXPECT_NE(5, kit[0].Number("Width"));
+        });
+    }
+}
+
+// A number over which the stars were typed is each graphic's own, whatever a refused exchange has left in the member.
+TEST_F(EditedControls, WithStarsForANumberWriteNothing) {
+    TestSheet sheet(kit);
+    sheet.Add([&](CDataExchange* pDX) {
+        DDP_Text(pDX, kEdit, width, "Width");
+        DDX_Text(1, pDX, kEdit, width);
+        DDP_Text(pDX, kOtherEdit, text, "Text");
+        DDX_Text(1, pDX, kOtherEdit, text);
+        DDV_MaxChars(1, pDX, text, 4);
+        DDP_PostProcessing(pDX);
+    });
+    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        MessageBoxWatcher boxes;
+        user.Type(kEdit, "5");
+        user.Type(kOtherEdit, "*****");
+        user.Ok();
+        EXPECT_EQ(1u, boxes.Boxes().size());
+        user.Type(kEdit, "*****");
+        user.Type(kOtherEdit, "****");
+        user.Ok();
+    }));
+    EXPECT_EQ(kThird, kit[0].Number("Width"));
+    EXPECT_EQ("****", kit[0].Text("Text")) << "stars are a text like any other";
+}
+
+} // namespace
