@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kTextSize = 32;  // numbers are read from the first 31 characters
+constexpr int kTextSize = 32;  // of a number that the exchange writes
 constexpr int kRealDigits = 6; // significant digits of a real number in a field
 
 // How a kind of whole number is written, read, and refused.
@@ -30,12 +30,11 @@ constexpr WholeFormat kUnsigned = {"%lu", true, AFX_IDP_PARSE_UINT};
 
 int ExchangeFormattedText(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& format, long& value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        return ScanTextValue(WindowText(control), format.isUnsigned, value)
+                   ? 1
+                   : FailWithPrompt(bReport, pDX, format.prompt);
     char text[kTextSize] = "";
-    if (pDX->m_bSaveAndValidate) {
-        ::GetWindowTextA(control, text, sizeof text);
-        return ScanTextValue(text, format.isUnsigned, value) ? 1
-                                                             : FailWithPrompt(bReport, pDX, format.prompt);
-    }
     ::wsprintfA(text, format.print, value);
     AfxSetWindowText(control, text);
     return 1;
@@ -52,11 +51,8 @@ int ExchangeWhole(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& 
 // Saves into data, loads from value: a double field shows its own value and saves a float.
 int ExchangeRealText(int bReport, CDataExchange* pDX, int nIDC, float& data, double value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate) {
-        char text[kTextSize] = "";
-        ::GetWindowTextA(control, text, sizeof text);
-        return ScanRealText(text, data) ? 1 : FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
-    }
+    if (pDX->m_bSaveAndValidate)
+        return ScanRealText(WindowText(control), data) ? 1 : FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
     const double magnitude = std::fabs(value);
     const int exponentForm = magnitude > 100000.0 || (magnitude < 1e-5 && value != 0.0);
     char text[128] = "";

@@ -5,8 +5,7 @@
 
 #include "orlo/export.h"
 
-// Integers. Only blanks are allowed around the number; of a text of 32 characters or more
-// the first 31 count. A number beyond 32 bits gives the limit. The 8-bit form refuses what is above 255; the
+// Integers. Only blanks are allowed around the number; the whole text is read, however long. A number beyond 32 bits gives the limit. The 8-bit form refuses what is above 255; the
 // 16-bit form keeps the low 16 bits.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, int& value);
@@ -18,7 +17,8 @@ ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned long& 
 // The whole text. Cannot fail.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 
-// Real numbers, shown with 6 significant digits. A number too large for a float is refused.
+// Real numbers, shown with 6 significant digits. The whole text is read, calculations included if the host calculates. Text
+// that the host does not read to its end and a number too large for a float are refused; a zero may be written in any way.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, float& value);
 
 // Goes through a float: what is saved is the float nearest to the text. _HUGE, the indeterminate marker, is shown as

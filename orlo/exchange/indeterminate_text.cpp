@@ -6,11 +6,11 @@
 
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
+#include "orlo/exchange/window_text.h"
 
 bool IsBlankText(HWND window) {
-    char text[64] = "";
-    ::GetWindowTextA(window, text, sizeof text);
-    return text[std::strspn(text, " \t")] == '\0';
+    const CString text = WindowText(window);
+    return text[static_cast<int>(std::strspn(text, " \t"))] == '\0';
 }
 
 bool IsIndeterminateText(const char* text) {

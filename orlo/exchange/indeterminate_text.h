@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// Nothing but blanks and tabs in the first 63 characters of the window's text.
+// Returns whether the window's text has nothing but blanks and tabs.
 bool IsBlankText(HWND window);
 
 // Whether the text is kIndeterminateStars, exactly.

@@ -36,8 +36,7 @@ bool ScanRealText(const char* text, float& value) {
     const char* const first = SkipBlanks(text);
     char* end = nullptr;
     const double result = StringToDouble(0, first, &end);
-    if (result == 0.0 && *first != '0') return false;
-    if (!end || *SkipBlanks(end) != '\0') return false;
+    if (!end || end == first || *SkipBlanks(end) != '\0') return false;
     if (!(std::fabs(result) <= FLT_MAX)) return false;
     value = static_cast<float>(result);
     return true;
@@ -50,8 +49,8 @@ bool IsBeginningOfReal(const char* text) {
     const auto open =
         std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
     const std::string closed(static_cast<size_t>(std::max<ptrdiff_t>(open, 0)), ')');
-    // A second digit, since "1-1" is a zero that is not written as one; a bar for "6 1", from which "6 1/2" may come.
-    for (const char* next : {"", "1", "2", "/1"})
+    // A bar for "6 1", from which "6 1/2" may come.
+    for (const char* next : {"", "1", "/1"})
         if (ScanRealText((begun + next + closed).c_str(), value)) return true;
     return false;
 }

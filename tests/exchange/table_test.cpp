@@ -86,6 +86,15 @@ TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
     EXPECT_EQ(0, Send(IDC_LIST, LB_GETCURSEL)) << "an identifier in no item leaves the selection";
 }
 
+// The search begins after the first item and comes to it last.
+TEST_F(TableExchange, OfEqualListKeysTheFirstItemIsFoundLast) {
+    for (const char* item : {"0000ABCD\tBlue", "0000ABCD\tAzure", "0000ABCD\tNavy"})
+        Send(IDC_LIST, LB_ADDSTRING, 0, item);
+    unsigned int value = 0xABCD;
+    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_load, IDC_LIST, value));
+    EXPECT_EQ(1, Send(IDC_LIST, LB_GETCURSEL));
+}
+
 TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
     unsigned int value = kIndeterminateId;
     unsigned long color = kIndeterminateId;

@@ -51,14 +51,15 @@ TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
                      {"0", 0},
                      {"-5", -5},
                      {"99999999999", 2147483647}, // the limit
-                     {"0000000000000000000000000000012", 12},
-                     {"0000000000000000000000000000012x", 12}}); // beyond 31 characters nothing counts
+                     {"000000000000000000000000000000000000000012", 12},
+                     {"                              12345", 12345}});
     ExpectRead<long>({{"-5", -5}});
     ExpectRead<unsigned char>({{"255", 255}, {"-1", 255}});
     ExpectRead<unsigned short>({{"65537", 1}, {"-1", 65535}}); // the low 16 bits
     ExpectRead<unsigned int>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
     ExpectRead<unsigned long>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
-    ExpectRefused<int>(AFX_IDP_PARSE_INT, {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****"});
+    ExpectRefused<int>(AFX_IDP_PARSE_INT, {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****",
+                                           "0000000000000000000000000000012x"});
     ExpectRefused<long>(AFX_IDP_PARSE_INT, {"12a"});
     ExpectRefused<unsigned char>(AFX_IDP_PARSE_BYTE, {"256", "x"});
     ExpectRefused<unsigned short>(AFX_IDP_PARSE_UINT, {"x"});
@@ -101,8 +102,16 @@ TEST_F(TextExchange, ALongTextGoesThroughWhole) {
 
 TEST_F(TextExchange, RealNumbersAreReadOrRefused) {
     ExpectRead<float>({{"2.5", 2.5f}, {"  -3.25\t", -3.25f}, {"0", 0.0f}, {"0.000", 0.0f}, {"1e5", 1e5f}});
-    ExpectRead<double>({{"2.5", 2.5}, {"0", 0.0}, {"1e5", 1e5}});
-    const auto refused = {".0", "", "   ", "wide", "2.5 mm", "1.2.3", "1e39", "1e999", "******"};
+    ExpectRead<double>({{"2.5", 2.5},
+                        {"0", 0.0},
+                        {"1e5", 1e5},
+                        {"                              12345", 12345},
+                        {"1234.5+1234.5+1234.5+1234.5+1234.5", 6172.5}});
+    for (const char* zero : {"-0", ".0", "+0", "1-1", "5*0", "(0)", "-0.0e5"}) // however it is written
+        ExpectRead<double>({{zero, 0.0}});
+    const std::string tooLong(1000, '1');
+    const auto refused = {"",      "   ",  "-",     ".",      "()", "wide",         "2.5 mm",
+                          "1.2.3", "1e39", "1e999", "******", "1-", tooLong.c_str()};
     ExpectRefused<float>(AFX_IDP_PARSE_REAL, refused);
     ExpectRefused<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // what cannot be read in silence becomes 0
 }
@@ -163,7 +172,7 @@ TEST_F(TextExchange, ABlankFieldIsZero) {
     EXPECT_EQ(0.0, real);
     EXPECT_EQ(0u, whole);
 
-    SetText(IDC_EDIT, "4");
+    SetText(IDC_EDIT, (std::string(70, ' ') + "4").c_str());
     DDX_TextBlank(1, &m_save, IDC_EDIT, real);
     DDX_TextBlank(1, &m_save, IDC_EDIT, whole);
     EXPECT_EQ(4.0, real);
