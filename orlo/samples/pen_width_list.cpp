@@ -2,17 +2,36 @@
 
 #include "orlo/samples/pen_width_list.h"
 
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
+#include "orlo/host/units.h"
 
 namespace {
 
 constexpr int kEntrySize = 256;
 constexpr int kMostAliases = 100; // limit for circular aliases
 constexpr char kAlias = '*';
+constexpr int kNumberSize = 32; // of DoubleToString
+constexpr int kDigits = 15;
+
+// The file has its decimal points whatever the host's decimal mark. Returns the number as the host writes it, in the buffer, or
+// the token itself if it is not a plain number.
+const char* HostNumber(const char* token, char (&buffer)[kNumberSize]) {
+    while (*token == ' ' || *token == '\t')
+        ++token;
+    const char* end = token + std::strlen(token);
+    while (end > token && (end[-1] == ' ' || end[-1] == '\t'))
+        --end;
+    double number = 0;
+    const auto read = std::from_chars(token, end, number);
+    if (read.ec != std::errc() || read.ptr != end) return token;
+    ::DoubleToString(0, number, kDigits, buffer, 0, 0, 1);
+    return buffer;
+}
 
 } // namespace
 
@@ -53,7 +72,9 @@ const char* CPenWidthList::Next() {
 const char* CPenWidthList::NextItem(char* text) {
     for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr;
          m_pszCursor = std::strtok(nullptr, ",")) {
-        const int length = std::snprintf(m_szItem, sizeof m_szItem, "%s %s", m_pszCursor, m_szUnit);
+        char number[kNumberSize];
+        const int length =
+            std::snprintf(m_szItem, sizeof m_szItem, "%s %s", HostNumber(m_pszCursor, number), m_szUnit);
         if (length < static_cast<int>(sizeof m_szItem)) return m_szItem;
     }
     return nullptr;

@@ -1,7 +1,7 @@
 // The customary values of a section of the host's configuration file, as "number unit" texts.
 //
 //   [PenWidths]
-//   mm=0.18, 0.25, 0.35      numbers in the unit that the key names
+//   mm=0.18, 0.25, 0.35      numbers in the unit that the key names; the decimal mark of the file is always a point
 //   in=*mm                   an alias: the list, and the unit, of another key
 #pragma once
 
