@@ -10,6 +10,19 @@ WORD KeyOf(const void* member) {
     return static_cast<WORD>(reinterpret_cast<uintptr_t>(member));
 }
 
+CDDPRecord* HeadOf(const CMapWordToOb& records, WORD key) {
+    CObject* head = nullptr;
+    records.Lookup(key, head);
+    return static_cast<CDDPRecord*>(head);
+}
+
+CDDPRecord* FindRecord(const CMapWordToOb& records, const void* member) {
+    CDDPRecord* record = HeadOf(records, KeyOf(member));
+    while (record != nullptr && record->m_pMember != member)
+        record = record->m_pNext;
+    return record;
+}
+
 } // namespace
 
 CDDPRecord::CDDPRecord(DDPEnd pfnEnd, int nID, void* pMember, const char* pszPropName)
@@ -25,19 +38,20 @@ CDDPRecord::~CDDPRecord() {
 }
 
 void AddRecord(CMapWordToOb& records, CDDPRecord* record) {
-    const WORD key = KeyOf(record->m_pMember);
-    CObject* head = nullptr;
-    records.Lookup(key, head);
-    for (auto* other = static_cast<CDDPRecord*>(head); other != nullptr; other = other->m_pNext) {
-        if (other->m_pMember != record->m_pMember) continue;
+    if (CDDPRecord* other = FindRecord(records, record->m_pMember)) {
         other->m_pfnEnd = record->m_pfnEnd;
         other->m_nID = record->m_nID;
         other->m_pszPropName = record->m_pszPropName;
         delete record;
         return;
     }
-    record->m_pNext = static_cast<CDDPRecord*>(head);
+    const WORD key = KeyOf(record->m_pMember);
+    record->m_pNext = HeadOf(records, key);
     records.SetAt(key, record);
+}
+
+bool HasRecord(const CMapWordToOb& records, const void* member) {
+    return FindRecord(records, member) != nullptr;
 }
 
 CDDPRecord* TakeRecords(CMapWordToOb& records) {

@@ -23,5 +23,7 @@ public:
 // Adds a record; it replaces an earlier one of the same member.
 void AddRecord(CMapWordToOb& records, CDDPRecord* record);
 
+bool HasRecord(const CMapWordToOb& records, const void* member);
+
 // Takes every record out of the map and returns the chain of them, which the caller owns.
 CDDPRecord* TakeRecords(CMapWordToOb& records);

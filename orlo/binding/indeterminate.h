@@ -10,8 +10,9 @@
 #include <cstdint>
 #include <cstring>
 
-constexpr int kIndeterminateCheck = 2;                // the third state of a check box
-constexpr char kIndeterminateString[] = "\xFF";       // of a CString; only the first byte counts in a test
+constexpr int kIndeterminateCheck = 2; // the third state of a check box
+constexpr char kIndeterminateString[] =
+    "\xFF"; // of a CString, the whole text: one may begin so in a code page
 constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or colour
 
 // What a field shows for the marker. A text that reads so means no value.
@@ -67,8 +68,4 @@ struct Indeterminate<CString> {
 template <class T>
 bool IsIndeterminate(const T& value) {
     return value == Indeterminate<T>::Value();
-}
-
-inline bool IsIndeterminate(const CString& value) {
-    return !value.IsEmpty() && static_cast<unsigned char>(value[0]) == 0xFF;
 }

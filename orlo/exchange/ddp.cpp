@@ -2,12 +2,15 @@
 
 #include "orlo/exchange/ddp.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <memory>
 
 #include "orlo/binding/ddp_record.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/loaded_controls.h"
 #include "orlo/frame/write_outcome.h"
 #include "orlo/host/graphic.h"
 
@@ -21,12 +24,6 @@ CGraphicPropertyPage* PageOf(CDataExchange* pDX) {
     return static_cast<CGraphicPropertyPage*>(pDX->m_pDlgWnd);
 }
 
-// Calls an end function through the untyped signature of a record.
-template <class T, void (*End)(CDataExchange*, int, T*, const char*)>
-void CallTypedEnd(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName) {
-    End(pDX, nID, static_cast<T*>(pMember), pszPropName);
-}
-
 // Ends with an exchange, and drops the writes that it leaves pending: their members may have been local variables.
 class PendingWritesEnd : public CObject {
 public:
@@ -37,23 +34,69 @@ private:
     CMapWordToOb& m_records;
 };
 
-void RecordIfDirty(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName, DDPEnd pfnEnd) {
+// The value behind the pointer that a record holds: a member, or the pair that begins there.
+template <class T>
+struct Single {
+    using Member = T;
+    using Value = T;
+    static Value Get(const T* member) { return *member; }
+    static void Set(T* member, const Value& value) { *member = value; }
+    static bool IsMarker(const T* member) { return IsIndeterminate(*member); }
+};
+
+struct Pair {
+    using Member = unsigned short;
+    using Value = std::array<unsigned short, 2>;
+    static Value Get(const unsigned short* pair) { return {pair[0], pair[1]}; }
+    static void Set(unsigned short* pair, const Value& value) { std::copy(value.begin(), value.end(), pair); }
+    static bool IsMarker(const unsigned short*) { return false; }
+};
+
+template <class Form>
+using EndFunction = void (*)(CDataExchange*, int, typename Form::Member*, const char*);
+
+// Carries out the record of a member of which a control has been edited.
+template <class Form, EndFunction<Form> End>
+void WriteMember(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName) {
+    auto* member = static_cast<typename Form::Member*>(pMember);
+    End(pDX, nID, member, pszPropName);
+    if (!Form::IsMarker(member)) LoadedControls::Of(*PageOf(pDX)).Write(pszPropName, Form::Get(member));
+}
+
+// Carries out the record of a member that keeps its value: the exchange may have read it from its text.
+template <class Form>
+void KeepMember(CDataExchange* pDX, int, void* pMember, const char* pszPropName) {
+    auto* member = static_cast<typename Form::Member*>(pMember);
+    auto value = Form::Get(member);
+    LoadedControls::Of(*PageOf(pDX)).Restore(pszPropName, value);
+    Form::Set(member, value);
+}
+
+// A member of several controls is written if one of them has been edited, and keeps its value only if none has.
+template <class Form, EndFunction<Form> End>
+void RecordIfDirty(CDataExchange* pDX, int nID, typename Form::Member* pMember, const char* pszPropName) {
     CGraphicPropertyPage* page = PageOf(pDX);
     if (!page->GetControlStatus(nID)) return;
     CMapWordToOb& records = PendingWritesOf(page);
+    auto value = Form::Get(pMember);
+    const bool keeps = LoadedControls::Of(*page).Keep(nID, pszPropName, value);
+    if (keeps && HasRecord(records, pMember)) return;
+    Form::Set(pMember, value);
     if (records.IsEmpty()) pDX->Keep(std::make_unique<PendingWritesEnd>(records));
-    AddRecord(records, new CDDPRecord(pfnEnd, nID, pMember, pszPropName));
+    const DDPEnd end = keeps ? KeepMember<Form> : WriteMember<Form, End>;
+    AddRecord(records, new CDDPRecord(end, nID, pMember, pszPropName));
 }
 
 // load(page) merges the property into the member.
-template <class T, void (*End)(CDataExchange*, int, T*, const char*), class Load>
-void Bind(CDataExchange* pDX, int nID, T* pMember, const char* pszPropName, Load load) {
+template <class Form, EndFunction<Form> End, class Load>
+void Bind(CDataExchange* pDX, int nID, typename Form::Member* pMember, const char* pszPropName, Load load) {
     if (pDX->m_bSaveAndValidate) {
-        RecordIfDirty(pDX, nID, pMember, pszPropName, CallTypedEnd<T, End>);
+        RecordIfDirty<Form, End>(pDX, nID, pMember, pszPropName);
         return;
     }
-    load(PageOf(pDX));
-    PageOf(pDX)->SetControlStatus(nID, 0);
+    CGraphicPropertyPage* page = PageOf(pDX);
+    load(page);
+    LoadedControls::Of(*page).Load(pDX, nID, pszPropName, Form::Get(pMember));
 }
 
 } // namespace
@@ -64,7 +107,7 @@ void Bind(CDataExchange* pDX, int nID, T* pMember, const char* pszPropName, Load
         if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                   \
     }                                                                                                        \
     void DDP_##kind(CDataExchange* pDX, int nID, T& member, const char* pszPropName) {                       \
-        Bind<T, DDP_End##kind>(pDX, nID, &member, pszPropName, [&](CGraphicPropertyPage* page) {             \
+        Bind<Single<T>, DDP_End##kind>(pDX, nID, &member, pszPropName, [&](CGraphicPropertyPage* page) {     \
             page->GetProp##kind(pszPropName, &member, 0);                                                    \
         });                                                                                                  \
     }
@@ -93,13 +136,15 @@ void DDP_EndBits(CDataExchange* pDX, int, unsigned short* pMember, const char* p
 }
 
 void DDP_Bits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName) {
-    Bind<unsigned short, DDP_EndBits>(pDX, nID, pMember, pszPropName, [&](CGraphicPropertyPage* page) {
-        page->GetPropBits(pszPropName, pMember, 0);
-    });
+    Bind<Pair, DDP_EndBits>(pDX, nID, pMember, pszPropName,
+                            [&](CGraphicPropertyPage* page) { page->GetPropBits(pszPropName, pMember, 0); });
 }
 
 void DDP_TextSetAt(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName) {
-    Bind<unsigned short, DDP_EndBits>(pDX, nID, pMember, pszPropName, [](CGraphicPropertyPage*) {});
+    if (pDX->m_bSaveAndValidate)
+        RecordIfDirty<Pair, DDP_EndBits>(pDX, nID, pMember, pszPropName);
+    else
+        LoadedControls::Of(*PageOf(pDX)).Show(pDX, nID, pszPropName);
 }
 
 namespace {

@@ -6,8 +6,12 @@
 //
 //   DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");      // first the property
 //   DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);               // then the control
-//   DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38);       // then the limits
+//   if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38); // then the limits
 //   DDP_PostProcessing(pDX);
+//
+// A dirty control that shows what it showed when it was loaded, or written, leaves no write pending: see
+// CGraphicPropertyPage::IsEdited. Its member has the value that was loaded when the exchange begins and when it ends; in between
+// a DDX_ may have read the text. A number of which an edited control shows "*****" becomes the marker.
 //
 // pDX->m_pDlgWnd is a CGraphicPropertyPage. Member and name are kept by address and must live until DDP_PostProcessing has
 // run; the member may be a local variable of DoDataExchange. A member that then holds the indeterminate marker writes

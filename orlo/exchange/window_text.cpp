@@ -15,6 +15,11 @@ CString WindowText(HWND control) {
     return text;
 }
 
+void ShowBlank(HWND combo) {
+    ControlItems::OfCombo(combo).Select(-1);
+    ::SetWindowTextA(combo, "");
+}
+
 CString ShownText(HWND combo) {
     const ControlItems items = ControlItems::OfCombo(combo);
     const int selected = items.Selected();

@@ -53,6 +53,10 @@ PageNotification::PageNotification(HWND control, unsigned int notificationCode) 
     if (::GetClassNameA(control, className, sizeof className) == 0) className[0] = '\0';
 }
 
+bool PageNotification::IsOfCombo() const {
+    return ::lstrcmpiA(className, "ComboBox") == 0 || ::lstrcmpiA(className, "QXComboBox") == 0;
+}
+
 bool PageNotification::IsChange() const {
     return Contains(kChanges, *this);
 }

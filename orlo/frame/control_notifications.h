@@ -10,6 +10,7 @@ struct PageNotification {
 
     PageNotification(HWND control, unsigned int notificationCode);
 
+    bool IsOfCombo() const;
     bool IsChange() const;
     bool IsEditEnd() const;
 };

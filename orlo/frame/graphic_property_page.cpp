@@ -4,12 +4,15 @@
 #include "orlo/frame/graphic_property_page.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
+#include "orlo/controls/control_items.h"
 #include "orlo/frame/control_fitting.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/dialog_measure.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/loaded_controls.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/viewport.h"
 #include "orlo/win/child_windows.h"
@@ -30,7 +33,8 @@ GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
 CGraphicPropertyPage::CGraphicPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
     : COrloPropertyPage(nIDTemplate, nIDCaption), m_pPreviewGraphic(nullptr), m_mapDDP(kPendingWritesBlock),
       m_nIDTemplate(nIDTemplate), m_nIDCaption(nIDCaption), m_dwHelpContext(0), m_bRefreshPending(0),
-      m_bInitializing(1), m_nControls(0), m_pStatus(nullptr), m_hDialog(nullptr) {
+      m_bInitializing(1), m_nControls(0), m_pStatus(nullptr), m_hDialog(nullptr),
+      m_pLoaded(std::make_unique<LoadedControls>(*this)) {
     m_lpszTemplateName = MAKEINTRESOURCEA(LOWORD(nIDTemplate));
 }
 
@@ -102,6 +106,8 @@ void CGraphicPropertyPage::BuildStatusTable() {
     m_pStatus = rows.empty() ? nullptr : new ControlStatus[rows.size()];
     std::copy(rows.begin(), rows.end(), m_pStatus);
     m_nControls = static_cast<int>(rows.size());
+    for (const ControlStatus& row : rows)
+        m_pLoaded->ShowUnbound(row.nID);
 }
 
 ControlStatus* CGraphicPropertyPage::FindStatus(unsigned int nID) const {
@@ -120,6 +126,10 @@ int CGraphicPropertyPage::SetControlStatus(unsigned int nID, int bDirty) {
     if (status == nullptr) return 0;
     status->bDirty = bDirty;
     return 1;
+}
+
+int CGraphicPropertyPage::IsEdited(unsigned int nID) {
+    return GetControlStatus(nID) && !m_pLoaded->Agrees(nID);
 }
 
 void CGraphicPropertyPage::IgnoreApply(unsigned int nID) {
@@ -141,15 +151,38 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
         if (id == kRefreshCommand && m_bRefreshPending) {
             UpdateData(FALSE);
             m_bRefreshPending = 0;
+            SetPreviewProperties(1); // the notifications that it follows do not count while loading
         }
         return result;
     }
+    OnDroppedList(HIWORD(wParam), control);
     if (IsIgnored(id)) return result;
     if (const unsigned long flags = ChangeFlags(id, HIWORD(wParam), control)) {
         SetModifiedFlag(1);
         if (CGraphicPropertySheet* sheet = GetSheet()) sheet->OnStatusChange(flags);
     }
     return result;
+}
+
+// A list that is closed by Escape shows again what it showed when it was opened; not every system sees to that. Another control
+// that takes the focus closes it too, and leaves the choice.
+void CGraphicPropertyPage::OnDroppedList(unsigned int code, HWND combo) {
+    const PageNotification notification(combo, code);
+    if (!notification.IsOfCombo()) return;
+    const ControlItems items = ControlItems::OfCombo(combo);
+    if (code == CBN_DROPDOWN) {
+        m_hDropped = combo;
+        m_nDropped = items.Selected();
+        CWnd::FromHandle(combo)->GetWindowText(m_strDropped);
+        return;
+    }
+    if (code != CBN_SELENDCANCEL || std::exchange(m_hDropped, nullptr) != combo) return;
+    const HWND focus = ::GetFocus();
+    if ((focus != combo && !::IsChild(combo, focus)) || items.Selected() == m_nDropped) return;
+    items.Select(m_nDropped);
+    AfxSetWindowText(combo, m_strDropped);
+    SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(combo), CBN_SELCHANGE),
+                reinterpret_cast<LPARAM>(combo));
 }
 
 // Marks the control if the notification changes it. The first change of a page never sets the bit of an edit's end.

@@ -19,7 +19,6 @@
 #include "orlo/host/viewport.h"
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/ignored_text.h"
 #include "orlo/pages/preview_rows.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
@@ -100,15 +99,12 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_COLOR, m_dwColor, kPropBrushColor);
     DDX_CBTableColor(1, pDX, IDC_BRUSH_COLOR, m_dwColor);
 
-    // An angle that cannot be read does not end the exchange: the limits check what the host made of it.
-    DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
-    if (!DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()))
-        WarnOfIgnoredText(*this, pDX, IDC_BRUSH_ANGLE);
-    if (!IsNearlyIndeterminate(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
+    ExchangeAngle(pDX);
 
     DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
     DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
-    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (IsEdited(IDC_BRUSH_SCALE) && !IsNearlyIndeterminate(m_dScale))
+        DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, kPropBrushStyle);
     DDX_ConvertStyle(1, pDX, m_nStyle);
@@ -121,6 +117,20 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     m_drawModes.Exchange(pDX, IDC_DRAW_WINDING);
 
     DDP_PostProcessing(pDX);
+}
+
+// An angle that cannot be read does not end the exchange: each graphic keeps its own. One that cannot be written shows as a blank
+// field.
+void CBrushPage::ExchangeAngle(CDataExchange* pDX) {
+    DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
+    const bool exchanged = DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()) != 0;
+    if (!exchanged && !pDX->m_bSaveAndValidate) ::SetDlgItemTextA(m_hWnd, IDC_BRUSH_ANGLE, "");
+    if (!IsEdited(IDC_BRUSH_ANGLE)) return;
+    if (!exchanged) {
+        ::MessageBeep(MB_ICONWARNING);
+        m_dAngle = Indeterminate<double>::Value();
+    }
+    if (!IsNearlyIndeterminate(m_dAngle)) DDV_Radians(1, pDX, m_dAngle);
 }
 
 BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
@@ -206,7 +216,7 @@ const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
      [](CBrushPage& page, CDataExchange* pDX, int) {
          double angle = 0.0;
          if (DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, angle, CurrentDrawing()) && !IsNearlyIndeterminate(angle) &&
-             DDV_Radians(1, pDX, angle))
+             DDV_Radians(page.IsEdited(IDC_BRUSH_ANGLE), pDX, angle))
              page.SetPropText(kPropBrushAngle, angle, 1);
      }},
     {{IDC_BRUSH_STYLE_LIST}, [](CBrushPage& page, CDataExchange* pDX, int) { page.SetPreviewStyle(pDX); }},

@@ -34,6 +34,7 @@ protected:
 private:
     struct Preview; // the rows of SetPreviewProperties
 
+    void ExchangeAngle(CDataExchange* pDX);
     void TurnAngle(int steps);
     CString StyleName(unsigned int style) const;
     unsigned long PenColorOfSelection();

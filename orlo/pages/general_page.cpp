@@ -72,8 +72,7 @@ ON_CBN_KILLFOCUS(IDC_STYLE_NAME, &ThisClass::OnStyleKillFocus)
 END_MESSAGE_MAP()
 
 CGeneralPage::CGeneralPage()
-    : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bFirstExchange(1),
-      m_bStyleChecked(0) {}
+    : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bStyleChecked(0) {}
 
 CGeneralPage::~CGeneralPage() = default;
 
@@ -103,19 +102,15 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
         if (!pDX->m_bSaveAndValidate) OnStyleEditChange();
     }
     DDP_PostProcessing(pDX);
-    m_bFirstExchange = 0;
 }
 
 // Indeterminate texts show as a text of their own, which counts as untouched even if the user has typed it.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
-    if (m_bFirstExchange && IsIndeterminate(m_strInfo)) {
-        CString shown(kIndeterminateInfo);
-        DDX_Text(1, pDX, IDC_INFO, shown);
-    } else {
-        DDX_Text(1, pDX, IDC_INFO, m_strInfo);
-        if (m_strInfo == kIndeterminateInfo) m_strInfo = kIndeterminateString;
-    }
+    CString shown = IsIndeterminate(m_strInfo) ? CString(kIndeterminateInfo) : m_strInfo;
+    DDX_Text(1, pDX, IDC_INFO, shown);
+    if (pDX->m_bSaveAndValidate)
+        m_strInfo = shown == kIndeterminateInfo ? CString(kIndeterminateString) : shown;
 }
 
 // ---- The style part

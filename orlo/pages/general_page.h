@@ -48,7 +48,6 @@ private:
     unsigned int m_nLayer;
     unsigned int m_nStyleTree;
     CString m_strInfo;
-    int m_bFirstExchange;
     int m_bStyleChecked; // the focus change that follows has been handled
 };
 

@@ -2,6 +2,9 @@
 
 #include "orlo/pages/insert_page.h"
 
+#include <string>
+#include <vector>
+
 #include "orlo/binding/fuzzy.h"
 #include "orlo/binding/indeterminate.h"
 #include "orlo/binding/object_set.h"
@@ -9,7 +12,9 @@
 #include "orlo/exchange/ddx.h"
 #include "orlo/exchange/indeterminate_text.h"
 #include "orlo/exchange/number_text.h"
+#include "orlo/exchange/window_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/loaded_controls.h"
 #include "orlo/frame/sheet_objects.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
@@ -59,6 +64,7 @@ struct CInsertPage::Field {
     double limit; // either way; 0 for an angle
 
     double& Of(InsertParts& parts) const { return (parts.*group)[axis]; }
+    std::string Name() const { return std::to_string(nID); }
 };
 
 // In the order of the exchange.
@@ -73,10 +79,6 @@ const CInsertPage::Field CInsertPage::kFields[9] = {
     {IDC_ROTATION_Y, &CInsertPage::m_dRotateY, &InsertParts::rotation, 1, 0},
     {IDC_ROTATION_Z, &CInsertPage::m_dRotateZ, &InsertParts::rotation, 2, 0}};
 
-size_t CInsertPage::IndexOf(const Field& field) {
-    return static_cast<size_t>(&field - kFields);
-}
-
 CInsertPage::CInsertPage()
     : CGraphicPropertyPage(kTemplate, 0), m_dScaleX(1.0), m_dScaleY(1.0), m_dScaleZ(1.0), m_dRotateX(0.0),
       m_dRotateY(0.0), m_dRotateZ(0.0), m_dPositionX(0.0), m_dPositionY(0.0), m_dPositionZ(0.0) {}
@@ -89,25 +91,14 @@ BOOL CInsertPage::OnInitDialog() {
     return CGraphicPropertyPage::OnInitDialog();
 }
 
-CString CInsertPage::TextOf(const Field& field) const {
-    CString text;
-    if (const CWnd* control = GetDlgItem(static_cast<int>(field.nID))) control->GetWindowText(text);
-    return text;
-}
-
-bool CInsertPage::ShowsNewText(const Field& field) const {
-    const CString text = TextOf(field);
-    return text != m_agreed[IndexOf(field)].text && !IsIndeterminateText(text);
-}
-
-void CInsertPage::NoteTexts() {
-    for (const Field& field : kFields)
-        m_agreed[IndexOf(field)] = {TextOf(field), this->*field.member};
-}
-
 void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     const int id = static_cast<int>(field.nID);
     double& value = this->*field.member;
+    LoadedControls& loaded = LoadedControls::Of(*this);
+    if (!pDX->m_bSaveAndValidate)
+        loaded.Load(pDX, field.nID, field.Name(), value);
+    else if (loaded.Keep(field.nID, field.Name(), value))
+        return;
     DDX_Text(1, pDX, id, value);
     if (IsNearlyIndeterminate(value)) return;
     if (field.limit == 0) {
@@ -118,26 +109,11 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     DDV_MinMaxDouble(1, pDX, value, -field.limit, field.limit);
 }
 
-// A field without a new text keeps its value: limits, and the range of a float, apply to what the user has typed.
-void CInsertPage::SaveField(CDataExchange* pDX, const Field& field) {
-    if (ShowsNewText(field))
-        ExchangeField(pDX, field);
-    else
-        this->*field.member = IsIndeterminateText(TextOf(field)) ? Indeterminate<double>::Value()
-                                                                 : m_agreed[IndexOf(field)].value;
-}
-
 void CInsertPage::DoDataExchange(CDataExchange* pDX) {
-    if (pDX->m_bSaveAndValidate) {
-        for (const Field& field : kFields)
-            SaveField(pDX, field);
-        ApplyInsertParts(0);
-    } else {
-        LoadInsertParts(0);
-        for (const Field& field : kFields)
-            ExchangeField(pDX, field);
-    }
-    NoteTexts();
+    if (!pDX->m_bSaveAndValidate) LoadInsertParts(0);
+    for (const Field& field : kFields)
+        ExchangeField(pDX, field);
+    if (pDX->m_bSaveAndValidate) ApplyInsertParts(0);
     DDP_PostProcessing(pDX);
 }
 
@@ -160,18 +136,21 @@ void CInsertPage::LoadInsertParts(int bPreview) {
 }
 
 void CInsertPage::ApplyInsertParts(int bPreview) {
-    bool counts[std::size(kFields)];
-    for (size_t i = 0; i < std::size(kFields); ++i)
-        counts[i] = !IsIndeterminate(this->*kFields[i].member) &&
-                    (bPreview || (GetControlStatus(kFields[i].nID) && ShowsNewText(kFields[i])));
+    std::vector<const Field*> written;
+    for (const Field& field : kFields)
+        if (!IsIndeterminate(this->*field.member) && (bPreview || IsEdited(field.nID)))
+            written.push_back(&field);
     ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true,
                      [&](GraphicStruct* graphic, const InsertParts& parts) {
                          InsertParts wanted = parts;
-                         for (size_t i = 0; i < std::size(kFields); ++i)
-                             if (counts[i]) kFields[i].Of(wanted) = this->*kFields[i].member;
+                         for (const Field* field : written)
+                             field->Of(wanted) = this->*field->member;
                          ChangeInsertParts(graphic, parts, wanted);
                          return true;
                      });
+    if (bPreview) return;
+    for (const Field* field : written)
+        LoadedControls::Of(*this).Write(field->Name(), this->*field->member);
 }
 
 void* CInsertPage::CreatePreviewGraphic() {
@@ -182,7 +161,9 @@ void CInsertPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CDataExchange dx(this, TRUE);
     for (const Field& field : kFields)
-        if ((bAll || GetControlStatus(field.nID)) && !IsBeginningOfReal(TextOf(field))) SaveField(&dx, field);
+        if ((bAll || GetControlStatus(field.nID)) &&
+            !IsBeginningOfReal(WindowText(::GetDlgItem(m_hWnd, static_cast<int>(field.nID)))))
+            ExchangeField(&dx, field);
     ApplyInsertParts(1);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

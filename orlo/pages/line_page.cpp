@@ -6,6 +6,7 @@
 #include "orlo/exchange/ddp.h"
 #include "orlo/exchange/ddx.h"
 #include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/window_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
@@ -66,11 +67,13 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
     DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(pDX);
-    if (!IsNearlyIndeterminate(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
+    if (IsEdited(IDC_PEN_WIDTH) && !IsNearlyIndeterminate(m_dWidth))
+        DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
-    if (!IsNearlyIndeterminate(m_dScale)) DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+    if (IsEdited(IDC_PEN_SCALE) && !IsNearlyIndeterminate(m_dScale))
+        DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
 
     DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
@@ -84,8 +87,9 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
 // A width that the host cannot write leaves its field blank; a blank field is refused only if the user has emptied it.
 void CLinePage::ExchangeWidth(CDataExchange* pDX) {
     const bool save = pDX->m_bSaveAndValidate;
-    if (save && !GetControlStatus(IDC_PEN_WIDTH)) return;
-    DDX_CBPenWidth(save, pDX, IDC_PEN_WIDTH, m_dWidth, m_nScaleSystem, CurrentDrawing());
+    if (save && !IsEdited(IDC_PEN_WIDTH)) return;
+    if (!DDX_CBPenWidth(save, pDX, IDC_PEN_WIDTH, m_dWidth, m_nScaleSystem, CurrentDrawing()))
+        ShowBlank(::GetDlgItem(m_hWnd, IDC_PEN_WIDTH));
 }
 
 CString CLinePage::StyleName(unsigned int style) const {

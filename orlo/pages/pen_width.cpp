@@ -51,7 +51,9 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
     if (pDX->m_bSaveAndValidate) {
         const CString text = ShownText(combo);
         if (IsIndeterminateText(text)) return 1;
-        return TextToPenWidth(drawing, scaleSystem, text, &value) ? 1 : Refuse(bReport, pDX);
+        if (TextToPenWidth(drawing, scaleSystem, text, &value)) return 1;
+        pDX->PrepareCtrl(nIDC); // what is typed next is meant for the width
+        return Refuse(bReport, pDX);
     }
     if (IsIndeterminate(value)) {
         SelectText(combo, kIndeterminateStars);

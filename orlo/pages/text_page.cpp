@@ -13,7 +13,6 @@
 #include "orlo/host/owners.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/text.h"
-#include "orlo/pages/ignored_text.h"
 #include "orlo/pages/preview_rows.h"
 #include "orlo/resources/resource.h"
 
@@ -48,12 +47,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_FONT_FACE, m_strFont, kPropTextFont);
     DDX_CBString(1, pDX, IDC_FONT_FACE, m_strFont);
 
-    DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, kPropTextSize);
-    DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize);
-    if (!IsNearlyIndeterminate(m_dSize))
-        DDV_FontSize(1, pDX, m_dSize);
-    else
-        WarnOfIgnoredText(*this, pDX, IDC_FONT_SIZE);
+    ExchangeSize(pDX);
 
     DDP_Bits(pDX, IDC_FONT_STYLE, m_wStyle, kPropTextStyle);
     DDX_CBFontStyle(1, pDX, IDC_FONT_STYLE, m_wStyle);
@@ -74,6 +68,17 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
 
     DDP_PostProcessing(pDX);
     m_bFirstExchange = 0;
+}
+
+void CTextPage::ExchangeSize(CDataExchange* pDX) {
+    DDP_Text(pDX, IDC_FONT_SIZE, m_dSize, kPropTextSize);
+    if (!DDX_CBFontSize(pDX->m_bSaveAndValidate, pDX, IDC_FONT_SIZE, m_dSize))
+        ShowBlank(::GetDlgItem(m_hWnd, IDC_FONT_SIZE));
+    if (!IsEdited(IDC_FONT_SIZE)) return;
+    if (IsNearlyIndeterminate(m_dSize))
+        ::MessageBeep(MB_ICONWARNING); // the text is ignored
+    else
+        DDV_FontSize(1, pDX, m_dSize);
 }
 
 void CTextPage::OnFontChange() {

@@ -33,6 +33,8 @@ protected:
 private:
     struct Preview; // the rows of SetPreviewProperties
 
+    void ExchangeSize(CDataExchange* pDX);
+
     CString m_strFont;
     double m_dSize;             // drawing units
     unsigned long m_dwColor;    // of the pen

@@ -68,7 +68,10 @@ protected:
              DDP_Check(pDX, kCheck, on, "On");
              DDX_Check(1, pDX, kCheck, on);
          },
-         [](SheetDriver& user) { user.Click(kCheck); },
+         [](SheetDriver& user) {
+             user.Click(kCheck); // into the third state, which is no value
+             user.Click(kCheck);
+         },
          [](SheetDriver& user) {
              for (int i = 0; i < 3 && user.Check(kCheck) != 1; ++i)
                  user.Click(kCheck);
@@ -85,8 +88,11 @@ protected:
              DDP_Text(pDX, kCombo, choice, "Choice");
              DDX_CBIndex(1, pDX, kCombo, choice);
          },
-         [](SheetDriver& user) { user.Choose(kCombo, 2); },
-         [](SheetDriver& user) { user.Choose(kCombo, 1); }},
+         [](SheetDriver& user) {
+             user.Focus(kCombo);
+             user.Key(VK_DOWN);
+         },
+         [](SheetDriver& user) { user.Key(VK_UP); }},
         {"list", kList,
          [this](CDataExchange* pDX) {
              DDP_Text(pDX, kList, item, "Item");
@@ -117,7 +123,9 @@ TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
             }));
             EXPECT_EQ(back ? 0 : 2, kit.Writes());
             EXPECT_EQ(back, before == kit[0].properties);
-            if (back && kind.id == kEdit) EXPECT_EQ(kThird, width) << "not what the text says";
+            if (back && kind.id == kEdit) {
+                EXPECT_EQ(kThird, width) << "not what the text says";
+            }
             for (size_t i : {0, 1}) {
                 kit[i].properties = before;
                 kit[i].writes.clear();
@@ -169,7 +177,9 @@ TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
         for (const bool byCommand : {true, false}) {
             for (size_t i : {0, 1})
                 kit[i].properties["Width"].number /= 7;
+            page->previewCalls.clear();
             byCommand ? page->Refresh() : void(page->UpdateData(FALSE));
+            EXPECT_EQ(byCommand, page->previewCalls == std::vector<int>{1});
             EXPECT_EQ(0, page->GetControlStatus(kEdit));
             EXPECT_EQ(0, page->IsModified());
         }

@@ -28,10 +28,12 @@ TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
         EXPECT_TRUE(text.IsEmpty());
         EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
         EXPECT_STREQ("\xFF", text);
-        CString marked("\xFF and more");
-        EXPECT_EQ(0, page.SetPropText("Name", marked, 0));
+        EXPECT_EQ(0, page.SetPropText("Name", text, 0));
         EXPECT_EQ(0, page.GetPropText("Nowhere", &text, 0));
         EXPECT_STREQ("\xFF", text);
+        CString begun("\xFF and more"); // a letter of some code pages
+        EXPECT_EQ(1, page.SetPropText("Name", begun, 0));
+        EXPECT_EQ("\xFF and more", kit[1].Text("Name"));
     });
 }
 

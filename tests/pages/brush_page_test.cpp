@@ -3,6 +3,8 @@
 
 #include "pages/page_over_kit.h"
 
+#include <oaidl.h>
+
 namespace {
 
 constexpr double kDegree = 0.017453292519943295;
@@ -124,7 +126,92 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
         EXPECT_EQ(0, kit.Writes());
     }
     RunOk([](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "steep"); });
-    EXPECT_NEAR(30 * kDegree, kit[0].Number(kPropBrushAngle), 1e-9);
+    EXPECT_EQ(30 * kDegree, kit[0].Number(kPropBrushAngle));
+}
+
+// An angle that was typed for an exchange which another field refused is not what a text without an angle stands for.
+TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
+    Add("Cross", kRed, 2, 50 * kDegree, 0, 0);
+    Add("Cross", kRed, 2, 60 * kDegree, 0, 0);
+    RunOk([&](SheetDriver& user) {
+        MessageBoxWatcher boxes;
+        user.Type(IDC_BRUSH_ANGLE, "30");
+        user.Type(IDC_BRUSH_SCALE, "wide");
+        user.Ok();
+        EXPECT_EQ(1u, boxes.Boxes().size());
+        user.Type(IDC_BRUSH_ANGLE, "abc");
+        user.Type(IDC_BRUSH_SCALE, "3");
+    });
+    EXPECT_EQ(3, kit[0].Number(kPropBrushScale));
+    EXPECT_EQ(50 * kDegree, kit[0].Number(kPropBrushAngle));
+    EXPECT_EQ(60 * kDegree, kit[1].Number(kPropBrushAngle));
+}
+
+// The field of a solid brush is disabled: nobody could mend its scale.
+TEST_F(BrushPage, StoredNumbersThatNobodyEditedAreNotJudged) {
+    Add("Cross", kRed, 1, 1e39, 0, 0);
+    for (const char* style : {"Solid", "Cross"}) {
+        for (const double scale : {0.0, 1e8}) {
+            kit[0].properties[kPropBrushStyle] = Style(style);
+            kit[0].properties[kPropBrushScale] = scale;
+            kit[0].properties[kPropBrushColor] = int{kRed};
+            MessageBoxWatcher boxes;
+            RunOk([](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); });
+            EXPECT_TRUE(boxes.Boxes().empty());
+            EXPECT_EQ(scale, kit[0].Number(kPropBrushScale));
+            EXPECT_EQ(1e39, kit[0].Number(kPropBrushAngle));
+            EXPECT_EQ(kDarkest, kit[0].Number(kPropBrushColor));
+        }
+    }
+}
+
+TEST_F(BrushPage, AnAngleThatCannotBeWrittenLeavesItsFieldBlank) {
+    Add("Cross", kRed, 1, -HUGE_VAL, 0, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        EXPECT_EQ("", user.Text(IDC_BRUSH_ANGLE));
+        kit[0].properties[kPropBrushAngle] = 0.0;
+        page.UpdateData(FALSE);
+        EXPECT_EQ("0", user.Text(IDC_BRUSH_ANGLE));
+        kit[0].properties[kPropBrushAngle] = -HUGE_VAL;
+        page.UpdateData(FALSE);
+        EXPECT_EQ("", user.Text(IDC_BRUSH_ANGLE));
+    });
+}
+
+TEST_F(BrushPage, ArrowsUpAndDownAgainLeaveTheAngleAsItWas) {
+    constexpr double kOdd = 0.123456789012345;
+    Add("Cross", kRed, 2, kOdd, 0, 0);
+    RunOk([](SheetDriver& user) {
+        user.Focus(IDC_BRUSH_ANGLE);
+        user.Key(VK_UP);
+        user.Key(VK_DOWN);
+    });
+    EXPECT_EQ(kOdd, kit[0].Number(kPropBrushAngle));
+}
+
+// The pen of the other pages' previews arrives at this one, which keeps its own.
+TEST_F(BrushPage, ThePreviewKeepsItsOwnPen) {
+    Add("Cross", kRed, 2, 0, 0, 0);
+    Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        const auto get = [&](const char* name, int vt, auto value) {
+            GraphicStruct* const graphic = page.GetPreviewGraphic();
+            const PropertyTable* const table = ::GraphicGetVtbl(graphic);
+            int32_t number = 0;
+            EXPECT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number));
+            table->PropGet(graphic, number, vt, &value);
+            return value;
+        };
+        const auto pen = [&] {
+            return std::pair(get(kPropPenStyle, VT_UI4, 0u), get(kPropPenWidth, VT_R8, 0.0));
+        };
+        unsigned int style = kLineStyleByLayer;
+        double width = 3;
+        page.SetPropText(kPropPenStyle, style, 1);
+        page.SetPropText(kPropPenWidth, width, 1);
+        EXPECT_EQ(std::pair(style, width), pen());
+        user.Click(IDC_HATCH_CROSS);
+        EXPECT_EQ(std::pair(unsigned{kLineStyleByBlock}, 0.0), pen());
+    });
 }
 
 // One unit of the drawing's angular system further, in whatever form the angle is written, and round at a full turn.

@@ -61,6 +61,36 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     EXPECT_EQ(0, kit.Writes());
 }
 
+// Loaded a second time, as by Apply, the page is as at the first.
+TEST_F(GeneralPage, TextsThatDifferShowAsSuchAtEveryLoad) {
+    Add(walls, "a");
+    Add(walls, "b");
+    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+                  page.UpdateData(FALSE);
+                  EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
+                  user.SelectPage(0);
+                  user.Focus(IDC_INFO);
+                  user.Key(VK_END, false, true);
+                  user.Key('X');
+                  user.Ok();
+              }));
+    EXPECT_EQ("<Indeterminate>x", kit[0].Text(kPropInfo));
+    EXPECT_EQ("<Indeterminate>x", kit[1].Text(kPropInfo));
+}
+
+TEST_F(GeneralPage, ATextMayBeginWithTheByteOfTheMarker) {
+    for (int i = 0; i < 2; ++i)
+        Add(walls, "\xFF\xF1");
+    RunOk([&](SheetDriver& user) {
+        EXPECT_EQ("\xFF\xF1", user.Text(IDC_INFO));
+        user.Focus(IDC_INFO);
+        ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
+        ::SendMessageA(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>("\xFF\xED\xE2"));
+    });
+    for (size_t i : {0, 1})
+        EXPECT_EQ("\xFF\xED\xE2", kit[i].Text(kPropInfo));
+}
+
 // Three styles of one tree, one of them reserved, and a block of another tree.
 class StylePart : public GeneralPage {
 protected:

@@ -107,8 +107,9 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
         {"[PenWidths]\nmm=*other\nother=*in\nin=1\n", {"25.4 mm"}},
         {"[PenWidths]\nmm=*a\na=*mm\n", {}}, // a circle
         {"[PenWidths]\nmm=*a23456789012345678901234567890123456789\n", {}},
-        {"[PenWidths]\nmm=0.25,                                                      3,2\n",
-         {"0.25 mm", "2 mm"}},
+        {"[PenWidths]\nmm=0.25,     3      ,00000000000000000000000000000000000000000000000003/4,2\n",
+         {"0.25 mm", "2 mm", "3 mm"}},
+        {"[PenWidths]\nmm=1/4, 3*\n", {"0.25 mm"}},
         {"[Other]\nmm=3\n", {}},
         {"[PenWidths]\nmm=,,,\n", {}},
     };
@@ -126,6 +127,59 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
             EXPECT_EQ(expected, widths);
             EXPECT_EQ("1 mm", user.Text(IDC_PEN_WIDTH));
         });
+    }
+}
+
+// The file has points whatever the decimal mark of the application; the list has the mark.
+TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
+    TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
+    AddEqual();
+    WriteIni("[PenWidths]\nmm=0.25, 0.5\n");
+    ::TableSetStringVar(settings, kVarDecimalMark, ",");
+    RunOk([&](SheetDriver& user) {
+        EXPECT_EQ("0,25 mm", user.ItemText(IDC_PEN_WIDTH, 0));
+        EXPECT_EQ("0,5 mm", user.ItemText(IDC_PEN_WIDTH, 1));
+        user.Focus(IDC_PEN_WIDTH);
+        user.Key(VK_UP); // from 1 mm
+    });
+    ::TableSetStringVar(settings, kVarDecimalMark, ".");
+    EXPECT_NEAR(0.5 / kInch, kit[0].Number(kPropPenWidth), 1e-12);
+}
+
+// What is typed next is meant for the field, not for the list of colours.
+TEST_F(PenPage, ARefusedWidthHasTheFocus) {
+    for (const char* typed : {"abc", "100,5"}) {
+        AddEqual();
+        RunOk([&](SheetDriver& user) {
+            user.Type(IDC_PEN_WIDTH, typed);
+            user.Ok();
+            ASSERT_TRUE(::IsWindowVisible(user.Sheet()));
+            EXPECT_TRUE(::IsChild(user.Control(IDC_PEN_WIDTH), ::GetFocus())) << typed;
+            user.Type(IDC_PEN_WIDTH, "2 mm");
+        });
+        EXPECT_EQ(kRed, kit[0].Number(kPropPenColor));
+        EXPECT_NEAR(2 / kInch, kit[0].Number(kPropPenWidth), 1e-12);
+    }
+}
+
+// Neither what can be written nor what cannot, neither within the limits nor beyond.
+TEST_F(PenPage, StoredNumbersThatNobodyEditedAreNotJudged) {
+    for (const double odd : {0.0, -3.0, 1e8, 1e39}) {
+        AddEqual();
+        for (size_t i : {0, 1}) {
+            kit[i].properties[kPropPenScale] = odd;
+            kit[i].properties[kPropPenWidth] = -odd;
+        }
+        MessageBoxWatcher boxes;
+        RunOk([](SheetDriver& user) {
+            user.Type(IDC_PEN_SCALE, "5");
+            ::SendMessageA(user.Control(IDC_PEN_SCALE), WM_UNDO, 0, 0);
+            user.Click(IDC_PEN_ALIGNMENT);
+        });
+        EXPECT_TRUE(boxes.Boxes().empty()) << odd;
+        EXPECT_EQ(odd, kit[0].Number(kPropPenScale));
+        EXPECT_EQ(-odd, kit[0].Number(kPropPenWidth));
+        EXPECT_NE(1, kit[0].Number(kPropPenAlignment));
     }
 }
 
@@ -173,17 +227,24 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     EXPECT_TRUE(boxes.Boxes().empty());
     EXPECT_EQ(4, kit[0].Number(kPropPenScale));
     EXPECT_EQ(1 / kInch, kit[0].Number(kPropPenWidth));
+    // One without end, beside a list of widths that can be written.
+    ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "mm");
+    WriteIni("[PenWidths]\nmm=0.25,0.5\n");
+    for (size_t i : {0, 1})
+        kit[i].properties[kPropPenWidth] = -HUGE_VAL;
+    RunOk([&](SheetDriver& user) {
+        EXPECT_EQ(2, ::SendMessageA(user.Control(IDC_PEN_WIDTH), CB_GETCOUNT, 0, 0));
+        EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
+        EXPECT_EQ(-1, user.Selection(IDC_PEN_WIDTH));
+    });
+    EXPECT_EQ(-HUGE_VAL, kit[0].Number(kPropPenWidth));
 }
 
-TEST_F(PenPage, AStoredScaleOfZeroHasToBeReplaced) {
+TEST_F(PenPage, AStoredScaleOfZeroStaysUntilItIsReplaced) {
     Add(1, 0, 0.0, dashed, 2, 1);
-    RunOk([&](SheetDriver& user) {
-        MessageBoxWatcher boxes;
-        EXPECT_EQ("1.17549e-38", user.Text(IDC_PEN_SCALE));
-        user.Ok();
-        EXPECT_EQ(1u, boxes.Boxes().size());
-        user.Type(IDC_PEN_SCALE, "1");
-    });
+    RunOk([&](SheetDriver& user) { EXPECT_EQ("1.17549e-38", user.Text(IDC_PEN_SCALE)); });
+    EXPECT_EQ(0, kit.Writes());
+    RunOk([&](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "1"); });
     EXPECT_EQ(1, kit[0].Number(kPropPenScale));
 }
 

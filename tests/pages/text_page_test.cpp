@@ -3,6 +3,8 @@
 
 #include "pages/page_over_kit.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kEffects[] = {IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX};
@@ -155,6 +157,8 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
                                            const std::string height = user.Text(IDC_FONT_SIZE);
                                            ChooseFont(user, kSerif);
                                            EXPECT_EQ(height, user.Text(IDC_FONT_SIZE));
+                                           for (int i = 0; i < Count(user, IDC_FONT_SIZE); ++i)
+                                               EXPECT_NE("", user.ItemText(IDC_FONT_SIZE, i));
                                        },
                                        kSerif}});
     }
@@ -181,6 +185,86 @@ TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
         EXPECT_NEAR(row.stored, text.Number(kPropTextSize), 1e-9);
         EXPECT_EQ(2, text.Number(kPropTextFormat));
     }
+}
+
+// Each list is opened and closed without a choice: by F4 and Return, and by a walk that Escape ends.
+TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
+    AddDiffering();
+    kit.Add({{kPropTextFont, "No Such Font"}, {kPropTextSize, 1.0 / 3}}, kGraphicText);
+    RunOk([&](SheetDriver& user) {
+        for (const int list : {IDC_FONT_FACE, IDC_FONT_SIZE, IDC_FONT_STYLE, IDC_TEXT_COLOR})
+            for (const bool walk : {false, true}) {
+                user.Focus(list);
+                user.Key(VK_F4);
+                if (walk) user.Key(VK_DOWN);
+                if (walk) user.Key(VK_DOWN);
+                user.Key(walk ? VK_ESCAPE : VK_RETURN);
+                EXPECT_FALSE(::SendMessageA(user.Control(list), CB_GETDROPPEDSTATE, 0, 0));
+                EXPECT_EQ(-1, user.Selection(list));
+                EXPECT_EQ("", user.Text(list));
+            }
+        user.Click(IDC_HIDDEN);
+    });
+    EXPECT_EQ(2u, kit[0].writes.size() + kit[1].writes.size()) << "the box";
+    EXPECT_EQ(0u, kit[2].writes.size());
+    EXPECT_EQ(0x2109, kit[0].Number(kPropTextStyle));
+    EXPECT_EQ(0x004E, kit[1].Number(kPropTextStyle));
+    EXPECT_EQ(kSans, kit[0].Text(kPropTextFont));
+    EXPECT_EQ(kSerif, kit[1].Text(kPropTextFont));
+}
+
+TEST_F(TextPage, AFontThatIsNotInstalledStaysWhateverElseChanges) {
+    for (int i = 0; i < 2; ++i)
+        Add("No Such Font", 2.123456789, 0, kRed, 0);
+    RunOk([&](SheetDriver& user) {
+        user.Focus(IDC_FONT_FACE);
+        user.Key(VK_F4);
+        user.Key(VK_RETURN);
+        user.Click(IDC_UNDERLINE);
+    });
+    EXPECT_EQ("No Such Font", kit[0].Text(kPropTextFont));
+    EXPECT_EQ(0x0100, kit[0].Number(kPropTextStyle));
+}
+
+TEST_F(TextPage, StoredHeightsThatNobodyEditedAreNotJudged) {
+    for (const double height : {0.0, -2.0, 1e39}) {
+        Add(kSans, height, 0, kRed, 0);
+        MessageBoxWatcher boxes;
+        RunOk([](SheetDriver& user) { user.Click(IDC_JUSTIFY_RIGHT); });
+        EXPECT_TRUE(boxes.Boxes().empty()) << height;
+        EXPECT_EQ(height, kit[kit.Size() - 1].Number(kPropTextSize));
+        EXPECT_EQ(2, kit[kit.Size() - 1].Number(kPropTextFormat));
+    }
+    RunOk([](SheetDriver& user) {
+        MessageBoxWatcher boxes;
+        user.Type(IDC_FONT_SIZE, "0");
+        user.Ok();
+        EXPECT_EQ(1u, boxes.Boxes().size()) << "typed, it is judged";
+        user.Type(IDC_FONT_SIZE, "2");
+    });
+}
+
+// The points of the file are the host's decimal marks in the list.
+TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
+    TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
+    ::TableSetStringVar(settings, kVarDecimalMark, ",");
+    Add(kSans, 3, 0, kRed, 0);
+    for (const int space : {0, 1}) {
+        ::DrawingSetCoordSpace(kit.Drawing(), space);
+        RunOk([&](SheetDriver& user) {
+            ChooseFont(user, kSerif);
+            std::vector<std::string> heights;
+            for (int i = 0; i < Count(user, IDC_FONT_SIZE); ++i)
+                heights.push_back(user.ItemText(IDC_FONT_SIZE, i));
+            for (const char* number : {"2,5", "3,5", "5"})
+                EXPECT_EQ(1, std::count_if(heights.begin(), heights.end(),
+                                           [&](const std::string& item) {
+                                               return item.substr(0, item.find(' ')) == number;
+                                           }))
+                    << space << " " << number;
+        });
+    }
+    ::TableSetStringVar(settings, kVarDecimalMark, ".");
 }
 
 TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
