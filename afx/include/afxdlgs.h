@@ -32,7 +32,8 @@ public:
     void SetModified(BOOL bChanged = TRUE);
 
     // Called when the page is activated. Creates its window if it does not exist. Returns false if that fails or if the
-    // first exchange fails, of which the user has then been informed.
+    // first exchange fails, of which the user has then been informed. If the page
+    // throws here or in OnKillActive, it is not activated or left, as if it had returned FALSE.
     virtual BOOL OnSetActive();
     // Called before the page is left. Saves, and returns false if a value is invalid.
     virtual BOOL OnKillActive();
@@ -105,7 +106,8 @@ public:
     int GetActiveIndex() const { return m_nCurPage; }
     CPropertyPage* GetActivePage() const; // null if none is active
     // Activate a page. Return false, and change nothing, if the active page cannot be left or the new one cannot be
-    // created.
+    // created. The active page then remains active and visible. An exception of either page is reported like one of a message
+    // handler, whether the user clicks, presses a key, or the program calls this.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);
     CTabCtrl* GetTabControl() const { return const_cast<CTabRow*>(&m_tabRow); }
@@ -157,7 +159,7 @@ private:
 
     bool LeaveFor(int nPage);
     bool ActivatePage(int nPage);
-    bool ActivateFirstPage();
+    bool ShowFirstPage(const CRect& place);
     bool ShowPage(int nPage, const CRect& place);
     CRect ActivePlace() const; // of the active page, in client coordinates; empty if it has no window
     bool HasFocus(const CPropertyPage* page) const;

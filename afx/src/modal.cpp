@@ -1,6 +1,7 @@
 // Modal loops.
 
 #include "modal.h"
+#include "guarded_call.h"
 #include "thread_state.h"
 
 #include <afxapp.h>
@@ -27,9 +28,12 @@ bool AfxPumpOneMessage(int& nExitCode) {
         nExitCode = static_cast<int>(message.wParam);
         return false;
     }
-    const BOOL done = state.thread != nullptr ? state.thread->PreTranslateMessage(&message)
-                                              : CWnd::WalkPreTranslateTree(nullptr, &message);
-    if (!done) {
+    // A message whose pretranslation throws is not dispatched.
+    const bool dispatch = AfxGuardedCall([&] {
+        return !(state.thread != nullptr ? state.thread->PreTranslateMessage(&message)
+                                         : CWnd::WalkPreTranslateTree(nullptr, &message));
+    });
+    if (dispatch) {
         ::TranslateMessage(&message);
         ::DispatchMessageA(&message);
     }

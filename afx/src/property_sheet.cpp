@@ -2,6 +2,7 @@
 
 #include "dialog_proc.h"
 #include "dialog_template.h"
+#include "guarded_call.h"
 #include "modal.h"
 #include "window_link.h"
 
@@ -102,7 +103,7 @@ int CPropertySheet::OnCreate(LPCREATESTRUCTA) {
     // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
     const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
     if (!CreateTabRow(style, nowhere, AFX_IDC_TAB_CONTROL)) return -1;
-    if (!ActivateFirstPage()) return -1;
+    if (!ShowFirstPage(CRect())) return -1;
     MeasureUnits();
     return 0;
 }
@@ -136,7 +137,7 @@ void CPropertySheet::RemovePage(int nPage) {
     if (m_tabRow.m_hWnd != nullptr) m_tabRow.DeleteItem(nPage);
     const bool wasActive = nPage == m_nCurPage;
     if (nPage < m_nCurPage || m_nCurPage == GetPageCount()) --m_nCurPage;
-    if (wasActive && m_hWnd != nullptr && m_nCurPage >= 0) ShowPage(m_nCurPage, place);
+    if (wasActive && m_hWnd != nullptr) ShowFirstPage(place);
     page->DestroyWindow();
 }
 
@@ -166,21 +167,22 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
-    return active->OnKillActive();
+    return AfxGuardedCall([=] { return active->OnKillActive() != FALSE; });
 }
 
-// The active page has been left, or there was none: the given page comes to the front. If it can't, the one
-// before it stays as it was.
+// Shows the given page after the active page, if any, has been left. If the new page cannot be shown, the old one stays
+// active and visible.
 bool CPropertySheet::ActivatePage(int nPage) {
     const int before = m_nCurPage;
     CPropertyPage* page = GetPage(nPage);
     CPropertyPage* old = GetActivePage();
-    if (nPage == before && page->m_hWnd != nullptr) return true;
+    if (nPage == before && page->m_hWnd != nullptr && (page->GetStyle() & WS_VISIBLE) != 0) return true;
     const CRect place = ActivePlace();
     const bool hadFocus = HasFocus(old);
     if (!ShowPage(nPage, place)) {
         m_nCurPage = before;
-        if (old != page && old != nullptr && old->m_hWnd != nullptr) old->OnSetActive();
+        if (old != page && old != nullptr && old->m_hWnd != nullptr)
+            AfxGuardedCall([=] { return old->OnSetActive() != FALSE; });
         if (m_tabRow.m_hWnd != nullptr) m_tabRow.SetCurSel(before);
         return false;
     }
@@ -189,19 +191,21 @@ bool CPropertySheet::ActivatePage(int nPage) {
     return true;
 }
 
-// The first page shown, or the next one after it whose window can be made.
-bool CPropertySheet::ActivateFirstPage() {
+// Shows the current page or, if it cannot be shown, the first one after it that can.
+bool CPropertySheet::ShowFirstPage(const CRect& place) {
     const int first = m_nCurPage;
     for (int i = 0; i < GetPageCount(); ++i) {
-        if (ActivatePage((first + i) % GetPageCount())) return true;
+        if (ShowPage((first + i) % GetPageCount(), place)) return true;
     }
+    m_nCurPage = first;
     return false;
 }
 
+// False, with m_nCurPage on that page, if the page fails to become active; the caller restores m_nCurPage.
 bool CPropertySheet::ShowPage(int nPage, const CRect& place) {
     CPropertyPage* page = GetPage(nPage);
     m_nCurPage = nPage;
-    if (!page->OnSetActive()) return false;
+    if (!AfxGuardedCall([=] { return page->OnSetActive() != FALSE; })) return false;
     // Before the buttons in the order of the Tab key, and where the page before it was.
     const UINT keep = place.IsRectEmpty() ? SWP_NOMOVE | SWP_NOSIZE : 0;
     ::SetWindowPos(page->m_hWnd, HWND_TOP, place.left, place.top, place.Width(), place.Height(),

@@ -1,6 +1,7 @@
 // The window procedure of all windows that have an object, and the hook that attaches a new window to its object before
 // its first message.
 
+#include "guarded_call.h"
 #include "thread_state.h"
 #include "window_link.h"
 
@@ -56,36 +57,30 @@ private:
 // Wraps an exception that is not a CException, so that all exceptions are reported in the same way.
 class UnexpectedException : public CException {
 public:
+    // The text must outlive the object; there may be no memory for a copy.
     explicit UnexpectedException(LPCSTR text) : CException(FALSE), m_text(text) {}
     BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT*) override {
         ::lstrcpynA(lpszError, m_text, static_cast<int>(nMaxError));
-        return !m_text.IsEmpty();
+        return *m_text != '\0';
     }
 
 private:
-    CString m_text;
+    LPCSTR m_text;
 };
 
-LRESULT ProcessException(AfxThreadState& state, CException& e) {
+LRESULT ProcessException(CException& e) {
+    AfxThreadState& state = AfxThreadState::Get();
     const MSG message = state.lastMessage;
     CWinThread plain;
     CWinThread* thread = state.thread != nullptr ? state.thread : &plain;
     return thread->ProcessWndProcException(&e, &message);
 }
 
-LRESULT CallWindow(AfxThreadState& state, CWnd* wnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CallWindow(CWnd* wnd, UINT message, WPARAM wParam, LPARAM lParam) {
     try {
         return AfxWindowLink::Call(wnd, message, wParam, lParam);
-    } catch (CException* e) {
-        const LRESULT result = ProcessException(state, *e);
-        e->Delete();
-        return result;
-    } catch (const std::exception& e) {
-        UnexpectedException unexpected(e.what());
-        return ProcessException(state, unexpected);
     } catch (...) {
-        UnexpectedException unexpected("");
-        return ProcessException(state, unexpected);
+        return AfxReportCurrentException();
     }
 }
 
@@ -98,11 +93,11 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     CWnd* wnd = found->second;
     if (state.procDepth > 0) {
         const CurrentMessage current(state, hWnd, message, wParam, lParam);
-        return CallWindow(state, wnd, message, wParam, lParam);
+        return CallWindow(wnd, message, wParam, lParam);
     }
     const AfxTempScope scope(state);
     const CurrentMessage current(state, hWnd, message, wParam, lParam);
-    return CallWindow(state, wnd, message, wParam, lParam);
+    return CallWindow(wnd, message, wParam, lParam);
 }
 
 LRESULT CALLBACK CreateHook(int code, WPARAM wParam, LPARAM lParam) {
@@ -118,6 +113,22 @@ LRESULT CALLBACK CreateHook(int code, WPARAM wParam, LPARAM lParam) {
 }
 
 } // namespace
+
+LRESULT AfxReportCurrentException() {
+    try {
+        throw;
+    } catch (CException* e) {
+        const LRESULT result = ProcessException(*e);
+        e->Delete();
+        return result;
+    } catch (const std::exception& e) {
+        UnexpectedException unexpected(e.what());
+        return ProcessException(unexpected);
+    } catch (...) {
+        UnexpectedException unexpected("");
+        return ProcessException(unexpected);
+    }
+}
 
 WNDPROC AfxGetAfxWndProc() {
     return AfxWndProc;

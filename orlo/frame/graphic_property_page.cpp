@@ -4,6 +4,7 @@
 #include "orlo/frame/graphic_property_page.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -102,9 +103,10 @@ void CGraphicPropertyPage::BuildStatusTable() {
     ForEachChild(m_hWnd, [&rows](HWND child) {
         rows.push_back({static_cast<unsigned int>(::GetDlgCtrlID(child)), 0});
     });
-    delete[] m_pStatus;
-    m_pStatus = rows.empty() ? nullptr : new ControlStatus[rows.size()];
-    std::copy(rows.begin(), rows.end(), m_pStatus);
+    std::unique_ptr<ControlStatus[]> table(rows.empty() ? nullptr : new ControlStatus[rows.size()]);
+    std::copy(rows.begin(), rows.end(), table.get());
+    delete[] m_pStatus; // only now: without memory for the new table the old one stays
+    m_pStatus = table.release();
     m_nControls = static_cast<int>(rows.size());
     for (const ControlStatus& row : rows)
         m_pLoaded->ShowUnbound(row.nID);

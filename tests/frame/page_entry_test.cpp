@@ -1,0 +1,171 @@
+// Changing the page of a sheet when a page or the memory fails: the page that the user sees stays the active one.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+#include "frame/width_page.h"
+#include "support/failing_memory.h"
+#include "support/message_box_watcher.h"
+
+namespace {
+
+constexpr const char* kReason = "no disk";
+
+// A page that throws when it is entered or left.
+struct ThrowingPage : ExchangePage {
+    ThrowingPage() : ExchangePage([](CDataExchange*) {}) {}
+    BOOL OnSetActive() override {
+        const BOOL result = ExchangePage::OnSetActive(); // with its window
+        if (throwsOnEntry) throw std::runtime_error(kReason);
+        return result;
+    }
+    BOOL OnKillActive() override {
+        if (throwsOnLeaving) throw std::runtime_error(kReason);
+        return ExchangePage::OnKillActive();
+    }
+    bool throwsOnEntry = false;
+    bool throwsOnLeaving = false;
+};
+
+struct PageEntry : ::testing::Test {
+    PageEntry() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), other(new ThrowingPage) {
+        sheet.Sheet().AddPage(other);
+    }
+
+    // The ways from the page before to the one after it.
+    static constexpr const char* kWays[] = {"click", "Ctrl+Tab", "Ctrl+Page Down", "call"};
+    void GoOn(SheetDriver& user, const std::string& way) {
+        const int next = user.ActivePage() + 1;
+        if (way == "click") user.SelectPage(next);
+        if (way == "Ctrl+Tab") user.Key(VK_TAB, false, true);
+        if (way == "Ctrl+Page Down") user.Key(VK_NEXT, false, true);
+        if (way == "call") sheet.Sheet().SetActivePage(next);
+    }
+    void ExpectOn(int page, const std::string& way) {
+        EXPECT_EQ(page, sheet.Sheet().GetActiveIndex()) << way;
+        EXPECT_EQ(page, sheet.Sheet().GetTabControl()->GetCurSel()) << way;
+        for (int i = 0; i < sheet.Sheet().GetPageCount(); ++i)
+            EXPECT_EQ(i == page, ::IsWindowVisible(sheet.Sheet().GetPage(i)->m_hWnd) != FALSE) << way << i;
+    }
+
+    GraphicKit kit;
+    TestSheet sheet;
+    WidthPage width;
+    ThrowingPage* other;
+};
+
+TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
+    MessageBoxWatcher boxes;
+    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        for (const bool visited : {false, true}) {
+            other->throwsOnEntry = true;
+            for (const char* way : kWays) {
+                boxes.Clear();
+                user.Focus(kEdit);
+                GoOn(user, way);
+                EXPECT_EQ(kReason, boxes.OnlyText()) << way << visited;
+                ExpectOn(1, way);
+                EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << way << visited;
+            }
+            other->throwsOnEntry = false;
+            GoOn(user, "click");
+            ExpectOn(2, "without a fault");
+            user.SelectPage(1);
+        }
+        other->throwsOnEntry = true;
+        GoOn(user, "click");
+        user.Type(kEdit, "5");
+        user.Ok();
+    }));
+    EXPECT_EQ(5, kit[0].Number("Width")) << "typed into the page that was seen";
+}
+
+TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
+    sheet.Add([](CDataExchange*) {}); // one to go to
+    MessageBoxWatcher boxes;
+    sheet.Run([&](SheetDriver& user) {
+        user.SelectPage(2);
+        other->throwsOnLeaving = true;
+        for (const char* way : kWays) {
+            boxes.Clear();
+            GoOn(user, way);
+            EXPECT_EQ(kReason, boxes.OnlyText()) << way;
+            ExpectOn(2, way);
+        }
+        boxes.Clear();
+        user.Ok();
+        EXPECT_EQ(kReason, boxes.OnlyText());
+        ASSERT_TRUE(::IsWindow(user.Sheet()));
+        other->throwsOnLeaving = false;
+    });
+}
+
+TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
+    sheet.Add([](CDataExchange*) {});
+    MessageBoxWatcher boxes;
+    sheet.Run([&](SheetDriver&) {
+        other->throwsOnEntry = true;
+        sheet.Sheet().RemovePage(1);
+        EXPECT_EQ(kReason, boxes.OnlyText());
+        EXPECT_EQ(2, sheet.Sheet().GetActiveIndex());
+        EXPECT_TRUE(::IsWindowVisible(sheet.Sheet().GetPage(2)->m_hWnd));
+        EXPECT_FALSE(::IsWindowVisible(other->m_hWnd));
+    });
+    sheet.Sheet().AddPage(&width.page); // whose owner is the sheet again
+}
+
+// Each request for memory fails once, in the library and in the framework, until a change of pages makes no more of them.
+TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
+    for (const char* module : {"orlo.dll", "afx.dll"}) {
+        bool failed = true;
+        for (int nth = 1; failed; ++nth) {
+            SCOPED_TRACE(module + std::to_string(nth));
+            GraphicKit kit;
+            kit.Add({{"Width", 1.0}});
+            TestSheet sheet(kit);
+            const WidthPage width(sheet), second(sheet);
+            const MessageBoxWatcher boxes;
+            EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+                user.Type(kEdit, "5");
+                {
+                    const FailingMemory memory(module, nth);
+                    user.SelectPage(2);
+                    failed = memory.HasFailed();
+                }
+                const int active = user.ActivePage();
+                EXPECT_TRUE(::IsWindowVisible(user.Page()));
+                EXPECT_EQ(active, sheet.Sheet().GetTabControl()->GetCurSel());
+                EXPECT_TRUE(active == 1 || kit[0].Number("Width") == 5) << "left without saving";
+                user.Type(kEdit, "7");
+                user.Ok();
+            }));
+            EXPECT_EQ(7, kit[0].Number("Width"));
+            if (nth > 2000) FAIL();
+        }
+    }
+}
+
+TEST(PageEntryMemory, TheStatusTableOutlivesAFailedActivation) {
+    GraphicKit kit;
+    kit.Add({{"Width", 1.0}});
+    TestSheet sheet(kit);
+    const WidthPage width(sheet);
+    const MessageBoxWatcher boxes;
+    sheet.Run([&](SheetDriver& user) {
+        user.Type(kEdit, "5");
+        bool failed = true;
+        for (int nth = 1; failed; ++nth) {
+            const FailingMemory memory("orlo.dll", nth);
+            try {
+                width.page.OnSetActive();
+            } catch (const std::bad_alloc&) {
+            }
+            failed = memory.HasFailed();
+            EXPECT_EQ(failed ? 1 : 0, width.page.GetControlStatus(kEdit)) << nth;
+        }
+    });
+}
+
+} // namespace

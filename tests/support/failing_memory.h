@@ -1,0 +1,29 @@
+// Lets operator new fail for one request of a loaded module, as it does when memory has run out.
+//
+//   const FailingMemory memory("orlo.dll", 4); // the fourth request from here on
+#pragma once
+
+#include <windows.h>
+
+class FailingMemory {
+public:
+    // Throws std::runtime_error if the module does not import operator new.
+    FailingMemory(const char* module, int nth);
+    // Requests succeed again.
+    ~FailingMemory();
+    FailingMemory(const FailingMemory&) = delete;
+    FailingMemory& operator=(const FailingMemory&) = delete;
+
+    // Whether so many requests have come.
+    bool HasFailed() const;
+
+private:
+    void ReplaceImports(HMODULE module);
+
+    struct Import {
+        void** place;
+        void* function;
+    };
+    Import m_imports[2] = {};
+    int m_count = 0;
+};
