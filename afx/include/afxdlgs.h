@@ -106,8 +106,8 @@ public:
     int GetActiveIndex() const { return m_nCurPage; }
     CPropertyPage* GetActivePage() const; // null if none is active
     // Activate a page. Return false, and change nothing, if the active page cannot be left or the new one cannot be
-    // created. The active page then remains active and visible. An exception of either page is reported like one of a message
-    // handler, whether the user clicks, presses a key, or the program calls this.
+    // created. The active page then remains active and visible. An exception of either page is reported like one of a
+    // message handler, whether the user clicks, presses a key, or the program calls this.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);
     CTabCtrl* GetTabControl() const { return const_cast<CTabRow*>(&m_tabRow); }

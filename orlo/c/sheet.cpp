@@ -51,7 +51,7 @@ void FillControl(const OrloSheet& sheet, unsigned kind, HWND control) {
 int32_t Run(const OrloSheet& record) {
     orlo::FrameworkScope framework(record.owner,
                                    [&](unsigned kind, HWND control) { FillControl(record, kind, control); });
-    ::PropPageInit();
+    if (!::PropPageInit()) Refuse(kOrloOutOfMemory, "out of memory while the library was initialized");
     const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
         framework.Owner(), record.regenMethods, record.drawing, record.selection, record.filter));
     if (!sheet) Refuse(kOrloOutOfMemory, "out of memory while the sheet was created");

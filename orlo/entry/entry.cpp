@@ -77,10 +77,12 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
     return TRUE;
 }
 
-extern "C" int PropPageInit() {
+extern "C" int PropPageInit() try {
     if (!initDone) new CDynLinkLibrary(extensionModule); // owned by the framework's list of modules
     initDone = true;
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,

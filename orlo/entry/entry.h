@@ -23,7 +23,7 @@
 class CGraphicPropertySheet;
 
 // Registers the library's resources with the framework, so that other modules find them. Call it once, before the first
-// sheet. Always returns 1.
+// sheet. Returns 1, or 0 if memory runs out; a later call then tries again.
 extern "C" ORLO_API int PropPageInit();
 
 // Creates a sheet with the General page. The caller runs it with DoModal and deletes it. Returns null if memory runs

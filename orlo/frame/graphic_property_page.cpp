@@ -40,12 +40,15 @@ CGraphicPropertyPage::CGraphicPropertyPage(unsigned int nIDTemplate, unsigned in
 }
 
 CGraphicPropertyPage::~CGraphicPropertyPage() {
-    if (m_pPreviewGraphic != nullptr) {
-        if (GraphicStruct* owner = OwnerOf(m_pPreviewGraphic)) ::GraphicDelete(owner, m_pPreviewGraphic);
-        ::GraphicDispose(&m_pPreviewGraphic);
-    }
+    DisposePreviewGraphic();
     if (m_hDialog != nullptr) ::FreeResource(m_hDialog);
     delete[] m_pStatus;
+}
+
+void CGraphicPropertyPage::DisposePreviewGraphic() {
+    if (m_pPreviewGraphic == nullptr) return;
+    if (GraphicStruct* owner = OwnerOf(m_pPreviewGraphic)) ::GraphicDelete(owner, m_pPreviewGraphic);
+    ::GraphicDispose(&m_pPreviewGraphic);
 }
 
 CGraphicPropertySheet* CGraphicPropertyPage::GetSheet() const {

@@ -142,6 +142,9 @@ protected:
     void* m_hDialog;
 
 private:
+    friend class CGraphicPropertySheet;
+    // Frees the preview graphic, if any; the page creates a new one when its window is created again.
+    void DisposePreviewGraphic();
     ControlStatus* FindStatus(unsigned int nID) const;
     void BuildStatusTable();
     void AddPreviewGraphic();

@@ -94,12 +94,21 @@ void CGraphicPropertySheet::DeletePages() {
     }
 }
 
+// An earlier run has left its end code, and previews that show what was edited, also if it was canceled.
+void CGraphicPropertySheet::ForgetEarlierRun() {
+    m_bEndWithCode = 0;
+    for (int i = 0; i < GetPageCount(); ++i)
+        if (GetPage(i)->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
+            static_cast<CGraphicPropertyPage*>(GetPage(i))->DisposePreviewGraphic();
+}
+
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (!CreatePreviewRect()) return -1;
     m_wndPreview.ModifyStyle(0, WS_GROUP); // keeps the arrow keys in radio buttons that end a page
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());
+    ForgetEarlierRun();
     if (COrloPropertySheet::OnCreate(lpCreateStruct) == -1) return -1;
     RecalcLayout();
     return 0;

@@ -73,6 +73,7 @@ private:
     static constexpr uint32_t kColumnOfButtons = 4; // preview pane, buttons beside the page
 
     CGraphicPropertyPage* GetActiveGraphicPage();
+    void ForgetEarlierRun();
     int ButtonColumnWidth(int (&widths)[3]);
     void PlaceButtons(int left, int top, const int (&widths)[3]);
 

@@ -83,9 +83,7 @@ CInsertPage::CInsertPage()
     : CGraphicPropertyPage(kTemplate, 0), m_dScaleX(1.0), m_dScaleY(1.0), m_dScaleZ(1.0), m_dRotateX(0.0),
       m_dRotateY(0.0), m_dRotateZ(0.0), m_dPositionX(0.0), m_dPositionY(0.0), m_dPositionZ(0.0) {}
 
-CInsertPage::~CInsertPage() {
-    RemoveInsertPreview(CurrentDrawing());
-}
+CInsertPage::~CInsertPage() = default;
 
 BOOL CInsertPage::OnInitDialog() {
     return CGraphicPropertyPage::OnInitDialog();
@@ -154,7 +152,7 @@ void CInsertPage::ApplyInsertParts(int bPreview) {
 }
 
 void* CInsertPage::CreatePreviewGraphic() {
-    return NewInsertPreview(CurrentDrawing());
+    return m_preview.NewInsertion(CurrentDrawing());
 }
 
 void CInsertPage::SetPreviewProperties(int bAll) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "orlo/frame/graphic_property_page.h"
+#include "orlo/pages/insert_preview.h"
 #include "orlo/resources/resource.h"
 
 class CInsertPage : public CGraphicPropertyPage {
@@ -14,12 +15,11 @@ public:
     static constexpr unsigned int kTemplate = IDD_INSERT_PAGE;
 
     CInsertPage();
-    // Takes the preview's block out of the current drawing.
     ~CInsertPage() override;
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // An insertion of a pyramid with lettered axes, a block of the current drawing for as long as the page lives.
+    // Creates an insertion of a pyramid with lettered axes, a block of the current drawing for as long as a page uses it.
     void* CreatePreviewGraphic() override;
     // Reports at once a text that is not a number or out of range, but waits while it may still become one: "", "-", ".", "1e".
     void SetPreviewProperties(int bAll) override;
@@ -39,4 +39,5 @@ private:
     double m_dScaleX, m_dScaleY, m_dScaleZ;
     double m_dRotateX, m_dRotateY, m_dRotateZ; // radians
     double m_dPositionX, m_dPositionY, m_dPositionZ;
+    InsertPreview m_preview;
 };

@@ -2,8 +2,12 @@
 
 #include "orlo/pages/insert_preview.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "orlo/host/block.h"
 #include "orlo/host/owners.h"
+#include "orlo/pages/current_drawing.h"
 #include "orlo/samples/vertex_list.h"
 
 namespace {
@@ -62,9 +66,7 @@ uint16_t AddBlock(TableStruct* blocks) {
     return id;
 }
 
-} // namespace
-
-GraphicStruct* NewInsertPreview(DrawingStruct* drawing) {
+GraphicStruct* NewPyramidInsertion(DrawingStruct* drawing) {
     const orlo::host::OwnedVertex origin(::VertexNewEx(0, 0, 0));
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
     if (origin.get() == nullptr || blocks == nullptr) return nullptr;
@@ -79,7 +81,28 @@ GraphicStruct* NewInsertPreview(DrawingStruct* drawing) {
     return insertion;
 }
 
-void RemoveInsertPreview(DrawingStruct* drawing) {
+// The drawings whose block is in use, one entry for each page that uses it.
+std::vector<DrawingStruct*>& UsedDrawings() {
+    static std::vector<DrawingStruct*> drawings;
+    return drawings;
+}
+
+} // namespace
+
+GraphicStruct* InsertPreview::NewInsertion(DrawingStruct* drawing) {
+    if (m_drawing == nullptr) {
+        UsedDrawings().push_back(drawing);
+        m_drawing = drawing;
+    }
+    return NewPyramidInsertion(m_drawing);
+}
+
+InsertPreview::~InsertPreview() {
+    std::vector<DrawingStruct*>& used = UsedDrawings();
+    const auto find = [&](DrawingStruct* drawing) { return std::find(used.begin(), used.end(), drawing); };
+    if (m_drawing != nullptr) used.erase(find(m_drawing));
+    DrawingStruct* drawing = m_drawing != nullptr ? m_drawing : CurrentDrawing();
+    if (find(drawing) != used.end()) return;
     TableStruct* blocks = ::BlocksFromDrawing(drawing);
     if (const uint16_t id = ::BlocksFindBlock(blocks, kPreviewBlock)) ::BlockDispose(blocks, id);
 }
