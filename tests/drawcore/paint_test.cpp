@@ -103,6 +103,24 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
     EXPECT_EQ(RGB(GetGValue(blue), GetGValue(blue), 255), blue);
 }
 
+TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
+    constexpr COLORREF kYellow = RGB(255, 255, 0), kCyan = RGB(0, 255, 255);
+    for (const COLORREF color : {kYellow, kCyan, kRed}) {
+        GraphicStruct* line = Line(10, 10, 90, 10);
+        SetWhole(line, kPropPenColor, color);
+        Draw();
+        const COLORREF seen = picture.At(50, 10);
+        if (color == kRed) {
+            EXPECT_EQ(seen, kRed) << "can be read as it is";
+            continue;
+        }
+        const int part = GetGValue(seen);
+        EXPECT_LT(part, 190);
+        EXPECT_GT(part, 100) << "darker, not black";
+        EXPECT_EQ(seen, color == kYellow ? RGB(part, part, 0) : RGB(0, part, part));
+    }
+}
+
 TEST_F(Paint, LayersHide) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         const uint16_t layer =

@@ -47,20 +47,23 @@ double LuminanceOf(Color color) {
     return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
 }
 
-// The first shade of the colour, on its way to white, that stands out from dark paper: pure blue on black can't be read.
-Color LegibleOn(Color paper, Color color) {
+// Returns the color itself, or the first of its shades toward the ink that stands out from the background: pure blue cannot
+// be read on black, yellow and cyan cannot be read on white.
+Color LegibleOn(Color background, Color color, Color ink) {
     constexpr double kContrast = 3, kGlare = 0.05;
-    constexpr uint32_t kShades = 16;
-    const double wanted = kContrast * (LuminanceOf(paper) + kGlare) - kGlare;
-    for (uint32_t shade = 0; shade < kShades; ++shade) {
-        Color lighter = 0;
+    constexpr int kShades = 16;
+    const double light = LuminanceOf(background) + kGlare;
+    for (int shade = 0; shade < kShades; ++shade) {
+        Color shaded = 0;
         for (const int shift : {0, 8, 16}) {
-            const uint32_t part = color >> shift & 0xFF;
-            lighter |= (part + (255 - part) * shade / kShades) << shift;
+            const int part = static_cast<int>(color >> shift & 0xFF);
+            const int end = static_cast<int>(ink >> shift & 0xFF);
+            shaded |= static_cast<Color>(part + (end - part) * shade / kShades) << shift;
         }
-        if (LuminanceOf(lighter) >= wanted) return lighter;
+        const double own = LuminanceOf(shaded) + kGlare;
+        if (std::max(own, light) >= kContrast * std::min(own, light)) return shaded;
     }
-    return kWhite;
+    return ink;
 }
 
 Color Mixed(Color a, Color b) {
@@ -104,11 +107,11 @@ Color GdiPainter::Seen(Color color) {
     }
     constexpr int kTooNear = 24;
     const bool bright = brightness > 3 * 127;
-    // Black and white are the ink of the paper, whichever it is.
-    if (difference <= kTooNear || color == (bright ? kWhite : 0)) return bright ? 0 : kWhite;
-    if (bright) return color;
+    // Black and white are drawn in the contrasting color of the background.
+    const Color ink = bright ? 0 : kWhite;
+    if (difference <= kTooNear || color == (bright ? kWhite : 0)) return ink;
     const auto [shade, isNew] = shades_.try_emplace(color, color);
-    if (isNew) shade->second = LegibleOn(settings_.background, color);
+    if (isNew) shade->second = LegibleOn(settings_.background, color, ink);
     return shade->second;
 }
 

@@ -66,7 +66,7 @@ private:
         clip_; // lines are cut here, whatever part of it is wanted: a cut line may pass through other pixels
     const Box wanted_;
     std::map<PenKey, OwnedPen> pens_;
-    std::unordered_map<Color, Color> shades_; // of colours that were looked at on dark paper
+    std::unordered_map<Color, Color> shades_; // of colors that have been drawn
     TextOutput texts_;
 
     // Lines that wait for the device.
