@@ -5,6 +5,7 @@
 #include "demo/tour/round_trip.h"
 #include "demo/tour/tour.h"
 #include "demo/viewer/main_frame.h"
+#include "demo/viewer/settings.h"
 #include "drawcore/application.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/application.h"
@@ -26,22 +27,31 @@ BOOL CDemoApp::InitInstance() {
     ::PropPageInit();
     ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
 
+    if (IsPlayed()) { // as for a user who comes for the first time
+        Settings::UseKey(L"Software\\Orlo\\Demo Tour");
+        Settings::DeleteAll();
+    }
+
     auto* frame = new CMainFrame;
     if (!frame->Create()) return FALSE;
     m_pMainWnd = frame;
-    frame->ShowWindow(m_nCmdShow);
+    frame->ShowFirst(m_nCmdShow);
     frame->UpdateWindow();
     if (m_options.tourFolder.empty() && !m_options.drawing.empty()) frame->Open(m_options.drawing);
     return TRUE;
 }
 
 int CDemoApp::Run() {
-    if (m_options.tourFolder.empty() && m_options.checked.empty()) return CWinApp::Run();
+    if (!IsPlayed()) return CWinApp::Run();
     const bool played = m_options.checked.empty()
                             ? Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing)
                             : RoundTrip(*Frame()).Check(m_options.checked);
     Frame()->DestroyWindow();
     return ExitInstance() != 0 || !played;
+}
+
+bool CDemoApp::IsPlayed() const {
+    return !m_options.tourFolder.empty() || !m_options.checked.empty();
 }
 
 CMainFrame* CDemoApp::Frame() const {

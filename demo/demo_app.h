@@ -25,6 +25,7 @@ public:
 
 private:
     CMainFrame* Frame() const;
+    bool IsPlayed() const; // by the tour or the check, in place of a user
 
     DemoOptions m_options;
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "demo/viewer/counted.h"
 #include "demo/viewer/file_name.h"
 #include "drawcore/application.h"
 #include "drawcore/dxf.h"
@@ -116,7 +117,7 @@ std::string Document::LengthText(double length) const {
 class Document::GatheringPause {
 public:
     explicit GatheringPause(Document& document) : m_document(document) {
-        if (m_document.m_isGathering) ::DrawingEndUndo(m_document.Drawing());
+        if (m_document.m_isGathering) m_document.EndStep();
     }
     ~GatheringPause() {
         if (m_document.m_isGathering) ::DrawingBeginUndo(m_document.Drawing());
@@ -139,9 +140,9 @@ int Document::Attempt(const std::function<bool()>& change) {
     const GatheringPause pause(*this);
     ::DrawingBeginUndo(Drawing());
     try {
-        if (change()) return ::DrawingEndUndo(Drawing());
+        if (change()) return EndStep();
     } catch (...) {
-        ::DrawingEndUndo(Drawing());
+        EndStep();
         throw;
     }
     ::DrawingCancelUndo(Drawing());
@@ -155,11 +156,11 @@ void Document::BeginGathering() {
 
 void Document::EndGathering() {
     m_isGathering = false;
-    ::DrawingEndUndo(Drawing());
+    EndStep();
 }
 
 int Document::TakeGathered() {
-    const int changed = ::DrawingEndUndo(Drawing());
+    const int changed = EndStep();
     ::DrawingBeginUndo(Drawing());
     return changed;
 }
@@ -174,20 +175,38 @@ int Document::DroppedSteps() const {
     return ::DrawingCountForgotten(Drawing());
 }
 
-int Document::UndoSteps() const {
-    return ::DrawingCountUndo(Drawing());
+// Of the database.
+int Document::EndStep() {
+    const int changed = ::DrawingEndUndo(Drawing());
+    if (changed) m_history.Add(nullptr);
+    TrimHistory();
+    return changed;
 }
 
-int Document::Undo() {
+void Document::TrimHistory() {
+    m_history.Trim(::DrawingCountUndo(Drawing()), ::DrawingCountRedo(Drawing()));
+}
+
+void Document::Record(std::unique_ptr<UndoableChange> change) {
+    if (!change) return;
     const GatheringPause pause(*this);
-    return ::DrawingUndo(Drawing());
+    m_history.Add(std::move(change));
 }
 
-int Document::RedoSteps() const {
-    return ::DrawingCountRedo(Drawing());
-}
-
-int Document::Redo() {
+std::string Document::Undo() {
     const GatheringPause pause(*this);
-    return ::DrawingRedo(Drawing());
+    int graphics = 0;
+    const UndoableChange* change = m_history.Undo([&] { graphics = ::DrawingUndo(Drawing()); });
+    m_styles.RenumberGraphics();
+    TrimHistory();
+    return change ? change->What() : Counted(graphics, "object");
+}
+
+std::string Document::Redo() {
+    const GatheringPause pause(*this);
+    int graphics = 0;
+    const UndoableChange* change = m_history.Redo([&] { graphics = ::DrawingRedo(Drawing()); });
+    m_styles.RenumberGraphics();
+    TrimHistory();
+    return change ? change->What() : Counted(graphics, "object");
 }

@@ -11,6 +11,7 @@
 
 #include "demo/viewer/selection.h"
 #include "demo/viewer/style_book.h"
+#include "demo/viewer/undo_history.h"
 #include "drawcore/owned_drawing.h"
 #include "orlo/host/drawing.h"
 
@@ -81,17 +82,20 @@ public:
     int DropGathered(); // graphics changed back
     // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
     int DroppedSteps() const;
-    int UndoSteps() const;
-    // The number of graphics that are as before again.
-    int Undo();
-    int RedoSteps() const;
-    // The number of graphics that are changed again.
-    int Redo();
+    // Makes a change outside of the database one step; null: there was none.
+    void Record(std::unique_ptr<UndoableChange> change);
+    int UndoSteps() const { return m_history.UndoCount(); }
+    int RedoSteps() const { return m_history.RedoCount(); }
+    // Return what the step has changed, as "3 objects" or "layers". There has to be a step.
+    std::string Undo();
+    std::string Redo();
 
 private:
     class GatheringPause;
 
     Document(const std::string& path, OwnedDrawing drawing);
+    int EndStep();
+    void TrimHistory();
 
     std::string m_path;
     std::vector<std::string> m_findings;
@@ -99,5 +103,6 @@ private:
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;
+    UndoHistory m_history;
     bool m_isGathering = false;
 };

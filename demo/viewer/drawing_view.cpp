@@ -71,7 +71,9 @@ void CDrawingView::SetDocument(Document* document) {
 // ---- Looking
 
 void CDrawingView::FitAll() {
-    if (m_document) FitTo(m_document->Root());
+    if (!m_document) return;
+    FitTo(m_document->Root());
+    m_isFitted = true;
 }
 
 void CDrawingView::FitSelection() {
@@ -80,16 +82,19 @@ void CDrawingView::FitSelection() {
 
 void CDrawingView::FitTo(GraphicStruct* graphic) {
     m_camera.Fit(graphic, kMargin);
+    m_isFitted = false;
     SpoilAll();
 }
 
 void CDrawingView::Zoom(double factor, CPoint anchor) {
     m_picture.Zoom(factor, anchor);
+    m_isFitted = false;
     ShowMove();
 }
 
 void CDrawingView::Pan(CSize pixels) {
     m_picture.Pan(pixels);
+    m_isFitted = false;
     ShowMove();
 }
 
@@ -134,6 +139,7 @@ void CDrawingView::SelectNext(bool forward) {
     const std::optional<WorldBox> box = ExtentsOf(next);
     if (box && !m_camera.Visible().Contains(*box) && !box->Contains(m_camera.Visible())) {
         m_camera.CenterOn(box->Center());
+        m_isFitted = false;
         SpoilAll();
     }
 }
@@ -275,6 +281,7 @@ void CDrawingView::EndDrag() {
 void CDrawingView::OnSize(UINT, int cx, int cy) {
     m_camera.SetWindow(CSize(cx, cy));
     m_picture.Resize(CSize(cx, cy));
+    if (m_isFitted) FitAll();
     SpoilAll();
 }
 

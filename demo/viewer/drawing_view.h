@@ -104,6 +104,7 @@ private:
     Camera m_camera;
     COLORREF m_paper = kDarkPaper;
     bool m_lineWeights = true;
+    bool m_isFitted = false; // the whole drawing is fitted into the window, also when its size changes
     KeptPicture m_picture{m_camera};
 
     Drag m_drag = Drag::None;

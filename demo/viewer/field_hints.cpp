@@ -4,11 +4,14 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "demo/viewer/document.h"
 #include "demo/viewer/likeness.h"
 #include "demo/viewer/sheet_around.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
+#include "orlo/host/units.h"
 #include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
@@ -21,6 +24,7 @@ struct Field {
     const char* property;
     uint32_t bits = ~uint32_t{0};       // of the property
     const char* const* words = nullptr; // of its values, from 0
+    uint16_t unit = 0;                  // of the units table; the text of the field is a length in it
 };
 constexpr const char* kDrawModes[] = {"Alternate", "Winding"};
 constexpr const char* kFontStyles[] = {"Regular", "Italic", "Bold", "Bold Italic"};
@@ -35,7 +39,7 @@ constexpr Field kFields[] = {
     {IDD_PEN_PAGE, IDC_COLOR, "Color", kPropPenColor},
     {IDD_PEN_PAGE, IDC_PEN_SCALE, "Dash scale", kPropPenScale},
     {IDD_PEN_PAGE, IDC_SCALE_SYSTEM, "Width scaling", kPropScaleSystem},
-    {IDD_PEN_PAGE, IDC_PEN_WIDTH, "Width", kPropPenWidth},
+    {IDD_PEN_PAGE, IDC_PEN_WIDTH, "Width", kPropPenWidth, kAllBits, nullptr, kUnitPenWidth},
     {IDD_BRUSH_PAGE, IDC_BRUSH_STYLE_LIST, "Pattern", kPropBrushStyle},
     {IDD_BRUSH_PAGE, IDC_BRUSH_COLOR, "Color", kPropBrushColor},
     {IDD_BRUSH_PAGE, IDC_BRUSH_SCALE, "Scale", kPropBrushScale},
@@ -44,7 +48,7 @@ constexpr Field kFields[] = {
     {IDD_BRUSH_PAGE, IDC_DRAW_WINDING, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
     {IDD_BRUSH_PAGE, IDC_DRAW_ALTERNATE, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
     {IDD_TEXT_PAGE, IDC_FONT_FACE, "Font", kPropTextFont},
-    {IDD_TEXT_PAGE, IDC_FONT_SIZE, "Height", kPropTextSize},
+    {IDD_TEXT_PAGE, IDC_FONT_SIZE, "Height", kPropTextSize, kAllBits, nullptr, kUnitTextSize},
     {IDD_TEXT_PAGE, IDC_FONT_STYLE, "Style", kPropTextStyle, 3, kFontStyles},
     {IDD_TEXT_PAGE, IDC_TEXT_COLOR, "Color", kPropPenColor},
     {IDD_TEXT_PAGE, IDC_STRIKETHROUGH, "Strikethrough", kPropTextStyle, 4},
@@ -86,6 +90,22 @@ std::string HintFor(HWND window, const Document& document) {
     return counts.empty() ? "" : std::string(field->name) + ": " + CountsText(counts);
 }
 
+// What is wrong with the text of a field; empty if it is a length, or one of the texts that the field offers.
+std::string FaultOf(HWND window, DrawingStruct* drawing) {
+    const Field* field = FieldOf(window);
+    CString typed;
+    if (field && field->unit) CWnd::FromHandle(window)->GetWindowText(typed);
+    const std::string text(typed);
+    double length = 0;
+    if (text.empty() || text.front() == '*' ||
+        ::UnitsTextToNumericEx(drawing->pUnits, field->unit, 0, text.c_str(), &length))
+        return "";
+    const HWND combo = ::GetParent(window);
+    const LRESULT item = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                        reinterpret_cast<LPARAM>(text.c_str()));
+    return item >= 0 ? "" : std::string(field->name) + ": \"" + text + "\" is not a length";
+}
+
 } // namespace
 
 FieldHints::~FieldHints() {
@@ -100,13 +120,27 @@ bool FieldHints::Create(HWND owner) {
 }
 
 void FieldHints::Watch(const MSG& message, const Document* document) {
+    ShowFocused(document);
     if (!document) return;
-    const HWND focus = ::GetFocus();
-    if (focus != m_focused && SheetAround(focus)) {
-        m_focused = focus;
-        m_show(HintFor(focus, *document));
-    }
     if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) ShowTip(message, *document);
+}
+
+void FieldHints::ShowFocused(const Document* document) {
+    const HWND focus = ::GetFocus();
+    if (!document || !SheetAround(focus)) return;
+    const std::string fault = FaultOf(focus, document->Drawing());
+    if (focus == m_focused && fault == m_fault) return;
+    m_focused = focus;
+    m_fault = fault;
+    m_show(fault.empty() ? HintFor(focus, *document) : fault);
+}
+
+void FieldHints::Renew() {
+    TOOLINFOA tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND;
+    tool.uId = reinterpret_cast<UINT_PTR>(std::exchange(m_hovered, nullptr));
+    ::SendMessageA(m_tip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 // The tip is made for one window at a time; what it says is new with each coming of the pointer.
@@ -115,8 +149,7 @@ void FieldHints::ShowTip(const MSG& message, const Document& document) {
     tool.cbSize = TTTOOLINFOA_V1_SIZE;
     tool.uFlags = TTF_IDISHWND;
     if (message.hwnd != m_hovered) {
-        tool.uId = reinterpret_cast<UINT_PTR>(m_hovered);
-        ::SendMessageA(m_tip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+        Renew();
         m_hovered = message.hwnd;
         std::string hint = HintFor(m_hovered, document);
         tool.uId = reinterpret_cast<UINT_PTR>(m_hovered);

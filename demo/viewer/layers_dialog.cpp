@@ -5,8 +5,11 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cctype>
 #include <string>
+#include <utility>
 
+#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/resource.h"
 #include "drawcore/drawing.h"
 #include "drawcore/layer.h"
@@ -26,10 +29,14 @@ constexpr State kStates[] = {{"On", IDC_LAYER_ON, kLayerOff, false},
 constexpr size_t kStateCount = std::size(kStates);
 constexpr int kFirstState = 1; // column, after the name
 constexpr int kCountColumn = kFirstState + static_cast<int>(kStateCount);
+constexpr int kColorColumn = kCountColumn + 1;
+
+constexpr UINT kShowStates = WM_APP;
 
 // Dialog units.
 constexpr int kStateWidth = 38;
 constexpr int kCountWidth = 44;
+constexpr int kColorWidth = 50;
 
 void SetFlags(DrawingStruct* drawing, uint16_t layer, uint32_t flags) {
     ::LayerSet(drawing, layer, ::LayerGetColor(drawing, layer), flags, ::LayerGetLineStyle(drawing, layer));
@@ -45,59 +52,128 @@ void AddColumn(HWND list, int place, const char* title, int width, int format) {
     ::SendMessageA(list, LVM_INSERTCOLUMNA, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(&column));
 }
 
-void SetCell(HWND list, size_t row, int column, const std::string& text) {
-    LVITEMA item = {};
-    item.iSubItem = column;
-    item.pszText = const_cast<char*>(text.c_str());
-    ::SendMessageA(list, LVM_SETITEMTEXTA, row, reinterpret_cast<LPARAM>(&item));
+int ContrastTo(uint32_t color) {
+    const int light = 2 * GetRValue(color) + 5 * GetGValue(color) + GetBValue(color);
+    return light > 8 * 127 ? RGB(0, 0, 0) : RGB(255, 255, 255);
+}
+
+bool ContainsText(const std::string& text, const std::string& part) {
+    const auto isSame = [](char a, char b) {
+        return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+    };
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), isSame) != text.end();
 }
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLayersDialog, CDialog)
 ON_COMMAND_RANGE(IDC_LAYER_ON, IDC_LAYER_LOCKED, &CLayersDialog::OnState)
+ON_EN_CHANGE(IDC_LAYER_FIND, &CLayersDialog::OnFind)
+ON_MESSAGE(kShowStates, &CLayersDialog::OnShowStates)
 END_MESSAGE_MAP()
 
 CLayersDialog::CLayersDialog(CWnd* owner, DrawingStruct* drawing, std::function<void()> changed)
-    : CDialog(IDD_LAYERS, owner), m_drawing(drawing), m_changed(std::move(changed)) {
-    for (const LayerCount& layer : AllLayers(drawing))
-        m_layers.push_back({layer, ::LayerGetFlags(drawing, layer.layer)});
-}
+    : CDialog(IDD_LAYERS, owner), m_drawing(drawing), m_changed(std::move(changed)), m_before(drawing),
+      m_layers(AllLayers(drawing)) {}
 
 BOOL CLayersDialog::OnInitDialog() {
     CDialog::OnInitDialog();
     m_list = ::GetDlgItem(m_hWnd, IDC_LAYER_LIST);
     ListView_SetExtendedListViewStyle(m_list, LVS_EX_FULLROWSELECT);
-    CRect widths(kStateWidth, 0, kCountWidth, 0), client;
+    AddColumns();
+    ShowRows();
+    ShowStates();
+    ::SetFocus(m_list);
+    return FALSE;
+}
+
+void CLayersDialog::AddColumns() {
+    CRect widths(kStateWidth, 0, kCountWidth, 0), color(kColorWidth, 0, 0, 0), client;
     ::MapDialogRect(m_hWnd, widths);
+    ::MapDialogRect(m_hWnd, color);
     ::GetClientRect(m_list, client);
-    const int others = static_cast<int>(kStateCount) * widths.left + widths.right;
+    const int others = static_cast<int>(kStateCount) * widths.left + widths.right + color.left;
     const int bar = ::GetSystemMetrics(SM_CXVSCROLL);
     AddColumn(m_list, 0, "Name", std::max<int>(widths.left, client.Width() - others - bar), LVCFMT_LEFT);
     int place = kFirstState;
     for (const State& state : kStates)
         AddColumn(m_list, place++, state.title, widths.left, LVCFMT_CENTER);
     AddColumn(m_list, kCountColumn, "Graphics", widths.right, LVCFMT_RIGHT);
-    for (size_t i = 0; i < m_layers.size(); ++i) {
-        LVITEMA item = {};
-        item.mask = LVIF_TEXT;
-        item.iItem = static_cast<int>(i);
-        item.pszText = const_cast<char*>(m_layers[i].layer.name.c_str());
-        ::SendMessageA(m_list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
-        ShowRow(i);
-    }
-    ListView_SetItemState(m_list, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    ShowStates();
-    return TRUE;
+    AddColumn(m_list, kColorColumn, "Color", color.left, LVCFMT_LEFT);
 }
 
+// ---- Rows
+
+uint32_t CLayersDialog::ColorOf(size_t layer) const {
+    return ::LayerGetColor(m_drawing, m_layers[layer].layer);
+}
+
+std::string CLayersDialog::CellText(size_t layer, int column) const {
+    if (column == 0) return m_layers[layer].name;
+    if (column == kCountColumn) return std::to_string(m_layers[layer].count);
+    if (column == kColorColumn) return ColorText(m_drawing, ColorOf(layer));
+    return Is(layer, static_cast<size_t>(column - kFirstState)) ? "yes" : "-";
+}
+
+bool CLayersDialog::IsBefore(size_t a, size_t b) const {
+    if (m_sortColumn == kCountColumn && m_layers[a].count != m_layers[b].count)
+        return m_layers[a].count < m_layers[b].count;
+    if (m_sortColumn == kColorColumn && ColorOf(a) != ColorOf(b)) return ColorOf(a) < ColorOf(b);
+    if (m_sortColumn >= kFirstState && m_sortColumn < kCountColumn) {
+        const size_t state = static_cast<size_t>(m_sortColumn - kFirstState);
+        if (Is(a, state) != Is(b, state)) return Is(a, state);
+    }
+    return a < b; // by name
+}
+
+void CLayersDialog::ShowRows() {
+    const std::vector<size_t> selected = SelectedLayers();
+    CString part;
+    CWnd::FromHandle(::GetDlgItem(m_hWnd, IDC_LAYER_FIND))->GetWindowText(part);
+    m_rows.clear();
+    for (size_t layer = 0; layer < m_layers.size(); ++layer)
+        if (ContainsText(m_layers[layer].name, static_cast<LPCSTR>(part))) m_rows.push_back(layer);
+    std::stable_sort(m_rows.begin(), m_rows.end(),
+                     [this](size_t a, size_t b) { return m_sortsDown ? IsBefore(b, a) : IsBefore(a, b); });
+    ListView_SetItemState(m_list, -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    ListView_SetItemCountEx(m_list, static_cast<int>(m_rows.size()), 0);
+    bool any = false;
+    for (size_t row = 0; row < m_rows.size(); ++row)
+        if (std::binary_search(selected.begin(), selected.end(), m_rows[row])) {
+            const UINT state = any ? LVIS_SELECTED : LVIS_SELECTED | LVIS_FOCUSED;
+            ListView_SetItemState(m_list, static_cast<int>(row), state, state);
+            any = true;
+        }
+    if (!any) ListView_SetItemState(m_list, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    ::InvalidateRect(m_list, nullptr, TRUE);
+}
+
+void CLayersDialog::OnFind() {
+    ShowRows();
+}
+
+LRESULT CLayersDialog::DrawCell(const NMHDR& header) const {
+    // The system's record, which the control reads again.
+    auto& draw = *reinterpret_cast<NMLVCUSTOMDRAW*>(const_cast<NMHDR*>(&header));
+    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+    if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYSUBITEMDRAW;
+    if (draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM)) return CDRF_DODEFAULT;
+    const bool isColor = draw.iSubItem == kColorColumn && draw.nmcd.dwItemSpec < m_rows.size();
+    const uint32_t color = isColor ? ColorOf(m_rows[draw.nmcd.dwItemSpec]) : 0;
+    draw.clrTextBk = isColor ? color : CLR_DEFAULT;
+    draw.clrText = isColor ? static_cast<COLORREF>(ContrastTo(color)) : CLR_DEFAULT;
+    return CDRF_DODEFAULT;
+}
+
+// ---- States
+
 bool CLayersDialog::Is(size_t layer, size_t state) const {
-    const uint32_t flags = ::LayerGetFlags(m_drawing, m_layers[layer].layer.layer);
+    const uint32_t flags = ::LayerGetFlags(m_drawing, m_layers[layer].layer);
     return ((flags & kStates[state].flag) != 0) == kStates[state].whenSet;
 }
 
 void CLayersDialog::Set(size_t layer, size_t state, bool on) {
-    const uint16_t id = m_layers[layer].layer.layer;
+    const uint16_t id = m_layers[layer].layer;
     const uint32_t flags = ::LayerGetFlags(m_drawing, id), flag = kStates[state].flag;
     SetFlags(m_drawing, id, on == kStates[state].whenSet ? flags | flag : flags & ~flag);
 }
@@ -106,10 +182,9 @@ void CLayersDialog::Set(size_t layer, size_t state, bool on) {
 void CLayersDialog::Toggle(size_t state, const std::vector<size_t>& layers) {
     const bool all =
         std::all_of(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
-    for (const size_t layer : layers) {
+    for (const size_t layer : layers)
         Set(layer, state, !all);
-        ShowRow(layer);
-    }
+    ::InvalidateRect(m_list, nullptr, FALSE);
     ShowStates();
     m_changed();
 }
@@ -117,17 +192,12 @@ void CLayersDialog::Toggle(size_t state, const std::vector<size_t>& layers) {
 std::vector<size_t> CLayersDialog::SelectedLayers() const {
     std::vector<size_t> layers;
     for (int i = -1; (i = ListView_GetNextItem(m_list, i, LVNI_SELECTED)) >= 0;)
-        layers.push_back(static_cast<size_t>(i));
+        layers.push_back(m_rows[static_cast<size_t>(i)]);
+    std::sort(layers.begin(), layers.end());
     return layers;
 }
 
-void CLayersDialog::ShowRow(size_t layer) {
-    for (size_t state = 0; state < kStateCount; ++state)
-        SetCell(m_list, layer, kFirstState + static_cast<int>(state), Is(layer, state) ? "yes" : "-");
-    SetCell(m_list, layer, kCountColumn, std::to_string(m_layers[layer].layer.count));
-}
-
-// A box is grey where the selected layers differ.
+// A box is gray where the selected layers differ.
 void CLayersDialog::ShowStates() {
     const std::vector<size_t> layers = SelectedLayers();
     for (size_t state = 0; state < kStateCount; ++state) {
@@ -144,24 +214,58 @@ void CLayersDialog::OnState(UINT command) {
     Toggle(command - IDC_LAYER_ON, SelectedLayers());
 }
 
+// A selection of many rows comes as one notification each.
+LRESULT CLayersDialog::OnShowStates(WPARAM, LPARAM) {
+    m_isShowing = false;
+    ShowStates();
+    return 0;
+}
+
 BOOL CLayersDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
-    if (header.idFrom == IDC_LAYER_LIST && header.code == static_cast<UINT>(LVN_ITEMCHANGED)) {
-        ShowStates();
-    } else if (header.idFrom == IDC_LAYER_LIST && header.code == static_cast<UINT>(NM_CLICK)) {
-        // In a column of states: of that row alone.
-        LVHITTESTINFO hit = {};
-        hit.pt = reinterpret_cast<const NMITEMACTIVATE*>(lParam)->ptAction;
-        const int row = ListView_SubItemHitTest(m_list, &hit);
-        if (row >= 0 && hit.iSubItem >= kFirstState && hit.iSubItem < kCountColumn)
-            Toggle(static_cast<size_t>(hit.iSubItem - kFirstState), {static_cast<size_t>(row)});
+    if (header.idFrom != IDC_LAYER_LIST) return CDialog::OnNotify(wParam, lParam, result);
+    switch (header.code) {
+    case LVN_GETDISPINFOA: {
+        LVITEMA& item = reinterpret_cast<NMLVDISPINFOA*>(lParam)->item;
+        if ((item.mask & LVIF_TEXT) && static_cast<size_t>(item.iItem) < m_rows.size())
+            ::lstrcpynA(item.pszText,
+                        CellText(m_rows[static_cast<size_t>(item.iItem)], item.iSubItem).c_str(),
+                        item.cchTextMax);
+        return TRUE;
     }
-    return CDialog::OnNotify(wParam, lParam, result);
+    case LVN_ITEMCHANGED:
+    case LVN_ODSTATECHANGED:
+        if (!std::exchange(m_isShowing, true)) PostMessage(kShowStates);
+        return TRUE;
+    case LVN_COLUMNCLICK: {
+        const int column = reinterpret_cast<const NMLISTVIEW*>(lParam)->iSubItem;
+        m_sortsDown = column == m_sortColumn && !m_sortsDown;
+        m_sortColumn = column;
+        ShowRows();
+        return TRUE;
+    }
+    case NM_CUSTOMDRAW:
+        *result = DrawCell(header);
+        return TRUE;
+    case NM_CLICK:
+        OnClick(reinterpret_cast<const NMITEMACTIVATE*>(lParam)->ptAction);
+        return TRUE;
+    default:
+        return CDialog::OnNotify(wParam, lParam, result);
+    }
+}
+
+// In a column of states: changes that row alone.
+void CLayersDialog::OnClick(POINT point) {
+    LVHITTESTINFO hit = {};
+    hit.pt = point;
+    const int row = ListView_SubItemHitTest(m_list, &hit);
+    if (row >= 0 && hit.iSubItem >= kFirstState && hit.iSubItem < kCountColumn)
+        Toggle(static_cast<size_t>(hit.iSubItem - kFirstState), {m_rows[static_cast<size_t>(row)]});
 }
 
 void CLayersDialog::OnCancel() {
-    for (const Layer& layer : m_layers)
-        SetFlags(m_drawing, layer.layer.layer, layer.flagsBefore);
+    m_before.Restore();
     m_changed();
     CDialog::OnCancel();
 }

@@ -1,12 +1,15 @@
 // The dialog of layers: which are on, frozen or locked, for one or several at a time. The drawing shows each change at once;
-// Cancel takes all of them back.
+// Cancel undoes all of them. A click on a column's title sorts by it, and the list shows the layers whose names contain the text
+// in the Find field. The list asks for the rows that it shows, so that thousands of layers are no burden.
 #pragma once
 
 #include <afxwin.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
+#include "demo/viewer/layer_states.h"
 #include "demo/viewer/likeness.h"
 #include "orlo/host/records.h"
 
@@ -20,23 +23,33 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     void OnCancel() override;
     afx_msg void OnState(UINT command);
+    afx_msg void OnFind();
+    afx_msg LRESULT OnShowStates(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Layer {
-        LayerCount layer;
-        uint32_t flagsBefore;
-    };
-
+    // Layers are numbered as m_layers has them.
     bool Is(size_t layer, size_t state) const;
     void Set(size_t layer, size_t state, bool on);
     void Toggle(size_t state, const std::vector<size_t>& layers);
     std::vector<size_t> SelectedLayers() const;
-    void ShowRow(size_t layer);
+    std::string CellText(size_t layer, int column) const;
+    uint32_t ColorOf(size_t layer) const;
+    bool IsBefore(size_t a, size_t b) const;
+    void AddColumns();
+    // Makes the rows anew and keeps the layers selected; without one of them the first row.
+    void ShowRows();
     void ShowStates();
+    void OnClick(POINT point);
+    LRESULT DrawCell(const NMHDR& header) const;
 
     DrawingStruct* m_drawing;
     std::function<void()> m_changed;
-    std::vector<Layer> m_layers; // the rows of the list
+    LayerStates m_before;
+    std::vector<LayerCount> m_layers;
+    std::vector<size_t> m_rows; // the layers that the list shows, in its order
+    int m_sortColumn = 0;
+    bool m_sortsDown = false;
+    bool m_isShowing = false; // a message that will show the states of the selection is on its way
     HWND m_list = nullptr;
 };

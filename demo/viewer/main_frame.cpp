@@ -2,6 +2,11 @@
 
 #include "demo/viewer/main_frame.h"
 
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <iterator>
+#include <optional>
 #include <utility>
 
 #include "demo/viewer/control_tables.h"
@@ -9,16 +14,26 @@
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/help.h"
 #include "demo/viewer/keys_dialog.h"
+#include "demo/viewer/layer_states.h"
 #include "demo/viewer/layers_dialog.h"
 #include "demo/viewer/long_task.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/settings.h"
 #include "demo/viewer/style_commands.h"
 #include "drawcore/application.h"
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
 
 namespace {
+
+// Pixels at 96 dots per inch.
+constexpr int kSplitterWidth = 5;
+constexpr int kSmallestPane = 120;
+constexpr int kSmallestView = 200;
+constexpr int kSmallestHeight = 240;
+
+constexpr UINT kTyped = WM_APP + 2; // posted by a key in a sheet, comes when the field has taken it
 
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
 std::string ChangedText(int changed, const Document& document) {
@@ -44,6 +59,14 @@ int DpiOf(HWND window) {
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
 
+// Systems before Windows 10 have no such scheme: the drawing is dark there.
+bool IsSystemLight() {
+    DWORD light = 0, size = sizeof light;
+    ::RegGetValueA(HKEY_CURRENT_USER, R"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
+                   "AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+    return light != 0;
+}
+
 } // namespace
 
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
@@ -57,13 +80,17 @@ ON_WM_SIZE()
 ON_MESSAGE(WM_ACTIVATE, &CMainFrame::OnActivate)
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
+ON_MESSAGE(kTyped, &CMainFrame::OnTyped)
 ON_MESSAGE(kHourglassEnds, &CMainFrame::OnHourglassEnds)
 ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
+ON_MESSAGE(WM_GETMINMAXINFO, &CMainFrame::OnGetMinMaxInfo)
+ON_MESSAGE(WM_SETTINGCHANGE, &CMainFrame::OnSettingChange)
 ON_MESSAGE(WM_INITMENUPOPUP, &CMainFrame::OnInitMenuPopup)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_COMMAND_RANGE(ID_FILE_RECENT_FIRST, ID_FILE_RECENT_LAST, &CMainFrame::OnRecentFile)
 ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
 ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
+ON_COMMAND(ID_FILE_WARNINGS, &CMainFrame::OnFileWarnings)
 ON_COMMAND(ID_APP_EXIT, &CMainFrame::OnAppExit)
 ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnEditUndo)
 ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnEditRedo)
@@ -86,6 +113,7 @@ ON_COMMAND(ID_VIEW_DARK_PAPER, &CMainFrame::OnDarkPaper)
 ON_COMMAND(ID_VIEW_LIGHT_PAPER, &CMainFrame::OnLightPaper)
 ON_COMMAND(ID_VIEW_LINE_WEIGHTS, &CMainFrame::OnLineWeights)
 ON_COMMAND(ID_VIEW_LAYERS, &CMainFrame::OnLayers)
+ON_COMMAND_RANGE(ID_VIEW_MARK_SYSTEM, ID_VIEW_MARK_COMMA, &CMainFrame::OnDecimalMark)
 ON_COMMAND(ID_VIEW_PROPERTIES, &CMainFrame::OnPropertiesPane)
 ON_COMMAND(ID_VIEW_SWITCH_PANE, &CMainFrame::OnSwitchPane)
 ON_COMMAND(ID_HELP_KEYS, &CMainFrame::OnHelpKeys)
@@ -97,6 +125,7 @@ CMainFrame::CMainFrame()
     : m_view(*this), m_pane([this](int changed) { ShowApplied(changed); }),
       m_hints([this](const std::string& hint) { m_status.ShowMessage(hint); }),
       m_dialogMessages([this](MSG& message) { return OnDialogMessage(message); }),
+      m_splitter([this](int left, bool done) { SizePane(left, done); }),
       m_paneKeys(::LoadAcceleratorsA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PANE))) {}
 
 CMainFrame::~CMainFrame() = default;
@@ -117,8 +146,9 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
-    if (!m_pane.Create(this, IDC_PROPERTIES_PANE) || !m_hints.Create(m_hWnd)) return -1;
-    SetPaper(CDrawingView::kDarkPaper);
+    if (!m_splitter.Create(this, IDC_SPLITTER) || !m_pane.Create(this, IDC_PROPERTIES_PANE)) return -1;
+    if (!m_hints.Create(m_hWnd)) return -1;
+    ShowSettings();
     m_status.SetDpi(DpiOf(m_hWnd));
     m_status.ShowMessage(kHello);
     DragAcceptFiles();
@@ -126,6 +156,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 void CMainFrame::OnDestroy() {
+    SaveWindowPlace();
     m_pane.SetDocument(nullptr);
     m_view.SetDocument(nullptr);
     CFrameWnd::OnDestroy();
@@ -141,9 +172,106 @@ void CMainFrame::ArrangeClient() {
     CRect client;
     GetClientRect(client);
     const int height = std::max(0, client.Height() - m_status.Height());
-    const int width = std::max(0, client.Width() - m_pane.Width());
+    client.bottom = height;
+    const int pane = PaneWidth(client), bar = m_pane.IsOpen() ? Scaled(kSplitterWidth) : 0;
+    const int width = std::max(0, client.Width() - pane - bar);
     m_view.MoveWindow(0, 0, width, height);
-    m_pane.MoveWindow(width, 0, m_pane.Width(), height);
+    m_splitter.MoveWindow(width, 0, bar, height);
+    m_splitter.ShowWindow(bar ? SW_SHOWNA : SW_HIDE);
+    m_pane.MoveWindow(width + bar, 0, pane, height);
+}
+
+// The drawing keeps some room as long as the pane has its smallest width.
+int CMainFrame::PaneWidth(const CRect& client) const {
+    if (!m_pane.IsOpen()) return 0;
+    const int smallest = Scaled(kSmallestPane);
+    const int most = std::max(smallest, client.Width() - Scaled(kSmallestView + kSplitterWidth));
+    const int wanted = m_paneWidth ? Scaled(m_paneWidth) : m_pane.FittingWidth(client.Height());
+    return std::clamp(wanted, smallest, most);
+}
+
+void CMainFrame::SizePane(int left, bool done) {
+    CRect client;
+    GetClientRect(client);
+    const int width = client.Width() - left - Scaled(kSplitterWidth);
+    m_paneWidth = std::max(kSmallestPane, ::MulDiv(width, 96, DpiOf(m_hWnd)));
+    ArrangeClient();
+    if (done) Settings::SetNumber(kSettingPaneWidth, m_paneWidth);
+}
+
+int CMainFrame::Scaled(int at96) const {
+    return ::MulDiv(at96, DpiOf(m_hWnd), 96);
+}
+
+LRESULT CMainFrame::OnGetMinMaxInfo(WPARAM, LPARAM lParam) {
+    auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
+    info.ptMinTrackSize = CPoint(Scaled(kSmallestPane + kSmallestView), Scaled(kSmallestHeight));
+    return 0;
+}
+
+// ---- What is remembered
+
+void CMainFrame::ShowSettings() {
+    m_view.ShowLineWeights(Settings::Number(kSettingLineWeights).value_or(1) != 0);
+    const bool light = Settings::Number(kSettingLightBackground).value_or(IsSystemLight());
+    SetBackground(light ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+    m_paneWidth = Settings::Number(kSettingPaneWidth).value_or(0);
+    ShowDecimalMark();
+    if (Settings::Number(kSettingPaneOpen).value_or(0)) m_pane.Open();
+}
+
+// A place that no monitor shows any more is not used.
+void CMainFrame::ShowFirst(int show) {
+    WINDOWPLACEMENT place = {};
+    place.length = sizeof place;
+    long* const edges[] = {&place.rcNormalPosition.left, &place.rcNormalPosition.top,
+                           &place.rcNormalPosition.right, &place.rcNormalPosition.bottom};
+    bool known = true;
+    for (size_t i = 0; i < std::size(edges); ++i) {
+        const std::optional<int> edge = Settings::Number(kSettingWindow[i]);
+        known = known && edge;
+        *edges[i] = edge.value_or(0);
+    }
+    if (known && ::MonitorFromRect(&place.rcNormalPosition, MONITOR_DEFAULTTONULL)) {
+        place.showCmd = SW_HIDE;
+        ::SetWindowPlacement(m_hWnd, &place);
+    }
+    const bool asBefore = show == SW_SHOWNORMAL || show == SW_SHOWDEFAULT;
+    const bool maximized = asBefore && Settings::Number(kSettingMaximized).value_or(0);
+    ShowWindow(maximized ? SW_SHOWMAXIMIZED : show);
+}
+
+void CMainFrame::SaveWindowPlace() const {
+    WINDOWPLACEMENT place = {};
+    place.length = sizeof place;
+    if (!::GetWindowPlacement(m_hWnd, &place)) return;
+    const RECT& normal = place.rcNormalPosition;
+    const long edges[] = {normal.left, normal.top, normal.right, normal.bottom};
+    for (size_t i = 0; i < std::size(edges); ++i)
+        Settings::SetNumber(kSettingWindow[i], edges[i]);
+    Settings::SetNumber(kSettingMaximized, place.showCmd == SW_SHOWMAXIMIZED);
+    Settings::SetNumber(kSettingPaneOpen, m_pane.IsOpen());
+}
+
+// What was typed in the pane has been applied by now, with the mark that it was typed with.
+void CMainFrame::OnDecimalMark(UINT command) {
+    Settings::SetNumber(kSettingDecimalMark, MarkOf(command));
+    ShowDecimalMark();
+}
+
+void CMainFrame::ShowDecimalMark() {
+    char system[8] = "";
+    ::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, system, sizeof system);
+    const int chosen = Settings::Number(kSettingDecimalMark).value_or(0);
+    const bool comma = (chosen ? chosen : system[0]) == ',';
+    ::TableSetStringVar(::AppGetCurrentApp()->pVariables, kVarDecimalMark, comma ? "," : ".");
+    OnSelectionChanged();
+}
+
+LRESULT CMainFrame::OnSettingChange(WPARAM, LPARAM) {
+    if (!Settings::Number(kSettingLightBackground))
+        SetBackground(IsSystemLight() ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+    return Default();
 }
 
 // The window has come to a monitor of another resolution, which says how large it should be there.
@@ -197,6 +325,7 @@ void CMainFrame::ShowChange() {
 
 // The pane shows what it has written.
 void CMainFrame::ShowApplied(int changed) {
+    m_hints.Renew();
     ShowTitle();
     ShowSelected();
     m_status.ShowMessage(ChangedText(changed, *m_document));
@@ -204,14 +333,28 @@ void CMainFrame::ShowApplied(int changed) {
 
 void CMainFrame::OnEditUndo() {
     if (!CanDo(ID_EDIT_UNDO)) return;
-    m_status.ShowMessage("Taken back for " + Counted(m_document->Undo(), "graphic"));
-    ShowChange();
+    ShowUndone("Undone: " + m_document->Undo());
 }
 
 void CMainFrame::OnEditRedo() {
     if (!CanDo(ID_EDIT_REDO)) return;
-    m_status.ShowMessage("Made again for " + Counted(m_document->Redo(), "graphic"));
+    ShowUndone("Redone: " + m_document->Redo());
+}
+
+// Undo reaches layers too: what is hidden now cannot stay selected.
+void CMainFrame::ShowUndone(const std::string& message) {
+    m_status.ShowMessage(message);
+    m_view.Redraw();
     ShowChange();
+    DeselectUnselectable();
+}
+
+void CMainFrame::DeselectUnselectable() {
+    const std::vector<GraphicStruct*> selectable = m_document->StillSelectable();
+    const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
+    if (left == 0) return;
+    m_view.SelectOnly(selectable);
+    m_status.ShowMessage(Counted(left, "graphic") + " on locked or hidden layers left the selection");
 }
 
 // ---- Styles
@@ -327,31 +470,35 @@ void CMainFrame::OnFitSelection() {
 }
 
 void CMainFrame::OnDarkPaper() {
-    SetPaper(CDrawingView::kDarkPaper);
+    ChooseBackground(false);
 }
 
 void CMainFrame::OnLightPaper() {
-    SetPaper(CDrawingView::kLightPaper);
+    ChooseBackground(true);
 }
 
-void CMainFrame::SetPaper(COLORREF paper) {
-    m_view.SetPaper(paper);
-    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(paper));
+void CMainFrame::ChooseBackground(bool light) {
+    SetBackground(light ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+    Settings::SetNumber(kSettingLightBackground, light);
+}
+
+void CMainFrame::SetBackground(COLORREF color) {
+    m_view.SetPaper(color);
+    ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(color));
 }
 
 void CMainFrame::OnLineWeights() {
     m_view.ShowLineWeights(!m_view.ShowsLineWeights());
+    Settings::SetNumber(kSettingLineWeights, m_view.ShowsLineWeights());
 }
 
 void CMainFrame::OnLayers() {
     if (!CanDo(ID_VIEW_LAYERS)) return;
+    LayerStates before(m_document->Drawing());
     CLayersDialog(this, m_document->Drawing(), [this] { m_view.Redraw(); }).DoModal();
+    m_document->Record(LayerStates::ChangeSince(std::move(before)));
     ShowTitle();
-    const std::vector<GraphicStruct*> selectable = m_document->StillSelectable();
-    const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
-    if (left == 0) return;
-    m_view.SelectOnly(selectable);
-    m_status.ShowMessage(Counted(left, "graphic") + " on locked or hidden layers left the selection");
+    DeselectUnselectable();
 }
 
 // ---- The pane of properties
@@ -375,13 +522,44 @@ void CMainFrame::OnSwitchPane() {
     m_pane.TakeFocus();
 }
 
+LRESULT CMainFrame::OnTyped(WPARAM, LPARAM) {
+    m_hints.ShowFocused(m_document.get());
+    return 0;
+}
+
 bool CMainFrame::OnDialogMessage(MSG& message) {
     m_hints.Watch(message, m_document.get());
+    if (message.message == WM_CHAR || message.message == WM_KEYDOWN) PostMessage(kTyped);
     if (message.message == WM_KEYDOWN && message.wParam == VK_F1) {
         ShowHelp(::GetActiveWindow(), HelpTopicOf(message.hwnd));
         return true;
     }
-    return ::IsChild(m_pane.m_hWnd, message.hwnd) && ::TranslateAcceleratorA(m_hWnd, m_paneKeys, &message);
+    if (!::IsChild(m_pane.m_hWnd, message.hwnd)) return false;
+    m_pane.RevealFocus();
+    if (OpenMenuByKey(message)) return true;
+    return !IsKeyOfFocus(message) && ::TranslateAcceleratorA(m_hWnd, m_paneKeys, &message);
+}
+
+// The letters of the menu bar are the menu's: labels of the pane have some of them too.
+bool CMainFrame::OpenMenuByKey(const MSG& message) {
+    if (message.message != WM_SYSCHAR) return false;
+    const HMENU menu = ::GetMenu(m_hWnd);
+    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+        char text[64] = "";
+        ::GetMenuStringA(menu, static_cast<UINT>(i), text, sizeof text, MF_BYPOSITION);
+        const char* mark = std::strchr(text, '&');
+        if (!mark || std::toupper(mark[1]) != std::toupper(static_cast<int>(message.wParam & 0xFF))) continue;
+        PostMessage(WM_SYSCOMMAND, SC_KEYMENU, static_cast<LPARAM>(message.wParam));
+        return true;
+    }
+    return false;
+}
+
+// A field takes back its own typing first; after that Ctrl+Z is the drawing's.
+bool CMainFrame::IsKeyOfFocus(const MSG& message) const {
+    const bool isUndo =
+        message.message == WM_KEYDOWN && message.wParam == 'Z' && ::GetKeyState(VK_SHIFT) >= 0;
+    return isUndo && ::SendMessageA(message.hwnd, EM_CANUNDO, 0, 0);
 }
 
 void CMainFrame::OnHelpKeys() {

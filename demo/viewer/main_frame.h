@@ -13,6 +13,7 @@
 #include "demo/viewer/field_hints.h"
 #include "demo/viewer/likeness.h"
 #include "demo/viewer/properties_pane.h"
+#include "demo/viewer/splitter.h"
 #include "demo/viewer/status_line.h"
 
 class CMainFrame : public CFrameWnd, private DrawingViewClient {
@@ -23,6 +24,8 @@ public:
 
     // False: no window could be made, and the object is gone.
     BOOL Create();
+    // Shows the window where the user has left it in an earlier session. show: the system's wish, SW_SHOWNORMAL or another.
+    void ShowFirst(int show);
 
     // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one, which
     // it also keeps if the user thinks better of it for the sake of unsaved changes.
@@ -47,14 +50,18 @@ protected:
     afx_msg LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSetFocus(CWnd* before);
     afx_msg void OnDropFiles(HDROP drop);
+    afx_msg LRESULT OnTyped(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnHourglassEnds(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetMinMaxInfo(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSettingChange(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInitMenuPopup(WPARAM wParam, LPARAM lParam);
 
     afx_msg void OnFileOpen();
     afx_msg void OnRecentFile(UINT command);
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    afx_msg void OnFileWarnings();
     afx_msg void OnAppExit();
     afx_msg void OnEditUndo();
     afx_msg void OnEditRedo();
@@ -77,6 +84,7 @@ protected:
     afx_msg void OnLightPaper();
     afx_msg void OnLineWeights();
     afx_msg void OnLayers();
+    afx_msg void OnDecimalMark(UINT command);
     afx_msg void OnPropertiesPane();
     afx_msg void OnSwitchPane();
     afx_msg void OnHelpKeys();
@@ -99,11 +107,23 @@ private:
     void ShowSelected();
     void ShowChange();
     void ShowApplied(int changed);
+    void ShowUndone(const std::string& message);
+    void DeselectUnselectable();
     bool OnDialogMessage(MSG& message);
     bool CanDo(UINT command) const;
     bool IsChosen(UINT command) const;
     void ArrangeClient();
-    void SetPaper(COLORREF paper); // of view and previews
+    int PaneWidth(const CRect& client) const;
+    void SizePane(int left, bool done);
+    int Scaled(int at96) const; // pixels for the monitor that the window is on
+    void ShowSettings();
+    static int MarkOf(UINT command);
+    void ShowDecimalMark();
+    void SaveWindowPlace() const;
+    void SetBackground(COLORREF color); // of view and previews
+    void ChooseBackground(bool light);
+    bool OpenMenuByKey(const MSG& message);
+    bool IsKeyOfFocus(const MSG& message) const;
     std::vector<KindCount> SelectedKinds() const;
     std::vector<LayerCount> Layers() const;
     bool FillSubmenu(HMENU menu);
@@ -114,6 +134,8 @@ private:
     CPropertiesPane m_pane;
     FieldHints m_hints;
     DialogMessages m_dialogMessages;
+    CSplitter m_splitter;
+    int m_paneWidth = 0;    // pixels at 96 dots per inch, as the user has dragged it; 0: as wide as its sheet
     HACCEL m_paneKeys;      // the system's, for as long as the program runs
     bool m_isBusy = false;  // with a file
     HWND m_focus = nullptr; // in the pane, when another window became the active one

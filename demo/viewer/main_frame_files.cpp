@@ -7,8 +7,10 @@
 #include "demo/viewer/counted.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/long_task.h"
+#include "demo/viewer/named_buttons.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/warnings_dialog.h"
 
 namespace {
 
@@ -75,9 +77,14 @@ void CMainFrame::Show(std::unique_ptr<Document> document) {
 void CMainFrame::ShowWhatOpened() {
     std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
     const std::vector<std::string>& findings = m_document->Findings();
+    if (findings.size() > 1)
+        text += "; " + Counted(static_cast<int>(findings.size()), "warning") + " (File, Warnings)";
     if (!findings.empty()) text += "; " + findings.front();
-    if (findings.size() > 1) text += " (and " + std::to_string(findings.size() - 1) + " more)";
     m_status.ShowMessage(text);
+}
+
+void CMainFrame::OnFileWarnings() {
+    if (CanDo(ID_FILE_WARNINGS)) CWarningsDialog(this, m_document->Findings()).DoModal();
 }
 
 void CMainFrame::ShowTitle() {
@@ -162,7 +169,8 @@ bool CMainFrame::MayLeaveDocument() {
     if (!m_pane.Apply()) return false;
     if (!m_document || !m_document->IsModified()) return true;
     const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
-    switch (MessageBox(question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    switch (MessageBoxWithButtons(m_hWnd, question.c_str(), kTitle, MB_YESNOCANCEL | MB_ICONQUESTION,
+                                  {{IDYES, "&Save"}, {IDNO, "Do&n't Save"}})) {
     case IDYES:
         return Save(m_document->Path());
     case IDNO:

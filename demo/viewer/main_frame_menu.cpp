@@ -6,6 +6,7 @@
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/settings.h"
 
 namespace {
 
@@ -21,6 +22,8 @@ bool CMainFrame::CanDo(UINT command) const {
     case ID_FILE_SAVE:
     case ID_FILE_SAVE_AS:
         return m_document != nullptr;
+    case ID_FILE_WARNINGS:
+        return m_document && !m_document->Findings().empty();
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
     case ID_EDIT_REDO:
@@ -82,9 +85,18 @@ bool CMainFrame::IsChosen(UINT command) const {
         return m_view.ShowsLineWeights();
     case ID_VIEW_PROPERTIES:
         return m_pane.IsOpen();
+    case ID_VIEW_MARK_SYSTEM:
+    case ID_VIEW_MARK_POINT:
+    case ID_VIEW_MARK_COMMA:
+        return Settings::Number(kSettingDecimalMark).value_or(0) == MarkOf(command);
     default:
         return false;
     }
+}
+
+// The character of a command that chooses the decimal mark, 0 for the system's.
+int CMainFrame::MarkOf(UINT command) {
+    return command == ID_VIEW_MARK_POINT ? '.' : command == ID_VIEW_MARK_COMMA ? ',' : 0;
 }
 
 LRESULT CMainFrame::OnInitMenuPopup(WPARAM wParam, LPARAM) {

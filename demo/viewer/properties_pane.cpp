@@ -6,6 +6,8 @@
 
 #include <afxres.h>
 
+#include <algorithm>
+
 #include "demo/viewer/resource.h"
 #include "orlo/frame/graphic_property_page.h"
 
@@ -13,14 +15,20 @@ namespace {
 
 constexpr UINT kRenew = WM_APP;
 constexpr UINT kNothingId = 1;
-constexpr int kMargin = 8; // pixels
+// Pixels.
+constexpr int kMargin = 8;
+constexpr int kScrollLine = 20;
 
 struct Button {
     UINT id;
     const char* text;
 };
 constexpr Button kButtons[] = {
-    {IDOK, "&Apply"}, {ID_PANE_RESET, "&Reset"}, {ID_VIEW_PROPERTIES, "&Close"}, {ID_HELP, "&Help"}};
+    // Help without a letter: Alt+H is the menu's.
+    {IDOK, "&Apply"},
+    {ID_PANE_RESET, "&Reset"},
+    {ID_VIEW_PROPERTIES, "&Close"},
+    {ID_HELP, "Help"}};
 
 CRect PlaceIn(HWND parent, HWND window) {
     CRect rect;
@@ -39,6 +47,9 @@ ON_COMMAND(IDOK, &CPropertiesPane::OnApply)
 ON_COMMAND(IDCANCEL, &CPropertiesPane::OnCancel)
 ON_COMMAND(ID_PANE_RESET, &CPropertiesPane::Reset)
 ON_MESSAGE(kRenew, &CPropertiesPane::OnRenew)
+ON_MESSAGE(WM_HSCROLL, &CPropertiesPane::OnHScroll)
+ON_MESSAGE(WM_VSCROLL, &CPropertiesPane::OnVScroll)
+ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 CPropertiesPane::Edited::Edited(CWnd* owner, const Document& document)
@@ -60,6 +71,96 @@ void CPropertiesPane::OnSize(UINT, int cx, int) {
     const HFONT font = static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT));
     m_nothing.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font));
     m_nothing.MoveWindow(kMargin, kMargin, cx - 2 * kMargin, 2 * kMargin);
+    ArrangeScrollBars();
+}
+
+// ---- Scrolling
+
+int CPropertiesPane::FittingWidth(int height) const {
+    return m_sheetSize.cx + (m_sheetSize.cy > height ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
+}
+
+// The first bar takes room from the other direction, and so may need the second one.
+void CPropertiesPane::ArrangeScrollBars() {
+    const bool any = IsOverGraphics();
+    for (const int bar : {SB_VERT, SB_HORZ, SB_VERT}) {
+        CRect client;
+        GetClientRect(client);
+        const bool vertical = bar == SB_VERT;
+        SCROLLINFO info = {sizeof info, SIF_PAGE | SIF_RANGE, 0, 0, 0, 0, 0};
+        info.nMax = !any ? 0 : vertical ? m_sheetSize.cy - 1 : m_sheetSize.cx - 1;
+        info.nPage = static_cast<UINT>(std::max(0, vertical ? client.Height() : client.Width()));
+        ::SetScrollInfo(m_hWnd, bar, &info, TRUE);
+    }
+    ScrollBy(CSize());
+}
+
+// As far as the bars allow.
+void CPropertiesPane::ScrollBy(CSize pixels) {
+    const auto move = [this](int bar, int way) {
+        ::SetScrollPos(m_hWnd, bar, ::GetScrollPos(m_hWnd, bar) + way, TRUE);
+        return -::GetScrollPos(m_hWnd, bar);
+    };
+    const CPoint place(move(SB_HORZ, pixels.cx), move(SB_VERT, pixels.cy));
+    if (!Sheet() || !Sheet()->m_hWnd || PlaceIn(m_hWnd, Sheet()->m_hWnd).TopLeft() == place) return;
+    Sheet()->SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CPropertiesPane::Scroll(int bar, int code) {
+    SCROLLINFO info = {sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
+    ::GetScrollInfo(m_hWnd, bar, &info);
+    const auto wayOf = [&] {
+        switch (code) {
+        case SB_LINEUP:
+            return -kScrollLine;
+        case SB_LINEDOWN:
+            return kScrollLine;
+        case SB_PAGEUP:
+            return -static_cast<int>(info.nPage);
+        case SB_PAGEDOWN:
+            return static_cast<int>(info.nPage);
+        case SB_THUMBTRACK:
+        case SB_THUMBPOSITION:
+            return info.nTrackPos - info.nPos;
+        case SB_TOP:
+            return -info.nPos;
+        case SB_BOTTOM:
+            return info.nMax;
+        default:
+            return 0;
+        }
+    };
+    ScrollBy(bar == SB_VERT ? CSize(0, wayOf()) : CSize(wayOf(), 0));
+}
+
+LRESULT CPropertiesPane::OnHScroll(WPARAM wParam, LPARAM) {
+    Scroll(SB_HORZ, LOWORD(wParam));
+    return 0;
+}
+
+LRESULT CPropertiesPane::OnVScroll(WPARAM wParam, LPARAM) {
+    Scroll(SB_VERT, LOWORD(wParam));
+    return 0;
+}
+
+BOOL CPropertiesPane::OnMouseWheel(UINT, short delta, CPoint) {
+    ScrollBy(CSize(0, ::MulDiv(-delta, 3 * kScrollLine, WHEEL_DELTA)));
+    return TRUE;
+}
+
+void CPropertiesPane::RevealFocus() {
+    const HWND focus = ::GetFocus();
+    if (focus == m_revealed) return;
+    m_revealed = focus;
+    if (!HasFocus() || !Sheet() || focus == Sheet()->m_hWnd) return;
+    CRect client;
+    GetClientRect(client);
+    const CRect place = PlaceIn(m_hWnd, focus);
+    const auto way = [](int low, int high, int end) {
+        if (low < 0) return low - kMargin;
+        return high > end ? std::min(high - end + kMargin, low) : 0;
+    };
+    ScrollBy(CSize(way(place.left, place.right, client.right), way(place.top, place.bottom, client.bottom)));
 }
 
 // ---- What it shows
@@ -111,6 +212,7 @@ void CPropertiesPane::Renew() {
         if (!Sheet() || !ShowSheet()) m_edited.reset();
     }
     const bool any = IsOverGraphics();
+    ArrangeScrollBars();
     if (m_edited) Sheet()->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
     m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
     SendMessage(WM_SETREDRAW, TRUE);
@@ -123,17 +225,16 @@ void CPropertiesPane::Renew() {
 
 // The sheet over nothing has pages too, which nobody has chosen.
 void CPropertiesPane::DropSheet() {
-    const COrloPropertyPage* page = IsOverGraphics() ? ActivePage() : nullptr;
-    if (page) m_page = page->GetTemplateName();
+    if (IsOverGraphics()) m_edited->sheet.RememberPage();
     m_edited.reset();
 }
 
 bool CPropertiesPane::ShowSheet() {
     CGraphicPropertySheet* sheet = Sheet();
-    if (COrloPropertyPage* wanted = m_page ? sheet->FindPage(m_page) : nullptr) sheet->SetActivePage(wanted);
+    m_edited->sheet.ChooseRememberedPage();
     if (!sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
     sheet->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    m_width = PlaceIn(m_hWnd, sheet->m_hWnd).Width();
+    m_sheetSize = PlaceIn(m_hWnd, sheet->m_hWnd).Size();
     ::SetWindowSubclass(sheet->m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(this));
     AddButtons();
     return true;

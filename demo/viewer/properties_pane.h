@@ -30,7 +30,10 @@ public:
     bool IsOpen() const { return m_isOpen; }
     void Open();
     void Close(); // what was written stays; what was typed has been applied before, or is dropped
-    int Width() const { return m_isOpen ? m_width : 0; } // pixels
+    // The width in pixels at which a pane of that height shows all of its sheet.
+    int FittingWidth(int height) const;
+    // Scrolls so far that the control with the focus is seen, if it is in the pane and has just got it.
+    void RevealFocus();
 
     // Selection or graphics have changed: a new sheet comes as soon as the present message has been dealt with.
     void Follow();
@@ -47,6 +50,9 @@ protected:
     afx_msg void OnApply();
     afx_msg void OnCancel();
     afx_msg LRESULT OnRenew(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnHScroll(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnVScroll(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint screenPoint);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -71,15 +77,18 @@ private:
     void DropSheet();
     bool ShowSheet();
     void AddButtons();
+    void ArrangeScrollBars();
+    void Scroll(int bar, int code);
+    void ScrollBy(CSize pixels);
     static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
                                            UINT_PTR id, DWORD_PTR pane);
 
     Applied m_applied;
     Document* m_document = nullptr;
     std::optional<Edited> m_edited;
-    const char* m_page = nullptr; // the template of the page that comes to the front if the sheet has it
-    CWnd m_nothing;               // says that nothing is selected
+    CWnd m_nothing; // says that nothing is selected
     bool m_isOpen = false;
     bool m_isStale = false; // the sheet is to be replaced
-    int m_width = 0;
+    CSize m_sheetSize;
+    HWND m_revealed = nullptr; // the control that RevealFocus has seen last
 };

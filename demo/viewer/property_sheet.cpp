@@ -5,9 +5,11 @@
 #include <optional>
 
 #include "demo/viewer/document.h"
+#include "demo/viewer/settings.h"
 #include "drawcore/application.h"
 #include "drawcore/regen.h"
 #include "orlo/entry/entry.h"
+#include "orlo/frame/graphic_property_page.h"
 #include "orlo/host/application.h"
 #include "orlo/host/property.h"
 #include "orlo/host/table.h"
@@ -52,6 +54,21 @@ SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruc
         ::AddGraphicPropertyPage(m_methods.get(), graphic, m_sheet.get());
 }
 
+void SelectionSheet::ChooseRememberedPage() {
+    const int page = Settings::Number(kSettingPage).value_or(0);
+    if (CPropertyPage* wanted = m_sheet->FindPage(static_cast<unsigned>(page)))
+        m_sheet->SetActivePage(wanted);
+    m_openedOn = m_sheet->GetActiveIndex();
+}
+
+void SelectionSheet::RememberPage() const {
+    CPropertyPage* page = m_sheet->GetActivePage();
+    if (m_sheet->GetActiveIndex() == m_openedOn || !page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
+        return;
+    const unsigned number = static_cast<CGraphicPropertyPage*>(page)->GetTemplateNumber();
+    Settings::SetNumber(kSettingPage, static_cast<int>(number));
+}
+
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags) {
     const SelectionSheet sheet(owner, drawing, set, flags);
     return sheet.get() ? static_cast<int>(sheet->DoModal()) : kNotShown;
@@ -61,7 +78,12 @@ SheetOutcome EditSelection(CWnd* owner, Document& document) {
     SheetOutcome outcome = {};
     // A cancelled sheet may have written too: a page writes when it is left for another one.
     outcome.changed = document.Attempt([&] {
-        outcome.code = RunSheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics);
+        SelectionSheet sheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics);
+        outcome.code = kNotShown;
+        if (!sheet.get()) return false;
+        sheet.ChooseRememberedPage();
+        outcome.code = static_cast<int>(sheet->DoModal());
+        sheet.RememberPage();
         return outcome.code != IDCANCEL && outcome.code != kNotShown;
     });
     return outcome;

@@ -32,6 +32,12 @@ public:
     CGraphicPropertySheet* get() const { return m_sheet.get(); }
     CGraphicPropertySheet* operator->() const { return get(); }
 
+    // Before the sheet opens: it will be on the page that the user has chosen last, in this session or an earlier one, if it has
+    // that page.
+    void ChooseRememberedPage();
+    // Remembers the page that is in front now, if it is not the one that the sheet has opened on.
+    void RememberPage() const;
+
 private:
     struct RegenMethodsDeleter {
         void operator()(void* methods) const;
@@ -39,6 +45,7 @@ private:
     PreviewLayer m_previewLayer;
     std::unique_ptr<void, RegenMethodsDeleter> m_methods; // goes after the sheet
     std::unique_ptr<CGraphicPropertySheet> m_sheet;
+    int m_openedOn = 0;
 };
 
 // Shows the sheet and waits until it is closed. IDOK, IDCANCEL, an end code of a page, or kNotShown.

@@ -32,6 +32,8 @@ std::string Number(double value) {
     return text;
 }
 
+} // namespace
+
 std::string ColorText(DrawingStruct* drawing, uint32_t color) {
     switch (color) {
     case kColorByLayer:
@@ -49,6 +51,8 @@ std::string ColorText(DrawingStruct* drawing, uint32_t color) {
     return std::to_string(GetRValue(color)) + "," + std::to_string(GetGValue(color)) + "," +
            std::to_string(GetBValue(color));
 }
+
+namespace {
 
 std::string LineStyleText(DrawingStruct* drawing, uint16_t style) {
     switch (style) {

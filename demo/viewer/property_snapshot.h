@@ -26,6 +26,8 @@ struct ValueCount {
 // with the layer's.
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
                                     const char* property, uint32_t mask = ~uint32_t{0});
+// The name of a color, or its parts: "255,128,0".
+std::string ColorText(DrawingStruct* drawing, uint32_t color);
 // The name of a table's entry; "#12" without one.
 std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id);
 

@@ -7,10 +7,10 @@
 #include <windows.h>
 
 #include "demo/viewer/file_name.h"
+#include "demo/viewer/settings.h"
 
 namespace {
 
-constexpr const wchar_t* kKey = L"Software\\Orlo\\Demo";
 constexpr const wchar_t* kValue = L"RecentFiles";
 
 // The system compares names of files without regard to case.
@@ -28,7 +28,7 @@ void Write(const std::vector<std::string>& files) {
     std::wstring texts; // each with its NUL, and one more at the end
     for (const std::string& file : files)
         texts += Wide(file) + L'\0';
-    ::RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_MULTI_SZ, texts.c_str(),
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, REG_MULTI_SZ, texts.c_str(),
                       static_cast<DWORD>((texts.size() + 1) * sizeof(wchar_t)));
 }
 
@@ -43,11 +43,13 @@ std::vector<std::string> Without(std::vector<std::string> files, const std::stri
 
 std::vector<std::string> RecentFiles::List() {
     DWORD bytes = 0;
-    if (::RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_REG_MULTI_SZ, nullptr, nullptr, &bytes))
+    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr,
+                       nullptr, &bytes))
         return {};
     std::wstring texts(bytes / sizeof(wchar_t) + 1, L'\0');
     bytes = static_cast<DWORD>(texts.size() * sizeof(wchar_t));
-    if (::RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_REG_MULTI_SZ, nullptr, texts.data(), &bytes))
+    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr,
+                       texts.data(), &bytes))
         return {};
     std::vector<std::string> files;
     for (size_t begin = 0; files.size() < kMost && begin < texts.size() && texts[begin];) {

@@ -5,6 +5,7 @@
 #define IDC_VIEW 129
 #define IDC_STATUS 130
 #define IDC_PROPERTIES_PANE 131
+#define IDC_SPLITTER 133
 // Keys of the main window that hold in the pane too.
 #define IDR_PANE 132
 
@@ -36,6 +37,10 @@
 #define ID_HELP_GUIDE 221
 #define ID_PANE_RESET 230
 #define ID_VIEW_LAYERS 231
+#define ID_FILE_WARNINGS 232
+#define ID_VIEW_MARK_SYSTEM 233
+#define ID_VIEW_MARK_POINT 234
+#define ID_VIEW_MARK_COMMA 235
 
 // Submenus that are made as they open: the first and the last command of each.
 #define ID_SELECT_KIND_FIRST 400
@@ -60,8 +65,12 @@
 #define IDC_LAYER_ON 322
 #define IDC_LAYER_FROZEN 323
 #define IDC_LAYER_LOCKED 324
+#define IDC_LAYER_FIND 325
 
 // The list of keys, in two columns.
 #define IDD_KEYS 330
 #define IDC_KEYS 331
 #define IDC_MEANINGS 332
+
+#define IDD_WARNINGS 340
+#define IDC_WARNINGS 341

@@ -3,6 +3,7 @@
 #include "demo/viewer/status_line.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -36,14 +37,21 @@ void CStatusLine::Arrange() {
     SendMessage(WM_SIZE); // it finds its own place in the parent
     CRect client;
     GetClientRect(client);
-    const int widest = client.Width() / kPanes; // so that the message has as much at least
-    const auto widthOf = [&](int pane) {
-        return std::min(pane == kPointer ? Scaled(kPointerWidth) : WidthFor(m_texts[pane]), widest);
-    };
+    int widths[kPanes] = {};
+    widths[kPointer] = Scaled(kPointerWidth);
+    for (const int pane : {kSelection, kWidths})
+        widths[pane] = WidthFor(m_texts[pane]);
+    // The message leaves its room to the others, up to a part that it needs at least; then the widest of them is cut.
+    const int most = client.Width() * (kPanes - 1) / kPanes;
+    int excess = std::accumulate(widths, widths + kPanes, 0) - most;
+    for (int* widest; excess > 0; excess = std::accumulate(widths, widths + kPanes, 0) - most) {
+        widest = std::max_element(widths, widths + kPanes);
+        *widest = std::max(*widest - excess, std::min(*widest - 1, most / (kPanes - 1)));
+    }
     int rightEdges[kPanes];
     rightEdges[kPointer] = client.right;
     for (int pane = kPointer; pane > kMessage; --pane)
-        rightEdges[pane - 1] = rightEdges[pane] - widthOf(pane);
+        rightEdges[pane - 1] = rightEdges[pane] - widths[pane];
     rightEdges[kPointer] = -1; // with the grip
     SetParts(kPanes, rightEdges);
     CRect pane;

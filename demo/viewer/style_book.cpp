@@ -58,6 +58,16 @@ void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) 
     }
 }
 
+bool HaveSameProperties(GraphicStruct* a, GraphicStruct* b) {
+    return std::all_of(AllProperties().begin(), AllProperties().end(), [&](const PropertyInfo& property) {
+        if (property.form == kFormWhole)
+            return ReadProperty<uint32_t>(a, property.name) == ReadProperty<uint32_t>(b, property.name);
+        if (property.form == kFormReal)
+            return ReadProperty<double>(a, property.name) == ReadProperty<double>(b, property.name);
+        return ReadProperty<std::string>(a, property.name) == ReadProperty<std::string>(b, property.name);
+    });
+}
+
 uint16_t StyleOf(GraphicStruct* graphic) {
     return ReadProperty<uint16_t>(graphic, kPropStyleTree).value_or(0);
 }
@@ -88,7 +98,10 @@ struct Samples {
 
 } // namespace
 
-StyleBook::StyleBook(DrawingStruct* drawing) : m_drawing(drawing), m_current(Any()) {}
+StyleBook::StyleBook(DrawingStruct* drawing) : m_drawing(drawing), m_current(Any()) {
+    for (const uint16_t id : All())
+        m_parts[id] = {true, true, true};
+}
 
 TableStruct* StyleBook::Table() const {
     return ::BlocksFromDrawing(m_drawing);
@@ -152,11 +165,6 @@ StyleBook::Examples StyleBook::ExamplesOf(const std::vector<GraphicStruct*>& gra
     return {first(kPropPenWidth), first(kPropBrushStyle), first(kPropTextFont)};
 }
 
-StyleBook::Parts StyleBook::PartsOf(uint16_t id) const {
-    const auto known = m_parts.find(id);
-    return known != m_parts.end() ? known->second : Parts{true, true, true};
-}
-
 StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics) {
     const Examples examples = ExamplesOf(graphics);
     return {examples.pen != nullptr, examples.brush != nullptr, examples.text != nullptr};
@@ -198,10 +206,37 @@ void StyleBook::Enter(uint16_t id, Parts parts) {
 
 bool StyleBook::Delete(uint16_t id) {
     if (Uses(id) > 0) return false;
+    Remove(id);
+    return true;
+}
+
+void StyleBook::Remove(uint16_t id) {
+    m_formerNumbers[id] = Name(id);
     ::BlockDispose(Table(), id);
     m_parts.erase(id);
     if (m_current == id) m_current = Any();
-    return true;
+}
+
+uint16_t StyleBook::Find(const std::string& name) const {
+    const uint16_t id = ::BlocksFindBlock(Table(), name.c_str());
+    return IsStyle(id) ? id : 0;
+}
+
+void StyleBook::AddAgain(const std::string& name, GraphicStruct* copy, Parts parts) {
+    OwnedGraphic content(::GraphicCopyEx(copy, 0, 0, 7));
+    const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content.get());
+    if (!id) return;
+    content.release(); // the table's now
+    Enter(id, parts);
+}
+
+void StyleBook::RenumberGraphics() const {
+    if (m_formerNumbers.empty()) return;
+    for (GraphicStruct* graphic : Members(::DrawingGetRoot(m_drawing))) {
+        const auto former = m_formerNumbers.find(StyleOf(graphic));
+        if (former == m_formerNumbers.end()) continue;
+        if (const uint16_t id = Find(former->second)) WriteProperty(graphic, kPropStyleTree, id);
+    }
 }
 
 OwnedGraphic StyleBook::Copy(uint16_t id) const {
@@ -214,6 +249,11 @@ void StyleBook::Restore(uint16_t id, GraphicStruct* copy) {
         CopyProperty(from.shape, to.shape, property);
         CopyProperty(from.text, to.text, property);
     }
+}
+
+bool StyleBook::HasContent(uint16_t id, GraphicStruct* copy) const {
+    const Samples a(copy), b(Content(id));
+    return HaveSameProperties(a.shape, b.shape) && HaveSameProperties(a.text, b.text);
 }
 
 void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const {

@@ -51,18 +51,28 @@ public:
     uint16_t TakeAdded();
     // False, with nothing changed, if graphics use it.
     bool Delete(uint16_t id);
-    // Its contents as they are now, and what puts them back.
+    // Returns a copy of its contents, what restores them, and whether they are still the same.
     orlo::host::OwnedGraphic Copy(uint16_t id) const;
     void Restore(uint16_t id, GraphicStruct* copy);
+    bool HasContent(uint16_t id, GraphicStruct* copy) const;
+
+    // For undo, which restores styles by their names.
+    uint16_t Find(const std::string& name) const; // 0: there is no such style
+    Parts PartsOf(uint16_t id) const { return m_parts.at(id); }
+    void Remove(uint16_t id);
+    // Adds a style that has been removed. Its identifier is a new one: RenumberGraphics gives it to graphics that undo has put
+    // into the style under a former one.
+    void AddAgain(const std::string& name, GraphicStruct* copy, Parts parts);
+    void RenumberGraphics() const;
     // Gives the graphics the current style's parts.
     void ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const;
 
 private:
     uint16_t Any() const; // 0 without one
     void Enter(uint16_t id, Parts parts);
-    Parts PartsOf(uint16_t id) const; // of a style that was in the file: all
 
     DrawingStruct* m_drawing;
-    std::map<uint16_t, Parts> m_parts;
+    std::map<uint16_t, Parts> m_parts;               // of a style that was in the file: all
+    std::map<uint16_t, std::string> m_formerNumbers; // of styles that have been removed, with their names
     uint16_t m_current;
 };

@@ -4,6 +4,7 @@
 
 #include "demo/viewer/document.h"
 #include "demo/viewer/property_sheet.h"
+#include "demo/viewer/style_states.h"
 #include "demo/viewer/style_wizard.h"
 #include "orlo/host/owners.h"
 #include "orlo/host/words.h"
@@ -22,7 +23,7 @@ uint16_t StyleIn(const Document& document, int code, int kind) {
     return document.Styles().IsStyle(static_cast<uint16_t>(id)) ? static_cast<uint16_t>(id) : 0;
 }
 
-// Undo knows no styles: Cancel puts back a copy that was taken before. The code is RunSheet's.
+// The database does not record changes of styles: Cancel restores a copy that was taken before. The code is RunSheet's.
 int EditStyle(CWnd* owner, Document& document, uint16_t style) {
     StyleBook& styles = document.Styles();
     const orlo::host::OwnedGraphic copy = styles.Copy(style);
@@ -45,14 +46,8 @@ std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
     return "Style " + name + " deleted";
 }
 
-} // namespace
-
-std::string NewStyle(CWnd* owner, Document& document) {
-    if (!MakeStyleByWizard(owner, document)) return "";
-    return "New style " + Quoted(document, document.Styles().Current());
-}
-
-std::string EditStyles(CWnd* owner, Document& document) {
+// The last sheet's outcome.
+std::string EditUntilClosed(CWnd* owner, Document& document) {
     StyleBook& styles = document.Styles();
     for (;;) {
         const int code = EditStyle(owner, document, styles.Current());
@@ -69,6 +64,22 @@ std::string EditStyles(CWnd* owner, Document& document) {
             return code == IDOK ? "Current style: " + Quoted(document, styles.Current()) : "";
         }
     }
+}
+
+} // namespace
+
+std::string NewStyle(CWnd* owner, Document& document) {
+    StyleStates before(document.Styles());
+    if (!MakeStyleByWizard(owner, document)) return "";
+    document.Record(StyleStates::ChangeSince(std::move(before)));
+    return "New style " + Quoted(document, document.Styles().Current());
+}
+
+std::string EditStyles(CWnd* owner, Document& document) {
+    StyleStates before(document.Styles());
+    const std::string outcome = EditUntilClosed(owner, document);
+    document.Record(StyleStates::ChangeSince(std::move(before)));
+    return outcome;
 }
 
 std::string ApplyStyle(Document& document) {

@@ -1,8 +1,14 @@
 // The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it back.
 
+#include <commctrl.h>
+
 #include "demo/automation/control_text.h"
 #include "demo/viewer.h"
 #include "demo/viewer/resource.h"
+#include "drawcore/layer.h"
+#include "drawcore/table.h"
+#include "orlo/host/drawing.h"
+#include "orlo/win/gdi.h"
 
 namespace {
 
@@ -66,6 +72,78 @@ TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
         }
         user.Key(VK_ESCAPE);
     });
+}
+
+TEST_F(Layers, AreSortedByTheirTitlesAndFoundByPartsOfTheirNames) {
+    const auto clickTitle = [&](HWND dialog, int column) {
+        const HWND header =
+            reinterpret_cast<HWND>(::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETHEADER, 0, 0));
+        CRect place;
+        ::SendMessageA(header, HDM_GETITEMRECT, static_cast<WPARAM>(column),
+                       reinterpret_cast<LPARAM>(&place));
+        user.Click(header, place.CenterPoint());
+    };
+    const auto names = [&](HWND dialog) {
+        std::string text;
+        const LRESULT count = ::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETITEMCOUNT, 0, 0);
+        for (int row = 0; row < count; ++row)
+            text += Cell(dialog, row, 0) + ";";
+        return text;
+    };
+    InDialog([&](HWND dialog) {
+        EXPECT_EQ(Cell(dialog, 0, 5), "White");
+        user.Mnemonic('k'); // locks "0"
+        clickTitle(dialog, 4);
+        EXPECT_EQ(names(dialog), "A & B;0;") << "1 and 3 graphics";
+        EXPECT_EQ(Box(dialog, IDC_LAYER_LOCKED), BST_CHECKED) << "the chosen layer stays";
+        clickTitle(dialog, 4);
+        EXPECT_EQ(names(dialog), "0;A & B;");
+        clickTitle(dialog, 0);
+        user.Mnemonic('i');
+        user.Type("& b");
+        EXPECT_EQ(names(dialog), "A & B;");
+        EXPECT_EQ(Box(dialog, IDC_LAYER_LOCKED), BST_UNCHECKED);
+        user.Mnemonic('o');
+        EXPECT_EQ(Row(dialog, 0), "A & B - - - 1");
+        user.Mnemonic('i'); // with all of its text chosen
+        user.Type("\b");
+        EXPECT_EQ(names(dialog), "0;A & B;");
+        user.Key(VK_RETURN);
+    });
+    EXPECT_EQ(SelectAll(), 0) << "one layer is locked, one is off";
+}
+
+// The color stands in the cell, as its background.
+TEST_F(Layers, ShowTheirColors) {
+    ::LayerSet(document().Drawing(), 1, RGB(255, 0, 0), 0, 0);
+    InDialog([&](HWND dialog) {
+        const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
+        EXPECT_EQ(Cell(dialog, 0, 5), "Red");
+        ListView_SetItemState(list, -1, 0, LVIS_SELECTED);
+        ::UpdateWindow(list);
+        RECT cell = {LVIR_BOUNDS, 5, 0, 0};
+        ::SendMessageA(list, LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
+        EXPECT_EQ(::GetPixel(orlo::WindowDC(list).get(), cell.right - 3, (cell.top + cell.bottom) / 2),
+                  RGB(255, 0, 0));
+        user.Key(VK_ESCAPE);
+    });
+}
+
+TEST_F(Layers, ThousandsCanBeChangedAtOnce) {
+    TableStruct* layers = ::DrawingGetTable(document().Drawing(), kTableLayers);
+    for (int i = 0; i < 3000; ++i)
+        ::TableEntryAdd(layers, ("Layer " + std::to_string(i)).c_str(), nullptr);
+    InDialog([&](HWND dialog) {
+        const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
+        EXPECT_EQ(::SendMessageA(list, LVM_GETITEMCOUNT, 0, 0), 3002);
+        ListView_SetItemState(list, -1, LVIS_SELECTED, LVIS_SELECTED);
+        user.Wait(0);
+        user.Mnemonic('f');
+        EXPECT_EQ(Cell(dialog, 3001, 2), "yes");
+        user.Key(VK_RETURN);
+    });
+    user.Key('Z', UserInput::kControl);
+    EXPECT_EQ(SelectAll(), 4);
 }
 
 TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {

@@ -5,6 +5,7 @@
 
 #include <shlobj.h>
 
+#include "demo/automation/control_text.h"
 #include "demo/viewer.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/recent_files.h"
@@ -116,6 +117,23 @@ TEST_F(Viewer, MissingFileIsSaidOnce) {
     MessageBoxWatcher boxes;
     EXPECT_FALSE(frame->Open("no such file.dxf"));
     EXPECT_NE(std::string::npos, boxes.OnlyText().find("no such file.dxf"));
+}
+
+TEST_F(Viewer, AllWarningsOfAFileCanBeRead) {
+    std::string content = "0\nSECTION\n2\nENTITIES\n";
+    for (int i = 0; i < 12; ++i)
+        content += "0\nODDITY" + std::to_string(i) + "\n8\n0\n";
+    const DrawingFile odd((content + "0\nENDSEC\n0\nEOF\n").c_str());
+    ASSERT_TRUE(frame->Open(odd.Path()));
+    const std::vector<std::string> warnings = document().Findings();
+    ASSERT_GT(warnings.size(), 1u);
+    user.InDialog([&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_WARNINGS, 0); },
+                  [&](HWND dialog) {
+                      const std::string text = WindowText(::GetDlgItem(dialog, IDC_WARNINGS));
+                      for (const std::string& warning : warnings)
+                          EXPECT_NE(text.find(warning + "\r\n"), std::string::npos) << warning;
+                      user.Key(VK_RETURN);
+                  });
 }
 
 TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
@@ -285,6 +303,19 @@ TEST_F(Saving, UnsavedChangesAreAskedFor) {
     EXPECT_TRUE(::IsWindow(window));
     EXPECT_FALSE(::SendMessageA(window, WM_QUERYENDSESSION, 0, 0));
     EXPECT_EQ(other.Read(), content);
+}
+
+TEST_F(Saving, TheButtonsSayWhatBecomesOfTheChanges) {
+    Widen(0.5);
+    user.InDialog([&] { ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0); },
+                  [&](HWND box) {
+                      EXPECT_EQ(WindowText(::GetDlgItem(box, IDYES)), "&Save");
+                      EXPECT_EQ(WindowText(::GetDlgItem(box, IDNO)), "Do&n't Save");
+                      EXPECT_NE(::GetDlgItem(box, IDCANCEL), nullptr);
+                      ::PostMessageA(box, WM_COMMAND, IDCANCEL, 0);
+                  });
+    EXPECT_TRUE(document().IsModified());
+    Save();
 }
 
 TEST_F(Saving, AFileThatChangedMeanwhileIsAskedFor) {

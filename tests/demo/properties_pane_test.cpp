@@ -227,6 +227,11 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x no");
     EXPECT_EQ(tip(control(IDC_JUSTIFY_CENTER)), "Justification: 1 x Left");
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 4");
+    ::SetFocus(control(IDC_FONT_SIZE));
+    ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
+    user.Type("5");
+    user.Key(VK_RETURN);
+    EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 5") << "the pointer has not moved since";
 }
 
 TEST_F(Pane, ItsPreviewKnowsTheColourOfTheLayer) {

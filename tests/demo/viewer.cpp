@@ -7,6 +7,7 @@
 
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/memory_picture.h"
+#include "demo/viewer/settings.h"
 #include "orlo/entry/entry.h"
 
 namespace {
@@ -48,6 +49,8 @@ std::string DrawingFile::Read() const {
 
 Viewer::Viewer() : frame(new CMainFrame), file(kDrawing) {
     ::PropPageInit();
+    Settings::UseKey(L"Software\\Orlo\\Demo Tests");
+    Settings::DeleteAll();
     if (!frame->Create()) throw std::runtime_error("no window");
     AfxGetThread()->m_pMainWnd = frame;
     frame->ShowWindow(SW_SHOW);
@@ -60,6 +63,7 @@ Viewer::~Viewer() {
     frame->DestroyWindow();
     AfxGetThread()->m_pMainWnd = nullptr;
     user.Wait(0);
+    Settings::DeleteAll();
 }
 
 void Viewer::Drag(WorldPoint from, WorldPoint to, unsigned modifiers) {
