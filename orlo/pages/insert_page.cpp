@@ -16,6 +16,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/loaded_controls.h"
 #include "orlo/frame/sheet_objects.h"
+#include "orlo/host/units.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
 #include "orlo/pages/insert_preview.h"
@@ -155,13 +156,38 @@ void* CInsertPage::CreatePreviewGraphic() {
     return m_preview.NewInsertion(CurrentDrawing());
 }
 
+// A number with more after it in a rotation, as "12d" on the way to "12d30", is judged when the field is left.
+bool CInsertPage::IsTyped(const Field& field) const {
+    const CString text = WindowText(::GetDlgItem(m_hWnd, static_cast<int>(field.nID)));
+    if (IsBeginningOfReal(text)) return false;
+    float number = 0;
+    if (field.limit != 0 || !HasFocus(field) || ScanRealText(text, number)) return true;
+    char* end = nullptr;
+    ::StringToDouble(0, text, &end);
+    return end == static_cast<const char*>(text);
+}
+
+bool CInsertPage::HasFocus(const Field& field) const {
+    return ::GetFocus() == ::GetDlgItem(m_hWnd, static_cast<int>(field.nID));
+}
+
+// Only for another field of the page: the buttons of the sheet judge all fields, or none.
+BOOL CInsertPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const BOOL result = CGraphicPropertyPage::OnCommand(wParam, lParam);
+    if (HIWORD(wParam) != EN_KILLFOCUS || !::IsChild(m_hWnd, ::GetFocus())) return result;
+    for (const Field& field : kFields) {
+        if (field.nID != LOWORD(wParam) || field.limit != 0 || !GetControlStatus(field.nID)) continue;
+        CDataExchange dx(this, TRUE);
+        if (IsTyped(field)) ExchangeField(&dx, field);
+    }
+    return result;
+}
+
 void CInsertPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CDataExchange dx(this, TRUE);
     for (const Field& field : kFields)
-        if ((bAll || GetControlStatus(field.nID)) &&
-            !IsBeginningOfReal(WindowText(::GetDlgItem(m_hWnd, static_cast<int>(field.nID)))))
-            ExchangeField(&dx, field);
+        if ((bAll || GetControlStatus(field.nID)) && IsTyped(field)) ExchangeField(&dx, field);
     ApplyInsertParts(1);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

@@ -21,7 +21,8 @@ public:
     BOOL OnInitDialog() override;
     // Creates an insertion of a pyramid with lettered axes, a block of the current drawing for as long as a page uses it.
     void* CreatePreviewGraphic() override;
-    // Reports at once a text that is not a number or out of range, but waits while it may still become one: "", "-", ".", "1e".
+    // Reports at once a text that is not a number or out of range, but waits while it may still become one: "", "-", ".", "1e";
+    // a rotation that begins with a number, as "12d30", is reported when its field is left.
     void SetPreviewProperties(int bAll) override;
 
     // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
@@ -30,11 +31,16 @@ public:
     // in the selection, where the user has not edited the control.
     void ApplyInsertParts(int bPreview);
 
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
 private:
     struct Field;
     static const Field kFields[9];
 
     void ExchangeField(CDataExchange* pDX, const Field& field);
+    bool IsTyped(const Field& field) const;
+    bool HasFocus(const Field& field) const;
 
     double m_dScaleX, m_dScaleY, m_dScaleZ;
     double m_dRotateX, m_dRotateY, m_dRotateZ; // radians

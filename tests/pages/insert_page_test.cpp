@@ -206,6 +206,30 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     EXPECT_EQ(1234570, Parts(1).position[0]);
 }
 
+// "12d" alone would be reported before the rest of "12d30" is typed.
+TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft) {
+    AddDiffering();
+    const Vertices before = All();
+    Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        MessageBoxWatcher boxes;
+        user.Type(IDC_ROTATION_X, "12d30");
+        EXPECT_TRUE(boxes.Boxes().empty());
+        EXPECT_EQ("12d30", user.Text(IDC_ROTATION_X));
+        user.Key(VK_TAB);
+        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(user.Control(IDC_ROTATION_X), ::GetFocus());
+        EXPECT_EQ("12d30", user.Text(IDC_ROTATION_X));
+        boxes.Clear();
+        user.Ok();
+        EXPECT_EQ(1u, boxes.Boxes().size());
+        user.Type(IDC_ROTATION_X, "12.5");
+        user.Key(VK_TAB);
+        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(user.Control(IDC_ROTATION_Y), ::GetFocus());
+    });
+    EXPECT_EQ(before, All());
+}
+
 // An existing preview block is used; the page takes it out nevertheless.
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     AddDiffering();
