@@ -9,7 +9,9 @@ function(orlo_compile_options target)
                          $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
   if(WIN32)
     target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
-    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-gdwarf-4>)
+    # Line tables only: enough for backtraces, and variables take up to half of a compilation. Wine's debugger needs
+    # DWARF 4.
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:SHELL:-gdwarf-4 -g1>)
   endif()
 endfunction()
 
