@@ -17,10 +17,11 @@ namespace {
 
 constexpr double kInch = 25.4, kRadiansPerDegree = 0.017453292519943295;
 
-enum class Action { Nothing, Undo, Retype, Apply, ApplyTwice, LeaveAndReturn, Cancel, ApplyAnother };
-constexpr Action kActions[] = {Action::Nothing, Action::Undo,        Action::Retype,
-                               Action::Apply,   Action::ApplyTwice,  Action::LeaveAndReturn,
-                               Action::Cancel,  Action::ApplyAnother};
+// What happens to a field, and how the sheet, or the pane, goes on.
+enum class Touch { None, Changed, Undone, Retyped };
+enum class Ending { Ok, Apply, ApplyTwice, LeaveAndReturn, Cancel };
+constexpr Ending kEndings[] = {Ending::Ok, Ending::Apply, Ending::ApplyTwice, Ending::LeaveAndReturn,
+                               Ending::Cancel};
 
 using Host = DrawingStruct*;
 
@@ -89,7 +90,6 @@ struct ChoiceField {
 const ChoiceField kChoices[] = {{IDD_GENERAL_PAGE, IDC_LAYER, kPropLayer},
                                 {IDD_PEN_PAGE, IDC_COLOR, kPropPenColor},
                                 {IDD_PEN_PAGE, IDC_LINE_STYLE_LIST, kPropPenStyle},
-                                {IDD_PEN_PAGE, IDC_SCALE_SYSTEM, kPropScaleSystem},
                                 {IDD_PEN_PAGE, IDC_PEN_ALIGNMENT, kPropPenAlignment},
                                 {IDD_BRUSH_PAGE, IDC_BRUSH_COLOR, kPropBrushColor},
                                 {IDD_BRUSH_PAGE, IDC_BRUSH_STYLE_LIST, kPropBrushStyle},
@@ -106,8 +106,6 @@ const ChoiceField kChoices[] = {{IDD_GENERAL_PAGE, IDC_LAYER, kPropLayer},
                                 {IDD_TEXT_PAGE, IDC_TEXT_BOX, kPropTextStyle},
                                 {IDD_TEXT_PAGE, IDC_JUSTIFY_LEFT, kPropTextFormat},
                                 {IDD_TEXT_PAGE, IDC_JUSTIFY_RIGHT, kPropTextFormat}};
-
-using Bits = std::vector<uint64_t>; // of every number of every graphic
 
 uint64_t BitsOf(double value) {
     uint64_t bits;
@@ -206,20 +204,6 @@ protected:
                                          : kGraphicPenBrush;
     }
 
-    // Everything but that property, or every number of insertions.
-    Bits State(const std::string& except) const {
-        Bits bits;
-        for (size_t i = 0; i < kit->Size(); ++i) {
-            for (const auto& [name, value] : (*kit)[i].properties) {
-                if (name == except) continue;
-                bits.push_back(BitsOf(value.number));
-                bits.push_back(std::hash<std::string>()(value.text));
-            }
-            for (const double number : Corners(i))
-                bits.push_back(BitsOf(number));
-        }
-        return bits;
-    }
     std::vector<double> Corners(size_t i) const {
         std::vector<double> numbers;
         if ((*kit)[i].graphic->bType == kGraphicInsert)
@@ -227,16 +211,17 @@ protected:
                 numbers.insert(numbers.end(), {v->x, v->y, v->z});
         return numbers;
     }
-    // The corners of insertion i with another part.
-    std::vector<double> CornersWith(size_t i, const NumberField& field, double part) {
+    // The corners of insertion i with other parts.
+    std::vector<double> CornersWith(size_t i, const std::map<const NumberField*, double>& changed) {
         GraphicStruct* const graphic = (*kit)[i].graphic;
         const std::vector<double> before = Corners(i);
         InsertParts from{};
-        ReadInsertParts(graphic, from);
+        if (changed.empty() || !ReadInsertParts(graphic, from)) return before;
         InsertParts to = from;
-        (to.*field.group)[field.axis] = part;
+        for (const auto& [field, part] : changed)
+            if (!field->property) (to.*field->group)[field->axis] = part;
         ChangeInsertParts(graphic, from, to);
-        std::vector<double> after = Corners(i);
+        const std::vector<double> after = Corners(i);
         size_t at = 0;
         for (VertexStruct* v : orlo::host::Vertices(graphic)) {
             ::VertexSet(v, before[at], before[at + 1], before[at + 2]);
@@ -246,15 +231,19 @@ protected:
     }
 
     int Run(unsigned int id, const std::function<void(SheetDriver&, CGraphicPropertyPage&)>& script) {
+        ::SetCursorPos(0, 0);          // a list that opens below the pointer selects what is there
+        const MessageBoxWatcher boxes; // none that waits for a user
         TestSheet sheet(*kit);
         for (size_t i = 0; i < kit->Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, (*kit)[i].graphic, &sheet.Sheet());
-        return sheet.Run([&](SheetDriver& user) {
+        const int result = sheet.Run([&](SheetDriver& user) {
             auto* page = sheet.Sheet().FindPage(id);
             ASSERT_NE(nullptr, page);
             sheet.Sheet().SetActivePage(page);
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
+        EXPECT_TRUE(boxes.Boxes().empty());
+        return result;
     }
 
     // As a pane does: writes, and loads what was written.
@@ -265,22 +254,14 @@ protected:
         page.UpdateData(FALSE);
         page.SetModified(FALSE);
     }
-    // A control of the page besides the one that is edited, its property, and a change of it.
-    static const char* ChangeAnother(SheetDriver& user, unsigned int page) {
-        switch (page) {
-        case IDD_PEN_PAGE:
-            user.Click(IDC_PEN_ALIGNMENT);
-            return kPropPenAlignment;
-        case IDD_BRUSH_PAGE:
-            user.Click(IDC_DRAW_WINDING);
-            return kPropBrushDrawMode;
-        case IDD_TEXT_PAGE:
-            user.Click(IDC_JUSTIFY_CENTER);
-            return kPropTextFormat;
-        default:
-            return "";
-        }
+    // The text at once: "*" alone is reported by a page that follows each key.
+    static void Paste(SheetDriver& user, int control, const std::string& text) {
+        user.Focus(control);
+        ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
+        ::SendMessageA(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+        user.Pump();
     }
+    static void GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending);
     static void LeaveAndReturn(SheetDriver& user) {
         const int page = user.ActivePage();
         user.SelectPage(page ? 0 : 1);
@@ -292,139 +273,136 @@ protected:
     std::unique_ptr<HostFrame> frame;
 };
 
-bool IsTakenBack(Action action) {
-    return action == Action::Undo || action == Action::Retype || action == Action::Cancel ||
-           action == Action::ApplyAnother;
+// Leaves a control as it was: a list that is opened is closed by Return, or walked through and closed by Escape; in another one
+// the first item is chosen again; a button is clicked until it is as it was. False if there is no way back.
+bool TakeBack(SheetDriver& user, int control, int first, bool walk) {
+    if (::SendMessageA(user.Control(control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
+        for (int i = 0; i < 3 && user.Check(control) != first; ++i)
+            user.Click(control);
+        return user.Check(control) == first;
+    }
+    if (first >= 0) user.Choose(control, first);
+    if (!user.IsCombo(control)) return first >= 0;
+    if (first < 0) return false;
+    user.Key(VK_F4);
+    for (int i = 0; walk && i < 2; ++i)
+        user.Key(VK_DOWN);
+    user.Key(walk ? VK_ESCAPE : VK_RETURN);
+    return true;
 }
 
-TEST_F(Edits, StoreWhatWasTypedOrLeaveTheLastBit) {
-    for (int round = 0; round < 2; ++round)
-        for (const NumberField& field : kNumbers)
-            for (const Action action : kActions) {
-                MakeSelection(field.page);
-                std::string typed = TypedNumber(field), first, another;
-                SCOPED_TRACE(std::to_string(field.page) + " " + std::to_string(field.control) + " " + typed +
-                             " " + std::to_string(static_cast<int>(action)));
-                const std::string own = field.property ? field.property : "";
-                std::vector<double> stored;
-                std::vector<std::vector<double>> expected;
-                for (size_t i = 0; i < kit->Size(); ++i) {
-                    const double number = field.read(kit->Drawing(), typed.c_str());
-                    if (field.property)
-                        stored.push_back((*kit)[i].Number(own));
-                    else
-                        expected.push_back(IsTakenBack(action) ? Corners(i) : CornersWith(i, field, number));
+void Edits::GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending) {
+    switch (ending) {
+    case Ending::ApplyTwice:
+        Apply(page);
+        [[fallthrough]];
+    case Ending::Apply:
+        Apply(page);
+        break;
+    case Ending::LeaveAndReturn:
+        LeaveAndReturn(user);
+        break;
+    case Ending::Cancel:
+        user.Cancel();
+        return;
+    case Ending::Ok:
+        break;
+    }
+    user.Ok();
+}
+
+// Some fields of a page are typed into, some of these are undone or typed back; some lists and buttons are used and put back.
+TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
+    constexpr unsigned int kPages[] = {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE,
+                                       IDD_INSERT_PAGE};
+    for (int n = 0; n < static_cast<int>(std::size(kPages) * std::size(kEndings)); ++n) {
+        const unsigned int id = kPages[static_cast<size_t>(n) % std::size(kPages)];
+        const Ending ending = kEndings[static_cast<size_t>(n) / std::size(kPages) % std::size(kEndings)];
+        SCOPED_TRACE(std::to_string(id) + " " + std::to_string(static_cast<int>(ending)));
+        MakeSelection(id);
+        std::map<const NumberField*, double> changed;
+        std::set<std::string> chosen;
+        std::string log, info;
+        std::vector<std::map<std::string, KitValue>> before;
+        std::vector<std::vector<double>> corners;
+        for (size_t i = 0; i < kit->Size(); ++i)
+            before.push_back((*kit)[i].properties);
+        Run(id, [&](SheetDriver& user, CGraphicPropertyPage& page) {
+            for (const NumberField& field : kNumbers) {
+                const auto touch = static_cast<Touch>(Below(4));
+                if (field.page != id || touch == Touch::None) continue;
+                const std::string first = user.Text(field.control), typed = TypedNumber(field);
+                log += std::to_string(field.control) + " " + typed + "; ";
+                user.Type(field.control, typed);
+                if (touch == Touch::Changed) {
+                    changed[&field] = field.read(kit->Drawing(), typed.c_str());
+                    continue;
                 }
-                const Bits before = State(own);
-                Run(field.page, [&](SheetDriver& user, CGraphicPropertyPage& page) {
-                    first = user.Text(field.control);
-                    if (action != Action::ApplyAnother) user.Type(field.control, typed);
-                    switch (action) {
-                    case Action::Undo:
-                        ::SendMessageA(::GetFocus(), WM_UNDO, 0, 0);
-                        user.Pump();
-                        if (user.Text(field.control) == first) break;
-                        [[fallthrough]];
-                    case Action::Retype:
-                        user.Type(field.control, "");
-                        user.Type(field.control, first);
-                        break;
-                    case Action::ApplyTwice:
-                        Apply(page);
-                        [[fallthrough]];
-                    case Action::Apply:
-                        Apply(page);
-                        break;
-                    case Action::ApplyAnother:
-                        another = ChangeAnother(user, field.page);
-                        Apply(page);
-                        Apply(page);
-                        break;
-                    case Action::LeaveAndReturn:
-                        LeaveAndReturn(user);
-                        break;
-                    case Action::Nothing:
-                    case Action::Cancel:
-                        break;
-                    }
-                    action == Action::Cancel ? user.Cancel() : user.Ok();
-                });
-                const bool unchanged = IsTakenBack(action) || typed == first;
-                for (size_t i = 0; i < kit->Size(); ++i) {
-                    if (!field.property) {
-                        EXPECT_EQ(expected[i], Corners(i));
-                        continue;
-                    }
-                    const double number = field.read(kit->Drawing(), typed.c_str());
-                    EXPECT_EQ(BitsOf(unchanged ? stored[i] : number), BitsOf((*kit)[i].Number(own)))
-                        << stored[i] << " " << number << " " << (*kit)[i].Number(own);
-                }
-                if (field.property && another.empty()) EXPECT_EQ(before, State(own));
+                if (touch == Touch::Undone) ::SendMessageA(::GetFocus(), WM_UNDO, 0, 0);
+                if (user.Text(field.control) != first) Paste(user, field.control, first);
             }
+            for (const ChoiceField& field : kChoices) {
+                const auto touch = static_cast<Touch>(Below(4));
+                if (field.page != id || touch == Touch::None) continue;
+                const bool button =
+                    ::SendMessageA(user.Control(field.control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
+                const int first = button ? user.Check(field.control) : user.Selection(field.control);
+                log += std::to_string(field.control) + "; ";
+                button ? user.Click(field.control) : user.Choose(field.control, first == 1 ? 0 : 1);
+                if (touch == Touch::Changed || !TakeBack(user, field.control, first, touch == Touch::Undone))
+                    chosen.insert(field.property);
+            }
+            if (id == IDD_GENERAL_PAGE && Below(2)) user.Type(IDC_INFO, info = "ash");
+            if (ending == Ending::Cancel) {
+                changed.clear();
+                chosen.clear();
+                info.clear();
+            }
+            for (size_t i = 0; i < kit->Size(); ++i)
+                corners.push_back(CornersWith(i, changed));
+            GoOn(user, page, ending);
+        });
+        SCOPED_TRACE(log);
+        for (size_t i = 0; i < kit->Size(); ++i) {
+            EXPECT_EQ(corners[i], Corners(i));
+            for (const auto& [field, number] : changed)
+                if (field->property) before[i][field->property] = number;
+            if (!info.empty()) before[i][kPropInfo] = info.c_str();
+            for (const auto& [name, value] : before[i]) {
+                if (chosen.count(name)) continue;
+                EXPECT_EQ(BitsOf(value.number), BitsOf((*kit)[i].Number(name)))
+                    << name << " " << value.number << " " << (*kit)[i].Number(name);
+                EXPECT_EQ(value.text, (*kit)[i].Text(name)) << name;
+            }
+        }
+    }
 }
 
-// Chosen and chosen back, by keys in lists and clicks on buttons.
-TEST_F(Edits, ChooseForAllOrLeaveEachAsItWas) {
-    for (const ChoiceField& field : kChoices)
-        for (const Action action : kActions) {
-            MakeSelection(field.page);
-            SCOPED_TRACE(std::to_string(field.page) + " " + std::to_string(field.control) + " " +
-                         std::to_string(static_cast<int>(action)));
-            const Bits before = State(field.property), all = State("");
-            bool back = action == Action::Cancel || action == Action::ApplyAnother;
-            std::string another;
-            Run(field.page, [&](SheetDriver& user, CGraphicPropertyPage& page) {
-                const HWND control = user.Control(field.control);
-                const bool button = ::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
-                const int first = button ? user.Check(field.control) : user.Selection(field.control);
-                const auto choose = [&] {
-                    if (button)
-                        user.Click(field.control);
-                    else if (user.Selection(field.control) == 1)
-                        user.Choose(field.control, 0);
-                    else
-                        user.Choose(field.control, 1);
-                };
-                if (action != Action::ApplyAnother) choose();
-                switch (action) {
-                case Action::Undo: // the list is opened, walked through, and left by Escape
-                case Action::Retype:
-                    if (button) {
-                        for (int i = 0; i < 3 && user.Check(field.control) != first; ++i)
-                            choose();
-                        back = user.Check(field.control) == first;
-                    } else if (action == Action::Undo && first >= 0) {
-                        user.Choose(field.control, first);
-                        back = true;
-                    }
-                    break;
-                case Action::ApplyTwice:
-                    Apply(page);
-                    [[fallthrough]];
-                case Action::Apply:
-                    Apply(page);
-                    break;
-                case Action::ApplyAnother:
-                    another = ChangeAnother(user, field.page);
-                    Apply(page);
-                    Apply(page);
-                    break;
-                case Action::LeaveAndReturn:
-                    LeaveAndReturn(user);
-                    break;
-                case Action::Nothing:
-                case Action::Cancel:
-                    break;
+// Lists that show no choice, since the graphics differ, are opened and closed.
+TEST_F(Edits, AListThatWasOpenedAndClosedChoosesNothing) {
+    for (const unsigned int id : {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE})
+        for (const bool walk : {false, true}) {
+            MakeSelection(id);
+            for (const ChoiceField& field : kChoices)
+                for (size_t i = 0; i < kit->Size(); ++i) {
+                    KitValue& value = (*kit)[i].properties[field.property];
+                    if (field.property != std::string(kPropBrushStyle)) value.number = i ? 200 : 100;
+                    value.text = i ? "DejaVu Serif" : "No Such Font";
                 }
-                action == Action::Cancel ? user.Cancel() : user.Ok();
+            Run(id, [&](SheetDriver& user, CGraphicPropertyPage&) {
+                for (const ChoiceField& field : kChoices) {
+                    if (field.page != id || !user.IsCombo(field.control)) continue;
+                    user.Focus(field.control);
+                    user.Key(VK_F4);
+                    for (int i = 0; walk && i < 2; ++i)
+                        user.Key(VK_DOWN);
+                    user.Key(walk ? VK_ESCAPE : VK_RETURN);
+                }
+                user.Ok();
             });
-            if (another.empty()) EXPECT_EQ(before, State(field.property));
-            if (back && another.empty()) EXPECT_EQ(all, State(""));
-            if (back && another != field.property)
-                for (size_t i = 0; i < kit->Size(); ++i)
-                    EXPECT_EQ(0, std::count_if(
-                                     (*kit)[i].writes.begin(), (*kit)[i].writes.end(),
-                                     [&](const KitWrite& write) { return write.name == field.property; }));
+            for (size_t i = 0; i < kit->Size(); ++i)
+                for (const KitWrite& write : (*kit)[i].writes)
+                    ADD_FAILURE() << id << (walk ? " walk " : " ") << write.name;
         }
 }
 
