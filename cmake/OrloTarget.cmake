@@ -61,6 +61,24 @@ endfunction()
 # Tests are compiled more often than they run: no time is spent on making them fast.
 set(ORLO_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
 
+# The tests of a program again, in what other hosts and users have: common controls 6 (a program with a manifest), a screen of
+# 144 dots per inch, a black color scheme. ONLY_AT_96 and ONLY_ON_WHITE name tests (patterns of GoogleTest) that count pixels there.
+#   orlo_test_elsewhere(controls LIBRARIES ... [ONLY_AT_96 ...] [ONLY_ON_WHITE ...])
+function(orlo_test_elsewhere name)
+  cmake_parse_arguments(arg "" "" "LIBRARIES;ONLY_AT_96;ONLY_ON_WHITE" ${ARGN})
+  list(JOIN arg_ONLY_AT_96 ":" only_at_96)
+  list(JOIN arg_ONLY_ON_WHITE ":" only_on_white)
+  set(themed test_${name}_themed)
+  add_executable(${themed} $<TARGET_OBJECTS:test_${name}> ${PROJECT_SOURCE_DIR}/tests/support/themed.rc)
+  set_target_properties(${themed} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(${themed} PRIVATE ${arg_LIBRARIES} gtest)
+  add_test(NAME ${name}_144 COMMAND test_${name} --dpi=144 --gtest_filter=-${only_at_96})
+  add_test(NAME ${name}_themed COMMAND ${themed})
+  add_test(NAME ${name}_themed_144 COMMAND ${themed} --dpi=144 --gtest_filter=-${only_at_96})
+  add_test(NAME ${name}_black COMMAND ${themed} --scheme=black --gtest_filter=-${only_on_white})
+  set_tests_properties(${name}_144 ${name}_themed ${name}_themed_144 ${name}_black PROPERTIES TIMEOUT 300 RESOURCE_LOCK desktop)
+endfunction()
+
 # A test program: GoogleTest under ctest, one process, one time limit.
 #   orlo_test(NAME binding SOURCES ... LIBRARIES ...)
 function(orlo_test)

@@ -130,6 +130,9 @@ protected:
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
     // Sets the focus to the first control of the active page; without one to the tabs or the default button.
     void FocusActivePage();
+    // Returns the place of a page that is shown, in client coordinates. The default is `before`, the place of the previous
+    // page; an empty rectangle leaves the page where it is.
+    virtual CRect GetPagePlace(const CPropertyPage& page, const CRect& before) const;
 
     // Pixels. Set when the window of the first page is created: 50 x 14, 4 x 4 and 4 of its dialog units.
     CSize m_sizeButton;
@@ -159,8 +162,8 @@ private:
 
     bool LeaveFor(int nPage);
     bool ActivatePage(int nPage);
-    bool ShowFirstPage(const CRect& place);
-    bool ShowPage(int nPage, const CRect& place);
+    bool ShowFirstPage(const CRect& before);
+    bool ShowPage(int nPage, const CRect& before);
     CRect ActivePlace() const; // of the active page, in client coordinates; empty if it has no window
     bool HasFocus(const CPropertyPage* page) const;
     void EnableApplyButton();

@@ -202,16 +202,21 @@ bool CPropertySheet::ShowFirstPage(const CRect& place) {
 }
 
 // False, with m_nCurPage on that page, if the page fails to become active; the caller restores m_nCurPage.
-bool CPropertySheet::ShowPage(int nPage, const CRect& place) {
+bool CPropertySheet::ShowPage(int nPage, const CRect& before) {
     CPropertyPage* page = GetPage(nPage);
     m_nCurPage = nPage;
     if (!AfxGuardedCall([=] { return page->OnSetActive() != FALSE; })) return false;
-    // Before the buttons in the order of the Tab key, and where the page before it was.
+    // Before the buttons in the order of the Tab key.
+    const CRect place = GetPagePlace(*page, before);
     const UINT keep = place.IsRectEmpty() ? SWP_NOMOVE | SWP_NOSIZE : 0;
     ::SetWindowPos(page->m_hWnd, HWND_TOP, place.left, place.top, place.Width(), place.Height(),
                    keep | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     if (m_tabRow.m_hWnd != nullptr) m_tabRow.SetCurSel(nPage);
     return true;
+}
+
+CRect CPropertySheet::GetPagePlace(const CPropertyPage&, const CRect& before) const {
+    return before;
 }
 
 CRect CPropertySheet::ActivePlace() const {

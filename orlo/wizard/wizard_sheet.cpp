@@ -10,6 +10,7 @@
 
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/child_windows.h"
 
 namespace {
 
@@ -68,10 +69,31 @@ bool TakesReturn(MSG& message) {
     return (code & (DLGC_WANTALLKEYS | DLGC_WANTMESSAGE)) != 0;
 }
 
+bool CanBePressed(HWND control) {
+    return IsPushButton(control) && ::IsWindowEnabled(control);
+}
+
 // Whether the message is Return for the default button; a focused button handles it by itself.
 bool IsReturnForDefault(MSG& message) {
-    return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && !IsPushButton(message.hwnd) &&
+    return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && !CanBePressed(message.hwnd) &&
            !TakesReturn(message);
+}
+
+void FramePushButton(HWND button, bool framed) {
+    const LONG type = ::GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK;
+    const LONG wanted = framed ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    if ((type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON) && type != wanted)
+        ::SendMessageA(button, BM_SETSTYLE, static_cast<WPARAM>(wanted), TRUE);
+}
+
+// The place nearest to that one at which a window of that size is on the screen as a whole.
+CPoint PlaceOnScreen(HWND window, CPoint place, CSize size) {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoA(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    const CRect work = monitor.rcWork;
+    return CPoint(std::max(work.left, std::min(place.x, work.right - size.cx)),
+                  std::max(work.top, std::min(place.y, work.bottom - size.cy)));
 }
 
 } // namespace
@@ -91,7 +113,6 @@ ON_COMMAND(kNextId, &CWizardSheet::OnNext)
 ON_COMMAND(IDOK, &CWizardSheet::OnEnter)
 ON_MESSAGE(WM_ACTIVATE, &CWizardSheet::OnActivateMessage)
 ON_MESSAGE(DM_GETDEFID, &CWizardSheet::OnGetDefaultButton)
-ON_MESSAGE(WM_PARENTNOTIFY, &CWizardSheet::OnParentNotify)
 END_MESSAGE_MAP()
 
 CWizardSheet::CWizardSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
@@ -108,14 +129,13 @@ CWizardSheet::~CWizardSheet() = default;
 int CWizardSheet::OnCreate(CREATESTRUCT*) {
     if (!BeginCreate()) return -1;
     TrimSystemMenu();
-    m_sizePages = CSize();
     SetActivePage(m_nCurPage);
     TakePageFont();
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     if (!CreateTabRow(kChildStyle | rows, CRect(0, 0, 100, 10), kTabRowId)) return -1;
     m_tabRow.ShowWindow(SW_HIDE);
-    ::CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE, 0, 0, 0, 0,
-                      m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kHeadingId)),
+    ::CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE | SS_ENDELLIPSIS,
+                      0, 0, 0, 0, m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kHeadingId)),
                       AfxGetInstanceHandle(), nullptr);
     ::SendDlgItemMessageA(m_hWnd, kHeadingId, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
     MeasureUnits();
@@ -215,7 +235,7 @@ void CWizardSheet::PlaceRow(const Row& row, int cxClient, int cyClient) {
 
 void CWizardSheet::RecalcWizardLayout() {
     const HWND page = GetActivePage()->m_hWnd;
-    const CSize pageSize = m_sizePages;
+    const CSize pageSize = WindowSize(page);
     const int mx = m_sizeTabMargin.cx, my = m_sizeTabMargin.cy;
     const Row row = MeasureRow();
     const int cxClient = std::max<int>(2 * mx + pageSize.cx + 3, row.sum + row.gaps + 2 * mx);
@@ -228,12 +248,28 @@ void CWizardSheet::RecalcWizardLayout() {
 
     CRect window(0, 0, cxClient, cyClient);
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
-    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), kKeep | SWP_NOMOVE);
-    CenterWindow();
-
+    Resize(window.Size());
     if (page != nullptr)
         ::SetWindowPos(page, nullptr, mx + 1, cyTabs + my, cxClient - 2 * mx - 3, pageSize.cy, kKeep);
     if (!m_bModeless) PlaceRow(row, cxClient, cyClient);
+    // The system has moved what was on the screen at the old places of the children: a part of the page, for the buttons.
+    ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// A sheet that is not where it has been centered was moved by the user.
+void CWizardSheet::Resize(CSize size) {
+    CRect window;
+    GetWindowRect(&window);
+    const bool moved = IsWindowVisible() && window.TopLeft() != GetCenteredPlace(window.Size());
+    const CPoint place = moved ? PlaceOnScreen(m_hWnd, window.TopLeft(), size) : GetCenteredPlace(size);
+    SetWindowPos(nullptr, place.x, place.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+CRect CWizardSheet::GetPagePlace(const CPropertyPage& page, const CRect& before) const {
+    if (before.IsRectEmpty()) return before;
+    const CSize own = WindowSize(page.m_hWnd);
+    return CRect(before.TopLeft(),
+                 CSize(std::max(own.cx, before.Size().cx), std::max(own.cy, before.Size().cy)));
 }
 
 // ---- Walking
@@ -255,17 +291,6 @@ void CWizardSheet::SetButtonStates(int nPage) {
     ::SetDlgItemTextA(m_hWnd, kNextId, text);
 }
 
-// A page has its own size while it is made; afterwards it is as large as the page before it.
-LRESULT CWizardSheet::OnParentNotify(WPARAM wParam, LPARAM lParam) {
-    const auto child = reinterpret_cast<HWND>(lParam);
-    const CWnd* const object = LOWORD(wParam) == WM_CREATE ? FromHandlePermanent(child) : nullptr;
-    if (object != nullptr && object->IsKindOf(RUNTIME_CLASS(CPropertyPage)) && ::GetParent(child) == m_hWnd) {
-        const CSize size = WindowSize(child);
-        m_sizePages = CSize(std::max(m_sizePages.cx, size.cx), std::max(m_sizePages.cy, size.cy));
-    }
-    return Default();
-}
-
 void CWizardSheet::ShowHeading() {
     char text[kTextSize] = "";
     TCITEMA item = {};
@@ -278,13 +303,14 @@ void CWizardSheet::ShowHeading() {
 
 // Tab row, heading and buttons change with the page, and stay if it refuses.
 bool CWizardSheet::MoveTo(int nPage) {
+    const CSize before = WindowSize(GetActivePage()->m_hWnd);
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
     ShowHeading();
-    const CSize size = WindowSize(GetActivePage()->m_hWnd);
-    if (size.cx < m_sizePages.cx || size.cy < m_sizePages.cy) RecalcWizardLayout();
+    if (WindowSize(GetActivePage()->m_hWnd) != before) RecalcWizardLayout();
     // A system that takes the focus from a disabled button leaves the keyboard without a window.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
+    ShowDefaultButton();
     return true;
 }
 
@@ -297,8 +323,7 @@ void CWizardSheet::OnNext() {
         OnFinish();
     } else if (MoveTo(m_nCurPage + 1)) {
         FocusActivePage();
-        // A click has made it a plain one.
-        ::SendDlgItemMessageA(m_hWnd, kNextId, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+        ShowDefaultButton();
     }
 }
 
@@ -306,15 +331,35 @@ LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
     return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
 }
 
+// The system moves the frame with the Tab key, but not between the sheet and its page, nor away from a button that is disabled.
+void CWizardSheet::ShowDefaultButton() {
+    const HWND focus = ::GetFocus();
+    const bool inside = focus != nullptr && ::IsChild(m_hWnd, focus);
+    if (focus != nullptr && focus != m_hWnd && !inside) return;
+    const HWND framed = inside && CanBePressed(focus) ? focus : ::GetDlgItem(m_hWnd, kNextId);
+    ForEachChild(m_hWnd, [=](HWND child) {
+        if (IsPushButton(child)) FramePushButton(child, child == framed);
+    });
+}
+
 // The default button is Next. Return presses it, unless that would skip fields that the user has not seen.
-BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
-    const HWND page = GetActivePage() != nullptr ? GetActivePage()->m_hWnd : nullptr;
-    if (m_bModeless || page == nullptr || !::IsChild(page, pMsg->hwnd) || !IsReturnForDefault(*pMsg))
-        return CPropertySheet::PreTranslateMessage(pMsg);
-    const bool heldDown = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0; // since an earlier page
+void CWizardSheet::OnReturn(const MSG& message) {
+    const bool heldDown = (HIWORD(message.lParam) & KF_REPEAT) != 0; // since an earlier page
     const bool finishes = m_nCurPage == GetPageCount() - 1;
-    if (!heldDown && (finishes || !HasFieldAfter(page, pMsg->hwnd))) OnNext();
-    return TRUE;
+    const HWND page = GetActivePage()->m_hWnd, next = ::GetDlgItem(m_hWnd, kNextId);
+    const bool skips = !finishes && ::IsChild(page, message.hwnd) && HasFieldAfter(page, message.hwnd);
+    if (heldDown || skips || next == nullptr || !::IsWindowEnabled(next)) return;
+    SendMessage(WM_COMMAND, MAKEWPARAM(kNextId, BN_CLICKED), reinterpret_cast<LPARAM>(next));
+}
+
+BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
+    BOOL handled = TRUE;
+    if (!m_bModeless && ::IsChild(m_hWnd, pMsg->hwnd) && IsReturnForDefault(*pMsg))
+        OnReturn(*pMsg);
+    else
+        handled = CPropertySheet::PreTranslateMessage(pMsg);
+    if (m_hWnd != nullptr && !m_bModeless) ShowDefaultButton();
+    return handled;
 }
 
 // OK by a command, and the Enter key of a sheet without buttons.

@@ -1,5 +1,5 @@
-// The main of every test program that has windows: an application object for the framework, and a watchdog that turns a
-// hang into a failure.
+// The main of every test program that has windows: an application object for the framework, a watchdog that turns a hang into a
+// failure, and the options of test_environment.h.
 
 #include <afxwin.h>
 
@@ -7,6 +7,12 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "orlo/win/gdi.h"
+#include "support/scheme_colors.h"
+#include "support/test_environment.h"
 
 namespace {
 
@@ -22,10 +28,7 @@ DWORD WINAPI Watch(void* finished) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    ::testing::InitGoogleTest(&argc, argv);
+int RunTests() {
     CWinApp application("test");
     const HANDLE finished = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
     const HANDLE watchdog = ::CreateThread(nullptr, 0, Watch, finished, 0, nullptr);
@@ -35,4 +38,30 @@ int main(int argc, char** argv) {
     ::CloseHandle(watchdog);
     ::CloseHandle(finished);
     return result;
+}
+
+// As high contrast has it.
+int RunTestsInBlack() {
+    constexpr COLORREF black = RGB(0, 0, 0), white = RGB(255, 255, 255);
+    const SchemeColors scheme({{COLOR_WINDOW, black},
+                               {COLOR_WINDOWTEXT, white},
+                               {COLOR_3DFACE, black},
+                               {COLOR_BTNTEXT, white},
+                               {COLOR_HIGHLIGHT, RGB(0, 0, 128)},
+                               {COLOR_HIGHLIGHTTEXT, RGB(255, 255, 0)},
+                               {COLOR_GRAYTEXT, RGB(0, 255, 0)}});
+    return RunTests();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const TestEnvironment environment(arguments);
+    ::testing::InitGoogleTest(&argc, argv);
+    ::SetProcessDPIAware();
+    const orlo::WindowDC screen(nullptr); // reads the resolution
+    ReportStarted(environment.started);
+    if (environment.dpi != 0) return RunAgainAt(environment.dpi, arguments);
+    return environment.blackScheme ? RunTestsInBlack() : RunTests();
 }

@@ -8,12 +8,16 @@
 
 #include <orlo.h>
 
+#include "orlo/win/child_windows.h"
+#include "support/fresh_drawing.h"
 #include "support/object_counts.h"
+#include "support/pixels.h"
+#include "support/scheme_colors.h"
 #include "support/sheet_driver.h"
 
 namespace {
 
-constexpr int kNarrow = 600, kWide = 601, kNoTemplate = 699;
+constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNoTemplate = 699;
 constexpr int kField = 1010, kKeepColour = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
               kHeading = 302;
 
@@ -22,7 +26,16 @@ public:
     CStep(char name, std::string& log, UINT nIDTemplate)
         : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
     bool accepts = true;
+    CSize grows; // in each OnSetActive
 
+    BOOL OnSetActive() override {
+        if (!CPropertyPage::OnSetActive()) return FALSE;
+        CRect rect;
+        GetWindowRect(rect);
+        SetWindowPos(nullptr, 0, 0, rect.Width() + grows.cx, rect.Height() + grows.cy,
+                     SWP_NOMOVE | SWP_NOZORDER);
+        return TRUE;
+    }
     BOOL OnKillActive() override {
         if (!accepts) Log('r');
         return accepts && CPropertyPage::OnKillActive();
@@ -215,6 +228,198 @@ TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
             EXPECT_LE(button.bottom, client.bottom);
             user.ClickSheetButton(kNext);
         }
+    });
+}
+
+// A page that grows lies over the buttons while they are moved: what the system copies must be drawn again.
+TEST_F(Wizard, IsDrawnWholeOnEachPage) {
+    const auto walk = [&] {
+        const auto wizard = Make({kNarrow, kWide, kQuiet, kNarrow});
+        steps[3]->grows = CSize(30, 50);
+        Run(*wizard, [&](SheetDriver& user) {
+            EXPECT_EQ("", StalePart(user.Sheet()));
+            for (const int button : {kNext, kNext, kNext, kBack, kBack, kBack, kNext}) {
+                ClickWithMouse(user, button);
+                EXPECT_EQ("", StalePart(user.Sheet())) << State(user);
+            }
+        });
+    };
+    walk();
+    const SchemeColors black({{COLOR_3DFACE, RGB(0, 0, 0)},
+                              {COLOR_BTNTEXT, RGB(255, 255, 255)},
+                              {COLOR_WINDOW, RGB(0, 0, 0)},
+                              {COLOR_WINDOWTEXT, RGB(255, 255, 255)}});
+    walk();
+}
+
+TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
+    const auto wizard = Make({kWide, kWide});
+    EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {
+                  const HWND next = ::GetDlgItem(user.Sheet(), kNext);
+                  for (const char* left : {"0 - &Next >", "1 Back Finish"}) {
+                      ::EnableWindow(next, FALSE);
+                      user.Focus(kKeepColour);
+                      user.Key(VK_RETURN);
+                      EXPECT_EQ(left, State(user));
+                      EXPECT_EQ("", log);
+                      ::EnableWindow(next, TRUE);
+                      user.Key(VK_RETURN);
+                  }
+              }));
+    EXPECT_EQ("1o 2o 2o ", log);
+}
+
+// The host's own command of the button counts, as if it had been clicked.
+TEST_F(Wizard, ReturnIsAClickOnTheButton) {
+    class Counting : public CWizardSheet {
+    public:
+        Counting() : CWizardSheet("Counting", nullptr, 0) {}
+        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+            if (wParam != MAKEWPARAM(kNext, BN_CLICKED)) return CWizardSheet::OnCommand(wParam, lParam);
+            ++clicks;
+            return TRUE;
+        }
+        int clicks = 0;
+    } wizard;
+    CStep step('1', log, kWide);
+    wizard.AddPage(&step);
+    Run(wizard, [](SheetDriver& user) {
+        user.Focus(kField);
+        user.Key(VK_RETURN);
+    });
+    EXPECT_EQ(1, wizard.clicks);
+    EXPECT_EQ("", log);
+}
+
+// The window rectangle that a page has after its OnSetActive counts.
+TEST_F(Wizard, IsAsLargeAsThePageHasMadeItself) {
+    const auto wizard = Make({kNarrow, kQuiet, kNarrow});
+    steps[0]->grows = CSize(0, 20);
+    steps[2]->grows = CSize(40, 30);
+    Run(*wizard, [&](SheetDriver& user) {
+        const auto expect = [&](int width, int height, const char* why) {
+            SCOPED_TRACE(why);
+            CRect client;
+            ::GetClientRect(user.Sheet(), client);
+            const CRect page = Place(user, user.Page()),
+                        back = Place(user, ::GetDlgItem(user.Sheet(), kBack));
+            EXPECT_LE(width, page.Width());
+            EXPECT_EQ(height, page.Height());
+            EXPECT_LE(page.right, client.right);
+            EXPECT_LE(page.bottom, back.top);
+            EXPECT_EQ(client.bottom - Units(user.Page(), 0, 4).cy, back.bottom);
+        };
+        const CSize narrow = Units(user.Page(), 120, 60), quiet = Units(user.Page(), 240, 100);
+        expect(narrow.cx, narrow.cy + 20, "the first page");
+        ClickWithMouse(user, kNext);
+        expect(quiet.cx, quiet.cy, "a page of which no parent is notified");
+        ClickWithMouse(user, kNext);
+        expect(quiet.cx, std::max<int>(quiet.cy, narrow.cy + 30), "the largest so far");
+    });
+}
+
+TEST_F(Wizard, KeepsTheSizeThatAHostHasGivenItsPage) {
+    class Resizable : public CWizardSheet {
+    public:
+        Resizable() : CWizardSheet("Resizable", nullptr, 0) {}
+        using CWizardSheet::RecalcWizardLayout;
+    } wizard;
+    CStep step('1', log, kNarrow);
+    wizard.AddPage(&step);
+    Run(wizard, [&](SheetDriver& user) {
+        const CRect before = Place(user, user.Page());
+        step.SetWindowPos(nullptr, 0, 0, before.Width() + 70, before.Height() + 40,
+                          SWP_NOMOVE | SWP_NOZORDER);
+        wizard.RecalcWizardLayout();
+        const CRect after = Place(user, user.Page());
+        EXPECT_EQ(CSize(before.Width() + 70, before.Height() + 40), after.Size());
+        EXPECT_LE(after.bottom, Place(user, ::GetDlgItem(user.Sheet(), kNext)).top);
+        EXPECT_EQ("", StalePart(user.Sheet()));
+    });
+}
+
+// The one push button of sheet and page that has the frame; 0 for none, -1 for several.
+int FramedButton(const SheetDriver& user) {
+    int framed = 0;
+    ForEachChild(user.Sheet(), [&](HWND child) {
+        if (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
+            framed = framed == 0 ? ::GetDlgCtrlID(child) : -1;
+    });
+    return framed;
+}
+
+TEST_F(Wizard, FramesTheButtonThatReturnPresses) {
+    const auto wizard = Make({kWide, kNarrow});
+    Run(*wizard, [&](SheetDriver& user) {
+        EXPECT_EQ(kNext, FramedButton(user));
+        ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
+        user.Key(VK_TAB);
+        EXPECT_EQ(IDCANCEL, FramedButton(user));
+        user.Key(VK_TAB); // into the page
+        EXPECT_EQ(user.Control(kField), ::GetFocus());
+        EXPECT_EQ(kNext, FramedButton(user));
+        user.Key(VK_TAB, true);
+        EXPECT_EQ(IDCANCEL, FramedButton(user));
+        ClickWithMouse(user, kNext);
+        EXPECT_EQ(kNext, FramedButton(user));
+        user.Key(VK_TAB); // to the button of the page
+        EXPECT_EQ(kLookUp, FramedButton(user));
+        user.Key(VK_TAB);
+        EXPECT_EQ(kBack, FramedButton(user));
+        user.Key(VK_SPACE);
+        EXPECT_EQ("0 - &Next >", State(user));
+        EXPECT_EQ(kNext, FramedButton(user)) << "not the button that is now disabled";
+    });
+}
+
+TEST_F(Wizard, GrowsWhereTheUserHasMovedIt) {
+    const auto wizard = Make({kNarrow, kWide});
+    const auto place = [](HWND window) {
+        CRect rect;
+        ::GetWindowRect(window, rect);
+        return rect;
+    };
+    Run(*wizard, [&](SheetDriver& user) {
+        ::SetWindowPos(user.Sheet(), nullptr, 20, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        user.ClickSheetButton(kNext);
+        EXPECT_EQ(CPoint(20, 30), place(user.Sheet()).TopLeft());
+    });
+    Run(*Make({kNarrow, kWide}), [&](SheetDriver& user) {
+        const int right = ::GetSystemMetrics(SM_CXSCREEN);
+        ::SetWindowPos(user.Sheet(), nullptr, right - place(user.Sheet()).Width(), 30, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER);
+        user.ClickSheetButton(kNext);
+        EXPECT_EQ(right, place(user.Sheet()).right) << "within the screen";
+    });
+    Run(*Make({kNarrow, kWide}), [&](SheetDriver& user) {
+        const CPoint middle = place(user.Sheet()).CenterPoint();
+        user.ClickSheetButton(kNext);
+        EXPECT_NEAR(middle.x, place(user.Sheet()).CenterPoint().x, 1);
+        EXPECT_NEAR(middle.y, place(user.Sheet()).CenterPoint().y, 1);
+    });
+}
+
+TEST_F(Wizard, EndsACaptionThatIsCutWithDots) {
+    Run(*Make({kQuiet}), [](SheetDriver& user) {
+        const HWND heading = ::GetDlgItem(user.Sheet(), kHeading);
+        CRect client;
+        ::GetClientRect(heading, client);
+        Pixels picture(client.Width(), client.Height());
+        ::SendMessageA(heading, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.DC()),
+                       PRF_CLIENT | PRF_ERASEBKGND);
+        const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
+        int right = client.right; // of the ink
+        while (right > 5 && picture.Count({right - 1, 0, right, client.bottom}, text) == 0)
+            --right;
+        const CRect end(right - 5, 0, right, client.Height());
+        int lowest = 0, highest = client.Height();
+        for (int y = 0; y < client.Height(); ++y) {
+            if (picture.Count({end.left, y, end.right, y + 1}, text) == 0) continue;
+            lowest = std::max(lowest, y);
+            highest = std::min(highest, y);
+        }
+        EXPECT_LE(highest, lowest) << "something is there";
+        EXPECT_LE(lowest - highest, 3) << "dots alone";
     });
 }
 

@@ -1,0 +1,35 @@
+// What a screen reader is told of a window: by the window's own object, else by the system's.
+#pragma once
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <string>
+
+#include "orlo/win/com_owner.h"
+
+class Accessible {
+public:
+    explicit Accessible(HWND window);
+
+    bool IsOwn() const { return m_isOwn; } // the window answers by itself
+    int Count() const;
+    // child: from 1; 0 is the window itself.
+    std::string Name(int child = CHILDID_SELF) const;
+    std::string Value(int child = CHILDID_SELF) const;
+    std::string DefaultAction(int child) const;
+    long Role(int child = CHILDID_SELF) const;
+    long State(int child) const;
+    void Select(int child) const;
+    void DoDefaultAction(int child) const;
+
+private:
+    using GetText = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR*);
+    using GetNumber = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, VARIANT*);
+    std::string Text(GetText get, int child) const;
+    long Number(GetNumber get, int child) const;
+
+    orlo::Owned<IAccessible> m_object;
+    bool m_isOwn = false;
+};
