@@ -2,15 +2,24 @@
 
 #include "orlo/exchange/failure.h"
 
+#include <cstring>
+#include <string>
+
 #include "orlo/host/units.h"
 #include "orlo/resources/library_text.h"
 
 namespace {
 
+void Insert(std::string& text, const char* mark, const char* value) {
+    const size_t at = text.find(mark);
+    if (at != std::string::npos) text.replace(at, std::strlen(mark), value);
+}
+
 int FailWithLimits(CDataExchange* pDX, const char* min, const char* max, UINT nIDPrompt) {
-    CString message;
-    AfxFormatString2(message, nIDPrompt, min, max);
-    AfxMessageBox(message, MB_ICONEXCLAMATION, nIDPrompt);
+    std::string message(LibraryText(nIDPrompt));
+    Insert(message, "%1", min);
+    Insert(message, "%2", max);
+    AfxMessageBox(message.c_str(), MB_ICONEXCLAMATION, nIDPrompt);
     return FailExchange(1, pDX);
 }
 

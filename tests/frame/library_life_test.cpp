@@ -10,6 +10,7 @@
 #include "orlo/resources/resource.h"
 #include "support/graphic_kit.h"
 #include "support/host_frame.h"
+#include "support/message_box_watcher.h"
 #include "support/pixels.h"
 #include "support/sheet_driver.h"
 
@@ -139,6 +140,10 @@ TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
         user.SelectPage(3);
         EXPECT_EQ("Regular", user.ItemText(IDC_FONT_STYLE, 0));
         EXPECT_EQ("Italic", user.ItemText(IDC_FONT_STYLE, 1));
+        const MessageBoxWatcher boxes;
+        user.Type(IDC_FONT_SIZE, "0");
+        user.Ok();
+        EXPECT_EQ("Please enter a valid font size.", boxes.OnlyText());
     });
 }
 
