@@ -46,14 +46,38 @@ int WantedWidth(HWND child, int width, int box) {
     return std::max(width, box + kLabelRoom + LabelWidth(child));
 }
 
-// Boxes of the templates reach beyond the page, which would cut their right edges off.
-void FitWidth(HWND child, HWND page, int box) {
-    RECT client, rect;
-    ::GetClientRect(page, &client);
+RECT PlaceIn(HWND page, HWND child) {
+    RECT rect;
     ::GetWindowRect(child, &rect);
     ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+bool IsGroupBox(HWND child) {
+    constexpr LONG kGroup = BS_GROUPBOX;
+    return (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) &&
+           (::GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == kGroup;
+}
+
+// The distance that the template has between a control and the right line of the group box around it; 0 without one.
+int MarginInGroup(const RECT& rect, const std::vector<RECT>& groups) {
+    for (const RECT& group : groups) {
+        if (group.left < rect.left && group.top < rect.top && rect.right < group.right &&
+            rect.bottom < group.bottom)
+            return group.right - rect.right;
+    }
+    return 0;
+}
+
+// Boxes of the templates reach beyond the page, which would cut their right edges off. What is in such a box keeps its distance
+// to it.
+void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
+    RECT client;
+    ::GetClientRect(page, &client);
+    const RECT rect = PlaceIn(page, child);
     const int width = rect.right - rect.left;
-    const int fitting = std::min<int>(WantedWidth(child, width, box), client.right - rect.left);
+    const int margin = rect.right > client.right ? MarginInGroup(rect, groups) : 0;
+    const int fitting = std::min<int>(WantedWidth(child, width, box), client.right - margin - rect.left);
     if (fitting == width || fitting <= 0) return;
     ::SetWindowPos(child, nullptr, 0, 0, fitting, rect.bottom - rect.top,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
@@ -66,10 +90,13 @@ void FitControls(HWND page) {
     ForEachChild(page, [&](HWND child) {
         if (::GetParent(child) == page) controls.push_back(child); // not the parts of a control
     });
+    std::vector<RECT> groups; // as in the template
+    for (const HWND control : controls)
+        if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);
     for (const HWND control : controls) {
         PassOverLabel(control);
-        FitWidth(control, page, box);
+        FitWidth(control, page, box, groups);
     }
     PutLabelsBeforeFields(page, controls);
 }
