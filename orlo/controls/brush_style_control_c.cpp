@@ -47,3 +47,8 @@ void CBrushStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
         return DrawBrushStyleItem(*pDIS, kComboBrushLook, item);
     });
 }
+
+CString CBrushStyleControlC::DescribeItem(int index) {
+    const CString style = StyleControl::NameWithoutItem(*this, index);
+    return style.IsEmpty() ? CComboControl::DescribeItem(index) : style;
+}

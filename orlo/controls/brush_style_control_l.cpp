@@ -56,3 +56,8 @@ void CBrushStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
         return DrawBrushStyleItem(*pDIS, kListBrushLook, item);
     });
 }
+
+CString CBrushStyleControlL::DescribeItem(int index) {
+    const CString style = StyleControl::NameWithoutItem(*this, index);
+    return style.IsEmpty() ? CListControl::DescribeItem(index) : style;
+}

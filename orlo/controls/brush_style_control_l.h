@@ -21,6 +21,7 @@ public:
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
     void FillControl(WPARAM wParam, LPARAM lParam) override;
+    CString DescribeItem(int index) override;
 
 protected:
     CBrushStyleControlL(HWND hWnd);

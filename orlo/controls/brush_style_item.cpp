@@ -2,8 +2,11 @@
 
 #include "orlo/controls/brush_style_item.h"
 
+#include <algorithm>
+
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
+#include "orlo/controls/text_height.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/vertex.h"
 #include "orlo/samples/hatch_scale.h"
@@ -13,7 +16,7 @@ namespace {
 
 constexpr double kMargin = 0.01;
 constexpr double kLeastHeight = 0.01; // of a cell without one
-constexpr POINT kTextAt = {4, 1};     // from the corner of the item
+constexpr POINT kTextAt = {4, 1};     // at least, from the corner of the item
 
 void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
     const RECT cell = Inflated(request.rcItem, -2);
@@ -69,7 +72,9 @@ bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& loo
     }
     const ItemText noBrush = HostTextItem(kBrushStyleNone, kStringNoBrush);
     const char* const name = none ? noBrush.name() : item.name;
-    const POINT at = {request.rcItem.left + kTextAt.x, request.rcItem.top + kTextAt.y};
+    // In the middle, as the samples are.
+    const LONG room = request.rcItem.right - request.rcItem.left - TextWidth(request.hDC, name);
+    const POINT at = {request.rcItem.left + std::max(room / 2, kTextAt.x), request.rcItem.top + kTextAt.y};
     if (*name) DrawFramedName(request, request.rcItem, at, name);
     return true;
 }

@@ -2,12 +2,16 @@
 
 #include "orlo/controls/check_list_box.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/controls/text_height.h"
 #include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+#include "orlo/win/accessible_window.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
@@ -42,6 +46,40 @@ void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
 
 } // namespace
 
+namespace {
+
+class CheckListKind : public AccessibleListBox {
+public:
+    long ItemRole() const override { return ROLE_SYSTEM_CHECKBUTTON; }
+    std::string ItemName(HWND window, int index) const override {
+        CString name;
+        if (const CCheckListBox* const list = Of(window)) list->GetText(index, name);
+        return std::string(name);
+    }
+    long ItemState(HWND window, int index) const override {
+        const long state = AccessibleListBox::ItemState(window, index);
+        return IsChecked(window, index) ? state | STATE_SYSTEM_CHECKED : state;
+    }
+    std::string ItemAction(HWND window, int index) const override {
+        return std::string(LibraryText(IsChecked(window, index) ? IDS_UNCHECK : IDS_CHECK));
+    }
+    void DoItemAction(HWND window, int index) const override {
+        if (CCheckListBox* const list = Of(window)) list->ToggleItem(index);
+    }
+
+private:
+    static CCheckListBox* Of(HWND window) {
+        return dynamic_cast<CCheckListBox*>(CWnd::FromHandlePermanent(window));
+    }
+    static bool IsChecked(HWND window, int index) {
+        const CCheckListBox* const list = Of(window);
+        return list && list->IsItemChecked(index);
+    }
+};
+const CheckListKind kCheckListKind;
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(CCheckListBox, CWnd)
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
@@ -71,6 +109,7 @@ int CCheckListBox::IsItemChecked(int nIndex) const {
 void CCheckListBox::CheckItem(int nIndex, int bChecked) {
     SetItemData(nIndex, static_cast<DWORD_PTR>(bChecked));
     InvalidateItem(nIndex, 0);
+    ::NotifyWinEvent(EVENT_OBJECT_STATECHANGE, m_hWnd, OBJID_CLIENT, nIndex + 1);
 }
 
 void CCheckListBox::ToggleItem(int nIndex) {
@@ -161,10 +200,14 @@ void CCheckListBox::PreSubclassWindow() {
 // The list box takes the space bar for the first letter of an item. A host that asks for its keys is not asked for this one,
 // which it may have toggled by itself.
 LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_GETOBJECT) {
+        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kCheckListKind)) return object;
+    }
     constexpr LPARAM kHeldDown = LPARAM{KF_REPEAT} << 16;
     if ((message == WM_KEYDOWN || message == WM_CHAR) && wParam == VK_SPACE) {
         const int current = static_cast<int>(SendMessage(LB_GETCARETINDEX));
-        if (message == WM_KEYDOWN && !(lParam & kHeldDown) && current < GetCount()) ToggleItem(current);
+        if (message == WM_KEYDOWN && !(lParam & kHeldDown) && current >= 0 && current < GetCount())
+            ToggleItem(current);
         return 0;
     }
     return CListBox::WindowProc(message, wParam, lParam);

@@ -7,6 +7,8 @@
 //   list.AddString("Walls", 1);
 //   if (list.IsItemChecked(0)) ...
 //
+// A screen reader finds a check button in each item.
+//
 // The flag is the item's data, which is the class's own: 0 is unchecked, anything else checked.
 #pragma once
 

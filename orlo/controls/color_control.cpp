@@ -13,6 +13,7 @@
 #include "orlo/controls/paint.h"
 #include "orlo/controls/style_item.h"
 #include "orlo/controls/table_control.h"
+#include "orlo/controls/text_height.h"
 #include "orlo/host/strings.h"
 
 namespace {
@@ -137,6 +138,21 @@ void CColorControl::FillControl(WPARAM, LPARAM pFill) {
 
 void CColorControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
+}
+
+CString CColorControl::DescribeItem(int index) {
+    char name[kItemTextSize];
+    NameWithoutItem(m_nSelected, name);
+    CString text = name;
+    if (index >= 0 || text.IsEmpty()) return CComboControl::DescribeItem(index);
+    if (IsPlainColor(m_nSelected))
+        text.Format("%d, %d, %d", GetRValue(m_nSelected), GetGValue(m_nSelected), GetBValue(m_nSelected));
+    return text;
+}
+
+// Names are in bold, which is up to an eighth wider.
+int CColorControl::MeasureNameWidth(HDC dc, const char* name) {
+    return PlainRowWidth(dc, name) + TextWidth(dc, name) / 8;
 }
 
 void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {

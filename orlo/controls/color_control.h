@@ -39,9 +39,13 @@ public:
     // order.
     int AddControlItem(const char* pszItem) override;
 
+    // A color without an item by its numbers: "86, 52, 18".
+    CString DescribeItem(int index) override;
+
     int m_bExtraEntries;
     int m_bLastEntry = 0;
 
 protected:
     CColorControl(HWND hWnd, int bExtraEntries);
+    int MeasureNameWidth(HDC dc, const char* name) override;
 };

@@ -22,9 +22,10 @@ orlo::OwnedFont BoldVersion(HFONT font) {
     return orlo::OwnedFont(::CreateFontIndirectA(&description));
 }
 
+// White on a dark color, by the mean of its channels, where that can be read: a bright green has a low mean.
 COLORREF ReadableOn(DWORD color) {
     const int mean = (GetRValue(color) + GetGValue(color) + GetBValue(color)) / 3;
-    return mean < 0x80 ? kWhite : kBlack;
+    return mean < 0x80 && Contrast(kWhite, color) >= kReadableContrast ? kWhite : kBlack;
 }
 
 void FillWithColor(HDC dc, const RECT& rect, DWORD color) {
@@ -56,9 +57,10 @@ void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor,
     DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
 }
 
-// A colour on a background of the same colour needs a frame.
+// A color on a background of the same color needs a frame. In a list it stays within the row: the rows around it are drawn
+// at other times.
 void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
-    const RECT frame = Inflated(place.rect, 1);
+    const RECT frame = Inflated(place.rect, place.inField ? 1 : -1);
     FillSolid(place.dc, place.rect, color);
     FrameRectangle(place.dc, frame, place.ink, 2);
     DrawName(place, frame, name, ReadableOn(color), false);

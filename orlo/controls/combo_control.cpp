@@ -2,12 +2,19 @@
 
 #include "orlo/controls/combo_control.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <utility>
 
 #include "orlo/controls/filling.h"
+#include "orlo/controls/item_names.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+#include "orlo/win/accessible_window.h"
+#include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
@@ -16,8 +23,14 @@ namespace {
 constexpr int kMaxDropHeight = 320; // closed field and open list together
 constexpr int kButtonWidth = 16;    // at the right of the client area
 
+constexpr UINT kSetMinVisible = 0x1701; // CB_SETMINVISIBLE, of common controls 6; others ignore it
+
 bool IsControlBarID(int nID) {
     return nID >= 0xE800 && nID <= 0xE8FF;
+}
+
+bool IsDropDownList(HWND combo) {
+    return (::GetWindowLongA(combo, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
 }
 
 // What the system's combo opens its list for.
@@ -35,6 +48,57 @@ bool OpensList(UINT message, WPARAM wParam) {
     default:
         return false;
     }
+}
+
+class ComboKind : public AccessibleKind {
+public:
+    long Role() const override { return ROLE_SYSTEM_COMBOBOX; }
+    // The text of an edit field is the system's to say.
+    std::optional<std::string> Value(HWND window) const override {
+        CComboControl* const combo = ComboControlOf(window);
+        if (!combo || !IsDropDownList(window)) return std::nullopt;
+        return std::string(combo->DescribeItem(combo->GetCurSel()));
+    }
+};
+const ComboKind kComboKind;
+
+// The window of the list that drops down, which is not a child of the combo box.
+class DropList : public CWnd {
+public:
+    explicit DropList(CComboControl& owner) : combo(owner) {}
+    CComboControl& combo;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+class DropListKind : public AccessibleListBox {
+public:
+    std::string Name(HWND window) const override {
+        const DropList* const list = Of(window);
+        return list ? LabelOf(list->combo.m_hWnd) : "";
+    }
+    std::string ItemName(HWND window, int index) const override {
+        const DropList* const list = Of(window);
+        return list ? std::string(list->combo.DescribeItem(index)) : "";
+    }
+    void SelectItem(HWND window, int index) const override {
+        const DropList* const list = Of(window);
+        if (!list) return;
+        list->combo.SetCurSel(index);
+        NotifySelectionChange(list->combo.m_hWnd);
+    }
+
+private:
+    static DropList* Of(HWND window) { return dynamic_cast<DropList*>(CWnd::FromHandlePermanent(window)); }
+};
+const DropListKind kDropListKind;
+
+LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_GETOBJECT) {
+        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
 }
 
 } // namespace
@@ -57,10 +121,11 @@ CComboControl* ComboControlOf(HWND window) {
     return static_cast<CComboControl*>(object);
 }
 
-CComboControl::CComboControl(unsigned int nControlID) : m_nControlID(nControlID) {}
+CComboControl::CComboControl(unsigned int nControlID)
+    : m_nControlID(nControlID), m_names(std::make_unique<ItemNames>()) {}
 
 CComboControl::CComboControl(unsigned int nControlID, HWND hWnd)
-    : m_nControlID(nControlID), m_bAutoDelete(1) {
+    : m_nControlID(nControlID), m_bAutoDelete(1), m_names(std::make_unique<ItemNames>()) {
     if (!CWnd::FromHandlePermanent(hWnd)) Attach(hWnd);
 }
 
@@ -102,13 +167,58 @@ void CComboControl::PostNcDestroy() {
 }
 
 LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfCombo(m_hWnd), wParam)) return 0;
+    const ControlItems items = ControlItems::OfCombo(m_hWnd);
+    m_names->Watch(items, message);
+    if (message == WM_GETOBJECT) {
+        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
+    }
+    if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
     // Here, and not at CBN_DROPDOWN, which only the parent gets.
-    if (OpensList(message, wParam) && !GetDroppedState()) SizeDropDown();
-    return CComboBox::WindowProc(message, wParam, lParam);
+    if (OpensList(message, wParam) && !GetDroppedState()) {
+        SizeDropDown();
+        m_choice = GetChoice();
+    }
+    const bool cancels = message == WM_KEYDOWN && wParam == VK_ESCAPE && GetDroppedState();
+    const LRESULT result = CComboBox::WindowProc(message, wParam, lParam);
+    if (cancels) RestoreChoice();
+    if (items.IsSelection(message)) NotifyValueChange(m_hWnd);
+    return result;
+}
+
+CComboControl::Choice CComboControl::GetChoice() const {
+    Choice choice;
+    choice.index = GetCurSel();
+    if (!IsDropDownList(m_hWnd)) GetWindowText(choice.text);
+    return choice;
+}
+
+// The text decides in an edit field: the open list selects the item that it begins.
+void CComboControl::RestoreChoice() {
+    const Choice now = GetChoice(), before = m_choice;
+    const bool edit = !IsDropDownList(m_hWnd);
+    if (edit ? now.text == before.text : now.index == before.index) return;
+    SetCurSel(before.index);
+    if (edit) SetWindowText(before.text);
+    NotifySelectionChange(m_hWnd);
+}
+
+CString CComboControl::DescribeItem(int index) {
+    char name[kItemTextSize];
+    GetControlItem(index, name);
+    return index >= 0 || GetCount() <= 0 ? CString(name) : LibraryText(IDS_VARIED);
+}
+
+// The list reads its items out as they are, with their keys.
+void CComboControl::WatchDropList() {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    if ((m_dropList && m_dropList->m_hWnd) || !::GetComboBoxInfo(m_hWnd, &info) || !info.hwndList) return;
+    m_dropList = std::make_unique<DropList>(*this);
+    m_dropList->SubclassWindow(info.hwndList);
 }
 
 void CComboControl::SizeDropDown() {
+    WatchDropList();
     RECT rect = {};
     ::GetWindowRect(m_hWnd, &rect);
     const int row = std::max(MeasuredRow(*this), 1);
@@ -119,6 +229,25 @@ void CComboControl::SizeDropDown() {
         m_nDropHeight = std::min(count, room / row) * row + frame;
     }
     SetControlHeight(m_hWnd, m_nDropHeight);
+    // Common controls 6 show 30 rows in a list of any height, if they are not told otherwise.
+    SendMessage(kSetMinVisible, static_cast<WPARAM>(std::max((m_nDropHeight - frame) / row, 1)));
+    FitDropWidth();
+}
+
+int CComboControl::MeasureNameWidth(HDC, const char*) {
+    return 0;
+}
+
+void CComboControl::FitDropWidth() {
+    const orlo::WindowDC dc(m_hWnd);
+    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    if (MeasureNameWidth(dc.get(), "") == 0) return;
+    int widest = 0;
+    for (const std::string& name : m_names->Of(ControlItems::OfCombo(m_hWnd)))
+        widest = std::max(widest, MeasureNameWidth(dc.get(), name.c_str()));
+    const int frame = 2 * ::GetSystemMetrics(SM_CXBORDER) + ::GetSystemMetrics(SM_CXVSCROLL);
+    SendMessage(CB_SETDROPPEDWIDTH,
+                static_cast<WPARAM>(std::min(widest + frame, ::GetSystemMetrics(SM_CXSCREEN) / 2)));
 }
 
 unsigned long CComboControl::GetControlItem(int index, char* text) {
@@ -164,6 +293,7 @@ void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
 
 LRESULT CComboControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
     FillControl(wParam, lParam);
+    m_choice = GetChoice();
     return 0;
 }
 

@@ -15,10 +15,17 @@
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
 // (control_fill.h) at any time.
 //
-// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style.
+// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style. A combo box that is taken over keeps the edit field
+// that it was made with: without CBS_AUTOHSCROLL in its style that takes no more text than it has room for.
+//
+// A screen reader gets the names of the items, never their keys. "varied" is said of a field that shows none of its items.
+//
+// Escape in the open list restores the choice that was made before it opened, and notifies the parent of the change.
 #pragma once
 
 #include <afxwin.h>
+
+#include <memory>
 
 #include "orlo/binding/fuzzy.h"
 #include "orlo/controls/control_fill.h"
@@ -30,6 +37,8 @@
 // word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
 // window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
+
+class ItemNames;
 
 class ORLO_API CComboControl : public CComboBox {
     DECLARE_DYNAMIC(CComboControl)
@@ -44,8 +53,8 @@ public:
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
-    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field. The control does so
-    // itself before the list opens, whatever its parent.
+    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field, and as wide as the
+    // widest name if the control draws names. The control does so itself before the list opens, whatever its parent.
     virtual void SizeDropDown();
     // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
     // without such an item.
@@ -54,6 +63,9 @@ public:
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
     // Adds an item with exactly that text; its index, negative on failure.
     virtual int AddControlItem(const char* text);
+    // Returns an item as a screen reader says it; with -1 what the closed field shows without a selected item. Here: its name,
+    // "varied" without one.
+    virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
     unsigned long m_dwStyle = 0;     // window style at the creation
@@ -91,8 +103,23 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
+    // Returns the width of a row with that name in device pixels; 0 (here): the field is wide enough. dc has the control's font.
+    virtual int MeasureNameWidth(HDC dc, const char* name);
+
 private:
+    struct Choice {
+        int index = -1;
+        CString text; // of an edit field
+    };
+    void WatchDropList();
+    Choice GetChoice() const;
+    void RestoreChoice();
+    void FitDropWidth();
+
     bool m_beingMade = false; // the window; false too where one is taken over
+    std::unique_ptr<ItemNames> m_names;
+    Choice m_choice;                  // when the list was opened
+    std::unique_ptr<CWnd> m_dropList; // the window of the list
 };
 
 // The object of that window, or null if it is not of this class.

@@ -6,15 +6,17 @@
 
 struct ControlItems::Messages {
     UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length,
-        text, rowHeight;
+        text, rowHeight, remove;
 };
 
 const ControlItems::Messages ControlItems::kCombo = {
-    CB_GETCOUNT,        CB_GETCURSEL,  CB_SETCURSEL,    CB_RESETCONTENT, CB_ADDSTRING, CB_INSERTSTRING,
-    CB_FINDSTRINGEXACT, CB_FINDSTRING, CB_SELECTSTRING, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_SETITEMHEIGHT};
+    CB_GETCOUNT,     CB_GETCURSEL,       CB_SETCURSEL,   CB_RESETCONTENT, CB_ADDSTRING,
+    CB_INSERTSTRING, CB_FINDSTRINGEXACT, CB_FINDSTRING,  CB_SELECTSTRING, CB_GETLBTEXTLEN,
+    CB_GETLBTEXT,    CB_SETITEMHEIGHT,   CB_DELETESTRING};
 const ControlItems::Messages ControlItems::kList = {
-    LB_GETCOUNT,        LB_GETCURSEL,  LB_SETCURSEL,    LB_RESETCONTENT, LB_ADDSTRING, LB_INSERTSTRING,
-    LB_FINDSTRINGEXACT, LB_FINDSTRING, LB_SELECTSTRING, LB_GETTEXTLEN,   LB_GETTEXT,   LB_SETITEMHEIGHT};
+    LB_GETCOUNT,     LB_GETCURSEL,       LB_SETCURSEL,   LB_RESETCONTENT, LB_ADDSTRING,
+    LB_INSERTSTRING, LB_FINDSTRINGEXACT, LB_FINDSTRING,  LB_SELECTSTRING, LB_GETTEXTLEN,
+    LB_GETTEXT,      LB_SETITEMHEIGHT,   LB_DELETESTRING};
 
 ControlItems ControlItems::OfCombo(HWND window) {
     return {window, kCombo};
@@ -60,6 +62,15 @@ int ControlItems::FindPrefix(const char* prefix) const {
 
 bool ControlItems::SelectPrefix(int from, const char* prefix) const {
     return SendText(messages_->selectPrefix, from, prefix) >= 0;
+}
+
+bool ControlItems::IsChange(UINT message) const {
+    return message == messages_->add || message == messages_->insert || message == messages_->remove ||
+           message == messages_->reset;
+}
+
+bool ControlItems::IsSelection(UINT message) const {
+    return message == messages_->setSelection || message == messages_->selectPrefix;
 }
 
 void ControlItems::SetRowHeight(int index, int height) const {

@@ -41,6 +41,11 @@ public:
     // there isn't one.
     bool SelectPrefix(int from, const char* prefix) const;
 
+    // Whether the message adds or removes items.
+    bool IsChange(UINT message) const;
+    // Whether the message selects one.
+    bool IsSelection(UINT message) const;
+
     // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them all.
     void SetRowHeight(int index, int height) const;
 

@@ -41,6 +41,10 @@ void CFontFaceControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
 }
 
+int CFontFaceControl::MeasureNameWidth(HDC dc, const char* name) {
+    return PlainRowWidth(dc, name);
+}
+
 void CFontFaceControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;

@@ -20,4 +20,5 @@ public:
 
 protected:
     CFontFaceControl(HWND hWnd);
+    int MeasureNameWidth(HDC dc, const char* name) override;
 };

@@ -115,6 +115,10 @@ void CFontSizeControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
 }
 
+int CFontSizeControl::MeasureNameWidth(HDC dc, const char* name) {
+    return PlainRowWidth(dc, name);
+}
+
 void CFontSizeControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;

@@ -35,6 +35,7 @@ public:
 
 protected:
     CFontSizeControl(HWND hWnd);
+    int MeasureNameWidth(HDC dc, const char* name) override;
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
     DECLARE_MESSAGE_MAP()

@@ -2,9 +2,17 @@
 
 #include "orlo/controls/item_drawing.h"
 
+#include <algorithm>
+
 #include "orlo/controls/paint.h"
+#include "orlo/controls/text_height.h"
 
 namespace {
+
+// Distance of a line of text from the top of the row that it is in the middle of; the least one in a low row.
+int MiddleOffset(HDC dc, const RECT& row, LONG least) {
+    return std::max((row.bottom - row.top - TextHeight(dc)) / 2, least);
+}
 
 RowColors DisabledColors(const DRAWITEMSTRUCT& item) {
     return {::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(IsClosedField(item) ? COLOR_3DFACE : COLOR_WINDOW)};
@@ -25,8 +33,8 @@ RowColors SampleColorsOf(const DRAWITEMSTRUCT& item) {
 }
 
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item) {
-    if (IsClosedField(item) || IsNoItem(item) || (item.itemAction & ODA_DRAWENTIRE)) return ItemPart::Whole;
-    if (item.itemAction & ODA_SELECT) return ItemPart::SelectionFrame;
+    if (IsClosedField(item) || IsNoItem(item) || (item.itemAction & (ODA_DRAWENTIRE | ODA_SELECT)))
+        return ItemPart::Whole;
     if (item.itemAction & ODA_FOCUS) return ItemPart::Focus;
     return ItemPart::Nothing;
 }
@@ -35,8 +43,9 @@ void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond) {
     RECT frame = Inflated(item.rcItem, -1);
     frame.right += beyond.cx;
     frame.bottom += beyond.cy;
-    const int color = item.itemState & ODS_SELECTED ? COLOR_HIGHLIGHT : COLOR_WINDOW;
-    FrameRectangle(item.hDC, frame, ::GetSysColor(color), 2);
+    const orlo::SavedDC clipped(item.hDC);
+    ::IntersectClipRect(item.hDC, item.rcItem.left, item.rcItem.top, item.rcItem.right, item.rcItem.bottom);
+    FrameRectangle(item.hDC, frame, ::GetSysColor(COLOR_HIGHLIGHT), 2);
 }
 
 void MarkCurrentRow(const DRAWITEMSTRUCT& item) {
@@ -53,14 +62,20 @@ void ClearItem(const DRAWITEMSTRUCT& item) {
               SampleColorsOf(item).background);
 }
 
+int PlainRowWidth(HDC dc, const char* text) {
+    return 2 * kPlainTextAt.x + TextWidth(dc, text);
+}
+
 void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors) {
     const RECT& rect = item.rcItem;
     FillSolid(item.hDC, rect, colors.background);
-    DrawClippedText(item.hDC, rect.left + kPlainTextAt.x, rect.top + kPlainTextAt.y, rect, text, colors.text);
+    const int top = rect.top + MiddleOffset(item.hDC, rect, kPlainTextAt.y);
+    DrawClippedText(item.hDC, rect.left + kPlainTextAt.x, top, rect, text, colors.text);
 }
 
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name) {
     const COLORREF ink = SampleColorsOf(item).text;
     FrameRectangle(item.hDC, frame, ink, 1);
-    DrawClippedText(item.hDC, at.x, at.y, item.rcItem, name, ink);
+    const int top = item.rcItem.top + MiddleOffset(item.hDC, item.rcItem, at.y - item.rcItem.top);
+    DrawClippedText(item.hDC, at.x, top, item.rcItem, name, ink);
 }

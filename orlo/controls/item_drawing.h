@@ -24,12 +24,12 @@ RowColors ColorsOf(const DRAWITEMSTRUCT& item);
 // The same for what shows the selection in another way, and is drawn in black where that can be read.
 RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 
-// What a request asks a control of style samples to draw.
-enum class ItemPart { Nothing, Whole, SelectionFrame, Focus };
+// What a request asks a control of style samples to draw. A change of the selection draws the whole item: the frame that
+// goes would leave its marks in the sample or the name below it.
+enum class ItemPart { Nothing, Whole, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 
-// The frame that shows the selection, in the window's colour without a selection, so that drawing it again
-// removes it. Its far corner exceeds the item's by that much (device pixels).
+// The frame of the selected item. Its far corner exceeds the usual one by that much (device pixels), within the item.
 void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
 
 // Marks the current row of a list whose rows have any colour: two frames of which one can be seen on each.
@@ -41,11 +41,12 @@ void DrawItemFocus(const DRAWITEMSTRUCT& item);
 // The item's background, the border of a closed field included.
 void ClearItem(const DRAWITEMSTRUCT& item);
 
-// A row of plain text, at that distance from the item's corner.
+// A row of plain text, at that distance from the item's corner, or lower if it is in the middle of the item there.
 constexpr POINT kPlainTextAt = {4, 1};
+int PlainRowWidth(HDC dc, const char* text);
 void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors);
 
-// A name in a frame, the text at that point.
+// A name in a frame, the text at that point, or lower if it is in the middle of the item there.
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name);
 
 // Draws what a request asks of a control of style samples. drawStyle draws the whole item but selection and
@@ -57,9 +58,6 @@ void DrawRequest(const DRAWITEMSTRUCT& item, SIZE beyond, DrawStyle drawStyle) {
         if (!drawStyle()) break;
         if (item.itemState & ODS_SELECTED) DrawSelectionFrame(item, beyond);
         DrawItemFocus(item);
-        break;
-    case ItemPart::SelectionFrame:
-        DrawSelectionFrame(item, beyond);
         break;
     case ItemPart::Focus:
         ::DrawFocusRect(item.hDC, &item.rcItem);

@@ -12,12 +12,15 @@
 #include "orlo/host/table.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 
 constexpr unsigned int kKind = kControlLayers;
 
 constexpr int kLeastPicture = 16;
+constexpr int kGap = 3;  // before a chip and before the name, pixels at 96 dpi
+constexpr int kChip = 9; // side of the square in the color of a layer whose name has another one
 
 // Width of an icon's column: half the system's icon size, 16 pixels at 96 dpi.
 int ColumnWidth() {
@@ -31,12 +34,19 @@ void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
     ::DrawIconEx(dc, x, top, icon, 2 * size, 2 * size, 0, nullptr, DI_NORMAL);
 }
 
-// The layer's own colour where it differs from the background.
-COLORREF NameColor(HDC dc, COLORREF color) {
-    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-    const bool invisible =
-        color == kColorNone || ::GetNearestColor(dc, color) == ::GetNearestColor(dc, window);
-    return invisible ? InkOnWindow() : color;
+// Whether a name in the color can be read on the window's color.
+bool IsReadable(HDC dc, COLORREF color) {
+    const COLORREF window = ::GetNearestColor(dc, ::GetSysColor(COLOR_WINDOW));
+    return Contrast(::GetNearestColor(dc, color), window) >= kReadableContrast;
+}
+
+// In the middle of the row; returns the width.
+int DrawChip(HDC dc, int x, const RECT& row, COLORREF color, COLORREF frame) {
+    const int size = ScreenPixels(kChip), top = (row.top + row.bottom - size) / 2;
+    const RECT chip = {x, top, x + size, top + size};
+    FillSolid(dc, chip, color);
+    FrameRectangle(dc, chip, frame, 1);
+    return size;
 }
 
 } // namespace
@@ -69,6 +79,10 @@ void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(std::max(RowTextHeight(m_hWnd), ColumnWidth()));
 }
 
+int CLayerControl::MeasureNameWidth(HDC dc, const char* name) {
+    return 2 * ColumnWidth() + 3 * ScreenPixels(kGap) + ScreenPixels(kChip) + TextWidth(dc, name);
+}
+
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const bool whole =
         IsNoItem(*pDIS) || IsClosedField(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
@@ -80,24 +94,45 @@ void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     if (focus) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
 }
 
+DrawingStruct* CLayerControl::Drawing() const {
+    return m_pTable ? TableGetOwner(m_pTable) : nullptr;
+}
+
+CString CLayerControl::DescribeItem(int index) {
+    char name[kItemTextSize] = "";
+    unsigned long id = GetControlItem(index, name);
+    if (id == 0 && index < 0) id = m_nSelected;
+    DrawingStruct* const drawing = Drawing();
+    if (!IsTableIdentifier(id) || !drawing) return CComboControl::DescribeItem(index);
+    const auto layer = static_cast<uint16_t>(id);
+    if (!*name) TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
+    CString text = name;
+    if (!LayerGetVisible(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_HIDDEN);
+    if (LayerGetReadOnly(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_LOCKED);
+    return text;
+}
+
 void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     char name[kItemTextSize];
     unsigned int id = RequestedStyle(*this, request, name);
     if (id == 0) id = m_nSelected;
-    DrawingStruct* const drawing = m_pTable ? TableGetOwner(m_pTable) : nullptr;
+    DrawingStruct* const drawing = Drawing();
     if (!IsTableIdentifier(id) || !drawing) return;
     const auto layer = static_cast<uint16_t>(id);
     if (!*name) TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
     if (!m_hIconVisible) LoadIcons();
 
     const RECT& rect = request.rcItem;
-    const int column = ColumnWidth();
+    const int column = ColumnWidth(), gap = ScreenPixels(kGap);
     if (LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
     if (LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
 
-    const bool ownColor = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
-    const COLORREF color =
-        ownColor ? NameColor(request.hDC, LayerGetColor(drawing, layer)) : ColorsOf(request).text;
+    const COLORREF color = LayerGetColor(drawing, layer);
+    const bool hasColor = color != kColorNone, readable = hasColor && IsReadable(request.hDC, color);
+    const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
+    const COLORREF ink = plain ? InkOnWindow() : ColorsOf(request).text;
+    int x = rect.left + 2 * column + gap;
+    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, ink) + gap;
     const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
-    DrawClippedText(request.hDC, rect.left + 2 * column, rect.top + offset, rect, name, color);
+    DrawClippedText(request.hDC, x, rect.top + offset, rect, name, plain && readable ? color : ink);
 }

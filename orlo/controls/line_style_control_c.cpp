@@ -47,3 +47,8 @@ void CLineStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
         return DrawLineStyleItem(*pDIS, kComboLineLook, item);
     });
 }
+
+CString CLineStyleControlC::DescribeItem(int index) {
+    const CString style = StyleControl::NameWithoutItem(*this, index);
+    return style.IsEmpty() ? CComboControl::DescribeItem(index) : style;
+}

@@ -51,3 +51,8 @@ void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
         return DrawLineStyleItem(*pDIS, kListLineLook, item);
     });
 }
+
+CString CLineStyleControlL::DescribeItem(int index) {
+    const CString style = StyleControl::NameWithoutItem(*this, index);
+    return style.IsEmpty() ? CListControl::DescribeItem(index) : style;
+}

@@ -7,9 +7,44 @@
 
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/filling.h"
+#include "orlo/controls/item_names.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+#include "orlo/win/accessible_window.h"
 #include "orlo/win/screen_scale.h"
+
+namespace {
+
+class ListKind : public AccessibleListBox {
+public:
+    std::optional<std::string> Value(HWND window) const override {
+        CListControl* const list = Of(window);
+        if (!list) return std::nullopt;
+        return std::string(list->DescribeItem(list->GetCurSel()));
+    }
+    std::string ItemName(HWND window, int index) const override {
+        CListControl* const list = Of(window);
+        return list ? std::string(list->DescribeItem(index)) : "";
+    }
+
+private:
+    static CListControl* Of(HWND window) {
+        return dynamic_cast<CListControl*>(CWnd::FromHandlePermanent(window));
+    }
+};
+const ListKind kListKind;
+
+// As the system notifies of a selection by the keyboard.
+void NotifySelection(HWND list, int index) {
+    NotifyValueChange(list);
+    if (index < 0) return;
+    ::NotifyWinEvent(EVENT_OBJECT_SELECTION, list, OBJID_CLIENT, index + 1);
+    if (::GetFocus() == list) ::NotifyWinEvent(EVENT_OBJECT_FOCUS, list, OBJID_CLIENT, index + 1);
+}
+
+} // namespace
 
 WNDPROC CListControl::lpfnSuperWndProc = nullptr;
 
@@ -23,9 +58,11 @@ ON_MESSAGE(kFillMessage, &CListControl::OnFillMessage)
 ON_MESSAGE(WM_INITIALUPDATE, &CListControl::OnInitialUpdate)
 END_MESSAGE_MAP()
 
-CListControl::CListControl(unsigned int nControlID) : m_nControlID(nControlID) {}
+CListControl::CListControl(unsigned int nControlID)
+    : m_nControlID(nControlID), m_names(std::make_unique<ItemNames>()) {}
 
-CListControl::CListControl(unsigned int nControlID, HWND hWnd) : m_nControlID(nControlID), m_bAutoDelete(1) {
+CListControl::CListControl(unsigned int nControlID, HWND hWnd)
+    : m_nControlID(nControlID), m_bAutoDelete(1), m_names(std::make_unique<ItemNames>()) {
     Attach(hWnd);
 }
 
@@ -58,12 +95,25 @@ void CListControl::PostNcDestroy() {
 }
 
 LRESULT CListControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_CHAR && TypeAhead(m_hWnd, ControlItems::OfList(m_hWnd), wParam)) return 0;
-    return CListBox::WindowProc(message, wParam, lParam);
+    const ControlItems items = ControlItems::OfList(m_hWnd);
+    m_names->Watch(items, message);
+    if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
+    if (message == WM_GETOBJECT) {
+        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kListKind)) return object;
+    }
+    const LRESULT result = CListBox::WindowProc(message, wParam, lParam);
+    if (items.IsSelection(message)) NotifySelection(m_hWnd, GetCurSel());
+    return result;
 }
 
 unsigned long CListControl::GetControlItem(int index, char* text) {
     return ItemOf(ControlItems::OfList(m_hWnd), index, text);
+}
+
+CString CListControl::DescribeItem(int index) {
+    char name[kItemTextSize];
+    GetControlItem(index, name);
+    return index >= 0 || GetCount() <= 0 ? CString(name) : LibraryText(IDS_VARIED);
 }
 
 void CListControl::FillControl(WPARAM, LPARAM lParam) {
@@ -92,6 +142,14 @@ LRESULT CListControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
+// Without a part of a row at the bottom.
+static int HeightOfWholeRows(HWND list, int height, int row) {
+    RECT client = {};
+    ::GetClientRect(list, &client);
+    const int frame = static_cast<int>(WindowSize(list).cy) - client.bottom;
+    return frame + std::max((height - frame) / std::max(row, 1), 1) * row;
+}
+
 // Rows grow with the resolution, and the list with them as far as the template, whose font may not grow as much, has made
 // room for it.
 static int HeightInRoom(HWND list, int at96) {
@@ -101,7 +159,8 @@ static int HeightInRoom(HWND list, int at96) {
 LRESULT CListControl::OnInitialUpdate(WPARAM, LPARAM) {
     SubclassCtl3d(1);
     UseSharedFont(m_hWnd);
-    SetControlHeight(m_hWnd, HeightInRoom(m_hWnd, m_nHeight));
+    const int height = HeightInRoom(m_hWnd, m_nHeight);
+    SetControlHeight(m_hWnd, HeightOfWholeRows(m_hWnd, height, MeasuredRow(*this)));
     NotifyApplication(*this, m_nControlID, kControlReady);
     return 0;
 }

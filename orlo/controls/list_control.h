@@ -4,11 +4,15 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 #include "orlo/binding/fuzzy.h"
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
 #include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
+
+class ItemNames;
 
 class ORLO_API CListControl : public CListBox {
     DECLARE_DYNAMIC(CListControl)
@@ -22,11 +26,12 @@ public:
     // As in CComboControl.
     virtual unsigned long GetControlItem(int index, char* text);
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
+    virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
-    int m_nHeight =
-        320; // given to the window at WM_INITIALUPDATE, in pixels at 96 dpi; at a higher resolution
-             // it is the template's room, between these pixels and the same size scaled
+    // Given to the window at WM_INITIALUPDATE less what shows a part of a row, in pixels at 96 dpi; at a higher resolution it
+    // is the template's room, between these pixels and the same size scaled.
+    int m_nHeight = 320;
     unsigned long m_dwStyle = 0;     // window style at the creation
     int m_bAutoDelete = 0;           // the object goes with its window
     TableStruct* m_pTable = nullptr; // the host's
@@ -61,4 +66,5 @@ protected:
 
 private:
     bool m_beingMade = false; // the window; false too where one is taken over
+    std::unique_ptr<ItemNames> m_names;
 };

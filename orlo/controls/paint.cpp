@@ -2,7 +2,29 @@
 
 #include "orlo/controls/paint.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
+
+namespace {
+
+// Of one channel, from the gamma of sRGB.
+double LinearLight(BYTE channel) {
+    const double value = channel / 255.0;
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(COLORREF color) {
+    return 0.2126 * LinearLight(GetRValue(color)) + 0.7152 * LinearLight(GetGValue(color)) +
+           0.0722 * LinearLight(GetBValue(color));
+}
+
+} // namespace
+
+double Contrast(COLORREF a, COLORREF b) {
+    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
 
 void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
     const COLORREF before = ::SetBkColor(dc, color);
@@ -23,9 +45,9 @@ void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, C
 }
 
 COLORREF InkOnWindow() {
-    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-    const int mean = (GetRValue(window) + GetGValue(window) + GetBValue(window)) / 3;
-    return mean < 0x80 ? ::GetSysColor(COLOR_WINDOWTEXT) : RGB(0, 0, 0);
+    constexpr COLORREF kBlack = RGB(0, 0, 0);
+    const bool readable = Contrast(kBlack, ::GetSysColor(COLOR_WINDOW)) >= kReadableContrast;
+    return readable ? kBlack : ::GetSysColor(COLOR_WINDOWTEXT);
 }
 
 RECT Inflated(const RECT& rect, int by) {

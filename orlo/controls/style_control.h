@@ -38,6 +38,16 @@ struct StyleControl {
         control.SetCurSel(control.FindItem(control.m_nSelected));
     }
 
+    // The name of the style that is shown without an item; empty for an item, or without such a style.
+    template <class Control>
+    static CString NameWithoutItem(const Control& control, int index) {
+        char name[kItemTextSize] = "";
+        if (index < 0 && control.m_pTable && IsTableIdentifier(control.m_nSelected))
+            TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name,
+                              kEntryNameSize);
+        return name;
+    }
+
     // draw(StyleItem) draws a whole item, and returns false if neither selection nor focus can be drawn on it.
     template <class Control, class Draw>
     static void DrawItem(Control& control, const DRAWITEMSTRUCT& request, SIZE beyond, Draw draw) {

@@ -67,6 +67,10 @@ void CStyleNameControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(RowTextHeight(m_hWnd));
 }
 
+int CStyleNameControl::MeasureNameWidth(HDC dc, const char* name) {
+    return PlainRowWidth(dc, name);
+}
+
 void CStyleNameControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (!*item.text) return;

@@ -23,4 +23,5 @@ public:
 
 protected:
     CStyleNameControl(HWND hWnd);
+    int MeasureNameWidth(HDC dc, const char* name) override;
 };

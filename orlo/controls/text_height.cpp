@@ -2,6 +2,8 @@
 
 #include "orlo/controls/text_height.h"
 
+#include <cstring>
+
 #include "orlo/win/gdi.h"
 
 namespace {
@@ -22,6 +24,12 @@ int TextHeight(HDC dc) {
     SIZE size = {};
     ::GetTextExtentPoint32A(dc, "M", 1, &size);
     return size.cy;
+}
+
+int TextWidth(HDC dc, const char* text) {
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, text, static_cast<int>(std::strlen(text)), &size);
+    return size.cx;
 }
 
 int GetOwnerDrawFixedTextHeight(HWND hWnd) {

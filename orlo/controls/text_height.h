@@ -11,6 +11,8 @@ ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
 
 // The same in the font that is selected in a device context.
 int TextHeight(HDC dc);
+// Width of the text in that font.
+int TextWidth(HDC dc, const char* text);
 
 // The same in the font that was given to the window (WM_SETFONT); 0 without one.
 int ControlFontHeight(HWND window);

@@ -3,28 +3,60 @@
 #include "orlo/controls/type_ahead.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string>
-
-#include "orlo/controls/control_item.h"
+#include <vector>
 
 namespace {
 
-// What has been typed so far. The keyboard has one focus: letters that go to another control, come after a pause or find
+constexpr DWORD kDoubleClicksOfPause = 4; // as in the system's boxes
+
+std::string Upper(std::string text) {
+    ::CharUpperBuffA(&text[0], static_cast<DWORD>(text.size()));
+    return text;
+}
+
+// The first item from that one on, wrapping around, whose name begins with the prefix; -1 without one.
+int FindName(const std::vector<std::string>& names, const std::string& prefix, int from) {
+    const int count = static_cast<int>(names.size());
+    for (int step = 0; step < count; ++step) {
+        const int index = (from + step) % count;
+        const std::string& name = names[static_cast<size_t>(index)];
+        if (name.size() >= prefix.size() && Upper(name.substr(0, prefix.size())) == prefix) return index;
+    }
+    return -1;
+}
+
+// What has been typed so far. The keyboard has one focus: characters that go to another control, come after a pause or find
 // another selection than they have left begin anew.
 class TypedText {
 public:
-    bool GoesOnIn(HWND control, const ControlItems& items) const {
-        const DWORD pause = 4 * ::GetDoubleClickTime(); // as in the system's boxes
-        return control == control_ && ::GetTickCount() - last_ <= pause && items.Selected() == selected_;
+    bool GoesOnIn(HWND control, int selected) const {
+        const DWORD pause = kDoubleClicksOfPause * ::GetDoubleClickTime();
+        return control == control_ && !before_.empty() && ::GetTickCount() - last_ <= pause &&
+               selected == selected_;
     }
-    // The letters with one more, in upper case.
-    const std::string& Take(HWND control, char letter, bool goesOn) {
-        if (!goesOn) text_.clear();
-        text_ += letter;
-        ::CharUpperBuffA(&text_[0], static_cast<DWORD>(text_.size()));
+    void BeginIn(HWND control) {
         control_ = control;
-        return text_;
+        text_.clear();
+        before_.clear();
+    }
+    // Each returns the item to select, which is the selected one if nothing changes.
+    int Add(char letter, const std::vector<std::string>& names, int selected) {
+        const std::string alone = Upper({letter});
+        if (!before_.empty()) {
+            const int found = FindName(names, text_ + alone, std::max(selected, 0));
+            if (found >= 0) return Accept(text_ + alone, selected, found);
+        }
+        const int found = FindName(names, alone, selected + 1);
+        if (found < 0) return selected;
+        before_.clear();
+        return Accept(alone, selected, found);
+    }
+    int TakeBack() {
+        const int selected = before_.back();
+        before_.pop_back();
+        text_.pop_back();
+        return selected;
     }
     void Leave(int selected) {
         selected_ = selected;
@@ -32,60 +64,41 @@ public:
     }
 
 private:
+    int Accept(const std::string& text, int before, int found) {
+        text_ = text;
+        before_.push_back(before);
+        return found;
+    }
+
     HWND control_ = nullptr;
     int selected_ = -1;
     DWORD last_ = 0;
-    std::string text_;
+    std::string text_;        // in upper case
+    std::vector<int> before_; // the selection before each of its characters
 };
 
 TypedText g_typed;
 
-bool BeginsWith(const char* name, const std::string& prefix) {
-    char start[kItemTextSize];
-    if (std::strlen(name) < prefix.size() || prefix.size() > sizeof start) return false;
-    const auto size = static_cast<DWORD>(prefix.size());
-    std::memcpy(start, name, size);
-    ::CharUpperBuffA(start, size);
-    return std::memcmp(start, prefix.data(), size) == 0;
-}
-
-// The first item from that one on, wrapping around, whose name begins with it; -1 without one.
-int FindName(const ControlItems& items, const std::string& prefix, int from) {
-    char text[kItemTextSize];
-    const int count = items.Count();
-    for (int step = 0; step < count; ++step) {
-        const int index = (from + step) % count;
-        if (!items.GetText(index, text, sizeof text)) continue;
-        ParseControlItem(text);
-        if (BeginsWith(text, prefix)) return index;
-    }
-    return -1;
-}
-
-// A first letter goes on to the next item, and so does the same letter again; more letters keep an item that they fit.
-int FindTyped(const ControlItems& items, const std::string& prefix) {
-    const int selected = items.Selected();
-    if (prefix.size() == 1) return FindName(items, prefix, selected + 1);
-    const int found = FindName(items, prefix, std::max(selected, 0));
-    const bool oneLetter = prefix.find_first_not_of(prefix[0]) == std::string::npos;
-    return found < 0 && oneLetter ? FindName(items, prefix.substr(0, 1), selected + 1) : found;
-}
-
 } // namespace
 
-bool TypeAhead(HWND control, const ControlItems& items, WPARAM character) {
-    if (character < ' ' || character > 0xFF || items.Count() <= 0) return false;
-    const bool goesOn = g_typed.GoesOnIn(control, items);
-    if (character == ' ' && !goesOn) return false;
+bool TypeAhead(HWND control, const ControlItems& items, ItemNames& names, WPARAM character) {
+    const bool takesBack = character == VK_BACK;
+    if ((character < ' ' && !takesBack) || character > 0xFF || items.Count() <= 0) return false;
     const int before = items.Selected();
-    const int index = FindTyped(items, g_typed.Take(control, static_cast<char>(character), goesOn));
-    const bool changes = index >= 0 && index != before;
-    if (changes) items.Select(index);
-    g_typed.Leave(items.Selected());
-    if (changes) {
-        // CBN_SELCHANGE and LBN_SELCHANGE are the same.
-        ::SendMessageA(::GetParent(control), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), CBN_SELCHANGE),
-                       reinterpret_cast<LPARAM>(control));
+    if (!g_typed.GoesOnIn(control, before)) {
+        if (character == ' ' || takesBack) return false;
+        g_typed.BeginIn(control);
     }
+    const int index =
+        takesBack ? g_typed.TakeBack() : g_typed.Add(static_cast<char>(character), names.Of(items), before);
+    if (index != before) items.Select(index);
+    g_typed.Leave(items.Selected());
+    if (index != before) NotifySelectionChange(control);
     return true;
+}
+
+void NotifySelectionChange(HWND control) {
+    // CBN_SELCHANGE and LBN_SELCHANGE are the same.
+    ::SendMessageA(::GetParent(control), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), CBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(control));
 }

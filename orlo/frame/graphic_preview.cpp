@@ -2,15 +2,21 @@
 
 #include "orlo/frame/graphic_preview.h"
 
+#include <oleacc.h>
+
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/application.h"
 #include "orlo/host/table.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+#include "orlo/win/accessible_window.h"
 #include "orlo/win/realized_palette.h"
 
 IMPLEMENT_DYNAMIC(CGraphicPreview, CWnd)
 
 BEGIN_MESSAGE_MAP(CGraphicPreview, CWnd)
 ON_WM_PAINT()
+ON_MESSAGE(WM_GETOBJECT, &CGraphicPreview::OnGetObject)
 END_MESSAGE_MAP()
 
 namespace {
@@ -40,6 +46,13 @@ void FillBackground(HDC dc, const CRect& rect) {
     }
 }
 
+class PreviewKind : public AccessibleKind {
+public:
+    long Role() const override { return ROLE_SYSTEM_GRAPHIC; }
+    std::string Name(HWND) const override { return std::string(LibraryText(IDS_PREVIEW)); }
+};
+const PreviewKind kPreviewKind;
+
 } // namespace
 
 CGraphicPreview::CGraphicPreview() : m_pViewport(::ViewportNewEx()) {}
@@ -50,6 +63,11 @@ CGraphicPreview::~CGraphicPreview() {
 
 int CGraphicPreview::Create(const RECT& rect, CWnd* pParentWnd, unsigned int nID) {
     return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_BORDER, rect, pParentWnd, nID);
+}
+
+LRESULT CGraphicPreview::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kPreviewKind);
+    return object != 0 ? object : Default();
 }
 
 void CGraphicPreview::OnPaint() {

@@ -20,6 +20,7 @@ public:
 
 protected:
     void OnPaint();
+    LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 
     ORLO_API static const AFX_MSGMAP messageMap;
     const AFX_MSGMAP* GetMessageMap() const override;

@@ -89,6 +89,7 @@ TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
 
 TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
     m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // nothing there
+    EXPECT_EQ(0, m_list.checks) << "the current item is -1, which would mean all";
     for (const char* name : {"a", " b", "c"})
         m_list.AddString(name, 0);
     m_list.SetFocus();

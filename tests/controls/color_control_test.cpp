@@ -167,11 +167,9 @@ protected:
 TEST_F(Swatch, ColorFillsTheRowAndTheNameContrasts) {
     const struct {
         COLORREF color, text;
-    } rows[] = {{RGB(0, 0, 250), kWhite},
-                {RGB(5, 5, 5), kWhite},
-                {RGB(250, 250, 0), kBlack},
-                {RGB(128, 128, 128), kBlack},
-                {RGB(127, 127, 129), kWhite}};
+    } rows[] = {{RGB(0, 0, 250), kWhite},     {RGB(5, 5, 5), kWhite},       {RGB(250, 250, 0), kBlack},
+                {RGB(128, 128, 128), kBlack}, {RGB(127, 127, 129), kWhite}, {RGB(0, 255, 0), kBlack},
+                {RGB(255, 0, 0), kWhite}};
     for (const auto& row : rows) {
         DrawOnly(row.color, "MMMM");
         EXPECT_EQ(row.color, m_pixels.At(1, 21));
@@ -194,8 +192,11 @@ TEST_F(Swatch, NameStandsInTheMiddleAndBeginsAtTheLeftIfTooWide) {
 
 TEST_F(Swatch, WhiteHasABlackFrame) {
     DrawOnly(kWhite, "");
-    for (const POINT at : {POINT{50, 19}, POINT{50, 35}, POINT{99, 28}})
+    for (const POINT at : {POINT{50, 21}, POINT{50, 33}, POINT{97, 28}})
         EXPECT_EQ(kBlack, m_pixels.At(at.x, at.y)) << at.x << "," << at.y;
+    EXPECT_EQ(kUntouched, m_pixels.At(50, 19)) << "within its row";
+    DrawOnly(kWhite, "", kField);
+    EXPECT_EQ(kBlack, m_pixels.At(50, 19)) << "over the border of the field";
     EXPECT_EQ(kWhite, m_pixels.At(50, 28));
 }
 
@@ -236,7 +237,7 @@ TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     EXPECT_LT(500, m_pixels.Count(kRow, kWhite));
     EXPECT_LT(10, m_pixels.Count(Middle(kRow), kBlack));
     DrawOnly(kBlack, "MMMM");
-    EXPECT_EQ(yellow, m_pixels.At(50, 19)) << "black on black is framed";
+    EXPECT_EQ(yellow, m_pixels.At(50, 21)) << "black on black is framed";
     EXPECT_LT(10, m_pixels.Count(Middle(kRow), kWhite));
 }
 

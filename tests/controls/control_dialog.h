@@ -10,10 +10,17 @@
 #include "orlo/controls/combo_control.h"
 #include "orlo/controls/list_control.h"
 #include "orlo/entry/entry.h"
+#include "orlo/win/gdi.h"
 #include "support/object_counts.h"
 #include "support/pixels.h"
 #include "support/scheme_colors.h"
 #include "support/test_drawing.h"
+
+// Device pixels of the screen for a size in pixels at 96 dpi.
+inline int Scaled(int at96) {
+    const orlo::WindowDC screen(nullptr);
+    return ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96);
+}
 
 // Receives what controls report to the application.
 class HostWindow : public CWnd {

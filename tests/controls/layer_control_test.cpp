@@ -65,16 +65,25 @@ TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
 }
 
 TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
-    const uint16_t green = Add("green", RGB(0, 200, 0), 0);
+    const uint16_t green = Add("green", RGB(0, 140, 0), 0);
     const uint16_t hidden = Add("as the background", ::GetSysColor(COLOR_WINDOW), 0);
     Fill(IDC_LAYER, m_table, green);
     const RECT name = {32, 8, 140, 24};
     Draw(Index(green));
-    EXPECT_LT(10, m_pixels.Count(name, RGB(0, 200, 0)));
+    EXPECT_LT(10, m_pixels.Count(name, RGB(0, 140, 0)));
     Draw(Index(hidden));
     EXPECT_LT(10, m_pixels.Count(name, RGB(0, 0, 0)));
+    for (const auto& [layer, faint] : {std::pair("MMM", RGB(255, 255, 0)), {"MMMM", RGB(0, 255, 255)}}) {
+        const uint16_t id = Add(layer, faint, 0);
+        Fill(IDC_LAYER, m_table, id);
+        Draw(Index(id));
+        const RECT chip = {32, 8, 48, 24}, rest = {48, 8, 140, 24};
+        EXPECT_LT(20, m_pixels.Count(chip, faint)) << "a square in the color";
+        EXPECT_LT(10, m_pixels.Count(rest, RGB(0, 0, 0))) << "the name";
+        EXPECT_EQ(0, m_pixels.Count(rest, faint));
+    }
     Draw(Index(green), ODA_DRAWENTIRE, ODS_SELECTED);
-    EXPECT_EQ(0, m_pixels.Count(name, RGB(0, 200, 0)));
+    EXPECT_EQ(0, m_pixels.Count(name, RGB(0, 140, 0)));
     EXPECT_LT(10, m_pixels.Count(name, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
     EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
 }

@@ -183,7 +183,12 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
         {"Red", "dark r", "Dark red", 2},
         {"Walls", "x", "Walls", 0},
         {"", "rx", "Red", 1},
-        {"", "rxd", "Red", 1},
+        {"", "rxe", "Red", 1},   // a letter that continues no name is ignored
+        {"", "rd", "Doors", 2},  // unless another name begins with it
+        {"", "xgr", "Green", 1}, // and does not count for what follows
+        {"", "gre\b\by", "Yellow", 2},
+        {"Walls", "wd\b", "windows", 3},
+        {"Walls", "\b", "Walls", 0},
         {"Grey", "green", "Green", 1},
         {"", "8", "8", 1}, // not the keys
         {"", "0", "", 0},
@@ -203,6 +208,11 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
     ::SetDoubleClickTime(1);
     ::Sleep(50);
     EXPECT_EQ("Doors", type("d")) << "after a pause";
+    ::SetDoubleClickTime(200);
+    this->m_control.SetCurSel(-1);
+    type("gre");
+    ::Sleep(300);
+    EXPECT_EQ("Grey", type("y")) << "the pause is longer than a double click";
     ::SetDoubleClickTime(usual);
 
     TypeParam other;
@@ -215,9 +225,54 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
     other.DestroyWindow();
 }
 
+// Counts how often its items are read.
+template <class Base>
+class Reading : public Base {
+public:
+    int read = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        read += message == CB_GETLBTEXT || message == LB_GETTEXT;
+        return Base::WindowProc(message, wParam, lParam);
+    }
+};
+
+TYPED_TEST(TableControl, ReadsItsItemsOnceForManyLetters) {
+    Reading<TypeParam> control;
+    ASSERT_TRUE(control.MakeIn(&this->m_host));
+    for (const char* item : {"00000001\tGreen", "00000002\tGrey", "00000003\tRed"})
+        control.AddString(item);
+    const auto type = [&](const char* letters) {
+        for (; *letters; ++letters)
+            control.SendMessage(WM_CHAR, static_cast<WPARAM>(*letters), 1);
+    };
+    type("grey");
+    EXPECT_EQ(1, control.GetCurSel());
+    EXPECT_EQ(3, control.read);
+    control.AddString("00000004\tGreyish");
+    type("i");
+    EXPECT_EQ(3, control.GetCurSel()) << "the items have changed";
+    control.ResetContent();
+    type("g");
+    EXPECT_EQ(-1, control.GetCurSel());
+    control.DestroyWindow();
+}
+
 // ---- What only the combo does
 
-class DropDown : public TableControl<TableCombo> {};
+class DropDown : public TableControl<TableCombo> {
+protected:
+    // Of the open list, without its frame.
+    int ListHeight() {
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_TRUE(::GetComboBoxInfo(m_control.m_hWnd, &info));
+        CRect list;
+        ::GetClientRect(info.hwndList, list);
+        return list.Height();
+    }
+};
 
 TEST_F(DropDown, ShowsWholeRowsUpTo320Pixels) {
     const struct {
@@ -236,6 +291,11 @@ TEST_F(DropDown, ShowsWholeRowsUpTo320Pixels) {
         m_control.SizeDropDown();
         EXPECT_EQ(row.rows * static_cast<int>(row.rowHeight) + frame, m_control.m_nDropHeight) << row.items;
         EXPECT_GE(320, m_control.m_nDropHeight);
+        if (row.rowHeight == 16 && row.rows > 0) { // as the window was made
+            m_control.ShowDropDown(TRUE);
+            EXPECT_EQ(row.rows * 16, ListHeight()) << row.items;
+            m_control.ShowDropDown(FALSE);
+        }
         m_control.GetWindowRect(again);
         EXPECT_EQ(closed.Width(), again.Width());
     }
@@ -260,14 +320,40 @@ TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
         open();
         ASSERT_TRUE(m_control.GetDroppedState()) << items;
         items += 2;
-        COMBOBOXINFO info = {};
-        info.cbSize = sizeof info;
-        ASSERT_TRUE(::GetComboBoxInfo(m_control.m_hWnd, &info));
-        CRect list;
-        ::GetClientRect(info.hwndList, list);
-        EXPECT_NEAR(items * 16, list.Height(), 8) << items;
+        EXPECT_NEAR(items * 16, ListHeight(), 8) << items;
         m_control.ShowDropDown(FALSE);
     }
+}
+
+TEST_F(DropDown, EscapeRestoresTheChoice) {
+    m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
+    m_control.ShowWindow(SW_SHOW);
+    m_control.SetFocus();
+    for (const char* item : {"00000001\tWalls", "00000002\tDoors", "00000003\tWindows"})
+        m_control.AddString(item);
+    m_control.SetCurSel(1);
+    const auto key = [&](WPARAM virtualKey) { m_control.SendMessage(WM_KEYDOWN, virtualKey, 1); };
+    for (const bool typed : {true, false}) {
+        m_control.ShowDropDown(TRUE);
+        if (typed)
+            m_control.SendMessage(WM_CHAR, 'w', 1);
+        else
+            key(VK_DOWN);
+        EXPECT_NE(1, m_control.GetCurSel());
+        m_host.notifications.clear();
+        key(VK_ESCAPE);
+        EXPECT_FALSE(m_control.GetDroppedState());
+        EXPECT_EQ(1, m_control.GetCurSel());
+        EXPECT_EQ(1, m_host.Count(CBN_SELCHANGE));
+    }
+    m_control.ShowDropDown(TRUE);
+    m_host.notifications.clear();
+    key(VK_ESCAPE);
+    EXPECT_EQ(0, m_host.Count(CBN_SELCHANGE)) << "nothing was chosen";
+    m_control.ShowDropDown(TRUE);
+    key(VK_DOWN);
+    key(VK_RETURN);
+    EXPECT_EQ(2, m_control.GetCurSel());
 }
 
 // The parent of a clicked combo.
@@ -295,9 +381,11 @@ TEST(ComboClick, OnlyTheButtonOpensTheList) {
 
     CRect client;
     combo.GetClientRect(client);
-    combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 16, 5));
+    combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - Scaled(16) - 1, 5));
+    EXPECT_FALSE(combo.GetDroppedState());
+    combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - Scaled(16), 5));
     EXPECT_TRUE(combo.GetDroppedState());
-    EXPECT_EQ(1u, parent.clicks.size());
+    EXPECT_EQ(2u, parent.clicks.size());
     combo.ShowDropDown(FALSE);
     combo.DestroyWindow();
     parent.DestroyWindow();

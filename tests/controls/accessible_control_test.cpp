@@ -1,0 +1,156 @@
+// What a screen reader is told of the controls: names, values, roles and states, and events.
+
+#include "control_dialog.h"
+
+#include <drawcore/layer.h>
+#include <oleacc.h>
+
+#include "orlo/controls/check_list_box.h"
+#include "orlo/controls/color_control.h"
+#include "support/accessible.h"
+
+namespace {
+
+class Spoken : public ControlDialog {
+protected:
+    uint16_t AddLayer(const char* name, uint32_t flags) {
+        const uint16_t id = TableEntryAdd(m_drawing.Table(kTableLayers), name, nullptr);
+        LayerSet(m_drawing.Get(), id, RGB(0, 0, 200), flags, 0);
+        return id;
+    }
+    Accessible Of(int id) const { return Accessible(Control(id)); }
+    Accessible ListOf(int id) const {
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_TRUE(::GetComboBoxInfo(Control(id), &info));
+        return Accessible(info.hwndList);
+    }
+};
+
+TEST_F(Spoken, NamesStandForTheKeysOfItems) {
+    const uint16_t locked = AddLayer("Walls", kLayerLocked | kLayerOff);
+    AddLayer("Doors", 0);
+    Fill(IDC_LAYER, m_drawing.Table(kTableLayers), locked);
+    EXPECT_EQ("Walls, hidden, locked", Of(IDC_LAYER).Value());
+    EXPECT_EQ(ROLE_SYSTEM_COMBOBOX, Of(IDC_LAYER).Role());
+    const Accessible list = ListOf(IDC_LAYER);
+    ASSERT_EQ(Get<CComboControl>(IDC_LAYER).GetCount(), list.Count());
+    EXPECT_EQ("Walls, hidden, locked", list.Name(list.Count() - 1));
+    EXPECT_EQ("Doors", list.Name(list.Count()));
+    EXPECT_EQ(ROLE_SYSTEM_LISTITEM, list.Role(1));
+
+    const int lists[] = {IDC_LINE_STYLE_LIST, IDC_BRUSH_STYLE_LIST};
+    const char* const tables[] = {kTableLineStyles, kTableBrushStyles};
+    for (const int i : {0, 1}) {
+        Fill(lists[i], m_drawing.Table(tables[i]));
+        const Accessible styles = Of(lists[i]);
+        EXPECT_EQ(ROLE_SYSTEM_LIST, styles.Role());
+        ASSERT_LT(0, styles.Count());
+        for (int item = 1; item <= styles.Count(); ++item) {
+            EXPECT_NE("", styles.Name(item));
+            EXPECT_EQ(std::string::npos, styles.Name(item).find('\t')) << styles.Name(item);
+        }
+        EXPECT_EQ("varied", styles.Value());
+        styles.Select(2);
+        EXPECT_EQ(1, Get<CListControl>(lists[i]).GetCurSel());
+        EXPECT_EQ(styles.Name(2), styles.Value());
+        EXPECT_TRUE(styles.State(2) & STATE_SYSTEM_SELECTED);
+        EXPECT_FALSE(styles.State(1) & STATE_SYSTEM_SELECTED);
+    }
+}
+
+TEST_F(Spoken, AColorWithoutAnItemIsItsNumbers) {
+    TableStruct* const colors = m_drawing.Table(kTableColors);
+    const std::pair<DWORD, const char*> rows[] = {
+        {0x00123456, "86, 52, 18"}, {kColorIndeterminate, "varied"}, {kColorNone, "varied"}};
+    for (const auto& [color, spoken] : rows) {
+        Fill(IDC_COLOR, colors, color);
+        EXPECT_EQ(spoken, Of(IDC_COLOR).Value()) << color;
+    }
+    Fill(IDC_COLOR, nullptr, kColorNone);
+    EXPECT_EQ("", Of(IDC_COLOR).Value());
+}
+
+TEST_F(Spoken, TextOfTheItemsStaysAsItIs) {
+    AddLayer("Walls", 0);
+    Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
+    CString text;
+    Get<CComboControl>(IDC_LAYER).GetLBText(0, text);
+    EXPECT_EQ('\t', text[8]);
+}
+
+// The events of this thread.
+class Events {
+public:
+    Events() {
+        s_seen.clear();
+        m_hook = ::SetWinEventHook(EVENT_MIN, EVENT_MAX, nullptr, OnEvent, ::GetCurrentProcessId(),
+                                   ::GetCurrentThreadId(), WINEVENT_OUTOFCONTEXT);
+    }
+    ~Events() { ::UnhookWinEvent(m_hook); }
+    int Count(DWORD event, HWND window, LONG child) const {
+        MSG message;
+        while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageA(&message);
+        int count = 0;
+        for (const Seen& seen : s_seen)
+            count += seen.event == event && seen.window == window && seen.child == child;
+        return count;
+    }
+
+private:
+    struct Seen {
+        DWORD event;
+        HWND window;
+        LONG child;
+    };
+    static void CALLBACK OnEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG child, DWORD, DWORD) {
+        s_seen.push_back({event, window, child});
+    }
+    static inline std::vector<Seen> s_seen;
+    HWINEVENTHOOK m_hook;
+};
+
+TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
+    AddLayer("Walls", 0);
+    Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
+    Fill(IDC_LINE_STYLE_LIST, m_drawing.Table(kTableLineStyles));
+    CComboControl& layers = Get<CComboControl>(IDC_LAYER);
+    CListControl& styles = Get<CListControl>(IDC_LINE_STYLE_LIST);
+    const Events events;
+    layers.SendMessage(WM_CHAR, 'w', 1);
+    EXPECT_EQ(1, events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF));
+    layers.SetCurSel(0);
+    EXPECT_EQ(2, events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF));
+    styles.SetCurSel(1);
+    EXPECT_EQ(1, events.Count(EVENT_OBJECT_SELECTION, styles.m_hWnd, 2));
+    CCheckListBox list;
+    ASSERT_TRUE(
+        list.Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
+    list.AddString("Walls", 1);
+    list.ToggleItem(0);
+    EXPECT_EQ(2, events.Count(EVENT_OBJECT_STATECHANGE, list.m_hWnd, 1));
+    list.DestroyWindow();
+}
+
+TEST_F(Spoken, ACheckListHasCheckButtons) {
+    CCheckListBox list;
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90),
+                            &m_dialog, 7));
+    list.AddString("Walls", 1);
+    list.AddString("Doors", 0);
+    const Accessible spoken(list.m_hWnd);
+    ASSERT_EQ(2, spoken.Count());
+    EXPECT_EQ("Doors", spoken.Name(2));
+    EXPECT_EQ(ROLE_SYSTEM_CHECKBUTTON, spoken.Role(1));
+    EXPECT_TRUE(spoken.State(1) & STATE_SYSTEM_CHECKED);
+    EXPECT_FALSE(spoken.State(2) & STATE_SYSTEM_CHECKED);
+    EXPECT_EQ("Uncheck", spoken.DefaultAction(1));
+    spoken.DoDefaultAction(1);
+    EXPECT_EQ(0, list.IsItemChecked(0));
+    EXPECT_EQ("Check", spoken.DefaultAction(1));
+    list.DestroyWindow();
+    EXPECT_EQ(0, spoken.Count()) << "the object outlives the window";
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+// What the screen shows of the controls while the selection moves in them.
+
+#include "control_dialog.h"
+
+#include <drawcore/layer.h>
+
+#include "support/fresh_drawing.h"
+
+namespace {
+
+class OpenLists : public ControlDialog {
+protected:
+    OpenLists() {
+        const std::pair<int, const char*> filled[] = {{IDC_COLOR, kTableColors},
+                                                      {IDC_LINE_STYLE_COMBO, kTableLineStyles},
+                                                      {IDC_BRUSH_STYLE_COMBO, kTableBrushStyles},
+                                                      {IDC_LAYER, kTableLayers},
+                                                      {IDC_LINE_STYLE_LIST, kTableLineStyles},
+                                                      {IDC_BRUSH_STYLE_LIST, kTableBrushStyles}};
+        for (const auto& [name, color] : {std::pair("Yellow", RGB(255, 255, 0)), {"Blue", RGB(0, 0, 255)}}) {
+            const uint16_t id = TableEntryAdd(m_drawing.Table(kTableLayers), name, nullptr);
+            LayerSet(m_drawing.Get(), id, color, 0, 0);
+        }
+        for (const auto& [id, table] : filled)
+            Fill(id, m_drawing.Table(table));
+        for (const int id : {IDC_FONT_FACE, IDC_STYLE_NAME, IDC_FONT_SIZE})
+            for (const char* text : {"First", "Second", "Third"})
+                Get<CComboControl>(id).AddString(text);
+        m_dialog.ShowWindow(SW_SHOW);
+        Pump();
+    }
+    void Press(HWND control, WPARAM key) {
+        ::SendMessageA(control, WM_KEYDOWN, key, 1);
+        Pump();
+    }
+};
+
+TEST_F(OpenLists, AreDrawnWholeWhereverTheSelectionHasBeen) {
+    for (const int id : {IDC_LINE_STYLE_LIST, IDC_BRUSH_STYLE_LIST}) {
+        ::SetFocus(Control(id));
+        for (const WPARAM key : {VK_HOME, VK_DOWN, VK_DOWN, VK_UP, VK_END, VK_UP}) {
+            Press(Control(id), key);
+            EXPECT_EQ("", StalePart(m_dialog.m_hWnd)) << id;
+        }
+    }
+}
+
+TEST_F(OpenLists, OfCombosAreDrawnWholeToo) {
+    for (const int id :
+         {IDC_COLOR, IDC_LINE_STYLE_COMBO, IDC_BRUSH_STYLE_COMBO, IDC_LAYER, IDC_FONT_FACE, IDC_STYLE_NAME}) {
+        CComboControl& combo = Get<CComboControl>(id);
+        combo.SetFocus();
+        combo.ShowDropDown(TRUE);
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ASSERT_TRUE(::GetComboBoxInfo(combo.m_hWnd, &info));
+        for (const WPARAM key : {VK_HOME, VK_DOWN, VK_DOWN, VK_UP, VK_END, VK_UP}) {
+            Press(combo.m_hWnd, key);
+            EXPECT_EQ("", StalePart(info.hwndList)) << id;
+        }
+        combo.ShowDropDown(FALSE);
+        Pump();
+        EXPECT_EQ("", StalePart(m_dialog.m_hWnd)) << id;
+    }
+}
+
+TEST_F(OpenLists, AreAsWideAsTheirNames) {
+    CComboControl& layers = Get<CComboControl>(IDC_LAYER);
+    const std::string name(60, 'M');
+    TableEntryAdd(m_drawing.Table(kTableLayers), name.c_str(), nullptr);
+    Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
+    layers.ShowDropDown(TRUE);
+    EXPECT_LT(200, layers.SendMessage(CB_GETDROPPEDWIDTH));
+    EXPECT_GE(::GetSystemMetrics(SM_CXSCREEN) / 2, layers.SendMessage(CB_GETDROPPEDWIDTH));
+    layers.ShowDropDown(FALSE);
+}
+
+} // namespace
