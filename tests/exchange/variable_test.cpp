@@ -99,8 +99,8 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
     SetText(IDC_EDIT, "1 in");
     EXPECT_EQ(1, exchange(1, m_save, 0, 2));
     EXPECT_NEAR(1.0, Real(), 1e-12);
-    EXPECT_EQ(1, exchange(1, m_save, 0, Real())) << "the limits are inclusive";
-    EXPECT_EQ(1, exchange(1, m_save, Real(), 2));
+    EXPECT_EQ(1, exchange(0, m_save, 0, Real())) << "the limits are inclusive";
+    EXPECT_EQ(1, exchange(0, m_save, Real(), 2));
     SetText(IDC_EDIT, "3 in");
     EXPECT_EQ(0, exchange(0, m_save, 0, 2));
     {
