@@ -164,6 +164,25 @@ TEST_F(Edit, LinkedCustomPropertiesKeepTheirLinksToThemselves) {
     EXPECT_LT(*after.begin(), kLink) << "readers take it for the place of another one";
 }
 
+// A name that is not text of the code page is kept as it is, and is nothing that could be shown.
+TEST_F(Edit, NamesThatAreNotTextStayInTheSectionsThatAreNotNamed) {
+    const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
+    const orlo::Bytes odd = {'M', 0x81, 'y'};
+    uint32_t id = 0;
+    EditSet(file, kDocumentSummary, [&](orlo::SetImage& set) {
+        orlo::DictionaryEntry& entry = set.sections.at(1).dictionary->front();
+        id = entry.id;
+        entry = {id, {}, odd};
+    });
+    ExpectDone({"set", file.string(), "company=Other"});
+    EXPECT_EQ(Content(file)["company"], "Other");
+    EXPECT_NE(Content(file)["property " + std::to_string(id)], nullptr);
+    EditSet(file, kDocumentSummary, [&](orlo::SetImage& set) {
+        EXPECT_EQ(set.sections.at(1).dictionary->front().undecoded, odd);
+        EXPECT_EQ(set.sections.at(1).dictionary->front().id, id);
+    });
+}
+
 TEST_F(Edit, AFieldWithoutValueGetsOne) {
     const fs::path file = Document("test11--695187.doc");
     EditSet(file, kSummary, [](orlo::SetImage& set) {

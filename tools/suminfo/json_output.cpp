@@ -105,7 +105,8 @@ Json SectionJson(const orlo::ImageSection& section) {
     if (section.dictionary) {
         json["dictionary"] = Json::array();
         for (const orlo::DictionaryEntry& entry : *section.dictionary)
-            json["dictionary"].push_back({{"id", entry.id}, {"name", entry.name}});
+            if (entry.undecoded.empty())
+                json["dictionary"].push_back({{"id", entry.id}, {"name", entry.name}});
     }
     Json& properties = json["properties"] = Json::array();
     const PropertyNames names(section);

@@ -135,7 +135,8 @@ std::string Shown(const orlo::Value& value, bool span) {
 PropertyNames::PropertyNames(const orlo::ImageSection& section) : format_(section.formatId) {
     if (!section.dictionary) return;
     for (const orlo::DictionaryEntry& entry : *section.dictionary)
-        dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
+        if (entry.undecoded.empty())
+            dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
 }
 
 std::string PropertyNames::Of(uint32_t id) const {
