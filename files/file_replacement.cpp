@@ -160,7 +160,7 @@ Found FileBehind(const fs::path& target) {
     return {fs::canonical(target), true};
 }
 
-// Nobody else may read the new contents of a file before it has the permissions of the old one.
+// Other users must not read the new contents before the file has the permissions of the old one.
 OpenFile Create(const fs::path& path, bool isPrivate) {
     return OpenFile(::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, isPrivate ? 0600 : 0666));
 }

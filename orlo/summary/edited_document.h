@@ -31,7 +31,7 @@ class EditedDocument {
 public:
     enum class IfMissing { Fail, Create };
 
-    // Until Commit nobody else may write the file. Throws if another program has it open, if it is read-only or damaged.
+    // Until Commit other programs cannot write the file. Throws if another program has it open, if it is read-only or damaged.
     ORLO_API explicit EditedDocument(const std::filesystem::path& file,
                                      IfMissing ifMissing = IfMissing::Fail);
     ORLO_API ~EditedDocument();

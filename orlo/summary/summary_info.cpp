@@ -177,7 +177,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
     const std::wstring name = Widen(kSummaryStreamName, CP_ACP);
     if (access == STGM_WRITE)
-        return WriteNew(pStorage, name.c_str(), image); // nobody can read what there is to keep
+        return WriteNew(pStorage, name.c_str(), image); // the old summary cannot be read
     Owned<IStream> stream;
     const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);

@@ -176,7 +176,7 @@ TEST_F(Replacement, KeepsPermissionsOwnerAndExtendedAttributes) {
     }
 }
 
-// Before it has the permissions of the old file, nobody else reads the new one.
+// Other users cannot read the new contents before the file has the permissions of the old one.
 TEST_F(Replacement, IsPrivateUntilItTakesThePlaceOfAFile) {
     const files::FileReplacement replacement(path);
     struct stat is;

@@ -52,7 +52,7 @@ ImageSection& SectionFor(SetImage& image, const GUID& format, uint16_t codePage)
 void StoreValue(ImageSection& section, uint32_t id, uint32_t type, Bytes bytes) {
     ImageProperty* property = section.Find(id);
     if (property == nullptr) {
-        // The code page comes first: whoever reads in order needs it before the texts.
+        // The code page comes first: a reader that goes in order needs it before the texts.
         const auto place = id == kCodePageId ? section.properties.begin() : section.properties.end();
         property = &*section.properties.emplace(place);
     }
