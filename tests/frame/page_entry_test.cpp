@@ -4,8 +4,11 @@
 
 #include <functional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "frame/width_page.h"
+#include "orlo/win/child_windows.h"
 #include "support/failing_memory.h"
 #include "support/message_box_watcher.h"
 
@@ -163,6 +166,11 @@ TEST(PageEntryMemory, TheStatusTableOutlivesAFailedActivation) {
             } catch (const std::bad_alloc&) {
             }
             failed = memory.HasFailed();
+            size_t rows = 0;
+            ForEachChild(user.Page(), [&](HWND) { ++rows; });
+            // Takes the place of a table that was freed.
+            const std::vector<std::vector<ControlStatus>> others(
+                100, std::vector<ControlStatus>(rows, ControlStatus{kEdit, 0}));
             EXPECT_EQ(failed ? 1 : 0, width.page.GetControlStatus(kEdit)) << nth;
         }
     });
