@@ -156,7 +156,7 @@ TEST_F(Layers, ASubclassedWindowHasItsIcons) {
 TEST_F(Layers, RowsFitIconAndFont) {
     MEASUREITEMSTRUCT measure = {};
     m_control.MeasureItem(&measure);
-    EXPECT_EQ(16u, measure.itemHeight);
+    EXPECT_EQ(static_cast<UINT>(Scaled(16)), measure.itemHeight);
     LOGFONTA description = {};
     description.lfHeight = -48;
     const HFONT large = ::CreateFontIndirectA(&description);

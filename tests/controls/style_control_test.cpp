@@ -389,7 +389,14 @@ class DrawnDialog : public ControlDialog {};
 TEST_F(DrawnDialog, ListsHaveTheirOwnHeights) {
     CRect rect;
     Get<CListControl>(IDC_LINE_STYLE_LIST).GetWindowRect(rect);
-    EXPECT_NEAR(136, rect.Height(), 22) << "whole rows";
+    CRect client;
+    CListControl& lines = Get<CListControl>(IDC_LINE_STYLE_LIST);
+    lines.GetClientRect(client);
+    MEASUREITEMSTRUCT row = {};
+    lines.MeasureItem(&row);
+    EXPECT_EQ(0, client.Height() % static_cast<int>(row.itemHeight)) << "whole rows";
+    EXPECT_LT(136 - Scaled(22), rect.Height());
+    EXPECT_GE(Scaled(136), rect.Height());
     CBrushStyleControlL brushes;
     ASSERT_TRUE(brushes.Create(BrushList::kStyle, CRect(0, 0, 101, 300), &m_host, 1));
     MEASUREITEMSTRUCT measure = {};
