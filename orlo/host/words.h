@@ -93,6 +93,11 @@ ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
 ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // brushes only: the color of the pen
 
+// Markers: pen widths other than lengths, which are not negative. PropSet can accept them; PropGet returns the width that
+// they stand for.
+ORLO_CONSTANT double kPenWidthByLayer = -0x1p126;
+ORLO_CONSTANT double kPenWidthByBlock = -0x1p127;
+
 // Markers: line styles that are not an entry of kTableLineStyles.
 enum {
     kLineStyleNone = 0, // no line

@@ -1,7 +1,9 @@
 // Takes every second entity out of a drawing and adds one of each kind, to model space and to a new block, which it inserts:
 // for check_saved.py, which lets another reader look at the result.
 //
-// restructure IN OUT
+// restructure IN OUT [remove]
+//
+// With a third argument it removes only.
 
 #include <filesystem>
 #include <fstream>
@@ -62,7 +64,7 @@ std::vector<Entity> OneOfEach(const std::string& version) {
     return all;
 }
 
-void Restructure(const char* from, const char* to) {
+void Restructure(const char* from, const char* to, bool adds) {
     const std::string bytes = dxf::ReadBytes(from);
     const dxf::Document document = dxf::Read(bytes, {});
     dxf::StructurePatch patch(dxf::TextOf(bytes), document.Tables());
@@ -73,23 +75,26 @@ void Restructure(const char* from, const char* to) {
     block.name = "Made here";
     block.own = {{dxf::kOwnStyleTree, "a tree", {}}};
     block.entities = OneOfEach(document.header.version);
-    patch.AddBlock(block);
-    std::vector<Entity> added = OneOfEach(document.header.version);
+    if (adds) patch.AddBlock(block);
+    std::vector<Entity> added;
+    if (adds) added = OneOfEach(document.header.version);
     auto insert = std::make_unique<dxf::Insert>();
     insert->block = patch.FindBlock(block.name);
-    added.push_back(Of(std::move(insert)));
+    if (adds) added.push_back(Of(std::move(insert)));
     for (const Entity& entity : added)
         patch.Add(entity, nullptr);
     std::ofstream(to, std::ios::binary) << patch.Finish();
+    for (const dxf::ReferenceRemoval::Refusal& refusal : patch.Refusals())
+        throw std::runtime_error("the entity at " + std::to_string(refusal.place) + ": " + refusal.why);
     std::cout << document.entities.size() - removed + added.size() << " " << block.entities.size() << "\n";
 }
 
 } // namespace
 
 int main(int count, char** words) {
-    if (count != 3) return 2;
+    if (count < 3) return 2;
     try {
-        Restructure(words[1], words[2]);
+        Restructure(words[1], words[2], count == 3);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";

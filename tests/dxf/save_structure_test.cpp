@@ -120,7 +120,8 @@ TEST_F(SaveStructure, MovesVertices) {
                 ++moved;
                 continue;
             }
-            EXPECT_EQ(message, "the file can't hold a change of its vertices");
+            EXPECT_NE(message.find("): the file can't hold a change of its vertices"), std::string::npos)
+                << message;
             ++refused;
             shift(-8);
         }
@@ -217,7 +218,8 @@ TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
         EXPECT_EQ(change(color, flags ^ (kLayerOff | kLayerFrozen | kLayerLocked)), kSaveDone) << message;
         EXPECT_EQ(change(RGB(255, 0, 0), flags ^ kLayerOff), kSaveDone) << message;
         if (change(0x563412, flags) != kSaveDone) {
-            EXPECT_EQ(message, "a file of this version can't hold the colour of a layer");
+            EXPECT_NE(message.find("\": a file of this version cannot hold the color"), std::string::npos)
+                << message;
         }
         LayerSet(d, layer, 0x563412, flags ^ kLayerLocked, line);
         EXPECT_TRUE(DrawingIsModified(d));
@@ -235,7 +237,7 @@ TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
     GraphicStruct* content = BlockGetGraphic(blocks, AddBlock(drawing.get(), "Part"));
     WriteProperty(content, kPropInfo, std::string("of the whole"));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "block \"Part\": the file has no place for properties of the block as a whole");
+    EXPECT_EQ(message, "block \"Part\": the file has no place for properties of the whole");
     WriteProperty(content, kPropInfo, std::string());
     GraphicStruct* group = GraphicAdd(content, GraphicCopyEx(content, 0, 0, 7));
     EXPECT_EQ(Write(drawing), kSaveFailed);

@@ -13,19 +13,28 @@ std::string NewText(const PropertyInfo& property) {
 double NewReal(const PropertyInfo& property) {
     return property.name == std::string(kPropPenWidth) ? 0.0123 : 1.375;
 }
-uint32_t NewWhole(const PropertyInfo& property) {
+uint32_t NewWhole(GraphicStruct* graphic, const PropertyInfo& property) {
     const std::string name = property.name;
     if (property.meaning == kMeansColor) return 0x563412;
+    if (property.meaning == kMeansBlock) // the first one, if there is one
+        return TableEntryFirst(BlocksFromDrawing(GraphicGetDrawing(graphic)), nullptr);
     if (name == kPropTextStyle) return 0x1143;
     if (name == kPropBrushStyle) return 2; // Horizontal
     if (name == kPropBrushDrawMode || name == kPropHatchCross || name == kPropLayer) return 1;
-    return name == kPropTextFormat ? 2 : 0;
+    if (property.meaning == kMeansNumber) return 2;
+    return 0;
 }
 
-void Set(GraphicStruct* graphic, const PropertyInfo& property) {
-    if (property.form == kFormText) WriteProperty(graphic, property.name, NewText(property));
-    if (property.form == kFormReal) WriteProperty(graphic, property.name, NewReal(property));
-    if (property.form == kFormWhole) WriteProperty(graphic, property.name, NewWhole(property));
+// Whether the graphic had another value before.
+bool Set(GraphicStruct* graphic, const PropertyInfo& property) {
+    const auto put = [&](const auto& value) {
+        const auto was = ReadProperty<std::decay_t<decltype(value)>>(graphic, property.name);
+        WriteProperty(graphic, property.name, value);
+        return was && *was != value;
+    };
+    return property.form == kFormText   ? put(NewText(property))
+           : property.form == kFormReal ? put(NewReal(property))
+                                        : put(NewWhole(graphic, property));
 }
 
 void ExpectSet(GraphicStruct* graphic, const PropertyInfo& property) {
@@ -35,10 +44,11 @@ void ExpectSet(GraphicStruct* graphic, const PropertyInfo& property) {
         EXPECT_EQ(ReadProperty<std::string>(graphic, name).value_or(NewText(property)), NewText(property));
         break;
     case kFormReal:
-        EXPECT_NEAR(ReadProperty<double>(graphic, name).value_or(NewReal(property)), NewReal(property), 1e-9);
+        EXPECT_EQ(ReadProperty<double>(graphic, name).value_or(NewReal(property)), NewReal(property));
         break;
     case kFormWhole:
-        EXPECT_EQ(ReadProperty<uint32_t>(graphic, name).value_or(NewWhole(property)), NewWhole(property));
+        EXPECT_EQ(ReadProperty<uint32_t>(graphic, name).value_or(NewWhole(graphic, property)),
+                  NewWhole(graphic, property));
     }
 }
 
@@ -75,10 +85,11 @@ TEST_F(Save, HoldsEachPropertyOfSomeGraphicsAndOfBlocks) {
         SCOPED_TRACE(property.name);
         const OwnedDrawing drawing = Open(kDrawings + "acadsharp-sample-AC1032.dxf");
         TableStruct* blocks = DrawingGetTable(drawing.get(), kTableBlocks);
-        int index = 0;
+        int index = 0, changed = 0;
         ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) {
-            if (++index % 3 == 0) Set(g, property);
+            if (++index % 3 == 0) changed += Set(g, property);
         });
+        EXPECT_GT(changed, 0) << "a value that all have already says nothing";
         for (const uint16_t id : orlo::host::Entries(blocks))
             ForGraphics(BlockGetGraphic(blocks, id), [&](GraphicStruct* g) { Set(g, property); });
         ASSERT_EQ(Write(drawing), kSaveDone) << message;

@@ -25,9 +25,13 @@ typedef struct DxfListener {
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // Results of DrawingSaveDxf.
-enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3 };
-// Flag: overwrites the file even if another program has changed it since the drawing was opened.
-enum { kSaveOverChanged = 1 };
+enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3, kSaveDoneInPart = 4 };
+// Flags of DrawingSaveDxf.
+enum {
+    kSaveOverChanged =
+        1,        // overwrite the file even if another program has changed it since the drawing was opened
+    kSaveRest = 2 // leave out what the file cannot contain and save the rest
+};
 
 // Saves the drawing to a file, which may be the one that it was opened from. The text of the original file is copied,
 // and only the groups with changes differ. Values without a DXF group are stored in extended data (XDATA) of the
@@ -40,9 +44,16 @@ enum { kSaveOverChanged = 1 };
 //   kSaveFailed       no file was changed; message (at most size bytes, including the NUL) contains the reason, for
 //                     example: the drawing was not opened from a file, the version of the file has no such entity, the
 //                     disk is full, the file is open in another program
+//   kSaveDoneInPart   with kSaveRest only: saved except for the parts that were reported to the listener's `finding`,
+//                     with the entity's kind, handle and line if it has them. An entity that was left out is in the file
+//                     as before, a new one is not; the drawing still counts as modified
 //
-// Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics and blocks, and
-// the states, colors and line types of layers. The listener may be null.
+// When the file has been written, `finding` is also called with line 0 for each property that is stored in extended data,
+// where other programs do not show it.
+//
+// Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics, layers and
+// blocks, the style trees of blocks, and the states, colors and line types of layers. Values that are the same as in the
+// file keep their form. The listener may be null.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
                                 char* message, int size);
 

@@ -75,14 +75,19 @@ private:
 } // namespace
 
 bool DxfSource::IsOutdated(const Drawing& drawing) const {
-    return drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
+    return left_ > 0 || drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
 }
 
-void DxfSource::NoteContents(const Drawing& drawing) {
+void DxfSource::NoteContents(const Drawing& drawing, size_t left) {
+    left_ = left;
     undoMark_ = drawing.Undo().Mark();
     contentsMark_ = ContentsMark(drawing).Number();
     graphics.clear();
     blocks.clear();
+    layers.clear();
+    const LayerTable* layerTable = drawing.Layers();
+    for (Id id = layerTable ? layerTable->First() : kNoId; id; id = layerTable->Next(id))
+        layers.push_back(layerTable->At(id)->name);
     NoteMembers(drawing.Root(), graphics);
     const BlockTable& table = *drawing.Blocks();
     for (Id id = table.First(); id; id = table.Next(id)) {

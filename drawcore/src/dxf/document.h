@@ -33,6 +33,7 @@ constexpr int kLayerIsFrozen = 1, kLayerIsLocked = 4;
 // Every named thing says whether a table holds it, or an entity only mentions it.
 struct Layer {
     std::string name;
+    std::string stored; // its bytes, where encoding the name gives others
     bool declared = false;
     int color = 7; // as stored; negative: the layer is off
     int flags = 0; // kLayerIsFrozen, kLayerIsLocked, and others
@@ -45,6 +46,7 @@ struct Layer {
 
 struct LineType {
     std::string name;
+    std::string stored;
     bool declared = false;
     std::string description;
     double patternLength = 0;
@@ -53,6 +55,7 @@ struct LineType {
 
 struct TextStyle {
     std::string name;
+    std::string stored;
     bool declared = false;
     std::string fontFile; // "txt.shx", "arial.ttf"
     std::string fontFace; // TrueType family; empty if the file does not say
@@ -67,6 +70,7 @@ struct TextStyle {
 
 struct Block {
     std::string name;
+    std::string stored;
     bool declared = false;
     Vec3 base;
     int flags = 0;

@@ -35,9 +35,15 @@ public:
         look_.brush = BrushOf(*hatch);
         if (!look_.brush.style.empty()) look_.lineType = LineTypeIndex::none; // a hatch shows no outline
     }
-    void operator()(const Apart<Text>& text) { look_.text = TextLookOf(*text, document_.At(text->style)); }
+    void operator()(const Apart<Text>& text) {
+        look_.text = TextLookOf(*text, document_.At(text->style));
+        if (look_.text.style & (kTextUnderline | kTextStrikethrough) && IsPartlyMarked(*text))
+            look_.varied = kVariedStyle;
+    }
     void operator()(const Apart<MText>& text) {
-        const InlineFormat format = ReadInlineCodes(text->text, HeightOf(*text, document_)).Prevailing();
+        const FormattedText formatted = ReadInlineCodes(text->text, HeightOf(*text, document_));
+        const InlineFormat format = formatted.Prevailing();
+        look_.varied = VariedBits(formatted, format);
         look_.text = TextLookOf(*text, document_.At(text->style), format);
         if (format.color >= 0 || format.trueColor >= 0) look_.color = ColorOf(format.color, format.trueColor);
     }
@@ -56,6 +62,16 @@ struct OwnRow {
 
 bool IsBit(double number) {
     return number == 0 || number == 1;
+}
+
+double WidthOf(int lineWeight) {
+    if (lineWeight == kLineWeightByLayer) return kPenWidthByLayer;
+    if (lineWeight == kLineWeightByBlock) return kPenWidthByBlock;
+    return std::max(lineWeight, 0) / kWeightsPerInch;
+}
+
+bool IsWidth(double number) {
+    return number >= 0 || number == kPenWidthByLayer || number == kPenWidthByBlock;
 }
 
 uint32_t ToColor(double number, uint32_t otherwise) {
@@ -93,7 +109,8 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropPenWidth, 3,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
-         if (own.numbers[0] < 0 || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
+         if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2])
+             return;
          look.width = own.numbers[0];
          look.worldWidth = own.numbers[1] != 0;
      }},
@@ -123,6 +140,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropBrushAngle, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+         if (own.numbers.size() > 1 && own.numbers[1] != look.brush.angle) return;
          look.brush.angle = own.numbers[0];
      }},
     {kPropHatchCross, 1,
@@ -156,9 +174,7 @@ Look LookByGroups(const Document& document, const Entity& entity) {
     if (look.color == kColorByLayer) look.color = ColorOf(std::abs(entity.color), entity.trueColor);
     if (entity.lineTypeScale > 0) look.lineScale = entity.lineTypeScale;
     if (look.lineType == LineTypeIndex::byLayer) look.lineType = entity.lineType;
-    const int weight =
-        entity.lineWeight == kLineWeightByLayer ? document.At(entity.layer).lineWeight : entity.lineWeight;
-    if (weight > 0 && look.width == 0) look.width = weight / kWeightsPerInch;
+    if (look.width == 0) look.width = WidthOf(entity.lineWeight);
     return look;
 }
 
@@ -191,24 +207,41 @@ bool Near(double a, double b) {
     return std::fabs(a - b) <= 1e-9 * std::max({1.0, std::fabs(a), std::fabs(b)});
 }
 
+bool SameToRounding(double a, double b, double magnitude) {
+    return std::fabs(a - b) <= 1e-12 * std::max({1.0, std::fabs(a), std::fabs(b), magnitude});
+}
+
+uint8_t VariedBit(std::string_view property) {
+    return property == kPropPenColor     ? kVariedColor
+           : property == kPropTextFont   ? kVariedFont
+           : property == kPropTextSize   ? kVariedSize
+           : property == kPropTextStyle  ? kVariedStyle
+           : property == kPropTextFormat ? kVariedFormat
+                                         : 0;
+}
+
 bool operator==(const BrushLook& a, const BrushLook& b) {
     const bool sameStyle =
         a.lines.empty() && b.lines.empty() ? a.style == b.style : SameLines(a.lines, b.lines);
-    return sameStyle && a.style.empty() == b.style.empty() && a.color == b.color && Near(a.scale, b.scale) &&
-           Near(a.angle, b.angle) && a.cross == b.cross && a.winding == b.winding;
+    const auto values = [](const BrushLook& look) {
+        return std::tie(look.color, look.scale, look.angle, look.cross, look.winding);
+    };
+    return sameStyle && a.style.empty() == b.style.empty() && values(a) == values(b);
 }
 
 bool operator==(const TextLook& a, const TextLook& b) {
-    return std::tie(a.font, a.style, a.format) == std::tie(b.font, b.style, b.format) &&
-           Near(a.height, b.height);
+    const auto values = [](const TextLook& look) {
+        return std::tie(look.font, look.height, look.style, look.format);
+    };
+    return values(a) == values(b);
 }
 
 bool operator==(const Look& a, const Look& b) {
-    const auto whole = [](const Look& look) {
-        return std::tie(look.layer, look.color, look.lineType, look.worldWidth, look.dashesFitted, look.info,
-                        look.styleTree, look.brush, look.text);
+    const auto values = [](const Look& look) {
+        return std::tie(look.layer, look.color, look.lineType, look.lineScale, look.width, look.worldWidth,
+                        look.dashesFitted, look.info, look.styleTree, look.brush, look.text, look.varied);
     };
-    return whole(a) == whole(b) && Near(a.lineScale, b.lineScale) && Near(a.width, b.width);
+    return values(a) == values(b);
 }
 
 } // namespace dxf

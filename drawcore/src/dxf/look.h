@@ -1,5 +1,4 @@
-// How an entity looks, as the pages of the sheet show it: its groups, the line weight of its layer and what its own extended
-// data adds, resolved. The words of orlo/host/words.h mean the same colours, line styles and brushes here.
+// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of orlo/host/words.h mean the same colours, line styles and brushes here.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -34,14 +33,20 @@ struct Look {
     uint32_t color = kColorByLayer;
     LineTypeIndex lineType = LineTypeIndex::byLayer;
     double lineScale = 1;
-    double width = 0; // inches of paper, or drawing units if worldWidth
+    double width = 0; // inches of paper, drawing units if worldWidth, or a marker
     bool worldWidth = false;
     bool dashesFitted = true;
     BrushLook brush; // of all but texts and insertions
     TextLook text;   // of texts
     std::string info;
     std::string styleTree; // name of a block, UTF-8; empty: none
+    // Bits (kVariedColor ...) of values that only most of the text has: its inline codes give the rest another one.
+    uint8_t varied = 0;
 };
+
+enum : uint8_t { kVariedColor = 1, kVariedFont = 2, kVariedSize = 4, kVariedStyle = 8, kVariedFormat = 16 };
+// Returns the bit of a property; 0 if a part of a text cannot have a value of its own.
+uint8_t VariedBit(std::string_view property);
 
 Look LookOf(const Document& document, const Entity& entity);
 // The same by its groups alone, without its own extended data.
@@ -51,11 +56,13 @@ Look LookByGroups(const Document& document, const Entity& entity);
 const OwnValue* FindOwn(const Entity& entity, std::string_view name);
 
 // Own values that are not properties of the sheet.
-constexpr char kOwnPlacement[] = "Placement"; // of an insertion: ends of the three axes, and the origin
+constexpr char kOwnPlacement[] = "Placement"; // of an insertion
 constexpr char kOwnStyleTree[] = "StyleName"; // of a block: the tree of styles that its contents belong to
 
-// Numbers that differ by rounding only.
+// Returns whether two numbers draw the same: they differ by less than users see. What is written is compared exactly.
 bool Near(double a, double b);
+// Returns whether numbers that were calculated from numbers of that magnitude differ by rounding only.
+bool SameToRounding(double a, double b, double magnitude);
 bool SameLine(const Hatch::PatternLine& a, const Hatch::PatternLine& b);
 bool SameLines(const std::vector<Hatch::PatternLine>& a, const std::vector<Hatch::PatternLine>& b);
 bool operator==(const BrushLook& a, const BrushLook& b);

@@ -21,6 +21,10 @@ std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& line
 
 TextLook TextLookOf(const Text& text, const TextStyle& style);
 TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format);
+// Returns whether an underline or a strikethrough marks only a part of the text.
+bool IsPartlyMarked(const Text& text);
+// Returns the bits of the values that other parts of the text do not share with most of it.
+uint8_t VariedBits(const FormattedText& text, const InlineFormat& most);
 // In drawing units, where the format knows a height of nothing.
 double HeightOf(const MText& text, const Document& document);
 

@@ -111,6 +111,32 @@ TextLook TextLookOf(const Text& text, const TextStyle& style) {
     return look;
 }
 
+bool IsPartlyMarked(const Text& text) {
+    if (text.role == Text::Role::definition) return false;
+    const LineText line = ReadControlCodes(ToDisplayText(text.text));
+    const auto marksPart = [&](bool marks, char letter) {
+        const std::string mark = std::string("%%") + letter, whole = mark + WithoutSwitch(text.text, letter);
+        return marks && text.text != whole && text.text != whole + mark;
+    };
+    return marksPart(line.underlined, 'u') || marksPart(line.struckThrough, 'k');
+}
+
+uint8_t VariedBits(const FormattedText& text, const InlineFormat& most) {
+    uint8_t bits = 0;
+    for (const FormattedText::Run& run : text.runs) {
+        const InlineFormat& part = run.format;
+        const bool otherStyle = part.bold != most.bold || part.italic != most.italic ||
+                                part.underlined != most.underlined ||
+                                part.struckThrough != most.struckThrough;
+        if (part.color != most.color || part.trueColor != most.trueColor) bits |= kVariedColor;
+        if (part.font != most.font) bits |= kVariedFont;
+        if (part.scale != most.scale) bits |= kVariedSize;
+        if (otherStyle) bits |= kVariedStyle;
+        if (part.alignment != most.alignment) bits |= kVariedFormat;
+    }
+    return bits;
+}
+
 TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format) {
     FontFace face = FaceOf(style);
     if (!format.font.empty())

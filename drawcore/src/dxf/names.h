@@ -10,7 +10,7 @@
 
 namespace dxf {
 
-// Over one list of a Document, which it appends to. Thing has `name` and `declared`.
+// Over one list of a Document, which it appends to. Thing has `name`, `stored` and `declared`.
 template <class Thing>
 class Names {
 public:
@@ -23,7 +23,9 @@ public:
     // isn't one.
     size_t Find(std::string_view raw) {
         if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer
+        const size_t known = things_.size();
         last_ = FindUtf8(decoder_.Decode(raw));
+        if (last_ == known) Keep(raw, things_[last_]);
         lastRaw_ = raw;
         return last_;
     }
@@ -43,11 +45,22 @@ public:
             things_.emplace_back();
         }
         things_[at].name = decoder_.Decode(raw);
+        Keep(raw, things_[at]);
         things_[at].declared = true;
         return things_[at];
     }
 
+    // The name as the file has it, or would have it.
+    std::string Stored(const Thing& thing) const {
+        return thing.stored.empty() ? decoder_.Encode(thing.name) : thing.stored;
+    }
+
 private:
+    // The way back may be another: a file may have names in a code page that are UTF-8 by its version.
+    void Keep(std::string_view raw, Thing& thing) const {
+        thing.stored = decoder_.Encode(thing.name) == raw ? std::string_view() : raw;
+    }
+
     static std::string Key(std::string_view name) {
         std::string key = ToDisplayText(name);
         for (char& c : key)

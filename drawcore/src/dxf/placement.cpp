@@ -1,7 +1,10 @@
 // Object systems from their normals, and where the block of a dimension lies.
 #include "drawcore/src/dxf/placement.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 
 #include "drawcore/src/dxf/look.h"
 
@@ -37,31 +40,95 @@ Matrix PlacementByGroups(const Entity& entity) {
     return {};
 }
 
-} // namespace
+// The groups that place an insertion: with its own placement they say which state of them it belongs to.
+using GroupNumbers = std::array<double, 10>;
+GroupNumbers GroupNumbersOf(const Entity& entity) {
+    const Vec3& normal = entity.normal;
+    if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape)) {
+        const Insert& by = **insert;
+        return {by.at.x,   by.at.y,     by.at.z,  by.scaleX, by.scaleY,
+                by.scaleZ, by.rotation, normal.x, normal.y,  normal.z};
+    }
+    const auto* dimension = std::get_if<Apart<Dimension>>(&entity.shape);
+    const Vec3 offset = dimension ? (*dimension)->offset : Vec3();
+    return {offset.x, offset.y, offset.z, 1, 1, 1, 0, normal.x, normal.y, normal.z};
+}
 
-// The groups' place is stored with it: if another program has moved the insertion since, the groups count.
-Matrix PlacementOf(const Entity& entity) {
-    const Matrix groups = PlacementByGroups(entity);
+// None also where another program has changed the groups since. Older files have the axes, the origin, and of the groups only
+// where that origin was.
+std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
+    constexpr size_t kOlder = 15;
     const OwnValue* own = FindOwn(entity, kOwnPlacement);
-    if (!own || own->numbers.size() < 15) return groups;
+    if (!own || own->numbers.size() < kOlder) return std::nullopt;
     const double* n = own->numbers.data();
-    const Vec3 place = groups.Apply({});
-    if (!Near(n[12], place.x) || !Near(n[13], place.y) || !Near(n[14], place.z)) return groups;
-    return Matrix::FromAxes({n[0], n[1], n[2]}, {n[3], n[4], n[5]}, {n[6], n[7], n[8]}, {n[9], n[10], n[11]});
-}
-
-std::vector<double> NumbersOf(const Matrix& placement, const Entity& entity) {
-    std::vector<double> numbers;
-    for (const auto& row : placement.at)
-        numbers.insert(numbers.end(), row, row + 3);
+    AxisEnds ends;
+    for (size_t i = 0; i < ends.size(); ++i)
+        ends[i] = {n[3 * i], n[3 * i + 1], n[3 * i + 2]};
+    const GroupNumbers groups = GroupNumbersOf(entity);
+    if (own->numbers.size() >= 12 + groups.size())
+        return std::equal(groups.begin(), groups.end(), n + 12) ? std::optional(ends) : std::nullopt;
     const Vec3 place = PlacementByGroups(entity).Apply({});
-    numbers.insert(numbers.end(), {place.x, place.y, place.z});
-    return numbers;
+    if (!Near(n[12], place.x) || !Near(n[13], place.y) || !Near(n[14], place.z)) return std::nullopt;
+    return AxisEndsOf(Matrix::FromAxes(ends[0], ends[1], ends[2], ends[3]));
 }
 
+// The same placement, but with a z axis in any case: files have a good many insertions with a z scale of 0.
 Matrix Solid(const Matrix& placement) {
     const Vec3 x = placement.Turn({1, 0, 0}), y = placement.Turn({0, 1, 0}), z = placement.Turn({0, 0, 1});
     return Length(z) > 0 ? placement : Matrix::FromAxes(x, y, Normalized(Cross(x, y)), placement.Apply({}));
+}
+
+} // namespace
+
+Matrix PlacementOf(const Entity& entity) {
+    const std::optional<AxisEnds> own = OwnAxisEnds(entity);
+    return own ? PlacementOf(*own) : PlacementByGroups(entity);
+}
+
+Matrix PlacementOf(const AxisEnds& ends) {
+    return Matrix::FromAxes(ends[1] - ends[0], ends[2] - ends[0], ends[3] - ends[0], ends[0]);
+}
+
+AxisEnds AxisEndsOf(const Matrix& placement) {
+    return {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
+            placement.Apply({0, 0, 1})};
+}
+
+AxisEnds AxisEndsOf(const Entity& entity) {
+    const std::optional<AxisEnds> own = OwnAxisEnds(entity);
+    return own ? *own : AxisEndsOf(PlacementByGroups(entity));
+}
+
+std::vector<double> NumbersOf(const AxisEnds& ends, const Entity& entity) {
+    std::vector<double> numbers;
+    for (const Vec3& end : ends)
+        numbers.insert(numbers.end(), {end.x, end.y, end.z});
+    const GroupNumbers groups = GroupNumbersOf(entity);
+    numbers.insert(numbers.end(), groups.begin(), groups.end());
+    return numbers;
+}
+
+double RoundingAt(const Vec3& place) {
+    const double magnitude = std::max({1.0, std::fabs(place.x), std::fabs(place.y), std::fabs(place.z)});
+    return 4 * std::numeric_limits<double>::epsilon() * magnitude;
+}
+
+bool HaveSameAxes(const Matrix& a, const Matrix& b) {
+    for (const Vec3& axis : {Vec3{1, 0, 0}, Vec3{0, 1, 0}, Vec3{0, 0, 1}}) {
+        const Vec3 length = a.Turn(axis);
+        const double rounding =
+            std::max({RoundingAt(a.Apply({})), RoundingAt(b.Apply({})), RoundingAt(length)});
+        const Vec3 difference = b.Turn(axis) - length;
+        if (Length(difference) > rounding) return false;
+    }
+    return true;
+}
+
+Matrix MotionBetween(const Matrix& from, const Matrix& to) {
+    Matrix back;
+    return !HaveSameAxes(from, to) && Solid(from).Invert(back)
+               ? back * Solid(to)
+               : Matrix::Translation(to.Apply({}) - from.Apply({}));
 }
 
 Matrix DimensionMatrix(const Dimension& dimension, const Block& block) {

@@ -164,8 +164,15 @@ Document Document::Tables() const {
     tables.lineTypes = lineTypes;
     tables.textStyles = textStyles;
     for (const Block& block : blocks)
-        tables.blocks.push_back(
-            {block.name, block.declared, block.base, block.flags, {}, block.own, block.begin, block.end});
+        tables.blocks.push_back({block.name,
+                                 block.stored,
+                                 block.declared,
+                                 block.base,
+                                 block.flags,
+                                 {},
+                                 block.own,
+                                 block.begin,
+                                 block.end});
     return tables;
 }
 

@@ -38,6 +38,7 @@ void ReadLayer(RecordReader& in) {
     }
     Layer& layer = in.layers.Declare(name);
     read.name = std::move(layer.name);
+    read.stored = std::move(layer.stored);
     read.declared = true;
     layer = std::move(read);
 }
@@ -57,6 +58,7 @@ void ReadLineType(RecordReader& in) {
     }
     LineType& lineType = in.lineTypes.Declare(name);
     read.name = std::move(lineType.name);
+    read.stored = std::move(lineType.stored);
     read.declared = true;
     lineType = std::move(read);
 }
@@ -93,6 +95,7 @@ void ReadTextStyle(RecordReader& in) {
     if (name.empty()) return; // a shape file that line types use
     TextStyle& style = in.textStyles.Declare(name);
     read.name = std::move(style.name);
+    read.stored = std::move(style.stored);
     read.declared = true;
     style = std::move(read);
 }

@@ -11,6 +11,7 @@
 #include "drawcore/src/graphics/spline_graphic.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/save/record_patch.h"
 #include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
@@ -160,6 +161,7 @@ dxf::Shape ParagraphsOf(const TextState& state) {
     for (const char* sign : {"\\", "{", "}"})
         ReplaceAll(text->text, sign, std::string("\\") + sign);
     ReplaceAll(text->text, "\n", "\\P");
+    if (state.widthFactor != 1) text->text = "\\W" + dxf::RealText(state.widthFactor) + ";" + text->text;
     text->insertion = state.position;
     text->height = state.height;
     text->width = state.wrapWidth;

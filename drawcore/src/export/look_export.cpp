@@ -1,11 +1,15 @@
 // Entries of the drawing's tables by their names in the file.
 #include "drawcore/src/export/look_export.h"
 
+#include <algorithm>
+
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/export/layer_export.h"
 #include "drawcore/src/graphics/text_graphic.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/brush_import.h"
 #include "drawcore/src/import/import_tables.h"
+#include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
 
@@ -22,11 +26,12 @@ std::map<Id, Index> InTable(const std::vector<Thing>& things, const TableOf<Entr
 
 } // namespace
 
-LookExport::LookExport(const Drawing& drawing, dxf::DrawingPatch& patch) : drawing_(drawing), patch_(patch) {
-    const dxf::Document& known = patch.Known();
-    if (drawing.Layers()) layers_ = InTable<dxf::LayerIndex>(known.layers, *drawing.Layers());
+LookExport::LookExport(const Drawing& drawing, dxf::DrawingPatch& patch)
+    : drawing_(drawing), patch_(patch), known_(patch.Known().Tables()), tables_(ImportTables(known_, file_)),
+      import_(known_, tables_, file_), comparison_(drawing, file_) {
+    if (drawing.Layers()) layers_ = InTable<dxf::LayerIndex>(known_.layers, *drawing.Layers());
     if (drawing.LineStyles())
-        lineTypes_ = InTable<dxf::LineTypeIndex>(known.lineTypes, *drawing.LineStyles());
+        lineTypes_ = InTable<dxf::LineTypeIndex>(known_.lineTypes, *drawing.LineStyles());
 }
 
 dxf::LayerIndex LookExport::LayerOf(Id id) {
@@ -41,6 +46,10 @@ dxf::LayerIndex LookExport::LayerOf(Id id) {
     if (line < dxf::LineTypeIndex::none) made.lineType = patch_.Known().At(line).name;
     layers_.emplace(id, index);
     return index;
+}
+
+void LookExport::AddLayer(Id id) {
+    if (layers_.count(id) == 0) patch_.NeedRecord(LayerOf(id));
 }
 
 dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
@@ -59,50 +68,106 @@ dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
     return index;
 }
 
-dxf::BrushLook LookExport::BrushOf(const Brush& brush) const {
-    dxf::BrushLook look;
-    const BrushStyle* style = drawing_.BrushStyles() ? drawing_.BrushStyles()->At(brush.style) : nullptr;
-    if (style) {
-        const bool isSolid = style->lines.empty() && !style->bitmap;
-        look.style = isSolid ? dxf::kSolidBrush : Utf8FromCodePage(style->name);
-        look.lines = FileLines(*style);
-    }
-    look.color = brush.color;
-    look.scale = brush.scale;
-    look.angle = brush.angle;
-    look.cross = brush.cross;
-    look.winding = brush.drawMode != 0;
-    return look;
+// How each property is said in the terms of a file. One that has no row is refused by its name.
+struct LookExport::Row {
+    const char* name;
+    void (*put)(LookExport& by, const Graphic& graphic, dxf::Look& look);
+};
+
+namespace {
+
+const TextState& StateOf(const Graphic& text) {
+    return static_cast<const TextGraphic&>(text).state;
 }
 
-dxf::TextLook LookExport::TextOf(const Graphic& graphic) {
-    if (graphic.GetKind() != Kind::Text) return {};
-    const TextState& state = static_cast<const TextGraphic&>(graphic).state;
-    return {Utf8FromCodePage(state.font), SeenHeight(graphic), state.style, state.format};
+} // namespace
+
+const LookExport::Row LookExport::kRows[] = {
+    {kPropLayer,
+     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { look.layer = by.LayerOf(graphic.layer); }},
+    {kPropInfo, [](LookExport&, const Graphic& graphic,
+                   dxf::Look& look) { look.info = graphic.info ? Utf8FromCodePage(*graphic.info) : ""; }},
+    {kPropStyleTree,
+     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetStyleTree(graphic, look); }},
+    {kPropPenColor,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.color = graphic.GetPen().color; }},
+    {kPropPenStyle, [](LookExport& by, const Graphic& graphic,
+                       dxf::Look& look) { look.lineType = by.LineTypeOf(graphic.GetPen().style); }},
+    {kPropPenScale,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.lineScale = graphic.GetPen().scale; }},
+    {kPropPenWidth,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.width = graphic.GetPen().width; }},
+    {kPropScaleSystem,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) {
+         look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld;
+     }},
+    {kPropPenAlignment, [](LookExport&, const Graphic& graphic,
+                           dxf::Look& look) { look.dashesFitted = graphic.GetPen().alignment; }},
+    {kPropBrushStyle,
+     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetBrushStyle(graphic, look.brush); }},
+    {kPropBrushColor, [](LookExport&, const Graphic& graphic,
+                         dxf::Look& look) { look.brush.color = graphic.GetBrush().color; }},
+    {kPropBrushScale, [](LookExport&, const Graphic& graphic,
+                         dxf::Look& look) { look.brush.scale = graphic.GetBrush().scale; }},
+    {kPropBrushAngle, [](LookExport&, const Graphic& graphic,
+                         dxf::Look& look) { look.brush.angle = graphic.GetBrush().angle; }},
+    {kPropHatchCross, [](LookExport&, const Graphic& graphic,
+                         dxf::Look& look) { look.brush.cross = graphic.GetBrush().cross; }},
+    {kPropBrushDrawMode, [](LookExport&, const Graphic& graphic,
+                            dxf::Look& look) { look.brush.winding = graphic.GetBrush().drawMode != 0; }},
+    {kPropTextFont, [](LookExport&, const Graphic& graphic,
+                       dxf::Look& look) { look.text.font = Utf8FromCodePage(StateOf(graphic).font); }},
+    {kPropTextSize,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.height = SeenHeight(graphic); }},
+    {kPropTextStyle,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.style = StateOf(graphic).style; }},
+    {kPropTextFormat, [](LookExport&, const Graphic& graphic,
+                         dxf::Look& look) { look.text.format = StateOf(graphic).format; }},
+};
+
+void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const {
+    const BrushStyleTable* styles = drawing_.BrushStyles();
+    const BrushStyle* style = styles ? styles->At(graphic.GetBrush().style) : nullptr;
+    const bool isSolid = style && style->lines.empty() && !style->bitmap;
+    look.style = !style ? "" : isSolid ? dxf::kSolidBrush : Utf8FromCodePage(style->name);
+    look.lines = style ? FileLines(*style) : std::vector<dxf::Hatch::PatternLine>();
 }
 
-dxf::Look LookExport::LookOf(const Graphic& graphic) {
-    dxf::Look look;
-    look.layer = LayerOf(graphic.layer);
-    look.color = graphic.GetPen().color;
-    look.lineType = LineTypeOf(graphic.GetPen().style);
-    look.lineScale = graphic.GetPen().scale;
-    look.width = graphic.GetPen().width;
-    look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld;
-    look.dashesFitted = graphic.GetPen().alignment;
-    look.brush = BrushOf(graphic.GetBrush());
-    look.text = TextOf(graphic);
-    if (graphic.info) look.info = Utf8FromCodePage(*graphic.info);
+void LookExport::SetStyleTree(const Graphic& graphic, dxf::Look& look) const {
     const Block* tree = drawing_.Blocks() ? drawing_.Blocks()->At(graphic.styleTree) : nullptr;
-    if (tree) look.styleTree = Utf8FromCodePage(tree->name);
-    return look;
+    look.styleTree = tree ? Utf8FromCodePage(tree->name) : "";
 }
 
-double SeenHeight(const Graphic& text) {
-    const TextState& state = static_cast<const TextGraphic&>(text).state;
-    Matrix motion;
-    const bool moved = text.Parent() && text.Parent()->FindMotion(motion);
-    return moved ? state.height * Length(motion.Turn(state.up)) : state.height;
+void LookExport::Write(const Graphic& graphic, size_t place) {
+    const dxf::Entity entity = patch_.EntityAt(place);
+    VertexGraphic group;
+    import_.AddTo(group, entity, false);
+    if (group.MemberCount() == 0) throw dxf::SaveError("nothing of it would be seen");
+    const Graphic& shown = *group.MemberAt(0);
+    if (shown.GetKind() != graphic.GetKind())
+        throw dxf::SaveError("the file would show another kind of graphic");
+    dxf::Look look = dxf::LookOf(known_, entity);
+    for (const size_t property : comparison_.DifferentProperties(graphic, shown)) {
+        const std::string name = AllProperties().first[property].name;
+        const auto row = std::find_if(std::begin(kRows), std::end(kRows),
+                                      [&](const Row& some) { return name == some.name; });
+        if (row == std::end(kRows)) throw dxf::SaveError("the file can't hold its " + name);
+        row->put(*this, graphic, look);
+        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(name));
+    }
+    dxf::EntityPlace wanted;
+    dxf::AxisEnds ends;
+    std::vector<Vec3> positions;
+    const bool isMoved = comparison_.DifferentShape(graphic, shown, false) != nullptr;
+    if (isMoved && graphic.GetKind() == Kind::Insert) {
+        ends = static_cast<const InsertGraphic&>(graphic).Ends();
+        wanted.ends = &ends;
+    } else if (const auto* list = dynamic_cast<const VertexGraphic*>(&graphic); list && isMoved) {
+        for (const Vertex& vertex : list->vertices)
+            positions.push_back(vertex.Position());
+        wanted.vertices = &positions;
+    }
+    patch_.Change(place, look, wanted);
 }
 
 } // namespace drawcore

@@ -1,7 +1,10 @@
 // The call with which a host program saves a drawing into a DXF file.
 
+#include <algorithm>
+#include <map>
 #include <new>
 #include <optional>
+#include <set>
 
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/src/database/dxf_source.h"
@@ -9,11 +12,13 @@
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/export/drawing_comparison.h"
 #include "drawcore/src/export/layer_export.h"
+#include "drawcore/src/export/leftovers.h"
 #include "drawcore/src/export/look_export.h"
 #include "drawcore/src/export/structure_export.h"
-#include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
+#include "drawcore/src/import/import_tables.h"
 #include "drawcore/src/import/progress_report.h"
+#include "drawcore/src/save/layer_use.h"
 #include "drawcore/src/save/save_error.h"
 #include "files/file_replacement.h"
 #include "files/open_file.h"
@@ -22,14 +27,18 @@ using namespace drawcore;
 
 namespace {
 
-// Carries the looks of what was touched into the text, and where it was moved to.
+// Carries what was touched into the text.
 class ChangeExport {
 public:
-    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch)
-        : drawing_(drawing), structure_(structure), patch_(patch), looks_(drawing, patch) {}
+    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch,
+                 Leftovers& left)
+        : drawing_(drawing), structure_(structure), left_(left), looks_(drawing, patch) {}
 
-    void Write() {
+    // Layers are added even if nothing is on them.
+    void Write(const std::vector<Id>& newLayers) {
         const BlockTable* blocks = drawing_.Blocks();
+        for (const Id id : newLayers)
+            looks_.AddLayer(id);
         WriteMembers(drawing_.Root());
         for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
             if (structure_.Has(*blocks->At(id))) WriteMembers(blocks->At(id)->Content());
@@ -39,29 +48,17 @@ private:
     void WriteMembers(const Graphic& group) {
         for (size_t i = 0; i < group.MemberCount(); ++i) {
             const Graphic& graphic = *group.MemberAt(i);
-            if (graphic.touched || graphic.source == Graphic::kNoSource) Write(graphic);
+            const bool isNew = graphic.source == Graphic::kNoSource;
+            if (isNew && !structure_.WillHave(graphic)) continue;
+            if ((graphic.touched || isNew) && !left_.Has(graphic))
+                left_.Try(graphic, [&] { looks_.Write(graphic, structure_.PlaceOf(graphic)); });
             WriteMembers(graphic);
         }
     }
 
-    void Write(const Graphic& graphic) {
-        dxf::EntityPlace place;
-        Matrix placement;
-        std::vector<Vec3> positions;
-        if (graphic.GetKind() == Kind::Insert) {
-            placement = static_cast<const InsertGraphic&>(graphic).Placement();
-            place.placement = &placement;
-        } else if (const auto* list = dynamic_cast<const VertexGraphic*>(&graphic)) {
-            for (const Vertex& vertex : list->vertices)
-                positions.push_back(vertex.Position());
-            place.vertices = &positions;
-        }
-        patch_.Change(structure_.PlaceOf(graphic), looks_.LookOf(graphic), place);
-    }
-
     const Drawing& drawing_;
     const StructureExport& structure_;
-    dxf::DrawingPatch& patch_;
+    Leftovers& left_;
     LookExport looks_;
 };
 
@@ -88,41 +85,106 @@ struct ChangedSource {
     std::string bytes;
     dxf::Document known;
     Sources sources;
+    std::vector<uint32_t> removedLeft;          // StructureExport::RemovedLeft, in the bytes
+    std::map<std::string, size_t> onlyExtended; // DrawingPatch::OnlyExtended
 };
 
-// None, and the source stays, if nobody has touched the drawing.
-std::optional<ChangedSource> Changed(const Drawing& drawing, const ProgressReport& report) {
-    const DxfSource& source = *drawing.source;
-    const std::string_view text = dxf::TextOf(source.bytes);
-    dxf::StructurePatch structurePatch(text, source.known.Tables());
-    StructureExport structure(drawing, structurePatch);
-    structure.Write();
-    const auto layers = ChangedLayers(drawing, source.known);
-    if (!structurePatch.IsChanged() && layers.empty() && !IsTouched(drawing)) return std::nullopt;
-    const bool restructured = structurePatch.IsChanged();
-    const std::string other = restructured ? structurePatch.Finish() : std::string();
-    dxf::DrawingPatch patch(restructured ? std::string_view(other) : text,
-                            restructured ? dxf::Read(other, {}).Tables() : source.known.Tables());
-    for (const auto& [index, layer] : layers)
-        patch.ChangeLayer(index, layer);
-    ChangeExport(drawing, structure, patch).Write();
-    ChangedSource changed;
-    changed.bytes = source.bytes.substr(0, source.bytes.size() - text.size()) + patch.Finish();
-    report(kPatched);
-    const dxf::Document document = dxf::Read(changed.bytes, report.Part(kPatched, kReadBack));
-    const std::string difference = FirstDifference(drawing, dxf::TextOf(changed.bytes), document,
-                                                   changed.sources, report.Part(kReadBack, kCompared));
-    if (!difference.empty()) throw dxf::SaveError(difference);
-    if (!ChangedLayers(drawing, document).empty())
-        throw dxf::SaveError("the file can't hold a change of a layer");
-    changed.known = document.Tables();
-    return changed;
-}
+// One way of a drawing into the text of its file and back. What is left over by then, and was not before, makes the result
+// useless: the next way leaves it out.
+class SavePass {
+public:
+    SavePass(const Drawing& drawing, Leftovers& left, const ProgressReport& report)
+        : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left),
+          report_(report) {}
 
-void TakeOver(ChangedSource&& changed, DxfSource& source) {
+    // None, and the source stays, if the drawing is what the file has.
+    std::optional<ChangedSource> Run() {
+        dxf::StructurePatch structurePatch(text_, source_.known.Tables());
+        StructureExport structure(drawing_, structurePatch, left_);
+        structure.Write();
+        const bool restructured = structurePatch.IsChanged();
+        const std::string other = restructured ? structurePatch.Finish() : std::string();
+        structure.TakeRefusals();
+        const std::vector<Id> newLayers = NewLayers();
+        const bool isSame = !restructured && newLayers.empty() &&
+                            ChangedLayers(drawing_, source_.known).empty() && !IsTouched(drawing_);
+        if (isSame || IsInVain()) return std::nullopt;
+        dxf::DrawingPatch patch(restructured ? std::string_view(other) : text_,
+                                restructured ? dxf::Read(other, {}).Tables() : source_.known.Tables());
+        ChangeLayers(patch);
+        ChangeExport(drawing_, structure, patch, left_).Write(newLayers);
+        if (IsInVain()) return std::nullopt;
+        ChangedSource changed;
+        changed.onlyExtended = patch.OnlyExtended();
+        changed.bytes = source_.bytes.substr(0, source_.bytes.size() - text_.size()) + patch.Finish();
+        for (const uint32_t place : structure.RemovedLeft())
+            changed.removedLeft.push_back(static_cast<uint32_t>(patch.Moved(place)));
+        report_(kPatched);
+        Compare(changed);
+        return changed;
+    }
+
+private:
+    // Whether the pass is to be made again without what is left over by now.
+    bool IsInVain() const { return left_.Count() != before_; }
+
+    // Those that the drawing did not have when it was read or saved.
+    std::vector<Id> NewLayers() const {
+        std::vector<Id> added;
+        const LayerTable* layers = drawing_.Layers();
+        const std::set<std::string> had(source_.layers.begin(), source_.layers.end());
+        for (Id id = layers ? layers->First() : kNoId; id; id = layers->Next(id))
+            if (had.count(layers->At(id)->name) == 0) added.push_back(id);
+        return added;
+    }
+
+    void ChangeLayers(dxf::DrawingPatch& patch) {
+        for (const auto& [index, layer] : ChangedLayers(drawing_, patch.Known())) {
+            const std::string name = Leftovers::NameOfLayer(HostName(layer.name));
+            if (left_.Has(name)) continue;
+            try {
+                patch.ChangeLayer(index, layer);
+            } catch (const dxf::SaveError& error) {
+                left_.Add(name, error.what());
+            }
+        }
+    }
+
+    void Compare(ChangedSource& changed) {
+        const std::string_view text = dxf::TextOf(changed.bytes);
+        const dxf::Document document = dxf::Read(changed.bytes, report_.Part(kPatched, kReadBack));
+        changed.sources = CompareWithFile(drawing_, text, document, left_, changed.removedLeft,
+                                          report_.Part(kReadBack, kCompared));
+        for (const auto& [index, layer] : ChangedLayers(drawing_, document))
+            left_.Add(Leftovers::NameOfLayer(HostName(layer.name)), "the file can't hold a change of it");
+        CompareLayerNames(text, document);
+        changed.known = document.Tables();
+    }
+
+    void CompareLayerNames(std::string_view text, const dxf::Document& document) {
+        const LayerTable* layers = drawing_.Layers();
+        if (!layers) return;
+        for (const std::string& name : source_.layers) {
+            if (layers->IdOf(name)) continue;
+            const std::string layer = Utf8FromCodePage(name);
+            if (dxf::FirstOnLayer(text, document, layer).empty()) continue;
+            const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // with its line there
+            left_.Add(Leftovers::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
+        }
+    }
+
+    const Drawing& drawing_;
+    const DxfSource& source_;
+    const std::string_view text_;
+    Leftovers& left_;
+    const size_t before_ = left_.Count();
+    const ProgressReport& report_;
+};
+
+void TakeOver(ChangedSource&& changed, const Leftovers& left, DxfSource& source) {
     for (const auto& [graphic, place] : changed.sources) {
         graphic->source = place;
-        graphic->touched = false;
+        if (!left.Has(*graphic)) graphic->touched = false;
     }
     source.bytes = std::move(changed.bytes);
     source.known = std::move(changed.known);
@@ -133,23 +195,65 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
     return std::filesystem::equivalent(a, b, error);
 }
 
-int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, const ProgressReport& report) {
+// Ways until nothing more is left over. SaveError for the first thing that is, unless the rest is wanted.
+std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Leftovers& left,
+                                    const ProgressReport& report) {
+    for (;;) {
+        const size_t before = left.Count();
+        std::optional<ChangedSource> changed = SavePass(drawing, left, report).Run();
+        if (left.Count() == before) return changed;
+        if (!wantsRest) throw dxf::SaveError(left.List().front().text);
+    }
+}
+
+// What was to be removed and is left is tried again when the drawing is saved next.
+void NoteContents(const Drawing& drawing, const Leftovers& left, const std::vector<uint32_t>& removedLeft) {
     DxfSource& source = *drawing.source;
+    const std::vector<std::string> layers = source.layers, blocks = source.blocks;
+    source.NoteContents(drawing, left.Count());
+    for (const std::string& name : layers)
+        if (left.Has(Leftovers::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
+            source.layers.push_back(name);
+    for (const std::string& name : blocks)
+        if (left.Has(Leftovers::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name))
+            source.blocks.push_back(name);
+    source.graphics.insert(source.graphics.end(), removedLeft.begin(), removedLeft.end());
+    std::sort(source.graphics.begin(), source.graphics.end());
+}
+
+void ReportOnlyExtended(const std::map<std::string, size_t>& properties, const DxfListener* listener) {
+    for (const auto& [name, count] : properties)
+        if (listener && listener->finding)
+            listener->finding(listener->context, 0, dxf::OnlyExtendedText(name, count).c_str());
+}
+
+int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, const DxfListener* listener) {
+    DxfSource& source = *drawing.source;
+    const ProgressReport report(listener);
     const bool mustBeSource = IsSameFile(path, source.path) && !(flags & kSaveOverChanged);
     const auto isChanged = [&] { return mustBeSource && !files::HasContents(path, source.bytes); };
     if (isChanged()) return kSaveFileChanged;
     report(0);
-    std::optional<ChangedSource> changed = Changed(drawing, report);
+    Leftovers left(drawing);
+    std::optional<ChangedSource> changed = Change(drawing, flags & kSaveRest, left, report);
     const std::string& bytes = changed ? changed->bytes : source.bytes;
     const dxf::Progress progress = report.Part(kCompared, 1000);
     files::FileReplacement file(path);
     file.Write(bytes, [&](size_t written) { progress(dxf::Permille(written, bytes.size())); });
     if (isChanged()) return kSaveFileChanged; // while it was written
     file.TakePlace();                         // from here on nothing is cancelled
-    if (changed) TakeOver(std::move(*changed), source);
-    source.NoteContents(drawing);
+    const std::vector<uint32_t> removedLeft =
+        changed ? changed->removedLeft : std::vector<uint32_t>(left.Removed().begin(), left.Removed().end());
+    if (changed) {
+        ReportOnlyExtended(changed->onlyExtended, listener);
+        TakeOver(std::move(*changed), left, source);
+    }
+    NoteContents(drawing, left, removedLeft);
     source.path = path;
-    return kSaveDone;
+    for (const dxf::Finding& finding : left.List())
+        if (listener && listener->finding)
+            listener->finding(listener->context, static_cast<int>(finding.line), finding.text.c_str());
+    return left.Count() == 0 ? kSaveDone : kSaveDoneInPart;
 }
 
 } // namespace
@@ -164,7 +268,7 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         return kSaveFailed;
     }
     try {
-        const int result = Save(*found, std::filesystem::absolute(path), flags, ProgressReport(listener));
+        const int result = Save(*found, std::filesystem::absolute(path), flags, listener);
         if (result == kSaveFileChanged) CopyText("the file has changed since it was opened", message, size);
         return result;
     } catch (const Cancelled& cancelled) {

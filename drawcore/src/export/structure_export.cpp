@@ -23,19 +23,27 @@ bool IsNew(const Graphic& graphic) {
 
 } // namespace
 
-StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch)
-    : drawing_(drawing), patch_(patch) {
+StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, Leftovers& left)
+    : drawing_(drawing), patch_(patch), left_(left) {
     for (const dxf::Block& block : patch.Known().blocks) {
         const std::string name = HostName(block.name);
         const std::vector<std::string>& taken = drawing.source->blocks;
         if (block.declared && std::find(taken.begin(), taken.end(), name) != taken.end())
-            inFile_.emplace(
-                FoldName(name),
-                dxf::Block{block.name, true, block.base, block.flags, {}, block.own, block.begin, block.end});
+            inFile_.emplace(FoldName(name), dxf::Block{block.name,
+                                                       block.stored,
+                                                       true,
+                                                       block.base,
+                                                       block.flags,
+                                                       {},
+                                                       block.own,
+                                                       block.begin,
+                                                       block.end});
     }
 }
 
 void StructureExport::Write() {
+    CheckWhole("the drawing", drawing_.Root());
+    RemoveLayers();
     RemoveBlocks();
     if (const BlockTable* blocks = drawing_.Blocks())
         for (Id id = blocks->First(); id; id = blocks->Next(id))
@@ -57,48 +65,85 @@ uint32_t StructureExport::PlaceOf(const Graphic& graphic) const {
 
 void StructureExport::RemoveBlocks() {
     const BlockTable* blocks = drawing_.Blocks();
-    for (const auto& [name, block] : inFile_) {
-        if (blocks && blocks->IdOf(HostName(block.name))) continue;
+    for (const auto& [folded, block] : inFile_) {
+        const std::string name = HostName(block.name);
+        if (blocks && blocks->IdOf(name)) continue;
+        if (left_.Has(Leftovers::NameOfBlock(name))) continue;
         patch_.RemoveBlock(block);
         removed_.emplace_back(block.begin, block.end);
     }
 }
 
 void StructureExport::WriteBlock(const Block& block) {
-    try {
-        if (!block.Content().HasLook(VertexGraphic().GetLook()))
-            throw dxf::SaveError("the file has no place for properties of the block as a whole");
-        const auto known = inFile_.find(FoldName(block.name));
-        if (known != inFile_.end()) return AddMissing(block.Content(), &known->second);
-        dxf::Block made;
-        made.name = Utf8FromCodePage(block.name);
-        made.base = block.base;
-        if (const char* tree = block.Content().pszStyleName)
-            made.own.push_back({dxf::kOwnStyleTree, Utf8FromCodePage(tree), {}});
-        const size_t count = block.Content().MemberCount();
-        for (size_t i = 0; i < count; ++i)
-            made.entities.push_back(EntityOf(*block.Content().MemberAt(i)));
-        const size_t first = patch_.AddBlock(made);
-        for (size_t i = 0; i < count; ++i)
-            added_.emplace(block.Content().MemberAt(i), first + i);
-    } catch (const dxf::SaveError& error) {
-        throw dxf::SaveError("block \"" + block.name + "\": " + error.what());
+    CheckWhole(Leftovers::NameOfBlock(block.name), block.Content());
+    const auto known = inFile_.find(FoldName(block.name));
+    if (known != inFile_.end()) {
+        WriteTree(block, known->second);
+        return AddMissing(block.Content(), &known->second);
+    }
+    dxf::Block made;
+    made.name = Utf8FromCodePage(block.name);
+    made.base = block.base;
+    if (const std::string tree = StyleTreeOf(block); !tree.empty())
+        made.own.push_back({dxf::kOwnStyleTree, Utf8FromCodePage(tree), {}});
+    std::vector<const Graphic*> parts;
+    for (size_t i = 0; i < block.Content().MemberCount(); ++i) {
+        const Graphic& part = *block.Content().MemberAt(i);
+        if (left_.Has(part)) continue;
+        left_.Try(part, [&] {
+            patch_.Check(made.entities.emplace_back(EntityOf(part)));
+            parts.push_back(&part);
+        });
+    }
+    if (parts.size() != made.entities.size()) return; // it is tried again without the others
+    const size_t first = patch_.AddBlock(made);
+    for (size_t i = 0; i < parts.size(); ++i)
+        added_.emplace(parts[i], first + i);
+}
+
+// A group of graphics has properties that no record of a file has.
+void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
+    if (!whole.HasLook(VertexGraphic().GetLook()))
+        left_.Add(name, "the file has no place for properties of the whole");
+}
+
+void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
+    const std::string tree = StyleTreeOf(block);
+    if (tree == StyleTreeOf(known)) return;
+    dxf::OwnData own = known.own;
+    own.erase(std::remove_if(own.begin(), own.end(),
+                             [](const dxf::OwnValue& value) { return value.name == dxf::kOwnStyleTree; }),
+              own.end());
+    if (!tree.empty()) own.push_back({dxf::kOwnStyleTree, Utf8FromCodePage(tree), {}});
+    patch_.SetOwn(known, own);
+}
+
+// Of the layers that the drawing had when it was read or saved.
+void StructureExport::RemoveLayers() {
+    const LayerTable* layers = drawing_.Layers();
+    for (const dxf::Layer& layer : patch_.Known().layers) {
+        const std::string name = HostName(layer.name);
+        const std::vector<std::string>& had = drawing_.source->layers;
+        const bool isGone =
+            layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
+        if (!isGone || !layer.declared || left_.Has(Leftovers::NameOfLayer(name))) continue;
+        patch_.RemoveLayer(layer);
     }
 }
 
 void StructureExport::AddMissing(const Graphic& group, const dxf::Block* block) {
     for (size_t i = 0; i < group.MemberCount(); ++i) {
         const Graphic& graphic = *group.MemberAt(i);
-        if (IsNew(graphic))
-            added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block));
-        else
+        if (!IsNew(graphic))
             Keep(graphic);
+        else if (!left_.Has(graphic))
+            left_.Try(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
     }
 }
 
 // A graphic that is in the file with all its members.
 void StructureExport::Keep(const Graphic& graphic) {
-    if (IsNew(graphic)) throw dxf::SaveError("an attribute was added, which the file can't take");
+    if (IsNew(graphic)) return left_.Add(graphic, "an attribute was added, which the file can't take");
     kept_.push_back(graphic.source);
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
         Keep(*graphic.MemberAt(i));
@@ -113,8 +158,39 @@ void StructureExport::RemoveOthers() {
         const auto holds = [offset](const auto& range) {
             return range.first < offset && offset < range.second;
         };
-        if (std::none_of(removed_.begin(), removed_.end(), holds)) patch_.Remove(offset);
+        if (left_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))
+            patch_.Remove(offset);
     }
+}
+
+void StructureExport::TakeRefusals() {
+    for (const dxf::ReferenceRemoval::Refusal& refusal : patch_.Refusals()) {
+        const auto place = static_cast<uint32_t>(refusal.place);
+        std::string what;
+        for (const auto& [folded, block] : inFile_)
+            if (block.begin == place) what = Leftovers::NameOfBlock(HostName(block.name));
+        for (const dxf::Layer& layer : drawing_.source->known.layers)
+            if (layer.declared && layer.offset == place) what = Leftovers::NameOfLayer(HostName(layer.name));
+        what.empty() ? left_.AddRemoved(place, refusal.why) : left_.Add(what, refusal.why);
+    }
+}
+
+std::vector<uint32_t> StructureExport::RemovedLeft() const {
+    std::vector<uint32_t> places;
+    for (const uint32_t place : left_.Removed())
+        places.push_back(static_cast<uint32_t>(patch_.Moved(place)));
+    return places;
+}
+
+std::string StyleTreeOf(const Block& block) {
+    const char* tree = block.Content().pszStyleName;
+    return tree ? tree : "";
+}
+
+std::string StyleTreeOf(const dxf::Block& block) {
+    for (const dxf::OwnValue& own : block.own)
+        if (own.name == dxf::kOwnStyleTree) return CodePageFromUtf8(own.text);
+    return {};
 }
 
 dxf::Entity StructureExport::EntityOf(const Graphic& graphic) {

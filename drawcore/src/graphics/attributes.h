@@ -13,7 +13,7 @@
 namespace drawcore {
 
 struct Pen {
-    double width = 0; // by scaleSystem; 0 is the thinnest line of the device
+    double width = 0; // by scaleSystem, or a marker; 0 is the thinnest line of the device
     double scale = 1; // of the dash pattern
     Color color = kColorByLayer;
     uint16_t style = kLineStyleByLayer;

@@ -216,4 +216,13 @@ bool Graphic::EqualAttributes(const Graphic& saved) const {
     return HasLook(saved.GetLook());
 }
 
+double ShownPenWidth(const Graphic& graphic) {
+    const double width = graphic.GetPen().width;
+    if (width >= 0) return width;
+    const Drawing* drawing = graphic.GetDrawing();
+    const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
+    const Layer* layer = layers && width == kPenWidthByLayer ? layers->At(graphic.layer) : nullptr;
+    return layer ? layer->lineWidth : 0;
+}
+
 } // namespace drawcore

@@ -158,6 +158,9 @@ private:
     mutable bool extentsKnown_ = false; // Box() holds them
 };
 
+// Returns the width of the graphic's pen: a marker is resolved by the graphic's own layer, by block to 0.
+double ShownPenWidth(const Graphic& graphic);
+
 // Whether the filter of a walk lets the graphic through (see drawcore/graphic.h).
 bool PassesFilter(const Graphic& graphic, uint32_t filter);
 

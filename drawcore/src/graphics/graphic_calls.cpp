@@ -187,8 +187,10 @@ void GraphicSetPenScale(GraphicStruct* graphic, double scale) {
 }
 
 void GraphicSetScaleSystem(GraphicStruct* graphic, int system) {
-    const uint8_t value = system == kScaleWorld ? kScaleWorld : kScalePaper;
-    ChangePen(graphic, [&](Pen& pen) { pen.scaleSystem = value; });
+    ChangeAttribute(graphic, [&](Graphic& changed) {
+        if (system == kScaleWorld) changed.GetPen().width = ShownPenWidth(changed);
+        changed.GetPen().scaleSystem = system == kScaleWorld ? kScaleWorld : kScalePaper;
+    });
 }
 
 void GraphicSetPenWidth(GraphicStruct* graphic, double width) {

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/trace.h"
 
@@ -20,10 +19,6 @@ bool IsOpen(const Block* block, const Trace& trace) {
     return false;
 }
 
-Vec3 Origin(const Matrix& placement) {
-    return placement.Apply({});
-}
-
 bool operator==(const InsertArray& a, const InsertArray& b) {
     return a.columns == b.columns && a.rows == b.rows && a.columnStep == b.columnStep &&
            a.rowStep == b.rowStep;
@@ -31,9 +26,9 @@ bool operator==(const InsertArray& a, const InsertArray& b) {
 
 } // namespace
 
-InsertGraphic::InsertGraphic(Id blockId, const Matrix& placement)
+InsertGraphic::InsertGraphic(Id blockId, const dxf::AxisEnds& ends)
     : Graphic(kGraphicInsert, &kInsertProperties), block(blockId) {
-    Place(placement);
+    Place(ends);
 }
 
 InsertGraphic::InsertGraphic(const InsertGraphic& other)
@@ -52,12 +47,14 @@ void InsertGraphic::SetArray(const InsertArray& array) {
     if (more_ || !(array == InsertArray())) GetMore().array = array;
 }
 
-void InsertGraphic::Place(const Matrix& placement) {
+void InsertGraphic::Place(const dxf::AxisEnds& ends) {
     KeepFirst();
-    const Vec3 corners[4] = {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
-                             placement.Apply({0, 0, 1})};
-    for (int i = 0; i < 4; ++i)
-        vertices[i].Set(corners[i]);
+    for (size_t i = 0; i < ends.size(); ++i)
+        vertices[i].Set(ends[i]);
+}
+
+dxf::AxisEnds InsertGraphic::Ends() const {
+    return {vertices[0].Position(), vertices[1].Position(), vertices[2].Position(), vertices[3].Position()};
 }
 
 std::unique_ptr<Graphic> InsertGraphic::CloneState() const {
@@ -82,9 +79,7 @@ bool InsertGraphic::EqualState(const Graphic& saved) const {
 }
 
 Matrix InsertGraphic::Placement() const {
-    const Vec3 origin = vertices[0].Position();
-    return Matrix::FromAxes(vertices[1].Position() - origin, vertices[2].Position() - origin,
-                            vertices[3].Position() - origin, origin);
+    return dxf::PlacementOf(Ends());
 }
 
 void InsertGraphic::KeepFirst() {
@@ -103,9 +98,7 @@ bool InsertGraphic::FindMotion(Matrix& motion) const {
     const Matrix& first = *more_->first;
     const Matrix now = Placement();
     if (std::equal(&now.at[0][0], &now.at[0][0] + 16, &first.at[0][0])) return false;
-    Matrix back;
-    motion = dxf::Solid(first).Invert(back) ? back * dxf::Solid(now)
-                                            : Matrix::Translation(Origin(now) - Origin(first));
+    motion = dxf::MotionBetween(first, now);
     return true;
 }
 
@@ -129,6 +122,7 @@ void InsertGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     inner.layer = EffectiveLayer(*this, trace);
     inner.color = use.color;
     inner.style = use.style;
+    inner.penWidth = use.width;
     const Matrix first = Matrix::Translation(shown->base * -1) * Placement();
     const InsertArray moved = MovedArray();
     for (int row = 0; row < moved.rows; ++row)

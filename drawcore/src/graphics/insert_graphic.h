@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/vertex.h"
 
@@ -18,8 +19,8 @@ struct InsertArray {
 
 class InsertGraphic : public Graphic {
 public:
-    // The matrix is held as four vertices: the origin and the end points of the block's axes.
-    explicit InsertGraphic(Id blockId = kNoId, const Matrix& placement = {});
+    // Its vertices are the origin of the block and the ends of the block's axes.
+    explicit InsertGraphic(Id blockId = kNoId, const dxf::AxisEnds& ends = dxf::AxisEndsOf(Matrix()));
     InsertGraphic(const InsertGraphic& other);
 
     Kind GetKind() const override { return Kind::Insert; }
@@ -34,7 +35,8 @@ public:
 
     // From the block's coordinates to those of the drawing, without the block's base point.
     Matrix Placement() const;
-    void Place(const Matrix& placement);
+    dxf::AxisEnds Ends() const;
+    void Place(const dxf::AxisEnds& ends);
     InsertArray Array() const { return more_ ? more_->array : InsertArray(); }
     void SetArray(const InsertArray& array);
     InsertArray MovedArray() const; // as it is seen

@@ -78,7 +78,8 @@ PlaceIndex::~PlaceIndex() = default;
 
 void PlaceIndex::NotePen(const Pen& pen) {
     double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
-    reach = std::max(reach, pen.width / 2);
+    constexpr double kWidestInherited = 2.11 / kMillimetresPerInch; // the largest line weight of a layer
+    reach = std::max(reach, (pen.width >= 0 ? pen.width : kWidestInherited) / 2);
 }
 
 void PlaceIndex::NoteMember(const Graphic& member) {

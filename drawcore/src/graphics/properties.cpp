@@ -10,7 +10,6 @@
 
 #include <wtypes.h>
 
-#include "drawcore/include/drawcore/property_schema.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/graphics/text_graphic.h"
@@ -33,10 +32,12 @@ struct RealAccess {
     double (*get)(const Graphic&);
     bool (*accepts)(double);
     void (*set)(Graphic&, double);
+    double (*stored)(const Graphic&); // null: get
 };
 struct TextAccess {
     const char* (*get)(const Graphic&);
     void (*set)(Graphic&, const char*);
+    const char* (*stored)(const Graphic&); // null: get
 };
 
 // One property: exactly one of the three accesses is set.
@@ -109,7 +110,8 @@ constexpr Property Real(const char* name, PropertyMeaning meaning, uint8_t owner
             meaning,
             owners,
             {},
-            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>},
+            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>,
+             nullptr},
             {},
             shapes};
 }
@@ -153,6 +155,30 @@ bool IsNotNegative(double value) {
     return std::isfinite(value) && value >= 0;
 }
 
+bool IsPenWidth(double value) {
+    return IsNotNegative(value) || value == kPenWidthByLayer || value == kPenWidthByBlock;
+}
+
+double GetStoredPenWidth(const Graphic& graphic) {
+    return graphic.GetPen().width;
+}
+
+int64_t GetScaleSystem(const Graphic& graphic) {
+    return graphic.GetPen().scaleSystem;
+}
+
+// A width that is inherited is one on paper.
+void SetPenWidth(Graphic& graphic, double width) {
+    graphic.GetPen().width = width;
+    if (width < 0) graphic.GetPen().scaleSystem = kScalePaper;
+}
+
+// In drawing units a width has to be a number of its own.
+void SetScaleSystem(Graphic& graphic, int64_t system) {
+    if (system == kScaleWorld) graphic.GetPen().width = ShownPenWidth(graphic);
+    graphic.GetPen().scaleSystem = static_cast<uint8_t>(system);
+}
+
 bool IsPositive(double value) {
     return std::isfinite(value) && value > 0;
 }
@@ -171,6 +197,10 @@ const char* GetFont(const Graphic& graphic) {
     return font.empty() ? TextFace::Get(font, 0).Name().c_str() : font.c_str();
 }
 
+const char* GetStoredFont(const Graphic& graphic) {
+    return InText<&TextState::font>::In(graphic).c_str();
+}
+
 constexpr auto kAnyStyle = Within<0, kLineStyleByLayer>;
 constexpr auto kAnyEntry = Within<0, kHighestId>;
 constexpr auto kYesOrNo = Within<0, 1>;
@@ -183,17 +213,18 @@ constexpr Property kProperties[] = {
     Real<InBrush<&Brush::scale>, IsNotNegative>(kPropBrushScale, kMeansNumber, kOfShape),
     Whole<InBrush<&Brush::style>, kAnyEntry>(kPropBrushStyle, kMeansBrushStyle, kOfShape),
     Whole<InBrush<&Brush::cross>, kYesOrNo>(kPropHatchCross, kMeansSwitch, kOfShape),
-    Text(kPropInfo, kMeansText, kOfAll, {GetInfo, SetInfo}),
+    Text(kPropInfo, kMeansText, kOfAll, {GetInfo, SetInfo, nullptr}),
     Whole<Own<&Graphic::layer>, IsLayer>(kPropLayer, kMeansLayer, kOfAll),
     Whole<InPen<&Pen::alignment>, kYesOrNo>(kPropPenAlignment, kMeansSwitch, kOfShape),
     Whole<InPen<&Pen::color>, IsPenColor>(kPropPenColor, kMeansColor, kOfAll),
     Real<InPen<&Pen::scale>, IsNotNegative>(kPropPenScale, kMeansNumber, kOfShape),
     Whole<InPen<&Pen::style>, kAnyStyle>(kPropPenStyle, kMeansLineStyle, kOfShape | kOfInsert),
-    Real<InPen<&Pen::width>, IsNotNegative>(kPropPenWidth, kMeansWidth, kOfShape),
-    Whole<InPen<&Pen::scaleSystem>, IsScaleSystem>(kPropScaleSystem, kMeansScaleSystem, kOfShape),
+    {kPropPenWidth, kMeansWidth, kOfShape, {}, {ShownPenWidth, IsPenWidth, SetPenWidth, GetStoredPenWidth}},
+    {kPropScaleSystem, kMeansScaleSystem, kOfShape, {GetScaleSystem, IsScaleSystem, SetScaleSystem}},
     Whole<Own<&Graphic::styleTree>, kAnyEntry>(kPropStyleTree, kMeansBlock, kOfAll),
     Text(kPropTextFont, kMeansText, kOfText,
-         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }}, true),
+         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont},
+         true),
     Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>(kPropTextFormat, kMeansNumber, kOfText,
                                                                      true),
     Real<InText<&TextState::height>, IsPositive>(kPropTextSize, kMeansLength, kOfText, true),
@@ -335,6 +366,18 @@ int Set(GraphicStruct* record, int32_t number, int vt, const void* in) {
 }
 
 } // namespace
+
+StoredProperty GetStored(const Graphic& graphic, size_t place) {
+    const Property& property = kProperties[place];
+    const uint8_t owner = graphic.GetKind() == Kind::Text     ? kOfText
+                          : graphic.GetKind() == Kind::Insert ? kOfInsert
+                                                              : kOfShape;
+    if (!(property.owners & (kOfShape | owner))) return {}; // every graphic has a pen and a brush
+    if (property.whole.get) return property.whole.get(graphic);
+    if (property.real.get)
+        return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
+    return std::string(property.text.stored ? property.text.stored(graphic) : property.text.get(graphic));
+}
 
 const PropertyTable kShapeProperties = {nullptr, Lookup<kOfShape>, Get<kOfShape>, Set<kOfShape>};
 const PropertyTable kTextProperties = {nullptr, Lookup<kOfText>, Get<kOfText>, Set<kOfText>};

@@ -5,9 +5,16 @@
 // a text gives back what the variable held before. PropSet refuses what is out of the property's limits.
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <variant>
+
+#include "drawcore/include/drawcore/property_schema.h"
 #include "orlo/host/records.h"
 
 namespace drawcore {
+
+class Graphic;
 
 // Vertex lists, curves, groups: pen, brush, "Layer", "Info", "StyleTree".
 extern const PropertyTable kShapeProperties;
@@ -15,5 +22,11 @@ extern const PropertyTable kShapeProperties;
 extern const PropertyTable kTextProperties;
 // Insertions: "PenColor" and "PenStyle" for what their blocks leave to them, "Layer", "Info", "StyleTree".
 extern const PropertyTable kInsertProperties;
+
+// Nothing: a property of texts, of a graphic that is not a text.
+using StoredProperty = std::variant<std::monostate, int64_t, double, std::string>;
+// Returns what the graphic stores under a property of the schema (DrawCoreGetProperties), given by its place there. PropGet
+// resolves markers and the default face; this function does not.
+StoredProperty GetStored(const Graphic& graphic, size_t property);
 
 } // namespace drawcore

@@ -42,6 +42,13 @@ const LineStyle* ResolveStyle(uint16_t style, Id layer, const Trace& trace) {
     return of ? StyleOf(of->lineStyle, trace) : nullptr;
 }
 
+double ResolveWidth(const Pen& pen, Id layer, const Trace& trace, double unit) {
+    if (pen.width >= 0) return pen.width * (pen.scaleSystem == kScaleWorld ? unit : trace.sink.PaperInch());
+    if (pen.width == kPenWidthByBlock) return trace.penWidth;
+    const Layer* of = LayerOf(layer, trace);
+    return of ? of->lineWidth * trace.sink.PaperInch() : 0;
+}
+
 // An insertion on a layer that is only off still shows what of its block lies on other layers.
 bool IsShown(const Graphic& graphic, const Trace& trace) {
     const Layer* layer = LayerOf(EffectiveLayer(graphic, trace), trace);
@@ -78,7 +85,7 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
     const double unit = trace.penUnit > 0 ? trace.penUnit : trace.matrix.PlanScale();
     PenUse use;
     use.color = ResolveColor(pen.color, layer, trace);
-    use.width = pen.width * (pen.scaleSystem == kScaleWorld ? unit : trace.sink.PaperInch());
+    use.width = ResolveWidth(pen, layer, trace, unit);
     use.style = ResolveStyle(pen.style, layer, trace);
     use.dashScale = pen.scale * trace.lineScale * unit;
     use.fitDashes = pen.alignment;

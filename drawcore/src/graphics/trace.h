@@ -96,6 +96,7 @@ struct Trace {
     Id layer = kLayerZero;
     Color color = kWhite;
     const LineStyle* style = nullptr;
+    double penWidth = 0; // sink units
 };
 
 // Traces the graphic and its members, as far as their layers are visible.

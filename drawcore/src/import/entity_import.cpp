@@ -160,7 +160,7 @@ public:
         if (dimension->block == dxf::BlockIndex::none) return nullptr;
         const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
         if (!block) return nullptr;
-        return std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity_));
+        return std::make_unique<InsertGraphic>(block, dxf::AxisEndsOf(entity_));
     }
 
 private:
@@ -175,7 +175,7 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
         insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
     const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
-    auto graphic = std::make_unique<InsertGraphic>(block, dxf::PlacementOf(entity));
+    auto graphic = std::make_unique<InsertGraphic>(block, dxf::AxisEndsOf(entity));
     graphic->SetArray({static_cast<int>(insert.columns), static_cast<int>(insert.rows),
                        turned.Turn({insert.columnSpacing, 0, 0}), turned.Turn({0, insert.rowSpacing, 0})});
     return graphic;

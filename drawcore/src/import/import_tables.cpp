@@ -7,6 +7,7 @@
 
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/dxf/look.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/units/header_units.h"
@@ -25,6 +26,7 @@ void SetLayer(Layer& layer, const dxf::Layer& from, const LineStyleTable& styles
     const Color color = dxf::ColorOf(std::abs(from.color), from.trueColor);
     layer.color = IsPlainColor(color) ? color : kWhite;
     layer.lineStyle = styles.IdOf(HostName(from.lineType));
+    layer.lineWidth = std::max(from.lineWeight, 0) / dxf::kWeightsPerInch;
     layer.off = from.color < 0;
     layer.frozen = from.flags & dxf::kLayerIsFrozen;
     layer.locked = from.flags & dxf::kLayerIsLocked;

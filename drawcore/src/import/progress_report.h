@@ -1,6 +1,7 @@
 // How far a drawing is opened or saved, for the program that waits; it may cancel there.
 #pragma once
 
+#include <memory>
 #include <stdexcept>
 
 #include "drawcore/include/drawcore/dxf.h"
@@ -20,6 +21,8 @@ public:
 
     // Throws Cancelled if the listener wants no more.
     void operator()(int permille) const {
+        if (permille < *done_) return; // of a step that is done once more
+        *done_ = permille;
         if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille))
             throw Cancelled();
     }
@@ -30,6 +33,7 @@ public:
 
 private:
     const DxfListener* listener_;
+    std::shared_ptr<int> done_ = std::make_shared<int>(0);
 };
 
 } // namespace drawcore

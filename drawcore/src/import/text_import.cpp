@@ -45,7 +45,7 @@ void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
         state.fitWidth = std::hypot(way.x, way.y);
         if (state.fitWidth > 0) angle = std::atan2(way.y, way.x);
     }
-    const double slant = Radians(std::clamp(text.oblique, -80.0, 80.0));
+    const double slant = Radians(std::clamp(std::remainder(text.oblique, 360.0), -80.0, 80.0));
     const double backward = text.backward ? -1 : 1, upsideDown = text.upsideDown ? -1 : 1;
     const double up = angle + kPi / 2 - slant;
     state.position = system.Apply(byAlignment ? text.alignment : text.insertion);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/standard_brushes.h"
 #include "drawcore/src/save/look_writer.h"
 #include "drawcore/src/save/save_error.h"
@@ -25,6 +26,15 @@ bool IsOfGradient(int code) {
     return (code >= kGradient && code <= kLastGradient) || code == 63 || code == 421;
 }
 
+// The degrees that are read back as just these radians, if there are any near.
+double DegreesOf(double radians) {
+    const double degrees = radians * (180 / drawcore::kPi);
+    for (const double tried : {std::round(degrees * 1e9) / 1e9, degrees, std::nextafter(degrees, -1e9),
+                               std::nextafter(degrees, 1e9)})
+        if (Radians(tried) == radians) return tried;
+    return degrees;
+}
+
 // An angle that a hatch says as it is.
 bool IsWithinTurn(double angle) {
     return std::fabs(angle) < 2 * drawcore::kPi;
@@ -46,10 +56,17 @@ void LookWriter::WriteBrush(const Look& wanted) {
         OwnText(kPropBrushStyle, brush.style,
                 SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
                                                                    : NumbersFromLines(brush.lines));
-    if (!Near(brush.scale, held.scale)) OwnNumbers(kPropBrushScale, {brush.scale});
-    if (!Near(brush.angle, held.angle)) OwnNumbers(kPropBrushAngle, {brush.angle});
+    if (brush.scale != held.scale) OwnNumbers(kPropBrushScale, {brush.scale});
+    if (brush.angle != held.angle) WriteAngle(brush.angle, held.angle);
     if (brush.cross != held.cross) OwnNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
     if (brush.winding != held.winding) OwnNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
+}
+
+// Degrees that are nearly the angle keep its last digits beside them.
+void LookWriter::WriteAngle(double angle, double held) {
+    if (!Near(angle, held)) return OwnNumbers(kPropBrushAngle, {angle});
+    exact_.insert(kPropBrushAngle);
+    OwnNumbers(kPropBrushAngle, {angle, held});
 }
 
 // As far as a hatch can have that brush.
@@ -64,8 +81,8 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
     if (!(put.scale > 0)) put.scale = held.scale;
     if (!IsWithinTurn(put.angle)) put.angle = held.angle;
     put.cross = wanted.cross && wanted.lines.size() == 1;
-    const bool same = SameLines(put.lines, held.lines) && Near(put.scale, held.scale) &&
-                      Near(put.angle, held.angle) && put.cross == held.cross;
+    const bool same = SameLines(put.lines, held.lines) && put.scale == held.scale &&
+                      put.angle == held.angle && put.cross == held.cross;
     if (!same) PutPattern(hatch, put);
 }
 
@@ -111,7 +128,7 @@ void LookWriter::PutPattern(Hatch& hatch, const BrushLook& wanted) {
     hatch.solid = hatch.gradient = false;
     hatch.pattern = wanted.style;
     hatch.scale = wanted.scale;
-    hatch.angle = wanted.angle * (180 / drawcore::kPi);
+    hatch.angle = DegreesOf(wanted.angle);
     hatch.crossed = wanted.cross;
     hatch.lines = PlacedLines(wanted.lines, wanted.scale, wanted.angle, base);
     PutHatchHead(hatch);

@@ -34,7 +34,7 @@ void DrawingPatch::Change(size_t offset, const Look& wanted, const EntityPlace& 
         writer.Move(moved->second);
         moved_.erase(moved);
     }
-    if (place.placement) writer.Place(*place.placement);
+    if (place.ends) writer.Place(*place.ends);
     if (place.vertices) writer.MoveVertices(*place.vertices);
     writer.Write(wanted);
 }
@@ -42,15 +42,16 @@ void DrawingPatch::Change(size_t offset, const Look& wanted, const EntityPlace& 
 void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     Layer& layer = Describe(index);
     if (wanted.trueColor >= 0 && layer.trueColor < 0 && Known().header.version < "AC1018")
-        throw SaveError("a file of this version can't hold the colour of a layer");
+        throw SaveError("a file of this version cannot hold the color");
     const bool otherLine = wanted.lineType != layer.lineType;
-    if (otherLine) NeedRecord(FindLineType(wanted.lineType));
+    const LineTypeIndex line = otherLine ? FindLineType(wanted.lineType) : LineTypeIndex::none;
+    if (otherLine) NeedRecord(line);
     const Layer was = std::exchange(layer, wanted);
     if (!was.declared) return NeedRecord(index);
     RecordPatch record(patch_, in_.tags, was.offset);
     if (wanted.color != was.color) record.Set(62, std::to_string(wanted.color), {70, 2});
     if (wanted.flags != was.flags) record.Set(70, std::to_string(wanted.flags), {2});
-    if (otherLine) record.Set(6, in_.decoder.Encode(wanted.lineType), {62, 70, 2});
+    if (otherLine) record.Set(6, in_.lineTypes.Stored(Known().At(line)), {62, 70, 2});
     if (wanted.trueColor == was.trueColor) return;
     wanted.trueColor < 0 ? record.Remove(420) : record.Set(420, std::to_string(wanted.trueColor), {62});
 }
@@ -71,14 +72,19 @@ void DrawingPatch::NeedRecord(LayerIndex index) {
     Layer& layer = Describe(index);
     if (layer.declared) return;
     layer.declared = true;
-    tables_.AddLayer(layer);
+    tables_.AddLayer(layer, in_.layers.Stored(layer));
 }
 
 void DrawingPatch::NeedRecord(LineTypeIndex index) {
     LineType& type = Describe(index);
     if (type.declared) return;
     type.declared = true;
-    tables_.AddLineType(type);
+    tables_.AddLineType(type, in_.lineTypes.Stored(type));
+}
+
+std::string OnlyExtendedText(const std::string& property, size_t entities) {
+    return property + " of " + std::to_string(entities) + (entities == 1 ? " entity" : " entities") +
+           " is stored as extended data, which other programs do not show";
 }
 
 std::string DrawingPatch::TextStyleFor(const FontFace& face) {

@@ -13,18 +13,15 @@
 
 #include "drawcore/src/dxf/entity_reader.h"
 #include "drawcore/src/dxf/look.h"
-#include "drawcore/src/geometry/matrix.h"
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/save/table_patch.h"
 
 namespace dxf {
 
-using drawcore::Matrix;
-
 // Where an entity is wanted; null: where it is.
 struct EntityPlace {
-    // Of an insertion, from the block's coordinates (without its base point) to those of the space that it lies in. Its
-    // attributes move with it, even those without a change of their own.
-    const Matrix* placement = nullptr;
+    // Of an insertion. Its attributes move with it, even those without a change of their own.
+    const AxisEnds* ends = nullptr;
     // Of lines and polylines, in the world, as many as it has.
     const std::vector<Vec3>* vertices = nullptr;
 };
@@ -57,14 +54,21 @@ public:
     // Colour, flags and line type (by name) of a layer; at most once for each, before changes of entities.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
 
+    // Adds a record for the layer if no table has one.
+    void NeedRecord(LayerIndex index);
+
+    // For how many entities a property was written that only extended data holds, by its name.
+    const std::map<std::string, size_t>& OnlyExtended() const { return onlyExtended_; }
+
     bool IsChanged() const { return !patch_.IsEmpty(); }
     // The changed text; nothing can be changed afterwards.
     std::string Finish();
+    // Where what began there is in it.
+    size_t Moved(size_t offset) const { return patch_.Moved(offset); }
 
 private:
     friend class LookWriter;
 
-    void NeedRecord(LayerIndex index);
     void NeedRecord(LineTypeIndex index);
     // The name of a text style with that face.
     std::string TextStyleFor(const FontFace& face);
@@ -73,7 +77,11 @@ private:
     EntityReader entities_{in_};
     TextPatch patch_;
     TablePatch tables_;
+    std::map<std::string, size_t> onlyExtended_;
     std::map<size_t, Matrix> moved_; // attributes, by their insertions; until they are changed themselves
 };
+
+// Returns what a user is told about a property that other programs do not show.
+std::string OnlyExtendedText(const std::string& property, size_t entities);
 
 } // namespace dxf

@@ -177,7 +177,9 @@ struct EntityRecords::Shapes {
 
     void operator()(const Apart<Insert>& insert) {
         Begin("INSERT", "AcDbBlockReference");
-        values.push_back({2, records.known_.At(insert->block).name});
+        const Block& block = records.known_.At(insert->block);
+        const bool isStored = !block.stored.empty();
+        values.push_back({2, isStored ? block.stored : block.name, isStored});
         Put(values, 10, insert->at);
     }
 
@@ -230,12 +232,8 @@ std::string EntityRecords::BlockLines(const Block& block, const std::string& own
         tables_.AddApplication(kApplication);
         values.push_back({kApplicationName, kApplication});
     }
-    for (const OwnValue& own : block.own) {
-        values.push_back({kExtendedText, own.name});
-        values.push_back({kExtendedBrace, "{"});
-        values.push_back({kExtendedText, WriteOwnText(own.text)});
-        values.push_back({kExtendedBrace, "}"});
-    }
+    const Values own = ExtendedValues(block.own, tables_.Decoder());
+    values.insert(values.end(), own.begin(), own.end());
     return tables_.LinesOf(values);
 }
 

@@ -1,4 +1,5 @@
 // Insertions of blocks: where they are, how large and how turned.
+#include <algorithm>
 #include <cmath>
 
 #include "drawcore/src/dxf/placement.h"
@@ -9,22 +10,18 @@ namespace dxf {
 
 namespace {
 
-bool Near(const Vec3& a, const Vec3& b) {
-    return dxf::Near(a.x, b.x) && dxf::Near(a.y, b.y) && dxf::Near(a.z, b.z);
-}
-
-bool Near(const Matrix& a, const Matrix& b) {
-    for (int row = 0; row < 4; ++row)
-        if (!Near(Vec3{a.at[row][0], a.at[row][1], a.at[row][2]},
-                  Vec3{b.at[row][0], b.at[row][1], b.at[row][2]}))
-            return false;
+// Whether a block is drawn the same, at the same place or elsewhere.
+bool LookAlike(const Matrix& a, const Matrix& b) {
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column)
+            if (!Near(a.at[row][column], b.at[row][column])) return false;
     return true;
 }
 
-// Without the remainder that calculating with angles leaves after the ninth decimal.
-double Clean(double number) {
+// Without what calculating with coordinates of that rounding leaves after the ninth decimal.
+double Clean(double number, double rounding) {
     const double round = std::round(number * 1e9) / 1e9;
-    return dxf::Near(round, number) ? round : number;
+    return std::fabs(round - number) <= rounding * std::max(1.0, std::fabs(number)) ? round : number;
 }
 
 // The numbers of an insertion in its object system that place it so, nearly. A mirrored x axis and a half turn look alike but
@@ -39,13 +36,16 @@ Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& plac
     double sign = insert.scaleX < 0 ? -1 : 1;
     const auto angleOf = [&] { return Length(x) > 0 ? std::atan2(x.y * sign, x.x * sign) : old; };
     if (mirrors && std::cos(angleOf() - old) < 0) sign = -sign;
-    const double angle = angleOf();
-    placed.scaleX = Clean(x.x * std::cos(angle) + x.y * std::sin(angle));
-    placed.scaleY = Clean(y.y * std::cos(angle) - y.x * std::sin(angle));
-    placed.scaleZ = Clean(back.Turn(placement.Turn({0, 0, 1})).z);
-    placed.rotation = Clean(angle * (180 / drawcore::kPi));
-    const Vec3 at = back.Apply(placement.Apply({}));
-    placed.at = {Clean(at.x), Clean(at.y), Clean(at.z)};
+    const double angle = angleOf(), rounding = RoundingAt(placement.Apply({}));
+    // What was there stays unless it has become something else.
+    const auto number = [&](double was, double now, double unit) {
+        return std::fabs(was - now) <= rounding * unit ? was : Clean(now, rounding * unit);
+    };
+    placed.scaleX = number(insert.scaleX, x.x * std::cos(angle) + x.y * std::sin(angle), 1);
+    placed.scaleY = number(insert.scaleY, y.y * std::cos(angle) - y.x * std::sin(angle), 1);
+    placed.scaleZ = number(insert.scaleZ, back.Turn(placement.Turn({0, 0, 1})).z, 1);
+    placed.rotation = number(insert.rotation, angle * (180 / drawcore::kPi), 180 / drawcore::kPi);
+    placed.at = back.Apply(placement.Apply({}));
     return placed;
 }
 
@@ -70,13 +70,10 @@ Matrix AxesOf(const Entity& entity, const Insert& insert) {
 
 } // namespace
 
-void LookWriter::Place(const Matrix& placement) {
-    const Matrix was = PlacementOf(entity_);
-    if (Near(was, placement)) return;
+void LookWriter::Place(const AxisEnds& ends) {
+    if (AxisEndsOf(entity_) == ends) return;
+    const Matrix placement = PlacementOf(ends), motion = MotionBetween(PlacementOf(entity_), placement);
     RemoveOwn(kOwnPlacement);
-    Matrix back;
-    const Matrix motion = Solid(was).Invert(back) ? back * Solid(placement)
-                                                  : Matrix::Translation(placement.Apply({}) - was.Apply({}));
     if (auto* insert = std::get_if<Apart<Insert>>(&entity_.shape)) {
         const Matrix axes = AxesOf(entity_, **insert);
         PutPlacement(**insert, placement);
@@ -88,17 +85,19 @@ void LookWriter::Place(const Matrix& placement) {
         PutPoint(12, (*dimension)->offset, to);
         (*dimension)->offset = to;
     }
-    if (!Near(PlacementOf(entity_), placement)) OwnNumbers(kOwnPlacement, NumbersOf(placement, entity_));
+    if (AxisEndsOf(entity_) == ends) return;
+    if (LookAlike(PlacementOf(entity_), placement)) exact_.insert(kOwnPlacement);
+    OwnNumbers(kOwnPlacement, NumbersOf(ends, entity_));
 }
 
 void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
     const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
     Vec3 normal = entity_.normal;
     Insert placed = PlacedInsert(normal, insert, placement);
-    if (!isTable && !Near(MatrixOf(normal, placed), placement)) { // it has left its plane
+    if (!isTable && !LookAlike(MatrixOf(normal, placed), placement)) { // it has left its plane
         const Vec3 tilted = NormalOf(placement, insert);
         Insert other = PlacedInsert(tilted, insert, placement);
-        if (Near(MatrixOf(tilted, other), placement)) {
+        if (LookAlike(MatrixOf(tilted, other), placement)) {
             normal = tilted;
             placed = std::move(other);
         }
@@ -123,9 +122,11 @@ void LookWriter::MoveArray(Insert& insert, const Matrix& moved) {
     const Matrix axes = AxesOf(entity_, insert);
     const auto step = [&](int code, double& spacing, const Vec3& axis) {
         const Vec3 now = moved.Turn(axis * spacing), along = axes.Turn(axis);
-        const double length = Clean(now.x * along.x + now.y * along.y + now.z * along.z);
-        if (!Near(along * length, now))
+        const double rounding = RoundingAt(insert.at);
+        double length = now.x * along.x + now.y * along.y + now.z * along.z;
+        if (Length(along * length - now) > rounding * std::max(1.0, Length(now)))
             throw SaveError("an array of insertions is slanted, which the file can't hold");
+        length = std::fabs(length - spacing) <= rounding ? spacing : Clean(length, rounding);
         PutReal(code, spacing, length, {71, 70, 43, 42, 41, 30});
         spacing = length;
     };

@@ -65,22 +65,14 @@ void LookWriter::RemoveOwn(std::string_view name) {
     entity_.own->erase(std::remove_if(entity_.own->begin(), entity_.own->end(), isNamed), entity_.own->end());
 }
 
-void LookWriter::AppendOwn(const OwnValue& value, const TextDecoder& decoder,
-                           std::vector<RecordPatch::Value>& to) {
-    to.push_back({kExtendedText, decoder.Encode(value.name)});
-    to.push_back({kExtendedBrace, "{"});
-    for (std::string& piece : decoder.EncodePieces(WriteOwnText(value.text)))
-        to.push_back({kExtendedText, std::move(piece)});
-    for (const double number : value.numbers)
-        to.push_back({kExtendedReal, RealText(number)});
-    to.push_back({kExtendedBrace, "}"});
-}
-
 void LookWriter::WriteOwn() {
     if (*entity_.own == (stored_.own ? *stored_.own : OwnData())) return;
-    std::vector<RecordPatch::Value> values;
-    for (const OwnValue& value : *entity_.own)
-        AppendOwn(value, drawing_.in_.decoder, values);
+    for (const OwnValue& value : *entity_.own) {
+        const OwnValue* was = FindOwn(stored_, value.name);
+        const bool isNew = !was || !(*was == value);
+        if (isNew && exact_.count(value.name) == 0) ++drawing_.onlyExtended_[value.name];
+    }
+    const std::vector<RecordPatch::Value> values = ExtendedValues(*entity_.own, drawing_.in_.decoder);
     constexpr size_t kMost = 16383; // bytes of extended data that an entity may have
     size_t size = 0;
     for (const RecordPatch::Value& value : values)
@@ -93,7 +85,7 @@ void LookWriter::WriteOwn() {
 void LookWriter::WriteLayer(const Look& wanted) {
     if (wanted.layer == entity_.layer) return;
     drawing_.NeedRecord(wanted.layer);
-    record_.SetCommon(8, drawing_.in_.decoder.Encode(drawing_.Known().At(wanted.layer).name));
+    record_.SetCommon(8, drawing_.in_.layers.Stored(drawing_.Known().At(wanted.layer)));
     entity_.layer = wanted.layer;
 }
 
@@ -132,6 +124,7 @@ void LookWriter::WriteColor(const Look& wanted) {
     RemoveOwn(kPropBrushColor);
     // Other programs see only the brush of a hatch.
     if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
+        exact_.insert(kPropBrushColor);
         PutColor(brush);
         OwnNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});
         return;
@@ -161,11 +154,11 @@ void LookWriter::WriteLineType(const Look& wanted) {
     if (type == LineTypeIndex::byLayer)
         record_.RemoveCommon(6);
     else
-        record_.SetCommon(6, drawing_.in_.decoder.Encode(name));
+        record_.SetCommon(6, named ? drawing_.in_.lineTypes.Stored(drawing_.Known().At(type)) : name);
 }
 
 void LookWriter::WriteLineScale(const Look& wanted) {
-    if (Near(Now().lineScale, wanted.lineScale)) return;
+    if (Now().lineScale == wanted.lineScale) return;
     RemoveOwn(kPropPenScale);
     const bool held = wanted.lineScale > 0 && (IsNewer("AC1012") || record_.HasCommon(48));
     if (!held) return OwnNumbers(kPropPenScale, {wanted.lineScale});
@@ -174,8 +167,11 @@ void LookWriter::WriteLineScale(const Look& wanted) {
 }
 
 void LookWriter::WriteWidth(const Look& wanted) {
-    const Look now = Now();
-    if (Near(now.width, wanted.width) && now.worldWidth == wanted.worldWidth) return;
+    const auto isWritten = [&] {
+        const Look now = Now();
+        return now.width == wanted.width && now.worldWidth == wanted.worldWidth;
+    };
+    if (isWritten()) return;
     RemoveOwn(kPropPenWidth);
     auto* polyline = std::get_if<Polyline>(&entity_.shape);
     const bool holdsWidth = polyline && polyline->kind == Polyline::Kind::flat && HasOneWidth(*polyline);
@@ -184,17 +180,22 @@ void LookWriter::WriteWidth(const Look& wanted) {
         if (LookByGroups(drawing_.Known(), entity_).worldWidth) PutPolylineWidth(*polyline, 0);
         WritePaperWidth(wanted);
     }
-    const Look written = Now();
-    if (Near(written.width, wanted.width) && written.worldWidth == wanted.worldWidth) return;
+    if (isWritten()) return;
+    if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth)
+        exact_.insert(kPropPenWidth);
     OwnNumbers(kPropPenWidth,
                {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
 }
 
 void LookWriter::WritePaperWidth(const Look& wanted) {
-    if (!IsNewer("AC1015") && !record_.HasCommon(370)) return;
-    if (Near(Now().width, wanted.width)) return; // that of its layer
-    entity_.lineWeight = static_cast<int16_t>(NearestWeight(wanted.width));
-    record_.SetCommon(370, std::to_string(entity_.lineWeight));
+    const bool byLayer = wanted.width == kPenWidthByLayer;
+    if (!byLayer && !IsNewer("AC1015") && !record_.HasCommon(370)) return;
+    if (Now().width == wanted.width) return;
+    entity_.lineWeight = byLayer ? kLineWeightByLayer
+                         : wanted.width == kPenWidthByBlock
+                             ? kLineWeightByBlock
+                             : static_cast<int16_t>(NearestWeight(wanted.width));
+    byLayer ? record_.RemoveCommon(370) : record_.SetCommon(370, std::to_string(entity_.lineWeight));
 }
 
 void LookWriter::PutPolylineWidth(const Polyline& polyline, double width) {

@@ -2,6 +2,8 @@
 // differ. What no group can hold becomes extended data.
 #pragma once
 
+#include <set>
+
 #include "drawcore/src/dxf/look_parts.h"
 #include "drawcore/src/save/drawing_patch.h"
 
@@ -13,7 +15,7 @@ public:
 
     // Before Write, at most once: the entity is moved, an insertion is placed anew, vertices are elsewhere.
     void Move(const Matrix& motion);
-    void Place(const Matrix& placement);
+    void Place(const AxisEnds& ends);
     // Those of the graphic that is made of the entity, in its order. What can't be moved stays.
     void MoveVertices(const std::vector<Vec3>& to);
 
@@ -27,8 +29,6 @@ private:
     void OwnNumbers(const char* name, std::vector<double> numbers) { OwnText(name, {}, std::move(numbers)); }
     void RemoveOwn(std::string_view name);
     void WriteOwn();
-    static void AppendOwn(const OwnValue& value, const TextDecoder& decoder,
-                          std::vector<RecordPatch::Value>& to);
 
     void WriteLayer(const Look& wanted);
     void WriteColor(const Look& wanted);
@@ -43,6 +43,7 @@ private:
     void RemoveVertexWidths();
 
     void WriteBrush(const Look& wanted);
+    void WriteAngle(double angle, double held);
     void PutBrush(Hatch& hatch, const BrushLook& wanted);
     void PutSolid(Hatch& hatch);
     void PutPattern(Hatch& hatch, const BrushLook& wanted);
@@ -50,12 +51,12 @@ private:
     void ReplacePattern(const std::vector<RecordPatch::Value>& values);
 
     void WriteText(const Look& wanted);
-    void WriteLine(Text& text, const TextLook& wanted);
+    void WriteLine(Text& text, const Look& look);
     void WriteParagraphs(MText& text, const Look& wanted);
     void WriteEffects(const TextLook& wanted); // and what else the groups can't hold
     void PutFace(Text& text, const FontFace& face);
     static void PutFormat(Text& text, uint16_t format);
-    static void PutSwitch(std::string& text, char letter, bool was, bool wanted);
+    static void PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole);
     void PutText(const Text& now);
     void PutText(const MText& now);
     void PutParagraphs(const std::string& text);
@@ -76,6 +77,7 @@ private:
     const Entity stored_; // as it is in the file
     Entity entity_;       // as it will be there
     RecordPatch record_;
+    std::set<std::string> exact_; // own values that groups have too, but for the last digits
 };
 
 } // namespace dxf

@@ -21,6 +21,20 @@ std::string RealText(double value) {
     return text;
 }
 
+std::vector<RecordPatch::Value> ExtendedValues(const OwnData& own, const TextDecoder& decoder) {
+    std::vector<RecordPatch::Value> values;
+    for (const OwnValue& value : own) {
+        values.push_back({kExtendedText, decoder.Encode(value.name), true});
+        values.push_back({kExtendedBrace, "{", true});
+        for (std::string& piece : decoder.EncodePieces(WriteOwnText(value.text)))
+            values.push_back({kExtendedText, std::move(piece), true});
+        for (const double number : value.numbers)
+            values.push_back({kExtendedReal, RealText(number), true});
+        values.push_back({kExtendedBrace, "}", true});
+    }
+    return values;
+}
+
 RecordPatch::RecordPatch(TextPatch& patch, TagReader& tags, size_t offset) : patch_(patch) {
     const Tag& tag = tags.Seek(offset);
     int part = 0;

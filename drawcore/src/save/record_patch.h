@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "drawcore/src/dxf/entities.h"
 #include "drawcore/src/dxf/tag_reader.h"
+#include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/text_patch.h"
 
 namespace dxf {
@@ -47,6 +49,7 @@ public:
     struct Value {
         int code;
         std::string text;
+        bool isStored = false; // the text is as the file has it; else UTF-8, where that makes a difference
     };
     void SetExtended(const char* application, const std::vector<Value>& values);
 
@@ -67,6 +70,9 @@ private:
     bool padded_ = false;
     std::string lineEnd_;
 };
+
+// The values of extended data of kApplication, as they are stored.
+std::vector<RecordPatch::Value> ExtendedValues(const OwnData& own, const TextDecoder& decoder);
 
 // A number as a drawing has it: the shortest text that is read back to the same.
 std::string RealText(double value);

@@ -1,5 +1,6 @@
 // Vertices that were moved: of lines, polylines, faces, points and leaders.
 #include <algorithm>
+#include <cmath>
 
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/save/look_writer.h"
@@ -9,8 +10,9 @@ namespace dxf {
 
 namespace {
 
-bool Near(const Vec3& a, const Vec3& b) {
-    return dxf::Near(a.x, b.x) && dxf::Near(a.y, b.y) && dxf::Near(a.z, b.z);
+// Where a point of an object system has to be for that place in the world; one that is not moved stays bit by bit.
+Vec3 Moved(const Vec3& point, const Vec3& to, const Matrix& system, const Matrix& back) {
+    return system.Apply(point) == to ? point : back.Apply(to);
 }
 
 } // namespace
@@ -31,11 +33,13 @@ void LookWriter::MoveVertices(const std::vector<Vec3>& to) {
 }
 
 void LookWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
+    const Matrix system = face.filled ? ObjectSystem(entity_.normal) : Matrix();
     Matrix back;
-    if (face.filled && !ObjectSystem(entity_.normal).Invert(back)) return;
+    if (!system.Invert(back)) return;
     constexpr int kAround[] = {10, 11, 12, 13}, kCrosswise[] = {10, 11, 13, 12};
     for (size_t i = 0; i < 4; ++i)
-        PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i], back.Apply(to[i]));
+        PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i],
+                 Moved(face.corners[i], to[i], system, back));
 }
 
 void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
@@ -48,12 +52,13 @@ void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
     std::vector<Vec3> was, now;
     for (size_t i = 0; i < to.size(); ++i) {
         was.push_back(polyline.vertices[i].at);
-        const bool moved = !Near(system.Apply(was.back()), to[i]);
-        now.push_back(moved ? back.Apply(to[i]) : was.back());
+        now.push_back(Moved(was.back(), to[i], system, back));
         polyline.vertices[i].at = now.back();
     }
     const double height = now[0].z;
-    const auto isOff = [height](const Vec3& point) { return !dxf::Near(point.z, height); };
+    const auto isOff = [&](const Vec3& point) {
+        return !SameToRounding(point.z, height, std::max(std::fabs(point.x), std::fabs(point.y)));
+    };
     if (flat && std::any_of(now.begin(), now.end(), isOff))
         throw SaveError("a polyline has left its plane, which the file can't hold");
     const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
@@ -78,7 +83,7 @@ void LookWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>
                                    : group.code == 20            ? &Vec3::y
                                    : group.code == 30 && inSpace ? &Vec3::z
                                                                  : nullptr;
-        if (axis && begun > 0 && begun <= now.size() && !dxf::Near(was[i].*axis, now[i].*axis))
+        if (axis && begun > 0 && begun <= now.size() && was[i].*axis != now[i].*axis)
             record_.SetValue(group, RealText(now[i].*axis));
     }
 }
@@ -89,7 +94,7 @@ void LookWriter::MoveVertexRecords(const std::vector<Vec3>& was, const std::vect
     for (size_t i = 0; i < now.size() && tags.Seek(at).Is(0, "VERTEX"); ++i) {
         RecordPatch vertex(drawing_.patch_, tags, at);
         const auto put = [&](int code, double before, double after) {
-            if (!dxf::Near(before, after)) vertex.Set(code, RealText(after), {code - 10, 10});
+            if (before != after) vertex.Set(code, RealText(after), {code - 10, 10});
         };
         put(10, was[i].x, now[i].x);
         put(20, was[i].y, now[i].y);

@@ -27,14 +27,45 @@ void StructurePatch::Remove(size_t offset) {
         entities_.Read(read);
     }
     removedEnd_ = in_.tags.Current().offset;
-    patch_.Replace(offset, removedEnd_ - offset, {});
+    RemoveText(offset, removedEnd_, offset);
+}
+
+void StructurePatch::RemoveText(size_t begin, size_t end, size_t place) {
+    patch_.Replace(begin, end - begin, {});
+    references_.Add(begin, end, place);
     changed_ = true;
 }
 
 void StructurePatch::RemoveBlock(const Block& block) {
     in_.tags.Seek(block.end);
-    patch_.Replace(block.begin, in_.tags.SkipRecord().offset - block.begin, {});
-    tables_.RemoveBlockRecord(block.name);
+    RemoveText(block.begin, in_.tags.SkipRecord().offset, block.begin);
+    if (const auto record = tables_.FindBlockRecord(block.name))
+        RemoveText(record->first, record->second, block.begin);
+}
+
+void StructurePatch::RemoveLayer(const Layer& layer) {
+    in_.tags.Seek(layer.offset);
+    RemoveText(layer.offset, in_.tags.SkipRecord().offset, layer.offset);
+    ResetCurrentLayer(layer);
+}
+
+// New entities of other programs go onto that layer.
+void StructurePatch::ResetCurrentLayer(const Layer& removed) {
+    constexpr int kVariable = 9;
+    const Tag& tag = in_.tags.Seek(0);
+    while (!tag.Is(kVariable, "$CLAYER")) {
+        if (tag.Is(0, "ENDSEC") || tag.Is(0, "EOF")) return;
+        in_.tags.Next();
+    }
+    const std::string_view name = in_.tags.Next().value;
+    if (in_.document.layers[in_.layers.Find(name)].offset == removed.offset)
+        patch_.Replace(static_cast<size_t>(name.data() - patch_.Text().data()), name.size(), "0");
+}
+
+void StructurePatch::SetOwn(const Block& block, const OwnData& own) {
+    if (!own.empty()) tables_.AddApplication(kApplication);
+    RecordPatch record(patch_, in_.tags, block.begin);
+    record.SetExtended(kApplication, ExtendedValues(own, in_.decoder));
     changed_ = true;
 }
 
@@ -79,6 +110,7 @@ size_t StructurePatch::AddBlock(const Block& block) {
 }
 
 std::string StructurePatch::Finish() {
+    references_.Run();
     tables_.Finish();                           // tables come before all that stands at the same place
     std::vector<size_t> behind(pieces_.size()); // where the text goes on, from the beginning of the piece
     for (size_t i = 0; i < pieces_.size(); ++i) {

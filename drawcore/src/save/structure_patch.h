@@ -13,6 +13,7 @@
 
 #include "drawcore/src/dxf/entity_reader.h"
 #include "drawcore/src/save/entity_records.h"
+#include "drawcore/src/save/reference_removal.h"
 
 namespace dxf {
 
@@ -27,7 +28,13 @@ public:
     // The entity whose record begins there, with the records that belong to it. In rising order of the offsets.
     void Remove(size_t offset);
     void RemoveBlock(const Block& block);
+    // The layer's record. Entities may still be on it.
+    void RemoveLayer(const Layer& layer);
+    // In place of the extended data of kApplication that the block has.
+    void SetOwn(const Block& block, const OwnData& own);
 
+    // SaveError if the version has no such entity.
+    void Check(const Entity& entity) { records_.LinesOf(entity, {}); }
     // Appends the entity to a block of the file, or with null to model space; returns its number, for PlaceOf.
     size_t Add(const Entity& entity, const Block* block);
     // A new block, before any entity that is added: a name, what the program says about it, and entities; returns the number of the first of these, which the
@@ -35,8 +42,10 @@ public:
     size_t AddBlock(const Block& block);
 
     bool IsChanged() const { return changed_; }
-    // The changed text; nothing can be changed afterwards.
+    // The changed text, which counts if there are no refusals; nothing can be changed afterwards.
     std::string Finish();
+    // What cannot be removed, by the offsets of the entity or layer, or where the block begins.
+    const std::vector<ReferenceRemoval::Refusal>& Refusals() const { return references_.Refusals(); }
     // Where the record of an added entity begins in it, and what began elsewhere before.
     size_t PlaceOf(size_t added) const { return added_[added].place; }
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }
@@ -52,6 +61,8 @@ private:
         size_t piece, place; // in the piece; after Finish in the text
     };
 
+    void ResetCurrentLayer(const Layer& removed);
+    void RemoveText(size_t begin, size_t end, size_t place);
     size_t PieceAt(size_t at, const char* section = nullptr);
     size_t PieceOf(const std::optional<size_t>& sectionEnd, const char* section);
     size_t Append(size_t piece, const Entity& entity, const std::string& owner);
@@ -61,6 +72,7 @@ private:
     TextPatch patch_;
     TablePatch tables_;
     EntityRecords records_;
+    ReferenceRemoval references_{patch_};
     std::vector<Piece> pieces_;
     std::vector<Added> added_;
     size_t removedEnd_ = 0;

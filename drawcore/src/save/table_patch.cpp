@@ -70,7 +70,7 @@ void TablePatch::ScanTables(TagReader& tags) {
 
 // Its handle comes before its name.
 void TablePatch::NoteBlockRecord(const Tag& tag) {
-    if (tag.code == 0) blockRecord_ = {{}, {}, tag.offset, true};
+    if (tag.code == 0) blockRecord_ = {{}, {}, {}, tag.offset, true};
     if (tag.code == kHandle) blockRecord_.handle = tag.Trimmed();
     if (tag.code != 2) return;
     Record& record = blockRecordNames_.Declare(tag.value);
@@ -147,12 +147,12 @@ std::string TablePatch::AddBlockRecord(const std::string& name) {
     return Add(kBlockRecord, "AcDbBlockTableRecord", values);
 }
 
-void TablePatch::RemoveBlockRecord(const std::string& name) {
+std::optional<std::pair<size_t, size_t>> TablePatch::FindBlockRecord(const std::string& name) {
     const Record& record = BlockRecordOf(name);
-    if (!record.declared) return;
+    if (!record.declared) return std::nullopt;
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    patch_.Replace(record.begin, RecordPatch(patch_, tags, record.begin).End() - record.begin, {});
+    return std::make_pair(record.begin, RecordPatch(patch_, tags, record.begin).End());
 }
 
 bool TablePatch::HasApplication(const std::string& name) {
@@ -179,7 +179,7 @@ std::string TablePatch::LinesOf(const Values& values) {
     const RecordPatch form(patch_, tags, tablesEnd_.value_or(*firstBody_));
     std::string lines;
     for (const RecordPatch::Value& value : values)
-        lines += form.Lines(value.code, decoder_.Encode(value.text));
+        lines += form.Lines(value.code, value.isStored ? value.text : decoder_.Encode(value.text));
     return lines;
 }
 
@@ -217,8 +217,8 @@ void TablePatch::AddApplication(const std::string& name) {
     applications_.push_back(name);
 }
 
-void TablePatch::AddLayer(const Layer& layer) {
-    Values values = {{2, layer.name},
+void TablePatch::AddLayer(const Layer& layer, const std::string& storedName) {
+    Values values = {{2, storedName, true},
                      {70, std::to_string(layer.flags)},
                      {62, std::to_string(layer.color)},
                      {6, layer.lineType.empty() ? "Continuous" : layer.lineType}};
@@ -228,8 +228,8 @@ void TablePatch::AddLayer(const Layer& layer) {
     Add("LAYER", "AcDbLayerTableRecord", values);
 }
 
-void TablePatch::AddLineType(const LineType& type) {
-    Values values = {{2, type.name},
+void TablePatch::AddLineType(const LineType& type, const std::string& storedName) {
+    Values values = {{2, storedName, true},
                      {70, "0"},
                      {3, type.description},
                      {72, "65"},

@@ -19,14 +19,16 @@ public:
         : patch_(patch), decoder_(decoder), version_(version) {}
 
     void AddApplication(const std::string& name);
-    void AddLayer(const Layer& layer);
-    void AddLineType(const LineType& type);
+    // With its name as entities have it.
+    void AddLayer(const Layer& layer, const std::string& storedName);
+    void AddLineType(const LineType& type, const std::string& storedName);
     void AddTextStyle(const TextStyle& style);
     bool HasApplication(const std::string& name);
     // Of a block: the handle of its record, empty where the version or the file has none.
     std::string AddBlockRecord(const std::string& name);
     std::string BlockRecord(const std::string& name);
-    void RemoveBlockRecord(const std::string& name);
+    // From where to where its record is; none where the file has none.
+    std::optional<std::pair<size_t, size_t>> FindBlockRecord(const std::string& name);
 
     // Where the sections of blocks and entities end (their ENDSEC), where that of entities begins, and the end of the file.
     struct Sections {
@@ -39,6 +41,7 @@ public:
     bool HasOwners() const { return version_ >= "AC1015"; }
     bool HasHandles();
     std::string TakeHandle();
+    const TextDecoder& Decoder() const { return decoder_; }
     using Values = std::vector<RecordPatch::Value>;
     std::string LinesOf(const Values& values);
 
@@ -55,7 +58,7 @@ private:
         std::string newLines;
     };
     struct Record {
-        std::string name, handle;
+        std::string name, stored, handle;
         size_t begin = 0;
         bool declared = false;
     };

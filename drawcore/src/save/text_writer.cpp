@@ -33,6 +33,12 @@ double AngleOf(const Vec3& v) {
     return std::atan2(v.y, v.x);
 }
 
+// An angle that is what it was, but for rounding and whole turns, keeps its number.
+double TurnedTo(double was, double now) {
+    const double turned = std::remainder(now - was, 360);
+    return SameToRounding(turned, 0, 360) ? was : std::remainder(now, 360);
+}
+
 Vec3 Direction(double radians) {
     return {std::cos(radians), std::sin(radians), 0};
 }
@@ -45,7 +51,7 @@ bool IsNameForCode(const std::string& family) {
 } // namespace
 
 void LookWriter::WriteText(const Look& wanted) {
-    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted.text);
+    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted);
     if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
 }
 
@@ -60,22 +66,24 @@ void LookWriter::WriteEffects(const TextLook& wanted) {
     if (held.format != wanted.format) OwnNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
 }
 
-void LookWriter::WriteLine(Text& text, const TextLook& wanted) {
+void LookWriter::WriteLine(Text& text, const Look& look) {
+    const TextLook& wanted = look.text;
+    const bool whole = Now().varied & ~look.varied & kVariedStyle;
     const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
-    if (!Near(held.height, wanted.height)) text.height = wanted.height;
+    if (held.height != wanted.height) text.height = wanted.height;
     if (held.font != wanted.font || (held.style ^ wanted.style) & kCut)
         PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
     if (held.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
     if (text.role != Text::Role::definition) { // that shows its tag, which is a name
-        PutSwitch(text.text, 'u', held.style & kTextUnderline, wanted.style & kTextUnderline);
-        PutSwitch(text.text, 'k', held.style & kTextStrikethrough, wanted.style & kTextStrikethrough);
+        PutSwitch(text.text, 'u', held.style & kTextUnderline, wanted.style & kTextUnderline, whole);
+        PutSwitch(text.text, 'k', held.style & kTextStrikethrough, wanted.style & kTextStrikethrough, whole);
     }
     if (text.role == Text::Role::attribute) text.hidden = (wanted.style & kTextHidden) != 0;
     WriteEffects(wanted);
 }
 
-void LookWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted) {
-    if (was == wanted) return;
+void LookWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole) {
+    if (was == wanted && !whole) return;
     text = WithoutSwitch(text, letter);
     if (wanted) text.insert(0, std::string("%%") + letter);
 }
@@ -98,23 +106,27 @@ void LookWriter::PutFormat(Text& text, uint16_t format) {
 void LookWriter::WriteParagraphs(MText& text, const Look& wanted) {
     const TextLook& look = wanted.text;
     const auto held = [&] { return LookByGroups(drawing_.Known(), entity_); };
-    if (!Near(held().text.height, look.height)) text.height = look.height;
-    if (!Near(held().text.height, look.height)) text.text = WithoutCodes(text.text, "H");
-    const bool otherFace = held().text.font != look.font || (held().text.style ^ look.style) & kCut;
+    const uint8_t whole = Now().varied & ~wanted.varied; // what all of the text is to have, not most of it
+    if (whole & kVariedSize) text.text = WithoutCodes(text.text, "H");
+    if (held().text.height != look.height) text.height = look.height;
+    if (held().text.height != look.height) text.text = WithoutCodes(text.text, "H");
+    const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
+    const bool otherFace = held().text.font != look.font || (held().text.style ^ look.style) & kCut ||
+                           (isInCodes && whole & (kVariedFont | kVariedStyle));
     if (otherFace && IsNameForCode(look.font)) {
         const std::string cut =
             std::string(look.style & kTextBold ? "|b1" : "|b0") + (look.style & kTextItalic ? "|i1" : "|i0");
         text.text = "\\f" + look.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
     }
     const auto put = [&](uint16_t bit, const char* codes) {
-        if (!((held().text.style ^ look.style) & bit)) return;
+        if (!((held().text.style ^ look.style) & bit || whole & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
         if (look.style & bit) text.text = std::string("\\") + codes[0] + text.text;
     };
     put(kTextUnderline, "Ll");
     put(kTextStrikethrough, "Kk");
-    if (held().color != wanted.color) text.text = WithoutCodes(text.text, "Cc");
-    if (held().text.format != look.format) {
+    if (held().color != wanted.color || whole & kVariedColor) text.text = WithoutCodes(text.text, "Cc");
+    if (held().text.format != look.format || whole & kVariedFormat) {
         const int row = (text.attachment - 1) / 3;
         const FormattedText shown = ReadInlineCodes(text.text, text.height);
         if (shown.Prevailing().alignment == 0)
@@ -143,7 +155,8 @@ void LookWriter::Move(const Matrix& motion) {
     Matrix back;
     if (!ObjectSystem(entity_.normal).Invert(back)) return;
     text.insertion = back.Apply(insertion);
-    text.alignment = back.Apply(alignment);
+    const bool isInUse = !HangsOnInsertion(text) || record_.Find(11);
+    if (isInUse) text.alignment = back.Apply(alignment);
     along = back.Turn(along);
     rise = back.Turn(rise);
     const double length = Length(along), height = Length(rise);
@@ -152,24 +165,24 @@ void LookWriter::Move(const Matrix& motion) {
         text.upsideDown = !text.upsideDown;
         rise = rise * -1;
     }
-    text.height *= height;
-    text.widthFactor = (text.widthFactor > 0 ? text.widthFactor : 1) * length / height;
-    text.rotation = Degrees(AngleOf(along));
-    text.oblique = Degrees(std::remainder(kPi / 2 - (AngleOf(rise) - AngleOf(along)), 2 * kPi));
+    if (!SameToRounding(height, 1, 1)) text.height *= height;
+    if (!SameToRounding(length, height, 1))
+        text.widthFactor = (text.widthFactor > 0 ? text.widthFactor : 1) * length / height;
+    text.rotation = TurnedTo(text.rotation, Degrees(AngleOf(along)));
+    text.oblique = TurnedTo(text.oblique, Degrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
 }
 
 void LookWriter::PutReal(int code, double was, double now, std::initializer_list<int> behind) {
-    if (!Near(was, now)) record_.Set(code, RealText(now), behind);
+    if (was != now) record_.Set(code, RealText(now), behind);
 }
 
 void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
     const bool missing = !record_.Find(code);
-    const bool same = Near(was.x, now.x) && Near(was.y, now.y) && Near(was.z, now.z);
-    if (same) return;
+    if (was == now) return;
     // A point is written as a whole: a missing coordinate goes after the one that precedes it.
     record_.Set(code, RealText(now.x), {72, 50, 1, 40, 30});
-    if (missing || !Near(was.y, now.y)) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
-    if (missing || !Near(was.z, now.z))
+    if (missing || was.y != now.y) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
+    if (missing || was.z != now.z)
         record_.Set(code + 20, RealText(now.z), {code + 10, code, 72, 50, 1, 40, 30});
 }
 
@@ -194,7 +207,7 @@ void LookWriter::PutText(const Text& now) {
     PutReal(41, was.widthFactor, now.widthFactor, {50, 1, 40});
     PutReal(51, was.oblique, now.oblique, {41, 50, 1, 40});
     if (was.style != now.style)
-        record_.Set(7, drawing_.in_.decoder.Encode(drawing_.Known().At(now.style).name), {51, 41, 50, 1, 40});
+        record_.Set(7, drawing_.in_.textStyles.Stored(drawing_.Known().At(now.style)), {51, 41, 50, 1, 40});
     const auto setBits = [&](int code, int bits, int mask) {
         const Group* group = record_.Find(code);
         const int old = group ? Tag{code, group->value}.Integer() : 0;

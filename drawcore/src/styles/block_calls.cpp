@@ -45,7 +45,7 @@ int InsertSetData(GraphicStruct* graphic, TableStruct* blocks, uint16_t id, cons
     if (!insert || !table || !table->At(id)) return 0;
     insert->ChangingShape();
     insert->block = id;
-    insert->Place(Matrix::FromRecord(matrix));
+    insert->Place(dxf::AxisEndsOf(Matrix::FromRecord(matrix)));
     if (!insert->GetDrawing()) insert->Attach(table->Owner());
     insert->ChangedShape();
     return 1;

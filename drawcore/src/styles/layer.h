@@ -14,6 +14,7 @@ public:
 
     Color color = kWhite;
     uint16_t lineStyle = kLineStyleNone; // entry of "_LineStyles_"; none is solid
+    double lineWidth = 0;                // of pens that inherit it, in inches of paper
     bool off = false;
     bool frozen = false;
     bool locked = false;

@@ -1,0 +1,44 @@
+// Names for what is left out.
+#include "drawcore/src/export/leftovers.h"
+
+#include "drawcore/src/database/dxf_source.h"
+#include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/dxf/record_name.h"
+#include "drawcore/src/graphics/vertex_graphic.h"
+
+namespace drawcore {
+
+void Leftovers::Add(const Graphic& graphic, const std::string& why) {
+    if (!graphics_.insert(&graphic).second) return;
+    const std::string block = BlockOf(graphic);
+    if (graphic.source == Graphic::kNoSource) {
+        findings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + why});
+        return;
+    }
+    const std::string_view text = dxf::TextOf(drawing_.source->bytes);
+    dxf::RecordName name = dxf::NameOfRecord(text, graphic.source);
+    name.line = dxf::LineAt(text, graphic.source);
+    name.block = block;
+    findings_.push_back({name.line, name.Text() + ": " + why});
+}
+
+void Leftovers::AddRemoved(uint32_t place, const std::string& why) {
+    if (!removed_.insert(place).second) return;
+    const std::string_view text = dxf::TextOf(drawing_.source->bytes);
+    dxf::RecordName name = dxf::NameOfRecord(text, place);
+    name.line = dxf::LineAt(text, place);
+    findings_.push_back({name.line, name.Text() + ": " + why});
+}
+
+void Leftovers::Add(const std::string& what, const std::string& why) {
+    if (others_.insert(what).second) findings_.push_back({0, what + ": " + why});
+}
+
+std::string Leftovers::BlockOf(const Graphic& graphic) const {
+    const BlockTable* blocks = drawing_.Blocks();
+    for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
+        if (&blocks->At(id)->Content() == &graphic.Top()) return blocks->At(id)->name;
+    return {};
+}
+
+} // namespace drawcore

@@ -1,0 +1,58 @@
+// What of a drawing its file cannot hold, and why.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/dxf/document.h"
+#include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/save/save_error.h"
+
+namespace drawcore {
+
+class Leftovers {
+public:
+    // The drawing was read from a file.
+    explicit Leftovers(const Drawing& drawing) : drawing_(drawing) {}
+
+    // A graphic that stays as its record is; a new one gets none.
+    void Add(const Graphic& graphic, const std::string& why);
+    bool Has(const Graphic& graphic) const { return graphics_.count(&graphic) != 0; }
+    // A record that stays although its graphic was removed.
+    void AddRemoved(uint32_t place, const std::string& why);
+    const std::set<uint32_t>& Removed() const { return removed_; }
+    // Anything else, by what it is called.
+    void Add(const std::string& what, const std::string& why);
+    bool Has(const std::string& what) const { return others_.count(what) != 0; }
+
+    static std::string NameOfBlock(const std::string& name) { return "block \"" + name + "\""; }
+    static std::string NameOfLayer(const std::string& name) { return "layer \"" + name + "\""; }
+
+    size_t Count() const { return graphics_.size() + removed_.size() + others_.size(); }
+    // All of them, with their lines in the file, in the order in which they were found.
+    const std::vector<dxf::Finding>& List() const { return findings_; }
+
+    // Does the work for the graphic, and adds it if the file cannot hold it.
+    template <class Work>
+    void Try(const Graphic& graphic, const Work& work) {
+        try {
+            work();
+        } catch (const dxf::SaveError& error) {
+            Add(graphic, error.what());
+        }
+    }
+
+private:
+    std::string BlockOf(const Graphic& graphic) const;
+
+    const Drawing& drawing_;
+    std::set<const Graphic*> graphics_;
+    std::set<uint32_t> removed_;
+    std::set<std::string> others_;
+    std::vector<dxf::Finding> findings_;
+};
+
+} // namespace drawcore

@@ -1,0 +1,34 @@
+// The layer's group in all records of blocks and entities.
+#include "drawcore/src/save/layer_use.h"
+
+#include "drawcore/src/dxf/names.h"
+#include "drawcore/src/dxf/record_name.h"
+#include "drawcore/src/dxf/tag_reader.h"
+
+namespace dxf {
+
+std::string FirstOnLayer(std::string_view text, const Document& document, const std::string& layer) {
+    TextDecoder decoder;
+    decoder.SetVersion(document.header.version);
+    decoder.SetCodePage(document.header.codePage);
+    std::vector<Layer> mentioned;
+    Names<Layer> names(mentioned, decoder);
+    const size_t wanted = names.FindUtf8(layer);
+    const Progress silent;
+    TagReader tags(text, silent);
+    const Tag& tag = tags.Next();
+    bool hasEntities = false;
+    size_t record = 0;
+    for (; !tag.Is(0, "EOF"); tags.Next()) {
+        constexpr int kLayer = 8;
+        if (tag.code == 0) record = tag.offset;
+        if (tag.Is(0, "SECTION")) hasEntities = tags.Next().Is(2, "BLOCKS") || tag.Is(2, "ENTITIES");
+        if (!hasEntities || tag.code != kLayer || names.Find(tag.value) != wanted) continue;
+        RecordName name = NameOfRecord(text, record);
+        name.line = LineAt(text, record);
+        return name.Text();
+    }
+    return {};
+}
+
+} // namespace dxf

@@ -1,0 +1,239 @@
+// One rule for each kind of record that refers to others.
+#include "drawcore/src/save/reference_removal.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "drawcore/src/dxf/record_name.h"
+
+namespace dxf {
+
+namespace {
+
+constexpr int kHandle = 5, kDimensionStyleHandle = 105, kOwner = 330, kExtendedHandle = 1005;
+constexpr int kHardOwner = 360, kSoftOwner = 350;
+
+bool IsReference(int code) {
+    return (code >= 320 && code < 370) || (code >= 390 && code < 400) || code == 480 || code == 481 ||
+           code == kExtendedHandle;
+}
+
+// As a key: without blanks and zeros in front, in capitals. Empty for the null handle.
+std::string KeyOf(std::string_view value) {
+    std::string key;
+    for (const char c : value)
+        if (c != ' ' && c != '\t' && (c != '0' || !key.empty()))
+            key += c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c;
+    return key;
+}
+
+} // namespace
+
+// One way through the records of a drawing.
+class ReferenceRemoval::Scan {
+public:
+    explicit Scan(ReferenceRemoval& of) : of_(of), text_(of.patch_.Text()), tags_(text_, silent_) {}
+
+    // Returns whether other records have to go than before.
+    bool Run() {
+        bool inHeader = false;
+        tags_.Next();
+        while (!tags_.Current().Is(0, "EOF")) {
+            const size_t begin = tags_.Current().offset;
+            const auto gone = of_.ranges_.find(begin);
+            if (gone != of_.ranges_.end()) {
+                tags_.Seek(gone->second.end);
+                continue;
+            }
+            if (tags_.Current().Is(0, "SECTION")) {
+                section_ = tags_.Next().Trimmed();
+                inHeader = section_ == "HEADER" || section_ == "CLASSES";
+                tags_.SkipRecord();
+            } else if (inHeader) {
+                tags_.SkipRecord();
+            } else {
+                Visit(begin);
+            }
+        }
+        return grows_;
+    }
+
+private:
+    void Visit(size_t begin) {
+        const RecordPatch record(of_.patch_, tags_, begin);
+        groups_ = &record.Groups();
+        kind_ = Tag{0, (*groups_)[0].value}.Trimmed();
+        const auto handle = std::find_if(groups_->begin(), groups_->end(), [](const Group& group) {
+            return group.code == kHandle || group.code == kDimensionStyleHandle;
+        });
+        const std::string own = handle == groups_->end() ? "" : KeyOf(handle->value);
+        // Of two records with one handle one remains: that is what others refer to.
+        if (of_.handles_.erase(own) > 0) grows_ = true;
+        const auto owned = of_.owned_.find(own);
+        if (!own.empty() && owned != of_.owned_.end())
+            return RemoveRecord(record.End(), owned->second, of_.edits_.size());
+        const size_t before = of_.edits_.size();
+        size_t lostMembers = 0;
+        std::optional<size_t> goes; // with what the place stands for
+        for (size_t i = 1; i < groups_->size() && !goes; ++i) {
+            const Group& group = (*groups_)[i];
+            if (!IsReference(group.code)) continue;
+            const auto found = of_.handles_.find(KeyOf(group.value));
+            if (found == of_.handles_.end()) continue;
+            if (!Drop(i)) goes = found->second;
+            if (kind_ == "GROUP" && !group.attached && ++lostMembers == CountMembers())
+                return RemoveRecord(record.End(), found->second, before);
+        }
+        if (goes) {
+            const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(*goes));
+            if (isObject) return RemoveRecord(record.End(), *goes, before);
+            RecordName name = NameOfRecord(text_, begin);
+            name.line = LineAt(text_, begin);
+            of_.refusals_.push_back({*goes, "it cannot be removed, since " + name.Text() + " refers to it"});
+        }
+    }
+
+    // Of a group.
+    size_t CountMembers() const {
+        return static_cast<size_t>(std::count_if(groups_->begin(), groups_->end(), [](const Group& group) {
+            return group.code == 340 && !group.attached;
+        }));
+    }
+
+    bool IsOwnedBy(size_t place) const {
+        for (const Group& group : *groups_) {
+            if (group.code == kSubclass) break;
+            if (group.code != kOwner || group.attached) continue;
+            const auto found = of_.handles_.find(KeyOf(group.value));
+            return found != of_.handles_.end() && found->second == place;
+        }
+        return false;
+    }
+
+    // In place of the edits that came after those.
+    void RemoveRecord(size_t end, size_t place, size_t edits) {
+        const size_t begin = (*groups_)[0].begin;
+        of_.edits_.resize(edits);
+        of_.edits_.push_back({begin, end - begin, {}});
+        of_.ranges_.emplace(begin, Range{end, place});
+        of_.NoteHandles(begin, {end, place});
+        grows_ = true;
+        tags_.Seek(end);
+    }
+
+    void Remove(const Group& group) { of_.edits_.push_back({group.begin, group.end - group.begin, {}}); }
+    void Put(const Group& group, const std::string& value) {
+        of_.edits_.push_back(
+            {static_cast<size_t>(group.value.data() - text_.data()), group.value.size(), value});
+    }
+
+    // Takes the reference out; false if the record is nothing without it.
+    bool Drop(size_t at) {
+        const Group& group = (*groups_)[at];
+        if (group.code == kExtendedHandle) return Put(group, "0"), true;
+        if (group.attached) return DropFromBraces(at), true;
+        const bool isOwner = group.part == 0 && group.code == kOwner;
+        if (isOwner) return false;
+        const int code = group.code;
+        if ((kind_ == "GROUP" && code == 340) || (kind_ == "IDBUFFER" && code == 330) ||
+            (kind_ == "VIEWPORT" && (code == 331 || code == 341)))
+            return Remove(group), true;
+        if (kind_ == "XRECORD") return Put(group, "0"), true;
+        if (kind_ == "HATCH" && code == 330) return DropBoundary(at), true;
+        if (kind_ == "LEADER" && code == 340) return DropAnnotation(group), true;
+        const bool isEntry = code == kHardOwner || code == kSoftOwner;
+        if (kind_.find("DICTIONARY") != kind_.npos && isEntry && (*groups_)[at - 1].code == 3)
+            return Remove((*groups_)[at - 1]), Remove(group), true;
+        if (kind_ == "SORTENTSTABLE" && code == 331 && at + 1 < groups_->size())
+            return Remove(group), Remove((*groups_)[at + 1]), true;
+        return false;
+    }
+
+    // Braces that nothing is left in go too.
+    void DropFromBraces(size_t at) {
+        const bool isAlone = (*groups_)[at - 1].code == kGroup && at + 1 < groups_->size() &&
+                             (*groups_)[at + 1].code == kGroup;
+        if (isAlone) Remove((*groups_)[at - 1]);
+        Remove((*groups_)[at]);
+        if (isAlone) Remove((*groups_)[at + 1]);
+    }
+
+    // Its path has one boundary less, and the hatch no longer follows its boundaries.
+    void DropBoundary(size_t at) {
+        Remove((*groups_)[at]);
+        for (size_t i = at; i-- > 0;) {
+            const Group& group = (*groups_)[i];
+            if (group.code != 97) continue;
+            const int gone = ++boundaries_[group.begin];
+            const auto isSameCount = [&](const Edit& edit) { return edit.at == ValueAt(group); };
+            of_.edits_.erase(std::remove_if(of_.edits_.begin(), of_.edits_.end(), isSameCount),
+                             of_.edits_.end());
+            Put(group, std::to_string(Tag{97, group.value}.Integer() - gone));
+            break;
+        }
+        for (const Group& group : *groups_) {
+            if (group.code == 91) break;
+            if (group.code == 71 && Tag{71, group.value}.Flag() && associative_.insert(group.begin).second)
+                Put(group, "0");
+        }
+    }
+
+    size_t ValueAt(const Group& group) const {
+        return static_cast<size_t>(group.value.data() - text_.data());
+    }
+
+    void DropAnnotation(const Group& reference) {
+        constexpr char kNone[] = "3";
+        Put(reference, "0");
+        for (const Group& group : *groups_)
+            if (group.code == 73 && !group.attached) Put(group, kNone);
+    }
+
+    ReferenceRemoval& of_;
+    const std::string_view text_;
+    const Progress silent_;
+    TagReader tags_;
+    std::string section_;
+    std::string_view kind_;
+    const std::vector<Group>* groups_ = nullptr;
+    std::map<size_t, int> boundaries_; // that are gone, by the counts that they belong to
+    std::set<size_t> associative_;
+    bool grows_ = false;
+};
+
+void ReferenceRemoval::Add(size_t begin, size_t end, size_t place) {
+    ranges_.emplace(begin, Range{end, place});
+    NoteHandles(begin, {end, place});
+}
+
+void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
+    const Progress silent;
+    TagReader tags(patch_.Text(), silent);
+    for (size_t at = begin; at < range.end;) {
+        const RecordPatch record(patch_, tags, at);
+        bool hasHandle = false;
+        for (const Group& group : record.Groups()) {
+            const std::string key = KeyOf(group.value);
+            if (group.code == kHandle && !hasHandle && !key.empty()) handles_.emplace(key, range.place);
+            hasHandle = hasHandle || group.code == kHandle;
+            if (group.code == kHardOwner && !key.empty()) owned_.emplace(key, range.place);
+        }
+        at = record.End();
+    }
+}
+
+void ReferenceRemoval::Run() {
+    if (handles_.empty()) return;
+    do {
+        // What an earlier way through has removed is passed over now: its edits stay.
+        edits_.erase(std::remove_if(edits_.begin(), edits_.end(),
+                                    [&](const Edit& edit) { return ranges_.count(edit.at) == 0; }),
+                     edits_.end());
+        refusals_.clear();
+    } while (Scan(*this).Run());
+    if (!refusals_.empty()) return;
+    for (Edit& edit : edits_)
+        patch_.Replace(edit.at, edit.length, std::move(edit.with));
+}
+
+} // namespace dxf

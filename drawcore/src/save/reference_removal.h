@@ -1,0 +1,50 @@
+// Takes references to removed records out of the rest of a drawing: members of groups, boundaries of hatches, entries of
+// dictionaries, places in a drawing order. Objects that belong to what was removed go with it.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawcore/src/save/record_patch.h"
+
+namespace dxf {
+
+class ReferenceRemoval {
+public:
+    ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
+
+    // Records from begin to end are gone; the caller removes their text. The place stands for them in refusals.
+    void Add(size_t begin, size_t end, size_t place);
+
+    // Removes all references, or none if one of them cannot be removed.
+    void Run();
+    struct Refusal {
+        size_t place;    // of what cannot be removed
+        std::string why; // "GROUP 2F (line 1024) refers to it"
+    };
+    const std::vector<Refusal>& Refusals() const { return refusals_; }
+
+private:
+    struct Range {
+        size_t end, place;
+    };
+    struct Edit {
+        size_t at, length;
+        std::string with;
+    };
+    class Scan;
+
+    void NoteHandles(size_t begin, const Range& range);
+
+    TextPatch& patch_;
+    std::map<size_t, Range> ranges_;        // by their beginnings
+    std::map<std::string, size_t> handles_; // that are gone, and the places that stand for them
+    std::map<std::string, size_t> owned_;   // likewise, of objects that go with their owners
+    std::vector<Edit> edits_;
+    std::vector<Refusal> refusals_;
+};
+
+} // namespace dxf
