@@ -5,8 +5,8 @@
 
 #include "orlo/export.h"
 
-// Integers. Only blanks are allowed around the number; the whole text is read, however long. A number beyond 32 bits gives the limit. The 8-bit form refuses what is above 255; the
-// 16-bit form keeps the low 16 bits.
+// Integers. Only blanks are allowed around the number; the whole text is read, however long. A number beyond 32 bits gives the
+// limit. The 8-bit form refuses what is above 255; the 16-bit form keeps the low 16 bits.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value);
