@@ -14,6 +14,7 @@ import sys
 import tempfile
 
 try:
+    import ezdxf
     from ezdxf import recover
 except ImportError:  # ./run setup installs it
     recover = None
@@ -150,6 +151,48 @@ def check_structure(path):
         failures.append(f"{path}: the other reader misses the block")
 
 
+def handles_in(path, codes):
+    return {value.strip().upper().lstrip(b"0") for code, value in pairs(path) if int(code) in codes} - {b""}
+
+
+def check_references():
+    """References to what was removed go with it, in every kind of record that another program writes."""
+    source, references = os.path.join(WORK, "references.dxf"), {*range(320, 370), 1005}
+    for version in ("R2000", "R2010", "R2018"):
+        drawing = ezdxf.new(version)
+        space = drawing.modelspace()
+        drawing.appids.add("OTHER")
+        lines = [space.add_line((i, 0), (i, 5)) for i in range(8)]
+        for name, members in {"mixed": lines[:3], "gone": [lines[1], lines[3]], "stays": [lines[2]]}.items():
+            with drawing.groups.new(name).edit_data() as data:
+                data.extend(members)
+        outline = space.add_lwpolyline([(0, 0), (4, 0), (4, 4)], close=True)
+        other = space.add_lwpolyline([(0, 0), (1, 0), (1, 1)], close=True)
+        hatch = space.add_hatch(color=1)
+        for border in (outline, other):
+            path = hatch.paths.add_polyline_path([(p[0], p[1]) for p in border.get_points()], is_closed=True)
+            hatch.associate(path, [border])
+        for owner in lines[4:6]:
+            record = owner.new_extension_dict().dictionary.add_xrecord("DATA")
+            record.reset([(330, lines[2].dxf.handle), (330, lines[3].dxf.handle), (1, "x")])
+        lines[6].set_xdata("OTHER", [(1005, lines[7].dxf.handle)])
+        space.set_redraw_order({line.dxf.handle: "%X" % (0xF00 - i) for i, line in enumerate(lines)})
+        note = space.add_mtext("note")
+        space.add_leader([(0, 0), (3, 3)]).dxf.annotation_handle = note.dxf.handle
+        space.add_line((0, 0), (9, 9))
+        drawing.saveas(source)
+        before, _ = audit(source)
+        for remove in ([], ["remove"]):
+            done = subprocess.run([RESTRUCTURE, source, OUT, *remove], capture_output=True)
+            after, _ = audit(OUT)
+            if done.returncode or after is None or after > before:
+                failures.append(f"references of {version}: {before} faults before, {after} after; {done.stderr.decode()}")
+        removed = handles_in(source, {5}) - handles_in(OUT, {5})
+        dangling = removed & handles_in(OUT, references)
+        if len(removed) < 7 or dangling:
+            failures.append(f"references of {version}: to {dangling} of {removed}")
+
+
 def check_blocks():
     """Entities of a block are chosen, changed and compared like those of model space; JSON says the same as the lines."""
     done = run("set", BLOCKS, "--where", "block=MyBlock,kind=LINE", "PenColor=red", "PenScale=1+1/2", "-o", OUT)
@@ -249,6 +292,8 @@ if not has_free_handles(OUT):
     failures.append("handles are not free")
 check_words()
 check_blocks()
+if recover:
+    check_references()
 check_safety(os.path.join(FOLDER, "ezdxf-insert-nested-mirrored.dxf"))
 shutil.rmtree(WORK)
 if failures:

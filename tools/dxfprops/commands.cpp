@@ -80,10 +80,16 @@ SetResult SetProperties(const std::string& file, const std::vector<Condition>& w
             if (PropertyTexts::Has(*found.entity, value.name))
                 drawing.Texts().Set(value.name, value.value, look);
         if (look == was) continue;
-        patch.Change(found.entity->offset, look);
+        try {
+            patch.Change(found.entity->offset, look);
+        } catch (const dxf::SaveError& error) {
+            throw dxf::SaveError(drawing.NameOf(found).Text() + ": " + error.what());
+        }
         wanted.emplace(found.entity->offset, std::move(look));
     }
     result.changed = wanted.size();
+    for (const auto& [property, count] : patch.OnlyExtended())
+        result.notes.push_back(dxf::OnlyExtendedText(property, count));
     if (result.matched == 0) result.kinds = drawing.KindsAround(where);
     std::string bytes =
         drawing.Bytes().substr(0, drawing.Bytes().size() - drawing.Text().size()) + patch.Finish();
@@ -102,7 +108,7 @@ std::vector<Difference> FindDifferences(const std::string& before, const std::st
     std::vector<bool> met(others.size());
     std::vector<Difference> differences;
     for (size_t i = 0; i < ones.size(); ++i) {
-        const EntityName name = a.NameOf(ones[i]);
+        const dxf::RecordName name = a.NameOf(ones[i]);
         const auto found = byHandle.find(name.handle);
         const size_t at = name.handle.empty() ? i : found != byHandle.end() ? found->second : others.size();
         if (at >= others.size() || met[at] || b.NameOf(others[at]).kind != name.kind) {
@@ -116,7 +122,8 @@ std::vector<Difference> FindDifferences(const std::string& before, const std::st
         difference.name = name;
         for (const std::string& property : PropertyTexts::Names()) {
             if (!PropertyTexts::Has(*ones[i].entity, property)) continue;
-            const std::string was = a.Texts().Get(property, one), is = b.Texts().Get(property, other);
+            const std::string was = a.Texts().GetWithVariety(property, one),
+                              is = b.Texts().GetWithVariety(property, other);
             if (was != is) difference.values.push_back({property, was, is});
         }
     }

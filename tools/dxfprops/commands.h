@@ -11,7 +11,7 @@
 namespace dxfprops {
 
 struct EntityProperties {
-    EntityName name;
+    dxf::RecordName name;
     std::vector<std::pair<std::string, std::string>> values; // by the names of properties
 };
 
@@ -26,7 +26,8 @@ Listing ListProperties(const std::string& file, const std::vector<Condition>& wh
 
 struct SetResult {
     size_t matched = 0, changed = 0;
-    std::set<std::string> kinds; // if none matched: what there is in their place
+    std::set<std::string> kinds;    // if none matched: what there is in their place
+    std::vector<std::string> notes; // what other programs will not show
 };
 
 // Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into `output`, as
@@ -39,7 +40,7 @@ struct Difference {
     struct Value {
         std::string property, before, after;
     };
-    EntityName name;
+    dxf::RecordName name;
     Kind kind = Kind::changed;
     std::vector<Value> values;
 };

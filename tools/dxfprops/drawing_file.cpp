@@ -16,11 +16,6 @@ namespace dxfprops {
 
 using drawcore::FoldName;
 
-std::string EntityName::Text() const {
-    return kind + (handle.empty() ? "" : " " + handle) + " (line " + std::to_string(line) +
-           (block.empty() ? "" : ", block " + block) + ")";
-}
-
 DrawingFile::DrawingFile(const std::string& file)
     : path_(std::filesystem::u8path(file)), bytes_(dxf::ReadBytes(path_)), document_(dxf::Read(bytes_, {})),
       texts_(document_) {}
@@ -46,15 +41,10 @@ std::string_view DrawingFile::Text() const {
     return dxf::TextOf(bytes_);
 }
 
-EntityName DrawingFile::NameOf(const Found& found) const {
-    constexpr int kHandleCode = 5;
-    const dxf::Progress silent;
-    dxf::TagReader tags(Text(), silent);
-    const dxf::Tag& tag = tags.Seek(found.entity->offset);
-    EntityName name{std::string(tag.Trimmed()), {}, found.entity->line, {}};
+dxf::RecordName DrawingFile::NameOf(const Found& found) const {
+    dxf::RecordName name = dxf::NameOfRecord(Text(), found.entity->offset);
+    name.line = found.entity->line;
     if (found.block) name.block = dxf::ToDisplayText(found.block->name);
-    while (!tags.Next().StartsRecord() && tag.code != dxf::kSubclass)
-        if (tag.code == kHandleCode) name.handle = tag.Trimmed();
     return name;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "drawcore/src/dxf/document.h"
+#include "drawcore/src/dxf/record_name.h"
 #include "drawcore/src/dxf/tag_reader.h"
 #include "tools/dxfprops/property_texts.h"
 
@@ -21,16 +22,6 @@ constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
 
 // The name of standard output.
 constexpr char kStandardOutput[] = "-";
-
-// An entity as it is named in messages.
-struct EntityName {
-    std::string kind;   // "LINE"
-    std::string handle; // empty: none
-    uint32_t line = 0;  // of the file
-    std::string block;  // that it is in; empty: model space
-
-    std::string Text() const; // "LINE 2F (line 1024)", "LINE 3A (line 512, block DOOR)"
-};
 
 // An entity and the block that it is in; null: model space.
 struct Found {
@@ -60,7 +51,7 @@ public:
     // The kinds of all that are there, whatever the other conditions say.
     std::set<std::string> KindsAround(const std::vector<Condition>& where) const;
     std::vector<Found> All() const { return AllOf(document_); }
-    EntityName NameOf(const Found& found) const;
+    dxf::RecordName NameOf(const Found& found) const;
     dxf::Look LookOf(const dxf::Entity& entity) const { return dxf::LookOf(document_, entity); }
 
 private:

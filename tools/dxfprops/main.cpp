@@ -159,6 +159,8 @@ int Set(CommandLine& line) {
     const int result = ForEach(line.files, [&](const std::string& file) {
         const SetResult set = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
         matches.Add(set.matched, set.kinds);
+        for (const std::string& note : set.notes)
+            std::cerr << "dxfprops: " << file << ": note: " << note << "\n";
         (line.output == kStandardOutput ? std::cerr : std::cout)
             << file << ": " << set.changed
             << (set.changed == 1 ? " entity changed\n" : " entities changed\n");

@@ -29,7 +29,7 @@ std::string Quoted(const std::string& text) {
     return quoted + "\"";
 }
 
-Json Named(const EntityName& name) {
+Json Named(const dxf::RecordName& name) {
     Json entry{{"kind", name.kind},
                {"handle", name.handle.empty() ? Json() : Json(name.handle)},
                {"line", name.line}};

@@ -171,16 +171,32 @@ struct PropertyForms {
     }
 
     static std::string GetWidth(const PropertyTexts& of, const Look& look) {
+        if (look.width == kPenWidthByLayer) return kByLayer;
+        if (look.width == kPenWidthByBlock) return kByBlock;
         if (look.worldWidth) return LengthText(of, look.width);
         constexpr int kDigits = 6;
         return drawcore::WriteLength(look.width * kMillimetersPerInch, PaperUnit(of),
                                      {drawcore::LengthSystem::Decimal, kDigits, true});
     }
     static void SetWidth(const PropertyTexts& of, const std::string& text, Look& look) {
-        if (look.worldWidth)
+        const bool byLayer = Same(text, kByLayer);
+        if (byLayer || Same(text, kByBlock)) {
+            look.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
+            look.worldWidth = false;
+        } else if (look.worldWidth)
             look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
         else
             look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
+    }
+
+    // In drawing units a width has to be a number of its own.
+    static void SetSystem(const PropertyTexts& of, const std::string& text, Look& look) {
+        look.worldWidth = ValueOf(kSystems, text) != 0;
+        const bool inherits = look.worldWidth && look.width < 0;
+        if (inherits)
+            look.width = look.width == kPenWidthByLayer
+                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / dxf::kWeightsPerInch
+                             : 0;
     }
 
     static std::string GetLineType(const PropertyTexts& of, const Look& look) {
@@ -283,10 +299,7 @@ const PropertyForms PropertyForms::kAll[] = {
     {kPropPenColor, all, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.color = ReadColor(text, false); }},
     {kPropScaleSystem, shapes,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.worldWidth = ValueOf(kSystems, text) != 0;
-     }},
+     [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); }, SetSystem},
     {kPropPenWidth, shapes, GetWidth, SetWidth},
     {kPropPenStyle, shapes | inserts, GetLineType, SetLineType},
     {kPropPenScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
@@ -379,10 +392,16 @@ std::string PropertyTexts::Get(std::string_view name, const dxf::Look& look) con
     return PropertyForms::Find(name)->get(*this, look);
 }
 
+std::string PropertyTexts::GetWithVariety(std::string_view name, const dxf::Look& look) const {
+    const bool varies = look.varied & dxf::VariedBit(name);
+    return Get(name, look) + (varies ? " (varies)" : "");
+}
+
 void PropertyTexts::Set(std::string_view name, const std::string& text, dxf::Look& look) const {
     const PropertyForms* forms = PropertyForms::Find(name);
     try {
         forms->set(*this, text, look);
+        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(forms->name));
     } catch (const dxf::SaveError& error) {
         throw dxf::SaveError(std::string(forms->name) + ": " + error.what());
     }

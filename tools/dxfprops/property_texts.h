@@ -27,6 +27,8 @@ public:
     static bool Has(const dxf::Entity& entity, std::string_view name);
 
     std::string Get(std::string_view name, const dxf::Look& look) const;
+    // The same, and whether parts of the text have other values.
+    std::string GetWithVariety(std::string_view name, const dxf::Look& look) const;
     // SaveError if the text is not a value of the property; the message lists those that are allowed.
     void Set(std::string_view name, const std::string& text, dxf::Look& look) const;
 
