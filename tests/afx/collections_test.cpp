@@ -30,18 +30,18 @@ TEST(ObjectList, KeepsItsOrderThroughChanges) {
     list.AddTail(&c);
     list.AddHead(&a);
     const POSITION last = list.AddTail(&d);
-    EXPECT_EQ((std::vector<CObject*>{&a, &b, &c, &d}), Elements(list));
+    EXPECT_EQ(Elements(list), (std::vector<CObject*>{&a, &b, &c, &d}));
 
     list.RemoveAt(list.Find(&c));
     list.RemoveAt(last);
-    EXPECT_EQ((std::vector<CObject*>{&a, &b}), Elements(list));
-    EXPECT_EQ(nullptr, list.Find(&c));
+    EXPECT_EQ(Elements(list), (std::vector<CObject*>{&a, &b}));
+    EXPECT_EQ(list.Find(&c), nullptr);
     EXPECT_EQ(&a, list.RemoveHead());
     EXPECT_EQ(&b, list.RemoveHead());
     EXPECT_TRUE(Elements(list).empty());
 
     list.AddHead(&d); // in a node that was freed
-    EXPECT_EQ((std::vector<CObject*>{&d}), Elements(list));
+    EXPECT_EQ(Elements(list), (std::vector<CObject*>{&d}));
     list.RemoveAll();
     list.AddTail(&a);
     EXPECT_EQ(&a, list.GetHead());
@@ -57,7 +57,7 @@ TEST(ObjectList, AnElementMayGoWhileTheWalkStandsBehindIt) {
         const POSITION here = at;
         if (list.GetNext(at) != &items[2]) list.RemoveAt(here);
     }
-    EXPECT_EQ((std::vector<CObject*>{&items[2]}), Elements(list));
+    EXPECT_EQ(Elements(list), (std::vector<CObject*>{&items[2]}));
 }
 
 std::vector<std::string> Keys(const CMapStringToPtr& map) {
@@ -78,7 +78,7 @@ TEST(StringMap, GivesItsKeysInTheOrderOfTheirComing) {
     map.SetAt("ant", &one);
     map.SetAt("", &one);
     map.SetAt("zebra", &two); // keeps its place
-    EXPECT_EQ((std::vector<std::string>{"zebra", "ant", ""}), Keys(map));
+    EXPECT_EQ(Keys(map), (std::vector<std::string>{"zebra", "ant", ""}));
     void* value = nullptr;
     EXPECT_TRUE(map.Lookup("zebra", value));
     EXPECT_EQ(&two, value);
@@ -87,7 +87,7 @@ TEST(StringMap, GivesItsKeysInTheOrderOfTheirComing) {
     EXPECT_FALSE(map.Lookup("ant", value));
     EXPECT_EQ(&two, value) << "a failed look-up leaves the value alone";
     map.SetAt("ant", &one);
-    EXPECT_EQ((std::vector<std::string>{"zebra", "", "ant"}), Keys(map));
+    EXPECT_EQ(Keys(map), (std::vector<std::string>{"zebra", "", "ant"}));
 }
 
 TEST(StringMap, HoldsManyKeys) {
@@ -104,7 +104,7 @@ TEST(StringMap, HoldsManyKeys) {
         ASSERT_EQ(i % 2 == 1 ? reinterpret_cast<void*>(i) : nullptr, value);
     }
     map.RemoveAll();
-    EXPECT_EQ(nullptr, map.GetStartPosition());
+    EXPECT_EQ(map.GetStartPosition(), nullptr);
     EXPECT_TRUE(map.IsEmpty());
 }
 
@@ -113,21 +113,21 @@ TEST(WordMap, HoldsEveryKeyThereIs) {
     Item item;
     for (int key = 0; key <= 0xFFFF; ++key)
         map.SetAt(static_cast<WORD>(key), &item);
-    EXPECT_EQ(0x10000, map.GetCount());
+    EXPECT_EQ(map.GetCount(), 0x10000);
     EXPECT_EQ(&item, map[0xFFFF]);
     map.RemoveAll();
-    EXPECT_EQ(nullptr, map[7]) << "a key that is asked for by [] is made as null";
-    EXPECT_EQ(1, map.GetCount());
+    EXPECT_EQ(map[7], nullptr) << "a key that is asked for by [] is made as null";
+    EXPECT_EQ(map.GetCount(), 1);
 }
 
 TEST(WordArray, Grows) {
     CWordArray words;
     for (int i = 0; i < 100; ++i)
         EXPECT_EQ(i, words.Add(static_cast<WORD>(0xFF00 + i)));
-    EXPECT_EQ(100, words.GetSize());
-    EXPECT_EQ(0xFF63, words[99]);
+    EXPECT_EQ(words.GetSize(), 100);
+    EXPECT_EQ(words[99], 0xFF63);
     words.RemoveAll();
-    EXPECT_EQ(0, words.GetSize());
+    EXPECT_EQ(words.GetSize(), 0);
 }
 
 } // namespace

@@ -59,27 +59,29 @@ void PressKey(UINT key) {
 TEST(Dialog, CarriesValuesInAndOut) {
     CForm form;
     form.onOpen = [](CForm& dialog) {
-        EXPECT_STREQ("Ann", TextOf(dialog, IDC_NAME));
-        EXPECT_STREQ("3", TextOf(dialog, IDC_COUNT));
-        EXPECT_EQ(static_cast<UINT>(BST_CHECKED), ::IsDlgButtonChecked(dialog.m_hWnd, IDC_BOLD));
-        EXPECT_EQ(1, ::SendDlgItemMessageA(dialog.m_hWnd, IDC_CHOICE, CB_GETCURSEL, 0, 0));
+        EXPECT_STREQ(TextOf(dialog, IDC_NAME), "Ann");
+        EXPECT_STREQ(TextOf(dialog, IDC_COUNT), "3");
+        EXPECT_EQ(::IsDlgButtonChecked(dialog.m_hWnd, IDC_BOLD), static_cast<UINT>(BST_CHECKED));
+        EXPECT_EQ(::SendDlgItemMessageA(dialog.m_hWnd, IDC_CHOICE, CB_GETCURSEL, 0, 0), 1);
         dialog.SetDlgItemText(IDC_NAME, "Bea");
         dialog.SetDlgItemText(IDC_COUNT, " -12 ");
         ::CheckDlgButton(dialog.m_hWnd, IDC_BOLD, BST_UNCHECKED);
         dialog.SetDlgItemText(IDC_CHOICE, "none of them");
         PressKey(VK_RETURN);
     };
-    EXPECT_EQ(IDOK, form.DoModal());
-    EXPECT_STREQ("Bea", form.name);
-    EXPECT_EQ(-12, form.count);
-    EXPECT_EQ(0, form.bold);
-    EXPECT_STREQ("none of them", form.choice);
-    EXPECT_EQ(nullptr, form.m_hWnd);
-    EXPECT_EQ(IDOK, [] {
-        CForm again;
-        again.onOpen = [](CForm& dialog) { dialog.EndDialog(IDOK); };
-        return again.DoModal();
-    }());
+    EXPECT_EQ(form.DoModal(), IDOK);
+    EXPECT_STREQ(form.name, "Bea");
+    EXPECT_EQ(form.count, -12);
+    EXPECT_EQ(form.bold, 0);
+    EXPECT_STREQ(form.choice, "none of them");
+    EXPECT_EQ(form.m_hWnd, nullptr);
+    EXPECT_EQ(
+        [] {
+            CForm again;
+            again.onOpen = [](CForm& dialog) { dialog.EndDialog(IDOK); };
+            return again.DoModal();
+        }(),
+        IDOK);
 }
 
 TEST(Dialog, ARefusedValueKeepsItOpenAndSelectsTheField) {
@@ -90,20 +92,20 @@ TEST(Dialog, ARefusedValueKeepsItOpenAndSelectsTheField) {
         dialog.SetDlgItemText(IDC_COUNT, "12x");
         dialog.GotoDlgCtrl(dialog.GetDlgItem(IDC_BOLD));
         EXPECT_FALSE(dialog.UpdateData(TRUE));
-        EXPECT_EQ("Please enter a whole number.", boxes.OnlyText());
+        EXPECT_EQ(boxes.OnlyText(), "Please enter a whole number.");
         EXPECT_EQ(::GetDlgItem(dialog.m_hWnd, IDC_COUNT), ::GetFocus());
         DWORD from = 9, to = 9;
         ::SendMessageA(::GetFocus(), EM_GETSEL, reinterpret_cast<WPARAM>(&from),
                        reinterpret_cast<LPARAM>(&to));
-        EXPECT_EQ(0u, from);
-        EXPECT_EQ(3u, to);
+        EXPECT_EQ(from, 0u);
+        EXPECT_EQ(to, 3u);
         dialog.SendMessage(WM_COMMAND, IDOK);
-        EXPECT_NE(nullptr, dialog.m_hWnd);
+        EXPECT_NE(dialog.m_hWnd, nullptr);
         PressKey(VK_ESCAPE);
     };
-    EXPECT_EQ(IDCANCEL, form.DoModal());
-    EXPECT_EQ(3, form.count);
-    EXPECT_EQ(2u, boxes.Boxes().size());
+    EXPECT_EQ(form.DoModal(), IDCANCEL);
+    EXPECT_EQ(form.count, 3);
+    EXPECT_EQ(boxes.Boxes().size(), 2u);
 }
 
 TEST(Dialog, AnExchangeThatFailsForOtherReasonsIsReported) {
@@ -112,18 +114,18 @@ TEST(Dialog, AnExchangeThatFailsForOtherReasonsIsReported) {
     form.onOpen = [&](CForm& dialog) {
         dialog.check = [](CDataExchange* pDX) { pDX->PrepareCtrl(9999); };
         EXPECT_FALSE(dialog.UpdateData(TRUE));
-        EXPECT_EQ("This is not possible here.", boxes.OnlyText());
+        EXPECT_EQ(boxes.OnlyText(), "This is not possible here.");
         dialog.EndDialog(7);
     };
-    EXPECT_EQ(7, form.DoModal());
+    EXPECT_EQ(form.DoModal(), 7);
 }
 
 TEST(Dialog, ThatCannotLoadItsValuesDoesNotOpen) {
     CForm form;
     form.check = [](CDataExchange* pDX) { pDX->Fail(); };
-    EXPECT_EQ(-1, form.DoModal());
+    EXPECT_EQ(form.DoModal(), -1);
     CDialog unknown(12345);
-    EXPECT_EQ(-1, unknown.DoModal());
+    EXPECT_EQ(unknown.DoModal(), -1);
     CDialog modeless;
     EXPECT_FALSE(modeless.Create(12345));
 }
@@ -142,7 +144,7 @@ TEST(Dialog, DisablesItsOwnerAndGivesItBack) {
         EXPECT_EQ(::GetDlgItem(dialog.m_hWnd, IDC_NAME), ::GetFocus());
         dialog.EndDialog(IDOK);
     };
-    EXPECT_EQ(IDOK, form.DoModal());
+    EXPECT_EQ(form.DoModal(), IDOK);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(owner.m_hWnd, ::GetActiveWindow());
 }
@@ -152,19 +154,19 @@ TEST(Dialog, EndsWithTheProgram) {
     outer.onOpen = [](CForm&) {
         CForm inner;
         inner.onOpen = [](CForm&) { ::PostQuitMessage(5); };
-        EXPECT_EQ(-1, inner.DoModal());
+        EXPECT_EQ(inner.DoModal(), -1);
     };
-    EXPECT_EQ(-1, outer.DoModal());
+    EXPECT_EQ(outer.DoModal(), -1);
     MSG message;
     ASSERT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
         << "the program's own loop ends too";
-    EXPECT_EQ(5u, message.wParam);
+    EXPECT_EQ(message.wParam, 5u);
 }
 
 TEST(Dialog, EndsWhenItsWindowIsDestroyed) {
     CForm form;
     form.onOpen = [](CForm& dialog) { dialog.DestroyWindow(); };
-    EXPECT_EQ(-1, form.DoModal());
+    EXPECT_EQ(form.DoModal(), -1);
 }
 
 TEST(Dialog, Modeless) {
@@ -179,7 +181,7 @@ TEST(Dialog, Modeless) {
     EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&tab));
     EXPECT_EQ(::GetDlgItem(form.m_hWnd, IDC_COUNT), ::GetFocus());
     form.EndDialog(IDOK);
-    EXPECT_EQ(nullptr, form.m_hWnd);
+    EXPECT_EQ(form.m_hWnd, nullptr);
 }
 
 // Fills itself when it is announced, as lists of the program's own things do.
@@ -220,8 +222,8 @@ TEST(Dialog, AnnouncesControlsBeforeTheFirstExchange) {
         }
     } colors;
     colors.onOpen = [](CForm& dialog) { dialog.EndDialog(IDOK); };
-    EXPECT_EQ(IDOK, colors.DoModal());
-    EXPECT_EQ(1, colors.selected);
+    EXPECT_EQ(colors.DoModal(), IDOK);
+    EXPECT_EQ(colors.selected, 1);
 }
 
 } // namespace

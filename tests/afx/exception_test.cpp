@@ -35,7 +35,7 @@ TEST_P(HandlerThatThrows, IsReportedOnce) {
     ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
     window.thrower = GetParam().thrower;
     MessageBoxWatcher boxes;
-    EXPECT_EQ(0, window.SendMessage(WM_APP));
+    EXPECT_EQ(window.SendMessage(WM_APP), 0);
     if (GetParam().said == nullptr) {
         EXPECT_TRUE(boxes.Boxes().empty());
     } else {
@@ -59,7 +59,7 @@ TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
     window.thrower = [] { AfxThrowUserException(); };
     window.when = WM_CREATE;
     EXPECT_FALSE(window.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
-    EXPECT_EQ(nullptr, window.m_hWnd);
+    EXPECT_EQ(window.m_hWnd, nullptr);
 }
 
 TEST(HandlerThatThrows, WhilePaintingIsReportedOnceForEachWindow) {
@@ -76,7 +76,7 @@ TEST(HandlerThatThrows, WhilePaintingIsReportedOnceForEachWindow) {
             window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
         }
         EXPECT_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
-        EXPECT_EQ("This is not possible here.", boxes.OnlyText());
+        EXPECT_EQ(boxes.OnlyText(), "This is not possible here.");
     }
 }
 
@@ -84,9 +84,9 @@ TEST(Exception, TextsAreCutToTheirRoom) {
     CFileException full(CFileException::diskFull, 0, "A:\\file");
     char text[10];
     EXPECT_TRUE(full.GetErrorMessage(text, sizeof text));
-    EXPECT_STREQ("A:\\file: ", text);
+    EXPECT_STREQ(text, "A:\\file: ");
     EXPECT_FALSE(CUserException().GetErrorMessage(text, sizeof text));
-    EXPECT_STREQ("", text);
+    EXPECT_STREQ(text, "");
 }
 
 } // namespace

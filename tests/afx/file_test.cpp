@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(All, FileMode, ::testing::ValuesIn(kModes), [](auto& i)
 
 TEST_F(File, IsMadeByNoTruncateToo) {
     CStdioFile file(kName, CStdioFile::modeCreate | CStdioFile::modeNoTruncate | CStdioFile::modeReadWrite);
-    EXPECT_NE(nullptr, file.m_pStream);
+    EXPECT_NE(file.m_pStream, nullptr);
 }
 
 TEST_F(File, SaysWhyItCannotBeOpened) {
@@ -91,7 +91,7 @@ TEST_F(File, SaysWhyItCannotBeOpened) {
     CStdioFile file;
     EXPECT_FALSE(file.Open("no such folder/file", CStdioFile::modeRead, &reason));
     EXPECT_EQ(CFileException::fileNotFound, reason.m_cause);
-    EXPECT_STREQ("no such folder/file", reason.m_strFileName);
+    EXPECT_STREQ(reason.m_strFileName, "no such folder/file");
     EXPECT_FALSE(file.Open("still no such file", CStdioFile::modeRead));
     try {
         CStdioFile other("no such file", CStdioFile::modeWrite);
@@ -117,7 +117,7 @@ TEST_F(File, TakesAnOpenStreamOver) {
         CStdioFile file(std::fopen(kName, "wb"));
         file.Write("ab\0cd", 5);
     }
-    EXPECT_EQ(std::string("ab\0cd", 5), Content());
+    EXPECT_EQ(Content(), std::string("ab\0cd", 5));
 }
 
 } // namespace

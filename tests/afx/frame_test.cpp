@@ -39,15 +39,15 @@ protected:
     void TearDown() override {
         if (!gone) frame->DestroyWindow();
         EXPECT_TRUE(gone) << "the object goes with its window";
-        EXPECT_EQ(nullptr, AfxGetMainWnd());
+        EXPECT_EQ(AfxGetMainWnd(), nullptr);
     }
 };
 
 TEST_F(Frame, IsMadeFromItsResources) {
     CString title;
     frame->GetWindowText(title);
-    EXPECT_STREQ("A frame", title);
-    EXPECT_EQ(1, ::GetMenuItemCount(::GetMenu(frame->m_hWnd)));
+    EXPECT_STREQ(title, "A frame");
+    EXPECT_EQ(::GetMenuItemCount(::GetMenu(frame->m_hWnd)), 1);
     EXPECT_EQ(frame, AfxGetMainWnd());
 }
 
@@ -58,7 +58,7 @@ TEST_F(Frame, TurnsKeysIntoCommands) {
     key.wParam = VK_F9;
     key.lParam = 1;
     EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&key));
-    EXPECT_EQ(1, frame->greeted);
+    EXPECT_EQ(frame->greeted, 1);
     key.wParam = VK_F8;
     EXPECT_FALSE(AfxGetThread()->PreTranslateMessage(&key));
 }
@@ -73,13 +73,13 @@ TEST_F(Frame, IsFoundFromWithin) {
     EXPECT_EQ(frame, owned.GetTopLevelFrame()) << "by its owner";
     EXPECT_EQ(frame, frame->GetTopLevelFrame());
     CWnd alone;
-    EXPECT_EQ(nullptr, alone.GetTopLevelFrame());
+    EXPECT_EQ(alone.GetTopLevelFrame(), nullptr);
     owned.DestroyWindow();
 }
 
 TEST_F(Frame, EndsTheLoopWhenItGoes) {
     frame->SetTimer(1, 1);
-    EXPECT_EQ(0, AfxGetThread()->Run());
+    EXPECT_EQ(AfxGetThread()->Run(), 0);
     EXPECT_TRUE(gone);
 }
 

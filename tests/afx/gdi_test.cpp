@@ -21,8 +21,8 @@ TEST(Gdi, ObjectsFreeWhatTheyOwnAndNothingElse) {
         CPen* penBefore = memory.SelectObject(&pen);
         CBrush* brushBefore = memory.SelectObject(&brush);
         ::Rectangle(memory.m_hDC, 0, 0, 20, 20);
-        EXPECT_EQ(RGB(255, 0, 0), ::GetPixel(memory.m_hDC, 0, 0));
-        EXPECT_EQ(RGB(0, 0, 255), ::GetPixel(memory.m_hDC, 10, 10));
+        EXPECT_EQ(::GetPixel(memory.m_hDC, 0, 0), RGB(255, 0, 0));
+        EXPECT_EQ(::GetPixel(memory.m_hDC, 10, 10), RGB(0, 0, 255));
         EXPECT_EQ(pen.m_hObject, memory.SelectObject(penBefore)->m_hObject);
         memory.SelectObject(brushBefore);
         memory.SelectObject(bitmapBefore);
@@ -39,7 +39,7 @@ TEST(Gdi, ATemporaryContextDoesNotDeleteItsHandle) {
     EXPECT_EQ(handle, CDC::FromHandle(handle)->m_hAttribDC);
     EXPECT_EQ(CDC::FromHandle(handle), CDC::FromHandle(handle));
     EXPECT_TRUE(::DeleteDC(handle));
-    EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
+    EXPECT_EQ(CDC::FromHandle(nullptr), nullptr);
 }
 
 TEST(Gdi, FillingLeavesTheBackgroundColour) {
@@ -51,9 +51,9 @@ TEST(Gdi, FillingLeavesTheBackgroundColour) {
     CBitmap* before = memory.SelectObject(&bitmap);
     ::SetBkColor(memory.m_hDC, RGB(1, 2, 3));
     memory.FillSolidRect(5, 5, 10, 10, RGB(0, 255, 0));
-    EXPECT_EQ(RGB(1, 2, 3), ::GetBkColor(memory.m_hDC));
-    EXPECT_EQ(RGB(0, 255, 0), ::GetPixel(memory.m_hDC, 14, 14));
-    EXPECT_NE(RGB(0, 255, 0), ::GetPixel(memory.m_hDC, 15, 15));
+    EXPECT_EQ(::GetBkColor(memory.m_hDC), RGB(1, 2, 3));
+    EXPECT_EQ(::GetPixel(memory.m_hDC, 14, 14), RGB(0, 255, 0));
+    EXPECT_NE(::GetPixel(memory.m_hDC, 15, 15), RGB(0, 255, 0));
     memory.SelectObject(before);
 }
 

@@ -92,24 +92,24 @@ protected:
 };
 
 TEST_F(MessageMap, UnpacksParameters) {
-    EXPECT_EQ("size 2 30 40;", Send(WM_SIZE, 2, MAKELPARAM(30, 40)));
-    EXPECT_EQ("move 1 -5 7;", Send(WM_MOUSEMOVE, 1, MAKELPARAM(-5, 7)));
-    EXPECT_EQ("wheel 4 120 3 -9;", Send(WM_MOUSEWHEEL, MAKEWPARAM(4, 120), MAKELPARAM(3, -9)));
-    EXPECT_EQ("key 65 2 c001;", Send(WM_KEYUP, 'A', static_cast<LPARAM>(0xC0010002)));
-    EXPECT_EQ("focus from itself;", Send(WM_SETFOCUS, reinterpret_cast<WPARAM>(window.m_hWnd), 0));
+    EXPECT_EQ(Send(WM_SIZE, 2, MAKELPARAM(30, 40)), "size 2 30 40;");
+    EXPECT_EQ(Send(WM_MOUSEMOVE, 1, MAKELPARAM(-5, 7)), "move 1 -5 7;");
+    EXPECT_EQ(Send(WM_MOUSEWHEEL, MAKEWPARAM(4, 120), MAKELPARAM(3, -9)), "wheel 4 120 3 -9;");
+    EXPECT_EQ(Send(WM_KEYUP, 'A', static_cast<LPARAM>(0xC0010002)), "key 65 2 c001;");
+    EXPECT_EQ(Send(WM_SETFOCUS, reinterpret_cast<WPARAM>(window.m_hWnd), 0), "focus from itself;");
     CClientDC dc(&window);
-    EXPECT_EQ("erase;", Send(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC), 0));
+    EXPECT_EQ(Send(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC), 0), "erase;");
 }
 
 TEST_F(MessageMap, ParametersKeepTheirWidth) {
     const auto wide = static_cast<WPARAM>(~static_cast<WPARAM>(0)) >> 1;
-    EXPECT_EQ(static_cast<LRESULT>(wide), window.SendMessage(WM_APP, wide, 0));
+    EXPECT_EQ(window.SendMessage(WM_APP, wide, 0), static_cast<LRESULT>(wide));
     EXPECT_EQ(sizeof(WPARAM) > 4 ? "long timer;" : "timer;", Send(WM_TIMER, wide, 0));
 }
 
 TEST_F(MessageMap, DerivedComesBeforeBase) {
-    EXPECT_EQ("derived greet;", Send(WM_COMMAND, 10, 0));
-    EXPECT_EQ("timer;", Send(WM_TIMER, 1, 0)) << "the base's own";
+    EXPECT_EQ(Send(WM_COMMAND, 10, 0), "derived greet;");
+    EXPECT_EQ(Send(WM_TIMER, 1, 0), "timer;") << "the base's own";
 }
 
 struct Command {
@@ -149,7 +149,7 @@ TEST_F(MessageMap, HandlersCanBeAskedForWithoutACall) {
     AFX_CMDHANDLERINFO info = {};
     EXPECT_TRUE(window.OnCmdMsg(11, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(&window, info.pTarget);
-    EXPECT_EQ("", window.log);
+    EXPECT_EQ(window.log, "");
     EXPECT_FALSE(window.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
 }
 
@@ -169,7 +169,7 @@ TEST_F(MessageMap, NestedMessagesKeepTheOuterOnesParameters) {
     nester.SetWindowText("outer");
     CString text;
     nester.GetWindowText(text);
-    EXPECT_STREQ("outer", text);
+    EXPECT_STREQ(text, "outer");
 }
 
 TEST_F(MessageMap, HelpIsAskedForOutwards) {
@@ -188,11 +188,11 @@ TEST_F(MessageMap, HelpIsAskedForOutwards) {
     ASSERT_TRUE(outer.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
     ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 5, 5), &outer, 1));
     inner.OnHelp();
-    EXPECT_EQ(1, outer.asked);
+    EXPECT_EQ(outer.asked, 1);
     inner.answer = 1;
     inner.OnHelp();
-    EXPECT_EQ(2, inner.asked);
-    EXPECT_EQ(1, outer.asked) << "the inner one gave help";
+    EXPECT_EQ(inner.asked, 2);
+    EXPECT_EQ(outer.asked, 1) << "the inner one gave help";
 }
 
 } // namespace

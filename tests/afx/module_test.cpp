@@ -20,9 +20,9 @@ TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
     EXPECT_EQ(program, AfxFindResourceHandle(kIcon, kGroupIcon)) << "none has it: the program's own";
     CString text;
     EXPECT_TRUE(text.LoadString(IDS_SHEET));
-    EXPECT_STREQ("Sheet of strings", text);
+    EXPECT_STREQ(text, "Sheet of strings");
     EXPECT_TRUE(text.LoadString(AFX_IDP_PARSE_REAL));
-    EXPECT_STREQ("Please enter a number.", text);
+    EXPECT_STREQ(text, "Please enter a number.");
     EXPECT_FALSE(text.LoadString(1));
     EXPECT_TRUE(text.IsEmpty());
 }
@@ -30,14 +30,14 @@ TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
 TEST(ModuleChain, TakesExtensionModulesInAndOut) {
     // The shell's library has icons, and nothing else in this program does.
     HMODULE shell = ::LoadLibraryA("shell32.dll");
-    ASSERT_NE(nullptr, ::FindResourceA(shell, MAKEINTRESOURCEA(1), kGroupIcon));
+    ASSERT_NE(::FindResourceA(shell, MAKEINTRESOURCEA(1), kGroupIcon), nullptr);
     AFX_EXTENSION_MODULE module = {};
     ASSERT_TRUE(AfxInitExtensionModule(module, shell));
     new CDynLinkLibrary(module);
     EXPECT_EQ(shell, AfxFindResourceHandle(MAKEINTRESOURCEA(1), kGroupIcon));
     CString text;
     EXPECT_TRUE(text.LoadString(IDS_SHEET));
-    EXPECT_STREQ("Sheet of strings", text) << "the program comes first";
+    EXPECT_STREQ(text, "Sheet of strings") << "the program comes first";
     AfxTermExtensionModule(module);
     EXPECT_NE(shell, AfxFindResourceHandle(MAKEINTRESOURCEA(1), kGroupIcon));
     ::FreeLibrary(shell);
@@ -45,19 +45,19 @@ TEST(ModuleChain, TakesExtensionModulesInAndOut) {
 
 TEST(ModuleChain, LoadsStringsIntoAnyRoom) {
     char text[8];
-    EXPECT_EQ(7, AfxLoadString(IDS_SHEET, text, sizeof text));
-    EXPECT_STREQ("Sheet o", text);
-    EXPECT_EQ(0, AfxLoadString(1, text, sizeof text));
-    EXPECT_STREQ("", text);
-    EXPECT_EQ(0, AfxLoadString(IDS_SHEET, text, 0));
+    EXPECT_EQ(AfxLoadString(IDS_SHEET, text, sizeof text), 7);
+    EXPECT_STREQ(text, "Sheet o");
+    EXPECT_EQ(AfxLoadString(1, text, sizeof text), 0);
+    EXPECT_STREQ(text, "");
+    EXPECT_EQ(AfxLoadString(IDS_SHEET, text, 0), 0);
 }
 
 TEST(Messages, InsertTextsInAnyOrder) {
     CString text;
     AfxFormatString2(text, IDS_INSERTS, "one", "%1 two");
-    EXPECT_STREQ("%1 two before one, 100%, %3", text);
+    EXPECT_STREQ(text, "%1 two before one, 100%, %3");
     AfxFormatString1(text, IDS_INSERTS, "one");
-    EXPECT_STREQ("%2 before one, 100%, %3", text);
+    EXPECT_STREQ(text, "%2 before one, 100%, %3");
 }
 
 struct Part {

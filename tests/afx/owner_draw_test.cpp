@@ -53,12 +53,12 @@ const CRect OwnerDraw::kPlace(10, 10, 110, 210);
 TEST_F(OwnerDraw, ReachesAList) {
     Drawn<CListBox> list;
     ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_SORT, kPlace, &parent, 7));
-    EXPECT_EQ("M", list.calls) << "measured while it is made";
+    EXPECT_EQ(list.calls, "M") << "measured while it is made";
     CRect item;
     for (ULONG_PTR data : {3, 1, 2})
         list.AddString(reinterpret_cast<LPCSTR>(data));
-    EXPECT_NE(LB_ERR, list.GetItemRect(0, &item));
-    EXPECT_EQ(kItemHeight, item.Height());
+    EXPECT_NE(list.GetItemRect(0, &item), LB_ERR);
+    EXPECT_EQ(item.Height(), kItemHeight);
     for (DWORD_PTR i = 0; i < 3; ++i)
         EXPECT_EQ(i + 1, list.GetItemData(static_cast<int>(i))) << "sorted";
     list.UpdateWindow();
@@ -71,15 +71,15 @@ TEST_F(OwnerDraw, ReachesACombo) {
     Drawn<CComboBox> combo;
     ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, kPlace,
                              &parent, 8));
-    EXPECT_EQ("M", combo.calls);
+    EXPECT_EQ(combo.calls, "M");
     for (ULONG_PTR data : {3, 1, 2})
         combo.AddString(reinterpret_cast<LPCSTR>(data));
-    EXPECT_EQ(kItemHeight, combo.SendMessage(CB_GETITEMHEIGHT, 0));
+    EXPECT_EQ(combo.SendMessage(CB_GETITEMHEIGHT, 0), kItemHeight);
     combo.UpdateWindow();
-    EXPECT_EQ(-1, combo.lastDrawn) << "the field of a combo without a selection";
+    EXPECT_EQ(combo.lastDrawn, -1) << "the field of a combo without a selection";
     combo.SetCurSel(1);
     combo.UpdateWindow();
-    EXPECT_EQ(1, combo.lastDrawn);
+    EXPECT_EQ(combo.lastDrawn, 1);
     EXPECT_NE(std::string::npos, combo.calls.find('C'));
     combo.DestroyWindow();
     EXPECT_NE(std::string::npos, combo.calls.find('X')) << "the object is there until its items have gone";
@@ -102,14 +102,14 @@ TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
     HWND list =
         ::CreateWindowExA(0, "LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0,
                           50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
-    EXPECT_EQ(0, ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
+    EXPECT_EQ(::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
     ::UpdateWindow(list);
     // An object that comes later is asked from then on.
     Drawn<CListBox> late;
     ASSERT_TRUE(late.SubclassWindow(list));
     late.Invalidate();
     late.UpdateWindow();
-    EXPECT_EQ(0, late.lastDrawn);
+    EXPECT_EQ(late.lastDrawn, 0);
 }
 
 TEST_F(OwnerDraw, TextsOfItems) {
@@ -118,7 +118,7 @@ TEST_F(OwnerDraw, TextsOfItems) {
     list.AddString("some text");
     CString text("before");
     list.GetText(0, text);
-    EXPECT_STREQ("some text", text);
+    EXPECT_STREQ(text, "some text");
     list.GetText(5, text);
     EXPECT_TRUE(text.IsEmpty());
 }

@@ -26,15 +26,15 @@ TEST(RuntimeClass, KnowsItsBases) {
     EXPECT_TRUE(dog.IsKindOf(RUNTIME_CLASS(CObject)));
     EXPECT_FALSE(animal.IsKindOf(RUNTIME_CLASS(CDog)));
     EXPECT_FALSE(dog.IsKindOf(RUNTIME_CLASS(CException)));
-    EXPECT_STREQ("CDog", CPlain().GetRuntimeClass()->m_lpszClassName);
-    EXPECT_EQ(0xFFFFu, RUNTIME_CLASS(CDog)->m_wSchema);
+    EXPECT_STREQ(CPlain().GetRuntimeClass()->m_lpszClassName, "CDog");
+    EXPECT_EQ(RUNTIME_CLASS(CDog)->m_wSchema, 0xFFFFu);
 }
 
 TEST(RuntimeClass, MakesObjects) {
     const std::unique_ptr<CObject> dog(RUNTIME_CLASS(CDog)->CreateObject());
-    ASSERT_NE(nullptr, dog);
+    ASSERT_NE(dog, nullptr);
     EXPECT_EQ(RUNTIME_CLASS(CDog), dog->GetRuntimeClass());
-    EXPECT_EQ(nullptr, RUNTIME_CLASS(CAnimal)->CreateObject());
+    EXPECT_EQ(RUNTIME_CLASS(CAnimal)->CreateObject(), nullptr);
 }
 
 } // namespace

@@ -89,50 +89,50 @@ TEST_F(Sheet, OpensOnItsFirstPage) {
     const int result = Run([&](SheetDriver& user) {
         CString caption;
         sheet.GetWindowText(caption);
-        EXPECT_STREQ("Properties", caption);
-        EXPECT_EQ(4, sheet.GetTabControl()->GetItemCount());
-        EXPECT_EQ("&First", TabText(sheet, 0));
-        EXPECT_EQ("Tall", TabText(sheet, 2)) << "of an extended template";
-        EXPECT_EQ("From a string", TabText(sheet, 3));
-        EXPECT_EQ(0, sheet.GetActiveIndex());
-        EXPECT_EQ("loaded", user.Text(IDC_FIELD));
+        EXPECT_STREQ(caption, "Properties");
+        EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 4);
+        EXPECT_EQ(TabText(sheet, 0), "&First");
+        EXPECT_EQ(TabText(sheet, 2), "Tall") << "of an extended template";
+        EXPECT_EQ(TabText(sheet, 3), "From a string");
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
+        EXPECT_EQ(user.Text(IDC_FIELD), "loaded");
         EXPECT_TRUE(::IsWindowEnabled(user.Page())) << "the template says disabled";
         EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus());
-        EXPECT_EQ(nullptr, second.m_hWnd) << "made when it is needed";
+        EXPECT_EQ(second.m_hWnd, nullptr) << "made when it is needed";
         for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP})
             EXPECT_TRUE(Exists(id)) << id;
         user.Type(IDC_FIELD, "typed");
         user.Ok();
     });
-    EXPECT_EQ(IDOK, result);
-    EXPECT_EQ("aiko", first.log);
-    EXPECT_STREQ("typed", first.value);
-    EXPECT_EQ("", second.log);
-    EXPECT_EQ(nullptr, first.m_hWnd);
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(first.log, "aiko");
+    EXPECT_STREQ(first.value, "typed");
+    EXPECT_EQ(second.log, "");
+    EXPECT_EQ(first.m_hWnd, nullptr);
 }
 
 TEST_F(Sheet, ChangesPagesByClickAndByKey) {
     Run([&](SheetDriver& user) {
         user.Type(IDC_FIELD, "one");
         user.SelectPage(1);
-        EXPECT_EQ(1, sheet.GetActiveIndex());
-        EXPECT_STREQ("one", first.value);
+        EXPECT_EQ(sheet.GetActiveIndex(), 1);
+        EXPECT_STREQ(first.value, "one");
         EXPECT_FALSE(first.IsWindowVisible());
         EXPECT_TRUE(second.IsWindowVisible());
         user.Focus(IDC_FIELD);
         user.Key(VK_TAB, false, true);
-        EXPECT_EQ(2, sheet.GetActiveIndex());
-        EXPECT_EQ(2, sheet.GetTabControl()->GetCurSel());
+        EXPECT_EQ(sheet.GetActiveIndex(), 2);
+        EXPECT_EQ(sheet.GetTabControl()->GetCurSel(), 2);
         EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus()) << "the new page's first field";
         user.Key(VK_NEXT, false, true); // round to the first
-        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
         user.Key(VK_TAB, true, true);
-        EXPECT_EQ(2, sheet.GetActiveIndex());
+        EXPECT_EQ(sheet.GetActiveIndex(), 2);
         user.Key(VK_PRIOR, false, true);
-        EXPECT_EQ(1, sheet.GetActiveIndex());
+        EXPECT_EQ(sheet.GetActiveIndex(), 1);
     });
-    EXPECT_EQ("aikakc", first.log) << "made once, left twice";
-    EXPECT_EQ("aikac", second.log);
+    EXPECT_EQ(first.log, "aikakc") << "made once, left twice";
+    EXPECT_EQ(second.log, "aikac");
 }
 
 TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
@@ -151,7 +151,7 @@ TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
         for (int page : {1, 2}) {
             user.SelectPage(page);
             EXPECT_EQ(place, Place(user.Page())) << page;
-            EXPECT_EQ(0u, ::GetWindowLongPtrA(user.Page(), GWL_STYLE) & (WS_CAPTION | WS_POPUP)) << page;
+            EXPECT_EQ(::GetWindowLongPtrA(user.Page(), GWL_STYLE) & (WS_CAPTION | WS_POPUP), 0u) << page;
         }
     });
 }
@@ -160,49 +160,49 @@ TEST_F(Sheet, APageThatRefusesStays) {
     first.accepts = false;
     const int result = Run([&](SheetDriver& user) {
         user.SelectPage(1);
-        EXPECT_EQ(0, sheet.GetActiveIndex());
-        EXPECT_EQ(0, sheet.GetTabControl()->GetCurSel());
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
+        EXPECT_EQ(sheet.GetTabControl()->GetCurSel(), 0);
         user.Focus(IDC_FIELD);
         user.Key(VK_TAB, false, true);
-        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
         EXPECT_TRUE(first.IsWindowVisible());
         EXPECT_FALSE(sheet.SetActivePage(&second));
         user.Ok();
-        EXPECT_NE(nullptr, sheet.m_hWnd);
+        EXPECT_NE(sheet.m_hWnd, nullptr);
         first.accepts = true;
         EXPECT_TRUE(sheet.SetActivePage(1));
         user.Ok();
     });
-    EXPECT_EQ(IDOK, result);
-    EXPECT_EQ("airrrrk", first.log);
-    EXPECT_EQ("aiko", second.log);
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(first.log, "airrrrk");
+    EXPECT_EQ(second.log, "aiko");
 }
 
 TEST_F(Sheet, APageThatDoesNotOpenLeavesTheOneBefore) {
     second.opens = false;
     Run([&](SheetDriver& user) {
         user.SelectPage(1);
-        EXPECT_EQ(0, sheet.GetActiveIndex());
-        EXPECT_EQ(0, sheet.GetTabControl()->GetCurSel());
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
+        EXPECT_EQ(sheet.GetTabControl()->GetCurSel(), 0);
         EXPECT_TRUE(first.IsWindowVisible());
     });
-    EXPECT_EQ("aikac", first.log) << "active again";
+    EXPECT_EQ(first.log, "aikac") << "active again";
 }
 
 TEST_F(Sheet, OpensOnTheFirstPageThatOpensAndFailsWithoutOne) {
     CPropertySheet empty("Empty");
-    EXPECT_EQ(-1, empty.DoModal());
+    EXPECT_EQ(empty.DoModal(), -1);
     first.opens = false;
-    Run([](SheetDriver& user) { EXPECT_EQ(1, user.ActivePage()); });
+    Run([](SheetDriver& user) { EXPECT_EQ(user.ActivePage(), 1); });
     second.opens = tall.opens = false;
-    EXPECT_EQ(-1, sheet.DoModal());
-    EXPECT_EQ(nullptr, sheet.m_hWnd);
+    EXPECT_EQ(sheet.DoModal(), -1);
+    EXPECT_EQ(sheet.m_hWnd, nullptr);
 }
 
 TEST_F(Sheet, KeyboardEndsItAndReachesButtons) {
-    EXPECT_EQ(IDOK, Run([](SheetDriver& user) { user.Key(VK_RETURN); }));
-    EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) { user.Key(VK_ESCAPE); }));
-    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver&) { sheet.PostMessage(WM_CLOSE); }));
+    EXPECT_EQ(Run([](SheetDriver& user) { user.Key(VK_RETURN); }), IDOK);
+    EXPECT_EQ(Run([](SheetDriver& user) { user.Key(VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(Run([&](SheetDriver&) { sheet.PostMessage(WM_CLOSE); }), IDCANCEL);
     EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) {
                   user.Focus(IDC_LINES); // an edit of several lines sends its Escape to the page
                   user.Key(VK_ESCAPE);
@@ -214,9 +214,9 @@ TEST_F(Sheet, KeyboardEndsItAndReachesButtons) {
                   sheet.SendMessage(WM_NEXTDLGCTL, press, TRUE); // as the Tab key does
                   user.Key(VK_RETURN);
                   user.Key(VK_SPACE);
-                  EXPECT_NE(nullptr, sheet.m_hWnd) << "Return is the button's, not that of OK";
+                  EXPECT_NE(sheet.m_hWnd, nullptr) << "Return is the button's, not that of OK";
               }));
-    EXPECT_EQ("aipppc", first.log);
+    EXPECT_EQ(first.log, "aipppc");
 }
 
 TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
@@ -234,37 +234,39 @@ TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
             order.push_back(::GetDlgCtrlID(::GetFocus()));
             user.Key(VK_TAB);
         }
-        EXPECT_EQ((std::vector<int>{IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP, AFX_IDC_TAB_CONTROL, IDC_FIELD}),
-                  order);
+        EXPECT_EQ(order,
+                  (std::vector<int>{IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP, AFX_IDC_TAB_CONTROL, IDC_FIELD}));
     });
 }
 
 TEST_F(Sheet, CancelAsksEveryPageThatWasOpen) {
-    EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) {
+    EXPECT_EQ(Run([](SheetDriver& user) {
                   user.Type(IDC_FIELD, "dropped");
                   user.SelectPage(1);
                   user.Type(IDC_FIELD, "dropped too");
                   user.Cancel();
-              }));
-    EXPECT_EQ("aikc", first.log);
-    EXPECT_EQ("aic", second.log);
-    EXPECT_EQ("", tall.log);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(first.log, "aikc");
+    EXPECT_EQ(second.log, "aic");
+    EXPECT_EQ(tall.log, "");
     EXPECT_TRUE(second.value.IsEmpty());
 }
 
 TEST_F(Sheet, ApplySavesAndStaysOpen) {
-    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user) {
+    EXPECT_EQ(Run([&](SheetDriver& user) {
                   HWND apply = ::GetDlgItem(sheet.m_hWnd, ID_APPLY_NOW);
                   EXPECT_FALSE(::IsWindowEnabled(apply));
                   user.Type(IDC_FIELD, "applied");
                   first.SetModified();
                   EXPECT_TRUE(::IsWindowEnabled(apply));
                   user.ClickSheetButton(ID_APPLY_NOW);
-                  EXPECT_STREQ("applied", first.value);
+                  EXPECT_STREQ(first.value, "applied");
                   EXPECT_FALSE(first.Changed());
                   EXPECT_FALSE(::IsWindowEnabled(apply));
-              }));
-    EXPECT_EQ("aikoc", first.log);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(first.log, "aikoc");
 }
 
 TEST_F(Sheet, HelpStartsInTheSheet) {
@@ -282,12 +284,12 @@ TEST_F(Sheet, HelpStartsInTheSheet) {
     CTestPage page(IDD_PAGE_ONE);
     helped.AddPage(&page);
     driver.Run(helped, [](SheetDriver& user) { user.ClickSheetButton(ID_HELP); });
-    EXPECT_EQ(1, helped.helped);
+    EXPECT_EQ(helped.helped, 1);
 }
 
 TEST_F(Sheet, EndsWithAnyCode) {
-    EXPECT_EQ(3017, Run([&](SheetDriver&) { sheet.EndDialog(3017); }));
-    EXPECT_EQ("ai", first.log) << "nobody is asked";
+    EXPECT_EQ(Run([&](SheetDriver&) { sheet.EndDialog(3017); }), 3017);
+    EXPECT_EQ(first.log, "ai") << "nobody is asked";
 }
 
 TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
@@ -295,10 +297,10 @@ TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
         const CRect place = Place(user.Page());
         user.SelectPage(1);
         sheet.RemovePage(&first); // before the active one
-        EXPECT_EQ(0, sheet.GetActiveIndex());
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
         EXPECT_EQ(&second, sheet.GetActivePage());
-        EXPECT_EQ(nullptr, first.m_hWnd);
-        EXPECT_EQ(2, sheet.GetTabControl()->GetItemCount());
+        EXPECT_EQ(first.m_hWnd, nullptr);
+        EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 2);
         sheet.RemovePage(0); // the active one
         EXPECT_EQ(&tall, sheet.GetActivePage());
         EXPECT_TRUE(tall.IsWindowVisible());
@@ -307,10 +309,10 @@ TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
         user.SelectPage(1);
         EXPECT_EQ(&first, sheet.GetActivePage());
     });
-    EXPECT_EQ(nullptr, second.GetParentSheet());
-    EXPECT_EQ(1, sheet.GetPageIndex(&first));
+    EXPECT_EQ(second.GetParentSheet(), nullptr);
+    EXPECT_EQ(sheet.GetPageIndex(&first), 1);
     sheet.RemovePage(7);
-    EXPECT_EQ(2, sheet.GetPageCount());
+    EXPECT_EQ(sheet.GetPageCount(), 2);
 }
 
 TEST(SheetOwnership, EitherMayGoFirst) {
@@ -318,12 +320,12 @@ TEST(SheetOwnership, EitherMayGoFirst) {
     auto page = std::make_unique<CTestPage>(IDD_PAGE_ONE);
     sheet->AddPage(page.get());
     page.reset();
-    EXPECT_EQ(0, sheet->GetPageCount());
-    EXPECT_EQ(nullptr, sheet->GetActivePage());
+    EXPECT_EQ(sheet->GetPageCount(), 0);
+    EXPECT_EQ(sheet->GetActivePage(), nullptr);
     page = std::make_unique<CTestPage>(IDD_PAGE_ONE);
     sheet->AddPage(page.get());
     sheet.reset();
-    EXPECT_EQ(nullptr, page->GetParentSheet());
+    EXPECT_EQ(page->GetParentSheet(), nullptr);
 }
 
 TEST_F(Sheet, StartsOnThePageItWasTold) {
@@ -353,10 +355,10 @@ TEST_F(Sheet, Modeless) {
     EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&tab));
     EXPECT_EQ(::GetDlgItem(first.m_hWnd, IDC_PRESS), ::GetFocus());
     sheet.SendMessage(WM_COMMAND, IDOK);
-    EXPECT_NE(nullptr, sheet.m_hWnd) << "OK saves and stays";
-    EXPECT_EQ("aiko", first.log);
+    EXPECT_NE(sheet.m_hWnd, nullptr) << "OK saves and stays";
+    EXPECT_EQ(first.log, "aiko");
     sheet.SendMessage(WM_COMMAND, IDCANCEL);
-    EXPECT_EQ(nullptr, sheet.m_hWnd);
+    EXPECT_EQ(sheet.m_hWnd, nullptr);
 }
 
 // Lays itself out, as sheets with a look of their own do: a tab row at the top that sets its own height.
@@ -397,7 +399,7 @@ TEST(SheetLayout, OfADerivedSheetIsLeftAlone) {
         strip.GetTabControl()->GetItemRect(0, &tab);
         EXPECT_GE(strip.tabHeight, tab.bottom);
         EXPECT_LT(strip.tabHeight, tab.bottom + 6);
-        EXPECT_EQ(nullptr, ::GetDlgItem(strip.m_hWnd, ID_APPLY_NOW));
+        EXPECT_EQ(::GetDlgItem(strip.m_hWnd, ID_APPLY_NOW), nullptr);
     });
 }
 

@@ -18,8 +18,8 @@ TEST(String, NullPointersAreTheEmptyText) {
     EXPECT_TRUE(text.IsEmpty());
     text = static_cast<LPCSTR>(nullptr);
     text += static_cast<LPCSTR>(nullptr);
-    EXPECT_EQ(0, text.Compare(nullptr));
-    EXPECT_EQ("", Text(CString(static_cast<LPCSTR>(nullptr), 7)));
+    EXPECT_EQ(text.Compare(nullptr), 0);
+    EXPECT_EQ(Text(CString(static_cast<LPCSTR>(nullptr), 7)), "");
 }
 
 struct Part {
@@ -50,56 +50,56 @@ INSTANTIATE_TEST_SUITE_P(All, StringPart, ::testing::ValuesIn(kParts), [](auto& 
 TEST(String, BufferKeepsTheTextAndEndsAtItsNul) {
     CString text("start");
     LPSTR buffer = text.GetBuffer(100);
-    EXPECT_STREQ("start", buffer);
+    EXPECT_STREQ(buffer, "start");
     std::copy_n("changed", 8, buffer);
     text.ReleaseBuffer();
-    EXPECT_EQ("changed", Text(text));
+    EXPECT_EQ(Text(text), "changed");
 
     std::copy_n("12345678", 8, text.GetBuffer(20));
     text.ReleaseBuffer(4);
-    EXPECT_EQ("1234", Text(text));
+    EXPECT_EQ(Text(text), "1234");
 
     // A buffer filled to its last character has no NUL of its own.
     std::fill_n(text.GetBufferSetLength(300), 300, 'x');
     text.ReleaseBuffer();
-    EXPECT_EQ(300, text.GetLength());
+    EXPECT_EQ(text.GetLength(), 300);
 }
 
 TEST(String, FormatsIntoItselfAndAtAnyLength) {
     CString text("abc");
     text.Format("%s-%s", static_cast<LPCSTR>(text), static_cast<LPCSTR>(text));
-    EXPECT_EQ("abc-abc", Text(text));
+    EXPECT_EQ(Text(text), "abc-abc");
     text.Format("%2000d", 5);
-    EXPECT_EQ(2000, text.GetLength());
+    EXPECT_EQ(text.GetLength(), 2000);
     text.Format("%s", "");
     EXPECT_TRUE(text.IsEmpty());
 }
 
 TEST(String, FindsFromBothEnds) {
     const CString text("a\\b\\c");
-    EXPECT_EQ(1, text.Find('\\'));
-    EXPECT_EQ(3, text.ReverseFind('\\'));
-    EXPECT_EQ(2, text.Find("b\\"));
-    EXPECT_EQ(-1, text.Find('x'));
-    EXPECT_EQ(-1, text.ReverseFind('x'));
-    EXPECT_EQ(-1, text.Find("bc"));
+    EXPECT_EQ(text.Find('\\'), 1);
+    EXPECT_EQ(text.ReverseFind('\\'), 3);
+    EXPECT_EQ(text.Find("b\\"), 2);
+    EXPECT_EQ(text.Find('x'), -1);
+    EXPECT_EQ(text.ReverseFind('x'), -1);
+    EXPECT_EQ(text.Find("bc"), -1);
 }
 
 TEST(String, ChangesCaseByTheCodePage) {
     CString text("MIXED \xC4\xD6\xDC \xD7 \x8A\x9F");
     text.MakeLower();
-    EXPECT_EQ("mixed \xE4\xF6\xFC \xD7 \x9A\xFF", Text(text));
+    EXPECT_EQ(Text(text), "mixed \xE4\xF6\xFC \xD7 \x9A\xFF");
     text.MakeUpper();
-    EXPECT_EQ("MIXED \xC4\xD6\xDC \xD7 \x8A\x9F", Text(text));
+    EXPECT_EQ(Text(text), "MIXED \xC4\xD6\xDC \xD7 \x8A\x9F");
     // Sharp s and the division sign have no other case.
     text = "\xDF\xF7";
     text.MakeUpper();
-    EXPECT_EQ("\xDF\xF7", Text(text));
+    EXPECT_EQ(Text(text), "\xDF\xF7");
 }
 
 TEST(String, ComparesWithAndWithoutCase) {
     EXPECT_TRUE(CString("abc") == "abc" && "abc" == CString("abc") && CString("abc") != "ABC");
-    EXPECT_EQ(0, CString("abc").CompareNoCase("ABC"));
+    EXPECT_EQ(CString("abc").CompareNoCase("ABC"), 0);
     EXPECT_LT(CString("ABC").Compare("abc"), 0);
     EXPECT_GT(CString("\xE4").Compare("z"), 0); // bytes have no sign here
     EXPECT_TRUE(CString("a") < CString("b"));
@@ -108,12 +108,12 @@ TEST(String, ComparesWithAndWithoutCase) {
 TEST(String, JoinsAndTrims) {
     CString text = "a" + CString("b") + "c" + 'd' + CString('e', 3);
     text += 'f';
-    EXPECT_EQ("abcdeeef", Text(text));
+    EXPECT_EQ(Text(text), "abcdeeef");
     text = " \t x y \r\n";
     text.TrimLeft();
-    EXPECT_EQ("x y \r\n", Text(text));
+    EXPECT_EQ(Text(text), "x y \r\n");
     text.TrimRight();
-    EXPECT_EQ("x y", Text(text));
+    EXPECT_EQ(Text(text), "x y");
     text = "  ";
     text.TrimRight();
     EXPECT_TRUE(text.IsEmpty());
@@ -123,8 +123,8 @@ TEST(String, CopiesAreApart) {
     CString one("text");
     CString two(one);
     two.SetAt(0, 'n');
-    EXPECT_EQ("text", Text(one));
-    EXPECT_EQ("next", Text(two));
+    EXPECT_EQ(Text(one), "text");
+    EXPECT_EQ(Text(two), "next");
 }
 
 } // namespace

@@ -29,7 +29,7 @@ protected:
         return CWnd::WindowProc(message, wParam, lParam);
     }
     void PostNcDestroy() override {
-        EXPECT_EQ(nullptr, m_hWnd);
+        EXPECT_EQ(m_hWnd, nullptr);
         messages.push_back(0);
         if (deleted != nullptr) delete this;
     }
@@ -53,20 +53,20 @@ bool Contains(const std::vector<UINT>& messages, UINT message) {
 TEST_F(Window, SeesItsFirstAndItsLastMessages) {
     CLog child;
     ASSERT_TRUE(child.Create("STATIC", "text", WS_CHILD, kPlace, &parent, 5));
-    EXPECT_EQ(static_cast<UINT>(WM_NCCREATE), child.messages.front());
+    EXPECT_EQ(child.messages.front(), static_cast<UINT>(WM_NCCREATE));
     EXPECT_TRUE(Contains(child.messages, WM_CREATE));
-    EXPECT_EQ(5, child.GetDlgCtrlID());
+    EXPECT_EQ(child.GetDlgCtrlID(), 5);
     CString text;
     child.GetWindowText(text);
-    EXPECT_STREQ("text", text) << "the class's own procedure has made the window";
+    EXPECT_STREQ(text, "text") << "the class's own procedure has made the window";
 
     child.messages.clear();
     HWND window = child.m_hWnd;
     EXPECT_TRUE(child.DestroyWindow());
     EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ((std::vector<UINT>{WM_NCDESTROY, 0}),
-              std::vector<UINT>(child.messages.end() - 2, child.messages.end()));
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    EXPECT_EQ(std::vector<UINT>(child.messages.end() - 2, child.messages.end()),
+              (std::vector<UINT>{WM_NCDESTROY, 0}));
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
 
     ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6))
         << "an object may be used again";
@@ -77,16 +77,16 @@ TEST_F(Window, ThatCannotBeMadeLeavesAnEmptyObject) {
     CLog refused;
     refused.refuseCreate = true;
     EXPECT_FALSE(refused.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
-    EXPECT_EQ(nullptr, refused.m_hWnd);
-    EXPECT_EQ(0u, refused.messages.back()) << "told by PostNcDestroy, once";
-    EXPECT_EQ(1, std::count(refused.messages.begin(), refused.messages.end(), 0u));
+    EXPECT_EQ(refused.m_hWnd, nullptr);
+    EXPECT_EQ(refused.messages.back(), 0u) << "told by PostNcDestroy, once";
+    EXPECT_EQ(std::count(refused.messages.begin(), refused.messages.end(), 0u), 1);
 
     CLog unknown;
     EXPECT_FALSE(unknown.Create("no such class", "", WS_CHILD, kPlace, &parent, 1));
-    EXPECT_EQ((std::vector<UINT>{0}), unknown.messages);
+    EXPECT_EQ(unknown.messages, (std::vector<UINT>{0}));
     CLog next; // nothing is left of the creation that failed
     EXPECT_TRUE(next.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
-    EXPECT_EQ(nullptr, unknown.m_hWnd);
+    EXPECT_EQ(unknown.m_hWnd, nullptr);
 }
 
 TEST_F(Window, ObjectsOfChildrenAreNotTheirParents) {
@@ -94,8 +94,8 @@ TEST_F(Window, ObjectsOfChildrenAreNotTheirParents) {
     CLog combo;
     ASSERT_TRUE(combo.Create("COMBOBOX", "", WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 1));
     HWND edit = ::GetWindow(combo.m_hWnd, GW_CHILD);
-    ASSERT_NE(nullptr, edit);
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(edit));
+    ASSERT_NE(edit, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(edit), nullptr);
     EXPECT_EQ(&combo, CWnd::FromHandlePermanent(combo.m_hWnd));
 }
 
@@ -127,7 +127,7 @@ TEST_F(Window, IsDestroyedByItsDestructor) {
     HWND window = child->m_hWnd;
     child.reset();
     EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
 }
 
 TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
@@ -135,8 +135,8 @@ TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
         ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, parent.m_hWnd, nullptr, nullptr, nullptr);
     CWnd* before = CWnd::FromHandle(plain);
     EXPECT_EQ(before, CWnd::FromHandle(plain)) << "one object for one window";
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
-    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
+    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
 
     class CAsker : public CWnd {
     public:
@@ -197,7 +197,7 @@ TEST_F(Window, SubclassedGetsItsProcedureBack) {
     CLog object;
     ASSERT_TRUE(object.SubclassWindow(edit));
     EXPECT_EQ(AfxGetAfxWndProc(), reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(edit, GWLP_WNDPROC)));
-    EXPECT_EQ(3, ::SendMessageA(edit, EM_LINELENGTH, 0, 0));
+    EXPECT_EQ(::SendMessageA(edit, EM_LINELENGTH, 0, 0), 3);
     EXPECT_TRUE(Contains(object.messages, EM_LINELENGTH));
     CLog second;
     EXPECT_FALSE(second.SubclassWindow(edit)) << "the window has an object";
@@ -205,11 +205,11 @@ TEST_F(Window, SubclassedGetsItsProcedureBack) {
     EXPECT_EQ(edit, object.UnsubclassWindow());
     EXPECT_EQ(before, ::GetWindowLongPtrA(edit, GWLP_WNDPROC));
     object.messages.clear();
-    EXPECT_EQ(3, ::SendMessageA(edit, EM_LINELENGTH, 0, 0));
+    EXPECT_EQ(::SendMessageA(edit, EM_LINELENGTH, 0, 0), 3);
     EXPECT_TRUE(object.messages.empty());
     ASSERT_TRUE(second.SubclassWindow(edit));
     ::DestroyWindow(edit);
-    EXPECT_EQ(nullptr, second.m_hWnd);
+    EXPECT_EQ(second.m_hWnd, nullptr);
     EXPECT_FALSE(object.SubclassWindow(edit)) << "no window";
 }
 
@@ -242,22 +242,22 @@ TEST_F(Window, OfAClassThatMakesObjectsGoesOnPlainlyWithoutOne) {
     list.hInstance = AfxGetInstanceHandle();
     list.lpfnWndProc = FirstMessage;
     const ATOM atom = ::RegisterClassA(&list);
-    ASSERT_NE(0, atom);
+    ASSERT_NE(atom, 0);
     AfxRegisterSuperWndProc(atom, CMade::super);
     const auto create = [&](UINT_PTR id) {
         return ::CreateWindowExA(0, "AfxTestList", "", WS_CHILD, 0, 0, 50, 50, parent.m_hWnd,
                                  reinterpret_cast<HMENU>(id), AfxGetInstanceHandle(), nullptr);
     };
     HWND withObject = create(1);
-    ASSERT_NE(nullptr, CMade::made);
+    ASSERT_NE(CMade::made, nullptr);
     EXPECT_EQ(CMade::made, CWnd::FromHandlePermanent(withObject));
-    EXPECT_EQ(static_cast<UINT>(WM_NCCREATE), CMade::made->messages.front());
+    EXPECT_EQ(CMade::made->messages.front(), static_cast<UINT>(WM_NCCREATE));
 
     HWND plain = create(2);
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
     for (HWND window : {withObject, plain}) {
-        EXPECT_EQ(0, ::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
-        EXPECT_EQ(1, ::SendMessageA(window, LB_GETCOUNT, 0, 0));
+        EXPECT_EQ(::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
+        EXPECT_EQ(::SendMessageA(window, LB_GETCOUNT, 0, 0), 1);
     }
     ::DestroyWindow(plain);
     ::DestroyWindow(withObject);
@@ -269,7 +269,7 @@ TEST_F(Window, LeftByItsObjectGoesOnByItsClass) {
     CWnd object;
     ASSERT_TRUE(object.Create("LISTBOX", "", WS_CHILD, kPlace, &parent, 1));
     HWND window = object.Detach();
-    EXPECT_EQ(0, ::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")));
+    EXPECT_EQ(::SendMessageA(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
     ::DestroyWindow(window);
 }
 
@@ -300,13 +300,13 @@ TEST_F(Window, PretranslatesFromTheInnermostOutwards) {
     MSG message = {};
     message.hwnd = inner.m_hWnd;
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_EQ(1, outer.asked);
+    EXPECT_EQ(outer.asked, 1);
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(inner.m_hWnd, &message));
-    EXPECT_EQ(1, outer.asked) << "stopped before it";
+    EXPECT_EQ(outer.asked, 1) << "stopped before it";
     inner.takes = TRUE;
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_EQ(1, outer.asked);
-    EXPECT_EQ(3, inner.asked);
+    EXPECT_EQ(outer.asked, 1);
+    EXPECT_EQ(inner.asked, 3);
 }
 
 TEST_F(Window, SetsATextOnlyIfItIsAnotherOne) {
@@ -318,7 +318,7 @@ TEST_F(Window, SetsATextOnlyIfItIsAnotherOne) {
     AfxSetWindowText(child.m_hWnd, "sane");
     EXPECT_TRUE(Contains(child.messages, WM_SETTEXT));
     AfxSetWindowText(child.m_hWnd, nullptr);
-    EXPECT_EQ(0, child.GetWindowTextLength());
+    EXPECT_EQ(child.GetWindowTextLength(), 0);
 }
 
 TEST_F(Window, IsCentredOnItsOwnerAndKeptOnTheScreen) {

@@ -43,22 +43,23 @@ TEST(AllOrNothing, ABadLastControlWritesNothingAndTheNextTryWritesEachOnce) {
         OverTwo over;
         GraphicKit& kit = over.kit;
         over.sheet.Add(over.numbers.Exchange());
-        EXPECT_EQ(IDOK, over.sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(over.sheet.Run([&](SheetDriver& user) {
             MessageBoxWatcher boxes;
             user.Type(kEdit, "5");
             user.Type(kOtherEdit, bad);
             user.Ok();
-            EXPECT_EQ(1u, boxes.Boxes().size());
+            EXPECT_EQ(boxes.Boxes().size(), 1u);
             EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
             EXPECT_EQ(user.Control(kOtherEdit), ::GetFocus());
-            EXPECT_EQ(0, kit.Writes());
+            EXPECT_EQ(kit.Writes(), 0);
             user.Type(kOtherEdit, "3");
             user.Ok();
-        }));
+        }),
+                  IDOK);
         for (size_t i : {0, 1}) {
-            EXPECT_EQ(5.0, kit[i].Number("Width"));
-            EXPECT_EQ(3.0, kit[i].Number("Scale"));
-            EXPECT_EQ(2u, kit[i].writes.size());
+            EXPECT_EQ(kit[i].Number("Width"), 5.0);
+            EXPECT_EQ(kit[i].Number("Scale"), 3.0);
+            EXPECT_EQ(kit[i].writes.size(), 2u);
         }
     }
 }
@@ -97,16 +98,17 @@ TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
         if (!refusal.onSet) kit[1].refused = "Width";
         over.sheet.Add(over.numbers.Exchange());
         MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, over.sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(over.sheet.Run([&](SheetDriver& user) {
             user.Type(kEdit, "5");
             user.Type(kOtherEdit, "3");
             user.Ok();
-        }));
+        }),
+                  IDOK);
         EXPECT_EQ(refusal.said, boxes.OnlyText());
         int arrived = 0;
         for (size_t i : {0, 1, 2}) {
             arrived += kit[i].Number("Width") == 5;
-            EXPECT_EQ(3, kit[i].Number("Scale"));
+            EXPECT_EQ(kit[i].Number("Scale"), 3);
         }
         EXPECT_EQ(refusal.arrived, arrived);
     }
@@ -117,9 +119,9 @@ TEST(WriteBack, StampsTheSelectionAlsoWhenNothingWasDirty) {
     GraphicStruct* bare = over.kit.AddWithoutTable();
     over.sheet.Add(over.numbers.Exchange());
     over.sheet.Run([&](SheetDriver& user) { user.Ok(); });
-    EXPECT_EQ(kTestPage, over.kit[0].graphic->wLastPage);
-    EXPECT_EQ(kTestPage, bare->wLastPage);
-    EXPECT_EQ(0, over.kit.Writes());
+    EXPECT_EQ(over.kit[0].graphic->wLastPage, kTestPage);
+    EXPECT_EQ(bare->wLastPage, kTestPage);
+    EXPECT_EQ(over.kit.Writes(), 0);
 }
 
 // A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out later,
@@ -145,8 +147,8 @@ TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
         EXPECT_TRUE(page.UpdateData(TRUE));
         user.Ok();
     });
-    EXPECT_EQ(1, over.kit[0].Number("Width"));
-    EXPECT_EQ(6, over.kit[0].Number("Scale"));
+    EXPECT_EQ(over.kit[0].Number("Width"), 1);
+    EXPECT_EQ(over.kit[0].Number("Scale"), 6);
 }
 
 } // namespace

@@ -112,19 +112,20 @@ TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
                 kind.exchange(pDX);
                 DDP_PostProcessing(pDX);
             });
-            EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
-                EXPECT_EQ(0, page.IsEdited(kind.id));
+            EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
+                EXPECT_EQ(page.IsEdited(kind.id), 0);
                 kind.away(user);
-                EXPECT_EQ(1, page.IsEdited(kind.id));
+                EXPECT_EQ(page.IsEdited(kind.id), 1);
                 if (back) kind.back(user);
-                EXPECT_EQ(1, page.GetControlStatus(kind.id)) << "the mark stays";
+                EXPECT_EQ(page.GetControlStatus(kind.id), 1) << "the mark stays";
                 EXPECT_EQ(!back, page.IsEdited(kind.id) != 0);
                 user.Ok();
-            }));
+            }),
+                      IDOK);
             EXPECT_EQ(back ? 0 : 2, kit.Writes());
             EXPECT_EQ(back, before == kit[0].properties);
             if (back && kind.id == kEdit) {
-                EXPECT_EQ(kThird, width) << "not what the text says";
+                EXPECT_EQ(width, kThird) << "not what the text says";
             }
             for (size_t i : {0, 1}) {
                 kit[i].properties = before;
@@ -152,9 +153,9 @@ TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
         user.Type(kOtherEdit, "");
         user.Ok();
     });
-    EXPECT_EQ(13, kit[0].Number("Bits"));
-    EXPECT_EQ(12, kit[1].Number("Bits"));
-    EXPECT_EQ(1u, kit[0].writes.size());
+    EXPECT_EQ(kit[0].Number("Bits"), 13);
+    EXPECT_EQ(kit[1].Number("Bits"), 12);
+    EXPECT_EQ(kit[0].writes.size(), 1u);
 }
 
 // Loading by the page itself and by the refresh command marks nothing, and the values keep all digits.
@@ -180,14 +181,14 @@ TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
             page->previewCalls.clear();
             byCommand ? page->Refresh() : void(page->UpdateData(FALSE));
             EXPECT_EQ(byCommand, page->previewCalls == std::vector<int>{1});
-            EXPECT_EQ(0, page->GetControlStatus(kEdit));
-            EXPECT_EQ(0, page->IsModified());
+            EXPECT_EQ(page->GetControlStatus(kEdit), 0);
+            EXPECT_EQ(page->IsModified(), 0);
         }
-        EXPECT_EQ("0.00680272", user.Text(kEdit));
+        EXPECT_EQ(user.Text(kEdit), "0.00680272");
         page->SetControlStatus(kEdit, 1); // and even then
         user.Ok();
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
     EXPECT_EQ(kThird / 7 / 7, width);
 }
 
@@ -211,11 +212,11 @@ TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
             };
             user.Type(kEdit, "5");
             save();
-            EXPECT_EQ(5, kit[0].Number("Width"));
+            EXPECT_EQ(kit[0].Number("Width"), 5);
             user.Type(kEdit, first);
             save();
             EXPECT_NEAR(kThird, kit[0].Number("Width"), 1e-6) << "typed, so another value now";
-            EXPECT_NE(5, kit[0].Number("Width"));
+            EXPECT_NE(kit[0].Number("Width"), 5);
         });
     }
 }
@@ -231,18 +232,19 @@ TEST_F(EditedControls, WithStarsForANumberWriteNothing) {
         DDV_MaxChars(1, pDX, text, 4);
         DDP_PostProcessing(pDX);
     });
-    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+    EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
         MessageBoxWatcher boxes;
         user.Type(kEdit, "5");
         user.Type(kOtherEdit, "*****");
         user.Ok();
-        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes().size(), 1u);
         user.Type(kEdit, "*****");
         user.Type(kOtherEdit, "****");
         user.Ok();
-    }));
-    EXPECT_EQ(kThird, kit[0].Number("Width"));
-    EXPECT_EQ("****", kit[0].Text("Text")) << "stars are a text like any other";
+    }),
+              IDOK);
+    EXPECT_EQ(kit[0].Number("Width"), kThird);
+    EXPECT_EQ(kit[0].Text("Text"), "****") << "stars are a text like any other";
 }
 
 } // namespace

@@ -53,11 +53,11 @@ TEST(CompareDoublesTest, ByBucketsBothWays) {
 
 TEST(CompareFloatsTest, RoundsAtSixtyFour) {
     const float one = 1.0f, same = WithBits(0x3F800040), next = WithBits(0x3F800041);
-    EXPECT_EQ(0, CompareFloats(&one, &same));
-    EXPECT_EQ(-1, CompareFloats(&one, &next));
+    EXPECT_EQ(CompareFloats(&one, &same), 0);
+    EXPECT_EQ(CompareFloats(&one, &next), -1);
     const float zero = 0.0f, nearly = WithBits(0x8000003F), more = WithBits(0x80000040);
-    EXPECT_EQ(0, CompareFloats(&zero, &nearly));
-    EXPECT_EQ(1, CompareFloats(&zero, &more));
+    EXPECT_EQ(CompareFloats(&zero, &nearly), 0);
+    EXPECT_EQ(CompareFloats(&zero, &more), 1);
 }
 
 // Over random bit patterns that are close to each other: antisymmetric, transitive, and never against the numeric order.
@@ -81,10 +81,10 @@ TEST(HexTest, EightDigitsAndANul) {
     char text[10];
     std::memset(text, 'x', sizeof text);
     DWord_to_Hex(255, text);
-    EXPECT_STREQ("000000FF", text);
-    EXPECT_EQ('x', text[9]);
+    EXPECT_STREQ(text, "000000FF");
+    EXPECT_EQ(text[9], 'x');
     DWord_to_Hex(0xFEDCBA98, text);
-    EXPECT_STREQ("FEDCBA98", text);
+    EXPECT_STREQ(text, "FEDCBA98");
 }
 
 } // namespace

@@ -47,11 +47,11 @@ TEST_F(Graphics, MergeToTheCommonValueOrTheMarker) {
         double width = -1;
         int check = -1;
         unsigned short pair[2];
-        EXPECT_EQ(1, Merge<Double>(set, "Any", &width));
+        EXPECT_EQ(Merge<Double>(set, "Any", &width), 1);
         EXPECT_EQ(row.width, width);
-        EXPECT_EQ(1, Merge<Check>(set, "Any", &check));
+        EXPECT_EQ(Merge<Check>(set, "Any", &check), 1);
         EXPECT_EQ(row.check, check);
-        EXPECT_EQ(1, MergeBits(set, "Any", pair));
+        EXPECT_EQ(MergeBits(set, "Any", pair), 1);
         EXPECT_EQ(row.mask, pair[0]);
         EXPECT_EQ(row.bits, pair[1]);
     }
@@ -62,48 +62,48 @@ TEST_F(Graphics, WithoutThePropertyNothingIsMerged) {
     for (MemoryGraphic& graphic : all.members)
         graphic.has = false;
     double width = -1;
-    EXPECT_EQ(0, Merge<Double>(set, "Any", &width));
-    EXPECT_EQ(0, Merge<Double>(ObjectSet(nullptr, 0, false), "Any", &width));
-    EXPECT_EQ(-1, width);
+    EXPECT_EQ(Merge<Double>(set, "Any", &width), 0);
+    EXPECT_EQ(Merge<Double>(ObjectSet(nullptr, 0, false), "Any", &width), 0);
+    EXPECT_EQ(width, -1);
     unsigned short pair[] = {9, 9};
-    EXPECT_EQ(0, MergeBits(set, "Any", pair));
-    EXPECT_EQ(0, pair[0]);
+    EXPECT_EQ(MergeBits(set, "Any", pair), 0);
+    EXPECT_EQ(pair[0], 0);
 }
 
 TEST_F(Graphics, ADifferenceEndsTheWalk) {
     Fill({}, {"wall", "wall", "door", "wall"});
     CString text;
-    EXPECT_EQ(1, MergeText(set, "Any", &text));
+    EXPECT_EQ(MergeText(set, "Any", &text), 1);
     EXPECT_TRUE(IsIndeterminate(text));
-    EXPECT_EQ(1, At(2).reads);
-    EXPECT_EQ(0, At(3).reads);
+    EXPECT_EQ(At(2).reads, 1);
+    EXPECT_EQ(At(3).reads, 0);
     At(2).text = "wall";
-    EXPECT_EQ(1, MergeText(set, "Any", &text));
-    EXPECT_STREQ("wall", text);
+    EXPECT_EQ(MergeText(set, "Any", &text), 1);
+    EXPECT_STREQ(text, "wall");
 }
 
 TEST_F(Graphics, AWriteTellsWhichKeepTheirValue) {
     Fill({1, 2, 3, 4});
-    EXPECT_EQ(0, Write<Double>(target, "Any", Indeterminate<double>::Value()));
+    EXPECT_EQ(Write<Double>(target, "Any", Indeterminate<double>::Value()), 0);
     At(1).refuses = true;
-    EXPECT_EQ(1, Write<Double>(target, "Any", 9));
-    EXPECT_EQ(9, At(0).number);
-    EXPECT_EQ(2, At(1).number);
-    EXPECT_EQ(std::set<const GraphicStruct*>{&At(1)}, unchanged);
+    EXPECT_EQ(Write<Double>(target, "Any", 9), 1);
+    EXPECT_EQ(At(0).number, 9);
+    EXPECT_EQ(At(1).number, 2);
+    EXPECT_EQ(unchanged, std::set<const GraphicStruct*>{&At(1)});
 
     unchanged.clear();
     At(2).throws = true;
     EXPECT_THROW(WriteText(target, "Any", "new"), std::runtime_error);
-    EXPECT_EQ("new", At(0).text);
-    EXPECT_EQ((std::set<const GraphicStruct*>{&At(1), &At(2), &At(3)}), unchanged);
+    EXPECT_EQ(At(0).text, "new");
+    EXPECT_EQ(unchanged, (std::set<const GraphicStruct*>{&At(1), &At(2), &At(3)}));
 }
 
 TEST_F(Graphics, BitsThatDifferStay) {
     Fill({0x11, 0x12});
     const unsigned short pair[] = {0x03, 0x20};
-    EXPECT_EQ(1, WriteBits(target, "Any", pair));
-    EXPECT_EQ(0x21, At(0).number);
-    EXPECT_EQ(0x22, At(1).number);
+    EXPECT_EQ(WriteBits(target, "Any", pair), 1);
+    EXPECT_EQ(At(0).number, 0x21);
+    EXPECT_EQ(At(1).number, 0x22);
 }
 
 void Nothing(CDataExchange*, int, void*, const char*) {}
@@ -124,7 +124,7 @@ TEST(Records, OfOneKeyAreAllKept) {
     std::set<int> ids;
     for (const CDDPRecord* record = chain.get(); record != nullptr; record = record->m_pNext)
         ids.insert(record->m_nID);
-    EXPECT_EQ((std::set<int>{1, 3, 4}), ids);
+    EXPECT_EQ(ids, (std::set<int>{1, 3, 4}));
 }
 
 } // namespace

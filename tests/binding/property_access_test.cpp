@@ -24,16 +24,16 @@ TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
     kit.Add({{kPropInfo, ""}, {"Name", "A"}});
     WithPage(kit, [&](ExchangePage& page) {
         CString text("before");
-        EXPECT_EQ(1, page.GetPropText(kPropInfo, &text, 0));
+        EXPECT_EQ(page.GetPropText(kPropInfo, &text, 0), 1);
         EXPECT_TRUE(text.IsEmpty());
-        EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
-        EXPECT_STREQ("\xFF", text);
-        EXPECT_EQ(0, page.SetPropText("Name", text, 0));
-        EXPECT_EQ(0, page.GetPropText("Nowhere", &text, 0));
-        EXPECT_STREQ("\xFF", text);
+        EXPECT_EQ(page.GetPropText("Name", &text, 0), 1);
+        EXPECT_STREQ(text, "\xFF");
+        EXPECT_EQ(page.SetPropText("Name", text, 0), 0);
+        EXPECT_EQ(page.GetPropText("Nowhere", &text, 0), 0);
+        EXPECT_STREQ(text, "\xFF");
         CString begun("\xFF and more"); // a letter of some code pages
-        EXPECT_EQ(1, page.SetPropText("Name", begun, 0));
-        EXPECT_EQ("\xFF and more", kit[1].Text("Name"));
+        EXPECT_EQ(page.SetPropText("Name", begun, 0), 1);
+        EXPECT_EQ(kit[1].Text("Name"), "\xFF and more");
     });
 }
 
@@ -43,19 +43,19 @@ TEST(Merge, ChecksFoldOnlyAsInt) {
     kit.Add({{"On", 5}});
     WithPage(kit, [&](ExchangePage& page) {
         int folded = -1;
-        EXPECT_EQ(1, page.GetPropCheck("On", &folded, 0));
-        EXPECT_EQ(1, folded);
+        EXPECT_EQ(page.GetPropCheck("On", &folded, 0), 1);
+        EXPECT_EQ(folded, 1);
         unsigned short plain = 0;
-        EXPECT_EQ(1, page.GetPropCheck("On", &plain, 0));
-        EXPECT_EQ(0xFFFF, plain);
+        EXPECT_EQ(page.GetPropCheck("On", &plain, 0), 1);
+        EXPECT_EQ(plain, 0xFFFF);
 
-        EXPECT_EQ(0, page.SetPropCheck("On", 3, 0));
-        EXPECT_EQ(0, page.SetPropCheck("On", static_cast<unsigned short>(0xFFFF), 0));
-        EXPECT_EQ(5, kit[1].Number("On"));
-        EXPECT_EQ(1, page.SetPropCheck("On", -1, 0));
-        EXPECT_EQ(0, kit[1].Number("On"));
-        EXPECT_EQ(1, page.SetPropCheck("On", static_cast<unsigned short>(2), 0));
-        EXPECT_EQ(2, kit[0].Number("On"));
+        EXPECT_EQ(page.SetPropCheck("On", 3, 0), 0);
+        EXPECT_EQ(page.SetPropCheck("On", static_cast<unsigned short>(0xFFFF), 0), 0);
+        EXPECT_EQ(kit[1].Number("On"), 5);
+        EXPECT_EQ(page.SetPropCheck("On", -1, 0), 1);
+        EXPECT_EQ(kit[1].Number("On"), 0);
+        EXPECT_EQ(page.SetPropCheck("On", static_cast<unsigned short>(2), 0), 1);
+        EXPECT_EQ(kit[0].Number("On"), 2);
     });
 }
 
@@ -65,7 +65,7 @@ TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
     kit.Add({{"Name", "b"}});
     WithPage(kit, [&](ExchangePage& page) {
         CString text;
-        EXPECT_EQ(1, page.GetPropText("Name", &text, 0));
+        EXPECT_EQ(page.GetPropText("Name", &text, 0), 1);
         const long before = kit.Blocks();
         kit[1].onGet = [] { AfxThrowUserException(); };
         try {
@@ -94,12 +94,12 @@ TEST(Walk, MarksWhatItReaches) {
         EXPECT_TRUE(kit[2].graphic->dwFlags & kFlagPreview);
 
         GraphicStruct* preview = page.GetPreviewGraphic();
-        ASSERT_NE(nullptr, preview);
+        ASSERT_NE(preview, nullptr);
         preview->dwFlags &= ~kFlagPreview;
         uint32_t position;
         EXPECT_EQ(preview, page.GetFirstObject(&position, 1));
         EXPECT_TRUE(preview->dwFlags & kFlagPreview);
-        EXPECT_EQ(nullptr, page.GetNextObject(&position, 1));
+        EXPECT_EQ(page.GetNextObject(&position, 1), nullptr);
     });
 }
 
@@ -110,16 +110,18 @@ TEST(Walk, ANullSelectionHasNoObjectsAndWritesNothing) {
         ::InitGraphicPropertySheet(nullptr, nullptr, kit.Drawing(), nullptr, 0));
     auto* page = new ExchangePage([](CDataExchange*) {});
     sheet->AddPage(page);
-    EXPECT_EQ(IDOK, SheetDriver().Run(*sheet, [&](SheetDriver& user) {
-        user.SelectPage(1);
-        uint32_t position;
-        EXPECT_EQ(nullptr, page->GetFirstObject(&position, 0));
-        double value = 3;
-        EXPECT_EQ(0, page->GetPropText("Width", &value, 0));
-        EXPECT_EQ(0, page->SetPropText("Width", value, 0));
-        EXPECT_EQ(3, value);
-        user.Ok();
-    }));
+    EXPECT_EQ(SheetDriver().Run(*sheet,
+                                [&](SheetDriver& user) {
+                                    user.SelectPage(1);
+                                    uint32_t position;
+                                    EXPECT_EQ(page->GetFirstObject(&position, 0), nullptr);
+                                    double value = 3;
+                                    EXPECT_EQ(page->GetPropText("Width", &value, 0), 0);
+                                    EXPECT_EQ(page->SetPropText("Width", value, 0), 0);
+                                    EXPECT_EQ(value, 3);
+                                    user.Ok();
+                                }),
+              IDOK);
 }
 
 } // namespace

@@ -51,16 +51,17 @@ TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
     TypeParam member{};
     TestSheet sheet(kit);
     sheet.Add(InEdit(member));
-    EXPECT_EQ(IDOK, sheet.Run([](SheetDriver& user) {
+    EXPECT_EQ(sheet.Run([](SheetDriver& user) {
         EXPECT_EQ(Sample<TypeParam>::Shown(), user.Text(kEdit));
         user.Type(kEdit, "42");
         user.Ok();
-    }));
+    }),
+              IDOK);
     for (size_t i : {0, 2}) {
         const KitValue expected = Sample<TypeParam>::A().text.empty() ? KitValue(42) : KitValue("42");
         EXPECT_EQ(expected.number, kit[i].properties[kName].number);
         EXPECT_EQ(expected.text, kit[i].properties[kName].text);
-        EXPECT_EQ(1u, kit[i].writes.size());
+        EXPECT_EQ(kit[i].writes.size(), 1u);
     }
     EXPECT_TRUE(kit[1].writes.empty());
 }
@@ -72,11 +73,12 @@ TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
     TypeParam member{};
     TestSheet sheet(kit);
     sheet.Add(InEdit(member));
-    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+    EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
         EXPECT_TRUE(IsIndeterminate(member));
         user.Ok();
-    }));
-    EXPECT_EQ(0, kit.Writes());
+    }),
+              IDOK);
+    EXPECT_EQ(kit.Writes(), 0);
     EXPECT_TRUE(kit[0].properties[kName] == Sample<TypeParam>::A());
     EXPECT_TRUE(kit[1].properties[kName] == Sample<TypeParam>::B());
 }
@@ -133,14 +135,14 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
     });
     sheet.Run([&](SheetDriver& user) {
         for (int id = kRadio; id < kRadio + 3; ++id)
-            EXPECT_EQ(0, user.Check(id)); // differing: none
+            EXPECT_EQ(user.Check(id), 0); // differing: none
         user.Click(kRadio + 2);
-        EXPECT_EQ(1, page.GetControlStatus(kRadio));
-        EXPECT_EQ(0, page.GetControlStatus(kRadio + 2));
+        EXPECT_EQ(page.GetControlStatus(kRadio), 1);
+        EXPECT_EQ(page.GetControlStatus(kRadio + 2), 0);
         user.Ok();
     });
-    EXPECT_EQ(2, kit[0].Number(kName));
-    EXPECT_EQ(2, kit[1].Number(kName));
+    EXPECT_EQ(kit[0].Number(kName), 2);
+    EXPECT_EQ(kit[1].Number(kName), 2);
 }
 
 } // namespace

@@ -14,27 +14,27 @@ class ForeignHost : public HostProcess, public ::testing::WithParamInterface<con
 TEST_F(CHost, OfTheGuideShowsTheTablesOfItsDrawing) {
     Start(std::string("c_host.exe") + kDrawing);
     const HWND sheet = Sheet();
-    ASSERT_NE(nullptr, sheet);
+    ASSERT_NE(sheet, nullptr);
     EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
-    EXPECT_EQ(0u, ExitCode());
+    EXPECT_EQ(ExitCode(), 0u);
 }
 
 TEST_P(ForeignHost, EditsThePenColorOverItsOwnWindow) {
     Start(std::string(GetParam()) + kDrawing);
     const HWND sheet = Sheet();
-    ASSERT_NE(nullptr, sheet) << ExitCode();
+    ASSERT_NE(sheet, nullptr) << ExitCode();
     const HWND owner = ::GetWindow(sheet, GW_OWNER);
     EXPECT_EQ(::FindWindowA("STATIC", "Host"), owner);
     EXPECT_FALSE(::IsWindowEnabled(owner));
-    EXPECT_EQ(0, Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT));
+    EXPECT_EQ(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 0);
 
     PressInTabs(sheet, VK_RIGHT);
     const HWND color = Visible(sheet, IDC_COLOR);
     EXPECT_GT(Ask(color, CB_GETCOUNT), 200);
     ::PostMessageA(color, WM_KEYDOWN, VK_DOWN, 1);
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
-    EXPECT_EQ(0u, ExitCode());
+    EXPECT_EQ(ExitCode(), 0u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Compilers, ForeignHost, ::testing::Values(FOREIGN_HOSTS));

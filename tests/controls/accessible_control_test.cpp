@@ -31,28 +31,28 @@ TEST_F(Spoken, NamesStandForTheKeysOfItems) {
     const uint16_t locked = AddLayer("Walls", kLayerLocked | kLayerOff);
     AddLayer("Doors", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers), locked);
-    EXPECT_EQ("Walls, hidden, locked", Of(IDC_LAYER).Value());
-    EXPECT_EQ(ROLE_SYSTEM_COMBOBOX, Of(IDC_LAYER).Role());
+    EXPECT_EQ(Of(IDC_LAYER).Value(), "Walls, hidden, locked");
+    EXPECT_EQ(Of(IDC_LAYER).Role(), ROLE_SYSTEM_COMBOBOX);
     const Accessible list = ListOf(IDC_LAYER);
     ASSERT_EQ(Get<CComboControl>(IDC_LAYER).GetCount(), list.Count());
-    EXPECT_EQ("Walls, hidden, locked", list.Name(list.Count() - 1));
-    EXPECT_EQ("Doors", list.Name(list.Count()));
-    EXPECT_EQ(ROLE_SYSTEM_LISTITEM, list.Role(1));
+    EXPECT_EQ(list.Name(list.Count() - 1), "Walls, hidden, locked");
+    EXPECT_EQ(list.Name(list.Count()), "Doors");
+    EXPECT_EQ(list.Role(1), ROLE_SYSTEM_LISTITEM);
 
     const int lists[] = {IDC_LINE_STYLE_LIST, IDC_BRUSH_STYLE_LIST};
     const char* const tables[] = {kTableLineStyles, kTableBrushStyles};
     for (const int i : {0, 1}) {
         Fill(lists[i], m_drawing.Table(tables[i]));
         const Accessible styles = Of(lists[i]);
-        EXPECT_EQ(ROLE_SYSTEM_LIST, styles.Role());
+        EXPECT_EQ(styles.Role(), ROLE_SYSTEM_LIST);
         ASSERT_LT(0, styles.Count());
         for (int item = 1; item <= styles.Count(); ++item) {
-            EXPECT_NE("", styles.Name(item));
+            EXPECT_NE(styles.Name(item), "");
             EXPECT_EQ(std::string::npos, styles.Name(item).find('\t')) << styles.Name(item);
         }
-        EXPECT_EQ("varied", styles.Value());
+        EXPECT_EQ(styles.Value(), "varied");
         styles.Select(2);
-        EXPECT_EQ(1, Get<CListControl>(lists[i]).GetCurSel());
+        EXPECT_EQ(Get<CListControl>(lists[i]).GetCurSel(), 1);
         EXPECT_EQ(styles.Name(2), styles.Value());
         EXPECT_TRUE(styles.State(2) & STATE_SYSTEM_SELECTED);
         EXPECT_FALSE(styles.State(1) & STATE_SYSTEM_SELECTED);
@@ -68,7 +68,7 @@ TEST_F(Spoken, AColorWithoutAnItemIsItsNumbers) {
         EXPECT_EQ(spoken, Of(IDC_COLOR).Value()) << color;
     }
     Fill(IDC_COLOR, nullptr, kColorNone);
-    EXPECT_EQ("", Of(IDC_COLOR).Value());
+    EXPECT_EQ(Of(IDC_COLOR).Value(), "");
 }
 
 TEST_F(Spoken, TextOfTheItemsStaysAsItIs) {
@@ -76,7 +76,7 @@ TEST_F(Spoken, TextOfTheItemsStaysAsItIs) {
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
     CString text;
     Get<CComboControl>(IDC_LAYER).GetLBText(0, text);
-    EXPECT_EQ('\t', text[8]);
+    EXPECT_EQ(text[8], '\t');
 }
 
 // The events of this thread.
@@ -119,17 +119,17 @@ TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
     CListControl& styles = Get<CListControl>(IDC_LINE_STYLE_LIST);
     const Events events;
     layers.SendMessage(WM_CHAR, 'w', 1);
-    EXPECT_EQ(1, events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF));
+    EXPECT_EQ(events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF), 1);
     layers.SetCurSel(0);
-    EXPECT_EQ(2, events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF));
+    EXPECT_EQ(events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF), 2);
     styles.SetCurSel(1);
-    EXPECT_EQ(1, events.Count(EVENT_OBJECT_SELECTION, styles.m_hWnd, 2));
+    EXPECT_EQ(events.Count(EVENT_OBJECT_SELECTION, styles.m_hWnd, 2), 1);
     CCheckListBox list;
     ASSERT_TRUE(
         list.Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     list.AddString("Walls", 1);
     list.ToggleItem(0);
-    EXPECT_EQ(2, events.Count(EVENT_OBJECT_STATECHANGE, list.m_hWnd, 1));
+    EXPECT_EQ(events.Count(EVENT_OBJECT_STATECHANGE, list.m_hWnd, 1), 2);
     list.DestroyWindow();
 }
 
@@ -140,17 +140,17 @@ TEST_F(Spoken, ACheckListHasCheckButtons) {
     list.AddString("Walls", 1);
     list.AddString("Doors", 0);
     const Accessible spoken(list.m_hWnd);
-    ASSERT_EQ(2, spoken.Count());
-    EXPECT_EQ("Doors", spoken.Name(2));
-    EXPECT_EQ(ROLE_SYSTEM_CHECKBUTTON, spoken.Role(1));
+    ASSERT_EQ(spoken.Count(), 2);
+    EXPECT_EQ(spoken.Name(2), "Doors");
+    EXPECT_EQ(spoken.Role(1), ROLE_SYSTEM_CHECKBUTTON);
     EXPECT_TRUE(spoken.State(1) & STATE_SYSTEM_CHECKED);
     EXPECT_FALSE(spoken.State(2) & STATE_SYSTEM_CHECKED);
-    EXPECT_EQ("Uncheck", spoken.DefaultAction(1));
+    EXPECT_EQ(spoken.DefaultAction(1), "Uncheck");
     spoken.DoDefaultAction(1);
-    EXPECT_EQ(0, list.IsItemChecked(0));
-    EXPECT_EQ("Check", spoken.DefaultAction(1));
+    EXPECT_EQ(list.IsItemChecked(0), 0);
+    EXPECT_EQ(spoken.DefaultAction(1), "Check");
     list.DestroyWindow();
-    EXPECT_EQ(0, spoken.Count()) << "the object outlives the window";
+    EXPECT_EQ(spoken.Count(), 0) << "the object outlives the window";
 }
 
 } // namespace

@@ -40,23 +40,23 @@ protected:
 };
 
 TEST_F(CheckList, KeepsTheFlagAsItWasGiven) {
-    EXPECT_EQ(0, m_list.AddString("off", 0));
-    EXPECT_EQ(1, m_list.AddString("seven", 7));
-    EXPECT_EQ(0, m_list.InsertString(0, "first", 1));
-    EXPECT_EQ(3, m_list.checks) << "through the virtual";
-    EXPECT_EQ(1, m_list.IsItemChecked(0));
-    EXPECT_EQ(0, m_list.IsItemChecked(1));
-    EXPECT_EQ(1, m_list.IsItemChecked(2));
-    EXPECT_EQ(7u, m_list.GetItemData(2));
+    EXPECT_EQ(m_list.AddString("off", 0), 0);
+    EXPECT_EQ(m_list.AddString("seven", 7), 1);
+    EXPECT_EQ(m_list.InsertString(0, "first", 1), 0);
+    EXPECT_EQ(m_list.checks, 3) << "through the virtual";
+    EXPECT_EQ(m_list.IsItemChecked(0), 1);
+    EXPECT_EQ(m_list.IsItemChecked(1), 0);
+    EXPECT_EQ(m_list.IsItemChecked(2), 1);
+    EXPECT_EQ(m_list.GetItemData(2), 7u);
     m_list.ToggleItem(2);
-    EXPECT_EQ(0u, m_list.GetItemData(2));
+    EXPECT_EQ(m_list.GetItemData(2), 0u);
     m_list.ToggleItem(2);
-    EXPECT_EQ(1u, m_list.GetItemData(2)) << "not the seven";
-    EXPECT_EQ(1, m_list.IsItemChecked(99)) << "of an item that does not exist the list box gives -1";
-    EXPECT_EQ(LB_ERR, m_list.InsertString(99, "nowhere", 1));
-    EXPECT_EQ(3, m_list.GetCount());
-    EXPECT_EQ(0, m_list.InvalidateItem(99, 0));
-    EXPECT_EQ(1, m_list.InvalidateItem(2, 0));
+    EXPECT_EQ(m_list.GetItemData(2), 1u) << "not the seven";
+    EXPECT_EQ(m_list.IsItemChecked(99), 1) << "of an item that does not exist the list box gives -1";
+    EXPECT_EQ(m_list.InsertString(99, "nowhere", 1), LB_ERR);
+    EXPECT_EQ(m_list.GetCount(), 3);
+    EXPECT_EQ(m_list.InvalidateItem(99, 0), 0);
+    EXPECT_EQ(m_list.InvalidateItem(2, 0), 1);
 }
 
 TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
@@ -64,32 +64,32 @@ TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
         m_list.AddString(name, 0);
     const int height = m_list.ItemHeight();
     Click(100, height + 3);
-    EXPECT_EQ(1, m_list.IsItemChecked(1));
-    EXPECT_EQ(1, m_list.GetCurSel());
+    EXPECT_EQ(m_list.IsItemChecked(1), 1);
+    EXPECT_EQ(m_list.GetCurSel(), 1);
     Click(5, height + 3);
-    EXPECT_EQ(0, m_list.IsItemChecked(1));
+    EXPECT_EQ(m_list.IsItemChecked(1), 0);
     Click(5, 3 * height + 3);
     for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(0, m_list.IsItemChecked(i)) << "below the last item";
-    EXPECT_EQ(3, m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 1));
-    EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 0));
-    EXPECT_EQ(-1, m_list.ItemFromPoint(CPoint(500, 3), 1));
+        EXPECT_EQ(m_list.IsItemChecked(i), 0) << "below the last item";
+    EXPECT_EQ(m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 1), 3);
+    EXPECT_EQ(m_list.ItemFromPoint(CPoint(5, 3 * height + 3), 0), -1);
+    EXPECT_EQ(m_list.ItemFromPoint(CPoint(500, 3), 1), -1);
 
     Click(5, 3);
     m_list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 3)); // the second of two quick ones
-    EXPECT_EQ(0, m_list.IsItemChecked(0));
+    EXPECT_EQ(m_list.IsItemChecked(0), 0);
 
     for (int i = 0; i < 20; ++i)
         m_list.AddString("more", 0);
     m_list.SendMessage(LB_SETTOPINDEX, 4, 0);
-    EXPECT_EQ(5, m_list.ItemFromPoint(CPoint(5, height + 3), 0)) << "a scrolled list";
+    EXPECT_EQ(m_list.ItemFromPoint(CPoint(5, height + 3), 0), 5) << "a scrolled list";
     m_list.SendMessage(LB_SETITEMHEIGHT, 0, 40);
-    EXPECT_EQ(5, m_list.ItemFromPoint(CPoint(5, 42), 0)) << "rows of the host's own height";
+    EXPECT_EQ(m_list.ItemFromPoint(CPoint(5, 42), 0), 5) << "rows of the host's own height";
 }
 
 TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
     m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // nothing there
-    EXPECT_EQ(0, m_list.checks) << "the current item is -1, which would mean all";
+    EXPECT_EQ(m_list.checks, 0) << "the current item is -1, which would mean all";
     for (const char* name : {"a", " b", "c"})
         m_list.AddString(name, 0);
     m_list.SetFocus();
@@ -100,11 +100,11 @@ TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
     };
     press(1);
     press(0x40000001); // held down
-    EXPECT_EQ(1, m_list.IsItemChecked(2));
-    EXPECT_EQ(2, m_list.GetCurSel()) << "a space is no first letter";
+    EXPECT_EQ(m_list.IsItemChecked(2), 1);
+    EXPECT_EQ(m_list.GetCurSel(), 2) << "a space is no first letter";
     press(1);
     for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(0, m_list.IsItemChecked(i)) << i;
+        EXPECT_EQ(m_list.IsItemChecked(i), 0) << i;
 }
 
 TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
@@ -123,24 +123,24 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
     m_list.AddString("off", 0);
     m_list.UpdateWindow(); // the picture is loaded now
     CRect on, off;
-    ASSERT_EQ(0, m_list.GetCheckRect(0, on));
-    ASSERT_EQ(0, m_list.GetCheckRect(1, off));
+    ASSERT_EQ(m_list.GetCheckRect(0, on), 0);
+    ASSERT_EQ(m_list.GetCheckRect(1, off), 0);
     EXPECT_EQ(CSize(12, 12), on.Size());
     EXPECT_EQ((m_list.ItemHeight() - 12) / 2, on.left);
-    EXPECT_EQ(-1, m_list.GetCheckRect(2, off));
+    EXPECT_EQ(m_list.GetCheckRect(2, off), -1);
     m_list.GetCheckRect(1, off);
 
     const COLORREF grey = RGB(0x80, 0x80, 0x80), black = RGB(0, 0, 0), white = RGB(255, 255, 255);
     for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
         Draw(0, ODA_DRAWENTIRE, state);
-        EXPECT_EQ(23, m_pixels.Count(on, grey)) << "the sunken edges";
+        EXPECT_EQ(m_pixels.Count(on, grey), 23) << "the sunken edges";
         EXPECT_LT(20, m_pixels.Count(on, black));
-        EXPECT_EQ(12 * 12, m_pixels.Count(on, grey) + m_pixels.Count(on, black) + m_pixels.Count(on, white));
+        EXPECT_EQ(m_pixels.Count(on, grey) + m_pixels.Count(on, black) + m_pixels.Count(on, white), 12 * 12);
         EXPECT_EQ(grey, m_pixels.At(on.left, on.top));
         Draw(1, ODA_DRAWENTIRE, state);
         const COLORREF window = ::GetSysColor(COLOR_WINDOW);
         EXPECT_LE(23, m_pixels.CountWhere(off, [=](COLORREF c) { return c != window; })) << "sunken as well";
-        EXPECT_EQ(8 * 8, m_pixels.Count({off.left + 2, off.top + 2, off.right - 2, off.bottom - 2}, window));
+        EXPECT_EQ(m_pixels.Count({off.left + 2, off.top + 2, off.right - 2, off.bottom - 2}, window), 8 * 8);
         const CRect text(40, off.top, 120, off.bottom);
         EXPECT_LT(200, m_pixels.Count(text, ::GetSysColor(state ? COLOR_HIGHLIGHT : COLOR_WINDOW)));
     }
@@ -152,7 +152,7 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
         Draw(0, ODA_DRAWENTIRE, ODS_FOCUS | ODS_SELECTED);
     EXPECT_EQ(objects, GdiObjectCount());
     Draw(0, 0, 0);
-    EXPECT_EQ(120 * 90, m_pixels.Count({0, 0, 120, 90}, DrawnPixels::kUntouched))
+    EXPECT_EQ(m_pixels.Count({0, 0, 120, 90}, DrawnPixels::kUntouched), 120 * 90)
         << "an action of 0 draws nothing";
 }
 

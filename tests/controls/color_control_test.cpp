@@ -18,7 +18,7 @@ protected:
     // The table keeps the address of the colour.
     void Add(const std::string& name, DWORD color) {
         m_colors.push_back(std::make_unique<DWORD>(color));
-        ASSERT_NE(0, TableEntryAdd(m_table, name.c_str(), m_colors.back().get()));
+        ASSERT_NE(TableEntryAdd(m_table, name.c_str(), m_colors.back().get()), 0);
     }
     void FillColors(DWORD selected = kColorNone) { Fill(IDC_COLOR, m_table, selected); }
     std::vector<std::string> Items() {
@@ -52,7 +52,7 @@ TEST_F(ColorControl, ListsColorsInTheirOrderAndLaterOnesOfAColorFirst) {
     const std::vector<std::string> expected = {"00000000\tBlack", "00FFFFFF\tWhite", "00FF0000\tAlso blue",
                                                "00FF0000\tBlue", "000000FF\tRed"};
     EXPECT_EQ(expected, Items());
-    EXPECT_EQ(2, m_control.GetCurSel());
+    EXPECT_EQ(m_control.GetCurSel(), 2);
 }
 
 // The list that one sorting makes is the list that inserting one after the other makes.
@@ -63,7 +63,7 @@ TEST_F(ColorControl, SortingIsInsertingOneByOne) {
     m_control.m_bExtraEntries = 0;
     FillColors();
     const std::vector<std::string> sorted = Items();
-    ASSERT_EQ(400u, sorted.size());
+    ASSERT_EQ(sorted.size(), 400u);
 
     m_control.ResetContent();
     for (size_t i = 0; i < m_colors.size(); ++i) {
@@ -78,9 +78,9 @@ TEST_F(ColorControl, AnItemIsInsertedAheadOfTheExtraEntriesWhereItBelongs) {
     Add("Dark", RGB(10, 10, 10));
     Add("Light", RGB(200, 200, 200));
     FillColors();
-    EXPECT_EQ(1, m_control.AddControlItem("00808080\tMiddle"));
-    EXPECT_EQ(RGB(0x80, 0x80, 0x80), Color(1));
-    EXPECT_EQ(0, m_control.AddControlItem("000A0A0A\tDark again")) << "ahead of its equal";
+    EXPECT_EQ(m_control.AddControlItem("00808080\tMiddle"), 1);
+    EXPECT_EQ(Color(1), RGB(0x80, 0x80, 0x80));
+    EXPECT_EQ(m_control.AddControlItem("000A0A0A\tDark again"), 0) << "ahead of its equal";
 }
 
 TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
@@ -95,7 +95,7 @@ TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
         if (row.count == 1) continue;
         char name[kItemTextSize], host[128] = "";
         DrawCoreLoadString(kStringByLayer, host, sizeof host);
-        EXPECT_EQ(kColorByLayer, m_control.GetControlItem(1, name));
+        EXPECT_EQ(m_control.GetControlItem(1, name), kColorByLayer);
         EXPECT_STREQ(host, name);
         EXPECT_EQ(row.last ? kColorOfPen : 0u, Color(2));
     }
@@ -104,12 +104,12 @@ TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
 TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     Add("Red", RGB(255, 0, 0));
     m_control.AddString("FFFFFFFF\tnever found");
-    EXPECT_EQ(-1, m_control.FindColor(kColorIndeterminate));
+    EXPECT_EQ(m_control.FindColor(kColorIndeterminate), -1);
     FillColors(kColorIndeterminate);
-    EXPECT_EQ(-1, m_control.GetCurSel());
+    EXPECT_EQ(m_control.GetCurSel(), -1);
     FillColors(RGB(1, 2, 3));
-    EXPECT_EQ(-1, m_control.GetCurSel());
-    EXPECT_EQ(RGB(1, 2, 3), m_control.m_nSelected);
+    EXPECT_EQ(m_control.GetCurSel(), -1);
+    EXPECT_EQ(m_control.m_nSelected, RGB(1, 2, 3));
 }
 
 // A class of the host that decides what is listed.
@@ -131,10 +131,10 @@ TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
         filtered.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     const ControlFillRecord record = {m_table, 0, 0};
     filtered.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
-    ASSERT_EQ(2, filtered.GetCount());
+    ASSERT_EQ(filtered.GetCount(), 2);
     CString first;
     filtered.GetLBText(0, first);
-    EXPECT_EQ("00090909\tgrey", std::string(first));
+    EXPECT_EQ(std::string(first), "00090909\tgrey");
 }
 
 // ---- Drawing, by pixel
@@ -175,16 +175,16 @@ TEST_F(Swatch, ColorFillsTheRowAndTheNameContrasts) {
         EXPECT_EQ(row.color, m_pixels.At(1, 21));
         EXPECT_EQ(row.color, m_pixels.At(98, 34));
         EXPECT_LT(10, m_pixels.Count(Middle(kRow), row.text)) << std::hex << row.color;
-        EXPECT_EQ(kUntouched, m_pixels.At(50, 19));
-        EXPECT_EQ(kUntouched, m_pixels.At(50, 36));
+        EXPECT_EQ(m_pixels.At(50, 19), kUntouched);
+        EXPECT_EQ(m_pixels.At(50, 36), kUntouched);
     }
 }
 
 TEST_F(Swatch, NameStandsInTheMiddleAndBeginsAtTheLeftIfTooWide) {
     DrawOnly(RGB(250, 250, 0), "II");
     const RECT left = {0, 20, 40, 36}, right = {60, 20, 100, 36};
-    EXPECT_EQ(0, m_pixels.Count(left, kBlack));
-    EXPECT_EQ(0, m_pixels.Count(right, kBlack));
+    EXPECT_EQ(m_pixels.Count(left, kBlack), 0);
+    EXPECT_EQ(m_pixels.Count(right, kBlack), 0);
     DrawOnly(RGB(250, 250, 0), "IWWWWWWWWWWWWWWWWWWWWWWWW");
     const RECT start = {0, 20, 8, 36};
     EXPECT_LT(0, m_pixels.Count(start, kBlack));
@@ -193,19 +193,19 @@ TEST_F(Swatch, NameStandsInTheMiddleAndBeginsAtTheLeftIfTooWide) {
 TEST_F(Swatch, WhiteHasABlackFrame) {
     DrawOnly(kWhite, "");
     for (const POINT at : {POINT{50, 21}, POINT{50, 33}, POINT{97, 28}})
-        EXPECT_EQ(kBlack, m_pixels.At(at.x, at.y)) << at.x << "," << at.y;
-    EXPECT_EQ(kUntouched, m_pixels.At(50, 19)) << "within its row";
+        EXPECT_EQ(m_pixels.At(at.x, at.y), kBlack) << at.x << "," << at.y;
+    EXPECT_EQ(m_pixels.At(50, 19), kUntouched) << "within its row";
     DrawOnly(kWhite, "", kField);
-    EXPECT_EQ(kBlack, m_pixels.At(50, 19)) << "over the border of the field";
-    EXPECT_EQ(kWhite, m_pixels.At(50, 28));
+    EXPECT_EQ(m_pixels.At(50, 19), kBlack) << "over the border of the field";
+    EXPECT_EQ(m_pixels.At(50, 28), kWhite);
 }
 
 TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
     DrawOnly(kColorByLayer, "");
     char host[128] = "";
     ASSERT_LT(0, DrawCoreLoadString(kStringByLayer, host, sizeof host));
-    EXPECT_EQ(kBlack, m_pixels.At(50, 21)) << "frame inside the row";
-    EXPECT_EQ(kWhite, m_pixels.At(50, 20));
+    EXPECT_EQ(m_pixels.At(50, 21), kBlack) << "frame inside the row";
+    EXPECT_EQ(m_pixels.At(50, 20), kWhite);
     const RECT inside = {3, 23, 97, 33};
     EXPECT_LT(5, m_pixels.Count(inside, kBlack)) << "the host's text";
 }
@@ -213,14 +213,14 @@ TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
 TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
     FillColors(0x00123456);
     Draw(-1, kField);
-    EXPECT_EQ(RGB(0x56, 0x34, 0x12), m_pixels.At(12, 22));
+    EXPECT_EQ(m_pixels.At(12, 22), RGB(0x56, 0x34, 0x12));
     EXPECT_LT(10, m_pixels.Count(Middle(kField), kWhite)) << "its numbers";
-    EXPECT_EQ(kWhite, m_pixels.At(50, 18)) << "the border of the field is covered";
-    EXPECT_EQ(kUntouched, m_pixels.At(50, 17));
+    EXPECT_EQ(m_pixels.At(50, 18), kWhite) << "the border of the field is covered";
+    EXPECT_EQ(m_pixels.At(50, 17), kUntouched);
     for (const DWORD none : {kColorNone, kColorIndeterminate}) {
         FillColors(none);
         Draw(-1, kField);
-        EXPECT_EQ(100 * 16, m_pixels.Count(kField, kWhite)) << "empty without a value";
+        EXPECT_EQ(m_pixels.Count(kField, kWhite), 100 * 16) << "empty without a value";
     }
 }
 
@@ -230,7 +230,7 @@ TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
     FillColors(kColorIndeterminate);
     Draw(-1, kField);
-    EXPECT_EQ(100 * 16, m_pixels.Count(kField, kBlack));
+    EXPECT_EQ(m_pixels.Count(kField, kBlack), 100 * 16);
     DrawOnly(kColorByLayer, "");
     EXPECT_LT(100, m_pixels.Count(kRow, yellow)) << "the label";
     DrawOnly(kWhite, "MMMM");
@@ -255,8 +255,8 @@ TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColour) {
             << "and without the mark where it has gone on";
     }
     Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
-    EXPECT_NE(100 * 16, m_pixels.Count(kRow, kUntouched)) << "the focus rectangle alone";
-    EXPECT_EQ(kUntouched, m_pixels.At(50, 28));
+    EXPECT_NE(m_pixels.Count(kRow, kUntouched), 100 * 16) << "the focus rectangle alone";
+    EXPECT_EQ(m_pixels.At(50, 28), kUntouched);
 }
 
 TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {
@@ -276,8 +276,8 @@ TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {
             Draw(item, kRow, ODA_DRAWENTIRE, ODS_FOCUS);
     }
     EXPECT_EQ(objects, GdiObjectCount());
-    EXPECT_EQ(RGB(9, 8, 7), ::GetTextColor(dc));
-    EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
+    EXPECT_EQ(::GetTextColor(dc), RGB(9, 8, 7));
+    EXPECT_EQ(::GetBkMode(dc), OPAQUE);
     EXPECT_EQ(before[0], ::GetCurrentObject(dc, OBJ_PEN));
     EXPECT_EQ(before[1], ::GetCurrentObject(dc, OBJ_BRUSH));
     EXPECT_EQ(before[2], ::GetCurrentObject(dc, OBJ_FONT));

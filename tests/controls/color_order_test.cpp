@@ -48,7 +48,7 @@ TEST(HsvValues, OutOfRangeGiveColorsInRange) {
         for (const double s : wild) {
             double r = 9, g = 9, b = 9;
             HSV_to_RGB(h, s, 0.0, &r, &g, &b);
-            EXPECT_EQ(0.0, r + g + b);
+            EXPECT_EQ(r + g + b, 0.0);
             HSV_to_RGB(h, 0.5, s, &r, &g, &b);
             EXPECT_FALSE(r > 1 || g > 1 || b > 1 || r < 0 || g < 0 || b < 0);
         }

@@ -39,7 +39,7 @@ TEST_F(Factory, TheIdentifierChoosesTheObject) {
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
     for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
         EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
-    EXPECT_EQ(1, Get<CColorControl>(IDC_COLOR_4).m_bExtraEntries);
+    EXPECT_EQ(Get<CColorControl>(IDC_COLOR_4).m_bExtraEntries, 1);
     const struct {
         unsigned kind; // and the identifier of its first control
         const CRuntimeClass* object;
@@ -55,12 +55,12 @@ TEST_F(Factory, TheIdentifierChoosesTheObject) {
         EXPECT_EQ(row.kind, KindOf(static_cast<int>(row.kind)));
     }
     EXPECT_EQ(RUNTIME_CLASS(CFontFaceControl), ClassOf(32022));
-    EXPECT_EQ(kControlLineStyleCombo, KindOf(32020)) << "the kind, not the identifier";
+    EXPECT_EQ(KindOf(32020), kControlLineStyleCombo) << "the kind, not the identifier";
 }
 
 TEST_F(Factory, OtherIdentifiersStayPlainControls) {
-    EXPECT_EQ(nullptr, ClassOf(IDC_PLAIN_COMBO));
-    EXPECT_EQ(nullptr, ClassOf(IDC_PLAIN_LIST));
+    EXPECT_EQ(ClassOf(IDC_PLAIN_COMBO), nullptr);
+    EXPECT_EQ(ClassOf(IDC_PLAIN_LIST), nullptr);
     const HWND combo = Control(IDC_PLAIN_COMBO), list = Control(IDC_PLAIN_LIST);
     for (const char* item : {"one", "two"}) {
         ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
@@ -70,22 +70,22 @@ TEST_F(Factory, OtherIdentifiersStayPlainControls) {
     ::SendMessageA(list, LB_SETCURSEL, 1, 0);
     char text[16] = "";
     ::GetWindowTextA(combo, text, sizeof text);
-    EXPECT_STREQ("two", text);
-    EXPECT_EQ(1, ::SendMessageA(list, LB_GETCURSEL, 0, 0));
+    EXPECT_STREQ(text, "two");
+    EXPECT_EQ(::SendMessageA(list, LB_GETCURSEL, 0, 0), 1);
 
     CComboBox object; // a dialog may attach an object of its own
     ASSERT_TRUE(object.SubclassWindow(combo));
-    EXPECT_EQ(2, object.GetCount());
+    EXPECT_EQ(object.GetCount(), 2);
     object.UnsubclassWindow();
-    EXPECT_EQ(2, ::SendMessageA(combo, CB_GETCOUNT, 0, 0));
+    EXPECT_EQ(::SendMessageA(combo, CB_GETCOUNT, 0, 0), 2);
 }
 
 TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
-    EXPECT_EQ(22, m_host.Count(kControlReady));
+    EXPECT_EQ(m_host.Count(kControlReady), 22);
     for (const HostWindow::Notification& n : m_host.notifications)
         EXPECT_EQ(KindOf(::GetDlgCtrlID(n.control)), n.kind);
     m_dialog.DestroyWindow();
-    EXPECT_EQ(22, m_host.Count(kControlGone));
+    EXPECT_EQ(m_host.Count(kControlGone), 22);
 }
 
 TEST(ControlLife, WithoutAnApplicationWindowNobodyIsTold) {
@@ -105,7 +105,7 @@ TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
             ASSERT_TRUE(dialog.Create(IDD_FACTORY));
             const HWND colors = ::GetDlgItem(dialog.m_hWnd, IDC_COLOR);
             dialog.DestroyWindow();
-            EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(colors));
+            EXPECT_EQ(CWnd::FromHandlePermanent(colors), nullptr);
         }
     }
     DrawCoreGetCensus(&after);
@@ -123,7 +123,7 @@ TEST(ControlLife, ObjectsOfAProgramStay) {
     EXPECT_EQ(static_cast<unsigned long>(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
               colors.m_dwStyle & ~WS_CLIPSIBLINGS);
     colors.DestroyWindow();
-    EXPECT_EQ(nullptr, colors.m_hWnd);
+    EXPECT_EQ(colors.m_hWnd, nullptr);
     ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &host, 1))
         << "and can be used again";
     colors.DialogCtrl(0);
@@ -139,11 +139,11 @@ TEST(ControlLife, TheFrameworkMakesControlsByName) {
     for (CRuntimeClass* const made : {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC),
                                       RUNTIME_CLASS(CLineStyleControlL)}) {
         CObject* const object = made->CreateObject();
-        ASSERT_NE(nullptr, object);
+        ASSERT_NE(object, nullptr);
         EXPECT_EQ(made, object->GetRuntimeClass());
         delete object;
     }
-    EXPECT_EQ(nullptr, RUNTIME_CLASS(CComboControl)->m_pfnCreateObject) << "a base is not made by name";
+    EXPECT_EQ(RUNTIME_CLASS(CComboControl)->m_pfnCreateObject, nullptr) << "a base is not made by name";
 }
 
 // One by its class, one that the exchange takes over and fills from, both on a page of the program's.
@@ -174,19 +174,22 @@ TEST(ControlLife, AWizardsPageHasThemToo) {
     wizard.AddPage(&page);
     wizard.AddPage(&last);
     constexpr int kNext = 101;
-    EXPECT_EQ(IDOK, SheetDriver().Run(wizard, [&](SheetDriver& user) {
-        const CWnd* control = CWnd::FromHandlePermanent(user.Control(IDC_LAYER));
-        ASSERT_TRUE(control != nullptr && control->IsKindOf(RUNTIME_CLASS(CLayerControl)));
-        EXPECT_EQ(layers, static_cast<const CLayerControl*>(control)->m_pTable);
-        EXPECT_EQ(user.Control(IDC_TAKEN_OVER), page.colors.m_hWnd);
-        EXPECT_EQ(layers, page.colors.m_pTable);
-        EXPECT_EQ(2, host.Count(kControlReady));
-        EXPECT_EQ(0, user.Selection(IDC_LAYER)) << "filled before the page shows its values";
-        user.Choose(IDC_LAYER, 1);
-        user.ClickSheetButton(kNext);
-        user.ClickSheetButton(kNext);
-    }));
-    EXPECT_EQ(2u, page.layer);
+    EXPECT_EQ(SheetDriver().Run(
+                  wizard,
+                  [&](SheetDriver& user) {
+                      const CWnd* control = CWnd::FromHandlePermanent(user.Control(IDC_LAYER));
+                      ASSERT_TRUE(control != nullptr && control->IsKindOf(RUNTIME_CLASS(CLayerControl)));
+                      EXPECT_EQ(layers, static_cast<const CLayerControl*>(control)->m_pTable);
+                      EXPECT_EQ(user.Control(IDC_TAKEN_OVER), page.colors.m_hWnd);
+                      EXPECT_EQ(layers, page.colors.m_pTable);
+                      EXPECT_EQ(host.Count(kControlReady), 2);
+                      EXPECT_EQ(user.Selection(IDC_LAYER), 0) << "filled before the page shows its values";
+                      user.Choose(IDC_LAYER, 1);
+                      user.ClickSheetButton(kNext);
+                      user.ClickSheetButton(kNext);
+                  }),
+              IDOK);
+    EXPECT_EQ(page.layer, 2u);
 }
 
 } // namespace

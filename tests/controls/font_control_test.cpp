@@ -91,7 +91,7 @@ TEST_F(Fonts, FacesAreTheTrueTypeFacesOfTheSystemSortedAndOnce) {
     EXPECT_EQ(installed.size(), texts.size()) << "each once";
     for (size_t i = 1; i < texts.size(); ++i)
         EXPECT_GE(0, ::lstrcmpiA(texts[i - 1].c_str(), texts[i].c_str()));
-    EXPECT_EQ(0u, installed.count("System")) << "bitmap fonts are not offered";
+    EXPECT_EQ(installed.count("System"), 0u) << "bitmap fonts are not offered";
 }
 
 TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
@@ -108,7 +108,7 @@ TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
     for (const unsigned none : {0u, 0xFFFFu}) {
         FillFaces("Nobody's Face", none);
         EXPECT_EQ(installed, m_faces.GetCount());
-        EXPECT_EQ(-1, m_faces.GetCurSel());
+        EXPECT_EQ(m_faces.GetCurSel(), -1);
     }
     FillFrom(nullptr, m_faces);
     EXPECT_EQ(installed, m_faces.GetCount()) << "faces need no table";
@@ -118,18 +118,18 @@ TEST_F(Fonts, SizesInTheWorldAreNumbersOfTheDrawing) {
     TableSetStringVar(Units(), kUnitDrawing, "cm");
     FillSizes(5.0f);
     const double expected[] = {2.5, 3.5, 5};
-    ASSERT_EQ(3, m_sizes.GetCount()) << "a size that comes twice stands once, and 5 is in the list";
+    ASSERT_EQ(m_sizes.GetCount(), 3) << "a size that comes twice stands once, and 5 is in the list";
     for (size_t i = 0; i < 3; ++i)
         EXPECT_NEAR(expected[i], HeightOf(Texts(m_sizes)[i].c_str()), 1e-9);
     EXPECT_EQ(Texts(m_sizes)[2], Shown());
-    EXPECT_EQ(-1, m_sizes.GetCurSel()) << "a closed combo shows the height without selecting an item";
+    EXPECT_EQ(m_sizes.GetCurSel(), -1) << "a closed combo shows the height without selecting an item";
 
     FillSizes(7.0f);
-    ASSERT_EQ(4, m_sizes.GetCount());
+    ASSERT_EQ(m_sizes.GetCount(), 4);
     EXPECT_EQ(Texts(m_sizes)[3], Shown()) << "a height that is in no list joins at the end";
     m_sizes.ShowDropDown(TRUE);
     FillSizes(7.0f);
-    EXPECT_EQ(3, m_sizes.GetCurSel()) << "in the open list it is selected";
+    EXPECT_EQ(m_sizes.GetCurSel(), 3) << "in the open list it is selected";
     m_sizes.ShowDropDown(FALSE);
 }
 
@@ -142,26 +142,26 @@ TEST_F(Fonts, WithoutASizeOrAFontNothingIsShown) {
     } rows[] = {{0.0f, 1}, {5.0f, 0}, {5.0f, kEntryIndeterminate}};
     for (const auto& row : rows) {
         FillSizes(row.size, row.selected);
-        EXPECT_EQ(3, m_sizes.GetCount());
-        EXPECT_EQ(-1, m_sizes.GetCurSel());
+        EXPECT_EQ(m_sizes.GetCount(), 3);
+        EXPECT_EQ(m_sizes.GetCurSel(), -1);
     }
     EXPECT_LE(3, listed);
     TableSetStringVar(Units(), kUnitFontName, "");
     FillSizes(5.0f);
-    EXPECT_EQ(0, m_sizes.GetCount());
+    EXPECT_EQ(m_sizes.GetCount(), 0);
     EXPECT_EQ(m_drawing.Get(), m_sizes.m_pDrawing) << "heights can be converted all the same";
 }
 
 TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
     FillSizes(0.0f);
-    EXPECT_EQ(1, FillSizesOf("DejaVu Serif"));
-    EXPECT_EQ(3, m_sizes.GetCount());
+    EXPECT_EQ(FillSizesOf("DejaVu Serif"), 1);
+    EXPECT_EQ(m_sizes.GetCount(), 3);
     FillSizesOf("Nobody's Face");
-    EXPECT_EQ(0, m_sizes.GetCount());
+    EXPECT_EQ(m_sizes.GetCount(), 0);
     for (const char* none : {"", static_cast<const char*>(nullptr)}) {
         FillSizesOf("DejaVu Serif");
-        EXPECT_EQ(1, FillSizesOf(none));
-        EXPECT_EQ(0, m_sizes.GetCount());
+        EXPECT_EQ(FillSizesOf(none), 1);
+        EXPECT_EQ(m_sizes.GetCount(), 0);
     }
     FillSizesOf("System");
     ASSERT_LE(1, m_sizes.GetCount()) << "a bitmap font has the sizes that it has";
@@ -177,44 +177,44 @@ TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
 TEST_F(Fonts, ATextThatIsNoHeightLeavesTheValue) {
     FillSizes(0.0f);
     for (const char* text : {"", "high", "5 mm x", "1e999"})
-        EXPECT_EQ(77.0, HeightOf(text)) << text;
+        EXPECT_EQ(HeightOf(text), 77.0) << text;
     m_sizes.m_nCoordSpace = 2;
-    EXPECT_EQ(77.0, HeightOf("5")) << "a device has no lengths";
+    EXPECT_EQ(HeightOf("5"), 77.0) << "a device has no lengths";
 }
 
 TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
     ASSERT_TRUE(DrawingSetCoordSpace(m_drawing.Get(), 2)); // a device has no lengths
     FillSizes(5.0f);
     for (const std::string& text : Texts(m_sizes))
-        EXPECT_NE("", text);
-    EXPECT_EQ(-1, m_sizes.GetCurSel());
-    EXPECT_EQ("", Shown());
+        EXPECT_NE(text, "");
+    EXPECT_EQ(m_sizes.GetCurSel(), -1);
+    EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(Fonts, NothingIsKeptOfADrawingThatIsTakenAway) {
     FillSizes(5.0f);
     FillFrom(nullptr, m_sizes);
     m_drawing.Close();
-    EXPECT_EQ(nullptr, m_sizes.m_pDrawing);
-    EXPECT_EQ(77.0, HeightOf("5"));
+    EXPECT_EQ(m_sizes.m_pDrawing, nullptr);
+    EXPECT_EQ(HeightOf("5"), 77.0);
     CString text("before");
     m_sizes.FontSizeText(5.0, text);
     EXPECT_TRUE(text.IsEmpty());
     FillSizesOf("DejaVu Serif");
-    EXPECT_EQ(0, m_sizes.GetCount());
+    EXPECT_EQ(m_sizes.GetCount(), 0);
 }
 
 TEST_F(Fonts, TheIdentifierChoosesTheList) {
     CComboBox combo;
     const DWORD style = WS_CHILD | CBS_DROPDOWNLIST;
     ASSERT_TRUE(combo.CWnd::Create("ComboBox", "", style, CRect(0, 0, 100, 100), &m_host, IDC_FONT_STYLE));
-    EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
-    EXPECT_EQ((std::vector<std::string>{"Regular", "Italic", "Bold", "Bold Italic"}), Texts(combo));
+    EXPECT_EQ(FillFontDropDown(combo.m_hWnd, 0), 0);
+    EXPECT_EQ(Texts(combo), (std::vector<std::string>{"Regular", "Italic", "Bold", "Bold Italic"}));
     ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, 77);
-    EXPECT_EQ(0, FillFontDropDown(combo.m_hWnd, 0));
-    EXPECT_EQ(0, combo.GetCount()) << "emptied";
+    EXPECT_EQ(FillFontDropDown(combo.m_hWnd, 0), 0);
+    EXPECT_EQ(combo.GetCount(), 0) << "emptied";
     ::SetWindowLongPtrA(combo.m_hWnd, GWLP_ID, IDC_FONT_FACE_2);
-    EXPECT_EQ(1, FillFontDropDown(combo.m_hWnd, reinterpret_cast<LPARAM>(&combo)));
+    EXPECT_EQ(FillFontDropDown(combo.m_hWnd, reinterpret_cast<LPARAM>(&combo)), 1);
     EXPECT_LT(2, combo.GetCount());
     combo.DestroyWindow();
 }
@@ -253,7 +253,7 @@ TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
     m_dialog.ShowWindow(SW_SHOW);
     m_host.ShowWindow(SW_SHOW);
     const HWND edit = ::GetDlgItem(m_sizes.m_hWnd, 1001);
-    ASSERT_NE(nullptr, edit);
+    ASSERT_NE(edit, nullptr);
     EXPECT_EQ(&m_sizes.m_editSize, CWnd::FromHandlePermanent(edit));
     ::SetFocus(edit);
     m_host.notifications.clear();
@@ -261,9 +261,9 @@ TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
     EXPECT_TRUE(m_host.notifications.empty());
     EXPECT_EQ(edit, ::GetFocus());
     ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1);
-    ASSERT_EQ(1u, m_host.notifications.size());
-    EXPECT_EQ(kControlFontSizes, m_host.notifications[0].kind);
-    EXPECT_EQ(static_cast<unsigned>(CBN_SELENDOK), m_host.notifications[0].code);
+    ASSERT_EQ(m_host.notifications.size(), 1u);
+    EXPECT_EQ(m_host.notifications[0].kind, kControlFontSizes);
+    EXPECT_EQ(m_host.notifications[0].code, static_cast<unsigned>(CBN_SELENDOK));
     EXPECT_EQ(m_sizes.m_hWnd, m_host.notifications[0].control);
     EXPECT_EQ(m_host.m_hWnd, ::GetFocus());
 

@@ -59,7 +59,7 @@ TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
             EXPECT_EQ(row.eye, InkFrom(0, 16, back) > 30) << row.name;
             EXPECT_EQ(row.book, InkFrom(16, 32, back) > 30) << row.name;
             EXPECT_LT(10, InkFrom(32, 140, back)) << row.name << ": the name stands at 32 in any case";
-            EXPECT_EQ(0, m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }));
+            EXPECT_EQ(m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }), 0);
         }
     }
 }
@@ -80,10 +80,10 @@ TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
         const RECT chip = {32, 8, 48, 24}, rest = {48, 8, 140, 24};
         EXPECT_LT(20, m_pixels.Count(chip, faint)) << "a square in the color";
         EXPECT_LT(10, m_pixels.Count(rest, RGB(0, 0, 0))) << "the name";
-        EXPECT_EQ(0, m_pixels.Count(rest, faint));
+        EXPECT_EQ(m_pixels.Count(rest, faint), 0);
     }
     Draw(Index(green), ODA_DRAWENTIRE, ODS_SELECTED);
-    EXPECT_EQ(0, m_pixels.Count(name, RGB(0, 140, 0)));
+    EXPECT_EQ(m_pixels.Count(name, RGB(0, 140, 0)), 0);
     EXPECT_LT(10, m_pixels.Count(name, ::GetSysColor(COLOR_HIGHLIGHTTEXT)));
     EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
 }
@@ -95,9 +95,9 @@ TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
         return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200));
     };
     Draw(Index(id), ODA_DRAWENTIRE, 0, {0, 8, 140, 48});
-    EXPECT_EQ(0, ink(8, 18));
+    EXPECT_EQ(ink(8, 18), 0);
     EXPECT_LT(10, ink(18, 38));
-    EXPECT_EQ(0, ink(38, 48));
+    EXPECT_EQ(ink(38, 48), 0);
 }
 
 // A scheme of light text on a black window, as high contrast has it.
@@ -118,19 +118,19 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryIndeterminate}, 0xFFFFFFFFu}) {
         m_control.m_nSelected = none;
         Draw(-1);
-        EXPECT_EQ(0, InkFrom(0, 140)) << none;
+        EXPECT_EQ(InkFrom(0, 140), 0) << none;
     }
     m_control.m_nSelected = id;
     m_drawing.Close();
     Draw(-1, ODA_DRAWENTIRE, 0);
-    EXPECT_EQ(0, InkFrom(0, 140)) << "a table without an owner";
+    EXPECT_EQ(InkFrom(0, 140), 0) << "a table without an owner";
 }
 
 TEST_F(Layers, AChangeOfFocusDrawsTheFocusAlone) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
     Fill(IDC_LAYER, m_table, id);
     Draw(Index(id), ODA_FOCUS, ODS_FOCUS);
-    EXPECT_EQ(0, m_pixels.Count(kAll, RGB(200, 0, 0)));
+    EXPECT_EQ(m_pixels.Count(kAll, RGB(200, 0, 0)), 0);
     EXPECT_LT(50, m_pixels.CountWhere(kAll, [](COLORREF c) { return c != kUntouched; }));
     Draw(Index(id), ODA_SELECT, 0);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "a change of selection draws all";

@@ -42,8 +42,8 @@ TEST_F(LongLists, OfLayersAndColors) {
         TableEntryAdd(m_drawing.Table(kTableLayers), ("layer " + std::to_string(i)).c_str(), nullptr);
     Show(IDC_LAYER, kTableLayers, 9000);
     CComboControl& layers = Get<CComboControl>(IDC_LAYER);
-    EXPECT_EQ(10001, layers.GetCount());
-    EXPECT_EQ(8999, layers.GetCurSel());
+    EXPECT_EQ(layers.GetCount(), 10001);
+    EXPECT_EQ(layers.GetCurSel(), 8999);
     EXPECT_GE(10001, m_dialog.measured);
     EXPECT_GE(3, m_dialog.drawn) << "the closed field";
     ExpectOpenedWithin(layers);

@@ -40,7 +40,7 @@ TEST_F(OpenLists, AreDrawnWholeWhereverTheSelectionHasBeen) {
         ::SetFocus(Control(id));
         for (const WPARAM key : {VK_HOME, VK_DOWN, VK_DOWN, VK_UP, VK_END, VK_UP}) {
             Press(Control(id), key);
-            EXPECT_EQ("", StalePart(m_dialog.m_hWnd)) << id;
+            EXPECT_EQ(StalePart(m_dialog.m_hWnd), "") << id;
         }
     }
 }
@@ -56,11 +56,11 @@ TEST_F(OpenLists, OfCombosAreDrawnWholeToo) {
         ASSERT_TRUE(::GetComboBoxInfo(combo.m_hWnd, &info));
         for (const WPARAM key : {VK_HOME, VK_DOWN, VK_DOWN, VK_UP, VK_END, VK_UP}) {
             Press(combo.m_hWnd, key);
-            EXPECT_EQ("", StalePart(info.hwndList)) << id;
+            EXPECT_EQ(StalePart(info.hwndList), "") << id;
         }
         combo.ShowDropDown(FALSE);
         Pump();
-        EXPECT_EQ("", StalePart(m_dialog.m_hWnd)) << id;
+        EXPECT_EQ(StalePart(m_dialog.m_hWnd), "") << id;
     }
 }
 

@@ -118,7 +118,7 @@ protected:
     };
     void ExpectScales(const std::vector<ScaleRow>& rows) {
         for (const ScaleRow& row : rows)
-            ASSERT_NE(0, Kind::Add(m_table, row.name, row.numbers)) << row.name;
+            ASSERT_NE(Kind::Add(m_table, row.name, row.numbers), 0) << row.name;
         Fill();
         for (const ScaleRow& row : rows) {
             ASSERT_LE(0, IndexOf(row.name)) << row.name;
@@ -162,9 +162,9 @@ TYPED_TEST(StyleControls, WithoutATableOnlyTheBackgroundIsDrawn) {
     const int item = this->IndexOf("Own");
     this->m_control.m_pTable = nullptr;
     this->Draw(item, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
-    EXPECT_EQ(0, this->Ink()) << "no frame and no focus either";
+    EXPECT_EQ(this->Ink(), 0) << "no frame and no focus either";
     this->Draw(-1, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS, kField);
-    EXPECT_EQ(0, this->Ink());
+    EXPECT_EQ(this->Ink(), 0);
 }
 
 TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeTakenAway) {
@@ -187,7 +187,7 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeTakenAway) {
     EXPECT_EQ(picture(ODA_DRAWENTIRE), picture(ODA_SELECT))
         << "the sample has no marks of the frame that goes";
     this->Draw(item, ODA_FOCUS, ODS_FOCUS);
-    EXPECT_EQ(0, this->m_pixels.Count(kAll, highlight));
+    EXPECT_EQ(this->m_pixels.Count(kAll, highlight), 0);
     EXPECT_LT(this->m_pixels.Count(kAll, kUntouched), 150 * 60) << "the focus rectangle alone";
     this->Draw(item, ODA_FOCUS, ODS_SELECTED | ODS_FOCUS, kField);
     EXPECT_LT(100, this->m_pixels.Count(kAll, highlight)) << "the closed field is always drawn whole";
@@ -201,9 +201,9 @@ TYPED_TEST(StyleControls, ASubclassedWindowHasItsSampleWhenItIsFilled) {
     typename TypeParam::Control control;
     CDataExchange load(&this->m_host, FALSE);
     DDX_Control(1, &load, 2, control);
-    EXPECT_EQ(nullptr, control.Graphic());
+    EXPECT_EQ(control.Graphic(), nullptr);
     this->FillControl(control);
-    ASSERT_NE(nullptr, control.Graphic());
+    ASSERT_NE(control.Graphic(), nullptr);
     EXPECT_NEAR(this->m_control.Width(), control.Width(), 1e-9) << "as if it had been made with the window";
     control.DestroyWindow();
 }
@@ -228,8 +228,8 @@ TYPED_TEST(StyleControls, TheDrawingMayCloseUnderTheControl) {
         this->Draw(i);
     this->m_table = nullptr;
     this->Fill();
-    EXPECT_EQ(0, this->m_control.GetCount());
-    EXPECT_EQ(nullptr, GraphicGetDrawing(this->m_control.Graphic())) << "the sample has left the drawing";
+    EXPECT_EQ(this->m_control.GetCount(), 0);
+    EXPECT_EQ(GraphicGetDrawing(this->m_control.Graphic()), nullptr) << "the sample has left the drawing";
 }
 
 TYPED_TEST(StyleControls, ManyPaintsKeepNothing) {
@@ -264,8 +264,8 @@ TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
         TypeParam::Add(this->m_table, name);
     const uint16_t dashed = TypeParam::Add(this->m_table, "Dashed");
     this->Fill(dashed);
-    EXPECT_EQ(-1, this->IndexOf("$CONSTRUCTION"));
-    EXPECT_EQ(-1, this->IndexOf("$AUXILIARY"));
+    EXPECT_EQ(this->IndexOf("$CONSTRUCTION"), -1);
+    EXPECT_EQ(this->IndexOf("$AUXILIARY"), -1);
     EXPECT_EQ(this->IndexOf("Dashed"), this->m_control.GetCurSel());
     const int last = this->m_control.GetCount() - 1;
     EXPECT_EQ(unsigned{kLineStyleByLayer}, this->HostItem(last, kStringByLayer))
@@ -276,7 +276,7 @@ TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
     this->Draw(last);
     EXPECT_LT(0, this->Ink()) << "a name needs no table";
     this->Fill(0);
-    EXPECT_EQ(-1, this->m_control.GetCurSel());
+    EXPECT_EQ(this->m_control.GetCurSel(), -1);
 }
 
 TYPED_TEST(LineStyles, TheFirstGapIsAFifteenthOfTheSample) {
@@ -302,9 +302,9 @@ TYPED_TEST(LineStyles, DashesShowAsGapsInTheSample) {
             most = std::max(most, this->m_pixels.ChangesAlongRow(y, kRow.left, kRow.right, window));
         return most;
     };
-    EXPECT_EQ(2, changes("Plain")) << "one stroke with a margin at either end";
+    EXPECT_EQ(changes("Plain"), 2) << "one stroke with a margin at either end";
     EXPECT_LT(10, changes("Dashed"));
-    EXPECT_EQ(kUntouched, this->m_pixels.At(50, kRow.top - 1));
+    EXPECT_EQ(this->m_pixels.At(50, kRow.top - 1), kUntouched);
 }
 
 TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
@@ -333,7 +333,7 @@ TYPED_TEST(BrushStyles, BeginWithNoBrushAndOfferEveryStyle) {
     EXPECT_EQ(this->IndexOf("$CONSTRUCTION"), this->m_control.GetCurSel());
     EXPECT_LT(1, this->m_control.GetCount());
     this->Fill(0);
-    EXPECT_EQ(-1, this->m_control.GetCurSel()) << "the item for no brush is not found by its number";
+    EXPECT_EQ(this->m_control.GetCurSel(), -1) << "the item for no brush is not found by its number";
 }
 
 TYPED_TEST(BrushStyles, AHatchIsScaledToTheSample) {
@@ -394,14 +394,14 @@ TEST_F(DrawnDialog, ListsHaveTheirOwnHeights) {
     lines.GetClientRect(client);
     MEASUREITEMSTRUCT row = {};
     lines.MeasureItem(&row);
-    EXPECT_EQ(0, client.Height() % static_cast<int>(row.itemHeight)) << "whole rows";
+    EXPECT_EQ(client.Height() % static_cast<int>(row.itemHeight), 0) << "whole rows";
     EXPECT_LT(136 - Scaled(22), rect.Height());
     EXPECT_GE(Scaled(136), rect.Height());
     CBrushStyleControlL brushes;
     ASSERT_TRUE(brushes.Create(BrushList::kStyle, CRect(0, 0, 101, 300), &m_host, 1));
     MEASUREITEMSTRUCT measure = {};
     brushes.MeasureItem(&measure);
-    EXPECT_EQ(30u, measure.itemHeight) << "three tenths of the width";
+    EXPECT_EQ(measure.itemHeight, 30u) << "three tenths of the width";
     brushes.DestroyWindow();
 }
 

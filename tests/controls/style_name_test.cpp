@@ -33,18 +33,18 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
     Add("Capital", "Doors");
     const uint16_t plain = Add("Plain", nullptr);
     Fill(IDC_STYLE_NAME, m_blocks, zebra);
-    ASSERT_EQ(2, m_control.GetCount()) << "case counts";
-    EXPECT_EQ("Zebra", Shown());
-    EXPECT_EQ(1, m_control.GetCurSel()) << "where sorting has put it";
+    ASSERT_EQ(m_control.GetCount(), 2) << "case counts";
+    EXPECT_EQ(Shown(), "Zebra");
+    EXPECT_EQ(m_control.GetCurSel(), 1) << "where sorting has put it";
     Fill(IDC_STYLE_NAME, m_blocks, arch);
-    EXPECT_EQ(0, m_control.GetCurSel());
-    EXPECT_EQ(0u, m_control.m_nSelected) << "not kept";
+    EXPECT_EQ(m_control.GetCurSel(), 0);
+    EXPECT_EQ(m_control.m_nSelected, 0u) << "not kept";
     for (const unsigned none : {0u, 0xFFFFu, 0x7777u, static_cast<unsigned>(plain)}) {
         Fill(IDC_STYLE_NAME, m_blocks, none);
-        EXPECT_EQ(0, m_control.GetCount()) << none;
+        EXPECT_EQ(m_control.GetCount(), 0) << none;
     }
     Fill(IDC_STYLE_NAME, nullptr, zebra);
-    EXPECT_EQ(nullptr, m_control.m_pTable);
+    EXPECT_EQ(m_control.m_pTable, nullptr);
 }
 
 TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
@@ -58,11 +58,11 @@ TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
         pixels.Draw(control, item, {left, 10, 100, 30}, ODA_DRAWENTIRE, state);
         return pixels.Count(all, ::GetSysColor(COLOR_WINDOWTEXT));
     };
-    EXPECT_EQ(0, ink(-1, 3));
+    EXPECT_EQ(ink(-1, 3), 0);
     EXPECT_LT(2 * 100 + 20, ink(0, 0)) << "frame and name";
-    EXPECT_EQ(RGB(0, 0, 0), pixels.At(0, 10));
+    EXPECT_EQ(pixels.At(0, 10), RGB(0, 0, 0));
     ink(0, 3);
-    EXPECT_EQ(RGB(0, 0, 0), pixels.At(2, 9)) << "the closed field is covered with its border";
+    EXPECT_EQ(pixels.At(2, 9), RGB(0, 0, 0)) << "the closed field is covered with its border";
     ink(0, 0, ODS_SELECTED);
     EXPECT_LT(200, pixels.Count(all, ::GetSysColor(COLOR_HIGHLIGHT))) << "the current row";
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});

@@ -60,28 +60,28 @@ TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
     const uint16_t zinc = TableEntryAdd(this->m_table, "Zinc", nullptr);
     const uint16_t amber = TableEntryAdd(this->m_table, "Amber", nullptr);
     this->Fill(this->m_table, amber);
-    ASSERT_EQ(2, this->m_control.GetCount());
+    ASSERT_EQ(this->m_control.GetCount(), 2);
     char text[kItemTextSize];
     EXPECT_EQ(zinc, this->m_control.GetControlItem(0, text));
-    EXPECT_STREQ("Zinc", text);
-    EXPECT_EQ(1, this->m_control.GetCurSel());
-    EXPECT_EQ(1, this->m_control.Find(amber));
+    EXPECT_STREQ(text, "Zinc");
+    EXPECT_EQ(this->m_control.GetCurSel(), 1);
+    EXPECT_EQ(this->m_control.Find(amber), 1);
     EXPECT_EQ(amber, this->m_control.m_nSelected);
 
     this->Fill(this->m_table, zinc);
-    EXPECT_EQ(2, this->m_control.GetCount()) << "filled anew, not added to";
-    EXPECT_EQ(0, this->m_control.GetCurSel());
+    EXPECT_EQ(this->m_control.GetCount(), 2) << "filled anew, not added to";
+    EXPECT_EQ(this->m_control.GetCurSel(), 0);
 }
 
 TYPED_TEST(TableControl, SelectsNothingForWhatIsNoEntry) {
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_control.AddString("00000000\tZero");
     this->m_control.AddString("0000FFFF\tIndeterminate");
-    EXPECT_EQ(-1, this->m_control.Find(0)) << "whatever the list holds";
-    EXPECT_EQ(-1, this->m_control.Find(kEntryIndeterminate));
+    EXPECT_EQ(this->m_control.Find(0), -1) << "whatever the list holds";
+    EXPECT_EQ(this->m_control.Find(kEntryIndeterminate), -1);
     for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
         this->Fill(this->m_table, none);
-        EXPECT_EQ(-1, this->m_control.GetCurSel()) << none;
+        EXPECT_EQ(this->m_control.GetCurSel(), -1) << none;
     }
 }
 
@@ -89,15 +89,15 @@ TYPED_TEST(TableControl, IsEmptiedWithoutATableOrARecord) {
     const uint16_t id = TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->Fill(this->m_table, id);
     this->Fill(nullptr, id);
-    EXPECT_EQ(0, this->m_control.GetCount());
-    EXPECT_EQ(nullptr, this->m_control.m_pTable);
+    EXPECT_EQ(this->m_control.GetCount(), 0);
+    EXPECT_EQ(this->m_control.m_pTable, nullptr);
     this->Fill(this->m_table, id);
-    EXPECT_EQ(0, this->m_control.SendMessage(kFillMessage, 0, 0));
-    EXPECT_EQ(0, this->m_control.GetCount());
-    EXPECT_EQ(nullptr, this->m_control.m_pTable);
+    EXPECT_EQ(this->m_control.SendMessage(kFillMessage, 0, 0), 0);
+    EXPECT_EQ(this->m_control.GetCount(), 0);
+    EXPECT_EQ(this->m_control.m_pTable, nullptr);
     this->m_drawing.Close();
     this->Fill(this->m_table, id);
-    EXPECT_EQ(0, this->m_control.GetCount()) << "the table of a closed drawing answers as an empty one";
+    EXPECT_EQ(this->m_control.GetCount(), 0) << "the table of a closed drawing answers as an empty one";
 }
 
 TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
@@ -107,11 +107,11 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
         char behind[64];
     } buffer;
     std::fill(std::begin(buffer.behind), std::end(buffer.behind), '#');
-    EXPECT_EQ(7u, this->m_control.GetControlItem(0, buffer.text));
+    EXPECT_EQ(this->m_control.GetControlItem(0, buffer.text), 7u);
     EXPECT_EQ(std::string(64, '#'), std::string(buffer.behind, sizeof buffer.behind));
     EXPECT_EQ(std::string(kItemTextSize - 1 - kKeySize, 'n'), std::string(buffer.text));
-    EXPECT_EQ(0u, this->m_control.GetControlItem(1, buffer.text));
-    EXPECT_STREQ("", buffer.text);
+    EXPECT_EQ(this->m_control.GetControlItem(1, buffer.text), 0u);
+    EXPECT_STREQ(buffer.text, "");
     TableEntryAdd(this->m_table, std::string(250, 'n').c_str(), nullptr);
     this->Fill(this->m_table, 0);
     EXPECT_GE(kEntryNameSize, static_cast<int>(this->Name(0).size()));
@@ -133,7 +133,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
             control.rowHeight = made.rowHeight = 30;
             this->m_host.notifications.clear();
             ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
-            EXPECT_EQ(0, this->m_host.Count(kControlReady)) << "what is made waits for its dialog";
+            EXPECT_EQ(this->m_host.Count(kControlReady), 0) << "what is made waits for its dialog";
             made.SendMessage(WM_INITIALUPDATE);
             this->m_host.notifications.clear();
             CDataExchange load(&this->m_host, FALSE);
@@ -142,16 +142,16 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
             else
                 ASSERT_TRUE(control.SubclassDlgItem(2, &this->m_host));
             const UINT height = combo ? CB_GETITEMHEIGHT : LB_GETITEMHEIGHT;
-            EXPECT_EQ(30, control.SendMessage(height, 0, 0));
+            EXPECT_EQ(control.SendMessage(height, 0, 0), 30);
             EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0),
                       control.SendMessage(height, combo ? -1 : 0, 0));
             EXPECT_EQ(style, control.m_dwStyle & ~WS_CLIPSIBLINGS);
-            EXPECT_NE(0, control.SendMessage(WM_GETFONT));
-            ASSERT_EQ(1, this->m_host.Count(kControlReady));
+            EXPECT_NE(control.SendMessage(WM_GETFONT), 0);
+            ASSERT_EQ(this->m_host.Count(kControlReady), 1);
             EXPECT_EQ(window, this->m_host.notifications.back().control);
             EXPECT_EQ(control.m_nControlID, this->m_host.notifications.back().kind);
             EXPECT_EQ(this->m_table, control.m_pTable);
-            EXPECT_EQ(1, control.GetCount()) << "filled anew";
+            EXPECT_EQ(control.GetCount(), 1) << "filled anew";
             CRect rect;
             control.GetWindowRect(rect);
             EXPECT_NEAR(combo ? rect.Height() : 320, rect.Height(), 30);
@@ -203,16 +203,16 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
         EXPECT_EQ(row.changes, this->m_host.Count(CBN_SELCHANGE)) << row.typed;
     }
     this->m_control.SetCurSel(0);
-    EXPECT_EQ("Red", type("r"));
+    EXPECT_EQ(type("r"), "Red");
     const UINT usual = ::GetDoubleClickTime();
     ::SetDoubleClickTime(1);
     ::Sleep(50);
-    EXPECT_EQ("Doors", type("d")) << "after a pause";
+    EXPECT_EQ(type("d"), "Doors") << "after a pause";
     ::SetDoubleClickTime(200);
     this->m_control.SetCurSel(-1);
     type("gre");
     ::Sleep(300);
-    EXPECT_EQ("Grey", type("y")) << "the pause is longer than a double click";
+    EXPECT_EQ(type("y"), "Grey") << "the pause is longer than a double click";
     ::SetDoubleClickTime(usual);
 
     TypeParam other;
@@ -221,7 +221,7 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
         other.AddString(item);
     other.SetCurSel(this->m_control.GetCurSel());
     other.SendMessage(WM_CHAR, 'e', 1);
-    EXPECT_EQ(0, other.GetCurSel()) << "not the letters of another control";
+    EXPECT_EQ(other.GetCurSel(), 0) << "not the letters of another control";
     other.DestroyWindow();
 }
 
@@ -248,14 +248,14 @@ TYPED_TEST(TableControl, ReadsItsItemsOnceForManyLetters) {
             control.SendMessage(WM_CHAR, static_cast<WPARAM>(*letters), 1);
     };
     type("grey");
-    EXPECT_EQ(1, control.GetCurSel());
-    EXPECT_EQ(3, control.read);
+    EXPECT_EQ(control.GetCurSel(), 1);
+    EXPECT_EQ(control.read, 3);
     control.AddString("00000004\tGreyish");
     type("i");
-    EXPECT_EQ(3, control.GetCurSel()) << "the items have changed";
+    EXPECT_EQ(control.GetCurSel(), 3) << "the items have changed";
     control.ResetContent();
     type("g");
-    EXPECT_EQ(-1, control.GetCurSel());
+    EXPECT_EQ(control.GetCurSel(), -1);
     control.DestroyWindow();
 }
 
@@ -339,21 +339,21 @@ TEST_F(DropDown, EscapeRestoresTheChoice) {
             m_control.SendMessage(WM_CHAR, 'w', 1);
         else
             key(VK_DOWN);
-        EXPECT_NE(1, m_control.GetCurSel());
+        EXPECT_NE(m_control.GetCurSel(), 1);
         m_host.notifications.clear();
         key(VK_ESCAPE);
         EXPECT_FALSE(m_control.GetDroppedState());
-        EXPECT_EQ(1, m_control.GetCurSel());
-        EXPECT_EQ(1, m_host.Count(CBN_SELCHANGE));
+        EXPECT_EQ(m_control.GetCurSel(), 1);
+        EXPECT_EQ(m_host.Count(CBN_SELCHANGE), 1);
     }
     m_control.ShowDropDown(TRUE);
     m_host.notifications.clear();
     key(VK_ESCAPE);
-    EXPECT_EQ(0, m_host.Count(CBN_SELCHANGE)) << "nothing was chosen";
+    EXPECT_EQ(m_host.Count(CBN_SELCHANGE), 0) << "nothing was chosen";
     m_control.ShowDropDown(TRUE);
     key(VK_DOWN);
     key(VK_RETURN);
-    EXPECT_EQ(2, m_control.GetCurSel());
+    EXPECT_EQ(m_control.GetCurSel(), 2);
 }
 
 // The parent of a clicked combo.
@@ -376,7 +376,7 @@ TEST(ComboClick, OnlyTheButtonOpensTheList) {
     combo.AddString("item");
     combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 5));
     EXPECT_FALSE(combo.GetDroppedState());
-    ASSERT_EQ(1u, parent.clicks.size());
+    ASSERT_EQ(parent.clicks.size(), 1u);
     EXPECT_EQ(CPoint(40, 45), parent.clicks[0]) << "in the parent's coordinates";
 
     CRect client;
@@ -385,7 +385,7 @@ TEST(ComboClick, OnlyTheButtonOpensTheList) {
     EXPECT_FALSE(combo.GetDroppedState());
     combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - Scaled(16), 5));
     EXPECT_TRUE(combo.GetDroppedState());
-    EXPECT_EQ(2u, parent.clicks.size());
+    EXPECT_EQ(parent.clicks.size(), 2u);
     combo.ShowDropDown(FALSE);
     combo.DestroyWindow();
     parent.DestroyWindow();
@@ -418,12 +418,12 @@ TEST(ControlLookup, FindsANameInTheControlsTable) {
     const uint16_t id = TableEntryAdd(table, "Walls", nullptr);
     TableCombo combo;
     ASSERT_TRUE(combo.MakeIn(&host));
-    EXPECT_EQ(0u, LookupControlItem(combo.m_hWnd, "Walls")) << "no table yet";
+    EXPECT_EQ(LookupControlItem(combo.m_hWnd, "Walls"), 0u) << "no table yet";
     combo.m_pTable = table;
     EXPECT_EQ(id, LookupControlItem(combo.m_hWnd, "Walls"));
-    EXPECT_EQ(0u, LookupControlItem(combo.m_hWnd, "Doors"));
-    EXPECT_EQ(0u, LookupControlItem(host.m_hWnd, "Walls")) << "an object of another class";
-    EXPECT_EQ(0u, LookupControlItem(nullptr, "Walls"));
+    EXPECT_EQ(LookupControlItem(combo.m_hWnd, "Doors"), 0u);
+    EXPECT_EQ(LookupControlItem(host.m_hWnd, "Walls"), 0u) << "an object of another class";
+    EXPECT_EQ(LookupControlItem(nullptr, "Walls"), 0u);
 }
 
 } // namespace

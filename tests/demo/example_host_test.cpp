@@ -19,7 +19,7 @@ protected:
 TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndEndsWell) {
     StartOver(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     const HWND sheet = Sheet();
-    ASSERT_NE(nullptr, sheet);
+    ASSERT_NE(sheet, nullptr);
     EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
 
     PressInTabs(sheet, VK_RIGHT);
@@ -32,12 +32,12 @@ TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndEndsWell) {
     EXPECT_GT(Ask(Visible(sheet, IDC_BRUSH_COLOR), CB_GETCOUNT), 200);
 
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
-    EXPECT_EQ(0u, ExitCode());
+    EXPECT_EQ(ExitCode(), 0u);
 }
 
 TEST_F(ExampleHost, SaysByItsExitCodeThatThereIsNoDrawing) {
     StartOver("missing.dxf");
-    EXPECT_EQ(2u, ExitCode());
+    EXPECT_EQ(ExitCode(), 2u);
 }
 
 } // namespace

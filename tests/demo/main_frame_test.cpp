@@ -34,11 +34,11 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
                       user.Key(VK_RETURN);
                   });
     const std::vector<PropertyChange> changes = before.ChangesTo(Properties());
-    ASSERT_EQ(4u, changes.size()); // red, green, yellow and the text have become one
+    ASSERT_EQ(changes.size(), 4u); // red, green, yellow and the text have become one
     for (const PropertyChange& change : changes) {
-        EXPECT_EQ(kPropPenColor, change.property);
+        EXPECT_EQ(change.property, kPropPenColor);
         EXPECT_EQ(changes[0].to, change.to);
-        EXPECT_EQ(1, change.graphics);
+        EXPECT_EQ(change.graphics, 1);
     }
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
@@ -61,11 +61,11 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
             user.Key(VK_TAB, UserInput::kControl | UserInput::kShift);
             user.Click(::GetDlgItem(sheet, IDOK));
         });
-    EXPECT_EQ(1u, before.ChangesTo(Properties()).size());
-    EXPECT_EQ(1, document().UndoSteps());
+    EXPECT_EQ(before.ChangesTo(Properties()).size(), 1u);
+    EXPECT_EQ(document().UndoSteps(), 1);
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
-    EXPECT_EQ(0, document().UndoSteps());
+    EXPECT_EQ(document().UndoSteps(), 0);
     user.Key(VK_ESCAPE);
     EXPECT_EQ(seen, Seen());
 }
@@ -84,13 +84,13 @@ TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
                       user.Keys(VK_DOWN, 3);
                       const std::vector<uint32_t> behind = Seen();
                       user.Key(VK_TAB, UserInput::kControl);
-                      EXPECT_EQ(4u, before.ChangesTo(Properties()).size());
+                      EXPECT_EQ(before.ChangesTo(Properties()).size(), 4u);
                       EXPECT_NE(behind, Seen());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_TRUE(before == Properties());
     EXPECT_EQ(seen, Seen());
-    EXPECT_EQ(0, document().UndoSteps());
+    EXPECT_EQ(document().UndoSteps(), 0);
     user.Key('Y', UserInput::kControl);
     EXPECT_FALSE(before == Properties()) << "what was taken back before can still be made again";
 }
@@ -106,7 +106,7 @@ TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
     EXPECT_NE(std::string::npos, boxes.OnlyText().find("bad-group-code.dxf"));
     EXPECT_NE(std::string::npos, boxes.OnlyText().find("line "));
     EXPECT_EQ(before, &document());
-    EXPECT_EQ(4, selection().Count());
+    EXPECT_EQ(selection().Count(), 4);
     EXPECT_TRUE(properties == Properties());
     CString now;
     frame->GetWindowText(now);
@@ -139,11 +139,11 @@ TEST_F(Viewer, AllWarningsOfAFileCanBeRead) {
 TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
     user.Key('A', UserInput::kControl);
     ASSERT_TRUE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
-    EXPECT_EQ(0, selection().Count());
+    EXPECT_EQ(selection().Count(), 0);
     EXPECT_LT(1000u, document().Selectable().size());
     CString title;
     frame->GetWindowText(title);
-    EXPECT_STREQ("kabeja-draft4-roof-details.dxf - Orlo Demo", title);
+    EXPECT_STREQ(title, "kabeja-draft4-roof-details.dxf - Orlo Demo");
 }
 
 TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {

@@ -44,8 +44,8 @@ TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
 
     document().Change([&] { ::GraphicSetPenWidth(line, 0.25); });
     const std::vector<std::string> width = before.DifferencesTo(DrawingState(document().Drawing()), 9);
-    ASSERT_EQ(1u, width.size());
-    EXPECT_EQ("graphic 1, PenWidth: 0 is now 0.25", width[0]);
+    ASSERT_EQ(width.size(), 1u);
+    EXPECT_EQ(width[0], "graphic 1, PenWidth: 0 is now 0.25");
     document().Undo();
 
     ::TableEntryAdd(::DrawingGetTable(document().Drawing(), kTableLayers), "left over", nullptr);

@@ -65,7 +65,7 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
                       user.Type("  Walls ");
                       user.Key(VK_RETURN);
                       ExpectMnemonicsOfTheirOwn(wizard);
-                      ASSERT_EQ(IDC_STYLE_PARTS, ::GetDlgCtrlID(::GetFocus()));
+                      ASSERT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_STYLE_PARTS);
                       user.Key(VK_DOWN);
                       user.Key(VK_SPACE); // not the brush
                       user.Key(VK_RETURN);
@@ -79,8 +79,8 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
                       EXPECT_EQ(summary, WindowText(OnPage(wizard, IDC_STYLE_SUMMARY)));
                       user.Key(VK_RETURN); // the last page: Finish
                   });
-    EXPECT_EQ("Walls", current());
-    EXPECT_EQ(1u, styles().All().size());
+    EXPECT_EQ(current(), "Walls");
+    EXPECT_EQ(styles().All().size(), 1u);
 }
 
 TEST_F(Styles, NeedANameOfTheirOwn) {
@@ -103,11 +103,11 @@ TEST_F(Styles, NeedANameOfTheirOwn) {
                       }
                       ::SetWindowTextA(edit, "");
                       user.Type(std::string(40, 'x'));
-                      EXPECT_EQ(32u, WindowText(edit).size());
+                      EXPECT_EQ(WindowText(edit).size(), 32u);
                       user.Key(VK_ESCAPE);
                   });
-    EXPECT_EQ(1u, styles().All().size());
-    EXPECT_NE("", styles().WhyNot(std::string(33, 'x')));
+    EXPECT_EQ(styles().All().size(), 1u);
+    EXPECT_NE(styles().WhyNot(std::string(33, 'x')), "");
 }
 
 TEST_F(Styles, AreAppliedAsOneStep) {
@@ -116,12 +116,12 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     user.Key('A', UserInput::kControl);
     const PropertySnapshot before = Properties();
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ((std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}), Properties().Values(kPropPenColor))
+    EXPECT_EQ(Properties().Values(kPropPenColor), (std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}))
         << "a style without a text part leaves the text alone";
-    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values(kPropStyleTree));
+    EXPECT_EQ(Properties().Values(kPropStyleTree), (std::map<std::string, int>{{"Red", 4}}));
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
-    EXPECT_EQ(1, document().UndoSteps()) << "the new style";
+    EXPECT_EQ(document().UndoSteps(), 1) << "the new style";
 }
 
 TEST_F(Styles, OfTheFileAreEditedAndAppliedToo) {
@@ -130,12 +130,12 @@ TEST_F(Styles, OfTheFileAreEditedAndAppliedToo) {
     ASSERT_TRUE(frame->Save(file.Path()));
     ASSERT_TRUE(frame->Open(file.Path()));
     InStyleSheets({[&](HWND sheet) {
-        EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
+        EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");
         Close(sheet);
     }});
     user.Key('A', UserInput::kControl);
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ((std::map<std::string, int>{{"Red", 4}}), Properties().Values(kPropStyleTree));
+    EXPECT_EQ(Properties().Values(kPropStyleTree), (std::map<std::string, int>{{"Red", 4}}));
 }
 
 TEST_F(Styles, AreEditedInTheSheetAndApplied) {
@@ -144,18 +144,18 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     const PropertySnapshot drawing = Properties();
     InStyleSheets({[&](HWND sheet) {
         EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, IDC_STYLE_NAME)));
-        EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
+        EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");
         user.Key(VK_TAB, UserInput::kControl); // the Pen page
         const HWND colors = OnPage(sheet, IDC_COLOR);
-        ASSERT_NE(nullptr, colors);
+        ASSERT_NE(colors, nullptr);
         ::SetFocus(colors);
         user.Keys(VK_DOWN, 3);
         user.Click(::GetDlgItem(sheet, IDOK));
     }});
     EXPECT_TRUE(drawing == Properties()) << "the style, not what it was made after";
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ(1u, drawing.Values(kPropPenColor).count("Red"));
-    EXPECT_EQ(0u, Properties().Values(kPropPenColor).count("Red"));
+    EXPECT_EQ(drawing.Values(kPropPenColor).count("Red"), 1u);
+    EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u);
 }
 
 // A page writes when it is left, into the style too.
@@ -195,11 +195,11 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
                        user.Click(OnPage(sheet, IDC_STYLE_NEW));
                    },
                    [&](HWND sheet) {
-                       EXPECT_EQ("Blue", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
+                       EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Blue");
                        Close(sheet);
                    }});
-    EXPECT_EQ("Blue", current());
-    EXPECT_EQ(2u, styles().All().size());
+    EXPECT_EQ(current(), "Blue");
+    EXPECT_EQ(styles().All().size(), 2u);
 }
 
 TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
@@ -211,12 +211,12 @@ TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
              user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
          },
          [&](HWND sheet) {
-             EXPECT_EQ("Red", WindowText(OnPage(sheet, IDC_STYLE_NAME)));
-             EXPECT_EQ("Red", current());
+             EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");
+             EXPECT_EQ(current(), "Red");
              TypeStyle(sheet, "Blue");
              user.Click(::GetDlgItem(sheet, IDOK));
          }});
-    EXPECT_EQ("Blue", current()) << "and the sheet stayed closed";
+    EXPECT_EQ(current(), "Blue") << "and the sheet stayed closed";
 }
 
 TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
@@ -230,20 +230,20 @@ TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
         }});
         return boxes.OnlyText();
     };
-    EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDNO));
-    EXPECT_EQ(2u, styles().All().size());
+    EXPECT_EQ(erase("Red", IDNO), "Delete the style \"Red\"?");
+    EXPECT_EQ(styles().All().size(), 2u);
     ASSERT_TRUE(frame->Save(file.Path()));
-    EXPECT_EQ("Delete the style \"Red\"?", erase("Red", IDYES));
+    EXPECT_EQ(erase("Red", IDYES), "Delete the style \"Red\"?");
     EXPECT_TRUE(document().IsModified());
-    EXPECT_EQ(1u, styles().All().size());
-    EXPECT_EQ("Blue", current());
+    EXPECT_EQ(styles().All().size(), 1u);
+    EXPECT_EQ(current(), "Blue");
 
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ("The style \"Blue\" stays: 4 graphics use it.", erase("Blue", IDOK));
-    EXPECT_EQ(1u, styles().All().size());
+    EXPECT_EQ(erase("Blue", IDOK), "The style \"Blue\" stays: 4 graphics use it.");
+    EXPECT_EQ(styles().All().size(), 1u);
     user.Key('Z', UserInput::kControl);
     erase("Blue", IDYES);
-    EXPECT_EQ("", current());
+    EXPECT_EQ(current(), "");
     EXPECT_TRUE(styles().All().empty());
 }
 

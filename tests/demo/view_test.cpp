@@ -36,40 +36,40 @@ INSTANTIATE_TEST_SUITE_P(Drawn, SelectByWindow, ::testing::ValuesIn(kWindows),
 TEST_F(Viewer, ClicksSelectAddAndTakeAway) {
     const CPoint red = Pixel(10, 5), green = Pixel(10, 35), nothing = Pixel(20, 20);
     user.Click(view(), red);
-    EXPECT_EQ(1, selection().Count());
+    EXPECT_EQ(selection().Count(), 1);
     user.Click(view(), green);
-    EXPECT_EQ(1, selection().Count());
+    EXPECT_EQ(selection().Count(), 1);
     user.Click(view(), red, UserInput::kShift);
-    EXPECT_EQ(2, selection().Count());
+    EXPECT_EQ(selection().Count(), 2);
     user.Click(view(), red, UserInput::kShift); // adds only
-    EXPECT_EQ(2, selection().Count());
+    EXPECT_EQ(selection().Count(), 2);
     user.Click(view(), red, UserInput::kControl);
-    EXPECT_EQ(1, selection().Count());
+    EXPECT_EQ(selection().Count(), 1);
     user.Click(view(), nothing, UserInput::kControl); // misses take nothing away
-    EXPECT_EQ(1, selection().Count());
+    EXPECT_EQ(selection().Count(), 1);
     user.Click(view(), nothing);
-    EXPECT_EQ(0, selection().Count());
+    EXPECT_EQ(selection().Count(), 0);
 }
 
 TEST_F(Viewer, WindowWithControlTogglesWhatIsInside) {
     user.Click(view(), Pixel(10, 5));
     Drag({2, 2}, {20, 38}, UserInput::kControl);
-    ASSERT_EQ(1, selection().Count());
+    ASSERT_EQ(selection().Count(), 1);
     EXPECT_FALSE(selection().Contains(document().Selectable()[0]));
     EXPECT_TRUE(selection().Contains(document().Selectable()[1]));
 }
 
 TEST_F(Viewer, TabWalksRoundBothWays) {
     const std::vector<GraphicStruct*> all = document().Selectable();
-    ASSERT_EQ(4u, all.size());
+    ASSERT_EQ(all.size(), 4u);
     for (const size_t place : {0, 1, 2, 3, 0}) {
         user.Key(VK_TAB);
-        EXPECT_EQ(std::vector<GraphicStruct*>{all[place]}, selection().Members());
+        EXPECT_EQ(selection().Members(), std::vector<GraphicStruct*>{all[place]});
     }
     user.Key(VK_TAB, UserInput::kShift);
-    EXPECT_EQ(std::vector<GraphicStruct*>{all[3]}, selection().Members());
+    EXPECT_EQ(selection().Members(), std::vector<GraphicStruct*>{all[3]});
     user.Key(VK_ESCAPE);
-    EXPECT_EQ(0, selection().Count());
+    EXPECT_EQ(selection().Count(), 0);
 }
 
 TEST_F(Viewer, TabBringsWhatItSelectsIntoSight) {

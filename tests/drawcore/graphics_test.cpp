@@ -24,12 +24,12 @@ TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
     GraphicSetStyleName(content, std::string("Doors").c_str());
     GraphicStruct* copy = GraphicCopyEx(content, 0, 0, 7);
     GraphicSetStyleName(content, "Windows");
-    EXPECT_STREQ("Windows", content->pszStyleName);
-    EXPECT_STREQ("Doors", copy->pszStyleName);
+    EXPECT_STREQ(content->pszStyleName, "Windows");
+    EXPECT_STREQ(copy->pszStyleName, "Doors");
     GraphicDispose(&content);
-    EXPECT_STREQ("Doors", copy->pszStyleName);
+    EXPECT_STREQ(copy->pszStyleName, "Doors");
     GraphicSetStyleName(copy, "");
-    EXPECT_EQ(nullptr, copy->pszStyleName);
+    EXPECT_EQ(copy->pszStyleName, nullptr);
     GraphicDispose(&copy);
     EXPECT_TRUE(balance.IsEven());
 }

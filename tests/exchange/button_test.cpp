@@ -21,10 +21,10 @@ protected:
 TEST_F(ButtonExchange, StatesGoBothWays) {
     for (int state = 0; state <= 2; ++state) {
         int value = state;
-        EXPECT_EQ(1, DDX_Check(1, &m_load, IDC_THREE_STATE, value));
+        EXPECT_EQ(DDX_Check(1, &m_load, IDC_THREE_STATE, value), 1);
         EXPECT_EQ(state, State(IDC_THREE_STATE));
         value = 77;
-        EXPECT_EQ(1, DDX_Check(1, &m_save, IDC_THREE_STATE, value));
+        EXPECT_EQ(DDX_Check(1, &m_save, IDC_THREE_STATE, value), 1);
         EXPECT_EQ(state, value);
         const auto word = static_cast<unsigned short>(state == BST_INDETERMINATE ? 0xFFFF : state);
         unsigned short shown = word;
@@ -42,12 +42,12 @@ TEST_F(ButtonExchange, AValueThatIsNoStateIsSetToOff) {
         SetState(IDC_THREE_STATE, BST_CHECKED);
         int value = wrong;
         DDX_Check(1, &m_load, IDC_THREE_STATE, value);
-        EXPECT_EQ(0, value);
-        EXPECT_EQ(BST_UNCHECKED, State(IDC_THREE_STATE));
+        EXPECT_EQ(value, 0);
+        EXPECT_EQ(State(IDC_THREE_STATE), BST_UNCHECKED);
     }
     unsigned short two = 2;
     DDX_Check(1, &m_load, IDC_THREE_STATE, two);
-    EXPECT_EQ(0, two);
+    EXPECT_EQ(two, 0);
 }
 
 struct RadioRow {
@@ -61,10 +61,10 @@ TEST_F(ButtonExchange, ARadioGroupEndsAtTheNextAndSkipsOtherControls) {
     SetState(IDC_BEHIND_RADIOS, BST_CHECKED);
     for (const RadioRow& row : rows) {
         int value = row.value;
-        EXPECT_EQ(1, DDX_Radio(1, &m_load, IDC_RADIO_FIRST, value));
+        EXPECT_EQ(DDX_Radio(1, &m_load, IDC_RADIO_FIRST, value), 1);
         EXPECT_EQ(row.states, Radios());
         value = 77;
-        EXPECT_EQ(1, DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value));
+        EXPECT_EQ(DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value), 1);
         EXPECT_EQ(row.value, value);
 
         unsigned short word = row.word;
@@ -78,7 +78,7 @@ TEST_F(ButtonExchange, ARadioGroupEndsAtTheNextAndSkipsOtherControls) {
     SetState(IDC_RADIO_SECOND, BST_CHECKED);
     int value = -1;
     DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value);
-    EXPECT_EQ(1, value) << "of several the last counts";
+    EXPECT_EQ(value, 1) << "of several the last counts";
 }
 
 } // namespace

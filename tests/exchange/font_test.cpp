@@ -33,32 +33,32 @@ TEST_F(FontExchange, TheStyleComboShowsTheTwoLowestBits) {
     } rows[] = {{0, 0, 0}, {0, 3, 3}, {0x1004, 0xFFFE, 2}, {1, 2, -1}, {2, 2, -1}, {3, 0, -1}};
     for (const auto& row : rows) {
         unsigned short style[] = {row.mask, row.values};
-        EXPECT_EQ(1, DDX_CBFontStyle(1, &m_load, IDC_FONT_STYLE, style));
-        EXPECT_EQ(4, Send(IDC_FONT_STYLE, CB_GETCOUNT));
+        EXPECT_EQ(DDX_CBFontStyle(1, &m_load, IDC_FONT_STYLE, style), 1);
+        EXPECT_EQ(Send(IDC_FONT_STYLE, CB_GETCOUNT), 4);
         EXPECT_EQ(row.shown, Send(IDC_FONT_STYLE, CB_GETCURSEL)) << row.values;
-        EXPECT_EQ(1, DDX_CBFontStyle(1, &m_save, IDC_FONT_STYLE, style));
+        EXPECT_EQ(DDX_CBFontStyle(1, &m_save, IDC_FONT_STYLE, style), 1);
         EXPECT_EQ(row.mask, style[0]) << "saved as it was";
         EXPECT_EQ(row.values, style[1]);
     }
     unsigned short style[] = {0x1003, 0x1145};
     Send(IDC_FONT_STYLE, CB_SETCURSEL, 2);
     DDX_CBFontStyle(1, &m_save, IDC_FONT_STYLE, style);
-    EXPECT_EQ(0x1000, style[0]);
-    EXPECT_EQ(0x1146, style[1]);
+    EXPECT_EQ(style[0], 0x1000);
+    EXPECT_EQ(style[1], 0x1146);
 }
 
 TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
     for (const unsigned short mask : {0, 0x114C, 0x0108, 0xFFFF}) {
         for (const unsigned short values : {0, 0x114C, 0x1040, 0xFFFF}) {
             unsigned short style[] = {mask, values};
-            EXPECT_EQ(1, DDX_ChkBoxEffects(1, &m_load, style));
+            EXPECT_EQ(DDX_ChkBoxEffects(1, &m_load, style), 1);
             for (size_t i = 0; i < 5; ++i) {
                 const int state = mask & kEffectBits[i]     ? BST_INDETERMINATE
                                   : values & kEffectBits[i] ? BST_CHECKED
                                                             : BST_UNCHECKED;
                 EXPECT_EQ(state, Send(kEffectBoxes[i], BM_GETCHECK)) << kEffectBoxes[i];
             }
-            EXPECT_EQ(1, DDX_ChkBoxEffects(1, &m_save, style));
+            EXPECT_EQ(DDX_ChkBoxEffects(1, &m_save, style), 1);
             EXPECT_EQ(mask, style[0]);
             EXPECT_EQ(values, style[1]);
         }
@@ -80,11 +80,11 @@ TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
             0, bit}; // the user clicks on into the third state of an effect in which the texts agree
         DDX_ChkBoxEffects(1, &m_load, style);
         Send(kEffectBoxes[i], BM_CLICK);
-        ASSERT_EQ(BST_INDETERMINATE, Send(kEffectBoxes[i], BM_GETCHECK));
+        ASSERT_EQ(Send(kEffectBoxes[i], BM_GETCHECK), BST_INDETERMINATE);
         DDX_ChkBoxEffects(1, &m_save, style);
-        EXPECT_EQ(0, style[0]);
-        EXPECT_EQ(0, style[1]);
-        EXPECT_EQ(BST_UNCHECKED, Send(kEffectBoxes[i], BM_GETCHECK));
+        EXPECT_EQ(style[0], 0);
+        EXPECT_EQ(style[1], 0);
+        EXPECT_EQ(Send(kEffectBoxes[i], BM_GETCHECK), BST_UNCHECKED);
     }
 }
 
@@ -92,16 +92,16 @@ TEST_F(FontExchange, AHeightIsShownAndReadBack) {
     FillSizes();
     for (const double height : {2.5, 0.125, 100.0, 2.5}) {
         double size = height;
-        EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size));
+        EXPECT_EQ(DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size), 1);
         size = 0.0;
-        EXPECT_EQ(1, DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size));
+        EXPECT_EQ(DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size), 1);
         EXPECT_NEAR(height, size, 1e-9);
     }
-    EXPECT_EQ(3, Send(IDC_FONT_SIZE, CB_GETCOUNT)) << "each joins once";
+    EXPECT_EQ(Send(IDC_FONT_SIZE, CB_GETCOUNT), 3) << "each joins once";
 
     double indeterminate = HUGE_VAL;
     const std::string before = Text(IDC_FONT_SIZE);
-    EXPECT_EQ(1, DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, indeterminate));
+    EXPECT_EQ(DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, indeterminate), 1);
     EXPECT_EQ(before, Text(IDC_FONT_SIZE)) << "an indeterminate value leaves the control";
 
     double size = 7.0;
@@ -112,18 +112,18 @@ TEST_F(FontExchange, AHeightIsShownAndReadBack) {
     for (const char* none : {"", "tall", "5 and a half"}) {
         SetText(IDC_FONT_SIZE, none);
         size = 7.0;
-        EXPECT_EQ(1, DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size));
-        EXPECT_EQ(HUGE_VAL, size) << none;
+        EXPECT_EQ(DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size), 1);
+        EXPECT_EQ(size, HUGE_VAL) << none;
     }
 }
 
 TEST_F(FontExchange, FailsWithoutADrawingOrWithoutTheControl) {
     double size = 2.5;
-    EXPECT_EQ(0, DDX_CBFontSize(0, &m_load, IDC_FONT_SIZE, size)) << "not filled yet";
+    EXPECT_EQ(DDX_CBFontSize(0, &m_load, IDC_FONT_SIZE, size), 0) << "not filled yet";
     EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size); }));
-    EXPECT_EQ(0, DDX_CBFontSize(0, &m_save, IDC_FONT_STYLE, size)) << "a plain combo";
+    EXPECT_EQ(DDX_CBFontSize(0, &m_save, IDC_FONT_STYLE, size), 0) << "a plain combo";
     EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_save, IDC_FONT_STYLE, size); }));
-    EXPECT_EQ(2.5, size);
+    EXPECT_EQ(size, 2.5);
 }
 
 } // namespace

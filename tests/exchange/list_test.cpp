@@ -34,7 +34,7 @@ TEST_F(ListExchange, LoadingATextSelectsOrKeeps) {
         SCOPED_TRACE(row.text);
         Send(row.control, row.control == IDC_LIST ? LB_SETCURSEL : CB_SETCURSEL, 1);
         CString text(row.text);
-        EXPECT_EQ(1, row.function(1, &m_load, row.control, text));
+        EXPECT_EQ(row.function(1, &m_load, row.control, text), 1);
         EXPECT_EQ(row.selected, Selected(row.control));
         row.function(1, &m_save, row.control, text);
         const char* const items[] = {"Solid", "Dashed", "Dash dot"};
@@ -45,13 +45,13 @@ TEST_F(ListExchange, LoadingATextSelectsOrKeeps) {
 TEST_F(ListExchange, AComboShowsATextThatIsInNoList) {
     CString text("Dash");
     DDX_CBString(1, &m_load, IDC_COMBO, text);
-    EXPECT_EQ("Dash", Text(IDC_COMBO));
-    EXPECT_EQ(CB_ERR, Selected(IDC_COMBO));
+    EXPECT_EQ(Text(IDC_COMBO), "Dash");
+    EXPECT_EQ(Selected(IDC_COMBO), CB_ERR);
     text.Empty();
     DDX_CBString(1, &m_save, IDC_COMBO, text);
-    EXPECT_EQ("Dash", std::string(text));
+    EXPECT_EQ(std::string(text), "Dash");
     DDX_LBString(1, &m_save, IDC_LIST, text);
-    EXPECT_EQ("", std::string(text)) << "a list without a selection";
+    EXPECT_EQ(std::string(text), "") << "a list without a selection";
 }
 
 TEST_F(ListExchange, ATextThatIsInNoListTakesTheChoiceAway) {
@@ -60,10 +60,10 @@ TEST_F(ListExchange, ATextThatIsInNoListTakesTheChoiceAway) {
         Send(combo, CB_SETCURSEL, 0);
         CString text("Wavy");
         DDX_CBString(1, &m_load, combo, text);
-        EXPECT_EQ(CB_ERR, Selected(combo)) << combo;
-        EXPECT_NE("Solid", Text(combo)) << combo;
+        EXPECT_EQ(Selected(combo), CB_ERR) << combo;
+        EXPECT_NE(Text(combo), "Solid") << combo;
     }
-    EXPECT_EQ("Wavy", Text(IDC_COMBO));
+    EXPECT_EQ(Text(IDC_COMBO), "Wavy");
 }
 
 TEST_F(ListExchange, IndicesGoBothWays) {
@@ -81,10 +81,10 @@ TEST_F(ListExchange, IndicesGoBothWays) {
 
 TEST_F(ListExchange, AControlObjectIsAttachedOnce) {
     CEdit edit, second;
-    EXPECT_EQ(1, DDX_Control(1, &m_load, IDC_EDIT, edit));
+    EXPECT_EQ(DDX_Control(1, &m_load, IDC_EDIT, edit), 1);
     EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
     EXPECT_EQ(&edit, CWnd::FromHandlePermanent(Control(IDC_EDIT)));
-    EXPECT_EQ(1, DDX_Control(1, &m_save, IDC_COMBO, edit)) << "an object that has a window is left alone";
+    EXPECT_EQ(DDX_Control(1, &m_save, IDC_COMBO, edit), 1) << "an object that has a window is left alone";
     EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
     try {
         DDX_Control(1, &m_load, IDC_EDIT, second);
@@ -99,10 +99,10 @@ TEST_F(ListExchange, AScrollBarKeepsItsPosition) {
     ::SetScrollRange(Control(IDC_SCROLL), SB_CTL, 0, 50, FALSE);
     int position = 42;
     DDX_Scroll(1, &m_load, IDC_SCROLL, position);
-    EXPECT_EQ(42, ::GetScrollPos(Control(IDC_SCROLL), SB_CTL));
+    EXPECT_EQ(::GetScrollPos(Control(IDC_SCROLL), SB_CTL), 42);
     position = 0;
     DDX_Scroll(1, &m_save, IDC_SCROLL, position);
-    EXPECT_EQ(42, position);
+    EXPECT_EQ(position, 42);
 }
 
 } // namespace

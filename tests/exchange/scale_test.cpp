@@ -26,7 +26,7 @@ protected:
 TEST_F(ScaleExchange, AScaleInNoListIsInsertedInFallingOrder) {
     const double big = UnitsGetScaleValue(m_units, "1 : 2"), middle = UnitsGetScaleValue(m_units, "1 : 50"),
                  small = UnitsGetScaleValue(m_units, "1 : 100");
-    ASSERT_NE(0.0, middle);
+    ASSERT_NE(middle, 0.0);
     if (big > small)
         Fill({"1 : 2", "1 : 100"});
     else
@@ -34,15 +34,15 @@ TEST_F(ScaleExchange, AScaleInNoListIsInsertedInFallingOrder) {
 
     CString text;
     double scale = middle;
-    EXPECT_EQ(1, DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, &scale));
-    EXPECT_EQ(3, Count());
-    EXPECT_EQ(1, Selected());
+    EXPECT_EQ(DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, &scale), 1);
+    EXPECT_EQ(Count(), 3);
+    EXPECT_EQ(Selected(), 1);
     EXPECT_EQ(std::string(text), ComboItem(IDC_COMBO, 1));
     EXPECT_DOUBLE_EQ(middle, UnitsGetScaleValue(m_units, text));
 
     text = "1 : 50";
     DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, &scale);
-    EXPECT_EQ(3, Count()) << "once";
+    EXPECT_EQ(Count(), 3) << "once";
 }
 
 TEST_F(ScaleExchange, ATypedScaleTakesOverTheTextOfAnEqualItem) {
@@ -50,30 +50,30 @@ TEST_F(ScaleExchange, ATypedScaleTakesOverTheTextOfAnEqualItem) {
     SetText(IDC_COMBO, "2 : 2");
     CString text;
     double scale = 0.0;
-    EXPECT_EQ(1, DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale));
-    EXPECT_EQ("1 : 1", std::string(text));
-    EXPECT_EQ(0, Selected());
-    EXPECT_EQ(1.0, scale);
+    EXPECT_EQ(DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale), 1);
+    EXPECT_EQ(std::string(text), "1 : 1");
+    EXPECT_EQ(Selected(), 0);
+    EXPECT_EQ(scale, 1.0);
 
     SetText(IDC_COMBO, "1 : 7");
-    EXPECT_EQ(1, DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, nullptr));
-    EXPECT_EQ(2, Count()) << "also when saving";
-    EXPECT_EQ("1 : 7", Text(IDC_COMBO));
+    EXPECT_EQ(DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, nullptr), 1);
+    EXPECT_EQ(Count(), 2) << "also when saving";
+    EXPECT_EQ(Text(IDC_COMBO), "1 : 7");
 }
 
 TEST_F(ScaleExchange, WithoutAScaleItIsRefused) {
     SetText(IDC_COMBO, "large");
     CString text;
     double scale = 3.0;
-    EXPECT_EQ(0, DDX_CBScale(0, &m_save, IDC_COMBO, text, m_units, &scale));
+    EXPECT_EQ(DDX_CBScale(0, &m_save, IDC_COMBO, text, m_units, &scale), 0);
     MessageBoxWatcher boxes;
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale); }));
     EXPECT_EQ(Prompt(IDS_ENTER_SCALE), boxes.OnlyText());
-    EXPECT_EQ(3.0, scale);
-    EXPECT_EQ(0, Count());
+    EXPECT_EQ(scale, 3.0);
+    EXPECT_EQ(Count(), 0);
     text.Empty(); // nothing to load
     boxes.Clear();
-    EXPECT_EQ(0, DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr));
+    EXPECT_EQ(DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr), 0);
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
     EXPECT_TRUE(boxes.Boxes().empty()) << "the caller has not asked the user anything";
 }

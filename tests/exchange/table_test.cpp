@@ -34,21 +34,21 @@ protected:
 TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
     CComboBox combo;
     combo.Attach(Control(IDC_COMBO));
-    EXPECT_EQ(0, FillComboTable(&combo, m_table, 0));
+    EXPECT_EQ(FillComboTable(&combo, m_table, 0), 0);
     Add("Zinc", "first");
     Add("Amber");
-    EXPECT_EQ(2, FillComboTable(&combo, m_table, 0));
-    EXPECT_EQ(1, FillComboTable(&combo, m_table, 1)) << "an entry without data is passed over";
-    EXPECT_EQ("Zinc;Amber;first;", Items(IDC_COMBO)) << "in the table's order, behind what is there";
+    EXPECT_EQ(FillComboTable(&combo, m_table, 0), 2);
+    EXPECT_EQ(FillComboTable(&combo, m_table, 1), 1) << "an entry without data is passed over";
+    EXPECT_EQ(Items(IDC_COMBO), "Zinc;Amber;first;") << "in the table's order, behind what is there";
     combo.Detach();
 
     CListBox list;
     list.Attach(Control(IDC_LIST));
-    EXPECT_EQ(0, FillListBoxTable(&list, m_table, 0));
-    EXPECT_EQ(2, FillListBoxTable(&list, m_table, 1));
-    EXPECT_EQ(1, FillListBoxTable(&list, m_table, 2));
-    EXPECT_EQ(2, FillListBoxTable(&list, m_table, 3));
-    EXPECT_EQ("Zinc;Amber;first;Zinc\tfirst;Amber;", Items(IDC_LIST));
+    EXPECT_EQ(FillListBoxTable(&list, m_table, 0), 0);
+    EXPECT_EQ(FillListBoxTable(&list, m_table, 1), 2);
+    EXPECT_EQ(FillListBoxTable(&list, m_table, 2), 1);
+    EXPECT_EQ(FillListBoxTable(&list, m_table, 3), 2);
+    EXPECT_EQ(Items(IDC_LIST), "Zinc;Amber;first;Zinc\tfirst;Amber;");
     Add(std::string(200, 'n').c_str());
     list.ResetContent();
     FillListBoxTable(&list, m_table, 1);
@@ -59,11 +59,11 @@ TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
 TEST_F(TableExchange, LinesOfAStringAreItems) {
     CComboBox combo;
     combo.Attach(Control(IDC_COMBO));
-    EXPECT_EQ(0, FillComboStringTable(&combo, IDS_LINES, 0));
-    EXPECT_EQ(0, FillComboStringTable(&combo, IDS_LINES, -1));
-    EXPECT_EQ(1, FillComboStringTable(&combo, IDS_LINES, 1));
-    EXPECT_EQ(3, FillComboStringTable(&combo, IDS_LINES, 99)) << "the empty line is no item";
-    EXPECT_EQ("One;One;Two;Four;", Items(IDC_COMBO));
+    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 0), 0);
+    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, -1), 0);
+    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 1), 1);
+    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 99), 3) << "the empty line is no item";
+    EXPECT_EQ(Items(IDC_COMBO), "One;One;Two;Four;");
     combo.Detach();
 }
 
@@ -73,17 +73,17 @@ TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCD\tBlue");
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCE\tGreen");
     unsigned int value = 0xABCE;
-    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_load, IDC_LIST, value));
-    EXPECT_EQ(1, Send(IDC_LIST, LB_GETCURSEL));
+    EXPECT_EQ(DDX_LBTableIndex(1, &m_load, IDC_LIST, value), 1);
+    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 1);
     value = 0xABCD;
     DDX_LBTableIndex(1, &m_load, IDC_LIST, value);
-    EXPECT_EQ(0, Send(IDC_LIST, LB_GETCURSEL));
+    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 0);
     value = 0;
     DDX_LBTableIndex(1, &m_save, IDC_LIST, value);
-    EXPECT_EQ(0xABCDu, value);
+    EXPECT_EQ(value, 0xABCDu);
     value = 0xABC;
     DDX_LBTableIndex(1, &m_load, IDC_LIST, value);
-    EXPECT_EQ(0, Send(IDC_LIST, LB_GETCURSEL)) << "an identifier in no item leaves the selection";
+    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 0) << "an identifier in no item leaves the selection";
 }
 
 // The search begins after the first item and comes to it last.
@@ -91,18 +91,18 @@ TEST_F(TableExchange, OfEqualListKeysTheFirstItemIsFoundLast) {
     for (const char* item : {"0000ABCD\tBlue", "0000ABCD\tAzure", "0000ABCD\tNavy"})
         Send(IDC_LIST, LB_ADDSTRING, 0, item);
     unsigned int value = 0xABCD;
-    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_load, IDC_LIST, value));
-    EXPECT_EQ(1, Send(IDC_LIST, LB_GETCURSEL));
+    EXPECT_EQ(DDX_LBTableIndex(1, &m_load, IDC_LIST, value), 1);
+    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 1);
 }
 
 TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
     unsigned int value = kIndeterminateId;
     unsigned long color = kIndeterminateId;
-    EXPECT_EQ(1, DDX_LBTableIndex(1, &m_save, IDC_LIST, value));
-    EXPECT_EQ(1, DDX_CBTableIndex(1, &m_save, IDC_COMBO, value));
-    EXPECT_EQ(1, DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, color));
-    EXPECT_EQ(kIndeterminateId, value);
-    EXPECT_EQ(kIndeterminateId, color);
+    EXPECT_EQ(DDX_LBTableIndex(1, &m_save, IDC_LIST, value), 1);
+    EXPECT_EQ(DDX_CBTableIndex(1, &m_save, IDC_COMBO, value), 1);
+    EXPECT_EQ(DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, color), 1);
+    EXPECT_EQ(value, kIndeterminateId);
+    EXPECT_EQ(color, kIndeterminateId);
 }
 
 TEST_F(TableExchange, ComboKeysGoBothWays) {
@@ -117,7 +117,7 @@ TEST_F(TableExchange, ComboKeysGoBothWays) {
     }
     unsigned int unknown = 0x21;
     DDX_CBTableIndex(1, &m_load, IDC_COMBO, unknown);
-    EXPECT_EQ("00000021\t", Text(IDC_COMBO)) << "the key is what the combo shows";
+    EXPECT_EQ(Text(IDC_COMBO), "00000021\t") << "the key is what the combo shows";
 }
 
 TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
@@ -129,7 +129,7 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
     } rows[] = {{kColorByLayer, 1}, {0xFF, 2}, {kColorOfPen, 3}, {kColorIndeterminate, -1}, {0x00123456, -1}};
     for (const auto& row : rows) {
         unsigned long value = row.color;
-        EXPECT_EQ(1, DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value));
+        EXPECT_EQ(DDX_CBTableColor(1, &m_load, IDC_DROP_LIST, value), 1);
         EXPECT_EQ(row.index, Send(IDC_DROP_LIST, CB_GETCURSEL)) << std::hex << row.color;
         value = 0x77;
         DDX_CBTableColor(1, &m_save, IDC_DROP_LIST, value);
@@ -138,48 +138,48 @@ TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
     SetText(IDC_COMBO, "no key");
     unsigned long color = 5;
     DDX_CBTableColor(1, &m_save, IDC_COMBO, color);
-    EXPECT_EQ(0u, color);
+    EXPECT_EQ(color, 0u);
 }
 
 TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     const uint16_t first = Add("Walls"), second = Add("Doors");
     unsigned int value = first;
-    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "a plain combo";
+    EXPECT_EQ(DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value), 0) << "a plain combo";
     CComboControl control(kControlStyleNames);
     control.SubclassWindow(Control(IDC_COMBO));
-    EXPECT_EQ(0, DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value)) << "no table yet";
+    EXPECT_EQ(DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value), 0) << "no table yet";
     EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value); }));
 
     control.m_pTable = m_table;
     control.AddString("Walls");
     DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value);
-    EXPECT_EQ(0, control.GetCurSel());
+    EXPECT_EQ(control.GetCurSel(), 0);
     value = second;
     DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value);
-    EXPECT_EQ("Doors", Text(IDC_COMBO)) << "in the table but in no list";
+    EXPECT_EQ(Text(IDC_COMBO), "Doors") << "in the table but in no list";
     value = 0;
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
     EXPECT_EQ(second, value);
 
     SetText(IDC_COMBO, "Windows");
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(0u, value);
+    EXPECT_EQ(value, 0u);
     for (const unsigned int none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
         control.SetCurSel(0);
         value = none;
-        EXPECT_EQ(1, DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value));
-        EXPECT_EQ(-1, control.GetCurSel()) << none;
+        EXPECT_EQ(DDX_CBTableLookupIndex(1, &m_load, IDC_COMBO, value), 1);
+        EXPECT_EQ(control.GetCurSel(), -1) << none;
     }
     SetText(IDC_COMBO, "");
     value = kIndeterminateId;
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(kIndeterminateId, value) << "an indeterminate value survives";
+    EXPECT_EQ(value, kIndeterminateId) << "an indeterminate value survives";
 
     // The host closes the drawing: its table answers as an empty one.
     m_drawing.Close();
     SetText(IDC_COMBO, "Walls");
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
-    EXPECT_EQ(0u, value);
+    EXPECT_EQ(value, 0u);
     control.UnsubclassWindow();
 }
 

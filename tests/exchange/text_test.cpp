@@ -13,7 +13,7 @@ class TextExchange : public ExchangeDialog {
 protected:
     template <class Value>
     std::string Shown(Value value) {
-        EXPECT_EQ(1, DDX_Text(1, &m_load, IDC_EDIT, value));
+        EXPECT_EQ(DDX_Text(1, &m_load, IDC_EDIT, value), 1);
         return Text(IDC_EDIT);
     }
     template <class Value>
@@ -21,7 +21,7 @@ protected:
         for (const auto& [typed, expected] : rows) {
             SetText(IDC_EDIT, typed);
             Value value = 77;
-            EXPECT_EQ(1, DDX_Text(0, &m_save, IDC_EDIT, value)) << typed;
+            EXPECT_EQ(DDX_Text(0, &m_save, IDC_EDIT, value), 1) << typed;
             EXPECT_EQ(expected, value) << typed;
         }
     }
@@ -32,7 +32,7 @@ protected:
             SCOPED_TRACE(typed);
             SetText(IDC_EDIT, typed);
             Value value = 77;
-            EXPECT_EQ(0, DDX_Text(0, &m_save, IDC_EDIT, value));
+            EXPECT_EQ(DDX_Text(0, &m_save, IDC_EDIT, value), 0);
             EXPECT_EQ(left, value);
             value = 77;
             MessageBoxWatcher boxes;
@@ -68,12 +68,12 @@ TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
 }
 
 TEST_F(TextExchange, WholeNumbersAreShownInTheirRange) {
-    EXPECT_EQ("255", Shown<unsigned char>(255));
-    EXPECT_EQ("65535", Shown<unsigned short>(65535));
-    EXPECT_EQ("-2147483648", Shown<int>(-2147483647 - 1));
-    EXPECT_EQ("-1", Shown<long>(-1));
-    EXPECT_EQ("4294967295", Shown<unsigned int>(4294967295u));
-    EXPECT_EQ("4294967295", Shown<unsigned long>(4294967295u));
+    EXPECT_EQ(Shown<unsigned char>(255), "255");
+    EXPECT_EQ(Shown<unsigned short>(65535), "65535");
+    EXPECT_EQ(Shown<int>(-2147483647 - 1), "-2147483648");
+    EXPECT_EQ(Shown<long>(-1), "-1");
+    EXPECT_EQ(Shown<unsigned int>(4294967295u), "4294967295");
+    EXPECT_EQ(Shown<unsigned long>(4294967295u), "4294967295");
 }
 
 TEST_F(TextExchange, AFailureReturnsToTheFieldWithItsTextSelected) {
@@ -91,10 +91,10 @@ TEST_F(TextExchange, ALongTextGoesThroughWhole) {
     const std::string text(10000, 'x');
     SetText(IDC_EDIT, text.c_str());
     CString value;
-    EXPECT_EQ(1, DDX_Text(1, &m_save, IDC_EDIT, value));
+    EXPECT_EQ(DDX_Text(1, &m_save, IDC_EDIT, value), 1);
     EXPECT_EQ(text, std::string(value));
     SetText(IDC_EDIT, "");
-    EXPECT_EQ(1, DDX_Text(1, &m_load, IDC_EDIT, value));
+    EXPECT_EQ(DDX_Text(1, &m_load, IDC_EDIT, value), 1);
     EXPECT_EQ(text, Text(IDC_EDIT));
 }
 
@@ -129,8 +129,8 @@ TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {
 
 TEST_F(TextExchange, SixDigitsAreShownAndTheNearestFloatIsSaved) {
     double value = 1.23456789;
-    EXPECT_EQ("1.23457", Shown(value));
-    EXPECT_EQ(1, DDX_Text(1, &m_save, IDC_EDIT, value));
+    EXPECT_EQ(Shown(value), "1.23457");
+    EXPECT_EQ(DDX_Text(1, &m_save, IDC_EDIT, value), 1);
     EXPECT_EQ(static_cast<double>(1.23457f), value);
 }
 
@@ -142,7 +142,7 @@ TEST_F(TextExchange, ShownNumbersReadBack) {
         const double value = mantissa(random) * std::pow(10.0, std::floor(exponent(random)));
         const std::string shown = Shown(value);
         double back = 0.0;
-        ASSERT_EQ(1, DDX_Text(0, &m_save, IDC_EDIT, back)) << shown;
+        ASSERT_EQ(DDX_Text(0, &m_save, IDC_EDIT, back), 1) << shown;
         ASSERT_NEAR(value, back, std::fabs(value) * 6e-6) << shown;
         ASSERT_EQ(shown, Shown(back));
     }
@@ -150,15 +150,15 @@ TEST_F(TextExchange, ShownNumbersReadBack) {
 
 TEST_F(TextExchange, TheIndeterminateMarkerSurvivesAnUntouchedField) {
     double value = HUGE_VAL;
-    EXPECT_EQ("*****", Shown(value));
+    EXPECT_EQ(Shown(value), "*****");
     for (const int bReport : {0, 1}) {
         value = HUGE_VAL;
-        EXPECT_EQ(0, DDX_Text(bReport, &m_save, IDC_EDIT, value)) << "nothing was read";
-        EXPECT_EQ(HUGE_VAL, value);
+        EXPECT_EQ(DDX_Text(bReport, &m_save, IDC_EDIT, value), 0) << "nothing was read";
+        EXPECT_EQ(value, HUGE_VAL);
     }
     value = 3.0;
     DDX_Text(0, &m_save, IDC_EDIT, value);
-    EXPECT_EQ(3.0, value);
+    EXPECT_EQ(value, 3.0);
 }
 
 // ---- Blank fields
@@ -167,33 +167,33 @@ TEST_F(TextExchange, ABlankFieldIsZero) {
     SetText(IDC_EDIT, " \t ");
     double real = 5.0;
     unsigned int whole = 5;
-    EXPECT_EQ(1, DDX_TextBlank(1, &m_save, IDC_EDIT, real));
-    EXPECT_EQ(1, DDX_TextBlank(1, &m_save, IDC_EDIT, whole));
-    EXPECT_EQ(0.0, real);
-    EXPECT_EQ(0u, whole);
+    EXPECT_EQ(DDX_TextBlank(1, &m_save, IDC_EDIT, real), 1);
+    EXPECT_EQ(DDX_TextBlank(1, &m_save, IDC_EDIT, whole), 1);
+    EXPECT_EQ(real, 0.0);
+    EXPECT_EQ(whole, 0u);
 
     SetText(IDC_EDIT, (std::string(70, ' ') + "4").c_str());
     DDX_TextBlank(1, &m_save, IDC_EDIT, real);
     DDX_TextBlank(1, &m_save, IDC_EDIT, whole);
-    EXPECT_EQ(4.0, real);
-    EXPECT_EQ(4u, whole);
+    EXPECT_EQ(real, 4.0);
+    EXPECT_EQ(whole, 4u);
 
     SetText(IDC_EDIT, "none");
-    EXPECT_EQ(0, DDX_TextBlank(0, &m_save, IDC_EDIT, whole));
-    EXPECT_EQ(4u, whole);
+    EXPECT_EQ(DDX_TextBlank(0, &m_save, IDC_EDIT, whole), 0);
+    EXPECT_EQ(whole, 4u);
 }
 
 TEST_F(TextExchange, ADisabledFieldIsShownEmpty) {
     double real = 5.0;
     unsigned int whole = 5;
     SetText(IDC_DISABLED_EDIT, "old");
-    EXPECT_EQ(1, DDX_TextBlank(1, &m_load, IDC_DISABLED_EDIT, real));
-    EXPECT_EQ("", Text(IDC_DISABLED_EDIT));
+    EXPECT_EQ(DDX_TextBlank(1, &m_load, IDC_DISABLED_EDIT, real), 1);
+    EXPECT_EQ(Text(IDC_DISABLED_EDIT), "");
     SetText(IDC_DISABLED_EDIT, "old");
-    EXPECT_EQ(1, DDX_TextBlank(1, &m_load, IDC_DISABLED_EDIT, whole));
-    EXPECT_EQ("", Text(IDC_DISABLED_EDIT));
-    EXPECT_EQ(1, DDX_TextBlank(1, &m_load, IDC_EDIT, whole));
-    EXPECT_EQ("5", Text(IDC_EDIT));
+    EXPECT_EQ(DDX_TextBlank(1, &m_load, IDC_DISABLED_EDIT, whole), 1);
+    EXPECT_EQ(Text(IDC_DISABLED_EDIT), "");
+    EXPECT_EQ(DDX_TextBlank(1, &m_load, IDC_EDIT, whole), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "5");
 }
 
 } // namespace

@@ -78,11 +78,11 @@ TEST_F(UnitText, ShowsAndSavesValuesInTheirUnits) {
                  {PaperWorld(d, -0.5), 2, "-25.4 mm"}, {Angular(d), 0.7853981633974483, "45"}};
     for (const auto& row : kRows) {
         EXPECT_EQ(row.text, Load(row.value, row.exchange));
-        EXPECT_EQ(1, m_result);
-        EXPECT_EQ(1, Save(row.text, row.exchange)) << row.text;
+        EXPECT_EQ(m_result, 1);
+        EXPECT_EQ(Save(row.text, row.exchange), 1) << row.text;
         EXPECT_NEAR(row.value, m_value, 1e-9) << row.text;
     }
-    EXPECT_EQ(1, Save("1 in", PaperMM(d)));
+    EXPECT_EQ(Save("1 in", PaperMM(d)), 1);
     EXPECT_NEAR(25.4, m_value, 1e-9);
 }
 
@@ -96,14 +96,14 @@ TEST_F(UnitText, RefusesWhatItCannotReadWithoutAMessage) {
     MessageBoxWatcher boxes;
     for (const auto& row : kRows)
         for (const char* text : {"", "much", "2 2", "1e999"}) {
-            EXPECT_EQ(0, Save(text, row.exchange)) << text;
+            EXPECT_EQ(Save(text, row.exchange), 0) << text;
             EXPECT_EQ(row.left, m_value) << text;
             EXPECT_TRUE(Refused([&] { row.exchange(1, &m_save, IDC_EDIT, m_value); })) << text;
         }
     EXPECT_TRUE(boxes.Boxes().empty());
     for (const auto& row : kRows) {
-        EXPECT_EQ("old", Load(HUGE_VAL, row.exchange)) << "no text for it";
-        EXPECT_EQ(0, m_result);
+        EXPECT_EQ(Load(HUGE_VAL, row.exchange), "old") << "no text for it";
+        EXPECT_EQ(m_result, 0);
     }
 }
 
@@ -111,13 +111,13 @@ TEST_F(UnitText, BlankFieldsSaveZeroAndDisabledOnesAreShownEmpty) {
     DrawingStruct* const d = m_drawing.Get();
     for (const Exchange& exchange :
          {Linear(d, 1), Paper(d, 1), PaperMM(d, 1), PaperWorld(d, 2, 1), Angular(d, 1)}) {
-        EXPECT_EQ(1, Save(" \t ", exchange));
-        EXPECT_EQ(0.0, m_value) << "nor the default";
-        EXPECT_EQ("", Load(5.0, exchange, IDC_DISABLED_EDIT));
-        EXPECT_EQ(1, m_result);
-        EXPECT_NE("", Load(5.0, exchange));
+        EXPECT_EQ(Save(" \t ", exchange), 1);
+        EXPECT_EQ(m_value, 0.0) << "nor the default";
+        EXPECT_EQ(Load(5.0, exchange, IDC_DISABLED_EDIT), "");
+        EXPECT_EQ(m_result, 1);
+        EXPECT_NE(Load(5.0, exchange), "");
     }
-    EXPECT_NE("", Load(5.0, Linear(d, 0), IDC_DISABLED_EDIT)) << "without the rule it is shown all the same";
+    EXPECT_NE(Load(5.0, Linear(d, 0), IDC_DISABLED_EDIT), "") << "without the rule it is shown all the same";
 }
 
 TEST_F(UnitText, NeedsADrawingAndAScale) {
@@ -130,13 +130,13 @@ TEST_F(UnitText, NeedsADrawingAndAScale) {
                               PaperWorld(m_drawing.Get(), 1e-8),
                               PaperWorld(m_drawing.Get(), NAN)};
     for (const Exchange& exchange : kRows) {
-        EXPECT_EQ("old", Load(5.0, exchange));
-        EXPECT_EQ(0, m_result);
-        EXPECT_EQ(0, Save("1", exchange));
-        EXPECT_EQ(7.0, m_value);
+        EXPECT_EQ(Load(5.0, exchange), "old");
+        EXPECT_EQ(m_result, 0);
+        EXPECT_EQ(Save("1", exchange), 0);
+        EXPECT_EQ(m_value, 7.0);
         EXPECT_TRUE(Refused([&] { exchange(1, &m_load, IDC_EDIT, m_value); }));
     }
-    EXPECT_EQ(1, Save("1", PaperWorld(m_drawing.Get(), 2e-7)));
+    EXPECT_EQ(Save("1", PaperWorld(m_drawing.Get(), 2e-7)), 1);
     EXPECT_NEAR(1 / 25.4 / 2e-7, m_value, 1e-6);
 }
 
@@ -144,15 +144,15 @@ TEST_F(UnitText, RadiansAreShownInDegrees) {
     const Exchange radians = [](int r, CDataExchange* x, unsigned c, double& v) {
         return DDX_TextRadians(r, x, c, v);
     };
-    EXPECT_EQ("180", Load(3.141592653589793, radians));
-    EXPECT_EQ("*****", Load(HUGE_VAL, radians));
-    EXPECT_EQ("", Load(1.0, radians, IDC_DISABLED_EDIT));
-    EXPECT_EQ(1, Save("180", radians));
+    EXPECT_EQ(Load(3.141592653589793, radians), "180");
+    EXPECT_EQ(Load(HUGE_VAL, radians), "*****");
+    EXPECT_EQ(Load(1.0, radians, IDC_DISABLED_EDIT), "");
+    EXPECT_EQ(Save("180", radians), 1);
     EXPECT_NEAR(3.141592653589793, m_value, 1e-6);
-    EXPECT_EQ(1, Save("", radians));
-    EXPECT_EQ(0.0, m_value);
-    EXPECT_EQ(0, Save("north", radians));
-    EXPECT_EQ(7.0, m_value);
+    EXPECT_EQ(Save("", radians), 1);
+    EXPECT_EQ(m_value, 0.0);
+    EXPECT_EQ(Save("north", radians), 0);
+    EXPECT_EQ(m_value, 7.0);
 }
 
 } // namespace

@@ -16,8 +16,8 @@ protected:
     void ExpectPasses(const Check& check) {
         const MessageBoxWatcher boxes;
         for (const int report : {0, 1}) {
-            EXPECT_EQ(1, check(report, &m_load));
-            EXPECT_EQ(1, check(report, &m_save));
+            EXPECT_EQ(check(report, &m_load), 1);
+            EXPECT_EQ(check(report, &m_save), 1);
         }
         EXPECT_TRUE(boxes.Boxes().empty());
     }
@@ -25,11 +25,11 @@ protected:
     void ExpectFails(const std::string& says, const Check& check) {
         SCOPED_TRACE(says);
         MessageBoxWatcher boxes;
-        EXPECT_EQ(1, check(1, &m_load)) << "loading checks nothing";
-        EXPECT_EQ(0, check(0, &m_save));
+        EXPECT_EQ(check(1, &m_load), 1) << "loading checks nothing";
+        EXPECT_EQ(check(0, &m_save), 0);
         EXPECT_TRUE(boxes.Boxes().empty());
         EXPECT_TRUE(Refused([&] { check(1, &m_save); }));
-        ASSERT_EQ(1u, boxes.Boxes().size());
+        ASSERT_EQ(boxes.Boxes().size(), 1u);
         EXPECT_NE(std::string::npos, boxes.Boxes()[0].text.find(says)) << boxes.Boxes()[0].text;
         EXPECT_TRUE(boxes.Boxes()[0].exclamation);
     }
@@ -64,8 +64,8 @@ TEST_F(Limits, AreInclusiveAndCheckedWhenSaving) {
 }
 
 TEST_F(Limits, AreToldInStringsThatTheFrameworkFinds) {
-    EXPECT_EQ("Please enter a valid scale (i.e., '1 in = 1 ft' or '1 : 1').", Prompt(IDS_ENTER_SCALE));
-    EXPECT_EQ("Properties", Prompt(IDS_PROPERTIES));
+    EXPECT_EQ(Prompt(IDS_ENTER_SCALE), "Please enter a valid scale (i.e., '1 in = 1 ft' or '1 : 1').");
+    EXPECT_EQ(Prompt(IDS_PROPERTIES), "Properties");
 }
 
 } // namespace

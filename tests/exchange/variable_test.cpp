@@ -41,8 +41,8 @@ protected:
 };
 
 TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
-    EXPECT_EQ(1, DDX_TextVarNumeric(1, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
-    EXPECT_EQ("0", Text(IDC_EDIT)) << "no such variable";
+    EXPECT_EQ(DDX_TextVarNumeric(1, &m_load, IDC_EDIT, m_table, kLong, 1, 5), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "0") << "no such variable";
     const struct {
         const char* typed;
         double min, max;
@@ -56,36 +56,36 @@ TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
     }
     MessageBoxWatcher boxes;
     EXPECT_TRUE(Refused([&] { DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5); }));
-    EXPECT_EQ(1u, boxes.Boxes().size());
-    EXPECT_EQ(1, DDX_TextVarNumeric(0, &m_load, IDC_EDIT, m_table, kLong, 1, 5));
-    EXPECT_EQ("6", Text(IDC_EDIT));
+    EXPECT_EQ(boxes.Boxes().size(), 1u);
+    EXPECT_EQ(DDX_TextVarNumeric(0, &m_load, IDC_EDIT, m_table, kLong, 1, 5), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "6");
 
     SetText(IDC_EDIT, "-12");
-    EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 100));
-    EXPECT_EQ(-99, Whole()) << "no whole number";
-    EXPECT_EQ(1, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0)) << "without limits";
-    EXPECT_EQ(-12, Whole());
+    EXPECT_EQ(DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 100), 0);
+    EXPECT_EQ(Whole(), -99) << "no whole number";
+    EXPECT_EQ(DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0), 1) << "without limits";
+    EXPECT_EQ(Whole(), -12);
     SetText(IDC_EDIT, "1.5");
-    EXPECT_EQ(0, DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0));
-    EXPECT_EQ(1, DDX_TextVarInt(0, &m_load, IDC_EDIT, m_table, kLong, 0, 0));
-    EXPECT_EQ("-12", Text(IDC_EDIT));
+    EXPECT_EQ(DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 0), 0);
+    EXPECT_EQ(DDX_TextVarInt(0, &m_load, IDC_EDIT, m_table, kLong, 0, 0), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "-12");
 }
 
 TEST_F(VariableExchange, TextsKeepTheirLength) {
     const std::string text(300, 'x');
     TableSetStringVar(m_table, kVariable, text.c_str());
-    EXPECT_EQ(1, DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong));
+    EXPECT_EQ(DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong), 1);
     EXPECT_EQ(text.substr(0, 127), Text(IDC_EDIT));
-    EXPECT_EQ(1, DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong));
+    EXPECT_EQ(DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong), 1);
     EXPECT_EQ(text.substr(0, 255), Text(IDC_COMBO));
     SetText(IDC_EDIT, "short");
-    EXPECT_EQ(1, DDX_TextVarString(1, &m_save, IDC_EDIT, m_table, kLong));
-    EXPECT_EQ(1, DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong));
-    EXPECT_EQ("short", Text(IDC_COMBO));
+    EXPECT_EQ(DDX_TextVarString(1, &m_save, IDC_EDIT, m_table, kLong), 1);
+    EXPECT_EQ(DDX_CBVarString(1, &m_load, IDC_COMBO, m_table, kLong), 1);
+    EXPECT_EQ(Text(IDC_COMBO), "short");
     SetText(IDC_COMBO, "other");
-    EXPECT_EQ(1, DDX_CBVarString(1, &m_save, IDC_COMBO, m_table, kLong));
-    EXPECT_EQ(1, DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong));
-    EXPECT_EQ("other", Text(IDC_EDIT));
+    EXPECT_EQ(DDX_CBVarString(1, &m_save, IDC_COMBO, m_table, kLong), 1);
+    EXPECT_EQ(DDX_TextVarString(1, &m_load, IDC_EDIT, m_table, kLong), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "other");
 }
 
 TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
@@ -94,21 +94,21 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
         return DDX_TextVarDeviceInches(bReport, &dx, IDC_EDIT, units, m_table, kVariable, min, max,
                                        AFX_IDP_PARSE_REAL_RANGE);
     };
-    EXPECT_EQ(1, exchange(1, m_load, 0, 0));
-    EXPECT_EQ("0.635 mm", Text(IDC_EDIT)) << "no such variable";
+    EXPECT_EQ(exchange(1, m_load, 0, 0), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "0.635 mm") << "no such variable";
     SetText(IDC_EDIT, "1 in");
-    EXPECT_EQ(1, exchange(1, m_save, 0, 2));
+    EXPECT_EQ(exchange(1, m_save, 0, 2), 1);
     EXPECT_NEAR(1.0, Real(), 1e-12);
-    EXPECT_EQ(1, exchange(0, m_save, 0, Real())) << "the limits are inclusive";
-    EXPECT_EQ(1, exchange(0, m_save, Real(), 2));
+    EXPECT_EQ(exchange(0, m_save, 0, Real()), 1) << "the limits are inclusive";
+    EXPECT_EQ(exchange(0, m_save, Real(), 2), 1);
     SetText(IDC_EDIT, "3 in");
-    EXPECT_EQ(0, exchange(0, m_save, 0, 2));
+    EXPECT_EQ(exchange(0, m_save, 0, 2), 0);
     {
         MessageBoxWatcher boxes;
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
         SetText(IDC_EDIT, "thick");
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
-        ASSERT_EQ(2u, boxes.Boxes().size());
+        ASSERT_EQ(boxes.Boxes().size(), 2u);
         EXPECT_EQ(boxes.Boxes()[0].text, boxes.Boxes()[1].text) << "the limits, for a bad text too";
     }
     {
@@ -116,28 +116,28 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 2, 0); }));
         EXPECT_EQ(Prompt(AFX_IDP_PARSE_REAL), boxes.OnlyText()) << "without limits";
     }
-    EXPECT_EQ(0, exchange(0, m_save, 0, 2));
+    EXPECT_EQ(exchange(0, m_save, 0, 2), 0);
     EXPECT_NEAR(1.0, Real(), 1e-12);
-    EXPECT_EQ(1, exchange(0, m_load, 0, 2));
-    EXPECT_EQ("25.4 mm", Text(IDC_EDIT));
-    EXPECT_EQ(0, DDX_TextVarDeviceInches(0, &m_load, IDC_EDIT, nullptr, m_table, kVariable, 0, 0, 0));
+    EXPECT_EQ(exchange(0, m_load, 0, 2), 1);
+    EXPECT_EQ(Text(IDC_EDIT), "25.4 mm");
+    EXPECT_EQ(DDX_TextVarDeviceInches(0, &m_load, IDC_EDIT, nullptr, m_table, kVariable, 0, 0, 0), 0);
 }
 
 TEST_F(VariableExchange, BoxesAndButtonsFollowWholeNumbers) {
     TableSetIntVar(m_table, kVariable, 2);
     DDX_CheckVarInt(1, &m_load, IDC_THREE_STATE, m_table, kLong);
-    EXPECT_EQ(2, Send(IDC_THREE_STATE, BM_GETCHECK));
+    EXPECT_EQ(Send(IDC_THREE_STATE, BM_GETCHECK), 2);
     Send(IDC_THREE_STATE, BM_SETCHECK, 1);
     DDX_CheckVarInt(1, &m_save, IDC_THREE_STATE, m_table, kLong);
-    EXPECT_EQ(1, Whole());
+    EXPECT_EQ(Whole(), 1);
     DDX_RadioVarInt(1, &m_load, IDC_RADIO_FIRST, m_table, kLong);
-    EXPECT_EQ(IDC_RADIO_SECOND, Checked());
+    EXPECT_EQ(Checked(), IDC_RADIO_SECOND);
     Check(0);
     DDX_RadioVarInt(1, &m_save, IDC_RADIO_FIRST, m_table, kLong);
-    EXPECT_EQ(-1, Whole());
+    EXPECT_EQ(Whole(), -1);
     Check(IDC_RADIO_THIRD);
     DDX_RadioVarInt(1, &m_load, IDC_RADIO_FIRST, m_table, kVariable + 1);
-    EXPECT_EQ(0, Checked()) << "no such variable";
+    EXPECT_EQ(Checked(), 0) << "no such variable";
 }
 
 TEST_F(VariableExchange, AMapTellsWhatTheButtonsStandFor) {
@@ -147,23 +147,23 @@ TEST_F(VariableExchange, AMapTellsWhatTheButtonsStandFor) {
     } kRows[] = {{0, IDC_RADIO_SECOND, 0}, {1, IDC_RADIO_THIRD, 1}, {5, 0, -1}, {-1, 0, -1}};
     for (const auto& row : kRows) {
         int value = row.value;
-        EXPECT_EQ(1, DDX_RadioMap(1, &m_load, IDC_RADIO_FIRST, value, map, 4));
+        EXPECT_EQ(DDX_RadioMap(1, &m_load, IDC_RADIO_FIRST, value, map, 4), 1);
         EXPECT_EQ(row.button, Checked()) << row.value;
-        EXPECT_EQ(1, DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 4));
+        EXPECT_EQ(DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 4), 1);
         EXPECT_EQ(row.saved, value);
 
         long longMap[] = {-1, 1, 0, 1};
         TableSetIntVar(m_table, kVariable, row.value);
-        EXPECT_EQ(1, DDX_RadioVarIntMap(1, &m_load, IDC_RADIO_FIRST, m_table, kLong, longMap, 4));
+        EXPECT_EQ(DDX_RadioVarIntMap(1, &m_load, IDC_RADIO_FIRST, m_table, kLong, longMap, 4), 1);
         EXPECT_EQ(row.button, Checked()) << row.value;
-        EXPECT_EQ(1, DDX_RadioVarIntMap(1, &m_save, IDC_RADIO_FIRST, m_table, kLong, longMap, 4));
+        EXPECT_EQ(DDX_RadioVarIntMap(1, &m_save, IDC_RADIO_FIRST, m_table, kLong, longMap, 4), 1);
         EXPECT_EQ(row.saved, Whole());
     }
     Check(IDC_RADIO_THIRD);
     int value = 7;
-    EXPECT_EQ(0, DDX_RadioMap(0, &m_save, IDC_RADIO_FIRST, value, map, 3)) << "the map has two buttons";
+    EXPECT_EQ(DDX_RadioMap(0, &m_save, IDC_RADIO_FIRST, value, map, 3), 0) << "the map has two buttons";
     EXPECT_TRUE(Refused([&] { DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 3); }));
-    EXPECT_EQ(7, value);
+    EXPECT_EQ(value, 7);
 }
 
 TEST_F(VariableExchange, AnIndexHasABaseAndLimits) {
@@ -172,27 +172,27 @@ TEST_F(VariableExchange, AnIndexHasABaseAndLimits) {
     const struct { int selected, stored; } kRows[] = {{0, 1}, {1, 2}, {2, 3}, {3, 2}, {5, 2}, {-1, 2}};
     for (const auto& row : kRows) {
         Send(IDC_DROP_LIST, CB_SETCURSEL, static_cast<WPARAM>(row.selected));
-        EXPECT_EQ(1, DDX_CBVarIndex(1, &m_save, IDC_DROP_LIST, m_table, kLong, 1, 3, 2));
+        EXPECT_EQ(DDX_CBVarIndex(1, &m_save, IDC_DROP_LIST, m_table, kLong, 1, 3, 2), 1);
         EXPECT_EQ(row.stored, Whole()) << row.selected;
-        EXPECT_EQ(1, DDX_CBVarIndex(1, &m_load, IDC_DROP_LIST, m_table, kLong, 1, 3, 2));
+        EXPECT_EQ(DDX_CBVarIndex(1, &m_load, IDC_DROP_LIST, m_table, kLong, 1, 3, 2), 1);
         EXPECT_EQ(row.stored - 1, Send(IDC_DROP_LIST, CB_GETCURSEL));
     }
     TableSetIntVar(m_table, kVariable, 50);
     DDX_CBVarIndex(1, &m_load, IDC_DROP_LIST, m_table, kLong, 1, 3, 2);
-    EXPECT_EQ(CB_ERR, Send(IDC_DROP_LIST, CB_GETCURSEL));
+    EXPECT_EQ(Send(IDC_DROP_LIST, CB_GETCURSEL), CB_ERR);
 }
 
 TEST_F(VariableExchange, TheScaleIsThatOfTheDrawing) {
     DrawingSetScaleString(m_drawing.Get(), "1 : 48");
-    EXPECT_EQ(1, DDX_CBVarScale(1, &m_load, IDC_COMBO, m_drawing.Get()));
-    EXPECT_EQ("1 : 48", Text(IDC_COMBO));
+    EXPECT_EQ(DDX_CBVarScale(1, &m_load, IDC_COMBO, m_drawing.Get()), 1);
+    EXPECT_EQ(Text(IDC_COMBO), "1 : 48");
     SetText(IDC_COMBO, "1 : 20");
-    EXPECT_EQ(1, DDX_CBVarScale(1, &m_save, IDC_COMBO, m_drawing.Get()));
+    EXPECT_EQ(DDX_CBVarScale(1, &m_save, IDC_COMBO, m_drawing.Get()), 1);
     SetText(IDC_COMBO, "large");
-    EXPECT_EQ(1, DDX_CBVarScale(0, &m_save, IDC_COMBO, m_drawing.Get()));
+    EXPECT_EQ(DDX_CBVarScale(0, &m_save, IDC_COMBO, m_drawing.Get()), 1);
     char text[64] = "";
     DrawingGetScaleString(m_drawing.Get(), text, sizeof text);
-    EXPECT_STREQ("1 : 20", text);
+    EXPECT_STREQ(text, "1 : 20");
 }
 
 } // namespace

@@ -37,11 +37,12 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
         auto* page = new BadDrawing(failure.fail);
         sheet.Sheet().AddPage(page);
         MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
             for (int i = 0; i < 5; ++i)
                 sheet.Sheet().UpdatePreview(1);
             user.Ok();
-        }));
+        }),
+                  IDOK);
         EXPECT_GE(page->drawn, 5);
         EXPECT_EQ(failure.text, boxes.OnlyText());
     }
@@ -55,17 +56,18 @@ TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
         TestSheet sheet(kit);
         const WidthPage page(sheet);
         MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
             EXPECT_EQ(failure.text, boxes.OnlyText());
-            EXPECT_EQ(0, user.ActivePage());
-            EXPECT_EQ(0, sheet.Sheet().GetTabControl()->GetCurSel());
+            EXPECT_EQ(user.ActivePage(), 0);
+            EXPECT_EQ(sheet.Sheet().GetTabControl()->GetCurSel(), 0);
             EXPECT_TRUE(::IsWindowVisible(user.Page()));
             kit[0].onGet = nullptr;
             user.SelectPage(1);
             user.Type(kEdit, "5");
             user.Ok();
-        }));
-        EXPECT_EQ(5, kit[0].Number("Width"));
+        }),
+                  IDOK);
+        EXPECT_EQ(kit[0].Number("Width"), 5);
     }
 }
 
@@ -75,12 +77,14 @@ TEST(HostTrouble, ASheetWhoseFirstPageCannotBeReadOpensOnTheNext) {
     TestSheet sheet(kit);
     const WidthPage page(sheet);
     MessageBoxWatcher boxes;
-    EXPECT_EQ(IDOK, SheetDriver().Run(sheet.Sheet(), [&](SheetDriver& user) {
-        EXPECT_EQ("no disk", boxes.OnlyText());
-        EXPECT_EQ(1, user.ActivePage());
-        EXPECT_EQ(1, sheet.Sheet().GetTabControl()->GetCurSel());
-        user.Ok();
-    }));
+    EXPECT_EQ(SheetDriver().Run(sheet.Sheet(),
+                                [&](SheetDriver& user) {
+                                    EXPECT_EQ(boxes.OnlyText(), "no disk");
+                                    EXPECT_EQ(user.ActivePage(), 1);
+                                    EXPECT_EQ(sheet.Sheet().GetTabControl()->GetCurSel(), 1);
+                                    user.Ok();
+                                }),
+              IDOK);
 }
 
 struct PreviewOfAnother : ExchangePage {
@@ -99,12 +103,13 @@ TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
         TestSheet sheet(kit);
         auto* page = new PreviewOfAnother(kit[0].graphic);
         sheet.Sheet().AddPage(page);
-        EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
-            EXPECT_EQ(0, sheet.Sheet().OnStatusChange(1));
+        EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
+            EXPECT_EQ(sheet.Sheet().OnStatusChange(1), 0);
             user.Type(kEdit, "x");
-            EXPECT_NE(0, page->IsModified());
+            EXPECT_NE(page->IsModified(), 0);
             user.Ok();
-        }));
+        }),
+                  IDOK);
     }
     EXPECT_EQ(blocks, kit.Blocks());
     uint32_t position;

@@ -33,11 +33,11 @@ TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
         ::ShowWindow(Tabs(), SW_SHOW);
         user.Focus(kEdit);
         user.Key(VK_TAB, false, true);
-        EXPECT_EQ(2, user.ActivePage());
+        EXPECT_EQ(user.ActivePage(), 2);
         EXPECT_EQ(Tabs(), ::GetFocus());
         ::PostMessageA(::GetFocus(), WM_CHAR, '7', 1);
         user.Pump();
-        EXPECT_EQ(1, ::GetWindowTextLengthA(field));
+        EXPECT_EQ(::GetWindowTextLengthA(field), 1);
     });
 }
 
@@ -48,10 +48,10 @@ TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
             user.Type(kEdit, "bad");
             ::SetFocus(Tabs());
             user.Key(key);
-            EXPECT_EQ(1u, boxes.Boxes().size());
-            EXPECT_EQ(1, user.ActivePage());
-            EXPECT_EQ(1, ::SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0));
-            EXPECT_EQ(1, ::SendMessageA(Tabs(), TCM_GETCURFOCUS, 0, 0));
+            EXPECT_EQ(boxes.Boxes().size(), 1u);
+            EXPECT_EQ(user.ActivePage(), 1);
+            EXPECT_EQ(::SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0), 1);
+            EXPECT_EQ(::SendMessageA(Tabs(), TCM_GETCURFOCUS, 0, 0), 1);
             user.Type(kEdit, "4");
             const int wanted = key == VK_LEFT ? 0 : 2;
             user.SelectPage(wanted);
@@ -89,12 +89,12 @@ TEST_F(Keyboard, OkIsTheDefaultAgainWhenAPushButtonIsLeftForATab) {
         user.Focus(kEdit);
         while (::GetFocus() != push)
             user.Key(VK_TAB);
-        EXPECT_EQ(UINT{BS_DEFPUSHBUTTON}, TypeOf(push));
-        EXPECT_EQ(UINT{BS_PUSHBUTTON}, TypeOf(ok));
+        EXPECT_EQ(TypeOf(push), UINT{BS_DEFPUSHBUTTON});
+        EXPECT_EQ(TypeOf(ok), UINT{BS_PUSHBUTTON});
         user.SelectPage(0);
-        EXPECT_EQ(0, user.ActivePage());
-        EXPECT_EQ(UINT{BS_DEFPUSHBUTTON}, TypeOf(ok));
-        EXPECT_EQ(UINT{BS_PUSHBUTTON}, TypeOf(push));
+        EXPECT_EQ(user.ActivePage(), 0);
+        EXPECT_EQ(TypeOf(ok), UINT{BS_DEFPUSHBUTTON});
+        EXPECT_EQ(TypeOf(push), UINT{BS_PUSHBUTTON});
     });
 }
 

@@ -59,13 +59,16 @@ protected:
 
     // General, Pen, Brush and Text are complete, and a pen is written.
     void ExpectWorking(const Copy& copy, double scale) {
-        EXPECT_EQ(IDOK, copy.Run(kit, [&](SheetDriver& user) {
-            ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
-            user.SelectPage(1);
-            ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
-            user.Type(IDC_PEN_SCALE, std::to_string(scale));
-            user.Ok();
-        }));
+        EXPECT_EQ(copy.Run(kit,
+                           [&](SheetDriver& user) {
+                               ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
+                               user.SelectPage(1);
+                               ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0),
+                                         0);
+                               user.Type(IDC_PEN_SCALE, std::to_string(scale));
+                               user.Ok();
+                           }),
+                  IDOK);
         EXPECT_EQ(scale, kit[0].Number(kPropPenScale));
     }
 
@@ -84,7 +87,7 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
             EXPECT_NE(taken, place);
             ExpectWorking(copy, i);
         }
-        EXPECT_EQ(nullptr, ::GetModuleHandleA("orlo.dll"));
+        EXPECT_EQ(::GetModuleHandleA("orlo.dll"), nullptr);
         WNDCLASSA left;
         EXPECT_FALSE(::GetClassInfoA(::GetModuleHandleA(nullptr), "QXComboBox", &left));
         EXPECT_FALSE(::GetClassInfoA(::GetModuleHandleA(nullptr), "QXListBox", &left));
@@ -127,9 +130,9 @@ TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
     copy.Run(kit, [&](SheetDriver& user) {
         char caption[64];
         ::GetWindowTextA(user.Sheet(), caption, sizeof caption);
-        EXPECT_STREQ("Properties", caption);
+        EXPECT_STREQ(caption, "Properties");
         const HWND layers = user.Control(IDC_LAYER);
-        ASSERT_NE(nullptr, layers);
+        ASSERT_NE(layers, nullptr);
         Pixels pixels(60, 20);
         pixels.Clear(RGB(1, 2, 3));
         const RECT eye = {0, 0, 16, 20};
@@ -138,12 +141,12 @@ TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
         ::SendMessageA(user.Page(), WM_DRAWITEM, IDC_LAYER, reinterpret_cast<LPARAM>(&draw));
         EXPECT_GT(pixels.CountWhere(eye, [](COLORREF c) { return c != ::GetSysColor(COLOR_WINDOW); }), 0);
         user.SelectPage(3);
-        EXPECT_EQ("Regular", user.ItemText(IDC_FONT_STYLE, 0));
-        EXPECT_EQ("Italic", user.ItemText(IDC_FONT_STYLE, 1));
+        EXPECT_EQ(user.ItemText(IDC_FONT_STYLE, 0), "Regular");
+        EXPECT_EQ(user.ItemText(IDC_FONT_STYLE, 1), "Italic");
         const MessageBoxWatcher boxes;
         user.Type(IDC_FONT_SIZE, "0");
         user.Ok();
-        EXPECT_EQ("Please enter a valid font size.", boxes.OnlyText());
+        EXPECT_EQ(boxes.OnlyText(), "Please enter a valid font size.");
     });
 }
 

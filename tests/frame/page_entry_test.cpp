@@ -61,14 +61,14 @@ struct PageEntry : ::testing::Test {
 
 TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
     MessageBoxWatcher boxes;
-    EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+    EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
         for (const bool visited : {false, true}) {
             other->throwsOnEntry = true;
             for (const char* way : kWays) {
                 boxes.Clear();
                 user.Focus(kEdit);
                 GoOn(user, way);
-                EXPECT_EQ(kReason, boxes.OnlyText()) << way << visited;
+                EXPECT_EQ(boxes.OnlyText(), kReason) << way << visited;
                 ExpectOn(1, way);
                 EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << way << visited;
             }
@@ -81,8 +81,9 @@ TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
         GoOn(user, "click");
         user.Type(kEdit, "5");
         user.Ok();
-    }));
-    EXPECT_EQ(5, kit[0].Number("Width")) << "typed into the page that was seen";
+    }),
+              IDOK);
+    EXPECT_EQ(kit[0].Number("Width"), 5) << "typed into the page that was seen";
 }
 
 TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
@@ -94,12 +95,12 @@ TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
         for (const char* way : kWays) {
             boxes.Clear();
             GoOn(user, way);
-            EXPECT_EQ(kReason, boxes.OnlyText()) << way;
+            EXPECT_EQ(boxes.OnlyText(), kReason) << way;
             ExpectOn(2, way);
         }
         boxes.Clear();
         user.Ok();
-        EXPECT_EQ(kReason, boxes.OnlyText());
+        EXPECT_EQ(boxes.OnlyText(), kReason);
         ASSERT_TRUE(::IsWindow(user.Sheet()));
         other->throwsOnLeaving = false;
     });
@@ -111,8 +112,8 @@ TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
     sheet.Run([&](SheetDriver&) {
         other->throwsOnEntry = true;
         sheet.Sheet().RemovePage(1);
-        EXPECT_EQ(kReason, boxes.OnlyText());
-        EXPECT_EQ(2, sheet.Sheet().GetActiveIndex());
+        EXPECT_EQ(boxes.OnlyText(), kReason);
+        EXPECT_EQ(sheet.Sheet().GetActiveIndex(), 2);
         EXPECT_TRUE(::IsWindowVisible(sheet.Sheet().GetPage(2)->m_hWnd));
         EXPECT_FALSE(::IsWindowVisible(other->m_hWnd));
     });
@@ -130,7 +131,7 @@ TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
             TestSheet sheet(kit);
             const WidthPage width(sheet), second(sheet);
             const MessageBoxWatcher boxes;
-            EXPECT_EQ(IDOK, sheet.Run([&](SheetDriver& user) {
+            EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
                 user.Type(kEdit, "5");
                 {
                     const FailingMemory memory(module, nth);
@@ -143,8 +144,9 @@ TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
                 EXPECT_TRUE(active == 1 || kit[0].Number("Width") == 5) << "left without saving";
                 user.Type(kEdit, "7");
                 user.Ok();
-            }));
-            EXPECT_EQ(7, kit[0].Number("Width"));
+            }),
+                      IDOK);
+            EXPECT_EQ(kit[0].Number("Width"), 7);
             if (nth > 2000) FAIL();
         }
     }

@@ -27,10 +27,10 @@ struct PageLife : ::testing::Test {
 
 TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
     sheet.Run([&](SheetDriver& user) {
-        EXPECT_EQ(0, page->IsModified());
-        EXPECT_EQ(0, page->GetControlStatus(kEdit));
-        EXPECT_EQ(std::vector<int>{1}, page->previewCalls);
-        EXPECT_EQ("1", user.Text(kEdit));
+        EXPECT_EQ(page->IsModified(), 0);
+        EXPECT_EQ(page->GetControlStatus(kEdit), 0);
+        EXPECT_EQ(page->previewCalls, std::vector<int>{1});
+        EXPECT_EQ(user.Text(kEdit), "1");
     });
 }
 
@@ -62,11 +62,11 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
 TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
     sheet.Run([&](SheetDriver& user) {
         Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all
-        EXPECT_EQ(0, page->IsModified());
+        EXPECT_EQ(page->IsModified(), 0);
         user.Type(kEdit, "2");
         const size_t calls = page->previewCalls.size();
         EXPECT_GT(calls, 1u);
-        EXPECT_EQ(0, page->previewCalls.back());
+        EXPECT_EQ(page->previewCalls.back(), 0);
         Send(user, kEdit, EN_KILLFOCUS);
         EXPECT_EQ(calls, page->previewCalls.size());
     });
@@ -75,10 +75,10 @@ TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
 TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
     sheet.Run([&](SheetDriver& user) {
         user.Click(kRadio + 1);
-        EXPECT_EQ(1, page->GetControlStatus(kRadio));
-        EXPECT_EQ(0, page->GetControlStatus(kRadio + 1));
+        EXPECT_EQ(page->GetControlStatus(kRadio), 1);
+        EXPECT_EQ(page->GetControlStatus(kRadio + 1), 0);
         user.Click(kLoneRadio); // no group begins before it
-        EXPECT_EQ(1, page->GetControlStatus(kLoneRadio));
+        EXPECT_EQ(page->GetControlStatus(kLoneRadio), 1);
     });
 }
 
@@ -86,29 +86,29 @@ TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
     page->IgnoreApply(kOtherEdit);
     sheet.Run([&](SheetDriver& user) {
         user.Type(kOtherEdit, "x");
-        EXPECT_EQ(0, page->IsModified());
-        EXPECT_EQ(0, page->GetControlStatus(kOtherEdit));
-        EXPECT_EQ(1, page->GetControlStatus(9999)) << "no such control";
-        EXPECT_EQ(0, page->SetControlStatus(9999, 1));
+        EXPECT_EQ(page->IsModified(), 0);
+        EXPECT_EQ(page->GetControlStatus(kOtherEdit), 0);
+        EXPECT_EQ(page->GetControlStatus(9999), 1) << "no such control";
+        EXPECT_EQ(page->SetControlStatus(9999, 1), 0);
         kit[0].properties["Width"].number = 8;
         ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0); // a refresh that has not been asked for
-        EXPECT_EQ("1", user.Text(kEdit));
+        EXPECT_EQ(user.Text(kEdit), "1");
     });
 }
 
 TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
     sheet.Run([&](SheetDriver& user) {
         user.Type(kEdit, "5");
-        EXPECT_EQ(1, kit[0].Number("Width"));
+        EXPECT_EQ(kit[0].Number("Width"), 1);
         user.SelectPage(0);
-        EXPECT_EQ(5, kit[0].Number("Width"));
+        EXPECT_EQ(kit[0].Number("Width"), 5);
         kit[0].properties["Width"].number = 8;
         user.SelectPage(1);
-        EXPECT_EQ(0, page->GetControlStatus(kEdit));
-        EXPECT_EQ("5", user.Text(kEdit));
-        EXPECT_NE(0, page->IsModified());
+        EXPECT_EQ(page->GetControlStatus(kEdit), 0);
+        EXPECT_EQ(user.Text(kEdit), "5");
+        EXPECT_NE(page->IsModified(), 0);
     });
-    EXPECT_EQ(8, kit[0].Number("Width")); // Cancel writes nothing further and undoes nothing
+    EXPECT_EQ(kit[0].Number("Width"), 8); // Cancel writes nothing further and undoes nothing
 }
 
 } // namespace

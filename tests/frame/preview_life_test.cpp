@@ -89,7 +89,7 @@ TEST_F(PreviewLife, TheBlockIsRemovedFromItsDrawingWhicheverIsCurrent) {
     ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
     sheet.reset();
     EXPECT_FALSE(HasPreviewBlock());
-    EXPECT_NE(0, ::BlocksFindBlock(blocks, kPreviewBlock));
+    EXPECT_NE(::BlocksFindBlock(blocks, kPreviewBlock), 0);
     ::AppSetCurrentDrawing(drawing.Get());
 }
 
@@ -103,9 +103,9 @@ TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
     for (const char* typed : {"5", "7"}) {
         EXPECT_EQ(IDCANCEL, SheetDriver().Run(*sheet, [&](SheetDriver& user) {
             user.SelectPage(2); // Brush
-            EXPECT_EQ(1, scaleOfPreview());
+            EXPECT_EQ(scaleOfPreview(), 1);
             user.SelectPage(1); // Pen
-            EXPECT_EQ(1, scaleOfPreview());
+            EXPECT_EQ(scaleOfPreview(), 1);
             user.Type(IDC_PEN_SCALE, typed);
             EXPECT_EQ(std::stod(typed), scaleOfPreview());
             user.Cancel();
@@ -130,10 +130,12 @@ TEST_F(PreviewLife, ASheetThatRunsAgainHasNoEndCodeYet) {
         user.Type(IDC_STYLE_NAME, "Column");
         user.Key(VK_TAB, true);
     }));
-    EXPECT_EQ(IDOK, SheetDriver().Run(*sheet, [](SheetDriver& user) {
-        user.Type(IDC_STYLE_NAME, "Beam");
-        user.Key(VK_RETURN);
-    }));
+    EXPECT_EQ(SheetDriver().Run(*sheet,
+                                [](SheetDriver& user) {
+                                    user.Type(IDC_STYLE_NAME, "Beam");
+                                    user.Key(VK_RETURN);
+                                }),
+              IDOK);
 }
 
 } // namespace

@@ -31,7 +31,7 @@ TEST(PagesOfAKind, AreAddedOnce) {
         graphic->dwFlags |= row.flags;
         TestSheet sheet(kit);
         for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(0, ::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()));
+            EXPECT_EQ(::AddGraphicPropertyPage(nullptr, graphic, &sheet.Sheet()), 0);
         ASSERT_EQ(row.penAndBrush ? 3 : 1, sheet.Sheet().GetPageCount());
         EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(IDD_GENERAL_PAGE));
         if (!row.penAndBrush) continue;
@@ -55,9 +55,9 @@ TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
     ::RegenMethodRegister(methods, 7, &method);
     {
         TestSheet sheet(kit);
-        EXPECT_EQ(41, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
-        EXPECT_EQ(42, ::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()));
-        EXPECT_EQ(5, sheet.Sheet().GetPageCount());
+        EXPECT_EQ(::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()), 41);
+        EXPECT_EQ(::AddGraphicPropertyPage(methods, graphic, &sheet.Sheet()), 42);
+        EXPECT_EQ(sheet.Sheet().GetPageCount(), 5);
         EXPECT_EQ(sheet.Sheet().GetPage(1), sheet.Sheet().FindPage(IDD_PEN_PAGE));
     }
     ::RegenMethodsDispose(&methods);
@@ -75,9 +75,9 @@ TEST(FindPage, NumbersFindNumbersAndNamesFindEqualNames) {
     sheet.Sheet().AddPage(named);
     const std::string otherAddress = "NAMED_PAGE", otherCase = "Named_Page";
     EXPECT_EQ(named, sheet.Sheet().FindPage(otherAddress.c_str()));
-    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(otherCase.c_str()));
+    EXPECT_EQ(sheet.Sheet().FindPage(otherCase.c_str()), nullptr);
     EXPECT_EQ(sheet.Sheet().GetPage(0), sheet.Sheet().FindPage(0x12340000u + IDD_GENERAL_PAGE));
-    EXPECT_EQ(nullptr, sheet.Sheet().FindPage(IDD_PEN_PAGE));
+    EXPECT_EQ(sheet.Sheet().FindPage(IDD_PEN_PAGE), nullptr);
 }
 
 TEST(SheetResult, OkIsOneAndEscapeCancels) {
@@ -92,8 +92,8 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
         });
         EXPECT_EQ(key == VK_RETURN ? 1 : IDCANCEL, result);
     }
-    EXPECT_EQ(4, kit[0].Number("Width"));
-    EXPECT_EQ(1u, kit[0].writes.size());
+    EXPECT_EQ(kit[0].Number("Width"), 4);
+    EXPECT_EQ(kit[0].writes.size(), 1u);
 }
 
 RECT InSheet(HWND window, HWND sheet) {
@@ -109,12 +109,12 @@ TEST(SheetLayout, PageAtTheLeftButtonsAboveASquarePreviewNoApply) {
     sheet.Add([](CDataExchange*) {});
     sheet.Run([&](SheetDriver& user) {
         const HWND window = user.Sheet();
-        EXPECT_EQ(nullptr, ::GetDlgItem(window, 0xEA00));
+        EXPECT_EQ(::GetDlgItem(window, 0xEA00), nullptr);
         RECT client;
         ::GetClientRect(window, &client);
         const RECT preview = InSheet(::GetDlgItem(window, 3999), window);
-        EXPECT_EQ(100, preview.right - preview.left);
-        EXPECT_EQ(100, preview.bottom - preview.top);
+        EXPECT_EQ(preview.right - preview.left, 100);
+        EXPECT_EQ(preview.bottom - preview.top, 100);
         RECT page = InSheet(user.Page(), window);
         EXPECT_LT(page.right, preview.left);
         EXPECT_LE(preview.right, client.right);
@@ -158,7 +158,7 @@ CSize Measure(void* dialog) {
 TEST(DialogMeasure, FollowsTemplateAndFont) {
     const HMODULE module = ::GetModuleHandleA(nullptr);
     const HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(kTestPage), RT_DIALOG);
-    ASSERT_NE(nullptr, found);
+    ASSERT_NE(found, nullptr);
     const CSize measured = Measure(::LoadResource(module, found)), standard = Measure(nullptr);
     EXPECT_GT(measured.cx, 200);
     EXPECT_LT(measured.cx, 800);

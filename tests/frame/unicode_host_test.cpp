@@ -45,19 +45,19 @@ public:
 TEST(UnicodeHost, UsesTheFrameworkAndTheSheet) {
     auto* frame = new CUnicodeFrame;
     ASSERT_TRUE(frame->Create(nullptr, "a host"));
-    EXPECT_EQ(1, frame->created);
+    EXPECT_EQ(frame->created, 1);
     CRect window;
     frame->GetWindowRect(window);
-    EXPECT_EQ(321, window.Width());
+    EXPECT_EQ(window.Width(), 321);
     CString text;
     frame->GetWindowText(text);
-    EXPECT_STREQ("a host", text);
+    EXPECT_STREQ(text, "a host");
     frame->SetWindowText("another");
-    EXPECT_EQ(7, frame->GetWindowTextLength());
+    EXPECT_EQ(frame->GetWindowTextLength(), 7);
     frame->SendMessage(kTest);
-    EXPECT_EQ(1, frame->forwarded);
+    EXPECT_EQ(frame->forwarded, 1);
     ::SetWindowText(frame->m_hWnd, L"wide"); // the system's own functions stay the wide ones
-    EXPECT_EQ(0, ::DefWindowProc(frame->m_hWnd, kTest, 0, 0));
+    EXPECT_EQ(::DefWindowProc(frame->m_hWnd, kTest, 0, 0), 0);
     EXPECT_FALSE(text.LoadString(1));
     CFont font;
     const LOGFONTA shape = {};
@@ -66,7 +66,7 @@ TEST(UnicodeHost, UsesTheFrameworkAndTheSheet) {
     DrawingStruct* drawing = DrawingNew();
     CGraphicPropertySheet* sheet = InitGraphicPropertySheet(frame, nullptr, drawing, nullptr, kAllGraphics);
     sheet->AddPage(new CUnicodePage);
-    EXPECT_EQ(2, sheet->GetPageCount());
+    EXPECT_EQ(sheet->GetPageCount(), 2);
     delete sheet;
     DrawingDispose(&drawing);
     frame->DestroyWindow();

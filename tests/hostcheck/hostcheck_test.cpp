@@ -62,7 +62,7 @@ TEST(HostcheckProgram, PassesForCompleteDatabases) {
          {"drawcore32.dll", "drawcore32.dll --drawing " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf",
           "skeleton\\drawcore32.dll", "faulty\\drawcore32.dll"}) {
         const Outcome outcome = Hostcheck(arguments);
-        EXPECT_EQ(0u, outcome.exitCode) << arguments << '\n' << outcome.out;
+        EXPECT_EQ(outcome.exitCode, 0u) << arguments << '\n' << outcome.out;
         EXPECT_NE(std::string::npos, outcome.out.find("passed  MatrixScale")) << outcome.out;
     }
 }
@@ -82,7 +82,7 @@ TEST(HostcheckProgram, ReportsEachFaultAndEachRequirementCanFail) {
     for (const Fault& fault : kFaults) {
         ::SetEnvironmentVariableA(kFaultVariable, fault.name);
         const Outcome outcome = Hostcheck("faulty\\drawcore32.dll");
-        EXPECT_EQ(1u, outcome.exitCode) << fault.name;
+        EXPECT_EQ(outcome.exitCode, 1u) << fault.name;
         EXPECT_NE(std::string::npos, outcome.out.find(std::string("FAILED  ") + fault.function + ' '))
             << fault.name;
         EXPECT_NE(std::string::npos, outcome.out.find(" passed, "))
@@ -93,7 +93,7 @@ TEST(HostcheckProgram, ReportsEachFaultAndEachRequirementCanFail) {
     const std::set<std::string> all = Requirements(Hostcheck("faulty\\drawcore32.dll"), "passed");
     EXPECT_GT(all.size(), 100u);
     for (const std::string& requirement : all)
-        EXPECT_EQ(1u, failed.count(requirement)) << "no fault violates: " << requirement;
+        EXPECT_EQ(failed.count(requirement), 1u) << "no fault violates: " << requirement;
 }
 
 TEST(HostcheckProgram, ReportsWhyNothingCanBeChecked) {
@@ -108,7 +108,7 @@ TEST(HostcheckProgram, ReportsWhyNothingCanBeChecked) {
                            {"", "usage"},
                            {"--nosuch", "usage"}}) {
         const Outcome outcome = Hostcheck(row.arguments);
-        EXPECT_EQ(2u, outcome.exitCode) << row.arguments;
+        EXPECT_EQ(outcome.exitCode, 2u) << row.arguments;
         EXPECT_NE(std::string::npos, outcome.out.find(row.message)) << row.arguments << ": " << outcome.out;
     }
 }

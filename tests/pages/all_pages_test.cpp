@@ -85,7 +85,7 @@ TEST_F(AllPages, UntouchedPagesWriteNothing) {
             ok ? user.Ok() : user.Cancel();
         });
         sheet.reset(); // with the block of its preview
-        EXPECT_EQ(0, ::DrawingEndUndo(kinds.Drawing()));
+        EXPECT_EQ(::DrawingEndUndo(kinds.Drawing()), 0);
         ExpectUnchanged(before);
     }
 }

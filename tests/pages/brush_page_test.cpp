@@ -47,25 +47,24 @@ TEST_F(BrushPage, ShowsAnEqualBrush) {
     for (int i = 0; i < 2; ++i)
         Add("Diagonal cross", kBlue, 2.5, 30 * kDegree, 1, 1);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ((std::vector<std::string>{"Diagonal cross", "2.5", "30", "1", "1", "0", "00FF0000"}),
-                  ShownBrush(user));
-        EXPECT_EQ("Vector:", user.Text(IDC_BRUSH_KIND_TEXT));
+        EXPECT_EQ(ShownBrush(user),
+                  (std::vector<std::string>{"Diagonal cross", "2.5", "30", "1", "1", "0", "00FF0000"}));
+        EXPECT_EQ(user.Text(IDC_BRUSH_KIND_TEXT), "Vector:");
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(BrushPage, DifferingBrushesShowTheirMarkersAndSurviveOk) {
     Add("Cross", kRed, 2, 30 * kDegree, 1, 1);
     Add("Vertical", kBlue, 3, 45 * kDegree, 0, 0);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(
-            (std::vector<std::string>{"Indeterminate", "Indeterminate", "Indeterminate", "2", "0", "0", ""}),
-            ShownBrush(user));
-        EXPECT_EQ(-1, user.Selection(IDC_BRUSH_STYLE_LIST));
-        EXPECT_EQ(-1, user.Selection(IDC_BRUSH_COLOR));
+        EXPECT_EQ(ShownBrush(user), (std::vector<std::string>{"Indeterminate", "Indeterminate",
+                                                              "Indeterminate", "2", "0", "0", ""}));
+        EXPECT_EQ(user.Selection(IDC_BRUSH_STYLE_LIST), -1);
+        EXPECT_EQ(user.Selection(IDC_BRUSH_COLOR), -1);
         EXPECT_FALSE(::IsWindowEnabled(user.Control(IDC_BRUSH_COLOR)));
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(BrushPage, OneEditOverDifferingBrushesChangesOneProperty) {
@@ -120,10 +119,10 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
             user.Type(IDC_BRUSH_SCALE, scale);
             user.Ok();
             EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
-            EXPECT_EQ(1u, boxes.Boxes().size());
+            EXPECT_EQ(boxes.Boxes().size(), 1u);
             EXPECT_EQ(user.Control(IDC_BRUSH_SCALE), ::GetFocus());
         });
-        EXPECT_EQ(0, kit.Writes());
+        EXPECT_EQ(kit.Writes(), 0);
     }
     RunOk([](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "steep"); });
     EXPECT_EQ(30 * kDegree, kit[0].Number(kPropBrushAngle));
@@ -138,11 +137,11 @@ TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
         user.Type(IDC_BRUSH_ANGLE, "30");
         user.Type(IDC_BRUSH_SCALE, "wide");
         user.Ok();
-        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes().size(), 1u);
         user.Type(IDC_BRUSH_ANGLE, "abc");
         user.Type(IDC_BRUSH_SCALE, "3");
     });
-    EXPECT_EQ(3, kit[0].Number(kPropBrushScale));
+    EXPECT_EQ(kit[0].Number(kPropBrushScale), 3);
     EXPECT_EQ(50 * kDegree, kit[0].Number(kPropBrushAngle));
     EXPECT_EQ(60 * kDegree, kit[1].Number(kPropBrushAngle));
 }
@@ -159,8 +158,8 @@ TEST_F(BrushPage, StoredNumbersThatNobodyEditedAreNotJudged) {
             RunOk([](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); });
             EXPECT_TRUE(boxes.Boxes().empty());
             EXPECT_EQ(scale, kit[0].Number(kPropBrushScale));
-            EXPECT_EQ(1e39, kit[0].Number(kPropBrushAngle));
-            EXPECT_EQ(kDarkest, kit[0].Number(kPropBrushColor));
+            EXPECT_EQ(kit[0].Number(kPropBrushAngle), 1e39);
+            EXPECT_EQ(kit[0].Number(kPropBrushColor), kDarkest);
         }
     }
 }
@@ -168,13 +167,13 @@ TEST_F(BrushPage, StoredNumbersThatNobodyEditedAreNotJudged) {
 TEST_F(BrushPage, AnAngleThatCannotBeWrittenLeavesItsFieldBlank) {
     Add("Cross", kRed, 1, -HUGE_VAL, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-        EXPECT_EQ("", user.Text(IDC_BRUSH_ANGLE));
+        EXPECT_EQ(user.Text(IDC_BRUSH_ANGLE), "");
         kit[0].properties[kPropBrushAngle] = 0.0;
         page.UpdateData(FALSE);
-        EXPECT_EQ("0", user.Text(IDC_BRUSH_ANGLE));
+        EXPECT_EQ(user.Text(IDC_BRUSH_ANGLE), "0");
         kit[0].properties[kPropBrushAngle] = -HUGE_VAL;
         page.UpdateData(FALSE);
-        EXPECT_EQ("", user.Text(IDC_BRUSH_ANGLE));
+        EXPECT_EQ(user.Text(IDC_BRUSH_ANGLE), "");
     });
 }
 
@@ -186,7 +185,7 @@ TEST_F(BrushPage, ArrowsUpAndDownAgainLeaveTheAngleAsItWas) {
         user.Key(VK_UP);
         user.Key(VK_DOWN);
     });
-    EXPECT_EQ(kOdd, kit[0].Number(kPropBrushAngle));
+    EXPECT_EQ(kit[0].Number(kPropBrushAngle), kOdd);
 }
 
 // The pen of the other pages' previews arrives at this one, which keeps its own.
@@ -232,12 +231,13 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         ::TableSetIntVar(kit.Drawing()->pUnits, kUnitAngularSystem, row.system);
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       user.Type(IDC_BRUSH_ANGLE, row.text);
                       user.Key(row.key);
                       EXPECT_NEAR(row.expected, Previewed(page, kPropBrushAngle), 1e-6);
                       user.Ok();
-                  }));
+                  }),
+                  IDOK);
         EXPECT_NEAR(row.expected, kit[0].Number(kPropBrushAngle), 1e-6);
     }
     RunOk([](SheetDriver& user) {
@@ -245,7 +245,7 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
         const LPARAM upper = MAKELPARAM(2, 2);
         ::SendMessageA(user.Control(IDC_BRUSH_ANGLE_ARROWS), WM_LBUTTONDOWN, MK_LBUTTON, upper);
         ::SendMessageA(user.Control(IDC_BRUSH_ANGLE_ARROWS), WM_LBUTTONUP, 0, upper);
-        EXPECT_EQ("steep", user.Text(IDC_BRUSH_ANGLE)) << "not an angle to start from";
+        EXPECT_EQ(user.Text(IDC_BRUSH_ANGLE), "steep") << "not an angle to start from";
     });
 }
 
@@ -261,9 +261,9 @@ TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
         user.Type(IDC_BRUSH_SCALE, "7");
         EXPECT_NEAR(1.0 / 20, Previewed(page, kPropBrushScale), 1e-6) << "never the user's";
         user.Choose(IDC_BRUSH_COLOR, 0);
-        EXPECT_EQ(kDarkest, Previewed<unsigned long>(page, kPropBrushColor));
+        EXPECT_EQ(Previewed<unsigned long>(page, kPropBrushColor), kDarkest);
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 // The overlap of the two squares is filled in winding mode only.
@@ -275,8 +275,8 @@ TEST_F(BrushPage, ThePreviewShowsTheDrawMode) {
             DrawPreview(page, pixels, 101, 101);
             return std::pair(pixels.At(20, 35), pixels.At(50, 50)); // one square alone; the overlap
         };
-        EXPECT_EQ(kRed, colors().first);
-        EXPECT_NE(kRed, colors().second);
+        EXPECT_EQ(colors().first, kRed);
+        EXPECT_NE(colors().second, kRed);
         user.Click(IDC_DRAW_WINDING);
         EXPECT_EQ(std::pair(COLORREF{kRed}, COLORREF{kRed}), colors());
     });

@@ -47,7 +47,7 @@ double Degrees(Host, const char* text) {
 double PenWidth(Host drawing, const char* text) {
     double value = 0;
     EXPECT_TRUE(::UnitsTextToNumericEx(drawing->pUnits, kUnitPenWidth, 0, text, &value));
-    return value * kInchesPerMillimetre;
+    return value * kInchesPerMillimeter;
 }
 double Angle(Host drawing, const char* text) {
     double value = 0;
@@ -238,7 +238,7 @@ protected:
             ::AddGraphicPropertyPage(nullptr, (*kit)[i].graphic, &sheet.Sheet());
         const int result = sheet.Run([&](SheetDriver& user) {
             auto* page = sheet.Sheet().FindPage(id);
-            ASSERT_NE(nullptr, page);
+            ASSERT_NE(page, nullptr);
             sheet.Sheet().SetActivePage(page);
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });

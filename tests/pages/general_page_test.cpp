@@ -26,26 +26,26 @@ TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
     for (int i = 0; i < 2; ++i)
         Add(doors, "oak\r\npainted");
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("Doors", user.ItemText(IDC_LAYER, user.Selection(IDC_LAYER)).substr(9));
-        EXPECT_EQ("oak\r\npainted", user.Text(IDC_INFO));
+        EXPECT_EQ(user.ItemText(IDC_LAYER, user.Selection(IDC_LAYER)).substr(9), "Doors");
+        EXPECT_EQ(user.Text(IDC_INFO), "oak\r\npainted");
         for (const int id : {IDC_STYLE_NAME, IDC_STYLE_NEW, IDC_STYLE_DELETE, IDC_STYLE_GROUP}) {
             EXPECT_FALSE(::IsWindowVisible(user.Control(id))) << id;
             EXPECT_FALSE(IsEnabled(user, id)) << id;
         }
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
     Add(walls, "a");
     Add(doors, "b");
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(-1, user.Selection(IDC_LAYER));
-        EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
+        EXPECT_EQ(user.Selection(IDC_LAYER), -1);
+        EXPECT_EQ(user.Text(IDC_INFO), "<Indeterminate>");
         user.Type(IDC_INFO, "x");
         user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
@@ -58,37 +58,38 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
         user.Choose(IDC_LAYER, 2);
         user.Cancel();
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 // Loaded a second time, as by Apply, the page is as at the first.
 TEST_F(GeneralPage, TextsThatDifferShowAsSuchAtEveryLoad) {
     Add(walls, "a");
     Add(walls, "b");
-    EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+    EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                   page.UpdateData(FALSE);
-                  EXPECT_EQ("<Indeterminate>", user.Text(IDC_INFO));
+                  EXPECT_EQ(user.Text(IDC_INFO), "<Indeterminate>");
                   user.SelectPage(0);
                   user.Focus(IDC_INFO);
                   user.Key(VK_END, false, true);
                   user.Key('X');
                   user.Ok();
-              }));
-    EXPECT_EQ("<Indeterminate>x", kit[0].Text(kPropInfo));
-    EXPECT_EQ("<Indeterminate>x", kit[1].Text(kPropInfo));
+              }),
+              IDOK);
+    EXPECT_EQ(kit[0].Text(kPropInfo), "<Indeterminate>x");
+    EXPECT_EQ(kit[1].Text(kPropInfo), "<Indeterminate>x");
 }
 
 TEST_F(GeneralPage, ATextMayBeginWithTheByteOfTheMarker) {
     for (int i = 0; i < 2; ++i)
         Add(walls, "\xFF\xF1");
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("\xFF\xF1", user.Text(IDC_INFO));
+        EXPECT_EQ(user.Text(IDC_INFO), "\xFF\xF1");
         user.Focus(IDC_INFO);
         ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
         ::SendMessageA(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>("\xFF\xED\xE2"));
     });
     for (size_t i : {0, 1})
-        EXPECT_EQ("\xFF\xED\xE2", kit[i].Text(kPropInfo));
+        EXPECT_EQ(kit[i].Text(kPropInfo), "\xFF\xED\xE2");
 }
 
 // Three styles of one tree, one of them reserved, and a block of another tree.
@@ -139,10 +140,10 @@ protected:
 
 TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
     RunOver(beam, [&](SheetDriver& user) {
-        EXPECT_EQ("Beam", user.ItemText(IDC_STYLE_NAME, 0));
-        EXPECT_EQ("Column", user.ItemText(IDC_STYLE_NAME, 1));
-        EXPECT_EQ("Standard", user.ItemText(IDC_STYLE_NAME, 2));
-        EXPECT_EQ("", user.ItemText(IDC_STYLE_NAME, 3));
+        EXPECT_EQ(user.ItemText(IDC_STYLE_NAME, 0), "Beam");
+        EXPECT_EQ(user.ItemText(IDC_STYLE_NAME, 1), "Column");
+        EXPECT_EQ(user.ItemText(IDC_STYLE_NAME, 2), "Standard");
+        EXPECT_EQ(user.ItemText(IDC_STYLE_NAME, 3), "");
         struct {
             const char* name;
             bool canMake, canDelete;
@@ -154,7 +155,7 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
             EXPECT_EQ(row.canDelete, IsEnabled(user, IDC_STYLE_DELETE)) << row.name;
         }
         user.Type(IDC_STYLE_NAME, std::string(60, 'W')); // wider than the field
-        EXPECT_EQ(32u, user.Text(IDC_STYLE_NAME).size());
+        EXPECT_EQ(user.Text(IDC_STYLE_NAME).size(), 32u);
         user.Type(IDC_STYLE_NAME, "Beam");
     });
 }
@@ -177,32 +178,34 @@ TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
                       row.then(
                           user); // Tab goes back to the layer: the next control would be the Delete button
                   }));
-    EXPECT_NE(0, ::BlocksFindBlock(styles, "Column")) << "deleting is the host's";
+    EXPECT_NE(::BlocksFindBlock(styles, "Column"), 0) << "deleting is the host's";
 }
 
 TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
-    EXPECT_EQ(1000, RunOver(beam, [](SheetDriver& user) {
-                  user.Type(IDC_STYLE_NAME, "Girder");
-                  user.Click(IDC_STYLE_NEW);
-              }));
+    EXPECT_EQ(RunOver(beam,
+                      [](SheetDriver& user) {
+                          user.Type(IDC_STYLE_NAME, "Girder");
+                          user.Click(IDC_STYLE_NEW);
+                      }),
+              1000);
     const uint16_t girder = ::BlocksFindBlock(styles, "Girder");
-    ASSERT_NE(0, girder);
+    ASSERT_NE(girder, 0);
     GraphicStruct* copy = ::BlockGetGraphic(styles, girder);
     EXPECT_NE(::BlockGetGraphic(styles, beam), copy);
-    EXPECT_NE(nullptr, *orlo::host::Members(copy).begin());
+    EXPECT_NE(*orlo::host::Members(copy).begin(), nullptr);
 }
 
 TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
                   user.Type(IDC_STYLE_NAME, "Girder");
                   user.Focus(IDC_INFO);
-                  EXPECT_EQ("Column", user.Text(IDC_STYLE_NAME));
+                  EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Column");
                   EXPECT_FALSE(IsEnabled(user, IDC_STYLE_NEW));
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_DELETE));
 
                   user.Type(IDC_STYLE_NAME, "");
                   user.Focus(IDC_INFO);
-                  EXPECT_EQ("Column", user.Text(IDC_STYLE_NAME));
+                  EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Column");
 
                   // Return is refused over a new name, a typed one of another style, and a listed one; the name stays for the
                   // user to look at.
@@ -223,7 +226,7 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
                   ::SendMessageA(user.Page(), WM_COMMAND, IDC_STYLE_DELETE,
                                  reinterpret_cast<LPARAM>(user.Control(IDC_STYLE_DELETE)));
                   EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << "not even by its command";
-                  EXPECT_EQ("Standard", user.Text(IDC_STYLE_NAME));
+                  EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Standard");
                   List(user, "Beam");
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_DELETE));
                   user.Type(IDC_STYLE_NAME, "Girder");
@@ -240,12 +243,14 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
 }
 
 TEST_F(StylePart, AnotherProgramInFrontChoosesNothing) {
-    EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
-                  user.Type(IDC_STYLE_NAME, "Beam");
-                  ::SetFocus(nullptr);
-                  user.Pump();
-                  EXPECT_EQ("Beam", user.Text(IDC_STYLE_NAME));
-              }));
+    EXPECT_EQ(RunOver(column,
+                      [](SheetDriver& user) {
+                          user.Type(IDC_STYLE_NAME, "Beam");
+                          ::SetFocus(nullptr);
+                          user.Pump();
+                          EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Beam");
+                      }),
+              IDCANCEL);
 }
 
 } // namespace

@@ -68,7 +68,7 @@ protected:
             ::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(), selection, kAllGraphics));
         for (GraphicStruct* graphic : insertions)
             ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
-        EXPECT_EQ(2, sheet->GetPageCount()) << "one page for all of them";
+        EXPECT_EQ(sheet->GetPageCount(), 2) << "one page for all of them";
         return SheetDriver().Run(*sheet, [&](SheetDriver& user) {
             user.SelectPage(1);
             auto* page = sheet->FindPage(IDD_INSERT_PAGE);
@@ -79,10 +79,11 @@ protected:
     // The same with OK at the end, which has to be accepted without a message.
     void RunOk(const SheetDriver::Script& script) {
         MessageBoxWatcher boxes;
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       script(user);
                       user.Ok();
-                  }));
+                  }),
+                  IDOK);
         EXPECT_TRUE(boxes.Boxes().empty());
     }
     // What a paste does: one change for the whole text.
@@ -106,7 +107,7 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
         std::string texts;
         for (const int id : kAll)
             texts += user.Text(id) + " ";
-        EXPECT_EQ("2 ***** 1 0 0 ***** 1 ***** 0 ", texts);
+        EXPECT_EQ(texts, "2 ***** 1 0 0 ***** 1 ***** 0 ");
     });
 }
 
@@ -130,7 +131,7 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
         });
         EXPECT_EQ(before, All());
     }
-    EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
+    EXPECT_EQ(::DrawingEndUndo(drawing.Get()), 0);
 }
 
 // One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts it.
@@ -166,8 +167,8 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
             for (const auto group : {&InsertParts::position, &InsertParts::scale, &InsertParts::rotation})
                 for (int k = 0; k < 3; ++k)
                     EXPECT_NEAR((expected[i].*group)[k], (Parts(i).*group)[k], 1e-6);
-        EXPECT_EQ(3, ::DrawingEndUndo(drawing.Get()));
-        EXPECT_EQ(3, ::DrawingUndo(drawing.Get()));
+        EXPECT_EQ(::DrawingEndUndo(drawing.Get()), 3);
+        EXPECT_EQ(::DrawingUndo(drawing.Get()), 3);
         EXPECT_EQ(before, All());
     }
 }
@@ -199,11 +200,11 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     RunOk([&](SheetDriver& user) {
         Paste(user, IDC_POSITION_X, "9");
         user.SelectPage(0);
-        EXPECT_EQ(9, Parts(0).position[0]);
+        EXPECT_EQ(Parts(0).position[0], 9);
         user.SelectPage(1);
         Paste(user, IDC_POSITION_X, "1.23457e+06");
     });
-    EXPECT_EQ(1234570, Parts(1).position[0]);
+    EXPECT_EQ(Parts(1).position[0], 1234570);
 }
 
 // "12d" alone would be reported before the rest of "12d30" is typed.
@@ -214,17 +215,17 @@ TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft
         MessageBoxWatcher boxes;
         user.Type(IDC_ROTATION_X, "12d30");
         EXPECT_TRUE(boxes.Boxes().empty());
-        EXPECT_EQ("12d30", user.Text(IDC_ROTATION_X));
+        EXPECT_EQ(user.Text(IDC_ROTATION_X), "12d30");
         user.Key(VK_TAB);
-        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes().size(), 1u);
         EXPECT_EQ(user.Control(IDC_ROTATION_X), ::GetFocus());
-        EXPECT_EQ("12d30", user.Text(IDC_ROTATION_X));
+        EXPECT_EQ(user.Text(IDC_ROTATION_X), "12d30");
         boxes.Clear();
         user.Ok();
-        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes().size(), 1u);
         user.Type(IDC_ROTATION_X, "12.5");
         user.Key(VK_TAB);
-        EXPECT_EQ(1u, boxes.Boxes().size());
+        EXPECT_EQ(boxes.Boxes().size(), 1u);
         EXPECT_EQ(user.Control(IDC_ROTATION_Y), ::GetFocus());
     });
     EXPECT_EQ(before, All());
@@ -236,23 +237,24 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
     Run([&](SheetDriver&, CGraphicPropertyPage& page) {
         EXPECT_EQ(own, ::BlocksFindBlock(blocks, kPreviewBlock));
-        EXPECT_NE(nullptr, page.GetPreviewGraphic());
+        EXPECT_NE(page.GetPreviewGraphic(), nullptr);
     });
-    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
+    EXPECT_EQ(::BlocksFindBlock(blocks, kPreviewBlock), 0);
     const Vertices before = All();
     ::DrawingBeginUndo(drawing.Get());
-    EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-                  EXPECT_NE(0, ::BlocksFindBlock(blocks, kPreviewBlock));
+    EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+                  EXPECT_NE(::BlocksFindBlock(blocks, kPreviewBlock), 0);
                   for (const int id : kAll)
                       Paste(user, id, "9");
                   user.Cancel();
-              }));
+              }),
+              IDCANCEL);
     EXPECT_EQ(before, All());
-    EXPECT_EQ(0, ::DrawingEndUndo(drawing.Get()));
-    EXPECT_EQ(0, ::BlocksFindBlock(blocks, kPreviewBlock));
+    EXPECT_EQ(::DrawingEndUndo(drawing.Get()), 0);
+    EXPECT_EQ(::BlocksFindBlock(blocks, kPreviewBlock), 0);
     int cookie = 0;
     EXPECT_EQ(block, ::TableEntryFirst(blocks, &cookie));
-    EXPECT_EQ(0, ::TableEntryNext(blocks, &cookie)) << "no other block";
+    EXPECT_EQ(::TableEntryNext(blocks, &cookie), 0) << "no other block";
 }
 
 // The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
@@ -270,20 +272,21 @@ TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
                  {IDC_POSITION_X, "2*(", 0},   {IDC_POSITION_Y, "2*)", 1},   {IDC_POSITION_Z, "1/0", 0}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.text);
-        EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
+        EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       MessageBoxWatcher boxes;
                       Paste(user, row.id, row.text);
                       EXPECT_EQ(row.atOnce, boxes.Boxes().size());
                       user.Focus(row.id == IDC_SCALE_X ? IDC_SCALE_Y : IDC_SCALE_X);
                       boxes.Clear();
                       user.Ok();
-                      EXPECT_EQ(1u, boxes.Boxes().size());
+                      EXPECT_EQ(boxes.Boxes().size(), 1u);
                       EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
                       EXPECT_EQ(user.Control(row.id), ::GetFocus());
                       EXPECT_EQ(row.text, user.Text(row.id));
                       user.SelectPage(0);
                       EXPECT_EQ(page.m_hWnd, user.Page()) << "nor is there a way to another page";
-                  }));
+                  }),
+                  IDCANCEL);
         EXPECT_EQ(before, All());
     }
 }
@@ -329,12 +332,12 @@ TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
 TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
     Add({{0, 0, 0}, {2, 2, 0}, {0, 0, 30 * kDegree}});
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("0", user.Text(IDC_SCALE_Z));
-        EXPECT_EQ("30", user.Text(IDC_ROTATION_Z));
+        EXPECT_EQ(user.Text(IDC_SCALE_Z), "0");
+        EXPECT_EQ(user.Text(IDC_ROTATION_Z), "30");
         user.Type(IDC_ROTATION_Z, "60");
     });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
-    EXPECT_EQ(0, Parts(0).scale[2]);
+    EXPECT_EQ(Parts(0).scale[2], 0);
     RunOk([](SheetDriver& user) { user.Type(IDC_SCALE_Z, "3"); });
     EXPECT_NEAR(60 * kDegree, Parts(0).rotation[2], 1e-6);
     EXPECT_NEAR(3, Parts(0).scale[2], 1e-6);

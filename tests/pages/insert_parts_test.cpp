@@ -103,8 +103,8 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
         SetAxes(row.a, row.b, row.c);
         InsertParts parts;
         ::InsertGetParts(m_graphic, &parts);
-        EXPECT_EQ(10, parts.position[0]);
-        EXPECT_EQ(30, parts.position[2]);
+        EXPECT_EQ(parts.position[0], 10);
+        EXPECT_EQ(parts.position[2], 30);
         for (int k = 0; k < 3; ++k) {
             EXPECT_NEAR(row.scale[k], parts.scale[k], 1e-12);
             EXPECT_NEAR(row.rotation[k], parts.rotation[k], 1e-12) << &row - kRows << " about " << k;

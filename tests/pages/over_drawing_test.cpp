@@ -57,7 +57,7 @@ protected:
         m_page = page;
         char message[256] = "";
         m_drawing = ::DrawingOpenDxf(path, nullptr, message, sizeof message);
-        ASSERT_NE(nullptr, m_drawing) << message;
+        ASSERT_NE(m_drawing, nullptr) << message;
         ::AppSetCurrentDrawing(m_drawing);
         m_frame = std::make_unique<HostFrame>(m_drawing);
         ::PropPageInit();
@@ -78,11 +78,13 @@ protected:
             ::InitGraphicPropertySheet(m_frame.get(), nullptr, m_drawing, m_selection, kAllGraphics));
         for (GraphicStruct* graphic : m_graphics)
             ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
-        EXPECT_EQ(IDOK, SheetDriver().Run(*sheet, [&](SheetDriver& user) {
-            user.SelectPage(sheet->GetPageIndex(sheet->FindPage(m_page)));
-            script(user);
-            user.Ok();
-        }));
+        EXPECT_EQ(SheetDriver().Run(*sheet,
+                                    [&](SheetDriver& user) {
+                                        user.SelectPage(sheet->GetPageIndex(sheet->FindPage(m_page)));
+                                        script(user);
+                                        user.Ok();
+                                    }),
+                  IDOK);
     }
     // The edit, which may add to the values, gives them to all graphics that have them, and undo reverts them.
     void ExpectEdit(Values& changed, const SheetDriver::Script& edit) {

@@ -36,17 +36,18 @@ protected:
             ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
             auto* page = sheet.Sheet().FindPage(m_page);
-            ASSERT_NE(nullptr, page);
+            ASSERT_NE(page, nullptr);
             sheet.Sheet().SetActivePage(page);
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
     }
     // The same with OK at the end, which has to be accepted.
     void RunOk(const SheetDriver::Script& script) {
-        EXPECT_EQ(IDOK, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       script(user);
                       user.Ok();
-                  }));
+                  }),
+                  IDOK);
     }
 
     struct Edit {
@@ -69,7 +70,7 @@ protected:
                     EXPECT_NEAR(value.number, kit[i].Number(name), 1e-9) << name;
                     EXPECT_EQ(value.text, kit[i].Text(name));
                 }
-                EXPECT_EQ(1u, kit[i].writes.size()) << "no other property is written";
+                EXPECT_EQ(kit[i].writes.size(), 1u) << "no other property is written";
                 kit[i].properties = before[i];
                 kit[i].writes.clear();
             }

@@ -50,11 +50,11 @@ protected:
 TEST_F(PenPage, ShowsAnEqualPen) {
     AddEqual();
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ((std::vector<std::string>{"1 mm", "2", "DASHED", "000000FF", "1"}), ShownPen(user));
-        EXPECT_NE(-1, user.Selection(IDC_LINE_STYLE_LIST));
-        EXPECT_EQ(1, user.Selection(IDC_SCALE_SYSTEM));
+        EXPECT_EQ(ShownPen(user), (std::vector<std::string>{"1 mm", "2", "DASHED", "000000FF", "1"}));
+        EXPECT_NE(user.Selection(IDC_LINE_STYLE_LIST), -1);
+        EXPECT_EQ(user.Selection(IDC_SCALE_SYSTEM), 1);
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
     for (const auto& [style, name] : {std::pair(0, "Undefined"), {4242, ""}}) {
         for (size_t i : {0, 1})
             kit[i].properties[kPropPenStyle] = style;
@@ -65,12 +65,12 @@ TEST_F(PenPage, ShowsAnEqualPen) {
 TEST_F(PenPage, DifferingPensShowTheirMarkersAndSurviveOk) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ((std::vector<std::string>{"*****", "Indeterminate", "Indeterminate", "", "2"}),
-                  ShownPen(user));
+        EXPECT_EQ(ShownPen(user),
+                  (std::vector<std::string>{"*****", "Indeterminate", "Indeterminate", "", "2"}));
         for (const int id : {IDC_LINE_STYLE_LIST, IDC_SCALE_SYSTEM, IDC_COLOR})
-            EXPECT_EQ(-1, user.Selection(id)) << id;
+            EXPECT_EQ(user.Selection(id), -1) << id;
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(PenPage, OneEditOverDifferingPensChangesOneProperty) {
@@ -93,7 +93,7 @@ TEST_F(PenPage, TheWidthIsExpressedAnewWhenTheScaleSystemChanges) {
         EXPECT_TRUE(::DrawingStdTextToNumeric(kit.Drawing(), user.Text(IDC_PEN_WIDTH).c_str(), &value, 0));
         EXPECT_NEAR(1 / kInch, value, 1e-4) << "the stored number, the edit dropped";
         user.Choose(IDC_SCALE_SYSTEM, 1);
-        EXPECT_EQ("1 mm", user.Text(IDC_PEN_WIDTH));
+        EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "1 mm");
     });
     EXPECT_NEAR(1 / kInch, kit[0].Number(kPropPenWidth), 1e-9);
 }
@@ -125,7 +125,7 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
             for (int i = 0; i < count; ++i)
                 widths.push_back(user.ItemText(IDC_PEN_WIDTH, i));
             EXPECT_EQ(expected, widths);
-            EXPECT_EQ("1 mm", user.Text(IDC_PEN_WIDTH));
+            EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "1 mm");
         });
     }
 }
@@ -137,8 +137,8 @@ TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
     WriteIni("[PenWidths]\nmm=0.25, 0.5\n");
     ::TableSetStringVar(settings, kVarDecimalMark, ",");
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("0,25 mm", user.ItemText(IDC_PEN_WIDTH, 0));
-        EXPECT_EQ("0,5 mm", user.ItemText(IDC_PEN_WIDTH, 1));
+        EXPECT_EQ(user.ItemText(IDC_PEN_WIDTH, 0), "0,25 mm");
+        EXPECT_EQ(user.ItemText(IDC_PEN_WIDTH, 1), "0,5 mm");
         user.Focus(IDC_PEN_WIDTH);
         user.Key(VK_UP); // from 1 mm
     });
@@ -157,7 +157,7 @@ TEST_F(PenPage, ARefusedWidthHasTheFocus) {
             EXPECT_TRUE(::IsChild(user.Control(IDC_PEN_WIDTH), ::GetFocus())) << typed;
             user.Type(IDC_PEN_WIDTH, "2 mm");
         });
-        EXPECT_EQ(kRed, kit[0].Number(kPropPenColor));
+        EXPECT_EQ(kit[0].Number(kPropPenColor), kRed);
         EXPECT_NEAR(2 / kInch, kit[0].Number(kPropPenWidth), 1e-12);
     }
 }
@@ -179,7 +179,7 @@ TEST_F(PenPage, StoredNumbersThatNobodyEditedAreNotJudged) {
         EXPECT_TRUE(boxes.Boxes().empty()) << odd;
         EXPECT_EQ(odd, kit[0].Number(kPropPenScale));
         EXPECT_EQ(-odd, kit[0].Number(kPropPenWidth));
-        EXPECT_NE(1, kit[0].Number(kPropPenAlignment));
+        EXPECT_NE(kit[0].Number(kPropPenAlignment), 1);
     }
 }
 
@@ -194,14 +194,15 @@ TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
         SCOPED_TRACE(text);
         const int id = control;
         const std::string typed = text;
-        EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user, CGraphicPropertyPage&) {
+        EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       MessageBoxWatcher boxes;
                       user.Choose(IDC_COLOR, 0);
                       user.Type(id, typed);
                       user.Ok();
                       EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
-                  }));
-        EXPECT_EQ(0, kit.Writes());
+                  }),
+                  IDCANCEL);
+        EXPECT_EQ(kit.Writes(), 0);
     }
 }
 
@@ -217,15 +218,15 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "furlong");
     MessageBoxWatcher boxes;
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
+        EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "");
         user.Choose(IDC_SCALE_SYSTEM, 0);
-        EXPECT_NE("", user.Text(IDC_PEN_WIDTH));
+        EXPECT_NE(user.Text(IDC_PEN_WIDTH), "");
         user.Choose(IDC_SCALE_SYSTEM, 1);
-        EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
+        EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "");
         user.Type(IDC_PEN_SCALE, "4");
     });
     EXPECT_TRUE(boxes.Boxes().empty());
-    EXPECT_EQ(4, kit[0].Number(kPropPenScale));
+    EXPECT_EQ(kit[0].Number(kPropPenScale), 4);
     EXPECT_EQ(1 / kInch, kit[0].Number(kPropPenWidth));
     // One without end, beside a list of widths that can be written.
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "mm");
@@ -233,19 +234,19 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     for (size_t i : {0, 1})
         kit[i].properties[kPropPenWidth] = -HUGE_VAL;
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(2, ::SendMessageA(user.Control(IDC_PEN_WIDTH), CB_GETCOUNT, 0, 0));
-        EXPECT_EQ("", user.Text(IDC_PEN_WIDTH));
-        EXPECT_EQ(-1, user.Selection(IDC_PEN_WIDTH));
+        EXPECT_EQ(::SendMessageA(user.Control(IDC_PEN_WIDTH), CB_GETCOUNT, 0, 0), 2);
+        EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "");
+        EXPECT_EQ(user.Selection(IDC_PEN_WIDTH), -1);
     });
     EXPECT_EQ(-HUGE_VAL, kit[0].Number(kPropPenWidth));
 }
 
 TEST_F(PenPage, AStoredScaleOfZeroStaysUntilItIsReplaced) {
     Add(1, 0, 0.0, dashed, 2, 1);
-    RunOk([&](SheetDriver& user) { EXPECT_EQ("1.17549e-38", user.Text(IDC_PEN_SCALE)); });
-    EXPECT_EQ(0, kit.Writes());
+    RunOk([&](SheetDriver& user) { EXPECT_EQ(user.Text(IDC_PEN_SCALE), "1.17549e-38"); });
+    EXPECT_EQ(kit.Writes(), 0);
     RunOk([&](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "1"); });
-    EXPECT_EQ(1, kit[0].Number(kPropPenScale));
+    EXPECT_EQ(kit[0].Number(kPropPenScale), 1);
 }
 
 // The indeterminate state is left at the first click, for the other of the last definite state, and never comes back.
@@ -256,7 +257,7 @@ TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
         for (int i = 0; i < 6; ++i) {
             user.Click(IDC_PEN_ALIGNMENT);
             const int state = user.Check(IDC_PEN_ALIGNMENT);
-            EXPECT_NE(BST_INDETERMINATE, state);
+            EXPECT_NE(state, BST_INDETERMINATE);
             EXPECT_NE(before, state);
             before = state;
         }
@@ -267,9 +268,9 @@ TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
 TEST_F(PenPage, ThePreviewFollowsTheControls) {
     AddEqual();
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-        EXPECT_EQ(kRed, Previewed<unsigned long>(page, kPropPenColor));
+        EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kRed);
         user.Choose(IDC_COLOR, 0);
-        EXPECT_EQ(kDarkest, Previewed<unsigned long>(page, kPropPenColor));
+        EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kDarkest);
         for (const char* width : {"3 mm", "3 ?", "-3 mm"}) {
             user.Type(IDC_PEN_WIDTH, width);
             EXPECT_NEAR(3 / kInch, Previewed(page, kPropPenWidth), 1e-9) << width;
@@ -286,7 +287,7 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
         user.Click(IDC_PEN_ALIGNMENT);
         EXPECT_NE(alignment, Previewed<unsigned>(page, kPropPenAlignment));
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(PenPage, OutlivesTheStyleTable) {
@@ -300,7 +301,7 @@ TEST_F(PenPage, OutlivesTheStyleTable) {
         user.Pump();
         user.Type(IDC_PEN_SCALE, "3");
     });
-    EXPECT_EQ(3, kit[0].Number(kPropPenScale));
+    EXPECT_EQ(kit[0].Number(kPropPenScale), 3);
 }
 
 } // namespace

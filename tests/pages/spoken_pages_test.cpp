@@ -61,7 +61,7 @@ TEST(SpokenPages, NameEveryFieldAndItemInWords) {
                 ++fields;
                 char kind[32] = "";
                 ::GetClassNameA(control, kind, sizeof kind);
-                EXPECT_NE("", NameOf(control)) << "page " << page << ", control " << ::GetDlgCtrlID(control);
+                EXPECT_NE(NameOf(control), "") << "page " << page << ", control " << ::GetDlgCtrlID(control);
                 EXPECT_EQ(std::string(kind).rfind("QX", 0) == 0, Accessible(control).IsOwn()) << kind;
                 ExpectSpoken(control);
                 COMBOBOXINFO info = {};
@@ -80,20 +80,20 @@ TEST(SpokenPages, SeveralValuesAreSaidToVary) {
     kinds.Select(kShapes);
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
-        EXPECT_EQ("0", Accessible(user.Control(IDC_LAYER)).Value()) << "the layer that they share";
+        EXPECT_EQ(Accessible(user.Control(IDC_LAYER)).Value(), "0") << "the layer that they share";
         user.SelectPage(1);
-        EXPECT_EQ("varied", Accessible(user.Control(IDC_COLOR)).Value());
-        EXPECT_EQ("By Layer", Accessible(user.Control(IDC_LINE_STYLE_LIST)).Value());
+        EXPECT_EQ(Accessible(user.Control(IDC_COLOR)).Value(), "varied");
+        EXPECT_EQ(Accessible(user.Control(IDC_LINE_STYLE_LIST)).Value(), "By Layer");
         user.Choose(IDC_COLOR, 0);
-        EXPECT_NE("varied", Accessible(user.Control(IDC_COLOR)).Value());
+        EXPECT_NE(Accessible(user.Control(IDC_COLOR)).Value(), "varied");
         int graphics = 0;
         ForEachChild(user.Sheet(), [&](HWND child) {
             const Accessible spoken(child);
             if (spoken.Role() != ROLE_SYSTEM_GRAPHIC) return;
             ++graphics;
-            EXPECT_EQ("Preview", spoken.Name());
+            EXPECT_EQ(spoken.Name(), "Preview");
         });
-        EXPECT_EQ(1, graphics);
+        EXPECT_EQ(graphics, 1);
     });
 }
 

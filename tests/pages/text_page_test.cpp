@@ -48,28 +48,28 @@ TEST_F(TextPage, ShowsEqualTexts) {
         Add(kSerif, 4.25, 0x1146, kBlue, 1);
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(
-            (std::vector<std::string>{kSerif, "Bold", "00FF0000", "1", "0", "1", "1", "1", "0", "1"}),
             Shown(user, {IDC_FONT_FACE, IDC_FONT_STYLE, IDC_TEXT_COLOR, IDC_STRIKETHROUGH, IDC_HIDDEN,
-                         IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER}));
-        EXPECT_EQ(0u, user.Text(IDC_FONT_SIZE).find("4.25")) << user.Text(IDC_FONT_SIZE);
+                         IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER}),
+            (std::vector<std::string>{kSerif, "Bold", "00FF0000", "1", "0", "1", "1", "1", "0", "1"}));
+        EXPECT_EQ(user.Text(IDC_FONT_SIZE).find("4.25"), 0u) << user.Text(IDC_FONT_SIZE);
         EXPECT_LE(0, user.Selection(IDC_FONT_SIZE)) << "a height in no list has joined it";
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
         for (const int combo : {IDC_FONT_FACE, IDC_FONT_SIZE, IDC_FONT_STYLE, IDC_TEXT_COLOR})
-            EXPECT_EQ(-1, user.Selection(combo)) << combo;
+            EXPECT_EQ(user.Selection(combo), -1) << combo;
         user.Focus(IDC_FONT_FACE);
         for (int i = 0; i < 14; ++i)
             user.Key(VK_TAB); // round the sheet; passing by is not a choice
-        EXPECT_EQ((std::vector<std::string>{"", "2", "0", "2", "2", "0", "0", "0", "0"}),
-                  Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE,
-                               IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}));
+        EXPECT_EQ(Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE,
+                               IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}),
+                  (std::vector<std::string>{"", "2", "0", "2", "2", "0", "0", "0", "0"}));
     });
-    EXPECT_EQ(0, kit.Writes());
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 // Of two texts whose styles differ in every bit, one effect after the other is set; all other bits stay each text's own.
@@ -89,7 +89,7 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
             const int bit = kEffectBits[i], set = clicks == 2 ? bit : 0;
             EXPECT_EQ((0x2A15 & ~bit) | set, a.Number(kPropTextStyle));
             EXPECT_EQ((0xFFFF & ~0x2A15 & ~bit) | set, b.Number(kPropTextStyle));
-            EXPECT_EQ(1u, a.writes.size());
+            EXPECT_EQ(a.writes.size(), 1u);
         }
     }
 }
@@ -97,11 +97,11 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
 TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(4, Count(user, IDC_FONT_STYLE));
+        EXPECT_EQ(Count(user, IDC_FONT_STYLE), 4);
         user.Choose(IDC_FONT_STYLE, 3);
     });
-    EXPECT_EQ(0x2103, kit[0].Number(kPropTextStyle));
-    EXPECT_EQ(0x0047, kit[1].Number(kPropTextStyle));
+    EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x2103);
+    EXPECT_EQ(kit[1].Number(kPropTextStyle), 0x0047);
 }
 
 TEST_F(TextPage, OneEditOverDifferingTextsChangesOneProperty) {
@@ -117,25 +117,25 @@ TEST_F(TextPage, AThirdStateOfAnEffectInWhichTextsAgreeIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     RunOk([&](SheetDriver& user) {
         user.Click(IDC_HIDDEN); // from checked into the third state
-        EXPECT_EQ(BST_UNCHECKED, user.Check(IDC_HIDDEN)) << "taken back as soon as the preview follows";
+        EXPECT_EQ(user.Check(IDC_HIDDEN), BST_UNCHECKED) << "taken back as soon as the preview follows";
     });
-    EXPECT_EQ(0, text.Number(kPropTextStyle));
+    EXPECT_EQ(text.Number(kPropTextStyle), 0);
 }
 
 TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
     KitGraphic& text = Add(kSans, 4.25, 0, kRed, 0);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(4, Count(user, IDC_FONT_SIZE)) << "three configured, and the text's own";
+        EXPECT_EQ(Count(user, IDC_FONT_SIZE), 4) << "three configured, and the text's own";
         const std::string height = user.Text(IDC_FONT_SIZE);
         ChooseFont(user, kSerif);
-        EXPECT_EQ(4, Count(user, IDC_FONT_SIZE));
+        EXPECT_EQ(Count(user, IDC_FONT_SIZE), 4);
         EXPECT_EQ(height, Shown(user, IDC_FONT_SIZE));
         user.Type(IDC_FONT_SIZE, "9.5");
         ChooseFont(user, kSans);
-        EXPECT_EQ(4, Count(user, IDC_FONT_SIZE)) << "the typed height instead";
-        EXPECT_EQ("9.5", Shown(user, IDC_FONT_SIZE));
+        EXPECT_EQ(Count(user, IDC_FONT_SIZE), 4) << "the typed height instead";
+        EXPECT_EQ(Shown(user, IDC_FONT_SIZE), "9.5");
     });
-    EXPECT_EQ(9.5, text.Number(kPropTextSize));
+    EXPECT_EQ(text.Number(kPropTextSize), 9.5);
     // A listed height that begins with it does not take its place.
     WriteIni("[FontSizes]\nmm=10,20,3.5\n");
     for (const double height : {1.0, 2.0, 3.0}) {
@@ -158,7 +158,7 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
                                            ChooseFont(user, kSerif);
                                            EXPECT_EQ(height, user.Text(IDC_FONT_SIZE));
                                            for (int i = 0; i < Count(user, IDC_FONT_SIZE); ++i)
-                                               EXPECT_NE("", user.ItemText(IDC_FONT_SIZE, i));
+                                               EXPECT_NE(user.ItemText(IDC_FONT_SIZE, i), "");
                                        },
                                        kSerif}});
     }
@@ -183,7 +183,7 @@ TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
             user.Click(IDC_JUSTIFY_RIGHT);
         });
         EXPECT_NEAR(row.stored, text.Number(kPropTextSize), 1e-9);
-        EXPECT_EQ(2, text.Number(kPropTextFormat));
+        EXPECT_EQ(text.Number(kPropTextFormat), 2);
     }
 }
 
@@ -200,17 +200,17 @@ TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
                 if (walk) user.Key(VK_DOWN);
                 user.Key(walk ? VK_ESCAPE : VK_RETURN);
                 EXPECT_FALSE(::SendMessageA(user.Control(list), CB_GETDROPPEDSTATE, 0, 0));
-                EXPECT_EQ(-1, user.Selection(list));
-                EXPECT_EQ("", user.Text(list));
+                EXPECT_EQ(user.Selection(list), -1);
+                EXPECT_EQ(user.Text(list), "");
             }
         user.Click(IDC_HIDDEN);
     });
-    EXPECT_EQ(2u, kit[0].writes.size() + kit[1].writes.size()) << "the box";
-    EXPECT_EQ(0u, kit[2].writes.size());
-    EXPECT_EQ(0x2109, kit[0].Number(kPropTextStyle));
-    EXPECT_EQ(0x004E, kit[1].Number(kPropTextStyle));
-    EXPECT_EQ(kSans, kit[0].Text(kPropTextFont));
-    EXPECT_EQ(kSerif, kit[1].Text(kPropTextFont));
+    EXPECT_EQ(kit[0].writes.size() + kit[1].writes.size(), 2u) << "the box";
+    EXPECT_EQ(kit[2].writes.size(), 0u);
+    EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x2109);
+    EXPECT_EQ(kit[1].Number(kPropTextStyle), 0x004E);
+    EXPECT_EQ(kit[0].Text(kPropTextFont), kSans);
+    EXPECT_EQ(kit[1].Text(kPropTextFont), kSerif);
 }
 
 TEST_F(TextPage, AFontThatIsNotInstalledStaysWhateverElseChanges) {
@@ -222,8 +222,8 @@ TEST_F(TextPage, AFontThatIsNotInstalledStaysWhateverElseChanges) {
         user.Key(VK_RETURN);
         user.Click(IDC_UNDERLINE);
     });
-    EXPECT_EQ("No Such Font", kit[0].Text(kPropTextFont));
-    EXPECT_EQ(0x0100, kit[0].Number(kPropTextStyle));
+    EXPECT_EQ(kit[0].Text(kPropTextFont), "No Such Font");
+    EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x0100);
 }
 
 TEST_F(TextPage, StoredHeightsThatNobodyEditedAreNotJudged) {
@@ -233,13 +233,13 @@ TEST_F(TextPage, StoredHeightsThatNobodyEditedAreNotJudged) {
         RunOk([](SheetDriver& user) { user.Click(IDC_JUSTIFY_RIGHT); });
         EXPECT_TRUE(boxes.Boxes().empty()) << height;
         EXPECT_EQ(height, kit[kit.Size() - 1].Number(kPropTextSize));
-        EXPECT_EQ(2, kit[kit.Size() - 1].Number(kPropTextFormat));
+        EXPECT_EQ(kit[kit.Size() - 1].Number(kPropTextFormat), 2);
     }
     RunOk([](SheetDriver& user) {
         MessageBoxWatcher boxes;
         user.Type(IDC_FONT_SIZE, "0");
         user.Ok();
-        EXPECT_EQ(1u, boxes.Boxes().size()) << "typed, it is judged";
+        EXPECT_EQ(boxes.Boxes().size(), 1u) << "typed, it is judged";
         user.Type(IDC_FONT_SIZE, "2");
     });
 }
@@ -257,10 +257,11 @@ TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
             for (int i = 0; i < Count(user, IDC_FONT_SIZE); ++i)
                 heights.push_back(user.ItemText(IDC_FONT_SIZE, i));
             for (const char* number : {"2,5", "3,5", "5"})
-                EXPECT_EQ(1, std::count_if(heights.begin(), heights.end(),
-                                           [&](const std::string& item) {
-                                               return item.substr(0, item.find(' ')) == number;
-                                           }))
+                EXPECT_EQ(std::count_if(heights.begin(), heights.end(),
+                                        [&](const std::string& item) {
+                                            return item.substr(0, item.find(' ')) == number;
+                                        }),
+                          1)
                     << space << " " << number;
         });
     }
@@ -270,9 +271,9 @@ TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
 TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
     kit.Add({}, kGraphicText);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(0u, user.Text(IDC_FONT_SIZE).find("8")) << user.Text(IDC_FONT_SIZE);
-        EXPECT_EQ("FFFFFFFD", Shown(user, IDC_TEXT_COLOR));
-        EXPECT_EQ(BST_CHECKED, user.Check(IDC_JUSTIFY_LEFT));
+        EXPECT_EQ(user.Text(IDC_FONT_SIZE).find("8"), 0u) << user.Text(IDC_FONT_SIZE);
+        EXPECT_EQ(Shown(user, IDC_TEXT_COLOR), "FFFFFFFD");
+        EXPECT_EQ(user.Check(IDC_JUSTIFY_LEFT), BST_CHECKED);
     });
 }
 
@@ -295,15 +296,15 @@ TEST_F(TextPage, ThePreviewFollowsTheControls) {
         const int underlined = ink();
         EXPECT_NE(plain, underlined);
         user.Click(IDC_HIDDEN);
-        EXPECT_EQ(0, ink());
+        EXPECT_EQ(ink(), 0);
         user.Click(IDC_HIDDEN);
         EXPECT_EQ(underlined, ink()) << "the third state counts as off";
         ChooseFont(user, kSerif);
         EXPECT_NE(underlined, ink());
         user.Choose(IDC_TEXT_COLOR, 0);
         user.Click(IDC_JUSTIFY_RIGHT);
-        EXPECT_EQ(kDarkest, Previewed<unsigned long>(page, kPropPenColor));
-        EXPECT_EQ(2, Previewed<unsigned short>(page, kPropTextFormat));
+        EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kDarkest);
+        EXPECT_EQ(Previewed<unsigned short>(page, kPropTextFormat), 2);
     });
 }
 

@@ -106,8 +106,8 @@ protected:
 enum { kPen = 1, kBrush, kText, kInsertion };
 
 TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
-    EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
-                  EXPECT_EQ(2, ::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0));
+    EXPECT_EQ(Run([](SheetDriver& user) {
+                  EXPECT_EQ(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 2);
                   user.SelectPage(kPen);
                   user.Choose(IDC_COLOR, 0);
                   user.Type(IDC_PEN_WIDTH, "0.5 mm");
@@ -116,18 +116,19 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
                   user.SelectPage(kText);
                   user.Type(IDC_FONT_SIZE, "7.5");
                   user.SelectPage(kInsertion);
-                  ASSERT_EQ(kInsertion, user.ActivePage());
+                  ASSERT_EQ(user.ActivePage(), kInsertion);
                   user.Type(IDC_SCALE_X, "3");
                   user.Ok();
-              }));
+              }),
+              IDOK);
     GraphicStruct* rectangle = Member(0);
     EXPECT_LT(Property<uint32_t>(rectangle, kPropPenColor, VT_UI4), 0x1000000u); // was by layer
     EXPECT_DOUBLE_EQ(0.5 * kInchesPerMillimeter, Property<double>(rectangle, kPropPenWidth, VT_R8));
-    EXPECT_NE(0u, Property<uint32_t>(rectangle, kPropBrushStyle, VT_UI4));
-    EXPECT_DOUBLE_EQ(7.5, Property<double>(Member(1), kPropTextSize, VT_R8));
+    EXPECT_NE(Property<uint32_t>(rectangle, kPropBrushStyle, VT_UI4), 0u);
+    EXPECT_DOUBLE_EQ(Property<double>(Member(1), kPropTextSize, VT_R8), 7.5);
     int cookie;
     CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF);
-    EXPECT_DOUBLE_EQ(3, CALL(host, GraphicVertexNext)(Member(2), &cookie, 0, 0xFFFF)->x);
+    EXPECT_DOUBLE_EQ(CALL(host, GraphicVertexNext)(Member(2), &cookie, 0, 0xFFFF)->x, 3);
 }
 
 TEST_F(Skeleton, DrawsThePreviewInTheChosenColor) {
@@ -156,7 +157,7 @@ protected:
 };
 
 TEST_F(SkeletonWithStubs, LosesPicturesOnly) {
-    EXPECT_EQ(IDOK, Run([](SheetDriver& user) {
+    EXPECT_EQ(Run([](SheetDriver& user) {
                   user.SelectPage(kPen);
                   user.Choose(IDC_LINE_STYLE_LIST, 1);
                   user.SelectPage(kBrush);
@@ -164,10 +165,11 @@ TEST_F(SkeletonWithStubs, LosesPicturesOnly) {
                   user.SelectPage(kInsertion);
                   user.Type(IDC_POSITION_X, "30");
                   user.Ok();
-              }));
-    EXPECT_NE(0u, Property<uint32_t>(Member(0), kPropBrushStyle, VT_UI4));
+              }),
+              IDOK);
+    EXPECT_NE(Property<uint32_t>(Member(0), kPropBrushStyle, VT_UI4), 0u);
     int cookie;
-    EXPECT_DOUBLE_EQ(30, CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF)->x);
+    EXPECT_DOUBLE_EQ(CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF)->x, 30);
 }
 
 } // namespace

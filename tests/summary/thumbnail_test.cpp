@@ -191,7 +191,7 @@ TEST(DrawingWithoutTheSystem, HasTheColoursOfTheSystem) {
         for (int y = 0; y < dib.height; ++y)
             for (int x = 0; x < dib.width; ++x) {
                 const uint8_t* at = drawn->data() + 3 * (y * dib.width + x);
-                EXPECT_EQ(RGB(at[0], at[1], at[2]), canvas.At(x, y)) << x << ", " << y;
+                EXPECT_EQ(canvas.At(x, y), RGB(at[0], at[1], at[2])) << x << ", " << y;
             }
     }
 }

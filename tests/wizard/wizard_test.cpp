@@ -117,7 +117,7 @@ void ClickWithMouse(SheetDriver& user, int id) {
 
 TEST_F(Wizard, IsWalkedByMouse) {
     EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ(State(user), "0 - &Next >");
                   for (const auto& [button, state] : {std::pair(kBack, "0 - &Next >"), // disabled
                                                       {kNext, "1 Back &Next >"},
                                                       {kNext, "2 Back Finish"},
@@ -126,31 +126,31 @@ TEST_F(Wizard, IsWalkedByMouse) {
                       ClickWithMouse(user, button);
                       EXPECT_EQ(state, State(user));
                   }
-                  EXPECT_EQ("", log);
+                  EXPECT_EQ(log, "");
                   for (int i = 0; i < 3; ++i)
                       ClickWithMouse(user, kNext);
               }));
-    EXPECT_EQ("1o 2o 3o 3o ", log) << "all pages in order, then the sheet's OK of the page in front";
+    EXPECT_EQ(log, "1o 2o 3o 3o ") << "all pages in order, then the sheet's OK of the page in front";
 }
 
 TEST_F(Wizard, IsWalkedByKeyboard) {
     EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Mnemonic('n');
-                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Mnemonic('b');
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ(State(user), "0 - &Next >");
                   user.Focus(kField);
                   user.Key(VK_TAB);
                   user.Key(VK_TAB); // over the check box and the disabled Back
-                  EXPECT_EQ(kNext, ::GetDlgCtrlID(::GetFocus()));
+                  EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), kNext);
                   user.Key(VK_SPACE);
-                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus()) << "the first field of the new page";
                   ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
                   user.Key(VK_SPACE); // disables the button that has the focus
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ(State(user), "0 - &Next >");
                   ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page";
                   for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
                       user.Key(VK_TAB);
@@ -162,7 +162,7 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
                   ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
                   user.Key(VK_RETURN);
               }));
-    EXPECT_EQ("1o 2o 3o 3o ", log);
+    EXPECT_EQ(log, "1o 2o 3o 3o ");
 }
 
 // Next is the default button. Any field after the one with the focus would be skipped unread.
@@ -179,33 +179,33 @@ TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
                   ClickWithMouse(user, kBack);
                   user.Focus(kField);
                   user.Key(VK_RETURN);
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ(State(user), "0 - &Next >");
                   user.Focus(kKeepColour);
                   user.Key(VK_RETURN);
-                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Key(VK_TAB);
                   EXPECT_EQ(user.Control(kLookUp), ::GetFocus());
                   user.Key(VK_RETURN);
-                  EXPECT_EQ("1 Back &Next >", State(user));
-                  EXPECT_EQ("2l ", log) << "a button of the page takes the key for itself";
+                  EXPECT_EQ(State(user), "1 Back &Next >");
+                  EXPECT_EQ(log, "2l ") << "a button of the page takes the key for itself";
                   log.clear();
                   user.Focus(kField);
                   steps[1]->accepts = false;
                   user.Key(VK_RETURN);
-                  EXPECT_EQ("1 Back &Next >", State(user));
-                  EXPECT_EQ("2r ", log);
+                  EXPECT_EQ(State(user), "1 Back &Next >");
+                  EXPECT_EQ(log, "2r ");
                   steps[1]->accepts = true;
                   ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN,
                                  0x40000001); // held down since the step before
                   user.Pump();
-                  EXPECT_EQ("1 Back &Next >", State(user));
+                  EXPECT_EQ(State(user), "1 Back &Next >");
                   user.Key(VK_RETURN);
-                  EXPECT_EQ("2 Back Finish", State(user));
+                  EXPECT_EQ(State(user), "2 Back Finish");
                   log.clear();
                   user.Key(VK_RETURN); // finishes from any field
               }));
-    EXPECT_EQ("1o 2o 3o 3o ", log);
+    EXPECT_EQ(log, "1o 2o 3o 3o ");
 }
 
 TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
@@ -237,10 +237,10 @@ TEST_F(Wizard, IsDrawnWholeOnEachPage) {
         const auto wizard = Make({kNarrow, kWide, kQuiet, kNarrow});
         steps[3]->grows = CSize(30, 50);
         Run(*wizard, [&](SheetDriver& user) {
-            EXPECT_EQ("", StalePart(user.Sheet()));
+            EXPECT_EQ(StalePart(user.Sheet()), "");
             for (const int button : {kNext, kNext, kNext, kBack, kBack, kBack, kNext}) {
                 ClickWithMouse(user, button);
-                EXPECT_EQ("", StalePart(user.Sheet())) << State(user);
+                EXPECT_EQ(StalePart(user.Sheet()), "") << State(user);
             }
         });
     };
@@ -254,19 +254,21 @@ TEST_F(Wizard, IsDrawnWholeOnEachPage) {
 
 TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
     const auto wizard = Make({kWide, kWide});
-    EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {
-                  const HWND next = ::GetDlgItem(user.Sheet(), kNext);
-                  for (const char* left : {"0 - &Next >", "1 Back Finish"}) {
-                      ::EnableWindow(next, FALSE);
-                      user.Focus(kKeepColour);
-                      user.Key(VK_RETURN);
-                      EXPECT_EQ(left, State(user));
-                      EXPECT_EQ("", log);
-                      ::EnableWindow(next, TRUE);
-                      user.Key(VK_RETURN);
-                  }
-              }));
-    EXPECT_EQ("1o 2o 2o ", log);
+    EXPECT_EQ(Run(*wizard,
+                  [&](SheetDriver& user) {
+                      const HWND next = ::GetDlgItem(user.Sheet(), kNext);
+                      for (const char* left : {"0 - &Next >", "1 Back Finish"}) {
+                          ::EnableWindow(next, FALSE);
+                          user.Focus(kKeepColour);
+                          user.Key(VK_RETURN);
+                          EXPECT_EQ(left, State(user));
+                          EXPECT_EQ(log, "");
+                          ::EnableWindow(next, TRUE);
+                          user.Key(VK_RETURN);
+                      }
+                  }),
+              IDOK);
+    EXPECT_EQ(log, "1o 2o 2o ");
 }
 
 // The host's own command of the button counts, as if it had been clicked.
@@ -287,8 +289,8 @@ TEST_F(Wizard, ReturnIsAClickOnTheButton) {
         user.Focus(kField);
         user.Key(VK_RETURN);
     });
-    EXPECT_EQ(1, wizard.clicks);
-    EXPECT_EQ("", log);
+    EXPECT_EQ(wizard.clicks, 1);
+    EXPECT_EQ(log, "");
 }
 
 // The window rectangle that a page has after its OnSetActive counts.
@@ -334,7 +336,7 @@ TEST_F(Wizard, KeepsTheSizeThatAHostHasGivenItsPage) {
         const CRect after = Place(user, user.Page());
         EXPECT_EQ(CSize(before.Width() + 70, before.Height() + 40), after.Size());
         EXPECT_LE(after.bottom, Place(user, ::GetDlgItem(user.Sheet(), kNext)).top);
-        EXPECT_EQ("", StalePart(user.Sheet()));
+        EXPECT_EQ(StalePart(user.Sheet()), "");
     });
 }
 
@@ -351,24 +353,24 @@ int FramedButton(const SheetDriver& user) {
 TEST_F(Wizard, FramesTheButtonThatReturnPresses) {
     const auto wizard = Make({kWide, kNarrow});
     Run(*wizard, [&](SheetDriver& user) {
-        EXPECT_EQ(kNext, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), kNext);
         ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
         user.Key(VK_TAB);
-        EXPECT_EQ(IDCANCEL, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), IDCANCEL);
         user.Key(VK_TAB); // into the page
         EXPECT_EQ(user.Control(kField), ::GetFocus());
-        EXPECT_EQ(kNext, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), kNext);
         user.Key(VK_TAB, true);
-        EXPECT_EQ(IDCANCEL, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), IDCANCEL);
         ClickWithMouse(user, kNext);
-        EXPECT_EQ(kNext, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), kNext);
         user.Key(VK_TAB); // to the button of the page
-        EXPECT_EQ(kLookUp, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), kLookUp);
         user.Key(VK_TAB);
-        EXPECT_EQ(kBack, FramedButton(user));
+        EXPECT_EQ(FramedButton(user), kBack);
         user.Key(VK_SPACE);
-        EXPECT_EQ("0 - &Next >", State(user));
-        EXPECT_EQ(kNext, FramedButton(user)) << "not the button that is now disabled";
+        EXPECT_EQ(State(user), "0 - &Next >");
+        EXPECT_EQ(FramedButton(user), kNext) << "not the button that is now disabled";
     });
 }
 
@@ -424,70 +426,75 @@ TEST_F(Wizard, EndsACaptionThatIsCutWithDots) {
 }
 
 TEST_F(Wizard, CancelsByButtonKeyAndCaption) {
-    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { user.ClickSheetButton(IDCANCEL); }));
-    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { user.Key(VK_ESCAPE); }));
-    EXPECT_EQ(IDCANCEL, RunThree([](SheetDriver& user) { ::PostMessageA(user.Sheet(), WM_CLOSE, 0, 0); }));
-    EXPECT_EQ("", log);
+    EXPECT_EQ(RunThree([](SheetDriver& user) { user.ClickSheetButton(IDCANCEL); }), IDCANCEL);
+    EXPECT_EQ(RunThree([](SheetDriver& user) { user.Key(VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(RunThree([](SheetDriver& user) { ::PostMessageA(user.Sheet(), WM_CLOSE, 0, 0); }), IDCANCEL);
+    EXPECT_EQ(log, "");
 }
 
 TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
-    EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
+    EXPECT_EQ(RunThree([&](SheetDriver& user) {
                   steps[0]->accepts = false;
                   user.ClickSheetButton(kNext);
-                  EXPECT_EQ("0 - &Next >", State(user));
+                  EXPECT_EQ(State(user), "0 - &Next >");
                   EXPECT_TRUE(steps[0]->IsWindowVisible());
                   steps[0]->accepts = true;
                   user.ClickSheetButton(kNext);
                   steps[1]->accepts = false;
                   for (const int button : {kNext, kBack}) {
                       user.ClickSheetButton(button);
-                      EXPECT_EQ("1 Back &Next >", State(user));
+                      EXPECT_EQ(State(user), "1 Back &Next >");
                   }
                   steps[1]->accepts = true;
                   user.ClickSheetButton(kNext);
-                  EXPECT_EQ("1r 2r 2r ", log);
+                  EXPECT_EQ(log, "1r 2r 2r ");
                   log.clear();
                   steps[2]->accepts = false;
                   user.ClickSheetButton(kNext);
-                  EXPECT_EQ("2 Back Finish", State(user));
-                  EXPECT_EQ("1o 2o 3o 3r ", log) << "the sheet asks after the pages' OnOK, and stays open";
+                  EXPECT_EQ(State(user), "2 Back Finish");
+                  EXPECT_EQ(log, "1o 2o 3o 3r ") << "the sheet asks after the pages' OnOK, and stays open";
                   steps[2]->accepts = true;
                   user.ClickSheetButton(kNext);
-              }));
+              }),
+              IDOK);
 }
 
 TEST_F(Wizard, StaysWhereAPageCannotBeMade) {
     const auto wizard = Make({kWide, kNoTemplate, kWide});
-    EXPECT_EQ(IDCANCEL, Run(*wizard, [&](SheetDriver& user) {
-                  user.ClickSheetButton(kNext);
-                  EXPECT_EQ("0 - &Next >", State(user));
-                  EXPECT_TRUE(steps[0]->IsWindowVisible());
-                  EXPECT_EQ(user.Page(), steps[0]->m_hWnd);
-              }));
+    EXPECT_EQ(Run(*wizard,
+                  [&](SheetDriver& user) {
+                      user.ClickSheetButton(kNext);
+                      EXPECT_EQ(State(user), "0 - &Next >");
+                      EXPECT_TRUE(steps[0]->IsWindowVisible());
+                      EXPECT_EQ(user.Page(), steps[0]->m_hWnd);
+                  }),
+              IDCANCEL);
 }
 
 TEST_F(Wizard, OpensEmptyWithoutItsFirstPage) {
     const auto wizard = Make({kNoTemplate, kWide});
-    EXPECT_EQ(IDCANCEL, Run(*wizard, [&](SheetDriver& user) {
-                  EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
-                  const CRect cancel = Place(user, ::GetDlgItem(user.Sheet(), IDCANCEL));
-                  CRect client;
-                  ::GetClientRect(user.Sheet(), &client);
-                  EXPECT_LE(cancel.right, client.right);
-                  EXPECT_LE(cancel.bottom, client.bottom);
-                  EXPECT_LT(10, cancel.Width());
-                  user.ClickSheetButton(IDCANCEL);
-              }));
+    EXPECT_EQ(Run(*wizard,
+                  [&](SheetDriver& user) {
+                      EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
+                      const CRect cancel = Place(user, ::GetDlgItem(user.Sheet(), IDCANCEL));
+                      CRect client;
+                      ::GetClientRect(user.Sheet(), &client);
+                      EXPECT_LE(cancel.right, client.right);
+                      EXPECT_LE(cancel.bottom, client.bottom);
+                      EXPECT_LT(10, cancel.Width());
+                      user.ClickSheetButton(IDCANCEL);
+                  }),
+              IDCANCEL);
     const auto alone = Make({kNoTemplate});
-    EXPECT_EQ(IDOK, Run(*alone, [](SheetDriver& user) { user.ClickSheetButton(kNext); }));
+    EXPECT_EQ(Run(*alone, [](SheetDriver& user) { user.ClickSheetButton(kNext); }), IDOK);
 }
 
 TEST_F(Wizard, ThatOpensLaterShowsTheFirstPagesButtonsUntilItMoves) {
     const auto wizard = Make({kWide, kWide, kWide}, 2);
     Run(*wizard, [](SheetDriver& user) {
-        EXPECT_EQ("2 - &Next >", State(user));
+        EXPECT_EQ(State(user), "2 - &Next >");
         ::SendMessageA(user.Sheet(), WM_COMMAND, kBack, 0); // its button is disabled
-        EXPECT_EQ("1 Back &Next >", State(user));
+        EXPECT_EQ(State(user), "1 Back &Next >");
     });
 }
 
@@ -529,11 +536,11 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
 TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
     RunThree([](SheetDriver& user) {
         const HMENU menu = ::GetSystemMenu(user.Sheet(), FALSE);
-        ASSERT_EQ(2, ::GetMenuItemCount(menu));
-        EXPECT_EQ(UINT{SC_MOVE}, ::GetMenuItemID(menu, 0));
-        EXPECT_EQ(UINT{SC_CLOSE}, ::GetMenuItemID(menu, 1));
+        ASSERT_EQ(::GetMenuItemCount(menu), 2);
+        EXPECT_EQ(::GetMenuItemID(menu, 0), UINT{SC_MOVE});
+        EXPECT_EQ(::GetMenuItemID(menu, 1), UINT{SC_CLOSE});
 
-        EXPECT_EQ(1, ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_INACTIVE, 0));
+        EXPECT_EQ(::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_INACTIVE, 0), 1);
         ::SetFocus(user.Control(kField));
         ::SendMessageA(user.Sheet(), WM_ACTIVATE, WA_ACTIVE, 0);
         EXPECT_EQ(user.Control(kField), ::GetFocus());
@@ -542,7 +549,7 @@ TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
         ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page,
                      &page);
         const LRESULT font = ::SendDlgItemMessageA(user.Sheet(), kNext, WM_GETFONT, 0, 0);
-        ASSERT_NE(0, ::GetObjectA(reinterpret_cast<HFONT>(font), sizeof button, &button));
+        ASSERT_NE(::GetObjectA(reinterpret_cast<HFONT>(font), sizeof button, &button), 0);
         EXPECT_EQ(page.lfHeight, button.lfHeight);
         EXPECT_STREQ(page.lfFaceName, button.lfFaceName);
     });
@@ -553,32 +560,34 @@ TEST_F(Wizard, ModelessHasNoButtonsButItsCommands) {
     ASSERT_TRUE(wizard->Create(nullptr));
     const HWND sheet = wizard->m_hWnd;
     for (const int id : {kBack, kNext, IDCANCEL})
-        EXPECT_EQ(nullptr, ::GetDlgItem(sheet, id)) << id;
+        EXPECT_EQ(::GetDlgItem(sheet, id), nullptr) << id;
     CRect client;
     ::GetClientRect(sheet, &client);
     EXPECT_EQ(client.Width(), Units(steps[0]->m_hWnd, 240, 0).cx + 2 * Units(steps[0]->m_hWnd, 4, 0).cx + 3);
     EXPECT_TRUE(::IsWindowVisible(sheet));
 
     ::SendMessageA(sheet, WM_COMMAND, IDOK, 0);
-    EXPECT_EQ(0, wizard->GetActiveIndex());
+    EXPECT_EQ(wizard->GetActiveIndex(), 0);
     ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
-    EXPECT_EQ(1, wizard->GetActiveIndex());
+    EXPECT_EQ(wizard->GetActiveIndex(), 1);
     ::SendMessageA(sheet, WM_COMMAND, kBack, 0);
-    EXPECT_EQ(0, wizard->GetActiveIndex());
+    EXPECT_EQ(wizard->GetActiveIndex(), 0);
     ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
     ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
-    EXPECT_EQ("1o 2o 2o ", log);
+    EXPECT_EQ(log, "1o 2o 2o ");
     EXPECT_TRUE(::IsWindow(sheet)) << "its owner ends it";
     wizard->DestroyWindow();
 }
 
 TEST_F(Wizard, WithoutPagesIsNotMadeAndOfOneFinishes) {
-    EXPECT_EQ(-1, Make({})->DoModal());
-    EXPECT_EQ(IDOK, Run(*Make({kWide}), [](SheetDriver& user) {
-                  EXPECT_EQ("0 - &Next >", State(user));
-                  user.ClickSheetButton(kNext);
-              }));
-    EXPECT_EQ("1o 1o ", log) << "of one page finishes by Next";
+    EXPECT_EQ(Make({})->DoModal(), -1);
+    EXPECT_EQ(Run(*Make({kWide}),
+                  [](SheetDriver& user) {
+                      EXPECT_EQ(State(user), "0 - &Next >");
+                      user.ClickSheetButton(kNext);
+                  }),
+              IDOK);
+    EXPECT_EQ(log, "1o 1o ") << "of one page finishes by Next";
 }
 
 TEST_F(Wizard, GivesEverythingBack) {

@@ -78,7 +78,7 @@ PlaceIndex::~PlaceIndex() = default;
 
 void PlaceIndex::NotePen(const Pen& pen) {
     double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
-    constexpr double kWidestInherited = 2.11 / kMillimetresPerInch; // the largest line weight of a layer
+    constexpr double kWidestInherited = 2.11 / kMillimetersPerInch; // the largest line weight of a layer
     reach = std::max(reach, (pen.width >= 0 ? pen.width : kWidestInherited) / 2);
 }
 
