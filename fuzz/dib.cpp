@@ -6,8 +6,8 @@
 #include "orlo/summary/dib_layout.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    for (const orlo::DibColours colours : {orlo::DibColours::Rgb, orlo::DibColours::PaletteIndices}) {
-        const auto layout = orlo::ReadDibLayout(data, size, colours);
+    for (const orlo::DibColors colors : {orlo::DibColors::Rgb, orlo::DibColors::PaletteIndices}) {
+        const auto layout = orlo::ReadDibLayout(data, size, colors);
         if (!layout) continue;
         if (layout->width <= 0 || layout->height <= 0) __builtin_trap();
         if (layout->headerSize > layout->pixelOffset || layout->pixelOffset > size) __builtin_trap();
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     // A thumbnail's value has tag and format before the picture.
     constexpr size_t kHead = 8;
     if (size > kHead) {
-        orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColours::Rgb, 3);
+        orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColors::Rgb, 3);
         orlo::DrawDibFitted(data + kHead, size - kHead, 7, 5);
     }
     return 0;

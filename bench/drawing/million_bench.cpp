@@ -211,7 +211,7 @@ void BenchChange(MillionViewer& viewer) {
     PrintSeconds("view_undo_1000000", Compare(kRounds, undo, bare));
 }
 
-// What a user waits for who has changed the colour of all on the sheet's page of pens and goes to another page: it is written,
+// What a user waits for who has changed the color of all on the sheet's page of pens and goes to another page: it is written,
 // the next page merges its own, and the view shows it.
 double SecondsOfPageChange(MillionViewer& viewer) {
     UserInput user(0);

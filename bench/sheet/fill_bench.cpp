@@ -1,4 +1,4 @@
-// Filling the lists of colours and layers with the host's tables, against inserting a list that is sorted already, redraw off.
+// Filling the lists of colors and layers with the host's tables, against inserting a list that is sorted already, redraw off.
 
 #include "bench/sheet/sheet_bench.h"
 

@@ -45,7 +45,7 @@ void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
     user.Keys(VK_DOWN, wanted);
 }
 
-// The first item of a colour list if there is none: its items begin with the colour in hexadecimal digits.
+// The first item of a color list if there is none: its items begin with the color in hexadecimal digits.
 int IndexOfColor(HWND combo, unsigned long color) {
     for (int i = 0; i < Send(combo, CB_GETCOUNT); ++i)
         if (std::strtoul(ComboItem(combo, i).c_str(), nullptr, 16) == color) return i;

@@ -274,13 +274,13 @@ void Tour::PickColor(HWND page) {
         for (int i = 0; wanted < 0 && i < Send(combo, CB_GETCOUNT); ++i)
             if (i != now && KeyOf(ComboItem(combo, i)) == color) wanted = i;
     }
-    if (wanted < 0) return Report("  no other colour is listed");
+    if (wanted < 0) return Report("  no other color is listed");
     m_user.Click(combo, DropButton(combo));
     m_user.Keys(VK_HOME, 1);
     m_user.Keys(VK_DOWN, wanted);
-    TakePicture("colour-list");
+    TakePicture("color-list");
     m_user.Key(VK_RETURN);
-    Report("  colour: " + NameOf(ComboItem(combo, Send(combo, CB_GETCURSEL))));
+    Report("  color: " + NameOf(ComboItem(combo, Send(combo, CB_GETCURSEL))));
 }
 
 // A width is then the same length on paper for all of the selection.

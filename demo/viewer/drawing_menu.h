@@ -14,6 +14,6 @@ struct CommandRange {
 };
 
 // Replaces the items. Ampersands of the texts are shown; texts beyond the range are left out; without texts `none` stands
-// there, grey.
+// there, gray.
 void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts,
               const char* none);

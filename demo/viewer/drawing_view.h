@@ -41,7 +41,7 @@ public:
     // Draws everything anew. Changes of the document's graphics need no call: the view hears of them.
     void Redraw();
 
-    // The colour that lies under the drawing; dark at first.
+    // The color that lies under the drawing; dark at first.
     COLORREF Paper() const { return m_paper; }
     void SetPaper(COLORREF paper);
     // Whether lines are as wide as their pens, which they are at first, or all thin.

@@ -1,6 +1,6 @@
 // The rim around selected graphics.
 //
-// The selection is drawn once more, on a ground of a colour that nothing else has: every pixel of another colour
+// The selection is drawn once more, on a ground of a color that nothing else has: every pixel of another color
 // belongs to it. That works for whatever the drawing code draws, texts and hatches too.
 
 #include "demo/viewer/glow.h"

@@ -1,4 +1,4 @@
-// The look of a selection: a bright rim around what is drawn, which keeps its own colours.
+// The look of a selection: a bright rim around what is drawn, which keeps its own colors.
 #pragma once
 
 #include <vector>

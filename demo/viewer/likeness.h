@@ -27,7 +27,7 @@ std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics);
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind);
 Graphics OnLayer(const Graphics& graphics, uint16_t layer);
-// Those that share kind, layer and colour with one of the examples.
+// Those that share kind, layer and color with one of the examples.
 Graphics LikeThese(const Graphics& graphics, const Graphics& examples);
 
 struct LayerCount {

@@ -103,7 +103,7 @@ std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t 
     }
 }
 
-// A value as graphics share it: the width of a pen by the scale system, a colour by layer with the layer's.
+// A value as graphics share it: the width of a pen by the scale system, a color by layer with the layer's.
 using Value = std::tuple<std::variant<uint32_t, double, std::string>, uint32_t>;
 
 struct Holders {

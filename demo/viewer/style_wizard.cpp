@@ -73,9 +73,9 @@ protected:
         if (!m_list.Create(kStyle, rect, this, IDC_STYLE_PARTS)) return TRUE;
         m_list.SetFont(GetFont());
         place->DestroyWindow();
-        m_list.AddString("Pen: colour, width, line style", m_draft.parts.pen);
-        m_list.AddString("Brush: filling or hatch, its colour, scale and angle", m_draft.parts.brush);
-        m_list.AddString("Text: font, height, effects, colour", m_draft.parts.text);
+        m_list.AddString("Pen: color, width, line style", m_draft.parts.pen);
+        m_list.AddString("Brush: filling or hatch, its color, scale and angle", m_draft.parts.brush);
+        m_list.AddString("Text: font, height, effects, color", m_draft.parts.text);
         m_list.SetCurSel(0);
         return TRUE;
     }

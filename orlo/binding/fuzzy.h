@@ -6,7 +6,7 @@
 //   CompareDoubles(&a, &c) == -1    // another bucket, although the distance is only a little larger
 //
 // Two numbers are equal when they agree in sign, exponent and the top 16 bits of the fraction after rounding. This is a
-// quantisation, not a distance: equality is transitive, and close neighbours on either side of a bucket's edge differ.
+// quantisation, not a distance: equality is transitive, and close neighbors on either side of a bucket's edge differ.
 #pragma once
 
 #include "orlo/export.h"

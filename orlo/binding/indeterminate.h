@@ -13,7 +13,7 @@
 constexpr int kIndeterminateCheck = 2; // the third state of a check box
 constexpr char kIndeterminateString[] =
     "\xFF"; // of a CString, the whole text: one may begin so in a code page
-constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or colour
+constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or color
 
 // What a field shows for the marker. A text that reads so means no value.
 constexpr char kIndeterminateStars[] = "*****";          // of a number

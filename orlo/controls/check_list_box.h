@@ -36,7 +36,7 @@ protected:
     // Device pixels: that of the font that a device context of the window has by default, and room for the box.
     int ItemHeight();
     int InvalidateItem(int nIndex, int bErase);
-    // The sunken box in the window's colour, and the mark in it; dwColor is not used.
+    // The sunken box in the window's color, and the mark in it; dwColor is not used.
     void DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD dwColor, int bChecked);
     // The row at a point of the client area; -1 outside. Below the last row -1, or the count with bPastEnd.
     int ItemFromPoint(CPoint point, int bPastEnd);

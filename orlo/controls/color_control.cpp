@@ -1,4 +1,4 @@
-// CColorControl: a combo box of the host's colours.
+// CColorControl: a combo box of the host's colors.
 
 #include "orlo/controls/color_control.h"
 
@@ -46,7 +46,7 @@ struct Entry {
     unsigned place; // in the table
 };
 
-// Of equal colours the later entry comes first, as if each had been inserted before its equals.
+// Of equal colors the later entry comes first, as if each had been inserted before its equals.
 bool ComesBefore(const Entry& a, const Entry& b) {
     const int order = CompareColorKeys(a.key, b.key);
     return order ? order < 0 : a.place > b.place;
@@ -70,7 +70,7 @@ void AppendMarker(const ControlItems& items, DWORD marker) {
     items.Add(HostTextItem(marker, HostStringOf(marker)).c_str());
 }
 
-// The name under which a colour without an item, or a marker, is shown.
+// The name under which a color without an item, or a marker, is shown.
 void NameWithoutItem(DWORD color, char* name) {
     name[0] = '\0';
     if (const unsigned int id = HostStringOf(color))
@@ -176,7 +176,7 @@ void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
                                reinterpret_cast<HFONT>(SendMessage(WM_GETFONT, 0, 0))};
     DrawSwatch(place, color, name);
     if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
-    // On the colour itself the rectangle might not be seen.
+    // On the color itself the rectangle might not be seen.
     if (inField && (pDIS->itemState & ODS_FOCUS))
         FrameRectangle(pDIS->hDC, pDIS->rcItem, colors.background, 1);
     DrawItemFocus(*pDIS);

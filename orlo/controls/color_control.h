@@ -1,8 +1,8 @@
-// CColorControl: a combo box of the host's colours in the order of color_order.h, as swatches with their
+// CColorControl: a combo box of the host's colors in the order of color_order.h, as swatches with their
 // names.
 //
-// Its table's entries hold a COLORREF as data; m_nSelected and the items' numbers are colours, not
-// identifiers. A colour that no item has is still shown in the closed field, by its numbers. These
+// Its table's entries hold a COLORREF as data; m_nSelected and the items' numbers are colors, not
+// identifiers. A color that no item has is still shown in the closed field, by its numbers. These
 // values are markers:
 //
 //   kColorNone, kColorIndeterminate  no value yet, several values: both show nothing
@@ -10,8 +10,8 @@
 //   kColorOfPen              second extra entry, by the host's text
 //   kColorByBlock            shown if it occurs; no list offers it
 //
-// The current row of the open list is marked by two frames, of which one can be seen on any colour. A disabled field is a grey
-// name in a frame of its colour.
+// The current row of the open list is marked by two frames, of which one can be seen on any color. A disabled field is a gray
+// name in a frame of its color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -28,14 +28,14 @@ public:
     // Whether the second extra entry follows the first, from the next filling on.
     void EnableLastEntry(int bEnable);
 
-    // Index of the item of that colour; -1 for kColorNone and kColorIndeterminate, or if not found.
+    // Index of the item of that color; -1 for kColorNone and kColorIndeterminate, or if not found.
     int FindColor(DWORD dwColor);
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    // Sorts the table's colours once: n items cost n log n comparisons, and each is appended.
+    // Sorts the table's colors once: n items cost n log n comparisons, and each is appended.
     void FillControl(WPARAM wParam, LPARAM pFill) override;
-    // Inserts at its place in the order, ahead of equal colours. While FillControl runs the items come in
+    // Inserts at its place in the order, ahead of equal colors. While FillControl runs the items come in
     // order.
     int AddControlItem(const char* pszItem) override;
 

@@ -1,4 +1,4 @@
-// RGB, HSV and the order of colours.
+// RGB, HSV and the order of colors.
 
 #include "orlo/controls/color_order.h"
 

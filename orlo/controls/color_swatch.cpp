@@ -1,4 +1,4 @@
-// Drawing of a colour as a swatch with its name.
+// Drawing of a color as a swatch with its name.
 
 #include "orlo/controls/color_swatch.h"
 
@@ -47,8 +47,8 @@ void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF co
     const orlo::TextColor colors(place.dc, color);
     SIZE size = {};
     ::GetTextExtentPoint32A(place.dc, name, static_cast<int>(std::strlen(name)), &size);
-    const bool centred = !keepStart || rect.right - rect.left > size.cx;
-    ::DrawTextA(place.dc, name, -1, &rect, DT_SINGLELINE | DT_VCENTER | (centred ? DT_CENTER : DT_LEFT));
+    const bool centered = !keepStart || rect.right - rect.left > size.cx;
+    ::DrawTextA(place.dc, name, -1, &rect, DT_SINGLELINE | DT_VCENTER | (centered ? DT_CENTER : DT_LEFT));
 }
 
 void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth,

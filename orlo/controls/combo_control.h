@@ -8,8 +8,8 @@
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, IDC_COLOR);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
-// The controls draw in the system's colours. A closed field shows the focus by the system's rectangle, and that it is disabled
-// by grey text on the colour of the dialog.
+// The controls draw in the system's colors. A closed field shows the focus by the system's rectangle, and that it is disabled
+// by gray text on the color of the dialog.
 //
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage

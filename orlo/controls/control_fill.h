@@ -21,7 +21,7 @@ constexpr UINT kFillMessage = 0x4BC; // lParam: const ControlFillRecord*
 struct ControlFillRecord {
     TableStruct* pTable; // null empties the control
     UINT_PTR dwValue; // face name (const char*) or size (bits of a float) of the font controls; else not read
-    unsigned int nSelected; // identifier of the entry to select, or a colour
+    unsigned int nSelected; // identifier of the entry to select, or a color
 };
 #pragma pack(pop)
 

@@ -1,5 +1,5 @@
 // The text of an item of a table-driven control: eight upper-case hexadecimal digits of an identifier (or a
-// colour), a tab, the name. Only the name is ever drawn.
+// color), a tab, the name. Only the name is ever drawn.
 //
 //   char text[kItemTextSize] = "000000FF\tRed";
 //   ParseControlItem(text) == 255, and text is "Red"

@@ -15,7 +15,7 @@ inline bool IsClosedField(const DRAWITEMSTRUCT& item) {
     return item.rcItem.left > 0;
 }
 
-// Colours of a row, selected or not, or of a disabled one, whose field is of the colour of the dialog.
+// Colors of a row, selected or not, or of a disabled one, whose field is of the color of the dialog.
 struct RowColors {
     COLORREF text, background;
 };
@@ -32,7 +32,7 @@ ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 // The frame of the selected item. Its far corner exceeds the usual one by that much (device pixels), within the item.
 void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
 
-// Marks the current row of a list whose rows have any colour: two frames of which one can be seen on each.
+// Marks the current row of a list whose rows have any color: two frames of which one can be seen on each.
 void MarkCurrentRow(const DRAWITEMSTRUCT& item);
 
 // The focus rectangle, in a list and in a closed field.

@@ -3,7 +3,7 @@
 
 #include "orlo/win/gdi.h"
 
-// Fills the rectangle (device pixels), brush and background colour of dc untouched.
+// Fills the rectangle (device pixels), brush and background color of dc untouched.
 void FillSolid(HDC dc, const RECT& rect, COLORREF color);
 
 // Outline of the rectangle, not filled; width in device pixels.

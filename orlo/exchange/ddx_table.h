@@ -28,7 +28,7 @@ ORLO_API int FillComboStringTable(CComboBox* pCombo, unsigned int nIDS, int nCou
 ORLO_API int DDX_LBTableIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value);
 ORLO_API int DDX_CBTableIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value);
 
-// The same with a 32-bit key, such as a colour. A key that no item has clears the selection; the last of
+// The same with a 32-bit key, such as a color. A key that no item has clears the selection; the last of
 // equal ones counts.
 ORLO_API int DDX_CBTableColor(int bReport, CDataExchange* pDX, int nIDC, unsigned long& value);
 

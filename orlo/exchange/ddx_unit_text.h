@@ -17,7 +17,7 @@
 ORLO_API int DDX_TextLinear(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
                             DrawingStruct* pDrawing, double dDefault, int nFormat, int bBlank);
 
-// A length on paper in millimetres; the unit of a text without one is passed to the host, as the variable 0x5034 (Paper) or
+// A length on paper in millimeters; the unit of a text without one is passed to the host, as the variable 0x5034 (Paper) or
 // as the unit of the number itself (PaperMM).
 ORLO_API int DDX_TextPaper(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
                            DrawingStruct* pDrawing, int bBlank);

@@ -239,7 +239,7 @@ void CBrushPage::SetPreviewProperties(int bAll) {
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }
 
-// The style decides the scale of the preview, so that any hatch can be recognised there, and which controls make sense.
+// The style decides the scale of the preview, so that any hatch can be recognized there, and which controls make sense.
 void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
     unsigned int style = m_nStyle;

@@ -1,4 +1,4 @@
-// The Brush page: style, colour, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A text
+// The Brush page: style, color, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A text
 // that is not an angle is ignored with a beep.
 #pragma once
 

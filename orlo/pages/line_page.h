@@ -1,4 +1,4 @@
-// The Pen page: colour, width with its scale system, dash scale, line style and alignment of the selected graphics. A width
+// The Pen page: color, width with its scale system, dash scale, line style and alignment of the selected graphics. A width
 // that the host cannot write shows as a blank field and does not keep the user on the page.
 #pragma once
 

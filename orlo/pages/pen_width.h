@@ -1,7 +1,7 @@
 // Pen widths as text, in one of two unit systems, and the combo that offers them.
 //
 // A stored width of scale system 0 is in drawing units. Any other is in inches of paper: shown in the pen width unit of the
-// drawing's units table, whose numbers are millimetres for this purpose (a factor of 1/25.4).
+// drawing's units table, whose numbers are millimeters for this purpose (a factor of 1/25.4).
 #pragma once
 
 #include <afxwin.h>

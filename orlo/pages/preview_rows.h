@@ -27,7 +27,7 @@ void CarryToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
         if (bAll || row.IsDirty(page)) row.carry(page, &save, bAll);
 }
 
-// The colour that the control has selected; nothing without a selection.
+// The color that the control has selected; nothing without a selection.
 void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName);
 
 // The state of a three-state box. The box comes up indeterminate, leaves that state at the first click, and never returns to

@@ -1,4 +1,4 @@
-// The Text page: font, height, font style, colour, effects and justification of the selected texts. A height that the host
+// The Text page: font, height, font style, color, effects and justification of the selected texts. A height that the host
 // cannot write shows as a blank field, and a text that is not a height is ignored with a beep.
 #pragma once
 
@@ -39,7 +39,7 @@ private:
     double m_dSize;             // drawing units
     unsigned long m_dwColor;    // of the pen
     unsigned short m_wStyle[2]; // the bits in which the texts differ, and the bits; see exchange/ddx_font.h
-    unsigned short m_wFormat;   // 0 left, 1 centre, 2 right
+    unsigned short m_wFormat;   // 0 left, 1 center, 2 right
     int m_bFirstExchange;
     CRadioGroup m_formats;
 };

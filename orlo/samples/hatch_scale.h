@@ -1,4 +1,4 @@
-// The brush scale at which a hatch can be recognised in a small sample.
+// The brush scale at which a hatch can be recognized in a small sample.
 #pragma once
 
 #include "orlo/host/records.h"

@@ -17,5 +17,5 @@ GraphicStruct* NewVertexList(std::initializer_list<ListedVertex> vertices);
 // The same with an undrawn part that holds its extents at the unit square.
 GraphicStruct* NewPreviewShape(std::initializer_list<ListedVertex> vertices);
 
-// The same as a sample, in pen colour 0.
+// The same as a sample, in pen color 0.
 SampleGraphic NewSample(std::initializer_list<ListedVertex> vertices);

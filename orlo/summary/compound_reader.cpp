@@ -409,7 +409,7 @@ uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
     return At(shortStreams_[static_cast<size_t>(inside / sectorBytes_)]) + inside % sectorBytes_;
 }
 
-// Neighbouring sectors are read at once: most streams are one run of them.
+// Neighboring sectors are read at once: most streams are one run of them.
 std::vector<uint8_t> CompoundReader::Structure::Read(const CompoundStream& stream) const {
     const bool isShort = IsShort(stream.size);
     const size_t each = isShort ? kShortSectorBytes : sectorBytes_;

@@ -1,4 +1,4 @@
-// Colours of a bitmap's lines, and a target whose pixels are means of them.
+// Colors of a bitmap's lines, and a target whose pixels are means of them.
 
 #include "orlo/summary/dib_drawing.h"
 
@@ -14,12 +14,12 @@ namespace orlo {
 namespace {
 
 constexpr uint8_t kWhite = 0xFF;
-constexpr uint32_t kSmallestHeader = 40; // one with masks and a table of four bytes a colour
+constexpr uint32_t kSmallestHeader = 40; // one with masks and a table of four bytes a color
 
-using Colour = std::array<uint8_t, 3>; // red, green, blue
-using Line = std::vector<Colour>;
+using Color = std::array<uint8_t, 3>; // red, green, blue
+using Line = std::vector<Color>;
 
-// One colour of a pixel, by its mask.
+// One color of a pixel, by its mask.
 class Channel {
 public:
     explicit Channel(uint32_t mask) : mask_(mask) {
@@ -43,7 +43,7 @@ private:
     uint32_t shift_ = 0, bits_ = 0;
 };
 
-// The colours of a bitmap whose layout is checked.
+// The colors of a bitmap whose layout is checked.
 class DibLines {
 public:
     DibLines(const uint8_t* data, const DibLayout& layout)
@@ -79,15 +79,15 @@ private:
 
     // Indices from the end of the table on are black.
     void ReadTable(const uint8_t* data) {
-        constexpr size_t kColourBytes = 4;
-        const size_t count = (layout_.pixelOffset - layout_.headerSize) / kColourBytes;
+        constexpr size_t kColorBytes = 4;
+        const size_t count = (layout_.pixelOffset - layout_.headerSize) / kColorBytes;
         for (size_t i = 0; i < std::min(count, table_.size()); ++i) {
-            const uint8_t* at = data + layout_.headerSize + kColourBytes * i;
+            const uint8_t* at = data + layout_.headerSize + kColorBytes * i;
             table_[i] = {at[2], at[1], at[0]};
         }
     }
 
-    Colour At(const uint8_t* line, size_t x) const {
+    Color At(const uint8_t* line, size_t x) const {
         const size_t bits = layout_.bitsPerPixel;
         if (bits <= 8) {
             const size_t perByte = 8 / bits;
@@ -99,7 +99,7 @@ private:
                                 : LittleEndian<uint32_t>(line + 4 * x));
     }
 
-    Colour Split(uint32_t pixel) const {
+    Color Split(uint32_t pixel) const {
         return {channels_[0].Of(pixel), channels_[1].Of(pixel), channels_[2].Of(pixel)};
     }
 
@@ -108,7 +108,7 @@ private:
         const auto width = static_cast<size_t>(layout_.width), height = static_cast<size_t>(layout_.height);
         painted_.assign(width * height, {kWhite, kWhite, kWhite});
         WalkRunLength(pixels_, layout_.pixelBytes, layout_, [&](const RunOfPixels& run) {
-            Colour* at = painted_.data() + width * (height - 1 - static_cast<size_t>(run.y)) + run.x;
+            Color* at = painted_.data() + width * (height - 1 - static_cast<size_t>(run.y)) + run.x;
             for (uint32_t i = 0; i < run.count; ++i)
                 *at++ = table_[run.Index(i)];
         });
@@ -116,7 +116,7 @@ private:
 
     const DibLayout& layout_;
     const uint8_t* pixels_;
-    std::array<Colour, 256> table_ = {};
+    std::array<Color, 256> table_ = {};
     std::array<Channel, 3> channels_;
     Line painted_; // the whole picture, if it is run-length data
 };
@@ -133,11 +133,11 @@ struct Coverage {
     }
 };
 
-using Sums = std::vector<std::array<uint64_t, 3>>; // of colours, a pixel of the target each
+using Sums = std::vector<std::array<uint64_t, 3>>; // of colors, a pixel of the target each
 
-void AddTo(std::array<uint64_t, 3>& sum, const std::array<uint64_t, 3>& colour, uint64_t weight) {
+void AddTo(std::array<uint64_t, 3>& sum, const std::array<uint64_t, 3>& color, uint64_t weight) {
     for (size_t i = 0; i < sum.size(); ++i)
-        sum[i] += colour[i] * weight;
+        sum[i] += color[i] * weight;
 }
 
 class Shrinking {
@@ -148,7 +148,7 @@ public:
           across_(width_) {}
 
     // Line y of the target.
-    void Write(size_t y, uint8_t* colours) {
+    void Write(size_t y, uint8_t* colors) {
         Sums sums(width_);
         const auto add = [&](size_t source, uint64_t weight) {
             SumAcross(source);
@@ -158,8 +158,8 @@ public:
         Coverage{static_cast<uint64_t>(layout_.height), height_}.Of(y, add);
         const uint64_t all = static_cast<uint64_t>(layout_.width) * static_cast<uint64_t>(layout_.height);
         for (const auto& sum : sums)
-            for (const uint64_t colour : sum)
-                *colours++ = static_cast<uint8_t>((colour + all / 2) / all);
+            for (const uint64_t color : sum)
+                *colors++ = static_cast<uint8_t>((color + all / 2) / all);
     }
 
 private:
@@ -189,17 +189,17 @@ private:
 
 std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t size, int32_t width,
                                                   int32_t height) {
-    const auto layout = ReadDibLayout(data, size, DibColours::Rgb);
+    const auto layout = ReadDibLayout(data, size, DibColors::Rgb);
     if (!layout || layout->topDown || layout->headerSize < kSmallestHeader) return std::nullopt;
     const Place place = Fitted({0, 0, width, height}, layout->width, layout->height);
     const DibLines lines(data, *layout);
     Shrinking shrinking(lines, *layout, place);
     const size_t lineBytes = 3 * static_cast<size_t>(width);
-    std::vector<uint8_t> colours(lineBytes * static_cast<size_t>(height), kWhite);
-    uint8_t* first = colours.data() + lineBytes * static_cast<size_t>(place.top) + 3 * place.left;
+    std::vector<uint8_t> colors(lineBytes * static_cast<size_t>(height), kWhite);
+    uint8_t* first = colors.data() + lineBytes * static_cast<size_t>(place.top) + 3 * place.left;
     for (int y = 0; y < place.height; ++y)
         shrinking.Write(static_cast<size_t>(y), first + lineBytes * static_cast<size_t>(y));
-    return colours;
+    return colors;
 }
 
 } // namespace orlo

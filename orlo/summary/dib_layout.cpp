@@ -1,4 +1,4 @@
-// Header, colour table, run-length data: each is checked before the next is read.
+// Header, color table, run-length data: each is checked before the next is read.
 
 #include "orlo/summary/dib_layout.h"
 
@@ -17,14 +17,14 @@ constexpr uint32_t kInfoHeader = 40;
 constexpr uint32_t kLaterHeaders[] = {52, 56, 108, 124};
 
 constexpr size_t kMaskBytes = 12;
-constexpr uint32_t kMostColours = 256;
+constexpr uint32_t kMostColors = 256;
 // A few bytes of run-length data can name any number of pixels, and the system allocates memory for each: a limit
 // is needed.
 constexpr uint64_t kMostRunLengthPixels = 1u << 24;
 
 struct Header {
     DibLayout layout;
-    uint32_t coloursUsed = 0;
+    uint32_t colorsUsed = 0;
     uint32_t imageBytes = 0;
 };
 
@@ -50,7 +50,7 @@ std::optional<Header> ReadInfoHeader(const uint8_t* data, uint32_t headerSize) {
     header.layout.bitsPerPixel = LittleEndian<uint16_t>(data + 14);
     header.layout.compression = LittleEndian<uint32_t>(data + 16);
     header.imageBytes = LittleEndian<uint32_t>(data + 20);
-    header.coloursUsed = LittleEndian<uint32_t>(data + 32);
+    header.colorsUsed = LittleEndian<uint32_t>(data + 32);
     return header;
 }
 
@@ -81,14 +81,14 @@ bool CompressionFits(const DibLayout& layout) {
 }
 
 // Bytes between header and pixels; nothing for a table that no picture needs.
-std::optional<size_t> TableBytes(const Header& header, DibColours colours) {
+std::optional<size_t> TableBytes(const Header& header, DibColors colors) {
     const DibLayout& layout = header.layout;
-    const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMostColours;
-    if (header.coloursUsed > nameable) return std::nullopt;
-    uint32_t count = header.coloursUsed;
+    const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMostColors;
+    if (header.colorsUsed > nameable) return std::nullopt;
+    uint32_t count = header.colorsUsed;
     if (count == 0 && layout.bitsPerPixel <= 8) count = nameable;
-    size_t each = colours == DibColours::PaletteIndices ? 2 : 4;
-    if (layout.headerSize == kCoreHeader && colours == DibColours::Rgb) each = 3;
+    size_t each = colors == DibColors::PaletteIndices ? 2 : 4;
+    if (layout.headerSize == kCoreHeader && colors == DibColors::Rgb) each = 3;
     const bool masks = layout.compression == kDibBitFields && layout.headerSize == kInfoHeader;
     return count * each + (masks ? kMaskBytes : 0);
 }
@@ -102,14 +102,14 @@ bool RunLengthPasses(const uint8_t* pixels, size_t left, uint32_t imageBytes, co
 
 } // namespace
 
-std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColours colours,
+std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColors colors,
                                        uint32_t maxLines) {
     const auto header = ReadHeader(data, size);
     if (!header) return std::nullopt;
     DibLayout layout = header->layout;
     if (layout.width <= 0 || layout.height <= 0 || !CompressionFits(layout)) return std::nullopt;
 
-    const auto table = TableBytes(*header, colours);
+    const auto table = TableBytes(*header, colors);
     if (!table || *table > size - layout.headerSize) return std::nullopt;
     layout.pixelOffset = layout.headerSize + *table;
     const size_t left = size - layout.pixelOffset;

@@ -215,29 +215,29 @@ bool BrushFits(const Parameters& p) {
     return p.Count() >= 4 && p.Word(0) <= kHatched;
 }
 
-std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColours colours,
+std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColors colors,
                                   uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;
-    return ReadDibLayout(p.At(at), 2 * p.Behind(at), colours, maxLines);
+    return ReadDibLayout(p.At(at), 2 * p.Behind(at), colors, maxLines);
 }
 
-std::optional<DibColours> ColoursOf(uint16_t usage) {
-    if (usage == 0) return DibColours::Rgb;
-    if (usage == 1) return DibColours::PaletteIndices;
+std::optional<DibColors> ColorsOf(uint16_t usage) {
+    if (usage == 0) return DibColors::Rgb;
+    if (usage == 1) return DibColors::PaletteIndices;
     return std::nullopt;
 }
 
-// A bitmap whose colour use is in word `usageAt`.
+// A bitmap whose color use is in word `usageAt`.
 std::optional<DibLayout> TaggedBitmapIn(const Parameters& p, size_t usageAt, size_t at,
                                         uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;
-    const auto colours = ColoursOf(p.Word(usageAt));
-    return colours ? BitmapIn(p, at, *colours, maxLines) : std::nullopt;
+    const auto colors = ColorsOf(p.Word(usageAt));
+    return colors ? BitmapIn(p, at, *colors, maxLines) : std::nullopt;
 }
 
 bool BlockTransferFits(const Parameters& p) {
     constexpr size_t kWithoutBitmap = 9; // the pattern alone is painted
-    return p.Count() == kWithoutBitmap || BitmapIn(p, 8, DibColours::Rgb);
+    return p.Count() == kWithoutBitmap || BitmapIn(p, 8, DibColors::Rgb);
 }
 
 bool ScanLinesFit(const Parameters& p) {
@@ -262,7 +262,7 @@ bool ContentFits(uint16_t function, const Parameters& p) {
     case kDibBitBlt:
         return BlockTransferFits(p);
     case kDibStretchBlt:
-        return BitmapIn(p, 10, DibColours::Rgb).has_value();
+        return BitmapIn(p, 10, DibColors::Rgb).has_value();
     case kStretchDib:
         return TaggedBitmapIn(p, 2, 11).has_value();
     case kSetDibToDevice:

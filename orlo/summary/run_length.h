@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// Pixels side by side, by their indices in the colour table.
+// Pixels side by side, by their indices in the color table.
 struct RunOfPixels {
     int64_t x, y; // of the first; lines are counted from the bottom
     uint32_t count;

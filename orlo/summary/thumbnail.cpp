@@ -35,7 +35,7 @@ Place PlaceIn(const RECT& rect, double sourceWidth, double sourceHeight, bool ke
 
 int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
     if (!dc || IsEmpty(rect)) return 0;
-    const auto layout = orlo::ReadDibLayout(dib.data, dib.size, orlo::DibColours::Rgb);
+    const auto layout = orlo::ReadDibLayout(dib.data, dib.size, orlo::DibColors::Rgb);
     if (!layout || layout->topDown || layout->headerSize < sizeof(BITMAPINFOHEADER)) return 0;
     // The host says where the pixels begin.
     const size_t pixels = layout->headerSize + PaletteSize(dib.data);

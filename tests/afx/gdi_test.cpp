@@ -42,7 +42,7 @@ TEST(Gdi, ATemporaryContextDoesNotDeleteItsHandle) {
     EXPECT_EQ(CDC::FromHandle(nullptr), nullptr);
 }
 
-TEST(Gdi, FillingLeavesTheBackgroundColour) {
+TEST(Gdi, FillingLeavesTheBackgroundColor) {
     CDC memory;
     ASSERT_TRUE(memory.CreateCompatibleDC(nullptr));
     CClientDC screen(nullptr);

@@ -118,7 +118,7 @@ TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
     taken.DestroyWindow();
 }
 
-TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
+TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
     m_list.AddString("on", 1);
     m_list.AddString("off", 0);
     m_list.UpdateWindow(); // the picture is loaded now
@@ -130,13 +130,13 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColour) {
     EXPECT_EQ(m_list.GetCheckRect(2, off), -1);
     m_list.GetCheckRect(1, off);
 
-    const COLORREF grey = RGB(0x80, 0x80, 0x80), black = RGB(0, 0, 0), white = RGB(255, 255, 255);
+    const COLORREF gray = RGB(0x80, 0x80, 0x80), black = RGB(0, 0, 0), white = RGB(255, 255, 255);
     for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
         Draw(0, ODA_DRAWENTIRE, state);
-        EXPECT_EQ(m_pixels.Count(on, grey), 23) << "the sunken edges";
+        EXPECT_EQ(m_pixels.Count(on, gray), 23) << "the sunken edges";
         EXPECT_LT(20, m_pixels.Count(on, black));
-        EXPECT_EQ(m_pixels.Count(on, grey) + m_pixels.Count(on, black) + m_pixels.Count(on, white), 12 * 12);
-        EXPECT_EQ(grey, m_pixels.At(on.left, on.top));
+        EXPECT_EQ(m_pixels.Count(on, gray) + m_pixels.Count(on, black) + m_pixels.Count(on, white), 12 * 12);
+        EXPECT_EQ(gray, m_pixels.At(on.left, on.top));
         Draw(1, ODA_DRAWENTIRE, state);
         const COLORREF window = ::GetSysColor(COLOR_WINDOW);
         EXPECT_LE(23, m_pixels.CountWhere(off, [=](COLORREF c) { return c != window; })) << "sunken as well";

@@ -1,4 +1,4 @@
-// The colour control: the order of its list, and its swatches by pixel.
+// The color control: the order of its list, and its swatches by pixel.
 
 #include "control_dialog.h"
 
@@ -15,7 +15,7 @@ protected:
     ColorControl()
         : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLOR)) {}
 
-    // The table keeps the address of the colour.
+    // The table keeps the address of the color.
     void Add(const std::string& name, DWORD color) {
         m_colors.push_back(std::make_unique<DWORD>(color));
         ASSERT_NE(TableEntryAdd(m_table, name.c_str(), m_colors.back().get()), 0);
@@ -241,7 +241,7 @@ TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     EXPECT_LT(10, m_pixels.Count(Middle(kRow), kWhite));
 }
 
-TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColour) {
+TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColor) {
     const COLORREF highlight = ::GetSysColor(COLOR_HIGHLIGHT), other = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
     for (const COLORREF color : {RGB(255, 0, 0), highlight, other}) {
         DrawOnly(color, "");

@@ -1,4 +1,4 @@
-// The order of colours, and HSV there and back.
+// The order of colors, and HSV there and back.
 
 #include "orlo/controls/color_order.h"
 #include "orlo/host/words.h"
@@ -62,7 +62,7 @@ TEST(ColorOrder, HoldsBothWays) {
     } rows[] = {
         {0xFF, 0xFF, 0},
         {0, RGB(1, 1, 1), -1},
-        {RGB(200, 200, 200), RGB(90, 90, 90), 1}, // greys by value
+        {RGB(200, 200, 200), RGB(90, 90, 90), 1}, // grays by value
         {0xFFFFFF, RGB(2, 2, 0), -1},             // white before any hue
         {RGB(255, 0, 0), RGB(255, 0, 255), 1},    // red after magenta
         {RGB(200, 0, 0), RGB(255, 128, 128), -1}, // value before saturation

@@ -76,7 +76,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// A picture of what a control draws for one request; what it leaves alone keeps a colour of its own.
+// A picture of what a control draws for one request; what it leaves alone keeps a color of its own.
 class DrawnPixels : public Pixels {
 public:
     static constexpr COLORREF kUntouched = RGB(1, 2, 3);

@@ -219,7 +219,7 @@ TEST_F(Fonts, TheIdentifierChoosesTheList) {
     combo.DestroyWindow();
 }
 
-TEST_F(Fonts, RowsAreDrawnInTheSystemsColours) {
+TEST_F(Fonts, RowsAreDrawnInTheSystemsColors) {
     FillFaces(nullptr, 0);
     FillSizes(5.0f);
     DrawnPixels pixels(120, 40);

@@ -1,4 +1,4 @@
-// The layer control: icons, names and colours of its rows.
+// The layer control: icons, names and colors of its rows.
 
 #include "control_dialog.h"
 
@@ -64,7 +64,7 @@ TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
     }
 }
 
-TEST_F(Layers, NamesHaveTheLayersColourWhereItCanBeSeen) {
+TEST_F(Layers, NamesHaveTheLayersColorWhereItCanBeSeen) {
     const uint16_t green = Add("green", RGB(0, 140, 0), 0);
     const uint16_t hidden = Add("as the background", ::GetSysColor(COLOR_WINDOW), 0);
     Fill(IDC_LAYER, m_table, green);

@@ -234,7 +234,7 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 5") << "the pointer has not moved since";
 }
 
-TEST_F(Pane, ItsPreviewKnowsTheColourOfTheLayer) {
+TEST_F(Pane, ItsPreviewKnowsTheColorOfTheLayer) {
     constexpr COLORREF kGreen = RGB(0, 255, 0);
     constexpr int kPreview = 3999;
     const auto layer = orlo::host::ReadProperty<uint16_t>(document().Selectable()[3], kPropLayer);

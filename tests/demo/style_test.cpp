@@ -176,7 +176,7 @@ TEST_F(Styles, CancelTakesBackWhatPagesHaveWritten) {
     }
     user.Key('A', UserInput::kControl);
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u) << "OK kept the other colour";
+    EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u) << "OK kept the other color";
 }
 
 TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {

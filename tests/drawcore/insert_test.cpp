@@ -54,7 +54,7 @@ TEST_F(Inserts, ScaleTurnAndMirror) {
     EXPECT_NEAR(BoxOf(drawing.Root()).right, 90, 1e-6);
 }
 
-TEST_F(Inserts, GiveTheirColourStyleAndLayerToWhatLeavesThemOpen) {
+TEST_F(Inserts, GiveTheirColorStyleAndLayerToWhatLeavesThemOpen) {
     const uint16_t green = TableEntryAdd(drawing.Table(kTableLayers), "Green", nullptr);
     LayerSet(drawing, green, kGreen, 0, 0);
     const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock),

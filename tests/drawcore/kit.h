@@ -81,12 +81,12 @@ class Picture {
 public:
     explicit Picture(DrawingStruct*);
 
-    // The graphic alone, on paper of that colour.
+    // The graphic alone, on paper of that color.
     void Draw(GraphicStruct* graphic, int preview = 0, COLORREF paper = RGB(255, 255, 255));
     ViewportStruct* Viewport() const { return m_viewport.get(); }
     const Pixels& Bits() const { return m_pixels; }
     HDC DC() const { return m_pixels.DC(); }
-    // The colour at a point of the drawing.
+    // The color at a point of the drawing.
     COLORREF At(int x, int y) const { return m_pixels.At(x, 100 - y); }
     // Pixels that are not white, in the box of drawing units (upper ends included).
     int Covered(int left, int bottom, int right, int top) const;

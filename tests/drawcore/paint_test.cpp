@@ -67,7 +67,7 @@ TEST_F(Paint, AWideOutlineIsClosedWhereItBegins) {
     EXPECT_NE(picture.At(50, 20), kWhite);
 }
 
-TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
+TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Blue", nullptr);
     LayerSet(drawing, layer, kBlue, 0, 0);
     const struct {
@@ -92,7 +92,7 @@ TEST_F(Paint, ColoursComeFromGraphicLayerAndBackground) {
         EXPECT_EQ(picture.At(50, y), row.seen) << y;
         y += 10;
     }
-    // The layer's colour can be its own: white is seen on black as it is, and black is not.
+    // The layer's color can be its own: white is seen on black as it is, and black is not.
     ViewportSetBackground(picture.Viewport(), kBlack);
     picture.Draw(drawing.Root(), 0, kBlack);
     EXPECT_EQ(picture.At(50, 50), kWhite);
@@ -258,7 +258,7 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     SetWhole(shape, kPropPenColor, kRed);
     shape->dwOneOutline = 1;
     picture.Draw(shape);
-    EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's colour";
+    EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's color";
     EXPECT_EQ(picture.At(5, 95), kWhite) << "the excursion shows no line";
     EXPECT_EQ(picture.Covered(), 81 * 81);
 }
@@ -283,7 +283,7 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     EXPECT_NEAR(rows(horizontal, 0, 1).second, 8, 1) << "crossed";
 }
 
-TEST_F(Paint, BitmapsTileAndTakeTheBrushColourOrTheirOwn) {
+TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
     const Loose square(MakeSquare(10, 10, 79));
     SetWhole(square, kPropPenStyle, 0);
     SetWhole(square, kPropBrushColor, kBlue);
@@ -430,15 +430,15 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
 
 TEST_F(Paint, PreviewsShowPensAtFullSize) {
     // A sample in the unit square, fitted to 100 pixels; its dashes and widths are still those of paper.
-    const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimetre = inch / 25.4;
+    const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimeter = inch / 25.4;
     const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), 3);
     SetWhole(sample, kPropPenColor, kRed);
     SetWhole(sample, kPropScaleSystem, 0);
-    SetReal(sample, kPropPenWidth, 2); // millimetres, the drawing's unit
+    SetReal(sample, kPropPenWidth, 2); // millimeters, the drawing's unit
     picture.Draw(sample, 1);
-    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimetre, 1);
+    EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimeter, 1);
     SetReal(sample, kPropPenWidth, 1000);
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 12.5, 1) << "never more than an eighth of the pane";
@@ -450,7 +450,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     int changes = 0;
     for (int x = 1; x <= 100; ++x)
         changes += (picture.At(x, 50) == kRed) != (picture.At(x - 1, 50) == kRed);
-    EXPECT_NEAR(changes, 100 / (3 * millimetre), 1.5);
+    EXPECT_NEAR(changes, 100 / (3 * millimeter), 1.5);
     AppStruct* application = AppGetCurrentApp();
     long before = 0;
     TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);

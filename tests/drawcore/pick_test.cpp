@@ -137,7 +137,7 @@ TEST_F(Pick, FollowsZoomAndPan) {
     EXPECT_TRUE(std::isfinite(x));
 }
 
-TEST_F(Pick, HighlightsInOneColour) {
+TEST_F(Pick, HighlightsInOneColor) {
     GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     const double dashes[] = {5, -5};
     SetWhole(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));

@@ -85,7 +85,7 @@ TEST_F(Tables, KeepTypedVariables) {
     EXPECT_FALSE(TableGetIntVar(table, 1, &whole));
     TableSetIntVar(table, 1, INT_MIN);
     TableSetNumericVar(table, 2, -0.5);
-    TableSetStringVar(table, 3, "millimetres");
+    TableSetStringVar(table, 3, "millimeters");
     EXPECT_TRUE(TableGetIntVar(table, 1, &whole));
     EXPECT_EQ(whole, INT_MIN);
     EXPECT_TRUE(TableGetNumericVar(table, 2, &real));
@@ -124,7 +124,7 @@ TEST_F(Tables, TakeDataOfTheirKind) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-TEST_F(Tables, HoldTheNumberedColoursByName) {
+TEST_F(Tables, HoldTheNumberedColorsByName) {
     TableStruct* colors = drawing.Table(kTableColors);
     const struct {
         const char* name;

@@ -264,7 +264,7 @@ TEST_F(Lengths, ComeBackFromTheirText) {
     }
 }
 
-TEST_F(Lengths, OnPaperAreMillimetresInWhateverUnitTheTextIs) {
+TEST_F(Lengths, OnPaperAreMillimetersInWhateverUnitTheTextIs) {
     TableSetStringVar(units, kUnitPenWidth, "in");
     double value = 0;
     EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "0.01", &value));
@@ -296,7 +296,7 @@ TEST_F(Lengths, FollowTheSpaceOfTheDrawing) {
 
     ASSERT_TRUE(DrawingSetCoordSpace(drawing, 1));
     EXPECT_TRUE(DrawingStdNumericToTextEx(drawing, 25, text, sizeof text, 1, kUnitTextSize));
-    EXPECT_STREQ(text, "2.5 cm") << "millimetres, shown in the unit of text sizes";
+    EXPECT_STREQ(text, "2.5 cm") << "millimeters, shown in the unit of text sizes";
     EXPECT_TRUE(DrawingStdNumericToText(drawing, 25, standard, sizeof standard, 1));
     EXPECT_STREQ(standard, text) << "a text size follows the drawing";
     EXPECT_TRUE(DrawingStdNumericToText(drawing, 25, standard, sizeof standard, 0));

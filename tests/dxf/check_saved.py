@@ -211,7 +211,7 @@ def check_blocks():
     ):
         failures.append(f"a block: {done} {lines} {found}")
     if recover and {line.dxf.color for line in audit(OUT)[1].blocks.get("MyBlock").query("LINE")} != {1}:
-        failures.append("a block: the other reader sees other colours")
+        failures.append("a block: the other reader sees other colors")
     broken = json.loads(run("get", BLOCKS, "none.dxf", "--json").stdout)
     if "entities" not in broken[0] or broken[1]["error"] != "the file cannot be opened":
         failures.append(f"JSON of a file that is not there: {broken[1]}")
@@ -221,7 +221,7 @@ def check_words():
     """Wrong words get those that are allowed; results are reported by exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
     for arguments, code, words in [
-        (["set", drawing, "PenColour=red", "-o", OUT], 2, "is none of Layer, Info, StyleTree, PenColor"),
+        (["set", drawing, "PenHue=red", "-o", OUT], 2, "is none of Layer, Info, StyleTree, PenColor"),
         (["set", drawing, "PenColor=purple", "-o", OUT], 1, "'purple' is none of By Layer, By Block, Red"),
         (["set", drawing, "Layer=Walls", "-o", OUT], 1, "'Walls' is none of 0, Titles, ConstantWidth"),
         (["set", drawing, "PenWidth=wide", "-o", OUT], 1, "'wide' is no length"),

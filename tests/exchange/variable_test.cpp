@@ -88,7 +88,7 @@ TEST_F(VariableExchange, TextsKeepTheirLength) {
     EXPECT_EQ(Text(IDC_EDIT), "other");
 }
 
-TEST_F(VariableExchange, DeviceInchesGoThroughMillimetres) {
+TEST_F(VariableExchange, DeviceInchesGoThroughMillimeters) {
     TableStruct* const units = m_drawing.Get()->pUnits;
     const auto exchange = [&](int bReport, CDataExchange& dx, double min, double max) {
         return DDX_TextVarDeviceInches(bReport, &dx, IDC_EDIT, units, m_table, kVariable, min, max,

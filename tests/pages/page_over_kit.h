@@ -117,7 +117,7 @@ protected:
     }
 
     static constexpr unsigned int kRed = 0x0000FF, kBlue = 0xFF0000;
-    static constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colours in colour order
+    static constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colors in color order
     GraphicKit kit;
     HostFrame frame;
 

@@ -146,7 +146,7 @@ TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
     EXPECT_NEAR(0.5 / kInch, kit[0].Number(kPropPenWidth), 1e-12);
 }
 
-// What is typed next is meant for the field, not for the list of colours.
+// What is typed next is meant for the field, not for the list of colors.
 TEST_F(PenPage, ARefusedWidthHasTheFocus) {
     for (const char* typed : {"abc", "100,5"}) {
         AddEqual();

@@ -86,7 +86,7 @@ compare show --stream missing.bin .
 compare rc $document nowhere/out
 compare rc $document empty
 compare thumbnail $document out --size 9000x1
-for line in "" "--help" "--version" "set --help" "shov x" "show" "set x colour=red" "set x ſubject=red" "set x --custom A=int:12x" "thumbnail x" \
+for line in "" "--help" "--version" "set --help" "shov x" "show" "set x color=red" "set x ſubject=red" "set x --custom A=int:12x" "thumbnail x" \
             "thumbnail x y --size 0x9"; do # shellcheck disable=SC2086 # words
     compare $line
 done

@@ -39,5 +39,5 @@ printf 'check\0%s\0' "$documents/test11--695187.doc" | suminfo @- >checked || st
 suminfo thumbnail v5-Connection-Types--c289c5.vsd picture.png || fail "$(cat err)"
 [ "$(head -c 4 picture.png | tail -c 3)" = PNG ] || fail "no picture"
 status=0
-suminfo set test11--695187.doc colour=red || status=$?
+suminfo set test11--695187.doc color=red || status=$?
 [ $status -eq 2 ] || fail "a wrong line ends with $status"

@@ -37,8 +37,8 @@ double Canvas::Coverage() const {
     return count / (double(width_) * height_);
 }
 
-MeanColour Canvas::Mean() const {
-    MeanColour mean = {};
+MeanColor Canvas::Mean() const {
+    MeanColor mean = {};
     for (int y = 0; y < height_; ++y) {
         for (int x = 0; x < width_; ++x) {
             const COLORREF pixel = At(x, y);

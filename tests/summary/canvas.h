@@ -7,7 +7,7 @@
 
 #include "support/pixels.h"
 
-struct MeanColour {
+struct MeanColor {
     double red, green, blue;
 };
 
@@ -23,7 +23,7 @@ public:
     std::optional<RECT> Covered() const;
     // The share of pixels that aren't white.
     double Coverage() const;
-    MeanColour Mean() const;
+    MeanColor Mean() const;
 
 private:
     int width_, height_;

@@ -231,7 +231,7 @@ const Bend kBends[] = {
      CompoundState::unsafe},
     {"DirectoryElsewhere", [](ByteVector& file) { Put(file, 48, 0x00FFFFFF); }, CompoundState::unsafe},
     {"DirectoryIsAStream", [](ByteVector& file) { Put(file, 48, 3); }, CompoundState::unsafe},
-    {"EntryIsItsOwnNeighbour",
+    {"EntryIsItsOwnNeighbor",
      [](ByteVector& file) {
          const uint32_t first = Number(file, EntryAt(file, 0) + kChild);
          Put(file, EntryAt(file, first) + 68, first);

@@ -1,4 +1,4 @@
-// Colours of bitmaps drawn without the system: every depth, their places, and means of what gets smaller.
+// Colors of bitmaps drawn without the system: every depth, their places, and means of what gets smaller.
 
 #include "orlo/summary/dib_drawing.h"
 
@@ -14,17 +14,17 @@ namespace {
 using Drawn = std::vector<uint32_t>;
 
 Drawn Draw(const ByteVector& dib, int width, int height) {
-    const auto colours = DrawDibFitted(dib.data(), dib.size(), width, height);
+    const auto colors = DrawDibFitted(dib.data(), dib.size(), width, height);
     Drawn drawn;
-    for (size_t i = 0; colours && i + 2 < colours->size(); i += 3)
-        drawn.push_back((*colours)[i] << 16u | (*colours)[i + 1] << 8u | (*colours)[i + 2]);
+    for (size_t i = 0; colors && i + 2 < colors->size(); i += 3)
+        drawn.push_back((*colors)[i] << 16u | (*colors)[i + 1] << 8u | (*colors)[i + 2]);
     return drawn;
 }
 
 // Lines from the bottom, each filled up to four bytes.
 DibBytes With(DibBytes dib, std::vector<uint32_t> table, ByteVector pixels) {
     dib.table = std::move(table);
-    dib.coloursUsed = dib.bitsPerPixel <= 8 ? static_cast<uint32_t>(dib.table.size()) : 0;
+    dib.colorsUsed = dib.bitsPerPixel <= 8 ? static_cast<uint32_t>(dib.table.size()) : 0;
     dib.pixels = std::move(pixels);
     return dib;
 }
@@ -44,7 +44,7 @@ DibBytes Runs(uint16_t bits, ByteVector codes) {
 
 constexpr uint32_t kWhite = 0xFFFFFF;
 
-TEST(DibDrawing, ColoursOfEveryDepth) {
+TEST(DibDrawing, ColorsOfEveryDepth) {
     const struct {
         const char* name;
         DibBytes dib;

@@ -32,7 +32,7 @@ ByteVector CutDib() {
 // A pattern of 2^23 pixels in 50 bytes.
 std::vector<uint16_t> LargePattern() {
     DibBytes dib = Dib(4096, 2048, 8).RunLength({0, 1});
-    dib.table.resize(dib.coloursUsed = 1);
+    dib.table.resize(dib.colorsUsed = 1);
     return Words({5, 0}, dib.Build());
 }
 

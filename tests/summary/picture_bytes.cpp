@@ -19,7 +19,7 @@ ByteVector DibBytes::Build() const {
     for (const uint32_t field : {headerSize, static_cast<uint32_t>(width), static_cast<uint32_t>(height)})
         AppendLong(bytes, field);
     AppendWords(bytes, {planes, bitsPerPixel});
-    for (const uint32_t field : {compression, imageBytes, 0u, 0u, coloursUsed, 0u})
+    for (const uint32_t field : {compression, imageBytes, 0u, 0u, colorsUsed, 0u})
         AppendLong(bytes, field);
     for (const uint32_t color : table)
         AppendLong(bytes, color);

@@ -10,7 +10,7 @@ using ByteVector = std::vector<uint8_t>;
 void AppendWords(ByteVector& bytes, const std::vector<uint16_t>& words);
 void AppendLong(ByteVector& bytes, uint32_t value);
 
-// A 40-byte header with any values in the fields, a colour table and pixels of one value.
+// A 40-byte header with any values in the fields, a color table and pixels of one value.
 struct DibBytes {
     uint32_t headerSize = 40;
     int32_t width = 1;
@@ -19,8 +19,8 @@ struct DibBytes {
     uint16_t bitsPerPixel = 24;
     uint32_t compression = 0;
     uint32_t imageBytes = 0;
-    uint32_t coloursUsed = 0;
-    std::vector<uint32_t> table; // colours or masks
+    uint32_t colorsUsed = 0;
+    std::vector<uint32_t> table; // colors or masks
     ByteVector pixels;
 
     ByteVector Build() const;
@@ -44,7 +44,7 @@ public:
     MetaFileBytes& Record(uint16_t function, const std::vector<uint16_t>& parameters);
     // Raw words in the place of a record.
     MetaFileBytes& Raw(std::initializer_list<uint16_t> words);
-    // Window and extent as most writers set them, then a rectangle filled with that colour.
+    // Window and extent as most writers set them, then a rectangle filled with that color.
     MetaFileBytes& FilledRectangle(uint32_t color, int16_t left, int16_t top, int16_t width, int16_t height);
     // The picture, with the record that ends it.
     ByteVector Build() const;

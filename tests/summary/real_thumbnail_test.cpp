@@ -1,5 +1,5 @@
 // Thumbnails of real documents against pictures of them that other programs made: covered area and mean
-// colour.
+// color.
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ void ExpectLikeReference(const ByteVector& value, const fs::path& png) {
     const RECT whole = canvas.Whole();
     EXPECT_NE(DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.DC(), &whole), 0);
     EXPECT_NEAR(canvas.Coverage(), reference.Coverage(), 0.05);
-    const MeanColour mean = canvas.Mean(), expected = reference.Mean();
+    const MeanColor mean = canvas.Mean(), expected = reference.Mean();
     EXPECT_NEAR(mean.red, expected.red, 6);
     EXPECT_NEAR(mean.green, expected.green, 6);
     EXPECT_NEAR(mean.blue, expected.blue, 6);

@@ -20,7 +20,7 @@ constexpr uint32_t kBlue = 0x00FF0000; // as a COLORREF
 
 ByteVector BlueDib(int width, int height) {
     DibBytes dib = Dib(width, height, 8);
-    dib.coloursUsed = 2;
+    dib.colorsUsed = 2;
     dib.table = {0x00FF0000, 0x000000FF}; // red, blue
     return dib.Fill(1).Build();
 }
@@ -166,7 +166,7 @@ TEST_F(Thumbnail, BitmapsOfEveryKindDraw) {
 }
 
 // Pixel for pixel, in their own size.
-TEST(DrawingWithoutTheSystem, HasTheColoursOfTheSystem) {
+TEST(DrawingWithoutTheSystem, HasTheColorsOfTheSystem) {
     std::vector<DibBytes> dibs = {Dib(5, 3, 16).Masked(),
                                   Dib(5, 3, 8).RunLength({4, 1, 0, 0, 0, 3, 1, 200, 3, 9, 0, 2, 1, 1, 0, 1}),
                                   Dib(5, 3, 4).RunLength({5, 0x12, 0, 0, 0, 3, 0xF2, 0x30, 0, 1})};

@@ -12,10 +12,10 @@ public:
     HDC DC() const { return m_picture.Dc(); }
     void Clear(COLORREF color);
     COLORREF At(int x, int y) const;
-    // Pixels of the rectangle that are of that colour.
+    // Pixels of the rectangle that are of that color.
     int Count(const RECT& rect, COLORREF color) const;
     int CountWhere(const RECT& rect, const std::function<bool(COLORREF)>& is) const;
-    // Changes of "is of that colour" along a row or a column, a measure for dashes and frames.
+    // Changes of "is of that color" along a row or a column, a measure for dashes and frames.
     int ChangesAlongRow(int y, int left, int right, COLORREF color) const;
 
 private:

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNoTemplate = 699;
-constexpr int kField = 1010, kKeepColour = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
+constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
               kHeading = 302;
 
 class CStep : public CPropertyPage {
@@ -180,7 +180,7 @@ TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
                   user.Focus(kField);
                   user.Key(VK_RETURN);
                   EXPECT_EQ(State(user), "0 - &Next >");
-                  user.Focus(kKeepColour);
+                  user.Focus(kKeepColor);
                   user.Key(VK_RETURN);
                   EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
@@ -259,7 +259,7 @@ TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
                       const HWND next = ::GetDlgItem(user.Sheet(), kNext);
                       for (const char* left : {"0 - &Next >", "1 Back Finish"}) {
                           ::EnableWindow(next, FALSE);
-                          user.Focus(kKeepColour);
+                          user.Focus(kKeepColor);
                           user.Key(VK_RETURN);
                           EXPECT_EQ(left, State(user));
                           EXPECT_EQ(log, "");

@@ -157,16 +157,16 @@ struct PropertyForms {
         return *drawcore::FindLengthUnit(of.units_.drawingUnit);
     }
     static double ReadLength(const std::string& text, const drawcore::LengthUnit& unit) {
-        double millimetres = 0;
-        if (!drawcore::ReadLength(text, unit, millimetres) || millimetres < 0)
+        double millimeters = 0;
+        if (!drawcore::ReadLength(text, unit, millimeters) || millimeters < 0)
             throw dxf::SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
-        return millimetres;
+        return millimeters;
     }
     // Lengths are shown with all their digits: what is set from them is what they were.
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;
-        return drawcore::WriteLength(units * unit.millimetres, unit,
+        return drawcore::WriteLength(units * unit.millimeters, unit,
                                      {of.units_.lengthSystem, kDigits, false});
     }
 
@@ -184,7 +184,7 @@ struct PropertyForms {
             look.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
             look.worldWidth = false;
         } else if (look.worldWidth)
-            look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
+            look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
         else
             look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
     }
@@ -280,7 +280,7 @@ struct PropertyForms {
     }
 
     static void SetSize(const PropertyTexts& of, const std::string& text, Look& look) {
-        const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimetres;
+        const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
         if (!(size > 0)) throw dxf::SaveError("a text has a height above 0");
         look.text.height = size;
     }

@@ -26,12 +26,12 @@ public:
     std::vector<uint8_t> Pixels() const {
         ::GdiFlush();
         const size_t count = static_cast<size_t>(size_.width) * static_cast<size_t>(size_.height);
-        std::vector<uint8_t> colours;
-        colours.reserve(3 * count);
+        std::vector<uint8_t> colors;
+        colors.reserve(3 * count);
         const auto* pixels = static_cast<const uint8_t*>(pixels_);
         for (const uint8_t* at = pixels; at != pixels + 4 * count; at += 4)
-            colours.insert(colours.end(), {at[2], at[1], at[0]});
-        return colours;
+            colors.insert(colors.end(), {at[2], at[1], at[0]});
+        return colors;
     }
 
 private:

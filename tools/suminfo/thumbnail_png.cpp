@@ -88,12 +88,12 @@ void RefuseOtherKinds(const orlo::Bytes& value) {
 }
 
 std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {
-    auto colours = IsBitmap(value)
+    auto colors = IsBitmap(value)
                        ? orlo::DrawDibFitted(value.data() + kPictureOffset, value.size() - kPictureOffset,
                                              extent.width, extent.height)
                        : DrawMetafile(value, extent);
-    if (!colours) throw Failure("its thumbnail is damaged");
-    return std::move(*colours);
+    if (!colors) throw Failure("its thumbnail is damaged");
+    return std::move(*colors);
 }
 
 } // namespace
@@ -104,10 +104,10 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<E
     const Extent extent = size ? *size : OwnExtent(value);
     if (extent.width <= 0 || extent.height <= 0 || extent.width > kLargest || extent.height > kLargest)
         throw Failure("a size is between 1x1 and 8192x8192");
-    const std::vector<uint8_t> colours = Drawn(value, extent);
+    const std::vector<uint8_t> colors = Drawn(value, extent);
     OnFile(png, [&] {
         std::string bytes;
-        if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colours.data(),
+        if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colors.data(),
                                     3 * extent.width))
             throw Failure("can't be written");
         files::FileReplacement file(std::filesystem::u8path(png));

@@ -1,4 +1,4 @@
-// The 255 numbered colours.
+// The 255 numbered colors.
 #include "drawcore/src/dxf/color_numbers.h"
 
 #include <algorithm>

@@ -115,7 +115,7 @@ struct MText {
     double height = 0;
     double width = 0;        // of the column in which words wrap; 0: none
     Vec3 direction{1, 0, 0}; // of the lines, in the world; not of length 1
-    int attachment = 1;      // 1 top left, 2 top centre ... 9 bottom right
+    int attachment = 1;      // 1 top left, 2 top center ... 9 bottom right
     double lineSpacing = 1;
     TextStyleIndex style{};
 };
@@ -141,7 +141,7 @@ struct Hatch {
         enum class Kind : uint8_t { line, arc, ellipse, spline };
         Kind kind = Kind::line;
         bool counterClockwise = true;
-        Vec3 start;            // line: both ends; arc and ellipse: the centre
+        Vec3 start;            // line: both ends; arc and ellipse: the center
         Vec3 end;              // ellipse: the major axis
         double radius = 0;     // arc; ellipse: minor to major axis
         double startAngle = 0; // degrees; mirrored where clockwise

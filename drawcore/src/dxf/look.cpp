@@ -127,7 +127,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropBrushColor, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         // With two numbers the groups show the brush's colour, and the other one is the pen's.
+         // With two numbers the groups show the brush's color, and the other one is the pen's.
          const uint32_t color = ToColor(own.numbers[0], look.brush.color);
          const bool inGroups = own.numbers.size() > 1;
          if (inGroups && look.color != color) return;

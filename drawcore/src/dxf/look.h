@@ -1,4 +1,4 @@
-// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of orlo/host/words.h mean the same colours, line styles and brushes here.
+// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of orlo/host/words.h mean the same colors, line styles and brushes here.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -81,6 +81,6 @@ FontFace FaceOf(const TextStyle& style);
 // The font file of a family in that cut.
 std::string FontFileOf(const FontFace& face);
 
-constexpr double kWeightsPerInch = kMillimetersPerInch * 100; // line weights are hundredths of a millimetre
+constexpr double kWeightsPerInch = kMillimetersPerInch * 100; // line weights are hundredths of a millimeter
 
 } // namespace dxf

@@ -16,7 +16,7 @@ using drawcore::SweepBetween;
 
 namespace {
 
-// The parameter of an ellipse at which it is seen under that angle from its centre.
+// The parameter of an ellipse at which it is seen under that angle from its center.
 double ParameterOf(double angle, double ratio) {
     const double turns = std::floor(angle / (2 * kPi) + 0.5) * 2 * kPi;
     return turns + std::atan2(std::sin(angle) / std::max(std::abs(ratio), 1e-12), std::cos(angle));

@@ -1,4 +1,4 @@
-// States and colours of layers.
+// States and colors of layers.
 #include "drawcore/src/export/layer_export.h"
 
 #include <cstdlib>

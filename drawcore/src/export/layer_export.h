@@ -9,10 +9,10 @@
 
 namespace drawcore {
 
-// Gives the file's layer the colour and the state of the drawing's; its line type stays.
+// Gives the file's layer the color and the state of the drawing's; its line type stays.
 void Describe(const Layer& layer, dxf::Layer& made);
 
-// The layers of the file whose state, colour or line type is another in the drawing, as they are to be.
+// The layers of the file whose state, color or line type is another in the drawing, as they are to be.
 std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing,
                                                                   const dxf::Document& known);
 

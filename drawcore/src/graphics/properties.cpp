@@ -231,7 +231,7 @@ constexpr Property kProperties[] = {
     Whole<InText<&TextState::style>, Within<0, 0xFFFF>>(kPropTextStyle, kMeansBits, kOfText, true),
 };
 
-// Forms of whole numbers. A 32-bit form takes either reading of its top bit: colours come signed as well as unsigned.
+// Forms of whole numbers. A 32-bit form takes either reading of its top bit: colors come signed as well as unsigned.
 bool GiveWhole(int vt, void* out, int64_t value) {
     switch (vt) {
     case VT_I4:

@@ -1,4 +1,4 @@
-// Resolving layers, colours and line styles on the way down through groups and insertions.
+// Resolving layers, colors and line styles on the way down through groups and insertions.
 #include "drawcore/src/graphics/trace.h"
 
 #include <algorithm>

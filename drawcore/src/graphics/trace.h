@@ -1,5 +1,5 @@
 // Tracing: a graphic turned into what a device, a hit test or a box is made of - flat lines, areas and rows of text - with
-// blocks opened, curves flattened, colours, styles and widths worked out.
+// blocks opened, curves flattened, colors, styles and widths worked out.
 #pragma once
 
 #include <string_view>

@@ -161,7 +161,7 @@ bool HasWidths(const std::vector<Vertex>& vertices) {
     return std::any_of(vertices.begin(), vertices.end(), [](const Vertex& v) { return HasWidth(v.Next()); });
 }
 
-// The segments with widths as areas in the pen's colour.
+// The segments with widths as areas in the pen's color.
 void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse& use) {
     BrushUse solid;
     solid.color = use.color;

@@ -230,7 +230,7 @@ void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     };
     ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
     const bool own = bitmap.colors && !settings_.highlight;
-    // A set bit takes the background colour of the device context, a clear one its text colour.
+    // A set bit takes the background color of the device context, a clear one its text color.
     ::SetBkColor(dc_, own ? bitmap.colors->ink : ink);
     ::SetTextColor(dc_, own ? bitmap.colors->paper : settings_.background);
     FillAreas(areas, brush.get(), own ? bitmap.colors->ink : ink, use.winding);

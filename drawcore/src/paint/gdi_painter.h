@@ -15,8 +15,8 @@
 namespace drawcore {
 
 struct PaintSettings {
-    Color background = kWhite;      // what is of nearly that colour is drawn in its opposite
-    std::optional<Color> highlight; // everything in that colour, thicker
+    Color background = kWhite;      // what is of nearly that color is drawn in its opposite
+    std::optional<Color> highlight; // everything in that color, thicker
     double widestPen = 1e9;         // pixels
 };
 

@@ -6,7 +6,7 @@
 
 namespace drawcore {
 
-// Whether the lines of the pattern are at least that far apart; otherwise they would only make a grey.
+// Whether the lines of the pattern are at least that far apart; otherwise they would only make a gray.
 bool ShowsHatch(const BrushUse& brush, double least);
 
 // The lines within the areas and the box.

@@ -32,7 +32,7 @@ double LineScale(const Graphic& graphic, const Drawing* drawing) {
 double FullSizeUnit(HDC dc, const Drawing* drawing) {
     const Table* units = drawing ? drawing->Units() : nullptr;
     const LengthUnit* unit = units ? UnitOfVariable(*units, kUnitDrawing) : nullptr;
-    return (unit ? unit->millimetres : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetersPerInch;
+    return (unit ? unit->millimeters : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetersPerInch;
 }
 
 // The device context in the units that the viewport counts in: pixels. In other mapping modes the rectangle is converted.

@@ -51,7 +51,7 @@ public:
     // At most one call for each entity.
     void Change(size_t offset, const Look& wanted, const EntityPlace& place = {});
 
-    // Colour, flags and line type (by name) of a layer; at most once for each, before changes of entities.
+    // Color, flags and line type (by name) of a layer; at most once for each, before changes of entities.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
 
     // Adds a record for the layer if no table has one.

@@ -1,4 +1,4 @@
-// Layer, colour, line and the extended data of an entity.
+// Layer, color, line and the extended data of an entity.
 #include "drawcore/src/save/look_writer.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace dxf {
 
 namespace {
 
-// The line weights that the file format knows, hundredths of a millimetre.
+// The line weights that the file format knows, hundredths of a millimeter.
 constexpr int kWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
                             53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 
@@ -35,7 +35,7 @@ LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
 void LookWriter::Write(const Look& wanted) {
     if (!(Now() == wanted)) {
         WriteLayer(wanted);
-        WriteText(wanted); // before the colour, which may be set within the text
+        WriteText(wanted); // before the color, which may be set within the text
         WriteColor(wanted);
         WriteBrush(wanted);
         WriteLineType(wanted);
@@ -97,7 +97,7 @@ bool LookWriter::CanPutColor(uint32_t color) const {
 
 void LookWriter::PutColor(uint32_t color) {
     entity_.trueColor = -1;
-    record_.RemoveCommon(430); // a name of the colour that was
+    record_.RemoveCommon(430); // a name of the color that was
     if (color == kColorByLayer || color == kColorByBlock) {
         entity_.color = color == kColorByLayer ? kIndexByLayer : kIndexByBlock;
     } else {

@@ -35,7 +35,7 @@ struct BrushBitmap {
     };
 
     std::array<uint8_t, 8> rows{}; // from the top; the highest bit is the leftmost pixel; set is ink
-    std::optional<Colors> colors;  // none: ink is the brush colour, paper what lies underneath
+    std::optional<Colors> colors;  // none: ink is the brush color, paper what lies underneath
 };
 
 // Without lines and bitmap the style is solid.

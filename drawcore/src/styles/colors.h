@@ -1,4 +1,4 @@
-// Colours: the markers that stand for another's colour, the 255 numbered colours of DXF, and the table "_Colors_".
+// Colors: the markers that stand for another's color, the 255 numbered colors of DXF, and the table "_Colors_".
 #pragma once
 
 #include "drawcore/src/tables/table.h"
@@ -25,7 +25,7 @@ private:
 
 class ColorTable : public TableOf<ColorEntry> {
 public:
-    // Filled with the 255 numbered colours, identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
+    // Filled with the 255 numbered colors, identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
     explicit ColorTable(Drawing* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };

@@ -16,11 +16,11 @@ constexpr int kMostDecimals = 12;
 
 class Lengths : public Measure {
 public:
-    explicit Lengths(const LengthUnit& bare) : Measure(bare.millimetres) {}
+    explicit Lengths(const LengthUnit& bare) : Measure(bare.millimeters) {}
 
     double Unit(std::string_view name) const override {
         const LengthUnit* unit = FindLengthUnit(name);
-        return unit ? unit->millimetres : 0;
+        return unit ? unit->millimeters : 0;
     }
 
     bool ReadOne(TextCursor& cursor, Quantity& length) const override {
@@ -94,9 +94,9 @@ std::string FeetAndInches(double steps, double perInch, const LengthFormat& form
     return (feet > 0 ? Plain(feet) + "'-" : std::string()) + inches + "\"";
 }
 
-std::string WriteFeetAndInches(double millimetres, const LengthFormat& format) {
+std::string WriteFeetAndInches(double millimeters, const LengthFormat& format) {
     const bool fractions = format.system == LengthSystem::Architectural;
-    const double inches = millimetres / kInch;
+    const double inches = millimeters / kInch;
     const int digits = fractions ? format.digits : DecimalsFor(inches, format.digits);
     const double perInch = std::pow(fractions ? 2 : 10, digits);
     double steps = 0;
@@ -115,18 +115,18 @@ std::string WriteFraction(double number, const LengthFormat& format) {
 
 } // namespace
 
-bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres) {
-    return ReadMeasured(text, Lengths(bare), millimetres);
+bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimeters) {
+    return ReadMeasured(text, Lengths(bare), millimeters);
 }
 
-std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format) {
-    const double number = millimetres / unit.millimetres;
+std::string WriteLength(double millimeters, const LengthUnit& unit, const LengthFormat& format) {
+    const double number = millimeters / unit.millimeters;
     switch (format.system) {
     case LengthSystem::Scientific:
         return WithUnit(ScientificText(number, format.digits), unit, format.suffix);
     case LengthSystem::Engineering:
     case LengthSystem::Architectural:
-        return WriteFeetAndInches(millimetres, format);
+        return WriteFeetAndInches(millimeters, format);
     case LengthSystem::Fractional:
         return WithUnit(WriteFraction(number, format), unit, format.suffix);
     case LengthSystem::Decimal:

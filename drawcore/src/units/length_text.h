@@ -22,11 +22,11 @@ struct LengthFormat {
     bool suffix = false; // the unit's name follows after a blank, where the form has no marks of its own
 };
 
-// Millimetres of the text; a number without a unit is in the given one. False, and value left alone, if it is not a length.
-bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimetres);
+// Millimeters of the text; a number without a unit is in the given one. False, and value left alone, if it is not a length.
+bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimeters);
 
 // Empty if the length is not a number. Feet and inches (engineering, architectural) are true ones, whatever the unit is. A length
 // that has no place in its form, because it is too large or a fraction would make nothing of it, is written as a decimal.
-std::string WriteLength(double millimetres, const LengthUnit& unit, const LengthFormat& format);
+std::string WriteLength(double millimeters, const LengthUnit& unit, const LengthFormat& format);
 
 } // namespace drawcore

@@ -7,7 +7,7 @@ namespace drawcore {
 
 struct LengthUnit {
     const char* name;   // as it is written
-    double millimetres; // that one of it has
+    double millimeters; // that one of it has
 };
 
 // By name or another spelling of it ("inches", a double quote); case does not count. Null if there isn't one.

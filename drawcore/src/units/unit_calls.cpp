@@ -14,9 +14,9 @@ namespace drawcore {
 
 namespace {
 
-// Millimetres that the number 1 stands for: drawing units count as they are, paper lengths are always in millimetres.
+// Millimeters that the number 1 stands for: drawing units count as they are, paper lengths are always in millimeters.
 double NumberUnit(uint16_t variable, const LengthUnit& unit) {
-    return variable == kUnitDrawing ? unit.millimetres : 1.0;
+    return variable == kUnitDrawing ? unit.millimeters : 1.0;
 }
 
 // The unit of the text: that of the display variable, or with 0 that of the number's own.
@@ -35,9 +35,9 @@ int TextToNumber(Table* units, uint16_t number, uint16_t display, const char* te
     if (!units || !text || !value) return 0;
     const LengthUnit* of = UnitOfVariable(*units, number);
     const LengthUnit* shown = TextUnit(*units, display, number);
-    double millimetres = 0;
-    if (!of || !shown || !ReadLength(text, *shown, millimetres)) return 0;
-    *value = millimetres / NumberUnit(number, *of);
+    double millimeters = 0;
+    if (!of || !shown || !ReadLength(text, *shown, millimeters)) return 0;
+    *value = millimeters / NumberUnit(number, *of);
     return 1;
 }
 
@@ -135,7 +135,7 @@ int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
     const Table* table = Table::Find(units);
     const LengthUnit* unit = table ? UnitOfVariable(*table, variable) : nullptr;
     if (!unit || !value) return 0;
-    *value = unit->millimetres;
+    *value = unit->millimeters;
     return 1;
 }
 
