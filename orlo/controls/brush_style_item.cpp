@@ -22,12 +22,12 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look,
     const RECT cell = Inflated(request.rcItem, -2);
     if (look.fitsCell) FitSampleToCell(item.graphic, cell);
     const COLORREF ink = SampleColorsOf(request).text;
-    GraphicSetPenColor(item.graphic, ink);
-    GraphicSetBrushColor(item.graphic, ink);
-    GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
-    GraphicSetBrushScale(item.graphic,
+    ::GraphicSetPenColor(item.graphic, ink);
+    ::GraphicSetBrushColor(item.graphic, ink);
+    ::GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
+    ::GraphicSetBrushScale(item.graphic,
                          HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
-    GraphicSetDirty(item.graphic, 1); // the filling of the item before is not to be used again
+    ::GraphicSetDirty(item.graphic, 1); // the filling of the item before is not to be used again
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
 }
 
@@ -52,12 +52,12 @@ void FitSampleToCell(GraphicStruct* graphic, const RECT& cell) {
     const double height = cell.bottom != cell.top ? cell.bottom - cell.top : kLeastHeight;
     const double outer = (cell.right - cell.left) / height;
     int cookie = 0, index = 0;
-    for (VertexStruct* vertex = GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); vertex;
-         vertex = GraphicVertexNext(graphic, &cookie, 0, 0xFFFF), ++index) {
+    for (VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); vertex;
+         vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF), ++index) {
         if (index >= 4 && index <= 7)
-            VertexSet(vertex, index == 6 ? outer : (1.0 - kMargin) * outer, vertex->y, vertex->z);
+            ::VertexSet(vertex, index == 6 ? outer : (1.0 - kMargin) * outer, vertex->y, vertex->z);
     }
-    GraphicSetExtentsDirty(graphic, 1);
+    ::GraphicSetExtentsDirty(graphic, 1);
 }
 
 bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {

@@ -56,8 +56,8 @@ std::vector<Entry> SortedColors(TableStruct* table) {
     std::vector<Entry> entries;
     int cookie = 0;
     unsigned place = 0;
-    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie)) {
-        const void* const color = TableEntryGetData(table, id);
+    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+        const void* const color = ::TableEntryGetData(table, id);
         if (!color) continue;
         const DWORD value = *static_cast<const DWORD*>(color);
         if (IsPlainColor(value)) entries.emplace_back(id, value, place++);
@@ -74,7 +74,7 @@ void AppendMarker(const ControlItems& items, DWORD marker) {
 void NameWithoutItem(DWORD color, char* name) {
     name[0] = '\0';
     if (const unsigned int id = HostStringOf(color))
-        DrawCoreLoadString(id, name, kHostTextSize);
+        ::DrawCoreLoadString(id, name, kHostTextSize);
     else if (IsPlainColor(color))
         std::snprintf(name, kHostTextSize, "(%d,%d,%d)", GetRValue(color), GetGValue(color),
                       GetBValue(color));
@@ -126,7 +126,7 @@ void CColorControl::FillControl(WPARAM, LPARAM pFill) {
 
     for (const Entry& entry : SortedColors(m_pTable)) {
         ItemText text(entry.key.raw);
-        if (TableEntryGetName(m_pTable, entry.id, text.name(), kEntryNameSize)) AddControlItem(text.c_str());
+        if (::TableEntryGetName(m_pTable, entry.id, text.name(), kEntryNameSize)) AddControlItem(text.c_str());
     }
     if (m_bExtraEntries) {
         const ControlItems items = ControlItems::OfCombo(m_hWnd);

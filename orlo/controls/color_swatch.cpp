@@ -30,8 +30,8 @@ COLORREF ReadableOn(DWORD color) {
 
 void FillWithColor(HDC dc, const RECT& rect, DWORD color) {
     HPALETTE palette = nullptr;
-    if (IsPaletteSupported(dc)) {
-        const AppStruct* const application = AppGetCurrentApp();
+    if (::IsPaletteSupported(dc)) {
+        const AppStruct* const application = ::AppGetCurrentApp();
         palette = application ? application->hPalette : nullptr;
         color |= kPaletteRelative;
     }

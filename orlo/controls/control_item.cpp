@@ -21,7 +21,7 @@ unsigned long LookupControlItem(HWND hWnd, const char* name) {
     const CComboControl* const control = ComboControlOf(hWnd);
     if (!control || !control->m_pTable) return 0;
     int cookie = 0;
-    return TableEntryGetIDFirst(control->m_pTable, &cookie, name);
+    return ::TableEntryGetIDFirst(control->m_pTable, &cookie, name);
 }
 
 ItemText::ItemText(DWORD number) {

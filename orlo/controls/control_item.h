@@ -55,8 +55,8 @@ private:
 template <class Add>
 void ForEachTableItem(TableStruct* table, Add add) {
     int cookie = 0;
-    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie)) {
+    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
         ItemText text(id);
-        if (TableEntryGetName(table, id, text.name(), kEntryNameSize)) add(text);
+        if (::TableEntryGetName(table, id, text.name(), kEntryNameSize)) add(text);
     }
 }

@@ -69,13 +69,13 @@ void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
 
 // Drawing, font and coordinate space of the table. False without sizes to list.
 bool CFontSizeControl::TakeDrawing() {
-    m_pDrawing = TableGetOwner(m_pTable);
+    m_pDrawing = ::TableGetOwner(m_pTable);
     if (!m_pDrawing) return false;
     char font[0x100] = "";
-    TableGetStringVar(m_pDrawing->pUnits, kUnitFontName, font, sizeof font);
+    ::TableGetStringVar(m_pDrawing->pUnits, kUnitFontName, font, sizeof font);
     m_strFontName = font;
     if (m_strFontName.IsEmpty() || !m_pDrawing->pApplication) return false;
-    m_nCoordSpace = DrawingGetCoordSpace(m_pDrawing);
+    m_nCoordSpace = ::DrawingGetCoordSpace(m_pDrawing);
     return true;
 }
 

@@ -15,10 +15,10 @@ uint16_t UnitOf(uint16_t coordSpace) {
 
 int TextToFontSize(DrawingStruct* drawing, uint16_t coordSpace, const char* text, double* value) {
     if (!drawing || coordSpace == kSpaceDevice) return 0;
-    return DrawingStdTextToNumericEx(drawing, text, value, coordSpace, UnitOf(coordSpace));
+    return ::DrawingStdTextToNumericEx(drawing, text, value, coordSpace, UnitOf(coordSpace));
 }
 
 int FontSizeToText(DrawingStruct* drawing, uint16_t coordSpace, double value, char* buffer, int size) {
     if (!drawing || coordSpace == kSpaceDevice) return 0;
-    return DrawingStdNumericToTextEx(drawing, value, buffer, size, coordSpace, UnitOf(coordSpace));
+    return ::DrawingStdNumericToTextEx(drawing, value, buffer, size, coordSpace, UnitOf(coordSpace));
 }

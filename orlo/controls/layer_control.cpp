@@ -95,7 +95,7 @@ void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
 }
 
 DrawingStruct* CLayerControl::Drawing() const {
-    return m_pTable ? TableGetOwner(m_pTable) : nullptr;
+    return m_pTable ? ::TableGetOwner(m_pTable) : nullptr;
 }
 
 CString CLayerControl::DescribeItem(int index) {
@@ -105,10 +105,10 @@ CString CLayerControl::DescribeItem(int index) {
     DrawingStruct* const drawing = Drawing();
     if (!IsTableIdentifier(id) || !drawing) return CComboControl::DescribeItem(index);
     const auto layer = static_cast<uint16_t>(id);
-    if (!*name) TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
+    if (!*name) ::TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
     CString text = name;
-    if (!LayerGetVisible(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_HIDDEN);
-    if (LayerGetReadOnly(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_LOCKED);
+    if (!::LayerGetVisible(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_HIDDEN);
+    if (::LayerGetReadOnly(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_LOCKED);
     return text;
 }
 
@@ -119,15 +119,15 @@ void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     DrawingStruct* const drawing = Drawing();
     if (!IsTableIdentifier(id) || !drawing) return;
     const auto layer = static_cast<uint16_t>(id);
-    if (!*name) TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
+    if (!*name) ::TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
     if (!m_hIconVisible) LoadIcons();
 
     const RECT& rect = request.rcItem;
     const int column = ColumnWidth(), gap = ScreenPixels(kGap);
-    if (LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
-    if (LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
+    if (::LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
+    if (::LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
 
-    const COLORREF color = LayerGetColor(drawing, layer);
+    const COLORREF color = ::LayerGetColor(drawing, layer);
     const bool hasColor = color != kColorNone, readable = hasColor && IsReadable(request.hDC, color);
     const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
     const COLORREF ink = plain ? InkOnWindow() : ColorsOf(request).text;

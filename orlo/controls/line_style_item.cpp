@@ -27,7 +27,7 @@ double SampleUnits(int controlWidth, int factor, int reference) {
 }
 
 SampleGraphic InWorldScale(SampleGraphic graphic) {
-    if (graphic) GraphicSetScaleSystem(graphic.get(), kScaleWorld);
+    if (graphic) ::GraphicSetScaleSystem(graphic.get(), kScaleWorld);
     return graphic;
 }
 
@@ -36,7 +36,7 @@ double PatternLength(TableStruct* table, uint16_t style, int items) {
     double pattern[64]; // a longer list is scaled as one without a gap
     if (items > static_cast<int>(std::size(pattern))) return kLengthWithoutGap;
     std::fill(std::begin(pattern), std::end(pattern), 0.0);
-    LineStyleGetPattern(table, style, pattern);
+    ::LineStyleGetPattern(table, style, pattern);
     for (int i = 0; i < items; ++i) {
         const double length = pattern[i] < 0.0 ? -pattern[i] * kGapsAcross : 0.0;
         if (length > kNoLength) return length;
@@ -45,14 +45,14 @@ double PatternLength(TableStruct* table, uint16_t style, int items) {
 }
 
 void DrawStyledSample(const DRAWITEMSTRUCT& request, const StyleItem& item, const RECT& cell) {
-    GraphicSetPenColor(item.graphic, SampleColorsOf(request).text);
-    GraphicSetPenStyle(item.graphic, static_cast<uint16_t>(item.style));
-    GraphicSetPenScale(item.graphic, LineSampleScale(item.table, item.style, SampleWidth(item.graphic)));
+    ::GraphicSetPenColor(item.graphic, SampleColorsOf(request).text);
+    ::GraphicSetPenStyle(item.graphic, static_cast<uint16_t>(item.style));
+    ::GraphicSetPenScale(item.graphic, LineSampleScale(item.table, item.style, SampleWidth(item.graphic)));
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
 }
 
 void LoadSpecialName(unsigned int style, char* name, int size) {
-    DrawCoreLoadString(style == kLineStyleByLayer ? kStringByLayer : kStringByBlock, name, size);
+    ::DrawCoreLoadString(style == kLineStyleByLayer ? kStringByLayer : kStringByBlock, name, size);
 }
 
 } // namespace
@@ -75,7 +75,7 @@ SampleGraphic MakeListLineSample(int controlWidth) {
 
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth) {
     const uint16_t id = static_cast<uint16_t>(style);
-    const int items = LineStyleGetDLItems(table, id);
+    const int items = ::LineStyleGetDLItems(table, id);
     return items > 1 ? sampleWidth / PatternLength(table, id, items) : 1.0;
 }
 

@@ -16,7 +16,7 @@ struct StyleControl {
     static int Create(Control& control, Make make) {
         if (control.Default() == -1) return -1;
         control.m_pGraphic = make();
-        control.m_pViewport.reset(ViewportNewEx());
+        control.m_pViewport.reset(::ViewportNewEx());
         return 0;
     }
 
@@ -43,7 +43,7 @@ struct StyleControl {
     static CString NameWithoutItem(const Control& control, int index) {
         char name[kItemTextSize] = "";
         if (index < 0 && control.m_pTable && IsTableIdentifier(control.m_nSelected))
-            TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name,
+            ::TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name,
                               kEntryNameSize);
         return name;
     }

@@ -7,6 +7,6 @@
 
 ItemText HostTextItem(DWORD number, unsigned int stringID) {
     ItemText text(number);
-    DrawCoreLoadString(stringID, text.name(), kHostTextSize);
+    ::DrawCoreLoadString(stringID, text.name(), kHostTextSize);
     return text;
 }

@@ -25,10 +25,10 @@ CString AddStyleTree(const ControlItems& items, TableStruct* table, const Graphi
     CString selectedName;
     char name[kNameSize];
     int cookie = 0;
-    for (uint16_t id = TableEntryFirst(table, &cookie); id; id = TableEntryNext(table, &cookie)) {
-        const GraphicStruct* const graphic = BlockGetGraphic(table, id);
+    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+        const GraphicStruct* const graphic = ::BlockGetGraphic(table, id);
         if (std::strcmp(StyleTreeOf(graphic), selected->pszStyleName) != 0) continue;
-        if (!TableEntryGetName(table, id, name, sizeof name)) continue;
+        if (!::TableEntryGetName(table, id, name, sizeof name)) continue;
         if (items.Add(name) == CB_ERR) break;
         if (graphic == selected) selectedName = name;
     }
@@ -40,7 +40,7 @@ void FillStyleNames(HWND window, TableStruct* table, unsigned int id) {
     const ControlItems items = ControlItems::OfCombo(window);
     items.Clear();
     if (!table || !IsTableIdentifier(id)) return;
-    const GraphicStruct* const selected = BlockGetGraphic(table, static_cast<uint16_t>(id));
+    const GraphicStruct* const selected = ::BlockGetGraphic(table, static_cast<uint16_t>(id));
     if (!*StyleTreeOf(selected)) return;
     const CString name = AddStyleTree(items, table, selected);
     if (!name.IsEmpty()) items.Select(items.FindExact(name));

@@ -65,7 +65,7 @@ void SaveSize(CFontSizeControl& control, double& size) {
 
 bool LoadSize(CFontSizeControl& control, double size) {
     char text[kSizeTextSize];
-    if (!DrawingStdNumericToText(control.m_pDrawing, size, text, sizeof text, kTextSizeKind)) return false;
+    if (!::DrawingStdNumericToText(control.m_pDrawing, size, text, sizeof text, kTextSizeKind)) return false;
     const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
     items.Select(items.FindOrAdd(text));
     return true;

@@ -20,7 +20,7 @@ int FindOrInsertScale(const ControlItems& items, TableStruct* units, double scal
     for (int i = 0; i < count; ++i) {
         CString item;
         if (!items.GetText(i, item)) continue;
-        const double itemScale = UnitsGetScaleValue(units, item);
+        const double itemScale = ::UnitsGetScaleValue(units, item);
         if (CompareDoubles(&itemScale, &scale) == 0) {
             text = item;
             return i;
@@ -36,7 +36,7 @@ int FindOrInsertScale(const ControlItems& items, TableStruct* units, double scal
 void MakeScaleText(TableStruct* units, double scale, CString& text) {
     char* const buffer = text.GetBuffer(kScaleTextSize);
     buffer[0] = '\0';
-    UnitsMakeScaleString(units, scale, buffer, kScaleTextSize);
+    ::UnitsMakeScaleString(units, scale, buffer, kScaleTextSize);
     text.ReleaseBuffer();
 }
 
@@ -48,14 +48,14 @@ int DDX_CBScale(int bReport, CDataExchange* pDX, unsigned int nIDC, CString& tex
     double scale = 1.0;
     if (pDX->m_bSaveAndValidate) {
         DDX_CBString(bReport, pDX, static_cast<int>(nIDC), text);
-        scale = UnitsGetScaleValue(units, text);
+        scale = ::UnitsGetScaleValue(units, text);
         if (scale == 0.0) return FailWithPrompt(bReport, pDX, IDS_ENTER_SCALE);
     } else {
         if (text.IsEmpty()) {
             if (!pScale) return FailExchange(bReport, pDX);
             MakeScaleText(units, *pScale, text);
         }
-        scale = UnitsGetScaleValue(units, text);
+        scale = ::UnitsGetScaleValue(units, text);
     }
     if (pScale) *pScale = scale;
 

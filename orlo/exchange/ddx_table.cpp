@@ -36,7 +36,7 @@ unsigned int KeyOfWindowText(HWND control) {
 template <class MakeText>
 int FillFromTable(const ControlItems& items, TableStruct* pTable, MakeText makeText) {
     int added = 0, cookie = 0;
-    for (uint16_t id = TableEntryFirst(pTable, &cookie); id; id = TableEntryNext(pTable, &cookie)) {
+    for (uint16_t id = ::TableEntryFirst(pTable, &cookie); id; id = ::TableEntryNext(pTable, &cookie)) {
         CString text;
         if (makeText(id, text) && items.Add(text) != -1) ++added;
     }
@@ -45,13 +45,13 @@ int FillFromTable(const ControlItems& items, TableStruct* pTable, MakeText makeT
 
 bool EntryName(TableStruct* pTable, uint16_t id, CString& name) {
     char buffer[kPlainNameSize] = "";
-    if (!TableEntryGetName(pTable, id, buffer, sizeof buffer)) return false;
+    if (!::TableEntryGetName(pTable, id, buffer, sizeof buffer)) return false;
     name = buffer;
     return true;
 }
 
 const char* EntryData(TableStruct* pTable, uint16_t id) {
-    return static_cast<const char*>(TableEntryGetData(pTable, id));
+    return static_cast<const char*>(::TableEntryGetData(pTable, id));
 }
 
 } // namespace
@@ -146,12 +146,12 @@ int DDX_CBTableLookupIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned i
         if (::GetWindowTextLengthA(control) <= 0) return 1;
         ::GetWindowTextA(control, name, sizeof name);
         int cookie = 0;
-        value = TableEntryGetIDFirst(table, &cookie, name);
+        value = ::TableEntryGetIDFirst(table, &cookie, name);
         return 1;
     }
     const ControlItems items = ControlItems::OfCombo(control);
     if (!IsTableIdentifier(value) ||
-        !TableEntryGetName(table, static_cast<uint16_t>(value), name, sizeof name)) {
+        !::TableEntryGetName(table, static_cast<uint16_t>(value), name, sizeof name)) {
         items.Select(-1);
         return 1;
     }

@@ -56,7 +56,7 @@ int ExchangeRealText(int bReport, CDataExchange* pDX, int nIDC, float& data, dou
     const double magnitude = std::fabs(value);
     const int exponentForm = magnitude > 100000.0 || (magnitude < 1e-5 && value != 0.0);
     char text[128] = "";
-    DoubleToString(0, value, kRealDigits, text, 0, exponentForm, 1);
+    ::DoubleToString(0, value, kRealDigits, text, 0, exponentForm, 1);
     AfxSetWindowText(control, text);
     return 1;
 }

@@ -45,9 +45,9 @@ int ExchangePaperText(int bReport, CDataExchange* pDX, unsigned int nIDC, double
     if (!units) return FailExchange(bReport, pDX);
     return ExchangeHostText(
         bReport, pDX, nIDC, value, bBlank,
-        [&](const char* text) { return UnitsTextToNumericEx(units, kUnitMillimeter, nUnit, text, &value); },
+        [&](const char* text) { return ::UnitsTextToNumericEx(units, kUnitMillimeter, nUnit, text, &value); },
         [&](char* buffer) {
-            return UnitsNumericToTextEx(units, nUnit, kUnitMillimeter, value, buffer, kTextSize, 0, 1);
+            return ::UnitsNumericToTextEx(units, nUnit, kUnitMillimeter, value, buffer, kTextSize, 0, 1);
         });
 }
 
@@ -60,11 +60,11 @@ int DDX_TextLinear(int bReport, CDataExchange* pDX, unsigned int nIDC, double& v
         bReport, pDX, nIDC, value, bBlank,
         [&](const char* text) {
             value = dDefault;
-            const int read = DrawingStdTextToNumeric(pDrawing, text, &value, nFormat);
+            const int read = ::DrawingStdTextToNumeric(pDrawing, text, &value, nFormat);
             if (!read) value = dDefault; // whatever the host has left there
             return read;
         },
-        [&](char* buffer) { return DrawingStdNumericToText(pDrawing, value, buffer, kTextSize, nFormat); });
+        [&](char* buffer) { return ::DrawingStdNumericToText(pDrawing, value, buffer, kTextSize, nFormat); });
 }
 
 int DDX_TextPaper(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
@@ -81,7 +81,7 @@ int DDX_TextPaperWorld(int bReport, CDataExchange* pDX, unsigned int nIDC, doubl
                        DrawingStruct* pDrawing, double dScale, int bBlank) {
     if (!(std::fabs(dScale) > kSmallestScale)) return FailExchange(bReport, pDX);
     double factor = 1.0;
-    UnitsGetLUnitValue(pDrawing ? pDrawing->pUnits : nullptr, kUnitDrawing, &factor);
+    ::UnitsGetLUnitValue(pDrawing ? pDrawing->pUnits : nullptr, kUnitDrawing, &factor);
     double paper = value;
     if (!pDX->m_bSaveAndValidate) paper = paper * dScale * factor;
     if (!ExchangePaperText(bReport, pDX, nIDC, paper, pDrawing, bBlank, 0)) return 0;
@@ -94,8 +94,8 @@ int DDX_TextAngular(int bReport, CDataExchange* pDX, unsigned int nIDC, double& 
     if (!pDrawing) return FailExchange(bReport, pDX);
     return ExchangeHostText(
         bReport, pDX, nIDC, value, bBlank,
-        [&](const char* text) { return DrawingStdTextToAngle(pDrawing, text, &value, 0); },
-        [&](char* buffer) { return DrawingStdAngleToText(pDrawing, value, buffer, kTextSize, 0); });
+        [&](const char* text) { return ::DrawingStdTextToAngle(pDrawing, text, &value, 0); },
+        [&](char* buffer) { return ::DrawingStdAngleToText(pDrawing, value, buffer, kTextSize, 0); });
 }
 
 int DDX_TextRadians(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value) {

@@ -29,14 +29,14 @@ CString StringVariable(TableStruct* pTable, unsigned long nID, int size) {
     CString text;
     char* const buffer = text.GetBuffer(size - 1);
     buffer[0] = '\0';
-    TableGetStringVar(pTable, Key(nID), buffer, size);
+    ::TableGetStringVar(pTable, Key(nID), buffer, size);
     text.ReleaseBuffer();
     return text;
 }
 
 int WholeVariable(TableStruct* pTable, unsigned long nID, int missing) {
     long value = missing;
-    TableGetIntVar(pTable, Key(nID), &value);
+    ::TableGetIntVar(pTable, Key(nID), &value);
     return static_cast<int>(value);
 }
 
@@ -46,7 +46,7 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
                   Exchange exchange) {
     int value = pDX->m_bSaveAndValidate ? missing : WholeVariable(pTable, nID, missing);
     exchange(value);
-    if (pDX->m_bSaveAndValidate) TableSetIntVar(pTable, Key(nID), value);
+    if (pDX->m_bSaveAndValidate) ::TableSetIntVar(pTable, Key(nID), value);
     return 1;
 }
 
@@ -54,7 +54,7 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
 int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min,
                      double max, unsigned int nIDPrompt, double& inches) {
     double length = kCustomary * kMillimetersPerInch;
-    if (!UnitsTextToNumericEx(pUnits, kUnitMillimeter, 0, text, &length)) {
+    if (!::UnitsTextToNumericEx(pUnits, kUnitMillimeter, 0, text, &length)) {
         if (min < max) return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
         return FailWithPrompt(bReport, pDX, AFX_IDP_PARSE_REAL);
     }
@@ -71,12 +71,12 @@ int DDX_TextVarNumeric(int bReport, CDataExchange* pDX, unsigned int nIDC, Table
     const int id = static_cast<int>(nIDC);
     double value = 0.0;
     if (!pDX->m_bSaveAndValidate) {
-        TableGetNumericVar(pTable, Key(nID), &value);
+        ::TableGetNumericVar(pTable, Key(nID), &value);
         return DDX_Text(bReport, pDX, id, value);
     }
     if (!DDX_Text(bReport, pDX, id, value)) return 0;
     if (max > min && !DDV_MinMaxDouble(bReport, pDX, value, min, max)) return 0;
-    TableSetNumericVar(pTable, Key(nID), value);
+    ::TableSetNumericVar(pTable, Key(nID), value);
     return 1;
 }
 
@@ -85,12 +85,12 @@ int DDX_TextVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStru
     const int id = static_cast<int>(nIDC);
     long value = 0;
     if (!pDX->m_bSaveAndValidate) {
-        TableGetIntVar(pTable, Key(nID), &value);
+        ::TableGetIntVar(pTable, Key(nID), &value);
         return DDX_Text(bReport, pDX, id, value);
     }
     if (!DDX_Text(bReport, pDX, id, value)) return 0;
     if (max > min && !DDV_MinMaxLong(bReport, pDX, value, min, max)) return 0;
-    TableSetIntVar(pTable, Key(nID), value);
+    ::TableSetIntVar(pTable, Key(nID), value);
     return 1;
 }
 
@@ -99,7 +99,7 @@ int DDX_TextVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableS
     CString text;
     if (!pDX->m_bSaveAndValidate) text = StringVariable(pTable, nID, kEditSize);
     if (!DDX_Text(bReport, pDX, static_cast<int>(nIDC), text)) return 0;
-    if (pDX->m_bSaveAndValidate) TableSetStringVar(pTable, Key(nID), text);
+    if (pDX->m_bSaveAndValidate) ::TableSetStringVar(pTable, Key(nID), text);
     return 1;
 }
 
@@ -108,7 +108,7 @@ int DDX_CBVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStr
     CString text;
     if (!pDX->m_bSaveAndValidate) text = StringVariable(pTable, nID, kTextSize);
     DDX_CBString(bReport, pDX, static_cast<int>(nIDC), text);
-    if (pDX->m_bSaveAndValidate) TableSetStringVar(pTable, Key(nID), text);
+    if (pDX->m_bSaveAndValidate) ::TableSetStringVar(pTable, Key(nID), text);
     return 1;
 }
 
@@ -123,11 +123,11 @@ int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, 
     if (pDX->m_bSaveAndValidate) {
         DDX_Text(bReport, pDX, id, text);
         if (!SaveDeviceInches(bReport, pDX, text, pUnits, min, max, nIDPrompt, inches)) return 0;
-        TableSetNumericVar(pVariables, nID, inches);
+        ::TableSetNumericVar(pVariables, nID, inches);
         return 1;
     }
-    TableGetNumericVar(pVariables, nID, &inches);
-    const int written = UnitsNumericToTextEx(pUnits, 0, kUnitMillimeter, inches * kMillimetersPerInch,
+    ::TableGetNumericVar(pVariables, nID, &inches);
+    const int written = ::UnitsNumericToTextEx(pUnits, 0, kUnitMillimeter, inches * kMillimetersPerInch,
                                              text.GetBuffer(kTextSize - 1), kTextSize, 0, 1);
     text.ReleaseBuffer();
     return written ? DDX_Text(bReport, pDX, id, text) : FailExchange(bReport, pDX);
@@ -150,7 +150,7 @@ int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, Table
     std::vector<int> map(pMap, pMap + std::max(nCount, 0));
     int value = pDX->m_bSaveAndValidate ? 0 : WholeVariable(pTable, nID, 0);
     if (!DDX_RadioMap(bReport, pDX, nIDC, value, map.data(), nCount)) return 0;
-    if (pDX->m_bSaveAndValidate) TableSetIntVar(pTable, Key(nID), value);
+    if (pDX->m_bSaveAndValidate) ::TableSetIntVar(pTable, Key(nID), value);
     return 1;
 }
 
@@ -170,10 +170,10 @@ int DDX_CBVarScale(int bReport, CDataExchange* pDX, unsigned int nIDC, DrawingSt
     if (!pDX->m_bSaveAndValidate) {
         char* const buffer = text.GetBuffer(kTextSize - 1);
         buffer[0] = '\0';
-        DrawingGetScaleString(pDrawing, buffer, kTextSize);
+        ::DrawingGetScaleString(pDrawing, buffer, kTextSize);
         text.ReleaseBuffer();
     }
     const int done = DDX_CBScale(bReport, pDX, nIDC, text, units, nullptr);
-    if (done && pDX->m_bSaveAndValidate) DrawingSetScaleString(pDrawing, text);
+    if (done && pDX->m_bSaveAndValidate) ::DrawingSetScaleString(pDrawing, text);
     return 1;
 }

@@ -48,7 +48,7 @@ int FailRealRange(int bReport, CDataExchange* pDX, double min, double max, int d
     if (!pDX->m_bSaveAndValidate) return 1;
     if (!bReport) return 0;
     char minText[128] = "", maxText[128] = "";
-    DoubleToString(0, min, digits, minText, 0, 0, 1);
-    DoubleToString(0, max, digits, maxText, 0, 0, 1);
+    ::DoubleToString(0, min, digits, minText, 0, 0, 1);
+    ::DoubleToString(0, max, digits, maxText, 0, 0, 1);
     return FailWithLimits(pDX, minText, maxText, nIDPrompt);
 }

@@ -35,7 +35,7 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
 bool ScanRealText(const char* text, float& value) {
     const char* const first = SkipBlanks(text);
     char* end = nullptr;
-    const double result = StringToDouble(0, first, &end);
+    const double result = ::StringToDouble(0, first, &end);
     if (!end || end == first || *SkipBlanks(end) != '\0') return false;
     if (!(std::fabs(result) <= FLT_MAX)) return false;
     value = static_cast<float>(result);

@@ -25,10 +25,10 @@ template <class MakeGraphic>
 void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table,
                   MakeGraphic makeGraphic) {
     if (table && !graphic) graphic = makeGraphic();
-    if (table && !viewport) viewport.reset(ViewportNewEx());
-    DrawingStruct* const drawing = table ? TableGetOwner(table) : nullptr;
-    if (graphic) GraphicAttach(graphic.get(), drawing);
-    if (viewport) ViewportSetDrawing(viewport.get(), drawing);
+    if (table && !viewport) viewport.reset(::ViewportNewEx());
+    DrawingStruct* const drawing = table ? ::TableGetOwner(table) : nullptr;
+    if (graphic) ::GraphicAttach(graphic.get(), drawing);
+    if (viewport) ::ViewportSetDrawing(viewport.get(), drawing);
 }
 
 // Draws the sample as it is styled now, fitted into the cell (device pixels). dc is left as it was.

@@ -38,7 +38,7 @@ int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
     const auto layout = orlo::ReadDibLayout(dib.data, dib.size, orlo::DibColors::Rgb);
     if (!layout || layout->topDown || layout->headerSize < sizeof(BITMAPINFOHEADER)) return 0;
     // The host says where the pixels begin.
-    const size_t pixels = layout->headerSize + PaletteSize(dib.data);
+    const size_t pixels = layout->headerSize + ::PaletteSize(dib.data);
     if (pixels > dib.size || layout->pixelBytes > dib.size - pixels) return 0;
     const Place to = PlaceIn(*rect, layout->width, layout->height, keepAspect);
     return ::StretchDIBits(dc, to.left, to.top, to.width, to.height, 0, 0, layout->width, layout->height,
