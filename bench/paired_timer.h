@@ -1,5 +1,5 @@
-// Times two pieces of work against each other: in turn, many times, by the median of the ratios, since this machine's speed
-// changes from moment to moment. Prints "name value unit" lines.
+// Times two pieces of work against each other: in turn, many times, by the median of the ratios, since this machine's
+// speed changes from moment to moment. Prints "name value unit" lines.
 #pragma once
 
 #include <algorithm>

@@ -43,9 +43,8 @@ BOOL CDemoApp::InitInstance() {
 
 int CDemoApp::Run() {
     if (!IsPlayed()) return CWinApp::Run();
-    const bool played = m_options.checked.empty()
-                            ? Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing)
-                            : RoundTrip(*Frame()).Check(m_options.checked);
+    const bool played = m_options.checked.empty() ? Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing)
+                                                  : RoundTrip(*Frame()).Check(m_options.checked);
     Frame()->DestroyWindow();
     return ExitInstance() != 0 || !played;
 }

@@ -22,8 +22,8 @@ constexpr int kWrongUsage = 2;
 // Without the program's own name. The 8-bit command line would lose file names of other scripts.
 std::vector<std::string> Arguments() {
     int count = 0;
-    const std::unique_ptr<wchar_t*[], decltype(&::LocalFree)> words(
-        ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
+    const std::unique_ptr<wchar_t*[], decltype(&::LocalFree)> words(::CommandLineToArgvW(::GetCommandLineW(), &count),
+                                                                    ::LocalFree);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
         arguments.push_back(Utf8(words[i]));
@@ -44,9 +44,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     CLI::App usage{"A small drawing viewer that shows Orlo's property sheets.", "demo"};
     DemoOptions options;
     usage.add_option("drawing", options.drawing, "DXF drawing to open");
-    usage
-        .add_option("--tour", options.tourFolder,
-                    "play a tour over the drawing, with pictures in this folder")
+    usage.add_option("--tour", options.tourFolder, "play a tour over the drawing, with pictures in this folder")
         ->type_name("FOLDER");
     usage
         .add_option("--check", options.checked,

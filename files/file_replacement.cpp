@@ -54,16 +54,14 @@ struct SignalsHeld {
 // The file that a name stands for. Devices have names in every folder.
 Found FileBehind(const fs::path& target) {
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-        RefuseIrregular();
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) RefuseIrregular();
     const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
     if (!file && attributes == INVALID_FILE_ATTRIBUTES) return {target, false};
     if (!file) ThrowLastError(kNotReplaced); // such as a link to nothing
     if (::GetFileType(file.get()) != FILE_TYPE_DISK) RefuseIrregular();
     if (attributes & FILE_ATTRIBUTE_READONLY) throw FileError("the file is read-only");
     std::wstring path(32768, L'\0'); // no path is longer
-    const DWORD size =
-        ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
+    const DWORD size = ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
     if (size == 0 || size >= path.size()) return {target, true}; // a file system without such names
     path.resize(size);
     return {path, true};
@@ -95,14 +93,15 @@ void KeepAttributes(const fs::path& from, const fs::path& to) {
     WIN32_FILE_ATTRIBUTE_DATA kept;
     if (!::GetFileAttributesExW(from.c_str(), GetFileExInfoStandard, &kept)) ThrowLastError(kNotKept);
     ::SetFileTime(OpenToWrite(to).get(), &kept.ftCreationTime, nullptr, nullptr);
-    constexpr DWORD kSettable = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
-                                FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    constexpr DWORD kSettable =
+        FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     const DWORD attributes = kept.dwFileAttributes & kSettable;
     if (!::SetFileAttributesW(to.c_str(), attributes != 0 ? attributes : FILE_ATTRIBUTE_NORMAL))
         ThrowLastError(kNotKept);
 }
 
-// In one step. ReplaceFileW would keep more, as named streams, but takes several steps, between which no file has the name.
+// In one step. ReplaceFileW would keep more, as named streams, but takes several steps, between which no file has the
+// name.
 void Rename(const fs::path& from, const fs::path& to) {
     if (!::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         ThrowLastError(kNotReplaced);
@@ -226,8 +225,7 @@ FileReplacement::FileReplacement(const fs::path& target) {
     target_ = std::move(found.path);
     isThere_ = found.isThere;
     for (int number = 0;; ++number) { // an earlier process of this number may have left a file
-        path_ = target_.parent_path() /
-                ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
+        path_ = target_.parent_path() / ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
         const SignalsHeld held;
         if (Create(path_, isThere_)) {
             temporaryFile = path_.c_str();

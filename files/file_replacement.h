@@ -1,12 +1,12 @@
-// FileReplacement: a file is written under another name in the same folder and then takes the place of its target in one step.
-// After any failure, and wherever the process ends, the target is the old file or the new one.
+// FileReplacement: a file is written under another name in the same folder and then takes the place of its target in
+// one step. After any failure, and wherever the process ends, the target is the old file or the new one.
 //
 //   files::FileReplacement replacement(path);
 //   replacement.Write(bytes);    // or any other writer, by replacement.Path()
 //   replacement.TakePlace();
 //
-// Links are followed. Owner, group, permissions and extended attributes of the target stay; on Windows the access list, the
-// attributes and the time of creation. Another name of the same file (a hard link) keeps the old contents.
+// Links are followed. Owner, group, permissions and extended attributes of the target stay; on Windows the access list,
+// the attributes and the time of creation. Another name of the same file (a hard link) keeps the old contents.
 #pragma once
 
 #include <filesystem>
@@ -17,8 +17,8 @@ namespace files {
 
 class FileReplacement {
 public:
-    // Creates the temporary file, empty. Throws FileError if the target is read-only or is not a regular file, or if no file can
-    // be created in its folder.
+    // Creates the temporary file, empty. Throws FileError if the target is read-only or is not a regular file, or if no
+    // file can be created in its folder.
     explicit FileReplacement(const std::filesystem::path& target);
     // Removes the temporary file unless it has taken the target's place.
     ~FileReplacement();
@@ -41,8 +41,8 @@ private:
     std::filesystem::path path_; // empty once the temporary file is gone
 };
 
-// From now on a signal that interrupts or ends the program removes the temporary file first. For command-line programs, which
-// replace one file at a time.
+// From now on a signal that interrupts or ends the program removes the temporary file first. For command-line programs,
+// which replace one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 
 } // namespace files

@@ -27,8 +27,7 @@ constexpr size_t kPiece = size_t{1} << 20; // bytes that one call reads or write
 #ifndef _WIN32 // which tells a missing folder from a missing file
     std::error_code ignored;
     const auto folder = path.parent_path();
-    if (error == std::errc::no_such_file_or_directory && !folder.empty() &&
-        !std::filesystem::exists(folder, ignored))
+    if (error == std::errc::no_such_file_or_directory && !folder.empty() && !std::filesystem::exists(folder, ignored))
         error = std::make_error_code(std::errc::not_a_directory);
 #else
     (void)path;

@@ -1,4 +1,5 @@
-// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a sound file is complete.
+// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a sound file is
+// complete.
 
 #include <cstdint>
 #include <cstdlib>

@@ -11,8 +11,7 @@ void Check(const uint8_t* data, size_t size) {
     const auto picture = orlo::ReadMetaFilePicture(data, size);
     if (!picture) return;
     if (picture->xExtent <= 0 || picture->yExtent <= 0) __builtin_trap();
-    if (picture->bits < data || picture->size > static_cast<size_t>(data + size - picture->bits))
-        __builtin_trap();
+    if (picture->bits < data || picture->size > static_cast<size_t>(data + size - picture->bits)) __builtin_trap();
     if (picture->end > picture->size) __builtin_trap();
     for (size_t at = 18; at != picture->end;) {
         at += size_t{2} * orlo::LittleEndian<uint32_t>(picture->bits + at);

@@ -23,13 +23,13 @@ void Inspect(const uint8_t* data, size_t size) {
         for (const auto& property : section.properties) {
             held += property.bytes.size();
             orlo::Value value;
-            if (!orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
-                                   section.codePage, value))
+            if (!orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage,
+                                   value))
                 continue;
             const auto encoded = orlo::EncodeValue(value, section.codePage);
             orlo::Value again;
-            Require(!encoded || orlo::DecodeValue(property.type, encoded->data(), encoded->size(),
-                                                  section.codePage, again));
+            Require(!encoded ||
+                    orlo::DecodeValue(property.type, encoded->data(), encoded->size(), section.codePage, again));
         }
     Require(held <= 5 * size);
 

@@ -73,19 +73,18 @@ uint16_t NumberOf(uint16_t codePage) {
 }
 
 const NlsTable& TableOf(uint16_t codePage) {
-    thread_local std::map<uint16_t, NlsTable>
-        tables; // what a file says; reading it takes longer than most texts
+    thread_local std::map<uint16_t, NlsTable> tables; // what a file says; reading it takes longer than most texts
     return tables.try_emplace(codePage, codePage).first->second;
 }
 
 // Tables give the bytes that a code page of Windows leaves undefined the control characters of their numbers.
 bool HasUndefined(std::u16string_view text, uint16_t codePage) {
     const bool isOfWindows = codePage == 0 || codePage == 874 || (codePage >= 1250 && codePage <= 1258);
-    return isOfWindows &&
-           std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x80 && c < 0xA0; });
+    return isOfWindows && std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x80 && c < 0xA0; });
 }
 
-// The letters of all scripts, whatever language the user has. Windows has upper case for letters that come back from it alone.
+// The letters of all scripts, whatever language the user has. Windows has upper case for letters that come back from it
+// alone.
 wint_t Upper(wint_t letter) {
     static const locale_t kAllScripts = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     if (!kAllScripts) return letter;
@@ -127,8 +126,7 @@ std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePa
     const std::optional<std::u16string> wide = ToUtf16(utf8);
     if (!wide) return std::nullopt;
     if (codePage == kCodePageUtf8) return std::string(utf8);
-    if (codePage == kCodePageUtf16)
-        return std::string(reinterpret_cast<const char*>(wide->data()), wide->size() * 2);
+    if (codePage == kCodePageUtf16) return std::string(reinterpret_cast<const char*>(wide->data()), wide->size() * 2);
     const NlsTable& table = TableOf(NumberOf(codePage));
     return table.IsKnown() ? table.FromUtf16(*wide) : std::nullopt;
 }

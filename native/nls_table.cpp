@@ -1,4 +1,5 @@
-// A file is a header, the characters of single bytes, those of pairs, and the codes of all characters, in numbers of 16 bits.
+// A file is a header, the characters of single bytes, those of pairs, and the codes of all characters, in numbers of 16
+// bits.
 
 #include "native/nls_table.h"
 
@@ -18,8 +19,7 @@ std::vector<uint16_t> ReadWords(uint16_t codePage) {
     if (!file) return {};
     std::vector<uint16_t> words(static_cast<size_t>(file.tellg()) / sizeof(uint16_t));
     file.seekg(0);
-    file.read(reinterpret_cast<char*>(words.data()),
-              static_cast<std::streamsize>(words.size() * sizeof words[0]));
+    file.read(reinterpret_cast<char*>(words.data()), static_cast<std::streamsize>(words.size() * sizeof words[0]));
     return file ? words : std::vector<uint16_t>();
 }
 

@@ -63,8 +63,7 @@ struct Content {
 
     // The properties; property.cpp converts them to other types.
     uint32_t layer = 1, styleTree = 0;
-    uint32_t penColor = kColorByLayer, penStyle = kLineStyleByLayer, penAlignment = 0,
-             scaleSystem = kScalePaper;
+    uint32_t penColor = kColorByLayer, penStyle = kLineStyleByLayer, penAlignment = 0, scaleSystem = kScalePaper;
     uint32_t brushColor = kColorOfPen, brushStyle = kBrushStyleNone, hatchCross = 0, brushDrawMode = 0;
     uint32_t textStyle = 0, textFormat = 0;
     double penWidth = 0, penScale = 1, brushAngle = 0, brushScale = 1, textSize = 2.5;

@@ -33,10 +33,8 @@ void FillTables(Drawing& drawing) {
     entry.lines = {{0.7853981633974483, 3.0}};
     add(kTableBrushStyles, "Lines", std::move(entry));
 
-    const std::pair<const char*, uint32_t> colors[] = {{"Black", RGB(0, 0, 0)},
-                                                       {"Red", RGB(255, 0, 0)},
-                                                       {"Green", RGB(0, 255, 0)},
-                                                       {"Blue", RGB(0, 0, 255)}};
+    const std::pair<const char*, uint32_t> colors[] = {
+        {"Black", RGB(0, 0, 0)}, {"Red", RGB(255, 0, 0)}, {"Green", RGB(0, 255, 0)}, {"Blue", RGB(0, 0, 255)}};
     for (const auto& [name, color] : colors) {
         entry = {};
         entry.color = color;

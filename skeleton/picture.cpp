@@ -10,8 +10,7 @@ uint16_t PaletteSize(const void* dib) {
     constexpr DWORD kPublishedSizes[] = {40, 52, 56, 108, 124};
     BITMAPINFOHEADER header = {};
     std::memcpy(&header.biSize, dib, sizeof header.biSize);
-    if (std::find(std::begin(kPublishedSizes), std::end(kPublishedSizes), header.biSize) ==
-        std::end(kPublishedSizes))
+    if (std::find(std::begin(kPublishedSizes), std::end(kPublishedSizes), header.biSize) == std::end(kPublishedSizes))
         return 0;
     std::memcpy(&header, dib, sizeof header);
     uint64_t colors = header.biClrUsed;

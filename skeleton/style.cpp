@@ -66,8 +66,8 @@ const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct* table, uint16_t 
     return &style->lines[place];
 }
 
-void BrushPatternGetData(const BrushPatternStruct* lines, double* angle, double* baseX, double* baseY,
-                         double* along, double* spacing, int* dashCount, double*) {
+void BrushPatternGetData(const BrushPatternStruct* lines, double* angle, double* baseX, double* baseY, double* along,
+                         double* spacing, int* dashCount, double*) {
     if (!lines) return;
     *angle = lines->angle;
     *baseX = *baseY = *along = 0;

@@ -102,8 +102,7 @@ void* TableEntryGetData(TableStruct* table, uint16_t id) {
     TableStruct* found = TableStruct::Find(table);
     Entry* entry = found ? found->At(id) : nullptr;
     if (!entry) return nullptr;
-    return entry->contents ? static_cast<void*>(static_cast<GraphicStruct*>(entry->contents.get()))
-                           : &entry->color;
+    return entry->contents ? static_cast<void*>(static_cast<GraphicStruct*>(entry->contents.get())) : &entry->color;
 }
 
 uint16_t TableEntryGetIDFirst(TableStruct* table, int*, const char* name) {

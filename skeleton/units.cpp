@@ -100,8 +100,7 @@ void DoubleToString(int, double value, int digits, char* buffer, int, int expone
     CopyText(text + exponent, buffer, kSize);
 }
 
-int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
-                         double* value) {
+int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text, double* value) {
     const Unit* own = UnitOf(units, number);
     const Unit* shown = UnitOf(units, display ? display : number);
     double millimeters;
@@ -110,8 +109,8 @@ int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, 
     return 1;
 }
 
-int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
-                         int size, int, int suffix) {
+int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
+                         int, int suffix) {
     const Unit* own = UnitOf(units, number);
     const Unit* shown = UnitOf(units, display ? display : number);
     if (!own || !shown || !std::isfinite(value)) return 0;
@@ -120,8 +119,7 @@ int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, 
     return Store(text, buffer, size);
 }
 
-int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space,
-                              uint16_t unit) {
+int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space, uint16_t unit) {
     if (!drawing || space == kSpaceDevice) return 0;
     return ::UnitsTextToNumericEx(drawing->pUnits, NumberIn(space), unit, text, value);
 }
@@ -129,8 +127,7 @@ int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* 
 int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size, uint16_t space,
                               uint16_t unit) {
     if (!drawing || space == kSpaceDevice) return 0;
-    return ::UnitsNumericToTextEx(drawing->pUnits, unit, NumberIn(space), value, buffer, size, 0,
-                                  space != kSpaceWorld);
+    return ::UnitsNumericToTextEx(drawing->pUnits, unit, NumberIn(space), value, buffer, size, 0, space != kSpaceWorld);
 }
 
 // Text sizes are in drawing units, like all lengths in the drawing.

@@ -77,8 +77,7 @@ void ForEachMember(const Graphic& graphic, const Placement& placement, Visit vis
 
 COLORREF PlainColor(const Graphic& graphic, uint32_t color) {
     if (color == kColorOfPen) color = graphic.content.penColor;
-    if (color == kColorByLayer)
-        color = ::LayerGetColor(graphic.drawing, static_cast<uint16_t>(graphic.content.layer));
+    if (color == kColorByLayer) color = ::LayerGetColor(graphic.drawing, static_cast<uint16_t>(graphic.content.layer));
     return color <= 0xFFFFFF ? color : 0;
 }
 
@@ -127,8 +126,7 @@ private:
     }
 
     void Fill(const Graphic& graphic, const std::vector<POINT>& outline) {
-        const Selected<HBRUSH> brush(dc_,
-                                     ::CreateSolidBrush(PlainColor(graphic, graphic.content.brushColor)));
+        const Selected<HBRUSH> brush(dc_, ::CreateSolidBrush(PlainColor(graphic, graphic.content.brushColor)));
         const Selected<HPEN> none(dc_, ::CreatePen(PS_NULL, 0, 0));
         ::SetPolyFillMode(dc_, graphic.content.brushDrawMode ? WINDING : ALTERNATE);
         ::Polygon(dc_, outline.data(), static_cast<int>(outline.size()));
@@ -172,8 +170,7 @@ private:
 Placement ToDevice(const ViewportStruct& viewport) {
     const RECT& rect = viewport.rect;
     const ExtentsStruct& shown = viewport.shown;
-    const double width = std::max(shown.maxX - shown.minX, 1e-9),
-                 height = std::max(shown.maxY - shown.minY, 1e-9);
+    const double width = std::max(shown.maxX - shown.minX, 1e-9), height = std::max(shown.maxY - shown.minY, 1e-9);
     const double scale = std::min((rect.right - rect.left) / width, (rect.bottom - rect.top) / height);
     return {scale,
             0,

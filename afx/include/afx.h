@@ -96,29 +96,28 @@ private:
 
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
-#define DECLARE_DYNAMIC(class_name)                                                                          \
-public:                                                                                                      \
-    static CRuntimeClass class##class_name;                                                                  \
+#define DECLARE_DYNAMIC(class_name)                                                                                    \
+public:                                                                                                                \
+    static CRuntimeClass class##class_name;                                                                            \
     CRuntimeClass* GetRuntimeClass() const override;
 
-#define DECLARE_DYNCREATE(class_name)                                                                        \
-    DECLARE_DYNAMIC(class_name)                                                                              \
+#define DECLARE_DYNCREATE(class_name)                                                                                  \
+    DECLARE_DYNAMIC(class_name)                                                                                        \
     static CObject* CreateObject();
 
-#define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, pfnNew)                                          \
-    CRuntimeClass class_name::class##class_name = {#class_name, static_cast<int>(sizeof(class_name)),        \
-                                                   0xFFFF, pfnNew, RUNTIME_CLASS(base_class_name)};          \
-    CRuntimeClass* class_name::GetRuntimeClass() const {                                                     \
-        return RUNTIME_CLASS(class_name);                                                                    \
+#define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, pfnNew)                                                    \
+    CRuntimeClass class_name::class##class_name = {#class_name, static_cast<int>(sizeof(class_name)), 0xFFFF, pfnNew,  \
+                                                   RUNTIME_CLASS(base_class_name)};                                    \
+    CRuntimeClass* class_name::GetRuntimeClass() const {                                                               \
+        return RUNTIME_CLASS(class_name);                                                                              \
     }
 
-#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
-    IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name) IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
-    CObject* class_name::CreateObject() {                                                                    \
-        return new class_name;                                                                               \
-    }                                                                                                        \
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
+    CObject* class_name::CreateObject() {                                                                              \
+        return new class_name;                                                                                         \
+    }                                                                                                                  \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, class_name::CreateObject)
 
 // ---- Strings

@@ -13,9 +13,7 @@ public:
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
     int InsertItem(int nItem, LPCSTR lpszItem);
-    BOOL DeleteItem(int nItem) {
-        return static_cast<BOOL>(SendMessage(TCM_DELETEITEM, static_cast<WPARAM>(nItem)));
-    }
+    BOOL DeleteItem(int nItem) { return static_cast<BOOL>(SendMessage(TCM_DELETEITEM, static_cast<WPARAM>(nItem))); }
     int GetItemCount() const { return static_cast<int>(SendMessage(TCM_GETITEMCOUNT)); }
     BOOL GetItemRect(int nItem, LPRECT lpRect) const {
         return static_cast<BOOL>(
@@ -23,9 +21,7 @@ public:
     }
     int GetCurSel() const { return static_cast<int>(SendMessage(TCM_GETCURSEL)); }
     // Sends no notification; see CPropertySheet::SetActivePage.
-    int SetCurSel(int nItem) {
-        return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(nItem)));
-    }
+    int SetCurSel(int nItem) { return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(nItem))); }
 };
 
 class AFX_API CStatusBarCtrl : public CWnd {
@@ -44,8 +40,7 @@ public:
             SendMessage(SB_SETTEXTA, static_cast<WPARAM>(nPane | nType), reinterpret_cast<LPARAM>(lpszText)));
     }
     BOOL GetRect(int nPane, LPRECT lpRect) const {
-        return static_cast<BOOL>(
-            SendMessage(SB_GETRECT, static_cast<WPARAM>(nPane), reinterpret_cast<LPARAM>(lpRect)));
+        return static_cast<BOOL>(SendMessage(SB_GETRECT, static_cast<WPARAM>(nPane), reinterpret_cast<LPARAM>(lpRect)));
     }
 };
 
@@ -56,8 +51,6 @@ public:
     ~CProgressCtrl() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
     using CWnd::Create;
-    void SetRange32(int nLower, int nUpper) {
-        SendMessage(PBM_SETRANGE32, static_cast<WPARAM>(nLower), nUpper);
-    }
+    void SetRange32(int nLower, int nUpper) { SendMessage(PBM_SETRANGE32, static_cast<WPARAM>(nLower), nUpper); }
     int SetPos(int nPos) { return static_cast<int>(SendMessage(PBM_SETPOS, static_cast<WPARAM>(nPos))); }
 };

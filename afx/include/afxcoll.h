@@ -13,8 +13,7 @@
 template <class Node>
 class AfxNodePool {
 public:
-    explicit AfxNodePool(int nBlockSize)
-        : m_nBlockSize(nBlockSize > 0 ? static_cast<std::size_t>(nBlockSize) : 1) {}
+    explicit AfxNodePool(int nBlockSize) : m_nBlockSize(nBlockSize > 0 ? static_cast<std::size_t>(nBlockSize) : 1) {}
 
     Node* Allocate() {
         if (m_pFree == nullptr) AddBlock();

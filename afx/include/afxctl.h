@@ -10,8 +10,7 @@ class AFX_API CStatic : public CWnd {
 public:
     CStatic();
     ~CStatic() override;
-    virtual BOOL Create(LPCSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
-                        UINT nID = 0xFFFF);
+    virtual BOOL Create(LPCSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID = 0xFFFF);
     using CWnd::Create;
 };
 
@@ -49,9 +48,7 @@ public:
     int AddString(LPCSTR lpszItem) { return Send(LB_ADDSTRING, 0, lpszItem); }
     int InsertString(int nIndex, LPCSTR lpszItem) { return Send(LB_INSERTSTRING, nIndex, lpszItem); }
     void ResetContent() { Send(LB_RESETCONTENT); }
-    int FindString(int nStartAfter, LPCSTR lpszItem) const {
-        return Send(LB_FINDSTRING, nStartAfter, lpszItem);
-    }
+    int FindString(int nStartAfter, LPCSTR lpszItem) const { return Send(LB_FINDSTRING, nStartAfter, lpszItem); }
     int FindStringExact(int nStartAfter, LPCSTR lpszFind) const {
         return Send(LB_FINDSTRINGEXACT, nStartAfter, lpszFind);
     }
@@ -78,8 +75,7 @@ protected:
 
 private:
     int Send(UINT message, int nIndex = 0, const void* pData = nullptr) const {
-        return static_cast<int>(
-            SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
+        return static_cast<int>(SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
     }
 };
 
@@ -97,9 +93,7 @@ public:
     int AddString(LPCSTR lpszString) { return Send(CB_ADDSTRING, 0, lpszString); }
     int InsertString(int nIndex, LPCSTR lpszString) { return Send(CB_INSERTSTRING, nIndex, lpszString); }
     void ResetContent() { Send(CB_RESETCONTENT); }
-    int FindString(int nStartAfter, LPCSTR lpszString) const {
-        return Send(CB_FINDSTRING, nStartAfter, lpszString);
-    }
+    int FindString(int nStartAfter, LPCSTR lpszString) const { return Send(CB_FINDSTRING, nStartAfter, lpszString); }
     int FindStringExact(int nIndexStart, LPCSTR lpszFind) const {
         return Send(CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
     }
@@ -123,7 +117,6 @@ protected:
 
 private:
     int Send(UINT message, int nIndex = 0, const void* pData = nullptr) const {
-        return static_cast<int>(
-            SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
+        return static_cast<int>(SendMessage(message, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pData)));
     }
 };

@@ -130,8 +130,8 @@ protected:
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
     // Sets the focus to the first control of the active page; without one to the tabs or the default button.
     void FocusActivePage();
-    // Returns the place of a page that is shown, in client coordinates. The default is `before`, the place of the previous
-    // page; an empty rectangle leaves the page where it is.
+    // Returns the place of a page that is shown, in client coordinates. The default is `before`, the place of the
+    // previous page; an empty rectangle leaves the page where it is.
     virtual CRect GetPagePlace(const CPropertyPage& page, const CRect& before) const;
 
     // Pixels. Set when the window of the first page is created: 50 x 14, 4 x 4 and 4 of its dialog units.

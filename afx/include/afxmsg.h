@@ -70,23 +70,23 @@ AFX_PMSG AfxMessageHandler(Handler handler) {
 #pragma GCC diagnostic pop
 }
 
-#define DECLARE_MESSAGE_MAP()                                                                                \
-private:                                                                                                     \
-    static const AFX_MSGMAP_ENTRY* GetMessageEntries();                                                      \
-                                                                                                             \
-public:                                                                                                      \
-    static const AFX_MSGMAP messageMap;                                                                      \
-                                                                                                             \
-protected:                                                                                                   \
+#define DECLARE_MESSAGE_MAP()                                                                                          \
+private:                                                                                                               \
+    static const AFX_MSGMAP_ENTRY* GetMessageEntries();                                                                \
+                                                                                                                       \
+public:                                                                                                                \
+    static const AFX_MSGMAP messageMap;                                                                                \
+                                                                                                                       \
+protected:                                                                                                             \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
-    const AFX_MSGMAP* theClass::GetMessageMap() const {                                                      \
-        return &theClass::messageMap;                                                                        \
-    }                                                                                                        \
-    const AFX_MSGMAP theClass::messageMap = {&baseClass::messageMap, theClass::GetMessageEntries()};         \
-    const AFX_MSGMAP_ENTRY* theClass::GetMessageEntries() {                                                  \
-        using ThisClass [[maybe_unused]] = theClass;                                                         \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
+    const AFX_MSGMAP* theClass::GetMessageMap() const {                                                                \
+        return &theClass::messageMap;                                                                                  \
+    }                                                                                                                  \
+    const AFX_MSGMAP theClass::messageMap = {&baseClass::messageMap, theClass::GetMessageEntries()};                   \
+    const AFX_MSGMAP_ENTRY* theClass::GetMessageEntries() {                                                            \
+        using ThisClass [[maybe_unused]] = theClass;                                                                   \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
 // clang-format off
@@ -97,11 +97,11 @@ protected:                                                                      
 // clang-format on
 
 // Commands of menus, accelerators and buttons, and notifications of controls
-#define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
+#define ON_CONTROL(wNotifyCode, id, memberFxn)                                                                         \
     {WM_COMMAND, (wNotifyCode), (id), (id), AfxSig_vv, static_cast<AFX_PMSG>(memberFxn)},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
-#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
-    {WM_COMMAND, CN_COMMAND, (id),                                                                           \
+#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                                        \
+    {WM_COMMAND, CN_COMMAND, (id),                                                                                     \
      (idLast),   AfxSig_vw,  AfxMessageHandler(static_cast<void (CCmdTarget::*)(UINT)>(memberFxn))},
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
@@ -113,57 +113,46 @@ protected:                                                                      
 #define ON_CBN_SELENDOK(id, memberFxn) ON_CONTROL(CBN_SELENDOK, id, memberFxn)
 
 // Any window message
-#define AFX_WM_ENTRY(message, sig, type, memberFxn)                                                          \
+#define AFX_WM_ENTRY(message, sig, type, memberFxn)                                                                    \
     {(message), 0, 0, 0, sig, AfxMessageHandler(static_cast<type>(memberFxn))},
-#define ON_MESSAGE(message, memberFxn)                                                                       \
-    AFX_WM_ENTRY(message, AfxSig_lwl, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
+#define ON_MESSAGE(message, memberFxn) AFX_WM_ENTRY(message, AfxSig_lwl, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
 
-#define ON_WM_CREATE()                                                                                       \
-    AFX_WM_ENTRY(WM_CREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnCreate)
-#define ON_WM_NCCREATE()                                                                                     \
-    AFX_WM_ENTRY(WM_NCCREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnNcCreate)
+#define ON_WM_CREATE() AFX_WM_ENTRY(WM_CREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnCreate)
+#define ON_WM_NCCREATE() AFX_WM_ENTRY(WM_NCCREATE, AfxSig_is, int (CWnd::*)(LPCREATESTRUCTA), &ThisClass::OnNcCreate)
 #define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnDestroy)
 #define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnNcDestroy)
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnClose)
 #define ON_WM_PAINT() AFX_WM_ENTRY(WM_PAINT, AfxSig_vv, void (CWnd::*)(), &ThisClass::OnPaint)
-#define ON_WM_ERASEBKGND()                                                                                   \
-    AFX_WM_ENTRY(WM_ERASEBKGND, AfxSig_bD, BOOL (CWnd::*)(CDC*), &ThisClass::OnEraseBkgnd)
+#define ON_WM_ERASEBKGND() AFX_WM_ENTRY(WM_ERASEBKGND, AfxSig_bD, BOOL (CWnd::*)(CDC*), &ThisClass::OnEraseBkgnd)
 #define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, AfxSig_vwii, void (CWnd::*)(UINT, int, int), &ThisClass::OnSize)
-#define ON_WM_WINDOWPOSCHANGING()                                                                            \
-    AFX_WM_ENTRY(WM_WINDOWPOSCHANGING, AfxSig_vpos, void (CWnd::*)(WINDOWPOS*),                              \
-                 &ThisClass::OnWindowPosChanging)
+#define ON_WM_WINDOWPOSCHANGING()                                                                                      \
+    AFX_WM_ENTRY(WM_WINDOWPOSCHANGING, AfxSig_vpos, void (CWnd::*)(WINDOWPOS*), &ThisClass::OnWindowPosChanging)
 #define ON_WM_SETFOCUS() AFX_WM_ENTRY(WM_SETFOCUS, AfxSig_vW, void (CWnd::*)(CWnd*), &ThisClass::OnSetFocus)
 #define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, AfxSig_vt, void (CWnd::*)(UINT_PTR), &ThisClass::OnTimer)
-#define ON_WM_DROPFILES()                                                                                    \
-    AFX_WM_ENTRY(WM_DROPFILES, AfxSig_vdrop, void (CWnd::*)(HDROP), &ThisClass::OnDropFiles)
-#define ON_WM_CAPTURECHANGED()                                                                               \
+#define ON_WM_DROPFILES() AFX_WM_ENTRY(WM_DROPFILES, AfxSig_vdrop, void (CWnd::*)(HDROP), &ThisClass::OnDropFiles)
+#define ON_WM_CAPTURECHANGED()                                                                                         \
     AFX_WM_ENTRY(WM_CAPTURECHANGED, AfxSig_vWl, void (CWnd::*)(CWnd*), &ThisClass::OnCaptureChanged)
 
-#define AFX_WM_MOUSE(message, memberFxn)                                                                     \
-    AFX_WM_ENTRY(message, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), memberFxn)
+#define AFX_WM_MOUSE(message, memberFxn) AFX_WM_ENTRY(message, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), memberFxn)
 #define ON_WM_LBUTTONDOWN() AFX_WM_MOUSE(WM_LBUTTONDOWN, &ThisClass::OnLButtonDown)
 #define ON_WM_LBUTTONUP() AFX_WM_MOUSE(WM_LBUTTONUP, &ThisClass::OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() AFX_WM_MOUSE(WM_LBUTTONDBLCLK, &ThisClass::OnLButtonDblClk)
 #define ON_WM_MBUTTONDOWN() AFX_WM_MOUSE(WM_MBUTTONDOWN, &ThisClass::OnMButtonDown)
 #define ON_WM_MBUTTONUP() AFX_WM_MOUSE(WM_MBUTTONUP, &ThisClass::OnMButtonUp)
 #define ON_WM_MOUSEMOVE() AFX_WM_MOUSE(WM_MOUSEMOVE, &ThisClass::OnMouseMove)
-#define ON_WM_MOUSEWHEEL()                                                                                   \
+#define ON_WM_MOUSEWHEEL()                                                                                             \
     AFX_WM_ENTRY(WM_MOUSEWHEEL, AfxSig_bwsp, BOOL (CWnd::*)(UINT, short, CPoint), &ThisClass::OnMouseWheel)
 
-#define AFX_WM_KEY(message, memberFxn)                                                                       \
-    AFX_WM_ENTRY(message, AfxSig_vwww, void (CWnd::*)(UINT, UINT, UINT), memberFxn)
+#define AFX_WM_KEY(message, memberFxn) AFX_WM_ENTRY(message, AfxSig_vwww, void (CWnd::*)(UINT, UINT, UINT), memberFxn)
 #define ON_WM_KEYDOWN() AFX_WM_KEY(WM_KEYDOWN, &ThisClass::OnKeyDown)
 #define ON_WM_KEYUP() AFX_WM_KEY(WM_KEYUP, &ThisClass::OnKeyUp)
 
 // Messages to the parent of an owner-draw control, which CWnd passes to the object of the control
-#define ON_WM_DRAWITEM()                                                                                     \
+#define ON_WM_DRAWITEM()                                                                                               \
     AFX_WM_ENTRY(WM_DRAWITEM, AfxSig_vdraw, void (CWnd::*)(int, LPDRAWITEMSTRUCT), &ThisClass::OnDrawItem)
-#define ON_WM_MEASUREITEM()                                                                                  \
-    AFX_WM_ENTRY(WM_MEASUREITEM, AfxSig_vmeas, void (CWnd::*)(int, LPMEASUREITEMSTRUCT),                     \
-                 &ThisClass::OnMeasureItem)
-#define ON_WM_COMPAREITEM()                                                                                  \
-    AFX_WM_ENTRY(WM_COMPAREITEM, AfxSig_icomp, int (CWnd::*)(int, LPCOMPAREITEMSTRUCT),                      \
-                 &ThisClass::OnCompareItem)
-#define ON_WM_DELETEITEM()                                                                                   \
-    AFX_WM_ENTRY(WM_DELETEITEM, AfxSig_vdel, void (CWnd::*)(int, LPDELETEITEMSTRUCT),                        \
-                 &ThisClass::OnDeleteItem)
+#define ON_WM_MEASUREITEM()                                                                                            \
+    AFX_WM_ENTRY(WM_MEASUREITEM, AfxSig_vmeas, void (CWnd::*)(int, LPMEASUREITEMSTRUCT), &ThisClass::OnMeasureItem)
+#define ON_WM_COMPAREITEM()                                                                                            \
+    AFX_WM_ENTRY(WM_COMPAREITEM, AfxSig_icomp, int (CWnd::*)(int, LPCOMPAREITEMSTRUCT), &ThisClass::OnCompareItem)
+#define ON_WM_DELETEITEM()                                                                                             \
+    AFX_WM_ENTRY(WM_DELETEITEM, AfxSig_vdel, void (CWnd::*)(int, LPDELETEITEMSTRUCT), &ThisClass::OnDeleteItem)

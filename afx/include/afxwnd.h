@@ -87,10 +87,10 @@ public:
 
     // Creates a child window; WS_CHILD is added. A null class name selects the framework's window class: arrow cursor,
     // double clicks, no background. Returns false if the window cannot be created. Frames have their own Create.
-    virtual BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                        CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
-    BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
-                  int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
+    virtual BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                        UINT nID, CCreateContext* pContext = nullptr);
+    BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y, int nWidth,
+                  int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
     virtual BOOL DestroyWindow();
 
     // ---- Messages
@@ -179,9 +179,7 @@ public:
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse) {
-        return ::SetTimer(m_hWnd, nIDEvent, nElapse, nullptr);
-    }
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse) { return ::SetTimer(m_hWnd, nIDEvent, nElapse, nullptr); }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
     // If lpszCaption is null, the caption is the name of the application.
@@ -284,8 +282,8 @@ AFX_API BOOL AfxUnhookWindowCreate();
 
 // Registers a window class, unless one with these properties exists, and returns its name, which is valid until the
 // process ends.
-AFX_API LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
-                                   HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
+AFX_API LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr, HBRUSH hbrBackground = nullptr,
+                                   HICON hIcon = nullptr);
 
 // Sets the text if it is different, so that an unchanged window is not repainted.
 AFX_API void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew);

@@ -51,8 +51,7 @@ int CWinThread::Run() {
     m_bRunning = true;
     do {
         MSG message;
-        for (LONG count = 0; !::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(count);
-             ++count) {
+        for (LONG count = 0; !::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(count); ++count) {
         }
     } while (PumpMessage());
     m_bRunning = false;

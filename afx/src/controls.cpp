@@ -125,8 +125,7 @@ int CTabCtrl::InsertItem(int nItem, LPCSTR lpszItem) {
     TCITEMA item = {};
     item.mask = TCIF_TEXT;
     item.pszText = const_cast<LPSTR>(lpszItem); // not modified by this message
-    return static_cast<int>(
-        SendMessage(TCM_INSERTITEMA, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(&item)));
+    return static_cast<int>(SendMessage(TCM_INSERTITEMA, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(&item)));
 }
 
 CStatusBarCtrl::CStatusBarCtrl() = default;

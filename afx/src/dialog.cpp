@@ -43,8 +43,7 @@ BOOL CDialog::CreateFromTemplate(HWND hWndParent) {
     const AfxDialogTemplate dialog(m_lpszTemplateName);
     if (!dialog.IsFound()) return FALSE;
     const AfxWindowCreation creation(this);
-    return ::CreateDialogIndirectParamA(dialog.Module(), dialog.Get(), hWndParent, AfxDialogProc, 0) !=
-           nullptr;
+    return ::CreateDialogIndirectParamA(dialog.Module(), dialog.Get(), hWndParent, AfxDialogProc, 0) != nullptr;
 }
 
 int CDialog::DoModal() {

@@ -19,8 +19,8 @@ struct ExtendedHead {
 constexpr std::size_t kCountAndRectangle = 5 * sizeof(WORD);
 
 void MakePageStyle(DWORD& style, DWORD& exStyle) {
-    style &= ~(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX |
-               WS_DISABLED | WS_VISIBLE | DS_MODALFRAME);
+    style &= ~(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_DISABLED |
+               WS_VISIBLE | DS_MODALFRAME);
     style |= WS_CHILD | DS_CONTROL;
     exStyle &= ~(WS_EX_DLGMODALFRAME | WS_EX_APPWINDOW | WS_EX_TOOLWINDOW);
     exStyle |= WS_EX_CONTROLPARENT;
@@ -52,8 +52,7 @@ public:
         const int length = static_cast<int>(wide.size());
         const int room = length * 2; // enough for double-byte code pages
         LPSTR buffer = text.GetBufferSetLength(room);
-        text.ReleaseBuffer(
-            ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, room, nullptr, nullptr));
+        text.ReleaseBuffer(::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, room, nullptr, nullptr));
         return text;
     }
     // A menu or window class: 0xFFFF and a number, or a string.
@@ -92,8 +91,7 @@ AfxDialogTemplate::AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule)
     HRSRC resource = ::FindResourceA(m_module, lpszName, type);
     HGLOBAL loaded = resource != nullptr ? ::LoadResource(m_module, resource) : nullptr;
     m_data = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;
-    if (m_data == nullptr || ::SizeofResource(m_module, resource) < sizeof(ExtendedHead) + kCountAndRectangle)
-        return;
+    if (m_data == nullptr || ::SizeofResource(m_module, resource) < sizeof(ExtendedHead) + kCountAndRectangle) return;
     m_size = ::SizeofResource(m_module, resource);
     ReadHead();
 }
@@ -134,8 +132,7 @@ LOGFONTA AfxDialogTemplate::Font() const {
     font.lfWeight = m_weight;
     font.lfItalic = m_italic;
     font.lfCharSet = DEFAULT_CHARSET;
-    ::lstrcpynA(font.lfFaceName, m_face.IsEmpty() ? "MS Shell Dlg" : static_cast<LPCSTR>(m_face),
-                LF_FACESIZE);
+    ::lstrcpynA(font.lfFaceName, m_face.IsEmpty() ? "MS Shell Dlg" : static_cast<LPCSTR>(m_face), LF_FACESIZE);
     return font;
 }
 

@@ -2,8 +2,8 @@
 
 #include <afxdlgs.h>
 
-CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCSTR lpszDefExt, LPCSTR lpszFileName, DWORD dwFlags,
-                         LPCSTR lpszFilter, CWnd* pParentWnd)
+CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCSTR lpszDefExt, LPCSTR lpszFileName, DWORD dwFlags, LPCSTR lpszFilter,
+                         CWnd* pParentWnd)
     : m_bOpen(bOpenFileDialog), m_strDefExt(lpszDefExt), m_strFilter(lpszFilter), m_dwFlags(dwFlags),
       m_pParentWnd(pParentWnd), m_szPath{} {
     for (int i = 0; i < m_strFilter.GetLength(); ++i) {

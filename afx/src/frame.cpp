@@ -9,18 +9,16 @@ CFrameWnd::~CFrameWnd() = default;
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
 
-BOOL CFrameWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                       CWnd* pParentWnd, LPCSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext) {
+BOOL CFrameWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                       LPCSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext) {
     HMENU menu = nullptr;
     if (lpszMenuName != nullptr) {
-        menu =
-            ::LoadMenuA(AfxFindResourceHandle(lpszMenuName, reinterpret_cast<LPCSTR>(RT_MENU)), lpszMenuName);
+        menu = ::LoadMenuA(AfxFindResourceHandle(lpszMenuName, reinterpret_cast<LPCSTR>(RT_MENU)), lpszMenuName);
         if (menu == nullptr) return FALSE;
     }
     const bool chosen = ::EqualRect(&rect, &rectDefault);
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    chosen ? CW_USEDEFAULT : rect.right - rect.left,
-                    chosen ? CW_USEDEFAULT : rect.bottom - rect.top,
+                    chosen ? CW_USEDEFAULT : rect.right - rect.left, chosen ? CW_USEDEFAULT : rect.bottom - rect.top,
                     pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu, pContext);
 }
 
@@ -32,8 +30,8 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     title.LoadString(nIDResource);
     LPCSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW), nullptr, icon);
     LoadAccelTable(name);
-    return CreateEx(0, windowClass, title, dwDefaultStyle, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                    CW_USEDEFAULT, pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu);
+    return CreateEx(0, windowClass, title, dwDefaultStyle, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                    pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu);
 }
 
 BOOL CFrameWnd::LoadAccelTable(LPCSTR lpszResourceName) {

@@ -3,8 +3,8 @@
 
 #include <afx.h>
 
-// Called in a catch block: reports the exception that is being handled as one that leaves a message handler, and returns
-// what the window procedure then returns.
+// Called in a catch block: reports the exception that is being handled as one that leaves a message handler, and
+// returns what the window procedure then returns.
 LRESULT AfxReportCurrentException();
 
 // Returns what the call returns; false if it throws, after the exception has been reported.

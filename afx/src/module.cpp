@@ -17,8 +17,7 @@ std::vector<CDynLinkLibrary*>& Libraries() {
 
 HINSTANCE OwnModule() {
     HMODULE module = nullptr;
-    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                          reinterpret_cast<LPCSTR>(&OwnModule), &module);
     return module;
 }
@@ -80,8 +79,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state) {
     state.bInitialized = FALSE;
 }
 
-CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state)
-    : m_hModule(state.hModule), m_hResource(state.hResource) {
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state) : m_hModule(state.hModule), m_hResource(state.hResource) {
     Libraries().insert(Libraries().begin(), this);
 }
 

@@ -61,7 +61,7 @@ BOOL CPropertyPage::CreatePageWindow() {
     if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
     const std::vector<BYTE> page = dialog.AsPage(m_bScrollingCombos);
     const AfxWindowCreation creation(this);
-    ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()),
-                                 m_pSheet->m_hWnd, AfxDialogProc, 0);
+    ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()), m_pSheet->m_hWnd,
+                                 AfxDialogProc, 0);
     return m_hWnd != nullptr; // null too if OnInitDialog has given the window up
 }

@@ -70,8 +70,7 @@ BOOL CPropertySheet::CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwE
     sheet.head.style = dwStyle;
     sheet.head.dwExtendedStyle = dwExStyle | WS_EX_CONTROLPARENT;
     const AfxWindowCreation creation(this);
-    return ::CreateDialogIndirectParamA(AfxGetInstanceHandle(), &sheet.head, hWndParent, AfxDialogProc, 0) !=
-           nullptr;
+    return ::CreateDialogIndirectParamA(AfxGetInstanceHandle(), &sheet.head, hWndParent, AfxDialogProc, 0) != nullptr;
 }
 
 // Shows the sheet, once, and gives the focus to the active page.
@@ -279,8 +278,8 @@ void CPropertySheet::OnApply() {
 void CPropertySheet::EnableApplyButton() {
     HWND apply = m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, ID_APPLY_NOW) : nullptr;
     if (apply == nullptr) return;
-    const bool changed = std::any_of(m_pages.begin(), m_pages.end(),
-                                     [](const CPropertyPage* page) { return page->m_bChanged; });
+    const bool changed =
+        std::any_of(m_pages.begin(), m_pages.end(), [](const CPropertyPage* page) { return page->m_bChanged; });
     if (changed != (::IsWindowEnabled(apply) != 0)) ::EnableWindow(apply, changed);
 }
 

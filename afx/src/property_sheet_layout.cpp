@@ -34,10 +34,9 @@ CString Caption(UINT nIDS) {
 bool CPropertySheet::CreateButtons() {
     for (const Button& button : kButtons) {
         if (button.id == ID_APPLY_NOW && !m_bHasApply) continue;
-        HWND hWnd = ::CreateWindowExA(0, "BUTTON", Caption(button.caption),
-                                      WS_CHILD | WS_VISIBLE | WS_TABSTOP | button.style, 0, 0, 0, 0, m_hWnd,
-                                      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)),
-                                      AfxGetInstanceHandle(), nullptr);
+        HWND hWnd = ::CreateWindowExA(
+            0, "BUTTON", Caption(button.caption), WS_CHILD | WS_VISIBLE | WS_TABSTOP | button.style, 0, 0, 0, 0, m_hWnd,
+            reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), AfxGetInstanceHandle(), nullptr);
         if (hWnd == nullptr) return false;
         ::SendMessageA(hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
     }
@@ -75,8 +74,7 @@ void CPropertySheet::LayOut() {
     const int width = std::max(pageRect.Width(), buttonsWidth) + 2 * m_sizeTabMargin.cx + 2;
 
     const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
-    m_tabRow.SetWindowPos(nullptr, m_sizeTabMargin.cx, m_sizeTabMargin.cy, width - 2 * m_sizeTabMargin.cx, 0,
-                          flags);
+    m_tabRow.SetWindowPos(nullptr, m_sizeTabMargin.cx, m_sizeTabMargin.cy, width - 2 * m_sizeTabMargin.cx, 0, flags);
     CRect tabs;
     m_tabRow.GetWindowRect(&tabs);
     const int pageTop = m_sizeTabMargin.cy + tabs.Height();

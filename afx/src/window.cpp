@@ -14,9 +14,7 @@
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
-CWnd::CWnd()
-    : m_hWnd(nullptr), m_modal(Modal::none), m_nModalResult(-1), m_pModalOwner(nullptr), m_pfnSuper(nullptr) {
-}
+CWnd::CWnd() : m_hWnd(nullptr), m_modal(Modal::none), m_nModalResult(-1), m_pModalOwner(nullptr), m_pfnSuper(nullptr) {}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();
@@ -78,11 +76,10 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
 
 // ---- Creation and destruction
 
-BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID, CCreateContext* pContext) {
-    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top,
-                    pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr,
+BOOL CWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                  UINT nID, CCreateContext* pContext) {
+    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect.left, rect.top, rect.right - rect.left,
+                    rect.bottom - rect.top, pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr,
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), pContext);
 }
 
@@ -106,14 +103,12 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
         return FALSE;
     }
     const AfxWindowCreation creation(this);
-    return ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
-                             cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance,
-                             cs.lpCreateParams) != nullptr;
+    return ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx,
+                             cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams) != nullptr;
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCTA& cs) {
-    if (cs.lpszClass == nullptr)
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW));
+    if (cs.lpszClass == nullptr) cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW));
     return TRUE;
 }
 
@@ -124,9 +119,8 @@ BOOL CWnd::DestroyWindow() {
     HWND hWnd = m_hWnd;
     // With the framework's procedure, the object is removed from the map at the window's last message and can then be
     // deleted.
-    const bool isInMap =
-        FromHandlePermanent(hWnd) == this &&
-        reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(hWnd, GWLP_WNDPROC)) == AfxGetAfxWndProc();
+    const bool isInMap = FromHandlePermanent(hWnd) == this &&
+                         reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(hWnd, GWLP_WNDPROC)) == AfxGetAfxWndProc();
     const BOOL destroyed = ::DestroyWindow(hWnd);
     if (!isInMap) Detach();
     return destroyed;
@@ -183,8 +177,7 @@ BOOL CALLBACK SendToDescendant(HWND window, LPARAM lParam) {
 } // namespace
 
 // EnumChildWindows takes half the time of calling GetWindow for each child.
-void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
-                                    BOOL bOnlyPerm) {
+void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
     const MessageToDescendants send = {hWnd, message, wParam, lParam, bDeep, bOnlyPerm};
     ::EnumChildWindows(hWnd, SendToDescendant, reinterpret_cast<LPARAM>(&send));
 }
@@ -228,8 +221,7 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     if (after == before) return FALSE;
     ::SetWindowLongPtrA(m_hWnd, GWL_STYLE, static_cast<LONG_PTR>(after));
     if (nFlags != 0) {
-        ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0,
-                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | nFlags);
+        ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | nFlags);
     }
     return TRUE;
 }
@@ -273,8 +265,7 @@ CPoint CWnd::GetCenteredPlace(CSize size, const CWnd* pAlternateOwner) const {
     HWND owner = pAlternateOwner != nullptr ? pAlternateOwner->m_hWnd : ::GetParent(m_hWnd);
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoA(::MonitorFromWindow(owner != nullptr ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY),
-                      &monitor);
+    ::GetMonitorInfoA(::MonitorFromWindow(owner != nullptr ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
     const CRect work = monitor.rcWork;
     CRect around = work;
     if (owner != nullptr && ::IsWindowVisible(owner) && !::IsIconic(owner)) ::GetWindowRect(owner, around);
@@ -333,8 +324,8 @@ void CWnd::OnHelp() {
 
 LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     CString name;
-    name.Format("Afx:%x:%p:%p:%p", nClassStyle, static_cast<void*>(hCursor),
-                static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
+    name.Format("Afx:%x:%p:%p:%p", nClassStyle, static_cast<void*>(hCursor), static_cast<void*>(hbrBackground),
+                static_cast<void*>(hIcon));
     static std::set<std::string> names; // returned pointers remain valid
     LPCSTR kept = names.insert(static_cast<LPCSTR>(name)).first->c_str();
     HINSTANCE instance = AfxGetInstanceHandle();

@@ -71,8 +71,7 @@ LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l
         return CallForResult<BOOL, UINT, short, CPoint>(wnd, pfn, static_cast<UINT>(GET_KEYSTATE_WPARAM(w)),
                                                         GET_WHEEL_DELTA_WPARAM(w), PointOf(l));
     case AfxSig_vwww:
-        return Call<UINT, UINT, UINT>(wnd, pfn, flags, static_cast<UINT>(LOWORD(l)),
-                                      static_cast<UINT>(HIWORD(l)));
+        return Call<UINT, UINT, UINT>(wnd, pfn, flags, static_cast<UINT>(LOWORD(l)), static_cast<UINT>(HIWORD(l)));
     case AfxSig_vt:
         return Call<UINT_PTR>(wnd, pfn, w);
     case AfxSig_vpos:
@@ -162,16 +161,14 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
 // first.
 static HWND MeasuredControl(HWND parent, int id) {
     HWND& last = AfxThreadState::Get().lastMeasured;
-    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent)
-        last = ::GetDlgItem(parent, id);
+    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent) last = ::GetDlgItem(parent, id);
     return last;
 }
 
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     // The only one of the four structures without the window's handle.
     LRESULT result = 0;
-    if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(MeasuredControl(m_hWnd, nIDCtl), &result))
-        Default();
+    if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(MeasuredControl(m_hWnd, nIDCtl), &result)) Default();
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct) {

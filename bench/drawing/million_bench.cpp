@@ -35,8 +35,7 @@ constexpr int kRounds = 3;
 void WriteEntity(FILE* file, int number) {
     const int x = number % kSide * 10, y = number / kSide * 10, layer = number % 7;
     const auto begin = [&](const char* kind) {
-        std::fprintf(file, "  0\n%s\n  8\nL%d\n 62\n%d\n 10\n%d.25\n 20\n%d.5\n", kind, layer, number % 6 + 1,
-                     x, y);
+        std::fprintf(file, "  0\n%s\n  8\nL%d\n 62\n%d\n 10\n%d.25\n 20\n%d.5\n", kind, layer, number % 6 + 1, x, y);
     };
     switch (number % 10) {
     case 0:
@@ -110,9 +109,7 @@ public:
     CMainFrame& Frame() { return *m_frame; }
     CDrawingView& View() { return m_frame->View(); }
     Document& Drawing() { return *m_frame->GetDocument(); }
-    double Bytes() const {
-        return m_bytes;
-    } // of the drawing and all that shows it, without the text of its file
+    double Bytes() const { return m_bytes; } // of the drawing and all that shows it, without the text of its file
 
     // Of its file's text, which is kept to save the drawing.
     double TextBytes() const { return static_cast<double>(fs::file_size(m_path)); }
@@ -192,8 +189,8 @@ void PrintSeconds(const char* name, const Pair& pair) {
     Print((std::string(name) + "_time").c_str(), pair.seconds, "s");
 }
 
-// One property of all graphics: as a step that can be undone, and its undo, each against the bare loop; and as the user sees
-// it, with all that the window shows of it.
+// One property of all graphics: as a step that can be undone, and its undo, each against the bare loop; and as the user
+// sees it, with all that the window shows of it.
 void BenchChange(MillionViewer& viewer) {
     Document& drawing = viewer.Drawing();
     uint32_t color = 0;
@@ -211,8 +208,8 @@ void BenchChange(MillionViewer& viewer) {
     PrintSeconds("view_undo_1000000", Compare(kRounds, undo, bare));
 }
 
-// What a user waits for who has changed the color of all on the sheet's page of pens and goes to another page: it is written,
-// the next page merges its own, and the view shows it.
+// What a user waits for who has changed the color of all on the sheet's page of pens and goes to another page: it is
+// written, the next page merges its own, and the view shows it.
 double SecondsOfPageChange(MillionViewer& viewer) {
     UserInput user(0);
     double seconds = 0;
@@ -220,8 +217,7 @@ double SecondsOfPageChange(MillionViewer& viewer) {
     user.InDialog(open, [&](HWND sheet) {
         const std::vector<std::string> titles = PageTitles(sheet);
         const PageEdit* edit = FindPageEdit("Pen");
-        ClickTab(user, sheet,
-                 static_cast<int>(std::find(titles.begin(), titles.end(), "Pen") - titles.begin()));
+        ClickTab(user, sheet, static_cast<int>(std::find(titles.begin(), titles.end(), "Pen") - titles.begin()));
         edit->edit(user, ActivePageOf(sheet));
         seconds = Seconds([&] {
             ClickTab(user, sheet, 0);

@@ -1,5 +1,5 @@
-// Opening and saving a drawing of a million entities, against opening it and copying its file: how long that takes, and how
-// much memory.
+// Opening and saving a drawing of a million entities, against opening it and copying its file: how long that takes, and
+// how much memory.
 
 #include "bench/drawing/drawing_bench.h"
 
@@ -27,9 +27,8 @@ constexpr int kRounds = 3;
 // Lines on two layers, as a program of today writes them.
 void WriteDrawing(const fs::path& path) {
     FILE* file = ::_wfopen(path.c_str(), L"wb");
-    std::fputs(
-        "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n",
-        file);
+    std::fputs("  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n",
+               file);
     for (int i = 0; i < kEntities; ++i)
         std::fprintf(file,
                      "  0\nLINE\n  5\n%X\n330\n1F\n100\nAcDbEntity\n  8\nL%d\n100\nAcDbLine\n 10\n%d.25\n "

@@ -1,6 +1,6 @@
-// Sets of 10 to 1,000,000 properties with a dictionary: reading, looking all of them up, writing, and how each grows. Beside it
-// how the same grows in the list and the maps of the standard library, which the processor's caches and the allocator hit
-// alike.
+// Sets of 10 to 1,000,000 properties with a dictionary: reading, looking all of them up, writing, and how each grows.
+// Beside it how the same grows in the list and the maps of the standard library, which the processor's caches and the
+// allocator hit alike.
 
 #include <algorithm>
 #include <cstring>
@@ -170,8 +170,7 @@ void BenchGrowth() {
         const char* name;
         void (*work)(Sized&);
         void (*baseline)(Sized&);
-    } works[] = {
-        {"read", Read, ReadPlain}, {"look_up_all", LookUp, LookUpPlain}, {"write", Write, WritePlain}};
+    } works[] = {{"read", Read, ReadPlain}, {"look_up_all", LookUp, LookUpPlain}, {"write", Write, WritePlain}};
     Pair before[std::size(works)] = {};
     for (const DWORD count : {10u, 100u, 1000u, 10000u, 100000u, 1000000u}) {
         Sized sized(count);

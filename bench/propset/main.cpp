@@ -6,10 +6,8 @@
 
 namespace {
 
-constexpr Bench kBenches[] = {{"streams", BenchStreams},
-                              {"growth", BenchGrowth},
-                              {"allocations", BenchAllocations},
-                              {"programs", BenchPrograms}};
+constexpr Bench kBenches[] = {
+    {"streams", BenchStreams}, {"growth", BenchGrowth}, {"allocations", BenchAllocations}, {"programs", BenchPrograms}};
 
 } // namespace
 

@@ -1,4 +1,5 @@
-// Programs for the command line: how long suminfo and gsf take to start and show one document, and for each document more.
+// Programs for the command line: how long suminfo and gsf take to start and show one document, and for each document
+// more.
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -32,8 +33,7 @@ void Run(const Words& command) {
         ::posix_spawn_file_actions_addopen(&silent, output, "/dev/null", O_WRONLY, 0);
     pid_t child = 0;
     int status = 0;
-    if (::posix_spawnp(&child, words[0], &silent, nullptr, words.data(), environ) == 0)
-        ::waitpid(child, &status, 0);
+    if (::posix_spawnp(&child, words[0], &silent, nullptr, words.data(), environ) == 0) ::waitpid(child, &status, 0);
     ::posix_spawn_file_actions_destroy(&silent);
 }
 
@@ -54,8 +54,7 @@ void PrintAgainstGsf(const std::string& name, const Words& ours) {
     Print((name + "_start").c_str(), one.ratio, "times_gsf_list");
     Print((name + "_start_time").c_str(), one.seconds * 1e3, "ms");
     const double each = (many.seconds - one.seconds) / (kMany - 1);
-    Print((name + "_document").c_str(), each / ((many.baseline - one.baseline) / (kMany - 1)),
-          "times_gsf_list");
+    Print((name + "_document").c_str(), each / ((many.baseline - one.baseline) / (kMany - 1)), "times_gsf_list");
     Print((name + "_document_time").c_str(), each * 1e6, "us");
 }
 

@@ -31,8 +31,7 @@ using Owned = std::unique_ptr<Type, ObjectUnref>;
 
 // Null if libgsf can't read it.
 Owned<GsfDocMetaData> GsfRead(const std::vector<uint8_t>& bytes) {
-    const Owned<GsfInput> input(
-        gsf_input_memory_new(bytes.data(), static_cast<gsf_off_t>(bytes.size()), FALSE));
+    const Owned<GsfInput> input(gsf_input_memory_new(bytes.data(), static_cast<gsf_off_t>(bytes.size()), FALSE));
     Owned<GsfDocMetaData> data(gsf_doc_meta_data_new());
     GError* error = gsf_doc_meta_data_read_from_msole(data.get(), input.get());
     if (error == nullptr) return data;
@@ -144,8 +143,7 @@ void BenchStreams() {
     const struct {
         const char* name;
         size_t from, to;
-    } classes[] = {
-        {"to_512", 0, 513}, {"to_4095", 513, 4096}, {"4096", 4096, 4097}, {"above", 4097, SIZE_MAX}};
+    } classes[] = {{"to_512", 0, 513}, {"to_4095", 513, 4096}, {"4096", 4096, 4097}, {"above", 4097, SIZE_MAX}};
     for (const auto& size : classes) {
         Samples samples, writable;
         for (const auto& sample : all) {

@@ -1,5 +1,5 @@
-// bench_propset_system [system]: reads and writes real summaries by the library and by the system's own property storage,
-// by size class. Only those that the system can read: it fails on vectors of texts.
+// bench_propset_system [system]: reads and writes real summaries by the library and by the system's own property
+// storage, by size class. Only those that the system can read: it fails on vectors of texts.
 
 #include <ole2.h>
 
@@ -94,8 +94,7 @@ void WriteBySystem(Sample& sample) {
     IPropertyStorage* made = nullptr;
     ::StgCreatePropStg(stream.get(), kSummary, nullptr, PROPSETFLAG_ANSI, 0, &made);
     const Com<IPropertyStorage> properties(made);
-    properties->WriteMultiple(static_cast<ULONG>(sample.ids.size()), sample.ids.data(), sample.values.data(),
-                              2);
+    properties->WriteMultiple(static_cast<ULONG>(sample.ids.size()), sample.ids.data(), sample.values.data(), 2);
     properties->Commit(STGC_DEFAULT);
 }
 
@@ -119,8 +118,7 @@ std::unique_ptr<Sample> MakeSample(const std::vector<uint8_t>& bytes) {
         sample->ids.push_back(id);
     }
     sample->values.resize(sample->ids.size());
-    properties->ReadMultiple(static_cast<ULONG>(sample->ids.size()), sample->ids.data(),
-                             sample->values.data());
+    properties->ReadMultiple(static_cast<ULONG>(sample->ids.size()), sample->ids.data(), sample->values.data());
     return sample;
 }
 
@@ -133,8 +131,8 @@ int main(int argc, char** argv) {
     std::vector<std::unique_ptr<Sample>> all;
     for (const CorpusStream& stream : AllCorpusStreams()) {
         const std::vector<uint8_t> bytes = stream.Content();
-        if (stream.manifest["stream"] != "\\005SummaryInformation" ||
-            stream.manifest["class"] != "well-formed" || !IsReadableBySystem(bytes))
+        if (stream.manifest["stream"] != "\\005SummaryInformation" || stream.manifest["class"] != "well-formed" ||
+            !IsReadableBySystem(bytes))
             continue;
         if (auto sample = MakeSample(bytes)) all.push_back(std::move(sample));
     }
@@ -142,8 +140,7 @@ int main(int argc, char** argv) {
     const struct {
         const char* name;
         size_t from, to;
-    } classes[] = {
-        {"to_512", 0, 513}, {"to_4095", 513, 4096}, {"4096", 4096, 4097}, {"above", 4097, SIZE_MAX}};
+    } classes[] = {{"to_512", 0, 513}, {"to_4095", 513, 4096}, {"4096", 4096, 4097}, {"above", 4097, SIZE_MAX}};
     double logarithms = 0;
     int measured = 0;
     for (const auto& size : classes) {
@@ -167,6 +164,5 @@ int main(int argc, char** argv) {
         print("read", ReadByUs, ReadBySystem);
         print("write", WriteByUs, WriteBySystem);
     }
-    if (measured > 0)
-        Print("propset_summary_mean", std::exp(logarithms / measured), "times_as_fast_as_the_system");
+    if (measured > 0) Print("propset_summary_mean", std::exp(logarithms / measured), "times_as_fast_as_the_system");
 }

@@ -1,4 +1,5 @@
-// Filling the lists of colors and layers with the host's tables, against inserting a list that is sorted already, redraw off.
+// Filling the lists of colors and layers with the host's tables, against inserting a list that is sorted already,
+// redraw off.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -25,8 +26,7 @@ constexpr DWORD kComboStyle =
 class Parent : public CWnd {
 public:
     Parent() {
-        CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 600, nullptr,
-                 nullptr);
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 600, nullptr, nullptr);
     }
 
     HWND Add(const char* className, int id) {

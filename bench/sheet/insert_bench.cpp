@@ -76,11 +76,10 @@ struct Merge {
 Merge MeasureMerge(int n, bool plane) {
     const Insertions insertions(n, plane);
     ::PropPageInit();
-    const std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
-        nullptr, nullptr, insertions.Drawing(), insertions.Selection(), kAllGraphics));
+    const std::unique_ptr<CGraphicPropertySheet> sheet(
+        ::InitGraphicPropertySheet(nullptr, nullptr, insertions.Drawing(), insertions.Selection(), kAllGraphics));
     uint32_t position;
-    ::AddGraphicPropertyPage(nullptr, ::GraphicFirst(insertions.Selection(), &position, 1, kAllGraphics),
-                             sheet.get());
+    ::AddGraphicPropertyPage(nullptr, ::GraphicFirst(insertions.Selection(), &position, 1, kAllGraphics), sheet.get());
     Merge merge{};
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         user.SelectPage(1);

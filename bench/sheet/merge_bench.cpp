@@ -25,8 +25,7 @@ void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
          graphic = ::GraphicNext(set, &position, 1, kAllGraphics)) {
         int32_t number;
         const PropertyTable* table = ::GraphicGetVtbl(graphic);
-        if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number))
-            visit(graphic, table, number);
+        if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number)) visit(graphic, table, number);
     }
 }
 
@@ -59,22 +58,19 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
     results.writeNumber = Compare(
         kRounds, [&] { page.SetPropText(kPropPenWidth, width, 0); },
         [&] {
-            BareLoop(selection, kPropPenWidth,
-                     [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
-                         table->PropSet(graphic, number, VT_R8, &width);
-                     });
+            BareLoop(selection, kPropPenWidth, [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                table->PropSet(graphic, number, VT_R8, &width);
+            });
         });
     results.writeText = Compare(
         kRounds, [&] { page.SetPropText(kPropInfo, info, 0); },
         [&] {
-            BareLoop(selection, kPropInfo,
-                     [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
-                         table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
-                     });
+            BareLoop(selection, kPropInfo, [&](GraphicStruct* graphic, const PropertyTable* table, int32_t number) {
+                table->PropSet(graphic, number, VT_BSTR, static_cast<const char*>(info));
+            });
         });
     results.number = Compare(
-        kRounds, [&] { page.GetPropText(kPropPenWidth, &width, 0); },
-        [&] { BareGet(selection, kPropPenWidth); });
+        kRounds, [&] { page.GetPropText(kPropPenWidth, &width, 0); }, [&] { BareGet(selection, kPropPenWidth); });
     results.text = Compare(
         kRounds, [&] { page.GetPropText(kPropInfo, &info, 0); }, [&] { BareGetText(selection, kPropInfo); });
 

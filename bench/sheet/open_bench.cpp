@@ -1,5 +1,5 @@
-// Opening the sheet, showing its Pen page and closing it, against the system's own property sheet with as many pages of as
-// many controls.
+// Opening the sheet, showing its Pen page and closing it, against the system's own property sheet with as many pages of
+// as many controls.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -46,8 +46,7 @@ void BenchOpen() {
     for (const int n : {1, 1000, 10000, 100000}) {
         const Pair pair = OpenOver(n);
         Print(("open_sheet_" + std::to_string(n)).c_str(), pair.ratio, "x_system_property_sheet");
-        if (n > 1000)
-            Print(("open_sheet_growth_to_" + std::to_string(n)).c_str(), pair.seconds / before, "x_for_10n");
+        if (n > 1000) Print(("open_sheet_growth_to_" + std::to_string(n)).c_str(), pair.seconds / before, "x_for_10n");
         before = pair.seconds;
     }
 }

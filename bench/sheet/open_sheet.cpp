@@ -67,8 +67,7 @@ void ShowSystemPage(HWND sheet, int page) {
     ::SendMessageA(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
 }
 
-std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing,
-                                                GraphicStruct* selection) {
+std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* selection) {
     std::unique_ptr<CGraphicPropertySheet> sheet(
         ::InitGraphicPropertySheet(owner, nullptr, drawing, selection, kAllGraphics));
     for (GraphicStruct* graphic : orlo::host::Members(selection))

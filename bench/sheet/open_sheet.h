@@ -29,6 +29,5 @@ void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND s
 void ShowSystemPage(HWND sheet, int page);
 
 // The library's sheet over a selection, with the pages that belong to it. It is cancelled after act.
-std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing,
-                                                GraphicStruct* selection);
+std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* selection);
 void RunSheet(LoopWatch& watch, CGraphicPropertySheet& sheet, const std::function<void(HWND sheet)>& act);

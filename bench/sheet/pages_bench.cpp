@@ -99,8 +99,8 @@ void BenchPages() {
         if (n > 1000) {
             Print(("open_five_pages_growth_to_" + number).c_str(), results.open.seconds / before.open.seconds,
                   "x_for_10n");
-            Print(("change_five_pages_growth_to_" + number).c_str(),
-                  results.change.seconds / before.change.seconds, "x_for_10n");
+            Print(("change_five_pages_growth_to_" + number).c_str(), results.change.seconds / before.change.seconds,
+                  "x_for_10n");
         }
         before = results;
     }

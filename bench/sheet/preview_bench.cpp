@@ -1,5 +1,5 @@
-// Refreshing the preview pane, against the host drawing the same graphic: in a window of its own, and into a device context
-// without the system's work of invalidating and painting a window.
+// Refreshing the preview pane, against the host drawing the same graphic: in a window of its own, and into a device
+// context without the system's work of invalidating and painting a window.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -19,8 +19,7 @@ constexpr int kPaints = 50; // a round
 class BarePane : public CWnd {
 public:
     BarePane(HWND parent, GraphicStruct* graphic) : m_graphic(graphic), m_viewport(::ViewportNewEx()) {
-        CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 100, 100, parent,
-                 nullptr);
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 100, 100, parent, nullptr);
     }
 
     void Refresh() {
@@ -61,11 +60,8 @@ private:
 void BenchPreview() {
     GraphicKit kit;
     HostFrame frame(kit.Drawing());
-    kit.Add({{kPropPenWidth, 0.1},
-             {kPropPenColor, 255},
-             {kPropPenScale, 1.0},
-             {kPropPenStyle, 1},
-             {kPropScaleSystem, 2}});
+    kit.Add(
+        {{kPropPenWidth, 0.1}, {kPropPenColor, 255}, {kPropPenScale, 1.0}, {kPropPenStyle, 1}, {kPropScaleSystem, 2}});
     TestSheet sheet(kit);
     ::AddGraphicPropertyPage(nullptr, kit[0].graphic, &sheet.Sheet());
     sheet.Run([&](SheetDriver& user) {

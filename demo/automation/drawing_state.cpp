@@ -23,12 +23,9 @@ namespace {
 
 using orlo::host::ReadProperty;
 
-constexpr const char* kTables[] = {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors,
-                                   kTableBlocks};
-constexpr uint16_t kUnitNames[] = {kUnitDrawing, kUnitMillimeter, kUnitTextSize, kUnitPenWidth,
-                                   kUnitFontName};
-constexpr uint16_t kUnitNumbers[] = {kUnitLinearSystem, kUnitLinearDigits, kUnitAngularSystem,
-                                     kUnitAngularDigits};
+constexpr const char* kTables[] = {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors, kTableBlocks};
+constexpr uint16_t kUnitNames[] = {kUnitDrawing, kUnitMillimeter, kUnitTextSize, kUnitPenWidth, kUnitFontName};
+constexpr uint16_t kUnitNumbers[] = {kUnitLinearSystem, kUnitLinearDigits, kUnitAngularSystem, kUnitAngularDigits};
 
 std::string Exact(double value) {
     char text[40];
@@ -53,8 +50,7 @@ std::optional<std::string> Read(GraphicStruct* graphic, const PropertyInfo& prop
 std::string Vertices(GraphicStruct* graphic) {
     std::string text;
     for (const VertexStruct* v : orlo::host::Vertices(graphic)) {
-        text +=
-            "(" + Exact(v->x) + " " + Exact(v->y) + " " + Exact(v->z) + " " + std::to_string(v->wFlags) + ")";
+        text += "(" + Exact(v->x) + " " + Exact(v->y) + " " + Exact(v->z) + " " + std::to_string(v->wFlags) + ")";
     }
     return text;
 }
@@ -91,8 +87,8 @@ std::string BrushPattern(TableStruct* table, uint16_t id) {
 }
 
 std::string LayerText(DrawingStruct* drawing, uint16_t id) {
-    return std::to_string(::LayerGetColor(drawing, id)) + " " + std::to_string(::LayerGetFlags(drawing, id)) +
-           " " + std::to_string(::LayerGetLineStyle(drawing, id));
+    return std::to_string(::LayerGetColor(drawing, id)) + " " + std::to_string(::LayerGetFlags(drawing, id)) + " " +
+           std::to_string(::LayerGetLineStyle(drawing, id));
 }
 
 } // namespace
@@ -160,8 +156,8 @@ void DrawingState::AddGraphic(const std::string& place, GraphicStruct* graphic) 
 std::vector<std::string> DrawingState::DifferencesTo(const DrawingState& later, size_t most) const {
     std::vector<std::string> lines;
     if (m_things.size() != later.m_things.size()) {
-        lines.push_back(std::to_string(m_things.size()) + " things before, " +
-                        std::to_string(later.m_things.size()) + " now");
+        lines.push_back(std::to_string(m_things.size()) + " things before, " + std::to_string(later.m_things.size()) +
+                        " now");
     }
     const size_t common = std::min(m_things.size(), later.m_things.size());
     for (size_t i = 0; i < common && lines.size() < most; ++i) {

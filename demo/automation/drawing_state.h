@@ -1,6 +1,7 @@
-// Everything that a drawing holds, as far as the host's functions give it, to be compared with what it holds later: tables
-// with their entries, blocks, graphics with their parts, properties, vertices and boxes. Numbers are kept to the last digit.
-// Not in it: which page of a sheet has written a graphic last, a note of the library that every sheet leaves.
+// Everything that a drawing holds, as far as the host's functions give it, to be compared with what it holds later:
+// tables with their entries, blocks, graphics with their parts, properties, vertices and boxes. Numbers are kept to the
+// last digit. Not in it: which page of a sheet has written a graphic last, a note of the library that every sheet
+// leaves.
 #pragma once
 
 #include <string>

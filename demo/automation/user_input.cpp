@@ -18,8 +18,7 @@ LPARAM At(CPoint point) {
 }
 
 WPARAM MouseFlags(unsigned modifiers) {
-    return (modifiers & UserInput::kShift ? MK_SHIFT : 0) |
-           (modifiers & UserInput::kControl ? MK_CONTROL : 0);
+    return (modifiers & UserInput::kShift ? MK_SHIFT : 0) | (modifiers & UserInput::kControl ? MK_CONTROL : 0);
 }
 
 // Holds these modifier keys down and no others, as far as this thread can see.
@@ -44,8 +43,8 @@ private:
 
 } // namespace
 
-// Modal windows that are expected, and what is to be played in them. While the object lives, a timer of this thread looks for
-// them; it stands still while the last script plays.
+// Modal windows that are expected, and what is to be played in them. While the object lives, a timer of this thread
+// looks for them; it stands still while the last script plays.
 struct UserInput::Dialog {
     explicit Dialog(const std::vector<Script>& toPlay) : scripts(toPlay) { StartTimer(); }
     ~Dialog() {

@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr int kDiagonalLines =
-    5; // the brush's place in the list: between its lines all that lies below is seen
+constexpr int kDiagonalLines = 5;        // the brush's place in the list: between its lines all that lies below is seen
 constexpr const char* kWideApart = "60"; // the scale of these lines, over a whole drawing
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
@@ -53,8 +52,7 @@ int IndexOfColor(HWND combo, unsigned long color) {
 }
 
 constexpr PageEdit kEdits[] = {
-    {"General", kPropInfo,
-     [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
+    {"General", kPropInfo, [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
     {"Pen", kPropPenColor,
      [](UserInput& user, HWND page) {
          const HWND colors = FocusOn(page, IDC_COLOR);
@@ -65,10 +63,8 @@ constexpr PageEdit kEdits[] = {
          MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
          TypeOver(user, page, IDC_BRUSH_SCALE, kWideApart);
      }},
-    {"Text", kPropTextStyle,
-     [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
-    {"Block Insertion", "vertices",
-     [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
+    {"Text", kPropTextStyle, [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
+    {"Block Insertion", "vertices", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
 };
 
 } // namespace

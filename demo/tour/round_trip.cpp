@@ -28,8 +28,7 @@ bool RoundTrip::Check(const std::vector<std::string>& drawings) {
             ++unchecked;
         }
     }
-    std::string end =
-        std::to_string(drawings.size()) + " drawings, " + std::to_string(different) + " with differences";
+    std::string end = std::to_string(drawings.size()) + " drawings, " + std::to_string(different) + " with differences";
     if (unchecked) end += ", " + std::to_string(unchecked) + " not checked to the end";
     Report(end);
     return different + unchecked == 0;

@@ -49,8 +49,7 @@ std::string NameOf(const std::string& item) {
 std::string FileNameOf(const std::string& title) {
     std::string name;
     for (const char character : title)
-        name +=
-            character == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+        name += character == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
     return name;
 }
 
@@ -90,8 +89,7 @@ bool Tour::Play(const std::string& drawing) {
 }
 
 // True: the edit changed something, and undo took all of it back.
-bool Tour::EditAndUndo(const std::string& changed, const std::string& undone,
-                       const std::function<void()>& edit) {
+bool Tour::EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit) {
     const Document& document = *m_frame.GetDocument();
     const std::vector<GraphicStruct*> all = document.Selectable();
     const PropertySnapshot before(document.Drawing(), all);
@@ -212,8 +210,7 @@ void Tour::EditAllPages() {
                     [this](HWND sheet) {
                         for (const std::string& title : PageTitles(sheet)) {
                             OpenPage(sheet, title);
-                            if (const PageEdit* page = FindPageEdit(title))
-                                page->edit(m_user, ActivePageOf(sheet));
+                            if (const PageEdit* page = FindPageEdit(title)) page->edit(m_user, ActivePageOf(sheet));
                             TakePicture("all-" + FileNameOf(title));
                         }
                         Report("OK.");
@@ -319,8 +316,7 @@ void Tour::PickStyle(HWND page) {
     int wanted = -1;
     for (int i = count - 1; i >= 0; --i) { // the first one with dashes; else any
         if (i == now) continue;
-        const bool dashed =
-            ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
+        const bool dashed = ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
         if (dashed || wanted < 0) wanted = i;
     }
     if (wanted < 0) return Report("  no other line style is listed");

@@ -1,6 +1,7 @@
-// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the sheet, takes it
-// back and makes it again, makes a style by the wizard, selects all and visits every page, saves a copy, and shows the pane and
-// the layers; all by keys and mouse messages, with a picture of each station and a report of what changed.
+// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the
+// sheet, takes it back and makes it again, makes a style by the wizard, selects all and visits every page, saves a
+// copy, and shows the pane and the layers; all by keys and mouse messages, with a picture of each station and a report
+// of what changed.
 #pragma once
 
 #include <functional>
@@ -25,8 +26,7 @@ private:
     void Open(const std::string& drawing);
     bool SelectVariedSet();
     void ShowClosely(const struct WorldBox& box);
-    bool EditAndUndo(const std::string& changed, const std::string& undone,
-                     const std::function<void()>& edit);
+    bool EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit);
     void MakeStyle();
     void EditAllPages();
     void SaveCopy();

@@ -1,7 +1,7 @@
 // Finds a part of a drawing that is worth a look.
 //
-// The drawing is cut into square cells of several sizes, each grid once more shifted by half a cell. A graphic counts in a
-// cell that it lies in wholly. Of the cells with few enough graphics to be seen one by one, the one with the most
+// The drawing is cut into square cells of several sizes, each grid once more shifted by half a cell. A graphic counts
+// in a cell that it lies in wholly. Of the cells with few enough graphics to be seen one by one, the one with the most
 // different looks wins, then the larger one.
 
 #include "demo/tour/varied_window.h"
@@ -36,8 +36,7 @@ struct Cell {
 
 bool HasPenPage(GraphicStruct* graphic) {
     if (graphic->bType == kGraphicPenBrush) return true;
-    return graphic->bType == kGraphicVertices && !::GraphicGetIsGroup(graphic) &&
-           !(graphic->dwFlags & kFlagNoPenBrush);
+    return graphic->bType == kGraphicVertices && !::GraphicGetIsGroup(graphic) && !(graphic->dwFlags & kFlagNoPenBrush);
 }
 
 std::vector<Item> ItemsOf(const Document& document) {
@@ -90,8 +89,7 @@ std::optional<WorldBox> FindVariedWindow(const Document& document) {
         for (const double shift : {0.0, size / 2}) {
             const WorldBox grid = {all.x1 - shift, all.y1 - shift, all.x2, all.y2};
             for (const auto& [place, cell] : Fill(items, grid, size)) {
-                if (cell.graphics < kFewest || cell.graphics > kMost || cell.looks.size() <= mostLooks)
-                    continue;
+                if (cell.graphics < kFewest || cell.graphics > kMost || cell.looks.size() <= mostLooks) continue;
                 mostLooks = cell.looks.size();
                 best = cell.box;
             }

@@ -1,5 +1,5 @@
-// Which part of a drawing a window shows: a viewport of the database, and the road between drawing units and device pixels
-// of the window's client area.
+// Which part of a drawing a window shows: a viewport of the database, and the road between drawing units and device
+// pixels of the window's client area.
 #pragma once
 
 #include <afxgdi.h>

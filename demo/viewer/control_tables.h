@@ -1,5 +1,5 @@
-// The host's half of the talk with the library's style controls: a control that has come to life asks the main window for
-// its table, and gets it.
+// The host's half of the talk with the library's style controls: a control that has come to life asks the main window
+// for its table, and gets it.
 #pragma once
 
 #include <afxwin.h>

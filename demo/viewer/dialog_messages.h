@@ -1,5 +1,5 @@
-// Sees the messages of this thread that a dialog is about to take for itself, before it does: the way to keys of the main
-// window that are to hold in a sheet too.
+// Sees the messages of this thread that a dialog is about to take for itself, before it does: the way to keys of the
+// main window that are to hold in a sheet too.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,5 @@
-// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, undo and redo.
+// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, undo and
+// redo.
 #pragma once
 
 #include <cstdint>
@@ -35,18 +36,19 @@ public:
     // The share done; false gives the task up.
     using Progress = std::function<bool(int permille)>;
 
-    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled; the drawing
-    // that was current then still is.
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled;
+    // the drawing that was current then still is.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
 
     const std::string& Path() const { return m_path; }
     std::string Name() const; // the path without its folders
 
-    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count too.
+    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count
+    // too.
     bool IsModified() const;
-    // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has changed the
-    // file that it was opened from; overChanged: writes all the same. Throws SaveError
-    // or Cancelled, with nothing written either.
+    // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has
+    // changed the file that it was opened from; overChanged: writes all the same. Throws SaveError or Cancelled, with
+    // nothing written either.
     bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
     // What was left out of the drawing when it was opened, one line each.
@@ -74,8 +76,8 @@ public:
     int Change(const std::function<void()>& change);
     // The same; with false from the change all is at once as if it had never been.
     int Attempt(const std::function<bool()>& change);
-    // For a window that stays open: what it changes from here on, outside of Change and Attempt, gathers until it is taken as
-    // one step, or dropped. Change, Attempt, Undo and Redo make a step of it first.
+    // For a window that stays open: what it changes from here on, outside of Change and Attempt, gathers until it is
+    // taken as one step, or dropped. Change, Attempt, Undo and Redo make a step of it first.
     void BeginGathering();
     void EndGathering();
     int TakeGathered(); // graphics that the step has changed; with 0 there is none

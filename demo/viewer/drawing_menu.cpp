@@ -13,8 +13,7 @@ std::string ItemText(const std::string& text) {
 
 } // namespace
 
-void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts,
-              const char* none) {
+void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts, const char* none) {
     while (::DeleteMenu(menu, 0, MF_BYPOSITION)) {
     }
     UINT command = commands.first;

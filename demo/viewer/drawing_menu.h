@@ -13,7 +13,6 @@ struct CommandRange {
     bool Contains(UINT command) const { return first <= command && command <= last; }
 };
 
-// Replaces the items. Ampersands of the texts are shown; texts beyond the range are left out; without texts `none` stands
-// there, gray.
-void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts,
-              const char* none);
+// Replaces the items. Ampersands of the texts are shown; texts beyond the range are left out; without texts `none`
+// stands there, gray.
+void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts, const char* none);

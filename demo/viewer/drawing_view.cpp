@@ -318,13 +318,12 @@ void CDrawingView::OnPaint() {
     if (!m_picture.Dc()) return;
     MemoryPicture frame; // so that the band does not flicker
     if (!m_band.IsActive() || !frame.Resize(area.Size())) {
-        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_picture.Dc(), area.left,
-                 area.top, SRCCOPY);
+        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top,
+                 SRCCOPY);
         return;
     }
     ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top, SRCCOPY);
     ::SetViewportOrgEx(frame.Dc(), -area.left, -area.top, nullptr);
     m_band.Draw(frame.Dc());
-    ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), frame.Dc(), area.left, area.top,
-             SRCCOPY);
+    ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), frame.Dc(), area.left, area.top, SRCCOPY);
 }

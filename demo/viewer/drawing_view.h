@@ -1,6 +1,5 @@
-// The window that shows a drawing: zooming, panning, selecting. It changes nothing in the drawing; what is selected, and
-// what the user wants to edit, it tells its client.
-// The window is painted in one go from a picture in memory.
+// The window that shows a drawing: zooming, panning, selecting. It changes nothing in the drawing; what is selected,
+// and what the user wants to edit, it tells its client. The window is painted in one go from a picture in memory.
 #pragma once
 
 #include <afxwin.h>
@@ -58,9 +57,7 @@ public:
     bool IsAtRest() const { return !m_picture.IsMoved(); }
 
     void SelectAll();
-    void SelectOnly(const std::vector<GraphicStruct*>& graphics) {
-        Select(graphics, Selection::Way::Replace);
-    }
+    void SelectOnly(const std::vector<GraphicStruct*>& graphics) { Select(graphics, Selection::Way::Replace); }
     void SelectNext(bool forward);
     void ClearSelection();
 

@@ -101,8 +101,8 @@ std::string FaultOf(HWND window, DrawingStruct* drawing) {
         ::UnitsTextToNumericEx(drawing->pUnits, field->unit, 0, text.c_str(), &length))
         return "";
     const HWND combo = ::GetParent(window);
-    const LRESULT item = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                        reinterpret_cast<LPARAM>(text.c_str()));
+    const LRESULT item =
+        ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
     return item >= 0 ? "" : std::string(field->name) + ": \"" + text + "\" is not a length";
 }
 
@@ -113,9 +113,8 @@ FieldHints::~FieldHints() {
 }
 
 bool FieldHints::Create(HWND owner) {
-    m_tip =
-        ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                          0, 0, 0, owner, nullptr, nullptr, nullptr);
+    m_tip = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
+                              0, owner, nullptr, nullptr, nullptr);
     return m_tip != nullptr;
 }
 

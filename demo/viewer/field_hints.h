@@ -1,6 +1,6 @@
-// What the selected graphics have in a field of the sheet, also where it only shows that they differ: as text for the status bar
-// when the field gets the focus, and as a tip beside the pointer. In a field of a length the status bar says so while the text
-// is not a length, which the page refuses.
+// What the selected graphics have in a field of the sheet, also where it only shows that they differ: as text for the
+// status bar when the field gets the focus, and as a tip beside the pointer. In a field of a length the status bar says
+// so while the text is not a length, which the page refuses.
 #pragma once
 
 #include <afxwin.h>

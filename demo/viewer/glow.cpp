@@ -67,8 +67,7 @@ void Glow::Spread() {
         for (int x = 0; x < width; ++x) {
             if ((pixels[x] & 0xFFFFFF) == kGroundPixel) continue;
             drawn[x] = 1;
-            std::fill(spread + std::max(0, x - kRadius), spread + std::min(width, x + kRadius + 1),
-                      uint8_t{1});
+            std::fill(spread + std::max(0, x - kRadius), spread + std::min(width, x + kRadius + 1), uint8_t{1});
         }
     }
 }

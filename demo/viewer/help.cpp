@@ -30,8 +30,7 @@ constexpr Topic kTopics[] = {{IDD_GENERAL_PAGE, "general"},
 std::wstring GuidePath() {
     std::wstring path(MAX_PATH, L'\0');
     DWORD length = 0;
-    while ((length = ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) ==
-           path.size())
+    while ((length = ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) == path.size())
         path.resize(2 * path.size());
     path.resize(length);
     return path.substr(0, path.find_last_of(L'\\') + 1) + kGuide;
@@ -49,15 +48,13 @@ std::wstring UrlOf(const std::wstring& path, const std::string& topic) {
 std::wstring Browser() {
     wchar_t program[MAX_PATH] = L"";
     DWORD size = MAX_PATH;
-    const HRESULT result =
-        ::AssocQueryStringW(ASSOCF_NONE, ASSOCSTR_EXECUTABLE, L".html", L"open", program, &size);
+    const HRESULT result = ::AssocQueryStringW(ASSOCF_NONE, ASSOCSTR_EXECUTABLE, L".html", L"open", program, &size);
     return SUCCEEDED(result) ? program : L"";
 }
 
 bool Start(HWND owner, const std::wstring& file, const wchar_t* parameters) {
     constexpr INT_PTR kLastError = 32;
-    const HINSTANCE result =
-        ::ShellExecuteW(owner, nullptr, file.c_str(), parameters, nullptr, SW_SHOWNORMAL);
+    const HINSTANCE result = ::ShellExecuteW(owner, nullptr, file.c_str(), parameters, nullptr, SW_SHOWNORMAL);
     return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 

@@ -13,8 +13,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 int MillisecondsSince(Clock::time_point start) {
-    return static_cast<int>(
-        std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count());
+    return static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count());
 }
 
 class Clipped {
@@ -35,8 +34,7 @@ struct Span {
 // position: of the picture's pixel 0 in the window; scale: window pixels of one of its pixels; length: of both.
 Span VisibleSpan(double position, double scale, int length) {
     const double first = std::clamp(std::floor(-position / scale), 0.0, static_cast<double>(length));
-    const double last =
-        std::clamp(std::ceil((length - position) / scale), first, static_cast<double>(length));
+    const double last = std::clamp(std::ceil((length - position) / scale), first, static_cast<double>(length));
     const int begin = static_cast<int>(std::lround(position + first * scale)),
               end = static_cast<int>(std::lround(position + last * scale));
     return {static_cast<int>(first), static_cast<int>(last - first), begin, end - begin};
@@ -49,8 +47,7 @@ std::vector<CRect> Around(const CRect& inner, const CRect& all) {
     std::vector<CRect> gaps;
     for (const CRect& gap :
          {CRect(all.left, all.top, all.right, seen.top), CRect(all.left, seen.bottom, all.right, all.bottom),
-          CRect(all.left, seen.top, seen.left, seen.bottom),
-          CRect(seen.right, seen.top, all.right, seen.bottom)})
+          CRect(all.left, seen.top, seen.left, seen.bottom), CRect(seen.right, seen.top, all.right, seen.bottom)})
         if (!gap.IsRectEmpty()) gaps.push_back(gap);
     return gaps;
 }

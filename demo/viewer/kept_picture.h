@@ -1,8 +1,9 @@
 // What a view shows of a drawing, as a picture in memory: the drawing with the glow of its selection.
 //
-// A picture that is drawn in less than a frame's time is drawn anew whenever the camera moves. One that takes longer moves along:
-// it is shifted or stretched, and what comes in at the edges is drawn as far as a frame has time. At rest it is drawn anew
-// beside the one that is shown, in as many turns as its user likes, and is then the same as one that has never moved.
+// A picture that is drawn in less than a frame's time is drawn anew whenever the camera moves. One that takes longer
+// moves along: it is shifted or stretched, and what comes in at the edges is drawn as far as a frame has time. At rest
+// it is drawn anew beside the one that is shown, in as many turns as its user likes, and is then the same as one that
+// has never moved.
 #pragma once
 
 #include <chrono>

@@ -12,8 +12,7 @@ namespace {
 
 class LayerChange : public UndoableChange {
 public:
-    LayerChange(LayerStates before, LayerStates after)
-        : m_before(std::move(before)), m_after(std::move(after)) {}
+    LayerChange(LayerStates before, LayerStates after) : m_before(std::move(before)), m_after(std::move(after)) {}
     void Undo() override { m_before.Restore(); }
     void Redo() override { m_after.Restore(); }
     std::string What() const override { return "layers"; }
@@ -31,8 +30,7 @@ LayerStates::LayerStates(DrawingStruct* drawing) : m_drawing(drawing) {
 
 void LayerStates::Restore() const {
     for (const State& state : m_states)
-        ::LayerSet(m_drawing, state.layer, state.color, state.flags,
-                   ::LayerGetLineStyle(m_drawing, state.layer));
+        ::LayerSet(m_drawing, state.layer, state.color, state.flags, ::LayerGetLineStyle(m_drawing, state.layer));
 }
 
 std::unique_ptr<UndoableChange> LayerStates::ChangeSince(LayerStates before) {

@@ -180,8 +180,7 @@ void CLayersDialog::Set(size_t layer, size_t state, bool on) {
 
 // All of them are so afterwards, unless all have been before.
 void CLayersDialog::Toggle(size_t state, const std::vector<size_t>& layers) {
-    const bool all =
-        std::all_of(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
+    const bool all = std::all_of(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
     for (const size_t layer : layers)
         Set(layer, state, !all);
     ::InvalidateRect(m_list, nullptr, FALSE);
@@ -201,8 +200,7 @@ std::vector<size_t> CLayersDialog::SelectedLayers() const {
 void CLayersDialog::ShowStates() {
     const std::vector<size_t> layers = SelectedLayers();
     for (size_t state = 0; state < kStateCount; ++state) {
-        const auto count =
-            std::count_if(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
+        const auto count = std::count_if(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
         const bool all = count == static_cast<std::ptrdiff_t>(layers.size());
         const HWND box = ::GetDlgItem(m_hWnd, static_cast<int>(kStates[state].box));
         ::SendMessageA(box, BM_SETCHECK, !count ? BST_UNCHECKED : all ? BST_CHECKED : BST_INDETERMINATE, 0);
@@ -228,8 +226,7 @@ BOOL CLayersDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     case LVN_GETDISPINFOA: {
         LVITEMA& item = reinterpret_cast<NMLVDISPINFOA*>(lParam)->item;
         if ((item.mask & LVIF_TEXT) && static_cast<size_t>(item.iItem) < m_rows.size())
-            ::lstrcpynA(item.pszText,
-                        CellText(m_rows[static_cast<size_t>(item.iItem)], item.iSubItem).c_str(),
+            ::lstrcpynA(item.pszText, CellText(m_rows[static_cast<size_t>(item.iItem)], item.iSubItem).c_str(),
                         item.cchTextMax);
         return TRUE;
     }

@@ -1,6 +1,7 @@
-// The dialog of layers: which are on, frozen or locked, for one or several at a time. The drawing shows each change at once;
-// Cancel undoes all of them. A click on a column's title sorts by it, and the list shows the layers whose names contain the text
-// in the Find field. The list asks for the rows that it shows, so that thousands of layers are no burden.
+// The dialog of layers: which are on, frozen or locked, for one or several at a time. The drawing shows each change at
+// once; Cancel undoes all of them. A click on a column's title sorts by it, and the list shows the layers whose names
+// contain the text in the Find field. The list asks for the rows that it shows, so that thousands of layers are no
+// burden.
 #pragma once
 
 #include <afxwin.h>

@@ -71,8 +71,8 @@ std::vector<KindCount> CountKinds(const Graphics& graphics) {
 }
 
 std::string KindText(const KindCount& kind) {
-    const auto* name = std::find_if(std::begin(kKinds), std::end(kKinds),
-                                    [&](const KindName& row) { return row.kind == kind.kind; });
+    const auto* name =
+        std::find_if(std::begin(kKinds), std::end(kKinds), [&](const KindName& row) { return row.kind == kind.kind; });
     return std::to_string(kind.count) + " " + name->one + (kind.count == 1 ? "" : "s");
 }
 

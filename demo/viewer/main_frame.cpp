@@ -53,8 +53,7 @@ bool IsOfLooks(UINT command) {
 int DpiOf(HWND window) {
     using Function = UINT(WINAPI*)(HWND);
     const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
-    if (found && window)
-        return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
+    if (found && window) return static_cast<int>(reinterpret_cast<Function>(reinterpret_cast<void*>(found))(window));
     const orlo::WindowDC screen(nullptr);
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
@@ -224,8 +223,8 @@ void CMainFrame::ShowSettings() {
 void CMainFrame::ShowFirst(int show) {
     WINDOWPLACEMENT place = {};
     place.length = sizeof place;
-    long* const edges[] = {&place.rcNormalPosition.left, &place.rcNormalPosition.top,
-                           &place.rcNormalPosition.right, &place.rcNormalPosition.bottom};
+    long* const edges[] = {&place.rcNormalPosition.left, &place.rcNormalPosition.top, &place.rcNormalPosition.right,
+                           &place.rcNormalPosition.bottom};
     bool known = true;
     for (size_t i = 0; i < std::size(edges); ++i) {
         const std::optional<int> edge = Settings::Number(kSettingWindow[i]);
@@ -411,8 +410,7 @@ void CMainFrame::OnSelectKind(UINT command) {
 }
 
 std::vector<LayerCount> CMainFrame::Layers() const {
-    return m_document ? CountLayers(m_document->Drawing(), m_document->Selectable())
-                      : std::vector<LayerCount>();
+    return m_document ? CountLayers(m_document->Drawing(), m_document->Selectable()) : std::vector<LayerCount>();
 }
 
 void CMainFrame::OnSelectLayer(UINT command) {
@@ -447,8 +445,7 @@ void CMainFrame::ShowSelected() {
 }
 
 void CMainFrame::OnPointerMoved(WorldPoint point) {
-    if (m_document)
-        m_status.ShowPointer(m_document->LengthText(point.x) + ",  " + m_document->LengthText(point.y));
+    if (m_document) m_status.ShowPointer(m_document->LengthText(point.x) + ",  " + m_document->LengthText(point.y));
 }
 
 // ---- Looking
@@ -557,8 +554,7 @@ bool CMainFrame::OpenMenuByKey(const MSG& message) {
 
 // A field takes back its own typing first; after that Ctrl+Z is the drawing's.
 bool CMainFrame::IsKeyOfFocus(const MSG& message) const {
-    const bool isUndo =
-        message.message == WM_KEYDOWN && message.wParam == 'Z' && ::GetKeyState(VK_SHIFT) >= 0;
+    const bool isUndo = message.message == WM_KEYDOWN && message.wParam == 'Z' && ::GetKeyState(VK_SHIFT) >= 0;
     return isUndo && ::SendMessageA(message.hwnd, EM_CANUNDO, 0, 0);
 }
 

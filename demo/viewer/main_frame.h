@@ -24,15 +24,17 @@ public:
 
     // False: no window could be made, and the object is gone.
     BOOL Create();
-    // Shows the window where the user has left it in an earlier session. show: the system's wish, SW_SHOWNORMAL or another.
+    // Shows the window where the user has left it in an earlier session. show: the system's wish, SW_SHOWNORMAL or
+    // another.
     void ShowFirst(int show);
 
-    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that one, which
-    // it also keeps if the user thinks better of it for the sake of unsaved changes.
+    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that
+    // one, which it also keeps if the user thinks better of it for the sake of unsaved changes.
     bool Open(const std::string& path);
     // Shows a drawing that has been opened already, whatever becomes of the one before.
     void Show(std::unique_ptr<Document> document);
-    // Saves the drawing to that file, which it belongs to from then on. False: the user has been told why not, or did not want it.
+    // Saves the drawing to that file, which it belongs to from then on. False: the user has been told why not, or did
+    // not want it.
     bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }

@@ -77,8 +77,7 @@ void CMainFrame::Show(std::unique_ptr<Document> document) {
 void CMainFrame::ShowWhatOpened() {
     std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
     const std::vector<std::string>& findings = m_document->Findings();
-    if (findings.size() > 1)
-        text += "; " + Counted(static_cast<int>(findings.size()), "warning") + " (File, Warnings)";
+    if (findings.size() > 1) text += "; " + Counted(static_cast<int>(findings.size()), "warning") + " (File, Warnings)";
     if (!findings.empty()) text += "; " + findings.front();
     m_status.ShowMessage(text);
 }
@@ -126,8 +125,7 @@ void CMainFrame::OnRecentFile(UINT command) {
 // ---- Saving
 
 bool CMainFrame::Save(const std::string& path) {
-    constexpr const char* kChanged =
-        "\n\nAnother program has changed this file since it was opened. Overwrite it?";
+    constexpr const char* kChanged = "\n\nAnother program has changed this file since it was opened. Overwrite it?";
     if (!m_pane.Apply()) return false;
     try {
         if (!SaveTo(path, false)) {
@@ -160,8 +158,8 @@ void CMainFrame::OnFileSave() {
 
 void CMainFrame::OnFileSaveAs() {
     if (!CanDo(ID_FILE_SAVE_AS)) return;
-    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(),
-                       OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kFilter, this);
+    CFileDialog dialog(FALSE, "dxf", SystemText(m_document->Path()).c_str(), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                       kFilter, this);
     if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
 }
 

@@ -63,8 +63,7 @@ BOOL CPropertiesPane::Create(CWnd* parent, UINT id) {
     const HBRUSH face = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     const LPCSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_ARROW), face);
     return CWnd::Create(windowClass, "Properties", WS_CHILD | WS_CLIPCHILDREN, CRect(), parent, id) &&
-           m_nothing.Create("STATIC", "Nothing is selected", WS_CHILD | SS_NOPREFIX, CRect(), this,
-                            kNothingId);
+           m_nothing.Create("STATIC", "Nothing is selected", WS_CHILD | SS_NOPREFIX, CRect(), this, kNothingId);
 }
 
 void CPropertiesPane::OnSize(UINT, int cx, int) {
@@ -253,8 +252,8 @@ void CPropertiesPane::AddButtons() {
     for (const Button& button : kButtons) {
         const DWORD kind = button.id == IDOK ? WS_GROUP | BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
         const HWND window = ::CreateWindowExA(
-            0, "BUTTON", button.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx,
-            size.cy, sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
+            0, "BUTTON", button.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx, size.cy,
+            sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
         ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
         place.y += size.cy + gap.cy;
     }
@@ -291,8 +290,8 @@ void CPropertiesPane::Reset() {
 
 // ---- Keys and buttons
 
-LRESULT CALLBACK CPropertiesPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
-                                                 UINT_PTR id, DWORD_PTR pane) {
+LRESULT CALLBACK CPropertiesPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                                 DWORD_PTR pane) {
     const auto* self = reinterpret_cast<CPropertiesPane*>(pane);
     if (message == WM_NCDESTROY) ::RemoveWindowSubclass(sheet, OnSheetMessage, id);
     const auto control = reinterpret_cast<HWND>(lParam);

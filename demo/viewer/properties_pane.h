@@ -1,8 +1,8 @@
 // The pane beside the drawing: the library's sheet, modeless, over the selection, with an Apply button of its own.
 //
-// A page writes when it is left, by Apply or for another page; all that was written since the last Apply becomes one step of
-// undo with the next one. Escape and Reset take it back. What was typed is applied by whatever comes next, another selection
-// or the end of the window: Apply says whether that may go on.
+// A page writes when it is left, by Apply or for another page; all that was written since the last Apply becomes one
+// step of undo with the next one. Escape and Reset take it back. What was typed is applied by whatever comes next,
+// another selection or the end of the window: Apply says whether that may go on.
 #pragma once
 
 #include <afxwin.h>
@@ -80,8 +80,8 @@ private:
     void ArrangeScrollBars();
     void Scroll(int bar, int code);
     void ScrollBy(CSize pixels);
-    static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam,
-                                           UINT_PTR id, DWORD_PTR pane);
+    static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                           DWORD_PTR pane);
 
     Applied m_applied;
     Document* m_document = nullptr;

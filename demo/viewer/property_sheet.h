@@ -32,8 +32,8 @@ public:
     CGraphicPropertySheet* get() const { return m_sheet.get(); }
     CGraphicPropertySheet* operator->() const { return get(); }
 
-    // Before the sheet opens: it will be on the page that the user has chosen last, in this session or an earlier one, if it has
-    // that page.
+    // Before the sheet opens: it will be on the page that the user has chosen last, in this session or an earlier one,
+    // if it has that page.
     void ChooseRememberedPage();
     // Remembers the page that is in front now, if it is not the one that the sheet has opened on.
     void RememberPage() const;

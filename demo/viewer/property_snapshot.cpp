@@ -76,8 +76,7 @@ std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double wid
     if (IsWorldScaled(graphic))
         ::DrawingStdNumericToText(drawing, width, text, sizeof text, 0);
     else
-        ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetersPerInch, text,
-                               sizeof text, 0, 1);
+        ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, width * kMillimetersPerInch, text, sizeof text, 0, 1);
     return text[0] ? text : Number(width);
 }
 
@@ -143,8 +142,8 @@ std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const Prop
     return "";
 }
 
-std::string ShownText(DrawingStruct* drawing, GraphicStruct* example, const PropertyInfo& property,
-                      const Value& value, uint32_t mask) {
+std::string ShownText(DrawingStruct* drawing, GraphicStruct* example, const PropertyInfo& property, const Value& value,
+                      uint32_t mask) {
     if (property.meaning == kMeansBits) {
         const uint32_t bits = std::get<uint32_t>(std::get<0>(value));
         const bool isOne = (mask & (mask - 1)) == 0;
@@ -152,11 +151,9 @@ std::string ShownText(DrawingStruct* drawing, GraphicStruct* example, const Prop
     }
     char buffer[64] = "";
     const double* real = std::get_if<double>(&std::get<0>(value));
-    if (real && property.meaning == kMeansLength &&
-        ::DrawingStdNumericToText(drawing, *real, buffer, sizeof buffer, 0))
+    if (real && property.meaning == kMeansLength && ::DrawingStdNumericToText(drawing, *real, buffer, sizeof buffer, 0))
         return buffer;
-    if (real && property.meaning == kMeansAngle &&
-        ::DrawingStdAngleToText(drawing, *real, buffer, sizeof buffer, 0))
+    if (real && property.meaning == kMeansAngle && ::DrawingStdAngleToText(drawing, *real, buffer, sizeof buffer, 0))
         return buffer;
     const std::string text = ValueText(drawing, example, property);
     const uint32_t layerColor = std::get<1>(value);

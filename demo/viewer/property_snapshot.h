@@ -22,8 +22,8 @@ struct ValueCount {
     int count;
 };
 
-// The values that graphics have of a property (of its bits in the mask), those that occur most first. A color by layer is told
-// with the layer's.
+// The values that graphics have of a property (of its bits in the mask), those that occur most first. A color by layer
+// is told with the layer's.
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
                                     const char* property, uint32_t mask = ~uint32_t{0});
 // The name of a color, or its parts: "255,128,0".

@@ -33,9 +33,9 @@ void Write(const std::vector<std::string>& files) {
 }
 
 std::vector<std::string> Without(std::vector<std::string> files, const std::string& path) {
-    files.erase(std::remove_if(files.begin(), files.end(),
-                               [&](const std::string& file) { return IsSameFile(file, path); }),
-                files.end());
+    files.erase(
+        std::remove_if(files.begin(), files.end(), [&](const std::string& file) { return IsSameFile(file, path); }),
+        files.end());
     return files;
 }
 
@@ -43,13 +43,13 @@ std::vector<std::string> Without(std::vector<std::string> files, const std::stri
 
 std::vector<std::string> RecentFiles::List() {
     DWORD bytes = 0;
-    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr,
-                       nullptr, &bytes))
+    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr, nullptr,
+                       &bytes))
         return {};
     std::wstring texts(bytes / sizeof(wchar_t) + 1, L'\0');
     bytes = static_cast<DWORD>(texts.size() * sizeof(wchar_t));
-    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr,
-                       texts.data(), &bytes))
+    if (::RegGetValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, RRF_RT_REG_MULTI_SZ, nullptr, texts.data(),
+                       &bytes))
         return {};
     std::vector<std::string> files;
     for (size_t begin = 0; files.size() < kMost && begin < texts.size() && texts[begin];) {

@@ -1,5 +1,5 @@
-// The frame that is drawn out with the mouse to select by window: to the right takes what lies inside (blue), to the left
-// also what it touches (green, dashed).
+// The frame that is drawn out with the mouse to select by window: to the right takes what lies inside (blue), to the
+// left also what it touches (green, dashed).
 #pragma once
 
 #include <afxgdi.h>

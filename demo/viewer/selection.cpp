@@ -40,8 +40,7 @@ void Selection::Clear() {
 void Selection::Apply(const std::vector<GraphicStruct*>& graphics, Way way) {
     if (way == Way::Replace) Clear();
     for (GraphicStruct* graphic : graphics) {
-        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic)))
-            Note(graphic);
+        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic))) Note(graphic);
     }
 }
 

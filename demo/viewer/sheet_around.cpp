@@ -5,8 +5,7 @@
 COrloPropertySheet* SheetAround(HWND window) {
     for (; window; window = ::GetAncestor(window, GA_PARENT)) {
         CWnd* found = CWnd::FromHandlePermanent(window);
-        if (found && found->IsKindOf(RUNTIME_CLASS(COrloPropertySheet)))
-            return static_cast<COrloPropertySheet*>(found);
+        if (found && found->IsKindOf(RUNTIME_CLASS(COrloPropertySheet))) return static_cast<COrloPropertySheet*>(found);
     }
     return nullptr;
 }

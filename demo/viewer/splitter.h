@@ -8,7 +8,8 @@
 class CSplitter : public CWnd {
     DECLARE_DYNAMIC(CSplitter)
 public:
-    // Called with the left edge that the user wants, in client coordinates of the parent, during and (done) after a drag.
+    // Called with the left edge that the user wants, in client coordinates of the parent, during and (done) after a
+    // drag.
     using Dragged = std::function<void(int left, bool done)>;
 
     explicit CSplitter(Dragged dragged);

@@ -77,8 +77,7 @@ void CStatusLine::SetDpi(int dpi) {
     NONCLIENTMETRICSA metrics = {};
     metrics.cbSize = sizeof metrics;
     const orlo::WindowDC screen(nullptr);
-    if (!::SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) || !screen.get())
-        return;
+    if (!::SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) || !screen.get()) return;
     m_dpi = dpi;
     LOGFONTA& font = metrics.lfStatusFont; // for the system's resolution
     font.lfHeight = ::MulDiv(font.lfHeight, dpi, ::GetDeviceCaps(screen.get(), LOGPIXELSY));

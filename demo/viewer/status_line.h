@@ -1,5 +1,5 @@
-// The bottom line of the main window: a message (or the progress of a long task), the kinds of the selected graphics, their
-// pen widths, the pointer's place.
+// The bottom line of the main window: a message (or the progress of a long task), the kinds of the selected graphics,
+// their pen widths, the pointer's place.
 #pragma once
 
 #include <afxcmn.h>

@@ -28,8 +28,7 @@ using orlo::host::WriteProperty;
 constexpr const char* kTree = "Graphic styles";
 
 using Names = std::vector<const char*>;
-const Names kPen = {kPropPenColor, kPropPenStyle,    kPropPenScale,
-                    kPropPenWidth, kPropScaleSystem, kPropPenAlignment};
+const Names kPen = {kPropPenColor, kPropPenStyle, kPropPenScale, kPropPenWidth, kPropScaleSystem, kPropPenAlignment};
 const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
                       kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
 const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
@@ -150,8 +149,7 @@ std::string StyleBook::WhyNot(const std::string& name) const {
         ::DrawCoreLoadString(id, reserved, sizeof reserved);
         if (::_stricmp(name.c_str(), reserved) == 0) return "The name \"" + name + "\" is reserved.";
     }
-    if (::BlocksFindBlock(Table(), name.c_str()))
-        return "There is a style or block \"" + name + "\" already.";
+    if (::BlocksFindBlock(Table(), name.c_str())) return "There is a style or block \"" + name + "\" already.";
     return "";
 }
 

@@ -1,7 +1,7 @@
 // The styles of an open drawing, and which of them is the current one.
 //
-// A style is a block of the table "_Blocks_" whose contents carry the name of the demo's style tree. Its contents are two
-// samples, a shape and a text, whose attributes are the style's; a sheet over the contents edits them.
+// A style is a block of the table "_Blocks_" whose contents carry the name of the demo's style tree. Its contents are
+// two samples, a shape and a text, whose attributes are the style's; a sheet over the contents edits them.
 #pragma once
 
 #include <cstdint>
@@ -60,8 +60,8 @@ public:
     uint16_t Find(const std::string& name) const; // 0: there is no such style
     Parts PartsOf(uint16_t id) const { return m_parts.at(id); }
     void Remove(uint16_t id);
-    // Adds a style that has been removed. Its identifier is a new one: RenumberGraphics gives it to graphics that undo has put
-    // into the style under a former one.
+    // Adds a style that has been removed. Its identifier is a new one: RenumberGraphics gives it to graphics that undo
+    // has put into the style under a former one.
     void AddAgain(const std::string& name, GraphicStruct* copy, Parts parts);
     void RenumberGraphics() const;
     // Gives the graphics the current style's parts.

@@ -83,8 +83,7 @@ std::string EditStyles(CWnd* owner, Document& document) {
 }
 
 std::string ApplyStyle(Document& document) {
-    const int changed =
-        document.Change([&] { document.Styles().ApplyCurrent(document.Selected().Members()); });
+    const int changed = document.Change([&] { document.Styles().ApplyCurrent(document.Selected().Members()); });
     return std::to_string(changed) + (changed == 1 ? " graphic" : " graphics") + " put into style " +
            Quoted(document, document.Styles().Current());
 }

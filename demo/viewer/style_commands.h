@@ -1,5 +1,5 @@
-// What the menu of styles does: the host's part of making, choosing, editing, applying and deleting styles. Each command
-// gives the text for the status line, empty if there is nothing to tell.
+// What the menu of styles does: the host's part of making, choosing, editing, applying and deleting styles. Each
+// command gives the text for the status line, empty if there is nothing to tell.
 #pragma once
 
 #include <afxwin.h>

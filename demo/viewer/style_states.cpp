@@ -9,8 +9,7 @@ namespace {
 
 class StyleChange : public UndoableChange {
 public:
-    StyleChange(StyleStates before, StyleStates after)
-        : m_before(std::move(before)), m_after(std::move(after)) {}
+    StyleChange(StyleStates before, StyleStates after) : m_before(std::move(before)), m_after(std::move(after)) {}
     void Undo() override { m_before.Restore(); }
     void Redo() override { m_after.Restore(); }
     std::string What() const override { return "styles"; }

@@ -15,8 +15,8 @@ public:
 
     void Restore() const;
 
-    // Returns the change of the styles since they were so; null if at most another one has become the current style. The
-    // StyleBook outlives the result.
+    // Returns the change of the styles since they were so; null if at most another one has become the current style.
+    // The StyleBook outlives the result.
     static std::unique_ptr<UndoableChange> ChangeSince(StyleStates before);
 
 private:

@@ -123,8 +123,7 @@ protected:
             "Style \"" + m_draft.name + "\"\r\n\r\n" +
             PartText(m_draft, "Pen", parts.pen, examples.pen, {kPropPenColor, kPropPenWidth, kPropPenStyle}) +
             PartText(m_draft, "Brush", parts.brush, examples.brush, {kPropBrushStyle, kPropBrushColor}) +
-            PartText(m_draft, "Text", parts.text, examples.text,
-                     {kPropTextFont, kPropTextSize, kPropPenColor});
+            PartText(m_draft, "Text", parts.text, examples.text, {kPropTextFont, kPropTextSize, kPropPenColor});
         SetDlgItemText(IDC_STYLE_SUMMARY, text.c_str());
         return TRUE;
     }

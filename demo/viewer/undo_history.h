@@ -1,5 +1,5 @@
-// The order of the user's steps in an open drawing: changes of graphics, which the database undoes, and changes of layers and
-// styles, which the viewer undoes itself.
+// The order of the user's steps in an open drawing: changes of graphics, which the database undoes, and changes of
+// layers and styles, which the viewer undoes itself.
 #pragma once
 
 #include <functional>
@@ -29,8 +29,8 @@ public:
     int UndoCount() const { return static_cast<int>(m_done.size()); }
     int RedoCount() const { return static_cast<int>(m_undone.size()); }
 
-    // Undoes or redoes the next step, by the function if it is one of the database. Returns the step, null for one of the
-    // database. There has to be one.
+    // Undoes or redoes the next step, by the function if it is one of the database. Returns the step, null for one of
+    // the database. There has to be one.
     const UndoableChange* Undo(const std::function<void()>& inDatabase);
     const UndoableChange* Redo(const std::function<void()>& inDatabase);
 

@@ -4,8 +4,7 @@
 
 #include "demo/viewer/resource.h"
 
-CWarningsDialog::CWarningsDialog(CWnd* owner, const std::vector<std::string>& warnings)
-    : CDialog(IDD_WARNINGS, owner) {
+CWarningsDialog::CWarningsDialog(CWnd* owner, const std::vector<std::string>& warnings) : CDialog(IDD_WARNINGS, owner) {
     for (const std::string& warning : warnings)
         m_text += warning + "\r\n";
 }

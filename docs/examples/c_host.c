@@ -31,8 +31,8 @@ int wmain(int count, wchar_t** arguments) {
     int result;
     if (drawing == NULL || OrloGetVersion() < ORLO_VERSION) return 2;
     AppSetCurrentDrawing(drawing);
-    window = CreateWindowA("STATIC", "Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 400, 300, NULL, NULL,
-                           NULL, NULL);
+    window =
+        CreateWindowA("STATIC", "Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 400, 300, NULL, NULL, NULL, NULL);
     result = ShowProperties(window, drawing);
     DestroyWindow(window);
     DrawingDispose(&drawing);

@@ -9,8 +9,8 @@
 uint16_t EditStyle(CWnd* owner, DrawingStruct* drawing, uint16_t style) {
     TableStruct* styles = BlocksFromDrawing(drawing);
     for (;;) {
-        const std::unique_ptr<CGraphicPropertySheet> sheet(InitGraphicPropertySheet(
-            owner, nullptr, drawing, BlockGetGraphic(styles, style), kWithStylePart));
+        const std::unique_ptr<CGraphicPropertySheet> sheet(
+            InitGraphicPropertySheet(owner, nullptr, drawing, BlockGetGraphic(styles, style), kWithStylePart));
         const int code = static_cast<int>(sheet->DoModal());
         if (code > kStyleChosenByOk) return static_cast<uint16_t>(code - kStyleChosenByOk);
         if (code > kStyleToDelete)

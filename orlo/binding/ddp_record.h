@@ -1,5 +1,5 @@
-// One pending write of a page. The map that holds it has 16-bit keys made from the member's address: members that share a
-// key are chained.
+// One pending write of a page. The map that holds it has 16-bit keys made from the member's address: members that share
+// a key are chained.
 #pragma once
 
 #include <afxcoll.h>

@@ -1,7 +1,7 @@
 // The indeterminate value, which means that the selected graphics differ: one for each member type.
 //
-// A merged member holds it when two graphics disagree; a member that still holds it at the write-back is skipped, so that
-// every graphic keeps its own value.
+// A merged member holds it when two graphics disagree; a member that still holds it at the write-back is skipped, so
+// that every graphic keeps its own value.
 #pragma once
 
 #include <afx.h>
@@ -10,9 +10,8 @@
 #include <cstdint>
 #include <cstring>
 
-constexpr int kIndeterminateCheck = 2; // the third state of a check box
-constexpr char kIndeterminateString[] =
-    "\xFF"; // of a CString, the whole text: one may begin so in a code page
+constexpr int kIndeterminateCheck = 2;                // the third state of a check box
+constexpr char kIndeterminateString[] = "\xFF";       // of a CString, the whole text: one may begin so in a code page
 constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or color
 
 // What a field shows for the marker. A text that reads so means no value.

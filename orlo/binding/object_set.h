@@ -7,8 +7,7 @@
 class ObjectSet {
 public:
     // Without a set it is empty.
-    ObjectSet(GraphicStruct* set, uint32_t filter, bool preview)
-        : m_set(set), m_filter(filter), m_preview(preview) {}
+    ObjectSet(GraphicStruct* set, uint32_t filter, bool preview) : m_set(set), m_filter(filter), m_preview(preview) {}
 
     // position is the caller's 32-bit word. Null at the end.
     GraphicStruct* First(void* position) const {

@@ -1,5 +1,5 @@
-// A named property of all graphics of a set, merged into one value or written from one. Knows neither pages nor units: values
-// move as the graphics store them.
+// A named property of all graphics of a set, merged into one value or written from one. Knows neither pages nor units:
+// values move as the graphics store them.
 //
 //   double width;
 //   if (Merge<Double>(set, "PenWidth", &width)) ...   // a graphic has it: the common value, or the marker
@@ -33,8 +33,7 @@ bool ForEachProperty(const ObjectSet& set, const char* name, Visit visit) {
     uint32_t position = 0;
     for (GraphicStruct* graphic = set.First(&position); graphic != nullptr; graphic = set.Next(&position)) {
         Property property = {graphic, ::GraphicGetVtbl(graphic), 0};
-        if (property.table == nullptr || !property.table->PropLookup(graphic, &name, 1, 0, &property.number))
-            continue;
+        if (property.table == nullptr || !property.table->PropLookup(graphic, &name, 1, 0, &property.number)) continue;
         found = true;
         if (!visit(property)) break;
     }
@@ -122,8 +121,8 @@ int Write(const WriteTarget& target, const char* name, const typename Type::Memb
     return WriteEach(target, name, [&](const Property& property) { return property.Set(Type::vt, &value); });
 }
 
-// Whether two multibyte texts are equal is the same for characters and for bytes. A loop of our own, since the runtime's
-// comparison is a call across libraries for each graphic: bench merge_text.
+// Whether two multibyte texts are equal is the same for characters and for bytes. A loop of our own, since the
+// runtime's comparison is a call across libraries for each graphic: bench merge_text.
 inline bool TextsDiffer(const char* a, const char* b) {
     while (*a == *b) {
         if (*a == '\0') return false;
@@ -162,8 +161,8 @@ inline int WriteCheck(const WriteTarget& target, const char* name, int value) {
     return WriteEach(target, name, [&](const Property& property) { return property.Set(VT_BOOL, &checked); });
 }
 
-// pair: a mask of the bits in which graphics differ, and the bits of the first graphic. No early end here: each further graphic
-// can add bits to the mask.
+// pair: a mask of the bits in which graphics differ, and the bits of the first graphic. No early end here: each further
+// graphic can add bits to the mask.
 inline int MergeBits(const ObjectSet& set, const char* name, unsigned short* pair) {
     unsigned short mask = 0, base = 0;
     bool first = true;

@@ -32,14 +32,12 @@ LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
-FrameworkScope::FrameworkScope(HWND owner, ControlReady onReady)
-    : m_main(std::move(onReady)), m_owner(nullptr) {
+FrameworkScope::FrameworkScope(HWND owner, ControlReady onReady) : m_main(std::move(onReady)), m_owner(nullptr) {
     RequireOwnThread(owner);
     if (AfxGetThread() == nullptr) m_application.emplace();
     m_previousMain = AfxGetThread()->m_pMainWnd;
     if (!m_main.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr))
-        RefuseWithSystemError(static_cast<long>(::GetLastError()),
-                              "cannot create the main window for the controls");
+        RefuseWithSystemError(static_cast<long>(::GetLastError()), "cannot create the main window for the controls");
     AfxGetThread()->m_pMainWnd = &m_main;
     if (owner == nullptr) return;
     m_owner = CWnd::FromHandlePermanent(owner);

@@ -44,8 +44,7 @@ void RefuseWithSystemError(long error, const char* what) {
     std::string text = std::system_category().message(error);
     while (!text.empty() && std::strchr("\r\n. ", text.back()) != nullptr)
         text.pop_back();
-    throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError,
-                  std::string(what) + ": " + text};
+    throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError, std::string(what) + ": " + text};
 }
 
 OrloResult GuardedCall(const std::function<void()>& work) {

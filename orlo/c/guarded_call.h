@@ -34,8 +34,7 @@ T& RequireNotNull(T* pointer, const char* name) {
 template <class Record>
 Record& RequireRecord(Record* record, const char* name) {
     if (RequireNotNull(record, name).size != sizeof(Record))
-        Refuse(kOrloBadArgument,
-               (std::string(name) + " has a size that this version does not support").c_str());
+        Refuse(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
     return *record;
 }
 

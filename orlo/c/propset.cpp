@@ -115,17 +115,14 @@ OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, Orlo
     });
 }
 
-OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
-                                            OrloProperty* property) {
+OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index, OrloProperty* property) {
     return GuardedCall([&] {
         OrloProperty& record = RequireRecord(property, "the property");
         record = {sizeof record, 0, 0, 0, 0};
         const auto held = Held(set);
-        if (section >= held->image.sections.size() ||
-            index >= held->image.sections[section].properties.size())
+        if (section >= held->image.sections.size() || index >= held->image.sections[section].properties.size())
             Refuse(kOrloNotFound, "there are not so many properties");
         const ImageProperty& found = held->image.sections[section].properties[index];
-        record = {sizeof record, found.id, found.type, found.state == ValueState::complete,
-                  found.bytes.size()};
+        record = {sizeof record, found.id, found.type, found.state == ValueState::complete, found.bytes.size()};
     });
 }

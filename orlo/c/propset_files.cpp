@@ -26,9 +26,8 @@ OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin 
     std::vector<Finding> findings;
     std::optional<SetImage> image = ReadSetImage(data, size, findings);
     if (!image) Refuse(kOrloDamaged, "this is not a property set");
-    const bool isDamaged = std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
-        return finding.severity == Severity::damaged;
-    });
+    const bool isDamaged = std::any_of(findings.begin(), findings.end(),
+                                       [](const Finding& finding) { return finding.severity == Severity::damaged; });
     return Hold({std::move(*image), isDamaged, std::move(origin)});
 }
 
@@ -93,16 +92,14 @@ bool IsSamePlace(const Origin& origin, const std::filesystem::path& path, const 
 void Save(HeldSet& set, const Bytes& bytes, const std::filesystem::path& path, const std::string& stream) {
     try {
         EditedDocument document(path, EditedDocument::IfMissing::Create);
-        if (set.origin && IsSamePlace(*set.origin, path, stream) &&
-            document.Read(stream) != set.origin->bytes)
+        if (set.origin && IsSamePlace(*set.origin, path, stream) && document.Read(stream) != set.origin->bytes)
             Refuse(kOrloChanged, "the stream has been changed since the set was read");
         document.Write(stream, bytes);
         document.Commit();
     } catch (const UnfitDocument& unfit) {
         Refuse(kOrloDamaged, unfit.what());
     } catch (const files::FileError& error) {
-        Refuse(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError,
-               error.what());
+        Refuse(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError, error.what());
     }
     set.origin = Origin{path, stream, bytes};
 }

@@ -48,13 +48,11 @@ SIZE SizeInside(const Bytes& value) {
 
 SIZE OwnSize(const Bytes& value) {
     const SIZE size = SizeInside(value);
-    if (size.cx <= 0 || size.cy <= 0)
-        Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
+    if (size.cx <= 0 || size.cy <= 0) Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
     const double longer = std::max(size.cx, size.cy);
     if (At<uint32_t>(value, 4) == CF_DIB && longer <= kLargest) return size;
     const double scale = kVectorSide / longer;
-    return {std::max(1L, static_cast<LONG>(size.cx * scale)),
-            std::max(1L, static_cast<LONG>(size.cy * scale))};
+    return {std::max(1L, static_cast<LONG>(size.cx * scale)), std::max(1L, static_cast<LONG>(size.cy * scale))};
 }
 
 // The size that was asked for, stored where it was left open.
@@ -79,8 +77,7 @@ Picture Drawn(const Bytes& value, SIZE size) {
     info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     void* bits = nullptr;
-    Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)),
-                    nullptr};
+    Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)), nullptr};
     if (!picture.bitmap) Refuse(kOrloOutOfMemory, "the system can't make a bitmap of that size");
     picture.pixels = static_cast<uint32_t*>(bits);
     const orlo::SelectedObject selected(dc.get(), picture.bitmap.get());
@@ -101,14 +98,13 @@ void SwapRedAndBlue(uint32_t& pixel) {
 
 } // namespace
 
-OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order, uint32_t* width,
-                                                   uint32_t* height, void* buffer, size_t* size) {
+OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order, uint32_t* width, uint32_t* height,
+                                                   void* buffer, size_t* size) {
     return GuardedCall([&] {
         RequireNotNull(size, "the size");
         if (order > kOrloRgba) Refuse(kOrloBadArgument, "there is no such order of pixels");
         const Bytes value = ThumbnailOf(set);
-        const SIZE pixels =
-            Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
+        const SIZE pixels = Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
         if (buffer == nullptr || *size < count * sizeof(uint32_t)) // nothing is drawn for a question
             return HandOut(nullptr, count * sizeof(uint32_t), buffer, size);
@@ -123,8 +119,7 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* wi
     return GuardedCall([&] {
         RequireNotNull(bitmap, "the bitmap") = nullptr;
         const Bytes value = ThumbnailOf(set);
-        const SIZE size =
-            Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
+        const SIZE size = Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         *bitmap = Drawn(value, size).bitmap.release();
     });
 }

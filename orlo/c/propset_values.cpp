@@ -54,8 +54,7 @@ void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t t
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     const ImageSection* section = image.Find(wanted);
     const ImageProperty* property = section != nullptr ? section->Find(id) : nullptr;
-    if (property != nullptr && property->type != type)
-        Refuse(kOrloWrongType, "the property exists with another type");
+    if (property != nullptr && property->type != type) Refuse(kOrloWrongType, "the property exists with another type");
     StoreValue(SectionFor(image, wanted, kCodePageUtf8), id, type, std::move(bytes));
 }
 
@@ -95,8 +94,7 @@ Value WholeValue(uint32_t type, int64_t number) {
 
 } // namespace
 
-OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                           int64_t* value) {
+OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id, int64_t* value) {
     return GuardedCall([&] {
         RequireNotNull(value, "the value") = 0;
         *value = IntegerOf(ValueOf(set, format, id));
@@ -132,8 +130,8 @@ OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format
     });
 }
 
-OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                           uint32_t type, int64_t value) {
+OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                           int64_t value) {
     return GuardedCall([&] {
         if (id == kOrloCodePage)
             StoreCodePage(HeldWhole(set)->image, format, value);
@@ -173,8 +171,7 @@ OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format
         const auto held = HeldWhole(set);
         const uint16_t codePage = CodePageOf(held->image, format);
         Value value;
-        if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) ||
-            EncodeValue(value, codePage) != bytes)
+        if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) || EncodeValue(value, codePage) != bytes)
             Refuse(kOrloWrongType, "the bytes are not one value of that type");
         StoreBytes(held->image, format, id, type, std::move(bytes));
     });
@@ -204,20 +201,17 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
     });
 }
 
-OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
-                                         uint32_t* id) {
+OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name, uint32_t* id) {
     return GuardedCall([&] {
         RequireNotNull(id, "the identifier") = 0;
         const auto held = Held(set);
-        const DictionaryEntry* entry =
-            FindName(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
+        const DictionaryEntry* entry = FindName(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
         *id = entry->id;
     });
 }
 
-OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                        const char* name) {
+OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id, const char* name) {
     return GuardedCall([&] {
         const auto held = HeldWhole(set);
         const std::string text = &RequireNotNull(name, "the name");

@@ -43,9 +43,8 @@ void CBrushStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CBrushStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {1, 2}, [pDIS](const StyleItem& item) {
-        return DrawBrushStyleItem(*pDIS, kComboBrushLook, item);
-    });
+    StyleControl::DrawItem(*this, *pDIS, {1, 2},
+                           [pDIS](const StyleItem& item) { return DrawBrushStyleItem(*pDIS, kComboBrushLook, item); });
 }
 
 CString CBrushStyleControlC::DescribeItem(int index) {

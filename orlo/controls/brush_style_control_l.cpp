@@ -52,9 +52,8 @@ void CBrushStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CBrushStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
-        return DrawBrushStyleItem(*pDIS, kListBrushLook, item);
-    });
+    StyleControl::DrawItem(*this, *pDIS, {0, 0},
+                           [pDIS](const StyleItem& item) { return DrawBrushStyleItem(*pDIS, kListBrushLook, item); });
 }
 
 CString CBrushStyleControlL::DescribeItem(int index) {

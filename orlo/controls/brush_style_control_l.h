@@ -1,9 +1,9 @@
 // CBrushStyleControlL: a list box of brush styles, each shown by a sample that the host fills; the twin of
 // CBrushStyleControlC.
 //
-// Brush styles are identifiers of the table's entries; kBrushStyleNone means without a brush; it is the first item, and a
-// filling never selects it. kBrushStyleIndeterminate means several. There is a single sample graphic and a single viewport,
-// whatever the number of styles.
+// Brush styles are identifiers of the table's entries; kBrushStyleNone means without a brush; it is the first item, and
+// a filling never selects it. kBrushStyleIndeterminate means several. There is a single sample graphic and a single
+// viewport, whatever the number of styles.
 #pragma once
 
 #include "orlo/controls/list_control.h"

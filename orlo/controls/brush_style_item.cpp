@@ -25,8 +25,7 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look,
     ::GraphicSetPenColor(item.graphic, ink);
     ::GraphicSetBrushColor(item.graphic, ink);
     ::GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
-    ::GraphicSetBrushScale(item.graphic,
-                         HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
+    ::GraphicSetBrushScale(item.graphic, HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
     ::GraphicSetDirty(item.graphic, 1); // the filling of the item before is not to be used again
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
 }

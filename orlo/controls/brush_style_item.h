@@ -1,5 +1,5 @@
-// What the combo and the list of brush styles share: the sample's shape, what is offered, how an item is drawn. Internal to
-// the library.
+// What the combo and the list of brush styles share: the sample's shape, what is offered, how an item is drawn.
+// Internal to the library.
 #pragma once
 
 #include "orlo/controls/style_item.h"

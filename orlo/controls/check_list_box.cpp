@@ -68,9 +68,7 @@ public:
     }
 
 private:
-    static CCheckListBox* Of(HWND window) {
-        return dynamic_cast<CCheckListBox*>(CWnd::FromHandlePermanent(window));
-    }
+    static CCheckListBox* Of(HWND window) { return dynamic_cast<CCheckListBox*>(CWnd::FromHandlePermanent(window)); }
     static bool IsChecked(HWND window, int index) {
         const CCheckListBox* const list = Of(window);
         return list && list->IsItemChecked(index);
@@ -191,14 +189,14 @@ int CCheckListBox::ItemFromPoint(CPoint point, int bPastEnd) {
     return bPastEnd ? count : -1;
 }
 
-// A window that is taken over has rows that the parent has measured without this object. One being created measures them
-// later, and does not know the message yet.
+// A window that is taken over has rows that the parent has measured without this object. One being created measures
+// them later, and does not know the message yet.
 void CCheckListBox::PreSubclassWindow() {
     ::SendMessageA(m_hWnd, LB_SETITEMHEIGHT, 0, ItemHeight());
 }
 
-// The list box takes the space bar for the first letter of an item. A host that asks for its keys is not asked for this one,
-// which it may have toggled by itself.
+// The list box takes the space bar for the first letter of an item. A host that asks for its keys is not asked for this
+// one, which it may have toggled by itself.
 LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kCheckListKind)) return object;
@@ -206,8 +204,7 @@ LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     constexpr LPARAM kHeldDown = LPARAM{KF_REPEAT} << 16;
     if ((message == WM_KEYDOWN || message == WM_CHAR) && wParam == VK_SPACE) {
         const int current = static_cast<int>(SendMessage(LB_GETCARETINDEX));
-        if (message == WM_KEYDOWN && !(lParam & kHeldDown) && current >= 0 && current < GetCount())
-            ToggleItem(current);
+        if (message == WM_KEYDOWN && !(lParam & kHeldDown) && current >= 0 && current < GetCount()) ToggleItem(current);
         return 0;
     }
     return CListBox::WindowProc(message, wParam, lParam);

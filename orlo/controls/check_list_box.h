@@ -1,6 +1,6 @@
-// CCheckListBox: a list box with a check box in front of each item, for host programs. A click anywhere on an item toggles
-// it, the second of two quick ones too, and so does the space bar for the current item. An unchecked box is drawn sunken, as
-// the mark's picture is, so that it can be seen on the list's background.
+// CCheckListBox: a list box with a check box in front of each item, for host programs. A click anywhere on an item
+// toggles it, the second of two quick ones too, and so does the space bar for the current item. An unchecked box is
+// drawn sunken, as the mark's picture is, so that it can be seen on the list's background.
 //
 //   CCheckListBox list;
 //   list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY, rect, this, IDC_LAYERS);

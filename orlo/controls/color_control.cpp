@@ -76,8 +76,7 @@ void NameWithoutItem(DWORD color, char* name) {
     if (const unsigned int id = HostStringOf(color))
         ::DrawCoreLoadString(id, name, kHostTextSize);
     else if (IsPlainColor(color))
-        std::snprintf(name, kHostTextSize, "(%d,%d,%d)", GetRValue(color), GetGValue(color),
-                      GetBValue(color));
+        std::snprintf(name, kHostTextSize, "(%d,%d,%d)", GetRValue(color), GetGValue(color), GetBValue(color));
 }
 
 } // namespace
@@ -177,7 +176,6 @@ void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     DrawSwatch(place, color, name);
     if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
     // On the color itself the rectangle might not be seen.
-    if (inField && (pDIS->itemState & ODS_FOCUS))
-        FrameRectangle(pDIS->hDC, pDIS->rcItem, colors.background, 1);
+    if (inField && (pDIS->itemState & ODS_FOCUS)) FrameRectangle(pDIS->hDC, pDIS->rcItem, colors.background, 1);
     DrawItemFocus(*pDIS);
 }

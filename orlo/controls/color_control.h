@@ -10,8 +10,8 @@
 //   kColorOfPen              second extra entry, by the host's text
 //   kColorByBlock            shown if it occurs; no list offers it
 //
-// The current row of the open list is marked by two frames, of which one can be seen on any color. A disabled field is a gray
-// name in a frame of its color.
+// The current row of the open list is marked by two frames, of which one can be seen on any color. A disabled field is
+// a gray name in a frame of its color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

@@ -76,8 +76,8 @@ void HSV_to_RGB(double h, double s, double v, double* r, double* g, double* b) {
 
 ColorKey::ColorKey(DWORD color) : raw(color), reduced(IsMarker(color) ? 0 : color) {
     constexpr double kByte = 0.00392156862745098; // 1/255
-    RGB_to_HSV(GetRValue(reduced) * kByte, GetGValue(reduced) * kByte, GetBValue(reduced) * kByte, &hue,
-               &saturation, &value);
+    RGB_to_HSV(GetRValue(reduced) * kByte, GetGValue(reduced) * kByte, GetBValue(reduced) * kByte, &hue, &saturation,
+               &value);
 }
 
 int CompareColorKeys(const ColorKey& a, const ColorKey& b) {

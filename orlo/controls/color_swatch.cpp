@@ -51,14 +51,13 @@ void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF co
     ::DrawTextA(place.dc, name, -1, &rect, DT_SINGLELINE | DT_VCENTER | (centered ? DT_CENTER : DT_LEFT));
 }
 
-void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth,
-               const char* name) {
+void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth, const char* name) {
     FrameRectangle(place.dc, frame, frameColor, frameWidth);
     DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
 }
 
-// A color on a background of the same color needs a frame. In a list it stays within the row: the rows around it are drawn
-// at other times.
+// A color on a background of the same color needs a frame. In a list it stays within the row: the rows around it are
+// drawn at other times.
 void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT frame = Inflated(place.rect, place.inField ? 1 : -1);
     FillSolid(place.dc, place.rect, color);

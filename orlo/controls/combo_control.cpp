@@ -153,8 +153,8 @@ BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
     return CComboBox::PreCreateWindow(cs);
 }
 
-// Called for a window being created and for one that is taken over, whose rows the parent has measured without an object
-// and whose WM_INITIALUPDATE is over.
+// Called for a window being created and for one that is taken over, whose rows the parent has measured without an
+// object and whose WM_INITIALUPDATE is over.
 void CComboControl::PreSubclassWindow() {
     if (std::exchange(m_beingMade, false)) return;
     m_dwStyle = GetStyle();
@@ -246,8 +246,7 @@ void CComboControl::FitDropWidth() {
     for (const std::string& name : m_names->Of(ControlItems::OfCombo(m_hWnd)))
         widest = std::max(widest, MeasureNameWidth(dc.get(), name.c_str()));
     const int frame = 2 * ::GetSystemMetrics(SM_CXBORDER) + ::GetSystemMetrics(SM_CXVSCROLL);
-    SendMessage(CB_SETDROPPEDWIDTH,
-                static_cast<WPARAM>(std::min(widest + frame, ::GetSystemMetrics(SM_CXSCREEN) / 2)));
+    SendMessage(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::min(widest + frame, ::GetSystemMetrics(SM_CXSCREEN) / 2)));
 }
 
 unsigned long CComboControl::GetControlItem(int index, char* text) {

@@ -8,17 +8,18 @@
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, IDC_COLOR);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
-// The controls draw in the system's colors. A closed field shows the focus by the system's rectangle, and that it is disabled
-// by gray text on the color of the dialog.
+// The controls draw in the system's colors. A closed field shows the focus by the system's rectangle, and that it is
+// disabled by gray text on the color of the dialog.
 //
 // The control announces itself to the application and never asks for its table: the host sends
 // WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
 // (control_fill.h) at any time.
 //
-// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style. A combo box that is taken over keeps the edit field
-// that it was made with: without CBS_AUTOHSCROLL in its style that takes no more text than it has room for.
+// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style. A combo box that is taken over keeps the
+// edit field that it was made with: without CBS_AUTOHSCROLL in its style that takes no more text than it has room for.
 //
-// A screen reader gets the names of the items, never their keys. "varied" is said of a field that shows none of its items.
+// A screen reader gets the names of the items, never their keys. "varied" is said of a field that shows none of its
+// items.
 //
 // Escape in the open list restores the choice that was made before it opened, and notifies the parent of the change.
 #pragma once
@@ -33,8 +34,8 @@
 #include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
-// WM_COMMAND to the top-level frame, else to the thread's main window; without either the notification is dropped. The low
-// word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
+// WM_COMMAND to the top-level frame, else to the thread's main window; without either the notification is dropped. The
+// low word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
 // window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
 
@@ -53,8 +54,9 @@ public:
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
-    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field, and as wide as the
-    // widest name if the control draws names. The control does so itself before the list opens, whatever its parent.
+    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field, and as wide
+    // as the widest name if the control draws names. The control does so itself before the list opens, whatever its
+    // parent.
     virtual void SizeDropDown();
     // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
     // without such an item.
@@ -63,8 +65,8 @@ public:
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
     // Adds an item with exactly that text; its index, negative on failure.
     virtual int AddControlItem(const char* text);
-    // Returns an item as a screen reader says it; with -1 what the closed field shows without a selected item. Here: its name,
-    // "varied" without one.
+    // Returns an item as a screen reader says it; with -1 what the closed field shows without a selected item. Here:
+    // its name, "varied" without one.
     virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
@@ -103,7 +105,8 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
-    // Returns the width of a row with that name in device pixels; 0 (here): the field is wide enough. dc has the control's font.
+    // Returns the width of a row with that name in device pixels; 0 (here): the field is wide enough. dc has the
+    // control's font.
     virtual int MeasureNameWidth(HDC dc, const char* name);
 
 private:

@@ -50,8 +50,8 @@ int RegisterControlClass(HINSTANCE module, const char* systemName, const char* n
 } // namespace
 
 int RegisterControlClasses(HINSTANCE module) {
-    const int combo = RegisterControlClass(module, "ComboBox", kComboClass, ComboFirstMessage,
-                                           CComboControl::lpfnSuperWndProc);
+    const int combo =
+        RegisterControlClass(module, "ComboBox", kComboClass, ComboFirstMessage, CComboControl::lpfnSuperWndProc);
     const int list =
         RegisterControlClass(module, "ListBox", kListClass, ListFirstMessage, CListControl::lpfnSuperWndProc);
     return combo && list;

@@ -19,8 +19,8 @@ constexpr UINT kFillMessage = 0x4BC; // lParam: const ControlFillRecord*
 
 #pragma pack(push, 4)
 struct ControlFillRecord {
-    TableStruct* pTable; // null empties the control
-    UINT_PTR dwValue; // face name (const char*) or size (bits of a float) of the font controls; else not read
+    TableStruct* pTable;    // null empties the control
+    UINT_PTR dwValue;       // face name (const char*) or size (bits of a float) of the font controls; else not read
     unsigned int nSelected; // identifier of the entry to select, or a color
 };
 #pragma pack(pop)

@@ -5,8 +5,8 @@
 #include <cstring>
 
 struct ControlItems::Messages {
-    UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length,
-        text, rowHeight, remove;
+    UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length, text,
+        rowHeight, remove;
 };
 
 const ControlItems::Messages ControlItems::kCombo = {
@@ -92,8 +92,7 @@ bool ControlItems::GetText(int index, char* buffer, int size) const {
     buffer[0] = '\0';
     const int length = Send(messages_->length, static_cast<WPARAM>(index));
     if (length < 0) return false;
-    if (length < size)
-        return Send(messages_->text, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer)) >= 0;
+    if (length < size) return Send(messages_->text, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer)) >= 0;
     CString text;
     if (!GetText(index, text)) return false;
     ::lstrcpynA(buffer, text, size);

@@ -25,8 +25,8 @@ public:
     // Without regard to case; -1 if not found.
     int FindExact(const char* text) const;
     int FindPrefix(const char* prefix) const;
-    // The item with exactly that text, without regard to case. A text that is not in the list is added first, with add(text)
-    // if given.
+    // The item with exactly that text, without regard to case. A text that is not in the list is added first, with
+    // add(text) if given.
     int FindOrAdd(const char* text) const {
         return FindOrAdd(text, [this](const char* item) { Add(item); });
     }
@@ -37,8 +37,8 @@ public:
         add(text);
         return FindExact(text);
     }
-    // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed, if
-    // there isn't one.
+    // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed,
+    // if there isn't one.
     bool SelectPrefix(int from, const char* prefix) const;
 
     // Whether the message adds or removes items.
@@ -46,7 +46,8 @@ public:
     // Whether the message selects one.
     bool IsSelection(UINT message) const;
 
-    // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them all.
+    // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them
+    // all.
     void SetRowHeight(int index, int height) const;
 
     // The item's text; false, with text emptied, without such an item.

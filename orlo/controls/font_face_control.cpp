@@ -32,8 +32,7 @@ void CFontFaceControl::FillControl(WPARAM, LPARAM lParam) {
     const char* const face = record ? reinterpret_cast<const char*>(record->dwValue) : nullptr;
     int index = -1;
     if (face && IsTableIdentifier(m_nSelected))
-        index =
-            ControlItems::OfCombo(m_hWnd).FindOrAdd(face, [this](const char* text) { AddControlItem(text); });
+        index = ControlItems::OfCombo(m_hWnd).FindOrAdd(face, [this](const char* text) { AddControlItem(text); });
     SetCurSel(index);
 }
 

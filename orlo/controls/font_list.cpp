@@ -29,9 +29,8 @@ public:
         DrawingStruct* const drawing = control_.m_pDrawing;
         if (!drawing) return;
         CPenWidthList sizes;
-        for (const char* text =
-                 sizes.First(drawing->pApplication, drawing->pUnits, "FontSizes", kUnitTextSize);
-             text; text = sizes.Next())
+        for (const char* text = sizes.First(drawing->pApplication, drawing->pUnits, "FontSizes", kUnitTextSize); text;
+             text = sizes.Next())
             Add(text);
     }
     void AddRaster(const TEXTMETRICA& metrics) const {

@@ -20,6 +20,6 @@ struct FontListRequest {
 //   IDC_FONT_STYLE                  the four font styles, in the order of their numbers; lParam is not used
 //   others                          stay empty
 //
-// The items are in the order of the enumeration or the configuration, unless the combo sorts. 1 for faces and sizes, else
-// 0; also 0, with nothing changed, without a device context.
+// The items are in the order of the enumeration or the configuration, unless the combo sorts. 1 for faces and sizes,
+// else 0; also 0, with nothing changed, without a device context.
 ORLO_API int FillFontDropDown(HWND hWnd, LPARAM lParam);

@@ -1,8 +1,9 @@
 // CFontSizeControl: a combo box in which a font height is typed or chosen, as a length of the drawing.
 //
-// The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but kEntryNone
-// and kEntryIndeterminate. The heights are those of the drawing's current font (kUnitFontName of its units table); a height
-// that is not in the list is added. Return in the edit field counts as choosing an item: see enter_edit.h.
+// The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but
+// kEntryNone and kEntryIndeterminate. The heights are those of the drawing's current font (kUnitFontName of its units
+// table); a height that is not in the list is added. Return in the edit field counts as choosing an item: see
+// enter_edit.h.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -19,7 +20,8 @@ public:
     // The text as a height in the drawing's coordinate space; a text that cannot be read leaves the value alone.
     void ReConvertFontSize(const char* text, double& value);
 
-    // Texts in the drawing's units, empty if they cannot be written: of a height, and of a raster font by its height in points.
+    // Texts in the drawing's units, empty if they cannot be written: of a height, and of a raster font by its height in
+    // points.
     void FontSizeText(double value, CString& text);
     void RasterSizeText(const TEXTMETRICA& metrics, CString& text);
 

@@ -58,8 +58,7 @@ void DrawItemFocus(const DRAWITEMSTRUCT& item) {
 }
 
 void ClearItem(const DRAWITEMSTRUCT& item) {
-    FillSolid(item.hDC, IsClosedField(item) ? Inflated(item.rcItem, 2) : item.rcItem,
-              SampleColorsOf(item).background);
+    FillSolid(item.hDC, IsClosedField(item) ? Inflated(item.rcItem, 2) : item.rcItem, SampleColorsOf(item).background);
 }
 
 int PlainRowWidth(HDC dc, const char* text) {

@@ -24,8 +24,8 @@ RowColors ColorsOf(const DRAWITEMSTRUCT& item);
 // The same for what shows the selection in another way, and is drawn in black where that can be read.
 RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 
-// What a request asks a control of style samples to draw. A change of the selection draws the whole item: the frame that
-// goes would leave its marks in the sample or the name below it.
+// What a request asks a control of style samples to draw. A change of the selection draws the whole item: the frame
+// that goes would leave its marks in the sample or the name below it.
 enum class ItemPart { Nothing, Whole, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 

@@ -6,7 +6,8 @@
 
 #include "orlo/controls/control_items.h"
 
-// Keeps the names that have been read until the items change: reading thousands of them takes longer than a user types a letter.
+// Keeps the names that have been read until the items change: reading thousands of them takes longer than a user types
+// a letter.
 class ItemNames {
 public:
     const std::vector<std::string>& Of(const ControlItems& items);

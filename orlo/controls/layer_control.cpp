@@ -84,8 +84,7 @@ int CLayerControl::MeasureNameWidth(HDC dc, const char* name) {
 }
 
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    const bool whole =
-        IsNoItem(*pDIS) || IsClosedField(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
+    const bool whole = IsNoItem(*pDIS) || IsClosedField(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
     if (whole) {
         FillSolid(pDIS->hDC, pDIS->rcItem, ColorsOf(*pDIS).background);
         DrawLayer(*pDIS);

@@ -1,5 +1,6 @@
-// CLayerControl: a combo box of layers, each with an eye if it is visible, a book if it is read-only, and its name in its
-// color. A name that could not be read in that color has the color of the window's text, after a square in the layer's color.
+// CLayerControl: a combo box of layers, each with an eye if it is visible, a book if it is read-only, and its name in
+// its color. A name that could not be read in that color has the color of the window's text, after a square in the
+// layer's color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -22,8 +23,8 @@ protected:
     int MeasureNameWidth(HDC dc, const char* name) override;
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Shared icons, which the system keeps. Loaded with the window; a control that subclasses a window loads them when it
-    // draws.
+    // Shared icons, which the system keeps. Loaded with the window; a control that subclasses a window loads them when
+    // it draws.
     HICON m_hIconReadOnly = nullptr;
     HICON m_hIconVisible = nullptr;
 

@@ -43,9 +43,8 @@ void CLineStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CLineStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
-        return DrawLineStyleItem(*pDIS, kComboLineLook, item);
-    });
+    StyleControl::DrawItem(*this, *pDIS, {0, 0},
+                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kComboLineLook, item); });
 }
 
 CString CLineStyleControlC::DescribeItem(int index) {

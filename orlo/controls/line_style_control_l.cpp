@@ -47,9 +47,8 @@ void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {0, 0}, [pDIS](const StyleItem& item) {
-        return DrawLineStyleItem(*pDIS, kListLineLook, item);
-    });
+    StyleControl::DrawItem(*this, *pDIS, {0, 0},
+                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kListLineLook, item); });
 }
 
 CString CLineStyleControlL::DescribeItem(int index) {

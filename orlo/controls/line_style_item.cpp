@@ -69,8 +69,8 @@ SampleGraphic MakeComboLineSample(int controlWidth) {
 // The outer vertices draw nothing; they widen the extents.
 SampleGraphic MakeListLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 6, 136);
-    return InWorldScale(NewSample(
-        {{0.0, 0.0, 0, true}, {0.01 * w, 0.5, 0, false}, {0.99 * w, 0.5, 0, true}, {w, 1.0, 0, false}}));
+    return InWorldScale(
+        NewSample({{0.0, 0.0, 0, true}, {0.01 * w, 0.5, 0, false}, {0.99 * w, 0.5, 0, true}, {w, 1.0, 0, false}}));
 }
 
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth) {

@@ -13,8 +13,8 @@ bool IsListedStyle(const char* name);
 SampleGraphic MakeComboLineSample(int controlWidth);
 SampleGraphic MakeListLineSample(int controlWidth);
 
-// Calls add(text) for each style that is offered, in table order, and then for the default item, which is "by layer", if
-// that is wanted. No list offers "by block".
+// Calls add(text) for each style that is offered, in table order, and then for the default item, which is "by layer",
+// if that is wanted. No list offers "by block".
 template <class Add>
 void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     ForEachTableItem(table, [&](ItemText& text) {

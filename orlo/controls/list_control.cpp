@@ -30,9 +30,7 @@ public:
     }
 
 private:
-    static CListControl* Of(HWND window) {
-        return dynamic_cast<CListControl*>(CWnd::FromHandlePermanent(window));
-    }
+    static CListControl* Of(HWND window) { return dynamic_cast<CListControl*>(CWnd::FromHandlePermanent(window)); }
 };
 const ListKind kListKind;
 
@@ -81,8 +79,8 @@ BOOL CListControl::PreCreateWindow(CREATESTRUCT& cs) {
     return CListBox::PreCreateWindow(cs);
 }
 
-// Called for a window being created and for one that is taken over, whose rows the parent has measured without an object
-// and whose WM_INITIALUPDATE is over.
+// Called for a window being created and for one that is taken over, whose rows the parent has measured without an
+// object and whose WM_INITIALUPDATE is over.
 void CListControl::PreSubclassWindow() {
     if (std::exchange(m_beingMade, false)) return;
     m_dwStyle = GetStyle();
@@ -150,8 +148,8 @@ static int HeightOfWholeRows(HWND list, int height, int row) {
     return frame + std::max((height - frame) / std::max(row, 1), 1) * row;
 }
 
-// Rows grow with the resolution, and the list with them as far as the template, whose font may not grow as much, has made
-// room for it.
+// Rows grow with the resolution, and the list with them as far as the template, whose font may not grow as much, has
+// made room for it.
 static int HeightInRoom(HWND list, int at96) {
     return std::clamp(static_cast<int>(WindowSize(list).cy), at96, std::max(at96, ScreenPixels(at96)));
 }

@@ -29,8 +29,8 @@ public:
     virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
-    // Given to the window at WM_INITIALUPDATE less what shows a part of a row, in pixels at 96 dpi; at a higher resolution it
-    // is the template's room, between these pixels and the same size scaled.
+    // Given to the window at WM_INITIALUPDATE less what shows a part of a row, in pixels at 96 dpi; at a higher
+    // resolution it is the template's room, between these pixels and the same size scaled.
     int m_nHeight = 320;
     unsigned long m_dwStyle = 0;     // window style at the creation
     int m_bAutoDelete = 0;           // the object goes with its window

@@ -43,8 +43,7 @@ struct StyleControl {
     static CString NameWithoutItem(const Control& control, int index) {
         char name[kItemTextSize] = "";
         if (index < 0 && control.m_pTable && IsTableIdentifier(control.m_nSelected))
-            ::TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name,
-                              kEntryNameSize);
+            ::TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name, kEntryNameSize);
         return name;
     }
 

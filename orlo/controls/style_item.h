@@ -1,4 +1,5 @@
-// What an item of a control of style samples is made of, for line styles and brush styles alike. Internal to the library.
+// What an item of a control of style samples is made of, for line styles and brush styles alike. Internal to the
+// library.
 #pragma once
 
 #include "orlo/controls/control_item.h"

@@ -1,9 +1,9 @@
 // CStyleNameControl: a combo box of the blocks of a table that belong to the style tree of the selected one, by plain
 // names.
 //
-// The host fills it with a table of blocks and the identifier of one of them. Blocks are of one tree if the pszStyleName of
-// their graphics is the same text; a block without one has no tree and lists nothing. If the control is owner-drawn, the
-// current row of the open list is marked by a frame.
+// The host fills it with a table of blocks and the identifier of one of them. Blocks are of one tree if the
+// pszStyleName of their graphics is the same text; a block without one has no tree and lists nothing. If the control is
+// owner-drawn, the current row of the open list is marked by a frame.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

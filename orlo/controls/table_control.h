@@ -20,8 +20,8 @@ bool BeginFill(Control& control, LPARAM lParam) {
 // item.
 unsigned long ItemOf(const ControlItems& items, int index, char* text);
 
-// Prepares a window that existed before its object as a template would: its rows get that height (device pixels), and the
-// control announces itself, which the host may answer at once.
+// Prepares a window that existed before its object as a template would: its rows get that height (device pixels), and
+// the control announces itself, which the host may answer at once.
 void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight);
 
 // Height of a row of the control in device pixels, as it measures it.

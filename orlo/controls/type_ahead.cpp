@@ -26,14 +26,13 @@ int FindName(const std::vector<std::string>& names, const std::string& prefix, i
     return -1;
 }
 
-// What has been typed so far. The keyboard has one focus: characters that go to another control, come after a pause or find
-// another selection than they have left begin anew.
+// What has been typed so far. The keyboard has one focus: characters that go to another control, come after a pause or
+// find another selection than they have left begin anew.
 class TypedText {
 public:
     bool GoesOnIn(HWND control, int selected) const {
         const DWORD pause = kDoubleClicksOfPause * ::GetDoubleClickTime();
-        return control == control_ && !before_.empty() && ::GetTickCount() - last_ <= pause &&
-               selected == selected_;
+        return control == control_ && !before_.empty() && ::GetTickCount() - last_ <= pause && selected == selected_;
     }
     void BeginIn(HWND control) {
         control_ = control;

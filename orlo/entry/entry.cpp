@@ -96,8 +96,7 @@ extern "C" CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, voi
     return nullptr;
 }
 
-extern "C" int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
-                                      CGraphicPropertySheet* pSheet) try {
+extern "C" int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet) try {
     auto* graphic = static_cast<GraphicStruct*>(pGraphic);
     if (graphic == nullptr || pSheet == nullptr) return 0;
     AddOwnPages(graphic, pSheet);

@@ -42,5 +42,4 @@ extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParen
 // Adds the pages for the type of this graphic that the sheet does not have yet, then the pages of its regen method.
 // Returns the result of RegenMethodGetPropPage, or 0 if the graphic has no regen method. Also returns 0 if memory runs
 // out; the sheet keeps the pages that it has.
-extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic,
-                                               CGraphicPropertySheet* pSheet);
+extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet);

@@ -102,14 +102,14 @@ void Bind(CDataExchange* pDX, int nID, typename Form::Member* pMember, const cha
 } // namespace
 
 // The overloads of a name differ only in the type of the member.
-#define ORLO_DDP(kind, T, argument)                                                                          \
-    void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                       \
-        if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                   \
-    }                                                                                                        \
-    void DDP_##kind(CDataExchange* pDX, int nID, T& member, const char* pszPropName) {                       \
-        Bind<Single<T>, DDP_End##kind>(pDX, nID, &member, pszPropName, [&](CGraphicPropertyPage* page) {     \
-            page->GetProp##kind(pszPropName, &member, 0);                                                    \
-        });                                                                                                  \
+#define ORLO_DDP(kind, T, argument)                                                                                    \
+    void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                                 \
+        if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                             \
+    }                                                                                                                  \
+    void DDP_##kind(CDataExchange* pDX, int nID, T& member, const char* pszPropName) {                                 \
+        Bind<Single<T>, DDP_End##kind>(pDX, nID, &member, pszPropName, [&](CGraphicPropertyPage* page) {               \
+            page->GetProp##kind(pszPropName, &member, 0);                                                              \
+        });                                                                                                            \
     }
 
 // Not a public overload: its only caller is the record of an unsigned short.

@@ -15,8 +15,7 @@ constexpr double kSmallestFontSize = 1e-7;
 template <class Whole>
 int CheckWhole(int bReport, CDataExchange* pDX, Whole value, Whole min, Whole max, const char* format) {
     if (value >= min && value <= max) return 1;
-    return FailIntRange(bReport, pDX, static_cast<long>(min), static_cast<long>(max), format,
-                        AFX_IDP_PARSE_INT_RANGE);
+    return FailIntRange(bReport, pDX, static_cast<long>(min), static_cast<long>(max), format, AFX_IDP_PARSE_INT_RANGE);
 }
 
 template <class Real>
@@ -27,8 +26,7 @@ int CheckReal(int bReport, CDataExchange* pDX, Real value, Real min, Real max, i
 
 } // namespace
 
-int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min,
-                   unsigned char max) {
+int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min, unsigned char max) {
     return CheckWhole(bReport, pDX, value, min, max, "%u");
 }
 
@@ -36,8 +34,7 @@ int DDV_MinMaxInt(int bReport, CDataExchange* pDX, int value, int min, int max) 
     return CheckWhole(bReport, pDX, value, min, max, "%ld");
 }
 
-int DDV_MinMaxUI2(int bReport, CDataExchange* pDX, unsigned short value, unsigned short min,
-                  unsigned short max) {
+int DDV_MinMaxUI2(int bReport, CDataExchange* pDX, unsigned short value, unsigned short min, unsigned short max) {
     return CheckWhole(bReport, pDX, value, min, max, "%ld");
 }
 
@@ -49,8 +46,7 @@ int DDV_MinMaxUInt(int bReport, CDataExchange* pDX, unsigned int value, unsigned
     return CheckWhole(bReport, pDX, value, min, max, "%lu");
 }
 
-int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long value, unsigned long min,
-                    unsigned long max) {
+int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long value, unsigned long min, unsigned long max) {
     return CheckWhole(bReport, pDX, value, min, max, "%lu");
 }
 

@@ -10,14 +10,12 @@
 
 #include "orlo/export.h"
 
-ORLO_API int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min,
-                            unsigned char max);
+ORLO_API int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min, unsigned char max);
 ORLO_API int DDV_MinMaxInt(int bReport, CDataExchange* pDX, int value, int min, int max);
 ORLO_API int DDV_MinMaxUI2(int bReport, CDataExchange* pDX, unsigned short value, unsigned short min,
                            unsigned short max);
 ORLO_API int DDV_MinMaxLong(int bReport, CDataExchange* pDX, long value, long min, long max);
-ORLO_API int DDV_MinMaxUInt(int bReport, CDataExchange* pDX, unsigned int value, unsigned int min,
-                            unsigned int max);
+ORLO_API int DDV_MinMaxUInt(int bReport, CDataExchange* pDX, unsigned int value, unsigned int min, unsigned int max);
 ORLO_API int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long value, unsigned long min,
                              unsigned long max);
 ORLO_API int DDV_MinMaxFloat(int bReport, CDataExchange* pDX, const float& value, float min, float max);

@@ -31,8 +31,8 @@ int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) 
     int state = IsIndeterminate(value) ? BST_INDETERMINATE : value;
     DDX_Check(bReport, pDX, nIDC, state);
     if (pDX->m_bSaveAndValidate)
-        value = state == BST_INDETERMINATE ? Indeterminate<unsigned short>::Value()
-                                           : static_cast<unsigned short>(state);
+        value =
+            state == BST_INDETERMINATE ? Indeterminate<unsigned short>::Value() : static_cast<unsigned short>(state);
     return 1;
 }
 

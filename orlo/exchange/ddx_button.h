@@ -15,8 +15,7 @@ ORLO_API int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, unsigned short
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value);
 
-// A radio group whose buttons map to other numbers: pMap[i + 1] for the button at position i, pMap[0] without one; nCount is
-// one more than the buttons. Loading a number that is not in the map checks no button; the last of equal ones counts. Fails
-// for a checked button that the map doesn't have.
-ORLO_API int DDX_RadioMap(int bReport, CDataExchange* pDX, unsigned int nIDC, int& value, int* pMap,
-                          int nCount);
+// A radio group whose buttons map to other numbers: pMap[i + 1] for the button at position i, pMap[0] without one;
+// nCount is one more than the buttons. Loading a number that is not in the map checks no button; the last of equal ones
+// counts. Fails for a checked button that the map doesn't have.
+ORLO_API int DDX_RadioMap(int bReport, CDataExchange* pDX, unsigned int nIDC, int& value, int* pMap, int nCount);

@@ -47,8 +47,7 @@ void SaveEffect(CDataExchange* pDX, const Effect& effect, unsigned short& mask, 
 }
 
 void LoadEffect(CDataExchange* pDX, const Effect& effect, unsigned short mask, unsigned short values) {
-    unsigned short state =
-        mask & effect.bit ? Indeterminate<unsigned short>::Value() : (values & effect.bit) != 0;
+    unsigned short state = mask & effect.bit ? Indeterminate<unsigned short>::Value() : (values & effect.bit) != 0;
     DDX_Check(1, pDX, effect.nIDC, state);
 }
 

@@ -11,8 +11,7 @@ void ExchangeIndex(CDataExchange* pDX, const ControlItems& items, int& value) {
     if (pDX->m_bSaveAndValidate)
         value = items.Selected();
     else
-        items.Select(value < items.Count() ? value
-                                           : -1); // beyond the list it would clear only some systems' lists
+        items.Select(value < items.Count() ? value : -1); // beyond the list it would clear only some systems' lists
 }
 
 bool SelectExact(const ControlItems& items, const char* text) {

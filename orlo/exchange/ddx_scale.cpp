@@ -42,8 +42,7 @@ void MakeScaleText(TableStruct* units, double scale, CString& text) {
 
 } // namespace
 
-int DDX_CBScale(int bReport, CDataExchange* pDX, unsigned int nIDC, CString& text, TableStruct* units,
-                double* pScale) {
+int DDX_CBScale(int bReport, CDataExchange* pDX, unsigned int nIDC, CString& text, TableStruct* units, double* pScale) {
     const HWND control = pDX->PrepareCtrl(static_cast<int>(nIDC));
     double scale = 1.0;
     if (pDX->m_bSaveAndValidate) {

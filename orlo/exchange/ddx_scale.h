@@ -14,5 +14,5 @@
 //   pScale   null, or the scale as a factor: what a load falls back on while text is empty, and what both
 //   directions set
 // Fails with a message if the text is not a scale (save), without one if both text and value are missing (load).
-ORLO_API int DDX_CBScale(int bReport, CDataExchange* pDX, unsigned int nIDC, CString& text,
-                         TableStruct* units, double* pScale);
+ORLO_API int DDX_CBScale(int bReport, CDataExchange* pDX, unsigned int nIDC, CString& text, TableStruct* units,
+                         double* pScale);

@@ -150,8 +150,7 @@ int DDX_CBTableLookupIndex(int bReport, CDataExchange* pDX, int nIDC, unsigned i
         return 1;
     }
     const ControlItems items = ControlItems::OfCombo(control);
-    if (!IsTableIdentifier(value) ||
-        !::TableEntryGetName(table, static_cast<uint16_t>(value), name, sizeof name)) {
+    if (!IsTableIdentifier(value) || !::TableEntryGetName(table, static_cast<uint16_t>(value), name, sizeof name)) {
         items.Select(-1);
         return 1;
     }

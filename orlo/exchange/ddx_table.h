@@ -2,7 +2,8 @@
 // identifier. See ddx.h for the convention, controls/control_item.h for the text of an item.
 //
 //   m_nStyle = 0xFFFFFFFF;                       // the selection holds several styles
-//   DDX_LBTableIndex(1, pDX, IDC_LINE_STYLE_LIST, m_nStyle);   // load: no item has that key, the selection stays as it is
+//   DDX_LBTableIndex(1, pDX, IDC_LINE_STYLE_LIST, m_nStyle);   // load: no item has that key, the selection stays as it
+//   is
 //                                                // save without a selection: the variable stays as it is
 #pragma once
 

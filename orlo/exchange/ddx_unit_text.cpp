@@ -39,8 +39,8 @@ int ExchangeHostText(int bReport, CDataExchange* pDX, unsigned int nIDC, double&
     return DDX_Text(bReport, pDX, id, text);
 }
 
-int ExchangePaperText(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
-                      DrawingStruct* pDrawing, int bBlank, uint16_t nUnit) {
+int ExchangePaperText(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
+                      int bBlank, uint16_t nUnit) {
     TableStruct* const units = pDrawing ? pDrawing->pUnits : nullptr;
     if (!units) return FailExchange(bReport, pDX);
     return ExchangeHostText(
@@ -72,13 +72,13 @@ int DDX_TextPaper(int bReport, CDataExchange* pDX, unsigned int nIDC, double& va
     return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, kUnitMillimeter);
 }
 
-int DDX_TextPaperMM(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
-                    DrawingStruct* pDrawing, int bBlank) {
+int DDX_TextPaperMM(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
+                    int bBlank) {
     return ExchangePaperText(bReport, pDX, nIDC, value, pDrawing, bBlank, 0);
 }
 
-int DDX_TextPaperWorld(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
-                       DrawingStruct* pDrawing, double dScale, int bBlank) {
+int DDX_TextPaperWorld(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
+                       double dScale, int bBlank) {
     if (!(std::fabs(dScale) > kSmallestScale)) return FailExchange(bReport, pDX);
     double factor = 1.0;
     ::UnitsGetLUnitValue(pDrawing ? pDrawing->pUnits : nullptr, kUnitDrawing, &factor);
@@ -89,8 +89,8 @@ int DDX_TextPaperWorld(int bReport, CDataExchange* pDX, unsigned int nIDC, doubl
     return 1;
 }
 
-int DDX_TextAngular(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value,
-                    DrawingStruct* pDrawing, int bBlank) {
+int DDX_TextAngular(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, DrawingStruct* pDrawing,
+                    int bBlank) {
     if (!pDrawing) return FailExchange(bReport, pDX);
     return ExchangeHostText(
         bReport, pDX, nIDC, value, bBlank,

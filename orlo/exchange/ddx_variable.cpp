@@ -42,8 +42,7 @@ int WholeVariable(TableStruct* pTable, unsigned long nID, int missing) {
 
 // A whole number through any exchange of ints. The result is always 1.
 template <class Exchange>
-int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing,
-                  Exchange exchange) {
+int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing, Exchange exchange) {
     int value = pDX->m_bSaveAndValidate ? missing : WholeVariable(pTable, nID, missing);
     exchange(value);
     if (pDX->m_bSaveAndValidate) ::TableSetIntVar(pTable, Key(nID), value);
@@ -51,8 +50,8 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
 }
 
 // Inches of the field, checked.
-int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min,
-                     double max, unsigned int nIDPrompt, double& inches) {
+int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min, double max,
+                     unsigned int nIDPrompt, double& inches) {
     double length = kCustomary * kMillimetersPerInch;
     if (!::UnitsTextToNumericEx(pUnits, kUnitMillimeter, 0, text, &length)) {
         if (min < max) return FailRealRange(bReport, pDX, min, max, kLimitDigits, nIDPrompt);
@@ -66,8 +65,8 @@ int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, Table
 
 } // namespace
 
-int DDX_TextVarNumeric(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                       unsigned long nID, double min, double max) {
+int DDX_TextVarNumeric(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
+                       double min, double max) {
     const int id = static_cast<int>(nIDC);
     double value = 0.0;
     if (!pDX->m_bSaveAndValidate) {
@@ -80,8 +79,8 @@ int DDX_TextVarNumeric(int bReport, CDataExchange* pDX, unsigned int nIDC, Table
     return 1;
 }
 
-int DDX_TextVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
-                   long min, long max) {
+int DDX_TextVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID, long min,
+                   long max) {
     const int id = static_cast<int>(nIDC);
     long value = 0;
     if (!pDX->m_bSaveAndValidate) {
@@ -94,8 +93,7 @@ int DDX_TextVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStru
     return 1;
 }
 
-int DDX_TextVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                      unsigned long nID) {
+int DDX_TextVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
     CString text;
     if (!pDX->m_bSaveAndValidate) text = StringVariable(pTable, nID, kEditSize);
     if (!DDX_Text(bReport, pDX, static_cast<int>(nIDC), text)) return 0;
@@ -103,8 +101,7 @@ int DDX_TextVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableS
     return 1;
 }
 
-int DDX_CBVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                    unsigned long nID) {
+int DDX_CBVarString(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
     CString text;
     if (!pDX->m_bSaveAndValidate) text = StringVariable(pTable, nID, kTextSize);
     DDX_CBString(bReport, pDX, static_cast<int>(nIDC), text);
@@ -128,25 +125,23 @@ int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, 
     }
     ::TableGetNumericVar(pVariables, nID, &inches);
     const int written = ::UnitsNumericToTextEx(pUnits, 0, kUnitMillimeter, inches * kMillimetersPerInch,
-                                             text.GetBuffer(kTextSize - 1), kTextSize, 0, 1);
+                                               text.GetBuffer(kTextSize - 1), kTextSize, 0, 1);
     text.ReleaseBuffer();
     return written ? DDX_Text(bReport, pDX, id, text) : FailExchange(bReport, pDX);
 }
 
-int DDX_CheckVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                    unsigned long nID) {
+int DDX_CheckVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
     return ExchangeWhole(pDX, pTable, nID, 0,
                          [&](int& value) { DDX_Check(bReport, pDX, static_cast<int>(nIDC), value); });
 }
 
-int DDX_RadioVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                    unsigned long nID) {
+int DDX_RadioVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
     return ExchangeWhole(pDX, pTable, nID, -1,
                          [&](int& value) { DDX_Radio(bReport, pDX, static_cast<int>(nIDC), value); });
 }
 
-int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable,
-                       unsigned long nID, long* pMap, int nCount) {
+int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
+                       long* pMap, int nCount) {
     std::vector<int> map(pMap, pMap + std::max(nCount, 0));
     int value = pDX->m_bSaveAndValidate ? 0 : WholeVariable(pTable, nID, 0);
     if (!DDX_RadioMap(bReport, pDX, nIDC, value, map.data(), nCount)) return 0;

@@ -23,8 +23,7 @@ const char* SkipBlanks(const char* text) {
 bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
     const char* const first = SkipBlanks(text);
     char* end = nullptr;
-    const long result =
-        isUnsigned ? static_cast<long>(std::strtoul(first, &end, 10)) : std::strtol(first, &end, 10);
+    const long result = isUnsigned ? static_cast<long>(std::strtoul(first, &end, 10)) : std::strtol(first, &end, 10);
     // Zero must be written as a zero: an empty text or a lone sign is refused.
     if (result == 0 && *first != '0') return false;
     if (*SkipBlanks(end) != '\0') return false;
@@ -46,8 +45,7 @@ bool IsBeginningOfReal(const char* text) {
     float value = 0;
     const std::string begun = text;
     if (ScanRealText(text, value)) return false;
-    const auto open =
-        std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
+    const auto open = std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
     const std::string closed(static_cast<size_t>(std::max<ptrdiff_t>(open, 0)), ')');
     // A bar for "6 1", from which "6 1/2" may come.
     for (const char* next : {"", "1", "/1"})

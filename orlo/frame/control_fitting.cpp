@@ -32,15 +32,14 @@ int LabelWidth(HWND child) {
     char label[64];
     const int length = ::GetWindowTextA(child, label, sizeof label);
     const orlo::WindowDC dc(child);
-    const orlo::SelectedObject font(dc.get(),
-                                    reinterpret_cast<HGDIOBJ>(::SendMessageA(child, WM_GETFONT, 0, 0)));
+    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(::SendMessageA(child, WM_GETFONT, 0, 0)));
     SIZE size = {};
     ::GetTextExtentPoint32A(dc.get(), label, length, &size);
     return size.cx;
 }
 
-// The width that a control should have. Boxes, that wide, grow with the resolution of the screen, which the room that the
-// template has for them and their labels may not.
+// The width that a control should have. Boxes, that wide, grow with the resolution of the screen, which the room that
+// the template has for them and their labels may not.
 int WantedWidth(HWND child, int width, int box) {
     if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
     return std::max(width, box + kLabelRoom + LabelWidth(child));
@@ -62,15 +61,14 @@ bool IsGroupBox(HWND child) {
 // The distance that the template has between a control and the right line of the group box around it; 0 without one.
 int MarginInGroup(const RECT& rect, const std::vector<RECT>& groups) {
     for (const RECT& group : groups) {
-        if (group.left < rect.left && group.top < rect.top && rect.right < group.right &&
-            rect.bottom < group.bottom)
+        if (group.left < rect.left && group.top < rect.top && rect.right < group.right && rect.bottom < group.bottom)
             return group.right - rect.right;
     }
     return 0;
 }
 
-// Boxes of the templates reach beyond the page, which would cut their right edges off. What is in such a box keeps its distance
-// to it.
+// Boxes of the templates reach beyond the page, which would cut their right edges off. What is in such a box keeps its
+// distance to it.
 void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
     RECT client;
     ::GetClientRect(page, &client);

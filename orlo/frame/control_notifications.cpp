@@ -68,7 +68,6 @@ bool PageNotification::IsEditEnd() const {
 unsigned int ChangedControlId(HWND control, unsigned int nID, const char* className) {
     if (!IsRadioButton(control, className)) return nID;
     for (HWND window = control; window != nullptr; window = ::GetWindow(window, GW_HWNDPREV))
-        if (::GetWindowLongPtrA(window, GWL_STYLE) & WS_GROUP)
-            return static_cast<unsigned int>(::GetDlgCtrlID(window));
+        if (::GetWindowLongPtrA(window, GWL_STYLE) & WS_GROUP) return static_cast<unsigned int>(::GetDlgCtrlID(window));
     return nID;
 }

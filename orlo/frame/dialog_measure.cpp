@@ -84,8 +84,7 @@ DialogTemplate ReadTemplate(const void* resource) {
     DialogTemplate result;
     TemplateWords words(resource);
     WORD styleLow, width, height;
-    const size_t afterStyle =
-        14 - sizeof styleLow; // extended style, item count and position are of no use here
+    const size_t afterStyle = 14 - sizeof styleLow; // extended style, item count and position are of no use here
     if (!words.Read(styleLow) || !words.SkipBytes(afterStyle) || !words.Read(width) || !words.Read(height))
         return result;
     result.width = width;

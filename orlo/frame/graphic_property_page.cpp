@@ -169,8 +169,8 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// A list that is closed by Escape shows again what it showed when it was opened; not every system sees to that. Another control
-// that takes the focus closes it too, and leaves the choice.
+// A list that is closed by Escape shows again what it showed when it was opened; not every system sees to that. Another
+// control that takes the focus closes it too, and leaves the choice.
 void CGraphicPropertyPage::OnDroppedList(unsigned int code, HWND combo) {
     const PageNotification notification(combo, code);
     if (!notification.IsOfCombo()) return;
@@ -186,8 +186,7 @@ void CGraphicPropertyPage::OnDroppedList(unsigned int code, HWND combo) {
     if ((focus != combo && !::IsChild(combo, focus)) || items.Selected() == m_nDropped) return;
     items.Select(m_nDropped);
     AfxSetWindowText(combo, m_strDropped);
-    SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(combo), CBN_SELCHANGE),
-                reinterpret_cast<LPARAM>(combo));
+    SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(combo), CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
 }
 
 // Marks the control if the notification changes it. The first change of a page never sets the bit of an edit's end.
@@ -218,8 +217,7 @@ void CGraphicPropertyPage::DrawPreview(CDC* pDC, void* pViewport, CRect& rect) {
     ::GraphicSetDirty(graphic, 1);
     ::GraphicSetExtentsDirty(graphic, 1);
     ::ViewportSetRect(viewport, &rect);
-    if (graphic->wRegenMethod != 0)
-        ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
+    if (graphic->wRegenMethod != 0) ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
     ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
     ::ViewportSetGDIStuff(viewport, nullptr, pDC->m_hDC, 1, 1);
     ::ViewportSetDrawing(viewport, ::GraphicGetDrawing(graphic));

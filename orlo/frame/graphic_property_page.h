@@ -1,16 +1,17 @@
 // The base of every page that edits the selected graphics: the library's own pages, and pages that a host derives.
 //
-// The page does not touch the graphics while the user edits. It keeps one dirty mark per control, set by the notifications
-// of the controls; when it is left it writes back what the user has edited, all or nothing. A dirty control that shows what it
-// showed when it was loaded is not edited: its member keeps the value that was loaded, of which a text may show a few digits
-// only, and nothing is written. While a page is loaded, notifications mark nothing. A derived page supplies a dialog template
-// and DoDataExchange; with a preview also CreatePreviewGraphic and SetPreviewProperties:
+// The page does not touch the graphics while the user edits. It keeps one dirty mark per control, set by the
+// notifications of the controls; when it is left it writes back what the user has edited, all or nothing. A dirty
+// control that shows what it showed when it was loaded is not edited: its member keeps the value that was loaded, of
+// which a text may show a few digits only, and nothing is written. While a page is loaded, notifications mark nothing.
+// A derived page supplies a dialog template and DoDataExchange; with a preview also CreatePreviewGraphic and
+// SetPreviewProperties:
 //
 //   void CMyPage::DoDataExchange(CDataExchange* pDX) {
-//       DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");   // the property of the selection, merged; a write left pending
-//       DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);            // the member in its control; a bad text ends the exchange
-//       if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38); // a stored value is not the user's fault
-//       DDP_PostProcessing(pDX);                          // last: the pending writes are carried out
+//       DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");   // the property of the selection, merged; a write left
+//       pending DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);            // the member in its control; a bad text ends the
+//       exchange if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38); // a stored value is not the
+//       user's fault DDP_PostProcessing(pDX);                          // last: the pending writes are carried out
 //   }
 #pragma once
 
@@ -55,9 +56,9 @@ public:
     int GetControlStatus(unsigned int nID);
     // 0 for a control without a row.
     int SetControlStatus(unsigned int nID, int bDirty);
-    // Returns 1 if the control is dirty and shows something else than when it was last loaded or written; a control that no DDP_
-    // function binds, than when the page was activated. Text that was typed and undone is not an edit. Also 1 for a dirty control
-    // that does not show its value, such as a push button.
+    // Returns 1 if the control is dirty and shows something else than when it was last loaded or written; a control
+    // that no DDP_ function binds, than when the page was activated. Text that was typed and undone is not an edit.
+    // Also 1 for a dirty control that does not show its value, such as a push button.
     int IsEdited(unsigned int nID);
     // Changes of this control (low 16 bits) never count.
     void IgnoreApply(unsigned int nID);
@@ -132,9 +133,9 @@ protected:
     unsigned long m_dwHelpContext;
     int m_bRefreshPending; // the next refresh command reloads the controls
     int m_bInitializing;   // notifications of controls are ignored
-    // Set by a page's constructor: OnInitDialog removes the tab stops of labels and fits the widths of controls to the page and
-    // to the resolution of the screen, as the templates of the library need it. Otherwise a page's controls stay as in its
-    // template.
+    // Set by a page's constructor: OnInitDialog removes the tab stops of labels and fits the widths of controls to the
+    // page and to the resolution of the screen, as the templates of the library need it. Otherwise a page's controls
+    // stay as in its template.
     int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;

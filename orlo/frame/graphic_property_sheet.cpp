@@ -19,9 +19,8 @@ constexpr unsigned int kPreviewId = 3999;
 
 } // namespace
 
-CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods,
-                                             DrawingStruct* pDrawing, void* pGraphics,
-                                             unsigned long dwGraphicFlags, CWnd* pParentWnd,
+CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
+                                             void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
                                              unsigned int iSelectPage)
     : COrloPropertySheet(LibraryText(nIDCaption), pParentWnd, iSelectPage) {
     m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};

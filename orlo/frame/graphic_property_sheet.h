@@ -1,5 +1,5 @@
-// The tabbed dialog over the selected graphics of a drawing: holds what all its pages share, owns the preview group and the
-// preview window, and lays itself out with the page at the left and buttons and preview in a column beside it.
+// The tabbed dialog over the selected graphics of a drawing: holds what all its pages share, owns the preview group and
+// the preview window, and lays itself out with the page at the left and buttons and preview in a column beside it.
 //
 // Made by InitGraphicPropertySheet (orlo/entry/entry.h); the host runs and deletes it. Drawing and selection stay the
 // host's. DoModal returns 1 after OK, IDCANCEL after Cancel, or a code that a page has chosen.
@@ -27,9 +27,8 @@ public:
     ORLO_API CRuntimeClass* GetRuntimeClass() const override;
 
     // nIDCaption: a text of the library.
-    CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
-                          void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
-                          unsigned int iSelectPage);
+    CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing, void* pGraphics,
+                          unsigned long dwGraphicFlags, CWnd* pParentWnd, unsigned int iSelectPage);
     ~CGraphicPropertySheet() override;
 
     // Null, or 0, without a record.

@@ -36,8 +36,7 @@ int DistanceToText(const RECT& text, const RECT& field, const RECT& reach) {
     const LONG middle = (text.top + text.bottom) / 2;
     const LONG across = field.left - text.right, down = field.top - text.bottom;
     const bool before = middle >= field.top && middle <= field.bottom && across >= 0 && across <= reach.right;
-    const bool above =
-        text.left < field.right && text.right > field.left && down >= 0 && down <= reach.bottom;
+    const bool above = text.left < field.right && text.right > field.left && down >= 0 && down <= reach.bottom;
     return before ? across : above ? down : -1;
 }
 
@@ -52,8 +51,8 @@ const Child* LabelOf(const Child& field, const std::vector<Child>& texts, const 
         nearest = distance;
     }
     if (label) return label;
-    const auto around = std::find_if(boxes.begin(), boxes.end(),
-                                     [&](const Child& box) { return IsWithin(field.place, box.place); });
+    const auto around =
+        std::find_if(boxes.begin(), boxes.end(), [&](const Child& box) { return IsWithin(field.place, box.place); });
     return around != boxes.end() ? &*around : nullptr;
 }
 
@@ -88,6 +87,5 @@ void PutLabelsBeforeFields(HWND page, std::vector<HWND> controls) {
     RECT reach = kReach;
     ::MapDialogRect(page, &reach);
     for (const Child& field : fields)
-        if (const Child* label = LabelOf(field, texts, boxes, reach))
-            PutBefore(label->window, field.window, controls);
+        if (const Child* label = LabelOf(field, texts, boxes, reach)) PutBefore(label->window, field.window, controls);
 }

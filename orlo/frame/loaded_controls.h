@@ -1,8 +1,9 @@
-// What the controls of a page showed when they last agreed with the selection, and the values that the selection had then.
+// What the controls of a page showed when they last agreed with the selection, and the values that the selection had
+// then.
 //
-// The text of a field says less than its value: 1.23457 for 1.23456789. So a control that shows what it showed after it was
-// loaded, or written, has not been edited, whatever has happened in between, and its member stands for that value to the last
-// bit.
+// The text of a field says less than its value: 1.23457 for 1.23456789. So a control that shows what it showed after it
+// was loaded, or written, has not been edited, whatever has happened in between, and its member stands for that value
+// to the last bit.
 #pragma once
 
 #include <afxwin.h>
@@ -37,8 +38,8 @@ public:
     // Activating the page: what a control shows that no property has been bound to.
     void ShowUnbound(unsigned int nID);
 
-    // Saving: sets the value to the loaded one and returns true if the user has not edited the control. The stars that stand
-    // for numbers that differ are no number: an edited control that shows them sets the value to the marker.
+    // Saving: sets the value to the loaded one and returns true if the user has not edited the control. The stars that
+    // stand for numbers that differ are no number: an edited control that shows them sets the value to the marker.
     template <class T>
     bool Keep(unsigned int nID, const std::string& property, T& value) {
         if (!IsEdited(nID)) {

@@ -1,5 +1,5 @@
-// The page that every sheet of the library is made of: closes drop-down lists that a move would leave hanging, sizes the
-// drop-down of the library's combos, and takes the focus from a control before the page's data is exchanged.
+// The page that every sheet of the library is made of: closes drop-down lists that a move would leave hanging, sizes
+// the drop-down of the library's combos, and takes the focus from a control before the page's data is exchanged.
 #pragma once
 
 #include <afxdlgs.h>
@@ -25,7 +25,8 @@ public:
     const char* GetTemplateName() const;
 
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
-    // A multi-line edit control passes Tab to its parent. The tab order is the sheet's, which has the buttons and the tabs.
+    // A multi-line edit control passes Tab to its parent. The tab order is the sheet's, which has the buttons and the
+    // tabs.
     LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
         return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
     }

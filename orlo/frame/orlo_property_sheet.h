@@ -1,5 +1,5 @@
-// The sheet that the library's sheets derive from: finds a page by its dialog template, keeps drop-down lists from hanging
-// in the air when the dialog moves, and routes help to the active page.
+// The sheet that the library's sheets derive from: finds a page by its dialog template, keeps drop-down lists from
+// hanging in the air when the dialog moves, and routes help to the active page.
 #pragma once
 
 #include <afxdlgs.h>
@@ -17,8 +17,8 @@ public:
     COrloPropertySheet(const char* lpszCaption, CWnd* pParentWnd, unsigned int iSelectPage);
     ~COrloPropertySheet() override;
 
-    // The page made from that dialog template, or null. Of a number only the low 16 bits count; a number never matches a
-    // name, and names are compared with case.
+    // The page made from that dialog template, or null. Of a number only the low 16 bits count; a number never matches
+    // a name, and names are compared with case.
     COrloPropertyPage* FindPage(unsigned int nIDTemplate) const;
     COrloPropertyPage* FindPage(const char* lpszTemplateName) const;
 

@@ -25,15 +25,15 @@ void* CGraphicPropertyPage::GetNextObject(void* pPos, int bPreview) {
 }
 
 // The overloads of one name differ in their types alone.
-#define ORLO_PROPERTY_ACCESS(suffix, Member, Type)                                                           \
-    int CGraphicPropertyPage::GetProp##suffix(const char* pszPropName, Member* pValue, int bPreview) {       \
-        return binding::Merge<Type>(ObjectsOf(GetSheet(), bPreview), pszPropName, pValue);                   \
+#define ORLO_PROPERTY_ACCESS(suffix, Member, Type)                                                                     \
+    int CGraphicPropertyPage::GetProp##suffix(const char* pszPropName, Member* pValue, int bPreview) {                 \
+        return binding::Merge<Type>(ObjectsOf(GetSheet(), bPreview), pszPropName, pValue);                             \
     }
 
-#define ORLO_TEXT_ACCESS(Member, Type)                                                                       \
-    ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                 \
-    int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {            \
-        return binding::Write<Type>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);         \
+#define ORLO_TEXT_ACCESS(Member, Type)                                                                                 \
+    ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                           \
+    int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {                      \
+        return binding::Write<Type>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);                   \
     }
 
 using UI1 = binding::Plain<unsigned char, VT_UI1>;

@@ -14,8 +14,7 @@
 namespace {
 
 constexpr int kButtonIds[] = {IDOK, IDCANCEL, ID_HELP};
-constexpr unsigned int kButtonTexts =
-    0xF220; // the framework's captions: text, line feed, width in dialog units
+constexpr unsigned int kButtonTexts = 0xF220; // the framework's captions: text, line feed, width in dialog units
 constexpr unsigned int kFramePainted = 0x58D; // posted after each paint, for the host
 constexpr int kFrame = 3;                     // room for the three-dimensional frame, in pixels
 
@@ -76,8 +75,7 @@ void CGraphicPropertySheet::RecalcLayout() {
 
     const int cySheet = cyTab + pageRect.Height() + 2 * my + kFrame + 1;
     CRect frame(0, 0, cxSheet, cySheet);
-    ::AdjustWindowRectEx(&frame, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE,
-                         ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
+    ::AdjustWindowRectEx(&frame, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
     const CPoint place = GetCenteredPlace(frame.Size());
     ::SetWindowPos(m_hWnd, nullptr, place.x, place.y, frame.Width(), frame.Height(), keep);
 
@@ -90,8 +88,7 @@ void CGraphicPropertySheet::RecalcLayout() {
     }
 
     const int right = cxSheet - 2 * mx, bottom = cyTab + pageRect.Height();
-    ::MoveWindow(m_wndPreview.m_hWnd, right - m_cxPreview, bottom - m_cyPreview, m_cxPreview, m_cyPreview,
-                 FALSE);
+    ::MoveWindow(m_wndPreview.m_hWnd, right - m_cxPreview, bottom - m_cyPreview, m_cxPreview, m_cyPreview, FALSE);
 }
 
 namespace {
@@ -122,10 +119,8 @@ void CGraphicPropertySheet::OnPaint() {
         CPaintDC dc(this);
         dc.SetBkMode(TRANSPARENT);
         DrawCorner(dc.m_hDC, COLOR_BTNHIGHLIGHT, {{r.right - 1, r.top}, {r.left, r.top}, {r.left, r.bottom}});
-        DrawCorner(dc.m_hDC, COLOR_BTNSHADOW,
-                   {{r.left, r.bottom}, {r.right - 1, r.bottom}, {r.right - 1, r.top}});
-        DrawCorner(dc.m_hDC, COLOR_BTNTEXT,
-                   {{r.right, r.top}, {r.right, r.bottom + 1}, {r.left - 1, r.bottom + 1}});
+        DrawCorner(dc.m_hDC, COLOR_BTNSHADOW, {{r.left, r.bottom}, {r.right - 1, r.bottom}, {r.right - 1, r.top}});
+        DrawCorner(dc.m_hDC, COLOR_BTNTEXT, {{r.right, r.top}, {r.right, r.bottom + 1}, {r.left - 1, r.bottom + 1}});
     }
     PostMessage(kFramePainted, 0, reinterpret_cast<LPARAM>(m_wndPreview.m_hWnd));
 }

@@ -18,14 +18,12 @@ WriteOutcome::~WriteOutcome() {
 }
 
 void WriteOutcome::AddFailure(const char* text) {
-    if (m_failure.IsEmpty())
-        m_failure = *text != '\0' ? CString(text) : LibraryText(AFX_IDP_INTERNAL_FAILURE);
+    if (m_failure.IsEmpty()) m_failure = *text != '\0' ? CString(text) : LibraryText(AFX_IDP_INTERNAL_FAILURE);
 }
 
 void WriteOutcome::Report(int total) const {
     CString message;
-    if (!m_unchanged.empty())
-        message.Format(LibraryText(IDS_NOT_CHANGED), static_cast<int>(m_unchanged.size()), total);
+    if (!m_unchanged.empty()) message.Format(LibraryText(IDS_NOT_CHANGED), static_cast<int>(m_unchanged.size()), total);
     if (!message.IsEmpty() && !m_failure.IsEmpty()) message += '\n';
     message += m_failure;
     if (!message.IsEmpty()) AfxMessageBox(message, MB_ICONEXCLAMATION);

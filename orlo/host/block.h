@@ -20,5 +20,4 @@ DRAWCORE_API GraphicStruct* BlockGetGraphic(TableStruct* blocks, uint16_t id);
 // Makes the graphic (kGraphicInsert) an insertion of the block, transformed by the matrix (null: the identity). Its
 // four vertices are the origin and the end points of the block's axes. A graphic that is not attached to a drawing is
 // attached to that of the block table. Returns non-zero on success; the library ignores the result.
-DRAWCORE_API int InsertSetData(GraphicStruct* insert, TableStruct* blocks, uint16_t id,
-                               const MatrixStruct* matrix);
+DRAWCORE_API int InsertSetData(GraphicStruct* insert, TableStruct* blocks, uint16_t id, const MatrixStruct* matrix);

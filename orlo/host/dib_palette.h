@@ -23,8 +23,7 @@ static_assert(sizeof(InfoHeader) == 40, "the header is read as it stands");
 
 inline constexpr uint32_t kPublishedSizes[] = {40, 52, 56, 108, 124};
 inline constexpr uint32_t kBitFields = 3;
-inline constexpr uint64_t kMaskBytes =
-    12; // three masks, outside of the header only where it has no room for them
+inline constexpr uint64_t kMaskBytes = 12; // three masks, outside of the header only where it has no room for them
 inline constexpr uint64_t kColorBytes = 4;
 
 inline uint64_t Colors(const InfoHeader& header) {
@@ -39,8 +38,7 @@ inline uint16_t PaletteSizeOf(const void* bitmap) {
     using namespace dib;
     uint32_t size;
     std::memcpy(&size, bitmap, sizeof size);
-    if (std::find(std::begin(kPublishedSizes), std::end(kPublishedSizes), size) == std::end(kPublishedSizes))
-        return 0;
+    if (std::find(std::begin(kPublishedSizes), std::end(kPublishedSizes), size) == std::end(kPublishedSizes)) return 0;
     InfoHeader header;
     std::memcpy(&header, bitmap, sizeof header);
     const bool masks = header.compression == kBitFields && size == sizeof(InfoHeader);

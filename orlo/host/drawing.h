@@ -15,14 +15,12 @@ DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* na
 // drawing units, both when read and when written. kind 0: a length. kind 1: a text size; in a drawing in paper space
 // the value is in millimeters and the text in the unit of text sizes.
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int kind);
-DRAWCORE_API int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size,
-                                         int kind);
+DRAWCORE_API int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int kind);
 
 // Convert an angle between text and radians. A number without a unit is in the angular system of the drawing: degrees,
 // grads or radians. reserved is 0.
 DRAWCORE_API int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* value, int reserved);
-DRAWCORE_API int DrawingStdAngleToText(DrawingStruct* drawing, double value, char* buffer, int size,
-                                       int reserved);
+DRAWCORE_API int DrawingStdAngleToText(DrawingStruct* drawing, double value, char* buffer, int size, int reserved);
 
 // Get and set the scale of the drawing on paper, as the text that it was set with. Setting returns 0, and the scale
 // stays, if the text is not a scale.
@@ -33,7 +31,7 @@ DRAWCORE_API int DrawingSetScaleString(DrawingStruct* drawing, const char* text)
 DRAWCORE_API uint16_t DrawingGetCoordSpace(DrawingStruct* drawing);
 // Convert a length in the given space between text and number. unit is the variable of the units table that names the
 // unit of the text: kUnitDrawing in world space, kUnitTextSize for a text size on paper. Return 0 in kSpaceDevice.
-DRAWCORE_API int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value,
-                                           uint16_t coordSpace, uint16_t unit);
+DRAWCORE_API int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t coordSpace,
+                                           uint16_t unit);
 DRAWCORE_API int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size,
                                            uint16_t coordSpace, uint16_t unit);

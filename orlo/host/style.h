@@ -23,13 +23,10 @@ typedef struct BrushPatternStruct BrushPatternStruct;
 DRAWCORE_API uint16_t BrushStyleGetFlags(TableStruct* styles, uint16_t id);
 // Iterate over the families of lines of a style, to which they belong. Return null at the end. *cookie is 0 at the
 // start.
-DRAWCORE_API const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* styles, uint16_t id,
-                                                                 int* cookie);
-DRAWCORE_API const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct* styles, uint16_t id,
-                                                                int* cookie);
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* styles, uint16_t id, int* cookie);
+DRAWCORE_API const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct* styles, uint16_t id, int* cookie);
 // Stores a family of lines: their direction in radians, a point on the first line, the offset of the next line along
 // and across the lines (drawing units at brush scale 1), and the first 8 items of the dash list. dashes has room for 8
 // items.
-DRAWCORE_API void BrushPatternGetData(const BrushPatternStruct* lines, double* angle, double* baseX,
-                                      double* baseY, double* along, double* spacing, int* dashCount,
-                                      double* dashes);
+DRAWCORE_API void BrushPatternGetData(const BrushPatternStruct* lines, double* angle, double* baseX, double* baseY,
+                                      double* along, double* spacing, int* dashCount, double* dashes);

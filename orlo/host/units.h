@@ -16,8 +16,8 @@ DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits, as mantissa and exponent if exponentForm is 1. The buffer has at
 // least 32 bytes. context and reserved are 0; trim is 1: trailing zeros are omitted.
-DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved,
-                                 int exponentForm, int trim);
+DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved, int exponentForm,
+                                 int trim);
 
 // Convert a length between text and number.
 //
@@ -32,8 +32,8 @@ DRAWCORE_API void DoubleToString(int context, double value, int digits, char* bu
 // reserved is 0. suffix is 1: the name of the unit follows the number.
 DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
                                       double* value);
-DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value,
-                                      char* buffer, int size, int reserved, int suffix);
+DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
+                                      int size, int reserved, int suffix);
 
 // Returns the factor of a drawing scale ("1 in = 1 ft", "1 : 48"), or 0.0 if the text is not a scale.
 DRAWCORE_API double UnitsGetScaleValue(TableStruct* units, const char* text);

@@ -26,10 +26,10 @@ ORLO_CONSTANT char kPropLayer[] = "Layer"; // identifier of an entry of kTableLa
 ORLO_CONSTANT char kPropInfo[] = "Info";   // attribute text
 // Entry of kTableBlocks: the style that the graphic is drawn in, 0 for none.
 ORLO_CONSTANT char kPropStyleTree[] = "StyleTree";
-ORLO_CONSTANT char kPropPenColor[] = "PenColor"; // a COLORREF, kColorByLayer or kColorByBlock
-ORLO_CONSTANT char kPropPenWidth[] = "PenWidth"; // in the unit that kPropScaleSystem selects
-ORLO_CONSTANT char kPropPenScale[] = "PenScale"; // factor of the dash pattern
-ORLO_CONSTANT char kPropPenStyle[] = "PenStyle"; // entry of kTableLineStyles or a kLineStyle... marker
+ORLO_CONSTANT char kPropPenColor[] = "PenColor";           // a COLORREF, kColorByLayer or kColorByBlock
+ORLO_CONSTANT char kPropPenWidth[] = "PenWidth";           // in the unit that kPropScaleSystem selects
+ORLO_CONSTANT char kPropPenScale[] = "PenScale";           // factor of the dash pattern
+ORLO_CONSTANT char kPropPenStyle[] = "PenStyle";           // entry of kTableLineStyles or a kLineStyle... marker
 ORLO_CONSTANT char kPropPenAlignment[] = "PenAlignment";   // 1: dashes are fitted to each segment
 ORLO_CONSTANT char kPropScaleSystem[] = "ScaleSystem";     // kScaleWorld or kScalePaper
 ORLO_CONSTANT char kPropBrushColor[] = "BrushColor";       // like kPropPenColor, also kColorOfPen
@@ -69,7 +69,7 @@ enum {
 enum {
     kFlagNoPenBrush = 0x40, // a vertex graphic that does not get the Pen and Brush pages
     kFlagNoParent = 0x100,  // pParent is not valid
-    kFlagPreview = 0x10000 // set or cleared by the library at each iteration: the graphic is one of a preview
+    kFlagPreview = 0x10000  // set or cleared by the library at each iteration: the graphic is one of a preview
 };
 
 // Flags of vertices (VertexStruct::wFlags).
@@ -93,8 +93,8 @@ ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
 ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // brushes only: the color of the pen
 
-// Markers: pen widths other than lengths, which are not negative. PropSet can accept them; PropGet returns the width that
-// they stand for.
+// Markers: pen widths other than lengths, which are not negative. PropSet can accept them; PropGet returns the width
+// that they stand for.
 ORLO_CONSTANT double kPenWidthByLayer = -0x1p126;
 ORLO_CONSTANT double kPenWidthByBlock = -0x1p127;
 
@@ -153,8 +153,7 @@ enum {
 
 // Strings that name the host's predefined styles, which users cannot delete. In the order in which the library
 // compares.
-ORLO_CONSTANT unsigned int kStringsReservedStyles[] = {0x704A, 0x704B, 0x704C, 0x704D,
-                                                       0x704E, 0x7050, 0x704F, 0x7051};
+ORLO_CONSTANT unsigned int kStringsReservedStyles[] = {0x704A, 0x704B, 0x704C, 0x704D, 0x704E, 0x7050, 0x704F, 0x7051};
 
 // Kinds of the library's controls (OrloFill::kind, and the low word of wParam in a notification). A kind is not the
 // identifier of a control in its dialog: all combo boxes of line styles have the same kind.

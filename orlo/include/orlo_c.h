@@ -81,18 +81,18 @@ typedef struct OrloFill {
     uint32_t kind;             // a ControlKind, such as kControlLayers
     const char* tableName;     // name of the table that this kind shows, such as kTableLayers
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
-    uint32_t selected; // entry or color to select; only kControlStyleNames uses it, pages select the others
-    float height;      // kControlFontSizes: if above 0, the font height to select
-    const char* face;  // kControlFontFaces: if not null, a face to add; in the code page of the system
+    uint32_t selected;         // entry or color to select; only kControlStyleNames uses it, pages select the others
+    float height;              // kControlFontSizes: if above 0, the font height to select
+    const char* face;          // kControlFontFaces: if not null, a face to add; in the code page of the system
 } OrloFill;
 
 // Called on the thread of OrloRunSheet when a control was created. context is OrloSheet::context. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
 typedef struct OrloSheet {
-    uint32_t size;        // sizeof(OrloSheet)
-    uint32_t filter;      // which members of the selection to edit: kAllGraphics, or see GraphicFirst
-    struct HWND__* owner; // disabled while the sheet is open; null for none
+    uint32_t size;                   // sizeof(OrloSheet)
+    uint32_t filter;                 // which members of the selection to edit: kAllGraphics, or see GraphicFirst
+    struct HWND__* owner;            // disabled while the sheet is open; null for none
     struct DrawingStruct* drawing;   // must be the host's current drawing; must not be null
     struct GraphicStruct* selection; // the graphic whose members are edited; null: the sheet edits nothing
     void* regenMethods;              // passed to RegenMethodGetPropPage; may be null
@@ -122,12 +122,10 @@ typedef struct OrloGuid {
 } OrloGuid;
 
 // Formats of sections. The last two are sections of the stream "\005DocumentSummaryInformation".
-static const OrloGuid kOrloSummary = {
-    0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
+static const OrloGuid kOrloSummary = {0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
 static const OrloGuid kOrloDocumentSummary = {
     0xD5CDD502, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
-static const OrloGuid kOrloUserDefined = {
-    0xD5CDD505, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
+static const OrloGuid kOrloUserDefined = {0xD5CDD505, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
 
 // Properties of kOrloSummary.
 enum {
@@ -182,8 +180,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenStream(struct IStream* stream, Or
 // Reads a set from a stream of a compound file; the file is closed again. If streamName is null, the stream is
 // "\005SummaryInformation". The library's own reader is used, so a damaged file cannot make the system hang.
 // Other programs may have the file open for writing.
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName,
-                                                    OrloPropset* set);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set);
 // Closes a set and frees it.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 
@@ -196,8 +193,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IS
 // exist. The change is made in a copy that then replaces the file in one step. A file that is damaged or open elsewhere
 // is not changed. Fails with kOrloChanged if the set was read from this stream, or last saved to it, and the stream has
 // changed since then.
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path,
-                                                    const char* streamName);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path, const char* streamName);
 
 typedef struct OrloSection {
     uint32_t size; // sizeof(OrloSection)
@@ -223,8 +219,8 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t
                                                        OrloProperty* property);
 // Stores the name of a property in the dictionary of the section, or the identifier for a name. Names are compared
 // without regard to the case of A to Z.
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                   char* buffer, size_t* size);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
+                                                   size_t* size);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
                                                     uint32_t* id);
 
@@ -237,12 +233,11 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloG
 //   Bytes    any type: the bytes after the type code
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       int64_t* value);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                   double* value);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                   char* buffer, size_t* size);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                    void* buffer, size_t* size);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
+                                                   size_t* size);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
+                                                    size_t* size);
 
 // Add or replace a property; its section is created if it does not exist. A new section has the code page 65001
 // (UTF-8). For another code page, set kOrloCodePage first; it cannot be changed later. An existing property can only be
@@ -250,12 +245,12 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloG
 // rounded to a float. The bytes of SetBytes must be one value of the type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t type, int64_t value);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                   uint32_t type, double value);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                   uint32_t type, const char* value);
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id,
-                                                    uint32_t type, const void* data, size_t size);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                                   double value);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                                   const char* value);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                                    const void* data, size_t size);
 // Names a property in the dictionary of its section, which must exist. Two properties cannot have the same name.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
@@ -271,9 +266,8 @@ enum { kOrloBgra = 0, kOrloRgba = 1 }; // byte order of a pixel
 
 // Stores the pixels of the thumbnail: four bytes each (alpha is 255), row by row from the top. For the buffer see
 // OrloPropsetSaveMemory.
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order,
-                                                              uint32_t* width, uint32_t* height, void* buffer,
-                                                              size_t* size);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t order, uint32_t* width,
+                                                              uint32_t* height, void* buffer, size_t* size);
 // Creates a bitmap of the thumbnail. The caller deletes it with DeleteObject.
-ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width,
-                                                              uint32_t* height, struct HBITMAP__** bitmap);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width, uint32_t* height,
+                                                              struct HBITMAP__** bitmap);

@@ -78,16 +78,15 @@ bool IsIndeterminateStyle(unsigned int style) {
 } // namespace
 
 CBrushPage::CBrushPage()
-    : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable(kTableBrushStyles)),
-      m_dwColor(kColorOfPen), m_dAngle(0.0), m_dScale(1.0), m_nStyle(kBrushStyleNone), m_szStyleName(),
-      m_nHatchCross(0), m_nLastCross(0), m_nDrawMode(0) {}
+    : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable(kTableBrushStyles)), m_dwColor(kColorOfPen),
+      m_dAngle(0.0), m_dScale(1.0), m_nStyle(kBrushStyleNone), m_szStyleName(), m_nHatchCross(0), m_nLastCross(0),
+      m_nDrawMode(0) {}
 
 CBrushPage::~CBrushPage() = default;
 
 BOOL CBrushPage::OnInitDialog() {
     if (m_hWnd != nullptr) {
-        ::SendDlgItemMessageA(m_hWnd, IDC_BRUSH_ANGLE_ARROWS, UDM_SETRANGE, 0,
-                              AngularUnitOf(CurrentDrawing()).highest);
+        ::SendDlgItemMessageA(m_hWnd, IDC_BRUSH_ANGLE_ARROWS, UDM_SETRANGE, 0, AngularUnitOf(CurrentDrawing()).highest);
         CWnd* color = CWnd::FromHandle(::GetDlgItem(m_hWnd, IDC_BRUSH_COLOR));
         if (color != nullptr && color->IsKindOf(RUNTIME_CLASS(CColorControl)))
             static_cast<CColorControl*>(color)->EnableLastEntry(1);
@@ -119,8 +118,8 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_PostProcessing(pDX);
 }
 
-// An angle that cannot be read does not end the exchange: each graphic keeps its own. One that cannot be written shows as a blank
-// field.
+// An angle that cannot be read does not end the exchange: each graphic keeps its own. One that cannot be written shows
+// as a blank field.
 void CBrushPage::ExchangeAngle(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     const bool exchanged = DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()) != 0;
@@ -209,9 +208,7 @@ struct CBrushPage::Preview {
 
 const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
     {{IDC_BRUSH_COLOR},
-     [](CBrushPage& page, CDataExchange* pDX, int) {
-         CarryColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor);
-     }},
+     [](CBrushPage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor); }},
     {{IDC_BRUSH_ANGLE},
      [](CBrushPage& page, CDataExchange* pDX, int) {
          double angle = 0.0;
@@ -233,7 +230,8 @@ const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
 void CBrushPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CarryToPreview(*this, Preview::kRows, bAll);
-    // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own pen.
+    // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own
+    // pen.
     ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);
     ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
@@ -266,8 +264,7 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
 
 void CBrushPage::EnableHatchControls(unsigned int style, unsigned short flags) {
     const bool vector = style != kBrushStyleNone && style != kSolid && (flags & kBrushVector) != 0;
-    const bool colored =
-        style == kSolid || vector || (style != kBrushStyleNone && (flags & kBrushTakesColor) != 0);
+    const bool colored = style == kSolid || vector || (style != kBrushStyleNone && (flags & kBrushTakesColor) != 0);
     const auto enable = [this](int nID, bool on) { ::EnableWindow(::GetDlgItem(m_hWnd, nID), on); };
     enable(IDC_BRUSH_COLOR, colored);
     enable(IDC_BRUSH_SCALE, vector);

@@ -1,5 +1,5 @@
-// The Brush page: style, color, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A text
-// that is not an angle is ignored with a beep.
+// The Brush page: style, color, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A
+// text that is not an angle is ignored with a beep.
 #pragma once
 
 #include "orlo/export.h"
@@ -27,8 +27,9 @@ public:
     ORLO_API int DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style);
 
 protected:
-    // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written by the host. A step
-    // beyond a full turn wraps around, an indeterminate angle starts at 0, and a text that is not an angle stays, with a beep.
+    // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written by the host. A
+    // step beyond a full turn wraps around, an indeterminate angle starts at 0, and a text that is not an angle stays,
+    // with a beep.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:

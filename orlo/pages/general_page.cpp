@@ -71,8 +71,7 @@ ON_BN_CLICKED(IDC_STYLE_DELETE, &ThisClass::OnDelete)
 ON_CBN_KILLFOCUS(IDC_STYLE_NAME, &ThisClass::OnStyleKillFocus)
 END_MESSAGE_MAP()
 
-CGeneralPage::CGeneralPage()
-    : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bStyleChecked(0) {}
+CGeneralPage::CGeneralPage() : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bStyleChecked(0) {}
 
 CGeneralPage::~CGeneralPage() = default;
 
@@ -109,8 +108,7 @@ void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
     CString shown = IsIndeterminate(m_strInfo) ? CString(kIndeterminateInfo) : m_strInfo;
     DDX_Text(1, pDX, IDC_INFO, shown);
-    if (pDX->m_bSaveAndValidate)
-        m_strInfo = shown == kIndeterminateInfo ? CString(kIndeterminateString) : shown;
+    if (pDX->m_bSaveAndValidate) m_strInfo = shown == kIndeterminateInfo ? CString(kIndeterminateString) : shown;
 }
 
 // ---- The style part
@@ -131,8 +129,8 @@ CString CGeneralPage::CurrentStyleName() const {
     char name[kNameSize] = "";
     CGraphicPropertySheet* sheet = GetSheet();
     if (table == nullptr || sheet == nullptr || sheet->GetGraphics() == nullptr) return name;
-    const uint16_t id = FindEntry(
-        table, [&](uint16_t entry) { return ::TableEntryGetData(table, entry) == sheet->GetGraphics(); });
+    const uint16_t id =
+        FindEntry(table, [&](uint16_t entry) { return ::TableEntryGetData(table, entry) == sheet->GetGraphics(); });
     if (id != 0) ::TableEntryGetName(table, id, name, sizeof name);
     return name;
 }
@@ -211,8 +209,7 @@ void CGeneralPage::OnStyleKillFocus() {
 
 void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
     CGraphicPropertySheet* sheet = GetSheet();
-    if (focus == ::GetDlgItem(sheet->m_hWnd, IDCANCEL) || focus == ::GetDlgItem(m_hWnd, IDC_STYLE_DELETE))
-        return;
+    if (focus == ::GetDlgItem(sheet->m_hWnd, IDCANCEL) || focus == ::GetDlgItem(m_hWnd, IDC_STYLE_DELETE)) return;
     const bool byOk = focus == ::GetDlgItem(sheet->m_hWnd, IDOK);
     TableStruct* table = StyleTable();
     const uint16_t id = table != nullptr ? FindEntryByName(table, name) : 0;

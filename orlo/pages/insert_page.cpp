@@ -29,14 +29,14 @@ namespace {
 constexpr double kMostScale = 1000.0;
 constexpr double kFarthest = 1e38;
 
-// Calls visit for the insertions of the set until it returns false. It may clear withRotationZ for the insertions that follow.
+// Calls visit for the insertions of the set until it returns false. It may clear withRotationZ for the insertions that
+// follow.
 template <class Visit>
 void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit visit) {
     uint32_t position = 0;
     InsertParts parts;
     for (GraphicStruct* graphic = set.First(&position); graphic != nullptr; graphic = set.Next(&position)) {
-        const bool isInsertion =
-            graphic->bType == kGraphicInsert && ReadInsertParts(graphic, parts, withRotationZ);
+        const bool isInsertion = graphic->bType == kGraphicInsert && ReadInsertParts(graphic, parts, withRotationZ);
         if (isInsertion && !visit(graphic, parts)) break;
     }
 }
@@ -46,8 +46,7 @@ bool Merge(const double (&parts)[3], double (&merged)[3]) {
     bool definite = false;
     for (int i = 0; i < 3; ++i) {
         // Mostly they are the same to the last bit.
-        if (parts[i] != merged[i] && !IsIndeterminate(merged[i]) &&
-            CompareDoubles(&parts[i], &merged[i]) != 0)
+        if (parts[i] != merged[i] && !IsIndeterminate(merged[i]) && CompareDoubles(&parts[i], &merged[i]) != 0)
             merged[i] = Indeterminate<double>::Value();
         definite = definite || !IsIndeterminate(merged[i]);
     }
@@ -119,16 +118,14 @@ void CInsertPage::DoDataExchange(CDataExchange* pDX) {
 void CInsertPage::LoadInsertParts(int bPreview) {
     InsertParts merged{};
     bool found = false, withRotationZ = true;
-    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), withRotationZ,
-                     [&](GraphicStruct*, const InsertParts& parts) {
-                         if (!found) merged = parts;
-                         found = true;
-                         const bool position = Merge(parts.position, merged.position),
-                                    scale = Merge(parts.scale, merged.scale),
-                                    rotation = Merge(parts.rotation, merged.rotation);
-                         withRotationZ = !IsIndeterminate(merged.rotation[2]);
-                         return position || scale || rotation;
-                     });
+    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), withRotationZ, [&](GraphicStruct*, const InsertParts& parts) {
+        if (!found) merged = parts;
+        found = true;
+        const bool position = Merge(parts.position, merged.position), scale = Merge(parts.scale, merged.scale),
+                   rotation = Merge(parts.rotation, merged.rotation);
+        withRotationZ = !IsIndeterminate(merged.rotation[2]);
+        return position || scale || rotation;
+    });
     if (!found) return;
     for (const Field& field : kFields)
         this->*field.member = field.Of(merged);
@@ -137,16 +134,14 @@ void CInsertPage::LoadInsertParts(int bPreview) {
 void CInsertPage::ApplyInsertParts(int bPreview) {
     std::vector<const Field*> written;
     for (const Field& field : kFields)
-        if (!IsIndeterminate(this->*field.member) && (bPreview || IsEdited(field.nID)))
-            written.push_back(&field);
-    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true,
-                     [&](GraphicStruct* graphic, const InsertParts& parts) {
-                         InsertParts wanted = parts;
-                         for (const Field* field : written)
-                             field->Of(wanted) = this->*field->member;
-                         ChangeInsertParts(graphic, parts, wanted);
-                         return true;
-                     });
+        if (!IsIndeterminate(this->*field.member) && (bPreview || IsEdited(field.nID))) written.push_back(&field);
+    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true, [&](GraphicStruct* graphic, const InsertParts& parts) {
+        InsertParts wanted = parts;
+        for (const Field* field : written)
+            field->Of(wanted) = this->*field->member;
+        ChangeInsertParts(graphic, parts, wanted);
+        return true;
+    });
     if (bPreview) return;
     for (const Field* field : written)
         LoadedControls::Of(*this).Write(field->Name(), this->*field->member);

@@ -32,9 +32,9 @@ ON_CBN_SELCHANGE(IDC_SCALE_SYSTEM, &ThisClass::OnScaleSystemChange)
 END_MESSAGE_MAP()
 
 CLinePage::CLinePage()
-    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable(kTableLineStyles)),
-      m_dwColor(kColorByLayer), m_dWidth(0.0), m_dScale(1.0), m_nStyle(kLineStyleByLayer),
-      m_nScaleSystem(kScalePaper), m_szStyleName(), m_nAlignment(1), m_nLastAlignment(0) {
+    : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable(kTableLineStyles)), m_dwColor(kColorByLayer),
+      m_dWidth(0.0), m_dScale(1.0), m_nStyle(kLineStyleByLayer), m_nScaleSystem(kScalePaper), m_szStyleName(),
+      m_nAlignment(1), m_nLastAlignment(0) {
     m_bScrollingCombos = TRUE; // long widths
 }
 
@@ -67,8 +67,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     FillPenWidths(pDX, IDC_PEN_WIDTH, drawing, m_nScaleSystem);
     DDP_Text(pDX, IDC_PEN_WIDTH, m_dWidth, kPropPenWidth);
     ExchangeWidth(pDX);
-    if (IsEdited(IDC_PEN_WIDTH) && !IsNearlyIndeterminate(m_dWidth))
-        DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
+    if (IsEdited(IDC_PEN_WIDTH) && !IsNearlyIndeterminate(m_dWidth)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, kWidest);
 
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
@@ -135,11 +134,8 @@ void CLinePage::OnScaleSystemChange() {
 }
 
 void* CLinePage::CreatePreviewGraphic() {
-    return NewPreviewShape({{0.1, 0.2, 0, true},
-                            {0.1, 0.8, 0, true},
-                            {0.9, 0.8, 0, true},
-                            {0.9, 0.2, 0, true},
-                            {0.1, 0.2, 0, true}});
+    return NewPreviewShape(
+        {{0.1, 0.2, 0, true}, {0.1, 0.8, 0, true}, {0.9, 0.8, 0, true}, {0.9, 0.2, 0, true}, {0.1, 0.2, 0, true}});
 }
 
 struct CLinePage::Preview {
@@ -147,8 +143,7 @@ struct CLinePage::Preview {
 };
 
 const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
-    {{IDC_COLOR},
-     [](CLinePage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_COLOR, kPropPenColor); }},
+    {{IDC_COLOR}, [](CLinePage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_COLOR, kPropPenColor); }},
     {{IDC_PEN_WIDTH},
      [](CLinePage& page, CDataExchange* pDX, int) {
          double width = 0.0;
@@ -181,7 +176,8 @@ const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
 void CLinePage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CarryToPreview(*this, Preview::kRows, bAll);
-    // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no brush.
+    // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no
+    // brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

@@ -1,5 +1,5 @@
-// The Pen page: color, width with its scale system, dash scale, line style and alignment of the selected graphics. A width
-// that the host cannot write shows as a blank field and does not keep the user on the page.
+// The Pen page: color, width with its scale system, dash scale, line style and alignment of the selected graphics. A
+// width that the host cannot write shows as a blank field and does not keep the user on the page.
 #pragma once
 
 #include "orlo/export.h"

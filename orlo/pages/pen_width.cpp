@@ -41,8 +41,7 @@ int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size) {
     if (drawing == nullptr) return 0;
     if (scaleSystem == kScaleWorld) return ::DrawingStdNumericToText(drawing, value, buffer, size, 0);
-    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetersPerInch, buffer,
-                                  size, 0, 1);
+    return ::UnitsNumericToTextEx(drawing->pUnits, 0, kUnitPenWidth, value * kMillimetersPerInch, buffer, size, 0, 1);
 }
 
 int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
@@ -68,8 +67,7 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
 void AddPenWidthItem(const char* item, CDataExchange* pDX, int nIDC, DrawingStruct* drawing,
                      unsigned char scaleSystem) {
     double value = 0.0;
-    if (TextToPenWidth(drawing, scaleSystem, item, &value))
-        DDX_CBPenWidth(0, pDX, nIDC, value, scaleSystem, drawing);
+    if (TextToPenWidth(drawing, scaleSystem, item, &value)) DDX_CBPenWidth(0, pDX, nIDC, value, scaleSystem, drawing);
 }
 
 void FillPenWidths(CDataExchange* pDX, int nIDC, DrawingStruct* drawing, unsigned char scaleSystem) {

@@ -10,8 +10,7 @@ void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const c
     if (DDX_CBTableColor(0, pDX, nID, color)) page.SetPropText(pszPropName, color, 1);
 }
 
-void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last,
-                const char* pszPropName) {
+void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last, const char* pszPropName) {
     int value = 0;
     DDX_Check(0, pDX, nID, value);
     if (value != kIndeterminateCheck) {

@@ -30,8 +30,7 @@ void CarryToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
 // The color that the control has selected; nothing without a selection.
 void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName);
 
-// The state of a three-state box. The box comes up indeterminate, leaves that state at the first click, and never returns to
-// it: a box that the user has clicked into that state (bAll 0) is set to the opposite of last, its last definite state, which
-// the call keeps.
-void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last,
-                const char* pszPropName);
+// The state of a three-state box. The box comes up indeterminate, leaves that state at the first click, and never
+// returns to it: a box that the user has clicked into that state (bAll 0) is set to the opposite of last, its last
+// definite state, which the call keeps.
+void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last, const char* pszPropName);

@@ -33,8 +33,8 @@ ON_CBN_SELCHANGE(IDC_FONT_FACE, &ThisClass::OnFontChange)
 END_MESSAGE_MAP()
 
 CTextPage::CTextPage()
-    : CGraphicPropertyPage(kTemplate, 0), m_dSize(kUsualSize), m_dwColor(kColorByLayer), m_wStyle{0, 0},
-      m_wFormat(0), m_bFirstExchange(1) {}
+    : CGraphicPropertyPage(kTemplate, 0), m_dSize(kUsualSize), m_dwColor(kColorByLayer), m_wStyle{0, 0}, m_wFormat(0),
+      m_bFirstExchange(1) {}
 
 CTextPage::~CTextPage() = default;
 
@@ -115,20 +115,17 @@ struct CTextPage::Preview {
 const PreviewRow<CTextPage> CTextPage::Preview::kRows[] = {
     {{IDC_FONT_FACE},
      [](CTextPage& page, CDataExchange* pDX, int) {
-         if (DDX_CBString(0, pDX, IDC_FONT_FACE, page.m_strFont))
-             page.SetPropText(kPropTextFont, page.m_strFont, 1);
+         if (DDX_CBString(0, pDX, IDC_FONT_FACE, page.m_strFont)) page.SetPropText(kPropTextFont, page.m_strFont, 1);
      }},
     {{IDC_TEXT_COLOR},
      [](CTextPage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_TEXT_COLOR, kPropPenColor); }},
     {{IDC_FONT_STYLE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX},
      [](CTextPage& page, CDataExchange* pDX, int) {
-         if (DDX_CBFontStyle(0, pDX, IDC_FONT_STYLE, page.m_wStyle) &&
-             DDX_ChkBoxEffects(0, pDX, page.m_wStyle))
+         if (DDX_CBFontStyle(0, pDX, IDC_FONT_STYLE, page.m_wStyle) && DDX_ChkBoxEffects(0, pDX, page.m_wStyle))
              page.SetPropBits(kPropTextStyle, page.m_wStyle, 1);
      }},
     {{IDC_JUSTIFY_LEFT}, [](CTextPage& page, CDataExchange* pDX, int) {
-         if (DDX_Radio(0, pDX, IDC_JUSTIFY_LEFT, page.m_wFormat))
-             page.SetPropText(kPropTextFormat, page.m_wFormat, 1);
+         if (DDX_Radio(0, pDX, IDC_JUSTIFY_LEFT, page.m_wFormat)) page.SetPropText(kPropTextFormat, page.m_wFormat, 1);
      }}};
 
 void CTextPage::SetPreviewProperties(int bAll) {

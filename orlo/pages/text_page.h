@@ -1,5 +1,5 @@
-// The Text page: font, height, font style, color, effects and justification of the selected texts. A height that the host
-// cannot write shows as a blank field, and a text that is not a height is ignored with a beep.
+// The Text page: font, height, font style, color, effects and justification of the selected texts. A height that the
+// host cannot write shows as a blank field, and a text that is not a height is ignored with a beep.
 #pragma once
 
 #include "orlo/export.h"
@@ -24,8 +24,8 @@ public:
     void SetPreviewProperties(int bAll) override;
 
 protected:
-    // Each font has its own heights. The height shown before stays selected, whether or not the new font offers it; it is
-    // looked up by its whole text.
+    // Each font has its own heights. The height shown before stays selected, whether or not the new font offers it; it
+    // is looked up by its whole text.
     void OnFontChange();
 
     DECLARE_MESSAGE_MAP()

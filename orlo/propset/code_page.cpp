@@ -16,25 +16,22 @@ int Length(size_t size) {
 
 std::wstring Widened(std::string_view text, UINT codePage, DWORD flags) {
     const int size = Length(text.size());
-    std::wstring wide(static_cast<size_t>(
-                          std::max(0, ::MultiByteToWideChar(codePage, flags, text.data(), size, nullptr, 0))),
-                      L'\0');
+    std::wstring wide(
+        static_cast<size_t>(std::max(0, ::MultiByteToWideChar(codePage, flags, text.data(), size, nullptr, 0))), L'\0');
     ::MultiByteToWideChar(codePage, flags, text.data(), size, wide.data(), Length(wide.size()));
     return wide;
 }
 
 std::string Narrowed(std::wstring_view wide, UINT codePage, DWORD flags, BOOL* replaced) {
     const int length = Length(wide.size());
-    const int size =
-        ::WideCharToMultiByte(codePage, flags, wide.data(), length, nullptr, 0, nullptr, replaced);
+    const int size = ::WideCharToMultiByte(codePage, flags, wide.data(), length, nullptr, 0, nullptr, replaced);
     std::string text(static_cast<size_t>(std::max(0, size)), '\0');
-    ::WideCharToMultiByte(codePage, flags, wide.data(), length, text.data(), Length(text.size()), nullptr,
-                          replaced);
+    ::WideCharToMultiByte(codePage, flags, wide.data(), length, text.data(), Length(text.size()), nullptr, replaced);
     return text;
 }
 
-// Nothing where the bytes are not text. The system turns the bytes that a code page of Windows leaves undefined into control
-// characters; those are not text either.
+// Nothing where the bytes are not text. The system turns the bytes that a code page of Windows leaves undefined into
+// control characters; those are not text either.
 std::optional<std::wstring> CheckedToWide(std::string_view text, UINT codePage) {
     std::wstring wide = Widened(text, codePage, MB_ERR_INVALID_CHARS);
     if (wide.empty() && !text.empty()) return std::nullopt;
@@ -47,8 +44,8 @@ std::optional<std::wstring> CheckedToWide(std::string_view text, UINT codePage) 
 std::optional<std::string> CheckedFromWide(std::wstring_view wide, UINT codePage) {
     const bool isUtf8 = codePage == CP_UTF8;
     BOOL replaced = FALSE;
-    std::string text = Narrowed(wide, codePage, isUtf8 ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS,
-                                isUtf8 ? nullptr : &replaced);
+    std::string text =
+        Narrowed(wide, codePage, isUtf8 ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS, isUtf8 ? nullptr : &replaced);
     if (replaced || (text.empty() && !wide.empty())) return std::nullopt;
     return text;
 }
@@ -78,8 +75,8 @@ bool IsSameName(std::string_view a, std::string_view b) {
     if (a == b) return true;
     const auto first = CheckedToWide(a, CP_UTF8), second = CheckedToWide(b, CP_UTF8);
     return first && second &&
-           ::CompareStringOrdinal(first->data(), Length(first->size()), second->data(),
-                                  Length(second->size()), TRUE) == CSTR_EQUAL;
+           ::CompareStringOrdinal(first->data(), Length(first->size()), second->data(), Length(second->size()), TRUE) ==
+               CSTR_EQUAL;
 }
 
 } // namespace orlo

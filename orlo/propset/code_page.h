@@ -24,9 +24,8 @@ ORLO_API std::optional<std::string> CodePageToUtf8(std::string_view text, uint16
 
 // True for a text whose bytes are the same in that code page and in UTF-8, known without a conversion.
 inline bool IsPlainText(std::string_view text, uint16_t codePage) {
-    const bool isOfWindows = codePage == kCodePageUtf8 || codePage == 874 || codePage == 932 ||
-                             codePage == 936 || codePage == 949 || codePage == 950 ||
-                             (codePage >= 1250 && codePage <= 1258);
+    const bool isOfWindows = codePage == kCodePageUtf8 || codePage == 874 || codePage == 932 || codePage == 936 ||
+                             codePage == 949 || codePage == 950 || (codePage >= 1250 && codePage <= 1258);
     return isOfWindows && std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
 }
 

@@ -19,8 +19,7 @@ using WideBuffer = std::array<uint16_t, kLongestRead>;
 
 // The next wide entry as stored; the length counts characters and its NUL.
 bool ReadWideEntry(StreamReader& reader, uint32_t& id, uint32_t& length, WideBuffer& characters) {
-    if (!reader.Spend(8) || !reader.Read32(id) || !reader.Read32(length) || length > kLongestRead)
-        return false;
+    if (!reader.Spend(8) || !reader.Read32(id) || !reader.Read32(length) || length > kLongestRead) return false;
     const size_t size = size_t{length} * 2;
     if (!reader.Spend(size) || reader.Read(characters.data(), size) != size) return false;
     reader.SeekTo(reader.Position() + size % 4);

@@ -125,8 +125,7 @@ int CProperty::Set(void* const pValue) {
     const auto* source = static_cast<const BYTE*>(pValue);
     const bool plainText = form.isText && !IsVector(m_dwType);
     const size_t textSize = plainText ? PlainTextSize(pValue, form.form) : 0;
-    const std::optional<size_t> size =
-        plainText ? 4 + textSize : orlo::StoredSize(m_dwType, source, UINT32_MAX);
+    const std::optional<size_t> size = plainText ? 4 + textSize : orlo::StoredSize(m_dwType, source, UINT32_MAX);
     if (!size || *size > UINT32_MAX) return 0;
     auto* block = static_cast<BYTE*>(AllocValue(static_cast<DWORD>(*size)));
     if (block == nullptr) return *size == 0;

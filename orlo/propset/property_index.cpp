@@ -22,8 +22,7 @@ void NotePropertyIdChange() {
     idChanges.fetch_add(1, std::memory_order_relaxed);
 }
 
-PropertyIndex::PropertyIndex(const CObList& properties)
-    : changes_(idChanges.load(std::memory_order_relaxed)) {
+PropertyIndex::PropertyIndex(const CObList& properties) : changes_(idChanges.load(std::memory_order_relaxed)) {
     places_.reserve(static_cast<size_t>(properties.GetCount()));
     for (POSITION next = properties.GetHeadPosition(); next != nullptr;) {
         const POSITION here = next;

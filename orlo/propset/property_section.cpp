@@ -108,8 +108,7 @@ CProperty* CPropertySection::GetProperty(DWORD dwPropID) {
 
 POSITION CPropertySection::FindProperty(DWORD dwPropID) {
     if (m_PropertyList.GetCount() >= orlo::kIndexedFrom && !m_bListGivenOut) {
-        if (!m_pIndex || !m_pIndex->IsUpToDate())
-            m_pIndex = std::make_unique<orlo::PropertyIndex>(m_PropertyList);
+        if (!m_pIndex || !m_pIndex->IsUpToDate()) m_pIndex = std::make_unique<orlo::PropertyIndex>(m_PropertyList);
         return m_pIndex->Find(dwPropID);
     }
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;) {
@@ -202,16 +201,14 @@ int CPropertySection::AppendTo(orlo::ImageWriter& image) {
     m_dwSize = 0;
     m_dwPropertyCount = GetCount();
     const size_t head = image.Size();
-    image.Expect(kUsualPropertySize *
-                 (size_t{m_dwPropertyCount} + static_cast<size_t>(m_NameMap.GetCount())));
+    image.Expect(kUsualPropertySize * (size_t{m_dwPropertyCount} + static_cast<size_t>(m_NameMap.GetCount())));
     image.Put32(m_dwSize);
     image.Put32(m_dwPropertyCount);
     if (m_dwPropertyCount == 0) return 1;
 
     size_t entry = image.Size();
     image.PutZeros(orlo::kPropertyLineSize * m_dwPropertyCount);
-    for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;
-         entry += orlo::kPropertyLineSize) {
+    for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr; entry += orlo::kPropertyLineSize) {
         const CProperty* property = NextProperty(m_PropertyList, next);
         image.Patch32(entry, property->m_dwID);
         image.Patch32(entry + 4, static_cast<uint32_t>(image.Size() - head));
@@ -361,8 +358,7 @@ int CPropertySection::WriteToRC(CRCFile* pRC) {
     DWORD offset = orlo::kSectionHeadSize + orlo::kPropertyLineSize * m_dwPropertyCount;
     for (POSITION next = m_PropertyList.GetHeadPosition(); next != nullptr;) {
         CProperty* property = NextProperty(m_PropertyList, next);
-        const DWORD size =
-            property->m_dwID == orlo::kDictionaryId ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
+        const DWORD size = property->m_dwID == orlo::kDictionaryId ? WriteNameDictToRC(pRC) : property->WriteToRC(pRC);
         if (size == 0) return 0;
         const ULONGLONG end = pRC->GetPosition();
         pRC->Seek(static_cast<LONGLONG>(entry), CStdioFile::begin);

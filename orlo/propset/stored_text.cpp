@@ -21,8 +21,7 @@ namespace {
 
 // The number at the start, held within 32 bits; 0 if there isn't one.
 int32_t WholeNumber(const char* token) {
-    return static_cast<int32_t>(
-        std::clamp<long long>(std::strtoll(token, nullptr, 10), INT32_MIN, INT32_MAX));
+    return static_cast<int32_t>(std::clamp<long long>(std::strtoll(token, nullptr, 10), INT32_MIN, INT32_MAX));
 }
 
 // The same for real numbers, with a "." whatever the locale says. Beyond the range: 0, as there is no such
@@ -32,8 +31,8 @@ double RealNumber(std::string_view token) {
         token.remove_prefix(1);
     const bool isNegative = !token.empty() && token.front() == '-';
     const std::string_view digits = token.substr(token.find_first_not_of("+-") == 1 ? 1 : 0);
-    const bool isNumber = !digits.empty() &&
-                          (std::isdigit(static_cast<unsigned char>(digits.front())) || digits.front() == '.');
+    const bool isNumber =
+        !digits.empty() && (std::isdigit(static_cast<unsigned char>(digits.front())) || digits.front() == '.');
     double number = 0;
     if (isNumber) std::from_chars(digits.data(), digits.data() + digits.size(), number);
     return isNegative ? -number : number;

@@ -47,12 +47,10 @@ private:
 
 // Days from 1601-01-01, by the calendar that is used today.
 int64_t DaysFrom1601(int64_t year, int64_t month, int64_t day) {
-    const int64_t shifted =
-        month > 2 ? month - 3 : month + 9; // years that begin in March end with their leap day
+    const int64_t shifted = month > 2 ? month - 3 : month + 9; // years that begin in March end with their leap day
     const int64_t marchYear = month > 2 ? year : year - 1;
     const int64_t days = 365 * marchYear + marchYear / 4 - marchYear / 100 + marchYear / 400;
-    return days + (153 * shifted + 2) / 5 + day - 1 -
-           584'694; // that many lie between the first March and 1601
+    return days + (153 * shifted + 2) / 5 + day - 1 - 584'694; // that many lie between the first March and 1601
 }
 
 bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
@@ -67,12 +65,11 @@ bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
 std::optional<int64_t> ReadDate(std::string_view text, bool isUtc) {
     Rest rest(text);
     uint64_t year, month, day, hour = 0, minute = 0, second = 0;
-    if (!rest.TakeDigits(4, 10, year) || !rest.Take('-') || !rest.TakeDigits(2, 10, month) ||
-        !rest.Take('-') || !rest.TakeDigits(2, 10, day) || !IsDate(year, month, day))
+    if (!rest.TakeDigits(4, 10, year) || !rest.Take('-') || !rest.TakeDigits(2, 10, month) || !rest.Take('-') ||
+        !rest.TakeDigits(2, 10, day) || !IsDate(year, month, day))
         return std::nullopt;
     if (rest.Take('T') || rest.Take(' ')) {
-        if (!rest.TakeDigits(2, 10, hour) || !rest.Take(':') || !rest.TakeDigits(2, 10, minute))
-            return std::nullopt;
+        if (!rest.TakeDigits(2, 10, hour) || !rest.Take(':') || !rest.TakeDigits(2, 10, minute)) return std::nullopt;
         if (rest.Take(':') && !rest.TakeDigits(2, 10, second)) return std::nullopt;
         if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
         if (isUtc) rest.Take('Z');

@@ -1,5 +1,6 @@
-// Identifiers by which a QXComboBox or a QXListBox of a dialog template becomes one of the library's controls, for sources
-// and resource scripts. Preprocessor only. A dialog with several controls of a kind gives each a number of its own.
+// Identifiers by which a QXComboBox or a QXListBox of a dialog template becomes one of the library's controls, for
+// sources and resource scripts. Preprocessor only. A dialog with several controls of a kind gives each a number of its
+// own.
 #pragma once
 
 // QXComboBox.

@@ -18,8 +18,8 @@ constexpr char kAlias = '*';
 constexpr int kNumberSize = 32; // of DoubleToString
 constexpr int kDigits = 15;
 
-// The file has its decimal points whatever the host's decimal mark. Returns the number as the host writes it, in the buffer, or
-// the token itself if it is not a plain number.
+// The file has its decimal points whatever the host's decimal mark. Returns the number as the host writes it, in the
+// buffer, or the token itself if it is not a plain number.
 const char* HostNumber(const char* token, char (&buffer)[kNumberSize]) {
     while (*token == ' ' || *token == '\t')
         ++token;
@@ -42,8 +42,7 @@ const char* CPenWidthList::First(AppStruct* application, TableStruct* units, con
     m_pszCursor = nullptr;
     m_szUnit[0] = m_szItem[0] = '\0';
     char path[MAX_PATH];
-    if (!::TableGetStringVar(units, static_cast<uint16_t>(unitVariable), m_szUnit, sizeof m_szUnit))
-        return nullptr;
+    if (!::TableGetStringVar(units, static_cast<uint16_t>(unitVariable), m_szUnit, sizeof m_szUnit)) return nullptr;
     if (!::AppGetINIFileName(application, path, sizeof path)) return nullptr;
     if (!ReadEntry(path, section)) return nullptr;
     return NextItem(m_strBuffer.GetBuffer(kEntrySize));
@@ -58,8 +57,7 @@ bool CPenWidthList::ReadEntry(const char* path, const char* section) {
         if (m_strBuffer.IsEmpty()) return false;
         if (m_strBuffer[0] != kAlias) return true;
         const CString alias = m_strBuffer.Mid(1);
-        if (alias.GetLength() >= static_cast<int>(sizeof m_szUnit))
-            return false; // longer than any unit's name
+        if (alias.GetLength() >= static_cast<int>(sizeof m_szUnit)) return false; // longer than any unit's name
         std::strcpy(m_szUnit, alias);
     }
     return false;
@@ -70,11 +68,9 @@ const char* CPenWidthList::Next() {
 }
 
 const char* CPenWidthList::NextItem(char* text) {
-    for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr;
-         m_pszCursor = std::strtok(nullptr, ",")) {
+    for (m_pszCursor = std::strtok(text, ","); m_pszCursor != nullptr; m_pszCursor = std::strtok(nullptr, ",")) {
         char number[kNumberSize];
-        const int length =
-            std::snprintf(m_szItem, sizeof m_szItem, "%s %s", HostNumber(m_pszCursor, number), m_szUnit);
+        const int length = std::snprintf(m_szItem, sizeof m_szItem, "%s %s", HostNumber(m_pszCursor, number), m_szUnit);
         if (length < static_cast<int>(sizeof m_szItem)) return m_szItem;
     }
     return nullptr;

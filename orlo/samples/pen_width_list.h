@@ -13,11 +13,10 @@ class CPenWidthList {
 public:
     CPenWidthList();
 
-    // The first and each further item, or null: at the end, without a list, or in a circle of aliases. The key is the unit
-    // that the variable of the units table names. An item longer than the list can hold is passed over. The text is this
-    // object's and lasts until the next call.
-    const char* First(AppStruct* application, TableStruct* units, const char* section,
-                      unsigned int unitVariable);
+    // The first and each further item, or null: at the end, without a list, or in a circle of aliases. The key is the
+    // unit that the variable of the units table names. An item longer than the list can hold is passed over. The text
+    // is this object's and lasts until the next call.
+    const char* First(AppStruct* application, TableStruct* units, const char* section, unsigned int unitVariable);
     const char* Next();
 
 private:

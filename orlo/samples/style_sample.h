@@ -22,8 +22,7 @@ using SampleViewport = orlo::host::OwnedViewport;
 // drawing is released before the host closes it. makeGraphic is called if the control has been given a table
 // before it has a sample.
 template <class MakeGraphic>
-void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table,
-                  MakeGraphic makeGraphic) {
+void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table, MakeGraphic makeGraphic) {
     if (table && !graphic) graphic = makeGraphic();
     if (table && !viewport) viewport.reset(::ViewportNewEx());
     DrawingStruct* const drawing = table ? ::TableGetOwner(table) : nullptr;

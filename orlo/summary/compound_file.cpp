@@ -26,8 +26,7 @@ CompoundState StateOfCompoundFile(const std::filesystem::path& file) {
 
 const CompoundStream* FindStream(const CompoundReader& file, std::string_view name) {
     for (const CompoundStream& stream : file.Streams()) {
-        const std::string_view path(reinterpret_cast<const char*>(stream.path.data()),
-                                    2 * stream.path.size());
+        const std::string_view path(reinterpret_cast<const char*>(stream.path.data()), 2 * stream.path.size());
         const auto utf8 = CodePageToUtf8(path, kCodePageUtf16);
         if (utf8 && IsSameName(*utf8, name)) return &stream;
     }

@@ -8,8 +8,8 @@
 
 namespace orlo {
 
-// Opens a file, which the reader then keeps open; other programs may read, write and replace it meanwhile. A pipe or a device
-// reads as empty. Throws std::runtime_error if the file cannot be opened.
+// Opens a file, which the reader then keeps open; other programs may read, write and replace it meanwhile. A pipe or a
+// device reads as empty. Throws std::runtime_error if the file cannot be opened.
 ORLO_API CompoundReader OpenCompoundFile(const std::filesystem::path& file);
 // Returns CompoundState::foreign also for a file that cannot be opened.
 CompoundState StateOfCompoundFile(const std::filesystem::path& file);

@@ -31,8 +31,8 @@ bool IsShort(uint64_t size) {
     return size < kShorterAreShort;
 }
 
-// Siblings are in the order of their names: by length, then by letters without case. The order of two letters outside of
-// ASCII is the system's to know.
+// Siblings are in the order of their names: by length, then by letters without case. The order of two letters outside
+// of ASCII is the system's to know.
 bool MayFollow(const std::u16string& before, const std::u16string& after) {
     if (before.size() != after.size()) return before.size() < after.size();
     const auto upper = [](char16_t c) { return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c; };
@@ -190,8 +190,7 @@ void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, cons
 }
 
 // All bytes of these sectors, one after the other; neighboring ones are read at once. What isn't there reads as free.
-std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors,
-                                                        const char* what) {
+std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors, const char* what) {
     std::vector<uint8_t> bytes(sectors.size() * sectorBytes_, 0xFF);
     for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
         do
@@ -207,8 +206,7 @@ std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32
     return bytes;
 }
 
-std::vector<uint32_t> CompoundReader::Structure::Numbers(const std::vector<uint32_t>& sectors,
-                                                         const char* what) {
+std::vector<uint32_t> CompoundReader::Structure::Numbers(const std::vector<uint32_t>& sectors, const char* what) {
     const std::vector<uint8_t> bytes = Sectors(sectors, what);
     std::vector<uint32_t> numbers(bytes.size() / sizeof(uint32_t));
     std::memcpy(numbers.data(), bytes.data(), bytes.size());
@@ -275,8 +273,7 @@ void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
     constexpr char kTable[] = "the table of short streams", kStreams[] = "the short streams";
     const SectorTable::Chain tables = Header(64) == 0 ? SectorTable::Chain() : WalkWhole(Header(60), kTable);
     Count(kTable, 64, tables.length);
-    const SectorTable::Chain streams =
-        root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
+    const SectorTable::Chain streams = root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
     const uint64_t there = std::min(root.size, BytesOf(streams.sectors));
     if (streams.length < Pieces(root.size, sectorBytes_))
         Damaged(std::string(kStreams) + ": their chain of sectors is too short");
@@ -303,16 +300,13 @@ void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const
     for (size_t id = 0; id < entries.size(); ++id) {
         if (seen[id] || entries[id].kind == kFree) continue;
         ++lost;
-        if (entries[id].kind == kStream && entries[id].isNamed)
-            AddStream(entries[id], entries[id].name, true);
+        if (entries[id].kind == kStream && entries[id].isNamed) AddStream(entries[id], entries[id].name, true);
     }
     if (lost != 0)
-        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage",
-                CompoundState::torn);
+        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage", CompoundState::torn);
 }
 
-bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id,
-                                         std::vector<bool>& seen) {
+bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen) {
     if (id == kNone) return false;
     const char* fault = nullptr;
     if (id >= entries.size())
@@ -348,8 +342,7 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
         else if (storage.depth < kDeepestStorage)
             ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1});
         else
-            Damaged("the directory: storages in storages, more than " + std::to_string(kDeepestStorage) +
-                    " deep");
+            Damaged("the directory: storages in storages, more than " + std::to_string(kDeepestStorage) + " deep");
     }
 }
 
@@ -384,22 +377,19 @@ void CompoundReader::Structure::WalkStream(CompoundStream& stream) {
         stream.fault = ChainFault::isShort;
 }
 
-// How far the chain goes on in sectors of other streams. All streams together get no more of them than the file has: they
-// would be read once for each.
-uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream, uint64_t wanted,
-                                                    bool isShort) {
+// How far the chain goes on in sectors of other streams. All streams together get no more of them than the file has:
+// they would be read once for each.
+uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort) {
     if (stream.sectors >= wanted) return 0;
     const uint64_t most = std::min(wanted, stream.sectors + sharedLeft_);
-    const uint64_t shared =
-        (isShort ? shortTable_ : table_).Follow(stream.start, most).size() - stream.sectors;
+    const uint64_t shared = (isShort ? shortTable_ : table_).Follow(stream.start, most).size() - stream.sectors;
     sharedLeft_ -= shared;
     return shared;
 }
 
 // How many bytes the file has of these sectors, from the first on: its last sector can be cut.
 uint64_t CompoundReader::Structure::BytesOf(const std::vector<uint32_t>& chain) const {
-    const auto cut =
-        fileSize_ % sectorBytes_ == 0 ? chain.end() : std::find(chain.begin(), chain.end(), sectors_ - 1);
+    const auto cut = fileSize_ % sectorBytes_ == 0 ? chain.end() : std::find(chain.begin(), chain.end(), sectors_ - 1);
     const uint64_t before = static_cast<uint64_t>(cut - chain.begin()) * sectorBytes_;
     return cut == chain.end() ? before : before + fileSize_ % sectorBytes_;
 }

@@ -3,7 +3,8 @@
 //
 //   CompoundReader file(reader, size);
 //   if (file.State() == CompoundState::sound) ...   // the system may open it, and write into it
-//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever there is, even in a damaged file
+//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever there is, even in a damaged
+//   file
 #pragma once
 
 #include <array>
@@ -25,7 +26,7 @@ constexpr std::array<uint8_t, 8> kCompoundSignature = {0xD0, 0xCF, 0x11, 0xE0, 0
 enum class CompoundState {
     foreign, // not a compound file
     sound,
-    torn, // streams lack sectors or share them, names are wrong: the system can read it, and nothing should be written
+    torn,  // streams lack sectors or share them, names are wrong: the system can read it, and nothing should be written
     unsafe // header, tables or directory are damaged, or a chain is a circle: not for the system
 };
 
@@ -43,14 +44,15 @@ struct CompoundStream {
 
 class CompoundReader {
 public:
-    // Walks the whole structure of a file of `size` bytes. No sector and no entry is followed twice: time and memory grow
-    // with the number of sectors.
+    // Walks the whole structure of a file of `size` bytes. No sector and no entry is followed twice: time and memory
+    // grow with the number of sectors.
     ORLO_API CompoundReader(ReadAt read, uint64_t size);
 
     ORLO_API CompoundState State() const;
     // Of header, tables and directory, in words. Streams have their own.
     ORLO_API const std::vector<std::string>& Damage() const;
-    // Those of a storage in the order of their names, before those of its inner storages; last those that have lost theirs.
+    // Those of a storage in the order of their names, before those of its inner storages; last those that have lost
+    // theirs.
     ORLO_API const std::vector<CompoundStream>& Streams() const;
     // The bytes of one of these streams, or as many as there are before its damage.
     ORLO_API std::vector<uint8_t> Read(const CompoundStream& stream) const;

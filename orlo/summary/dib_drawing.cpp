@@ -56,8 +56,7 @@ public:
     void Read(int32_t y, Line& line) const {
         const auto width = static_cast<size_t>(layout_.width);
         if (!painted_.empty()) {
-            std::copy_n(painted_.begin() + static_cast<ptrdiff_t>(width * static_cast<size_t>(y)), width,
-                        line.begin());
+            std::copy_n(painted_.begin() + static_cast<ptrdiff_t>(width * static_cast<size_t>(y)), width, line.begin());
             return;
         }
         const size_t stride = layout_.pixelBytes / static_cast<size_t>(layout_.height);
@@ -95,8 +94,7 @@ private:
             return table_[line[x / perByte] >> shift & ((1u << bits) - 1)];
         }
         if (bits == 24) return {line[3 * x + 2], line[3 * x + 1], line[3 * x]};
-        return Split(bits == 16 ? LittleEndian<uint16_t>(line + 2 * x)
-                                : LittleEndian<uint32_t>(line + 4 * x));
+        return Split(bits == 16 ? LittleEndian<uint16_t>(line + 2 * x) : LittleEndian<uint32_t>(line + 4 * x));
     }
 
     Color Split(uint32_t pixel) const {
@@ -121,7 +119,8 @@ private:
     Line painted_; // the whole picture, if it is run-length data
 };
 
-// Which of `from` pixels each of `to` pixels covers, and how much: one of the first is `to` long, one of the others `from`.
+// Which of `from` pixels each of `to` pixels covers, and how much: one of the first is `to` long, one of the others
+// `from`.
 struct Coverage {
     uint64_t from, to;
 
@@ -144,8 +143,7 @@ class Shrinking {
 public:
     Shrinking(const DibLines& lines, const DibLayout& layout, const Place& place)
         : lines_(lines), layout_(layout), width_(static_cast<size_t>(place.width)),
-          height_(static_cast<size_t>(place.height)), line_(static_cast<size_t>(layout.width)),
-          across_(width_) {}
+          height_(static_cast<size_t>(place.height)), line_(static_cast<size_t>(layout.width)), across_(width_) {}
 
     // Line y of the target.
     void Write(size_t y, uint8_t* colors) {
@@ -187,8 +185,7 @@ private:
 
 } // namespace
 
-std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t size, int32_t width,
-                                                  int32_t height) {
+std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t size, int32_t width, int32_t height) {
     const auto layout = ReadDibLayout(data, size, DibColors::Rgb);
     if (!layout || layout->topDown || layout->headerSize < kSmallestHeader) return std::nullopt;
     const Place place = Fitted({0, 0, width, height}, layout->width, layout->height);

@@ -58,8 +58,8 @@ std::optional<Header> ReadHeader(const uint8_t* data, size_t size) {
     if (size < kCoreHeader) return std::nullopt;
     const auto headerSize = LittleEndian<uint32_t>(data);
     if (headerSize == kCoreHeader) return ReadCoreHeader(data);
-    const bool known = headerSize == kInfoHeader ||
-                       std::count(std::begin(kLaterHeaders), std::end(kLaterHeaders), headerSize) != 0;
+    const bool known =
+        headerSize == kInfoHeader || std::count(std::begin(kLaterHeaders), std::end(kLaterHeaders), headerSize) != 0;
     if (!known || size < headerSize) return std::nullopt;
     return ReadInfoHeader(data, headerSize);
 }
@@ -102,8 +102,7 @@ bool RunLengthPasses(const uint8_t* pixels, size_t left, uint32_t imageBytes, co
 
 } // namespace
 
-std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColors colors,
-                                       uint32_t maxLines) {
+std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColors colors, uint32_t maxLines) {
     const auto header = ReadHeader(data, size);
     if (!header) return std::nullopt;
     DibLayout layout = header->layout;
@@ -115,8 +114,7 @@ std::optional<DibLayout> ReadDibLayout(const uint8_t* data, size_t size, DibColo
     const size_t left = size - layout.pixelOffset;
 
     if (layout.compression == kDibRunLength8 || layout.compression == kDibRunLength4) {
-        if (!RunLengthPasses(data + layout.pixelOffset, left, header->imageBytes, layout))
-            return std::nullopt;
+        if (!RunLengthPasses(data + layout.pixelOffset, left, header->imageBytes, layout)) return std::nullopt;
         layout.pixelBytes = header->imageBytes;
         return layout;
     }

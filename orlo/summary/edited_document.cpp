@@ -53,8 +53,7 @@ void WriteStream(IStorage& storage, const std::string& name, const Bytes& bytes)
     Check(result, "the stream cannot be written");
 }
 
-void WriteStreams(const std::filesystem::path& file, bool isNew,
-                  const std::map<std::string, Bytes>& streams) {
+void WriteStreams(const std::filesystem::path& file, bool isNew, const std::map<std::string, Bytes>& streams) {
     constexpr char kNotWritten[] = "the file cannot be written";
     Owned<IStorage> storage;
     Check(isNew ? ::StgCreateDocfile(file.c_str(), kWriting | STGM_CREATE, 0, Receive(storage))
@@ -91,8 +90,7 @@ EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMi
     // Some systems let an administrator write nevertheless.
     if (isThere && (attributes & FILE_ATTRIBUTE_READONLY)) throw files::FileError("the file is read-only");
     original_ = std::make_unique<Original>(file);
-    if (original_->reader.State() == CompoundState::foreign)
-        throw UnfitDocument("the file is not a compound file");
+    if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
     if (original_->reader.State() != CompoundState::sound)
         throw UnfitDocument("was left alone: the compound file is damaged, writing could make it worse");
 }
@@ -120,8 +118,8 @@ void EditedDocument::Commit() {
 }
 
 bool EditedDocument::IsWritten(const CompoundStream& stream) const {
-    const std::string path = Narrow(
-        std::wstring_view(reinterpret_cast<const wchar_t*>(stream.path.data()), stream.path.size()), CP_UTF8);
+    const std::string path =
+        Narrow(std::wstring_view(reinterpret_cast<const wchar_t*>(stream.path.data()), stream.path.size()), CP_UTF8);
     return std::any_of(written_.begin(), written_.end(),
                        [&](const auto& written) { return IsSameName(written.first, path); });
 }

@@ -1,5 +1,5 @@
-// EditedDocument: streams of a compound file are replaced in a copy, which is checked and then takes the place of the file in one
-// step.
+// EditedDocument: streams of a compound file are replaced in a copy, which is checked and then takes the place of the
+// file in one step.
 //
 //   EditedDocument document(path);
 //   document.Write(kSummaryStreamName, bytes);
@@ -31,9 +31,9 @@ class EditedDocument {
 public:
     enum class IfMissing { Fail, Create };
 
-    // Until Commit other programs cannot write the file. Throws if another program has it open, if it is read-only or damaged.
-    ORLO_API explicit EditedDocument(const std::filesystem::path& file,
-                                     IfMissing ifMissing = IfMissing::Fail);
+    // Until Commit other programs cannot write the file. Throws if another program has it open, if it is read-only or
+    // damaged.
+    ORLO_API explicit EditedDocument(const std::filesystem::path& file, IfMissing ifMissing = IfMissing::Fail);
     ORLO_API ~EditedDocument();
 
     // The bytes of a stream outside of inner storages, if it exists. Names are UTF-8, in any case.

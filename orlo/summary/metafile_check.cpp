@@ -215,8 +215,7 @@ bool BrushFits(const Parameters& p) {
     return p.Count() >= 4 && p.Word(0) <= kHatched;
 }
 
-std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColors colors,
-                                  uint32_t maxLines = UINT32_MAX) {
+std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColors colors, uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;
     return ReadDibLayout(p.At(at), 2 * p.Behind(at), colors, maxLines);
 }
@@ -286,8 +285,7 @@ public:
             const auto function = LittleEndian<uint16_t>(bits_ + at + 4);
             if (function == kEndOfFile) return at;
             if (bytes < kRecordHeadBytes || bytes > size_ - at) return std::nullopt;
-            const Parameters p(bits_ + at + kRecordHeadBytes,
-                               (static_cast<size_t>(bytes) - kRecordHeadBytes) / 2);
+            const Parameters p(bits_ + at + kRecordHeadBytes, (static_cast<size_t>(bytes) - kRecordHeadBytes) / 2);
             if (!Passes(function, p)) return std::nullopt;
             at += static_cast<size_t>(bytes);
         }
@@ -297,8 +295,7 @@ public:
 private:
     bool Passes(uint16_t function, const Parameters& p) {
         if (const auto* shape = Find(kFixedShapes, function)) return p.Count() >= shape->words;
-        if (const auto* use = Find(kSlotUses, function))
-            return p.Count() >= use->words && SlotsExist(p, use->slots);
+        if (const auto* use = Find(kSlotUses, function)) return p.Count() >= use->words && SlotsExist(p, use->slots);
         switch (function) {
         case kSaveDC:
             ++saved_;

@@ -38,8 +38,7 @@ Mapping MappingOf(HDC dc) {
     ::GetWindowOrgEx(dc, &origin);
     ::GetWindowExtEx(dc, &window);
     ::GetViewportExtEx(dc, &viewport);
-    return {{double(origin.x), Ratio(viewport.cx, window.cx)},
-            {double(origin.y), Ratio(viewport.cy, window.cy)}};
+    return {{double(origin.x), Ratio(viewport.cx, window.cx)}, {double(origin.y), Ratio(viewport.cy, window.cy)}};
 }
 
 // The font that text is drawn with, the pen that lines are.

@@ -13,9 +13,8 @@
 
 namespace {
 
-constexpr DWORD kCleared[] = {PIDSI_TITLE,     PIDSI_SUBJECT,   PIDSI_AUTHOR,
-                              PIDSI_KEYWORDS,  PIDSI_COMMENTS,  PIDSI_TEMPLATE,
-                              PIDSI_REVNUMBER, PIDSI_THUMBNAIL, PIDSI_APPNAME};
+constexpr DWORD kCleared[] = {PIDSI_TITLE,    PIDSI_SUBJECT,   PIDSI_AUTHOR,    PIDSI_KEYWORDS, PIDSI_COMMENTS,
+                              PIDSI_TEMPLATE, PIDSI_REVNUMBER, PIDSI_THUMBNAIL, PIDSI_APPNAME};
 
 // Low word: the version; high word: the kind of system, 2 for Win32 and 0 for what ran on top of the 16-bit
 // one.
@@ -78,8 +77,7 @@ char* OleStdGetStringProperty(CPropertySet* pSumInfo, DWORD dwPropID) {
 
 int OleStdSetStringProperty(CPropertySet* pSumInfo, DWORD dwPropID, const char* pszValue) {
     const bool empty = !pszValue || *pszValue == '\0';
-    return orlo::StoreSummaryProperty(pSumInfo, dwPropID, VT_LPSTR,
-                                      empty ? nullptr : const_cast<char*>(pszValue));
+    return orlo::StoreSummaryProperty(pSumInfo, dwPropID, VT_LPSTR, empty ? nullptr : const_cast<char*>(pszValue));
 }
 
 int OleStdGetIntProperty(CPropertySet* pSumInfo, DWORD dwPropID) {

@@ -54,8 +54,7 @@ ORLO_API int OleStdSetSecurityProperty(CPropertySet* pSumInfo, DWORD dwValue);
 // A copy of the picture in a movable block that the caller frees, its clipboard format and its length in
 // bytes. The result is -1, or 0 without a picture in one of the system's formats; then the block is not made,
 // format and length may be stored.
-ORLO_API int OleStdGetThumbNailProperty(CPropertySet* pSumInfo, DWORD* pdwFormat, HGLOBAL* phData,
-                                        DWORD* pcbData);
+ORLO_API int OleStdGetThumbNailProperty(CPropertySet* pSumInfo, DWORD* pdwFormat, HGLOBAL* phData, DWORD* pcbData);
 // Copies cbData bytes of the block, which stays the caller's; a block that is shorter is refused. A null
 // handle and no length remove the property.
 ORLO_API int OleStdSetThumbNailProperty(CPropertySet* pSumInfo, DWORD dwFormat, HGLOBAL hData, DWORD cbData);
@@ -64,8 +63,8 @@ ORLO_API int OleStdSetThumbNailProperty(CPropertySet* pSumInfo, DWORD dwFormat, 
 // are those of the day: hours and minutes are in them. A span comes back with years of 12 months, 360 days,
 // but is stored with years of 365 days: one year written is 1 year and 5 days read. All 0 if there is no such
 // property.
-ORLO_API void OleStdGetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int* pnYear, int* pnMonth,
-                                    int* pnDay, int* pnSeconds);
+ORLO_API void OleStdGetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int* pnYear, int* pnMonth, int* pnDay,
+                                    int* pnSeconds);
 // Six zeros, or numbers that are not a date, remove the property. A year before 1980 is taken as 1980.
-ORLO_API int OleStdSetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int nYear, int nMonth, int nDay,
-                                   int nHour, int nMinute, int nSecond);
+ORLO_API int OleStdSetDateProperty(CPropertySet* pSumInfo, DWORD dwPropID, int nYear, int nMonth, int nDay, int nHour,
+                                   int nMinute, int nSecond);

@@ -22,8 +22,7 @@ Readable ReadableFrom(const void* address) {
     const auto start = reinterpret_cast<uintptr_t>(address);
     uintptr_t end = start;
     MEMORY_BASIC_INFORMATION pages;
-    while (end - start < kMost &&
-           ::VirtualQuery(reinterpret_cast<void*>(end), &pages, sizeof pages) == sizeof pages &&
+    while (end - start < kMost && ::VirtualQuery(reinterpret_cast<void*>(end), &pages, sizeof pages) == sizeof pages &&
            CanBeRead(pages)) {
         const uintptr_t next = reinterpret_cast<uintptr_t>(pages.BaseAddress) + pages.RegionSize;
         if (next <= end) break;

@@ -51,8 +51,7 @@ SectorTable::Chain SectorTable::Walk(uint32_t start) {
         if (at < there_ && chain.sectors.size() == chain.length) chain.sectors.push_back(at);
         ++chain.length;
     }
-    if (chain.fault == ChainFault::none && chain.sectors.size() != chain.length)
-        chain.fault = ChainFault::isCut;
+    if (chain.fault == ChainFault::none && chain.sectors.size() != chain.length) chain.fault = ChainFault::isCut;
     return chain;
 }
 

@@ -32,8 +32,8 @@ public:
 
     // Sectors outside of all chains. False if the table calls one free: the system would write over it.
     bool Reserve(const std::vector<uint32_t>& sectors);
-    // Takes the sectors from `start` on. It ends before a sector that is taken already or has no place in the table; sectors
-    // past the end of the file are left out.
+    // Takes the sectors from `start` on. It ends before a sector that is taken already or has no place in the table;
+    // sectors past the end of the file are left out.
     Chain Walk(uint32_t start);
     // The first `most` sectors from `start` on, whoever has taken them.
     std::vector<uint32_t> Follow(uint32_t start, uint64_t most) const;

@@ -46,8 +46,8 @@ bool ReadAll(IStream* stream, Bytes& bytes) {
 bool WritePart(IStream* stream, const Bytes& bytes, size_t offset, size_t end) {
     const ULONG size = static_cast<ULONG>(end - offset);
     ULONG written = 0;
-    return size == 0 || (SeekTo(stream, offset) &&
-                         SUCCEEDED(stream->Write(bytes.data() + offset, size, &written)) && written == size);
+    return size == 0 || (SeekTo(stream, offset) && SUCCEEDED(stream->Write(bytes.data() + offset, size, &written)) &&
+                         written == size);
 }
 
 bool SetLength(IStream* stream, size_t length) {
@@ -62,7 +62,8 @@ bool ImageOf(CPropertySet* set, Bytes& image) {
     return stream && OleStdWriteSummaryInfo(stream.get(), set) && ReadAll(stream.get(), image);
 }
 
-// The part by which the new bytes are longer is written first, after the old ones: a lack of room shows before those are touched.
+// The part by which the new bytes are longer is written first, after the old ones: a lack of room shows before those
+// are touched.
 bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
     const size_t common = std::min(before.size(), after.size());
     return (after.size() <= before.size() || SetLength(stream, after.size())) &&
@@ -70,7 +71,8 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
            SetLength(stream, after.size());
 }
 
-// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros after it.
+// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros after
+// it.
 void PutBack(IStream* stream, Bytes bytes) {
     if (!SetLength(stream, bytes.size())) {
         bytes.resize(std::max(bytes.size(), kShortestLong));
@@ -176,8 +178,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     Bytes image, before;
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
     const std::wstring name = Widen(kSummaryStreamName, CP_ACP);
-    if (access == STGM_WRITE)
-        return WriteNew(pStorage, name.c_str(), image); // the old summary cannot be read
+    if (access == STGM_WRITE) return WriteNew(pStorage, name.c_str(), image); // the old summary cannot be read
     Owned<IStream> stream;
     const HRESULT opened = pStorage->OpenStream(name.c_str(), nullptr, kChange, 0, Receive(stream));
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);

@@ -42,8 +42,7 @@ int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
     if (pixels > dib.size || layout->pixelBytes > dib.size - pixels) return 0;
     const Place to = PlaceIn(*rect, layout->width, layout->height, keepAspect);
     return ::StretchDIBits(dc, to.left, to.top, to.width, to.height, 0, 0, layout->width, layout->height,
-                           dib.data + pixels, reinterpret_cast<const BITMAPINFO*>(dib.data), DIB_RGB_COLORS,
-                           SRCCOPY);
+                           dib.data + pixels, reinterpret_cast<const BITMAPINFO*>(dib.data), DIB_RGB_COLORS, SRCCOPY);
 }
 
 struct DeleteHandleOfMetaFile {
@@ -108,8 +107,7 @@ int DrawMetaFilePict(const void* pPict, HDC hDC, const RECT* pRect, int bKeepAsp
 }
 
 int DrawThumbnail(const ThumbnailClip* pClip, HDC hDC, const RECT* pRect) {
-    if (!pClip || pClip->cbSize == 0 || !pClip->pData || !pClip->pFormat || pClip->dwTag != kSystemFormat)
-        return 0;
+    if (!pClip || pClip->cbSize == 0 || !pClip->pData || !pClip->pFormat || pClip->dwTag != kSystemFormat) return 0;
     return DrawByFormat(*pClip->pFormat, ReadableFrom(pClip->pData), hDC, pRect);
 }
 

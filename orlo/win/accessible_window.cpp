@@ -77,9 +77,7 @@ public:
         AddRef();
         return S_OK;
     }
-    STDMETHODIMP_(ULONG) AddRef() override {
-        return static_cast<ULONG>(::InterlockedIncrement(&references_));
-    }
+    STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(::InterlockedIncrement(&references_)); }
     STDMETHODIMP_(ULONG) Release() override {
         const LONG left = ::InterlockedDecrement(&references_);
         if (left == 0) delete this;
@@ -92,8 +90,8 @@ public:
     STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override {
         return system_->GetIDsOfNames(iid, names, count, locale, ids);
     }
-    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
-                        VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                        EXCEPINFO* exception, UINT* argument) override {
         ITypeInfo* found = nullptr;
         const HRESULT told = system_->GetTypeInfo(0, locale, &found);
         if (FAILED(told)) return told;
@@ -164,8 +162,7 @@ public:
         return GiveItem(kind_.SelectedItem(window_), child);
     }
     STDMETHODIMP get_accSelection(VARIANT* children) override {
-        return HasItems() ? GiveItem(kind_.SelectedItem(window_), children)
-                          : system_->get_accSelection(children);
+        return HasItems() ? GiveItem(kind_.SelectedItem(window_), children) : system_->get_accSelection(children);
     }
     STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
         *action = nullptr;
@@ -228,9 +225,7 @@ private:
     bool IsItem(const VARIANT& child) const {
         return child.vt == VT_I4 && child.lVal > 0 && child.lVal <= kind_.ItemCount(window_).value_or(0);
     }
-    static HRESULT Give(const std::string& text, BSTR* result) {
-        return text.empty() ? S_FALSE : ToBstr(text, result);
-    }
+    static HRESULT Give(const std::string& text, BSTR* result) { return text.empty() ? S_FALSE : ToBstr(text, result); }
     static HRESULT GiveItem(int index, VARIANT* child) {
         child->vt = index >= 0 ? VT_I4 : VT_EMPTY;
         child->lVal = index + 1;

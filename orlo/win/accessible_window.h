@@ -8,8 +8,8 @@
 #include <string>
 #include <windows.h>
 
-// Describes a kind of window and the items in it. The object that a screen reader gets may outlive the window: a kind has no state,
-// and answers for a window that is gone as for one without items. Texts are in the system's code page.
+// Describes a kind of window and the items in it. The object that a screen reader gets may outlive the window: a kind
+// has no state, and answers for a window that is gone as for one without items. Texts are in the system's code page.
 class AccessibleKind {
 public:
     virtual ~AccessibleKind() = default;
@@ -43,12 +43,12 @@ public:
     int SelectedItem(HWND window) const override;
 };
 
-// Handles WM_GETOBJECT. Returns 0 if the message asks for something else than the window's client area, or if the system has no
-// object for it.
+// Handles WM_GETOBJECT. Returns 0 if the message asks for something else than the window's client area, or if the
+// system has no object for it.
 LRESULT AnswerGetObject(HWND window, WPARAM wParam, LPARAM lParam, const AccessibleKind& kind);
 
-// The text of the label before a control in the order of the windows, without the mark of its mnemonic; else of the smallest group box
-// around the control; empty without either.
+// The text of the label before a control in the order of the windows, without the mark of its mnemonic; else of the
+// smallest group box around the control; empty without either.
 std::string LabelOf(HWND control);
 
 // Notifies screen readers that the value of the window has changed.

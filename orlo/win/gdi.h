@@ -34,8 +34,7 @@ using OwnedDC = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDC>;
 // Selects an object into a device context; the destructor selects the previous one again.
 class SelectedObject {
 public:
-    SelectedObject(HDC dc, HGDIOBJ object)
-        : dc_(dc), previous_(object ? ::SelectObject(dc, object) : nullptr) {}
+    SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), previous_(object ? ::SelectObject(dc, object) : nullptr) {}
     ~SelectedObject() {
         if (previous_) ::SelectObject(dc_, previous_);
     }

@@ -25,8 +25,7 @@ struct Button {
     UINT text; // string: caption, line feed, width in dialog units
 };
 
-constexpr Button kButtons[] = {
-    {kBackId, IDS_WIZARD_BACK}, {kNextId, IDS_WIZARD_NEXT}, {IDCANCEL, IDS_WIZARD_CANCEL}};
+constexpr Button kButtons[] = {{kBackId, IDS_WIZARD_BACK}, {kNextId, IDS_WIZARD_NEXT}, {IDCANCEL, IDS_WIZARD_CANCEL}};
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 
 CSize WindowSize(HWND window) {
@@ -59,11 +58,10 @@ bool HasFieldAfter(HWND page, HWND control) {
     return next != nullptr && next != first && next != from;
 }
 
-// A multi-line field takes every key, and passes this one to the default button of its parent, the page, which has no such
-// button.
+// A multi-line field takes every key, and passes this one to the default button of its parent, the page, which has no
+// such button.
 bool TakesReturn(MSG& message) {
-    const LRESULT code =
-        ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
+    const LRESULT code = ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
     const LONG style = ::GetWindowLongA(message.hwnd, GWL_STYLE);
     if ((code & DLGC_HASSETSEL) != 0 && (style & ES_MULTILINE) != 0) return (style & ES_WANTRETURN) != 0;
     return (code & (DLGC_WANTALLKEYS | DLGC_WANTMESSAGE)) != 0;
@@ -134,9 +132,9 @@ int CWizardSheet::OnCreate(CREATESTRUCT*) {
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     if (!CreateTabRow(kChildStyle | rows, CRect(0, 0, 100, 10), kTabRowId)) return -1;
     m_tabRow.ShowWindow(SW_HIDE);
-    ::CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE | SS_ENDELLIPSIS,
-                      0, 0, 0, 0, m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kHeadingId)),
-                      AfxGetInstanceHandle(), nullptr);
+    ::CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_CENTERIMAGE | SS_ENDELLIPSIS, 0, 0, 0,
+                      0, m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kHeadingId)), AfxGetInstanceHandle(),
+                      nullptr);
     ::SendDlgItemMessageA(m_hWnd, kHeadingId, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
     MeasureUnits();
     if (!m_bModeless && !CreateButtons()) return -1;
@@ -152,8 +150,7 @@ void CWizardSheet::TrimSystemMenu() {
     const HMENU menu = ::GetSystemMenu(m_hWnd, FALSE);
     for (int i = ::GetMenuItemCount(menu) - 1; i >= 0; --i) {
         const UINT command = ::GetMenuItemID(menu, i);
-        if (command != SC_MOVE && command != SC_CLOSE)
-            ::DeleteMenu(menu, static_cast<UINT>(i), MF_BYPOSITION);
+        if (command != SC_MOVE && command != SC_CLOSE) ::DeleteMenu(menu, static_cast<UINT>(i), MF_BYPOSITION);
     }
 }
 
@@ -180,8 +177,8 @@ int CWizardSheet::CreateButtons() {
         char text[kTextSize];
         if (!LoadButtonText(button.text, text)) return 0;
         const auto id = reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id));
-        const HWND window = ::CreateWindowExA(0, "button", text, kChildStyle, 0, 0, 0, 0, m_hWnd, id,
-                                              AfxGetInstanceHandle(), nullptr);
+        const HWND window =
+            ::CreateWindowExA(0, "button", text, kChildStyle, 0, 0, 0, 0, m_hWnd, id, AfxGetInstanceHandle(), nullptr);
         if (window == nullptr) return 0;
         if (m_font.m_hObject != nullptr)
             ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.m_hObject), FALSE);
@@ -249,10 +246,10 @@ void CWizardSheet::RecalcWizardLayout() {
     CRect window(0, 0, cxClient, cyClient);
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
     Resize(window.Size());
-    if (page != nullptr)
-        ::SetWindowPos(page, nullptr, mx + 1, cyTabs + my, cxClient - 2 * mx - 3, pageSize.cy, kKeep);
+    if (page != nullptr) ::SetWindowPos(page, nullptr, mx + 1, cyTabs + my, cxClient - 2 * mx - 3, pageSize.cy, kKeep);
     if (!m_bModeless) PlaceRow(row, cxClient, cyClient);
-    // The system has moved what was on the screen at the old places of the children: a part of the page, for the buttons.
+    // The system has moved what was on the screen at the old places of the children: a part of the page, for the
+    // buttons.
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
@@ -268,8 +265,7 @@ void CWizardSheet::Resize(CSize size) {
 CRect CWizardSheet::GetPagePlace(const CPropertyPage& page, const CRect& before) const {
     if (before.IsRectEmpty()) return before;
     const CSize own = WindowSize(page.m_hWnd);
-    return CRect(before.TopLeft(),
-                 CSize(std::max(own.cx, before.Size().cx), std::max(own.cy, before.Size().cy)));
+    return CRect(before.TopLeft(), CSize(std::max(own.cx, before.Size().cx), std::max(own.cy, before.Size().cy)));
 }
 
 // ---- Walking
@@ -331,7 +327,8 @@ LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
     return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
 }
 
-// The system moves the frame with the Tab key, but not between the sheet and its page, nor away from a button that is disabled.
+// The system moves the frame with the Tab key, but not between the sheet and its page, nor away from a button that is
+// disabled.
 void CWizardSheet::ShowDefaultButton() {
     const HWND focus = ::GetFocus();
     const bool inside = focus != nullptr && ::IsChild(m_hWnd, focus);

@@ -95,8 +95,7 @@ TEST(Dialog, ARefusedValueKeepsItOpenAndSelectsTheField) {
         EXPECT_EQ(boxes.OnlyText(), "Please enter a whole number.");
         EXPECT_EQ(::GetDlgItem(dialog.m_hWnd, IDC_COUNT), ::GetFocus());
         DWORD from = 9, to = 9;
-        ::SendMessageA(::GetFocus(), EM_GETSEL, reinterpret_cast<WPARAM>(&from),
-                       reinterpret_cast<LPARAM>(&to));
+        ::SendMessageA(::GetFocus(), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
         EXPECT_EQ(from, 0u);
         EXPECT_EQ(to, 3u);
         dialog.SendMessage(WM_COMMAND, IDOK);
@@ -158,8 +157,7 @@ TEST(Dialog, EndsWithTheProgram) {
     };
     EXPECT_EQ(outer.DoModal(), -1);
     MSG message;
-    ASSERT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
-        << "the program's own loop ends too";
+    ASSERT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the program's own loop ends too";
     EXPECT_EQ(message.wParam, 5u);
 }
 

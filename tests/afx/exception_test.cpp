@@ -51,8 +51,7 @@ const Thrown kThrown[] = {
     {"Standard", [] { throw std::runtime_error("ran out of luck"); }, "ran out of luck"},
     {"Number", [] { throw 5; }, "Something went wrong inside the program."},
 };
-INSTANTIATE_TEST_SUITE_P(All, HandlerThatThrows, ::testing::ValuesIn(kThrown),
-                         [](auto& i) { return i.param.name; });
+INSTANTIATE_TEST_SUITE_P(All, HandlerThatThrows, ::testing::ValuesIn(kThrown), [](auto& i) { return i.param.name; });
 
 TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
     CThrower window;

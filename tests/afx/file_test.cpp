@@ -75,8 +75,7 @@ TEST_P(FileMode, SaysWhatBecomesOfAFileThatIsThere) {
 
 const Mode kModes[] = {
     {"Create", CStdioFile::modeCreate | CStdioFile::modeWrite, "new"},
-    {"KeepContent", CStdioFile::modeCreate | CStdioFile::modeNoTruncate | CStdioFile::modeReadWrite,
-     "new text"},
+    {"KeepContent", CStdioFile::modeCreate | CStdioFile::modeNoTruncate | CStdioFile::modeReadWrite, "new text"},
     {"Write", CStdioFile::modeWrite, "new text"},
 };
 INSTANTIATE_TEST_SUITE_P(All, FileMode, ::testing::ValuesIn(kModes), [](auto& i) { return i.param.name; });

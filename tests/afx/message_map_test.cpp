@@ -142,8 +142,7 @@ const Command kCommands[] = {
     {"BehindRange", 30, false, "", 0},
     {"HighestNumber", 0xFFFF, false, "", 0},
 };
-INSTANTIATE_TEST_SUITE_P(All, CommandRouting, ::testing::ValuesIn(kCommands),
-                         [](auto& i) { return i.param.name; });
+INSTANTIATE_TEST_SUITE_P(All, CommandRouting, ::testing::ValuesIn(kCommands), [](auto& i) { return i.param.name; });
 
 TEST_F(MessageMap, HandlersCanBeAskedForWithoutACall) {
     AFX_CMDHANDLERINFO info = {};

@@ -69,8 +69,8 @@ TEST_F(OwnerDraw, ReachesAList) {
 
 TEST_F(OwnerDraw, ReachesACombo) {
     Drawn<CComboBox> combo;
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, kPlace,
-                             &parent, 8));
+    ASSERT_TRUE(
+        combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, kPlace, &parent, 8));
     EXPECT_EQ(combo.calls, "M");
     for (ULONG_PTR data : {3, 1, 2})
         combo.AddString(reinterpret_cast<LPCSTR>(data));
@@ -87,9 +87,7 @@ TEST_F(OwnerDraw, ReachesACombo) {
 
 TEST_F(OwnerDraw, OfEachItemMeasuresEach) {
     class CVariable : public Drawn<CListBox> {
-        void MeasureItem(LPMEASUREITEMSTRUCT record) override {
-            record->itemHeight = 10 + 5 * record->itemID;
-        }
+        void MeasureItem(LPMEASUREITEMSTRUCT record) override { record->itemHeight = 10 + 5 * record->itemID; }
     } list;
     ASSERT_TRUE(list.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS, kPlace, &parent, 7));
     for (int i = 0; i < 3; ++i)
@@ -99,9 +97,8 @@ TEST_F(OwnerDraw, OfEachItemMeasuresEach) {
 }
 
 TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
-    HWND list =
-        ::CreateWindowExA(0, "LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0,
-                          50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
+    HWND list = ::CreateWindowExA(0, "LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0,
+                                  50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
     EXPECT_EQ(::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
     ::UpdateWindow(list);
     // An object that comes later is asked from then on.

@@ -77,8 +77,7 @@ std::string TabText(const CPropertySheet& sheet, int index) {
     item.mask = TCIF_TEXT;
     item.pszText = text;
     item.cchTextMax = sizeof text;
-    sheet.GetTabControl()->SendMessage(TCM_GETITEMA, static_cast<WPARAM>(index),
-                                       reinterpret_cast<LPARAM>(&item));
+    sheet.GetTabControl()->SendMessage(TCM_GETITEMA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
     return text;
 }
 
@@ -228,14 +227,12 @@ TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
         for (int i = 0; i < 2; ++i)
             user.Key(VK_TAB);
         ::SetFocus(user.Control(IDC_PRESS)); // the edit of several lines keeps the key for itself
-        ::SendMessageA(sheet.m_hWnd, WM_NEXTDLGCTL,
-                       reinterpret_cast<WPARAM>(::GetDlgItem(sheet.m_hWnd, IDOK)), TRUE);
+        ::SendMessageA(sheet.m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(::GetDlgItem(sheet.m_hWnd, IDOK)), TRUE);
         for (int i = 0; i < 6; ++i) {
             order.push_back(::GetDlgCtrlID(::GetFocus()));
             user.Key(VK_TAB);
         }
-        EXPECT_EQ(order,
-                  (std::vector<int>{IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP, AFX_IDC_TAB_CONTROL, IDC_FIELD}));
+        EXPECT_EQ(order, (std::vector<int>{IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP, AFX_IDC_TAB_CONTROL, IDC_FIELD}));
     });
 }
 

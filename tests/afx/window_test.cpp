@@ -64,12 +64,10 @@ TEST_F(Window, SeesItsFirstAndItsLastMessages) {
     HWND window = child.m_hWnd;
     EXPECT_TRUE(child.DestroyWindow());
     EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ(std::vector<UINT>(child.messages.end() - 2, child.messages.end()),
-              (std::vector<UINT>{WM_NCDESTROY, 0}));
+    EXPECT_EQ(std::vector<UINT>(child.messages.end() - 2, child.messages.end()), (std::vector<UINT>{WM_NCDESTROY, 0}));
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
 
-    ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6))
-        << "an object may be used again";
+    ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6)) << "an object may be used again";
     EXPECT_EQ(DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, child.SendMessage(WM_GETDLGCODE));
 }
 
@@ -131,8 +129,7 @@ TEST_F(Window, IsDestroyedByItsDestructor) {
 }
 
 TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
-    HWND plain =
-        ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, parent.m_hWnd, nullptr, nullptr, nullptr);
+    HWND plain = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, parent.m_hWnd, nullptr, nullptr, nullptr);
     CWnd* before = CWnd::FromHandle(plain);
     EXPECT_EQ(before, CWnd::FromHandle(plain)) << "one object for one window";
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
@@ -191,8 +188,7 @@ TEST_F(Window, TemporaryObjectsGoWithTheMessageThatMadeThem) {
 }
 
 TEST_F(Window, SubclassedGetsItsProcedureBack) {
-    HWND edit =
-        ::CreateWindowExA(0, "EDIT", "abc", WS_CHILD, 0, 0, 50, 20, parent.m_hWnd, nullptr, nullptr, nullptr);
+    HWND edit = ::CreateWindowExA(0, "EDIT", "abc", WS_CHILD, 0, 0, 50, 20, parent.m_hWnd, nullptr, nullptr, nullptr);
     const auto before = ::GetWindowLongPtrA(edit, GWLP_WNDPROC);
     CLog object;
     ASSERT_TRUE(object.SubclassWindow(edit));

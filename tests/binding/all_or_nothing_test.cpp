@@ -82,8 +82,7 @@ std::function<void(const std::string&)> AtWidth(Throw fail) {
 TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
     const Refusal kRefusals[] = {
         {"result", nullptr, 2, "1 of 3 graphics could not be changed."},
-        {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1,
-         "2 of 3 graphics could not be changed."},
+        {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1, "2 of 3 graphics could not be changed."},
         {"standard exception", AtWidth([] { throw std::runtime_error("no disk"); }), 1,
          "2 of 3 graphics could not be changed.\nno disk"},
         {"anything", AtWidth([] { throw 1; }), 1,
@@ -124,8 +123,8 @@ TEST(WriteBack, StampsTheSelectionAlsoWhenNothingWasDirty) {
     EXPECT_EQ(over.kit.Writes(), 0);
 }
 
-// A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out later,
-// whoever began the exchanges.
+// A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out
+// later, whoever began the exchanges.
 TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
     OverTwo over;
     double scale = 0;

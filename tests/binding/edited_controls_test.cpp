@@ -81,8 +81,7 @@ protected:
              DDP_Radio(pDX, kRadio, button, "Button");
              DDX_Radio(1, pDX, kRadio, button);
          },
-         [](SheetDriver& user) { user.Click(kRadio + 2); },
-         [](SheetDriver& user) { user.Click(kRadio + 1); }},
+         [](SheetDriver& user) { user.Click(kRadio + 2); }, [](SheetDriver& user) { user.Click(kRadio + 1); }},
         {"combo", kCombo,
          [this](CDataExchange* pDX) {
              DDP_Text(pDX, kCombo, choice, "Choice");

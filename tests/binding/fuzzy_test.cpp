@@ -60,7 +60,8 @@ TEST(CompareFloatsTest, RoundsAtSixtyFour) {
     EXPECT_EQ(CompareFloats(&zero, &more), 1);
 }
 
-// Over random bit patterns that are close to each other: antisymmetric, transitive, and never against the numeric order.
+// Over random bit patterns that are close to each other: antisymmetric, transitive, and never against the numeric
+// order.
 TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
     std::mt19937 random(20260801);
     std::uniform_int_distribution<uint32_t> base(0x00100000, 0x7FE00000), near(0, 40), sign(0, 1);

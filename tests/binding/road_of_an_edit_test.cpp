@@ -38,8 +38,8 @@ struct Sample<CString> {
 template <class T>
 class EditRoad : public ::testing::Test {};
 
-using EditTypes = ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long,
-                                   float, double, CString>;
+using EditTypes =
+    ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long, float, double, CString>;
 TYPED_TEST_SUITE(EditRoad, EditTypes);
 
 TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {

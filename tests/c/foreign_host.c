@@ -16,8 +16,8 @@ __declspec(dllimport) HMODULE WINAPI LoadLibraryW(const wchar_t* name);
 __declspec(dllimport) void* WINAPI GetProcAddress(HMODULE module, const char* name);
 __declspec(dllimport) const wchar_t* WINAPI GetCommandLineW(void);
 __declspec(dllimport) HWND WINAPI
-    CreateWindowExA(uint32_t exStyle, const char* type, const char* title, uint32_t style, int x, int y,
-                    int cx, int cy, HWND parent, void* menu, HMODULE module, void* parameter);
+    CreateWindowExA(uint32_t exStyle, const char* type, const char* title, uint32_t style, int x, int y, int cx, int cy,
+                    HWND parent, void* menu, HMODULE module, void* parameter);
 __declspec(dllimport) int WINAPI IsWindowEnabled(HWND window);
 __declspec(dllimport) HWND WINAPI GetActiveWindow(void);
 __declspec(dllimport) void WINAPI ExitProcess(unsigned int code);
@@ -64,8 +64,7 @@ static int OneColor(const Database* database, struct GraphicStruct* set) {
          graphic = database->next(set, &place, 1, kAllGraphics)) {
         const Slots* slots = database->slots(graphic);
         int32_t number;
-        if (slots == 0 || !slots->lookup(graphic, &name, 1, 0, &number) ||
-            !slots->get(graphic, number, 0x13, &other))
+        if (slots == 0 || !slots->lookup(graphic, &name, 1, 0, &number) || !slots->get(graphic, number, 0x13, &other))
             continue;
         if (count++ > 0 && other != color) return 0;
         color = other;

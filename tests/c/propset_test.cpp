@@ -1,4 +1,5 @@
-// Property sets and thumbnails through the C interface: real documents, files changed in one step, and arguments that are wrong.
+// Property sets and thumbnails through the C interface: real documents, files changed in one step, and arguments that
+// are wrong.
 
 #include <orlo_c.h>
 
@@ -85,8 +86,7 @@ TEST(CPropset, SavesIntoAFileInOneStepAndLeavesTheRest) {
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     OrloPropset set = Opened(file.path.c_str()), other = nullptr;
     EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloAuthor, kOrloTypeText, "\xE0\xB8\x81"), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"),
-              kOrloNotEncodable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloSummary, kOrloTitle, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
     {
         constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         const HANDLE held =
@@ -176,8 +176,8 @@ TEST(CPropset, OpensAFileThatAnotherProgramWrites) {
     ScratchFile file;
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const HANDLE writer = ::CreateFileW(file.path.c_str(), GENERIC_READ | GENERIC_WRITE, kEverything, nullptr,
-                                        OPEN_EXISTING, 0, nullptr);
+    const HANDLE writer =
+        ::CreateFileW(file.path.c_str(), GENERIC_READ | GENERIC_WRITE, kEverything, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(writer, INVALID_HANDLE_VALUE);
     const OrloPropset set = Opened(file.path.c_str());
     EXPECT_EQ(Text(set, kOrloSummary, kOrloAuthor), "Sompop");
@@ -268,11 +268,9 @@ TEST(CPropset, StoresWhatATypeCanHold) {
               kOrloWrongType); // it is an Int16
     EXPECT_EQ(OrloPropsetSetReal(set, &kOrloSummary, 90, kOrloTypeFloat, 1e300), kOrloWrongType);
     EXPECT_EQ(OrloPropsetSetReal(set, &kOrloSummary, 90, kOrloTypeFloat, 0.1), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloSummary, kOrloCodePage, kOrloTypeInt16, 1252),
-              kOrloBadArgument);
+    EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloSummary, kOrloCodePage, kOrloTypeInt16, 1252), kOrloBadArgument);
     EXPECT_EQ(OrloPropsetSetInteger(set, &kOrloDocumentSummary, kOrloCodePage, kOrloTypeInt16, 932), kOrloOk);
-    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"),
-              kOrloNotEncodable);
+    EXPECT_EQ(OrloPropsetSetText(set, &kOrloDocumentSummary, 15, kOrloTypeText, "\xC3\xA9"), kOrloNotEncodable);
     OrloPropsetClose(set);
 }
 
@@ -280,8 +278,7 @@ TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
     const OrloPropset set = Opened(L"" TEST_DATA "/ole/bug55030--18fccf.ppt");
     uint32_t width = 0, height = 0;
     size_t size = 0;
-    ASSERT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, nullptr, &size), kOrloOk)
-        << ErrorText();
+    ASSERT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, nullptr, &size), kOrloOk) << ErrorText();
     ASSERT_EQ(size, size_t{4} * width * height);
     std::vector<uint32_t> bgra(size / 4), rgba(size / 4);
     ASSERT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, bgra.data(), &size), kOrloOk);
@@ -295,8 +292,7 @@ TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
     }
     EXPECT_GT(drawn, bgra.size() / 100);
     --size;
-    EXPECT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, bgra.data(), &size),
-              kOrloBufferTooSmall);
+    EXPECT_EQ(OrloPropsetGetThumbnailPixels(set, kOrloBgra, &width, &height, bgra.data(), &size), kOrloBufferTooSmall);
     width = height = 40;
     HBITMAP bitmap = nullptr;
     ASSERT_EQ(OrloPropsetGetThumbnailBitmap(set, &width, &height, &bitmap), kOrloOk);

@@ -125,8 +125,7 @@ TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
     styles.SetCurSel(1);
     EXPECT_EQ(events.Count(EVENT_OBJECT_SELECTION, styles.m_hWnd, 2), 1);
     CCheckListBox list;
-    ASSERT_TRUE(
-        list.Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
+    ASSERT_TRUE(list.Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     list.AddString("Walls", 1);
     list.ToggleItem(0);
     EXPECT_EQ(events.Count(EVENT_OBJECT_STATECHANGE, list.m_hWnd, 1), 2);
@@ -135,8 +134,8 @@ TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
 
 TEST_F(Spoken, ACheckListHasCheckButtons) {
     CCheckListBox list;
-    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90),
-                            &m_dialog, 7));
+    ASSERT_TRUE(
+        list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     list.AddString("Walls", 1);
     list.AddString("Doors", 0);
     const Accessible spoken(list.m_hWnd);

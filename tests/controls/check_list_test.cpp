@@ -108,9 +108,8 @@ TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
 }
 
 TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
-    const HWND window =
-        ::CreateWindowExA(0, "ListBox", "", WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0, 90, 90,
-                          m_host.m_hWnd, reinterpret_cast<HMENU>(8), nullptr, nullptr);
+    const HWND window = ::CreateWindowExA(0, "ListBox", "", WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0, 90,
+                                          90, m_host.m_hWnd, reinterpret_cast<HMENU>(8), nullptr, nullptr);
     ::SendMessageA(window, LB_SETITEMHEIGHT, 0, 40);
     OpenCheckList taken;
     ASSERT_TRUE(taken.SubclassDlgItem(8, &m_host));
@@ -152,8 +151,7 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
         Draw(0, ODA_DRAWENTIRE, ODS_FOCUS | ODS_SELECTED);
     EXPECT_EQ(objects, GdiObjectCount());
     Draw(0, 0, 0);
-    EXPECT_EQ(m_pixels.Count({0, 0, 120, 90}, DrawnPixels::kUntouched), 120 * 90)
-        << "an action of 0 draws nothing";
+    EXPECT_EQ(m_pixels.Count({0, 0, 120, 90}, DrawnPixels::kUntouched), 120 * 90) << "an action of 0 draws nothing";
 }
 
 } // namespace

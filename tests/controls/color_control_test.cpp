@@ -12,8 +12,7 @@ namespace {
 
 class ColorControl : public ControlDialog {
 protected:
-    ColorControl()
-        : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLOR)) {}
+    ColorControl() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLOR)) {}
 
     // The table keeps the address of the color.
     void Add(const std::string& name, DWORD color) {
@@ -117,8 +116,7 @@ class FilteredColors : public CColorControl {
 public:
     FilteredColors() : CColorControl(0) {}
     int AddControlItem(const char* item) override {
-        return std::string(item).find("hidden") == std::string::npos ? CColorControl::AddControlItem(item)
-                                                                     : -1;
+        return std::string(item).find("hidden") == std::string::npos ? CColorControl::AddControlItem(item) : -1;
     }
 };
 
@@ -127,8 +125,7 @@ TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
     Add("blue", RGB(0, 0, 255));
     Add("grey", RGB(9, 9, 9));
     FilteredColors filtered;
-    ASSERT_TRUE(
-        filtered.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
+    ASSERT_TRUE(filtered.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     const ControlFillRecord record = {m_table, 0, 0};
     filtered.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
     ASSERT_EQ(filtered.GetCount(), 2);
@@ -156,9 +153,7 @@ protected:
         m_control.AddString(item);
         Draw(0, rect);
     }
-    static RECT Middle(const RECT& rect) {
-        return {rect.left + 20, rect.top + 2, rect.right - 20, rect.bottom - 2};
-    }
+    static RECT Middle(const RECT& rect) { return {rect.left + 20, rect.top + 2, rect.right - 20, rect.bottom - 2}; }
 
     static constexpr COLORREF kUntouched = DrawnPixels::kUntouched;
     DrawnPixels m_pixels{120, 60};
@@ -247,12 +242,10 @@ TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColor) {
         DrawOnly(color, "");
         const int highlighted = m_pixels.Count(kRow, highlight), others = m_pixels.Count(kRow, other);
         Draw(0, kRow, ODA_SELECT, ODS_SELECTED);
-        EXPECT_LT(100, std::max(m_pixels.Count(kRow, highlight) - highlighted,
-                                m_pixels.Count(kRow, other) - others))
+        EXPECT_LT(100, std::max(m_pixels.Count(kRow, highlight) - highlighted, m_pixels.Count(kRow, other) - others))
             << color;
         Draw(0, kRow, ODA_SELECT, 0);
-        EXPECT_EQ(highlighted, m_pixels.Count(kRow, highlight))
-            << "and without the mark where it has gone on";
+        EXPECT_EQ(highlighted, m_pixels.Count(kRow, highlight)) << "and without the mark where it has gone on";
     }
     Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
     EXPECT_NE(m_pixels.Count(kRow, kUntouched), 100 * 16) << "the focus rectangle alone";

@@ -1,5 +1,5 @@
-// What all owner-drawn combos show in their closed field, in light and in dark schemes: that they have the focus, that they
-// are disabled.
+// What all owner-drawn combos show in their closed field, in light and in dark schemes: that they have the focus, that
+// they are disabled.
 
 #include "control_dialog.h"
 
@@ -37,8 +37,7 @@ protected:
         EXPECT_LE(50, Differences(plain, focused)) << id;
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn whole";
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2)) << id;
-        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, -1), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, -1))
-            << id;
+        EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, -1), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, -1)) << id;
         Draw(id, ODS_DISABLED);
         EXPECT_LE(5, m_pixels.Count(kField, ::GetSysColor(COLOR_GRAYTEXT))) << id;
         EXPECT_LE(800, m_pixels.Count(kField, ::GetSysColor(COLOR_3DFACE))) << id;

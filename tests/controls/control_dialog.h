@@ -88,8 +88,7 @@ public:
     void Draw(Control& control, int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0,
               int times = 1) {
         Clear(kUntouched);
-        DRAWITEMSTRUCT request = {0,    1, static_cast<UINT>(item), action, state, control.m_hWnd, DC(),
-                                  rect, 0};
+        DRAWITEMSTRUCT request = {0, 1, static_cast<UINT>(item), action, state, control.m_hWnd, DC(), rect, 0};
         for (int i = 0; i < times; ++i)
             control.DrawItem(&request);
     }

@@ -117,15 +117,14 @@ TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
 TEST(ControlLife, ObjectsOfAProgramStay) {
     HostWindow host;
     CColorControl colors(0);
-    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
-                              CRect(0, 0, 100, 100), &host, IDC_COLOR));
+    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 100, 100),
+                              &host, IDC_COLOR));
     EXPECT_TRUE(colors.IsDialogCtrl());
     EXPECT_EQ(static_cast<unsigned long>(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
               colors.m_dwStyle & ~WS_CLIPSIBLINGS);
     colors.DestroyWindow();
     EXPECT_EQ(colors.m_hWnd, nullptr);
-    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &host, 1))
-        << "and can be used again";
+    ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &host, 1)) << "and can be used again";
     colors.DialogCtrl(0);
     EXPECT_FALSE(colors.IsDialogCtrl());
     colors.DestroyWindow();
@@ -136,8 +135,8 @@ TEST(ControlLife, ObjectsOfAProgramStay) {
 }
 
 TEST(ControlLife, TheFrameworkMakesControlsByName) {
-    for (CRuntimeClass* const made : {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC),
-                                      RUNTIME_CLASS(CLineStyleControlL)}) {
+    for (CRuntimeClass* const made :
+         {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC), RUNTIME_CLASS(CLineStyleControlL)}) {
         CObject* const object = made->CreateObject();
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(made, object->GetRuntimeClass());
@@ -174,20 +173,20 @@ TEST(ControlLife, AWizardsPageHasThemToo) {
     wizard.AddPage(&page);
     wizard.AddPage(&last);
     constexpr int kNext = 101;
-    EXPECT_EQ(SheetDriver().Run(
-                  wizard,
-                  [&](SheetDriver& user) {
-                      const CWnd* control = CWnd::FromHandlePermanent(user.Control(IDC_LAYER));
-                      ASSERT_TRUE(control != nullptr && control->IsKindOf(RUNTIME_CLASS(CLayerControl)));
-                      EXPECT_EQ(layers, static_cast<const CLayerControl*>(control)->m_pTable);
-                      EXPECT_EQ(user.Control(IDC_TAKEN_OVER), page.colors.m_hWnd);
-                      EXPECT_EQ(layers, page.colors.m_pTable);
-                      EXPECT_EQ(host.Count(kControlReady), 2);
-                      EXPECT_EQ(user.Selection(IDC_LAYER), 0) << "filled before the page shows its values";
-                      user.Choose(IDC_LAYER, 1);
-                      user.ClickSheetButton(kNext);
-                      user.ClickSheetButton(kNext);
-                  }),
+    EXPECT_EQ(SheetDriver().Run(wizard,
+                                [&](SheetDriver& user) {
+                                    const CWnd* control = CWnd::FromHandlePermanent(user.Control(IDC_LAYER));
+                                    ASSERT_TRUE(control != nullptr && control->IsKindOf(RUNTIME_CLASS(CLayerControl)));
+                                    EXPECT_EQ(layers, static_cast<const CLayerControl*>(control)->m_pTable);
+                                    EXPECT_EQ(user.Control(IDC_TAKEN_OVER), page.colors.m_hWnd);
+                                    EXPECT_EQ(layers, page.colors.m_pTable);
+                                    EXPECT_EQ(host.Count(kControlReady), 2);
+                                    EXPECT_EQ(user.Selection(IDC_LAYER), 0)
+                                        << "filled before the page shows its values";
+                                    user.Choose(IDC_LAYER, 1);
+                                    user.ClickSheetButton(kNext);
+                                    user.ClickSheetButton(kNext);
+                                }),
               IDOK);
     EXPECT_EQ(page.layer, 2u);
 }

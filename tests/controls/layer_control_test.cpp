@@ -91,9 +91,7 @@ TEST_F(Layers, NamesHaveTheLayersColorWhereItCanBeSeen) {
 TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
     const uint16_t id = Add("HHH", RGB(0, 0, 200), kLayerOff);
     Fill(IDC_LAYER, m_table, id);
-    const auto ink = [&](LONG top, LONG bottom) {
-        return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200));
-    };
+    const auto ink = [&](LONG top, LONG bottom) { return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200)); };
     Draw(Index(id), ODA_DRAWENTIRE, 0, {0, 8, 140, 48});
     EXPECT_EQ(ink(8, 18), 0);
     EXPECT_LT(10, ink(18, 38));

@@ -1,5 +1,5 @@
-// The controls of line and of brush styles: what they offer, how a sample is shaped, scaled and drawn. One suite for all four,
-// and one for the combo and the list of each kind.
+// The controls of line and of brush styles: what they offer, how a sample is shaped, scaled and drawn. One suite for
+// all four, and one for the combo and the list of each kind.
 
 #include "control_dialog.h"
 
@@ -27,8 +27,7 @@ public:
         const PropertyTable* const table = GraphicGetVtbl(Graphic());
         int32_t number = 0;
         double value = -1.0;
-        if (table->PropLookup(Graphic(), &property, 1, 0, &number))
-            table->PropGet(Graphic(), number, VT_R8, &value);
+        if (table->PropLookup(Graphic(), &property, 1, 0, &number)) table->PropGet(Graphic(), number, VT_R8, &value);
         return value;
     }
     double Width() const {
@@ -184,8 +183,7 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeTakenAway) {
                 colors.push_back(this->m_pixels.At(x, y));
         return colors;
     };
-    EXPECT_EQ(picture(ODA_DRAWENTIRE), picture(ODA_SELECT))
-        << "the sample has no marks of the frame that goes";
+    EXPECT_EQ(picture(ODA_DRAWENTIRE), picture(ODA_SELECT)) << "the sample has no marks of the frame that goes";
     this->Draw(item, ODA_FOCUS, ODS_FOCUS);
     EXPECT_EQ(this->m_pixels.Count(kAll, highlight), 0);
     EXPECT_LT(this->m_pixels.Count(kAll, kUntouched), 150 * 60) << "the focus rectangle alone";
@@ -195,8 +193,7 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeTakenAway) {
 
 TYPED_TEST(StyleControls, ASubclassedWindowHasItsSampleWhenItIsFilled) {
     CWnd window;
-    ASSERT_TRUE(window.CWnd::Create(TypeParam::kClass, "", TypeParam::kStyle, CRect(0, 0, 200, 100),
-                                    &this->m_host, 2));
+    ASSERT_TRUE(window.CWnd::Create(TypeParam::kClass, "", TypeParam::kStyle, CRect(0, 0, 200, 100), &this->m_host, 2));
     window.UnsubclassWindow();
     typename TypeParam::Control control;
     CDataExchange load(&this->m_host, FALSE);
@@ -268,8 +265,7 @@ TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
     EXPECT_EQ(this->IndexOf("$AUXILIARY"), -1);
     EXPECT_EQ(this->IndexOf("Dashed"), this->m_control.GetCurSel());
     const int last = this->m_control.GetCount() - 1;
-    EXPECT_EQ(unsigned{kLineStyleByLayer}, this->HostItem(last, kStringByLayer))
-        << "the default item is last";
+    EXPECT_EQ(unsigned{kLineStyleByLayer}, this->HostItem(last, kStringByLayer)) << "the default item is last";
     this->Fill(kLineStyleByLayer);
     EXPECT_EQ(last, this->m_control.GetCurSel());
     this->m_control.m_pTable = nullptr;

@@ -8,8 +8,7 @@ namespace {
 
 class StyleNames : public ControlDialog {
 protected:
-    StyleNames()
-        : m_blocks(BlocksFromDrawing(m_drawing.Get())), m_control(Get<CStyleNameControl>(IDC_STYLE_NAME)) {}
+    StyleNames() : m_blocks(BlocksFromDrawing(m_drawing.Get())), m_control(Get<CStyleNameControl>(IDC_STYLE_NAME)) {}
 
     uint16_t Add(const char* name, const char* tree) {
         GraphicStruct* const graphic = GraphicNewEx(kGraphicVertices, 0, 1);
@@ -49,8 +48,8 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
 
 TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
     CStyleNameControl control;
-    ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
-                               CRect(0, 0, 120, 100), &m_host, 1));
+    ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 120, 100),
+                               &m_host, 1));
     control.AddString("Zebra");
     DrawnPixels pixels(120, 40);
     const RECT all = {0, 0, 120, 40};

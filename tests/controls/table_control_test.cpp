@@ -18,9 +18,7 @@ public:
         WS_CHILD | CBS_OWNERDRAWFIXED | (kIsCombo ? CBS_DROPDOWNLIST | CBS_HASSTRINGS : LBS_HASSTRINGS);
 
     Concrete() : Base(kKind) {}
-    bool MakeIn(CWnd* parent) {
-        return this->Create(kStyle, CRect(0, 0, 120, kIsCombo ? 24 : 80), parent, 1);
-    }
+    bool MakeIn(CWnd* parent) { return this->Create(kStyle, CRect(0, 0, 120, kIsCombo ? 24 : 80), parent, 1); }
     void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = rowHeight; }
     void DrawItem(LPDRAWITEMSTRUCT) override {}
     int Find(unsigned id) const { return this->FindItem(id); }
@@ -32,9 +30,7 @@ using TableList = Concrete<CListControl, 0x7D98>;
 template <class Control>
 class TableControl : public ::testing::Test {
 protected:
-    TableControl() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")) {
-        EXPECT_TRUE(m_control.MakeIn(&m_host));
-    }
+    TableControl() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")) { EXPECT_TRUE(m_control.MakeIn(&m_host)); }
     ~TableControl() override { m_control.DestroyWindow(); }
 
     void Fill(TableStruct* table, unsigned selected) {
@@ -125,9 +121,8 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
     for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // those of a list are the same
         for (const bool exchanged : {false, true}) {
             const DWORD style = (TypeParam::kStyle & ~DWORD{CBS_OWNERDRAWFIXED}) | drawn;
-            const HWND window =
-                ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
-                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
+            const HWND window = ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
+                                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
             ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
             TypeParam control, made;
             control.rowHeight = made.rowHeight = 30;
@@ -143,8 +138,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
                 ASSERT_TRUE(control.SubclassDlgItem(2, &this->m_host));
             const UINT height = combo ? CB_GETITEMHEIGHT : LB_GETITEMHEIGHT;
             EXPECT_EQ(control.SendMessage(height, 0, 0), 30);
-            EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0),
-                      control.SendMessage(height, combo ? -1 : 0, 0));
+            EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0), control.SendMessage(height, combo ? -1 : 0, 0));
             EXPECT_EQ(style, control.m_dwStyle & ~WS_CLIPSIBLINGS);
             EXPECT_NE(control.SendMessage(WM_GETFONT), 0);
             ASSERT_EQ(this->m_host.Count(kControlReady), 1);
@@ -162,8 +156,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
 
 // Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
 TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
-    for (const char* name :
-         {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
+    for (const char* name : {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
         TableEntryAdd(this->m_table, name, nullptr);
     this->Fill(this->m_table, 0);
     const auto type = [&](const std::string& letters) {
@@ -369,8 +362,8 @@ public:
 TEST(ComboClick, OnlyTheButtonOpensTheList) {
     HostWindow host;
     ClickedParent parent;
-    ASSERT_TRUE(parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300,
-                                      nullptr, nullptr));
+    ASSERT_TRUE(
+        parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr, nullptr));
     TableCombo combo;
     ASSERT_TRUE(combo.Create(WS_VISIBLE | TableCombo::kStyle, CRect(30, 40, 150, 140), &parent, 1));
     combo.AddString("item");

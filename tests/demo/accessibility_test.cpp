@@ -1,6 +1,6 @@
-// What a screen reader is told of the sheet's fields and of the viewer's parts: a name and a role of each. Wine gives roles and
-// names of edits as Windows does; to combos and lists, which Windows names by the label before them, it gives none: there the
-// label is looked at.
+// What a screen reader is told of the sheet's fields and of the viewer's parts: a name and a role of each. Wine gives
+// roles and names of edits as Windows does; to combos and lists, which Windows names by the label before them, it gives
+// none: there the label is looked at.
 
 #include "demo/viewer.h"
 
@@ -23,8 +23,7 @@ struct Told {
 
 Told AskOf(HWND window) {
     void* found = nullptr;
-    if (FAILED(::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                            &found)))
+    if (FAILED(::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &found)))
         return {"no object", 0};
     const orlo::Owned<IAccessible> object(static_cast<IAccessible*>(found));
     Told told = {"", 0};
@@ -93,8 +92,7 @@ TEST_F(ScreenReader, HearsWhatPartsTheViewerHas) {
     user.Key(VK_F4);
     EXPECT_EQ(AskOf(view()).name, "Drawing");
     EXPECT_EQ(AskOf(frame->Pane().m_hWnd).name, "Properties");
-    EXPECT_EQ(AskOf(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)).name,
-              "Nothing is selected");
+    EXPECT_EQ(AskOf(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)).name, "Nothing is selected");
     user.InDialog([&] { user.Key('L', UserInput::kControl); },
                   [&](HWND dialog) {
                       EXPECT_EQ(AskOf(dialog).name, "Layers");

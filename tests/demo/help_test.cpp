@@ -73,16 +73,16 @@ protected:
 };
 
 TEST_F(Help, IsOfThePageInFrontByKeyAndByButton) {
-    user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
-                  [&](HWND sheet) {
-                      EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "general");
-                      for (const auto& [page, topic] :
-                           {std::pair(1, "pen"), std::pair(2, "brush"), std::pair(3, "text")}) {
-                          ASSERT_TRUE(ClickTab(user, sheet, page));
-                          EXPECT_EQ(Asked([&] { user.Click(::GetDlgItem(sheet, ID_HELP)); }), topic);
-                      }
-                      user.Key(VK_ESCAPE);
-                  });
+    user.InDialog(
+        [&] { user.Key(VK_RETURN, UserInput::kAlt); },
+        [&](HWND sheet) {
+            EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "general");
+            for (const auto& [page, topic] : {std::pair(1, "pen"), std::pair(2, "brush"), std::pair(3, "text")}) {
+                ASSERT_TRUE(ClickTab(user, sheet, page));
+                EXPECT_EQ(Asked([&] { user.Click(::GetDlgItem(sheet, ID_HELP)); }), topic);
+            }
+            user.Key(VK_ESCAPE);
+        });
 }
 
 TEST_F(Help, IsOfThePanesPageAndOfTheViewer) {

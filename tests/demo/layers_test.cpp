@@ -1,4 +1,5 @@
-// The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it back.
+// The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it
+// back.
 
 #include <commctrl.h>
 
@@ -76,11 +77,9 @@ TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
 
 TEST_F(Layers, AreSortedByTheirTitlesAndFoundByPartsOfTheirNames) {
     const auto clickTitle = [&](HWND dialog, int column) {
-        const HWND header =
-            reinterpret_cast<HWND>(::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETHEADER, 0, 0));
+        const HWND header = reinterpret_cast<HWND>(::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETHEADER, 0, 0));
         CRect place;
-        ::SendMessageA(header, HDM_GETITEMRECT, static_cast<WPARAM>(column),
-                       reinterpret_cast<LPARAM>(&place));
+        ::SendMessageA(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&place));
         user.Click(header, place.CenterPoint());
     };
     const auto names = [&](HWND dialog) {
@@ -123,8 +122,7 @@ TEST_F(Layers, ShowTheirColors) {
         ::UpdateWindow(list);
         RECT cell = {LVIR_BOUNDS, 5, 0, 0};
         ::SendMessageA(list, LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
-        EXPECT_EQ(::GetPixel(orlo::WindowDC(list).get(), cell.right - 3, (cell.top + cell.bottom) / 2),
-                  RGB(255, 0, 0));
+        EXPECT_EQ(::GetPixel(orlo::WindowDC(list).get(), cell.right - 3, (cell.top + cell.bottom) / 2), RGB(255, 0, 0));
         user.Key(VK_ESCAPE);
     });
 }

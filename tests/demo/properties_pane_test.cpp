@@ -190,8 +190,7 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     user.Key('A', UserInput::kControl);
     const auto message = [&] {
         char text[256] = "";
-        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, 0,
-                       reinterpret_cast<LPARAM>(text));
+        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, 0, reinterpret_cast<LPARAM>(text));
         return std::string(text);
     };
     const auto tip = [&](HWND over) {

@@ -10,9 +10,9 @@
 namespace {
 
 TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
-    EXPECT_TRUE(RoundTrip(*frame).Check(
-        {TEST_DATA "/dxf/acadsharp-sample-AC1032.dxf", TEST_DATA "/dxf/ezdxf-insert-nested-mirrored.dxf",
-         TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
+    EXPECT_TRUE(RoundTrip(*frame).Check({TEST_DATA "/dxf/acadsharp-sample-AC1032.dxf",
+                                         TEST_DATA "/dxf/ezdxf-insert-nested-mirrored.dxf",
+                                         TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
 }
 
 TEST_F(Viewer, KeysReachTheWindowThatHadTheFocusOrNobody) {

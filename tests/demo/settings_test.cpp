@@ -258,8 +258,7 @@ TEST_F(Remembered, TheStatusBarCutsNoShorterTextForALongerOne) {
         CRect place;
         ::SendMessageA(bar, SB_GETRECT, static_cast<WPARAM>(pane), reinterpret_cast<LPARAM>(&place));
         const orlo::WindowDC dc(bar);
-        const orlo::SelectedObject font(dc.get(),
-                                        reinterpret_cast<HFONT>(::SendMessageA(bar, WM_GETFONT, 0, 0)));
+        const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(::SendMessageA(bar, WM_GETFONT, 0, 0)));
         const std::string text = StatusText(frame->m_hWnd, pane);
         SIZE size = {};
         ::GetTextExtentPoint32A(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);

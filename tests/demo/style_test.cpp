@@ -85,27 +85,25 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
 
 TEST_F(Styles, NeedANameOfTheirOwn) {
     Make("Walls");
-    user.InDialog([&] { user.Key('N', UserInput::kControl); },
-                  [&](HWND wizard) {
-                      const HWND edit = OnPage(wizard, IDC_STYLE_NAME_EDIT);
-                      for (const auto& [name, fault] :
-                           std::vector<std::pair<std::string, std::string>>{{"", "needs a name"},
-                                                                            {"   ", "needs a name"},
-                                                                            {"walls", "already"},
-                                                                            {"standard", "reserved"}}) {
-                          ::SetWindowTextA(edit, name.c_str());
-                          MessageBoxWatcher boxes;
-                          user.Click(::GetDlgItem(wizard, kNext));
-                          EXPECT_NE(std::string::npos, boxes.OnlyText().find(fault)) << boxes.OnlyText();
-                          EXPECT_TRUE(::IsWindowVisible(edit)) << name;
-                          EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(wizard, kBack)));
-                          EXPECT_EQ(edit, ::GetFocus());
-                      }
-                      ::SetWindowTextA(edit, "");
-                      user.Type(std::string(40, 'x'));
-                      EXPECT_EQ(WindowText(edit).size(), 32u);
-                      user.Key(VK_ESCAPE);
-                  });
+    user.InDialog(
+        [&] { user.Key('N', UserInput::kControl); },
+        [&](HWND wizard) {
+            const HWND edit = OnPage(wizard, IDC_STYLE_NAME_EDIT);
+            for (const auto& [name, fault] : std::vector<std::pair<std::string, std::string>>{
+                     {"", "needs a name"}, {"   ", "needs a name"}, {"walls", "already"}, {"standard", "reserved"}}) {
+                ::SetWindowTextA(edit, name.c_str());
+                MessageBoxWatcher boxes;
+                user.Click(::GetDlgItem(wizard, kNext));
+                EXPECT_NE(std::string::npos, boxes.OnlyText().find(fault)) << boxes.OnlyText();
+                EXPECT_TRUE(::IsWindowVisible(edit)) << name;
+                EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(wizard, kBack)));
+                EXPECT_EQ(edit, ::GetFocus());
+            }
+            ::SetWindowTextA(edit, "");
+            user.Type(std::string(40, 'x'));
+            EXPECT_EQ(WindowText(edit).size(), 32u);
+            user.Key(VK_ESCAPE);
+        });
     EXPECT_EQ(styles().All().size(), 1u);
     EXPECT_NE(styles().WhyNot(std::string(33, 'x')), "");
 }
@@ -205,17 +203,16 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
 TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
     Make("Red");
     Make("Blue");
-    InStyleSheets(
-        {[&](HWND sheet) {
-             TypeStyle(sheet, "Red");
-             user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
-         },
-         [&](HWND sheet) {
-             EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");
-             EXPECT_EQ(current(), "Red");
-             TypeStyle(sheet, "Blue");
-             user.Click(::GetDlgItem(sheet, IDOK));
-         }});
+    InStyleSheets({[&](HWND sheet) {
+                       TypeStyle(sheet, "Red");
+                       user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
+                   },
+                   [&](HWND sheet) {
+                       EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");
+                       EXPECT_EQ(current(), "Red");
+                       TypeStyle(sheet, "Blue");
+                       user.Click(::GetDlgItem(sheet, IDOK));
+                   }});
     EXPECT_EQ(current(), "Blue") << "and the sheet stayed closed";
 }
 

@@ -131,8 +131,8 @@ TEST_F(Viewer, ALargeDrawingComesToRestAsDrawn) {
     std::string lines = "0\nSECTION\n2\nENTITIES\n";
     for (int i = 0; i < kSide * kSide; ++i) {
         const std::string x = std::to_string(i % kSide), y = std::to_string(i / kSide);
-        lines += "0\nLINE\n8\n0\n62\n" + std::to_string(i % 6 + 1) + "\n10\n" + x + "\n20\n" + y + "\n11\n" +
-                 x + ".7\n21\n" + y + ".4\n";
+        lines += "0\nLINE\n8\n0\n62\n" + std::to_string(i % 6 + 1) + "\n10\n" + x + "\n20\n" + y + "\n11\n" + x +
+                 ".7\n21\n" + y + ".4\n";
     }
     const DrawingFile large((lines + "0\nENDSEC\n0\nEOF\n").c_str());
     ASSERT_TRUE(frame->Open(large.Path()));

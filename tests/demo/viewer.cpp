@@ -12,13 +12,12 @@
 
 namespace {
 
-constexpr const char* kDrawing =
-    "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
-    "0\nLINE\n8\n0\n62\n1\n10\n5\n20\n5\n11\n15\n21\n5\n"
-    "0\nLINE\n8\n0\n62\n3\n10\n5\n20\n35\n11\n15\n21\n35\n"
-    "0\nLINE\n8\n0\n62\n2\n10\n25\n20\n5\n11\n35\n21\n15\n"
-    "0\nTEXT\n8\nA & B\n10\n25\n20\n30\n40\n4\n1\nOrlo\n"
-    "0\nENDSEC\n0\nEOF\n";
+constexpr const char* kDrawing = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+                                 "0\nLINE\n8\n0\n62\n1\n10\n5\n20\n5\n11\n15\n21\n5\n"
+                                 "0\nLINE\n8\n0\n62\n3\n10\n5\n20\n35\n11\n15\n21\n35\n"
+                                 "0\nLINE\n8\n0\n62\n2\n10\n25\n20\n5\n11\n35\n21\n15\n"
+                                 "0\nTEXT\n8\nA & B\n10\n25\n20\n30\n40\n4\n1\nOrlo\n"
+                                 "0\nENDSEC\n0\nEOF\n";
 
 } // namespace
 

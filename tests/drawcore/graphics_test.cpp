@@ -236,8 +236,8 @@ TEST(RegenMethods, AreTheHostPrograms) {
 
 TEST(Strings, AreTheHostsTexts) {
     char text[64];
-    for (const unsigned int id : {0x704Au, 0x704Bu, 0x704Cu, 0x704Du, 0x704Eu, 0x704Fu, 0x7050u, 0x7051u,
-                                  0x7052u, 0x7053u, 0x7054u, 0x7058u, 0x7059u, 0x705Au, 0x705Cu})
+    for (const unsigned int id : {0x704Au, 0x704Bu, 0x704Cu, 0x704Du, 0x704Eu, 0x704Fu, 0x7050u, 0x7051u, 0x7052u,
+                                  0x7053u, 0x7054u, 0x7058u, 0x7059u, 0x705Au, 0x705Cu})
         EXPECT_GT(DrawCoreLoadString(id, text, sizeof text), 0) << id;
     EXPECT_EQ(DrawCoreLoadString(kStringByLayer, text, 6), 5);
     EXPECT_STREQ(text, "By La");

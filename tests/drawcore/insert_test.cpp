@@ -11,8 +11,7 @@
 
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255),
-                   kWhite = RGB(255, 255, 255);
+constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255), kWhite = RGB(255, 255, 255);
 
 class Inserts : public testing::Test {
 protected:
@@ -57,8 +56,7 @@ TEST_F(Inserts, ScaleTurnAndMirror) {
 TEST_F(Inserts, GiveTheirColorStyleAndLayerToWhatLeavesThemOpen) {
     const uint16_t green = TableEntryAdd(drawing.Table(kTableLayers), "Green", nullptr);
     LayerSet(drawing, green, kGreen, 0, 0);
-    const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock),
-                   byLayer = FlagBlock("BYLAYER", kColorByLayer);
+    const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock), byLayer = FlagBlock("BYLAYER", kColorByLayer);
     // A block around the first: its own parts by block, too.
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);

@@ -124,8 +124,7 @@ TEST(PlainNumber, StaysInTheBufferWhateverTheValue) {
         std::memcpy(&value, &bits, sizeof value);
         char buffer[33];
         buffer[32] = '#';
-        DoubleToString(0, value, 1 + static_cast<int>(random() % 17), buffer, 0,
-                       static_cast<int>(random() % 2), 1);
+        DoubleToString(0, value, 1 + static_cast<int>(random() % 17), buffer, 0, static_cast<int>(random() % 2), 1);
         ASSERT_LT(std::strlen(buffer), 32u) << value;
         ASSERT_EQ(buffer[32], '#');
     }

@@ -123,8 +123,7 @@ TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
 
 TEST_F(Paint, LayersHide) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
-        const uint16_t layer =
-            TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
+        const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         LayerSet(drawing, layer, kBlue, flag, 0);
         SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), kPropLayer, layer);
     }
@@ -251,8 +250,7 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
 }
 
 TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
-    const Loose shape(
-        MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
+    const Loose shape(MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
     SetWhole(shape, kPropBrushStyle, 1);
     SetWhole(shape, kPropBrushColor, kColorOfPen);
     SetWhole(shape, kPropPenColor, kRed);
@@ -311,8 +309,7 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), 3);
     picture.Draw(circle);
     for (int degrees = 0; degrees < 360; ++degrees) {
-        const double x = 50 + 50 * std::cos(degrees * 0.0174532925),
-                     y = 50 + 50 * std::sin(degrees * 0.0174532925);
+        const double x = 50 + 50 * std::cos(degrees * 0.0174532925), y = 50 + 50 * std::sin(degrees * 0.0174532925);
         const int cx = static_cast<int>(std::lround(x)), cy = static_cast<int>(std::lround(y));
         EXPECT_GT(picture.Covered(cx - 1, cy - 1, cx + 1, cy + 1), 0) << degrees;
     }
@@ -322,8 +319,7 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
 // What no device takes: numbers out of all bounds, and none.
 TEST_F(Paint, SurvivesWhatIsFarAway) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
-        const Loose shape(
-            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
+        const Loose shape(MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
         SetWhole(shape, kPropBrushStyle, 1);
         SetWhole(shape, kPropBrushColor, kBlue);
         picture.Draw(shape);

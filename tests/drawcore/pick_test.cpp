@@ -92,8 +92,7 @@ TEST_F(Pick, FindsTextsByTheirBoxAndInsertionsAsAWhole) {
 TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
-        const uint16_t layer =
-            TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
+        const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         SetWhole(line, kPropLayer, layer);
         EXPECT_EQ(At(50, 50), line);
         LayerSet(drawing, layer, 0, flag, 0);

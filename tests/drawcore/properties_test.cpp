@@ -43,9 +43,7 @@ protected:
     OfKind() : graphic(GraphicNewEx(GetParam().type, 0, 1)), table(GraphicGetVtbl(graphic)) {}
     ~OfKind() override { GraphicDispose(&graphic); }
 
-    bool Find(const char* name, int32_t& number) {
-        return table->PropLookup(graphic, &name, 1, 0, &number) != 0;
-    }
+    bool Find(const char* name, int32_t& number) { return table->PropLookup(graphic, &name, 1, 0, &number) != 0; }
 
     GraphicStruct* graphic;
     const PropertyTable* table;
@@ -74,16 +72,14 @@ TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
 
 // Forms of a value: each whole-number property in each whole-number form, reals as float and double, texts as text.
 TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
-    const std::set<std::string> reals = {kPropBrushAngle, kPropBrushScale, kPropPenScale, kPropPenWidth,
-                                         kPropTextSize};
+    const std::set<std::string> reals = {kPropBrushAngle, kPropBrushScale, kPropPenScale, kPropPenWidth, kPropTextSize};
     const std::set<std::string> texts = {kPropInfo, kPropTextFont};
     for (const std::string& name : GetParam().properties) {
         SCOPED_TRACE(name);
         int32_t number;
         ASSERT_TRUE(Find(name.c_str(), number));
         const bool isReal = reals.count(name), isText = texts.count(name);
-        for (const int vt :
-             {VT_I4, VT_R4, VT_R8, VT_BSTR, VT_BOOL, VT_UI1, VT_UI2, VT_UI4, VT_EMPTY, VT_I2}) {
+        for (const int vt : {VT_I4, VT_R4, VT_R8, VT_BSTR, VT_BOOL, VT_UI1, VT_UI2, VT_UI4, VT_EMPTY, VT_I2}) {
             SCOPED_TRACE(vt);
             union {
                 uint32_t whole;
@@ -102,10 +98,9 @@ TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
                 in = kNew;
             else
                 value.whole = name == kPropScaleSystem ? (vt == VT_BOOL ? 0 : 2) : 1;
-            const bool isForm =
-                isReal   ? vt == VT_R4 || vt == VT_R8
-                : isText ? vt == VT_BSTR
-                         : vt != VT_R4 && vt != VT_R8 && vt != VT_BSTR && vt != VT_EMPTY && vt != VT_I2;
+            const bool isForm = isReal   ? vt == VT_R4 || vt == VT_R8
+                                : isText ? vt == VT_BSTR
+                                         : vt != VT_R4 && vt != VT_R8 && vt != VT_BSTR && vt != VT_EMPTY && vt != VT_I2;
             EXPECT_EQ(table->PropSet(graphic, number, vt, in) != 0, isForm);
             decltype(value) out{};
             const bool given = table->PropGet(graphic, number, vt, &out) != 0;
@@ -142,18 +137,17 @@ TEST_F(ShapeProperties, RefuseWhatIsOutOfLimits) {
     const struct {
         const char* name;
         std::vector<uint32_t> good, bad;
-    } kWhole[] = {{kPropPenColor,
-                   {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC},
-                   {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
-                  {kPropBrushColor, {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
-                  {kPropPenStyle, {0, 1, 65533, 65534}, {65535, 65536, 0xFFFFFFFF}},
-                  {kPropBrushStyle, {0, 1, 300}, {65535, 0xFFFFFFFF}},
-                  {kPropBrushDrawMode, {1, 0}, {2, 0xFFFFFFFF}},
-                  {kPropScaleSystem, {0, 2}, {1, 3, 0xFF, 0xFFFF}},
-                  {kPropPenAlignment, {1, 0}, {2, 0xFFFFFFFF}},
-                  {kPropHatchCross, {1, 0}, {2}},
-                  {kPropLayer, {1, 500}, {0, 0xFFFF, 0x10001}},
-                  {kPropStyleTree, {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
+    } kWhole[] = {
+        {kPropPenColor, {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC}, {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
+        {kPropBrushColor, {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
+        {kPropPenStyle, {0, 1, 65533, 65534}, {65535, 65536, 0xFFFFFFFF}},
+        {kPropBrushStyle, {0, 1, 300}, {65535, 0xFFFFFFFF}},
+        {kPropBrushDrawMode, {1, 0}, {2, 0xFFFFFFFF}},
+        {kPropScaleSystem, {0, 2}, {1, 3, 0xFF, 0xFFFF}},
+        {kPropPenAlignment, {1, 0}, {2, 0xFFFFFFFF}},
+        {kPropHatchCross, {1, 0}, {2}},
+        {kPropLayer, {1, 500}, {0, 0xFFFF, 0x10001}},
+        {kPropStyleTree, {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
     for (const auto& row : kWhole) {
         for (const uint32_t value : row.good) {
             EXPECT_TRUE(SetWhole(graphic, row.name, value)) << row.name << value;

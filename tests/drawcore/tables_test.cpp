@@ -108,8 +108,7 @@ TEST_F(Tables, TakeDataOfTheirKind) {
     EXPECT_EQ(*static_cast<COLORREF*>(TableEntryGetData(colors, id)), teal);
     EXPECT_EQ(TableEntryAdd(colors, "Nothing", nullptr), 0);
 
-    const uint16_t style =
-        TableEntryAdd(drawing.Table(kTableLineStyles), "Wire", const_cast<char*>("a wire"));
+    const uint16_t style = TableEntryAdd(drawing.Table(kTableLineStyles), "Wire", const_cast<char*>("a wire"));
     EXPECT_STREQ(static_cast<char*>(TableEntryGetData(drawing.Table(kTableLineStyles), style)), "a wire");
 
     Balance balance;
@@ -129,11 +128,10 @@ TEST_F(Tables, HoldTheNumberedColorsByName) {
     const struct {
         const char* name;
         COLORREF color;
-    } kRows[] = {
-        {"Red", RGB(255, 0, 0)},        {"Magenta", RGB(255, 0, 255)},     {"White", RGB(255, 255, 255)},
-        {"Color 10", RGB(255, 0, 0)},   {"Color 11", RGB(255, 127, 127)},  {"Color 30", RGB(255, 127, 0)},
-        {"Color 94", RGB(0, 127, 0)},   {"Color 171", RGB(127, 127, 255)}, {"Color 213", RGB(165, 82, 165)},
-        {"Color 249", RGB(38, 19, 23)}, {"Color 252", RGB(105, 105, 105)}, {"Color 255", RGB(255, 255, 255)}};
+    } kRows[] = {{"Red", RGB(255, 0, 0)},        {"Magenta", RGB(255, 0, 255)},     {"White", RGB(255, 255, 255)},
+                 {"Color 10", RGB(255, 0, 0)},   {"Color 11", RGB(255, 127, 127)},  {"Color 30", RGB(255, 127, 0)},
+                 {"Color 94", RGB(0, 127, 0)},   {"Color 171", RGB(127, 127, 255)}, {"Color 213", RGB(165, 82, 165)},
+                 {"Color 249", RGB(38, 19, 23)}, {"Color 252", RGB(105, 105, 105)}, {"Color 255", RGB(255, 255, 255)}};
     for (const auto& row : kRows) {
         const uint16_t id = TableEntryGetIDFirst(colors, nullptr, row.name);
         ASSERT_NE(id, 0) << row.name;
@@ -191,8 +189,8 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
          line = BrushStyleGetNextPattern(styles, made, &cookie), ++walked) {
         ASSERT_LT(walked, 2);
         BrushLine read{};
-        BrushPatternGetData(line, &read.angle, &read.baseX, &read.baseY, &read.along, &read.spacing,
-                            &read.dashCount, read.dashes);
+        BrushPatternGetData(line, &read.angle, &read.baseX, &read.baseY, &read.along, &read.spacing, &read.dashCount,
+                            read.dashes);
         EXPECT_DOUBLE_EQ(read.angle, lines[walked].angle);
         EXPECT_DOUBLE_EQ(read.baseY, lines[walked].baseY);
         EXPECT_NEAR(read.along, lines[walked].along, 1e-12);

@@ -11,8 +11,7 @@ namespace {
 
 class Texts : public testing::Test {
 protected:
-    GraphicStruct* Text(const char* string, double x, double y, double height, double angle = 0,
-                        double width = 0) {
+    GraphicStruct* Text(const char* string, double x, double y, double height, double angle = 0, double width = 0) {
         return drawing.Add(MakeText(string, {x, y}, height, angle, width));
     }
     void Draw() { picture.Draw(drawing.Root()); }
@@ -39,8 +38,7 @@ TEST_F(Texts, AreJustifiedAroundTheirPosition) {
         EXPECT_NEAR((50 - left) / (right - left), format / 2.0, 1e-9);
         Draw();
         EXPECT_GT(picture.Covered(), 50);
-        EXPECT_EQ(picture.Covered(),
-                  picture.Covered(static_cast<int>(left) - 1, 0, static_cast<int>(right) + 1, 100));
+        EXPECT_EQ(picture.Covered(), picture.Covered(static_cast<int>(left) - 1, 0, static_cast<int>(right) + 1, 100));
     }
 }
 
@@ -67,8 +65,8 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
     }
 }
 
-// Letters that are read from right to left, and digits among them, cover as much together as each by itself: none lies on
-// another.
+// Letters that are read from right to left, and digits among them, cover as much together as each by itself: none lies
+// on another.
 TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
     GraphicStruct* text = Text("x", 5, 40, 14);
     SetText(text, kPropTextFont, "DejaVu Sans");

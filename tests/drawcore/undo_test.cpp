@@ -62,8 +62,7 @@ TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
             SCOPED_TRACE(name);
             const auto value = [&] {
                 if (property->form == kFormText) return GetText(graphic, name);
-                return std::to_string(property->form == kFormReal ? GetReal(graphic, name)
-                                                                  : GetWhole(graphic, name));
+                return std::to_string(property->form == kFormReal ? GetReal(graphic, name) : GetWhole(graphic, name));
             };
             const std::string before = value();
             ASSERT_TRUE(DrawingBeginUndo(drawing));

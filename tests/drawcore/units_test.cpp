@@ -72,14 +72,14 @@ const LengthRow kLengths[] = {{"2", 2},
                               {"25.4 mm*1/2", 0.5},
                               {"1 ft/4/2", 1.5}};
 
-const char* const kNoLengths[] = {
-    "", " ", "-", "+", "abc", "2x", "2 apples", "2 2", "1,5", "1e999", "nan", "inf", "0x10", "1/0", "1/",
-    "/2", "1 1/", "mm", "1 mm 2", "1' 2 mm", "1'-", "--1", "5%", "1..2", "1e308 mi", "1.5 1/2", "- 1",
-    "1' 2' 3'", "1'--6", "1e-999", "2*", "3+/4", "(1", "1)", "()", "1/(2-2)", "1e308*10", "2 in*", "2 in + x",
-    "(1 in", "1 in/0", "1 in*1 in", "1 in/1 in", "4/(2 in)", "1 in 1/2", "2(3)", "(2)3", "(1 in) in",
-    "(1+2)x", "2 ft--1", "1e300 mi*1e10", "1e-300*1e-300",
-    // one number or a difference? with units around, nobody can tell
-    "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2", "1'-6'", "10'-6'", "2 + 1'-6'"};
+const char* const kNoLengths[] = {"", " ", "-", "+", "abc", "2x", "2 apples", "2 2", "1,5", "1e999", "nan", "inf",
+                                  "0x10", "1/0", "1/", "/2", "1 1/", "mm", "1 mm 2", "1' 2 mm", "1'-", "--1", "5%",
+                                  "1..2", "1e308 mi", "1.5 1/2", "- 1", "1' 2' 3'", "1'--6", "1e-999", "2*", "3+/4",
+                                  "(1", "1)", "()", "1/(2-2)", "1e308*10", "2 in*", "2 in + x", "(1 in", "1 in/0",
+                                  "1 in*1 in", "1 in/1 in", "4/(2 in)", "1 in 1/2", "2(3)", "(2)3", "(1 in) in",
+                                  "(1+2)x", "2 ft--1", "1e300 mi*1e10", "1e-300*1e-300",
+                                  // one number or a difference? with units around, nobody can tell
+                                  "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2", "1'-6'", "10'-6'", "2 + 1'-6'"};
 
 class Lengths : public testing::Test {
 protected:
@@ -137,8 +137,7 @@ TEST_F(Lengths, ShowFourDecimalsOrFourDigits) {
     char buffer[8] = "kept";
     EXPECT_FALSE(DrawingStdNumericToText(drawing, HUGE_VAL, buffer, sizeof buffer, 0));
     EXPECT_FALSE(DrawingStdNumericToText(drawing, NAN, buffer, sizeof buffer, 0));
-    EXPECT_FALSE(DrawingStdNumericToText(drawing, 123.4567, buffer, 8, 0))
-        << "cut off, it would be another number";
+    EXPECT_FALSE(DrawingStdNumericToText(drawing, 123.4567, buffer, 8, 0)) << "cut off, it would be another number";
     EXPECT_STREQ(buffer, "kept");
 }
 
@@ -271,8 +270,7 @@ TEST_F(Lengths, OnPaperAreMillimetersInWhateverUnitTheTextIs) {
     EXPECT_NEAR(value, 0.254, 1e-12);
     EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "0.35 mm", &value));
     EXPECT_NEAR(value, 0.35, 1e-12);
-    EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, kUnitMillimeter, "0.5", &value))
-        << "shown in another unit";
+    EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, kUnitMillimeter, "0.5", &value)) << "shown in another unit";
     EXPECT_NEAR(value, 0.5, 1e-12);
     char text[64];
     EXPECT_TRUE(UnitsNumericToTextEx(units, 0, kUnitPenWidth, 25.4, text, sizeof text, 0, 1));
@@ -355,12 +353,11 @@ const AngleRow kAngles[] = {{"45", 45},
                             {"6-1/2", 6.5},
                             {"N 90/4 E", 67.5}};
 
-const char* const kNoAngles[] = {
-    "",        " ",      "-",       "d",        "'",          "45x",     "45dd", "45 45",
-    "12d60'",  "12d1.5", "1.5d30'", "30'12d",   "12d30'60\"", "--4",     "- 4",  "1e999",
-    "nan",     "inf",    "0x10",    "NE",       "N 91 E",     "N -4 E",  "45 E", "N 45",
-    "N 45 S",  "-N",     "50g30'",  "1,5",      "1/0",        "2*",      "3+/4", "(1",
-    "45d--3'", "2d*2d",  "4/(2d)",  "N 90*2 E", "N 45 E + 1", "N 1d W E"};
+const char* const kNoAngles[] = {"",        " ",      "-",       "d",        "'",          "45x",     "45dd", "45 45",
+                                 "12d60'",  "12d1.5", "1.5d30'", "30'12d",   "12d30'60\"", "--4",     "- 4",  "1e999",
+                                 "nan",     "inf",    "0x10",    "NE",       "N 91 E",     "N -4 E",  "45 E", "N 45",
+                                 "N 45 S",  "-N",     "50g30'",  "1,5",      "1/0",        "2*",      "3+/4", "(1",
+                                 "45d--3'", "2d*2d",  "4/(2d)",  "N 90*2 E", "N 45 E + 1", "N 1d W E"};
 
 class Angles : public Lengths {};
 

@@ -191,6 +191,7 @@ def check_references():
         dangling = removed & handles_in(OUT, references)
         if len(removed) < 7 or dangling:
             failures.append(f"references of {version}: to {dangling} of {removed}")
+    os.remove(source)
 
 
 def check_blocks():

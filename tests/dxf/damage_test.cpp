@@ -56,8 +56,7 @@ TEST(Damage, AlteredBytesDoNoHarm) {
         for (int round = 0; round < 150; ++round) {
             std::string altered = whole;
             for (int i = 0; i < 4; ++i)
-                altered[random() % altered.size()] =
-                    static_cast<char>("0123456789-.{\\\n\r \xFF"[random() % 17]);
+                altered[random() % altered.size()] = static_cast<char>("0123456789-.{\\\n\r \xFF"[random() % 17]);
             read += TryRead(altered);
         }
     }

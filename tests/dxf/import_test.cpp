@@ -100,9 +100,8 @@ const drawcore::Extents& BoxOf(const OwnedDrawing& drawing) {
     return *drawcore::Extents::From(GraphicGetExtentsSel(DrawingGetRoot(drawing.get()), 0));
 }
 
-const char kTables[] =
-    "0|LTYPE|2|ByLayer|0|LTYPE|2|Dashed|3|- - -|40|0.75|49|0.5|49|-0.25|0|LTYPE|2|Zero|49|0|"
-    "0|LAYER|2|WALLS|62|-1|70|5|6|DASHED|370|25|0|LAYER|2|\xD0\x9E\xD1\x81\xD0\xB8|420|255";
+const char kTables[] = "0|LTYPE|2|ByLayer|0|LTYPE|2|Dashed|3|- - -|40|0.75|49|0.5|49|-0.25|0|LTYPE|2|Zero|49|0|"
+                       "0|LAYER|2|WALLS|62|-1|70|5|6|DASHED|370|25|0|LAYER|2|\xD0\x9E\xD1\x81\xD0\xB8|420|255";
 
 std::string Drawing2007(const std::string& entities, const std::string& blocks = "") {
     return Section("HEADER", "9|$ACADVER|1|AC1021|9|$INSUNITS|70|1") + Section("TABLES", kTables) +
@@ -168,16 +167,15 @@ TEST(Import, CanBeCancelledWithEachReport) {
 }
 
 TEST(Import, TablesAreThoseOfTheFile) {
-    const OwnedDrawing drawing = OpenText(
-        Drawing2007("0|LINE|8|mentioned", "0|BLOCK|2|Door|0|ENDBLK|0|BLOCK|2|*Model_Space|0|ENDBLK"));
+    const OwnedDrawing drawing =
+        OpenText(Drawing2007("0|LINE|8|mentioned", "0|BLOCK|2|Door|0|ENDBLK|0|BLOCK|2|*Model_Space|0|ENDBLK"));
     DrawingStruct* const d = drawing.get();
     TableStruct* const layers = DrawingGetTable(d, kTableLayers);
     const uint16_t walls = TableEntryGetIDFirst(layers, nullptr, "walls");
     EXPECT_EQ(LayerGetColor(d, walls), RGB(255, 0, 0));
     EXPECT_EQ(LayerGetFlags(d, walls), kLayerOff | kLayerFrozen | kLayerLocked);
     EXPECT_EQ(NameOf(d, kTableLineStyles, LayerGetLineStyle(d, walls)), "Dashed");
-    const uint16_t axes =
-        TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not of the code page
+    const uint16_t axes = TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not of the code page
     EXPECT_EQ(LayerGetColor(d, axes), RGB(0, 0, 255));
     EXPECT_NE(TableEntryGetIDFirst(layers, nullptr, "mentioned"), 0);
     TableStruct* const styles = DrawingGetTable(d, kTableLineStyles);
@@ -228,8 +226,7 @@ TEST(Import, GraphicsLookAsInTheFile) {
         {"0|LINE", kPropPenWidth, 0},
         {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropPenWidth, 1.5},
         {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropScaleSystem, 0}, // in the drawing
-        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", kPropPenWidth,
-         0}, // its segments have widths of their own
+        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", kPropPenWidth, 0}, // its segments have widths of their own
         {"0|LWPOLYLINE|210|1|220|1|230|1|43|1.5|10|0|20|0|42|1|10|1|20|0", kPropPenWidth, 1.5}, // tilted
         {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", kPropPenAlignment, 0},
         {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", kPropBrushStyle, 1},
@@ -280,8 +277,8 @@ TEST(Import, ParagraphsAreAlignedInTheBoxOfTheirText) {
         double fromLeft, fromRight; // shares of the room that the longest row leaves
     };
     for (const Row& row : {Row{"", 0, 1}, {"\\pxqc;", 0.5, 0.5}, {"\\pqr;", 1, 0}, {"\\pqj;", 0, 1}}) {
-        const OwnedDrawing drawing = OpenText(
-            Drawing("0|MTEXT|10|100|20|0|40|3|41|60|71|1|1|" + std::string(row.codes) + "an alignment"));
+        const OwnedDrawing drawing =
+            OpenText(Drawing("0|MTEXT|10|100|20|0|40|3|41|60|71|1|1|" + std::string(row.codes) + "an alignment"));
         const drawcore::Extents& box = BoxOf(drawing);
         const double room = 60 - (box.high.x - box.low.x);
         EXPECT_NEAR(box.low.x - 100, row.fromLeft * room, 1e-6) << row.codes;
@@ -289,10 +286,11 @@ TEST(Import, ParagraphsAreAlignedInTheBoxOfTheirText) {
     }
 }
 
-// Its plane is tilted by 60 degrees: a half circle of radius 5 whose width grows from 0 to 2, and a straight piece back.
+// Its plane is tilted by 60 degrees: a half circle of radius 5 whose width grows from 0 to 2, and a straight piece
+// back.
 TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
-    const OwnedDrawing drawing = OpenText(Drawing(
-        "0|LWPOLYLINE|70|1|210|0|220|-0.8660254|230|0.5|10|0|20|0|40|0|41|2|42|1|10|10|20|0|40|3|41|3"));
+    const OwnedDrawing drawing = OpenText(
+        Drawing("0|LWPOLYLINE|70|1|210|0|220|-0.8660254|230|0.5|10|0|20|0|40|0|41|2|42|1|10|10|20|0|40|3|41|3"));
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 1u);
     const auto& graphic = static_cast<const drawcore::VertexGraphic&>(*drawcore::Graphic::From(members[0]));
@@ -320,10 +318,10 @@ TEST(Import, SplinesAreListedAsTheyAreDrawn) {
 
 TEST(Import, HatchesOfOnePatternShareItsStyle) {
     const std::string hatch = "0|HATCH|2|Brick|91|1|92|2|10|0|20|0|10|9|20|0|10|0|20|9|75|0|";
-    const OwnedDrawing drawing = OpenText(Drawing(
-        hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|1|79|0|" +      // spacing cos 45 degrees
-        hatch + "52|90|41|10|78|1|53|135|43|7|44|7|45|-10|46|0|79|0|" + // the same, larger, turned and moved
-        hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
+    const OwnedDrawing drawing = OpenText(
+        Drawing(hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|1|79|0|" +      // spacing cos 45 degrees
+                hatch + "52|90|41|10|78|1|53|135|43|7|44|7|45|-10|46|0|79|0|" + // the same, larger, turned and moved
+                hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 3u);
     EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[0], kPropBrushStyle)), "Brick");
@@ -337,8 +335,7 @@ TEST(Import, AttributesBelongToTheirInsertion) {
     const std::string blocks = "0|BLOCK|2|Door|0|LINE|11|5|0|ATTDEF|40|1|2|NO|1|default|0|ENDBLK";
     const std::string attribute = "0|ATTRIB|40|1|2|NO|1|17|0|SEQEND|";
     const OwnedDrawing drawing = OpenText(Drawing(
-        "0|INSERT|2|DOOR|66|1|" + attribute + "0|INSERT|2|gone|66|1|" + attribute + "0|ATTDEF|40|1|2|TAG",
-        blocks));
+        "0|INSERT|2|DOOR|66|1|" + attribute + "0|INSERT|2|gone|66|1|" + attribute + "0|ATTDEF|40|1|2|TAG", blocks));
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 3u); // the attribute of the insertion without a block is a member itself
     EXPECT_EQ(GraphicGetKind(members[0]), uint32_t{kKindInsert});
@@ -349,8 +346,7 @@ TEST(Import, AttributesBelongToTheirInsertion) {
 
 TEST(Import, SaysWhatItLeavesOut) {
     Heard heard;
-    const OwnedDrawing drawing =
-        OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
+    const OwnedDrawing drawing = OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
     EXPECT_EQ(Members(drawing).size(), 0u);
     EXPECT_EQ(heard.findings, "17 LINE is left out: a number that has no place in a drawing, in line 20\n"
                               "11 1 of type RAY not shown: this type is not read\n"

@@ -36,19 +36,14 @@ const Row kRows[] = {
      "0|LINE|" + kHead + "62|1|370|25|100|AcDbLine|10|0|20|0", [](Look& look) { look.color = 0x0000FF; }},
     {"TheNameOfAColorGoesWithIt", "0|LINE|" + kHead + "62|3|420|1234|430|BOOK$GREEN|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "62|1|100|AcDbLine|10|0|20|0", [](Look& look) { look.color = 0x0000FF; }},
-    {"APlainGroupIsRemovedForByLayer",
-     "0|LINE|" + kHead + "62|    3|100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
-     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
-     [](Look& look) { look.color = kColorByLayer; }},
+    {"APlainGroupIsRemovedForByLayer", "0|LINE|" + kHead + "62|    3|100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
+     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.color = kColorByLayer; }},
     {"ExtendedDataOfOthersStays",
-     "0|POINT|" + kHead +
-         "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
-     "0|POINT|" + kHead +
-         "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|b^J^ |1002|}|1001|OTHER|1000|x",
+     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
+     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|b^J^ |1002|}|1001|OTHER|1000|x",
      [](Look& look) { look.info = "b\n^"; }},
     {"EmptyExtendedDataGoes",
-     "0|POINT|" + kHead +
-         "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
+     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.info.clear(); }},
     {"WidthsOfVerticesBecomeOne",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|0|10|0|20|0|40|1|41|1|10|1|20|0|40|1|41|1",
@@ -91,15 +86,12 @@ const Row kRows[] = {
      "0|LINE|" + kHead + "370|-2|100|AcDbLine|10|0|20|0", [](Look& look) { look.width = kPenWidthByBlock; }},
     {"AllOfATextTakesTheColorOfMostOfIt",
      "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|1|{\\C1;most}{\\C3;x}",
-     "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|2|71|1|1|{most}{x}",
-     [](Look& look) { look.varied = 0; }},
+     "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|2|71|1|1|{most}{x}", [](Look& look) { look.varied = 0; }},
     {"AllOfALineIsUnderlined", "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|a%%ub%%u",
      "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|%%uab", [](Look& look) { look.varied = 0; }},
     {"ALastDigitIsAChange", "0|LINE|" + kHead + "48|1.0000000001|100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "48|1.0000000002|100|AcDbLine|10|0|20|0",
-     [](Look& look) { look.lineScale = 1.0000000002; }},
-    {"ATextHangsOnItsPlace",
-     "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|%%uA%%u|72|0|100|AcDbText",
+     "0|LINE|" + kHead + "48|1.0000000002|100|AcDbLine|10|0|20|0", [](Look& look) { look.lineScale = 1.0000000002; }},
+    {"ATextHangsOnItsPlace", "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|%%uA%%u|72|0|100|AcDbText",
      "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|A|72|1|11|3.0|21|4.0|31|0.0|100|AcDbText",
      [](Look& look) {
          look.text.style = 0;
@@ -124,8 +116,7 @@ TEST_P(Patch, ChangesTheseGroupsAlone) {
     EXPECT_TRUE(dxf::LookOf(read, read.entities.at(0)) == look);
 }
 
-INSTANTIATE_TEST_SUITE_P(Records, Patch, testing::ValuesIn(kRows),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Records, Patch, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
 // What another program has changed since counts; what it has left alone is exact.
 TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
@@ -133,8 +124,7 @@ TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
     for (const int weight : {25, 50}) {
         const dxf::Document read =
             dxf::Read(Drawing2004("0|LINE|8|0|370|" + std::to_string(weight) + "|10|0|20|0|" + own), {});
-        EXPECT_EQ(dxf::LookOf(read, read.entities.at(0)).width,
-                  weight == 25 ? 0.0101 : weight / dxf::kWeightsPerInch);
+        EXPECT_EQ(dxf::LookOf(read, read.entities.at(0)).width, weight == 25 ? 0.0101 : weight / dxf::kWeightsPerInch);
     }
 }
 

@@ -126,8 +126,7 @@ TEST(Names, AreEqualInAnyCaseAndMadeWhereMentioned) {
     EXPECT_EQ(document.entities[1].lineType, LineTypeIndex::byBlock);
     EXPECT_EQ(document.At(document.entities[2].layer).name, "0");
     EXPECT_EQ(document.lineTypes.at(size_t(document.entities[2].lineType)).name, "DOT");
-    EXPECT_EQ(
-        std::count_if(document.layers.begin(), document.layers.end(), [](auto& l) { return l.declared; }), 2);
+    EXPECT_EQ(std::count_if(document.layers.begin(), document.layers.end(), [](auto& l) { return l.declared; }), 2);
 }
 
 TEST(TextStyles, KnowTheirTrueTypeFace) {
@@ -141,15 +140,14 @@ TEST(TextStyles, KnowTheirTrueTypeFace) {
     EXPECT_TRUE(style.bold && style.italic && style.backward);
     EXPECT_EQ(style.fixedHeight, 2.5);
     EXPECT_EQ(style.oblique, 15);
-    EXPECT_EQ(std::count_if(document.textStyles.begin(), document.textStyles.end(),
-                            [](auto& s) { return s.declared; }),
+    EXPECT_EQ(std::count_if(document.textStyles.begin(), document.textStyles.end(), [](auto& s) { return s.declared; }),
               1);
 }
 
 TEST(Entities, HaveTheirCommonAttributes) {
-    const Document document = ReadEntities(
-        "0|CIRCLE|62|5|370|25|420|16711680|48|0.5|67|1|60|1|210|0|220|0|230|-1|10|1|20|2|30|3|40|4|"
-        "102|{ACAD_REACTORS|330|1F|40|99|102|}|1001|X|1040|7");
+    const Document document =
+        ReadEntities("0|CIRCLE|62|5|370|25|420|16711680|48|0.5|67|1|60|1|210|0|220|0|230|-1|10|1|20|2|30|3|40|4|"
+                     "102|{ACAD_REACTORS|330|1F|40|99|102|}|1001|X|1040|7");
     const Entity& entity = document.entities.at(0);
     EXPECT_EQ(entity.color, 5);
     EXPECT_EQ(entity.lineWeight, 25);
@@ -171,9 +169,9 @@ TEST(Entities, OfOtherTypesAreCountedAndNamed) {
 }
 
 TEST(Polylines, OldAndLight) {
-    const Document document = ReadEntities(
-        "0|POLYLINE|70|129|40|0.5|41|0.25|30|7|0|VERTEX|10|1|20|2|42|1|0|VERTEX|10|3|40|0|41|0|0|SEQEND|"
-        "0|LWPOLYLINE|90|2147483647|70|1|43|0.3|38|9|10|1|20|2|10|3|20|4|40|1|41|2|42|-1");
+    const Document document =
+        ReadEntities("0|POLYLINE|70|129|40|0.5|41|0.25|30|7|0|VERTEX|10|1|20|2|42|1|0|VERTEX|10|3|40|0|41|0|0|SEQEND|"
+                     "0|LWPOLYLINE|90|2147483647|70|1|43|0.3|38|9|10|1|20|2|10|3|20|4|40|1|41|2|42|-1");
     const auto& old = ShapeOf<Polyline>(document, 0);
     ASSERT_EQ(old.vertices.size(), 2u);
     EXPECT_TRUE(old.closed && old.dashesThrough);
@@ -209,11 +207,11 @@ TEST(Polylines, MeshesAndFacesAreBounded) {
 }
 
 TEST(Inserts, HaveTheirAttributesAndArray) {
-    const Document document = Read(
-        Drawing("0|INSERT|66|1|2|b|41|2|42|-2|50|90|70|3|71|0|44|10|45|-5|0|ATTRIB|1|4711|2|NO|70|1|74|2|"
-                "72|1|0|SEQEND|0|INSERT|2|B|70|99999|71|-7",
-                "0|BLOCK|2|B|10|1|0|ATTDEF|2|NO|0|ATTDEF|70|2|1|fixed|0|ENDBLK"),
-        {});
+    const Document document =
+        Read(Drawing("0|INSERT|66|1|2|b|41|2|42|-2|50|90|70|3|71|0|44|10|45|-5|0|ATTRIB|1|4711|2|NO|70|1|74|2|"
+                     "72|1|0|SEQEND|0|INSERT|2|B|70|99999|71|-7",
+                     "0|BLOCK|2|B|10|1|0|ATTDEF|2|NO|0|ATTDEF|70|2|1|fixed|0|ENDBLK"),
+             {});
     const Insert& insert = *ShapeOf<Apart<Insert>>(document, 0);
     const Block& block = document.At(insert.block);
     EXPECT_EQ(block.name, "B");
@@ -234,10 +232,10 @@ TEST(Inserts, HaveTheirAttributesAndArray) {
 }
 
 TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
-    const Document document = Read(
-        Section("HEADER", "9|$ACADVER|1|AC1021") +
-            Drawing("0|MTEXT|3|Stra\xC3|3|\x9F|1|e|50|15|11|0|21|2|31|0|71|5|101|Embedded Object|1|other"),
-        {});
+    const Document document =
+        Read(Section("HEADER", "9|$ACADVER|1|AC1021") +
+                 Drawing("0|MTEXT|3|Stra\xC3|3|\x9F|1|e|50|15|11|0|21|2|31|0|71|5|101|Embedded Object|1|other"),
+             {});
     const MText& text = *ShapeOf<Apart<MText>>(document);
     EXPECT_EQ(text.text, "Stra\u00DFe");
     EXPECT_EQ(text.direction.y, 2);
@@ -245,11 +243,11 @@ TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
 }
 
 TEST(Hatches, HaveLoopsAndPatternLines) {
-    const Document document = ReadEntities(
-        "0|HATCH|10|0|20|0|30|5|2|ANSI31|70|0|91|2|92|7|72|1|73|1|93|2|10|1|20|2|42|1|10|3|20|4|42|1|97|0|"
-        "92|1|93|3|72|1|10|1|20|2|11|3|21|4|72|2|10|5|20|6|40|7|50|0|51|90|73|0|"
-        "72|4|94|1|73|0|74|0|95|4|96|2|40|0|40|0|40|1|40|1|10|8|20|9|10|10|20|11|97|0|330|1F|"
-        "75|1|76|1|52|30|41|2|77|1|78|1|53|45|43|1|44|2|45|-3|46|4|79|2|49|0.5|49|-0.25|98|1|10|99|20|99");
+    const Document document =
+        ReadEntities("0|HATCH|10|0|20|0|30|5|2|ANSI31|70|0|91|2|92|7|72|1|73|1|93|2|10|1|20|2|42|1|10|3|20|4|42|1|97|0|"
+                     "92|1|93|3|72|1|10|1|20|2|11|3|21|4|72|2|10|5|20|6|40|7|50|0|51|90|73|0|"
+                     "72|4|94|1|73|0|74|0|95|4|96|2|40|0|40|0|40|1|40|1|10|8|20|9|10|10|20|11|97|0|330|1F|"
+                     "75|1|76|1|52|30|41|2|77|1|78|1|53|45|43|1|44|2|45|-3|46|4|79|2|49|0.5|49|-0.25|98|1|10|99|20|99");
     const Hatch& hatch = *ShapeOf<Apart<Hatch>>(document);
     EXPECT_EQ(hatch.pattern, "ANSI31");
     EXPECT_EQ(hatch.elevation, 5);
@@ -278,11 +276,10 @@ TEST(Splines, WhatDoesNotFitIsLeftOut) {
 }
 
 TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
-    const Document document =
-        Read(Drawing("0|INSERT|2|missing|0|INSERT|2|A|0|INSERT|2|SELF",
-                     "0|BLOCK|2|A|0|INSERT|2|B|0|ENDBLK|0|BLOCK|2|B|0|INSERT|2|A|0|LINE|0|ENDBLK|"
-                     "0|BLOCK|2|SELF|0|INSERT|2|SELF|0|ENDBLK"),
-             {});
+    const Document document = Read(Drawing("0|INSERT|2|missing|0|INSERT|2|A|0|INSERT|2|SELF",
+                                           "0|BLOCK|2|A|0|INSERT|2|B|0|ENDBLK|0|BLOCK|2|B|0|INSERT|2|A|0|LINE|0|ENDBLK|"
+                                           "0|BLOCK|2|SELF|0|INSERT|2|SELF|0|ENDBLK"),
+                                   {});
     EXPECT_EQ(ShapeOf<Apart<Insert>>(document, 0)->block, BlockIndex::none);
     EXPECT_NE(ShapeOf<Apart<Insert>>(document, 1)->block, BlockIndex::none);
     std::string all;
@@ -305,9 +302,8 @@ TEST(References, LongChainsAndManyPartsAreCut) {
         chain += "|0|BLOCK|2|" + std::to_string(i) + "|0|INSERT|2|" + std::to_string(i - 1) + "|0|ENDBLK";
     EXPECT_FALSE(Read(Drawing("0|INSERT|2|19999", chain), {}).findings.empty());
 
-    const Document array = Read(
-        Drawing("0|INSERT|2|A|70|30000|71|30000|0|INSERT|2|A|70|100|71|100", "0|BLOCK|2|A|0|LINE|0|ENDBLK"),
-        {});
+    const Document array =
+        Read(Drawing("0|INSERT|2|A|70|30000|71|30000|0|INSERT|2|A|70|100|71|100", "0|BLOCK|2|A|0|LINE|0|ENDBLK"), {});
     EXPECT_EQ(ShapeOf<Apart<Insert>>(array, 0)->block, BlockIndex::none);
     EXPECT_NE(ShapeOf<Apart<Insert>>(array, 1)->block, BlockIndex::none);
     EXPECT_EQ(array.findings.at(0).text,

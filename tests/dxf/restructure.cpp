@@ -1,5 +1,5 @@
-// Takes every second entity out of a drawing and adds one of each kind, to model space and to a new block, which it inserts:
-// for check_saved.py, which lets another reader look at the result.
+// Takes every second entity out of a drawing and adds one of each kind, to model space and to a new block, which it
+// inserts: for check_saved.py, which lets another reader look at the result.
 //
 // restructure IN OUT [remove]
 //

@@ -1,5 +1,5 @@
-// Saving exactly: what was not edited stays as the file has it, what was edited is read back bit by bit, and what the file cannot
-// hold is refused by its name.
+// Saving exactly: what was not edited stays as the file has it, what was edited is read back bit by bit, and what the
+// file cannot hold is refused by its name.
 
 #include "tests/dxf/save_fixture.h"
 
@@ -54,9 +54,8 @@ void Move(GraphicStruct* graphic, double x, double y) {
 
 std::string DrawingOf(const std::string& version, const std::string& tables, const std::string& entities,
                       const std::string& blocks = "") {
-    return Section("HEADER", "9|$ACADVER|1|" + version + "|9|$DWGCODEPAGE|3|ANSI_1252") +
-           Section("TABLES", tables) + Section("BLOCKS", blocks) + Section("ENTITIES", entities) +
-           Tags("0|EOF");
+    return Section("HEADER", "9|$ACADVER|1|" + version + "|9|$DWGCODEPAGE|3|ANSI_1252") + Section("TABLES", tables) +
+           Section("BLOCKS", blocks) + Section("ENTITIES", entities) + Tags("0|EOF");
 }
 
 std::string LayerTable(const std::string& records) {
@@ -76,8 +75,7 @@ TEST_F(SaveExact, HoldsMillimetersFarFromTheOrigin) {
           "0|SOLID|8|0|10|3500000.25|20|5800000.5|11|3500001.25|21|5800000.5|12|3500001.25|22|5800009.5",
           "0|INSERT|8|0|2|B|10|3500000.25|20|5800000.5|30|0|50|30"}) {
         SCOPED_TRACE(entity);
-        const OwnedDrawing drawing =
-            OpenText(DrawingOf("AC1015", LayerTable(LayerNamed("0")), entity, block));
+        const OwnedDrawing drawing = OpenText(DrawingOf("AC1015", LayerTable(LayerNamed("0")), entity, block));
         GraphicStruct* graphic = First(drawing);
         Move(graphic, 0.004, -0.004);
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
@@ -91,21 +89,19 @@ TEST_F(SaveExact, KeepsFacesThatTheCodePageLacks) {
     const std::string style =
         "0|TABLE|2|STYLE|70|1|0|STYLE|2|song|70|0|40|0|41|1|50|0|71|0|3|simsun.ttf|4||1001|ACAD|1000|"
         "\xE5\xAE\x8B\xE4\xBD\x93|1071|0|0|ENDTAB";
-    const std::string text =
-        DrawingOf("AC1021", style,
-                  "0|TEXT|8|0|10|0|20|0|40|2|1|\xE4\xB9\x97|7|song|0|MTEXT|8|0|10|0|20|0|40|2|1|a|7|song");
+    const std::string text = DrawingOf(
+        "AC1021", style, "0|TEXT|8|0|10|0|20|0|40|2|1|\xE4\xB9\x97|7|song|0|MTEXT|8|0|10|0|20|0|40|2|1|a|7|song");
     const OwnedDrawing drawing = OpenText(text);
     ForGraphics(DrawingGetRoot(drawing.get()),
                 [](GraphicStruct* g) { WriteProperty(g, kPropPenColor, uint32_t{0x0000FF}); });
     ASSERT_EQ(Write(drawing), kSaveDone) << message;
-    EXPECT_EQ(Saved(), Replaced(Replaced(text, "TEXT\n8\n0\n", "TEXT\n8\n0\n62\n1\n"), "MTEXT\n8\n0\n",
-                                "MTEXT\n8\n0\n62\n1\n"));
+    EXPECT_EQ(Saved(),
+              Replaced(Replaced(text, "TEXT\n8\n0\n", "TEXT\n8\n0\n62\n1\n"), "MTEXT\n8\n0\n", "MTEXT\n8\n0\n62\n1\n"));
 }
 
 TEST_F(SaveExact, KeepsAWidthByLayerWhateverTheLayer) {
-    const std::string text =
-        DrawingOf("AC1015", LayerTable(LayerNamed("A", "370|50|") + LayerNamed("B", "370|25|")),
-                  "0|LINE|8|A|10|0|20|0|11|1|21|1");
+    const std::string text = DrawingOf("AC1015", LayerTable(LayerNamed("A", "370|50|") + LayerNamed("B", "370|25|")),
+                                       "0|LINE|8|A|10|0|20|0|11|1|21|1");
     const OwnedDrawing drawing = OpenText(text);
     GraphicStruct* line = First(drawing);
     EXPECT_EQ(ReadProperty<double>(line, kPropPenWidth), 50 / 2540.0);
@@ -129,12 +125,11 @@ TEST_F(SaveExact, KeepsAWidthByLayerWhateverTheLayer) {
 
 // A file of a version with UTF-8 whose texts are in a code page all the same.
 TEST_F(SaveExact, WritesNamesInTheBytesOfTheirTable) {
-    const std::string text = DrawingOf("AC1024", LayerTable(LayerNamed("0") + LayerNamed("W\xC4NDE")),
-                                       "0|LINE|8|0|10|0|20|0|11|1|21|1");
+    const std::string text =
+        DrawingOf("AC1024", LayerTable(LayerNamed("0") + LayerNamed("W\xC4NDE")), "0|LINE|8|0|10|0|20|0|11|1|21|1");
     const OwnedDrawing drawing = OpenText(text);
-    WriteProperty(
-        First(drawing), kPropLayer,
-        uint32_t{TableEntryGetIDFirst(DrawingGetTable(drawing.get(), kTableLayers), nullptr, "W\xC4NDE")});
+    WriteProperty(First(drawing), kPropLayer,
+                  uint32_t{TableEntryGetIDFirst(DrawingGetTable(drawing.get(), kTableLayers), nullptr, "W\xC4NDE")});
     ASSERT_EQ(Write(drawing), kSaveDone) << message;
     EXPECT_EQ(Saved(), Replaced(text, "LINE\n8\n0\n", "LINE\n8\nW\xC4NDE\n"));
 }
@@ -155,8 +150,8 @@ TEST_F(SaveExact, TakesAnglesModuloATurn) {
 
 // A part of the text keeps its color if the user chose none.
 TEST_F(SaveExact, GivesAllOfATextTheColorThatWasChosen) {
-    const std::string text = DrawingOf("AC1015", LayerTable(LayerNamed("0")),
-                                       "0|MTEXT|8|0|10|0|20|0|40|2|1|{\\C1;most of it}{\\C3;x}");
+    const std::string text =
+        DrawingOf("AC1015", LayerTable(LayerNamed("0")), "0|MTEXT|8|0|10|0|20|0|40|2|1|{\\C1;most of it}{\\C3;x}");
     const OwnedDrawing drawing = OpenText(text);
     WriteProperty(First(drawing), kPropInfo, std::string("x"));
     ASSERT_EQ(Write(drawing), kSaveDone) << message;
@@ -176,8 +171,7 @@ TEST_F(SaveExact, AddsAndRemovesLayersThatNothingIsOn) {
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
         EXPECT_FALSE(DrawingIsModified(d));
         const OwnedDrawing read = Open(path);
-        const uint16_t found =
-            TableEntryGetIDFirst(DrawingGetTable(read.get(), kTableLayers), nullptr, "Unused \xC4");
+        const uint16_t found = TableEntryGetIDFirst(DrawingGetTable(read.get(), kTableLayers), nullptr, "Unused \xC4");
         EXPECT_EQ(LayerGetColor(read.get(), found), static_cast<uint32_t>(RGB(255, 0, 0)));
         EXPECT_EQ(LayerGetFlags(read.get(), found), uint32_t{kLayerFrozen});
         TableEntryDelete(layers, added);
@@ -259,9 +253,8 @@ TEST_F(SaveExact, SaysWhatOtherProgramsWillNotShow) {
     Heard heard;
     const DxfListener listener = {&heard, nullptr, Heard::Hear};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
-    EXPECT_EQ(heard.findings,
-              std::vector<std::string>{
-                  "0 Info of 1 entity is stored as extended data, which other programs do not show"});
+    EXPECT_EQ(heard.findings, std::vector<std::string>{
+                                  "0 Info of 1 entity is stored as extended data, which other programs do not show"});
 }
 
 // A reference that cannot be taken out keeps the entity.
@@ -305,8 +298,8 @@ public:
         case 2:
             return Remove();
         case 3:
-            TableEntryAdd(DrawingGetTable(drawing_, kTableLayers),
-                          ("layer " + std::to_string(Below(99))).c_str(), nullptr);
+            TableEntryAdd(DrawingGetTable(drawing_, kTableLayers), ("layer " + std::to_string(Below(99))).c_str(),
+                          nullptr);
             return;
         default:
             return SetProperty(graphic);
@@ -380,8 +373,7 @@ std::string ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, const Proper
     char name[300] = "";
     if (table && value < 0xFFF0)
         TableEntryGetName(DrawingGetTable(drawing, table), static_cast<uint16_t>(value), name, sizeof name);
-    const bool isNumber =
-        property.meaning != kMeansBrushStyle && !table; // its numbers differ from drawing to drawing
+    const bool isNumber = property.meaning != kMeansBrushStyle && !table; // its numbers differ from drawing to drawing
     return table && value < 0xFFF0 ? name : isNumber ? std::to_string(value) : value == 0 ? "none" : "style";
 }
 
@@ -419,8 +411,8 @@ TEST_F(SaveExact, ReadsBackRandomEditsBitByBit) {
     std::mt19937 random(20261126);
     int saved = 0, refused = 0;
     for (const char* name :
-         {"ezdxf-insert-nested-mirrored.dxf", "made-inserts-R2000.dxf", "made-gbk-R2004.dxf",
-          "dxf-blocks2.dxf", "kabeja-hatch_1.dxf", "made-cp1251-R2000.dxf", "ezdxf-text_alignments.dxf"}) {
+         {"ezdxf-insert-nested-mirrored.dxf", "made-inserts-R2000.dxf", "made-gbk-R2004.dxf", "dxf-blocks2.dxf",
+          "kabeja-hatch_1.dxf", "made-cp1251-R2000.dxf", "ezdxf-text_alignments.dxf"}) {
         for (int round = 0; round < 25; ++round) {
             SCOPED_TRACE(name + std::string(", round ") + std::to_string(round));
             const OwnedDrawing drawing = Open(kDrawings + name);

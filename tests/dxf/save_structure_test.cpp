@@ -120,8 +120,7 @@ TEST_F(SaveStructure, MovesVertices) {
                 ++moved;
                 continue;
             }
-            EXPECT_NE(message.find("): the file can't hold a change of its vertices"), std::string::npos)
-                << message;
+            EXPECT_NE(message.find("): the file can't hold a change of its vertices"), std::string::npos) << message;
             ++refused;
             shift(-8);
         }
@@ -218,16 +217,14 @@ TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
         EXPECT_EQ(change(color, flags ^ (kLayerOff | kLayerFrozen | kLayerLocked)), kSaveDone) << message;
         EXPECT_EQ(change(RGB(255, 0, 0), flags ^ kLayerOff), kSaveDone) << message;
         if (change(0x563412, flags) != kSaveDone) {
-            EXPECT_NE(message.find("\": a file of this version cannot hold the color"), std::string::npos)
-                << message;
+            EXPECT_NE(message.find("\": a file of this version cannot hold the color"), std::string::npos) << message;
         }
         LayerSet(d, layer, 0x563412, flags ^ kLayerLocked, line);
         EXPECT_TRUE(DrawingIsModified(d));
         EXPECT_EQ(change(color, flags), kSaveDone) << message;
         EXPECT_FALSE(DrawingIsModified(d));
         // at most a table for the layer
-        EXPECT_NEAR(static_cast<double>(ReadBytes(path).size()), static_cast<double>(fs::file_size(original)),
-                    100);
+        EXPECT_NEAR(static_cast<double>(ReadBytes(path).size()), static_cast<double>(fs::file_size(original)), 100);
     });
 }
 
@@ -274,8 +271,7 @@ TEST_F(SaveStructure, SaysWhetherSomethingIsUnsaved) {
         {"a style",
          [&] {
              style = BlocksAddBlock(
-                 blocks, "Style",
-                 GraphicCopyEx(BlockGetGraphic(blocks, BlocksFindBlock(blocks, "MyBlock")), 0, 0, 7));
+                 blocks, "Style", GraphicCopyEx(BlockGetGraphic(blocks, BlocksFindBlock(blocks, "MyBlock")), 0, 0, 7));
          },
          [&] { BlockDispose(blocks, style); }},
     };

@@ -112,10 +112,9 @@ TEST_F(Save, HoldsThePlacesOfInsertionsWithTheirAttributes) {
     };
     constexpr const char *kMade = "made-inserts-R2000.dxf", *kNested = "ezdxf-insert-nested-mirrored.dxf",
                          *kArray = "dxf-array-rotated.dxf";
-    for (const Row& row :
-         {Row{kMade, Way::stretched}, Row{kMade, Way::mirrored}, Row{kMade, Way::tilted},
-          Row{kNested, Way::stretched}, Row{kNested, Way::mirrored}, Row{kNested, Way::tilted},
-          Row{kNested, Way::slanted}, Row{kArray, Way::mirrored}, Row{kArray, Way::tilted}}) {
+    for (const Row& row : {Row{kMade, Way::stretched}, Row{kMade, Way::mirrored}, Row{kMade, Way::tilted},
+                           Row{kNested, Way::stretched}, Row{kNested, Way::mirrored}, Row{kNested, Way::tilted},
+                           Row{kNested, Way::slanted}, Row{kArray, Way::mirrored}, Row{kArray, Way::tilted}}) {
         SCOPED_TRACE(row.file + std::string(" ") + std::to_string(static_cast<int>(row.way)));
         const OwnedDrawing drawing = Open(kDrawings + row.file);
         ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) {
@@ -195,16 +194,14 @@ TEST_F(Save, CanBeCancelledWithEachReport) {
     const fs::path original = kDrawings + "acadsharp-sample-AC1032.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
-    ForGraphics(DrawingGetRoot(drawing.get()),
-                [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("x")); });
+    ForGraphics(DrawingGetRoot(drawing.get()), [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("x")); });
     Reports whole;
     const DxfListener listener = {&whole, Reports::Hear, nullptr};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
     EXPECT_TRUE(std::is_sorted(whole.heard.begin(), whole.heard.end()));
     EXPECT_EQ(whole.heard.back(), 1000);
     const std::string saved = ReadBytes(path);
-    ForGraphics(DrawingGetRoot(drawing.get()),
-                [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("y")); });
+    ForGraphics(DrawingGetRoot(drawing.get()), [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("y")); });
     for (const int permille : whole.heard) {
         Reports reports;
         reports.cancelAt = permille;

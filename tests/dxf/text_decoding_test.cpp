@@ -17,8 +17,7 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         {"AC1015", "ANSI_1252", "W\xE4nde", "W\u00E4nde"},
         {"AC1009", nullptr, "\x80", "\u20AC"},
         {"AC1015", "ANSI_1251", "\xD1\xF2\xE5\xED\xFB", "\u0421\u0442\u0435\u043D\u044B"},
-        {"AC1018", "ANSI_936", "\xB3\xDF\xB4\xE7\x81\x5C",
-         "\u5C3A\u5BF8\u4E57"}, // a second byte that is a backslash
+        {"AC1018", "ANSI_936", "\xB3\xDF\xB4\xE7\x81\x5C", "\u5C3A\u5BF8\u4E57"}, // a second byte that is a backslash
         {"AC1015", "ANSI_932", "\x83\x5C", "\u30BD"},
         {"AC1015", "gb2312", "\xB3\xDF", "\u5C3A"},
         {"AC1012", "dos850", "\x84", "\u00E4"},
@@ -32,8 +31,7 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         dxf::TextDecoder decoder;
         decoder.SetVersion(row.version);
         if (row.codePage) decoder.SetCodePage(row.codePage);
-        EXPECT_EQ(decoder.Decode(row.bytes), row.text)
-            << row.version << " " << (row.codePage ? row.codePage : "none");
+        EXPECT_EQ(decoder.Decode(row.bytes), row.text) << row.version << " " << (row.codePage ? row.codePage : "none");
     }
 }
 

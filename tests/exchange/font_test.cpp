@@ -76,8 +76,8 @@ TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
             EXPECT_EQ(rest, style[0]);
             EXPECT_EQ(on ? bit : rest, style[1]);
         }
-        unsigned short style[] = {
-            0, bit}; // the user clicks on into the third state of an effect in which the texts agree
+        unsigned short style[] = {0,
+                                  bit}; // the user clicks on into the third state of an effect in which the texts agree
         DDX_ChkBoxEffects(1, &m_load, style);
         Send(kEffectBoxes[i], BM_CLICK);
         ASSERT_EQ(Send(kEffectBoxes[i], BM_GETCHECK), BST_INDETERMINATE);

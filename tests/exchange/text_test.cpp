@@ -58,8 +58,8 @@ TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
     ExpectRead<unsigned short>({{"65537", 1}, {"-1", 65535}}); // the low 16 bits
     ExpectRead<unsigned int>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
     ExpectRead<unsigned long>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
-    ExpectRefused<int>(AFX_IDP_PARSE_INT, {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****",
-                                           "0000000000000000000000000000012x"});
+    ExpectRefused<int>(AFX_IDP_PARSE_INT,
+                       {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****", "0000000000000000000000000000012x"});
     ExpectRefused<long>(AFX_IDP_PARSE_INT, {"12a"});
     ExpectRefused<unsigned char>(AFX_IDP_PARSE_BYTE, {"256", "x"});
     ExpectRefused<unsigned short>(AFX_IDP_PARSE_UINT, {"x"});
@@ -117,9 +117,7 @@ TEST_F(TextExchange, RealNumbersAreReadOrRefused) {
 }
 
 TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {
-    const auto hasExponent = [this](double value) {
-        return Shown(value).find_first_of("eE") != std::string::npos;
-    };
+    const auto hasExponent = [this](double value) { return Shown(value).find_first_of("eE") != std::string::npos; };
     EXPECT_TRUE(hasExponent(0.000001));
     EXPECT_TRUE(hasExponent(-0.000001));
     EXPECT_FALSE(hasExponent(0.0));

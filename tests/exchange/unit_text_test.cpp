@@ -48,13 +48,10 @@ Exchange Linear(DrawingStruct* d, int bBlank = 0, double dDefault = 3.0) {
     };
 }
 Exchange Paper(DrawingStruct* d, int bBlank = 0) {
-    return
-        [=](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextPaper(r, x, c, v, d, bBlank); };
+    return [=](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextPaper(r, x, c, v, d, bBlank); };
 }
 Exchange PaperMM(DrawingStruct* d, int bBlank = 0) {
-    return [=](int r, CDataExchange* x, unsigned c, double& v) {
-        return DDX_TextPaperMM(r, x, c, v, d, bBlank);
-    };
+    return [=](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextPaperMM(r, x, c, v, d, bBlank); };
 }
 Exchange PaperWorld(DrawingStruct* d, double scale, int bBlank = 0) {
     return [=](int r, CDataExchange* x, unsigned c, double& v) {
@@ -62,9 +59,7 @@ Exchange PaperWorld(DrawingStruct* d, double scale, int bBlank = 0) {
     };
 }
 Exchange Angular(DrawingStruct* d, int bBlank = 0) {
-    return [=](int r, CDataExchange* x, unsigned c, double& v) {
-        return DDX_TextAngular(r, x, c, v, d, bBlank);
-    };
+    return [=](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextAngular(r, x, c, v, d, bBlank); };
 }
 
 TEST_F(UnitText, ShowsAndSavesValuesInTheirUnits) {
@@ -91,8 +86,7 @@ TEST_F(UnitText, RefusesWhatItCannotReadWithoutAMessage) {
     const struct {
         Exchange exchange;
         double left;
-    } kRows[] = {
-        {Linear(d), 3.0}, {Paper(d), 7.0}, {PaperMM(d), 7.0}, {PaperWorld(d, 2), 7.0}, {Angular(d), 7.0}};
+    } kRows[] = {{Linear(d), 3.0}, {Paper(d), 7.0}, {PaperMM(d), 7.0}, {PaperWorld(d, 2), 7.0}, {Angular(d), 7.0}};
     MessageBoxWatcher boxes;
     for (const auto& row : kRows)
         for (const char* text : {"", "much", "2 2", "1e999"}) {
@@ -109,8 +103,7 @@ TEST_F(UnitText, RefusesWhatItCannotReadWithoutAMessage) {
 
 TEST_F(UnitText, BlankFieldsSaveZeroAndDisabledOnesAreShownEmpty) {
     DrawingStruct* const d = m_drawing.Get();
-    for (const Exchange& exchange :
-         {Linear(d, 1), Paper(d, 1), PaperMM(d, 1), PaperWorld(d, 2, 1), Angular(d, 1)}) {
+    for (const Exchange& exchange : {Linear(d, 1), Paper(d, 1), PaperMM(d, 1), PaperWorld(d, 2, 1), Angular(d, 1)}) {
         EXPECT_EQ(Save(" \t ", exchange), 1);
         EXPECT_EQ(m_value, 0.0) << "nor the default";
         EXPECT_EQ(Load(5.0, exchange, IDC_DISABLED_EDIT), "");
@@ -141,9 +134,7 @@ TEST_F(UnitText, NeedsADrawingAndAScale) {
 }
 
 TEST_F(UnitText, RadiansAreShownInDegrees) {
-    const Exchange radians = [](int r, CDataExchange* x, unsigned c, double& v) {
-        return DDX_TextRadians(r, x, c, v);
-    };
+    const Exchange radians = [](int r, CDataExchange* x, unsigned c, double& v) { return DDX_TextRadians(r, x, c, v); };
     EXPECT_EQ(Load(3.141592653589793, radians), "180");
     EXPECT_EQ(Load(HUGE_VAL, radians), "*****");
     EXPECT_EQ(Load(1.0, radians, IDC_DISABLED_EDIT), "");

@@ -37,8 +37,8 @@ bool MayTrace() {
     ::_exit(0);
 }
 
-// Runs the replacement until it has entered and left that many system calls, and sends it the signal there. Returns false once it
-// ends before.
+// Runs the replacement until it has entered and left that many system calls, and sends it the signal there. Returns
+// false once it ends before.
 bool EndsAt(int stops, int signal, const fs::path& path, const std::string& bytes) {
     const pid_t child = ::fork();
     if (child == 0) ReplaceTraced(path, bytes);

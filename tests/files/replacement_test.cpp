@@ -31,9 +31,7 @@ protected:
     }
     ~Replacement() override { fs::remove_all(folder); }
 
-    static void Put(const fs::path& file, const std::string& bytes) {
-        std::ofstream(file, std::ios::binary) << bytes;
-    }
+    static void Put(const fs::path& file, const std::string& bytes) { std::ofstream(file, std::ios::binary) << bytes; }
     static std::string Get(const fs::path& file) {
         std::ifstream stream(file, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(stream), {});
@@ -53,9 +51,7 @@ protected:
         }
         EXPECT_EQ(Count(), before);
     }
-    std::ptrdiff_t Count() const {
-        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
-    }
+    std::ptrdiff_t Count() const { return std::distance(fs::directory_iterator(folder), fs::directory_iterator()); }
 
     const fs::path folder = fs::temp_directory_path() / fs::u8path("ers\u00E4tzt \u4E57");
     const fs::path path = folder / "plan.dxf";
@@ -135,8 +131,7 @@ TEST_F(Replacement, KeepsAttributesAndTheTimeOfCreation) {
 }
 
 TEST_F(Replacement, RefusesAFileThatAnotherProgramHasOpen) {
-    const files::OpenFile held(
-        ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    const files::OpenFile held(::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(held);
     ExpectRefused(path, "the file cannot be replaced: ");
 }

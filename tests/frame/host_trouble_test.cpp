@@ -88,8 +88,7 @@ TEST(HostTrouble, ASheetWhoseFirstPageCannotBeReadOpensOnTheNext) {
 }
 
 struct PreviewOfAnother : ExchangePage {
-    explicit PreviewOfAnother(GraphicStruct* graphic)
-        : ExchangePage([](CDataExchange*) {}), member(graphic) {}
+    explicit PreviewOfAnother(GraphicStruct* graphic) : ExchangePage([](CDataExchange*) {}), member(graphic) {}
     void* CreatePreviewGraphic() override { return member; }
     GraphicStruct* member;
 };

@@ -1,5 +1,5 @@
-// Where the focus is, which button is the default, and what the tabs show, when pages come and go; and which controls of a page
-// are fitted.
+// Where the focus is, which button is the default, and what the tabs show, when pages come and go; and which controls
+// of a page are fitted.
 
 #include <gtest/gtest.h>
 

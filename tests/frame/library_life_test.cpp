@@ -1,5 +1,5 @@
-// The library as a host loads it at run time: it comes and goes, twice over, beside resources of the host's own under the same
-// numbers. This program is not linked with it.
+// The library as a host loads it at run time: it comes and goes, twice over, beside resources of the host's own under
+// the same numbers. This program is not linked with it.
 
 #include <gtest/gtest.h>
 
@@ -63,8 +63,7 @@ protected:
                            [&](SheetDriver& user) {
                                ASSERT_GT(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 0);
                                user.SelectPage(1);
-                               ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0),
-                                         0);
+                               ASSERT_GT(::SendMessageA(user.Control(IDC_LINE_STYLE_LIST), LB_GETCOUNT, 0, 0), 0);
                                user.Type(IDC_PEN_SCALE, std::to_string(scale));
                                user.Ok();
                            }),
@@ -98,8 +97,7 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
     if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
     // A copy that has not been hooked up to the framework yet is not there by the one before it.
     const HMODULE fresh = ::LoadLibraryA("orlo.dll");
-    EXPECT_NE(fresh,
-              AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
+    EXPECT_NE(fresh, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
     ::FreeLibrary(fresh);
 }
 
@@ -136,8 +134,7 @@ TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
         Pixels pixels(60, 20);
         pixels.Clear(RGB(1, 2, 3));
         const RECT eye = {0, 0, 16, 20};
-        DRAWITEMSTRUCT draw = {ODT_COMBOBOX, IDC_LAYER,      0, ODA_DRAWENTIRE, 0, layers,
-                               pixels.DC(),  {0, 0, 60, 20}, 0};
+        DRAWITEMSTRUCT draw = {ODT_COMBOBOX, IDC_LAYER, 0, ODA_DRAWENTIRE, 0, layers, pixels.DC(), {0, 0, 60, 20}, 0};
         ::SendMessageA(user.Page(), WM_DRAWITEM, IDC_LAYER, reinterpret_cast<LPARAM>(&draw));
         EXPECT_GT(pixels.CountWhere(eye, [](COLORREF c) { return c != ::GetSysColor(COLOR_WINDOW); }), 0);
         user.SelectPage(3);

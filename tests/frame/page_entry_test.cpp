@@ -120,7 +120,8 @@ TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
     sheet.Sheet().AddPage(&width.page); // whose owner is the sheet again
 }
 
-// Each request for memory fails once, in the library and in the framework, until a change of pages makes no more of them.
+// Each request for memory fails once, in the library and in the framework, until a change of pages makes no more of
+// them.
 TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
     for (const char* module : {"orlo.dll", "afx.dll"}) {
         bool failed = true;

@@ -10,13 +10,10 @@ namespace {
 
 // A page that shows one number and one list, and follows its edit in the preview.
 struct PageLife : ::testing::Test {
-    PageLife() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), page(&width.page) {
-        page->hasPreview = true;
-    }
+    PageLife() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), page(&width.page) { page->hasPreview = true; }
 
     void Send(SheetDriver& user, int id, int code) {
-        ::SendMessageA(user.Page(), WM_COMMAND, MAKEWPARAM(id, code),
-                       reinterpret_cast<LPARAM>(user.Control(id)));
+        ::SendMessageA(user.Page(), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(user.Control(id)));
     }
 
     GraphicKit kit;

@@ -43,9 +43,7 @@ protected:
             ::AddGraphicPropertyPage(nullptr, graphic, sheet.get());
         return sheet;
     }
-    bool HasPreviewBlock() const {
-        return ::BlocksFindBlock(::BlocksFromDrawing(drawing.Get()), kPreviewBlock) != 0;
-    }
+    bool HasPreviewBlock() const { return ::BlocksFindBlock(::BlocksFromDrawing(drawing.Get()), kPreviewBlock) != 0; }
     static GraphicStruct* PreviewOf(CGraphicPropertySheet& sheet) {
         return static_cast<CGraphicPropertyPage*>(sheet.GetActivePage())->GetPreviewGraphic();
     }
@@ -97,9 +95,7 @@ TEST_F(PreviewLife, TheBlockIsRemovedFromItsDrawingWhicheverIsCurrent) {
 TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
     Add(kGraphicPenBrush);
     const Sheet sheet = NewSheet();
-    const auto scaleOfPreview = [&] {
-        return *orlo::host::ReadProperty<double>(PreviewOf(*sheet), kPropPenScale);
-    };
+    const auto scaleOfPreview = [&] { return *orlo::host::ReadProperty<double>(PreviewOf(*sheet), kPropPenScale); };
     for (const char* typed : {"5", "7"}) {
         EXPECT_EQ(IDCANCEL, SheetDriver().Run(*sheet, [&](SheetDriver& user) {
             user.SelectPage(2); // Brush
@@ -124,8 +120,8 @@ TEST_F(PreviewLife, ASheetThatRunsAgainHasNoEndCodeYet) {
     };
     const uint16_t beam = addStyle("Beam"), column = addStyle("Column");
     frame.currentStyle = beam;
-    const Sheet sheet(::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(),
-                                                 ::BlockGetGraphic(styles, beam), kWithStylePart));
+    const Sheet sheet(
+        ::InitGraphicPropertySheet(&frame, nullptr, drawing.Get(), ::BlockGetGraphic(styles, beam), kWithStylePart));
     EXPECT_EQ(kStyleChosen + column, SheetDriver().Run(*sheet, [](SheetDriver& user) {
         user.Type(IDC_STYLE_NAME, "Column");
         user.Key(VK_TAB, true);

@@ -1,4 +1,5 @@
-// A host that defines UNICODE: macros of windows.h rename members of the framework here, and the renamed ones must exist.
+// A host that defines UNICODE: macros of windows.h rename members of the framework here, and the renamed ones must
+// exist.
 
 #include <afxext.h>
 #include <orlo.h>

@@ -91,8 +91,7 @@ bool Is(const char* fault) {
 }
 
 void Crash() {
-    volatile uintptr_t nowhere =
-        0; // volatile, so that the compiler does not treat a null pointer as impossible
+    volatile uintptr_t nowhere = 0; // volatile, so that the compiler does not treat a null pointer as impossible
     *reinterpret_cast<volatile int*>(nowhere) = 1;
 }
 
@@ -277,8 +276,7 @@ void DoubleToString(int context, double value, int digits, char* buffer, int res
     if (Is("trailing zeros")) std::strcat(buffer, std::strchr(buffer, '.') ? "00" : ".00");
 }
 
-int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
-                         double* value) {
+int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text, double* value) {
     if (Is("arguments swapped") && display) std::swap(number, display);
     const int read = Original_UnitsTextToNumericEx(units, number, display, text, value);
     if (!read && Is("value changed on rejection")) *value = 0;
@@ -286,8 +284,8 @@ int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, 
     return read;
 }
 
-int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
-                         int size, int reserved, int suffix) {
+int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
+                         int reserved, int suffix) {
     if (Is("display and number swapped") && display) std::swap(number, display);
     if (Is("lengths rounded")) value = std::floor(value);
     return Original_UnitsNumericToTextEx(units, display, number, value, buffer, size, reserved, suffix);
@@ -300,8 +298,7 @@ int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* va
     return end != text;
 }
 
-int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space,
-                              uint16_t unit) {
+int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* value, uint16_t space, uint16_t unit) {
     if (Is("device space has lengths") && space == kSpaceDevice) space = kSpacePaper;
     return Original_DrawingStdTextToNumericEx(drawing, text, value, space, unit);
 }
@@ -352,8 +349,7 @@ void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
 GraphicStruct* GraphicNext(GraphicStruct* set, void* position, int flags, uint32_t filter) {
     GraphicStruct* next = Original_GraphicNext(set, position, flags, filter);
     uint32_t nextPosition = *static_cast<uint32_t*>(position);
-    return Is("last member left out") && !Original_GraphicNext(set, &nextPosition, flags, filter) ? nullptr
-                                                                                                  : next;
+    return Is("last member left out") && !Original_GraphicNext(set, &nextPosition, flags, filter) ? nullptr : next;
 }
 
 GraphicStruct* GraphicCopyEx(GraphicStruct* graphic, int reserved1, int reserved2, int flags) {
@@ -461,8 +457,7 @@ int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
 }
 
 const BrushPatternStruct* BrushStyleGetFirstPattern(TableStruct* table, uint16_t id, int* cookie) {
-    return Is("hatch without lines") || Is(kStubs) ? nullptr
-                                                   : Original_BrushStyleGetFirstPattern(table, id, cookie);
+    return Is("hatch without lines") || Is(kStubs) ? nullptr : Original_BrushStyleGetFirstPattern(table, id, cookie);
 }
 
 // The extents of a graphic without vertices.
@@ -542,6 +537,5 @@ double ExtentsGetX1(const ExtentsStruct* extents) {
 }
 
 int TableGetStringVar(TableStruct* table, uint16_t id, char* buffer, int size) {
-    return Original_TableGetStringVar(table, id, buffer,
-                                      Is("string variable past the buffer") ? size + 1 : size);
+    return Original_TableGetStringVar(table, id, buffer, Is("string variable past the buffer") ? size + 1 : size);
 }

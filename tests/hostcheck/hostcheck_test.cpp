@@ -43,8 +43,7 @@ Outcome Hostcheck(const std::string& arguments) {
     std::string command = Folder() + "hostcheck.exe " + arguments;
     PROCESS_INFORMATION process = {};
     Outcome outcome;
-    if (!::CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, Folder().c_str(), &start,
-                          &process))
+    if (!::CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, Folder().c_str(), &start, &process))
         return outcome;
     const Handle thread(process.hThread), running(process.hProcess);
     theirs.reset();
@@ -83,8 +82,7 @@ TEST(HostcheckProgram, ReportsEachFaultAndEachRequirementCanFail) {
         ::SetEnvironmentVariableA(kFaultVariable, fault.name);
         const Outcome outcome = Hostcheck("faulty\\drawcore32.dll");
         EXPECT_EQ(outcome.exitCode, 1u) << fault.name;
-        EXPECT_NE(std::string::npos, outcome.out.find(std::string("FAILED  ") + fault.function + ' '))
-            << fault.name;
+        EXPECT_NE(std::string::npos, outcome.out.find(std::string("FAILED  ") + fault.function + ' ')) << fault.name;
         EXPECT_NE(std::string::npos, outcome.out.find(" passed, "))
             << fault.name << ": some requirements were not checked";
         failed.merge(Requirements(outcome, "FAILED"));

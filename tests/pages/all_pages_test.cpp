@@ -64,8 +64,7 @@ TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
         EveryKind some;
         some.Select(content);
         const auto sheet = some.NewSheet();
-        SheetDriver().Run(*sheet,
-                          [&, wanted = titles](SheetDriver&) { EXPECT_EQ(wanted, TitlesOf(*sheet)); });
+        SheetDriver().Run(*sheet, [&, wanted = titles](SheetDriver&) { EXPECT_EQ(wanted, TitlesOf(*sheet)); });
     }
 }
 
@@ -98,16 +97,14 @@ TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
         // The control of the page, or of the sheet, that has the focus or holds the field that has it.
         const auto focused = [&] {
             HWND window = ::GetFocus();
-            while (window != nullptr && ::GetParent(window) != user.Page() &&
-                   ::GetParent(window) != user.Sheet())
+            while (window != nullptr && ::GetParent(window) != user.Page() && ::GetParent(window) != user.Sheet())
                 window = ::GetParent(window);
             return window;
         };
         for (int page = 0; page < sheet->GetPageCount(); ++page) {
             user.SelectPage(page);
             std::set<HWND> wanted = {::GetDlgItem(user.Sheet(), IDOK), sheet->GetTabControl()->m_hWnd};
-            for (HWND child = ::GetWindow(user.Page(), GW_CHILD); child;
-                 child = ::GetWindow(child, GW_HWNDNEXT)) {
+            for (HWND child = ::GetWindow(user.Page(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
                 const bool label = ::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
                 const bool usable = ::IsWindowVisible(child) && ::IsWindowEnabled(child);
                 if (usable && !label) wanted.insert(child);
@@ -119,8 +116,7 @@ TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
                 do {
                     ASSERT_LT(++steps, 40);
                     left.erase(focused());
-                    for (int i = 0;
-                         i < 3 && ::SendMessageA(focused(), WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON; ++i) {
+                    for (int i = 0; i < 3 && ::SendMessageA(focused(), WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON; ++i) {
                         user.Key(VK_DOWN);
                         left.erase(focused());
                     }

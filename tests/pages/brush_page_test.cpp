@@ -1,5 +1,5 @@
-// The Brush page in a real sheet: what it shows of equal and differing fillings, which controls a style enables, what it
-// writes, and what its preview shows.
+// The Brush page in a real sheet: what it shows of equal and differing fillings, which controls a style enables, what
+// it writes, and what its preview shows.
 
 #include "pages/page_over_kit.h"
 
@@ -29,15 +29,14 @@ protected:
         user.Key(VK_HOME);
         user.Key(VK_HOME);
         for (int i = 0; i < 40; ++i) {
-            if (std::stoul(Shown(user, IDC_BRUSH_STYLE_LIST), nullptr, 16) == static_cast<unsigned>(style))
-                return;
+            if (std::stoul(Shown(user, IDC_BRUSH_STYLE_LIST), nullptr, 16) == static_cast<unsigned>(style)) return;
             user.Key(VK_DOWN);
         }
         FAIL() << "no item of style " << style;
     }
     static std::vector<std::string> ShownBrush(SheetDriver& user) {
-        return Shown(user, {IDC_BRUSH_STYLE_TEXT, IDC_BRUSH_SCALE, IDC_BRUSH_ANGLE, IDC_HATCH_CROSS,
-                            IDC_DRAW_WINDING, IDC_DRAW_ALTERNATE, IDC_BRUSH_COLOR});
+        return Shown(user, {IDC_BRUSH_STYLE_TEXT, IDC_BRUSH_SCALE, IDC_BRUSH_ANGLE, IDC_HATCH_CROSS, IDC_DRAW_WINDING,
+                            IDC_DRAW_ALTERNATE, IDC_BRUSH_COLOR});
     }
 
     TableStruct* styles;
@@ -58,8 +57,8 @@ TEST_F(BrushPage, DifferingBrushesShowTheirMarkersAndSurviveOk) {
     Add("Cross", kRed, 2, 30 * kDegree, 1, 1);
     Add("Vertical", kBlue, 3, 45 * kDegree, 0, 0);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(ShownBrush(user), (std::vector<std::string>{"Indeterminate", "Indeterminate",
-                                                              "Indeterminate", "2", "0", "0", ""}));
+        EXPECT_EQ(ShownBrush(user),
+                  (std::vector<std::string>{"Indeterminate", "Indeterminate", "Indeterminate", "2", "0", "0", ""}));
         EXPECT_EQ(user.Selection(IDC_BRUSH_STYLE_LIST), -1);
         EXPECT_EQ(user.Selection(IDC_BRUSH_COLOR), -1);
         EXPECT_FALSE(::IsWindowEnabled(user.Control(IDC_BRUSH_COLOR)));
@@ -71,8 +70,7 @@ TEST_F(BrushPage, OneEditOverDifferingBrushesChangesOneProperty) {
     Add("Cross", kRed, 2, 30 * kDegree, 1, 1);
     Add("Cross", kBlue, 3, 45 * kDegree, 0, 0);
     ExpectEachChangesOneProperty(
-        {{kPropBrushStyle, [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); },
-          Style("Horizontal")},
+        {{kPropBrushStyle, [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); }, Style("Horizontal")},
          {kPropBrushScale, [](SheetDriver& user) { user.Type(IDC_BRUSH_SCALE, "4.5"); }, 4.5},
          {kPropBrushAngle, [](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "60"); }, 60 * kDegree},
          {kPropHatchCross, [](SheetDriver& user) { user.Click(IDC_HATCH_CROSS); }, 0},
@@ -200,9 +198,7 @@ TEST_F(BrushPage, ThePreviewKeepsItsOwnPen) {
             table->PropGet(graphic, number, vt, &value);
             return value;
         };
-        const auto pen = [&] {
-            return std::pair(get(kPropPenStyle, VT_UI4, 0u), get(kPropPenWidth, VT_R8, 0.0));
-        };
+        const auto pen = [&] { return std::pair(get(kPropPenStyle, VT_UI4, 0u), get(kPropPenWidth, VT_R8, 0.0)); };
         unsigned int style = kLineStyleByLayer;
         double width = 3;
         page.SetPropText(kPropPenStyle, style, 1);
@@ -252,8 +248,7 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
 TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
     Add("Cross", kRed, 1000, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
-        EXPECT_NEAR(std::sqrt(2.0) / 20, Previewed(page, kPropBrushScale), 1e-6)
-            << "two families of spacing 1";
+        EXPECT_NEAR(std::sqrt(2.0) / 20, Previewed(page, kPropBrushScale), 1e-6) << "two families of spacing 1";
         ChooseStyle(user, Style("Vertical"));
         EXPECT_NEAR(1.0 / 20, Previewed(page, kPropBrushScale), 1e-6);
         user.Type(IDC_BRUSH_ANGLE, "90");

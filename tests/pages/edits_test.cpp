@@ -1,5 +1,5 @@
-// A user at every field of every page: types or chooses, takes it back, applies, leaves and returns. Afterwards each graphic has
-// bit for bit what it had, or what the host reads of the text.
+// A user at every field of every page: types or chooses, takes it back, applies, leaves and returns. Afterwards each
+// graphic has bit for bit what it had, or what the host reads of the text.
 
 #include <gtest/gtest.h>
 
@@ -20,8 +20,7 @@ constexpr double kInch = 25.4, kRadiansPerDegree = 0.017453292519943295;
 // What happens to a field, and how the sheet, or the pane, goes on.
 enum class Touch { None, Changed, Undone, Retyped };
 enum class Ending { Ok, Apply, ApplyTwice, LeaveAndReturn, Cancel };
-constexpr Ending kEndings[] = {Ending::Ok, Ending::Apply, Ending::ApplyTwice, Ending::LeaveAndReturn,
-                               Ending::Cancel};
+constexpr Ending kEndings[] = {Ending::Ok, Ending::Apply, Ending::ApplyTwice, Ending::LeaveAndReturn, Ending::Cancel};
 
 using Host = DrawingStruct*;
 
@@ -127,9 +126,7 @@ protected:
     }
 
     int Below(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
-    double Between(double least, double most) {
-        return std::uniform_real_distribution<double>(least, most)(random);
-    }
+    double Between(double least, double most) { return std::uniform_real_distribution<double>(least, most)(random); }
     // Fifteen digits, or few.
     std::string TypedNumber(const NumberField& field) {
         char text[40];
@@ -167,24 +164,22 @@ protected:
         const uint16_t block = ::BlocksAddBlock(blocks, "FLAG", ::GraphicNewEx(kGraphicVertices, 0, 1));
         std::vector<std::vector<double>> parts;
         for (const NumberField& field : kNumbers)
-            if (!field.property)
-                parts.push_back(Values(field.least * field.unit, field.most * field.unit, count));
+            if (!field.property) parts.push_back(Values(field.least * field.unit, field.most * field.unit, count));
         for (int i = 0; i < count; ++i) {
             const int odd = alike ? 0 : i;
-            std::map<std::string, KitValue> values = {
-                {kPropLayer, odd == 0 ? int{walls} : 0},
-                {kPropInfo, odd % 2 ? "oak" : "elm"},
-                {kPropPenColor, odd ? 255.0 : 0.0},
-                {kPropPenStyle, kLineStyleByLayer},
-                {kPropScaleSystem, kScalePaper},
-                {kPropPenAlignment, odd % 2},
-                {kPropBrushColor, odd ? 255.0 : 0.0},
-                {kPropBrushStyle, 6}, // a hatch, whatever differs
-                {kPropHatchCross, odd % 2},
-                {kPropBrushDrawMode, odd % 2},
-                {kPropTextFont, odd % 2 ? "DejaVu Serif" : "No Such Font"},
-                {kPropTextStyle, odd * 0x1143 & 0xFFFF},
-                {kPropTextFormat, odd % 3}};
+            std::map<std::string, KitValue> values = {{kPropLayer, odd == 0 ? int{walls} : 0},
+                                                      {kPropInfo, odd % 2 ? "oak" : "elm"},
+                                                      {kPropPenColor, odd ? 255.0 : 0.0},
+                                                      {kPropPenStyle, kLineStyleByLayer},
+                                                      {kPropScaleSystem, kScalePaper},
+                                                      {kPropPenAlignment, odd % 2},
+                                                      {kPropBrushColor, odd ? 255.0 : 0.0},
+                                                      {kPropBrushStyle, 6}, // a hatch, whatever differs
+                                                      {kPropHatchCross, odd % 2},
+                                                      {kPropBrushDrawMode, odd % 2},
+                                                      {kPropTextFont, odd % 2 ? "DejaVu Serif" : "No Such Font"},
+                                                      {kPropTextStyle, odd * 0x1143 & 0xFFFF},
+                                                      {kPropTextFormat, odd % 3}};
             for (const auto& [name, of] : numbers)
                 values[name] = of[static_cast<size_t>(i)];
             KitGraphic& graphic = kit->Add(std::move(values), TypeFor(page));
@@ -192,16 +187,13 @@ protected:
             InsertParts insertion{};
             size_t part = 0;
             for (const NumberField& field : kNumbers)
-                if (!field.property)
-                    (insertion.*field.group)[field.axis] = parts[part++][static_cast<size_t>(i)];
+                if (!field.property) (insertion.*field.group)[field.axis] = parts[part++][static_cast<size_t>(i)];
             ::InsertSetData(graphic.graphic, blocks, block, nullptr);
             ::InsertSetParts(graphic.graphic, &insertion);
         }
     }
     static int TypeFor(unsigned int page) {
-        return page == IDD_TEXT_PAGE     ? kGraphicText
-               : page == IDD_INSERT_PAGE ? kGraphicInsert
-                                         : kGraphicPenBrush;
+        return page == IDD_TEXT_PAGE ? kGraphicText : page == IDD_INSERT_PAGE ? kGraphicInsert : kGraphicPenBrush;
     }
 
     std::vector<double> Corners(size_t i) const {
@@ -273,8 +265,8 @@ protected:
     std::unique_ptr<HostFrame> frame;
 };
 
-// Leaves a control as it was: a list that is opened is closed by Return, or walked through and closed by Escape; in another one
-// the first item is chosen again; a button is clicked until it is as it was. False if there is no way back.
+// Leaves a control as it was: a list that is opened is closed by Return, or walked through and closed by Escape; in
+// another one the first item is chosen again; a button is clicked until it is as it was. False if there is no way back.
 bool TakeBack(SheetDriver& user, int control, int first, bool walk) {
     if (::SendMessageA(user.Control(control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
         for (int i = 0; i < 3 && user.Check(control) != first; ++i)
@@ -311,10 +303,10 @@ void Edits::GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending) {
     user.Ok();
 }
 
-// Some fields of a page are typed into, some of these are undone or typed back; some lists and buttons are used and put back.
+// Some fields of a page are typed into, some of these are undone or typed back; some lists and buttons are used and put
+// back.
 TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
-    constexpr unsigned int kPages[] = {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE,
-                                       IDD_INSERT_PAGE};
+    constexpr unsigned int kPages[] = {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE, IDD_INSERT_PAGE};
     for (int n = 0; n < static_cast<int>(std::size(kPages) * std::size(kEndings)); ++n) {
         const unsigned int id = kPages[static_cast<size_t>(n) % std::size(kPages)];
         const Ending ending = kEndings[static_cast<size_t>(n) / std::size(kPages) % std::size(kEndings)];
@@ -344,8 +336,7 @@ TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
             for (const ChoiceField& field : kChoices) {
                 const auto touch = static_cast<Touch>(Below(4));
                 if (field.page != id || touch == Touch::None) continue;
-                const bool button =
-                    ::SendMessageA(user.Control(field.control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
+                const bool button = ::SendMessageA(user.Control(field.control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
                 const int first = button ? user.Check(field.control) : user.Selection(field.control);
                 log += std::to_string(field.control) + "; ";
                 button ? user.Click(field.control) : user.Choose(field.control, first == 1 ? 0 : 1);

@@ -26,8 +26,7 @@ GraphicStruct* NewOutline(double size) {
 void SetProperty(GraphicStruct* graphic, const char* name, uint16_t value) {
     const PropertyTable* table = ::GraphicGetVtbl(graphic);
     int32_t number;
-    EXPECT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number) &&
-                table->PropSet(graphic, number, VT_UI2, &value));
+    EXPECT_TRUE(table->PropLookup(graphic, &name, 1, 0, &number) && table->PropSet(graphic, number, VT_UI2, &value));
 }
 
 } // namespace

@@ -51,9 +51,8 @@ TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
 TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     Add(walls, "a");
     Add(doors, "b");
-    ExpectEachChangesOneProperty(
-        {{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
-         {kPropLayer, [](SheetDriver& user) { user.Choose(IDC_LAYER, 1); }, int{walls}}});
+    ExpectEachChangesOneProperty({{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
+                                  {kPropLayer, [](SheetDriver& user) { user.Choose(IDC_LAYER, 1); }, int{walls}}});
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
         user.Choose(IDC_LAYER, 2);
         user.Cancel();
@@ -175,8 +174,7 @@ TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
     for (const auto& row : rows)
         EXPECT_EQ(row.code, RunOver(beam, [&](SheetDriver& user) {
                       user.Type(IDC_STYLE_NAME, row.name);
-                      row.then(
-                          user); // Tab goes back to the layer: the next control would be the Delete button
+                      row.then(user); // Tab goes back to the layer: the next control would be the Delete button
                   }));
     EXPECT_NE(::BlocksFindBlock(styles, "Column"), 0) << "deleting is the host's";
 }
@@ -207,8 +205,8 @@ TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
                   user.Focus(IDC_INFO);
                   EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Column");
 
-                  // Return is refused over a new name, a typed one of another style, and a listed one; the name stays for the
-                  // user to look at.
+                  // Return is refused over a new name, a typed one of another style, and a listed one; the name stays
+                  // for the user to look at.
                   user.Type(IDC_STYLE_NAME, "Girder");
                   ExpectRefused(user, "Girder");
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));

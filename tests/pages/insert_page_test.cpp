@@ -1,4 +1,5 @@
-// The Block Insertion page over real insertions: what it shows of equal and differing ones, what it writes, and its preview.
+// The Block Insertion page over real insertions: what it shows of equal and differing ones, what it writes, and its
+// preview.
 
 #include <gtest/gtest.h>
 
@@ -112,8 +113,8 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
 }
 
 TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
-    // Digits that no field shows, a scale beyond the limits, a collapsed axis, and a place beyond a float: each alone, then all
-    // together.
+    // Digits that no field shows, a scale beyond the limits, a collapsed axis, and a place beyond a float: each alone,
+    // then all together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
                                 {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
                                 {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
@@ -134,7 +135,8 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
     EXPECT_EQ(::DrawingEndUndo(drawing.Get()), 0);
 }
 
-// One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts it.
+// One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts
+// it.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;
@@ -257,8 +259,8 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     EXPECT_EQ(::TableEntryNext(blocks, &cookie), 0) << "no other block";
 }
 
-// The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus until
-// the value is good.
+// The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus
+// until the value is good.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
     AddDiffering();
     const Vertices before = All();

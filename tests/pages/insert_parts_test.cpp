@@ -53,7 +53,8 @@ protected:
     GraphicStruct* m_graphic = ::GraphicNewEx(kGraphicInsert, 0, 1);
 };
 
-// Whatever orthogonal axes, mirrored ones too: the same corners come back from the parts, and the same parts from these.
+// Whatever orthogonal axes, mirrored ones too: the same corners come back from the parts, and the same parts from
+// these.
 TEST_F(InsertPartsTest, RandomTransformationsComeBack) {
     std::mt19937_64 random(17);
     std::uniform_real_distribution<double> angle(-kPi, kPi), exponent(-3, 3), place(-100, 100);
@@ -88,17 +89,14 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
     const struct {
         std::array<double, 3> a, b, c;
         std::array<double, 3> scale, rotation;
-    } kRows[] = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 1}, {0, 0, 0}},
-                 {{0, 2, 0}, {-3, 0, 0}, {0, 0, 4}, {2, 3, 4}, {0, 0, kPi / 2}},
-                 {{1, 0, 0}, {0, 0, 1}, {0, -1, 0}, {1, 1, 1}, {kPi / 2, 0, 0}},
-                 {{0, 0, -1}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, 0}},
-                 {{0, 1, 0},
-                  {0, 0, 1},
-                  {1, 0, 0},
-                  {1, 1, 1},
-                  {0, kPi / 2, kPi / 2}}, // x has nothing to say: all goes to z
-                 {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}}, // the mirror lands on z
-                 {{1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {1, 1, -1}, {0, 0, 0}}};
+    } kRows[] = {
+        {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 1}, {0, 0, 0}},
+        {{0, 2, 0}, {-3, 0, 0}, {0, 0, 4}, {2, 3, 4}, {0, 0, kPi / 2}},
+        {{1, 0, 0}, {0, 0, 1}, {0, -1, 0}, {1, 1, 1}, {kPi / 2, 0, 0}},
+        {{0, 0, -1}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, 0}},
+        {{0, 1, 0}, {0, 0, 1}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, kPi / 2}}, // x has nothing to say: all goes to z
+        {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}},       // the mirror lands on z
+        {{1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {1, 1, -1}, {0, 0, 0}}};
     for (const auto& row : kRows) {
         SetAxes(row.a, row.b, row.c);
         InsertParts parts;
@@ -115,7 +113,8 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
     }
 }
 
-// Any of the axes may be without length: the others tell how it is turned, and turning it back and forth does it no harm.
+// Any of the axes may be without length: the others tell how it is turned, and turning it back and forth does it no
+// harm.
 TEST_F(InsertPartsTest, CollapsedAxesLeaveTheOthersAsTheyAre) {
     std::mt19937_64 random(23);
     std::uniform_real_distribution<double> angle(-kPi, kPi);
@@ -157,8 +156,7 @@ TEST_F(InsertPartsTest, WhatIsNoNumberIsNeverWritten) {
     InsertParts parts;
     ASSERT_TRUE(ReadInsertParts(m_graphic, parts));
     for (const double bad : {static_cast<double>(NAN), HUGE_VAL, -HUGE_VAL})
-        for (double(InsertParts::*group)[3] :
-             {&InsertParts::position, &InsertParts::scale, &InsertParts::rotation})
+        for (double(InsertParts::*group)[3] : {&InsertParts::position, &InsertParts::scale, &InsertParts::rotation})
             for (int k = 0; k < 3; ++k) {
                 InsertParts to = parts;
                 (to.*group)[k] = bad;

@@ -19,8 +19,7 @@ constexpr char kLetters[] = "0123456789.,-+eEmxi*'\" \t\xFF";
 
 class Monkey {
 public:
-    Monkey(SheetDriver& user, CGraphicPropertySheet& sheet)
-        : m_user(user), m_sheet(sheet), m_random(20261124) {}
+    Monkey(SheetDriver& user, CGraphicPropertySheet& sheet) : m_user(user), m_sheet(sheet), m_random(20261124) {}
 
     // True if it has tried to leave the page.
     bool Act() {
@@ -33,8 +32,7 @@ public:
             break;
         case 3:
         case 4:
-            ::PostMessageA(::GetFocus(), WM_CHAR,
-                           static_cast<unsigned char>(kLetters[Below(sizeof kLetters - 1)]), 1);
+            ::PostMessageA(::GetFocus(), WM_CHAR, static_cast<unsigned char>(kLetters[Below(sizeof kLetters - 1)]), 1);
             break;
         case 5:
             Notify();
@@ -58,8 +56,7 @@ public:
             break;
         }
         m_user.Pump();
-        if (!::IsChild(m_user.Page(), ::GetFocus()))
-            ::SetFocus(RandomChild()); // not on OK, where a key ends it all
+        if (!::IsChild(m_user.Page(), ::GetFocus())) ::SetFocus(RandomChild()); // not on OK, where a key ends it all
         return leaves;
     }
 
@@ -73,9 +70,7 @@ private:
         return child != nullptr ? child : m_user.Page();
     }
 
-    void Move() {
-        ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    }
+    void Move() { ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER); }
 
     // A notification out of the blue, of any control that can be used and any code.
     void Notify() {

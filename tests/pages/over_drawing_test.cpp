@@ -30,9 +30,8 @@ using Values = std::map<std::string, std::string>; // by property
 Values ValuesOf(GraphicStruct* graphic) {
     Values values;
     const PropertyTable* table = ::GraphicGetVtbl(graphic);
-    for (const char* name :
-         {kPropLayer, kPropPenColor, kPropPenWidth, kPropPenScale, kPropPenStyle, kPropScaleSystem,
-          kPropPenAlignment, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat}) {
+    for (const char* name : {kPropLayer, kPropPenColor, kPropPenWidth, kPropPenScale, kPropPenStyle, kPropScaleSystem,
+                             kPropPenAlignment, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat}) {
         int32_t number;
         if (table == nullptr || !table->PropLookup(graphic, &name, 1, 0, &number)) continue;
         double real = 0;
@@ -130,8 +129,7 @@ TEST_F(OverDrawing, PensOfARoof) {
             user.Choose(IDC_SCALE_SYSTEM, row.system);
             user.Choose(IDC_COLOR, 3);
             user.Type(IDC_PEN_WIDTH, row.width);
-            changed[kPropPenColor] =
-                std::to_string(std::stoul(user.ItemText(IDC_COLOR, 3).substr(0, 8), nullptr, 16));
+            changed[kPropPenColor] = std::to_string(std::stoul(user.ItemText(IDC_COLOR, 3).substr(0, 8), nullptr, 16));
         });
     }
 }

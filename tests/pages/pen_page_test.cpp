@@ -1,4 +1,5 @@
-// The Pen page in a real sheet: what it shows of equal and differing pens, what it writes, and what its preview follows.
+// The Pen page in a real sheet: what it shows of equal and differing pens, what it writes, and what its preview
+// follows.
 
 #include "pages/page_over_kit.h"
 
@@ -65,8 +66,7 @@ TEST_F(PenPage, ShowsAnEqualPen) {
 TEST_F(PenPage, DifferingPensShowTheirMarkersAndSurviveOk) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(ShownPen(user),
-                  (std::vector<std::string>{"*****", "Indeterminate", "Indeterminate", "", "2"}));
+        EXPECT_EQ(ShownPen(user), (std::vector<std::string>{"*****", "Indeterminate", "Indeterminate", "", "2"}));
         for (const int id : {IDC_LINE_STYLE_LIST, IDC_SCALE_SYSTEM, IDC_COLOR})
             EXPECT_EQ(user.Selection(id), -1) << id;
     });

@@ -1,5 +1,5 @@
-// The Text page in a real sheet: what it shows of equal and differing texts, what one edit writes and leaves alone, the list of
-// heights of a font, and the preview.
+// The Text page in a real sheet: what it shows of equal and differing texts, what one edit writes and leaves alone, the
+// list of heights of a font, and the preview.
 
 #include "pages/page_over_kit.h"
 
@@ -36,8 +36,8 @@ protected:
         return static_cast<int>(::SendMessageA(user.Control(combo), CB_GETCOUNT, 0, 0));
     }
     static void ChooseFont(SheetDriver& user, const char* face) {
-        const auto index = ::SendMessageA(user.Control(IDC_FONT_FACE), CB_FINDSTRINGEXACT,
-                                          static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(face));
+        const auto index = ::SendMessageA(user.Control(IDC_FONT_FACE), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                          reinterpret_cast<LPARAM>(face));
         ASSERT_LE(0, index);
         user.Choose(IDC_FONT_FACE, static_cast<int>(index));
     }
@@ -47,10 +47,9 @@ TEST_F(TextPage, ShowsEqualTexts) {
     for (int i = 0; i < 2; ++i)
         Add(kSerif, 4.25, 0x1146, kBlue, 1);
     RunOk([&](SheetDriver& user) {
-        EXPECT_EQ(
-            Shown(user, {IDC_FONT_FACE, IDC_FONT_STYLE, IDC_TEXT_COLOR, IDC_STRIKETHROUGH, IDC_HIDDEN,
-                         IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER}),
-            (std::vector<std::string>{kSerif, "Bold", "00FF0000", "1", "0", "1", "1", "1", "0", "1"}));
+        EXPECT_EQ(Shown(user, {IDC_FONT_FACE, IDC_FONT_STYLE, IDC_TEXT_COLOR, IDC_STRIKETHROUGH, IDC_HIDDEN,
+                               IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER}),
+                  (std::vector<std::string>{kSerif, "Bold", "00FF0000", "1", "0", "1", "1", "1", "0", "1"}));
         EXPECT_EQ(user.Text(IDC_FONT_SIZE).find("4.25"), 0u) << user.Text(IDC_FONT_SIZE);
         EXPECT_LE(0, user.Selection(IDC_FONT_SIZE)) << "a height in no list has joined it";
     });
@@ -65,14 +64,15 @@ TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
         user.Focus(IDC_FONT_FACE);
         for (int i = 0; i < 14; ++i)
             user.Key(VK_TAB); // round the sheet; passing by is not a choice
-        EXPECT_EQ(Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE,
-                               IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}),
+        EXPECT_EQ(Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX,
+                               IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}),
                   (std::vector<std::string>{"", "2", "0", "2", "2", "0", "0", "0", "0"}));
     });
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-// Of two texts whose styles differ in every bit, one effect after the other is set; all other bits stay each text's own.
+// Of two texts whose styles differ in every bit, one effect after the other is set; all other bits stay each text's
+// own.
 TEST_F(TextPage, AnEffectChangesItsBitAlone) {
     KitGraphic& a = Add(kSans, 2, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 2, 0, kRed, 0);
@@ -164,8 +164,8 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     }
 }
 
-// A text that is not a height, one that is longer than the field, and a field that is blank because a space without lengths
-// has no texts for heights.
+// A text that is not a height, one that is longer than the field, and a field that is blank because a space without
+// lengths has no texts for heights.
 TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
     const struct {
         int space;
@@ -257,11 +257,10 @@ TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
             for (int i = 0; i < Count(user, IDC_FONT_SIZE); ++i)
                 heights.push_back(user.ItemText(IDC_FONT_SIZE, i));
             for (const char* number : {"2,5", "3,5", "5"})
-                EXPECT_EQ(std::count_if(heights.begin(), heights.end(),
-                                        [&](const std::string& item) {
-                                            return item.substr(0, item.find(' ')) == number;
-                                        }),
-                          1)
+                EXPECT_EQ(
+                    std::count_if(heights.begin(), heights.end(),
+                                  [&](const std::string& item) { return item.substr(0, item.find(' ')) == number; }),
+                    1)
                     << space << " " << number;
         });
     }

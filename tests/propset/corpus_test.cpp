@@ -1,5 +1,5 @@
-// Streams of real documents, and damaged ones: what is written again is read back equal, and what is wrong is found. That
-// their values are those of independent readers, tests/suminfo asks the program that prints them.
+// Streams of real documents, and damaged ones: what is written again is read back equal, and what is wrong is found.
+// That their values are those of independent readers, tests/suminfo asks the program that prints them.
 
 #include <gtest/gtest.h>
 
@@ -41,8 +41,7 @@ json Essence(const SetImage& image) {
         json properties = json::array();
         for (const ImageProperty& property : section.properties)
             if (property.state != ValueState::partial)
-                properties.push_back(
-                    {property.id, property.type, property.bytes, static_cast<int>(property.state)});
+                properties.push_back({property.id, property.type, property.bytes, static_cast<int>(property.state)});
         sections.push_back({{"format", orlo::GuidText(section.formatId)},
                             {"codePage", section.codePage ? json(*section.codePage) : json()},
                             {"dictionary", DictionaryOf(section)},
@@ -111,8 +110,7 @@ TEST_P(Corpus, GivesTheClassesTheSameBytes) {
                 << property.id;
         }
         for (const auto& entry : section.dictionary.value_or(std::vector<orlo::DictionaryEntry>()))
-            if (entry.id != 0 &&
-                std::all_of(entry.name.begin(), entry.name.end(), [](char c) { return c > 0; })) {
+            if (entry.id != 0 && std::all_of(entry.name.begin(), entry.name.end(), [](char c) { return c > 0; })) {
                 DWORD id = 0;
                 EXPECT_TRUE(read->GetID(entry.name.c_str(), &id)) << entry.name;
                 EXPECT_EQ(id, entry.id);
@@ -128,14 +126,12 @@ TEST_P(Corpus, GivesTheClassesTheSameBytes) {
     EXPECT_EQ(twice.Content(), out.Content());
 }
 
-// A million entries of a table, or of the list of sections, that all lead to one place: work in proportion to the stream
-// ends at once, and one that grows with its square not before the test's time is over.
+// A million entries of a table, or of the list of sections, that all lead to one place: work in proportion to the
+// stream ends at once, and one that grows with its square not before the test's time is over.
 TEST(HostileImage, OfManyEntriesForOnePlace) {
     constexpr uint32_t kMany = 1000000;
     constexpr size_t kEntry = 8, kListEntry = 20, kHeader = 28;
-    const auto put = [](orlo::Bytes& bytes, size_t at, uint32_t number) {
-        std::memcpy(&bytes[at], &number, 4);
-    };
+    const auto put = [](orlo::Bytes& bytes, size_t at, uint32_t number) { std::memcpy(&bytes[at], &number, 4); };
     const auto header = [&](size_t size, uint32_t sections) {
         orlo::Bytes bytes(size);
         put(bytes, 0, 0xFFFE);

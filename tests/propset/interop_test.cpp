@@ -24,13 +24,11 @@ constexpr DWORD kExclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 
 struct Document {
     explicit Document(const wchar_t* path, bool isNew) {
-        const HRESULT result =
-            isNew ? ::StgCreateDocfile(path, kExclusive | STGM_CREATE, 0, Receive(storage))
-                  : ::StgOpenStorage(path, nullptr, kExclusive, nullptr, 0, Receive(storage));
+        const HRESULT result = isNew ? ::StgCreateDocfile(path, kExclusive | STGM_CREATE, 0, Receive(storage))
+                                     : ::StgOpenStorage(path, nullptr, kExclusive, nullptr, 0, Receive(storage));
         EXPECT_EQ(result, S_OK);
-        EXPECT_EQ(storage->QueryInterface(
-                      IID_IPropertySetStorage,
-                      reinterpret_cast<void**>(static_cast<IPropertySetStorage**>(Receive(sets)))),
+        EXPECT_EQ(storage->QueryInterface(IID_IPropertySetStorage,
+                                          reinterpret_cast<void**>(static_cast<IPropertySetStorage**>(Receive(sets)))),
                   S_OK);
     }
     Owned<IStorage> storage;
@@ -117,9 +115,8 @@ TEST_F(Interop, TheSystemReadsWhatWeWrite) {
     {
         Document document(path.c_str(), true);
         Owned<IStream> stream;
-        ASSERT_EQ(
-            document.storage->CreateStream(kSummaryStream, kExclusive | STGM_CREATE, 0, 0, Receive(stream)),
-            S_OK);
+        ASSERT_EQ(document.storage->CreateStream(kSummaryStream, kExclusive | STGM_CREATE, 0, 0, Receive(stream)),
+                  S_OK);
         CPropertySet set;
         CPropertySection* section = set.AddSection(kSummary);
         short codePage = 1252;
@@ -159,8 +156,7 @@ TEST_F(Interop, WeReadWhatTheSystemWrites) {
         {
             Document document(path.c_str(), true);
             Owned<IPropertyStorage> properties;
-            ASSERT_EQ(document.sets->Create(kSummary, nullptr, flags, kExclusive | STGM_CREATE,
-                                            Receive(properties)),
+            ASSERT_EQ(document.sets->Create(kSummary, nullptr, flags, kExclusive | STGM_CREATE, Receive(properties)),
                       S_OK);
             for (const auto& [id, row] : rows_) {
                 if (row.type == VT_LPSTR && !isAnsi) continue; // the system itself cuts it
@@ -177,9 +173,9 @@ TEST_F(Interop, WeReadWhatTheSystemWrites) {
         }
         Document document(path.c_str(), false);
         Owned<IStream> stream;
-        ASSERT_EQ(document.storage->OpenStream(kSummaryStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
-                                               Receive(stream)),
-                  S_OK);
+        ASSERT_EQ(
+            document.storage->OpenStream(kSummaryStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, Receive(stream)),
+            S_OK);
         CPropertySet set;
         ASSERT_EQ(set.ReadFromStream(stream.get()), 1);
         for (const auto& [id, row] : rows_) {

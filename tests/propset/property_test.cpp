@@ -42,8 +42,7 @@ const Row kRows[] = {
     {"Date", VT_DATE, "00000000a0d5e140"_hex, "00000000a0d5e140"_hex, 0, 8},
     {"I8", VT_I8, "0102030405060708"_hex, "0102030405060708"_hex, 0, 8},
     {"FileTime", VT_FILETIME, "0102030405060708"_hex, "0102030405060708"_hex, 0, 8},
-    {"ClassId", VT_CLSID, "000102030405060708090a0b0c0d0e0f"_hex, "000102030405060708090a0b0c0d0e0f"_hex, 0,
-     16},
+    {"ClassId", VT_CLSID, "000102030405060708090a0b0c0d0e0f"_hex, "000102030405060708090a0b0c0d0e0f"_hex, 0, 16},
     {"Text", VT_LPSTR, "616200"_hex, "03000000616200"_hex, 4, 3},
     {"EmptyText", VT_LPSTR, "00"_hex, "0100000000"_hex, 4, 1},
     {"BasicText", VT_BSTR, "616263646500"_hex, "06000000616263646500"_hex, 4, 6},
@@ -65,8 +64,8 @@ const Row kRows[] = {
      "02000000 020000006100 03000000626300"_hex, 0, 0},
     {"VectorOfWideTexts", VT_VECTOR | VT_LPWSTR, "02000000 0200000061000000 010000000000"_hex,
      "02000000 0200000061000000 010000000000"_hex, 0, 0},
-    {"VectorOfBlobs", VT_VECTOR | VT_BLOB, "02000000 0100000009 00000000"_hex,
-     "02000000 0100000009 00000000"_hex, 0, 0},
+    {"VectorOfBlobs", VT_VECTOR | VT_BLOB, "02000000 0100000009 00000000"_hex, "02000000 0100000009 00000000"_hex, 0,
+     0},
     {"VectorOfNothing", VT_VECTOR | VT_LPSTR, "00000000"_hex, "00000000"_hex, 0, 0},
     {"VectorOfEmpties", VT_VECTOR | VT_EMPTY, "ffffffff"_hex, "ffffffff"_hex, 0, 0},
 };
@@ -228,8 +227,8 @@ TEST(Property, WithoutAValueIsWrittenAsAnEmptyOneOfItsType) {
 TEST(Property, RefusesTypesWithoutAForm) {
     int number = 1;
     for (DWORD type = 0; type < 100; ++type) {
-        const bool hasForm = type <= 8 || type == 11 || (type >= 18 && type <= 20) || type == 30 ||
-                             type == 31 || (type >= 64 && type <= 75);
+        const bool hasForm = type <= 8 || type == 11 || (type >= 18 && type <= 20) || type == 30 || type == 31 ||
+                             (type >= 64 && type <= 75);
         if (hasForm && type != 1) continue;
         char text[] = "text";
         CProperty property(1, text, VT_LPSTR);

@@ -67,8 +67,7 @@ const ItemRow kItems[] = {
     {"Text", [](CRCFile& rc) { rc.WriteCString("ab", 3); }, R"("ab\0")"},
     {"TextWithoutItsNul", [](CRCFile& rc) { rc.WriteCString("ab", 2); }, R"("ab")"},
     {"TextEndsAtItsNul", [](CRCFile& rc) { rc.WriteCString("a\0b", 4); }, R"("a\0")"},
-    {"WholeText", [](CRCFile& rc) { rc.PrintWholeTexts(), rc.WriteCString("a\0b\0", 5); },
-     R"("a\0", "b\0", "\0")"},
+    {"WholeText", [](CRCFile& rc) { rc.PrintWholeTexts(), rc.WriteCString("a\0b\0", 5); }, R"("a\0", "b\0", "\0")"},
     {"NoText", [](CRCFile& rc) { rc.WriteCString("ab", 0); }, R"("")"},
     {"Escapes", [](CRCFile& rc) { rc.WriteCString("\"\\\x1f\t\r\n\b\x7f\xe9", 10); },
      "\"\"\"\\\\\\x1F\\x09\\x0D\\x0A\\x08\x7f\xe9\\0\""},
@@ -128,8 +127,7 @@ std::vector<Bytes> Resources(const std::string& path) {
         uint32_t sizes[2]; // of the data and of the head
         std::memcpy(sizes, &all[at], sizeof sizes);
         const auto begin = all.begin() + static_cast<ptrdiff_t>(at + sizes[1]);
-        if (at > 0)
-            resources.emplace_back(begin, begin + static_cast<ptrdiff_t>(sizes[0])); // the first is a mark
+        if (at > 0) resources.emplace_back(begin, begin + static_cast<ptrdiff_t>(sizes[0])); // the first is a mark
         at += (size_t{sizes[1]} + sizes[0] + 3) / 4 * 4;
     }
     return resources;
@@ -138,8 +136,7 @@ std::vector<Bytes> Resources(const std::string& path) {
 class CompiledScript : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (std::system("x86_64-w64-mingw32-windres --version >/dev/null 2>&1") != 0)
-            GTEST_SKIP() << "no windres";
+        if (std::system("x86_64-w64-mingw32-windres --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "no windres";
     }
 
     // One resource for each of the writers.
@@ -208,9 +205,8 @@ TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
         MemoryStream stream;
         ASSERT_EQ(property->WriteToStream(&stream), 1);
         images.push_back(stream.Content());
-        writers.push_back([property, size = stream.Content().size()](CRCFile& rc) {
-            EXPECT_EQ(property->WriteToRC(&rc), size);
-        });
+        writers.push_back(
+            [property, size = stream.Content().size()](CRCFile& rc) { EXPECT_EQ(property->WriteToRC(&rc), size); });
     }
     const std::vector<Bytes> resources = Compile(writers);
     ASSERT_EQ(resources.size(), rows.size());

@@ -21,7 +21,8 @@ orlo::SetImage Read(const Bytes& bytes) {
     return *orlo::ReadSetImage(bytes.data(), bytes.size(), findings);
 }
 
-// A user-defined section with the name "Client" that is not text of its code page, and a type with something in its high half.
+// A user-defined section with the name "Client" that is not text of its code page, and a type with something in its
+// high half.
 Bytes OddSet() {
     orlo::SetImage set;
     orlo::ImageSection& section = SectionFor(set, orlo::kUserDefinedFormat, 65001);

@@ -45,9 +45,8 @@ TEST(Section, NameWithoutPropertiesHasItsSlot) {
     EXPECT_EQ(Written(section), Bytes(8)) << "nothing at all";
     section.SetName(2, "a");
     section.SetSectionName("Sheet");
-    EXPECT_EQ(Written(section),
-              "2c000000 01000000 00000000 10000000 02000000 00000000 06000000 536865657400 02000000"
-              "02000000 6100"_hex);
+    EXPECT_EQ(Written(section), "2c000000 01000000 00000000 10000000 02000000 00000000 06000000 536865657400 02000000"
+                                "02000000 6100"_hex);
 }
 
 TEST(Section, SetWithoutATypeNeedsAPropertyThatHasOne) {
@@ -113,8 +112,7 @@ TEST(Section, LongNamesAreCutOnTheStream) {
 
 TEST(Section, DictionaryThatCannotBeReadKeepsWhatCameBefore) {
     const Bytes good = "03000000 02000000 02000000 6100"_hex;
-    for (const Bytes& bad :
-         {"03000000 01010000"_hex + Bytes(257), "03000000 ffffffff"_hex, "0300"_hex, Bytes()}) {
+    for (const Bytes& bad : {"03000000 01010000"_hex + Bytes(257), "03000000 ffffffff"_hex, "0300"_hex, Bytes()}) {
         MemoryStream stream(good + bad);
         CPropertySection section;
         EXPECT_EQ(section.ReadNameDictFromStream(&stream), 0);
@@ -350,8 +348,7 @@ TEST(Set, OverlaidStreamsEndSoon) {
         sections = std::move(sections) + kFormatBytes + LittleEndian(28 + 3000 * 20);
     sections = std::move(sections) + LittleEndian(0) + LittleEndian(100000) + Bytes(60000);
 
-    Bytes values =
-        header + LittleEndian(1) + kFormatBytes + LittleEndian(48) + LittleEndian(0) + LittleEndian(8000);
+    Bytes values = header + LittleEndian(1) + kFormatBytes + LittleEndian(48) + LittleEndian(0) + LittleEndian(8000);
     for (uint32_t i = 0; i < 8000; ++i)
         values = std::move(values) + LittleEndian(i % 2 == 0 ? 0 : 7) + LittleEndian(8 + 64000);
     values = std::move(values) + LittleEndian(VT_VECTOR | VT_LPSTR) + LittleEndian(30000) + Bytes(120000);

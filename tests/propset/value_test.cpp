@@ -108,16 +108,14 @@ const Row kRows[] = {
     {"Blob", VT_BLOB, 1252, "03000000 616263"_hex, "616263"},
     {"Decimal", VT_DECIMAL, 1252, "000102030405060708090a0b0c0d0e0f"_hex, "000102030405060708090a0b0c0d0e0f"},
     {"Clipboard", VT_CF, 1252, "0a000000 ffffffff 03000000 6162"_hex, json::array({-1, 3, "6162"})},
-    {"ClassId", VT_CLSID, 1252, "e0859ff2f94f6810ab9108002b27b3d9"_hex,
-     "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"},
+    {"ClassId", VT_CLSID, 1252, "e0859ff2f94f6810ab9108002b27b3d9"_hex, "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"},
     {"VectorOfI2", VT_VECTOR | VT_I2, 1252, "02000000 01000200"_hex, {1, 2}},
     {"VectorOfTexts", VT_VECTOR | VT_LPSTR, 1252, "02000000 020000006100 03000000626300"_hex, {"a", "bc"}},
     {"VectorOfVariants", VT_VECTOR | VT_VARIANT, 1252, "02000000 1e000000 020000006100 03000000 07000000"_hex,
      kVariants},
     {"VectorOfNothing", VT_VECTOR | VT_R8, 1252, "00000000"_hex, json::array()},
 };
-INSTANTIATE_TEST_SUITE_P(Types, ValueForm, ::testing::ValuesIn(kRows),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Types, ValueForm, ::testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
 TEST(Value, ReadsWhatItWouldNotWrite) {
     const struct {
@@ -133,15 +131,12 @@ TEST(Value, ReadsWhatItWouldNotWrite) {
         {VT_LPWSTR, "00000000"_hex, ""},
         {VT_CF, "04000000 00000000"_hex, json::array({0, 0, ""})},
         // Elements padded to four bytes each, as few writers do.
-        {VT_VECTOR | VT_LPSTR,
-         "03000000 0200000061000000 0300000062630000 020000006400"_hex,
-         {"a", "bc", "d"}},
+        {VT_VECTOR | VT_LPSTR, "03000000 0200000061000000 0300000062630000 020000006400"_hex, {"a", "bc", "d"}},
         {VT_VECTOR | VT_VARIANT, "02000000 1e000000 0200000061000000 03000000 07000000"_hex, kVariants},
     };
     for (const auto& row : rows) {
         orlo::Value value;
-        ASSERT_TRUE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), 1252, value))
-            << row.meaning;
+        ASSERT_TRUE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), 1252, value)) << row.meaning;
         EXPECT_EQ(ToJson(value), row.meaning);
     }
 }
@@ -168,8 +163,7 @@ TEST(Value, RefusesWhatHasNoMeaning) {
     for (const auto& row : rows) {
         orlo::Value value;
         value.type = 77;
-        EXPECT_FALSE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value))
-            << row.type;
+        EXPECT_FALSE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value)) << row.type;
         EXPECT_EQ(value.type, 77u) << "left alone";
     }
 }

@@ -2,5 +2,5 @@
 # Every source is as clang-format writes it by the file in the root: check_format.sh ROOT
 set -euo pipefail
 cd "$1"
-find adapter afx bench demo docs drawcore fuzz native orlo packaging skeleton tests tools \( -name '*.c' -o -name '*.cpp' -o -name '*.h' \) -print0 |
+find adapter afx bench demo docs drawcore files fuzz native orlo packaging skeleton tests tools \( -name '*.c' -o -name '*.cpp' -o -name '*.h' \) -print0 |
     xargs -0 clang-format-14 --dry-run --Werror

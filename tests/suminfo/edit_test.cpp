@@ -22,8 +22,7 @@ constexpr const char* kCustomFormat = "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";
 // A document as suminfo shows it.
 class Content {
 public:
-    explicit Content(const fs::path& file)
-        : Content(Json::parse(RunSuminfo({"show", "--json", file.string()}).out)) {}
+    explicit Content(const fs::path& file) : Content(Json::parse(RunSuminfo({"show", "--json", file.string()}).out)) {}
     explicit Content(Json file) : file_(std::move(file)) {}
 
     // Null if there isn't one, whichever section it may be in.
@@ -76,8 +75,8 @@ protected:
 
 TEST_F(Edit, FieldsOfEveryKind) {
     const fs::path file = Document("test11--695187.doc");
-    ExpectDone({"set", file.string(), "title=Plan B", "PAGES=12", "saved=2001-02-03T04:05:06Z",
-                "edit-time=1:02:03", "company=ACME \"Ltd\"", "scale=yes", "comments=two\nlines"});
+    ExpectDone({"set", file.string(), "title=Plan B", "PAGES=12", "saved=2001-02-03T04:05:06Z", "edit-time=1:02:03",
+                "company=ACME \"Ltd\"", "scale=yes", "comments=two\nlines"});
     const Content content(file);
     EXPECT_EQ(content["title"], "Plan B");
     EXPECT_EQ(content["pages"], 12);
@@ -93,16 +92,15 @@ TEST_F(Edit, CustomPropertiesOfEveryType) {
     const struct {
         const char *name, *typed;
         Json value;
-    } rows[] = {
-        {"Client", "text:ACME", "ACME"},
-        {"Wide", "wide:Ωmega", "Ωmega"},
-        {"Sheets", "int:-12", -12},
-        {"Scale", "number:0.1", 0.1},
-        {"Done", "bool:no", false},
-        {"Due", "date:2001-02-03", "126256320000000000"},
-        {"Price", "money:12.5", "125000"},
-        {"Long", "long:-9223372036854775808", "-9223372036854775808"},
-        {"Id", "guid:F29F85E0-4FF9-1068-AB91-08002B27B3D9", "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"}};
+    } rows[] = {{"Client", "text:ACME", "ACME"},
+                {"Wide", "wide:Ωmega", "Ωmega"},
+                {"Sheets", "int:-12", -12},
+                {"Scale", "number:0.1", 0.1},
+                {"Done", "bool:no", false},
+                {"Due", "date:2001-02-03", "126256320000000000"},
+                {"Price", "money:12.5", "125000"},
+                {"Long", "long:-9223372036854775808", "-9223372036854775808"},
+                {"Id", "guid:F29F85E0-4FF9-1068-AB91-08002B27B3D9", "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}"}};
     std::vector<std::string> line = {"set", file.string()};
     for (const auto& row : rows)
         line.insert(line.end(), {"--custom", std::string(row.name) + "=" + row.typed});
@@ -111,8 +109,7 @@ TEST_F(Edit, CustomPropertiesOfEveryType) {
     for (const auto& row : rows)
         EXPECT_EQ(made[row.name], row.value) << row.name;
     // The same, whatever the case; and a field may follow.
-    ExpectDone(
-        {"set", "--custom", "client=text:Other", file.string(), "--custom", "Sheets=int:3", "pages=7"});
+    ExpectDone({"set", "--custom", "client=text:Other", file.string(), "--custom", "Sheets=int:3", "pages=7"});
     const Content changed(file);
     EXPECT_EQ(changed["Client"], "Other");
     EXPECT_EQ(changed["pages"], 7);
@@ -236,10 +233,10 @@ TEST_F(Edit, OtherStreamsKeepEveryByte) {
         EXPECT_EQ(Content(file)["New"], 1);
         for (auto* streams : {&before, &after})
             for (auto at = streams->begin(); at != streams->end();)
-                at = ::_stricmp(at->first.c_str(), kSummary) == 0 ||
-                             ::_stricmp(at->first.c_str(), kDocumentSummary) == 0
-                         ? streams->erase(at)
-                         : std::next(at);
+                at =
+                    ::_stricmp(at->first.c_str(), kSummary) == 0 || ::_stricmp(at->first.c_str(), kDocumentSummary) == 0
+                        ? streams->erase(at)
+                        : std::next(at);
         EXPECT_EQ(before, after);
     }
 }
@@ -293,8 +290,7 @@ TEST_F(Edit, WhatIsRefusedChangesNothing) {
 }
 
 TEST_F(Edit, DamagedDocumentsAreLeftAlone) {
-    for (const char* name :
-         {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", "loop-in-alloc--d3743f.bin"}) {
+    for (const char* name : {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", "loop-in-alloc--d3743f.bin"}) {
         const fs::path file = Document(name);
         const std::vector<unsigned char> before = FileBytes(file);
         ExpectRefused({"set", file.string(), "title=New"}, "is damaged");
@@ -314,8 +310,7 @@ TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
                       "test11--695187.doc: the file cannot be opened: another program has it open");
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
         EXPECT_EQ(copy.exitCode, 1);
-        EXPECT_EQ(copy.err,
-                  "suminfo: " + file.string() + ": the file cannot be opened: another program has it open\n");
+        EXPECT_EQ(copy.err, "suminfo: " + file.string() + ": the file cannot be opened: another program has it open\n");
         EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0) << "reading goes on";
     }
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
@@ -343,12 +338,10 @@ TEST_F(Edit, CopyGivesBothSummaries) {
     for (const char* name : {kSummary, kDocumentSummary})
         expected[name] = source[name];
     EXPECT_EQ(StreamsOf(to), expected);
-    ExpectRefused({"copy", Document("sent--da96eb.msg").string(), to.string()},
-                  "sent--da96eb.msg: it has no summary");
+    ExpectRefused({"copy", Document("sent--da96eb.msg").string(), to.string()}, "sent--da96eb.msg: it has no summary");
     // Its summary's name is misspelt.
-    ExpectRefused(
-        {"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
-        "it has no summary");
+    ExpectRefused({"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
+                  "it has no summary");
     EXPECT_EQ(StreamsOf(to), expected);
 }
 

@@ -20,11 +20,12 @@ public:
         std::wstring line = CommandLineOf(arguments);
         STARTUPINFOW start = {};
         start.cb = sizeof start;
-        // While the program that was killed before is still being cleared away, the system may fail to start another one.
+        // While the program that was killed before is still being cleared away, the system may fail to start another
+        // one.
         for (int attempt = 0; !started_ && attempt < 10; ++attempt) {
             if (attempt > 0) ::Sleep(300);
-            started_ = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE,
-                                        DEBUG_ONLY_THIS_PROCESS, nullptr, nullptr, &start, &process_);
+            started_ = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, DEBUG_ONLY_THIS_PROCESS, nullptr,
+                                        nullptr, &start, &process_);
         }
         EXPECT_TRUE(started_) << ::GetLastError();
     }

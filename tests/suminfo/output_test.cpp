@@ -59,10 +59,8 @@ TEST(ResourceScript, HoldsTheSections) {
         const char* text;
     } rows[] = {
         {"npoiBug5010-xls--SummaryInformation--a7c52a.bin", "\n1 RCDATA\nBEGIN\n    0x"},
-        {"npoiBug5010-xls--SummaryInformation--a7c52a.bin",
-         "0x0008, 0x0000, \"czmiel\\0\", \"\\0\",\n"}, // padded
-        {"testsolidworksPart2013SP2-SLDPRT--Config-0-Properties--41c3b7.bin",
-         "\nEND\n\n2 RCDATA\nBEGIN\n    0x"},
+        {"npoiBug5010-xls--SummaryInformation--a7c52a.bin", "0x0008, 0x0000, \"czmiel\\0\", \"\\0\",\n"}, // padded
+        {"testsolidworksPart2013SP2-SLDPRT--Config-0-Properties--41c3b7.bin", "\nEND\n\n2 RCDATA\nBEGIN\n    0x"},
         {"testsolidworksPart2013SP2-SLDPRT--ISolidWorksInformation--c67c02.bin",
          "SW-Author(Author)\\0"}, // a second name
     };
@@ -78,8 +76,7 @@ TEST(ResourceScript, HoldsTheSections) {
 TEST(ResourceScript, LeavesNoFileWhereItFails) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
-    const std::string stream =
-        (kStreams / "Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin").string();
+    const std::string stream = (kStreams / "Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin").string();
     const Outcome empty = RunSuminfo({"rc", "--stream", stream, script.string()});
     EXPECT_EQ(empty.exitCode, 1);
     EXPECT_EQ(empty.err, "suminfo: " + stream + ": it has no sections\n");
@@ -91,13 +88,12 @@ TEST(ResourceScript, LeavesNoFileWhereItFails) {
 }
 
 TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
-    const Outcome fine = RunSuminfo(
-        {"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
+    const Outcome fine =
+        RunSuminfo({"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
     EXPECT_EQ(fine.exitCode, 0) << fine.out;
-    EXPECT_EQ(fine.out.rfind(
-                  "input-bw-one-band--340370.fpx: nothing irregular\nsent--da96eb.msg: no property sets\n"
-                  "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 bytes behind",
-                  0),
+    EXPECT_EQ(fine.out.rfind("input-bw-one-band--340370.fpx: nothing irregular\nsent--da96eb.msg: no property sets\n"
+                             "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 bytes behind",
+                             0),
               0u)
         << fine.out;
     const Outcome odd = RunSuminfo({"check", "-r", "."}, kDocuments);
@@ -113,11 +109,9 @@ TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
 
 TEST(Check, BareStreams) {
     const Outcome run = RunSuminfo(
-        {"check", "--stream", "fn-et--SummaryInformation--b68908.bin", "mut-44-byte-order--b060d6.bin"},
-        kStreams);
+        {"check", "--stream", "fn-et--SummaryInformation--b68908.bin", "mut-44-byte-order--b060d6.bin"}, kStreams);
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_NE(run.out.find("mut-44-byte-order--b060d6.bin: 0x000000: damaged 101: byte order mark"),
-              std::string::npos)
+    EXPECT_NE(run.out.find("mut-44-byte-order--b060d6.bin: 0x000000: damaged 101: byte order mark"), std::string::npos)
         << run.out;
 }
 

@@ -58,8 +58,7 @@ std::wstring CommandLineOf(const std::vector<std::string>& arguments) {
     return line;
 }
 
-Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder,
-                   const std::string& input) {
+Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& folder, const std::string& input) {
     const Folder outputs;
     const fs::path in = outputs.Path() / "in", out = outputs.Path() / "out", err = outputs.Path() / "err";
     std::ofstream(in, std::ios::binary) << input;
@@ -71,8 +70,8 @@ Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& fo
     start.hStdOutput = Inherited(out, GENERIC_WRITE, CREATE_ALWAYS);
     start.hStdError = Inherited(err, GENERIC_WRITE, CREATE_ALWAYS);
     PROCESS_INFORMATION process = {};
-    const BOOL started = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                          folder.c_str(), &start, &process);
+    const BOOL started =
+        ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, folder.c_str(), &start, &process);
     ::CloseHandle(start.hStdInput);
     ::CloseHandle(start.hStdOutput);
     ::CloseHandle(start.hStdError);
@@ -104,8 +103,7 @@ std::map<std::string, Json> ByFile(const std::string& lines) {
 
 Folder::Folder() {
     static int count = 0;
-    const std::string name =
-        "suminfo-test-" + std::to_string(::GetCurrentProcessId()) + "-" + std::to_string(++count);
+    const std::string name = "suminfo-test-" + std::to_string(::GetCurrentProcessId()) + "-" + std::to_string(++count);
     path_ = fs::temp_directory_path() / name;
     fs::create_directories(path_);
 }

@@ -103,8 +103,7 @@ TEST(Show, EveryValueOfRealStreams) {
 }
 
 TEST(Show, TableNamesFieldsAndCustomProperties) {
-    const Outcome run =
-        RunSuminfo({"show", "testEXCEL-custom-props--fff0cb.xls", "Bug48075--a2ceba.doc"}, kDocuments);
+    const Outcome run = RunSuminfo({"show", "testEXCEL-custom-props--fff0cb.xls", "Bug48075--a2ceba.doc"}, kDocuments);
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.out.find('\r'), std::string::npos);
@@ -112,8 +111,7 @@ TEST(Show, TableNamesFieldsAndCustomProperties) {
          {"testEXCEL-custom-props--fff0cb.xls\n  SummaryInformation\n", "    author\n",
           "    application  Microsoft Excel\n", "    created      2006-09-12 15:06:44 UTC\n",
           "    parts          Feuil1; Feuil2; Feuil3\n", "    MyCustomString      MyStringValue\n",
-          "    myCustomBoolean     yes\n", "\n\nBug48075--a2ceba.doc\n",
-          "    heading-pairs           Название; 1\n"})
+          "    myCustomBoolean     yes\n", "\n\nBug48075--a2ceba.doc\n", "    heading-pairs           Название; 1\n"})
         EXPECT_NE(run.out.find(line), std::string::npos) << line << "\nis missing in\n" << run.out;
 }
 
@@ -144,8 +142,7 @@ TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
     EXPECT_NE(run.out.find("    (damaged; see suminfo check)\n"), std::string::npos) << run.out;
     run = RunSuminfo({"show", "--json", "--stream", cut}, kStreams);
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(RunSuminfo({"show", "--stream", "fn-et--SummaryInformation--b68908.bin"}, kStreams).exitCode,
-              0);
+    EXPECT_EQ(RunSuminfo({"show", "--stream", "fn-et--SummaryInformation--b68908.bin"}, kStreams).exitCode, 0);
 }
 
 // A terminal would obey them.

@@ -51,8 +51,8 @@ size_t EntryAt(const ByteVector& file, uint32_t entry) {
 }
 constexpr size_t kName = 0, kChild = 76, kStart = 116, kSize = 120;
 
-// Gives the first stream sectors of its own after the others, and says which is the last. The file ends after `there` bytes
-// of them.
+// Gives the first stream sectors of its own after the others, and says which is the last. The file ends after `there`
+// bytes of them.
 uint32_t AddLongStream(ByteVector& file, size_t size, size_t there) {
     const auto first = static_cast<uint32_t>(file.size() / kSector - 1);
     const auto last = static_cast<uint32_t>(first + (size - 1) / kSector);
@@ -109,7 +109,8 @@ void PutName(ByteVector& file, size_t entry, const std::string& name) {
     PutShort(file, entry + 64, static_cast<uint16_t>(2 * name.size() + 2));
 }
 
-// A file with one stream of 5000 bytes, of as many allocation sectors as are asked for: these, the directory, the stream.
+// A file with one stream of 5000 bytes, of as many allocation sectors as are asked for: these, the directory, the
+// stream.
 ByteVector MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
     ByteVector file(sectorBytes * (1 + tables * sectorBytes / 4));
     std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());
@@ -226,8 +227,7 @@ const Bend kBends[] = {
      CompoundState::unsafe},
     {"TableTwice", [](ByteVector& file) { Put(file, 80, Number(file, 76)); }, CompoundState::unsafe},
     {"TableElsewhere", [](ByteVector& file) { Put(file, 76, 0x00FFFFFF); }, CompoundState::unsafe},
-    {"DirectoryFollowsItself",
-     [](ByteVector& file) { Put(file, NextOf(file, DirectoryOf(file)), DirectoryOf(file)); },
+    {"DirectoryFollowsItself", [](ByteVector& file) { Put(file, NextOf(file, DirectoryOf(file)), DirectoryOf(file)); },
      CompoundState::unsafe},
     {"DirectoryElsewhere", [](ByteVector& file) { Put(file, 48, 0x00FFFFFF); }, CompoundState::unsafe},
     {"DirectoryIsAStream", [](ByteVector& file) { Put(file, 48, 3); }, CompoundState::unsafe},
@@ -242,8 +242,7 @@ const Bend kBends[] = {
     {"EntryOfNoKind", [](ByteVector& file) { file[EntryAt(file, 1) + 66] = 3; }, CompoundState::unsafe},
     {"EntriesThatNothingLeadsTo", [](ByteVector& file) { Put(file, EntryAt(file, 0) + kChild, 0xFFFFFFFF); },
      CompoundState::torn},
-    {"NameWithoutItsEnd", [](ByteVector& file) { file[EntryAt(file, 1) + kName + 38] = 'x'; },
-     CompoundState::torn},
+    {"NameWithoutItsEnd", [](ByteVector& file) { file[EntryAt(file, 1) + kName + 38] = 'x'; }, CompoundState::torn},
     {"NamesOutOfOrder",
      [](ByteVector& file) { // left and right changed
          const size_t entry = EntryAt(file, 1);
@@ -253,8 +252,7 @@ const Bend kBends[] = {
      },
      CompoundState::torn},
     {"ShortStreamsRunIntoTheDirectory",
-     [](ByteVector& file) { Put(file, EntryAt(file, 0) + kStart, DirectoryOf(file)); },
-     CompoundState::unsafe},
+     [](ByteVector& file) { Put(file, EntryAt(file, 0) + kStart, DirectoryOf(file)); }, CompoundState::unsafe},
     {"ShortStreamsEndEarly",
      [](ByteVector& file) { Put(file, NextOf(file, Number(file, EntryAt(file, 0) + kStart)), 0xFFFFFFFE); },
      CompoundState::unsafe},
@@ -266,8 +264,7 @@ const Bend kBends[] = {
      CompoundState::unsafe},
     {"StreamInACutSector", [](ByteVector& file) { AddLongStream(file, 9 * kSector, 9 * kSector - 200); },
      CompoundState::torn},
-    {"CutSectorBehindTheStream",
-     [](ByteVector& file) { AddLongStream(file, 9 * kSector - 200, 9 * kSector - 200); },
+    {"CutSectorBehindTheStream", [](ByteVector& file) { AddLongStream(file, 9 * kSector - 200, 9 * kSector - 200); },
      CompoundState::sound},
     {"StreamsShareSectors",
      [](ByteVector& file) { Put(file, EntryAt(file, 2) + kStart, Number(file, EntryAt(file, 1) + kStart)); },
@@ -278,10 +275,8 @@ const Bend kBends[] = {
          Put(file, EntryAt(file, 1) + kSize, 9000);
      },
      CompoundState::torn},
-    {"StreamTooLong", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 4000); },
-     CompoundState::torn},
-    {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); },
-     CompoundState::torn},
+    {"StreamTooLong", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 4000); }, CompoundState::torn},
+    {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); }, CompoundState::torn},
 };
 
 // A hundred streams on one chain would be a hundred times the file.

@@ -32,8 +32,8 @@ uint32_t Number(const Bytes& file, size_t at) {
     return number;
 }
 
-// Header, allocation table, directory or table of short streams: one to three of their numbers or bytes. Some documents are
-// cut as well.
+// Header, allocation table, directory or table of short streams: one to three of their numbers or bytes. Some documents
+// are cut as well.
 Bytes Damaged(Bytes file, unsigned seed) {
     std::mt19937 random(seed);
     const uint32_t table = Number(file, 76), directory = Number(file, 48), shortTable = Number(file, 60);
@@ -106,7 +106,6 @@ TEST_P(DamagedDocument, IsRefusedOrRead) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Real, DamagedDocument,
-                         testing::Values("test11--695187.doc", "input-bw-one-band--340370.fpx",
-                                         "sent--da96eb.msg"));
+                         testing::Values("test11--695187.doc", "input-bw-one-band--340370.fpx", "sent--da96eb.msg"));
 
 } // namespace

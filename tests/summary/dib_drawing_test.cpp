@@ -59,21 +59,15 @@ TEST(DibDrawing, ColorsOfEveryDepth) {
         {"16 bits", With(Dib(2, 1, 16), {}, {0x00, 0x7C, 0xE3, 0x03}), {0xFF0000, 0x00FF18}},
         {"24 bits", With(Dib(1, 1, 24), {}, {1, 2, 3, 0}), {0x030201}},
         {"32 bits", With(Dib(1, 1, 32), {}, {1, 2, 3, 4}), {0x030201}},
-        {"masks of 5, 6 and 5",
-         Masked(16, {0xF800, 0x07E0, 0x001F}, {0x1F, 0xF8, 0x20, 0x00}),
-         {0xFF00FF, 0x000400}},
+        {"masks of 5, 6 and 5", Masked(16, {0xF800, 0x07E0, 0x001F}, {0x1F, 0xF8, 0x20, 0x00}), {0xFF00FF, 0x000400}},
         {"masks of 10 bits and 1, and none",
          Masked(32, {0xFFC00000, 0x1, 0}, {1, 0, 0xC0, 0x80, 0, 0, 0, 0}),
          {0x80FF00, 0}},
-        {"runs of 8 bits",
-         Runs(8, {2, 7, 0, 2, 1, 1, 1, 9, 0, 1}),
-         {kWhite, kWhite, kWhite, 9, 7, 7, kWhite, kWhite}},
+        {"runs of 8 bits", Runs(8, {2, 7, 0, 2, 1, 1, 1, 9, 0, 1}), {kWhite, kWhite, kWhite, 9, 7, 7, kWhite, kWhite}},
         {"pixels of 8 bits",
          Runs(8, {0, 3, 4, 5, 6, 0, 0, 0, 1, 8, 0, 1}),
          {8, kWhite, kWhite, kWhite, 4, 5, 6, kWhite}},
-        {"runs of 4 bits",
-         Runs(4, {3, 0x12, 0, 0, 0, 3, 0x34, 0x50, 0, 1}),
-         {3, 4, 5, kWhite, 1, 2, 1, kWhite}},
+        {"runs of 4 bits", Runs(4, {3, 0x12, 0, 0, 0, 3, 0x34, 0x50, 0, 1}), {3, 4, 5, kWhite, 1, 2, 1, kWhite}},
     };
     for (const auto& row : rows)
         EXPECT_EQ(Draw(row.dib.Build(), row.dib.width, row.dib.height), row.drawn) << row.name;
@@ -104,8 +98,7 @@ TEST(DibDrawing, IsFittedIntoTheMiddle) {
 }
 
 TEST(DibDrawing, ASmallerPictureHasTheMeanOfEachPart) {
-    const ByteVector even =
-        With(Dib(4, 2, 8), {0x000000, 0x050A11, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
+    const ByteVector even = With(Dib(4, 2, 8), {0x000000, 0x050A11, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
     EXPECT_EQ(Draw(even, 2, 1), (Drawn{0x04080D, 0xBFBFBF}));
     // Each of two has one and a half.
     const ByteVector odd = With(Dib(3, 3, 8), {0, 0x0000FF}, {0, 1, 1, 0, 0, 1, 1, 0, 0, 1, 1, 0}).Build();

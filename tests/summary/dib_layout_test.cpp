@@ -33,8 +33,7 @@ const Passing kPassing[] = {
     {"Masks", Dib(2, 2, 16).Masked(), 52, 8},
     {"TopDown", Dib(3, -2, 32).Fill(0), 40, 24},
     {"RunLengthEight", Dib(4, 2, 8).RunLength({4, 1, 0, 0, 0, 3, 1, 2, 3, 0, 1, 9, 0, 1}), 40 + 1024, 14},
-    {"RunLengthFour", Dib(4, 2, 4).RunLength({4, 0x12, 0, 0, 0, 2, 1, 0, 0, 3, 0x12, 0x30, 0, 1}), 40 + 64,
-     14},
+    {"RunLengthFour", Dib(4, 2, 4).RunLength({4, 0x12, 0, 0, 0, 2, 1, 0, 0, 3, 0x12, 0x30, 0, 1}), 40 + 64, 14},
 };
 
 TEST(DibLayout, HasThePartsInPlaceAndPassesNotWhenCutAnywhere) {

@@ -26,8 +26,7 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives on the stack
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE ReadAt(ULARGE_INTEGER at, void* buffer, ULONG size, ULONG* done) override;
-    HRESULT STDMETHODCALLTYPE WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size,
-                                      ULONG* done) override;
+    HRESULT STDMETHODCALLTYPE WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size, ULONG* done) override;
     HRESULT STDMETHODCALLTYPE Flush() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetSize(ULARGE_INTEGER size) override;
     HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {

@@ -26,9 +26,7 @@ protected:
         return ticks;
     }
     bool Has(DWORD id) { return set_->GetProperty(kFormat, id) != nullptr; }
-    void Put(DWORD id, const void* value, DWORD type) {
-        set_->Set(kFormat, id, const_cast<void*>(value), type);
-    }
+    void Put(DWORD id, const void* value, DWORD type) { set_->Set(kFormat, id, const_cast<void*>(value), type); }
 
     CPropertySet* set_ = OleStdInitSummaryInfo(1252);
 };
@@ -186,8 +184,7 @@ TEST_F(Summary, ThumbnailKeepsItsBytes) {
     std::memset(::GlobalLock(picture), 0xA5, 100);
     ::GlobalUnlock(picture);
     EXPECT_EQ(OleStdSetThumbNailProperty(set_, 3, picture, 100), 1);
-    const DWORD* stored =
-        static_cast<const DWORD*>(set_->GetProperty(kFormat, PIDSI_THUMBNAIL)->GetRawValue());
+    const DWORD* stored = static_cast<const DWORD*>(set_->GetProperty(kFormat, PIDSI_THUMBNAIL)->GetRawValue());
     EXPECT_EQ(stored[0], 108u);
     EXPECT_EQ(stored[1], 0xFFFFFFFF);
     EXPECT_EQ(stored[2], 3u);

@@ -43,8 +43,7 @@ void Check(const fs::path& file) {
     const bool drawn = (name.rfind("dib-", 0) == 0 || name.rfind("metafile-", 0) == 0) && !IsBroken(name);
     Canvas canvas(300, 200);
     const RECT whole = canvas.Whole();
-    const int result =
-        DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.DC(), &whole);
+    const int result = DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), canvas.DC(), &whole);
     EXPECT_EQ(result != 0, drawn);
     EXPECT_EQ(canvas.Covered().has_value(), drawn);
     const fs::path png = fs::path(file).replace_extension(".png");

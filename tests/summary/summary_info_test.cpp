@@ -102,8 +102,8 @@ TEST(SummaryInfo, FieldsInOneCall) {
         return std::string(stored ? stored : "(none)");
     };
     std::string all;
-    for (const DWORD id : {PIDSI_TITLE, PIDSI_SUBJECT, PIDSI_AUTHOR, PIDSI_LASTAUTHOR, PIDSI_KEYWORDS,
-                           PIDSI_COMMENTS, PIDSI_APPNAME, PIDSI_REVNUMBER})
+    for (const DWORD id : {PIDSI_TITLE, PIDSI_SUBJECT, PIDSI_AUTHOR, PIDSI_LASTAUTHOR, PIDSI_KEYWORDS, PIDSI_COMMENTS,
+                           PIDSI_APPNAME, PIDSI_REVNUMBER})
         all += text(id) + " ";
     EXPECT_EQ(all, "(none) s a a k c app 7 ");
     EXPECT_EQ(OleStdGetSecurityProperty(summary.get()), 0u);
@@ -250,8 +250,7 @@ Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD m
     FailingBytes disk(document);
     disk.capacity = document.size() + room;
     Storage storage = OpenOn(disk, STGM_READWRITE | mode);
-    const bool done =
-        SUCCEEDED(SaveSummaryInfo(storage.get(), summary)) && SUCCEEDED(storage->Commit(STGC_DEFAULT));
+    const bool done = SUCCEEDED(SaveSummaryInfo(storage.get(), summary)) && SUCCEEDED(storage->Commit(STGC_DEFAULT));
     storage.reset();
     return {done, disk.bytes};
 }
@@ -273,8 +272,8 @@ protected:
     const Streams before_ = StreamsOf(document_);
 };
 
-// Every free sector too few, from none to enough: all streams are as before, or only the summary is the new one, and the
-// result says which.
+// Every free sector too few, from none to enough: all streams are as before, or only the summary is the new one, and
+// the result says which.
 TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
     const Streams after = StreamsOf(SaveWithRoom(document_, 100000, mode_, summary_.get()).file);
     ASSERT_NE(after, before_);
@@ -312,8 +311,7 @@ TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
 
 INSTANTIATE_TEST_SUITE_P(Documents, Saving,
                          testing::Combine(testing::Values(DWORD{STGM_DIRECT}, DWORD{STGM_TRANSACTED}),
-                                          testing::Values("before", std::string(3000, 'm'),
-                                                          std::string(6000, 'b'), ""),
+                                          testing::Values("before", std::string(3000, 'm'), std::string(6000, 'b'), ""),
                                           testing::Values(size_t{3}, size_t{3000}, size_t{20000})));
 
 } // namespace

@@ -68,8 +68,7 @@ TEST(Fitting, OfBitmapsAndMetafilePictures) {
             canvas.Whiten();
         };
         expectDrawn("bitmap", DrawDib(BlueDib(width, height), canvas.DC(), &fit.target, fit.keepAspect));
-        expectDrawn("picture",
-                    DrawMeta(BluePicture(width, height), canvas.DC(), &fit.target, fit.keepAspect));
+        expectDrawn("picture", DrawMeta(BluePicture(width, height), canvas.DC(), &fit.target, fit.keepAspect));
     }
 }
 
@@ -149,8 +148,7 @@ TEST_F(Thumbnail, BitmapsOfEveryKindDraw) {
         DibBytes dib;
         COLORREF color;
     };
-    std::vector<Row> rows = {{Dib(4, 1, 16).Masked(), RGB(255, 0, 0)},
-                             {Dib(4, 1, 8).RunLength({4, 1, 0, 1}), kBlue}};
+    std::vector<Row> rows = {{Dib(4, 1, 16).Masked(), RGB(255, 0, 0)}, {Dib(4, 1, 8).RunLength({4, 1, 0, 1}), kBlue}};
     rows[0].dib.pixels = {0, 0xF8, 0, 0xF8, 0, 0xF8, 0, 0xF8};
     rows[1].dib.table.assign(256, 0x000000FF);
     for (const uint16_t bits : {1, 4, 8, 16, 24, 32}) {
@@ -178,10 +176,8 @@ TEST(DrawingWithoutTheSystem, HasTheColorsOfTheSystem) {
         SCOPED_TRACE(std::to_string(dib.bitsPerPixel) + " bits, form " + std::to_string(dib.compression));
         uint32_t next = 1;
         const auto any = [&next] { return next = next * 1103515245 + 12345; };
-        if (dib.bitsPerPixel <= 8)
-            std::generate(dib.table.begin(), dib.table.end(), [&] { return any() >> 8; });
-        if (dib.imageBytes == 0)
-            std::generate(dib.pixels.begin(), dib.pixels.end(), [&] { return any() >> 16; });
+        if (dib.bitsPerPixel <= 8) std::generate(dib.table.begin(), dib.table.end(), [&] { return any() >> 8; });
+        if (dib.imageBytes == 0) std::generate(dib.pixels.begin(), dib.pixels.end(), [&] { return any() >> 16; });
         const ByteVector bytes = dib.Build();
         Canvas canvas(dib.width, dib.height);
         const RECT whole = canvas.Whole();
@@ -202,11 +198,8 @@ TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
     ::SetMapMode(canvas_.DC(), MM_ANISOTROPIC);
     ::SetViewportOrgEx(canvas_.DC(), 7, 8, nullptr);
     const HGDIOBJ brush = ::GetCurrentObject(canvas_.DC(), OBJ_BRUSH);
-    const ByteVector picture = MetaFileBytes(50, 50)
-                                   .Record(0x001E, {})
-                                   .Record(0x001E, {})
-                                   .FilledRectangle(kBlue, 0, 0, 50, 50)
-                                   .Build();
+    const ByteVector picture =
+        MetaFileBytes(50, 50).Record(0x001E, {}).Record(0x001E, {}).FilledRectangle(kBlue, 0, 0, 50, 50).Build();
     EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 1);
     POINT origin;
     ::GetViewportOrgEx(canvas_.DC(), &origin);
@@ -253,10 +246,7 @@ SIZE_T MostMemorySoFar() {
 // Pictures of a few hundred bytes with sizes that took all memory, or ended the process; what follows is drawn.
 TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
     const auto picture = [](uint16_t scale) {
-        return MetaFileBytes(60, 60)
-            .Record(0x0103, {8})
-            .Record(0x020C, {1, 1})
-            .Record(0x020E, {scale, scale});
+        return MetaFileBytes(60, 60).Record(0x0103, {8}).Record(0x020C, {1, 1}).Record(0x020E, {scale, scale});
     };
     const auto text = [](MetaFileBytes bytes, uint16_t height) {
         bytes.Record(0x02FB, {height, 0, 0, 0, 0, 0, 0, 0, 0, 0x7241, 0x6169, 0x6C}).Record(0x012D, {0});
@@ -287,11 +277,8 @@ TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
         SCOPED_TRACE(row.name);
         canvas_.Whiten();
         MetaFileBytes bytes = row.picture;
-        const ByteVector whole = bytes.Objects(9)
-                                     .Record(0x01F0, {0})
-                                     .Record(0x020E, {60, 60})
-                                     .FilledRectangle(kBlue, 0, 0, 60, 60)
-                                     .Build();
+        const ByteVector whole =
+            bytes.Objects(9).Record(0x01F0, {0}).Record(0x020E, {60, 60}).FilledRectangle(kBlue, 0, 0, 60, 60).Build();
         const SIZE_T before = MostMemorySoFar();
         EXPECT_EQ(DrawMeta(whole, canvas_.DC(), &whole_, 1), 1);
         EXPECT_LT((MostMemorySoFar() - before) >> 20, 16u) << "megabytes";
@@ -305,8 +292,8 @@ TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
         for (const size_t count : {2, 20}) {
             std::vector<uint16_t> words(count, 0x7FFF);
             words[0] = 0; // a slot, mostly
-            DrawMeta(MetaFileBytes(60, 60).Record(0x02FC, {0, 0, 0, 0}).Record(function, words).Build(),
-                     canvas_.DC(), &whole_, 1);
+            DrawMeta(MetaFileBytes(60, 60).Record(0x02FC, {0, 0, 0, 0}).Record(function, words).Build(), canvas_.DC(),
+                     &whole_, 1);
         }
     }
     EXPECT_EQ(::SaveDC(canvas_.DC()), 1);
@@ -331,9 +318,7 @@ TEST_F(Thumbnail, PicturesWithoutLengthEndWhereMemoryEnds) {
     };
     const ByteVector dib = BlueDib(20, 20), picture = BluePicture(20, 20);
     for (const size_t missing : {size_t{1}, dib.size() - 40, dib.size() - 20, dib.size() - 1})
-        EXPECT_EQ(
-            DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, missing)), canvas_.DC(), &whole_, 1),
-            0);
+        EXPECT_EQ(DrawDIB(reinterpret_cast<BITMAPINFOHEADER*>(atTheEnd(dib, missing)), canvas_.DC(), &whole_, 1), 0);
     for (const size_t missing : {size_t{2}, picture.size() - 10, picture.size() - 1})
         EXPECT_EQ(DrawMetaFilePict(atTheEnd(picture, missing), canvas_.DC(), &whole_, 1), 0);
     ExpectNothingDrawn();

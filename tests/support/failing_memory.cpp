@@ -9,8 +9,7 @@
 namespace {
 
 // Of operator new and operator new[], as the compiler mangles them.
-constexpr const char* kNames[] = {sizeof(void*) == 8 ? "_Znwy" : "_Znwj",
-                                  sizeof(void*) == 8 ? "_Znay" : "_Znaj"};
+constexpr const char* kNames[] = {sizeof(void*) == 8 ? "_Znwy" : "_Znwj", sizeof(void*) == 8 ? "_Znay" : "_Znaj"};
 
 int g_left = 0; // requests until the one that fails
 
@@ -58,8 +57,7 @@ void FailingMemory::ReplaceImports(HMODULE module) {
         auto* places = reinterpret_cast<void**>(base + library->FirstThunk);
         for (; names->u1.AddressOfData != 0; ++names, ++places) {
             if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal)) continue;
-            const auto& import =
-                *reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData);
+            const auto& import = *reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData);
             if (m_count == 2 || !IsOperatorNew(reinterpret_cast<const char*>(import.Name))) continue;
             m_imports[m_count++] = {places, *places};
             Write(places, reinterpret_cast<void*>(Allocate));

@@ -32,8 +32,8 @@ void HandleMessages() {
 
 void CopyScreen(MemoryPicture& picture, const CRect& area) {
     const orlo::WindowDC screen(nullptr);
-    if (!picture.Resize(area.Size()) || !::BitBlt(picture.Dc(), 0, 0, area.Width(), area.Height(),
-                                                  screen.get(), area.left, area.top, SRCCOPY))
+    if (!picture.Resize(area.Size()) ||
+        !::BitBlt(picture.Dc(), 0, 0, area.Width(), area.Height(), screen.get(), area.left, area.top, SRCCOPY))
         throw std::runtime_error("the screen cannot be read");
     ::GdiFlush();
 }
@@ -56,15 +56,14 @@ std::string StalePart(HWND window) {
     MemoryPicture shown, fresh;
     HandleMessages();
     CopyScreen(shown, area);
-    ::RedrawWindow(window, nullptr, nullptr,
-                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     HandleMessages();
     CopyScreen(fresh, area);
     const CRect part = Difference(shown, fresh);
     if (part.IsRectEmpty()) return "";
     const CPoint middle = area.TopLeft() + CSize(part.CenterPoint().x, part.CenterPoint().y);
     CString text;
-    text.Format("control %d at %ld, %ld to %ld, %ld", ::GetDlgCtrlID(::WindowFromPoint(middle)), part.left,
-                part.top, part.right, part.bottom);
+    text.Format("control %d at %ld, %ld to %ld, %ld", ::GetDlgCtrlID(::WindowFromPoint(middle)), part.left, part.top,
+                part.right, part.bottom);
     return std::string(text);
 }

@@ -150,8 +150,7 @@ KitGraphic& GraphicKit::Add(std::map<std::string, KitValue> offered, int type) {
 }
 
 GraphicStruct* GraphicKit::AddWithoutTable() {
-    GraphicStruct* graphic =
-        ::GraphicAdd(::DrawingGetRoot(Drawing()), ::GraphicNewEx(kGraphicVertices, 0, 1));
+    GraphicStruct* graphic = ::GraphicAdd(::DrawingGetRoot(Drawing()), ::GraphicNewEx(kGraphicVertices, 0, 1));
     ::GraphicSetVtbl(graphic, kNoTable);
     ::SelectionAdd(Selection(), graphic);
     return graphic;

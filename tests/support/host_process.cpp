@@ -34,8 +34,7 @@ void HostProcess::Start(const std::string& command) {
     if (command.find(':') != 1) line.insert(0, own, std::string(own).rfind('\\') + 1);
     STARTUPINFOA start = {};
     start.cb = sizeof start;
-    ASSERT_TRUE(::CreateProcessA(nullptr, &line[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                                 &m_process));
+    ASSERT_TRUE(::CreateProcessA(nullptr, &line[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process));
 }
 
 DWORD HostProcess::ExitCode() {

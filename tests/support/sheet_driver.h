@@ -1,5 +1,5 @@
-// Opens a real modal sheet and plays a script over it from inside the sheet's own message loop, by messages and keys, as a
-// person would. It knows no page; message boxes are the MessageBoxWatcher's.
+// Opens a real modal sheet and plays a script over it from inside the sheet's own message loop, by messages and keys,
+// as a person would. It knows no page; message boxes are the MessageBoxWatcher's.
 //
 //   int code = SheetDriver().Run(*sheet, [](SheetDriver& user) {
 //       user.SelectPage(1);

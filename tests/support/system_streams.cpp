@@ -34,8 +34,7 @@ void Collect(IStorage* storage, const std::u16string& prefix, Streams& streams) 
         if (stat.type != STGTY_STORAGE) {
             storage->OpenStream(name.c_str(), nullptr, kRead, 0, Receive(stream));
             streams[path] = stream ? ReadAll(stream.get()) : std::vector<uint8_t>();
-        } else if (SUCCEEDED(
-                       storage->OpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, Receive(inner)))) {
+        } else if (SUCCEEDED(storage->OpenStorage(name.c_str(), nullptr, kRead, nullptr, 0, Receive(inner)))) {
             Collect(inner.get(), path + u'/', streams);
         }
     }

@@ -12,14 +12,14 @@ namespace {
 
 constexpr int kNotStarted = 76; // exit code; distinct from 1 (failed) and the system's own codes
 
-// A program reads the resolution when it starts. The setting is that of all programs of the session: it is there only while
-// this one starts.
+// A program reads the resolution when it starts. The setting is that of all programs of the session: it is there only
+// while this one starts.
 class ResolutionSetting {
 public:
     explicit ResolutionSetting(DWORD dpi) {
         DWORD size = sizeof m_before;
-        m_wasSet = ::RegGetValueA(HKEY_CURRENT_USER, kKey, kName, RRF_RT_REG_DWORD, nullptr, &m_before,
-                                  &size) == ERROR_SUCCESS;
+        m_wasSet = ::RegGetValueA(HKEY_CURRENT_USER, kKey, kName, RRF_RT_REG_DWORD, nullptr, &m_before, &size) ==
+                   ERROR_SUCCESS;
         Set(dpi);
     }
     ~ResolutionSetting() {
@@ -33,9 +33,7 @@ public:
 
 private:
     static constexpr char kKey[] = "Control Panel\\Desktop", kName[] = "LogPixels";
-    static void Set(DWORD dpi) {
-        ::RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kName, REG_DWORD, &dpi, sizeof dpi);
-    }
+    static void Set(DWORD dpi) { ::RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kName, REG_DWORD, &dpi, sizeof dpi); }
 
     DWORD m_before = 0;
     bool m_wasSet = false;
@@ -76,8 +74,7 @@ int RunAgainAt(int dpi, const std::vector<std::string>& arguments) {
     PROCESS_INFORMATION process = {};
     {
         const ResolutionSetting setting(static_cast<DWORD>(dpi));
-        if (!::CreateProcessA(program, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                              &process))
+        if (!::CreateProcessA(program, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
             return kNotStarted;
         const HANDLE either[] = {started, process.hProcess};
         ::WaitForMultipleObjects(2, either, FALSE, INFINITE);

@@ -1,4 +1,5 @@
-// What a test program can be run in: another resolution of the screen, another color scheme. Both are options of its main.
+// What a test program can be run in: another resolution of the screen, another color scheme. Both are options of its
+// main.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// The main of every test program that has windows: an application object for the framework, a watchdog that turns a hang into a
-// failure, and the options of test_environment.h.
+// The main of every test program that has windows: an application object for the framework, a watchdog that turns a
+// hang into a failure, and the options of test_environment.h.
 
 #include <afxwin.h>
 

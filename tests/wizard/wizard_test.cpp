@@ -18,13 +18,11 @@
 namespace {
 
 constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNoTemplate = 699;
-constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301,
-              kHeading = 302;
+constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301, kHeading = 302;
 
 class CStep : public CPropertyPage {
 public:
-    CStep(char name, std::string& log, UINT nIDTemplate)
-        : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
+    CStep(char name, std::string& log, UINT nIDTemplate) : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
     bool accepts = true;
     CSize grows; // in each OnSetActive
 
@@ -32,8 +30,7 @@ public:
         if (!CPropertyPage::OnSetActive()) return FALSE;
         CRect rect;
         GetWindowRect(rect);
-        SetWindowPos(nullptr, 0, 0, rect.Width() + grows.cx, rect.Height() + grows.cy,
-                     SWP_NOMOVE | SWP_NOZORDER);
+        SetWindowPos(nullptr, 0, 0, rect.Width() + grows.cx, rect.Height() + grows.cy, SWP_NOMOVE | SWP_NOZORDER);
         return TRUE;
     }
     BOOL OnKillActive() override {
@@ -89,8 +86,7 @@ std::string State(const SheetDriver& user) {
     const auto tab = ::SendDlgItemMessageA(sheet, kTabs, TCM_GETCURSEL, 0, 0);
     EXPECT_EQ(user.ActivePage(), tab);
     EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(sheet, IDCANCEL)));
-    return std::to_string(user.ActivePage()) +
-           (::IsWindowEnabled(::GetDlgItem(sheet, kBack)) ? " Back " : " - ") +
+    return std::to_string(user.ActivePage()) + (::IsWindowEnabled(::GetDlgItem(sheet, kBack)) ? " Back " : " - ") +
            WindowText(::GetDlgItem(sheet, kNext));
 }
 
@@ -217,8 +213,7 @@ TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
             EXPECT_TRUE(::IsWindowVisible(heading));
             CRect client;
             ::GetClientRect(user.Sheet(), &client);
-            const CRect page = Place(user, user.Page()),
-                        button = Place(user, ::GetDlgItem(user.Sheet(), kNext));
+            const CRect page = Place(user, user.Page()), button = Place(user, ::GetDlgItem(user.Sheet(), kNext));
             EXPECT_LE(Place(user, heading).bottom, page.top);
             const bool wide = *caption == 'W';
             EXPECT_LE(Units(user.Page(), wide ? 240 : 120, 0).cx, page.Width());
@@ -303,8 +298,7 @@ TEST_F(Wizard, IsAsLargeAsThePageHasMadeItself) {
             SCOPED_TRACE(why);
             CRect client;
             ::GetClientRect(user.Sheet(), client);
-            const CRect page = Place(user, user.Page()),
-                        back = Place(user, ::GetDlgItem(user.Sheet(), kBack));
+            const CRect page = Place(user, user.Page()), back = Place(user, ::GetDlgItem(user.Sheet(), kBack));
             EXPECT_LE(width, page.Width());
             EXPECT_EQ(height, page.Height());
             EXPECT_LE(page.right, client.right);
@@ -330,8 +324,7 @@ TEST_F(Wizard, KeepsTheSizeThatAHostHasGivenItsPage) {
     wizard.AddPage(&step);
     Run(wizard, [&](SheetDriver& user) {
         const CRect before = Place(user, user.Page());
-        step.SetWindowPos(nullptr, 0, 0, before.Width() + 70, before.Height() + 40,
-                          SWP_NOMOVE | SWP_NOZORDER);
+        step.SetWindowPos(nullptr, 0, 0, before.Width() + 70, before.Height() + 40, SWP_NOMOVE | SWP_NOZORDER);
         wizard.RecalcWizardLayout();
         const CRect after = Place(user, user.Page());
         EXPECT_EQ(CSize(before.Width() + 70, before.Height() + 40), after.Size());
@@ -388,8 +381,7 @@ TEST_F(Wizard, GrowsWhereTheUserHasMovedIt) {
     });
     Run(*Make({kNarrow, kWide}), [&](SheetDriver& user) {
         const int right = ::GetSystemMetrics(SM_CXSCREEN);
-        ::SetWindowPos(user.Sheet(), nullptr, right - place(user.Sheet()).Width(), 30, 0, 0,
-                       SWP_NOSIZE | SWP_NOZORDER);
+        ::SetWindowPos(user.Sheet(), nullptr, right - place(user.Sheet()).Width(), 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         user.ClickSheetButton(kNext);
         EXPECT_EQ(right, place(user.Sheet()).right) << "within the screen";
     });
@@ -407,8 +399,7 @@ TEST_F(Wizard, EndsACaptionThatIsCutWithDots) {
         CRect client;
         ::GetClientRect(heading, client);
         Pixels picture(client.Width(), client.Height());
-        ::SendMessageA(heading, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.DC()),
-                       PRF_CLIENT | PRF_ERASEBKGND);
+        ::SendMessageA(heading, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.DC()), PRF_CLIENT | PRF_ERASEBKGND);
         const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
         int right = client.right; // of the ink
         while (right > 5 && picture.Count({right - 1, 0, right, client.bottom}, text) == 0)
@@ -506,8 +497,7 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
             CRect client;
             ::GetClientRect(sheet, &client);
             const CRect page = Place(user, user.Page()), tabs = Place(user, ::GetDlgItem(sheet, kTabs));
-            const CRect back = Place(user, ::GetDlgItem(sheet, kBack)),
-                        next = Place(user, ::GetDlgItem(sheet, kNext)),
+            const CRect back = Place(user, ::GetDlgItem(sheet, kBack)), next = Place(user, ::GetDlgItem(sheet, kNext)),
                         cancel = Place(user, ::GetDlgItem(sheet, IDCANCEL));
             const CSize button = Units(user.Page(), 50, 14), gap = Units(user.Page(), 4, 4);
             const CSize asked = Units(user.Page(), id == kNarrow ? 120 : 240, id == kNarrow ? 60 : 100);
@@ -516,9 +506,9 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
             const int row = 3 * button.cx + gap.cx + 2 * gap.cx, body = asked.cx + 2 * gap.cx + 3;
             EXPECT_EQ(id == kNarrow, row > body);
             EXPECT_EQ(std::max(row, body), client.Width());
-            EXPECT_EQ(CRect(CPoint(gap.cx + 1, tabs.Height() + gap.cy),
-                            CSize(client.Width() - 2 * gap.cx - 3, asked.cy)),
-                      page);
+            EXPECT_EQ(
+                CRect(CPoint(gap.cx + 1, tabs.Height() + gap.cy), CSize(client.Width() - 2 * gap.cx - 3, asked.cy)),
+                page);
             EXPECT_EQ(3 * gap.cy + button.cy + tabs.Height() + asked.cy + 4, client.Height());
             for (const CRect& rect : {back, next, cancel}) {
                 EXPECT_EQ(button, rect.Size());
@@ -546,8 +536,7 @@ TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
         EXPECT_EQ(user.Control(kField), ::GetFocus());
 
         LOGFONTA page = {}, button = {};
-        ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page,
-                     &page);
+        ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(user.Page(), WM_GETFONT, 0, 0)), sizeof page, &page);
         const LRESULT font = ::SendDlgItemMessageA(user.Sheet(), kNext, WM_GETFONT, 0, 0);
         ASSERT_NE(::GetObjectA(reinterpret_cast<HFONT>(font), sizeof button, &button), 0);
         EXPECT_EQ(page.lfHeight, button.lfHeight);

@@ -33,8 +33,7 @@ void Check(const DrawingFile& before, const dxf::Document& known, const std::map
         const dxf::Look other = dxf::LookOf(after, b);
         if (SameLook(known, one, after, other)) return;
         for (const std::string& name : PropertyTexts::Names())
-            if (ones.Get(name, one) != others.Get(name, other))
-                differ(name + " of " + before.NameOf(found).Text());
+            if (ones.Get(name, one) != others.Get(name, other)) differ(name + " of " + before.NameOf(found).Text());
         differ("the look of " + before.NameOf(found).Text());
     };
     const std::vector<Found> a = AllOf(before.Document()), b = AllOf(after);
@@ -77,8 +76,7 @@ SetResult SetProperties(const std::string& file, const std::vector<Condition>& w
         const dxf::Look was = drawing.LookOf(*found.entity);
         dxf::Look look = was;
         for (const Condition& value : ordered)
-            if (PropertyTexts::Has(*found.entity, value.name))
-                drawing.Texts().Set(value.name, value.value, look);
+            if (PropertyTexts::Has(*found.entity, value.name)) drawing.Texts().Set(value.name, value.value, look);
         if (look == was) continue;
         try {
             patch.Change(found.entity->offset, look);
@@ -91,8 +89,7 @@ SetResult SetProperties(const std::string& file, const std::vector<Condition>& w
     for (const auto& [property, count] : patch.OnlyExtended())
         result.notes.push_back(dxf::OnlyExtendedText(property, count));
     if (result.matched == 0) result.kinds = drawing.KindsAround(where);
-    std::string bytes =
-        drawing.Bytes().substr(0, drawing.Bytes().size() - drawing.Text().size()) + patch.Finish();
+    std::string bytes = drawing.Bytes().substr(0, drawing.Bytes().size() - drawing.Text().size()) + patch.Finish();
     Check(drawing, patch.Known(), wanted, bytes);
     drawing.Write(bytes, output);
     return result;
@@ -103,8 +100,7 @@ std::vector<Difference> FindDifferences(const std::string& before, const std::st
     const std::vector<Found> ones = a.All(), others = b.All();
     std::map<std::string, size_t> byHandle;
     for (size_t i = 0; i < others.size(); ++i)
-        if (const std::string handle = b.NameOf(others[i]).handle; !handle.empty())
-            byHandle.emplace(handle, i);
+        if (const std::string handle = b.NameOf(others[i]).handle; !handle.empty()) byHandle.emplace(handle, i);
     std::vector<bool> met(others.size());
     std::vector<Difference> differences;
     for (size_t i = 0; i < ones.size(); ++i) {

@@ -30,8 +30,9 @@ struct SetResult {
     std::vector<std::string> notes; // what other programs will not show
 };
 
-// Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into `output`, as
-// DrawingFile::Write does: only what has changed differs. A value that is none of its property is a SaveError even if no entity takes it.
+// Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into
+// `output`, as DrawingFile::Write does: only what has changed differs. A value that is none of its property is a
+// SaveError even if no entity takes it.
 SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
                         const std::vector<Condition>& values, const std::string& output);
 

@@ -29,7 +29,8 @@ struct Found {
     const dxf::Block* block;
 };
 
-// Entities with properties: of model space, with the attributes of its insertions, and then of the blocks. In their order.
+// Entities with properties: of model space, with the attributes of its insertions, and then of the blocks. In their
+// order.
 std::vector<Found> AllOf(const dxf::Document& document);
 
 class DrawingFile {
@@ -39,8 +40,8 @@ public:
 
     std::string_view Text() const;
     const std::string& Bytes() const { return bytes_; }
-    // Replaces the output file, or prints the bytes if the output is kStandardOutput. The drawing's own file is left alone if
-    // the bytes are its own, and refused if it has been changed meanwhile. Throws FileError and SaveError.
+    // Replaces the output file, or prints the bytes if the output is kStandardOutput. The drawing's own file is left
+    // alone if the bytes are its own, and refused if it has been changed meanwhile. Throws FileError and SaveError.
     void Write(const std::string& bytes, const std::string& output) const;
 
     const dxf::Document& Document() const { return document_; }

@@ -79,16 +79,15 @@ std::string Known(const std::string& name, bool alsoConditions) {
     for (const char* condition : {kKind, kHandle, kBlock})
         if (alsoConditions && CLI::detail::to_lower(name) == condition) return condition;
     if (const auto known = PropertyTexts::NameOf(name)) return *known;
-    throw CLI::ValidationError("'" + name + "' is none of " +
-                               (alsoConditions ? "kind, handle, block, " : "") + AllNames());
+    throw CLI::ValidationError("'" + name + "' is none of " + (alsoConditions ? "kind, handle, block, " : "") +
+                               AllNames());
 }
 
 std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool alsoConditions) {
     std::vector<Condition> made;
     for (const std::string& text : texts) {
         const size_t equals = text.find('=');
-        if (equals == text.npos || equals == 0)
-            throw CLI::ValidationError("'" + text + "' should be name=value");
+        if (equals == text.npos || equals == 0) throw CLI::ValidationError("'" + text + "' should be name=value");
         made.push_back({Known(text.substr(0, equals), alsoConditions), text.substr(equals + 1)});
     }
     return made;
@@ -140,8 +139,7 @@ int Get(const CommandLine& line) {
 int Set(CommandLine& line) {
     std::vector<std::string> values;
     for (std::string& word : line.rest) // files come first; a word with a property's name in front is a value
-        (PropertyTexts::NameOf(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values
-                                                                                              : line.files)
+        (PropertyTexts::NameOf(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values : line.files)
             .push_back(std::move(word));
     for (const std::string& file :
          line.files) // NAME=VALUE with an unknown name is not a file, unless there is such a file
@@ -149,8 +147,7 @@ int Set(CommandLine& line) {
             Known(file.substr(0, file.find('=')), false);
     const std::vector<Condition> where = Assignments(line.where, true), wanted = Assignments(values, false);
     if (line.files.empty()) throw CLI::ValidationError("set", "no file is named");
-    if (wanted.empty())
-        throw CLI::ValidationError("set", "nothing to set: name a property, as in PenColor=red");
+    if (wanted.empty()) throw CLI::ValidationError("set", "nothing to set: name a property, as in PenColor=red");
     if (line.inPlace == !line.output.empty())
         throw CLI::ValidationError("set", "say where the drawing goes: -o OUT or --in-place");
     if (!line.output.empty() && line.files.size() > 1)
@@ -162,8 +159,7 @@ int Set(CommandLine& line) {
         for (const std::string& note : set.notes)
             std::cerr << "dxfprops: " << file << ": note: " << note << "\n";
         (line.output == kStandardOutput ? std::cerr : std::cout)
-            << file << ": " << set.changed
-            << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
+            << file << ": " << set.changed << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
     });
     return ResultOf(result, line, matches);
 }
@@ -218,10 +214,7 @@ int Run(std::vector<std::string> arguments) {
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
         usage.parse(arguments);
-        return list->parsed()  ? List(line)
-               : get->parsed() ? Get(line)
-               : set->parsed() ? Set(line)
-                               : Diff(line);
+        return list->parsed() ? List(line) : get->parsed() ? Get(line) : set->parsed() ? Set(line) : Diff(line);
     } catch (const CLI::ParseError& error) {
         return usage.exit(error) ? kUsage : kDone;
     }

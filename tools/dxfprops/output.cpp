@@ -30,9 +30,7 @@ std::string Quoted(const std::string& text) {
 }
 
 Json Named(const dxf::RecordName& name) {
-    Json entry{{"kind", name.kind},
-               {"handle", name.handle.empty() ? Json() : Json(name.handle)},
-               {"line", name.line}};
+    Json entry{{"kind", name.kind}, {"handle", name.handle.empty() ? Json() : Json(name.handle)}, {"line", name.line}};
     if (!name.block.empty()) entry["block"] = name.block;
     return entry;
 }
@@ -75,8 +73,8 @@ void Print(const std::vector<Difference>& differences, const std::string& before
     }
 }
 
-bool PrintArray(const std::vector<std::string>& files,
-                const std::function<Json(const std::string&)>& describe, std::ostream& out) {
+bool PrintArray(const std::vector<std::string>& files, const std::function<Json(const std::string&)>& describe,
+                std::ostream& out) {
     Json list = Json::array();
     bool allRead = true;
     for (const std::string& file : files) {

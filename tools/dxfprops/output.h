@@ -18,8 +18,8 @@ void Print(const Listing& listing, std::ostream& out);
 void Print(const std::vector<Difference>& differences, const std::string& before, const std::string& after,
            std::ostream& out);
 
-// Writes an array with one object per file: file and what the call returns, or file, error, line for one that is refused.
-// False if any file was refused.
+// Writes an array with one object per file: file and what the call returns, or file, error, line for one that is
+// refused. False if any file was refused.
 bool PrintArray(const std::vector<std::string>& files,
                 const std::function<nlohmann::ordered_json(const std::string&)>& describe, std::ostream& out);
 nlohmann::ordered_json JsonOf(const Listing& listing);

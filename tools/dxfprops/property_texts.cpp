@@ -166,8 +166,7 @@ struct PropertyForms {
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;
-        return drawcore::WriteLength(units * unit.millimeters, unit,
-                                     {of.units_.lengthSystem, kDigits, false});
+        return drawcore::WriteLength(units * unit.millimeters, unit, {of.units_.lengthSystem, kDigits, false});
     }
 
     static std::string GetWidth(const PropertyTexts& of, const Look& look) {
@@ -289,17 +288,15 @@ struct PropertyForms {
 // In the order in which they are set: how a width is read depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
     {kPropLayer, all,
-     [](const PropertyTexts& of, const Look& look) {
-         return dxf::ToDisplayText(of.document_.At(look.layer).name);
-     },
+     [](const PropertyTexts& of, const Look& look) { return dxf::ToDisplayText(of.document_.At(look.layer).name); },
      SetLayer},
     {kPropInfo, all, [](const PropertyTexts&, const Look& look) { return look.info; },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.info = text; }},
     {kPropStyleTree, all, [](const PropertyTexts&, const Look& look) { return look.styleTree; }, SetTree},
     {kPropPenColor, all, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.color = ReadColor(text, false); }},
-    {kPropScaleSystem, shapes,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); }, SetSystem},
+    {kPropScaleSystem, shapes, [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
+     SetSystem},
     {kPropPenWidth, shapes, GetWidth, SetWidth},
     {kPropPenStyle, shapes | inserts, GetLineType, SetLineType},
     {kPropPenScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
@@ -310,20 +307,13 @@ const PropertyForms PropertyForms::kAll[] = {
          look.dashesFitted = ValueOf(kSwitch, text) != 0;
      }},
     {kPropBrushStyle, shapes, GetBrush, SetBrush},
-    {kPropBrushColor, shapes,
-     [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.brush.color = ReadColor(text, true);
-     }},
-    {kPropBrushScale, shapes,
-     [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
+    {kPropBrushColor, shapes, [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.color = ReadColor(text, true); }},
+    {kPropBrushScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.scale = ReadNumber(text); }},
     {kPropBrushAngle, shapes, GetAngle, SetAngle},
-    {kPropHatchCross, shapes,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.brush.cross = ValueOf(kSwitch, text) != 0;
-     }},
+    {kPropHatchCross, shapes, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
+     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.cross = ValueOf(kSwitch, text) != 0; }},
     {kPropBrushDrawMode, shapes,
      [](const PropertyTexts&, const Look& look) { return TextOf(kDrawModes, look.brush.winding); },
      [](const PropertyTexts&, const std::string& text, Look& look) {
@@ -331,11 +321,10 @@ const PropertyForms PropertyForms::kAll[] = {
      }},
     {kPropTextFont, texts, [](const PropertyTexts&, const Look& look) { return look.text.font; },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.text.font = text; }},
-    {kPropTextSize, texts,
-     [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); }, SetSize},
+    {kPropTextSize, texts, [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); },
+     SetSize},
     {kPropTextStyle, texts, GetEffects, SetEffects},
-    {kPropTextFormat, texts,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
+    {kPropTextFormat, texts, [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
      [](const PropertyTexts&, const std::string& text, Look& look) {
          look.text.format = static_cast<uint16_t>(ValueOf(kFormats, text));
      }},
@@ -377,9 +366,7 @@ std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
 }
 
 bool PropertyTexts::Has(const dxf::Entity& entity, std::string_view name) {
-    const auto is = [&](auto... kinds) {
-        return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...);
-    };
+    const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
     if (is(dxf::Apart<dxf::Viewport>())) return false;
     const int owner = is(dxf::Apart<dxf::Text>(), dxf::Apart<dxf::MText>())         ? PropertyForms::texts
                       : is(dxf::Apart<dxf::Insert>(), dxf::Apart<dxf::Dimension>()) ? PropertyForms::inserts
@@ -412,8 +399,7 @@ bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document&
         return type < dxf::LineTypeIndex::none ? FoldName(dxf::ToDisplayText(of.At(type).name))
                                                : std::to_string(static_cast<uint32_t>(type));
     };
-    if (!Same(dxf::ToDisplayText(a.At(one.layer).name), dxf::ToDisplayText(b.At(other.layer).name)))
-        return false;
+    if (!Same(dxf::ToDisplayText(a.At(one.layer).name), dxf::ToDisplayText(b.At(other.layer).name))) return false;
     if (name(a, one.lineType) != name(b, other.lineType)) return false;
     Look adapted = other;
     adapted.layer = one.layer;

@@ -22,10 +22,8 @@ void HasItsTables(const Subject& s) {
     long color = -1;
     Require(CALL(s.host, TableGetIntVar)(application->pVariables, kVarPreviewBackground, &color),
             "pVariables has no integer 0x%X (background of previews)", kVarPreviewBackground);
-    Require(color >= 0 && color <= 0xFFFFFF, "the background of previews is 0x%lX, which is not a COLORREF",
-            color);
-    Require(s.drawing->pUnits == s.Table(kTableUnits), "pUnits of the drawing is not its table %s",
-            kTableUnits);
+    Require(color >= 0 && color <= 0xFFFFFF, "the background of previews is 0x%lX, which is not a COLORREF", color);
+    Require(s.drawing->pUnits == s.Table(kTableUnits), "pUnits of the drawing is not its table %s", kTableUnits);
 }
 
 void StoresAPathThatFits(const Subject& s) {
@@ -44,8 +42,8 @@ void DetectsPaletteDevices(const Subject& s) {
 }
 
 void HasTheStrings(const Subject& s) {
-    for (const unsigned int id : {kStringByBlock, kStringByLayer, kStringLastColor, kStringNoBrush,
-                                  kStringPaperScale, kStringWorldScale, kStringSampleText}) {
+    for (const unsigned int id : {kStringByBlock, kStringByLayer, kStringLastColor, kStringNoBrush, kStringPaperScale,
+                                  kStringWorldScale, kStringSampleText}) {
         char text[64] = "";
         const int length = CALL(s.host, DrawCoreLoadString)(id, text, sizeof text);
         Require(length > 0 && length == static_cast<int>(std::strlen(text)),
@@ -108,13 +106,11 @@ void SizesPalettes(const Subject& s) {
         DWORD used, compression;
         int expected;
     };
-    const Row rows[] = {{sizeof(BITMAPINFOHEADER), 1, 0, BI_RGB, 8},
-                        {sizeof(BITMAPINFOHEADER), 8, 0, BI_RGB, 1024},
-                        {sizeof(BITMAPINFOHEADER), 8, 10, BI_RGB, 40},
-                        {sizeof(BITMAPINFOHEADER), 24, 0, BI_RGB, 0},
-                        {sizeof(BITMAPINFOHEADER), 32, 0, BI_BITFIELDS, 12},
-                        {sizeof(BITMAPINFOHEADER), 8, 0xFFFFFFFF, BI_RGB, 0},
-                        {sizeof(BITMAPINFOHEADER) + 1, 8, 0, BI_RGB, 0}};
+    const Row rows[] = {
+        {sizeof(BITMAPINFOHEADER), 1, 0, BI_RGB, 8},         {sizeof(BITMAPINFOHEADER), 8, 0, BI_RGB, 1024},
+        {sizeof(BITMAPINFOHEADER), 8, 10, BI_RGB, 40},       {sizeof(BITMAPINFOHEADER), 24, 0, BI_RGB, 0},
+        {sizeof(BITMAPINFOHEADER), 32, 0, BI_BITFIELDS, 12}, {sizeof(BITMAPINFOHEADER), 8, 0xFFFFFFFF, BI_RGB, 0},
+        {sizeof(BITMAPINFOHEADER) + 1, 8, 0, BI_RGB, 0}};
     for (const Row& row : rows) {
         BITMAPV5HEADER header = {};
         header.bV5Size = row.size;
@@ -123,9 +119,8 @@ void SizesPalettes(const Subject& s) {
         header.bV5ClrUsed = row.used;
         header.bV5Compression = row.compression;
         const int found = CALL(s.host, PaletteSize)(&header);
-        Require(found == row.expected,
-                "returned %d, expected %d, for a header of %lu bytes, %u bits, %lu colors", found,
-                row.expected, row.size, row.bits, row.used);
+        Require(found == row.expected, "returned %d, expected %d, for a header of %lu bytes, %u bits, %lu colors",
+                found, row.expected, row.size, row.bits, row.used);
     }
 }
 

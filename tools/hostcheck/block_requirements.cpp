@@ -33,8 +33,8 @@ public:
 };
 
 void IsTheBlockTable(const Subject& s) {
-    Require(CALL(s.host, BlocksFromDrawing)(s.drawing) == s.Table(kTableBlocks),
-            "returned another table than %s", kTableBlocks);
+    Require(CALL(s.host, BlocksFromDrawing)(s.drawing) == s.Table(kTableBlocks), "returned another table than %s",
+            kTableBlocks);
     Require(!CALL(s.host, BlocksFromDrawing)(nullptr), "returned a table for null");
 }
 
@@ -48,8 +48,7 @@ void AddsBlocks(const Subject& s) {
 
 void ReturnsTheContents(const Subject& s) {
     const Block block(s);
-    Require(CALL(s.host, BlockGetGraphic)(block.blocks, block.id) == block.contents,
-            "returned another graphic");
+    Require(CALL(s.host, BlockGetGraphic)(block.blocks, block.id) == block.contents, "returned another graphic");
     Require(CALL(s.host, TableEntryGetData)(block.blocks, block.id) == block.contents,
             "TableEntryGetData returned another graphic");
     Require(!CALL(s.host, BlockGetGraphic)(block.blocks, 0), "returned a graphic for block 0");
@@ -76,10 +75,9 @@ void RequireCorners(const Subject& s, GraphicStruct* insertion, double x, double
     Require(corners.size() == 4, "the insertion has %zu vertices instead of 4", corners.size());
     const double axes[4][3] = {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     for (int i = 0; i < 4; ++i)
-        Require(corners[i]->x == x + axes[i][0] && corners[i]->y == y + axes[i][1] &&
-                    corners[i]->z == axes[i][2],
-                "vertex %d is at %g, %g, %g; expected: the origin and the end points of the axes", i,
-                corners[i]->x, corners[i]->y, corners[i]->z);
+        Require(corners[i]->x == x + axes[i][0] && corners[i]->y == y + axes[i][1] && corners[i]->z == axes[i][2],
+                "vertex %d is at %g, %g, %g; expected: the origin and the end points of the axes", i, corners[i]->x,
+                corners[i]->y, corners[i]->z);
 }
 
 void PlacesInsertions(const Subject& s) {

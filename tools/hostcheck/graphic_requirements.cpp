@@ -15,8 +15,7 @@ Value Read(const Subject& s, GraphicStruct* graphic, const char* name, int vt) {
     const PropertyTable* table = CALL(s.host, GraphicGetVtbl)(graphic);
     int32_t number = 0;
     Value value{};
-    Require(table && table->PropLookup(graphic, &name, 1, 0, &number), "the graphic has no property %s",
-            name);
+    Require(table && table->PropLookup(graphic, &name, 1, 0, &number), "the graphic has no property %s", name);
     Require(table->PropGet(graphic, number, vt, &value), "%s: PropGet returned 0", name);
     return value;
 }
@@ -41,8 +40,7 @@ void OwnsWhatIsAdded(const Subject& s) {
     GraphicStruct* child = s.NewSquare(1).release();
     Require(CALL(s.host, GraphicAdd)(group.get(), child) == child, "did not return the child");
     Require(OwnerOf(child) == group.get(), "pParent of the child is not the parent, or kFlagNoParent is set");
-    Require(s.Members(group.get()) == std::vector<GraphicStruct*>{child},
-            "the child is not a member of the parent");
+    Require(s.Members(group.get()) == std::vector<GraphicStruct*>{child}, "the child is not a member of the parent");
 }
 
 void ReleasesWhatIsDeleted(const Subject& s) {
@@ -75,13 +73,11 @@ void CopiesWithMembers(const Subject& s) {
     Owned<GraphicStruct> copy(CALL(s.host, GraphicCopyEx)(original.get(), 0, 0, 7), original.get_deleter());
     Require(copy && copy.get() != original.get(), "did not return a copy");
     Require(copy->bType == original->bType && !OwnerOf(copy.get()), "the copy has another type or an owner");
-    Require(Read<uint32_t>(s, copy.get(), kPropPenColor, VT_UI4) == 0x123456,
-            "the copy has another pen color");
-    Require(s.Vertices(copy.get()).size() == 5, "the copy has %zu of 5 vertices",
-            s.Vertices(copy.get()).size());
+    Require(Read<uint32_t>(s, copy.get(), kPropPenColor, VT_UI4) == 0x123456, "the copy has another pen color");
+    Require(s.Vertices(copy.get()).size() == 5, "the copy has %zu of 5 vertices", s.Vertices(copy.get()).size());
     const auto parts = s.Members(copy.get());
-    Require(parts.size() == 1 && parts != s.Members(original.get()),
-            "the copy has %zu new members instead of 1", parts.size());
+    Require(parts.size() == 1 && parts != s.Members(original.get()), "the copy has %zu new members instead of 1",
+            parts.size());
     CALL(s.host, GraphicSetPenColor)(copy.get(), 0);
     Require(Read<uint32_t>(s, original.get(), kPropPenColor, VT_UI4) == 0x123456,
             "changing the copy changed the original");
@@ -91,8 +87,7 @@ void AttachesToADrawing(const Subject& s) {
     const auto graphic = s.NewGraphic(kGraphicVertices);
     GraphicStruct* part = CALL(s.host, GraphicAdd)(graphic.get(), s.NewGraphic(kGraphicVertices).release());
     CALL(s.host, GraphicAttach)(graphic.get(), s.drawing);
-    Require(CALL(s.host, GraphicGetDrawing)(graphic.get()) == s.drawing,
-            "GraphicGetDrawing returned another drawing");
+    Require(CALL(s.host, GraphicGetDrawing)(graphic.get()) == s.drawing, "GraphicGetDrawing returned another drawing");
     Require(CALL(s.host, GraphicGetDrawing)(part) == s.drawing, "a member of the graphic is not attached");
     CALL(s.host, GraphicAttach)(graphic.get(), nullptr);
     Require(!CALL(s.host, GraphicGetDrawing)(graphic.get()), "null did not detach the graphic");
@@ -117,14 +112,13 @@ void Sets(const Subject& s, void (*call)(GraphicStruct*, Argument), const char* 
     const auto square = s.NewSquare(1);
     call(square.get(), static_cast<Argument>(value));
     const auto found = Read<Value>(s, square.get(), name, vt);
-    Require(found == value, "%s is %g instead of %g", name, static_cast<double>(found),
-            static_cast<double>(value));
+    Require(found == value, "%s is %g instead of %g", name, static_cast<double>(found), static_cast<double>(value));
 }
 
-#define SETS(name, property, vt, value)                                                                      \
-    {                                                                                                        \
-#name, "sets the property " #property,                                                               \
-            [](const Subject& s) { Sets(s, CALL(s.host, name), property, vt, value); }                       \
+#define SETS(name, property, vt, value)                                                                                \
+    {                                                                                                                  \
+#name, "sets the property " #property,                                                                         \
+            [](const Subject& s) { Sets(s, CALL(s.host, name), property, vt, value); }                                 \
     }
 
 const Requirement kRows[] = {

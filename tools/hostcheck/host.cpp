@@ -5,8 +5,7 @@
 #include <stdexcept>
 
 Host::Host(const wchar_t* file) : module_(::LoadLibraryW(file)) {
-    if (!module_)
-        throw std::runtime_error("cannot load the database: error " + std::to_string(::GetLastError()));
+    if (!module_) throw std::runtime_error("cannot load the database: error " + std::to_string(::GetLastError()));
 }
 
 bool Host::Has(const char* name) const {

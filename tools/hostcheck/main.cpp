@@ -12,10 +12,9 @@
 
 namespace {
 
-constexpr char kUsage[] =
-    "usage: hostcheck DATABASE.dll [--drawing FILE]\n"
-    "Checks a drawing database against the contract and prints a line for each requirement.\n"
-    "Exit code: 0 all checks passed, 1 some failed, 2 nothing was checked.\n";
+constexpr char kUsage[] = "usage: hostcheck DATABASE.dll [--drawing FILE]\n"
+                          "Checks a drawing database against the contract and prints a line for each requirement.\n"
+                          "Exit code: 0 all checks passed, 1 some failed, 2 nothing was checked.\n";
 
 // Returns the absolute path.
 std::wstring FullPath(const std::wstring& path) {

@@ -22,8 +22,8 @@ Point Transform(const MatrixStruct& m, const Point& p) {
 void RequireAt(const Point& found, const Point& expected) {
     const double off =
         std::fabs(found.x - expected.x) + std::fabs(found.y - expected.y) + std::fabs(found.z - expected.z);
-    Require(off < 1e-9, "a point is transformed to %g, %g, %g instead of %g, %g, %g", found.x, found.y,
-            found.z, expected.x, expected.y, expected.z);
+    Require(off < 1e-9, "a point is transformed to %g, %g, %g instead of %g, %g, %g", found.x, found.y, found.z,
+            expected.x, expected.y, expected.z);
 }
 
 void Scales(const Subject& s) {

@@ -13,8 +13,7 @@ struct Type {
     int type;
     int bit;
 };
-constexpr Type kTypes[] = {
-    {kGraphicVertices, kShapes}, {kGraphicText, kTexts}, {kGraphicInsert, kInsertions}};
+constexpr Type kTypes[] = {{kGraphicVertices, kShapes}, {kGraphicText, kTexts}, {kGraphicInsert, kInsertions}};
 
 // value: a value that every graphic accepts; for VT_BSTR it is "Arial".
 struct Row {
@@ -61,11 +60,9 @@ public:
     uint64_t Get(int vt) const {
         unsigned char bytes[16];
         std::memset(bytes, 0xAB, sizeof bytes);
-        Require(table_->PropGet(graphic_, number_, vt, bytes), "%s: PropGet returned 0 for type 0x%02X",
-                name_, vt);
+        Require(table_->PropGet(graphic_, number_, vt, bytes), "%s: PropGet returned 0 for type 0x%02X", name_, vt);
         for (size_t i = SizeOf(vt); i < sizeof bytes; ++i)
-            Require(bytes[i] == 0xAB, "%s: PropGet wrote more than %zu bytes for type 0x%02X", name_,
-                    SizeOf(vt), vt);
+            Require(bytes[i] == 0xAB, "%s: PropGet wrote more than %zu bytes for type 0x%02X", name_, SizeOf(vt), vt);
         uint64_t value = 0;
         std::memcpy(&value, bytes, SizeOf(vt));
         return value;
@@ -75,8 +72,8 @@ public:
     std::string GetText() const {
         char* text = nullptr;
         for (int pass = 0; pass < 2; ++pass) // the second string must replace the first one
-            Require(table_->PropGet(graphic_, number_, VT_BSTR, &text) && text,
-                    "%s: PropGet returned no string", name_);
+            Require(table_->PropGet(graphic_, number_, VT_BSTR, &text) && text, "%s: PropGet returned no string",
+                    name_);
         const std::string copy = text;
         CALL(subject_.host, BStringNULL)(&text);
         return copy;
@@ -147,16 +144,14 @@ void AcceptsReturnedValues(const Subject& s) {
     ForEachProperty(s, [](const Property& property, const Row& row) {
         if (row.get == VT_BSTR) {
             const std::string text = property.GetText();
-            Require(property.SetText(text.c_str()), "%s: PropSet rejects \"%s\", which PropGet returned",
-                    row.name, text.c_str());
+            Require(property.SetText(text.c_str()), "%s: PropSet rejects \"%s\", which PropGet returned", row.name,
+                    text.c_str());
             return;
         }
         const uint64_t value = property.Get(row.get);
-        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX, which PropGet returned", row.name,
-                value);
-        Require(property.Get(row.get) == value,
-                "%s: PropSet of the returned value 0x%llX changed it to 0x%llX", row.name, value,
-                property.Get(row.get));
+        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX, which PropGet returned", row.name, value);
+        Require(property.Get(row.get) == value, "%s: PropSet of the returned value 0x%llX changed it to 0x%llX",
+                row.name, value, property.Get(row.get));
     });
 }
 
@@ -166,15 +161,14 @@ void ReturnsSetValues(const Subject& s) {
             char own[] = "Arial";
             Require(property.SetText(own), "%s: PropSet rejects \"Arial\"", row.name);
             own[0] = 'x'; // the database must have copied the text
-            Require(property.GetText() == "Arial", "%s: set to \"Arial\", but PropGet returns \"%s\"",
-                    row.name, property.GetText().c_str());
+            Require(property.GetText() == "Arial", "%s: set to \"Arial\", but PropGet returns \"%s\"", row.name,
+                    property.GetText().c_str());
             return;
         }
         const uint64_t value = BitsOf(row);
-        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value,
-                row.set);
-        Require(property.Get(row.get) == value, "%s: set to 0x%llX, but PropGet returns 0x%llX", row.name,
-                value, property.Get(row.get));
+        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value, row.set);
+        Require(property.Get(row.get) == value, "%s: set to 0x%llX, but PropGet returns 0x%llX", row.name, value,
+                property.Get(row.get));
     });
 }
 
@@ -182,11 +176,10 @@ void AcceptsPreviewTypes(const Subject& s) {
     ForEachProperty(s, [](const Property& property, const Row& row) {
         if (row.preview == row.set) return;
         const uint64_t value = BitsOf(row);
-        Require(property.Set(row.preview, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name,
-                value, row.preview);
-        Require(property.Get(row.get) == value,
-                "%s: set to 0x%llX as type 0x%02X, but PropGet returns 0x%llX", row.name, value, row.preview,
-                property.Get(row.get));
+        Require(property.Set(row.preview, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value,
+                row.preview);
+        Require(property.Get(row.get) == value, "%s: set to 0x%llX as type 0x%02X, but PropGet returns 0x%llX",
+                row.name, value, row.preview, property.Get(row.get));
     });
 }
 
@@ -203,8 +196,7 @@ void KeepsRejectedProperties(const Subject& s) {
     const Property format(s, text.get(), kPropTextFormat);
     const uint64_t before = format.Get(VT_UI2);
     if (format.Set(VT_UI2, 777)) return; // a host may support more formats than the sheet
-    Require(format.Get(VT_UI2) == before, "rejects format 777, but has changed the format to %llu",
-            format.Get(VT_UI2));
+    Require(format.Get(VT_UI2) == before, "rejects format 777, but has changed the format to %llu", format.Get(VT_UI2));
 }
 
 constexpr Requirement kRows[] = {

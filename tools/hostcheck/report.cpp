@@ -33,13 +33,13 @@ public:
         wchar_t own[MAX_PATH];
         ::GetModuleFileNameW(nullptr, own, MAX_PATH);
         std::wstring command = L"\"" + std::wstring(own) + L"\" --inspect " +
-                               std::to_wstring(reinterpret_cast<uintptr_t>(write)) + L" " +
-                               std::to_wstring(first) + L" \"" + database + L"\" \"" + drawingFile + L"\"";
+                               std::to_wstring(reinterpret_cast<uintptr_t>(write)) + L" " + std::to_wstring(first) +
+                               L" \"" + database + L"\" \"" + drawingFile + L"\"";
         STARTUPINFOW start = {};
         start.cb = sizeof start;
         PROCESS_INFORMATION process = {};
-        for (int attempt = 1; !::CreateProcessW(own, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                                &start, &process);
+        for (int attempt = 1;
+             !::CreateProcessW(own, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process);
              ++attempt) {
             if (attempt == kAttempts) throw std::runtime_error("cannot start the child process");
             ::Sleep(kBetweenAttempts);
@@ -109,8 +109,7 @@ std::string DescribeEnd(DWORD code) {
 }
 
 void Print(const Requirement& requirement, const std::string& violation) {
-    std::printf("%-7s %-26s %s", violation.empty() ? "passed" : "FAILED", requirement.function,
-                requirement.what);
+    std::printf("%-7s %-26s %s", violation.empty() ? "passed" : "FAILED", requirement.function, requirement.what);
     if (!violation.empty()) std::printf("\n%35s%s", "", ("found: " + violation).c_str());
     std::printf("\n");
     std::fflush(stdout);

@@ -66,8 +66,7 @@ Owned<GraphicStruct> Subject::NewSquare(double size) const {
     Owned<GraphicStruct> square = NewGraphic(kGraphicVertices);
     const double corners[][2] = {{0, 0}, {size, 0}, {size, size}, {0, size}, {0, 0}};
     for (const auto& [x, y] : corners)
-        Require(CALL(host, GraphicVertexAdd)(square.get(), NewVertex(x, y, 0).get()),
-                "GraphicVertexAdd returned 0");
+        Require(CALL(host, GraphicVertexAdd)(square.get(), NewVertex(x, y, 0).get()), "GraphicVertexAdd returned 0");
     CALL(host, GraphicAttach)(square.get(), drawing);
     return square;
 }
@@ -118,10 +117,9 @@ const std::vector<Requirement>& AllRequirements() {
         std::vector<Requirement> requirements;
         for (const char* function : kFunctions)
             requirements.push_back({function, kIsExported, nullptr});
-        for (const Topic& topic :
-             {kApplicationRequirements, kTableRequirements, kUnitRequirements, kGraphicRequirements,
-              kPropertyRequirements, kVertexRequirements, kMatrixRequirements, kBlockRequirements,
-              kStyleRequirements, kViewRequirements})
+        for (const Topic& topic : {kApplicationRequirements, kTableRequirements, kUnitRequirements,
+                                   kGraphicRequirements, kPropertyRequirements, kVertexRequirements,
+                                   kMatrixRequirements, kBlockRequirements, kStyleRequirements, kViewRequirements})
             requirements.insert(requirements.end(), topic.rows, topic.rows + topic.count);
         return requirements;
     }();

@@ -38,8 +38,8 @@ void CopiesAllItems(const Subject& s) {
             item = HUGE_VAL;
         Require(CALL(s.host, LineStyleGetPattern)(styles, id, pattern), "line style %u has no pattern", id);
         for (int i = 0; i <= kMaxDashes; ++i)
-            Require(std::isfinite(pattern[i]) == (i < items), "line style %u has %d items, but item %d is %g",
-                    id, items, i, pattern[i]);
+            Require(std::isfinite(pattern[i]) == (i < items), "line style %u has %d items, but item %d is %g", id,
+                    items, i, pattern[i]);
     }
 }
 
@@ -68,11 +68,11 @@ void HatchesHaveLines(const Subject& s) {
                    dashes[kMaxDashes];
             int dashCount = -1;
             CALL(s.host, BrushPatternGetData)(lines, &angle, &x, &y, &along, &spacing, &dashCount, dashes);
-            Require(std::isfinite(angle + x + y + along + spacing),
-                    "brush style %u, family %d: a value was not stored", id, families);
+            Require(std::isfinite(angle + x + y + along + spacing), "brush style %u, family %d: a value was not stored",
+                    id, families);
             Require(spacing != 0, "brush style %u, family %d: the distance of the lines is 0", id, families);
-            Require(dashCount >= 0 && dashCount <= kMaxDashes, "brush style %u, family %d: %d dashes", id,
-                    families, dashCount);
+            Require(dashCount >= 0 && dashCount <= kMaxDashes, "brush style %u, family %d: %d dashes", id, families,
+                    dashCount);
             Require(++families < 10000, "brush style %u: the iteration does not end", id);
         }
         Require(families > 0, "brush style %u has the flag kBrushHasLines, but no lines", id);

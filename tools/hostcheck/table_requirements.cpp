@@ -33,8 +33,7 @@ void ForEachEntry(const Subject& s, Visit visit) {
 void HasTheTables(const Subject& s) {
     for (const char* name : kTables)
         s.Table(name);
-    Require(!CALL(s.host, DrawingGetTable)(s.drawing, "no such table"),
-            "returned a table for an unknown name");
+    Require(!CALL(s.host, DrawingGetTable)(s.drawing, "no such table"), "returned a table for an unknown name");
     for (const char* name : {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors})
         Require(!s.Entries(s.Table(name)).empty(), "%s is empty", name);
 }
@@ -43,9 +42,8 @@ void ReturnsEachEntryOnce(const Subject& s) {
     for (const char* name : kTables) {
         const auto entries = s.Entries(s.Table(name));
         const std::set<uint16_t> different(entries.begin(), entries.end());
-        Require(different.size() == entries.size(),
-                "%s: returned %zu identifiers, of which %zu are different", name, entries.size(),
-                different.size());
+        Require(different.size() == entries.size(), "%s: returned %zu identifiers, of which %zu are different", name,
+                entries.size(), different.size());
         Require(entries == s.Entries(s.Table(name)), "%s: a second iteration returned other entries", name);
     }
 }
@@ -67,8 +65,7 @@ void TruncatesNames(const Subject& s) {
     ForEachEntry(s, [&](TableStruct* table, const char* name, uint16_t id) {
         const std::string whole = NameOf(s, table, id);
         char cut[4] = {kUntouched, kUntouched, kUntouched, kUntouched};
-        Require(CALL(s.host, TableEntryGetName)(table, id, cut, 3), "%s: returned 0 for a buffer of 3 bytes",
-                name);
+        Require(CALL(s.host, TableEntryGetName)(table, id, cut, 3), "%s: returned 0 for a buffer of 3 bytes", name);
         Require(cut[3] == kUntouched, "%s: wrote past the end of a buffer of 3 bytes", name);
         Require(whole.substr(0, 2) == cut, "%s: did not store the beginning of \"%s\"", name, whole.c_str());
     });
@@ -103,15 +100,14 @@ void ReturnsColors(const Subject& s) {
         const void* data = CALL(s.host, TableEntryGetData)(colors, id);
         Require(data, "color %u has no data", id);
         const uint32_t color = *static_cast<const uint32_t*>(data);
-        Require(color <= 0xFFFFFF || color >= kColorOfPen,
-                "color %u is 0x%X, which is neither a COLORREF nor a marker", id, color);
+        Require(color <= 0xFFFFFF || color >= kColorOfPen, "color %u is 0x%X, which is neither a COLORREF nor a marker",
+                id, color);
     }
 }
 
 void BelongsToTheDrawing(const Subject& s) {
     for (const char* name : kTables)
-        Require(CALL(s.host, TableGetOwner)(s.Table(name)) == s.drawing, "%s belongs to another drawing",
-                name);
+        Require(CALL(s.host, TableGetOwner)(s.Table(name)) == s.drawing, "%s belongs to another drawing", name);
 }
 
 void TreatsNullAsEmpty(const Subject& s) {
@@ -122,16 +118,13 @@ void TreatsNullAsEmpty(const Subject& s) {
     const Host& host = s.host;
     Require(!CALL(host, TableEntryFirst)(nullptr, &cookie), "TableEntryFirst returned an entry");
     Require(!CALL(host, TableEntryNext)(nullptr, &cookie), "TableEntryNext returned an entry");
-    Require(!CALL(host, TableEntryGetName)(nullptr, 1, text, sizeof text),
-            "TableEntryGetName returned a name");
+    Require(!CALL(host, TableEntryGetName)(nullptr, 1, text, sizeof text), "TableEntryGetName returned a name");
     Require(!CALL(host, TableEntryGetData)(nullptr, 1), "TableEntryGetData returned data");
-    Require(!CALL(host, TableEntryGetIDFirst)(nullptr, &cookie, "0"),
-            "TableEntryGetIDFirst returned an entry");
+    Require(!CALL(host, TableEntryGetIDFirst)(nullptr, &cookie, "0"), "TableEntryGetIDFirst returned an entry");
     Require(!CALL(host, TableGetOwner)(nullptr), "TableGetOwner returned a drawing");
     Require(!CALL(host, TableGetIntVar)(nullptr, 1, &whole), "TableGetIntVar returned a value");
     Require(!CALL(host, TableGetNumericVar)(nullptr, 1, &real), "TableGetNumericVar returned a value");
-    Require(!CALL(host, TableGetStringVar)(nullptr, 1, text, sizeof text),
-            "TableGetStringVar returned a string");
+    Require(!CALL(host, TableGetStringVar)(nullptr, 1, text, sizeof text), "TableGetStringVar returned a string");
 }
 
 void StoresIntegers(const Subject& s) {
@@ -145,8 +138,7 @@ void StoresIntegers(const Subject& s) {
 
 void StoresDoubles(const Subject& s) {
     double found = 5;
-    Require(CALL(s.host, TableSetNumericVar)(s.Units(), kUnusedVariable, 0.1),
-            "TableSetNumericVar returned 0");
+    Require(CALL(s.host, TableSetNumericVar)(s.Units(), kUnusedVariable, 0.1), "TableSetNumericVar returned 0");
     Require(CALL(s.host, TableGetNumericVar)(s.Units(), kUnusedVariable, &found) && found == 0.1,
             "returned %g after setting 0.1", found);
 }
@@ -185,10 +177,8 @@ constexpr Requirement kRows[] = {
     {"TableEntryFirst", "and all functions of tables treat null as an empty table", TreatsNullAsEmpty},
     {"TableSetIntVar", "stores 32-bit integers that TableGetIntVar returns", StoresIntegers},
     {"TableSetNumericVar", "stores doubles that TableGetNumericVar returns", StoresDoubles},
-    {"TableSetStringVar", "stores a copy of a string that TableGetStringVar returns, truncated",
-     StoresStrings},
-    {"TableGetIntVar", "returns 0 for a variable of another type; the value is unchanged",
-     DistinguishesTypes},
+    {"TableSetStringVar", "stores a copy of a string that TableGetStringVar returns, truncated", StoresStrings},
+    {"TableGetIntVar", "returns 0 for a variable of another type; the value is unchanged", DistinguishesTypes},
 };
 
 } // namespace

@@ -46,8 +46,7 @@ void LengthsRoundTrip(const Subject& s) {
             RequireRoundTrip(
                 {0, 0.25, 1, 12.5, 3000},
                 [&](double value, char* text, int size) {
-                    return CALL(s.host, UnitsNumericToTextEx)(s.Units(), display, number, value, text, size,
-                                                              0, 1);
+                    return CALL(s.host, UnitsNumericToTextEx)(s.Units(), display, number, value, text, size, 0, 1);
                 },
                 [&](const char* text, double* value) {
                     return CALL(s.host, UnitsTextToNumericEx)(s.Units(), number, display, text, value);
@@ -90,15 +89,13 @@ void HasTheNumberFirst(const Subject& s) {
     double found = 0;
     Require(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitDrawing, kUnitMillimeter, "25", &found),
             "cannot read \"25\"");
-    Require(IsNear(found, 25 / unit.millimeters), "read 25 mm as %g drawing units of %g mm", found,
-            unit.millimeters);
+    Require(IsNear(found, 25 / unit.millimeters), "read 25 mm as %g drawing units of %g mm", found, unit.millimeters);
 }
 
 void HasTheDisplayFirst(const Subject& s) {
     const Centimeters unit(s);
     char text[64] = "";
-    Require(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimeter, kUnitDrawing, 2.5, text,
-                                               sizeof text, 0, 0),
+    Require(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimeter, kUnitDrawing, 2.5, text, sizeof text, 0, 0),
             "did not write the length");
     char* end = nullptr;
     const double found = CALL(s.host, StringToDouble)(0, text, &end);
@@ -108,8 +105,7 @@ void HasTheDisplayFirst(const Subject& s) {
 
 void PaperIsInMillimeters(const Subject& s) {
     double found = 0;
-    Require(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitPenWidth, 0, "2 mm", &found) &&
-                IsNear(found, 2),
+    Require(CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitPenWidth, 0, "2 mm", &found) && IsNear(found, 2),
             "read 2 mm as %g", found);
 }
 
@@ -155,12 +151,10 @@ void LengthsInSpacesRoundTrip(const Subject& s) {
         RequireRoundTrip(
             {0, 0.25, 1, 12.5, 3000},
             [&](double value, char* text, int size) {
-                return CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, value, text, size, space,
-                                                               TextUnitIn(space));
+                return CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, value, text, size, space, TextUnitIn(space));
             },
             [&](const char* text, double* value) {
-                return CALL(s.host, DrawingStdTextToNumericEx)(s.drawing, text, value, space,
-                                                               TextUnitIn(space));
+                return CALL(s.host, DrawingStdTextToNumericEx)(s.drawing, text, value, space, TextUnitIn(space));
             });
 }
 
@@ -170,8 +164,7 @@ void DevicesHaveNoLengths(const Subject& s) {
     Require(!CALL(s.host, DrawingStdTextToNumericEx)(s.drawing, "1", &value, kSpaceDevice, kUnitTextSize) &&
                 value == 77,
             "read \"1\" as %g in device space", value);
-    Require(!CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, 1, text, sizeof text, kSpaceDevice,
-                                                     kUnitTextSize),
+    Require(!CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, 1, text, sizeof text, kSpaceDevice, kUnitTextSize),
             "wrote 1 in device space");
 }
 
@@ -211,8 +204,7 @@ void ReturnsTheAngularSystem(const Subject& s) {
 void ScalesRoundTrip(const Subject& s) {
     for (const double scale : {1.0, 48.0, 0.125, 2500.0}) {
         char text[64] = "";
-        Require(CALL(s.host, UnitsMakeScaleString)(s.Units(), scale, text, sizeof text), "did not write %g",
-                scale);
+        Require(CALL(s.host, UnitsMakeScaleString)(s.Units(), scale, text, sizeof text), "did not write %g", scale);
         const double found = CALL(s.host, UnitsGetScaleValue)(s.Units(), text);
         Require(IsNear(found, scale), "wrote %g as \"%s\", but read that text as %g", scale, text, found);
     }
@@ -227,12 +219,11 @@ void RejectsInvalidScales(const Subject& s) {
 
 void SetsTheScale(const Subject& s) {
     char before[64] = "", after[64] = "";
-    Require(CALL(s.host, DrawingGetScaleString)(s.drawing, before, sizeof before),
-            "DrawingGetScaleString returned 0");
+    Require(CALL(s.host, DrawingGetScaleString)(s.drawing, before, sizeof before), "DrawingGetScaleString returned 0");
     Require(!CALL(s.host, DrawingSetScaleString)(s.drawing, "abc"), "accepted \"abc\"");
     CALL(s.host, DrawingGetScaleString)(s.drawing, after, sizeof after);
-    Require(std::strcmp(before, after) == 0, "rejected \"abc\", but the scale is \"%s\" instead of \"%s\"",
-            after, before);
+    Require(std::strcmp(before, after) == 0, "rejected \"abc\", but the scale is \"%s\" instead of \"%s\"", after,
+            before);
     Require(CALL(s.host, DrawingSetScaleString)(s.drawing, "1 : 48"), "rejected \"1 : 48\"");
     CALL(s.host, DrawingGetScaleString)(s.drawing, after, sizeof after);
     CALL(s.host, DrawingSetScaleString)(s.drawing, before);
@@ -252,24 +243,21 @@ void NumbersRoundTrip(const Subject& s) {
         const std::string text = NumberText(s, value, 0);
         char* end = nullptr;
         const double found = CALL(s.host, StringToDouble)(0, text.c_str(), &end);
-        Require(end == text.c_str() + text.size(),
-                "wrote %g as \"%s\", but did not read that text to its end", value, text.c_str());
-        Require(std::fabs(found - value) <= 1e-5 * std::fabs(value), "wrote %g as \"%s\"", value,
+        Require(end == text.c_str() + text.size(), "wrote %g as \"%s\", but did not read that text to its end", value,
                 text.c_str());
+        Require(std::fabs(found - value) <= 1e-5 * std::fabs(value), "wrote %g as \"%s\"", value, text.c_str());
     }
 }
 
 void WritesExponentForm(const Subject& s) {
     const std::string text = NumberText(s, 2.5e20, 1);
     const double found = CALL(s.host, StringToDouble)(0, text.c_str(), nullptr);
-    Require(text.find_first_of("eE") != std::string::npos && found == 2.5e20, "wrote 2.5e20 as \"%s\"",
-            text.c_str());
+    Require(text.find_first_of("eE") != std::string::npos && found == 2.5e20, "wrote 2.5e20 as \"%s\"", text.c_str());
 }
 
 void WritesNoTrailingZeros(const Subject& s) {
     const std::string text = NumberText(s, 2.5, 0), whole = NumberText(s, 100, 0);
-    Require(text.size() == 3 && whole == "100", "wrote 2.5 as \"%s\" and 100 as \"%s\"", text.c_str(),
-            whole.c_str());
+    Require(text.size() == 3 && whole == "100", "wrote 2.5 as \"%s\" and 100 as \"%s\"", text.c_str(), whole.c_str());
 }
 
 void ReadsTheNumberOnly(const Subject& s) {
@@ -281,42 +269,36 @@ void ReadsTheNumberOnly(const Subject& s) {
         const double value = CALL(s.host, StringToDouble)(0, none, &end);
         const bool hexadecimal =
             none[1] == 'x' && value == 0 && end == none + 1; // reading the leading 0 only is allowed
-        Require((value == 0 && end == none) || hexadecimal, "read \"%s\" as %g, up to character %td", none,
-                value, end - none);
+        Require((value == 0 && end == none) || hexadecimal, "read \"%s\" as %g, up to character %td", none, value,
+                end - none);
     }
 }
 
 constexpr Requirement kRows[] = {
     {"StringToDouble", "reads what DoubleToString writes", NumbersRoundTrip},
-    {"StringToDouble", "reads the number at the start and stores its end; 0 if there is none",
-     ReadsTheNumberOnly},
+    {"StringToDouble", "reads the number at the start and stores its end; 0 if there is none", ReadsTheNumberOnly},
     {"DoubleToString", "writes mantissa and exponent if exponentForm is 1", WritesExponentForm},
     {"DoubleToString", "writes no trailing zeros", WritesNoTrailingZeros},
     {"UnitsTextToNumericEx", "reads what UnitsNumericToTextEx writes", LengthsRoundTrip},
-    {"UnitsTextToNumericEx", "returns 0 if the text is not a length; the value is unchanged",
-     RejectsInvalidLengths},
+    {"UnitsTextToNumericEx", "returns 0 if the text is not a length; the value is unchanged", RejectsInvalidLengths},
     {"UnitsTextToNumericEx", "has the variable of the number before that of the text", HasTheNumberFirst},
     {"UnitsNumericToTextEx", "has the variable of the text before that of the number", HasTheDisplayFirst},
     {"UnitsTextToNumericEx", "returns millimeters for a length on paper", PaperIsInMillimeters},
-    {"UnitsGetLUnitValue", "stores the millimeters of the four units; 0 for another variable",
-     UnitsHaveLengths},
+    {"UnitsGetLUnitValue", "stores the millimeters of the four units; 0 for another variable", UnitsHaveLengths},
     {"DrawingStdTextToNumeric", "reads what DrawingStdNumericToText writes: lengths and text sizes",
      DrawingLengthsRoundTrip},
     {"DrawingStdTextToNumeric", "returns 0 if the text is not a length; the value is unchanged",
      RejectsInvalidDrawingLengths},
     {"DrawingStdTextToNumericEx", "reads what DrawingStdNumericToTextEx writes, in world and paper space",
      LengthsInSpacesRoundTrip},
-    {"DrawingStdTextToNumericEx", "and DrawingStdNumericToTextEx return 0 in device space",
-     DevicesHaveNoLengths},
+    {"DrawingStdTextToNumericEx", "and DrawingStdNumericToTextEx return 0 in device space", DevicesHaveNoLengths},
     {"DrawingGetCoordSpace", "returns one of the three spaces", HasASpace},
     {"DrawingStdTextToAngle", "reads what DrawingStdAngleToText writes", AnglesRoundTrip},
-    {"DrawingStdTextToAngle", "returns 0 if the text is not an angle; the value is unchanged",
-     RejectsInvalidAngles},
+    {"DrawingStdTextToAngle", "returns 0 if the text is not an angle; the value is unchanged", RejectsInvalidAngles},
     {"UnitsGetAngularSystem", "returns the system in which angles are read", ReturnsTheAngularSystem},
     {"UnitsGetScaleValue", "reads what UnitsMakeScaleString writes", ScalesRoundTrip},
     {"UnitsGetScaleValue", "returns 0.0 if the text is not a scale", RejectsInvalidScales},
-    {"DrawingSetScaleString", "sets a scale that DrawingGetScaleString returns; rejects others",
-     SetsTheScale},
+    {"DrawingSetScaleString", "sets a scale that DrawingGetScaleString returns; rejects others", SetsTheScale},
 };
 
 } // namespace

@@ -10,8 +10,7 @@ bool IsAt(const VertexStruct& vertex, double x, double y, double z) {
 
 void CreatesVertices(const Subject& s) {
     const auto vertex = s.NewVertex(1, 2, 3);
-    Require(IsAt(*vertex, 1, 2, 3), "the vertex is at %g, %g, %g instead of 1, 2, 3", vertex->x, vertex->y,
-            vertex->z);
+    Require(IsAt(*vertex, 1, 2, 3), "the vertex is at %g, %g, %g instead of 1, 2, 3", vertex->x, vertex->y, vertex->z);
     Require(vertex->wFlags & kVertexDrawn, "a new vertex does not have the flag kVertexDrawn");
 }
 
@@ -19,8 +18,7 @@ void CopiesVertices(const Subject& s) {
     const auto from = s.NewVertex(1, 2, 3);
     from->wFlags &= static_cast<uint16_t>(~kVertexDrawn);
     const Owned<VertexStruct> copy(CALL(s.host, VertexNewFromEx)(from.get()), from.get_deleter());
-    Require(copy && copy != from && IsAt(*copy, 1, 2, 3) && copy->wFlags == from->wFlags,
-            "the result is not a copy");
+    Require(copy && copy != from && IsAt(*copy, 1, 2, 3) && copy->wFlags == from->wFlags, "the result is not a copy");
     const Owned<VertexStruct> origin(CALL(s.host, VertexNewFromEx)(nullptr), from.get_deleter());
     Require(origin && IsAt(*origin, 0, 0, 0), "did not return a vertex at the origin for null");
 }
@@ -51,10 +49,9 @@ void AppendsCopies(const Subject& s) {
     const auto vertices = s.Vertices(list.get());
     Require(vertices.size() == 4, "the iteration returned %zu of 4 vertices", vertices.size());
     for (int i = 0; i < 4; ++i) {
-        Require(vertices[i] != temporary.get() && IsAt(*vertices[i], i, 2 * i, 3 * i),
-                "vertex %d has another position", i);
-        Require((vertices[i]->wFlags & kVertexDrawn) == (i % 2 ? kVertexDrawn : 0),
-                "vertex %d has other flags", i);
+        Require(vertices[i] != temporary.get() && IsAt(*vertices[i], i, 2 * i, 3 * i), "vertex %d has another position",
+                i);
+        Require((vertices[i]->wFlags & kVertexDrawn) == (i % 2 ? kVertexDrawn : 0), "vertex %d has other flags", i);
     }
 }
 
@@ -89,8 +86,7 @@ double SizeOf(const Subject& s, GraphicStruct* text) {
     const PropertyTable* table = CALL(s.host, GraphicGetVtbl)(text);
     int32_t number = 0;
     double size = 0;
-    Require(table && table->PropLookup(text, &name, 1, 0, &number) &&
-                table->PropGet(text, number, VT_R8, &size),
+    Require(table && table->PropLookup(text, &name, 1, 0, &number) && table->PropGet(text, number, VT_R8, &size),
             "a text graphic has no property %s", name);
     return size;
 }
@@ -120,8 +116,7 @@ constexpr Requirement kRows[] = {
     {"VertexSet", "moves a vertex without changing its flags", MovesVertices},
     {"VertexDispose", "sets the pointer to null", ClearsThePointer},
     {"GraphicVertexAdd", "appends a copy with its flags", AppendsCopies},
-    {"GraphicVertexFirst", "returns the vertices of the graphic, which VertexSet moves",
-     MovesVerticesOfGraphics},
+    {"GraphicVertexFirst", "returns the vertices of the graphic, which VertexSet moves", MovesVerticesOfGraphics},
     {"GraphicVertexNext", "stores the position in the cookie only", KeepsItsStateInTheCookie},
     {"GraphicVertexNext", "returns the four vertices of an insertion", InsertionsHaveFourVertices},
     {"TextSetVWHAEx", "sets position, height and text; height 0 keeps the height", SetsTexts},

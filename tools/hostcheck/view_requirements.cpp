@@ -91,15 +91,14 @@ void EmptyExtentsAreZero(const Subject& s) {
     const auto none = s.NewGraphic(kGraphicVertices);
     const ExtentsStruct* extents = CALL(s.host, GraphicGetExtentsSel)(none.get(), 0);
     const double left = CALL(s.host, ExtentsGetX1)(extents), right = CALL(s.host, ExtentsGetX2)(extents);
-    Require(left == 0 && right == 0,
-            "the extents of a graphic without vertices are %g to %g instead of 0 to 0", left, right);
+    Require(left == 0 && right == 0, "the extents of a graphic without vertices are %g to %g instead of 0 to 0", left,
+            right);
 }
 
 void Draws(const Subject& s) {
     for (const int preview : {0, 1}) {
         const RECT drawn = Scene(s, nullptr, preview).picture.Drawn();
-        Require(drawn.right > drawn.left && drawn.bottom > drawn.top, "nothing is drawn with preview %d",
-                preview);
+        Require(drawn.right > drawn.left && drawn.bottom > drawn.top, "nothing is drawn with preview %d", preview);
     }
 }
 
@@ -116,10 +115,10 @@ void StaysInItsRectangle(const Subject& s) {
     const auto factors = s.NewVertex(100, 100, 1);
     const auto larger = s.Own(CALL(s.host, MatrixScale)(nullptr, factors.get(), 0));
     const RECT drawn = Scene(s, larger.get()).picture.Drawn();
-    const bool inside = drawn.left >= kRect.left - 1 && drawn.top >= kRect.top - 1 &&
-                        drawn.right <= kRect.right && drawn.bottom <= kRect.bottom;
-    Require(inside || drawn.right < drawn.left, "drew from %ld, %ld to %ld, %ld, outside the rectangle",
-            drawn.left, drawn.top, drawn.right, drawn.bottom);
+    const bool inside = drawn.left >= kRect.left - 1 && drawn.top >= kRect.top - 1 && drawn.right <= kRect.right &&
+                        drawn.bottom <= kRect.bottom;
+    Require(inside || drawn.right < drawn.left, "drew from %ld, %ld to %ld, %ld, outside the rectangle", drawn.left,
+            drawn.top, drawn.right, drawn.bottom);
 }
 
 void DrawsByTheMatrix(const Subject& s) {
@@ -182,8 +181,7 @@ constexpr Requirement kRows[] = {
     {"ViewportSetExtents", "fits into the rectangle, centered, with the aspect ratio kept", FitsAndCenters},
     {"ViewportSetRect", "limits drawing to the rectangle", StaysInItsRectangle},
     {"GraphicDrawEx2", "transforms by the matrix", DrawsByTheMatrix},
-    {"ViewportSetGDIStuff", "and drawing do not change the state of the device context",
-     RestoresTheDeviceContext},
+    {"ViewportSetGDIStuff", "and drawing do not change the state of the device context", RestoresTheDeviceContext},
 };
 
 } // namespace

@@ -34,8 +34,7 @@ Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong co
 // "name=value"; an error names what is wrong with it.
 Assignment Split(const std::string& text) {
     const size_t equals = text.find('=');
-    if (equals == std::string::npos || equals == 0)
-        throw CLI::ValidationError("'" + text + "' should be name=value");
+    if (equals == std::string::npos || equals == 0) throw CLI::ValidationError("'" + text + "' should be name=value");
     return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
@@ -67,8 +66,7 @@ std::optional<Extent> ParseSize(const std::string& text) {
     int used = 0;
     const bool read = std::sscanf(text.c_str(), "%5ux%5u%n", &width, &height, &used) == 2;
     if (!read || static_cast<size_t>(used) != text.size() || width == 0 || height == 0)
-        throw CLI::ValidationError("--size",
-                                   "'" + text + "' should be WIDTHxHEIGHT in pixels, as in 200x150");
+        throw CLI::ValidationError("--size", "'" + text + "' should be WIDTHxHEIGHT in pixels, as in 200x150");
     return Extent{static_cast<int>(width), static_cast<int>(height)};
 }
 
@@ -82,9 +80,8 @@ std::string FieldNames() {
 class Parser {
 public:
     Parser()
-        : app_(
-              "Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more.",
-              "suminfo") {
+        : app_("Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more.",
+               "suminfo") {
         app_.allow_windows_style_options(false); // a path may begin with a slash
         app_.require_subcommand(1);
         app_.set_version_flag("--version", "suminfo " SUMINFO_VERSION);
@@ -160,8 +157,8 @@ private:
         sub->add_flag("--json", line_.json, "one line of JSON for each file");
     }
     void AddCheck() {
-        AddFiles(Add("check", Command::check,
-                     "Report everything irregular, with its offset and what readers make of it"));
+        AddFiles(
+            Add("check", Command::check, "Report everything irregular, with its offset and what readers make of it"));
     }
     void AddSet() {
         CLI::App* sub = Add("set", Command::set, "Change fields; an empty value removes one");

@@ -44,8 +44,7 @@ Report ShowJson(const Source& source);
 Report Check(const Source& source);
 
 // Changes fields and custom properties. All of them or, after a Failure, none.
-void SetFields(const std::string& file, const std::vector<Assignment>& fields,
-               const std::vector<CustomValue>& custom);
+void SetFields(const std::string& file, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom);
 void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
                   const std::vector<std::string>& custom);
 // Gives the second document the summary streams of the first.

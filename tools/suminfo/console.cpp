@@ -24,7 +24,8 @@ namespace {
 
 #ifdef _WIN32
 
-// A console gets whole texts in 16-bit characters: the runtime would hand it UTF-8 byte by byte, and tear its characters.
+// A console gets whole texts in 16-bit characters: the runtime would hand it UTF-8 byte by byte, and tear its
+// characters.
 bool PrintOnConsole(FILE* stream, const std::string& utf8) {
     const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
     DWORD mode;
@@ -70,8 +71,7 @@ void PrepareStreams() {
 void Print(FILE* stream, const std::string& utf8) {
     const std::string text = Printable(utf8);
     if (PrintOnConsole(stream, text)) return;
-    const bool isWritten =
-        std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;
     // A program that has read enough has closed the pipe; anything else is reported.
     if (!HasReaderGone()) Print(stderr, "suminfo: the output can't be written\n");

@@ -19,9 +19,8 @@ orlo::CompoundReader Open(const std::string& file) {
 }
 
 std::string ErrorOf(const orlo::CompoundStream& stream) {
-    return stream.fault == orlo::ChainFault::none
-               ? ""
-               : std::string("its chain of sectors ") + orlo::InWords(stream.fault);
+    return stream.fault == orlo::ChainFault::none ? ""
+                                                  : std::string("its chain of sectors ") + orlo::InWords(stream.fault);
 }
 
 bool IsPropertySet(const std::u16string& path) {
@@ -38,8 +37,7 @@ Document::Document(const std::string& file) : reader_(Open(file)) {
 std::vector<NamedStream> Document::PropertySets() const {
     std::vector<NamedStream> found;
     for (const orlo::CompoundStream& stream : reader_.Streams())
-        if (IsPropertySet(stream.path))
-            found.push_back({Utf8(stream.path), reader_.Read(stream), ErrorOf(stream)});
+        if (IsPropertySet(stream.path)) found.push_back({Utf8(stream.path), reader_.Read(stream), ErrorOf(stream)});
     return found;
 }
 

@@ -60,18 +60,15 @@ orlo::Bytes Sound(orlo::Bytes bytes, const std::string& name) {
 
 } // namespace
 
-void SetFields(const std::string& file, const std::vector<Assignment>& fields,
-               const std::vector<CustomValue>& custom) {
+void SetFields(const std::string& file, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom) {
     Edit edit(file);
     for (const Assignment& assignment : fields) {
         const Field& field = FieldToSet(assignment.name);
-        For(assignment.name, [&] {
-            edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type);
-        });
+        For(assignment.name,
+            [&] { edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type); });
     }
     for (const CustomValue& property : custom)
-        For(property.name,
-            [&] { edit.SetWith(kUserDefinedFormat).SetCustom(property.name, property.value); });
+        For(property.name, [&] { edit.SetWith(kUserDefinedFormat).SetCustom(property.name, property.value); });
     edit.Commit();
 }
 

@@ -92,8 +92,7 @@ void EditedSet::Store(orlo::ImageSection& section, uint32_t id, const orlo::Valu
         RequireUtf8(section);
         bytes = orlo::EncodeValue(value, section.codePage);
     }
-    if (!bytes)
-        throw Failure("property " + std::to_string(id) + " can't be stored as " + orlo::TypeName(value.type));
+    if (!bytes) throw Failure("property " + std::to_string(id) + " can't be stored as " + orlo::TypeName(value.type));
     orlo::StoreValue(section, id, value.type, std::move(*bytes));
     changed_ = true;
 }
@@ -116,8 +115,7 @@ void EditedSet::SetField(const GUID& format, uint32_t id, const std::string& tex
 
 void EditedSet::SetCustom(const std::string& name, orlo::Value value) {
     orlo::ImageSection& section = Section(orlo::kUserDefinedFormat);
-    if (const orlo::DictionaryEntry* named = orlo::FindName(section, name))
-        return Store(section, named->id, value);
+    if (const orlo::DictionaryEntry* named = orlo::FindName(section, name)) return Store(section, named->id, value);
     if (!orlo::Utf8ToCodePage(name, section.codePage.value_or(orlo::kUsualCodePage))) RequireUtf8(section);
     const uint32_t id = FreeCustomId(section);
     orlo::StoreName(section, id, name);

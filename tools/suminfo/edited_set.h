@@ -1,7 +1,8 @@
-// One property-set stream of a document, taken apart, changed and put together again. What isn't touched keeps its bytes.
+// One property-set stream of a document, taken apart, changed and put together again. What isn't touched keeps its
+// bytes.
 //
-// Texts are written in the code page of their section. If that can't represent one, the section turns to UTF-8: its code page
-// and all its 8-bit texts and names. Every function throws Failure.
+// Texts are written in the code page of their section. If that can't represent one, the section turns to UTF-8: its
+// code page and all its 8-bit texts and names. Every function throws Failure.
 #pragma once
 
 #include <optional>

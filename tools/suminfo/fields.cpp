@@ -62,16 +62,14 @@ const std::vector<Field>& Fields() {
 
 const Field* FieldNamed(std::string_view name) {
     const auto& fields = Fields();
-    const auto found = std::find_if(fields.begin(), fields.end(), [name](const Field& field) {
-        return orlo::IsSameName(field.name, name);
-    });
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [name](const Field& field) { return orlo::IsSameName(field.name, name); });
     return found == fields.end() ? nullptr : &*found;
 }
 
 const Field& FieldToRemove(const std::string& name) {
     const Field* field = FieldNamed(name);
-    if (!field || field->id == kCodePageId)
-        throw Failure("'" + name + "' is no field; suminfo set --help lists them");
+    if (!field || field->id == kCodePageId) throw Failure("'" + name + "' is no field; suminfo set --help lists them");
     return *field;
 }
 

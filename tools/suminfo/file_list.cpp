@@ -42,8 +42,7 @@ uint64_t Joined(DWORD high, DWORD low) {
 
 // The index of a file is its own on one volume only, and not every system tells volumes apart; its times do.
 std::optional<FileIdentity> IdentityOf(const std::string& path) {
-    const files::OpenFile file =
-        files::OpenShared(fs::u8path(path), 0, FILE_FLAG_BACKUP_SEMANTICS); // folders too
+    const files::OpenFile file = files::OpenShared(fs::u8path(path), 0, FILE_FLAG_BACKUP_SEMANTICS); // folders too
     BY_HANDLE_FILE_INFORMATION is;
     if (!file || !::GetFileInformationByHandle(file.get(), &is)) return std::nullopt;
     return FileIdentity{is.dwVolumeSerialNumber, Joined(is.nFileIndexHigh, is.nFileIndexLow),
@@ -90,8 +89,8 @@ bool MayBeDocument(const std::string& path) {
     }
 }
 
-// The paths of what is in the folder, by name; nothing if it can't be listed. They are put together by hand: fs::path takes the
-// a of a:b.doc for a drive.
+// The paths of what is in the folder, by name; nothing if it can't be listed. They are put together by hand: fs::path
+// takes the a of a:b.doc for a drive.
 std::optional<std::vector<std::string>> EntriesOf(const std::string& folder) {
     std::error_code error;
     const fs::path native = fs::u8path(folder);
@@ -99,8 +98,7 @@ std::optional<std::vector<std::string>> EntriesOf(const std::string& folder) {
     std::vector<std::string> entries;
     for (fs::directory_iterator at(native, error), end; !error && at != end; at.increment(error)) {
         const auto& path = at->path().native();
-        entries.push_back((endsPath ? folder : folder + '/') +
-                          Utf8(path.substr(path.find_last_of(kSeparators) + 1)));
+        entries.push_back((endsPath ? folder : folder + '/') + Utf8(path.substr(path.find_last_of(kSeparators) + 1)));
     }
     if (error) return std::nullopt;
     std::sort(entries.begin(), entries.end());

@@ -15,8 +15,8 @@ struct FileList {
     std::vector<Unreadable> unreadable; // folders that can't be listed, and what in them can't be looked at
 };
 
-// The named files in their order. With recursive, a folder stands for the compound files in it, sorted by folder, and no
-// file is there twice, by whichever links it was reached.
+// The named files in their order. With recursive, a folder stands for the compound files in it, sorted by folder, and
+// no file is there twice, by whichever links it was reached.
 FileList FilesOf(const std::vector<std::string>& named, bool recursive);
 
 } // namespace suminfo

@@ -68,8 +68,7 @@ Json ValueJson(const orlo::Value& value) {
     return nullptr;
 }
 
-Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& property,
-                  const PropertyNames& names) {
+Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& property, const PropertyNames& names) {
     Json json = {{"id", property.id},
                  {"name", names.Of(property.id)},
                  {"vt", property.type},
@@ -80,16 +79,14 @@ Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& 
         json["error"] = "damaged";
     } else if (property.state == orlo::ValueState::opaque) {
         json["error"] = "a type that is not known";
-    } else if (orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
-                                 section.codePage, value)) {
+    } else if (orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage,
+                                 value)) {
         json["value"] = ValueJson(value);
     } else {
-        json["error"] =
-            "not readable in code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage));
+        json["error"] = "not readable in code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage));
     }
     const bool raw = json.contains("error") || property.type == VT_BOOL;
-    if (raw)
-        json[property.type == VT_BOOL ? "raw" : "bytes"] = Hex(property.bytes.data(), property.bytes.size());
+    if (raw) json[property.type == VT_BOOL ? "raw" : "bytes"] = Hex(property.bytes.data(), property.bytes.size());
     return json;
 }
 
@@ -105,8 +102,7 @@ Json SectionJson(const orlo::ImageSection& section) {
     if (section.dictionary) {
         json["dictionary"] = Json::array();
         for (const orlo::DictionaryEntry& entry : *section.dictionary)
-            if (entry.undecoded.empty())
-                json["dictionary"].push_back({{"id", entry.id}, {"name", entry.name}});
+            if (entry.undecoded.empty()) json["dictionary"].push_back({{"id", entry.id}, {"name", entry.name}});
     }
     Json& properties = json["properties"] = Json::array();
     const PropertyNames names(section);
@@ -133,8 +129,7 @@ Json StreamJson(const NamedStream& stream) {
     json["damage"] = Json::array();
     for (const orlo::Finding& finding : findings)
         if (finding.severity != orlo::Severity::note)
-            json[finding.severity == orlo::Severity::damaged ? "damage" : "irregularities"].push_back(
-                finding.text);
+            json[finding.severity == orlo::Severity::damaged ? "damage" : "irregularities"].push_back(finding.text);
     Json& sections = json["sections"] = Json::array();
     if (set)
         for (const orlo::ImageSection& section : set->sections)

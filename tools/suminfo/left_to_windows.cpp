@@ -1,5 +1,5 @@
-// What the Windows program does: it changes documents by the system's storage, and plays metafiles by the system. This one ends
-// before it has touched anything, and run.d/suminfo.sh starts the other.
+// What the Windows program does: it changes documents by the system's storage, and plays metafiles by the system. This
+// one ends before it has touched anything, and run.d/suminfo.sh starts the other.
 
 #include <cstdlib>
 

@@ -54,8 +54,7 @@ private:
 std::optional<std::vector<uint8_t>> DrawMetafile(const orlo::Bytes& value, Extent extent) {
     const WhiteBitmap bitmap(extent);
     const RECT all = {0, 0, extent.width, extent.height};
-    if (!DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), bitmap.dc(), &all))
-        return std::nullopt;
+    if (!DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), bitmap.dc(), &all)) return std::nullopt;
     return bitmap.Pixels();
 }
 

@@ -17,8 +17,7 @@ constexpr size_t kWidestName = 28;
 
 // Characters, not bytes.
 size_t Width(const std::string& utf8) {
-    return static_cast<size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+    return static_cast<size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
 struct Line {
@@ -33,8 +32,7 @@ std::string Aligned(const std::vector<Line>& lines) {
     for (const Line& line : lines) {
         table += "    " + line.name;
         const size_t taken = Width(line.name);
-        if (!line.value.empty())
-            table += std::string(taken < width ? width - taken : 0, ' ') + "  " + line.value;
+        if (!line.value.empty()) table += std::string(taken < width ? width - taken : 0, ' ') + "  " + line.value;
         table += "\n";
     }
     return table;
@@ -59,8 +57,7 @@ void AddTable(const NamedStream& stream, Report& report) {
     std::string& table = report.text;
     // The usual streams are recognized by their sections; others need their name.
     const bool inner = stream.name.find('/') != std::string::npos;
-    if (inner || !set)
-        table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";
+    if (inner || !set) table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";
     if (!set) {
         table += "    no property set\n";
     } else {

@@ -80,18 +80,16 @@ void RefuseOtherKinds(const orlo::Bytes& value) {
     const auto tag = At<int32_t>(value, 0);
     const auto format = At<uint32_t>(value, 4);
     if (tag == kOfWindows && (format == kMetafilePicture || format == kBitmap)) return;
-    if (tag == kOfMacintosh)
-        throw Failure("its thumbnail is a Macintosh picture, which suminfo doesn't draw");
+    if (tag == kOfMacintosh) throw Failure("its thumbnail is a Macintosh picture, which suminfo doesn't draw");
     if (tag == kOfWindows && format == kEnhancedMetafile)
         throw Failure("its thumbnail is an enhanced metafile, which suminfo doesn't draw");
     throw Failure("its thumbnail is of a clipboard format that suminfo doesn't draw");
 }
 
 std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {
-    auto colors = IsBitmap(value)
-                       ? orlo::DrawDibFitted(value.data() + kPictureOffset, value.size() - kPictureOffset,
-                                             extent.width, extent.height)
-                       : DrawMetafile(value, extent);
+    auto colors = IsBitmap(value) ? orlo::DrawDibFitted(value.data() + kPictureOffset, value.size() - kPictureOffset,
+                                                        extent.width, extent.height)
+                                  : DrawMetafile(value, extent);
     if (!colors) throw Failure("its thumbnail is damaged");
     return std::move(*colors);
 }
@@ -107,8 +105,7 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<E
     const std::vector<uint8_t> colors = Drawn(value, extent);
     OnFile(png, [&] {
         std::string bytes;
-        if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colors.data(),
-                                    3 * extent.width))
+        if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colors.data(), 3 * extent.width))
             throw Failure("can't be written");
         files::FileReplacement file(std::filesystem::u8path(png));
         file.Write(bytes);

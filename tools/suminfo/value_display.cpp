@@ -25,8 +25,7 @@ std::string Padded(uint64_t number, size_t digits) {
 }
 
 std::string TimeOf(uint64_t seconds, size_t hourDigits) {
-    return Padded(seconds / 3600, hourDigits) + ":" + Padded(seconds / 60 % 60, 2) + ":" +
-           Padded(seconds % 60, 2);
+    return Padded(seconds / 3600, hourDigits) + ":" + Padded(seconds / 60 % 60, 2) + ":" + Padded(seconds % 60, 2);
 }
 
 std::string Span(uint64_t ticks) {
@@ -56,8 +55,7 @@ std::string Moment(uint64_t ticks) {
 
 std::string Digits(double number, int digits) {
     std::array<char, 32> text;
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, digits);
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, digits);
     return std::string(text.data(), end.ptr);
 }
 
@@ -71,8 +69,8 @@ std::string DayNumber(double days) {
 }
 
 std::string Money(int64_t tenThousandths) {
-    const uint64_t size = tenThousandths < 0 ? 0 - static_cast<uint64_t>(tenThousandths)
-                                             : static_cast<uint64_t>(tenThousandths);
+    const uint64_t size =
+        tenThousandths < 0 ? 0 - static_cast<uint64_t>(tenThousandths) : static_cast<uint64_t>(tenThousandths);
     return (tenThousandths < 0 ? "-" : "") + std::to_string(size / 10000) + "." + Padded(size % 10000, 4);
 }
 
@@ -135,8 +133,7 @@ std::string Shown(const orlo::Value& value, bool span) {
 PropertyNames::PropertyNames(const orlo::ImageSection& section) : format_(section.formatId) {
     if (!section.dictionary) return;
     for (const orlo::DictionaryEntry& entry : *section.dictionary)
-        if (entry.undecoded.empty())
-            dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
+        if (entry.undecoded.empty()) dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
 }
 
 std::string PropertyNames::Of(uint32_t id) const {
@@ -151,12 +148,10 @@ std::string PropertyNames::Of(uint32_t id) const {
 std::string PropertyShown(const orlo::ImageSection& section, const orlo::ImageProperty& property) {
     if (property.state == orlo::ValueState::opaque)
         return "(" + orlo::TypeName(property.type) + ", " + Bytes(property.bytes.size()) + ")";
-    if (property.state == orlo::ValueState::partial)
-        return "(damaged: " + orlo::TypeName(property.type) + ")";
+    if (property.state == orlo::ValueState::partial) return "(damaged: " + orlo::TypeName(property.type) + ")";
     if (property.id == kCodePageId && section.codePage) return std::to_string(*section.codePage);
     orlo::Value value;
-    if (!orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage,
-                           value))
+    if (!orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage, value))
         return "(not readable as " + orlo::TypeName(property.type) + ")";
     return Shown(value, IsSpan(section, property.id));
 }

@@ -21,10 +21,9 @@ struct TypeWord {
     uint32_t type;
 };
 constexpr std::array kTypeWords = {
-    TypeWord{"text", VT_LPSTR},   TypeWord{"wide", VT_LPWSTR},   TypeWord{"int", VT_I4},
-    TypeWord{"unsigned", VT_UI4}, TypeWord{"long", VT_I8},       TypeWord{"number", VT_R8},
-    TypeWord{"bool", VT_BOOL},    TypeWord{"date", VT_FILETIME}, TypeWord{"money", VT_CY},
-    TypeWord{"guid", VT_CLSID},
+    TypeWord{"text", VT_LPSTR}, TypeWord{"wide", VT_LPWSTR}, TypeWord{"int", VT_I4},    TypeWord{"unsigned", VT_UI4},
+    TypeWord{"long", VT_I8},    TypeWord{"number", VT_R8},   TypeWord{"bool", VT_BOOL}, TypeWord{"date", VT_FILETIME},
+    TypeWord{"money", VT_CY},   TypeWord{"guid", VT_CLSID},
 };
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& kind) {
@@ -146,8 +145,7 @@ orlo::Value ParseTyped(std::string_view typed) {
         throw Failure("'" + std::string(typed) + "' needs a type, as in text:" + std::string(typed));
     const std::string_view word = typed.substr(0, colon);
     for (const TypeWord& known : kTypeWords)
-        if (orlo::IsSameName(known.word, word))
-            return ParseValue(known.type, std::string(typed.substr(colon + 1)));
+        if (orlo::IsSameName(known.word, word)) return ParseValue(known.type, std::string(typed.substr(colon + 1)));
     throw Failure("'" + std::string(word) + "' is no type; types are " + TypeNames());
 }
 

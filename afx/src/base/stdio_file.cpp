@@ -18,8 +18,7 @@ FILE* OpenKeeping(LPCSTR name, const std::string& suffix) {
 FILE* OpenStream(LPCSTR name, UINT flags) {
     const std::string suffix = (flags & CStdioFile::typeBinary) != 0 ? "b" : "";
     const bool writes = (flags & (CStdioFile::modeWrite | CStdioFile::modeReadWrite)) != 0;
-    if ((flags & CStdioFile::modeCreate) == 0)
-        return std::fopen(name, ((writes ? "r+" : "r") + suffix).c_str());
+    if ((flags & CStdioFile::modeCreate) == 0) return std::fopen(name, ((writes ? "r+" : "r") + suffix).c_str());
     if ((flags & CStdioFile::modeNoTruncate) != 0) return OpenKeeping(name, suffix);
     return std::fopen(name, ("w+" + suffix).c_str());
 }

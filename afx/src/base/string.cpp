@@ -28,8 +28,7 @@ bool HasCasePair(unsigned char lower) {
 char Lower(char ch) {
     const auto c = static_cast<unsigned char>(ch);
     if (c >= 'A' && c <= 'Z') return static_cast<char>(c + 32);
-    if (c >= 0xC0 && c <= 0xDE && HasCasePair(static_cast<unsigned char>(c + 32)))
-        return static_cast<char>(c + 32);
+    if (c >= 0xC0 && c <= 0xDE && HasCasePair(static_cast<unsigned char>(c + 32))) return static_cast<char>(c + 32);
     if (c == 0x8A || c == 0x8C || c == 0x8E) return static_cast<char>(c + 16);
     return c == 0x9F ? static_cast<char>(0xFF) : ch;
 }

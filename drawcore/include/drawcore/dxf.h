@@ -28,9 +28,8 @@ DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListene
 enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3, kSaveDoneInPart = 4 };
 // Flags of DrawingSaveDxf.
 enum {
-    kSaveOverChanged =
-        1,        // overwrite the file even if another program has changed it since the drawing was opened
-    kSaveRest = 2 // leave out what the file cannot contain and save the rest
+    kSaveOverChanged = 1, // overwrite the file even if another program has changed it since the drawing was opened
+    kSaveRest = 2         // leave out what the file cannot contain and save the rest
 };
 
 // Saves the drawing to a file, which may be the one that it was opened from. The text of the original file is copied,
@@ -45,17 +44,17 @@ enum {
 //                     example: the drawing was not opened from a file, the version of the file has no such entity, the
 //                     disk is full, the file is open in another program
 //   kSaveDoneInPart   with kSaveRest only: saved except for the parts that were reported to the listener's `finding`,
-//                     with the entity's kind, handle and line if it has them. An entity that was left out is in the file
-//                     as before, a new one is not; the drawing still counts as modified
+//                     with the entity's kind, handle and line if it has them. An entity that was left out is in the
+//                     file as before, a new one is not; the drawing still counts as modified
 //
-// When the file has been written, `finding` is also called with line 0 for each property that is stored in extended data,
-// where other programs do not show it.
+// When the file has been written, `finding` is also called with line 0 for each property that is stored in extended
+// data, where other programs do not show it.
 //
 // Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics, layers and
-// blocks, the style trees of blocks, and the states, colors and line types of layers. Values that are the same as in the
-// file keep their form. The listener may be null.
-DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*,
-                                char* message, int size);
+// blocks, the style trees of blocks, and the states, colors and line types of layers. Values that are the same as in
+// the file keep their form. The listener may be null.
+DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*, char* message,
+                                int size);
 
 // Returns non-zero if the drawing differs from its file: by undoable steps, added or removed graphics or blocks, or
 // changes in blocks and layers. Undo and redo can return to the saved state. Returns 0 if the drawing was not opened

@@ -7,5 +7,5 @@
 // Adds a style of 0 (solid) to 64 items to a table kTableLineStyles. A positive item is a dash, a negative one a gap, 0
 // a dot, in drawing units at pen scale 1. Returns its identifier, or 0 if the name is invalid or already exists, or if
 // an item is not finite.
-DRAWCORE_API uint16_t LineStyleAdd(TableStruct*, const char* name, const char* description,
-                                   const double* pattern, int count);
+DRAWCORE_API uint16_t LineStyleAdd(TableStruct*, const char* name, const char* description, const double* pattern,
+                                   int count);

@@ -14,8 +14,7 @@
 
 namespace drawcore {
 
-Drawing::Drawing()
-    : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<DrawingRoot>()) {
+Drawing::Drawing() : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<DrawingRoot>()) {
     Live<DrawingStruct>::Enter(this);
     pApplication = &Application::Get();
     AddTable(kTableLayers, std::make_unique<LayerTable>(this));

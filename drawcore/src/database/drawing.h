@@ -34,9 +34,7 @@ public:
     // The tables that every drawing has from the start; null once the host program has removed one.
     LayerTable* Layers() const { return dynamic_cast<LayerTable*>(FindTable(kTableLayers)); }
     LineStyleTable* LineStyles() const { return dynamic_cast<LineStyleTable*>(FindTable(kTableLineStyles)); }
-    BrushStyleTable* BrushStyles() const {
-        return dynamic_cast<BrushStyleTable*>(FindTable(kTableBrushStyles));
-    }
+    BrushStyleTable* BrushStyles() const { return dynamic_cast<BrushStyleTable*>(FindTable(kTableBrushStyles)); }
     ColorTable* Colors() const { return dynamic_cast<ColorTable*>(FindTable(kTableColors)); }
     BlockTable* Blocks() const { return dynamic_cast<BlockTable*>(FindTable(kTableBlocks)); }
     Table* Units() const { return FindTable(kTableUnits); }
@@ -47,7 +45,7 @@ public:
     std::string scaleText = "1 : 1"; // of the drawing on paper
     uint16_t coordSpace = kSpaceWorld;
     std::unique_ptr<DxfSource> source; // null: the drawing was not read from a file
-    double lineScale = 1; // DXF's $LTSCALE: scales the dash patterns of the drawing's own graphics
+    double lineScale = 1;              // DXF's $LTSCALE: scales the dash patterns of the drawing's own graphics
 
 private:
     std::map<std::string, std::unique_ptr<Table>, std::less<>> tables_;

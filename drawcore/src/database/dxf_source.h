@@ -12,8 +12,7 @@ namespace drawcore {
 class Drawing;
 
 struct DxfSource {
-    DxfSource(std::string text, const dxf::Document& document)
-        : bytes(std::move(text)), known(document.Tables()) {}
+    DxfSource(std::string text, const dxf::Document& document) : bytes(std::move(text)), known(document.Tables()) {}
 
     // The drawing is what the file holds, but for so many things that were left out.
     void NoteContents(const Drawing& drawing, size_t left = 0);

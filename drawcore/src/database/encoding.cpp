@@ -28,8 +28,8 @@ std::wstring Utf16FromCodePage(std::string_view text) {
 
 std::string Utf8FromUtf16(std::wstring_view text) {
     std::string narrow(text.size() * 3, '\0'); // a unit makes three bytes at the most
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                           narrow.data(), static_cast<int>(narrow.size()), nullptr, nullptr);
+    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), narrow.data(),
+                                           static_cast<int>(narrow.size()), nullptr, nullptr);
     narrow.resize(static_cast<size_t>(size));
     return narrow;
 }
@@ -44,8 +44,8 @@ std::string CodePageFromUtf8(std::string_view text) {
     for (const wchar_t unit : Utf16FromUtf8(text)) {
         char bytes[16];
         BOOL lacks = FALSE;
-        const int size = ::WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &unit, 1, bytes, sizeof bytes,
-                                               nullptr, &lacks);
+        const int size =
+            ::WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &unit, 1, bytes, sizeof bytes, nullptr, &lacks);
         if (size > 0 && !lacks) {
             narrow.append(bytes, static_cast<size_t>(size));
         } else {

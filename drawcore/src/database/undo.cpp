@@ -29,8 +29,7 @@ void UndoLog::Saved::Restore() const {
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
-    constexpr size_t kNode =
-        sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
+    constexpr size_t kNode = sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
     size = saved.size() * sizeof(Saved) + looks.size() * kNode;
     for (const Saved& entry : saved)
         if (entry.state) size += entry.state->StateSize();
@@ -62,8 +61,7 @@ int UndoLog::Step::Restore() const {
 
 // Graphics have few looks, compared with how many there are: one that has been seen just now costs a comparison.
 const Look* UndoLog::Step::Take(const Graphic& graphic) {
-    const size_t key =
-        (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
+    const size_t key = (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
     const Look*& look = recent[key % recent.size()];
     if (!look || look->lastPage != graphic.wLastPage || !graphic.HasLook(*look))
         look = &*looks.insert(graphic.GetLook()).first;
@@ -283,6 +281,5 @@ void DrawingSetUndoRoom(DrawingStruct* drawing, size_t bytes) {
 }
 
 void DrawingSetChangeListener(DrawingStruct* drawing, const ChangeListener* listener) {
-    if (Drawing* found = Drawing::Find(drawing))
-        found->Undo().SetListener(listener ? *listener : ChangeListener{});
+    if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetListener(listener ? *listener : ChangeListener{});
 }

@@ -1,7 +1,7 @@
-// The undo log of a drawing: what its graphics were before each step, and after each step that was undone. A step keeps what
-// it changes: the look of a graphic whose properties change, shared with all that looked the same, and the whole state of one
-// whose shape is about to change. Graphics that only show something (previews, samples) are not part of the drawing and not
-// saved.
+// The undo log of a drawing: what its graphics were before each step, and after each step that was undone. A step keeps
+// what it changes: the look of a graphic whose properties change, shared with all that looked the same, and the whole
+// state of one whose shape is about to change. Graphics that only show something (previews, samples) are not part of
+// the drawing and not saved.
 #pragma once
 
 #include <array>

@@ -67,9 +67,8 @@ struct CodePage::Converter {
         std::wstring wide(text.size(), L'\0');
         const int units = ::MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), length);
         std::string bytes(text.size() * 2, '\0');
-        const int size =
-            ::WideCharToMultiByte(page, page == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS, wide.data(), units,
-                                  bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+        const int size = ::WideCharToMultiByte(page, page == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS, wide.data(), units,
+                                               bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
         bytes.resize(static_cast<size_t>(size));
         // A character that some pages lack becomes another one, whatever the flags.
         if (Convert(bytes) != text) return std::nullopt;
@@ -105,8 +104,7 @@ struct CodePage::Converter {
     }
 
     std::optional<std::string> ConvertBack(std::string_view text) const {
-        const std::unique_ptr<void, int (*)(iconv_t)> back(::iconv_open(name.c_str(), "UTF-8"),
-                                                           ::iconv_close);
+        const std::unique_ptr<void, int (*)(iconv_t)> back(::iconv_open(name.c_str(), "UTF-8"), ::iconv_close);
         std::string bytes(text.size() * 2, '\0');
         char* in = const_cast<char*>(text.data());
         size_t left = text.size();

@@ -19,9 +19,8 @@ constexpr Color Rgb(int r, int g, int b) {
     return static_cast<Color>(r | g << 8 | b << 16);
 }
 
-constexpr Color kFirst[] = {Rgb(255, 0, 0),   Rgb(255, 255, 0),   Rgb(0, 255, 0),
-                            Rgb(0, 255, 255), Rgb(0, 0, 255),     Rgb(255, 0, 255),
-                            kWhite,           Rgb(128, 128, 128), Rgb(192, 192, 192)};
+constexpr Color kFirst[] = {Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 255, 0),     Rgb(0, 255, 255),  Rgb(0, 0, 255),
+                            Rgb(255, 0, 255), kWhite,           Rgb(128, 128, 128), Rgb(192, 192, 192)};
 constexpr int kGreys[] = {51, 80, 105, 130, 190, 255};
 
 // The numbers 10 to 249 are 24 hues, 15 degrees apart, each in five brightnesses, full and half saturated.
@@ -53,8 +52,7 @@ int Distance(Color a, Color b) {
 Color ColorOfIndex(int index) {
     if (index >= 1 && index <= 9) return kFirst[index - 1];
     if (index >= 10 && index <= 249) return HueColor(index);
-    if (index >= 250 && index <= 255)
-        return Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
+    if (index >= 250 && index <= 255) return Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
     return kWhite;
 }
 

@@ -206,9 +206,8 @@ struct Viewport {
 template <class T>
 using Apart = std::unique_ptr<T>;
 
-using Shape =
-    std::variant<Line, PointMark, Circle, Arc, Ellipse, Polyline, Leader, Apart<Spline>, Apart<Text>,
-                 Apart<MText>, Apart<Insert>, Apart<Hatch>, Apart<Face>, Apart<Dimension>, Apart<Viewport>>;
+using Shape = std::variant<Line, PointMark, Circle, Arc, Ellipse, Polyline, Leader, Apart<Spline>, Apart<Text>,
+                           Apart<MText>, Apart<Insert>, Apart<Hatch>, Apart<Face>, Apart<Dimension>, Apart<Viewport>>;
 
 constexpr int16_t kIndexByBlock = 0;
 constexpr int16_t kIndexByLayer = 256;

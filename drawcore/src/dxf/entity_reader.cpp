@@ -71,8 +71,7 @@ Entity EntityReader::NewEntity() {
 void EntityReader::Read(std::vector<Entity>& entities) {
     Count();
     const std::string_view name = in_.tags.Current().Trimmed();
-    const auto kind =
-        std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& k) { return k.name == name; });
+    const auto kind = std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& k) { return k.name == name; });
     if (kind == std::end(kKinds)) {
         Skipped& skipped = skipped_[in_.decoder.Decode(name)];
         if (skipped.count++ == 0) skipped.firstLine = in_.tags.Current().line;
@@ -156,10 +155,9 @@ void EntityReader::ReadSpaceFace(Entity& entity) {
 
 void EntityReader::ReadInsert(Entity& entity) {
     static const Field<Insert> kFields[] = {
-        {2, &Insert::block},       {10, &Insert::at},     {41, &Insert::scaleX},
-        {42, &Insert::scaleY},     {43, &Insert::scaleZ}, {50, &Insert::rotation},
-        {70, &Insert::columns},    {71, &Insert::rows},   {44, &Insert::columnSpacing},
-        {45, &Insert::rowSpacing},
+        {2, &Insert::block},          {10, &Insert::at},         {41, &Insert::scaleX},  {42, &Insert::scaleY},
+        {43, &Insert::scaleZ},        {50, &Insert::rotation},   {70, &Insert::columns}, {71, &Insert::rows},
+        {44, &Insert::columnSpacing}, {45, &Insert::rowSpacing},
     };
     constexpr uint32_t kMostCells = INT16_MAX; // the file format's own limit
     Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());
@@ -256,8 +254,7 @@ void EntityReader::ReadSpline(Entity& entity) {
 bool MakeSound(Spline& spline) {
     constexpr int kHighestDegree = 25;
     const size_t points = spline.controlPoints.size();
-    const bool positive =
-        std::all_of(spline.weights.begin(), spline.weights.end(), [](double w) { return w > 0; });
+    const bool positive = std::all_of(spline.weights.begin(), spline.weights.end(), [](double w) { return w > 0; });
     if (spline.weights.size() != points || !positive) spline.weights.clear();
     const bool degree = spline.degree >= 1 && spline.degree <= kHighestDegree;
     const bool fits = degree && points > static_cast<size_t>(spline.degree) &&

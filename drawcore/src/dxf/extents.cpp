@@ -18,8 +18,7 @@ using BlockBoxes = std::vector<std::optional<Extents>>;
 
 class ExtentsWalk : private PathSink {
 public:
-    ExtentsWalk(const Document& drawing, BlockBoxes& blockBoxes)
-        : drawing_(drawing), blockBoxes_(blockBoxes) {}
+    ExtentsWalk(const Document& drawing, BlockBoxes& blockBoxes) : drawing_(drawing), blockBoxes_(blockBoxes) {}
 
     Extents OfModelSpace() {
         for (const Entity& entity : drawing_.entities)

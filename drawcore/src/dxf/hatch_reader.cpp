@@ -94,8 +94,7 @@ private:
             return true;
         }
         if (edges.empty()) return tag.code == 93;
-        return edges.back().kind == Kind::spline ? TakeSpline(edges.back().spline, tag)
-                                                 : TakeCurve(edges.back(), tag);
+        return edges.back().kind == Kind::spline ? TakeSpline(edges.back().spline, tag) : TakeCurve(edges.back(), tag);
     }
 
     bool TakeCurve(Hatch::Edge& edge, const Tag& tag) {

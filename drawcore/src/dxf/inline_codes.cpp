@@ -18,8 +18,7 @@ constexpr size_t kDeepest = 64;
 
 bool ReadNumber(std::string_view text, double& number) {
     if (!text.empty() && text[0] == '+') text.remove_prefix(1);
-    return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc() &&
-           std::isfinite(number);
+    return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc() && std::isfinite(number);
 }
 
 class InlineReader {
@@ -219,8 +218,7 @@ private:
         double number = 0;
         if (!ReadNumber(argument, number) || number < 0 || number > 0xFFFFFF) return;
         const auto bgr = static_cast<uint32_t>(number);
-        Change(&InlineFormat::trueColor,
-               static_cast<int>((bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF)));
+        Change(&InlineFormat::trueColor, static_cast<int>((bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF)));
     }
 
     // One above the other: "1/2", "1#2" and "+0.1^ -0.1"; shown on one line.
@@ -259,8 +257,8 @@ std::string FormattedText::Plain() const {
 }
 
 InlineFormat FormattedText::Prevailing() const {
-    const auto longest = std::max_element(
-        runs.begin(), runs.end(), [](const Run& a, const Run& b) { return a.text.size() < b.text.size(); });
+    const auto longest = std::max_element(runs.begin(), runs.end(),
+                                          [](const Run& a, const Run& b) { return a.text.size() < b.text.size(); });
     return longest == runs.end() ? InlineFormat() : longest->format;
 }
 

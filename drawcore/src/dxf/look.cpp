@@ -90,14 +90,12 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
 // Where a group says nearly the same, the value says which group it goes with: a group that another program has
 // changed since then counts.
 constexpr OwnRow kOwnRows[] = {
-    {kPropInfo, 0,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.info = own.text; }},
+    {kPropInfo, 0, [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.info = own.text; }},
     {kPropStyleTree, 0,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.styleTree = own.text; }},
     {kPropPenColor, 2,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
-         if (entity.trueColor < 0 && entity.color == own.numbers[1])
-             look.color = ToColor(own.numbers[0], look.color);
+         if (entity.trueColor < 0 && entity.color == own.numbers[1]) look.color = ToColor(own.numbers[0], look.color);
      }},
     {kPropPenStyle, 0,
      [](const OwnValue& own, const Document& document, const Entity&, Look& look) {
@@ -109,8 +107,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropPenWidth, 3,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
-         if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2])
-             return;
+         if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
          look.width = own.numbers[0];
          look.worldWidth = own.numbers[1] != 0;
      }},
@@ -196,11 +193,10 @@ const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
 }
 
 bool HasOneWidth(const Polyline& polyline) {
-    return std::all_of(polyline.vertices.begin(), polyline.vertices.end(),
-                       [&](const Polyline::Vertex& vertex) {
-                           const double width = polyline.vertices[0].startWidth;
-                           return vertex.startWidth == width && vertex.endWidth == width;
-                       });
+    return std::all_of(polyline.vertices.begin(), polyline.vertices.end(), [&](const Polyline::Vertex& vertex) {
+        const double width = polyline.vertices[0].startWidth;
+        return vertex.startWidth == width && vertex.endWidth == width;
+    });
 }
 
 bool Near(double a, double b) {
@@ -221,8 +217,7 @@ uint8_t VariedBit(std::string_view property) {
 }
 
 bool operator==(const BrushLook& a, const BrushLook& b) {
-    const bool sameStyle =
-        a.lines.empty() && b.lines.empty() ? a.style == b.style : SameLines(a.lines, b.lines);
+    const bool sameStyle = a.lines.empty() && b.lines.empty() ? a.style == b.style : SameLines(a.lines, b.lines);
     const auto values = [](const BrushLook& look) {
         return std::tie(look.color, look.scale, look.angle, look.cross, look.winding);
     };
@@ -230,9 +225,7 @@ bool operator==(const BrushLook& a, const BrushLook& b) {
 }
 
 bool operator==(const TextLook& a, const TextLook& b) {
-    const auto values = [](const TextLook& look) {
-        return std::tie(look.font, look.height, look.style, look.format);
-    };
+    const auto values = [](const TextLook& look) { return std::tie(look.font, look.height, look.style, look.format); };
     return values(a) == values(b);
 }
 

@@ -1,4 +1,5 @@
-// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of orlo/host/words.h mean the same colors, line styles and brushes here.
+// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of
+// orlo/host/words.h mean the same colors, line styles and brushes here.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -10,10 +11,9 @@ namespace dxf {
 constexpr char kSolidBrush[] = "Solid";
 
 struct BrushLook {
-    std::string style; // UTF-8; empty: no brush
-    std::vector<Hatch::PatternLine>
-        lines; // at scale 1 and angle 0, the first one through the origin; empty: a style
-               // that every drawing has
+    std::string style;                     // UTF-8; empty: no brush
+    std::vector<Hatch::PatternLine> lines; // at scale 1 and angle 0, the first one through the origin; empty: a style
+                                           // that every drawing has
     uint32_t color = kColorOfPen;
     double scale = 1;
     double angle = 0; // radians

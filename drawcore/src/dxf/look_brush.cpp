@@ -82,8 +82,7 @@ BrushLook BrushOf(const Hatch& hatch) {
     return brush;
 }
 
-std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, double angle,
-                                const Vec3& base) {
+std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, double angle, const Vec3& base) {
     std::vector<Family> placed;
     for (const Family& from : lines) {
         Family& line = placed.emplace_back();

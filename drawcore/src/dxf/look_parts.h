@@ -13,8 +13,8 @@ constexpr char kByBlockName[] = "BYBLOCK";
 
 BrushLook BrushOf(const Hatch& hatch);
 // A pattern as the hatch holds it: at its scale and angle, with the first line where it is.
-std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale,
-                                            double angle, const Vec3& base);
+std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale, double angle,
+                                            const Vec3& base);
 // A pattern as a row of numbers; false, and nothing is written, if they are not a pattern.
 bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Hatch::PatternLine>& lines);
 std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& lines);

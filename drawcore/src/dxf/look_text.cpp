@@ -46,8 +46,7 @@ FontFace FaceOfFile(std::string file) {
 }
 
 uint16_t LineBits(bool underlined, bool struckThrough) {
-    return static_cast<uint16_t>((underlined ? kTextUnderline : 0) |
-                                 (struckThrough ? kTextStrikethrough : 0));
+    return static_cast<uint16_t>((underlined ? kTextUnderline : 0) | (struckThrough ? kTextStrikethrough : 0));
 }
 
 double SoundHeight(double height, const TextStyle& style) {
@@ -84,8 +83,7 @@ uint16_t FormatOf(const MText& text, char paragraphs) {
 
 FontFace FaceOf(const TextStyle& style) {
     if (style.fontFace.empty()) return FaceOfFile(style.fontFile);
-    return {style.fontFace,
-            static_cast<uint16_t>((style.bold ? kTextBold : 0) | (style.italic ? kTextItalic : 0))};
+    return {style.fontFace, static_cast<uint16_t>((style.bold ? kTextBold : 0) | (style.italic ? kTextItalic : 0))};
 }
 
 std::string FontFileOf(const FontFace& face) {
@@ -126,8 +124,7 @@ uint8_t VariedBits(const FormattedText& text, const InlineFormat& most) {
     for (const FormattedText::Run& run : text.runs) {
         const InlineFormat& part = run.format;
         const bool otherStyle = part.bold != most.bold || part.italic != most.italic ||
-                                part.underlined != most.underlined ||
-                                part.struckThrough != most.struckThrough;
+                                part.underlined != most.underlined || part.struckThrough != most.struckThrough;
         if (part.color != most.color || part.trueColor != most.trueColor) bits |= kVariedColor;
         if (part.font != most.font) bits |= kVariedFont;
         if (part.scale != most.scale) bits |= kVariedSize;

@@ -33,8 +33,7 @@ EllipseArc EdgeArc(const Hatch::Edge& edge) {
     arc.major = isCircle ? Vec3{edge.radius, 0, 0} : edge.end;
     arc.minor = isCircle ? Vec3{0, edge.radius, 0} : Cross({0, 0, 1}, edge.end) * edge.radius;
     const double sweep = SweepBetween(start, end);
-    arc.start =
-        edge.counterClockwise ? start : -start; // clockwise ones count their angles the other way around
+    arc.start = edge.counterClockwise ? start : -start; // clockwise ones count their angles the other way around
     arc.sweep = edge.counterClockwise ? sweep : -sweep;
     return arc;
 }
@@ -58,8 +57,7 @@ public:
     void operator()(const Apart<Viewport>&) {}
 
     void operator()(const Apart<Hatch>& hatch) {
-        const Matrix system =
-            Matrix::Translation({0, 0, hatch->elevation}) * ObjectSystem(entity_.normal) * toWorld_;
+        const Matrix system = Matrix::Translation({0, 0, hatch->elevation}) * ObjectSystem(entity_.normal) * toWorld_;
         for (const Hatch::Loop& loop : hatch->loops)
             Trace(loop, system, sink_);
     }

@@ -21,12 +21,10 @@ Matrix ObjectSystem(const Vec3& normal) {
     return Matrix::FromAxes(x, Cross(z, x), z, {});
 }
 
-Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column,
-                    uint32_t row) {
+Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column, uint32_t row) {
     const Vec3 cell{column * insert.columnSpacing, row * insert.rowSpacing, 0};
-    return Matrix::Translation(block.base * -1) *
-           Matrix::Scaling({insert.scaleX, insert.scaleY, insert.scaleZ}) * Matrix::Translation(cell) *
-           Matrix::RotationZ(Radians(insert.rotation)) * Matrix::Translation(insert.at) *
+    return Matrix::Translation(block.base * -1) * Matrix::Scaling({insert.scaleX, insert.scaleY, insert.scaleZ}) *
+           Matrix::Translation(cell) * Matrix::RotationZ(Radians(insert.rotation)) * Matrix::Translation(insert.at) *
            ObjectSystem(entity.normal);
 }
 
@@ -46,16 +44,15 @@ GroupNumbers GroupNumbersOf(const Entity& entity) {
     const Vec3& normal = entity.normal;
     if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape)) {
         const Insert& by = **insert;
-        return {by.at.x,   by.at.y,     by.at.z,  by.scaleX, by.scaleY,
-                by.scaleZ, by.rotation, normal.x, normal.y,  normal.z};
+        return {by.at.x, by.at.y, by.at.z, by.scaleX, by.scaleY, by.scaleZ, by.rotation, normal.x, normal.y, normal.z};
     }
     const auto* dimension = std::get_if<Apart<Dimension>>(&entity.shape);
     const Vec3 offset = dimension ? (*dimension)->offset : Vec3();
     return {offset.x, offset.y, offset.z, 1, 1, 1, 0, normal.x, normal.y, normal.z};
 }
 
-// None also where another program has changed the groups since. Older files have the axes, the origin, and of the groups only
-// where that origin was.
+// None also where another program has changed the groups since. Older files have the axes, the origin, and of the
+// groups only where that origin was.
 std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
     constexpr size_t kOlder = 15;
     const OwnValue* own = FindOwn(entity, kOwnPlacement);
@@ -90,8 +87,7 @@ Matrix PlacementOf(const AxisEnds& ends) {
 }
 
 AxisEnds AxisEndsOf(const Matrix& placement) {
-    return {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}),
-            placement.Apply({0, 0, 1})};
+    return {placement.Apply({}), placement.Apply({1, 0, 0}), placement.Apply({0, 1, 0}), placement.Apply({0, 0, 1})};
 }
 
 AxisEnds AxisEndsOf(const Entity& entity) {
@@ -116,8 +112,7 @@ double RoundingAt(const Vec3& place) {
 bool HaveSameAxes(const Matrix& a, const Matrix& b) {
     for (const Vec3& axis : {Vec3{1, 0, 0}, Vec3{0, 1, 0}, Vec3{0, 0, 1}}) {
         const Vec3 length = a.Turn(axis);
-        const double rounding =
-            std::max({RoundingAt(a.Apply({})), RoundingAt(b.Apply({})), RoundingAt(length)});
+        const double rounding = std::max({RoundingAt(a.Apply({})), RoundingAt(b.Apply({})), RoundingAt(length)});
         const Vec3 difference = b.Turn(axis) - length;
         if (Length(difference) > rounding) return false;
     }
@@ -126,9 +121,8 @@ bool HaveSameAxes(const Matrix& a, const Matrix& b) {
 
 Matrix MotionBetween(const Matrix& from, const Matrix& to) {
     Matrix back;
-    return !HaveSameAxes(from, to) && Solid(from).Invert(back)
-               ? back * Solid(to)
-               : Matrix::Translation(to.Apply({}) - from.Apply({}));
+    return !HaveSameAxes(from, to) && Solid(from).Invert(back) ? back * Solid(to)
+                                                               : Matrix::Translation(to.Apply({}) - from.Apply({}));
 }
 
 Matrix DimensionMatrix(const Dimension& dimension, const Block& block) {

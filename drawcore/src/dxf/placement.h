@@ -15,10 +15,9 @@ using drawcore::Radians;
 Matrix ObjectSystem(const Vec3& normal);
 
 // From a block to the space that the insert lies in, for one cell of its array.
-Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column,
-                    uint32_t row);
-// Where an insertion or dimension shows its block, but for the base point: by its groups, or by its own extended data where
-// these can't say it.
+Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column, uint32_t row);
+// Where an insertion or dimension shows its block, but for the base point: by its groups, or by its own extended data
+// where these can't say it.
 Matrix PlacementOf(const Entity& entity);
 // Where the origin of the placed block is, and the ends of its axes.
 using AxisEnds = std::array<Vec3, 4>;

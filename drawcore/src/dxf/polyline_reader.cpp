@@ -67,8 +67,7 @@ void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes
         polyline.faces.push_back({codes.first, codes.second, codes.third, codes.fourth});
         return;
     }
-    if ((whole.flags & kSplineFit) && (codes.flags & kFrame))
-        return; // the frame of a curve that follows in full
+    if ((whole.flags & kSplineFit) && (codes.flags & kFrame)) return; // the frame of a curve that follows in full
     Polyline::Vertex& vertex = polyline.vertices.emplace_back();
     vertex.at = codes.at;
     if (polyline.kind != Polyline::Kind::flat) return;
@@ -85,8 +84,7 @@ bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
         return std::any_of(face.begin(), face.end(),
                            [&](int i) { return i == INT32_MIN || static_cast<size_t>(std::abs(i)) > count; });
     };
-    polyline.faces.erase(std::remove_if(polyline.faces.begin(), polyline.faces.end(), outside),
-                         polyline.faces.end());
+    polyline.faces.erase(std::remove_if(polyline.faces.begin(), polyline.faces.end(), outside), polyline.faces.end());
     if (polyline.kind != Polyline::Kind::mesh) return true;
     const bool smooth = (codes.flags & kSplineFit) != 0;
     polyline.rows = smooth ? codes.smoothRows : codes.rows;

@@ -122,8 +122,8 @@ private:
         }
         if (const Apart<OwnData> own = in_.TakeOwn()) head.own = *own;
         if (in_.TakeUnsound())
-            in_.Report(line, "the base point of block " + Quoted(name) +
-                                 " has no place in a drawing; the origin is taken");
+            in_.Report(line,
+                       "the base point of block " + Quoted(name) + " has no place in a drawing; the origin is taken");
         constexpr int kExternal = 4;
         if (head.flags & kExternal)
             in_.Report(line, "block " + Quoted(name) + " is in another file, which is not opened");
@@ -164,21 +164,13 @@ Document Document::Tables() const {
     tables.lineTypes = lineTypes;
     tables.textStyles = textStyles;
     for (const Block& block : blocks)
-        tables.blocks.push_back({block.name,
-                                 block.stored,
-                                 block.declared,
-                                 block.base,
-                                 block.flags,
-                                 {},
-                                 block.own,
-                                 block.begin,
-                                 block.end});
+        tables.blocks.push_back(
+            {block.name, block.stored, block.declared, block.base, block.flags, {}, block.own, block.begin, block.end});
     return tables;
 }
 
 ReadError::ReadError(uint32_t line, const std::string& text)
-    : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line),
-      text_(text) {}
+    : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line), text_(text) {}
 
 std::string ReadBytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);

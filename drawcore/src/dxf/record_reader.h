@@ -16,9 +16,8 @@ namespace dxf {
 // z.
 template <class T>
 struct Field {
-    using Member =
-        std::variant<double T::*, int T::*, int16_t T::*, uint32_t T::*, bool T::*, std::string T::*,
-                     Vec3 T::*, LayerIndex T::*, LineTypeIndex T::*, TextStyleIndex T::*, BlockIndex T::*>;
+    using Member = std::variant<double T::*, int T::*, int16_t T::*, uint32_t T::*, bool T::*, std::string T::*,
+                                Vec3 T::*, LayerIndex T::*, LineTypeIndex T::*, TextStyleIndex T::*, BlockIndex T::*>;
     int code;
     Member member;
 };

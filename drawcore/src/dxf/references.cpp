@@ -39,9 +39,8 @@ public:
         for (Entity& entity : drawing_.entities)
             CutIfNeeded(entity, root);
         if (tooMany_ > 0)
-            in_.Report(firstTooMany_,
-                       "inserts that are not shown, because the drawing would have too many parts: " +
-                           std::to_string(tooMany_));
+            in_.Report(firstTooMany_, "inserts that are not shown, because the drawing would have too many parts: " +
+                                          std::to_string(tooMany_));
     }
 
 private:
@@ -109,8 +108,7 @@ private:
             if (tooMany_++ == 0) firstTooMany_ = entity.line;
             return;
         }
-        in_.Report(entity.line,
-                   "block " + Quoted(drawing_.blocks[inner].name) + " is not shown here: " + reason);
+        in_.Report(entity.line, "block " + Quoted(drawing_.blocks[inner].name) + " is not shown here: " + reason);
     }
 
     RecordReader& in_;

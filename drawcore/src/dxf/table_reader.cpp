@@ -23,9 +23,8 @@ const Variable kVariables[] = {
 };
 
 void ReadLayer(RecordReader& in) {
-    static const Field<Layer> kFields[] = {{62, &Layer::color},       {70, &Layer::flags},
-                                           {6, &Layer::lineType},     {420, &Layer::trueColor},
-                                           {370, &Layer::lineWeight}, {290, &Layer::plotted}};
+    static const Field<Layer> kFields[] = {{62, &Layer::color},      {70, &Layer::flags},       {6, &Layer::lineType},
+                                           {420, &Layer::trueColor}, {370, &Layer::lineWeight}, {290, &Layer::plotted}};
     Layer read;
     read.offset = static_cast<uint32_t>(in.tags.Current().offset);
     std::string_view name;

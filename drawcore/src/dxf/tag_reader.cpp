@@ -33,8 +33,7 @@ std::string_view TrimNumber(std::string_view text) {
 }
 
 [[noreturn]] void FailNumber(const Tag& tag) {
-    throw ReadError(tag.line + 1,
-                    Quoted(tag.value) + " is not a number (group code " + std::to_string(tag.code) + ")");
+    throw ReadError(tag.line + 1, Quoted(tag.value) + " is not a number (group code " + std::to_string(tag.code) + ")");
 }
 
 } // namespace

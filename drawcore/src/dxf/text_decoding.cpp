@@ -11,8 +11,7 @@ namespace dxf {
 namespace {
 
 bool IsAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 // The length of the well-formed UTF-8 sequence at the start of the bytes, 0 if there isn't one.
@@ -111,8 +110,7 @@ std::string TextDecoder::Encode(std::string_view utf8) const {
     while (!utf8.empty()) {
         const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
         const std::string_view character = utf8.substr(0, length);
-        bytes += length == 1 ? std::string(character)
-                             : page_.FromUtf8(character).value_or(UnicodeEscape(character));
+        bytes += length == 1 ? std::string(character) : page_.FromUtf8(character).value_or(UnicodeEscape(character));
         utf8.remove_prefix(length);
     }
     return bytes;
@@ -136,8 +134,8 @@ size_t AppendEscape(std::string& text, std::string_view stored) {
     uint32_t unit = 0;
     if (!ReadUnicodeEscape(stored, unit)) return AppendMultiByteEscape(text, stored);
     uint32_t low = 0;
-    const bool paired = unit >= 0xD800 && unit < 0xDC00 && ReadUnicodeEscape(stored.substr(7), low) &&
-                        low >= 0xDC00 && low < 0xE000;
+    const bool paired =
+        unit >= 0xD800 && unit < 0xDC00 && ReadUnicodeEscape(stored.substr(7), low) && low >= 0xDC00 && low < 0xE000;
     AppendUtf8(text, paired ? 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00) : unit);
     return paired ? 14 : 7;
 }

@@ -70,8 +70,7 @@ void EntityReader::ReadAttribute(Entity& entity) {
     TextCodes codes{74};
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
-        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Take(tag))
-            SetCommon(entity);
+        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Take(tag)) SetCommon(entity);
     }
     SetCodes(text, codes);
     if (!isDefinition)

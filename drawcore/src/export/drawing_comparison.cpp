@@ -21,8 +21,8 @@ class ReadBack {
 public:
     ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Leftovers& left,
              const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress)
-        : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document),
-          left_(left), removedLeft_(removedLeft), progress_(progress), tables_(ImportTables(document, read_)),
+        : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document), left_(left),
+          removedLeft_(removedLeft), progress_(progress), tables_(ImportTables(document, read_)),
           import_(document, tables_, read_), comparison_(saved, read_) {}
 
     Sources Run() {
@@ -45,8 +45,7 @@ private:
             CompareTree(*block, document_.blocks[i]);
         }
         for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
-            if (StructureExport::Has(*blocks->At(id)) && !read_.Blocks()->At(blocks->At(id)->name))
-                return false;
+            if (StructureExport::Has(*blocks->At(id)) && !read_.Blocks()->At(blocks->At(id)->name)) return false;
         return true;
     }
 
@@ -55,9 +54,7 @@ private:
             left_.Add(Leftovers::NameOfBlock(block.name), "the file can't hold its style tree");
     }
 
-    bool IsLeftOut(const Graphic& graphic) const {
-        return graphic.source == Graphic::kNoSource && left_.Has(graphic);
-    }
+    bool IsLeftOut(const Graphic& graphic) const { return graphic.source == Graphic::kNoSource && left_.Has(graphic); }
 
     // The next member that the file has.
     size_t SkipLeftOut(const Graphic& group, size_t place) const {
@@ -146,9 +143,8 @@ private:
 
 } // namespace
 
-Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read,
-                        Leftovers& left, const std::vector<uint32_t>& removedLeft,
-                        const dxf::Progress& progress) {
+Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, Leftovers& left,
+                        const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress) {
     return ReadBack(saved, text, read, left, removedLeft, progress).Run();
 }
 

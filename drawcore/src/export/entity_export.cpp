@@ -74,8 +74,8 @@ dxf::Shape ShapeOf(const VertexGraphic& graphic) {
     if (!isOneStroke && graphic.GetPen().style == kLineStyleNone && isLevel) return HatchOf(graphic);
     if (!isOneStroke || vertices.size() < 2)
         throw dxf::SaveError("a graphic of several strokes was added, which the file can't hold");
-    const bool isStraight = std::all_of(vertices.begin(), vertices.end(),
-                                        [](const Vertex& vertex) { return vertex.Next().IsPlain(); });
+    const bool isStraight =
+        std::all_of(vertices.begin(), vertices.end(), [](const Vertex& vertex) { return vertex.Next().IsPlain(); });
     if (!graphic.closed && isStraight && vertices.size() == 2) {
         if (vertices[0].Position() == vertices[1].Position()) return dxf::PointMark{vertices[0].Position()};
         return dxf::Line{vertices[0].Position(), vertices[1].Position()};
@@ -95,8 +95,7 @@ dxf::Shape ShapeOf(EllipseArc arc, Vec3& normal) {
     const double length = Length(arc.major), across = Length(arc.minor);
     const bool isLevel = arc.major.z == 0 && arc.minor.z == 0;
     const double turned = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x;
-    const bool isCircle =
-        Near(length, across) && Near(Dot(arc.major, arc.minor) + length * across, length * across);
+    const bool isCircle = Near(length, across) && Near(Dot(arc.major, arc.minor) + length * across, length * across);
     if (isCircle && isLevel && turned > 0) {
         if (arc.IsWhole()) return dxf::Circle{arc.center, length};
         const double start = std::atan2(arc.major.y, arc.major.x) + arc.start;

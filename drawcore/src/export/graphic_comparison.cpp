@@ -52,8 +52,7 @@ bool SameVertices(const VertexGraphic& a, const VertexGraphic& b, bool calculate
     const auto alike = [](const Vertex& one, const Vertex& other) { return one.wFlags == other.wFlags; };
     return a.closed == b.closed && a.vertices.size() == b.vertices.size() &&
            std::equal(a.vertices.begin(), a.vertices.end(), b.vertices.begin(), same) &&
-           (a.vertices.empty() ||
-            std::equal(a.vertices.begin() + 1, a.vertices.end(), b.vertices.begin() + 1, alike));
+           (a.vertices.empty() || std::equal(a.vertices.begin() + 1, a.vertices.end(), b.vertices.begin() + 1, alike));
 }
 
 bool SameSpline(const SplineCurve& a, const SplineCurve& b) {
@@ -99,8 +98,7 @@ const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
 
 GraphicComparison::GraphicComparison(const Drawing& saved, const Drawing& read)
     : saved_(saved), read_(read), layers_(SameNames(read.Layers(), saved.Layers())),
-      lines_(SameNames(read.LineStyles(), saved.LineStyles())),
-      blocks_(SameNames(read.Blocks(), saved.Blocks())) {}
+      lines_(SameNames(read.LineStyles(), saved.LineStyles())), blocks_(SameNames(read.Blocks(), saved.Blocks())) {}
 
 std::vector<size_t> GraphicComparison::DifferentProperties(const Graphic& saved, const Graphic& read) {
     std::vector<size_t> different;
@@ -121,15 +119,13 @@ std::vector<size_t> GraphicComparison::DifferentProperties(const Graphic& saved,
     return different;
 }
 
-const char* GraphicComparison::DifferentShape(const Graphic& saved, const Graphic& read,
-                                              bool calculated) const {
+const char* GraphicComparison::DifferentShape(const Graphic& saved, const Graphic& read, bool calculated) const {
     if (saved.GetKind() != read.GetKind() || saved.bType != read.bType) return "the kind";
     switch (saved.GetKind()) {
     case Kind::Text:
         return DifferentText(saved, read, calculated);
     case Kind::Insert:
-        return DifferentInsert(static_cast<const InsertGraphic&>(saved),
-                               static_cast<const InsertGraphic&>(read));
+        return DifferentInsert(static_cast<const InsertGraphic&>(saved), static_cast<const InsertGraphic&>(read));
     case Kind::Curve:
         return SameCurve(saved, read) ? nullptr : "its curve";
     default:
@@ -146,8 +142,7 @@ const char* GraphicComparison::FirstDifference(const Graphic& saved, const Graph
     return properties.empty() ? nullptr : schema_.first[properties[0]].name;
 }
 
-bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& saved,
-                               const StoredProperty& read) {
+bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& saved, const StoredProperty& read) {
     const auto* value = std::get_if<int64_t>(&saved);
     const auto* other = std::get_if<int64_t>(&read);
     if (!value || !other) return saved == read;
@@ -176,8 +171,7 @@ bool GraphicComparison::IsSameStyle(int64_t a, int64_t b) {
     const BrushStyle* other = read_.BrushStyles()->At(static_cast<Id>(b));
     if (!one || !other) return false;
     const bool byName = one->bitmap || other->bitmap;
-    return found->second =
-               byName ? one->name == other->name : dxf::SameLines(FileLines(*one), FileLines(*other));
+    return found->second = byName ? one->name == other->name : dxf::SameLines(FileLines(*one), FileLines(*other));
 }
 
 // Markers stand for themselves.

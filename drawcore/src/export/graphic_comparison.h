@@ -14,13 +14,15 @@ namespace drawcore {
 
 class GraphicComparison {
 public:
-    // Entries of the two drawings' tables are the same if their names are. Both drawings have to outlive the comparison.
+    // Entries of the two drawings' tables are the same if their names are. Both drawings have to outlive the
+    // comparison.
     GraphicComparison(const Drawing& saved, const Drawing& read);
 
     // Returns the properties that differ, by their places in the schema. The graphics are of the same kind.
     std::vector<size_t> DifferentProperties(const Graphic& saved, const Graphic& read);
-    // Returns what else differs, for messages; null if nothing does. Places that are calculated, because the record has them in
-    // other coordinates, are the same if they differ by rounding only; so are curves and directions, which it has as angles.
+    // Returns what else differs, for messages; null if nothing does. Places that are calculated, because the record has
+    // them in other coordinates, are the same if they differ by rounding only; so are curves and directions, which it
+    // has as angles.
     const char* DifferentShape(const Graphic& saved, const Graphic& read, bool calculated) const;
     // Returns the first difference, for messages; null if there is none.
     const char* FirstDifference(const Graphic& saved, const Graphic& read, bool calculated);

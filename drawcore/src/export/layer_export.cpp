@@ -37,8 +37,7 @@ void Describe(const Layer& layer, dxf::Layer& made) {
     made.flags |= (layer.frozen ? dxf::kLayerIsFrozen : 0) | (layer.locked ? dxf::kLayerIsLocked : 0);
 }
 
-std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing,
-                                                                  const dxf::Document& known) {
+std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing, const dxf::Document& known) {
     std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> changed;
     const LayerTable* layers = drawing.Layers();
     const LineStyleTable* styles = drawing.LineStyles();
@@ -53,8 +52,7 @@ std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing&
             wanted.color = std::abs(known.layers[i].color) * (layer->off ? -1 : 1);
             wanted.trueColor = known.layers[i].trueColor;
         }
-        if (LineOf(was, *styles) != LineOf(*layer, *styles))
-            wanted.lineType = LineTypeName(*styles, layer->lineStyle);
+        if (LineOf(was, *styles) != LineOf(*layer, *styles)) wanted.lineType = LineTypeName(*styles, layer->lineStyle);
     }
     return changed;
 }

@@ -13,7 +13,6 @@ namespace drawcore {
 void Describe(const Layer& layer, dxf::Layer& made);
 
 // The layers of the file whose state, color or line type is another in the drawing, as they are to be.
-std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing,
-                                                                  const dxf::Document& known);
+std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing, const dxf::Document& known);
 
 } // namespace drawcore

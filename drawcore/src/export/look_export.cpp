@@ -30,8 +30,7 @@ LookExport::LookExport(const Drawing& drawing, dxf::DrawingPatch& patch)
     : drawing_(drawing), patch_(patch), known_(patch.Known().Tables()), tables_(ImportTables(known_, file_)),
       import_(known_, tables_, file_), comparison_(drawing, file_) {
     if (drawing.Layers()) layers_ = InTable<dxf::LayerIndex>(known_.layers, *drawing.Layers());
-    if (drawing.LineStyles())
-        lineTypes_ = InTable<dxf::LineTypeIndex>(known_.lineTypes, *drawing.LineStyles());
+    if (drawing.LineStyles()) lineTypes_ = InTable<dxf::LineTypeIndex>(known_.lineTypes, *drawing.LineStyles());
 }
 
 dxf::LayerIndex LookExport::LayerOf(Id id) {
@@ -87,32 +86,27 @@ const LookExport::Row LookExport::kRows[] = {
      [](LookExport& by, const Graphic& graphic, dxf::Look& look) { look.layer = by.LayerOf(graphic.layer); }},
     {kPropInfo, [](LookExport&, const Graphic& graphic,
                    dxf::Look& look) { look.info = graphic.info ? Utf8FromCodePage(*graphic.info) : ""; }},
-    {kPropStyleTree,
-     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetStyleTree(graphic, look); }},
-    {kPropPenColor,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.color = graphic.GetPen().color; }},
+    {kPropStyleTree, [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetStyleTree(graphic, look); }},
+    {kPropPenColor, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.color = graphic.GetPen().color; }},
     {kPropPenStyle, [](LookExport& by, const Graphic& graphic,
                        dxf::Look& look) { look.lineType = by.LineTypeOf(graphic.GetPen().style); }},
     {kPropPenScale,
      [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.lineScale = graphic.GetPen().scale; }},
-    {kPropPenWidth,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.width = graphic.GetPen().width; }},
-    {kPropScaleSystem,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) {
-         look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld;
-     }},
-    {kPropPenAlignment, [](LookExport&, const Graphic& graphic,
-                           dxf::Look& look) { look.dashesFitted = graphic.GetPen().alignment; }},
+    {kPropPenWidth, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.width = graphic.GetPen().width; }},
+    {kPropScaleSystem, [](LookExport&, const Graphic& graphic,
+                          dxf::Look& look) { look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld; }},
+    {kPropPenAlignment,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.dashesFitted = graphic.GetPen().alignment; }},
     {kPropBrushStyle,
      [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetBrushStyle(graphic, look.brush); }},
-    {kPropBrushColor, [](LookExport&, const Graphic& graphic,
-                         dxf::Look& look) { look.brush.color = graphic.GetBrush().color; }},
-    {kPropBrushScale, [](LookExport&, const Graphic& graphic,
-                         dxf::Look& look) { look.brush.scale = graphic.GetBrush().scale; }},
-    {kPropBrushAngle, [](LookExport&, const Graphic& graphic,
-                         dxf::Look& look) { look.brush.angle = graphic.GetBrush().angle; }},
-    {kPropHatchCross, [](LookExport&, const Graphic& graphic,
-                         dxf::Look& look) { look.brush.cross = graphic.GetBrush().cross; }},
+    {kPropBrushColor,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.color = graphic.GetBrush().color; }},
+    {kPropBrushScale,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.scale = graphic.GetBrush().scale; }},
+    {kPropBrushAngle,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.angle = graphic.GetBrush().angle; }},
+    {kPropHatchCross,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.cross = graphic.GetBrush().cross; }},
     {kPropBrushDrawMode, [](LookExport&, const Graphic& graphic,
                             dxf::Look& look) { look.brush.winding = graphic.GetBrush().drawMode != 0; }},
     {kPropTextFont, [](LookExport&, const Graphic& graphic,
@@ -121,8 +115,8 @@ const LookExport::Row LookExport::kRows[] = {
      [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.height = SeenHeight(graphic); }},
     {kPropTextStyle,
      [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.style = StateOf(graphic).style; }},
-    {kPropTextFormat, [](LookExport&, const Graphic& graphic,
-                         dxf::Look& look) { look.text.format = StateOf(graphic).format; }},
+    {kPropTextFormat,
+     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.format = StateOf(graphic).format; }},
 };
 
 void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const {
@@ -144,13 +138,12 @@ void LookExport::Write(const Graphic& graphic, size_t place) {
     import_.AddTo(group, entity, false);
     if (group.MemberCount() == 0) throw dxf::SaveError("nothing of it would be seen");
     const Graphic& shown = *group.MemberAt(0);
-    if (shown.GetKind() != graphic.GetKind())
-        throw dxf::SaveError("the file would show another kind of graphic");
+    if (shown.GetKind() != graphic.GetKind()) throw dxf::SaveError("the file would show another kind of graphic");
     dxf::Look look = dxf::LookOf(known_, entity);
     for (const size_t property : comparison_.DifferentProperties(graphic, shown)) {
         const std::string name = AllProperties().first[property].name;
-        const auto row = std::find_if(std::begin(kRows), std::end(kRows),
-                                      [&](const Row& some) { return name == some.name; });
+        const auto row =
+            std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& some) { return name == some.name; });
         if (row == std::end(kRows)) throw dxf::SaveError("the file can't hold its " + name);
         row->put(*this, graphic, look);
         look.varied &= static_cast<uint8_t>(~dxf::VariedBit(name));

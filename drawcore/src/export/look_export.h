@@ -1,5 +1,5 @@
-// What graphics want of their records, in the terms of the file that their drawing was read from: where a graphic differs from what
-// its record shows, the graphic's value; everything else as it is in the file.
+// What graphics want of their records, in the terms of the file that their drawing was read from: where a graphic
+// differs from what its record shows, the graphic's value; everything else as it is in the file.
 #pragma once
 
 #include <map>

@@ -30,8 +30,7 @@ namespace {
 // Carries what was touched into the text.
 class ChangeExport {
 public:
-    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch,
-                 Leftovers& left)
+    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch, Leftovers& left)
         : drawing_(drawing), structure_(structure), left_(left), looks_(drawing, patch) {}
 
     // Layers are added even if nothing is on them.
@@ -89,13 +88,13 @@ struct ChangedSource {
     std::map<std::string, size_t> onlyExtended; // DrawingPatch::OnlyExtended
 };
 
-// One way of a drawing into the text of its file and back. What is left over by then, and was not before, makes the result
-// useless: the next way leaves it out.
+// One way of a drawing into the text of its file and back. What is left over by then, and was not before, makes the
+// result useless: the next way leaves it out.
 class SavePass {
 public:
     SavePass(const Drawing& drawing, Leftovers& left, const ProgressReport& report)
-        : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left),
-          report_(report) {}
+        : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left), report_(report) {
+    }
 
     // None, and the source stays, if the drawing is what the file has.
     std::optional<ChangedSource> Run() {
@@ -106,8 +105,8 @@ public:
         const std::string other = restructured ? structurePatch.Finish() : std::string();
         structure.TakeRefusals();
         const std::vector<Id> newLayers = NewLayers();
-        const bool isSame = !restructured && newLayers.empty() &&
-                            ChangedLayers(drawing_, source_.known).empty() && !IsTouched(drawing_);
+        const bool isSame = !restructured && newLayers.empty() && ChangedLayers(drawing_, source_.known).empty() &&
+                            !IsTouched(drawing_);
         if (isSame || IsInVain()) return std::nullopt;
         dxf::DrawingPatch patch(restructured ? std::string_view(other) : text_,
                                 restructured ? dxf::Read(other, {}).Tables() : source_.known.Tables());
@@ -153,8 +152,8 @@ private:
     void Compare(ChangedSource& changed) {
         const std::string_view text = dxf::TextOf(changed.bytes);
         const dxf::Document document = dxf::Read(changed.bytes, report_.Part(kPatched, kReadBack));
-        changed.sources = CompareWithFile(drawing_, text, document, left_, changed.removedLeft,
-                                          report_.Part(kReadBack, kCompared));
+        changed.sources =
+            CompareWithFile(drawing_, text, document, left_, changed.removedLeft, report_.Part(kReadBack, kCompared));
         for (const auto& [index, layer] : ChangedLayers(drawing_, document))
             left_.Add(Leftovers::NameOfLayer(HostName(layer.name)), "the file can't hold a change of it");
         CompareLayerNames(text, document);
@@ -215,8 +214,7 @@ void NoteContents(const Drawing& drawing, const Leftovers& left, const std::vect
         if (left.Has(Leftovers::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
             source.layers.push_back(name);
     for (const std::string& name : blocks)
-        if (left.Has(Leftovers::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name))
-            source.blocks.push_back(name);
+        if (left.Has(Leftovers::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name)) source.blocks.push_back(name);
     source.graphics.insert(source.graphics.end(), removedLeft.begin(), removedLeft.end());
     std::sort(source.graphics.begin(), source.graphics.end());
 }

@@ -29,15 +29,10 @@ StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& pa
         const std::string name = HostName(block.name);
         const std::vector<std::string>& taken = drawing.source->blocks;
         if (block.declared && std::find(taken.begin(), taken.end(), name) != taken.end())
-            inFile_.emplace(FoldName(name), dxf::Block{block.name,
-                                                       block.stored,
-                                                       true,
-                                                       block.base,
-                                                       block.flags,
-                                                       {},
-                                                       block.own,
-                                                       block.begin,
-                                                       block.end});
+            inFile_.emplace(
+                FoldName(name),
+                dxf::Block{
+                    block.name, block.stored, true, block.base, block.flags, {}, block.own, block.begin, block.end});
     }
 }
 
@@ -103,8 +98,7 @@ void StructureExport::WriteBlock(const Block& block) {
 
 // A group of graphics has properties that no record of a file has.
 void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
-    if (!whole.HasLook(VertexGraphic().GetLook()))
-        left_.Add(name, "the file has no place for properties of the whole");
+    if (!whole.HasLook(VertexGraphic().GetLook())) left_.Add(name, "the file has no place for properties of the whole");
 }
 
 void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
@@ -124,8 +118,7 @@ void StructureExport::RemoveLayers() {
     for (const dxf::Layer& layer : patch_.Known().layers) {
         const std::string name = HostName(layer.name);
         const std::vector<std::string>& had = drawing_.source->layers;
-        const bool isGone =
-            layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
+        const bool isGone = layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
         if (!isGone || !layer.declared || left_.Has(Leftovers::NameOfLayer(name))) continue;
         patch_.RemoveLayer(layer);
     }
@@ -155,9 +148,7 @@ void StructureExport::RemoveOthers() {
     const std::vector<uint32_t>& all = drawing_.source->graphics;
     std::set_difference(all.begin(), all.end(), kept_.begin(), kept_.end(), std::back_inserter(others));
     for (const uint32_t offset : others) {
-        const auto holds = [offset](const auto& range) {
-            return range.first < offset && offset < range.second;
-        };
+        const auto holds = [offset](const auto& range) { return range.first < offset && offset < range.second; };
         if (left_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))
             patch_.Remove(offset);
     }

@@ -30,13 +30,12 @@ double SweepBetween(double start, double end) {
 std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge) {
     const Vec3 chord = b - a;
     // Flatter than this the arc is nowhere further from its chord than its center, that far away, can be distinguished.
-    if (!std::isfinite(bulge) || std::fabs(bulge) < 1e-9 || (chord.x == 0 && chord.y == 0))
-        return std::nullopt;
+    if (!std::isfinite(bulge) || std::fabs(bulge) < 1e-9 || (chord.x == 0 && chord.y == 0)) return std::nullopt;
     // The center lies on the chord's middle line; (1 - b^2) / 4b of the chord away, to the left for a small left arc.
     const double away = (1 - bulge * bulge) / (4 * bulge);
     const Vec3 center{(a.x + b.x) / 2 - chord.y * away, (a.y + b.y) / 2 + chord.x * away, a.z};
-    return CircleArc(center, std::hypot(a.x - center.x, a.y - center.y),
-                     std::atan2(a.y - center.y, a.x - center.x), 4 * std::atan(bulge));
+    return CircleArc(center, std::hypot(a.x - center.x, a.y - center.y), std::atan2(a.y - center.y, a.x - center.x),
+                     4 * std::atan(bulge));
 }
 
 std::vector<double> Extremes(const EllipseArc& arc, bool inSpace) {

@@ -1,5 +1,5 @@
-// Circles, arcs, ellipses and pieces of these: one formula, center + major * cos(t) + minor * sin(t). Any affine image of an
-// arc is one.
+// Circles, arcs, ellipses and pieces of these: one formula, center + major * cos(t) + minor * sin(t). Any affine image
+// of an arc is one.
 #pragma once
 
 #include <optional>
@@ -27,8 +27,8 @@ EllipseArc CircleArc(const Vec3& center, double radius, double start = 0, double
 // The way from start to end around a circle to the left, from 0 (excluded) to a whole turn.
 double SweepBetween(double start, double end);
 
-// The arc that a bulge (tangent of a quarter of the arc's angle, positive to the left) makes of the segment from a to b; none
-// if it is straight.
+// The arc that a bulge (tangent of a quarter of the arc's angle, positive to the left) makes of the segment from a to
+// b; none if it is straight.
 std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge);
 
 // Parameters within the arc, its ends left out, at which it goes farthest along x, y and, if asked for, z.

@@ -38,8 +38,7 @@ Extents Extents::Transformed(const Matrix& matrix) const {
         return box;
     }
     for (int corner = 0; corner < 8; ++corner)
-        box.Add(matrix.Apply(
-            {corner & 1 ? high.x : low.x, corner & 2 ? high.y : low.y, corner & 4 ? high.z : low.z}));
+        box.Add(matrix.Apply({corner & 1 ? high.x : low.x, corner & 2 ? high.y : low.y, corner & 4 ? high.z : low.z}));
     return box;
 }
 

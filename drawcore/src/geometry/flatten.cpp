@@ -32,8 +32,8 @@ void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance,
     const double radius = std::max(std::hypot(u.x, u.y), std::hypot(v.x, v.y));
     const double sweep = arc.sweep;
     if (!std::isfinite(radius) || !std::isfinite(sweep) || std::fabs(sweep) > 4 * kPi) return;
-    const int steps = std::max(
-        1, static_cast<int>(std::ceil(StepsForTurn(radius, tolerance) * std::fabs(sweep) / (2 * kPi))));
+    const int steps =
+        std::max(1, static_cast<int>(std::ceil(StepsForTurn(radius, tolerance) * std::fabs(sweep) / (2 * kPi))));
     std::vector<double> at = Extremes({{}, u, v, arc.start, sweep}, false);
     for (int i = 1; i < steps; ++i)
         at.push_back(arc.start + sweep * i / steps);
@@ -69,10 +69,8 @@ void FlattenSpline(const SplineCurve& curve, const Matrix& matrix, double tolera
                         c = matrix.Plan(curve.points[i + 1]);
             bend = std::max(bend, std::hypot(a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y));
         }
-        const double wanted =
-            tolerance > 0 ? std::sqrt(bend / tolerance / 8) * curve.degree : kStepsByDefault;
-        const int steps =
-            static_cast<int>(std::clamp(std::ceil(wanted), 2.0, static_cast<double>(kMostSteps)));
+        const double wanted = tolerance > 0 ? std::sqrt(bend / tolerance / 8) * curve.degree : kStepsByDefault;
+        const int steps = static_cast<int>(std::clamp(std::ceil(wanted), 2.0, static_cast<double>(kMostSteps)));
         for (int i = 1; i <= steps; ++i)
             path.LineTo(matrix.Plan(curve.At(ParameterAt(low, high, i, steps))), false);
     }

@@ -35,14 +35,12 @@ Vec3 Matrix::Apply(const Vec3& p) const {
 }
 
 Vec3 Matrix::Turn(const Vec3& v) const {
-    return {v.x * at[0][0] + v.y * at[1][0] + v.z * at[2][0],
-            v.x * at[0][1] + v.y * at[1][1] + v.z * at[2][1],
+    return {v.x * at[0][0] + v.y * at[1][0] + v.z * at[2][0], v.x * at[0][1] + v.y * at[1][1] + v.z * at[2][1],
             v.x * at[0][2] + v.y * at[1][2] + v.z * at[2][2]};
 }
 
 bool Matrix::Invert(Matrix& inverse) const {
-    const Vec3 x{at[0][0], at[0][1], at[0][2]}, y{at[1][0], at[1][1], at[1][2]},
-        z{at[2][0], at[2][1], at[2][2]};
+    const Vec3 x{at[0][0], at[0][1], at[0][2]}, y{at[1][0], at[1][1], at[1][2]}, z{at[2][0], at[2][1], at[2][2]};
     const Vec3 columns[3] = {Cross(y, z), Cross(z, x), Cross(x, y)};
     const double volume = x.x * columns[0].x + x.y * columns[0].y + x.z * columns[0].z;
     if (!std::isnormal(volume) || !std::isfinite(1 / volume)) return false;

@@ -29,8 +29,7 @@ struct Matrix {
     bool Invert(Matrix& inverse) const;
     // Whether each axis stays in its direction or turns into the opposite one, so that a box stays a box.
     bool KeepsAxes() const {
-        return at[0][1] == 0 && at[0][2] == 0 && at[1][0] == 0 && at[1][2] == 0 && at[2][0] == 0 &&
-               at[2][1] == 0;
+        return at[0][1] == 0 && at[0][2] == 0 && at[1][0] == 0 && at[1][2] == 0 && at[2][0] == 0 && at[2][1] == 0;
     }
     // Mean factor by which lengths in the xy plane grow: the square root of the area's factor.
     double PlanScale() const;

@@ -25,8 +25,7 @@ Weighted Blend(const Weighted& a, const Weighted& b, double share) {
 bool SplineCurve::IsSound() const {
     const size_t count = points.size();
     return degree >= 1 && degree <= kHighestDegree && count > static_cast<size_t>(degree) &&
-           knots.size() == count + static_cast<size_t>(degree) + 1 &&
-           (weights.empty() || weights.size() == count) &&
+           knots.size() == count + static_cast<size_t>(degree) + 1 && (weights.empty() || weights.size() == count) &&
            std::all_of(points.begin(), points.end(), IsFinite) &&
            std::all_of(knots.begin(), knots.end(), [](double k) { return std::isfinite(k); }) &&
            std::is_sorted(knots.begin(), knots.end()) && knots[static_cast<size_t>(degree)] < knots[count] &&
@@ -36,8 +35,7 @@ bool SplineCurve::IsSound() const {
 // De Boor's algorithm on weighted points.
 Vec3 SplineCurve::At(double t) const {
     const size_t p = static_cast<size_t>(degree);
-    const auto first = knots.begin() + degree,
-               last = knots.begin() + static_cast<std::ptrdiff_t>(points.size());
+    const auto first = knots.begin() + degree, last = knots.begin() + static_cast<std::ptrdiff_t>(points.size());
     size_t span = static_cast<size_t>(std::upper_bound(first, last, t) - knots.begin()) - 1;
     span = std::clamp(span, p, points.size() - 1);
     Weighted d[kHighestDegree + 1];
@@ -56,8 +54,9 @@ Vec3 SplineCurve::At(double t) const {
 
 namespace {
 
-// Slopes of the cubic through the points with continuous curvature, steps of the parameter 1: at the ends of an open one no
-// curvature (solved by elimination); a closed one runs into its first points once more, far enough to forget its ends.
+// Slopes of the cubic through the points with continuous curvature, steps of the parameter 1: at the ends of an open
+// one no curvature (solved by elimination); a closed one runs into its first points once more, far enough to forget its
+// ends.
 std::vector<Vec3> Slopes(const std::vector<Vec3>& p) {
     const size_t n = p.size();
     std::vector<double> diagonal(n, 4);
@@ -83,7 +82,8 @@ SplineCurve SplineThrough(const std::vector<Vec3>& fitPoints, bool closed) {
         curve.points = fitPoints;
         return curve;
     }
-    // A slope's influence falls to a quarter with each point: sixteen points beyond the seam are exact for doubles' purposes.
+    // A slope's influence falls to a quarter with each point: sixteen points beyond the seam are exact for doubles'
+    // purposes.
     constexpr size_t kLeadIn = 16;
     const size_t count = fitPoints.size() + (closed ? 1 : 0), lead = closed ? kLeadIn : 0;
     std::vector<Vec3> run;
@@ -95,8 +95,8 @@ SplineCurve SplineThrough(const std::vector<Vec3>& fitPoints, bool closed) {
     curve.knots.assign(4, 0.0);
     for (size_t i = lead; i + 1 < lead + count; ++i) {
         const double knot = static_cast<double>(i + 1 - lead);
-        curve.points.insert(curve.points.end(), {run[i] + slopes[i] * (1 / 3.0),
-                                                 run[i + 1] - slopes[i + 1] * (1 / 3.0), run[i + 1]});
+        curve.points.insert(curve.points.end(),
+                            {run[i] + slopes[i] * (1 / 3.0), run[i + 1] - slopes[i + 1] * (1 / 3.0), run[i + 1]});
         curve.knots.insert(curve.knots.end(), 3, knot);
     }
     curve.knots.push_back(curve.knots.back());

@@ -20,9 +20,7 @@ struct Pen {
     uint8_t scaleSystem = kScalePaper;
     bool alignment = true; // dashes fitted to each segment; else the pattern runs on through the corners
 
-    auto Values() const {
-        return std::tie(width, scale, color, style, scaleSystem, alignment);
-    } // all of them
+    auto Values() const { return std::tie(width, scale, color, style, scaleSystem, alignment); } // all of them
 };
 
 struct Brush {
@@ -64,8 +62,7 @@ struct Look {
     // Those of pen and brush aside.
     auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
     bool operator==(const Look& other) const {
-        return lastPage == other.lastPage && pen == other.pen && brush == other.brush &&
-               Values() == other.Values();
+        return lastPage == other.lastPage && pen == other.pen && brush == other.brush && Values() == other.Values();
     }
 };
 

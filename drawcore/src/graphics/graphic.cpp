@@ -32,8 +32,8 @@ Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{
 }
 
 Graphic::Graphic(const Graphic& other)
-    : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr),
-      layer(other.layer), styleTree(other.styleTree) {
+    : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr), layer(other.layer),
+      styleTree(other.styleTree) {
     MakeHostParts();
     Ties().drawing = other.Ties().drawing;
     Ties().properties = other.Ties().properties;
@@ -193,8 +193,8 @@ Look Graphic::GetLook() const {
 }
 
 bool Graphic::HasLook(const Look& look) const {
-    return GetPen() == look.pen && GetBrush() == look.brush && layer == look.layer &&
-           styleTree == look.styleTree && (info ? *info == look.info : look.info.empty());
+    return GetPen() == look.pen && GetBrush() == look.brush && layer == look.layer && styleTree == look.styleTree &&
+           (info ? *info == look.info : look.info.empty());
 }
 
 bool Graphic::SetLook(const Look& look) {

@@ -106,9 +106,8 @@ public:
     uint16_t styleTree = kNoId; // entry of "_Blocks_": the style that it is drawn in
 
     static constexpr uint32_t kNoSource = UINT32_MAX;
-    uint32_t source =
-        kNoSource; // where its record begins in the text of the file that it was read from; not of copies
-    bool touched = false; // since then someone could have changed it
+    uint32_t source = kNoSource; // where its record begins in the text of the file that it was read from; not of copies
+    bool touched = false;        // since then someone could have changed it
 
 protected:
     Graphic(uint8_t type, const PropertyTable* properties);
@@ -130,7 +129,8 @@ private:
     void ForgetSource();          // it is no longer where its record says
     UndoLog* OpenUndoLog() const; // null if nothing is to be saved
 
-    // What fits into the bytes of the record that are the host's own: of a million graphics they would be a hundred megabytes.
+    // What fits into the bytes of the record that are the host's own: of a million graphics they would be a hundred
+    // megabytes.
     struct Tied {
         Drawing* drawing = nullptr;
         const PropertyTable* properties = nullptr;

@@ -52,9 +52,8 @@ GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t place, void* position, ui
 }
 
 VertexGraphic* AsVertices(GraphicStruct* graphic) {
-    return graphic && graphic->bType == kGraphicVertices
-               ? dynamic_cast<VertexGraphic*>(Graphic::From(graphic))
-               : nullptr;
+    return graphic && graphic->bType == kGraphicVertices ? dynamic_cast<VertexGraphic*>(Graphic::From(graphic))
+                                                         : nullptr;
 }
 
 // Changes an attribute directly: no check against properties, but the undo log sees it.

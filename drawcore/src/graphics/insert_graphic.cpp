@@ -20,8 +20,7 @@ bool IsOpen(const Block* block, const Trace& trace) {
 }
 
 bool operator==(const InsertArray& a, const InsertArray& b) {
-    return a.columns == b.columns && a.rows == b.rows && a.columnStep == b.columnStep &&
-           a.rowStep == b.rowStep;
+    return a.columns == b.columns && a.rows == b.rows && a.columnStep == b.columnStep && a.rowStep == b.rowStep;
 }
 
 } // namespace
@@ -32,8 +31,7 @@ InsertGraphic::InsertGraphic(Id blockId, const dxf::AxisEnds& ends)
 }
 
 InsertGraphic::InsertGraphic(const InsertGraphic& other)
-    : Graphic(other), block(other.block),
-      more_(other.more_ ? std::make_unique<More>(*other.more_) : nullptr) {
+    : Graphic(other), block(other.block), more_(other.more_ ? std::make_unique<More>(*other.more_) : nullptr) {
     std::copy(std::begin(other.vertices), std::end(other.vertices), vertices);
 }
 
@@ -139,14 +137,12 @@ void InsertGraphic::AddShapeExtents(Extents& extents) const {
     const Block* shown = drawing && drawing->Blocks() ? drawing->Blocks()->At(block) : nullptr;
     if (!shown || depth >= kDeepest) return;
     ++depth;
-    const Extents box =
-        shown->Content().GetExtents().Transformed(Matrix::Translation(shown->base * -1) * Placement());
+    const Extents box = shown->Content().GetExtents().Transformed(Matrix::Translation(shown->base * -1) * Placement());
     --depth;
     const InsertArray moved = MovedArray();
     for (const int row : {0, moved.rows - 1})
         for (const int column : {0, moved.columns - 1})
-            extents.Add(
-                box.Transformed(Matrix::Translation(moved.columnStep * column + moved.rowStep * row)));
+            extents.Add(box.Transformed(Matrix::Translation(moved.columnStep * column + moved.rowStep * row)));
 }
 
 } // namespace drawcore

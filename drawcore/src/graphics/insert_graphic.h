@@ -1,5 +1,5 @@
-// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts. They, and the steps of the array, are
-// in the drawing's coordinates as of before the insertion was moved for the first time, and follow it.
+// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts. They, and the steps of the
+// array, are in the drawing's coordinates as of before the insertion was moved for the first time, and follow it.
 #pragma once
 
 #include <optional>

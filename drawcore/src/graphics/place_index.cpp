@@ -61,8 +61,7 @@ double Share(double low, double high, double allLow, double allHigh) {
 // Whether so much of all lies in the box that it takes less time to look at every member than to sort those in it.
 bool HoldsMuch(const Extents& box, const Extents& all) {
     constexpr double kMuch = 0.125;
-    return Share(box.low.x, box.high.x, all.low.x, all.high.x) *
-               Share(box.low.y, box.high.y, all.low.y, all.high.y) >
+    return Share(box.low.x, box.high.x, all.low.x, all.high.x) * Share(box.low.y, box.high.y, all.low.y, all.high.y) >
            kMuch;
 }
 
@@ -109,8 +108,7 @@ void PlaceIndex::TakeUp(const Graphic& group) {
     for (; known_ < group.MemberCount(); ++known_)
         changed_.push_back(static_cast<uint32_t>(known_));
     constexpr size_t kFew = 64;
-    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16)
-        return Build(group); // faster than one by one
+    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16) return Build(group); // faster than one by one
     for (const uint32_t place : changed_) {
         Graphic& member = *group.MemberAt(place);
         const Extents& extents = member.GetExtents();
@@ -133,8 +131,7 @@ void PlaceIndex::Drop() {
     tree_.reset();
 }
 
-std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, const Extents& box,
-                                                      double paperInch) {
+std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, const Extents& box, double paperInch) {
     if (HoldsMuch(box, group.GetExtents())) return std::nullopt;
     TakeUp(group);
     const double reach = std::max(worldReach_, paperReach_ * paperInch);
@@ -142,9 +139,8 @@ std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, cons
     around.Add(box.low - Vec3{reach, reach, 0});
     around.Add(box.high + Vec3{reach, reach, 0});
     std::vector<uint32_t> places;
-    tree_->query(
-        bgi::intersects(BoxOf(around)),
-        boost::make_function_output_iterator([&](const Entry& entry) { places.push_back(entry.place); }));
+    tree_->query(bgi::intersects(BoxOf(around)),
+                 boost::make_function_output_iterator([&](const Entry& entry) { places.push_back(entry.place); }));
     std::sort(places.begin(), places.end());
     return places;
 }

@@ -1,7 +1,8 @@
-// The members of a drawing's root by place, so that what lies in a part of the drawing is found without a look at the rest.
+// The members of a drawing's root by place, so that what lies in a part of the drawing is found without a look at the
+// rest.
 //
-// Made when it is asked for first. It hears of each member that changes (Forget) and takes up the new place when it is asked
-// again: an answer is never out of date.
+// Made when it is asked for first. It hears of each member that changes (Forget) and takes up the new place when it is
+// asked again: an answer is never out of date.
 #pragma once
 
 #include <memory>
@@ -20,8 +21,8 @@ public:
     PlaceIndex();
     ~PlaceIndex();
 
-    // Places, in the order of drawing, of the members of the group that show in the box as seen from above; perhaps of others
-    // that lie close to it too. None: of all members. paperInch: drawing units of an inch of paper.
+    // Places, in the order of drawing, of the members of the group that show in the box as seen from above; perhaps of
+    // others that lie close to it too. None: of all members. paperInch: drawing units of an inch of paper.
     std::optional<std::vector<uint32_t>> Find(const Graphic& group, const Extents& box, double paperInch);
 
     // The member is about to change its extents, which are still known.

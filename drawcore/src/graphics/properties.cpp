@@ -86,9 +86,7 @@ struct InBrush {
 };
 template <auto field>
 struct InText : Assigned<InText<field>> {
-    static const auto& In(const Graphic& graphic) {
-        return static_cast<const TextGraphic&>(graphic).state.*field;
-    }
+    static const auto& In(const Graphic& graphic) { return static_cast<const TextGraphic&>(graphic).state.*field; }
     static auto& In(Graphic& graphic) { return static_cast<TextGraphic&>(graphic).state.*field; }
 };
 
@@ -97,8 +95,7 @@ constexpr Property Whole(const char* name, PropertyMeaning meaning, uint8_t owne
     return {name,
             meaning,
             owners,
-            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts,
-             Place::template Set<int64_t>},
+            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts, Place::template Set<int64_t>},
             {},
             {},
             shapes};
@@ -110,8 +107,7 @@ constexpr Property Real(const char* name, PropertyMeaning meaning, uint8_t owner
             meaning,
             owners,
             {},
-            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>,
-             nullptr},
+            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>, nullptr},
             {},
             shapes};
 }
@@ -223,10 +219,8 @@ constexpr Property kProperties[] = {
     {kPropScaleSystem, kMeansScaleSystem, kOfShape, {GetScaleSystem, IsScaleSystem, SetScaleSystem}},
     Whole<Own<&Graphic::styleTree>, kAnyEntry>(kPropStyleTree, kMeansBlock, kOfAll),
     Text(kPropTextFont, kMeansText, kOfText,
-         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont},
-         true),
-    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>(kPropTextFormat, kMeansNumber, kOfText,
-                                                                     true),
+         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont}, true),
+    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>(kPropTextFormat, kMeansNumber, kOfText, true),
     Real<InText<&TextState::height>, IsPositive>(kPropTextSize, kMeansLength, kOfText, true),
     Whole<InText<&TextState::style>, Within<0, 0xFFFF>>(kPropTextStyle, kMeansBits, kOfText, true),
 };
@@ -322,11 +316,9 @@ const Property* PropertyAt(int32_t number, uint8_t owner) {
 }
 
 int32_t NumberOf(const char* name, uint8_t owner) {
-    const auto* found =
-        std::lower_bound(std::begin(kProperties), std::end(kProperties), name,
-                         [](const Property& p, const char* n) { return std::strcmp(p.name, n) < 0; });
-    const bool has =
-        found != std::end(kProperties) && !std::strcmp(found->name, name) && (found->owners & owner);
+    const auto* found = std::lower_bound(std::begin(kProperties), std::end(kProperties), name,
+                                         [](const Property& p, const char* n) { return std::strcmp(p.name, n) < 0; });
+    const bool has = found != std::end(kProperties) && !std::strcmp(found->name, name) && (found->owners & owner);
     return has ? static_cast<int32_t>(found - kProperties) : -1;
 }
 
@@ -374,8 +366,7 @@ StoredProperty GetStored(const Graphic& graphic, size_t place) {
                                                               : kOfShape;
     if (!(property.owners & (kOfShape | owner))) return {}; // every graphic has a pen and a brush
     if (property.whole.get) return property.whole.get(graphic);
-    if (property.real.get)
-        return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
+    if (property.real.get) return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
     return std::string(property.text.stored ? property.text.stored(graphic) : property.text.get(graphic));
 }
 
@@ -389,9 +380,7 @@ const PropertyInfo* DrawCoreGetProperties(int* count) {
     static const std::vector<PropertyInfo> schema = [] {
         std::vector<PropertyInfo> infos;
         for (const drawcore::Property& property : drawcore::kProperties) {
-            const PropertyForm form = property.whole.get  ? kFormWhole
-                                      : property.real.get ? kFormReal
-                                                          : kFormText;
+            const PropertyForm form = property.whole.get ? kFormWhole : property.real.get ? kFormReal : kFormText;
             infos.push_back({property.name, form, property.meaning});
         }
         return infos;

@@ -1,8 +1,8 @@
 // The property tables of graphics: named values with limits, in the forms of the OLE Automation variant types.
 //
-// PropGet and PropSet give 1 on success. Whole numbers are given and taken in any whole-number form that holds the value;
-// lengths, scales and angles as float or double; texts as text; anything else is refused with nothing changed. PropGet of
-// a text gives back what the variable held before. PropSet refuses what is out of the property's limits.
+// PropGet and PropSet give 1 on success. Whole numbers are given and taken in any whole-number form that holds the
+// value; lengths, scales and angles as float or double; texts as text; anything else is refused with nothing changed.
+// PropGet of a text gives back what the variable held before. PropSet refuses what is out of the property's limits.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +25,8 @@ extern const PropertyTable kInsertProperties;
 
 // Nothing: a property of texts, of a graphic that is not a text.
 using StoredProperty = std::variant<std::monostate, int64_t, double, std::string>;
-// Returns what the graphic stores under a property of the schema (DrawCoreGetProperties), given by its place there. PropGet
-// resolves markers and the default face; this function does not.
+// Returns what the graphic stores under a property of the schema (DrawCoreGetProperties), given by its place there.
+// PropGet resolves markers and the default face; this function does not.
 StoredProperty GetStored(const Graphic& graphic, size_t property);
 
 } // namespace drawcore

@@ -15,8 +15,7 @@ std::vector<SCRIPT_ITEM> Itemize(std::wstring_view row) {
     const SCRIPT_STATE state{}; // the row as a whole runs from left to right
     std::vector<SCRIPT_ITEM> items(row.size() + 1);
     int count = 0;
-    if (FAILED(::ScriptItemize(row.data(), length, length, &control, &state, items.data(), &count)))
-        return {};
+    if (FAILED(::ScriptItemize(row.data(), length, length, &control, &state, items.data(), &count))) return {};
     items.resize(static_cast<size_t>(count) + 1);
     return items;
 }
@@ -35,15 +34,15 @@ bool Shape(HDC dc, SCRIPT_CACHE& cache, std::wstring_view text, ShapedRun& run) 
     std::vector<WORD> clusters(text.size());
     std::vector<SCRIPT_VISATTR> attributes(most);
     int count = 0;
-    if (::ScriptShape(dc, &cache, text.data(), static_cast<int>(text.size()), static_cast<int>(most),
-                      &run.analysis, run.glyphs.data(), clusters.data(), attributes.data(), &count) != S_OK)
+    if (::ScriptShape(dc, &cache, text.data(), static_cast<int>(text.size()), static_cast<int>(most), &run.analysis,
+                      run.glyphs.data(), clusters.data(), attributes.data(), &count) != S_OK)
         return false;
     run.glyphs.resize(static_cast<size_t>(count));
     run.advances.resize(run.glyphs.size());
     run.offsets.resize(run.glyphs.size());
     if (LacksGlyphs(dc, cache, run.glyphs) ||
-        ::ScriptPlace(dc, &cache, run.glyphs.data(), count, attributes.data(), &run.analysis,
-                      run.advances.data(), run.offsets.data(), nullptr) != S_OK)
+        ::ScriptPlace(dc, &cache, run.glyphs.data(), count, attributes.data(), &run.analysis, run.advances.data(),
+                      run.offsets.data(), nullptr) != S_OK)
         return false;
     run.width = std::accumulate(run.advances.begin(), run.advances.end(), 0);
     return true;
@@ -78,9 +77,8 @@ std::vector<ShapedRun> ShapeRow(HDC dc, SCRIPT_CACHE& cache, std::wstring_view r
 
 void DrawShapedRow(HDC dc, SCRIPT_CACHE& cache, const std::vector<ShapedRun>& row, int left, int baseline) {
     for (const ShapedRun& run : row)
-        ::ScriptTextOut(dc, &cache, left + run.left, baseline, 0, nullptr, &run.analysis, nullptr, 0,
-                        run.glyphs.data(), static_cast<int>(run.glyphs.size()), run.advances.data(), nullptr,
-                        run.offsets.data());
+        ::ScriptTextOut(dc, &cache, left + run.left, baseline, 0, nullptr, &run.analysis, nullptr, 0, run.glyphs.data(),
+                        static_cast<int>(run.glyphs.size()), run.advances.data(), nullptr, run.offsets.data());
 }
 
 } // namespace drawcore

@@ -1,5 +1,5 @@
-// Rows of text whose letters do not simply follow each other: written from right to left, joined or stacked. The system's
-// shaping engine chooses their glyphs and puts them in the order in which they are seen.
+// Rows of text whose letters do not simply follow each other: written from right to left, joined or stacked. The
+// system's shaping engine chooses their glyphs and puts them in the order in which they are seen.
 #pragma once
 
 #include <string_view>

@@ -12,8 +12,7 @@ using namespace drawcore;
 int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* vertex, double width, double height, double angle,
                   const char* text) {
     auto* of = graphic ? dynamic_cast<TextGraphic*>(Graphic::From(graphic)) : nullptr;
-    if (!of || !vertex || !text || !std::isfinite(width) || !std::isfinite(height) || !std::isfinite(angle))
-        return 0;
+    if (!of || !vertex || !text || !std::isfinite(width) || !std::isfinite(height) || !std::isfinite(angle)) return 0;
     of->ChangingShape();
     of->state.position = Vertex::From(vertex)->Position();
     of->state.fitWidth = width;

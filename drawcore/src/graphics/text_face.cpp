@@ -50,8 +50,7 @@ TextFace::TextFace(const std::string& name, uint16_t style) : font_(MakeFont(nam
     ::GetTextMetricsA(MeasuringDevice(), &metrics);
     GLYPHMETRICS glyph{};
     constexpr MAT2 kIdentity = {{0, 1}, {0, 0}, {0, 0}, {0, 1}};
-    const DWORD result =
-        ::GetGlyphOutlineA(MeasuringDevice(), 'H', GGO_METRICS, &glyph, 0, nullptr, &kIdentity);
+    const DWORD result = ::GetGlyphOutlineA(MeasuringDevice(), 'H', GGO_METRICS, &glyph, 0, nullptr, &kIdentity);
     capital_ = result != GDI_ERROR && glyph.gmptGlyphOrigin.y > 0 ? glyph.gmptGlyphOrigin.y : kEm * 7 / 10;
     descent_ = static_cast<double>(metrics.tmDescent) / capital_;
 }
@@ -65,8 +64,8 @@ std::vector<int> TextFace::Steps(std::wstring_view row) const {
     const SelectedObject selected(MeasuringDevice(), font_);
     std::vector<int> steps(row.size());
     SIZE size{};
-    ::GetTextExtentExPointW(MeasuringDevice(), row.data(), static_cast<int>(row.size()), 0, nullptr,
-                            steps.data(), &size);
+    ::GetTextExtentExPointW(MeasuringDevice(), row.data(), static_cast<int>(row.size()), 0, nullptr, steps.data(),
+                            &size);
     for (size_t i = steps.size(); i-- > 1;)
         steps[i] -= steps[i - 1];
     return steps;

@@ -31,15 +31,13 @@ std::vector<std::wstring> SplitLines(const std::wstring& text) {
 void Wrap(const std::wstring& line, double limit, const TextFace& face, std::vector<std::wstring>& rows) {
     size_t begin = 0, fits = std::wstring::npos;
     for (size_t blank = line.find(L' '); blank != std::wstring::npos; blank = line.find(L' ', blank + 1)) {
-        if (fits != std::wstring::npos &&
-            face.Width(std::wstring_view(line).substr(begin, blank - begin)) > limit) {
+        if (fits != std::wstring::npos && face.Width(std::wstring_view(line).substr(begin, blank - begin)) > limit) {
             rows.push_back(line.substr(begin, fits - begin));
             begin = fits + 1;
         }
         fits = blank;
     }
-    if (fits != std::wstring::npos && fits >= begin &&
-        face.Width(std::wstring_view(line).substr(begin)) > limit) {
+    if (fits != std::wstring::npos && fits >= begin && face.Width(std::wstring_view(line).substr(begin)) > limit) {
         rows.push_back(line.substr(begin, fits - begin));
         begin = fits + 1;
     }
@@ -50,8 +48,8 @@ void Wrap(const std::wstring& line, double limit, const TextFace& face, std::vec
 
 bool TextState::operator==(const TextState& other) const {
     const auto tie = [](const TextState& s) {
-        return std::tie(s.text, s.font, s.height, s.widthFactor, s.fitWidth, s.wrapWidth, s.lineSpacing,
-                        s.style, s.format, s.boxFormat, s.anchor);
+        return std::tie(s.text, s.font, s.height, s.widthFactor, s.fitWidth, s.wrapWidth, s.lineSpacing, s.style,
+                        s.format, s.boxFormat, s.anchor);
     };
     return tie(*this) == tie(other) && position == other.position && along == other.along && up == other.up;
 }
@@ -132,8 +130,7 @@ void TextGraphic::LayOut() const {
         double width = std::accumulate(steps.begin(), steps.end(), 0.0);
         for (const ShapedRun& run : runs)
             width += run.width;
-        rows_.push_back(
-            {std::move(row), std::move(steps), std::move(runs), {}, width / face.CapitalHeight()});
+        rows_.push_back({std::move(row), std::move(steps), std::move(runs), {}, width / face.CapitalHeight()});
     }
     PlaceRows(face);
 }
@@ -145,8 +142,7 @@ void TextGraphic::PlaceRows(const TextFace& face) const {
     if (state.anchor == TextAnchor::Middle) y = (down - 1) / 2;
     if (state.anchor == TextAnchor::Bottom) y = down + face.Descent();
     stretch_ = state.widthFactor;
-    if (state.fitWidth > 0 && rows_.front().width > 0)
-        stretch_ = state.fitWidth / (rows_.front().width * state.height);
+    if (state.fitWidth > 0 && rows_.front().width > 0) stretch_ = state.fitWidth / (rows_.front().width * state.height);
     const double boxShift = state.boxFormat ? BoxWidth() * (state.format - *state.boxFormat) / 2.0 : 0;
     for (Row& row : rows_) {
         row.origin = {boxShift - row.width * state.format / 2.0, y};
@@ -165,8 +161,7 @@ double TextGraphic::BoxWidth() const {
 
 Matrix TextGraphic::RowMatrix(const Row& row) const {
     const Vec3 x = state.along * (state.height * stretch_), y = state.up * state.height;
-    return Matrix::FromAxes(x, y, Cross(state.along, state.up),
-                            state.position + x * row.origin.x + y * row.origin.y);
+    return Matrix::FromAxes(x, y, Cross(state.along, state.up), state.position + x * row.origin.x + y * row.origin.y);
 }
 
 void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
@@ -176,8 +171,8 @@ void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     const TextFace& face = TextFace::Get(state.font, state.style & kFaceBits);
     for (const Row& row : rows_) {
         if (row.text.empty()) continue;
-        trace.sink.Text({row.text, row.steps.data(), &row.runs, &face, RowMatrix(row) * trace.matrix,
-                         row.width, use.color});
+        trace.sink.Text(
+            {row.text, row.steps.data(), &row.runs, &face, RowMatrix(row) * trace.matrix, row.width, use.color});
     }
 }
 

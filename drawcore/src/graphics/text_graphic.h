@@ -17,9 +17,7 @@ struct TextState {
     std::string font;  // face name; empty is the default face
     Vec3 position;
     Vec3 along{1, 0, 0}; // direction of the baseline, length 1
-    Vec3 up{
-        0, 1,
-        0}; // direction of the letters' height, length 1; not at a right angle: oblique, other side: mirrored
+    Vec3 up{0, 1, 0}; // direction of the letters' height, length 1; not at a right angle: oblique, other side: mirrored
     double height = 1;      // of a capital letter, drawing units
     double widthFactor = 1; // of the letters
     double fitWidth = 0;    // above 0: stretched to that length (DXF's aligned and fit)
@@ -27,8 +25,8 @@ struct TextState {
     double lineSpacing = 1; // in multiples of the usual 5/3 of the height
     uint16_t style = 0;
     uint16_t format = kTextLeft;
-    // Which edge of the box that holds the rows hangs at the position, in the values of format; none: that which format says.
-    // The box is as wide as wrapWidth, or without one as the longest row.
+    // Which edge of the box that holds the rows hangs at the position, in the values of format; none: that which format
+    // says. The box is as wide as wrapWidth, or without one as the longest row.
     std::optional<uint16_t> boxFormat;
     TextAnchor anchor = TextAnchor::Baseline; // of the first line, or of the whole block but for Baseline
 

@@ -90,8 +90,7 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
     use.dashScale = pen.scale * trace.lineScale * unit;
     use.fitDashes = pen.alignment;
     use.strokes = pen.style != kLineStyleNone;
-    use.roundEnds =
-        pen.scaleSystem != kScaleWorld && !use.style; // a plotter's pen; widths of the drawing are cut off
+    use.roundEnds = pen.scaleSystem != kScaleWorld && !use.style; // a plotter's pen; widths of the drawing are cut off
     return use;
 }
 
@@ -99,12 +98,10 @@ void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use) {
     const Brush& brush = graphic.GetBrush();
     if (brush.style == kBrushStyleNone) return;
     BrushUse fill;
-    fill.color = brush.color == kColorOfPen
-                     ? use.color
-                     : ResolveColor(brush.color, EffectiveLayer(graphic, trace), trace);
+    fill.color =
+        brush.color == kColorOfPen ? use.color : ResolveColor(brush.color, EffectiveLayer(graphic, trace), trace);
     if (trace.tools.brushStyles) fill.style = trace.tools.brushStyles->At(brush.style);
-    fill.pattern =
-        Matrix::Scaling({brush.scale, brush.scale, 1}) * Matrix::RotationZ(brush.angle) * trace.matrix;
+    fill.pattern = Matrix::Scaling({brush.scale, brush.scale, 1}) * Matrix::RotationZ(brush.angle) * trace.matrix;
     fill.cross = brush.cross;
     fill.winding = brush.drawMode == 1;
     trace.sink.Fill(trace.tools.path, fill);

@@ -1,5 +1,5 @@
-// Tracing: a graphic turned into what a device, a hit test or a box is made of - flat lines, areas and rows of text - with
-// blocks opened, curves flattened, colors, styles and widths worked out.
+// Tracing: a graphic turned into what a device, a hit test or a box is made of - flat lines, areas and rows of text -
+// with blocks opened, curves flattened, colors, styles and widths worked out.
 #pragma once
 
 #include <string_view>
@@ -38,8 +38,7 @@ struct BrushUse {
 struct TextRow {
     std::wstring_view text;
     const int* steps = nullptr; // from letter to letter, in units of the face's font; as many as letters
-    const std::vector<ShapedRun>* runs =
-        nullptr; // if not empty, the row is drawn by them, and steps does not count
+    const std::vector<ShapedRun>* runs = nullptr; // if not empty, the row is drawn by them, and steps does not count
     const TextFace* face = nullptr;
     Matrix matrix;
     double width = 0;

@@ -43,8 +43,8 @@ public:
     Segment Next() const { return Kept().segment ? *Kept().segment : Segment{}; }
     void SetNext(const Segment& segment);
 
-    // The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the vertex then
-    // changes the graphic. A copy of the vertex belongs to none.
+    // The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the
+    // vertex then changes the graphic. A copy of the vertex belongs to none.
     Graphic* Owner() const { return Kept().owner; }
     void SetOwner(Graphic* owner) { Keep({Kept().segment, owner}); }
 

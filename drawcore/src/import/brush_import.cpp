@@ -10,8 +10,7 @@ namespace {
 constexpr int kMostNumbers = 1000; // of patterns under one name
 
 // The style that draws these lines, under the name or the name with a number; 0 if there is no room.
-Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::PatternLine>& lines,
-                  BrushStyleTable& styles) {
+Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::PatternLine>& lines, BrushStyleTable& styles) {
     for (int number = 1; number <= kMostNumbers; ++number) {
         const std::string numbered = number == 1 ? name : name + " " + std::to_string(number);
         const BrushStyle* known = styles.At(numbered);
@@ -35,10 +34,8 @@ Id StyleOf(const dxf::BrushLook& look, BrushStyleTable& styles) {
 std::vector<dxf::Hatch::PatternLine> FileLines(const BrushStyle& style) {
     std::vector<dxf::Hatch::PatternLine> made;
     for (const PatternLine& from : style.lines)
-        made.push_back({from.angle * (180 / kPi),
-                        {from.base.x, from.base.y, 0},
-                        {from.offset.x, from.offset.y, 0},
-                        from.dashes});
+        made.push_back(
+            {from.angle * (180 / kPi), {from.base.x, from.base.y, 0}, {from.offset.x, from.offset.y, 0}, from.dashes});
     return made;
 }
 

@@ -32,17 +32,16 @@ public:
                 entities_.AddTo(drawing_->Root(), entity, false);
         }
         if (onPaper > 0)
-            document_.findings.push_back(
-                {0, onPaper == 1 ? "1 entity of paper space is not shown"
-                                 : std::to_string(onPaper) + " entities of paper space are not shown"});
+            document_.findings.push_back({0, onPaper == 1
+                                                 ? "1 entity of paper space is not shown"
+                                                 : std::to_string(onPaper) + " entities of paper space are not shown"});
         return std::move(drawing_);
     }
 
 private:
     void FillBlock(const dxf::Block& from, Block& block) {
         for (const dxf::OwnValue& own : from.own)
-            if (own.name == dxf::kOwnStyleTree)
-                block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
+            if (own.name == dxf::kOwnStyleTree) block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
         for (const dxf::Entity& entity : from.entities) {
             Advance();
             entities_.AddTo(block.Content(), entity, true);

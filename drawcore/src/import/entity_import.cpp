@@ -40,7 +40,8 @@ void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     }
 }
 
-// The same polyline with straight pieces in place of its arcs; a width that changes along an arc changes piece by piece.
+// The same polyline with straight pieces in place of its arcs; a width that changes along an arc changes piece by
+// piece.
 dxf::Polyline Straightened(const dxf::Polyline& polyline) {
     dxf::Polyline straight = polyline;
     straight.vertices.clear();
@@ -67,8 +68,8 @@ dxf::Polyline Straightened(const dxf::Polyline& polyline) {
 }
 
 std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline& polyline) {
-    if (!IsUpright(entity.normal) && std::any_of(polyline.vertices.begin(), polyline.vertices.end(),
-                                                 [](const auto& v) { return v.bulge != 0; }))
+    if (!IsUpright(entity.normal) &&
+        std::any_of(polyline.vertices.begin(), polyline.vertices.end(), [](const auto& v) { return v.bulge != 0; }))
         return MakeFlat(entity,
                         Straightened(polyline)); // seen at an angle, a circle is no longer a circle
     auto graphic = std::make_unique<VertexGraphic>();
@@ -137,16 +138,13 @@ public:
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Hatch>& hatch) {
         auto graphic = std::make_unique<VertexGraphic>();
         VertexBuilder builder(*graphic);
-        const Matrix system =
-            Matrix::Translation({0, 0, hatch->elevation}) * dxf::ObjectSystem(entity_.normal);
+        const Matrix system = Matrix::Translation({0, 0, hatch->elevation}) * dxf::ObjectSystem(entity_.normal);
         for (const dxf::Hatch::Loop& loop : hatch->loops)
             if (IsFilled(*hatch, loop)) dxf::Trace(loop, system, builder);
         return graphic->vertices.empty() ? nullptr : std::move(graphic);
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Text>& text) {
-        return ImportText(entity_, *text);
-    }
+    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Text>& text) { return ImportText(entity_, *text); }
 
     std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::MText>& text) {
         return ImportText(entity_, *text, importer_.document_);
@@ -171,8 +169,7 @@ private:
 };
 
 std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert) {
-    const Id block =
-        insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
+    const Id block = insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
     const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
     auto graphic = std::make_unique<InsertGraphic>(block, dxf::AxisEndsOf(entity));
@@ -192,8 +189,7 @@ void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
     graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
     graphic.SetBrush(ImportBrush(look.brush, *drawing_.BrushStyles()));
     if (!look.info.empty()) graphic.info = std::make_unique<std::string>(CodePageFromUtf8(look.info));
-    if (!look.styleTree.empty())
-        graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));
+    if (!look.styleTree.empty()) graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));
     if (graphic.GetKind() != Kind::Text) return;
     TextState& text = static_cast<TextGraphic&>(graphic).state;
     text.font = CodePageFromUtf8(look.text.font);

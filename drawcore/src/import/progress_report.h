@@ -23,8 +23,7 @@ public:
     void operator()(int permille) const {
         if (permille < *done_) return; // of a step that is done once more
         *done_ = permille;
-        if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille))
-            throw Cancelled();
+        if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille)) throw Cancelled();
     }
     // For a step that counts from 0 to 1000 itself, and is this part of the whole.
     dxf::Progress Part(int from, int to) const {

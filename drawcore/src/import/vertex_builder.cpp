@@ -10,8 +10,8 @@ namespace {
 bool IsCircle(const EllipseArc& arc) {
     const double u = Length(arc.major), v = Length(arc.minor);
     const double across = arc.major.x * arc.minor.x + arc.major.y * arc.minor.y;
-    return std::fabs(u - v) <= 1e-9 * u && std::fabs(across) <= 1e-9 * u * v &&
-           std::fabs(arc.major.z) <= 1e-9 * u && std::fabs(arc.minor.z) <= 1e-9 * v;
+    return std::fabs(u - v) <= 1e-9 * u && std::fabs(across) <= 1e-9 * u * v && std::fabs(arc.major.z) <= 1e-9 * u &&
+           std::fabs(arc.minor.z) <= 1e-9 * v;
 }
 
 } // namespace

@@ -103,8 +103,7 @@ private:
 } // namespace
 
 bool ShowsDashes(const DashPattern& pattern, double least) {
-    const bool hasGap =
-        std::any_of(pattern.items.begin(), pattern.items.end(), [](double item) { return item < 0; });
+    const bool hasGap = std::any_of(pattern.items.begin(), pattern.items.end(), [](double item) { return item < 0; });
     const double period = Period(pattern);
     return hasGap && std::isfinite(period) && period >= least;
 }

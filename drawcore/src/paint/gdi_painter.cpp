@@ -27,8 +27,8 @@ Box BoxOf(const RECT& rect) {
             static_cast<double>(rect.bottom)};
 }
 
-// Clips the device context to the rectangle. Where in it something has to be to show: there may be less that is let through,
-// but what lies a little outside of that can reach into it.
+// Clips the device context to the rectangle. Where in it something has to be to show: there may be less that is let
+// through, but what lies a little outside of that can reach into it.
 Box WantedOf(HDC dc, const RECT& clip) {
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     RECT through = clip;
@@ -47,8 +47,8 @@ double LuminanceOf(Color color) {
     return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
 }
 
-// Returns the color itself, or the first of its shades toward the ink that stands out from the background: pure blue cannot
-// be read on black, yellow and cyan cannot be read on white.
+// Returns the color itself, or the first of its shades toward the ink that stands out from the background: pure blue
+// cannot be read on black, yellow and cyan cannot be read on white.
 Color LegibleOn(Color background, Color color, Color ink) {
     constexpr double kContrast = 3, kGlare = 0.05;
     constexpr int kShades = 16;
@@ -189,8 +189,8 @@ HPEN GdiPainter::PenOf(const PenKey& key) {
     if (!pen) {
         const LOGBRUSH brush{BS_SOLID, key.color, 0};
         const DWORD ends = key.roundEnds ? PS_ENDCAP_ROUND : PS_ENDCAP_FLAT;
-        pen.reset(::ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_JOIN_ROUND | ends,
-                                 static_cast<DWORD>(key.width), &brush, 0, nullptr));
+        pen.reset(::ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_JOIN_ROUND | ends, static_cast<DWORD>(key.width), &brush,
+                                 0, nullptr));
     }
     return pen.get();
 }
@@ -207,8 +207,7 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
     const Color color = Seen(use.color);
     if (use.style && use.style->bitmap) return FillTiles(*areas, use, color);
     if (!use.style || use.style->lines.empty()) return FillSolid(*areas, color, use.winding);
-    if (!ShowsHatch(use, kFinestHatch))
-        return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
+    if (!ShowsHatch(use, kFinestHatch)) return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
     HatchLines(*areas, use, around, pieces_);
     AddLines(pieces_, {color, 1, false}, true);
 }
@@ -225,9 +224,7 @@ void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     Flush();
     const SavedDC saved(dc_);
     const Point origin = use.pattern.Plan({0, 0, 0});
-    const auto step = [](double at) {
-        return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0;
-    };
+    const auto step = [](double at) { return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0; };
     ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
     const bool own = bitmap.colors && !settings_.highlight;
     // A set bit takes the background color of the device context, a clear one its text color.

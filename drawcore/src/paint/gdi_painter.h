@@ -62,8 +62,7 @@ private:
     SavedDC saved_;
     const PaintSettings settings_;
     const double inch_;
-    const Box
-        clip_; // lines are cut here, whatever part of it is wanted: a cut line may pass through other pixels
+    const Box clip_; // lines are cut here, whatever part of it is wanted: a cut line may pass through other pixels
     const Box wanted_;
     std::map<PenKey, OwnedPen> pens_;
     std::unordered_map<Color, Color> shades_; // of colors that have been drawn

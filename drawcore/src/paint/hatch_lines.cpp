@@ -45,8 +45,7 @@ std::vector<Family> Families(const BrushUse& brush) {
     Family family;
     for (const bool crossed : {false, true})
         for (const PatternLine& line : brush.style->lines)
-            if ((!crossed || brush.cross) && MakeFamily(line, brush, crossed, family))
-                families.push_back(family);
+            if ((!crossed || brush.cross) && MakeFamily(line, brush, crossed, family)) families.push_back(family);
     return families;
 }
 
@@ -85,13 +84,12 @@ void AddCrossings(const Family& family, const Point& a, const Point& b, const Li
     const double last = std::min(std::floor(high), static_cast<double>(seen.last));
     const double alongA = family.Along(a), alongB = family.Along(b);
     for (double line = first; line <= last; ++line)
-        found.push_back({static_cast<int64_t>(line), alongA + (alongB - alongA) * (line - from) / (to - from),
-                         from < to ? 1 : -1});
+        found.push_back(
+            {static_cast<int64_t>(line), alongA + (alongB - alongA) * (line - from) / (to - from), from < to ? 1 : -1});
 }
 
 // A piece of one line between two distances from the foot of the base.
-void AddPiece(const Family& family, int64_t line, double from, double to, const Box& box, Path& lines,
-              Path& scratch) {
+void AddPiece(const Family& family, int64_t line, double from, double to, const Box& box, Path& lines, Path& scratch) {
     const double out = family.spacing * static_cast<double>(line);
     const Point foot{family.base.x - family.along.y * out, family.base.y + family.along.x * out};
     const auto at = [&](double along) -> Point {
@@ -112,8 +110,7 @@ void AddPiece(const Family& family, int64_t line, double from, double to, const 
     double period = 0;
     for (const double item : *family.dashes)
         period += std::fabs(item) * family.dashScale;
-    const double origin =
-        static_cast<double>(line) * (family.step.x * family.along.x + family.step.y * family.along.y);
+    const double origin = static_cast<double>(line) * (family.step.x * family.along.x + family.step.y * family.along.y);
     const double start = origin + std::floor((from - origin) / period) * period;
     scratch.Clear();
     scratch.MoveTo(at(start));
@@ -147,8 +144,7 @@ void AddFamily(const Family& family, const Path& areas, bool winding, const Box&
         if (crossings[i].line != crossings[i + 1].line)
             inside = 0;
         else if (inside)
-            AddPiece(family, crossings[i].line, crossings[i].along, crossings[i + 1].along, box, lines,
-                     scratch);
+            AddPiece(family, crossings[i].line, crossings[i].along, crossings[i + 1].along, box, lines, scratch);
     }
 }
 

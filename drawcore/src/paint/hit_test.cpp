@@ -14,8 +14,7 @@ constexpr double kInch = 96; // pixels; only the widths of paper pens depend on 
 
 double DistanceToSegment(const Point& p, const Point& a, const Point& b) {
     const double dx = b.x - a.x, dy = b.y - a.y, square = dx * dx + dy * dy;
-    const double share =
-        square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0;
+    const double share = square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0;
     return std::hypot(p.x - a.x - dx * share, p.y - a.y - dy * share);
 }
 
@@ -26,8 +25,7 @@ bool Encloses(const Path& areas, const Point& p) {
         const size_t begin = areas.Begin(area), end = areas.End(area);
         for (size_t i = begin, last = end - 1; i < end; last = i++) {
             const Point &a = areas.points[last], &b = areas.points[i];
-            if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (b.x - a.x) * (p.y - a.y) / (b.y - a.y))
-                inside = !inside;
+            if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (b.x - a.x) * (p.y - a.y) / (b.y - a.y)) inside = !inside;
         }
     }
     return inside;
@@ -71,8 +69,7 @@ public:
         for (size_t line = 0; line < path.Count(); ++line) {
             const size_t begin = path.Begin(line), end = path.End(line);
             for (size_t i = begin; i < end && !hit_; ++i)
-                hit_ =
-                    DistanceToSegment(point_, path.points[i ? i - (i > begin) : i], path.points[i]) <= slack;
+                hit_ = DistanceToSegment(point_, path.points[i ? i - (i > begin) : i], path.points[i]) <= slack;
         }
     }
     void Fill(const Path& outlines, const BrushUse&) override { hit_ = hit_ || Encloses(outlines, point_); }
@@ -147,8 +144,8 @@ class Picker {
 public:
     // place: all that can be hit lies in it.
     Picker(const Viewport& viewport, const Graphic& set, const Box& place, HitSink& sink, uint32_t filter)
-        : set_(set), sink_(sink), filter_(filter), tools_(DrawingOf(viewport, set)),
-          matrix_(viewport.ToDevice()), near_(set, place, matrix_, kInch) {}
+        : set_(set), sink_(sink), filter_(filter), tools_(DrawingOf(viewport, set)), matrix_(viewport.ToDevice()),
+          near_(set, place, matrix_, kInch) {}
 
     size_t Count() const { return near_.CountIn(set_); }
     Graphic* At(size_t number) const { return near_.At(set_, number); }
@@ -182,8 +179,7 @@ private:
 
 } // namespace
 
-Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance,
-                uint32_t filter) {
+Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance, uint32_t filter) {
     PointSink sink(device, tolerance);
     const Box place = Box{device.x, device.y, device.x, device.y}.Grown(tolerance);
     Picker picker(viewport, set, place, sink, filter);
@@ -192,8 +188,8 @@ Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, doub
     return nullptr;
 }
 
-std::vector<Graphic*> PickWithin(const Viewport& viewport, const Graphic& set, const Box& device,
-                                 bool crossing, uint32_t filter) {
+std::vector<Graphic*> PickWithin(const Viewport& viewport, const Graphic& set, const Box& device, bool crossing,
+                                 uint32_t filter) {
     CrossingSink crossingSink(device);
     InsideSink insideSink(device);
     HitSink& sink = crossing ? static_cast<HitSink&>(crossingSink) : insideSink;

@@ -1,4 +1,5 @@
-// Cutting paths to a box, so that numbers stay within what the device takes. Lines go to pieces, areas keep their inside.
+// Cutting paths to a box, so that numbers stay within what the device takes. Lines go to pieces, areas keep their
+// inside.
 #pragma once
 
 #include "drawcore/src/geometry/path.h"

@@ -20,13 +20,12 @@ XFORM Directions(const TextRow& row) {
             0};
 }
 
-// Where the row begins: a position in units of its font, rounded to the pixel that it is in, so that a picture that is moved by
-// whole pixels does not differ from one that is drawn there. Where such a unit is larger than a pixel the transform takes the
-// position instead. False if the row is seen from its edge, or too far away for the device.
+// Where the row begins: a position in units of its font, rounded to the pixel that it is in, so that a picture that is
+// moved by whole pixels does not differ from one that is drawn there. Where such a unit is larger than a pixel the
+// transform takes the position instead. False if the row is seen from its edge, or too far away for the device.
 bool Place(const TextRow& row, XFORM& form, POINT& position) {
     const double x = std::floor(row.matrix.at[3][0] + 0.5), y = std::floor(row.matrix.at[3][1] + 0.5);
-    const double turn =
-        static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
+    const double turn = static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
     const double px = (x * form.eM22 - y * form.eM21) / turn, py = (y * form.eM11 - x * form.eM12) / turn;
     constexpr double kFarthest = 1 << 26; // what the device counts to
     if (!(std::fabs(px) < kFarthest && std::fabs(py) < kFarthest)) return false;
@@ -65,8 +64,7 @@ void TextOutput::Draw(const TextRow& row, Color color) {
     if (::GetCurrentObject(dc_, OBJ_FONT) != row.face->Font()) ::SelectObject(dc_, row.face->Font());
     ::SetTextColor(dc_, color);
     if (row.runs->empty())
-        ::ExtTextOutW(dc_, at.x, at.y, 0, nullptr, row.text.data(), static_cast<UINT>(row.text.size()),
-                      row.steps);
+        ::ExtTextOutW(dc_, at.x, at.y, 0, nullptr, row.text.data(), static_cast<UINT>(row.text.size()), row.steps);
     else
         row.face->Draw(dc_, *row.runs, at);
 }

@@ -35,7 +35,8 @@ double FullSizeUnit(HDC dc, const Drawing* drawing) {
     return (unit ? unit->millimeters : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetersPerInch;
 }
 
-// The device context in the units that the viewport counts in: pixels. In other mapping modes the rectangle is converted.
+// The device context in the units that the viewport counts in: pixels. In other mapping modes the rectangle is
+// converted.
 class PixelDC {
 public:
     PixelDC(const Viewport& viewport) : saved_(viewport.dc), rect_(viewport.rect) {
@@ -72,8 +73,8 @@ Id PreviewLayerOf(const Drawing* drawing) {
 
 using Clock = std::chrono::steady_clock;
 
-// Paints a graphic, then its members, of which there may be many, until the time is up. place: 0 at first, then where the last
-// call has stopped. True once all is painted.
+// Paints a graphic, then its members, of which there may be many, until the time is up. place: 0 at first, then where
+// the last call has stopped. True once all is painted.
 bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewport, uint32_t& place,
                 const Matrix& placement, PaintSettings settings, bool preview) {
     if (!viewport.dc) return true;
@@ -94,8 +95,7 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
         if (!TraceAlone(graphic, trace)) return true;
         viewport.painting.budget = tools.budget;
         viewport.painting.seen =
-            preview ? SeenMembers()
-                    : SeenMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
+            preview ? SeenMembers() : SeenMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
     }
     tools.budget = viewport.painting.budget;
     const Trace inner = TraceOfMembers(graphic, trace);
@@ -179,12 +179,10 @@ void ViewportShowLineWeights(ViewportStruct* viewport, int show) {
     if (viewport) Viewport::From(viewport)->lineWeights = show != 0;
 }
 
-void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
-                    int) {
+void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview, int) {
     if (!graphic || !viewport) return;
     Viewport& view = *Viewport::From(viewport);
-    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), SettingsOf(view, preview != 0),
-          preview != 0);
+    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), SettingsOf(view, preview != 0), preview != 0);
     graphic->dwFlags &= ~kFlagDirty;
 }
 
@@ -206,8 +204,7 @@ void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct* viewport, uint32
 }
 
 void ViewportZoom(ViewportStruct* viewport, POINT fixed, double factor) {
-    if (viewport)
-        Viewport::From(viewport)->Zoom({static_cast<double>(fixed.x), static_cast<double>(fixed.y)}, factor);
+    if (viewport) Viewport::From(viewport)->Zoom({static_cast<double>(fixed.x), static_cast<double>(fixed.y)}, factor);
 }
 
 void ViewportPan(ViewportStruct* viewport, int dx, int dy) {
@@ -216,8 +213,7 @@ void ViewportPan(ViewportStruct* viewport, int dx, int dy) {
 
 void ViewportToDrawing(ViewportStruct* viewport, POINT device, double* x, double* y) {
     if (!viewport || !x || !y) return;
-    const Point p =
-        Viewport::From(viewport)->ToDrawing({static_cast<double>(device.x), static_cast<double>(device.y)});
+    const Point p = Viewport::From(viewport)->ToDrawing({static_cast<double>(device.x), static_cast<double>(device.y)});
     *x = p.x;
     *y = p.y;
 }
@@ -229,8 +225,8 @@ GraphicStruct* ViewportPick(ViewportStruct* viewport, GraphicStruct* set, POINT 
                   {static_cast<double>(device.x), static_cast<double>(device.y)}, tolerance, filter);
 }
 
-int ViewportPickWindow(ViewportStruct* viewport, GraphicStruct* set, const RECT* device, int crossing,
-                       uint32_t filter, GraphicStruct* selection) {
+int ViewportPickWindow(ViewportStruct* viewport, GraphicStruct* set, const RECT* device, int crossing, uint32_t filter,
+                       GraphicStruct* selection) {
     auto* into = selection ? dynamic_cast<Selection*>(Graphic::From(selection)) : nullptr;
     if (!viewport || !set || !device || !into) return 0;
     const Box box{static_cast<double>(std::min(device->left, device->right)),
@@ -238,8 +234,7 @@ int ViewportPickWindow(ViewportStruct* viewport, GraphicStruct* set, const RECT*
                   static_cast<double>(std::max(device->left, device->right)),
                   static_cast<double>(std::max(device->top, device->bottom))};
     int added = 0;
-    for (Graphic* found :
-         PickWithin(*Viewport::From(viewport), *Graphic::From(set), box, crossing != 0, filter))
+    for (Graphic* found : PickWithin(*Viewport::From(viewport), *Graphic::From(set), box, crossing != 0, filter))
         added += into->Include(found);
     return added;
 }

@@ -29,8 +29,8 @@ bool IsOfGradient(int code) {
 // The degrees that are read back as just these radians, if there are any near.
 double DegreesOf(double radians) {
     const double degrees = radians * (180 / drawcore::kPi);
-    for (const double tried : {std::round(degrees * 1e9) / 1e9, degrees, std::nextafter(degrees, -1e9),
-                               std::nextafter(degrees, 1e9)})
+    for (const double tried :
+         {std::round(degrees * 1e9) / 1e9, degrees, std::nextafter(degrees, -1e9), std::nextafter(degrees, 1e9)})
         if (Radians(tried) == radians) return tried;
     return degrees;
 }
@@ -44,14 +44,13 @@ bool IsWithinTurn(double angle) {
 
 void LookWriter::WriteBrush(const Look& wanted) {
     if (Now().brush == wanted.brush) return;
-    for (const char* name :
-         {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
+    for (const char* name : {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
         RemoveOwn(name);
     const BrushLook& brush = wanted.brush;
     if (auto* hatch = std::get_if<Apart<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
     const BrushLook held = LookByGroups(drawing_.Known(), entity_).brush;
-    const bool sameLines = brush.lines.empty() && held.lines.empty() ? brush.style == held.style
-                                                                     : SameLines(brush.lines, held.lines);
+    const bool sameLines =
+        brush.lines.empty() && held.lines.empty() ? brush.style == held.style : SameLines(brush.lines, held.lines);
     if (!sameLines || brush.style.empty() != held.style.empty())
         OwnText(kPropBrushStyle, brush.style,
                 SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
@@ -81,16 +80,16 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
     if (!(put.scale > 0)) put.scale = held.scale;
     if (!IsWithinTurn(put.angle)) put.angle = held.angle;
     put.cross = wanted.cross && wanted.lines.size() == 1;
-    const bool same = SameLines(put.lines, held.lines) && put.scale == held.scale &&
-                      put.angle == held.angle && put.cross == held.cross;
+    const bool same = SameLines(put.lines, held.lines) && put.scale == held.scale && put.angle == held.angle &&
+                      put.cross == held.cross;
     if (!same) PutPattern(hatch, put);
 }
 
 // What is written after the head and the outlines, in place of what is there.
 void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
     const std::vector<Group>& groups = record_.Groups();
-    const auto from = std::find_if(groups.rbegin(), groups.rend(),
-                                   [](const Group& group) { return group.code == kHatchStyle; });
+    const auto from =
+        std::find_if(groups.rbegin(), groups.rend(), [](const Group& group) { return group.code == kHatchStyle; });
     if (from == groups.rend()) throw SaveError("a hatch lacks the groups of its pattern");
     size_t place = from->end;
     bool inPattern = true, inGradient = false;

@@ -16,8 +16,7 @@ const Progress kSilent;
 } // namespace
 
 DrawingPatch::DrawingPatch(std::string_view text, Document known)
-    : in_(text, kSilent, std::move(known)), patch_(text),
-      tables_(patch_, in_.decoder, in_.document.header.version) {}
+    : in_(text, kSilent, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version) {}
 
 Entity DrawingPatch::EntityAt(size_t offset) {
     in_.tags.Seek(offset);
@@ -99,8 +98,7 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     const std::string plain =
         face.family + (face.cut & kTextBold ? " Bold" : "") + (face.cut & kTextItalic ? " Italic" : "");
     size_t index = 0;
-    for (int number = 1; index == 0 || styles[index].declared;
-         ++number) // one of that name may have another face
+    for (int number = 1; index == 0 || styles[index].declared; ++number) // one of that name may have another face
         index = in_.textStyles.FindUtf8(number == 1 ? plain : plain + " " + std::to_string(number));
     TextStyle& style = styles[index];
     style.declared = true;

@@ -1,5 +1,5 @@
-// Changes of a drawing's text, entity by entity: only the groups that carry a change are replaced, added or removed. What the
-// file format has no group for goes into extended data under kApplication. Knows no database.
+// Changes of a drawing's text, entity by entity: only the groups that carry a change are replaced, added or removed.
+// What the file format has no group for goes into extended data under kApplication. Knows no database.
 //
 //   dxf::DrawingPatch patch(text, std::move(document));
 //   dxf::Look look = patch.LookAt(entity.offset);
@@ -28,19 +28,17 @@ struct EntityPlace {
 
 class DrawingPatch {
 public:
-    // The text that the document was read from (without a mark of UTF-8); of the document the header and the tables count.
-    // The text has to outlive the patch.
+    // The text that the document was read from (without a mark of UTF-8); of the document the header and the tables
+    // count. The text has to outlive the patch.
     DrawingPatch(std::string_view text, Document known);
 
     const Document& Known() const { return in_.document; }
     Document TakeKnown() { return std::move(in_.document); }
 
-    // Things by name (UTF-8, any case). One that no table of the file has gets a record there when an entity first needs it:
-    // as it is described until then.
+    // Things by name (UTF-8, any case). One that no table of the file has gets a record there when an entity first
+    // needs it: as it is described until then.
     LayerIndex FindLayer(const std::string& name) { return LayerIndex(in_.layers.FindUtf8(name)); }
-    LineTypeIndex FindLineType(const std::string& name) {
-        return LineTypeIndex(in_.lineTypes.FindUtf8(name));
-    }
+    LineTypeIndex FindLineType(const std::string& name) { return LineTypeIndex(in_.lineTypes.FindUtf8(name)); }
     Layer& Describe(LayerIndex index) { return in_.document.layers[static_cast<size_t>(index)]; }
     LineType& Describe(LineTypeIndex index) { return in_.document.lineTypes[static_cast<size_t>(index)]; }
 

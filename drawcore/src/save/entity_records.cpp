@@ -152,8 +152,7 @@ struct EntityRecords::Shapes {
         Put(values, 50, text->rotation);
         Put(values, 41, text->widthFactor);
         Put(values, 51, text->oblique);
-        if (text->backward || text->upsideDown)
-            Put(values, 71, (text->backward ? 2 : 0) | (text->upsideDown ? 4 : 0));
+        if (text->backward || text->upsideDown) Put(values, 71, (text->backward ? 2 : 0) | (text->upsideDown ? 4 : 0));
         Put(values, 72, static_cast<int>(text->horizontal));
         if (text->horizontal != Text::Horizontal::left || text->vertical != Text::Vertical::baseline)
             Put(values, 11, text->alignment);
@@ -259,8 +258,7 @@ void EntityRecords::Mark(Values& to, const char* marker) const {
 }
 
 void EntityRecords::NeedVersion(const char* version, const char* kind) const {
-    if (known_.header.version < version)
-        throw SaveError(std::string("a file of this version has no ") + kind);
+    if (known_.header.version < version) throw SaveError(std::string("a file of this version has no ") + kind);
 }
 
 void EntityRecords::AppendVertices(Values& to, const Polyline& polyline, const std::string& owner) {

@@ -24,8 +24,8 @@ double Clean(double number, double rounding) {
     return std::fabs(round - number) <= rounding * std::max(1.0, std::fabs(number)) ? round : number;
 }
 
-// The numbers of an insertion in its object system that place it so, nearly. A mirrored x axis and a half turn look alike but
-// for the y axis: what was mirrored stays so, and what becomes so keeps its angle.
+// The numbers of an insertion in its object system that place it so, nearly. A mirrored x axis and a half turn look
+// alike but for the y axis: what was mirrored stays so, and what becomes so keeps its angle.
 Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
     Insert placed;
     Matrix back;

@@ -27,8 +27,8 @@ constexpr int kThrough = 128; // flag of a polyline: dashes go on around corners
 } // namespace
 
 LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
-    : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)),
-      entity_(drawing.EntityAt(offset)), record_(drawing.patch_, drawing.in_.tags, offset) {
+    : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)), entity_(drawing.EntityAt(offset)),
+      record_(drawing.patch_, drawing.in_.tags, offset) {
     if (!entity_.own) entity_.own = std::make_unique<OwnData>();
 }
 
@@ -91,8 +91,7 @@ void LookWriter::WriteLayer(const Look& wanted) {
 
 bool LookWriter::CanPutColor(uint32_t color) const {
     const bool plain = color >> 24 == 0;
-    return !plain || ColorOfIndex(NearestIndex(color)) == color || IsNewer("AC1018") ||
-           record_.HasCommon(420);
+    return !plain || ColorOfIndex(NearestIndex(color)) == color || IsNewer("AC1018") || record_.HasCommon(420);
 }
 
 void LookWriter::PutColor(uint32_t color) {
@@ -181,20 +180,17 @@ void LookWriter::WriteWidth(const Look& wanted) {
         WritePaperWidth(wanted);
     }
     if (isWritten()) return;
-    if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth)
-        exact_.insert(kPropPenWidth);
-    OwnNumbers(kPropPenWidth,
-               {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
+    if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth) exact_.insert(kPropPenWidth);
+    OwnNumbers(kPropPenWidth, {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
 }
 
 void LookWriter::WritePaperWidth(const Look& wanted) {
     const bool byLayer = wanted.width == kPenWidthByLayer;
     if (!byLayer && !IsNewer("AC1015") && !record_.HasCommon(370)) return;
     if (Now().width == wanted.width) return;
-    entity_.lineWeight = byLayer ? kLineWeightByLayer
-                         : wanted.width == kPenWidthByBlock
-                             ? kLineWeightByBlock
-                             : static_cast<int16_t>(NearestWeight(wanted.width));
+    entity_.lineWeight = byLayer                            ? kLineWeightByLayer
+                         : wanted.width == kPenWidthByBlock ? kLineWeightByBlock
+                                                            : static_cast<int16_t>(NearestWeight(wanted.width));
     byLayer ? record_.RemoveCommon(370) : record_.SetCommon(370, std::to_string(entity_.lineWeight));
 }
 

@@ -1,5 +1,5 @@
-// Writes the look of one entity into its record: compares what is wanted with what the groups say, and changes those that
-// differ. What no group can hold becomes extended data.
+// Writes the look of one entity into its record: compares what is wanted with what the groups say, and changes those
+// that differ. What no group can hold becomes extended data.
 #pragma once
 
 #include <set>

@@ -70,8 +70,8 @@ bool RecordPatch::IsOf(const Group& group, int code, bool common) const {
 }
 
 const Group* RecordPatch::Find(int code, bool common) const {
-    const auto found = std::find_if(groups_.rbegin(), groups_.rend(),
-                                    [&](const Group& group) { return IsOf(group, code, common); });
+    const auto found =
+        std::find_if(groups_.rbegin(), groups_.rend(), [&](const Group& group) { return IsOf(group, code, common); });
     return found == groups_.rend() ? nullptr : &*found;
 }
 
@@ -80,8 +80,7 @@ void RecordPatch::SetValue(const Group& group, const std::string& value) {
     std::string text = value;
     const bool aligned = group.value.size() > value.size() && group.value[0] == ' ' && group.code >= 60;
     if (aligned) text.insert(0, group.value.size() - value.size(), ' ');
-    patch_.Replace(static_cast<size_t>(group.value.data() - patch_.Text().data()), group.value.size(),
-                   std::move(text));
+    patch_.Replace(static_cast<size_t>(group.value.data() - patch_.Text().data()), group.value.size(), std::move(text));
 }
 
 void RecordPatch::SetAll(int code, const std::string& value, bool common, size_t placeIfMissing) {
@@ -123,8 +122,7 @@ size_t RecordPatch::CommonPlace(int code) const {
     };
     size_t place = groups_[0].end;
     for (const Group& group : groups_)
-        if (IsCommon(group) ? order(group.code) < order(code) : hasParts_ && group.part == 0)
-            place = group.end;
+        if (IsCommon(group) ? order(group.code) < order(code) : hasParts_ && group.part == 0) place = group.end;
     return place;
 }
 
@@ -132,8 +130,7 @@ size_t RecordPatch::PlaceBehind(std::initializer_list<int> codes) const {
     size_t place = 0, end = groups_[0].end;
     for (const Group& group : groups_) {
         if (!group.attached) end = group.end;
-        if (!group.attached && std::find(codes.begin(), codes.end(), group.code) != codes.end())
-            place = group.end;
+        if (!group.attached && std::find(codes.begin(), codes.end(), group.code) != codes.end()) place = group.end;
     }
     return place != 0 ? place : end;
 }

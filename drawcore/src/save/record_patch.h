@@ -1,5 +1,5 @@
-// The groups of one record of a drawing, and changes of them. New groups are written as the record's own are: line ends,
-// blanks in front of codes and values.
+// The groups of one record of a drawing, and changes of them. New groups are written as the record's own are: line
+// ends, blanks in front of codes and values.
 #pragma once
 
 #include <initializer_list>

@@ -95,9 +95,8 @@ private:
 
     // Of a group.
     size_t CountMembers() const {
-        return static_cast<size_t>(std::count_if(groups_->begin(), groups_->end(), [](const Group& group) {
-            return group.code == 340 && !group.attached;
-        }));
+        return static_cast<size_t>(std::count_if(
+            groups_->begin(), groups_->end(), [](const Group& group) { return group.code == 340 && !group.attached; }));
     }
 
     bool IsOwnedBy(size_t place) const {
@@ -123,8 +122,7 @@ private:
 
     void Remove(const Group& group) { of_.edits_.push_back({group.begin, group.end - group.begin, {}}); }
     void Put(const Group& group, const std::string& value) {
-        of_.edits_.push_back(
-            {static_cast<size_t>(group.value.data() - text_.data()), group.value.size(), value});
+        of_.edits_.push_back({static_cast<size_t>(group.value.data() - text_.data()), group.value.size(), value});
     }
 
     // Takes the reference out; false if the record is nothing without it.
@@ -151,8 +149,8 @@ private:
 
     // Braces that nothing is left in go too.
     void DropFromBraces(size_t at) {
-        const bool isAlone = (*groups_)[at - 1].code == kGroup && at + 1 < groups_->size() &&
-                             (*groups_)[at + 1].code == kGroup;
+        const bool isAlone =
+            (*groups_)[at - 1].code == kGroup && at + 1 < groups_->size() && (*groups_)[at + 1].code == kGroup;
         if (isAlone) Remove((*groups_)[at - 1]);
         Remove((*groups_)[at]);
         if (isAlone) Remove((*groups_)[at + 1]);
@@ -166,8 +164,7 @@ private:
             if (group.code != 97) continue;
             const int gone = ++boundaries_[group.begin];
             const auto isSameCount = [&](const Edit& edit) { return edit.at == ValueAt(group); };
-            of_.edits_.erase(std::remove_if(of_.edits_.begin(), of_.edits_.end(), isSameCount),
-                             of_.edits_.end());
+            of_.edits_.erase(std::remove_if(of_.edits_.begin(), of_.edits_.end(), isSameCount), of_.edits_.end());
             Put(group, std::to_string(Tag{97, group.value}.Integer() - gone));
             break;
         }
@@ -178,9 +175,7 @@ private:
         }
     }
 
-    size_t ValueAt(const Group& group) const {
-        return static_cast<size_t>(group.value.data() - text_.data());
-    }
+    size_t ValueAt(const Group& group) const { return static_cast<size_t>(group.value.data() - text_.data()); }
 
     void DropAnnotation(const Group& reference) {
         constexpr char kNone[] = "3";
@@ -226,9 +221,9 @@ void ReferenceRemoval::Run() {
     if (handles_.empty()) return;
     do {
         // What an earlier way through has removed is passed over now: its edits stay.
-        edits_.erase(std::remove_if(edits_.begin(), edits_.end(),
-                                    [&](const Edit& edit) { return ranges_.count(edit.at) == 0; }),
-                     edits_.end());
+        edits_.erase(
+            std::remove_if(edits_.begin(), edits_.end(), [&](const Edit& edit) { return ranges_.count(edit.at) == 0; }),
+            edits_.end());
         refusals_.clear();
     } while (Scan(*this).Run());
     if (!refusals_.empty()) return;

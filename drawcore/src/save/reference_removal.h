@@ -1,5 +1,5 @@
-// Takes references to removed records out of the rest of a drawing: members of groups, boundaries of hatches, entries of
-// dictionaries, places in a drawing order. Objects that belong to what was removed go with it.
+// Takes references to removed records out of the rest of a drawing: members of groups, boundaries of hatches, entries
+// of dictionaries, places in a drawing order. Objects that belong to what was removed go with it.
 #pragma once
 
 #include <map>

@@ -38,8 +38,7 @@ void LookWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
     if (!system.Invert(back)) return;
     constexpr int kAround[] = {10, 11, 12, 13}, kCrosswise[] = {10, 11, 13, 12};
     for (size_t i = 0; i < 4; ++i)
-        PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i],
-                 Moved(face.corners[i], to[i], system, back));
+        PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i], Moved(face.corners[i], to[i], system, back));
 }
 
 void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {

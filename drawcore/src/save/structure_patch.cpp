@@ -14,8 +14,8 @@ constexpr char kBlocks[] = "BLOCKS", kEntities[] = "ENTITIES";
 } // namespace
 
 StructurePatch::StructurePatch(std::string_view text, Document known)
-    : in_(text, kSilent, std::move(known)), patch_(text),
-      tables_(patch_, in_.decoder, in_.document.header.version), records_(tables_, in_.document) {}
+    : in_(text, kSilent, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version),
+      records_(tables_, in_.document) {}
 
 void StructurePatch::Remove(size_t offset) {
     if (offset < removedEnd_) return; // it belongs to one that is gone
@@ -39,8 +39,7 @@ void StructurePatch::RemoveText(size_t begin, size_t end, size_t place) {
 void StructurePatch::RemoveBlock(const Block& block) {
     in_.tags.Seek(block.end);
     RemoveText(block.begin, in_.tags.SkipRecord().offset, block.begin);
-    if (const auto record = tables_.FindBlockRecord(block.name))
-        RemoveText(record->first, record->second, block.begin);
+    if (const auto record = tables_.FindBlockRecord(block.name)) RemoveText(record->first, record->second, block.begin);
 }
 
 void StructurePatch::RemoveLayer(const Layer& layer) {
@@ -70,9 +69,8 @@ void StructurePatch::SetOwn(const Block& block, const OwnData& own) {
 }
 
 size_t StructurePatch::PieceAt(size_t at, const char* section) {
-    const auto known = std::find_if(pieces_.begin(), pieces_.end(), [&](const Piece& piece) {
-        return piece.at == at && piece.section == section;
-    });
+    const auto known = std::find_if(pieces_.begin(), pieces_.end(),
+                                    [&](const Piece& piece) { return piece.at == at && piece.section == section; });
     if (known != pieces_.end()) return static_cast<size_t>(known - pieces_.begin());
     pieces_.push_back({at, section ? tables_.LinesOf({{0, "SECTION"}, {2, section}}) : "", section});
     return pieces_.size() - 1;

@@ -1,5 +1,5 @@
-// Entities and blocks that are added to a drawing's text, or taken out of it. What is added has its shape only; its look comes
-// with a DrawingPatch over the result.
+// Entities and blocks that are added to a drawing's text, or taken out of it. What is added has its shape only; its
+// look comes with a DrawingPatch over the result.
 //
 //   dxf::StructurePatch structure(text, std::move(document));
 //   structure.Remove(entity.offset);
@@ -37,8 +37,8 @@ public:
     void Check(const Entity& entity) { records_.LinesOf(entity, {}); }
     // Appends the entity to a block of the file, or with null to model space; returns its number, for PlaceOf.
     size_t Add(const Entity& entity, const Block* block);
-    // A new block, before any entity that is added: a name, what the program says about it, and entities; returns the number of the first of these, which the
-    // others follow.
+    // A new block, before any entity that is added: a name, what the program says about it, and entities; returns the
+    // number of the first of these, which the others follow.
     size_t AddBlock(const Block& block);
 
     bool IsChanged() const { return changed_; }

@@ -115,8 +115,7 @@ void TablePatch::Scan() {
 
 std::string TablePatch::TakeHandle() {
     constexpr uint64_t kLast = UINT64_MAX - 1; // the next one has to be a number too
-    if (highest_ >= kLast)
-        throw SaveError("the drawing has no handle left for what has to be added to its tables");
+    if (highest_ >= kLast) throw SaveError("the drawing has no handle left for what has to be added to its tables");
     handleTaken_ = true;
     return Hex(++highest_);
 }
@@ -183,8 +182,7 @@ std::string TablePatch::LinesOf(const Values& values) {
     return lines;
 }
 
-std::string TablePatch::Add(const char* name, const char* marker, const Values& values,
-                            const Values& extended) {
+std::string TablePatch::Add(const char* name, const char* marker, const Values& values, const Values& extended) {
     Table& table = NeedTable(name);
     const Progress none;
     TagReader tags(patch_.Text(), none);
@@ -222,18 +220,14 @@ void TablePatch::AddLayer(const Layer& layer, const std::string& storedName) {
                      {70, std::to_string(layer.flags)},
                      {62, std::to_string(layer.color)},
                      {6, layer.lineType.empty() ? "Continuous" : layer.lineType}};
-    if (layer.trueColor >= 0 && version_ >= "AC1018")
-        values.push_back({420, std::to_string(layer.trueColor)});
+    if (layer.trueColor >= 0 && version_ >= "AC1018") values.push_back({420, std::to_string(layer.trueColor)});
     if (version_ >= "AC1015") values.push_back({370, std::to_string(layer.lineWeight)});
     Add("LAYER", "AcDbLayerTableRecord", values);
 }
 
 void TablePatch::AddLineType(const LineType& type, const std::string& storedName) {
-    Values values = {{2, storedName, true},
-                     {70, "0"},
-                     {3, type.description},
-                     {72, "65"},
-                     {73, std::to_string(type.dashes.size())}};
+    Values values = {
+        {2, storedName, true}, {70, "0"}, {3, type.description}, {72, "65"}, {73, std::to_string(type.dashes.size())}};
     double length = 0;
     for (const double dash : type.dashes)
         length += dash < 0 ? -dash : dash;
@@ -266,8 +260,7 @@ void TablePatch::Finish() {
     std::string newTables;
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    for (const char* name :
-         {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // a layer's line type comes before it
+    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // a layer's line type comes before it
         Table& table = tables_[name];
         if (table.newLines.empty()) continue;
         if (table.isNew) {
@@ -282,8 +275,7 @@ void TablePatch::Finish() {
         patch_.Insert(table.end, table.newLines);
         RecordPatch head(patch_, tags, table.head);
         const Group* most = head.Find(70);
-        if (most && Tag{70, most->value}.Integer() < table.count)
-            head.SetValue(*most, std::to_string(table.count));
+        if (most && Tag{70, most->value}.Integer() < table.count) head.SetValue(*most, std::to_string(table.count));
     }
     if (!newTables.empty() && !tablesEnd_)
         newTables = LinesOf({{0, "SECTION"}, {2, "TABLES"}}) + newTables + LinesOf({{0, "ENDSEC"}});

@@ -1,5 +1,5 @@
-// New records in the tables of a drawing, written as that table's own records are: with handles, owners and markers if those
-// have them. Handles are free ones.
+// New records in the tables of a drawing, written as that table's own records are: with handles, owners and markers if
+// those have them. Handles are free ones.
 #pragma once
 
 #include <map>
@@ -30,7 +30,8 @@ public:
     // From where to where its record is; none where the file has none.
     std::optional<std::pair<size_t, size_t>> FindBlockRecord(const std::string& name);
 
-    // Where the sections of blocks and entities end (their ENDSEC), where that of entities begins, and the end of the file.
+    // Where the sections of blocks and entities end (their ENDSEC), where that of entities begins, and the end of the
+    // file.
     struct Sections {
         std::optional<size_t> blocksEnd, entities, entitiesEnd;
         size_t fileEnd = 0;

@@ -14,9 +14,7 @@ public:
     explicit TextPatch(std::string_view text) : text_(text) {}
 
     // Pieces don't overlap; of several at one place the order of the calls counts.
-    void Replace(size_t at, size_t length, std::string with) {
-        edits_.push_back({at, length, std::move(with)});
-    }
+    void Replace(size_t at, size_t length, std::string with) { edits_.push_back({at, length, std::move(with)}); }
     void Insert(size_t at, std::string piece) { Replace(at, 0, std::move(piece)); }
 
     bool IsEmpty() const { return edits_.empty(); }

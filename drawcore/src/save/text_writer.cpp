@@ -58,8 +58,7 @@ void LookWriter::WriteText(const Look& wanted) {
 void LookWriter::WriteEffects(const TextLook& wanted) {
     RemoveOwn(kPropTextStyle);
     const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
-    if (const int missing = wanted.style & ~held.style)
-        OwnNumbers(kPropTextStyle, {static_cast<double>(missing)});
+    if (const int missing = wanted.style & ~held.style) OwnNumbers(kPropTextStyle, {static_cast<double>(missing)});
     RemoveOwn(kPropTextFont);
     if (held.font != wanted.font) OwnText(kPropTextFont, wanted.font);
     RemoveOwn(kPropTextFormat);
@@ -96,8 +95,7 @@ void LookWriter::PutFace(Text& text, const FontFace& face) {
 // The text keeps its insertion point.
 void LookWriter::PutFormat(Text& text, uint16_t format) {
     const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
-    constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center,
-                                             Text::Horizontal::right};
+    constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center, Text::Horizontal::right};
     if (text.horizontal == Text::Horizontal::middle) text.vertical = Text::Vertical::middle;
     text.horizontal = kFormats[format];
     (HangsOnInsertion(text) ? text.insertion : text.alignment) = place;
@@ -182,8 +180,7 @@ void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
     // A point is written as a whole: a missing coordinate goes after the one that precedes it.
     record_.Set(code, RealText(now.x), {72, 50, 1, 40, 30});
     if (missing || was.y != now.y) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
-    if (missing || was.z != now.z)
-        record_.Set(code + 20, RealText(now.z), {code + 10, code, 72, 50, 1, 40, 30});
+    if (missing || was.z != now.z) record_.Set(code + 20, RealText(now.z), {code + 10, code, 72, 50, 1, 40, 30});
 }
 
 // What was damaged before can't be written back.
@@ -214,14 +211,12 @@ void LookWriter::PutText(const Text& now) {
         record_.Set(code, std::to_string((old & ~mask) | bits), {7, 51, 41, 50, 1, 40});
     };
     if (was.backward != now.backward || was.upsideDown != now.upsideDown)
-        setBits(71, (now.backward ? kBackward : 0) | (now.upsideDown ? kUpsideDown : 0),
-                kBackward | kUpsideDown);
+        setBits(71, (now.backward ? kBackward : 0) | (now.upsideDown ? kUpsideDown : 0), kBackward | kUpsideDown);
     if (was.horizontal != now.horizontal)
         record_.Set(72, std::to_string(static_cast<int>(now.horizontal)), {71, 7, 51, 41, 50, 1, 40});
     PutPoint(11, was.alignment, now.alignment);
     const bool isText = record_.Groups()[0].value.find("TEXT") != std::string_view::npos;
-    if (was.vertical != now.vertical)
-        record_.Set(isText ? 73 : 74, std::to_string(static_cast<int>(now.vertical)));
+    if (was.vertical != now.vertical) record_.Set(isText ? 73 : 74, std::to_string(static_cast<int>(now.vertical)));
     if (was.hidden != now.hidden) setBits(70, now.hidden ? kHidden : 0, kHidden);
 }
 

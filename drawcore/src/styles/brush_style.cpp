@@ -119,8 +119,8 @@ const BrushPatternStruct* BrushStyleGetNextPattern(TableStruct* table, uint16_t 
     return cookie ? LineAt(table, id, *cookie, cookie) : nullptr;
 }
 
-void BrushPatternGetData(const BrushPatternStruct* pattern, double* angle, double* baseX, double* baseY,
-                         double* along, double* spacing, int* dashCount, double* dashes) {
+void BrushPatternGetData(const BrushPatternStruct* pattern, double* angle, double* baseX, double* baseY, double* along,
+                         double* spacing, int* dashCount, double* dashes) {
     const auto* line = static_cast<const PatternLine*>(pattern);
     *angle = line->angle;
     *baseX = line->base.x;

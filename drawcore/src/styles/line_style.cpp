@@ -49,12 +49,10 @@ int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
     return 1;
 }
 
-uint16_t LineStyleAdd(TableStruct* table, const char* name, const char* description, const double* pattern,
-                      int count) {
+uint16_t LineStyleAdd(TableStruct* table, const char* name, const char* description, const double* pattern, int count) {
     auto* styles = dynamic_cast<LineStyleTable*>(Table::Find(table));
     if (!styles || !name || count < 0 || count > kMostItems || (count && !pattern)) return kNoId;
     std::vector<double> items(pattern, pattern + count);
-    if (!std::all_of(items.begin(), items.end(), [](double item) { return std::isfinite(item); }))
-        return kNoId;
+    if (!std::all_of(items.begin(), items.end(), [](double item) { return std::isfinite(item); })) return kNoId;
     return styles->Add(std::make_unique<LineStyle>(name, description ? description : "", std::move(items)));
 }

@@ -13,15 +13,14 @@ namespace {
 
 constexpr double kDegree = 0.017453292519943295, kGrad = 0.015707963267948967, kRight = 90 * kDegree;
 constexpr double kMostSteps = 1e15; // that a double counts and a decimal shows to the last digit
-constexpr double kNoAngle = 1e-15; // radians: what a calculation leaves of nothing, the last digits of a turn
+constexpr double kNoAngle = 1e-15;  // radians: what a calculation leaves of nothing, the last digits of a turn
 
 constexpr struct {
     const char* name;
     double radians;
-} kUnits[] = {
-    {"d", kDegree}, {"deg", kDegree}, {"degree", kDegree}, {"degrees", kDegree}, {"\xB0", kDegree},
-    {"g", kGrad},   {"gon", kGrad},   {"grad", kGrad},     {"grads", kGrad},     {"r", 1},
-    {"rad", 1},     {"radian", 1},    {"radians", 1},      {"'", kDegree / 60},  {"\"", kDegree / 3600}};
+} kUnits[] = {{"d", kDegree}, {"deg", kDegree}, {"degree", kDegree}, {"degrees", kDegree}, {"\xB0", kDegree},
+              {"g", kGrad},   {"gon", kGrad},   {"grad", kGrad},     {"grads", kGrad},     {"r", 1},
+              {"rad", 1},     {"radian", 1},    {"radians", 1},      {"'", kDegree / 60},  {"\"", kDegree / 3600}};
 
 // 0 if there is no such unit.
 double FindUnit(std::string_view name) {
@@ -47,8 +46,8 @@ public:
 
     double Unit(std::string_view name) const override { return FindUnit(name); }
 
-    // A number with or without its unit, or degrees, minutes and seconds: of these only the last number has a part after the
-    // mark, and each is less than makes one of the unit before.
+    // A number with or without its unit, or degrees, minutes and seconds: of these only the last number has a part
+    // after the mark, and each is less than makes one of the unit before.
     bool ReadOne(TextCursor& cursor, Quantity& angle) const override {
         double before = 0;
         do {
@@ -98,8 +97,8 @@ class Division {
 public:
     explicit Division(int digits) : level_(digits <= 0 ? 0 : digits <= 2 ? 1 : std::max(2, digits - 2)) {}
 
-    // The degrees as so many steps, divided more finely where that leaves an error beyond the given one. False if no division
-    // is fine enough, or if there are too many steps.
+    // The degrees as so many steps, divided more finely where that leaves an error beyond the given one. False if no
+    // division is fine enough, or if there are too many steps.
     bool Count(double degrees, double error, double& steps) {
         for (;;) {
             steps = std::round(degrees * StepsOfDegree());
@@ -109,9 +108,7 @@ public:
         }
     }
     int SecondDigits() const { return std::max(0, level_ - 2); }
-    double StepsOfDegree() const {
-        return level_ == 0 ? 1 : level_ == 1 ? 60 : 3600 * std::pow(10, SecondDigits());
-    }
+    double StepsOfDegree() const { return level_ == 0 ? 1 : level_ == 1 ? 60 : 3600 * std::pow(10, SecondDigits()); }
 
 private:
     static constexpr int kFinest = 10;

@@ -58,9 +58,7 @@ private:
         return false;
     }
 
-    bool One(Quantity& result) {
-        return measure_ ? measure_->ReadOne(cursor_, result) : cursor_.Mixed(result.value);
-    }
+    bool One(Quantity& result) { return measure_ ? measure_->ReadOne(cursor_, result) : cursor_.Mixed(result.value); }
 
     bool Bracket(Quantity& result) {
         if (depth_ == kDeepest) return false;
@@ -182,9 +180,9 @@ bool ReadMeasured(std::string_view text, const Measure& measure, double& value) 
     TextCursor cursor(text);
     cursor.SkipBlanks();
     double read = 0;
-    const bool known = ReadLiteral(cursor, measure, read) || ReadWithoutUnit(cursor, measure, read) ||
-                       (!HasJoinedFraction(text) &&
-                        (ReadWithLastUnit(cursor, measure, read) || ReadWithUnits(cursor, measure, read)));
+    const bool known =
+        ReadLiteral(cursor, measure, read) || ReadWithoutUnit(cursor, measure, read) ||
+        (!HasJoinedFraction(text) && (ReadWithLastUnit(cursor, measure, read) || ReadWithUnits(cursor, measure, read)));
     if (!known || !std::isfinite(read)) return false;
     value = read;
     return true;

@@ -30,8 +30,8 @@ public:
     }
 
 private:
-    // Inches after feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus. Fails for "1'-6'", which is more likely
-    // a slip of 1'-6" than a difference.
+    // Inches after feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus. Fails for "1'-6'", which is
+    // more likely a slip of 1'-6" than a difference.
     bool ReadInches(TextCursor& cursor, double& feet) const {
         const TextCursor before = cursor;
         const bool joined = cursor.Take('-');

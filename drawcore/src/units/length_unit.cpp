@@ -44,8 +44,7 @@ const LengthUnit* FindLengthUnit(std::string_view name) {
 }
 
 const LengthUnit* LengthUnitOfDxf(int number) {
-    if (number < 0 || static_cast<size_t>(number) >= std::size(kDxfUnits) || !kDxfUnits[number])
-        return nullptr;
+    if (number < 0 || static_cast<size_t>(number) >= std::size(kDxfUnits) || !kDxfUnits[number]) return nullptr;
     return FindLengthUnit(kDxfUnits[number]);
 }
 

@@ -18,8 +18,8 @@ public:
     bool Take(char c);
     // A plus or minus, or none; true for a minus.
     bool TakeMinus();
-    // One of the two with any blanks around it, and which it was; 0, and nothing taken, if neither comes next, or if a sign
-    // follows a sign.
+    // One of the two with any blanks around it, and which it was; 0, and nothing taken, if neither comes next, or if a
+    // sign follows a sign.
     char TakeOperator(char one, char other);
     // Letters, feet and inch marks, signs of the code page: the longest run of them, perhaps empty.
     std::string_view TakeWord();

@@ -41,8 +41,7 @@ int TextToNumber(Table* units, uint16_t number, uint16_t display, const char* te
     return 1;
 }
 
-int NumberToText(Table* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
-                 bool suffix) {
+int NumberToText(Table* units, uint16_t display, uint16_t number, double value, char* buffer, int size, bool suffix) {
     if (!units) return 0;
     const LengthUnit* of = UnitOfVariable(*units, number);
     const LengthUnit* shown = TextUnit(*units, display, number);
@@ -79,13 +78,12 @@ uint16_t NumberInSpace(uint16_t space) {
 
 using namespace drawcore;
 
-int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
-                         double* value) {
+int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text, double* value) {
     return TextToNumber(Table::Find(units), number, display, text, value);
 }
 
-int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
-                         int size, int, int suffix) {
+int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer, int size,
+                         int, int suffix) {
     return NumberToText(Table::Find(units), display, number, value, buffer, size, suffix != 0);
 }
 
@@ -104,8 +102,8 @@ int DrawingStdTextToNumericEx(DrawingStruct* drawing, const char* text, double* 
     return TextToNumber(UnitsOf(drawing), NumberInSpace(coordSpace), unit, text, value);
 }
 
-int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size,
-                              uint16_t coordSpace, uint16_t unit) {
+int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer, int size, uint16_t coordSpace,
+                              uint16_t unit) {
     return NumberToText(UnitsOf(drawing), unit, NumberInSpace(coordSpace), value, buffer, size,
                         coordSpace != kSpaceWorld);
 }

@@ -45,8 +45,8 @@ const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
 LengthFormat LengthFormatOf(const Table& units) {
     const UnitSettings fresh;
     LengthFormat format;
-    format.system = SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional,
-                             fresh.lengthSystem);
+    format.system =
+        SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
     format.digits = std::clamp(Whole(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
     return format;
 }
@@ -54,8 +54,7 @@ LengthFormat LengthFormatOf(const Table& units) {
 AngleFormat AngleFormatOf(const Table& units) {
     const UnitSettings fresh;
     AngleFormat format;
-    format.system =
-        SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
+    format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
     format.digits = std::clamp(Whole(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
     return format;
 }

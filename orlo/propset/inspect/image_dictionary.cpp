@@ -95,13 +95,11 @@ bool IsWholeDictionary(const uint8_t* bytes, size_t size, uint16_t codePage) {
 }
 
 std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t size, uint16_t codePage,
-                                                   uint64_t offset, const std::string& place,
-                                                   Report& report) {
+                                                   uint64_t offset, const std::string& place, Report& report) {
     const auto [form, raw] = SplitByBestForm(bytes, size, codePage);
     if (!IsWhole(raw))
-        report.Add(FindingCode::dictionaryShort, Severity::damaged, offset, place,
-                   ": the dictionary announces ", raw ? raw->count : 0, " names, ",
-                   raw ? raw->names.size() : 0, " are there");
+        report.Add(FindingCode::dictionaryShort, Severity::damaged, offset, place, ": the dictionary announces ",
+                   raw ? raw->count : 0, " names, ", raw ? raw->names.size() : 0, " are there");
     if (!raw || (raw->names.empty() && raw->count != 0)) return std::nullopt;
 
     ImageDictionary result{{}, raw->size};
@@ -109,33 +107,30 @@ std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t 
     for (const RawName& name : raw->names) {
         std::string_view text = name.bytes;
         if (!CutAtNul(text, form))
-            report.Add(FindingCode::nameWithoutNul, Severity::note, offset + name.at, place,
-                       ": the name of property ", name.id, " has no NUL; it ends at its length");
+            report.Add(FindingCode::nameWithoutNul, Severity::note, offset + name.at, place, ": the name of property ",
+                       name.id, " has no NUL; it ends at its length");
         std::optional<std::string> utf8 = CodePageToUtf8(text, form.codePage);
         if (!utf8) {
             report.Add(FindingCode::nameUndecodable, Severity::irregular, offset + name.at, place,
                        ": the name of property ", name.id, " is not text of code page ", form.codePage);
-            if (form.codePage == codePage)
-                result.entries.push_back({name.id, {}, Bytes(text.begin(), text.end())});
+            if (form.codePage == codePage) result.entries.push_back({name.id, {}, Bytes(text.begin(), text.end())});
             continue;
         }
         if (!seen.insert(text).second)
             report.Add(FindingCode::nameRepeated, Severity::irregular, offset + name.at, place,
-                       ": the name of property ", name.id,
-                       " was given before; readers take the first or the last");
+                       ": the name of property ", name.id, " was given before; readers take the first or the last");
         result.entries.push_back({name.id, std::move(*utf8), {}});
     }
     return result;
 }
 
-bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage,
-                           ImageWriter& image) {
+bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage, ImageWriter& image) {
     const NameForm form{codePage, codePage == kCodePageUtf16};
     image.Put32(static_cast<uint32_t>(entries.size()));
     for (const DictionaryEntry& entry : entries) {
-        const std::optional<std::string> name =
-            entry.undecoded.empty() ? Utf8ToCodePage(entry.name, codePage)
-                                    : std::string(entry.undecoded.begin(), entry.undecoded.end());
+        const std::optional<std::string> name = entry.undecoded.empty()
+                                                    ? Utf8ToCodePage(entry.name, codePage)
+                                                    : std::string(entry.undecoded.begin(), entry.undecoded.end());
         if (!name || name->size() % form.UnitSize() != 0) return false;
         const size_t size = name->size() + form.UnitSize();
         image.Put32(entry.id);

@@ -25,7 +25,6 @@ std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t 
                                                    uint64_t offset, const std::string& place, Report& report);
 
 // False if the code page can't represent a name.
-bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage,
-                           ImageWriter& image);
+bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage, ImageWriter& image);
 
 } // namespace orlo

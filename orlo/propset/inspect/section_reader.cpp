@@ -19,8 +19,7 @@ struct Hex {
     uint32_t number;
 };
 std::ostream& operator<<(std::ostream& out, Hex hex) {
-    return out << "0x" << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << hex.number
-               << std::dec;
+    return out << "0x" << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << hex.number << std::dec;
 }
 
 constexpr size_t kUsualEntries = 32; // room for them is made at once
@@ -44,8 +43,8 @@ std::string WhatItNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
 
 } // namespace
 
-SectionReader::SectionReader(const uint8_t* head, size_t left, size_t room, std::string place,
-                             Allowance& allowance, Report& report, ImageSection& section)
+SectionReader::SectionReader(const uint8_t* head, size_t left, size_t room, std::string place, Allowance& allowance,
+                             Report& report, ImageSection& section)
     : head_(head), left_(left), room_(room), place_(std::move(place)), allowance_(allowance), report_(report),
       section_(section) {}
 
@@ -62,8 +61,8 @@ size_t SectionReader::Read() {
                     section_.size, ", but only ", left_,
                     " bytes are left in the stream; its values are looked for there");
     if (section_.size % 4 != 0)
-        report_.Add(FindingCode::sectionSizeOdd, Severity::note, section_.offset, place_, ": size ",
-                    section_.size, " is no multiple of 4");
+        report_.Add(FindingCode::sectionSizeOdd, Severity::note, section_.offset, place_, ": size ", section_.size,
+                    " is no multiple of 4");
     ReadTable();
     LookAtTable();
     ReadValues();
@@ -78,10 +77,9 @@ void SectionReader::ReadTable() {
     const size_t fitting = (left_ - kSectionHeadSize) / kPropertyLineSize;
     const bool isShort = section_.count > fitting;
     if (isShort)
-        report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_,
-                    ": table of ", section_.count, " properties needs ",
-                    uint64_t{section_.count} * kPropertyLineSize, " bytes, ", left_ - kSectionHeadSize,
-                    " are left; read up to the first value");
+        report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_, ": table of ",
+                    section_.count, " properties needs ", uint64_t{section_.count} * kPropertyLineSize, " bytes, ",
+                    left_ - kSectionHeadSize, " are left; read up to the first value");
     size_t firstValue = left_;
     entries_.reserve(std::min({fitting, size_t{section_.count}, kUsualEntries}));
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
@@ -113,8 +111,8 @@ void SectionReader::LookAtTable() {
     }
     LookForRepeatedIds();
     if (unaligned > 0)
-        report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kSectionHeadSize, place_,
-                    ": ", unaligned, " values stand at offsets that are no multiples of 4");
+        report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kSectionHeadSize, place_, ": ",
+                    unaligned, " values stand at offsets that are no multiples of 4");
     if (isAscending) return;
     report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kSectionHeadSize, place_,
                 ": the values are not in the order of the table");
@@ -131,8 +129,7 @@ void SectionReader::LookForRepeatedIds() {
     for (size_t i = 1; i < byId.size(); ++i) {
         const Entry& entry = *byId[i];
         if (entry.id != byId[i - 1]->id) continue;
-        const size_t at =
-            kSectionHeadSize + static_cast<size_t>(&entry - entries_.data()) * kPropertyLineSize;
+        const size_t at = kSectionHeadSize + static_cast<size_t>(&entry - entries_.data()) * kPropertyLineSize;
         report_.Add(FindingCode::idRepeated, Severity::irregular, section_.offset + at, NameOf(entry),
                     ": listed before; readers take the first or the last");
     }
@@ -157,8 +154,8 @@ void SectionReader::ReadValues() {
             ReadDictionary(entry);
         }
         if (entry.isProperty && entry.property.state == ValueState::complete)
-            FindValueOddities(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize,
-                              place_, report_);
+            FindValueOddities(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize, place_,
+                              report_);
         if (section_.size <= left_ && entry.end > section_.size)
             report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
                         NameOf(entry), " ends beyond the section's size of ", section_.size,
@@ -174,9 +171,8 @@ void SectionReader::ReadValue(Entry& entry) {
     property.offset = entry.offset;
     property.state = ValueState::partial;
     if (entry.offset > left_ - kTypeSize) {
-        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, NameOf(entry), ": offset ",
-                    entry.offset, ", but the stream has ", left_,
-                    " bytes from the section's head; there is no value");
+        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, NameOf(entry), ": offset ", entry.offset,
+                    ", but the stream has ", left_, " bytes from the section's head; there is no value");
         return;
     }
     const uint32_t type = Load32(head_ + entry.offset);
@@ -195,14 +191,14 @@ void SectionReader::ReadValue(Entry& entry) {
         if (!isVector && !allowance_.Spend(extent->size)) return TooLarge(entry);
         Keep(entry, ValueState::complete, extent->size);
     } else if (HasForm(property.type)) {
-        report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ",
-                    TypeName(property.type), " ", WhatItNeeds(property.type, bytes, reach), ", ", reach,
+        report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ", TypeName(property.type), " ",
+                    WhatItNeeds(property.type, bytes, reach), ", ", reach,
                     " bytes are there; it can't be read in full");
         if (!isVector && !allowance_.Spend(entry.room)) return TooLarge(entry);
         Keep(entry, ValueState::partial, entry.room);
     } else {
-        report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ",
-                    TypeName(property.type), " is not known; its bytes are kept up to the next value");
+        report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ", TypeName(property.type),
+                    " is not known; its bytes are kept up to the next value");
         const size_t toSectionEnd =
             section_.size > entry.offset + kTypeSize ? section_.size - entry.offset - kTypeSize : 0;
         const size_t size = std::min(entry.room, toSectionEnd > 0 ? toSectionEnd : entry.room);
@@ -212,16 +208,15 @@ void SectionReader::ReadValue(Entry& entry) {
 }
 
 void SectionReader::TooLarge(Entry& entry) {
-    report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + uint64_t{entry.offset},
-                NameOf(entry), ": the values hold more than the stream could; left out");
+    report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + uint64_t{entry.offset}, NameOf(entry),
+                ": the values hold more than the stream could; left out");
 }
 
 void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     entry.property.state = state;
     entry.property.bytes.assign(bytes, bytes + size);
-    if (state == ValueState::opaque)
-        entry.property.bytes.resize(Aligned(size)); // its padding may be part of it
+    if (state == ValueState::opaque) entry.property.bytes.resize(Aligned(size)); // its padding may be part of it
     if (state != ValueState::partial) entry.end = entry.offset + kTypeSize + size;
 }
 
@@ -234,9 +229,8 @@ void SectionReader::ReadCodePage() {
         if (property.type == VT_I2)
             section_.codePage = Load16(property.bytes.data());
         else
-            report_.Add(FindingCode::codePageType, Severity::irregular,
-                        section_.offset + uint64_t{entry.offset}, place_, ": the code page has ",
-                        TypeName(property.type), " instead of VT_I2; taken as none");
+            report_.Add(FindingCode::codePageType, Severity::irregular, section_.offset + uint64_t{entry.offset},
+                        place_, ": the code page has ", TypeName(property.type), " instead of VT_I2; taken as none");
     }
     if (!section_.codePage && hasText)
         report_.Add(FindingCode::noCodePage, Severity::irregular, section_.offset, place_,
@@ -246,9 +240,8 @@ void SectionReader::ReadCodePage() {
 void SectionReader::ReadDictionary(Entry& entry) {
     const uint64_t at = section_.offset + uint64_t{entry.offset};
     if (entry.offset > left_ - kTypeSize) {
-        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, place_,
-                    ": the dictionary's offset is ", entry.offset, ", but the stream has ", left_,
-                    " bytes from the section's head; there are no names");
+        report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, place_, ": the dictionary's offset is ",
+                    entry.offset, ", but the stream has ", left_, " bytes from the section's head; there are no names");
         return;
     }
     const uint8_t* bytes = head_ + entry.offset;
@@ -257,16 +250,13 @@ void SectionReader::ReadDictionary(Entry& entry) {
     if (!allowance_.Spend(size)) return TooLarge(entry);
     const uint32_t type = Load32(bytes);
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);
-    const bool isLastInSection =
-        asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
-    if (asValue && (isLastInSection || entry.room - asValue->size < 4) &&
-        !IsWholeDictionary(bytes, size, codePage)) {
+    const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
+    if (asValue && (isLastInSection || entry.room - asValue->size < 4) && !IsWholeDictionary(bytes, size, codePage)) {
         report_.Add(FindingCode::dictionaryTyped, Severity::irregular, at, place_,
                     ": property 0 is no dictionary but a value of type ", TypeName(type));
         return ReadValue(entry);
     }
-    const std::optional<ImageDictionary> dictionary =
-        ReadImageDictionary(bytes, size, codePage, at, place_, report_);
+    const std::optional<ImageDictionary> dictionary = ReadImageDictionary(bytes, size, codePage, at, place_, report_);
     if (!dictionary) return;
     section_.dictionary = dictionary->entries;
     entry.end = entry.offset + dictionary->size;
@@ -283,18 +273,17 @@ void SectionReader::LookAtGaps() {
             continue;
         }
         if (entry->offset < tableEnd)
-            report_.Add(FindingCode::offsetInTable, Severity::irregular, at, NameOf(*entry), ": offset ",
-                        entry->offset, " lies inside the table of properties");
+            report_.Add(FindingCode::offsetInTable, Severity::irregular, at, NameOf(*entry), ": offset ", entry->offset,
+                        " lies inside the table of properties");
         else if (before == nullptr && entry->offset >= tableEnd + kTypeSize)
-            report_.Add(FindingCode::gapAfterTable, Severity::irregular, section_.offset + tableEnd, place_,
-                        ": ", entry->offset - tableEnd, " unused bytes behind the table of properties");
+            report_.Add(FindingCode::gapAfterTable, Severity::irregular, section_.offset + tableEnd, place_, ": ",
+                        entry->offset - tableEnd, " unused bytes behind the table of properties");
         if (before != nullptr && before->end > entry->offset)
-            report_.Add(FindingCode::valuesOverlap, Severity::irregular, at, NameOf(*entry),
-                        " begins inside property ", before->id);
+            report_.Add(FindingCode::valuesOverlap, Severity::irregular, at, NameOf(*entry), " begins inside property ",
+                        before->id);
         else if (before != nullptr && before->end != 0 && entry->offset >= Aligned(before->end) + kTypeSize)
-            report_.Add(FindingCode::unusedBytes, Severity::irregular, section_.offset + before->end,
-                        NameOf(*before), ": ", entry->offset - Aligned(before->end),
-                        " unused bytes behind the value");
+            report_.Add(FindingCode::unusedBytes, Severity::irregular, section_.offset + before->end, NameOf(*before),
+                        ": ", entry->offset - Aligned(before->end), " unused bytes behind the value");
         reached_ = std::max(reached_, entry->end);
         before = entry;
     }

@@ -14,16 +14,14 @@ namespace {
 
 template <class List>
 bool EraseId(List& list, uint32_t id) {
-    const auto kept =
-        std::remove_if(list.begin(), list.end(), [id](const auto& item) { return item.id == id; });
+    const auto kept = std::remove_if(list.begin(), list.end(), [id](const auto& item) { return item.id == id; });
     const bool isThere = kept != list.end();
     list.erase(kept, list.end());
     return isThere;
 }
 
 void StoreCodePage(ImageSection& section, uint16_t codePage) {
-    StoreValue(section, kCodePageId, VT_I2,
-               {static_cast<uint8_t>(codePage), static_cast<uint8_t>(codePage >> 8)});
+    StoreValue(section, kCodePageId, VT_I2, {static_cast<uint8_t>(codePage), static_cast<uint8_t>(codePage >> 8)});
     section.codePage = codePage;
 }
 
@@ -31,8 +29,7 @@ void StoreCodePage(ImageSection& section, uint16_t codePage) {
 bool ConvertValue(ImageProperty& property, std::optional<uint16_t> codePage) {
     if (property.state != ValueState::complete || !HasCodePageText(property.type)) return true;
     Value value;
-    if (!DecodeValue(property.type, property.bytes.data(), property.bytes.size(), codePage, value))
-        return false;
+    if (!DecodeValue(property.type, property.bytes.data(), property.bytes.size(), codePage, value)) return false;
     std::optional<Bytes> bytes = EncodeValue(value, kCodePageUtf8);
     if (bytes) property.bytes = std::move(*bytes);
     return bytes.has_value();
@@ -76,8 +73,7 @@ const DictionaryEntry* FindName(const ImageSection& section, const std::string& 
 void StoreName(ImageSection& section, uint32_t id, const std::string& name) {
     if (!section.dictionary) section.dictionary.emplace();
     auto& names = *section.dictionary;
-    const auto own =
-        std::find_if(names.begin(), names.end(), [id](const auto& entry) { return entry.id == id; });
+    const auto own = std::find_if(names.begin(), names.end(), [id](const auto& entry) { return entry.id == id; });
     if (own != names.end())
         *own = {id, name, {}};
     else

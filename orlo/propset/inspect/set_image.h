@@ -130,8 +130,7 @@ struct Finding {
 };
 
 // Nothing if the stream is not a property set (too short, another byte order, no room for its list of sections).
-ORLO_API std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size,
-                                              std::vector<Finding>& findings);
+ORLO_API std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size, std::vector<Finding>& findings);
 
 // The image as a stream: sections and values in order and aligned to 4 bytes, names and texts padded as the
 // published format asks, partial values left out. Nothing if the code page can't represent a name

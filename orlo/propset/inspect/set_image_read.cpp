@@ -45,8 +45,8 @@ private:
 
 bool SetReader::ReadHeader() {
     if (size_ < kSetHeadSize) {
-        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kSetHeadSize, " bytes, ",
-                    size_, " are there; this is no property set");
+        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kSetHeadSize, " bytes, ", size_,
+                    " are there; this is no property set");
         return false;
     }
     image_.byteOrder = Load16(data_);
@@ -55,8 +55,8 @@ bool SetReader::ReadHeader() {
     std::memcpy(&image_.classId, data_ + 8, sizeof image_.classId);
     image_.sectionCount = Load32(data_ + 24);
     if (image_.byteOrder != kLittleEndianMark) {
-        report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "byte order mark is ", std::hex,
-                    image_.byteOrder, " instead of fffe; this is no property set");
+        report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "byte order mark is ", std::hex, image_.byteOrder,
+                    " instead of fffe; this is no property set");
         return false;
     }
     const size_t left = size_ - kSetHeadSize;
@@ -92,8 +92,8 @@ void SetReader::ReadSections() {
         const size_t head = heads[i];
         const std::string place = "section " + std::to_string(i);
         if (head > size_ - kSectionHeadSize) {
-            report_.Add(FindingCode::sectionOffsetPastEnd, Severity::damaged, entry + 16, place, ": offset ",
-                        head, ", but the stream has ", size_, " bytes; left out");
+            report_.Add(FindingCode::sectionOffsetPastEnd, Severity::damaged, entry + 16, place, ": offset ", head,
+                        ", but the stream has ", size_, " bytes; left out");
             continue;
         }
         ImageSection section;
@@ -103,11 +103,11 @@ void SetReader::ReadSections() {
             report_.Add(FindingCode::sectionRepeated, Severity::irregular, entry, place,
                         ": another section of that format ID comes before; readers take the first");
         if (head < listEnd)
-            report_.Add(FindingCode::sectionOffsetInHeader, Severity::irregular, entry + 16, place,
-                        ": offset ", head, " lies inside the header");
+            report_.Add(FindingCode::sectionOffsetInHeader, Severity::irregular, entry + 16, place, ": offset ", head,
+                        " lies inside the header");
         if (head % 4 != 0)
-            report_.Add(FindingCode::sectionUnaligned, Severity::irregular, entry + 16, place, ": offset ",
-                        head, " is no multiple of 4");
+            report_.Add(FindingCode::sectionUnaligned, Severity::irregular, entry + 16, place, ": offset ", head,
+                        " is no multiple of 4");
         const auto next = std::upper_bound(sorted.begin(), sorted.end(), head);
         const size_t end = next != sorted.end() && *next < size_ ? *next : size_;
         SectionReader reader(data_ + head, size_ - head, end - head, place, allowance_, report_, section);
@@ -123,9 +123,8 @@ void SetReader::LookAtTrailingBytes() {
     if (trailing == 0) return;
     const uint8_t* rest = data_ + reached_;
     const bool areZero = *rest == 0 && std::memcmp(rest, rest + 1, trailing - 1) == 0;
-    report_.Add(FindingCode::trailingBytes, areZero ? Severity::note : Severity::irregular, reached_,
-                trailing, " bytes behind the set",
-                areZero ? ", all zero" : ", not all zero; they belong to nothing");
+    report_.Add(FindingCode::trailingBytes, areZero ? Severity::note : Severity::irregular, reached_, trailing,
+                " bytes behind the set", areZero ? ", all zero" : ", not all zero; they belong to nothing");
 }
 
 } // namespace
@@ -135,8 +134,8 @@ std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size, std::vect
 }
 
 const ImageProperty* ImageSection::Find(uint32_t id) const {
-    const auto found = std::find_if(properties.begin(), properties.end(),
-                                    [id](const ImageProperty& p) { return p.id == id; });
+    const auto found =
+        std::find_if(properties.begin(), properties.end(), [id](const ImageProperty& p) { return p.id == id; });
     return found != properties.end() ? &*found : nullptr;
 }
 

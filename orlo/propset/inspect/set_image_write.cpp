@@ -43,8 +43,7 @@ bool AppendSection(const ImageSection& section, ImageWriter& image) {
     Table table(image, head, count);
     if (section.dictionary) {
         table.Add(kDictionaryId);
-        if (!AppendImageDictionary(*section.dictionary, section.codePage.value_or(kUsualCodePage), image))
-            return false;
+        if (!AppendImageDictionary(*section.dictionary, section.codePage.value_or(kUsualCodePage), image)) return false;
         Align(image);
     }
     for (const ImageProperty& property : section.properties) {

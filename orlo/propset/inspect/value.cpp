@@ -53,8 +53,7 @@ bool DecodeClipboard(std::string_view bytes, Value& value) {
     return true;
 }
 
-bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, uint16_t codePage,
-                   Value& value) {
+bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, uint16_t codePage, Value& value) {
     value.type = type;
     switch (type) {
     case VT_EMPTY:
@@ -200,15 +199,13 @@ bool EncodeElement(const Value& value, uint16_t codePage, ImageWriter& image) {
         return EncodeText(value, kCodePageUtf16, image);
     default:
         if (form.isText) return EncodeText(value, codePage, image);
-        return form.form == Form::fixed ? EncodeWhole(value, form.size, image)
-                                        : EncodeBytes(value, form, image);
+        return form.form == Form::fixed ? EncodeWhole(value, form.size, image) : EncodeBytes(value, form, image);
     }
 }
 
 } // namespace
 
-bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage,
-                 Value& value) {
+bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage, Value& value) {
     const std::optional<Extent> extent = MeasureValue(type, bytes, size);
     if (!extent) return false;
     Value decoded;
@@ -247,8 +244,8 @@ std::string GuidText(const GUID& guid) {
     char text[40];
     const uint8_t* tail = guid.Data4;
     std::snprintf(text, sizeof text, "{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}",
-                  static_cast<unsigned>(guid.Data1), guid.Data2, guid.Data3, tail[0], tail[1], tail[2],
-                  tail[3], tail[4], tail[5], tail[6], tail[7]);
+                  static_cast<unsigned>(guid.Data1), guid.Data2, guid.Data3, tail[0], tail[1], tail[2], tail[3],
+                  tail[4], tail[5], tail[6], tail[7]);
     return text;
 }
 

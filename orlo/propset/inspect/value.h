@@ -34,8 +34,7 @@ struct Value {
     // unsigned numbers (UI1, UI2, UI4, UINT, UI8, FILETIME in 100 ns), double (R4, R8, DATE in days), UTF-8
     // text up to the first NUL (LPSTR, BSTR, LPWSTR, the stream and storage names), bytes (BLOB, DECIMAL, the
     // rest), clipboard data, GUID.
-    std::variant<std::monostate, bool, int64_t, uint64_t, double, std::string, Bytes, ClipboardData, GUID>
-        data;
+    std::variant<std::monostate, bool, int64_t, uint64_t, double, std::string, Bytes, ClipboardData, GUID> data;
     std::vector<Value> elements; // of a vector; their own types differ only under VT_VARIANT
 };
 

@@ -44,8 +44,7 @@ void LookAtText(std::string_view bytes, const Look& look) {
                  "bytes stand behind the text's NUL; readers leave them out");
     const std::string_view text = bytes.substr(0, end);
     if (!IsPlainText(text, look.codePage) && !CodePageToUtf8(text, look.codePage))
-        look.Add(FindingCode::textUndecodable, Severity::irregular, "the text is none of code page ",
-                 look.codePage);
+        look.Add(FindingCode::textUndecodable, Severity::irregular, "the text is none of code page ", look.codePage);
 }
 
 void LookAtBool(std::string_view bytes, const Look& look) {
@@ -58,8 +57,7 @@ void LookAtBool(std::string_view bytes, const Look& look) {
 
 void LookAtClipboard(std::string_view bytes, const Look& look) {
     const bool hasTag = bytes.size() >= 4;
-    const int32_t tag =
-        hasTag ? static_cast<int32_t>(Load32(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
+    const int32_t tag = hasTag ? static_cast<int32_t>(Load32(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
     const size_t needed = hasTag && (tag == -1 || tag == -2) ? 8 : 4;
     if (bytes.size() < needed)
         look.Add(FindingCode::clipboardShort, Severity::irregular, "clipboard data needs ", needed,
