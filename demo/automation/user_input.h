@@ -22,8 +22,8 @@ public:
     // Lets the program handle what is waiting, for that time at least.
     void Wait(unsigned milliseconds);
 
-    // To the window that has the focus. If another program has taken it, it is taken back first; std::runtime_error if
-    // that can't be done.
+    // Sends to the window that has the focus. If another program has taken the focus, it is restored first;
+    // std::runtime_error if that can't be done.
     void Key(UINT virtualKey, unsigned modifiers = kNone);
     void Keys(UINT virtualKey, int count);
     void Type(const std::string& text);

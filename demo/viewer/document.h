@@ -72,7 +72,7 @@ public:
     // A length as the drawing's units write it.
     std::string LengthText(double length) const;
 
-    // Runs a change as one step that Undo takes back. The number of graphics that it changed.
+    // Runs a change as one step of undo. Returns the number of graphics that it changed.
     int Change(const std::function<void()>& change);
     // The same; with false from the change all is at once as if it had never been.
     int Attempt(const std::function<bool()>& change);
@@ -82,7 +82,7 @@ public:
     void EndGathering();
     int TakeGathered(); // graphics that the step has changed; with 0 there is none
     int DropGathered(); // graphics changed back
-    // How many of the oldest changes can't be taken back any more, for want of memory, since the last change.
+    // Returns how many of the oldest changes can no longer be undone since the last change, for lack of memory.
     int DroppedSteps() const;
     // Makes a change outside of the database one step; null: there was none.
     void Record(std::unique_ptr<UndoableChange> change);

@@ -552,7 +552,7 @@ bool CMainFrame::OpenMenuByKey(const MSG& message) {
     return false;
 }
 
-// A field takes back its own typing first; after that Ctrl+Z is the drawing's.
+// A field undoes its own typing first; after that Ctrl+Z undoes changes of the drawing.
 bool CMainFrame::IsKeyOfFocus(const MSG& message) const {
     const bool isUndo = message.message == WM_KEYDOWN && message.wParam == 'Z' && ::GetKeyState(VK_SHIFT) >= 0;
     return isUndo && ::SendMessageA(message.hwnd, EM_CANUNDO, 0, 0);

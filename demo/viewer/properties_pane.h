@@ -39,7 +39,7 @@ public:
     void Follow();
     // False: a page has refused what was typed, has told the user, and has the focus.
     bool Apply();
-    // Drops what was typed, and takes back what was written since the last Apply.
+    // Discards typed text and undoes everything that was written since the last Apply.
     void Reset();
 
     bool HasFocus() const { return ::IsChild(m_hWnd, ::GetFocus()) != FALSE; }

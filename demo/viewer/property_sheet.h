@@ -57,5 +57,5 @@ struct SheetOutcome {
     int changed; // graphics; one step of undo takes them back
 };
 
-// Cancel takes back all that the sheet has written.
+// Cancel undoes everything that the sheet has written.
 SheetOutcome EditSelection(CWnd* owner, Document& document);

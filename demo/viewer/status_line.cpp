@@ -1,4 +1,4 @@
-// The bottom line of the main window.
+// The status bar of the main window.
 
 #include "demo/viewer/status_line.h"
 

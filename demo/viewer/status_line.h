@@ -1,4 +1,4 @@
-// The bottom line of the main window: a message (or the progress of a long task), the kinds of the selected graphics,
+// The status bar of the main window: a message (or the progress of a long task), the kinds of the selected graphics,
 // their pen widths, the pointer's place.
 #pragma once
 

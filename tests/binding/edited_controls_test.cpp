@@ -134,7 +134,7 @@ TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
     }
 }
 
-// Two controls of one member: one that was brought back to what it showed does not take back the write of the other.
+// Two controls of one member: restoring the text of one does not undo the write of the other.
 TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
     kit[1].properties["Bits"] = 4;
     TestSheet sheet(kit);

@@ -49,7 +49,7 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
     EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
 }
 
-// Each alone: a property that the log overlooks is not taken back.
+// Each alone: a property that the log overlooks is not undone.
 TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
     GraphicStruct* const text = drawing.Add(MakeText("text", {0, 0}, 1));
     int count = 0;

@@ -175,7 +175,7 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     }
 }
 
-// Typed over and taken back, by undo or by hand, a field is as it was: the user sees no new value.
+// A field whose text was restored, by undo or by typing, is unchanged: the user sees no new value.
 TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
     Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
