@@ -68,11 +68,12 @@ bool Document::IsModified() const {
 bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
     char message[512] = "";
     Task saving = {progress, {}};
-    const DxfListener listener = {&saving, ShowProgress, nullptr};
+    const DxfListener listener = {&saving, ShowProgress, KeepFinding};
     const uint32_t flags = overChanged ? kSaveOverChanged : 0;
     switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
+        m_saveNotes = std::move(saving.findings);
         return true;
     case kSaveFileChanged:
         return false;

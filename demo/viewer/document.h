@@ -53,6 +53,8 @@ public:
 
     // What was left out of the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }
+    // What other programs will not show of the drawing as it was last saved, one line for each property.
+    const std::vector<std::string>& SaveNotes() const { return m_saveNotes; }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Root() const { return m_root; }
@@ -100,7 +102,7 @@ private:
     void TrimHistory();
 
     std::string m_path;
-    std::vector<std::string> m_findings;
+    std::vector<std::string> m_findings, m_saveNotes;
     OwnedDrawing m_drawing; // goes after those who hold its graphics
     GraphicStruct* m_root;
     Selection m_selection;

@@ -141,7 +141,10 @@ bool CMainFrame::Save(const std::string& path) {
         return false;
     }
     RecentFiles::Add(path);
-    m_status.ShowMessage("Saved " + SystemText(m_document->Name()));
+    std::string text = "Saved " + SystemText(m_document->Name());
+    for (const std::string& note : m_document->SaveNotes())
+        text += "; " + note;
+    m_status.ShowMessage(text);
     ShowTitle();
     return true;
 }

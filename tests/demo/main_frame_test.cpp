@@ -270,6 +270,11 @@ protected:
         return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
     }
     void Save() { user.Key('S', UserInput::kControl); }
+    std::string StatusText() {
+        char text[512] = "";
+        ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, 0, reinterpret_cast<LPARAM>(text));
+        return text;
+    }
 };
 
 TEST_F(Saving, MarkFollowsUndoAndRedo) {
@@ -283,6 +288,17 @@ TEST_F(Saving, MarkFollowsUndoAndRedo) {
     }
     EXPECT_TRUE(boxes.Boxes().empty()) << boxes.OnlyText();
     EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
+}
+
+TEST_F(Saving, SaysWhatOtherProgramsWillNotShow) {
+    Widen(0.5);
+    Save();
+    EXPECT_EQ(StatusText(), " Saved " + document().Name());
+    document().Change([&] { orlo::host::WriteProperty(document().Selectable()[0], kPropPenAlignment, false); });
+    Save();
+    EXPECT_EQ(StatusText(),
+              " Saved " + document().Name() +
+                  "; PenAlignment of 1 entity is stored as extended data, which other programs do not show");
 }
 
 TEST_F(Saving, UnsavedChangesAreAskedFor) {
