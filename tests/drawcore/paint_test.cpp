@@ -105,6 +105,11 @@ TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
 
 TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
     constexpr COLORREF kYellow = RGB(255, 255, 0), kCyan = RGB(0, 255, 255);
+    GraphicStruct* sample = Line(10, 10, 90, 10);
+    SetWhole(sample, kPropPenColor, kYellow);
+    Draw();
+    EXPECT_EQ(picture.At(50, 10), kYellow) << "a sample, for which no background was set, keeps its color";
+    ViewportSetBackground(picture.Viewport(), kWhite);
     for (const COLORREF color : {kYellow, kCyan, kRed}) {
         GraphicStruct* line = Line(10, 10, 90, 10);
         SetWhole(line, kPropPenColor, color);

@@ -14,9 +14,10 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Sets the background color of the drawing. Lines in nearly the same color are drawn in black or white, and on a dark
-// background dark lines are drawn in a lighter shade, so that they are visible. The default is the system's window
-// color or, for previews, the application's preview background.
+// Sets the background color of the drawing. Lines in nearly the same color are drawn in black or white. So that they
+// are visible, dark lines are drawn in a lighter shade on a dark background and, if this function was called, light
+// lines in a darker shade on a light one. The default is the system's window color or, for previews, the application's
+// preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 
 // Draws pens at their true width (the default) or as hairlines.

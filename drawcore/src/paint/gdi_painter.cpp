@@ -110,6 +110,7 @@ Color GdiPainter::Seen(Color color) {
     // Black and white are drawn in the contrasting color of the background.
     const Color ink = bright ? 0 : kWhite;
     if (difference <= kTooNear || color == (bright ? kWhite : 0)) return ink;
+    if (bright && !settings_.isView) return color;
     const auto [shade, isNew] = shades_.try_emplace(color, color);
     if (isNew) shade->second = LegibleOn(settings_.background, color, ink);
     return shade->second;

@@ -16,6 +16,7 @@ namespace drawcore {
 
 struct PaintSettings {
     Color background = kWhite;      // what is of nearly that color is drawn in its opposite
+    bool isView = false;            // light colors are darkened on a light background; samples keep theirs
     std::optional<Color> highlight; // everything in that color, thicker
     double widestPen = 1e9;         // pixels
 };

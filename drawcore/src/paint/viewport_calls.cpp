@@ -125,6 +125,7 @@ Color BackgroundOf(const Viewport& viewport, bool preview) {
 PaintSettings SettingsOf(const Viewport& viewport, bool preview) {
     PaintSettings settings;
     settings.background = BackgroundOf(viewport, preview);
+    settings.isView = viewport.background.has_value();
     if (!viewport.lineWeights) settings.widestPen = 1;
     return settings;
 }
