@@ -291,14 +291,12 @@ TEST_F(Saving, MarkFollowsUndoAndRedo) {
 }
 
 TEST_F(Saving, SaysWhatOtherProgramsWillNotShow) {
-    Widen(0.5);
-    Save();
+    ASSERT_TRUE(frame->Save(file.Path()));
     EXPECT_EQ(StatusText(), " Saved " + document().Name());
-    document().Change([&] { orlo::host::WriteProperty(document().Selectable()[0], kPropPenAlignment, false); });
+    Widen(0.5); // which the version of the file has no group for
     Save();
-    EXPECT_EQ(StatusText(),
-              " Saved " + document().Name() +
-                  "; PenAlignment of 1 entity is stored as extended data, which other programs do not show");
+    EXPECT_EQ(StatusText(), " Saved " + document().Name() +
+                                "; PenWidth of 1 entity is stored as extended data, which other programs do not show");
 }
 
 TEST_F(Saving, UnsavedChangesAreAskedFor) {
