@@ -29,8 +29,8 @@ void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entitie
         look.text.style ^= 0x0143;
         look.text.format = 2;
         look.text.font = "Verdana";
-        const drawcore::Matrix placement =
-            drawcore::Matrix::Scaling({2, -3, 4}) * drawcore::Matrix::Translation({1, 2, 3});
+        const dxf::AxisEnds placement =
+            dxf::AxisEndsOf(drawcore::Matrix::Scaling({2, -3, 4}) * drawcore::Matrix::Translation({1, 2, 3}));
         patch.Change(entity.offset, look, {&placement, nullptr});
     }
 }

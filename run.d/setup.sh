@@ -7,7 +7,7 @@ packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-po
           python3-ezdxf" # the last three read the files that the tests write
 
 # The viewer shows the user guide in a browser.
-case $word in
+case $command in
 demo | setup) command -v xdg-open firefox dillo >/dev/null || packages="$packages dillo" ;;
 esac
 

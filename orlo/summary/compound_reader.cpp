@@ -209,7 +209,7 @@ std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32
 std::vector<uint32_t> CompoundReader::Structure::Numbers(const std::vector<uint32_t>& sectors, const char* what) {
     const std::vector<uint8_t> bytes = Sectors(sectors, what);
     std::vector<uint32_t> numbers(bytes.size() / sizeof(uint32_t));
-    std::memcpy(numbers.data(), bytes.data(), bytes.size());
+    if (!numbers.empty()) std::memcpy(numbers.data(), bytes.data(), bytes.size());
     return numbers;
 }
 

@@ -79,6 +79,7 @@ const Row kRows[] = {
          look.text.height = 5;
          look.text.style = kTextUnderline;
          look.text.format = 2;
+         look.varied = 0;
      }},
     {"AWidthByLayerHasNoGroup", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0", [](Look& look) { look.width = kPenWidthByLayer; }},

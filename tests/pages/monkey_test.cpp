@@ -108,6 +108,8 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         MessageBoxWatcher boxes;
+        for (int page = 0; page < sheet->GetPageCount(); ++page) // their windows count from the beginning
+            ASSERT_TRUE(sheet->SetActivePage(page)) << page;
         Monkey monkey(user, *sheet);
         int gdi = 0, windows = 0;
         DrawingState before(kinds.Drawing());
