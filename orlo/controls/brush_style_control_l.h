@@ -1,9 +1,9 @@
-// CBrushStyleControlL: a list box of brush styles, each shown by a sample that the host fills; the twin of
+// CBrushStyleControlL: a list box of brush styles, each shown by a sample that the host fills; the counterpart of
 // CBrushStyleControlC.
 //
-// Brush styles are identifiers of the table's entries; kBrushStyleNone means without a brush; it is the first item, and
-// a filling never selects it. kBrushStyleIndeterminate means several. There is a single sample graphic and a single
-// viewport, whatever the number of styles.
+// Brush styles are identifiers of table entries. The first item is kBrushStyleNone, no brush; filling the control never
+// selects it. kBrushStyleIndeterminate stands for multiple values. All items are drawn with one sample graphic and one
+// viewport.
 #pragma once
 
 #include "orlo/controls/list_control.h"
@@ -27,7 +27,7 @@ protected:
     CBrushStyleControlL(HWND hWnd);
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Made with the window; a control that subclasses a window makes them when it is filled.
+    // Created with the window, or when first filled if the control subclasses an existing window.
     SampleGraphic m_pGraphic;
     SampleViewport m_pViewport;
 

@@ -1,4 +1,4 @@
-// What the combo and the list of brush styles share.
+// Shared implementation of the combo box and the list box of brush styles.
 
 #include "orlo/controls/brush_style_item.h"
 
@@ -15,8 +15,8 @@
 namespace {
 
 constexpr double kMargin = 0.01;
-constexpr double kLeastHeight = 0.01; // of a cell without one
-constexpr POINT kTextAt = {4, 1};     // at least, from the corner of the item
+constexpr double kLeastHeight = 0.01; // used for a cell of height 0
+constexpr POINT kTextAt = {4, 1};     // minimum distance from the corner of the item
 
 void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
     const RECT cell = Inflated(request.rcItem, -2);
@@ -26,7 +26,7 @@ void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look,
     ::GraphicSetBrushColor(item.graphic, ink);
     ::GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
     ::GraphicSetBrushScale(item.graphic, HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
-    ::GraphicSetDirty(item.graphic, 1); // the filling of the item before is not to be used again
+    ::GraphicSetDirty(item.graphic, 1); // the fill cached for the previous item must not be reused
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
 }
 
@@ -71,7 +71,7 @@ bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& loo
     }
     const ItemText noBrush = HostTextItem(kBrushStyleNone, kStringNoBrush);
     const char* const name = none ? noBrush.name() : item.name;
-    // In the middle, as the samples are.
+    // Centered, like the samples.
     const LONG room = request.rcItem.right - request.rcItem.left - TextWidth(request.hDC, name);
     const POINT at = {request.rcItem.left + std::max(room / 2, kTextAt.x), request.rcItem.top + kTextAt.y};
     if (*name) DrawFramedName(request, request.rcItem, at, name);

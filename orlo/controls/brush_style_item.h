@@ -1,34 +1,35 @@
-// What the combo and the list of brush styles share: the sample's shape, what is offered, how an item is drawn.
-// Internal to the library.
+// Shared implementation of the combo box and the list box of brush styles: the shape of the sample, the items offered,
+// and drawing. Internal to the library.
 #pragma once
 
 #include "orlo/controls/style_item.h"
 #include "orlo/host/strings.h"
 #include "orlo/samples/style_sample.h"
 
-constexpr unsigned int kBrushStyleSpecial = 0xFFFE; // and above: nothing to show
+constexpr unsigned int kBrushStyleSpecial = 0xFFFE; // identifiers from here on show nothing
 
-// Where combo and list differ.
+// The differences between combo box and list box.
 struct BrushStyleLook {
-    double ratio;  // width of the sample to its height of 1.0
-    bool fitsCell; // the sample is stretched to the ratio of the cell that it is drawn in
-    double lines;  // of a hatch across the sample
+    double ratio;  // sample width relative to its height of 1.0
+    bool fitsCell; // stretch the sample to the aspect ratio of its cell
+    double lines;  // number of hatch lines across the sample
 };
 constexpr BrushStyleLook kComboBrushLook = {1.0, true, 20.0 * 2.0 / 3.0};
 constexpr BrushStyleLook kListBrushLook = {4.0, false, 20.0};
 
-// A box with thin margins: two outer corners that draw nothing widen the extents by a hundredth.
+// Creates a box with thin margins: two outer corners with undrawn segments extend it by a hundredth on each side.
 SampleGraphic MakeBrushSample(const BrushStyleLook& look);
 
-// Stretches the sample to the cell's ratio of width to height.
+// Stretches the sample to the aspect ratio of the cell.
 void FitSampleToCell(GraphicStruct* graphic, const RECT& cell);
 
-// Calls add(text) for the item without a brush and then for each entry of the table, in table order.
+// Calls add(text) for the "no brush" item and then for each entry of the table, in table order.
 template <class Add>
 void ForEachBrushStyle(TableStruct* table, Add add) {
     add(HostTextItem(kBrushStyleNone, kStringNoBrush).c_str());
     ForEachTableItem(table, [&](const ItemText& text) { add(text.c_str()); });
 }
 
-// False: the style cannot be shown at all, and neither selection nor focus are to be drawn on the bare background.
+// Draws one item. Returns false if the style cannot be shown, in which case neither selection nor focus should be
+// drawn.
 bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item);

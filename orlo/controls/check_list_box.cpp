@@ -16,11 +16,11 @@
 
 namespace {
 
-constexpr int kPictureSize = 12; // pixels of the check mark's picture, and of the box at 96 dpi
-constexpr int kLeastHeight = 14; // of a row at 96 dpi, so that the box grows within it
+constexpr int kPictureSize = 12; // size in pixels of the check mark's bitmap, and of the box at 96 dpi
+constexpr int kLeastHeight = 14; // minimum row height at 96 dpi; the box grows within the row
 constexpr int kTextGap = 3;
 
-// One picture for all lists of the process.
+// Returns the check mark's bitmap, shared by all lists of the process.
 orlo::OwnedBitmap& CheckPicture() {
     static orlo::OwnedBitmap picture;
     return picture;
@@ -99,7 +99,7 @@ int CCheckListBox::InsertString(int nIndex, const char* pszItem, int bChecked) {
     return index;
 }
 
-// An item that does not exist has the data LB_ERR.
+// The data of an item that does not exist is LB_ERR.
 int CCheckListBox::IsItemChecked(int nIndex) const {
     return GetItemData(nIndex) != 0;
 }
@@ -183,20 +183,20 @@ int CCheckListBox::ItemFromPoint(CPoint point, int bPastEnd) {
     CRect client;
     GetClientRect(client);
     if (!client.PtInRect(point)) return -1;
-    const int height = static_cast<int>(SendMessage(LB_GETITEMHEIGHT)); // the host can have set another
+    const int height = static_cast<int>(SendMessage(LB_GETITEMHEIGHT)); // the host may have changed it
     const int row = point.y / std::max(height, 1) + GetTopIndex(), count = GetCount();
     if (row < count) return row;
     return bPastEnd ? count : -1;
 }
 
-// A window that is taken over has rows that the parent has measured without this object. One being created measures
-// them later, and does not know the message yet.
+// If an existing window is subclassed, its parent measured the rows before this object existed. A window that is still
+// being created ignores the message and measures its rows later.
 void CCheckListBox::PreSubclassWindow() {
     ::SendMessageA(m_hWnd, LB_SETITEMHEIGHT, 0, ItemHeight());
 }
 
-// The list box takes the space bar for the first letter of an item. A host that asks for its keys is not asked for this
-// one, which it may have toggled by itself.
+// The list box would treat the space bar as the first letter of an item. This also bypasses LBS_WANTKEYBOARDINPUT for
+// the space bar, because such a host may toggle the item itself.
 LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kCheckListKind)) return object;
@@ -216,7 +216,7 @@ void CCheckListBox::OnLButtonDown(UINT, CPoint point) {
     Default();
 }
 
-// The second of two quick clicks.
+// The second click of a double click toggles again.
 void CCheckListBox::OnLButtonDblClk(UINT nFlags, CPoint point) {
     OnLButtonDown(nFlags, point);
 }

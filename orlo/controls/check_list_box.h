@@ -1,15 +1,15 @@
 // CCheckListBox: a list box with a check box in front of each item, for host programs. A click anywhere on an item
-// toggles it, the second of two quick ones too, and so does the space bar for the current item. An unchecked box is
-// drawn sunken, as the mark's picture is, so that it can be seen on the list's background.
+// toggles it, and so does the space bar for the current item; a double click toggles twice. An unchecked box is drawn
+// sunken, like the bitmap of the check mark, so that it can be seen on the list's background.
 //
 //   CCheckListBox list;
 //   list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY, rect, this, IDC_LAYERS);
 //   list.AddString("Walls", 1);
 //   if (list.IsItemChecked(0)) ...
 //
-// A screen reader finds a check button in each item.
+// Screen readers get a check button for each item.
 //
-// The flag is the item's data, which is the class's own: 0 is unchecked, anything else checked.
+// The item data stores the check state and belongs to the class: 0 is unchecked, any other value checked.
 #pragma once
 
 #include <afxwin.h>
@@ -21,7 +21,7 @@ public:
     CCheckListBox();
     ~CCheckListBox() override;
 
-    // Index of the new item, or LB_ERR or LB_ERRSPACE.
+    // Returns the index of the new item, or LB_ERR or LB_ERRSPACE.
     int AddString(const char* pszItem, int bChecked);
     int InsertString(int nIndex, const char* pszItem, int bChecked);
 
@@ -33,14 +33,15 @@ protected:
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
 
-    // Device pixels: that of the font that a device context of the window has by default, and room for the box.
+    // Returns the height of an item in device pixels: that of the window's default font, enough for the box.
     int ItemHeight();
     int InvalidateItem(int nIndex, int bErase);
-    // The sunken box in the window's color, and the mark in it; dwColor is not used.
+    // Draws the sunken box in the window's color and the check mark in it. dwColor is not used.
     void DrawCheck(CDC* pDC, int x, int y, int cx, int cy, DWORD dwColor, int bChecked);
-    // The row at a point of the client area; -1 outside. Below the last row -1, or the count with bPastEnd.
+    // Returns the index of the row at a point of the client area, or -1 outside it. Below the last row it returns the
+    // item count if bPastEnd is set, else -1.
     int ItemFromPoint(CPoint point, int bPastEnd);
-    // Rectangle of an item's check box. 0, or -1 without such an item.
+    // Retrieves the rectangle of an item's check box. Returns 0, or -1 if the item does not exist.
     int GetCheckRect(int nIndex, CRect& rect);
 
     void PreSubclassWindow() override;

@@ -37,16 +37,16 @@ bool IsPlainColor(DWORD color) {
     return (color & 0xFF000000u) == 0;
 }
 
-// An entry of the table on its way into the list.
+// A table entry while the list is being filled.
 struct Entry {
     Entry(uint16_t entryID, DWORD color, unsigned entryPlace) : key(color), id(entryID), place(entryPlace) {}
 
     ColorKey key;
     uint16_t id;
-    unsigned place; // in the table
+    unsigned place; // position in the table
 };
 
-// Of equal colors the later entry comes first, as if each had been inserted before its equals.
+// Of equal colors the later entry comes first, as if each were inserted before its equals.
 bool ComesBefore(const Entry& a, const Entry& b) {
     const int order = CompareColorKeys(a.key, b.key);
     return order ? order < 0 : a.place > b.place;
@@ -70,7 +70,7 @@ void AppendMarker(const ControlItems& items, DWORD marker) {
     items.Add(HostTextItem(marker, HostStringOf(marker)).c_str());
 }
 
-// The name under which a color without an item, or a marker, is shown.
+// Retrieves the name shown for a marker or for a color that has no item.
 void NameWithoutItem(DWORD color, char* name) {
     name[0] = '\0';
     if (const unsigned int id = HostStringOf(color))
@@ -149,7 +149,7 @@ CString CColorControl::DescribeItem(int index) {
     return text;
 }
 
-// Names are in bold, which is up to an eighth wider.
+// Names are drawn in bold, which is up to an eighth wider.
 int CColorControl::MeasureNameWidth(HDC dc, const char* name) {
     return PlainRowWidth(dc, name) + TextWidth(dc, name) / 8;
 }
@@ -175,7 +175,7 @@ void CColorControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
                                reinterpret_cast<HFONT>(SendMessage(WM_GETFONT, 0, 0))};
     DrawSwatch(place, color, name);
     if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
-    // On the color itself the rectangle might not be seen.
+    // The focus rectangle would be hard to see on the color itself.
     if (inField && (pDIS->itemState & ODS_FOCUS)) FrameRectangle(pDIS->hDC, pDIS->rcItem, colors.background, 1);
     DrawItemFocus(*pDIS);
 }

@@ -1,17 +1,15 @@
-// CColorControl: a combo box of the host's colors in the order of color_order.h, as swatches with their
-// names.
+// CColorControl: a combo box of the host's colors, drawn as swatches with their names in the order of color_order.h.
 //
-// Its table's entries hold a COLORREF as data; m_nSelected and the items' numbers are colors, not
-// identifiers. A color that no item has is still shown in the closed field, by its numbers. These
-// values are markers:
+// The data of a table entry is a COLORREF; m_nSelected and the numbers of items are colors, not identifiers. The closed
+// field also shows a color that has no item, as its three components. These values are markers:
 //
-//   kColorNone, kColorIndeterminate  no value yet, several values: both show nothing
-//   kColorByLayer            first extra entry, by the host's text
-//   kColorOfPen              second extra entry, by the host's text
-//   kColorByBlock            shown if it occurs; no list offers it
+//   kColorNone, kColorIndeterminate  no value yet, multiple values; both show nothing
+//   kColorByLayer                    first extra entry, named by the host
+//   kColorOfPen                      second extra entry, named by the host
+//   kColorByBlock                    shown if a graphic has it; never listed
 //
-// The current row of the open list is marked by two frames, of which one can be seen on any color. A disabled field is
-// a gray name in a frame of its color.
+// Two nested frames mark the current row of the open list, so that one of them is visible on any color. A disabled
+// field shows the name in gray, with a frame in the color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -21,25 +19,25 @@ class ORLO_API CColorControl : public CComboControl {
     friend CWnd* CreateComboObject(HWND hWnd, int nID);
 
 public:
-    // bExtraEntries: the list ends with the first extra entry.
+    // bExtraEntries: nonzero ends the list with the first extra entry.
     explicit CColorControl(int bExtraEntries = 1);
     ~CColorControl() override;
 
-    // Whether the second extra entry follows the first, from the next filling on.
+    // Sets whether the second extra entry follows the first. Takes effect when the control is next filled.
     void EnableLastEntry(int bEnable);
 
-    // Index of the item of that color; -1 for kColorNone and kColorIndeterminate, or if not found.
+    // Returns the index of the item with that color, or -1 if there is none or dwColor is kColorNone or
+    // kColorIndeterminate.
     int FindColor(DWORD dwColor);
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    // Sorts the table's colors once: n items cost n log n comparisons, and each is appended.
+    // Sorts the table's colors once, in O(n log n), and appends them in that order.
     void FillControl(WPARAM wParam, LPARAM pFill) override;
-    // Inserts at its place in the order, ahead of equal colors. While FillControl runs the items come in
-    // order.
+    // Inserts the item at its place in the sort order, before equal colors. During FillControl, items arrive sorted.
     int AddControlItem(const char* pszItem) override;
 
-    // A color without an item by its numbers: "86, 52, 18".
+    // Describes a color without an item by its components: "86, 52, 18".
     CString DescribeItem(int index) override;
 
     int m_bExtraEntries;

@@ -1,4 +1,4 @@
-// RGB, HSV and the order of colors.
+// Color conversions between RGB and HSV, and the sort order of colors.
 
 #include "orlo/controls/color_order.h"
 

@@ -1,4 +1,4 @@
-// Drawing of a color as a swatch with its name.
+// Draws a color as a swatch with its name.
 
 #include "orlo/controls/color_swatch.h"
 
@@ -22,7 +22,8 @@ orlo::OwnedFont BoldVersion(HFONT font) {
     return orlo::OwnedFont(::CreateFontIndirectA(&description));
 }
 
-// White on a dark color, by the mean of its channels, where that can be read: a bright green has a low mean.
+// Returns white for a dark color, judged by the mean of its channels, unless it would be hard to read: a bright green
+// has a low mean.
 COLORREF ReadableOn(DWORD color) {
     const int mean = (GetRValue(color) + GetGValue(color) + GetBValue(color)) / 3;
     return mean < 0x80 && Contrast(kWhite, color) >= kReadableContrast ? kWhite : kBlack;
@@ -40,7 +41,7 @@ void FillWithColor(HDC dc, const RECT& rect, DWORD color) {
     ::FillRect(dc, &rect, brush.get());
 }
 
-// Bold, in the middle; a name that is too wide begins at the left if that is wanted.
+// Draws the name in bold, centered. With keepStart, a name that is too wide is aligned left instead.
 void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF color, bool keepStart) {
     const orlo::OwnedFont bold = BoldVersion(place.font);
     const orlo::SelectedObject selected(place.dc, bold.get());
@@ -56,8 +57,8 @@ void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor,
     DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
 }
 
-// A color on a background of the same color needs a frame. In a list it stays within the row: the rows around it are
-// drawn at other times.
+// A swatch in the color of the background needs a frame. In a list the frame stays within the row, because neighboring
+// rows are not redrawn with it.
 void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT frame = Inflated(place.rect, place.inField ? 1 : -1);
     FillSolid(place.dc, place.rect, color);

@@ -1,18 +1,17 @@
-// Drawing of a color as a swatch with its name, or of a marker as a framed label. Knows no control.
+// Draws a color as a swatch with its name, or a marker as a framed label. Independent of any control.
 #pragma once
 
 #include <windows.h>
 
-// Where and how.
+// Where a swatch is drawn, and in which state.
 struct SwatchPlace {
     HDC dc;
     RECT rect;           // device pixels
-    bool inField;        // the closed field of a combo, whose border the swatch covers
-    bool disabled;       // a label in a frame of its color
-    COLORREF ink, paper; // of labels, and of their background
-    HFONT font;          // written in bold; null: the font of dc
+    bool inField;        // the closed field of a combo box; the swatch covers its border
+    bool disabled;       // draw a label in a frame of the color
+    COLORREF ink, paper; // colors of labels and their background
+    HFONT font;          // drawn in bold; null to use the font of dc
 };
 
-// A color is a plain one, or a marker (high byte not 0), which shows its name in a frame, and nothing if
-// that is empty.
+// Draws a plain color, or for a marker (nonzero high byte) its name in a frame; nothing if the name is empty.
 void DrawSwatch(const SwatchPlace& place, DWORD color, const char* name);

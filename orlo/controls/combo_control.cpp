@@ -21,9 +21,9 @@ namespace {
 
 // Pixels at 96 dpi.
 constexpr int kMaxDropHeight = 320; // closed field and open list together
-constexpr int kButtonWidth = 16;    // at the right of the client area
+constexpr int kButtonWidth = 16;    // at the right edge of the client area
 
-constexpr UINT kSetMinVisible = 0x1701; // CB_SETMINVISIBLE, of common controls 6; others ignore it
+constexpr UINT kSetMinVisible = 0x1701; // CB_SETMINVISIBLE of common controls 6; ignored by older versions
 
 bool IsControlBarID(int nID) {
     return nID >= 0xE800 && nID <= 0xE8FF;
@@ -33,7 +33,7 @@ bool IsDropDownList(HWND combo) {
     return (::GetWindowLongA(combo, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
 }
 
-// What the system's combo opens its list for.
+// Returns whether the system's combo box opens its list for the message.
 bool OpensList(UINT message, WPARAM wParam) {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -53,7 +53,7 @@ bool OpensList(UINT message, WPARAM wParam) {
 class ComboKind : public AccessibleKind {
 public:
     long Role() const override { return ROLE_SYSTEM_COMBOBOX; }
-    // The text of an edit field is the system's to say.
+    // The system supplies the text of an edit field.
     std::optional<std::string> Value(HWND window) const override {
         CComboControl* const combo = ComboControlOf(window);
         if (!combo || !IsDropDownList(window)) return std::nullopt;
@@ -62,7 +62,7 @@ public:
 };
 const ComboKind kComboKind;
 
-// The window of the list that drops down, which is not a child of the combo box.
+// The drop-down list's window, which is not a child of the combo box.
 class DropList : public CWnd {
 public:
     explicit DropList(CComboControl& owner) : combo(owner) {}
@@ -153,8 +153,8 @@ BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
     return CComboBox::PreCreateWindow(cs);
 }
 
-// Called for a window being created and for one that is taken over, whose rows the parent has measured without an
-// object and whose WM_INITIALUPDATE is over.
+// Called for windows being created and for existing windows that are subclassed. The parent has already measured the
+// rows of an existing window, and its WM_INITIALUPDATE is over.
 void CComboControl::PreSubclassWindow() {
     if (std::exchange(m_beingMade, false)) return;
     m_dwStyle = GetStyle();
@@ -162,7 +162,7 @@ void CComboControl::PreSubclassWindow() {
 }
 
 void CComboControl::PostNcDestroy() {
-    m_beingMade = false; // where no window could be made
+    m_beingMade = false; // in case window creation failed
     if (m_bAutoDelete) delete this;
 }
 
@@ -173,7 +173,7 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
     }
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
-    // Here, and not at CBN_DROPDOWN, which only the parent gets.
+    // Not at CBN_DROPDOWN, which only the parent receives.
     if (OpensList(message, wParam) && !GetDroppedState()) {
         SizeDropDown();
         m_choice = GetChoice();
@@ -192,7 +192,7 @@ CComboControl::Choice CComboControl::GetChoice() const {
     return choice;
 }
 
-// The text decides in an edit field: the open list selects the item that it begins.
+// With an edit field, the text decides: the open list selects the item that begins with it.
 void CComboControl::RestoreChoice() {
     const Choice now = GetChoice(), before = m_choice;
     const bool edit = !IsDropDownList(m_hWnd);
@@ -208,7 +208,7 @@ CString CComboControl::DescribeItem(int index) {
     return index >= 0 || GetCount() <= 0 ? CString(name) : LibraryText(IDS_VARIED);
 }
 
-// The list reads its items out as they are, with their keys.
+// Without its own accessibility object, the list would expose its items with their keys.
 void CComboControl::WatchDropList() {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
@@ -229,7 +229,7 @@ void CComboControl::SizeDropDown() {
         m_nDropHeight = std::min(count, room / row) * row + frame;
     }
     SetControlHeight(m_hWnd, m_nDropHeight);
-    // Common controls 6 show 30 rows in a list of any height, if they are not told otherwise.
+    // Common controls 6 show 30 rows regardless of the list's height unless this is set.
     SendMessage(kSetMinVisible, static_cast<WPARAM>(std::max((m_nDropHeight - frame) / row, 1)));
     FitDropWidth();
 }
@@ -269,7 +269,7 @@ void CComboControl::OnDestroy() {
     Default();
 }
 
-// The edit field scrolls, whatever the template says: one that does not drops what is typed beyond its width.
+// Forces CBS_AUTOHSCROLL: an edit field without it rejects text beyond its width.
 int CComboControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
     m_dwStyle = static_cast<unsigned long>(lpCreateStruct->style);
     lpCreateStruct->style |= CBS_AUTOHSCROLL;
@@ -277,7 +277,7 @@ int CComboControl::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
     return static_cast<int>(Default());
 }
 
-// Only the button opens the list: a click on the text part goes to the parent, in the parent's coordinates.
+// Only the button opens the list. A click on the text is forwarded to the parent, in the parent's coordinates.
 void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
     RECT client = {};
     ::GetClientRect(m_hWnd, &client);

@@ -1,27 +1,25 @@
-// CComboControl: a combo box that shows the entries of a host table; base of the library's combos. It draws
-// nothing.
+// CComboControl: a combo box that shows the entries of a host table; base of the library's combo boxes. It draws
+// nothing itself.
 //
-// From a dialog template the control is made by its window class and identifier (control_classes.h) and owns
-// itself. From code the program owns it:
+// In a dialog template the control is created by its window class and identifier (control_classes.h), and the object is
+// deleted with its window. Created from code, the object belongs to the program:
 //
 //   CColorControl colors;                                        // or DDX_Control(1, pDX, IDC_COLOR, colors)
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, IDC_COLOR);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
-// The controls draw in the system's colors. A closed field shows the focus by the system's rectangle, and that it is
-// disabled by gray text on the color of the dialog.
+// The controls use the system's colors. A closed field shows the focus by the system's focus rectangle, and the
+// disabled state by gray text on the dialog's color.
 //
-// The control announces itself to the application and never asks for its table: the host sends
-// WM_INITIALUPDATE, gets the notification kControlReady with the window, and answers with kFillMessage
-// (control_fill.h) at any time.
+// The control does not request its table. On WM_INITIALUPDATE it notifies the application with kControlReady and its
+// window handle; the host can send kFillMessage (control_fill.h) then and at any later time.
 //
-// An edit field in it scrolls, with or without CBS_AUTOHSCROLL in the style. A combo box that is taken over keeps the
-// edit field that it was made with: without CBS_AUTOHSCROLL in its style that takes no more text than it has room for.
+// An edit field scrolls horizontally even without CBS_AUTOHSCROLL in the style. A subclassed combo box keeps the edit
+// field it was created with: without CBS_AUTOHSCROLL it accepts only as much text as fits.
 //
-// A screen reader gets the names of the items, never their keys. "varied" is said of a field that shows none of its
-// items.
+// Screen readers get the names of the items without their keys, and "varied" for a field that shows none of its items.
 //
-// Escape in the open list restores the choice that was made before it opened, and notifies the parent of the change.
+// Escape in the open list restores the selection from before it was opened and notifies the parent of the change.
 #pragma once
 
 #include <afxwin.h>
@@ -34,9 +32,9 @@
 #include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
-// WM_COMMAND to the top-level frame, else to the thread's main window; without either the notification is dropped. The
-// low word of wParam is the kind of the control (m_nControlID), the high word one of these, lParam the control's
-// window.
+// Codes of the WM_COMMAND that is sent to the top-level frame, else to the thread's main window; without either it is
+// not sent. The low word of wParam is the kind of the control (m_nControlID), the high word one of these codes, lParam
+// the control's window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
 
 class ItemNames;
@@ -44,53 +42,53 @@ class ItemNames;
 class ORLO_API CComboControl : public CComboBox {
     DECLARE_DYNAMIC(CComboControl)
 public:
-    // nControlID: the kind of the control, not its identifier in a dialog.
+    // nControlID: the kind of the control, not its dialog identifier.
     explicit CComboControl(unsigned int nControlID);
     ~CComboControl() override;
 
     int Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) override;
 
-    // Whether the control is in a dialog, not in a control bar; Create determines it.
+    // Sets whether the control is in a dialog rather than a control bar. Create determines it from the parent.
     void DialogCtrl(int bDialogCtrl);
     int IsDialogCtrl();
 
-    // Fits the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi with the closed field, and as wide
-    // as the widest name if the control draws names. The control does so itself before the list opens, whatever its
-    // parent.
+    // Sizes the drop-down list to the items: whole rows, up to 320 pixels at 96 dpi including the closed field, and as
+    // wide as the widest name if the control draws names. Called by the control before its list opens.
     virtual void SizeDropDown();
-    // The identifier of an item; its name goes to text, a buffer of kItemTextSize bytes. 0 and no text
-    // without such an item.
+    // Returns the identifier of an item and copies its name to text, a buffer of kItemTextSize bytes. If the item does
+    // not exist, returns 0 and empties text.
     virtual unsigned long GetControlItem(int index, char* text);
-    // lParam: const ControlFillRecord*; null counts as a record without a table.
+    // Fills the control. lParam: const ControlFillRecord*; null is treated as a record without a table.
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
-    // Adds an item with exactly that text; its index, negative on failure.
+    // Adds an item with exactly that text. Returns its index, negative on failure.
     virtual int AddControlItem(const char* text);
-    // Returns an item as a screen reader says it; with -1 what the closed field shows without a selected item. Here:
-    // its name, "varied" without one.
+    // Returns the text of an item for screen readers; with -1, that of the closed field without a selection. By default
+    // the item's name, or "varied" without an item.
     virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
-    unsigned long m_dwStyle = 0;     // window style at the creation
-    int m_nDropHeight = 0;           // with the list open, in device pixels
-    int m_bAutoDelete = 0;           // the object goes with its window
-    TableStruct* m_pTable = nullptr; // the host's
-    unsigned int m_nSelected = 0;    // identifier last given to select
+    unsigned long m_dwStyle = 0;     // window style at creation
+    int m_nDropHeight = 0;           // height with the list open, in device pixels
+    int m_bAutoDelete = 0;           // delete the object with its window
+    TableStruct* m_pTable = nullptr; // owned by the host
+    unsigned int m_nSelected = 0;    // identifier that was last to be selected
     int m_bDialogCtrl = 0;
 
-    static WNDPROC lpfnSuperWndProc; // window procedure of the system's combo box
+    static WNDPROC lpfnSuperWndProc; // the system combo box's window procedure
 
 protected:
-    // For the factory: takes a window that has no object, and deletes itself after it.
+    // For the factory: attaches to a window that has no object, and deletes itself with the window.
     CComboControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
     BOOL PreCreateWindow(CREATESTRUCTA& cs) override;
     void PreSubclassWindow() override;
     void PostNcDestroy() override;
-    // Typing ahead goes by the names of the items (type_ahead.h), and a list that opens is sized.
+    // Handles typing ahead by the names of the items (type_ahead.h) and sizes the list before it opens.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Index of the item of that identifier; -1 for kEntryNone and kEntryIndeterminate, or if not found.
+    // Returns the index of the item with that identifier, or -1 if there is none or nID is kEntryNone or
+    // kEntryIndeterminate.
     int FindItem(unsigned int nID) const {
         char key[kKeySize];
         DWord_to_Hex(nID, key);
@@ -105,25 +103,25 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
-    // Returns the width of a row with that name in device pixels; 0 (here): the field is wide enough. dc has the
-    // control's font.
+    // Returns the width in device pixels of a row with that name, or 0 (the default) if the list need not be wider than
+    // the field. The control's font is selected in dc.
     virtual int MeasureNameWidth(HDC dc, const char* name);
 
 private:
     struct Choice {
         int index = -1;
-        CString text; // of an edit field
+        CString text; // only for an edit field
     };
     void WatchDropList();
     Choice GetChoice() const;
     void RestoreChoice();
     void FitDropWidth();
 
-    bool m_beingMade = false; // the window; false too where one is taken over
+    bool m_beingMade = false; // the window; stays false if a window is subclassed
     std::unique_ptr<ItemNames> m_names;
     Choice m_choice;                  // when the list was opened
     std::unique_ptr<CWnd> m_dropList; // the window of the list
 };
 
-// The object of that window, or null if it is not of this class.
+// Returns the object of that window, or null if it is not a CComboControl.
 CComboControl* ComboControlOf(HWND window);

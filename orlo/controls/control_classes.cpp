@@ -10,8 +10,8 @@ namespace {
 
 constexpr char kComboClass[] = "QXComboBox", kListClass[] = "QXListBox";
 
-// Hands a window over to the framework with the first message that it gets. Without an object the framework
-// goes on with the procedure registered for the class: the system's.
+// Attaches a framework object to the window at its first message. Without an object, the framework continues with the
+// procedure registered for the class, which is the system's.
 LRESULT HandOver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const WNDPROC next = AfxGetAfxWndProc();
     ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(next));
@@ -57,7 +57,8 @@ int RegisterControlClasses(HINSTANCE module) {
     return combo && list;
 }
 
-// The framework keeps the original procedure of the classes: it is the system's, and another copy may need it.
+// The original procedure that the framework has stored for the classes stays: it is the system's, and another copy of
+// the library may need it.
 void UnregisterControlClasses(HINSTANCE module) {
     ::UnregisterClassA(kComboClass, module);
     ::UnregisterClassA(kListClass, module);

@@ -1,14 +1,15 @@
-// The window classes "QXComboBox" and "QXListBox", which dialog templates of every module may name.
+// The window classes "QXComboBox" and "QXListBox", which dialog templates of every module can use.
 //
-// A window of these classes turns into a control object by its control identifier when it gets its first
-// message; the object belongs to the window. With an identifier that control_factory.h does not know it is a
-// plain combo or list box.
+// When a window of these classes gets its first message, it is attached to a control object chosen by the control
+// identifier, and owns that object. With an identifier that control_factory.h does not know, it remains a plain combo
+// box or list box.
 #pragma once
 
 #include <windows.h>
 
-// Registers both classes for the module, global to the process. A global class of another module (a second copy of the
-// library) stays, and this one is the module's own: only its dialogs get it. The result is 1 if both exist, else 0.
+// Registers both classes for the module, global to the process. If another module (a second copy of the library) has
+// already registered a global class of the name, that one stays, and this module's class applies to its own dialogs
+// only. Returns 1 if both classes exist, else 0.
 int RegisterControlClasses(HINSTANCE module);
-// Before the module is unloaded; no window of the classes may be left.
+// Unregisters the classes before the module is unloaded. No window of the classes may exist.
 void UnregisterControlClasses(HINSTANCE module);

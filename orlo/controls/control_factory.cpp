@@ -1,4 +1,4 @@
-// Which object a control of a dialog template becomes.
+// Creates the object of a control in a dialog template.
 
 #include "orlo/controls/control_factory.h"
 
@@ -17,7 +17,7 @@
 
 namespace {
 
-// Called from a window procedure: no exception leaves it.
+// Called from a window procedure, so exceptions must not escape.
 template <class Make>
 CWnd* MakeFor(HWND window, Make make) {
     if (CWnd::FromHandlePermanent(window)) return nullptr;

@@ -1,13 +1,12 @@
-// Filling a control with a host table: the message and its record.
+// The message and the record that fill a control with a host table.
 //
-// The host sends the message to a control of the library at any time; the control is emptied and filled
-// again:
+// The host can send the message to a control of the library at any time. The control is emptied and filled again:
 //
 //   ControlFillRecord fill = {layers, 0, currentLayer};
 //   SendMessageA(control, kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
-// A null table empties the control. The host sends one before it closes the drawing that the table belongs
-// to, since the control keeps the table's address to draw from it.
+// A null table empties the control. The control keeps a pointer to the table for drawing, so the host must send a null
+// table before it closes the drawing that the table belongs to.
 #pragma once
 
 #include <cstddef>
@@ -19,8 +18,8 @@ constexpr UINT kFillMessage = 0x4BC; // lParam: const ControlFillRecord*
 
 #pragma pack(push, 4)
 struct ControlFillRecord {
-    TableStruct* pTable;    // null empties the control
-    UINT_PTR dwValue;       // face name (const char*) or size (bits of a float) of the font controls; else not read
+    TableStruct* pTable;    // null to empty the control
+    UINT_PTR dwValue;       // for font controls: face name (const char*) or size (bits of a float); otherwise ignored
     unsigned int nSelected; // identifier of the entry to select, or a color
 };
 #pragma pack(pop)

@@ -1,4 +1,4 @@
-// The font that all controls of the library share.
+// The font shared by all controls of the library.
 
 #include "orlo/controls/control_font.h"
 

@@ -1,10 +1,10 @@
-// The font that all controls of the library share. The module entry releases it.
+// The font shared by all controls of the library. The DLL entry function releases it.
 #pragma once
 
 #include <windows.h>
 
-// Made at the first call; null if it cannot be made, in which case the next call tries again.
+// Returns the font, creating it at the first call. Returns null if it cannot be created; the next call tries again.
 HFONT SharedControlFont();
 
-// At process detach.
+// Releases the font at process detach.
 void ReleaseSharedFont();

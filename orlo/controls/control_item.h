@@ -1,5 +1,5 @@
-// The text of an item of a table-driven control: eight upper-case hexadecimal digits of an identifier (or a
-// color), a tab, the name. Only the name is ever drawn.
+// The text of an item of a table-driven control: eight uppercase hexadecimal digits (an identifier or a color), a tab,
+// and the name. Only the name is drawn.
 //
 //   char text[kItemTextSize] = "000000FF\tRed";
 //   ParseControlItem(text) == 255, and text is "Red"
@@ -13,34 +13,35 @@
 #include "orlo/host/table.h"
 
 constexpr int kKeySize = 9;          // eight digits and the tab, or the NUL
-constexpr int kEntryNameSize = 0x80; // names longer than this are cut by the host
-constexpr int kItemTextSize = 0x90;  // the longest item text with its NUL
+constexpr int kEntryNameSize = 0x80; // the host truncates longer names
+constexpr int kItemTextSize = 0x90;  // longest item text including the NUL
 
-// Splits an item text in place: the number is the result, the name is left in the buffer. A text without
-// a tab gives 0 and stays as it is.
+// Splits an item text in place: returns the number and leaves the name in the buffer. Returns 0 and changes nothing if
+// the text has no tab.
 ORLO_API unsigned long ParseControlItem(char* item);
 
-// Identifier of the entry of that name in the table of the control in that window; 0 if the window has no
-// CComboControl, the control no table, or the table no such name.
+// Returns the identifier of the named entry in the table of a control, or 0 if the window has no CComboControl, the
+// control has no table, or the table has no such entry.
 ORLO_API unsigned long LookupControlItem(HWND hWnd, const char* name);
 
-// Numbers that are not the identifier of an entry: none, and several.
+// Numbers that are not identifiers of entries: no entry, and multiple entries.
 enum : unsigned int { kEntryNone = 0, kEntryIndeterminate = 0xFFFF };
 
-// Identifiers that can belong to an entry. From kEntryIndeterminate on they are indeterminate, or exceed 16 bits.
+// Returns whether the identifier can belong to an entry. Values from kEntryIndeterminate on are indeterminate or exceed
+// 16 bits.
 constexpr bool IsTableIdentifier(unsigned int id) {
     return id != kEntryNone && id < kEntryIndeterminate;
 }
 
-// Identifiers that can be neither found nor shown.
+// Returns whether the identifier can be neither found nor shown.
 constexpr bool IsNoEntry(unsigned int id) {
     return id == kEntryNone || id == kEntryIndeterminate;
 }
 
-// An item text under construction.
+// Builds an item text.
 class ItemText {
 public:
-    // Digits and tab of that number; the name is still empty.
+    // Starts with the digits and the tab of that number and an empty name.
     explicit ItemText(DWORD number);
 
     char* name() { return text_ + kKeySize; }
@@ -51,7 +52,7 @@ private:
     char text_[kItemTextSize];
 };
 
-// Calls add(ItemText&) for each entry of the table that has a name, in table order.
+// Calls add(ItemText&) for each named entry of the table, in table order.
 template <class Add>
 void ForEachTableItem(TableStruct* table, Add add) {
     int cookie = 0;

@@ -1,4 +1,4 @@
-// The items of a combo box or a list box under one set of names, so that what treats both alike is written once.
+// Gives the items of combo boxes and list boxes one interface, so that code for both is written once.
 //
 //   ControlItems items = ControlItems::OfCombo(hWnd);
 //   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection
@@ -18,15 +18,15 @@ public:
     void Select(int index) const;
     void Clear() const;
 
-    // Index of the new item, negative on failure. Insert at -1 appends, whatever the control's sort style.
+    // Returns the index of the new item, negative on failure. Insert at -1 appends, even if the control sorts.
     int Add(const char* text) const;
     int Insert(int index, const char* text) const;
 
-    // Without regard to case; -1 if not found.
+    // Returns the index of the item with that text, ignoring case, or -1.
     int FindExact(const char* text) const;
     int FindPrefix(const char* prefix) const;
-    // The item with exactly that text, without regard to case. A text that is not in the list is added first, with
-    // add(text) if given.
+    // Returns the index of the item with that text, ignoring case. If there is none, adds it first, with add(text) if
+    // given.
     int FindOrAdd(const char* text) const {
         return FindOrAdd(text, [this](const char* item) { Add(item); });
     }
@@ -37,22 +37,22 @@ public:
         add(text);
         return FindExact(text);
     }
-    // Selects the first item after `from` (-1: of all) with that prefix, wrapping around; false, with nothing changed,
-    // if there isn't one.
+    // Selects the next item after `from` (-1: from the start) with that prefix, wrapping around. Returns false,
+    // changing nothing, if there is none.
     bool SelectPrefix(int from, const char* prefix) const;
 
-    // Whether the message adds or removes items.
+    // Returns whether the message adds or removes items.
     bool IsChange(UINT message) const;
-    // Whether the message selects one.
+    // Returns whether the message selects an item.
     bool IsSelection(UINT message) const;
 
-    // Height of a row in device pixels; -1 is the closed field of a combo. Where all rows are alike, any row sets them
-    // all.
+    // Sets the height of a row in device pixels; -1 is the closed field of a combo box. If all rows have the same
+    // height, any index sets them all.
     void SetRowHeight(int index, int height) const;
 
-    // The item's text; false, with text emptied, without such an item.
+    // Retrieves the item's text. Returns false, with the text emptied, if the item does not exist.
     bool GetText(int index, CString& text) const;
-    // The same into a buffer; what does not fit is cut off.
+    // Does the same with a buffer, truncating longer texts.
     bool GetText(int index, char* buffer, int size) const;
 
 private:

@@ -1,4 +1,4 @@
-// The table that each kind of control (orlo/host/words.h) shows.
+// Maps each kind of control (orlo/host/words.h) to the table that it shows.
 #pragma once
 
 #include "orlo/host/words.h"

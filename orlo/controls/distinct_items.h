@@ -1,4 +1,4 @@
-// Fills a control with texts that may occur more than once, and shows each once. Internal to the library.
+// Fills a control with texts that may repeat, adding each only once. Internal to the library.
 #pragma once
 
 #include <afxwin.h>
@@ -7,19 +7,19 @@
 
 #include "orlo/controls/control_items.h"
 
-// n texts cost n log n comparisons: the control is not searched for each.
+// Adding n texts takes O(n log n) comparisons, because the control itself is not searched.
 class DistinctItems {
 public:
-    // The control is empty.
+    // The control must be empty.
     explicit DistinctItems(const ControlItems& items) : items_(items) {}
 
-    // Adds the text unless it has been added before, in any case.
+    // Adds the text unless it was added before, ignoring case.
     void Add(const char* text) {
         if (added_.insert(text).second) items_.Add(text);
     }
 
 private:
-    // As the control itself finds a text.
+    // Compares as the control does when it finds a text.
     struct ComesBefore {
         bool operator()(const CString& a, const CString& b) const { return ::lstrcmpiA(a, b) < 0; }
     };

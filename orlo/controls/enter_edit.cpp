@@ -1,4 +1,4 @@
-// CEnterEdit: the edit field of a combo of the library.
+// CEnterEdit: the edit field of a combo box of the library.
 
 #include "orlo/controls/enter_edit.h"
 

@@ -1,7 +1,7 @@
-// CEnterEdit: the edit field of a combo of the library, which notifies the application when Return is pressed.
+// CEnterEdit: the edit field of a combo box of the library. Notifies the application when Return is pressed.
 //
-// The thread's main window gets WM_COMMAND as if an item had been chosen, CBN_SELENDOK with the kind of the combo (its
-// m_nControlID) and the combo's window, and then the focus.
+// The thread's main window gets WM_COMMAND as if an item had been selected: CBN_SELENDOK with the kind of the combo box
+// (its m_nControlID) and its window. Then the main window gets the focus.
 #pragma once
 
 #include <afxwin.h>
@@ -18,7 +18,7 @@ protected:
     WNDPROC* GetSuperWndProcAddr() override;
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
 
-    static WNDPROC lpfnSuperWndProc; // window procedure of the system's edit control
+    static WNDPROC lpfnSuperWndProc; // the system edit control's window procedure
 
     DECLARE_MESSAGE_MAP()
 };

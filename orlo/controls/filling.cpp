@@ -1,4 +1,4 @@
-// The scope of one filling of a control.
+// A scope in which a control is filled.
 
 #include "orlo/controls/filling.h"
 
@@ -8,10 +8,10 @@
 
 namespace {
 
-// Innermost filling. Controls live on one thread, and a filling of one control may set off that of another.
+// The innermost scope. Controls live on one thread, and filling one control may cause another to be filled.
 Filling* g_current = nullptr;
 
-// A font larger than that of the device context, as a high resolution brings, has rows that it fits in.
+// Rows must fit the control's own font, which at high resolutions is larger than the device context's.
 int MeasureRow(HWND window) {
     return std::max(GetOwnerDrawFixedTextHeight(window), ControlFontHeight(window));
 }
@@ -26,7 +26,7 @@ Filling::Filling(HWND window, Items items) : window_(window), items_(items), out
 Filling::~Filling() {
     g_current = outer_;
     ::SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
-    if (window_) ::InvalidateRect(window_, nullptr, TRUE); // null would mean every window
+    if (window_) ::InvalidateRect(window_, nullptr, TRUE); // a null window would invalidate all windows
 }
 
 Filling* Filling::Of(HWND window) {

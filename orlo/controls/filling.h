@@ -1,9 +1,9 @@
-// The scope of one filling of a control. Internal to the library.
+// A scope in which a control is filled. Internal to the library.
 #pragma once
 
 #include <windows.h>
 
-// One filling of a control: it does not redraw until the end, and measures its rows once.
+// Suppresses redrawing while a control is filled, and measures its rows only once.
 class Filling {
 public:
     enum class Items { AsTheyCome, InFinalOrder };
@@ -13,7 +13,7 @@ public:
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
 
-    // The filling of that window that is in progress, or null.
+    // Returns the active scope of that window, or null.
     static Filling* Of(HWND window);
 
     bool ItemsInFinalOrder() const { return items_ == Items::InFinalOrder; }
@@ -26,6 +26,6 @@ private:
     Filling* outer_;
 };
 
-// Height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font if that is
-// larger; determined once per filling. A list of variable row height asks for it with every item that is added.
+// Returns the height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font
+// if it is larger. Measured once per scope, because a list with variable row heights asks for every added item.
 int RowTextHeight(HWND window);

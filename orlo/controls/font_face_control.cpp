@@ -1,4 +1,4 @@
-// CFontFaceControl: a combo box of the TrueType faces of the system.
+// CFontFaceControl: a combo box of the system's TrueType faces.
 
 #include "orlo/controls/font_face_control.h"
 
@@ -25,7 +25,7 @@ CFontFaceControl::~CFontFaceControl() = default;
 
 void CFontFaceControl::FillControl(WPARAM, LPARAM lParam) {
     const Filling filling(m_hWnd);
-    BeginFill(*this, lParam); // faces are the system's: they are listed without a table as well
+    BeginFill(*this, lParam); // the faces come from the system, so they are listed even without a table
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(this));
 
     const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
@@ -47,7 +47,7 @@ int CFontFaceControl::MeasureNameWidth(HDC dc, const char* name) {
 void CFontFaceControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const PlainItem item = RequestedItem(*this, *pDIS);
     if (IsNoItem(*pDIS) && !item.IsNothing()) return;
-    // A closed field is drawn again over what it shows.
+    // A closed field is redrawn even if its name is empty, to erase what it showed before.
     if (*item.text || IsClosedField(*pDIS)) DrawPlainRow(*pDIS, item.text, ColorsOf(*pDIS));
     DrawItemFocus(*pDIS);
 }

@@ -1,7 +1,7 @@
-// CFontFaceControl: a combo box of the TrueType faces of the system, as plain names.
+// CFontFaceControl: a combo box of the system's TrueType faces, shown as plain names.
 //
 // The host fills it with the face to select in dwValue (const char*) and any nSelected but kEntryNone and
-// kEntryIndeterminate; a face that the system does not have is added to the list.
+// kEntryIndeterminate. A face that the system does not have is added to the list.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

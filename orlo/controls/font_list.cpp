@@ -1,4 +1,4 @@
-// The lists of fonts that the Text page offers.
+// The lists of fonts on the Text page.
 
 #include "orlo/controls/font_list.h"
 
@@ -24,7 +24,7 @@ class SizeList {
 public:
     SizeList(CFontSizeControl& control, DistinctItems& items) : control_(control), items_(items) {}
 
-    // The configured sizes are lengths on paper. In the world the same number of drawing units is offered.
+    // Configured sizes are lengths on paper. In world coordinates the same numbers of drawing units are offered.
     void AddConfigured() const {
         DrawingStruct* const drawing = control_.m_pDrawing;
         if (!drawing) return;

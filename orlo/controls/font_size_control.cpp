@@ -1,4 +1,4 @@
-// CFontSizeControl: a combo box in which a font height is typed or chosen.
+// CFontSizeControl: a combo box to type or select a font height.
 
 #include "orlo/controls/font_size_control.h"
 
@@ -18,7 +18,7 @@
 namespace {
 
 constexpr unsigned int kKind = kControlFontSizes;
-constexpr int kEditField = 1001; // the system's identifier of a combo's edit field
+constexpr int kEditField = 1001; // the system's identifier of a combo box's edit field
 
 float FloatOf(UINT_PTR bits) {
     const auto low = static_cast<uint32_t>(bits);
@@ -53,7 +53,7 @@ void CFontSizeControl::WatchEditField() {
 }
 
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
-    WatchEditField(); // a control that subclasses a window was not there at its creation
+    WatchEditField(); // a subclassed window was created without this object
     const Filling filling(m_hWnd);
     m_pDrawing = nullptr; // the host may be about to close it
     if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
@@ -67,7 +67,7 @@ void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
         Show(size);
 }
 
-// Drawing, font and coordinate space of the table. False without sizes to list.
+// Reads drawing, font and coordinate space from the table. Returns false if there are no sizes to list.
 bool CFontSizeControl::TakeDrawing() {
     m_pDrawing = ::TableGetOwner(m_pTable);
     if (!m_pDrawing) return false;
@@ -79,7 +79,8 @@ bool CFontSizeControl::TakeDrawing() {
     return true;
 }
 
-// A closed combo shows the height without selecting it, ready to be typed over. A height that has no text is not shown.
+// A closed combo box shows the height with its text selected, ready to be overwritten. A height that has no text is not
+// shown.
 void CFontSizeControl::Show(double size) {
     CString text;
     FontSizeText(size, text);

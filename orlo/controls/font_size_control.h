@@ -1,8 +1,8 @@
-// CFontSizeControl: a combo box in which a font height is typed or chosen, as a length of the drawing.
+// CFontSizeControl: a combo box to type or select a font height, as a length of the drawing.
 //
 // The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but
-// kEntryNone and kEntryIndeterminate. The heights are those of the drawing's current font (kUnitFontName of its units
-// table); a height that is not in the list is added. Return in the edit field counts as choosing an item: see
+// kEntryNone and kEntryIndeterminate. The list contains the heights of the drawing's current font (kUnitFontName in its
+// units table); a height that is missing is added. Return in the edit field is reported as selecting an item; see
 // enter_edit.h.
 #pragma once
 
@@ -17,11 +17,12 @@ public:
     CFontSizeControl();
     ~CFontSizeControl() override;
 
-    // The text as a height in the drawing's coordinate space; a text that cannot be read leaves the value alone.
+    // Converts the text to a height in the drawing's coordinate space. Leaves the value unchanged if the text cannot be
+    // converted.
     void ReConvertFontSize(const char* text, double& value);
 
-    // Texts in the drawing's units, empty if they cannot be written: of a height, and of a raster font by its height in
-    // points.
+    // Format a height, or the height in points of a raster font, in the drawing's units. The text is empty if it cannot
+    // be converted.
     void FontSizeText(double value, CString& text);
     void RasterSizeText(const TEXTMETRICA& metrics, CString& text);
 
@@ -29,9 +30,9 @@ public:
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
     void FillControl(WPARAM wParam, LPARAM lParam) override;
 
-    DrawingStruct* m_pDrawing = nullptr; // the host's; null without a table
+    DrawingStruct* m_pDrawing = nullptr; // owned by the host; null without a table
     int m_nCoordSpace = 0;               // of the drawing
-    int m_nLogicalInch = 72;             // points of an inch, for raster fonts
+    int m_nLogicalInch = 72;             // points per inch, for raster fonts
     CString m_strFontName;               // the face whose sizes are listed
     CEnterEdit m_editSize;               // the edit field
 

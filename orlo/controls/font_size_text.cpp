@@ -1,4 +1,4 @@
-// Font heights as text in the units of a drawing.
+// Converts font heights to and from text in the units of a drawing.
 
 #include "orlo/controls/font_size_text.h"
 

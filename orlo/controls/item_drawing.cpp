@@ -1,4 +1,4 @@
-// What the owner-drawn controls of the library share when they draw an item.
+// Drawing shared by the library's owner-drawn controls.
 
 #include "orlo/controls/item_drawing.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// Distance of a line of text from the top of the row that it is in the middle of; the least one in a low row.
+// Returns the distance from the top of the row at which a line of text is vertically centered, at least `least`.
 int MiddleOffset(HDC dc, const RECT& row, LONG least) {
     return std::max((row.bottom - row.top - TextHeight(dc)) / 2, least);
 }

@@ -1,56 +1,57 @@
-// What the owner-drawn controls of the library share when they draw an item. Internal.
+// Drawing shared by the library's owner-drawn controls. Internal to the library.
 #pragma once
 
 #include <windows.h>
 
-constexpr int kHostTextSize = 0x7F; // host texts longer than this are cut
+constexpr int kHostTextSize = 0x7F; // longer texts of the host are truncated
 
-// The request is for a control without a selected item.
+// Returns whether the request is for a control without a selected item.
 inline bool IsNoItem(const DRAWITEMSTRUCT& item) {
     return item.itemID == static_cast<UINT>(-1);
 }
 
-// The rows of a list start at 0, so that only the closed field of a combo has a left edge above it.
+// Rows of a list start at x = 0, so only the closed field of a combo box has a greater left edge.
 inline bool IsClosedField(const DRAWITEMSTRUCT& item) {
     return item.rcItem.left > 0;
 }
 
-// Colors of a row, selected or not, or of a disabled one, whose field is of the color of the dialog.
+// The colors of a row: selected, normal, or disabled, which has the dialog's background color.
 struct RowColors {
     COLORREF text, background;
 };
 RowColors ColorsOf(const DRAWITEMSTRUCT& item);
 
-// The same for what shows the selection in another way, and is drawn in black where that can be read.
+// Returns the colors for a control that marks the selection by a frame: black where it is readable.
 RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 
-// What a request asks a control of style samples to draw. A change of the selection draws the whole item: the frame
-// that goes would leave its marks in the sample or the name below it.
+// The part that a request asks a control of style samples to draw. A selection change redraws the whole item, because
+// the old selection frame overlaps the sample or name.
 enum class ItemPart { Nothing, Whole, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);
 
-// The frame of the selected item. Its far corner exceeds the usual one by that much (device pixels), within the item.
+// Draws the frame of the selected item. `beyond` moves its far corner outward (device pixels), within the item.
 void DrawSelectionFrame(const DRAWITEMSTRUCT& item, SIZE beyond = {0, 0});
 
-// Marks the current row of a list whose rows have any color: two frames of which one can be seen on each.
+// Marks the current row of a list whose rows have arbitrary colors, with two nested frames of which one is always
+// visible.
 void MarkCurrentRow(const DRAWITEMSTRUCT& item);
 
-// The focus rectangle, in a list and in a closed field.
+// Draws the focus rectangle in a list or a closed field.
 void DrawItemFocus(const DRAWITEMSTRUCT& item);
 
-// The item's background, the border of a closed field included.
+// Erases the item's background, including the border of a closed field.
 void ClearItem(const DRAWITEMSTRUCT& item);
 
-// A row of plain text, at that distance from the item's corner, or lower if it is in the middle of the item there.
+// A row of plain text starts at this distance from the item's corner, or lower if the row is higher than the text.
 constexpr POINT kPlainTextAt = {4, 1};
 int PlainRowWidth(HDC dc, const char* text);
 void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors);
 
-// A name in a frame, the text at that point, or lower if it is in the middle of the item there.
+// Draws a name in a frame, starting at `at`, or lower if the item is higher than the text.
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name);
 
-// Draws what a request asks of a control of style samples. drawStyle draws the whole item but selection and
-// focus, and returns false if these cannot be drawn on it.
+// Draws the requested part of a style sample. drawStyle draws the item without selection and focus, and returns false
+// if neither should be drawn.
 template <class DrawStyle>
 void DrawRequest(const DRAWITEMSTRUCT& item, SIZE beyond, DrawStyle drawStyle) {
     switch (RequestedPart(item)) {
@@ -67,8 +68,8 @@ void DrawRequest(const DRAWITEMSTRUCT& item, SIZE beyond, DrawStyle drawStyle) {
     }
 }
 
-// The identifier that a request is about; its name goes to a buffer of kItemTextSize bytes and is empty
-// without an item.
+// Returns the identifier that a request refers to and copies its name to a buffer of kItemTextSize bytes, emptied if
+// there is no item.
 template <class Control>
 unsigned int RequestedStyle(Control& control, const DRAWITEMSTRUCT& item, char* name) {
     name[0] = '\0';

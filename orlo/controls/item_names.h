@@ -6,12 +6,11 @@
 
 #include "orlo/controls/control_items.h"
 
-// Keeps the names that have been read until the items change: reading thousands of them takes longer than a user types
-// a letter.
+// Caches the names until the items change: reading thousands of them takes longer than the time between two keystrokes.
 class ItemNames {
 public:
     const std::vector<std::string>& Of(const ControlItems& items);
-    // To be called with each message that the control gets, before the control handles it.
+    // Must be called with each message of the control before the control handles it.
     void Watch(const ControlItems& items, UINT message);
 
 private:

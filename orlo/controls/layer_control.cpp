@@ -19,28 +19,28 @@ namespace {
 constexpr unsigned int kKind = kControlLayers;
 
 constexpr int kLeastPicture = 16;
-constexpr int kGap = 3;  // before a chip and before the name, pixels at 96 dpi
-constexpr int kChip = 9; // side of the square in the color of a layer whose name has another one
+constexpr int kGap = 3;  // before a chip and before the name, in pixels at 96 dpi
+constexpr int kChip = 9; // side of the square that shows a layer's color if the name is not drawn in it
 
-// Width of an icon's column: half the system's icon size, 16 pixels at 96 dpi.
+// Returns the width of an icon column: half the system's icon size, 16 pixels at 96 dpi.
 int ColumnWidth() {
     return ::GetSystemMetrics(SM_CXICON) / 2;
 }
 
-// The picture fills the top left quarter of the icon. In a field that is lower than a row it is made smaller.
+// Draws the icon, whose image fills its top left quarter, scaled down if the field is lower than a row.
 void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
     const int size = std::max(std::min(ColumnWidth(), static_cast<int>(row.bottom - row.top)), kLeastPicture);
     const int top = (row.top + row.bottom - size) / 2;
     ::DrawIconEx(dc, x, top, icon, 2 * size, 2 * size, 0, nullptr, DI_NORMAL);
 }
 
-// Whether a name in the color can be read on the window's color.
+// Returns whether a name in this color is readable on the window's color.
 bool IsReadable(HDC dc, COLORREF color) {
     const COLORREF window = ::GetNearestColor(dc, ::GetSysColor(COLOR_WINDOW));
     return Contrast(::GetNearestColor(dc, color), window) >= kReadableContrast;
 }
 
-// In the middle of the row; returns the width.
+// Draws a vertically centered square and returns its width.
 int DrawChip(HDC dc, int x, const RECT& row, COLORREF color, COLORREF frame) {
     const int size = ScreenPixels(kChip), top = (row.top + row.bottom - size) / 2;
     const RECT chip = {x, top, x + size, top + size};

@@ -1,6 +1,5 @@
-// CLayerControl: a combo box of layers, each with an eye if it is visible, a book if it is read-only, and its name in
-// its color. A name that could not be read in that color has the color of the window's text, after a square in the
-// layer's color.
+// CLayerControl: a combo box of layers. An eye marks visible layers and a book read-only ones. A name is drawn in its
+// layer's color, or, if that would be unreadable, in the color of window text after a square in the layer's color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -15,7 +14,7 @@ public:
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    // With the states that the icons show, in words: "Walls, hidden, locked".
+    // Includes the states that the icons show: "Walls, hidden, locked".
     CString DescribeItem(int index) override;
 
 protected:
@@ -23,8 +22,8 @@ protected:
     int MeasureNameWidth(HDC dc, const char* name) override;
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Shared icons, which the system keeps. Loaded with the window; a control that subclasses a window loads them when
-    // it draws.
+    // Shared icons, owned by the system. Loaded with the window, or when first drawn if the control subclasses a
+    // window.
     HICON m_hIconReadOnly = nullptr;
     HICON m_hIconVisible = nullptr;
 

@@ -1,8 +1,8 @@
-// CLineStyleControlC: a combo box of line styles, each shown by a sample that the host draws. Its twin is
-// CLineStyleControlL; both show the same table, the list with a margin around the sample.
+// CLineStyleControlC: a combo box of line styles, each shown by a sample that the host draws. Its counterpart
+// CLineStyleControlL shows the same table with a margin around the samples.
 //
-// Line styles are identifiers of the table's entries; kLineStyleNone and kLineStyleIndeterminate show nothing,
-// kLineStyleByLayer is the default item after them.
+// Line styles are identifiers of table entries. kLineStyleNone and kLineStyleIndeterminate show nothing; the default
+// item, kLineStyleByLayer, follows the entries.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -26,7 +26,7 @@ protected:
     CLineStyleControlC(HWND hWnd, int bAddDefaultItem);
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Made with the window; a control that subclasses a window makes them when it is filled.
+    // Created with the window, or when first filled if the control subclasses an existing window.
     SampleGraphic m_pGraphic;
     SampleViewport m_pViewport;
     int m_bAddDefaultItem;

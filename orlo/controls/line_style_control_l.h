@@ -1,5 +1,5 @@
-// CLineStyleControlL: a list box of line styles, each shown by a sample that the host draws; the twin of
-// CLineStyleControlC. The default item is always the last.
+// CLineStyleControlL: a list box of line styles, each shown by a sample that the host draws; the counterpart of
+// CLineStyleControlC. The default item is always last.
 #pragma once
 
 #include "orlo/controls/list_control.h"
@@ -23,7 +23,7 @@ protected:
     CLineStyleControlL(HWND hWnd);
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Made with the window; a control that subclasses a window makes them when it is filled.
+    // Created with the window, or when first filled if the control subclasses an existing window.
     SampleGraphic m_pGraphic;
     SampleViewport m_pViewport;
 

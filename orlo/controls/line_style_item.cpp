@@ -1,4 +1,4 @@
-// What the combo and the list of line styles share.
+// Shared implementation of the combo box and the list box of line styles.
 
 #include "orlo/controls/line_style_item.h"
 
@@ -17,11 +17,11 @@
 
 namespace {
 
-constexpr double kGapsAcross = 15.0;      // gaps of a style that would fit across the sample
-constexpr double kLengthWithoutGap = 2.5; // instead of fifteen gaps, for a style without a gap
+constexpr double kGapsAcross = 15.0;      // number of the style's first gaps that span the sample
+constexpr double kLengthWithoutGap = 2.5; // length used for a style without gaps
 constexpr double kNoLength = 1e-7;
 
-// A control of any width has a sample that is not a point.
+// Returns at least 1, so that no sample degenerates to a point, however narrow the control.
 double SampleUnits(int controlWidth, int factor, int reference) {
     return std::max(controlWidth * factor / reference, 1);
 }
@@ -31,9 +31,9 @@ SampleGraphic InWorldScale(SampleGraphic graphic) {
     return graphic;
 }
 
-// Fifteen times the first gap of the dash list.
+// Returns kGapsAcross times the first gap of the dash list.
 double PatternLength(TableStruct* table, uint16_t style, int items) {
-    double pattern[64]; // a longer list is scaled as one without a gap
+    double pattern[64]; // a style with a longer list is scaled as if it had no gaps
     if (items > static_cast<int>(std::size(pattern))) return kLengthWithoutGap;
     std::fill(std::begin(pattern), std::end(pattern), 0.0);
     ::LineStyleGetPattern(table, style, pattern);
@@ -66,7 +66,7 @@ SampleGraphic MakeComboLineSample(int controlWidth) {
     return InWorldScale(NewSample({{0.01 * w, 0.5, 0, false}, {0.99 * w, 0.5, 0, true}}));
 }
 
-// The outer vertices draw nothing; they widen the extents.
+// The outer vertices have undrawn segments that extend the sample.
 SampleGraphic MakeListLineSample(int controlWidth) {
     const double w = SampleUnits(controlWidth, 6, 136);
     return InWorldScale(

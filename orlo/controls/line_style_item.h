@@ -1,20 +1,20 @@
-// What the combo and the list of line styles share: the sample's shape, which styles are offered, how an item
-// is drawn. Internal to the library.
+// Shared implementation of the combo box and the list box of line styles: the shape of the sample, the styles offered,
+// and drawing. Internal to the library.
 #pragma once
 
 #include "orlo/controls/style_item.h"
 #include "orlo/host/strings.h"
 #include "orlo/samples/style_sample.h"
 
-// Styles that are for construction only are never offered.
+// Returns whether a style is offered. Construction styles are not.
 bool IsListedStyle(const char* name);
 
-// A sample for a control of that width (device pixels). The list's has a margin and a height of 1.0.
+// Create a sample for a control of that width in device pixels. The list's sample has a margin and a height of 1.0.
 SampleGraphic MakeComboLineSample(int controlWidth);
 SampleGraphic MakeListLineSample(int controlWidth);
 
-// Calls add(text) for each style that is offered, in table order, and then for the default item, which is "by layer",
-// if that is wanted. No list offers "by block".
+// Calls add(text) for each offered style, in table order, and then, if requested, for the default item "by layer". "By
+// block" is never offered.
 template <class Add>
 void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     ForEachTableItem(table, [&](ItemText& text) {
@@ -23,17 +23,18 @@ void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
     if (withDefault) add(HostTextItem(kLineStyleByLayer, kStringByLayer).c_str());
 }
 
-// Where a name is drawn: the combo frames the whole item, the list the cell inside.
+// Where a name is drawn: the combo box frames the whole item, the list box the cell inside it.
 struct LineStyleLook {
     bool framesCell;
-    POINT textAt; // from the corner of the item
+    POINT textAt; // offset from the corner of the item
 };
 constexpr LineStyleLook kComboLineLook = {false, {4, 1}};
 constexpr LineStyleLook kListLineLook = {true, {6, 4}};
 
-// False: the style cannot be shown at all, and neither selection nor focus are to be drawn on the bare
-// background.
+// Draws one item. Returns false if the style cannot be shown, in which case neither selection nor focus should be
+// drawn.
 bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item);
 
-// Dash scale at which the first gap of the style is a fifteenth of the sample's width. 1.0 for a solid style.
+// Returns the dash scale at which the first gap of the style is a fifteenth of the sample's width, or 1.0 for a solid
+// style.
 double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidth);

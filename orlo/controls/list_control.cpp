@@ -34,7 +34,7 @@ private:
 };
 const ListKind kListKind;
 
-// As the system notifies of a selection by the keyboard.
+// Sends the notification that the system sends for a selection by keyboard.
 void NotifySelection(HWND list, int index) {
     NotifyValueChange(list);
     if (index < 0) return;
@@ -79,8 +79,8 @@ BOOL CListControl::PreCreateWindow(CREATESTRUCT& cs) {
     return CListBox::PreCreateWindow(cs);
 }
 
-// Called for a window being created and for one that is taken over, whose rows the parent has measured without an
-// object and whose WM_INITIALUPDATE is over.
+// Called for windows being created and for existing windows that are subclassed. The parent has already measured the
+// rows of an existing window, and its WM_INITIALUPDATE is over.
 void CListControl::PreSubclassWindow() {
     if (std::exchange(m_beingMade, false)) return;
     m_dwStyle = GetStyle();
@@ -88,7 +88,7 @@ void CListControl::PreSubclassWindow() {
 }
 
 void CListControl::PostNcDestroy() {
-    m_beingMade = false; // where no window could be made
+    m_beingMade = false; // in case window creation failed
     if (m_bAutoDelete) delete this;
 }
 
@@ -140,7 +140,7 @@ LRESULT CListControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
-// Without a part of a row at the bottom.
+// Returns the height reduced to whole rows.
 static int HeightOfWholeRows(HWND list, int height, int row) {
     RECT client = {};
     ::GetClientRect(list, &client);
@@ -148,8 +148,8 @@ static int HeightOfWholeRows(HWND list, int height, int row) {
     return frame + std::max((height - frame) / std::max(row, 1), 1) * row;
 }
 
-// Rows grow with the resolution, and the list with them as far as the template, whose font may not grow as much, has
-// made room for it.
+// Rows grow with the resolution. The list may grow with them only within the size that the template reserves, since the
+// dialog font may grow less.
 static int HeightInRoom(HWND list, int at96) {
     return std::clamp(static_cast<int>(WindowSize(list).cy), at96, std::max(at96, ScreenPixels(at96)));
 }

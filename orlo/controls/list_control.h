@@ -1,5 +1,5 @@
-// CListControl: a list box that shows the entries of a host table; base of the library's lists, and the twin
-// of CComboControl, whose header describes how both are created and get their table. It draws nothing.
+// CListControl: a list box that shows the entries of a host table; base of the library's list boxes. Creation and
+// filling are described at its counterpart, CComboControl. It draws nothing itself.
 #pragma once
 
 #include <afxwin.h>
@@ -17,30 +17,30 @@ class ItemNames;
 class ORLO_API CListControl : public CListBox {
     DECLARE_DYNAMIC(CListControl)
 public:
-    // nControlID: the kind of the control, not its identifier in a dialog.
+    // nControlID: the kind of the control, not its dialog identifier.
     explicit CListControl(unsigned int nControlID);
     ~CListControl() override;
 
     int Create(unsigned long dwStyle, const RECT& rect, CWnd* pParent, unsigned int nID) override;
 
-    // As in CComboControl.
+    // Same as CComboControl::GetControlItem.
     virtual unsigned long GetControlItem(int index, char* text);
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
     virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;
-    // Given to the window at WM_INITIALUPDATE less what shows a part of a row, in pixels at 96 dpi; at a higher
-    // resolution it is the template's room, between these pixels and the same size scaled.
+    // Height in pixels at 96 dpi, reduced to whole rows at WM_INITIALUPDATE. At higher resolutions the height is that
+    // of the template, at least this value and at most this value scaled.
     int m_nHeight = 320;
-    unsigned long m_dwStyle = 0;     // window style at the creation
-    int m_bAutoDelete = 0;           // the object goes with its window
-    TableStruct* m_pTable = nullptr; // the host's
-    unsigned int m_nSelected = 0;    // identifier last given to select
+    unsigned long m_dwStyle = 0;     // window style at creation
+    int m_bAutoDelete = 0;           // delete the object with its window
+    TableStruct* m_pTable = nullptr; // owned by the host
+    unsigned int m_nSelected = 0;    // identifier that was last to be selected
 
-    static WNDPROC lpfnSuperWndProc; // window procedure of the system's list box
+    static WNDPROC lpfnSuperWndProc; // the system list box's window procedure
 
 protected:
-    // For the factory: takes a window that has no object, and deletes itself after it.
+    // For the factory: attaches to a window that has no object, and deletes itself with the window.
     CListControl(unsigned int nControlID, HWND hWnd);
 
     WNDPROC* GetSuperWndProcAddr() override;
@@ -49,7 +49,8 @@ protected:
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Index of the item of that identifier; -1 for kEntryNone and kEntryIndeterminate, or if not found.
+    // Returns the index of the item with that identifier, or -1 if there is none or nID is kEntryNone or
+    // kEntryIndeterminate.
     int FindItem(unsigned int nID) const {
         char key[kKeySize];
         DWord_to_Hex(nID, key);
@@ -65,6 +66,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool m_beingMade = false; // the window; false too where one is taken over
+    bool m_beingMade = false; // the window; stays false if a window is subclassed
     std::unique_ptr<ItemNames> m_names;
 };

@@ -1,4 +1,4 @@
-// The shapes that the owner-drawn controls share.
+// Shapes shared by the owner-drawn controls.
 
 #include "orlo/controls/paint.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// Of one channel, from the gamma of sRGB.
+// Converts an sRGB channel to linear light.
 double LinearLight(BYTE channel) {
     const double value = channel / 255.0;
     return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);

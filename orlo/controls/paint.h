@@ -1,23 +1,23 @@
-// The few shapes that the owner-drawn controls share.
+// Shapes shared by the owner-drawn controls.
 #pragma once
 
 #include "orlo/win/gdi.h"
 
-// Fills the rectangle (device pixels), brush and background color of dc untouched.
+// Fills the rectangle (device pixels). Leaves the brush and background color of dc unchanged.
 void FillSolid(HDC dc, const RECT& rect, COLORREF color);
 
-// Outline of the rectangle, not filled; width in device pixels.
+// Draws the outline of the rectangle; width is in device pixels.
 void FrameRectangle(HDC dc, const RECT& rect, COLORREF color, int width);
 
-// One line of text at a point, clipped.
+// Draws one line of text at a point, clipped.
 void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, COLORREF color);
 
-// The contrast of two colors by their relative luminance, from 1 to 21.
+// Returns the contrast ratio of two colors by relative luminance, from 1 to 21.
 double Contrast(COLORREF a, COLORREF b);
-// Text of less contrast to its background than this is hard to read.
+// Text with a lower contrast ratio is hard to read.
 constexpr double kReadableContrast = 3.0;
 
-// Black where it can be read on the window's color, else the color of the window's text.
+// Returns black if it is readable on the window's color, else the color of window text.
 COLORREF InkOnWindow();
 
 RECT Inflated(const RECT& rect, int by);

@@ -1,4 +1,4 @@
-// What an item of a combo whose items are plain names is drawn from.
+// The data needed to draw an item that is a plain name.
 
 #include "orlo/controls/plain_item.h"
 

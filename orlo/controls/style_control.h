@@ -1,4 +1,4 @@
-// What the combos and the lists of styles do alike. Internal to the library.
+// Shared implementation of the combo boxes and list boxes of styles. Internal to the library.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -9,9 +9,9 @@
 #include "orlo/controls/table_control.h"
 #include "orlo/samples/style_sample.h"
 
-// A friend of the four controls, each of which keeps a sample (m_pGraphic, m_pViewport). make() returns a new sample.
+// A friend of the four controls, each of which has a sample (m_pGraphic, m_pViewport). make() creates a sample.
 struct StyleControl {
-    // WM_CREATE.
+    // Handles WM_CREATE.
     template <class Control, class Make>
     static int Create(Control& control, Make make) {
         if (control.Default() == -1) return -1;
@@ -20,14 +20,14 @@ struct StyleControl {
         return 0;
     }
 
-    // In the order in which they depend on each other.
+    // The graphic is freed first, because it depends on the viewport.
     template <class Control>
     static void DisposeSample(Control& control) {
         control.m_pGraphic.reset();
         control.m_pViewport.reset();
     }
 
-    // The fill message; addAll(add) calls add(text) for each item.
+    // Handles the fill message; addAll(add) calls add(text) for each item.
     template <class Control, class Make, class AddAll>
     static void Fill(Control& control, LPARAM lParam, Make make, AddAll addAll) {
         const Filling filling(control.m_hWnd);
@@ -38,7 +38,7 @@ struct StyleControl {
         control.SetCurSel(control.FindItem(control.m_nSelected));
     }
 
-    // The name of the style that is shown without an item; empty for an item, or without such a style.
+    // Returns the name of the style that a field without a selected item shows, or an empty string.
     template <class Control>
     static CString NameWithoutItem(const Control& control, int index) {
         char name[kItemTextSize] = "";
@@ -47,7 +47,7 @@ struct StyleControl {
         return name;
     }
 
-    // draw(StyleItem) draws a whole item, and returns false if neither selection nor focus can be drawn on it.
+    // draw(StyleItem) draws a whole item and returns false if neither selection nor focus should be drawn.
     template <class Control, class Draw>
     static void DrawItem(Control& control, const DRAWITEMSTRUCT& request, SIZE beyond, Draw draw) {
         DrawRequest(request, beyond, [&] {

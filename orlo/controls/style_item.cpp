@@ -1,4 +1,4 @@
-// What an item of a control of style samples is made of.
+// The data needed to draw an item of a control of style samples.
 
 #include "orlo/controls/style_item.h"
 

@@ -1,4 +1,4 @@
-// CStyleNameControl: a combo box of the blocks of one style tree.
+// CStyleNameControl: a combo box of the blocks of one style family.
 
 #include "orlo/controls/style_name_control.h"
 
@@ -20,7 +20,7 @@ const char* StyleTreeOf(const GraphicStruct* graphic) {
     return graphic && graphic->pszStyleName ? graphic->pszStyleName : "";
 }
 
-// Adds the blocks of the tree of that graphic; the name under which the graphic itself has been added, or empty.
+// Adds the blocks of the graphic's style family. Returns the name under which the graphic itself was added, or empty.
 CString AddStyleTree(const ControlItems& items, TableStruct* table, const GraphicStruct* selected) {
     CString selectedName;
     char name[kNameSize];
@@ -35,7 +35,7 @@ CString AddStyleTree(const ControlItems& items, TableStruct* table, const Graphi
     return selectedName;
 }
 
-// A sorting combo moves the items under the walk: the selected one is looked for once, at the end.
+// Items may move while a sorting combo box is filled, so the selected item is searched once at the end.
 void FillStyleNames(HWND window, TableStruct* table, unsigned int id) {
     const ControlItems items = ControlItems::OfCombo(window);
     items.Clear();

@@ -1,9 +1,9 @@
-// CStyleNameControl: a combo box of the blocks of a table that belong to the style tree of the selected one, by plain
-// names.
+// CStyleNameControl: a combo box of the blocks of a table that belong to the same style family as the selected block,
+// as plain names.
 //
-// The host fills it with a table of blocks and the identifier of one of them. Blocks are of one tree if the
-// pszStyleName of their graphics is the same text; a block without one has no tree and lists nothing. If the control is
-// owner-drawn, the current row of the open list is marked by a frame.
+// The host fills it with a table of blocks and the identifier of one of them. Blocks belong to the same family if the
+// pszStyleName of their graphics is equal; for a block without one the list is empty. If the control is owner-drawn, a
+// frame marks the current row of the open list.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
@@ -18,7 +18,7 @@ public:
 
     void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    // Leaves m_nSelected alone.
+    // Leaves m_nSelected unchanged.
     void FillControl(WPARAM wParam, LPARAM lParam) override;
 
 protected:

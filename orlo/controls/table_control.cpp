@@ -1,4 +1,4 @@
-// What the combo and the list of a host table have in common.
+// Shared implementation of combo boxes and list boxes of host tables.
 
 #include "orlo/controls/table_control.h"
 

@@ -1,12 +1,12 @@
-// What the combo and the list of a host table have in common. Internal to the library.
+// Shared implementation of combo boxes and list boxes of host tables. Internal to the library.
 #pragma once
 
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
 #include "orlo/controls/control_items.h"
 
-// Empties a control for the record of a fill message, and takes table and selection over from it. False if
-// the record has no table, or lParam is null.
+// Empties a control and stores table and selection of a fill record. Returns false if lParam is null or the record has
+// no table.
 template <class Control>
 bool BeginFill(Control& control, LPARAM lParam) {
     const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
@@ -16,15 +16,15 @@ bool BeginFill(Control& control, LPARAM lParam) {
     return control.m_pTable != nullptr;
 }
 
-// Identifier of an item; its name goes to a buffer of kItemTextSize bytes. 0 and no text without such an
-// item.
+// Returns the identifier of an item and copies its name to a buffer of kItemTextSize bytes. If the item does not exist,
+// returns 0 and empties the buffer.
 unsigned long ItemOf(const ControlItems& items, int index, char* text);
 
-// Prepares a window that existed before its object as a template would: its rows get that height (device pixels), and
-// the control announces itself, which the host may answer at once.
+// Initializes a window that existed before its object: sets the row height (device pixels) and notifies the
+// application, which may fill the control at once.
 void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight);
 
-// Height of a row of the control in device pixels, as it measures it.
+// Returns the row height in device pixels, as the control measures it.
 template <class Control>
 int MeasuredRow(Control& control) {
     MEASUREITEMSTRUCT measure = {};
@@ -32,13 +32,13 @@ int MeasuredRow(Control& control) {
     return static_cast<int>(measure.itemHeight);
 }
 
-// The shared control font for a control that gets WM_INITIALUPDATE.
+// Sets the shared control font; called on WM_INITIALUPDATE.
 void UseSharedFont(HWND control);
 
-// Device pixels.
+// Returns the size of the window in device pixels.
 SIZE WindowSize(HWND window);
 
-// Gives a control that height, its width and place as they are. Nothing is redrawn.
+// Sets the height of a control without moving or redrawing it.
 void SetControlHeight(HWND control, int height);
 
 // Notifies the application of a control of that kind; see combo_control.h.

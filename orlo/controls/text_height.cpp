@@ -1,4 +1,4 @@
-// Height of a line of text in an owner-drawn control.
+// The height of a line of text in an owner-drawn control.
 
 #include "orlo/controls/text_height.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kHeightWithoutDC = 16;
 
-// In that font; null: in the font that the device context has by default.
+// Measures in that font, or with null in the default font of the device context.
 int HeightInFont(HWND window, HFONT font) {
     const orlo::WindowDC dc(window);
     if (!dc.get()) return kHeightWithoutDC;

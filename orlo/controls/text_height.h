@@ -1,18 +1,18 @@
-// Height of a line of text in an owner-drawn control.
+// The height of a line of text in an owner-drawn control.
 #pragma once
 
 #include <windows.h>
 
 #include "orlo/export.h"
 
-// Height of "M" in device pixels, in the font that a device context of the window has by default; 16 without
-// one.
+// Returns the height in device pixels of "M" in the default font of the window's device context, or 16 without a device
+// context.
 ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
 
-// The same in the font that is selected in a device context.
+// Returns the height of "M" in the font that is selected in a device context.
 int TextHeight(HDC dc);
-// Width of the text in that font.
+// Returns the width of the text in that font.
 int TextWidth(HDC dc, const char* text);
 
-// The same in the font that was given to the window (WM_SETFONT); 0 without one.
+// Returns the height of "M" in the font that the window was given by WM_SETFONT, or 0 without one.
 int ControlFontHeight(HWND window);

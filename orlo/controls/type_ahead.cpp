@@ -8,14 +8,14 @@
 
 namespace {
 
-constexpr DWORD kDoubleClicksOfPause = 4; // as in the system's boxes
+constexpr DWORD kDoubleClicksOfPause = 4; // as in the system's list boxes
 
 std::string Upper(std::string text) {
     ::CharUpperBuffA(&text[0], static_cast<DWORD>(text.size()));
     return text;
 }
 
-// The first item from that one on, wrapping around, whose name begins with the prefix; -1 without one.
+// Returns the first item from `from` on, wrapping around, whose name begins with the prefix, or -1.
 int FindName(const std::vector<std::string>& names, const std::string& prefix, int from) {
     const int count = static_cast<int>(names.size());
     for (int step = 0; step < count; ++step) {
@@ -26,8 +26,8 @@ int FindName(const std::vector<std::string>& names, const std::string& prefix, i
     return -1;
 }
 
-// What has been typed so far. The keyboard has one focus: characters that go to another control, come after a pause or
-// find another selection than they have left begin anew.
+// The prefix typed so far. Only one control has the keyboard focus at a time. A character for another control, after a
+// pause, or with a selection other than the last one made here starts a new prefix.
 class TypedText {
 public:
     bool GoesOnIn(HWND control, int selected) const {
@@ -39,7 +39,7 @@ public:
         text_.clear();
         before_.clear();
     }
-    // Each returns the item to select, which is the selected one if nothing changes.
+    // Both return the index of the item to select, or the selected one if nothing changes.
     int Add(char letter, const std::vector<std::string>& names, int selected) {
         const std::string alone = Upper({letter});
         if (!before_.empty()) {
@@ -72,8 +72,8 @@ private:
     HWND control_ = nullptr;
     int selected_ = -1;
     DWORD last_ = 0;
-    std::string text_;        // in upper case
-    std::vector<int> before_; // the selection before each of its characters
+    std::string text_;        // in uppercase
+    std::vector<int> before_; // the selection before each character
 };
 
 TypedText g_typed;
@@ -97,7 +97,7 @@ bool TypeAhead(HWND control, const ControlItems& items, ItemNames& names, WPARAM
 }
 
 void NotifySelectionChange(HWND control) {
-    // CBN_SELCHANGE and LBN_SELCHANGE are the same.
+    // CBN_SELCHANGE and LBN_SELCHANGE have the same value.
     ::SendMessageA(::GetParent(control), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), CBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(control));
 }
