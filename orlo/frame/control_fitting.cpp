@@ -1,4 +1,4 @@
-// Fitting of a page's controls to keyboard, page and screen.
+// Adapts a page's controls to keyboard use, page size and screen resolution.
 
 #include "orlo/frame/control_fitting.h"
 
@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr int kBoxWidth = 13; // of a check or radio button, pixels at 96 dpi
-constexpr int kLabelRoom = 8; // between box and label, and after the label
+constexpr int kBoxWidth = 13; // width of a check box or radio button, in pixels at 96 dpi
+constexpr int kLabelRoom = 8; // space between box and label, and after the label
 
-// Labels of the templates are tab stops, although they take no keys.
+// The templates make labels tab stops although they accept no input.
 void PassOverLabel(HWND child) {
     const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
     if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
@@ -38,8 +38,8 @@ int LabelWidth(HWND child) {
     return size.cx;
 }
 
-// The width that a control should have. Boxes, that wide, grow with the resolution of the screen, which the room that
-// the template has for them and their labels may not.
+// Returns the width that a control should have. Check boxes and radio buttons of the given size grow with the screen
+// resolution, while the space reserved by the template may not.
 int WantedWidth(HWND child, int width, int box) {
     if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
     return std::max(width, box + kLabelRoom + LabelWidth(child));
@@ -58,7 +58,7 @@ bool IsGroupBox(HWND child) {
            (::GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == kGroup;
 }
 
-// The distance that the template has between a control and the right line of the group box around it; 0 without one.
+// Returns the distance in the template between a control and the right edge of its group box, or 0 without a group box.
 int MarginInGroup(const RECT& rect, const std::vector<RECT>& groups) {
     for (const RECT& group : groups) {
         if (group.left < rect.left && group.top < rect.top && rect.right < group.right && rect.bottom < group.bottom)
@@ -67,8 +67,8 @@ int MarginInGroup(const RECT& rect, const std::vector<RECT>& groups) {
     return 0;
 }
 
-// Boxes of the templates reach beyond the page, which would cut their right edges off. What is in such a box keeps its
-// distance to it.
+// Group boxes of the templates extend beyond the page, which would clip their right edges. Controls inside keep their
+// distance to the group box.
 void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
     RECT client;
     ::GetClientRect(page, &client);
@@ -86,9 +86,9 @@ void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
 void FitControls(HWND page) {
     std::vector<HWND> controls;
     ForEachChild(page, [&](HWND child) {
-        if (::GetParent(child) == page) controls.push_back(child); // not the parts of a control
+        if (::GetParent(child) == page) controls.push_back(child); // skip child windows of controls
     });
-    std::vector<RECT> groups; // as in the template
+    std::vector<RECT> groups; // with the sizes of the template
     for (const HWND control : controls)
         if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);

@@ -1,5 +1,5 @@
-// Fits the controls of a page's template to what the template does not consider: use by keyboard and by ear, the size
-// of the page, the resolution of the screen. For old templates such as the library's own.
+// Adapts the controls of a page to keyboard and screen readers, to the size of the page, and to the screen resolution,
+// none of which old templates such as the library's own consider.
 #pragma once
 
 #include <windows.h>

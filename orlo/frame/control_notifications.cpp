@@ -1,4 +1,4 @@
-// The notification tables of a page.
+// Tables of notifications that change a control's value or end an edit.
 
 #include "orlo/frame/control_notifications.h"
 

@@ -1,9 +1,9 @@
-// Which notifications of a control change its value, and which end an edit of it.
+// Classifies notifications: those that change a control's value, and those that end an edit.
 #pragma once
 
 #include <windows.h>
 
-// Class and code of a notification.
+// The window class and code of a notification.
 struct PageNotification {
     char className[100];
     unsigned int code;
@@ -15,6 +15,6 @@ struct PageNotification {
     bool IsEditEnd() const;
 };
 
-// The identifier under which a change of this control counts: of a radio button that of the first button of its group,
-// of anything else its own.
+// Returns the identifier under which a change of the control is recorded: that of the first button in its group for a
+// radio button, its own for other controls.
 unsigned int ChangedControlId(HWND control, unsigned int nID, const char* className);

@@ -21,7 +21,7 @@ std::string FieldText(HWND field) {
     return static_cast<const char*>(text);
 }
 
-// An item by index and text: equal texts are told apart, and so are the items of a list that has been filled anew.
+// Includes the index because texts may be equal, and the text because a list may have been refilled.
 std::string ItemState(const ControlItems& items, int index, bool hasTexts) {
     CString text;
     if (hasTexts) items.GetText(index, text);
@@ -42,7 +42,7 @@ std::string ListState(HWND list) {
     const bool hasTexts = !(style & kOwnerDrawn) || style & LBS_HASSTRINGS;
     const ControlItems items = ControlItems::OfList(list);
     const LRESULT count = ::SendMessageA(list, LB_GETSELCOUNT, 0, 0);
-    if (count == LB_ERR) return ItemState(items, items.Selected(), hasTexts); // one selection at most
+    if (count == LB_ERR) return ItemState(items, items.Selected(), hasTexts); // a list with single selection
     std::vector<int> selected(static_cast<size_t>(count));
     ::SendMessageA(list, LB_GETSELITEMS, selected.size(), reinterpret_cast<LPARAM>(selected.data()));
     std::string state;

@@ -1,4 +1,4 @@
-// What a control shows, in a form that can be compared: whether the user has changed it is decided by this.
+// Captures what a control displays in a comparable form, to decide whether the user has changed it.
 #pragma once
 
 #include <windows.h>
@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-// Returns the text of a field, or the selection of a list, a box, or the radio buttons from this one to the end of its
-// group. Returns nothing if the value cannot be seen in the control: a push button, a window of another class, no
-// window.
+// Returns the text of a field, or the selection of a list, a check box, or the radio buttons from this one to the end
+// of its group. Returns std::nullopt if the control does not display its value: a push button, a window of another
+// class, or no window.
 std::optional<std::string> ShownState(HWND control);

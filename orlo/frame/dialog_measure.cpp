@@ -1,4 +1,4 @@
-// Measuring of a dialog template.
+// Measures a dialog template.
 
 #include "orlo/frame/dialog_measure.h"
 
@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kPointsPerInch = 72;
-constexpr WORD kOrdinal = 0xFFFF; // instead of a name: one number follows
+constexpr WORD kOrdinal = 0xFFFF; // marks a number in place of a name
 constexpr size_t kFaceSize = 128;
 
 struct DialogFont {
@@ -20,11 +20,11 @@ struct DialogFont {
 
 struct DialogTemplate {
     DialogFont font;
-    int width = 250; // dialog units
+    int width = 250; // in dialog units
     int height = 62;
 };
 
-// Words of a locked resource. Its size is unknown, but it ends with its mapping at the latest.
+// Reads the words of a locked resource, at most to the end of its memory mapping, since its exact size is unknown.
 class TemplateWords {
 public:
     explicit TemplateWords(const void* start) : m_next(static_cast<const char*>(start)), m_left(0) {
@@ -48,7 +48,7 @@ public:
         return true;
     }
 
-    // A NUL-terminated text of words; the first `size` of them go to `text` if it is not null.
+    // Reads NUL-terminated text and copies at most `size` characters of it to `text` unless null.
     bool ReadText(wchar_t* text, size_t size) {
         WORD word;
         for (size_t i = 0; Read(word); ++i) {
@@ -84,7 +84,7 @@ DialogTemplate ReadTemplate(const void* resource) {
     DialogTemplate result;
     TemplateWords words(resource);
     WORD styleLow, width, height;
-    const size_t afterStyle = 14 - sizeof styleLow; // extended style, item count and position are of no use here
+    const size_t afterStyle = 14 - sizeof styleLow; // extended style, item count and position are not needed
     if (!words.Read(styleLow) || !words.SkipBytes(afterStyle) || !words.Read(width) || !words.Read(height))
         return result;
     result.width = width;
@@ -94,7 +94,7 @@ DialogTemplate ReadTemplate(const void* resource) {
     return result;
 }
 
-// The dialog base units of a font: its height, and its average width.
+// Returns the dialog base units of a font: average character width and height.
 CSize BaseUnits(const DialogFont& font) {
     CClientDC screen(nullptr);
     LOGFONTA description = {};
@@ -111,7 +111,7 @@ CSize BaseUnits(const DialogFont& font) {
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.m_hDC, &metrics);
     int width = metrics.tmAveCharWidth;
-    if (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) { // the bit means the opposite of its name
+    if (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) { // the bit is set for fonts of variable pitch
         static const char letters[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
         SIZE extent;
         ::GetTextExtentPointA(screen.m_hDC, letters, static_cast<int>(std::strlen(letters)), &extent);

@@ -1,4 +1,4 @@
-// CGraphicPreview: the background of the pane and the frame of the drawing in it.
+// CGraphicPreview: paints the preview pane and the frame around the drawing.
 
 #include "orlo/frame/graphic_preview.h"
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kPaletteBackground = PALETTEINDEX(1);
-constexpr int kInset = 4; // pixels between the pane's edge and the drawing
+constexpr int kInset = 4; // pixels between the edge of the pane and the drawing
 
 COLORREF PreviewBackground(const AppStruct* application) {
     long color = 0;

@@ -1,6 +1,6 @@
-// The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code, on the
-// application's background. What the host throws while it draws is the framework's to report, once
-// for each window; where it breaks off, the background stays.
+// The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code on the
+// application's background. An exception thrown by the host during drawing is reported by the framework, once per
+// window; the rest of the background stays visible.
 #pragma once
 
 #include <afxwin.h>
@@ -28,5 +28,5 @@ protected:
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
 
-    ViewportStruct* m_pViewport; // set anew in every paint; null: the pane stays white
+    ViewportStruct* m_pViewport; // set at every paint; if null, the pane is white
 };

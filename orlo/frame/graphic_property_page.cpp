@@ -1,5 +1,5 @@
-// CGraphicPropertyPage: its life, its controls' dirty marks and its preview graphic. The property family is in
-// property_access.cpp.
+// CGraphicPropertyPage: creation and activation, dirty flags of controls, and the preview graphic. The functions that
+// read and write properties are in property_access.cpp.
 
 #include "orlo/frame/graphic_property_page.h"
 
@@ -75,14 +75,14 @@ BOOL CGraphicPropertyPage::OnInitDialog() {
     return result;
 }
 
-// Writes in preview mode reach all graphics of the group: every open page brings its values into the new one.
+// Writes in preview mode go to all graphics of the group, so every open page sets its values on the new graphic.
 void CGraphicPropertyPage::AddPreviewGraphic() {
     CGraphicPropertySheet* sheet = GetSheet();
     if (m_pPreviewGraphic != nullptr || sheet == nullptr || sheet->GetPreviewGroup() == nullptr) return;
     auto* graphic = static_cast<GraphicStruct*>(CreatePreviewGraphic());
     if (graphic == nullptr) return;
     m_pPreviewGraphic = ::GraphicAdd(sheet->GetPreviewGroup(), graphic);
-    if (m_pPreviewGraphic == nullptr) { // no preview then
+    if (m_pPreviewGraphic == nullptr) { // continue without a preview
         if (OwnerOf(graphic) == nullptr) ::GraphicDispose(&graphic);
         return;
     }
@@ -108,7 +108,7 @@ void CGraphicPropertyPage::BuildStatusTable() {
     });
     std::unique_ptr<ControlStatus[]> table(rows.empty() ? nullptr : new ControlStatus[rows.size()]);
     std::copy(rows.begin(), rows.end(), table.get());
-    delete[] m_pStatus; // only now: without memory for the new table the old one stays
+    delete[] m_pStatus; // not earlier, so that the old table remains if memory runs out
     m_pStatus = table.release();
     m_nControls = static_cast<int>(rows.size());
     for (const ControlStatus& row : rows)
@@ -156,7 +156,7 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
         if (id == kRefreshCommand && m_bRefreshPending) {
             UpdateData(FALSE);
             m_bRefreshPending = 0;
-            SetPreviewProperties(1); // the notifications that it follows do not count while loading
+            SetPreviewProperties(1); // notifications are ignored during loading, so the preview must be updated here
         }
         return result;
     }
@@ -169,8 +169,8 @@ BOOL CGraphicPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// A list that is closed by Escape shows again what it showed when it was opened; not every system sees to that. Another
-// control that takes the focus closes it too, and leaves the choice.
+// Not every system restores the selection when a list is closed by Escape. Moving the focus to another control also
+// closes the list, but keeps the new selection.
 void CGraphicPropertyPage::OnDroppedList(unsigned int code, HWND combo) {
     const PageNotification notification(combo, code);
     if (!notification.IsOfCombo()) return;
@@ -189,7 +189,8 @@ void CGraphicPropertyPage::OnDroppedList(unsigned int code, HWND combo) {
     SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(combo), CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
 }
 
-// Marks the control if the notification changes it. The first change of a page never sets the bit of an edit's end.
+// Marks the control as dirty if the notification changes it. The first change on a page never sets the bit for the end
+// of an edit.
 unsigned long CGraphicPropertyPage::ChangeFlags(unsigned int nID, unsigned int code, HWND control) {
     const PageNotification notification(control, code);
     unsigned long flags = 0;

@@ -1,17 +1,22 @@
 // The base of every page that edits the selected graphics: the library's own pages, and pages that a host derives.
 //
-// The page does not touch the graphics while the user edits. It keeps one dirty mark per control, set by the
-// notifications of the controls; when it is left it writes back what the user has edited, all or nothing. A dirty
-// control that shows what it showed when it was loaded is not edited: its member keeps the value that was loaded, of
-// which a text may show a few digits only, and nothing is written. While a page is loaded, notifications mark nothing.
+// Graphics are not changed while the user edits. Notifications set a dirty flag per control, and when the page is left,
+// the edited controls are written back, either all or none. A dirty control that displays the same as when it was
+// loaded is not edited: its member keeps the loaded value, which may have more digits than the text shows, and nothing
+// is written. Notifications are ignored while the page is being loaded.
+//
 // A derived page supplies a dialog template and DoDataExchange; with a preview also CreatePreviewGraphic and
 // SetPreviewProperties:
 //
 //   void CMyPage::DoDataExchange(CDataExchange* pDX) {
-//       DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");   // the property of the selection, merged; a write left
-//       pending DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);            // the member in its control; a bad text ends the
-//       exchange if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38); // a stored value is not the
-//       user's fault DDP_PostProcessing(pDX);                          // last: the pending writes are carried out
+//       // Load: merges the property of the selection into the member. Save: adds a pending write.
+//       DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");
+//       // Transfers between member and control; invalid text ends the exchange.
+//       DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);
+//       // Validates only what the user entered, not a stored value.
+//       if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38);
+//       // Last: carries out the pending writes.
+//       DDP_PostProcessing(pDX);
 //   }
 #pragma once
 
@@ -24,7 +29,7 @@
 
 class CGraphicPropertySheet;
 
-// One row per child window of an active page.
+// One entry per child window of an active page.
 struct ControlStatus {
     unsigned int nID;
     int bDirty;
@@ -34,49 +39,52 @@ class ORLO_API CGraphicPropertyPage : public COrloPropertyPage {
     DECLARE_DYNAMIC(CGraphicPropertyPage)
 
 public:
-    // Of nIDTemplate the low 16 bits count; caption 0 is the template's own title.
+    // Uses the low 16 bits of nIDTemplate. With caption 0 the title is that of the template.
     CGraphicPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption);
     ~CGraphicPropertyPage() override;
 
     BOOL OnInitDialog() override;
-    // Every activation begins with all controls clean.
+    // Marks all controls as unchanged at every activation.
     BOOL OnSetActive() override;
 
-    // Draws this page's preview graphic into rect (device pixels) of a CGraphicPreview's viewport; nothing without one.
+    // Draws this page's preview graphic, if any, into rect (device pixels) of a CGraphicPreview's viewport.
     virtual void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
     virtual void SetModifiedFlag(int bModified);
-    // A new graphic in no group yet, which the page then owns; null: no preview.
+    // Creates a graphic that is in no group and that the page will own; null for no preview.
     virtual void* CreatePreviewGraphic();
-    // Carries the controls (bAll 0: only dirty ones) to the preview graphics, silently, and ends with UpdatePreview(1).
+    // Transfers the values of all controls, or with bAll 0 of dirty ones, to the preview graphics without reporting
+    // errors, and ends with UpdatePreview(1).
     virtual void SetPreviewProperties(int bAll);
     virtual void OnObjectsChanged();
     virtual int OnEditProperty(long dispid);
 
-    // 1 for a control that is dirty or has no row.
+    // Returns 1 if the control is dirty or is not tracked.
     int GetControlStatus(unsigned int nID);
-    // 0 for a control without a row.
+    // Returns 0 if the control is not tracked.
     int SetControlStatus(unsigned int nID, int bDirty);
-    // Returns 1 if the control is dirty and shows something else than when it was last loaded or written; a control
-    // that no DDP_ function binds, than when the page was activated. Text that was typed and undone is not an edit.
-    // Also 1 for a dirty control that does not show its value, such as a push button.
+    // Returns 1 if the control is dirty and displays something other than when it was last loaded or written, or, for a
+    // control that is not bound by a DDP_ function, when the page was activated. Text that was typed and undone is not
+    // an edit. Also returns 1 for a dirty control that does not display its value, such as a push button.
     int IsEdited(unsigned int nID);
-    // Changes of this control (low 16 bits) never count.
+    // Ignores changes of this control (low 16 bits of the identifier).
     void IgnoreApply(unsigned int nID);
 
     void SetPageName(const char* lpszPageName);
-    // Stores a loaded dialog resource, freed with the page, and its size in pixels.
+    // Stores a loaded dialog resource and its size in pixels. The page frees the resource.
     void SetDialogResource(void* hDialog);
     void SetHelpInfo(const char* lpszDocString, const char* lpszHelpFile, unsigned long dwHelpContext);
-    // A system message box without an owner; a null caption is the application's name.
+    // Shows a system message box without an owner. If the caption is null, uses the application's name.
     int MessageBoxA(const char* lpszText, const char* lpszCaption, unsigned int nType);
 
-    // The walk over the selection (bPreview 0) or the sheet's preview group. pPos is the caller's 32-bit word.
-    // The graphics that it returns lose, or get, the preview mark. Null at the end, or without a set.
+    // Iterate over the selection (bPreview 0) or the sheet's preview group. pPos points to the caller's 32-bit
+    // position. The flag kFlagPreview of each returned graphic is cleared or set accordingly. Return null at the end,
+    // or if there are no graphics.
     void* GetFirstObject(void* pPos, int bPreview);
     void* GetNextObject(void* pPos, int bPreview);
 
-    // Merge one property of all graphics of the set. 1 if a graphic has it; then *pValue is the common value, or the
-    // indeterminate marker of its type (orlo/binding/indeterminate.h). 0: *pValue is as it was.
+    // Merge one property of all graphics of the set. Return 1 if a graphic has it, with *pValue set to the common value
+    // or to the indeterminate marker of its type (orlo/binding/indeterminate.h). Otherwise return 0 and leave *pValue
+    // unchanged.
     int GetPropText(const char* pszPropName, unsigned char* pValue, int bPreview);
     int GetPropText(const char* pszPropName, unsigned short* pValue, int bPreview);
     int GetPropText(const char* pszPropName, int* pValue, int bPreview);
@@ -91,10 +99,11 @@ public:
     int GetPropRadio(const char* pszPropName, int* pValue, int bPreview);
     int GetPropRadio(const char* pszPropName, unsigned short* pValue, int bPreview);
     int GetPropIndex(const char* pszPropName, int* pValue, int bPreview);
-    // pPair: a mask of the bits in which graphics differ, and the bits of the first graphic.
+    // pPair receives a mask of the bits in which graphics differ, and the bits of the first graphic.
     int GetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview);
 
-    // Write one value to all graphics of the set that have the property. 1 if there was one; the marker writes nothing.
+    // Write one value to all graphics of the set that have the property. Return 1 if at least one has it. The marker is
+    // not written.
     int SetPropText(const char* pszPropName, unsigned char& value, int bPreview);
     int SetPropText(const char* pszPropName, unsigned short& value, int bPreview);
     int SetPropText(const char* pszPropName, int& value, int bPreview);
@@ -104,16 +113,16 @@ public:
     int SetPropText(const char* pszPropName, float& value, int bPreview);
     int SetPropText(const char* pszPropName, double& value, int bPreview);
     int SetPropText(const char* pszPropName, CString& value, int bPreview);
-    // Any value below 1 is written as 0; above 1 nothing is written.
+    // Writes any value below 1 as 0, and nothing for values above 1.
     int SetPropCheck(const char* pszPropName, int value, int bPreview);
     int SetPropCheck(const char* pszPropName, unsigned short value, int bPreview);
     int SetPropRadio(const char* pszPropName, int value, int bPreview);
     int SetPropRadio(const char* pszPropName, unsigned short value, int bPreview);
     int SetPropIndex(const char* pszPropName, int value, int bPreview);
-    // Bits inside the mask keep each graphic's own state.
+    // Bits set in the mask keep their state in each graphic.
     int SetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview);
 
-    // The sheet that the page is in; null before its window is made, or in a sheet of another kind.
+    // Returns the sheet that contains the page, or null before its window is created or in a sheet of another class.
     CGraphicPropertySheet* GetSheet() const;
     GraphicStruct* GetPreviewGraphic() const;
     unsigned int GetTemplateNumber() const;
@@ -122,20 +131,20 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnFinalRelease() override;
 
-    GraphicStruct* m_pPreviewGraphic; // a part of the sheet's preview group, but this page's to free
-    CMapWordToOb m_mapDDP;            // writes left pending by the DDP_ functions
+    GraphicStruct* m_pPreviewGraphic; // in the sheet's preview group, but freed by this page
+    CMapWordToOb m_mapDDP;            // pending writes of the DDP_ functions
     unsigned int m_nIDTemplate;
     unsigned int m_nIDCaption;
     CString m_strPageName;
-    CSize m_sizePage; // device pixels; set by SetDialogResource
+    CSize m_sizePage; // in device pixels; set by SetDialogResource
     CString m_strDocString;
     CString m_strHelpFile;
     unsigned long m_dwHelpContext;
-    int m_bRefreshPending; // the next refresh command reloads the controls
-    int m_bInitializing;   // notifications of controls are ignored
-    // Set by a page's constructor: OnInitDialog removes the tab stops of labels and fits the widths of controls to the
-    // page and to the resolution of the screen, as the templates of the library need it. Otherwise a page's controls
-    // stay as in its template.
+    int m_bRefreshPending; // reload the controls at the next refresh command
+    int m_bInitializing;   // ignore notifications of controls
+    // Set by a page's constructor to have OnInitDialog remove the tab stops of labels and fit the widths of controls to
+    // the page and the screen resolution, as the library's templates require. Otherwise controls stay as in the
+    // template.
     int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;
@@ -144,7 +153,7 @@ protected:
 
 private:
     friend class CGraphicPropertySheet;
-    // Frees the preview graphic, if any; the page creates a new one when its window is created again.
+    // Frees the preview graphic, if any. The page creates a new one when its window is created again.
     void DisposePreviewGraphic();
     ControlStatus* FindStatus(unsigned int nID) const;
     void BuildStatusTable();
@@ -156,9 +165,9 @@ private:
     friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
     friend class LoadedControls;
     friend class WriteOutcome;
-    class WriteOutcome* m_pOutcome = nullptr; // of the write-back in progress
+    class WriteOutcome* m_pOutcome = nullptr; // of the current write-back
     std::unique_ptr<class LoadedControls> m_pLoaded;
-    HWND m_hDropped = nullptr; // the combo whose list is open, or was the last to be
-    int m_nDropped = -1;       // what it showed when the list was opened: item and text
+    HWND m_hDropped = nullptr; // the combo box whose list is open or was opened last
+    int m_nDropped = -1;       // its selected item and text when the list was opened
     CString m_strDropped;
 };

@@ -1,4 +1,4 @@
-// CGraphicPropertySheet: its life and its data. Layout and frame painting are in sheet_layout.cpp.
+// CGraphicPropertySheet: creation, end codes and shared data. Layout and frame painting are in sheet_layout.cpp.
 
 #include "orlo/frame/graphic_property_sheet.h"
 
@@ -27,7 +27,7 @@ CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pReg
     m_bHasApply = FALSE;
 }
 
-// The pages go before the group: each takes its preview graphic out of it.
+// The pages are deleted before the group, because each removes its preview graphic from it.
 CGraphicPropertySheet::~CGraphicPropertySheet() {
     m_nCurPage = -1;
     DeletePages();
@@ -93,7 +93,7 @@ void CGraphicPropertySheet::DeletePages() {
     }
 }
 
-// An earlier run has left its end code, and previews that show what was edited, also if it was canceled.
+// Resets the end code and the preview graphics of an earlier run, which show its edits even if it was canceled.
 void CGraphicPropertySheet::ForgetEarlierRun() {
     m_bEndWithCode = 0;
     for (int i = 0; i < GetPageCount(); ++i)
@@ -103,7 +103,7 @@ void CGraphicPropertySheet::ForgetEarlierRun() {
 
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (!CreatePreviewRect()) return -1;
-    m_wndPreview.ModifyStyle(0, WS_GROUP); // keeps the arrow keys in radio buttons that end a page
+    m_wndPreview.ModifyStyle(0, WS_GROUP); // keeps arrow keys within radio buttons at the end of a page
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());
@@ -118,7 +118,7 @@ void CGraphicPropertySheet::EndWithCode(int nEndCode) {
     m_nEndCode = nEndCode;
 }
 
-// The flag is asked twice: leaving a control, which OnKillActive does first, may be what sets it.
+// The flag is tested again after OnKillActive, since leaving a control may set it.
 void CGraphicPropertySheet::OnOK() {
     if (m_bEndWithCode) {
         EndDialog(m_nEndCode);

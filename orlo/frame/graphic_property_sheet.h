@@ -1,8 +1,8 @@
-// The tabbed dialog over the selected graphics of a drawing: holds what all its pages share, owns the preview group and
-// the preview window, and lays itself out with the page at the left and buttons and preview in a column beside it.
+// The tabbed dialog over the selected graphics of a drawing. Contains the data shared by its pages, owns the preview
+// group and the preview window, and places buttons and preview in a column beside the page.
 //
-// Made by InitGraphicPropertySheet (orlo/entry/entry.h); the host runs and deletes it. Drawing and selection stay the
-// host's. DoModal returns 1 after OK, IDCANCEL after Cancel, or a code that a page has chosen.
+// Created by InitGraphicPropertySheet (orlo/entry/entry.h). The host runs and deletes the sheet and keeps ownership of
+// drawing and selection. DoModal returns 1 after OK, IDCANCEL after Cancel, or a code set by a page.
 #pragma once
 
 #include <cstdint>
@@ -13,12 +13,12 @@
 
 class CGraphicPropertyPage;
 
-// What the sheet was opened over; the host's, all of it.
+// The objects that the sheet was opened for, all owned by the host.
 struct GraphicSheetData {
     void* pRegenMethods;
     DrawingStruct* pDrawing;
-    void* pGraphics;              // its members are the selection
-    unsigned long dwGraphicFlags; // filter of the walk over them; bit 2: the General page has no style part
+    void* pGraphics;              // the group whose members are selected
+    unsigned long dwGraphicFlags; // filter for its members; bit 2: the General page has no style section
 };
 
 class CGraphicPropertySheet : public COrloPropertySheet {
@@ -26,32 +26,32 @@ public:
     ORLO_API static CRuntimeClass classCGraphicPropertySheet;
     ORLO_API CRuntimeClass* GetRuntimeClass() const override;
 
-    // nIDCaption: a text of the library.
+    // nIDCaption: identifier of a string of the library.
     CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing, void* pGraphics,
                           unsigned long dwGraphicFlags, CWnd* pParentWnd, unsigned int iSelectPage);
     ~CGraphicPropertySheet() override;
 
-    // Null, or 0, without a record.
+    // Return null or 0 if there is no record.
     ORLO_API DrawingStruct* GetDrawing();
     ORLO_API unsigned long GetGraphicFlags();
     void* GetGraphics();
     void* GetRegenMethods();
 
     GraphicStruct* GetPreviewGroup();
-    // Of the active page, or null.
+    // Returns the preview graphic of the active page, or null.
     GraphicStruct* GetPreviewGraphic();
 
-    // Marks the preview for repainting; bNow repaints before it returns.
+    // Invalidates the preview; with bNow also repaints it before returning.
     ORLO_API void UpdatePreview(int bNow);
     ORLO_API void UpdateDesc(int);
     // Draws the active page's preview graphic into rect (device pixels).
     ORLO_API void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
 
-    // OK ends the dialog with this code, without an exchange if it is set before OK.
+    // Makes OK end the dialog with this code, without a data exchange if it is called before OK.
     void EndWithCode(int nEndCode);
 
-    // A page reports that something changed. Bit 0: a control became dirty; bit 1: a dirty control ended an edit.
-    // 1 if the active page has a preview graphic.
+    // Called by a page when something has changed. Bit 0: a control became dirty; bit 1: an edit of a dirty control
+    // ended. Returns 1 if the active page has a preview graphic.
     virtual int OnStatusChange(unsigned long dwFlags);
     // Sizes the sheet to the active page.
     virtual void RecalcLayout();
@@ -69,7 +69,7 @@ protected:
 
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
-    static constexpr uint32_t kColumnOfButtons = 4; // preview pane, buttons beside the page
+    static constexpr uint32_t kColumnOfButtons = 4; // preview pane and buttons beside the page
 
     CGraphicPropertyPage* GetActiveGraphicPage();
     void ForgetEarlierRun();
@@ -78,7 +78,7 @@ private:
 
     uint32_t m_dwSheetStyle = kColumnOfButtons;
     GraphicStruct* m_pPreviewGroup = nullptr;
-    int m_cxPreview = 100; // device pixels
+    int m_cxPreview = 100; // in device pixels
     int m_cyPreview = 100;
     CGraphicPreview m_wndPreview;
     int m_bEndWithCode = 0;

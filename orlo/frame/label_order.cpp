@@ -1,4 +1,4 @@
-// Finding labels, and putting them in their place.
+// Finds the labels of fields and moves them directly before their fields.
 
 #include "orlo/frame/label_order.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr RECT kReach = {0, 0, 30, 12}; // dialog units from a label to its field, across and down
+constexpr RECT kReach = {0, 0, 30, 12}; // maximum distance from a label to its field, across and down, in dialog units
 
 struct Child {
     HWND window;
@@ -28,10 +28,11 @@ Role RoleOf(HWND child) {
 
 bool IsWithin(const RECT& inner, const RECT& outer) {
     return outer.left <= inner.left && inner.right <= outer.right && outer.top <= inner.top &&
-           inner.top <= outer.bottom; // the list of a combo reaches below
+           inner.top <= outer.bottom; // the rectangle of a combo box includes its list
 }
 
-// How far a text is from the field that it stands before or above; negative: it does neither.
+// Returns the distance of a text from the field that it precedes or stands above, or a negative number if it does
+// neither.
 int DistanceToText(const RECT& text, const RECT& field, const RECT& reach) {
     const LONG middle = (text.top + text.bottom) / 2;
     const LONG across = field.left - text.right, down = field.top - text.bottom;
@@ -56,7 +57,7 @@ const Child* LabelOf(const Child& field, const std::vector<Child>& texts, const 
     return around != boxes.end() ? &*around : nullptr;
 }
 
-// A label that began a group of the arrow keys would begin one at its new place.
+// A label that starts a group for the arrow keys would also start one at its new place.
 void EndGroup(HWND label) {
     const LONG_PTR style = ::GetWindowLongPtrA(label, GWL_STYLE);
     if (style & WS_GROUP) ::SetWindowLongPtrA(label, GWL_STYLE, style & ~LONG_PTR{WS_GROUP});

@@ -1,12 +1,11 @@
-// Labels directly before their fields, for those who read a page to the user: a field has the name of the text before
-// it.
+// Orders labels directly before their fields for screen readers, which name a field after the preceding text.
 #pragma once
 
 #include <windows.h>
 
 #include <vector>
 
-// The controls are those of the page, in their order. A field is a control with no text of its own to be known by: an
-// edit, a combo, a list. Its label is the text beside or above it, else the group box around it. The order of the
-// fields stays as it is.
+// Moves the labels among the page's controls, given in their order. A field is a control without text that names it: an
+// edit control, combo box or list box. Its label is the text beside or above it, else the surrounding group box. The
+// order of the fields does not change.
 void PutLabelsBeforeFields(HWND page, std::vector<HWND> controls);

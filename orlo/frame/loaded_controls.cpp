@@ -1,4 +1,4 @@
-// LoadedControls, and the time during which a page is loaded.
+// LoadedControls, and the scope in which a page is being loaded.
 
 #include "orlo/frame/loaded_controls.h"
 
@@ -9,7 +9,7 @@
 #include "orlo/frame/control_state.h"
 #include "orlo/frame/graphic_property_page.h"
 
-// Lives as long as the exchange. The controls show the values only when it ends.
+// Lives as long as the exchange, because the controls display their values only when it ends.
 class LoadedControls::Loading : public CObject {
 public:
     explicit Loading(LoadedControls& controls)
@@ -54,7 +54,7 @@ void LoadedControls::ShowUnbound(unsigned int nID) {
     if (m_controls[nID].property.empty()) Note(nID);
 }
 
-// Out of memory, the control counts as edited as soon as it is touched.
+// If memory runs out, the control counts as edited at the first change.
 void LoadedControls::Note(unsigned int nID) {
     std::optional<std::string>& shown = m_controls.at(nID).shown;
     try {

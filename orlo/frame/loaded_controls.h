@@ -1,9 +1,9 @@
-// What the controls of a page showed when they last agreed with the selection, and the values that the selection had
-// then.
+// Records what the controls of a page displayed when they last matched the selection, and the values of the selection
+// at that time.
 //
-// The text of a field says less than its value: 1.23457 for 1.23456789. So a control that shows what it showed after it
-// was loaded, or written, has not been edited, whatever has happened in between, and its member stands for that value
-// to the last bit.
+// Text has less precision than the value: 1.23457 for 1.23456789. Therefore a control that displays the same text as
+// after it was loaded or written counts as not edited, whatever happened in between, and its member gets the exact
+// value.
 #pragma once
 
 #include <afxwin.h>
@@ -23,23 +23,23 @@ public:
     explicit LoadedControls(CGraphicPropertyPage& page) : m_page(page) {}
     static LoadedControls& Of(CGraphicPropertyPage& page);
 
-    // Whether the control shows what it last agreed on with the selection.
+    // Returns whether the control displays the same as when it last matched the selection.
     bool Agrees(unsigned int nID) const;
 
-    // Loading: the value of the property, which the control is about to show. Until the exchange ends, notifications of
-    // controls do not count as edits.
+    // While loading: records the property's value, which the control is about to display. Notifications of controls do
+    // not count as edits until the exchange ends.
     template <class T>
     void Load(CDataExchange* pDX, unsigned int nID, const std::string& property, const T& value) {
         Show(pDX, nID, property);
         m_values[property] = value;
     }
-    // The same for a further control of a property.
+    // Records another control that displays the property.
     void Show(CDataExchange* pDX, unsigned int nID, const std::string& property);
-    // Activating the page: what a control shows that no property has been bound to.
+    // Records what a control displays that is not bound to a property, when the page is activated.
     void ShowUnbound(unsigned int nID);
 
-    // Saving: sets the value to the loaded one and returns true if the user has not edited the control. The stars that
-    // stand for numbers that differ are no number: an edited control that shows them sets the value to the marker.
+    // While saving: if the user has not edited the control, sets the value to the loaded one and returns true. An
+    // edited control that shows the asterisks for differing numbers sets the value to the marker.
     template <class T>
     bool Keep(unsigned int nID, const std::string& property, T& value) {
         if (!IsEdited(nID)) {
@@ -58,7 +58,7 @@ public:
         if (const T* loaded = std::any_cast<T>(&found->second)) value = *loaded;
     }
 
-    // The selection has this value now, as all controls of the property show it.
+    // Records the value written to the selection, which all controls of the property now display.
     template <class T>
     void Write(const std::string& property, const T& value) {
         m_values[property] = value;
@@ -80,6 +80,6 @@ private:
 
     CGraphicPropertyPage& m_page;
     std::map<unsigned int, Control> m_controls;
-    std::map<std::string, std::any> m_values; // by property
-    Loading* m_loading = nullptr;             // of the exchange in progress
+    std::map<std::string, std::any> m_values; // by property name
+    Loading* m_loading = nullptr;             // of the current exchange
 };

@@ -1,4 +1,4 @@
-// COrloPropertyPage: drop-down lists of a page, and its focus while it is left.
+// COrloPropertyPage: closing drop-down lists, and the focus while a page is left.
 
 #include "orlo/frame/orlo_property_page.h"
 

@@ -1,5 +1,5 @@
-// The page that every sheet of the library is made of: closes drop-down lists that a move would leave hanging, sizes
-// the drop-down of the library's combos, and takes the focus from a control before the page's data is exchanged.
+// The base of all pages of the library: closes drop-down lists that would stay behind when the page moves, sizes the
+// lists of the library's combo boxes, and takes the focus from a control before the page's data is exchanged.
 #pragma once
 
 #include <afxdlgs.h>
@@ -10,23 +10,24 @@ class ORLO_API COrloPropertyPage : public CPropertyPage {
     DECLARE_DYNAMIC(COrloPropertyPage)
 
 public:
-    // A template is a number or a name; caption 0 is the template's own title.
+    // The template is a number or a name. With caption 0 the title is that of the template.
     COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption);
     COrloPropertyPage(const char* lpszTemplateName, unsigned int nIDCaption);
     ~COrloPropertyPage() override;
 
-    // 1 if the page may be left. The focus is on the page during the exchange, and back in its control after a refusal.
+    // Returns 1 if the page can be left. The page has the focus during the exchange; if validation fails, the control
+    // gets it again.
     BOOL OnKillActive() override;
 
-    // The framework's modified flag.
+    // Returns the framework's modified flag.
     virtual int IsModified();
 
-    // The dialog template that the page was made from: a name, or a number with a high word of 0.
+    // Returns the dialog template of the page: a name, or a number whose high word is 0.
     const char* GetTemplateName() const;
 
     void OnWindowPosChanging(WINDOWPOS* lpwndpos);
-    // A multi-line edit control passes Tab to its parent. The tab order is the sheet's, which has the buttons and the
-    // tabs.
+    // A multiline edit control passes Tab to its parent. The sheet handles it, since the tab order includes its buttons
+    // and tabs.
     LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam) {
         return ::SendMessageA(::GetParent(m_hWnd), WM_NEXTDLGCTL, wParam, lParam);
     }

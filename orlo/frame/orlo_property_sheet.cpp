@@ -1,4 +1,4 @@
-// COrloPropertySheet: finding pages, help, and drop-down lists that close when the dialog moves.
+// COrloPropertySheet: finding pages, help, and closing drop-down lists when the dialog moves.
 
 #include "orlo/frame/orlo_property_sheet.h"
 

@@ -1,5 +1,5 @@
-// The sheet that the library's sheets derive from: finds a page by its dialog template, keeps drop-down lists from
-// hanging in the air when the dialog moves, and routes help to the active page.
+// The base of the library's sheets: finds a page by its dialog template, closes drop-down lists when the dialog moves,
+// and forwards help requests to the active page.
 #pragma once
 
 #include <afxdlgs.h>
@@ -17,13 +17,13 @@ public:
     COrloPropertySheet(const char* lpszCaption, CWnd* pParentWnd, unsigned int iSelectPage);
     ~COrloPropertySheet() override;
 
-    // The page made from that dialog template, or null. Of a number only the low 16 bits count; a number never matches
-    // a name, and names are compared with case.
+    // Returns the page that was created from the dialog template, or null. A number is compared by its low 16 bits and
+    // never equals a name; names are case-sensitive.
     COrloPropertyPage* FindPage(unsigned int nIDTemplate) const;
     COrloPropertyPage* FindPage(const char* lpszTemplateName) const;
 
 protected:
-    // A derived sheet's record; who sets it frees it.
+    // The data of a derived sheet, which allocates and frees it.
     GraphicSheetData* m_pSheetData;
 
     int OnNcCreate(CREATESTRUCTA*);

@@ -1,4 +1,4 @@
-// The property family of CGraphicPropertyPage, over the selection of its sheet or over the preview group.
+// Reading and writing properties in CGraphicPropertyPage, over the selection of its sheet or the preview group.
 
 #include "orlo/binding/property_merge.h"
 #include "orlo/frame/graphic_property_page.h"
@@ -9,7 +9,7 @@ namespace binding = orlo::binding;
 
 namespace {
 
-// Of the selection the outcome hears, if there is one.
+// The outcome, if any, is notified only for the selection.
 binding::WriteTarget TargetOf(CGraphicPropertySheet* sheet, int bPreview, WriteOutcome* outcome) {
     return {ObjectsOf(sheet, bPreview), bPreview || outcome == nullptr ? nullptr : &outcome->Unchanged()};
 }
@@ -24,7 +24,7 @@ void* CGraphicPropertyPage::GetNextObject(void* pPos, int bPreview) {
     return ObjectsOf(GetSheet(), bPreview).Next(pPos);
 }
 
-// The overloads of one name differ in their types alone.
+// Defines the overloads of one name, which differ only in their types.
 #define ORLO_PROPERTY_ACCESS(suffix, Member, Type)                                                                     \
     int CGraphicPropertyPage::GetProp##suffix(const char* pszPropName, Member* pValue, int bPreview) {                 \
         return binding::Merge<Type>(ObjectsOf(GetSheet(), bPreview), pszPropName, pValue);                             \

@@ -1,4 +1,4 @@
-// The layout of CGraphicPropertySheet and the frame that it paints around the page and the column beside it.
+// The layout of CGraphicPropertySheet, and the frame painted around the page and the column beside it.
 
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
@@ -14,9 +14,9 @@
 namespace {
 
 constexpr int kButtonIds[] = {IDOK, IDCANCEL, ID_HELP};
-constexpr unsigned int kButtonTexts = 0xF220; // the framework's captions: text, line feed, width in dialog units
-constexpr unsigned int kFramePainted = 0x58D; // posted after each paint, for the host
-constexpr int kFrame = 3;                     // room for the three-dimensional frame, in pixels
+constexpr unsigned int kButtonTexts = 0xF220; // strings of the framework: caption, line feed, width in dialog units
+constexpr unsigned int kFramePainted = 0x58D; // posted to the host after each paint
+constexpr int kFrame = 3;                     // space for the three-dimensional frame, in pixels
 
 CRect WindowRect(HWND window) {
     CRect rect;
@@ -24,7 +24,7 @@ CRect WindowRect(HWND window) {
     return rect;
 }
 
-// Width in pixels that a button's caption text specifies, else the standard one.
+// Returns the width in pixels that a button's string specifies, else the standard width.
 int ButtonWidth(unsigned int nIDText, HWND page, int standard) {
     char text[256];
     if (AfxLoadString(nIDText, text, sizeof text) == 0) return standard;

@@ -5,5 +5,5 @@
 
 class CGraphicPropertySheet;
 
-// The selection (bPreview 0) or the preview group. Empty without a sheet.
+// Returns the selection (bPreview 0) or the preview group; empty without a sheet.
 ObjectSet ObjectsOf(CGraphicPropertySheet* sheet, int bPreview);

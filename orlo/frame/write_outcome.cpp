@@ -1,4 +1,4 @@
-// WriteOutcome: what a write-back did not achieve, and how the user learns of it.
+// WriteOutcome: collects and reports the failures of a write-back.
 
 #include "orlo/frame/write_outcome.h"
 

@@ -1,4 +1,4 @@
-// What the host did not accept in a write-back: reported to the user once, when it is over.
+// Collects what the host rejects during a write-back and reports it to the user once at the end.
 #pragma once
 
 #include <afx.h>
@@ -11,17 +11,17 @@ class CGraphicPropertyPage;
 
 class WriteOutcome {
 public:
-    // The page's writes to the selection are recorded while the object lives.
+    // Records the page's writes to the selection during its lifetime.
     explicit WriteOutcome(CGraphicPropertyPage* page);
     ~WriteOutcome();
     WriteOutcome(const WriteOutcome&) = delete;
     WriteOutcome& operator=(const WriteOutcome&) = delete;
 
-    // The graphics that did not accept a value.
+    // Returns the graphics that rejected a value.
     std::set<const GraphicStruct*>& Unchanged() { return m_unchanged; }
-    // An exception other than the framework's; of several texts the first counts.
+    // Records an exception that is not the framework's. Only the first text is reported.
     void AddFailure(const char* text);
-    // A message box, if there is anything to report. total: the graphics of the selection.
+    // Shows a message box if there is anything to report. total: number of selected graphics.
     void Report(int total) const;
 
 private:
