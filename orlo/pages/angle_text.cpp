@@ -1,4 +1,4 @@
-// DDX_TextAngle.
+// Implements DDX_TextAngle.
 
 #include "orlo/pages/angle_text.h"
 

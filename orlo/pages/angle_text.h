@@ -1,11 +1,11 @@
-// The exchange of an angle edit.
+// Data exchange with an angle edit control.
 #pragma once
 
 #include <afxwin.h>
 
 #include "orlo/host/records.h"
 
-// Exchanges an angle (radians) in the drawing's angular format. "Indeterminate" represents the indeterminate value.
-// Never reports. 0: the text is not an angle, and value is what the host has left in it; or the host cannot write the
-// value, and the control is as it was.
+// Exchanges an angle in radians with a control that shows it in the drawing's angular format. "Indeterminate" stands
+// for the indeterminate value. Reports nothing. Returns 0 if the text is not an angle, in which case value is whatever
+// the host has stored there, or if the host cannot format the value, in which case the control is unchanged.
 int DDX_TextAngle(CDataExchange* pDX, int nIDC, double& value, DrawingStruct* pDrawing);

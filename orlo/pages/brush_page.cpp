@@ -1,4 +1,4 @@
-// CBrushPage: exchange of the filling, the arrows beside the angle, and the preview with its hatch.
+// CBrushPage: exchange of brush properties, the arrows beside the angle, and the hatched preview.
 
 #include "orlo/pages/brush_page.h"
 
@@ -36,15 +36,15 @@ constexpr double kLeastScale = 1e-7;
 constexpr double kMostScale = 1e7;
 constexpr double kLinesAcrossPreview = 20.0;
 
-// Draw mode by radio button: none, winding, alternate.
+// Draw mode per radio button: none, winding, alternate.
 int drawModes[] = {-1, 1, 0};
 constexpr int kDrawModeCount = 3;
 
-// The step of the arrows beside the angle, and where they wrap around.
+// The step of the arrows beside the angle, and the full turn at which they wrap around.
 struct AngularUnit {
     double radians;
     double turn; // in units
-    int highest; // whole angle of the up-down control
+    int highest; // highest position of the up-down control
 };
 
 AngularUnit AngularUnitOf(DrawingStruct* drawing) {
@@ -118,8 +118,8 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_PostProcessing(pDX);
 }
 
-// An angle that cannot be read does not end the exchange: each graphic keeps its own. One that cannot be written shows
-// as a blank field.
+// Invalid text for the angle does not end the exchange: the angles of the graphics do not change. If the host cannot
+// format the angle, the field is blank.
 void CBrushPage::ExchangeAngle(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_ANGLE, m_dAngle, kPropBrushAngle);
     const bool exchanged = DDX_TextAngle(pDX, IDC_BRUSH_ANGLE, m_dAngle, CurrentDrawing()) != 0;
@@ -137,7 +137,7 @@ BOOL CBrushPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header->idFrom != IDC_BRUSH_ANGLE_ARROWS || header->code != static_cast<UINT>(UDN_DELTAPOS))
         return CGraphicPropertyPage::OnNotify(wParam, lParam, pResult);
     TurnAngle(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta);
-    *pResult = TRUE; // the control itself handles whole numbers only
+    *pResult = TRUE; // the control would only handle integers
     return TRUE;
 }
 
@@ -171,7 +171,7 @@ int CBrushPage::DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& 
 
 // ---- Preview
 
-// Black if the selection has several.
+// Returns black if the selection has multiple colors.
 unsigned long CBrushPage::PenColorOfSelection() {
     CDataExchange load(this, FALSE);
     unsigned long color = kIndeterminateId;
@@ -180,7 +180,7 @@ unsigned long CBrushPage::PenColorOfSelection() {
 }
 
 void* CBrushPage::CreatePreviewGraphic() {
-    // The undrawn ways out to two corners hold the extents at the unit square.
+    // Undrawn segments to two corners keep the extents at the unit square.
     GraphicStruct* shape = NewVertexList({{0.35, 0.35, 0, true},
                                           {0.05, 0.35, 0, true},
                                           {0.05, 0.95, 0, true},
@@ -230,14 +230,15 @@ const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
 void CBrushPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CarryToPreview(*this, Preview::kRows, bAll);
-    // Writes in preview mode reach the graphics of all pages, so the pen page's arrive here too: this one keeps its own
-    // pen.
+    // Preview writes go to the graphics of all pages, including the pen properties of the Pen page. This preview keeps
+    // its own pen.
     ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);
     ::GraphicSetPenWidth(m_pPreviewGraphic, 0.0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }
 
-// The style decides the scale of the preview, so that any hatch can be recognized there, and which controls make sense.
+// The style determines the scale of the preview, chosen so that any hatch is recognizable, and which controls are
+// enabled.
 void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
     constexpr unsigned short kLines = kBrushVector | kBrushHasLines;
     unsigned int style = m_nStyle;

@@ -1,5 +1,5 @@
-// The Brush page: style, color, hatch scale and angle, cross hatch and draw mode of the selected graphics' filling. A
-// text that is not an angle is ignored with a beep.
+// The Brush page: style, color, hatch scale and angle, cross hatch and draw mode of the selected graphics. Text that is
+// not an angle is ignored with a beep.
 #pragma once
 
 #include "orlo/export.h"
@@ -19,21 +19,21 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // One outline around two squares that overlap, so that the draw mode shows.
+    // Creates a single outline around two overlapping squares, so that the draw mode is visible.
     ORLO_API void* CreatePreviewGraphic() override;
     ORLO_API void SetPreviewProperties(int bAll) override;
 
-    // Exchanges the style list and keeps the name of the style above it current.
+    // Exchanges the style list and updates the style name above it.
     ORLO_API int DDX_ConvertStyle(int bReport, CDataExchange* pDX, unsigned int& style);
 
 protected:
-    // The arrows beside the angle turn it by one unit of the drawing's angular system, read and written by the host. A
-    // step beyond a full turn wraps around, an indeterminate angle starts at 0, and a text that is not an angle stays,
-    // with a beep.
+    // Handles the arrows beside the angle, which change it by one unit of the drawing's angular system; the host parses
+    // and formats it. A step beyond a full turn wraps around, and an indeterminate angle starts at 0. Text that is not
+    // an angle is left alone, with a beep.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    struct Preview; // the rows of SetPreviewProperties
+    struct Preview; // a row of SetPreviewProperties
 
     void ExchangeAngle(CDataExchange* pDX);
     void TurnAngle(int steps);
@@ -44,12 +44,12 @@ private:
 
     TableStruct* m_pBrushStyles;
     unsigned long m_dwColor;
-    double m_dAngle; // radians
+    double m_dAngle; // in radians
     double m_dScale;
     unsigned int m_nStyle;
-    char m_szStyleName[kStyleNameSize]; // what the style's name shows
+    char m_szStyleName[kStyleNameSize]; // the style name that is shown
     int m_nHatchCross;
-    int m_nLastCross; // the last definite state of the check box
-    int m_nDrawMode;  // 1 winding, 0 alternate
+    int m_nLastCross; // last determinate state of the check box
+    int m_nDrawMode;  // 1: winding, 0: alternate
     CRadioGroup m_drawModes;
 };

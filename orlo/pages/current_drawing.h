@@ -1,8 +1,8 @@
-// The drawing that the host has open, and its tables.
+// The drawing that is open in the host, and its tables.
 #pragma once
 
 #include "orlo/host/records.h"
 
-// Null if there is none.
+// Returns null if there is none.
 DrawingStruct* CurrentDrawing();
 TableStruct* CurrentTable(const char* name);

@@ -1,4 +1,4 @@
-// CGeneralPage: exchange of layer and attribute text, and the part that chooses styles.
+// CGeneralPage: exchange of layer and attribute text, and the selection of styles.
 
 #include "orlo/pages/general_page.h"
 
@@ -34,7 +34,7 @@ void EnableDlgControl(HWND hDlg, int nID, bool enable) {
     if (const HWND control = ::GetDlgItem(hDlg, nID)) ::EnableWindow(control, enable);
 }
 
-// The first entry that passes the test; 0 if none does.
+// Returns the identifier of the first entry that passes the test, or 0.
 template <class Test>
 uint16_t FindEntry(TableStruct* table, Test matches) {
     int cookie = 0;
@@ -77,7 +77,7 @@ CGeneralPage::~CGeneralPage() = default;
 
 BOOL CGeneralPage::OnInitDialog() {
     CGraphicPropertyPage::OnInitDialog();
-    // The template leaves the layers to the mouse.
+    // The template gives the layer list no tab stop.
     const HWND layers = ::GetDlgItem(m_hWnd, IDC_LAYER);
     ::SetWindowLongPtrA(layers, GWL_STYLE, ::GetWindowLongPtrA(layers, GWL_STYLE) | WS_TABSTOP);
     if (!HasStylePart()) {
@@ -103,7 +103,7 @@ void CGeneralPage::DoDataExchange(CDataExchange* pDX) {
     DDP_PostProcessing(pDX);
 }
 
-// Indeterminate texts show as a text of their own, which counts as untouched even if the user has typed it.
+// Different texts are shown as a placeholder, which counts as unchanged even if the user types it.
 void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_INFO, m_strInfo, kPropInfo);
     CString shown = IsIndeterminate(m_strInfo) ? CString(kIndeterminateInfo) : m_strInfo;
@@ -111,7 +111,7 @@ void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     if (pDX->m_bSaveAndValidate) m_strInfo = shown == kIndeterminateInfo ? CString(kIndeterminateString) : shown;
 }
 
-// ---- The style part
+// ---- The style section
 
 bool CGeneralPage::HasStylePart() const {
     CGraphicPropertySheet* sheet = GetSheet();
@@ -123,7 +123,7 @@ TableStruct* CGeneralPage::StyleTable() const {
     return control != nullptr ? control->m_pTable : nullptr;
 }
 
-// Name of the style whose graphic the sheet is open over; empty without one.
+// Returns the name of the style whose graphic the sheet is open over, or an empty string.
 CString CGeneralPage::CurrentStyleName() const {
     TableStruct* table = StyleTable();
     char name[kNameSize] = "";
@@ -154,7 +154,7 @@ void CGeneralPage::EnableButtons(const char* name) {
     EnableDlgControl(m_hWnd, IDC_STYLE_DELETE, MayDelete(name));
 }
 
-// The system sends no notification for a selection made this way.
+// The system sends no notification for a selection made by a program.
 void CGeneralPage::SelectInCombo(int index) {
     ControlItems::OfCombo(::GetDlgItem(m_hWnd, IDC_STYLE_NAME)).Select(index);
     EnableButtons(NameInCombo());
@@ -197,7 +197,7 @@ void CGeneralPage::OnStyleKillFocus() {
     m_bStyleChecked = 0;
     if (checked || combo == nullptr || !HasStylePart()) return;
     const HWND focus = ::GetFocus();
-    // Without a focus another program has come to the front, and the user is still in the combo.
+    // Without a focus window, another program is in front and the user is still editing the combo box.
     if (focus == nullptr || focus == combo || ::IsChild(combo, focus)) return;
 
     const CString name = NameInCombo();

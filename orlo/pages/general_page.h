@@ -1,7 +1,8 @@
-// The General page, first in every sheet: layer and attribute text of the selected graphics, and, over the graphic of a
+// The General page, first in every sheet: layer and attribute text of the selected graphics and, over the graphic of a
 // style, the style's name with New and Delete.
 //
-// The style part edits nothing: choosing, making or deleting a style ends the sheet with a code (StyleEndCode).
+// The style section changes no properties: selecting, creating or deleting a style ends the sheet with a code
+// (StyleEndCode).
 #pragma once
 
 #include "orlo/export.h"
@@ -19,12 +20,12 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // Refuses, with a beep, while the style combo names a style other than the current one.
+    // Fails with a beep while the style combo box shows the name of a style other than the current one.
     BOOL OnKillActive() override;
 
 protected:
     void OnStyleEditChange();
-    void OnStyleCloseUp(); // and every other selection
+    void OnStyleCloseUp(); // also handles every other selection
     void OnStyleKillFocus();
     void OnNew();
     void OnDelete();
@@ -48,8 +49,8 @@ private:
     unsigned int m_nLayer;
     unsigned int m_nStyleTree;
     CString m_strInfo;
-    int m_bStyleChecked; // the focus change that follows has been handled
+    int m_bStyleChecked; // the focus change that follows was already handled
 };
 
-// 0 for a name that the host reserves.
+// Returns 0 for a name that is reserved by the host.
 int IsUserStyleName(CString name);

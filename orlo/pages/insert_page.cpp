@@ -1,4 +1,4 @@
-// CInsertPage: exchange and merge of the parts of insertions, and the preview.
+// CInsertPage: exchange and merging of position, scale and rotation, and the preview.
 
 #include "orlo/pages/insert_page.h"
 
@@ -29,8 +29,8 @@ namespace {
 constexpr double kMostScale = 1000.0;
 constexpr double kFarthest = 1e38;
 
-// Calls visit for the insertions of the set until it returns false. It may clear withRotationZ for the insertions that
-// follow.
+// Calls visit for each insertion of the set until it returns false. visit can clear withRotationZ for the following
+// insertions.
 template <class Visit>
 void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit visit) {
     uint32_t position = 0;
@@ -41,11 +41,12 @@ void ForEachInsertion(const ObjectSet& set, const bool& withRotationZ, Visit vis
     }
 }
 
-// Makes a merged part the marker where the insertion's is another number. False if by then all are the marker.
+// Sets each merged part to the marker where it differs from the insertion's. Returns false once all parts are the
+// marker.
 bool Merge(const double (&parts)[3], double (&merged)[3]) {
     bool definite = false;
     for (int i = 0; i < 3; ++i) {
-        // Mostly they are the same to the last bit.
+        // Comparing bit for bit first is faster, as most are identical.
         if (parts[i] != merged[i] && !IsIndeterminate(merged[i]) && CompareDoubles(&parts[i], &merged[i]) != 0)
             merged[i] = Indeterminate<double>::Value();
         definite = definite || !IsIndeterminate(merged[i]);
@@ -55,13 +56,13 @@ bool Merge(const double (&parts)[3], double (&merged)[3]) {
 
 } // namespace
 
-// One control with its member and its number in a record of parts.
+// A control, its member, and its index in a record of parts.
 struct CInsertPage::Field {
     unsigned int nID;
     double CInsertPage::*member;
     double (InsertParts::*group)[3];
     int axis;
-    double limit; // either way; 0 for an angle
+    double limit; // in both directions; 0 for an angle
 
     double& Of(InsertParts& parts) const { return (parts.*group)[axis]; }
     std::string Name() const { return std::to_string(nID); }
@@ -151,7 +152,7 @@ void* CInsertPage::CreatePreviewGraphic() {
     return m_preview.NewInsertion(CurrentDrawing());
 }
 
-// A number with more after it in a rotation, as "12d" on the way to "12d30", is judged when the field is left.
+// A rotation that begins with a number is validated only when the field is left, since "12d" may become "12d30".
 bool CInsertPage::IsTyped(const Field& field) const {
     const CString text = WindowText(::GetDlgItem(m_hWnd, static_cast<int>(field.nID)));
     if (IsBeginningOfReal(text)) return false;
@@ -166,7 +167,8 @@ bool CInsertPage::HasFocus(const Field& field) const {
     return ::GetFocus() == ::GetDlgItem(m_hWnd, static_cast<int>(field.nID));
 }
 
-// Only for another field of the page: the buttons of the sheet judge all fields, or none.
+// Validates only when the focus moves to another field of the page. The buttons of the sheet validate all fields, or
+// none.
 BOOL CInsertPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     const BOOL result = CGraphicPropertyPage::OnCommand(wParam, lParam);
     if (HIWORD(wParam) != EN_KILLFOCUS || !::IsChild(m_hWnd, ::GetFocus())) return result;

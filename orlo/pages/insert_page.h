@@ -1,7 +1,7 @@
-// The Block Insertion page: position, scale and rotation of the selected insertions. It works on their vertices, not on
-// named properties: see insert_parts.h.
+// The Block Insertion page: position, scale and rotation of the selected insertions. It works on their vertices rather
+// than on named properties; see insert_parts.h.
 //
-// A field that the user has not edited, or that shows "*****", writes nothing and is not checked.
+// A field that the user has not edited, or that shows "*****", is neither validated nor written.
 #pragma once
 
 #include "orlo/frame/graphic_property_page.h"
@@ -19,17 +19,17 @@ public:
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // Creates an insertion of a pyramid with lettered axes, a block of the current drawing for as long as a page uses
-    // it.
+    // Creates an insertion of a pyramid with lettered axes, a block that exists in the current drawing while a page
+    // uses it.
     void* CreatePreviewGraphic() override;
-    // Reports at once a text that is not a number or out of range, but waits while it may still become one: "", "-",
-    // ".", "1e"; a rotation that begins with a number, as "12d30", is reported when its field is left.
+    // Reports text that is not a number or out of range immediately, unless it may become a valid number: "", "-", ".",
+    // "1e". A rotation that begins with a number, such as "12d30", is reported when its field is left.
     void SetPreviewProperties(int bAll) override;
 
-    // Merges the parts of all insertions of the set into the members; without one the members stay as they are.
+    // Merges the parts of all insertions of the set into the members, which are unchanged if there are none.
     void LoadInsertParts(int bPreview);
-    // Writes the members to all insertions of the set. Each insertion keeps its own value where a member is
-    // indeterminate and, in the selection, where the user has not edited the control.
+    // Writes the members to all insertions of the set. An insertion keeps its value where a member is indeterminate
+    // and, in the selection, where the user has not edited the control.
     void ApplyInsertParts(int bPreview);
 
 protected:
@@ -44,7 +44,7 @@ private:
     bool HasFocus(const Field& field) const;
 
     double m_dScaleX, m_dScaleY, m_dScaleZ;
-    double m_dRotateX, m_dRotateY, m_dRotateZ; // radians
+    double m_dRotateX, m_dRotateY, m_dRotateZ; // in radians
     double m_dPositionX, m_dPositionY, m_dPositionZ;
     InsertPreview m_preview;
 };

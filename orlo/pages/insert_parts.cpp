@@ -1,4 +1,4 @@
-// Insertions as position, scale and rotation.
+// Converts insertions to and from position, scale and rotation.
 
 #include "orlo/pages/insert_parts.h"
 
@@ -38,7 +38,7 @@ Vector Cross(const Vector& a, const Vector& b) {
 }
 
 using Axes = std::array<Vector, 3>;
-using Corners = std::array<VertexStruct*, 4>; // the origin and the ends of the axes
+using Corners = std::array<VertexStruct*, 4>; // the origin and the end points of the axes
 
 bool FindCorners(GraphicStruct* graphic, Corners& corners) {
     int cookie = 0;
@@ -57,10 +57,10 @@ Axes AxesOf(const Corners& corners) {
     return {PointOf(*corners[1]) - origin, PointOf(*corners[2]) - origin, PointOf(*corners[3]) - origin};
 }
 
-// Of a frame without shear, from the directions of its x and z axes. Adding 0.0 turns -0.0 to 0.0.
+// Computes the rotations of a frame without shear from the directions of its x and z axes. Adding 0.0 turns -0.0 into
+// 0.0.
 void FindRotations(Vector a, const Vector& c, bool withZ, double rotation[3]) {
-    if (c.x == 0.0 && c.y == 0.0 &&
-        c.z > 0.0) { // in the plane, as most are: the result of the formulas without computing them
+    if (c.x == 0.0 && c.y == 0.0 && c.z > 0.0) { // shortcut for insertions in the plane, which most are
         rotation[0] = rotation[1] = 0.0;
         if (withZ) rotation[2] = a.y == 0.0 && a.x > 0.0 ? 0.0 : std::atan2(a.y, a.x);
         return;
@@ -91,7 +91,7 @@ bool GetParts(const Corners& corners, bool withRotationZ, InsertParts& parts) {
     return true;
 }
 
-// The direction of a vector; false for one without.
+// Normalizes a vector. Returns false if it has no direction.
 bool Direct(Vector& axis) {
     const double length = Length(axis);
     if (!(length > kCollapsed)) return false;
@@ -99,7 +99,8 @@ bool Direct(Vector& axis) {
     return true;
 }
 
-// The first coordinate axis in the order z, x, y that is far enough from the direction, made perpendicular to it.
+// Returns a unit vector perpendicular to the direction, derived from the first of the axes z, x, y that is far enough
+// from it.
 Vector RightAngleTo(const Vector& direction) {
     const Vector kCandidates[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}};
     for (const Vector& candidate : kCandidates) {
@@ -110,7 +111,7 @@ Vector RightAngleTo(const Vector& direction) {
     return kCandidates[0];
 }
 
-// Replaces collapsed axes by directions.
+// Replaces collapsed axes by perpendicular directions.
 Axes CompleteFrame(Axes axes) {
     bool there[3];
     for (size_t i = 0; i < 3; ++i)
@@ -168,7 +169,7 @@ void BuildMatrix(const InsertParts& parts, const orlo::host::OwnedVertex& scratc
     matrix.Take(::MatrixOffset(matrix.get(), scratch.get()));
 }
 
-// Origin and ends of the axes.
+// Sets the origin and the end points of the axes.
 void SetCorners(const Corners& corners, const Vector& origin, const Axes& axes) {
     ::VertexSet(corners[0], origin.x, origin.y, origin.z);
     for (size_t i = 0; i < axes.size(); ++i)

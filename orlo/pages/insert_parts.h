@@ -1,31 +1,30 @@
-// A block insertion taken apart and put together again.
+// Decomposes block insertions into position, scale and rotation, and composes them again.
 //
-// An insertion's matrix is that of these steps: scale, turn about z, about y, about x, move. Every matrix without shear
-// comes back from its parts, a mirrored one with a negative scale z. A sheared one comes back without its shear.
+// The matrix of an insertion consists of these steps: scale, rotate about z, y and x, move. Any matrix without shear
+// can be restored from its parts; a mirrored one has a negative z scale. Shear is lost.
 #pragma once
 
 #include "orlo/host/graphic.h"
 
 struct InsertParts {
-    double position[3]; // drawing units
+    double position[3]; // in drawing units
     double scale[3];
-    double rotation[3]; // radians, about x, y and z
+    double rotation[3]; // in radians, about x, y and z
 };
 
-// Does not touch what cannot be computed: the whole record for a graphic without the four vertices of an insertion, the
-// rotations if an axis is collapsed (1e-7 or shorter).
+// Leaves unchanged what cannot be computed: the whole record if the graphic lacks the four vertices of an insertion,
+// the rotations if an axis is collapsed (1e-7 or shorter).
 void InsertGetParts(GraphicStruct* graphic, InsertParts* parts);
 
-// Writes the four vertices; nothing to a graphic that lacks them. Scales of almost 1 (all three, CompareDoubles) and
-// rotations of at most 1e-7 are treated as absent.
+// Writes the four vertices, or nothing if the graphic lacks them. Scales of almost 1 (all three, by CompareDoubles) and
+// rotations of at most 1e-7 are ignored.
 void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts);
 
-// The parts of any insertion. The rotations of one with collapsed axes are those of the axes that are left, each
-// missing one at right angles to the others; rotations of at most 1e-7 are 0. False, and the record is meaningless, for
-// a graphic without the four vertices, or with one that is not finite. withRotationZ false skips that rotation: it
-// takes half of the time, and in most selections it differs.
+// Reads the parts of any insertion. Collapsed axes are replaced by axes perpendicular to the others; rotations of at
+// most 1e-7 are 0. Returns false, with the record undefined, if the graphic lacks the four vertices or one of them is
+// not finite. withRotationZ false skips that rotation, which takes half of the time and differs in most selections.
 bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts, bool withRotationZ = true);
 
-// Carries the insertion from its parts to others. One that is only moved keeps its axes as they are, sheared ones too.
-// Writes nothing if the parts are equal or a new one is not a number.
+// Changes an insertion from one set of parts to another. If only the position changes, the axes are unchanged, even
+// sheared ones. Writes nothing if the parts are equal or a new part is not a number.
 void ChangeInsertParts(GraphicStruct* graphic, const InsertParts& from, const InsertParts& to);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr uint32_t kAxesColor = 0xFF00FF;
 
-// The base, and the edges to the apex.
+// Creates the base and the edges to the apex.
 GraphicStruct* NewPyramid() {
     return NewVertexList({{0.1, 0.1, 0, true},
                           {0.1, 0.9, 0, true},
@@ -29,7 +29,7 @@ GraphicStruct* NewPyramid() {
                           {0.9, 0.1, 0, true}});
 }
 
-// Each axis with its letter.
+// Creates the axes with their letters.
 GraphicStruct* NewAxes() {
     return NewVertexList({{0, 0, 0, false},
                           {1.0, 0, 0, true},
@@ -81,7 +81,7 @@ GraphicStruct* NewPyramidInsertion(DrawingStruct* drawing) {
     return insertion;
 }
 
-// The drawings whose block is in use, one entry for each page that uses it.
+// The drawings whose block is in use, one entry per page that uses it.
 std::vector<DrawingStruct*>& UsedDrawings() {
     static std::vector<DrawingStruct*> drawings;
     return drawings;

@@ -3,21 +3,21 @@
 
 #include "orlo/host/graphic.h"
 
-// One page's use of the block "$PREVIEW_BLOCK" of a drawing. Pages over the same drawing share the block, which goes
-// with the last of them.
+// The use of a drawing's block "$PREVIEW_BLOCK" by one page. Pages over the same drawing share the block, which is
+// removed with the last of them.
 class InsertPreview {
 public:
     InsertPreview() = default;
-    // Removes the block, unless another page uses it, from the drawing of the insertions; without one from the current
-    // drawing.
+    // Removes the block, unless another page uses it, from the drawing of the insertions or, if there are none, from
+    // the current drawing.
     ~InsertPreview();
     InsertPreview(const InsertPreview&) = delete;
     InsertPreview& operator=(const InsertPreview&) = delete;
 
-    // Returns a new insertion of the block, which is added to the drawing if it is missing; the caller owns the
-    // insertion. Returns null on failure.
+    // Creates an insertion of the block, adding the block to the drawing if needed. The caller owns the insertion.
+    // Returns null on failure.
     GraphicStruct* NewInsertion(DrawingStruct* drawing);
 
 private:
-    DrawingStruct* m_drawing = nullptr; // null: no insertion has been made
+    DrawingStruct* m_drawing = nullptr; // null until an insertion has been created
 };

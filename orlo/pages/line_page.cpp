@@ -1,4 +1,4 @@
-// CLinePage: exchange of the pen, the change of its scale system, and the preview.
+// CLinePage: exchange of pen properties, changes of the scale system, and the preview.
 
 #include "orlo/pages/line_page.h"
 
@@ -35,7 +35,7 @@ CLinePage::CLinePage()
     : CGraphicPropertyPage(kTemplate, 0), m_pLineStyles(CurrentTable(kTableLineStyles)), m_dwColor(kColorByLayer),
       m_dWidth(0.0), m_dScale(1.0), m_nStyle(kLineStyleByLayer), m_nScaleSystem(kScalePaper), m_szStyleName(),
       m_nAlignment(1), m_nLastAlignment(0) {
-    m_bScrollingCombos = TRUE; // long widths
+    m_bScrollingCombos = TRUE; // for long widths
 }
 
 CLinePage::~CLinePage() = default;
@@ -54,7 +54,7 @@ BOOL CLinePage::OnInitDialog() {
 void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DrawingStruct* drawing = CurrentDrawing();
 
-    // The property is wider than the member. While saving, the member already holds what the combo shows.
+    // The property has more bits than the member. While saving, the member already contains the combo box's value.
     unsigned short scaleSystem =
         m_nScaleSystem == kScaleIndeterminate ? Indeterminate<unsigned short>::Value() : m_nScaleSystem;
     DDP_Text(pDX, IDC_SCALE_SYSTEM, scaleSystem, kPropScaleSystem);
@@ -83,7 +83,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDP_PostProcessing(pDX);
 }
 
-// A width that the host cannot write leaves its field blank; a blank field is refused only if the user has emptied it.
+// If the host cannot format the width, the field is blank. A blank field is rejected only if the user has cleared it.
 void CLinePage::ExchangeWidth(CDataExchange* pDX) {
     const bool save = pDX->m_bSaveAndValidate;
     if (save && !IsEdited(IDC_PEN_WIDTH)) return;
@@ -117,7 +117,7 @@ int CLinePage::DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& 
     return 1;
 }
 
-// Expresses the width in the newly chosen system: read again from the selection, so an edit of it is dropped.
+// Shows the width in the newly selected system. It is read from the selection again, so an edited width is lost.
 void CLinePage::OnScaleSystemChange() {
     CDataExchange save(this, TRUE);
     unsigned char chosen = kScalePaper;
@@ -176,8 +176,8 @@ const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
 void CLinePage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
     CarryToPreview(*this, Preview::kRows, bAll);
-    // Writes in preview mode reach the graphics of all pages, so the brush page's arrive here too: this one has no
-    // brush.
+    // Preview writes go to the graphics of all pages, including the brush properties of the Brush page. This preview
+    // has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

@@ -1,5 +1,5 @@
 // The Pen page: color, width with its scale system, dash scale, line style and alignment of the selected graphics. A
-// width that the host cannot write shows as a blank field and does not keep the user on the page.
+// width that the host cannot format is shown as a blank field, which does not prevent the user from leaving the page.
 #pragma once
 
 #include "orlo/export.h"
@@ -18,11 +18,11 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // A rectangle in the unit square.
+    // Creates a rectangle in the unit square.
     ORLO_API void* CreatePreviewGraphic() override;
     ORLO_API void SetPreviewProperties(int bAll) override;
 
-    // Exchanges the style list and keeps the name of the style beside it current.
+    // Exchanges the style list and updates the style name beside it.
     ORLO_API int DDX_ConvertLStyle(int bReport, CDataExchange* pDX, unsigned int& style);
 
 protected:
@@ -31,18 +31,18 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Preview; // the rows of SetPreviewProperties
+    struct Preview; // a row of SetPreviewProperties
 
     void ExchangeWidth(CDataExchange* pDX);
     CString StyleName(unsigned int style) const;
 
     TableStruct* m_pLineStyles;
     unsigned long m_dwColor;
-    double m_dWidth; // inches of paper, or drawing units: m_nScaleSystem
+    double m_dWidth; // inches on paper or drawing units, depending on m_nScaleSystem
     double m_dScale;
     unsigned int m_nStyle;
-    unsigned char m_nScaleSystem;       // follows its combo at once, unlike the others
-    char m_szStyleName[kStyleNameSize]; // what the style's name shows
+    unsigned char m_nScaleSystem;       // updated immediately from its combo box, unlike the others
+    char m_szStyleName[kStyleNameSize]; // the style name that is shown
     int m_nAlignment;
-    int m_nLastAlignment; // the last definite state of the check box
+    int m_nLastAlignment; // last determinate state of the check box
 };

@@ -1,4 +1,4 @@
-// Pen widths as text.
+// Converts pen widths to and from text.
 
 #include "orlo/pages/pen_width.h"
 
@@ -19,7 +19,7 @@ void SelectText(HWND combo, const char* text) {
     items.Select(items.FindOrAdd(text));
 }
 
-// In silent mode 0; with bReport a beep, and it does not return.
+// Returns 0 in silent mode. With bReport it beeps and does not return.
 int Refuse(int bReport, CDataExchange* pDX) {
     if (bReport) {
         ::MessageBeep(MB_ICONWARNING);
@@ -51,7 +51,7 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
         const CString text = ShownText(combo);
         if (IsIndeterminateText(text)) return 1;
         if (TextToPenWidth(drawing, scaleSystem, text, &value)) return 1;
-        pDX->PrepareCtrl(nIDC); // what is typed next is meant for the width
+        pDX->PrepareCtrl(nIDC); // so that the width gets the focus for the next keystroke
         return Refuse(bReport, pDX);
     }
     if (IsIndeterminate(value)) {

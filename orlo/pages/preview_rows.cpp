@@ -1,4 +1,4 @@
-// What rows of several pages carry to the preview.
+// Preview rows shared by several pages.
 
 #include "orlo/pages/preview_rows.h"
 

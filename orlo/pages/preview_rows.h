@@ -1,4 +1,4 @@
-// How the controls of a page bring their values to its preview: one row of a table for each value.
+// Transfers control values to the preview graphic, one table row per property.
 #pragma once
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 
 #include "orlo/frame/graphic_property_page.h"
 
-// The controls of one value, 0 where there are no more, and what brings that value to the preview graphics.
+// The controls of one value (0 for unused entries), and the function that transfers it to the preview graphics.
 template <class Page>
 struct PreviewRow {
     std::array<unsigned int, 6> controls;
@@ -19,7 +19,7 @@ struct PreviewRow {
     }
 };
 
-// Carries the values of the rows that have a dirty control; with bAll those of all rows.
+// Transfers the values of the rows that have a dirty control, or with bAll of all rows.
 template <class Page, size_t N>
 void CarryToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
     CDataExchange save(&page, TRUE);
@@ -27,10 +27,10 @@ void CarryToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
         if (bAll || row.IsDirty(page)) row.carry(page, &save, bAll);
 }
 
-// The color that the control has selected; nothing without a selection.
+// Transfers the color selected in the control, if any.
 void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName);
 
-// The state of a three-state box. The box comes up indeterminate, leaves that state at the first click, and never
-// returns to it: a box that the user has clicked into that state (bAll 0) is set to the opposite of last, its last
-// definite state, which the call keeps.
+// Transfers the state of a three-state check box. Such a box is indeterminate at first, and the first click should make
+// it determinate for good. If the user clicks it into the indeterminate state (bAll 0), it is therefore set to the
+// opposite of last, its last determinate state, which the call updates.
 void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last, const char* pszPropName);

@@ -17,7 +17,7 @@ bool IsRadioButton(HWND window) {
 
 } // namespace
 
-// The window after the group; null if the buttons are the last windows.
+// Returns the window after the group, or null if the buttons are the last windows.
 HWND CRadioGroup::WindowAfter() const {
     HWND window = m_hWnd;
     while (window != nullptr && IsRadioButton(window))
@@ -40,7 +40,7 @@ void CRadioGroup::Exchange(CDataExchange* pDX, int nIDC) {
     if (!IsAnyChecked()) SetStyle(m_hWnd, StyleOf(m_hWnd) | WS_TABSTOP);
 }
 
-// While it takes the focus the button is a check box, which the focus does not click.
+// The button is a check box while it takes the focus, because focus does not click check boxes.
 LRESULT CRadioGroup::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_SETFOCUS || IsAnyChecked()) return CButton::WindowProc(message, wParam, lParam);
     const LONG_PTR style = StyleOf(m_hWnd);

@@ -1,4 +1,4 @@
-// DDX_TextScale.
+// Implements DDX_TextScale.
 
 #include "orlo/pages/scale_text.h"
 

@@ -1,4 +1,4 @@
-// The name of the selected style beside its list.
+// Shows the name of the selected style beside its list.
 
 #include "orlo/pages/style_name.h"
 

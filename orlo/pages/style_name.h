@@ -1,9 +1,9 @@
-// The text beside a list of styles that names the chosen one.
+// Shows the name of the selected style beside its list.
 #pragma once
 
 #include <windows.h>
 
 constexpr int kStyleNameSize = 128;
 
-// Shows the name in that control of the page if it differs from what it shows already, and records it in shown.
+// Sets the text of the page's control unless it already shows the name, and stores the name in shown.
 void ShowStyleName(HWND page, int nID, const char* name, char (&shown)[kStyleNameSize]);

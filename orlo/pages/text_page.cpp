@@ -1,4 +1,4 @@
-// CTextPage: exchange of font, height, style and justification, and the preview with the sample text.
+// CTextPage: exchange of font, height, style and justification, and the preview with its sample text.
 
 #include "orlo/pages/text_page.h"
 
@@ -55,7 +55,7 @@ void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_TEXT_COLOR, m_dwColor, kPropPenColor);
     DDX_CBTableColor(1, pDX, IDC_TEXT_COLOR, m_dwColor);
 
-    // The first exchange runs before the controls have a status to bind to.
+    // Binding requires the status table, which does not exist at the first exchange.
     if (!m_bFirstExchange) {
         for (const int box : kEffectBoxes)
             DDP_TextSetAt(pDX, box, m_wStyle, kPropTextStyle);

@@ -1,5 +1,5 @@
 // The Text page: font, height, font style, color, effects and justification of the selected texts. A height that the
-// host cannot write shows as a blank field, and a text that is not a height is ignored with a beep.
+// host cannot format is shown as a blank field, and text that is not a height is ignored with a beep.
 #pragma once
 
 #include "orlo/export.h"
@@ -18,28 +18,28 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // The host's sample text.
+    // Creates a text graphic with the host's sample text.
     void* CreatePreviewGraphic() override;
-    // All but the height: the preview is fitted to its frame in any case.
+    // Transfers everything but the height, since the preview is scaled to fit its frame.
     void SetPreviewProperties(int bAll) override;
 
 protected:
-    // Each font has its own heights. The height shown before stays selected, whether or not the new font offers it; it
-    // is looked up by its whole text.
+    // Fills the list with the heights of the new font. The previous height stays selected even if the font does not
+    // offer it; it is found by its complete text.
     void OnFontChange();
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Preview; // the rows of SetPreviewProperties
+    struct Preview; // a row of SetPreviewProperties
 
     void ExchangeSize(CDataExchange* pDX);
 
     CString m_strFont;
-    double m_dSize;             // drawing units
+    double m_dSize;             // in drawing units
     unsigned long m_dwColor;    // of the pen
-    unsigned short m_wStyle[2]; // the bits in which the texts differ, and the bits; see exchange/ddx_font.h
-    unsigned short m_wFormat;   // 0 left, 1 center, 2 right
+    unsigned short m_wStyle[2]; // mask of the bits in which the texts differ, and the bits; see exchange/ddx_font.h
+    unsigned short m_wFormat;   // 0: left, 1: center, 2: right
     int m_bFirstExchange;
     CRadioGroup m_formats;
 };
