@@ -1,4 +1,4 @@
-// The DDP_ family.
+// Implements the DDP_ functions.
 
 #include "orlo/exchange/ddp.h"
 
@@ -24,7 +24,8 @@ CGraphicPropertyPage* PageOf(CDataExchange* pDX) {
     return static_cast<CGraphicPropertyPage*>(pDX->m_pDlgWnd);
 }
 
-// Ends with an exchange, and drops the writes that it leaves pending: their members may have been local variables.
+// Lives as long as an exchange, and discards the writes that are still pending at its end, since their members may have
+// been local variables.
 class PendingWritesEnd : public CObject {
 public:
     explicit PendingWritesEnd(CMapWordToOb& records) : m_records(records) {}
@@ -34,7 +35,7 @@ private:
     CMapWordToOb& m_records;
 };
 
-// The value behind the pointer that a record holds: a member, or the pair that begins there.
+// Accesses the value that a record points to: a member, or the pair that begins there.
 template <class T>
 struct Single {
     using Member = T;
@@ -55,7 +56,7 @@ struct Pair {
 template <class Form>
 using EndFunction = void (*)(CDataExchange*, int, typename Form::Member*, const char*);
 
-// Carries out the record of a member of which a control has been edited.
+// Carries out the record of a member with an edited control.
 template <class Form, EndFunction<Form> End>
 void WriteMember(CDataExchange* pDX, int nID, void* pMember, const char* pszPropName) {
     auto* member = static_cast<typename Form::Member*>(pMember);
@@ -63,7 +64,8 @@ void WriteMember(CDataExchange* pDX, int nID, void* pMember, const char* pszProp
     if (!Form::IsMarker(member)) LoadedControls::Of(*PageOf(pDX)).Write(pszPropName, Form::Get(member));
 }
 
-// Carries out the record of a member that keeps its value: the exchange may have read it from its text.
+// Carries out the record of an unedited member: restores its value, which the exchange may have overwritten by parsing
+// the text.
 template <class Form>
 void KeepMember(CDataExchange* pDX, int, void* pMember, const char* pszPropName) {
     auto* member = static_cast<typename Form::Member*>(pMember);
@@ -72,7 +74,7 @@ void KeepMember(CDataExchange* pDX, int, void* pMember, const char* pszPropName)
     Form::Set(member, value);
 }
 
-// A member of several controls is written if one of them has been edited, and keeps its value only if none has.
+// A member with several controls is written if at least one of them has been edited.
 template <class Form, EndFunction<Form> End>
 void RecordIfDirty(CDataExchange* pDX, int nID, typename Form::Member* pMember, const char* pszPropName) {
     CGraphicPropertyPage* page = PageOf(pDX);
@@ -101,7 +103,7 @@ void Bind(CDataExchange* pDX, int nID, typename Form::Member* pMember, const cha
 
 } // namespace
 
-// The overloads of a name differ only in the type of the member.
+// The overloads of a function differ only in the type of the member.
 #define ORLO_DDP(kind, T, argument)                                                                                    \
     void DDP_End##kind(CDataExchange* pDX, int, T* pMember, const char* pszPropName) {                                 \
         if (pDX->m_bSaveAndValidate) PageOf(pDX)->SetProp##kind(pszPropName, argument, 0);                             \
@@ -112,7 +114,7 @@ void Bind(CDataExchange* pDX, int nID, typename Form::Member* pMember, const cha
         });                                                                                                            \
     }
 
-// Not a public overload: its only caller is the record of an unsigned short.
+// Not exported: only used by the record of an unsigned short.
 static void DDP_EndText(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
 ORLO_DDP(Text, unsigned char, *pMember)
@@ -160,7 +162,7 @@ private:
     CWnd* m_window;
 };
 
-// An exception of the host ends that one write only: the other properties are still written.
+// An exception thrown by the host ends only this write. The other properties are still written.
 void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcome) {
     try {
         record.m_pfnEnd(pDX, record.m_nID, record.m_pMember, record.m_pszPropName);
@@ -173,7 +175,7 @@ void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcom
     }
 }
 
-// Returns the number of selected graphics. Not GetFirstObject: this walk does not touch the preview mark.
+// Returns the number of selected graphics. GetFirstObject is not used because it changes the flag kFlagPreview.
 int StampSelection(CGraphicPropertyPage* page) {
     CGraphicPropertySheet* sheet = page->GetSheet();
     auto* set = sheet != nullptr ? static_cast<GraphicStruct*>(sheet->GetGraphics()) : nullptr;

@@ -1,21 +1,23 @@
-// Deferred property exchange: binds a member of a page to a named property of the selection, all or nothing.
+// Deferred property exchange: binds a member of a page to a named property of the selection.
 //
-// Loading, a DDP_ call merges the property into the member at once. Saving, it writes nothing: if the control nID is
-// dirty it leaves a record, and DDP_PostProcessing, the last call of DoDataExchange, carries the records out. A DDX_ or
-// DDV_ that refuses a value ends the exchange before that, and then no property has been touched.
+// When loading, a DDP_ call immediately merges the property into the member. When saving, it writes nothing: if the
+// control nID is dirty, the call adds a pending write, and DDP_PostProcessing, the last call of DoDataExchange, carries
+// out all pending writes. If a DDX_ or DDV_ function rejects a value, the exchange ends before any property is changed.
 //
 //   DDP_Text(pDX, IDC_WIDTH, m_dWidth, "PenWidth");      // first the property
 //   DDX_Text(1, pDX, IDC_WIDTH, m_dWidth);               // then the control
 //   if (IsEdited(IDC_WIDTH)) DDV_MinMaxDouble(1, pDX, m_dWidth, 0.0, 1e38); // then the limits
 //   DDP_PostProcessing(pDX);
 //
-// A dirty control that shows what it showed when it was loaded, or written, leaves no write pending: see
-// CGraphicPropertyPage::IsEdited. Its member has the value that was loaded when the exchange begins and when it ends;
-// in between a DDX_ may have read the text. A number of which an edited control shows "*****" becomes the marker.
+// A dirty control that shows the same as when it was loaded or written writes nothing; see
+// CGraphicPropertyPage::IsEdited. Its member has the loaded value at the start and at the end of the exchange; a DDX_
+// function may set it from the text in between. If an edited control shows "*****" for a number, the member becomes the
+// marker.
 //
-// pDX->m_pDlgWnd is a CGraphicPropertyPage. Member and name are kept by address and must live until DDP_PostProcessing
-// has run; the member may be a local variable of DoDataExchange. A member that then holds the indeterminate marker
-// writes nothing. The order of the writes is not defined: no property may depend on another being written first.
+// pDX->m_pDlgWnd must be a CGraphicPropertyPage. Member and name are stored by address and must stay valid until
+// DDP_PostProcessing has run; the member may be a local variable of DoDataExchange. A member that contains the
+// indeterminate marker at that point is not written. The order of writes is undefined, so no property may depend on
+// another being written first.
 #pragma once
 
 #include <afxwin.h>
@@ -36,12 +38,12 @@ ORLO_API void DDP_Check(CDataExchange* pDX, int nID, unsigned short& member, con
 ORLO_API void DDP_Radio(CDataExchange* pDX, int nID, int& member, const char* pszPropName);
 ORLO_API void DDP_Radio(CDataExchange* pDX, int nID, unsigned short& member, const char* pszPropName);
 
-// pMember is a pair: the mask of bits in which the graphics differ, and the bits. DDP_TextSetAt binds a further control
-// to a pair that DDP_Bits has loaded.
+// pMember points to a pair: the mask of bits in which the graphics differ, and the bits. DDP_TextSetAt binds another
+// control to a pair that DDP_Bits has loaded.
 ORLO_API void DDP_Bits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 ORLO_API void DDP_TextSetAt(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
-// What carries a record out: saving, writes the member to the property of the selection.
+// Carry out a pending write: when saving, write the member to the property of the selection.
 ORLO_API void DDP_EndText(CDataExchange* pDX, int nID, unsigned char* pMember, const char* pszPropName);
 ORLO_API void DDP_EndText(CDataExchange* pDX, int nID, int* pMember, const char* pszPropName);
 ORLO_API void DDP_EndText(CDataExchange* pDX, int nID, unsigned int* pMember, const char* pszPropName);
@@ -56,7 +58,7 @@ ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, int* pMember, const char
 ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 ORLO_API void DDP_EndBits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
-// Saving: carries out the records and stamps every selected graphic with the page's number. What a write throws ends
-// that property, not the others; a CException is dropped. Afterwards one message box says how many of the graphics did
-// not accept a value (PropSet gave 0, or threw), and what else was thrown.
+// When saving, carries out the pending writes and sets the page's number on every selected graphic. An exception during
+// a write ends that write only; a CException is ignored. Finally one message box reports how many graphics rejected a
+// value (PropSet returned 0 or threw), and any other exception text.
 ORLO_API void DDP_PostProcessing(CDataExchange* pDX);

@@ -1,4 +1,4 @@
-// Checks of values against limits.
+// Validation of values against limits.
 
 #include "orlo/exchange/ddv.h"
 
@@ -10,8 +10,7 @@ namespace {
 constexpr double kLargest = 1e38;
 constexpr double kSmallestFontSize = 1e-7;
 
-// Limits go through long: every width here has at most 32 bits, and the format distinguishes signed
-// from unsigned.
+// All limits are passed as long: no type here has more than 32 bits, and the format distinguishes signed from unsigned.
 template <class Whole>
 int CheckWhole(int bReport, CDataExchange* pDX, Whole value, Whole min, Whole max, const char* format) {
     if (value >= min && value <= max) return 1;

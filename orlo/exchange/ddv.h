@@ -1,9 +1,9 @@
-// Checks of values against limits. See ddx.h for the convention.
+// Validation of values against limits. See ddx.h for the convention.
 //
 //   DDX_Text(1, pDX, 104, m_dScale);
 //   DDV_MinMaxDouble(1, pDX, m_dScale, 1e-7, 1e7);   // out of range: a message with the limits, and Fail
 //
-// Limits are inclusive. A check fails in the save direction only; in the load direction the result is 1.
+// Limits are inclusive. Validation can fail only when saving; when loading the functions return 1.
 #pragma once
 
 #include <afxwin.h>
@@ -21,12 +21,12 @@ ORLO_API int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long valu
 ORLO_API int DDV_MinMaxFloat(int bReport, CDataExchange* pDX, const float& value, float min, float max);
 ORLO_API int DDV_MinMaxDouble(int bReport, CDataExchange* pDX, const double& value, double min, double max);
 
-// An angle: from -1e38 to 1e38.
+// Validates an angle: from -1e38 to 1e38.
 ORLO_API int DDV_Radians(int bReport, CDataExchange* pDX, const double& value);
-// From 1e-7 to 1e38.
+// Validates a font height: from 1e-7 to 1e38.
 ORLO_API int DDV_FontSize(int bReport, CDataExchange* pDX, const double& value);
-// Above 0.0.
+// Validates that the value is greater than 0.0.
 ORLO_API int DDV_PositiveValue(int bReport, CDataExchange* pDX, const double& value);
 
-// At most nChars bytes. Sets no limit on the control.
+// Validates that the text has at most nChars bytes. Does not limit the text of the control.
 ORLO_API int DDV_MaxChars(int bReport, CDataExchange* pDX, const CString& value, int nChars);

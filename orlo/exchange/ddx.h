@@ -1,17 +1,17 @@
-// The exchange of values between variables and controls: every DDX_ and DDV_ function.
+// Data exchange between variables and controls: all DDX_ and DDV_ functions.
 //
-// The functions have the framework's names and one more argument, so that the same code serves a page that is saved and
-// a preview that follows every key:
+// The functions have the framework's names and an additional first parameter, so that the same code can save a page and
+// update a preview at every keystroke:
 //
-//   DDX_Text(1, pDX, 104, m_dScale);          // an invalid text: message box, focus to the control, exception
-//   if (DDX_Text(0, pDX, 104, scale)) ...     // an invalid text: nothing is shown, the result is 0
+//   DDX_Text(1, pDX, 104, m_dScale);          // invalid text: message box, focus to the control, exception
+//   if (DDX_Text(0, pDX, 104, scale)) ...     // invalid text: shows nothing and returns 0
 //
-// For all of them:
-//   bReport  non-zero: a failure is shown where the function has a message, and leaves by CDataExchange::Fail, which
-//   does
-//            not return. Zero: a failure shows nothing and returns 0.
-//   pDX      m_bSaveAndValidate non-zero carries the control into the variable, zero the variable into the control.
-//   result   1: done, or nothing to do. 0: failed. Unless it says otherwise, the variable is then as before.
+// Parameters and result of all functions:
+//   bReport  nonzero: on failure, shows the function's message, if any, and calls CDataExchange::Fail, which does not
+//            return. Zero: on failure, shows nothing and returns 0.
+//   pDX      m_bSaveAndValidate nonzero transfers from the control to the variable, zero from the variable to the
+//            control.
+//   result   1: done, or nothing to do. 0: failed. The variable is then unchanged unless documented otherwise.
 #pragma once
 
 #include "orlo/exchange/ddv.h"

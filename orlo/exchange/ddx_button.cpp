@@ -1,4 +1,4 @@
-// Exchange with check boxes and radio groups.
+// Data exchange with check boxes and radio groups.
 
 #include "orlo/exchange/ddx_button.h"
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-// The next window of the group, or null after its last.
+// Returns the next window of the group, or null after the last.
 HWND NextInGroup(HWND window) {
     const HWND next = ::GetWindow(window, GW_HWNDNEXT);
     return next && !(::GetWindowLongPtrA(next, GWL_STYLE) & WS_GROUP) ? next : nullptr;

@@ -1,4 +1,4 @@
-// Exchange of a control object and of a scroll bar's position.
+// Data exchange with control objects and scroll bars.
 
 #include "orlo/exchange/ddx_control.h"
 

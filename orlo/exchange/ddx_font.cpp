@@ -1,4 +1,4 @@
-// Exchange of font values: style, height and effects of a text.
+// Data exchange of font properties: style, height and effects of a text.
 
 #include "orlo/exchange/ddx_font.h"
 
@@ -17,7 +17,7 @@
 namespace {
 
 constexpr unsigned short kStyleBits = kTextItalic | kTextBold;
-constexpr int kTextSizeKind = 1; // of DrawingStdNumericToText
+constexpr int kTextSizeKind = 1; // argument of DrawingStdNumericToText
 constexpr int kSizeTextSize = 0x100;
 
 struct Effect {

@@ -1,4 +1,4 @@
-// Exchange with the selection of plain list boxes and combo boxes.
+// Data exchange with the selection of plain list boxes and combo boxes.
 
 #include "orlo/exchange/ddx_list.h"
 
@@ -11,7 +11,8 @@ void ExchangeIndex(CDataExchange* pDX, const ControlItems& items, int& value) {
     if (pDX->m_bSaveAndValidate)
         value = items.Selected();
     else
-        items.Select(value < items.Count() ? value : -1); // beyond the list it would clear only some systems' lists
+        items.Select(value < items.Count() ? value : -1); // an index beyond the list clears the selection only on some
+                                                          // systems
 }
 
 bool SelectExact(const ControlItems& items, const char* text) {
@@ -37,7 +38,7 @@ int DDX_CBString(int, CDataExchange* pDX, int nIDC, CString& value) {
     if (pDX->m_bSaveAndValidate) {
         value = WindowText(control);
     } else if (!SelectExact(items, value)) {
-        items.Select(-1); // a drop-down list, which has no field for another text, keeps its choice
+        items.Select(-1); // a drop-down list has no field for other text and keeps its selection
         AfxSetWindowText(control, value);
     }
     return 1;

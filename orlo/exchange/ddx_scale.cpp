@@ -1,4 +1,4 @@
-// Exchange of a drawing scale with a combo box of scale texts.
+// Data exchange of a drawing scale with a combo box of scale texts.
 
 #include "orlo/exchange/ddx_scale.h"
 
@@ -13,7 +13,8 @@ namespace {
 
 constexpr int kScaleTextSize = 0x100;
 
-// Index of the scale's item, whose text replaces `text`; a new item where no scale is equal.
+// Returns the index of the item with an equal scale, and replaces `text` by its text. Inserts a new item if there is
+// none.
 int FindOrInsertScale(const ControlItems& items, TableStruct* units, double scale, CString& text) {
     int place = -1;
     const int count = items.Count();

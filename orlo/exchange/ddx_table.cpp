@@ -1,4 +1,4 @@
-// Exchange of an entry of a host table.
+// Data exchange of an entry of a host table.
 
 #include "orlo/exchange/ddx_table.h"
 
@@ -16,7 +16,8 @@ namespace {
 constexpr int kPlainNameSize = 64;
 constexpr int kDigits = 8;
 
-// The key of an item as looked up: the tab keeps the match to all eight digits, case does not count.
+// The beginning of an item's text, used to find it. The tab makes all eight digits significant; the comparison ignores
+// case.
 struct LookupKey {
     explicit LookupKey(unsigned int id) { ::wsprintfA(text, "%08lx\t", id); }
     char text[kDigits + 2];
@@ -26,7 +27,7 @@ unsigned int KeyOf(const char* digits) {
     return static_cast<unsigned int>(std::strtol(digits, nullptr, 16));
 }
 
-// The digits at the head of what the control shows.
+// Returns the number at the beginning of the window text.
 unsigned int KeyOfWindowText(HWND control) {
     char digits[kDigits + 1] = "";
     ::GetWindowTextA(control, digits, sizeof digits);

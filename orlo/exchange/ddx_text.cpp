@@ -1,4 +1,4 @@
-// Exchange of numbers and texts with edit controls.
+// Data exchange of numbers and texts with edit controls.
 
 #include "orlo/exchange/ddx_text.h"
 
@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr int kTextSize = 32;  // of a number that the exchange writes
+constexpr int kTextSize = 32;  // for a formatted number
 constexpr int kRealDigits = 6; // significant digits of a real number in a field
 
-// How a kind of whole number is written, read, and refused.
+// Formatting, parsing and failure message of an integer type.
 struct WholeFormat {
     const char* print;
     bool isUnsigned;
@@ -48,7 +48,7 @@ int ExchangeWhole(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& 
     return result;
 }
 
-// Saves into data, loads from value: a double field shows its own value and saves a float.
+// Saves to data and loads from value: a double is displayed with its own precision but saved as a float.
 int ExchangeRealText(int bReport, CDataExchange* pDX, int nIDC, float& data, double value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
@@ -61,7 +61,7 @@ int ExchangeRealText(int bReport, CDataExchange* pDX, int nIDC, float& data, dou
     return 1;
 }
 
-// What a blank field and a disabled control mean; everything else is the plain exchange.
+// Handles blank fields and disabled controls, and otherwise calls the plain exchange.
 template <class Value>
 int ExchangeBlank(int bReport, CDataExchange* pDX, int nIDC, Value& value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
@@ -121,8 +121,7 @@ int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, float& value) {
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, double& value) {
-    // Only ExchangeRealText prepares the control, so a field with the marker never becomes the one to return
-    // to.
+    // Only ExchangeRealText prepares the control, so that a field with the marker never gets the focus on failure.
     const HWND control = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
     if (pDX->m_bSaveAndValidate) {
         if (control && IsIndeterminateText(WindowText(control))) return 0;

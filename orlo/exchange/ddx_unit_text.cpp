@@ -1,4 +1,4 @@
-// Exchange of lengths and angles with edit controls, as the drawing writes them.
+// Data exchange of lengths and angles in the drawing's formats with edit controls.
 
 #include "orlo/exchange/ddx_unit_text.h"
 
@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr int kTextSize = 0x100; // with the NUL
+constexpr int kTextSize = 0x100; // including the NUL
 constexpr double kSmallestScale = 1e-7;
 constexpr double kDegrees = 57.29577951308232, kRadians = 0.017453292519943295;
 
-// Carries the text of an edit control through the host: read(text) and write(buffer) return the host's result.
+// Exchanges the text of an edit control through the host: read(text) and write(buffer) return the host's result.
 template <class Read, class Write>
 int ExchangeHostText(int bReport, CDataExchange* pDX, unsigned int nIDC, double& value, int bBlank, Read read,
                      Write write) {
@@ -61,7 +61,7 @@ int DDX_TextLinear(int bReport, CDataExchange* pDX, unsigned int nIDC, double& v
         [&](const char* text) {
             value = dDefault;
             const int read = ::DrawingStdTextToNumeric(pDrawing, text, &value, nFormat);
-            if (!read) value = dDefault; // whatever the host has left there
+            if (!read) value = dDefault; // overrides whatever the host has stored
             return read;
         },
         [&](char* buffer) { return ::DrawingStdNumericToText(pDrawing, value, buffer, kTextSize, nFormat); });

@@ -1,4 +1,4 @@
-// Exchange between a control and a variable of a host table.
+// Data exchange between a control and a variable of a host table.
 
 #include "orlo/exchange/ddx_variable.h"
 
@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int kEditSize = 0x80, kTextSize = 0x100; // with the NUL
-constexpr double kCustomary = 0.025;               // inches
+constexpr int kEditSize = 0x80, kTextSize = 0x100; // including the NUL
+constexpr double kCustomary = 0.025;               // in inches
 constexpr int kLimitDigits = 15;
 
 uint16_t Key(unsigned long nID) {
@@ -40,7 +40,7 @@ int WholeVariable(TableStruct* pTable, unsigned long nID, int missing) {
     return static_cast<int>(value);
 }
 
-// A whole number through any exchange of ints. The result is always 1.
+// Exchanges an integer through a function for int. Always returns 1.
 template <class Exchange>
 int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing, Exchange exchange) {
     int value = pDX->m_bSaveAndValidate ? missing : WholeVariable(pTable, nID, missing);
@@ -49,7 +49,7 @@ int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, in
     return 1;
 }
 
-// Inches of the field, checked.
+// Converts the text of the field to inches and validates it.
 int SaveDeviceInches(int bReport, CDataExchange* pDX, const CString& text, TableStruct* pUnits, double min, double max,
                      unsigned int nIDPrompt, double& inches) {
     double length = kCustomary * kMillimetersPerInch;

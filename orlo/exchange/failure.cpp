@@ -1,4 +1,4 @@
-// How an exchange function fails.
+// Failure of exchange functions.
 
 #include "orlo/exchange/failure.h"
 

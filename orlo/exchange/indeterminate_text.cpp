@@ -1,4 +1,4 @@
-// Fields that show no value.
+// Recognizes fields that show no value.
 
 #include "orlo/exchange/indeterminate_text.h"
 

@@ -1,14 +1,14 @@
-// Fields that show no value: blank ones, and those of a number in which the graphics differ.
+// Recognizes fields that show no value: blank ones, and those of a number that differs between graphics.
 #pragma once
 
 #include <windows.h>
 
-// Returns whether the window's text has nothing but blanks and tabs.
+// Returns whether the window's text consists of blanks and tabs only.
 bool IsBlankText(HWND window);
 
-// Whether the text is kIndeterminateStars, exactly.
+// Returns whether the text is exactly kIndeterminateStars.
 bool IsIndeterminateText(const char* text);
 void SetIndeterminateText(HWND window);
 
-// Whether the number counts as the indeterminate marker, as far as a text field distinguishes numbers (CompareDoubles).
+// Returns whether the number equals the indeterminate marker with the precision of a text field (CompareDoubles).
 bool IsNearlyIndeterminate(double value);

@@ -1,4 +1,4 @@
-// Reading numbers from texts.
+// Parses numbers.
 
 #include "orlo/exchange/number_text.h"
 
@@ -24,7 +24,7 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
     const char* const first = SkipBlanks(text);
     char* end = nullptr;
     const long result = isUnsigned ? static_cast<long>(std::strtoul(first, &end, 10)) : std::strtol(first, &end, 10);
-    // Zero must be written as a zero: an empty text or a lone sign is refused.
+    // strtol also returns 0 for an empty text or a lone sign, so a zero must begin with the digit 0.
     if (result == 0 && *first != '0') return false;
     if (*SkipBlanks(end) != '\0') return false;
     value = result;
@@ -47,7 +47,7 @@ bool IsBeginningOfReal(const char* text) {
     if (ScanRealText(text, value)) return false;
     const auto open = std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
     const std::string closed(static_cast<size_t>(std::max<ptrdiff_t>(open, 0)), ')');
-    // A bar for "6 1", from which "6 1/2" may come.
+    // The bar completes "6 1", which may become "6 1/2".
     for (const char* next : {"", "1", "/1"})
         if (ScanRealText((begun + next + closed).c_str(), value)) return true;
     return false;

@@ -1,4 +1,4 @@
-// The texts of controls.
+// Reads and clears the texts of controls.
 
 #include "orlo/exchange/window_text.h"
 

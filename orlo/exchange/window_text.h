@@ -1,13 +1,13 @@
-// The texts of controls, as the exchange functions read them. Internal to the library.
+// Reads and clears the texts of controls for exchange functions. Internal to the library.
 #pragma once
 
 #include <afxwin.h>
 
-// The whole text; up to 255 characters of a control that does not give its length.
+// Returns the whole text, or at most 255 characters if the control does not report its length.
 CString WindowText(HWND control);
 
-// Takes selection and text out of a combo.
+// Clears selection and text of a combo box.
 void ShowBlank(HWND combo);
 
-// What a combo shows: the text of its selected item, or its window text without one.
+// Returns the text of the selected item of a combo box, or its window text without a selection.
 CString ShownText(HWND combo);
