@@ -1,5 +1,5 @@
-// One pending write of a page. The map that holds it has 16-bit keys made from the member's address: members that share
-// a key are chained.
+// A pending write of a page. Records are stored in a map with 16-bit keys derived from the member's address; members
+// with the same key are chained.
 #pragma once
 
 #include <afxcoll.h>
@@ -20,10 +20,10 @@ public:
     CDDPRecord* m_pNext;       // the next record of the same key, owned
 };
 
-// Adds a record; it replaces an earlier one of the same member.
+// Adds a record, replacing an earlier one of the same member.
 void AddRecord(CMapWordToOb& records, CDDPRecord* record);
 
 bool HasRecord(const CMapWordToOb& records, const void* member);
 
-// Takes every record out of the map and returns the chain of them, which the caller owns.
+// Removes all records from the map and returns them as a chain that the caller owns.
 CDDPRecord* TakeRecords(CMapWordToOb& records);

@@ -1,4 +1,4 @@
-// Bucket comparison on bit patterns.
+// Compares numbers by buckets of bit patterns.
 
 #include "orlo/binding/fuzzy.h"
 
@@ -9,14 +9,14 @@ namespace {
 
 constexpr uint32_t kSign = 0x80000000u;
 
-// The differences between floating-point layouts, on the word that holds sign and exponent.
+// Constants of a floating-point format, for the word that contains sign and exponent.
 struct Layout {
-    uint32_t half;        // added before the low bits are dropped; exact halves go down
-    uint32_t keep;        // exponent and top 16 fraction bits
-    uint32_t farFromZero; // any of these bits makes a value more than nearly zero
+    uint32_t half;        // added before the low bits are dropped; rounds exact halves down
+    uint32_t keep;        // mask of the exponent and the top 16 fraction bits
+    uint32_t farFromZero; // values with any of these bits are not nearly zero
 };
 
-constexpr Layout kDouble = {0x7, 0x7FFFFFF0, 0x7FFFFFF8}; // of the high word
+constexpr Layout kDouble = {0x7, 0x7FFFFFF0, 0x7FFFFFF8}; // for the high word
 constexpr Layout kFloat = {0x3F, 0x7FFFFF80, 0x7FFFFFC0};
 
 uint32_t HighWord(const double* value) {

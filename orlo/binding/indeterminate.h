@@ -1,6 +1,6 @@
-// The indeterminate value, which means that the selected graphics differ: one for each member type.
+// The indeterminate values, one per member type, which mark that the selected graphics differ.
 //
-// A merged member holds it when two graphics disagree; a member that still holds it at the write-back is skipped, so
+// Merging stores the marker when two graphics differ. A member that still contains the marker is not written back, so
 // that every graphic keeps its own value.
 #pragma once
 
@@ -10,14 +10,15 @@
 #include <cstdint>
 #include <cstring>
 
-constexpr int kIndeterminateCheck = 2;                // the third state of a check box
-constexpr char kIndeterminateString[] = "\xFF";       // of a CString, the whole text: one may begin so in a code page
-constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // of an identifier or color
+constexpr int kIndeterminateCheck = 2;                // third state of a check box
+constexpr char kIndeterminateString[] = "\xFF";       // the complete text of a CString; in some code pages, other texts
+                                                      // may begin with this character
+constexpr unsigned int kIndeterminateId = 0xFFFFFFFF; // for an identifier or color
 
-// What a field shows for the marker. A text that reads so means no value.
-constexpr char kIndeterminateStars[] = "*****";          // of a number
-constexpr char kIndeterminateWord[] = "Indeterminate";   // of a scale or an angle, and as the name of a style
-constexpr char kIndeterminateInfo[] = "<Indeterminate>"; // of the attribute text
+// Texts that fields show for the marker, and that mean no value.
+constexpr char kIndeterminateStars[] = "*****";          // for a number
+constexpr char kIndeterminateWord[] = "Indeterminate";   // for a scale, an angle or a style name
+constexpr char kIndeterminateInfo[] = "<Indeterminate>"; // for the attribute text
 
 template <class T>
 struct Indeterminate;

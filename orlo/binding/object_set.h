@@ -1,15 +1,15 @@
-// The graphics that a page works on: the members of a set that pass a filter.
+// The graphics that a page works on: the members of a set that match a filter.
 #pragma once
 
 #include "orlo/host/graphic.h"
 
-// The walk sets the preview mark on the graphics that it returns, or removes it.
+// Iteration sets or clears the flag kFlagPreview of the graphics that it returns.
 class ObjectSet {
 public:
-    // Without a set it is empty.
+    // Empty if set is null.
     ObjectSet(GraphicStruct* set, uint32_t filter, bool preview) : m_set(set), m_filter(filter), m_preview(preview) {}
 
-    // position is the caller's 32-bit word. Null at the end.
+    // position points to the caller's 32-bit position. Returns null at the end.
     GraphicStruct* First(void* position) const {
         return m_set ? Marked(::GraphicFirst(m_set, position, 1, m_filter)) : nullptr;
     }
@@ -20,7 +20,7 @@ public:
 private:
     GraphicStruct* Marked(GraphicStruct* graphic) const {
         if (graphic == nullptr) return nullptr;
-        // Written only where it changes: a walk over many graphics should not dirty the memory of them all.
+        // Writes only if the flag changes, so that iterating over many graphics does not dirty all their memory.
         if (((graphic->dwFlags & kFlagPreview) != 0) != m_preview) graphic->dwFlags ^= kFlagPreview;
         return graphic;
     }

@@ -1,5 +1,5 @@
-// A named property of all graphics of a set, merged into one value or written from one. Knows neither pages nor units:
-// values move as the graphics store them.
+// Merges a named property of all graphics of a set into one value, or writes one value to all. Independent of pages and
+// units: values are used as graphics store them.
 //
 //   double width;
 //   if (Merge<Double>(set, "PenWidth", &width)) ...   // a graphic has it: the common value, or the marker
@@ -16,7 +16,7 @@
 
 namespace orlo::binding {
 
-// One property of one graphic. The number is the graphic's own, so it is looked up for each.
+// A property of one graphic. The number may differ between graphics and is looked up for each.
 struct Property {
     GraphicStruct* graphic;
     const PropertyTable* table;
@@ -40,7 +40,7 @@ bool ForEachProperty(const ObjectSet& set, const char* name, Visit visit) {
     return found;
 }
 
-// How a member's type travels: its value type, the variable that PropGet fills, and when two values differ.
+// Traits of a member type: its value type, the variable that PropGet fills, and the comparison of values.
 template <class T, int Vt>
 struct Plain {
     using Member = T;
@@ -83,13 +83,14 @@ int Merge(const ObjectSet& set, const char* name, typename Type::Member* member)
     });
 }
 
-// The set that a write goes to, and where the graphics that kept their value are collected.
+// The set that is written to, and a collection of the graphics whose value was not changed.
 struct WriteTarget {
     ObjectSet set;
     std::set<const GraphicStruct*>* unchanged; // may be null
 };
 
-// After a write that threw at the graphic after last (null: at the first): that one and all further ones are unchanged.
+// After an exception at the graphic that follows last (at the first if last is null), records that graphic and all
+// following ones as unchanged.
 inline void AddRest(const WriteTarget& target, const char* name, const GraphicStruct* last) {
     bool after = last == nullptr;
     ForEachProperty(target.set, name, [&](const Property& property) {
@@ -99,7 +100,7 @@ inline void AddRest(const WriteTarget& target, const char* name, const GraphicSt
     });
 }
 
-// write(Property) returns what PropSet returned.
+// write(Property) returns the result of PropSet.
 template <class WriteOne>
 int WriteEach(const WriteTarget& target, const char* name, WriteOne write) {
     const GraphicStruct* last = nullptr;
@@ -121,8 +122,8 @@ int Write(const WriteTarget& target, const char* name, const typename Type::Memb
     return WriteEach(target, name, [&](const Property& property) { return property.Set(Type::vt, &value); });
 }
 
-// Whether two multibyte texts are equal is the same for characters and for bytes. A loop of our own, since the
-// runtime's comparison is a call across libraries for each graphic: bench merge_text.
+// Multibyte strings are equal exactly if their bytes are, so comparing bytes is enough. The loop is faster than the
+// runtime's comparison, which is a call to another DLL per graphic; measured by bench merge_text.
 inline bool TextsDiffer(const char* a, const char* b) {
     while (*a == *b) {
         if (*a == '\0') return false;
@@ -154,15 +155,15 @@ inline int WriteText(const WriteTarget& target, const char* name, const CString&
     return WriteEach(target, name, [text](const Property& property) { return property.Set(VT_BSTR, text); });
 }
 
-// Any value below 1 is written as 0; above 1 nothing is written.
+// Writes any value below 1 as 0, and nothing for values above 1.
 inline int WriteCheck(const WriteTarget& target, const char* name, int value) {
     if (value > 1) return 0;
     const int checked = value == 1;
     return WriteEach(target, name, [&](const Property& property) { return property.Set(VT_BOOL, &checked); });
 }
 
-// pair: a mask of the bits in which graphics differ, and the bits of the first graphic. No early end here: each further
-// graphic can add bits to the mask.
+// pair: a mask of the bits in which graphics differ, and the bits of the first graphic. Visits all graphics, since each
+// may add bits to the mask.
 inline int MergeBits(const ObjectSet& set, const char* name, unsigned short* pair) {
     unsigned short mask = 0, base = 0;
     bool first = true;
@@ -179,7 +180,7 @@ inline int MergeBits(const ObjectSet& set, const char* name, unsigned short* pai
     return found;
 }
 
-// Bits inside the mask keep each graphic's own state.
+// Bits set in the mask keep their state in each graphic.
 inline int WriteBits(const WriteTarget& target, const char* name, const unsigned short* pair) {
     const unsigned short mask = pair[0], bits = pair[1];
     return WriteEach(target, name, [&](const Property& property) {
