@@ -1,4 +1,4 @@
-// The brush scale of a sample.
+// Computes the brush scale of a sample.
 
 #include "orlo/samples/hatch_scale.h"
 

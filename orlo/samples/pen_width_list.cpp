@@ -1,4 +1,4 @@
-// CPenWidthList: reading a list and its aliases from the configuration file.
+// CPenWidthList: reads a list and its aliases from the configuration file.
 
 #include "orlo/samples/pen_width_list.h"
 
@@ -13,13 +13,13 @@
 namespace {
 
 constexpr int kEntrySize = 256;
-constexpr int kMostAliases = 100; // limit for circular aliases
+constexpr int kMostAliases = 100; // limit that ends circular aliases
 constexpr char kAlias = '*';
-constexpr int kNumberSize = 32; // of DoubleToString
+constexpr int kNumberSize = 32; // buffer size for DoubleToString
 constexpr int kDigits = 15;
 
-// The file has its decimal points whatever the host's decimal mark. Returns the number as the host writes it, in the
-// buffer, or the token itself if it is not a plain number.
+// The file always uses decimal points. Returns the number in the host's format, stored in the buffer, or the token
+// itself if it is not a plain number.
 const char* HostNumber(const char* token, char (&buffer)[kNumberSize]) {
     while (*token == ' ' || *token == '\t')
         ++token;
@@ -48,7 +48,7 @@ const char* CPenWidthList::First(AppStruct* application, TableStruct* units, con
     return NextItem(m_strBuffer.GetBuffer(kEntrySize));
 }
 
-// Follows aliases to a list; m_szUnit is then the key of the list.
+// Follows aliases to a list and sets m_szUnit to the key of the list.
 bool CPenWidthList::ReadEntry(const char* path, const char* section) {
     for (int step = 0; step < kMostAliases; ++step) {
         char* text = m_strBuffer.GetBuffer(kEntrySize);

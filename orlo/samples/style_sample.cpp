@@ -1,4 +1,4 @@
-// The sample by which a control shows a style.
+// The sample that shows a style in a control.
 
 #include "orlo/samples/style_sample.h"
 

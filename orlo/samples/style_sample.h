@@ -1,5 +1,5 @@
-// The sample by which a control shows a style: a small graphic of the host that is restyled for each item,
-// and the viewport in which the host draws it.
+// The sample that shows a style in a control: a small graphic of the host that is restyled for each item, and the
+// viewport in which the host draws it.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,7 @@
 #include "orlo/host/table.h"
 #include "orlo/host/viewport.h"
 
-// Unties a graphic from its drawing and frees it.
+// Detaches a graphic from its drawing and frees it.
 struct DisposeSampleGraphic {
     void operator()(GraphicStruct* graphic) const;
 };
@@ -18,9 +18,8 @@ struct DisposeSampleGraphic {
 using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
 using SampleViewport = orlo::host::OwnedViewport;
 
-// Ties the sample to the drawing that owns the table of its styles; without a table unties it, so that a
-// drawing is released before the host closes it. makeGraphic is called if the control has been given a table
-// before it has a sample.
+// Attaches the sample to the drawing that owns the table of styles. Without a table detaches it, so that it does not
+// refer to a drawing that the host closes. makeGraphic is called if the control gets a table before it has a sample.
 template <class MakeGraphic>
 void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table, MakeGraphic makeGraphic) {
     if (table && !graphic) graphic = makeGraphic();
@@ -30,8 +29,8 @@ void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct*
     if (viewport) ::ViewportSetDrawing(viewport.get(), drawing);
 }
 
-// Draws the sample as it is styled now, fitted into the cell (device pixels). dc is left as it was.
+// Draws the sample with its current style, scaled to the cell (device pixels). The state of dc is preserved.
 void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell);
 
-// Width of the sample in drawing units.
+// Returns the width of the sample in drawing units.
 double SampleWidth(GraphicStruct* graphic);

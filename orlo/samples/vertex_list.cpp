@@ -1,4 +1,4 @@
-// Vertex lists.
+// Creates graphics from vertex lists.
 
 #include "orlo/samples/vertex_list.h"
 

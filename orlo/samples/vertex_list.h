@@ -1,4 +1,4 @@
-// Builds the graphics by which pages and controls show what a graphic would look like: previews and samples.
+// Creates the graphics of previews and samples.
 #pragma once
 
 #include <initializer_list>
@@ -7,15 +7,15 @@
 #include "orlo/samples/style_sample.h"
 
 struct ListedVertex {
-    double x, y, z; // drawing units
-    bool drawn;     // the segment to it
+    double x, y, z; // in drawing units
+    bool drawn;     // whether the segment that ends here is drawn
 };
 
-// A new vertex graphic of these vertices, the caller's. Null if it cannot be made.
+// Creates a vertex graphic that the caller owns. Returns null on failure.
 GraphicStruct* NewVertexList(std::initializer_list<ListedVertex> vertices);
 
-// The same with an undrawn part that holds its extents at the unit square.
+// Adds an undrawn segment that keeps the extents at the unit square.
 GraphicStruct* NewPreviewShape(std::initializer_list<ListedVertex> vertices);
 
-// The same as a sample, in pen color 0.
+// Creates a sample with pen color 0.
 SampleGraphic NewSample(std::initializer_list<ListedVertex> vertices);
