@@ -1,4 +1,4 @@
-// The object that a screen reader gets for a window: the system's own, with some of its answers replaced.
+// The accessibility object of a window: the system's own, with some of its results replaced.
 
 #include "orlo/win/accessible_window.h"
 
@@ -12,10 +12,10 @@
 
 namespace {
 
-// The import library's identifier of the interface is not the interface's.
+// The import library's definition of the interface identifier is wrong.
 constexpr IID kAccessible = {0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
-constexpr long kTextOfCombo = 1; // the system's number of that part of a combo box
+constexpr long kTextOfCombo = 1; // the system's child number of that part of a combo box
 
 std::string WindowText(HWND window) {
     std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
@@ -36,7 +36,7 @@ bool IsGroupBox(HWND window) {
     return IsLabel(window) && (::GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
-// The smallest group box whose rectangle contains the middle of the control.
+// Returns the smallest group box whose rectangle contains the center of the control.
 HWND GroupAround(HWND control) {
     RECT rect;
     ::GetWindowRect(control, &rect);
@@ -59,7 +59,7 @@ HRESULT ToBstr(const std::string& text, BSTR* result) {
     return *result ? S_OK : E_OUTOFMEMORY;
 }
 
-// Interfaces of COM have no virtual destructor: an object deletes itself.
+// COM interfaces have no virtual destructor; an object deletes itself.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
@@ -109,7 +109,7 @@ public:
         *count = *items;
         return S_OK;
     }
-    // An item is no object of its own.
+    // Items are child elements without their own objects.
     STDMETHODIMP get_accChild(VARIANT child, IDispatch** object) override {
         if (!HasItems()) return system_->get_accChild(child, object);
         *object = nullptr;
@@ -336,7 +336,7 @@ RECT AccessibleListBox::ItemRect(HWND window, int index) const {
     return rect;
 }
 
-// The list tells its parent of a selection by the keyboard or the mouse only.
+// A list box notifies its parent only if the user selects an item.
 void AccessibleListBox::SelectItem(HWND window, int index) const {
     ::SendMessageA(window, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     ::SendMessageA(::GetParent(window), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(window), LBN_SELCHANGE),

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// A system callback. A lambda would not have the required calling convention in 32-bit programs.
+// A system callback, not a lambda because of the calling convention in 32-bit programs.
 template <class Visit>
 BOOL CALLBACK VisitChild(HWND child, LPARAM visit) {
     (*reinterpret_cast<Visit*>(visit))(child);

@@ -16,8 +16,8 @@ inline std::wstring Widen(std::string_view text, UINT codePage) {
     return wide;
 }
 
-// Returns the text in the code page. Characters that it cannot represent are replaced by the system, mostly with a
-// question mark.
+// Returns the text in the code page. The system replaces characters that cannot be represented, mostly by a question
+// mark.
 inline std::string Narrow(std::wstring_view text, UINT codePage) {
     const int size = static_cast<int>(text.size());
     const int needed = ::WideCharToMultiByte(codePage, 0, text.data(), size, nullptr, 0, nullptr, nullptr);

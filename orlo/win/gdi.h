@@ -49,8 +49,8 @@ private:
     HGDIOBJ previous_;
 };
 
-// Owns the device context of a window's client area or, if the window is null, of the screen. get() returns null if the
-// system has run out of them.
+// Owns the device context of a window's client area or, if the window is null, of the screen. get() returns null if
+// none is available.
 class WindowDC {
 public:
     explicit WindowDC(HWND window) : window_(window), dc_(::GetDC(window)) {}
