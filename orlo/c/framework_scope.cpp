@@ -1,4 +1,4 @@
-// Sets the framework up around a sheet and removes it again.
+// Sets up the framework around a sheet and cleans up afterwards.
 
 #include "orlo/c/framework_scope.h"
 
@@ -24,7 +24,7 @@ LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         m_onReady(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
         return 0;
     }
-    // After Return in an edit field a control passes the focus to the main window. This one is hidden and returns it.
+    // After Return in an edit field, a control sets the focus to the main window, which is hidden here and returns it.
     if (message == WM_SETFOCUS && wParam != 0) {
         ::SetFocus(reinterpret_cast<HWND>(wParam));
         return 0;

@@ -1,5 +1,5 @@
-// Provides what a sheet needs from the framework in a program that does not use it: an application object for the
-// thread, a main window that receives the notifications of controls, and an object for the owner's window.
+// Provides the parts of the framework that a sheet needs to a program that does not use it: an application object for
+// the thread, a main window that receives the notifications of controls, and an object for the owner's window.
 #pragma once
 
 #include <afxwin.h>
@@ -42,7 +42,7 @@ private:
     std::optional<CWinApp> m_application; // created only if the program has none
     CWnd* m_previousMain;
     MainWindow m_main;
-    CWnd m_ownerObject; // for an owner window that the framework does not know
+    CWnd m_ownerObject; // for an owner window without a framework object
     CWnd* m_owner;
 };
 

@@ -1,4 +1,4 @@
-// The table of handles, and what all functions of property sets share.
+// The table of handles, and functions shared by all property set functions.
 
 #include "orlo/c/propset.h"
 
@@ -49,7 +49,7 @@ OrloPropset Hold(HeldSet set) {
 }
 
 void Release(OrloPropset handle) {
-    const std::shared_ptr<HeldSet> goes = Held(handle); // outlives the lock
+    const std::shared_ptr<HeldSet> goes = Held(handle); // destroyed after the lock is released
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
     table.sets.erase(handle);

@@ -1,4 +1,4 @@
-// The property sets that programs in C hold: found by their handles, which are numbers that no later set gets again.
+// The property sets of C programs. Handles are numbers that are never reused.
 #pragma once
 
 #include <orlo_c.h>
@@ -12,7 +12,7 @@
 
 namespace orlo {
 
-// The stream of a compound file that a set was read from or saved to, as it was then.
+// The stream of a compound file that a set was read from or saved to, with its bytes at that time.
 struct Origin {
     std::filesystem::path file;
     std::string stream;
@@ -21,23 +21,24 @@ struct Origin {
 
 struct HeldSet {
     SetImage image;
-    bool isDamaged = false; // part of what the stream announces could not be read; it is not written again
+    bool isDamaged = false; // the stream could not be read completely, so the set is not written again
     std::optional<Origin> origin = {};
 };
 
-// Throws Refusal for a handle that was never issued or is closed.
+// Throws Refusal if the handle was never issued or is closed.
 std::shared_ptr<HeldSet> Held(OrloPropset handle);
-// The same for a set that is to be changed or written.
+// Also throws Refusal if the set is damaged. For sets that will be changed or written.
 std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle);
 OrloPropset Hold(HeldSet set);
 void Release(OrloPropset handle);
 
 const GUID& AsGuid(const OrloGuid& format);
-// Of the first section of that format. Throws Refusal if there isn't one.
+// Returns the first section of that format. Throws Refusal if there is none.
 ImageSection& SectionOf(SetImage& image, const OrloGuid* format);
 ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id);
 
-// size: the room in the buffer, then the count. A null buffer asks for the count alone.
+// Copies bytes to the caller's buffer. size: in, the capacity of the buffer; out, the number of bytes. With a null
+// buffer only the number is stored. Throws Refusal if the buffer is too small.
 void HandOut(const void* bytes, size_t count, void* buffer, size_t* size);
 
 } // namespace orlo

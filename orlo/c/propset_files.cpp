@@ -1,4 +1,5 @@
-// Property sets from memory, streams and compound files, and back; a file is changed in a copy that takes its place.
+// Reads property sets from memory, streams and compound files and writes them. A file is changed in a copy that
+// replaces it.
 
 #include <windows.h>
 
@@ -17,7 +18,7 @@ using namespace orlo;
 
 namespace {
 
-constexpr size_t kLongest = 0x10000000; // bytes of a set that is read from a stream
+constexpr size_t kLongest = 0x10000000; // maximum number of bytes read from a stream
 void Check(HRESULT result, const char* what) {
     if (FAILED(result)) RefuseWithSystemError(result, what);
 }
@@ -48,7 +49,7 @@ Bytes ReadToEnd(IStream& stream) {
     return bytes;
 }
 
-// The stream then has these bytes and no others.
+// Replaces the whole contents of the stream.
 void WriteWhole(IStream& stream, const Bytes& bytes) {
     constexpr char kNotWritten[] = "the stream can't be written";
     ULARGE_INTEGER size;

@@ -1,4 +1,4 @@
-// The thumbnail of a summary, drawn on white at any size.
+// Draws the thumbnail of a summary on white, at any size.
 
 #include <windows.h>
 
@@ -14,11 +14,11 @@ using namespace orlo;
 
 namespace {
 
-constexpr uint32_t kLargest = 8192;     // pixels on a side
-constexpr double kVectorSide = 256;     // the longer side of a picture that has no size in pixels
-constexpr size_t kLengthSize = 4;       // before the value
-constexpr size_t kPictureOffset = 8;    // after tag and format
-constexpr uint32_t kColor = 0x00FFFFFF; // of a pixel; the rest is its alpha
+constexpr uint32_t kLargest = 8192;     // maximum width and height in pixels
+constexpr double kVectorSide = 256;     // longer side of a picture without a size in pixels
+constexpr size_t kLengthSize = 4;       // precedes the value
+constexpr size_t kPictureOffset = 8;    // follows tag and format
+constexpr uint32_t kColor = 0x00FFFFFF; // color bits of a pixel; the others are alpha
 
 template <class Number>
 Number At(const Bytes& bytes, size_t offset) {
@@ -27,7 +27,7 @@ Number At(const Bytes& bytes, size_t offset) {
     return number;
 }
 
-// After its length: tag, format, picture.
+// Returns the value without its length: tag, format, picture.
 Bytes ThumbnailOf(OrloPropset set) {
     const auto held = Held(set);
     const ImageProperty& property = PropertyOf(held->image, &kOrloSummary, kOrloThumbnail);
@@ -37,7 +37,7 @@ Bytes ThumbnailOf(OrloPropset set) {
     return Bytes(property.bytes.begin() + kLengthSize, property.bytes.end());
 }
 
-// Width and height in the picture's own head; drawing has the last word on whether it is one.
+// Reads width and height from the picture's header. Drawing decides whether the picture is valid.
 SIZE SizeInside(const Bytes& value) {
     if (At<uint32_t>(value, 4) == CF_DIB)
         return {At<LONG>(value, kPictureOffset + 4), At<LONG>(value, kPictureOffset + 8)};
@@ -55,7 +55,7 @@ SIZE OwnSize(const Bytes& value) {
     return {std::max(1L, static_cast<LONG>(size.cx * scale)), std::max(1L, static_cast<LONG>(size.cy * scale))};
 }
 
-// The size that was asked for, stored where it was left open.
+// Returns the requested size, and sets it to the picture's own where it is 0 by 0.
 SIZE Sized(const Bytes& value, uint32_t& width, uint32_t& height) {
     if (width == 0 && height == 0) {
         const SIZE own = OwnSize(value);
@@ -69,7 +69,7 @@ SIZE Sized(const Bytes& value, uint32_t& width, uint32_t& height) {
 
 struct Picture {
     orlo::OwnedBitmap bitmap;
-    uint32_t* pixels; // the bitmap's, from the top; blue in the lowest byte
+    uint32_t* pixels; // pixels of the bitmap, top row first; blue is in the lowest byte
 };
 
 Picture Drawn(const Bytes& value, SIZE size) {
@@ -106,7 +106,8 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
         const Bytes value = ThumbnailOf(set);
         const SIZE pixels = Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
-        if (buffer == nullptr || *size < count * sizeof(uint32_t)) // nothing is drawn for a question
+        if (buffer == nullptr || *size < count * sizeof(uint32_t)) // only the size is requested, so drawing can be
+                                                                   // skipped
             return HandOut(nullptr, count * sizeof(uint32_t), buffer, size);
         const Picture picture = Drawn(value, pixels);
         if (order == kOrloRgba) std::for_each(picture.pixels, picture.pixels + count, SwapRedAndBlue);

@@ -1,4 +1,4 @@
-// Values and names of property sets: read and stored by the rules of their types.
+// Reads and stores values and names of property sets by the rules of their types.
 
 #include <propidl.h>
 
@@ -32,13 +32,13 @@ int64_t IntegerOf(const Value& value) {
     return static_cast<int64_t>(*number);
 }
 
-// The code page of the section, or that of a new one.
+// Returns the code page of the section, or the default if the section does not exist yet.
 uint16_t CodePageOf(SetImage& image, const OrloGuid* format) {
     const ImageSection* section = image.Find(AsGuid(RequireNotNull(format, "the format")));
     return section != nullptr ? section->codePage.value_or(kUsualCodePage) : kCodePageUtf8;
 }
 
-// What a section without its code page would be: only the first property may name one.
+// Creates the section. Fails if it exists already, since its texts are encoded in its code page.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is not a code page");
@@ -58,7 +58,7 @@ void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t t
     StoreValue(SectionFor(image, wanted, kCodePageUtf8), id, type, std::move(bytes));
 }
 
-// Encodes and stores; unfit is the answer for a value that the type has no room for.
+// Encodes and stores a value. Fails with `unfit` if the value is out of range for its type.
 void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
     const auto held = HeldWhole(set);
     std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(held->image, format));

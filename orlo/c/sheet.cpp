@@ -42,7 +42,7 @@ void FillControl(const OrloSheet& sheet, unsigned kind, HWND control) {
     fill.kind = kind;
     fill.tableName = table;
     fill.table = ::DrawingGetTable(sheet.drawing, table);
-    fill.selected = kind == kControlColors ? kColorNone : 0; // 0 is black
+    fill.selected = kind == kControlColors ? kColorNone : 0; // because 0 is black
     if (sheet.fill != nullptr) sheet.fill(sheet.context, &fill);
     const ControlFillRecord record = ToFillRecord(fill);
     ::SendMessageA(control, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
