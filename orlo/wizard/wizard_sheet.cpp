@@ -1,4 +1,4 @@
-// CWizardSheet: window, layout and navigation.
+// CWizardSheet: creation, layout and navigation.
 
 #include "orlo/wizard/wizard_sheet.h"
 
@@ -49,7 +49,7 @@ HWND ChildAround(HWND page, HWND control) {
     return control;
 }
 
-// Whether a field of the page follows that control in the tab order.
+// Returns whether a field of the page follows that control in the tab order.
 bool HasFieldAfter(HWND page, HWND control) {
     const HWND first = ::GetNextDlgTabItem(page, nullptr, FALSE), from = ChildAround(page, control);
     HWND next = ::GetNextDlgTabItem(page, from, FALSE);
@@ -58,8 +58,8 @@ bool HasFieldAfter(HWND page, HWND control) {
     return next != nullptr && next != first && next != from;
 }
 
-// A multi-line field takes every key, and passes this one to the default button of its parent, the page, which has no
-// such button.
+// A multiline edit control handles all keys, but passes Return to the default button of its parent, the page, which has
+// none.
 bool TakesReturn(MSG& message) {
     const LRESULT code = ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
     const LONG style = ::GetWindowLongA(message.hwnd, GWL_STYLE);
@@ -71,7 +71,7 @@ bool CanBePressed(HWND control) {
     return IsPushButton(control) && ::IsWindowEnabled(control);
 }
 
-// Whether the message is Return for the default button; a focused button handles it by itself.
+// Returns whether the message is Return for the default button. A focused button handles Return itself.
 bool IsReturnForDefault(MSG& message) {
     return message.message == WM_KEYDOWN && message.wParam == VK_RETURN && !CanBePressed(message.hwnd) &&
            !TakesReturn(message);
@@ -84,7 +84,7 @@ void FramePushButton(HWND button, bool framed) {
         ::SendMessageA(button, BM_SETSTYLE, static_cast<WPARAM>(wanted), TRUE);
 }
 
-// The place nearest to that one at which a window of that size is on the screen as a whole.
+// Returns the position nearest to `place` at which a window of that size is completely on the screen.
 CPoint PlaceOnScreen(HWND window, CPoint place, CSize size) {
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
@@ -121,9 +121,9 @@ CWizardSheet::CWizardSheet(const char* pszCaption, CWnd* pParentWnd, UINT iSelec
 
 CWizardSheet::~CWizardSheet() = default;
 
-// ---- Making the window
+// ---- Creation
 
-// A first page that cannot be made leaves an empty sheet, which the user can cancel.
+// If the first page cannot be created, the sheet is empty and the user can cancel it.
 int CWizardSheet::OnCreate(CREATESTRUCT*) {
     if (!BeginCreate()) return -1;
     TrimSystemMenu();
@@ -145,7 +145,7 @@ int CWizardSheet::OnCreate(CREATESTRUCT*) {
     return 0;
 }
 
-// Leaves what a wizard can do: be moved and be closed.
+// Leaves only the commands Move and Close.
 void CWizardSheet::TrimSystemMenu() {
     const HMENU menu = ::GetSystemMenu(m_hWnd, FALSE);
     for (int i = ::GetMenuItemCount(menu) - 1; i >= 0; --i) {
@@ -162,7 +162,7 @@ void CWizardSheet::TakePageFont() {
     m_font.CreateFontIndirect(&look);
 }
 
-// Without a page the units are taken for pixels.
+// Without a page, units are treated as pixels.
 void CWizardSheet::MeasureUnits() {
     CRect button(4, 0, 50, 14), margin(0, 0, 4, 4);
     ::MapDialogRect(GetActivePage()->m_hWnd, &button);
@@ -217,7 +217,7 @@ CWizardSheet::Row CWizardSheet::MeasureRow() {
     return row;
 }
 
-// At the right: Back and Next together, Cancel after a gap.
+// Aligned right: Back and Next together, Cancel after a gap.
 void CWizardSheet::PlaceRow(const Row& row, int cxClient, int cyClient) {
     int x = cxClient - m_sizeTabMargin.cx - row.gaps - row.sum;
     const int y = cyClient - m_sizeButton.cy - m_sizeTabMargin.cy;
@@ -248,12 +248,12 @@ void CWizardSheet::RecalcWizardLayout() {
     Resize(window.Size());
     if (page != nullptr) ::SetWindowPos(page, nullptr, mx + 1, cyTabs + my, cxClient - 2 * mx - 3, pageSize.cy, kKeep);
     if (!m_bModeless) PlaceRow(row, cxClient, cyClient);
-    // The system has moved what was on the screen at the old places of the children: a part of the page, for the
+    // The system has moved the old screen contents of the child windows, so that parts of the page appear on the
     // buttons.
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-// A sheet that is not where it has been centered was moved by the user.
+// If the sheet is not where it was centered, the user has moved it.
 void CWizardSheet::Resize(CSize size) {
     CRect window;
     GetWindowRect(&window);
@@ -268,7 +268,7 @@ CRect CWizardSheet::GetPagePlace(const CPropertyPage& page, const CRect& before)
     return CRect(before.TopLeft(), CSize(std::max(own.cx, before.Size().cx), std::max(own.cy, before.Size().cy)));
 }
 
-// ---- Walking
+// ---- Navigation
 
 void CWizardSheet::EnableButton(HWND hWndSheet, int nID, BOOL bEnable, int nNewFocusID) {
     const HWND button = ::GetDlgItem(hWndSheet, nID);
@@ -297,14 +297,14 @@ void CWizardSheet::ShowHeading() {
     ::SetDlgItemTextA(m_hWnd, kHeadingId, item.pszText);
 }
 
-// Tab row, heading and buttons change with the page, and stay if it refuses.
+// Tab row, heading and buttons change with the page, and remain unchanged if it cannot be left.
 bool CWizardSheet::MoveTo(int nPage) {
     const CSize before = WindowSize(GetActivePage()->m_hWnd);
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
     ShowHeading();
     if (WindowSize(GetActivePage()->m_hWnd) != before) RecalcWizardLayout();
-    // A system that takes the focus from a disabled button leaves the keyboard without a window.
+    // Some systems take the focus from a disabled button, leaving no window with the focus.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
     ShowDefaultButton();
     return true;
@@ -327,8 +327,8 @@ LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
     return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
 }
 
-// The system moves the frame with the Tab key, but not between the sheet and its page, nor away from a button that is
-// disabled.
+// The system updates the default button's frame for the Tab key, but not between the sheet and its page, and does not
+// remove it from a disabled button.
 void CWizardSheet::ShowDefaultButton() {
     const HWND focus = ::GetFocus();
     const bool inside = focus != nullptr && ::IsChild(m_hWnd, focus);
@@ -339,9 +339,9 @@ void CWizardSheet::ShowDefaultButton() {
     });
 }
 
-// The default button is Next. Return presses it, unless that would skip fields that the user has not seen.
+// Return presses the default button, Next, unless fields that the user has not visited would be skipped.
 void CWizardSheet::OnReturn(const MSG& message) {
-    const bool heldDown = (HIWORD(message.lParam) & KF_REPEAT) != 0; // since an earlier page
+    const bool heldDown = (HIWORD(message.lParam) & KF_REPEAT) != 0; // the key was pressed on an earlier page
     const bool finishes = m_nCurPage == GetPageCount() - 1;
     const HWND page = GetActivePage()->m_hWnd, next = ::GetDlgItem(m_hWnd, kNextId);
     const bool skips = !finishes && ::IsChild(page, message.hwnd) && HasFieldAfter(page, message.hwnd);
@@ -359,7 +359,7 @@ BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
     return handled;
 }
 
-// OK by a command, and the Enter key of a sheet without buttons.
+// Handles OK sent as a command, and Enter in a sheet without buttons.
 void CWizardSheet::OnEnter() {
     if (m_nCurPage == GetPageCount() - 1) OnFinish();
 }
@@ -370,7 +370,7 @@ void CWizardSheet::OnFinish() {
     CPropertySheet::OnOK();
 }
 
-// Dialogs give the focus back to the control that had it; here the page decides.
+// Dialogs restore the focus to the control that had it; here the page decides.
 LRESULT CWizardSheet::OnActivateMessage(WPARAM, LPARAM) {
     return 1;
 }

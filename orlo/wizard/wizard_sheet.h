@@ -2,26 +2,26 @@
 // exists, but is hidden.
 //
 //   CWizardSheet wizard("New style", pParent, 0);
-//   wizard.AddPage(&name);                        // pages are the host's, as in any sheet
+//   wizard.AddPage(&name);                        // the host owns the pages, as in any sheet
 //   wizard.AddPage(&summary);
 //   if (wizard.DoModal() == IDOK) ...
 //
-// A page is left in either direction only if its OnKillActive agrees; one that refuses stays, with unchanged buttons,
-// and so does one whose successor cannot be created. Finish calls OnOK of all pages, the first one first, and then does
-// what OK does in every sheet: the last page is asked to be left, and gets its OnOK once more. A host that must not act
-// before the last page has agreed therefore acts after DoModal, not in OnOK.
+// A page can be left in either direction only if its OnKillActive returns TRUE. If it does not, or if the next page
+// cannot be created, the page and the buttons stay unchanged. Finish calls OnOK of all pages in order, and then
+// proceeds like OK in any sheet: it calls OnKillActive and again OnOK of the last page. Therefore, a host that should
+// act only after the last page has validated acts after DoModal, not in OnOK.
 //
-// Next is the default button: Return presses it, but not while fields follow the one with the focus, which it would
-// skip; on the last page it finishes from any field. A Next or Finish that the host has disabled is not pressed. Held
-// down the key moves one step. After Next the focus is on the first field of the new page. The frame of the default
-// button is on the push button that has the focus, else on Next.
+// Next is the default button. Return presses it unless a field follows the focused one on the page; on the last page
+// Return finishes from any field. It does not press a button that the host has disabled. Holding the key down moves one
+// page. After Next, the first field of the new page has the focus. The default button's frame is drawn on the focused
+// push button, else on Next.
 //
-// The sheet is as large as the page that it opens on, and grows with a larger one: what counts is the window rectangle
-// of the page after its OnSetActive. It is centered when it opens; one that the user has moved grows where it is. The
-// caption of the page is where the tabs would be. It opens with Back disabled and with "Next >", whatever page that is,
-// until the first move. The buttons' texts are the library's strings 111 to 114, which are found after PropPageInit;
-// strings of the host with these numbers are not used. A modeless sheet has no buttons; its owner sends it the commands
-// 100 (back) and 101 (next).
+// The sheet has the size of the page that it opens on, and grows for larger pages: it uses the window rectangle of the
+// page after OnSetActive. The sheet is centered when it opens; if the user has moved it, it grows in place. The page's
+// caption is in place of the tabs. A sheet always opens with Back disabled and "Next >", whichever page it opens on,
+// until the user moves to another page. The buttons' texts are the library's strings 111 to 114, available after
+// PropPageInit; strings of the host with these numbers are not used. A modeless sheet has no buttons; its owner sends
+// it the commands 100 (back) and 101 (next).
 #pragma once
 
 #include <afxdlgs.h>
@@ -32,7 +32,7 @@ class ORLO_API CWizardSheet : public CPropertySheet {
     DECLARE_DYNAMIC(CWizardSheet)
 
 public:
-    // As in the base: iSelectPage is the page that it opens on.
+    // Same as the base class: iSelectPage is the page that the sheet opens on.
     CWizardSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage);
     CWizardSheet(const char* pszCaption, CWnd* pParentWnd, UINT iSelectPage);
     ~CWizardSheet() override;
@@ -40,21 +40,23 @@ public:
 protected:
     static constexpr int kTextSize = 256;
 
-    // A string up to its line feed, into kTextSize bytes. 0: the string is missing, or empty before the line feed.
+    // Loads a string up to its line feed into a buffer of kTextSize bytes. Returns 0 if the string is missing, or empty
+    // before the line feed.
     int LoadButtonText(UINT nID, char* pszBuffer);
-    // A button that has the focus gives it to the control nNewFocusID first, unless that is -1 or missing.
+    // Enables or disables a button. If it has the focus, first moves the focus to nNewFocusID, unless that is -1 or
+    // missing.
     void EnableButton(HWND hWndSheet, int nID, BOOL bEnable, int nNewFocusID = -1);
-    // Texts and states of the buttons on that page.
+    // Sets texts and states of the buttons for that page.
     void SetButtonStates(int nPage);
-    // 0 on failure.
+    // Returns 0 on failure.
     int CreateButtons();
     // Sizes the sheet to the window rectangle of the active page or to the row of buttons, whichever is wider, and
-    // centers it unless the user has moved it. A host calls it after it has resized the page.
+    // centers it unless the user has moved it. A host must call it after resizing the page.
     void RecalcWizardLayout();
     void OnFinish();
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    // Makes room for a page that is larger than the one before it.
+    // Leaves space for a page that is larger than the previous one.
     CRect GetPagePlace(const CPropertyPage& page, const CRect& before) const override;
 
     afx_msg int OnCreate(CREATESTRUCTA* pCreateStruct);
@@ -66,7 +68,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Row; // the buttons' widths
+    struct Row; // the widths of the buttons
 
     void TrimSystemMenu();
     void TakePageFont();
@@ -75,7 +77,7 @@ private:
     Row MeasureRow();
     void PlaceRow(const Row& row, int cxClient, int cyClient);
     void Resize(CSize size);
-    bool MoveTo(int nPage); // false: the page stayed
+    bool MoveTo(int nPage); // Returns false if the page was not left.
     void ShowHeading();
     void ShowDefaultButton();
     void OnReturn(const MSG& message);
