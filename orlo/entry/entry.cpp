@@ -1,4 +1,4 @@
-// Entry points of the library: DllMain, resource registration with the framework, and the selection of a sheet's pages.
+// Entry points of the library: DllMain, resource registration with the framework, and selection of a sheet's pages.
 
 #include "orlo/entry/entry.h"
 

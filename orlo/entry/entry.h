@@ -1,4 +1,4 @@
-// The entry points of the library for C++ hosts:
+// Entry points of the library for C++ hosts:
 //
 //   PropPageInit();                                                       // once
 //   CGraphicPropertySheet* sheet =
@@ -7,12 +7,13 @@
 //   int code = sheet->DoModal();                                          // IDOK, IDCANCEL or a StyleEndCode
 //   delete sheet;                                                         // including its pages and previews
 //
-// All functions are called on the user-interface thread. Drawing, selection and regen methods belong to the host and
-// must outlive the sheet.
+// All functions must be called on the user-interface thread. Drawing, selection and regen methods belong to the host
+// and must outlive the sheet.
 //
-// The library can be unloaded (FreeLibrary) when its last sheet and its last control are destroyed, and loaded again.
-// Two copies in one process use their own controls in their own pages. Dialog templates of other modules that name the
-// classes "QXComboBox" or "QXListBox" get the controls of the copy that was loaded first, until that copy is unloaded.
+// The library can be unloaded (FreeLibrary) after its last sheet and its last control have been destroyed, and loaded
+// again. Two copies in one process use their own controls in their own pages. Dialog templates of other modules that
+// name the classes "QXComboBox" or "QXListBox" get the controls of the copy that was loaded first, until that copy is
+// unloaded.
 #pragma once
 
 #include <afxwin.h>
@@ -31,15 +32,15 @@ extern "C" ORLO_API int PropPageInit();
 //
 //   pParentWnd      owner of the dialog; may be null
 //   pRegenMethods   passed to RegenMethodGetPropPage; may be null
-//   pDrawing        the drawing; it must stay the host's current drawing until the sheet is deleted
-//   pGraphics       a GraphicStruct whose members are edited; null: the sheet edits nothing
+//   pDrawing        the drawing; must remain the host's current drawing until the sheet is deleted
+//   pGraphics       a GraphicStruct whose members are edited; if null, the sheet edits nothing
 //   dwGraphicFlags  which members are edited: kAllGraphics or another filter of GraphicFirst; without kNoStylePart the
-//                   General page has a style part
+//                   General page has a style section
 extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,
                                                                     DrawingStruct* pDrawing, void* pGraphics,
                                                                     unsigned long dwGraphicFlags);
 
-// Adds the pages for the type of this graphic that the sheet does not have yet, then the pages of its regen method.
-// Returns the result of RegenMethodGetPropPage, or 0 if the graphic has no regen method. Also returns 0 if memory runs
-// out; the sheet keeps the pages that it has.
+// Adds the pages for this graphic's type that the sheet does not have yet, then the pages of its regen method. Returns
+// the result of RegenMethodGetPropPage, or 0 if the graphic has no regen method. Also returns 0 if memory runs out;
+// pages that were already added remain.
 extern "C" ORLO_API int AddGraphicPropertyPage(void* pRegenMethods, void* pGraphic, CGraphicPropertySheet* pSheet);
