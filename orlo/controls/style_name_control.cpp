@@ -1,4 +1,4 @@
-// CStyleNameControl: a combo box of the blocks of one style family.
+// CStyleNameControl: a combo box of the blocks of one style tree.
 
 #include "orlo/controls/style_name_control.h"
 
@@ -20,7 +20,7 @@ const char* StyleTreeOf(const GraphicStruct* graphic) {
     return graphic && graphic->pszStyleName ? graphic->pszStyleName : "";
 }
 
-// Adds the blocks of the graphic's style family. Returns the name under which the graphic itself was added, or empty.
+// Adds the blocks of the graphic's style tree. Returns the name under which the graphic itself was added, or empty.
 CString AddStyleTree(const ControlItems& items, TableStruct* table, const GraphicStruct* selected) {
     CString selectedName;
     char name[kNameSize];

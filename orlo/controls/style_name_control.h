@@ -1,7 +1,7 @@
-// CStyleNameControl: a combo box of the blocks of a table that belong to the same style family as the selected block,
+// CStyleNameControl: a combo box of the blocks of a table that belong to the style tree of the selected block,
 // as plain names.
 //
-// The host fills it with a table of blocks and the identifier of one of them. Blocks belong to the same family if the
+// The host fills it with a table of blocks and the identifier of one of them. Blocks belong to the same tree if the
 // pszStyleName of their graphics is equal; for a block without one the list is empty. If the control is owner-drawn, a
 // frame marks the current row of the open list.
 #pragma once

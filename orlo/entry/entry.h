@@ -35,7 +35,7 @@ extern "C" ORLO_API int PropPageInit();
 //   pDrawing        the drawing; must remain the host's current drawing until the sheet is deleted
 //   pGraphics       a GraphicStruct whose members are edited; if null, the sheet edits nothing
 //   dwGraphicFlags  which members are edited: kAllGraphics or another filter of GraphicFirst; without kNoStylePart the
-//                   General page has a style section
+//                   General page has a style part
 extern "C" ORLO_API CGraphicPropertySheet* InitGraphicPropertySheet(CWnd* pParentWnd, void* pRegenMethods,
                                                                     DrawingStruct* pDrawing, void* pGraphics,
                                                                     unsigned long dwGraphicFlags);

@@ -18,7 +18,7 @@ struct GraphicSheetData {
     void* pRegenMethods;
     DrawingStruct* pDrawing;
     void* pGraphics;              // the group whose members are selected
-    unsigned long dwGraphicFlags; // filter for its members; bit 2: the General page has no style section
+    unsigned long dwGraphicFlags; // filter for its members; bit 2: the General page has no style part
 };
 
 class CGraphicPropertySheet : public COrloPropertySheet {

@@ -111,7 +111,7 @@ void CGeneralPage::ExchangeInfo(CDataExchange* pDX) {
     if (pDX->m_bSaveAndValidate) m_strInfo = shown == kIndeterminateInfo ? CString(kIndeterminateString) : shown;
 }
 
-// ---- The style section
+// ---- The style part
 
 bool CGeneralPage::HasStylePart() const {
     CGraphicPropertySheet* sheet = GetSheet();

@@ -1,7 +1,7 @@
 // The General page, first in every sheet: layer and attribute text of the selected graphics and, over the graphic of a
 // style, the style's name with New and Delete.
 //
-// The style section changes no properties: selecting, creating or deleting a style ends the sheet with a code
+// The style part changes no properties: selecting, creating or deleting a style ends the sheet with a code
 // (StyleEndCode).
 #pragma once
 
