@@ -1,4 +1,4 @@
-// Code pages by the tables of the system.
+// Converts code pages with the system's tables.
 
 #include "orlo/propset/code_page.h"
 
@@ -30,8 +30,8 @@ std::string Narrowed(std::wstring_view wide, UINT codePage, DWORD flags, BOOL* r
     return text;
 }
 
-// Nothing where the bytes are not text. The system turns the bytes that a code page of Windows leaves undefined into
-// control characters; those are not text either.
+// Returns nothing if the bytes are not text. The system converts bytes that a Windows code page leaves undefined to
+// control characters, which are not accepted as text either.
 std::optional<std::wstring> CheckedToWide(std::string_view text, UINT codePage) {
     std::wstring wide = Widened(text, codePage, MB_ERR_INVALID_CHARS);
     if (wide.empty() && !text.empty()) return std::nullopt;

@@ -1,4 +1,4 @@
-// The names of a dictionary, 8-bit or wide, entry by entry.
+// Reads and writes dictionary entries, with 8-bit or 16-bit names.
 
 #include "orlo/propset/dictionary_stream.h"
 
@@ -17,7 +17,7 @@ constexpr DWORD kLongestRead = 256;
 
 using WideBuffer = std::array<uint16_t, kLongestRead>;
 
-// The next wide entry as stored; the length counts characters and its NUL.
+// Reads the next entry with a 16-bit name as stored. The length is in characters, including the NUL.
 bool ReadWideEntry(StreamReader& reader, uint32_t& id, uint32_t& length, WideBuffer& characters) {
     if (!reader.Spend(8) || !reader.Read32(id) || !reader.Read32(length) || length > kLongestRead) return false;
     const size_t size = size_t{length} * 2;

@@ -1,5 +1,4 @@
-// The entries of a name dictionary on the stream: an ID, the name's length, the name. Used inside the
-// library.
+// The stored entries of a dictionary: property ID, length and name. Internal to the library.
 #pragma once
 
 #include <afx.h>
@@ -9,18 +8,18 @@
 
 namespace orlo {
 
-// The name's bytes on the stream: with its NUL up to 254 characters; a longer name is cut to 255 and has
-// none.
+// Returns the number of bytes of a stored name: including the NUL for up to 254 characters; a longer name is truncated
+// to 255 characters without a NUL.
 DWORD StoredNameSize(const CString& name);
 void AppendName(ImageWriter& image, DWORD id, const CString& name);
 
-// The next entry; false if it is cut short or its name is longer than 256 bytes (characters for a wide one). A
-// wide name that the system's code page can't represent is empty.
+// Read the next entry. Return false if it is truncated or its name is longer than 256 bytes (characters for a 16-bit
+// name). A 16-bit name that the system's code page cannot represent becomes empty.
 bool ReadName(StreamReader& reader, uint32_t& id, CString& name);
 bool ReadWideName(StreamReader& reader, uint32_t& id, CString& name);
 
-// True if the dictionary at the reader's position makes sense with names of 16-bit characters, each to its
-// NUL and padded to 4 bytes. The reader stays where it is.
+// Returns true if the dictionary at the reader's position is valid with names of 16-bit characters, each terminated by
+// a NUL and padded to 4 bytes. Does not move the reader.
 bool AreNamesWide(StreamReader& reader);
 
 } // namespace orlo

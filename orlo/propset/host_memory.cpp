@@ -1,4 +1,4 @@
-// The host's allocator for programs that have no host: part of the static library only.
+// Implements the host's allocator for programs without a host. Only in the static library.
 
 #include "orlo/host/memory.h"
 

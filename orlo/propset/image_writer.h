@@ -1,5 +1,5 @@
-// ImageWriter: composes what goes on a stream in memory, so that it goes there in one Write. Used inside the
-// library.
+// ImageWriter: composes stream contents in memory, so that they are written with a single call of Write. Internal to
+// the library.
 #pragma once
 
 #include <objidl.h>
@@ -15,7 +15,7 @@ class ImageWriter {
 public:
     size_t Size() const { return bytes_.size(); }
 
-    // About that many bytes will follow: room for them is made at once.
+    // Reserves memory for about that many further bytes.
     void Expect(size_t size) {
         if (bytes_.capacity() - bytes_.size() < size)
             bytes_.reserve(std::max(bytes_.size() + size, 2 * bytes_.capacity()));
@@ -28,11 +28,11 @@ public:
     void Put16(uint16_t number) { Put(&number, sizeof number); }
     void Put32(uint32_t number) { Put(&number, sizeof number); }
     void PutZeros(size_t count) { bytes_.resize(bytes_.size() + count); }
-    // Writes over existing bytes.
+    // Overwrites bytes that were already written.
     void Patch(size_t at, const void* bytes, size_t size) { std::memcpy(&bytes_[at], bytes, size); }
     void Patch32(size_t at, uint32_t number) { Patch(at, &number, sizeof number); }
 
-    // True if all of it went to the stream.
+    // Returns true if everything was written to the stream.
     bool WriteTo(IStream* stream) const {
         ULONG done = 0;
         return bytes_.size() <= UINT32_MAX &&

@@ -1,4 +1,4 @@
-// The value block of a property: set, walked, written and read.
+// The value block of a property: setting, measuring, writing and reading it.
 
 #include "orlo/propset/property.h"
 
@@ -22,15 +22,14 @@ using orlo::IsVector;
 using orlo::PaddingOf;
 using orlo::TypeForm;
 
-// What goes on the stream for a property.
+// The stored form of a property.
 struct Stored {
     DWORD type;
     const BYTE* bytes;
     size_t size;
 };
 
-// An empty value in the form of the type; for a fixed size, of which every value would be an invention,
-// VT_EMPTY.
+// Returns an empty value in the form of the type, or VT_EMPTY for types of fixed size, which have no empty value.
 Stored EmptyValue(DWORD type) {
     static const BYTE kNoElements[4] = {};
     static const BYTE kEmptyText[5] = {1};
@@ -52,7 +51,7 @@ size_t PlainTextSize(const void* text, Form form) {
     return (length + 1) * 2;
 }
 
-// The old block of a property, released once the new value is complete: the new one may be made from it.
+// Keeps the old block of a property until the new value is complete, because the new one may be copied from it.
 class OldBlock {
 public:
     explicit OldBlock(void*& block) : block_(block) { block = nullptr; }
@@ -64,7 +63,7 @@ private:
     void* block_;
 };
 
-// Nothing if the type has no form or the block is too short for it.
+// Returns nothing if the type has no stored form or the block is too short for it.
 std::optional<Stored> StoredForm(DWORD type, const void* block, DWORD blockSize) {
     if (!FormOf(BaseType(type)).inProperty) return std::nullopt;
     if (block == nullptr) return EmptyValue(type);
@@ -74,8 +73,8 @@ std::optional<Stored> StoredForm(DWORD type, const void* block, DWORD blockSize)
     return Stored{type, bytes, *size};
 }
 
-// The bytes of the elements at the reader's position, which stays where it is. Nothing if a count falls
-// short.
+// Returns the number of bytes of the elements at the reader's position, without moving it, or nothing if an element is
+// truncated.
 std::optional<ULONGLONG> MeasureElements(orlo::StreamReader& reader, const TypeForm& form, DWORD count) {
     if (!form.inProperty) return std::nullopt;
     if (form.form == Form::fixed) return ULONGLONG{form.size} * count;
@@ -158,7 +157,7 @@ int CProperty::Set(const CString& strValue) {
 }
 
 void* CProperty::Get(DWORD* pcb) {
-    const TypeForm& form = FormOf(m_dwType); // a vector's type is beyond the table
+    const TypeForm& form = FormOf(m_dwType); // a vector's type is not in the table
     if (!form.inProperty) return nullptr;
     auto* block = static_cast<BYTE*>(m_pValue);
     const std::optional<size_t> size = orlo::StoredSize(m_dwType, block, m_cbValue);
@@ -257,7 +256,8 @@ DWORD CProperty::WriteToRC(CRCFile* pRC) {
     pRC->WriteDWord(stored ? stored->type : m_dwType);
     if (!stored) return 0;
 
-    auto* bytes = const_cast<BYTE*>(stored->bytes); // the script writer takes no const and writes nothing
+    auto* bytes = const_cast<BYTE*>(stored->bytes); // the script writer takes a non-const pointer but does not write to
+                                                    // it
     size_t left = stored->size;
     if (IsVector(stored->type)) {
         pRC->WriteDWord(orlo::Load32(bytes));

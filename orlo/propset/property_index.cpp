@@ -1,4 +1,4 @@
-// Hash tables over the list of properties and the map of names.
+// Hash tables for the list of properties and the map of names.
 
 #include "orlo/propset/property_index.h"
 

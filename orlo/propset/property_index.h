@@ -1,5 +1,4 @@
-// Look-up of a section's properties by ID and of its names by ID, for sections too large to walk. Used inside
-// the library.
+// Indexes a section's properties and names by ID, for sections too large for linear search. Internal to the library.
 #pragma once
 
 #include <afxcoll.h>
@@ -8,22 +7,21 @@
 
 namespace orlo {
 
-// A section of fewer properties or names is walked: that is quicker than an index, and real ones have a
-// dozen.
+// Smaller sections are searched linearly, which is faster than an index; typical ones have a dozen properties.
 constexpr int kIndexedFrom = 17;
 
-// Says that some property changed its ID: indexes made before are out of date. Which one it was doesn't
-// matter, as nobody renumbers properties between many look-ups.
+// Records that a property has changed its ID, which makes existing indexes obsolete, also those of other sections. This
+// is rare.
 void NotePropertyIdChange();
 
-// The first place of each ID in a list of properties.
+// The first position of each ID in a list of properties.
 class PropertyIndex {
 public:
     explicit PropertyIndex(const CObList& properties);
 
     bool IsUpToDate() const;
     POSITION Find(DWORD id) const;
-    // Keeps the index in step; false if it can't and must be made again.
+    // Updates the index. Returns false if it has to be rebuilt.
     void AddedAtTail(DWORD id, POSITION position);
     bool Removed(DWORD id);
 
@@ -37,7 +35,7 @@ private:
 class NameIndex {
 public:
     explicit NameIndex(const CMapStringToPtr& names);
-    // False leaves the name alone.
+    // Returns false, leaving name unchanged, if there is none.
     bool Find(DWORD id, CString& name) const;
 
 private:

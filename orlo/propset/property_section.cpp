@@ -1,4 +1,4 @@
-// Properties and names of a section: looked up, written and read.
+// Finds, writes and reads the properties and names of a section.
 
 #include "orlo/propset/property_section.h"
 
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr size_t kUsualPropertySize = 40; // with its table entry; a name is no longer than that
+constexpr size_t kUsualPropertySize = 40; // including its table entry; most names are shorter
 
 void* ToMapped(DWORD id) {
     return reinterpret_cast<void*>(static_cast<uintptr_t>(id));
@@ -137,7 +137,7 @@ DWORD CPropertySection::GetCount() {
 }
 
 CObList* CPropertySection::GetList() {
-    m_bListGivenOut = true; // from now on it changes without our knowing
+    m_bListGivenOut = true; // the caller may change the list at any time
     m_pIndex.reset();
     return &m_PropertyList;
 }
@@ -146,7 +146,7 @@ int CPropertySection::SetName(DWORD dwPropID, const char* pszName) {
     try {
         const int before = m_NameMap.GetCount();
         void*& id = m_NameMap[LowerCase(pszName)];
-        if (m_NameMap.GetCount() == before) return 0; // it was there
+        if (m_NameMap.GetCount() == before) return 0; // the name existed already
         id = ToMapped(dwPropID);
         m_pNameIndex.reset();
         return 1;
@@ -270,7 +270,7 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
         uint32_t id;
         uint32_t offset;
     };
-    Entry entries[256]; // by many at a time: table and values are far from each other in a large section
+    Entry entries[256]; // read in blocks, because table and values are far apart in a large section
     std::vector<ULONGLONG> dictionaries;
     DWORD left = m_dwPropertyCount;
     while (left > 0) {
@@ -289,14 +289,14 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
         table += came * sizeof(Entry);
         left -= came;
     }
-    for (const ULONGLONG dictionary : dictionaries) { // now the code page is known
+    for (const ULONGLONG dictionary : dictionaries) { // after the values, because names depend on the code page
         reader.SeekTo(dictionary);
         ReadDictionary(reader);
     }
     return left == 0;
 }
 
-// A value that can't be read leaves its property without one, and reading continues.
+// If the value cannot be read, the property has no value and reading continues.
 void CPropertySection::ReadProperty(orlo::StreamReader& reader, DWORD dwPropID) {
     auto property = std::make_unique<CProperty>(dwPropID, nullptr, VT_EMPTY);
     property->ReadFrom(reader);
@@ -311,8 +311,7 @@ int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
     return result;
 }
 
-// Sections of code page 1200 made elsewhere have their names in 16-bit characters; what this class writes
-// does not.
+// Other writers store 16-bit names in sections with code page 1200; this class does not.
 bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
     CProperty* codePage = GetProperty(orlo::kCodePageId);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;
@@ -362,7 +361,7 @@ int CPropertySection::WriteToRC(CRCFile* pRC) {
         if (size == 0) return 0;
         const ULONGLONG end = pRC->GetPosition();
         pRC->Seek(static_cast<LONGLONG>(entry), CStdioFile::begin);
-        writeEntry(property->m_dwID, offset); // over the placeholder, which is as wide
+        writeEntry(property->m_dwID, offset); // replaces a placeholder of the same size
         entry = pRC->GetPosition();
         offset += size;
         pRC->Seek(static_cast<LONGLONG>(end), CStdioFile::begin);

@@ -2,14 +2,14 @@
 //
 //   CPropertySection section(format);
 //   long width = 7;
-//   section.Set(5, &width, VT_I4);      // 1
-//   section.SetName(5, "Width");        // 1; kept as "width"
-//   section.GetID("WIDTH", &id);        // 1, id 5
-//   section.SetName(6, "width");        // 0: the name is taken
+//   section.Set(5, &width, VT_I4);      // returns 1
+//   section.SetName(5, "Width");        // returns 1; stored as "width"
+//   section.GetID("WIDTH", &id);        // returns 1, id is 5
+//   section.SetName(6, "width");        // returns 0: the name is in use
 //
-// On the stream a section is its size, the number of properties, a table of IDs and offsets, and the values;
-// the dictionary is the value of ID 0. Its names are 8-bit texts of at most 254 characters; longer ones are
-// cut to 255 on the stream. See docs/property-sets.md.
+// On the stream, a section consists of its size, the number of properties, a table of IDs and offsets, and the values;
+// the dictionary is the value of ID 0. Its names are 8-bit texts of at most 254 characters; longer ones are truncated
+// to 255 on the stream. See docs/property-sets.md.
 #pragma once
 
 #include <afxcoll.h>
@@ -23,7 +23,7 @@ class NameIndex;
 class PropertyIndex;
 } // namespace orlo
 
-// Results of type int are 1 for success and 0 for failure. Texts given out belong to the section.
+// Functions of type int return 1 on success and 0 on failure. Returned texts belong to the section.
 class ORLO_API CPropertySection : public CObject {
 public:
     CPropertySection();
@@ -33,55 +33,52 @@ public:
     GUID GetFormatID();
     void SetFormatID(GUID FormatID);
 
-    // Sets a property or adds it. The property is kept even where its value was refused (0 only for a new
-    // one).
+    // Sets or adds a property. Even if the value is rejected, the property remains. Returns 0 only if a new property's
+    // value is rejected.
     int Set(DWORD dwPropID, void* pValue, DWORD dwType);
-    // Sets the value of an existing property with a type other than 0; 0 if there isn't one.
+    // Sets the value of an existing property whose type is not 0. Returns 0 if there is none.
     int Set(DWORD dwPropID, void* pValue);
-    // As CProperty::Get; null if there is no such property.
+    // See CProperty::Get. Returns null if there is no such property.
     void* Get(DWORD dwPropID, DWORD* pcb);
     void* Get(DWORD dwPropID);
-    // Destroys the first property of that ID.
+    // Deletes the first property with that ID.
     void Remove(DWORD dwPropID);
-    // Destroys all properties. The names stay.
+    // Deletes all properties. The names remain.
     void RemoveAll();
 
-    // The first property of that ID, or null. It stays the section's.
+    // Returns the first property with that ID, or null. It belongs to the section.
     CProperty* GetProperty(DWORD dwPropID);
-    // Takes the property over: at the tail, or at the head for ID 0, which is the dictionary's slot.
+    // Takes ownership of the property and adds it at the end, or for ID 0, the dictionary, at the beginning.
     void AddProperty(CProperty* pProp);
 
-    // Size on the stream in bytes; 0 until the section was written or read.
+    // Returns the stored size in bytes, or 0 until the section has been written or read.
     DWORD GetSize();
     DWORD GetCount();
-    // The list itself. A section whose list was given out looks up its properties one by one from then on.
+    // Returns the list itself. From then on the section searches its properties linearly.
     CObList* GetList();
 
-    // Names are compared without regard to case, and kept in lower case. SetName gives 0 if the name is
-    // taken.
+    // Names are compared ignoring case and stored in lowercase. SetName returns 0 if the name is in use.
     int SetName(DWORD dwPropID, const char* pszName);
     int GetName(DWORD dwPropID, CString& strName);
     int GetID(const char* pszName, DWORD* pdwPropID);
     int SetSectionName(const char* pszName);
     const char* GetSectionName();
 
-    // Writes at the stream's position, and leaves it after the section. Nothing is written if a property has
-    // a type without a form on the stream.
+    // Writes at the stream's position and leaves it after the section. Writes nothing if the type of a property has no
+    // stored form.
     int WriteToStream(IStream* pStream);
-    // Reads the section at the stream's position; liBase is the position of the head of the set. A value
-    // that can't be read leaves its property without one; 0 only if the table itself is cut short. Names are
-    // added to those already there. At most four times the stream's size is read in all, so that overlapping
-    // values come to an end.
+    // Reads the section at the stream's position; liBase is the position of the start of the set. If a value cannot be
+    // read, its property has no value; returns 0 only if the table itself is truncated. Names are added to existing
+    // ones. Reads at most four times the stream's size in total, so that reading overlapping values ends.
     int ReadFromStream(IStream* pStream, LARGE_INTEGER liBase);
-    // The dictionary at the stream's position. Reading: 0 if it is cut short or a name is longer than 256
-    // bytes; the names before that stay. Names in 16-bit characters, as others write them under code page
-    // 1200, are read as well; one that the system's code page can't represent is left out.
+    // Write and read the dictionary at the stream's position. Reading returns 0 if the dictionary is truncated or a
+    // name is longer than 256 bytes; the names before it are kept. It accepts names in 16-bit characters, as others
+    // write them under code page 1200, and skips those that the system's code page cannot represent.
     int WriteNameDictToStream(IStream* pStream);
     int ReadNameDictFromStream(IStream* pStream);
 
-    // The section, or its dictionary, as items of a resource script. WriteToRC needs a file that can be
-    // written over at an earlier position, and gives 0 if a property has no form. WriteNameDictToRC gives the
-    // number of bytes.
+    // Write the section, or its dictionary, as items of a resource script. WriteToRC requires a seekable file and
+    // returns 0 if a property has no stored form. WriteNameDictToRC returns the number of bytes.
     int WriteToRC(CRCFile* pRC);
     DWORD WriteNameDictToRC(CRCFile* pRC);
 

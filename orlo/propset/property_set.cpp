@@ -14,7 +14,7 @@
 namespace {
 
 constexpr DWORD kWindows = 2;
-constexpr size_t kUsualSetSize = 1000; // of a summary without a picture
+constexpr size_t kUsualSetSize = 1000; // for a summary without a thumbnail
 
 CPropertySection* NextSection(const CObList& list, POSITION& position) {
     return static_cast<CPropertySection*>(list.GetNext(position));

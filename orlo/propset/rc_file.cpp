@@ -1,4 +1,4 @@
-// Items, separators and line breaks of a resource script.
+// Writes items, separators and line breaks of a resource script.
 
 #include "orlo/propset/rc_file.h"
 
@@ -9,10 +9,10 @@ namespace {
 
 constexpr int kWrapColumn = 70;
 constexpr int kIndent = 4;
-constexpr int kBreakColumn = 1000; // beyond every line: the next item begins one
+constexpr int kBreakColumn = 1000; // greater than any column, so that the next item starts a new line
 
-// As it is written between the quotes of a script's text. Line feeds, tabs and their like too are written by
-// number: a raw line feed ends the literal for windres.
+// Appends a character as it appears in a quoted text of a script. Control characters are escaped as numbers, including
+// line feeds, which would end the text for windres.
 void AppendEscaped(std::string& text, char character) {
     const auto code = static_cast<unsigned char>(character);
     if (code < 0x20) {

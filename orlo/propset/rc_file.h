@@ -1,27 +1,33 @@
-// CRCFile: prints binary data as the items of a raw-data block of a resource script. The statement around
-// them is the caller's.
+// CRCFile: writes binary data as items of a raw-data block of a resource script. The caller writes the statement around
+// them.
 //
 //   CRCFile rc("summary.rc", CStdioFile::modeCreate | CStdioFile::modeReadWrite);
-//   rc.Write("1 RCDATA\nBEGIN", 14);
-//   section.WriteToRC(&rc);                // words as 0x0054, texts in quotes, a comma between all
-//   rc.WriteString("END")                  // wrong: that is another item, with a comma before it
-//   rc.CStdioFile::WriteString("\nEND\n2 RCDATA\nBEGIN"); // right
-//   rc.StartBlock();                       // else the next item would begin with a comma
+//   rc.Write("1 RCDATA
+// BEGIN", 14);
+//   section.WriteToRC(&rc);                // words as 0x0054, texts in quotes, separated by commas
+//   rc.WriteString("END")                  // wrong: writes another item, with a comma before it
+//   rc.CStdioFile::WriteString("
+// END
+// 2 RCDATA
+// BEGIN"); // right
+//   rc.StartBlock();                       // otherwise the next item would begin with a comma
 //   other.WriteToRC(&rc);
-//   rc.CStdioFile::WriteString("\nEND\n");
+//   rc.CStdioFile::WriteString("
+// END
+// ");
 //
-// A text is printed up to its first NUL, although the length ahead of it counts what may follow: the block
-// is then shorter than it says. Files of other programs have such texts, padded to a round length; PrintWholeTexts
-// has them printed to the end of their count.
+// A text is written up to its first NUL, although its length may be greater, in which case the block is shorter than it
+// declares. Other programs create such texts, padded to a round length; after PrintWholeTexts they are written
+// completely.
 //
-// Bytes from 0x80 upward are printed as they are; compile the script with the code page that they are in.
+// Bytes from 0x80 on are written unchanged; compile the script with their code page.
 #pragma once
 
 #include <afx.h>
 
 #include "orlo/export.h"
 
-// Failures of the file are the CFileException of CStdioFile.
+// On failure the functions throw the CFileException of CStdioFile.
 class ORLO_API CRCFile : public CStdioFile {
 public:
     CRCFile();
@@ -29,25 +35,25 @@ public:
     CRCFile(const char* pszFileName, UINT nOpenFlags);
     ~CRCFile() override;
 
-    // The items so far were a block of their own: the next one begins another.
+    // Ends the current block; the next item begins another.
     void StartBlock();
-    // From now on texts are printed to the end of their count, as further items after their first NUL.
+    // Makes texts that continue after their first NUL be written completely, as further items.
     void PrintWholeTexts();
-    // The next item begins a new line.
+    // Makes the next item begin a new line.
     void NewLine();
-    // The separator that is due before an item: a comma, or the end of the line and the indent of the next.
+    // Writes the separator before an item: a comma, or the end of the line and the indentation of the next.
     void Format();
 
-    // An item, as given.
+    // Writes an item unchanged.
     void WriteString(const char* psz) override;
-    // A quoted text of at most cb bytes; a NUL ends it, and is its last character. Characters below 0x20 are
-    // written as "\x09" is, line feeds and tabs too: raw ones break the line of the script.
+    // Writes a quoted text of at most cb bytes, up to and including its first NUL. Control characters, including line
+    // feeds and tabs, are written as "\x09".
     void WriteCString(const char* psz, DWORD cb);
     void WriteByte(BYTE b);
     void WriteWord(WORD w);
-    // As two words, the low one first.
+    // Writes two words, the low word first.
     void WriteDWord(DWORD dw);
-    // As words, and the last byte of an odd number as a text.
+    // Writes words, and the last of an odd number of bytes as text.
     void WriteBytes(BYTE* p, int n);
     void WriteNULByte();
 

@@ -1,4 +1,4 @@
-// The parts of which the stream of a property set consists. Used inside the library.
+// Sizes of the parts of a property set stream. Internal to the library.
 #pragma once
 
 #include <objidl.h>
@@ -10,11 +10,11 @@
 namespace orlo {
 
 constexpr uint16_t kLittleEndianMark = 0xFFFE;
-constexpr size_t kSetHeadSize = 28;     // byte order, versions, class, count of sections
-constexpr size_t kSectionLineSize = 20; // of the list of sections: format ID and offset
-constexpr size_t kSectionHeadSize = 8;  // size and count of properties
-constexpr size_t kPropertyLineSize = 8; // of a section's table: ID and offset
-constexpr size_t kTypeSize = 4;         // before a value
+constexpr size_t kSetHeadSize = 28;     // byte order, versions, class, number of sections
+constexpr size_t kSectionLineSize = 20; // an entry in the list of sections: format ID and offset
+constexpr size_t kSectionHeadSize = 8;  // size and number of properties
+constexpr size_t kPropertyLineSize = 8; // an entry in a section's table: ID and offset
+constexpr size_t kTypeSize = 4;         // precedes a value
 constexpr uint32_t kDictionaryId = 0;
 
 inline bool IsSame(const GUID& a, const GUID& b) {

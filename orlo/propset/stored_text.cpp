@@ -19,13 +19,13 @@ namespace orlo {
 
 namespace {
 
-// The number at the start, held within 32 bits; 0 if there isn't one.
+// Returns the number at the start, clamped to 32 bits, or 0 if there is none.
 int32_t WholeNumber(const char* token) {
     return static_cast<int32_t>(std::clamp<long long>(std::strtoll(token, nullptr, 10), INT32_MIN, INT32_MAX));
 }
 
-// The same for real numbers, with a "." whatever the locale says. Beyond the range: 0, as there is no such
-// number.
+// Returns the real number at the start, with "." as decimal point in any locale, or 0 if there is none or it is out of
+// range.
 double RealNumber(std::string_view token) {
     while (!token.empty() && std::isspace(static_cast<unsigned char>(token.front())))
         token.remove_prefix(1);
@@ -98,7 +98,7 @@ bool PutElement(ImageWriter& image, const char* token, DWORD type) {
 std::optional<std::vector<BYTE>> StoredFromText(const char* text, DWORD type) {
     const DWORD base = BaseType(type);
     if (!FormOf(base).inProperty) return std::nullopt;
-    std::vector<char> copy(text, text + std::strlen(text) + 1); // GetToken cuts it up
+    std::vector<char> copy(text, text + std::strlen(text) + 1); // GetToken modifies it
     char* cursor = copy.data();
     ImageWriter image;
     int count = 1;

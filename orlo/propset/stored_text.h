@@ -1,4 +1,4 @@
-// StoredFromText: a value's stored form from the tokens of a text. Used inside the library.
+// StoredFromText: converts text to the stored form of a value. Internal to the library.
 #pragma once
 
 #include <objidl.h>
@@ -8,8 +8,8 @@
 
 namespace orlo {
 
-// The block of a property of that type: the first token, or all tokens under VT_VECTOR. Nothing if the type
-// has no form or a token can't be one of its values.
+// Returns the stored block for the type: from the first token, or from all tokens under VT_VECTOR. Returns nothing if
+// the type has no stored form or a token is not a valid value.
 std::optional<std::vector<BYTE>> StoredFromText(const char* text, DWORD type);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Reads a stream through a buffer and limits how much is read in all.
+// Reads a stream through a buffer and limits the total number of bytes read.
 
 #include "orlo/propset/stream_reader.h"
 
@@ -48,7 +48,7 @@ size_t StreamReader::Read(void* to, size_t size) {
     return done;
 }
 
-// From the position; as much as there is.
+// Reads from the current position, as many bytes as there are.
 ULONGLONG StreamReader::ReadStream(void* to, size_t size) {
     size = static_cast<size_t>(std::min<ULONGLONG>(size, Left()));
     ULONGLONG reached;

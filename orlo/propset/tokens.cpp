@@ -1,4 +1,4 @@
-// The grammar of tokens: one search serves counting and cutting.
+// Splits text into tokens; counting and extracting use the same search.
 
 #include "orlo/propset/tokens.h"
 
@@ -12,7 +12,7 @@ const char* SkipSpace(const char* text) {
     return text;
 }
 
-// Where a token's text begins and ends, and where the search for the next one goes on.
+// The start and end of a token's text, and where to search for the next token.
 struct Token {
     const char* begin;
     const char* end;

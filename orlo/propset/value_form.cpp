@@ -1,4 +1,4 @@
-// The table of types and how each is stored.
+// The table of types and their stored forms.
 
 #include "orlo/propset/value_form.h"
 
@@ -33,7 +33,7 @@ constexpr std::array<TypeForm, kLastType + 1> MakeForms() {
     forms[VT_R8] = Fixed("VT_R8", 8);
     forms[VT_CY] = Fixed("VT_CY", 8);
     forms[VT_DATE] = Fixed("VT_DATE", 8);
-    forms[VT_BOOL] = Fixed("VT_BOOL", 4); // two bytes and their padding
+    forms[VT_BOOL] = Fixed("VT_BOOL", 4); // two bytes and padding
     forms[VT_UI2] = Fixed("VT_UI2", 2);
     forms[VT_UI4] = Fixed("VT_UI4", 4);
     forms[VT_I8] = Fixed("VT_I8", 8);

@@ -1,5 +1,4 @@
-// The types of a property set: name and form of one element on the stream, in one table. Used inside the
-// library.
+// The value types of property sets: name and stored form, in one table. Internal to the library.
 #pragma once
 
 #include <objidl.h>
@@ -11,7 +10,7 @@
 namespace orlo {
 
 enum class Form : uint8_t {
-    none,  // has no form, or none that anybody knows
+    none,  // no known stored form
     fixed, // `size` bytes
     bytes, // a 32-bit count of bytes, then the bytes
     chars, // a 32-bit count of 16-bit characters, then the characters
@@ -20,9 +19,9 @@ enum class Form : uint8_t {
 struct TypeForm {
     const char* name = nullptr;
     Form form = Form::none;
-    uint8_t size = 0;        // of a fixed element
-    bool isText = false;     // counted bytes that are a text with its NUL
-    bool inProperty = false; // CProperty holds it; the others are only read and written by SetImage
+    uint8_t size = 0;        // for a fixed form
+    bool isText = false;     // the counted bytes are text with a NUL
+    bool inProperty = false; // supported by CProperty; the others only by SetImage
 };
 
 inline bool IsVector(uint32_t type) {
@@ -35,19 +34,19 @@ inline size_t PaddingOf(size_t size) {
     return (4 - size % 4) % 4;
 }
 
-// The form of a type, VT_VECTOR taken away.
+// Returns the form of a type, ignoring VT_VECTOR.
 const TypeForm& FormOf(uint32_t type);
 
-// Little-endian numbers at any address, as memory has them.
+// Read little-endian numbers at unaligned addresses.
 uint16_t Load16(const uint8_t* bytes);
 uint32_t Load32(const uint8_t* bytes);
 void Store32(uint8_t* bytes, uint32_t number);
 
-// The size of a counted element of which the first four bytes are given, count included.
+// Returns the size of a counted element, including its count.
 uint64_t CountedSize(Form form, uint32_t count);
 
-// The size of a stored value of CProperty's types (with VT_VECTOR: the element count and packed elements).
-// Nothing if the type has no form there, or the value would leave the block.
+// Returns the size of a stored value of a type that CProperty supports (with VT_VECTOR: the element count and packed
+// elements). Returns nothing for other types and if the value would exceed the block.
 std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize);
 
 } // namespace orlo

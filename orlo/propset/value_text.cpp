@@ -1,4 +1,4 @@
-// Parses the text forms of dates, money, whole numbers and class IDs.
+// Parses dates, money, integers and class IDs.
 
 #include "orlo/propset/value_text.h"
 
@@ -14,7 +14,7 @@ namespace {
 constexpr int64_t kTicksPerSecond = 10'000'000;
 constexpr int64_t kSecondsPerDay = 86'400;
 
-// What is left of a text while it is read from the front.
+// The part of a text that has not been parsed yet.
 class Rest {
 public:
     explicit Rest(std::string_view text) : text_(text) {}
@@ -24,7 +24,7 @@ public:
         text_.remove_prefix(1);
         return true;
     }
-    // Exactly that many digits.
+    // Parses exactly that many digits.
     bool TakeDigits(size_t count, int base, uint64_t& number) {
         if (text_.size() < count) return false;
         const auto [end, error] = std::from_chars(text_.data(), text_.data() + count, number, base);
@@ -32,7 +32,7 @@ public:
         text_.remove_prefix(count);
         return true;
     }
-    // All of it.
+    // Parses the whole text.
     template <class Number>
     bool TakeNumber(Number& number) {
         const auto [end, error] = std::from_chars(text_.data(), text_.data() + text_.size(), number);
@@ -45,12 +45,13 @@ private:
     std::string_view text_;
 };
 
-// Days from 1601-01-01, by the calendar that is used today.
+// Returns the days since 1601-01-01 in the Gregorian calendar.
 int64_t DaysFrom1601(int64_t year, int64_t month, int64_t day) {
-    const int64_t shifted = month > 2 ? month - 3 : month + 9; // years that begin in March end with their leap day
+    // In years that start in March, the leap day is the last day.
+    const int64_t shifted = month > 2 ? month - 3 : month + 9;
     const int64_t marchYear = month > 2 ? year : year - 1;
     const int64_t days = 365 * marchYear + marchYear / 4 - marchYear / 100 + marchYear / 400;
-    return days + (153 * shifted + 2) / 5 + day - 1 - 584'694; // that many lie between the first March and 1601
+    return days + (153 * shifted + 2) / 5 + day - 1 - 584'694; // days from the start of the computation to 1601-01-01
 }
 
 bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
@@ -60,7 +61,7 @@ bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
     return day <= static_cast<uint64_t>(kDays[month - 1] + (month == 2 && isLeap ? 1 : 0));
 }
 
-// Seconds since 1601 of "2001-02-03", with "T04:05" or " 04:05:06" if given; a Z at the end where it is
+// Returns the seconds since 1601 for "2001-02-03", optionally with "T04:05" or " 04:05:06", and a final Z if it is
 // allowed.
 std::optional<int64_t> ReadDate(std::string_view text, bool isUtc) {
     Rest rest(text);
@@ -88,7 +89,7 @@ std::optional<uint64_t> ReadFileTime(std::string_view text) {
     return static_cast<uint64_t>(*seconds * kTicksPerSecond);
 }
 
-// Days since 1899-12-30.
+// Returns the days since 1899-12-30.
 std::optional<double> ReadOleDate(std::string_view text) {
     const std::optional<int64_t> seconds = ReadDate(text, false);
     if (!seconds) return std::nullopt;
@@ -99,11 +100,11 @@ std::optional<double> ReadOleDate(std::string_view text) {
         ofDay += kSecondsPerDay;
         --days;
     }
-    const double part = static_cast<double>(ofDay) / kSecondsPerDay; // counts forward in days before 1899 too
+    const double part = static_cast<double>(ofDay) / kSecondsPerDay; // the fraction counts forward even before 1899
     return days < 0 ? static_cast<double>(days) - part : static_cast<double>(days) + part;
 }
 
-// Ten-thousandths: the digits without their point, filled up to four decimals, are that number.
+// Returns ten-thousandths: the digits without the decimal point, padded to four decimals.
 std::optional<int64_t> ReadMoney(std::string_view text) {
     const size_t point = text.find('.');
     const std::string_view whole = text.substr(0, point);

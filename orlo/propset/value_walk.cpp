@@ -6,7 +6,7 @@ namespace orlo {
 
 namespace {
 
-// A layout of a vector: where it ends, and how many of its texts end in a NUL, as nearly all do.
+// A possible layout of a vector: where it ends, and how many of its texts end with a NUL, as nearly all texts do.
 struct Layout {
     size_t size;
     size_t soundTexts;

@@ -1,4 +1,4 @@
-// The walk over a stored value of any type, vectors of variants included. Used inside the library.
+// Iterates over the elements of a stored value of any type, including vectors of variants. Internal to the library.
 #pragma once
 
 #include <optional>
@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// What is left of the bytes of a value.
+// The remaining bytes of a value.
 struct Cursor {
     const uint8_t* at;
     size_t left;
@@ -22,7 +22,7 @@ struct Cursor {
     }
 };
 
-// The bytes of one element that is not a variant: of fixed size, or after a count, which is left out.
+// Takes the bytes of one element other than a variant: of fixed size, or counted, without the count.
 inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeForm& form) {
     size_t size = form.size;
     if (form.form != Form::fixed) {
@@ -32,11 +32,11 @@ inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeFor
         size = static_cast<size_t>(counted);
     }
     if (size > cursor.left) return std::nullopt;
-    const uint8_t* bytes = cursor.Take(size); // null where there are none at all
+    const uint8_t* bytes = cursor.Take(size); // null for an empty element at the end
     return std::string_view(reinterpret_cast<const char*>(bytes), size);
 }
 
-// The least that an element of a vector takes; 0 if there are no vectors of that type.
+// Returns the minimum size of a vector element, or 0 if there are no vectors of that type.
 inline size_t SmallestElement(uint32_t type) {
     const TypeForm& form = FormOf(type);
     if (type == VT_VARIANT || form.form == Form::bytes || form.form == Form::chars) return 4;
@@ -48,8 +48,8 @@ inline void SkipPadding(Cursor& cursor, const uint8_t* begin) {
     cursor.Take(padding < cursor.left ? padding : cursor.left);
 }
 
-// Walks over the elements of a vector, or the one element of another value, and gives each to
-// visit(type, form, bytes), which may end the walk. The cursor is then after the value.
+// Calls visit(type, form, bytes) for each element of a vector, or for the element of another value; visit may end the
+// iteration. Afterwards the cursor is at the end of the value.
 template <class Visit>
 bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
     const uint8_t* const begin = cursor.at;
@@ -78,11 +78,11 @@ bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
 
 struct Extent {
     size_t size;         // after the type code, without padding at the end
-    bool elementsPadded; // each element of the vector fills up to 4 bytes; most writers pack them
+    bool elementsPadded; // each element is padded to 4 bytes; most writers pack them
 };
 
-// The extent of a value that begins at `bytes` and has no more room than `size`. Nothing if it doesn't fit or
-// the type has no form. Takes no memory.
+// Returns the extent of a value that begins at `bytes` and has at most `size` bytes, or nothing if it does not fit or
+// the type has no stored form. Allocates no memory.
 std::optional<Extent> MeasureValue(uint32_t type, const uint8_t* bytes, size_t size);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// The dictionary of a set image, in each of the forms that writers give it.
+// Reads and writes the dictionary of a set image in each layout that writers use.
 
 #include "orlo/propset/inspect/image_dictionary.h"
 
@@ -11,30 +11,30 @@ namespace orlo {
 
 namespace {
 
-constexpr size_t kEntryHead = 8; // ID and length
+constexpr size_t kEntryHead = 8; // property ID and length
 
-// One form in which names may be stored.
+// A layout in which names may be stored.
 struct NameForm {
     uint16_t codePage;
     bool isWide;
 
     size_t UnitSize() const { return isWide ? 2 : 1; }
-    size_t PaddingOf(size_t size) const { return isWide ? size % 4 : 0; } // two bytes if any
+    size_t PaddingOf(size_t size) const { return isWide ? size % 4 : 0; } // at most two bytes
 };
 
 struct RawName {
     uint32_t id;
-    size_t at; // from the head of the dictionary
+    size_t at; // offset in the dictionary
     std::string_view bytes;
 };
 
 struct RawDictionary {
-    uint32_t count; // as announced
+    uint32_t count; // the stored number of entries
     std::vector<RawName> names;
     size_t size;
 };
 
-// The names as far as they exist.
+// Splits the dictionary into names, as far as it is complete.
 std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const NameForm& form) {
     if (size < 4) return std::nullopt;
     RawDictionary raw{Load32(bytes), {}, 4};
@@ -50,7 +50,7 @@ std::optional<RawDictionary> Split(const uint8_t* bytes, size_t size, const Name
     return raw;
 }
 
-// The name's bytes up to its NUL; false if there isn't one.
+// Truncates the name at its NUL. Returns false if there is none.
 bool CutAtNul(std::string_view& name, const NameForm& form) {
     const size_t unit = form.UnitSize();
     for (size_t i = 0; i + unit <= name.size(); i += unit) {
@@ -78,7 +78,7 @@ struct SplitNames {
     std::optional<RawDictionary> raw;
 };
 
-// Under code page 1200: wide names, unless only 8-bit ones make sense.
+// Under code page 1200, names have 16-bit characters unless only 8-bit names are valid.
 SplitNames SplitByBestForm(const uint8_t* bytes, size_t size, uint16_t codePage) {
     const NameForm form{codePage, codePage == kCodePageUtf16};
     SplitNames usual{form, Split(bytes, size, form)};

@@ -1,4 +1,4 @@
-// The name dictionary of a section as SetImage has it, from and to the stream. Used inside the library.
+// Reads and writes the dictionary of a section in a SetImage. Internal to the library.
 #pragma once
 
 #include <optional>
@@ -12,19 +12,19 @@ namespace orlo {
 
 struct ImageDictionary {
     std::vector<DictionaryEntry> entries;
-    size_t size; // on the stream
+    size_t size; // stored size in bytes
 };
 
-// True if it has as many names as it announces.
+// Returns true if the dictionary has as many names as its count states.
 bool IsWholeDictionary(const uint8_t* bytes, size_t size, uint16_t codePage);
 
-// Names are 8-bit texts of the code page, packed; under code page 1200 they are 16-bit characters padded to 4
-// bytes, or 8-bit texts after all, as CPropertySection writes them. `place` names the section in findings,
-// `offset` is where the dictionary is. Nothing if even its first name is missing.
+// Reads a dictionary. Names are packed 8-bit texts in the code page; under code page 1200 they are 16-bit characters
+// padded to 4 bytes, or 8-bit texts as CPropertySection writes them. `place` names the section in findings; `offset` is
+// the offset of the dictionary. Returns nothing if not even the first name is complete.
 std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t size, uint16_t codePage,
                                                    uint64_t offset, const std::string& place, Report& report);
 
-// False if the code page can't represent a name.
+// Returns false if the code page cannot represent a name.
 bool AppendImageDictionary(const std::vector<DictionaryEntry>& entries, uint16_t codePage, ImageWriter& image);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Report: collects the findings of one reading, and no more of them than a person would read. Used inside the library.
+// Report: collects the findings of one read operation, up to a limit. Internal to the library.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@ class Report {
 public:
     explicit Report(std::vector<Finding>& findings) : findings_(findings), most_(findings.size() + kMost) {}
 
-    // The text is put together from the parts. The offset counts from the head of the stream.
+    // Adds a finding whose text is the concatenation of the parts. The offset is relative to the start of the stream.
     template <class... Parts>
     void Add(FindingCode code, Severity severity, uint64_t offset, const Parts&... parts) {
         if (findings_.size() < most_) {
@@ -24,14 +24,14 @@ public:
         }
     }
 
-    // Puts the findings in the order of the stream.
+    // Sorts the findings by offset.
     void Sort() {
         std::stable_sort(findings_.begin(), findings_.end(),
                          [](const Finding& a, const Finding& b) { return a.offset < b.offset; });
     }
 
 private:
-    static constexpr size_t kMost = 1000; // a hostile stream could give ten for every eight of its bytes
+    static constexpr size_t kMost = 1000; // a malicious stream could cause ten findings per eight bytes
 
     std::vector<Finding>& findings_;
     size_t most_;

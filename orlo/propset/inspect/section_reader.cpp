@@ -1,4 +1,4 @@
-// Reads one section of a set image and notes everything that is irregular about it.
+// Reads one section of a set image and reports everything that is irregular.
 
 #include "orlo/propset/inspect/section_reader.h"
 
@@ -22,13 +22,13 @@ std::ostream& operator<<(std::ostream& out, Hex hex) {
     return out << "0x" << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << hex.number << std::dec;
 }
 
-constexpr size_t kUsualEntries = 32; // room for them is made at once
+constexpr size_t kUsualEntries = 32; // initial capacity
 
 size_t Aligned(size_t size) {
     return size + PaddingOf(size);
 }
 
-// A value of that type has a known size.
+// Returns true if values of that type have a known size.
 bool HasForm(uint32_t type) {
     return IsVector(type) ? SmallestElement(BaseType(type)) != 0 : FormOf(type).form != Form::none;
 }
@@ -84,7 +84,7 @@ void SectionReader::ReadTable() {
     entries_.reserve(std::min({fitting, size_t{section_.count}, kUsualEntries}));
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
         const size_t at = kSectionHeadSize + i * kPropertyLineSize;
-        if (isShort && at + kPropertyLineSize > firstValue) break; // no table reaches into its values
+        if (isShort && at + kPropertyLineSize > firstValue) break; // the table ends at the first value
         if (!allowance_.Spend(kPropertyLineSize)) {
             report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + at, place_,
                         ": the tables hold more than the stream could; the rest is left out");
@@ -99,7 +99,7 @@ void SectionReader::ReadTable() {
     reached_ += entries_.size() * kPropertyLineSize;
 }
 
-// Sorts the entries by offset, and checks what the table alone shows.
+// Sorts the entries by offset and checks the table.
 void SectionReader::LookAtTable() {
     size_t unaligned = 0;
     bool isAscending = true;
@@ -123,7 +123,7 @@ void SectionReader::LookAtTable() {
 void SectionReader::LookForRepeatedIds() {
     const auto isNotAscending = [](const Entry* a, const Entry* b) { return a->id >= b->id; };
     if (std::adjacent_find(sorted_.begin(), sorted_.end(), isNotAscending) == sorted_.end()) return;
-    std::vector<const Entry*> byId(sorted_.begin(), sorted_.end()); // in the order of the table still
+    std::vector<const Entry*> byId(sorted_.begin(), sorted_.end()); // still in table order
     const auto less = [](const Entry* a, const Entry* b) { return a->id < b->id; };
     std::stable_sort(byId.begin(), byId.end(), less);
     for (size_t i = 1; i < byId.size(); ++i) {
@@ -136,7 +136,7 @@ void SectionReader::LookForRepeatedIds() {
 }
 
 void SectionReader::ReadValues() {
-    size_t next = 0; // the first entry of the next offset: any number of them may share one
+    size_t next = 0; // the first entry with a greater offset, since several entries may share one
     for (size_t i = 0; i < sorted_.size(); ++i) {
         Entry& entry = *sorted_[i];
         while (next < sorted_.size() && sorted_[next]->offset <= entry.offset)
@@ -184,7 +184,7 @@ void SectionReader::ReadValue(Entry& entry) {
 
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     const bool isVector = IsVector(property.type);
-    // A vector is walked within its own room, and no further, so that none is walked twice.
+    // A vector is measured only up to the next value, so that no bytes are measured twice.
     const size_t reach = isVector ? entry.room : left_ - entry.offset - kTypeSize;
     if (isVector && !allowance_.Spend(reach)) return TooLarge(entry);
     if (const std::optional<Extent> extent = MeasureValue(property.type, bytes, reach)) {
@@ -216,7 +216,7 @@ void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     entry.property.state = state;
     entry.property.bytes.assign(bytes, bytes + size);
-    if (state == ValueState::opaque) entry.property.bytes.resize(Aligned(size)); // its padding may be part of it
+    if (state == ValueState::opaque) entry.property.bytes.resize(Aligned(size)); // may include padding
     if (state != ValueState::partial) entry.end = entry.offset + kTypeSize + size;
 }
 
@@ -262,7 +262,7 @@ void SectionReader::ReadDictionary(Entry& entry) {
     entry.end = entry.offset + dictionary->size;
 }
 
-// Between the values, in the order of their offsets: bytes that belong to nothing, or to two.
+// Checks in offset order for unused bytes between values and for overlapping values.
 void SectionReader::LookAtGaps() {
     const size_t tableEnd = reached_;
     const Entry* before = nullptr;

@@ -1,5 +1,4 @@
-// SectionReader: one section of a SetImage from the stream, with everything that is wrong with it. Used inside the
-// library.
+// SectionReader: reads one section of a SetImage from the stream and reports its faults. Internal to the library.
 #pragma once
 
 #include <string>
@@ -8,8 +7,8 @@
 
 namespace orlo {
 
-// How many bytes of tables and values may still be taken: four times the stream. What a sound stream holds
-// stays far below; values, tables or sections laid over one another many times run out of it.
+// Limits the total number of bytes of tables and values to four times the stream's size. Intact streams stay well
+// below; values, tables or sections that overlap many times exceed it.
 class Allowance {
 public:
     explicit Allowance(size_t streamSize) : left_(uint64_t{4} * streamSize) {}
@@ -25,22 +24,22 @@ private:
 
 class SectionReader {
 public:
-    // The section's head is at `head`, with at least 8 bytes; `left` are all bytes up to the end of the
-    // stream and `room` those up to the next section. The section has its offset; the rest is filled in.
+    // `head` points to the section's header of at least 8 bytes; `left` is the number of bytes up to the end of the
+    // stream, `room` that up to the next section. `section` has its offset; the reader fills in the rest.
     SectionReader(const uint8_t* head, size_t left, size_t room, std::string place, Allowance& allowance,
                   Report& report, ImageSection& section);
 
-    // The place after the last thing that was read, from the head of the section.
+    // Returns the offset after the last byte that was read, relative to the start of the section.
     size_t Read();
 
 private:
-    // A line of the table, and what was read of it.
+    // An entry of the table, and the value that was read for it.
     struct Entry {
         uint32_t id;
         uint32_t offset;
-        size_t room = 0;         // after the type code, up to the next value
-        size_t end = 0;          // after what was read; 0: nothing was
-        bool isProperty = false; // false: the dictionary
+        size_t room = 0;         // bytes after the type code, up to the next value
+        size_t end = 0;          // offset after the bytes that were read, or 0 if there are none
+        bool isProperty = false; // false for the dictionary
         ImageProperty property{};
     };
 
@@ -63,8 +62,8 @@ private:
     Allowance& allowance_;
     Report& report_;
     ImageSection& section_;
-    std::vector<Entry> entries_; // in the order of the table
-    std::vector<Entry*> sorted_; // by offset
+    std::vector<Entry> entries_; // in table order
+    std::vector<Entry*> sorted_; // sorted by offset
     size_t reached_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Sections, values and names found, added and removed.
+// Finds, adds and removes sections, values and names.
 
 #include "orlo/propset/inspect/set_edit.h"
 
@@ -25,7 +25,7 @@ void StoreCodePage(ImageSection& section, uint16_t codePage) {
     section.codePage = codePage;
 }
 
-// Returns false if the value is not text of the code page.
+// Returns false if the value is not text in the code page.
 bool ConvertValue(ImageProperty& property, std::optional<uint16_t> codePage) {
     if (property.state != ValueState::complete || !HasCodePageText(property.type)) return true;
     Value value;
@@ -49,7 +49,7 @@ ImageSection& SectionFor(SetImage& image, const GUID& format, uint16_t codePage)
 void StoreValue(ImageSection& section, uint32_t id, uint32_t type, Bytes bytes) {
     ImageProperty* property = section.Find(id);
     if (property == nullptr) {
-        // The code page comes first: a reader that goes in order needs it before the texts.
+        // The code page is stored first, because sequential readers need it before the texts.
         const auto place = id == kCodePageId ? section.properties.begin() : section.properties.end();
         property = &*section.properties.emplace(place);
     }

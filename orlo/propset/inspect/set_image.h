@@ -1,14 +1,13 @@
-// SetImage: a property-set stream as plain data, whatever its writer did, with a list of everything that is
-// wrong with it.
+// SetImage: a property-set stream as plain data, whatever program wrote it, with a list of its irregularities.
 //
 //   std::vector<Finding> findings;
 //   std::optional<SetImage> image = ReadSetImage(data, size, findings);
-//   if (!image) ... not a property set; findings say why ...
+//   if (!image) ... not a property set; findings has the reason ...
 //   for (const ImageSection& section : image->sections) ...
 //
-// It keeps what CPropertySet can't hold: vectors of variants, unknown types, names in
-// 16-bit characters and in their own case. An image that is written and read again is equal except for offsets.
-// It judges and keeps; it shows nothing. It takes no more memory than a few times the stream.
+// Unlike CPropertySet it preserves vectors of variants, unknown types, and names in 16-bit characters and in their
+// original case. An image that is written and read again is equal except for offsets. Memory use is at most a few times
+// the size of the stream.
 #pragma once
 
 #include <objidl.h>
@@ -25,31 +24,31 @@ namespace orlo {
 
 struct DictionaryEntry {
     uint32_t id;
-    std::string name; // UTF-8; empty for a name that is not text of the code page
-    Bytes undecoded;  // the stored bytes of such a name
+    std::string name; // UTF-8; empty if the name is not text in the code page
+    Bytes undecoded;  // the stored bytes in that case
 };
 
-// complete: the bytes are the value. opaque: unknown type; the bytes are all up to the next value,
-// filled up to 4, and are kept. partial: the value is incomplete; the bytes are those present.
+// complete: the bytes are the value. opaque: unknown type; the bytes extend to the next value, padded to a multiple of
+// 4. partial: the value is truncated; the bytes are those present.
 enum class ValueState { complete, opaque, partial };
 
 struct ImageProperty {
     uint32_t id = 0;
     uint32_t type = VT_EMPTY;
-    uint16_t typeHighHalf = 0; // 0 unless the writer put something after the type code
-    uint32_t offset = 0;       // of the type code, from the head of its section
+    uint16_t typeHighHalf = 0; // 0 unless the writer stored something in the high half of the type code
+    uint32_t offset = 0;       // of the type code, relative to the start of its section
     ValueState state = ValueState::complete;
     Bytes bytes; // after the type code, without padding
 };
 
 struct ImageSection {
     GUID formatId{};
-    uint32_t offset = 0;              // from the head of the stream
-    uint32_t size = 0;                // as its header says
-    uint32_t count = 0;               // properties, as its header says
-    std::optional<uint16_t> codePage; // property 1
+    uint32_t offset = 0;              // relative to the start of the stream
+    uint32_t size = 0;                // as stored in its header
+    uint32_t count = 0;               // number of properties as stored in its header
+    std::optional<uint16_t> codePage; // value of property 1
     std::optional<std::vector<DictionaryEntry>> dictionary;
-    std::vector<ImageProperty> properties; // in the order of the table, without the dictionary
+    std::vector<ImageProperty> properties; // in table order, without the dictionary
 
     ORLO_API ImageProperty* Find(uint32_t id);
     ORLO_API const ImageProperty* Find(uint32_t id) const;
@@ -60,19 +59,19 @@ struct SetImage {
     uint16_t version = 0;
     uint32_t osVersion = 0x00020005;
     GUID classId{};
-    uint32_t sectionCount = 0; // as its header says
+    uint32_t sectionCount = 0; // as stored in the header
     std::vector<ImageSection> sections;
 
     ORLO_API ImageSection* Find(const GUID& formatId);
     ORLO_API const ImageSection* Find(const GUID& formatId) const;
 };
 
-// note: unusual, and every reader copes. irregular: readers differ, or something is odd enough to look at.
-// damaged: something that the stream announces can't be read.
+// note: unusual, but all readers accept it. irregular: readers differ, or it deserves attention. damaged: something
+// that the stream declares cannot be read.
 enum class Severity { note, irregular, damaged };
 
-// Numbers of findings: 1xx the header, 2xx sections, 3xx properties, 4xx values, 5xx dictionaries. They never
-// change; docs/property-sets.md lists them.
+// Codes of findings: 1xx header, 2xx sections, 3xx properties, 4xx values, 5xx dictionaries. They never change;
+// docs/property-sets.md lists them.
 enum class FindingCode {
     headerShort = 100,
     byteOrder = 101,
@@ -81,7 +80,7 @@ enum class FindingCode {
     sectionListShort = 104,
     trailingBytes = 105,
     manySections = 106,
-    findingsCut = 107, // the last one of a very long list
+    findingsCut = 107, // ends a list that was truncated
 
     sectionOffsetPastEnd = 200,
     sectionOffsetInHeader = 201,
@@ -104,7 +103,7 @@ enum class FindingCode {
     valueShort = 306,
     valueBeyondSection = 307,
     unusedBytes = 308,
-    valuesTooLarge = 309, // values laid over one another, more than the stream could hold
+    valuesTooLarge = 309, // overlapping values, larger in total than the stream allows
     valuesOverlap = 310,
 
     textWithoutNul = 400,
@@ -125,16 +124,17 @@ enum class FindingCode {
 struct Finding {
     FindingCode code;
     Severity severity;
-    uint64_t offset;  // from the head of the stream
-    std::string text; // names it, what it needs and what was found, and what a reader makes of it
+    uint64_t offset;  // relative to the start of the stream
+    std::string text; // the object, what was expected and found, and how readers treat it
 };
 
-// Nothing if the stream is not a property set (too short, another byte order, no room for its list of sections).
+// Returns nothing if the stream is not a property set: too short, another byte order, or truncated before the end of
+// its list of sections.
 ORLO_API std::optional<SetImage> ReadSetImage(const uint8_t* data, size_t size, std::vector<Finding>& findings);
 
-// The image as a stream: sections and values in order and aligned to 4 bytes, names and texts padded as the
-// published format asks, partial values left out. Nothing if the code page can't represent a name
-// of the dictionary.
+// Returns the image as a stream: sections and values in order and aligned to 4 bytes, names and texts padded as the
+// published format requires, without partial values. Returns nothing if the code page cannot represent a name of the
+// dictionary.
 ORLO_API std::optional<Bytes> WriteSetImage(const SetImage& image);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Writes a set image with every value byte for byte as it was kept.
+// Writes a set image, preserving every value byte for byte.
 
 #include "orlo/propset/code_page.h"
 #include "orlo/propset/inspect/image_dictionary.h"
@@ -14,7 +14,7 @@ void Align(ImageWriter& image) {
     image.PutZeros(PaddingOf(image.Size()));
 }
 
-// The next line of the section's table, which was left free.
+// Fills in the section's table, whose space was reserved.
 class Table {
 public:
     Table(ImageWriter& image, size_t head, size_t count) : image_(image), head_(head), next_(image.Size()) {

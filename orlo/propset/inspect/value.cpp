@@ -112,7 +112,7 @@ bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, 
     }
 }
 
-// A whole number of that size, if it has room there.
+// Encodes an integer of that size if it is in range.
 bool EncodeWhole(const Value& value, uint8_t size, ImageWriter& image) {
     if (const auto* number = std::get_if<uint64_t>(&value.data)) {
         if (size < 8 && *number >> (8 * size) != 0) return false;
@@ -120,7 +120,7 @@ bool EncodeWhole(const Value& value, uint8_t size, ImageWriter& image) {
         return true;
     }
     if (const auto* number = std::get_if<int64_t>(&value.data)) {
-        const int64_t sign = *number >> (8 * size - 1); // all bits alike where it fits
+        const int64_t sign = *number >> (8 * size - 1); // all bits equal if the value is in range
         if (sign != 0 && sign != -1) return false;
         image.Put(number, size);
         return true;

@@ -1,8 +1,8 @@
-// Value: what a property's bytes mean, in plain terms, for programs that show or edit property sets.
+// Value: the decoded value of a property, for programs that show or edit property sets.
 //
 //   Value value;
 //   if (DecodeValue(VT_LPSTR, bytes, size, 1252, value)) ... std::get<std::string>(value.data) is UTF-8 ...
-//   DecodeValue(VT_DISPATCH, ...)   false: that type has no form on a stream
+//   DecodeValue(VT_DISPATCH, ...)   returns false: the type has no stored form
 #pragma once
 
 #include <objidl.h>
@@ -17,11 +17,11 @@
 
 namespace orlo {
 
-// Bytes of a blob; owned.
+// The bytes of a blob.
 using Bytes = std::vector<uint8_t>;
 
-// A clipboard format: tag -1 names a format number of Windows, -2 one of the Macintosh, 0 none; other tags
-// (-3 a format ID, above 0 the length of a name) leave format 0 and the naming bytes at the head of the data.
+// A clipboard format: tag -1 precedes a Windows format number, -2 a Macintosh one, 0 none. For other tags (-3: a format
+// ID, positive: the length of a name) format is 0 and the data begins with the ID or name.
 struct ClipboardData {
     int32_t tag;
     uint32_t format;
@@ -29,28 +29,28 @@ struct ClipboardData {
 };
 
 struct Value {
-    uint32_t type = VT_EMPTY; // with VT_VECTOR for a list
-    // By type: nothing (VT_EMPTY, VT_NULL), bool, signed numbers (I1, I2, I4, INT, ERROR, I8, CY in 1/10000),
-    // unsigned numbers (UI1, UI2, UI4, UINT, UI8, FILETIME in 100 ns), double (R4, R8, DATE in days), UTF-8
-    // text up to the first NUL (LPSTR, BSTR, LPWSTR, the stream and storage names), bytes (BLOB, DECIMAL, the
-    // rest), clipboard data, GUID.
+    uint32_t type = VT_EMPTY; // combined with VT_VECTOR for a list
+    // Depending on the type: empty (VT_EMPTY, VT_NULL), bool, signed integers (I1, I2, I4, INT, ERROR, I8, CY in
+    // 1/10000), unsigned integers (UI1, UI2, UI4, UINT, UI8, FILETIME in 100 ns), double (R4, R8, DATE in days), UTF-8
+    // text up to the first NUL (LPSTR, BSTR, LPWSTR, stream and storage names), bytes (BLOB, DECIMAL, all others),
+    // clipboard data, GUID.
     std::variant<std::monostate, bool, int64_t, uint64_t, double, std::string, Bytes, ClipboardData, GUID> data;
-    std::vector<Value> elements; // of a vector; their own types differ only under VT_VARIANT
+    std::vector<Value> elements; // of a vector; they have different types only under VT_VARIANT
 };
 
-// Reads a value from the bytes after its type code. False: no such type, bytes missing, or a text that is
-// not valid in the code page (1252 where the section names none). Elements of a vector may be padded to 4 bytes
-// each, as a few writers do.
+// Decodes a value from the bytes that follow its type code. Returns false if the type is unknown, bytes are missing, or
+// a text is not valid in the code page (1252 if the section has none). Accepts vectors whose elements are padded to 4
+// bytes each, as a few writers produce.
 ORLO_API bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage,
                           Value& value);
 
-// The bytes after the type code, without padding at the end; nothing if the type has no form or the code
-// page can't represent a text. Texts get their length and NUL; elements of a vector are packed.
+// Returns the bytes to store after the type code, without padding at the end, or nothing if the type has no stored form
+// or the code page cannot represent a text. Texts include their length and NUL; elements of a vector are packed.
 ORLO_API std::optional<Bytes> EncodeValue(const Value& value, std::optional<uint16_t> codePage);
 
-// "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
+// Returns "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
 ORLO_API std::string GuidText(const GUID& guid);
-// "VT_LPSTR", "VT_VECTOR | VT_I4", or "type 0x0019".
+// Returns "VT_LPSTR", "VT_VECTOR | VT_I4", or "type 0x0019".
 ORLO_API std::string TypeName(uint32_t type);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Judges a value: texts, padding, booleans, clipboard data.
+// Checks a value: texts, padding, Booleans, clipboard data.
 
 #include "orlo/propset/inspect/value_findings.h"
 
@@ -11,9 +11,9 @@ namespace orlo {
 
 namespace {
 
-// One look at one element of a property.
+// The check of one element of a property.
 struct Look {
-    uint16_t codePage; // of texts; LPWSTR is always 1200
+    uint16_t codePage; // for texts; always 1200 for LPWSTR
     uint64_t offset;
     const std::string& section;
     uint32_t property;
@@ -25,7 +25,7 @@ struct Look {
     }
 };
 
-// Where the text ends: at its first NUL, or with its bytes.
+// Returns the length of the text up to its first NUL, or of all its bytes.
 size_t TextEnd(std::string_view text, bool isWide) {
     const size_t unit = isWide ? 2 : 1;
     for (size_t i = 0; i + unit <= text.size(); i += unit)

@@ -1,4 +1,4 @@
-// What is odd about a value that was read in full. Used inside the library.
+// Reports irregularities of a complete value. Internal to the library.
 #pragma once
 
 #include <optional>
@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// `place` names the section, `offset` is where the property's bytes are in the stream.
+// `place` names the section; `offset` is the offset of the property's bytes in the stream.
 void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> codePage, uint64_t offset,
                        const std::string& place, Report& report);
 
