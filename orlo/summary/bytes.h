@@ -1,4 +1,4 @@
-// Little-endian numbers at unaligned places of a block of bytes. The caller has checked that they are there.
+// Reads little-endian numbers at unaligned addresses. The caller has checked the bounds.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Reads at offsets of a file that other programs may have open.
+// Reads compound files that other programs may have open.
 
 #include "orlo/summary/compound_file.h"
 

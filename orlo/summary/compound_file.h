@@ -1,4 +1,4 @@
-// Compound files of a disk, read by compound_reader.h.
+// Opens compound files on disk for compound_reader.h.
 #pragma once
 
 #include <filesystem>
@@ -8,12 +8,12 @@
 
 namespace orlo {
 
-// Opens a file, which the reader then keeps open; other programs may read, write and replace it meanwhile. A pipe or a
-// device reads as empty. Throws std::runtime_error if the file cannot be opened.
+// Opens a file, which the reader keeps open; other programs can read, write and replace it meanwhile. A pipe or a
+// device is treated as empty. Throws std::runtime_error if the file cannot be opened.
 ORLO_API CompoundReader OpenCompoundFile(const std::filesystem::path& file);
 // Returns CompoundState::foreign also for a file that cannot be opened.
 CompoundState StateOfCompoundFile(const std::filesystem::path& file);
-// Returns the stream of that name (UTF-8, in any case) outside of inner storages, or null.
+// Returns the stream with that name (UTF-8, ignoring case) in the root storage, or null.
 ORLO_API const CompoundStream* FindStream(const CompoundReader& file, std::string_view name);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Header, allocation tables, directory, streams: each is checked before what hangs on it is read.
+// Reads header, allocation tables, directory and streams, checking each before using what it refers to.
 
 #include "orlo/summary/compound_reader.h"
 
@@ -15,11 +15,11 @@ namespace {
 constexpr size_t kEntryBytes = 128;
 constexpr size_t kNameBytes = 64;
 constexpr size_t kShortSectorBytes = 64;
-constexpr uint32_t kShorterAreShort = 4096;     // bytes of a stream
-constexpr uint32_t kHighestSector = 0xFFFFFFFA; // the marks are above it
-constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector, no entry
+constexpr uint32_t kShorterAreShort = 4096;     // size in bytes
+constexpr uint32_t kHighestSector = 0xFFFFFFFA; // special values are greater
+constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector or no entry
 constexpr size_t kTablesInHeader = 109;
-constexpr size_t kDeepestStorage = 64; // no document has more
+constexpr size_t kDeepestStorage = 64; // deeper than in any real document
 
 enum Kind : uint8_t { kFree = 0, kStorage = 1, kStream = 2, kRoot = 5 };
 
@@ -31,8 +31,8 @@ bool IsShort(uint64_t size) {
     return size < kShorterAreShort;
 }
 
-// Siblings are in the order of their names: by length, then by letters without case. The order of two letters outside
-// of ASCII is the system's to know.
+// Siblings are sorted by name: by length, then by letters ignoring case. Returns true if in doubt, since the order of
+// letters outside of ASCII depends on the system.
 bool MayFollow(const std::u16string& before, const std::u16string& after) {
     if (before.size() != after.size()) return before.size() < after.size();
     const auto upper = [](char16_t c) { return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c; };
@@ -45,8 +45,8 @@ bool MayFollow(const std::u16string& before, const std::u16string& after) {
 
 struct Entry {
     std::u16string name;
-    bool isNamed;      // the name's length is possible
-    bool isTerminated; // by one NUL, after the name
+    bool isNamed;      // the length of the name is valid
+    bool isTerminated; // the name ends with a NUL, its only one
     uint8_t kind;
     uint32_t left, right, child, start;
     uint64_t size;
@@ -55,7 +55,7 @@ struct Entry {
         : kind(at[66]), left(LittleEndian<uint32_t>(at + 68)), right(LittleEndian<uint32_t>(at + 72)),
           child(LittleEndian<uint32_t>(at + 76)), start(LittleEndian<uint32_t>(at + 116)),
           size(wideSizes ? LittleEndian<uint64_t>(at + 120) : LittleEndian<uint32_t>(at + 120)) {
-        const auto nameBytes = LittleEndian<uint16_t>(at + 64); // its NUL is one of them
+        const auto nameBytes = LittleEndian<uint16_t>(at + 64); // the stored length includes the NUL
         isNamed = nameBytes >= 2 && nameBytes <= kNameBytes && nameBytes % 2 == 0;
         for (size_t i = 0; isNamed && i < nameBytes; i += 2)
             name.push_back(LittleEndian<uint16_t>(at + i));
@@ -66,7 +66,7 @@ struct Entry {
 
 struct Storage {
     uint32_t firstEntry;
-    std::u16string path; // with a slash after it
+    std::u16string path; // including a trailing slash
     size_t depth;
 };
 
@@ -113,11 +113,11 @@ private:
     std::array<uint8_t, 512> header_ = {};
     CompoundState state_ = CompoundState::foreign;
     size_t sectorBytes_ = 0;
-    bool hasWideSizes_ = false; // streams may have 4 GB and more
-    uint64_t sectors_ = 0;      // that the file has room for; a last one that was cut counts too
-    uint64_t sharedLeft_ = 0;   // sectors that streams may still have together
+    bool hasWideSizes_ = false; // streams may have 4 GB or more
+    uint64_t sectors_ = 0;      // number of sectors in the file, including a truncated last one
+    uint64_t sharedLeft_ = 0;   // limit for the total number of sectors that streams may share
     SectorTable table_, shortTable_;
-    std::vector<uint32_t> shortStreams_; // sectors of the stream that the short ones lie in
+    std::vector<uint32_t> shortStreams_; // sectors of the stream that contains the short streams
     std::vector<std::string> damage_;
     std::vector<CompoundStream> streams_;
 };
@@ -143,7 +143,7 @@ uint32_t CompoundReader::Structure::Header(size_t offset) const {
     return LittleEndian<uint32_t>(header_.data() + offset);
 }
 
-// False if nothing after it can be found.
+// Returns false if nothing after the header can be located.
 bool CompoundReader::Structure::ReadHeader() {
     if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
     if (!std::equal(kCompoundSignature.begin(), kCompoundSignature.end(), header_.begin())) return false;
@@ -164,7 +164,7 @@ void CompoundReader::Structure::CheckHeader() {
     const auto isFixed = [this](size_t offset, uint16_t value) {
         return LittleEndian<uint16_t>(header_.data() + offset) == value;
     };
-    // Older systems wrote long sectors under the version of short ones.
+    // Older systems wrote version 3 with long sectors.
     const bool isVersion = isFixed(26, 3) || (isFixed(26, 4) && sectorBytes_ != 512);
     if (!isVersion) Damaged("the header: its version");
     hasWideSizes_ = isFixed(26, 4);
@@ -173,14 +173,14 @@ void CompoundReader::Structure::CheckHeader() {
     if (Header(56) != kShorterAreShort) Damaged("the header: the limit of short streams");
 }
 
-// A number of the header, against what was found.
+// Compares a number in the header with the number found.
 void CompoundReader::Structure::Count(const char* what, size_t offset, size_t found) {
     if (Header(offset) == found) return;
     Damaged(std::string("the header: ") + std::to_string(Header(offset)) + " sectors of " + what + ", and " +
             std::to_string(found) + " are there");
 }
 
-// A part of the structure. What isn't there stays as it is.
+// Reads a sector of the structure. Missing bytes are left unchanged.
 void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, const char* what) {
     const uint64_t at = At(sector);
     const uint64_t there = sector < sectors_ ? std::min<uint64_t>(sectorBytes_, fileSize_ - at) : 0;
@@ -189,7 +189,8 @@ void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, cons
     if (there != 0) read_(at, bytes, static_cast<size_t>(there));
 }
 
-// All bytes of these sectors, one after the other; neighboring ones are read at once. What isn't there reads as free.
+// Reads sectors and concatenates them, reading neighboring ones at once. Missing sectors are filled with the value for
+// free sectors.
 std::vector<uint8_t> CompoundReader::Structure::Sectors(const std::vector<uint32_t>& sectors, const char* what) {
     std::vector<uint8_t> bytes(sectors.size() * sectorBytes_, 0xFF);
     for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
@@ -223,7 +224,7 @@ bool CompoundReader::Structure::Claim(uint32_t sector, std::vector<bool>& claime
     return isFree;
 }
 
-// Its own sectors are listed in the header, then in a chain of further lists.
+// The sectors of the allocation table are listed in the header, then in a chain of further lists.
 void CompoundReader::Structure::ReadTable() {
     constexpr char kWhat[] = "the allocation table";
     std::vector<uint32_t> tables;
@@ -248,7 +249,7 @@ void CompoundReader::Structure::ReadTable() {
     if (!table_.Reserve(tables)) Damaged("the allocation table: it calls sectors of its own free");
 }
 
-// The chain of a part of the structure.
+// Follows the chain of a part of the structure, reporting damage.
 SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const char* what) {
     SectorTable::Chain chain = table_.Walk(start);
     if (chain.fault != ChainFault::none)
@@ -261,14 +262,14 @@ std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
     constexpr char kWhat[] = "the directory";
     std::vector<Entry> entries;
     const SectorTable::Chain chain = WalkWhole(Header(48), kWhat);
-    if (hasWideSizes_ && Header(40) != 0) Count(kWhat, 40, chain.length); // older systems left it out
+    if (hasWideSizes_ && Header(40) != 0) Count(kWhat, 40, chain.length); // older systems did not store it
     const std::vector<uint8_t> bytes = Sectors(chain.sectors, kWhat);
     for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
         entries.emplace_back(bytes.data() + at, hasWideSizes_);
     return entries;
 }
 
-// Short streams lie together in the stream of the root, and have a table of their own.
+// Short streams are stored in the root's stream and have their own allocation table.
 void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
     constexpr char kTable[] = "the table of short streams", kStreams[] = "the short streams";
     const SectorTable::Chain tables = Header(64) == 0 ? SectorTable::Chain() : WalkWhole(Header(60), kTable);
@@ -294,7 +295,7 @@ void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
     AddLost(entries, seen);
 }
 
-// Entries that nothing leads to: a link of the tree was damaged, and their streams may be intact.
+// Adds entries that are not reachable: the tree has a damaged link, but their streams may be intact.
 void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen) {
     size_t lost = 0;
     for (size_t id = 0; id < entries.size(); ++id) {
@@ -322,7 +323,7 @@ bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint
     return !fault;
 }
 
-// The entries of a storage are a tree, in the order of their names from left to right.
+// The entries of a storage form a tree sorted by name.
 void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, const Storage& storage,
                                             std::vector<bool>& seen, std::vector<Storage>& ahead) {
     std::vector<uint32_t> above;
@@ -346,7 +347,7 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
     }
 }
 
-// The system finds a name by the order; one that is elsewhere, or twice, it would add once more.
+// The system finds a name by the sort order; a misplaced or duplicate name could be added a second time.
 void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* before, uint32_t id) {
     if (!entry.isTerminated || (before && !MayFollow(before->name, entry.name)))
         Damaged("the directory: the name of entry " + std::to_string(id) + " is wrong for its place",
@@ -377,8 +378,8 @@ void CompoundReader::Structure::WalkStream(CompoundStream& stream) {
         stream.fault = ChainFault::isShort;
 }
 
-// How far the chain goes on in sectors of other streams. All streams together get no more of them than the file has:
-// they would be read once for each.
+// Returns the number of readable sectors after the point where the chain runs into another stream's. The total for all
+// streams is limited to the number of sectors in the file, since these sectors are read again for each stream.
 uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort) {
     if (stream.sectors >= wanted) return 0;
     const uint64_t most = std::min(wanted, stream.sectors + sharedLeft_);
@@ -387,7 +388,7 @@ uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream
     return shared;
 }
 
-// How many bytes the file has of these sectors, from the first on: its last sector can be cut.
+// Returns the number of bytes present in these sectors, which is smaller if the last sector of the file is truncated.
 uint64_t CompoundReader::Structure::BytesOf(const std::vector<uint32_t>& chain) const {
     const auto cut = fileSize_ % sectorBytes_ == 0 ? chain.end() : std::find(chain.begin(), chain.end(), sectors_ - 1);
     const uint64_t before = static_cast<uint64_t>(cut - chain.begin()) * sectorBytes_;
@@ -399,7 +400,7 @@ uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
     return At(shortStreams_[static_cast<size_t>(inside / sectorBytes_)]) + inside % sectorBytes_;
 }
 
-// Neighboring sectors are read at once: most streams are one run of them.
+// Neighboring sectors are read at once, since most streams are contiguous.
 std::vector<uint8_t> CompoundReader::Structure::Read(const CompoundStream& stream) const {
     const bool isShort = IsShort(stream.size);
     const size_t each = isShort ? kShortSectorBytes : sectorBytes_;

@@ -1,10 +1,9 @@
-// A compound file read without the system: its streams, and everything in its structure that is damaged. On damage the
-// system's own reader may loop for ever or crash. Needs no window header.
+// Reads the streams of a compound file and reports all damage in its structure, without the system's reader, which may
+// loop forever or crash on damaged files. Needs no window header.
 //
 //   CompoundReader file(reader, size);
-//   if (file.State() == CompoundState::sound) ...   // the system may open it, and write into it
-//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever there is, even in a damaged
-//   file
+//   if (file.State() == CompoundState::sound) ...   // safe to open with the system, and to modify
+//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever is readable, even if damaged
 #pragma once
 
 #include <array>
@@ -20,41 +19,42 @@
 
 namespace orlo {
 
-// What every compound file begins with.
+// The first bytes of every compound file.
 constexpr std::array<uint8_t, 8> kCompoundSignature = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
 
 enum class CompoundState {
     foreign, // not a compound file
     sound,
-    torn,  // streams lack sectors or share them, names are wrong: the system can read it, and nothing should be written
-    unsafe // header, tables or directory are damaged, or a chain is a circle: not for the system
+    torn,  // sectors of streams are missing or shared, or names are wrong: the system can read the file, but it should
+           // not be written
+    unsafe // header, tables or directory are damaged, or a chain is circular: the system must not open the file
 };
 
-// Stores `size` bytes from `offset` of the file; false if they aren't there.
+// Reads `size` bytes at `offset`. Returns false if the file does not have all of them.
 using ReadAt = std::function<bool(uint64_t offset, void* buffer, size_t size)>;
 
 struct CompoundStream {
-    std::u16string path; // with the storages that it lies in: "Outer/Inner"
-    uint64_t size;       // bytes, as the directory has it
+    std::u16string path; // including its storages: "Outer/Inner"
+    uint64_t size;       // in bytes, according to the directory
     uint32_t start;      // its first sector
-    uint64_t sectors;    // how many of its chain can be read
+    uint64_t sectors;    // number of readable sectors in its chain
     ChainFault fault;    // of its chain of sectors
-    bool isLost;         // nothing in the directory leads to it; the system doesn't see it
+    bool isLost;         // not reachable from the directory, so invisible to the system
 };
 
 class CompoundReader {
 public:
-    // Walks the whole structure of a file of `size` bytes. No sector and no entry is followed twice: time and memory
-    // grow with the number of sectors.
+    // Reads the complete structure of a file of `size` bytes. Each sector and each entry is followed only once: time
+    // and memory grow linearly with the number of sectors.
     ORLO_API CompoundReader(ReadAt read, uint64_t size);
 
     ORLO_API CompoundState State() const;
-    // Of header, tables and directory, in words. Streams have their own.
+    // Returns messages for damage of header, tables and directory. Damage of a stream is in CompoundStream.
     ORLO_API const std::vector<std::string>& Damage() const;
-    // Those of a storage in the order of their names, before those of its inner storages; last those that have lost
-    // theirs.
+    // Returns the streams: those of a storage in name order, before those of its inner storages; unreachable streams
+    // last.
     ORLO_API const std::vector<CompoundStream>& Streams() const;
-    // The bytes of one of these streams, or as many as there are before its damage.
+    // Returns the bytes of one of these streams, up to its first damage.
     ORLO_API std::vector<uint8_t> Read(const CompoundStream& stream) const;
 
 private:

@@ -1,4 +1,4 @@
-// Colors of a bitmap's lines, and a target whose pixels are means of them.
+// Decodes the lines of a bitmap and scales them to a target by averaging.
 
 #include "orlo/summary/dib_drawing.h"
 
@@ -14,12 +14,12 @@ namespace orlo {
 namespace {
 
 constexpr uint8_t kWhite = 0xFF;
-constexpr uint32_t kSmallestHeader = 40; // one with masks and a table of four bytes a color
+constexpr uint32_t kSmallestHeader = 40; // the smallest with color masks and four bytes per table entry
 
 using Color = std::array<uint8_t, 3>; // red, green, blue
 using Line = std::vector<Color>;
 
-// One color of a pixel, by its mask.
+// One color channel of a pixel, extracted by its mask.
 class Channel {
 public:
     explicit Channel(uint32_t mask) : mask_(mask) {
@@ -29,7 +29,7 @@ public:
             ++bits_;
     }
 
-    // Stretched to 8 bits by its own bits again.
+    // Extends the value to 8 bits by repeating its bits.
     uint8_t Of(uint32_t pixel) const {
         if (bits_ == 0) return 0;
         uint32_t value = (pixel & mask_) >> shift_ << (32 - bits_);
@@ -43,7 +43,7 @@ private:
     uint32_t shift_ = 0, bits_ = 0;
 };
 
-// The colors of a bitmap whose layout is checked.
+// Decodes the colors of a bitmap whose layout has been checked.
 class DibLines {
 public:
     DibLines(const uint8_t* data, const DibLayout& layout)
@@ -52,7 +52,7 @@ public:
         if (layout.compression == kDibRunLength8 || layout.compression == kDibRunLength4) PaintRuns();
     }
 
-    // Line y from the top; the line has the bitmap's width.
+    // Reads line y, counted from the top. The line has the bitmap's width.
     void Read(int32_t y, Line& line) const {
         const auto width = static_cast<size_t>(layout_.width);
         if (!painted_.empty()) {
@@ -68,7 +68,7 @@ public:
 private:
     static std::array<Channel, 3> ChannelsOf(const uint8_t* data, const DibLayout& layout) {
         if (layout.compression == kDibBitFields) {
-            const uint8_t* masks = data + kSmallestHeader; // inside of a larger header, after this one
+            const uint8_t* masks = data + kSmallestHeader; // inside a larger header, at the same offset
             return {Channel(LittleEndian<uint32_t>(masks)), Channel(LittleEndian<uint32_t>(masks + 4)),
                     Channel(LittleEndian<uint32_t>(masks + 8))};
         }
@@ -76,7 +76,7 @@ private:
         return {Channel(0xFF0000), Channel(0x00FF00), Channel(0x0000FF)};
     }
 
-    // Indices from the end of the table on are black.
+    // Indices beyond the table are black.
     void ReadTable(const uint8_t* data) {
         constexpr size_t kColorBytes = 4;
         const size_t count = (layout_.pixelOffset - layout_.headerSize) / kColorBytes;
@@ -90,7 +90,7 @@ private:
         const size_t bits = layout_.bitsPerPixel;
         if (bits <= 8) {
             const size_t perByte = 8 / bits;
-            const size_t shift = 8 - bits * (x % perByte + 1); // the first one is the highest
+            const size_t shift = 8 - bits * (x % perByte + 1); // the first pixel is in the highest bits
             return table_[line[x / perByte] >> shift & ((1u << bits) - 1)];
         }
         if (bits == 24) return {line[3 * x + 2], line[3 * x + 1], line[3 * x]};
@@ -101,7 +101,7 @@ private:
         return {channels_[0].Of(pixel), channels_[1].Of(pixel), channels_[2].Of(pixel)};
     }
 
-    // What no run names stays white.
+    // Pixels not covered by a run stay white.
     void PaintRuns() {
         const auto width = static_cast<size_t>(layout_.width), height = static_cast<size_t>(layout_.height);
         painted_.assign(width * height, {kWhite, kWhite, kWhite});
@@ -116,11 +116,11 @@ private:
     const uint8_t* pixels_;
     std::array<Color, 256> table_ = {};
     std::array<Channel, 3> channels_;
-    Line painted_; // the whole picture, if it is run-length data
+    Line painted_; // the whole picture if it is run-length encoded
 };
 
-// Which of `from` pixels each of `to` pixels covers, and how much: one of the first is `to` long, one of the others
-// `from`.
+// Maps `from` source pixels to `to` target pixels with weights: a source pixel has the length `to`, a target pixel the
+// length `from`.
 struct Coverage {
     uint64_t from, to;
 
@@ -132,7 +132,7 @@ struct Coverage {
     }
 };
 
-using Sums = std::vector<std::array<uint64_t, 3>>; // of colors, a pixel of the target each
+using Sums = std::vector<std::array<uint64_t, 3>>; // sums of colors, one per target pixel
 
 void AddTo(std::array<uint64_t, 3>& sum, const std::array<uint64_t, 3>& color, uint64_t weight) {
     for (size_t i = 0; i < sum.size(); ++i)
@@ -145,7 +145,7 @@ public:
         : lines_(lines), layout_(layout), width_(static_cast<size_t>(place.width)),
           height_(static_cast<size_t>(place.height)), line_(static_cast<size_t>(layout.width)), across_(width_) {}
 
-    // Line y of the target.
+    // Writes line y of the target.
     void Write(size_t y, uint8_t* colors) {
         Sums sums(width_);
         const auto add = [&](size_t source, uint64_t weight) {
@@ -161,7 +161,7 @@ public:
     }
 
 private:
-    // A line of the bitmap, as wide as the target. The last one is often asked for again.
+    // Sums a line of the bitmap to the target's width. The last line is cached, because it is often needed twice.
     void SumAcross(size_t source) {
         if (source == summed_) return;
         summed_ = source;

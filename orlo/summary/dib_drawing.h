@@ -1,7 +1,7 @@
 // Draws a device-independent bitmap into memory without the system. Needs no window header.
 //
-//   const auto pixels = DrawDibFitted(data, size, 200, 150);   // in the middle of white, proportions kept
-//   a bitmap that DrawDIB (thumbnail.h) refuses: nothing
+//   const auto pixels = DrawDibFitted(data, size, 200, 150);   // centered on white, with its aspect ratio
+//   // returns nothing for a bitmap that DrawDIB (thumbnail.h) rejects
 #pragma once
 
 #include <cstddef>
@@ -13,9 +13,9 @@
 
 namespace orlo {
 
-// The bitmap at data, of which size bytes may be read, in a white picture of that size in pixels (from 1x1 on): red,
-// green and blue of each pixel, line by line from the top. A smaller picture has the mean of the pixels that each of
-// its own covers.
+// Draws the bitmap at data, of which size bytes may be read, on a white background of that size in pixels (at least
+// 1x1). Returns red, green and blue of each pixel, from the top line down. Each target pixel is the mean of the source
+// pixels that it covers.
 ORLO_API std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t size, int32_t width,
                                                            int32_t height);
 

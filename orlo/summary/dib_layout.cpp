@@ -1,4 +1,4 @@
-// Header, color table, run-length data: each is checked before the next is read.
+// Checks header, color table and run-length data before reading them.
 
 #include "orlo/summary/dib_layout.h"
 
@@ -13,13 +13,13 @@ namespace {
 
 constexpr uint32_t kCoreHeader = 12;
 constexpr uint32_t kInfoHeader = 40;
-// The header with masks, with an alpha mask, version 4 and version 5.
+// Sizes of headers with masks, with an alpha mask, of version 4 and of version 5.
 constexpr uint32_t kLaterHeaders[] = {52, 56, 108, 124};
 
 constexpr size_t kMaskBytes = 12;
 constexpr uint32_t kMostColors = 256;
-// A few bytes of run-length data can name any number of pixels, and the system allocates memory for each: a limit
-// is needed.
+// Limit needed because a few bytes of run-length data can describe any number of pixels, and the system allocates
+// memory for each.
 constexpr uint64_t kMostRunLengthPixels = 1u << 24;
 
 struct Header {
@@ -76,11 +76,11 @@ bool CompressionFits(const DibLayout& layout) {
     case kDibBitFields:
         return bits == 16 || bits == 32;
     default:
-        return false; // whole files of other kinds inside a bitmap are for printers
+        return false; // embedded files of other formats are meant for printers only
     }
 }
 
-// Bytes between header and pixels; nothing for a table that no picture needs.
+// Returns the number of bytes between header and pixels, or nothing if the table is larger than any picture needs.
 std::optional<size_t> TableBytes(const Header& header, DibColors colors) {
     const DibLayout& layout = header.layout;
     const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMostColors;

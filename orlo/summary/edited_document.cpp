@@ -1,4 +1,4 @@
-// The copy is written by the system and compared by our reader.
+// Edits a copy of a compound file with the system's functions and verifies it with CompoundReader.
 
 #include "orlo/summary/edited_document.h"
 
@@ -20,7 +20,7 @@ namespace {
 constexpr DWORD kWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr char kUnlikeIntended[] = "the file was left unchanged: verification of the new copy failed";
 
-// Results of storages are error numbers of the system.
+// Throws if a storage function failed; results are system error codes.
 void Check(HRESULT result, const std::string& what) {
     if (FAILED(result)) throw files::FileError(what, {HRESULT_CODE(result), std::system_category()});
 }
@@ -31,7 +31,7 @@ files::OpenFile Open(const std::filesystem::path& file, DWORD access, DWORD shar
     return opened;
 }
 
-// A program that has the file open would go on with the old one, or write over the new one.
+// Another program that has the file open would continue with the old file, or overwrite the new one.
 const std::filesystem::path& RequireNotInUse(const std::filesystem::path& file) {
     Open(file, GENERIC_READ | GENERIC_WRITE, 0);
     return file;
@@ -40,7 +40,7 @@ const std::filesystem::path& RequireNotInUse(const std::filesystem::path& file) 
 void WriteStream(IStorage& storage, const std::string& name, const Bytes& bytes) {
     const std::wstring wide = Widen(name, CP_UTF8);
     Owned<IStream> stream;
-    // An existing one keeps its place and the case of its name.
+    // An existing stream keeps its position and the case of its name.
     HRESULT result = storage.OpenStream(wide.c_str(), nullptr, kWriting, 0, Receive(stream));
     if (result == STG_E_FILENOTFOUND)
         result = storage.CreateStream(wide.c_str(), kWriting | STGM_FAILIFTHERE, 0, 0, Receive(stream));
@@ -79,7 +79,7 @@ public:
     explicit Original(const std::filesystem::path& file)
         : guard(Open(RequireNotInUse(file), GENERIC_READ, FILE_SHARE_READ)), reader(OpenCompoundFile(file)) {}
 
-    const files::OpenFile guard; // against writers
+    const files::OpenFile guard; // locks out writers
     const CompoundReader reader;
 };
 
@@ -87,7 +87,7 @@ EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMi
     const DWORD attributes = ::GetFileAttributesW(file.c_str());
     const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
     if (!isThere && ifMissing == IfMissing::Create) return;
-    // Some systems let an administrator write nevertheless.
+    // some systems let administrators write anyway
     if (isThere && (attributes & FILE_ATTRIBUTE_READONLY)) throw files::FileError("the file is read-only");
     original_ = std::make_unique<Original>(file);
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
@@ -124,7 +124,7 @@ bool EditedDocument::IsWritten(const CompoundStream& stream) const {
                        [&](const auto& written) { return IsSameName(written.first, path); });
 }
 
-// The copy is sound, has everything that was written, and all else as the file has it now.
+// Verifies that the copy is intact, contains everything that was written, and is otherwise equal to the file.
 void EditedDocument::Check(const std::filesystem::path& copy) const {
     const CompoundReader after = OpenCompoundFile(copy);
     std::map<std::u16string, const CompoundStream*> streams;

@@ -1,11 +1,11 @@
-// EditedDocument: streams of a compound file are replaced in a copy, which is checked and then takes the place of the
-// file in one step.
+// EditedDocument: replaces streams of a compound file in a copy, which is verified and then replaces the file in one
+// step.
 //
 //   EditedDocument document(path);
 //   document.Write(kSummaryStreamName, bytes);
-//   document.Commit();   // after a failure, and without it, the file is as before
+//   document.Commit();   // the file is unchanged if this fails or is not called
 //
-// Every function throws std::runtime_error.
+// All functions throw std::runtime_error on failure.
 #pragma once
 
 #include <filesystem>
@@ -20,7 +20,7 @@
 
 namespace orlo {
 
-// The file is not a sound compound file.
+// Thrown if the file is not an intact compound file.
 class ORLO_API UnfitDocument : public std::runtime_error {
 public:
     explicit UnfitDocument(const std::string& text);
@@ -31,15 +31,16 @@ class EditedDocument {
 public:
     enum class IfMissing { Fail, Create };
 
-    // Until Commit other programs cannot write the file. Throws if another program has it open, if it is read-only or
-    // damaged.
+    // Locks the file against writing by other programs until Commit. Throws if another program has it open, or if it is
+    // read-only or damaged.
     ORLO_API explicit EditedDocument(const std::filesystem::path& file, IfMissing ifMissing = IfMissing::Fail);
     ORLO_API ~EditedDocument();
 
-    // The bytes of a stream outside of inner storages, if it exists. Names are UTF-8, in any case.
+    // Returns the bytes of a stream of the root storage, or nothing if it does not exist. Names are UTF-8 and compared
+    // ignoring case.
     ORLO_API std::optional<Bytes> Read(const std::string& name) const;
     ORLO_API void Write(const std::string& name, Bytes bytes);
-    // The last call. What files/file_replacement.h keeps of a file stays.
+    // Must be the last call. Preserves the attributes listed in files/file_replacement.h.
     ORLO_API void Commit();
 
 private:
@@ -51,7 +52,7 @@ private:
     std::filesystem::path path_;
     std::unique_ptr<Original> original_; // null for a new file
     std::map<std::string, Bytes> written_;
-    mutable std::map<std::string, std::optional<Bytes>> read_; // what edits are based on
+    mutable std::map<std::string, std::optional<Bytes>> read_; // the contents that edits are based on
 };
 
 } // namespace orlo

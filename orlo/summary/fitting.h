@@ -1,4 +1,4 @@
-// Where a picture goes that keeps its proportions.
+// Fits a picture into a rectangle, preserving its aspect ratio.
 #pragma once
 
 namespace orlo {
@@ -7,8 +7,8 @@ struct Place {
     int left, top, width, height;
 };
 
-// The target, or the largest part in its middle that has the proportions of the source. Products of two extents
-// don't fit 32 bits.
+// Returns the largest centered part of the target with the aspect ratio of the source. Computed in double because
+// products of two extents exceed 32 bits.
 inline Place Fitted(const Place& target, double sourceWidth, double sourceHeight) {
     Place place = target;
     const double across = target.width * sourceHeight;

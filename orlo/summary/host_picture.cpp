@@ -1,4 +1,4 @@
-// The host's call for bitmaps, for programs that have no host: part of the static library only.
+// Implements the host's bitmap function for programs without a host. Only in the static library.
 
 #include "orlo/host/dib_palette.h"
 #include "orlo/host/picture.h"

@@ -1,4 +1,4 @@
-// The two heads, the header, and one rule for each kind of record.
+// Checks the two headers of a metafile, and each kind of record by its own rule.
 
 #include "orlo/summary/metafile_check.h"
 
@@ -14,9 +14,9 @@ namespace orlo {
 namespace {
 
 constexpr size_t kHeaderBytes = 18;
-constexpr size_t kRecordHeadBytes = 6; // size in words (32 bits), function (16 bits)
+constexpr size_t kRecordHeadBytes = 6; // size in 32-bit words, function in 16 bits
 
-// Functions of records, by their published numbers.
+// Published function numbers of records.
 enum Function : uint16_t {
     kEndOfFile = 0x0000,
     kSaveDC = 0x001E,
@@ -85,7 +85,7 @@ enum Function : uint16_t {
     kStretchDib = 0x0F43,
 };
 
-// A record after its head: parameters in 16-bit words.
+// The parameters of a record, in 16-bit words.
 class Parameters {
 public:
     Parameters(const uint8_t* data, size_t words) : data_(data), words_(words) {}
@@ -93,7 +93,7 @@ public:
     size_t Count() const { return words_; }
     uint16_t Word(size_t index) const { return LittleEndian<uint16_t>(data_ + 2 * index); }
     const uint8_t* At(size_t index) const { return data_ + 2 * index; }
-    // Words after the first `used` ones.
+    // Returns the number of words after the first `used` ones.
     size_t Behind(size_t used) const { return used < words_ ? words_ - used : 0; }
 
 private:
@@ -101,7 +101,7 @@ private:
     size_t words_;
 };
 
-// Records of fixed shape, and the words that drawing reads of each.
+// Records of fixed size, and the number of words that drawing reads.
 struct FixedShape {
     uint16_t function;
     uint8_t words;
@@ -145,7 +145,7 @@ constexpr FixedShape kFixedShapes[] = {
     {kChord, 8},
 };
 
-// Records that name objects by slot, in their first words.
+// Records whose first words are object slots.
 struct SlotUse {
     uint16_t function;
     uint8_t slots;
@@ -182,8 +182,8 @@ bool TextFits(const Parameters& p) {
 
 bool PositionedTextFits(const Parameters& p) {
     constexpr uint16_t kOpaque = 0x0002, kClipped = 0x0004;
-    // Right-to-left, digit shapes, no reordering. The other options change what the text and the widths are:
-    // glyph numbers and pairs of widths take twice the room of the count.
+    // Right-to-left, digit shapes, no reordering. Other options change the meaning of text and widths: glyph indices
+    // and width pairs take twice the space.
     constexpr uint16_t kHarmless = 0x0080 | 0x0400 | 0x0800 | 0x1000;
     if (p.Count() < 4) return false;
     const uint16_t options = p.Word(3);
@@ -196,7 +196,7 @@ bool PaletteFits(const Parameters& p) {
     return p.Count() >= 2 && p.Word(1) <= p.Behind(2) / 2;
 }
 
-// Bands of a region: count, top, bottom, pairs of left and right, and the count once more.
+// Checks the scan lines of a region: count, top, bottom, pairs of left and right, and the count again.
 bool RegionFits(const Parameters& p) {
     constexpr size_t kHead = 11;
     if (p.Count() < kHead) return false;
@@ -211,7 +211,7 @@ bool RegionFits(const Parameters& p) {
 }
 
 bool BrushFits(const Parameters& p) {
-    constexpr uint16_t kHatched = 2; // the styles above it carry handles and addresses
+    constexpr uint16_t kHatched = 2; // styles above it contain handles and addresses
     return p.Count() >= 4 && p.Word(0) <= kHatched;
 }
 
@@ -226,7 +226,7 @@ std::optional<DibColors> ColorsOf(uint16_t usage) {
     return std::nullopt;
 }
 
-// A bitmap whose color use is in word `usageAt`.
+// Returns the layout of a bitmap whose color usage is in word `usageAt`.
 std::optional<DibLayout> TaggedBitmapIn(const Parameters& p, size_t usageAt, size_t at,
                                         uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;
@@ -235,7 +235,7 @@ std::optional<DibLayout> TaggedBitmapIn(const Parameters& p, size_t usageAt, siz
 }
 
 bool BlockTransferFits(const Parameters& p) {
-    constexpr size_t kWithoutBitmap = 9; // the pattern alone is painted
+    constexpr size_t kWithoutBitmap = 9; // only the pattern is painted
     return p.Count() == kWithoutBitmap || BitmapIn(p, 8, DibColors::Rgb);
 }
 
@@ -243,7 +243,7 @@ bool ScanLinesFit(const Parameters& p) {
     return p.Count() > 9 && TaggedBitmapIn(p, 0, 9, p.Word(1));
 }
 
-// Records that hold counts of their own; nothing is known here of others.
+// Checks records that contain counts. Unknown records are accepted.
 bool ContentFits(uint16_t function, const Parameters& p) {
     switch (function) {
     case kSetPaletteEntries:
@@ -271,13 +271,13 @@ bool ContentFits(uint16_t function, const Parameters& p) {
     }
 }
 
-// Walks the records of one metafile and keeps account of its objects and saved states.
+// Checks all records of a metafile and tracks its objects and saved states.
 class RecordCheck {
 public:
     RecordCheck(const uint8_t* bits, size_t size)
         : bits_(bits), size_(size), used_(LittleEndian<uint16_t>(bits + 10)) {}
 
-    // The end of the last record before the one that marks the end, or nothing.
+    // Returns the end of the last record before the end-of-file record, or nothing.
     std::optional<size_t> Walk() {
         size_t at = kHeaderBytes;
         while (size_ - at >= kRecordHeadBytes) {
@@ -323,7 +323,7 @@ private:
         }
     }
 
-    // Below what the metafile itself has saved lie the states of whoever plays it.
+    // Restoring more states than the metafile has saved would restore those of its player.
     bool Restore(const Parameters& p) {
         if (p.Count() < 1) return false;
         const auto levels = static_cast<int16_t>(p.Word(0));
@@ -332,8 +332,8 @@ private:
         return true;
     }
 
-    // The system gives a new object the lowest free slot. One that it refuses to make leaves the slot free:
-    // what is occupied there is then a part of what is occupied here.
+    // The system assigns the lowest free slot to a new object and leaves it free if creation fails. The slots that it
+    // occupies are therefore a subset of those that are occupied here.
     bool Create(bool fits) {
         if (!fits) return false;
         if (!freed_.empty()) {
@@ -346,7 +346,7 @@ private:
         return true;
     }
 
-    // A few bytes of run-length data make a large pattern, and all patterns may be kept at once.
+    // A few bytes of run-length data can create a large pattern, and all patterns may exist at the same time.
     bool PatternFits(const Parameters& p) {
         constexpr uint64_t kMostPixels = 1u << 24;
         const auto layout = TaggedBitmapIn(p, 1, 2);
@@ -374,13 +374,13 @@ private:
     const uint8_t* bits_;
     size_t size_;
     std::vector<bool> used_; // by slot
-    size_t next_ = 0;        // slots from here on were never given out
+    size_t next_ = 0;        // no slot from here on has been used
     std::priority_queue<uint16_t, std::vector<uint16_t>, std::greater<uint16_t>> freed_;
     int saved_ = 0;
-    uint64_t patternPixels_ = 0; // of all patterns so far
+    uint64_t patternPixels_ = 0; // total of all patterns so far
 };
 
-// The head's words alone show which of the two heads it is.
+// The first words show which of the two headers it is.
 struct Head {
     size_t bytes;
     int32_t xExtent, yExtent;

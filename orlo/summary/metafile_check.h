@@ -1,10 +1,10 @@
-// Reads the head of a metafile picture and checks every record after it, so that the system can play them.
-// Plays nothing and needs no window header.
+// Reads the header of a metafile picture and checks all its records, so that the system can safely play them. Needs no
+// window header.
 //
-// A metafile passes if all records lie inside it, every count inside a record (points, text, bitmap, palette,
-// region) lies inside the record, every object that is used has a slot, all patterns together have no more than
-// 16 million pixels, and the state that is restored was saved by the same metafile. Sizes that depend on the
-// mapping are left to the player. Records that no table here knows pass: the system skips what it doesn't know.
+// A metafile is accepted if all records are complete, all counts inside a record (points, text, bitmap, palette,
+// region) are consistent with its size, all objects that are used have a slot, all patterns together have at most 16
+// million pixels, and it restores only states that it has saved. The player limits sizes that depend on the mapping.
+// Unknown records are accepted, because the system skips them.
 #pragma once
 
 #include <cstddef>
@@ -14,14 +14,14 @@
 namespace orlo {
 
 struct MetaFilePicture {
-    int32_t xExtent = 0; // in units of the head's mapping mode; only the proportion counts
+    int32_t xExtent = 0; // in units of the header's mapping mode; only the ratio is used
     int32_t yExtent = 0;
-    const uint8_t* bits = nullptr; // the metafile's own bytes, inside the block that was checked
-    size_t size = 0;               // bytes, as its header says
-    size_t end = 0;                // bytes to the end of its last record, without the one that marks the end
+    const uint8_t* bits = nullptr; // the metafile's bytes, inside the checked block
+    size_t size = 0;               // in bytes, according to its header
+    size_t end = 0;                // offset of the end of its last record, excluding the end-of-file record
 };
 
-// Nothing for a picture that can't be played to its end without harm; data has size bytes.
+// Returns nothing if the picture of size bytes at data cannot be played safely to its end.
 std::optional<MetaFilePicture> ReadMetaFilePicture(const uint8_t* data, size_t size);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// The filter between EnumMetaFile and PlayMetaFileRecord.
+// Filters records between EnumMetaFile and PlayMetaFileRecord.
 
 #include "orlo/summary/metafile_player.h"
 
@@ -10,13 +10,13 @@
 namespace orlo {
 namespace {
 
-// In device pixels: the format was made for devices of 16-bit coordinates. The system rasterises outlines and
-// wide lines before it clips them, with an entry for each line of pixels, and fails far outside.
+// In device pixels; the format was designed for 16-bit device coordinates. The system rasterizes outlines and wide
+// lines before clipping, with an entry per line of pixels, and fails for distant coordinates.
 constexpr double kFarthest = 1 << 15;
-// What all glyphs of a picture may cover together; each is kept as a bitmap.
+// Limit for the total pixels covered by the glyphs of a picture, since each is cached as a bitmap.
 constexpr double kMostGlyphPixels = 1 << 26;
 
-// How one direction of logical units becomes device pixels, but for the sign.
+// Scale and offset of one axis from logical units to device pixels, without the sign.
 struct Axis {
     double origin, scale;
 
@@ -41,7 +41,7 @@ Mapping MappingOf(HDC dc) {
     return {{double(origin.x), Ratio(viewport.cx, window.cx)}, {double(origin.y), Ratio(viewport.cy, window.cy)}};
 }
 
-// The font that text is drawn with, the pen that lines are.
+// Returns the description of the current font or pen.
 template <typename Description>
 Description Current(HDC dc, UINT type) {
     Description description = {};
@@ -49,7 +49,7 @@ Description Current(HDC dc, UINT type) {
     return description;
 }
 
-// Where the points of a shape are in its record: up to its end, one word for each direction in turn.
+// The position of a shape's points in its record: up to its end, with alternating x and y words.
 struct Points {
     size_t first;
     bool xFirst;
@@ -66,7 +66,7 @@ std::optional<Points> PointsOf(const METARECORD& record) {
     case META_CHORD:
         return Points{0, false};
     case META_ROUNDRECT:
-        return Points{2, false}; // after the size of its corners, which can't be larger than it
+        return Points{2, false}; // after the size of the rounded corners, which cannot exceed the shape
     case META_POLYGON:
     case META_POLYLINE:
         return Points{1, true};
@@ -78,7 +78,7 @@ std::optional<Points> PointsOf(const METARECORD& record) {
 }
 
 bool IsWithinReach(const METARECORD& record, const Points& points, const Mapping& mapping) {
-    constexpr DWORD kHead = 3; // words
+    constexpr DWORD kHead = 3; // in words
     bool isX = points.xFirst;
     for (size_t i = points.first; i < record.rdSize - kHead; ++i, isX = !isX) {
         const auto coordinate = static_cast<int16_t>(record.rdParm[i]);
@@ -87,15 +87,14 @@ bool IsWithinReach(const METARECORD& record, const Points& points, const Mapping
     return true;
 }
 
-// Not played: what would change the palette of the whole system, and what only a device of its own would
-// understand.
+// Returns false for records that would change the system palette or that only certain devices support.
 bool IsForThisDevice(WORD function) {
     return function != META_REALIZEPALETTE && function != META_ESCAPE && function != META_BITBLT &&
            function != META_STRETCHBLT;
 }
 
-// A pattern in the format of a 16-bit device can't be shown, but has its slot: without an object there, all later
-// ones would come one slot too early.
+// A pattern in the format of a 16-bit device cannot be shown, but must occupy its slot: otherwise the following objects
+// would get the wrong slots.
 void PlayHollowBrush(HDC dc, HANDLETABLE* objects, UINT count) {
     struct {
         DWORD words = 7;
@@ -105,7 +104,7 @@ void PlayHollowBrush(HDC dc, HANDLETABLE* objects, UINT count) {
     ::PlayMetaFileRecord(dc, objects, reinterpret_cast<METARECORD*>(&record), count);
 }
 
-// These two are not left to the system: Wine looks for the slots in other words of the record, whatever they hold.
+// Handled here because Wine expects the slots in other words of these two records, without checking them.
 void SelectPaletteOf(HDC dc, const HANDLETABLE& objects, const WORD* parameters) {
     ::SelectPalette(dc, static_cast<HPALETTE>(objects.objectHandle[parameters[0]]), FALSE);
 }

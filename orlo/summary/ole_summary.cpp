@@ -1,5 +1,4 @@
-// The set of a summary, its plain fields, reading and writing. Dates and thumbnail: summary_date.cpp,
-// summary_thumbnail.cpp.
+// The set of a summary and its plain fields. Dates are in summary_date.cpp, the thumbnail in summary_thumbnail.cpp.
 
 #include "orlo/summary/ole_summary.h"
 
@@ -16,8 +15,7 @@ namespace {
 constexpr DWORD kCleared[] = {PIDSI_TITLE,    PIDSI_SUBJECT,   PIDSI_AUTHOR,    PIDSI_KEYWORDS, PIDSI_COMMENTS,
                               PIDSI_TEMPLATE, PIDSI_REVNUMBER, PIDSI_THUMBNAIL, PIDSI_APPNAME};
 
-// Low word: the version; high word: the kind of system, 2 for Win32 and 0 for what ran on top of the 16-bit
-// one.
+// Low word: version; high word: system kind, 2 for Win32, 0 for 16-bit Windows.
 DWORD SystemVersion() {
     const DWORD version = ::GetVersion();
     const int number = LOBYTE(LOWORD(version)) * 256 + HIBYTE(LOWORD(version));
@@ -25,7 +23,7 @@ DWORD SystemVersion() {
     return MAKELONG(LOWORD(version), onTopOf16Bits ? 0 : 2);
 }
 
-// A text that fills its block to the last byte is not a C string: it is stored once more, with a NUL.
+// A text without a NUL at the end of its block is stored again with one.
 char* Terminated(CProperty& property) {
     DWORD size = 0;
     auto text = static_cast<char*>(property.Get(&size));

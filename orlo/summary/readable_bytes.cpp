@@ -1,4 +1,4 @@
-// Asks the system for the pages, one run of equal ones at a time.
+// Queries the system for memory pages, one run of equal pages at a time.
 
 #include "orlo/summary/readable_bytes.h"
 

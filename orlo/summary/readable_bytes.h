@@ -1,5 +1,4 @@
-// How many bytes from an address on can be read: the limit for pictures that are handed over without their
-// length.
+// Determines how many bytes at an address are readable, as a limit for pictures that are passed without their length.
 #pragma once
 
 #include <cstddef>
@@ -10,11 +9,11 @@ namespace orlo {
 // A block of memory that the caller owns.
 struct Readable {
     const uint8_t* data;
-    size_t size; // bytes
+    size_t size; // in bytes
 };
 
-// The memory from `address` to the end of the readable pages around it, at most 256 MB. It says what may
-// be read without a fault, not what belongs to the picture.
+// Returns the memory from `address` to the end of the surrounding readable pages, at most 256 MB. All of it can be read
+// without a fault, but only a part may belong to the picture.
 Readable ReadableFrom(const void* address);
 
 } // namespace orlo

@@ -1,4 +1,5 @@
-// Run-length data of a bitmap: every code lies inside the block, every pixel inside the picture, and the end is marked.
+// Decodes and checks the run-length data of a bitmap: all codes must be inside the block, all pixels inside the
+// picture, and the end must be marked.
 #pragma once
 
 #include <cstddef>
@@ -8,13 +9,13 @@
 
 namespace orlo {
 
-// Pixels side by side, by their indices in the color table.
+// Adjacent pixels, by their indices in the color table.
 struct RunOfPixels {
-    int64_t x, y; // of the first; lines are counted from the bottom
+    int64_t x, y; // of the first pixel; lines are counted from the bottom
     uint32_t count;
-    const uint8_t* codes; // a byte for each pixel, or for two under 4 bits
-    bool isRepeated;      // the first byte for all of them
-    bool isHalved;        // 4 bits
+    const uint8_t* codes; // one byte per pixel, or per two pixels for 4 bits
+    bool isRepeated;      // the first byte applies to all pixels
+    bool isHalved;        // 4 bits per pixel
 
     uint8_t Index(uint32_t pixel) const {
         const uint8_t code = codes[isRepeated ? 0 : pixel / (isHalved ? 2 : 1)];
@@ -22,7 +23,7 @@ struct RunOfPixels {
     }
 };
 
-// Hands each run to `paint`. False if the data isn't whole: then some have been painted.
+// Passes each run to `paint`. Returns false if the data is incomplete or invalid; some runs may have been painted.
 template <typename Paint>
 bool WalkRunLength(const uint8_t* data, size_t size, const DibLayout& layout, Paint paint) {
     constexpr uint8_t kEndOfLine = 0, kEndOfBitmap = 1, kDelta = 2;

@@ -1,4 +1,4 @@
-// A sector belongs to one chain: that finds circles and streams that share one, and bounds the work.
+// Assigns each sector to at most one chain, which detects circular and shared chains and bounds the work.
 
 #include "orlo/summary/sector_table.h"
 

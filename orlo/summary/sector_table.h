@@ -1,4 +1,4 @@
-// The chains of one allocation table of a compound file: which sector follows which.
+// The chains in an allocation table of a compound file: the successor of each sector.
 #pragma once
 
 #include <cstddef>
@@ -14,33 +14,34 @@ constexpr uint32_t kEndOfChain = 0xFFFFFFFE;
 constexpr uint32_t kFreeSector = 0xFFFFFFFF;
 
 enum class ChainFault { none, isCut, isShort, leadsNowhere, isShared, isCircle, isOfNothing };
-// What to say after "its chain of sectors".
+// Returns text to follow "its chain of sectors".
 ORLO_API const char* InWords(ChainFault fault);
 
 class SectorTable {
 public:
     struct Chain {
         std::vector<uint32_t> sectors;
-        size_t length = 0;                   // with those past the end of the file
-        ChainFault fault = ChainFault::none; // how it ends, if not by its mark
+        size_t length = 0;                   // including sectors past the end of the file
+        ChainFault fault = ChainFault::none; // why the chain ends, unless at its end marker
     };
 
-    // Which sector follows each; a sector from `there` on is past the end of the file.
+    // `there` is the number of sectors in the file; higher numbers are past its end.
     SectorTable() = default;
     SectorTable(std::vector<uint32_t> next, uint64_t there)
         : next_(std::move(next)), chainOf_(next_.size()), there_(there) {}
 
-    // Sectors outside of all chains. False if the table calls one free: the system would write over it.
+    // Marks sectors that are outside of all chains. Returns false if the table lists one as free, since the system
+    // would overwrite it.
     bool Reserve(const std::vector<uint32_t>& sectors);
-    // Takes the sectors from `start` on. It ends before a sector that is taken already or has no place in the table;
-    // sectors past the end of the file are left out.
+    // Assigns the sectors from `start` on to a chain. The chain ends before a sector that is already assigned or not in
+    // the table. Sectors past the end of the file are not included.
     Chain Walk(uint32_t start);
-    // The first `most` sectors from `start` on, whoever has taken them.
+    // Returns the first `most` sectors from `start` on, whether or not they are assigned.
     std::vector<uint32_t> Follow(uint32_t start, uint64_t most) const;
 
 private:
     std::vector<uint32_t> next_;
-    std::vector<uint32_t> chainOf_; // the number of the chain that took a sector, 0 if none did
+    std::vector<uint32_t> chainOf_; // number of the chain that a sector is assigned to, or 0
     uint32_t chains_ = 0;
     uint64_t there_ = 0;
 };

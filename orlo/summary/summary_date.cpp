@@ -1,4 +1,4 @@
-// Dates of a summary: points in time by way of the DOS form of dates, and the span of the edit time.
+// Dates of a summary: times in the DOS format, and the duration of the edit time.
 
 #include <cstring>
 #include <objbase.h>
@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr ULONGLONG kTicksPerSecond = 10000000; // of 100 ns
+constexpr ULONGLONG kTicksPerSecond = 10000000; // ticks of 100 ns
 constexpr DWORD kSecondsPerDay = 86400;
 constexpr DWORD kDaysPerMonth = 30;
 constexpr DWORD kMonthsPerYear = 12;
@@ -31,7 +31,7 @@ ULONGLONG SpanOf(const Moment& m) {
     return seconds * kTicksPerSecond;
 }
 
-// A number in a field of so many bits.
+// Returns whether a number fits into a field of that many bits.
 bool Fits(int number, int bits) {
     return number >= 0 && number < 1 << bits;
 }

@@ -1,4 +1,4 @@
-// The rule of the setters.
+// Finds and stores a field of a summary.
 
 #include "orlo/summary/summary_field.h"
 

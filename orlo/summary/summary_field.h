@@ -1,4 +1,4 @@
-// One field of a summary: found by its ID and type, stored by the rule that all fields share.
+// Finds and stores a field of a summary by ID and type.
 #pragma once
 
 #include <windows.h>
@@ -10,11 +10,11 @@ class CPropertySet;
 
 namespace orlo {
 
-// The property if it exists with that type, or null.
+// Returns the property if it exists with that type, or null.
 CProperty* SummaryProperty(CPropertySet* set, DWORD id, DWORD type);
 
-// Adds, replaces or (value null) removes a property; value as CProperty::Set takes it. 1, or 0 if there is no
-// summary, the property exists with another type, or the value can't be stored.
+// Adds, replaces or, if value is null, removes a property; for value see CProperty::Set. Returns 0 if there is no
+// summary, the property exists with another type, or the value cannot be stored.
 int StoreSummaryProperty(CPropertySet* set, DWORD id, DWORD type, void* value);
 
 } // namespace orlo

@@ -1,4 +1,4 @@
-// Streams of a storage around the set of ole_summary.h.
+// Reads and writes the summary stream of a storage.
 
 #include "orlo/summary/summary_info.h"
 
@@ -20,7 +20,7 @@ namespace {
 constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kChange = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kReplace = STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE;
-constexpr size_t kShortestLong = 4096; // bytes: shorter streams lie together in sectors that they share
+constexpr size_t kShortestLong = 4096; // in bytes; shorter streams share sectors
 using Bytes = std::vector<BYTE>;
 
 bool SeekTo(IStream* stream, size_t offset) {
@@ -29,7 +29,7 @@ bool SeekTo(IStream* stream, size_t offset) {
     return SUCCEEDED(stream->Seek(at, STREAM_SEEK_SET, nullptr));
 }
 
-// Piece by piece: a damaged stream may announce any size.
+// Reads in pieces, because a damaged stream may report any size.
 bool ReadAll(IStream* stream, Bytes& bytes) {
     constexpr ULONG kPiece = 4096;
     if (!SeekTo(stream, 0)) return false;
@@ -42,7 +42,7 @@ bool ReadAll(IStream* stream, Bytes& bytes) {
     return true;
 }
 
-// From `offset` up to `end` of the bytes, to the same place of the stream.
+// Writes the bytes from `offset` to `end` to the same position in the stream.
 bool WritePart(IStream* stream, const Bytes& bytes, size_t offset, size_t end) {
     const ULONG size = static_cast<ULONG>(end - offset);
     ULONG written = 0;
@@ -62,8 +62,8 @@ bool ImageOf(CPropertySet* set, Bytes& image) {
     return stream && OleStdWriteSummaryInfo(stream.get(), set) && ReadAll(stream.get(), image);
 }
 
-// The part by which the new bytes are longer is written first, after the old ones: a lack of room shows before those
-// are touched.
+// Writes the part by which the new contents are longer first, so that a full disk is noticed before the old bytes are
+// overwritten.
 bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
     const size_t common = std::min(before.size(), after.size());
     return (after.size() <= before.size() || SetLength(stream, after.size())) &&
@@ -71,8 +71,7 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
            SetLength(stream, after.size());
 }
 
-// Some systems can't move a stream that has grown long back among the short ones: then it stays long, with zeros after
-// it.
+// Restores the old contents. Some systems cannot make a long stream short again; it then stays long, padded with zeros.
 void PutBack(IStream* stream, Bytes bytes) {
     if (!SetLength(stream, bytes.size())) {
         bytes.resize(std::max(bytes.size(), kShortestLong));
@@ -82,21 +81,21 @@ void PutBack(IStream* stream, Bytes bytes) {
 }
 
 bool Replace(IStream* stream, const Bytes& before, Bytes after) {
-    // A long stream stays long, filled with zeros: among the short ones it would need room again.
+    // A long stream stays long, padded with zeros: moving it to the short ones would require new space.
     if (before.size() >= kShortestLong && after.size() < kShortestLong) after.resize(kShortestLong);
     if (WriteOver(stream, before, after)) return true;
     PutBack(stream, before);
     return false;
 }
 
-// The room that a short stream takes is looked for by a long one, which the system can take away again on a full disk.
+// Tests for the space of a short stream with a long one, which the system can remove again even if the disk is full.
 bool HasRoomForShort(IStream* stream) {
     const Bytes room(2 * kShortestLong);
     const bool written = SetLength(stream, room.size()) && WritePart(stream, room, 0, room.size());
     return SetLength(stream, 0) && written;
 }
 
-// STGM_READ, STGM_WRITE or STGM_READWRITE.
+// Returns STGM_READ, STGM_WRITE or STGM_READWRITE.
 DWORD AccessTo(IStorage* storage) {
     constexpr DWORD kAccess = STGM_READ | STGM_WRITE | STGM_READWRITE;
     STATSTG stat;
@@ -173,8 +172,8 @@ HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
 HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (!pStorage || !pSumInfo) return E_FAIL;
     const DWORD access = AccessTo(pStorage);
-    if (access == STGM_READ) return STG_E_ACCESSDENIED; // some systems open a stream for writing nevertheless
-    // First into memory: what fails there costs the document nothing.
+    if (access == STGM_READ) return STG_E_ACCESSDENIED; // some systems would open a stream for writing anyway
+    // Composed in memory first, so that failures do not affect the document.
     Bytes image, before;
     if (!ImageOf(pSumInfo, image)) return E_FAIL;
     const std::wstring name = Widen(kSummaryStreamName, CP_ACP);
@@ -184,7 +183,7 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (opened == STG_E_FILENOTFOUND) return WriteNew(pStorage, name.c_str(), image);
     if (FAILED(opened)) return opened;
     if (ReadAll(stream.get(), before)) return Replace(stream.get(), before, image) ? opened : E_FAIL;
-    stream.reset(); // damaged: there is nothing to keep
+    stream.reset(); // damaged, so it does not have to be preserved
     return WriteNew(pStorage, name.c_str(), image);
 }
 

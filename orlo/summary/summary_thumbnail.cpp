@@ -1,5 +1,4 @@
-// The thumbnail of a summary as a clipboard-format value: length, tag, format, picture. Drawing it:
-// thumbnail.h.
+// The thumbnail of a summary as a clipboard-format value: length, tag, format, picture. It is drawn by thumbnail.h.
 
 #include <cstring>
 #include <vector>
@@ -12,7 +11,7 @@ namespace {
 
 constexpr DWORD kSystemFormat = 0xFFFFFFFF;
 
-// What comes between the length and the picture.
+// The bytes between the length and the picture.
 struct Head {
     DWORD tag, format;
 };

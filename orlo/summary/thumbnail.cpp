@@ -1,4 +1,4 @@
-// Fitting, drawing of bitmaps, playing of metafiles.
+// Fits pictures, draws bitmaps and plays metafiles.
 
 #include "orlo/summary/thumbnail.h"
 
@@ -37,7 +37,7 @@ int DrawBitmap(const Readable& dib, HDC dc, const RECT* rect, bool keepAspect) {
     if (!dc || IsEmpty(rect)) return 0;
     const auto layout = orlo::ReadDibLayout(dib.data, dib.size, orlo::DibColors::Rgb);
     if (!layout || layout->topDown || layout->headerSize < sizeof(BITMAPINFOHEADER)) return 0;
-    // The host says where the pixels begin.
+    // The host determines where the pixels begin.
     const size_t pixels = layout->headerSize + ::PaletteSize(dib.data);
     if (pixels > dib.size || layout->pixelBytes > dib.size - pixels) return 0;
     const Place to = PlaceIn(*rect, layout->width, layout->height, keepAspect);
@@ -50,8 +50,8 @@ struct DeleteHandleOfMetaFile {
 };
 using OwnedMetaFile = std::unique_ptr<std::remove_pointer_t<HMETAFILE>, DeleteHandleOfMetaFile>;
 
-// A metafile of its own for the system: the records that were checked, an end, and zeros after it. Drawing
-// reads a font record as if its name always filled its field, beyond the end of a record that is shorter.
+// Creates a metafile from the checked records, an end-of-file record and trailing zeros. Drawing always reads the full
+// size of a font record's name, even beyond the end of a shorter record.
 OwnedMetaFile MakeMetaFile(const orlo::MetaFilePicture& picture) {
     constexpr uint32_t kEnd[] = {3, 0};
     constexpr size_t kEndBytes = 6, kZeros = 64, kSizeField = 6;
@@ -63,7 +63,7 @@ OwnedMetaFile MakeMetaFile(const orlo::MetaFilePicture& picture) {
     return OwnedMetaFile(::SetMetaFileBitsEx(static_cast<UINT>(bits.size()), bits.data()));
 }
 
-// The limit that a metafile can't lift by choosing a clip region of its own.
+// Limits painting in a way that the metafile cannot undo by selecting its own clip region.
 void LimitPaintingTo(HDC dc, const RECT& rect) {
     ::SetMapMode(dc, MM_TEXT);
     ::SetWindowOrgEx(dc, 0, 0, nullptr);

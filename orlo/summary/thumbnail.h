@@ -1,18 +1,16 @@
-// Draws the picture of a document summary into a device context, fitted into a rectangle: device-independent
-// bitmaps and metafile pictures in memory.
+// Draws the thumbnail of a document summary into a rectangle of a device context: device-independent bitmaps and
+// metafile pictures in memory.
 //
-//   DrawThumbnailValue(value, size, dc, &rect)   // 1: drawn in the middle of rect, proportions kept
-//   DrawDIB(header, dc, &rect, 0)                // lines drawn: it fills rect
-//   a picture whose header promises more than it has: 0, and dc is as it was
+//   DrawThumbnailValue(value, size, dc, &rect)   // returns 1: centered in rect, with its aspect ratio
+//   DrawDIB(header, dc, &rect, 0)                // returns the number of lines drawn: fills rect
+//   // both return 0 and draw nothing if the picture's header declares more data than there is
 //
-// Pictures are foreign data. Each is checked to its last record before the system sees any of it, and one
-// that doesn't pass draws nothing. The length is part of that check only where it is given: prefer
-// DrawThumbnailValue for what comes from a file. The other functions know no length; for them it is what can
-// be read from the pointer on.
+// Pictures are untrusted data. Each is checked completely before it is passed to the system, and nothing is drawn if
+// the check fails. The check covers the length only where it is known: prefer DrawThumbnailValue for data from files.
+// The other functions have no length and use the readable memory at the pointer as the limit.
 //
-// A rectangle is in device pixels for metafile pictures, in units of the device context for bitmaps; with the
-// default mapping mode these are the same. The device context is left as it was. Nothing here shows a
-// message.
+// The rectangle is in device pixels for metafile pictures and in units of the device context for bitmaps, which are
+// equal in the default mapping mode. The state of the device context is preserved. No function shows a message.
 #pragma once
 
 #include <windows.h>
@@ -22,28 +20,28 @@
 
 // A picture with its clipboard format.
 struct ThumbnailClip {
-    DWORD cbSize;                 // not 0; no more is asked of it
-    DWORD dwTag;                  // 0xFFFFFFFF: the format is one of the system's
-    const unsigned char* pFormat; // its first byte: 3 metafile picture, 8 device-independent bitmap
-    const void* pData;            // the picture; the caller's
+    DWORD cbSize;                 // must not be 0; otherwise ignored
+    DWORD dwTag;                  // 0xFFFFFFFF: a format of the system
+    const unsigned char* pFormat; // first byte: 3 for a metafile picture, 8 for a device-independent bitmap
+    const void* pData;            // the picture, owned by the caller
 };
 
-// Proportions kept. 0 for a record that doesn't pass or a format other than 3 and 8.
+// Draws with the picture's aspect ratio. Returns 0 if the record is invalid or the format is not 3 or 8.
 ORLO_API int DrawThumbnail(const ThumbnailClip* pClip, HDC hDC, const RECT* pRect);
 
-// The value of a thumbnail property as it is stored after its length: format tag, format, picture; cb bytes
-// in all. As DrawThumbnail otherwise.
+// Draws the value of a thumbnail property as stored after its length: format tag, format and picture; cb bytes in
+// total. Otherwise like DrawThumbnail.
 ORLO_API int DrawThumbnailValue(const void* pValue, DWORD cb, HDC hDC, const RECT* pRect);
 
-// The number of lines that StretchDIBits has drawn, or 0. Bitmaps stored from the top down are refused.
+// Returns the number of lines drawn by StretchDIBits, or 0. Rejects top-down bitmaps.
 ORLO_API int DrawDIB(const BITMAPINFOHEADER* pDIB, HDC hDC, const RECT* pRect, int bKeepAspect);
 
-// 1, or 0. Nothing is painted outside of the rectangle. Records that address a printer are skipped, and
-// so are those that realize a palette or hold bitmaps in the format of a 16-bit device. A pattern of that format
-// paints nothing. Also skipped are shapes and pens that reach more than 32,768 pixels from the origin of the
-// picture, and text whose glyphs would cover more than 64 million pixels in one picture.
+// Returns 1 or 0. Paints nothing outside the rectangle. Skips records for printers, records that realize a palette, and
+// bitmaps in the format of a 16-bit device; a pattern in that format paints nothing. Also skips shapes and pens that
+// extend more than 32,768 pixels from the picture's origin, and text whose glyphs would cover more than 64 million
+// pixels in total.
 ORLO_API int DrawMetaFilePict(const void* pPict, HDC hDC, const RECT* pRect, int bKeepAspect);
 
-// A bitmap of that size (pixels) with the picture on white, which the caller deletes; white alone if the
-// picture can't be drawn. Null if there is no picture or no bitmap can be made.
+// Creates a bitmap of that size in pixels with the picture on white, which the caller deletes. The bitmap is all white
+// if the picture cannot be drawn. Returns null if there is no picture or no bitmap can be created.
 ORLO_API HBITMAP CreateBitmapFromMetaFilePict(const void* pPict, const SIZE* pSize);
