@@ -1,4 +1,4 @@
-// Wording of system errors.
+// Messages of system errors.
 
 #include "files/file_error.h"
 
@@ -30,7 +30,7 @@ constexpr std::array kWordings = {
     Wording{std::errc::not_enough_memory, "not enough memory"},
 };
 
-// The condition that an error stands for.
+// Returns the portable condition for an error.
 std::error_condition ConditionOf(const std::error_code& error) {
 #ifdef _WIN32
     if (error.category() == std::system_category()) switch (error.value()) {

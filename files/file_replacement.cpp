@@ -1,4 +1,4 @@
-// Creates, describes and renames files by the calls of the system.
+// Creates, describes and renames files with system calls.
 
 #include "files/file_replacement.h"
 
@@ -29,7 +29,7 @@ namespace {
 constexpr char kNotReplaced[] = "the file cannot be replaced";
 constexpr char kNotKept[] = "owner, permissions and attributes of the file cannot be kept";
 
-// What an interrupt removes; null if there is nothing.
+// The file to remove on an interrupt, or null.
 std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
 
 [[noreturn]] void RefuseIrregular() {
@@ -48,21 +48,21 @@ unsigned long ProcessId() {
 }
 
 struct SignalsHeld {
-    ~SignalsHeld() {} // an interrupt runs in a thread of its own, which tries again
+    ~SignalsHeld() {} // an interrupt runs in its own thread, which retries
 };
 
-// The file that a name stands for. Devices have names in every folder.
+// Returns the file that a name refers to. Device names exist in every folder.
 Found FileBehind(const fs::path& target) {
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) RefuseIrregular();
     const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
     if (!file && attributes == INVALID_FILE_ATTRIBUTES) return {target, false};
-    if (!file) ThrowLastError(kNotReplaced); // such as a link to nothing
+    if (!file) ThrowLastError(kNotReplaced); // such as a dangling link
     if (::GetFileType(file.get()) != FILE_TYPE_DISK) RefuseIrregular();
     if (attributes & FILE_ATTRIBUTE_READONLY) throw FileError("the file is read-only");
-    std::wstring path(32768, L'\0'); // no path is longer
+    std::wstring path(32768, L'\0'); // the maximum length of a path
     const DWORD size = ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
-    if (size == 0 || size >= path.size()) return {target, true}; // a file system without such names
+    if (size == 0 || size >= path.size()) return {target, true}; // a file system that does not support such names
     path.resize(size);
     return {path, true};
 }
@@ -100,8 +100,8 @@ void KeepAttributes(const fs::path& from, const fs::path& to) {
         ThrowLastError(kNotKept);
 }
 
-// In one step. ReplaceFileW would keep more, as named streams, but takes several steps, between which no file has the
-// name.
+// Replaces in a single step. ReplaceFileW would preserve more, such as named streams, but takes several steps, between
+// which no file has the name.
 void Rename(const fs::path& from, const fs::path& to) {
     if (!::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         ThrowLastError(kNotReplaced);
@@ -111,7 +111,7 @@ bool Remove(const wchar_t* path) {
     return ::DeleteFileW(path);
 }
 
-// A file that is just being written cannot be removed yet.
+// A file that is being written cannot be removed; retries until it can.
 BOOL WINAPI RemoveAndEnd(DWORD) {
     constexpr int kTries = 100;
     for (int i = 0; i < kTries; ++i) {
@@ -119,7 +119,7 @@ BOOL WINAPI RemoveAndEnd(DWORD) {
         if (!path || Remove(path)) break;
         ::Sleep(10);
     }
-    return FALSE; // the program ends
+    return FALSE; // end the program
 }
 
 #else
@@ -128,7 +128,7 @@ unsigned long ProcessId() {
     return static_cast<unsigned long>(::getpid());
 }
 
-// No signal is handled as long as it lives.
+// Blocks signals during its lifetime.
 class SignalsHeld {
 public:
     SignalsHeld() {
@@ -148,7 +148,7 @@ Found FileBehind(const fs::path& target) {
     std::error_code error;
     const fs::file_status status = fs::status(target, error);
     if (status.type() == fs::file_type::not_found) {
-        if (fs::is_symlink(target, error)) RefuseIrregular(); // a link to nothing
+        if (fs::is_symlink(target, error)) RefuseIrregular(); // a dangling link
         return {target, false};
     }
     if (!fs::status_known(status)) throw FileError(kNotReplaced, error);
@@ -159,7 +159,7 @@ Found FileBehind(const fs::path& target) {
     return {fs::canonical(target), true};
 }
 
-// Other users must not read the new contents before the file has the permissions of the old one.
+// Other users must not be able to read the new contents before the file has the permissions of the old one.
 OpenFile Create(const fs::path& path, bool isPrivate) {
     return OpenFile(::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, isPrivate ? 0600 : 0666));
 }
@@ -175,11 +175,11 @@ std::string ExtendedAttribute(const fs::path& path, const char* name) {
     return value;
 }
 
-// Access lists are among them. Labels of security modules are the system's own to set.
+// Includes access lists. Labels of security modules are set by the system.
 void KeepExtendedAttributes(const fs::path& from, const fs::path& to) {
     std::string names(65536, '\0');
     const ssize_t size = ::listxattr(from.c_str(), names.data(), names.size());
-    names.resize(size > 0 ? static_cast<size_t>(size) : 0); // ends in NUL
+    names.resize(size > 0 ? static_cast<size_t>(size) : 0); // NUL-terminated
     for (size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
         const std::string name = names.c_str() + at;
         const std::string value = ExtendedAttribute(from, name.c_str());
@@ -203,7 +203,7 @@ void Rename(const fs::path& from, const fs::path& to) {
     if (::rename(from.c_str(), to.c_str()) != 0) ThrowLastError(kNotReplaced);
     const fs::path folder = to.has_parent_path() ? to.parent_path() : ".";
     const OpenFile opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened) ::fsync(opened.get()); // the new name, too
+    if (opened) ::fsync(opened.get()); // also flushes the new name
 }
 
 bool Remove(const char* path) {
@@ -224,7 +224,7 @@ FileReplacement::FileReplacement(const fs::path& target) {
     Found found = FileBehind(target);
     target_ = std::move(found.path);
     isThere_ = found.isThere;
-    for (int number = 0;; ++number) { // an earlier process of this number may have left a file
+    for (int number = 0;; ++number) { // a file may remain from an earlier process with the same identifier
         path_ = target_.parent_path() / ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
         const SignalsHeld held;
         if (Create(path_, isThere_)) {
@@ -270,7 +270,8 @@ void RemoveTemporaryFileOnInterrupt() {
     ::SetConsoleCtrlHandler(RemoveAndEnd, TRUE);
 #else
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        if (std::signal(signal, RemoveAndEnd) == SIG_IGN) std::signal(signal, SIG_IGN); // as nohup asks for
+        if (std::signal(signal, RemoveAndEnd) == SIG_IGN)
+            std::signal(signal, SIG_IGN); // keep ignored signals ignored, as set by nohup
 #endif
 }
 

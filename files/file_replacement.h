@@ -1,12 +1,12 @@
-// FileReplacement: a file is written under another name in the same folder and then takes the place of its target in
-// one step. After any failure, and wherever the process ends, the target is the old file or the new one.
+// FileReplacement: writes a file under a temporary name in the same folder, then replaces the target in one step. After
+// any failure, including the end of the process, the target is either the old or the new file.
 //
 //   files::FileReplacement replacement(path);
-//   replacement.Write(bytes);    // or any other writer, by replacement.Path()
+//   replacement.Write(bytes);    // or any other writer, using replacement.Path()
 //   replacement.TakePlace();
 //
-// Links are followed. Owner, group, permissions and extended attributes of the target stay; on Windows the access list,
-// the attributes and the time of creation. Another name of the same file (a hard link) keeps the old contents.
+// Links are followed. The target's owner, group, permissions and extended attributes are preserved; on Windows its
+// access list, attributes and creation time. Other names of the same file (hard links) keep the old contents.
 #pragma once
 
 #include <filesystem>
@@ -17,32 +17,32 @@ namespace files {
 
 class FileReplacement {
 public:
-    // Creates the temporary file, empty. Throws FileError if the target is read-only or is not a regular file, or if no
+    // Creates the empty temporary file. Throws FileError if the target is read-only or not a regular file, or if no
     // file can be created in its folder.
     explicit FileReplacement(const std::filesystem::path& target);
-    // Removes the temporary file unless it has taken the target's place.
+    // Removes the temporary file unless it has replaced the target.
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // The file that is replaced: the target, or the file that a link leads to.
+    // Returns the file to replace: the target, or the file that a link refers to.
     const std::filesystem::path& Target() const { return target_; }
-    // The temporary file.
+    // Returns the temporary file.
     const std::filesystem::path& Path() const { return path_; }
 
-    // Writes the bytes and reads them back. Throws FileError, and whatever `progress` throws.
+    // Writes the bytes and verifies them by reading. Throws FileError, and any exception thrown by `progress`.
     void Write(std::string_view bytes, const std::function<void(size_t written)>& progress = {});
-    // Replaces the target; no handle to either file may be open. After a FileError the target is as before.
+    // Replaces the target. No handle to either file may be open. If it throws FileError, the target is unchanged.
     void TakePlace();
 
 private:
     std::filesystem::path target_;
-    bool isThere_;               // there is a file to replace
-    std::filesystem::path path_; // empty once the temporary file is gone
+    bool isThere_;               // the target exists
+    std::filesystem::path path_; // empty after the temporary file has been renamed or removed
 };
 
-// From now on a signal that interrupts or ends the program removes the temporary file first. For command-line programs,
-// which replace one file at a time.
+// Makes signals that interrupt or end the program remove the temporary file. For command-line programs, which replace
+// one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 
 } // namespace files

@@ -1,4 +1,4 @@
-// Files by the calls of the system.
+// Files opened with system calls.
 
 #include "files/open_file.h"
 
@@ -20,11 +20,11 @@
 namespace files {
 namespace {
 
-constexpr size_t kPiece = size_t{1} << 20; // bytes that one call reads or writes
+constexpr size_t kPiece = size_t{1} << 20; // maximum number of bytes per call
 
 [[noreturn]] void FailToOpen(const std::filesystem::path& path) {
     std::error_code error = LastError();
-#ifndef _WIN32 // which tells a missing folder from a missing file
+#ifndef _WIN32 // distinguishes a missing folder from a missing file
     std::error_code ignored;
     const auto folder = path.parent_path();
     if (error == std::errc::no_such_file_or_directory && !folder.empty() && !std::filesystem::exists(folder, ignored))
@@ -46,12 +46,12 @@ size_t ReadSome(NativeFile file, uint64_t offset, void* buffer, size_t size) {
 
 size_t WriteSome(NativeFile file, const char* bytes, size_t size) {
     DWORD done = 0;
-    ::SetLastError(ERROR_DISK_FULL); // a full disk takes the beginning, without an error
+    ::SetLastError(ERROR_DISK_FULL); // a full disk accepts part of the bytes without an error
     return ::WriteFile(file, bytes, static_cast<DWORD>(size), &done, nullptr) ? done : 0;
 }
 #else
 OpenFile Open(const std::filesystem::path& path, int access) {
-    // A pipe without a writer is not waited for.
+    // Does not wait for the writer of a pipe.
     return OpenFile(::open(path.c_str(), access | O_CLOEXEC | O_NONBLOCK));
 }
 

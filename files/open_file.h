@@ -1,4 +1,4 @@
-// OpenFile: owner of a file handle of the system, read at any offset.
+// OpenFile: owns a system file handle; can be read at any offset.
 #pragma once
 
 #include <cstddef>
@@ -10,12 +10,12 @@
 namespace files {
 
 #ifdef _WIN32
-using NativeFile = void*; // HANDLE
+using NativeFile = void*; // a HANDLE
 #else
 using NativeFile = int;
 #endif
 
-// Without a file: what the system returns on failure.
+// Returns the handle value that the system returns on failure.
 inline NativeFile NoFile() {
 #ifdef _WIN32
     return reinterpret_cast<void*>(intptr_t{-1});
@@ -26,7 +26,7 @@ inline NativeFile NoFile() {
 
 class OpenFile {
 public:
-    // Takes the handle over.
+    // Takes ownership of the handle.
     explicit OpenFile(NativeFile file) : file_(file) {}
     OpenFile(OpenFile&& other) noexcept : file_(std::exchange(other.file_, NoFile())) {}
     ~OpenFile();
@@ -38,26 +38,27 @@ private:
     NativeFile file_;
 };
 
-// Opens an existing file for reading; other programs may read, write and replace it meanwhile. Throws FileError.
+// Opens an existing file for reading. Other programs can read, write and replace it meanwhile. Throws FileError.
 OpenFile OpenToRead(const std::filesystem::path& path);
-// Opens an existing file for writing at its beginning. Throws FileError.
+// Opens an existing file for writing from its beginning. Throws FileError.
 OpenFile OpenToWrite(const std::filesystem::path& path);
 
 #ifdef _WIN32
-// Opens an existing file, or with flags a folder, for any access; without a file if that fails.
+// Opens an existing file, or with flags a folder, with the given access. Returns an OpenFile without a handle on
+// failure.
 OpenFile OpenShared(const std::filesystem::path& path, unsigned long access, unsigned long flags = 0);
 #endif
 
-// In bytes; 0 for a pipe or a device.
+// Returns the size in bytes; 0 for a pipe or a device.
 uint64_t SizeOf(NativeFile file);
 // Returns false if the file does not have all of these bytes.
 bool ReadAt(NativeFile file, uint64_t offset, void* buffer, size_t size);
 // Throws FileError.
 void Append(NativeFile file, std::string_view bytes);
-// Returns when the bytes are on the disk. Throws FileError.
+// Returns after the bytes have been written to disk. Throws FileError.
 void Flush(NativeFile file);
 
-// Returns true if the file has exactly these bytes now. Throws FileError if it cannot be read.
+// Returns true if the file contains exactly these bytes. Throws FileError if it cannot be read.
 bool HasContents(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace files
