@@ -1,13 +1,13 @@
-// Exceptions of handlers that no window procedure is above.
+// Handles exceptions of calls that do not come from a window procedure.
 #pragma once
 
 #include <afx.h>
 
-// Called in a catch block: reports the exception that is being handled as one that leaves a message handler, and
-// returns what the window procedure then returns.
+// Must be called in a catch block. Reports the current exception as if it had left a message handler, and returns the
+// result of the message.
 LRESULT AfxReportCurrentException();
 
-// Returns what the call returns; false if it throws, after the exception has been reported.
+// Returns the result of the call. If it throws, reports the exception and returns false.
 template <class Call>
 bool AfxGuardedCall(Call call) {
     try {

@@ -40,12 +40,12 @@ void CPropertyPage::OnOK() {}
 
 void CPropertyPage::OnCancel() {}
 
-// The keys are the sheet's: it knows the default button and the other pages.
+// Does not handle keys of the dialog itself, since the sheet knows the default button and the other pages.
 BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg);
 }
 
-// Escape in an edit control of several lines closes its parent, and means the sheet.
+// Escape in a multiline edit control closes its parent; the page forwards it to the sheet.
 void CPropertyPage::OnClose() {
     if (m_pSheet != nullptr) m_pSheet->PostMessage(WM_CLOSE);
 }
@@ -63,5 +63,5 @@ BOOL CPropertyPage::CreatePageWindow() {
     const AfxWindowCreation creation(this);
     ::CreateDialogIndirectParamA(dialog.Module(), reinterpret_cast<LPCDLGTEMPLATEA>(page.data()), m_pSheet->m_hWnd,
                                  AfxDialogProc, 0);
-    return m_hWnd != nullptr; // null too if OnInitDialog has given the window up
+    return m_hWnd != nullptr; // also null if OnInitDialog has destroyed the window
 }

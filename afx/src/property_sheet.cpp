@@ -1,4 +1,4 @@
-// CPropertySheet: the pages, which of them is active, and what the user does with them.
+// CPropertySheet: creation, the list of pages, the active page, and handling of commands.
 
 #include "dialog_proc.h"
 #include "dialog_template.h"
@@ -39,14 +39,14 @@ CPropertySheet::~CPropertySheet() {
         page->m_pSheet = nullptr;
 }
 
-// ---- Life of the window
+// ---- Creation
 
 int CPropertySheet::DoModal() {
     m_bModeless = FALSE;
     return RunModal(m_pParentWnd, [this](HWND owner) {
         const DWORD style = WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME;
         if (!CreateSheetWindow(owner, style, WS_EX_DLGMODALFRAME)) return false;
-        // One that has ended already, while it was made, is not shown.
+        // Not if it was ended during its creation.
         if (IsModal()) Open();
         return true;
     });
@@ -62,7 +62,7 @@ BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
 }
 
 BOOL CPropertySheet::CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwExStyle) {
-    // A dialog without controls: the keyboard's rules, the default button and the look are those of dialogs.
+    // An empty dialog, for the keyboard interface, default button and appearance of dialogs.
     struct {
         DLGTEMPLATE head;
         WORD menu, windowClass, title;
@@ -73,7 +73,7 @@ BOOL CPropertySheet::CreateSheetWindow(HWND hWndParent, DWORD dwStyle, DWORD dwE
     return ::CreateDialogIndirectParamA(AfxGetInstanceHandle(), &sheet.head, hWndParent, AfxDialogProc, 0) != nullptr;
 }
 
-// Shows the sheet, once, and gives the focus to the active page.
+// Shows the sheet once it is complete, and sets the focus to the active page.
 void CPropertySheet::Open() {
     ShowWindow(SW_SHOWNORMAL);
     FocusActivePage();
@@ -99,7 +99,7 @@ int CPropertySheet::OnCreate(LPCREATESTRUCTA) {
     if (!m_bModeless && !CreateButtons()) return -1;
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows;
-    // As wide as can be: a row that is too short for its tabs makes itself a scroll control.
+    // Very wide, because a tab control that is too narrow for its tabs creates a scroll control.
     const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
     if (!CreateTabRow(style, nowhere, AFX_IDC_TAB_CONTROL)) return -1;
     if (!ShowFirstPage(CRect())) return -1;
@@ -111,7 +111,7 @@ LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM) {
     CRect client;
     GetClientRect(&client);
     if (client.IsRectEmpty()) LayOut();
-    return FALSE; // the focus comes with the page
+    return FALSE; // the focus is set when the page is activated
 }
 
 // ---- Pages
@@ -162,7 +162,8 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
     return LeaveFor(nPage) && ActivatePage(nPage);
 }
 
-// Whether the active page can be left for that one; -1: for good. One without a window has nothing to save.
+// Returns whether the active page can be left for that one (-1: any other page). A page without a window has nothing to
+// save.
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
@@ -200,12 +201,12 @@ bool CPropertySheet::ShowFirstPage(const CRect& place) {
     return false;
 }
 
-// False, with m_nCurPage on that page, if the page fails to become active; the caller restores m_nCurPage.
+// Returns false if the page cannot be activated; m_nCurPage is then that page, and the caller restores it.
 bool CPropertySheet::ShowPage(int nPage, const CRect& before) {
     CPropertyPage* page = GetPage(nPage);
     m_nCurPage = nPage;
     if (!AfxGuardedCall([=] { return page->OnSetActive() != FALSE; })) return false;
-    // Before the buttons in the order of the Tab key.
+    // Before the buttons in tab order.
     const CRect place = GetPagePlace(*page, before);
     const UINT keep = place.IsRectEmpty() ? SWP_NOMOVE | SWP_NOSIZE : 0;
     ::SetWindowPos(page->m_hWnd, HWND_TOP, place.left, place.top, place.Width(), place.Height(),
@@ -239,8 +240,8 @@ void CPropertySheet::FocusActivePage() {
     if (page == nullptr || page->m_hWnd == nullptr) return;
     HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
     const bool takes = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
-    // Without a control for it the focus goes to the tabs, or to the default button: in the page before, it would take
-    // keys unseen.
+    // If no control of the page accepts the focus, it goes to the tabs or the default button; in the previous page, now
+    // hidden, it would still receive keys.
     if (!takes) {
         const bool tabs = m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible();
         first = tabs ? m_tabRow.m_hWnd : ::GetDlgItem(m_hWnd, LOWORD(SendMessage(DM_GETDEFID)));
@@ -250,7 +251,7 @@ void CPropertySheet::FocusActivePage() {
     }
 }
 
-// ---- What the user does
+// ---- User input
 
 void CPropertySheet::OnOK() {
     CPropertyPage* page = GetActivePage();
@@ -284,7 +285,7 @@ void CPropertySheet::EnableApplyButton() {
 }
 
 BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
-    // Return on a button of the page sends its command to the window that the keys went to: to this one.
+    // The dialog manager sends the command of a page's button to the sheet if Return was pressed.
     HWND parent = lParam != 0 ? ::GetParent(reinterpret_cast<HWND>(lParam)) : nullptr;
     if (parent != nullptr && parent != m_hWnd && ::IsChild(m_hWnd, parent)) {
         ::SendMessageA(parent, WM_COMMAND, wParam, lParam);
@@ -297,8 +298,8 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     if (header->hwndFrom != m_tabRow.m_hWnd) return CWnd::OnNotify(wParam, lParam, pResult);
     if (header->code == static_cast<UINT>(TCN_SELCHANGING)) {
-        *pResult = !LeaveFor(-1); // TRUE keeps the tab
-        // Wine's row goes on to the next tab anyway if it was a key: it comes back when that is done.
+        *pResult = !LeaveFor(-1); // TRUE prevents the selection
+        // Wine selects the next tab anyway if a key was pressed; this restores the selection.
         if (*pResult) m_tabRow.PostMessage(TCM_SETCURSEL, static_cast<WPARAM>(m_nCurPage));
         return TRUE;
     }
@@ -309,7 +310,7 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     return CWnd::OnNotify(wParam, lParam, pResult);
 }
 
-// Ctrl with Tab, Page Down or Page Up: the pages in a circle. 0: another key.
+// Handles Ctrl with Tab, Page Down or Page Up. Returns the step to another page, or 0.
 int CPropertySheet::PageStep(const MSG& msg) {
     if (msg.message != WM_KEYDOWN || ::GetKeyState(VK_CONTROL) >= 0) return 0;
     switch (msg.wParam) {

@@ -1,4 +1,4 @@
-// CPropertySheet: its tab row and buttons, their places, and the frame around the page.
+// CPropertySheet: creation and layout of tab row and buttons, and the frame around the page.
 
 #include <afxapp.h>
 #include <afxdlgs.h>
@@ -52,7 +52,7 @@ bool CPropertySheet::CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID) {
     return true;
 }
 
-// The dialog units are those of the active page's font.
+// Dialog units refer to the font of the active page.
 void CPropertySheet::MeasureUnits() {
     CRect units(4, 4, 50, 14);
     ::MapDialogRect(GetActivePage()->m_hWnd, &units);
@@ -61,7 +61,7 @@ void CPropertySheet::MeasureUnits() {
     m_sizeButton = CSize(units.right, units.bottom);
 }
 
-// Tabs, under them the page, under that the buttons in a row, at the right.
+// The tabs are above the page; the buttons are in a row below it, aligned right.
 void CPropertySheet::LayOut() {
     const CPropertyPage* page = GetActivePage();
     CRect pageRect;
@@ -103,7 +103,8 @@ void CPropertySheet::OnPaint() {
     frame.InflateRect(1, 1);
     UINT sides = BF_RECT;
     if (m_tabRow.m_hWnd != nullptr) {
-        // As wide as the tabs above, where the buttons below need more than the page. The tabs are its upper side.
+        // The frame is as wide as the tabs, which the buttons may make wider than the page. The tabs are its upper
+        // edge.
         CRect tabs;
         m_tabRow.GetWindowRect(&tabs);
         ScreenToClient(&tabs);

@@ -18,7 +18,7 @@ struct AfxThreadState {
     CWinThread* thread = nullptr;
     bool reporting = false;       // the message box of an exception is open
     std::set<HWND> paintFailures; // windows whose exceptions while painting were reported
-    HWND lastMeasured = nullptr;  // the control that was last asked for the size of a row
+    HWND lastMeasured = nullptr;  // the control whose rows were last measured
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
 

@@ -157,7 +157,7 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if (lpDrawItemStruct->CtlType == ODT_MENU || !NotifyChild(lpDrawItemStruct->hwndItem, &result)) Default();
 }
 
-// A list that is being filled sends a message for each item, and finding a child is slow: the last one is checked
+// A list box sends a message for each item that is added, and searching for a child is slow, so the last one is tried
 // first.
 static HWND MeasuredControl(HWND parent, int id) {
     HWND& last = AfxThreadState::Get().lastMeasured;
