@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every source is as clang-format writes it by the file in the root: check_format.sh ROOT
+# Checks that every source file is formatted with clang-format: check_format.sh ROOT
 set -euo pipefail
 cd "$1"
 find adapter afx bench demo docs drawcore files fuzz native orlo packaging skeleton tests tools \( -name '*.c' -o -name '*.cpp' -o -name '*.h' \) -print0 |

@@ -8,10 +8,10 @@ import pathlib
 import re
 import sys
 
-# The rooms of the library from top to bottom: a room includes itself and those below it.
+# The modules of the library from top to bottom. A module may include itself and those below it.
 LAYERS = ["c", "entry", "pages", "exchange", "frame", "controls", "samples", "binding", "win", "host"]
 MAY = {room: set(LAYERS[place:]) for place, room in enumerate(LAYERS)}
-MAY["binding"] = {"binding", "host"}  # win is below it, but has windows
+MAY["binding"] = {"binding", "host"}  # win is below it, but uses windows
 MAY["c"] |= {"propset", "summary"}
 MAY["include"] = set(LAYERS) | {"propset", "summary", "wizard"}
 MAY["propset"] = {"propset"}
@@ -19,23 +19,23 @@ MAY["summary"] = {"summary", "propset", "win"}
 MAY["wizard"] = {"wizard", "win"}
 MAY["resources"] = {"resources"}
 for room in "entry pages exchange frame controls wizard".split():
-    MAY[room].add("resources")  # texts, and the numbers of templates and controls
+    MAY[room].add("resources")  # strings, and identifiers of templates and controls
 
-TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # as a host writes them, in angle brackets
+TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # included with angle brackets, as by a host
 
-# Single headers that a room may have besides: they hold declarations of the host contract and no window.
+# Additional headers allowed per module: declarations of the host contract without windows.
 MAY_ALSO = {"propset": {"orlo/host/memory.h"}, "summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
 
-# Rooms that also compile where there are no windows, and the headers that bring them.
+# Modules that also compile without windows, and headers that would need them.
 WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding"]
 WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|dlgs|cmn|ctl|gdi|app|msg|dialog)\.h")
 
-# Outside the library: which of its headers a folder may include.
-ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, and no part of the interface
+# The library headers that folders outside the library may include.
+ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, not part of the interface
 PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
 OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST,
            "skeleton": HOST, "afx": NOTHING, "files": NOTHING}
-WITH_FILES = ("orlo/summary", "orlo/c")  # of the library; programs and the database may use it too
+WITH_FILES = ("orlo/summary", "orlo/c")  # modules of the library; programs and the database may use it too
 
 
 def includes(path):

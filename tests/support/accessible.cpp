@@ -1,4 +1,4 @@
-// Asks accessible objects.
+// Queries accessibility objects.
 
 #include "support/accessible.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// The import library's identifier of the interface is not the interface's.
+// The import library's definition of the interface identifier is wrong.
 constexpr IID kAccessible = {0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
 VARIANT Child(int number) {

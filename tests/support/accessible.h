@@ -1,4 +1,4 @@
-// What a screen reader is told of a window: by the window's own object, else by the system's.
+// The accessibility object of a window, as a screen reader sees it: the window's own, else the system's.
 #pragma once
 
 #include <windows.h>
@@ -13,9 +13,9 @@ class Accessible {
 public:
     explicit Accessible(HWND window);
 
-    bool IsOwn() const { return m_isOwn; } // the window answers by itself
+    bool IsOwn() const { return m_isOwn; } // the window supplies its own object
     int Count() const;
-    // child: from 1; 0 is the window itself.
+    // child is counted from 1; 0 is the window itself.
     std::string Name(int child = CHILDID_SELF) const;
     std::string Value(int child = CHILDID_SELF) const;
     std::string DefaultAction(int child) const;

@@ -1,4 +1,4 @@
-// Failing memory: the module's imported operator new is replaced.
+// Makes memory allocations fail by replacing a module's imported operator new.
 
 #include "support/failing_memory.h"
 
@@ -8,10 +8,10 @@
 
 namespace {
 
-// Of operator new and operator new[], as the compiler mangles them.
+// Mangled names of operator new and operator new[].
 constexpr const char* kNames[] = {sizeof(void*) == 8 ? "_Znwy" : "_Znwj", sizeof(void*) == 8 ? "_Znay" : "_Znaj"};
 
-int g_left = 0; // requests until the one that fails
+int g_left = 0; // remaining requests, including the one that fails
 
 void* Allocate(size_t size) {
     if (--g_left == 0) throw std::bad_alloc();

@@ -1,4 +1,4 @@
-// Lets operator new fail for one request of a loaded module, as it does when memory has run out.
+// Makes one memory allocation of a loaded module fail.
 //
 //   const FailingMemory memory("orlo.dll", 4); // the fourth request from here on
 #pragma once
@@ -9,12 +9,12 @@ class FailingMemory {
 public:
     // Throws std::runtime_error if the module does not import operator new.
     FailingMemory(const char* module, int nth);
-    // Requests succeed again.
+    // Lets requests succeed again.
     ~FailingMemory();
     FailingMemory(const FailingMemory&) = delete;
     FailingMemory& operator=(const FailingMemory&) = delete;
 
-    // Whether so many requests have come.
+    // Returns whether the request that fails has been made.
     bool HasFailed() const;
 
 private:

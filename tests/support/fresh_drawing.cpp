@@ -1,4 +1,4 @@
-// What the screen shows, and a fresh drawing of it.
+// Compares the screen with a fresh drawing.
 
 #include "support/fresh_drawing.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// A blinking caret is not a part of the drawing.
+// Hides a blinking caret, which is not part of the drawing.
 class HiddenCaret {
 public:
     HiddenCaret() : m_hidden(::HideCaret(nullptr)) {}

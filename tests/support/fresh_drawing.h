@@ -1,5 +1,5 @@
-// Compares what the screen shows of a window with a fresh drawing of it: whatever was moved, copied or drawn in part
-// must look as if it had just been drawn.
+// Compares the screen contents of a window with a fresh drawing of it, to find parts that were not redrawn after
+// moving, copying or partial drawing.
 //
 //   user.ClickSheetButton(kNext);
 //   EXPECT_EQ(StalePart(user.Sheet()), "");
@@ -9,6 +9,6 @@
 
 #include <string>
 
-// Returns where the two differ: in which child, and in which rectangle (pixels of the window); empty if nowhere. The
-// window is visible, and its messages have been handled.
+// Returns the child window and the rectangle (in pixels of the window) where the two differ, or an empty string. The
+// window must be visible and its messages handled.
 std::string StalePart(HWND window);

@@ -22,7 +22,7 @@ std::unordered_map<GraphicStruct*, KitGraphic*>& Kit() {
     return kit;
 }
 
-// A property's number is its place in the graphic's own order, distinguished from other graphics' by its offset.
+// Numbers properties by their position in the graphic's order, plus an offset that differs between graphics.
 int32_t FirstNumber(const GraphicStruct* graphic) {
     return static_cast<int32_t>(reinterpret_cast<uintptr_t>(graphic) >> 4 & 0xFFFF) * 100;
 }

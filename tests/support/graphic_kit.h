@@ -1,4 +1,4 @@
-// A drawing and graphics with property tables of any shape, for tests: what a graphic offers, holds, and was given.
+// A drawing and graphics with arbitrary property tables, which record the values that are written.
 //
 //   GraphicKit kit;
 //   kit.Add({{"PenWidth", 1.0}, {"Info", "wall"}});
@@ -45,8 +45,8 @@ public:
     std::map<std::string, KitValue> properties;
     std::vector<KitWrite> writes;
     std::function<void(const std::string& name)> onSet; // before a value is stored
-    std::function<void()> onGet;                        // after a value that was given
-    std::string refused;                                // the property that is not taken
+    std::function<void()> onGet;                        // after a value was returned
+    std::string refused;                                // the property that is rejected
     int reads = 0;
 };
 
@@ -58,18 +58,18 @@ public:
     GraphicKit& operator=(const GraphicKit&) = delete;
 
     KitGraphic& Add(std::map<std::string, KitValue> offered, int type = kGraphicPenBrush);
-    // A member of the selection that has no property table.
+    // Adds a member without a property table to the selection.
     GraphicStruct* AddWithoutTable();
     KitGraphic& operator[](size_t index) { return *m_graphics[index]; }
     size_t Size() const { return m_graphics.size(); }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Selection() const { return m_selection.get(); }
-    int Writes() const;  // over all graphics
-    long Blocks() const; // of the host's, alive now
+    int Writes() const;  // total of all graphics
+    long Blocks() const; // number of the host's memory blocks that exist
 
 private:
     OwnedDrawing m_drawing;
-    orlo::host::OwnedGraphic m_selection;                // goes before its members
+    orlo::host::OwnedGraphic m_selection;                // destroyed before its members
     std::vector<std::unique_ptr<KitGraphic>> m_graphics; // the drawing owns the records
 };

@@ -1,4 +1,4 @@
-// HostFrame.
+// Implements HostFrame.
 
 #include "support/host_frame.h"
 

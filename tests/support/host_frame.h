@@ -1,4 +1,4 @@
-// The main window of a host, for tests: fills the library's controls when they announce themselves.
+// The main window of a test host: fills the library's controls when they notify it.
 #pragma once
 
 #include <afxwin.h>
@@ -9,7 +9,8 @@
 
 class HostFrame : public CFrameWnd {
 public:
-    // An invisible window, the thread's main window until it is destroyed. It fills from the tables of the drawing.
+    // Creates an invisible window and makes it the thread's main window until it is destroyed. Controls are filled from
+    // the tables of the drawing.
     explicit HostFrame(DrawingStruct* drawing);
     ~HostFrame() override;
 

@@ -1,4 +1,4 @@
-// Programs started beside this one, and their windows.
+// Starts other programs and finds their windows.
 
 #include "support/host_process.h"
 
@@ -22,7 +22,7 @@ BOOL CALLBACK IsVisibleChild(HWND window, LPARAM parameter) {
 
 HostProcess::~HostProcess() {
     if (m_process.hProcess == nullptr) return;
-    ::TerminateProcess(m_process.hProcess, 99); // it has ended, unless the test has failed
+    ::TerminateProcess(m_process.hProcess, 99); // still running only if the test has failed
     ::CloseHandle(m_process.hProcess);
     ::CloseHandle(m_process.hThread);
 }

@@ -1,4 +1,4 @@
-// A host as its user meets it: a program of its own beside the test program, whose sheet is driven by messages.
+// A host in its own process, whose sheet is driven by messages.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,13 +10,13 @@ class HostProcess : public ::testing::Test {
 protected:
     ~HostProcess() override;
 
-    // command: the name of the program, in the folder of the test program or below it, and its arguments.
+    // command: the name of a program in or below the folder of the test program, and its arguments.
     void Start(const std::string& command);
     DWORD ExitCode();
-    // The sheet, and a visible control in it. Null if the program ends before, or never shows it.
+    // Returns the sheet, with a visible control. Returns null if the program ends earlier or never shows it.
     HWND Sheet();
     HWND Visible(HWND sheet, int id);
-    // Presses a key in the row of tabs.
+    // Sends a key to the tab row.
     void PressInTabs(HWND sheet, WPARAM key);
 
 private:

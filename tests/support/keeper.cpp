@@ -1,5 +1,5 @@
-// Keeps Wine's desktop process alive through a run: without one window open at all times it ends with the
-// last windowed program, and the next start waits for a new one. Says "ready" once the desktop exists.
+// Keeps Wine's desktop process alive during a run by having a window. Otherwise the desktop ends with the last windowed
+// program, and the next start waits for a new one. Prints "ready" once the desktop exists.
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-// Watches for message boxes by a hook of this thread, so that no other thread and no waiting is needed.
+// Detects message boxes with a hook of this thread, which needs neither another thread nor waiting.
 
 #include "support/message_box_watcher.h"
 
@@ -39,7 +39,7 @@ LRESULT CALLBACK MessageBoxWatcher::OnHook(int code, WPARAM wParam, LPARAM lPara
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// A box is activated again when it gets the focus back: it is answered once.
+// A box is activated again when it gets the focus back, but must be answered only once.
 void MessageBoxWatcher::OnActivate(HWND window) {
     if (window == m_answered || !IsMessageBox(window)) return;
     m_answered = window;

@@ -1,6 +1,6 @@
-// Answers the message boxes of this thread as they come up, and keeps what they said. Other dialogs are left alone.
+// Answers the message boxes of this thread when they appear, and records their texts. Other dialogs are not affected.
 //
-//   MessageBoxWatcher boxes;                       // answers OK
+//   MessageBoxWatcher boxes;                       // presses OK
 //   EXPECT_TRUE(Refused([&] { DDX_Text(1, &save, kEdit, number); }));
 //   EXPECT_EQ("Please enter an integer.", boxes.OnlyText());
 #pragma once
@@ -15,18 +15,18 @@ public:
     struct Box {
         std::string text;
         std::string caption;
-        bool exclamation; // shows the exclamation mark
+        bool exclamation; // has the exclamation mark
     };
 
-    // answer: the button that is pressed, IDOK, IDYES, ...
+    // answer: the button to press: IDOK, IDYES, ...
     explicit MessageBoxWatcher(int answer = IDOK);
     ~MessageBoxWatcher();
     MessageBoxWatcher(const MessageBoxWatcher&) = delete;
     MessageBoxWatcher& operator=(const MessageBoxWatcher&) = delete;
 
-    // In the order of their coming.
+    // In order of appearance.
     const std::vector<Box>& Boxes() const { return m_boxes; }
-    // The text of the one box that came; says so if it was none or several.
+    // Returns the text of the only box, or a description if there was none or more than one.
     std::string OnlyText() const;
     void Clear() { m_boxes.clear(); }
 
@@ -34,7 +34,7 @@ private:
     static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
     void OnActivate(HWND window);
 
-    static MessageBoxWatcher* s_current; // one at a time
+    static MessageBoxWatcher* s_current; // only one at a time
     HHOOK m_hook;
     int m_answer;
     HWND m_answered = nullptr;

@@ -1,4 +1,4 @@
-// Counts by looking at the system's own tables: the documented counters give 0 under Wine.
+// Counts objects in the system's own tables, since the documented counters return 0 under Wine.
 
 #include "support/object_counts.h"
 

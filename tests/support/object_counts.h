@@ -1,9 +1,9 @@
-// Counts of the objects that this process holds, to see whether something leaks. Only differences mean anything: run
-// the work once to warm up, count, run it many times, count again.
+// Counts system objects of this process to detect leaks. Only differences are meaningful: run the operation once to
+// warm up, count, run it many times, count again.
 #pragma once
 
-// Pens, brushes, fonts, bitmaps, regions, device contexts.
+// Counts pens, brushes, fonts, bitmaps, regions and device contexts.
 int GdiObjectCount();
 
-// Windows of this thread, children included, and menus.
+// Counts windows of this thread, including child windows, and menus.
 int UserObjectCount();

@@ -1,4 +1,4 @@
-// Looking at a picture in memory.
+// Reads pixels of a bitmap in memory.
 
 #include "support/pixels.h"
 

@@ -1,4 +1,4 @@
-// A picture in memory to draw into and to look at pixel by pixel.
+// A bitmap in memory for drawing and reading pixels.
 #pragma once
 
 #include <functional>
@@ -7,15 +7,15 @@
 
 class Pixels {
 public:
-    Pixels(int width, int height); // white
+    Pixels(int width, int height); // filled with white
 
     HDC DC() const { return m_picture.Dc(); }
     void Clear(COLORREF color);
     COLORREF At(int x, int y) const;
-    // Pixels of the rectangle that are of that color.
+    // Counts the pixels with that color in the rectangle.
     int Count(const RECT& rect, COLORREF color) const;
     int CountWhere(const RECT& rect, const std::function<bool(COLORREF)>& is) const;
-    // Changes of "is of that color" along a row or a column, a measure for dashes and frames.
+    // Count the transitions to and from the color along a row or a column, to check dashes and frames.
     int ChangesAlongRow(int y, int left, int right, COLORREF color) const;
 
 private:

@@ -1,4 +1,4 @@
-// Reading by stb.
+// Reads PNG files with stb.
 
 #include "png_picture.h"
 

@@ -1,4 +1,4 @@
-// Another color scheme of the system for as long as an object lives: SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}});
+// Sets system colors during the lifetime of an object: SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}});
 #pragma once
 
 #include <windows.h>

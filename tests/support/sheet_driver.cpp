@@ -1,4 +1,4 @@
-// Plays scripts over sheets.
+// Drives sheets by scripts.
 
 #include "support/sheet_driver.h"
 
@@ -39,7 +39,7 @@ void SheetDriver::Focus(int id) {
 
 void SheetDriver::Type(int id, const std::string& text) {
     Focus(id);
-    const HWND field = ::GetFocus(); // the edit field inside a combo, or the edit itself
+    const HWND field = ::GetFocus(); // the edit field inside a combo box, or the edit control itself
     ::SendMessageA(field, EM_SETSEL, 0, -1);
     if (text.empty()) ::SendMessageA(field, WM_CLEAR, 0, 0);
     m_user.Type(text);

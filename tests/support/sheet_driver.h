@@ -1,5 +1,5 @@
-// Opens a real modal sheet and plays a script over it from inside the sheet's own message loop, by messages and keys,
-// as a person would. It knows no page; message boxes are the MessageBoxWatcher's.
+// Opens a real modal sheet and runs a script from inside the sheet's message loop, which drives it by messages and keys
+// like a user. Independent of the pages; message boxes are handled by MessageBoxWatcher.
 //
 //   int code = SheetDriver().Run(*sheet, [](SheetDriver& user) {
 //       user.SelectPage(1);
@@ -19,7 +19,8 @@ class SheetDriver {
 public:
     using Script = std::function<void(SheetDriver&)>;
 
-    // DoModal's result. A sheet that is still open when the script has ended is cancelled. Throws if it does not open.
+    // Returns the result of DoModal. If the sheet is still open at the end of the script, it is canceled. Throws if the
+    // sheet does not open.
     int Run(CPropertySheet& sheet, Script script);
 
     HWND Sheet() const { return m_sheet->m_hWnd; }
@@ -27,26 +28,26 @@ public:
     HWND Control(int id) const { return ::GetDlgItem(Page(), id); }
     int ActivePage() const { return m_sheet->GetActiveIndex(); }
 
-    // Takes all waiting messages through the thread's own filters.
+    // Handles all waiting messages, including the thread's pretranslation.
     void Pump() { m_user.Wait(0); }
 
-    void SelectPage(int index); // by a click on its tab
-    void Click(int id);         // a button of the page
+    void SelectPage(int index); // clicks its tab
+    void Click(int id);         // clicks a button of the page
     void ClickSheetButton(int id);
     void Ok() { ClickSheetButton(IDOK); }
     void Cancel() { ClickSheetButton(IDCANCEL); }
 
     void Focus(int id);
-    void Type(int id, const std::string& text); // over the existing text
-    void Choose(int id, int index);             // in a combo or list, by Home and Down keys
+    void Type(int id, const std::string& text); // replaces the text
+    void Choose(int id, int index);             // in a combo box or list, with Home and Down
     void Key(UINT virtualKey, bool shift = false, bool control = false);
     void Mnemonic(char letter) { m_user.Mnemonic(letter); }
 
     std::string Text(int id) const;
-    int Selection(int id) const; // of a combo or list, -1 for none
+    int Selection(int id) const; // of a combo box or list, or -1
     int Check(int id) const;
     bool IsCombo(int id) const;
-    std::string ItemText(int id, int index) const; // of a combo
+    std::string ItemText(int id, int index) const; // of a combo box
 
 private:
     CPropertySheet* m_sheet = nullptr;

@@ -1,4 +1,4 @@
-// Storages in storages.
+// Reads nested storages.
 
 #include "system_streams.h"
 

@@ -1,4 +1,4 @@
-// All streams of a compound file, by the system's own reading.
+// Reads all streams of a compound file with the system's functions.
 #pragma once
 
 #include <windows.h>
@@ -10,5 +10,5 @@
 #include <string>
 #include <vector>
 
-// "Outer/Inner" to bytes. What the system can't read is left out.
+// Maps paths such as "Outer/Inner" to bytes. Streams that the system cannot read are left out.
 std::map<std::u16string, std::vector<uint8_t>> SystemStreamsOf(IStorage* storage);

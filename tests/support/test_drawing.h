@@ -1,4 +1,4 @@
-// A drawing of its own for a test: current while it lives, freed with all that it owns.
+// A drawing for a test: the current drawing during its lifetime, freed with all objects that it owns.
 #pragma once
 
 #include <drawcore/application.h>
@@ -13,7 +13,7 @@ public:
 
     DrawingStruct* Get() const { return m_drawing.get(); }
     TableStruct* Table(const char* name) const { return DrawingGetTable(Get(), name); }
-    // Earlier than the end: what a host does while controls still hold its tables.
+    // Closes the drawing early, as a host may do while controls still refer to its tables.
     void Close() { m_drawing.reset(); }
 
 private:

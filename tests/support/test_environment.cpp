@@ -1,4 +1,4 @@
-// Other resolutions and color schemes for a test program.
+// Runs a test program at another resolution or in another color scheme.
 
 #include "support/test_environment.h"
 
@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kNotStarted = 76; // exit code; distinct from 1 (failed) and the system's own codes
 
-// A program reads the resolution when it starts. The setting is that of all programs of the session: it is there only
-// while this one starts.
+// A program reads the resolution when it starts. The setting applies to all programs of the session, so it is changed
+// only while this one starts.
 class ResolutionSetting {
 public:
     explicit ResolutionSetting(DWORD dpi) {

@@ -1,5 +1,5 @@
-// The main of every test program that has windows: an application object for the framework, a watchdog that turns a
-// hang into a failure, and the options of test_environment.h.
+// The main function of every test program with windows: an application object for the framework, a watchdog that makes
+// a hang a failure, and the options of test_environment.h.
 
 #include <afxwin.h>
 
@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr DWORD kLimit = 280000; // milliseconds; below ctest's own limit
+constexpr DWORD kLimit = 280000; // in milliseconds; below ctest's own limit
 constexpr int kHung = 77;        // distinct from 1 (failed) and the system's own codes
 
 DWORD WINAPI Watch(void* finished) {
@@ -40,7 +40,7 @@ int RunTests() {
     return result;
 }
 
-// As high contrast has it.
+// Uses colors as in high contrast.
 int RunTestsInBlack() {
     constexpr COLORREF black = RGB(0, 0, 0), white = RGB(255, 255, 255);
     const SchemeColors scheme({{COLOR_WINDOW, black},
@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     const TestEnvironment environment(arguments);
     ::testing::InitGoogleTest(&argc, argv);
     ::SetProcessDPIAware();
-    const orlo::WindowDC screen(nullptr); // reads the resolution
+    const orlo::WindowDC screen(nullptr); // makes the process read the resolution
     ReportStarted(environment.started);
     if (environment.dpi != 0) return RunAgainAt(environment.dpi, arguments);
     return environment.blackScheme ? RunTestsInBlack() : RunTests();

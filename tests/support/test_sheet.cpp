@@ -1,4 +1,4 @@
-// ExchangePage and TestSheet.
+// Implements ExchangePage and TestSheet.
 
 #include "support/test_sheet.h"
 

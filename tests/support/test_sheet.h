@@ -12,8 +12,8 @@
 // The page template of tests/support/test_page.rc.
 enum TestPageControl : int {
     kTestPage = 500,
-    kWordsPage = 501, // nothing that takes the focus
-    kOddPage = 502,   // a field that is wider than the page, a label that is a tab stop
+    kWordsPage = 501, // without controls that accept the focus
+    kOddPage = 502,   // a field that is wider than the page, and a label that is a tab stop
     kEdit = 101,
     kOtherEdit = 102,
     kCheck = 103,
@@ -45,14 +45,14 @@ private:
     Exchange m_exchange;
 };
 
-// Owns the sheet with its pages. The General page is the first, pages of the test follow.
+// Owns the sheet with its pages: the General page, followed by the pages of the test.
 class TestSheet {
 public:
     explicit TestSheet(GraphicKit& kit, unsigned long dwGraphicFlags = kAllGraphics);
     ~TestSheet();
 
     ExchangePage& Add(ExchangePage::Exchange exchange, unsigned int nIDTemplate = kTestPage);
-    // Opens the sheet, goes to the first page of the test, and plays the script.
+    // Opens the sheet, activates the first page of the test, and runs the script.
     int Run(SheetDriver::Script script);
     CGraphicPropertySheet& Sheet() { return *m_sheet; }
 
