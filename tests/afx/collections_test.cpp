@@ -1,4 +1,4 @@
-// The list and the maps, mostly when they change.
+// Lists and maps, in particular while they change.
 
 #include <afxcoll.h>
 
@@ -25,7 +25,7 @@ std::vector<CObject*> Elements(const CObList& list) {
 
 TEST(ObjectList, KeepsItsOrderThroughChanges) {
     Item a, b, c, d;
-    CObList list(2); // more elements than a block has
+    CObList list(2); // more elements than fit in a block
     list.AddTail(&b);
     list.AddTail(&c);
     list.AddHead(&a);
@@ -40,7 +40,7 @@ TEST(ObjectList, KeepsItsOrderThroughChanges) {
     EXPECT_EQ(&b, list.RemoveHead());
     EXPECT_TRUE(Elements(list).empty());
 
-    list.AddHead(&d); // in a node that was freed
+    list.AddHead(&d); // uses a freed node
     EXPECT_EQ(Elements(list), (std::vector<CObject*>{&d}));
     list.RemoveAll();
     list.AddTail(&a);
@@ -77,7 +77,7 @@ TEST(StringMap, GivesItsKeysInTheOrderOfTheirComing) {
     map.SetAt("zebra", &one);
     map.SetAt("ant", &one);
     map.SetAt("", &one);
-    map.SetAt("zebra", &two); // keeps its place
+    map.SetAt("zebra", &two); // keeps its position
     EXPECT_EQ(Keys(map), (std::vector<std::string>{"zebra", "ant", ""}));
     void* value = nullptr;
     EXPECT_TRUE(map.Lookup("zebra", value));

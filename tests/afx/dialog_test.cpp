@@ -1,4 +1,4 @@
-// Dialogs: exchange, refusal, order of the first messages, the modal loop.
+// Dialogs: exchange, validation, order of the first messages, modal loop.
 
 #include "afx_test_ids.h"
 #include "support/message_box_watcher.h"
@@ -135,7 +135,7 @@ TEST(Dialog, DisablesItsOwnerAndGivesItBack) {
     CWnd child;
     ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &owner, 1));
     ::SetActiveWindow(owner.m_hWnd);
-    CForm form(&child); // a child: its top-level window is the owner
+    CForm form(&child); // a child window, whose top-level window becomes the owner
     form.onOpen = [&](CForm& dialog) {
         EXPECT_FALSE(owner.IsWindowEnabled());
         EXPECT_EQ(owner.m_hWnd, ::GetParent(dialog.m_hWnd));
@@ -182,7 +182,7 @@ TEST(Dialog, Modeless) {
     EXPECT_EQ(form.m_hWnd, nullptr);
 }
 
-// Fills itself when it is announced, as lists of the program's own things do.
+// Fills itself on WM_INITIALUPDATE, like combo boxes with the program's own data.
 class CFilled : public CComboBox {
 public:
     bool seen = false;

@@ -1,4 +1,4 @@
-// Exceptions of message handlers end in the window procedure, with a message where the user was not informed.
+// Exceptions of message handlers: caught in the window procedure, with a message unless the user was already informed.
 
 #include "support/message_box_watcher.h"
 

@@ -1,4 +1,4 @@
-// Device contexts and drawing objects: what they own, and what they leave as it was.
+// Device contexts and drawing objects: ownership, and state that must not change.
 
 #include "support/object_counts.h"
 

@@ -1,4 +1,4 @@
-// Message maps: the right handler, its arguments, and what happens to messages that none takes.
+// Message maps: selection of the handler, its arguments, and unhandled messages.
 
 #include <afxwin.h>
 

@@ -1,4 +1,4 @@
-// Resources and strings: searched along the modules, taken apart and put together.
+// Resources and strings: search order of modules, splitting and formatting.
 
 #include "afx_test_ids.h"
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-const LPCSTR kIcon = MAKEINTRESOURCEA(104); // no module of this program has it
+const LPCSTR kIcon = MAKEINTRESOURCEA(104); // in no module of this program
 const LPCSTR kGroupIcon = reinterpret_cast<LPCSTR>(RT_GROUP_ICON);
 
 TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
@@ -27,7 +27,7 @@ TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
 }
 
 TEST(ModuleChain, TakesExtensionModulesInAndOut) {
-    // The shell's library has icons, and nothing else in this program does.
+    // The shell's library has icons; no other module in this program does.
     HMODULE shell = ::LoadLibraryA("shell32.dll");
     ASSERT_NE(::FindResourceA(shell, MAKEINTRESOURCEA(1), kGroupIcon), nullptr);
     AFX_EXTENSION_MODULE module = {};

@@ -1,4 +1,4 @@
-// Owner drawing: what the parent gets reaches the virtual functions of the control's object.
+// Owner drawing: messages to the parent become calls of the control's virtual functions.
 
 #include "afx_test_ids.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kItemHeight = 23;
 
-// The same calls for a list and a combo, noted once each.
+// Records the same calls for a list box and a combo box.
 template <class Base>
 class Drawn : public Base {
 public:
@@ -101,7 +101,7 @@ TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
                                   50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
     EXPECT_EQ(::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
     ::UpdateWindow(list);
-    // An object that comes later is asked from then on.
+    // An object that is created later gets the messages from then on.
     Drawn<CListBox> late;
     ASSERT_TRUE(late.SubclassWindow(list));
     late.Invalidate();

@@ -1,4 +1,4 @@
-// Run-time classes: who descends from whom, and objects made by their class.
+// Run-time classes: inheritance, and creation of objects by class.
 
 #include <afx.h>
 
@@ -14,7 +14,7 @@ class CAnimal : public CObject {
 class CDog : public CAnimal {
     DECLARE_DYNCREATE(CDog)
 };
-class CPlain : public CDog {}; // without a record of its own
+class CPlain : public CDog {}; // without its own run-time class
 IMPLEMENT_DYNAMIC(CAnimal, CObject)
 IMPLEMENT_DYNCREATE(CDog, CAnimal)
 

@@ -1,4 +1,4 @@
-// Property sheets, driven as a person drives them.
+// Property sheets, driven like a user does.
 
 #include "afx_test_ids.h"
 #include "support/object_counts.h"
@@ -123,7 +123,7 @@ TEST_F(Sheet, ChangesPagesByClickAndByKey) {
         EXPECT_EQ(sheet.GetActiveIndex(), 2);
         EXPECT_EQ(sheet.GetTabControl()->GetCurSel(), 2);
         EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus()) << "the new page's first field";
-        user.Key(VK_NEXT, false, true); // round to the first
+        user.Key(VK_NEXT, false, true); // wraps around to the first
         EXPECT_EQ(sheet.GetActiveIndex(), 0);
         user.Key(VK_TAB, true, true);
         EXPECT_EQ(sheet.GetActiveIndex(), 2);
@@ -203,14 +203,14 @@ TEST_F(Sheet, KeyboardEndsItAndReachesButtons) {
     EXPECT_EQ(Run([](SheetDriver& user) { user.Key(VK_ESCAPE); }), IDCANCEL);
     EXPECT_EQ(Run([&](SheetDriver&) { sheet.PostMessage(WM_CLOSE); }), IDCANCEL);
     EXPECT_EQ(IDCANCEL, Run([](SheetDriver& user) {
-                  user.Focus(IDC_LINES); // an edit of several lines sends its Escape to the page
+                  user.Focus(IDC_LINES); // a multiline edit control sends Escape to the page
                   user.Key(VK_ESCAPE);
               }));
     first.log.clear();
     EXPECT_EQ(IDCANCEL, Run([&](SheetDriver& user) {
                   user.Mnemonic('p');
                   const auto press = reinterpret_cast<WPARAM>(user.Control(IDC_PRESS));
-                  sheet.SendMessage(WM_NEXTDLGCTL, press, TRUE); // as the Tab key does
+                  sheet.SendMessage(WM_NEXTDLGCTL, press, TRUE); // like the Tab key
                   user.Key(VK_RETURN);
                   user.Key(VK_SPACE);
                   EXPECT_NE(sheet.m_hWnd, nullptr) << "Return is the button's, not that of OK";
@@ -226,7 +226,7 @@ TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
         ::SetFocus(user.Control(IDC_FIELD));
         for (int i = 0; i < 2; ++i)
             user.Key(VK_TAB);
-        ::SetFocus(user.Control(IDC_PRESS)); // the edit of several lines keeps the key for itself
+        ::SetFocus(user.Control(IDC_PRESS)); // the multiline edit control handles the key itself
         ::SendMessageA(sheet.m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(::GetDlgItem(sheet.m_hWnd, IDOK)), TRUE);
         for (int i = 0; i < 6; ++i) {
             order.push_back(::GetDlgCtrlID(::GetFocus()));
@@ -293,12 +293,12 @@ TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
     Run([&](SheetDriver& user) {
         const CRect place = Place(user.Page());
         user.SelectPage(1);
-        sheet.RemovePage(&first); // before the active one
+        sheet.RemovePage(&first); // before the active page
         EXPECT_EQ(sheet.GetActiveIndex(), 0);
         EXPECT_EQ(&second, sheet.GetActivePage());
         EXPECT_EQ(first.m_hWnd, nullptr);
         EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 2);
-        sheet.RemovePage(0); // the active one
+        sheet.RemovePage(0); // the active page
         EXPECT_EQ(&tall, sheet.GetActivePage());
         EXPECT_TRUE(tall.IsWindowVisible());
         EXPECT_EQ(place, Place(tall.m_hWnd));
@@ -328,7 +328,7 @@ TEST(SheetOwnership, EitherMayGoFirst) {
 TEST_F(Sheet, StartsOnThePageItWasTold) {
     EXPECT_TRUE(sheet.SetActivePage(1));
     Run([&](SheetDriver&) { EXPECT_EQ(&second, sheet.GetActivePage()); });
-    CPropertySheet other("Other", nullptr, 9); // no such page: the last
+    CPropertySheet other("Other", nullptr, 9); // out of range: the last page is used
     sheet.RemovePage(0);
     sheet.RemovePage(0);
     sheet.RemovePage(0);
@@ -358,7 +358,7 @@ TEST_F(Sheet, Modeless) {
     EXPECT_EQ(sheet.m_hWnd, nullptr);
 }
 
-// Lays itself out, as sheets with a look of their own do: a tab row at the top that sets its own height.
+// Has its own layout: a tab row at the top that determines its own height.
 class CStrip : public CPropertySheet {
 public:
     CStrip() : CPropertySheet("Strip") { m_bHasApply = FALSE; }

@@ -1,4 +1,4 @@
-// CString: what its documentation promises at the edges.
+// CString: documented behavior at the limits.
 
 #include <afx.h>
 
@@ -26,8 +26,8 @@ struct Part {
     const char* name;
     int first, count;
     const char* mid;
-    const char* left;  // of count
-    const char* right; // of count
+    const char* left;  // result of Left
+    const char* right; // result of Right
 };
 
 class StringPart : public ::testing::TestWithParam<Part> {};
@@ -59,7 +59,7 @@ TEST(String, BufferKeepsTheTextAndEndsAtItsNul) {
     text.ReleaseBuffer(4);
     EXPECT_EQ(Text(text), "1234");
 
-    // A buffer filled to its last character has no NUL of its own.
+    // A buffer that is filled completely has no NUL.
     std::fill_n(text.GetBufferSetLength(300), 300, 'x');
     text.ReleaseBuffer();
     EXPECT_EQ(text.GetLength(), 300);
@@ -91,7 +91,7 @@ TEST(String, ChangesCaseByTheCodePage) {
     EXPECT_EQ(Text(text), "mixed \xE4\xF6\xFC \xD7 \x9A\xFF");
     text.MakeUpper();
     EXPECT_EQ(Text(text), "MIXED \xC4\xD6\xDC \xD7 \x8A\x9F");
-    // Sharp s and the division sign have no other case.
+    // Sharp s and the division sign have no case.
     text = "\xDF\xF7";
     text.MakeUpper();
     EXPECT_EQ(Text(text), "\xDF\xF7");
@@ -101,7 +101,7 @@ TEST(String, ComparesWithAndWithoutCase) {
     EXPECT_TRUE(CString("abc") == "abc" && "abc" == CString("abc") && CString("abc") != "ABC");
     EXPECT_EQ(CString("abc").CompareNoCase("ABC"), 0);
     EXPECT_LT(CString("ABC").Compare("abc"), 0);
-    EXPECT_GT(CString("\xE4").Compare("z"), 0); // bytes have no sign here
+    EXPECT_GT(CString("\xE4").Compare("z"), 0); // bytes are compared as unsigned
     EXPECT_TRUE(CString("a") < CString("b"));
 }
 

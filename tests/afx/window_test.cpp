@@ -1,4 +1,4 @@
-// Windows and their objects: creation, the permanent map, temporary objects, subclassing, the end.
+// Windows and objects: creation, permanent map, temporary objects, subclassing, destruction.
 
 #include <afxwin.h>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-// Keeps the messages that it gets, in their order.
+// Records the messages that it receives.
 class CLog : public CWnd {
 public:
     std::vector<UINT> messages;
@@ -82,13 +82,13 @@ TEST_F(Window, ThatCannotBeMadeLeavesAnEmptyObject) {
     CLog unknown;
     EXPECT_FALSE(unknown.Create("no such class", "", WS_CHILD, kPlace, &parent, 1));
     EXPECT_EQ(unknown.messages, (std::vector<UINT>{0}));
-    CLog next; // nothing is left of the creation that failed
+    CLog next; // no state remains from the failed creation
     EXPECT_TRUE(next.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
     EXPECT_EQ(unknown.m_hWnd, nullptr);
 }
 
 TEST_F(Window, ObjectsOfChildrenAreNotTheirParents) {
-    // The window procedure's object is that of the window that was asked for, not of what it makes in turn.
+    // The object is attached to the requested window, not to child windows created with it.
     CLog combo;
     ASSERT_TRUE(combo.Create("COMBOBOX", "", WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 1));
     HWND edit = ::GetWindow(combo.m_hWnd, GW_CHILD);
@@ -161,7 +161,7 @@ TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
 }
 
 TEST_F(Window, TemporaryObjectsGoWithTheMessageThatMadeThem) {
-    // Each message makes many; what they take must not pile up.
+    // Each message creates many temporary objects, which must not accumulate.
     class CMaker : public CWnd {
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message != WM_APP) return CWnd::WindowProc(message, wParam, lParam);
@@ -209,7 +209,7 @@ TEST_F(Window, SubclassedGetsItsProcedureBack) {
     EXPECT_FALSE(object.SubclassWindow(edit)) << "no window";
 }
 
-// A class that decides at a window's first message whether it gets an object: number 1 does, others do not.
+// A window class that decides at the first message whether a window gets an object: number 1 does.
 class CMade : public CLog {
 public:
     static WNDPROC super;

@@ -1,4 +1,4 @@
-// The exchange of a page is all or nothing, and one property's trouble stays its own.
+// Writing a page: all values or none; a failed write of one property does not affect the others.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ struct TwoNumbers {
     }
 };
 
-// Two graphics that have both numbers, and a sheet over them.
+// A sheet over two graphics that have both numbers.
 struct OverTwo {
     OverTwo() {
         for (int i = 0; i < 2; ++i)
@@ -66,8 +66,8 @@ TEST(AllOrNothing, ABadLastControlWritesNothingAndTheNextTryWritesEachOnce) {
 
 struct Refusal {
     const char* name;
-    std::function<void(const std::string&)> onSet; // of the second graphic; else it gives 0
-    int arrived;                                   // of three graphics have the width
+    std::function<void(const std::string&)> onSet; // of the second graphic; if null, the write returns 0
+    int arrived;                                   // number of the three graphics that got the width
     const char* said;
 };
 
@@ -78,7 +78,7 @@ std::function<void(const std::string&)> AtWidth(Throw fail) {
     };
 }
 
-// What a host does not take stays with its property and is reported once, when all the rest is written.
+// A rejected value affects only its property and is reported once, after all other values have been written.
 TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
     const Refusal kRefusals[] = {
         {"result", nullptr, 2, "1 of 3 graphics could not be changed."},
@@ -123,8 +123,7 @@ TEST(WriteBack, StampsTheSelectionAlsoWhenNothingWasDirty) {
     EXPECT_EQ(over.kit.Writes(), 0);
 }
 
-// A member on the stack of an exchange that failed is gone: the write that it left pending must not be carried out
-// later, whoever began the exchanges.
+// The member of a failed exchange may have been on the stack: its pending write must never be carried out.
 TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
     OverTwo over;
     double scale = 0;

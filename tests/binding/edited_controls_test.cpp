@@ -1,4 +1,4 @@
-// What counts as an edit: a control that shows what was loaded writes nothing, and its member keeps every digit.
+// Detection of edits: a control that shows what was loaded writes nothing, and its member keeps every digit.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kThird = 1.0 / 3;
 
-// One property in each kind of control, and a step of the user that leads away from what is shown and back.
+// A property for each kind of control, and a user action that changes the display and another one that restores it.
 struct KindOfControl {
     const char* name;
     int id;
@@ -69,7 +69,7 @@ protected:
              DDX_Check(1, pDX, kCheck, on);
          },
          [](SheetDriver& user) {
-             user.Click(kCheck); // into the third state, which is no value
+             user.Click(kCheck); // to the indeterminate state, which is not a value
              user.Click(kCheck);
          },
          [](SheetDriver& user) {
@@ -134,7 +134,7 @@ TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
     }
 }
 
-// Two controls of one member: restoring the text of one does not undo the write of the other.
+// Two controls of one member: restoring the text of one does not discard the edit of the other.
 TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
     kit[1].properties["Bits"] = 4;
     TestSheet sheet(kit);
@@ -157,7 +157,7 @@ TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
     EXPECT_EQ(kit[0].writes.size(), 1u);
 }
 
-// Loading by the page itself and by the refresh command marks nothing, and the values keep all digits.
+// Loading by the page or by the refresh command marks no control, and values keep all digits.
 TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
     struct Refreshed : ExchangePage {
         using ExchangePage::ExchangePage;
@@ -184,14 +184,14 @@ TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
             EXPECT_EQ(page->IsModified(), 0);
         }
         EXPECT_EQ(user.Text(kEdit), "0.00680272");
-        page->SetControlStatus(kEdit, 1); // and even then
+        page->SetControlStatus(kEdit, 1); // not even then
         user.Ok();
     });
     EXPECT_EQ(kit.Writes(), 0);
     EXPECT_EQ(kThird / 7 / 7, width);
 }
 
-// What was written is what a later edit is compared with, whether or not the page has been left in between.
+// The written value is the base for later edits, whether or not the page was left in between.
 TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
     for (const bool leave : {true, false}) {
         TestSheet sheet(kit);
@@ -220,7 +220,8 @@ TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
     }
 }
 
-// A number over which the stars were typed is each graphic's own, whatever a refused exchange has left in the member.
+// If asterisks are typed over a number, the values of the graphics do not change, whatever a failed exchange has left
+// in the member.
 TEST_F(EditedControls, WithStarsForANumberWriteNothing) {
     TestSheet sheet(kit);
     sheet.Add([&](CDataExchange* pDX) {

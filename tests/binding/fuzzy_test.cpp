@@ -1,4 +1,4 @@
-// Bucket comparison: where buckets end, signs, infinities, and the properties of an order.
+// Bucket comparison: bucket boundaries, signs, infinities, and the properties of an order.
 
 #include "orlo/binding/fuzzy.h"
 
@@ -29,7 +29,7 @@ TEST(CompareDoublesTest, ByBucketsBothWays) {
         double a, b;
         int order;
     } rows[] = {
-        {1.0, WithHighWord(0x3FF00008), 0}, // half a bucket goes down
+        {1.0, WithHighWord(0x3FF00008), 0}, // half a bucket is rounded down
         {1.0, WithHighWord(0x3FF00009), -1},
         {WithHighWord(0x3FF00008, 0), WithHighWord(0x3FF00008, 0xFFFFFFFF), 0},
         {100.0, 100.0005, 0},
@@ -60,8 +60,7 @@ TEST(CompareFloatsTest, RoundsAtSixtyFour) {
     EXPECT_EQ(CompareFloats(&zero, &more), 1);
 }
 
-// Over random bit patterns that are close to each other: antisymmetric, transitive, and never against the numeric
-// order.
+// Random similar bit patterns: antisymmetric, transitive, and never contrary to the numeric order.
 TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
     std::mt19937 random(20260801);
     std::uniform_int_distribution<uint32_t> base(0x00100000, 0x7FE00000), near(0, 40), sign(0, 1);

@@ -1,4 +1,4 @@
-// The calls of the host contract that a merge makes.
+// The functions of the host contract that merging uses.
 
 #include "memory_graphics.h"
 

@@ -1,4 +1,4 @@
-// A set of graphics in memory, as little of a database as a merge over them needs.
+// A set of graphics in memory: the minimal database for merging.
 #pragma once
 
 #include <list>
@@ -7,10 +7,10 @@
 #include "orlo/host/graphic.h"
 
 struct MemoryGraphic : GraphicStruct {
-    bool has = true; // the property, whatever its name
+    bool has = true; // has the property, under any name
     double number = 0;
     std::string text;
-    bool refuses = false, throws = false; // a write
+    bool refuses = false, throws = false; // on write
     int reads = 0;
 };
 

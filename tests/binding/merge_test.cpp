@@ -1,4 +1,4 @@
-// Merge and write over graphics, and the records of pending writes, without a window.
+// Merging and writing over graphics, and the records of pending writes, without windows.
 
 #include "orlo/binding/ddp_record.h"
 #include "orlo/binding/property_merge.h"
@@ -108,7 +108,7 @@ TEST_F(Graphics, BitsThatDifferStay) {
 
 void Nothing(CDataExchange*, int, void*, const char*) {}
 
-// Members 64 KB apart share a key.
+// Members 64 KB apart have the same key.
 TEST(Records, OfOneKeyAreAllKept) {
     const std::vector<char> memory(0x20001);
     CMapWordToOb records;
@@ -118,7 +118,7 @@ TEST(Records, OfOneKeyAreAllKept) {
     lay(0, 1);
     lay(0x10000, 2);
     lay(0x20000, 3);
-    lay(0x10000, 4); // in the place of the second
+    lay(0x10000, 4); // replaces the second one
     const std::unique_ptr<CDDPRecord> chain(TakeRecords(records));
     EXPECT_TRUE(records.IsEmpty());
     std::set<int> ids;

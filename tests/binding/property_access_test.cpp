@@ -1,4 +1,4 @@
-// The property family on a page in a real sheet: merging, markers, the walk and its preview mark.
+// The property functions of a page in a real sheet: merging, markers, iteration and the preview flag.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-// Plays the test with a page of an open sheet over the kit.
+// Runs the test with a page of an open sheet over the kit.
 void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned long filter = kAllGraphics) {
     TestSheet sheet(kit, filter);
     ExchangePage& page = sheet.Add([](CDataExchange*) {});
@@ -31,7 +31,7 @@ TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
         EXPECT_EQ(page.SetPropText("Name", text, 0), 0);
         EXPECT_EQ(page.GetPropText("Nowhere", &text, 0), 0);
         EXPECT_STREQ(text, "\xFF");
-        CString begun("\xFF and more"); // a letter of some code pages
+        CString begun("\xFF and more"); // a valid character in some code pages
         EXPECT_EQ(page.SetPropText("Name", begun, 0), 1);
         EXPECT_EQ(kit[1].Text("Name"), "\xFF and more");
     });
@@ -78,12 +78,12 @@ TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
     });
 }
 
-// The walk clears the mark on what it reaches, and on nothing else; over the preview group it sets it.
+// Iteration clears the flag of the graphics that it reaches, and no others; in the preview group it sets it.
 TEST(Walk, MarksWhatItReaches) {
     GraphicKit kit;
     for (int i = 0; i < 3; ++i)
         kit.Add({{"Kind", i < 2 ? 1 : 2}, {"Last", 1}}).graphic->dwFlags |= kFlagPreview;
-    kit[1].properties["Kind"].number = 2; // differs from the first: the third is not reached
+    kit[1].properties["Kind"].number = 2; // differs from the first, so the third is not reached
     WithPage(kit, [&](ExchangePage& page) {
         for (size_t i = 0; i < kit.Size(); ++i)
             kit[i].graphic->dwFlags |= kFlagPreview;

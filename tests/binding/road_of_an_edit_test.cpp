@@ -1,4 +1,4 @@
-// The road of one edit, for each type of member: from the graphics into a control, by a person's hand, and back.
+// The data flow of one edit, for each type of member: from the graphics to a control, changed by the user, and back.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kName[] = "Property";
 
-// A member in the edit, bound and shown.
+// A member that is bound to an edit control.
 template <class T>
 ExchangePage::Exchange InEdit(T& member) {
     return [&member](CDataExchange* pDX) {
@@ -94,7 +94,7 @@ TYPED_TEST(CheckRoad, AClickWritesAllAndUntouchedNothing) {
         bool clicked;
         int shown, written[2];
     } rows[] = {{{1, 0}, false, BST_INDETERMINATE, {1, 0}},
-                {{1, 0}, true, BST_INDETERMINATE, {0, 0}}, // the third state gives way to unchecked
+                {{1, 0}, true, BST_INDETERMINATE, {0, 0}}, // after the indeterminate state comes unchecked
                 {{0, 0}, true, BST_UNCHECKED, {1, 1}}};
     for (const auto& row : rows) {
         GraphicKit kit;
@@ -135,7 +135,7 @@ TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
     });
     sheet.Run([&](SheetDriver& user) {
         for (int id = kRadio; id < kRadio + 3; ++id)
-            EXPECT_EQ(user.Check(id), 0); // differing: none
+            EXPECT_EQ(user.Check(id), 0); // different values: no button is checked
         user.Click(kRadio + 2);
         EXPECT_EQ(page.GetControlStatus(kRadio), 1);
         EXPECT_EQ(page.GetControlStatus(kRadio + 2), 0);

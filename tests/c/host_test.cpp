@@ -1,4 +1,4 @@
-// Hosts in C, built by this compiler and by another one, run as programs over a real drawing.
+// Hosts in C, built with two compilers and run as programs with a real drawing.
 
 #include "support/host_process.h"
 

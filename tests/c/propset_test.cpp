@@ -1,5 +1,4 @@
-// Property sets and thumbnails through the C interface: real documents, files changed in one step, and arguments that
-// are wrong.
+// Property sets and thumbnails through the C interface: real documents, replacing files, and invalid arguments.
 
 #include <orlo_c.h>
 
@@ -125,7 +124,7 @@ TEST(CPropset, MakesSetsFilesAndNames) {
     ASSERT_EQ(OrloPropsetOpenFile(file.path.c_str(), "Set", &set), kOrloOk) << ErrorText();
     uint32_t sections = 0, id = 0;
     OrloPropsetCountSections(set, &sections);
-    EXPECT_EQ(sections, 2u); // readers look for the user-defined one in the second place
+    EXPECT_EQ(sections, 2u); // readers expect the user-defined section to be second
     EXPECT_EQ(OrloPropsetFindName(set, &kOrloUserDefined, "wood", &id), kOrloOk);
     EXPECT_EQ(id, 2u);
     char name[8];
@@ -226,7 +225,7 @@ TEST(CPropset, LeavesWhatIsDamagedAlone) {
     EXPECT_EQ(OrloPropsetSaveMemory(cut, nullptr, &size), kOrloDamaged);
     OrloPropsetClose(cut);
 
-    ScratchFile file; // whose allocation table goes in a circle
+    ScratchFile file; // with a circular allocation table
     ASSERT_TRUE(::CopyFileW(L"" TEST_DATA "/ole/loop-in-alloc--d3743f.bin", file.path.c_str(), FALSE));
     const std::string before = FileBytes(file.path);
     EXPECT_EQ(OrloPropsetSaveFile(set, file.path.c_str(), nullptr), kOrloDamaged);
@@ -352,7 +351,7 @@ TEST(CPropset, AnswersEveryWrongArgument) {
     EXPECT_EQ(OrloPropsetFindName(set, &kOrloSummary, nullptr, nullptr), bad);
     uint32_t sections = 9;
     EXPECT_EQ(OrloPropsetCountSections(set, &sections), kOrloOk);
-    EXPECT_EQ(sections, 0u); // what was refused has made none
+    EXPECT_EQ(sections, 0u); // the rejected calls have created none
     OrloPropsetClose(set);
 }
 

@@ -1,4 +1,4 @@
-// What a screen reader is told of the controls: names, values, roles and states, and events.
+// Accessibility of the controls: names, values, roles, states and events.
 
 #include "control_dialog.h"
 
@@ -79,7 +79,7 @@ TEST_F(Spoken, TextOfTheItemsStaysAsItIs) {
     EXPECT_EQ(text[8], '\t');
 }
 
-// The events of this thread.
+// Records the events of this thread.
 class Events {
 public:
     Events() {

@@ -1,4 +1,4 @@
-// The check list box: flags, clicks, drawing.
+// The check list box: check states, clicks, drawing.
 
 #include "control_dialog.h"
 
@@ -76,7 +76,7 @@ TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
     EXPECT_EQ(m_list.ItemFromPoint(CPoint(500, 3), 1), -1);
 
     Click(5, 3);
-    m_list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 3)); // the second of two quick ones
+    m_list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 3)); // second click of a double click
     EXPECT_EQ(m_list.IsItemChecked(0), 0);
 
     for (int i = 0; i < 20; ++i)
@@ -88,7 +88,7 @@ TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
 }
 
 TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
-    m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // nothing there
+    m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // no item
     EXPECT_EQ(m_list.checks, 0) << "the current item is -1, which would mean all";
     for (const char* name : {"a", " b", "c"})
         m_list.AddString(name, 0);
@@ -99,7 +99,7 @@ TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
         m_list.SendMessage(WM_CHAR, ' ', key);
     };
     press(1);
-    press(0x40000001); // held down
+    press(0x40000001); // key held down
     EXPECT_EQ(m_list.IsItemChecked(2), 1);
     EXPECT_EQ(m_list.GetCurSel(), 2) << "a space is no first letter";
     press(1);
@@ -120,7 +120,7 @@ TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
 TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
     m_list.AddString("on", 1);
     m_list.AddString("off", 0);
-    m_list.UpdateWindow(); // the picture is loaded now
+    m_list.UpdateWindow(); // loads the bitmap
     CRect on, off;
     ASSERT_EQ(m_list.GetCheckRect(0, on), 0);
     ASSERT_EQ(m_list.GetCheckRect(1, off), 0);

@@ -1,4 +1,4 @@
-// The color control: the order of its list, and its swatches by pixel.
+// The color control: the order of its list, and its swatches pixel by pixel.
 
 #include "control_dialog.h"
 
@@ -14,7 +14,7 @@ class ColorControl : public ControlDialog {
 protected:
     ColorControl() : m_table(DrawingAddTable(m_drawing.Get(), "_Test_")), m_control(Get<CColorControl>(IDC_COLOR)) {}
 
-    // The table keeps the address of the color.
+    // Adds a color; the table stores its address.
     void Add(const std::string& name, DWORD color) {
         m_colors.push_back(std::make_unique<DWORD>(color));
         ASSERT_NE(TableEntryAdd(m_table, name.c_str(), m_colors.back().get()), 0);
@@ -54,7 +54,7 @@ TEST_F(ColorControl, ListsColorsInTheirOrderAndLaterOnesOfAColorFirst) {
     EXPECT_EQ(m_control.GetCurSel(), 2);
 }
 
-// The list that one sorting makes is the list that inserting one after the other makes.
+// Sorting once and inserting one by one result in the same list.
 TEST_F(ColorControl, SortingIsInsertingOneByOne) {
     std::mt19937 random(3);
     for (int i = 0; i < 400; ++i)
@@ -111,7 +111,7 @@ TEST_F(ColorControl, MarkersWithoutValueSelectNothing) {
     EXPECT_EQ(m_control.m_nSelected, RGB(1, 2, 3));
 }
 
-// A class of the host that decides what is listed.
+// A host's class that filters the list.
 class FilteredColors : public CColorControl {
 public:
     FilteredColors() : CColorControl(0) {}
@@ -134,12 +134,12 @@ TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
     EXPECT_EQ(std::string(first), "00090909\tgrey");
 }
 
-// ---- Drawing, by pixel
+// ---- Drawing
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kBlack = RGB(0, 0, 0);
-const RECT kRow = {0, 20, 100, 36};    // of the list
-const RECT kField = {10, 20, 110, 36}; // closed
+const RECT kRow = {0, 20, 100, 36};    // in the list
+const RECT kField = {10, 20, 110, 36}; // the closed field
 
 class Swatch : public ColorControl {
 protected:
@@ -219,7 +219,7 @@ TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
     }
 }
 
-// Where a white box would read as white.
+// A hard-coded white field would be visible.
 TEST_F(Swatch, ADarkSchemeHasDarkFields) {
     const COLORREF yellow = RGB(255, 255, 0);
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});

@@ -1,4 +1,4 @@
-// The order of colors, and HSV there and back.
+// The order of colors, and conversion to HSV and back.
 
 #include "orlo/controls/color_order.h"
 #include "orlo/host/words.h"
@@ -16,7 +16,7 @@ TEST(HsvValues, OfKnownColors) {
     const struct {
         double r, g, b, h, s, v;
     } rows[] = {
-        {1, 0, 0, 1, 1, 1}, // red is at the upper end
+        {1, 0, 0, 1, 1, 1}, // red is at the upper end of the hues
         {1, 1, 0, 1 / 6.0, 1, 1}, {0, 1, 0, 2 / 6.0, 1, 1}, {0, 1, 1, 0.5, 1, 1},
         {0, 0, 1, 4 / 6.0, 1, 1}, {1, 0, 1, 5 / 6.0, 1, 1}, {0.5, 0.5, 0.5, 0, 0, 0.5},
         {0, 0, 0, 0, 0, 0},       {1, 0.5, 0.5, 1, 0.5, 1}, {0.5, 0.25, 0, 0.5 / 6, 1, 0.5},
@@ -63,11 +63,11 @@ TEST(ColorOrder, HoldsBothWays) {
         {0xFF, 0xFF, 0},
         {0, RGB(1, 1, 1), -1},
         {RGB(200, 200, 200), RGB(90, 90, 90), 1}, // grays by value
-        {0xFFFFFF, RGB(2, 2, 0), -1},             // white before any hue
+        {0xFFFFFF, RGB(2, 2, 0), -1},             // white precedes any hue
         {RGB(255, 0, 0), RGB(255, 0, 255), 1},    // red after magenta
         {RGB(200, 0, 0), RGB(255, 128, 128), -1}, // value before saturation
         {RGB(255, 128, 128), RGB(255, 0, 0), -1}, // saturation last
-        {0, kColorByLayer, -1},                   // markers count as black, and by number
+        {0, kColorByLayer, -1},                   // markers sort as black, and by number
         {kColorByLayer, kColorOfPen, 1},
         {kColorByLayer, 0x00808080, -1},
     };
@@ -77,7 +77,7 @@ TEST(ColorOrder, HoldsBothWays) {
     }
 }
 
-// A total order: sorting relies on it, and so does the equality of sorted and inserted lists.
+// Sorting, and the equality of sorted and inserted lists, require a total order.
 TEST(ColorOrder, IsTotal) {
     std::mt19937 random(11);
     std::vector<DWORD> colors = {0, 0xFFFFFF, kColorOfPen, kColorByBlock, kColorByLayer, 0x01FF0000};

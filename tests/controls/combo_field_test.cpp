@@ -1,5 +1,4 @@
-// What all owner-drawn combos show in their closed field, in light and in dark schemes: that they have the focus, that
-// they are disabled.
+// The closed fields of all owner-drawn combo boxes in light and dark schemes: focus and disabled state.
 
 #include "control_dialog.h"
 

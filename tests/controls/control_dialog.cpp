@@ -1,4 +1,4 @@
-// Message map of the counting dialog.
+// Message map of CountingDialog.
 
 #include "control_dialog.h"
 

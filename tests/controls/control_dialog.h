@@ -16,13 +16,13 @@
 #include "support/scheme_colors.h"
 #include "support/test_drawing.h"
 
-// Device pixels of the screen for a size in pixels at 96 dpi.
+// Converts pixels at 96 dpi to device pixels.
 inline int Scaled(int at96) {
     const orlo::WindowDC screen(nullptr);
     return ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96);
 }
 
-// Receives what controls report to the application.
+// Receives the notifications that controls send to the application.
 class HostWindow : public CWnd {
 public:
     struct Notification {
@@ -47,7 +47,7 @@ public:
     }
 
     std::vector<Notification> notifications;
-    TableStruct* answer = nullptr; // what a control that announces itself is filled with; null: nothing is
+    TableStruct* answer = nullptr; // the table that controls are filled with when they notify; null to fill none
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
@@ -59,7 +59,7 @@ protected:
     }
 };
 
-// Counts what the controls ask it to draw and to measure.
+// Counts requests of the controls to draw and measure.
 class CountingDialog : public CDialog {
 public:
     int drawn = 0, measured = 0;
@@ -76,14 +76,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// A picture of what a control draws for one request; what it leaves alone keeps a color of its own.
+// Renders one request of a control; pixels that are not drawn keep a distinct color.
 class DrawnPixels : public Pixels {
 public:
     static constexpr COLORREF kUntouched = RGB(1, 2, 3);
     static constexpr int kNoItem = -1;
 
     using Pixels::Pixels;
-    // times: drawn again over what was drawn before.
+    // times: number of times it is drawn over itself.
     template <class Control>
     void Draw(Control& control, int item, const RECT& rect, UINT action = ODA_DRAWENTIRE, UINT state = 0,
               int times = 1) {
@@ -92,7 +92,7 @@ public:
         for (int i = 0; i < times; ++i)
             control.DrawItem(&request);
     }
-    // Pixels that are neither the background nor untouched.
+    // Counts pixels that were drawn in a color other than the background.
     int Ink(const RECT& rect, int background = COLOR_WINDOW) const {
         const COLORREF back = ::GetSysColor(background);
         return CountWhere(rect, [=](COLORREF c) { return c != back && c != kUntouched; });

@@ -1,4 +1,4 @@
-// How windows of the two classes become controls, announce themselves and go.
+// Creation, notification and destruction of controls by the two window classes.
 
 #include "control_dialog.h"
 
@@ -34,14 +34,14 @@ protected:
 };
 
 TEST_F(Factory, TheIdentifierChoosesTheObject) {
-    // Numbers, not names, in this test: hosts' templates and answers hold them.
+    // Literal numbers, because hosts' templates and message handlers contain them.
     for (const int id : {32004, 32017, 32020, 32026})
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
     for (const int id : {32005, 32006, 32012, 32013, 32014, 32018, 32019, 32023, 32025, 32027})
         EXPECT_EQ(RUNTIME_CLASS(CColorControl), ClassOf(id)) << id;
     EXPECT_EQ(Get<CColorControl>(IDC_COLOR_4).m_bExtraEntries, 1);
     const struct {
-        unsigned kind; // and the identifier of its first control
+        unsigned kind; // and identifier of its first control
         const CRuntimeClass* object;
     } rows[] = {
         {32000, RUNTIME_CLASS(CFontFaceControl)},    {32001, RUNTIME_CLASS(CFontSizeControl)},
@@ -73,7 +73,7 @@ TEST_F(Factory, OtherIdentifiersStayPlainControls) {
     EXPECT_STREQ(text, "two");
     EXPECT_EQ(::SendMessageA(list, LB_GETCURSEL, 0, 0), 1);
 
-    CComboBox object; // a dialog may attach an object of its own
+    CComboBox object; // a dialog may attach its own object
     ASSERT_TRUE(object.SubclassWindow(combo));
     EXPECT_EQ(object.GetCount(), 2);
     object.UnsubclassWindow();
@@ -145,7 +145,7 @@ TEST(ControlLife, TheFrameworkMakesControlsByName) {
     EXPECT_EQ(RUNTIME_CLASS(CComboControl)->m_pfnCreateObject, nullptr) << "a base is not made by name";
 }
 
-// One by its class, one that the exchange takes over and fills from, both on a page of the program's.
+// A page of the program with one control created by its class, and one that the exchange subclasses and fills.
 class LayerAndColor : public CPropertyPage {
 public:
     LayerAndColor() : CPropertyPage(IDD_PAGE, 0) {}

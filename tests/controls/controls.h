@@ -1,13 +1,13 @@
-// Controls of the dialogs of these tests, for the sources and the resource script.
+// Identifiers of dialogs and controls, for sources and resource script.
 #pragma once
 
 #include "orlo/resources/control_ids.h"
 
-// Every identifier that a template may give a control, and two that are nobody's.
+// Every identifier that a template may use for a control, and two unknown ones.
 #define IDD_FACTORY 100
-// One combo and one list of each kind that is drawn.
+// A combo box and a list box of each kind that draws its items.
 #define IDD_DRAWN 101
-// A page with a control by its class, and a combo of the system that a member takes over.
+// A page with a control created by its class, and a system combo box that a member subclasses.
 #define IDD_PAGE 102
 
 #define IDC_PLAIN_COMBO IDC_FONT_STYLE

@@ -1,4 +1,4 @@
-// The controls of fonts: lists of faces, sizes and styles, heights as text, and Return in the edit field.
+// The font controls: lists of faces, sizes and styles, heights as text, and Return in the edit field.
 
 #include "control_dialog.h"
 
@@ -53,7 +53,7 @@ protected:
         std::memcpy(&bits, &size, sizeof bits);
         FillFrom(Units(), m_sizes, bits, selected);
     }
-    // What the control makes of the text; 77 is left alone.
+    // Returns the height that the control reads from the text; 77 if it leaves the value unchanged.
     double HeightOf(const char* text) {
         double value = 77.0;
         m_sizes.ReConvertFontSize(text, value);
@@ -268,7 +268,7 @@ TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
     EXPECT_EQ(m_host.m_hWnd, ::GetFocus());
 
     AfxGetThread()->m_pMainWnd = nullptr;
-    ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1); // nobody to tell
+    ::SendMessageA(edit, WM_KEYUP, VK_RETURN, 1); // without a main window to notify
     AfxGetThread()->m_pMainWnd = &m_host;
 }
 

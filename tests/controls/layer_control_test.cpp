@@ -25,7 +25,7 @@ protected:
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
         m_pixels.Draw(m_control, item, rect, action, state);
     }
-    // In a column of the row.
+    // Counts drawn pixels in a column of the row.
     int InkFrom(int left, int right, int background = COLOR_WINDOW) const {
         return m_pixels.Ink({left, 0, right, 60}, background);
     }
@@ -98,7 +98,7 @@ TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
     EXPECT_EQ(ink(38, 48), 0);
 }
 
-// A scheme of light text on a black window, as high contrast has it.
+// A scheme with light text on a black window, as in high contrast.
 TEST_F(Layers, NothingVanishesOnADarkWindow) {
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
     Fill(IDC_LAYER, m_table, black);

@@ -1,4 +1,4 @@
-// Lists of thousands of entries: each entry is measured once, and only what can be seen is drawn.
+// Lists of thousands of entries: each entry is measured once, and only visible items are drawn.
 
 #include "control_dialog.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 class LongLists : public ControlDialog {
 protected:
-    // Fills the control with the table while it can be seen.
+    // Fills the control with the table while it is visible.
     void Show(int id, const char* table, unsigned selected) {
         m_dialog.ShowWindow(SW_SHOW);
         Pump();
@@ -22,7 +22,7 @@ protected:
         Fill(id, m_drawing.Table(table), selected);
         Pump();
     }
-    // Opens and closes a combo, and compares what has been drawn with the rows that are seen.
+    // Opens and closes a combo box, and compares the number of drawn rows with that of visible rows.
     void ExpectOpenedWithin(CComboControl& combo) {
         m_dialog.drawn = 0;
         combo.SizeDropDown();

@@ -1,4 +1,4 @@
-// What the screen shows of the controls while the selection moves in them.
+// Screen contents of the controls while the selection changes.
 
 #include "control_dialog.h"
 

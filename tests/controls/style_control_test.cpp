@@ -1,5 +1,5 @@
-// The controls of line and of brush styles: what they offer, how a sample is shaped, scaled and drawn. One suite for
-// all four, and one for the combo and the list of each kind.
+// The controls of line styles and brush styles: the offered styles, and shape, scale and drawing of samples. One suite
+// for all four controls, and one for each pair of combo box and list box.
 
 #include "control_dialog.h"
 
@@ -17,7 +17,7 @@
 
 namespace {
 
-// A control with its sample in sight.
+// A control whose sample is accessible.
 template <class Base>
 class Seen : public Base {
 public:
@@ -36,7 +36,7 @@ public:
     }
 };
 
-using Numbers = std::vector<double>; // dashes and gaps, or spacings of hatch lines
+using Numbers = std::vector<double>; // dashes and gaps, or distances of hatch lines
 
 struct Lines {
     static constexpr const char* kTable = kTableLineStyles;
@@ -97,7 +97,7 @@ protected:
         }
         return -1;
     }
-    // The identifier of an item, whose name has to be that text of the host.
+    // Returns the identifier of an item and checks that its name is the host's string.
     unsigned HostItem(int index, unsigned text) {
         char name[kItemTextSize], host[128] = "";
         DrawCoreLoadString(text, host, sizeof host);
@@ -109,7 +109,7 @@ protected:
         m_pixels.Draw(m_control, item, rect, action, state);
     }
     int Ink(const RECT& rect = kAll) { return m_pixels.Ink(rect); }
-    // length: what the sample's width is divided by for the scale; 0: the scale stays 1.
+    // length: divisor of the sample's width in the scale; 0 for scale 1.
     struct ScaleRow {
         const char* name;
         Numbers numbers;
@@ -134,7 +134,7 @@ protected:
     DrawnPixels m_pixels{150, 60};
 };
 
-// ---- All four
+// ---- All four controls
 
 using AllKinds = ::testing::Types<LineCombo, LineList, BrushCombo, BrushList>;
 TYPED_TEST_SUITE(StyleControls, AllKinds);
@@ -148,7 +148,7 @@ TYPED_TEST(StyleControls, AClosedFieldShowsStylesAndWhatTheHostNames) {
     } rows[] = {{kBrushStyleNone, !lines},  {kLineStyleIndeterminate, false}, {0xFFFFFFFF, false},
                 {kLineStyleByLayer, lines}, {kLineStyleByBlock, true},        {style, true}};
     for (const auto& row : rows) {
-        if (!lines && row.value == kLineStyleByBlock) continue; // a number like any other
+        if (!lines && row.value == kLineStyleByBlock) continue; // an identifier like any other
         this->Fill(row.value);
         this->Draw(-1, ODA_DRAWENTIRE, 0, kField);
         EXPECT_EQ(row.ink, this->Ink() > 0) << row.value;
@@ -347,7 +347,7 @@ TYPED_TEST(BrushStyles, TheSampleOfAComboTakesTheShapeOfItsCell) {
     this->Fill();
     const struct {
         RECT rect;
-        double ratio; // of the cell, the item less 2 on all sides
+        double ratio; // of the cell: the item less 2 pixels on each side
     } rows[] = {{{0, 20, 64, 39}, 4.0}, {{0, 20, 24, 44}, 1.0}, {{0, 20, 64, 24}, 60 / 0.01}};
     for (const auto& row : rows) {
         this->Draw(this->IndexOf("Solid like"), ODA_DRAWENTIRE, 0, row.rect);
@@ -359,7 +359,7 @@ TYPED_TEST(BrushStyles, TheSampleOfAComboTakesTheShapeOfItsCell) {
     }
 }
 
-// A solid style fills the cell, a hatch a part of it, and neither paints around it.
+// A solid style fills the cell, a hatch part of it; neither paints outside.
 TYPED_TEST(BrushStyles, SamplesAreFilledWithinTheCell) {
     TypeParam::Add(this->m_table, "Hatch");
     this->Fill();

@@ -1,4 +1,4 @@
-// The style name control: the blocks of one tree.
+// The style name control lists the blocks of one style tree.
 
 #include "control_dialog.h"
 

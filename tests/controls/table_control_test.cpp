@@ -1,4 +1,4 @@
-// What the combo and the list of a host table have in common: filling, selecting, sizes. One suite for both.
+// The common behavior of combo boxes and list boxes of host tables: filling, selecting, sizes. One suite for both.
 
 #include "control_dialog.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A base made concrete: it shows what it holds and draws nothing.
+// A concrete class that shows its items without drawing.
 template <class Base, unsigned kKind>
 class Concrete : public Base {
 public:
@@ -113,12 +113,12 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
     EXPECT_GE(kEntryNameSize, static_cast<int>(this->Name(0).size()));
 }
 
-// Rows, font, size and the announcement, which the host answers at once.
+// Rows, font, size and the notification, which the host handles at once.
 TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
     constexpr bool combo = TypeParam::kIsCombo;
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_host.answer = this->m_table;
-    for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // those of a list are the same
+    for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // identical for a list box
         for (const bool exchanged : {false, true}) {
             const DWORD style = (TypeParam::kStyle & ~DWORD{CBS_OWNERDRAWFIXED}) | drawn;
             const HWND window = ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
@@ -154,7 +154,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
     }
 }
 
-// Letters in a row are one prefix of a name; a selection made in another way, or a pause, begins a new one.
+// Consecutive letters form a prefix; a selection by other means, or a pause, starts a new one.
 TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
     for (const char* name : {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
         TableEntryAdd(this->m_table, name, nullptr);
@@ -172,18 +172,18 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
         {"", "grey", "Grey", 2},
         {"", "cyan", "Cyan", 1},
         {"Walls", "w", "windows", 1},
-        {"", "wWw", "Walls", 3}, // the same letter: the next one, and round
+        {"", "wWw", "Walls", 3}, // the same letter selects the next match, wrapping around
         {"Red", "dark r", "Dark red", 2},
         {"Walls", "x", "Walls", 0},
         {"", "rx", "Red", 1},
-        {"", "rxe", "Red", 1},   // a letter that continues no name is ignored
+        {"", "rxe", "Red", 1},   // a letter that does not continue a name is ignored
         {"", "rd", "Doors", 2},  // unless another name begins with it
-        {"", "xgr", "Green", 1}, // and does not count for what follows
+        {"", "xgr", "Green", 1}, // and does not affect the following letters
         {"", "gre\b\by", "Yellow", 2},
         {"Walls", "wd\b", "windows", 3},
         {"Walls", "\b", "Walls", 0},
         {"Grey", "green", "Green", 1},
-        {"", "8", "8", 1}, // not the keys
+        {"", "8", "8", 1}, // keys are not searched
         {"", "0", "", 0},
         {"Red", " ", "Red", 0},
     };
@@ -218,7 +218,7 @@ TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
     other.DestroyWindow();
 }
 
-// Counts how often its items are read.
+// Counts how often items are read.
 template <class Base>
 class Reading : public Base {
 public:
@@ -252,11 +252,11 @@ TYPED_TEST(TableControl, ReadsItsItemsOnceForManyLetters) {
     control.DestroyWindow();
 }
 
-// ---- What only the combo does
+// ---- Combo boxes only
 
 class DropDown : public TableControl<TableCombo> {
 protected:
-    // Of the open list, without its frame.
+    // Returns the height of the open list without its frame.
     int ListHeight() {
         COMBOBOXINFO info = {};
         info.cbSize = sizeof info;
@@ -284,7 +284,7 @@ TEST_F(DropDown, ShowsWholeRowsUpTo320Pixels) {
         m_control.SizeDropDown();
         EXPECT_EQ(row.rows * static_cast<int>(row.rowHeight) + frame, m_control.m_nDropHeight) << row.items;
         EXPECT_GE(320, m_control.m_nDropHeight);
-        if (row.rowHeight == 16 && row.rows > 0) { // as the window was made
+        if (row.rowHeight == 16 && row.rows > 0) { // as created
             m_control.ShowDropDown(TRUE);
             EXPECT_EQ(row.rows * 16, ListHeight()) << row.items;
             m_control.ShowDropDown(FALSE);
@@ -294,7 +294,7 @@ TEST_F(DropDown, ShowsWholeRowsUpTo320Pixels) {
     }
 }
 
-// In any parent: this one takes no part in it.
+// Independent of the parent, which is not involved.
 TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
     m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
     m_control.ShowWindow(SW_SHOW);
@@ -349,7 +349,7 @@ TEST_F(DropDown, EscapeRestoresTheChoice) {
     EXPECT_EQ(m_control.GetCurSel(), 2);
 }
 
-// The parent of a clicked combo.
+// The parent of a combo box that is clicked.
 class ClickedParent : public CWnd {
 public:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {

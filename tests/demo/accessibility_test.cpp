@@ -1,6 +1,6 @@
-// What a screen reader is told of the sheet's fields and of the viewer's parts: a name and a role of each. Wine gives
-// roles and names of edits as Windows does; to combos and lists, which Windows names by the label before them, it gives
-// none: there the label is looked at.
+// Accessibility of the sheet's fields and the viewer's windows: each has a name and a role. Wine reports roles and the
+// names of edit controls as Windows does, but no names for combo boxes and lists, which Windows names after the label
+// before them; there the label is checked.
 
 #include "demo/viewer.h"
 
@@ -42,7 +42,7 @@ std::string WithoutMnemonic(std::string text) {
     return mark == std::string::npos ? text : text.erase(mark, 1);
 }
 
-// By the text before it: that of a label or a group box.
+// Returns the text of the label before it or of the group box around it.
 std::string LabelOf(HWND field) {
     const HWND label = ::GetWindow(field, GW_HWNDPREV);
     if (!label || !(::SendMessageA(label, WM_GETDLGCODE, 0, 0) & DLGC_STATIC)) return "";

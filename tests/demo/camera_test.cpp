@@ -1,4 +1,4 @@
-// Camera: what a zoom and a move hold still, and that pixels and drawing units are each other's inverse.
+// Camera: fixed points of zooming and panning, and conversion between pixels and drawing units.
 
 #include "demo/viewer/camera.h"
 
@@ -33,7 +33,7 @@ TEST_F(CameraTest, PixelsAndUnitsAreInverse) {
     camera.Zoom(7.3, CPoint(11, 12));
     for (const CPoint pixel : {CPoint(0, 0), CPoint(800, 0), CPoint(400, 599), CPoint(-50, 2000)}) {
         const WorldPoint point = camera.ToWorld(pixel);
-        // Half a pixel further in, so that rounding cannot fall to either side.
+        // Half a pixel further inside, so that rounding is unambiguous.
         const WorldPoint next = camera.ToWorld(CPoint(pixel.x + 1, pixel.y + 1));
         EXPECT_TRUE(camera.ToPixels(WorldPoint{(point.x + next.x) / 2, (point.y + next.y) / 2}) == pixel);
     }

@@ -1,4 +1,4 @@
-// The example host of the README as its user meets it: a program of its own over a real drawing, driven by messages.
+// The README's example host as a program with a real drawing, driven by messages.
 
 #include "support/host_process.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-// The host beside this test, or the one that was built elsewhere and is named by EXAMPLE_HOST.
+// The host beside this test program, or the one named by EXAMPLE_HOST.
 class ExampleHost : public HostProcess {
 protected:
     void StartOver(const std::string& drawing) {

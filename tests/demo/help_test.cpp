@@ -1,4 +1,4 @@
-// Help of a sheet: the guide's page and place that the browser is asked for.
+// Help of a sheet: the page and anchor of the guide that are opened in the browser.
 
 #include <fstream>
 #include <iterator>
@@ -34,7 +34,7 @@ std::string ProgramFolder() {
     return program.substr(0, program.find_last_of('\\') + 1);
 }
 
-// The drawing with a browser of the test's own.
+// The drawing, with a browser program of the test.
 class Help : public Viewer {
 protected:
     Help() : before(GetDefault(kExtension)), log("") {
@@ -51,10 +51,10 @@ protected:
         EXPECT_TRUE(boxes.Boxes().empty()) << boxes.OnlyText();
     }
 
-    // What the browser was asked for by an action; the guide has such a place.
+    // Returns the place that an action opens, and checks that the guide contains it.
     std::string Asked(const std::function<void()>& action) {
         action();
-        std::string asked; // empty as long as the file is being moved, too
+        std::string asked; // also empty while the file is being renamed
         for (int i = 0; i < 500 && (asked = log.Read()).empty(); ++i)
             user.Wait(10);
         ::DeleteFileA(log.Path().c_str());
@@ -67,7 +67,7 @@ protected:
         return topic.substr(0, topic.size() - 1);
     }
 
-    const std::string before; // what was registered
+    const std::string before; // previously registered
     DrawingFile log;
     MessageBoxWatcher boxes;
 };

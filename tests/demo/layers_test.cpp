@@ -1,5 +1,5 @@
-// The dialog of layers: what is hidden or locked can't be selected, what is locked is still seen, and Cancel takes it
-// back.
+// The layers dialog: objects on hidden or locked layers cannot be selected, locked ones stay visible, and Cancel undoes
+// changes.
 
 #include <commctrl.h>
 
@@ -68,7 +68,7 @@ TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
         WPARAM column = 0;
         for (const char* title : {"Name", "On", "Frozen", "Locked", "Graphics"}) {
             const auto text = ::SendMessageA(list, LVM_GETSTRINGWIDTHA, 0, reinterpret_cast<LPARAM>(title));
-            const auto margins = 2 * 9; // of a title
+            const auto margins = 2 * 9; // margins of a title
             EXPECT_GE(::SendMessageA(list, LVM_GETCOLUMNWIDTH, column++, 0), text + margins) << title;
         }
         user.Key(VK_ESCAPE);
@@ -104,7 +104,7 @@ TEST_F(Layers, AreSortedByTheirTitlesAndFoundByPartsOfTheirNames) {
         EXPECT_EQ(Box(dialog, IDC_LAYER_LOCKED), BST_UNCHECKED);
         user.Mnemonic('o');
         EXPECT_EQ(Row(dialog, 0), "A & B - - - 1");
-        user.Mnemonic('i'); // with all of its text chosen
+        user.Mnemonic('i'); // with all its text selected
         user.Type("\b");
         EXPECT_EQ(names(dialog), "0;A & B;");
         user.Key(VK_RETURN);
@@ -112,7 +112,7 @@ TEST_F(Layers, AreSortedByTheirTitlesAndFoundByPartsOfTheirNames) {
     EXPECT_EQ(SelectAll(), 0) << "one layer is locked, one is off";
 }
 
-// The color stands in the cell, as its background.
+// The color is the background of the cell.
 TEST_F(Layers, ShowTheirColors) {
     ::LayerSet(document().Drawing(), 1, RGB(255, 0, 0), 0, 0);
     InDialog([&](HWND dialog) {
@@ -148,7 +148,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
     const std::vector<uint32_t> seen = Seen();
     for (const int state : {IDC_LAYER_ON, IDC_LAYER_FROZEN}) {
         InDialog([&](HWND dialog) {
-            user.Click(::GetDlgItem(dialog, state)); // of the first row
+            user.Click(::GetDlgItem(dialog, state)); // in the first row
             EXPECT_NE(Seen(), seen);
             ::SetFocus(::GetDlgItem(dialog, IDC_LAYER_LIST));
             user.Key(VK_DOWN, UserInput::kShift); // both rows
@@ -170,10 +170,10 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
 TEST_F(Layers, AClickOnAStateChangesItsRowAlone) {
     InDialog([&](HWND dialog) {
         const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
-        RECT cell = {LVIR_BOUNDS, 1, 0, 0}; // that column, of the second row
+        RECT cell = {LVIR_BOUNDS, 1, 0, 0}; // the same column in the second row
         ::SendMessageA(list, LVM_GETSUBITEMRECT, 1, reinterpret_cast<LPARAM>(&cell));
         const CPoint middle = CRect(cell).CenterPoint();
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) // the list waits for both
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) // the list handles both in its own loop
             ::PostMessageA(list, message, 0, MAKELPARAM(middle.x, middle.y));
         user.Wait(0);
         EXPECT_EQ(Row(dialog, 1), "A & B - - - 1");

@@ -1,4 +1,4 @@
-// The main window: opening, and the road of an edit through the library's sheet and back by undo.
+// The main window: opening files, and the data flow of an edit through the library's sheet and undo.
 
 #include <algorithm>
 #include <memory>
@@ -34,7 +34,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
                       user.Key(VK_RETURN);
                   });
     const std::vector<PropertyChange> changes = before.ChangesTo(Properties());
-    ASSERT_EQ(changes.size(), 4u); // red, green, yellow and the text have become one
+    ASSERT_EQ(changes.size(), 4u); // the colors of red, green, yellow and the text have become one
     for (const PropertyChange& change : changes) {
         EXPECT_EQ(change.property, kPropPenColor);
         EXPECT_EQ(changes[0].to, change.to);
@@ -48,7 +48,7 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
     const PropertySnapshot before = Properties();
     const std::vector<uint32_t> seen = Seen();
     user.InDialog(
-        [&] { // a double click: as a mouse sends it
+        [&] { // a double click as sent by a mouse
             user.Click(view(), Pixel(10, 5));
             ::PostMessageA(view(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(Pixel(10, 5).x, Pixel(10, 5).y));
             user.Wait(0);
@@ -70,7 +70,7 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
     EXPECT_EQ(seen, Seen());
 }
 
-// A page writes when it is left: the drawing behind the sheet shows it, and Cancel takes it back.
+// A page is written when it is left; the drawing shows it, and Cancel undoes it.
 TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable().front(), 0.5); });
     user.Key('Z', UserInput::kControl);
@@ -154,7 +154,7 @@ TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
         return rect;
     };
     const int before = windowOf(status).Height();
-    CRect wanted = windowOf(frame->m_hWnd); // of the same size: nothing else would arrange it
+    CRect wanted = windowOf(frame->m_hWnd); // of the same size, because resizing would also rearrange the panes
     ::OffsetRect(wanted, 10, 20);
     ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
     EXPECT_EQ(windowOf(frame->m_hWnd), wanted);
@@ -162,7 +162,7 @@ TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
     EXPECT_EQ(windowOf(view()).bottom, windowOf(status).top);
 
     user.Key('A', UserInput::kControl);
-    wanted.right = wanted.left + 600; // too little for all panes
+    wanted.right = wanted.left + 600; // too narrow for all panes
     ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
     CRect message;
     ::SendMessageA(status, SB_GETRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(message)));
@@ -174,7 +174,7 @@ TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {
     EXPECT_EQ(frame->m_hWnd, ::GetActiveWindow());
 }
 
-// What a submenu offers when it opens, and choosing from it.
+// The items of a submenu, and selecting one.
 TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
     const auto pane = [&](int place) {
         char text[256] = "";
@@ -215,15 +215,15 @@ TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
     user.Key('Z', UserInput::kControl);
     EXPECT_EQ(pane(2), " 3 x 0 mm");
 
-    ::GraphicSetPenColor(document().Selectable()[1], RGB(255, 0, 0)); // that of the first one
+    ::GraphicSetPenColor(document().Selectable()[1], RGB(255, 0, 0)); // the color of the first one
     user.Click(view(), Pixel(10, 5));
     user.Key('I', UserInput::kControl);
     EXPECT_EQ(selection().Count(), 2);
 }
 
-// As the system hands over what was dropped on a window.
+// Builds the handle that the system passes for files dropped on a window.
 HDROP Dropped(const std::vector<std::string>& files) {
-    std::wstring names; // each with its NUL, and one more at the end
+    std::wstring names; // each NUL-terminated, and one more NUL at the end
     for (const std::string& file : files)
         names += Wide(file) + L'\0';
     const size_t bytes = (names.size() + 1) * sizeof(wchar_t);
@@ -253,7 +253,7 @@ TEST_F(Viewer, TheFirstOfDroppedFilesIsOpenedAndTheOthersAreKept) {
     EXPECT_EQ(document().Path(), first);
 }
 
-// The red line becomes as wide as that.
+// Tests that change the width of the red line.
 class Saving : public Viewer {
 protected:
     void Widen(double width) {
@@ -264,7 +264,7 @@ protected:
         frame->GetWindowText(title);
         return title[0] == '*';
     }
-    // What a drawing file holds of the line's width, as if opened anew.
+    // Returns the width of the line in the file.
     double SavedWidth(const std::string& path) {
         const std::unique_ptr<Document> opened = Document::Open(path, [](int) { return true; });
         return *orlo::host::ReadProperty<double>(opened->Selectable()[0], kPropPenWidth) * 25.4;
@@ -293,7 +293,7 @@ TEST_F(Saving, MarkFollowsUndoAndRedo) {
 TEST_F(Saving, SaysWhatOtherProgramsWillNotShow) {
     ASSERT_TRUE(frame->Save(file.Path()));
     EXPECT_EQ(StatusText(), " Saved " + document().Name());
-    Widen(0.5); // which the version of the file has no group for
+    Widen(0.5); // the file's version has no group for it
     Save();
     EXPECT_EQ(StatusText(), " Saved " + document().Name() +
                                 "; PenWidth of 1 entity is stored as extended data, which other programs do not show");
@@ -365,7 +365,7 @@ TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
     EXPECT_EQ(SavedWidth(file.Path()), 0);
 }
 
-// The key is in the queue when the task looks for it.
+// The key is already in the queue when the operation checks for it.
 TEST_F(Saving, EscapeCancelsAndLeavesAllAsItWas) {
     const MessageBoxWatcher boxes;
     const auto pressEscape = [&] { ::PostMessageA(view(), WM_KEYDOWN, VK_ESCAPE, 1); };

@@ -1,4 +1,4 @@
-// The pane of properties beside the drawing: follows the selection, writes by Apply, loses nothing that was typed.
+// The properties pane beside the drawing: follows the selection, writes on Apply, and never loses typed text.
 
 #include "demo/automation/control_text.h"
 #include "demo/automation/sheet_pages.h"
@@ -147,7 +147,7 @@ TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
     EXPECT_EQ(document().UndoSteps(), 2);
 }
 
-// The modal sheet has a step of its own, whatever the pane has begun.
+// The modal sheet has its own undo step, whatever was edited in the pane.
 TEST_F(Pane, StandsBackForTheModalSheet) {
     ShowPen();
     TypeScale("2");
@@ -184,7 +184,7 @@ TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
     EXPECT_TRUE(::IsWindowVisible(sheet()));
 }
 
-// In one way: in the status line for the field that has the focus, and in a tip over the one under the pointer.
+// In the status bar for the focused field, and in a tooltip for the field under the pointer, with the same text.
 TEST_F(Pane, TellsWhatDiffersInAField) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[1], 10 / 25.4); });
     user.Key('A', UserInput::kControl);
@@ -211,7 +211,7 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     };
     user.Key(VK_F6);
     user.Key(VK_TAB, UserInput::kControl);
-    ::SetFocus(control(IDC_PEN_WIDTH)); // its edit
+    ::SetFocus(control(IDC_PEN_WIDTH)); // its edit field
     user.Key(VK_END);
     EXPECT_EQ(message(), " Width: 2 x 0 mm, 1 x 10 mm");
     EXPECT_EQ(tip(control(IDC_COLOR)), "Color: 1 x Red, 1 x Green, 1 x Yellow and 1 more");
@@ -255,7 +255,7 @@ TEST_F(Pane, ItsPreviewKnowsTheColorOfTheLayer) {
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
     EXPECT_GT(green(), 10);
     ::SetFocus(view());
-    user.Key('A', UserInput::kControl); // of two layers
+    user.Key('A', UserInput::kControl); // on two layers
     user.Wait(0);
     ASSERT_TRUE(ClickTab(user, sheet(), 3));
     EXPECT_EQ(green(), 0);

@@ -1,4 +1,4 @@
-// Real drawings through all pages and back, and that the comparison sees what is different.
+// Edits real drawings on all pages and undoes the edits; also tests that the comparison detects differences.
 
 #include "demo/automation/drawing_state.h"
 #include "demo/tour/round_trip.h"
@@ -17,12 +17,12 @@ TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
 
 TEST_F(Viewer, KeysReachTheWindowThatHadTheFocusOrNobody) {
     user.Wait(0);
-    ::SetFocus(nullptr); // as when a window of another program comes up
+    ::SetFocus(nullptr); // as when a window of another program is activated
     user.Key('A', UserInput::kControl);
     EXPECT_EQ(selection().Count(), 4);
     EXPECT_EQ(::GetFocus(), view());
 
-    UserInput homeless(0); // has seen no focus that it could go back to
+    UserInput homeless(0); // had no focus window to restore
     ::SetFocus(nullptr);
     EXPECT_THROW(homeless.Type("x"), std::runtime_error);
 }

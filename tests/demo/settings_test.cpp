@@ -1,4 +1,4 @@
-// What the viewer remembers, and the window's parts that the user sizes.
+// Settings that the viewer remembers, and parts of the window that the user sizes.
 
 #include <commctrl.h>
 
@@ -22,7 +22,7 @@ protected:
         ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0);
         user.Wait(0);
     }
-    // The next session.
+    // Starts the next session.
     void Restart() {
         const CRect place = Place(frame->m_hWnd);
         frame->DestroyWindow();
@@ -47,7 +47,7 @@ protected:
         const CPoint from(2, 50), to(2 + pixels, 50);
         ::SendMessageA(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
         ::SendMessageA(bar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
-        // The bar has followed.
+        // The splitter has followed.
         ::SendMessageA(bar, WM_LBUTTONUP, 0, MAKELPARAM(from.x, from.y));
         user.Wait(0);
     }
@@ -107,7 +107,7 @@ TEST_F(Remembered, ThePaneKeepsASmallestWidthAndScrollsToTheFocus) {
     const CRect before = Place(sheet());
     for (int i = 0; i < 12; ++i) {
         user.Key(VK_TAB);
-        user.Key(VK_SHIFT); // a message after it
+        user.Key(VK_SHIFT); // a message that follows it
         CRect seen = Place(::GetFocus()), client;
         ::GetClientRect(pane(), client);
         ::MapWindowPoints(pane(), nullptr, reinterpret_cast<POINT*>(&client), 2);
@@ -162,7 +162,7 @@ TEST_F(Remembered, TheDecimalMarkIsTheSystemsOrTheUsers) {
     EXPECT_EQ(mark(), ".");
 }
 
-// The keys of the main window hold in the pane, but for those that a field needs.
+// Shortcuts of the main window work in the pane, except for keys that a field needs.
 TEST_F(Remembered, KeysOfTheWindowWorkFromThePane) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
@@ -189,7 +189,7 @@ TEST_F(Remembered, KeysOfTheWindowWorkFromThePane) {
     EXPECT_EQ(document().UndoSteps(), 1);
 }
 
-std::string g_menuLetters; // that have opened the menu
+std::string g_menuLetters; // letters that have opened the menu
 
 LRESULT CALLBACK NoteMenuKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     if (message == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_KEYMENU) {
@@ -203,7 +203,7 @@ TEST_F(Remembered, LettersOfTheMenuOpenItFromThePane) {
     user.Click(view(), Pixel(26, 31)); // the text
     Do(ID_VIEW_PROPERTIES);
     user.Wait(0);
-    ASSERT_TRUE(ClickTab(user, sheet(), 1)); // the Text page, whose groups have letters too
+    ASSERT_TRUE(ClickTab(user, sheet(), 1)); // the Text page, whose groups also have mnemonics
     frame->Pane().TakeFocus();
     const HWND field = ::GetFocus();
     ::SetWindowSubclass(frame->m_hWnd, NoteMenuKey, 1, 0);
@@ -213,7 +213,7 @@ TEST_F(Remembered, LettersOfTheMenuOpenItFromThePane) {
         EXPECT_EQ(::GetFocus(), field) << letter;
     }
     EXPECT_EQ(g_menuLetters, "hefsv");
-    user.Mnemonic('j'); // of the page alone
+    user.Mnemonic('j'); // only on the page
     EXPECT_NE(::GetFocus(), field);
     ::RemoveWindowSubclass(frame->m_hWnd, NoteMenuKey, 1);
 }

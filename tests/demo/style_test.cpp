@@ -1,4 +1,4 @@
-// Styles in the viewer: the wizard that makes one, the sheet over a style with its end codes, and applying.
+// Styles in the viewer: the wizard that creates one, the sheet over a style with its end codes, and applying styles.
 
 #include <cctype>
 #include <set>
@@ -27,7 +27,7 @@ protected:
     std::string current() { return styles().Current() ? styles().Name(styles().Current()) : ""; }
     void SelectOnly(WorldPoint point) { user.Click(view(), Pixel(point.x, point.y)); }
 
-    // By the wizard, with the parts as it suggests them.
+    // With the wizard, and the parts that it suggests.
     void Make(const std::string& name) {
         user.InDialog([&] { user.Key('N', UserInput::kControl); },
                       [&](HWND wizard) {
@@ -67,7 +67,7 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
                       ExpectMnemonicsOfTheirOwn(wizard);
                       ASSERT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_STYLE_PARTS);
                       user.Key(VK_DOWN);
-                      user.Key(VK_SPACE); // not the brush
+                      user.Key(VK_SPACE); // without the brush
                       user.Key(VK_RETURN);
                       ExpectMnemonicsOfTheirOwn(wizard);
                       const std::string summary = WindowText(OnPage(wizard, IDC_STYLE_SUMMARY));
@@ -156,7 +156,7 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u);
 }
 
-// A page writes when it is left, into the style too.
+// A page of a style is also written when it is left.
 TEST_F(Styles, CancelTakesBackWhatPagesHaveWritten) {
     SelectOnly({10, 5});
     Make("Red");
@@ -205,7 +205,7 @@ TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
     Make("Blue");
     InStyleSheets({[&](HWND sheet) {
                        TypeStyle(sheet, "Red");
-                       user.Click(OnPage(sheet, IDC_INFO)); // leaves the combo: the sheet comes again over that style
+                       user.Click(OnPage(sheet, IDC_INFO)); // leaving the combo box reopens the sheet over that style
                    },
                    [&](HWND sheet) {
                        EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");

@@ -1,4 +1,4 @@
-// Undo over changes of graphics, layers and styles: in the order in which they were made.
+// Undo of changes to graphics, layers and styles in chronological order.
 
 #include "demo/automation/control_text.h"
 #include "demo/automation/sheet_pages.h"
@@ -15,12 +15,12 @@ namespace {
 
 class History : public Viewer {
 protected:
-    // Of the red line.
+    // Returns the width of the red line.
     double width() { return *orlo::host::ReadProperty<double>(red, kPropPenWidth); }
     void SetWidth(double inches) {
         document().Change([&] { ::GraphicSetPenWidth(red, inches); });
     }
-    // The state of the first layer, "0", by its dialog.
+    // Changes the state of the first layer, "0", in the dialog.
     void Lock() {
         user.InDialog([&] { user.Key('L', UserInput::kControl); },
                       [&](HWND) {
@@ -72,7 +72,7 @@ TEST_F(History, LayersAreUndoneInTheOrderOfTheChanges) {
     EXPECT_EQ(document().RedoSteps(), 0);
     Undo();
     Undo();
-    // Another change: what was undone cannot be redone, neither here nor in the database.
+    // After another change, undone changes cannot be redone, neither here nor in the database.
     SetWidth(0.5);
     EXPECT_EQ(document().RedoSteps(), 0);
 }

@@ -1,4 +1,4 @@
-// Selecting with mouse and keys, and painting no more than needed without leaving anything behind.
+// Selecting with mouse and keys, and painting the necessary parts only, without artifacts.
 
 #include "demo/viewer.h"
 
@@ -45,7 +45,7 @@ TEST_F(Viewer, ClicksSelectAddAndTakeAway) {
     EXPECT_EQ(selection().Count(), 2);
     user.Click(view(), red, UserInput::kControl);
     EXPECT_EQ(selection().Count(), 1);
-    user.Click(view(), nothing, UserInput::kControl); // misses take nothing away
+    user.Click(view(), nothing, UserInput::kControl); // a miss does not change the selection
     EXPECT_EQ(selection().Count(), 1);
     user.Click(view(), nothing);
     EXPECT_EQ(selection().Count(), 0);
@@ -74,7 +74,7 @@ TEST_F(Viewer, TabWalksRoundBothWays) {
 
 TEST_F(Viewer, TabBringsWhatItSelectsIntoSight) {
     user.Wheel(view(), Pixel(35, 40), 8);
-    user.Key(VK_TAB); // the red line, far away by now
+    user.Key(VK_TAB); // the red line, far outside the view
     EXPECT_TRUE(frame->View().GetCamera().Visible().Contains(WorldBox{9, 4, 11, 6}));
 }
 
@@ -125,7 +125,7 @@ TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
     }
 }
 
-// More than a frame has time for: the picture moves along, and is drawn when nothing moves any more.
+// Too much to draw for each frame: the picture is moved, and redrawn when the movement ends.
 TEST_F(Viewer, ALargeDrawingComesToRestAsDrawn) {
     constexpr int kSide = 400;
     std::string lines = "0\nSECTION\n2\nENTITIES\n";

@@ -1,4 +1,4 @@
-// The demo's main window with a small drawing open, and a user in front of it.
+// The demo's main window with a small drawing, and a user who operates it.
 //
 //   40 units wide and high: a red line, a green line, a yellow line, a text
 //
@@ -16,7 +16,7 @@
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/property_snapshot.h"
 
-// A file of the temporary folder, for as long as the object lives.
+// A file in the temporary folder that exists during the object's lifetime.
 class DrawingFile {
 public:
     explicit DrawingFile(const char* content);
@@ -29,7 +29,7 @@ public:
     std::string Read() const;
 
 private:
-    std::string m_path; // as the system's 8-bit functions want it
+    std::string m_path; // for the system's 8-bit functions
 };
 
 class Viewer : public ::testing::Test {
@@ -44,10 +44,10 @@ protected:
     PropertySnapshot Properties() { return {document().Drawing(), document().Selectable()}; }
 
     void Drag(WorldPoint from, WorldPoint to, unsigned modifiers = UserInput::kNone);
-    // What the view shows once it is at rest, pixel by pixel.
+    // Returns the pixels of the view once it is idle.
     std::vector<uint32_t> Seen();
 
-    CMainFrame* frame; // goes with its window
-    DrawingFile file;  // that is open
+    CMainFrame* frame; // deleted with its window
+    DrawingFile file;  // the open file
     UserInput user{0};
 };

@@ -1,9 +1,9 @@
-# Each example is in its document word for word: cmake -D ROOT=FOLDER -P check_examples.cmake
+# Checks that each example appears verbatim in its document: cmake -D ROOT=FOLDER -P check_examples.cmake
 
 function(check example document)
   file(READ ${ROOT}/${example} code)
   file(READ ${ROOT}/${document} text)
-  # From the first include on, after the line that says what the example is.
+  # From the first include on, without the introductory comment.
   string(FIND "${code}" "#include" begin)
   string(SUBSTRING "${code}" ${begin} -1 code)
   string(FIND "${text}" "${code}" found)

@@ -1,5 +1,5 @@
-# Headers that documents and headers point to exist; host.h has all C headers of its folder, and they are C:
-# cmake -D ROOT=FOLDER -D CC=COMPILER -P check_headers.cmake
+# Checks that headers named by documents and headers exist, that host.h includes all C headers of its folder, and that
+# they are valid C: cmake -D ROOT=FOLDER -D CC=COMPILER -P check_headers.cmake
 
 file(GLOB texts ${ROOT}/*.md ${ROOT}/docs/*.md ${ROOT}/afx/*.md)
 file(GLOB_RECURSE headers ${ROOT}/orlo/*.h)
@@ -30,7 +30,7 @@ foreach(part ${parts})
   endif()
 endforeach()
 
-# Each C header alone, as a C program of a host includes it, and all of them in a UNICODE one.
+# Compiles each C header alone, and all of them in a UNICODE program.
 function(check_c header)
   execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${ARGN}
                           -I ${ROOT} -include ${header} -x c /dev/null

@@ -1,4 +1,4 @@
-// Graphics: making, owning, walking with filters, extents, selections, and what is freed.
+// Graphics: creation, ownership, iteration with filters, extents, selections, and freeing.
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ TEST(Graphics, OwnTheirParts) {
     GraphicDelete(parent, a);
     EXPECT_NE(a->dwFlags & kFlagNoParent, 0u);
     EXPECT_EQ(Members(parent), List{b});
-    GraphicDelete(parent, a); // no longer a part: nothing happens
+    GraphicDelete(parent, a); // no longer a member: no effect
     GraphicDispose(&a);
     drawing.Close();
     EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing is gone";
@@ -246,7 +246,7 @@ TEST(Strings, AreTheHostsTexts) {
     EXPECT_EQ(DrawCoreLoadString(kStringByLayer, text, 0), 0);
 }
 
-// A half circle to the right of its chord, and a segment that grows wide: vertices are copied with what follows them.
+// A half circle to the right of its chord, and a segment of growing width: the data after a vertex is copied with it.
 TEST(Copies, HaveTheArcsAndWidthsOfTheOriginal) {
     const std::filesystem::path path = std::filesystem::temp_directory_path() / "orlo_copies.dxf";
     std::ofstream(path) << "0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n8\n0\n90\n3\n70\n0\n"

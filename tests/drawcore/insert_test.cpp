@@ -1,4 +1,4 @@
-// Insertions: placed, mirrored, nested, inheriting, and blocks that hold themselves or multiply.
+// Insertions: placed, mirrored, nested, inheriting, recursive, and multiplying.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0
 
 class Inserts : public testing::Test {
 protected:
-    // A block of a solid square from (0, 0) to (1, 1) and a second one, half as large, to its right.
+    // Creates a block of a solid square from (0, 0) to (1, 1) and one of half the size to its right.
     uint16_t FlagBlock(const char* name, uint32_t color = kRed) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
         for (GraphicStruct* square : {MakeSquare(0, 0, 1), MakeSquare(1, 0, 0.5)}) {
@@ -36,9 +36,9 @@ protected:
 
 TEST_F(Inserts, ScaleTurnAndMirror) {
     const uint16_t flag = FlagBlock("FLAG");
-    drawing.Add(Insert(flag, 10, 10, 20, 20));             // small square to the right, below
+    drawing.Add(Insert(flag, 10, 10, 20, 20));             // small square at the lower right
     drawing.Add(Insert(flag, 90, 10, -20, 20));            // mirrored: to the left
-    drawing.Add(Insert(flag, 40, 60, 20, 20, 1.57079633)); // turned a quarter to the left: above
+    drawing.Add(Insert(flag, 40, 60, 20, 20, 1.57079633)); // rotated by 90 degrees: above
     Draw();
     EXPECT_EQ(picture.At(20, 25), kRed);
     EXPECT_EQ(picture.At(35, 15), kRed);
@@ -57,7 +57,7 @@ TEST_F(Inserts, GiveTheirColorStyleAndLayerToWhatLeavesThemOpen) {
     const uint16_t green = TableEntryAdd(drawing.Table(kTableLayers), "Green", nullptr);
     LayerSet(drawing, green, kGreen, 0, 0);
     const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock), byLayer = FlagBlock("BYLAYER", kColorByLayer);
-    // A block around the first: its own parts by block, too.
+    // A block that inserts the first one; its own graphics have the color of the block.
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);
     SetWhole(inner, kPropPenColor, kColorByBlock);
@@ -120,14 +120,14 @@ TEST_F(Inserts, FollowTheirBlock) {
     int cookie = 0;
     GraphicStruct* insert = GraphicFirst(outer, &cookie, 1, kAllGraphics);
     VertexStruct* end = GraphicVertexFirst(insert, &cookie, 0, 0xFFFF);
-    end = GraphicVertexNext(insert, &cookie, 0, 0xFFFF); // of the x axis
+    end = GraphicVertexNext(insert, &cookie, 0, 0xFFFF); // end point of the x axis
     VertexSet(end, 1.5, end->y, end->z);
     EXPECT_NEAR(right(), 60, 1e-9) << "half as wide";
     BlockDispose(drawing.Table(kTableBlocks), flag);
     EXPECT_EQ(right(), 0) << "empty";
 }
 
-// As the attributes of a block, which lie in the drawing, and what is in an array.
+// Members that are in drawing coordinates, such as attributes, and the elements of an array.
 TEST_F(Inserts, TakeTheirMembersAlong) {
     for (const double flat : {1.0, 0.0}) {
         const Loose insert(Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20));
@@ -140,7 +140,7 @@ TEST_F(Inserts, TakeTheirMembersAlong) {
             EXPECT_NEAR(BoxOf(insert).top, expected.top, 1e-9);
         };
         expectBox({10, 10, 40, 34});
-        // Twice as large at (100, 0), a quarter turned to the left.
+        // Scaled by 2, at (100, 0), rotated by 90 degrees.
         const double turned[4][3] = {{100, 0, 0}, {100, 40, 0}, {60, 0, 0}, {100, 0, flat}};
         int i = 0;
         for (VertexStruct* corner : orlo::host::Vertices(insert)) {
@@ -161,7 +161,7 @@ TEST_F(Inserts, OfThemselvesEnd) {
     EXPECT_EQ(picture.Covered(), 80) << "the square, once";
 }
 
-// Thirty levels of two each: a thousand million squares.
+// Thirty levels of two insertions each: a billion squares.
 TEST_F(Inserts, ThatMultiplyWithoutEndComeToAnEnd) {
     uint16_t block = FlagBlock("LEVEL");
     for (int level = 0; level < 30; ++level) {

@@ -1,4 +1,4 @@
-// What the tests of the drawing database share.
+// Support for tests of the drawing database.
 
 #include "drawcore/kit.h"
 

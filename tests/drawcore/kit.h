@@ -1,4 +1,4 @@
-// What the tests of the drawing database share: graphics from points, properties by name, pictures of them.
+// Support for tests of the drawing database: graphics from points, properties by name, and pictures.
 #pragma once
 
 #include <string>
@@ -22,10 +22,10 @@ struct P {
     bool drawn = true;
 };
 
-// Graphics that belong to nobody.
+// Create graphics without an owner.
 GraphicStruct* MakeLines(const std::vector<P>& points);
 GraphicStruct* MakeSquare(double left, double bottom, double size);
-// In Tahoma; as wide as its letters if width is 0.
+// In Tahoma, with its natural width if width is 0.
 GraphicStruct* MakeText(const char* text, P at, double height, double angle = 0, double width = 0);
 GraphicStruct* MakeInsert(TableStruct* blocks, uint16_t block, P at, double sx, double sy, double angle = 0);
 
@@ -37,7 +37,7 @@ struct Box {
 };
 Box BoxOf(GraphicStruct* graphic);
 
-// Disposes of a graphic that belongs to nobody.
+// Owns a graphic that has no other owner.
 class Loose {
 public:
     explicit Loose(GraphicStruct* graphic) : m_graphic(graphic) {}
@@ -48,7 +48,8 @@ private:
     orlo::host::OwnedGraphic m_graphic;
 };
 
-// Values by name; false, or a value that nothing else has, if the graphic has no such property, or refuses.
+// Access values by name. If the graphic has no such property or rejects the value, they return false or a value that is
+// not used elsewhere.
 inline bool SetWhole(GraphicStruct* graphic, const char* name, uint32_t value) {
     return orlo::host::WriteProperty(graphic, name, value);
 }
@@ -68,7 +69,7 @@ inline std::string GetText(GraphicStruct* graphic, const char* name) {
     return orlo::host::ReadProperty<std::string>(graphic, name).value_or("(none)");
 }
 
-// A drawing that takes graphics and converts to what the host's functions take.
+// A drawing that owns graphics and converts to the types that host functions take.
 class OwnDrawing : public TestDrawing {
 public:
     operator DrawingStruct*() const { return Get(); }
@@ -76,19 +77,20 @@ public:
     GraphicStruct* Add(GraphicStruct* graphic) const { return GraphicAdd(Root(), graphic); }
 };
 
-// A picture of 0..100 drawing units on each side, one pixel for each: unit x is pixel column x, unit y row 100 - y.
+// A picture of 0..100 drawing units in each direction, one pixel per unit: unit x is pixel column x, unit y is row 100
+// - y.
 class Picture {
 public:
     explicit Picture(DrawingStruct*);
 
-    // The graphic alone, on paper of that color.
+    // Draws only the graphic, on that background.
     void Draw(GraphicStruct* graphic, int preview = 0, COLORREF paper = RGB(255, 255, 255));
     ViewportStruct* Viewport() const { return m_viewport.get(); }
     const Pixels& Bits() const { return m_pixels; }
     HDC DC() const { return m_pixels.DC(); }
-    // The color at a point of the drawing.
+    // Returns the color at a point of the drawing.
     COLORREF At(int x, int y) const { return m_pixels.At(x, 100 - y); }
-    // Pixels that are not white, in the box of drawing units (upper ends included).
+    // Counts pixels other than white in the box of drawing units, including its upper limits.
     int Covered(int left, int bottom, int right, int top) const;
     int Covered() const { return Covered(0, 0, 100, 100); }
 
@@ -97,7 +99,7 @@ private:
     orlo::host::OwnedViewport m_viewport;
 };
 
-// Nothing that was made since the construction is left.
+// Checks that all objects created since its construction have been freed.
 class Balance {
 public:
     Balance() { DrawCoreGetCensus(&m_before); }

@@ -1,4 +1,4 @@
-// Plain numbers as text: what is read of a text, calculations with them, and how they are written.
+// Numbers as text: parsing, calculations, and formatting.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 struct NumberRow {
     const char* text;
     double value;
-    int taken; // characters; 0: none
+    int taken; // number of characters parsed; 0 for none
 };
 
 const NumberRow kNumbers[] = {{"12", 12, 2},    {"  -1.5e3x", -1500, 8},
@@ -29,7 +29,7 @@ const NumberRow kNumbers[] = {{"12", 12, 2},    {"  -1.5e3x", -1500, 8},
                               {"-1e999", 0, 0}, {"--1", 0, 0},
                               {"+-1", 0, 0},    {"1.7976931348623157e308", 1.7976931348623157e308, 22}};
 
-// The longest calculation that comes first; what is left over is the caller's to refuse.
+// The longest valid calculation at the start; the caller checks the rest.
 const NumberRow kCalculations[] = {{"2*3+1/8", 6.125, 7},
                                    {"2*3-1/8", 5.875, 7},
                                    {"90/4", 22.5, 4},
@@ -43,7 +43,7 @@ const NumberRow kCalculations[] = {{"2*3+1/8", 6.125, 7},
                                    {"1e2+1e-2", 100.01, 8},
                                    {"1/2", 0.5, 3},
                                    {"-6 1/2", -6.5, 6},
-                                   {"6-1/2 ", 6.5, 5}, // alone it is one number
+                                   {"6-1/2 ", 6.5, 5}, // without more, a single number
                                    {"6 - 1/2", 5.5, 7},
                                    {"6-1/2+3", 8.5, 7},
                                    {"1 -2", -1, 4},

@@ -1,4 +1,4 @@
-// Painting, looked at pixel by pixel in a picture of one pixel per drawing unit.
+// Painting, checked pixel by pixel at one pixel per drawing unit.
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     EXPECT_EQ(picture.Covered(50, 20, 50, 40), 8);
     EXPECT_EQ(picture.Covered(50, 60, 50, 80), 6);
     EXPECT_EQ(picture.Covered(0, 20, 9, 40), 0) << "cut off flat";
-    // Twice as near: the drawing's width grows, the plotter's pen doesn't.
+    // Zoomed in by 2: the width in drawing units grows, the plotter's pen does not.
     ViewportZoom(picture.Viewport(), {50, 50}, 2);
     Draw();
     EXPECT_EQ(picture.Covered(50, 0, 50, 40), 16);
@@ -92,7 +92,7 @@ TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
         EXPECT_EQ(picture.At(50, y), row.seen) << y;
         y += 10;
     }
-    // The layer's color can be its own: white is seen on black as it is, and black is not.
+    // White is visible on the layer's black background, and black is not.
     ViewportSetBackground(picture.Viewport(), kBlack);
     picture.Draw(drawing.Root(), 0, kBlack);
     EXPECT_EQ(picture.At(50, 50), kWhite);
@@ -147,7 +147,7 @@ protected:
         return LineStyleAdd(drawing.Table(kTableLineStyles), name.c_str(), "", items.begin(),
                             static_cast<int>(items.size()));
     }
-    // Lengths of the runs along row y from x = 10, covered first.
+    // Returns the lengths of runs along row y from x = 10, starting with a covered one.
     std::vector<int> Runs(int y, int right = 90) {
         std::vector<int> runs;
         bool covered = true;
@@ -173,13 +173,13 @@ TEST_F(Dashes, HaveTheLengthsOfThePatternTimesThePenScale) {
     SetReal(line, kPropPenScale, 2);
     SetWhole(line, kPropPenAlignment, 0);
     SetWhole(line, kPropScaleSystem, 0);
-    SetReal(line, kPropPenWidth, 3); // a thick pen ends its dashes where they end
+    SetReal(line, kPropPenWidth, 3); // a thick pen does not extend the dashes
     Draw();
     EXPECT_EQ(Runs(50), (std::vector<int>{8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 1}));
 }
 
 TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
-    GraphicStruct* line = Line(10, 50, 85, 50); // 75 long: six periods of 12 and 3 left
+    GraphicStruct* line = Line(10, 50, 85, 50); // length 75: six periods of 12 and a rest of 3
     SetWhole(line, kPropPenStyle, Style({8, -4}));
     SetWhole(line, kPropPenAlignment, 1);
     SetWhole(line, kPropScaleSystem, 0);
@@ -197,7 +197,7 @@ TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
     GraphicStruct* dots = Line(10, 80, 90, 80);
     SetWhole(dots, kPropPenStyle, Style({0, -5}));
     GraphicStruct* shorter = Line(10, 50, 20, 50);
-    SetWhole(shorter, kPropPenStyle, Style({8, -4})); // fitted: no room for a period
+    SetWhole(shorter, kPropPenStyle, Style({8, -4})); // fitted: too short for a period
     GraphicStruct* fine = Line(10, 20, 90, 20);
     SetWhole(fine, kPropPenStyle, Style({0.5, -0.5}));
     Draw();
@@ -214,7 +214,7 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
     SetWhole(line, kPropPenStyle, 65534);
     SetWhole(Line(10, 20, 90, 20), kPropPenStyle, 0);
     GraphicStruct* lost = Line(10, 80, 90, 80);
-    SetWhole(lost, kPropPenStyle, 999); // no such style: solid
+    SetWhole(lost, kPropPenStyle, 999); // a missing style is solid
     Draw();
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 41, 2);
     EXPECT_EQ(picture.Covered(0, 15, 100, 25), 0);
@@ -230,7 +230,7 @@ TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
 }
 
 TEST_F(Paint, FillsFollowTheDrawMode) {
-    // Two squares that overlap, in one stroke each.
+    // Two overlapping squares, each in one stroke.
     for (const uint32_t mode : {0u, 1u}) {
         const Loose shape(MakeLines({{10, 10},
                                      {60, 10},
@@ -321,14 +321,14 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
     EXPECT_EQ(picture.Covered(20, 20, 80, 80), 0);
 }
 
-// What no device takes: numbers out of all bounds, and none.
+// Coordinates that no device accepts: far out of range, or not numbers.
 TEST_F(Paint, SurvivesWhatIsFarAway) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
         const Loose shape(MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
         SetWhole(shape, kPropBrushStyle, 1);
         SetWhole(shape, kPropBrushColor, kBlue);
         picture.Draw(shape);
-        // Beyond, the digits of a double no longer tell where in the view an edge is.
+        // Beyond that, a double is too coarse to place an edge in the view.
         if (away <= 1e15) {
             EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view lies inside";
         }
@@ -345,7 +345,7 @@ TEST_F(Paint, SurvivesWhatIsFarAway) {
     }
 }
 
-// A unit of the letter's font is more than a pixel here.
+// At this size, a unit of the font is larger than a pixel.
 TEST_F(Paint, ALargeLetterIsMovedByTheSamePixelsAsItsPlace) {
     const auto leftEdge = [&](double x) {
         GraphicStruct* text = drawing.Add(MakeText("l", {x, -300}, 900));
@@ -412,7 +412,7 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
     EXPECT_EQ(picture.Bits().At(50, 0), kBlack);
     EXPECT_EQ(picture.Bits().At(50, 50), kBlack);
     EXPECT_EQ(picture.Covered(), 200);
-    // Without a height, without both, without anything: still a picture, in the middle.
+    // Without height, without extents, or empty: the picture is still drawn, centered.
     const Loose flat(MakeLines({{0, 7}, {4, 7}}));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), 3);
     picture.Draw(flat);
@@ -430,7 +430,7 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
 }
 
 TEST_F(Paint, PreviewsShowPensAtFullSize) {
-    // A sample in the unit square, fitted to 100 pixels; its dashes and widths are still those of paper.
+    // A sample in the unit square, scaled to 100 pixels; dashes and widths have their size on paper.
     const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimeter = inch / 25.4;
     const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);

@@ -1,4 +1,4 @@
-// Picking by point and by window, zooming, panning, highlighting.
+// Selecting by point and by window, zooming, panning, highlighting.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ protected:
     GraphicStruct* At(int x, int y, int tolerance = 3, uint32_t filter = kAllGraphics) {
         return ViewportPick(picture.Viewport(), drawing.Root(), {x, 100 - y}, tolerance, filter);
     }
-    // Within a rectangle of drawing units; the members in the order of drawing.
+    // Returns the members within a rectangle of drawing units in drawing order.
     std::vector<GraphicStruct*> Within(int left, int bottom, int right, int top, int crossing) {
         const Loose selection(SelectionNew());
         const RECT rect = {left, 100 - top, right, 100 - bottom};
@@ -51,7 +51,7 @@ TEST_F(Pick, FitsWhatIsSeen) {
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
     GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
     SetWhole(away, kPropLayer, hidden);
-    const auto width = [&] { // of what fits into the picture, in drawing units
+    const auto width = [&] { // of the visible area, in drawing units
         ViewportFitSeen(picture.Viewport(), drawing.Root());
         double left, right, y;
         ViewportToDrawing(picture.Viewport(), {0, 0}, &left, &y);

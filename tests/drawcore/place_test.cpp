@@ -1,4 +1,4 @@
-// What a drawing's index of places answers, against a look at every graphic: a selection of all of them has no index.
+// The spatial index of a drawing, compared with checking every graphic; a selection of all graphics has no index.
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ protected:
             VertexSet(v, v->x + dx, v->y + dy, v->z);
     }
 
-    // Also of a part of a group, where it has some.
+    // Also changes part of a group, if there is one.
     void Widen(GraphicStruct* graphic) {
         const std::vector<GraphicStruct*> parts = Members(graphic);
         GraphicStruct* widened = parts.empty() ? graphic : parts[0];
@@ -143,7 +143,7 @@ protected:
     OwnDrawing drawing;
     Picture picture{drawing};
     uint16_t block, layer;
-    std::vector<GraphicStruct*> all; // in the order of drawing
+    std::vector<GraphicStruct*> all; // in drawing order
 };
 
 TEST_F(Places, AnswersAreThoseOfAWalkWhateverHasChanged) {
@@ -158,7 +158,7 @@ TEST_F(Places, AnswersAreThoseOfAWalkWhateverHasChanged) {
     }
 }
 
-// More than a few at once: the index is made anew.
+// More changes than are updated one by one: the index is rebuilt.
 TEST_F(Places, AnswersAreThoseOfAWalkAfterAChangeOfAll) {
     ExpectTheSame();
     DrawingBeginUndo(drawing);
@@ -176,7 +176,7 @@ TEST_F(Places, ADrawingInTurnsIsTheSameAsOneInOneGo) {
     for (const double factor : {1.0, 1.5, 0.1}) {
         ViewportZoom(picture.Viewport(), {50, 50}, factor);
         const std::vector<COLORREF> whole = Drawn(drawing.Root());
-        picture.Draw(Loose(MakeLines({}))); // nothing
+        picture.Draw(Loose(MakeLines({}))); // draws nothing
         uint32_t place = 0;
         int turns = 1;
         while (!GraphicDrawOn(drawing.Root(), picture.Viewport(), &place, 0))

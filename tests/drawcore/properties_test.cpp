@@ -1,4 +1,4 @@
-// Property tables: which kind has what, in which forms values go in and come out, what is refused.
+// Property tables: the properties of each kind of graphic, the types of values, and rejected values.
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
     }
 }
 
-// Forms of a value: each whole-number property in each whole-number form, reals as float and double, texts as text.
+// Types of a value: each integer property as each integer type, reals as float and double, texts as text.
 TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
     const std::set<std::string> reals = {kPropBrushAngle, kPropBrushScale, kPropPenScale, kPropPenWidth, kPropTextSize};
     const std::set<std::string> texts = {kPropInfo, kPropTextFont};
@@ -217,7 +217,7 @@ TEST_F(ShapeProperties, TakeBackTheTextThatAVariableHeld) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-// A host program's own property table, with a slot that fails by exception.
+// A host program's own property table, with one function that throws.
 TEST_F(ShapeProperties, CanBeReplacedByTheHostPrograms) {
     static const PropertyTable kTable = {
         nullptr, [](GraphicStruct*, const char* const*, int, int, int32_t* number) { return *number = 5; },

@@ -1,4 +1,5 @@
-// Tables: entries, names, walks, variables, the kinds of table, and tables that are gone while someone holds them.
+// Tables: entries, names, iteration, variables, kinds of tables, and tables that no longer exist but are still referred
+// to.
 
 #include <gtest/gtest.h>
 
@@ -118,7 +119,7 @@ TEST_F(Tables, TakeDataOfTheirKind) {
     EXPECT_EQ(TableEntryGetData(blocks, block), content);
     GraphicStruct* second = MakeSquare(0, 0, 1);
     EXPECT_EQ(TableEntryAdd(blocks, "BOX", second), 0);
-    GraphicDispose(&second); // a refused one stayed ours
+    GraphicDispose(&second); // the caller owns the rejected one
     TableEntryDelete(blocks, block);
     EXPECT_TRUE(balance.IsEven());
 }
@@ -208,7 +209,7 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
     EXPECT_EQ(BrushStyleAddLines(styles, "weave", lines, 2), 0) << "the name is taken";
 }
 
-// Every call on a table or drawing that is gone has an answer.
+// All functions are safe with a table or drawing that no longer exists.
 TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
     TableStruct* styles = drawing.Table(kTableLineStyles);
     TableStruct* units = drawing.Table(kTableUnits);

@@ -1,4 +1,4 @@
-// Texts: size, justification, effects, rotation, and that they fit what their extents say.
+// Texts: size, justification, effects, rotation, and extents.
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ TEST_F(Texts, GrowWithTheirSizeAndStretchToTheirWidth) {
 }
 
 TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
-    // Many narrow letters: rounding each to whole pixels would make some lengths half as long again.
+    // With many narrow letters, rounding each to whole pixels would change some lengths by half.
     const char* const kString = "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH";
     for (const double width : {40.0, 55.0, 70.0, 90.0}) {
         GraphicStruct* text = Text(kString, 5, 50, 12, 0, width);
@@ -65,14 +65,13 @@ TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
     }
 }
 
-// Letters that are read from right to left, and digits among them, cover as much together as each by itself: none lies
-// on another.
+// Right-to-left letters and digits between them cover as many pixels as drawn separately: they do not overlap.
 TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
     GraphicStruct* text = Text("x", 5, 40, 14);
     SetText(text, kPropTextFont, "DejaVu Sans");
     const auto covered = [&](const wchar_t* letters) {
         static_cast<drawcore::TextGraphic*>(drawcore::Graphic::From(text))->state.text = letters;
-        SetReal(text, kPropTextSize, 14); // it measures itself anew
+        SetReal(text, kPropTextSize, 14); // measured again
         Draw();
         return picture.Covered();
     };
@@ -88,7 +87,7 @@ int CALLBACK Found(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) {
     return 77;
 }
 
-// A face that the Text page can select: one that the system has, not a name that something else stands for.
+// A face that the Text page can select: an installed one rather than a substituted name.
 TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
     char current[64] = "";
@@ -134,7 +133,7 @@ TEST_F(Texts, TurnAndKeepInsideTheirExtents) {
 }
 
 TEST_F(Texts, AreMirroredWithTheirInsertion) {
-    // An L: its stem is left, its foot points right; mirrored the other way round.
+    // An L: stem at the left, foot to the right; the opposite if mirrored.
     GraphicStruct* text = Text("L", 0, 0, 1);
     GraphicDelete(drawing.Root(), text);
     const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "L", text);

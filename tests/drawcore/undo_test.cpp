@@ -49,7 +49,7 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
     EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
 }
 
-// Each alone: a property that the log overlooks is not undone.
+// Each property separately: one that the log misses would not be undone.
 TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
     GraphicStruct* const text = drawing.Add(MakeText("text", {0, 0}, 1));
     int count = 0;
@@ -185,7 +185,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
         return DrawingCountForgotten(drawing);
     };
     EXPECT_EQ(step(2) + step(3) + step(4), 0);
-    DrawingSetUndoRoom(drawing, 1); // the last one still stays
+    DrawingSetUndoRoom(drawing, 1); // the last step is always kept
     EXPECT_EQ(step(5), 3);
     EXPECT_EQ(step(6), 1);
     const uint32_t end = DrawingGetUndoMark(drawing);
@@ -209,7 +209,7 @@ size_t HeapBytes() {
     return bytes;
 }
 
-// A million graphics and ten edits have to stay within a few hundred megabytes.
+// A million graphics with ten edits must need at most a few hundred megabytes.
 TEST_F(Undo, KeepsOnlyWhatHasChanged) {
     constexpr int kGraphics = 10000, kSteps = 10;
     for (int i = 0; i < kGraphics; ++i)
@@ -224,7 +224,8 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
     EXPECT_LT((HeapBytes() - before) / kGraphics / kSteps, 30u) << "bytes a graphic and step";
 }
 
-// It is written beside the properties, and goes back with them: graphics that look the same may have different ones.
+// It is set when properties are written, and undone with them; graphics with the same properties may have different
+// ones.
 TEST_F(Undo, TakesBackThePageThatWroteLast) {
     lines[0]->wLastPage = 5;
     lines[1]->wLastPage = 6;
@@ -239,7 +240,7 @@ TEST_F(Undo, TakesBackThePageThatWroteLast) {
     EXPECT_EQ(lines[1]->wLastPage, 6);
 }
 
-// The look is saved first, and the shape is about to change only after the look has changed.
+// The attributes are recorded first; the shape is about to change only after the attributes have changed.
 TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
     DrawingBeginUndo(drawing);
     SetReal(lines[0], kPropPenWidth, 7);

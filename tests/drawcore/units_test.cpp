@@ -1,4 +1,4 @@
-// Lengths and angles as text: what is read, what is refused altogether, and that what is written is read back.
+// Lengths and angles as text: accepted and rejected texts, and that formatted values are parsed back.
 
 #include <gtest/gtest.h>
 
@@ -50,15 +50,15 @@ const LengthRow kLengths[] = {{"2", 2},
                               {"1'6.5\"", 18.5},
                               {"1 m", 1000 / 25.4},
                               {"2*3+1/8", 6.125},
-                              {"6-1/2 + 3", 8.5}, // no units: the hyphen is a minus
-                              // a unit at the end only: of the whole
+                              {"6-1/2 + 3", 8.5}, // without units, the hyphen is a minus
+                              // a single unit at the end applies to the whole text
                               {"100+50 mm", 150 / 25.4},
                               {"(1+2)*3 ft", 108},
                               {"(100 + 50) mm", 150 / 25.4},
                               {"100*2/4mm", 50 / 25.4},
                               {"10.5/4 ft", 31.5},
                               {"-(1+2) ft", -36},
-                              // several units: a number without one is the drawing's
+                              // several units: a number without one is in the drawing's unit
                               {"2 ft + 3", 27},
                               {"3 + 2 ft - 1 in", 26},
                               {"1'-6\" + 2 in", 20},
@@ -78,7 +78,7 @@ const char* const kNoLengths[] = {"", " ", "-", "+", "abc", "2x", "2 apples", "2
                                   "(1", "1)", "()", "1/(2-2)", "1e308*10", "2 in*", "2 in + x", "(1 in", "1 in/0",
                                   "1 in*1 in", "1 in/1 in", "4/(2 in)", "1 in 1/2", "2(3)", "(2)3", "(1 in) in",
                                   "(1+2)x", "2 ft--1", "1e300 mi*1e10", "1e-300*1e-300",
-                                  // one number or a difference? with units around, nobody can tell
+                                  // ambiguous with units: one number or a difference
                                   "2*3-1/8 in", "1' + 6-1/2\"", "2 ft + 6-1/2", "1'-6'", "10'-6'", "2 + 1'-6'"};
 
 class Lengths : public testing::Test {
@@ -126,7 +126,7 @@ TEST_F(Lengths, ShowFourDecimalsOrFourDigits) {
         EXPECT_TRUE(DrawingStdNumericToText(drawing, row.value, buffer, sizeof buffer, 0));
         EXPECT_STREQ(buffer, row.text);
     }
-    for (const char* unit : {"mm", "m"}) { // rounded up, the largest number would be none
+    for (const char* unit : {"mm", "m"}) { // rounded up, the largest number would be infinite
         char text[64];
         double back = 0;
         TableSetStringVar(units, kUnitPenWidth, unit);
@@ -244,7 +244,7 @@ TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
     TableSetStringVar(settings, kVarDecimalMark, ".");
 }
 
-// What is written is read back within the digits that it shows, and then written the same.
+// A formatted value is parsed back within the digits shown, and then formatted the same.
 TEST_F(Lengths, ComeBackFromTheirText) {
     std::mt19937_64 random(7);
     std::uniform_real_distribution<double> exponent(-12, 18), mantissa(-10, 10);
@@ -346,7 +346,7 @@ const AngleRow kAngles[] = {{"45", 45},
                             {"90/4", 22.5},
                             {"1/2", 0.5},
                             {"(30+15)*2", 90},
-                            {"20+30g", 45}, // a unit at the end only: of the whole
+                            {"20+30g", 45}, // a unit at the end applies to the whole text
                             {"12d30' + 5", 17.5},
                             {"45d -3'", 44.95},
                             {"2*12d30'", 25},
@@ -403,8 +403,8 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
                  {1, 4, 12.01, "12d0'36\""},
                  {1, 6, 0.001, "0d0'3.6\""},
                  {1, 4, 59.99999, "60d"},
-                 {1, 0, 349 + 1 / 6.0, "349d10'"}, // four digits of it, not of a smaller one
-                 {1, 4, -1e-14, "0d"},             // what a calculation leaves of nothing
+                 {1, 0, 349 + 1 / 6.0, "349d10'"}, // four digits of this number, not of a smaller one
+                 {1, 4, -1e-14, "0d"},             // a tiny difference left by a calculation
                  {0, 4, 1e-14, "0"},
                  {2, 0, 45, "50"},
                  {3, 4, 180, "3.1416"},
@@ -416,7 +416,7 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
                  {4, 2, 120.5, "N 30d30' W"},
                  {4, 4, 200, "S 70d W"},
                  {4, 4, 300, "S 30d E"},
-                 {4, 4, 90 + 1e-13, "N"}, // within the digits of a bearing
+                 {4, 4, 90 + 1e-13, "N"}, // within the precision of a bearing
                  {4, 0, 269.999, "S"},
                  {4, 4, -0.0001, "E"},
                  {4, 4, 359.99999, "E"},

@@ -33,7 +33,7 @@ expect("a file", done.returncode == 0 and read("red.dxf") != read("plan.dxf"), d
 os.mkfifo(os.path.join(WORK, "pipe"))
 os.symlink("nothing", os.path.join(WORK, "dangling"))
 targets = [("pipe", stat.S_ISFIFO), ("dangling", stat.S_ISLNK), (".", stat.S_ISDIR)]
-if os.geteuid() == 0:  # a device of its own: a fault must not replace one of the system
+if os.geteuid() == 0:  # its own device file, so that a fault does not replace one of the system
     os.mknod(os.path.join(WORK, "null"), 0o666 | stat.S_IFCHR, os.makedev(1, 3))
     targets.append(("null", stat.S_ISCHR))
 for target, kind in targets:

@@ -24,7 +24,7 @@ BLOCKS = os.path.join(FOLDER, "acadsharp-sample-AC1032.dxf")
 WORK = tempfile.mkdtemp()
 OUT = os.path.join(WORK, "saved.dxf")
 OWN = {1000, 1001, 1002, 1040}  # extended data
-# What is set, and the groups that may change: all others stay.
+# The properties that are set, and the groups that may change; all others must stay.
 ROWS = [
     (["PenColor=red"], {62, 420, 430, 1, 3}),
     (["PenColor=By Layer"], {62, 420, 430, 1, 3}),
@@ -44,7 +44,7 @@ ROWS = [
     (["TextFormat=Right"], {1, 3, 10, 20, 30, 11, 21, 31, 71, 72, 73, 74} | OWN),
     (["TextFormat=Center", "TextStyle=All Caps"], {1, 3, 7, 10, 20, 30, 11, 21, 31, 70, 71, 72, 73, 74} | OWN),
 ]
-# What the other reader sees then, of entities that have such a group.
+# The attributes that the other reader sees then, for entities that have the property.
 SEEN = {
     "PenColor=red": [("LINE LWPOLYLINE CIRCLE ARC TEXT INSERT", "color", 1)],
     "PenColor=#123456": [("LINE LWPOLYLINE", "true_color", 0x123456)],
@@ -91,7 +91,7 @@ def audit(path):
         drawing, auditor = recover.readfile(path)
     except Exception:
         return None, None
-    # It takes a SEQEND within a block of an older file for a fault, also in files of its own.
+    # It reports a SEQEND within a block of an older file as a fault, even in its own files.
     faults = [fault for fault in auditor.errors + auditor.fixes if "Deleted SEQEND" not in fault.message]
     return len(faults), drawing
 
@@ -263,7 +263,7 @@ def check_safety(path):
         done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_IGN))
         if done.returncode != 1 or read(copy) != old or len(os.listdir(WORK)) != len({OUT, OUT + "2", copy}):
             failures.append(f"a disk that is full at {size}: {done}")
-    for size in range(0, len(new), len(new) // 40):  # the process ends within the write that would go further
+    for size in range(0, len(new), len(new) // 40):  # the process is ended when it writes more than that
         shutil.copy(path, copy)
         done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_DFL))
         if done.returncode != -signal.SIGXFSZ or read(copy) != old:

@@ -1,4 +1,4 @@
-// Real, made and damaged drawings: each opens or is refused as its manifest says, with the contents it says.
+// Real, synthetic and damaged drawings: each is opened or rejected as its manifest says, with the listed contents.
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

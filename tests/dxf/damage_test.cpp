@@ -1,5 +1,5 @@
-// Cut off and altered files: each is read or refused with a message, and what was read can be walked. Under
-// the sanitizers this also shows that no byte outside is touched.
+// Truncated and altered files: each is read or rejected with a message, and the result can be iterated. Under the
+// sanitizers this also detects accesses out of bounds.
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-// Small drawings that have between them every kind of record.
+// Small drawings that together contain every kind of record.
 const char* const kFiles[] = {"made-inserts-R2000.dxf", "made-gbk-R2004.dxf",       "kabeja-hatch_1.dxf",
                               "made-escapes-R12.dxf",   "trimesh-ae.r12a.dxf",      "dxf-blocks2.dxf",
                               "vuer-linetypes.dxf",     "pyleecan-rotor-sector.dxf"};
@@ -21,7 +21,7 @@ std::string Load(const char* file) {
     return ReadBytes(kDrawings + file);
 }
 
-// True if it was read.
+// Returns true if the file could be read.
 bool TryRead(const std::string& bytes) {
     try {
         const dxf::Document document = dxf::Read(bytes, {});

@@ -1,4 +1,4 @@
-// Drawings of one entity each, with the box that they fill: one row for each way in which an entity can lie.
+// Drawings of one entity each with its extents: one row for each way to place an entity.
 #pragma once
 
 #include <cmath>
@@ -9,7 +9,7 @@ struct ExtentsRow {
     double x1, y1, x2, y2;
 };
 
-// L: a line from (0,0) to (2,1). C: a circle of radius 1 at (0,0). N: L turned by 90 degrees, at (10,0).
+// L: a line from (0,0) to (2,1). C: a circle of radius 1 at (0,0). N: L rotated by 90 degrees, at (10,0).
 inline const char kExtentsBlocks[] = "0|BLOCK|2|L|10|0|20|0|0|LINE|11|2|21|1|0|ENDBLK|"
                                      "0|BLOCK|2|C|0|CIRCLE|40|1|0|ENDBLK|"
                                      "0|BLOCK|2|N|10|10|20|0|0|INSERT|2|L|10|10|50|90|0|ENDBLK|"

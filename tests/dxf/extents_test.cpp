@@ -1,4 +1,4 @@
-// The box of a drawing.
+// The extents of a drawing.
 
 #include "drawcore/src/dxf/extents.h"
 

@@ -1,4 +1,4 @@
-// Drawings opened into the database: what its tables, properties and boxes say of them.
+// Drawings opened into the database: tables, properties and extents.
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ OwnedDrawing Open(const std::wstring& path, Heard& heard) {
     return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
 }
 
-// A file that exists as long as the test needs it.
+// A file that exists during the test.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& bytes) {
@@ -83,7 +83,7 @@ std::vector<GraphicStruct*> Members(const OwnedDrawing& drawing) {
     return Members(DrawingGetRoot(drawing.get()));
 }
 
-// NaN if the graphic has no such property.
+// Returns NaN if the graphic has no such property.
 double Number(GraphicStruct* graphic, const char* name) {
     if (const auto value = orlo::host::ReadProperty<double>(graphic, name)) return *value;
     const auto whole = orlo::host::ReadProperty<uint32_t>(graphic, name);
@@ -175,7 +175,7 @@ TEST(Import, TablesAreThoseOfTheFile) {
     EXPECT_EQ(LayerGetColor(d, walls), RGB(255, 0, 0));
     EXPECT_EQ(LayerGetFlags(d, walls), kLayerOff | kLayerFrozen | kLayerLocked);
     EXPECT_EQ(NameOf(d, kTableLineStyles, LayerGetLineStyle(d, walls)), "Dashed");
-    const uint16_t axes = TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not of the code page
+    const uint16_t axes = TableEntryGetIDFirst(layers, nullptr, "\\U+041E\\U+0441\\U+0438"); // not in the code page
     EXPECT_EQ(LayerGetColor(d, axes), RGB(0, 0, 255));
     EXPECT_NE(TableEntryGetIDFirst(layers, nullptr, "mentioned"), 0);
     TableStruct* const styles = DrawingGetTable(d, kTableLineStyles);
@@ -226,7 +226,7 @@ TEST(Import, GraphicsLookAsInTheFile) {
         {"0|LINE", kPropPenWidth, 0},
         {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropPenWidth, 1.5},
         {"0|LWPOLYLINE|43|1.5|10|0|20|0|10|1|20|0", kPropScaleSystem, 0}, // in the drawing
-        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", kPropPenWidth, 0}, // its segments have widths of their own
+        {"0|LWPOLYLINE|10|0|20|0|40|1|41|2|10|1|20|0", kPropPenWidth, 0}, // its segments have their own widths
         {"0|LWPOLYLINE|210|1|220|1|230|1|43|1.5|10|0|20|0|42|1|10|1|20|0", kPropPenWidth, 1.5}, // tilted
         {"0|LWPOLYLINE|70|128|10|0|20|0|10|1|20|0", kPropPenAlignment, 0},
         {"0|SOLID|10|0|20|0|11|1|21|0|12|0|22|1", kPropBrushStyle, 1},
@@ -257,13 +257,13 @@ TEST(Import, EverythingLiesInItsPlace) {
         const OwnedDrawing drawing = OpenText(Drawing(row.entities, kExtentsBlocks));
         const drawcore::Extents& box = BoxOf(drawing);
         if (std::string(row.entities).find("ATTRIB") != std::string::npos)
-            continue;                  // a text without letters has no box
-        constexpr double kNear = 2e-3; // arcs that no bulge can show are short lines
+            continue;                  // a text without letters has no extents
+        constexpr double kNear = 2e-3; // arcs that a bulge cannot represent consist of short lines
         EXPECT_LE(box.low.x, row.x1 + kNear) << row.name;
         EXPECT_LE(box.low.y, row.y1 + kNear) << row.name;
         EXPECT_GE(box.high.x, row.x2 - kNear) << row.name;
         EXPECT_GE(box.high.y, row.y2 - kNear) << row.name;
-        if (std::string(row.entities).find("INSERT") != std::string::npos) continue; // its box may be wider
+        if (std::string(row.entities).find("INSERT") != std::string::npos) continue; // its extents may be larger
         EXPECT_GE(box.low.x, row.x1 - kNear) << row.name;
         EXPECT_GE(box.low.y, row.y1 - kNear) << row.name;
         EXPECT_LE(box.high.x, row.x2 + kNear) << row.name;
@@ -274,7 +274,7 @@ TEST(Import, EverythingLiesInItsPlace) {
 TEST(Import, ParagraphsAreAlignedInTheBoxOfTheirText) {
     struct Row {
         const char* codes;
-        double fromLeft, fromRight; // shares of the room that the longest row leaves
+        double fromLeft, fromRight; // shares of the space beside the longest row
     };
     for (const Row& row : {Row{"", 0, 1}, {"\\pxqc;", 0.5, 0.5}, {"\\pqr;", 1, 0}, {"\\pqj;", 0, 1}}) {
         const OwnedDrawing drawing =
@@ -286,7 +286,7 @@ TEST(Import, ParagraphsAreAlignedInTheBoxOfTheirText) {
     }
 }
 
-// Its plane is tilted by 60 degrees: a half circle of radius 5 whose width grows from 0 to 2, and a straight piece
+// In a plane tilted by 60 degrees: a half circle of radius 5 whose width grows from 0 to 2, and a straight segment
 // back.
 TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
     const OwnedDrawing drawing = OpenText(
@@ -320,8 +320,8 @@ TEST(Import, HatchesOfOnePatternShareItsStyle) {
     const std::string hatch = "0|HATCH|2|Brick|91|1|92|2|10|0|20|0|10|9|20|0|10|0|20|9|75|0|";
     const OwnedDrawing drawing = OpenText(
         Drawing(hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|1|79|0|" +      // spacing cos 45 degrees
-                hatch + "52|90|41|10|78|1|53|135|43|7|44|7|45|-10|46|0|79|0|" + // the same, larger, turned and moved
-                hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // another one of that name
+                hatch + "52|90|41|10|78|1|53|135|43|7|44|7|45|-10|46|0|79|0|" + // the same, scaled, rotated and moved
+                hatch + "52|0|41|1|78|1|53|45|43|0|44|0|45|0|46|2|79|0"));      // a different one with the same name
     const auto members = Members(drawing);
     ASSERT_EQ(members.size(), 3u);
     EXPECT_EQ(NameOf(drawing.get(), kTableBrushStyles, Number(members[0], kPropBrushStyle)), "Brick");
@@ -341,7 +341,7 @@ TEST(Import, AttributesBelongToTheirInsertion) {
     EXPECT_EQ(GraphicGetKind(members[0]), uint32_t{kKindInsert});
     ASSERT_EQ(Members(members[0]).size(), 1u);
     EXPECT_EQ(GraphicGetKind(members[1]), uint32_t{kKindText});
-    EXPECT_EQ(GraphicGetKind(members[2]), uint32_t{kKindText}); // its tag
+    EXPECT_EQ(GraphicGetKind(members[2]), uint32_t{kKindText}); // the tag of the attribute
 }
 
 TEST(Import, SaysWhatItLeavesOut) {

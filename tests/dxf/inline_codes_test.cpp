@@ -28,7 +28,7 @@ TEST(InlineCodes, GivePlainText) {
         {"\\fArial", ""}, // no semicolon
         {"\\", "\\"},
         {"100%", "100%"},
-        {"\\U+005CP", "\\P"}, // an escape makes no code
+        {"\\U+005CP", "\\P"}, // an escaped character does not start a code
     };
     for (const Row& row : rows)
         EXPECT_EQ(dxf::ReadInlineCodes(row.stored, 1).Plain(), row.plain) << row.stored;

@@ -1,4 +1,4 @@
-// The list that dxfprops prints.
+// The output of dxfprops list.
 
 #include "tools/dxfprops/list_drawings.h"
 

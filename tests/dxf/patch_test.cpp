@@ -1,4 +1,4 @@
-// Changes of single records: which groups differ afterwards, and where.
+// Changes to single records: the groups that differ afterwards, and their positions.
 
 #include <gtest/gtest.h>
 
@@ -119,7 +119,7 @@ TEST_P(Patch, ChangesTheseGroupsAlone) {
 
 INSTANTIATE_TEST_SUITE_P(Records, Patch, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
-// What another program has changed since counts; what it has left alone is exact.
+// Groups that another program has changed since take precedence; otherwise the stored value is exact.
 TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
     const std::string own = "1001|ORLO|1000|PenWidth|1002|{|1040|0.0101|1040|0.0|1040|25.0|1002|}";
     for (const int weight : {25, 50}) {
@@ -129,7 +129,7 @@ TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
     }
 }
 
-// The first byte of a file is a place too.
+// Insertion at the first byte of a file.
 TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
     const std::string text = Section("ENTITIES", "0|LINE|8|0|10|0|20|0|11|1|21|0") + Tags("0|EOF");
     const dxf::Document document = dxf::Read(text, {});
@@ -143,7 +143,7 @@ TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
 
 TEST(Patches, RefusesWhatItCannotWriteBack) {
     std::string text = Drawing2004("0|TEXT|8|0|10|0|20|0|40|1|1|\xE4%%u");
-    text.replace(text.find("AC1018"), 6, "AC1021"); // whose texts are UTF-8
+    text.replace(text.find("AC1018"), 6, "AC1021"); // with UTF-8 texts
     const dxf::Document document = dxf::Read(text, {});
     dxf::DrawingPatch patch(text, document.Tables());
     Look look = patch.LookAt(document.entities.at(0).offset);

@@ -1,4 +1,4 @@
-// What becomes of single records and of structures, and what is refused with which message.
+// Reading of single records and structures, and the messages of rejected files.
 
 #include "drawcore/src/dxf/reader.h"
 
@@ -270,7 +270,7 @@ TEST(Hatches, HaveLoopsAndPatternLines) {
 TEST(Splines, WhatDoesNotFitIsLeftOut) {
     const Document document =
         ReadEntities("0|SPLINE|71|3|40|0|40|1|10|1|20|1|0|SPLINE|71|2000000000|10|1|11|1|21|1|11|2|21|2");
-    ASSERT_EQ(document.entities.size(), 1u); // the second one by its fit points
+    ASSERT_EQ(document.entities.size(), 1u); // the second one by fit points
     EXPECT_EQ(ShapeOf<Apart<Spline>>(document)->fitPoints.size(), 2u);
     EXPECT_EQ(document.findings.size(), 1u);
 }

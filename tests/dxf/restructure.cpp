@@ -1,9 +1,9 @@
-// Takes every second entity out of a drawing and adds one of each kind, to model space and to a new block, which it
-// inserts: for check_saved.py, which lets another reader look at the result.
+// Removes every second entity from a drawing and adds one of each kind to model space and to a new block, which it
+// inserts. check_saved.py examines the result with another reader.
 //
 // restructure IN OUT [remove]
 //
-// With a third argument it removes only.
+// With a third argument it only removes.
 
 #include <filesystem>
 #include <fstream>
@@ -35,7 +35,7 @@ dxf::Polyline Bent(dxf::Polyline::Kind kind) {
     return polyline;
 }
 
-// One of each kind that the version has.
+// Returns one entity of each kind that the version supports.
 std::vector<Entity> OneOfEach(const std::string& version) {
     std::vector<Entity> all;
     all.push_back(Of(dxf::Line{{0, 0, 0}, {1, 2, 3}}));

@@ -1,5 +1,5 @@
-// Saving exactly: what was not edited stays as the file has it, what was edited is read back bit by bit, and what the
-// file cannot hold is refused by its name.
+// Exact saving: unedited values stay as in the file, edited values are read back bit for bit, and values that the file
+// cannot represent are rejected by name.
 
 #include "tests/dxf/save_fixture.h"
 
@@ -123,7 +123,7 @@ TEST_F(SaveExact, KeepsAWidthByLayerWhateverTheLayer) {
     EXPECT_EQ(ReadProperty<uint32_t>(First(Open(path)), kPropScaleSystem), uint32_t{kScaleWorld});
 }
 
-// A file of a version with UTF-8 whose texts are in a code page all the same.
+// A file of a UTF-8 version whose texts are in a code page anyway.
 TEST_F(SaveExact, WritesNamesInTheBytesOfTheirTable) {
     const std::string text =
         DrawingOf("AC1024", LayerTable(LayerNamed("0") + LayerNamed("W\xC4NDE")), "0|LINE|8|0|10|0|20|0|11|1|21|1");
@@ -148,7 +148,7 @@ TEST_F(SaveExact, TakesAnglesModuloATurn) {
                                 "10\n1\n20\n2\n30\n0\n40", "10\n5.0\n20\n2\n30\n0\n40"));
 }
 
-// A part of the text keeps its color if the user chose none.
+// A part of a text keeps its own color unless the user has set one.
 TEST_F(SaveExact, GivesAllOfATextTheColorThatWasChosen) {
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")), "0|MTEXT|8|0|10|0|20|0|40|2|1|{\\C1;most of it}{\\C3;x}");
@@ -223,7 +223,7 @@ TEST_F(SaveExact, SavesTheRestAndListsWhatItLeft) {
     const OwnedDrawing drawing = OpenText(text);
     GraphicStruct* root = DrawingGetRoot(drawing.get());
     GraphicStruct* polyline = First(drawing);
-    VertexSet(*Vertices(polyline).begin(), 0, 0, 3); // it leaves its plane
+    VertexSet(*Vertices(polyline).begin(), 0, 0, 3); // leaves its plane
     GraphicStruct* group = GraphicAdd(root, GraphicNewEx(kGraphicVertices, 0, 0));
     GraphicStruct* line = nullptr;
     for (GraphicStruct* g : Members(root))
@@ -257,7 +257,7 @@ TEST_F(SaveExact, SaysWhatOtherProgramsWillNotShow) {
                                   "0 Info of 1 entity is stored as extended data, which other programs do not show"});
 }
 
-// A reference that cannot be taken out keeps the entity.
+// An entity with a reference that cannot be removed is kept.
 TEST_F(SaveExact, NamesWhatRefersToAnEntityThatWasRemoved) {
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")),
@@ -277,7 +277,7 @@ TEST_F(SaveExact, NamesWhatRefersToAnEntityThatWasRemoved) {
     }
 }
 
-// Random edits by a rule, of a fixed seed.
+// Random edits with a fixed seed.
 class RandomEdits {
 public:
     RandomEdits(DrawingStruct* drawing, std::mt19937& random) : drawing_(drawing), random_(random) {}
@@ -306,7 +306,7 @@ public:
         }
     }
     std::vector<const GraphicStruct*> touched;
-    bool hasRemoved = false; // what referred to it changes too
+    bool hasRemoved = false; // objects that refer to it change too
 
 private:
     size_t Below(size_t limit) { return std::uniform_int_distribution<size_t>(0, limit - 1)(random_); }
@@ -333,7 +333,7 @@ private:
             if (isInsert || Below(2)) VertexSet(v, v->x + x, v->y - y, v->z);
     }
 
-    // Areas without an outline become hatches, whose arcs are written by angles.
+    // Areas without outlines become hatches, whose arcs are written as angles.
     void Copy(GraphicStruct* graphic) {
         if (ReadProperty<uint32_t>(graphic, kPropPenStyle) == uint32_t{kLineStyleNone}) return;
         GraphicAdd(DrawingGetRoot(drawing_), GraphicCopyEx(graphic, 0, 0, 7));
@@ -373,7 +373,7 @@ std::string ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, const Proper
     char name[300] = "";
     if (table && value < 0xFFF0)
         TableEntryGetName(DrawingGetTable(drawing, table), static_cast<uint16_t>(value), name, sizeof name);
-    const bool isNumber = property.meaning != kMeansBrushStyle && !table; // its numbers differ from drawing to drawing
+    const bool isNumber = property.meaning != kMeansBrushStyle && !table; // its numbers differ between drawings
     return table && value < 0xFFF0 ? name : isNumber ? std::to_string(value) : value == 0 ? "none" : "style";
 }
 
@@ -392,7 +392,7 @@ void ExpectSame(DrawingStruct* a, GraphicStruct* one, DrawingStruct* b, GraphicS
         ExpectSame(a, parts[i], b, others[i]);
 }
 
-// Records of graphics that nobody has touched, by their handles.
+// Returns the records of graphics that were not changed, by handle.
 std::map<std::string, std::string> Records(const std::string& bytes) {
     std::map<std::string, std::string> records;
     const std::string_view text = dxf::TextOf(bytes);

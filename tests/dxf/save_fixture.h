@@ -1,4 +1,4 @@
-// A drawing that is opened, changed, and saved into a file of its own.
+// Opens a drawing, changes it, and saves it to another file.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -75,7 +75,8 @@ inline void ForGraphics(GraphicStruct* set, const std::function<void(GraphicStru
     }
 }
 
-// Turned by 30 degrees and moved; before that stretched, mirrored, tilted into space, slanted.
+// Transformations followed by a rotation of 30 degrees and a translation: stretched, mirrored, tilted into space,
+// sheared.
 enum class Way { stretched, mirrored, tilted, slanted };
 inline void PutVertices(GraphicStruct* insert, Way way) {
     const double c = std::cos(0.5235987755982988), s = 0.5;

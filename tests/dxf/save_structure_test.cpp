@@ -1,4 +1,4 @@
-// Saving what was removed, added and moved: graphics, and blocks with theirs.
+// Saving of removed, added and moved graphics, and of blocks with their contents.
 
 #include "tests/dxf/save_fixture.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 class SaveStructure : public SavedDrawing {};
 
-// The types and boxes of all graphics, in their order.
+// Returns types and extents of all graphics in order.
 std::vector<double> BoxesOf(GraphicStruct* set) {
     std::vector<double> boxes;
     for (GraphicStruct* g : Members(set)) {
@@ -36,7 +36,7 @@ void Remove(GraphicStruct* set, GraphicStruct* member) {
 TEST_F(SaveStructure, TakesOutWhatWasRemoved) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
-        for (const int kept : {2, 1}) { // first every other one, then all
+        for (const int kept : {2, 1}) { // keeps every other graphic, then none
             std::vector<GraphicStruct*> removed;
             int index = 0;
             for (GraphicStruct* g : Members(root))
@@ -63,7 +63,7 @@ TEST_F(SaveStructure, KeepsTheOrderOfWhatIsTakenOutAndPutInAgain) {
     ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
 }
 
-// What can't be saved is refused as a whole; the file then holds the rest.
+// If a graphic cannot be saved, saving fails completely; without those graphics the file contains the rest.
 TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
     std::map<uint32_t, int> saved;
     int refused = 0;
@@ -101,7 +101,7 @@ TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
     EXPECT_GE(saved[kKindText], 46);
     EXPECT_GE(saved[kKindInsert], 27);
     EXPECT_LE(refused,
-              3); // one in rows, one of strokes without a pen, one of an insertion that shows nothing
+              3); // one has rows, one is drawn without a pen, one is an insertion that shows nothing
 }
 
 TEST_F(SaveStructure, MovesVertices) {
@@ -130,10 +130,10 @@ TEST_F(SaveStructure, MovesVertices) {
         ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
     });
     EXPECT_GE(moved, 272);
-    EXPECT_LE(refused, 16); // hatches, meshes, curved polylines that are tilted
+    EXPECT_LE(refused, 16); // hatches, meshes, tilted polylines with arcs
 }
 
-// A style, as the viewer makes one, and an insertion of it.
+// Adds a block for a style, as the viewer does, and an insertion of it.
 uint16_t AddBlock(DrawingStruct* drawing, const char* name) {
     GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* shape = GraphicAdd(content, GraphicNewEx(kGraphicVertices, 0, 1));
@@ -175,7 +175,7 @@ TEST_F(SaveStructure, HoldsBlocksThatTheProgramHasMade) {
         EXPECT_EQ(ReadProperty<uint32_t>(parts[0], kPropPenColor), 0x563412u);
         EXPECT_EQ(ReadProperty<std::string>(parts[1], kPropTextFont), "Verdana");
 
-        // A second look at a part that is in the file by now, and then the block goes with what shows it.
+        // A second change to a graphic that is in the file by now; then the block is removed with what shows it.
         WriteProperty(*Members(BlockGetGraphic(BlocksFromDrawing(drawing.get()), id)).begin(), kPropInfo,
                       std::string("x"));
         ASSERT_EQ(Write(drawing), kSaveDone) << message;

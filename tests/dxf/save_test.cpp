@@ -1,4 +1,4 @@
-// Saving drawings of the database: what is read back, and what a call that fails leaves behind.
+// Saving drawings of the database: the values read back, and the state after a failed call.
 
 #include "tests/dxf/save_fixture.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 class Save : public SavedDrawing {};
 
-// A value that no graphic has by itself. Entries of tables are those that every drawing has under the same number.
+// Returns a value that no graphic has initially. Table entries are those with the same number in every drawing.
 std::string NewText(const PropertyInfo& property) {
     return property.name == std::string(kPropTextFont) ? "Verdana" : "a^b\r\n\xE4\\";
 }
@@ -16,7 +16,7 @@ double NewReal(const PropertyInfo& property) {
 uint32_t NewWhole(GraphicStruct* graphic, const PropertyInfo& property) {
     const std::string name = property.name;
     if (property.meaning == kMeansColor) return 0x563412;
-    if (property.meaning == kMeansBlock) // the first one, if there is one
+    if (property.meaning == kMeansBlock) // the first one, if any
         return TableEntryFirst(BlocksFromDrawing(GraphicGetDrawing(graphic)), nullptr);
     if (name == kPropTextStyle) return 0x1143;
     if (name == kPropBrushStyle) return 2; // Horizontal
@@ -25,7 +25,7 @@ uint32_t NewWhole(GraphicStruct* graphic, const PropertyInfo& property) {
     return 0;
 }
 
-// Whether the graphic had another value before.
+// Returns whether the graphic previously had another value.
 bool Set(GraphicStruct* graphic, const PropertyInfo& property) {
     const auto put = [&](const auto& value) {
         const auto was = ReadProperty<std::decay_t<decltype(value)>>(graphic, property.name);
@@ -75,7 +75,7 @@ TEST_F(Save, HoldsAllPropertiesTogether) {
         ASSERT_TRUE(read);
         for (const PropertyInfo& property : AllProperties())
             ForGraphics(DrawingGetRoot(read.get()), [&](GraphicStruct* g) { ExpectSet(g, property); });
-        ASSERT_EQ(Write(drawing), kSaveDone) << message; // of the file that it has become
+        ASSERT_EQ(Write(drawing), kSaveDone) << message; // the file that was saved before
         EXPECT_EQ(Write(read), kSaveDone) << message;
     });
 }
@@ -155,7 +155,7 @@ TEST_F(Save, LooksAgainRightBeforeItReplacesTheFile) {
     EXPECT_FALSE(LeavesOthersBehind());
 }
 
-// Not to be taken for a file that has changed: to overwrite it would not help.
+// Distinguished from a changed file, because overwriting would not help.
 TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
     const fs::path original = kDrawings + "made-gbk-R2004.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);

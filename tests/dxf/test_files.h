@@ -1,4 +1,4 @@
-// The drawings that the tests read.
+// Paths of the test drawings.
 #pragma once
 
 #include <filesystem>
@@ -11,5 +11,5 @@ inline std::string ReadBytes(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The folder of the drawings; its manifest.json says what is in each.
+// The folder of the drawings; its manifest.json describes their contents.
 inline const std::string kDrawings = ORLO_SOURCE_DIR "/tests/data/dxf/";

@@ -9,7 +9,7 @@ namespace {
 TEST(TextDecoder, FollowsCodePageAndVersion) {
     struct Row {
         const char* version;
-        const char* codePage; // null: the file does not say
+        const char* codePage; // null if the file does not name one
         const char* bytes;
         const char* text;
     };
@@ -17,14 +17,14 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         {"AC1015", "ANSI_1252", "W\xE4nde", "W\u00E4nde"},
         {"AC1009", nullptr, "\x80", "\u20AC"},
         {"AC1015", "ANSI_1251", "\xD1\xF2\xE5\xED\xFB", "\u0421\u0442\u0435\u043D\u044B"},
-        {"AC1018", "ANSI_936", "\xB3\xDF\xB4\xE7\x81\x5C", "\u5C3A\u5BF8\u4E57"}, // a second byte that is a backslash
+        {"AC1018", "ANSI_936", "\xB3\xDF\xB4\xE7\x81\x5C", "\u5C3A\u5BF8\u4E57"}, // the second byte is a backslash
         {"AC1015", "ANSI_932", "\x83\x5C", "\u30BD"},
         {"AC1015", "gb2312", "\xB3\xDF", "\u5C3A"},
         {"AC1012", "dos850", "\x84", "\u00E4"},
         {"AC1012", "ISO8859-5", "\xC1", "\u0421"},
         {"AC1015", "Klingon", "\xE4", "\u00E4"},
         {"AC1021", "ANSI_1252", "\xC3\xA4\xF0\x9F\x98\x80", "\u00E4\U0001F600"},
-        {"AC1021", "ANSI_1251", "\xD1\xF2", "\u0421\u0442"}, // says UTF-8, is not
+        {"AC1021", "ANSI_1251", "\xD1\xF2", "\u0421\u0442"}, // declared as UTF-8, but is not
         {"AC1021", "ANSI_1252", "\xC0\xAF", "\u00C0\u00AF"}, // an overlong sequence is not valid
     };
     for (const Row& row : rows) {
@@ -42,8 +42,8 @@ TEST(DisplayText, ResolvesEscapes) {
     };
     const Row rows[] = {
         {"\\U+039B\\U+00c4x", "\u039B\u00C4x"},
-        {"\\U+D83D\\U+DE00", "\U0001F600"}, // a pair
-        {"\\U+DE00!", "\uFFFD!"},           // half of one
+        {"\\U+D83D\\U+DE00", "\U0001F600"}, // a surrogate pair
+        {"\\U+DE00!", "\uFFFD!"},           // half of a pair
         {"\\U+03", "\\U+03"},
         {"\\U+00zz", "\\U+00zz"},
         {"C:\\Users", "C:\\Users"},

@@ -1,4 +1,4 @@
-// Check boxes with a third state, and radio groups.
+// Three-state check boxes, and radio groups.
 
 #include "exchange_dialog.h"
 

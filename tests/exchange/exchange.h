@@ -1,11 +1,11 @@
-// Controls of the dialog of these tests, for the sources and the resource script.
+// Identifiers of dialogs and controls, for sources and resource script.
 #pragma once
 
 #include "orlo/resources/resource.h"
 
 #define IDD_EXCHANGE 100
 #define IDS_LINES 101
-// The controls of fonts, under the numbers that they have on a page.
+// The font controls, with the identifiers that they have on a page.
 #define IDD_FONTS 102
 
 #define IDC_EDIT 1001

@@ -1,4 +1,4 @@
-// A real dialog with one control of each kind, and exchanges over it in both directions.
+// A real dialog with one control of each kind, and exchanges in both directions.
 #pragma once
 
 #include <afxwin.h>
@@ -39,7 +39,7 @@ protected:
         text.LoadString(nID);
         return std::string(text);
     }
-    // Whether the exchange was ended by Fail.
+    // Returns whether the exchange was ended by Fail.
     template <class Exchange>
     static bool Refused(Exchange exchange) {
         try {

@@ -1,4 +1,4 @@
-// Exchange of font values: style, height and effects.
+// Exchange of font properties: style, height and effects.
 
 #include "exchange_dialog.h"
 
@@ -76,8 +76,8 @@ TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
             EXPECT_EQ(rest, style[0]);
             EXPECT_EQ(on ? bit : rest, style[1]);
         }
-        unsigned short style[] = {0,
-                                  bit}; // the user clicks on into the third state of an effect in which the texts agree
+        unsigned short style[] = {0, bit}; // the user clicks to the indeterminate state of an effect on which the texts
+                                           // agree
         DDX_ChkBoxEffects(1, &m_load, style);
         Send(kEffectBoxes[i], BM_CLICK);
         ASSERT_EQ(Send(kEffectBoxes[i], BM_GETCHECK), BST_INDETERMINATE);

@@ -1,4 +1,4 @@
-// The scale combo: finds a scale by its value, and adds one that is not in the list.
+// The scale combo box: finds a scale by value, and adds one that is not in the list.
 
 #include "exchange_dialog.h"
 

@@ -1,4 +1,4 @@
-// Entries of host tables as items: filling plain controls, and identifiers from and to a selection.
+// Entries of host tables as items: filling plain controls, and exchanging identifiers with a selection.
 
 #include "exchange_dialog.h"
 
@@ -86,7 +86,7 @@ TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
     EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 0) << "an identifier in no item leaves the selection";
 }
 
-// The search begins after the first item and comes to it last.
+// The search starts after the first item and reaches it last.
 TEST_F(TableExchange, OfEqualListKeysTheFirstItemIsFoundLast) {
     for (const char* item : {"0000ABCD\tBlue", "0000ABCD\tAzure", "0000ABCD\tNavy"})
         Send(IDC_LIST, LB_ADDSTRING, 0, item);
@@ -175,7 +175,7 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);
     EXPECT_EQ(value, kIndeterminateId) << "an indeterminate value survives";
 
-    // The host closes the drawing: its table answers as an empty one.
+    // After the host has closed the drawing, its table behaves like an empty one.
     m_drawing.Close();
     SetText(IDC_COMBO, "Walls");
     DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value);

@@ -1,4 +1,4 @@
-// Numbers and texts in edit controls: what is read, what is refused, what is shown.
+// Numbers and texts in edit controls: parsing, rejection, display.
 
 #include "exchange_dialog.h"
 
@@ -25,7 +25,7 @@ protected:
             EXPECT_EQ(expected, value) << typed;
         }
     }
-    // In silence the variable becomes `left`; otherwise it stays, and the user reads the prompt.
+    // A silent exchange sets the variable to `left`; otherwise it is unchanged and the user sees the message.
     template <class Value>
     void ExpectRefused(UINT prompt, std::initializer_list<const char*> rows, Value left = 77) {
         for (const char* typed : rows) {
@@ -43,7 +43,7 @@ protected:
     }
 };
 
-// ---- Whole numbers
+// ---- Integers
 
 TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
     ExpectRead<int>({{" \t12  ", 12},
@@ -107,13 +107,13 @@ TEST_F(TextExchange, RealNumbersAreReadOrRefused) {
                         {"1e5", 1e5},
                         {"                              12345", 12345},
                         {"1234.5+1234.5+1234.5+1234.5+1234.5", 6172.5}});
-    for (const char* zero : {"-0", ".0", "+0", "1-1", "5*0", "(0)", "-0.0e5"}) // however it is written
+    for (const char* zero : {"-0", ".0", "+0", "1-1", "5*0", "(0)", "-0.0e5"}) // in any form
         ExpectRead<double>({{zero, 0.0}});
     const std::string tooLong(1000, '1');
     const auto refused = {"",      "   ",  "-",     ".",      "()", "wide",         "2.5 mm",
                           "1.2.3", "1e39", "1e999", "******", "1-", tooLong.c_str()};
     ExpectRefused<float>(AFX_IDP_PARSE_REAL, refused);
-    ExpectRefused<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // what cannot be read in silence becomes 0
+    ExpectRefused<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // a silent failure sets 0
 }
 
 TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {
@@ -132,7 +132,7 @@ TEST_F(TextExchange, SixDigitsAreShownAndTheNearestFloatIsSaved) {
     EXPECT_EQ(static_cast<double>(1.23457f), value);
 }
 
-// What is shown reads back to the same value within the shown digits, and is then shown alike.
+// A displayed number is parsed back within the digits shown, and then displayed the same.
 TEST_F(TextExchange, ShownNumbersReadBack) {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> mantissa(-10.0, 10.0), exponent(-30.0, 30.0);

@@ -1,4 +1,4 @@
-// Lengths and angles in fields, over the real conversions of a drawing.
+// Lengths and angles in fields, with the conversions of a real drawing.
 
 #include "exchange_dialog.h"
 
@@ -19,7 +19,7 @@ protected:
         TableSetIntVar(m_drawing.Get()->pUnits, kUnitLinearSystem, 4);
     }
 
-    // What a silent save of the text gives, and what is then in the variable.
+    // Returns the result of saving the text silently, and the value of the variable afterwards.
     template <class Exchange>
     int Save(const char* text, Exchange exchange) {
         SetText(IDC_EDIT, text);
@@ -39,7 +39,7 @@ protected:
     int m_result = 0;
 };
 
-// All of them with one signature.
+// A common signature for all functions.
 using Exchange = std::function<int(int, CDataExchange*, unsigned, double&)>;
 
 Exchange Linear(DrawingStruct* d, int bBlank = 0, double dDefault = 3.0) {

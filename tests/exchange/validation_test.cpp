@@ -1,4 +1,4 @@
-// Limits of values: inclusive, checked when saving only, reported to the user with both limits.
+// Limits of values: inclusive, checked only when saving, reported with both limits.
 
 #include "exchange_dialog.h"
 
@@ -21,7 +21,7 @@ protected:
         }
         EXPECT_TRUE(boxes.Boxes().empty());
     }
-    // says: what the message contains.
+    // says: part of the message.
     void ExpectFails(const std::string& says, const Check& check) {
         SCOPED_TRACE(says);
         MessageBoxWatcher boxes;
@@ -35,7 +35,7 @@ protected:
     }
 };
 
-// A check with all but its first two arguments.
+// Binds all but the first two arguments of a check.
 template <class Function, class... Values>
 std::function<int(int, CDataExchange*)> Of(Function function, Values... values) {
     return [=](int report, CDataExchange* dx) { return function(report, dx, values...); };

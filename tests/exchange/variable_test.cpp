@@ -1,4 +1,4 @@
-// Controls over variables of a table: what is shown, what is written, and when the table stays as it is.
+// Controls of table variables: display, writing, and failures that leave the table unchanged.
 
 #include "exchange_dialog.h"
 
@@ -10,7 +10,7 @@
 namespace {
 
 constexpr uint16_t kVariable = 0x6001;
-constexpr unsigned long kLong = 0x12340000ul | kVariable; // only the low half counts
+constexpr unsigned long kLong = 0x12340000ul | kVariable; // only the low half is used
 
 class VariableExchange : public ExchangeDialog {
 protected:
@@ -47,7 +47,7 @@ TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
         const char* typed;
         double min, max;
         int saved;
-        double real; // what is then stored
+        double real; // the value stored then
     } rows[] = {{"2.5", 1, 5, 1, 2.5}, {"6", 1, 5, 0, 2.5}, {"6", 0, 0, 1, 6.0}, {"six", 5, 1, 0, 6.0}};
     for (const auto& row : rows) {
         SetText(IDC_EDIT, row.typed);

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Compares what a DLL exports with a list; tests/structure compares the list with the public headers.
+# Compares the exports of a DLL with a list; tests/structure compares the list with the public headers.
 #   check_exports.sh OBJDUMP DLL LIST
-# After a deliberate change of the interface: check_exports.sh OBJDUMP DLL LIST --update
+# After an intended change of the interface: check_exports.sh OBJDUMP DLL LIST --update
 set -euo pipefail
 objdump=$1 dll=$2 list=$3
 

@@ -1,4 +1,4 @@
-// A file that takes another's place, in a process that is ended at each of its system calls.
+// Replacing a file in a process that is killed at each of its system calls.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Some containers forbid it.
+// Tracing is forbidden in some containers.
 bool MayTrace() {
     const pid_t child = ::fork();
     if (child == 0) ::_exit(::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) == 0 ? 0 : 1);
@@ -37,8 +37,8 @@ bool MayTrace() {
     ::_exit(0);
 }
 
-// Runs the replacement until it has entered and left that many system calls, and sends it the signal there. Returns
-// false once it ends before.
+// Runs the replacement until that many entries to and exits from system calls, and sends the signal there. Returns
+// false if the process ends earlier.
 bool EndsAt(int stops, int signal, const fs::path& path, const std::string& bytes) {
     const pid_t child = ::fork();
     if (child == 0) ReplaceTraced(path, bytes);
@@ -65,7 +65,7 @@ TEST_P(Ended, AtAnyCallLeavesTheOldFileOrTheNewOne) {
     if (!MayTrace()) GTEST_SKIP() << "this system lets no process trace another";
     const fs::path folder = fs::temp_directory_path() / ("killed-" + std::to_string(::getpid()));
     const fs::path path = folder / "plan.dxf";
-    const std::string before = "the old file", after(size_t{5} << 19, 'n'); // of several pieces
+    const std::string before = "the old file", after(size_t{5} << 19, 'n'); // written in several pieces
     bool isReplaced = false;
     int stops = 0;
     for (bool isEnded = true; isEnded; ++stops) {

@@ -1,4 +1,4 @@
-// Files that take the place of others: what stays, what is refused, and what is left behind.
+// Replacing files: preserved attributes, rejected targets, and temporary files.
 
 #include "files/file_replacement.h"
 
@@ -104,7 +104,7 @@ TEST_F(Replacement, RefusesWhatIsNotAFileThatMayBeWritten) {
 #ifdef _WIN32
     ExpectRefused("NUL", kIrregular);
 #else
-    // A device of its own: a fault in the class must not replace one of the system.
+    // Its own device file, so that a fault does not replace one of the system.
     if (::mknod((folder / "null").c_str(), S_IFCHR | 0666, makedev(1, 3)) == 0) {
         ExpectRefused(folder / "null", kIrregular);
         EXPECT_TRUE(fs::is_character_file(folder / "null"));

@@ -1,4 +1,4 @@
-// What a sheet does when its host fails: while drawing, giving values, or taking the preview's graphics.
+// Sheets whose host fails while drawing, reading properties, or adding preview graphics.
 
 #include <gtest/gtest.h>
 
@@ -48,7 +48,7 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
     }
 }
 
-// A page that cannot be read does not open, and may be tried again.
+// A page that cannot be loaded does not open, and can be tried again.
 TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;
@@ -93,7 +93,7 @@ struct PreviewOfAnother : ExchangePage {
     GraphicStruct* member;
 };
 
-// The reference database refuses a graphic that is already a member.
+// The reference database rejects a graphic that is already a member.
 TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});

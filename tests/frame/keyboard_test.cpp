@@ -1,5 +1,4 @@
-// Where the focus is, which button is the default, and what the tabs show, when pages come and go; and which controls
-// of a page are fitted.
+// Focus, default button and tabs when pages change, and the fitting of a page's controls.
 
 #include <gtest/gtest.h>
 
@@ -60,7 +59,7 @@ TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
     }
 }
 
-// A page may refuse without naming a field (Fail moves the focus to one): the user then stays where he was.
+// A page can prevent leaving without Fail, which would move the focus; the focus then stays.
 TEST_F(Keyboard, StaysInTheFieldWhenAPageRefusesOfItself) {
     bool refuses = true;
     sheet.Add([&](CDataExchange* pDX) {

@@ -1,5 +1,5 @@
-// The library as a host loads it at run time: it comes and goes, twice over, beside resources of the host's own under
-// the same numbers. This program is not linked with it.
+// Loading and unloading the library at run time, twice, beside host resources with the same numbers. This program is
+// not linked with the library.
 
 #include <gtest/gtest.h>
 
@@ -29,9 +29,9 @@ public:
 
     HMODULE Module() const { return m_module; }
 
-    // Opens a sheet over the kit's graphics and plays the script.
+    // Opens a sheet over the kit's graphics and runs the script.
     int Run(GraphicKit& kit, SheetDriver::Script script) const {
-        // The class is the library's, of which this program knows only the framework's base.
+        // The class belongs to the library; this program only knows its base class in the framework.
         void* made = Function<decltype(::InitGraphicPropertySheet)>("InitGraphicPropertySheet")(
             nullptr, nullptr, kit.Drawing(), kit.Selection(), kAllGraphics);
         const std::unique_ptr<CPropertySheet> sheet(static_cast<CPropertySheet*>(made));
@@ -57,7 +57,7 @@ protected:
         kit.Add({{kPropTextSize, 1.0}}, kGraphicText);
     }
 
-    // General, Pen, Brush and Text are complete, and a pen is written.
+    // Checks that General, Pen, Brush and Text are complete, and that a pen is written.
     void ExpectWorking(const Copy& copy, double scale) {
         EXPECT_EQ(copy.Run(kit,
                            [&](SheetDriver& user) {
@@ -76,7 +76,7 @@ protected:
 };
 
 TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
-    void* taken = nullptr; // the place of the copy before, every second time
+    void* taken = nullptr; // every second time the address of the previous copy
     for (int i = 1; i <= 100 && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
         HMODULE place;
@@ -95,7 +95,7 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
         EXPECT_EQ(i % 2 ? place : nullptr, taken);
     }
     if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
-    // A copy that has not been hooked up to the framework yet is not there by the one before it.
+    // A copy that is not registered with the framework yet must not be found through the previous one.
     const HMODULE fresh = ::LoadLibraryA("orlo.dll");
     EXPECT_NE(fresh, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
     ::FreeLibrary(fresh);
@@ -122,7 +122,7 @@ TEST_F(LibraryLife, TwoCopiesWorkSideBySideAndOutliveEachOther) {
     ::DeleteFileA(second.c_str());
 }
 
-// What colliding_host.rc has under the library's numbers is the host's own business.
+// Resources in colliding_host.rc with the library's numbers belong to the host.
 TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
     const Copy copy("orlo.dll");
     copy.Run(kit, [&](SheetDriver& user) {

@@ -1,4 +1,4 @@
-// Changing the page of a sheet when a page or the memory fails: the page that the user sees stays the active one.
+// Changing the page when a page throws or memory runs out: the visible page remains the active one.
 
 #include <gtest/gtest.h>
 
@@ -16,11 +16,11 @@ namespace {
 
 constexpr const char* kReason = "no disk";
 
-// A page that throws when it is entered or left.
+// A page that throws when it is activated or left.
 struct ThrowingPage : ExchangePage {
     ThrowingPage() : ExchangePage([](CDataExchange*) {}) {}
     BOOL OnSetActive() override {
-        const BOOL result = ExchangePage::OnSetActive(); // with its window
+        const BOOL result = ExchangePage::OnSetActive(); // including its window
         if (throwsOnEntry) throw std::runtime_error(kReason);
         return result;
     }
@@ -37,7 +37,7 @@ struct PageEntry : ::testing::Test {
         sheet.Sheet().AddPage(other);
     }
 
-    // The ways from the page before to the one after it.
+    // The ways to move from the previous page to the next.
     static constexpr const char* kWays[] = {"click", "Ctrl+Tab", "Ctrl+Page Down", "call"};
     void GoOn(SheetDriver& user, const std::string& way) {
         const int next = user.ActivePage() + 1;
@@ -87,7 +87,7 @@ TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
 }
 
 TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
-    sheet.Add([](CDataExchange*) {}); // one to go to
+    sheet.Add([](CDataExchange*) {}); // a page to activate
     MessageBoxWatcher boxes;
     sheet.Run([&](SheetDriver& user) {
         user.SelectPage(2);
@@ -117,11 +117,10 @@ TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
         EXPECT_TRUE(::IsWindowVisible(sheet.Sheet().GetPage(2)->m_hWnd));
         EXPECT_FALSE(::IsWindowVisible(other->m_hWnd));
     });
-    sheet.Sheet().AddPage(&width.page); // whose owner is the sheet again
+    sheet.Sheet().AddPage(&width.page); // the sheet owns it again
 }
 
-// Each request for memory fails once, in the library and in the framework, until a change of pages makes no more of
-// them.
+// Each memory allocation fails once, in the library and in the framework, until changing pages makes no more of them.
 TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
     for (const char* module : {"orlo.dll", "afx.dll"}) {
         bool failed = true;
@@ -171,7 +170,7 @@ TEST(PageEntryMemory, TheStatusTableOutlivesAFailedActivation) {
             failed = memory.HasFailed();
             size_t rows = 0;
             ForEachChild(user.Page(), [&](HWND) { ++rows; });
-            // Takes the place of a table that was freed.
+            // Reuses the memory of a freed table.
             const std::vector<std::vector<ControlStatus>> others(
                 100, std::vector<ControlStatus>(rows, ControlStatus{kEdit, 0}));
             EXPECT_EQ(failed ? 1 : 0, width.page.GetControlStatus(kEdit)) << nth;

@@ -1,4 +1,4 @@
-// A page's life: which notifications make it dirty, what the sheet learns of it, and when the preview follows.
+// A page's notifications: which ones mark controls as dirty and inform the sheet, and when the preview is updated.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// A page that shows one number and one list, and follows its edit in the preview.
+// A page with a number and a list that updates the preview.
 struct PageLife : ::testing::Test {
     PageLife() : sheet((kit.Add({{"Width", 1.0}}), kit)), width(sheet), page(&width.page) { page->hasPreview = true; }
 
@@ -34,7 +34,7 @@ TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
 TEST_F(PageLife, NotificationsMarkByTheTables) {
     const struct {
         int id, code;
-        bool change; // marks the control
+        bool change; // marks the control as dirty
     } rows[] = {
         {kEdit, EN_CHANGE, true},          {kEdit, EN_UPDATE, false},        {kEdit, EN_KILLFOCUS, false},
         {kCheck, BN_CLICKED, true},        {kCheck, BN_DOUBLECLICKED, true}, {kCheck, BN_SETFOCUS, false},
@@ -55,10 +55,10 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
     });
 }
 
-// The end of an edit informs the sheet but doesn't renew the preview, which has followed each change.
+// The end of an edit informs the sheet but does not update the preview, which was updated after each change.
 TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
     sheet.Run([&](SheetDriver& user) {
-        Send(user, kEdit, EN_KILLFOCUS); // not dirty: nothing at all
+        Send(user, kEdit, EN_KILLFOCUS); // not dirty: no effect
         EXPECT_EQ(page->IsModified(), 0);
         user.Type(kEdit, "2");
         const size_t calls = page->previewCalls.size();
@@ -74,7 +74,7 @@ TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
         user.Click(kRadio + 1);
         EXPECT_EQ(page->GetControlStatus(kRadio), 1);
         EXPECT_EQ(page->GetControlStatus(kRadio + 1), 0);
-        user.Click(kLoneRadio); // no group begins before it
+        user.Click(kLoneRadio); // no group starts before it
         EXPECT_EQ(page->GetControlStatus(kLoneRadio), 1);
     });
 }
@@ -88,7 +88,7 @@ TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
         EXPECT_EQ(page->GetControlStatus(9999), 1) << "no such control";
         EXPECT_EQ(page->SetControlStatus(9999, 1), 0);
         kit[0].properties["Width"].number = 8;
-        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0); // a refresh that has not been asked for
+        ::SendMessageA(user.Page(), WM_COMMAND, 0xFFFF, 0); // a refresh that was not requested
         EXPECT_EQ(user.Text(kEdit), "1");
     });
 }
@@ -105,7 +105,7 @@ TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
         EXPECT_EQ(user.Text(kEdit), "5");
         EXPECT_NE(page->IsModified(), 0);
     });
-    EXPECT_EQ(kit[0].Number("Width"), 8); // Cancel writes nothing further and undoes nothing
+    EXPECT_EQ(kit[0].Number("Width"), 8); // Cancel writes nothing more and undoes nothing
 }
 
 } // namespace

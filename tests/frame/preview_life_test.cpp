@@ -1,4 +1,4 @@
-// The previews of sheets that run twice, and of sheets over the same drawing.
+// Previews of sheets that run twice, and of several sheets over one drawing.
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ protected:
     static GraphicStruct* PreviewOf(CGraphicPropertySheet& sheet) {
         return static_cast<CGraphicPropertyPage*>(sheet.GetActivePage())->GetPreviewGraphic();
     }
-    // Whether something is drawn in the pane.
+    // Returns whether the pane shows a drawing.
     static bool ShowsPreview(CGraphicPropertySheet& sheet) {
         double box[4];
         GraphicStruct* graphic = PreviewOf(sheet);
@@ -91,7 +91,7 @@ TEST_F(PreviewLife, TheBlockIsRemovedFromItsDrawingWhicheverIsCurrent) {
     ::AppSetCurrentDrawing(drawing.Get());
 }
 
-// Also in the preview of a page that is not the edited one: a pen is drawn in all of them.
+// Also on another page than the edited one: the pen is visible in all previews.
 TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
     Add(kGraphicPenBrush);
     const Sheet sheet = NewSheet();
@@ -109,7 +109,7 @@ TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
     }
 }
 
-// Otherwise OK would end the second run with the style that was chosen in the first one, and without saving.
+// Otherwise OK would end the second run with the style selected in the first one, without saving.
 TEST_F(PreviewLife, ASheetThatRunsAgainHasNoEndCodeYet) {
     TableStruct* styles = drawing.Table(kTableBlocks);
     const auto addStyle = [&](const char* name) {

@@ -1,4 +1,4 @@
-// The sheet: which pages a graphic adds, finding them, results, layout, and what is freed.
+// The sheet: the pages that a graphic adds, finding them, results, layout, and freeing.
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ TEST(PagesOfAKind, AreAddedOnce) {
     }
 }
 
-// The method comes second, for every graphic, and its result goes back to the host.
+// The method's pages follow for every graphic, and its result is returned to the host.
 TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
     GraphicKit kit;
     GraphicStruct* graphic = kit.Add({}).graphic;
@@ -128,7 +128,7 @@ TEST(SheetLayout, PageAtTheLeftButtonsAboveASquarePreviewNoApply) {
             bottom = button.bottom;
         }
         EXPECT_LE(bottom, preview.top);
-        user.SelectPage(0); // a page that comes later is placed where the first one is
+        user.SelectPage(0); // a later page gets the position of the first
         const RECT other = InSheet(user.Page(), window);
         EXPECT_TRUE(::EqualRect(&page, &other));
     });
@@ -166,14 +166,14 @@ TEST(DialogMeasure, FollowsTemplateAndFont) {
     EXPECT_GT(standard.cx, 250);
 }
 
-// A template of four words with nothing after them is not read beyond its mapping.
+// A template of four words at the end of its mapping is not read beyond it.
 TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
     void* pages = ::VirtualAlloc(nullptr, 0x2000, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
     DWORD before;
     ::VirtualProtect(static_cast<char*>(pages) + 0x1000, 0x1000, PAGE_NOACCESS, &before);
     for (const size_t size : {2, 14, 18, 20, 24, 40}) {
         char* start = static_cast<char*>(pages) + 0x1000 - size;
-        std::memset(start, 0x41, size); // DS_SETFONT, names without an end
+        std::memset(start, 0x41, size); // DS_SETFONT, and names without a NUL
         EXPECT_GT(Measure(start).cx, 0);
     }
     ::VirtualFree(pages, 0, MEM_RELEASE);

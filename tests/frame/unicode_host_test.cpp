@@ -1,5 +1,4 @@
-// A host that defines UNICODE: macros of windows.h rename members of the framework here, and the renamed ones must
-// exist.
+// A host that defines UNICODE: macros of windows.h rename members of the framework, which must exist under these names.
 
 #include <afxext.h>
 #include <orlo.h>
@@ -57,7 +56,7 @@ TEST(UnicodeHost, UsesTheFrameworkAndTheSheet) {
     EXPECT_EQ(frame->GetWindowTextLength(), 7);
     frame->SendMessage(kTest);
     EXPECT_EQ(frame->forwarded, 1);
-    ::SetWindowText(frame->m_hWnd, L"wide"); // the system's own functions stay the wide ones
+    ::SetWindowText(frame->m_hWnd, L"wide"); // the system's functions remain the wide ones
     EXPECT_EQ(::DefWindowProc(frame->m_hWnd, kTest, 0, 0), 0);
     EXPECT_FALSE(text.LoadString(1));
     CFont font;

@@ -1,4 +1,4 @@
-// A page with one number, as most tests of the frame have it.
+// A page with one number, used by most tests of the frame.
 #pragma once
 
 #include "orlo/exchange/ddp.h"

@@ -3,7 +3,7 @@
 
 constexpr char kFaultVariable[] = "ORLO_FAULT";
 
-// Not a fault: functions that may be stubs are stubs.
+// Not a fault: functions that are allowed to be stubs are stubs.
 constexpr char kStubs[] = "stubs";
 
 struct Fault {

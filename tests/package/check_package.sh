@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the build, moves it to another place, and from there alone builds and runs hosts as a new user would: by
-# find_package and by a bare compiler line. Then as a part of another project.
+# Installs the build, moves it elsewhere, and builds and runs hosts from there only: with find_package, with a plain
+# compiler command, and as a subproject.
 #   check_package.sh BUILD SOURCE TOOLCHAIN_FILE COMPILER EXAMPLE_HOST_TEST WORK_FOLDER
 set -euo pipefail
 build=$1 source=$2 toolchain=$3 compiler=$4 example_host_test=$5 work=$6
@@ -14,7 +14,7 @@ prefix=$work/orlo
 step() { echo "-- $*"; }
 for_windows() { printf 'Z:%s' "$1"; }
 run() { "$source/run.d/wine_program.sh" "$@"; }
-# Drives the host's sheet by messages, with keys and OK.
+# Drives the host's sheet by messages and keys, and presses OK.
 drive() { EXAMPLE_HOST=$(for_windows "$1") run "$example_host_test"; }
 
 step "what is handed on is small, and its debug data is beside it"
@@ -36,7 +36,7 @@ cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.lo
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
 drive "$work/examples/c_host.exe"
-mkdir "$work/alone" # without any DLL in reach
+mkdir "$work/alone" # without DLLs
 cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
 [ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
 

@@ -68,7 +68,7 @@ TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
     }
 }
 
-// Every page is seen, and left by its tab; in the end OK.
+// Every page is activated and left by its tab, then OK.
 TEST_F(AllPages, UntouchedPagesWriteNothing) {
     kinds.Select(kEverything);
     const DrawingState before = State();
@@ -83,18 +83,18 @@ TEST_F(AllPages, UntouchedPagesWriteNothing) {
             user.SelectPage(0);
             ok ? user.Ok() : user.Cancel();
         });
-        sheet.reset(); // with the block of its preview
+        sheet.reset(); // removes the preview block
         EXPECT_EQ(::DrawingEndUndo(kinds.Drawing()), 0);
         ExpectUnchanged(before);
     }
 }
 
-// By Tab, forwards and backwards round the whole sheet, and by the arrow keys within a group of radio buttons.
+// With Tab through the whole sheet in both directions, and with arrow keys within groups of radio buttons.
 TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
     kinds.Select(kEverything);
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
-        // The control of the page, or of the sheet, that has the focus or holds the field that has it.
+        // Returns the control of the page or sheet that has the focus or contains the focused field.
         const auto focused = [&] {
             HWND window = ::GetFocus();
             while (window != nullptr && ::GetParent(window) != user.Page() && ::GetParent(window) != user.Sheet())

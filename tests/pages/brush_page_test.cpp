@@ -1,5 +1,4 @@
-// The Brush page in a real sheet: what it shows of equal and differing fillings, which controls a style enables, what
-// it writes, and what its preview shows.
+// The Brush page in a real sheet: equal and differing brushes, controls enabled by a style, writing, and the preview.
 
 #include "pages/page_over_kit.h"
 
@@ -23,7 +22,7 @@ protected:
                  {kPropHatchCross, cross},
                  {kPropBrushDrawMode, mode}});
     }
-    // By its item; the list is walked with the keyboard.
+    // Selects an item of the list with the keyboard.
     void ChooseStyle(SheetDriver& user, int style) {
         user.Focus(IDC_BRUSH_STYLE_LIST);
         user.Key(VK_HOME);
@@ -126,7 +125,7 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
     EXPECT_EQ(30 * kDegree, kit[0].Number(kPropBrushAngle));
 }
 
-// An angle that was typed for an exchange which another field refused is not what a text without an angle stands for.
+// An angle typed before an exchange that another field made fail is not used for text without an angle.
 TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
     Add("Cross", kRed, 2, 50 * kDegree, 0, 0);
     Add("Cross", kRed, 2, 60 * kDegree, 0, 0);
@@ -144,7 +143,7 @@ TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
     EXPECT_EQ(60 * kDegree, kit[1].Number(kPropBrushAngle));
 }
 
-// The field of a solid brush is disabled: nobody could mend its scale.
+// The field of a solid brush is disabled, so that the user could not correct its scale.
 TEST_F(BrushPage, StoredNumbersThatNobodyEditedAreNotJudged) {
     Add("Cross", kRed, 1, 1e39, 0, 0);
     for (const char* style : {"Solid", "Cross"}) {
@@ -186,7 +185,7 @@ TEST_F(BrushPage, ArrowsUpAndDownAgainLeaveTheAngleAsItWas) {
     EXPECT_EQ(kit[0].Number(kPropBrushAngle), kOdd);
 }
 
-// The pen of the other pages' previews arrives at this one, which keeps its own.
+// Pen properties are written to all previews; this one keeps its own pen.
 TEST_F(BrushPage, ThePreviewKeepsItsOwnPen) {
     Add("Cross", kRed, 2, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
@@ -209,7 +208,7 @@ TEST_F(BrushPage, ThePreviewKeepsItsOwnPen) {
     });
 }
 
-// One unit of the drawing's angular system further, in whatever form the angle is written, and round at a full turn.
+// By one unit of the drawing's angular system, in any format, wrapping around at a full turn.
 TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
     constexpr double kGrad = 0.9 * kDegree;
     const struct {
@@ -268,7 +267,7 @@ TEST_F(BrushPage, ThePreviewShowsTheDrawMode) {
         const auto colors = [&] {
             Pixels pixels(101, 101);
             DrawPreview(page, pixels, 101, 101);
-            return std::pair(pixels.At(20, 35), pixels.At(50, 50)); // one square alone; the overlap
+            return std::pair(pixels.At(20, 35), pixels.At(50, 50)); // in one square only, and in the overlap
         };
         EXPECT_EQ(colors().first, kRed);
         EXPECT_NE(colors().second, kRed);

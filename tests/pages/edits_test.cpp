@@ -1,5 +1,5 @@
-// A user at every field of every page: types or chooses, takes it back, applies, leaves and returns. Afterwards each
-// graphic has bit for bit what it had, or what the host reads of the text.
+// Random edits of every field on every page: type or select, undo, apply, leave and return. Afterwards each graphic
+// has, bit for bit, its original value or the host's value for the text.
 
 #include <gtest/gtest.h>
 
@@ -17,23 +17,23 @@ namespace {
 
 constexpr double kInch = 25.4, kRadiansPerDegree = 0.017453292519943295;
 
-// What happens to a field, and how the sheet, or the pane, goes on.
+// The action on a field, and the way that the sheet or pane continues.
 enum class Touch { None, Changed, Undone, Retyped };
 enum class Ending { Ok, Apply, ApplyTwice, LeaveAndReturn, Cancel };
 constexpr Ending kEndings[] = {Ending::Ok, Ending::Apply, Ending::ApplyTwice, Ending::LeaveAndReturn, Ending::Cancel};
 
 using Host = DrawingStruct*;
 
-// A field into which a number is typed, and the number that is stored for a text.
+// A field for numbers, and the number that is stored for a text.
 struct NumberField {
     unsigned int page;
     int control;
     const char* property;            // null for a part of an insertion
-    double (InsertParts::*group)[3]; // of an insertion
+    double (InsertParts::*group)[3]; // part of an insertion
     int axis;
-    double least, most;                // what is typed
-    double (*read)(Host, const char*); // as the host reads it
-    double unit;                       // of stored numbers
+    double least, most;                // limits of the typed number
+    double (*read)(Host, const char*); // parses the text like the host
+    double unit;                       // unit of stored numbers
 };
 
 double PlainNumber(Host, const char* text) {
@@ -79,7 +79,7 @@ const NumberField kNumbers[] = {
     {IDD_INSERT_PAGE, IDC_ROTATION_Y, nullptr, kRotation, 1, -80, 80, Degrees, kRadiansPerDegree},
     {IDD_INSERT_PAGE, IDC_ROTATION_Z, nullptr, kRotation, 2, -80, 80, Degrees, kRadiansPerDegree}};
 
-// A control in which something is chosen: a list, or a button that is clicked.
+// A control to select in: a list, or a button to click.
 struct ChoiceField {
     unsigned int page;
     int control;
@@ -127,14 +127,14 @@ protected:
 
     int Below(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
     double Between(double least, double most) { return std::uniform_real_distribution<double>(least, most)(random); }
-    // Fifteen digits, or few.
+    // Returns a number with few or with fifteen digits.
     std::string TypedNumber(const NumberField& field) {
         char text[40];
         std::snprintf(text, sizeof text, Below(3) ? "%.15g" : "%.3g", Between(field.least, field.most));
         return text;
     }
 
-    // The values of a selection: equal, equal but for the last digits, or different.
+    // Returns values for a selection: equal, nearly equal, or different.
     std::vector<double> Values(double least, double most, int count) {
         std::vector<double> values;
         const int kind = Below(3);
@@ -144,7 +144,7 @@ protected:
         return values;
     }
 
-    // A drawing with up to three graphics of the kind that the page is for.
+    // Creates a drawing with up to three graphics of the kind that the page edits.
     void MakeSelection(unsigned int page) {
         EndKit();
         kit = std::make_unique<GraphicKit>();
@@ -174,7 +174,7 @@ protected:
                                                       {kPropScaleSystem, kScalePaper},
                                                       {kPropPenAlignment, odd % 2},
                                                       {kPropBrushColor, odd ? 255.0 : 0.0},
-                                                      {kPropBrushStyle, 6}, // a hatch, whatever differs
+                                                      {kPropBrushStyle, 6}, // all hatched, whatever else differs
                                                       {kPropHatchCross, odd % 2},
                                                       {kPropBrushDrawMode, odd % 2},
                                                       {kPropTextFont, odd % 2 ? "DejaVu Serif" : "No Such Font"},
@@ -203,7 +203,7 @@ protected:
                 numbers.insert(numbers.end(), {v->x, v->y, v->z});
         return numbers;
     }
-    // The corners of insertion i with other parts.
+    // Returns the vertices of insertion i with some parts changed.
     std::vector<double> CornersWith(size_t i, const std::map<const NumberField*, double>& changed) {
         GraphicStruct* const graphic = (*kit)[i].graphic;
         const std::vector<double> before = Corners(i);
@@ -223,8 +223,8 @@ protected:
     }
 
     int Run(unsigned int id, const std::function<void(SheetDriver&, CGraphicPropertyPage&)>& script) {
-        ::SetCursorPos(0, 0);          // a list that opens below the pointer selects what is there
-        const MessageBoxWatcher boxes; // none that waits for a user
+        ::SetCursorPos(0, 0);          // a list that opens under the pointer would select the item there
+        const MessageBoxWatcher boxes; // fails if a message box appears
         TestSheet sheet(*kit);
         for (size_t i = 0; i < kit->Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, (*kit)[i].graphic, &sheet.Sheet());
@@ -238,7 +238,7 @@ protected:
         return result;
     }
 
-    // As a pane does: writes, and loads what was written.
+    // Writes and reloads the page like a properties pane.
     static void Apply(CGraphicPropertyPage& page) {
         ASSERT_TRUE(page.OnKillActive());
         page.OnOK();
@@ -246,7 +246,7 @@ protected:
         page.UpdateData(FALSE);
         page.SetModified(FALSE);
     }
-    // The text at once: "*" alone is reported by a page that follows each key.
+    // Sets the whole text at once, since a page that validates each keystroke would report "*" alone.
     static void Paste(SheetDriver& user, int control, const std::string& text) {
         user.Focus(control);
         ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
@@ -265,8 +265,8 @@ protected:
     std::unique_ptr<HostFrame> frame;
 };
 
-// Leaves a control as it was: a list that is opened is closed by Return, or walked through and closed by Escape; in
-// another one the first item is chosen again; a button is clicked until it is as it was. False if there is no way back.
+// Restores a control: a list is opened and closed with Return, or stepped through and closed with Escape; otherwise the
+// first item is selected again; a button is clicked until it has its first state. Returns false if that is impossible.
 bool TakeBack(SheetDriver& user, int control, int first, bool walk) {
     if (::SendMessageA(user.Control(control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
         for (int i = 0; i < 3 && user.Check(control) != first; ++i)
@@ -303,8 +303,7 @@ void Edits::GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending) {
     user.Ok();
 }
 
-// Some fields of a page are typed into, some of these are undone or typed back; some lists and buttons are used and put
-// back.
+// Types in some fields and undoes or retypes part of them; changes and restores some lists and buttons.
 TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
     constexpr unsigned int kPages[] = {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE, IDD_INSERT_PAGE};
     for (int n = 0; n < static_cast<int>(std::size(kPages) * std::size(kEndings)); ++n) {
@@ -369,7 +368,7 @@ TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
     }
 }
 
-// Lists that show no choice, since the graphics differ, are opened and closed.
+// Opens and closes lists without a selection, which are those for differing values.
 TEST_F(Edits, AListThatWasOpenedAndClosedChoosesNothing) {
     for (const unsigned int id : {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE})
         for (const bool walk : {false, true}) {

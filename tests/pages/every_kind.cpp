@@ -1,4 +1,4 @@
-// EveryKind.
+// Implements EveryKind.
 
 #include "pages/every_kind.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr uint16_t kCross = 6; // of the brush styles of a new drawing
+constexpr uint16_t kCross = 6; // in the brush styles of a new drawing
 
 GraphicStruct* NewOutline(double size) {
     GraphicStruct* outline = ::GraphicNewEx(kGraphicVertices, 0, 1);
@@ -55,7 +55,7 @@ void EveryKind::AddShape(int i) {
     GraphicStruct* shape = NewOutline(10 + i);
     ::GraphicSetPenColor(shape, i ? RGB(255, 0, 0) : RGB(0, 0, 255));
     ::GraphicSetPenWidth(shape, 0.01 * (i + 1));
-    ::GraphicSetBrushStyle(shape, kCross); // or the page had nothing to type into
+    ::GraphicSetBrushStyle(shape, kCross); // without which the page would have no enabled fields
     ::GraphicSetBrushScale(shape, i + 1.0);
     SetProperty(shape, kPropBrushDrawMode, static_cast<uint16_t>(i));
     Add(shape);

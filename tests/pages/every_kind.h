@@ -1,4 +1,4 @@
-// A drawing with graphics of every kind, selected: two of each, which differ in all that they have.
+// A drawing with selected graphics of every kind: two of each, which differ in all properties.
 #pragma once
 
 #include <memory>
@@ -20,7 +20,7 @@ public:
 
     // Adds two of each of these kinds (Content) to drawing and selection.
     void Select(int content);
-    // Over the selection, with all pages that it deserves.
+    // Creates a sheet over the selection with all its pages.
     std::unique_ptr<CGraphicPropertySheet> NewSheet() const;
 
 private:

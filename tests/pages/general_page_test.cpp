@@ -43,7 +43,7 @@ TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
         EXPECT_EQ(user.Selection(IDC_LAYER), -1);
         EXPECT_EQ(user.Text(IDC_INFO), "<Indeterminate>");
         user.Type(IDC_INFO, "x");
-        user.Type(IDC_INFO, "<Indeterminate>"); // the same as untouched
+        user.Type(IDC_INFO, "<Indeterminate>"); // counts as unchanged
     });
     EXPECT_EQ(kit.Writes(), 0);
 }
@@ -60,7 +60,7 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-// Loaded a second time, as by Apply, the page is as at the first.
+// Loading again, as Apply does, results in the same display.
 TEST_F(GeneralPage, TextsThatDifferShowAsSuchAtEveryLoad) {
     Add(walls, "a");
     Add(walls, "b");
@@ -116,7 +116,7 @@ protected:
         return SheetDriver().Run(*sheet, script);
     }
 
-    // By the arrow keys in the closed list.
+    // With the arrow keys in the closed list.
     static void List(SheetDriver& user, const char* name) {
         user.Focus(IDC_STYLE_NAME);
         for (int i = 0; i < 3; ++i)
@@ -125,7 +125,7 @@ protected:
             user.Key(VK_DOWN);
         ASSERT_EQ(name, user.Text(IDC_STYLE_NAME));
     }
-    // Return keeps sheet, name and focus.
+    // Return changes neither sheet, name nor focus.
     static void ExpectRefused(SheetDriver& user, const char* name) {
         user.Key(VK_RETURN);
         EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << name;
@@ -153,7 +153,7 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
             EXPECT_EQ(row.canMake, IsEnabled(user, IDC_STYLE_NEW)) << row.name;
             EXPECT_EQ(row.canDelete, IsEnabled(user, IDC_STYLE_DELETE)) << row.name;
         }
-        user.Type(IDC_STYLE_NAME, std::string(60, 'W')); // wider than the field
+        user.Type(IDC_STYLE_NAME, std::string(60, 'W')); // longer than the field
         EXPECT_EQ(user.Text(IDC_STYLE_NAME).size(), 32u);
         user.Type(IDC_STYLE_NAME, "Beam");
     });
@@ -169,12 +169,12 @@ TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
                 {"Column", [](SheetDriver& user) { user.Ok(); }, 3000 + column},
                 {"Column", [](SheetDriver& user) { user.Click(IDC_STYLE_DELETE); }, 2000 + column},
                 {"Column", [](SheetDriver& user) { user.Cancel(); }, IDCANCEL},
-                // OK, with the focus where it is
+                // OK without moving the focus
                 {"Beam", [](SheetDriver& user) { user.Key(VK_RETURN); }, IDOK}};
     for (const auto& row : rows)
         EXPECT_EQ(row.code, RunOver(beam, [&](SheetDriver& user) {
                       user.Type(IDC_STYLE_NAME, row.name);
-                      row.then(user); // Tab goes back to the layer: the next control would be the Delete button
+                      row.then(user); // back with Tab, because the Delete button follows
                   }));
     EXPECT_NE(::BlocksFindBlock(styles, "Column"), 0) << "deleting is the host's";
 }
@@ -205,8 +205,8 @@ TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
                   user.Focus(IDC_INFO);
                   EXPECT_EQ(user.Text(IDC_STYLE_NAME), "Column");
 
-                  // Return is refused over a new name, a typed one of another style, and a listed one; the name stays
-                  // for the user to look at.
+                  // Return is rejected for a new name and for a typed or selected name of another style; the name stays
+                  // in the field.
                   user.Type(IDC_STYLE_NAME, "Girder");
                   ExpectRefused(user, "Girder");
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));
@@ -231,7 +231,7 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));
                   List(user, "Column");
                   EXPECT_FALSE(IsEnabled(user, IDC_STYLE_NEW));
-                  for (const bool back : {false, true}) { // Tab goes past New to Delete, and back
+                  for (const bool back : {false, true}) { // Tab from New to Delete, and back
                       user.Key(VK_TAB, back);
                       EXPECT_EQ(back ? user.Control(IDC_STYLE_NAME) : user.Control(IDC_STYLE_DELETE),
                                 back ? ::GetParent(::GetFocus()) : ::GetFocus());

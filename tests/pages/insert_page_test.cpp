@@ -1,5 +1,4 @@
-// The Block Insertion page over real insertions: what it shows of equal and differing ones, what it writes, and its
-// preview.
+// The Block Insertion page over real insertions: equal and differing ones, writing, and the preview.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +23,7 @@ constexpr int kAll[] = {IDC_SCALE_X,    IDC_SCALE_Y,    IDC_SCALE_Z,    IDC_ROTA
                         IDC_ROTATION_Z, IDC_POSITION_X, IDC_POSITION_Y, IDC_POSITION_Z};
 constexpr double kDegree = 0.017453292519943295;
 
-using Vertices = std::vector<double>; // of all insertions, one after the other
+using Vertices = std::vector<double>; // of all insertions in order
 
 class InsertPage : public ::testing::Test {
 protected:
@@ -77,7 +76,7 @@ protected:
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
     }
-    // The same with OK at the end, which has to be accepted without a message.
+    // Presses OK at the end, which must succeed without a message.
     void RunOk(const SheetDriver::Script& script) {
         MessageBoxWatcher boxes;
         EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
@@ -87,7 +86,7 @@ protected:
                   IDOK);
         EXPECT_TRUE(boxes.Boxes().empty());
     }
-    // What a paste does: one change for the whole text.
+    // Changes the whole text at once, like pasting.
     static void Paste(SheetDriver& user, int id, const char* text) {
         user.Focus(id);
         ::SendMessageA(user.Control(id), EM_SETSEL, 0, -1);
@@ -113,8 +112,8 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
 }
 
 TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
-    // Digits that no field shows, a scale beyond the limits, a collapsed axis, and a place beyond a float: each alone,
-    // then all together.
+    // Digits that no field shows, a scale out of range, a collapsed axis, and a position out of range of a float: each
+    // alone, then all together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
                                 {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
                                 {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
@@ -135,8 +134,7 @@ TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
     EXPECT_EQ(::DrawingEndUndo(drawing.Get()), 0);
 }
 
-// One field changed over a selection that differs reaches all, and all else stays each insertion's own; undo reverts
-// it.
+// An edit of one field changes that part of all insertions and no other part; undo reverts it.
 TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     const struct {
         int id;
@@ -175,7 +173,7 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
     }
 }
 
-// A field whose text was restored, by undo or by typing, is unchanged: the user sees no new value.
+// A field whose original text was restored, by undo or by typing, is not edited.
 TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
     Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
@@ -194,11 +192,11 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
             user.SelectPage(0);
             user.SelectPage(1);
             Paste(user, IDC_SCALE_Z, "7");
-            Paste(user, IDC_SCALE_Z, "*****"); // no value, whatever was there
+            Paste(user, IDC_SCALE_Z, "*****"); // not a value, whatever it replaces
         });
         EXPECT_EQ(before, All());
     }
-    // Once written, the new text is the first one.
+    // After writing, the new text is the original one.
     RunOk([&](SheetDriver& user) {
         Paste(user, IDC_POSITION_X, "9");
         user.SelectPage(0);
@@ -209,7 +207,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
     EXPECT_EQ(Parts(1).position[0], 1234570);
 }
 
-// "12d" alone would be reported before the rest of "12d30" is typed.
+// Otherwise "12d" would be reported while "12d30" is being typed.
 TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft) {
     AddDiffering();
     const Vertices before = All();
@@ -233,7 +231,7 @@ TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft
     EXPECT_EQ(before, All());
 }
 
-// An existing preview block is used; the page takes it out nevertheless.
+// An existing preview block is used, and is removed with the page.
 TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     AddDiffering();
     const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
@@ -259,8 +257,8 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
     EXPECT_EQ(::TableEntryNext(blocks, &cookie), 0) << "no other block";
 }
 
-// The message comes while the user types, unless the text may still become a number; OK then keeps page, text and focus
-// until the value is good.
+// The message appears while the user types, unless the text may become a number; OK then keeps page, text and focus
+// until the value is valid.
 TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
     AddDiffering();
     const Vertices before = All();

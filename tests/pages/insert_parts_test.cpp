@@ -1,4 +1,4 @@
-// Insertions taken apart and put together again.
+// Conversion of insertions to and from their parts.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ protected:
             ::VertexSet(vertex, corner[0], corner[1], corner[2]);
         }
     }
-    // Around the point (10, 20, 30).
+    // Axes around the point (10, 20, 30).
     void SetAxes(std::array<double, 3> a, std::array<double, 3> b, std::array<double, 3> c) {
         Corners corners;
         corners.fill({10, 20, 30});
@@ -53,8 +53,7 @@ protected:
     GraphicStruct* m_graphic = ::GraphicNewEx(kGraphicInsert, 0, 1);
 };
 
-// Whatever orthogonal axes, mirrored ones too: the same corners come back from the parts, and the same parts from
-// these.
+// Any orthogonal axes, including mirrored ones: parts and vertices are restored from each other.
 TEST_F(InsertPartsTest, RandomTransformationsComeBack) {
     std::mt19937_64 random(17);
     std::uniform_real_distribution<double> angle(-kPi, kPi), exponent(-3, 3), place(-100, 100);
@@ -94,8 +93,9 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
         {{0, 2, 0}, {-3, 0, 0}, {0, 0, 4}, {2, 3, 4}, {0, 0, kPi / 2}},
         {{1, 0, 0}, {0, 0, 1}, {0, -1, 0}, {1, 1, 1}, {kPi / 2, 0, 0}},
         {{0, 0, -1}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, 0}},
-        {{0, 1, 0}, {0, 0, 1}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, kPi / 2}}, // x has nothing to say: all goes to z
-        {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}},       // the mirror lands on z
+        {{0, 1, 0}, {0, 0, 1}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, kPi / 2}}, // rotation about x is undetermined: all of
+                                                                             // it is about z
+        {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}}, // the mirroring is in z
         {{1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {1, 1, -1}, {0, 0, 0}}};
     for (const auto& row : kRows) {
         SetAxes(row.a, row.b, row.c);
@@ -113,8 +113,8 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
     }
 }
 
-// Any of the axes may be without length: the others tell how it is turned, and turning it back and forth does it no
-// harm.
+// One or more axes may have no length: the others determine the rotation, and rotating back and forth does not change
+// it.
 TEST_F(InsertPartsTest, CollapsedAxesLeaveTheOthersAsTheyAre) {
     std::mt19937_64 random(23);
     std::uniform_real_distribution<double> angle(-kPi, kPi);

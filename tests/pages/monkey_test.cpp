@@ -1,4 +1,4 @@
-// A monkey at an open sheet: 20,000 messages by a fixed seed, with what must always hold checked on the way.
+// Monkey test of an open sheet: 20,000 random messages with a fixed seed, checking invariants.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ class Monkey {
 public:
     Monkey(SheetDriver& user, CGraphicPropertySheet& sheet) : m_user(user), m_sheet(sheet), m_random(20261124) {}
 
-    // True if it has tried to leave the page.
+    // Returns true if it tried to leave the page.
     bool Act() {
         bool leaves = false;
         switch (Below(12)) {
@@ -50,13 +50,14 @@ public:
         case 10:
             if ((leaves = Below(8) == 0)) m_user.SelectPage(Below(m_sheet.GetPageCount()));
             break;
-        case 11: // rarer: top-level windows are slow to show and to move
+        case 11: // less often, since top-level windows are slow
             if (Below(16) == 0) ::SendMessageA(RandomChild(), CB_SHOWDROPDOWN, Below(2), 0);
             if (Below(16) == 0) Move();
             break;
         }
         m_user.Pump();
-        if (!::IsChild(m_user.Page(), ::GetFocus())) ::SetFocus(RandomChild()); // not on OK, where a key ends it all
+        if (!::IsChild(m_user.Page(), ::GetFocus()))
+            ::SetFocus(RandomChild()); // not on OK, where a key would end the test
         return leaves;
     }
 
@@ -72,7 +73,7 @@ private:
 
     void Move() { ::SetWindowPos(m_sheet.m_hWnd, nullptr, Below(200), Below(200), 0, 0, SWP_NOSIZE | SWP_NOZORDER); }
 
-    // A notification out of the blue, of any control that can be used and any code.
+    // Sends a notification of an enabled control with a random code.
     void Notify() {
         const HWND child = RandomChild();
         if (!::IsWindowEnabled(child)) return;
@@ -81,7 +82,7 @@ private:
     }
 
     void Click(HWND window) {
-        if (!::IsWindowEnabled(window)) return; // nobody can
+        if (!::IsWindowEnabled(window)) return; // a user cannot either
         RECT client;
         ::GetClientRect(window, &client);
         const LPARAM point = MAKELPARAM(Below(client.right + 1), Below(client.bottom + 1));
@@ -94,7 +95,7 @@ private:
     std::mt19937 m_random;
 };
 
-// What a drawing must never hold, whatever was typed.
+// Checks that the drawing is valid after any input.
 void ExpectSound(const DrawingState& state, int step) {
     for (const std::string& line : state.Lines())
         ASSERT_TRUE(line.find("nan") == std::string::npos && line.find("inf") == std::string::npos)
@@ -108,7 +109,7 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         MessageBoxWatcher boxes;
-        for (int page = 0; page < sheet->GetPageCount(); ++page) // their windows count from the beginning
+        for (int page = 0; page < sheet->GetPageCount(); ++page) // so that the counts include their windows
             ASSERT_TRUE(sheet->SetActivePage(page)) << page;
         Monkey monkey(user, *sheet);
         int gdi = 0, windows = 0;
@@ -130,7 +131,8 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
                 windows = UserObjectCount();
             }
         }
-        // Lists that are open at one of the counts hold some objects; a leak at one step in a hundred would be 100.
+        // A list that is open at one of the counts accounts for some objects; a leak in one of a hundred steps would be
+        // 100.
         EXPECT_NEAR(gdi, GdiObjectCount(), 32);
         EXPECT_NEAR(windows, UserObjectCount(), 2);
     });

@@ -1,4 +1,4 @@
-// The Pen and the Text page over all graphics of real drawings, with undo.
+// The Pen and Text pages over all graphics of real drawings, with undo.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@
 
 namespace {
 
-using Values = std::map<std::string, std::string>; // by property
+using Values = std::map<std::string, std::string>; // by property name
 
 Values ValuesOf(GraphicStruct* graphic) {
     Values values;
@@ -51,7 +51,7 @@ protected:
         ::GraphicDispose(&m_selection);
         ::DrawingDispose(&m_drawing);
     }
-    // page: template of the page that scripts begin on.
+    // page: template of the first page.
     void Open(const wchar_t* path, unsigned int page) {
         m_page = page;
         char message[256] = "";
@@ -85,7 +85,8 @@ protected:
                                     }),
                   IDOK);
     }
-    // The edit, which may add to the values, gives them to all graphics that have them, and undo reverts them.
+    // Runs the edit, which also adds its values, and checks that all graphics with the property get them and that undo
+    // reverts it.
     void ExpectEdit(Values& changed, const SheetDriver::Script& edit) {
         ASSERT_TRUE(::DrawingBeginUndo(m_drawing));
         RunOk(edit);
@@ -118,7 +119,7 @@ TEST_F(OverDrawing, PensOfARoof) {
     RunOk([](SheetDriver&) {});
     EXPECT_EQ(m_before, All()) << "an untouched page";
     const struct {
-        int system; // item of the combo: 0 world, 1 paper
+        int system; // item of the combo box: 0 world, 1 paper
         const char* width;
         double stored;
     } rows[] = {{1, "0.7 mm", 0.7 / 25.4}, {0, "12.5", 12.5}};

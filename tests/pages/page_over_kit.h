@@ -1,4 +1,4 @@
-// One page of the library in a sheet over the graphics of a kit: what the tests of the Pen, Brush and Text pages share.
+// One page of the library in a sheet over a kit's graphics, for the tests of the Pen, Brush and Text pages.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ protected:
     }
 
     using Script = std::function<void(SheetDriver&, CGraphicPropertyPage&)>;
-    // Opens the sheet over the kit on the page. DoModal's result.
+    // Opens the sheet on the page and returns the result of DoModal.
     int Run(const Script& script) {
         TestSheet sheet(kit);
         for (size_t i = 0; i < kit.Size(); ++i)
@@ -41,7 +41,7 @@ protected:
             script(user, static_cast<CGraphicPropertyPage&>(*page));
         });
     }
-    // The same with OK at the end, which has to be accepted.
+    // Presses OK at the end, which must succeed.
     void RunOk(const SheetDriver::Script& script) {
         EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       script(user);
@@ -55,7 +55,7 @@ protected:
         SheetDriver::Script edit;
         KitValue expected;
     };
-    // Each edit by itself: its property reaches all graphics, everything else stays each graphic's own.
+    // Runs each edit separately and checks that its property changes in all graphics, and no other property does.
     void ExpectEachChangesOneProperty(const std::vector<Edit>& edits) {
         for (const Edit& edit : edits) {
             SCOPED_TRACE(edit.property);
@@ -77,7 +77,7 @@ protected:
         }
     }
 
-    // What a control shows: text, state of a box, or the selected item, of an item with a key the key.
+    // Returns what a control shows: text, state of a check box, or the key or text of the selected item.
     static std::string Shown(SheetDriver& user, int id) {
         const HWND control = user.Control(id);
         const LRESULT code = ::SendMessageA(control, WM_GETDLGCODE, 0, 0);
@@ -94,14 +94,14 @@ protected:
             texts.push_back(Shown(user, id));
         return texts;
     }
-    // A property of the preview graphic.
+    // Returns a property of the preview graphic.
     template <class T = double>
     static T Previewed(CGraphicPropertyPage& page, const char* property) {
         T value{77};
         page.GetPropText(property, &value, 1);
         return value;
     }
-    // Draws the preview over white.
+    // Draws the preview on white.
     static void DrawPreview(CGraphicPropertyPage& page, Pixels& pixels, int width, int height) {
         const orlo::host::OwnedViewport viewport(::ViewportNewEx());
         pixels.Clear(RGB(255, 255, 255));

@@ -1,5 +1,4 @@
-// The Pen page in a real sheet: what it shows of equal and differing pens, what it writes, and what its preview
-// follows.
+// The Pen page in a real sheet: equal and differing pens, writing, and the preview.
 
 #include "pages/page_over_kit.h"
 
@@ -37,7 +36,7 @@ protected:
     }
     static void ChooseLastStyle(SheetDriver& user) {
         user.Focus(IDC_LINE_STYLE_LIST);
-        user.Key(VK_END); // without a selection the first key selects where the caret is
+        user.Key(VK_END); // without a selection, the first key selects the item with the caret
         user.Key(VK_END);
     }
     static std::vector<std::string> ShownPen(SheetDriver& user) {
@@ -101,11 +100,11 @@ TEST_F(PenPage, TheWidthIsExpressedAnewWhenTheScaleSystemChanges) {
 TEST_F(PenPage, OffersTheConfiguredWidths) {
     const struct {
         const char* text;
-        std::vector<std::string> widths; // besides that of the selection
+        std::vector<std::string> widths; // except that of the selection
     } kCases[] = {
         {"[PenWidths]\nmm=0.25, 0.5 ,1.00,nonsense\n", {"0.25 mm", "0.5 mm"}},
         {"[PenWidths]\nmm=*other\nother=*in\nin=1\n", {"25.4 mm"}},
-        {"[PenWidths]\nmm=*a\na=*mm\n", {}}, // a circle
+        {"[PenWidths]\nmm=*a\na=*mm\n", {}}, // circular
         {"[PenWidths]\nmm=*a23456789012345678901234567890123456789\n", {}},
         {"[PenWidths]\nmm=0.25,     3      ,00000000000000000000000000000000000000000000000003/4,2\n",
          {"0.25 mm", "2 mm", "3 mm"}},
@@ -130,7 +129,7 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
     }
 }
 
-// The file has points whatever the decimal mark of the application; the list has the mark.
+// The file uses decimal points, whatever the application's decimal separator; the list uses the separator.
 TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
     TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
     AddEqual();
@@ -146,7 +145,7 @@ TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
     EXPECT_NEAR(0.5 / kInch, kit[0].Number(kPropPenWidth), 1e-12);
 }
 
-// What is typed next is meant for the field, not for the list of colors.
+// The next keystroke is meant for the field, not for the list of colors.
 TEST_F(PenPage, ARefusedWidthHasTheFocus) {
     for (const char* typed : {"abc", "100,5"}) {
         AddEqual();
@@ -162,7 +161,7 @@ TEST_F(PenPage, ARefusedWidthHasTheFocus) {
     }
 }
 
-// Neither what can be written nor what cannot, neither within the limits nor beyond.
+// Neither values that cannot be formatted nor values out of range.
 TEST_F(PenPage, StoredNumbersThatNobodyEditedAreNotJudged) {
     for (const double odd : {0.0, -3.0, 1e8, 1e39}) {
         AddEqual();
@@ -212,7 +211,7 @@ TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
     EXPECT_NEAR(0.0625, kit[0].Number(kPropPenWidth), 1e-9);
 }
 
-// A unit that the host does not know: there is no text for a width on paper.
+// The host does not know the unit, so a width on paper has no text.
 TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     AddEqual();
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "furlong");
@@ -228,7 +227,7 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     EXPECT_TRUE(boxes.Boxes().empty());
     EXPECT_EQ(kit[0].Number(kPropPenScale), 4);
     EXPECT_EQ(1 / kInch, kit[0].Number(kPropPenWidth));
-    // One without end, beside a list of widths that can be written.
+    // An infinite width, beside a list of valid ones.
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "mm");
     WriteIni("[PenWidths]\nmm=0.25,0.5\n");
     for (size_t i : {0, 1})
@@ -249,7 +248,7 @@ TEST_F(PenPage, AStoredScaleOfZeroStaysUntilItIsReplaced) {
     EXPECT_EQ(kit[0].Number(kPropPenScale), 1);
 }
 
-// The indeterminate state is left at the first click, for the other of the last definite state, and never comes back.
+// The first click sets the opposite of the last determinate state; the indeterminate state never returns.
 TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
@@ -264,7 +263,7 @@ TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
     });
 }
 
-// The preview graphic follows each edit, half-typed texts leave it alone, and no selected graphic changes.
+// The preview graphic follows each edit, ignoring incomplete texts, and no selected graphic changes.
 TEST_F(PenPage, ThePreviewFollowsTheControls) {
     AddEqual();
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {

@@ -1,4 +1,4 @@
-// What a screen reader is told of every page: each field has a name, and no text shows the key of an item.
+// Accessibility of every page: each field has a name, and no text contains the key of an item.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 
 namespace {
 
-// Eight hexadecimal digits in a row, or a tab.
+// Returns true for eight consecutive hexadecimal digits, or a tab.
 bool ShowsKey(const std::string& text) {
     int digits = 0;
     for (const char c : text) {
@@ -29,7 +29,8 @@ bool IsField(HWND control) {
     return ::IsWindowVisible(control) && !(::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC);
 }
 
-// By the window's own object, by the system's, or by the label that Windows takes the name from where Wine does not.
+// Returns the name from the window's own accessibility object, from the system's, or from the label that Windows would
+// use but Wine does not.
 std::string NameOf(HWND control) {
     const std::string name = Accessible(control).Name();
     if (!name.empty()) return name;

@@ -1,5 +1,5 @@
-// The Text page in a real sheet: what it shows of equal and differing texts, what one edit writes and leaves alone, the
-// list of heights of a font, and the preview.
+// The Text page in a real sheet: equal and differing texts, the effect of one edit, the list of heights of a font, and
+// the preview.
 
 #include "pages/page_over_kit.h"
 
@@ -63,7 +63,7 @@ TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
             EXPECT_EQ(user.Selection(combo), -1) << combo;
         user.Focus(IDC_FONT_FACE);
         for (int i = 0; i < 14; ++i)
-            user.Key(VK_TAB); // round the sheet; passing by is not a choice
+            user.Key(VK_TAB); // Tab around the sheet, which must not change the selection
         EXPECT_EQ(Shown(user, {IDC_FONT_SIZE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX,
                                IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT}),
                   (std::vector<std::string>{"", "2", "0", "2", "2", "0", "0", "0", "0"}));
@@ -71,13 +71,12 @@ TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-// Of two texts whose styles differ in every bit, one effect after the other is set; all other bits stay each text's
-// own.
+// With two texts whose styles differ in every bit, one effect after the other is set; all other bits must not change.
 TEST_F(TextPage, AnEffectChangesItsBitAlone) {
     KitGraphic& a = Add(kSans, 2, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 2, 0, kRed, 0);
     for (int i = 0; i < 5; ++i) {
-        for (const int clicks : {1, 2}) { // out of the indeterminate state to off, and on to on
+        for (const int clicks : {1, 2}) { // from indeterminate to off, and then on
             SCOPED_TRACE(kEffects[i] * 10 + clicks);
             a.properties[kPropTextStyle] = 0x2A15;
             b.properties[kPropTextStyle] = 0xFFFF & ~0x2A15;
@@ -116,7 +115,7 @@ TEST_F(TextPage, OneEditOverDifferingTextsChangesOneProperty) {
 TEST_F(TextPage, AThirdStateOfAnEffectInWhichTextsAgreeIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     RunOk([&](SheetDriver& user) {
-        user.Click(IDC_HIDDEN); // from checked into the third state
+        user.Click(IDC_HIDDEN); // from checked to indeterminate
         EXPECT_EQ(user.Check(IDC_HIDDEN), BST_UNCHECKED) << "taken back as soon as the preview follows";
     });
     EXPECT_EQ(text.Number(kPropTextStyle), 0);
@@ -136,7 +135,7 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
         EXPECT_EQ(Shown(user, IDC_FONT_SIZE), "9.5");
     });
     EXPECT_EQ(text.Number(kPropTextSize), 9.5);
-    // A listed height that begins with it does not take its place.
+    // An item that begins with the text must not be selected instead.
     WriteIni("[FontSizes]\nmm=10,20,3.5\n");
     for (const double height : {1.0, 2.0, 3.0}) {
         RunOk([&](SheetDriver& user) {
@@ -150,7 +149,7 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
 TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     Add(kSans, 4, 0, kRed, 0);
     Add(kSans, 4, 0, kRed, 0);
-    for (const double second : {3.0, 4.0}) { // different, equal
+    for (const double second : {3.0, 4.0}) { // different, then equal
         kit[1].properties[kPropTextSize] = second;
         ExpectEachChangesOneProperty({{kPropTextFont,
                                        [](SheetDriver& user) {
@@ -164,12 +163,11 @@ TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
     }
 }
 
-// A text that is not a height, one that is longer than the field, and a field that is blank because a space without
-// lengths has no texts for heights.
+// A text that is not a height, one that is longer than the field, and a blank field in a space without lengths.
 TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
     const struct {
         int space;
-        const char* typed; // null: nothing
+        const char* typed; // null for nothing
         double stored;
     } rows[] = {{0, "tall", 2}, {0, "0012'-11 15/16\"", 155.9375 * 25.4}, {2, nullptr, 2}};
     KitGraphic& text = Add(kSans, 2, 0, kRed, 0);
@@ -187,7 +185,7 @@ TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
     }
 }
 
-// Each list is opened and closed without a choice: by F4 and Return, and by a walk that Escape ends.
+// Opens and closes each list without selecting: with F4 and Return, and by stepping through it and Escape.
 TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
     AddDiffering();
     kit.Add({{kPropTextFont, "No Such Font"}, {kPropTextSize, 1.0 / 3}}, kGraphicText);
@@ -244,7 +242,7 @@ TEST_F(TextPage, StoredHeightsThatNobodyEditedAreNotJudged) {
     });
 }
 
-// The points of the file are the host's decimal marks in the list.
+// Decimal points in the file are the host's decimal separators in the list.
 TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
     TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
     ::TableSetStringVar(settings, kVarDecimalMark, ",");
@@ -276,7 +274,7 @@ TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
     });
 }
 
-// The sample is drawn by the host from what the controls show.
+// The host draws the sample with the values of the controls.
 TEST_F(TextPage, ThePreviewFollowsTheControls) {
     Add(kSans, 2, 0, kRed, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {

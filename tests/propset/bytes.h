@@ -1,4 +1,4 @@
-// Bytes as tests write them.
+// Byte literals for tests.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 using Bytes = std::vector<uint8_t>;
 
-// "0a0b 0c"_hex; blanks between bytes are skipped.
+// "0a0b 0c"_hex; blanks are ignored.
 inline Bytes operator""_hex(const char* digits, size_t size) {
     Bytes bytes;
     for (size_t i = 0; i + 1 < size; ++i)
@@ -22,7 +22,7 @@ inline Bytes operator+(Bytes a, const Bytes& b) {
     return a;
 }
 
-// The bytes before that place.
+// Returns the first `size` bytes.
 inline Bytes UpTo(size_t size, const Bytes& bytes) {
     return Bytes(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(size));
 }

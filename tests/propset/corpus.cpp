@@ -1,4 +1,4 @@
-// Reading the manifest of the streams.
+// Reads the manifest of the streams.
 #include "tests/propset/corpus.h"
 
 #include <cctype>

@@ -1,4 +1,4 @@
-// The property-set streams of tests/data/propset, with what independent readers see in them.
+// The property-set streams of tests/data/propset, with their contents according to independent readers.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -8,7 +8,7 @@
 
 struct CorpusStream {
     std::string path;
-    nlohmann::json manifest; // what independent readers see in it
+    nlohmann::json manifest; // contents according to independent readers
 
     std::vector<uint8_t> Content() const;
     bool IsReal() const { return manifest["origin"] == "real"; }
@@ -16,5 +16,5 @@ struct CorpusStream {
 void PrintTo(const CorpusStream& stream, std::ostream* out);
 
 std::vector<CorpusStream> AllCorpusStreams();
-// For the name of a parameterised test.
+// Returns a name for a parameterized test.
 std::string CorpusTestName(const std::string& path);

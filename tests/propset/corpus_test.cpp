@@ -1,5 +1,5 @@
-// Streams of real documents, and damaged ones: what is written again is read back equal, and what is wrong is found.
-// That their values are those of independent readers, tests/suminfo asks the program that prints them.
+// Streams of real documents, and damaged ones: written sets are read back equal, and faults are found. tests/suminfo
+// compares their values with those of independent readers.
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,7 @@ json DictionaryOf(const ImageSection& section) {
     return list;
 }
 
-// What an image says, without offsets and what can't be written.
+// The contents of an image, without offsets and data that cannot be written.
 json Essence(const SetImage& image) {
     json sections = json::array();
     for (const ImageSection& section : image.sections) {
@@ -85,7 +85,7 @@ TEST_P(Corpus, IsJudgedAsItDeserves) {
                                            : Severity::note);
 }
 
-// The classes keep the bytes of every value that they have a form for; the rest stays without a value.
+// The classes have the same bytes for every value with a stored form; other properties have no value.
 TEST_P(Corpus, GivesTheClassesTheSameBytes) {
     const std::vector<uint8_t> bytes = GetParam().Content();
     MemoryStream stream(bytes);
@@ -126,8 +126,8 @@ TEST_P(Corpus, GivesTheClassesTheSameBytes) {
     EXPECT_EQ(twice.Content(), out.Content());
 }
 
-// A million entries of a table, or of the list of sections, that all lead to one place: work in proportion to the
-// stream ends at once, and one that grows with its square not before the test's time is over.
+// A million entries of a table, or of the list of sections, that all point to the same place: linear work ends at once,
+// quadratic work would exceed the time limit.
 TEST(HostileImage, OfManyEntriesForOnePlace) {
     constexpr uint32_t kMany = 1000000;
     constexpr size_t kEntry = 8, kListEntry = 20, kHeader = 28;
@@ -140,7 +140,7 @@ TEST(HostileImage, OfManyEntriesForOnePlace) {
     };
 
     constexpr size_t kSection = kHeader + kListEntry, kTable = kSection + 8;
-    orlo::Bytes values = header(kTable + kEntry * kMany + 4, 1); // ends in a VT_EMPTY
+    orlo::Bytes values = header(kTable + kEntry * kMany + 4, 1); // ends with a VT_EMPTY
     put(values, kSection - 4, kSection);
     put(values, kSection + 4, kMany);
     for (uint32_t i = 0; i < kMany; ++i) {
@@ -152,7 +152,7 @@ TEST(HostileImage, OfManyEntriesForOnePlace) {
     ASSERT_TRUE(image);
     EXPECT_EQ(image->sections.at(0).properties.size(), kMany);
 
-    orlo::Bytes sections = header(kHeader + kListEntry * kMany + 8, kMany); // ends in an empty section
+    orlo::Bytes sections = header(kHeader + kListEntry * kMany + 8, kMany); // ends with an empty section
     for (uint32_t i = 0; i < kMany; ++i) {
         put(sections, kHeader + kListEntry * i, i);
         put(sections, kHeader + kListEntry * i + 16, kHeader + kListEntry * kMany);

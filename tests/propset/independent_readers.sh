@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Reads with other programs the compound file that the interoperation test has written: independent_readers.sh FILE
-# gsf and olefile, which ./run setup installs.
+# Reads the compound file written by the interoperation test with other programs: independent_readers.sh FILE Uses gsf
+# and olefile, which ./run setup installs.
 set -euo pipefail
 file=$1
 

@@ -1,5 +1,5 @@
-// With the system's own property storage, through compound files: what we write it reads, what it writes we read, for
-// the types and kinds of set that survive there.
+// Interoperation with the system's property storage through compound files, in both directions, for the types and sets
+// that it preserves.
 
 #include <gtest/gtest.h>
 
@@ -47,8 +47,8 @@ PROPSPEC ById(PROPID id) {
     return spec;
 }
 
-// Values of the types that the system keeps, and the bytes that we keep for each. It writes VT_CF eight bytes too
-// large, and loses reals, truths, dates, money and vectors.
+// Values of the types that the system preserves, and their stored bytes. The system writes VT_CF eight bytes too large,
+// and loses reals, Booleans, dates, money and vectors.
 class Interop : public ::testing::Test {
 protected:
     struct Row {
@@ -68,7 +68,7 @@ protected:
         {21, {VT_BLOB, "05000000 0102030405"_hex}},
     };
 
-    // The system's form, pointing into `stored`, which outlives it.
+    // Returns the system's form, with pointers into `stored`.
     static PROPVARIANT VariantOf(const Row& row, Bytes& stored) {
         PROPVARIANT value{};
         value.vt = row.type;
@@ -159,7 +159,7 @@ TEST_F(Interop, WeReadWhatTheSystemWrites) {
             ASSERT_EQ(document.sets->Create(kSummary, nullptr, flags, kExclusive | STGM_CREATE, Receive(properties)),
                       S_OK);
             for (const auto& [id, row] : rows_) {
-                if (row.type == VT_LPSTR && !isAnsi) continue; // the system itself cuts it
+                if (row.type == VT_LPSTR && !isAnsi) continue; // the system truncates it
                 Bytes stored = row.stored;
                 const PROPSPEC spec = ById(id);
                 const PROPVARIANT value = VariantOf(row, stored);

@@ -1,4 +1,4 @@
-// Reading and writing the bytes, up to the failure that was asked for.
+// Reads and writes the bytes, up to the requested failure.
 #include "tests/propset/memory_stream.h"
 
 HRESULT MemoryStream::Read(void* buffer, ULONG size, ULONG* done) {

@@ -1,4 +1,4 @@
-// A stream in memory that can be told to fail, for the tests of property sets on both systems.
+// A stream in memory that can be made to fail, for tests of property sets on both systems.
 #pragma once
 
 #include <objidl.h>
@@ -9,10 +9,11 @@
 #include <vector>
 
 #pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // the system's interface has none; nobody deletes through it
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // the system's interface has no virtual destructor; it is never
+                                                    // deleted through the interface
 
 #if defined(_WIN32)
-// What property sets never call, and the references of an object that lives on the stack.
+// Functions that property sets never call, and reference counting for an object on the stack.
 class UnusedCalls : public IStream {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
@@ -41,10 +42,10 @@ public:
     const std::vector<uint8_t>& Content() const { return bytes_; }
     ULONGLONG Position() const { return position_; }
     void Rewind(ULONGLONG position = 0) { position_ = position; }
-    // So many bytes come from reading (go by writing), then no more; the call that meets the limit is a short one.
+    // Limit the number of bytes read or written; the call that reaches the limit transfers fewer bytes.
     void LimitReads(size_t bytes) { readable_ = bytes; }
     void LimitWrites(size_t bytes) { writable_ = bytes; }
-    int Transfers() const { return transfers_; } // reads and writes so far
+    int Transfers() const { return transfers_; } // number of reads and writes so far
 
     HRESULT STDMETHODCALLTYPE Read(void* buffer, ULONG size, ULONG* done) override;
     HRESULT STDMETHODCALLTYPE Write(const void* buffer, ULONG size, ULONG* done) override;

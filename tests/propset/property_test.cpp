@@ -1,4 +1,4 @@
-// One value: setting from memory and from text, the bytes on the stream, and back.
+// A single value: setting it from memory and from text, and writing and reading it.
 
 #include "orlo/propset/property.h"
 
@@ -16,13 +16,13 @@ Bytes Block(CProperty& property, size_t size) {
     return block != nullptr ? Bytes(block, block + size) : Bytes();
 }
 
-// A value in each form that Set takes from memory, and what is on the stream for it after the type code.
+// A value in each form that Set accepts, and its stored bytes after the type code.
 struct Row {
     const char* name;
     DWORD type;
     Bytes input;
     Bytes stored;
-    size_t getAt; // where Get points, from the head of the block
+    size_t getAt; // offset that Get returns, in the stored block
     DWORD getSize;
 };
 
@@ -93,7 +93,7 @@ TEST_P(StoredValue, GoesToTheStreamPaddedAndComesBack) {
     const Row& row = GetParam();
     Bytes input = row.input;
     CProperty written(5, input.data(), row.type);
-    MemoryStream stream("aa"_hex); // an odd position: padding counts from the value, not from the stream
+    MemoryStream stream("aa"_hex); // an odd position: padding is relative to the value
     stream.Rewind(1);
     ASSERT_EQ(written.WriteToStream(&stream), 1);
     Bytes expected = "aa"_hex + LittleEndian(row.type) + row.stored;
@@ -116,7 +116,7 @@ TEST_P(StoredValue, IsNeverReadBeyondWhatIsThere) {
         CProperty property;
         EXPECT_EQ(property.ReadFromStream(&stream), 0) << size << " bytes of " << whole.size();
         MemoryStream again;
-        property.WriteToStream(&again); // whatever came is walked within its block
+        property.WriteToStream(&again); // the remaining bytes are read within their block
         DWORD ignored;
         property.Get(&ignored);
     }
@@ -126,7 +126,7 @@ struct TextRow {
     const char* name;
     const char* text;
     DWORD type;
-    Bytes stored; // empty: refused
+    Bytes stored; // empty: rejected
 };
 
 const TextRow kTextRows[] = {
@@ -196,7 +196,7 @@ TEST(Property, WithoutAValue) {
 
     char text[] = "abc";
     ASSERT_EQ(property.Set(2, text, VT_LPSTR), 1);
-    EXPECT_EQ(property.Set(CString("")), 1); // an empty text takes the value away
+    EXPECT_EQ(property.Set(CString("")), 1); // an empty text removes the value
     EXPECT_EQ(property.GetRawValue(), nullptr);
     EXPECT_EQ(property.GetType(), static_cast<DWORD>(VT_LPSTR));
     ASSERT_EQ(property.Set(text), 1);
@@ -213,7 +213,7 @@ TEST(Property, WithoutAValueIsWrittenAsAnEmptyOneOfItsType) {
                 {VT_BLOB, LittleEndian(VT_BLOB) + "00000000"_hex},
                 {VT_CF, LittleEndian(VT_CF) + "00000000"_hex},
                 {VT_VECTOR | VT_I2, LittleEndian(VT_VECTOR | VT_I2) + "00000000"_hex},
-                {VT_I4, LittleEndian(VT_EMPTY)}, // no number is invented
+                {VT_I4, LittleEndian(VT_EMPTY)}, // fixed-size types have no empty value
                 {VT_FILETIME, LittleEndian(VT_EMPTY)},
                 {VT_EMPTY, LittleEndian(VT_EMPTY)}};
     for (const auto& row : rows) {

@@ -1,4 +1,4 @@
-// Resource scripts: the text itself, and, where there is a resource compiler, what it makes of it.
+// Resource scripts: their text, and the output of a resource compiler where there is one.
 
 #include "orlo/propset/rc_file.h"
 
@@ -24,7 +24,7 @@ std::string TempFile(const char* name) {
 }
 
 std::string TextOf(const std::string& path) {
-    std::ifstream file(path); // as text: line ends are the system's
+    std::ifstream file(path); // in text mode, because line ends depend on the system
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -73,7 +73,7 @@ const ItemRow kItems[] = {
      "\"\"\"\\\\\\x1F\\x09\\x0D\\x0A\\x08\x7f\xe9\\0\""},
     {"TextCountsWithoutItsFirstQuote",
      [](CRCFile& rc) {
-         rc.WriteCString(std::string(69, 'x').c_str(), 69); // column 70: one more fits
+         rc.WriteCString(std::string(69, 'x').c_str(), 69); // column 70: another one fits
          rc.WriteWord(1);
          rc.WriteWord(2);
      },
@@ -118,16 +118,16 @@ TEST(RcSection, EmptyAndRefusedValues) {
 
 #if !defined(_WIN32)
 
-// The resources of a compiled script, in the order of the file.
+// Returns the resources of a compiled script in file order.
 std::vector<Bytes> Resources(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     const Bytes all{std::istreambuf_iterator<char>(file), {}};
     std::vector<Bytes> resources;
     for (size_t at = 0; at + 8 <= all.size();) {
-        uint32_t sizes[2]; // of the data and of the head
+        uint32_t sizes[2]; // sizes of data and header
         std::memcpy(sizes, &all[at], sizeof sizes);
         const auto begin = all.begin() + static_cast<ptrdiff_t>(at + sizes[1]);
-        if (at > 0) resources.emplace_back(begin, begin + static_cast<ptrdiff_t>(sizes[0])); // the first is a mark
+        if (at > 0) resources.emplace_back(begin, begin + static_cast<ptrdiff_t>(sizes[0])); // the first is a marker
         at += (size_t{sizes[1]} + sizes[0] + 3) / 4 * 4;
     }
     return resources;
@@ -139,7 +139,7 @@ protected:
         if (std::system("x86_64-w64-mingw32-windres --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "no windres";
     }
 
-    // One resource for each of the writers.
+    // Compiles one resource for each of the writers.
     std::vector<Bytes> Compile(const std::vector<std::function<void(CRCFile&)>>& writers) {
         const std::string script = TempFile("compiled.rc"), binary = TempFile("compiled.res");
         CRCFile rc(script.c_str(), CStdioFile::modeCreate | CStdioFile::modeReadWrite);
@@ -214,7 +214,7 @@ TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
         EXPECT_EQ(resources[i], images[i]) << "type " << rows[i].type;
 }
 
-// A set whose names need escapes, or are cut.
+// A set with names that must be escaped or truncated.
 std::shared_ptr<CPropertySet> SetOfOddNames() {
     auto set = std::make_shared<CPropertySet>();
     CPropertySection* section = set->AddSection(GUID());
@@ -226,7 +226,7 @@ std::shared_ptr<CPropertySet> SetOfOddNames() {
     return set;
 }
 
-// The sections of real files besides: texts padded after their NULs, several sections, dictionaries, pictures.
+// Also sections of real files: texts padded after their NULs, several sections, dictionaries, thumbnails.
 TEST_F(CompiledScript, OfEverySetReadsBackAsTheSet) {
     std::vector<std::function<void(CRCFile&)>> writers;
     std::vector<std::string> names;
@@ -240,9 +240,9 @@ TEST_F(CompiledScript, OfEverySetReadsBackAsTheSet) {
     for (const auto& [name, set] : sets) {
         for (POSITION next = set->GetList()->GetHeadPosition(); next != nullptr;) {
             auto* section = static_cast<CPropertySection*>(set->GetList()->GetNext(next));
-            section->Set(0, nullptr, VT_EMPTY); // a script always has the dictionary
+            section->Set(0, nullptr, VT_EMPTY); // a script always includes the dictionary
             MemoryStream image;
-            if (!section->WriteToStream(&image)) continue; // a type without a form
+            if (!section->WriteToStream(&image)) continue; // a type without a stored form
             names.push_back(name);
             images.push_back(image.Content());
             writers.push_back([section](CRCFile& rc) { EXPECT_EQ(section->WriteToRC(&rc), 1); });

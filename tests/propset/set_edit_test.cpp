@@ -1,4 +1,4 @@
-// Changes to one section of a set: the others keep their bytes, whatever a writer has put there.
+// Editing one section of a set: other sections keep their bytes, however unusual.
 
 #include "orlo/propset/inspect/set_edit.h"
 
@@ -21,8 +21,7 @@ orlo::SetImage Read(const Bytes& bytes) {
     return *orlo::ReadSetImage(bytes.data(), bytes.size(), findings);
 }
 
-// A user-defined section with the name "Client" that is not text of its code page, and a type with something in its
-// high half.
+// A user-defined section with the name "Client", which is not text in its code page, and a type with a high half.
 Bytes OddSet() {
     orlo::SetImage set;
     orlo::ImageSection& section = SectionFor(set, orlo::kUserDefinedFormat, 65001);
@@ -46,7 +45,7 @@ TEST(SetEdit, UntouchedSectionsKeepNamesAndTypesThatNoReaderKnows) {
     ASSERT_GT(after.size(), before.size());
     EXPECT_EQ(Bytes(after.end() - static_cast<ptrdiff_t>(size), after.end()),
               Bytes(before.end() - static_cast<ptrdiff_t>(size), before.end()));
-    // Another name of the same section changes neither of them.
+    // Adding another name to the section changes neither of them.
     StoreName(set.sections.at(1), 4, "Scale");
     StoreValue(set.sections.at(1), 4, VT_I4, {1, 0, 0, 0});
     const orlo::SetImage named = Read(*orlo::WriteSetImage(set));

@@ -1,4 +1,4 @@
-// Sections and sets: byte for byte what is written, and what is read back.
+// Sections and sets: the exact bytes written, and reading.
 
 #include "orlo/propset/property_set.h"
 
@@ -62,7 +62,7 @@ TEST(Section, SetWithoutATypeNeedsAPropertyThatHasOne) {
     EXPECT_EQ(NumberOf(section, 5), 8);
 }
 
-// Others write names that are longer than ours.
+// Other writers store longer names than this library.
 TEST(Section, ReadsNamesOf256BytesAndNoLongerOnes) {
     for (const uint32_t length : {255u, 256u, 257u}) {
         SCOPED_TRACE(length);
@@ -89,7 +89,7 @@ TEST(Section, NamesDisregardCase) {
     EXPECT_EQ(section.SetName(6, "pENwIDTH"), 0);
     EXPECT_EQ(section.GetName(6, name), 0);
     EXPECT_EQ(section.GetID("pen", &id), 0);
-    EXPECT_EQ(section.SetName(7, "\xC9t\xC9"), 1); // capitals of the code page
+    EXPECT_EQ(section.SetName(7, "\xC9t\xC9"), 1); // uppercase in the code page
     EXPECT_EQ(section.GetID("\xE9t\xE9", &id), 1);
 }
 
@@ -138,7 +138,7 @@ TEST(Section, NamesInWideCharactersAreReadUnderTheirCodePage) {
     EXPECT_EQ(section.GetName(3, name), 1);
     EXPECT_STREQ(name, "b");
 
-    const Bytes narrow = Written(section); // what this class writes is read back, whatever the code page
+    const Bytes narrow = Written(section); // sets written by this class are read back, whatever the code page
     MemoryStream again(narrow);
     CPropertySection read;
     ASSERT_EQ(read.ReadFromStream(&again, {}), 1);
@@ -261,7 +261,7 @@ TEST(Set, KeepsItsSectionsApart) {
     EXPECT_EQ(set.GetCount(), 2u);
     EXPECT_EQ(set.GetSection(kFormat), section);
     auto* property = new CProperty(4, &number, VT_I4);
-    set.AddProperty(kOther, property); // no such section: it stays ours
+    set.AddProperty(kOther, property); // no such section: the caller keeps ownership
     EXPECT_EQ(set.GetProperty(kOther, 4), nullptr);
     set.AddProperty(kFormat, property);
     DWORD size = 0;
@@ -284,7 +284,7 @@ TEST(Set, ReadsWithoutJudgingByteOrderAndVersion) {
     bytes[0] = bytes[1] = 0;
     MemoryStream stream(bytes);
     CPropertySet read;
-    AddNumber(*read.AddSection(kOther), 1, 1); // goes
+    AddNumber(*read.AddSection(kOther), 1, 1); // will be replaced
     ASSERT_EQ(read.ReadFromStream(&stream), 1);
     EXPECT_EQ(read.GetByteOrder(), 0);
     EXPECT_EQ(read.GetFormatVersion(), 9);
@@ -292,7 +292,7 @@ TEST(Set, ReadsWithoutJudgingByteOrderAndVersion) {
     EXPECT_EQ(NumberOf(*read.GetSection(kFormat), 2), 7);
 }
 
-// A set with every kind of thing in it.
+// A set with every kind of element.
 void Fill(CPropertySet& set) {
     char text[] = "Ground floor";
     Bytes strings = "02000000 020000006100 03000000626300"_hex;
@@ -326,7 +326,7 @@ TEST(Set, ShortReadAtEveryByteGivesNoMoreThanCame) {
     const Bytes whole = Written(set);
     const size_t listEnd = 28 + 2 * 20;
     for (size_t limit = 0; limit <= whole.size(); ++limit) {
-        for (const bool isCut : {true, false}) { // the stream ends, or fails
+        for (const bool isCut : {true, false}) { // the stream ends or fails
             MemoryStream stream(isCut ? UpTo(limit, whole) : whole);
             if (!isCut) stream.LimitReads(limit);
             CPropertySet read;
@@ -334,13 +334,13 @@ TEST(Set, ShortReadAtEveryByteGivesNoMoreThanCame) {
             EXPECT_TRUE(result == (limit >= listEnd) || (!isCut && limit >= 28)) << limit;
             EXPECT_LE(read.GetCount(), 2u);
             MemoryStream out;
-            read.WriteToStream(&out); // whatever came can be walked
+            read.WriteToStream(&out); // the remaining properties can be iterated
             EXPECT_TRUE(limit < whole.size() || out.Content() == whole);
         }
     }
 }
 
-// Tables, values and sections laid over one another: what they announce grows with the square of the stream.
+// Overlapping tables, values and sections: their declared size is quadratic in the size of the stream.
 TEST(Set, OverlaidStreamsEndSoon) {
     const Bytes header = "feff0000 00000000"_hex + Bytes(16);
     Bytes sections = header + LittleEndian(3000);

@@ -1,4 +1,4 @@
-// Raw-data items as tokens: what is read, and what is refused.
+// Tokens of raw data: accepted and rejected texts.
 #include "orlo/propset/tokens.h"
 
 #include <gtest/gtest.h>

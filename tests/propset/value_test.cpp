@@ -1,4 +1,4 @@
-// Values in plain terms: what their bytes mean, and the bytes of a meaning; names of types and class IDs; code pages.
+// Decoded values: decoding and encoding, names of types and class IDs, code pages.
 
 #include "orlo/propset/inspect/value.h"
 
@@ -20,7 +20,7 @@ json Hex(const orlo::Bytes& bytes) {
     return digits;
 }
 
-// Numbers of 64 bits are texts, so that nothing rounds them; bytes are in hexadecimal.
+// 64-bit numbers are written as text to avoid rounding; bytes are in hexadecimal.
 struct ScalarToJson {
     bool isLong;
 
@@ -52,7 +52,7 @@ struct Row {
     uint32_t type;
     uint16_t codePage;
     Bytes bytes;
-    json meaning; // null: it has none
+    json meaning; // null if it cannot be decoded
 };
 
 class ValueForm : public ::testing::TestWithParam<Row> {};
@@ -69,7 +69,7 @@ TEST_P(ValueForm, MeansWhatItSaysAndIsWrittenTheSame) {
 TEST_P(ValueForm, IsRefusedWhereAByteIsMissing) {
     const Row& row = GetParam();
     for (size_t size = 0; size < row.bytes.size(); ++size) {
-        const Bytes cut = UpTo(size, row.bytes); // its end is guarded
+        const Bytes cut = UpTo(size, row.bytes); // accesses beyond its end are detected
         orlo::Value value;
         EXPECT_FALSE(orlo::DecodeValue(row.type, cut.data(), cut.size(), row.codePage, value)) << size;
     }
@@ -130,7 +130,7 @@ TEST(Value, ReadsWhatItWouldNotWrite) {
         {VT_LPSTR, "00000000"_hex, ""},
         {VT_LPWSTR, "00000000"_hex, ""},
         {VT_CF, "04000000 00000000"_hex, json::array({0, 0, ""})},
-        // Elements padded to four bytes each, as few writers do.
+        // Elements padded to four bytes each, as by a few writers.
         {VT_VECTOR | VT_LPSTR, "03000000 0200000061000000 0300000062630000 020000006400"_hex, {"a", "bc", "d"}},
         {VT_VECTOR | VT_VARIANT, "02000000 1e000000 0200000061000000 03000000 07000000"_hex, kVariants},
     };
@@ -150,13 +150,13 @@ TEST(Value, RefusesWhatHasNoMeaning) {
         {VT_DISPATCH, 1252, "00000000"_hex},
         {VT_VARIANT, 1252, "0300000007000000"_hex},
         {VT_ARRAY | VT_I4, 1252, "0000000000000000"_hex},
-        {VT_VECTOR | VT_EMPTY, 1252, "ffffffff"_hex}, // four thousand million of nothing
+        {VT_VECTOR | VT_EMPTY, 1252, "ffffffff"_hex}, // four billion empty elements
         {VT_VECTOR | VT_VARIANT, 1252, "01000000 0c100000 00000000"_hex},
         {VT_VECTOR | VT_UI1, 1252, "ffffffff 00"_hex},
         {VT_LPSTR, 1252, "02000000 8100"_hex},
         {VT_LPSTR, 65001, "02000000 ff00"_hex},
         {VT_LPSTR, 1220, "02000000 6100"_hex},
-        {VT_LPWSTR, 1252, "02000000 00d80000"_hex}, // half a character
+        {VT_LPWSTR, 1252, "02000000 00d80000"_hex}, // half a surrogate pair
         {VT_CF, 1252, "03000000 ffffff"_hex},
         {VT_CF, 1252, "06000000 ffffffff 0300"_hex},
     };

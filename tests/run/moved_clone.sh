@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# A clone that was moved or copied after it was built: ./run says so and what to do, in place of CMake's riddles.
+# In a clone that was moved or copied after it was built, ./run prints the reason and the remedy instead of CMake's
+# message.
 set -euo pipefail
 source=$1
 clone=$(mktemp -d)

@@ -1,4 +1,4 @@
-// The real sheet over the skeleton's database: every page opens, and what the user does on them is in the graphics.
+// The real sheet over the skeleton's database: every page opens, and edits are stored in the graphics.
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ protected:
 
     int Run(SheetDriver::Script script) {
         CALL(library, PropPageInit)();
-        // The class is the library's, of which this program knows only the framework's base.
+        // The class belongs to the library; this program only knows its base class in the framework.
         CGraphicPropertySheet* made =
             CALL(library, InitGraphicPropertySheet)(&frame, nullptr, drawing, root, kAllGraphics);
         const std::unique_ptr<CPropertySheet> sheet(reinterpret_cast<CPropertySheet*>(made));

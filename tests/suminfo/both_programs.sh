@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The program for this machine against the one for Windows: what they print, what they end with and the files that they make
-# are the same to the byte. both_programs.sh WINDOWS NATIVE DOCUMENTS STREAMS FOLDER
-# Over real documents and streams, damaged ones, and texts of every code page; also over the folder that ORLO_CORPUS names.
-# Ends with 77 if the native program, which ./run test makes first, isn't there.
+# Compares the native program with the Windows program: output, exit codes and files must be identical. both_programs.sh
+# WINDOWS NATIVE DOCUMENTS STREAMS FOLDER Uses real documents and streams, damaged ones, and texts in every code page;
+# also the folder named by ORLO_CORPUS. Exits with 77 if the native program, which ./run test builds first, does not
+# exist.
 set -euo pipefail
 windows=$1 native=$2 documents=$3 streams=$4 folder=$5
 here=$(dirname "$(realpath "$0")")
@@ -10,7 +10,7 @@ here=$(dirname "$(realpath "$0")")
 left_to_windows=3
 
 fail() { printf '%.300s\n' "$*"; exit 1; }
-run_into() { # NAME PROGRAM...: with the file out, if one is made
+run_into() { # NAME PROGRAM...: including the output file, if any
     local name=$1 status=0
     shift
     rm -f out
@@ -39,7 +39,7 @@ compare() { # ARGUMENTS...
     same=$((same + 1))
     if [ -e native.file ]; then files=$((files + 1)); fi
 }
-compare_many() { # ARGUMENTS... -- FILES...: more of them than a command line of Windows holds
+compare_many() { # ARGUMENTS... -- FILES...: more files than fit on a Windows command line
     local arguments=()
     while [ "$1" != -- ]; do arguments+=("$1"); shift; done
     shift
@@ -69,7 +69,7 @@ done
 for file in documents/*-* missing.doc; do
     for what in rc thumbnail "thumbnail --size 60x50"; do compare $what "$file" out; done
 done
-every() { # NUMBER FILES...: each start of the Windows program takes its time
+every() { # NUMBER FILES...: selects some, since each start of the Windows program takes time
     local step=$1 i
     shift
     for ((i = 1; i <= $#; i += step)); do printf '%s\n' "${!i}"; done

@@ -8,7 +8,7 @@ USER_DEFINED = bytes.fromhex("05d5cdd59c2e1b10939708002b2cf9ae")
 KNOWN = [0, 1, 2, 3, 37, 437, 500, 708, 720, 737, 775, 850, 852, *range(855, 858), *range(860, 867), 869, 874, 875, 932, 936,
          949, 950, 1026, 1200, 1201, *range(1250, 1259), 1361, *range(10000, 10009), 10010, 10017, 10021, 10029, 10079, 10081,
          10082, 20127, 20866, 20932, 20949, 21866, *range(28591, 28600), 28603, 28605, 50220, 65000, 65001]
-UNKNOWN = [10018, 28600]  # searched for in the system's files at each conversion, which takes its time
+UNKNOWN = [10018, 28600]  # the system searches its files for these at each conversion, which is slow
 
 PAIRED = {932, 936, 949, 950, 1200, 1361, 10001, 10002, 10003, 10008, 20932, 20949}
 
@@ -36,7 +36,7 @@ def stream(code_page, values, names=()):
     return struct.pack("<HHI16xI", 0xFFFE, 0, 0x20006, 1) + USER_DEFINED + struct.pack("<I", 48) + section
 
 
-# UTF-8 and what isn't: longer forms than needed, halves of characters, past the last one, cut.
+# Valid and invalid UTF-8: overlong forms, surrogates, out of range, truncated.
 SEQUENCES = ["c3a9", "c080", "c1bf", "e08080", "e09fbf", "e0a080", "eda080", "edbfbf", "ee8080", "f0808080", "f08fbfbf",
              "f0908080", "f48fbfbf", "f4908080", "f5808080", "f8888080", "ff", "80", "c3", "e282", "f09f98", "c341", "efbfbe"]
 

@@ -4,7 +4,7 @@ import random
 import sys
 
 VARIANTS = 6
-HEAD = 4096  # header, tables and directory are mostly there: hit more often
+HEAD = 4096  # usually contains header, tables and directory: damaged more often
 
 
 def damaged(data, rng):

@@ -1,4 +1,4 @@
-// suminfo set, remove and copy: what was asked for is done, everything else is as it was.
+// suminfo set, remove and copy: the requested change is made, and everything else is unchanged.
 
 #include <gtest/gtest.h>
 #include <set>
@@ -19,19 +19,20 @@ const char kSummary[] = "\005SummaryInformation";
 const char kDocumentSummary[] = "\005DocumentSummaryInformation";
 constexpr const char* kCustomFormat = "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";
 
-// A document as suminfo shows it.
+// The contents of a document as shown by suminfo.
 class Content {
 public:
     explicit Content(const fs::path& file) : Content(Json::parse(RunSuminfo({"show", "--json", file.string()}).out)) {}
     explicit Content(Json file) : file_(std::move(file)) {}
 
-    // Null if there isn't one, whichever section it may be in.
+    // Returns null if there is none in any section.
     Json operator[](const std::string& name) const {
         for (const auto& [key, value] : Values())
             if (key.substr(key.find('}') + 1) == name) return value;
         return nullptr;
     }
-    // Of the section with that property; 0 if it names none, -1 if there is no such property.
+    // Returns the code page of the section with that property; 0 if the section has none, -1 if there is no such
+    // property.
     int CodePageOf(const std::string& name) const {
         for (const Json& set : file_["property_sets"])
             for (const Json& section : set["sections"])
@@ -40,7 +41,7 @@ public:
                         return section["code_page"].is_null() ? 0 : section["code_page"].get<int>();
         return -1;
     }
-    // All values, by stream, format ID and name.
+    // Returns all values by stream, format ID and name.
     std::map<std::string, Json> Values() const {
         std::map<std::string, Json> values;
         for (const Json& set : file_["property_sets"])
@@ -88,7 +89,7 @@ TEST_F(Edit, FieldsOfEveryKind) {
 }
 
 TEST_F(Edit, CustomPropertiesOfEveryType) {
-    const fs::path file = Document("test11--695187.doc"); // has none yet
+    const fs::path file = Document("test11--695187.doc"); // has no custom properties yet
     const struct {
         const char *name, *typed;
         Json value;
@@ -108,7 +109,7 @@ TEST_F(Edit, CustomPropertiesOfEveryType) {
     const Content made(file);
     for (const auto& row : rows)
         EXPECT_EQ(made[row.name], row.value) << row.name;
-    // The same, whatever the case; and a field may follow.
+    // The same in another case, with fields after it.
     ExpectDone({"set", "--custom", "client=text:Other", file.string(), "--custom", "Sheets=int:3", "pages=7"});
     const Content changed(file);
     EXPECT_EQ(changed["Client"], "Other");
@@ -133,7 +134,7 @@ TEST_F(Edit, RemovingLeavesTheOthers) {
     EXPECT_EQ(Content(file)["author"], nullptr);
 }
 
-// A property that is linked to a place in the document has that place beside it, under its own ID with a flag added.
+// A property linked to a place in the document has a companion property for that place, with a flag added to its ID.
 TEST_F(Edit, LinkedCustomPropertiesKeepTheirLinksToThemselves) {
     constexpr uint32_t kLink = 0x01000000;
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
@@ -161,7 +162,7 @@ TEST_F(Edit, LinkedCustomPropertiesKeepTheirLinksToThemselves) {
     EXPECT_LT(*after.begin(), kLink) << "readers take it for the place of another one";
 }
 
-// A name that is not text of the code page is kept as it is, and is nothing that could be shown.
+// A name that is not text in the code page is kept but not shown.
 TEST_F(Edit, NamesThatAreNotTextStayInTheSectionsThatAreNotNamed) {
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
     const orlo::Bytes odd = {'M', 0x81, 'y'};
@@ -194,7 +195,7 @@ TEST_F(Edit, AFieldWithoutValueGetsOne) {
     EXPECT_EQ(Content(file)["pages"], 3);
 }
 
-// In the set's own code page where it can, else in UTF-8, and then all of them.
+// In the set's own code page if possible, else all texts are converted to UTF-8.
 TEST_F(Edit, TextsAreWrittenInTheCodePageOfTheirSet) {
     const fs::path file = Document("Bug48075--a2ceba.doc"); // 1251
     auto expected = Content(file).Values();
@@ -208,7 +209,8 @@ TEST_F(Edit, TextsAreWrittenInTheCodePageOfTheirSet) {
     for (auto& [key, value] : expected) {
         if (key.find("}company") != std::string::npos) value = "工場";
         const bool documentSection = key.find("{D5CDD502") != std::string::npos;
-        if (documentSection && key.find("}code page") != std::string::npos) value = -535; // 65001 in 16 bits
+        if (documentSection && key.find("}code page") != std::string::npos)
+            value = -535; // 65001 as a signed 16-bit number
     }
     EXPECT_EQ(japanese.Values(), expected) << "heading-pairs and the rest say the same in UTF-8";
 }
@@ -241,7 +243,7 @@ TEST_F(Edit, OtherStreamsKeepEveryByte) {
     }
 }
 
-// All documents of a folder, by their names.
+// Returns the contents of all documents in a folder by name.
 std::map<std::string, Content> ContentsOf(const fs::path& folder) {
     std::map<std::string, Content> contents;
     for (auto& [name, file] : ByFile(RunSuminfo({"show", "--json", "-r", "."}, folder).out))
@@ -251,7 +253,7 @@ std::map<std::string, Content> ContentsOf(const fs::path& folder) {
 
 TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
     std::map<std::string, std::vector<unsigned char>> bytes;
-    std::map<fs::path, int> ofKind; // two of a kind are enough: each takes a start of suminfo
+    std::map<fs::path, int> ofKind; // two of each kind, because each start of suminfo takes time
     for (const auto& entry : fs::directory_iterator(kDocuments)) {
         const fs::path kind = entry.path().extension();
         if (kind == ".json" || kind == ".md" || ++ofKind[kind] > 2) continue;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What suminfo does to files on disks as they are: links, permissions, too little room. files.sh SUMINFO DOCUMENTS FOLDER
-# Ends with 77 where it may not mount a disk of its own.
+# suminfo on real disks: links, permissions, and full disks. files.sh SUMINFO DOCUMENTS FOLDER Exits with 77 if it
+# cannot mount a disk.
 set -euo pipefail
 program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3
 
@@ -14,7 +14,7 @@ rm -rf "$folder"
 mkdir -p "$folder"/{disk,inner,outer}
 cd "$folder"
 
-# Through a link, the file behind it; what others may not read stays so (of a group the system here knows nothing).
+# Replaces the file that a link refers to, and keeps it unreadable for others (Wine does not support groups).
 install -m 600 "$document" inner/plan.fpx
 ln -s ../inner/plan.fpx outer/link.fpx
 edit outer/link.fpx
@@ -41,7 +41,7 @@ cmp inner/plan.fpx disk/plan.fpx
 only_file disk/plan.fpx "done"
 [ $refused -gt 9 ] || fail "only $refused sizes were too small"
 
-# A script that finds no room leaves no file.
+# If the disk is full, no partial script remains.
 head -c 1000000 /dev/zero >disk/rest 2>/dev/null || true
 message=$(suminfo rc "$document" disk/out.rc 2>&1) && fail "a script was written without room"
 grep -q 'out.rc: .*the disk is full' <<<"$message" || fail "$message"

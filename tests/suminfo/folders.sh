@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What a folder of this machine can hold and a Windows folder can't: links to itself, names that Windows has no way to open.
-# And a pipe whose reader goes. folders.sh SUMINFO DOCUMENT FOLDER
+# Contents of a folder that a Windows folder cannot have: links to itself, and names that Windows cannot open. Also a
+# pipe whose reader ends. folders.sh SUMINFO DOCUMENT FOLDER
 set -euo pipefail
 program=$1 document=$2 folder=$3
 
@@ -21,7 +21,7 @@ shown=$(timeout -k 5 60 wine "$program" show -r . 2>errors) || status=$?
 [ "$(grep '\.doc$' <<<"$shown")" = $'./a:colon.doc\n./again.doc' ] || { printf 'not each once:\n%s\n' "$shown"; exit 1; }
 [ "$(cat errors)" = "suminfo: ./a?mark.doc: the system can't open a file of this name" ] || { cat errors; exit 1; }
 
-# The first line is enough for its reader, and the missing file after it is never looked at.
+# The reader ends after the first line, so that the missing file at the end is never opened.
 for ((i = 0; i < 2000; i++)); do echo -ne 'inner/plan.doc\0'; done >names
 echo -ne 'missing.doc\0' >>names
 timeout -k 5 60 wine "$program" show @- <names 2>errors | head -n 1 >first || true

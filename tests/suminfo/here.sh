@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The program for this machine and what only this machine has: names of any bytes, pipes and devices in a folder, permissions.
-# And that it leaves work to the Windows program untouched. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
+# Native-only features of the program: names of arbitrary bytes, pipes and devices in a folder, permissions, and
+# unmodified delegation to the Windows program. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4
@@ -30,26 +30,26 @@ expect "its documents" "$(cut -d: -f1 out | uniq)" \
 expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file of this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: not a compound file'
 
-# Half a character in the name of a stream.
+# Half a surrogate pair in the name of a stream.
 LC_ALL=C sed 's/\x05\x00S\x00u/\x05\x00\x00\xd8u/' some/inner/plan.doc >half.doc
 expect "half a character" "$(ended suminfo check half.doc; grep -c '^half.doc: \\005�ummaryInformation: ' out)" $'1\n1'
 rm half.doc
 
-# Moments as another calendar has them.
+# Times according to another calendar implementation.
 PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "$here/moments.py" moments moments.txt
 suminfo show --stream moments | sed -n 's/^    property [0-9]*  *//p' >out
 diff out moments.txt | head -n 5
 cmp -s out moments.txt || fail "moments differ"
 rm moments moments.txt
 
-# A reader that has seen enough, and a disk that is full.
+# A reader that ends early, and a full disk.
 for ((i = 0; i < 2000; i++)); do echo -ne 'some/inner/plan.doc\0'; done >names
 echo -ne 'missing.doc\0' >>names
 { suminfo show @- <names 2>err || echo $? >status; } | head -n 1 >out
 expect "the first line" "$(cat out status err)" $'some/inner/plan.doc\n1'
 expect "a full disk" "$(suminfo show "$document" 2>&1 >/dev/full || echo $?)" $'suminfo: the output can\'t be written\n1'
 
-# The script takes the place of a file, with its permissions, and of nothing else.
+# The script replaces a file and keeps its permissions, and replaces nothing else.
 echo old >script.rc
 chmod 640 script.rc
 suminfo rc --stream "$stream" script.rc
@@ -57,7 +57,8 @@ expect "permissions" "$(stat -c %a script.rc)" 640
 grep -q RCDATA script.rc || fail "no script"
 mkdir taken
 targets=(taken)
-if mknod device c 1 7 2>/dev/null; then targets+=(device); fi # its own: a fault must not replace one of the system
+if mknod device c 1 7 2>/dev/null; then targets+=(device); fi # its own device file, so that a fault does not replace
+                                                              # one of the system
 for target in "${targets[@]}"; do
     expect "$target" "$(ended suminfo rc --stream "$stream" $target; cat err)" \
         "$(printf "1\nsuminfo: $target: it is not a regular file and cannot be replaced")"
@@ -68,7 +69,7 @@ if [ ${#targets[@]} = 2 ]; then
 fi
 expect "beside it" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
 
-# Three says that it is work for the other program.
+# Exit code 3: the command needs the other program.
 cp some/inner/plan.doc before.doc
 for line in "set some/inner/plan.doc title=x" "remove some/inner/plan.doc title" "copy $picture some/inner/plan.doc" \
             "thumbnail $picture picture.png"; do # shellcheck disable=SC2086 # words

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Edits real documents with suminfo and reads them with other programs: independent_readers.sh SUMINFO DOCUMENTS FOLDER
-# gsf and olefile, which ./run setup installs.
+# Uses gsf and olefile, which ./run setup installs.
 set -euo pipefail
 program=$1 documents=$2 folder=$3
 

@@ -1,4 +1,4 @@
-// suminfo killed before each of its writes, as a debugger can: the document is the old one or the new one.
+// suminfo killed by a debugger before each of its writes: the document must be the old or the new one.
 
 #include <gtest/gtest.h>
 #include <map>
@@ -13,15 +13,14 @@ namespace {
 
 constexpr BYTE kBreak = 0xCC;
 
-// The program under a debugger that stops at every call that writes, shortens, extends or renames a file.
+// Runs the program under a debugger that stops at every function that writes, truncates, extends or renames a file.
 class Victim {
 public:
     explicit Victim(const std::vector<std::string>& arguments) {
         std::wstring line = CommandLineOf(arguments);
         STARTUPINFOW start = {};
         start.cb = sizeof start;
-        // While the program that was killed before is still being cleared away, the system may fail to start another
-        // one.
+        // The system may fail to start a process while the previously killed one is still being removed.
         for (int attempt = 0; !started_ && attempt < 10; ++attempt) {
             if (attempt > 0) ::Sleep(300);
             started_ = ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, DEBUG_ONLY_THIS_PROCESS, nullptr,
@@ -37,7 +36,7 @@ public:
     Victim(const Victim&) = delete;
     Victim& operator=(const Victim&) = delete;
 
-    // True if it was killed before that call (the first is 1), false if it ended without as many.
+    // Returns true if the process was killed before that call (counted from 1), false if it ended earlier.
     bool KillBefore(int call) {
         DEBUG_EVENT event;
         while (started_ && ::WaitForDebugEvent(&event, 60000)) {
@@ -77,12 +76,12 @@ private:
         EXPECT_TRUE(::WriteProcessMemory(process_.hProcess, at, &code, 1, &done));
         ::FlushInstructionCache(process_.hProcess, at, 1);
     }
-    // System libraries lie at the same place in every process.
+    // System libraries have the same address in every process.
     void Stop(void* function) {
         first_[function] = *static_cast<const BYTE*>(function);
         Put(function, kBreak);
     }
-    // Over the call's own first instruction, then stops at it again.
+    // Executes the function's first instruction and sets the breakpoint again.
     void Pass(void* function, DWORD threadId) {
         Put(function, first_.at(function));
         passing_ = function;
@@ -103,7 +102,7 @@ private:
 
     PROCESS_INFORMATION process_ = {};
     BOOL started_ = FALSE;
-    std::map<void*, BYTE> first_; // of each function the byte that the break replaces
+    std::map<void*, BYTE> first_; // original byte at the breakpoint of each function
     void* passing_ = nullptr;
     int calls_ = 0;
 };

@@ -1,5 +1,5 @@
-// Real documents, damaged at random in all that holds them together: none makes the system hang or crash, and no stream
-// changes that was not meant to.
+// Real documents with random damage in their structure: the system must neither hang nor crash, and no other stream may
+// change.
 
 #include "orlo/summary/summary_info.h"
 
@@ -32,8 +32,8 @@ uint32_t Number(const Bytes& file, size_t at) {
     return number;
 }
 
-// Header, allocation table, directory or table of short streams: one to three of their numbers or bytes. Some documents
-// are cut as well.
+// Changes one to three numbers or bytes in header, allocation table, directory or table of short streams. Truncates
+// some documents as well.
 Bytes Damaged(Bytes file, unsigned seed) {
     std::mt19937 random(seed);
     const uint32_t table = Number(file, 76), directory = Number(file, 48), shortTable = Number(file, 60);

@@ -1,4 +1,4 @@
-// Colors of bitmaps drawn without the system: every depth, their places, and means of what gets smaller.
+// Bitmaps drawn without the system: colors at every depth, positions, and averaging.
 
 #include "orlo/summary/dib_drawing.h"
 
@@ -10,7 +10,7 @@ using orlo::DrawDibFitted;
 
 namespace {
 
-// Pixels as 0xRRGGBB, line by line from the top.
+// Pixels as 0xRRGGBB, from the top line down.
 using Drawn = std::vector<uint32_t>;
 
 Drawn Draw(const ByteVector& dib, int width, int height) {
@@ -21,7 +21,7 @@ Drawn Draw(const ByteVector& dib, int width, int height) {
     return drawn;
 }
 
-// Lines from the bottom, each filled up to four bytes.
+// Sets table and pixels; lines are given from the bottom and padded to four bytes.
 DibBytes With(DibBytes dib, std::vector<uint32_t> table, ByteVector pixels) {
     dib.table = std::move(table);
     dib.colorsUsed = dib.bitsPerPixel <= 8 ? static_cast<uint32_t>(dib.table.size()) : 0;
@@ -73,7 +73,7 @@ TEST(DibDrawing, ColorsOfEveryDepth) {
         EXPECT_EQ(Draw(row.dib.Build(), row.dib.width, row.dib.height), row.drawn) << row.name;
 }
 
-// Masks are inside of the headers that came later.
+// Later headers include the masks.
 TEST(DibDrawing, MasksInTheHeader) {
     DibBytes dib = Masked(16, {0x001F, 0x07E0, 0xF800, 0}, {0x1F, 0, 0, 0xF8});
     dib.headerSize = 56;
@@ -100,7 +100,7 @@ TEST(DibDrawing, IsFittedIntoTheMiddle) {
 TEST(DibDrawing, ASmallerPictureHasTheMeanOfEachPart) {
     const ByteVector even = With(Dib(4, 2, 8), {0x000000, 0x050A11, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
     EXPECT_EQ(Draw(even, 2, 1), (Drawn{0x04080D, 0xBFBFBF}));
-    // Each of two has one and a half.
+    // Each of two target pixels covers one and a half.
     const ByteVector odd = With(Dib(3, 3, 8), {0, 0x0000FF}, {0, 1, 1, 0, 0, 1, 1, 0, 0, 1, 1, 0}).Build();
     EXPECT_EQ(Draw(odd, 2, 2), (Drawn{0x000055, 0x0000FF, 0x000055, 0x0000FF}));
 }
@@ -109,7 +109,7 @@ TEST(DibDrawing, RefusesWhatTheSystemsDrawingRefuses) {
     const ByteVector whole = Runs(8, {4, 1, 0, 1}).Build();
     for (size_t size = 0; size < whole.size(); ++size) {
         const ByteVector cut(whole.begin(),
-                             whole.begin() + static_cast<ptrdiff_t>(size)); // its end is guarded
+                             whole.begin() + static_cast<ptrdiff_t>(size)); // accesses beyond its end are detected
         EXPECT_FALSE(DrawDibFitted(cut.data(), cut.size(), 4, 2)) << size << " bytes";
     }
     EXPECT_EQ(Draw(Dib(2, -2, 24).Fill(0).Build(), 2, 2), Drawn()) << "from the top down";

@@ -1,4 +1,4 @@
-// Which bitmaps pass, and which promise more than they hold. Runs without windows too, under the sanitizers.
+// Accepted bitmaps, and bitmaps that declare more data than they have. Also runs natively under the sanitizers.
 
 #include "orlo/summary/dib_layout.h"
 
@@ -48,7 +48,7 @@ TEST(DibLayout, HasThePartsInPlaceAndPassesNotWhenCutAnywhere) {
         EXPECT_EQ(layout->topDown, row.dib.height < 0);
         for (size_t size = 0; size < bytes.size(); ++size) {
             const ByteVector cut(bytes.begin(),
-                                 bytes.begin() + static_cast<ptrdiff_t>(size)); // its end is guarded
+                                 bytes.begin() + static_cast<ptrdiff_t>(size)); // accesses beyond its end are detected
             EXPECT_FALSE(ReadDibLayout(cut.data(), cut.size(), DibColors::Rgb)) << size << " bytes";
         }
     }

@@ -1,4 +1,4 @@
-// Reading, writing and the failure.
+// Reads and writes the bytes, and fails if the disk is full.
 
 #include "failing_bytes.h"
 

@@ -1,4 +1,4 @@
-// The bytes of a compound file in memory, on a disk that can be full.
+// The bytes of a compound file in memory, on a simulated disk that can be full.
 #pragma once
 
 #include <cstdint>
@@ -8,22 +8,22 @@
 
 #include <objidl.h>
 
-// COM's interfaces have no virtual destructor; this one is never deleted through one.
+// COM interfaces have no virtual destructor; this object is never deleted through one.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 class FailingBytes final : public ILockBytes {
 public:
     explicit FailingBytes(std::vector<uint8_t> content = {}) : bytes(std::move(content)) {}
 
-    // In bytes. Writing beyond it fails as a full disk does. Overwriting goes on.
+    // In bytes. Writing beyond it fails like on a full disk; overwriting succeeds.
     ULONGLONG capacity = ~ULONGLONG{0};
     std::vector<uint8_t> bytes;
-    // What the disk held after each step, if it is to be kept: where a killed program leaves it.
+    // Records the contents after each step: the states in which a killed program may leave the disk.
     bool keepsHistory = false;
     std::vector<std::vector<uint8_t>> history;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // lives on the stack
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; } // on the stack
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE ReadAt(ULARGE_INTEGER at, void* buffer, ULONG size, ULONG* done) override;
     HRESULT STDMETHODCALLTYPE WriteAt(ULARGE_INTEGER at, const void* buffer, ULONG size, ULONG* done) override;

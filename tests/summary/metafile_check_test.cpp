@@ -1,5 +1,4 @@
-// Which metafile pictures pass, and what in a record makes one fail. Runs without windows too, under the
-// sanitizers.
+// Accepted metafile pictures, and the faults that cause rejection. Also runs natively under the sanitizers.
 
 #include "orlo/summary/metafile_check.h"
 
@@ -48,7 +47,7 @@ TEST(MetaFilePicture, HasItsExtentsUnderEitherHead) {
     }
 }
 
-// An extent that needs the upper words makes the head look like the narrow one, whose extent is then 0.
+// A large extent makes the header look like the 16-bit one, whose extent is then 0.
 TEST(MetaFilePicture, WideExtentsAreTakenForTheNarrowHead) {
     ByteVector bytes = Picture().BuildWide();
     bytes[6] = 1; // x extent 0x10064

@@ -1,4 +1,4 @@
-// Fields of a summary in memory: what setting, removing and wrong types do, and the numbers after dates and thumbnails.
+// Fields of a summary in memory: setting, removing and wrong types, and the stored numbers of dates and thumbnails.
 
 #include "orlo/summary/ole_summary.h"
 
@@ -105,7 +105,7 @@ TEST_F(Summary, SettingCountsStopsAtTheFirstThatFails) {
     EXPECT_EQ(OleStdGetIntProperty(set_, PIDSI_CHARCOUNT), 0);
 }
 
-// No more bytes are taken than the value has.
+// No more bytes are read than the value has.
 TEST_F(Summary, SecurityOfAnyTypeIsReadAndReplaced) {
     const short narrow = -2;
     Put(PIDSI_DOC_SECURITY, &narrow, VT_I2);
@@ -163,7 +163,7 @@ TEST_F(Summary, PointsInTimeReadBackToTwoSeconds) {
     }
 }
 
-// The published count of 100 ns since 1601 for that moment.
+// The published number of 100 ns units since 1601 for that time.
 TEST_F(Summary, PointsInTimeAreFileTimes) {
     OleStdSetDateProperty(set_, PIDSI_CREATE_DTM, 1998, 3, 2, 13, 5, 6);
     EXPECT_EQ(Ticks(PIDSI_CREATE_DTM), 125333175060000000ull);
@@ -220,7 +220,7 @@ TEST_F(Summary, ThumbnailsOfOtherShapesAreNone) {
     }
 }
 
-// As a foreign writer leaves it: the text fills its count, without a NUL.
+// As some writers store it: the text fills its count without a NUL.
 TEST_F(Summary, TextsWithoutTheirNulAreTerminated) {
     struct {
         DWORD count;

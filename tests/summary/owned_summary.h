@@ -1,4 +1,4 @@
-// A summary that is freed with its variable.
+// Owns a summary.
 #pragma once
 
 #include <memory>

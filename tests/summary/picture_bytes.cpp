@@ -1,4 +1,4 @@
-// Bytes of bitmaps and metafiles, field by field.
+// Builds bitmaps and metafiles, field by field.
 
 #include "picture_bytes.h"
 
@@ -99,7 +99,7 @@ ByteVector MetaFileBytes::Under(const std::vector<uint16_t>& head) const {
     AppendWords(bytes, head);
     AppendWords(bytes, {1, 9, version_});
     AppendLong(bytes, words);
-    AppendWords(bytes, {objects_, 0, 0, 0}); // the largest record is not given
+    AppendWords(bytes, {objects_, 0, 0, 0}); // the size of the largest record is left 0
     bytes.insert(bytes.end(), records_.begin(), records_.end());
     AppendWords(bytes, {3, 0, 0});
     return bytes;

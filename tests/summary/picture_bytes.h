@@ -1,4 +1,4 @@
-// Builds bitmaps and metafile pictures in memory, right ones and wrong ones, for the tests.
+// Builds valid and invalid bitmaps and metafile pictures in memory.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@ using ByteVector = std::vector<uint8_t>;
 void AppendWords(ByteVector& bytes, const std::vector<uint16_t>& words);
 void AppendLong(ByteVector& bytes, uint32_t value);
 
-// A 40-byte header with any values in the fields, a color table and pixels of one value.
+// A 40-byte header with arbitrary fields, a color table, and pixels with the same value.
 struct DibBytes {
     uint32_t headerSize = 40;
     int32_t width = 1;
@@ -24,16 +24,16 @@ struct DibBytes {
     ByteVector pixels;
 
     ByteVector Build() const;
-    // Fills pixels: every byte of every line.
+    // Fills the pixels with a byte.
     DibBytes& Fill(uint8_t byte);
-    // Run lengths over a full table, in the compression of the depth.
+    // Run-length data with a full table, in the compression of the depth.
     DibBytes& RunLength(ByteVector codes);
-    // The masks of 5, 6 and 5 bits.
+    // Masks of 5, 6 and 5 bits.
     DibBytes& Masked();
 };
 DibBytes Dib(int32_t width, int32_t height, uint16_t bits);
 
-// A metafile under a 16-bit head.
+// A metafile with a 16-bit header.
 class MetaFileBytes {
 public:
     MetaFileBytes(int16_t xExtent, int16_t yExtent) : xExtent_(xExtent), yExtent_(yExtent) {}
@@ -42,13 +42,13 @@ public:
     MetaFileBytes& Version(uint16_t version);
     MetaFileBytes& Record(uint16_t function, std::initializer_list<uint16_t> parameters);
     MetaFileBytes& Record(uint16_t function, const std::vector<uint16_t>& parameters);
-    // Raw words in the place of a record.
+    // Adds raw words in place of a record.
     MetaFileBytes& Raw(std::initializer_list<uint16_t> words);
-    // Window and extent as most writers set them, then a rectangle filled with that color.
+    // Sets window origin and extent as most writers do, and draws a filled rectangle.
     MetaFileBytes& FilledRectangle(uint32_t color, int16_t left, int16_t top, int16_t width, int16_t height);
-    // The picture, with the record that ends it.
+    // Returns the picture, including an end-of-file record.
     ByteVector Build() const;
-    // The same under the 32-bit head.
+    // Returns the picture with the 32-bit header.
     ByteVector BuildWide() const;
 
 private:
@@ -60,5 +60,5 @@ private:
     ByteVector records_;
 };
 
-// Words of a bitmap for a record's parameters.
+// Returns the words of a bitmap as parameters of a record.
 std::vector<uint16_t> Words(std::initializer_list<uint16_t> head, const ByteVector& tail);

@@ -1,5 +1,4 @@
-// Thumbnails of real documents against pictures of them that other programs made: covered area and mean
-// color.
+// Thumbnails of real documents, compared with renderings by other programs: covered area and mean color.
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -31,7 +30,7 @@ void ExpectLikeReference(const ByteVector& value, const fs::path& png) {
     EXPECT_NEAR(mean.blue, expected.blue, 6);
 }
 
-// The one metafile that was stored without its header.
+// Returns true for the one metafile that was stored without its header.
 bool IsBroken(const std::string& name) {
     return name.rfind("metafile-vba-in-ppt", 0) == 0;
 }
@@ -63,7 +62,7 @@ TEST(RealThumbnails, DrawLikeTheirReferencesAndLeaveNoObjects) {
     EXPECT_EQ(GdiObjectCount(), before);
 }
 
-// Every byte of the head inverted, one after the other: whatever results, nothing breaks.
+// With any single byte of the header inverted, nothing must crash.
 TEST(RealThumbnails, SurviveEveryWrongByteInTheirHeads) {
     Canvas canvas(50, 50);
     const RECT whole = canvas.Whole();

@@ -1,4 +1,4 @@
-// Summaries in compound files: saved, loaded, replaced, refused, and a document that outlives every failure to write.
+// Summaries in compound files: saving, loading, replacing, rejection, and documents after failed writes.
 
 #include "orlo/summary/summary_info.h"
 
@@ -36,7 +36,7 @@ std::string TitleIn(IStorage* storage) {
     return title ? title : "";
 }
 
-// A name in the folder of the tests, gone before and afterwards.
+// A file name in the test folder; the file is removed before and afterwards.
 class File {
 public:
     explicit File(const char* name) : path_(fs::temp_directory_path() / name) { fs::remove(path_); }
@@ -210,7 +210,7 @@ TEST(SummaryInfo, IsReplacedWhereTheStorageIsOpenForWritingAlone) {
     EXPECT_EQ(TitleIn(file.Read().get()), "second");
 }
 
-// A property of a type that has no form on a stream.
+// A property of a type without a stored form.
 TEST(SummaryInfo, ASetThatCantBeWrittenLeavesTheStream) {
     const File file("orlo-unwritable.drw");
     const Storage storage = file.Create();
@@ -245,7 +245,7 @@ struct Saved {
     std::vector<uint8_t> file;
 };
 
-// Saving into a document on a disk with so many bytes of room left.
+// Saves into a document on a disk with that many free bytes.
 Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode, CPropertySet* summary) {
     FailingBytes disk(document);
     disk.capacity = document.size() + room;
@@ -255,7 +255,7 @@ Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD m
     return {done, disk.bytes};
 }
 
-// A summary may have zeros after it that make its stream a long one.
+// Removes the zeros that may pad a summary to the length of a long stream.
 Streams WithoutZeros(Streams streams) {
     const auto summary = streams.find(u"\005SummaryInformation");
     while (summary != streams.end() && !summary->second.empty() && summary->second.back() == 0)
@@ -263,7 +263,7 @@ Streams WithoutZeros(Streams streams) {
     return streams;
 }
 
-// Direct and transacted; a document with a short, a long and no summary, and a short or long one to save.
+// Direct and transacted mode; a document with a short, a long and no summary, and a short or long one to save.
 class Saving : public testing::TestWithParam<std::tuple<DWORD, std::string, size_t>> {
 protected:
     const DWORD mode_ = std::get<0>(GetParam());
@@ -272,8 +272,8 @@ protected:
     const Streams before_ = StreamsOf(document_);
 };
 
-// Every free sector too few, from none to enough: all streams are as before, or only the summary is the new one, and
-// the result says which.
+// With every number of free sectors up to the required one: all streams are unchanged, or only the summary is new, as
+// the result says.
 TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
     const Streams after = StreamsOf(SaveWithRoom(document_, 100000, mode_, summary_.get()).file);
     ASSERT_NE(after, before_);
@@ -288,8 +288,8 @@ TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
     EXPECT_GT(saved, 1);
 }
 
-// Killed after any step: there is no unknown stream, and the others are intact; in a transacted storage the summary
-// is the old or the new one too.
+// After any step there is no unknown stream, and other streams are unchanged; in a transacted storage the summary is
+// either the old or the new one.
 TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
     FailingBytes disk(document_);
     {

@@ -1,5 +1,4 @@
-// Pictures drawn on a canvas: where they are placed, what they leave alone, and that hostile ones do
-// nothing.
+// Thumbnails drawn on a canvas: placement, preserved state, and malicious pictures.
 
 #include "orlo/summary/thumbnail.h"
 
@@ -72,7 +71,7 @@ TEST(Fitting, OfBitmapsAndMetafilePictures) {
     }
 }
 
-// Extents whose product leaves 32 bits.
+// The product of the extents exceeds 32 bits.
 TEST(Fitting, OfHugeExtents) {
     Canvas canvas(100, 100);
     const RECT whole = canvas.Whole();
@@ -163,7 +162,7 @@ TEST_F(Thumbnail, BitmapsOfEveryKindDraw) {
     }
 }
 
-// Pixel for pixel, in their own size.
+// Pixel for pixel, at the original size.
 TEST(DrawingWithoutTheSystem, HasTheColorsOfTheSystem) {
     std::vector<DibBytes> dibs = {Dib(5, 3, 16).Masked(),
                                   Dib(5, 3, 8).RunLength({4, 1, 0, 0, 0, 3, 1, 200, 3, 9, 0, 2, 1, 1, 0, 1}),
@@ -192,8 +191,8 @@ TEST(DrawingWithoutTheSystem, HasTheColorsOfTheSystem) {
     }
 }
 
-// The DC's own objects, mapping and clipping are those from before, even if the metafile saves without
-// restoring.
+// Objects, mapping and clipping of the device context are restored even if the metafile saves states without restoring
+// them.
 TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
     ::SetMapMode(canvas_.DC(), MM_ANISOTROPIC);
     ::SetViewportOrgEx(canvas_.DC(), 7, 8, nullptr);
@@ -213,9 +212,9 @@ TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
 TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
     const RECT target = {20, 20, 40, 40};
     const ByteVector picture = MetaFileBytes(50, 50)
-                                   .Record(0x020E, {60, 60}) // a viewport of its own
+                                   .Record(0x020E, {60, 60}) // sets its own viewport
                                    .Record(0x020D, {0, 0})   // at the corner of the device
-                                   .Record(0x012C, {3})      // clip region of an empty slot: none
+                                   .Record(0x012C, {3})      // selects the clip region of an empty slot
                                    .FilledRectangle(kBlue, -500, -500, 1000, 1000)
                                    .Build();
     EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &target, 1), 1);
@@ -225,7 +224,7 @@ TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
 TEST_F(Thumbnail, RecordsForOtherDevicesArePassedOver) {
     const ByteVector picture = MetaFileBytes(50, 50)
                                    .Record(0x0626, {9, 4, 0x1234, 0x5678}) // an escape with an address
-                                   .Record(0x0626, {12, 0})                // asks a printer for its page
+                                   .Record(0x0626, {12, 0})                // requests a page from a printer
                                    .Record(0x0035, {})                     // realizes a palette
                                    .Record(0x0922, {0, 0, 0, 0, 9, 9, 0, 0, 0, 99, 99, 0, 1, 1})
                                    .Record(0x01F9, {3, 0, 8, 8, 2, 0x0101, 0, 0}) // a pattern, in slot 0
@@ -243,7 +242,8 @@ SIZE_T MostMemorySoFar() {
     return counters.PeakPagefileUsage;
 }
 
-// Pictures of a few hundred bytes with sizes that took all memory, or ended the process; what follows is drawn.
+// Pictures of a few hundred bytes with sizes that used all memory or ended the process; the records that follow are
+// still drawn.
 TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
     const auto picture = [](uint16_t scale) {
         return MetaFileBytes(60, 60).Record(0x0103, {8}).Record(0x020C, {1, 1}).Record(0x020E, {scale, scale});
@@ -286,12 +286,12 @@ TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
     }
 }
 
-// Whatever the number of the record: words that lie far beyond its slots and its picture.
+// For every function number: parameters far beyond its slots and its bitmap.
 TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
     for (uint16_t function = 0; function < 0x1100; ++function) {
         for (const size_t count : {2, 20}) {
             std::vector<uint16_t> words(count, 0x7FFF);
-            words[0] = 0; // a slot, mostly
+            words[0] = 0; // usually a slot
             DrawMeta(MetaFileBytes(60, 60).Record(0x02FC, {0, 0, 0, 0}).Record(function, words).Build(), canvas_.DC(),
                      &whole_, 1);
         }
@@ -306,7 +306,7 @@ TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
     ExpectNothingDrawn();
 }
 
-// A picture at the very end of readable memory, announced longer than it is.
+// A picture at the end of readable memory that declares more bytes.
 TEST_F(Thumbnail, PicturesWithoutLengthEndWhereMemoryEnds) {
     constexpr size_t kPage = 4096;
     auto* pages = static_cast<uint8_t*>(::VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS));

@@ -1,4 +1,4 @@
-// The wizard, walked as a person walks it: by mouse and by keyboard.
+// The wizard, operated by mouse and keyboard.
 
 #include <gtest/gtest.h>
 
@@ -62,7 +62,7 @@ class Wizard : public ::testing::Test {
 protected:
     Wizard() { ::PropPageInit(); }
 
-    std::string log; // r: a page has refused; o: its OnOK; l: its own button
+    std::string log; // r: a page could not be left; o: its OnOK; l: its own button
     std::vector<std::unique_ptr<CStep>> steps;
     SheetDriver driver;
 
@@ -80,7 +80,7 @@ protected:
     int RunThree(const SheetDriver::Script& script) { return Run(*Make({kWide, kWide, kWide}), script); }
 };
 
-// Page, Back enabled, text of the other button: the three always agree.
+// Returns the page, the state of Back and the text of the other button, which always correspond.
 std::string State(const SheetDriver& user) {
     const HWND sheet = user.Sheet();
     const auto tab = ::SendDlgItemMessageA(sheet, kTabs, TCM_GETCURSEL, 0, 0);
@@ -97,7 +97,7 @@ CRect Place(const SheetDriver& user, HWND window) { // in client coordinates of 
     return rect;
 }
 
-// Pixels of dialog units in the page's font.
+// Converts dialog units in the page's font to pixels.
 CSize Units(HWND page, int x, int y) {
     CRect rect(0, 0, x, y);
     ::MapDialogRect(page, &rect);
@@ -139,20 +139,20 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
                   EXPECT_EQ(State(user), "0 - &Next >");
                   user.Focus(kField);
                   user.Key(VK_TAB);
-                  user.Key(VK_TAB); // over the check box and the disabled Back
+                  user.Key(VK_TAB); // past the check box and the disabled Back
                   EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), kNext);
                   user.Key(VK_SPACE);
                   EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus()) << "the first field of the new page";
                   ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
-                  user.Key(VK_SPACE); // disables the button that has the focus
+                  user.Key(VK_SPACE); // disables the focused button
                   EXPECT_EQ(State(user), "0 - &Next >");
                   ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page";
                   for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
                       user.Key(VK_TAB);
                   for (const char* state : {"1 Back &Next >", "2 Back Finish"}) {
                       ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
-                      user.Key(VK_RETURN); // the button's own
+                      user.Key(VK_RETURN); // of the button itself
                       EXPECT_EQ(state, State(user));
                   }
                   ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
@@ -161,7 +161,7 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
     EXPECT_EQ(log, "1o 2o 3o 3o ");
 }
 
-// Next is the default button. Any field after the one with the focus would be skipped unread.
+// Next is the default button, but pressing it would skip any field after the focused one.
 TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
     const auto wizard = Make({kWide, kNarrow, kWide});
     EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {
@@ -193,7 +193,7 @@ TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
                   EXPECT_EQ(log, "2r ");
                   steps[1]->accepts = true;
                   ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_RETURN,
-                                 0x40000001); // held down since the step before
+                                 0x40000001); // held down since the previous step
                   user.Pump();
                   EXPECT_EQ(State(user), "1 Back &Next >");
                   user.Key(VK_RETURN);
@@ -226,7 +226,7 @@ TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
     });
 }
 
-// A page that grows lies over the buttons while they are moved: what the system copies must be drawn again.
+// A page that grows covers the buttons while they are moved, so parts copied by the system must be redrawn.
 TEST_F(Wizard, IsDrawnWholeOnEachPage) {
     const auto walk = [&] {
         const auto wizard = Make({kNarrow, kWide, kQuiet, kNarrow});
@@ -266,7 +266,7 @@ TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
     EXPECT_EQ(log, "1o 2o 2o ");
 }
 
-// The host's own command of the button counts, as if it had been clicked.
+// The host's own handler of the button's command is called as for a click.
 TEST_F(Wizard, ReturnIsAClickOnTheButton) {
     class Counting : public CWizardSheet {
     public:
@@ -288,7 +288,7 @@ TEST_F(Wizard, ReturnIsAClickOnTheButton) {
     EXPECT_EQ(log, "");
 }
 
-// The window rectangle that a page has after its OnSetActive counts.
+// The size of the page is its window rectangle after OnSetActive.
 TEST_F(Wizard, IsAsLargeAsThePageHasMadeItself) {
     const auto wizard = Make({kNarrow, kQuiet, kNarrow});
     steps[0]->grows = CSize(0, 20);
@@ -333,7 +333,7 @@ TEST_F(Wizard, KeepsTheSizeThatAHostHasGivenItsPage) {
     });
 }
 
-// The one push button of sheet and page that has the frame; 0 for none, -1 for several.
+// Returns the push button of sheet and page that has the frame; 0 for none, -1 for several.
 int FramedButton(const SheetDriver& user) {
     int framed = 0;
     ForEachChild(user.Sheet(), [&](HWND child) {
@@ -401,7 +401,7 @@ TEST_F(Wizard, EndsACaptionThatIsCutWithDots) {
         Pixels picture(client.Width(), client.Height());
         ::SendMessageA(heading, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.DC()), PRF_CLIENT | PRF_ERASEBKGND);
         const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
-        int right = client.right; // of the ink
+        int right = client.right; // of the drawn pixels
         while (right > 5 && picture.Count({right - 1, 0, right, client.bottom}, text) == 0)
             --right;
         const CRect end(right - 5, 0, right, client.Height());
