@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Reads the compound file written by the interoperation test with other programs: independent_readers.sh FILE Uses gsf
-# and olefile, which ./run setup installs.
+# Reads the compound file written by the interoperation test with other programs: gsf and olefile, which ./run setup
+# installs.
+#   independent_readers.sh FILE
 set -euo pipefail
 file=$1
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Compares the native program with the Windows program: output, exit codes and files must be identical. both_programs.sh
-# WINDOWS NATIVE DOCUMENTS STREAMS FOLDER Uses real documents and streams, damaged ones, and texts in every code page;
-# also the folder named by ORLO_CORPUS. Exits with 77 if the native program, which ./run test builds first, does not
-# exist.
+# Compares the native program with the Windows program: output, exit codes and files must be identical.
+#   both_programs.sh WINDOWS NATIVE DOCUMENTS STREAMS FOLDER
+# Uses real documents and streams, damaged ones, and texts in every code page; also the folder named by ORLO_CORPUS.
+# Exits with 77 if the native program, which ./run test builds first, does not exist.
 set -euo pipefail
 windows=$1 native=$2 documents=$3 streams=$4 folder=$5
 here=$(dirname "$(realpath "$0")")

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# suminfo on real disks: links, permissions, and full disks. files.sh SUMINFO DOCUMENTS FOLDER Exits with 77 if it
-# cannot mount a disk.
+# suminfo on real disks: links, permissions, and full disks.
+#   files.sh SUMINFO DOCUMENTS FOLDER
+# Exits with 77 if it cannot mount a disk.
 set -euo pipefail
 program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3
 

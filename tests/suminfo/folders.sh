@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Contents of a folder that a Windows folder cannot have: links to itself, and names that Windows cannot open. Also a
-# pipe whose reader ends. folders.sh SUMINFO DOCUMENT FOLDER
+# pipe whose reader ends.
+#   folders.sh SUMINFO DOCUMENT FOLDER
 set -euo pipefail
 program=$1 document=$2 folder=$3
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Native-only features of the program: names of arbitrary bytes, pipes and devices in a folder, permissions, and
-# unmodified delegation to the Windows program. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
+# delegation to the Windows program without changes.
+#   here.sh SUMINFO DOCUMENTS STREAMS FOLDER
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Edits real documents with suminfo and reads them with other programs: independent_readers.sh SUMINFO DOCUMENTS FOLDER
-# Uses gsf and olefile, which ./run setup installs.
+# Edits real documents with suminfo and reads them with other programs: gsf and olefile, which ./run setup installs.
+#   independent_readers.sh SUMINFO DOCUMENTS FOLDER
 set -euo pipefail
 program=$1 documents=$2 folder=$3
 

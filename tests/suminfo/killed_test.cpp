@@ -122,7 +122,7 @@ TEST(Killed, AtAnyWriteLeavesTheOldDocumentOrTheNew) {
         EXPECT_EQ(FileBytes(file), killed ? before : after) << "killed at call " << call;
     }
     EXPECT_GT(call, 10);
-    // What was left lies beside it and does no harm.
+    // Leftover temporary files are harmless.
     for (const auto& entry : fs::directory_iterator(folder.Path()))
         EXPECT_TRUE(entry.path() == file || entry.path().extension() == ".tmp") << entry.path();
     EXPECT_EQ(RunSuminfo(edit).exitCode, 0);

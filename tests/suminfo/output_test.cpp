@@ -1,4 +1,4 @@
-// suminfo check, thumbnail and rc, and the command line itself.
+// suminfo check, thumbnail and rc, and parsing of the command line.
 
 #include <algorithm>
 #include <fstream>
@@ -19,7 +19,7 @@ TEST(Thumbnail, InItsOwnSizeOrInAGivenOne) {
     const std::string stream = (kStreams / "CameraRollAnim-max--SummaryInformation--68b542.bin").string();
     const struct {
         std::vector<std::string> line;
-        int width, height, drawn;                              // bytes that aren't white, at least
+        int width, height, drawn;                              // minimum number of pixels that are not white
     } rows[] = {{{"thumbnail", document, png}, 197, 256, 300}, // of 21590 by 27940
                 {{"thumbnail", document, png, "--size", "100x40"}, 100, 40, 30},
                 {{"thumbnail", "--stream", stream, png}, 256, 180, 300}};

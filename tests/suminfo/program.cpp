@@ -1,4 +1,4 @@
-// A child process with its output in files.
+// Runs a child process with its output in files.
 
 #include "program.h"
 
@@ -17,7 +17,7 @@ std::wstring Wide(const std::string& utf8) {
     return fs::u8path(utf8).wstring();
 }
 
-// As the system's own rules split a command line: quotes and the backslashes before them are escaped.
+// Escapes quotes and the backslashes before them, by the system's rules for command lines.
 std::wstring Quoted(const std::string& argument) {
     std::wstring quoted = L"\"";
     size_t backslashes = 0;

@@ -1,4 +1,4 @@
-// Runs suminfo.exe as a person does: a command line, what it prints, its exit code. And folders to work in.
+// Runs suminfo.exe with a command line, and returns its output and exit code. Also creates work folders.
 #pragma once
 
 #include <filesystem>
@@ -14,17 +14,17 @@ struct Outcome {
     std::string out, err;
 };
 
-// What starts suminfo.exe with these arguments, in UTF-8.
+// Returns the command line that starts suminfo.exe with these arguments, in UTF-8.
 std::wstring CommandLineOf(const std::vector<std::string>& arguments);
-// Arguments in UTF-8; the working folder is the given one; standard input holds the given text.
+// Arguments are in UTF-8. The text is passed on standard input.
 Outcome RunSuminfo(const std::vector<std::string>& arguments,
                    const std::filesystem::path& folder = std::filesystem::temp_directory_path(),
                    const std::string& input = {});
 
-// What show --json has printed, one object a line, by the bare names of the files.
+// Splits the output of show --json, one object per line, by file name.
 std::map<std::string, Json> ByFile(const std::string& lines);
 
-// A folder of its own for each test, gone afterwards.
+// A temporary folder, deleted by the destructor.
 class Folder {
 public:
     Folder();
@@ -33,7 +33,7 @@ public:
     Folder& operator=(const Folder&) = delete;
 
     const std::filesystem::path& Path() const { return path_; }
-    // A copy of the file, to be changed; its name is that of the original unless another is given.
+    // Copies a file for modification, under its own name unless another is given.
     std::filesystem::path Copy(const std::filesystem::path& file, const std::string& name = {}) const;
 
 private:

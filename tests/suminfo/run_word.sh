@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# ./run suminfo: paths of the caller, arguments from standard input, and what goes to the Windows program in silence.
-# run_word.sh SOURCE WINDOWS NATIVE DOCUMENTS FOLDER
-# Ends with 77 if the native program, which ./run test makes first, isn't there.
+# ./run suminfo: paths relative to the caller's folder, arguments from standard input, and delegation to the Windows
+# program.
+#   run_word.sh SOURCE WINDOWS NATIVE DOCUMENTS FOLDER
+# Exits with 77 if the native program, which ./run test builds first, does not exist.
 set -euo pipefail
 source=$1 windows=$2 native=$3 documents=$4 folder=$5
 [ -x "$native" ] || exit 77
@@ -29,7 +30,7 @@ printf 'set\0test11--695187.doc\0title=Two\0' | suminfo @-
 expect_title Two
 printf 'title=Three\0' | suminfo set test11--695187.doc @-
 expect_title Three
-long=$(printf 'long%.0s' {1..10000}) # more than a command line of Windows holds
+long=$(printf 'long%.0s' {1..10000}) # longer than a Windows command line
 suminfo set test11--695187.doc "title=$long"
 expect_title "$long"
 status=0

@@ -64,7 +64,7 @@ for name in sorted(os.listdir(STREAMS)):
         after["fmtid"], after["known"] = section["fmtid"], section["known"]
         names = {prop["id"]: prop["name"] for prop in section["properties"]}
         for prop in after["properties"]:
-            prop["name"] = names.get(prop["id"])  # fields are known by the format
+            prop["name"] = names.get(prop["id"])  # the format determines the fields
         if after != section:
             failures.append(f"{name}: {after} is not {section}"[:600])
         compiled += 1

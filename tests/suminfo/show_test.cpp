@@ -13,7 +13,7 @@ Json Load(const fs::path& file) {
     return Json::parse(std::ifstream(file));
 }
 
-// Without the raw bytes that the manifest gives beside some texts of variants.
+// Removes the raw bytes that the manifest contains for some texts of variants.
 Json WithoutBytes(Json value) {
     if (value.is_object()) value.erase("bytes");
     if (value.is_structured())
@@ -28,7 +28,7 @@ const Json* Property(const Json& section, const Json& id) {
     return nullptr;
 }
 
-// A value is only worth comparing if readers agree on it; in a list of chosen values all are.
+// Returns whether readers agree on the value; for a list, on all its elements.
 bool IsAgreed(const Json& property) {
     return !property.contains("agreed_by") || !property["agreed_by"].empty();
 }
@@ -63,7 +63,7 @@ const Json* Stream(const Json& file, const Json& name) {
     return nullptr;
 }
 
-// Damaged ones say so, and don't hang; what can be read of them is shown.
+// Damaged documents are reported without a hang, and the readable part is shown.
 TEST(Show, ValuesOfRealDocuments) {
     const Outcome run = RunSuminfo({"show", "--json", "-r", kDocuments.string()});
     const auto shown = ByFile(run.out);
@@ -145,7 +145,7 @@ TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
     EXPECT_EQ(RunSuminfo({"show", "--stream", "fn-et--SummaryInformation--b68908.bin"}, kStreams).exitCode, 0);
 }
 
-// A terminal would obey them.
+// A terminal would interpret them.
 TEST(Show, ControlCharactersAreShownByTheirNumbers) {
     const Folder folder;
     const std::string name = "name \xC2\x9B.doc", shown = "name \\x9b.doc";
@@ -165,7 +165,7 @@ TEST(Show, ControlCharactersAreShownByTheirNumbers) {
     EXPECT_EQ(json.out.find_first_of("\x1B\x7F\x9B"), std::string::npos) << "raw";
 }
 
-// The root of the directory has lost its entries: what nothing leads to now is shown, and named as damage.
+// The root of the directory has lost its entries: unreachable streams are shown and reported as damage.
 TEST(Show, ADamagedDirectoryFailsAndWhatItStillHasIsShown) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");

@@ -1,4 +1,4 @@
-// Reading by the system, and writing one stream.
+// Reads streams with the system's functions, and writes one.
 
 #include "streams.h"
 

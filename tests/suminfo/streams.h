@@ -1,4 +1,4 @@
-// All streams of a compound file, by the system's own reading, to see what an edit has touched.
+// Reads all streams of a compound file with the system's functions, to find what an edit has changed.
 #pragma once
 
 #include <filesystem>
@@ -9,8 +9,8 @@
 
 #include "orlo/propset/inspect/set_image.h"
 
-// Path inside the file ("Outer/Inner", 8-bit) to bytes.
+// Maps paths inside the file ("Outer/Inner", 8-bit) to bytes.
 std::map<std::string, std::vector<unsigned char>> StreamsOf(const std::filesystem::path& file);
-// Changes the property set in a stream of the document's own (8-bit name), whatever it does to it.
+// Edits the property set in a stream of the root storage (8-bit name) with a function.
 void EditSet(const std::filesystem::path& file, const std::string& stream,
              const std::function<void(orlo::SetImage&)>& edit);

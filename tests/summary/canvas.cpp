@@ -1,4 +1,4 @@
-// Looks at every pixel.
+// Examines the pixels.
 
 #include "canvas.h"
 

@@ -1,4 +1,4 @@
-// A white picture to draw on, and what of it is covered afterwards.
+// A white bitmap to draw on, which reports the pixels that were drawn.
 #pragma once
 
 #include <cstdint>
@@ -16,12 +16,12 @@ public:
     Canvas(int width, int height);
 
     RECT Whole() const { return {0, 0, width_, height_}; }
-    // Red, green and blue of every pixel, line by line from the top.
+    // Sets red, green and blue of every pixel, from the top line down.
     void Fill(const std::vector<uint8_t>& colors);
     void Whiten() { Clear(RGB(255, 255, 255)); }
-    // The smallest rectangle around everything that isn't white, or nothing.
+    // Returns the smallest rectangle around all pixels that are not white, or nothing.
     std::optional<RECT> Covered() const;
-    // The share of pixels that aren't white.
+    // Returns the share of pixels that are not white.
     double Coverage() const;
     MeanColor Mean() const;
 

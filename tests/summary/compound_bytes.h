@@ -1,4 +1,4 @@
-// Compound files in memory and their streams, by our reader.
+// Reads compound files in memory with the library's reader.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 #include "orlo/summary/compound_reader.h"
 
-// Of bytes that live longer.
+// The bytes must outlive the reader.
 inline orlo::CompoundReader ReaderOf(const std::vector<uint8_t>& file) {
     const orlo::ReadAt read = [&file](uint64_t offset, void* buffer, size_t size) {
         if (offset > file.size() || size > file.size() - offset) return false;
@@ -19,7 +19,7 @@ inline orlo::CompoundReader ReaderOf(const std::vector<uint8_t>& file) {
     return orlo::CompoundReader(read, file.size());
 }
 
-// Those that the directory leads to.
+// The streams that are reachable from the directory.
 using Streams = std::map<std::u16string, std::vector<uint8_t>>;
 
 inline Streams StreamsOf(const std::vector<uint8_t>& file) {

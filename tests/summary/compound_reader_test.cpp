@@ -1,4 +1,4 @@
-// Structures of compound files, sound ones and ones damaged on purpose. Runs without windows too, under the sanitizers.
+// Structures of compound files, intact and damaged. Also runs natively under the sanitizers.
 
 #include "orlo/summary/compound_reader.h"
 
@@ -38,21 +38,21 @@ void Put(ByteVector& file, size_t offset, uint32_t number) {
 size_t SectorAt(uint32_t sector) {
     return (sector + 1) * kSector;
 }
-// Where the allocation table (of one sector) names what follows the sector.
+// Returns the offset of the sector's successor in the allocation table (of one sector).
 size_t NextOf(const ByteVector& file, uint32_t sector) {
     return SectorAt(Number(file, 76)) + 4 * sector;
 }
 uint32_t DirectoryOf(const ByteVector& file) {
     return Number(file, 48);
 }
-// In the directory's first sector.
+// In the first sector of the directory.
 size_t EntryAt(const ByteVector& file, uint32_t entry) {
     return SectorAt(DirectoryOf(file)) + 128 * entry;
 }
 constexpr size_t kName = 0, kChild = 76, kStart = 116, kSize = 120;
 
-// Gives the first stream sectors of its own after the others, and says which is the last. The file ends after `there`
-// bytes of them.
+// Appends sectors for the first stream after the others and returns the last. The file ends after `there` bytes of
+// them.
 uint32_t AddLongStream(ByteVector& file, size_t size, size_t there) {
     const auto first = static_cast<uint32_t>(file.size() / kSector - 1);
     const auto last = static_cast<uint32_t>(first + (size - 1) / kSector);
@@ -85,7 +85,7 @@ TEST(CompoundReader, RealFiles) {
     EXPECT_EQ(StateOf(cut), CompoundState::foreign);
 }
 
-// Cut anywhere after the header: nothing is read past its end, and what a stream still has is read.
+// Truncated anywhere after the header: nothing is read past the end, and the remaining parts of streams are read.
 TEST(CompoundReader, CutFiles) {
     const ByteVector whole = Load("test11--695187.doc");
     size_t most = 0;
@@ -109,8 +109,8 @@ void PutName(ByteVector& file, size_t entry, const std::string& name) {
     PutShort(file, entry + 64, static_cast<uint16_t>(2 * name.size() + 2));
 }
 
-// A file with one stream of 5000 bytes, of as many allocation sectors as are asked for: these, the directory, the
-// stream.
+// Returns a file with one stream of 5000 bytes and the requested number of allocation sectors: these, the directory,
+// the stream.
 ByteVector MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
     ByteVector file(sectorBytes * (1 + tables * sectorBytes / 4));
     std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());
@@ -187,7 +187,7 @@ TEST(CompoundReader, ReadsAllocationSectorsSideBySideAtOnce) {
     EXPECT_LT(reads, 10u);
 }
 
-// A table may name more sectors than the file has.
+// A table may have more sectors than the file.
 TEST(SectorTable, FollowsNoChainBeyondTheEndOfTheFile) {
     orlo::SectorTable table({1, 2, 3, orlo::kEndOfChain}, 2);
     EXPECT_EQ(table.Follow(0, 10), (std::vector<uint32_t>{0, 1}));
@@ -244,7 +244,7 @@ const Bend kBends[] = {
      CompoundState::torn},
     {"NameWithoutItsEnd", [](ByteVector& file) { file[EntryAt(file, 1) + kName + 38] = 'x'; }, CompoundState::torn},
     {"NamesOutOfOrder",
-     [](ByteVector& file) { // left and right changed
+     [](ByteVector& file) { // left and right swapped
          const size_t entry = EntryAt(file, 1);
          const uint32_t left = Number(file, entry + 68);
          Put(file, entry + 68, Number(file, entry + 72));
@@ -279,7 +279,7 @@ const Bend kBends[] = {
     {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); }, CompoundState::torn},
 };
 
-// A hundred streams on one chain would be a hundred times the file.
+// Otherwise a hundred streams on one chain would be read as a hundred times the file.
 TEST(CompoundReader, SharedSectorsAreReadOnceMoreAtTheMost) {
     ByteVector file = Load("test11--695187.doc");
     AddLongStream(file, 60 * kSector, 60 * kSector);
@@ -294,7 +294,7 @@ TEST(CompoundReader, SharedSectorsAreReadOnceMoreAtTheMost) {
     EXPECT_LT(all, 2 * file.size());
 }
 
-// Their paths would fill the memory.
+// Otherwise their paths would exhaust memory.
 TEST(CompoundReader, StoragesInStoragesWithoutEnd) {
     ByteVector file = Load("test11--695187.doc");
     constexpr uint32_t kStorages = 100;
