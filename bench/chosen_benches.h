@@ -1,4 +1,4 @@
-// The benches of a program, those that its command line names or, without a name, all.
+// Runs the benchmarks named on the command line or, without names, all.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// Times two pieces of work against each other: in turn, many times, by the median of the ratios, since this machine's
-// speed changes from moment to moment. Prints "name value unit" lines.
+// Compares the times of two functions, run alternately many times: the median of the ratios is stable even if the speed
+// of the machine varies. Prints "name value unit" lines.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-// Seconds that work takes.
+// Returns the seconds that work takes.
 template <class Work>
 double Seconds(Work&& work) {
     const auto start = std::chrono::steady_clock::now();
@@ -22,12 +22,12 @@ inline double Median(std::vector<double> values) {
 }
 
 struct Pair {
-    double ratio;    // of ours to the baseline
-    double seconds;  // of ours
-    double baseline; // its seconds
+    double ratio;    // of the product to the baseline
+    double seconds;  // of the product
+    double baseline; // of the baseline
 };
 
-// Runs both once to warm up, then rounds times in turn.
+// Runs both once to warm up, then alternately.
 template <class Ours, class Baseline>
 Pair Compare(int rounds, Ours&& ours, Baseline&& baseline) {
     ours();
@@ -48,7 +48,8 @@ inline void Print(const char* name, double value, const char* unit) {
     std::fflush(stdout);
 }
 
-// What ten times as much costs, of ours and of the baseline: where both grow alike, the machine's caches are the cause.
+// Prints the growth of both with ten times the amount of data: if they grow alike, the reason is the processor's
+// caches.
 inline void PrintGrowth(const std::string& name, const Pair& small, const Pair& large) {
     Print((name + "_growth").c_str(), large.seconds / small.seconds, "x_for_10n");
     Print((name + "_baseline_growth").c_str(), large.baseline / small.baseline, "x_for_10n");

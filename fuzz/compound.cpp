@@ -1,5 +1,4 @@
-// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a sound file is
-// complete.
+// Compound files: any input is read in bounded time and memory, and every stream of an intact file is complete.
 
 #include <cstdint>
 #include <cstdlib>
@@ -21,6 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         all += there;
         if (sound && there != stream.size) std::abort();
     }
-    if (all > 2 * size) std::abort(); // once for its own stream, once more for those that share it
+    if (all > 2 * size) std::abort(); // once as its own stream, and once more for all streams that share it
     return 0;
 }

@@ -1,4 +1,4 @@
-// Bitmaps: whatever passes has all its parts inside the block, and is drawn from there.
+// Bitmaps: an accepted bitmap has all its parts inside the block, and is drawn.
 
 #include <cstdint>
 
@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (layout->headerSize > layout->pixelOffset || layout->pixelOffset > size) __builtin_trap();
         if (layout->pixelBytes > size - layout->pixelOffset) __builtin_trap();
     }
-    // A thumbnail's value has tag and format before the picture.
+    // The value of a thumbnail begins with tag and format.
     constexpr size_t kHead = 8;
     if (size > kHead) {
         orlo::ReadDibLayout(data + kHead, size - kHead, orlo::DibColors::Rgb, 3);

@@ -1,4 +1,4 @@
-// Fuzzes the DXF reader: whatever the bytes, a drawing is read or refused, and what was read can be walked.
+// DXF reader: any input is read or rejected, and a drawing that was read can be iterated.
 
 #include <cstddef>
 #include <cstdint>

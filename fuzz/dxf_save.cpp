@@ -1,5 +1,4 @@
-// Fuzzes saving: whatever was read, its text without changes is the same, and with every entity changed it is read
-// again.
+// Saving: without changes the text stays identical, and with every entity changed it can be read again.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +11,7 @@
 
 namespace {
 
-// What has a group, what has none, and what is both.
+// Covers properties with a group, without one, and with an optional one.
 void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entities) {
     for (const dxf::Entity& entity : entities) {
         dxf::Look look = dxf::LookOf(patch.Known(), entity);
@@ -35,7 +34,7 @@ void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entitie
     }
 }
 
-// Takes every other entity out and adds some; what is left has moved as it says.
+// Removes every second entity and adds some; checks the resulting positions.
 void CheckStructure(std::string_view text, const dxf::Document& drawing) {
     dxf::StructurePatch patch(text, drawing.Tables());
     dxf::Block block;
@@ -72,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         changed = patch.Finish();
         CheckStructure(text, drawing);
     } catch (const dxf::SaveError&) {
-        return 0; // said, and nothing is written
+        return 0; // reported, with nothing written
     } catch (const dxf::ReadError&) {
         return 0;
     }

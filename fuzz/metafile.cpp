@@ -1,4 +1,4 @@
-// Metafile pictures: whatever passes lies inside the block and can be walked to its end.
+// Metafile pictures: an accepted one lies inside the block and can be iterated to its end.
 
 #include <cstdint>
 
@@ -23,7 +23,7 @@ void Check(const uint8_t* data, size_t size) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Check(data, size);
-    // A thumbnail's value has tag and format before the picture.
+    // The value of a thumbnail begins with tag and format.
     constexpr size_t kHead = 8;
     if (size > kHead) Check(data + kHead, size - kHead);
     return 0;

@@ -1,4 +1,4 @@
-// Numbers, lengths and angles from texts.
+// Parsing of numbers, lengths and angles.
 
 #include <cmath>
 #include <string>
@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Require(NumberIn(text) == NumberIn(taken) || taken.find('-') != taken.npos); // "6-1/2x" is a difference
     if (!taken.empty() && taken.find('-') == taken.npos) {
         const double alike = NumberIn("1*(" + taken + ")");
-        Require(alike == number || taken.find('(') != taken.npos); // which may be too deep
+        Require(alike == number || taken.find('(') != taken.npos); // unless it is nested too deeply
     }
 
     double value = kUntouched;

@@ -1,4 +1,4 @@
-// Name dictionaries, the first two bytes being the code page of their section.
+// Dictionaries. The first two bytes of the input are the code page of the section.
 
 #include <cstring>
 
@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
 
     CPropertySection section;
-    section.Set(1, &codePage, VT_I2); // 1200 makes names of 16-bit characters possible
+    section.Set(1, &codePage, VT_I2); // 1200 allows names of 16-bit characters
     MemoryStream stream(std::vector<uint8_t>(data, data + size));
     section.ReadNameDictFromStream(&stream);
     MemoryStream out;

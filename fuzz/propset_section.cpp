@@ -1,4 +1,4 @@
-// One section, wherever the set's list of sections says it is.
+// A single section, at any offset in the list of sections.
 
 #include <cstring>
 
@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         DWORD valueSize = 0;
         const auto* value = static_cast<const uint8_t*>(property->Get(&valueSize));
         for (DWORD i = 0; value != nullptr && i < valueSize; ++i)
-            static_cast<void>(static_cast<const volatile uint8_t*>(value)[i]); // all of it is ours to read
+            static_cast<void>(static_cast<const volatile uint8_t*>(value)[i]); // all bytes must be readable
         property->SetType(property->GetType() ^ VT_VECTOR);
         MemoryStream out;
         property->WriteToStream(&out);

@@ -1,5 +1,5 @@
-// Whole streams: what the inspecting reader takes it can write and read back equal; what the classes take they can
-// write; neither takes memory or time out of proportion.
+// Whole streams: a set that SetImage accepts is written and read back equal; a set that the classes accept can be
+// written; neither uses excessive memory or time.
 
 #include <cstdlib>
 
@@ -34,7 +34,7 @@ void Inspect(const uint8_t* data, size_t size) {
     Require(held <= 5 * size);
 
     const auto written = orlo::WriteSetImage(*image);
-    if (!written) return; // a name that its code page decodes but can't encode
+    if (!written) return; // a name that can be decoded but not encoded
     const auto again = orlo::ReadSetImage(written->data(), written->size(), findings);
     Require(again && again->sections.size() == image->sections.size());
     Require(orlo::WriteSetImage(*again) == written);

@@ -1,4 +1,4 @@
-// Values from texts: the first two bytes are the type.
+// Values from text. The first two bytes of the input are the type.
 
 #include <cstring>
 #include <string>

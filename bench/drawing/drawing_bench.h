@@ -1,4 +1,4 @@
-// The benches of drawings: each prints its lines.
+// The benchmarks of drawings; each prints its results.
 #pragma once
 
 void BenchSaving();

@@ -1,6 +1,6 @@
-// A drawing of a million entities in the viewer: frames while it moves, a change of all and its undo, memory.
+// A drawing of a million entities in the viewer: frames during movement, a change of all graphics and its undo, memory.
 //
-// A frame is counted in copies of a picture of the view's size from memory to memory, without which none gets along.
+// The baseline of a frame is copying a bitmap of the view's size in memory, which every frame requires.
 
 #include "bench/drawing/drawing_bench.h"
 
@@ -28,7 +28,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kSide = 1000; // entities along each side of the field that they fill
+constexpr int kSide = 1000; // number of entities along each side of the square that they cover
 constexpr int kEntities = kSide * kSide;
 constexpr int kRounds = 3;
 
@@ -56,7 +56,7 @@ void WriteEntity(FILE* file, int number) {
     }
 }
 
-// Seven lines of ten, with circles, texts and insertions among them.
+// Seven of ten are lines, the others circles, texts and insertions.
 void WriteDrawing(const fs::path& path) {
     FILE* file = ::_wfopen(path.c_str(), L"wb");
     std::fputs("  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1009\n  0\nENDSEC\n"
@@ -71,7 +71,7 @@ void WriteDrawing(const fs::path& path) {
     std::fclose(file);
 }
 
-// Bytes of all blocks of all heaps, with what each block costs besides.
+// Returns the bytes of all blocks in all heaps, including the overhead of each block.
 double HeapBytes() {
     double bytes = 0;
     HANDLE heaps[64];
@@ -84,7 +84,7 @@ double HeapBytes() {
     return bytes;
 }
 
-// The viewer with that drawing.
+// The viewer with the drawing.
 class MillionViewer {
 public:
     MillionViewer() : m_path(fs::temp_directory_path() / "bench_mixed.dxf"), m_frame(new CMainFrame) {
@@ -97,7 +97,7 @@ public:
         m_frame->Show(Document::Open(Utf8(m_path.c_str()), [](int) { return true; }));
         Paint();
         ::ViewportPick(View().GetCamera().Viewport(), Drawing().Root(), {0, 0}, 1,
-                       kAllGraphics); // makes the index
+                       kAllGraphics); // creates the index
         m_bytes = HeapBytes() - before - TextBytes();
     }
     ~MillionViewer() {
@@ -109,20 +109,20 @@ public:
     CMainFrame& Frame() { return *m_frame; }
     CDrawingView& View() { return m_frame->View(); }
     Document& Drawing() { return *m_frame->GetDocument(); }
-    double Bytes() const { return m_bytes; } // of the drawing and all that shows it, without the text of its file
+    double Bytes() const { return m_bytes; } // of the drawing and all views of it, without the text of its file
 
-    // Of its file's text, which is kept to save the drawing.
+    // of the file's text, which is kept for saving
     double TextBytes() const { return static_cast<double>(fs::file_size(m_path)); }
 
     void Paint() { ::UpdateWindow(View().m_hWnd); }
 
 private:
     const fs::path m_path;
-    CMainFrame* const m_frame; // goes with its window
+    CMainFrame* const m_frame; // deleted with its window
     double m_bytes = 0;
 };
 
-// Copies a picture of the view's size.
+// Copies a bitmap of the view's size.
 class Copy {
 public:
     explicit Copy(CWnd& view) {
@@ -138,7 +138,7 @@ private:
     MemoryPicture m_from, m_to;
 };
 
-// A frame of each step, by turns there and back.
+// Measures the frames of steps in alternating directions.
 template <class There, class Back>
 void PrintFrames(const char* name, MillionViewer& viewer, Copy& copy, There there, Back back) {
     constexpr int kTurns = 4;
@@ -189,8 +189,8 @@ void PrintSeconds(const char* name, const Pair& pair) {
     Print((std::string(name) + "_time").c_str(), pair.seconds, "s");
 }
 
-// One property of all graphics: as a step that can be undone, and its undo, each against the bare loop; and as the user
-// sees it, with all that the window shows of it.
+// Changes one property of all graphics as an undo step, and undoes it, each against a plain loop; also measures the
+// time until the window shows the change.
 void BenchChange(MillionViewer& viewer) {
     Document& drawing = viewer.Drawing();
     uint32_t color = 0;
@@ -208,8 +208,8 @@ void BenchChange(MillionViewer& viewer) {
     PrintSeconds("view_undo_1000000", Compare(kRounds, undo, bare));
 }
 
-// What a user waits for who has changed the color of all on the sheet's page of pens and goes to another page: it is
-// written, the next page merges its own, and the view shows it.
+// Measures how long the user waits after changing the color of all graphics on the Pen page and going to another page:
+// the value is written, the next page is loaded, and the view is drawn.
 double SecondsOfPageChange(MillionViewer& viewer) {
     UserInput user(0);
     double seconds = 0;

@@ -1,5 +1,4 @@
-// Opening and saving a drawing of a million entities, against opening it and copying its file: how long that takes, and
-// how much memory.
+// Opening and saving a drawing of a million entities, against opening it and copying its file: time and memory.
 
 #include "bench/drawing/drawing_bench.h"
 
@@ -24,7 +23,7 @@ namespace fs = std::filesystem;
 constexpr int kEntities = 1000000;
 constexpr int kRounds = 3;
 
-// Lines on two layers, as a program of today writes them.
+// Lines on two layers, in the format of current programs.
 void WriteDrawing(const fs::path& path) {
     FILE* file = ::_wfopen(path.c_str(), L"wb");
     std::fputs("  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n",

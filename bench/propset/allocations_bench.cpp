@@ -1,4 +1,4 @@
-// Blocks that the host's allocator gives for each value, by counting them.
+// Counts the blocks that the host's allocator returns per value.
 
 #include <cstdlib>
 
@@ -16,7 +16,7 @@ constexpr GUID kFormat = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
 
 } // namespace
 
-// This program's allocator, in the place of the one that the static library has.
+// Replaces the allocator of the static library.
 void* DrawCoreNew(size_t size) {
     ++allocations;
     return std::malloc(size);

@@ -1,6 +1,6 @@
-// Sets of 10 to 1,000,000 properties with a dictionary: reading, looking all of them up, writing, and how each grows.
-// Beside it how the same grows in the list and the maps of the standard library, which the processor's caches and the
-// allocator hit alike.
+// Sets of 10 to 1,000,000 properties with a dictionary: growth of the time for reading, looking up and writing all of
+// them. The baseline uses the list and maps of the standard library, which are affected equally by caches and
+// allocator.
 
 #include <algorithm>
 #include <cstring>
@@ -36,7 +36,8 @@ void Fill(CPropertySet& set, DWORD count) {
     }
 }
 
-// All of them by ID, by name, and their names by ID. The sum keeps the compiler from leaving it out.
+// Looks up all properties by ID and by name, and all names by ID. Returns a sum so that the compiler does not remove
+// the loop.
 DWORD LookUpAll(CPropertySection& section, const std::vector<std::string>& names) {
     DWORD sum = 0;
     CString name;
@@ -51,7 +52,7 @@ DWORD LookUpAll(CPropertySection& section, const std::vector<std::string>& names
 
 constexpr size_t kValueSize = 20; // of a type and a text
 
-// As many objects with a block each, and names for them.
+// The same number of objects with one block each, and their names.
 class PlainSet {
 public:
     explicit PlainSet(const std::vector<std::string>& names) {
@@ -103,7 +104,7 @@ std::vector<std::string> NamesOf(DWORD count) {
     return names;
 }
 
-// A set of so many properties, with what it takes to use it.
+// A set of that many properties, with the data to use it.
 struct Sized {
     explicit Sized(DWORD size)
         : count(size), repeats(size < 10000 ? 10000 / size : 1), names(NamesOf(size)), plain(names) {
@@ -148,7 +149,7 @@ void WritePlain(Sized& sized) {
     sized.plain.Write(sized.plainStream);
 }
 
-// Seconds of one time: the least of some, as others slow this machine down and nobody speeds it up.
+// Returns the minimum of several measurements, since other processes can only slow it down.
 double Measure(Sized& sized, void (*work)(Sized&)) {
     double least = 0;
     for (int round = 0; round < 9; ++round) {
@@ -163,8 +164,8 @@ double Measure(Sized& sized, void (*work)(Sized&)) {
 
 } // namespace
 
-// The last step shows whether time goes on growing faster than the set, or did so only where the set left the
-// processor's caches.
+// The last step shows whether time grows faster than the set in general, or only where the set exceeds the processor's
+// caches.
 void BenchGrowth() {
     constexpr struct {
         const char* name;

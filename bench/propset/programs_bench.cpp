@@ -1,5 +1,4 @@
-// Programs for the command line: how long suminfo and gsf take to start and show one document, and for each document
-// more.
+// Command-line programs: the time that suminfo and gsf need to start and show one document, and for each further one.
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -21,11 +20,11 @@ constexpr size_t kMany = 400;
 
 using Words = std::vector<std::string>;
 
-// Without its output.
+// Discards the output.
 void Run(const Words& command) {
     std::vector<char*> words;
     for (const std::string& word : command)
-        words.push_back(const_cast<char*>(word.c_str())); // taken so, and not written
+        words.push_back(const_cast<char*>(word.c_str())); // the system's interface is not const-correct
     words.push_back(nullptr);
     posix_spawn_file_actions_t silent;
     ::posix_spawn_file_actions_init(&silent);
@@ -37,7 +36,7 @@ void Run(const Words& command) {
     ::posix_spawn_file_actions_destroy(&silent);
 }
 
-// One document again and again, in the name of which nothing is damaged: gsf stops at one that it can't read.
+// Repeats one intact document, since gsf stops at a document that it cannot read.
 Words Over(Words command, size_t documents) {
     const std::string document = ORLO_TEST_DATA "/ole/testEXCEL-custom-props--fff0cb.xls";
     command.insert(command.end(), documents, document);

@@ -1,4 +1,4 @@
-// The measurements of property sets: each prints its own lines.
+// The benchmarks of property sets; each prints its results.
 #pragma once
 
 void BenchStreams();

@@ -1,11 +1,11 @@
-// Reading and writing the streams of real documents, by size class, against libgsf and against a copy of the bytes.
+// Reading and writing the streams of real documents, by size, against libgsf and against copying the bytes.
 
 #include <gsf/gsf-doc-meta-data.h>
 #include <gsf/gsf-input-memory.h>
 #include <gsf/gsf-msole-utils.h>
 #include <gsf/gsf-output-memory.h>
 #include <gsf/gsf-utils.h>
-#undef TRUE // the framework has its own
+#undef TRUE // also defined by the framework
 #undef FALSE
 
 #include <memory>
@@ -29,7 +29,7 @@ struct ObjectUnref {
 template <class Type>
 using Owned = std::unique_ptr<Type, ObjectUnref>;
 
-// Null if libgsf can't read it.
+// Returns null if libgsf cannot read the set.
 Owned<GsfDocMetaData> GsfRead(const std::vector<uint8_t>& bytes) {
     const Owned<GsfInput> input(gsf_input_memory_new(bytes.data(), static_cast<gsf_off_t>(bytes.size()), FALSE));
     Owned<GsfDocMetaData> data(gsf_doc_meta_data_new());
@@ -45,15 +45,15 @@ void GsfWrite(const GsfDocMetaData* data, bool isDocument) {
     gsf_output_close(output.get());
 }
 
-// One stream, as each side holds it.
+// One stream in the representation of each library.
 struct Sample {
     std::vector<uint8_t> bytes;
-    bool isDocument; // the document summary, not the summary
+    bool isDocument; // the document summary rather than the summary
     MemoryStream stream;
     CPropertySet set;
     orlo::SetImage image;
     Owned<GsfDocMetaData> gsf;
-    bool isWritable; // by the classes
+    bool isWritable; // by the library's classes
 };
 
 std::vector<std::unique_ptr<Sample>> SoundSamples() {
@@ -79,7 +79,7 @@ std::vector<std::unique_ptr<Sample>> SoundSamples() {
 
 using Samples = std::vector<Sample*>;
 
-// So many times that one measurement takes a few milliseconds.
+// Repeats the work until one measurement takes a few milliseconds.
 template <class Work>
 auto Repeated(const Samples& samples, Work work) {
     return [&samples, work] {

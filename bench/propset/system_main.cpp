@@ -1,5 +1,5 @@
-// bench_propset_system [system]: reads and writes real summaries by the library and by the system's own property
-// storage, by size class. Only those that the system can read: it fails on vectors of texts.
+// bench_propset_system [system]: reads and writes real summaries with the library and with the system's property
+// storage, by size. Uses only summaries that the system can read: it fails on vectors of texts.
 
 #include <ole2.h>
 
@@ -25,8 +25,8 @@ struct Release {
 template <class Interface>
 using Com = std::unique_ptr<Interface, Release>;
 
-// One summary: as a stream in memory, so that what is timed is the set and not the compound file around it, and as
-// each side holds it.
+// One summary in the representation of each side. The stream is in memory, so that the set is measured rather than the
+// compound file.
 struct Sample {
     ~Sample() {
         for (PROPVARIANT& value : values)
@@ -60,7 +60,7 @@ void Rewind(IStream* stream) {
     stream->Seek(start, STREAM_SEEK_SET, nullptr);
 }
 
-// Reads the set and looks at every value.
+// Reads the set and accesses every value.
 void ReadByUs(Sample& sample) {
     Rewind(sample.stream.get());
     CPropertySet set;
@@ -98,7 +98,7 @@ void WriteBySystem(Sample& sample) {
     properties->Commit(STGC_DEFAULT);
 }
 
-// Null if the system can't read the summary.
+// Returns null if the system cannot read the summary.
 std::unique_ptr<Sample> MakeSample(const std::vector<uint8_t>& bytes) {
     auto sample = std::make_unique<Sample>();
     sample->size = bytes.size();

@@ -1,4 +1,4 @@
-// Opening and closing the sheet through the C interface, against the same by the classes.
+// Opening and closing the sheet through the C interface, against the C++ classes.
 
 #include "bench/sheet/sheet_bench.h"
 

@@ -1,4 +1,4 @@
-// A drawing of its own, the application's current one, whose graphics are all selected.
+// A drawing, the application's current one, with all its graphics selected.
 #pragma once
 
 #include "drawcore/application.h"
@@ -13,14 +13,14 @@ public:
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Selection() const { return m_selection.get(); }
-    // The drawing owns the graphic from then on.
+    // The drawing then owns the graphic.
     void Add(GraphicStruct* graphic) {
         ::SelectionAdd(Selection(), ::GraphicAdd(::DrawingGetRoot(Drawing()), graphic));
     }
 
 private:
     OwnedDrawing m_drawing;
-    orlo::host::OwnedGraphic m_selection; // goes before its members
+    orlo::host::OwnedGraphic m_selection; // destroyed before its members
 };
 
 // Graphics of one type.

@@ -1,5 +1,4 @@
-// Filling the lists of colors and layers with the host's tables, against inserting a list that is sorted already,
-// redraw off.
+// Filling the lists of colors and layers with the host's tables, against inserting a sorted list without redrawing.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -22,7 +21,7 @@ namespace {
 constexpr DWORD kComboStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
 
-// The parent of both lists: counts what they ask it for.
+// The parent of both lists, which counts their requests.
 class Parent : public CWnd {
 public:
     Parent() {
@@ -60,7 +59,7 @@ void MakeLayers(TableStruct* table, int n) {
         ::TableEntryAdd(table, ("Layer " + std::to_string(i * 7919 % n)).c_str(), nullptr);
 }
 
-// A list of the library and the table that it shows.
+// A list of the library and its table.
 struct List {
     const char* name;
     int combo;

@@ -1,4 +1,4 @@
-// Merging the parts of many insertions in the Block Insertion page, against a bare loop of the same host calls.
+// Merging the parts of many insertions on the Block Insertion page, against a plain loop with the same host calls.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -10,7 +10,7 @@
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/host.h"
-#include "orlo/pages/insert_parts.h" // not exported: compiled in, to time the parts without the page
+#include "orlo/pages/insert_parts.h" // not exported; compiled in to measure it without the page
 #include "orlo/resources/resource.h"
 #include "support/sheet_driver.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// Insertions in one plane, or turned out of it.
+// Insertions in the drawing plane, or rotated out of it.
 class Insertions : public Crowd {
 public:
     Insertions(int n, bool plane) {
@@ -43,7 +43,7 @@ void ForEach(GraphicStruct* set, Visit visit) {
         visit(graphic);
 }
 
-// The host calls of a merge, and nothing else.
+// Makes only the host calls of a merge.
 double BareLoop(GraphicStruct* set) {
     double sum = 0;
     ForEach(set, [&](GraphicStruct* graphic) {
@@ -58,7 +58,7 @@ double BareLoop(GraphicStruct* set) {
     return sum;
 }
 
-// The same with every insertion taken apart.
+// Also computes the parts of every insertion.
 double PartsLoop(GraphicStruct* set) {
     double sum = 0;
     ForEach(set, [&](GraphicStruct* graphic) {

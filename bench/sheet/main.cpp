@@ -1,4 +1,5 @@
-// bench_sheet [NAME...]: measures the sheet against the system's own and against bare host calls. Without a name: all.
+// bench_sheet [NAME...]: measures the sheet against the system's property sheet and against plain host calls. Without a
+// name: all.
 
 #include <afxwin.h>
 

@@ -1,4 +1,4 @@
-// Merging and writing one property over many graphics, against a bare loop of the same host calls.
+// Merging and writing one property of many graphics, against a plain loop with the same host calls.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kRounds = 5;
 
-// The host calls of a merge or a write, and nothing else.
+// Makes only the host calls of a merge or a write.
 template <class Visit>
 void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
     uint32_t position;
@@ -86,7 +86,7 @@ Results Measure(CGraphicPropertyPage& page, GraphicStruct* selection) {
     return results;
 }
 
-// The bits of the effects and styles of texts, merged bit by bit.
+// Merges the bits for effects and styles of texts.
 Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
     unsigned short bits[2] = {};
     return Compare(
@@ -103,7 +103,7 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
         });
 }
 
-// In a sheet over n graphics of that type.
+// Measures in a sheet over n graphics of that type.
 template <class Measuring>
 auto MeasureCrowd(int n, int type, Measuring measure) {
     const UniformCrowd crowd(n, type);

@@ -1,4 +1,4 @@
-// Making the crowd: one graphic of each kind in turn.
+// Creates one graphic of each kind in turn.
 #include "bench/sheet/mixed_crowd.h"
 
 #include <initializer_list>

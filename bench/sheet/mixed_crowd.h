@@ -1,4 +1,4 @@
-// A drawing of many graphics of every kind, all selected: outlines, texts and insertions in turn.
+// A drawing with many selected graphics of every kind: outlines, texts and insertions in turn.
 #pragma once
 
 #include "bench/sheet/crowd.h"

@@ -1,5 +1,5 @@
-// Opening the sheet, showing its Pen page and closing it, against the system's own property sheet with as many pages of
-// as many controls.
+// Opening the sheet, showing its Pen page and closing it, against the system's property sheet with the same number of
+// pages and controls.
 
 #include "bench/sheet/sheet_bench.h"
 

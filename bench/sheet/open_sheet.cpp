@@ -1,4 +1,4 @@
-// Acting from inside the loop of a sheet as soon as it is open.
+// Runs functions in the message loop of a sheet once it is open.
 #include "bench/sheet/open_sheet.h"
 
 #include <commctrl.h>
@@ -12,7 +12,7 @@
 namespace {
 
 constexpr UINT kOpened = WM_APP + 1;
-constexpr int kFirstSystemPage = 600; // of system_pages.rc
+constexpr int kFirstSystemPage = 600; // in system_pages.rc
 constexpr int kSystemPages = 5;
 
 INT_PTR CALLBACK PageProc(HWND, UINT message, WPARAM, LPARAM) {

@@ -1,4 +1,4 @@
-// Runs modal sheets, the system's own and the library's, with something to be done as soon as each is open.
+// Runs modal sheets of the system and of the library, and calls a function once the sheet is open.
 #pragma once
 
 #include <afxwin.h>
@@ -8,7 +8,7 @@
 
 #include "orlo/frame/graphic_property_sheet.h"
 
-// Gets its posted message as soon as a modal loop runs, and acts on the sheet that is open then.
+// Gets its posted message as soon as a modal loop runs, and then acts on the open sheet.
 class LoopWatch : public CWnd {
 public:
     LoopWatch();
@@ -21,13 +21,13 @@ private:
     std::function<void(HWND)> m_act;
 };
 
-// All that waits for painting in the sheet is painted before it returns.
+// Paints everything that is invalid in the sheet.
 void PaintSheet(HWND sheet);
 
-// The system's sheet with the first pages of system_pages.rc. It is cancelled after act.
+// Runs the system's sheet with the first pages of system_pages.rc and cancels it after act.
 void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND sheet)>& act);
 void ShowSystemPage(HWND sheet, int page);
 
-// The library's sheet over a selection, with the pages that belong to it. It is cancelled after act.
+// Creates the library's sheet over a selection with all its pages. It is canceled after act.
 std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* selection);
 void RunSheet(LoopWatch& watch, CGraphicPropertySheet& sheet, const std::function<void(HWND sheet)>& act);

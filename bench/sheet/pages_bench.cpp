@@ -1,4 +1,4 @@
-// The sheet with all five pages over real graphics of every kind, against the system's own property sheet with the same
+// The sheet with all five pages over real graphics of every kind, against the system's property sheet with the same
 // templates: opening it, changing pages, and many pages against few.
 
 #include "bench/sheet/sheet_bench.h"
@@ -22,7 +22,7 @@ struct Results {
     Pair open, change;
 };
 
-// Shows each page once, painted.
+// Shows and paints each page once.
 template <class Show>
 void WalkPages(HWND window, Show show) {
     for (int page = 0; page < kPages; ++page) {
@@ -70,7 +70,7 @@ double ManySystemPages() {
         .ratio;
 }
 
-// Pages that nobody looks at cost next to nothing.
+// Pages that are never shown should cost almost nothing.
 double ManyPages() {
     const MixedCrowd crowd(3);
     HostFrame frame(crowd.Drawing());

@@ -1,5 +1,5 @@
-// Refreshing the preview pane, against the host drawing the same graphic: in a window of its own, and into a device
-// context without the system's work of invalidating and painting a window.
+// Updating the preview pane, against the host drawing the same graphic: in a plain window, and into a device context
+// without invalidating and painting a window.
 
 #include "bench/sheet/sheet_bench.h"
 
@@ -13,9 +13,9 @@
 namespace {
 
 constexpr int kRounds = 31;
-constexpr int kPaints = 50; // a round
+constexpr int kPaints = 50; // per round
 
-// A window as large as the pane that does nothing but let the host draw.
+// A window of the pane's size that only lets the host draw.
 class BarePane : public CWnd {
 public:
     BarePane(HWND parent, GraphicStruct* graphic) : m_graphic(graphic), m_viewport(::ViewportNewEx()) {

@@ -1,4 +1,4 @@
-// The measurements of the sheet: each prints its own lines.
+// The benchmarks of the sheet; each prints its results.
 #pragma once
 
 void BenchMerge();
