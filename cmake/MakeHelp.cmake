@@ -1,4 +1,4 @@
-# Makes a page of help, with an anchor at each heading, of a guide:
+# Creates a help page, with an anchor at each heading, from a guide:
 #   cmake -Dmarkdown=PROGRAM -Dguide=FILE.md -Dpage=FILE.html -P MakeHelp.cmake
 
 execute_process(COMMAND ${markdown} -o html -x tables -x toc -x sane_lists ${guide}

@@ -1,4 +1,4 @@
-# The installed tree, beside what each target puts there by orlo_product():
+# The installed tree, in addition to what orlo_product() installs for each target:
 #   bin/ lib/ include/   DLLs and programs with their debug data, import libraries, headers
 #   lib/cmake/orlo       find_package(orlo): orlo::orlo, orlo::afx, orlo::drawcore32, orlo::host, orlo::propset
 #   lib/pkgconfig        pkg-config orlo
@@ -31,16 +31,16 @@ install(DIRECTORY packaging/example/ DESTINATION ${examples})
 install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp docs/examples/c_host.c
         DESTINATION ${examples})
 install(DIRECTORY skeleton DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo)
-# The adapter has the name of the reference database: a host that needs it ships it in its place.
+# The adapter has the name of the reference database; a host that uses it ships it instead.
 install(TARGETS drawcore_adapter DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo/adapter)
 install(FILES ${ORLO_ADAPTER_HEADER} TYPE INCLUDE)
 install(FILES tests/data/dxf/kabeja-draft4-roof-details.dxf DESTINATION ${examples} RENAME roof.dxf)
 
-# Everything that is handed on, and nothing else: what has to be built before it is installed.
+# Collects all products, which must be built before the installation.
 get_property(products GLOBAL PROPERTY ORLO_PRODUCTS)
 add_custom_target(products DEPENDS ${products} drawcore_adapter)
 
-# Last: what has been copied above loses its debug data to a file beside it.
+# Last, since it moves the debug data of files copied above.
 foreach(product ${products})
   list(APPEND binaries bin/$<TARGET_FILE_NAME:${product}>)
 endforeach()

@@ -1,4 +1,4 @@
-# What every target of this project has in common: warnings, and the runtime DLLs beside the programs.
+# Settings shared by all targets of the project: warnings, and the runtime DLLs beside programs.
 
 include(GNUInstallDirs)
 
@@ -9,13 +9,13 @@ function(orlo_compile_options target)
                          $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
   if(WIN32)
     target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
-    # Line tables only: enough for backtraces, and variables take up to half of a compilation. Wine's debugger needs
-    # DWARF 4.
+    # Line tables only, which suffice for backtraces; variables would take up to half of the compile time. Wine's
+    # debugger requires DWARF 4.
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:SHELL:-gdwarf-4 -g1>)
   endif()
 endfunction()
 
-# A target of this project, compiled with the precompiled headers of the product unless others are named.
+# Adds a target of this project, compiled with the precompiled headers of the product unless others are named.
 function(orlo_target target)
   cmake_parse_arguments(arg "" "PRECOMPILED" "" ${ARGN})
   if(NOT arg_PRECOMPILED)
@@ -25,7 +25,7 @@ function(orlo_target target)
   target_precompile_headers(${target} REUSE_FROM ${arg_PRECOMPILED})
 endfunction()
 
-# A DLL or program that is handed on: its version in the system's form, and a place in the installed tree.
+# Declares a DLL or program as a product: adds version information and installs it.
 #   orlo_product(afx "Framework layer of Orlo" [HEADERS_IN include/afx])
 function(orlo_product target description)
   cmake_parse_arguments(arg "" "HEADERS_IN" "" ${ARGN})
@@ -48,7 +48,7 @@ function(orlo_product target description)
   set_property(GLOBAL APPEND PROPERTY ORLO_PRODUCTS ${target})
 endfunction()
 
-# A library with its public headers in the installed tree, there to be found as orlo::NAME.
+# Installs a library with its public headers, to be found as orlo::NAME.
 function(orlo_install_library target headers_in)
   get_target_property(sets ${target} INTERFACE_HEADER_SETS)
   set(headers)
@@ -58,11 +58,12 @@ function(orlo_install_library target headers_in)
   install(TARGETS ${target} EXPORT orloTargets ${headers})
 endfunction()
 
-# Tests are compiled more often than they run: no time is spent on making them fast.
+# Tests are compiled more often than they run, so they are not optimized.
 set(ORLO_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
 
-# The tests of a program again, in what other hosts and users have: common controls 6 (a program with a manifest), a screen of
-# 144 dots per inch, a black color scheme. ONLY_AT_96 and ONLY_ON_WHITE name tests (patterns of GoogleTest) that count pixels there.
+# Runs the tests of a program again in other environments: common controls 6 (a program with a manifest), a screen of
+# 144 dots per inch, a black color scheme. ONLY_AT_96 and ONLY_ON_WHITE are GoogleTest patterns of tests that depend on
+# pixels.
 #   orlo_test_elsewhere(controls LIBRARIES ... [ONLY_AT_96 ...] [ONLY_ON_WHITE ...])
 function(orlo_test_elsewhere name)
   cmake_parse_arguments(arg "" "" "LIBRARIES;ONLY_AT_96;ONLY_ON_WHITE" ${ARGN})
@@ -79,7 +80,7 @@ function(orlo_test_elsewhere name)
   set_tests_properties(${name}_144 ${name}_themed ${name}_themed_144 ${name}_black PROPERTIES TIMEOUT 300 RESOURCE_LOCK desktop)
 endfunction()
 
-# A test program: GoogleTest under ctest, one process, one time limit.
+# Adds a GoogleTest program to ctest, with one process and one time limit.
 #   orlo_test(NAME binding SOURCES ... LIBRARIES ...)
 function(orlo_test)
   cmake_parse_arguments(arg "" "NAME;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
@@ -91,15 +92,15 @@ function(orlo_test)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
-  # Windows of two programs disturb each other's focus on one desktop: such tests run one at a time.
+  # Windows of two programs on one desktop affect each other's focus, so these tests run one at a time.
   set_tests_properties(${arg_NAME} PROPERTIES TIMEOUT ${arg_TIMEOUT})
   if(WIN32)
     set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK desktop)
   endif()
 endfunction()
 
-# The compiler's runtime DLLs go beside the programs, so that the folder can be copied to a Windows machine. Their paths are
-# in ORLO_RUNTIME.
+# Copies the compiler's runtime DLLs beside the programs, so that the folder can be copied to a Windows machine.
+# ORLO_RUNTIME contains their paths.
 function(orlo_copy_runtime)
   if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
     set(unwind libgcc_s_seh-1.dll)

@@ -1,7 +1,8 @@
-# Precompiles the headers that nearly every source includes, once for each set of flags. This saves compile time only: each source
-# still includes the headers that it uses, and the test `headers` compiles the public ones without this.
+# Precompiles the headers that nearly every source includes, once for each set of flags. This only saves compile time:
+# each source still includes the headers that it uses, and the test `headers` compiles the public ones without
+# precompiled headers.
 #   orlo_precompiled_headers(NAME [HEADERS ...] [OPTIONS ...] [LIBRARIES ...])
-# defines a target without code to be named in orlo_target(... PRECOMPILED NAME).
+# defines a target without code for orlo_target(... PRECOMPILED NAME).
 
 function(orlo_precompiled_headers name)
   cmake_parse_arguments(arg "" "" "HEADERS;OPTIONS;LIBRARIES" ${ARGN})

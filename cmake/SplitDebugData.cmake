@@ -1,4 +1,4 @@
-# At installation: moves the debug data of each of ${binaries} to NAME.debug beside it, where gdb finds it.
+# During installation, moves the debug data of each of ${binaries} to NAME.debug beside it, where gdb finds it.
 
 foreach(name ${binaries})
   set(binary $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${name})
@@ -6,7 +6,7 @@ foreach(name ${binaries})
   execute_process(COMMAND ${objcopy} --strip-all --add-gnu-debuglink=${binary}.debug ${binary} COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
 
-# What the compiler came with is as large as its debug data makes it.
+# The compiler's runtime also contains debug data.
 foreach(name ${runtime})
   execute_process(COMMAND ${objcopy} --strip-all $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/${name} COMMAND_ERROR_IS_FATAL ANY)
 endforeach()

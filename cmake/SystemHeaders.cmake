@@ -1,6 +1,6 @@
-# Header libraries of this machine for the cross compiler, each as a target for those that include it.
+# Makes native header-only libraries available to the cross compiler, as a target.
 #   orlo_system_headers(system_headers CLI/CLI.hpp nlohmann/json.hpp stb/stb_image.h)
-# The folder that holds them has this machine's C library in it too and must stay out of sight.
+# Their folder must not be an include directory, because it also contains the native C library.
 
 set(ORLO_SYSTEM_HEADERS ${CMAKE_CURRENT_BINARY_DIR})
 

@@ -1,4 +1,4 @@
-# Cross toolchain for Windows; CMAKE_SYSTEM_PROCESSOR chooses x86_64 or i686.
+# Cross toolchain for Windows; CMAKE_SYSTEM_PROCESSOR selects x86_64 or i686.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64 CACHE STRING "x86_64 or i686")
 set(triple ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)

@@ -1,7 +1,7 @@
 # ./run demo [--tour] [FILE.dxf]
-#   Opens a drawing in the viewer. Without a display, or with --tour: plays a tour and leaves pictures in out/.
+#   Opens a drawing in the viewer. Without a display, or with --tour: plays a scripted tour and saves pictures in out/.
 # ./run demo --check FILE.dxf...
-#   Edits all of each drawing on every page, undoes the edits and reports differences. Needs no display.
+#   Edits all graphics of each drawing on every page, undoes the edits and reports differences. Needs no display.
 # ./run demo --list FILE.dxf...
 #   Prints the contents of drawings as JSON. Needs no display.
 

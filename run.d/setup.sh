@@ -6,7 +6,7 @@ packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-po
           clang-format-14 libclang-rt-14-dev lld-14 llvm-14 nettle-dev python3 python3-markdown libgsf-bin python3-olefile
           python3-ezdxf" # the last three read the files that the tests write
 
-# The viewer shows the user guide in a browser.
+# The viewer opens the user guide in a browser.
 case $command in
 demo | setup) command -v xdg-open firefox dillo >/dev/null || packages="$packages dillo" ;;
 esac

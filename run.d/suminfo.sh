@@ -2,12 +2,12 @@
 # support, which is writing documents and playing metafiles. Each is rebuilt if a source is newer. Needs no display.
 
 native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.exe
-# Looked at here: a program that does so would take longer than suminfo itself.
+# Checked here, because a separate program would take longer than suminfo itself.
 shopt -s globstar
 is_current() {
     local part
     for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,tools/suminfo,native,cmake}/**; do
-        if [ "$part" -nt "$1" ]; then return 1; fi # also when there is no program
+        if [ "$part" -nt "$1" ]; then return 1; fi # also if the program does not exist
     done
 }
 
@@ -18,7 +18,7 @@ fi
 cd "$ORLO_CALLER_DIR"
 case ${1-} in show|check|rc) exec "$native" "$@" ;; esac
 
-# Both programs may have to read arguments on standard input.
+# Both programs may need the arguments on standard input.
 input=
 for argument; do
     if [ "$argument" = @- ]; then
@@ -30,7 +30,7 @@ for argument; do
 done
 start() { if [ -n "$input" ]; then "$@" <"$input"; else "$@"; fi; }
 
-left_to_windows=3 # as tools/suminfo/exit_codes.h has it
+left_to_windows=3 # same as in tools/suminfo/exit_codes.h
 status=0
 start "$native" "$@" || status=$?
 [ $status -eq $left_to_windows ] || exit $status
@@ -41,12 +41,12 @@ if ! is_current "$windows"; then
     touch "$windows"
 fi
 wine_prefix
-# Names of files come and go in UTF-8. The server stays for a moment: the next call then starts in a tenth of the time.
+# File names are passed in UTF-8. The Wine server stays for a moment, which makes the next start ten times faster.
 case ${LC_ALL:-${LC_CTYPE:-${LANG-}}} in *[Uu][Tt][Ff]*8*) ;; *) export LC_ALL=C.UTF-8 ;; esac
 wineserver -p30 2>/dev/null || true
 cd "$ORLO_CALLER_DIR"
-# A command line of the system holds 32,767 characters, an escaped name twice its own. "@-": the rest is on standard
-# input.
+# A Windows command line is limited to 32,767 characters, and escaping can double the length of a name. "@-" reads the
+# rest from standard input.
 arguments="$*"
 if [ $((2 * ${#arguments} + 3 * $#)) -gt 32000 ]; then exec wine "$windows" @- < <(printf '%s\0' "$@"); fi
 status=0

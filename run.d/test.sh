@@ -1,10 +1,10 @@
 # ./run test [--bits 32|64] [REGEX]
-# Builds everything and runs the tests, or those whose name matches: the window-free code on this machine under the
-# sanitizers, then everything as Windows programs under one Wine server and one X server. --bits 32: the Windows
-# programs alone, for 32 bits.
+# Builds everything and runs the tests, or those whose name matches: code without windows natively under the sanitizers,
+# then everything as Windows programs under one Wine server and one X server. --bits 32: only the Windows programs, for
+# 32 bits.
 
 native=yes
-targets=(all all_verify_interface_header_sets)   # the second compiles each public header alone
+targets=(all all_verify_interface_header_sets)   # the second target compiles each public header separately
 if [ "${1-}" = --bits ]; then
     case ${2-} in
         64) ;;
@@ -36,10 +36,10 @@ build_natively() {
 
 build_for_windows() { source run.d/build.sh; }
 
-# Files that an interrupted run has left would be taken for those of a test with the same process number.
+# Files left by an interrupted run could be mistaken for those of a test with the same process number.
 empty_temporary_folders() { rm -rf "$WINEPREFIX"/drive_c/users/*/Temp/*; }
 
-# The tests that took longest, from what ctest recorded.
+# Lists the slowest tests, as recorded by ctest.
 slowest() { # FOLDER
     local costs=$1/Testing/Temporary/CTestCostData.txt
     [ -e "$costs" ] || return 0

@@ -3,7 +3,7 @@
 
 wine32_root=$PWD/build/wine32/root
 
-# Ends with a message if the kernel does not run 32-bit programs, before anything is built or fetched for them.
+# Exits with a message if the kernel cannot run 32-bit programs, before anything is built or downloaded.
 require_32_bit_kernel() {
     local probe=build/probe32
     mkdir -p build
@@ -30,7 +30,7 @@ fetch_wine32() {
     mmdebstrap --quiet --architectures=i386 --variant=extract --include=libc-bin,wine,wine32,fonts-wine,fonts-dejavu-core "$release" \
         "$wine32_root" "deb $mirror $release main" >build/wine32/fetch.log 2>&1 ||
         { cat build/wine32/fetch.log; rm -rf "$wine32_root"; die "32-bit Wine could not be fetched"; }
-    # Done by the package's installation: adds the marker by which Wine recognizes its own DLLs.
+    # As the package's installation does, adds the marker by which Wine recognizes its own DLLs.
     local zlib=$wine32_root/usr/i686-w64-mingw32/lib/zlib1.dll
     { head -c 64 "$zlib"; printf 'Wine builtin DLL'; head -c 16 /dev/zero; tail -c +97 "$zlib"; } \
         >"$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"

@@ -1,5 +1,5 @@
-// The objects behind the pointers of the contract. Graphics and drawings derive from the shared records; tables,
-// viewports and extents are known to the database only, so that it can define them as it likes.
+// The database's objects. Graphics and drawings derive from the shared records; tables, viewports and extents are
+// opaque to the library, so that a database can define them freely.
 #pragma once
 
 #include <map>

@@ -26,7 +26,7 @@ void FillTables(Drawing& drawing) {
     add(kTableLineStyles, "Dashed", std::move(entry));
 
     entry = {};
-    entry.brushFlags = kBrushVector; // the first brush style must be the solid one
+    entry.brushFlags = kBrushVector; // the library expects the first brush style to be solid
     add(kTableBrushStyles, "Solid", std::move(entry));
     entry = {};
     entry.brushFlags = kBrushVector | kBrushHasLines;
