@@ -27,7 +27,7 @@ BOOL CDemoApp::InitInstance() {
     ::PropPageInit();
     ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
 
-    if (IsPlayed()) { // as for a user who comes for the first time
+    if (IsPlayed()) { // like on the first start by a user
         Settings::UseKey(L"Software\\Orlo\\Demo Tour");
         Settings::DeleteAll();
     }

@@ -1,4 +1,4 @@
-// The demo's application object: one main window, opened on the drawing that it is given.
+// The demo's application object: one main window that opens the given drawing.
 #pragma once
 
 #include <afxwin.h>
@@ -9,9 +9,9 @@
 class CMainFrame;
 
 struct DemoOptions {
-    std::string drawing;              // empty: none
-    std::string tourFolder;           // empty: no tour
-    std::vector<std::string> checked; // drawings to take through all pages and back
+    std::string drawing;              // empty for none
+    std::string tourFolder;           // empty for no tour
+    std::vector<std::string> checked; // drawings to edit on all pages, with undo
 };
 
 class CDemoApp : public CWinApp {
@@ -25,10 +25,10 @@ public:
 
 private:
     CMainFrame* Frame() const;
-    bool IsPlayed() const; // by the tour or the check, in place of a user
+    bool IsPlayed() const; // by the tour or the check instead of a user
 
     DemoOptions m_options;
 };
 
-// The folder that the program lies in, with a backslash at its end.
+// Returns the folder of the program, with a trailing backslash.
 std::string ProgramFolder();

@@ -1,8 +1,8 @@
-// The smallest host: opens the drawing named on its command line and shows the properties of everything in it. Its main
+// The smallest host: opens the drawing named on its command line and shows the properties of all its graphics. Its main
 // window fills the library's controls with the tables that they show.
 
 #include <afxwin.h>
-#include <drawcore/application.h> // the reference database; a host of your own has its own calls here
+#include <drawcore/application.h> // the reference database; your host uses its own functions
 #include <drawcore/drawing.h>
 #include <drawcore/dxf.h>
 #include <orlo.h>
@@ -11,7 +11,7 @@
 
 class CHostFrame : public CFrameWnd {
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        const char* table = TableOfControl(LOWORD(wParam)); // by the kind of the library's control
+        const char* table = TableOfControl(LOWORD(wParam)); // the kind of control determines the table
         if (HIWORD(wParam) != kControlReady || table == nullptr) return CFrameWnd::OnCommand(wParam, lParam);
         DrawingStruct* drawing = AppGetCurrentApp()->pCurrentDrawing;
         const ControlFillRecord fill = {DrawingGetTable(drawing, table), 0, 0};
@@ -24,9 +24,9 @@ int wmain(int count, wchar_t** arguments) {
     DrawingStruct* drawing = count == 2 ? DrawingOpenDxf(arguments[1], nullptr, nullptr, 0) : nullptr;
     if (drawing == nullptr) return 2;
     CWinApp application("Host");
-    auto* frame = new CHostFrame; // goes with its window
+    auto* frame = new CHostFrame; // deletes itself with its window
     if (!frame->Create(nullptr, "Host")) return 2;
-    application.m_pMainWnd = frame; // controls announce themselves there
+    application.m_pMainWnd = frame; // receives the notifications of controls
     PropPageInit();
     AppSetCurrentDrawing(drawing);
     GraphicStruct* all = DrawingGetRoot(drawing);
@@ -34,7 +34,7 @@ int wmain(int count, wchar_t** arguments) {
     for (GraphicStruct* graphic : orlo::host::Members(all))
         AddGraphicPropertyPage(nullptr, graphic, sheet);
     const auto code = sheet->DoModal(); // 1: OK, and the drawing has changed
-    delete sheet;                       // with its pages and previews; the drawing stays the host's
+    delete sheet;                       // including its pages and previews, not the drawing
     frame->DestroyWindow();
     DrawingDispose(&drawing);
     return code == IDOK ? 0 : 1;

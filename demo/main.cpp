@@ -1,4 +1,4 @@
-// demo.exe: where it starts, and what its command line means.
+// The entry point of demo.exe, and its command line.
 
 #include <CLI/CLI.hpp>
 
@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-// Without the program's own name. The 8-bit command line would lose file names of other scripts.
+// Without the program name. The 8-bit command line cannot represent all file names.
 std::vector<std::string> Arguments() {
     int count = 0;
     const std::unique_ptr<wchar_t*[], decltype(&::LocalFree)> words(::CommandLineToArgvW(::GetCommandLineW(), &count),
@@ -30,7 +30,7 @@ std::vector<std::string> Arguments() {
     return arguments;
 }
 
-// A windowed program that is started from a console has no output of its own.
+// A windowed program started from a console has no output by default.
 void UseCallersConsole() {
     if (::GetStdHandle(STD_OUTPUT_HANDLE) == nullptr && ::AttachConsole(ATTACH_PARENT_PROCESS))
         std::freopen("CONOUT$", "w", stdout);
@@ -52,7 +52,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
         ->type_name("FILE...");
     try {
         std::vector<std::string> arguments = Arguments();
-        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
         usage.parse(arguments);
     } catch (const CLI::ParseError& error) {
         return usage.exit(error) ? kWrongUsage : 0;

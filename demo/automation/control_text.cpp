@@ -1,4 +1,4 @@
-// The texts of windows and items.
+// Reads the texts of windows and items.
 
 #include "demo/automation/control_text.h"
 

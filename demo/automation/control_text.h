@@ -1,4 +1,4 @@
-// The texts of windows, and of the items of combos and lists, however long they are.
+// Reads the texts of windows and of the items of combo boxes and lists, without a limit on their length.
 #pragma once
 
 #include <windows.h>
@@ -6,6 +6,6 @@
 #include <string>
 
 std::string WindowText(HWND window);
-// Empty if there is no such item.
+// Returns an empty string if there is no such item.
 std::string ComboItem(HWND combo, int index);
 std::string ListItem(HWND list, int index);

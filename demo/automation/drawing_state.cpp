@@ -1,4 +1,4 @@
-// Everything that a drawing holds.
+// Records the contents of a drawing.
 
 #include "demo/automation/drawing_state.h"
 
@@ -33,7 +33,7 @@ std::string Exact(double value) {
     return text;
 }
 
-// None: the graphic has no such property.
+// Returns nothing if the graphic has no such property.
 std::optional<std::string> Read(GraphicStruct* graphic, const PropertyInfo& property) {
     switch (property.form) {
     case kFormText:

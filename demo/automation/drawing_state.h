@@ -1,7 +1,6 @@
-// Everything that a drawing holds, as far as the host's functions give it, to be compared with what it holds later:
-// tables with their entries, blocks, graphics with their parts, properties, vertices and boxes. Numbers are kept to the
-// last digit. Not in it: which page of a sheet has written a graphic last, a note of the library that every sheet
-// leaves.
+// Records the contents of a drawing, as far as the host's functions return them, for comparison with a later state:
+// tables with their entries, blocks, graphics with their members, properties, vertices and extents. Numbers are kept in
+// full precision. The page that last wrote to a graphic is not included, because every sheet changes it.
 #pragma once
 
 #include <string>
@@ -13,15 +12,15 @@ class DrawingState {
 public:
     explicit DrawingState(DrawingStruct* drawing);
 
-    // What is not the same in both, a line each: the thing, the value here, the value there; the first ones only.
+    // Returns the first differences, one line each: object, value here, value there.
     std::vector<std::string> DifferencesTo(const DrawingState& later, size_t most) const;
-    // Every value with the thing that has it, a line each.
+    // Returns every value with its object, one line each.
     std::vector<std::string> Lines() const;
-    // Whether a value of that name ("PenColor", "vertices") differs between two states of the same things.
+    // Returns whether a value with that name ("PenColor", "vertices") differs between two states of the same objects.
     bool Differs(const DrawingState& later, const std::string& name) const;
 
 private:
-    // One thing: a graphic by its place, an entry of a table by its number.
+    // An object: a graphic by its position, or a table entry by its number.
     struct Thing {
         std::string name;
         std::vector<std::pair<std::string, std::string>> values;

@@ -1,4 +1,4 @@
-// The pages of a property sheet as a user reaches them.
+// Finds and activates the pages of a property sheet like a user.
 #pragma once
 
 #include <afxdlgs.h>
@@ -8,10 +8,10 @@
 
 #include "demo/automation/user_input.h"
 
-// The sheet that a window is. Throws std::runtime_error if it is not one.
+// Returns the sheet object of a window. Throws std::runtime_error if the window is not a sheet.
 CPropertySheet& SheetOf(HWND window);
 HWND ActivePageOf(HWND sheet);
-// Titles of the pages, in their order.
+// Returns the titles of the pages in order.
 std::vector<std::string> PageTitles(HWND sheet);
-// By a click on its tab. False: the page before it did not let itself be left.
+// Clicks the tab of a page. Returns false if the active page could not be left.
 bool ClickTab(UserInput& user, HWND sheet, int page);

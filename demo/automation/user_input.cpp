@@ -1,4 +1,4 @@
-// Plays a user in this process.
+// Simulates a user in this process.
 
 #include "demo/automation/user_input.h"
 
@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr unsigned kPatience = 5000; // milliseconds, until a window comes up, or closes
-constexpr unsigned kTick = 10;       // milliseconds between looks at what has come up
+constexpr unsigned kPatience = 5000; // milliseconds to wait for a window to open or close
+constexpr unsigned kTick = 10;       // milliseconds between checks for new windows
 
 LPARAM At(CPoint point) {
     return MAKELPARAM(point.x, point.y);
@@ -21,7 +21,7 @@ WPARAM MouseFlags(unsigned modifiers) {
     return (modifiers & UserInput::kShift ? MK_SHIFT : 0) | (modifiers & UserInput::kControl ? MK_CONTROL : 0);
 }
 
-// Holds these modifier keys down and no others, as far as this thread can see.
+// Sets the keyboard state of this thread to exactly these modifier keys.
 class HeldKeys {
 public:
     explicit HeldKeys(unsigned modifiers) {
@@ -43,8 +43,8 @@ private:
 
 } // namespace
 
-// Modal windows that are expected, and what is to be played in them. While the object lives, a timer of this thread
-// looks for them; it stands still while the last script plays.
+// Modal windows that are expected, and the scripts to run in them. A timer of this thread looks for them during the
+// object's lifetime, except while the last script runs.
 struct UserInput::Dialog {
     explicit Dialog(const std::vector<Script>& toPlay) : scripts(toPlay) { StartTimer(); }
     ~Dialog() {
@@ -64,8 +64,8 @@ struct UserInput::Dialog {
     Dialog* const outer = std::exchange(awaited, this);
     const HWND before = ::GetActiveWindow();
     const std::vector<Script>& scripts;
-    size_t begun = 0;      // scripts
-    HWND window = nullptr; // the last one that came up
+    size_t begun = 0;      // number of scripts started
+    HWND window = nullptr; // the last window that appeared
     ULONGLONG played = 0;  // when the script ended
     std::exception_ptr thrown;
     UINT_PTR timer = 0;
@@ -103,7 +103,7 @@ void UserInput::Key(UINT virtualKey, unsigned modifiers) {
     const HeldKeys held(modifiers);
     ::PostMessageA(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, alt ? 0x20000001 : 1);
     ::PostMessageA(focus, alt ? WM_SYSKEYUP : WM_KEYUP, virtualKey, alt ? 0xE0000001 : 0xC0000001);
-    TakeAll(); // while the keys are held
+    TakeAll(); // while the keys are down
     Wait(m_pause);
 }
 
@@ -186,7 +186,7 @@ void UserInput::InDialogs(const std::function<void()>& open, const std::vector<S
     Wait(m_pause);
 }
 
-// No exception crosses the system's frames: it is kept and thrown again after the modal loop.
+// Exceptions must not cross the system's stack frames: they are stored and rethrown after the modal loop.
 void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     Dialog* dialog = Dialog::awaited;
     if (dialog && dialog->Awaits())
@@ -200,7 +200,7 @@ void UserInput::Dialog::Begin() {
     if (thrown || !active || active == before || !::IsWindowVisible(active)) return;
     window = active;
     played = 0;
-    const HeldKeys released(kNone); // those that have opened it
+    const HeldKeys released(kNone); // the keys that have opened the window
     const Script& script = scripts[begun++];
     const bool isLast = begun == scripts.size();
     if (isLast) StopTimer();

@@ -1,5 +1,5 @@
-// Plays a user in this process: posts keys and mouse messages to the windows of this thread and lets the program's own
-// message loops deal with them. It touches no other program, so it works beside a real user too.
+// Simulates a user in this process: posts keyboard and mouse messages to the windows of this thread and lets the
+// program's own message loops handle them. Does not affect other programs, so it can run beside a real user.
 //
 //   UserInput user;
 //   user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
@@ -16,33 +16,34 @@ class UserInput {
 public:
     enum Modifier : unsigned { kNone = 0, kShift = 1, kControl = 2, kAlt = 4 };
 
-    // pause: milliseconds after each action, in which the program paints.
+    // pause: milliseconds after each action, to let the program paint.
     explicit UserInput(unsigned pause) : m_pause(pause) {}
 
-    // Lets the program handle what is waiting, for that time at least.
+    // Handles messages for at least that time.
     void Wait(unsigned milliseconds);
 
-    // Sends to the window that has the focus. If another program has taken the focus, it is restored first;
-    // std::runtime_error if that can't be done.
+    // Sends a key to the focus window. If another program has the focus, restores it first, or throws
+    // std::runtime_error.
     void Key(UINT virtualKey, unsigned modifiers = kNone);
     void Keys(UINT virtualKey, int count);
     void Type(const std::string& text);
     void Mnemonic(char letter); // Alt and the letter
 
-    // Points are pixels of the window's client area.
+    // Points are in pixels of the window's client area.
     void Click(HWND window, CPoint point, unsigned modifiers = kNone);
-    void Click(HWND window); // in the middle
+    void Click(HWND window); // in the center
     void Press(HWND window, CPoint point, unsigned modifiers = kNone);
     void MoveTo(HWND window, CPoint point); // with the button down
     void Release(HWND window, CPoint point, unsigned modifiers = kNone);
-    void PanDrag(HWND window, CPoint from, CPoint to); // by the middle button
+    void PanDrag(HWND window, CPoint from, CPoint to); // with the middle button
     void Wheel(HWND window, CPoint point, int notches);
 
-    // Opens a modal window by `open`, plays `script` in its message loop, and returns when it is closed. Throws
-    // std::runtime_error if no window comes up, and what the script throws; the window is cancelled then.
+    // Calls `open`, which opens a modal window, runs `script` in its message loop, and returns when the window is
+    // closed. Throws std::runtime_error if no window appears. If the script throws, cancels the window and rethrows the
+    // exception.
     using Script = std::function<void(HWND)>;
     void InDialog(const std::function<void()>& open, const Script& script);
-    // The same for modal windows that come one after the other, with a script for each.
+    // Does the same for several modal windows in succession, with a script for each.
     void InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts);
 
 private:
@@ -53,5 +54,5 @@ private:
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
 
     unsigned m_pause;
-    HWND m_focus = nullptr; // that had it last
+    HWND m_focus = nullptr; // that last had it
 };

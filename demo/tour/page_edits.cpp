@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int kDiagonalLines = 5;        // the brush's place in the list: between its lines all that lies below is seen
-constexpr const char* kWideApart = "60"; // the scale of these lines, over a whole drawing
+constexpr int kDiagonalLines = 5;        // index of the brush in the list; its lines do not hide what is below
+constexpr const char* kWideApart = "60"; // the scale of these lines, for a whole drawing
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
 int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -29,7 +29,7 @@ void TypeOver(UserInput& user, HWND page, int id, const std::string& text) {
     user.Type(text);
 }
 
-// To the item below, or above the last one; without a selection to the item of that number.
+// Selects the next item, or the previous one at the end; without a selection, the item with that index.
 void Move(UserInput& user, HWND list, UINT getSelection, int first) {
     const int before = Send(list, getSelection);
     if (before < 0) return user.Keys(VK_DOWN, first + 1);
@@ -37,14 +37,15 @@ void Move(UserInput& user, HWND list, UINT getSelection, int first) {
     if (Send(list, getSelection) == before) user.Key(VK_UP);
 }
 
-// To the item of that number, or another one if it is chosen already. Without a selection the first key only makes one.
+// Selects the item with that index, or another one if it is already selected. Without a selection, the first key only
+// creates one.
 void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
     if (Send(list, getSelection) == wanted) return user.Key(VK_UP);
     user.Keys(VK_HOME, 2);
     user.Keys(VK_DOWN, wanted);
 }
 
-// The first item of a color list if there is none: its items begin with the color in hexadecimal digits.
+// Returns the index of the color, whose items begin with the color in hexadecimal digits, or 0 if it is missing.
 int IndexOfColor(HWND combo, unsigned long color) {
     for (int i = 0; i < Send(combo, CB_GETCOUNT); ++i)
         if (std::strtoul(ComboItem(combo, i).c_str(), nullptr, 16) == color) return i;

@@ -1,4 +1,4 @@
-// One change on each page of the library's sheet, made as a user makes it.
+// One edit for each page of the library's sheet, made like by a user.
 #pragma once
 
 #include <string>
@@ -6,10 +6,10 @@
 #include "demo/automation/user_input.h"
 
 struct PageEdit {
-    const char* title;   // of the page's tab
-    const char* changes; // name of the value that is changed by it (see DrawingState)
+    const char* title;   // title of the page's tab
+    const char* changes; // name of the value that it changes (see DrawingState)
     void (*edit)(UserInput&, HWND page);
 };
 
-// Null for a page that is not the library's.
+// Returns null for a page that is not the library's.
 const PageEdit* FindPageEdit(const std::string& title);

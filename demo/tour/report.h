@@ -1,4 +1,4 @@
-// The report of what the tour does and finds: lines of standard output, there as soon as they are written.
+// Prints the report of the tour on standard output, flushing each line.
 #pragma once
 
 #include <cstdio>

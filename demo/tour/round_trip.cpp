@@ -1,4 +1,4 @@
-// Drawings through all pages and back.
+// Edits drawings on all pages and undoes the edits.
 
 #include "demo/tour/round_trip.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr size_t kMostDifferences = 5; // reported of one drawing
+constexpr size_t kMostDifferences = 5; // maximum number reported per drawing
 
 } // namespace
 
@@ -64,7 +64,7 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     return good && differences.empty();
 }
 
-// The titles of the pages that it has edited.
+// Returns the titles of the edited pages.
 std::vector<std::string> RoundTrip::EditAllPages() {
     std::vector<std::string> edited;
     m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },

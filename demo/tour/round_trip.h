@@ -1,5 +1,5 @@
-// Takes drawings through all pages and back: selects all, changes one thing on each page of the sheet, OK, takes it
-// back by undo, and compares everything that the drawing holds with what it held before.
+// Checks drawings: selects all graphics, makes one edit on each page of the sheet, presses OK, undoes, and compares the
+// contents of the drawing with its previous contents.
 #pragma once
 
 #include <string>
@@ -13,8 +13,8 @@ class RoundTrip {
 public:
     explicit RoundTrip(CMainFrame& frame) : m_frame(frame), m_user(0) {}
 
-    // Paths in UTF-8. Reports each drawing on standard output; one that cannot be opened is reported, and is not a
-    // fault. False: a page did not change what it should, or a drawing was not as before.
+    // Paths are in UTF-8. Reports each drawing on standard output; one that cannot be opened is reported, but not a
+    // failure. Returns false if a page did not change what it should, or if a drawing differs afterwards.
     bool Check(const std::vector<std::string>& drawings);
 
 private:

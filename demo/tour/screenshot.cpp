@@ -1,4 +1,4 @@
-// Pictures of windows as PNG files.
+// Saves screenshots as PNG files.
 
 #include "demo/tour/screenshot.h"
 

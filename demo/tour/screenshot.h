@@ -1,9 +1,9 @@
-// Pictures of windows as PNG files.
+// Saves screenshots as PNG files.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-// Writes what the screen shows within the rectangle (screen pixels). Throws std::runtime_error with the reason.
+// Saves the screen contents of a rectangle in screen pixels. Throws std::runtime_error with the reason.
 void SaveScreenshot(const RECT& area, const std::string& path);

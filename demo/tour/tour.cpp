@@ -24,19 +24,19 @@
 
 namespace {
 
-constexpr unsigned kPause = 120; // milliseconds after an action, so that a looker-on can follow
-constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than what it takes
+constexpr unsigned kPause = 120; // milliseconds after an action, so that viewers can follow
+constexpr int kBandMargin = 8;   // pixels by which the selection window is larger than the selected objects
 
 constexpr int kWizardNext = 101;
 
-// Orange, cyan, green: the first that is in the list and not there already.
+// Orange, cyan, green: the first one that is listed and not already used.
 constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
 
 int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
 }
 
-// Items of style controls: eight hexadecimal digits, a tab, the name.
+// Items of style controls begin with eight hexadecimal digits and a tab.
 unsigned long KeyOf(const std::string& item) {
     return std::strtoul(item.c_str(), nullptr, 16);
 }
@@ -45,7 +45,7 @@ std::string NameOf(const std::string& item) {
     return item.substr(item.find('\t') + 1);
 }
 
-// "Block Insertion" as "block-insertion".
+// Returns "block-insertion" for "Block Insertion".
 std::string FileNameOf(const std::string& title) {
     std::string name;
     for (const char character : title)
@@ -88,7 +88,7 @@ bool Tour::Play(const std::string& drawing) {
     }
 }
 
-// True: the edit changed something, and undo took all of it back.
+// Returns true if the edit changed something and undo reverted all of it.
 bool Tour::EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit) {
     const Document& document = *m_frame.GetDocument();
     const std::vector<GraphicStruct*> all = document.Selectable();
@@ -117,7 +117,7 @@ void Tour::TakePicture(const std::string& name) {
     Report(std::string("  [") + file + "]");
 }
 
-// ---- Stations
+// ---- Steps
 
 void Tour::Open(const std::string& drawing) {
     m_user.Wait(kPause);
@@ -154,7 +154,7 @@ bool Tour::SelectVariedSet() {
     return true;
 }
 
-// As a person would: moves it to the middle and turns the wheel.
+// Moves to the center and turns the wheel, like a user.
 void Tour::ShowClosely(const WorldBox& box) {
     const HWND view = m_frame.View().m_hWnd;
     CRect client;
@@ -185,7 +185,7 @@ void Tour::OpenPage(HWND sheet, const std::string& title) {
     ClickTab(m_user, sheet, static_cast<int>(found - titles.begin()));
 }
 
-// Three steps and Finish.
+// Three wizard pages and Finish.
 void Tour::MakeStyle() {
     Report("Ctrl+N makes a style after the selection.");
     m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
@@ -218,7 +218,7 @@ void Tour::EditAllPages() {
                     });
 }
 
-// Shows the drawing by itself, on paper, and saves it with the pen that was made again.
+// Shows the drawing alone on a light background, and saves it with the redone edit.
 void Tour::SaveCopy() {
     m_user.Key(VK_ESCAPE);
     m_user.Key(VK_HOME);
@@ -230,7 +230,7 @@ void Tour::SaveCopy() {
     TakePicture("saved");
 }
 
-// The pane over the next graphic that has a pen, and what it does to it.
+// Opens the pane over the next graphic that has a pen, and edits it.
 void Tour::ShowPaneAndLayers() {
     Report("F4 opens the pane of properties; Tab selects the next graphic.");
     m_user.Key(VK_F4);
@@ -280,7 +280,7 @@ void Tour::PickColor(HWND page) {
     Report("  color: " + NameOf(ComboItem(combo, Send(combo, CB_GETCURSEL))));
 }
 
-// A width is then the same length on paper for all of the selection.
+// A width then has the same length on paper for the whole selection.
 void Tour::PickPaperScale(HWND page) {
     const HWND combo = ::GetDlgItem(page, IDC_SCALE_SYSTEM);
     m_user.Click(combo, DropButton(combo));
@@ -298,7 +298,7 @@ void Tour::PickWidth(HWND page) {
     for (int i = 0; i < count; ++i)
         if (i != now && ComboItem(combo, i).find("0.7") == 0) wanted = i;
     if (wanted >= 0) {
-        m_user.Keys(VK_HOME, 1); // to the start of the text
+        m_user.Keys(VK_HOME, 1); // to the beginning of the text
         m_user.Keys(now > wanted ? VK_UP : VK_DOWN, std::abs(wanted - now));
         TakePicture("width-list");
         m_user.Key(VK_RETURN);
@@ -314,7 +314,7 @@ void Tour::PickStyle(HWND page) {
     TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
     const int now = Send(list, LB_GETCURSEL), count = Send(list, LB_GETCOUNT);
     int wanted = -1;
-    for (int i = count - 1; i >= 0; --i) { // the first one with dashes; else any
+    for (int i = count - 1; i >= 0; --i) { // the first one with dashes, or else any
         if (i == now) continue;
         const bool dashed = ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
         if (dashed || wanted < 0) wanted = i;

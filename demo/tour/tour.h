@@ -1,7 +1,7 @@
-// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits its pen in the
-// sheet, takes it back and makes it again, makes a style by the wizard, selects all and visits every page, saves a
-// copy, and shows the pane and the layers; all by keys and mouse messages, with a picture of each station and a report
-// of what changed.
+// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits their pen in the
+// sheet, undoes and redoes the edit, creates a style with the wizard, selects all graphics and visits every page, saves
+// a copy, and shows the properties pane and the layers dialog. Uses keyboard and mouse messages only, takes a
+// screenshot at each step and reports what has changed.
 #pragma once
 
 #include <functional>
@@ -14,10 +14,10 @@ class PropertySnapshot;
 
 class Tour {
 public:
-    // Pictures go to the folder, which exists; the report to standard output.
+    // The folder for screenshots must exist; the report goes to standard output.
     Tour(CMainFrame& frame, const std::string& folder);
 
-    // Plays over the drawing. True: everything came out as it should.
+    // Runs the tour over the drawing. Returns true if all steps had the expected result.
     bool Play(const std::string& drawing);
 
 private:

@@ -1,8 +1,8 @@
-// Finds a part of a drawing that is worth a look.
+// Finds an interesting part of a drawing.
 //
-// The drawing is cut into square cells of several sizes, each grid once more shifted by half a cell. A graphic counts
-// in a cell that it lies in wholly. Of the cells with few enough graphics to be seen one by one, the one with the most
-// different looks wins, then the larger one.
+// The drawing is divided into square cells of several sizes, each grid again shifted by half a cell. A graphic counts
+// for a cell that contains it completely. Of the cells with few enough graphics to be distinguishable, the one with the
+// most different appearances is used, then the largest.
 
 #include "demo/tour/varied_window.h"
 
@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr int kCuts[] = {2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64}; // cells along the longer side of the drawing
-constexpr int kFewest = 2, kMost = 40;                           // graphics in a cell
+constexpr int kCuts[] = {2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64}; // number of cells along the longer side of the drawing
+constexpr int kFewest = 2, kMost = 40;                           // number of graphics in a cell
 
 struct Item {
     WorldBox box;
@@ -29,7 +29,7 @@ struct Item {
 };
 
 struct Cell {
-    WorldBox box; // of what is inside
+    WorldBox box; // extents of the contents
     int graphics = 0;
     std::set<std::string> looks;
 };

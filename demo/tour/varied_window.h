@@ -1,4 +1,4 @@
-// Finds a part of a drawing that is worth a look: a window with several graphics inside that differ in their looks.
+// Finds an interesting part of a drawing: a window that contains several graphics with different appearances.
 #pragma once
 
 #include <optional>
@@ -7,5 +7,5 @@
 
 class Document;
 
-// Nothing if no selectable graphic of the drawing has a Pen page.
+// Returns nothing if no selectable graphic has a Pen page.
 std::optional<WorldBox> FindVariedWindow(const Document& document);

@@ -1,4 +1,4 @@
-// Which part of a drawing a window shows.
+// The visible part of a drawing.
 
 #include "demo/viewer/camera.h"
 

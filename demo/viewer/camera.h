@@ -1,5 +1,5 @@
-// Which part of a drawing a window shows: a viewport of the database, and the road between drawing units and device
-// pixels of the window's client area.
+// The visible part of a drawing: a viewport of the database, and conversion between drawing units and device pixels of
+// the window's client area.
 #pragma once
 
 #include <afxgdi.h>
@@ -14,19 +14,19 @@ public:
     ViewportStruct* Viewport() const { return m_viewport.get(); }
     void SetDrawing(DrawingStruct* drawing) { ::ViewportSetDrawing(Viewport(), drawing); }
 
-    // Size of the client area; the middle of the picture stays the middle.
+    // Sets the size of the client area. The center of the view does not change.
     void SetWindow(CSize pixels);
-    // Shows all that is seen of a graphic with a margin (pixels) on each side; one without an extent changes nothing.
+    // Shows all visible members of a graphic, with a margin in pixels on each side. Does nothing if it has no extents.
     void Fit(GraphicStruct* graphic, int margin);
-    // Makes everything `factor` times as large; what is under the anchor stays there.
+    // Magnifies by `factor` around the anchor, which is a fixed point.
     void Zoom(double factor, CPoint anchor);
     void Pan(CSize pixels);
     void CenterOn(WorldPoint point);
 
     WorldPoint ToWorld(CPoint pixel) const;
-    // Far points are held at +-1e6 pixels.
+    // Clamps the result to +-1e6 pixels.
     CPoint ToPixels(WorldPoint point) const;
-    // The pixels that a box covers, at least one.
+    // Returns the pixels covered by a box, at least one.
     CRect ToPixels(const WorldBox& box) const;
     WorldBox Visible() const;
 

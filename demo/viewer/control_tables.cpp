@@ -1,4 +1,4 @@
-// Which table each kind of style control shows.
+// Determines the table for each kind of control.
 
 #include "demo/viewer/control_tables.h"
 
@@ -13,7 +13,8 @@
 
 namespace {
 
-// The face of the first selected text, which joins the list if the system lacks it; else that of the drawing.
+// Returns the face of the first selected text, which is added to the list if it is not installed, or that of the
+// drawing.
 std::string FaceOf(const Document& document) {
     for (GraphicStruct* graphic : document.Selected().Members())
         if (auto face = orlo::host::ReadProperty<std::string>(graphic, kPropTextFont)) return *face;
@@ -29,14 +30,14 @@ bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document) {
     const char* const table = ::TableOfControl(kind);
     if (HIWORD(wParam) != kControlReady || !document || !table) return false;
     DrawingStruct* drawing = document->Drawing();
-    // The page selects what the graphics have.
+    // The page selects the value of the graphics.
     ControlFillRecord fill = {::DrawingGetTable(drawing, table), 0, 0};
     const std::string face = kind == kControlFontFaces ? FaceOf(*document) : "";
     if (kind == kControlFontFaces) {
         fill.nSelected = 1;
         if (!face.empty()) fill.dwValue = reinterpret_cast<UINT_PTR>(face.c_str());
     }
-    if (kind == kControlColors) fill.nSelected = kColorNone; // 0 is black
+    if (kind == kControlColors) fill.nSelected = kColorNone; // because 0 is black
     if (kind == kControlStyleNames) fill.nSelected = document->Styles().Current();
     ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
     return true;

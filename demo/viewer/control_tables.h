@@ -1,10 +1,10 @@
-// The host's half of the talk with the library's style controls: a control that has come to life asks the main window
-// for its table, and gets it.
+// The host's side of the control protocol: fills each control of the library with its table when the control notifies
+// the main window.
 #pragma once
 
 #include <afxwin.h>
 
 #include "demo/viewer/document.h"
 
-// Answers the notification of a control. False: it was none that asks for a table, or nothing is open.
+// Handles the notification of a control. Returns false if it is another notification or no drawing is open.
 bool FillStyleControl(WPARAM wParam, LPARAM lParam, const Document* document);

@@ -1,4 +1,4 @@
-// Messages on their way to dialogs.
+// Filters messages to dialogs.
 
 #include "demo/viewer/dialog_messages.h"
 

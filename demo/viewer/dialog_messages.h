@@ -1,5 +1,5 @@
-// Sees the messages of this thread that a dialog is about to take for itself, before it does: the way to keys of the
-// main window that are to hold in a sheet too.
+// Intercepts the messages of this thread before a dialog handles them, so that keys of the main window also work in a
+// sheet.
 #pragma once
 
 #include <windows.h>
@@ -8,10 +8,10 @@
 
 class DialogMessages {
 public:
-    // True: the message has been dealt with.
+    // Returns true if the message has been handled.
     using Handler = std::function<bool(MSG& message)>;
 
-    // Until the end of the object; one at a time.
+    // Intercepts messages during the object's lifetime. Only one object may exist at a time.
     explicit DialogMessages(Handler handler);
     ~DialogMessages();
     DialogMessages(const DialogMessages&) = delete;

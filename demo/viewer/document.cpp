@@ -1,4 +1,4 @@
-// A drawing that the viewer has open.
+// A drawing that is open in the viewer.
 
 #include "demo/viewer/document.h"
 
@@ -21,7 +21,7 @@ bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
     return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
 }
 
-// What the listener of an opening or saving drawing keeps.
+// State of the listener while a drawing is opened or saved.
 struct Task {
     const Document::Progress& progress;
     std::vector<std::string> findings;
@@ -114,7 +114,7 @@ std::string Document::LengthText(double length) const {
     return text;
 }
 
-// Closes the step in which changes gather, and opens the next one at the end.
+// Commits the open transaction, and begins the next one at the end of the scope.
 class Document::GatheringPause {
 public:
     explicit GatheringPause(Document& document) : m_document(document) {
@@ -176,7 +176,7 @@ int Document::DroppedSteps() const {
     return ::DrawingCountForgotten(Drawing());
 }
 
-// Of the database.
+// Ends the step in the database.
 int Document::EndStep() {
     const int changed = ::DrawingEndUndo(Drawing());
     if (changed) m_history.Add(nullptr);

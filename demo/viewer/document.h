@@ -1,5 +1,4 @@
-// A drawing that the viewer has open: the database's drawing, its graphics, what is selected, its styles, undo and
-// redo.
+// A drawing that is open in the viewer: the database's drawing, its graphics, selection, styles, undo and redo.
 #pragma once
 
 #include <cstdint>
@@ -16,44 +15,44 @@
 #include "drawcore/owned_drawing.h"
 #include "orlo/host/drawing.h"
 
-// what(): the file's name and what is wrong with it, with the line where that is known. UTF-8.
+// what(): the file's name and the reason, with the line if known, in UTF-8.
 class OpenError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// what(): why nothing was saved. UTF-8.
+// what(): the reason why nothing was saved, in UTF-8.
 class SaveError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// Opening or saving has been given up by the caller's own Progress.
+// Opening or saving was canceled by the caller's Progress.
 class Cancelled : public std::exception {};
 
 class Document {
 public:
-    // The share done; false gives the task up.
+    // permille: the completed share. Return false to cancel.
     using Progress = std::function<bool(int permille)>;
 
     // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled;
-    // the drawing that was current then still is.
+    // the current drawing then does not change.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
 
     const std::string& Path() const { return m_path; }
-    std::string Name() const; // the path without its folders
+    std::string Name() const; // the file name without its folder
 
-    // Whether something has changed since the last saving; undo and redo can come back to what is saved. Styles count
-    // too.
+    // Returns whether anything, including styles, has changed since the last save. Undo and redo can return to the
+    // saved state.
     bool IsModified() const;
-    // Writes the drawing to a file, whose it is from then on. False, with nothing written, if another program has
-    // changed the file that it was opened from; overChanged: writes all the same. Throws SaveError or Cancelled, with
-    // nothing written either.
+    // Writes the drawing to a file and makes that its file. Returns false, without writing, if another program has
+    // changed the file that it was opened from, unless overChanged is set. Throws SaveError or Cancelled; nothing is
+    // written then.
     bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
-    // What was left out of the drawing when it was opened, one line each.
+    // Returns what was omitted from the drawing when it was opened, one line each.
     const std::vector<std::string>& Findings() const { return m_findings; }
-    // What other programs will not show of the drawing as it was last saved, one line for each property.
+    // Returns what other programs will not show of the drawing as last saved, one line per property.
     const std::vector<std::string>& SaveNotes() const { return m_saveNotes; }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
@@ -64,33 +63,33 @@ public:
     const StyleBook& Styles() const { return m_styles; }
     std::optional<WorldBox> Extents() const { return ExtentsOf(m_root); }
 
-    // In the order of drawing: those that are seen and can be selected.
+    // Returns the visible and selectable graphics in drawing order.
     std::vector<GraphicStruct*> Selectable() const;
-    // The selected graphics without those whose layer has been locked or hidden since.
+    // Returns the selected graphics except those whose layer was locked or hidden since.
     std::vector<GraphicStruct*> StillSelectable() const;
-    // The next one after the last of the selection, round and round; null if nothing can be selected.
+    // Returns the next graphic after the last selected one, wrapping around, or null if none can be selected.
     GraphicStruct* Next(bool forward) const;
 
-    // A length as the drawing's units write it.
+    // Formats a length in the drawing's units.
     std::string LengthText(double length) const;
 
-    // Runs a change as one step of undo. Returns the number of graphics that it changed.
+    // Makes a change as one undo step. Returns the number of graphics that it changed.
     int Change(const std::function<void()>& change);
-    // The same; with false from the change all is at once as if it had never been.
+    // Does the same. If the change returns false, it is undone at once, without a step.
     int Attempt(const std::function<bool()>& change);
-    // For a window that stays open: what it changes from here on, outside of Change and Attempt, gathers until it is
-    // taken as one step, or dropped. Change, Attempt, Undo and Redo make a step of it first.
+    // Begins a transaction for a window that stays open. Its changes, made outside of Change and Attempt, become one
+    // step when it is committed, or are rolled back. Change, Attempt, Undo and Redo commit it first.
     void BeginGathering();
     void EndGathering();
-    int TakeGathered(); // graphics that the step has changed; with 0 there is none
-    int DropGathered(); // graphics changed back
+    int TakeGathered(); // Returns the number of graphics changed by the step; if 0, there is no step.
+    int DropGathered(); // Returns the number of graphics restored.
     // Returns how many of the oldest changes can no longer be undone since the last change, for lack of memory.
     int DroppedSteps() const;
-    // Makes a change outside of the database one step; null: there was none.
+    // Adds a change outside of the database as one step, unless it is null.
     void Record(std::unique_ptr<UndoableChange> change);
     int UndoSteps() const { return m_history.UndoCount(); }
     int RedoSteps() const { return m_history.RedoCount(); }
-    // Return what the step has changed, as "3 objects" or "layers". There has to be a step.
+    // Undo or redo a step, which must exist. Return what it changed, such as "3 objects" or "layers".
     std::string Undo();
     std::string Redo();
 
@@ -103,7 +102,7 @@ private:
 
     std::string m_path;
     std::vector<std::string> m_findings, m_saveNotes;
-    OwnedDrawing m_drawing; // goes after those who hold its graphics
+    OwnedDrawing m_drawing; // destroyed after the members that refer to its graphics
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;

@@ -1,4 +1,4 @@
-// Items made of texts.
+// Creates menu items from texts.
 
 #include "demo/viewer/drawing_menu.h"
 

@@ -1,4 +1,4 @@
-// Submenus whose items come from the drawing or the user's files, and are made anew when they open.
+// Submenus whose items depend on the drawing or the user's files, and are created when they open.
 #pragma once
 
 #include <string>
@@ -6,13 +6,13 @@
 
 #include <windows.h>
 
-// The commands of a submenu: the first stands for the first text, and so on.
+// The commands of a submenu, one for each text in order.
 struct CommandRange {
     UINT first, last;
 
     bool Contains(UINT command) const { return first <= command && command <= last; }
 };
 
-// Replaces the items. Ampersands of the texts are shown; texts beyond the range are left out; without texts `none`
-// stands there, gray.
+// Replaces the items. Ampersands in texts are displayed. Texts beyond the range are omitted; without texts there is a
+// disabled item `none`.
 void FillMenu(HMENU menu, const CommandRange& commands, const std::vector<std::string>& texts, const char* none);

@@ -8,15 +8,15 @@
 
 namespace {
 
-constexpr int kMargin = 24;     // pixels around a fitted drawing
-constexpr int kReach = 4;       // pixels within which a click finds a graphic
-constexpr int kDragStart = 4;   // pixels that make a click a drag
+constexpr int kMargin = 24;     // margin in pixels around the whole drawing
+constexpr int kReach = 4;       // distance in pixels at which a click selects a graphic
+constexpr int kDragStart = 4;   // distance in pixels at which a click becomes a drag
 constexpr int kPanStep = 60;    // pixels an arrow key pans
-constexpr int kPenOverhang = 8; // pixels that a wide pen may stand out of a graphic's box
+constexpr int kPenOverhang = 8; // distance in pixels that a wide pen may extend beyond the extents of a graphic
 
 constexpr UINT_PTR kRestTimer = 1;
-constexpr UINT kRest = 60; // milliseconds without a move after which the exact picture is drawn
-constexpr UINT kTurn = 10; // milliseconds of its drawing between two looks at what else there is to do
+constexpr UINT kRest = 60; // milliseconds without movement after which the exact picture is drawn
+constexpr UINT kTurn = 10; // milliseconds of drawing between checks for messages
 
 Selection::Way WayOf(UINT mouseFlags) {
     if (mouseFlags & MK_CONTROL) return Selection::Way::Toggle;
@@ -68,7 +68,7 @@ void CDrawingView::SetDocument(Document* document) {
     FitAll();
 }
 
-// ---- Looking
+// ---- Zooming and panning
 
 void CDrawingView::FitAll() {
     if (!m_document) return;
@@ -165,7 +165,7 @@ void CDrawingView::ShowSelectionChange() {
     m_client.OnSelectionChanged();
 }
 
-// ---- Mouse and keys
+// ---- Mouse and keyboard
 
 void CDrawingView::OnLButtonDown(UINT, CPoint point) {
     SetFocus();
@@ -220,7 +220,7 @@ void CDrawingView::OnLButtonUp(UINT flags, CPoint point) {
     }
 }
 
-// The first click of the two has selected what is there.
+// The first click has selected the graphic.
 void CDrawingView::OnLButtonDblClk(UINT flags, CPoint point) {
     EndDrag();
     if (m_document && !(flags & (MK_CONTROL | MK_SHIFT)) && At(point)) m_client.OnEditProperties();
@@ -286,7 +286,7 @@ void CDrawingView::OnSize(UINT, int cx, int cy) {
 }
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) {
-    return TRUE; // painting covers everything
+    return TRUE; // painting covers the whole area
 }
 
 void CDrawingView::SpoilAll() {
@@ -299,7 +299,7 @@ void CDrawingView::ShowMove() {
     if (m_picture.IsMoved()) SetTimer(kRestTimer, kRest);
 }
 
-// Nothing has moved for a while, or there was no time to go on since.
+// The view was not moved for a while, or drawing was interrupted.
 void CDrawingView::OnTimer(UINT_PTR) {
     KillTimer(kRestTimer);
     if (IsAtRest()) return;
@@ -316,7 +316,7 @@ void CDrawingView::OnPaint() {
     CPaintDC dc(this);
     const CRect area(dc.m_ps.rcPaint);
     if (!m_picture.Dc()) return;
-    MemoryPicture frame; // so that the band does not flicker
+    MemoryPicture frame; // avoids flicker of the rubber band
     if (!m_band.IsActive() || !frame.Resize(area.Size())) {
         ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top,
                  SRCCOPY);

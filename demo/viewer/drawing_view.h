@@ -1,5 +1,5 @@
-// The window that shows a drawing: zooming, panning, selecting. It changes nothing in the drawing; what is selected,
-// and what the user wants to edit, it tells its client. The window is painted in one go from a picture in memory.
+// The window that shows a drawing: zooming, panning, selecting. It does not change the drawing; it notifies its client
+// of the selection and of edit commands. The window is painted from a bitmap in memory.
 #pragma once
 
 #include <afxwin.h>
@@ -16,9 +16,9 @@
 class DrawingViewClient {
 public:
     virtual ~DrawingViewClient();
-    // Whether another selection may come; asked before each.
+    // Returns whether the selection may change; called before each change.
     virtual bool MayChangeSelection() = 0;
-    // The first of several changes of graphics is about to come.
+    // Called before the first of several changes of graphics.
     virtual void OnDrawingChanging() = 0;
     virtual void OnSelectionChanged() = 0;
     virtual void OnPointerMoved(WorldPoint point) = 0;
@@ -35,15 +35,15 @@ public:
     ~CDrawingView() override;
 
     BOOL Create(CWnd* parent, UINT id);
-    // Shows the whole of the document, which outlives the view or is replaced before it goes; null: nothing.
+    // Shows the whole document, which must outlive the view or be replaced first. Null shows nothing.
     void SetDocument(Document* document);
-    // Draws everything anew. Changes of the document's graphics need no call: the view hears of them.
+    // Redraws everything. Changes of the document's graphics are detected automatically.
     void Redraw();
 
-    // The color that lies under the drawing; dark at first.
+    // Returns the background color, dark by default.
     COLORREF Paper() const { return m_paper; }
     void SetPaper(COLORREF paper);
-    // Whether lines are as wide as their pens, which they are at first, or all thin.
+    // Returns whether pens are drawn at their true width (the default) or as hairlines.
     bool ShowsLineWeights() const { return m_lineWeights; }
     void ShowLineWeights(bool show);
 
@@ -53,7 +53,7 @@ public:
     void ZoomIn() { Zoom(kZoomStep, m_picture.Bounds().CenterPoint()); }
     void ZoomOut() { Zoom(1 / kZoomStep, m_picture.Bounds().CenterPoint()); }
     void Pan(CSize pixels);
-    // Whether what is shown is exact; after a move it may take until there is time for it.
+    // Returns whether the displayed picture is exact; after a movement it is updated when there is time.
     bool IsAtRest() const { return !m_picture.IsMoved(); }
 
     void SelectAll();
@@ -101,7 +101,7 @@ private:
     Camera m_camera;
     COLORREF m_paper = kDarkPaper;
     bool m_lineWeights = true;
-    bool m_isFitted = false; // the whole drawing is fitted into the window, also when its size changes
+    bool m_isFitted = false; // the whole drawing is fitted into the window, even when its size changes
     KeptPicture m_picture{m_camera};
 
     Drag m_drag = Drag::None;

@@ -1,4 +1,4 @@
-// Hints of fields.
+// Hints for the fields of a sheet.
 
 #include "demo/viewer/field_hints.h"
 
@@ -22,9 +22,9 @@ struct Field {
     int control;
     const char* name;
     const char* property;
-    uint32_t bits = ~uint32_t{0};       // of the property
-    const char* const* words = nullptr; // of its values, from 0
-    uint16_t unit = 0;                  // of the units table; the text of the field is a length in it
+    uint32_t bits = ~uint32_t{0};       // bits of the property
+    const char* const* words = nullptr; // names of its values, from 0
+    uint16_t unit = 0;                  // variable of the units table; the field is a length in this unit
 };
 constexpr const char* kDrawModes[] = {"Alternate", "Winding"};
 constexpr const char* kFontStyles[] = {"Regular", "Italic", "Bold", "Bold Italic"};
@@ -60,7 +60,7 @@ constexpr Field kFields[] = {
     {IDD_TEXT_PAGE, IDC_JUSTIFY_CENTER, "Justification", kPropTextFormat, kAllBits, kJustifications},
     {IDD_TEXT_PAGE, IDC_JUSTIFY_RIGHT, "Justification", kPropTextFormat, kAllBits, kJustifications}};
 
-// The field that a window belongs to, which may be the edit of a combo; null if it is none.
+// Returns the field that a window belongs to, which may be the edit field of a combo box, or null.
 const Field* FieldOf(HWND window) {
     const COrloPropertySheet* sheet = SheetAround(window);
     CPropertyPage* page = sheet ? sheet->GetActivePage() : nullptr;
@@ -90,7 +90,7 @@ std::string HintFor(HWND window, const Document& document) {
     return counts.empty() ? "" : std::string(field->name) + ": " + CountsText(counts);
 }
 
-// What is wrong with the text of a field; empty if it is a length, or one of the texts that the field offers.
+// Returns the fault in a field's text, or an empty string if it is a length or one of the listed texts.
 std::string FaultOf(HWND window, DrawingStruct* drawing) {
     const Field* field = FieldOf(window);
     CString typed;
@@ -142,7 +142,7 @@ void FieldHints::Renew() {
     ::SendMessageA(m_tip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-// The tip is made for one window at a time; what it says is new with each coming of the pointer.
+// The tooltip is created for one window at a time, and its text updated each time the pointer enters.
 void FieldHints::ShowTip(const MSG& message, const Document& document) {
     TOOLINFOA tool = {};
     tool.cbSize = TTTOOLINFOA_V1_SIZE;

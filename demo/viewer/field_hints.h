@@ -1,6 +1,6 @@
-// What the selected graphics have in a field of the sheet, also where it only shows that they differ: as text for the
-// status bar when the field gets the focus, and as a tip beside the pointer. In a field of a length the status bar says
-// so while the text is not a length, which the page refuses.
+// Shows the values of the selected graphics for a field of the sheet, even if it shows that they differ: in the status
+// bar when the field gets the focus, and as a tooltip. For a field of a length, the status bar reports text that is not
+// a length, which the page would reject.
 #pragma once
 
 #include <afxwin.h>
@@ -12,20 +12,21 @@ class Document;
 
 class FieldHints {
 public:
-    // show is called with the text of each field that gets the focus; empty if there is nothing to tell.
+    // show is called with the text for each field that gets the focus, empty if there is none.
     explicit FieldHints(std::function<void(const std::string&)> show) : m_show(std::move(show)) {}
     ~FieldHints();
     FieldHints(const FieldHints&) = delete;
     FieldHints& operator=(const FieldHints&) = delete;
 
-    // Before it is used; the tips are the owner's.
+    // Must be called before use. The owner also owns the tooltips.
     bool Create(HWND owner);
-    // For each message that a sheet is about to get. document: whose selection the sheet is over; null: none is open.
+    // Must be called for each message to a sheet. document has the selection that the sheet is over; null if none is
+    // open.
     void Watch(const MSG& message, const Document* document);
 
-    // For the time after such a message, when a key has been typed into a field.
+    // Must be called after a keystroke has been handled by a field.
     void ShowFocused(const Document* document);
-    // To be called when graphics have changed: hints are made anew.
+    // Updates the hints after graphics have changed.
     void Renew();
 
 private:
@@ -33,7 +34,7 @@ private:
 
     std::function<void(const std::string&)> m_show;
     HWND m_tip = nullptr;
-    HWND m_hovered = nullptr; // the tip's window
+    HWND m_hovered = nullptr; // the window with the tooltip
     HWND m_focused = nullptr;
-    std::string m_fault; // that is shown in place of the hint
+    std::string m_fault; // shown instead of the hint
 };

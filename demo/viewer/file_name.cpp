@@ -1,4 +1,4 @@
-// File names in their encodings.
+// Converts the encodings of file names.
 
 #include "demo/viewer/file_name.h"
 

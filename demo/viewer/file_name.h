@@ -1,4 +1,5 @@
-// File names: UTF-8 within the demo, UTF-16 for the system, the system's 8-bit code page for windows and their texts.
+// Converts file names between UTF-8, used in the demo, UTF-16 for the system, and the system's 8-bit code page for
+// window texts.
 #pragma once
 
 #include <string>
@@ -7,5 +8,5 @@ std::string Utf8(const wchar_t* text);
 std::wstring Wide(const std::string& utf8);
 
 std::string Utf8FromSystem(const char* text);
-// Characters that the code page lacks become question marks.
+// Characters that the code page cannot represent become question marks.
 std::string SystemText(const std::string& utf8);

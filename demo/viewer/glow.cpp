@@ -1,7 +1,7 @@
-// The rim around selected graphics.
+// The highlight around selected graphics.
 //
-// The selection is drawn once more, on a ground of a color that nothing else has: every pixel of another color
-// belongs to it. That works for whatever the drawing code draws, texts and hatches too.
+// The selection is drawn once more, on a background of a color that is not used otherwise: every pixel of another color
+// belongs to it. This works for whatever the drawing code draws, including texts and hatches.
 
 #include "demo/viewer/glow.h"
 
@@ -13,7 +13,7 @@ constexpr COLORREF kGround = RGB(1, 2, 3);
 constexpr uint32_t kGroundPixel = 0x010203;
 constexpr uint32_t kRim = 0x3D9BFF;
 
-// Three parts rim, one part what was there.
+// Mixes three parts of the highlight color with one part of the existing color.
 uint32_t Blend(uint32_t below) {
     const uint32_t quarter = (below >> 2) & 0x3F3F3F;
     return quarter + ((kRim >> 1) & 0x7F7F7F) + ((kRim >> 2) & 0x3F3F3F);

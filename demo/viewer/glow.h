@@ -1,4 +1,4 @@
-// The look of a selection: a bright rim around what is drawn, which keeps its own colors.
+// The highlight of a selection: a bright outline around the selected graphics, which keep their own colors.
 #pragma once
 
 #include <vector>
@@ -7,10 +7,10 @@
 
 class Glow {
 public:
-    static constexpr int kRadius = 2; // pixels by which the rim surrounds a line
+    static constexpr int kRadius = 2; // width of the outline in pixels
 
-    // What is selected is drawn into Dc next, as far as that area of a scene of that size needs it, then Put is called.
-    // False: there is no room, and no rim is put.
+    // Prepares Dc for drawing the selection, as far as that area of a scene of that size needs it; Put follows. Returns
+    // false if there is not enough memory, and no highlight is drawn.
     bool Begin(CSize scene, CRect area);
     HDC Dc() const { return m_mask.Dc(); }
     void Put(MemoryPicture& scene);
@@ -18,9 +18,9 @@ public:
 private:
     void Spread();
 
-    CRect m_area;   // of the scene
-    CRect m_around; // what of the selection may show there
+    CRect m_area;   // area of the scene
+    CRect m_around; // the part of the selection that can affect the area
     MemoryPicture m_mask;
-    std::vector<uint8_t> m_drawn;  // of the area and its surroundings: 1 where something is drawn
-    std::vector<uint8_t> m_spread; // the same, spread along the rows
+    std::vector<uint8_t> m_drawn;  // area and surroundings: 1 where something is drawn
+    std::vector<uint8_t> m_spread; // the same, dilated along rows
 };

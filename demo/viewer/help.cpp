@@ -1,4 +1,4 @@
-// Finding the guide, and what shows it.
+// Finds the guide and the browser.
 
 #include "demo/viewer/help.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr const wchar_t* kGuide = L"help\\user-guide.html"; // beside the program
+constexpr const wchar_t* kGuide = L"help\\user-guide.html"; // in the folder of the program
 constexpr const char* kViewer = "the-viewer";
 
 // The headings of the guide.
@@ -44,7 +44,7 @@ std::wstring UrlOf(const std::wstring& path, const std::string& topic) {
     return url + (L"#" + Wide(topic));
 }
 
-// The program itself: the system gives a document's place in it to no program that it finds by the document.
+// Finds the browser program, because the system does not pass an anchor when it opens a document.
 std::wstring Browser() {
     wchar_t program[MAX_PATH] = L"";
     DWORD size = MAX_PATH;

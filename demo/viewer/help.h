@@ -1,12 +1,12 @@
-// The user guide, in the user's browser.
+// Opens the user guide in the user's browser.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-// The guide's anchor for what the window belongs to: the page of a sheet that is in front, else the viewer.
+// Returns the guide's anchor for a window: that of the active page of its sheet, else that of the viewer.
 std::string HelpTopicOf(HWND window);
 
-// Shows the guide at that anchor. False: why not has been told to the user.
+// Opens the guide at that anchor. Returns false after reporting a failure to the user.
 bool ShowHelp(HWND owner, const std::string& topic);

@@ -1,4 +1,4 @@
-// Moving a picture along, and drawing it.
+// Moves the cached view and draws its missing parts.
 
 #include "demo/viewer/kept_picture.h"
 
@@ -26,12 +26,12 @@ private:
     orlo::SavedDC m_saved;
 };
 
-// One direction of a picture that is stretched: pixels of it and of where it goes.
+// One axis of a stretched bitmap: pixels of the bitmap and of the target.
 struct Span {
     int from, fromLength, to, toLength;
 };
 
-// position: of the picture's pixel 0 in the window; scale: window pixels of one of its pixels; length: of both.
+// position: window coordinate of the bitmap's pixel 0; scale: window pixels per bitmap pixel; length: of both.
 Span VisibleSpan(double position, double scale, int length) {
     const double first = std::clamp(std::floor(-position / scale), 0.0, static_cast<double>(length));
     const double last = std::clamp(std::ceil((length - position) / scale), first, static_cast<double>(length));
@@ -40,7 +40,7 @@ Span VisibleSpan(double position, double scale, int length) {
     return {static_cast<int>(first), static_cast<int>(last - first), begin, end - begin};
 }
 
-// What of all lies around the inner one.
+// Returns the parts of `all` that surround the inner rectangle.
 std::vector<CRect> Around(const CRect& inner, const CRect& all) {
     CRect seen;
     if (!seen.IntersectRect(inner, all)) return {all};
@@ -72,7 +72,7 @@ void KeptPicture::Resize(CSize size) {
     SpoilAll();
 }
 
-// ---- Moving
+// ---- Movement
 
 void KeptPicture::Zoom(double factor, CPoint anchor) {
     const bool along = StartMoving();
@@ -87,7 +87,7 @@ void KeptPicture::Pan(CSize pixels) {
     const bool along = StartMoving();
     m_camera.Pan(pixels);
     if (!along) return SpoilAll();
-    if (m_stretch) return; // comes where it belongs with that
+    if (m_stretch) return; // stretching also moves it
     m_frame.Shift(pixels);
     for (CRect& gap : m_gaps)
         ::OffsetRect(&gap, pixels.cx, pixels.cy);
@@ -107,7 +107,7 @@ bool KeptPicture::StartMoving() {
     return m_moving = true;
 }
 
-// The camera has zoomed: all of the frame comes from the scene, which is exact.
+// The camera has zoomed: the whole frame is made from the scene, which is exact.
 void KeptPicture::MoveFrame() {
     m_stretch = false;
     const CSize size = m_frame.Size();

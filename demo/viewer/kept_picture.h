@@ -1,9 +1,8 @@
-// What a view shows of a drawing, as a picture in memory: the drawing with the glow of its selection.
+// The cached picture of a view: the drawing with the highlight of its selection.
 //
-// A picture that is drawn in less than a frame's time is drawn anew whenever the camera moves. One that takes longer
-// moves along: it is shifted or stretched, and what comes in at the edges is drawn as far as a frame has time. At rest
-// it is drawn anew beside the one that is shown, in as many turns as its user likes, and is then the same as one that
-// has never moved.
+// If drawing takes less than a frame's time, the picture is redrawn whenever the camera moves. Otherwise it is shifted
+// or stretched, and the parts that enter at the edges are drawn within the time of a frame. When movement stops, the
+// exact picture is drawn in the background in time slices, and is then identical to one that has never moved.
 #pragma once
 
 #include <chrono>
@@ -16,37 +15,37 @@
 
 class KeptPicture {
 public:
-    static constexpr int kFrameTime = 20; // milliseconds for drawing, of the 50 that a fluid frame may take
+    static constexpr int kFrameTime = 20; // milliseconds for drawing; a fluid frame takes at most 50
 
     explicit KeptPicture(Camera& camera, int frameTime = kFrameTime);
 
-    void SetDocument(Document* document); // null: nothing is shown
-    void SetPaper(COLORREF paper);        // that lies under the drawing
+    void SetDocument(Document* document); // null to show nothing
+    void SetPaper(COLORREF paper);        // background color of the drawing
     void Resize(CSize size);
     CRect Bounds() const { return m_picture.Bounds(); }
 
-    // Something else is to be seen. It is never shown as it was before.
+    // Something else must be shown; the old picture is never displayed again.
     void SpoilAll();
     bool IsSpoiled() const { return m_spoiled; }
-    // Something else is selected there.
+    // The selection changed there.
     void SpoilGlow(const CRect& area);
 
     // Move the camera.
     void Zoom(double factor, CPoint anchor);
     void Pan(CSize pixels);
 
-    // Draws what is missing.
+    // Draws the missing parts.
     void Renew();
-    // Empty, null, as long as there is no room for it.
+    // Null if there is not enough memory.
     HDC Dc() const { return m_moving ? m_frame.Dc() : m_scene.Dc(); }
 
-    // Whether the picture has moved along and is not exact yet.
+    // Returns whether the picture has been moved and is not exact yet.
     bool IsMoved() const { return m_moving; }
-    // Goes on drawing the exact one for about that many milliseconds; true when it is shown by the next Dc.
+    // Continues drawing the exact picture for about that many milliseconds. Returns true when Dc shows it.
     bool Settle(int milliseconds);
 
 private:
-    // A drawing in turns into a picture of its own.
+    // Drawing in time slices to a separate bitmap.
     struct Turn {
         enum class Part { Drawing, Selection } part = Part::Drawing;
         uint32_t place = 0;
@@ -54,7 +53,7 @@ private:
         int spent = 0; // milliseconds
     };
 
-    bool StartMoving(); // false: the picture does not move along
+    bool StartMoving(); // returns false if the picture cannot be moved
     void MoveFrame();
     void DrawGaps();
 
@@ -71,17 +70,17 @@ private:
     COLORREF m_paper = 0;
 
     MemoryPicture m_picture; // the drawing
-    MemoryPicture m_scene;   // with the selection
+    MemoryPicture m_scene;   // with the selection highlight
     Glow m_glow;
-    bool m_spoiled = true; // all of the picture, and of the scene
+    bool m_spoiled = true; // of the whole picture and scene
     CRect m_spoiledScene;
-    bool m_slow = false; // drawing it all has taken longer than a frame
+    bool m_slow = false; // drawing took longer than a frame
 
-    bool m_moving = false;     // what follows counts
-    MemoryPicture m_frame;     // the scene, moved
-    WorldBox m_sceneBox;       // what the scene shows
-    bool m_stretch = false;    // the frame has to be made from the scene again
-    std::vector<CRect> m_gaps; // of the frame
+    bool m_moving = false;     // the following members are valid
+    MemoryPicture m_frame;     // the moved scene
+    WorldBox m_sceneBox;       // the box shown by the scene
+    bool m_stretch = false;    // the frame must be made from the scene again
+    std::vector<CRect> m_gaps; // missing parts of the frame
     MemoryPicture m_next;      // the next picture
     Turn m_turn;
 };

@@ -1,4 +1,4 @@
-// The list of the main window's keys and what the mouse does in it.
+// The dialog with the main window's keys and mouse actions.
 #pragma once
 
 #include <afxwin.h>

@@ -1,4 +1,4 @@
-// Layers as they were.
+// Recorded states of layers.
 
 #include "demo/viewer/layer_states.h"
 

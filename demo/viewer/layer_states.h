@@ -1,4 +1,4 @@
-// The colors and states of all layers of a drawing at one moment, and the change since then as a step of undo.
+// Records the colors and states of all layers of a drawing, and creates an undo step for changes since then.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@ public:
 
     void Restore() const;
 
-    // Returns the change of the layers since they were so; null without one. The drawing outlives the result.
+    // Returns the change since `before`, or null if there is none. The drawing must outlive the result.
     static std::unique_ptr<UndoableChange> ChangeSince(LayerStates before);
 
 private:

@@ -16,24 +16,24 @@
 
 namespace {
 
-// What a layer can be: a column of the list, and a box that shows it for the selected rows.
+// A state of a layer: a column of the list, and a check box for the selected rows.
 struct State {
     const char* title;
     UINT box;
     uint32_t flag;
-    bool whenSet; // the state is there if the flag is set, or if it is not
+    bool whenSet; // whether the state means that the flag is set or clear
 };
 constexpr State kStates[] = {{"On", IDC_LAYER_ON, kLayerOff, false},
                              {"Frozen", IDC_LAYER_FROZEN, kLayerFrozen, true},
                              {"Locked", IDC_LAYER_LOCKED, kLayerLocked, true}};
 constexpr size_t kStateCount = std::size(kStates);
-constexpr int kFirstState = 1; // column, after the name
+constexpr int kFirstState = 1; // column after the name
 constexpr int kCountColumn = kFirstState + static_cast<int>(kStateCount);
 constexpr int kColorColumn = kCountColumn + 1;
 
 constexpr UINT kShowStates = WM_APP;
 
-// Dialog units.
+// In dialog units.
 constexpr int kStateWidth = 38;
 constexpr int kCountWidth = 44;
 constexpr int kColorWidth = 50;
@@ -153,7 +153,7 @@ void CLayersDialog::OnFind() {
 }
 
 LRESULT CLayersDialog::DrawCell(const NMHDR& header) const {
-    // The system's record, which the control reads again.
+    // The control reads the system's record again afterwards.
     auto& draw = *reinterpret_cast<NMLVCUSTOMDRAW*>(const_cast<NMHDR*>(&header));
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYSUBITEMDRAW;
@@ -178,7 +178,7 @@ void CLayersDialog::Set(size_t layer, size_t state, bool on) {
     SetFlags(m_drawing, id, on == kStates[state].whenSet ? flags | flag : flags & ~flag);
 }
 
-// All of them are so afterwards, unless all have been before.
+// Sets the state for all layers, or clears it if all have it.
 void CLayersDialog::Toggle(size_t state, const std::vector<size_t>& layers) {
     const bool all = std::all_of(layers.begin(), layers.end(), [&](size_t layer) { return Is(layer, state); });
     for (const size_t layer : layers)
@@ -196,7 +196,7 @@ std::vector<size_t> CLayersDialog::SelectedLayers() const {
     return layers;
 }
 
-// A box is gray where the selected layers differ.
+// A check box is indeterminate if the selected layers differ.
 void CLayersDialog::ShowStates() {
     const std::vector<size_t> layers = SelectedLayers();
     for (size_t state = 0; state < kStateCount; ++state) {
@@ -212,7 +212,7 @@ void CLayersDialog::OnState(UINT command) {
     Toggle(command - IDC_LAYER_ON, SelectedLayers());
 }
 
-// A selection of many rows comes as one notification each.
+// Posted because selecting many rows sends a notification for each.
 LRESULT CLayersDialog::OnShowStates(WPARAM, LPARAM) {
     m_isShowing = false;
     ShowStates();
@@ -252,7 +252,7 @@ BOOL CLayersDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     }
 }
 
-// In a column of states: changes that row alone.
+// A click in a column of states changes only that row.
 void CLayersDialog::OnClick(POINT point) {
     LVHITTESTINFO hit = {};
     hit.pt = point;

@@ -1,7 +1,6 @@
-// The dialog of layers: which are on, frozen or locked, for one or several at a time. The drawing shows each change at
-// once; Cancel undoes all of them. A click on a column's title sorts by it, and the list shows the layers whose names
-// contain the text in the Find field. The list asks for the rows that it shows, so that thousands of layers are no
-// burden.
+// The layers dialog: turns layers on and off, freezes or locks them, one or several at a time. The drawing shows each
+// change immediately; Cancel undoes all of them. Clicking a column's title sorts by it, and the Find field filters
+// layers by name. The list is virtual, so that it can show thousands of layers.
 #pragma once
 
 #include <afxwin.h>
@@ -29,7 +28,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Layers are numbered as m_layers has them.
+    // Layers are indices into m_layers.
     bool Is(size_t layer, size_t state) const;
     void Set(size_t layer, size_t state, bool on);
     void Toggle(size_t state, const std::vector<size_t>& layers);
@@ -38,7 +37,7 @@ private:
     uint32_t ColorOf(size_t layer) const;
     bool IsBefore(size_t a, size_t b) const;
     void AddColumns();
-    // Makes the rows anew and keeps the layers selected; without one of them the first row.
+    // Rebuilds the rows and keeps the selected layers, or else selects the first row.
     void ShowRows();
     void ShowStates();
     void OnClick(POINT point);
@@ -48,9 +47,9 @@ private:
     std::function<void()> m_changed;
     LayerStates m_before;
     std::vector<LayerCount> m_layers;
-    std::vector<size_t> m_rows; // the layers that the list shows, in its order
+    std::vector<size_t> m_rows; // the layers shown by the list, in its order
     int m_sortColumn = 0;
     bool m_sortsDown = false;
-    bool m_isShowing = false; // a message that will show the states of the selection is on its way
+    bool m_isShowing = false; // a message to update the check boxes has been posted
     HWND m_list = nullptr;
 };

@@ -1,4 +1,4 @@
-// Kinds, widths and layers of graphics, counted and compared.
+// Counts and compares kinds, widths and layers of graphics.
 
 #include "demo/viewer/likeness.h"
 
@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr size_t kMostValues = 3; // that are shown
+constexpr size_t kMostValues = 3; // maximum number of values listed
 
 struct KindName {
     uint32_t kind;
@@ -40,7 +40,7 @@ Likeness LikenessOf(GraphicStruct* graphic) {
     return {::GraphicGetKind(graphic), LayerOf(graphic), color};
 }
 
-// By name.
+// Sorts by name.
 std::vector<LayerCount> Named(DrawingStruct* drawing, const std::map<uint16_t, int>& counts) {
     std::vector<LayerCount> layers;
     for (const auto& [layer, count] : counts)

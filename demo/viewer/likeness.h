@@ -1,4 +1,4 @@
-// How graphics are alike and where they differ, in words, and which others are like them.
+// Summarizes the selected graphics in text, and finds similar ones.
 #pragma once
 
 #include <cstdint>
@@ -11,23 +11,23 @@
 using Graphics = std::vector<GraphicStruct*>;
 
 struct KindCount {
-    uint32_t kind; // as GraphicGetKind gives it
+    uint32_t kind; // as returned by GraphicGetKind
     int count;
 };
 
-// The kinds that occur, in an order that is always the same.
+// Returns the kinds of the graphics in a fixed order.
 std::vector<KindCount> CountKinds(const Graphics& graphics);
-std::string KindText(const KindCount& kind); // "6 texts"
-// "116: 6 texts, 80 lines, 30 curves"; of one kind only "80 lines"; empty for none.
+std::string KindText(const KindCount& kind); // Returns for example "6 texts".
+// Returns for example "116: 6 texts, 80 lines, 30 curves"; "80 lines" for a single kind; an empty string for none.
 std::string KindsText(const Graphics& graphics);
-// "3 x 0.25 mm, 2 x 0.5 mm": the first ones, and how many others there are.
+// Returns for example "3 x 0.25 mm, 2 x 0.5 mm": the first values, and the number of others.
 std::string CountsText(const std::vector<ValueCount>& counts);
-// Of the pens' widths; empty if no graphic has a pen.
+// Returns the text for the pen widths; empty if no graphic has a pen.
 std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics);
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind);
 Graphics OnLayer(const Graphics& graphics, uint16_t layer);
-// Those that share kind, layer and color with one of the examples.
+// Returns the graphics that have the same kind, layer and color as one of the examples.
 Graphics LikeThese(const Graphics& graphics, const Graphics& examples);
 
 struct LayerCount {
@@ -35,7 +35,7 @@ struct LayerCount {
     std::string name;
     int count;
 };
-// The layers that graphics are on, in the order of their names.
+// Returns the layers of the graphics, sorted by name.
 std::vector<LayerCount> CountLayers(DrawingStruct* drawing, const Graphics& graphics);
-// All layers, with the number of all graphics on each, in the order of their names.
+// Returns all layers with the number of graphics on each, sorted by name.
 std::vector<LayerCount> AllLayers(DrawingStruct* drawing);

@@ -1,4 +1,4 @@
-// What the user sees of a long task.
+// User interface of a blocking operation.
 
 #include "demo/viewer/long_task.h"
 
@@ -27,7 +27,7 @@ void ShowHourglass(const CWnd& window) {
 void EndHourglass() {
     POINT point;
     ::GetCursorPos(&point);
-    ::SetCursorPos(point.x, point.y); // the window there is asked for its cursor
+    ::SetCursorPos(point.x, point.y); // makes the window set its cursor
 }
 
 LongTask::LongTask(const CWnd& window, CStatusLine& line, const std::string& text) : m_line(line) {

@@ -1,5 +1,5 @@
-// A task during which the main window hears nothing: shows the hourglass and the bar of the status line, paints what is
-// uncovered, and looks for the Escape key.
+// An operation during which the main window handles no input: shows the wait cursor and a progress bar in the status
+// bar, repaints exposed windows, and checks for the Escape key.
 //
 //   LongTask task(*this, m_status, "Opening roof.dxf");
 //   Document::Open(path, [&](int permille) { return task.GoOn(permille); });
@@ -11,12 +11,12 @@
 
 #include "demo/viewer/status_line.h"
 
-// Posted to the window; it ends the hourglass by EndHourglass.
+// Posted to the window, which restores the cursor with EndHourglass.
 constexpr UINT kHourglassEnds = WM_APP + 1;
 
-// Until the window comes to its next messages.
+// Shows the wait cursor until the window handles messages again.
 void ShowHourglass(const CWnd& window);
-// The cursor of what is under the pointer.
+// Restores the cursor of the window under the pointer.
 void EndHourglass();
 
 class LongTask {
@@ -26,7 +26,7 @@ public:
     LongTask(const LongTask&) = delete;
     LongTask& operator=(const LongTask&) = delete;
 
-    // So much has been done. False: Escape has been pressed. All other keys are dropped.
+    // Updates the progress. Returns false if Escape was pressed; all other keys are discarded.
     bool GoOn(int permille);
 
 private:

@@ -27,13 +27,13 @@
 
 namespace {
 
-// Pixels at 96 dots per inch.
+// Pixels at 96 dpi.
 constexpr int kSplitterWidth = 5;
 constexpr int kSmallestPane = 120;
 constexpr int kSmallestView = 200;
 constexpr int kSmallestHeight = 240;
 
-constexpr UINT kTyped = WM_APP + 2; // posted by a key in a sheet, comes when the field has taken it
+constexpr UINT kTyped = WM_APP + 2; // posted after a keystroke in a sheet, so that the field has handled it
 
 constexpr const char* kHello = "Open a drawing with Ctrl+O, or drop one here";
 std::string ChangedText(int changed, const Document& document) {
@@ -44,12 +44,13 @@ std::string ChangedText(int changed, const Document& document) {
     return text;
 }
 
-// Commands that neither change a drawing nor what is selected in it.
+// Returns whether the command changes neither the drawing nor the selection.
 bool IsOfLooks(UINT command) {
     return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_GUIDE && command != ID_VIEW_PROPERTIES;
 }
 
-// Of the monitor that the window is on; null: the system's. Systems before Windows 10 know one resolution for all.
+// Returns the resolution of the window's monitor, or the system's if the window is null. Before Windows 10 all monitors
+// have the same.
 int DpiOf(HWND window) {
     using Function = UINT(WINAPI*)(HWND);
     const FARPROC found = ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetDpiForWindow");
@@ -58,7 +59,7 @@ int DpiOf(HWND window) {
     return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 }
 
-// Systems before Windows 10 have no such scheme: the drawing is dark there.
+// Before Windows 10 there is no such setting; the background is then dark.
 bool IsSystemLight() {
     DWORD light = 0, size = sizeof light;
     ::RegGetValueA(HKEY_CURRENT_USER, R"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
@@ -180,7 +181,7 @@ void CMainFrame::ArrangeClient() {
     m_pane.MoveWindow(width + bar, 0, pane, height);
 }
 
-// The drawing keeps some room as long as the pane has its smallest width.
+// Keeps some space for the drawing if the pane has at least its minimum width.
 int CMainFrame::PaneWidth(const CRect& client) const {
     if (!m_pane.IsOpen()) return 0;
     const int smallest = Scaled(kSmallestPane);
@@ -208,7 +209,7 @@ LRESULT CMainFrame::OnGetMinMaxInfo(WPARAM, LPARAM lParam) {
     return 0;
 }
 
-// ---- What is remembered
+// ---- Settings
 
 void CMainFrame::ShowSettings() {
     m_view.ShowLineWeights(Settings::Number(kSettingLineWeights).value_or(1) != 0);
@@ -219,7 +220,7 @@ void CMainFrame::ShowSettings() {
     if (Settings::Number(kSettingPaneOpen).value_or(0)) m_pane.Open();
 }
 
-// A place that no monitor shows any more is not used.
+// Ignores a position that is not on any monitor.
 void CMainFrame::ShowFirst(int show) {
     WINDOWPLACEMENT place = {};
     place.length = sizeof place;
@@ -252,7 +253,7 @@ void CMainFrame::SaveWindowPlace() const {
     Settings::SetNumber(kSettingPaneOpen, m_pane.IsOpen());
 }
 
-// What was typed in the pane has been applied by now, with the mark that it was typed with.
+// Typed text in the pane has already been applied, with the previous decimal separator.
 void CMainFrame::OnDecimalMark(UINT command) {
     Settings::SetNumber(kSettingDecimalMark, MarkOf(command));
     ShowDecimalMark();
@@ -273,12 +274,12 @@ LRESULT CMainFrame::OnSettingChange(WPARAM, LPARAM) {
     return Default();
 }
 
-// The window has come to a monitor of another resolution, which says how large it should be there.
+// Handles a move to a monitor with another resolution; the message contains the suggested size.
 LRESULT CMainFrame::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     m_status.SetDpi(HIWORD(wParam));
     const RECT& place = *reinterpret_cast<const RECT*>(lParam);
     MoveWindow(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    ArrangeClient(); // also if the size is the same
+    ArrangeClient(); // even if the size is the same
     return 0;
 }
 
@@ -295,7 +296,7 @@ void CMainFrame::OnSetFocus(CWnd*) {
 
 // ---- Editing
 
-// What was typed in the pane comes before all that a command does with the drawing.
+// Typed text in the pane is applied before any command that uses the drawing.
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (lParam && FillStyleControl(wParam, lParam, m_document.get())) return TRUE;
     if (!lParam && !IsOfLooks(LOWORD(wParam)) && !m_pane.Apply()) return TRUE;
@@ -316,13 +317,13 @@ void CMainFrame::OnEditProperties() {
     m_status.ShowMessage(ChangedText(outcome.changed, *m_document));
 }
 
-// What the window says of graphics besides the drawing itself.
+// Updates what the window shows about graphics beside the drawing.
 void CMainFrame::ShowChange() {
     ShowTitle();
     OnSelectionChanged();
 }
 
-// The pane shows what it has written.
+// The pane already shows what it has written.
 void CMainFrame::ShowApplied(int changed) {
     m_hints.Renew();
     ShowTitle();
@@ -340,7 +341,7 @@ void CMainFrame::OnEditRedo() {
     ShowUndone("Redone: " + m_document->Redo());
 }
 
-// Undo reaches layers too: what is hidden now cannot stay selected.
+// Undo also changes layers; graphics on hidden layers must not remain selected.
 void CMainFrame::ShowUndone(const std::string& message) {
     m_status.ShowMessage(message);
     m_view.Redraw();
@@ -376,7 +377,7 @@ void CMainFrame::OnApplyStyle() {
     ShowChange();
 }
 
-// ---- Selecting
+// ---- Selection
 
 void CMainFrame::OnSelectAll() {
     m_view.SelectAll();
@@ -419,7 +420,7 @@ void CMainFrame::OnSelectLayer(UINT command) {
     if (place < layers.size()) m_view.SelectOnly(OnLayer(m_document->Selectable(), layers[place].layer));
 }
 
-// A sheet, undo or a style: whoever changes graphics, of many of them it takes a while.
+// Shows the wait cursor, since a sheet, undo or style may change many graphics.
 void CMainFrame::OnDrawingChanging() {
     ShowHourglass(*this);
 }
@@ -448,7 +449,7 @@ void CMainFrame::OnPointerMoved(WorldPoint point) {
     if (m_document) m_status.ShowPointer(m_document->LengthText(point.x) + ",  " + m_document->LengthText(point.y));
 }
 
-// ---- Looking
+// ---- View
 
 void CMainFrame::OnZoomIn() {
     m_view.ZoomIn();
@@ -498,7 +499,7 @@ void CMainFrame::OnLayers() {
     DeselectUnselectable();
 }
 
-// ---- The pane of properties
+// ---- Properties pane
 
 void CMainFrame::OnPropertiesPane() {
     if (m_pane.IsOpen()) {
@@ -537,7 +538,7 @@ bool CMainFrame::OnDialogMessage(MSG& message) {
     return !IsKeyOfFocus(message) && ::TranslateAcceleratorA(m_hWnd, m_paneKeys, &message);
 }
 
-// The letters of the menu bar are the menu's: labels of the pane have some of them too.
+// Mnemonics of the menu bar take precedence over those of labels in the pane.
 bool CMainFrame::OpenMenuByKey(const MSG& message) {
     if (message.message != WM_SYSCHAR) return false;
     const HMENU menu = ::GetMenu(m_hWnd);
@@ -552,7 +553,7 @@ bool CMainFrame::OpenMenuByKey(const MSG& message) {
     return false;
 }
 
-// A field undoes its own typing first; after that Ctrl+Z undoes changes of the drawing.
+// A field undoes its own typing first; then Ctrl+Z undoes changes of the drawing.
 bool CMainFrame::IsKeyOfFocus(const MSG& message) const {
     const bool isUndo = message.message == WM_KEYDOWN && message.wParam == 'Z' && ::GetKeyState(VK_SHIFT) >= 0;
     return isUndo && ::SendMessageA(message.hwnd, EM_CANUNDO, 0, 0);
@@ -566,7 +567,7 @@ void CMainFrame::OnHelpGuide() {
     ShowHelp(m_hWnd, HelpTopicOf(m_hWnd));
 }
 
-// The Help button of a sheet, which has the focus, comes here by way of its page.
+// Called for the Help button of a sheet through its page.
 LRESULT CMainFrame::OnCommandHelp(WPARAM, LPARAM) {
     ShowHelp(::GetActiveWindow(), HelpTopicOf(::GetFocus()));
     return TRUE;

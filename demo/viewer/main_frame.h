@@ -1,4 +1,4 @@
-// The main window: menu, view, status line, and the host's half of the talk with the library's controls.
+// The main window: menu, view, status bar, and the host's side of the control protocol.
 #pragma once
 
 #include <afxwin.h>
@@ -22,19 +22,19 @@ public:
     CMainFrame();
     ~CMainFrame() override;
 
-    // False: no window could be made, and the object is gone.
+    // Returns false if the window could not be created; the object is then deleted.
     BOOL Create();
-    // Shows the window where the user has left it in an earlier session. show: the system's wish, SW_SHOWNORMAL or
+    // Shows the window at its position from the last session. show: the value requested by the system, SW_SHOWNORMAL or
     // another.
     void ShowFirst(int show);
 
-    // Shows the drawing (path in UTF-8) in place of the one now open; if it cannot be opened, says why and keeps that
-    // one, which it also keeps if the user thinks better of it for the sake of unsaved changes.
+    // Opens a drawing (path in UTF-8) in place of the current one. If it cannot be opened, or if the user cancels at
+    // the prompt about unsaved changes, keeps the current one and reports the reason.
     bool Open(const std::string& path);
-    // Shows a drawing that has been opened already, whatever becomes of the one before.
+    // Shows a drawing that is already open, without a prompt for the previous one.
     void Show(std::unique_ptr<Document> document);
-    // Saves the drawing to that file, which it belongs to from then on. False: the user has been told why not, or did
-    // not want it.
+    // Saves the drawing to that file and makes it the drawing's file. Returns false if saving failed, which was
+    // reported, or the user canceled.
     bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }
@@ -102,7 +102,7 @@ private:
     void OnEditProperties() override;
 
     bool SaveTo(const std::string& path, bool overChanged);
-    // Whether the document may go: nothing is unsaved, or the user has answered what is to become of it.
+    // Returns true if the document can be closed: saved, or the user chose to discard it.
     bool MayLeaveDocument();
     void ShowWhatOpened();
     void ShowTitle();
@@ -117,7 +117,7 @@ private:
     void ArrangeClient();
     int PaneWidth(const CRect& client) const;
     void SizePane(int left, bool done);
-    int Scaled(int at96) const; // pixels for the monitor that the window is on
+    int Scaled(int at96) const; // pixels for the window's monitor
     void ShowSettings();
     static int MarkOf(UINT command);
     void ShowDecimalMark();
@@ -137,8 +137,8 @@ private:
     FieldHints m_hints;
     DialogMessages m_dialogMessages;
     CSplitter m_splitter;
-    int m_paneWidth = 0;    // pixels at 96 dots per inch, as the user has dragged it; 0: as wide as its sheet
-    HACCEL m_paneKeys;      // the system's, for as long as the program runs
-    bool m_isBusy = false;  // with a file
-    HWND m_focus = nullptr; // in the pane, when another window became the active one
+    int m_paneWidth = 0;    // in pixels at 96 dpi as set by the user; 0: the width of its sheet
+    HACCEL m_paneKeys;      // owned by the system until the program ends
+    bool m_isBusy = false;  // opening or saving a file
+    HWND m_focus = nullptr; // the focus in the pane when the window was deactivated
 };

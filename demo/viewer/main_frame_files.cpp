@@ -1,4 +1,4 @@
-// The main window's files: opening, saving, and what is asked before a drawing goes.
+// The main window's file commands: opening, saving, and the prompt for unsaved changes.
 
 #include "demo/viewer/main_frame.h"
 
@@ -67,7 +67,7 @@ bool CMainFrame::Open(const std::string& path) {
 void CMainFrame::Show(std::unique_ptr<Document> document) {
     m_pane.SetDocument(nullptr);
     m_view.SetDocument(document.get());
-    m_document = std::move(document); // the one before goes now
+    m_document = std::move(document); // closes the previous one
     m_pane.SetDocument(m_document.get());
     ShowWhatOpened();
     OnSelectionChanged();
@@ -96,12 +96,12 @@ void CMainFrame::OnFileOpen() {
     if (dialog.DoModal() == IDOK) Open(Utf8FromSystem(dialog.GetPathName()));
 }
 
-// One window shows one drawing: the first file. The others wait in the list of recent ones.
+// A window shows one drawing: the first file. The others are added to the recent files.
 void CMainFrame::OnDropFiles(HDROP drop) {
     const std::vector<std::string> files = DroppedFiles(drop);
     ::DragFinish(drop);
     if (files.empty() || !IsWindowEnabled()) return;
-    ::SetForegroundWindow(m_hWnd); // that of the program that the files come from has been it
+    ::SetForegroundWindow(m_hWnd); // activate, because the program that the files came from was active
     for (size_t i = files.size(); i > 1; --i)
         RecentFiles::Add(files[i - 1]);
     if (Open(files.front()) && files.size() > 1)

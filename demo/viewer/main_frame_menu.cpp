@@ -1,4 +1,4 @@
-// The main window's menu: what can be done and what is chosen as it opens, and the submenus that are made then.
+// The main window's menu: enabled and checked items, and submenus created when they open.
 
 #include "demo/viewer/main_frame.h"
 
@@ -51,7 +51,7 @@ bool CMainFrame::CanDo(UINT command) const {
     }
 }
 
-// A submenu is known by its first item.
+// A submenu is identified by its first item.
 bool CMainFrame::FillSubmenu(HMENU menu) {
     const UINT command = ::GetMenuItemID(menu, 0);
     std::vector<std::string> texts;
@@ -94,7 +94,7 @@ bool CMainFrame::IsChosen(UINT command) const {
     }
 }
 
-// The character of a command that chooses the decimal mark, 0 for the system's.
+// Returns the character of a command that selects the decimal separator, 0 for the system's.
 int CMainFrame::MarkOf(UINT command) {
     return command == ID_VIEW_MARK_POINT ? '.' : command == ID_VIEW_MARK_COMMA ? ',' : 0;
 }

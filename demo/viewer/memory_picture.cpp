@@ -1,4 +1,4 @@
-// A picture in memory, 32 bits a pixel.
+// A bitmap in memory with 32 bits per pixel.
 
 #include "demo/viewer/memory_picture.h"
 
@@ -18,7 +18,7 @@ bool MemoryPicture::Resize(CSize size) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy; // rows from the top
+    info.bmiHeader.biHeight = -size.cy; // top row first
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;

@@ -1,4 +1,4 @@
-// A picture in memory, 32 bits a pixel, that GDI draws into and programs read and write by pixel.
+// A bitmap in memory with 32 bits per pixel, for drawing with GDI and for direct access to pixels.
 #pragma once
 
 #include <afxgdi.h>
@@ -9,29 +9,31 @@
 
 class MemoryPicture {
 public:
-    // Undefined content after a change of size. False, with the picture empty, if there is no memory for it.
+    // Changes the size; the content becomes undefined. Returns false, with the bitmap empty, if there is not enough
+    // memory.
     bool Resize(CSize size);
     CSize Size() const { return m_size; }
     CRect Bounds() const { return CRect(CPoint(), m_size); }
 
-    // Null while the picture is empty. Nothing that is selected into it outlives the call that selected it.
+    // Returns null if the bitmap is empty. Objects selected into it must be deselected by the function that selected
+    // them.
     HDC Dc() const { return m_dc.get(); }
-    // Pixels of a row from the left, as 0x00rrggbb. What GDI has been asked to draw is there.
+    // Returns the pixels of a row as 0x00rrggbb, after flushing GDI.
     uint32_t* Row(int y) const;
 
     void Fill(const CRect& area, COLORREF color);
-    // Copies an area to the same place here.
+    // Copies an area from the same position of the source.
     void CopyFrom(HDC source, const CRect& area);
-    // Copies one area to another, larger or smaller; each pixel is one of the source's.
+    // Copies and scales one area to another without interpolation.
     void Stretch(HDC source, const CRect& from, const CRect& to);
-    // Shifts the content; what comes in at the edges is undefined.
+    // Moves the content; the pixels that enter at the edges are undefined.
     void Shift(CSize by);
 
 private:
     void Free();
 
     CSize m_size;
-    orlo::OwnedBitmap m_bitmap; // selected as long as the device context is there
+    orlo::OwnedBitmap m_bitmap; // selected during the lifetime of the device context
     orlo::OwnedDC m_dc;
     uint32_t* m_pixels = nullptr;
 };

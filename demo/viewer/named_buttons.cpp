@@ -1,10 +1,10 @@
-// Message boxes that are changed as they come up.
+// Changes the buttons of message boxes when they open.
 
 #include "demo/viewer/named_buttons.h"
 
 namespace {
 
-// Changes the buttons of the next message box of this thread.
+// Changes the buttons of this thread's next message box.
 class ButtonNames {
 public:
     explicit ButtonNames(const std::vector<NamedButton>& buttons) : m_buttons(buttons) {

@@ -1,4 +1,4 @@
-// A system message box whose buttons say what they do.
+// A system message box with custom button texts.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +11,6 @@ struct NamedButton {
     const char* text;
 };
 
-// As MessageBoxA, with other texts of the buttons.
+// Same as MessageBoxA, with other button texts.
 int MessageBoxWithButtons(HWND owner, const char* text, const char* caption, UINT type,
                           const std::vector<NamedButton>& buttons);

@@ -1,4 +1,4 @@
-// The pane of the selection's properties.
+// The properties pane.
 
 #include "demo/viewer/properties_pane.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr UINT kRenew = WM_APP;
 constexpr UINT kNothingId = 1;
-// Pixels.
+// In pixels.
 constexpr int kMargin = 8;
 constexpr int kScrollLine = 20;
 
@@ -24,7 +24,7 @@ struct Button {
     const char* text;
 };
 constexpr Button kButtons[] = {
-    // Help without a letter: Alt+H is the menu's.
+    // Help has no mnemonic, because Alt+H opens the menu.
     {IDOK, "&Apply"},
     {ID_PANE_RESET, "&Reset"},
     {ID_VIEW_PROPERTIES, "&Close"},
@@ -79,7 +79,7 @@ int CPropertiesPane::FittingWidth(int height) const {
     return m_sheetSize.cx + (m_sheetSize.cy > height ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
 }
 
-// The first bar takes room from the other direction, and so may need the second one.
+// A scroll bar for one direction reduces the space for the other, which may then need one too.
 void CPropertiesPane::ArrangeScrollBars() {
     const bool any = IsOverGraphics();
     for (const int bar : {SB_VERT, SB_HORZ, SB_VERT}) {
@@ -94,7 +94,7 @@ void CPropertiesPane::ArrangeScrollBars() {
     ScrollBy(CSize());
 }
 
-// As far as the bars allow.
+// Limited by the scroll range.
 void CPropertiesPane::ScrollBy(CSize pixels) {
     const auto move = [this](int bar, int way) {
         ::SetScrollPos(m_hWnd, bar, ::GetScrollPos(m_hWnd, bar) + way, TRUE);
@@ -162,7 +162,7 @@ void CPropertiesPane::RevealFocus() {
     ScrollBy(CSize(way(place.left, place.right, client.right), way(place.top, place.bottom, client.bottom)));
 }
 
-// ---- What it shows
+// ---- Contents
 
 void CPropertiesPane::SetDocument(Document* document) {
     if (m_document && m_isOpen) m_document->EndGathering();
@@ -222,7 +222,7 @@ void CPropertiesPane::Renew() {
         ::SetFocus(::IsWindow(focus) ? focus : GetParent()->m_hWnd);
 }
 
-// The sheet over nothing has pages too, which nobody has chosen.
+// A sheet over an empty selection also has pages, but the user has not selected one of them.
 void CPropertiesPane::DropSheet() {
     if (IsOverGraphics()) m_edited->sheet.RememberPage();
     m_edited.reset();
@@ -239,7 +239,7 @@ bool CPropertiesPane::ShowSheet() {
     return true;
 }
 
-// Where a modal sheet has its buttons: in the column beside the page, above the preview.
+// In the same place as in a modal sheet: in the column beside the page, above the preview.
 void CPropertiesPane::AddButtons() {
     const HWND sheet = Sheet()->m_hWnd, page = Sheet()->GetActivePage()->m_hWnd;
     CRect units(4, 4, 50, 14); // in dialog units
@@ -274,8 +274,8 @@ bool CPropertiesPane::Apply() {
         COrloPropertyPage* page = ActivePage();
         if (!page->OnKillActive()) return false;
         page->OnOK();
-        page->OnSetActive();     // all its controls are clean
-        page->UpdateData(FALSE); // and show what was written, as "1.5" in place of "2*3/4"
+        page->OnSetActive();     // marks all controls as unchanged
+        page->UpdateData(FALSE); // shows the values written, such as "1.5" for "2*3/4"
         page->SetModified(FALSE);
         if (::IsChild(page->m_hWnd, focus)) ::SetFocus(focus);
     }
@@ -288,7 +288,7 @@ void CPropertiesPane::Reset() {
     Follow();
 }
 
-// ---- Keys and buttons
+// ---- Keyboard and buttons
 
 LRESULT CALLBACK CPropertiesPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                                  DWORD_PTR pane) {
@@ -301,7 +301,7 @@ LRESULT CALLBACK CPropertiesPane::OnSheetMessage(HWND sheet, UINT message, WPARA
         case IDCANCEL:
         case ID_PANE_RESET:
             return self->SendMessage(WM_COMMAND, LOWORD(wParam));
-        case ID_VIEW_PROPERTIES: // closes the sheet with the button that says so
+        case ID_VIEW_PROPERTIES: // closes the pane
             return ::PostMessageA(::GetParent(self->m_hWnd), WM_COMMAND, LOWORD(wParam), 0);
         }
     }
@@ -317,7 +317,7 @@ void CPropertiesPane::OnCancel() {
     GetParent()->SendMessage(WM_COMMAND, ID_VIEW_SWITCH_PANE);
 }
 
-// Null for a page that a regen method has made of another class.
+// Returns null for a page of another class, created by a regen method.
 COrloPropertyPage* CPropertiesPane::ActivePage() const {
     CPropertyPage* page = Sheet() ? Sheet()->GetActivePage() : nullptr;
     const bool isOrlos = page && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
@@ -329,7 +329,7 @@ std::optional<CPropertiesPane::Focus> CPropertiesPane::FocusWithin() const {
     HWND control = ::GetFocus();
     if (!page || !HasFocus() || control == Sheet()->m_hWnd || control == page->m_hWnd) return std::nullopt;
     const bool inPage = ::IsChild(page->m_hWnd, control);
-    while (::GetParent(control) != (inPage ? page->m_hWnd : Sheet()->m_hWnd)) // the edit of a combo
+    while (::GetParent(control) != (inPage ? page->m_hWnd : Sheet()->m_hWnd)) // the edit field of a combo box
         control = ::GetParent(control);
     return Focus{inPage, ::GetDlgCtrlID(control)};
 }

@@ -1,8 +1,8 @@
-// The pane beside the drawing: the library's sheet, modeless, over the selection, with an Apply button of its own.
+// The properties pane beside the drawing: the library's sheet, modeless, over the selection, with its own Apply button.
 //
-// A page writes when it is left, by Apply or for another page; all that was written since the last Apply becomes one
-// step of undo with the next one. Escape and Reset take it back. What was typed is applied by whatever comes next,
-// another selection or the end of the window: Apply says whether that may go on.
+// A page is written when it is left, by Apply or for another page; everything written since the last Apply becomes one
+// undo step at the next Apply. Escape and Reset undo it. Typed text is applied before the selection changes or the
+// window closes; Apply returns whether that may proceed.
 #pragma once
 
 #include <afxwin.h>
@@ -23,27 +23,27 @@ public:
     explicit CPropertiesPane(Applied applied);
     ~CPropertiesPane() override;
 
-    BOOL Create(CWnd* parent, UINT id); // hidden
-    // To be called before the document goes that was shown; null: none.
+    BOOL Create(CWnd* parent, UINT id); // creates it hidden
+    // Must be called before the displayed document is deleted; null for none.
     void SetDocument(Document* document);
 
     bool IsOpen() const { return m_isOpen; }
     void Open();
-    void Close(); // what was written stays; what was typed has been applied before, or is dropped
-    // The width in pixels at which a pane of that height shows all of its sheet.
+    void Close(); // keeps what was written; typed text must have been applied, or is discarded
+    // Returns the width in pixels at which a pane of that height shows its whole sheet.
     int FittingWidth(int height) const;
-    // Scrolls so far that the control with the focus is seen, if it is in the pane and has just got it.
+    // Scrolls to make the focused control visible if it is in the pane and has just got the focus.
     void RevealFocus();
 
-    // Selection or graphics have changed: a new sheet comes as soon as the present message has been dealt with.
+    // Called after selection or graphics have changed: creates a new sheet after the current message.
     void Follow();
-    // False: a page has refused what was typed, has told the user, and has the focus.
+    // Returns false if a page rejected typed text; the user was informed and the page has the focus.
     bool Apply();
     // Discards typed text and undoes everything that was written since the last Apply.
     void Reset();
 
     bool HasFocus() const { return ::IsChild(m_hWnd, ::GetFocus()) != FALSE; }
-    void TakeFocus(); // to the first field of the page
+    void TakeFocus(); // sets the focus to the first field of the page
 
 protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -56,13 +56,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // The sheet with the set that it is open over: a copy of the selection, which changes before the sheet does.
+    // The sheet with its set of graphics: a copy of the selection, which changes before the sheet does.
     struct Edited {
         Edited(CWnd* owner, const Document& document);
         Selection graphics;
         SelectionSheet sheet;
     };
-    struct Focus { // within the sheet, by the control's identifier
+    struct Focus { // in the sheet, by control identifier
         bool inPage;
         int control;
     };
@@ -86,9 +86,9 @@ private:
     Applied m_applied;
     Document* m_document = nullptr;
     std::optional<Edited> m_edited;
-    CWnd m_nothing; // says that nothing is selected
+    CWnd m_nothing; // shows that nothing is selected
     bool m_isOpen = false;
-    bool m_isStale = false; // the sheet is to be replaced
+    bool m_isStale = false; // the sheet must be replaced
     CSize m_sheetSize;
-    HWND m_revealed = nullptr; // the control that RevealFocus has seen last
+    HWND m_revealed = nullptr; // the control that RevealFocus last saw
 };

@@ -74,7 +74,7 @@ int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned l
 
 SheetOutcome EditSelection(CWnd* owner, Document& document) {
     SheetOutcome outcome = {};
-    // A cancelled sheet may have written too: a page writes when it is left for another one.
+    // A canceled sheet may have written too, since a page is written when it is left.
     outcome.changed = document.Attempt([&] {
         SelectionSheet sheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics);
         outcome.code = kNotShown;

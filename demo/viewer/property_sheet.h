@@ -10,7 +10,7 @@
 
 class Document;
 
-// The layer of previews while the object lives: that which all members of the set share, else none.
+// Sets the layer of previews during the object's lifetime: the layer shared by all members of the set, or none.
 class PreviewLayer {
 public:
     explicit PreviewLayer(GraphicStruct* set);
@@ -22,20 +22,19 @@ private:
     long m_before = 0;
 };
 
-// A sheet with the pages that the members of the set deserve, and the regen methods that they use.
+// A sheet with all pages for the members of the set, and the regen methods that they use.
 class SelectionSheet {
 public:
     // owner is the main window, which fills the sheet's controls; flags are kAllGraphics or kWithStylePart.
     SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
 
-    // Null if none could be made.
+    // Returns null if the sheet could not be created.
     CGraphicPropertySheet* get() const { return m_sheet.get(); }
     CGraphicPropertySheet* operator->() const { return get(); }
 
-    // Before the sheet opens: it will be on the page that the user has chosen last, in this session or an earlier one,
-    // if it has that page.
+    // Makes the sheet open on the page that the user selected last, in this or an earlier session, if it has that page.
     void ChooseRememberedPage();
-    // Remembers the page that is in front now, if it is not the one that the sheet has opened on.
+    // Remembers the active page, unless it is the one that the sheet opened on.
     void RememberPage() const;
 
 private:
@@ -43,18 +42,18 @@ private:
         void operator()(void* methods) const;
     };
     PreviewLayer m_previewLayer;
-    std::unique_ptr<void, RegenMethodsDeleter> m_methods; // goes after the sheet
+    std::unique_ptr<void, RegenMethodsDeleter> m_methods; // destroyed after the sheet
     std::unique_ptr<CGraphicPropertySheet> m_sheet;
     int m_openedOn = 0;
 };
 
-// Shows the sheet and waits until it is closed. IDOK, IDCANCEL, an end code of a page, or kNotShown.
+// Shows the sheet modally. Returns IDOK, IDCANCEL, an end code of a page, or kNotShown.
 constexpr int kNotShown = -1;
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags);
 
 struct SheetOutcome {
-    int code;    // as RunSheet gives it
-    int changed; // graphics; one step of undo takes them back
+    int code;    // as returned by RunSheet
+    int changed; // number of graphics; one step undoes all changes
 };
 
 // Cancel undoes everything that the sheet has written.

@@ -1,4 +1,4 @@
-// What graphics have as their properties, as texts in the host's own reading.
+// Reads the properties of graphics as text in the host's format.
 
 #include "demo/viewer/property_snapshot.h"
 
@@ -102,7 +102,7 @@ std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t 
     }
 }
 
-// A value as graphics share it: the width of a pen by the scale system, a color by layer with the layer's.
+// A value as it is compared: pen widths with their scale system, colors by layer with the layer's color.
 using Value = std::tuple<std::variant<uint32_t, double, std::string>, uint32_t>;
 
 struct Holders {
@@ -125,7 +125,7 @@ std::optional<Value> ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, con
     return std::nullopt;
 }
 
-// Empty if the graphic has no such property.
+// Returns an empty string if the graphic has no such property.
 std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
     switch (property.form) {
     case kFormWhole:
@@ -175,7 +175,7 @@ std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<Gr
     const PropertyInfo* property =
         std::find_if(AllProperties().begin(), AllProperties().end(),
                      [&](const PropertyInfo& info) { return std::string(info.name) == name; });
-    std::map<Value, Holders> values; // texts are made of the few that differ only
+    std::map<Value, Holders> values; // formatted only for the few different values
     for (GraphicStruct* graphic : graphics) {
         const std::optional<Value> value = ValueOf(drawing, graphic, *property, mask);
         if (value) ++values.insert({*value, {graphic, 0}}).first->second.count;

@@ -1,4 +1,4 @@
-// The list of the last drawings, in the registry.
+// The list of recent drawings, in the registry.
 
 #include "demo/viewer/recent_files.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 constexpr const wchar_t* kValue = L"RecentFiles";
 
-// The system compares names of files without regard to case.
+// The system compares file names ignoring case.
 bool IsSameFile(const std::string& a, const std::string& b) {
     return ::CompareStringOrdinal(Wide(a).c_str(), -1, Wide(b).c_str(), -1, TRUE) == CSTR_EQUAL;
 }
@@ -25,7 +25,7 @@ std::string FullPath(const std::string& path) {
 }
 
 void Write(const std::vector<std::string>& files) {
-    std::wstring texts; // each with its NUL, and one more at the end
+    std::wstring texts; // each NUL-terminated, and one more NUL at the end
     for (const std::string& file : files)
         texts += Wide(file) + L'\0';
     ::RegSetKeyValueW(HKEY_CURRENT_USER, Settings::Key().c_str(), kValue, REG_MULTI_SZ, texts.c_str(),

@@ -1,4 +1,4 @@
-// The drawings that the user has worked on last, kept in the user's part of the registry.
+// The list of recent drawings, stored for the user in the registry.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@ class RecentFiles {
 public:
     static constexpr size_t kMost = 8;
 
-    // Full paths in UTF-8, the last one first. What the registry refuses is like a list without entries.
+    // Returns full paths in UTF-8, the most recent first. If the registry denies access, the list is empty.
     static std::vector<std::string> List();
-    // Puts it first; the one beyond the most goes.
+    // Moves it to the front, and removes the last one if there are too many.
     static void Add(const std::string& path);
     static void Remove(const std::string& path);
 };

@@ -1,4 +1,4 @@
-// Identifiers of the demo's menu, keys and texts, for C++ and the resource script alike.
+// Identifiers of the demo's menu, keys and strings, for C++ and the resource script.
 #pragma once
 
 #define IDR_MAINFRAME 128
@@ -6,7 +6,7 @@
 #define IDC_STATUS 130
 #define IDC_PROPERTIES_PANE 131
 #define IDC_SPLITTER 133
-// Keys of the main window that hold in the pane too.
+// Keys of the main window that also work in the pane.
 #define IDR_PANE 132
 
 #define ID_FILE_OPEN 0xE101
@@ -42,7 +42,7 @@
 #define ID_VIEW_MARK_POINT 234
 #define ID_VIEW_MARK_COMMA 235
 
-// Submenus that are made as they open: the first and the last command of each.
+// Submenus created when they open: the first and the last command of each.
 #define ID_SELECT_KIND_FIRST 400
 #define ID_SELECT_KIND_LAST 419
 #define ID_FILE_RECENT_FIRST 420
@@ -50,7 +50,7 @@
 #define ID_SELECT_LAYER_FIRST 1000
 #define ID_SELECT_LAYER_LAST 1999
 
-// Steps of the wizard that makes a style.
+// Pages of the wizard that creates a style.
 #define IDD_STYLE_NAME 300
 #define IDD_STYLE_PARTS 301
 #define IDD_STYLE_SUMMARY 302
@@ -59,7 +59,7 @@
 #define IDC_STYLE_PARTS 312
 #define IDC_STYLE_SUMMARY 313
 
-// The dialog of layers; the boxes of its states follow each other.
+// The layers dialog. The check boxes of states have consecutive identifiers.
 #define IDD_LAYERS 320
 #define IDC_LAYER_LIST 321
 #define IDC_LAYER_ON 322
@@ -67,7 +67,7 @@
 #define IDC_LAYER_LOCKED 324
 #define IDC_LAYER_FIND 325
 
-// The list of keys, in two columns.
+// The dialog of keys, in two columns.
 #define IDD_KEYS 330
 #define IDC_KEYS 331
 #define IDC_MEANINGS 332

@@ -1,4 +1,4 @@
-// The frame that is drawn out with the mouse.
+// The rubber band for selecting by window.
 
 #include "demo/viewer/rubber_band.h"
 

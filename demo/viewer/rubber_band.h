@@ -1,5 +1,5 @@
-// The frame that is drawn out with the mouse to select by window: to the right takes what lies inside (blue), to the
-// left also what it touches (green, dashed).
+// The rubber band for selecting by window: dragged to the right, it selects what it contains (blue), to the left also
+// what it touches (green, dashed).
 #pragma once
 
 #include <afxgdi.h>
@@ -15,7 +15,7 @@ public:
 
     bool IsActive() const { return m_active; }
     bool IsCrossing() const { return m_to.x < m_from.x; }
-    CRect Frame() const; // with its lines
+    CRect Frame() const; // including its lines
     void Draw(HDC dc) const;
 
 private:

@@ -1,4 +1,4 @@
-// The selected graphics of an open drawing, and where the picture has to be renewed because the selection changed.
+// The selected graphics of an open drawing, and the area to redraw after changes of the selection.
 #pragma once
 
 #include <optional>
@@ -8,7 +8,7 @@
 #include "drawcore/selection.h"
 #include "orlo/host/owners.h"
 
-// The box of a graphic; nothing for one without an extent.
+// Returns the extents of a graphic, or nothing if it has none.
 std::optional<WorldBox> ExtentsOf(GraphicStruct* graphic);
 
 class Selection {
@@ -16,11 +16,11 @@ public:
     enum class Way { Replace, Add, Toggle };
 
     Selection();
-    // The same graphics in a set of its own.
+    // Copies the selection to a separate set.
     Selection(const Selection& other);
     Selection& operator=(const Selection&) = delete;
 
-    // The set that the library walks; also a graphic that draws all its members.
+    // Returns the set that the library iterates over; also a graphic that draws all its members.
     GraphicStruct* Set() const { return m_set.get(); }
     int Count() const { return ::SelectionCount(Set()); }
     bool Contains(GraphicStruct* graphic) const { return ::SelectionContains(Set(), graphic); }
@@ -30,7 +30,7 @@ public:
     void Clear();
     void Apply(const std::vector<GraphicStruct*>& graphics, Way way);
 
-    // The box of all graphics that came or went since the last call.
+    // Returns the extents of all graphics added or removed since the last call.
     std::optional<WorldBox> TakeChanged();
 
 private:

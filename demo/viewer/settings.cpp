@@ -1,4 +1,4 @@
-// Settings as values of a registry key.
+// Settings stored as values of a registry key.
 
 #include "demo/viewer/settings.h"
 

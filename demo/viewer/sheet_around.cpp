@@ -1,4 +1,4 @@
-// From a window to its sheet.
+// Finds the sheet of a window.
 
 #include "demo/viewer/sheet_around.h"
 

@@ -1,7 +1,7 @@
-// From a window to the sheet that it is in.
+// Finds the sheet that contains a window.
 #pragma once
 
 #include "orlo/frame/orlo_property_sheet.h"
 
-// The library's sheet that the window is, or is in; null without one.
+// Returns the library's sheet that the window is or is in, or null.
 COrloPropertySheet* SheetAround(HWND window);

@@ -1,4 +1,4 @@
-// Dragging the bar.
+// Dragging of the splitter.
 
 #include "demo/viewer/splitter.h"
 

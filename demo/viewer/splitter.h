@@ -1,4 +1,4 @@
-// The bar between the drawing and the pane, which the user drags.
+// The splitter between drawing and pane.
 #pragma once
 
 #include <afxwin.h>
@@ -8,14 +8,13 @@
 class CSplitter : public CWnd {
     DECLARE_DYNAMIC(CSplitter)
 public:
-    // Called with the left edge that the user wants, in client coordinates of the parent, during and (done) after a
-    // drag.
+    // Called during and (done) after a drag with the requested left edge, in client coordinates of the parent.
     using Dragged = std::function<void(int left, bool done)>;
 
     explicit CSplitter(Dragged dragged);
     ~CSplitter() override;
 
-    BOOL Create(CWnd* parent, UINT id); // hidden
+    BOOL Create(CWnd* parent, UINT id); // creates it hidden
 
 protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -27,5 +26,5 @@ private:
     void DragTo(int x, bool done);
 
     Dragged m_dragged;
-    int m_grip = 0; // where the bar was taken hold of
+    int m_grip = 0; // offset of the pointer in the splitter at the start of the drag
 };

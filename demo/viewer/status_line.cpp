@@ -7,7 +7,7 @@
 
 namespace {
 
-// At 96 dots per inch.
+// At 96 dpi.
 constexpr int kPaneMargin = 16;
 constexpr int kPointerWidth = 230;
 constexpr int kProgressWidth = 200;
@@ -34,14 +34,15 @@ int CStatusLine::Height() const {
 }
 
 void CStatusLine::Arrange() {
-    SendMessage(WM_SIZE); // it finds its own place in the parent
+    SendMessage(WM_SIZE); // makes the control set its own position
     CRect client;
     GetClientRect(client);
     int widths[kPanes] = {};
     widths[kPointer] = Scaled(kPointerWidth);
     for (const int pane : {kSelection, kWidths})
         widths[pane] = WidthFor(m_texts[pane]);
-    // The message leaves its room to the others, up to a part that it needs at least; then the widest of them is cut.
+    // The other panes take the space that they need from the message, up to a maximum; then the widest one is
+    // truncated.
     const int most = client.Width() * (kPanes - 1) / kPanes;
     int excess = std::accumulate(widths, widths + kPanes, 0) - most;
     for (int* widest; excess > 0; excess = std::accumulate(widths, widths + kPanes, 0) - most) {
@@ -52,7 +53,7 @@ void CStatusLine::Arrange() {
     rightEdges[kPointer] = client.right;
     for (int pane = kPointer; pane > kMessage; --pane)
         rightEdges[pane - 1] = rightEdges[pane] - widths[pane];
-    rightEdges[kPointer] = -1; // with the grip
+    rightEdges[kPointer] = -1; // including the size grip
     SetParts(kPanes, rightEdges);
     CRect pane;
     GetRect(kMessage, pane);

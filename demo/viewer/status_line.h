@@ -1,5 +1,5 @@
-// The status bar of the main window: a message (or the progress of a long task), the kinds of the selected graphics,
-// their pen widths, the pointer's place.
+// The status bar of the main window: a message (or the progress of an operation), the kinds of the selected graphics,
+// their pen widths, and the pointer position.
 #pragma once
 
 #include <afxcmn.h>
@@ -16,16 +16,17 @@ public:
 
     BOOL Create(CWnd* parent, UINT id);
     int Height() const;
-    // To be called when the parent has a new size.
+    // Must be called when the size of the parent has changed.
     void Arrange();
-    // Font and panes are for a monitor of so many dots per inch from now on; its height is another one then.
+    // Sets the resolution of the monitor for font and panes; the height changes as well.
     void SetDpi(int dpi);
 
     void ShowMessage(const std::string& text) { ShowText(kMessage, text); }
     void ShowSelection(const std::string& kinds, const std::string& widths);
     void ShowPointer(const std::string& text) { ShowText(kPointer, text); }
 
-    // A bar in the message's place until EndProgress; painted at once, since the task leaves no time for it.
+    // Shows a progress bar in place of the message until EndProgress. Painted immediately, since no messages are
+    // handled meanwhile.
     void StartProgress(const std::string& text);
     void ShowProgress(int permille);
     void EndProgress();
@@ -33,12 +34,12 @@ public:
 private:
     enum Pane { kMessage, kSelection, kWidths, kPointer, kPanes };
 
-    bool ShowText(Pane pane, const std::string& text); // false: it stands there already
+    bool ShowText(Pane pane, const std::string& text); // returns false if it was already shown
     int Scaled(int at96) const;
     int WidthFor(const std::string& text) const;
 
     CProgressCtrl m_progress;
-    orlo::OwnedFont m_font; // null: the system's
+    orlo::OwnedFont m_font; // null for the system's
     int m_dpi = 96;
     std::string m_texts[kPanes];
     int m_permille = -1;

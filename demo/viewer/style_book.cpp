@@ -33,7 +33,7 @@ const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
                       kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
 const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
 
-// What is the same already is not written: writing the size of a text, for one, may round its shape.
+// Equal values are not written, because writing some of them, such as the text size, may round other values.
 template <class Value>
 void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
     const auto value = ReadProperty<Value>(from, name);
@@ -49,7 +49,7 @@ void CopyProperty(GraphicStruct* from, GraphicStruct* to, const PropertyInfo& pr
         CopyProperty<std::string>(from, to, property.name);
 }
 
-// Those that both have.
+// Copies the properties that both have.
 void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) {
     for (const PropertyInfo& property : AllProperties()) {
         const auto isThis = [&](const char* name) { return !std::strcmp(name, property.name); };
@@ -85,7 +85,7 @@ GraphicStruct* NewText() {
     return text;
 }
 
-// The samples of a style's contents.
+// The samples in the contents of a style.
 struct Samples {
     explicit Samples(GraphicStruct* content) {
         for (GraphicStruct* member : Members(content))
@@ -176,7 +176,7 @@ uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruc
     ::GraphicSetStyleName(content.get(), kTree);
     const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content.get());
     if (!id) return 0;
-    content.release(); // the table's now
+    content.release(); // now owned by the table
     const Examples examples = ExamplesOf(graphics);
     if (examples.pen) CopyProperties(examples.pen, shape, kPen);
     if (examples.brush) CopyProperties(examples.brush, shape, kBrush);
@@ -194,7 +194,7 @@ uint16_t StyleBook::TakeAdded() {
     return 0;
 }
 
-// The samples are in the style that they stand for.
+// The samples have the style themselves.
 void StyleBook::Enter(uint16_t id, Parts parts) {
     m_parts[id] = parts;
     m_current = id;
@@ -224,7 +224,7 @@ void StyleBook::AddAgain(const std::string& name, GraphicStruct* copy, Parts par
     OwnedGraphic content(::GraphicCopyEx(copy, 0, 0, 7));
     const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content.get());
     if (!id) return;
-    content.release(); // the table's now
+    content.release(); // now owned by the table
     Enter(id, parts);
 }
 

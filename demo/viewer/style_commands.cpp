@@ -1,4 +1,4 @@
-// The commands of the menu of styles.
+// The commands of the Style menu.
 
 #include "demo/viewer/style_commands.h"
 
@@ -15,15 +15,15 @@ std::string Quoted(const Document& document, uint16_t style) {
     return "\"" + document.Styles().Name(style) + "\"";
 }
 
-// The style of a code, 0 if it is not of that kind. Identifiers reach beyond a thousand in drawings of many blocks, so
-// that a code can be read in several ways: only one of them names a style.
+// Returns the style of an end code, or 0. In a drawing with many blocks, identifiers exceed 1000 and a code is
+// ambiguous, but only one interpretation is the identifier of a style.
 uint16_t StyleIn(const Document& document, int code, int kind) {
     const int id = code - kind;
     if (id <= 0 || id > 0xFFFF) return 0;
     return document.Styles().IsStyle(static_cast<uint16_t>(id)) ? static_cast<uint16_t>(id) : 0;
 }
 
-// The database does not record changes of styles: Cancel restores a copy that was taken before. The code is RunSheet's.
+// The database does not record changes of styles: Cancel restores a copy made before. Returns the code of RunSheet.
 int EditStyle(CWnd* owner, Document& document, uint16_t style) {
     StyleBook& styles = document.Styles();
     const orlo::host::OwnedGraphic copy = styles.Copy(style);
@@ -46,7 +46,7 @@ std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
     return "Style " + name + " deleted";
 }
 
-// The last sheet's outcome.
+// Returns the outcome of the last sheet.
 std::string EditUntilClosed(CWnd* owner, Document& document) {
     StyleBook& styles = document.Styles();
     for (;;) {

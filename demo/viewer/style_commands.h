@@ -1,5 +1,5 @@
-// What the menu of styles does: the host's part of making, choosing, editing, applying and deleting styles. Each
-// command gives the text for the status line, empty if there is nothing to tell.
+// The commands of the Style menu: creating, selecting, editing, applying and deleting styles. Each returns a text for
+// the status bar, which may be empty.
 #pragma once
 
 #include <afxwin.h>
@@ -8,9 +8,10 @@
 
 class Document;
 
-// By the wizard, after the selection.
+// Creates a style from the selection with the wizard.
 std::string NewStyle(CWnd* owner, Document& document);
-// The library's sheet over the current style, and over those that the user makes or chooses in it, until it is closed.
+// Opens the library's sheet over the current style, and over those that the user creates or selects in it, until it is
+// closed.
 std::string EditStyles(CWnd* owner, Document& document);
-// Puts the current style on the selection, as one step of undo.
+// Applies the current style to the selection as one undo step.
 std::string ApplyStyle(Document& document);

@@ -1,4 +1,4 @@
-// Styles as they were.
+// Recorded states of styles.
 
 #include "demo/viewer/style_states.h"
 

@@ -1,4 +1,4 @@
-// All styles of a drawing at one moment, and the change since then as a step of undo.
+// Records all styles of a drawing, and creates an undo step for changes since then.
 #pragma once
 
 #include <memory>
@@ -15,8 +15,8 @@ public:
 
     void Restore() const;
 
-    // Returns the change of the styles since they were so; null if at most another one has become the current style.
-    // The StyleBook outlives the result.
+    // Returns the change since `before`; null if nothing has changed except the current style. The StyleBook must
+    // outlive the result.
     static std::unique_ptr<UndoableChange> ChangeSince(StyleStates before);
 
 private:

@@ -1,4 +1,4 @@
-// The wizard that makes a style.
+// The wizard that creates a style.
 
 #include "demo/viewer/style_wizard.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-// What the steps gather.
+// The values entered on the pages.
 struct Draft {
     const Document& document;
     std::vector<GraphicStruct*> graphics;
@@ -54,14 +54,14 @@ private:
     Draft& m_draft;
 };
 
-// ---- 2: what the style decides
+// ---- 2: the attributes
 
 class CPartsStep : public CPropertyPage {
 public:
     explicit CPartsStep(Draft& draft) : CPropertyPage(IDD_STYLE_PARTS), m_draft(draft) {}
 
 protected:
-    // The list takes the place of a label of the template.
+    // The list replaces a label of the template.
     BOOL OnInitDialog() override {
         CPropertyPage::OnInitDialog();
         CWnd* place = GetDlgItem(IDC_STYLE_PARTS_PLACE);

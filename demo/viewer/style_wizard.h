@@ -1,9 +1,9 @@
-// The wizard that makes a style after the selected graphics, in three steps: name, parts, summary.
+// The wizard that creates a style from the selected graphics, in three steps: name, parts, summary.
 #pragma once
 
 #include <afxwin.h>
 
 class Document;
 
-// Runs the wizard over the selection of the document. True: it has made the style, which is now the current one.
+// Runs the wizard over the document's selection. Returns true if it created a style, which is then the current one.
 bool MakeStyleByWizard(CWnd* owner, Document& document);

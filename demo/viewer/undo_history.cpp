@@ -1,4 +1,4 @@
-// Steps of the database and of the viewer in one order.
+// Undo steps of the database and of the viewer in chronological order.
 
 #include "demo/viewer/undo_history.h"
 
@@ -17,7 +17,7 @@ void UndoHistory::Trim(int undoable, int redoable) {
     TrimTo(m_undone, redoable);
 }
 
-// The database can have more steps to redo: those that were undone before a step of the viewer's.
+// The database can have additional steps to redo, which were undone before a step of the viewer.
 void UndoHistory::TrimTo(Steps& steps, int databaseSteps) {
     const auto excess = [&] { return std::count(steps.begin(), steps.end(), nullptr) - databaseSteps; };
     for (auto dropped = excess(); dropped > 0; dropped = excess())

@@ -1,5 +1,5 @@
-// The order of the user's steps in an open drawing: changes of graphics, which the database undoes, and changes of
-// layers and styles, which the viewer undoes itself.
+// The user's steps in chronological order: changes of graphics, which the database undoes, and changes of layers and
+// styles, which the viewer undoes.
 #pragma once
 
 #include <functional>
@@ -13,29 +13,29 @@ public:
     virtual ~UndoableChange();
     virtual void Undo() = 0;
     virtual void Redo() = 0;
-    virtual std::string What() const = 0; // for the status bar, as "layers"
+    virtual std::string What() const = 0; // Returns text for the status bar, such as "layers".
 };
 
 class UndoHistory {
 public:
-    // A step; null stands for one of the database.
+    // A step; null for a step of the database.
     using Step = std::unique_ptr<UndoableChange>;
 
-    // Adds the step that has just been made. What was undone before cannot be redone any more.
+    // Adds a new step. Undone steps can no longer be redone.
     void Add(Step step);
-    // Removes the steps that the database no longer has, with those before them: it has dropped its oldest ones.
+    // Removes the steps that the database has discarded, its oldest ones, and all earlier steps.
     void Trim(int undoable, int redoable);
 
     int UndoCount() const { return static_cast<int>(m_done.size()); }
     int RedoCount() const { return static_cast<int>(m_undone.size()); }
 
-    // Undoes or redoes the next step, by the function if it is one of the database. Returns the step, null for one of
-    // the database. There has to be one.
+    // Undo or redo the next step, which must exist, calling the function for a step of the database. Return the step,
+    // or null for one of the database.
     const UndoableChange* Undo(const std::function<void()>& inDatabase);
     const UndoableChange* Redo(const std::function<void()>& inDatabase);
 
 private:
-    using Steps = std::vector<Step>; // the next one last
+    using Steps = std::vector<Step>; // the next step is last
 
     static void TrimTo(Steps& steps, int databaseSteps);
 

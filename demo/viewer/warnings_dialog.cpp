@@ -1,4 +1,4 @@
-// The list of warnings: a read-only field, from which they can be copied.
+// The dialog of warnings: a read-only field, so that they can be copied.
 
 #include "demo/viewer/warnings_dialog.h"
 
@@ -11,7 +11,7 @@ CWarningsDialog::CWarningsDialog(CWnd* owner, const std::vector<std::string>& wa
 
 BOOL CWarningsDialog::OnInitDialog() {
     const HWND field = ::GetDlgItem(m_hWnd, IDC_WARNINGS);
-    ::SendMessageA(field, EM_SETLIMITTEXT, 0, 0); // as much as it can hold
+    ::SendMessageA(field, EM_SETLIMITTEXT, 0, 0); // sets the maximum limit
     ::SetWindowTextA(field, m_text.c_str());
     return CDialog::OnInitDialog();
 }

@@ -1,4 +1,4 @@
-// The list of what was left out of a drawing when it was opened.
+// The dialog with what was omitted from a drawing when it was opened.
 #pragma once
 
 #include <afxwin.h>

@@ -1,4 +1,4 @@
-// Points and boxes in drawing units: y grows upwards.
+// Points and boxes in drawing units; y points up.
 #pragma once
 
 #include <algorithm>
