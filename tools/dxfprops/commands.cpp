@@ -1,4 +1,4 @@
-// Reading, changing and comparing drawings.
+// Reads, changes and compares drawings.
 #include "tools/dxfprops/commands.h"
 
 #include <map>
@@ -10,7 +10,7 @@ namespace dxfprops {
 
 namespace {
 
-// Values in the order in which they are set.
+// Sorts the values in the order in which they are set.
 std::vector<Condition> Ordered(const std::vector<Condition>& values) {
     std::vector<Condition> ordered;
     for (const std::string& name : PropertyTexts::Names())
@@ -19,7 +19,7 @@ std::vector<Condition> Ordered(const std::vector<Condition>& values) {
     return ordered;
 }
 
-// What is written has to be what was wanted, of each entity.
+// Verifies that the new bytes contain the requested attributes of each entity.
 void Check(const DrawingFile& before, const dxf::Document& known, const std::map<uint32_t, dxf::Look>& wanted,
            const std::string& bytes) {
     const dxf::Document after = dxf::Read(bytes, {});

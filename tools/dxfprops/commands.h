@@ -1,4 +1,4 @@
-// What the commands do with one drawing. Texts are UTF-8; ReadError and SaveError say why a drawing failed.
+// The commands, each for one drawing. Texts are UTF-8; ReadError and SaveError contain the reason of a failure.
 #pragma once
 
 #include <set>
@@ -12,27 +12,27 @@ namespace dxfprops {
 
 struct EntityProperties {
     dxf::RecordName name;
-    std::vector<std::pair<std::string, std::string>> values; // by the names of properties
+    std::vector<std::pair<std::string, std::string>> values; // by property name
 };
 
 struct Listing {
     std::vector<EntityProperties> entities;
-    std::set<std::string> kinds; // if there are none: what there is in their place
+    std::set<std::string> kinds; // if nothing matched: the kinds that exist
 };
 
-// The properties of the entities that meet the conditions; show: these alone, or with none all that each has.
+// Returns the properties of the entities that meet the conditions: those in `show`, or all if it is empty.
 Listing ListProperties(const std::string& file, const std::vector<Condition>& where,
                        const std::vector<std::string>& show);
 
 struct SetResult {
     size_t matched = 0, changed = 0;
-    std::set<std::string> kinds;    // if none matched: what there is in their place
-    std::vector<std::string> notes; // what other programs will not show
+    std::set<std::string> kinds;    // if nothing matched: the kinds that exist
+    std::vector<std::string> notes; // properties that other programs will not show
 };
 
-// Sets properties of the entities that meet the conditions, where these have them, and writes the drawing into
-// `output`, as DrawingFile::Write does: only what has changed differs. A value that is none of its property is a
-// SaveError even if no entity takes it.
+// Sets properties of the entities that meet the conditions and have these properties, and writes the drawing to
+// `output`; see DrawingFile::Write. Only what has changed differs. An invalid value is a SaveError even if it applies
+// to no entity.
 SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
                         const std::vector<Condition>& values, const std::string& output);
 
@@ -46,7 +46,7 @@ struct Difference {
     std::vector<Value> values;
 };
 
-// The entities that differ, of model space and of blocks: of the same handle, or else at the same place.
+// Returns the entities that differ, in model space and in blocks, matched by handle or else by position.
 std::vector<Difference> FindDifferences(const std::string& before, const std::string& after);
 
 } // namespace dxfprops

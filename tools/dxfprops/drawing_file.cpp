@@ -1,4 +1,4 @@
-// Choosing entities.
+// Selects entities of a drawing.
 #include "tools/dxfprops/drawing_file.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// A drawing in a file with the entities that have properties.
+// A drawing in a file, with the entities that have properties.
 #pragma once
 
 #include <filesystem>
@@ -13,43 +13,44 @@
 
 namespace dxfprops {
 
-// "layer=WALLS": kind, handle, block, or a property. Case does not count.
+// For example "layer=WALLS": kind, handle, block, or a property, ignoring case.
 struct Condition {
     std::string name, value;
 };
-// Names of conditions that are no properties.
+// Names of conditions that are not properties.
 constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
 
 // The name of standard output.
 constexpr char kStandardOutput[] = "-";
 
-// An entity and the block that it is in; null: model space.
+// An entity and its block; null for model space.
 struct Found {
     const dxf::Entity* entity;
     const dxf::Block* block;
 };
 
-// Entities with properties: of model space, with the attributes of its insertions, and then of the blocks. In their
-// order.
+// Returns the entities with properties in order: those of model space, including the attributes of its insertions, then
+// those of blocks.
 std::vector<Found> AllOf(const dxf::Document& document);
 
 class DrawingFile {
 public:
-    // ReadError if it can't be read.
+    // Throws ReadError if the file cannot be read.
     explicit DrawingFile(const std::string& file);
 
     std::string_view Text() const;
     const std::string& Bytes() const { return bytes_; }
-    // Replaces the output file, or prints the bytes if the output is kStandardOutput. The drawing's own file is left
-    // alone if the bytes are its own, and refused if it has been changed meanwhile. Throws FileError and SaveError.
+    // Replaces the output file, or prints the bytes if the output is kStandardOutput. Does not write the drawing's own
+    // file if the bytes are unchanged, and fails if it has been changed meanwhile. Throws FileError and SaveError.
     void Write(const std::string& bytes, const std::string& output) const;
 
     const dxf::Document& Document() const { return document_; }
     const PropertyTexts& Texts() const { return texts_; }
 
-    // Those that meet the conditions: of model space, unless one names a block. SaveError if there is no such block.
+    // Returns the entities that meet the conditions, in model space unless one names a block. Throws SaveError if there
+    // is no such block.
     std::vector<Found> Select(const std::vector<Condition>& where) const;
-    // The kinds of all that are there, whatever the other conditions say.
+    // Returns the kinds of all entities there, ignoring other conditions.
     std::set<std::string> KindsAround(const std::vector<Condition>& where) const;
     std::vector<Found> All() const { return AllOf(document_); }
     dxf::RecordName NameOf(const Found& found) const;

@@ -1,4 +1,4 @@
-// What drawings hold, as a list.
+// Lists the contents of drawings.
 
 #include "tools/dxfprops/list_drawings.h"
 

@@ -1,4 +1,4 @@
-// Lists what drawings hold, as JSON, without opening a window.
+// Lists the contents of drawings as JSON, without a window.
 #pragma once
 
 #include <ostream>
@@ -9,10 +9,10 @@
 
 #include "drawcore/src/dxf/document.h"
 
-// What a drawing holds: acadver, entities (type to count in the ENTITIES section), blocks, layers, linetypes, extents
-// and, if something was left out, findings.
+// Returns the contents of a drawing: acadver, entities (type to count in the ENTITIES section), blocks, layers,
+// linetypes, extents and, if something was omitted, findings.
 nlohmann::ordered_json Describe(const dxf::Document& drawing);
 
-// Writes an array with one object per file: file and what Describe returns, or file, error, line for one that is
-// refused. Paths and output are UTF-8. False if any file was refused.
+// Writes an array with one object per file: file and the result of Describe, or file, error and line for one that
+// cannot be read. Paths and output are UTF-8. Returns false if any file could not be read.
 bool ListDrawings(const std::vector<std::string>& files, std::ostream& out);

@@ -23,7 +23,7 @@ namespace {
 using namespace dxfprops;
 
 constexpr int kDone = 0;
-constexpr int kFailed = 1; // a file failed, nothing was found, or diff found differences
+constexpr int kFailed = 1; // a file failed, nothing matched, or diff found differences
 constexpr int kUsage = 2;
 
 constexpr char kExamples[] = R"(
@@ -42,10 +42,10 @@ struct CommandLine {
     bool json = false, inPlace = false;
 };
 
-// What --where has found in all files.
+// The number of matches of --where in all files.
 struct Matches {
     size_t count = 0;
-    std::set<std::string> kinds; // of files without one
+    std::set<std::string> kinds; // kinds in files without matches
 
     void Add(size_t found, const std::set<std::string>& others) {
         count += found;
@@ -53,7 +53,7 @@ struct Matches {
     }
 };
 
-// As programs that search do: to find nothing is a result of its own.
+// Like in grep, finding nothing has its own exit code.
 int ResultOf(int result, const CommandLine& line, const Matches& matches) {
     if (result != kDone || line.where.empty() || matches.count > 0) return result;
     std::cerr << "dxfprops: nothing meets";
@@ -93,7 +93,7 @@ std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool a
     return made;
 }
 
-// Work on one file after the other; a failure is reported and does not stop the others.
+// Processes the files in order. A failure is reported and does not stop the others.
 template <class Work>
 int ForEach(const std::vector<std::string>& files, Work work) {
     int result = kDone;
@@ -103,7 +103,7 @@ int ForEach(const std::vector<std::string>& files, Work work) {
         } catch (const std::bad_alloc&) {
             std::cerr << "dxfprops: " << file << ": there is not enough memory for it\n";
             result = kFailed;
-        } catch (const std::exception& error) { // ReadError, SaveError, of the file system
+        } catch (const std::exception& error) { // ReadError, SaveError, or an error of the file system
             std::cerr << "dxfprops: " << file << ": " << error.what() << "\n";
             result = kFailed;
         }
@@ -138,11 +138,12 @@ int Get(const CommandLine& line) {
 
 int Set(CommandLine& line) {
     std::vector<std::string> values;
-    for (std::string& word : line.rest) // files come first; a word with a property's name in front is a value
+    for (std::string& word : line.rest) // files come first; an argument that starts with a property name and "=" is a
+                                        // value
         (PropertyTexts::NameOf(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values : line.files)
             .push_back(std::move(word));
     for (const std::string& file :
-         line.files) // NAME=VALUE with an unknown name is not a file, unless there is such a file
+         line.files) // NAME=VALUE with an unknown name is an error, unless a file has that name
         if (file.find('=') != file.npos && !std::filesystem::exists(std::filesystem::u8path(file)))
             Known(file.substr(0, file.find('=')), false);
     const std::vector<Condition> where = Assignments(line.where, true), wanted = Assignments(values, false);
@@ -212,7 +213,7 @@ int Run(std::vector<std::string> arguments) {
     diff->add_option("AFTER", line.after, "another one")->required();
     diff->add_flag("--json", line.json, "as JSON");
     try {
-        std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
+        std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
         usage.parse(arguments);
         return list->parsed() ? List(line) : get->parsed() ? Get(line) : set->parsed() ? Set(line) : Diff(line);
     } catch (const CLI::ParseError& error) {

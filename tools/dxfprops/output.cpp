@@ -1,4 +1,4 @@
-// Lines and JSON.
+// Formats results as lines and as JSON.
 #include "tools/dxfprops/output.h"
 
 #include <filesystem>
@@ -15,7 +15,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// On one line, as a command line takes it.
+// Quotes the text for a command line.
 std::string Quoted(const std::string& text) {
     std::string quoted = "\"";
     for (const char c : text) {
@@ -85,7 +85,7 @@ bool PrintArray(const std::vector<std::string>& files, const std::function<Json(
             entry.update({{"error", error.Text()}, {"line", error.Line() ? Json(error.Line()) : Json()}});
         } catch (const std::bad_alloc&) {
             entry.update({{"error", "there is not enough memory for it"}, {"line", nullptr}});
-        } catch (const std::runtime_error& error) { // a block that it does not have
+        } catch (const std::runtime_error& error) { // the drawing does not have the block
             entry.update({{"error", error.what()}, {"line", nullptr}});
         }
         allRead = allRead && !entry.contains("error");

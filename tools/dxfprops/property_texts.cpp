@@ -1,4 +1,4 @@
-// The forms of values, one row for each property.
+// The text forms of values, one row per property.
 #include "tools/dxfprops/property_texts.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ using dxf::Look;
 namespace {
 
 constexpr char kByLayer[] = "By Layer", kByBlock[] = "By Block";
-constexpr char kPenColor[] = "Pen Color"; // of a brush
+constexpr char kPenColor[] = "Pen Color"; // also for brushes
 constexpr char kNoBrush[] = "No Brush", kNoLine[] = "No Line";
 
 struct Choice {
@@ -44,7 +44,7 @@ constexpr Choice kEffects[] = {
     {"Bold", kTextBold},           {"Italic", kTextItalic}, {"Strikethrough", kTextStrikethrough},
     {"Underline", kTextUnderline}, {"Text Box", kTextBox},  {"Hidden", kTextHidden},
     {"All Caps", kTextAllCaps}};
-constexpr char kRegular[] = "Regular"; // no effect
+constexpr char kRegular[] = "Regular"; // without effects
 
 bool Same(std::string_view a, std::string_view b) {
     return FoldName(a) == FoldName(b);
@@ -136,7 +136,7 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 
 } // namespace
 
-// How each property is shown and read.
+// Formats and parses the values of a property.
 struct PropertyForms {
     using Get = std::string (*)(const PropertyTexts&, const Look&);
     using Set = void (*)(const PropertyTexts&, const std::string&, Look&);
@@ -162,7 +162,7 @@ struct PropertyForms {
             throw dxf::SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
         return millimeters;
     }
-    // Lengths are shown with all their digits: what is set from them is what they were.
+    // Formats lengths with all digits, so that setting them again does not change them.
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;
@@ -188,7 +188,7 @@ struct PropertyForms {
             look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
     }
 
-    // In drawing units a width has to be a number of its own.
+    // A width in drawing units must be a number rather than a marker.
     static void SetSystem(const PropertyTexts& of, const std::string& text, Look& look) {
         look.worldWidth = ValueOf(kSystems, text) != 0;
         const bool inherits = look.worldWidth && look.width < 0;
@@ -285,7 +285,7 @@ struct PropertyForms {
     }
 };
 
-// In the order in which they are set: how a width is read depends on its scale system.
+// In the order in which they are set: the unit of a width depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
     {kPropLayer, all,
      [](const PropertyTexts& of, const Look& look) { return dxf::ToDisplayText(of.document_.At(look.layer).name); },

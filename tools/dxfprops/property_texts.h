@@ -1,4 +1,4 @@
-// Properties of entities as texts: the names of the sheet's properties, and values in the forms that its pages show.
+// Properties of entities as text: the names of the sheet's properties, and values in the format of its pages.
 //
 //   dxfprops::PropertyTexts texts(document);
 //   texts.Get("PenWidth", look)                  // "0.5 mm"
@@ -17,19 +17,19 @@ namespace dxfprops {
 
 class PropertyTexts {
 public:
-    // Of a drawing with its entities, which has to outlive it.
+    // The document must outlive this object.
     explicit PropertyTexts(const dxf::Document& document);
 
-    // In the order in which they are set: what others depend on comes first.
+    // Returns the names in the order in which they are set: properties that others depend on come first.
     static std::vector<std::string> Names();
-    // The name as it is written, whatever its case was; none if there is no such property.
+    // Returns the property's name in its standard case, or nothing if there is no such property.
     static std::optional<std::string> NameOf(std::string_view name);
     static bool Has(const dxf::Entity& entity, std::string_view name);
 
     std::string Get(std::string_view name, const dxf::Look& look) const;
-    // The same, and whether parts of the text have other values.
+    // Returns the value, and whether parts of the text have other values.
     std::string GetWithVariety(std::string_view name, const dxf::Look& look) const;
-    // SaveError if the text is not a value of the property; the message lists those that are allowed.
+    // Throws SaveError if the text is not a value of the property. The message lists the valid ones.
     void Set(std::string_view name, const std::string& text, dxf::Look& look) const;
 
 private:
@@ -39,10 +39,10 @@ private:
 
     const dxf::Document& document_;
     drawcore::UnitSettings units_;
-    std::vector<dxf::BrushLook> patterns_; // that its hatches have
+    std::vector<dxf::BrushLook> patterns_; // the patterns of its hatches
 };
 
-// Whether two entities look the same, each in its own drawing.
+// Returns whether two entities, each in its own drawing, have the same appearance.
 bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document& b, const dxf::Look& other);
 
 } // namespace dxfprops

@@ -1,4 +1,4 @@
-// Everything odd about the property sets of a file, one line each.
+// Prints the irregularities in the property sets of a file, one line each.
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-// The commands with their options, and the words of the help.
+// The commands with their options and help texts.
 
 #include "command_line.h"
 
@@ -31,7 +31,7 @@ Examples:
 
 Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong command line.)";
 
-// "name=value"; an error names what is wrong with it.
+// Splits "name=value". A parse error describes what is wrong with it.
 Assignment Split(const std::string& text) {
     const size_t equals = text.find('=');
     if (equals == std::string::npos || equals == 0) throw CLI::ValidationError("'" + text + "' should be name=value");
@@ -42,7 +42,7 @@ std::vector<Assignment> ParseFields(const std::vector<std::string>& texts) {
     std::vector<Assignment> fields;
     for (const std::string& text : texts) {
         fields.push_back(Split(text));
-        FieldToSet(fields.back().name); // refuses anything else
+        FieldToSet(fields.back().name); // throws for anything else
     }
     return fields;
 }
@@ -99,7 +99,7 @@ public:
         if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && !IsCommand(arguments.front())) {
             return Wrong("'" + arguments.front() + "' is no command; suminfo --help lists them\n");
         }
-        std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
+        std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
         try {
             app_.parse(arguments);
             line_.fields = ParseFields(fields_);
@@ -146,7 +146,7 @@ private:
         AddBare(sub);
     }
 
-    // Once for each property; what follows its one word is a field again.
+    // Takes exactly one argument per option, so that fields can follow it.
     void AddCustom(CLI::App* sub, std::vector<std::string>& values, const char* description) {
         sub->add_option("--custom", values, description)->allow_extra_args(false);
     }

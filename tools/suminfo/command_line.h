@@ -1,4 +1,4 @@
-// The command line: which command on which files. Parsing prints help and errors.
+// The parsed command line: the command and its files. Parsing prints help and errors.
 #pragma once
 
 #include <optional>
@@ -25,7 +25,7 @@ struct CommandLine {
     std::optional<Extent> size;
 };
 
-// The parsed line, or the exit code when there is nothing more to do (help was printed, or the line is wrong).
+// The parsed command line, or the exit code if help or an error was printed.
 struct Parsed {
     std::optional<CommandLine> line;
     int exitCode = 0;

@@ -1,4 +1,4 @@
-// What suminfo can do, one function per command. Each throws Failure when it can't do its work on a file.
+// The commands of suminfo, one function each. Each throws Failure if it cannot process a file.
 #pragma once
 
 #include <optional>
@@ -9,13 +9,13 @@
 
 namespace suminfo {
 
-// Where property sets come from: a document, or (bare) a file that is one property-set stream.
+// The source of property sets: a document, or (bare) a file that is a single property-set stream.
 struct Source {
     std::string file;
     bool bare = false;
 };
 
-// "name=value" of the command line, taken apart.
+// A parsed "name=value" argument.
 struct Assignment {
     std::string name, value;
 };
@@ -26,33 +26,33 @@ struct CustomValue {
     orlo::Value value;
 };
 
-// Pixels.
+// In pixels.
 struct Extent {
     int width, height;
 };
 
 struct Report {
     std::string text;
-    bool clean = true; // all could be read (show), nothing irregular was found (check)
+    bool clean = true; // everything could be read (show), or nothing irregular was found (check)
 };
 
-// Tables for a person, with the file's name above.
+// Returns tables with the file name above them.
 Report ShowTable(const Source& source);
-// One line of JSON.
+// Returns one line of JSON.
 Report ShowJson(const Source& source);
-// A line for each finding, or one that says that there are none.
+// Returns a line for each finding, or a line that there are none.
 Report Check(const Source& source);
 
-// Changes fields and custom properties. All of them or, after a Failure, none.
+// Changes fields and custom properties: all of them or, in case of a Failure, none.
 void SetFields(const std::string& file, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom);
 void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
                   const std::vector<std::string>& custom);
-// Gives the second document the summary streams of the first.
+// Copies the summary streams of the first document to the second.
 void CopySummary(const std::string& from, const std::string& to);
 
-// Draws the thumbnail into a PNG file: in its own size, or in the middle of a white picture of the given one.
+// Draws the thumbnail to a PNG file: in its own size, or centered on white in the given size.
 void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size);
-// Prints the sections of the summary (of all of a bare stream) as resources 1, 2, ... of a resource script.
+// Writes the sections of the summary (or of the whole bare stream) as resources 1, 2, ... of a resource script.
 void SaveResourceScript(const Source& source, const std::string& script);
 
 } // namespace suminfo

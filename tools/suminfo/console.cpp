@@ -1,4 +1,4 @@
-// Standard streams of the system.
+// Reads and writes the system's standard streams.
 
 #include "console.h"
 
@@ -24,14 +24,13 @@ namespace {
 
 #ifdef _WIN32
 
-// A console gets whole texts in 16-bit characters: the runtime would hand it UTF-8 byte by byte, and tear its
-// characters.
+// Writes 16-bit text to a console, because the runtime would pass UTF-8 byte by byte, which splits characters.
 bool PrintOnConsole(FILE* stream, const std::string& utf8) {
     const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
     DWORD mode;
     if (!::GetConsoleMode(console, &mode)) return false;
     const std::wstring wide = orlo::Widen(utf8, CP_UTF8);
-    constexpr size_t kPiece = 8192; // consoles refuse very long ones
+    constexpr size_t kPiece = 8192; // consoles reject very long ones
     for (size_t at = 0; at < wide.size(); at += kPiece) {
         const auto size = static_cast<DWORD>(std::min(wide.size() - at, kPiece));
         DWORD written = 0;
@@ -48,7 +47,7 @@ bool HasReaderGone() {
 #else
 
 bool PrintOnConsole(FILE*, const std::string&) {
-    return false; // terminals take UTF-8 as files do
+    return false; // terminals accept UTF-8 like files
 }
 
 bool HasReaderGone() {
@@ -64,7 +63,7 @@ void PrepareStreams() {
     for (FILE* stream : {stdin, stdout, stderr})
         ::_setmode(::_fileno(stream), _O_BINARY);
 #else
-    std::signal(SIGPIPE, SIG_IGN); // a reader that goes is seen when something is written
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is detected when something is written
 #endif
 }
 
@@ -73,7 +72,7 @@ void Print(FILE* stream, const std::string& utf8) {
     if (PrintOnConsole(stream, text)) return;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;
-    // A program that has read enough has closed the pipe; anything else is reported.
+    // If the reader has closed the pipe, the program ends silently; other errors are reported.
     if (!HasReaderGone()) Print(stderr, "suminfo: the output can't be written\n");
     std::exit(kFailed);
 }

@@ -1,4 +1,4 @@
-// What suminfo prints: UTF-8 in a file or a pipe, the console's own characters on a console.
+// Output of suminfo: UTF-8 to a file or a pipe, 16-bit text to a console.
 #pragma once
 
 #include <cstdio>
@@ -6,10 +6,10 @@
 
 namespace suminfo {
 
-// Before anything is printed or read: bytes go in and out as they are, lines end in LF.
+// Must be called before any input or output: sets binary mode, with lines that end in LF.
 void PrepareStreams();
-// On stdout or stderr, at once, with control characters by their numbers. When nobody reads stdout any longer, or it
-// can't be written, the program ends.
+// Prints to stdout or stderr without buffering, with control characters escaped. Ends the program if the reader of
+// stdout has closed it or it cannot be written.
 void Print(FILE* stream, const std::string& utf8);
 bool IsTerminal(FILE* stream);
 

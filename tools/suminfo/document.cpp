@@ -1,4 +1,4 @@
-// Streams by their names.
+// Finds streams by name.
 
 #include "document.h"
 
@@ -13,7 +13,7 @@ namespace suminfo {
 namespace {
 
 orlo::CompoundReader Open(const std::string& file) {
-    std::error_code none; // whatever it is, opening it says more
+    std::error_code none; // errors are reported when it is opened
     if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; -r looks into folders");
     return orlo::OpenCompoundFile(fs::u8path(file));
 }

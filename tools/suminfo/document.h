@@ -1,9 +1,9 @@
-// A compound file and the property sets in it, read without the system, which damaged files would hang.
+// A compound file with its property sets, read without the system's reader, which may hang on damaged files.
 //
 //   const Document document(name);
 //   for (const NamedStream& set : document.PropertySets()) ...
 //
-// Every function throws Failure.
+// All functions throw Failure.
 #pragma once
 
 #include <optional>
@@ -19,23 +19,23 @@ constexpr char kSummaryStream[] = "\005SummaryInformation";
 constexpr char kDocumentSummaryStream[] = "\005DocumentSummaryInformation";
 
 struct NamedStream {
-    std::string name; // with the storages it lies in, "Outer/\005Inner"
+    std::string name; // including its storages, "Outer/\005Inner"
     orlo::Bytes bytes;
-    std::string error; // why there are no more bytes; empty if these are all
+    std::string error; // why the bytes are incomplete, or empty
 };
 
 class Document {
 public:
     explicit Document(const std::string& file);
 
-    // Every stream whose name begins with byte 5, in all storages: the document's own first.
+    // Returns all streams whose names begin with byte 5, in all storages; those of the root storage come first.
     std::vector<NamedStream> PropertySets() const;
-    // A stream of the document's own storage, if it exists.
+    // Returns a stream of the root storage, or nothing if it does not exist.
     std::optional<orlo::Bytes> Read(const std::string& name) const;
 
-    // What is damaged in the structure, one text each; PropertySets has what could still be read.
+    // Returns messages for damage in the structure. PropertySets contains what could be read nevertheless.
     const std::vector<std::string>& Damage() const { return reader_.Damage(); }
-    // The same for each damaged stream, property set or not.
+    // Returns a message for each damaged stream, whether or not it is a property set.
     std::vector<std::string> StreamDamage() const;
 
 private:

@@ -1,4 +1,4 @@
-// set, remove and copy: streams read, changed in memory, and written all at once.
+// The commands set, remove and copy: read streams, change them in memory, and write all at once.
 
 #include <filesystem>
 #include <map>
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
-// The two summary streams of a document, each opened for changes when something wants to change it.
+// The two summary streams of a document, each opened when it is first changed.
 class Edit {
 public:
     explicit Edit(const std::string& file) : document_(fs::u8path(file)) {}
@@ -43,7 +43,7 @@ private:
     std::map<std::string, EditedSet> sets_;
 };
 
-// The failure of one field, with the field's name.
+// Adds the field's name to a Failure.
 template <typename Work>
 void For(const std::string& name, Work work) {
     try {

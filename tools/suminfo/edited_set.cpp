@@ -1,4 +1,4 @@
-// Sections found or made, values encoded, code pages changed where they must be.
+// Finds or creates sections, encodes values, and changes code pages if necessary.
 
 #include "edited_set.h"
 
@@ -14,8 +14,8 @@ namespace suminfo {
 namespace {
 
 constexpr uint32_t kFirstCustomId = 2;
-// A custom property that is linked to a place in the document has that place under its own ID with this flag; readers
-// show no property from there on.
+// A custom property that is linked to a place in the document has a companion property for the place, whose ID is its
+// own with this flag. Readers do not show IDs from here on.
 constexpr uint32_t kLinkFlag = 0x01000000;
 
 enum class Kind { text, whole, real, truth, moment, other };

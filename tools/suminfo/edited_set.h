@@ -1,8 +1,7 @@
-// One property-set stream of a document, taken apart, changed and put together again. What isn't touched keeps its
-// bytes.
+// A property-set stream of a document, parsed for editing. Unchanged parts keep their bytes.
 //
-// Texts are written in the code page of their section. If that can't represent one, the section turns to UTF-8: its
-// code page and all its 8-bit texts and names. Every function throws Failure.
+// Texts are written in the code page of their section. If it cannot represent a text, the section is converted to
+// UTF-8: its code page and all its 8-bit texts and names. All functions throw Failure.
 #pragma once
 
 #include <optional>
@@ -14,16 +13,16 @@ namespace suminfo {
 
 class EditedSet {
 public:
-    // The stream's bytes; nothing for a new set. A damaged stream is refused: writing it again would lose what can't be
-    // read of it.
+    // Parses the bytes; nothing creates a new set. Fails for a damaged stream, because writing it would lose the parts
+    // that cannot be read.
     explicit EditedSet(const std::optional<orlo::Bytes>& bytes);
 
-    // Stores a value, or removes the property when it is an empty text. An existing property keeps its kind of text or
-    // number; another kind is refused.
+    // Stores a value, or removes the property if the text is empty. An existing property keeps its type of text or
+    // number; fails if it has another type.
     void SetField(const GUID& format, uint32_t id, const std::string& text, uint32_t usualType);
-    // The named property of the user-defined section, added or replaced.
+    // Adds or replaces a property of the user-defined section.
     void SetCustom(const std::string& name, orlo::Value value);
-    // False if there was none.
+    // Returns false if there was none.
     bool Remove(const GUID& format, uint32_t id);
     bool RemoveCustom(const std::string& name);
 

@@ -1,11 +1,11 @@
-// What suminfo ends with.
+// Exit codes of suminfo.
 #pragma once
 
 namespace suminfo {
 
 constexpr int kDone = 0;
-constexpr int kFailed = 1;        // a file failed, or a check found something
+constexpr int kFailed = 1;        // a file failed, or a check found irregularities
 constexpr int kUsage = 2;         // the command line is wrong
-constexpr int kLeftToWindows = 3; // nothing was done: it is work for the Windows program
+constexpr int kLeftToWindows = 3; // nothing was done: the command requires the Windows program
 
 } // namespace suminfo

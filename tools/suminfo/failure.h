@@ -1,4 +1,4 @@
-// What a command says when it can't do its work: one line, without the name of the file that it is about.
+// The error of a command, with a one-line message that does not include the file's name.
 #pragma once
 
 #include <stdexcept>
@@ -11,19 +11,19 @@ public:
     using std::runtime_error::runtime_error;
     Failure(const std::string& file, const std::string& text) : std::runtime_error(text), file_(file) {}
 
-    // Empty for the file that the command works on; another one where it has two.
+    // Returns the file if it is not the one that the command processes, or an empty string.
     const std::string& File() const { return file_; }
 
 private:
     std::string file_;
 };
 
-// Work on the command's other file: a failure in it is that file's.
+// Runs work on the command's second file, and attributes failures to that file.
 template <class Work>
 void OnFile(const std::string& file, Work work) {
     try {
         work();
-    } catch (const std::runtime_error& failure) { // Failure, or one of the system
+    } catch (const std::runtime_error& failure) { // a Failure, or an error of the system
         throw Failure(file, failure.what());
     }
 }

@@ -1,4 +1,4 @@
-// The published identifiers.
+// The published property identifiers.
 
 #include "fields.h"
 

@@ -1,4 +1,4 @@
-// The fields that property sets of documents are known by: one table for showing, setting and removing.
+// The fields of document summaries: one table for showing, setting and removing.
 #pragma once
 
 #include <cstdint>
@@ -21,18 +21,18 @@ constexpr uint32_t kLocaleId = 0x80000000;
 struct Field {
     const GUID& format;
     uint32_t id;
-    uint32_t type;    // VT_...; 0 for one that can't be set
-    const char* name; // as it is shown and typed
+    uint32_t type;    // VT_...; 0 for a field that cannot be set
+    const char* name; // as displayed and entered
 };
 
 const std::vector<Field>& Fields();
-// The field of that name; Failure if there isn't one that can be removed, or set.
+// Return the field with that name. Throw Failure if there is none, or if it cannot be removed or set.
 const Field& FieldToRemove(const std::string& name);
 const Field& FieldToSet(const std::string& name);
-// Null if no field has that name (in any case), or no field that ID.
+// Return null if there is no field with that name (ignoring case) or ID.
 const Field* FieldNamed(std::string_view name);
 const Field* FieldOf(const GUID& format, uint32_t id);
-// "SummaryInformation", "DocumentSummaryInformation", "UserDefinedProperties", or null.
+// Returns "SummaryInformation", "DocumentSummaryInformation", "UserDefinedProperties", or null.
 const char* FormatName(const GUID& format);
 
 } // namespace suminfo

@@ -1,4 +1,5 @@
-// Folders are told apart by what the system says of them: a link to one that holds it would otherwise never end.
+// Lists files. Folders are identified by the system's numbers, because a link to a parent folder would otherwise be
+// followed forever.
 
 #include "file_list.h"
 
@@ -25,7 +26,7 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
-// Numbers that a file, or a folder, shares with no other.
+// Numbers that identify a file or a folder.
 using FileIdentity = std::array<uint64_t, 4>;
 
 #ifdef _WIN32
@@ -40,9 +41,10 @@ uint64_t Joined(DWORD high, DWORD low) {
     return uint64_t{high} << 32 | low;
 }
 
-// The index of a file is its own on one volume only, and not every system tells volumes apart; its times do.
+// The index of a file is unique only within its volume, and some systems do not distinguish volumes; the times do.
 std::optional<FileIdentity> IdentityOf(const std::string& path) {
-    const files::OpenFile file = files::OpenShared(fs::u8path(path), 0, FILE_FLAG_BACKUP_SEMANTICS); // folders too
+    const files::OpenFile file =
+        files::OpenShared(fs::u8path(path), 0, FILE_FLAG_BACKUP_SEMANTICS); // also opens folders
     BY_HANDLE_FILE_INFORMATION is;
     if (!file || !::GetFileInformationByHandle(file.get(), &is)) return std::nullopt;
     return FileIdentity{is.dwVolumeSerialNumber, Joined(is.nFileIndexHigh, is.nFileIndexLow),
@@ -76,7 +78,7 @@ bool IsThere(const std::string& path) {
     return fs::exists(fs::u8path(path), unknown);
 }
 
-// Returns true for a compound file, and for a file that can't be opened: the work on it says why it fails.
+// Returns true for a compound file, and for a file that cannot be opened, so that the failure is reported.
 bool MayBeDocument(const std::string& path) {
     std::error_code unknown;
     if (!fs::is_regular_file(fs::u8path(path), unknown)) return false;
@@ -89,8 +91,8 @@ bool MayBeDocument(const std::string& path) {
     }
 }
 
-// The paths of what is in the folder, by name; nothing if it can't be listed. They are put together by hand: fs::path
-// takes the a of a:b.doc for a drive.
+// Returns the paths of the folder's entries, sorted by name, or nothing if it cannot be listed. Paths are built without
+// fs::path, which interprets the a of a:b.doc as a drive.
 std::optional<std::vector<std::string>> EntriesOf(const std::string& folder) {
     std::error_code error;
     const fs::path native = fs::u8path(folder);
@@ -122,7 +124,7 @@ private:
         const auto entries = EntriesOf(folder);
         if (!entries) return Miss(folder, "the folder can't be read");
         for (const std::string& entry : *entries) {
-            if (!IsThere(entry)) // Wine lists names that it can't open, with a question mark for one
+            if (!IsThere(entry)) // Wine lists names that it cannot open, with a question mark
                 Miss(entry, "the system can't open a file of this name");
             else if (IsFolder(entry) || MayBeDocument(entry))
                 Add(entry);

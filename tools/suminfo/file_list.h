@@ -1,4 +1,4 @@
-// The files that a command line names, and those that its folders hold.
+// Expands the files and folders of a command line.
 #pragma once
 
 #include <string>
@@ -12,11 +12,11 @@ struct FileList {
     };
 
     std::vector<std::string> files;
-    std::vector<Unreadable> unreadable; // folders that can't be listed, and what in them can't be looked at
+    std::vector<Unreadable> unreadable; // folders that cannot be listed, and entries that cannot be examined
 };
 
-// The named files in their order. With recursive, a folder stands for the compound files in it, sorted by folder, and
-// no file is there twice, by whichever links it was reached.
+// Returns the named files in order. With recursive, a folder is replaced by the compound files in it, sorted by folder,
+// and a file is listed only once, whatever links lead to it.
 FileList FilesOf(const std::vector<std::string>& named, bool recursive);
 
 } // namespace suminfo

@@ -1,4 +1,4 @@
-// Values in forms that lose nothing: long numbers as text, bytes as length and hash.
+// Formats values without loss: 64-bit numbers as text, bytes as length and hash.
 
 #include "json_output.h"
 
@@ -27,7 +27,7 @@ Json DataJson(const orlo::Bytes& bytes) {
     return {{"length", bytes.size()}, {"sha256", Sha256(bytes)}};
 }
 
-// Length and hash of everything after the tag: the format number first where there is one, then the picture.
+// Length and hash cover everything after the tag: the format number, if any, and the picture.
 Json ClipboardJson(const orlo::ClipboardData& clip) {
     orlo::Bytes behindTag;
     if (clip.tag == -1 || clip.tag == -2)

@@ -1,4 +1,4 @@
-// Property sets as JSON; docs/suminfo.md lists keys and forms.
+// Property sets as JSON; docs/suminfo.md lists keys and formats.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -11,7 +11,8 @@ namespace suminfo {
 
 using Json = nlohmann::ordered_json;
 
-// One stream: stream, size, byte_order, version, os_version, clsid, section_count, irregularities, damage, sections.
+// Returns one stream: stream, size, byte_order, version, os_version, clsid, section_count, irregularities, damage,
+// sections.
 Json StreamJson(const NamedStream& stream);
 
 } // namespace suminfo

@@ -1,5 +1,6 @@
-// What the Windows program does: it changes documents by the system's storage, and plays metafiles by the system. This
-// one ends before it has touched anything, and run.d/suminfo.sh starts the other.
+// Commands that require the Windows program, which uses the system's storage to change documents and the system's
+// player for metafiles. The Linux program exits before it has changed anything, and run.d/suminfo.sh starts the other
+// one.
 
 #include <cstdlib>
 

@@ -23,7 +23,7 @@ namespace {
 
 using namespace suminfo;
 
-// The work on one file; false if it failed, which was reported.
+// Processes one file. Returns false if that failed, which was reported.
 template <typename Work>
 bool Try(const std::string& file, Progress& progress, Work work) {
     const auto say = [&progress](const std::string& name, const std::exception& failure) {
@@ -46,7 +46,7 @@ Report ReportOn(const CommandLine& line, const Source& source) {
     return line.json ? ShowJson(source) : ShowTable(source);
 }
 
-// show and check: one file after the other, failures reported in their place.
+// Runs show and check: processes one file after the other and reports failures in order.
 int ReportAll(const CommandLine& line) {
     const FileList list = FilesOf(line.files, line.recursive);
     for (const FileList::Unreadable& unreadable : list.unreadable)
@@ -92,7 +92,7 @@ int Run(const std::vector<std::string>& arguments) {
     return Try(line.file, none, [&] { RunOn(line, line.file); }) ? kDone : kFailed;
 }
 
-// "@-" stands for arguments on standard input, each ended by a NUL: more names than a command line of the system holds.
+// "@-" reads arguments from standard input, each terminated by a NUL, for more names than fit on a command line.
 int RunWith(const std::vector<std::string>& words) {
     PrepareStreams();
     files::RemoveTemporaryFileOnInterrupt();

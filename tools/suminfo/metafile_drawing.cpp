@@ -1,4 +1,4 @@
-// Metafiles drawn by the library on a white bitmap in memory.
+// Draws metafiles on a white bitmap in memory.
 
 #include "metafile_drawing.h"
 
@@ -22,7 +22,7 @@ public:
     }
 
     HDC dc() const { return dc_.get(); }
-    // Red, green and blue, line by line from the top.
+    // Returns red, green and blue of each pixel, from the top line down.
     std::vector<uint8_t> Pixels() const {
         ::GdiFlush();
         const size_t count = static_cast<size_t>(size_.width) * static_cast<size_t>(size_.height);
@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    // From the top down; the bitmap's memory is stored in `pixels`.
+    // Creates a top-down bitmap and stores the address of its memory in `pixels`.
     static HBITMAP Made(HDC dc, Extent size, void*& pixels) {
         BITMAPINFO info = {};
         info.bmiHeader = {sizeof info.bmiHeader, size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};

@@ -1,4 +1,4 @@
-// Draws a summary's picture that the system has to play.
+// Draws a thumbnail that only the system can play.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace suminfo {
 
-// The value of a thumbnail property, in the middle of a white picture: red, green and blue of each pixel, line by line
-// from the top. Nothing if it is damaged; Failure if the system has no room.
+// Draws the value of a thumbnail property centered on white. Returns red, green and blue of each pixel, from the top
+// line down, or nothing if the value is damaged. Throws Failure if the system cannot create the bitmap.
 std::optional<std::vector<uint8_t>> DrawMetafile(const orlo::Bytes& value, Extent extent);
 
 } // namespace suminfo

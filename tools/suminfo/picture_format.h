@@ -1,4 +1,4 @@
-// Whose clipboard format the picture of a summary has, and which.
+// Tags and clipboard formats of thumbnails.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace suminfo {
 constexpr int32_t kOfWindows = -1;
 constexpr int32_t kOfMacintosh = -2;
 
-// Formats of Windows.
+// Windows formats.
 constexpr uint32_t kMetafilePicture = 3;
 constexpr uint32_t kBitmap = 8;
 constexpr uint32_t kEnhancedMetafile = 14;

@@ -1,4 +1,4 @@
-// One line that is drawn over and over.
+// A progress bar on one line of the terminal.
 
 #include "progress.h"
 
@@ -8,16 +8,16 @@ namespace suminfo {
 namespace {
 
 constexpr auto kPatience = std::chrono::milliseconds(500); // before the bar appears
-constexpr auto kPace = std::chrono::milliseconds(100);     // between two drawings of it
+constexpr auto kPace = std::chrono::milliseconds(100);     // between two updates
 constexpr size_t kBar = 24;
-constexpr size_t kName = 40; // bytes; the whole line stays below 80
+constexpr size_t kName = 40; // in bytes; the whole line is shorter than 80
 
 std::string Shortened(const std::string& file) {
     const size_t slash = file.find_last_of("/\\");
     const std::string name = slash == std::string::npos ? file : file.substr(slash + 1);
     if (name.size() <= kName) return name;
     size_t cut = kName - 3;
-    while ((name[cut] & 0xC0) == 0x80) // not inside of a character
+    while ((name[cut] & 0xC0) == 0x80) // not inside a character
         --cut;
     return name.substr(0, cut) + "...";
 }
@@ -34,13 +34,13 @@ void Progress::Next(const std::string& file) {
     const size_t filled = kBar * at / total_;
     const std::string line = "[" + std::string(filled, '#') + std::string(kBar - filled, '.') + "] " +
                              std::to_string(at) + "/" + std::to_string(total_) + " " + Shortened(file);
-    // Blanks over what was longer: a console need not know the sequence that clears a line.
+    // Overwrites a longer previous line with spaces, since not all consoles support clearing a line.
     Print(stderr, "\r" + line + std::string(shown_ > line.size() ? shown_ - line.size() : 0, ' '));
     shown_ = line.size();
 }
 
 void Progress::MakeWayFor(FILE* stream) {
-    if (IsTerminal(stream)) Hide(); // else it goes elsewhere
+    if (IsTerminal(stream)) Hide(); // otherwise the output goes elsewhere
 }
 
 void Progress::Hide() {

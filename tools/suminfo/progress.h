@@ -1,4 +1,4 @@
-// A bar on the terminal while many files are worked on. Without a terminal on stderr it shows nothing.
+// A progress bar on the terminal while many files are processed. Shows nothing if stderr is not a terminal.
 #pragma once
 
 #include <chrono>
@@ -15,9 +15,9 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    // Before work on the next file; the bar appears when the work takes longer than a moment.
+    // Must be called before processing the next file. The bar appears if the work takes longer than a moment.
     void Next(const std::string& file);
-    // Before anything else is printed on that stream.
+    // Must be called before anything else is printed on that stream.
     void MakeWayFor(FILE* stream);
 
 private:
@@ -26,7 +26,7 @@ private:
     size_t total_;
     size_t done_ = 0;
     bool terminal_;
-    size_t shown_ = 0; // bytes of the line on the terminal
+    size_t shown_ = 0; // length in bytes of the line on the terminal
     std::chrono::steady_clock::time_point nextDraw_;
 };
 

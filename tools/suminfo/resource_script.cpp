@@ -1,4 +1,4 @@
-// Sections as raw-data resources, in the bytes that a stream would have.
+// Writes sections as raw-data resources with the bytes of their stream form.
 
 #include <cstdio>
 #include <cstring>
@@ -20,9 +20,9 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
-constexpr size_t kBeforeSection = 48; // bytes of a set with one section
+constexpr size_t kBeforeSection = 48; // bytes of a set before its only section
 
-// The stream form of a section, printed from its beginning to its end.
+// Prints the stream form of a section from beginning to end.
 class SectionPrinter {
 public:
     SectionPrinter(const orlo::ImageSection& section, CRCFile& rc) : section_(section), rc_(rc) {
@@ -133,7 +133,7 @@ FILE* OpenStream(const fs::path& path) {
 } // namespace
 
 void SaveResourceScript(const Source& source, const std::string& script) {
-    const EditedSet sound(SummaryOf(source).bytes); // refuses what is damaged
+    const EditedSet sound(SummaryOf(source).bytes); // throws if the set is damaged
     std::optional<files::FileReplacement> file;
     OnFile(script, [&] { file.emplace(fs::u8path(script)); });
     try {

@@ -1,4 +1,4 @@
-// Property sets as tables, and as a line of JSON.
+// Prints property sets as tables or as a line of JSON.
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr size_t kWidestName = 28;
 
-// Characters, not bytes.
+// Returns the number of characters.
 size_t Width(const std::string& utf8) {
     return static_cast<size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
@@ -55,7 +55,7 @@ void AddTable(const NamedStream& stream, Report& report) {
     std::vector<orlo::Finding> findings;
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
     std::string& table = report.text;
-    // The usual streams are recognized by their sections; others need their name.
+    // The usual streams are identified by their sections; for others the name is shown.
     const bool inner = stream.name.find('/') != std::string::npos;
     if (inner || !set) table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";
     if (!set) {

@@ -1,4 +1,4 @@
-// Streams of documents, bytes of files.
+// Reads the streams of documents and the bytes of files.
 
 #include "sources.h"
 
@@ -28,9 +28,9 @@ NamedStream SummaryOf(const Source& source) {
 
 orlo::Bytes ReadFile(const std::string& file) {
     const fs::path path = fs::u8path(file);
-    std::error_code none; // whatever it is, opening it says more
+    std::error_code none; // errors are reported when it is opened
     if (fs::is_directory(path, none)) throw Failure("is a folder");
-    files::OpenToRead(path); // says why it fails
+    files::OpenToRead(path); // throws with the reason
     std::ifstream stream(path, std::ios::binary);
     return orlo::Bytes(std::istreambuf_iterator<char>(stream), {});
 }

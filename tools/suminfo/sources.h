@@ -12,13 +12,13 @@ namespace suminfo {
 
 struct SourceSets {
     std::vector<NamedStream> streams;
-    std::vector<std::string> damage;         // of the document that they are in
-    std::vector<std::string> damagedStreams; // of all its streams, property sets or not
+    std::vector<std::string> damage;         // damage of the document's structure
+    std::vector<std::string> damagedStreams; // damaged streams, whether or not they are property sets
 };
 
-// All property-set streams of a document, or the one that a bare file is (its name then is empty).
+// Returns all property-set streams of a document, or the single stream of a bare file, with an empty name.
 SourceSets SetsOf(const Source& source);
-// The document's own summary, or the bare stream. Failure if there isn't one.
+// Returns the document's own summary, or the bare stream. Throws Failure if there is none.
 NamedStream SummaryOf(const Source& source);
 orlo::Bytes ReadFile(const std::string& file);
 

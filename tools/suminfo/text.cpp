@@ -1,4 +1,4 @@
-// Texts made fit to be shown or compared.
+// Converts texts for display and comparison.
 
 #include "text.h"
 
@@ -18,7 +18,7 @@
 namespace suminfo {
 namespace {
 
-// Of the first character, in bytes; 1 for a byte that begins none.
+// Returns the size in bytes of the first character, or 1 for an invalid byte.
 size_t CharacterSize(std::string_view utf8) {
     const auto lead = static_cast<unsigned char>(utf8[0]);
     const size_t size = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 1;
@@ -60,9 +60,9 @@ std::string Printable(std::string_view utf8, const char* escape) {
         unsigned code = static_cast<unsigned char>(utf8[i]);
         size = CharacterSize(utf8.substr(i));
         const bool endsLine = code == '\n' || code == '\r';
-        if (size == 2 && code == 0xC2) code = static_cast<unsigned char>(utf8[i + 1]); // as its number
+        if (size == 2 && code == 0xC2) code = static_cast<unsigned char>(utf8[i + 1]); // shown as a number
         const bool isControl = (code < 0x20 && !endsLine) || code == 0x7F || (size == 2 && code < 0xA0);
-        const bool isStray = size == 1 && code >= 0x80; // in the name of a file, which may be any bytes
+        const bool isStray = size == 1 && code >= 0x80; // possible in file names, which may contain any bytes
         if (isControl || isStray) {
             char escaped[16];
             std::snprintf(escaped, sizeof escaped, escape, code);
@@ -103,7 +103,7 @@ std::string Hex(const uint8_t* bytes, size_t size) {
 #ifdef _WIN32
 std::string Sha256(const std::vector<uint8_t>& bytes) {
     std::array<uint8_t, 32> hash;
-    auto* data = const_cast<uint8_t*>(bytes.data()); // the system takes its input as PUCHAR
+    auto* data = const_cast<uint8_t*>(bytes.data()); // the system's parameter is not const
     BCRYPT_ALG_HANDLE algorithm = nullptr;
     BCRYPT_HASH_HANDLE state = nullptr;
     const bool done = ::BCryptOpenAlgorithmProvider(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, 0) >= 0 &&

@@ -1,4 +1,4 @@
-// The thumbnail as a PNG file.
+// Saves the thumbnail as a PNG file.
 
 #include <algorithm>
 #include <cstring>
@@ -25,11 +25,11 @@ namespace suminfo {
 namespace {
 
 constexpr uint32_t kThumbnailId = 17;
-constexpr int kLargest = 8192;       // pixels on a side
-constexpr int kVectorSide = 256;     // a metafile has no size in pixels: its longer side
+constexpr int kLargest = 8192;       // maximum width and height in pixels
+constexpr int kVectorSide = 256;     // longer side of a metafile, which has no size in pixels
 constexpr size_t kPictureOffset = 8; // after tag and format
 
-// The value of the thumbnail, after its length.
+// Returns the value of the thumbnail without its length.
 orlo::Bytes ThumbnailOf(const Source& source) {
     const NamedStream stream = SummaryOf(source);
     std::vector<orlo::Finding> findings;
@@ -55,7 +55,7 @@ bool IsBitmap(const orlo::Bytes& value) {
     return At<uint32_t>(value, 4) == kBitmap;
 }
 
-// Width and height in the picture's own head; drawing has the last word on whether it is one.
+// Reads width and height from the picture's header. Drawing decides whether the picture is valid.
 Extent ExtentInside(const orlo::Bytes& value) {
     const Extent wide = {At<int32_t>(value, kPictureOffset + 4), At<int32_t>(value, kPictureOffset + 8)};
     const auto width = At<int16_t>(value, kPictureOffset + 2);

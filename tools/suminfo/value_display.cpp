@@ -1,4 +1,4 @@
-// One form for each type of value.
+// Formats values for display, by type.
 
 #include "value_display.h"
 
@@ -16,7 +16,7 @@
 namespace suminfo {
 namespace {
 
-constexpr uint64_t kSecond = 10000000; // in 100 ns
+constexpr uint64_t kSecond = 10000000; // in units of 100 ns
 constexpr uint64_t kSecondsOfDay = 86400;
 
 std::string Padded(uint64_t number, size_t digits) {
@@ -32,14 +32,14 @@ std::string Span(uint64_t ticks) {
     return TimeOf(ticks / kSecond, 1);
 }
 
-// Of days since 1601. Years are counted from March on: the day that not every year has is then their last one.
+// Formats days since 1601. Years are counted from March, so that the leap day is their last day.
 std::string DateOf(uint64_t days) {
     constexpr uint64_t kDaysOf400Years = 146097, kDaysFromMarch1600 = 306;
     const uint64_t since1600 = days + kDaysFromMarch1600;
-    const uint64_t day = since1600 % kDaysOf400Years; // of these 400 years, and so on
+    const uint64_t day = since1600 % kDaysOf400Years; // within these 400 years, and so on
     const uint64_t year = (day - day / 1460 + day / 36524 - day / (kDaysOf400Years - 1)) / 365;
     const uint64_t dayOfYear = day - (365 * year + year / 4 - year / 100);
-    const uint64_t monthFromMarch = (5 * dayOfYear + 2) / 153; // five months in a row have 153 days
+    const uint64_t monthFromMarch = (5 * dayOfYear + 2) / 153; // five consecutive months have 153 days
     const uint64_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
     const uint64_t dayOfMonth = dayOfYear - (153 * monthFromMarch + 2) / 5 + 1;
     const uint64_t calendarYear = 1600 + 400 * (since1600 / kDaysOf400Years) + year + (month < 3);
@@ -48,7 +48,7 @@ std::string DateOf(uint64_t days) {
 
 std::string Moment(uint64_t ticks) {
     if (ticks == 0) return "never";
-    if (ticks > INT64_MAX) return std::to_string(ticks) + " (no date)"; // nor is it one for Windows
+    if (ticks > INT64_MAX) return std::to_string(ticks) + " (no date)"; // out of range for Windows as well
     const uint64_t seconds = ticks / kSecond;
     return DateOf(seconds / kSecondsOfDay) + " " + TimeOf(seconds % kSecondsOfDay, 2) + " UTC";
 }
@@ -59,7 +59,7 @@ std::string Digits(double number, int digits) {
     return std::string(text.data(), end.ptr);
 }
 
-// Days since the end of 1899, the hours are the fraction.
+// Formats days since the end of 1899, with the time as the fraction.
 std::string DayNumber(double days) {
     constexpr double kDaysFrom1601 = 109205;
     const double ticks = (days + kDaysFrom1601) * static_cast<double>(kSecondsOfDay * kSecond);
@@ -75,7 +75,7 @@ std::string Money(int64_t tenThousandths) {
 }
 
 std::string Real(double number) {
-    // The shortest form that reads back as the same number.
+    // Finds the shortest text that is parsed back as the same number.
     for (int digits = 1; digits < 17; ++digits) {
         const std::string text = Digits(number, digits);
         if (std::strtod(text.c_str(), nullptr) == number) return text;
@@ -133,7 +133,7 @@ std::string Shown(const orlo::Value& value, bool span) {
 PropertyNames::PropertyNames(const orlo::ImageSection& section) : format_(section.formatId) {
     if (!section.dictionary) return;
     for (const orlo::DictionaryEntry& entry : *section.dictionary)
-        if (entry.undecoded.empty()) dictionary_.emplace(entry.id, &entry.name); // the first, if there are more
+        if (entry.undecoded.empty()) dictionary_.emplace(entry.id, &entry.name); // the first if there are several
 }
 
 std::string PropertyNames::Of(uint32_t id) const {

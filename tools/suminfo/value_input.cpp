@@ -1,4 +1,4 @@
-// Each kind of value has its own strict parser: a text that is only half a number is refused.
+// Strict parsers for each type of value: text is rejected unless all of it is valid.
 
 #include "value_input.h"
 
@@ -62,7 +62,7 @@ uint64_t Now() {
     return (static_cast<uint64_t>(seconds) + kSecondsTo1970) * kSecond;
 }
 
-// Types whose text forms the library knows.
+// Handles types whose text forms are implemented by the library.
 orlo::Value Formatted(uint32_t type, const std::string& text, const char* kind) {
     uint8_t element[16];
     orlo::Value value;
