@@ -20,7 +20,7 @@ constexpr int kPictureSize = 12; // size in pixels of the check mark's bitmap, a
 constexpr int kLeastHeight = 14; // minimum row height at 96 dpi; the box grows within the row
 constexpr int kTextGap = 3;
 
-// Returns the check mark's bitmap, shared by all lists of the process.
+// Returns the bitmap of the check mark, shared by all lists of the process. It has a color table.
 orlo::OwnedBitmap& CheckPicture() {
     static orlo::OwnedBitmap picture;
     return picture;
@@ -29,17 +29,27 @@ orlo::OwnedBitmap& CheckPicture() {
 void LoadCheckPicture() {
     constexpr char kName[] = "W95CHECK";
     orlo::OwnedBitmap& picture = CheckPicture();
-    if (!picture) picture.reset(::LoadBitmapA(LibraryModule(), kName));
+    if (picture) return;
+    picture.reset(static_cast<HBITMAP>(::LoadImageA(LibraryModule(), kName, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
 }
 
 int BoxMargin() {
     return ::GetSystemMetrics(SM_CXDLGFRAME);
 }
 
+void SetTableColor(HDC picture, UINT index, int systemColor) {
+    const COLORREF color = ::GetSysColor(systemColor);
+    const RGBQUAD entry = {GetBValue(color), GetGValue(color), GetRValue(color), 0};
+    ::SetDIBColorTable(picture, index, 1, &entry);
+}
+
+// Black and white of the picture become the scheme's colors, which may have changed since the last time.
 void DrawPicture(HDC dc, const RECT& rect, HBITMAP picture) {
     const orlo::OwnedDC source(::CreateCompatibleDC(dc));
     if (!source) return;
     const orlo::SelectedObject selected(source.get(), picture);
+    SetTableColor(source.get(), 0, COLOR_WINDOWTEXT);
+    SetTableColor(source.get(), 15, COLOR_WINDOW);
     ::StretchBlt(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, source.get(), 0, 0,
                  kPictureSize, kPictureSize, SRCCOPY);
 }

@@ -117,6 +117,20 @@ TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
     taken.DestroyWindow();
 }
 
+TEST_F(CheckList, HasAGapBetweenTheEdgeOfTheSelectionAndTheText) {
+    m_list.AddString("|||", 0);
+    Draw(0, ODA_DRAWENTIRE, ODS_SELECTED);
+    const auto columnHas = [&](int x, COLORREF color) { return m_pixels.Count({x, 0, x + 1, 12}, color) > 0; };
+    int edge = 0;
+    while (edge < 120 && !columnHas(edge, ::GetSysColor(COLOR_HIGHLIGHT)))
+        ++edge;
+    int text = edge;
+    while (text < 120 && !columnHas(text, ::GetSysColor(COLOR_HIGHLIGHTTEXT)))
+        ++text;
+    EXPECT_LE(3, text - edge);
+    EXPECT_GE(8, text - edge);
+}
+
 TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
     m_list.AddString("on", 1);
     m_list.AddString("off", 0);
@@ -146,6 +160,10 @@ TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
     const SchemeColors dark({{COLOR_WINDOW, black}, {COLOR_WINDOWTEXT, white}});
     Draw(1, ODA_DRAWENTIRE, 0);
     EXPECT_LE(12, m_pixels.CountWhere(off, [=](COLORREF c) { return c != black; }));
+    Draw(0, ODA_DRAWENTIRE, 0);
+    const CRect inside(on.left + 2, on.top + 2, on.right - 2, on.bottom - 2);
+    EXPECT_LT(10, m_pixels.Count(inside, white)) << "the mark";
+    EXPECT_LT(20, m_pixels.Count(inside, black)) << "the box";
     const int objects = GdiObjectCount();
     for (int i = 0; i < 100; ++i)
         Draw(0, ODA_DRAWENTIRE, ODS_FOCUS | ODS_SELECTED);
