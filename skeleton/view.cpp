@@ -196,8 +196,8 @@ void ViewportSetRect(ViewportStruct* viewport, const RECT* rect) {
     viewport->rect = *rect;
 }
 
-void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int) {
-    viewport->shown = *extents;
+void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int fit) {
+    if (fit == kFitWhole) viewport->shown = *extents;
 }
 
 void ViewportSetGDIStuff(ViewportStruct* viewport, HWND, HDC dc, int, int) {

@@ -35,7 +35,7 @@ public:
         ::GraphicSetDirty(m_graphic, 1);
         ::GraphicSetExtentsDirty(m_graphic, 1);
         ::ViewportSetRect(m_viewport.get(), &rect);
-        ::ViewportSetExtents(m_viewport.get(), ::GraphicGetExtentsSel(m_graphic, 0), 3);
+        ::ViewportSetExtents(m_viewport.get(), ::GraphicGetExtentsSel(m_graphic, 0), kFitWhole);
         ::ViewportSetGDIStuff(m_viewport.get(), nullptr, dc, 1, 1);
         ::ViewportSetDrawing(m_viewport.get(), ::GraphicGetDrawing(m_graphic));
         ::GraphicDrawEx2(m_graphic, nullptr, m_viewport.get(), 1, 1);

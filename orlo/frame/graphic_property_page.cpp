@@ -219,7 +219,7 @@ void CGraphicPropertyPage::DrawPreview(CDC* pDC, void* pViewport, CRect& rect) {
     ::GraphicSetExtentsDirty(graphic, 1);
     ::ViewportSetRect(viewport, &rect);
     if (graphic->wRegenMethod != 0) ::RegenMethodRegen(sheet->GetRegenMethods(), graphic->wRegenMethod, graphic);
-    ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
+    ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), kFitWhole);
     ::ViewportSetGDIStuff(viewport, nullptr, pDC->m_hDC, 1, 1);
     ::ViewportSetDrawing(viewport, ::GraphicGetDrawing(graphic));
     ::GraphicDrawEx2(graphic, nullptr, viewport, 1, 1);

@@ -13,7 +13,7 @@ DRAWCORE_API void ViewportDispose(ViewportStruct** viewport);
 
 // Sets the rectangle to draw in, in logical units of the device context; nothing is drawn outside.
 DRAWCORE_API void ViewportSetRect(ViewportStruct* viewport, const RECT* rect);
-// Fits the extents (drawing units) into the rectangle: centered, with the aspect ratio kept. fit is 3.
+// Fits the extents (drawing units) into the rectangle: centered, with the aspect ratio kept. fit is kFitWhole.
 DRAWCORE_API void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int fit);
 // Sets the device context to draw on, which remains the caller's. mapMode is the result of GetMapMode. flags is 1.
 DRAWCORE_API void ViewportSetGDIStuff(ViewportStruct* viewport, HWND window, HDC dc, int mapMode, int flags);

@@ -57,6 +57,9 @@ enum {
 // Values of kPropTextFormat.
 enum { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 
+// How ViewportSetExtents fits extents into the rectangle.
+enum { kFitWhole = 3 }; // width and height
+
 // Types of graphics (GraphicStruct::bType).
 enum {
     kGraphicPenBrush = 2,    // a curve; gets the Pen and Brush pages

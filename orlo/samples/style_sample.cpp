@@ -12,7 +12,7 @@ void DisposeSampleGraphic::operator()(GraphicStruct* graphic) const {
 void DrawSample(GraphicStruct* graphic, ViewportStruct* viewport, HDC dc, const RECT& cell) {
     const orlo::SavedDC saved(dc);
     ::ViewportSetRect(viewport, &cell);
-    ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), 3);
+    ::ViewportSetExtents(viewport, ::GraphicGetExtentsSel(graphic, 0), kFitWhole);
     ::ViewportSetGDIStuff(viewport, nullptr, dc, ::GetMapMode(dc), 1);
     ::GraphicDrawEx2(graphic, nullptr, viewport, 0, 1);
 }

@@ -62,7 +62,7 @@ Box BoxOf(GraphicStruct* graphic) {
 Picture::Picture(DrawingStruct* drawing) : m_viewport(ViewportNewEx()) {
     const RECT rect = {0, 0, 101, 101};
     ViewportSetRect(Viewport(), &rect);
-    ViewportSetExtents(Viewport(), GraphicGetExtentsSel(Loose(MakeSquare(0, 0, 100)), 0), 3);
+    ViewportSetExtents(Viewport(), GraphicGetExtentsSel(Loose(MakeSquare(0, 0, 100)), 0), kFitWhole);
     ViewportSetGDIStuff(Viewport(), nullptr, m_pixels.DC(), MM_TEXT, 1);
     ViewportSetDrawing(Viewport(), drawing);
 }

@@ -311,7 +311,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
 TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
     const Loose circle(GraphicNewEx(kGraphicPenBrush, 0, 1)); // unit circle
     picture.Draw(circle);
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), kFitWhole);
     picture.Draw(circle);
     for (int degrees = 0; degrees < 360; ++degrees) {
         const double x = 50 + 50 * std::cos(degrees * 0.0174532925), y = 50 + 50 * std::sin(degrees * 0.0174532925);
@@ -405,26 +405,30 @@ TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
     const RECT wide = {0, 0, 101, 51};
     ViewportSetRect(picture.Viewport(), &wide);
     const Loose square(MakeSquare(1000, 1000, 2));
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(square, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(square, 0), kFitWhole);
     picture.Draw(square);
     EXPECT_EQ(picture.Bits().At(25, 10), kBlack);
     EXPECT_EQ(picture.Bits().At(75, 10), kBlack);
     EXPECT_EQ(picture.Bits().At(50, 0), kBlack);
     EXPECT_EQ(picture.Bits().At(50, 50), kBlack);
     EXPECT_EQ(picture.Covered(), 200);
+    const Loose elsewhere(MakeSquare(0, 0, 9));
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(elsewhere, 0), 0);
+    picture.Draw(square);
+    EXPECT_EQ(picture.Covered(), 200) << "only kFitWhole is a way to fit";
     // Without height, without extents, or empty: the picture is still drawn, centered.
     const Loose flat(MakeLines({{0, 7}, {4, 7}}));
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), kFitWhole);
     picture.Draw(flat);
     EXPECT_EQ(picture.Covered(), 101);
     EXPECT_EQ(picture.Bits().At(0, 25), kBlack);
     const Loose point(MakeLines({{3, 3}}));
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(point, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(point, 0), kFitWhole);
     picture.Draw(point);
     EXPECT_EQ(picture.Covered(), 1) << "a point is a dot";
     EXPECT_EQ(picture.Bits().At(50, 25), kBlack);
     const Loose nothing(GraphicNewEx(kGraphicVertices, 0, 1));
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(nothing, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(nothing, 0), kFitWhole);
     picture.Draw(nothing);
     EXPECT_EQ(picture.Covered(), 0);
 }
@@ -434,7 +438,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimeter = inch / 25.4;
     const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);
-    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), 3);
+    ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), kFitWhole);
     SetWhole(sample, kPropPenColor, kRed);
     SetWhole(sample, kPropScaleSystem, 0);
     SetReal(sample, kPropPenWidth, 2); // millimeters, the drawing's unit

@@ -57,7 +57,7 @@ struct Scene {
         CALL(s.host, GraphicSetBrushStyle)(square.get(), kBrushStyleNone);
         CALL(s.host, ViewportSetRect)(viewport.get(), &kRect);
         CALL(s.host, ViewportSetExtents)
-        (viewport.get(), CALL(s.host, GraphicGetExtentsSel)(square.get(), 0), 3);
+        (viewport.get(), CALL(s.host, GraphicGetExtentsSel)(square.get(), 0), kFitWhole);
         CALL(s.host, ViewportSetGDIStuff)(viewport.get(), nullptr, picture.dc, MM_TEXT, 1);
         CALL(s.host, ViewportSetDrawing)(viewport.get(), s.drawing);
         CALL(s.host, GraphicDrawEx2)(square.get(), matrix, viewport.get(), preview, 1);

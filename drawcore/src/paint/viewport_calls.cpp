@@ -150,8 +150,8 @@ void ViewportSetRect(ViewportStruct* viewport, const RECT* rect) {
     if (viewport && rect) Viewport::From(viewport)->rect = *rect;
 }
 
-void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int) {
-    if (viewport && extents) Viewport::From(viewport)->Show(*Extents::From(extents));
+void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, int fit) {
+    if (viewport && extents && fit == kFitWhole) Viewport::From(viewport)->Show(*Extents::From(extents));
 }
 
 void ViewportFitSeen(ViewportStruct* viewport, GraphicStruct* graphic) {
