@@ -119,10 +119,12 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_host.answer = this->m_table;
     for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // identical for a list box
-        for (const bool exchanged : {false, true}) {
+        for (const auto& [exchanged, templateHeight, listHeight] :
+             {std::tuple(false, 60, 320), {true, 60, 320}, {false, 1000, Scaled(320)}}) {
             const DWORD style = (TypeParam::kStyle & ~DWORD{CBS_OWNERDRAWFIXED}) | drawn;
-            const HWND window = ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, 60,
-                                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
+            const HWND window =
+                ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, templateHeight,
+                                  this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
             ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
             TypeParam control, made;
             control.rowHeight = made.rowHeight = 30;
@@ -148,7 +150,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
             EXPECT_EQ(control.GetCount(), 1) << "filled anew";
             CRect rect;
             control.GetWindowRect(rect);
-            EXPECT_NEAR(combo ? rect.Height() : 320, rect.Height(), 30);
+            EXPECT_NEAR(combo ? rect.Height() : listHeight, rect.Height(), 30);
             control.DestroyWindow();
         }
     }
@@ -294,6 +296,14 @@ TEST_F(DropDown, ShowsWholeRowsUpTo320Pixels) {
     }
 }
 
+TEST_F(DropDown, IsAtMost320PixelsHighAt96DotsPerInch) {
+    for (int i = 0; i < 100; ++i)
+        m_control.AddString("item");
+    m_control.SizeDropDown();
+    EXPECT_GE(Scaled(320), m_control.m_nDropHeight);
+    EXPECT_LT(Scaled(320) - static_cast<int>(m_control.rowHeight), m_control.m_nDropHeight);
+}
+
 // Independent of the parent, which is not involved.
 TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
     m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
@@ -316,6 +326,11 @@ TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
         EXPECT_NEAR(items * 16, ListHeight(), 8) << items;
         m_control.ShowDropDown(FALSE);
     }
+    // A double click opens the list too, though not under Wine.
+    const int before = m_control.m_nDropHeight;
+    m_control.AddString("item");
+    m_control.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(115, 5));
+    EXPECT_EQ(before + 16, m_control.m_nDropHeight);
 }
 
 TEST_F(DropDown, EscapeRestoresTheChoice) {

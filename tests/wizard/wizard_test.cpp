@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNoTemplate = 699;
+constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNotes = 603, kOneLine = 604, kNoTemplate = 699;
 constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301, kHeading = 302;
 
 class CStep : public CPropertyPage {
@@ -245,6 +245,19 @@ TEST_F(Wizard, IsDrawnWholeOnEachPage) {
                               {COLOR_WINDOW, RGB(0, 0, 0)},
                               {COLOR_WINDOWTEXT, RGB(255, 255, 255)}});
     walk();
+}
+
+// A field of several lines begins a new line where its style says so; otherwise the key presses Next.
+TEST_F(Wizard, ReturnBeginsALineInAFieldThatWantsIt) {
+    Run(*Make({kOneLine, kNotes, kWide}), [&](SheetDriver& user) {
+        user.Focus(kField);
+        user.Key(VK_RETURN);
+        EXPECT_EQ(State(user), "1 Back &Next >");
+        user.Focus(kField);
+        user.Key(VK_RETURN);
+        EXPECT_EQ(State(user), "1 Back &Next >");
+        EXPECT_EQ(::SendMessageA(user.Control(kField), EM_GETLINECOUNT, 0, 0), 2);
+    });
 }
 
 TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
