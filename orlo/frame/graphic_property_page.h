@@ -152,22 +152,8 @@ protected:
     void* m_hDialog;
 
 private:
-    friend class CGraphicPropertySheet;
-    // Frees the preview graphic, if any. The page creates a new one when its window is created again.
-    void DisposePreviewGraphic();
-    ControlStatus* FindStatus(unsigned int nID) const;
-    void BuildStatusTable();
-    void AddPreviewGraphic();
-    bool IsIgnored(unsigned int nID) const;
-    void OnDroppedList(unsigned int code, HWND combo);
-    unsigned long ChangeFlags(unsigned int nID, unsigned int code, HWND control);
-
-    friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
+    friend class PageState;
     friend class LoadedControls;
-    friend class WriteOutcome;
-    class WriteOutcome* m_pOutcome = nullptr; // of the current write-back
-    std::unique_ptr<class LoadedControls> m_pLoaded;
-    HWND m_hDropped = nullptr; // the combo box whose list is open or was opened last
-    int m_nDropped = -1;       // its selected item and text when the list was opened
-    CString m_strDropped;
+    friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);
+    std::unique_ptr<class PageState> m_pState;
 };

@@ -2,8 +2,9 @@
 
 #include "orlo/frame/graphic_property_sheet.h"
 
-#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/page_state.h"
 #include "orlo/resources/library_text.h"
+#include "orlo/win/screen_scale.h"
 
 IMPLEMENT_DYNAMIC(CGraphicPropertySheet, COrloPropertySheet)
 
@@ -16,13 +17,15 @@ END_MESSAGE_MAP()
 namespace {
 
 constexpr unsigned int kPreviewId = 3999;
+constexpr int kPreviewSize = 100; // pixels at 96 dpi
 
 } // namespace
 
 CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
                                              void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
                                              unsigned int iSelectPage)
-    : COrloPropertySheet(LibraryText(nIDCaption), pParentWnd, iSelectPage) {
+    : COrloPropertySheet(LibraryText(nIDCaption), pParentWnd, iSelectPage), m_cxPreview(ScreenPixels(kPreviewSize)),
+      m_cyPreview(ScreenPixels(kPreviewSize)) {
     m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};
     m_bHasApply = FALSE;
 }
@@ -98,7 +101,7 @@ void CGraphicPropertySheet::ForgetEarlierRun() {
     m_bEndWithCode = 0;
     for (int i = 0; i < GetPageCount(); ++i)
         if (GetPage(i)->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
-            static_cast<CGraphicPropertyPage*>(GetPage(i))->DisposePreviewGraphic();
+            PageState::Of(static_cast<CGraphicPropertyPage&>(*GetPage(i))).DisposePreviewGraphic();
 }
 
 int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {

@@ -69,17 +69,15 @@ protected:
 
 private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
-    static constexpr uint32_t kColumnOfButtons = 4; // preview pane and buttons beside the page
 
     CGraphicPropertyPage* GetActiveGraphicPage();
     void ForgetEarlierRun();
     int ButtonColumnWidth(int (&widths)[3]);
     void PlaceButtons(int left, int top, const int (&widths)[3]);
 
-    uint32_t m_dwSheetStyle = kColumnOfButtons;
     GraphicStruct* m_pPreviewGroup = nullptr;
-    int m_cxPreview = 100; // in device pixels
-    int m_cyPreview = 100;
+    int m_cxPreview; // size of the preview pane, in device pixels
+    int m_cyPreview;
     CGraphicPreview m_wndPreview;
     int m_bEndWithCode = 0;
     int m_nEndCode = 0;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "orlo/frame/control_state.h"
-#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/page_state.h"
 
 // Lives as long as the exchange, because the controls display their values only when it ends.
 class LoadedControls::Loading : public CObject {
@@ -31,7 +31,7 @@ private:
 };
 
 LoadedControls& LoadedControls::Of(CGraphicPropertyPage& page) {
-    return *page.m_pLoaded;
+    return PageState::Of(page).loaded;
 }
 
 HWND LoadedControls::Window(unsigned int nID) const {

@@ -1,7 +1,7 @@
 // Reading and writing properties in CGraphicPropertyPage, over the selection of its sheet or the preview group.
 
 #include "orlo/binding/property_merge.h"
-#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/page_state.h"
 #include "orlo/frame/sheet_objects.h"
 #include "orlo/frame/write_outcome.h"
 
@@ -33,7 +33,7 @@ void* CGraphicPropertyPage::GetNextObject(void* pPos, int bPreview) {
 #define ORLO_TEXT_ACCESS(Member, Type)                                                                                 \
     ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                           \
     int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {                      \
-        return binding::Write<Type>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);                   \
+        return binding::Write<Type>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);            \
     }
 
 using UI1 = binding::Plain<unsigned char, VT_UI1>;
@@ -64,23 +64,23 @@ int CGraphicPropertyPage::GetPropText(const char* pszPropName, CString* pValue, 
 }
 
 int CGraphicPropertyPage::SetPropText(const char* pszPropName, CString& value, int bPreview) {
-    return binding::WriteText(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
+    return binding::WriteText(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, int value, int bPreview) {
-    return binding::WriteCheck(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
+    return binding::WriteCheck(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, unsigned short value, int bPreview) {
-    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
+    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, int value, int bPreview) {
-    return binding::Write<I4>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
+    return binding::Write<I4>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, unsigned short value, int bPreview) {
-    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, value);
+    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
 }
 
 int CGraphicPropertyPage::GetPropIndex(const char* pszPropName, int* pValue, int bPreview) {
@@ -96,5 +96,5 @@ int CGraphicPropertyPage::GetPropBits(const char* pszPropName, unsigned short* p
 }
 
 int CGraphicPropertyPage::SetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview) {
-    return binding::WriteBits(TargetOf(GetSheet(), bPreview, m_pOutcome), pszPropName, pPair);
+    return binding::WriteBits(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, pPair);
 }

@@ -6,15 +6,15 @@
 
 #include <utility>
 
-#include "orlo/frame/graphic_property_page.h"
+#include "orlo/frame/page_state.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 
 WriteOutcome::WriteOutcome(CGraphicPropertyPage* page)
-    : m_page(page), m_before(std::exchange(page->m_pOutcome, this)) {}
+    : m_page(page), m_before(std::exchange(PageState::Of(*page).outcome, this)) {}
 
 WriteOutcome::~WriteOutcome() {
-    m_page->m_pOutcome = m_before;
+    PageState::Of(*m_page).outcome = m_before;
 }
 
 void WriteOutcome::AddFailure(const char* text) {
