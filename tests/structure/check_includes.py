@@ -2,40 +2,59 @@
 """Reads the include lines of the tree and fails on each that the layer rules forbid: check_includes.py ROOT
 
 docs/architecture.md says the same rules in words. What is public is named in three places that must agree: what orlo.h reaches,
-the headers that the CMakeLists.txt of each room declare, and the list of exported names.
+the headers that the CMakeLists.txt of each module declare, and the list of exported names.
 """
 import pathlib
 import re
 import sys
 
-# The modules of the library from top to bottom. A module may include itself and those below it.
-LAYERS = ["c", "entry", "pages", "exchange", "frame", "controls", "samples", "binding", "win", "host"]
-MAY = {room: set(LAYERS[place:]) for place, room in enumerate(LAYERS)}
-MAY["binding"] = {"binding", "host"}  # win is below it, but uses windows
-MAY["c"] |= {"propset", "summary"}
-MAY["include"] = set(LAYERS) | {"propset", "summary", "wizard"}
-MAY["propset"] = {"propset"}
-MAY["summary"] = {"summary", "propset", "win"}
-MAY["wizard"] = {"wizard", "win"}
-MAY["resources"] = {"resources"}
-for room in "entry pages exchange frame controls wizard".split():
-    MAY[room].add("resources")  # strings, and identifiers of templates and controls
-
+PUBLIC = "public"  # what a host includes: orlo.h and all that it reaches, orlo_c.h, orlo/host, and these
+ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, not part of the interface
 TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # included with angle brackets, as by a host
 
+
+def downward(area, modules, also=""):
+    """Modules from top to bottom: each may include itself, those below it, and others that all of them may."""
+    names = [f"{area}/{module}" for module in modules.split()]
+    return {name: {*names[place:], *also.split()} for place, name in enumerate(names)}
+
+
+# What each module may include of this tree.
+MAY = {
+    **downward("orlo", "c entry pages exchange frame controls samples binding win host", "afx"),
+    **downward("drawcore", "calls export import save paint database graphics styles tables units dxf geometry",
+               "drawcore/include orlo/host"),
+    **downward("demo", "program tour viewer automation", f"afx drawcore/include {PUBLIC}"),
+    "drawcore/include": {"drawcore/include", "orlo/host"},
+    "tools/dxfprops": {"tools/dxfprops", "drawcore/include", "drawcore/save", "drawcore/units", "drawcore/dxf", "files", PUBLIC},
+    "tools/hostcheck": {"tools/hostcheck", PUBLIC},
+    "tools/suminfo": {"tools/suminfo", "files", PUBLIC},
+    "docs": {"docs", "afx", "drawcore/include", PUBLIC},
+    "packaging": {"packaging", "afx", "drawcore/include", PUBLIC},
+    "skeleton": {"skeleton", "orlo/host"},
+    "afx": {"afx"},
+    "files": {"files"},
+}
+MAY["orlo/binding"] = {"orlo/binding", "orlo/host", "afx"}  # win is below it, but uses windows
+MAY["orlo/propset"] = {"orlo/propset", "afx"}
+MAY["orlo/summary"] = {"orlo/summary", "orlo/propset", "orlo/win", "afx", "files"}
+MAY["orlo/wizard"] = {"orlo/wizard", "orlo/win", "afx"}
+MAY["orlo/resources"] = {"orlo/resources", "afx"}
+MAY["orlo/c"] |= {"orlo/propset", "orlo/summary", "orlo/include", "files"}
+MAY["orlo/include"] = {name for name in MAY if name.startswith("orlo/")}
+for module in "entry pages exchange frame controls wizard".split():
+    MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
+MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry"}  # also built natively, for dxfprops
+MAY["drawcore/calls"].add("files")
+
 # Additional headers allowed per module: declarations of the host contract without windows.
-MAY_ALSO = {"propset": {"orlo/host/memory.h"}, "summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
+MAY_ALSO = {"orlo/propset": {"orlo/host/memory.h"}, "orlo/summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
 
 # Modules that also compile without windows, and headers that would need them.
-WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding"]
+WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding", "drawcore/save", "drawcore/units", "drawcore/geometry"]
 WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|dlgs|cmn|ctl|gdi|app|msg|dialog)\.h")
 
-# The library headers that folders outside the library may include.
-ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, not part of the interface
-PUBLIC, HOST, NOTHING = "public headers", "orlo/host", "nothing of the library"
-OUTSIDE = {"demo": PUBLIC, "tools": PUBLIC, "docs/examples": PUBLIC, "packaging": PUBLIC, "drawcore": HOST,
-           "skeleton": HOST, "afx": NOTHING, "files": NOTHING}
-WITH_FILES = ("orlo/summary", "orlo/c")  # modules of the library; programs and the database may use it too
+SEARCHED = ["", "orlo/include", "drawcore/include", "afx/include"]  # folders that an include line may start from
 
 
 def includes(path):
@@ -44,6 +63,24 @@ def includes(path):
 
 def sources(folder):
     return [p for p in sorted(folder.rglob("*")) if p.suffix in {".h", ".cpp", ".c"}]
+
+
+def module_of(name):
+    """The module of a file, given by its path from the root."""
+    parts = name.split("/")
+    if parts[:2] == ["drawcore", "src"]:
+        del parts[1]
+    if parts[0] == "demo" and len(parts) == 2:
+        return "demo/program"
+    return "/".join(parts[:2]) if parts[0] in ("orlo", "drawcore", "demo", "tools") else parts[0]
+
+
+def found(root, path, header):
+    """The path from the root of an included file of this tree; None for a header of the system."""
+    for folder in [root / folder for folder in SEARCHED] + [path.parent]:
+        if (folder / header).is_file():
+            return (folder / header).resolve().relative_to(root.resolve()).as_posix()
+    return None
 
 
 def public_headers(root):
@@ -59,27 +96,17 @@ def public_headers(root):
     return reached
 
 
-def inside(name, header):
-    """Why a file of the library may not include that header; None if it may."""
-    folder = "/".join(name.split("/")[:2])
-    if folder in WITHOUT_WINDOWS and WINDOW_HEADERS.fullmatch(header):
-        return f"{folder} has no windows"
-    if header.startswith("files/") and folder not in WITH_FILES:
-        return f"{folder} replaces no files"
-    if not header.startswith("orlo/") or header == "orlo/export.h":
+def forbidden(root, path, header, public):
+    """Why a file may not include that header; None if it may."""
+    module = module_of(path.relative_to(root).as_posix())
+    if module in WITHOUT_WINDOWS and WINDOW_HEADERS.fullmatch(header):
+        return f"{module} has no windows"
+    name = found(root, path, header)
+    if name is None or name == "orlo/export.h" or name in MAY_ALSO.get(module, ()) or module not in MAY:
         return None
-    room, other = name.split("/")[1], header.split("/")[1]
-    if room == "export.h" or other in MAY[room] or header in MAY_ALSO.get(room, ()):
+    if module_of(name) in MAY[module] or PUBLIC in MAY[module] and name in public:
         return None
-    return f"{room} must not know {other}"
-
-
-def outside(allowed, header, public):
-    if not header.startswith("orlo") or header in TOP_HEADERS and allowed == PUBLIC:
-        return None
-    if allowed == PUBLIC and header in public or allowed == HOST and header.startswith("orlo/host/"):
-        return None
-    return f"this folder may include {allowed}"
+    return f"{module} may include {', '.join(sorted(MAY[module] - {module})) or 'only itself'}"
 
 
 def spelling(top, mark, header):
@@ -91,14 +118,12 @@ def spelling(top, mark, header):
 
 
 def faults(root, public):
-    for top in ["orlo", *OUTSIDE]:
+    for top in sorted({module.split("/")[0] for module in MAY}):
         for path in sources(root / top):
-            name = path.relative_to(root).as_posix()
             for mark, header in includes(path):
-                why = inside(name, header) if top == "orlo" else outside(OUTSIDE[top], header, public)
-                why = why or spelling(top, mark, header)
+                why = forbidden(root, path, header, public) or spelling(top, mark, header)
                 if why:
-                    yield name, header, why
+                    yield path.relative_to(root).as_posix(), header, why
 
 
 def unreached(root, public):

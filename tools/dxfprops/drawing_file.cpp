@@ -4,17 +4,17 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
-#include "drawcore/src/tables/fold_name.h"
 #include "files/file_error.h"
 #include "files/file_replacement.h"
 #include "files/open_file.h"
 
 namespace dxfprops {
 
-using drawcore::FoldName;
+using dxf::FoldName;
 
 DrawingFile::DrawingFile(const std::string& file)
     : path_(std::filesystem::u8path(file)), bytes_(dxf::ReadBytes(path_)), document_(dxf::Read(bytes_, {})),

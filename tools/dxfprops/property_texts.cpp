@@ -7,14 +7,14 @@
 #include <cstdio>
 
 #include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/dxf/standard_brushes.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/save/save_error.h"
-#include "drawcore/src/tables/fold_name.h"
 #include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
-#include "drawcore/src/units/header_units.h"
 #include "drawcore/src/units/number_text.h"
+#include "drawcore/src/units/unit_settings.h"
 #include "orlo/host/words.h"
 
 char drawcore::DecimalMark() {
@@ -23,7 +23,7 @@ char drawcore::DecimalMark() {
 
 namespace dxfprops {
 
-using drawcore::FoldName;
+using dxf::FoldName;
 using dxf::Look;
 
 namespace {

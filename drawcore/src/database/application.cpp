@@ -2,10 +2,9 @@
 #include "drawcore/src/database/application.h"
 
 #include "drawcore/include/drawcore/application.h"
-#include "drawcore/src/database/drawing.h"
 #include "drawcore/src/styles/colors.h"
 #include "drawcore/src/units/decimal_mark.h"
-#include "orlo/host/application.h"
+#include "orlo/host/words.h"
 
 namespace drawcore {
 
@@ -22,7 +21,7 @@ Application::Application() : AppStruct{} {
     variables_.SetVariable(kVarDecimalMark, std::string("."));
 }
 
-void Application::Remove(const Drawing& drawing) {
+void Application::Remove(const DrawingStruct& drawing) {
     if (pCurrentDrawing == &drawing) pCurrentDrawing = nullptr;
 }
 
@@ -42,29 +41,3 @@ char DecimalMark() {
 }
 
 } // namespace drawcore
-
-using namespace drawcore;
-
-AppStruct* AppGetCurrentApp(void) {
-    return &Application::Get();
-}
-
-int AppGetINIFileName(AppStruct* application, char* buffer, int size) {
-    if (application != &Application::Get() || !buffer || size <= 0) return 0;
-    return CopyText(Application::Get().configurationFile, buffer, size);
-}
-
-int IsPaletteSupported(HDC dc) {
-    return dc && (::GetDeviceCaps(dc, RASTERCAPS) & RC_PALETTE) != 0;
-}
-
-int AppSetCurrentDrawing(DrawingStruct* drawing) {
-    Drawing* found = Drawing::Find(drawing);
-    if (drawing && !found) return 0;
-    Application::Get().SetCurrentDrawing(found);
-    return 1;
-}
-
-void AppSetINIFileName(const char* path) {
-    Application::Get().configurationFile = path ? path : "";
-}

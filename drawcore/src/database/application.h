@@ -12,8 +12,8 @@ class Application : public AppStruct {
 public:
     static Application& Get();
 
-    void SetCurrentDrawing(Drawing* drawing) { pCurrentDrawing = reinterpret_cast<DrawingStruct*>(drawing); }
-    void Remove(const Drawing& drawing); // it is about to be freed
+    void SetCurrentDrawing(DrawingStruct* drawing) { pCurrentDrawing = drawing; }
+    void Remove(const DrawingStruct& drawing); // it is about to be freed
     // Variable kVarPreviewBackground; white if the host program has removed the variable.
     uint32_t PreviewBackground() const;
     Id PreviewLayer() const; // variable kVarPreviewLayer

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/undo_log.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
 namespace dxf {
@@ -61,12 +62,7 @@ private:
         thing.stored = decoder_.Encode(thing.name) == raw ? std::string_view() : raw;
     }
 
-    static std::string Key(std::string_view name) {
-        std::string key = ToDisplayText(name);
-        for (char& c : key)
-            if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-        return key;
-    }
+    static std::string Key(std::string_view name) { return FoldName(ToDisplayText(name)); }
 
     std::vector<Thing>& things_;
     const TextDecoder& decoder_;

@@ -30,7 +30,7 @@ StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& pa
         const std::vector<std::string>& taken = drawing.source->blocks;
         if (block.declared && std::find(taken.begin(), taken.end(), name) != taken.end())
             inFile_.emplace(
-                FoldName(name),
+                dxf::FoldName(name),
                 dxf::Block{
                     block.name, block.stored, true, block.base, block.flags, {}, block.own, block.begin, block.end});
     }
@@ -71,7 +71,7 @@ void StructureExport::RemoveBlocks() {
 
 void StructureExport::WriteBlock(const Block& block) {
     CheckWhole(Leftovers::NameOfBlock(block.name), block.Content());
-    const auto known = inFile_.find(FoldName(block.name));
+    const auto known = inFile_.find(dxf::FoldName(block.name));
     if (known != inFile_.end()) {
         WriteTree(block, known->second);
         return AddMissing(block.Content(), &known->second);

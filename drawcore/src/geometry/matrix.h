@@ -3,15 +3,12 @@
 
 #include "drawcore/src/geometry/vector.h"
 
-struct MatrixStruct;
-
 namespace drawcore {
 
 // Sixteen doubles in rows, as the host's matrix record has them: row 3 holds the translation.
 struct Matrix {
     double at[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
 
-    static Matrix FromRecord(const MatrixStruct* record); // the identity for null
     static Matrix Translation(const Vec3& by);
     static Matrix Scaling(const Vec3& by);
     static Matrix RotationZ(double radians);

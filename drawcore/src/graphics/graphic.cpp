@@ -4,11 +4,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "drawcore/src/database/census.h"
-#include "drawcore/src/database/drawing.h"
-#include "drawcore/src/database/undo.h"
+#include "drawcore/include/drawcore/graphic.h"
+#include "drawcore/src/graphics/census.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/extents_sink.h"
 #include "drawcore/src/graphics/place_index.h"
+#include "drawcore/src/graphics/undo_log.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 namespace drawcore {
@@ -17,7 +18,7 @@ namespace {
 
 // Those of the block that has this content: their boxes come from its.
 void InvalidateInsertions(const Graphic& content) {
-    const Drawing* drawing = content.GetDrawing();
+    const DrawingContents* drawing = content.GetDrawing();
     if (drawing && drawing->Blocks()) drawing->Blocks()->InvalidateInsertionsOf(content);
 }
 
@@ -59,7 +60,7 @@ void Graphic::MakeHostParts() {
 Graphic::~Graphic() {
     --Census::graphics;
     if (!inUndoLog_) return;
-    if (Drawing* drawing = GetDrawing()) drawing->Undo().Remove(*this);
+    if (DrawingContents* drawing = GetDrawing()) drawing->Undo().Remove(*this);
 }
 
 std::unique_ptr<Graphic> Graphic::Clone() const {
@@ -75,7 +76,7 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     added->pParent = this;
     added->Ties().place = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
-    if (Drawing* drawing = Ties().drawing) added->Attach(drawing);
+    if (DrawingContents* drawing = Ties().drawing) added->Attach(drawing);
     InvalidateExtents();
     return added;
 }
@@ -109,15 +110,15 @@ const Graphic& Graphic::Top() const {
     return *top;
 }
 
-void Graphic::Attach(Drawing* drawing) {
+void Graphic::Attach(DrawingContents* drawing) {
     Ties().drawing = drawing;
     InvalidateExtents();
     for (size_t i = 0; parts_ && i < parts_->size(); ++i)
         (*parts_)[i]->Attach(drawing);
 }
 
-Drawing* Graphic::GetDrawing() const {
-    return Drawing::Find(Ties().drawing);
+DrawingContents* Graphic::GetDrawing() const {
+    return DrawingContents::Find(Ties().drawing);
 }
 
 void Graphic::SetStyleName(const char* name) {
@@ -126,7 +127,7 @@ void Graphic::SetStyleName(const char* name) {
 }
 
 UndoLog* Graphic::OpenUndoLog() const {
-    Drawing* drawing = GetDrawing();
+    DrawingContents* drawing = GetDrawing();
     return drawing && drawing->Undo().IsOpen() && &Top() == &drawing->Root() ? &drawing->Undo() : nullptr;
 }
 
@@ -219,10 +220,15 @@ bool Graphic::EqualAttributes(const Graphic& saved) const {
 double ShownPenWidth(const Graphic& graphic) {
     const double width = graphic.GetPen().width;
     if (width >= 0) return width;
-    const Drawing* drawing = graphic.GetDrawing();
+    const DrawingContents* drawing = graphic.GetDrawing();
     const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
     const Layer* layer = layers && width == kPenWidthByLayer ? layers->At(graphic.layer) : nullptr;
     return layer ? layer->lineWidth : 0;
+}
+
+bool PassesFilter(const Graphic& graphic, uint32_t filter) {
+    const uint32_t kinds = filter & kFilterKinds;
+    return !kinds || (kinds & static_cast<uint32_t>(graphic.GetKind()));
 }
 
 } // namespace drawcore

@@ -18,7 +18,7 @@
 
 namespace drawcore {
 
-class Drawing;
+class DrawingContents;
 class PlaceIndex;
 class UndoLog;
 struct Vertex;
@@ -72,8 +72,8 @@ public:
     const Graphic& Top() const; // the last of the parents, or this one
 
     // Ties this graphic and its members to a drawing, or to none.
-    void Attach(Drawing* drawing);
-    Drawing* GetDrawing() const; // also null once the drawing has been freed
+    void Attach(DrawingContents* drawing);
+    DrawingContents* GetDrawing() const; // also null once the drawing has been freed
 
     // A setter calls one of the first two before it changes anything, for the undo log, and one of the others after.
     void ChangingLook();  // what GetLook gives, and nothing else
@@ -132,7 +132,7 @@ private:
     // What fits into the bytes of the record that are the host's own: of a million graphics they would be a hundred
     // megabytes.
     struct Tied {
-        Drawing* drawing = nullptr;
+        DrawingContents* drawing = nullptr;
         const PropertyTable* properties = nullptr;
         uint32_t undoPlace = 0; // in the open step of the undo log; says nothing by itself
         uint32_t place = 0;     // among the parts of the graphic that owns it

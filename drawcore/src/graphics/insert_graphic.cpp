@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/trace.h"
 
@@ -133,7 +133,7 @@ void InsertGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
 
 void InsertGraphic::AddShapeExtents(Extents& extents) const {
     static int depth = 0;
-    const Drawing* drawing = GetDrawing();
+    const DrawingContents* drawing = GetDrawing();
     const Block* shown = drawing && drawing->Blocks() ? drawing->Blocks()->At(block) : nullptr;
     if (!shown || depth >= kDeepest) return;
     ++depth;

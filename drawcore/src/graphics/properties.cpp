@@ -10,7 +10,7 @@
 
 #include <wtypes.h>
 
-#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/text_face.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "orlo/host/memory.h"
@@ -138,7 +138,7 @@ bool IsScaleSystem(const Graphic&, int64_t value) {
 
 bool IsLayer(const Graphic& graphic, int64_t value) {
     if (value <= kNoId || value > kHighestId) return false;
-    const Drawing* drawing = graphic.GetDrawing();
+    const DrawingContents* drawing = graphic.GetDrawing();
     const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
     return !layers || layers->At(static_cast<Id>(value));
 }

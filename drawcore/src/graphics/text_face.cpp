@@ -3,8 +3,8 @@
 
 #include <map>
 
+#include "drawcore/src/graphics/gdi.h"
 #include "drawcore/src/graphics/text_graphic.h"
-#include "drawcore/src/paint/gdi.h"
 
 namespace drawcore {
 

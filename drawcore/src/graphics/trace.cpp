@@ -3,14 +3,14 @@
 
 #include <algorithm>
 
-#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/extents_sink.h"
 
 namespace drawcore {
 
 GeometrySink::~GeometrySink() = default;
 
-TraceTools::TraceTools(const Drawing* drawing) {
+TraceTools::TraceTools(const DrawingContents* drawing) {
     if (!drawing) return;
     layers = drawing->Layers();
     lineStyles = drawing->LineStyles();
@@ -138,7 +138,7 @@ void TraceGraphic(const Graphic& graphic, const Trace& trace) {
         TraceGraphic(*graphic.MemberAt(i), inner);
 }
 
-Extents SeenExtents(const Graphic& graphic, const Drawing* drawing) {
+Extents SeenExtents(const Graphic& graphic, const DrawingContents* drawing) {
     if (!drawing || !drawing->Layers() || HidesNothing(*drawing->Layers())) return graphic.GetExtents();
     Extents extents;
     ExtentsSink sink(extents);

@@ -6,9 +6,9 @@
 
 #include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/geometry/path.h"
+#include "drawcore/src/graphics/block.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/text_face.h"
-#include "drawcore/src/styles/block.h"
 #include "drawcore/src/styles/layer.h"
 
 namespace drawcore {
@@ -67,7 +67,7 @@ constexpr long kTraceBudget = 1'000'000;
 
 // What a tracing needs once: the tables of the drawing (null where there are none) and working space.
 struct TraceTools {
-    explicit TraceTools(const Drawing* drawing);
+    explicit TraceTools(const DrawingContents* drawing);
 
     const LayerTable* layers = nullptr;
     const LineStyleTable* lineStyles = nullptr;
@@ -106,7 +106,7 @@ bool TraceAlone(const Graphic& graphic, const Trace& trace);
 Trace TraceOfMembers(const Graphic& graphic, const Trace& trace);
 
 // The box of what is seen of the graphic and its members: extents without what lies on hidden layers.
-Extents SeenExtents(const Graphic& graphic, const Drawing* drawing);
+Extents SeenExtents(const Graphic& graphic, const DrawingContents* drawing);
 
 // A graphic's brush over the outlines in the tools' path; nothing without a brush.
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use);

@@ -10,7 +10,7 @@
 #include "drawcore/src/dxf/look.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
-#include "drawcore/src/units/header_units.h"
+#include "drawcore/src/tables/unit_variables.h"
 
 namespace drawcore {
 
@@ -57,7 +57,7 @@ Id ImportLineStyle(const dxf::LineType& type, LineStyleTable& styles) {
 }
 
 bool IsInherited(const dxf::LineType& type) {
-    const std::string name = FoldName(type.name);
+    const std::string name = dxf::FoldName(type.name);
     return name == "bylayer" || name == "byblock";
 }
 
@@ -71,7 +71,7 @@ Id ImportLayer(const dxf::Layer& from, const LineStyleTable& styles, LayerTable&
 }
 
 bool IsLayout(const std::string& name) {
-    const std::string folded = FoldName(name);
+    const std::string folded = dxf::FoldName(name);
     return folded.compare(0, 12, "*model_space") == 0 || folded.compare(0, 12, "*paper_space") == 0 ||
            folded.compare(0, 12, "$model_space") == 0 || folded.compare(0, 12, "$paper_space") == 0;
 }
@@ -101,7 +101,7 @@ ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing) {
         tables.layers.push_back(ImportLayer(layer, styles, *drawing.Layers()));
     for (const dxf::Block& block : document.blocks)
         tables.blocks.push_back(ImportBlock(block, *drawing.Blocks()));
-    UnitsOf(document.header).Store(*drawing.Units());
+    StoreUnits(UnitsOf(document.header), *drawing.Units());
     if (document.header.lineTypeScale > 0) drawing.lineScale = document.header.lineTypeScale;
     return tables;
 }

@@ -7,8 +7,8 @@
 #include <optional>
 #include <unordered_map>
 
+#include "drawcore/src/graphics/gdi.h"
 #include "drawcore/src/graphics/trace.h"
-#include "drawcore/src/paint/gdi.h"
 #include "drawcore/src/paint/path_clip.h"
 #include "drawcore/src/paint/text_output.h"
 

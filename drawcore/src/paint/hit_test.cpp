@@ -160,8 +160,8 @@ public:
     }
 
 private:
-    static const Drawing* DrawingOf(const Viewport& viewport, const Graphic& set) {
-        const Drawing* drawing = Drawing::Find(viewport.drawing);
+    static const DrawingContents* DrawingOf(const Viewport& viewport, const Graphic& set) {
+        const DrawingContents* drawing = DrawingContents::Find(viewport.drawing);
         return drawing ? drawing : set.GetDrawing();
     }
     bool IsLocked(const Graphic& member) const {

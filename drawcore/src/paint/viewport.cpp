@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/database/census.h"
+#include "drawcore/src/graphics/census.h"
 
 namespace drawcore {
 

@@ -5,8 +5,8 @@
 
 #include <windows.h>
 
-#include "drawcore/src/database/drawing.h"
 #include "drawcore/src/geometry/extents.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/paint/seen_members.h"
 

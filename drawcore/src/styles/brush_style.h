@@ -52,7 +52,7 @@ public:
 // The first entries are "Solid", which has the identifier kBrushSolid, six plain hatches and four bitmaps.
 class BrushStyleTable : public TableOf<BrushStyle> {
 public:
-    explicit BrushStyleTable(Drawing* owner);
+    explicit BrushStyleTable(DrawingStruct* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };
 

@@ -5,7 +5,7 @@
 
 namespace drawcore {
 
-ColorTable::ColorTable(Drawing* owner) : TableOf(owner) {
+ColorTable::ColorTable(DrawingStruct* owner) : TableOf(owner) {
     for (int index = 1; index <= dxf::kColorNumbers; ++index)
         Add(std::make_unique<ColorEntry>(dxf::NameOfIndex(index), dxf::ColorOfIndex(index)));
 }

@@ -26,7 +26,7 @@ private:
 class ColorTable : public TableOf<ColorEntry> {
 public:
     // Filled with the 255 numbered colors, identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
-    explicit ColorTable(Drawing* owner);
+    explicit ColorTable(DrawingStruct* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };
 

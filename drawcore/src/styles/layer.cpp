@@ -1,12 +1,9 @@
-// The entries of the table, and the calls of the host.
+// The entries of the table.
 #include "drawcore/src/styles/layer.h"
-
-#include "drawcore/include/drawcore/layer.h"
-#include "drawcore/src/database/drawing.h"
 
 namespace drawcore {
 
-LayerTable::LayerTable(Drawing* owner) : TableOf(owner) {
+LayerTable::LayerTable(DrawingStruct* owner) : TableOf(owner) {
     Add(std::make_unique<Layer>("0"));
 }
 
@@ -14,53 +11,4 @@ std::unique_ptr<TableEntry> LayerTable::MakeEntry(std::string_view name, void*) 
     return std::make_unique<Layer>(name);
 }
 
-namespace {
-
-Layer* FindLayer(DrawingStruct* drawing, uint16_t id) {
-    Drawing* found = Drawing::Find(drawing);
-    LayerTable* layers = found ? found->Layers() : nullptr;
-    return layers ? layers->At(id) : nullptr;
-}
-
-} // namespace
-
 } // namespace drawcore
-
-using namespace drawcore;
-
-uint32_t LayerGetColor(DrawingStruct* drawing, uint16_t id) {
-    const Layer* layer = FindLayer(drawing, id);
-    return layer ? layer->color : kColorNone;
-}
-
-int LayerGetVisible(DrawingStruct* drawing, uint16_t id) {
-    const Layer* layer = FindLayer(drawing, id);
-    return layer && layer->IsVisible();
-}
-
-int LayerGetReadOnly(DrawingStruct* drawing, uint16_t id) {
-    const Layer* layer = FindLayer(drawing, id);
-    return layer && layer->locked;
-}
-
-uint32_t LayerGetFlags(DrawingStruct* drawing, uint16_t id) {
-    const Layer* layer = FindLayer(drawing, id);
-    if (!layer) return 0;
-    return (layer->off ? kLayerOff : 0u) | (layer->frozen ? kLayerFrozen : 0u) | (layer->locked ? kLayerLocked : 0u);
-}
-
-uint16_t LayerGetLineStyle(DrawingStruct* drawing, uint16_t id) {
-    const Layer* layer = FindLayer(drawing, id);
-    return layer ? layer->lineStyle : kNoId;
-}
-
-int LayerSet(DrawingStruct* drawing, uint16_t id, uint32_t color, uint32_t flags, uint16_t lineStyle) {
-    Layer* layer = FindLayer(drawing, id);
-    if (!layer || !IsPlainColor(color)) return 0;
-    layer->color = color;
-    layer->lineStyle = lineStyle;
-    layer->off = flags & kLayerOff;
-    layer->frozen = flags & kLayerFrozen;
-    layer->locked = flags & kLayerLocked;
-    return 1;
-}

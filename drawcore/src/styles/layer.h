@@ -23,7 +23,7 @@ public:
 // The first entry is "0": in a block it stands for the layer of the insertion.
 class LayerTable : public TableOf<Layer> {
 public:
-    explicit LayerTable(Drawing* owner);
+    explicit LayerTable(DrawingStruct* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };
 

@@ -1,15 +1,9 @@
-// The entries of the table, and the calls of the host.
+// The entries of the table.
 #include "drawcore/src/styles/line_style.h"
-
-#include <algorithm>
-#include <cmath>
-
-#include "drawcore/include/drawcore/linestyle.h"
-#include "orlo/host/style.h"
 
 namespace drawcore {
 
-LineStyleTable::LineStyleTable(Drawing* owner) : TableOf(owner) {
+LineStyleTable::LineStyleTable(DrawingStruct* owner) : TableOf(owner) {
     Add(std::make_unique<LineStyle>("Continuous", "Solid line", std::vector<double>{}));
 }
 
@@ -18,41 +12,4 @@ std::unique_ptr<TableEntry> LineStyleTable::MakeEntry(std::string_view name, voi
     return std::make_unique<LineStyle>(name, description ? description : "", std::vector<double>{});
 }
 
-namespace {
-
-constexpr int kShownItems = 8; // what a caller's buffer takes
-constexpr int kMostItems = 64;
-
-const LineStyle* FindStyle(TableStruct* table, uint16_t id) {
-    const auto* styles = dynamic_cast<LineStyleTable*>(Table::Find(table));
-    return styles ? styles->At(id) : nullptr;
-}
-
-int ShownItems(const LineStyle* style) {
-    return style ? std::min(static_cast<int>(style->pattern.size()), kShownItems) : 0;
-}
-
-} // namespace
-
 } // namespace drawcore
-
-using namespace drawcore;
-
-int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
-    return ShownItems(FindStyle(table, id));
-}
-
-int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
-    const LineStyle* style = FindStyle(table, id);
-    if (!style || !pattern) return 0;
-    std::copy_n(style->pattern.begin(), ShownItems(style), pattern);
-    return 1;
-}
-
-uint16_t LineStyleAdd(TableStruct* table, const char* name, const char* description, const double* pattern, int count) {
-    auto* styles = dynamic_cast<LineStyleTable*>(Table::Find(table));
-    if (!styles || !name || count < 0 || count > kMostItems || (count && !pattern)) return kNoId;
-    std::vector<double> items(pattern, pattern + count);
-    if (!std::all_of(items.begin(), items.end(), [](double item) { return std::isfinite(item); })) return kNoId;
-    return styles->Add(std::make_unique<LineStyle>(name, description ? description : "", std::move(items)));
-}

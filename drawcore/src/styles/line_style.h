@@ -20,7 +20,7 @@ public:
 // The first entry is "Continuous", a solid line.
 class LineStyleTable : public TableOf<LineStyle> {
 public:
-    explicit LineStyleTable(Drawing* owner);
+    explicit LineStyleTable(DrawingStruct* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "drawcore/src/database/live.h"
+#include "drawcore/src/tables/live.h"
 
 namespace drawcore {
 
@@ -26,7 +26,7 @@ private:
 
 TableEntry::~TableEntry() = default;
 
-Table::Table(Drawing* owner) : owner_(owner) {
+Table::Table(DrawingStruct* owner) : owner_(owner) {
     Live<TableStruct>::Enter(this);
 }
 
@@ -49,7 +49,7 @@ bool Table::Takes(std::string_view name) const {
 Id Table::Add(std::unique_ptr<TableEntry> entry) {
     if (!entry || !Takes(entry->name)) return kNoId;
     const Id id = FreeId();
-    ids_.emplace(FoldName(entry->name), id);
+    ids_.emplace(dxf::FoldName(entry->name), id);
     if (id > entries_.size()) entries_.resize(id);
     entries_[id - 1] = std::move(entry);
     return id;
@@ -58,13 +58,13 @@ Id Table::Add(std::unique_ptr<TableEntry> entry) {
 bool Table::Remove(Id id) {
     const TableEntry* entry = At(id);
     if (!entry) return false;
-    ids_.erase(FoldName(entry->name));
+    ids_.erase(dxf::FoldName(entry->name));
     entries_[id - 1].reset();
     return true;
 }
 
 Id Table::IdOf(std::string_view name) const {
-    const auto found = ids_.find(FoldName(name));
+    const auto found = ids_.find(dxf::FoldName(name));
     return found == ids_.end() ? kNoId : found->second;
 }
 

@@ -14,13 +14,13 @@
 #include <variant>
 #include <vector>
 
-#include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/dxf/fold_name.h"
 
+struct DrawingStruct;
 struct TableStruct {};
 
 namespace drawcore {
 
-class Drawing;
 using Id = uint16_t;
 
 constexpr Id kNoId = 0;
@@ -39,7 +39,7 @@ public:
 
 class Table : public TableStruct {
 public:
-    explicit Table(Drawing* owner);
+    explicit Table(DrawingStruct* owner);
     virtual ~Table();
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
@@ -47,7 +47,7 @@ public:
     // The table behind a pointer from outside; null for null and for a table that is gone.
     static Table* Find(TableStruct* table);
 
-    Drawing* Owner() const { return owner_; }
+    DrawingStruct* Owner() const { return owner_; }
 
     // Makes an entry of this table's kind from a name and the kind's data, for hosts that know only names and data;
     // null if the data is not of the kind.
@@ -77,7 +77,7 @@ private:
     Id NextFrom(size_t index) const;
     Id FreeId() const;
 
-    Drawing* const owner_;
+    DrawingStruct* const owner_;
     std::vector<std::unique_ptr<TableEntry>> entries_; // under id - 1; null where one was removed
     std::unordered_map<std::string, Id> ids_;          // by folded name
     std::unordered_map<uint16_t, Value> variables_;

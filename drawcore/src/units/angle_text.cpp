@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/units/calculation.h"
 
 namespace drawcore {
@@ -24,7 +24,7 @@ constexpr struct {
 
 // 0 if there is no such unit.
 double FindUnit(std::string_view name) {
-    const std::string folded = FoldName(name);
+    const std::string folded = dxf::FoldName(name);
     for (const auto& unit : kUnits)
         if (folded == unit.name) return unit.radians;
     return 0;
@@ -75,7 +75,7 @@ std::string_view WithoutBlanks(std::string_view text) {
 
 // "N 45d E": from north or south so far to the east or west. "N", "E", "S", "W" alone.
 bool ReadBearing(std::string_view whole, double bare, double& radians) {
-    const std::string text = FoldName(WithoutBlanks(whole));
+    const std::string text = dxf::FoldName(WithoutBlanks(whole));
     constexpr std::string_view kDirections = "enws";
     if (text.size() == 1 && kDirections.find(text[0]) != kDirections.npos) {
         radians = kRight * static_cast<double>(kDirections.find(text[0]));

@@ -1,7 +1,7 @@
 // The table of units.
 #include "drawcore/src/units/length_unit.h"
 
-#include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/dxf/fold_name.h"
 #include "orlo/host/words.h"
 
 namespace drawcore {
@@ -35,7 +35,7 @@ constexpr const char* kDxfUnits[] = {nullptr, "in",  "ft", "mi",    "mm", "cm", 
 } // namespace
 
 const LengthUnit* FindLengthUnit(std::string_view name) {
-    std::string folded = FoldName(name);
+    std::string folded = dxf::FoldName(name);
     for (const auto& row : kSpellings)
         if (folded == row.spelling) folded = row.name;
     for (const LengthUnit& unit : kUnits)

@@ -1,62 +1,33 @@
-// The variables of the units table, checked as they are read.
+// Units by the variables of a header.
 #include "drawcore/src/units/unit_settings.h"
 
 #include <algorithm>
-
-#include "drawcore/include/drawcore/units.h"
-#include "orlo/host/units.h"
 
 namespace drawcore {
 
 namespace {
 
-constexpr int kMostDigits = 12;
-
-int Whole(const Table& units, uint16_t variable, int otherwise) {
-    const int* value = units.Variable<int>(variable);
-    return value ? *value : otherwise;
-}
-
-// One of the enumeration's values from first to last, whose number the variable holds.
-template <class System>
-System SystemOf(const Table& units, uint16_t variable, System first, System last, System otherwise) {
-    const auto number = static_cast<System>(Whole(units, variable, static_cast<int>(otherwise)));
-    return number >= first && number <= last ? number : otherwise;
+// Engineering and architectural lengths belong to a drawing in inches, unless it says otherwise.
+bool CountsInFeet(const dxf::Header& header) {
+    return header.lengthFormat == 3 || header.lengthFormat == 4;
 }
 
 } // namespace
 
-void UnitSettings::Store(Table& units) const {
-    units.SetVariable(kUnitDrawing, drawingUnit);
-    units.SetVariable(kUnitMillimeter, std::string("mm"));
-    units.SetVariable(kUnitTextSize, textSizeUnit);
-    units.SetVariable(kUnitPenWidth, penWidthUnit);
-    units.SetVariable(kUnitLinearSystem, static_cast<int>(lengthSystem));
-    units.SetVariable(kUnitLinearDigits, lengthDigits);
-    units.SetVariable(kUnitAngularSystem, static_cast<int>(angleSystem));
-    units.SetVariable(kUnitAngularDigits, angleDigits);
-}
-
-const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
-    const std::string* name = units.Variable<std::string>(variable);
-    return name ? FindLengthUnit(*name) : nullptr;
-}
-
-LengthFormat LengthFormatOf(const Table& units) {
-    const UnitSettings fresh;
-    LengthFormat format;
-    format.system =
-        SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
-    format.digits = std::clamp(Whole(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
-    return format;
-}
-
-AngleFormat AngleFormatOf(const Table& units) {
-    const UnitSettings fresh;
-    AngleFormat format;
-    format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
-    format.digits = std::clamp(Whole(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
-    return format;
+UnitSettings UnitsOf(const dxf::Header& header) {
+    const LengthUnit* unit = LengthUnitOfDxf(header.unit);
+    UnitSettings settings;
+    if (unit)
+        settings.drawingUnit = unit->name;
+    else if (header.metric == 0 || CountsInFeet(header))
+        settings.drawingUnit = "in";
+    const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
+    if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
+    settings.lengthSystem = static_cast<LengthSystem>(header.lengthFormat);
+    settings.lengthDigits = std::clamp(header.lengthDigits, 0, 8);
+    settings.angleSystem = static_cast<AngleSystem>(header.angleFormat);
+    settings.angleDigits = std::clamp(header.angleDigits, 0, 8);
+    return settings;
 }
 
 } // namespace drawcore

@@ -1,12 +1,11 @@
-// The unit settings of a drawing as its units table holds them.
+// The units of a drawing, and those that the header of a DXF drawing declares.
 #pragma once
 
 #include <string>
 
-#include "drawcore/src/tables/table.h"
+#include "drawcore/src/dxf/document.h"
 #include "drawcore/src/units/angle_text.h"
 #include "drawcore/src/units/length_text.h"
-#include "drawcore/src/units/length_unit.h"
 
 namespace drawcore {
 
@@ -18,15 +17,8 @@ struct UnitSettings {
     int lengthDigits = 4;
     AngleSystem angleSystem = AngleSystem::Degrees;
     int angleDigits = 4;
-
-    void Store(Table& units) const;
 };
 
-// The unit that a string variable names; null if there isn't one, or none of that name.
-const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable);
-
-// How lengths and angles are written; what a variable doesn't say, or says wrongly, is as in new drawings.
-LengthFormat LengthFormatOf(const Table& units);
-AngleFormat AngleFormatOf(const Table& units);
+UnitSettings UnitsOf(const dxf::Header& header);
 
 } // namespace drawcore

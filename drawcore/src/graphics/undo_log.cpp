@@ -1,11 +1,10 @@
 // Noting what a step changes, and putting it back.
-#include "drawcore/src/database/undo.h"
+#include "drawcore/src/graphics/undo_log.h"
 
 #include <algorithm>
 #include <functional>
 #include <utility>
 
-#include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/graphic.h"
 
 namespace drawcore {
@@ -220,66 +219,3 @@ void UndoLog::Remove(Graphic& graphic) {
 }
 
 } // namespace drawcore
-
-using drawcore::Drawing;
-using drawcore::UndoLog;
-
-namespace {
-
-// What the log answers; 0 if there is no such drawing.
-template <class Answer>
-Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)()) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? (found->Undo().*question)() : Answer{};
-}
-template <class Answer>
-Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)() const) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? (found->Undo().*question)() : Answer{};
-}
-
-} // namespace
-
-int DrawingBeginUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Begin);
-}
-
-int DrawingEndUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::End);
-}
-
-int DrawingCancelUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Cancel);
-}
-
-int DrawingUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Undo);
-}
-
-int DrawingRedo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Redo);
-}
-
-int DrawingCountUndo(DrawingStruct* drawing) {
-    return static_cast<int>(Ask(drawing, &UndoLog::Steps));
-}
-
-int DrawingCountRedo(DrawingStruct* drawing) {
-    return static_cast<int>(Ask(drawing, &UndoLog::UndoneSteps));
-}
-
-int DrawingCountForgotten(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Dropped);
-}
-
-uint32_t DrawingGetUndoMark(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Mark);
-}
-
-void DrawingSetUndoRoom(DrawingStruct* drawing, size_t bytes) {
-    if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetRoom(bytes);
-}
-
-void DrawingSetChangeListener(DrawingStruct* drawing, const ChangeListener* listener) {
-    if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetListener(listener ? *listener : ChangeListener{});
-}

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "drawcore/src/database/census.h"
+#include "drawcore/src/graphics/census.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/vertex.h"

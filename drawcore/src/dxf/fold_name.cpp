@@ -1,7 +1,7 @@
 // Folding names.
-#include "drawcore/src/tables/fold_name.h"
+#include "drawcore/src/dxf/fold_name.h"
 
-namespace drawcore {
+namespace dxf {
 
 std::string FoldName(std::string_view name) {
     std::string folded(name);
@@ -10,4 +10,4 @@ std::string FoldName(std::string_view name) {
     return folded;
 }
 
-} // namespace drawcore
+} // namespace dxf

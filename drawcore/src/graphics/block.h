@@ -8,6 +8,7 @@ struct GraphicStruct;
 
 namespace drawcore {
 
+class DrawingContents;
 class Graphic;
 
 class Block : public TableEntry {
@@ -25,7 +26,8 @@ private:
 
 class BlockTable : public TableOf<Block> {
 public:
-    using TableOf::TableOf;
+    explicit BlockTable(DrawingContents* owner);
+    DrawingContents* Owner() const;
     // data is a GraphicStruct* without an owner, which the block takes.
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
     bool Remove(Id id) override;

@@ -4,9 +4,9 @@
 
 #include "drawcore/include/drawcore/units.h"
 #include "drawcore/src/database/drawing.h"
+#include "drawcore/src/tables/unit_variables.h"
 #include "drawcore/src/units/length_text.h"
 #include "drawcore/src/units/number_text.h"
-#include "drawcore/src/units/unit_settings.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
 

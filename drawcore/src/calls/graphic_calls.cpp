@@ -13,12 +13,7 @@
 #include "orlo/host/vertex.h"
 #include "orlo/host/viewport.h"
 
-namespace drawcore {
-
-bool PassesFilter(const Graphic& graphic, uint32_t filter) {
-    const uint32_t kinds = filter & kFilterKinds;
-    return !kinds || (kinds & static_cast<uint32_t>(graphic.GetKind()));
-}
+using namespace drawcore;
 
 namespace {
 
@@ -81,10 +76,6 @@ void ChangeBrush(GraphicStruct* record, Change change) {
 }
 
 } // namespace
-
-} // namespace drawcore
-
-using namespace drawcore;
 
 GraphicStruct* GraphicNewEx(int type, int, int) {
     try {

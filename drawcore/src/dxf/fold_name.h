@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace drawcore {
+namespace dxf {
 
 // The name as look-ups compare it: A to Z as a to z.
 std::string FoldName(std::string_view name);
 
-} // namespace drawcore
+} // namespace dxf

@@ -3,10 +3,10 @@
 #include <new>
 
 #include "drawcore/include/drawcore/dxf.h"
+#include "drawcore/src/calls/progress_report.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/import/dxf_import.h"
-#include "drawcore/src/import/progress_report.h"
 
 using namespace drawcore;
 

@@ -5,31 +5,33 @@
 
 #include "drawcore/include/drawcore/units.h"
 #include "drawcore/include/drawcore/view.h"
+#include "drawcore/src/calls/matrix_record.h"
 #include "drawcore/src/database/application.h"
+#include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/selection.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/paint/gdi_painter.h"
 #include "drawcore/src/paint/hit_test.h"
 #include "drawcore/src/paint/viewport.h"
-#include "drawcore/src/units/unit_settings.h"
+#include "drawcore/src/tables/unit_variables.h"
 #include "orlo/host/viewport.h"
 
 namespace drawcore {
 
 namespace {
 
-const Drawing* DrawingFor(const Viewport& viewport, const Graphic& graphic) {
-    const Drawing* drawing = Drawing::Find(viewport.drawing);
+const DrawingContents* DrawingFor(const Viewport& viewport, const Graphic& graphic) {
+    const DrawingContents* drawing = DrawingContents::Find(viewport.drawing);
     return drawing ? drawing : graphic.GetDrawing();
 }
 
 // Dash patterns grow with the drawing's scale only in the drawing itself; a sample or a preview is drawn by itself.
-double LineScale(const Graphic& graphic, const Drawing* drawing) {
+double LineScale(const Graphic& graphic, const DrawingContents* drawing) {
     return drawing && &graphic.Top() == &drawing->Root() ? drawing->lineScale : 1.0;
 }
 
 // A preview shows pens as on paper at full size, however its extents were fitted: pixels of one drawing unit.
-double FullSizeUnit(HDC dc, const Drawing* drawing) {
+double FullSizeUnit(HDC dc, const DrawingContents* drawing) {
     const Table* units = drawing ? drawing->Units() : nullptr;
     const LengthUnit* unit = units ? UnitOfVariable(*units, kUnitDrawing) : nullptr;
     return (unit ? unit->millimeters : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetersPerInch;
@@ -64,7 +66,7 @@ private:
 };
 
 // A layer that is hidden would hide the preview.
-Id PreviewLayerOf(const Drawing* drawing) {
+Id PreviewLayerOf(const DrawingContents* drawing) {
     const Id id = Application::Get().PreviewLayer();
     const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
     const Layer* layer = layers ? layers->At(id) : nullptr;
@@ -80,7 +82,7 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
     if (!viewport.dc) return true;
     const PixelDC device(viewport);
     const RECT& rect = device.Rect();
-    const Drawing* drawing = DrawingFor(viewport, graphic);
+    const DrawingContents* drawing = DrawingFor(viewport, graphic);
     if (preview) settings.widestPen = std::min(rect.right - rect.left, rect.bottom - rect.top) / 8.0;
     GdiPainter painter(viewport.dc, rect, settings);
     TraceTools tools(drawing);
@@ -183,7 +185,7 @@ void ViewportShowLineWeights(ViewportStruct* viewport, int show) {
 void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview, int) {
     if (!graphic || !viewport) return;
     Viewport& view = *Viewport::From(viewport);
-    Paint(*Graphic::From(graphic), view, Matrix::FromRecord(matrix), SettingsOf(view, preview != 0), preview != 0);
+    Paint(*Graphic::From(graphic), view, MatrixFromRecord(matrix), SettingsOf(view, preview != 0), preview != 0);
     graphic->dwFlags &= ~kFlagDirty;
 }
 

@@ -4,22 +4,16 @@
 #include <cstring>
 #include <new>
 
-#include "drawcore/src/geometry/matrix.h"
+#include "drawcore/src/calls/matrix_record.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/matrix.h"
 
-namespace drawcore {
-
-Matrix Matrix::FromRecord(const MatrixStruct* record) {
-    Matrix matrix;
-    if (record) std::memcpy(matrix.at, record->at, sizeof matrix.at);
-    return matrix;
-}
+using namespace drawcore;
 
 namespace {
 
 MatrixStruct* NewAfter(const MatrixStruct* given, const Matrix& step) {
-    const Matrix product = Matrix::FromRecord(given) * step;
+    const Matrix product = MatrixFromRecord(given) * step;
     auto* made = new (std::nothrow) MatrixStruct;
     if (made) std::memcpy(made->at, product.at, sizeof product.at);
     return made;
@@ -30,10 +24,6 @@ Vec3 VectorOf(const VertexStruct* vertex, const Vec3& without) {
 }
 
 } // namespace
-
-} // namespace drawcore
-
-using namespace drawcore;
 
 MatrixStruct* MatrixScale(const MatrixStruct* given, const VertexStruct* factors, int) {
     return NewAfter(given, Matrix::Scaling(VectorOf(factors, {1, 1, 1})));

@@ -1,7 +1,7 @@
 // The entries of the table, and insertions whose measures a change of their block makes out of date.
-#include "drawcore/src/styles/block.h"
+#include "drawcore/src/graphics/block.h"
 
-#include "drawcore/src/database/drawing.h"
+#include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
@@ -16,6 +16,12 @@ Block::~Block() = default;
 
 void* Block::Data() {
     return static_cast<GraphicStruct*>(content_.get());
+}
+
+BlockTable::BlockTable(DrawingContents* owner) : TableOf(owner) {}
+
+DrawingContents* BlockTable::Owner() const {
+    return static_cast<DrawingContents*>(Table::Owner());
 }
 
 std::unique_ptr<TableEntry> BlockTable::MakeEntry(std::string_view name, void* data) {

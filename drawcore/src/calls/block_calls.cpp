@@ -1,6 +1,7 @@
 // The host's calls on blocks and insertions.
 
 #include "drawcore/include/drawcore/table.h"
+#include "drawcore/src/calls/matrix_record.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "orlo/host/block.h"
@@ -45,7 +46,7 @@ int InsertSetData(GraphicStruct* graphic, TableStruct* blocks, uint16_t id, cons
     if (!insert || !table || !table->At(id)) return 0;
     insert->ChangingShape();
     insert->block = id;
-    insert->Place(dxf::AxisEndsOf(Matrix::FromRecord(matrix)));
+    insert->Place(dxf::AxisEndsOf(MatrixFromRecord(matrix)));
     if (!insert->GetDrawing()) insert->Attach(table->Owner());
     insert->ChangedShape();
     return 1;

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "drawcore/include/drawcore/census.h"
-#include "drawcore/src/database/census.h"
+#include "drawcore/src/graphics/census.h"
 
 using drawcore::Census;
 

@@ -1,0 +1,62 @@
+// The variables of the units table, checked as they are read.
+#include "drawcore/src/tables/unit_variables.h"
+
+#include <algorithm>
+
+#include "drawcore/include/drawcore/units.h"
+#include "orlo/host/units.h"
+
+namespace drawcore {
+
+namespace {
+
+constexpr int kMostDigits = 12;
+
+int Whole(const Table& units, uint16_t variable, int otherwise) {
+    const int* value = units.Variable<int>(variable);
+    return value ? *value : otherwise;
+}
+
+// One of the enumeration's values from first to last, whose number the variable holds.
+template <class System>
+System SystemOf(const Table& units, uint16_t variable, System first, System last, System otherwise) {
+    const auto number = static_cast<System>(Whole(units, variable, static_cast<int>(otherwise)));
+    return number >= first && number <= last ? number : otherwise;
+}
+
+} // namespace
+
+void StoreUnits(const UnitSettings& settings, Table& units) {
+    units.SetVariable(kUnitDrawing, settings.drawingUnit);
+    units.SetVariable(kUnitMillimeter, std::string("mm"));
+    units.SetVariable(kUnitTextSize, settings.textSizeUnit);
+    units.SetVariable(kUnitPenWidth, settings.penWidthUnit);
+    units.SetVariable(kUnitLinearSystem, static_cast<int>(settings.lengthSystem));
+    units.SetVariable(kUnitLinearDigits, settings.lengthDigits);
+    units.SetVariable(kUnitAngularSystem, static_cast<int>(settings.angleSystem));
+    units.SetVariable(kUnitAngularDigits, settings.angleDigits);
+}
+
+const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
+    const std::string* name = units.Variable<std::string>(variable);
+    return name ? FindLengthUnit(*name) : nullptr;
+}
+
+LengthFormat LengthFormatOf(const Table& units) {
+    const UnitSettings fresh;
+    LengthFormat format;
+    format.system =
+        SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
+    format.digits = std::clamp(Whole(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
+    return format;
+}
+
+AngleFormat AngleFormatOf(const Table& units) {
+    const UnitSettings fresh;
+    AngleFormat format;
+    format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
+    format.digits = std::clamp(Whole(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
+    return format;
+}
+
+} // namespace drawcore
