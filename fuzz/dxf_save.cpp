@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/save/drawing_patch.h"
-#include "drawcore/src/save/save_error.h"
 #include "drawcore/src/save/structure_patch.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "drawcore/src/document/contents.h"
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
 #include "tests/dxf/test_files.h"
@@ -67,7 +68,7 @@ TEST_P(Manifest, IsMet) {
         return;
     }
     EXPECT_NE(expected["expect"], "refuse");
-    const json found = Describe(document);
+    const json found = Describe(dxf::ContentsOf(document));
     for (const char* key : {"acadver", "entities", "blocks", "layers"})
         EXPECT_EQ(found[key], expected[key]) << key;
     ExpectLineTypes(found["linetypes"], expected["linetypes"]);

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/save/drawing_patch.h"
-#include "drawcore/src/save/save_error.h"
 #include "orlo/host/words.h"
 #include "tests/dxf/drawing_text.h"
 

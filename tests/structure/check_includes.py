@@ -22,11 +22,11 @@ def downward(area, modules, also=""):
 # What each module may include of this tree.
 MAY = {
     **downward("orlo", "c entry pages exchange frame controls samples binding win host", "afx"),
-    **downward("drawcore", "calls export import save paint database graphics styles tables units dxf geometry",
+    **downward("drawcore", "calls export import document save paint database graphics styles tables units dxf geometry",
                "drawcore/include orlo/host"),
     **downward("demo", "program tour viewer automation", f"afx drawcore/include {PUBLIC}"),
     "drawcore/include": {"drawcore/include", "orlo/host"},
-    "tools/dxfprops": {"tools/dxfprops", "drawcore/include", "drawcore/save", "drawcore/units", "drawcore/dxf", "files", PUBLIC},
+    "tools/dxfprops": {"tools/dxfprops", "drawcore/include", "files", PUBLIC},
     "tools/hostcheck": {"tools/hostcheck", PUBLIC},
     "tools/suminfo": {"tools/suminfo", "files", PUBLIC},
     "docs": {"docs", "afx", "drawcore/include", PUBLIC},
@@ -44,14 +44,15 @@ MAY["orlo/c"] |= {"orlo/propset", "orlo/summary", "orlo/include", "files"}
 MAY["orlo/include"] = {name for name in MAY if name.startswith("orlo/")}
 for module in "entry pages exchange frame controls wizard".split():
     MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
-MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry"}  # also built natively, for dxfprops
+MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry", "drawcore/include", "orlo/host"}  # without windows
+MAY["drawcore/document"] = {"drawcore/document", "drawcore/units", *MAY["drawcore/save"]}
 MAY["drawcore/calls"].add("files")
 
 # Additional headers allowed per module: declarations of the host contract without windows.
 MAY_ALSO = {"orlo/propset": {"orlo/host/memory.h"}, "orlo/summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
 
 # Modules that also compile without windows, and headers that would need them.
-WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding", "drawcore/save", "drawcore/units", "drawcore/geometry"]
+WITHOUT_WINDOWS = ["orlo/propset", "orlo/binding", "drawcore/document", "drawcore/save", "drawcore/units", "drawcore/geometry"]
 WINDOW_HEADERS = re.compile(r"windows\.h|win(user|gdi|base)\.h|afx(wnd|win|ext|dlgs|cmn|ctl|gdi|app|msg|dialog)\.h")
 
 SEARCHED = ["", "orlo/include", "drawcore/include", "afx/include"]  # folders that an include line may start from

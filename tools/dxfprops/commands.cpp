@@ -3,59 +3,19 @@
 
 #include <map>
 
-#include "drawcore/src/dxf/reader.h"
-#include "drawcore/src/save/drawing_patch.h"
-#include "drawcore/src/save/save_error.h"
 namespace dxfprops {
-
-namespace {
-
-// Sorts the values in the order in which they are set.
-std::vector<Condition> Ordered(const std::vector<Condition>& values) {
-    std::vector<Condition> ordered;
-    for (const std::string& name : PropertyTexts::Names())
-        for (const Condition& value : values)
-            if (PropertyTexts::NameOf(value.name) == name) ordered.push_back({name, value.value});
-    return ordered;
-}
-
-// Verifies that the new bytes contain the requested attributes of each entity.
-void Check(const DrawingFile& before, const dxf::Document& known, const std::map<uint32_t, dxf::Look>& wanted,
-           const std::string& bytes) {
-    const dxf::Document after = dxf::Read(bytes, {});
-    const auto differ = [](const std::string& what) {
-        throw dxf::SaveError("the changed drawing would not hold " + what);
-    };
-    const PropertyTexts ones(known), others(after);
-    const auto check = [&](const Found& found, const dxf::Entity& b) {
-        const auto change = wanted.find(found.entity->offset);
-        const dxf::Look one = change != wanted.end() ? change->second : before.LookOf(*found.entity);
-        const dxf::Look other = dxf::LookOf(after, b);
-        if (SameLook(known, one, after, other)) return;
-        for (const std::string& name : PropertyTexts::Names())
-            if (ones.Get(name, one) != others.Get(name, other)) differ(name + " of " + before.NameOf(found).Text());
-        differ("the look of " + before.NameOf(found).Text());
-    };
-    const std::vector<Found> a = AllOf(before.Document()), b = AllOf(after);
-    if (a.size() != b.size()) differ("all entities");
-    for (size_t i = 0; i < a.size(); ++i)
-        check(a[i], *b[i].entity);
-}
-
-} // namespace
 
 Listing ListProperties(const std::string& file, const std::vector<Condition>& where,
                        const std::vector<std::string>& show) {
     const DrawingFile drawing(file);
-    const std::vector<std::string> names = show.empty() ? PropertyTexts::Names() : show;
+    const std::vector<std::string> names = show.empty() ? DrawingFile::PropertyNames() : show;
     Listing listing;
-    for (const Found& found : drawing.Select(where)) {
+    for (const dxf::EntityRef& found : drawing.Select(where)) {
         EntityProperties& entity = listing.entities.emplace_back();
         entity.name = drawing.NameOf(found);
-        const dxf::Look look = drawing.LookOf(*found.entity);
         for (const std::string& name : names)
-            if (PropertyTexts::Has(*found.entity, name))
-                entity.values.emplace_back(*PropertyTexts::NameOf(name), drawing.Texts().Get(name, look));
+            if (DrawingFile::Has(found, name))
+                entity.values.emplace_back(*DrawingFile::FindPropertyName(name), drawing.Get(found, name));
     }
     if (listing.entities.empty()) listing.kinds = drawing.KindsAround(where);
     return listing;
@@ -64,40 +24,24 @@ Listing ListProperties(const std::string& file, const std::vector<Condition>& wh
 SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
                         const std::vector<Condition>& values, const std::string& output) {
     const DrawingFile drawing(file);
-    const std::vector<Condition> ordered = Ordered(values);
-    dxf::Look tried;
-    for (const Condition& value : ordered)
-        drawing.Texts().Set(value.name, value.value, tried);
-    dxf::DrawingPatch patch(drawing.Text(), drawing.Document().Tables());
-    std::map<uint32_t, dxf::Look> wanted;
+    dxf::DocumentWriter::Values wanted;
+    for (const Condition& value : values)
+        wanted.emplace_back(value.name, value.value);
+    dxf::DocumentWriter writer(drawing, wanted);
     SetResult result;
-    for (const Found& found : drawing.Select(where)) {
+    for (const dxf::EntityRef& entity : drawing.Select(where)) {
         ++result.matched;
-        const dxf::Look was = drawing.LookOf(*found.entity);
-        dxf::Look look = was;
-        for (const Condition& value : ordered)
-            if (PropertyTexts::Has(*found.entity, value.name)) drawing.Texts().Set(value.name, value.value, look);
-        if (look == was) continue;
-        try {
-            patch.Change(found.entity->offset, look);
-        } catch (const dxf::SaveError& error) {
-            throw dxf::SaveError(drawing.NameOf(found).Text() + ": " + error.what());
-        }
-        wanted.emplace(found.entity->offset, std::move(look));
+        result.changed += writer.Change(entity);
     }
-    result.changed = wanted.size();
-    for (const auto& [property, count] : patch.OnlyExtended())
-        result.notes.push_back(dxf::OnlyExtendedText(property, count));
+    result.notes = writer.Notes();
     if (result.matched == 0) result.kinds = drawing.KindsAround(where);
-    std::string bytes = drawing.Bytes().substr(0, drawing.Bytes().size() - drawing.Text().size()) + patch.Finish();
-    Check(drawing, patch.Known(), wanted, bytes);
-    drawing.Write(bytes, output);
+    drawing.Write(writer.Finish(), output);
     return result;
 }
 
 std::vector<Difference> FindDifferences(const std::string& before, const std::string& after) {
     const DrawingFile a(before), b(after);
-    const std::vector<Found> ones = a.All(), others = b.All();
+    const std::vector<dxf::EntityRef> ones = a.Entities(), others = b.Entities();
     std::map<std::string, size_t> byHandle;
     for (size_t i = 0; i < others.size(); ++i)
         if (const std::string handle = b.NameOf(others[i]).handle; !handle.empty()) byHandle.emplace(handle, i);
@@ -112,14 +56,12 @@ std::vector<Difference> FindDifferences(const std::string& before, const std::st
             continue;
         }
         met[at] = true;
-        const dxf::Look one = a.LookOf(*ones[i].entity), other = b.LookOf(*others[at].entity);
-        if (SameLook(a.Document(), one, b.Document(), other)) continue;
+        if (a.IsLike(ones[i], b, others[at])) continue;
         Difference& difference = differences.emplace_back();
         difference.name = name;
-        for (const std::string& property : PropertyTexts::Names()) {
-            if (!PropertyTexts::Has(*ones[i].entity, property)) continue;
-            const std::string was = a.Texts().GetWithVariety(property, one),
-                              is = b.Texts().GetWithVariety(property, other);
+        for (const std::string& property : DrawingFile::PropertyNames()) {
+            if (!DrawingFile::Has(ones[i], property)) continue;
+            const std::string was = a.GetWithVariety(ones[i], property), is = b.GetWithVariety(others[at], property);
             if (was != is) difference.values.push_back({property, was, is});
         }
     }

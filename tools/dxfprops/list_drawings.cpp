@@ -2,23 +2,19 @@
 
 #include "tools/dxfprops/list_drawings.h"
 
-#include <algorithm>
 #include <filesystem>
 
 #include <nlohmann/json.hpp>
 
-#include "drawcore/src/dxf/extents.h"
-#include "drawcore/src/dxf/reader.h"
 #include "tools/dxfprops/output.h"
 
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Layers(const dxf::Document& drawing) {
+Json Layers(const dxf::Contents& drawing) {
     Json list = Json::array();
-    for (const dxf::Layer& layer : drawing.layers) {
-        if (!layer.declared) continue;
+    for (const dxf::Contents::Layer& layer : drawing.layers) {
         Json& entry = list.emplace_back(
             Json{{"name", layer.name}, {"color", layer.color}, {"flags", layer.flags}, {"linetype", layer.lineType}});
         if (layer.trueColor >= 0) entry["true_color"] = layer.trueColor;
@@ -26,36 +22,36 @@ Json Layers(const dxf::Document& drawing) {
     return list;
 }
 
-Json LineTypes(const dxf::Document& drawing) {
+Json LineTypes(const dxf::Contents& drawing) {
     Json list = Json::array();
-    for (const dxf::LineType& type : drawing.lineTypes)
-        if (type.declared)
-            list.push_back({{"name", type.name}, {"pattern_length", type.patternLength}, {"dashes", type.dashes}});
+    for (const dxf::Contents::LineType& type : drawing.lineTypes)
+        list.push_back({{"name", type.name}, {"pattern_length", type.patternLength}, {"dashes", type.dashes}});
     return list;
 }
 
-Json Corners(const drawcore::Extents& box) {
-    if (box.IsEmpty()) return nullptr;
-    return {{box.low.x, box.low.y}, {box.high.x, box.high.y}};
+Json Corners(const std::optional<std::array<double, 4>>& box) {
+    if (!box) return nullptr;
+    return {{(*box)[0], (*box)[1]}, {(*box)[2], (*box)[3]}};
 }
 
 } // namespace
 
-Json Describe(const dxf::Document& drawing) {
-    const auto blocks = std::count_if(drawing.blocks.begin(), drawing.blocks.end(), [](auto& b) { return b.declared; });
-    const std::string& version = drawing.header.version;
-    Json object{{"acadver", version.empty() ? Json() : Json(version)},
+Json Describe(const dxf::Contents& drawing) {
+    Json object{{"acadver", drawing.version.empty() ? Json() : Json(drawing.version)},
                 {"entities", drawing.entityCounts},
-                {"blocks", blocks},
+                {"blocks", drawing.blocks},
                 {"layers", Layers(drawing)},
                 {"linetypes", LineTypes(drawing)},
-                {"extents", Corners(dxf::ExtentsOf(drawing))}};
+                {"extents", Corners(drawing.box)}};
     for (const dxf::Finding& finding : drawing.findings)
         object["findings"].push_back({{"line", finding.line ? Json(finding.line) : Json()}, {"text", finding.text}});
     return object;
 }
 
+Json DescribeFile(const std::string& file) {
+    return Describe(dxf::DocumentReader(dxf::ReadBytes(std::filesystem::u8path(file))).GetContents());
+}
+
 bool ListDrawings(const std::vector<std::string>& files, std::ostream& out) {
-    return dxfprops::PrintArray(
-        files, [](const std::string& file) { return Describe(dxf::ReadFile(std::filesystem::u8path(file), {})); }, out);
+    return dxfprops::PrintArray(files, DescribeFile, out);
 }

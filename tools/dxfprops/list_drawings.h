@@ -7,11 +7,13 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "drawcore/src/dxf/document.h"
+#include "drawcore/dxf_document.h"
 
-// Returns the contents of a drawing: acadver, entities (type to count in the ENTITIES section), blocks, layers,
+// Returns what a drawing contains: acadver, entities (type to count in the ENTITIES section), blocks, layers,
 // linetypes, extents and, if something was omitted, findings.
-nlohmann::ordered_json Describe(const dxf::Document& drawing);
+nlohmann::ordered_json Describe(const dxf::Contents& drawing);
+// The same for the drawing in a file; the path is UTF-8. Throws ReadError.
+nlohmann::ordered_json DescribeFile(const std::string& file);
 
 // Writes an array with one object per file: file and the result of Describe, or file, error and line for one that
 // cannot be read. Paths and output are UTF-8. Returns false if any file could not be read.

@@ -70,7 +70,7 @@ int ResultOf(int result, const CommandLine& line, const Matches& matches) {
 
 std::string AllNames() {
     std::string names;
-    for (const std::string& name : PropertyTexts::Names())
+    for (const std::string& name : DrawingFile::PropertyNames())
         names += (names.empty() ? "" : ", ") + name;
     return names;
 }
@@ -78,7 +78,7 @@ std::string AllNames() {
 std::string Known(const std::string& name, bool alsoConditions) {
     for (const char* condition : {kKind, kHandle, kBlock})
         if (alsoConditions && CLI::detail::to_lower(name) == condition) return condition;
-    if (const auto known = PropertyTexts::NameOf(name)) return *known;
+    if (const auto known = DrawingFile::FindPropertyName(name)) return *known;
     throw CLI::ValidationError("'" + name + "' is none of " + (alsoConditions ? "kind, handle, block, " : "") +
                                AllNames());
 }
@@ -138,9 +138,9 @@ int Get(const CommandLine& line) {
 
 int Set(CommandLine& line) {
     std::vector<std::string> values;
-    for (std::string& word : line.rest) // files come first; an argument that starts with a property name and "=" is a
-                                        // value
-        (PropertyTexts::NameOf(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values : line.files)
+    for (std::string& word : line.rest) // files come first; NAME=VALUE with the name of a property is a value
+        (DrawingFile::FindPropertyName(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values
+                                                                                                      : line.files)
             .push_back(std::move(word));
     for (const std::string& file :
          line.files) // NAME=VALUE with an unknown name is an error, unless a file has that name

@@ -1,12 +1,10 @@
 // Formats results as lines and as JSON.
 #include "tools/dxfprops/output.h"
 
-#include <filesystem>
 #include <new>
 
 #include <nlohmann/json.hpp>
 
-#include "drawcore/src/dxf/reader.h"
 #include "tools/dxfprops/list_drawings.h"
 
 namespace dxfprops {
@@ -38,7 +36,7 @@ Json Named(const dxf::RecordName& name) {
 } // namespace
 
 void PrintSummary(const std::string& file, std::ostream& out) {
-    const auto drawing = Describe(dxf::ReadFile(std::filesystem::u8path(file), {}));
+    const auto drawing = DescribeFile(file);
     out << file << "\n  version   " << drawing["acadver"].dump() << "\n  blocks    " << drawing["blocks"]
         << "\n  layers    ";
     for (const auto& layer : drawing["layers"])

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "drawcore/include/drawcore/dxf.h"
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/calls/progress_report.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
@@ -19,7 +20,6 @@
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/import_tables.h"
 #include "drawcore/src/save/layer_use.h"
-#include "drawcore/src/save/save_error.h"
 #include "files/file_replacement.h"
 #include "files/open_file.h"
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/entities.h"
 
 namespace dxf {
@@ -77,12 +78,6 @@ struct Block {
     std::vector<Entity> entities;
     OwnData own;                 // of its BLOCK record
     uint32_t begin = 0, end = 0; // of its BLOCK and its ENDBLK record in the text of the file
-};
-
-// Something that was left out or mended; the drawing was opened nevertheless.
-struct Finding {
-    uint32_t line = 0; // of the file; 0: no particular line
-    std::string text;
 };
 
 struct Document {

@@ -11,25 +11,13 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/document.h"
 
 namespace dxf {
-
-// what(): "line 12: ..." ; without a line where the file as a whole is at fault.
-class ReadError : public std::runtime_error {
-public:
-    ReadError(uint32_t line, const std::string& text);
-    uint32_t Line() const { return line_; } // 0: none
-    const std::string& Text() const { return text_; }
-
-private:
-    uint32_t line_;
-    std::string text_;
-};
 
 // Called now and then with the share that is done, 0 to 1000, rising; once at least, and with 1000 at the
 // end.
@@ -44,9 +32,7 @@ Document Read(std::string_view bytes, const Progress& progress);
 // What Read reads of the bytes of a file: all but a UTF-8 mark in front, which offsets of entities don't count either.
 std::string_view TextOf(std::string_view bytes);
 
-// The bytes of a file; one that cannot be read is a ReadError without a line.
-std::string ReadBytes(const std::filesystem::path& path);
-// Both in one.
+// Reads a file. Throws ReadError without a line if it cannot be read.
 Document ReadFile(const std::filesystem::path& path, const Progress& progress);
 
 } // namespace dxf

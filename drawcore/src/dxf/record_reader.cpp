@@ -7,16 +7,6 @@
 
 namespace dxf {
 
-namespace {
-
-bool SameName(std::string_view a, std::string_view upper) {
-    return a.size() == upper.size() && std::equal(a.begin(), a.end(), upper.begin(), [](char c, char u) {
-               return (c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c) == u;
-           });
-}
-
-} // namespace
-
 RecordReader::RecordReader(std::string_view bytes, const Progress& progress, Document known)
     : tags(bytes, progress), document(std::move(known)) {
     decoder.SetVersion(document.header.version);
@@ -110,9 +100,9 @@ void RecordReader::Assign(uint32_t& to, const Tag& tag, int) {
 }
 
 void RecordReader::Assign(LineTypeIndex& to, const Tag& tag, int) {
-    if (SameName(tag.value, "BYLAYER"))
+    if (IsSameName(tag.value, "BYLAYER"))
         to = LineTypeIndex::byLayer;
-    else if (SameName(tag.value, "BYBLOCK"))
+    else if (IsSameName(tag.value, "BYBLOCK"))
         to = LineTypeIndex::byBlock;
     else
         to = LineTypeIndex(lineTypes.Find(tag.value));

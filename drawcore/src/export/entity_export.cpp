@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/look.h"
 #include "drawcore/src/graphics/ellipse_graphic.h"
@@ -12,7 +13,6 @@
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/save/record_patch.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
 

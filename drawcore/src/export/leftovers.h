@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/dxf/document.h"
 #include "drawcore/src/graphics/graphic.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
 

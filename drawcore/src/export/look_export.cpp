@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/export/layer_export.h"
 #include "drawcore/src/graphics/text_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/brush_import.h"
 #include "drawcore/src/import/import_tables.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/look.h"
@@ -11,7 +12,6 @@
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/import_tables.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace drawcore {
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/save/look_writer.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace dxf {
 

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/look.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace dxf {
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/color_numbers.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace dxf {
 

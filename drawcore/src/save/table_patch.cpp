@@ -5,8 +5,8 @@
 #include <charconv>
 #include <cstdio>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/look.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace dxf {
 

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/save/look_writer.h"
-#include "drawcore/src/save/save_error.h"
 
 namespace dxf {
 

@@ -1,48 +1,43 @@
 // Properties of entities as text: the names of the sheet's properties, and values in the format of its pages.
 //
-//   dxfprops::PropertyTexts texts(document);
+//   dxf::PropertyTexts texts(document);
 //   texts.Get("PenWidth", look)                  // "0.5 mm"
 //   texts.Set("PenColor", "purple", look)        // SaveError: "PenColor: 'purple' is none of By Layer, ..."
 #pragma once
 
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "drawcore/src/dxf/look.h"
 #include "drawcore/src/units/unit_settings.h"
 
-namespace dxfprops {
+namespace dxf {
 
 class PropertyTexts {
 public:
     // The document must outlive this object.
-    explicit PropertyTexts(const dxf::Document& document);
+    explicit PropertyTexts(const Document& document);
 
     // Returns the names in the order in which they are set: properties that others depend on come first.
     static std::vector<std::string> Names();
     // Returns the property's name in its standard case, or nothing if there is no such property.
     static std::optional<std::string> NameOf(std::string_view name);
-    static bool Has(const dxf::Entity& entity, std::string_view name);
+    static bool Has(const Entity& entity, std::string_view name);
 
-    std::string Get(std::string_view name, const dxf::Look& look) const;
+    std::string Get(std::string_view name, const Look& look) const;
     // Returns the value, and whether parts of the text have other values.
-    std::string GetWithVariety(std::string_view name, const dxf::Look& look) const;
+    std::string GetWithVariety(std::string_view name, const Look& look) const;
     // Throws SaveError if the text is not a value of the property. The message lists the valid ones.
-    void Set(std::string_view name, const std::string& text, dxf::Look& look) const;
+    void Set(std::string_view name, const std::string& text, Look& look) const;
 
 private:
     friend struct PropertyForms;
 
-    void AddPatterns(const std::vector<dxf::Entity>& entities);
+    void AddPatterns(const std::vector<Entity>& entities);
 
-    const dxf::Document& document_;
+    const Document& document_;
     drawcore::UnitSettings units_;
-    std::vector<dxf::BrushLook> patterns_; // the patterns of its hatches
+    std::vector<BrushLook> patterns_; // the patterns of its hatches
 };
 
 // Returns whether two entities, each in its own drawing, have the same appearance.
-bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document& b, const dxf::Look& other);
+bool SameLook(const Document& a, const Look& one, const Document& b, const Look& other);
 
-} // namespace dxfprops
+} // namespace dxf

@@ -1,5 +1,5 @@
 // The text forms of values, one row per property.
-#include "tools/dxfprops/property_texts.h"
+#include "drawcore/src/document/property_texts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -10,7 +10,6 @@
 #include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/dxf/standard_brushes.h"
 #include "drawcore/src/dxf/text_decoding.h"
-#include "drawcore/src/save/save_error.h"
 #include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
 #include "drawcore/src/units/number_text.h"
@@ -21,10 +20,7 @@ char drawcore::DecimalMark() {
     return '.';
 }
 
-namespace dxfprops {
-
-using dxf::FoldName;
-using dxf::Look;
+namespace dxf {
 
 namespace {
 
@@ -46,12 +42,8 @@ constexpr Choice kEffects[] = {
     {"All Caps", kTextAllCaps}};
 constexpr char kRegular[] = "Regular"; // without effects
 
-bool Same(std::string_view a, std::string_view b) {
-    return FoldName(a) == FoldName(b);
-}
-
 [[noreturn]] void Refuse(const std::string& text, const std::string& allowed) {
-    throw dxf::SaveError("'" + text + "' is none of " + allowed);
+    throw SaveError("'" + text + "' is none of " + allowed);
 }
 
 std::string Listed(const std::vector<std::string>& texts) {
@@ -72,7 +64,7 @@ template <size_t N>
 uint32_t ValueOf(const Choice (&choices)[N], const std::string& text) {
     std::vector<std::string> allowed;
     for (const Choice& choice : choices) {
-        if (Same(choice.text, text)) return choice.value;
+        if (IsSameName(choice.text, text)) return choice.value;
         allowed.push_back(choice.text);
     }
     Refuse(text, Listed(allowed));
@@ -82,27 +74,27 @@ std::string ColorText(uint32_t color) {
     if (color == kColorByLayer) return kByLayer;
     if (color == kColorByBlock) return kByBlock;
     if (color == kColorOfPen) return kPenColor;
-    const int index = dxf::NearestIndex(color);
-    if (dxf::ColorOfIndex(index) == color) return dxf::NameOfIndex(index);
+    const int index = NearestIndex(color);
+    if (ColorOfIndex(index) == color) return NameOfIndex(index);
     char text[8];
-    std::snprintf(text, sizeof text, "#%06X", static_cast<unsigned>(dxf::TrueColorOf(color)));
+    std::snprintf(text, sizeof text, "#%06X", static_cast<unsigned>(TrueColorOf(color)));
     return text;
 }
 
 uint32_t ReadColor(const std::string& text, bool ofBrush) {
-    if (Same(text, kByLayer)) return kColorByLayer;
-    if (Same(text, kByBlock)) return kColorByBlock;
-    if (ofBrush && Same(text, kPenColor)) return kColorOfPen;
-    for (int index = 1; index <= dxf::kColorNumbers; ++index)
-        if (Same(text, dxf::NameOfIndex(index))) return dxf::ColorOfIndex(index);
+    if (IsSameName(text, kByLayer)) return kColorByLayer;
+    if (IsSameName(text, kByBlock)) return kColorByBlock;
+    if (ofBrush && IsSameName(text, kPenColor)) return kColorOfPen;
+    for (int index = 1; index <= kColorNumbers; ++index)
+        if (IsSameName(text, NameOfIndex(index))) return ColorOfIndex(index);
     uint32_t rgb = 0;
     const char* const end = text.data() + text.size();
     if (text.size() == 7 && text[0] == '#' && std::from_chars(text.data() + 1, end, rgb, 16).ptr == end)
-        return dxf::ColorOf(0, static_cast<int32_t>(rgb));
+        return ColorOf(0, static_cast<int32_t>(rgb));
     std::string allowed =
         std::string(kByLayer) + ", " + kByBlock + ", " + (ofBrush ? std::string(kPenColor) + ", " : "");
     for (int index = 1; index <= 7; ++index)
-        allowed += dxf::NameOfIndex(index) + ", ";
+        allowed += NameOfIndex(index) + ", ";
     Refuse(text, allowed + "Color 8 to Color 255, #RRGGBB");
 }
 
@@ -115,14 +107,14 @@ double ReadNumber(const std::string& text) {
     double value = 0;
     drawcore::TextCursor cursor(text);
     if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
-        throw dxf::SaveError("'" + text + "' is no number from 0 on");
+        throw SaveError("'" + text + "' is no number from 0 on");
     return value;
 }
 
 template <class Index, class Thing>
 std::optional<Index> FindName(const std::vector<Thing>& things, const std::string& name) {
     for (size_t i = 0; i < things.size(); ++i)
-        if (Same(dxf::ToDisplayText(things[i].name), name)) return Index(i);
+        if (IsSameName(ToDisplayText(things[i].name), name)) return Index(i);
     return std::nullopt;
 }
 
@@ -130,7 +122,7 @@ template <class Thing>
 std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
     std::vector<std::string> names;
     for (const Thing& thing : things)
-        names.push_back(dxf::ToDisplayText(thing.name));
+        names.push_back(ToDisplayText(thing.name));
     return names;
 }
 
@@ -159,7 +151,7 @@ struct PropertyForms {
     static double ReadLength(const std::string& text, const drawcore::LengthUnit& unit) {
         double millimeters = 0;
         if (!drawcore::ReadLength(text, unit, millimeters) || millimeters < 0)
-            throw dxf::SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
+            throw SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
         return millimeters;
     }
     // Formats lengths with all digits, so that setting them again does not change them.
@@ -178,8 +170,8 @@ struct PropertyForms {
                                      {drawcore::LengthSystem::Decimal, kDigits, true});
     }
     static void SetWidth(const PropertyTexts& of, const std::string& text, Look& look) {
-        const bool byLayer = Same(text, kByLayer);
-        if (byLayer || Same(text, kByBlock)) {
+        const bool byLayer = IsSameName(text, kByLayer);
+        if (byLayer || IsSameName(text, kByBlock)) {
             look.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
             look.worldWidth = false;
         } else if (look.worldWidth)
@@ -194,24 +186,24 @@ struct PropertyForms {
         const bool inherits = look.worldWidth && look.width < 0;
         if (inherits)
             look.width = look.width == kPenWidthByLayer
-                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / dxf::kWeightsPerInch
+                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / kWeightsPerInch
                              : 0;
     }
 
     static std::string GetLineType(const PropertyTexts& of, const Look& look) {
-        if (look.lineType == dxf::LineTypeIndex::byLayer) return kByLayer;
-        if (look.lineType == dxf::LineTypeIndex::byBlock) return kByBlock;
-        if (look.lineType == dxf::LineTypeIndex::none) return kNoLine;
-        return dxf::ToDisplayText(of.document_.At(look.lineType).name);
+        if (look.lineType == LineTypeIndex::byLayer) return kByLayer;
+        if (look.lineType == LineTypeIndex::byBlock) return kByBlock;
+        if (look.lineType == LineTypeIndex::none) return kNoLine;
+        return ToDisplayText(of.document_.At(look.lineType).name);
     }
     static void SetLineType(const PropertyTexts& of, const std::string& text, Look& look) {
-        if (Same(text, kByLayer))
-            look.lineType = dxf::LineTypeIndex::byLayer;
-        else if (Same(text, kByBlock))
-            look.lineType = dxf::LineTypeIndex::byBlock;
-        else if (Same(text, kNoLine))
-            look.lineType = dxf::LineTypeIndex::none;
-        else if (const auto found = FindName<dxf::LineTypeIndex>(of.document_.lineTypes, text))
+        if (IsSameName(text, kByLayer))
+            look.lineType = LineTypeIndex::byLayer;
+        else if (IsSameName(text, kByBlock))
+            look.lineType = LineTypeIndex::byBlock;
+        else if (IsSameName(text, kNoLine))
+            look.lineType = LineTypeIndex::none;
+        else if (const auto found = FindName<LineTypeIndex>(of.document_.lineTypes, text))
             look.lineType = *found;
         else
             Refuse(text, std::string(kByLayer) + ", " + kByBlock + ", " + kNoLine + ", " +
@@ -219,13 +211,13 @@ struct PropertyForms {
     }
 
     static void SetLayer(const PropertyTexts& of, const std::string& text, Look& look) {
-        const auto found = FindName<dxf::LayerIndex>(of.document_.layers, text);
+        const auto found = FindName<LayerIndex>(of.document_.layers, text);
         if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
         look.layer = *found;
     }
 
     static void SetTree(const PropertyTexts& of, const std::string& text, Look& look) {
-        if (!text.empty() && !FindName<dxf::BlockIndex>(of.document_.blocks, text))
+        if (!text.empty() && !FindName<BlockIndex>(of.document_.blocks, text))
             Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
         look.styleTree = text;
     }
@@ -235,21 +227,21 @@ struct PropertyForms {
     }
     static void SetBrush(const PropertyTexts& of, const std::string& text, Look& look) {
         std::vector<std::string> allowed = {kNoBrush};
-        const auto take = [&](const std::string& style, const std::vector<dxf::Hatch::PatternLine>& lines) {
+        const auto take = [&](const std::string& style, const std::vector<Hatch::PatternLine>& lines) {
             allowed.push_back(style);
-            if (!Same(style, text)) return false;
+            if (!IsSameName(style, text)) return false;
             look.brush.style = style;
             look.brush.lines = lines;
             return true;
         };
-        if (Same(text, kNoBrush)) {
+        if (IsSameName(text, kNoBrush)) {
             look.brush.style.clear();
             look.brush.lines.clear();
             return;
         }
-        for (const dxf::StandardBrush& brush : dxf::StandardBrushes())
+        for (const StandardBrush& brush : StandardBrushes())
             if (take(brush.name, brush.lines)) return;
-        for (const dxf::BrushLook& brush : of.patterns_)
+        for (const BrushLook& brush : of.patterns_)
             if (take(brush.style, brush.lines)) return;
         Refuse(text, Listed(allowed));
     }
@@ -260,7 +252,7 @@ struct PropertyForms {
     }
     static void SetAngle(const PropertyTexts& of, const std::string& text, Look& look) {
         if (!drawcore::ReadAngle(text, of.units_.angleSystem, look.brush.angle))
-            throw dxf::SaveError("'" + text + "' is no angle");
+            throw SaveError("'" + text + "' is no angle");
     }
 
     static std::string GetEffects(const PropertyTexts&, const Look& look) {
@@ -271,7 +263,7 @@ struct PropertyForms {
     }
     static void SetEffects(const PropertyTexts&, const std::string& text, Look& look) {
         look.text.style = 0;
-        for (size_t at = 0; !Same(text, kRegular) && at <= text.size();) {
+        for (size_t at = 0; !IsSameName(text, kRegular) && at <= text.size();) {
             const size_t end = std::min(text.find('+', at), text.size());
             look.text.style |= static_cast<uint16_t>(ValueOf(kEffects, text.substr(at, end - at)));
             at = end + 1;
@@ -280,7 +272,7 @@ struct PropertyForms {
 
     static void SetSize(const PropertyTexts& of, const std::string& text, Look& look) {
         const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
-        if (!(size > 0)) throw dxf::SaveError("a text has a height above 0");
+        if (!(size > 0)) throw SaveError("a text has a height above 0");
         look.text.height = size;
     }
 };
@@ -288,7 +280,7 @@ struct PropertyForms {
 // In the order in which they are set: the unit of a width depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
     {kPropLayer, all,
-     [](const PropertyTexts& of, const Look& look) { return dxf::ToDisplayText(of.document_.At(look.layer).name); },
+     [](const PropertyTexts& of, const Look& look) { return ToDisplayText(of.document_.At(look.layer).name); },
      SetLayer},
     {kPropInfo, all, [](const PropertyTexts&, const Look& look) { return look.info; },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.info = text; }},
@@ -332,22 +324,22 @@ const PropertyForms PropertyForms::kAll[] = {
 
 const PropertyForms* PropertyForms::Find(std::string_view name) {
     for (const PropertyForms& forms : kAll)
-        if (Same(forms.name, name)) return &forms;
+        if (IsSameName(forms.name, name)) return &forms;
     return nullptr;
 }
 
-PropertyTexts::PropertyTexts(const dxf::Document& document)
+PropertyTexts::PropertyTexts(const Document& document)
     : document_(document), units_(drawcore::UnitsOf(document.header)) {
     AddPatterns(document.entities);
-    for (const dxf::Block& block : document.blocks)
+    for (const Block& block : document.blocks)
         AddPatterns(block.entities);
 }
 
-void PropertyTexts::AddPatterns(const std::vector<dxf::Entity>& entities) {
-    for (const dxf::Entity& entity : entities) {
-        if (!std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape)) continue;
-        dxf::BrushLook brush = dxf::LookOf(document_, entity).brush;
-        const auto known = [&](const dxf::BrushLook& other) { return other.style == brush.style; };
+void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
+    for (const Entity& entity : entities) {
+        if (!std::holds_alternative<Apart<Hatch>>(entity.shape)) continue;
+        BrushLook brush = LookOf(document_, entity).brush;
+        const auto known = [&](const BrushLook& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
             patterns_.push_back(std::move(brush));
     }
@@ -365,41 +357,41 @@ std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
     return forms ? std::optional<std::string>(forms->name) : std::nullopt;
 }
 
-bool PropertyTexts::Has(const dxf::Entity& entity, std::string_view name) {
+bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
-    if (is(dxf::Apart<dxf::Viewport>())) return false;
-    const int owner = is(dxf::Apart<dxf::Text>(), dxf::Apart<dxf::MText>())         ? PropertyForms::texts
-                      : is(dxf::Apart<dxf::Insert>(), dxf::Apart<dxf::Dimension>()) ? PropertyForms::inserts
-                                                                                    : PropertyForms::shapes;
+    if (is(Apart<Viewport>())) return false;
+    const int owner = is(Apart<Text>(), Apart<MText>())         ? PropertyForms::texts
+                      : is(Apart<Insert>(), Apart<Dimension>()) ? PropertyForms::inserts
+                                                                : PropertyForms::shapes;
     const PropertyForms* forms = PropertyForms::Find(name);
     return forms && (forms->owners & owner);
 }
 
-std::string PropertyTexts::Get(std::string_view name, const dxf::Look& look) const {
+std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
     return PropertyForms::Find(name)->get(*this, look);
 }
 
-std::string PropertyTexts::GetWithVariety(std::string_view name, const dxf::Look& look) const {
-    const bool varies = look.varied & dxf::VariedBit(name);
+std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& look) const {
+    const bool varies = look.varied & VariedBit(name);
     return Get(name, look) + (varies ? " (varies)" : "");
 }
 
-void PropertyTexts::Set(std::string_view name, const std::string& text, dxf::Look& look) const {
+void PropertyTexts::Set(std::string_view name, const std::string& text, Look& look) const {
     const PropertyForms* forms = PropertyForms::Find(name);
     try {
         forms->set(*this, text, look);
-        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(forms->name));
-    } catch (const dxf::SaveError& error) {
-        throw dxf::SaveError(std::string(forms->name) + ": " + error.what());
+        look.varied &= static_cast<uint8_t>(~VariedBit(forms->name));
+    } catch (const SaveError& error) {
+        throw SaveError(std::string(forms->name) + ": " + error.what());
     }
 }
 
-bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document& b, const dxf::Look& other) {
-    const auto name = [](const dxf::Document& of, dxf::LineTypeIndex type) {
-        return type < dxf::LineTypeIndex::none ? FoldName(dxf::ToDisplayText(of.At(type).name))
-                                               : std::to_string(static_cast<uint32_t>(type));
+bool SameLook(const Document& a, const Look& one, const Document& b, const Look& other) {
+    const auto name = [](const Document& of, LineTypeIndex type) {
+        return type < LineTypeIndex::none ? FoldName(ToDisplayText(of.At(type).name))
+                                          : std::to_string(static_cast<uint32_t>(type));
     };
-    if (!Same(dxf::ToDisplayText(a.At(one.layer).name), dxf::ToDisplayText(b.At(other.layer).name))) return false;
+    if (!IsSameName(ToDisplayText(a.At(one.layer).name), ToDisplayText(b.At(other.layer).name))) return false;
     if (name(a, one.lineType) != name(b, other.lineType)) return false;
     Look adapted = other;
     adapted.layer = one.layer;
@@ -407,4 +399,4 @@ bool SameLook(const dxf::Document& a, const dxf::Look& one, const dxf::Document&
     return adapted == one;
 }
 
-} // namespace dxfprops
+} // namespace dxf

@@ -1,0 +1,176 @@
+// Reads DXF documents (ASCII, R12 to 2018) and sets properties of their entities, without a drawing database and
+// without windows. C++ only, in the static library drawcore_document, which is also built natively. All texts are
+// UTF-8.
+//
+//   const dxf::DocumentReader plan(dxf::ReadBytes("plan.dxf"));
+//   dxf::DocumentWriter changes(plan, {{"PenColor", "By Layer"}});
+//   for (const dxf::EntityRef& entity : plan.Entities())
+//       if (plan.Get(entity, "PenColor") == "Red") changes.Change(entity);
+//   const std::string changed = changes.Finish();
+//
+// Properties have the names of orlo/host/words.h, in upper or lower case. Their values have the form that the pages of
+// the sheet show: "By Layer", "0.5 mm", "Color 12", "#FF7F00".
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace dxf {
+
+struct Block;
+struct Document;
+struct Entity;
+
+// The file cannot be read. what() names the line if there is one: "line 12: group code 'x' is not a number".
+class ReadError : public std::runtime_error {
+public:
+    ReadError(uint32_t line, const std::string& text);
+    uint32_t Line() const { return line_; } // 0: the file as a whole
+    const std::string& Text() const { return text_; }
+
+private:
+    uint32_t line_;
+    std::string text_;
+};
+
+// A value is not valid, or the file cannot contain it. what() is a text for users.
+class SaveError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Returns the bytes of a file. Throws ReadError without a line if it cannot be read.
+std::string ReadBytes(const std::filesystem::path& path);
+
+// Returns whether two names are equal, regardless of the case of the letters A to Z.
+bool IsSameName(std::string_view a, std::string_view b);
+
+// The name of a record in messages.
+struct RecordName {
+    std::string kind;   // "LINE"
+    std::string handle; // empty: none
+    uint32_t line = 0;  // of the file, counted from 1
+    std::string block;  // that contains it; empty: model space
+
+    std::string Text() const; // "LINE 2F (line 1024)", "LINE 3A (line 512, block DOOR)"
+};
+
+// Something that was left out or repaired while the document was read.
+struct Finding {
+    uint32_t line = 0; // of the file; 0: no particular line
+    std::string text;
+};
+
+// What a document contains. Names are as stored in the file, with escapes like \U+00C4.
+struct Contents {
+    struct Layer {
+        std::string name;
+        int color = 7; // negative: the layer is off
+        int flags = 0;
+        std::string lineType;
+        int32_t trueColor = -1; // 0xRRGGBB; -1: none
+    };
+    struct LineType {
+        std::string name;
+        double patternLength = 0;
+        std::vector<double> dashes; // positive a dash, negative a gap, 0 a dot
+    };
+
+    std::string version;                                       // "AC1015"; empty if the file does not say
+    std::map<std::string, uint64_t, std::less<>> entityCounts; // records of the ENTITIES section by type
+    size_t blocks = 0;
+    std::vector<Layer> layers;
+    std::vector<LineType> lineTypes;
+    std::optional<std::array<double, 4>> box; // of model space: left, bottom, right, top; none if it is empty
+    std::vector<Finding> findings;
+};
+
+// An entity of a document, valid as long as its reader.
+class EntityRef {
+    friend class DocumentReader;
+    friend class DocumentWriter;
+    EntityRef(const Entity& entity, const Block* block) : entity_(&entity), block_(block) {}
+
+    const Entity* entity_;
+    const Block* block_; // null: model space
+};
+
+class PropertyTexts;
+
+class DocumentReader {
+public:
+    // Reads the bytes of a file. Throws ReadError.
+    explicit DocumentReader(std::string bytes);
+    ~DocumentReader();
+
+    const std::string& Bytes() const { return bytes_; }
+    Contents GetContents() const;
+
+    // Returns the entities that have properties, in the order of the file: of model space, with the attributes of its
+    // insertions, then of the blocks.
+    std::vector<EntityRef> Entities() const;
+    // The same for one block; "" is model space. Throws SaveError, with the names of all blocks, if there is no such
+    // block.
+    std::vector<EntityRef> EntitiesOf(const std::string& block) const;
+    RecordName NameOf(const EntityRef& entity) const;
+
+    // Returns the names of all properties, in the order in which they are set: a width depends on its scale system.
+    static std::vector<std::string> PropertyNames();
+    // Returns the name as it is written; none if there is no such property.
+    static std::optional<std::string> FindPropertyName(std::string_view name);
+
+    // The name is that of a property. Has returns whether the entity has it, Get its value.
+    static bool Has(const EntityRef& entity, std::string_view name);
+    std::string Get(const EntityRef& entity, std::string_view name) const;
+    // Returns the same with " (varies)" if other parts of a text have other values.
+    std::string GetWithVariety(const EntityRef& entity, std::string_view name) const;
+    // Returns whether all properties are the same in two documents. Numbers may differ by rounding.
+    bool IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
+
+private:
+    friend class DocumentWriter;
+
+    std::string_view Text() const;
+    void AddEntities(const Block* block, std::vector<EntityRef>& to) const;
+
+    const std::string bytes_;
+    const std::unique_ptr<const Document> document_;
+    const std::unique_ptr<const PropertyTexts> texts_;
+};
+
+// Changes a document: only the groups that contain a changed value differ afterwards. Values without a DXF group are
+// stored in extended data (XDATA) of the application ORLO.
+class DocumentWriter {
+public:
+    using Values = std::vector<std::pair<std::string, std::string>>; // by the names of properties
+
+    // The values that Change sets. Throws SaveError if one is not valid, even if no entity has its property. The reader
+    // must outlive the writer.
+    DocumentWriter(const DocumentReader& reader, const Values& values);
+    ~DocumentWriter();
+
+    // Sets the values that the entity has. Returns whether it was changed. At most once for each entity. Throws
+    // SaveError, with the name of the entity, if the file cannot contain a value.
+    bool Change(const EntityRef& entity);
+    // Returns a text for users for each property that is now stored in extended data, where other programs do not show
+    // it.
+    std::vector<std::string> Notes() const;
+    // Returns the bytes of the changed file. They have been read again: throws SaveError if an entity differs from what
+    // was wanted. Nothing can be changed afterwards.
+    std::string Finish();
+
+private:
+    struct Parts;
+    const std::unique_ptr<Parts> parts_;
+};
+
+} // namespace dxf
