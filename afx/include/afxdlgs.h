@@ -45,6 +45,8 @@ public:
 protected:
     BOOL m_bChanged;
     HINSTANCE m_hTemplateModule; // module of the template; null: searched for in the list of modules
+    // A template in memory, in place of a resource, if not empty. m_lpszTemplateName is then only the page's identity.
+    std::vector<BYTE> m_dialogTemplate;
     // TRUE: edit fields of combo boxes scroll, even without CBS_AUTOHSCROLL in the template. Without scrolling, text is
     // limited to the width of the field.
     BOOL m_bScrollingCombos;
@@ -54,6 +56,7 @@ protected:
 
 private:
     friend class CPropertySheet;
+    class AfxDialogTemplate GetTemplate() const;
     CString GetTabText() const;
     BOOL CreatePageWindow();
 

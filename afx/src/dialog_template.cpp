@@ -96,6 +96,11 @@ AfxDialogTemplate::AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule)
     ReadHead();
 }
 
+AfxDialogTemplate::AfxDialogTemplate(const BYTE* data, std::size_t size)
+    : m_module(AfxGetInstanceHandle()), m_data(data), m_size(size) {
+    ReadHead();
+}
+
 bool AfxDialogTemplate::IsExtended() const {
     ExtendedHead head;
     std::memcpy(&head, m_data, sizeof head);

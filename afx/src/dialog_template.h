@@ -10,6 +10,8 @@ public:
     // lpszName is a name, or a number below 0x10000. If the module is null, the template is searched for in the list of
     // modules.
     explicit AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule = nullptr);
+    // A template in memory, which must outlive the object.
+    AfxDialogTemplate(const BYTE* data, std::size_t size);
 
     bool IsFound() const { return m_size != 0; }
     HINSTANCE Module() const { return m_module; }

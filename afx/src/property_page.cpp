@@ -50,14 +50,19 @@ void CPropertyPage::OnClose() {
     if (m_pSheet != nullptr) m_pSheet->PostMessage(WM_CLOSE);
 }
 
+AfxDialogTemplate CPropertyPage::GetTemplate() const {
+    return m_dialogTemplate.empty() ? AfxDialogTemplate(m_lpszTemplateName, m_hTemplateModule)
+                                    : AfxDialogTemplate(m_dialogTemplate.data(), m_dialogTemplate.size());
+}
+
 CString CPropertyPage::GetTabText() const {
     CString text;
     if (m_nIDCaption != 0) text.LoadString(m_nIDCaption);
-    return text.IsEmpty() ? AfxDialogTemplate(m_lpszTemplateName, m_hTemplateModule).Title() : text;
+    return text.IsEmpty() ? GetTemplate().Title() : text;
 }
 
 BOOL CPropertyPage::CreatePageWindow() {
-    const AfxDialogTemplate dialog(m_lpszTemplateName, m_hTemplateModule);
+    const AfxDialogTemplate dialog = GetTemplate();
     if (!dialog.IsFound() || m_pSheet == nullptr) return FALSE;
     const std::vector<BYTE> page = dialog.AsPage(m_bScrollingCombos);
     const AfxWindowCreation creation(this);

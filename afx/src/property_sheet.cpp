@@ -92,8 +92,7 @@ bool CPropertySheet::BeginCreate() {
 
 int CPropertySheet::OnCreate(LPCREATESTRUCTA) {
     if (!BeginCreate()) return -1;
-    const LOGFONTA font =
-        AfxDialogTemplate(GetActivePage()->m_lpszTemplateName, GetActivePage()->m_hTemplateModule).Font();
+    const LOGFONTA font = GetActivePage()->GetTemplate().Font();
     m_font.DeleteObject();
     m_font.CreateFontIndirect(&font);
     if (!m_bModeless && !CreateButtons()) return -1;
