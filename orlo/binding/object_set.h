@@ -3,11 +3,26 @@
 
 #include "orlo/host/graphic.h"
 
+// Finds, reads and writes properties in place of the property tables of the graphics. Values have the types of a
+// property table.
+class PropertyAccess {
+public:
+    virtual ~PropertyAccess() = default;
+    // Returns whether the graphic has the property, and stores its number for the two functions that follow.
+    virtual bool Find(GraphicStruct* graphic, const char* name, int32_t& number) = 0;
+    virtual void Get(GraphicStruct* graphic, int32_t number, int vt, void* value) = 0;
+    // Returns 0 if the graphic does not accept the value.
+    virtual int Set(GraphicStruct* graphic, int32_t number, int vt, const void* value) = 0;
+};
+
 // Iteration sets or clears the flag kFlagPreview of the graphics that it returns.
 class ObjectSet {
 public:
-    // Empty if set is null.
-    ObjectSet(GraphicStruct* set, uint32_t filter, bool preview) : m_set(set), m_filter(filter), m_preview(preview) {}
+    // Empty if set is null. access: null for the property tables of the graphics.
+    ObjectSet(GraphicStruct* set, uint32_t filter, bool preview, PropertyAccess* access = nullptr)
+        : m_set(set), m_filter(filter), m_preview(preview), m_access(access) {}
+
+    PropertyAccess* Access() const { return m_access; }
 
     // position points to the caller's 32-bit position. Returns null at the end.
     GraphicStruct* First(void* position) const {
@@ -28,4 +43,5 @@ private:
     GraphicStruct* m_set;
     uint32_t m_filter;
     bool m_preview;
+    PropertyAccess* m_access;
 };

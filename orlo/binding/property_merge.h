@@ -20,10 +20,23 @@ namespace orlo::binding {
 struct Property {
     GraphicStruct* graphic;
     const PropertyTable* table;
+    PropertyAccess* access; // null: the table
     int32_t number;
 
-    void Get(int vt, void* value) const { table->PropGet(graphic, number, vt, value); }
-    int Set(int vt, const void* value) const { return table->PropSet(graphic, number, vt, value); }
+    bool Find(const char* name) {
+        if (access != nullptr) return access->Find(graphic, name, number);
+        table = ::GraphicGetVtbl(graphic);
+        return table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number) != 0;
+    }
+    void Get(int vt, void* value) const {
+        if (access != nullptr)
+            access->Get(graphic, number, vt, value);
+        else
+            table->PropGet(graphic, number, vt, value);
+    }
+    int Set(int vt, const void* value) const {
+        return access != nullptr ? access->Set(graphic, number, vt, value) : table->PropSet(graphic, number, vt, value);
+    }
 };
 
 // Calls visit(Property) for each graphic of the set that has the property, until it returns false.
@@ -32,8 +45,8 @@ bool ForEachProperty(const ObjectSet& set, const char* name, Visit visit) {
     bool found = false;
     uint32_t position = 0;
     for (GraphicStruct* graphic = set.First(&position); graphic != nullptr; graphic = set.Next(&position)) {
-        Property property = {graphic, ::GraphicGetVtbl(graphic), 0};
-        if (property.table == nullptr || !property.table->PropLookup(graphic, &name, 1, 0, &property.number)) continue;
+        Property property = {graphic, nullptr, set.Access(), 0};
+        if (!property.Find(name)) continue;
         found = true;
         if (!visit(property)) break;
     }

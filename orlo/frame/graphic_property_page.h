@@ -150,8 +150,11 @@ protected:
     ControlStatus* m_pStatus;
     CWordArray m_IDArray;
     void* m_hDialog;
+    CSize m_sizeWanted; // dialog units, set by the constructor: the sheet opens at least that large, if it fits
+    class PropertyAccess* m_pProperties = nullptr; // not owned; null: the property tables of the graphics
 
 private:
+    friend class CGraphicPropertySheet;
     friend class PageState;
     friend class LoadedControls;
     friend CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page);

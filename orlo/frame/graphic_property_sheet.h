@@ -72,6 +72,7 @@ private:
 
     CGraphicPropertyPage* GetActiveGraphicPage();
     void ForgetEarlierRun();
+    CSize PageSize(const CPropertyPage& active, CSize beside) const;
     int ButtonColumnWidth(int (&widths)[3]);
     void PlaceButtons(int left, int top, const int (&widths)[3]);
 

@@ -10,6 +10,8 @@
 #include "orlo/controls/control_items.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/sheet_objects.h"
+#include "orlo/frame/write_outcome.h"
 #include "orlo/win/child_windows.h"
 
 namespace {
@@ -19,6 +21,14 @@ GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
 }
 
 } // namespace
+
+ObjectSet PageState::Objects(int bPreview) const {
+    return ObjectsOf(m_page.GetSheet(), bPreview, m_page.m_pProperties);
+}
+
+orlo::binding::WriteTarget PageState::Target(int bPreview) const {
+    return {Objects(bPreview), bPreview || outcome == nullptr ? nullptr : &outcome->Unchanged()};
+}
 
 void PageState::DisposePreviewGraphic() {
     if (m_page.m_pPreviewGraphic == nullptr) return;

@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include "orlo/binding/property_merge.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/loaded_controls.h"
 
@@ -13,6 +14,11 @@ class PageState {
 public:
     explicit PageState(CGraphicPropertyPage& page) : loaded(page), m_page(page) {}
     static PageState& Of(CGraphicPropertyPage& page) { return *page.m_pState; }
+
+    // Return the selection of the sheet (bPreview 0) or its preview group, to read and to write. Both are empty without
+    // a sheet. The outcome of the write-back, if any, is that of the selection.
+    ObjectSet Objects(int bPreview) const;
+    orlo::binding::WriteTarget Target(int bPreview) const;
 
     // Adds the page's preview graphic to the group of the sheet, unless the page has one already.
     void AddPreviewGraphic();

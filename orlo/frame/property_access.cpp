@@ -2,38 +2,27 @@
 
 #include "orlo/binding/property_merge.h"
 #include "orlo/frame/page_state.h"
-#include "orlo/frame/sheet_objects.h"
-#include "orlo/frame/write_outcome.h"
 
 namespace binding = orlo::binding;
 
-namespace {
-
-// The outcome, if any, is notified only for the selection.
-binding::WriteTarget TargetOf(CGraphicPropertySheet* sheet, int bPreview, WriteOutcome* outcome) {
-    return {ObjectsOf(sheet, bPreview), bPreview || outcome == nullptr ? nullptr : &outcome->Unchanged()};
-}
-
-} // namespace
-
 void* CGraphicPropertyPage::GetFirstObject(void* pPos, int bPreview) {
-    return ObjectsOf(GetSheet(), bPreview).First(pPos);
+    return m_pState->Objects(bPreview).First(pPos);
 }
 
 void* CGraphicPropertyPage::GetNextObject(void* pPos, int bPreview) {
-    return ObjectsOf(GetSheet(), bPreview).Next(pPos);
+    return m_pState->Objects(bPreview).Next(pPos);
 }
 
 // Defines the overloads of one name, which differ only in their types.
 #define ORLO_PROPERTY_ACCESS(suffix, Member, Type)                                                                     \
     int CGraphicPropertyPage::GetProp##suffix(const char* pszPropName, Member* pValue, int bPreview) {                 \
-        return binding::Merge<Type>(ObjectsOf(GetSheet(), bPreview), pszPropName, pValue);                             \
+        return binding::Merge<Type>(m_pState->Objects(bPreview), pszPropName, pValue);                                 \
     }
 
 #define ORLO_TEXT_ACCESS(Member, Type)                                                                                 \
     ORLO_PROPERTY_ACCESS(Text, Member, Type)                                                                           \
     int CGraphicPropertyPage::SetPropText(const char* pszPropName, Member& value, int bPreview) {                      \
-        return binding::Write<Type>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);            \
+        return binding::Write<Type>(m_pState->Target(bPreview), pszPropName, value);                                   \
     }
 
 using UI1 = binding::Plain<unsigned char, VT_UI1>;
@@ -60,27 +49,27 @@ ORLO_PROPERTY_ACCESS(Radio, unsigned short, UI2)
 #undef ORLO_PROPERTY_ACCESS
 
 int CGraphicPropertyPage::GetPropText(const char* pszPropName, CString* pValue, int bPreview) {
-    return binding::MergeText(ObjectsOf(GetSheet(), bPreview), pszPropName, pValue);
+    return binding::MergeText(m_pState->Objects(bPreview), pszPropName, pValue);
 }
 
 int CGraphicPropertyPage::SetPropText(const char* pszPropName, CString& value, int bPreview) {
-    return binding::WriteText(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
+    return binding::WriteText(m_pState->Target(bPreview), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, int value, int bPreview) {
-    return binding::WriteCheck(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
+    return binding::WriteCheck(m_pState->Target(bPreview), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropCheck(const char* pszPropName, unsigned short value, int bPreview) {
-    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
+    return binding::Write<UI2>(m_pState->Target(bPreview), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, int value, int bPreview) {
-    return binding::Write<I4>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
+    return binding::Write<I4>(m_pState->Target(bPreview), pszPropName, value);
 }
 
 int CGraphicPropertyPage::SetPropRadio(const char* pszPropName, unsigned short value, int bPreview) {
-    return binding::Write<UI2>(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, value);
+    return binding::Write<UI2>(m_pState->Target(bPreview), pszPropName, value);
 }
 
 int CGraphicPropertyPage::GetPropIndex(const char* pszPropName, int* pValue, int bPreview) {
@@ -92,9 +81,9 @@ int CGraphicPropertyPage::SetPropIndex(const char* pszPropName, int value, int b
 }
 
 int CGraphicPropertyPage::GetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview) {
-    return binding::MergeBits(ObjectsOf(GetSheet(), bPreview), pszPropName, pPair);
+    return binding::MergeBits(m_pState->Objects(bPreview), pszPropName, pPair);
 }
 
 int CGraphicPropertyPage::SetPropBits(const char* pszPropName, unsigned short* pPair, int bPreview) {
-    return binding::WriteBits(TargetOf(GetSheet(), bPreview, m_pState->outcome), pszPropName, pPair);
+    return binding::WriteBits(m_pState->Target(bPreview), pszPropName, pPair);
 }

@@ -58,28 +58,53 @@ void CGraphicPropertySheet::PlaceButtons(int left, int top, const int (&widths)[
     }
 }
 
+// Returns the size of all pages in pixels: that of the active page or, as far as the monitor has room for it, the
+// largest that a page wants. The rest of the sheet takes `beside`. A page that has to scroll gets room for its bar.
+CSize CGraphicPropertySheet::PageSize(const CPropertyPage& active, CSize beside) const {
+    CRect wanted;
+    for (int i = 0; i < GetPageCount(); ++i) {
+        if (!GetPage(i)->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage))) continue;
+        const CSize units = static_cast<CGraphicPropertyPage*>(GetPage(i))->m_sizeWanted;
+        wanted.right = std::max(wanted.right, units.cx);
+        wanted.bottom = std::max(wanted.bottom, units.cy);
+    }
+    ::MapDialogRect(active.m_hWnd, &wanted);
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoA(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const CRect room = monitor.rcWork;
+    const LONG height = room.Height() - beside.cy, width = room.Width() - beside.cx;
+    if (wanted.bottom > height) wanted.right += ::GetSystemMetrics(SM_CXVSCROLL);
+    const CRect now = WindowRect(active.m_hWnd);
+    return CSize(std::max<int>(now.Width(), std::min(wanted.right, width)),
+                 std::max<int>(now.Height(), std::min(wanted.bottom, height)));
+}
+
 void CGraphicPropertySheet::RecalcLayout() {
     CPropertyPage* page = GetActivePage();
     if (page == nullptr || page->m_hWnd == nullptr) return;
-    const CRect pageRect = WindowRect(page->m_hWnd);
     const int mx = m_sizeTabMargin.cx, my = m_sizeTabMargin.cy;
-
-    const int cxBody = pageRect.Width() + 2 * mx + kFrame;
     const int cxSide = std::max<int>(m_cxPreview + mx + kFrame, m_sizeButton.cx + mx);
+    const HWND tabs = GetTabControl()->m_hWnd;
+    const UINT keep = SWP_NOZORDER | SWP_NOACTIVATE;
+    ::SetWindowPos(tabs, nullptr, 0, 0, WindowRect(tabs).Width(), 0, keep | SWP_NOMOVE); // takes the height of its rows
+    CRect beside(0, 0, 2 * mx + kFrame + cxSide, WindowRect(tabs).Height() + 2 * my + kFrame + 1);
+    ::AdjustWindowRectEx(&beside, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
+    const CSize pageSize = PageSize(*page, beside.Size());
+
+    const int cxBody = pageSize.cx + 2 * mx + kFrame;
     const int cxSheet = cxBody + cxSide;
 
-    const UINT keep = SWP_NOZORDER | SWP_NOACTIVATE;
-    const HWND tabs = GetTabControl()->m_hWnd;
     ::SetWindowPos(tabs, nullptr, mx, my, cxSheet - 2 * mx, 0, keep);
     const int cyTab = WindowRect(tabs).Height();
 
-    const int cySheet = cyTab + pageRect.Height() + 2 * my + kFrame + 1;
+    const int cySheet = cyTab + pageSize.cy + 2 * my + kFrame + 1;
     CRect frame(0, 0, cxSheet, cySheet);
     ::AdjustWindowRectEx(&frame, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
     const CPoint place = GetCenteredPlace(frame.Size());
     ::SetWindowPos(m_hWnd, nullptr, place.x, place.y, frame.Width(), frame.Height(), keep);
 
-    ::SetWindowPos(page->m_hWnd, nullptr, mx + 1, cyTab + my, cxBody - 2 * mx, pageRect.Height(), keep);
+    ::SetWindowPos(page->m_hWnd, nullptr, mx + 1, cyTab + my, cxBody - 2 * mx, pageSize.cy, keep);
 
     if (!m_bModeless) {
         int widths[3];
@@ -87,7 +112,7 @@ void CGraphicPropertySheet::RecalcLayout() {
         PlaceButtons(cxSheet - 2 * mx - cxButtons, cyTab + 2 * my, widths);
     }
 
-    const int right = cxSheet - 2 * mx, bottom = cyTab + pageRect.Height();
+    const int right = cxSheet - 2 * mx, bottom = cyTab + pageSize.cy;
     ::MoveWindow(m_wndPreview.m_hWnd, right - m_cxPreview, bottom - m_cyPreview, m_cxPreview, m_cyPreview, FALSE);
 }
 

@@ -5,5 +5,5 @@
 
 class CGraphicPropertySheet;
 
-// Returns the selection (bPreview 0) or the preview group; empty without a sheet.
-ObjectSet ObjectsOf(CGraphicPropertySheet* sheet, int bPreview);
+// Returns the selection (bPreview 0) or the preview group; empty without a sheet. access: null for the property tables.
+ObjectSet ObjectsOf(CGraphicPropertySheet* sheet, int bPreview, PropertyAccess* access = nullptr);
