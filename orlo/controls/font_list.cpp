@@ -76,6 +76,13 @@ void AddStyles(const ControlItems& items) {
         items.Add(LibraryText(id));
 }
 
+// What a combo lists: an object of the library knows, whatever identifier its dialog gives it.
+int ListedIn(HWND combo) {
+    static_assert(kControlFontFaces == IDC_FONT_FACE && kControlFontSizes == IDC_FONT_SIZE);
+    const CComboControl* object = ComboControlOf(combo);
+    return object != nullptr ? static_cast<int>(object->m_nControlID) : ::GetDlgCtrlID(combo);
+}
+
 } // namespace
 
 int FillFontDropDown(HWND hWnd, LPARAM lParam) {
@@ -86,7 +93,7 @@ int FillFontDropDown(HWND hWnd, LPARAM lParam) {
     const ControlItems items = ControlItems::OfCombo(hWnd);
     items.Clear();
     DistinctItems distinct(items);
-    const int control = ::GetDlgCtrlID(hWnd);
+    const int control = ListedIn(hWnd);
     switch (control) {
     case IDC_FONT_FACE:
     case IDC_FONT_FACE_2:

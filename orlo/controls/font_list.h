@@ -13,7 +13,8 @@ struct FontListRequest {
     const char* pszFace;        // null or empty for no sizes
 };
 
-// Empties the combo box and fills it according to its control identifier (control_ids.h):
+// Empties the combo box and fills it: a CFontFaceControl with faces, a CFontSizeControl with sizes, another combo box
+// according to its control identifier (control_ids.h):
 //
 //   IDC_FONT_FACE, IDC_FONT_FACE_2  TrueType faces of the system, each once; lParam: the CWnd* of the control
 //   IDC_FONT_SIZE                   sizes of a face; lParam: const FontListRequest*
