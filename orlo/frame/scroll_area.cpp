@@ -1,0 +1,129 @@
+// ScrollArea.
+
+#include "orlo/frame/scroll_area.h"
+
+#include <algorithm>
+
+#include "orlo/win/screen_scale.h"
+
+namespace {
+
+constexpr int kLine = 20, kMargin = 8; // pixels at 96 dpi
+constexpr int kLinesOfWheel = 3;
+
+// The way to go so that [low, high] is within [0, end], and its beginning in any case.
+int WayTo(LONG low, LONG high, LONG end) {
+    const LONG margin = ScreenPixels(kMargin);
+    if (low < 0) return static_cast<int>(low - margin);
+    return high > end ? static_cast<int>(std::min(high - end + margin, low)) : 0;
+}
+
+int WayOf(const SCROLLINFO& info, int code) {
+    switch (code) {
+    case SB_LINEUP:
+        return -ScreenPixels(kLine);
+    case SB_LINEDOWN:
+        return ScreenPixels(kLine);
+    case SB_PAGEUP:
+        return -static_cast<int>(info.nPage);
+    case SB_PAGEDOWN:
+        return static_cast<int>(info.nPage);
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+        return info.nTrackPos - info.nPos;
+    case SB_TOP:
+        return -info.nPos;
+    case SB_BOTTOM:
+        return info.nMax;
+    default:
+        return 0;
+    }
+}
+
+// The client area without scroll bars.
+CSize RoomIn(HWND window) {
+    RECT client;
+    ::GetClientRect(window, &client);
+    const LONG style = ::GetWindowLongA(window, GWL_STYLE);
+    return CSize(client.right + (style & WS_VSCROLL ? ::GetSystemMetrics(SM_CXVSCROLL) : 0),
+                 client.bottom + (style & WS_HSCROLL ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
+}
+
+void SetBar(HWND window, int bar, int contents, int room) {
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_PAGE | SIF_RANGE;
+    info.nMax = std::max(contents - 1, 0);
+    info.nPage = static_cast<UINT>(std::max(room, 0));
+    ::SetScrollInfo(window, bar, &info, TRUE);
+}
+
+} // namespace
+
+void ScrollArea::SetContents(HWND window, CSize contents) {
+    m_contents = contents;
+    ArrangeBars(window);
+}
+
+// A bar takes room from the other direction, and so can make the other bar necessary.
+void ScrollArea::ArrangeBars(HWND window) {
+    const CSize room = RoomIn(window);
+    const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL), barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
+    const bool tall = m_contents.cy > room.cy || (m_contents.cx > room.cx && m_contents.cy > room.cy - barHeight);
+    const int width = room.cx - (tall ? barWidth : 0);
+    const int height = room.cy - (m_contents.cx > width ? barHeight : 0);
+    SetBar(window, SB_VERT, m_contents.cy, height);
+    SetBar(window, SB_HORZ, m_contents.cx, width);
+    ScrollBy(window, CSize());
+}
+
+// Scrolls as far as the bars allow.
+void ScrollArea::ScrollBy(HWND window, CSize pixels) {
+    const auto move = [window](int bar, int way) {
+        ::SetScrollPos(window, bar, ::GetScrollPos(window, bar) + way, TRUE);
+        return -::GetScrollPos(window, bar);
+    };
+    const CPoint place(move(SB_HORZ, pixels.cx), move(SB_VERT, pixels.cy));
+    if (place == m_place) return;
+    const CPoint before = m_place;
+    m_place = place; // first: the call can send messages
+    ::ScrollWindowEx(window, place.x - before.x, place.y - before.y, nullptr, nullptr, nullptr, nullptr,
+                     SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+}
+
+void ScrollArea::Scroll(HWND window, int bar, int code) {
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    ::GetScrollInfo(window, bar, &info);
+    const int way = WayOf(info, code);
+    ScrollBy(window, bar == SB_VERT ? CSize(0, way) : CSize(way, 0));
+}
+
+bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_SIZE:
+        ArrangeBars(window);
+        return false;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+        if (lParam != 0) return false; // of a control
+        Scroll(window, message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
+        return true;
+    case WM_MOUSEWHEEL:
+        ScrollBy(window, CSize(0, ::MulDiv(-static_cast<short>(HIWORD(wParam)), kLinesOfWheel * ScreenPixels(kLine),
+                                           WHEEL_DELTA)));
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ScrollArea::Reveal(HWND window, HWND control) {
+    RECT client, place;
+    ::GetClientRect(window, &client);
+    ::GetWindowRect(control, &place);
+    ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    ScrollBy(window,
+             CSize(WayTo(place.left, place.right, client.right), WayTo(place.top, place.bottom, client.bottom)));
+}
