@@ -35,6 +35,11 @@ int FailWithPrompt(int bReport, CDataExchange* pDX, UINT nIDPrompt, UINT nType) 
     return FailExchange(bReport, pDX);
 }
 
+int FailTextRange(int bReport, CDataExchange* pDX, const char* min, const char* max, UINT nIDPrompt) {
+    if (!pDX->m_bSaveAndValidate) return 1;
+    return bReport ? FailWithLimits(pDX, min, max, nIDPrompt) : 0;
+}
+
 int FailIntRange(int bReport, CDataExchange* pDX, long min, long max, const char* format, UINT nIDPrompt) {
     if (!pDX->m_bSaveAndValidate) return 1;
     if (!bReport) return 0;

@@ -12,4 +12,5 @@ int FailWithPrompt(int bReport, CDataExchange* pDX, UINT nIDPrompt, UINT nType =
 // Handle a value outside its limits: return 1 when loading, else fail with a message that includes both limits. Integer
 // limits are formatted with format ("%u", "%ld" or "%lu"), real ones with that many digits.
 int FailIntRange(int bReport, CDataExchange* pDX, long min, long max, const char* format, UINT nIDPrompt);
+int FailTextRange(int bReport, CDataExchange* pDX, const char* min, const char* max, UINT nIDPrompt);
 int FailRealRange(int bReport, CDataExchange* pDX, double min, double max, int digits, UINT nIDPrompt);

@@ -40,6 +40,8 @@
 #include "orlo/frame/orlo_property_sheet.h"
 #include "orlo/host/host.h"
 #include "orlo/pages/brush_page.h"
+#include "orlo/pages/field_page.h"
+#include "orlo/pages/field_row.h"
 #include "orlo/pages/general_page.h"
 #include "orlo/pages/line_page.h"
 #include "orlo/pages/text_page.h"

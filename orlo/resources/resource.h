@@ -48,6 +48,10 @@
 #define IDS_CHECK 129
 #define IDS_UNCHECK 130
 
+// Further messages of the exchange functions.
+#define IDS_ENTER_LENGTH 131
+#define IDS_ENTER_DATE 132
+
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 

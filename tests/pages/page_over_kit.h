@@ -34,6 +34,7 @@ protected:
         TestSheet sheet(kit);
         for (size_t i = 0; i < kit.Size(); ++i)
             ::AddGraphicPropertyPage(nullptr, kit[i].graphic, &sheet.Sheet());
+        if (addPages) addPages(sheet.Sheet());
         return sheet.Run([&](SheetDriver& user) {
             auto* page = sheet.Sheet().FindPage(m_page);
             ASSERT_NE(page, nullptr);
@@ -120,6 +121,7 @@ protected:
     static constexpr unsigned int kDarkest = 0x333333; // the first of the numbered colors in color order
     GraphicKit kit;
     HostFrame frame;
+    std::function<void(CGraphicPropertySheet& sheet)> addPages; // besides the library's
 
 private:
     static std::string KeyOf(const std::string& item) { return item.substr(0, item.find('\t')); }

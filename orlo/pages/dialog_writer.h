@@ -1,0 +1,40 @@
+// Writes a dialog template in memory, in the format of a dialog resource.
+#pragma once
+
+#include <string>
+#include <vector>
+#include <windows.h>
+
+#include "orlo/win/gdi.h"
+
+// One control; place and size in dialog units.
+struct DialogItem {
+    const char* className = "";
+    DWORD style = 0; // WS_CHILD and WS_VISIBLE are added
+    short x = 0, y = 0, cx = 0, cy = 0;
+    WORD id = 0xFFFF;
+    std::string text; // in the code page of the system
+};
+
+// Returns a template with that title and size (dialog units), in the font of the library's own templates.
+std::vector<BYTE> WriteDialogTemplate(const std::string& title, SIZE size, const std::vector<DialogItem>& items);
+
+// Lays the dialog out from right to left, or from left to right.
+void SetTemplateDirection(std::vector<BYTE>& dialog, bool fromRightToLeft);
+
+// Measures texts in that font.
+class DialogFont {
+public:
+    DialogFont();
+
+    // Returns the width of a text in dialog units, rounded up; the ampersand of a mnemonic has none.
+    int Width(const std::string& text) const;
+    // Returns how many lines the text has at that width in dialog units, broken between words.
+    int Lines(const std::string& text, int width) const;
+
+private:
+    orlo::WindowDC m_screen;
+    orlo::OwnedFont m_font;
+    orlo::SelectedObject m_selected;
+    int m_unitsWidth; // pixels of four horizontal dialog units
+};

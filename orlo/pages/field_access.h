@@ -1,0 +1,27 @@
+// The properties of a page's rows: those with callbacks of the host, and the property tables for the others.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "orlo/binding/object_set.h"
+#include "orlo/pages/field_row.h"
+
+class FieldAccess : public PropertyAccess {
+public:
+    explicit FieldAccess(const FieldTable& table) : m_table(table) {}
+
+    // A row with callbacks, and the name by which the page knows its property. The row must outlive the object.
+    void Add(const std::string& property, const FieldRow& row) { m_rows[property] = &row; }
+
+    bool Find(GraphicStruct* graphic, const char* name, int32_t& number) override;
+    void Get(GraphicStruct* graphic, int32_t number, int vt, void* value) override;
+    int Set(GraphicStruct* graphic, int32_t number, int vt, const void* value) override;
+
+private:
+    const FieldTable& m_table;
+    std::map<std::string, const FieldRow*, std::less<>> m_rows;
+    // Of the last Find: the row, null for a property of the table, and its value.
+    const FieldRow* m_found = nullptr;
+    FieldValue m_value;
+};
