@@ -34,6 +34,8 @@ constexpr std::array kWordings = {
 std::error_condition ConditionOf(const std::error_code& error) {
 #ifdef _WIN32
     if (error.category() == std::system_category()) switch (error.value()) {
+        case ERROR_INVALID_NAME: // such as one with a wildcard
+            return std::errc::no_such_file_or_directory;
         case ERROR_PATH_NOT_FOUND:
         case ERROR_DIRECTORY:
             return std::errc::not_a_directory;

@@ -220,6 +220,10 @@ void RemoveAndEnd(int signal) {
 
 } // namespace
 
+bool RequireReplaceable(const fs::path& target) {
+    return FileBehind(target).isThere;
+}
+
 FileReplacement::FileReplacement(const fs::path& target) {
     Found found = FileBehind(target);
     target_ = std::move(found.path);

@@ -15,6 +15,10 @@
 
 namespace files {
 
+// Throws FileError if a FileReplacement of this target would throw for the target's sake. Returns false if there is no
+// such file yet.
+bool RequireReplaceable(const std::filesystem::path& target);
+
 class FileReplacement {
 public:
     // Creates the empty temporary file. Throws FileError if the target is read-only or not a regular file, or if no

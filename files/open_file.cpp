@@ -100,6 +100,20 @@ OpenFile OpenToRead(const std::filesystem::path& path) {
     return file;
 }
 
+OpenFile OpenAgainstWriters(const std::filesystem::path& path) {
+#ifdef _WIN32
+    const auto open = [&path](DWORD access, DWORD sharing) {
+        OpenFile file(::CreateFileW(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
+        if (!file) FailToOpen(path);
+        return file;
+    };
+    open(GENERIC_READ | GENERIC_WRITE, 0); // readers, too, would go on with what they have read
+    return open(GENERIC_READ, FILE_SHARE_READ);
+#else
+    return OpenToRead(path);
+#endif
+}
+
 OpenFile OpenToWrite(const std::filesystem::path& path) {
 #ifdef _WIN32
     OpenFile file = OpenShared(path, GENERIC_WRITE);

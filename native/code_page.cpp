@@ -92,17 +92,11 @@ wint_t Upper(wint_t letter) {
     return ::towlower_l(upper, kAllScripts) == letter ? upper : letter;
 }
 
-// In units of 16 bits, as storages compare names.
-std::optional<std::string> Folded(std::string_view utf8) {
-    std::optional<std::string> units = Utf8ToCodePage(utf8, kCodePageUtf16);
-    if (!units) return std::nullopt;
-    for (size_t i = 0; i + 1 < units->size(); i += 2) {
-        const wint_t unit =
-            Upper(static_cast<uint8_t>((*units)[i]) | wint_t{static_cast<uint8_t>((*units)[i + 1])} << 8);
-        (*units)[i] = static_cast<char>(unit);
-        (*units)[i + 1] = static_cast<char>(unit >> 8);
-    }
-    return units;
+std::u16string Folded(std::u16string_view name) {
+    std::u16string folded(name);
+    for (char16_t& unit : folded)
+        unit = static_cast<char16_t>(Upper(unit));
+    return folded;
 }
 
 } // namespace
@@ -133,8 +127,12 @@ std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePa
 
 bool IsSameName(std::string_view a, std::string_view b) {
     if (a == b) return true;
-    const auto first = Folded(a), second = Folded(b);
-    return first && first == second;
+    const auto first = ToUtf16(a), second = ToUtf16(b);
+    return first && second && CompareNames(*first, *second) == 0;
+}
+
+int CompareNames(std::u16string_view a, std::u16string_view b) {
+    return Folded(a).compare(Folded(b));
 }
 
 } // namespace orlo

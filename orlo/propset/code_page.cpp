@@ -50,6 +50,10 @@ std::optional<std::string> CheckedFromWide(std::wstring_view wide, UINT codePage
     return text;
 }
 
+int Compare(std::wstring_view a, std::wstring_view b) {
+    return ::CompareStringOrdinal(a.data(), Length(a.size()), b.data(), Length(b.size()), TRUE) - CSTR_EQUAL;
+}
+
 } // namespace
 
 std::optional<std::string> CodePageToUtf8(std::string_view text, uint16_t codePage) {
@@ -74,9 +78,14 @@ std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePa
 bool IsSameName(std::string_view a, std::string_view b) {
     if (a == b) return true;
     const auto first = CheckedToWide(a, CP_UTF8), second = CheckedToWide(b, CP_UTF8);
-    return first && second &&
-           ::CompareStringOrdinal(first->data(), Length(first->size()), second->data(), Length(second->size()), TRUE) ==
-               CSTR_EQUAL;
+    return first && second && Compare(*first, *second) == 0;
+}
+
+int CompareNames(std::u16string_view a, std::u16string_view b) {
+    const auto wide = [](std::u16string_view name) {
+        return std::wstring_view(reinterpret_cast<const wchar_t*>(name.data()), name.size());
+    };
+    return Compare(wide(a), wide(b));
 }
 
 } // namespace orlo

@@ -30,6 +30,8 @@ inline bool IsPlainText(std::string_view text, uint16_t codePage) {
 
 // Returns true if two UTF-8 names differ at most in case, the way storages and dictionaries compare names.
 ORLO_API bool IsSameName(std::string_view a, std::string_view b);
+// Compares names by the upper case of their code units: negative, 0 or positive, as storages order names of one length.
+int CompareNames(std::u16string_view a, std::u16string_view b);
 
 // Returns the text in that code page, or nothing if it cannot represent every character.
 ORLO_API std::optional<std::string> Utf8ToCodePage(std::string_view utf8, uint16_t codePage);

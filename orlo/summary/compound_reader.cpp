@@ -10,18 +10,12 @@
 #include "orlo/summary/bytes.h"
 
 namespace orlo {
+
+using namespace compound;
+
 namespace {
 
-constexpr size_t kEntryBytes = 128;
-constexpr size_t kNameBytes = 64;
-constexpr size_t kShortSectorBytes = 64;
-constexpr uint32_t kShorterAreShort = 4096;     // size in bytes
-constexpr uint32_t kHighestSector = 0xFFFFFFFA; // special values are greater
-constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector or no entry
-constexpr size_t kTablesInHeader = 109;
-constexpr size_t kDeepestStorage = 64; // deeper than in any real document
-
-enum Kind : uint8_t { kFree = 0, kStorage = 1, kStream = 2, kRoot = 5 };
+constexpr size_t kDeepestStorage = 64; // no document has more
 
 uint64_t Pieces(uint64_t size, size_t each) {
     return size / each + (size % each != 0);
@@ -44,6 +38,7 @@ bool MayFollow(const std::u16string& before, const std::u16string& after) {
 }
 
 struct Entry {
+    EntryBytes record;
     std::u16string name;
     bool isNamed;      // the length of the name is valid
     bool isTerminated; // the name ends with a NUL, its only one
@@ -52,10 +47,11 @@ struct Entry {
     uint64_t size;
 
     Entry(const uint8_t* at, bool wideSizes)
-        : kind(at[66]), left(LittleEndian<uint32_t>(at + 68)), right(LittleEndian<uint32_t>(at + 72)),
-          child(LittleEndian<uint32_t>(at + 76)), start(LittleEndian<uint32_t>(at + 116)),
-          size(wideSizes ? LittleEndian<uint64_t>(at + 120) : LittleEndian<uint32_t>(at + 120)) {
-        const auto nameBytes = LittleEndian<uint16_t>(at + 64); // the stored length includes the NUL
+        : kind(at[kEntryKind]), left(LittleEndian<uint32_t>(at + kLeft)), right(LittleEndian<uint32_t>(at + kRight)),
+          child(LittleEndian<uint32_t>(at + kChild)), start(LittleEndian<uint32_t>(at + kStart)),
+          size(wideSizes ? LittleEndian<uint64_t>(at + kSize) : LittleEndian<uint32_t>(at + kSize)) {
+        std::copy_n(at, kEntryBytes, record.begin());
+        const auto nameBytes = LittleEndian<uint16_t>(at + kNameSize); // its NUL is one of them
         isNamed = nameBytes >= 2 && nameBytes <= kNameBytes && nameBytes % 2 == 0;
         for (size_t i = 0; isNamed && i < nameBytes; i += 2)
             name.push_back(LittleEndian<uint16_t>(at + i));
@@ -68,6 +64,7 @@ struct Storage {
     uint32_t firstEntry;
     std::u16string path; // including a trailing slash
     size_t depth;
+    size_t element; // among the elements
 };
 
 } // namespace
@@ -79,13 +76,17 @@ public:
     CompoundState State() const { return state_; }
     const std::vector<std::string>& Damage() const { return damage_; }
     const std::vector<CompoundStream>& Streams() const { return streams_; }
-    std::vector<uint8_t> Read(const CompoundStream& stream) const;
+    const std::vector<CompoundElement>& Elements() const { return elements_; }
+    const HeaderBytes& Header() const { return header_; }
+    std::vector<uint32_t> SectorsOf(const CompoundStream& stream) const;
+    bool ReadPiece(const CompoundStream& stream, const std::vector<uint32_t>& sectors, uint64_t offset,
+                   std::vector<uint8_t>& piece) const;
 
 private:
     void Damaged(std::string what, CompoundState state = CompoundState::unsafe);
     bool ReadHeader();
     void CheckHeader();
-    uint32_t Header(size_t offset) const;
+    uint32_t HeaderNumber(size_t offset) const;
     void Count(const char* what, size_t offset, size_t found);
     void ReadSector(uint32_t sector, uint8_t* bytes, const char* what);
     std::vector<uint8_t> Sectors(const std::vector<uint32_t>& sectors, const char* what);
@@ -110,7 +111,7 @@ private:
 
     ReadAt read_;
     uint64_t fileSize_;
-    std::array<uint8_t, 512> header_ = {};
+    HeaderBytes header_ = {};
     CompoundState state_ = CompoundState::foreign;
     size_t sectorBytes_ = 0;
     bool hasWideSizes_ = false; // streams may have 4 GB or more
@@ -120,6 +121,7 @@ private:
     std::vector<uint32_t> shortStreams_; // sectors of the stream that contains the short streams
     std::vector<std::string> damage_;
     std::vector<CompoundStream> streams_;
+    std::vector<CompoundElement> elements_;
 };
 
 CompoundReader::Structure::Structure(ReadAt read, uint64_t size) : read_(std::move(read)), fileSize_(size) {
@@ -139,7 +141,7 @@ void CompoundReader::Structure::Damaged(std::string what, CompoundState state) {
     state_ = std::max(state_, state);
 }
 
-uint32_t CompoundReader::Structure::Header(size_t offset) const {
+uint32_t CompoundReader::Structure::HeaderNumber(size_t offset) const {
     return LittleEndian<uint32_t>(header_.data() + offset);
 }
 
@@ -148,7 +150,7 @@ bool CompoundReader::Structure::ReadHeader() {
     if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
     if (!std::equal(kCompoundSignature.begin(), kCompoundSignature.end(), header_.begin())) return false;
     state_ = CompoundState::sound;
-    const auto shift = LittleEndian<uint16_t>(header_.data() + 30);
+    const auto shift = LittleEndian<uint16_t>(header_.data() + kSectorShift);
     if (shift != 9 && shift != 12) {
         Damaged("the header: sectors of 2^" + std::to_string(shift) + " bytes");
         return false;
@@ -164,19 +166,19 @@ void CompoundReader::Structure::CheckHeader() {
     const auto isFixed = [this](size_t offset, uint16_t value) {
         return LittleEndian<uint16_t>(header_.data() + offset) == value;
     };
-    // Older systems wrote version 3 with long sectors.
-    const bool isVersion = isFixed(26, 3) || (isFixed(26, 4) && sectorBytes_ != 512);
+    // Older systems wrote long sectors under the version of short ones.
+    const bool isVersion = isFixed(kVersion, 3) || (isFixed(kVersion, 4) && sectorBytes_ != 512);
     if (!isVersion) Damaged("the header: its version");
-    hasWideSizes_ = isFixed(26, 4);
-    if (!isFixed(28, 0xFFFE)) Damaged("the header: its byte order");
-    if (!isFixed(32, 6)) Damaged("the header: the size of short sectors");
-    if (Header(56) != kShorterAreShort) Damaged("the header: the limit of short streams");
+    hasWideSizes_ = isFixed(kVersion, 4);
+    if (!isFixed(kByteOrder, 0xFFFE)) Damaged("the header: its byte order");
+    if (!isFixed(kShortSectorShift, 6)) Damaged("the header: the size of short sectors");
+    if (HeaderNumber(kShortLimit) != kShorterAreShort) Damaged("the header: the limit of short streams");
 }
 
 // Compares a number in the header with the number found.
 void CompoundReader::Structure::Count(const char* what, size_t offset, size_t found) {
-    if (Header(offset) == found) return;
-    Damaged(std::string("the header: ") + std::to_string(Header(offset)) + " sectors of " + what + ", and " +
+    if (HeaderNumber(offset) == found) return;
+    Damaged(std::string("the header: ") + std::to_string(HeaderNumber(offset)) + " sectors of " + what + ", and " +
             std::to_string(found) + " are there");
 }
 
@@ -233,16 +235,16 @@ void CompoundReader::Structure::ReadTable() {
         if (sector != kNone && Claim(sector, claimed)) tables.push_back(sector);
     };
     for (size_t i = 0; i < kTablesInHeader; ++i)
-        add(Header(76 + 4 * i));
+        add(HeaderNumber(kTables + 4 * i));
     std::vector<uint32_t> lists;
-    for (uint32_t list = Header(68); list < kHighestSector && Claim(list, claimed);) {
+    for (uint32_t list = HeaderNumber(kListStart); list < kHighestSector && Claim(list, claimed);) {
         const std::vector<uint32_t> numbers = Numbers({list}, kWhat);
         std::for_each(numbers.begin(), numbers.end() - 1, add);
         lists.push_back(list);
         list = numbers.back();
     }
-    Count("the allocation table", 44, tables.size());
-    Count("the list of allocation tables", 72, lists.size());
+    Count("the allocation table", kTableSectors, tables.size());
+    Count("the list of allocation tables", kListSectors, lists.size());
     std::vector<uint32_t> next = Numbers(tables, kWhat);
     table_ = SectorTable(std::move(next), sectors_);
     tables.insert(tables.end(), lists.begin(), lists.end());
@@ -261,8 +263,9 @@ SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const ch
 std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
     constexpr char kWhat[] = "the directory";
     std::vector<Entry> entries;
-    const SectorTable::Chain chain = WalkWhole(Header(48), kWhat);
-    if (hasWideSizes_ && Header(40) != 0) Count(kWhat, 40, chain.length); // older systems did not store it
+    const SectorTable::Chain chain = WalkWhole(HeaderNumber(kDirectoryStart), kWhat);
+    if (hasWideSizes_ && HeaderNumber(kDirectorySectors) != 0)
+        Count(kWhat, kDirectorySectors, chain.length); // older systems left it out
     const std::vector<uint8_t> bytes = Sectors(chain.sectors, kWhat);
     for (size_t at = 0; at < bytes.size(); at += kEntryBytes)
         entries.emplace_back(bytes.data() + at, hasWideSizes_);
@@ -272,8 +275,10 @@ std::vector<Entry> CompoundReader::Structure::ReadDirectory() {
 // Short streams are stored in the root's stream and have their own allocation table.
 void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
     constexpr char kTable[] = "the table of short streams", kStreams[] = "the short streams";
-    const SectorTable::Chain tables = Header(64) == 0 ? SectorTable::Chain() : WalkWhole(Header(60), kTable);
-    Count(kTable, 64, tables.length);
+    const SectorTable::Chain tables = HeaderNumber(kShortTableSectors) == 0
+                                          ? SectorTable::Chain()
+                                          : WalkWhole(HeaderNumber(kShortTableStart), kTable);
+    Count(kTable, kShortTableSectors, tables.length);
     const SectorTable::Chain streams = root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
     const uint64_t there = std::min(root.size, BytesOf(streams.sectors));
     if (streams.length < Pieces(root.size, sectorBytes_))
@@ -289,7 +294,8 @@ void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
 void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
     std::vector<bool> seen(entries.size());
     seen[0] = true;
-    std::vector<Storage> ahead = {{entries[0].child, {}, 0}};
+    elements_.push_back({{}, entries[0].record, 0, std::nullopt});
+    std::vector<Storage> ahead = {{entries[0].child, {}, 0, 0}};
     for (size_t i = 0; i < ahead.size(); ++i)
         WalkStorage(entries, Storage(ahead[i]), seen, ahead);
     AddLost(entries, seen);
@@ -338,10 +344,12 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
         above.pop_back();
         id = entry.right;
         std::u16string path = storage.path + entry.name;
-        if (entry.kind == kStream)
+        elements_.push_back({path, entry.record, storage.element, std::nullopt});
+        if (entry.kind == kStream) {
+            elements_.back().stream = streams_.size();
             AddStream(entry, std::move(path), false);
-        else if (storage.depth < kDeepestStorage)
-            ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1});
+        } else if (storage.depth < kDeepestStorage)
+            ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1, elements_.size() - 1});
         else
             Damaged("the directory: storages in storages, more than " + std::to_string(kDeepestStorage) + " deep");
     }
@@ -400,28 +408,46 @@ uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
     return At(shortStreams_[static_cast<size_t>(inside / sectorBytes_)]) + inside % sectorBytes_;
 }
 
-// Neighboring sectors are read at once, since most streams are contiguous.
-std::vector<uint8_t> CompoundReader::Structure::Read(const CompoundStream& stream) const {
+std::vector<uint32_t> CompoundReader::Structure::SectorsOf(const CompoundStream& stream) const {
+    const bool isShort = IsShort(stream.size);
+    const uint64_t most = std::min(stream.sectors, Pieces(stream.size, isShort ? kShortSectorBytes : sectorBytes_));
+    return (isShort ? shortTable_ : table_).Follow(stream.start, most);
+}
+
+// Appends the bytes from `offset` on, the start of a sector, until the piece is full or the stream ends. Neighboring
+// sectors are read at once: most streams are one run of them. Returns false if bytes are missing.
+bool CompoundReader::Structure::ReadPiece(const CompoundStream& stream, const std::vector<uint32_t>& sectors,
+                                          uint64_t offset, std::vector<uint8_t>& piece) const {
     const bool isShort = IsShort(stream.size);
     const size_t each = isShort ? kShortSectorBytes : sectorBytes_;
-    const uint64_t most = std::min(stream.sectors, Pieces(stream.size, each));
-    const auto sectors = (isShort ? shortTable_ : table_).Follow(stream.start, most);
     const auto at = [&](size_t i) { return isShort ? ShortAt(sectors[i]) : At(sectors[i]); };
-    constexpr size_t kLongestRun = 2048;
-    std::vector<uint8_t> bytes;
-    for (size_t first = 0, next = 0; first < sectors.size(); first = next) {
+    auto first = static_cast<size_t>(offset / each);
+    const size_t end = std::min(sectors.size(), first + CompoundStreamReader::kPieceBytes / each);
+    for (size_t next = first; first < end; first = next) {
         do
             ++next;
-        while (next < sectors.size() && next - first < kLongestRun && at(next) == at(next - 1) + each);
-        const size_t before = bytes.size();
+        while (next < end && at(next) == at(next - 1) + each);
+        const size_t before = piece.size();
         const uint64_t start = at(first);
-        const uint64_t wanted = std::min<uint64_t>((next - first) * each, stream.size - before);
+        const uint64_t wanted = std::min<uint64_t>((next - first) * each, stream.size - first * uint64_t{each});
         const auto there = static_cast<size_t>(start < fileSize_ ? std::min(wanted, fileSize_ - start) : 0);
-        bytes.resize(before + there);
-        if (there == 0 || !read_(start, bytes.data() + before, there)) bytes.resize(before);
-        if (bytes.size() - before != wanted) break;
+        piece.resize(before + there);
+        if (there == 0 || !read_(start, piece.data() + before, there)) piece.resize(before);
+        if (piece.size() - before != wanted) return false;
     }
-    return bytes;
+    return true;
+}
+
+CompoundStreamReader::CompoundStreamReader(const CompoundReader& file, const CompoundStream& stream)
+    : structure_(file.structure_), stream_(&stream), sectors_(structure_->SectorsOf(stream)) {}
+
+bool CompoundStreamReader::Next(std::vector<uint8_t>& piece) {
+    piece.clear();
+    if (hasEnded_) return false;
+    const bool isWhole = structure_->ReadPiece(*stream_, sectors_, offset_, piece);
+    hasEnded_ = !isWhole || piece.size() != kPieceBytes;
+    offset_ += piece.size();
+    return !piece.empty();
 }
 
 CompoundReader::CompoundReader(ReadAt read, uint64_t size)
@@ -440,7 +466,23 @@ const std::vector<CompoundStream>& CompoundReader::Streams() const {
 }
 
 std::vector<uint8_t> CompoundReader::Read(const CompoundStream& stream) const {
-    return structure_->Read(stream);
+    CompoundStreamReader reader(*this, stream);
+    std::vector<uint8_t> bytes, piece;
+    while (reader.Next(piece)) {
+        if (bytes.empty())
+            bytes.swap(piece);
+        else
+            bytes.insert(bytes.end(), piece.begin(), piece.end());
+    }
+    return bytes;
+}
+
+const std::vector<CompoundElement>& CompoundReader::Elements() const {
+    return structure_->Elements();
+}
+
+const HeaderBytes& CompoundReader::Header() const {
+    return structure_->Header();
 }
 
 } // namespace orlo

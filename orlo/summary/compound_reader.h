@@ -11,10 +11,12 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "orlo/export.h"
+#include "orlo/summary/compound_format.h"
 #include "orlo/summary/sector_table.h"
 
 namespace orlo {
@@ -42,6 +44,14 @@ struct CompoundStream {
     bool isLost;         // not reachable from the directory, so invisible to the system
 };
 
+// The root, a storage or a stream, as the directory has it.
+struct CompoundElement {
+    std::u16string path; // as in CompoundStream; empty for the root
+    compound::EntryBytes record;
+    size_t storage;               // index of the storage that contains it
+    std::optional<size_t> stream; // index among the streams; nothing for a storage
+};
+
 class CompoundReader {
 public:
     // Reads the complete structure of a file of `size` bytes. Each sector and each entry is followed only once: time
@@ -57,9 +67,36 @@ public:
     // Returns the bytes of one of these streams, up to its first damage.
     ORLO_API std::vector<uint8_t> Read(const CompoundStream& stream) const;
 
+    // Everything that the directory leads to: the root first, the elements of a storage in the order of their names.
+    // Empty for a file without a root.
+    const std::vector<CompoundElement>& Elements() const;
+    // Zeros for a foreign file.
+    const compound::HeaderBytes& Header() const;
+
 private:
+    friend class CompoundStreamReader;
     class Structure;
     std::shared_ptr<const Structure> structure_;
+};
+
+// Reads a stream piece by piece, so that a long one is never in memory as a whole.
+class CompoundStreamReader {
+public:
+    static constexpr size_t kPieceBytes = size_t{1} << 20;
+
+    // The stream, one of the file's Streams(), must exist as long.
+    CompoundStreamReader(const CompoundReader& file, const CompoundStream& stream);
+
+    // Stores the next bytes: kPieceBytes, or fewer in the last piece. Returns false at the end of the stream, or before
+    // its damage.
+    bool Next(std::vector<uint8_t>& piece);
+
+private:
+    std::shared_ptr<const CompoundReader::Structure> structure_;
+    const CompoundStream* stream_;
+    std::vector<uint32_t> sectors_;
+    uint64_t offset_ = 0;
+    bool hasEnded_ = false;
 };
 
 } // namespace orlo

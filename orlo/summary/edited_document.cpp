@@ -1,72 +1,57 @@
-// Edits a copy of a compound file with the system's functions and verifies it with CompoundReader.
+// The copy is laid out anew and compared with the file piece by piece.
 
 #include "orlo/summary/edited_document.h"
 
 #include <algorithm>
-#include <windows.h>
-
-#include <objbase.h>
 
 #include "files/file_error.h"
 #include "files/file_replacement.h"
 #include "files/open_file.h"
 #include "orlo/propset/code_page.h"
-#include "orlo/win/com_owner.h"
-#include "orlo/win/encoded_text.h"
+#include "orlo/summary/compound_writer.h"
 
 namespace orlo {
 namespace {
 
-constexpr DWORD kWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr char kUnlikeIntended[] = "the file was left unchanged: verification of the new copy failed";
+constexpr char kChangedMeanwhile[] = "the file was changed meanwhile";
 
-// Throws if a storage function failed; results are system error codes.
-void Check(HRESULT result, const std::string& what) {
-    if (FAILED(result)) throw files::FileError(what, {HRESULT_CODE(result), std::system_category()});
-}
-
-files::OpenFile Open(const std::filesystem::path& file, DWORD access, DWORD sharing) {
-    files::OpenFile opened(::CreateFileW(file.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!opened) files::ThrowLastError("the file cannot be opened");
-    return opened;
-}
-
-// Another program that has the file open would continue with the old file, or overwrite the new one.
-const std::filesystem::path& RequireNotInUse(const std::filesystem::path& file) {
-    Open(file, GENERIC_READ | GENERIC_WRITE, 0);
-    return file;
-}
-
-void WriteStream(IStorage& storage, const std::string& name, const Bytes& bytes) {
-    const std::wstring wide = Widen(name, CP_UTF8);
-    Owned<IStream> stream;
-    // An existing stream keeps its position and the case of its name.
-    HRESULT result = storage.OpenStream(wide.c_str(), nullptr, kWriting, 0, Receive(stream));
-    if (result == STG_E_FILENOTFOUND)
-        result = storage.CreateStream(wide.c_str(), kWriting | STGM_FAILIFTHERE, 0, 0, Receive(stream));
-    ULARGE_INTEGER size;
-    size.QuadPart = bytes.size();
-    if (SUCCEEDED(result)) result = stream->SetSize(size);
-    ULONG written = 0;
-    if (SUCCEEDED(result)) result = stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), &written);
-    if (SUCCEEDED(result) && written != bytes.size()) result = STG_E_MEDIUMFULL;
-    Check(result, "the stream cannot be written");
-}
-
-void WriteStreams(const std::filesystem::path& file, bool isNew, const std::map<std::string, Bytes>& streams) {
-    constexpr char kNotWritten[] = "the file cannot be written";
-    Owned<IStorage> storage;
-    Check(isNew ? ::StgCreateDocfile(file.c_str(), kWriting | STGM_CREATE, 0, Receive(storage))
-                : ::StgOpenStorage(file.c_str(), nullptr, kWriting, nullptr, 0, Receive(storage)),
-          kNotWritten);
-    for (const auto& [name, bytes] : streams)
-        WriteStream(*storage, name, bytes);
-    Check(storage->Commit(STGC_DEFAULT), kNotWritten);
+std::u16string StreamNameFrom(const std::string& utf8) {
+    const auto units = Utf8ToCodePage(utf8, kCodePageUtf16);
+    const std::u16string name =
+        units ? std::u16string(reinterpret_cast<const char16_t*>(units->data()), units->size() / 2) : u"";
+    if (!IsStreamName(name)) throw files::FileError("the stream cannot be written: this is not a name of a stream");
+    return name;
 }
 
 std::optional<Bytes> ReadStream(const CompoundReader& file, const std::string& name) {
     const CompoundStream* stream = FindStream(file, name);
     return stream ? std::optional<Bytes>(file.Read(*stream)) : std::nullopt;
+}
+
+// Name, kind, class, state bits and times; the rest of a record is the place in the tree and in the file.
+bool IsSameEntry(const CompoundElement& a, const CompoundElement& b) {
+    using namespace compound;
+    const auto isSame = [&](size_t begin, size_t end) {
+        return std::equal(a.record.begin() + begin, a.record.begin() + end, b.record.begin() + begin);
+    };
+    return a.path == b.path && isSame(0, kColor) && isSame(kClassId, kStart);
+}
+
+bool IsSameStream(const CompoundReader& a, const CompoundElement& inA, const CompoundReader& b,
+                  const CompoundElement& inB) {
+    if (!inA.stream || !inB.stream) return inA.stream == inB.stream;
+    const CompoundStream &first = a.Streams()[*inA.stream], &second = b.Streams()[*inB.stream];
+    if (first.size != second.size) return false;
+    CompoundStreamReader firstReader(a, first), secondReader(b, second);
+    Bytes piece, other;
+    uint64_t compared = 0;
+    while (firstReader.Next(piece)) {
+        secondReader.Next(other);
+        if (piece != other) return false;
+        compared += piece.size();
+    }
+    return compared == first.size;
 }
 
 } // namespace
@@ -77,18 +62,15 @@ UnfitDocument::~UnfitDocument() = default;
 class EditedDocument::Original {
 public:
     explicit Original(const std::filesystem::path& file)
-        : guard(Open(RequireNotInUse(file), GENERIC_READ, FILE_SHARE_READ)), reader(OpenCompoundFile(file)) {}
+        : guard(files::OpenAgainstWriters(file)), reader(OpenCompoundFile(file)) {}
 
-    const files::OpenFile guard; // locks out writers
+    const files::OpenFile guard;
     const CompoundReader reader;
 };
 
 EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMissing) : path_(file) {
-    const DWORD attributes = ::GetFileAttributesW(file.c_str());
-    const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
-    if (!isThere && ifMissing == IfMissing::Create) return;
-    // some systems let administrators write anyway
-    if (isThere && (attributes & FILE_ATTRIBUTE_READONLY)) throw files::FileError("the file is read-only");
+    // Some systems let an administrator write a read-only file nevertheless.
+    if (!files::RequireReplaceable(file) && ifMissing == IfMissing::Create) return;
     original_ = std::make_unique<Original>(file);
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
     if (original_->reader.State() != CompoundState::sound)
@@ -103,49 +85,64 @@ std::optional<Bytes> EditedDocument::Read(const std::string& name) const {
 }
 
 void EditedDocument::Write(const std::string& name, Bytes bytes) {
-    written_[name] = std::move(bytes);
+    const std::u16string key = StreamNameFrom(name);
+    const auto same = std::find_if(written_.begin(), written_.end(),
+                                   [&](const auto& written) { return CompareNames(written.first, key) == 0; });
+    (same != written_.end() ? same->second : written_[key]) = std::move(bytes);
 }
 
 void EditedDocument::Commit() {
     if (written_.empty()) return;
     files::FileReplacement copy(path_);
-    if (original_ && !::CopyFileW(copy.Target().c_str(), copy.Path().c_str(), FALSE))
-        files::ThrowLastError("the file cannot be copied");
-    WriteStreams(copy.Path(), !original_, written_);
+    {
+        const files::OpenFile file = files::OpenToWrite(copy.Path());
+        WriteCompoundFile(original_ ? &original_->reader : nullptr, written_,
+                          [&file](std::string_view bytes) { files::Append(file.get(), bytes); });
+    }
     Check(copy.Path());
     original_.reset();
     copy.TakePlace();
 }
 
-bool EditedDocument::IsWritten(const CompoundStream& stream) const {
-    const std::string path =
-        Narrow(std::wstring_view(reinterpret_cast<const wchar_t*>(stream.path.data()), stream.path.size()), CP_UTF8);
-    return std::any_of(written_.begin(), written_.end(),
-                       [&](const auto& written) { return IsSameName(written.first, path); });
+// The elements of a file that were not written.
+std::vector<const CompoundElement*> EditedDocument::KeptIn(const CompoundReader& file) const {
+    std::vector<const CompoundElement*> kept;
+    for (const CompoundElement& element : file.Elements()) {
+        const bool isWritten = std::any_of(written_.begin(), written_.end(), [&](const auto& written) {
+            return CompareNames(written.first, element.path) == 0;
+        });
+        if (!isWritten) kept.push_back(&element);
+    }
+    return kept;
 }
 
-// Verifies that the copy is intact, contains everything that was written, and is otherwise equal to the file.
-void EditedDocument::Check(const std::filesystem::path& copy) const {
-    const CompoundReader after = OpenCompoundFile(copy);
-    std::map<std::u16string, const CompoundStream*> streams;
-    for (const CompoundStream& stream : after.Streams())
-        streams[stream.path] = &stream;
-    bool isGood = after.State() == CompoundState::sound;
-    size_t kept = 0;
+bool EditedDocument::HasWritten(const CompoundReader& copy) const {
+    return std::all_of(written_.begin(), written_.end(), [&](const auto& written) {
+        const auto& elements = copy.Elements();
+        const auto found = std::find_if(elements.begin(), elements.end(), [&](const CompoundElement& element) {
+            return CompareNames(written.first, element.path) == 0;
+        });
+        return found != elements.end() && found->stream && copy.Read(copy.Streams()[*found->stream]) == written.second;
+    });
+}
+
+// The copy is sound, has everything that was written, and all else as the file has it now.
+void EditedDocument::Check(const std::filesystem::path& path) const {
+    const CompoundReader copy = OpenCompoundFile(path);
+    const std::vector<const CompoundElement*> copied = KeptIn(copy);
+    bool isGood = copy.State() == CompoundState::sound && HasWritten(copy) &&
+                  copied.size() + written_.size() == copy.Elements().size();
     if (original_) {
         const CompoundReader now = OpenCompoundFile(path_);
-        for (const CompoundStream& stream : now.Streams()) {
-            if (IsWritten(stream)) continue;
-            const auto found = streams.find(stream.path);
-            isGood = isGood && found != streams.end() && after.Read(*found->second) == now.Read(stream);
-            ++kept;
-        }
         for (const auto& [name, bytes] : read_)
-            if (ReadStream(now, name) != bytes) throw files::FileError("the file was changed meanwhile");
+            if (ReadStream(now, name) != bytes) throw files::FileError(kChangedMeanwhile);
+        const std::vector<const CompoundElement*> kept = KeptIn(now);
+        const auto isSame = [&](const CompoundElement* a, const CompoundElement* b) {
+            return IsSameEntry(*a, *b) && IsSameStream(now, *a, copy, *b);
+        };
+        isGood = isGood && std::equal(kept.begin(), kept.end(), copied.begin(), copied.end(), isSame);
     }
-    for (const auto& [name, bytes] : written_)
-        isGood = isGood && ReadStream(after, name) == bytes;
-    if (!isGood || after.Streams().size() != kept + written_.size()) throw files::FileError(kUnlikeIntended);
+    if (!isGood) throw files::FileError(kUnlikeIntended);
 }
 
 } // namespace orlo

@@ -14,6 +14,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "orlo/propset/inspect/value.h"
 #include "orlo/summary/compound_file.h"
@@ -31,8 +32,8 @@ class EditedDocument {
 public:
     enum class IfMissing { Fail, Create };
 
-    // Locks the file against writing by other programs until Commit. Throws if another program has it open, or if it is
-    // read-only or damaged.
+    // Throws if the file is read-only or damaged. On Windows no other program can write it until Commit, and the call
+    // throws if another program has it open.
     ORLO_API explicit EditedDocument(const std::filesystem::path& file, IfMissing ifMissing = IfMissing::Fail);
     ORLO_API ~EditedDocument();
 
@@ -46,13 +47,14 @@ public:
 private:
     class Original;
 
-    bool IsWritten(const CompoundStream& stream) const;
-    void Check(const std::filesystem::path& copy) const;
+    std::vector<const CompoundElement*> KeptIn(const CompoundReader& file) const;
+    bool HasWritten(const CompoundReader& copy) const;
+    void Check(const std::filesystem::path& path) const;
 
     std::filesystem::path path_;
     std::unique_ptr<Original> original_; // null for a new file
-    std::map<std::string, Bytes> written_;
-    mutable std::map<std::string, std::optional<Bytes>> read_; // the contents that edits are based on
+    std::map<std::u16string, Bytes> written_;
+    mutable std::map<std::string, std::optional<Bytes>> read_; // what edits are based on
 };
 
 } // namespace orlo

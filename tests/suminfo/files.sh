@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# suminfo on real disks: links, permissions, and full disks.
-#   files.sh SUMINFO DOCUMENTS FOLDER
-# Exits with 77 if it cannot mount a disk.
+# What suminfo does to files on disks as they are: links, permissions, too little room. files.sh "COMMAND" DOCUMENTS FOLDER
+# Ends with 77 where it may not mount a disk of its own.
 set -euo pipefail
 program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3
 
-suminfo() { timeout -k 5 60 wine "$program" "$@"; }
+# shellcheck disable=SC2086 # the command is words
+suminfo() { timeout -k 5 60 $program "$@"; }
 fail() { printf '%s\n' "$*"; exit 1; }
 only_file() { [ "$(ls -A "$(dirname "$1")")" = "$(basename "$1")" ] || fail "$2: beside it is $(ls -A "$(dirname "$1")")"; }
 edit() { suminfo set "$1" "title=$(printf 't%.0s' {1..9000})" --custom New=int:1; }

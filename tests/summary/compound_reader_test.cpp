@@ -7,11 +7,16 @@
 #include <gtest/gtest.h>
 
 #include "compound_bytes.h"
+#include "made_compound_file.h"
 #include "picture_bytes.h"
 #include "tests/support/file_bytes.h"
 
 using orlo::CompoundState;
 namespace fs = std::filesystem;
+
+using orlo::compound::kChild;
+using orlo::compound::kSize;
+using orlo::compound::kStart;
 
 namespace {
 
@@ -23,16 +28,6 @@ CompoundState StateOf(const ByteVector& file) {
 
 ByteVector Load(const char* name) {
     return FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / name);
-}
-
-uint32_t Number(const ByteVector& file, size_t offset) {
-    uint32_t number;
-    std::memcpy(&number, file.data() + offset, sizeof number);
-    return number;
-}
-
-void Put(ByteVector& file, size_t offset, uint32_t number) {
-    std::memcpy(file.data() + offset, &number, sizeof number);
 }
 
 size_t SectorAt(uint32_t sector) {
@@ -49,7 +44,7 @@ uint32_t DirectoryOf(const ByteVector& file) {
 size_t EntryAt(const ByteVector& file, uint32_t entry) {
     return SectorAt(DirectoryOf(file)) + 128 * entry;
 }
-constexpr size_t kName = 0, kChild = 76, kStart = 116, kSize = 120;
+constexpr size_t kName = 0;
 
 // Appends sectors for the first stream after the others and returns the last. The file ends after `there` bytes of
 // them.
@@ -97,58 +92,6 @@ TEST(CompoundReader, CutFiles) {
             most = std::max(most, file.Read(stream).size());
     }
     EXPECT_GT(most, 3000u);
-}
-
-void PutShort(ByteVector& file, size_t offset, uint16_t number) {
-    std::memcpy(file.data() + offset, &number, sizeof number);
-}
-
-void PutName(ByteVector& file, size_t entry, const std::string& name) {
-    for (size_t i = 0; i < name.size(); ++i)
-        file[entry + 2 * i] = static_cast<uint8_t>(name[i]);
-    PutShort(file, entry + 64, static_cast<uint16_t>(2 * name.size() + 2));
-}
-
-// Returns a file with one stream of 5000 bytes and the requested number of allocation sectors: these, the directory,
-// the stream.
-ByteVector MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
-    ByteVector file(sectorBytes * (1 + tables * sectorBytes / 4));
-    std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());
-    PutShort(file, 26, version);
-    PutShort(file, 28, 0xFFFE);
-    PutShort(file, 30, sectorBytes == kSector ? 9 : 12);
-    PutShort(file, 32, 6);
-    Put(file, 40, directories);
-    Put(file, 44, tables);
-    Put(file, 48, tables); // the directory
-    Put(file, 56, 4096);
-    Put(file, 60, 0xFFFFFFFE);
-    Put(file, 68, 0xFFFFFFFE);
-    for (uint32_t i = 0; i < 109; ++i)
-        Put(file, 76 + 4 * i, i < tables ? i : 0xFFFFFFFF);
-    const auto next = [&](uint32_t sector) { return sectorBytes + 4 * sector; };
-    std::fill(file.begin() + static_cast<ptrdiff_t>(sectorBytes),
-              file.begin() + static_cast<ptrdiff_t>(sectorBytes * (1 + tables)), uint8_t{0xFF});
-    for (uint32_t i = 0; i < tables; ++i)
-        Put(file, next(i), 0xFFFFFFFD);
-    const auto sectors = static_cast<uint32_t>((5000 + sectorBytes - 1) / sectorBytes);
-    Put(file, next(tables), 0xFFFFFFFE);
-    for (uint32_t i = 1; i <= sectors; ++i)
-        Put(file, next(tables + i), i == sectors ? 0xFFFFFFFE : tables + i + 1);
-    const size_t directory = sectorBytes * (1 + tables);
-    for (const size_t entry : {directory, directory + 128, directory + 256, directory + 384}) {
-        for (const size_t link : {68u, 72u, 76u})
-            Put(file, entry + link, 0xFFFFFFFF);
-    }
-    PutName(file, directory, "Root Entry");
-    file[directory + 66] = 5;
-    Put(file, directory + kChild, 1);
-    Put(file, directory + kStart, 0xFFFFFFFE);
-    PutName(file, directory + 128, "Contents");
-    file[directory + 128 + 66] = 2;
-    Put(file, directory + 128 + kStart, tables + 1);
-    Put(file, directory + 128 + kSize, 5000);
-    return file;
 }
 
 TEST(CompoundReader, LongSectorsAsSystemsOfAllAgesWroteThem) {

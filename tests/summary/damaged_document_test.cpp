@@ -3,17 +3,16 @@
 
 #include "orlo/summary/summary_info.h"
 
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <random>
 
 #include "compound_bytes.h"
 #include "failing_bytes.h"
 #include "orlo/win/com_owner.h"
 #include "owned_summary.h"
+#include "random_damage.h"
 #include "support/file_bytes.h"
 #include "support/system_streams.h"
 
@@ -24,39 +23,6 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 using orlo::Owned;
 using orlo::Receive;
-constexpr size_t kSector = 512;
-
-uint32_t Number(const Bytes& file, size_t at) {
-    uint32_t number;
-    std::memcpy(&number, file.data() + at, sizeof number);
-    return number;
-}
-
-// Changes one to three numbers or bytes in header, allocation table, directory or table of short streams. Truncates
-// some documents as well.
-Bytes Damaged(Bytes file, unsigned seed) {
-    std::mt19937 random(seed);
-    const uint32_t table = Number(file, 76), directory = Number(file, 48), shortTable = Number(file, 60);
-    const uint32_t sectors[] = {table, directory, directory, directory + 1, shortTable};
-    for (unsigned left = 1 + random() % 3; left != 0; --left) {
-        const unsigned part = random() % 7;
-        const size_t start = part < 2 ? 0 : (size_t{sectors[part - 2]} + 1) * kSector;
-        const size_t at = start + random() % (part < 2 ? 96 : kSector);
-        if (at + 4 > file.size()) continue;
-        const auto anySector = static_cast<uint32_t>(random() % (file.size() / kSector));
-        const auto any = static_cast<uint32_t>(random());
-        const uint32_t numbers[] = {0,         1,     0xFFFFFFFF, 0xFFFFFFFE, 0xFFFFFFFD,
-                                    directory, table, shortTable, anySector,  any};
-        const uint32_t number = numbers[random() % std::size(numbers)];
-        if (random() % 3 == 0)
-            file[at] = static_cast<uint8_t>(random());
-        else
-            std::memcpy(file.data() + at / 4 * 4, &number, sizeof number);
-    }
-    if (random() % 20 == 0) file.resize(kSector + random() % (file.size() - kSector));
-    return file;
-}
-
 void ExpectSavingChangesNoOther(const Bytes& file, size_t titleLength) {
     FailingBytes disk(file);
     const OwnedSummary summary = SummaryOf(std::string(titleLength, 't'));

@@ -1,10 +1,8 @@
-// Commands that require the Windows program, which uses the system's storage to change documents and the system's
-// player for metafiles. The Linux program exits before it has changed anything, and run.d/suminfo.sh starts the other
-// one.
+// The Windows program plays metafiles by the system. This one ends before it has touched anything, and run.d/suminfo.sh
+// starts the other.
 
 #include <cstdlib>
 
-#include "commands.h"
 #include "exit_codes.h"
 #include "metafile_drawing.h"
 
@@ -16,18 +14,6 @@ namespace {
 }
 
 } // namespace
-
-void SetFields(const std::string&, const std::vector<Assignment>&, const std::vector<CustomValue>&) {
-    LeaveToWindows();
-}
-
-void RemoveFields(const std::string&, const std::vector<std::string>&, const std::vector<std::string>&) {
-    LeaveToWindows();
-}
-
-void CopySummary(const std::string&, const std::string&) {
-    LeaveToWindows();
-}
 
 std::optional<std::vector<uint8_t>> DrawMetafile(const orlo::Bytes&, Extent) {
     LeaveToWindows();

@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Edits every document of a folder by suminfo and reads it by olefile and gsf: write_back.py SUMINFO FOLDER...
+All else must be as it was: streams byte for byte, classes, times and state bits of storages. Documents that suminfo
+calls damaged must stay as they are."""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+import olefile
+
+SUMMARY = "\x05SummaryInformation"
+EDITS = [["set", "FILE", "title=" + "t" * size] for size in (1, 3000, 9000)] + [["remove", "FILE", "title"]]
+
+
+def contents(path):
+    """Streams and storages but the summary."""
+    found = {}
+    with olefile.OleFileIO(path) as ole:
+        found["/"] = ole.root.clsid, ole.root.dwUserFlags, ole.root.createTime, ole.root.modifyTime
+        for name in ole.listdir(streams=True, storages=True):
+            if name[0].lower() == SUMMARY.lower():
+                continue
+            entry = ole.direntries[ole._find(name)]  # the public calls leave out state bits
+            data = ole.openstream(name).read() if entry.entry_type == olefile.STGTY_STREAM else None
+            found["/".join(name)] = entry.name, entry.clsid, entry.dwUserFlags, entry.createTime, entry.modifyTime, data
+    return found
+
+
+def listed(path):
+    """What gsf reads: how many streams, or nothing if it cannot open the file."""
+    done = subprocess.run(["gsf", "list", path], capture_output=True, timeout=60, check=False)
+    return None if done.returncode else done.stdout.count(b"\n")
+
+
+def title(path):
+    """In whatever code page: without NULs."""
+    with olefile.OleFileIO(path) as ole:
+        value = ole.getproperties(SUMMARY).get(2) or "" if ole.exists(SUMMARY) else ""
+    return (value if isinstance(value, str) else value.decode("latin-1")).replace("\0", "")
+
+
+def check(suminfo, original, work):
+    """Returns what went wrong, and whether the document could be edited."""
+    path = os.path.join(work, "document")
+    shutil.copyfile(original, path)
+    for edit in EDITS:
+        done = subprocess.run([suminfo] + [path if word == "FILE" else word for word in edit], capture_output=True, timeout=60,
+                              check=False)
+        if done.returncode:
+            with open(path, "rb") as left, open(original, "rb") as before:
+                same = left.read() == before.read()
+            refused = any(why in done.stderr for why in (b"damaged", b"not a compound file", b"stored as", b"code page"))
+            return ("" if refused and same else f"{done.stderr}, and the file is{'' if same else ' not'} the same"), False
+        if contents(path) != contents(original):
+            return f"{edit[0]} has changed something else", False
+        if title(path) != edit[2].partition("=")[2]:
+            return f"olefile reads the title {title(path)[:40]}", False
+        if listed(original) is not None and listed(path) is None:
+            return "gsf cannot read it", False
+    return "", True
+
+
+def main():
+    suminfo, folders = sys.argv[1], [folder for folder in sys.argv[2:] if folder]
+    failures, edited, refused = [], 0, 0
+    with tempfile.TemporaryDirectory() as work:
+        for folder in folders:
+            for name in sorted(os.listdir(folder)):
+                if name.endswith((".json", ".md")):
+                    continue
+                why, done = check(suminfo, os.path.join(folder, name), work)
+                edited += done
+                refused += not done and not why
+                if why:
+                    failures.append(f"{name}: {why}")
+    print(f"{edited} documents edited, {refused} refused")
+    if failures or edited < 5:
+        sys.exit("\n".join(failures) or "too few")
+
+
+main()
