@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "files/file_error.h"
 #include "orlo/propset/property_set.h"
 #include "orlo/summary/compound_file.h"
+#include "orlo/summary/edited_document.h"
 #include "orlo/win/com_owner.h"
 #include "orlo/win/encoded_text.h"
 
@@ -114,6 +116,10 @@ HRESULT WriteNew(IStorage* storage, const wchar_t* name, const Bytes& image) {
     return E_FAIL;
 }
 
+HRESULT ResultOf(const std::error_code& reason) {
+    return reason && reason.category() == std::system_category() ? HRESULT_FROM_WIN32(reason.value()) : E_FAIL;
+}
+
 } // namespace
 
 void TimeStamp(struct tm* pTime) {
@@ -185,6 +191,23 @@ HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo) {
     if (ReadAll(stream.get(), before)) return Replace(stream.get(), before, image) ? opened : E_FAIL;
     stream.reset(); // damaged, so it does not have to be preserved
     return WriteNew(pStorage, name.c_str(), image);
+}
+
+HRESULT SaveFileSummaryInfo(const char* pszFileName, CPropertySet* pSumInfo) {
+    Bytes image;
+    if (!pszFileName || !pSumInfo || !ImageOf(pSumInfo, image)) return E_FAIL;
+    try {
+        orlo::EditedDocument document(Widen(pszFileName, CP_ACP));
+        document.Write(kSummaryStreamName, std::move(image));
+        document.Commit();
+        return S_OK;
+    } catch (const orlo::UnfitDocument&) {
+        return STG_E_DOCFILECORRUPT;
+    } catch (const files::FileError& error) {
+        return ResultOf(error.Reason());
+    } catch (const std::exception&) {
+        return E_FAIL;
+    }
 }
 
 HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo) {

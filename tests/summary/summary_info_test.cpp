@@ -6,6 +6,7 @@
 #include <cstring>
 #include <ctime>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -187,6 +188,41 @@ TEST(SummaryInfo, FilesThatCantBeOpenedSaySo) {
     EXPECT_EQ(GetFileSummaryInfo(locked.Name().c_str(), &storage, &summary), STG_E_SHAREVIOLATION);
     EXPECT_EQ(storage, nullptr);
     EXPECT_EQ(summary, nullptr);
+}
+
+TEST(SummaryInfo, IsSavedIntoAFileThatIsNotOpen) {
+    const File file("orlo-saved.drw");
+    {
+        const Storage storage = file.Create();
+        orlo::Owned<IStream> other;
+        storage->CreateStream(L"Contents", kMake, 0, 0, Receive(other));
+        other->Write("drawing", 7, nullptr);
+    }
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), SummaryOf("first").get()), S_OK);
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), SummaryOf(std::string(9000, 'x')).get()), S_OK);
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), SummaryOf("last").get()), S_OK);
+    const Storage storage = file.Read();
+    ASSERT_TRUE(storage);
+    EXPECT_EQ(TitleIn(storage.get()), "last");
+    orlo::Owned<IStream> other;
+    ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, kRead, 0, Receive(other)), S_OK);
+    char text[8] = {};
+    other->Read(text, 8, nullptr);
+    EXPECT_STREQ(text, "drawing");
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), SummaryOf("late").get()),
+              HRESULT_FROM_WIN32(ERROR_SHARING_VIOLATION));
+    EXPECT_EQ(TitleIn(storage.get()), "last");
+}
+
+TEST(SummaryInfo, IsNotSavedIntoOtherFiles) {
+    const File file("orlo-other.drw");
+    const OwnedSummary summary = SummaryOf("title");
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), summary.get()), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
+    std::ofstream(file.Name()) << "not a compound file";
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), summary.get()), STG_E_DOCFILECORRUPT);
+    EXPECT_EQ(fs::file_size(file.Name()), 19u);
+    EXPECT_EQ(SaveFileSummaryInfo(nullptr, summary.get()), E_FAIL);
+    EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), nullptr), E_FAIL);
 }
 
 TEST(SummaryInfo, AReadOnlyStorageKeepsItsSummary) {
