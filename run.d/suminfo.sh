@@ -1,13 +1,13 @@
-# Runs suminfo in the caller's folder: the Linux program, and under Wine the Windows program for what that one does not
-# support, which is writing documents and playing metafiles. Each is rebuilt if a source is newer. Needs no display.
+# Runs suminfo in the caller's folder: the Linux program, and under Wine the Windows program for thumbnails that are
+# metafiles, which the system plays. Each is rebuilt if a source is newer. Needs no display.
 
 native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.exe
 # Checked here, because a separate program would take longer than suminfo itself.
 shopt -s globstar
 is_current() {
     local part
-    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,tools/suminfo,native,cmake}/**; do
-        if [ "$part" -nt "$1" ]; then return 1; fi # also if the program does not exist
+    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,tools/cli,tools/suminfo,native,cmake}/**; do
+        if [ "$part" -nt "$1" ]; then return 1; fi # also when there is no program
     done
 }
 
@@ -16,7 +16,7 @@ if ! is_current "$native"; then
     touch "$native"
 fi
 cd "$ORLO_CALLER_DIR"
-case ${1-} in show|check|rc) exec "$native" "$@" ;; esac
+case ${1-} in thumbnail|@*) ;; *) exec "$native" "$@" ;; esac
 
 # Both programs may need the arguments on standard input.
 input=

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "orlo/summary/bytes.h"
 #include "orlo/summary/dib_layout.h"
@@ -197,6 +198,23 @@ std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t si
     for (int y = 0; y < place.height; ++y)
         shrinking.Write(static_cast<size_t>(y), first + lineBytes * static_cast<size_t>(y));
     return colors;
+}
+
+std::optional<std::vector<uint8_t>> BitmapFileFrom(const uint8_t* data, size_t size) {
+    constexpr uint32_t kFileHeader = 14;
+    const auto layout = ReadDibLayout(data, size, DibColors::Rgb);
+    if (!layout) return std::nullopt;
+    std::vector<uint8_t> file(kFileHeader);
+    const auto put = [&file](size_t at, size_t number) {
+        const auto field = static_cast<uint32_t>(number);
+        std::memcpy(&file[at], &field, sizeof field);
+    };
+    file[0] = 'B';
+    file[1] = 'M';
+    put(2, kFileHeader + size);
+    put(10, kFileHeader + layout->pixelOffset);
+    file.insert(file.end(), data, data + size);
+    return file;
 }
 
 } // namespace orlo

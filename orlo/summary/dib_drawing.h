@@ -19,4 +19,7 @@ namespace orlo {
 ORLO_API std::optional<std::vector<uint8_t>> DrawDibFitted(const uint8_t* data, size_t size, int32_t width,
                                                            int32_t height);
 
+// Returns the bitmap with the header that a .bmp file has before it, or nothing for a damaged one.
+ORLO_API std::optional<std::vector<uint8_t>> BitmapFileFrom(const uint8_t* data, size_t size);
+
 } // namespace orlo

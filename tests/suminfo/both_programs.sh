@@ -13,13 +13,13 @@ fail() { printf '%.300s\n' "$*"; exit 1; }
 run_into() { # NAME PROGRAM...: including the output file, if any
     local name=$1 status=0
     shift
-    rm -f out
     timeout -k 5 120 "$@" >"$name.stdout" 2>"$name.stderr" <"$input" || status=$?
     echo $status >"$name.status"
     if [ -e out ]; then mv out "$name.file"; else rm -f "$name.file"; fi
 }
 differ() { ! cmp -s "$1" "$2"; }
 compare() { # ARGUMENTS...
+    rm -f out
     run_into native "$native" "$@"
     if [ "$(cat native.status)" = $left_to_windows ]; then
         [ "$1" = thumbnail ] || fail "$*: left to the other program"
@@ -77,6 +77,25 @@ every() { # NUMBER FILES...: selects some, since each start of the Windows progr
 for file in $(every 2 streams/*.bin texts/name*); do compare rc --stream "$file" out; done
 for file in streams/CameraRollAnim*.bin streams/mut-5*.bin; do compare thumbnail --stream "$file" out; done
 
+# Documents that both edit are the same to the byte.
+edit() { # ARGUMENTS... with "out" for the document
+    local name
+    for name in native windows; do
+        cp "$original" out
+        if [ $name = native ]; then run_into native "$native" "$@"; else run_into windows wine "$windows" "$@"; fi
+    done
+    for part in status stdout stderr file; do
+        if differ windows.$part native.$part; then fail "$* of $original: $part differs: $(cat native.stderr windows.stderr)"; fi
+    done
+    edited=$((edited + 1))
+}
+edited=0
+for original in documents/*-* documents/expected.json; do
+    edit set out "title=Plan Ж" --custom "名前=int:1"
+    edit remove out title author
+    edit copy documents/testEXCEL-custom-props--fff0cb.xls out
+done
+
 document=documents/test11--695187.doc
 echo "no compound file" >text.doc
 mkdir empty
@@ -91,4 +110,4 @@ for line in "" "--help" "--version" "set --help" "shov x" "show" "set x color=re
     compare $line
 done
 [ $left -ge 3 ] && [ $files -ge 20 ] || fail "only $left pictures were left, and $files files made"
-echo "$same times the same, $files files made, $left pictures left to Windows"
+echo "$same times the same, $files files made, $edited edits, $left pictures left to Windows"

@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Native-only features of the program: names of arbitrary bytes, pipes and devices in a folder, permissions, and
-# delegation to the Windows program without changes.
-#   here.sh SUMINFO DOCUMENTS STREAMS FOLDER
+# The program for this machine and what only this machine has: names of any bytes, pipes and devices in a folder, permissions.
+# Several documents, standard streams, forms for programs. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4
@@ -73,3 +72,54 @@ expect "beside it" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
 # Three says that it is work for the other program.
 expect "a metafile" "$(ended suminfo thumbnail "$picture" picture.png; cat out err)" 3
 [ ! -e picture.png ] || fail "a picture was made"
+
+# Several documents, by name, from a list and in folders; one that fails does not stop the others.
+cp some/inner/plan.doc one.doc
+cp some/inner/plan.doc two.doc
+expect "several" "$(ended suminfo set title=Several one.doc missing.doc two.doc; cat err)" \
+    $'1\nsuminfo: missing.doc: the file cannot be opened: no such file'
+expect "their titles" "$(suminfo get one.doc title; suminfo get two.doc TITLE)" $'Several\nSeveral'
+printf 'one.doc\r\n\ntwo.doc\n' >list
+suminfo set @list --custom "Client=text:A, B"
+expect "a custom property" "$(suminfo get two.doc --custom client)" "A, B"
+suminfo copy one.doc some/inner/plan.doc two.doc
+suminfo remove -r some/inner/plan.doc two.doc title --custom Client
+expect "what has none" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: it has no title'
+expect "a missing list" "$(ended suminfo show @nowhere; cat err)" \
+    $'2\nsuminfo: a list of arguments: the file cannot be opened: no such file'
+expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
+    $'1\nsuminfo: ./a=b.doc: the file cannot be opened: no such file'
+
+# Standard input and output.
+expect "a document from a pipe" "$(cat one.doc | suminfo get - title)" Several
+expect "one that is changed" "$(ended suminfo set - title=x; cat err)" $'1\nsuminfo: -: standard input can only be read'
+expect "a script" "$(suminfo rc --stream "$stream" - | grep -c RCDATA)" 1
+expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/full || echo $?)" \
+    $'suminfo: -: the output cannot be written: the disk is full\n1'
+
+# The picture as it is stored, and endings.
+suminfo thumbnail --original "$picture" picture.wmf
+expect "a metafile's first bytes" "$(od -An -tx1 -N 4 picture.wmf)" " 01 00 09 00"
+expect "another ending" "$(suminfo thumbnail --original "$picture" picture.png 2>&1)" \
+    "suminfo: warning: picture.png: the file contains a metafile; its usual ending is .wmf"
+
+# Lines for programs, also of what failed.
+expect "CSV" "$(ended suminfo show --csv one.doc missing.doc; grep -c '^one.doc,' out; grep -e ^file -e Client -e missing out)" \
+    "1
+$(suminfo show --json one.doc | grep -o '"vt"' | wc -l)
+file,stream,section,property,value,error
+one.doc,\\005DocumentSummaryInformation,UserDefinedProperties,Client,\"A, B\",
+missing.doc,,,,,the file cannot be opened: no such file"
+expect "JSON" "$(ended suminfo show --json missing.doc; cat out)" \
+    $'1\n{"file":"missing.doc","error":"the file cannot be opened: no such file"}'
+
+# A manual page that the formatter has nothing to say about, and a completion that bash understands.
+suminfo --man >suminfo.1
+if command -v groff >/dev/null; then expect "its faults" "$(groff -man -Tutf8 -ww suminfo.1 2>&1 >page)" ""; fi
+suminfo --completion >suminfo.bash
+complete_line() { # WORDS...: what is proposed for the last
+    bash -c 'source ./suminfo.bash; COMP_WORDS=(suminfo "$@"); COMP_CWORD=$#; _suminfo 2>/dev/null; printf "%s " "${COMPREPLY[@]}"' bash "$@"
+}
+expect "commands" "$(complete_line sh)" "show "
+expect "options" "$(complete_line thumbnail --o)" "--original "
+expect "fields" "$(complete_line set one.doc tit)" "title= "

@@ -121,23 +121,26 @@ TEST(CommandLine, WrongOnesExitWithTwo) {
         const char* why;
     } rows[] = {
         {{}, ""},
-        {{"shov", "x.doc"}, "'shov' is no command; suminfo --help lists them\n"},
+        {{"shov", "x.doc"}, "unknown command 'shov'; see suminfo --help\n"},
         {{"show"}, ""},
         {{"show", "--color", "x.doc"}, ""},
         {{"set", "x.doc"}, ""},
         {{"set", "x.doc", "title"}, "'title' should be name=value"},
-        {{"set", "x.doc", "color=red"}, "'color' is no field; suminfo set --help lists them\n"},
-        {{"set", "x.doc", "thumbnail=x"}, "'thumbnail' can't be set, only removed\n"},
+        {{"set", "x.doc", "color=red"}, "unknown field 'color'; see suminfo set --help\n"},
+        {{"set", "x.doc", "thumbnail=x"}, "'thumbnail' cannot be set, only removed\n"},
         {{"set", "x.doc", "--custom", "A=color:red"}, "A: 'color' is no type"},
         {{"set", "x.doc", "--custom", "A=red"}, "A: 'red' needs a type"},
         {{"set", "x.doc", "--custom", "A=int:12x"}, "A: '12x' is no whole number"},
         {{"set", "x.doc", "--custom", "A=unsigned:-1"}, "A: '-1' is no whole number from 0 on\n"},
         {{"remove", "x.doc"}, ""},
-        {{"remove", "x.doc", "color"}, "'color' is no field"},
+        {{"remove", "x.doc", "color"}, "unknown field 'color'"},
         {{"thumbnail", "x.doc"}, ""},
         {{"thumbnail", "x.doc", "x.png", "--size", "12"}, ""},
         {{"thumbnail", "x.doc", "x.png", "--size", "0x9"}, ""},
         {{"copy", "x.doc"}, ""},
+        {{"get", "x.doc"}, "get: name one field"},
+        {{"show", "--json", "--csv", "x.doc"}, ""},
+        {{"thumbnail", "x.doc", "-", "--original", "--size", "9x9"}, "--size: "},
     };
     for (const auto& row : rows) {
         const Outcome run = RunSuminfo(row.line);
@@ -156,6 +159,18 @@ TEST(CommandLine, HelpAndVersion) {
     const Outcome version = RunSuminfo({"--version"});
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.out.rfind("suminfo 1.", 0), 0u) << version.out;
+}
+
+TEST(CommandLine, WildcardsStandForFiles) {
+    const Folder folder;
+    for (const char* name : {"B.DOC", "a.doc", "c.docx"})
+        folder.Copy(kDocuments / "test11--695187.doc", name);
+    const Outcome run = RunSuminfo({"check", "*.doc", "?.docx", "none*"}, folder.Path());
+    EXPECT_EQ(run.err, "suminfo: none*: the file cannot be opened: no such file\n");
+    for (const char* name : {"\na.doc: ", "\nc.docx: "})
+        EXPECT_NE(run.out.find(name), std::string::npos) << run.out;
+    EXPECT_EQ(run.out.rfind("B.DOC: ", 0), 0u) << run.out;
+    EXPECT_EQ(RunSuminfo({"get", (folder.Path() / "a.*").string(), "pages"}).exitCode, 0);
 }
 
 TEST(CommandLine, MoreNamesThanItHoldsComeFromStandardInput) {

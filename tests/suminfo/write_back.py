@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Edits every document of a folder by suminfo and reads it by olefile and gsf: write_back.py SUMINFO FOLDER...
+"""Edits every document of a folder by suminfo and reads it by olefile and gsf: write_back.py SUMINFO FOLDER
+Also those of the folder that ORLO_CORPUS names.
 All else must be as it was: streams byte for byte, classes, times and state bits of storages. Documents that suminfo
 calls damaged must stay as they are."""
 import os
@@ -63,7 +64,7 @@ def check(suminfo, original, work):
 
 
 def main():
-    suminfo, folders = sys.argv[1], [folder for folder in sys.argv[2:] if folder]
+    suminfo, folders = sys.argv[1], [sys.argv[2]] + [folder for folder in [os.environ.get("ORLO_CORPUS")] if folder]
     failures, edited, refused = [], 0, 0
     with tempfile.TemporaryDirectory() as work:
         for folder in folders:

@@ -4,12 +4,13 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <sstream>
 
 #include "console.h"
 #include "exit_codes.h"
 #include "failure.h"
 #include "fields.h"
+#include "tools/cli/arguments.h"
+#include "tools/cli/manual.h"
 #include "value_input.h"
 
 namespace suminfo {
@@ -19,14 +20,18 @@ constexpr char kExamples[] = R"(
 Examples:
   suminfo show report.doc                         what its property sets hold
   suminfo show --json -r documents/ | jq .file    every document, one line of JSON each
+  suminfo show --csv -r documents/ >summaries.csv  every property, one line each
+  suminfo get report.doc title                    one value, for scripts
   find . -name '*.doc' -print0 | suminfo check @-   names from standard input, however many
   suminfo show --stream summary.bin               a property-set stream in a file of its own
   suminfo set plan.msi title="Plan B" saved=now
+  suminfo set -r drawings/ company=ACME           in all of them
   suminfo set plan.msi --custom Client=text:ACME --custom Sheets=int:12
   suminfo remove plan.msi comments --custom Client
   suminfo thumbnail plan.ppt plan.png --size 200x150
-  suminfo rc plan.msi plan.rc                     the summary as a resource script
-  suminfo copy report.doc letter.doc              the summary of one document to another
+  suminfo thumbnail plan.ppt plan.wmf --original  the picture as it is stored
+  suminfo rc plan.msi -                           the summary as a resource script
+  suminfo copy report.doc letter.doc memo.doc     the summary of one document to others
   suminfo check -r documents/                     everything irregular, with its offset
 
 Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong command line.)";
@@ -77,72 +82,139 @@ std::string FieldNames() {
     return names;
 }
 
+std::vector<std::string> WordsToComplete(const char* after) {
+    std::vector<std::string> words;
+    for (const Field& field : Fields())
+        if (field.id != kCodePageId && (*after == '\0' || field.type != 0))
+            words.push_back(field.name + std::string(after));
+    return words;
+}
+
+// A file whose name looks like a value has a folder in front: ./a=b.doc
+bool IsAssignment(const std::string& word) {
+    return word.find('=') < word.find_first_of("/\\");
+}
+
 class Parser {
 public:
     Parser()
-        : app_("Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more.",
+        : app_("Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more",
                "suminfo") {
-        app_.allow_windows_style_options(false); // a path may begin with a slash
-        app_.require_subcommand(1);
-        app_.set_version_flag("--version", "suminfo " SUMINFO_VERSION);
         app_.footer(kExamples);
         AddShow();
+        AddGet();
         AddCheck();
         AddSet();
         AddRemove();
         AddThumbnail();
         AddScript();
         AddCopy();
+        cli::AddCommonOptions(
+            app_, SUMINFO_VERSION,
+            {{"set", WordsToComplete("=")}, {"get", WordsToComplete("")}, {"remove", WordsToComplete("")}});
     }
 
     Parsed Parse(std::vector<std::string> arguments) {
-        if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && !IsCommand(arguments.front())) {
-            return Wrong("'" + arguments.front() + "' is no command; suminfo --help lists them\n");
-        }
-        std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
+        const cli::ParseResult result = cli::Parse(app_, std::move(arguments));
+        Print(stdout, result.output);
+        if (!result.error.empty()) return Wrong(result.error);
+        if (!result.isParsed) return {std::nullopt, kDone};
         try {
-            app_.parse(arguments);
-            line_.fields = ParseFields(fields_);
-            line_.custom = ParseCustom(custom_);
-            for (const std::string& name : line_.fieldNames)
-                FieldToRemove(name);
-            line_.size = ParseSize(size_);
-            if (line_.command == Command::set && fields_.empty() && custom_.empty())
-                throw CLI::ValidationError("set", "nothing to set: name a field, as in title=\"Plan B\"");
-            if (line_.command == Command::remove && line_.fieldNames.empty() && line_.customNames.empty())
-                throw CLI::ValidationError("remove", "nothing to remove: name a field");
+            Complete();
             return {line_, kDone};
         } catch (const CLI::ParseError& error) {
-            std::ostringstream help, wrong;
-            if (app_.exit(error, help, wrong) != 0) return Wrong(wrong.str());
-            Print(stdout, help.str());
-            return {std::nullopt, kDone};
+            return Wrong("suminfo: " + std::string(error.what()) + "\n");
         } catch (const Failure& failure) {
-            return Wrong(std::string(failure.what()) + "\n");
+            return Wrong("suminfo: " + std::string(failure.what()) + "\n");
         }
     }
 
 private:
     static Parsed Wrong(const std::string& message) {
-        Print(stderr, "suminfo: " + message);
+        Print(stderr, message);
         return {std::nullopt, kUsage};
     }
-    bool IsCommand(const std::string& word) {
-        const auto hasName = [&word](CLI::App* command) { return command->get_name() == word; };
-        return !app_.get_subcommands(hasName).empty();
+
+    // What the parser's own table does not express.
+    void Complete() {
+        if (!file_.empty()) line_.files = {file_};
+        switch (line_.command) {
+        case Command::get:
+            CompleteGet();
+            break;
+        case Command::set:
+            return CompleteSet();
+        case Command::remove:
+            return CompleteRemove();
+        case Command::thumbnail:
+            line_.size = ParseSize(size_);
+            if (line_.size && line_.original)
+                throw CLI::ValidationError("--size", "a picture in its original form keeps its size");
+            break;
+        default:
+            break;
+        }
+        FinishFiles();
     }
+
+    void FinishFiles() { line_.files = cli::WithoutWildcards(line_.files); }
+
+    void CompleteGet() {
+        const bool hasField = !field_.empty();
+        if (hasField == !line_.customNames.empty())
+            throw CLI::ValidationError("get", "name one field, or one property with --custom");
+        if (hasField) line_.fieldNames = {FieldToRemove(field_).name};
+    }
+
+    void CompleteSet() {
+        std::vector<std::string> fields;
+        for (const std::string& word : words_)
+            (IsAssignment(word) || FieldNamed(word) ? fields : line_.files).push_back(word);
+        line_.fields = ParseFields(fields);
+        line_.custom = ParseCustom(custom_);
+        if (line_.fields.empty() && line_.custom.empty())
+            throw CLI::ValidationError("set", "nothing to set: name a field, as in title=\"Plan B\"");
+        RequireFiles();
+    }
+
+    // Files come first: after a field everything is one.
+    void CompleteRemove() {
+        const bool needsField = line_.customNames.empty();
+        for (const std::string& word : words_) {
+            const bool isLastChance = needsField && &word == &words_.back() && words_.size() > 1;
+            if (FieldNamed(word) || !line_.fieldNames.empty() || isLastChance)
+                line_.fieldNames.push_back(FieldToRemove(word).name);
+            else
+                line_.files.push_back(word);
+        }
+        if (line_.fieldNames.empty() && needsField)
+            throw CLI::ValidationError("remove", "nothing to remove: name a field");
+        RequireFiles();
+    }
+
+    void RequireFiles() {
+        if (line_.files.empty()) throw CLI::ValidationError("FILE", "no document is named");
+        FinishFiles();
+    }
+
     CLI::App* Add(const char* name, Command command, const char* description) {
         CLI::App* sub = app_.add_subcommand(name, description);
         sub->callback([this, command] { line_.command = command; });
         return sub;
     }
-    void AddFile(CLI::App* sub) { sub->add_option("FILE", line_.file, "the document")->required(); }
     void AddBare(CLI::App* sub) {
-        sub->add_flag("--stream", line_.bare, "FILE is no document but one property-set stream");
+        sub->add_flag("--stream", line_.bare, "FILE is not a document but one property-set stream");
+    }
+    void AddRecursive(CLI::App* sub) {
+        sub->add_flag("-r,--recursive", line_.recursive, "look into folders, at every compound file");
+    }
+    void AddFile(CLI::App* sub) {
+        sub->add_option("FILE", file_, "the document; - is standard input")->required();
+        AddBare(sub);
     }
     void AddFiles(CLI::App* sub) {
-        sub->add_option("FILE", line_.files, "documents, and folders with -r")->required();
-        sub->add_flag("-r,--recursive", line_.recursive, "look into folders, at every compound file");
+        sub->add_option("FILE", line_.files, "documents, and folders with -r; - is standard input")->required();
+        AddRecursive(sub);
         AddBare(sub);
     }
 
@@ -152,51 +224,59 @@ private:
     }
 
     void AddShow() {
-        CLI::App* sub = Add("show", Command::show, "Print what the property sets hold");
+        CLI::App* sub = Add("show", Command::show, "Print the contents of property sets");
         AddFiles(sub);
-        sub->add_flag("--json", line_.json, "one line of JSON for each file");
+        const auto addForm = [&](const char* name, ReportForm form, const char* description) {
+            return sub->add_flag_callback(
+                name, [this, form] { line_.form = form; }, description);
+        };
+        addForm("--json", ReportForm::json, "one line of JSON for each file")
+            ->excludes(addForm("--csv", ReportForm::csv, "one line for each property, after a line of headings"));
     }
-    void AddCheck() {
-        AddFiles(
-            Add("check", Command::check, "Report everything irregular, with its offset and what readers make of it"));
+    void AddGet() {
+        CLI::App* sub = Add("get", Command::get, "Print one value");
+        AddFile(sub);
+        sub->add_option("FIELD", field_, "title, author, ...");
+        AddCustom(sub, line_.customNames, "the name of a custom property");
     }
+    void AddCheck() { AddFiles(Add("check", Command::check, "Report irregularities and damage, with their offsets")); }
     void AddSet() {
         CLI::App* sub = Add("set", Command::set, "Change fields; an empty value removes one");
         sub->footer("Fields: " + FieldNames() + ".\nTypes of custom properties: " + TypeNames() +
                     ".\nDates: 2001-02-03, 2001-02-03T04:05:06Z (UTC) or now; edit-time: h:mm:ss.");
-        AddFile(sub);
-        sub->add_option("FIELD=VALUE", fields_, "title=\"Plan B\"");
+        sub->add_option("FILE FIELD=VALUE", words_, "documents, and values as in title=\"Plan B\"");
         AddCustom(sub, custom_, "NAME=TYPE:VALUE, a custom property");
+        AddRecursive(sub);
     }
     void AddRemove() {
         CLI::App* sub = Add("remove", Command::remove, "Remove fields and custom properties");
-        AddFile(sub);
-        sub->add_option("FIELD", line_.fieldNames, "title, thumbnail, ...");
+        sub->add_option("FILE FIELD", words_, "documents, then title, thumbnail, ...");
         AddCustom(sub, line_.customNames, "the name of a custom property");
+        AddRecursive(sub);
     }
     void AddThumbnail() {
-        CLI::App* sub = Add("thumbnail", Command::thumbnail, "Draw the thumbnail into a PNG file");
+        CLI::App* sub = Add("thumbnail", Command::thumbnail, "Save the thumbnail as a picture");
         AddFile(sub);
-        AddBare(sub);
-        sub->add_option("OUT.png", line_.output, "the picture")->required();
+        sub->add_option("OUT.png", line_.output, "the picture; - is standard output")->required();
         sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (its own size, or 256 for a metafile)");
+        sub->add_flag("--original", line_.original, "the picture as it is stored, in any format, instead of a PNG");
     }
     void AddScript() {
-        CLI::App* sub = Add("rc", Command::rc, "Print the summary as a resource script");
+        CLI::App* sub = Add("rc", Command::rc, "Save the summary as a resource script");
         AddFile(sub);
-        AddBare(sub);
-        sub->add_option("OUT.rc", line_.output, "the script")->required();
+        sub->add_option("OUT.rc", line_.output, "the script; - is standard output")->required();
     }
     void AddCopy() {
-        CLI::App* sub = Add("copy", Command::copy, "Give one document the summary of another");
-        sub->add_option("FROM", line_.file, "the document with the summary")->required();
-        sub->add_option("TO", line_.output, "the document that gets it")->required();
+        CLI::App* sub = Add("copy", Command::copy, "Copy the summary of one document to others");
+        sub->add_option("FROM", line_.source, "the document with the summary")->required();
+        sub->add_option("TO", line_.files, "the documents that get it")->required();
+        AddRecursive(sub);
     }
 
     CLI::App app_;
     CommandLine line_ = {};
-    std::vector<std::string> fields_, custom_;
-    std::string size_;
+    std::vector<std::string> words_, custom_;
+    std::string file_, field_, size_;
 };
 
 } // namespace

@@ -9,20 +9,21 @@
 
 namespace suminfo {
 
-enum class Command { show, check, set, remove, thumbnail, rc, copy };
+enum class Command { show, get, check, set, remove, thumbnail, rc, copy };
 
 struct CommandLine {
     Command command;
-    std::vector<std::string> files; // show, check
-    std::string file;               // the others
+    std::vector<std::string> files; // that the command works on, one after the other
     bool recursive = false;
     bool bare = false;
-    bool json = false;
+    ReportForm form = ReportForm::table;              // show
     std::vector<Assignment> fields;                   // set
     std::vector<CustomValue> custom;                  // set
-    std::vector<std::string> fieldNames, customNames; // remove
-    std::string output;                               // thumbnail, rc, copy
+    std::vector<std::string> fieldNames, customNames; // get, remove
+    std::string source;                               // copy: the document with the summary
+    std::string output;                               // thumbnail, rc
     std::optional<Extent> size;
+    bool original = false; // thumbnail
 };
 
 // The parsed command line, or the exit code if help or an error was printed.

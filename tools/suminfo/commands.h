@@ -9,7 +9,10 @@
 
 namespace suminfo {
 
-// The source of property sets: a document, or (bare) a file that is a single property-set stream.
+// Stands for standard input or output in place of a file.
+constexpr char kStandardStream[] = "-";
+
+// Where property sets come from: a document, or (bare) a file that is one property-set stream.
 struct Source {
     std::string file;
     bool bare = false;
@@ -36,11 +39,18 @@ struct Report {
     bool clean = true; // everything could be read (show), or nothing irregular was found (check)
 };
 
-// Returns tables with the file name above them.
-Report ShowTable(const Source& source);
-// Returns one line of JSON.
-Report ShowJson(const Source& source);
-// Returns a line for each finding, or a line that there are none.
+// The forms that reports are printed in.
+enum class ReportForm { table, json, csv };
+
+// Tables for a person, with the file's name above; one line of JSON; or one line for each property.
+Report Show(const Source& source, ReportForm form);
+// The line of headings that comes before all others; empty for forms without one.
+std::string HeadingsOf(ReportForm form);
+// The line in place of a file that failed; empty for tables.
+std::string FailureLine(const std::string& file, const std::string& why, ReportForm form);
+// The value of a field, or of the custom property if the field is empty: texts as they are, anything else as in tables.
+std::string ValueOf(const Source& source, const std::string& field, const std::string& customName);
+// A line for each finding, or one that says that there are none.
 Report Check(const Source& source);
 
 // Changes fields and custom properties: all of them or, in case of a Failure, none.
@@ -52,7 +62,10 @@ void CopySummary(const std::string& from, const std::string& to);
 
 // Draws the thumbnail to a PNG file: in its own size, or centered on white in the given size.
 void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size);
-// Writes the sections of the summary (or of the whole bare stream) as resources 1, 2, ... of a resource script.
+// Saves the thumbnail as it is stored: a bitmap with the header of a file, a metafile without its extents, anything
+// else byte for byte.
+void SaveOriginalThumbnail(const Source& source, const std::string& output);
+// Prints the sections of the summary (of all of a bare stream) as resources 1, 2, ... of a resource script.
 void SaveResourceScript(const Source& source, const std::string& script);
 
 } // namespace suminfo

@@ -2,9 +2,12 @@
 
 #include "document.h"
 
+#include <cstring>
 #include <filesystem>
+#include <memory>
 
 #include "failure.h"
+#include "sources.h"
 #include "text.h"
 
 namespace fs = std::filesystem;
@@ -12,8 +15,20 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
+// Standard input may be a pipe, which cannot be read at an offset.
+orlo::CompoundReader FromStandardInput() {
+    const auto bytes = std::make_shared<const orlo::Bytes>(ReadFile(kStandardStream));
+    const orlo::ReadAt read = [bytes](uint64_t offset, void* buffer, size_t size) {
+        if (offset > bytes->size() || size > bytes->size() - offset) return false;
+        std::memcpy(buffer, bytes->data() + offset, size);
+        return true;
+    };
+    return orlo::CompoundReader(read, bytes->size());
+}
+
 orlo::CompoundReader Open(const std::string& file) {
-    std::error_code none; // errors are reported when it is opened
+    if (file == kStandardStream) return FromStandardInput();
+    std::error_code none; // whatever it is, opening it says more
     if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; -r looks into folders");
     return orlo::OpenCompoundFile(fs::u8path(file));
 }

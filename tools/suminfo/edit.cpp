@@ -19,7 +19,7 @@ namespace {
 // The two summary streams of a document, each opened when it is first changed.
 class Edit {
 public:
-    explicit Edit(const std::string& file) : document_(fs::u8path(file)) {}
+    explicit Edit(const std::string& file) : document_(PathOf(file)) {}
 
     EditedSet& SetWith(const GUID& format) {
         const char* name = ::IsEqualGUID(format, kSummaryFormat) ? kSummaryStream : kDocumentSummaryStream;
@@ -39,6 +39,11 @@ public:
     }
 
 private:
+    static fs::path PathOf(const std::string& file) {
+        if (file == kStandardStream) throw Failure("standard input can only be read");
+        return fs::u8path(file);
+    }
+
     orlo::EditedDocument document_;
     std::map<std::string, EditedSet> sets_;
 };
@@ -87,18 +92,16 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
 
 void CopySummary(const std::string& from, const std::string& to) {
     std::map<std::string, orlo::Bytes> streams;
-    {
+    OnFile(from, [&] {
         const Document source(from);
         for (const char* name : {kSummaryStream, kDocumentSummaryStream})
             if (auto bytes = source.Read(name)) streams[name] = Sound(std::move(*bytes), name);
         if (streams.empty()) throw Failure("it has no summary");
-    }
-    OnFile(to, [&] {
-        orlo::EditedDocument target(fs::u8path(to));
-        for (const auto& [name, bytes] : streams)
-            target.Write(name, bytes);
-        target.Commit();
     });
+    orlo::EditedDocument target(fs::u8path(to));
+    for (const auto& [name, bytes] : streams)
+        target.Write(name, bytes);
+    target.Commit();
 }
 
 } // namespace suminfo

@@ -69,13 +69,13 @@ const Field* FieldNamed(std::string_view name) {
 
 const Field& FieldToRemove(const std::string& name) {
     const Field* field = FieldNamed(name);
-    if (!field || field->id == kCodePageId) throw Failure("'" + name + "' is no field; suminfo set --help lists them");
+    if (!field || field->id == kCodePageId) throw Failure("unknown field '" + name + "'; see suminfo set --help");
     return *field;
 }
 
 const Field& FieldToSet(const std::string& name) {
     const Field& field = FieldToRemove(name);
-    if (field.type == 0) throw Failure("'" + name + "' can't be set, only removed");
+    if (field.type == 0) throw Failure("'" + name + "' cannot be set, only removed");
     return field;
 }
 

@@ -9,6 +9,7 @@
 #include <optional>
 #include <set>
 
+#include "commands.h"
 #include "files/file_error.h"
 #include "files/open_file.h"
 #include "orlo/summary/compound_reader.h"
@@ -110,7 +111,7 @@ std::optional<std::vector<std::string>> EntriesOf(const std::string& folder) {
 class Walk {
 public:
     void Add(const std::string& path) {
-        if (IsFolder(path))
+        if (path != kStandardStream && IsFolder(path))
             AddFolder(path);
         else if (IsNew(path))
             list_.files.push_back(path);

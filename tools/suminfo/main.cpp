@@ -2,7 +2,7 @@
 
 #include <cstdio>
 #include <exception>
-#include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -12,9 +12,11 @@
 #include "exit_codes.h"
 #include "failure.h"
 #include "file_list.h"
+#include "files/file_error.h"
 #include "files/file_replacement.h"
 #include "progress.h"
 #include "text.h"
+#include "tools/cli/arguments.h"
 #ifdef _WIN32
 #include "orlo/win/encoded_text.h"
 #endif
@@ -23,89 +25,105 @@ namespace {
 
 using namespace suminfo;
 
-// Processes one file. Returns false if that failed, which was reported.
-template <typename Work>
-bool Try(const std::string& file, Progress& progress, Work work) {
-    const auto say = [&progress](const std::string& name, const std::exception& failure) {
-        progress.MakeWayFor(stderr);
-        Print(stderr, "suminfo: " + OneLine(name) + ": " + failure.what() + "\n");
+// Reports failures on stderr, and in forms that programs read also in the place of the file.
+class FailureReport {
+public:
+    FailureReport(ReportForm form, Progress& progress) : form_(form), progress_(progress) {}
+
+    void Add(const std::string& file, const std::string& why) {
+        progress_.MakeWayFor(stderr);
+        Print(stderr, "suminfo: " + OneLine(file) + ": " + why + "\n");
+        progress_.MakeWayFor(stdout);
+        Print(stdout, FailureLine(file, why, form_));
+    }
+
+    // Returns false if the work failed.
+    template <typename Work>
+    bool Try(const std::string& file, Work work) {
+        try {
+            work();
+            return true;
+        } catch (const Failure& failure) {
+            Add(failure.File().empty() ? file : failure.File(), failure.what());
+        } catch (const std::bad_alloc&) {
+            Add(file, "not enough memory");
+        } catch (const std::exception& failure) {
+            Add(file, failure.what());
+        }
         return false;
-    };
-    try {
-        work();
-        return true;
-    } catch (const Failure& failure) {
-        return say(failure.File().empty() ? file : failure.File(), failure);
-    } catch (const std::exception& failure) {
-        return say(file, failure);
     }
-}
 
-Report ReportOn(const CommandLine& line, const Source& source) {
-    if (line.command == Command::check) return Check(source);
-    return line.json ? ShowJson(source) : ShowTable(source);
-}
+private:
+    ReportForm form_;
+    Progress& progress_;
+};
 
-// Runs show and check: processes one file after the other and reports failures in order.
-int ReportAll(const CommandLine& line) {
-    const FileList list = FilesOf(line.files, line.recursive);
-    for (const FileList::Unreadable& unreadable : list.unreadable)
-        Print(stderr, "suminfo: " + OneLine(unreadable.name) + ": " + unreadable.why + "\n");
-    const bool tables = line.command == Command::show && !line.json;
-    Progress progress(list.files.size());
-    bool clean = list.unreadable.empty(), first = true;
-    for (const std::string& file : list.files) {
-        progress.Next(file);
-        const auto work = [&] {
-            const Report report = ReportOn(line, {file, line.bare});
-            progress.MakeWayFor(stdout);
-            Print(stdout, (tables && !first ? "\n" : "") + report.text);
-            first = false;
-            clean = clean && report.clean;
-        };
-        clean = Try(file, progress, work) && clean;
-    }
-    return clean ? kDone : kFailed;
-}
-
-void RunOn(const CommandLine& line, const std::string& file) {
+// The work on one file: what it prints, and whether nothing irregular was found.
+Report RunOn(const CommandLine& line, const std::string& file) {
+    const Source source = {file, line.bare};
     switch (line.command) {
+    case Command::show:
+        return Show(source, line.form);
+    case Command::check:
+        return Check(source);
+    case Command::get:
+        return {ValueOf(source, line.fieldNames.empty() ? "" : line.fieldNames[0],
+                        line.customNames.empty() ? "" : line.customNames[0])};
     case Command::set:
-        return SetFields(file, line.fields, line.custom);
+        SetFields(file, line.fields, line.custom);
+        break;
     case Command::remove:
-        return RemoveFields(file, line.fieldNames, line.customNames);
+        RemoveFields(file, line.fieldNames, line.customNames);
+        break;
     case Command::thumbnail:
-        return SaveThumbnail({file, line.bare}, line.output, line.size);
+        line.original ? SaveOriginalThumbnail(source, line.output) : SaveThumbnail(source, line.output, line.size);
+        break;
     case Command::rc:
-        return SaveResourceScript({file, line.bare}, line.output);
-    default:
-        return CopySummary(file, line.output);
+        SaveResourceScript(source, line.output);
+        break;
+    case Command::copy:
+        CopySummary(line.source, file);
+        break;
     }
+    return {};
 }
 
+// One file after the other; a failure does not stop the others.
 int Run(const std::vector<std::string>& arguments) {
     const Parsed parsed = ParseCommandLine(arguments);
     if (!parsed.line) return parsed.exitCode;
     const CommandLine& line = *parsed.line;
-    if (line.command == Command::show || line.command == Command::check) return ReportAll(line);
-    Progress none(1);
-    return Try(line.file, none, [&] { RunOn(line, line.file); }) ? kDone : kFailed;
+    const FileList list = FilesOf(line.files, line.recursive);
+    Progress progress(list.files.size());
+    FailureReport failures(line.form, progress);
+    Print(stdout, HeadingsOf(line.form));
+    for (const FileList::Unreadable& unreadable : list.unreadable)
+        failures.Add(unreadable.name, unreadable.why);
+    const bool hasTables = line.command == Command::show && line.form == ReportForm::table;
+    bool isClean = list.unreadable.empty(), isFirst = true;
+    for (const std::string& file : list.files) {
+        progress.Next(file);
+        const auto work = [&] {
+            const Report report = RunOn(line, file);
+            progress.MakeWayFor(stdout);
+            Print(stdout, (hasTables && !isFirst ? "\n" : "") + report.text);
+            isFirst = false;
+            isClean = isClean && report.clean;
+        };
+        isClean = failures.Try(file, work) && isClean;
+    }
+    return isClean ? kDone : kFailed;
 }
 
-// "@-" reads arguments from standard input, each terminated by a NUL, for more names than fit on a command line.
 int RunWith(const std::vector<std::string>& words) {
     PrepareStreams();
     files::RemoveTemporaryFileOnInterrupt();
-    std::vector<std::string> arguments;
-    for (const std::string& word : words) {
-        if (word != "@-") {
-            arguments.push_back(word);
-            continue;
-        }
-        for (std::string argument; std::getline(std::cin, argument, '\0');)
-            arguments.push_back(argument);
+    try {
+        return Run(cli::WithListedArguments(words));
+    } catch (const files::FileError& unreadable) {
+        Print(stderr, std::string("suminfo: a list of arguments: ") + unreadable.what() + "\n");
+        return kUsage;
     }
-    return Run(arguments);
 }
 
 } // namespace

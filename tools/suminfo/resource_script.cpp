@@ -4,6 +4,11 @@
 #include <cstring>
 #include <filesystem>
 #include <string>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 #include "commands.h"
 #include "edited_set.h"
@@ -12,6 +17,7 @@
 #include "files/file_replacement.h"
 #include "orlo/propset/code_page.h"
 #include "orlo/propset/rc_file.h"
+#include "output_file.h"
 #include "sources.h"
 #include "text.h"
 
@@ -130,21 +136,34 @@ FILE* OpenStream(const fs::path& path) {
     return stream;
 }
 
+// The script's own stream is closed at its end.
+FILE* StandardOutput() {
+#ifdef _WIN32
+    FILE* stream = ::_fdopen(::_dup(::_fileno(stdout)), "wb");
+#else
+    FILE* stream = ::fdopen(::dup(::fileno(stdout)), "wb");
+#endif
+    if (stream == nullptr) files::ThrowLastError("the output cannot be written");
+    return stream;
+}
+
 } // namespace
 
 void SaveResourceScript(const Source& source, const std::string& script) {
-    const EditedSet sound(SummaryOf(source).bytes); // throws if the set is damaged
+    const EditedSet sound(SummaryOf(source).bytes); // refuses what is damaged
+    const bool isFile = script != kStandardStream;
+    WarnOfEnding(script, "rc", "a resource script");
     std::optional<files::FileReplacement> file;
-    OnFile(script, [&] { file.emplace(fs::u8path(script)); });
+    if (isFile) OnFile(script, [&] { file.emplace(fs::u8path(script)); });
     try {
-        CRCFile rc(OpenStream(file->Path()));
+        CRCFile rc(isFile ? OpenStream(file->Path()) : StandardOutput());
         Print(sound.Held(), "Sections of " + OneLine(source.file), rc);
         rc.Close();
     } catch (CFileException* full) {
         full->Delete();
-        throw Failure(script, "can't be written: the disk is full or failed");
+        throw Failure(script, "cannot be written: the disk is full or failed");
     }
-    OnFile(script, [&] { file->TakePlace(); });
+    if (isFile) OnFile(script, [&] { file->TakePlace(); });
 }
 
 } // namespace suminfo

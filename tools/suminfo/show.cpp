@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include "commands.h"
+#include "failure.h"
 #include "fields.h"
 #include "json_output.h"
+#include "orlo/propset/inspect/set_edit.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "sources.h"
 #include "text.h"
+#include "tools/cli/csv.h"
 #include "value_display.h"
 
 namespace suminfo {
@@ -72,8 +75,6 @@ void AddTable(const NamedStream& stream, Report& report) {
     report.clean = report.clean && stream.error.empty() && damaged == 0;
 }
 
-} // namespace
-
 Report ShowTable(const Source& source) {
     Report report = {OneLine(source.file) + "\n"};
     const SourceSets sets = SetsOf(source);
@@ -84,6 +85,10 @@ Report ShowTable(const Source& source) {
         report.text += "  (damaged: " + damage + ")\n";
     report.clean = report.clean && sets.damage.empty();
     return report;
+}
+
+std::string JsonLine(const Json& json) {
+    return Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";
 }
 
 Report ShowJson(const Source& source) {
@@ -104,8 +109,97 @@ Report ShowJson(const Source& source) {
         for (const NamedStream& stream : sets.streams)
             list.push_back(keep(StreamJson(stream)));
     }
-    report.text = Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";
+    report.text = JsonLine(json);
     return report;
+}
+
+// One property: its text is not cut into lines, unlike in tables.
+std::string PropertyValue(const orlo::ImageSection& section, const orlo::ImageProperty& property) {
+    orlo::Value value;
+    const bool isRead =
+        property.state == orlo::ValueState::complete &&
+        orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage, value);
+    const auto* text = isRead ? std::get_if<std::string>(&value.data) : nullptr;
+    return text ? *text : PropertyShown(section, property);
+}
+
+// What readers could not make out is in an error column of its own.
+Report ShowCsv(const Source& source) {
+    Report report;
+    const SourceSets sets = SetsOf(source);
+    const auto addError = [&](const std::string& stream, const std::string& why) {
+        report.text += cli::CsvLine({source.file, stream, "", "", "", why});
+        report.clean = false;
+    };
+    for (const std::string& damage : sets.damage)
+        addError("", damage);
+    for (const NamedStream& stream : sets.streams) {
+        const std::string name = StreamNameShown(stream.name);
+        std::vector<orlo::Finding> findings;
+        const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
+        if (!stream.error.empty()) addError(name, stream.error);
+        for (const orlo::Finding& finding : findings)
+            if (finding.severity == orlo::Severity::damaged) addError(name, finding.text);
+        if (!set) continue;
+        for (const orlo::ImageSection& section : set->sections) {
+            const PropertyNames names(section);
+            for (const orlo::ImageProperty& property : section.properties)
+                report.text += cli::CsvLine(
+                    {source.file, name, Heading(section), names.Of(property.id), PropertyValue(section, property), ""});
+        }
+    }
+    return report;
+}
+
+// The section that a value is searched in: the document's own, or any of a bare stream.
+std::optional<std::string> FindValue(const NamedStream& stream, const std::string& field, const std::string& custom) {
+    std::vector<orlo::Finding> findings;
+    const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
+    if (!set) return std::nullopt;
+    const Field* known = field.empty() ? nullptr : FieldNamed(field);
+    const orlo::ImageSection* section = set->Find(known ? known->format : kUserDefinedFormat);
+    if (!section) return std::nullopt;
+    const orlo::DictionaryEntry* named = known ? nullptr : orlo::FindName(*section, custom);
+    if (!known && !named) return std::nullopt;
+    const orlo::ImageProperty* property = section->Find(known ? known->id : named->id);
+    if (!property) return std::nullopt;
+    return PropertyValue(*section, *property);
+}
+
+} // namespace
+
+Report Show(const Source& source, ReportForm form) {
+    switch (form) {
+    case ReportForm::json:
+        return ShowJson(source);
+    case ReportForm::csv:
+        return ShowCsv(source);
+    default:
+        return ShowTable(source);
+    }
+}
+
+std::string HeadingsOf(ReportForm form) {
+    return form == ReportForm::csv ? cli::CsvLine({"file", "stream", "section", "property", "value", "error"}) : "";
+}
+
+std::string FailureLine(const std::string& file, const std::string& why, ReportForm form) {
+    switch (form) {
+    case ReportForm::json:
+        return JsonLine({{"file", file}, {"error", why}});
+    case ReportForm::csv:
+        return cli::CsvLine({file, "", "", "", "", why});
+    default:
+        return "";
+    }
+}
+
+std::string ValueOf(const Source& source, const std::string& field, const std::string& customName) {
+    for (const NamedStream& stream : SetsOf(source).streams) {
+        if (stream.name.find('/') != std::string::npos) continue; // of an inner storage
+        if (const auto value = FindValue(stream, field, customName)) return *value + "\n";
+    }
+    throw Failure(field.empty() ? "it has no custom property '" + customName + "'" : "it has no " + field);
 }
 
 } // namespace suminfo

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 
 #include "failure.h"
@@ -27,6 +28,7 @@ NamedStream SummaryOf(const Source& source) {
 }
 
 orlo::Bytes ReadFile(const std::string& file) {
+    if (file == kStandardStream) return orlo::Bytes(std::istreambuf_iterator<char>(std::cin), {});
     const fs::path path = fs::u8path(file);
     std::error_code none; // errors are reported when it is opened
     if (fs::is_directory(path, none)) throw Failure("is a folder");

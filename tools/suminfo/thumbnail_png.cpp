@@ -1,4 +1,4 @@
-// Saves the thumbnail as a PNG file.
+// The thumbnail as a PNG file, and as it is stored.
 
 #include <algorithm>
 #include <cstring>
@@ -10,10 +10,10 @@
 #include "commands.h"
 #include "failure.h"
 #include "fields.h"
-#include "files/file_replacement.h"
 #include "metafile_drawing.h"
 #include "orlo/propset/inspect/set_image.h"
 #include "orlo/summary/dib_drawing.h"
+#include "output_file.h"
 #include "picture_format.h"
 #include "sources.h"
 
@@ -80,10 +80,10 @@ void RefuseOtherKinds(const orlo::Bytes& value) {
     const auto tag = At<int32_t>(value, 0);
     const auto format = At<uint32_t>(value, 4);
     if (tag == kOfWindows && (format == kMetafilePicture || format == kBitmap)) return;
-    if (tag == kOfMacintosh) throw Failure("its thumbnail is a Macintosh picture, which suminfo doesn't draw");
-    if (tag == kOfWindows && format == kEnhancedMetafile)
-        throw Failure("its thumbnail is an enhanced metafile, which suminfo doesn't draw");
-    throw Failure("its thumbnail is of a clipboard format that suminfo doesn't draw");
+    const std::string kind = tag == kOfMacintosh                                ? "a Macintosh picture"
+                             : tag == kOfWindows && format == kEnhancedMetafile ? "an enhanced metafile"
+                                                                                : "of an unknown clipboard format";
+    throw Failure("its thumbnail is " + kind + ", which is not drawn; --original saves it as it is");
 }
 
 std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {
@@ -92,6 +92,30 @@ std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {
                                   : DrawMetafile(value, extent);
     if (!colors) throw Failure("its thumbnail is damaged");
     return std::move(*colors);
+}
+
+struct StoredPicture {
+    const char* ending;
+    const char* kind;
+    orlo::Bytes bytes;
+};
+
+StoredPicture PictureIn(const orlo::Bytes& value) {
+    constexpr size_t kExtents = 8; // mapping mode, width, height and a handle without meaning
+    const auto tag = At<int32_t>(value, 0);
+    const auto format = At<uint32_t>(value, 4);
+    const auto from = [&value](size_t offset) {
+        return orlo::Bytes(value.begin() + static_cast<std::ptrdiff_t>(offset), value.end());
+    };
+    if (tag == kOfMacintosh) return {"pict", "a Macintosh picture", from(kPictureOffset)};
+    if (tag == kOfWindows && format == kEnhancedMetafile) return {"emf", "an enhanced metafile", from(kPictureOffset)};
+    if (tag == kOfWindows && format == kMetafilePicture && value.size() > kPictureOffset + kExtents)
+        return {"wmf", "a metafile", from(kPictureOffset + kExtents)};
+    if (tag != kOfWindows || format != kBitmap)
+        return {"bin", "data of an unknown clipboard format", from(kPictureOffset)};
+    auto file = orlo::BitmapFileFrom(value.data() + kPictureOffset, value.size() - kPictureOffset);
+    if (!file) throw Failure("its thumbnail is damaged");
+    return {"bmp", "a bitmap", std::move(*file)};
 }
 
 } // namespace
@@ -103,14 +127,20 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<E
     if (extent.width <= 0 || extent.height <= 0 || extent.width > kLargest || extent.height > kLargest)
         throw Failure("a size is between 1x1 and 8192x8192");
     const std::vector<uint8_t> colors = Drawn(value, extent);
+    WarnOfEnding(png, "png", "a PNG picture");
     OnFile(png, [&] {
         std::string bytes;
         if (!stbi_write_png_to_func(Append, &bytes, extent.width, extent.height, 3, colors.data(), 3 * extent.width))
-            throw Failure("can't be written");
-        files::FileReplacement file(std::filesystem::u8path(png));
-        file.Write(bytes);
-        file.TakePlace();
+            throw Failure("cannot be written");
+        WriteOutput(png, bytes);
     });
+}
+
+void SaveOriginalThumbnail(const Source& source, const std::string& output) {
+    const StoredPicture picture = PictureIn(ThumbnailOf(source));
+    WarnOfEnding(output, picture.ending, picture.kind);
+    const std::string_view bytes(reinterpret_cast<const char*>(picture.bytes.data()), picture.bytes.size());
+    OnFile(output, [&] { WriteOutput(output, bytes); });
 }
 
 } // namespace suminfo

@@ -1,0 +1,17 @@
+// Files that commands write beside documents: pictures and scripts.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "orlo/propset/inspect/value.h"
+
+namespace suminfo {
+
+// Replaces the file, or prints the bytes if the name is kStandardStream. Throws files::FileError.
+void WriteOutput(const std::string& file, std::string_view bytes);
+// Warns on stderr if the name has another ending than the contents call for ("png").
+void WarnOfEnding(const std::string& file, const std::string& ending, const std::string& contents);
+
+} // namespace suminfo
