@@ -12,7 +12,7 @@ namespace cli {
 // Words that bash completes for a command besides its options.
 using CompletedWords = std::map<std::string, std::vector<std::string>>;
 
-// Adds --version, --man and --completion. The program's footer must have been set.
+// Adds --version, --man and --completion. Called before commands are added, which inherit settings.
 void AddCommonOptions(CLI::App& app, const std::string& version, const CompletedWords& words = {});
 
 // Parses the command line. Returns true if there is something to do. Otherwise `output` has been asked for (help, man

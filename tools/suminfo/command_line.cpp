@@ -100,6 +100,9 @@ public:
     Parser()
         : app_("Reads and writes the property sets of compound files: .doc .xls .ppt .msi .msg and many more",
                "suminfo") {
+        cli::AddCommonOptions(
+            app_, SUMINFO_VERSION,
+            {{"set", WordsToComplete("=")}, {"get", WordsToComplete("")}, {"remove", WordsToComplete("")}});
         app_.footer(kExamples);
         AddShow();
         AddGet();
@@ -109,9 +112,6 @@ public:
         AddThumbnail();
         AddScript();
         AddCopy();
-        cli::AddCommonOptions(
-            app_, SUMINFO_VERSION,
-            {{"set", WordsToComplete("=")}, {"get", WordsToComplete("")}, {"remove", WordsToComplete("")}});
     }
 
     Parsed Parse(std::vector<std::string> arguments) {
