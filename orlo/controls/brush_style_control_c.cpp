@@ -3,7 +3,7 @@
 #include "orlo/controls/brush_style_control_c.h"
 
 #include "orlo/controls/brush_style_item.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/style_control.h"
 
 namespace {
@@ -11,7 +11,7 @@ namespace {
 constexpr unsigned int kKind = kControlBrushStyleCombo;
 
 SampleGraphic MakeSample() {
-    return MakeBrushSample(kComboBrushLook);
+    return MakeBrushSample(kComboBrushLayout);
 }
 
 } // namespace
@@ -43,8 +43,9 @@ void CBrushStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 void CBrushStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {1, 2},
-                           [pDIS](const StyleItem& item) { return DrawBrushStyleItem(*pDIS, kComboBrushLook, item); });
+    StyleControl::DrawItem(*this, *pDIS, {1, 2}, [pDIS](const StyleItem& item) {
+        return DrawBrushStyleItem(*pDIS, kComboBrushLayout, item);
+    });
 }
 
 CString CBrushStyleControlC::DescribeItem(int index) {

@@ -14,7 +14,7 @@ constexpr int kHeight = 136;     // of the list
 constexpr LONG kRowPercent = 30; // of the client width
 
 SampleGraphic MakeSample() {
-    return MakeBrushSample(kListBrushLook);
+    return MakeBrushSample(kListBrushLayout);
 }
 
 } // namespace
@@ -53,7 +53,7 @@ void CBrushStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 
 void CBrushStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
     StyleControl::DrawItem(*this, *pDIS, {0, 0},
-                           [pDIS](const StyleItem& item) { return DrawBrushStyleItem(*pDIS, kListBrushLook, item); });
+                           [pDIS](const StyleItem& item) { return DrawBrushStyleItem(*pDIS, kListBrushLayout, item); });
 }
 
 CString CBrushStyleControlL::DescribeItem(int index) {

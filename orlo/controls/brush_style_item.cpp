@@ -15,25 +15,25 @@
 namespace {
 
 constexpr double kMargin = 0.01;
-constexpr double kLeastHeight = 0.01; // used for a cell of height 0
-constexpr POINT kTextAt = {4, 1};     // minimum distance from the corner of the item
+constexpr double kMinimumHeight = 0.01; // used for a cell of height 0
+constexpr POINT kTextAt = {4, 1};       // minimum distance from the corner of the item
 
-void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
+void DrawStyledSample(const DRAWITEMSTRUCT& request, const BrushStyleLayout& layout, const StyleItem& item) {
     const RECT cell = Inflated(request.rcItem, -2);
-    if (look.fitsCell) FitSampleToCell(item.graphic, cell);
-    const COLORREF ink = SampleColorsOf(request).text;
-    ::GraphicSetPenColor(item.graphic, ink);
-    ::GraphicSetBrushColor(item.graphic, ink);
+    if (layout.fitsCell) FitSampleToCell(item.graphic, cell);
+    const COLORREF color = SampleColorsOf(request).text;
+    ::GraphicSetPenColor(item.graphic, color);
+    ::GraphicSetBrushColor(item.graphic, color);
     ::GraphicSetBrushStyle(item.graphic, static_cast<uint16_t>(item.style));
-    ::GraphicSetBrushScale(item.graphic, HatchScale(item.table, item.style, SampleWidth(item.graphic), look.lines));
+    ::GraphicSetBrushScale(item.graphic, HatchScale(item.table, item.style, SampleWidth(item.graphic), layout.lines));
     ::GraphicSetDirty(item.graphic, 1); // the fill cached for the previous item must not be reused
     DrawSample(item.graphic, item.viewport, request.hDC, cell);
 }
 
 } // namespace
 
-SampleGraphic MakeBrushSample(const BrushStyleLook& look) {
-    const double outer = look.ratio, right = outer - kMargin, top = 1.0 - kMargin;
+SampleGraphic MakeBrushSample(const BrushStyleLayout& layout) {
+    const double outer = layout.ratio, right = outer - kMargin, top = 1.0 - kMargin;
     SampleGraphic graphic = NewSample({{kMargin, kMargin, 0, true},
                                        {kMargin, top, 0, true},
                                        {0.0, 1.0, 0, false},
@@ -48,7 +48,7 @@ SampleGraphic MakeBrushSample(const BrushStyleLook& look) {
 }
 
 void FitSampleToCell(GraphicStruct* graphic, const RECT& cell) {
-    const double height = cell.bottom != cell.top ? cell.bottom - cell.top : kLeastHeight;
+    const double height = cell.bottom != cell.top ? cell.bottom - cell.top : kMinimumHeight;
     const double outer = (cell.right - cell.left) / height;
     int cookie = 0, index = 0;
     for (VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); vertex;
@@ -59,21 +59,21 @@ void FitSampleToCell(GraphicStruct* graphic, const RECT& cell) {
     ::GraphicSetExtentsDirty(graphic, 1);
 }
 
-bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item) {
+bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLayout& layout, const StyleItem& item) {
     ClearItem(request);
     if (item.style >= kBrushStyleSpecial) return true;
 
     const bool none = item.style == kBrushStyleNone;
     if (!none && !item.table) return false;
     if (!none && item.graphic && item.viewport) {
-        DrawStyledSample(request, look, item);
+        DrawStyledSample(request, layout, item);
         return true;
     }
     const ItemText noBrush = HostTextItem(kBrushStyleNone, kStringNoBrush);
     const char* const name = none ? noBrush.name() : item.name;
     // Centered, like the samples.
-    const LONG room = request.rcItem.right - request.rcItem.left - TextWidth(request.hDC, name);
-    const POINT at = {request.rcItem.left + std::max(room / 2, kTextAt.x), request.rcItem.top + kTextAt.y};
+    const LONG space = request.rcItem.right - request.rcItem.left - TextWidth(request.hDC, name);
+    const POINT at = {request.rcItem.left + std::max(space / 2, kTextAt.x), request.rcItem.top + kTextAt.y};
     if (*name) DrawFramedName(request, request.rcItem, at, name);
     return true;
 }

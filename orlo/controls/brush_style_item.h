@@ -9,16 +9,16 @@
 constexpr unsigned int kBrushStyleSpecial = 0xFFFE; // identifiers from here on show nothing
 
 // The differences between combo box and list box.
-struct BrushStyleLook {
+struct BrushStyleLayout {
     double ratio;  // sample width relative to its height of 1.0
     bool fitsCell; // stretch the sample to the aspect ratio of its cell
     double lines;  // number of hatch lines across the sample
 };
-constexpr BrushStyleLook kComboBrushLook = {1.0, true, 20.0 * 2.0 / 3.0};
-constexpr BrushStyleLook kListBrushLook = {4.0, false, 20.0};
+constexpr BrushStyleLayout kComboBrushLayout = {1.0, true, 20.0 * 2.0 / 3.0};
+constexpr BrushStyleLayout kListBrushLayout = {4.0, false, 20.0};
 
 // Creates a box with thin margins: two outer corners with undrawn segments extend it by a hundredth on each side.
-SampleGraphic MakeBrushSample(const BrushStyleLook& look);
+SampleGraphic MakeBrushSample(const BrushStyleLayout& layout);
 
 // Stretches the sample to the aspect ratio of the cell.
 void FitSampleToCell(GraphicStruct* graphic, const RECT& cell);
@@ -32,4 +32,4 @@ void ForEachBrushStyle(TableStruct* table, Add add) {
 
 // Draws one item. Returns false if the style cannot be shown, in which case neither selection nor focus should be
 // drawn.
-bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLook& look, const StyleItem& item);
+bool DrawBrushStyleItem(const DRAWITEMSTRUCT& request, const BrushStyleLayout& layout, const StyleItem& item);

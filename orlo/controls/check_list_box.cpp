@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr int kPictureSize = 12; // size in pixels of the check mark's bitmap, and of the box at 96 dpi
-constexpr int kLeastHeight = 14; // minimum row height at 96 dpi; the box grows within the row
+constexpr int kPictureSize = 12;   // size in pixels of the check mark's bitmap, and of the box at 96 dpi
+constexpr int kMinimumHeight = 14; // minimum row height at 96 dpi; the box grows within the row
 constexpr int kTextGap = 3;
 
 // Returns the bitmap of the check mark, shared by all lists of the process. It has a color table.
@@ -125,7 +125,7 @@ void CCheckListBox::ToggleItem(int nIndex) {
 }
 
 int CCheckListBox::ItemHeight() {
-    return std::max(GetOwnerDrawFixedTextHeight(m_hWnd), ScreenPixels(kLeastHeight));
+    return std::max(GetOwnerDrawFixedTextHeight(m_hWnd), ScreenPixels(kMinimumHeight));
 }
 
 int CCheckListBox::InvalidateItem(int nIndex, int bErase) {
@@ -209,7 +209,7 @@ void CCheckListBox::PreSubclassWindow() {
 // the space bar, because such a host may toggle the item itself.
 LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETOBJECT) {
-        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kCheckListKind)) return object;
+        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kCheckListKind)) return object;
     }
     constexpr LPARAM kHeldDown = LPARAM{KF_REPEAT} << 16;
     if ((message == WM_KEYDOWN || message == WM_CHAR) && wParam == VK_SPACE) {

@@ -8,7 +8,7 @@
 
 #include "orlo/controls/color_order.h"
 #include "orlo/controls/color_swatch.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/controls/style_item.h"
@@ -106,8 +106,8 @@ int CColorControl::FindColor(DWORD dwColor) {
 }
 
 int CColorControl::AddControlItem(const char* pszItem) {
-    const Filling* const filling = Filling::Of(m_hWnd);
-    if (filling && filling->ItemsInFinalOrder()) return InsertString(-1, pszItem);
+    const FillScope* const scope = FillScope::Of(m_hWnd);
+    if (scope && scope->ItemsInFinalOrder()) return InsertString(-1, pszItem);
 
     char text[kItemTextSize];
     ::lstrcpynA(text, pszItem, sizeof text);
@@ -120,7 +120,7 @@ int CColorControl::AddControlItem(const char* pszItem) {
 }
 
 void CColorControl::FillControl(WPARAM, LPARAM pFill) {
-    const Filling filling(m_hWnd, Filling::Items::InFinalOrder);
+    const FillScope scope(m_hWnd, FillScope::Items::InFinalOrder);
     if (!BeginFill(*this, pFill)) return;
 
     for (const Entry& entry : SortedColors(m_pTable)) {

@@ -54,7 +54,7 @@ void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF co
 
 void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth, const char* name) {
     FrameRectangle(place.dc, frame, frameColor, frameWidth);
-    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.ink);
+    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.textColor);
 }
 
 // A swatch in the color of the background needs a frame. In a list the frame stays within the row, because neighboring
@@ -62,7 +62,7 @@ void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor,
 void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT frame = Inflated(place.rect, place.inField ? 1 : -1);
     FillSolid(place.dc, place.rect, color);
-    FrameRectangle(place.dc, frame, place.ink, 2);
+    FrameRectangle(place.dc, frame, place.textColor, 2);
     DrawName(place, frame, name, ReadableOn(color), false);
 }
 
@@ -70,12 +70,12 @@ void DrawFramed(const SwatchPlace& place, DWORD color, const char* name) {
 
 void DrawSwatch(const SwatchPlace& place, DWORD color, const char* name) {
     const RECT cleared = place.inField ? Inflated(place.rect, 2) : place.rect;
-    FillSolid(place.dc, cleared, place.paper);
+    FillSolid(place.dc, cleared, place.background);
     if (color & kMarkerBits) {
-        if (*name) DrawLabel(place, Inflated(cleared, -1), place.ink, 1, name);
+        if (*name) DrawLabel(place, Inflated(cleared, -1), place.textColor, 1, name);
     } else if (place.disabled) {
         DrawLabel(place, Inflated(place.rect, -1), color, 2, name);
-    } else if (color == kWhite || color == place.paper) {
+    } else if (color == kWhite || color == place.background) {
         DrawFramed(place, color, name);
     } else {
         FillWithColor(place.dc, place.rect, color);

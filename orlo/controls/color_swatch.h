@@ -6,11 +6,11 @@
 // Where a swatch is drawn, and in which state.
 struct SwatchPlace {
     HDC dc;
-    RECT rect;           // device pixels
-    bool inField;        // the closed field of a combo box; the swatch covers its border
-    bool disabled;       // draw a label in a frame of the color
-    COLORREF ink, paper; // colors of labels and their background
-    HFONT font;          // drawn in bold; null to use the font of dc
+    RECT rect;                      // device pixels
+    bool inField;                   // the closed field of a combo box; the swatch covers its border
+    bool disabled;                  // draw a label in a frame of the color
+    COLORREF textColor, background; // colors of labels and their background
+    HFONT font;                     // drawn in bold; null to use the font of dc
 };
 
 // Draws a plain color, or for a marker (nonzero high byte) its name in a frame; nothing if the name is empty.

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_names.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
@@ -96,7 +96,7 @@ const DropListKind kDropListKind;
 
 LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETOBJECT) {
-        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
+        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
     }
     return CWnd::WindowProc(message, wParam, lParam);
 }
@@ -149,20 +149,20 @@ WNDPROC* CComboControl::GetSuperWndProcAddr() {
 }
 
 BOOL CComboControl::PreCreateWindow(CREATESTRUCT& cs) {
-    m_beingMade = true;
+    m_beingCreated = true;
     return CComboBox::PreCreateWindow(cs);
 }
 
 // Called for windows being created and for existing windows that are subclassed. The parent has already measured the
 // rows of an existing window, and its WM_INITIALUPDATE is over.
 void CComboControl::PreSubclassWindow() {
-    if (std::exchange(m_beingMade, false)) return;
+    if (std::exchange(m_beingCreated, false)) return;
     m_dwStyle = GetStyle();
-    TakeWindowOver(m_hWnd, ControlItems::OfCombo(m_hWnd), MeasuredRow(*this));
+    InitializeSubclassedWindow(m_hWnd, ControlItems::OfCombo(m_hWnd), MeasuredRow(*this));
 }
 
 void CComboControl::PostNcDestroy() {
-    m_beingMade = false; // in case window creation failed
+    m_beingCreated = false; // in case window creation failed
     if (m_bAutoDelete) delete this;
 }
 
@@ -170,7 +170,7 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const ControlItems items = ControlItems::OfCombo(m_hWnd);
     m_names->Watch(items, message);
     if (message == WM_GETOBJECT) {
-        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
+        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
     }
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
     // Not at CBN_DROPDOWN, which only the parent receives.
@@ -225,8 +225,8 @@ void CComboControl::SizeDropDown() {
     const int frame = 3 * ::GetSystemMetrics(SM_CYBORDER) + (rect.bottom - rect.top);
     const int count = std::max(GetCount(), 0);
     if (m_nDropHeight != count * row + frame) {
-        const int room = std::max(ScreenPixels(kMaxDropHeight) - frame, 0);
-        m_nDropHeight = std::min(count, room / row) * row + frame;
+        const int space = std::max(ScreenPixels(kMaxDropHeight) - frame, 0);
+        m_nDropHeight = std::min(count, space / row) * row + frame;
     }
     SetControlHeight(m_hWnd, m_nDropHeight);
     // Common controls 6 show 30 rows regardless of the list's height unless this is set.
@@ -258,7 +258,7 @@ int CComboControl::AddControlItem(const char* text) {
 }
 
 void CComboControl::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
+    const FillScope scope(m_hWnd);
     if (!BeginFill(*this, lParam)) return;
     ForEachTableItem(m_pTable, [this](ItemText& text) { AddControlItem(text.c_str()); });
     SetCurSel(FindItem(m_nSelected));

@@ -117,7 +117,7 @@ private:
     void RestoreChoice();
     void FitDropWidth();
 
-    bool m_beingMade = false; // the window; stays false if a window is subclassed
+    bool m_beingCreated = false; // the window; stays false if a window is subclassed
     std::unique_ptr<ItemNames> m_names;
     Choice m_choice;                  // when the list was opened
     std::unique_ptr<CWnd> m_dropList; // the window of the list

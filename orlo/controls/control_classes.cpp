@@ -12,7 +12,7 @@ constexpr char kComboClass[] = "QXComboBox", kListClass[] = "QXListBox";
 
 // Attaches a framework object to the window at its first message. Without an object, the framework continues with the
 // procedure registered for the class, which is the system's.
-LRESULT HandOver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT AttachToFramework(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const WNDPROC next = AfxGetAfxWndProc();
     ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(next));
     return ::CallWindowProcA(next, window, message, wParam, lParam);
@@ -20,12 +20,12 @@ LRESULT HandOver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK ComboFirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CreateComboObject(window, ::GetDlgCtrlID(window));
-    return HandOver(window, message, wParam, lParam);
+    return AttachToFramework(window, message, wParam, lParam);
 }
 
 LRESULT CALLBACK ListFirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CreateListObject(window, ::GetDlgCtrlID(window));
-    return HandOver(window, message, wParam, lParam);
+    return AttachToFramework(window, message, wParam, lParam);
 }
 
 int RegisterControlClass(HINSTANCE module, const char* systemName, const char* name, WNDPROC first,

@@ -3,7 +3,7 @@
 #include "orlo/controls/font_face_control.h"
 
 #include "orlo/controls/control_items.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/plain_item.h"
@@ -24,7 +24,7 @@ CFontFaceControl::CFontFaceControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
 CFontFaceControl::~CFontFaceControl() = default;
 
 void CFontFaceControl::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
+    const FillScope scope(m_hWnd);
     BeginFill(*this, lParam); // the faces come from the system, so they are listed even without a table
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(this));
 

@@ -3,7 +3,7 @@
 #include "orlo/controls/font_list.h"
 
 #include "orlo/controls/distinct_items.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/controls/font_size_text.h"
 #include "orlo/host/drawing.h"
@@ -89,7 +89,7 @@ int FillFontDropDown(HWND hWnd, LPARAM lParam) {
     const orlo::WindowDC screen(nullptr);
     const HDC dc = screen.get();
     if (!dc) return 0;
-    const Filling filling(hWnd);
+    const FillScope scope(hWnd);
     const ControlItems items = ControlItems::OfCombo(hWnd);
     items.Clear();
     DistinctItems distinct(items);

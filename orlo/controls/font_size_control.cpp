@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "orlo/controls/control_items.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/font_size_text.h"
 #include "orlo/controls/item_drawing.h"
@@ -54,7 +54,7 @@ void CFontSizeControl::WatchEditField() {
 
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
     WatchEditField(); // a subclassed window was created without this object
-    const Filling filling(m_hWnd);
+    const FillScope scope(m_hWnd);
     m_pDrawing = nullptr; // the host may be about to close it
     if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
     const FontListRequest request = {this, m_strFontName};

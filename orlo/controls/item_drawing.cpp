@@ -29,7 +29,7 @@ RowColors ColorsOf(const DRAWITEMSTRUCT& item) {
 
 RowColors SampleColorsOf(const DRAWITEMSTRUCT& item) {
     if (item.itemState & ODS_DISABLED) return DisabledColors(item);
-    return {InkOnWindow(), ::GetSysColor(COLOR_WINDOW)};
+    return {TextColorOnWindow(), ::GetSysColor(COLOR_WINDOW)};
 }
 
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item) {
@@ -73,8 +73,8 @@ void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors&
 }
 
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name) {
-    const COLORREF ink = SampleColorsOf(item).text;
-    FrameRectangle(item.hDC, frame, ink, 1);
+    const COLORREF color = SampleColorsOf(item).text;
+    FrameRectangle(item.hDC, frame, color, 1);
     const int top = item.rcItem.top + MiddleOffset(item.hDC, item.rcItem, at.y - item.rcItem.top);
-    DrawClippedText(item.hDC, at.x, top, item.rcItem, name, ink);
+    DrawClippedText(item.hDC, at.x, top, item.rcItem, name, color);
 }

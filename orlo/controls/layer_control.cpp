@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/controls/text_height.h"
@@ -129,9 +129,9 @@ void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
     const COLORREF color = ::LayerGetColor(drawing, layer);
     const bool hasColor = color != kColorNone, readable = hasColor && IsReadable(request.hDC, color);
     const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
-    const COLORREF ink = plain ? InkOnWindow() : ColorsOf(request).text;
+    const COLORREF textColor = plain ? TextColorOnWindow() : ColorsOf(request).text;
     int x = rect.left + 2 * column + gap;
-    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, ink) + gap;
+    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, textColor) + gap;
     const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
-    DrawClippedText(request.hDC, x, rect.top + offset, rect, name, plain && readable ? color : ink);
+    DrawClippedText(request.hDC, x, rect.top + offset, rect, name, plain && readable ? color : textColor);
 }

@@ -2,7 +2,7 @@
 
 #include "orlo/controls/line_style_control_c.h"
 
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/line_style_item.h"
 #include "orlo/controls/style_control.h"
 
@@ -44,7 +44,7 @@ void CLineStyleControlC::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 
 void CLineStyleControlC::DrawItem(DRAWITEMSTRUCT* pDIS) {
     StyleControl::DrawItem(*this, *pDIS, {0, 0},
-                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kComboLineLook, item); });
+                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kComboLineLayout, item); });
 }
 
 CString CLineStyleControlC::DescribeItem(int index) {

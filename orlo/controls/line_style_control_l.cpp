@@ -48,7 +48,7 @@ void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 
 void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
     StyleControl::DrawItem(*this, *pDIS, {0, 0},
-                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kListLineLook, item); });
+                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kListLineLayout, item); });
 }
 
 CString CLineStyleControlL::DescribeItem(int index) {

@@ -79,7 +79,7 @@ double LineSampleScale(TableStruct* table, unsigned int style, double sampleWidt
     return items > 1 ? sampleWidth / PatternLength(table, id, items) : 1.0;
 }
 
-bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item) {
+bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLayout& layout, const StyleItem& item) {
     ClearItem(request);
     if (item.style == kLineStyleNone || item.style >= kLineStyleIndeterminate) return true;
 
@@ -93,7 +93,7 @@ bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look,
     char name[kItemTextSize];
     ::lstrcpynA(name, item.name, sizeof name);
     if (special && !*name) LoadSpecialName(item.style, name, kHostTextSize);
-    const POINT at = {request.rcItem.left + look.textAt.x, request.rcItem.top + look.textAt.y};
-    if (*name) DrawFramedName(request, look.framesCell ? cell : request.rcItem, at, name);
+    const POINT at = {request.rcItem.left + layout.textAt.x, request.rcItem.top + layout.textAt.y};
+    if (*name) DrawFramedName(request, layout.framesCell ? cell : request.rcItem, at, name);
     return true;
 }

@@ -24,16 +24,16 @@ void ForEachLineStyle(TableStruct* table, bool withDefault, Add add) {
 }
 
 // Where a name is drawn: the combo box frames the whole item, the list box the cell inside it.
-struct LineStyleLook {
+struct LineStyleLayout {
     bool framesCell;
     POINT textAt; // offset from the corner of the item
 };
-constexpr LineStyleLook kComboLineLook = {false, {4, 1}};
-constexpr LineStyleLook kListLineLook = {true, {6, 4}};
+constexpr LineStyleLayout kComboLineLayout = {false, {4, 1}};
+constexpr LineStyleLayout kListLineLayout = {true, {6, 4}};
 
 // Draws one item. Returns false if the style cannot be shown, in which case neither selection nor focus should be
 // drawn.
-bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLook& look, const StyleItem& item);
+bool DrawLineStyleItem(const DRAWITEMSTRUCT& request, const LineStyleLayout& layout, const StyleItem& item);
 
 // Returns the dash scale at which the first gap of the style is a fifteenth of the sample's width, or 1.0 for a solid
 // style.

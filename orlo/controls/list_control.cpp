@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "orlo/controls/combo_control.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_names.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/controls/type_ahead.h"
@@ -75,20 +75,20 @@ WNDPROC* CListControl::GetSuperWndProcAddr() {
 }
 
 BOOL CListControl::PreCreateWindow(CREATESTRUCT& cs) {
-    m_beingMade = true;
+    m_beingCreated = true;
     return CListBox::PreCreateWindow(cs);
 }
 
 // Called for windows being created and for existing windows that are subclassed. The parent has already measured the
 // rows of an existing window, and its WM_INITIALUPDATE is over.
 void CListControl::PreSubclassWindow() {
-    if (std::exchange(m_beingMade, false)) return;
+    if (std::exchange(m_beingCreated, false)) return;
     m_dwStyle = GetStyle();
-    TakeWindowOver(m_hWnd, ControlItems::OfList(m_hWnd), MeasuredRow(*this));
+    InitializeSubclassedWindow(m_hWnd, ControlItems::OfList(m_hWnd), MeasuredRow(*this));
 }
 
 void CListControl::PostNcDestroy() {
-    m_beingMade = false; // in case window creation failed
+    m_beingCreated = false; // in case window creation failed
     if (m_bAutoDelete) delete this;
 }
 
@@ -97,7 +97,7 @@ LRESULT CListControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     m_names->Watch(items, message);
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
     if (message == WM_GETOBJECT) {
-        if (const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kListKind)) return object;
+        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kListKind)) return object;
     }
     const LRESULT result = CListBox::WindowProc(message, wParam, lParam);
     if (items.IsSelection(message)) NotifySelection(m_hWnd, GetCurSel());
@@ -115,7 +115,7 @@ CString CListControl::DescribeItem(int index) {
 }
 
 void CListControl::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
+    const FillScope scope(m_hWnd);
     if (!BeginFill(*this, lParam)) return;
     ForEachTableItem(m_pTable, [this](ItemText& text) { AddString(text.c_str()); });
     SetCurSel(FindItem(m_nSelected));
@@ -150,14 +150,14 @@ static int HeightOfWholeRows(HWND list, int height, int row) {
 
 // Rows grow with the resolution. The list may grow with them only within the size that the template reserves, since the
 // dialog font may grow less.
-static int HeightInRoom(HWND list, int at96) {
+static int HeightInTemplate(HWND list, int at96) {
     return std::clamp(static_cast<int>(WindowSize(list).cy), at96, std::max(at96, ScreenPixels(at96)));
 }
 
 LRESULT CListControl::OnInitialUpdate(WPARAM, LPARAM) {
     SubclassCtl3d(1);
     UseSharedFont(m_hWnd);
-    const int height = HeightInRoom(m_hWnd, m_nHeight);
+    const int height = HeightInTemplate(m_hWnd, m_nHeight);
     SetControlHeight(m_hWnd, HeightOfWholeRows(m_hWnd, height, MeasuredRow(*this)));
     NotifyApplication(*this, m_nControlID, kControlReady);
     return 0;

@@ -66,6 +66,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool m_beingMade = false; // the window; stays false if a window is subclassed
+    bool m_beingCreated = false; // the window; stays false if a window is subclassed
     std::unique_ptr<ItemNames> m_names;
 };

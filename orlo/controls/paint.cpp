@@ -44,7 +44,7 @@ void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, C
     ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &clip, text, static_cast<UINT>(std::strlen(text)), nullptr);
 }
 
-COLORREF InkOnWindow() {
+COLORREF TextColorOnWindow() {
     constexpr COLORREF kBlack = RGB(0, 0, 0);
     const bool readable = Contrast(kBlack, ::GetSysColor(COLOR_WINDOW)) >= kReadableContrast;
     return readable ? kBlack : ::GetSysColor(COLOR_WINDOWTEXT);

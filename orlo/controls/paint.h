@@ -18,6 +18,6 @@ double Contrast(COLORREF a, COLORREF b);
 constexpr double kReadableContrast = 3.0;
 
 // Returns black if it is readable on the window's color, else the color of window text.
-COLORREF InkOnWindow();
+COLORREF TextColorOnWindow();
 
 RECT Inflated(const RECT& rect, int by);

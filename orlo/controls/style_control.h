@@ -2,7 +2,7 @@
 #pragma once
 
 #include "orlo/controls/combo_control.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/list_control.h"
 #include "orlo/controls/style_item.h"
@@ -30,7 +30,7 @@ struct StyleControl {
     // Handles the fill message; addAll(add) calls add(text) for each item.
     template <class Control, class Make, class AddAll>
     static void Fill(Control& control, LPARAM lParam, Make make, AddAll addAll) {
-        const Filling filling(control.m_hWnd);
+        const FillScope scope(control.m_hWnd);
         const bool hasTable = BeginFill(control, lParam);
         AttachSample(control.m_pGraphic, control.m_pViewport, control.m_pTable, make);
         if (!hasTable) return;

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "orlo/controls/control_items.h"
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/controls/plain_item.h"
@@ -57,7 +57,7 @@ CStyleNameControl::CStyleNameControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
 CStyleNameControl::~CStyleNameControl() = default;
 
 void CStyleNameControl::FillControl(WPARAM, LPARAM lParam) {
-    const Filling filling(m_hWnd);
+    const FillScope scope(m_hWnd);
     const auto* const record = reinterpret_cast<const ControlFillRecord*>(lParam);
     m_pTable = record ? record->pTable : nullptr;
     FillStyleNames(m_hWnd, m_pTable, record ? record->nSelected : 0);

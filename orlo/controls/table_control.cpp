@@ -10,7 +10,7 @@ unsigned long ItemOf(const ControlItems& items, int index, char* text) {
     return items.GetText(index, text, kItemTextSize) ? ParseControlItem(text) : 0;
 }
 
-void TakeWindowOver(HWND control, const ControlItems& items, int rowHeight) {
+void InitializeSubclassedWindow(HWND control, const ControlItems& items, int rowHeight) {
     ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
     const LONG style = ::GetWindowLongA(control, GWL_STYLE);
     constexpr LONG kVariable = CBS_OWNERDRAWVARIABLE, kDrawn = CBS_OWNERDRAWFIXED | kVariable;

@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr int kBoxWidth = 13; // width of a check box or radio button, in pixels at 96 dpi
-constexpr int kLabelRoom = 8; // space between box and label, and after the label
+constexpr int kBoxWidth = 13;  // width of a check box or radio button, in pixels at 96 dpi
+constexpr int kLabelSpace = 8; // space between box and label, and after the label
 
 // The templates make labels tab stops although they accept no input.
-void PassOverLabel(HWND child) {
+void RemoveTabStop(HWND child) {
     const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
     if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
         ::SetWindowLongPtrA(child, GWL_STYLE, style & ~WS_TABSTOP);
@@ -42,7 +42,7 @@ int LabelWidth(HWND child) {
 // resolution, while the space reserved by the template may not.
 int WantedWidth(HWND child, int width, int box) {
     if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
-    return std::max(width, box + kLabelRoom + LabelWidth(child));
+    return std::max(width, box + kLabelSpace + LabelWidth(child));
 }
 
 RECT PlaceIn(HWND page, HWND child) {
@@ -93,7 +93,7 @@ void FitControls(HWND page) {
         if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);
     for (const HWND control : controls) {
-        PassOverLabel(control);
+        RemoveTabStop(control);
         FitWidth(control, page, box, groups);
     }
     PutLabelsBeforeFields(page, controls);

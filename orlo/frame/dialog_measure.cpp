@@ -102,12 +102,12 @@ CSize BaseUnits(const DialogFont& font) {
     description.lfWeight = FW_BOLD;
     description.lfCharSet = DEFAULT_CHARSET;
     lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
-    CFont made;
-    if (!made.CreateFontIndirect(&description)) {
+    CFont created;
+    if (!created.CreateFontIndirect(&description)) {
         const LONG units = ::GetDialogBaseUnits();
         return CSize(LOWORD(units), HIWORD(units));
     }
-    const orlo::SelectedObject selected(screen.m_hDC, made.m_hObject);
+    const orlo::SelectedObject selected(screen.m_hDC, created.m_hObject);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.m_hDC, &metrics);
     int width = metrics.tmAveCharWidth;

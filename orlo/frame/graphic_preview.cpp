@@ -66,7 +66,7 @@ int CGraphicPreview::Create(const RECT& rect, CWnd* pParentWnd, unsigned int nID
 }
 
 LRESULT CGraphicPreview::OnGetObject(WPARAM wParam, LPARAM lParam) {
-    const LRESULT object = AnswerGetObject(m_hWnd, wParam, lParam, kPreviewKind);
+    const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kPreviewKind);
     return object != 0 ? object : Default();
 }
 

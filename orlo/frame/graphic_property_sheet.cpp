@@ -97,7 +97,7 @@ void CGraphicPropertySheet::DeletePages() {
 }
 
 // Resets the end code and the preview graphics of an earlier run, which show its edits even if it was canceled.
-void CGraphicPropertySheet::ForgetEarlierRun() {
+void CGraphicPropertySheet::ResetEarlierRun() {
     m_bEndWithCode = 0;
     for (int i = 0; i < GetPageCount(); ++i)
         if (GetPage(i)->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
@@ -110,7 +110,7 @@ int CGraphicPropertySheet::OnCreate(CREATESTRUCT* lpCreateStruct) {
     if (m_pPreviewGroup == nullptr) m_pPreviewGroup = ::GraphicNewEx(kGraphicVertices, 0, 1);
     if (m_pPreviewGroup == nullptr) return -1;
     ::GraphicAttach(m_pPreviewGroup, GetDrawing());
-    ForgetEarlierRun();
+    ResetEarlierRun();
     if (COrloPropertySheet::OnCreate(lpCreateStruct) == -1) return -1;
     RecalcLayout();
     return 0;

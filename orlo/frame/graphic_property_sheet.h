@@ -71,7 +71,7 @@ private:
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
 
     CGraphicPropertyPage* GetActiveGraphicPage();
-    void ForgetEarlierRun();
+    void ResetEarlierRun();
     CSize PageSize(const CPropertyPage& active, CSize beside) const;
     int ButtonColumnWidth(int (&widths)[3]);
     void PlaceButtons(int left, int top, const int (&widths)[3]);

@@ -208,7 +208,7 @@ struct CBrushPage::Preview {
 
 const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
     {{IDC_BRUSH_COLOR},
-     [](CBrushPage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor); }},
+     [](CBrushPage& page, CDataExchange* pDX, int) { TransferColor(page, pDX, IDC_BRUSH_COLOR, kPropBrushColor); }},
     {{IDC_BRUSH_ANGLE},
      [](CBrushPage& page, CDataExchange* pDX, int) {
          double angle = 0.0;
@@ -219,7 +219,7 @@ const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
     {{IDC_BRUSH_STYLE_LIST}, [](CBrushPage& page, CDataExchange* pDX, int) { page.SetPreviewStyle(pDX); }},
     {{IDC_HATCH_CROSS},
      [](CBrushPage& page, CDataExchange* pDX, int bAll) {
-         CarryCheck(page, pDX, IDC_HATCH_CROSS, bAll, page.m_nLastCross, kPropHatchCross);
+         TransferCheck(page, pDX, IDC_HATCH_CROSS, bAll, page.m_nLastCross, kPropHatchCross);
      }},
     {{IDC_DRAW_WINDING}, [](CBrushPage& page, CDataExchange* pDX, int) {
          int mode = 0;
@@ -229,7 +229,7 @@ const PreviewRow<CBrushPage> CBrushPage::Preview::kRows[] = {
 
 void CBrushPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CarryToPreview(*this, Preview::kRows, bAll);
+    TransferToPreview(*this, Preview::kRows, bAll);
     // Preview writes go to the graphics of all pages, including the pen properties of the Pen page. This preview keeps
     // its own pen.
     ::GraphicSetPenStyle(m_pPreviewGraphic, kLineStyleByBlock);

@@ -143,7 +143,7 @@ struct CLinePage::Preview {
 };
 
 const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
-    {{IDC_COLOR}, [](CLinePage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_COLOR, kPropPenColor); }},
+    {{IDC_COLOR}, [](CLinePage& page, CDataExchange* pDX, int) { TransferColor(page, pDX, IDC_COLOR, kPropPenColor); }},
     {{IDC_PEN_WIDTH},
      [](CLinePage& page, CDataExchange* pDX, int) {
          double width = 0.0;
@@ -170,12 +170,12 @@ const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
          if (system != kScaleIndeterminate) page.SetPropText(kPropScaleSystem, system, 1);
      }},
     {{IDC_PEN_ALIGNMENT}, [](CLinePage& page, CDataExchange* pDX, int bAll) {
-         CarryCheck(page, pDX, IDC_PEN_ALIGNMENT, bAll, page.m_nLastAlignment, kPropPenAlignment);
+         TransferCheck(page, pDX, IDC_PEN_ALIGNMENT, bAll, page.m_nLastAlignment, kPropPenAlignment);
      }}};
 
 void CLinePage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CarryToPreview(*this, Preview::kRows, bAll);
+    TransferToPreview(*this, Preview::kRows, bAll);
     // Preview writes go to the graphics of all pages, including the brush properties of the Brush page. This preview
     // has no brush.
     ::GraphicSetBrushStyle(m_pPreviewGraphic, 0);

@@ -5,12 +5,13 @@
 #include "orlo/binding/indeterminate.h"
 #include "orlo/exchange/ddx.h"
 
-void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName) {
+void TransferColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName) {
     unsigned long color = kIndeterminateId;
     if (DDX_CBTableColor(0, pDX, nID, color)) page.SetPropText(pszPropName, color, 1);
 }
 
-void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last, const char* pszPropName) {
+void TransferCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last,
+                   const char* pszPropName) {
     int value = 0;
     DDX_Check(0, pDX, nID, value);
     if (value != kIndeterminateCheck) {

@@ -21,16 +21,17 @@ struct PreviewRow {
 
 // Transfers the values of the rows that have a dirty control, or with bAll of all rows.
 template <class Page, size_t N>
-void CarryToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
+void TransferToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
     CDataExchange save(&page, TRUE);
     for (const PreviewRow<Page>& row : rows)
         if (bAll || row.IsDirty(page)) row.carry(page, &save, bAll);
 }
 
 // Transfers the color selected in the control, if any.
-void CarryColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName);
+void TransferColor(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, const char* pszPropName);
 
 // Transfers the state of a three-state check box. Such a box is indeterminate at first, and the first click should make
 // it determinate for good. If the user clicks it into the indeterminate state (bAll 0), it is therefore set to the
 // opposite of last, its last determinate state, which the call updates.
-void CarryCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last, const char* pszPropName);
+void TransferCheck(CGraphicPropertyPage& page, CDataExchange* pDX, int nID, int bAll, int& last,
+                   const char* pszPropName);

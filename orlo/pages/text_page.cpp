@@ -118,7 +118,7 @@ const PreviewRow<CTextPage> CTextPage::Preview::kRows[] = {
          if (DDX_CBString(0, pDX, IDC_FONT_FACE, page.m_strFont)) page.SetPropText(kPropTextFont, page.m_strFont, 1);
      }},
     {{IDC_TEXT_COLOR},
-     [](CTextPage& page, CDataExchange* pDX, int) { CarryColor(page, pDX, IDC_TEXT_COLOR, kPropPenColor); }},
+     [](CTextPage& page, CDataExchange* pDX, int) { TransferColor(page, pDX, IDC_TEXT_COLOR, kPropPenColor); }},
     {{IDC_FONT_STYLE, IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX},
      [](CTextPage& page, CDataExchange* pDX, int) {
          if (DDX_CBFontStyle(0, pDX, IDC_FONT_STYLE, page.m_wStyle) && DDX_ChkBoxEffects(0, pDX, page.m_wStyle))
@@ -130,6 +130,6 @@ const PreviewRow<CTextPage> CTextPage::Preview::kRows[] = {
 
 void CTextPage::SetPreviewProperties(int bAll) {
     if (m_pPreviewGraphic == nullptr) return;
-    CarryToPreview(*this, Preview::kRows, bAll);
+    TransferToPreview(*this, Preview::kRows, bAll);
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(1);
 }

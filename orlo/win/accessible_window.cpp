@@ -258,7 +258,7 @@ void NotifyValueChange(HWND window) {
     ::NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
-LRESULT AnswerGetObject(HWND window, WPARAM wParam, LPARAM lParam, const AccessibleKind& kind) {
+LRESULT HandleGetObject(HWND window, WPARAM wParam, LPARAM lParam, const AccessibleKind& kind) {
     if (static_cast<DWORD>(lParam) != static_cast<DWORD>(OBJID_CLIENT)) return 0;
     void* found = nullptr;
     if (FAILED(::CreateStdAccessibleObject(window, OBJID_CLIENT, kAccessible, &found))) return 0;

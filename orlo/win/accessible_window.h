@@ -1,7 +1,7 @@
 // Supplies screen readers with information about a window where the system's own would be unsuitable.
 //
 //   case WM_GETOBJECT:
-//       return AnswerGetObject(m_hWnd, wParam, lParam, kLayerList);
+//       return HandleGetObject(m_hWnd, wParam, lParam, kLayerList);
 #pragma once
 
 #include <optional>
@@ -45,7 +45,7 @@ public:
 
 // Handles WM_GETOBJECT. Returns 0 if the message requests something other than the window's client area, or if the
 // system has no object for it.
-LRESULT AnswerGetObject(HWND window, WPARAM wParam, LPARAM lParam, const AccessibleKind& kind);
+LRESULT HandleGetObject(HWND window, WPARAM wParam, LPARAM lParam, const AccessibleKind& kind);
 
 // Returns the text of the label before a control in window order, without the mnemonic prefix, else the text of the
 // smallest group box around the control, else an empty string.

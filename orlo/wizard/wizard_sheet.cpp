@@ -156,10 +156,10 @@ void CWizardSheet::TrimSystemMenu() {
 
 void CWizardSheet::TakePageFont() {
     const auto font = reinterpret_cast<HFONT>(GetActivePage()->SendMessage(WM_GETFONT));
-    LOGFONTA look;
-    if (font == nullptr || ::GetObjectA(font, sizeof look, &look) == 0) return;
+    LOGFONTA description;
+    if (font == nullptr || ::GetObjectA(font, sizeof description, &description) == 0) return;
     m_font.DeleteObject();
-    m_font.CreateFontIndirect(&look);
+    m_font.CreateFontIndirect(&description);
 }
 
 // Without a page, units are treated as pixels.

@@ -1,6 +1,6 @@
 // A scope in which a control is filled.
 
-#include "orlo/controls/filling.h"
+#include "orlo/controls/fill_scope.h"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@
 namespace {
 
 // The innermost scope. Controls live on one thread, and filling one control may cause another to be filled.
-Filling* g_current = nullptr;
+FillScope* g_current = nullptr;
 
 // Rows must fit the control's own font, which at high resolutions is larger than the device context's.
 int MeasureRow(HWND window) {
@@ -18,30 +18,30 @@ int MeasureRow(HWND window) {
 
 } // namespace
 
-Filling::Filling(HWND window, Items items) : window_(window), items_(items), outer_(g_current) {
+FillScope::FillScope(HWND window, Items items) : window_(window), items_(items), outer_(g_current) {
     g_current = this;
     ::SendMessageA(window, WM_SETREDRAW, FALSE, 0);
 }
 
-Filling::~Filling() {
+FillScope::~FillScope() {
     g_current = outer_;
     ::SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
     if (window_) ::InvalidateRect(window_, nullptr, TRUE); // a null window would invalidate all windows
 }
 
-Filling* Filling::Of(HWND window) {
-    for (Filling* fill = g_current; fill; fill = fill->outer_) {
+FillScope* FillScope::Of(HWND window) {
+    for (FillScope* fill = g_current; fill; fill = fill->outer_) {
         if (fill->window_ == window) return fill;
     }
     return nullptr;
 }
 
-int Filling::TextHeight() {
+int FillScope::TextHeight() {
     if (!textHeight_) textHeight_ = MeasureRow(window_);
     return textHeight_;
 }
 
 int RowTextHeight(HWND window) {
-    Filling* const fill = Filling::Of(window);
+    FillScope* const fill = FillScope::Of(window);
     return fill ? fill->TextHeight() : MeasureRow(window);
 }

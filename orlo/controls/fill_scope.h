@@ -4,17 +4,17 @@
 #include <windows.h>
 
 // Suppresses redrawing while a control is filled, and measures its rows only once.
-class Filling {
+class FillScope {
 public:
     enum class Items { AsTheyCome, InFinalOrder };
 
-    explicit Filling(HWND window, Items items = Items::AsTheyCome);
-    ~Filling();
-    Filling(const Filling&) = delete;
-    Filling& operator=(const Filling&) = delete;
+    explicit FillScope(HWND window, Items items = Items::AsTheyCome);
+    ~FillScope();
+    FillScope(const FillScope&) = delete;
+    FillScope& operator=(const FillScope&) = delete;
 
     // Returns the active scope of that window, or null.
-    static Filling* Of(HWND window);
+    static FillScope* Of(HWND window);
 
     bool ItemsInFinalOrder() const { return items_ == Items::InFinalOrder; }
     int TextHeight();
@@ -23,7 +23,7 @@ private:
     HWND window_;
     Items items_;
     int textHeight_ = 0; // 0: not yet measured
-    Filling* outer_;
+    FillScope* outer_;
 };
 
 // Returns the height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font
