@@ -14,7 +14,7 @@ namespace {
 
 struct Table {
     std::mutex lock;
-    std::map<OrloPropset, std::shared_ptr<HeldSet>> sets;
+    std::map<OrloPropset, std::shared_ptr<OpenSet>> sets;
     uintptr_t last = 0;
 };
 
@@ -25,7 +25,7 @@ Table& TheTable() {
 
 } // namespace
 
-std::shared_ptr<HeldSet> Held(OrloPropset handle) {
+std::shared_ptr<OpenSet> RequireSet(OrloPropset handle) {
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
     const auto found = table.sets.find(handle);
@@ -33,23 +33,23 @@ std::shared_ptr<HeldSet> Held(OrloPropset handle) {
     return found->second;
 }
 
-std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle) {
-    std::shared_ptr<HeldSet> set = Held(handle);
-    if (set->isDamaged) Refuse(kOrloDamaged, "the property set is damaged and takes no change");
+std::shared_ptr<OpenSet> RequireUndamagedSet(OrloPropset handle) {
+    std::shared_ptr<OpenSet> set = RequireSet(handle);
+    if (set->isDamaged) Refuse(kOrloDamaged, "the property set is damaged and cannot be changed or saved");
     return set;
 }
 
-OrloPropset Hold(HeldSet set) {
-    auto held = std::make_shared<HeldSet>(std::move(set));
+OrloPropset AddSet(OpenSet set) {
+    auto open = std::make_shared<OpenSet>(std::move(set));
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
     const auto handle = reinterpret_cast<OrloPropset>(++table.last);
-    table.sets[handle] = std::move(held);
+    table.sets[handle] = std::move(open);
     return handle;
 }
 
 void Release(OrloPropset handle) {
-    const std::shared_ptr<HeldSet> goes = Held(handle); // destroyed after the lock is released
+    const std::shared_ptr<OpenSet> closed = RequireSet(handle); // destroyed after the lock is released
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
     table.sets.erase(handle);
@@ -60,23 +60,23 @@ const GUID& AsGuid(const OrloGuid& format) {
     return reinterpret_cast<const GUID&>(format);
 }
 
-ImageSection& SectionOf(SetImage& image, const OrloGuid* format) {
+ImageSection& RequireSection(SetImage& image, const OrloGuid* format) {
     ImageSection* section = image.Find(AsGuid(RequireNotNull(format, "the format")));
-    if (section == nullptr) Refuse(kOrloNotFound, "the set has no section of that format");
+    if (section == nullptr) Refuse(kOrloNotFound, "the property set has no section with this format");
     return *section;
 }
 
-ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id) {
-    ImageProperty* property = SectionOf(image, format).Find(id);
+ImageProperty& RequireProperty(SetImage& image, const OrloGuid* format, uint32_t id) {
+    ImageProperty* property = RequireSection(image, format).Find(id);
     if (property == nullptr) Refuse(kOrloNotFound, "the section has no such property");
     return *property;
 }
 
-void HandOut(const void* bytes, size_t count, void* buffer, size_t* size) {
-    const size_t room = RequireNotNull(size, "the size");
+void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size) {
+    const size_t capacity = RequireNotNull(size, "the size");
     *size = count;
     if (buffer == nullptr) return;
-    if (room < count) Refuse(kOrloBufferTooSmall, "the buffer is too small");
+    if (capacity < count) Refuse(kOrloBufferTooSmall, "the buffer is too small");
     if (count > 0) std::memcpy(buffer, bytes, count);
 }
 
@@ -87,7 +87,7 @@ using namespace orlo;
 OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
     return GuardedCall([&] {
         RequireNotNull(set, "the handle") = nullptr;
-        *set = Hold({});
+        *set = AddSet({});
     });
 }
 
@@ -98,7 +98,7 @@ OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
 OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {
     return GuardedCall([&] {
         RequireNotNull(count, "the count") = 0;
-        *count = static_cast<uint32_t>(Held(set)->image.sections.size());
+        *count = static_cast<uint32_t>(RequireSet(set)->image.sections.size());
     });
 }
 
@@ -106,9 +106,9 @@ OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, Orlo
     return GuardedCall([&] {
         OrloSection& record = RequireRecord(section, "the section");
         record = {sizeof record, {}, 0, 0};
-        const auto held = Held(set);
-        if (index >= held->image.sections.size()) Refuse(kOrloNotFound, "there are not so many sections");
-        const ImageSection& found = held->image.sections[index];
+        const auto open = RequireSet(set);
+        if (index >= open->image.sections.size()) Refuse(kOrloNotFound, "the section index is out of range");
+        const ImageSection& found = open->image.sections[index];
         std::memcpy(&record.format, &found.formatId, sizeof record.format);
         record.codePage = found.codePage.value_or(0);
         record.properties = static_cast<uint32_t>(found.properties.size());
@@ -119,10 +119,10 @@ OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, u
     return GuardedCall([&] {
         OrloProperty& record = RequireRecord(property, "the property");
         record = {sizeof record, 0, 0, 0, 0};
-        const auto held = Held(set);
-        if (section >= held->image.sections.size() || index >= held->image.sections[section].properties.size())
-            Refuse(kOrloNotFound, "there are not so many properties");
-        const ImageProperty& found = held->image.sections[section].properties[index];
+        const auto open = RequireSet(set);
+        if (section >= open->image.sections.size() || index >= open->image.sections[section].properties.size())
+            Refuse(kOrloNotFound, "the section or property index is out of range");
+        const ImageProperty& found = open->image.sections[section].properties[index];
         record = {sizeof record, found.id, found.type, found.state == ValueState::complete, found.bytes.size()};
     });
 }

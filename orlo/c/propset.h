@@ -19,26 +19,26 @@ struct Origin {
     Bytes bytes;
 };
 
-struct HeldSet {
+struct OpenSet {
     SetImage image;
     bool isDamaged = false; // the stream could not be read completely, so the set is not written again
     std::optional<Origin> origin = {};
 };
 
 // Throws Refusal if the handle was never issued or is closed.
-std::shared_ptr<HeldSet> Held(OrloPropset handle);
+std::shared_ptr<OpenSet> RequireSet(OrloPropset handle);
 // Also throws Refusal if the set is damaged. For sets that will be changed or written.
-std::shared_ptr<HeldSet> HeldWhole(OrloPropset handle);
-OrloPropset Hold(HeldSet set);
+std::shared_ptr<OpenSet> RequireUndamagedSet(OrloPropset handle);
+OrloPropset AddSet(OpenSet set);
 void Release(OrloPropset handle);
 
 const GUID& AsGuid(const OrloGuid& format);
 // Returns the first section of that format. Throws Refusal if there is none.
-ImageSection& SectionOf(SetImage& image, const OrloGuid* format);
-ImageProperty& PropertyOf(SetImage& image, const OrloGuid* format, uint32_t id);
+ImageSection& RequireSection(SetImage& image, const OrloGuid* format);
+ImageProperty& RequireProperty(SetImage& image, const OrloGuid* format, uint32_t id);
 
 // Copies bytes to the caller's buffer. size: in, the capacity of the buffer; out, the number of bytes. With a null
 // buffer only the number is stored. Throws Refusal if the buffer is too small.
-void HandOut(const void* bytes, size_t count, void* buffer, size_t* size);
+void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size);
 
 } // namespace orlo

@@ -26,15 +26,15 @@ void Check(HRESULT result, const char* what) {
 OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin = std::nullopt) {
     std::vector<Finding> findings;
     std::optional<SetImage> image = ReadSetImage(data, size, findings);
-    if (!image) Refuse(kOrloDamaged, "this is not a property set");
+    if (!image) Refuse(kOrloDamaged, "not a property set");
     const bool isDamaged = std::any_of(findings.begin(), findings.end(),
                                        [](const Finding& finding) { return finding.severity == Severity::damaged; });
-    return Hold({std::move(*image), isDamaged, std::move(origin)});
+    return AddSet({std::move(*image), isDamaged, std::move(origin)});
 }
 
-Bytes Written(const HeldSet& set) {
+Bytes Written(const OpenSet& set) {
     std::optional<Bytes> bytes = WriteSetImage(set.image);
-    if (!bytes) Refuse(kOrloNotEncodable, "the code page of a section can't say one of its names");
+    if (!bytes) Refuse(kOrloNotEncodable, "a name cannot be represented in the code page of its section");
     return std::move(*bytes);
 }
 
@@ -63,8 +63,7 @@ void WriteWhole(IStream& stream, const Bytes& bytes) {
 
 std::string StreamName(const char* name) {
     const std::string text = name != nullptr ? name : kSummaryStreamName;
-    if (text.empty() || !Utf8ToCodePage(text, kCodePageUtf16))
-        Refuse(kOrloBadArgument, "this is not a name of a stream");
+    if (text.empty() || !Utf8ToCodePage(text, kCodePageUtf16)) Refuse(kOrloBadArgument, "the stream name is not valid");
     return text;
 }
 
@@ -79,7 +78,7 @@ CompoundReader OpenToRead(const std::filesystem::path& path) {
 
 Bytes ReadStream(const std::filesystem::path& path, const std::string& name) {
     const CompoundReader reader = OpenToRead(path);
-    if (reader.State() == CompoundState::foreign) Refuse(kOrloDamaged, "the file is not a compound file");
+    if (reader.State() == CompoundState::foreign) Refuse(kOrloDamaged, "not a compound file");
     const CompoundStream* stream = FindStream(reader, name);
     if (stream == nullptr) Refuse(kOrloNotFound, "the file has no such stream");
     return reader.Read(*stream);
@@ -90,7 +89,7 @@ bool IsSamePlace(const Origin& origin, const std::filesystem::path& path, const 
     return std::filesystem::equivalent(origin.file, path, isMissing) && IsSameName(origin.stream, stream);
 }
 
-void Save(HeldSet& set, const Bytes& bytes, const std::filesystem::path& path, const std::string& stream) {
+void Save(OpenSet& set, const Bytes& bytes, const std::filesystem::path& path, const std::string& stream) {
     try {
         EditedDocument document(path, EditedDocument::IfMissing::Create);
         if (set.origin && IsSamePlace(*set.origin, path, stream) && document.Read(stream) != set.origin->bytes)
@@ -135,18 +134,18 @@ OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* stream
 
 OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size) {
     return GuardedCall([&] {
-        const Bytes bytes = Written(*HeldWhole(set));
-        HandOut(bytes.data(), bytes.size(), buffer, size);
+        const Bytes bytes = Written(*RequireUndamagedSet(set));
+        CopyOut(bytes.data(), bytes.size(), buffer, size);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, IStream* stream) {
-    return GuardedCall([&] { WriteWhole(RequireNotNull(stream, "the stream"), Written(*HeldWhole(set))); });
+    return GuardedCall([&] { WriteWhole(RequireNotNull(stream, "the stream"), Written(*RequireUndamagedSet(set))); });
 }
 
 OrloResult ORLO_CALL OrloPropsetSaveFile(OrloPropset set, const wchar_t* path, const char* streamName) {
     return GuardedCall([&] {
-        const auto held = HeldWhole(set);
-        Save(*held, Written(*held), &RequireNotNull(path, "the path"), StreamName(streamName));
+        const auto open = RequireUndamagedSet(set);
+        Save(*open, Written(*open), &RequireNotNull(path, "the path"), StreamName(streamName));
     });
 }

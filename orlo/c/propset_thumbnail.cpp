@@ -28,10 +28,10 @@ Number At(const Bytes& bytes, size_t offset) {
 }
 
 // Returns the value without its length: tag, format, picture.
-Bytes ThumbnailOf(OrloPropset set) {
-    const auto held = Held(set);
-    const ImageProperty& property = PropertyOf(held->image, &kOrloSummary, kOrloThumbnail);
-    if (property.type != kOrloTypeClipboard) Refuse(kOrloWrongType, "the thumbnail is no picture");
+Bytes RequireThumbnail(OrloPropset set) {
+    const auto open = RequireSet(set);
+    const ImageProperty& property = RequireProperty(open->image, &kOrloSummary, kOrloThumbnail);
+    if (property.type != kOrloTypeClipboard) Refuse(kOrloWrongType, "the thumbnail is not a picture");
     if (property.state != ValueState::complete || property.bytes.size() < kLengthSize + kPictureOffset)
         Refuse(kOrloDamaged, "the thumbnail is damaged");
     return Bytes(property.bytes.begin() + kLengthSize, property.bytes.end());
@@ -46,9 +46,9 @@ SIZE SizeInside(const Bytes& value) {
     return {At<LONG>(value, kPictureOffset + 4), At<LONG>(value, kPictureOffset + 8)};
 }
 
-SIZE OwnSize(const Bytes& value) {
+SIZE NaturalSize(const Bytes& value) {
     const SIZE size = SizeInside(value);
-    if (size.cx <= 0 || size.cy <= 0) Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
+    if (size.cx <= 0 || size.cy <= 0) Refuse(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
     const double longer = std::max(size.cx, size.cy);
     if (At<uint32_t>(value, 4) == CF_DIB && longer <= kLargest) return size;
     const double scale = kVectorSide / longer;
@@ -56,14 +56,14 @@ SIZE OwnSize(const Bytes& value) {
 }
 
 // Returns the requested size, and sets it to the picture's own where it is 0 by 0.
-SIZE Sized(const Bytes& value, uint32_t& width, uint32_t& height) {
+SIZE RequestedSize(const Bytes& value, uint32_t& width, uint32_t& height) {
     if (width == 0 && height == 0) {
-        const SIZE own = OwnSize(value);
+        const SIZE own = NaturalSize(value);
         width = static_cast<uint32_t>(own.cx);
         height = static_cast<uint32_t>(own.cy);
     }
     if (width == 0 || height == 0 || width > kLargest || height > kLargest)
-        Refuse(kOrloBadArgument, "a size is between 1x1 and 8192x8192");
+        Refuse(kOrloBadArgument, "the size must be between 1x1 and 8192x8192");
     return {static_cast<LONG>(width), static_cast<LONG>(height)};
 }
 
@@ -72,20 +72,20 @@ struct Picture {
     uint32_t* pixels; // pixels of the bitmap, top row first; blue is in the lowest byte
 };
 
-Picture Drawn(const Bytes& value, SIZE size) {
+Picture Render(const Bytes& value, SIZE size) {
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     void* bits = nullptr;
     Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)), nullptr};
-    if (!picture.bitmap) Refuse(kOrloOutOfMemory, "the system can't make a bitmap of that size");
+    if (!picture.bitmap) Refuse(kOrloOutOfMemory, "cannot create a bitmap of that size");
     picture.pixels = static_cast<uint32_t*>(bits);
     const orlo::SelectedObject selected(dc.get(), picture.bitmap.get());
     ::PatBlt(dc.get(), 0, 0, size.cx, size.cy, WHITENESS);
     ::SetStretchBltMode(dc.get(), HALFTONE);
     const RECT all = {0, 0, size.cx, size.cy};
     if (!::DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), dc.get(), &all))
-        Refuse(kOrloDamaged, "the thumbnail is damaged or of a kind that is not drawn");
+        Refuse(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
     ::GdiFlush();
     const size_t count = static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy);
     std::for_each(picture.pixels, picture.pixels + count, [](uint32_t& pixel) { pixel |= ~kColor; });
@@ -102,16 +102,17 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
                                                    void* buffer, size_t* size) {
     return GuardedCall([&] {
         RequireNotNull(size, "the size");
-        if (order > kOrloRgba) Refuse(kOrloBadArgument, "there is no such order of pixels");
-        const Bytes value = ThumbnailOf(set);
-        const SIZE pixels = Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
+        if (order > kOrloRgba) Refuse(kOrloBadArgument, "unknown pixel order");
+        const Bytes value = RequireThumbnail(set);
+        const SIZE pixels =
+            RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
         if (buffer == nullptr || *size < count * sizeof(uint32_t)) // only the size is requested, so drawing can be
                                                                    // skipped
-            return HandOut(nullptr, count * sizeof(uint32_t), buffer, size);
-        const Picture picture = Drawn(value, pixels);
+            return CopyOut(nullptr, count * sizeof(uint32_t), buffer, size);
+        const Picture picture = Render(value, pixels);
         if (order == kOrloRgba) std::for_each(picture.pixels, picture.pixels + count, SwapRedAndBlue);
-        HandOut(picture.pixels, count * sizeof(uint32_t), buffer, size);
+        CopyOut(picture.pixels, count * sizeof(uint32_t), buffer, size);
     });
 }
 
@@ -119,8 +120,9 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* wi
                                                    HBITMAP__** bitmap) {
     return GuardedCall([&] {
         RequireNotNull(bitmap, "the bitmap") = nullptr;
-        const Bytes value = ThumbnailOf(set);
-        const SIZE size = Sized(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
-        *bitmap = Drawn(value, size).bitmap.release();
+        const Bytes value = RequireThumbnail(set);
+        const SIZE size =
+            RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
+        *bitmap = Render(value, size).bitmap.release();
     });
 }

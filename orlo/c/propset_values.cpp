@@ -14,13 +14,13 @@ using namespace orlo;
 namespace {
 
 Value ValueOf(OrloPropset set, const OrloGuid* format, uint32_t id) {
-    const auto held = Held(set);
-    const ImageProperty& property = PropertyOf(held->image, format, id);
+    const auto open = RequireSet(set);
+    const ImageProperty& property = RequireProperty(open->image, format, id);
     Value value;
     if (property.state != ValueState::complete ||
         !DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
-                     SectionOf(held->image, format).codePage, value))
-        Refuse(kOrloDamaged, "the value can't be read");
+                     RequireSection(open->image, format).codePage, value))
+        Refuse(kOrloDamaged, "the value is damaged");
     return value;
 }
 
@@ -28,7 +28,7 @@ int64_t IntegerOf(const Value& value) {
     if (const bool* truth = std::get_if<bool>(&value.data)) return *truth ? 1 : 0;
     if (const int64_t* number = std::get_if<int64_t>(&value.data)) return *number;
     const uint64_t* number = std::get_if<uint64_t>(&value.data);
-    if (number == nullptr || *number > INT64_MAX) Refuse(kOrloWrongType, "the value is no 64-bit integer");
+    if (number == nullptr || *number > INT64_MAX) Refuse(kOrloWrongType, "the value is not a 64-bit integer");
     return static_cast<int64_t>(*number);
 }
 
@@ -41,11 +41,11 @@ uint16_t CodePageOf(SetImage& image, const OrloGuid* format) {
 // Creates the section. Fails if it exists already, since its texts are encoded in its code page.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
-    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "this is not a code page");
+    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "not a code page");
     if (image.Find(wanted) != nullptr)
-        Refuse(kOrloBadArgument, "the texts of the section are in its code page, which stays");
+        Refuse(kOrloBadArgument, "the code page of an existing section cannot be changed");
     if (!Utf8ToCodePage("a", static_cast<uint16_t>(codePage)))
-        Refuse(kOrloBadArgument, "the system does not know the code page");
+        Refuse(kOrloBadArgument, "the code page is not supported by the system");
     SectionFor(image, wanted, static_cast<uint16_t>(codePage));
 }
 
@@ -60,16 +60,16 @@ void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t t
 
 // Encodes and stores a value. Fails with `unfit` if the value is out of range for its type.
 void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
-    const auto held = HeldWhole(set);
-    std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(held->image, format));
-    if (!bytes) Refuse(unfit, "the value has no form in that type");
-    StoreBytes(held->image, format, id, value.type, std::move(*bytes));
+    const auto open = RequireUndamagedSet(set);
+    std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(open->image, format));
+    if (!bytes) Refuse(unfit, "the value cannot be represented in its type");
+    StoreBytes(open->image, format, id, value.type, std::move(*bytes));
 }
 
-Value WholeValue(uint32_t type, int64_t number) {
+Value IntegerValue(uint32_t type, int64_t number) {
     switch (type) {
     case VT_BOOL:
-        if (number != 0 && number != 1) Refuse(kOrloWrongType, "a truth is 0 or 1");
+        if (number != 0 && number != 1) Refuse(kOrloWrongType, "a Boolean must be 0 or 1");
         return {type, number == 1, {}};
     case VT_UI1:
     case VT_UI2:
@@ -77,7 +77,7 @@ Value WholeValue(uint32_t type, int64_t number) {
     case VT_UINT:
     case VT_UI8:
     case VT_FILETIME:
-        if (number < 0) Refuse(kOrloWrongType, "the type has no negative numbers");
+        if (number < 0) Refuse(kOrloWrongType, "the type is unsigned and the number is negative");
         return {type, static_cast<uint64_t>(number), {}};
     case VT_I1:
     case VT_I2:
@@ -88,7 +88,7 @@ Value WholeValue(uint32_t type, int64_t number) {
     case VT_ERROR:
         return {type, number, {}};
     default:
-        Refuse(kOrloWrongType, "this is no type of whole numbers");
+        Refuse(kOrloWrongType, "not an integer type");
     }
 }
 
@@ -106,7 +106,7 @@ OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format,
         RequireNotNull(value, "the value") = 0;
         const Value found = ValueOf(set, format, id);
         const double* number = std::get_if<double>(&found.data);
-        if (number == nullptr) Refuse(kOrloWrongType, "the value is no real number");
+        if (number == nullptr) Refuse(kOrloWrongType, "the value is not a real number");
         *value = *number;
     });
 }
@@ -116,17 +116,17 @@ OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format,
     return GuardedCall([&] {
         const Value found = ValueOf(set, format, id);
         const std::string* text = std::get_if<std::string>(&found.data);
-        if (text == nullptr) Refuse(kOrloWrongType, "the value is no text");
-        HandOut(text->c_str(), text->size() + 1, buffer, size);
+        if (text == nullptr) Refuse(kOrloWrongType, "the value is not text");
+        CopyOut(text->c_str(), text->size() + 1, buffer, size);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
                                          size_t* size) {
     return GuardedCall([&] {
-        const auto held = Held(set);
-        const Bytes& bytes = PropertyOf(held->image, format, id).bytes;
-        HandOut(bytes.data(), bytes.size(), buffer, size);
+        const auto open = RequireSet(set);
+        const Bytes& bytes = RequireProperty(open->image, format, id).bytes;
+        CopyOut(bytes.data(), bytes.size(), buffer, size);
     });
 }
 
@@ -134,20 +134,19 @@ OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* form
                                            int64_t value) {
     return GuardedCall([&] {
         if (id == kOrloCodePage)
-            StoreCodePage(HeldWhole(set)->image, format, value);
+            StoreCodePage(RequireUndamagedSet(set)->image, format, value);
         else
-            Store(set, format, id, WholeValue(type, value), kOrloWrongType);
+            Store(set, format, id, IntegerValue(type, value), kOrloWrongType);
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         double value) {
     return GuardedCall([&] {
-        if (type != VT_R4 && type != VT_R8 && type != VT_DATE)
-            Refuse(kOrloWrongType, "this is no type of real numbers");
+        if (type != VT_R4 && type != VT_R8 && type != VT_DATE) Refuse(kOrloWrongType, "not a type of real numbers");
         if (!std::isfinite(value)) Refuse(kOrloBadArgument, "the number is not finite");
         if (type == VT_R4 && std::isinf(static_cast<float>(value)))
-            Refuse(kOrloWrongType, "a float can't hold the number");
+            Refuse(kOrloWrongType, "the number is out of range for a float");
         Store(set, format, id, {type, value, {}}, kOrloWrongType);
     });
 }
@@ -155,8 +154,7 @@ OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format,
 OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         const char* value) {
     return GuardedCall([&] {
-        if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR)
-            Refuse(kOrloWrongType, "this is no type of texts");
+        if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR) Refuse(kOrloWrongType, "not a text type");
         RequireNotNull(value, "the text");
         Store(set, format, id, {type, std::string(value), {}}, kOrloNotEncodable);
     });
@@ -168,21 +166,22 @@ OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format
         const auto* first = static_cast<const uint8_t*>(data);
         if (size > 0) RequireNotNull(first, "the data");
         Bytes bytes(first, first + size);
-        const auto held = HeldWhole(set);
-        const uint16_t codePage = CodePageOf(held->image, format);
+        const auto open = RequireUndamagedSet(set);
+        const uint16_t codePage = CodePageOf(open->image, format);
         Value value;
         if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) || EncodeValue(value, codePage) != bytes)
-            Refuse(kOrloWrongType, "the bytes are not one value of that type");
-        StoreBytes(held->image, format, id, type, std::move(bytes));
+            Refuse(kOrloWrongType, "the bytes are not a single value of the type");
+        StoreBytes(open->image, format, id, type, std::move(bytes));
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, uint32_t id) {
     return GuardedCall([&] {
-        const auto held = HeldWhole(set);
-        if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page stay with their section");
-        PropertyOf(held->image, format, id);
-        ImageSection& section = SectionOf(held->image, format);
+        const auto open = RequireUndamagedSet(set);
+        if (id <= kOrloCodePage)
+            Refuse(kOrloBadArgument, "dictionary and code page cannot be removed from their section");
+        RequireProperty(open->image, format, id);
+        ImageSection& section = RequireSection(open->image, format);
         RemoveValue(section, id);
         RemoveName(section, id);
     });
@@ -191,12 +190,12 @@ OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, 
 OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
                                         size_t* size) {
     return GuardedCall([&] {
-        const auto held = Held(set);
-        const ImageSection& section = SectionOf(held->image, format);
+        const auto open = RequireSet(set);
+        const ImageSection& section = RequireSection(open->image, format);
         if (section.dictionary)
             for (const DictionaryEntry& entry : *section.dictionary)
                 if (entry.id == id && entry.undecoded.empty())
-                    return HandOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
+                    return CopyOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
         Refuse(kOrloNotFound, "the property has no name");
     });
 }
@@ -204,8 +203,8 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
 OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name, uint32_t* id) {
     return GuardedCall([&] {
         RequireNotNull(id, "the identifier") = 0;
-        const auto held = Held(set);
-        const DictionaryEntry* entry = FindName(SectionOf(held->image, format), &RequireNotNull(name, "the name"));
+        const auto open = RequireSet(set);
+        const DictionaryEntry* entry = FindName(RequireSection(open->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
         *id = entry->id;
     });
@@ -213,13 +212,14 @@ OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format
 
 OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id, const char* name) {
     return GuardedCall([&] {
-        const auto held = HeldWhole(set);
+        const auto open = RequireUndamagedSet(set);
         const std::string text = &RequireNotNull(name, "the name");
-        PropertyOf(held->image, format, id);
-        ImageSection& section = SectionOf(held->image, format);
-        if (text.empty() || id <= kOrloCodePage) Refuse(kOrloBadArgument, "this can't be named so");
+        RequireProperty(open->image, format, id);
+        ImageSection& section = RequireSection(open->image, format);
+        if (text.empty() || id <= kOrloCodePage)
+            Refuse(kOrloBadArgument, "the name is empty, or the property cannot have a name");
         if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
-            Refuse(kOrloNotEncodable, "the code page of the section can't say the name");
+            Refuse(kOrloNotEncodable, "the name cannot be represented in the code page of the section");
         const DictionaryEntry* there = FindName(section, text);
         if (there != nullptr && there->id != id) Refuse(kOrloBadArgument, "another property has that name");
         StoreName(section, id, text);

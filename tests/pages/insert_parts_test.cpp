@@ -95,7 +95,7 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
         {{0, 0, -1}, {0, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, 0}},
         {{0, 1, 0}, {0, 0, 1}, {1, 0, 0}, {1, 1, 1}, {0, kPi / 2, kPi / 2}}, // rotation about x is undetermined: all of
                                                                              // it is about z
-        {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}}, // the mirroring is in z
+        {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, -1}, {kPi, 0, kPi}},       // the mirroring is in z
         {{1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {1, 1, -1}, {0, 0, 0}}};
     for (const auto& row : kRows) {
         SetAxes(row.a, row.b, row.c);
