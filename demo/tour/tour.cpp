@@ -222,7 +222,7 @@ void Tour::EditAllPages() {
 void Tour::SaveCopy() {
     m_user.Key(VK_ESCAPE);
     m_user.Key(VK_HOME);
-    m_frame.SendMessage(WM_COMMAND, ID_VIEW_LIGHT_PAPER);
+    m_frame.SendMessage(WM_COMMAND, ID_VIEW_LIGHT_BACKGROUND);
     const std::string name = m_frame.GetDocument()->Name();
     const std::string copy = name.substr(0, name.rfind('.')) + "-edited.dxf";
     if (!m_frame.Save(m_folder + "\\" + copy)) throw std::runtime_error(copy + " could not be saved");

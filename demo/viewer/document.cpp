@@ -22,35 +22,35 @@ bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
 }
 
 // State of the listener while a drawing is opened or saved.
-struct Task {
+struct Operation {
     const Document::Progress& progress;
-    std::vector<std::string> findings;
-    bool isCancelled = false;
+    std::vector<std::string> warnings;
+    bool isCanceled = false;
 };
 
 int ShowProgress(void* context, int permille) {
-    Task& task = *static_cast<Task*>(context);
-    if (!task.progress(permille)) task.isCancelled = true;
-    return !task.isCancelled;
+    Operation& operation = *static_cast<Operation*>(context);
+    if (!operation.progress(permille)) operation.isCanceled = true;
+    return !operation.isCanceled;
 }
 
 void KeepFinding(void* context, int line, const char* text) {
     const std::string place = line ? "line " + std::to_string(line) + ": " : "";
-    static_cast<Task*>(context)->findings.push_back(place + text);
+    static_cast<Operation*>(context)->warnings.push_back(place + text);
 }
 
 } // namespace
 
 std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
     char message[512] = "";
-    Task opening = {progress, {}};
+    Operation opening = {progress, {}};
     const DxfListener listener = {&opening, ShowProgress, KeepFinding};
     OwnedDrawing drawing(::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message));
-    if (!drawing && opening.isCancelled) throw Cancelled();
+    if (!drawing && opening.isCanceled) throw Canceled();
     if (!drawing) throw OpenError(path + "\n\n" + message);
     ::AppSetCurrentDrawing(drawing.get());
     std::unique_ptr<Document> document(new Document(path, std::move(drawing)));
-    document->m_findings = std::move(opening.findings);
+    document->m_warnings = std::move(opening.warnings);
     return document;
 }
 
@@ -67,18 +67,18 @@ bool Document::IsModified() const {
 
 bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
     char message[512] = "";
-    Task saving = {progress, {}};
+    Operation saving = {progress, {}};
     const DxfListener listener = {&saving, ShowProgress, KeepFinding};
     const uint32_t flags = overChanged ? kSaveOverChanged : 0;
     switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
         m_path = path;
-        m_saveNotes = std::move(saving.findings);
+        m_saveNotes = std::move(saving.warnings);
         return true;
     case kSaveFileChanged:
         return false;
     case kSaveCancelled:
-        throw Cancelled();
+        throw Canceled();
     default:
         throw SaveError(path + "\n\n" + Utf8FromSystem(message));
     }
@@ -115,16 +115,16 @@ std::string Document::LengthText(double length) const {
 }
 
 // Commits the open transaction, and begins the next one at the end of the scope.
-class Document::GatheringPause {
+class Document::TransactionPause {
 public:
-    explicit GatheringPause(Document& document) : m_document(document) {
-        if (m_document.m_isGathering) m_document.EndStep();
+    explicit TransactionPause(Document& document) : m_document(document) {
+        if (m_document.m_inTransaction) m_document.EndStep();
     }
-    ~GatheringPause() {
-        if (m_document.m_isGathering) ::DrawingBeginUndo(m_document.Drawing());
+    ~TransactionPause() {
+        if (m_document.m_inTransaction) ::DrawingBeginUndo(m_document.Drawing());
     }
-    GatheringPause(const GatheringPause&) = delete;
-    GatheringPause& operator=(const GatheringPause&) = delete;
+    TransactionPause(const TransactionPause&) = delete;
+    TransactionPause& operator=(const TransactionPause&) = delete;
 
 private:
     Document& m_document;
@@ -138,7 +138,7 @@ int Document::Change(const std::function<void()>& change) {
 }
 
 int Document::Attempt(const std::function<bool()>& change) {
-    const GatheringPause pause(*this);
+    const TransactionPause pause(*this);
     ::DrawingBeginUndo(Drawing());
     try {
         if (change()) return EndStep();
@@ -150,23 +150,23 @@ int Document::Attempt(const std::function<bool()>& change) {
     return 0;
 }
 
-void Document::BeginGathering() {
-    m_isGathering = true;
+void Document::BeginTransaction() {
+    m_inTransaction = true;
     ::DrawingBeginUndo(Drawing());
 }
 
-void Document::EndGathering() {
-    m_isGathering = false;
+void Document::EndTransaction() {
+    m_inTransaction = false;
     EndStep();
 }
 
-int Document::TakeGathered() {
+int Document::CommitTransaction() {
     const int changed = EndStep();
     ::DrawingBeginUndo(Drawing());
     return changed;
 }
 
-int Document::DropGathered() {
+int Document::RollBackTransaction() {
     const int changed = ::DrawingCancelUndo(Drawing());
     ::DrawingBeginUndo(Drawing());
     return changed;
@@ -190,12 +190,12 @@ void Document::TrimHistory() {
 
 void Document::Record(std::unique_ptr<UndoableChange> change) {
     if (!change) return;
-    const GatheringPause pause(*this);
+    const TransactionPause pause(*this);
     m_history.Add(std::move(change));
 }
 
 std::string Document::Undo() {
-    const GatheringPause pause(*this);
+    const TransactionPause pause(*this);
     int graphics = 0;
     const UndoableChange* change = m_history.Undo([&] { graphics = ::DrawingUndo(Drawing()); });
     m_styles.RenumberGraphics();
@@ -204,7 +204,7 @@ std::string Document::Undo() {
 }
 
 std::string Document::Redo() {
-    const GatheringPause pause(*this);
+    const TransactionPause pause(*this);
     int graphics = 0;
     const UndoableChange* change = m_history.Redo([&] { graphics = ::DrawingRedo(Drawing()); });
     m_styles.RenumberGraphics();

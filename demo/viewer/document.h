@@ -28,7 +28,7 @@ public:
 };
 
 // Opening or saving was canceled by the caller's Progress.
-class Cancelled : public std::exception {};
+class Canceled : public std::exception {};
 
 class Document {
 public:
@@ -51,7 +51,7 @@ public:
     bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
     // Returns what was omitted from the drawing when it was opened, one line each.
-    const std::vector<std::string>& Findings() const { return m_findings; }
+    const std::vector<std::string>& Warnings() const { return m_warnings; }
     // Returns what other programs will not show of the drawing as last saved, one line per property.
     const std::vector<std::string>& SaveNotes() const { return m_saveNotes; }
 
@@ -79,10 +79,10 @@ public:
     int Attempt(const std::function<bool()>& change);
     // Begins a transaction for a window that stays open. Its changes, made outside of Change and Attempt, become one
     // step when it is committed, or are rolled back. Change, Attempt, Undo and Redo commit it first.
-    void BeginGathering();
-    void EndGathering();
-    int TakeGathered(); // Returns the number of graphics changed by the step; if 0, there is no step.
-    int DropGathered(); // Returns the number of graphics restored.
+    void BeginTransaction();
+    void EndTransaction();
+    int CommitTransaction();   // Returns the number of graphics changed by the step; if 0, there is no step.
+    int RollBackTransaction(); // Returns the number of graphics restored.
     // Returns how many of the oldest changes can no longer be undone since the last change, for lack of memory.
     int DroppedSteps() const;
     // Adds a change outside of the database as one step, unless it is null.
@@ -94,18 +94,18 @@ public:
     std::string Redo();
 
 private:
-    class GatheringPause;
+    class TransactionPause;
 
     Document(const std::string& path, OwnedDrawing drawing);
     int EndStep();
     void TrimHistory();
 
     std::string m_path;
-    std::vector<std::string> m_findings, m_saveNotes;
+    std::vector<std::string> m_warnings, m_saveNotes;
     OwnedDrawing m_drawing; // destroyed after the members that refer to its graphics
     GraphicStruct* m_root;
     Selection m_selection;
     StyleBook m_styles;
     UndoHistory m_history;
-    bool m_isGathering = false;
+    bool m_inTransaction = false;
 };

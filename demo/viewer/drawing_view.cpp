@@ -47,7 +47,7 @@ ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
-    SetPaper(kDarkPaper);
+    SetBackground(kDarkBackground);
 }
 
 CDrawingView::~CDrawingView() = default;
@@ -63,8 +63,8 @@ void CDrawingView::SetDocument(Document* document) {
     const ChangeListener listener = {this, OnGraphicChanging};
     HearOfChanges(&listener);
     m_camera.SetDrawing(document ? document->Drawing() : nullptr);
-    m_picture.SetDocument(document);
-    SpoilAll();
+    m_cachedView.SetDocument(document);
+    InvalidateAll();
     FitAll();
 }
 
@@ -83,23 +83,23 @@ void CDrawingView::FitSelection() {
 void CDrawingView::FitTo(GraphicStruct* graphic) {
     m_camera.Fit(graphic, kMargin);
     m_isFitted = false;
-    SpoilAll();
+    InvalidateAll();
 }
 
 void CDrawingView::Zoom(double factor, CPoint anchor) {
-    m_picture.Zoom(factor, anchor);
+    m_cachedView.Zoom(factor, anchor);
     m_isFitted = false;
     ShowMove();
 }
 
 void CDrawingView::Pan(CSize pixels) {
-    m_picture.Pan(pixels);
+    m_cachedView.Pan(pixels);
     m_isFitted = false;
     ShowMove();
 }
 
 void CDrawingView::Redraw() {
-    SpoilAll();
+    InvalidateAll();
 }
 
 void CDrawingView::HearOfChanges(const ChangeListener* listener) {
@@ -108,22 +108,22 @@ void CDrawingView::HearOfChanges(const ChangeListener* listener) {
 
 void CDrawingView::OnGraphicChanging(void* view) {
     CDrawingView& self = *static_cast<CDrawingView*>(view);
-    if (self.m_picture.IsSpoiled()) return;
-    self.SpoilAll();
+    if (self.m_cachedView.IsInvalid()) return;
+    self.InvalidateAll();
     self.m_client.OnDrawingChanging();
 }
 
-void CDrawingView::SetPaper(COLORREF paper) {
-    m_paper = paper;
-    ::ViewportSetBackground(m_camera.Viewport(), paper);
-    m_picture.SetPaper(paper);
-    SpoilAll();
+void CDrawingView::SetBackground(COLORREF background) {
+    m_background = background;
+    ::ViewportSetBackground(m_camera.Viewport(), background);
+    m_cachedView.SetBackground(background);
+    InvalidateAll();
 }
 
 void CDrawingView::ShowLineWeights(bool show) {
     m_lineWeights = show;
     ::ViewportShowLineWeights(m_camera.Viewport(), show);
-    SpoilAll();
+    InvalidateAll();
 }
 
 // ---- Selecting
@@ -140,7 +140,7 @@ void CDrawingView::SelectNext(bool forward) {
     if (box && !m_camera.Visible().Contains(*box) && !box->Contains(m_camera.Visible())) {
         m_camera.CenterOn(box->Center());
         m_isFitted = false;
-        SpoilAll();
+        InvalidateAll();
     }
 }
 
@@ -158,8 +158,8 @@ void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection
 void CDrawingView::ShowSelectionChange() {
     if (const std::optional<WorldBox> changed = m_document->Selected().TakeChanged()) {
         CRect area = m_camera.ToPixels(*changed);
-        area.InflateRect(Glow::kRadius + kPenOverhang, Glow::kRadius + kPenOverhang);
-        m_picture.SpoilGlow(area);
+        area.InflateRect(SelectionHighlight::kRadius + kPenOverhang, SelectionHighlight::kRadius + kPenOverhang);
+        m_cachedView.InvalidateHighlight(area);
         InvalidateRect(area, FALSE);
     }
     m_client.OnSelectionChanged();
@@ -280,30 +280,30 @@ void CDrawingView::EndDrag() {
 
 void CDrawingView::OnSize(UINT, int cx, int cy) {
     m_camera.SetWindow(CSize(cx, cy));
-    m_picture.Resize(CSize(cx, cy));
+    m_cachedView.Resize(CSize(cx, cy));
     if (m_isFitted) FitAll();
-    SpoilAll();
+    InvalidateAll();
 }
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) {
     return TRUE; // painting covers the whole area
 }
 
-void CDrawingView::SpoilAll() {
-    m_picture.SpoilAll();
+void CDrawingView::InvalidateAll() {
+    m_cachedView.InvalidateAll();
     if (m_hWnd) Invalidate(FALSE);
 }
 
 void CDrawingView::ShowMove() {
     Invalidate(FALSE);
-    if (m_picture.IsMoved()) SetTimer(kRestTimer, kRest);
+    if (m_cachedView.IsMoved()) SetTimer(kRestTimer, kRest);
 }
 
 // The view was not moved for a while, or drawing was interrupted.
 void CDrawingView::OnTimer(UINT_PTR) {
     KillTimer(kRestTimer);
-    if (IsAtRest()) return;
-    while (!m_picture.Settle(kTurn)) {
+    if (IsExact()) return;
+    while (!m_cachedView.Finish(kTurn)) {
         if (!HIWORD(::GetQueueStatus(QS_INPUT | QS_POSTMESSAGE | QS_PAINT))) continue;
         SetTimer(kRestTimer, kTurn);
         return;
@@ -312,17 +312,17 @@ void CDrawingView::OnTimer(UINT_PTR) {
 }
 
 void CDrawingView::OnPaint() {
-    m_picture.Renew();
+    m_cachedView.Renew();
     CPaintDC dc(this);
     const CRect area(dc.m_ps.rcPaint);
-    if (!m_picture.Dc()) return;
+    if (!m_cachedView.Dc()) return;
     MemoryPicture frame; // avoids flicker of the rubber band
     if (!m_band.IsActive() || !frame.Resize(area.Size())) {
-        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top,
+        ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), m_cachedView.Dc(), area.left, area.top,
                  SRCCOPY);
         return;
     }
-    ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_picture.Dc(), area.left, area.top, SRCCOPY);
+    ::BitBlt(frame.Dc(), 0, 0, area.Width(), area.Height(), m_cachedView.Dc(), area.left, area.top, SRCCOPY);
     ::SetViewportOrgEx(frame.Dc(), -area.left, -area.top, nullptr);
     m_band.Draw(frame.Dc());
     ::BitBlt(dc.m_hDC, area.left, area.top, area.Width(), area.Height(), frame.Dc(), area.left, area.top, SRCCOPY);

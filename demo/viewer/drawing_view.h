@@ -7,9 +7,9 @@
 #include <optional>
 #include <vector>
 
+#include "demo/viewer/cached_view.h"
 #include "demo/viewer/camera.h"
 #include "demo/viewer/document.h"
-#include "demo/viewer/kept_picture.h"
 #include "demo/viewer/rubber_band.h"
 #include "drawcore/undo.h"
 
@@ -28,8 +28,8 @@ public:
 class CDrawingView : public CWnd {
     DECLARE_DYNAMIC(CDrawingView)
 public:
-    static constexpr COLORREF kDarkPaper = RGB(33, 40, 48);
-    static constexpr COLORREF kLightPaper = RGB(255, 255, 255);
+    static constexpr COLORREF kDarkBackground = RGB(33, 40, 48);
+    static constexpr COLORREF kLightBackground = RGB(255, 255, 255);
 
     explicit CDrawingView(DrawingViewClient& client);
     ~CDrawingView() override;
@@ -41,8 +41,8 @@ public:
     void Redraw();
 
     // Returns the background color, dark by default.
-    COLORREF Paper() const { return m_paper; }
-    void SetPaper(COLORREF paper);
+    COLORREF Background() const { return m_background; }
+    void SetBackground(COLORREF background);
     // Returns whether pens are drawn at their true width (the default) or as hairlines.
     bool ShowsLineWeights() const { return m_lineWeights; }
     void ShowLineWeights(bool show);
@@ -50,11 +50,11 @@ public:
     const Camera& GetCamera() const { return m_camera; }
     void FitAll();
     void FitSelection();
-    void ZoomIn() { Zoom(kZoomStep, m_picture.Bounds().CenterPoint()); }
-    void ZoomOut() { Zoom(1 / kZoomStep, m_picture.Bounds().CenterPoint()); }
+    void ZoomIn() { Zoom(kZoomStep, m_cachedView.Bounds().CenterPoint()); }
+    void ZoomOut() { Zoom(1 / kZoomStep, m_cachedView.Bounds().CenterPoint()); }
     void Pan(CSize pixels);
     // Returns whether the displayed picture is exact; after a movement it is updated when there is time.
-    bool IsAtRest() const { return !m_picture.IsMoved(); }
+    bool IsExact() const { return !m_cachedView.IsMoved(); }
 
     void SelectAll();
     void SelectOnly(const std::vector<GraphicStruct*>& graphics) { Select(graphics, Selection::Way::Replace); }
@@ -94,15 +94,15 @@ private:
     static void OnGraphicChanging(void* view);
     void HearOfChanges(const ChangeListener* listener);
 
-    void SpoilAll();
+    void InvalidateAll();
 
     DrawingViewClient& m_client;
     Document* m_document = nullptr;
     Camera m_camera;
-    COLORREF m_paper = kDarkPaper;
+    COLORREF m_background = kDarkBackground;
     bool m_lineWeights = true;
     bool m_isFitted = false; // the whole drawing is fitted into the window, even when its size changes
-    KeptPicture m_picture{m_camera};
+    CachedView m_cachedView{m_camera};
 
     Drag m_drag = Drag::None;
     CPoint m_dragFrom;

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "demo/viewer/document.h"
-#include "demo/viewer/likeness.h"
+#include "demo/viewer/selection_summary.h"
 #include "demo/viewer/sheet_around.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"

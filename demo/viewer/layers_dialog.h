@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "demo/viewer/layer_states.h"
-#include "demo/viewer/likeness.h"
+#include "demo/viewer/selection_summary.h"
 #include "orlo/host/records.h"
 
 class CLayersDialog : public CDialog {

@@ -16,7 +16,7 @@
 #include "demo/viewer/keys_dialog.h"
 #include "demo/viewer/layer_states.h"
 #include "demo/viewer/layers_dialog.h"
-#include "demo/viewer/long_task.h"
+#include "demo/viewer/long_operation.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/resource.h"
 #include "demo/viewer/settings.h"
@@ -45,7 +45,7 @@ std::string ChangedText(int changed, const Document& document) {
 }
 
 // Returns whether the command changes neither the drawing nor the selection.
-bool IsOfLooks(UINT command) {
+bool IsViewCommand(UINT command) {
     return command >= ID_VIEW_ZOOM_IN && command <= ID_HELP_GUIDE && command != ID_VIEW_PROPERTIES;
 }
 
@@ -81,7 +81,7 @@ ON_MESSAGE(WM_ACTIVATE, &CMainFrame::OnActivate)
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
 ON_MESSAGE(kTyped, &CMainFrame::OnTyped)
-ON_MESSAGE(kHourglassEnds, &CMainFrame::OnHourglassEnds)
+ON_MESSAGE(kWaitCursorEnds, &CMainFrame::OnHourglassEnds)
 ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
 ON_MESSAGE(WM_GETMINMAXINFO, &CMainFrame::OnGetMinMaxInfo)
 ON_MESSAGE(WM_SETTINGCHANGE, &CMainFrame::OnSettingChange)
@@ -109,8 +109,8 @@ ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
 ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
 ON_COMMAND(ID_VIEW_FIT_ALL, &CMainFrame::OnFitAll)
 ON_COMMAND(ID_VIEW_FIT_SELECTION, &CMainFrame::OnFitSelection)
-ON_COMMAND(ID_VIEW_DARK_PAPER, &CMainFrame::OnDarkPaper)
-ON_COMMAND(ID_VIEW_LIGHT_PAPER, &CMainFrame::OnLightPaper)
+ON_COMMAND(ID_VIEW_DARK_BACKGROUND, &CMainFrame::OnDarkBackground)
+ON_COMMAND(ID_VIEW_LIGHT_BACKGROUND, &CMainFrame::OnLightBackground)
 ON_COMMAND(ID_VIEW_LINE_WEIGHTS, &CMainFrame::OnLineWeights)
 ON_COMMAND(ID_VIEW_LAYERS, &CMainFrame::OnLayers)
 ON_COMMAND_RANGE(ID_VIEW_MARK_SYSTEM, ID_VIEW_MARK_COMMA, &CMainFrame::OnDecimalMark)
@@ -214,7 +214,7 @@ LRESULT CMainFrame::OnGetMinMaxInfo(WPARAM, LPARAM lParam) {
 void CMainFrame::ShowSettings() {
     m_view.ShowLineWeights(Settings::Number(kSettingLineWeights).value_or(1) != 0);
     const bool light = Settings::Number(kSettingLightBackground).value_or(IsSystemLight());
-    SetBackground(light ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+    SetBackground(light ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
     m_paneWidth = Settings::Number(kSettingPaneWidth).value_or(0);
     ShowDecimalMark();
     if (Settings::Number(kSettingPaneOpen).value_or(0)) m_pane.Open();
@@ -270,7 +270,7 @@ void CMainFrame::ShowDecimalMark() {
 
 LRESULT CMainFrame::OnSettingChange(WPARAM, LPARAM) {
     if (!Settings::Number(kSettingLightBackground))
-        SetBackground(IsSystemLight() ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+        SetBackground(IsSystemLight() ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
     return Default();
 }
 
@@ -299,7 +299,7 @@ void CMainFrame::OnSetFocus(CWnd*) {
 // Typed text in the pane is applied before any command that uses the drawing.
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (lParam && FillStyleControl(wParam, lParam, m_document.get())) return TRUE;
-    if (!lParam && !IsOfLooks(LOWORD(wParam)) && !m_pane.Apply()) return TRUE;
+    if (!lParam && !IsViewCommand(LOWORD(wParam)) && !m_pane.Apply()) return TRUE;
     return CFrameWnd::OnCommand(wParam, lParam);
 }
 
@@ -397,7 +397,7 @@ void CMainFrame::OnSelectNone() {
 
 void CMainFrame::OnSelectSimilar() {
     if (CanDo(ID_EDIT_SELECT_SIMILAR))
-        m_view.SelectOnly(LikeThese(m_document->Selectable(), m_document->Selected().Members()));
+        m_view.SelectOnly(SimilarGraphics(m_document->Selectable(), m_document->Selected().Members()));
 }
 
 std::vector<KindCount> CMainFrame::SelectedKinds() const {
@@ -422,11 +422,11 @@ void CMainFrame::OnSelectLayer(UINT command) {
 
 // Shows the wait cursor, since a sheet, undo or style may change many graphics.
 void CMainFrame::OnDrawingChanging() {
-    ShowHourglass(*this);
+    ShowWaitCursor(*this);
 }
 
 LRESULT CMainFrame::OnHourglassEnds(WPARAM, LPARAM) {
-    EndHourglass();
+    RestoreCursor();
     return 0;
 }
 
@@ -467,21 +467,21 @@ void CMainFrame::OnFitSelection() {
     m_view.FitSelection();
 }
 
-void CMainFrame::OnDarkPaper() {
+void CMainFrame::OnDarkBackground() {
     ChooseBackground(false);
 }
 
-void CMainFrame::OnLightPaper() {
+void CMainFrame::OnLightBackground() {
     ChooseBackground(true);
 }
 
 void CMainFrame::ChooseBackground(bool light) {
-    SetBackground(light ? CDrawingView::kLightPaper : CDrawingView::kDarkPaper);
+    SetBackground(light ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
     Settings::SetNumber(kSettingLightBackground, light);
 }
 
 void CMainFrame::SetBackground(COLORREF color) {
-    m_view.SetPaper(color);
+    m_view.SetBackground(color);
     ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(color));
 }
 

@@ -11,10 +11,10 @@
 #include "demo/viewer/document.h"
 #include "demo/viewer/drawing_view.h"
 #include "demo/viewer/field_hints.h"
-#include "demo/viewer/likeness.h"
 #include "demo/viewer/properties_pane.h"
+#include "demo/viewer/selection_summary.h"
 #include "demo/viewer/splitter.h"
-#include "demo/viewer/status_line.h"
+#include "demo/viewer/status_bar.h"
 
 class CMainFrame : public CFrameWnd, private DrawingViewClient {
     DECLARE_DYNAMIC(CMainFrame)
@@ -82,8 +82,8 @@ protected:
     afx_msg void OnZoomOut();
     afx_msg void OnFitAll();
     afx_msg void OnFitSelection();
-    afx_msg void OnDarkPaper();
-    afx_msg void OnLightPaper();
+    afx_msg void OnDarkBackground();
+    afx_msg void OnLightBackground();
     afx_msg void OnLineWeights();
     afx_msg void OnLayers();
     afx_msg void OnDecimalMark(UINT command);
@@ -103,7 +103,7 @@ private:
 
     bool SaveTo(const std::string& path, bool overChanged);
     // Returns true if the document can be closed: saved, or the user chose to discard it.
-    bool MayLeaveDocument();
+    bool CanCloseDocument();
     void ShowWhatOpened();
     void ShowTitle();
     void ShowSelected();
@@ -131,7 +131,7 @@ private:
     bool FillSubmenu(HMENU menu);
 
     CDrawingView m_view;
-    CStatusLine m_status;
+    CStatusBar m_status;
     std::unique_ptr<Document> m_document;
     CPropertiesPane m_pane;
     FieldHints m_hints;

@@ -6,7 +6,7 @@
 
 #include "demo/viewer/counted.h"
 #include "demo/viewer/file_name.h"
-#include "demo/viewer/long_task.h"
+#include "demo/viewer/long_operation.h"
 #include "demo/viewer/named_buttons.h"
 #include "demo/viewer/recent_files.h"
 #include "demo/viewer/resource.h"
@@ -44,19 +44,19 @@ std::vector<std::string> DroppedFiles(HDROP drop) {
 // ---- Opening
 
 bool CMainFrame::Open(const std::string& path) {
-    if (!MayLeaveDocument()) return false;
+    if (!CanCloseDocument()) return false;
     const std::string name = SystemText(path.substr(path.find_last_of("\\/") + 1));
     try {
         std::unique_ptr<Document> opened;
         {
             const BusyMark busy(m_isBusy);
-            LongTask task(*this, m_status, "Opening " + name);
-            opened = Document::Open(path, [&](int permille) { return task.GoOn(permille); });
+            LongOperation operation(*this, m_status, "Opening " + name);
+            opened = Document::Open(path, [&](int permille) { return operation.Update(permille); });
         }
         Show(std::move(opened));
         RecentFiles::Add(path);
         return true;
-    } catch (const Cancelled&) {
+    } catch (const Canceled&) {
         m_status.ShowMessage("Opening " + name + " was cancelled");
     } catch (const OpenError& error) {
         AfxMessageBox(SystemText(error.what()).c_str());
@@ -76,14 +76,14 @@ void CMainFrame::Show(std::unique_ptr<Document> document) {
 
 void CMainFrame::ShowWhatOpened() {
     std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
-    const std::vector<std::string>& findings = m_document->Findings();
+    const std::vector<std::string>& findings = m_document->Warnings();
     if (findings.size() > 1) text += "; " + Counted(static_cast<int>(findings.size()), "warning") + " (File, Warnings)";
     if (!findings.empty()) text += "; " + findings.front();
     m_status.ShowMessage(text);
 }
 
 void CMainFrame::OnFileWarnings() {
-    if (CanDo(ID_FILE_WARNINGS)) CWarningsDialog(this, m_document->Findings()).DoModal();
+    if (CanDo(ID_FILE_WARNINGS)) CWarningsDialog(this, m_document->Warnings()).DoModal();
 }
 
 void CMainFrame::ShowTitle() {
@@ -133,7 +133,7 @@ bool CMainFrame::Save(const std::string& path) {
                 return false;
             SaveTo(path, true);
         }
-    } catch (const Cancelled&) {
+    } catch (const Canceled&) {
         m_status.ShowMessage("Saving was cancelled; the file is as it was");
         return false;
     } catch (const SaveError& error) {
@@ -151,8 +151,8 @@ bool CMainFrame::Save(const std::string& path) {
 
 bool CMainFrame::SaveTo(const std::string& path, bool overChanged) {
     const BusyMark busy(m_isBusy);
-    LongTask task(*this, m_status, "Saving " + SystemText(m_document->Name()));
-    return m_document->Save(path, overChanged, [&](int permille) { return task.GoOn(permille); });
+    LongOperation operation(*this, m_status, "Saving " + SystemText(m_document->Name()));
+    return m_document->Save(path, overChanged, [&](int permille) { return operation.Update(permille); });
 }
 
 void CMainFrame::OnFileSave() {
@@ -166,7 +166,7 @@ void CMainFrame::OnFileSaveAs() {
     if (dialog.DoModal() == IDOK) Save(Utf8FromSystem(dialog.GetPathName()));
 }
 
-bool CMainFrame::MayLeaveDocument() {
+bool CMainFrame::CanCloseDocument() {
     if (!m_pane.Apply()) return false;
     if (!m_document || !m_document->IsModified()) return true;
     const std::string question = "Save the changes to " + SystemText(m_document->Name()) + "?";
@@ -182,11 +182,11 @@ bool CMainFrame::MayLeaveDocument() {
 }
 
 void CMainFrame::OnClose() {
-    if (MayLeaveDocument()) CFrameWnd::OnClose();
+    if (CanCloseDocument()) CFrameWnd::OnClose();
 }
 
 LRESULT CMainFrame::OnQueryEndSession(WPARAM, LPARAM) {
-    return !m_isBusy && IsWindowEnabled() && MayLeaveDocument(); // not while a dialog is open
+    return !m_isBusy && IsWindowEnabled() && CanCloseDocument(); // not while a dialog is open
 }
 
 void CMainFrame::OnAppExit() {

@@ -23,7 +23,7 @@ bool CMainFrame::CanDo(UINT command) const {
     case ID_FILE_SAVE_AS:
         return m_document != nullptr;
     case ID_FILE_WARNINGS:
-        return m_document && !m_document->Findings().empty();
+        return m_document && !m_document->Warnings().empty();
     case ID_EDIT_UNDO:
         return m_document && m_document->UndoSteps() > 0;
     case ID_EDIT_REDO:
@@ -77,10 +77,10 @@ bool CMainFrame::FillSubmenu(HMENU menu) {
 
 bool CMainFrame::IsChosen(UINT command) const {
     switch (command) {
-    case ID_VIEW_DARK_PAPER:
-        return m_view.Paper() == CDrawingView::kDarkPaper;
-    case ID_VIEW_LIGHT_PAPER:
-        return m_view.Paper() == CDrawingView::kLightPaper;
+    case ID_VIEW_DARK_BACKGROUND:
+        return m_view.Background() == CDrawingView::kDarkBackground;
+    case ID_VIEW_LIGHT_BACKGROUND:
+        return m_view.Background() == CDrawingView::kLightBackground;
     case ID_VIEW_LINE_WEIGHTS:
         return m_view.ShowsLineWeights();
     case ID_VIEW_PROPERTIES:

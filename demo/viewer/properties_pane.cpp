@@ -165,17 +165,17 @@ void CPropertiesPane::RevealFocus() {
 // ---- Contents
 
 void CPropertiesPane::SetDocument(Document* document) {
-    if (m_document && m_isOpen) m_document->EndGathering();
+    if (m_document && m_isOpen) m_document->EndTransaction();
     DropSheet();
     m_document = document;
-    if (m_document && m_isOpen) m_document->BeginGathering();
+    if (m_document && m_isOpen) m_document->BeginTransaction();
     Follow();
 }
 
 void CPropertiesPane::Open() {
     if (m_isOpen) return;
     m_isOpen = true;
-    if (m_document) m_document->BeginGathering();
+    if (m_document) m_document->BeginTransaction();
     Renew();
     ShowWindow(SW_SHOWNA);
 }
@@ -183,7 +183,7 @@ void CPropertiesPane::Open() {
 void CPropertiesPane::Close() {
     if (!m_isOpen) return;
     ShowWindow(SW_HIDE);
-    if (m_document) m_document->EndGathering();
+    if (m_document) m_document->EndTransaction();
     m_isOpen = false;
     DropSheet();
 }
@@ -279,12 +279,12 @@ bool CPropertiesPane::Apply() {
         page->SetModified(FALSE);
         if (::IsChild(page->m_hWnd, focus)) ::SetFocus(focus);
     }
-    if (const int changed = m_document->TakeGathered()) m_applied(changed);
+    if (const int changed = m_document->CommitTransaction()) m_applied(changed);
     return true;
 }
 
 void CPropertiesPane::Reset() {
-    if (m_document && m_isOpen) m_document->DropGathered();
+    if (m_document && m_isOpen) m_document->RollBackTransaction();
     Follow();
 }
 

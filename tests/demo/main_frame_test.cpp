@@ -125,7 +125,7 @@ TEST_F(Viewer, AllWarningsOfAFileCanBeRead) {
         content += "0\nODDITY" + std::to_string(i) + "\n8\n0\n";
     const DrawingFile odd((content + "0\nENDSEC\n0\nEOF\n").c_str());
     ASSERT_TRUE(frame->Open(odd.Path()));
-    const std::vector<std::string> warnings = document().Findings();
+    const std::vector<std::string> warnings = document().Warnings();
     ASSERT_GT(warnings.size(), 1u);
     user.InDialog([&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_WARNINGS, 0); },
                   [&](HWND dialog) {

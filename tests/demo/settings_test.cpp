@@ -54,7 +54,7 @@ protected:
 };
 
 TEST_F(Remembered, BackgroundWeightsPaneAndPlaceComeBack) {
-    Do(ID_VIEW_LIGHT_PAPER);
+    Do(ID_VIEW_LIGHT_BACKGROUND);
     Do(ID_VIEW_LINE_WEIGHTS);
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
@@ -63,7 +63,7 @@ TEST_F(Remembered, BackgroundWeightsPaneAndPlaceComeBack) {
     const int width = Place(pane()).Width();
     frame->MoveWindow(40, 30, 900, 600);
     Restart();
-    EXPECT_EQ(frame->View().Paper(), CDrawingView::kLightPaper);
+    EXPECT_EQ(frame->View().Background(), CDrawingView::kLightBackground);
     EXPECT_FALSE(frame->View().ShowsLineWeights());
     ASSERT_TRUE(frame->Pane().IsOpen());
     EXPECT_EQ(Place(pane()).Width(), width);
@@ -78,17 +78,17 @@ TEST_F(Remembered, BackgroundWeightsPaneAndPlaceComeBack) {
 }
 
 TEST_F(Remembered, TheSystemsSchemeDecidesUntilTheUserDoes) {
-    EXPECT_EQ(frame->View().Paper(), CDrawingView::kDarkPaper);
+    EXPECT_EQ(frame->View().Background(), CDrawingView::kDarkBackground);
     constexpr const char* kScheme = R"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)";
     const auto setLight = [&](DWORD light) {
         ::RegSetKeyValueA(HKEY_CURRENT_USER, kScheme, "AppsUseLightTheme", REG_DWORD, &light, sizeof light);
         ::SendMessageA(frame->m_hWnd, WM_SETTINGCHANGE, 0, 0);
     };
     setLight(1);
-    EXPECT_EQ(frame->View().Paper(), CDrawingView::kLightPaper);
-    Do(ID_VIEW_DARK_PAPER);
+    EXPECT_EQ(frame->View().Background(), CDrawingView::kLightBackground);
+    Do(ID_VIEW_DARK_BACKGROUND);
     setLight(1);
-    EXPECT_EQ(frame->View().Paper(), CDrawingView::kDarkPaper);
+    EXPECT_EQ(frame->View().Background(), CDrawingView::kDarkBackground);
     ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kScheme, "AppsUseLightTheme");
 }
 

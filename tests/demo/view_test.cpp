@@ -105,11 +105,11 @@ TEST_F(Viewer, PaperAndLineWeightsAreAMatterOfChoice) {
     const auto drawn = [](const std::vector<uint32_t>& pixels) {
         return std::count_if(pixels.begin(), pixels.end(), [&](uint32_t p) { return p != pixels.front(); });
     };
-    const std::vector<uint32_t> dark = Seen(), light = choose(ID_VIEW_LIGHT_PAPER);
+    const std::vector<uint32_t> dark = Seen(), light = choose(ID_VIEW_LIGHT_BACKGROUND);
     EXPECT_EQ(light.front(), 0xFFFFFFu);
     EXPECT_LT(drawn(choose(ID_VIEW_LINE_WEIGHTS)) * 2, drawn(light));
     EXPECT_EQ(choose(ID_VIEW_LINE_WEIGHTS), light);
-    EXPECT_EQ(choose(ID_VIEW_DARK_PAPER), dark);
+    EXPECT_EQ(choose(ID_VIEW_DARK_BACKGROUND), dark);
     EXPECT_NE(dark.front(), light.front());
 }
 

@@ -74,7 +74,7 @@ void Viewer::Drag(WorldPoint from, WorldPoint to, unsigned modifiers) {
 
 std::vector<uint32_t> Viewer::Seen() {
     constexpr unsigned kTick = 10;
-    for (user.Wait(0); !frame->View().IsAtRest();)
+    for (user.Wait(0); !frame->View().IsExact();)
         user.Wait(kTick);
     CRect client;
     ::GetClientRect(view(), client);

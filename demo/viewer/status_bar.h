@@ -8,11 +8,11 @@
 
 #include "orlo/win/gdi.h"
 
-class CStatusLine : public CStatusBarCtrl {
-    DECLARE_DYNAMIC(CStatusLine)
+class CStatusBar : public CStatusBarCtrl {
+    DECLARE_DYNAMIC(CStatusBar)
 public:
-    CStatusLine();
-    ~CStatusLine() override;
+    CStatusBar();
+    ~CStatusBar() override;
 
     BOOL Create(CWnd* parent, UINT id);
     int Height() const;

@@ -10,25 +10,25 @@
 
 #include "demo/viewer/camera.h"
 #include "demo/viewer/document.h"
-#include "demo/viewer/glow.h"
 #include "demo/viewer/memory_picture.h"
+#include "demo/viewer/selection_highlight.h"
 
-class KeptPicture {
+class CachedView {
 public:
     static constexpr int kFrameTime = 20; // milliseconds for drawing; a fluid frame takes at most 50
 
-    explicit KeptPicture(Camera& camera, int frameTime = kFrameTime);
+    explicit CachedView(Camera& camera, int frameTime = kFrameTime);
 
-    void SetDocument(Document* document); // null to show nothing
-    void SetPaper(COLORREF paper);        // background color of the drawing
+    void SetDocument(Document* document);    // null to show nothing
+    void SetBackground(COLORREF background); // background color of the drawing
     void Resize(CSize size);
     CRect Bounds() const { return m_picture.Bounds(); }
 
     // Something else must be shown; the old picture is never displayed again.
-    void SpoilAll();
-    bool IsSpoiled() const { return m_spoiled; }
+    void InvalidateAll();
+    bool IsInvalid() const { return m_invalid; }
     // The selection changed there.
-    void SpoilGlow(const CRect& area);
+    void InvalidateHighlight(const CRect& area);
 
     // Move the camera.
     void Zoom(double factor, CPoint anchor);
@@ -42,11 +42,11 @@ public:
     // Returns whether the picture has been moved and is not exact yet.
     bool IsMoved() const { return m_moving; }
     // Continues drawing the exact picture for about that many milliseconds. Returns true when Dc shows it.
-    bool Settle(int milliseconds);
+    bool Finish(int milliseconds);
 
 private:
     // Drawing in time slices to a separate bitmap.
-    struct Turn {
+    struct TimeSlice {
         enum class Part { Drawing, Selection } part = Part::Drawing;
         uint32_t place = 0;
         bool begun = false;
@@ -61,19 +61,19 @@ private:
     void RenewScene();
     void Draw(HDC dc, GraphicStruct* graphic);
     bool DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds);
-    bool SettleSince(std::chrono::steady_clock::time_point start, int milliseconds);
-    bool HasGlow() const { return m_document && m_document->Selected().Count() > 0; }
+    bool FinishSince(std::chrono::steady_clock::time_point start, int milliseconds);
+    bool HasHighlight() const { return m_document && m_document->Selected().Count() > 0; }
 
     Camera& m_camera;
     const int m_frameTime;
     Document* m_document = nullptr;
-    COLORREF m_paper = 0;
+    COLORREF m_background = 0;
 
     MemoryPicture m_picture; // the drawing
     MemoryPicture m_scene;   // with the selection highlight
-    Glow m_glow;
-    bool m_spoiled = true; // of the whole picture and scene
-    CRect m_spoiledScene;
+    SelectionHighlight m_highlight;
+    bool m_invalid = true; // of the whole picture and scene
+    CRect m_invalidScene;
     bool m_slow = false; // drawing took longer than a frame
 
     bool m_moving = false;     // the following members are valid
@@ -82,5 +82,5 @@ private:
     bool m_stretch = false;    // the frame must be made from the scene again
     std::vector<CRect> m_gaps; // missing parts of the frame
     MemoryPicture m_next;      // the next picture
-    Turn m_turn;
+    TimeSlice m_slice;
 };

@@ -1,6 +1,6 @@
 // A picture that moves along: what it shows meanwhile, and that it is the same at rest as one drawn there.
 
-#include "demo/viewer/kept_picture.h"
+#include "demo/viewer/cached_view.h"
 
 #include "demo/viewer.h"
 
@@ -36,7 +36,7 @@ protected:
     MovingPicture() {
         camera.SetWindow(kSize);
         camera.SetDrawing(document->Drawing());
-        ::ViewportSetBackground(camera.Viewport(), CDrawingView::kDarkPaper);
+        ::ViewportSetBackground(camera.Viewport(), CDrawingView::kDarkBackground);
         camera.Fit(document->Root(), 0);
         camera.CenterOn(WorldPoint{35, 35});
         camera.Zoom(28, CPoint(120, 100)); // the squares fill the picture
@@ -44,13 +44,13 @@ protected:
         picture.Renew();
     }
 
-    void Prepare(KeptPicture& some) {
+    void Prepare(CachedView& some) {
         some.SetDocument(document.get());
-        some.SetPaper(CDrawingView::kDarkPaper);
+        some.SetBackground(CDrawingView::kDarkBackground);
         some.Resize(kSize);
     }
 
-    Seen Pixels(const KeptPicture& some) const {
+    Seen Pixels(const CachedView& some) const {
         MemoryPicture copy;
         copy.Resize(kSize);
         copy.CopyFrom(some.Dc(), copy.Bounds());
@@ -66,14 +66,14 @@ protected:
     }
 
     Seen DrawnAnew() {
-        KeptPicture fresh(camera);
+        CachedView fresh(camera);
         Prepare(fresh);
         fresh.Renew();
         return Pixels(fresh);
     }
 
     void Rest() {
-        while (!picture.Settle(0)) {
+        while (!picture.Finish(0)) {
         }
     }
 
@@ -83,7 +83,7 @@ protected:
     const DrawingFile file{Drawing().c_str()};
     const std::unique_ptr<Document> document = Document::Open(file.Path(), [](int) { return true; });
     Camera camera;
-    KeptPicture picture{camera, kEveryPictureIsSlow};
+    CachedView picture{camera, kEveryPictureIsSlow};
 };
 
 TEST_F(MovingPicture, ShowsWhatWasThereAndDrawsTheEdges) {
@@ -125,14 +125,14 @@ TEST_F(MovingPicture, IsTheSameAtRestAsDrawnAnew) {
         if (round % 5 == 0)
             document->Selected().Apply({document->Selectable()[static_cast<size_t>(Number(90))]},
                                        Selection::Way::Toggle);
-        if (round % 5 == 0) picture.SpoilGlow(picture.Bounds());
+        if (round % 5 == 0) picture.InvalidateHighlight(picture.Bounds());
         for (int moves = Number(4); moves >= 0; --moves) {
             if (Number(3) == 0)
                 picture.Zoom(Number(2) ? 1.25 : 0.8, CPoint(Number(kSize.cx), Number(kSize.cy)));
             else
                 picture.Pan(CSize(Number(61) - 30, Number(61) - 30));
             if (Number(2)) picture.Renew();
-            if (Number(2)) picture.Settle(0); // interrupted by the next move
+            if (Number(2)) picture.Finish(0); // interrupted by the next move
         }
         Rest();
         ASSERT_FALSE(picture.IsMoved());
@@ -146,16 +146,16 @@ TEST_F(MovingPicture, NeverShowsWhatHasChanged) {
             for (GraphicStruct* graphic : document->Selectable())
                 ::GraphicSetPenColor(graphic, color);
         });
-        picture.SpoilAll();
+        picture.InvalidateAll();
     };
     picture.Pan(CSize(20, 10));
-    picture.Settle(0);
+    picture.Finish(0);
     paint(RGB(9, 200, 9));
     EXPECT_EQ(Shown(), DrawnAnew());
     picture.Zoom(1.25, CPoint(9, 9));
     Shown();
     document->Selected().Apply({document->Selectable()[40]}, Selection::Way::Add);
-    picture.SpoilGlow(CRect(0, 0, 1, 1));
+    picture.InvalidateHighlight(CRect(0, 0, 1, 1));
     EXPECT_EQ(Shown(), DrawnAnew());
 }
 

@@ -28,7 +28,7 @@ std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics);
 Graphics OfKind(const Graphics& graphics, uint32_t kind);
 Graphics OnLayer(const Graphics& graphics, uint16_t layer);
 // Returns the graphics that have the same kind, layer and color as one of the examples.
-Graphics LikeThese(const Graphics& graphics, const Graphics& examples);
+Graphics SimilarGraphics(const Graphics& graphics, const Graphics& examples);
 
 struct LayerCount {
     uint16_t layer;

@@ -1,6 +1,6 @@
 // Counts and compares kinds, widths and layers of graphics.
 
-#include "demo/viewer/likeness.h"
+#include "demo/viewer/selection_summary.h"
 
 #include <algorithm>
 #include <map>
@@ -33,9 +33,9 @@ uint16_t LayerOf(GraphicStruct* graphic) {
     return orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
 }
 
-using Likeness = std::tuple<uint32_t, uint16_t, uint32_t>;
+using SimilarityKey = std::tuple<uint32_t, uint16_t, uint32_t>;
 
-Likeness LikenessOf(GraphicStruct* graphic) {
+SimilarityKey SimilarityKeyOf(GraphicStruct* graphic) {
     const uint32_t color = orlo::host::ReadProperty<uint32_t>(graphic, kPropPenColor).value_or(0);
     return {::GraphicGetKind(graphic), LayerOf(graphic), color};
 }
@@ -104,11 +104,11 @@ Graphics OnLayer(const Graphics& graphics, uint16_t layer) {
     return Those(graphics, [&](GraphicStruct* graphic) { return LayerOf(graphic) == layer; });
 }
 
-Graphics LikeThese(const Graphics& graphics, const Graphics& examples) {
-    std::set<Likeness> wanted;
+Graphics SimilarGraphics(const Graphics& graphics, const Graphics& examples) {
+    std::set<SimilarityKey> wanted;
     for (GraphicStruct* graphic : examples)
-        wanted.insert(LikenessOf(graphic));
-    return Those(graphics, [&](GraphicStruct* graphic) { return wanted.count(LikenessOf(graphic)) > 0; });
+        wanted.insert(SimilarityKeyOf(graphic));
+    return Those(graphics, [&](GraphicStruct* graphic) { return wanted.count(SimilarityKeyOf(graphic)) > 0; });
 }
 
 std::vector<LayerCount> CountLayers(DrawingStruct* drawing, const Graphics& graphics) {

@@ -3,7 +3,7 @@
 // The selection is drawn once more, on a background of a color that is not used otherwise: every pixel of another color
 // belongs to it. This works for whatever the drawing code draws, including texts and hatches.
 
-#include "demo/viewer/glow.h"
+#include "demo/viewer/selection_highlight.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ uint32_t Blend(uint32_t below) {
 
 } // namespace
 
-bool Glow::Begin(CSize scene, CRect area) {
+bool SelectionHighlight::Begin(CSize scene, CRect area) {
     const CRect all(CPoint(), scene);
     m_area.SetRectEmpty();
     if (!m_mask.Resize(scene) || !m_area.IntersectRect(area, all)) return false;
@@ -34,7 +34,7 @@ bool Glow::Begin(CSize scene, CRect area) {
     return true;
 }
 
-void Glow::Put(MemoryPicture& scene) {
+void SelectionHighlight::Put(MemoryPicture& scene) {
     if (m_area.IsRectEmpty()) return;
     Spread();
     const CRect &area = m_area, &around = m_around;
@@ -55,7 +55,7 @@ void Glow::Put(MemoryPicture& scene) {
     }
 }
 
-void Glow::Spread() {
+void SelectionHighlight::Spread() {
     const CRect& area = m_around;
     const int width = area.Width();
     m_drawn.assign(static_cast<size_t>(width) * area.Height(), 0);

@@ -1,6 +1,6 @@
 // User interface of a blocking operation.
 
-#include "demo/viewer/long_task.h"
+#include "demo/viewer/long_operation.h"
 
 namespace {
 
@@ -19,27 +19,27 @@ void PaintNext() {
 
 } // namespace
 
-void ShowHourglass(const CWnd& window) {
+void ShowWaitCursor(const CWnd& window) {
     ::SetCursor(::LoadCursorA(nullptr, IDC_WAIT));
-    window.PostMessage(kHourglassEnds);
+    window.PostMessage(kWaitCursorEnds);
 }
 
-void EndHourglass() {
+void RestoreCursor() {
     POINT point;
     ::GetCursorPos(&point);
     ::SetCursorPos(point.x, point.y); // makes the window set its cursor
 }
 
-LongTask::LongTask(const CWnd& window, CStatusLine& line, const std::string& text) : m_line(line) {
-    ShowHourglass(window);
+LongOperation::LongOperation(const CWnd& window, CStatusBar& line, const std::string& text) : m_line(line) {
+    ShowWaitCursor(window);
     m_line.StartProgress(text + " - Esc cancels");
 }
 
-LongTask::~LongTask() {
+LongOperation::~LongOperation() {
     m_line.EndProgress();
 }
 
-bool LongTask::GoOn(int permille) {
+bool LongOperation::Update(int permille) {
     m_line.ShowProgress(permille);
     PaintNext();
     return !IsEscapePressed();

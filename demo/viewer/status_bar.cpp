@@ -1,6 +1,6 @@
 // The status bar of the main window.
 
-#include "demo/viewer/status_line.h"
+#include "demo/viewer/status_bar.h"
 
 #include <algorithm>
 #include <numeric>
@@ -15,25 +15,25 @@ constexpr UINT kProgressId = 1;
 
 } // namespace
 
-IMPLEMENT_DYNAMIC(CStatusLine, CStatusBarCtrl)
+IMPLEMENT_DYNAMIC(CStatusBar, CStatusBarCtrl)
 
-CStatusLine::CStatusLine() = default;
-CStatusLine::~CStatusLine() = default;
+CStatusBar::CStatusBar() = default;
+CStatusBar::~CStatusBar() = default;
 
-BOOL CStatusLine::Create(CWnd* parent, UINT id) {
+BOOL CStatusBar::Create(CWnd* parent, UINT id) {
     if (!CStatusBarCtrl::Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(), parent, id)) return FALSE;
     if (!m_progress.Create(WS_CHILD, CRect(), this, kProgressId)) return FALSE;
     m_progress.SetRange32(0, 1000);
     return TRUE;
 }
 
-int CStatusLine::Height() const {
+int CStatusBar::Height() const {
     CRect rect;
     GetWindowRect(rect);
     return rect.Height();
 }
 
-void CStatusLine::Arrange() {
+void CStatusBar::Arrange() {
     SendMessage(WM_SIZE); // makes the control set its own position
     CRect client;
     GetClientRect(client);
@@ -61,11 +61,11 @@ void CStatusLine::Arrange() {
     m_progress.MoveWindow(pane.right - width, pane.top + 2, width - 4, pane.Height() - 4);
 }
 
-int CStatusLine::Scaled(int at96) const {
+int CStatusBar::Scaled(int at96) const {
     return ::MulDiv(at96, m_dpi, 96);
 }
 
-int CStatusLine::WidthFor(const std::string& text) const {
+int CStatusBar::WidthFor(const std::string& text) const {
     if (text.empty()) return 0;
     const orlo::WindowDC dc(m_hWnd);
     const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
@@ -74,7 +74,7 @@ int CStatusLine::WidthFor(const std::string& text) const {
     return size.cx + Scaled(kPaneMargin);
 }
 
-void CStatusLine::SetDpi(int dpi) {
+void CStatusBar::SetDpi(int dpi) {
     NONCLIENTMETRICSA metrics = {};
     metrics.cbSize = sizeof metrics;
     const orlo::WindowDC screen(nullptr);
@@ -87,19 +87,19 @@ void CStatusLine::SetDpi(int dpi) {
     m_font = std::move(sized);
 }
 
-bool CStatusLine::ShowText(Pane pane, const std::string& text) {
+bool CStatusBar::ShowText(Pane pane, const std::string& text) {
     if (m_texts[pane] == text) return false;
     m_texts[pane] = text;
     SetText((" " + text).c_str(), pane, 0);
     return true;
 }
 
-void CStatusLine::ShowSelection(const std::string& kinds, const std::string& widths) {
+void CStatusBar::ShowSelection(const std::string& kinds, const std::string& widths) {
     const bool changed = ShowText(kSelection, kinds);
     if (ShowText(kWidths, widths) || changed) Arrange();
 }
 
-void CStatusLine::StartProgress(const std::string& text) {
+void CStatusBar::StartProgress(const std::string& text) {
     m_permille = -1;
     ShowMessage(text);
     ShowProgress(0);
@@ -107,14 +107,14 @@ void CStatusLine::StartProgress(const std::string& text) {
     UpdateWindow();
 }
 
-void CStatusLine::ShowProgress(int permille) {
+void CStatusBar::ShowProgress(int permille) {
     if (permille == m_permille) return;
     m_permille = permille;
     m_progress.SetPos(permille);
     m_progress.UpdateWindow();
 }
 
-void CStatusLine::EndProgress() {
+void CStatusBar::EndProgress() {
     m_progress.ShowWindow(SW_HIDE);
     ShowMessage("");
 }

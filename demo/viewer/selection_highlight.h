@@ -5,7 +5,7 @@
 
 #include "demo/viewer/memory_picture.h"
 
-class Glow {
+class SelectionHighlight {
 public:
     static constexpr int kRadius = 2; // width of the outline in pixels
 

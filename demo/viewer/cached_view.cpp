@@ -1,6 +1,6 @@
 // Moves the cached view and draws its missing parts.
 
-#include "demo/viewer/kept_picture.h"
+#include "demo/viewer/cached_view.h"
 
 #include <chrono>
 #include <cmath>
@@ -54,39 +54,39 @@ std::vector<CRect> Around(const CRect& inner, const CRect& all) {
 
 } // namespace
 
-KeptPicture::KeptPicture(Camera& camera, int frameTime) : m_camera(camera), m_frameTime(frameTime) {}
+CachedView::CachedView(Camera& camera, int frameTime) : m_camera(camera), m_frameTime(frameTime) {}
 
-void KeptPicture::SetDocument(Document* document) {
+void CachedView::SetDocument(Document* document) {
     m_document = document;
-    SpoilAll();
+    InvalidateAll();
 }
 
-void KeptPicture::SetPaper(COLORREF paper) {
-    m_paper = paper;
-    SpoilAll();
+void CachedView::SetBackground(COLORREF background) {
+    m_background = background;
+    InvalidateAll();
 }
 
-void KeptPicture::Resize(CSize size) {
+void CachedView::Resize(CSize size) {
     m_picture.Resize(size);
     m_scene.Resize(size);
-    SpoilAll();
+    InvalidateAll();
 }
 
 // ---- Movement
 
-void KeptPicture::Zoom(double factor, CPoint anchor) {
+void CachedView::Zoom(double factor, CPoint anchor) {
     const bool along = StartMoving();
     m_camera.Zoom(factor, anchor);
     if (along)
         m_stretch = true;
     else
-        SpoilAll();
+        InvalidateAll();
 }
 
-void KeptPicture::Pan(CSize pixels) {
+void CachedView::Pan(CSize pixels) {
     const bool along = StartMoving();
     m_camera.Pan(pixels);
-    if (!along) return SpoilAll();
+    if (!along) return InvalidateAll();
     if (m_stretch) return; // stretching also moves it
     m_frame.Shift(pixels);
     for (CRect& gap : m_gaps)
@@ -95,10 +95,10 @@ void KeptPicture::Pan(CSize pixels) {
         m_gaps.push_back(gap);
 }
 
-bool KeptPicture::StartMoving() {
-    m_turn = {};
+bool CachedView::StartMoving() {
+    m_slice = {};
     if (m_moving) return true;
-    if (!m_slow || m_spoiled || !m_frame.Resize(m_scene.Size())) return false;
+    if (!m_slow || m_invalid || !m_frame.Resize(m_scene.Size())) return false;
     Renew();
     m_sceneBox = m_camera.Visible();
     m_frame.CopyFrom(m_scene.Dc(), m_scene.Bounds());
@@ -108,7 +108,7 @@ bool KeptPicture::StartMoving() {
 }
 
 // The camera has zoomed: the whole frame is made from the scene, which is exact.
-void KeptPicture::MoveFrame() {
+void CachedView::MoveFrame() {
     m_stretch = false;
     const CSize size = m_frame.Size();
     const WorldBox now = m_camera.Visible();
@@ -119,14 +119,14 @@ void KeptPicture::MoveFrame() {
     m_gaps = Around(to, Bounds());
     m_frame.Stretch(m_scene.Dc(), CRect(CPoint(x.from, y.from), CSize(x.fromLength, y.fromLength)), to);
     for (const CRect& gap : m_gaps)
-        m_frame.Fill(gap, m_paper);
+        m_frame.Fill(gap, m_background);
 }
 
-void KeptPicture::DrawGaps() {
+void CachedView::DrawGaps() {
     const Clock::time_point start = Clock::now();
     for (CRect gap : std::exchange(m_gaps, {})) {
         if (!gap.IntersectRect(gap, Bounds())) continue;
-        m_frame.Fill(gap, m_paper);
+        m_frame.Fill(gap, m_background);
         if (!m_document) continue;
         const Clipped clipped(m_frame.Dc(), gap);
         uint32_t place = 0;
@@ -134,88 +134,88 @@ void KeptPicture::DrawGaps() {
     }
 }
 
-bool KeptPicture::Settle(int milliseconds) {
+bool CachedView::Finish(int milliseconds) {
     if (!m_moving) return true;
     const Clock::time_point start = Clock::now();
-    const bool done = SettleSince(start, milliseconds);
-    m_turn.spent += MillisecondsSince(start);
+    const bool done = FinishSince(start, milliseconds);
+    m_slice.spent += MillisecondsSince(start);
     if (!done) return false;
-    m_slow = m_turn.spent >= m_frameTime;
+    m_slow = m_slice.spent >= m_frameTime;
     m_moving = false;
     return true;
 }
 
-bool KeptPicture::SettleSince(Clock::time_point start, int milliseconds) {
+bool CachedView::FinishSince(Clock::time_point start, int milliseconds) {
     const auto left = [&] { return milliseconds - MillisecondsSince(start); };
-    if (!m_turn.begun) {
+    if (!m_slice.begun) {
         if (!m_next.Resize(m_picture.Size())) {
-            SpoilAll();
+            InvalidateAll();
             return true;
         }
-        m_next.Fill(m_next.Bounds(), m_paper);
-        m_turn.begun = true;
+        m_next.Fill(m_next.Bounds(), m_background);
+        m_slice.begun = true;
     }
-    if (m_turn.part == Turn::Part::Drawing) {
-        if (m_document && !DrawOn(m_next.Dc(), m_document->Root(), m_turn.place, left())) return false;
-        m_turn.part = Turn::Part::Selection;
-        m_turn.place = 0;
-        if (HasGlow()) m_glow.Begin(m_next.Size(), m_next.Bounds());
+    if (m_slice.part == TimeSlice::Part::Drawing) {
+        if (m_document && !DrawOn(m_next.Dc(), m_document->Root(), m_slice.place, left())) return false;
+        m_slice.part = TimeSlice::Part::Selection;
+        m_slice.place = 0;
+        if (HasHighlight()) m_highlight.Begin(m_next.Size(), m_next.Bounds());
     }
-    if (HasGlow() && !DrawOn(m_glow.Dc(), m_document->Selected().Set(), m_turn.place, left())) return false;
+    if (HasHighlight() && !DrawOn(m_highlight.Dc(), m_document->Selected().Set(), m_slice.place, left())) return false;
     std::swap(m_picture, m_next);
     m_scene.CopyFrom(m_picture.Dc(), m_scene.Bounds());
-    if (HasGlow()) m_glow.Put(m_scene);
+    if (HasHighlight()) m_highlight.Put(m_scene);
     return true;
 }
 
 // ---- Drawing
 
-void KeptPicture::SpoilAll() {
+void CachedView::InvalidateAll() {
     m_moving = false;
-    m_spoiled = true;
+    m_invalid = true;
 }
 
-void KeptPicture::SpoilGlow(const CRect& area) {
-    if (m_moving) SpoilAll();
-    m_spoiledScene.UnionRect(m_spoiledScene, area);
+void CachedView::InvalidateHighlight(const CRect& area) {
+    if (m_moving) InvalidateAll();
+    m_invalidScene.UnionRect(m_invalidScene, area);
 }
 
-void KeptPicture::Renew() {
+void CachedView::Renew() {
     if (m_moving) {
         if (m_stretch) MoveFrame();
         return DrawGaps();
     }
-    const bool all = m_spoiled;
+    const bool all = m_invalid;
     const Clock::time_point start = Clock::now();
     RenewPicture();
     RenewScene();
     if (all) m_slow = MillisecondsSince(start) >= m_frameTime;
 }
 
-void KeptPicture::RenewPicture() {
-    if (!std::exchange(m_spoiled, false)) return;
-    m_picture.Fill(Bounds(), m_paper);
+void CachedView::RenewPicture() {
+    if (!std::exchange(m_invalid, false)) return;
+    m_picture.Fill(Bounds(), m_background);
     if (m_document) Draw(m_picture.Dc(), m_document->Root());
-    m_spoiledScene = Bounds();
+    m_invalidScene = Bounds();
 }
 
-void KeptPicture::RenewScene() {
-    CRect area = m_spoiledScene;
+void CachedView::RenewScene() {
+    CRect area = m_invalidScene;
     area.IntersectRect(area, m_scene.Bounds());
-    m_spoiledScene.SetRectEmpty();
+    m_invalidScene.SetRectEmpty();
     if (area.IsRectEmpty()) return;
     m_scene.CopyFrom(m_picture.Dc(), area);
-    if (!HasGlow() || !m_glow.Begin(m_scene.Size(), area)) return;
-    Draw(m_glow.Dc(), m_document->Selected().Set());
-    m_glow.Put(m_scene);
+    if (!HasHighlight() || !m_highlight.Begin(m_scene.Size(), area)) return;
+    Draw(m_highlight.Dc(), m_document->Selected().Set());
+    m_highlight.Put(m_scene);
 }
 
-void KeptPicture::Draw(HDC dc, GraphicStruct* graphic) {
+void CachedView::Draw(HDC dc, GraphicStruct* graphic) {
     ::ViewportSetGDIStuff(m_camera.Viewport(), nullptr, dc, MM_TEXT, 1);
     ::GraphicDrawEx2(graphic, nullptr, m_camera.Viewport(), 0, 1);
 }
 
-bool KeptPicture::DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds) {
+bool CachedView::DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds) {
     ::ViewportSetGDIStuff(m_camera.Viewport(), nullptr, dc, MM_TEXT, 1);
     return ::GraphicDrawOn(graphic, m_camera.Viewport(), &place, milliseconds) != 0;
 }
