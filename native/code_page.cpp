@@ -1,4 +1,4 @@
-// Code pages on this machine: the tables of Wine, so that a text is the same here and in the Windows programs.
+// Code pages on Linux, by Wine's tables, so that texts are the same as in the Windows programs.
 
 #include "orlo/propset/code_page.h"
 
@@ -13,7 +13,7 @@ namespace orlo {
 namespace {
 
 constexpr char32_t kFirstHalf = 0xD800, kSecondHalf = 0xDC00, kAfterHalves = 0xE000;
-constexpr char32_t kPastHalves = 0x10000; // from here on a character takes two halves
+constexpr char32_t kPastHalves = 0x10000; // characters from here on need a surrogate pair
 
 bool IsFirstHalf(char32_t c) {
     return c >= kFirstHalf && c < kSecondHalf;
@@ -22,7 +22,7 @@ bool IsSecondHalf(char32_t c) {
     return c >= kSecondHalf && c < kAfterHalves;
 }
 
-// Nothing for half a character.
+// Returns nothing for an unpaired surrogate.
 std::optional<std::string> ToUtf8(std::u16string_view text) {
     std::string utf8;
     utf8.reserve(text.size());
@@ -41,7 +41,7 @@ std::optional<std::string> ToUtf8(std::u16string_view text) {
     return utf8;
 }
 
-// Nothing for bytes that are no UTF-8, as forms of a character that are longer than its shortest.
+// Returns nothing for bytes that are not UTF-8, including overlong forms.
 std::optional<std::u16string> ToUtf16(std::string_view utf8) {
     std::u16string text;
     text.reserve(utf8.size());
@@ -66,25 +66,26 @@ std::optional<std::u16string> ToUtf16(std::string_view utf8) {
     return text;
 }
 
-// The numbers below it stand for the code pages of a system.
+// Smaller numbers stand for code pages of the system.
 uint16_t NumberOf(uint16_t codePage) {
     constexpr uint16_t kOfTheSystem[] = {kUsualCodePage, 437, 10000, kUsualCodePage};
     return codePage < std::size(kOfTheSystem) ? kOfTheSystem[codePage] : codePage;
 }
 
 const NlsTable& TableOf(uint16_t codePage) {
-    thread_local std::map<uint16_t, NlsTable> tables; // what a file says; reading it takes longer than most texts
+    thread_local std::map<uint16_t, NlsTable> tables; // cached, because reading a file takes longer than converting
+                                                      // most texts
     return tables.try_emplace(codePage, codePage).first->second;
 }
 
-// Tables give the bytes that a code page of Windows leaves undefined the control characters of their numbers.
+// For bytes that a Windows code page leaves undefined, tables contain the control characters with the same numbers.
 bool HasUndefined(std::u16string_view text, uint16_t codePage) {
     const bool isOfWindows = codePage == 0 || codePage == 874 || (codePage >= 1250 && codePage <= 1258);
     return isOfWindows && std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x80 && c < 0xA0; });
 }
 
-// The letters of all scripts, whatever language the user has. Windows has upper case for letters that come back from it
-// alone.
+// Converts letters of all scripts in any locale. Windows only converts letters whose lowercase form is the letter
+// itself.
 wint_t Upper(wint_t letter) {
     static const locale_t kAllScripts = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     if (!kAllScripts) return letter;

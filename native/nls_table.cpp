@@ -1,5 +1,5 @@
-// A file is a header, the characters of single bytes, those of pairs, and the codes of all characters, in numbers of 16
-// bits.
+// A file consists of a header, the characters of single bytes, the characters of byte pairs, and the codes of all
+// characters, all as 16-bit numbers.
 
 #include "native/nls_table.h"
 
@@ -38,7 +38,7 @@ bool NlsTable::Locate() {
     singles_ = header + 1;
     if (words_.size() < singles_ + 2 * kBytes + 2) return false;
     codes_ = singles_ + words_[header];
-    const size_t glyphs = singles_ + kBytes; // a table of its own may follow the flag
+    const size_t glyphs = singles_ + kBytes; // the flag may be followed by a glyph table
     pairs_ = glyphs + 2 + (words_[glyphs] != 0 ? kBytes : 0);
     if (words_.size() < pairs_) return false;
     isDouble_ = words_[pairs_ - 1] != 0;
@@ -55,7 +55,7 @@ char16_t NlsTable::CharacterOf(uint16_t code) const {
 
 bool NlsTable::IsText(uint16_t code) const {
     const char16_t character = CharacterOf(code);
-    // Single bytes that stand for nothing have a private character; pairs with one are characters that users make.
+    // Undefined single bytes have a private-use character; for byte pairs, such characters are user-defined.
     const bool isPrivate = code <= 0xFF && character >= 0xE000 && character <= 0xF8FF;
     return !isPrivate && (character != noCharacter_ || code == codeOfNoCharacter_);
 }

@@ -1,4 +1,4 @@
-// The system's stream interface and its types, for this machine: as much of them as orlo/propset and tools/suminfo use.
+// The system's stream interface and its types on Linux, as far as orlo/propset and tools/suminfo use them.
 #pragma once
 
 #include <afx.h>
@@ -49,7 +49,7 @@ union ULARGE_INTEGER {
 
 enum STREAM_SEEK { STREAM_SEEK_SET = 0, STREAM_SEEK_CUR = 1, STREAM_SEEK_END = 2 };
 
-// The part of the interface that reads, writes and moves. On Windows its virtual operations are more.
+// The functions for reading, writing and seeking. On Windows the interface has more.
 struct IStream {
     virtual HRESULT STDMETHODCALLTYPE Read(void* buffer, ULONG size, ULONG* done) = 0;
     virtual HRESULT STDMETHODCALLTYPE Write(const void* buffer, ULONG size, ULONG* done) = 0;
@@ -102,7 +102,7 @@ enum VARENUM : DWORD {
     VT_BYREF = 0x4000,
 };
 
-// The number that the system gives for its version; this machine has none of that kind.
+// The system's version number, which Linux does not have in this form.
 inline DWORD GetVersion() {
     return 0;
 }
