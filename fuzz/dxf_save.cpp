@@ -16,7 +16,7 @@ void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entitie
     for (const dxf::Entity& entity : entities) {
         dxf::Look look = dxf::LookOf(patch.Known(), entity);
         look.color = 0x00123456;
-        look.info = "a^b\n\u4E57";
+        dxf::SetExtended(look, {kPropInfo, "a^b\n\u4E57", {}});
         look.width = 0.0123;
         look.worldWidth = !look.worldWidth;
         look.dashesFitted = !look.dashesFitted;

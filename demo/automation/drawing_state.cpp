@@ -8,7 +8,6 @@
 
 #include "drawcore/drawing.h"
 #include "drawcore/layer.h"
-#include "drawcore/property_schema.h"
 #include "drawcore/units.h"
 #include "drawcore/view.h"
 #include "orlo/host/block.h"
@@ -35,14 +34,11 @@ std::string Exact(double value) {
 
 // Returns nothing if the graphic has no such property.
 std::optional<std::string> Read(GraphicStruct* graphic, const PropertyInfo& property) {
-    switch (property.form) {
-    case kFormText:
-        return ReadProperty<std::string>(graphic, property.name);
-    case kFormReal:
+    if (property.IsText()) return ReadProperty<std::string>(graphic, property.name);
+    if (property.IsReal()) {
         if (const auto real = ReadProperty<double>(graphic, property.name)) return Exact(*real);
-        break;
-    case kFormWhole:
-        if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) return std::to_string(*whole);
+    } else if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) {
+        return std::to_string(*whole);
     }
     return std::nullopt;
 }
@@ -143,7 +139,7 @@ void DrawingState::AddGraphics(const std::string& place, GraphicStruct* set) {
 
 void DrawingState::AddGraphic(const std::string& place, GraphicStruct* graphic) {
     Thing thing = {place, {{"type", std::to_string(graphic->bType)}}};
-    for (const PropertyInfo& property : AllProperties())
+    for (const PropertyInfo& property : kPropertyList)
         if (const auto value = Read(graphic, property)) thing.values.emplace_back(property.name, *value);
     thing.values.emplace_back("style tree", graphic->pszStyleName ? graphic->pszStyleName : "");
     thing.values.emplace_back("outline", std::to_string(graphic->dwOneOutline));

@@ -8,7 +8,6 @@
 #include <tuple>
 #include <variant>
 
-#include "drawcore/property_schema.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/property.h"
@@ -83,19 +82,19 @@ std::string WidthText(DrawingStruct* drawing, GraphicStruct* graphic, double wid
 std::string WholeText(DrawingStruct* drawing, PropertyMeaning meaning, uint32_t value) {
     const auto id = static_cast<uint16_t>(value);
     switch (meaning) {
-    case kMeansSwitch:
+    case PropertyMeaning::Switch:
         return value ? "yes" : "no";
-    case kMeansColor:
+    case PropertyMeaning::Color:
         return ColorText(drawing, value);
-    case kMeansLineStyle:
+    case PropertyMeaning::LineStyle:
         return LineStyleText(drawing, id);
-    case kMeansBrushStyle:
+    case PropertyMeaning::BrushStyle:
         return id == kBrushStyleNone ? HostText(kStringNoBrush) : EntryName(drawing, kTableBrushStyles, id);
-    case kMeansLayer:
+    case PropertyMeaning::Layer:
         return EntryName(drawing, kTableLayers, id);
-    case kMeansBlock:
+    case PropertyMeaning::Block:
         return id ? EntryName(drawing, kTableBlocks, id) : "none";
-    case kMeansScaleSystem:
+    case PropertyMeaning::ScaleSystem:
         return HostText(id == kScaleWorld ? kStringWorldScale : kStringPaperScale);
     default:
         return std::to_string(value);
@@ -112,13 +111,13 @@ struct Holders {
 
 std::optional<Value> ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property,
                              uint32_t mask) {
-    if (property.form == kFormText) {
+    if (property.IsText()) {
         if (const auto text = ReadProperty<std::string>(graphic, property.name)) return Value{*text, 0};
-    } else if (property.form == kFormReal) {
+    } else if (property.IsReal()) {
         if (const auto real = ReadProperty<double>(graphic, property.name))
-            return Value{*real, property.meaning == kMeansWidth && IsWorldScaled(graphic)};
+            return Value{*real, property.meaning == PropertyMeaning::Width && IsWorldScaled(graphic)};
     } else if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) {
-        const bool byLayer = property.meaning == kMeansColor && *whole == kColorByLayer;
+        const bool byLayer = property.meaning == PropertyMeaning::Color && *whole == kColorByLayer;
         const auto layer = ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
         return Value{*whole & mask, byLayer ? ::LayerGetColor(drawing, layer) : 0};
     }
@@ -127,37 +126,35 @@ std::optional<Value> ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, con
 
 // Returns an empty string if the graphic has no such property.
 std::string ValueText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
-    switch (property.form) {
-    case kFormWhole:
-        if (const auto value = ReadProperty<uint32_t>(graphic, property.name))
-            return WholeText(drawing, property.meaning, *value);
-        break;
-    case kFormReal:
-        if (const auto value = ReadProperty<double>(graphic, property.name))
-            return property.meaning == kMeansWidth ? WidthText(drawing, graphic, *value) : Number(*value);
-        break;
-    case kFormText:
+    if (property.IsText()) {
         if (const auto value = ReadProperty<std::string>(graphic, property.name)) return '"' + *value + '"';
+    } else if (property.IsReal()) {
+        if (const auto value = ReadProperty<double>(graphic, property.name))
+            return property.meaning == PropertyMeaning::Width ? WidthText(drawing, graphic, *value) : Number(*value);
+    } else if (const auto value = ReadProperty<uint32_t>(graphic, property.name)) {
+        return WholeText(drawing, property.meaning, *value);
     }
     return "";
 }
 
 std::string ShownText(DrawingStruct* drawing, GraphicStruct* example, const PropertyInfo& property, const Value& value,
                       uint32_t mask) {
-    if (property.meaning == kMeansBits) {
+    if (property.meaning == PropertyMeaning::TextStyle) {
         const uint32_t bits = std::get<uint32_t>(std::get<0>(value));
         const bool isOne = (mask & (mask - 1)) == 0;
         return isOne ? (bits ? "yes" : "no") : std::to_string(bits);
     }
     char buffer[64] = "";
     const double* real = std::get_if<double>(&std::get<0>(value));
-    if (real && property.meaning == kMeansLength && ::DrawingStdNumericToText(drawing, *real, buffer, sizeof buffer, 0))
+    if (real && property.meaning == PropertyMeaning::Length &&
+        ::DrawingStdNumericToText(drawing, *real, buffer, sizeof buffer, 0))
         return buffer;
-    if (real && property.meaning == kMeansAngle && ::DrawingStdAngleToText(drawing, *real, buffer, sizeof buffer, 0))
+    if (real && property.meaning == PropertyMeaning::Angle &&
+        ::DrawingStdAngleToText(drawing, *real, buffer, sizeof buffer, 0))
         return buffer;
     const std::string text = ValueText(drawing, example, property);
     const uint32_t layerColor = std::get<1>(value);
-    if (property.meaning != kMeansColor || std::get<0>(value) != decltype(std::get<0>(value))(kColorByLayer))
+    if (property.meaning != PropertyMeaning::Color || std::get<0>(value) != decltype(std::get<0>(value))(kColorByLayer))
         return text;
     return text + " (" + ColorText(drawing, layerColor) + ")";
 }
@@ -172,9 +169,7 @@ std::string EntryName(DrawingStruct* drawing, const char* table, uint16_t id) {
 
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
                                     const char* name, uint32_t mask) {
-    const PropertyInfo* property =
-        std::find_if(AllProperties().begin(), AllProperties().end(),
-                     [&](const PropertyInfo& info) { return std::string(info.name) == name; });
+    const PropertyInfo* property = FindPropertyInfo(name);
     std::map<Value, Holders> values; // formatted only for the few different values
     for (GraphicStruct* graphic : graphics) {
         const std::optional<Value> value = ValueOf(drawing, graphic, *property, mask);
@@ -192,7 +187,7 @@ PropertySnapshot::PropertySnapshot(DrawingStruct* drawing, const std::vector<Gra
     m_values.reserve(graphics.size());
     for (GraphicStruct* graphic : graphics) {
         Values_& values = m_values.emplace_back();
-        for (const PropertyInfo& property : AllProperties()) {
+        for (const PropertyInfo& property : kPropertyList) {
             std::string text = ValueText(drawing, graphic, property);
             if (!text.empty()) values.emplace(property.name, std::move(text));
         }

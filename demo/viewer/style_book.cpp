@@ -7,7 +7,6 @@
 
 #include "drawcore/drawing.h"
 #include "drawcore/graphic.h"
-#include "drawcore/property_schema.h"
 #include "orlo/host/block.h"
 #include "orlo/host/owners.h"
 #include "orlo/host/property.h"
@@ -27,12 +26,6 @@ using orlo::host::WriteProperty;
 
 constexpr const char* kTree = "Graphic styles";
 
-using Names = std::vector<const char*>;
-const Names kPen = {kPropPenColor, kPropPenStyle, kPropPenScale, kPropPenWidth, kPropScaleSystem, kPropPenAlignment};
-const Names kBrush = {kPropBrushStyle, kPropBrushColor,    kPropBrushScale,
-                      kPropBrushAngle, kPropBrushDrawMode, kPropHatchCross};
-const Names kText = {kPropPenColor, kPropTextFont, kPropTextSize, kPropTextStyle, kPropTextFormat};
-
 // Equal values are not written, because writing some of them, such as the text size, may round other values.
 template <class Value>
 void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
@@ -41,29 +34,28 @@ void CopyProperty(GraphicStruct* from, GraphicStruct* to, const char* name) {
 }
 
 void CopyProperty(GraphicStruct* from, GraphicStruct* to, const PropertyInfo& property) {
-    if (property.form == kFormWhole)
-        CopyProperty<uint32_t>(from, to, property.name);
-    else if (property.form == kFormReal)
+    if (property.IsText())
+        CopyProperty<std::string>(from, to, property.name);
+    else if (property.IsReal())
         CopyProperty<double>(from, to, property.name);
     else
-        CopyProperty<std::string>(from, to, property.name);
+        CopyProperty<uint32_t>(from, to, property.name);
 }
 
-// Copies the properties that both have.
-void CopyProperties(GraphicStruct* from, GraphicStruct* to, const Names& names) {
-    for (const PropertyInfo& property : AllProperties()) {
-        const auto isThis = [&](const char* name) { return !std::strcmp(name, property.name); };
-        if (std::any_of(names.begin(), names.end(), isThis)) CopyProperty(from, to, property);
+// Copies the properties that both have. The pen color of a text belongs to its text part.
+void CopyProperties(GraphicStruct* from, GraphicStruct* to, PropertyPart part) {
+    for (const PropertyInfo& property : kPropertyList) {
+        const bool ofText = part == PropertyPart::Text && property.name == std::string_view(kPropPenColor);
+        if (property.part == part || ofText) CopyProperty(from, to, property);
     }
 }
 
 bool HaveSameProperties(GraphicStruct* a, GraphicStruct* b) {
-    return std::all_of(AllProperties().begin(), AllProperties().end(), [&](const PropertyInfo& property) {
-        if (property.form == kFormWhole)
-            return ReadProperty<uint32_t>(a, property.name) == ReadProperty<uint32_t>(b, property.name);
-        if (property.form == kFormReal)
-            return ReadProperty<double>(a, property.name) == ReadProperty<double>(b, property.name);
-        return ReadProperty<std::string>(a, property.name) == ReadProperty<std::string>(b, property.name);
+    return std::all_of(std::begin(kPropertyList), std::end(kPropertyList), [&](const PropertyInfo& property) {
+        if (property.IsText())
+            return ReadProperty<std::string>(a, property.name) == ReadProperty<std::string>(b, property.name);
+        if (property.IsReal()) return ReadProperty<double>(a, property.name) == ReadProperty<double>(b, property.name);
+        return ReadProperty<uint32_t>(a, property.name) == ReadProperty<uint32_t>(b, property.name);
     });
 }
 
@@ -178,9 +170,9 @@ uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruc
     if (!id) return 0;
     content.release(); // now owned by the table
     const Examples examples = ExamplesOf(graphics);
-    if (examples.pen) CopyProperties(examples.pen, shape, kPen);
-    if (examples.brush) CopyProperties(examples.brush, shape, kBrush);
-    if (examples.text) CopyProperties(examples.text, text, kText);
+    if (examples.pen) CopyProperties(examples.pen, shape, PropertyPart::Pen);
+    if (examples.brush) CopyProperties(examples.brush, shape, PropertyPart::Brush);
+    if (examples.text) CopyProperties(examples.text, text, PropertyPart::Text);
     Enter(id, parts);
     return id;
 }
@@ -243,7 +235,7 @@ OwnedGraphic StyleBook::Copy(uint16_t id) const {
 
 void StyleBook::Restore(uint16_t id, GraphicStruct* copy) {
     const Samples from(copy), to(Content(id));
-    for (const PropertyInfo& property : AllProperties()) {
+    for (const PropertyInfo& property : kPropertyList) {
         CopyProperty(from.shape, to.shape, property);
         CopyProperty(from.text, to.text, property);
     }
@@ -259,10 +251,10 @@ void StyleBook::ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const 
     const Parts parts = PartsOf(m_current);
     for (GraphicStruct* graphic : graphics) {
         if (graphic->bType == kGraphicText) {
-            if (parts.text) CopyProperties(samples.text, graphic, kText);
+            if (parts.text) CopyProperties(samples.text, graphic, PropertyPart::Text);
         } else {
-            if (parts.pen) CopyProperties(samples.shape, graphic, kPen);
-            if (parts.brush) CopyProperties(samples.shape, graphic, kBrush);
+            if (parts.pen) CopyProperties(samples.shape, graphic, PropertyPart::Pen);
+            if (parts.brush) CopyProperties(samples.shape, graphic, PropertyPart::Brush);
         }
         WriteProperty(graphic, kPropStyleTree, m_current);
     }

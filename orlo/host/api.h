@@ -1,4 +1,4 @@
-// DRAWCORE_API, the import and export macro of the host's functions. Plain C; no window header.
+// DRAWCORE_API, the import and export macro of the host's functions, and ORLO_CONSTANT. Plain C; no window header.
 //
 // A database defines DRAWCORE_BUILD in its own sources, so that the functions are exported, or DRAWCORE_STATIC if it is
 // linked statically.
@@ -6,8 +6,10 @@
 
 #ifdef __cplusplus
 #define DRAWCORE_LINKAGE extern "C"
+#define ORLO_CONSTANT constexpr
 #else
 #define DRAWCORE_LINKAGE extern
+#define ORLO_CONSTANT static const
 #endif
 
 #if !defined(_WIN32) || defined(DRAWCORE_STATIC)

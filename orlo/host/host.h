@@ -2,6 +2,7 @@
 // only: a host with its own database implements them and exports them from drawcore32.dll.
 //
 //   words.h        names and numbers that both sides use: tables, properties, types, markers
+//   property_list.h  the properties of graphics; included by words.h
 //   records.h      records that library and host share byte for byte
 //   application.h  the application: current drawing, variables, configuration file
 //   drawing.h      drawings: named tables, lengths and angles as text
@@ -35,6 +36,7 @@
 #include "orlo/host/matrix.h"
 #include "orlo/host/memory.h"
 #include "orlo/host/picture.h"
+#include "orlo/host/property_list.h"
 #include "orlo/host/records.h"
 #include "orlo/host/regen.h"
 #include "orlo/host/strings.h"

@@ -4,11 +4,7 @@
 
 #include <stdint.h>
 
-#ifdef __cplusplus
-#define ORLO_CONSTANT constexpr
-#else
-#define ORLO_CONSTANT static const
-#endif
+#include "orlo/host/property_list.h"
 
 // Tables of a drawing: names for DrawingGetTable.
 ORLO_CONSTANT char kTableLayers[] = "_Layers_";
@@ -20,28 +16,6 @@ ORLO_CONSTANT char kTableUnits[] = "_Units_";   // variables only
 
 // Name of a block that exists while a Block Insertion page is open. A host should not show it in its list of blocks.
 ORLO_CONSTANT char kPreviewBlock[] = "$PREVIEW_BLOCK";
-
-// Properties of graphics: names for PropertyTable::PropLookup. docs/host-guide.md has a table of their value types.
-ORLO_CONSTANT char kPropLayer[] = "Layer"; // identifier of an entry of kTableLayers
-ORLO_CONSTANT char kPropInfo[] = "Info";   // attribute text
-// Entry of kTableBlocks: the style that the graphic is drawn in, 0 for none.
-ORLO_CONSTANT char kPropStyleTree[] = "StyleTree";
-ORLO_CONSTANT char kPropPenColor[] = "PenColor";           // a COLORREF, kColorByLayer or kColorByBlock
-ORLO_CONSTANT char kPropPenWidth[] = "PenWidth";           // in the unit that kPropScaleSystem selects
-ORLO_CONSTANT char kPropPenScale[] = "PenScale";           // factor of the dash pattern
-ORLO_CONSTANT char kPropPenStyle[] = "PenStyle";           // entry of kTableLineStyles or a kLineStyle... marker
-ORLO_CONSTANT char kPropPenAlignment[] = "PenAlignment";   // 1: dashes are fitted to each segment
-ORLO_CONSTANT char kPropScaleSystem[] = "ScaleSystem";     // kScaleWorld or kScalePaper
-ORLO_CONSTANT char kPropBrushColor[] = "BrushColor";       // like kPropPenColor, also kColorOfPen
-ORLO_CONSTANT char kPropBrushAngle[] = "BrushAngle";       // radians, counterclockwise
-ORLO_CONSTANT char kPropBrushScale[] = "BrushScale";       // factor of the distances in a hatch
-ORLO_CONSTANT char kPropBrushStyle[] = "BrushStyle";       // entry of kTableBrushStyles or kBrushStyleNone
-ORLO_CONSTANT char kPropBrushDrawMode[] = "BrushDrawMode"; // 0 alternate, 1 winding
-ORLO_CONSTANT char kPropHatchCross[] = "HatchCross";       // 1: a second set of lines crosses the first
-ORLO_CONSTANT char kPropTextFont[] = "TextFont";           // face name
-ORLO_CONSTANT char kPropTextSize[] = "TextSize";           // height of a capital letter, in drawing units
-ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";         // bits: kTextItalic and following
-ORLO_CONSTANT char kPropTextFormat[] = "TextFormat";       // kTextLeft, kTextCenter or kTextRight
 
 // Bits of kPropTextStyle. The two lowest bits, read as a number, are the index in the list of font styles.
 enum {

@@ -4,7 +4,6 @@
 
 #include <functional>
 
-#include <drawcore/property_schema.h>
 #include <drawcore/undo.h>
 
 #include "drawcore/kit.h"
@@ -52,23 +51,20 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
 // Each property separately: one that the log misses would not be undone.
 TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
     GraphicStruct* const text = drawing.Add(MakeText("text", {0, 0}, 1));
-    int count = 0;
-    const PropertyInfo* const properties = DrawCoreGetProperties(&count);
-    ASSERT_GT(count, 0);
     for (GraphicStruct* graphic : {lines[0], text})
-        for (const PropertyInfo* property = properties; property < properties + count; ++property) {
-            const char* const name = property->name;
+        for (const PropertyInfo& property : kPropertyList) {
+            const char* const name = property.name;
             if (!orlo::host::FindProperty(graphic, name)) continue;
             SCOPED_TRACE(name);
             const auto value = [&] {
-                if (property->form == kFormText) return GetText(graphic, name);
-                return std::to_string(property->form == kFormReal ? GetReal(graphic, name) : GetWhole(graphic, name));
+                if (property.IsText()) return GetText(graphic, name);
+                return std::to_string(property.IsReal() ? GetReal(graphic, name) : GetWhole(graphic, name));
             };
             const std::string before = value();
             ASSERT_TRUE(DrawingBeginUndo(drawing));
-            if (property->form == kFormText) SetText(graphic, name, "Courier New");
-            if (property->form == kFormReal) SetReal(graphic, name, 0.25);
-            if (property->form == kFormWhole)
+            if (property.IsText()) SetText(graphic, name, "Courier New");
+            if (property.IsReal()) SetReal(graphic, name, 0.25);
+            if (!property.IsText() && !property.IsReal())
                 for (const uint32_t other : {0u, 1u})
                     if (value() == before) SetWhole(graphic, name, other);
             EXPECT_TRUE(value() != before || name == std::string(kPropLayer)) << "the only layer";

@@ -41,10 +41,12 @@ const Row kRows[] = {
     {"ExtendedDataOfOthersStays",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|b^J^ |1002|}|1001|OTHER|1000|x",
-     [](Look& look) { look.info = "b\n^"; }},
+     [](Look& look) {
+         dxf::SetExtended(look, {kPropInfo, "b\n^", {}});
+     }},
     {"EmptyExtendedDataGoes",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
-     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.info.clear(); }},
+     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.extended.clear(); }},
     {"WidthsOfVerticesBecomeOne",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|0|10|0|20|0|40|1|41|1|10|1|20|0|40|1|41|1",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|128|43|2.5|10|0|20|0|10|1|20|0",
@@ -135,7 +137,7 @@ TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
     const dxf::Document document = dxf::Read(text, {});
     dxf::DrawingPatch patch(text, document.Tables());
     Look look = patch.LookAt(document.entities.at(0).offset);
-    look.info = "registered";
+    dxf::SetExtended(look, {kPropInfo, "registered", {}});
     patch.Change(document.entities[0].offset, look);
     const dxf::Document read = dxf::Read(patch.Finish(), {});
     EXPECT_TRUE(dxf::LookOf(read, read.entities.at(0)) == look);

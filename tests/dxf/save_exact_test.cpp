@@ -314,15 +314,15 @@ private:
 
     void SetProperty(GraphicStruct* graphic) {
         touched.push_back(graphic);
-        const PropertySchema schema = AllProperties();
-        const PropertyInfo& property = schema.begin()[Below(static_cast<size_t>(schema.count))];
+        const PropertyInfo& property = kPropertyList[Below(std::size(kPropertyList))];
         const char* kTexts[] = {"", "Verdana", "a^b\r\n\xE4\\", "Arial"};
-        if (property.form == kFormText) WriteProperty(graphic, property.name, std::string(kTexts[Below(4)]));
-        if (property.form == kFormReal) WriteProperty(graphic, property.name, Number());
-        if (property.form == kFormWhole && property.meaning == kMeansColor)
-            WriteProperty(graphic, property.name, static_cast<uint32_t>(Below(0x1000000)));
-        if (property.form == kFormWhole && property.meaning != kMeansColor)
-            WriteProperty(graphic, property.name, static_cast<uint32_t>(Below(4)));
+        if (property.IsText())
+            WriteProperty(graphic, property.name, std::string(kTexts[Below(4)]));
+        else if (property.IsReal())
+            WriteProperty(graphic, property.name, Number());
+        else
+            WriteProperty(graphic, property.name,
+                          static_cast<uint32_t>(Below(property.meaning == PropertyMeaning::Color ? 0x1000000 : 4)));
     }
 
     void MoveSome(GraphicStruct* graphic) {
@@ -358,28 +358,29 @@ private:
 };
 
 std::string ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& property) {
-    if (property.form == kFormText) return ReadProperty<std::string>(graphic, property.name).value_or("none");
-    if (property.form == kFormReal) {
+    if (property.IsText()) return ReadProperty<std::string>(graphic, property.name).value_or("none");
+    if (property.IsReal()) {
         const double value = ReadProperty<double>(graphic, property.name).value_or(-1);
         char text[40];
         std::snprintf(text, sizeof text, "%.17g", value);
         return text;
     }
     const uint32_t value = ReadProperty<uint32_t>(graphic, property.name).value_or(0xFFFFFF00);
-    const char* table = property.meaning == kMeansLayer       ? kTableLayers
-                        : property.meaning == kMeansLineStyle ? kTableLineStyles
-                        : property.meaning == kMeansBlock     ? kTableBlocks
-                                                              : nullptr;
+    const char* table = property.meaning == PropertyMeaning::Layer       ? kTableLayers
+                        : property.meaning == PropertyMeaning::LineStyle ? kTableLineStyles
+                        : property.meaning == PropertyMeaning::Block     ? kTableBlocks
+                                                                         : nullptr;
     char name[300] = "";
     if (table && value < 0xFFF0)
         TableEntryGetName(DrawingGetTable(drawing, table), static_cast<uint16_t>(value), name, sizeof name);
-    const bool isNumber = property.meaning != kMeansBrushStyle && !table; // its numbers differ between drawings
+    // The numbers of brush styles differ between drawings.
+    const bool isNumber = property.meaning != PropertyMeaning::BrushStyle && !table;
     return table && value < 0xFFF0 ? name : isNumber ? std::to_string(value) : value == 0 ? "none" : "style";
 }
 
 void ExpectSame(DrawingStruct* a, GraphicStruct* one, DrawingStruct* b, GraphicStruct* other) {
     ASSERT_EQ(one->bType, other->bType);
-    for (const PropertyInfo& property : AllProperties())
+    for (const PropertyInfo& property : kPropertyList)
         ASSERT_EQ(ValueOf(a, one, property), ValueOf(b, other, property)) << property.name;
     ASSERT_EQ(PlacesOf(one), PlacesOf(other));
     std::vector<GraphicStruct*> parts, others;

@@ -14,7 +14,6 @@
 #include "drawcore/include/drawcore/drawing.h"
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/include/drawcore/graphic.h"
-#include "drawcore/include/drawcore/property_schema.h"
 #include "drawcore/include/drawcore/undo.h"
 #include "drawcore/include/drawcore/view.h"
 #include "orlo/host/block.h"

@@ -14,15 +14,23 @@ double NewReal(const PropertyInfo& property) {
     return property.name == std::string(kPropPenWidth) ? 0.0123 : 1.375;
 }
 uint32_t NewWhole(GraphicStruct* graphic, const PropertyInfo& property) {
-    const std::string name = property.name;
-    if (property.meaning == kMeansColor) return 0x563412;
-    if (property.meaning == kMeansBlock) // the first one, if any
+    switch (property.meaning) {
+    case PropertyMeaning::Color:
+        return 0x563412;
+    case PropertyMeaning::Block: // the first one, if any
         return TableEntryFirst(BlocksFromDrawing(GraphicGetDrawing(graphic)), nullptr);
-    if (name == kPropTextStyle) return 0x1143;
-    if (name == kPropBrushStyle) return 2; // Horizontal
-    if (name == kPropBrushDrawMode || name == kPropHatchCross || name == kPropLayer) return 1;
-    if (property.meaning == kMeansNumber) return 2;
-    return 0;
+    case PropertyMeaning::TextStyle:
+        return 0x1143;
+    case PropertyMeaning::BrushStyle:
+        return 2; // Horizontal
+    case PropertyMeaning::Layer:
+        return 1;
+    case PropertyMeaning::LineStyle:
+    case PropertyMeaning::ScaleSystem:
+        return 0;
+    default:
+        return property.name == std::string(kPropPenAlignment) ? 0 : static_cast<uint32_t>(property.high);
+    }
 }
 
 // Returns whether the graphic previously had another value.
@@ -32,24 +40,20 @@ bool Set(GraphicStruct* graphic, const PropertyInfo& property) {
         WriteProperty(graphic, property.name, value);
         return was && *was != value;
     };
-    return property.form == kFormText   ? put(NewText(property))
-           : property.form == kFormReal ? put(NewReal(property))
-                                        : put(NewWhole(graphic, property));
+    return property.IsText()   ? put(NewText(property))
+           : property.IsReal() ? put(NewReal(property))
+                               : put(NewWhole(graphic, property));
 }
 
 void ExpectSet(GraphicStruct* graphic, const PropertyInfo& property) {
     const char* const name = property.name;
-    switch (property.form) {
-    case kFormText:
+    if (property.IsText())
         EXPECT_EQ(ReadProperty<std::string>(graphic, name).value_or(NewText(property)), NewText(property));
-        break;
-    case kFormReal:
+    else if (property.IsReal())
         EXPECT_EQ(ReadProperty<double>(graphic, name).value_or(NewReal(property)), NewReal(property));
-        break;
-    case kFormWhole:
+    else
         EXPECT_EQ(ReadProperty<uint32_t>(graphic, name).value_or(NewWhole(graphic, property)),
                   NewWhole(graphic, property));
-    }
 }
 
 TEST_F(Save, WithoutAChangeIsTheSameFile) {
@@ -57,7 +61,7 @@ TEST_F(Save, WithoutAChangeIsTheSameFile) {
         EXPECT_EQ(Write(drawing), kSaveDone) << message;
         EXPECT_TRUE(IsWritten(original));
         DrawingBeginUndo(drawing.get());
-        for (const PropertyInfo& property : AllProperties())
+        for (const PropertyInfo& property : kPropertyList)
             ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) { Set(g, property); });
         DrawingEndUndo(drawing.get());
         DrawingUndo(drawing.get());
@@ -68,12 +72,12 @@ TEST_F(Save, WithoutAChangeIsTheSameFile) {
 
 TEST_F(Save, HoldsAllPropertiesTogether) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
-        for (const PropertyInfo& property : AllProperties())
+        for (const PropertyInfo& property : kPropertyList)
             ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) { Set(g, property); });
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
         const OwnedDrawing read = Open(path);
         ASSERT_TRUE(read);
-        for (const PropertyInfo& property : AllProperties())
+        for (const PropertyInfo& property : kPropertyList)
             ForGraphics(DrawingGetRoot(read.get()), [&](GraphicStruct* g) { ExpectSet(g, property); });
         ASSERT_EQ(Write(drawing), kSaveDone) << message; // the file that was saved before
         EXPECT_EQ(Write(read), kSaveDone) << message;
@@ -81,7 +85,7 @@ TEST_F(Save, HoldsAllPropertiesTogether) {
 }
 
 TEST_F(Save, HoldsEachPropertyOfSomeGraphicsAndOfBlocks) {
-    for (const PropertyInfo& property : AllProperties()) {
+    for (const PropertyInfo& property : kPropertyList) {
         SCOPED_TRACE(property.name);
         const OwnedDrawing drawing = Open(kDrawings + "acadsharp-sample-AC1032.dxf");
         TableStruct* blocks = DrawingGetTable(drawing.get(), kTableBlocks);

@@ -7,42 +7,16 @@
 
 namespace {
 
-enum Types { kShapes = 1, kTexts = 2, kInsertions = 4, kAll = 7 };
-
 struct Type {
     int type;
-    int bit;
+    int bit; // of PropertyInfo::owners
 };
-constexpr Type kTypes[] = {{kGraphicVertices, kShapes}, {kGraphicText, kTexts}, {kGraphicInsert, kInsertions}};
+constexpr Type kTypes[] = {{kGraphicVertices, kOfShapes}, {kGraphicText, kOfTexts}, {kGraphicInsert, kOfInserts}};
 
-// value: a value that every graphic accepts; for VT_BSTR it is "Arial".
-struct Row {
-    const char* name;
-    int owners;            // types of graphics that must have the property for their preview
-    int get, set, preview; // value types of PropGet, and of PropSet for selected graphics and for previews
-    double value;
-};
-constexpr Row kProperties[] = {
-    {kPropInfo, 0, VT_BSTR, VT_BSTR, VT_BSTR, 0},
-    {kPropPenColor, kShapes | kTexts, VT_UI4, VT_UI4, VT_UI4, 0x123456},
-    {kPropPenWidth, kShapes, VT_R8, VT_R8, VT_R8, 0.0625},
-    {kPropPenScale, kShapes, VT_R8, VT_R8, VT_R8, 2.5},
-    {kPropPenStyle, kShapes, VT_UI4, VT_UI4, VT_UI4, kLineStyleByBlock},
-    {kPropPenAlignment, kShapes, VT_BOOL, VT_BOOL, VT_BOOL, 1},
-    {kPropScaleSystem, kShapes, VT_UI2, VT_UI2, VT_UI1, kScaleWorld},
-    {kPropBrushColor, kShapes, VT_UI4, VT_UI4, VT_UI4, kColorOfPen},
-    {kPropBrushAngle, kShapes, VT_R8, VT_R8, VT_R8, 0.5},
-    {kPropBrushScale, kShapes, VT_R8, VT_R8, VT_R8, 2.5},
-    {kPropBrushStyle, kShapes, VT_UI4, VT_UI4, VT_UI4, 1},
-    {kPropHatchCross, kShapes, VT_BOOL, VT_BOOL, VT_BOOL, 1},
-    {kPropBrushDrawMode, kShapes, VT_I4, VT_I4, VT_I4, 1},
-    {kPropTextFont, kTexts, VT_BSTR, VT_BSTR, VT_BSTR, 0},
-    {kPropTextSize, kTexts, VT_R8, VT_R8, VT_R8, 7.5},
-    {kPropTextStyle, kTexts, VT_UI2, VT_UI2, VT_UI2, 3},
-    {kPropTextFormat, kTexts, VT_UI2, VT_UI2, VT_UI2, 1},
-    {kPropLayer, 0, VT_UI4, VT_UI4, VT_UI4, 1},
-    {kPropStyleTree, 0, VT_UI4, VT_UI4, VT_UI4, 0},
-};
+// Returns whether graphics of the type must have the property for their preview.
+bool IsInPreview(const PropertyInfo& property, const Type& type) {
+    return property.part != PropertyPart::General && type.bit != kOfInserts && (property.owners & type.bit);
+}
 
 // One property of one graphic. Throws Violation if the property table is incomplete.
 class Property {
@@ -103,24 +77,49 @@ private:
     bool has_;
 };
 
-uint64_t BitsOf(const Row& row) {
+// Returns a value that every graphic accepts.
+double ValueOf(const PropertyInfo& property) {
+    switch (property.meaning) {
+    case PropertyMeaning::Color:
+        return property.part == PropertyPart::Brush ? kColorOfPen : 0x123456;
+    case PropertyMeaning::LineStyle:
+        return kLineStyleByBlock;
+    case PropertyMeaning::Block:
+        return 0;
+    case PropertyMeaning::ScaleSystem:
+        return kScaleWorld;
+    case PropertyMeaning::TextStyle:
+        return kTextItalic | kTextBold;
+    case PropertyMeaning::Width:
+        return 0.0625;
+    case PropertyMeaning::Length:
+        return 7.5;
+    default:
+        return property.IsReal() ? 0.5 : 1;
+    }
+}
+
+int TypeOf(const PropertyInfo& property) {
+    return static_cast<int>(property.type);
+}
+
+uint64_t BitsOf(const PropertyInfo& property) {
+    const double value = ValueOf(property);
+    if (!property.IsReal()) return static_cast<uint32_t>(value);
     uint64_t bits = 0;
-    if (row.get == VT_R8)
-        std::memcpy(&bits, &row.value, sizeof row.value);
-    else
-        bits = static_cast<uint32_t>(row.value);
+    std::memcpy(&bits, &value, sizeof value);
     return bits;
 }
 
-// Calls visit(property, row) for all properties of a graphic of each type.
+// Calls visit(property, info) for all properties of a graphic of each type.
 template <class Visit>
 void ForEachProperty(const Subject& s, Visit visit) {
     for (const Type& type : kTypes) {
         const auto graphic = s.NewGraphic(type.type);
         CALL(s.host, GraphicAttach)(graphic.get(), s.drawing);
-        for (const Row& row : kProperties) {
-            const Property property(s, graphic.get(), row.name);
-            if (property) visit(property, row);
+        for (const PropertyInfo& info : kPropertyList) {
+            const Property property(s, graphic.get(), info.name);
+            if (property) visit(property, info);
         }
     }
 }
@@ -128,9 +127,9 @@ void ForEachProperty(const Subject& s, Visit visit) {
 void HasThePropertiesOfPreviews(const Subject& s) {
     for (const Type& type : kTypes) {
         const auto graphic = s.NewGraphic(type.type);
-        for (const Row& row : kProperties)
-            Require(!(row.owners & type.bit) || Property(s, graphic.get(), row.name),
-                    "a graphic of type 0x%02X has no %s", type.type, row.name);
+        for (const PropertyInfo& info : kPropertyList)
+            Require(!IsInPreview(info, type) || Property(s, graphic.get(), info.name),
+                    "a graphic of type 0x%02X has no %s", type.type, info.name);
     }
 }
 
@@ -141,45 +140,47 @@ void RejectsUnknownNames(const Subject& s) {
 }
 
 void AcceptsReturnedValues(const Subject& s) {
-    ForEachProperty(s, [](const Property& property, const Row& row) {
-        if (row.get == VT_BSTR) {
+    ForEachProperty(s, [](const Property& property, const PropertyInfo& info) {
+        if (info.IsText()) {
             const std::string text = property.GetText();
-            Require(property.SetText(text.c_str()), "%s: PropSet rejects \"%s\", which PropGet returned", row.name,
+            Require(property.SetText(text.c_str()), "%s: PropSet rejects \"%s\", which PropGet returned", info.name,
                     text.c_str());
             return;
         }
-        const uint64_t value = property.Get(row.get);
-        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX, which PropGet returned", row.name, value);
-        Require(property.Get(row.get) == value, "%s: PropSet of the returned value 0x%llX changed it to 0x%llX",
-                row.name, value, property.Get(row.get));
+        const uint64_t value = property.Get(TypeOf(info));
+        Require(property.Set(TypeOf(info), value), "%s: PropSet rejects 0x%llX, which PropGet returned", info.name,
+                value);
+        Require(property.Get(TypeOf(info)) == value, "%s: PropSet of the returned value 0x%llX changed it to 0x%llX",
+                info.name, value, property.Get(TypeOf(info)));
     });
 }
 
 void ReturnsSetValues(const Subject& s) {
-    ForEachProperty(s, [](const Property& property, const Row& row) {
-        if (row.get == VT_BSTR) {
+    ForEachProperty(s, [](const Property& property, const PropertyInfo& info) {
+        if (info.IsText()) {
             char own[] = "Arial";
-            Require(property.SetText(own), "%s: PropSet rejects \"Arial\"", row.name);
+            Require(property.SetText(own), "%s: PropSet rejects \"Arial\"", info.name);
             own[0] = 'x'; // the database must have copied the text
-            Require(property.GetText() == "Arial", "%s: set to \"Arial\", but PropGet returns \"%s\"", row.name,
+            Require(property.GetText() == "Arial", "%s: set to \"Arial\", but PropGet returns \"%s\"", info.name,
                     property.GetText().c_str());
             return;
         }
-        const uint64_t value = BitsOf(row);
-        Require(property.Set(row.set, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value, row.set);
-        Require(property.Get(row.get) == value, "%s: set to 0x%llX, but PropGet returns 0x%llX", row.name, value,
-                property.Get(row.get));
+        const uint64_t value = BitsOf(info);
+        Require(property.Set(TypeOf(info), value), "%s: PropSet rejects 0x%llX as type 0x%02X", info.name, value,
+                TypeOf(info));
+        Require(property.Get(TypeOf(info)) == value, "%s: set to 0x%llX, but PropGet returns 0x%llX", info.name, value,
+                property.Get(TypeOf(info)));
     });
 }
 
+// The preview of the Pen page sets the scale system as a byte.
 void AcceptsPreviewTypes(const Subject& s) {
-    ForEachProperty(s, [](const Property& property, const Row& row) {
-        if (row.preview == row.set) return;
-        const uint64_t value = BitsOf(row);
-        Require(property.Set(row.preview, value), "%s: PropSet rejects 0x%llX as type 0x%02X", row.name, value,
-                row.preview);
-        Require(property.Get(row.get) == value, "%s: set to 0x%llX as type 0x%02X, but PropGet returns 0x%llX",
-                row.name, value, row.preview, property.Get(row.get));
+    ForEachProperty(s, [](const Property& property, const PropertyInfo& info) {
+        if (info.meaning != PropertyMeaning::ScaleSystem) return;
+        const uint64_t value = BitsOf(info);
+        Require(property.Set(VT_UI1, value), "%s: PropSet rejects 0x%llX as type 0x%02X", info.name, value, VT_UI1);
+        Require(property.Get(TypeOf(info)) == value, "%s: set to 0x%llX as type 0x%02X, but PropGet returns 0x%llX",
+                info.name, value, VT_UI1, property.Get(TypeOf(info)));
     });
 }
 
@@ -187,7 +188,7 @@ void ChangesOneGraphic(const Subject& s) {
     const auto first = s.NewSquare(1), second = s.NewSquare(1);
     const Property one(s, first.get(), kPropPenWidth), other(s, second.get(), kPropPenWidth);
     const uint64_t before = other.Get(VT_R8);
-    one.Set(VT_R8, BitsOf(kProperties[2]));
+    one.Set(VT_R8, BitsOf(*FindPropertyInfo(kPropPenWidth)));
     Require(other.Get(VT_R8) == before, "setting the width of one graphic changed another one");
 }
 

@@ -132,10 +132,8 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 struct PropertyForms {
     using Get = std::string (*)(const PropertyTexts&, const Look&);
     using Set = void (*)(const PropertyTexts&, const std::string&, Look&);
-    enum Owners { shapes = 1, texts = 2, inserts = 4, all = 7 };
 
     const char* name;
-    int owners;
     Get get;
     Set set;
 
@@ -216,12 +214,6 @@ struct PropertyForms {
         look.layer = *found;
     }
 
-    static void SetTree(const PropertyTexts& of, const std::string& text, Look& look) {
-        if (!text.empty() && !FindName<BlockIndex>(of.document_.blocks, text))
-            Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
-        look.styleTree = text;
-    }
-
     static std::string GetBrush(const PropertyTexts&, const Look& look) {
         return look.brush.style.empty() ? kNoBrush : look.brush.style;
     }
@@ -279,44 +271,39 @@ struct PropertyForms {
 
 // In the order in which they are set: the unit of a width depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
-    {kPropLayer, all,
+    {kPropLayer,
      [](const PropertyTexts& of, const Look& look) { return ToDisplayText(of.document_.At(look.layer).name); },
      SetLayer},
-    {kPropInfo, all, [](const PropertyTexts&, const Look& look) { return look.info; },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.info = text; }},
-    {kPropStyleTree, all, [](const PropertyTexts&, const Look& look) { return look.styleTree; }, SetTree},
-    {kPropPenColor, all, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
+    {kPropPenColor, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.color = ReadColor(text, false); }},
-    {kPropScaleSystem, shapes, [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
+    {kPropScaleSystem, [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
      SetSystem},
-    {kPropPenWidth, shapes, GetWidth, SetWidth},
-    {kPropPenStyle, shapes | inserts, GetLineType, SetLineType},
-    {kPropPenScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
+    {kPropPenWidth, GetWidth, SetWidth},
+    {kPropPenStyle, GetLineType, SetLineType},
+    {kPropPenScale, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.lineScale = ReadNumber(text); }},
-    {kPropPenAlignment, shapes,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.dashesFitted); },
+    {kPropPenAlignment, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.dashesFitted); },
      [](const PropertyTexts&, const std::string& text, Look& look) {
          look.dashesFitted = ValueOf(kSwitch, text) != 0;
      }},
-    {kPropBrushStyle, shapes, GetBrush, SetBrush},
-    {kPropBrushColor, shapes, [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
+    {kPropBrushStyle, GetBrush, SetBrush},
+    {kPropBrushColor, [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.color = ReadColor(text, true); }},
-    {kPropBrushScale, shapes, [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
+    {kPropBrushScale, [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.scale = ReadNumber(text); }},
-    {kPropBrushAngle, shapes, GetAngle, SetAngle},
-    {kPropHatchCross, shapes, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
+    {kPropBrushAngle, GetAngle, SetAngle},
+    {kPropHatchCross, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.cross = ValueOf(kSwitch, text) != 0; }},
-    {kPropBrushDrawMode, shapes,
-     [](const PropertyTexts&, const Look& look) { return TextOf(kDrawModes, look.brush.winding); },
+    {kPropBrushDrawMode, [](const PropertyTexts&, const Look& look) { return TextOf(kDrawModes, look.brush.winding); },
      [](const PropertyTexts&, const std::string& text, Look& look) {
          look.brush.winding = ValueOf(kDrawModes, text) != 0;
      }},
-    {kPropTextFont, texts, [](const PropertyTexts&, const Look& look) { return look.text.font; },
+    {kPropTextFont, [](const PropertyTexts&, const Look& look) { return look.text.font; },
      [](const PropertyTexts&, const std::string& text, Look& look) { look.text.font = text; }},
-    {kPropTextSize, texts, [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); },
+    {kPropTextSize, [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); },
      SetSize},
-    {kPropTextStyle, texts, GetEffects, SetEffects},
-    {kPropTextFormat, texts, [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
+    {kPropTextStyle, GetEffects, SetEffects},
+    {kPropTextFormat, [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
      [](const PropertyTexts&, const std::string& text, Look& look) {
          look.text.format = static_cast<uint16_t>(ValueOf(kFormats, text));
      }},
@@ -324,9 +311,36 @@ const PropertyForms PropertyForms::kAll[] = {
 
 const PropertyForms* PropertyForms::Find(std::string_view name) {
     for (const PropertyForms& forms : kAll)
-        if (IsSameName(forms.name, name)) return &forms;
+        if (name == forms.name) return &forms;
     return nullptr;
 }
+
+namespace {
+
+const PropertyInfo& InfoOf(std::string_view name) {
+    return *std::find_if(std::begin(kPropertyList), std::end(kPropertyList),
+                         [&](const PropertyInfo& info) { return IsSameName(info.name, name); });
+}
+
+// Of a property without a group. One that has no value has its default, which is written as nothing.
+std::string ExtendedText(const PropertyInfo& info, const Look& look) {
+    const OwnValue* value = FindOwn(look.extended, info.name);
+    if (!value) return {};
+    if (value->numbers.empty()) return value->text;
+    const double number = value->numbers[0];
+    return info.meaning == PropertyMeaning::Switch ? TextOf(kSwitch, number != 0) : NumberText(number);
+}
+
+OwnValue ReadExtended(const Document& document, const PropertyInfo& info, const std::string& text) {
+    if (info.meaning == PropertyMeaning::Block && !text.empty() && !FindName<BlockIndex>(document.blocks, text))
+        Refuse(text, "the blocks " + Listed(NamesOf(document.blocks)));
+    if (info.IsText() || info.meaning == PropertyMeaning::Block) return {info.name, text, {}};
+    const double number = info.meaning == PropertyMeaning::Switch ? ValueOf(kSwitch, text) : ReadNumber(text);
+    if (number < info.low || number > info.high) throw SaveError("'" + text + "' is out of range");
+    return {info.name, "", {number}};
+}
+
+} // namespace
 
 PropertyTexts::PropertyTexts(const Document& document)
     : document_(document), units_(drawcore::UnitsOf(document.header)) {
@@ -349,26 +363,32 @@ std::vector<std::string> PropertyTexts::Names() {
     std::vector<std::string> names;
     for (const PropertyForms& forms : PropertyForms::kAll)
         names.push_back(forms.name);
+    for (const PropertyInfo& info : kPropertyList)
+        if (!info.hasDxfGroup) names.push_back(info.name);
+    std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return FindPropertyInfo(a)->part < FindPropertyInfo(b)->part;
+    });
     return names;
 }
 
 std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
-    const PropertyForms* forms = PropertyForms::Find(name);
-    return forms ? std::optional<std::string>(forms->name) : std::nullopt;
+    for (const PropertyInfo& info : kPropertyList)
+        if (IsSameName(info.name, name)) return info.name;
+    return std::nullopt;
 }
 
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
     if (is(Apart<Viewport>())) return false;
-    const int owner = is(Apart<Text>(), Apart<MText>())         ? PropertyForms::texts
-                      : is(Apart<Insert>(), Apart<Dimension>()) ? PropertyForms::inserts
-                                                                : PropertyForms::shapes;
-    const PropertyForms* forms = PropertyForms::Find(name);
-    return forms && (forms->owners & owner);
+    const int owner = is(Apart<Text>(), Apart<MText>())         ? kOfTexts
+                      : is(Apart<Insert>(), Apart<Dimension>()) ? kOfInserts
+                                                                : kOfShapes;
+    return InfoOf(name).owners & owner;
 }
 
 std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
-    return PropertyForms::Find(name)->get(*this, look);
+    const PropertyInfo& info = InfoOf(name);
+    return info.hasDxfGroup ? PropertyForms::Find(info.name)->get(*this, look) : ExtendedText(info, look);
 }
 
 std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& look) const {
@@ -377,12 +397,15 @@ std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& loo
 }
 
 void PropertyTexts::Set(std::string_view name, const std::string& text, Look& look) const {
-    const PropertyForms* forms = PropertyForms::Find(name);
+    const PropertyInfo& info = InfoOf(name);
     try {
-        forms->set(*this, text, look);
-        look.varied &= static_cast<uint8_t>(~VariedBit(forms->name));
+        if (info.hasDxfGroup)
+            PropertyForms::Find(info.name)->set(*this, text, look);
+        else
+            SetExtended(look, ReadExtended(document_, info, text));
+        look.varied &= static_cast<uint8_t>(~VariedBit(info.name));
     } catch (const SaveError& error) {
-        throw SaveError(std::string(forms->name) + ": " + error.what());
+        throw SaveError(std::string(info.name) + ": " + error.what());
     }
 }
 

@@ -90,9 +90,6 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
 // Where a group says nearly the same, the value says which group it goes with: a group that another program has
 // changed since then counts.
 constexpr OwnRow kOwnRows[] = {
-    {kPropInfo, 0, [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.info = own.text; }},
-    {kPropStyleTree, 0,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.styleTree = own.text; }},
     {kPropPenColor, 2,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
          if (entity.trueColor < 0 && entity.color == own.numbers[1]) look.color = ToColor(own.numbers[0], look.color);
@@ -182,14 +179,31 @@ Look LookOf(const Document& document, const Entity& entity) {
         const OwnValue* own = FindOwn(entity, row.name);
         if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, look);
     }
+    for (const PropertyInfo& property : kPropertyList) {
+        const OwnValue* own = property.hasDxfGroup ? nullptr : FindOwn(entity, property.name);
+        if (!own) continue;
+        const bool isText = property.IsText() || property.meaning == PropertyMeaning::Block;
+        if (isText) SetExtended(look, {own->name, own->text, {}});
+        if (!isText && !own->numbers.empty()) SetExtended(look, {own->name, "", {own->numbers[0]}});
+    }
     return look;
 }
 
-const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
-    if (!entity.own) return nullptr;
-    for (const OwnValue& value : *entity.own)
+const OwnValue* FindOwn(const OwnData& data, std::string_view name) {
+    for (const OwnValue& value : data)
         if (value.name == name) return &value;
     return nullptr;
+}
+
+const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
+    return entity.own ? FindOwn(*entity.own, name) : nullptr;
+}
+
+void SetExtended(Look& look, OwnValue value) {
+    const auto at = std::lower_bound(look.extended.begin(), look.extended.end(), value,
+                                     [](const OwnValue& a, const OwnValue& b) { return a.name < b.name; });
+    const auto from = at != look.extended.end() && at->name == value.name ? look.extended.erase(at) : at;
+    if (!value.text.empty() || !value.numbers.empty()) look.extended.insert(from, std::move(value));
 }
 
 bool HasOneWidth(const Polyline& polyline) {
@@ -232,7 +246,7 @@ bool operator==(const TextLook& a, const TextLook& b) {
 bool operator==(const Look& a, const Look& b) {
     const auto values = [](const Look& look) {
         return std::tie(look.layer, look.color, look.lineType, look.lineScale, look.width, look.worldWidth,
-                        look.dashesFitted, look.info, look.styleTree, look.brush, look.text, look.varied);
+                        look.dashesFitted, look.extended, look.brush, look.text, look.varied);
     };
     return values(a) == values(b);
 }

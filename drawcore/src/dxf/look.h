@@ -38,8 +38,9 @@ struct Look {
     bool dashesFitted = true;
     BrushLook brush; // of all but texts and insertions
     TextLook text;   // of texts
-    std::string info;
-    std::string styleTree; // name of a block, UTF-8; empty: none
+    // Values of the properties that have no group (PropertyInfo), sorted by name: a text or the name of a block in
+    // UTF-8, or a number.
+    OwnData extended;
     // Bits (kVariedColor ...) of values that only most of the text has: its inline codes give the rest another one.
     uint8_t varied = 0;
 };
@@ -52,8 +53,11 @@ Look LookOf(const Document& document, const Entity& entity);
 // The same by its groups alone, without its own extended data.
 Look LookByGroups(const Document& document, const Entity& entity);
 
-// Its own value of that name; null if it has none.
+// Returns the value of that name; null if there is none.
+const OwnValue* FindOwn(const OwnData& data, std::string_view name);
 const OwnValue* FindOwn(const Entity& entity, std::string_view name);
+// Sets a value of Look::extended; an empty one is removed.
+void SetExtended(Look& look, OwnValue value);
 
 // Own values that are not properties of the sheet.
 constexpr char kOwnPlacement[] = "Placement"; // of an insertion

@@ -103,8 +103,8 @@ GraphicComparison::GraphicComparison(const Drawing& saved, const Drawing& read)
 std::vector<size_t> GraphicComparison::DifferentProperties(const Graphic& saved, const Graphic& read) {
     std::vector<size_t> different;
     const bool isFollowing = saved.GetKind() == Kind::Text && saved.Parent();
-    for (size_t i = 0; i < static_cast<size_t>(schema_.count); ++i) {
-        const PropertyInfo& info = schema_.first[i];
+    for (size_t i = 0; i < std::size(kPropertyList); ++i) {
+        const PropertyInfo& info = kPropertyList[i];
         StoredProperty value = GetStored(saved, i);
         const StoredProperty other = GetStored(read, i);
         if (isFollowing && info.name == std::string_view(kPropTextSize)) {
@@ -139,7 +139,7 @@ const char* GraphicComparison::DifferentShape(const Graphic& saved, const Graphi
 const char* GraphicComparison::FirstDifference(const Graphic& saved, const Graphic& read, bool calculated) {
     if (const char* shape = DifferentShape(saved, read, calculated)) return shape;
     const std::vector<size_t> properties = DifferentProperties(saved, read);
-    return properties.empty() ? nullptr : schema_.first[properties[0]].name;
+    return properties.empty() ? nullptr : kPropertyList[properties[0]].name;
 }
 
 bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& saved, const StoredProperty& read) {
@@ -147,13 +147,13 @@ bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& s
     const auto* other = std::get_if<int64_t>(&read);
     if (!value || !other) return saved == read;
     switch (info.meaning) {
-    case kMeansLayer:
+    case PropertyMeaning::Layer:
         return *value == InSaved(layers_, *other);
-    case kMeansLineStyle:
+    case PropertyMeaning::LineStyle:
         return *value == InSaved(lines_, *other);
-    case kMeansBrushStyle:
+    case PropertyMeaning::BrushStyle:
         return IsSameStyle(*value, *other);
-    case kMeansBlock: { // one that the drawing no longer has is none
+    case PropertyMeaning::Block: { // one that the drawing no longer has is none
         const bool has = saved_.Blocks() && saved_.Blocks()->At(static_cast<Id>(*value));
         return (has ? *value : kNoId) == InSaved(blocks_, *other);
     }

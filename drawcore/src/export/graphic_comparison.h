@@ -18,7 +18,7 @@ public:
     // comparison.
     GraphicComparison(const Drawing& saved, const Drawing& read);
 
-    // Returns the properties that differ, by their places in the schema. The graphics are of the same kind.
+    // Returns the properties that differ, by their places in kPropertyList. The graphics are of the same kind.
     std::vector<size_t> DifferentProperties(const Graphic& saved, const Graphic& read);
     // Returns what else differs, for messages; null if nothing does. Places that are calculated, because the record has
     // them in other coordinates, are the same if they differ by rounding only; so are curves and directions, which it
@@ -34,7 +34,6 @@ private:
     const char* DifferentInsert(const InsertGraphic& saved, const InsertGraphic& read) const;
 
     const Drawing &saved_, &read_;
-    const PropertySchema schema_ = AllProperties();
     const std::vector<Id> layers_, lines_, blocks_; // of the saved drawing, by those of the one that was read
     std::map<std::pair<int64_t, int64_t>, bool> styles_;
 };

@@ -67,7 +67,7 @@ dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
     return index;
 }
 
-// How each property is said in the terms of a file. One that has no row is refused by its name.
+// How each property that has a group is said in the terms of a file.
 struct LookExport::Row {
     const char* name;
     void (*put)(LookExport& by, const Graphic& graphic, dxf::Look& look);
@@ -84,9 +84,6 @@ const TextState& StateOf(const Graphic& text) {
 const LookExport::Row LookExport::kRows[] = {
     {kPropLayer,
      [](LookExport& by, const Graphic& graphic, dxf::Look& look) { look.layer = by.LayerOf(graphic.layer); }},
-    {kPropInfo, [](LookExport&, const Graphic& graphic,
-                   dxf::Look& look) { look.info = graphic.info ? Utf8FromCodePage(*graphic.info) : ""; }},
-    {kPropStyleTree, [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetStyleTree(graphic, look); }},
     {kPropPenColor, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.color = graphic.GetPen().color; }},
     {kPropPenStyle, [](LookExport& by, const Graphic& graphic,
                        dxf::Look& look) { look.lineType = by.LineTypeOf(graphic.GetPen().style); }},
@@ -127,9 +124,20 @@ void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) con
     look.lines = style ? FileLines(*style) : std::vector<dxf::Hatch::PatternLine>();
 }
 
-void LookExport::SetStyleTree(const Graphic& graphic, dxf::Look& look) const {
-    const Block* tree = drawing_.Blocks() ? drawing_.Blocks()->At(graphic.styleTree) : nullptr;
-    look.styleTree = tree ? Utf8FromCodePage(tree->name) : "";
+dxf::OwnValue LookExport::ExtendedValue(const Graphic& graphic, const PropertyInfo& info) const {
+    const StoredProperty stored = GetStored(graphic, static_cast<size_t>(&info - kPropertyList));
+    dxf::OwnValue value;
+    value.name = info.name;
+    if (const auto* text = std::get_if<std::string>(&stored)) value.text = Utf8FromCodePage(*text);
+    if (const auto* real = std::get_if<double>(&stored)) value.numbers = {*real};
+    const auto* whole = std::get_if<int64_t>(&stored);
+    if (whole && info.meaning == PropertyMeaning::Block) {
+        const Block* block = drawing_.Blocks() ? drawing_.Blocks()->At(static_cast<Id>(*whole)) : nullptr;
+        value.text = block ? Utf8FromCodePage(block->name) : "";
+    } else if (whole) {
+        value.numbers = {static_cast<double>(*whole)};
+    }
+    return value;
 }
 
 void LookExport::Write(const Graphic& graphic, size_t place) {
@@ -141,11 +149,14 @@ void LookExport::Write(const Graphic& graphic, size_t place) {
     if (shown.GetKind() != graphic.GetKind()) throw dxf::SaveError("the file would show another kind of graphic");
     dxf::Look look = dxf::LookOf(known_, entity);
     for (const size_t property : comparison_.DifferentProperties(graphic, shown)) {
-        const std::string name = AllProperties().first[property].name;
+        const PropertyInfo& info = kPropertyList[property];
+        const std::string name = info.name;
         const auto row =
             std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& some) { return name == some.name; });
-        if (row == std::end(kRows)) throw dxf::SaveError("the file can't hold its " + name);
-        row->put(*this, graphic, look);
+        if (info.hasDxfGroup)
+            row->put(*this, graphic, look);
+        else
+            dxf::SetExtended(look, ExtendedValue(graphic, info));
         look.varied &= static_cast<uint8_t>(~dxf::VariedBit(name));
     }
     dxf::EntityPlace wanted;

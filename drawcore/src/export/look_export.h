@@ -31,7 +31,7 @@ private:
     static const Row kRows[];
 
     void SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const;
-    void SetStyleTree(const Graphic& graphic, dxf::Look& look) const;
+    dxf::OwnValue ExtendedValue(const Graphic& graphic, const PropertyInfo& info) const;
 
     const Drawing& drawing_;
     dxf::DrawingPatch& patch_;

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <limits>
+#include <string_view>
 
 #include <windows.h>
 
@@ -19,18 +21,13 @@ namespace drawcore {
 
 namespace {
 
-// Which property tables have it.
-enum : uint8_t { kOfShape = 1, kOfText = 2, kOfInsert = 4, kOfAll = 7 };
-
-// How a value is read and written. accepts judges a value before anything changes.
+// How a value is read and written.
 struct WholeAccess {
     int64_t (*get)(const Graphic&);
-    bool (*accepts)(const Graphic&, int64_t);
     void (*set)(Graphic&, int64_t);
 };
 struct RealAccess {
     double (*get)(const Graphic&);
-    bool (*accepts)(double);
     void (*set)(Graphic&, double);
     double (*stored)(const Graphic&); // null: get
 };
@@ -43,12 +40,9 @@ struct TextAccess {
 // One property: exactly one of the three accesses is set.
 struct Property {
     const char* name;
-    PropertyMeaning meaning;
-    uint8_t owners;
     WholeAccess whole{};
     RealAccess real{};
     TextAccess text{};
-    bool shapes = false; // a change moves the extents
 };
 
 // Places of values in a graphic.
@@ -90,50 +84,19 @@ struct InText : Assigned<InText<field>> {
     static auto& In(Graphic& graphic) { return static_cast<TextGraphic&>(graphic).state.*field; }
 };
 
-template <class Place, bool (*accepts)(const Graphic&, int64_t)>
-constexpr Property Whole(const char* name, PropertyMeaning meaning, uint8_t owners, bool shapes = false) {
-    return {name,
-            meaning,
-            owners,
-            {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, accepts, Place::template Set<int64_t>},
-            {},
-            {},
-            shapes};
+template <class Place>
+constexpr Property Whole(const char* name) {
+    return {name, {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, Place::template Set<int64_t>}};
 }
 
-template <class Place, bool (*accepts)(double)>
-constexpr Property Real(const char* name, PropertyMeaning meaning, uint8_t owners, bool shapes = false) {
-    return {name,
-            meaning,
-            owners,
-            {},
-            {[](const Graphic& g) -> double { return Place::In(g); }, accepts, Place::template Set<double>, nullptr},
-            {},
-            shapes};
+template <class Place>
+constexpr Property Real(const char* name) {
+    return {name, {}, {[](const Graphic& g) -> double { return Place::In(g); }, Place::template Set<double>, nullptr}};
 }
 
-constexpr Property Text(const char* name, PropertyMeaning meaning, uint8_t owners, TextAccess access,
-                        bool shapes = false) {
-    return {name, meaning, owners, {}, {}, access, shapes};
-}
-
-// Limits.
-template <int64_t low, int64_t high>
-bool Within(const Graphic&, int64_t value) {
-    return value >= low && value <= high;
-}
-
-bool IsPenColor(const Graphic&, int64_t value) {
+bool IsColor(int64_t value, bool ofBrush) {
     const Color color = static_cast<Color>(value);
-    return IsPlainColor(color) || color == kColorByLayer || color == kColorByBlock;
-}
-
-bool IsBrushColor(const Graphic& graphic, int64_t value) {
-    return IsPenColor(graphic, value) || static_cast<Color>(value) == kColorOfPen;
-}
-
-bool IsScaleSystem(const Graphic&, int64_t value) {
-    return value == kScaleWorld || value == kScalePaper;
+    return IsPlainColor(color) || color == kColorByLayer || color == kColorByBlock || (ofBrush && color == kColorOfPen);
 }
 
 bool IsLayer(const Graphic& graphic, int64_t value) {
@@ -143,16 +106,27 @@ bool IsLayer(const Graphic& graphic, int64_t value) {
     return !layers || layers->At(static_cast<Id>(value));
 }
 
-bool IsNumber(double value) {
-    return std::isfinite(value);
+bool Accepts(const PropertyInfo& info, const Graphic& graphic, int64_t value) {
+    switch (info.meaning) {
+    case PropertyMeaning::Color:
+        return IsColor(value, info.part == PropertyPart::Brush);
+    case PropertyMeaning::LineStyle:
+        return value >= 0 && value <= kLineStyleByLayer;
+    case PropertyMeaning::BrushStyle:
+    case PropertyMeaning::Block:
+        return value >= 0 && value <= kHighestId;
+    case PropertyMeaning::Layer:
+        return IsLayer(graphic, value);
+    case PropertyMeaning::ScaleSystem:
+        return value == kScaleWorld || value == kScalePaper;
+    default:
+        return value >= info.low && value <= info.high;
+    }
 }
 
-bool IsNotNegative(double value) {
-    return std::isfinite(value) && value >= 0;
-}
-
-bool IsPenWidth(double value) {
-    return IsNotNegative(value) || value == kPenWidthByLayer || value == kPenWidthByBlock;
+bool Accepts(const PropertyInfo& info, double value) {
+    const bool isMarker = value == kPenWidthByLayer || value == kPenWidthByBlock;
+    return (value >= info.low && value <= info.high) || (info.meaning == PropertyMeaning::Width && isMarker);
 }
 
 double GetStoredPenWidth(const Graphic& graphic) {
@@ -175,10 +149,6 @@ void SetScaleSystem(Graphic& graphic, int64_t system) {
     graphic.GetPen().scaleSystem = static_cast<uint8_t>(system);
 }
 
-bool IsPositive(double value) {
-    return std::isfinite(value) && value > 0;
-}
-
 const char* GetInfo(const Graphic& graphic) {
     return graphic.info ? graphic.info->c_str() : "";
 }
@@ -197,33 +167,43 @@ const char* GetStoredFont(const Graphic& graphic) {
     return InText<&TextState::font>::In(graphic).c_str();
 }
 
-constexpr auto kAnyStyle = Within<0, kLineStyleByLayer>;
-constexpr auto kAnyEntry = Within<0, kHighestId>;
-constexpr auto kYesOrNo = Within<0, 1>;
-
-// In the order of their names: a look-up halves the range.
+// As in kPropertyList.
 constexpr Property kProperties[] = {
-    Real<InBrush<&Brush::angle>, IsNumber>(kPropBrushAngle, kMeansAngle, kOfShape),
-    Whole<InBrush<&Brush::color>, IsBrushColor>(kPropBrushColor, kMeansColor, kOfShape),
-    Whole<InBrush<&Brush::drawMode>, kYesOrNo>(kPropBrushDrawMode, kMeansNumber, kOfShape),
-    Real<InBrush<&Brush::scale>, IsNotNegative>(kPropBrushScale, kMeansNumber, kOfShape),
-    Whole<InBrush<&Brush::style>, kAnyEntry>(kPropBrushStyle, kMeansBrushStyle, kOfShape),
-    Whole<InBrush<&Brush::cross>, kYesOrNo>(kPropHatchCross, kMeansSwitch, kOfShape),
-    Text(kPropInfo, kMeansText, kOfAll, {GetInfo, SetInfo, nullptr}),
-    Whole<Own<&Graphic::layer>, IsLayer>(kPropLayer, kMeansLayer, kOfAll),
-    Whole<InPen<&Pen::alignment>, kYesOrNo>(kPropPenAlignment, kMeansSwitch, kOfShape),
-    Whole<InPen<&Pen::color>, IsPenColor>(kPropPenColor, kMeansColor, kOfAll),
-    Real<InPen<&Pen::scale>, IsNotNegative>(kPropPenScale, kMeansNumber, kOfShape),
-    Whole<InPen<&Pen::style>, kAnyStyle>(kPropPenStyle, kMeansLineStyle, kOfShape | kOfInsert),
-    {kPropPenWidth, kMeansWidth, kOfShape, {}, {ShownPenWidth, IsPenWidth, SetPenWidth, GetStoredPenWidth}},
-    {kPropScaleSystem, kMeansScaleSystem, kOfShape, {GetScaleSystem, IsScaleSystem, SetScaleSystem}},
-    Whole<Own<&Graphic::styleTree>, kAnyEntry>(kPropStyleTree, kMeansBlock, kOfAll),
-    Text(kPropTextFont, kMeansText, kOfText,
-         {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont}, true),
-    Whole<InText<&TextState::format>, Within<kTextLeft, kTextRight>>(kPropTextFormat, kMeansNumber, kOfText, true),
-    Real<InText<&TextState::height>, IsPositive>(kPropTextSize, kMeansLength, kOfText, true),
-    Whole<InText<&TextState::style>, Within<0, 0xFFFF>>(kPropTextStyle, kMeansBits, kOfText, true),
+    Real<InBrush<&Brush::angle>>(kPropBrushAngle),
+    Whole<InBrush<&Brush::color>>(kPropBrushColor),
+    Whole<InBrush<&Brush::drawMode>>(kPropBrushDrawMode),
+    Real<InBrush<&Brush::scale>>(kPropBrushScale),
+    Whole<InBrush<&Brush::style>>(kPropBrushStyle),
+    Whole<InBrush<&Brush::cross>>(kPropHatchCross),
+    {kPropInfo, {}, {}, {GetInfo, SetInfo, nullptr}},
+    Whole<Own<&Graphic::layer>>(kPropLayer),
+    Whole<InPen<&Pen::alignment>>(kPropPenAlignment),
+    Whole<InPen<&Pen::color>>(kPropPenColor),
+    Real<InPen<&Pen::scale>>(kPropPenScale),
+    Whole<InPen<&Pen::style>>(kPropPenStyle),
+    {kPropPenWidth, {}, {ShownPenWidth, SetPenWidth, GetStoredPenWidth}},
+    {kPropScaleSystem, {GetScaleSystem, SetScaleSystem}},
+    Whole<Own<&Graphic::styleTree>>(kPropStyleTree),
+    {kPropTextFont,
+     {},
+     {},
+     {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont}},
+    Whole<InText<&TextState::format>>(kPropTextFormat),
+    Real<InText<&TextState::height>>(kPropTextSize),
+    Whole<InText<&TextState::style>>(kPropTextStyle),
 };
+
+// A look-up halves the range, and both tables have the same numbers.
+constexpr bool IsListSorted() {
+    constexpr size_t kCount = std::size(kProperties);
+    if (kCount != std::size(kPropertyList)) return false;
+    for (size_t i = 0; i < kCount; ++i) {
+        const std::string_view name = kPropertyList[i].name;
+        if (name != kProperties[i].name || (i > 0 && name <= kPropertyList[i - 1].name)) return false;
+    }
+    return true;
+}
+static_assert(IsListSorted());
 
 // Forms of whole numbers. A 32-bit form takes either reading of its top bit: colors come signed as well as unsigned.
 bool GiveWhole(int vt, void* out, int64_t value) {
@@ -300,26 +280,27 @@ bool GiveText(int vt, void* out, const char* text) {
 
 // Sets the value through one of the accesses, as a change that the undo log sees.
 template <class Access, class Value>
-int Put(Graphic& graphic, const Property& property, const Access& access, const Value& value) {
+int Put(Graphic& graphic, const PropertyInfo& info, const Access& access, const Value& value) {
     graphic.ChangingLook();
     access.set(graphic, value);
-    if (property.shapes)
+    if (info.part == PropertyPart::Text)
         graphic.ChangedShape();
     else
         graphic.ChangedLook();
     return 1;
 }
 
-const Property* PropertyAt(int32_t number, uint8_t owner) {
-    if (number < 0 || static_cast<size_t>(number) >= std::size(kProperties)) return nullptr;
-    return kProperties[number].owners & owner ? &kProperties[number] : nullptr;
+const PropertyInfo* InfoAt(int32_t number, uint8_t owner) {
+    if (number < 0 || static_cast<size_t>(number) >= std::size(kPropertyList)) return nullptr;
+    return kPropertyList[number].owners & owner ? &kPropertyList[number] : nullptr;
 }
 
 int32_t NumberOf(const char* name, uint8_t owner) {
-    const auto* found = std::lower_bound(std::begin(kProperties), std::end(kProperties), name,
-                                         [](const Property& p, const char* n) { return std::strcmp(p.name, n) < 0; });
-    const bool has = found != std::end(kProperties) && !std::strcmp(found->name, name) && (found->owners & owner);
-    return has ? static_cast<int32_t>(found - kProperties) : -1;
+    const auto* found =
+        std::lower_bound(std::begin(kPropertyList), std::end(kPropertyList), name,
+                         [](const PropertyInfo& info, const char* n) { return std::strcmp(info.name, n) < 0; });
+    const bool has = found != std::end(kPropertyList) && !std::strcmp(found->name, name) && (found->owners & owner);
+    return has ? static_cast<int32_t>(found - kPropertyList) : -1;
 }
 
 template <uint8_t owner>
@@ -331,60 +312,68 @@ int Lookup(GraphicStruct*, const char* const* names, int count, int, int32_t* nu
 
 template <uint8_t owner>
 int Get(GraphicStruct* record, int32_t number, int vt, void* out) {
-    const Property* property = PropertyAt(number, owner);
-    if (!record || !property || !out) return 0;
+    if (!record || !InfoAt(number, owner) || !out) return 0;
+    const Property& property = kProperties[number];
     const Graphic& graphic = *Graphic::From(record);
-    if (property->whole.get) return GiveWhole(vt, out, property->whole.get(graphic));
-    if (property->real.get) return GiveReal(vt, out, property->real.get(graphic));
-    return GiveText(vt, out, property->text.get(graphic));
+    if (property.whole.get) return GiveWhole(vt, out, property.whole.get(graphic));
+    if (property.real.get) return GiveReal(vt, out, property.real.get(graphic));
+    return GiveText(vt, out, property.text.get(graphic));
 }
 
 template <uint8_t owner>
 int Set(GraphicStruct* record, int32_t number, int vt, const void* in) {
-    const Property* property = PropertyAt(number, owner);
-    if (!record || !property || !in) return 0;
+    const PropertyInfo* info = InfoAt(number, owner);
+    if (!record || !info || !in) return 0;
+    const Property& property = kProperties[number];
     Graphic& graphic = *Graphic::From(record);
-    if (property->whole.get) {
+    if (property.whole.get) {
         int64_t value;
-        if (!TakeWhole(vt, in, value) || !property->whole.accepts(graphic, value)) return 0;
-        return Put(graphic, *property, property->whole, value);
+        return TakeWhole(vt, in, value) && Accepts(*info, graphic, value) ? Put(graphic, *info, property.whole, value)
+                                                                          : 0;
     }
-    if (property->real.get) {
+    if (property.real.get) {
         double value;
-        if (!TakeReal(vt, in, value) || !property->real.accepts(value)) return 0;
-        return Put(graphic, *property, property->real, value);
+        return TakeReal(vt, in, value) && Accepts(*info, value) ? Put(graphic, *info, property.real, value) : 0;
     }
-    return vt == VT_BSTR ? Put(graphic, *property, property->text, static_cast<const char*>(in)) : 0;
+    return vt == VT_BSTR ? Put(graphic, *info, property.text, static_cast<const char*>(in)) : 0;
+}
+
+} // namespace
+
+namespace {
+
+// Every graphic has a pen and a brush.
+bool HasStored(const Graphic& graphic, size_t place) {
+    const uint8_t owner = graphic.GetKind() == Kind::Text     ? kOfTexts
+                          : graphic.GetKind() == Kind::Insert ? kOfInserts
+                                                              : kOfShapes;
+    return kPropertyList[place].owners & (kOfShapes | owner);
 }
 
 } // namespace
 
 StoredProperty GetStored(const Graphic& graphic, size_t place) {
     const Property& property = kProperties[place];
-    const uint8_t owner = graphic.GetKind() == Kind::Text     ? kOfText
-                          : graphic.GetKind() == Kind::Insert ? kOfInsert
-                                                              : kOfShape;
-    if (!(property.owners & (kOfShape | owner))) return {}; // every graphic has a pen and a brush
+    if (!HasStored(graphic, place)) return {};
     if (property.whole.get) return property.whole.get(graphic);
     if (property.real.get) return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
     return std::string(property.text.stored ? property.text.stored(graphic) : property.text.get(graphic));
 }
 
-const PropertyTable kShapeProperties = {nullptr, Lookup<kOfShape>, Get<kOfShape>, Set<kOfShape>};
-const PropertyTable kTextProperties = {nullptr, Lookup<kOfText>, Get<kOfText>, Set<kOfText>};
-const PropertyTable kInsertProperties = {nullptr, Lookup<kOfInsert>, Get<kOfInsert>, Set<kOfInsert>};
+void SetStored(Graphic& graphic, size_t place, const StoredProperty& value) {
+    const Property& property = kProperties[place];
+    const PropertyInfo& info = kPropertyList[place];
+    if (!HasStored(graphic, place)) return;
+    const auto* whole = std::get_if<int64_t>(&value);
+    const auto* real = std::get_if<double>(&value);
+    const auto* text = std::get_if<std::string>(&value);
+    if (whole && property.whole.set && Accepts(info, graphic, *whole)) property.whole.set(graphic, *whole);
+    if (real && property.real.set && Accepts(info, *real)) property.real.set(graphic, *real);
+    if (text && property.text.set) property.text.set(graphic, text->c_str());
+}
+
+const PropertyTable kShapeProperties = {nullptr, Lookup<kOfShapes>, Get<kOfShapes>, Set<kOfShapes>};
+const PropertyTable kTextProperties = {nullptr, Lookup<kOfTexts>, Get<kOfTexts>, Set<kOfTexts>};
+const PropertyTable kInsertProperties = {nullptr, Lookup<kOfInserts>, Get<kOfInserts>, Set<kOfInserts>};
 
 } // namespace drawcore
-
-const PropertyInfo* DrawCoreGetProperties(int* count) {
-    static const std::vector<PropertyInfo> schema = [] {
-        std::vector<PropertyInfo> infos;
-        for (const drawcore::Property& property : drawcore::kProperties) {
-            const PropertyForm form = property.whole.get ? kFormWhole : property.real.get ? kFormReal : kFormText;
-            infos.push_back({property.name, form, property.meaning});
-        }
-        return infos;
-    }();
-    if (count) *count = static_cast<int>(schema.size());
-    return schema.data();
-}

@@ -9,7 +9,6 @@
 #include <string>
 #include <variant>
 
-#include "drawcore/include/drawcore/property_schema.h"
 #include "orlo/host/records.h"
 
 namespace drawcore {
@@ -25,8 +24,10 @@ extern const PropertyTable kInsertProperties;
 
 // Nothing: a property of texts, of a graphic that is not a text.
 using StoredProperty = std::variant<std::monostate, int64_t, double, std::string>;
-// Returns what the graphic stores under a property of the schema (DrawCoreGetProperties), given by its place there.
-// PropGet resolves markers and the default face; this function does not.
+// Returns what the graphic stores under a property, given by its place in kPropertyList. PropGet resolves markers and
+// the default face; this function does not.
 StoredProperty GetStored(const Graphic& graphic, size_t property);
+// Sets it, unless the graphic rejects it. Not for undo.
+void SetStored(Graphic& graphic, size_t property, const StoredProperty& value);
 
 } // namespace drawcore

@@ -8,6 +8,7 @@
 #include "drawcore/src/dxf/path.h"
 #include "drawcore/src/graphics/ellipse_graphic.h"
 #include "drawcore/src/graphics/insert_graphic.h"
+#include "drawcore/src/graphics/properties.h"
 #include "drawcore/src/graphics/spline_graphic.h"
 #include "drawcore/src/import/brush_import.h"
 #include "drawcore/src/import/text_import.h"
@@ -188,14 +189,28 @@ void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
     pen.alignment = look.dashesFitted;
     graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
     graphic.SetBrush(ImportBrush(look.brush, *drawing_.BrushStyles()));
-    if (!look.info.empty()) graphic.info = std::make_unique<std::string>(CodePageFromUtf8(look.info));
-    if (!look.styleTree.empty()) graphic.styleTree = drawing_.Blocks()->IdOf(CodePageFromUtf8(look.styleTree));
+    for (const dxf::OwnValue& value : look.extended)
+        SetExtended(graphic, value);
     if (graphic.GetKind() != Kind::Text) return;
     TextState& text = static_cast<TextGraphic&>(graphic).state;
     text.font = CodePageFromUtf8(look.text.font);
     text.height = look.text.height;
     text.style = look.text.style;
     text.format = look.text.format;
+}
+
+void EntityImport::SetExtended(Graphic& graphic, const dxf::OwnValue& value) const {
+    const auto* info = FindPropertyInfo(value.name);
+    StoredProperty stored;
+    if (info->IsText())
+        stored = CodePageFromUtf8(value.text);
+    else if (info->meaning == PropertyMeaning::Block)
+        stored = int64_t{drawing_.Blocks()->IdOf(CodePageFromUtf8(value.text))};
+    else if (info->IsReal())
+        stored = value.numbers[0];
+    else if (std::fabs(value.numbers[0]) <= UINT32_MAX)
+        stored = static_cast<int64_t>(value.numbers[0]);
+    SetStored(graphic, static_cast<size_t>(info - kPropertyList), stored);
 }
 
 uint16_t EntityImport::LineStyleOf(dxf::LineTypeIndex type) const {

@@ -24,6 +24,7 @@ private:
     std::unique_ptr<Graphic> MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert);
     void AddAttributes(Graphic& group, const dxf::Insert& insert);
     void SetLook(Graphic& graphic, const dxf::Look& look) const;
+    void SetExtended(Graphic& graphic, const dxf::OwnValue& value) const;
     uint16_t LineStyleOf(dxf::LineTypeIndex type) const;
 
     const dxf::Document& document_;

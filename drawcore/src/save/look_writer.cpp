@@ -42,12 +42,19 @@ void LookWriter::Write(const Look& wanted) {
         WriteLineScale(wanted);
         WriteWidth(wanted);
         WriteDashes(wanted);
-        wanted.info.empty() ? RemoveOwn(kPropInfo) : OwnText(kPropInfo, wanted.info);
-        wanted.styleTree.empty() ? RemoveOwn(kPropStyleTree) : OwnText(kPropStyleTree, wanted.styleTree);
+        WriteExtended(wanted);
     }
     if (const auto* text = std::get_if<Apart<Text>>(&entity_.shape)) PutText(**text);
     if (const auto* text = std::get_if<Apart<MText>>(&entity_.shape)) PutText(**text);
     WriteOwn();
+}
+
+void LookWriter::WriteExtended(const Look& wanted) {
+    for (const PropertyInfo& property : kPropertyList) {
+        const OwnValue* value = FindOwn(wanted.extended, property.name);
+        if (value) OwnText(property.name, value->text, value->numbers);
+        if (!value && !property.hasDxfGroup) RemoveOwn(property.name);
+    }
 }
 
 void LookWriter::OwnText(const char* name, std::string text, std::vector<double> numbers) {

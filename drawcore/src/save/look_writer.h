@@ -29,6 +29,7 @@ private:
     void OwnNumbers(const char* name, std::vector<double> numbers) { OwnText(name, {}, std::move(numbers)); }
     void RemoveOwn(std::string_view name);
     void WriteOwn();
+    void WriteExtended(const Look& wanted);
 
     void WriteLayer(const Look& wanted);
     void WriteColor(const Look& wanted);

@@ -1,0 +1,111 @@
+// The properties of graphics: their names and, for C++, their value types, meanings and limits. Plain C; no window
+// header.
+#pragma once
+
+#include <stdint.h>
+
+#include "orlo/host/api.h"
+
+// Properties of graphics: names for PropertyTable::PropLookup. docs/host-guide.md has a table of their value types.
+ORLO_CONSTANT char kPropLayer[] = "Layer"; // identifier of an entry of kTableLayers
+ORLO_CONSTANT char kPropInfo[] = "Info";   // attribute text
+// Entry of kTableBlocks: the style that the graphic is drawn in, 0 for none.
+ORLO_CONSTANT char kPropStyleTree[] = "StyleTree";
+ORLO_CONSTANT char kPropPenColor[] = "PenColor";           // a COLORREF, kColorByLayer or kColorByBlock
+ORLO_CONSTANT char kPropPenWidth[] = "PenWidth";           // in the unit that kPropScaleSystem selects
+ORLO_CONSTANT char kPropPenScale[] = "PenScale";           // factor of the dash pattern
+ORLO_CONSTANT char kPropPenStyle[] = "PenStyle";           // entry of kTableLineStyles or a kLineStyle... marker
+ORLO_CONSTANT char kPropPenAlignment[] = "PenAlignment";   // 1: dashes are fitted to each segment
+ORLO_CONSTANT char kPropScaleSystem[] = "ScaleSystem";     // kScaleWorld or kScalePaper
+ORLO_CONSTANT char kPropBrushColor[] = "BrushColor";       // like kPropPenColor, also kColorOfPen
+ORLO_CONSTANT char kPropBrushAngle[] = "BrushAngle";       // radians, counterclockwise
+ORLO_CONSTANT char kPropBrushScale[] = "BrushScale";       // factor of the distances in a hatch
+ORLO_CONSTANT char kPropBrushStyle[] = "BrushStyle";       // entry of kTableBrushStyles or kBrushStyleNone
+ORLO_CONSTANT char kPropBrushDrawMode[] = "BrushDrawMode"; // 0 alternate, 1 winding
+ORLO_CONSTANT char kPropHatchCross[] = "HatchCross";       // 1: a second set of lines crosses the first
+ORLO_CONSTANT char kPropTextFont[] = "TextFont";           // face name
+ORLO_CONSTANT char kPropTextSize[] = "TextSize";           // height of a capital letter, in drawing units
+ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";         // bits: kTextItalic and following
+ORLO_CONSTANT char kPropTextFormat[] = "TextFormat";       // kTextLeft, kTextCenter or kTextRight
+
+#ifdef __cplusplus
+
+#include <string_view>
+
+// The type of a value, as its variant type number.
+enum class PropertyType : int { Int = 3, Real = 5, Text = 8, Switch = 11, Word = 18, Whole = 19 };
+
+// The meaning of a value.
+enum class PropertyMeaning {
+    Number,
+    Switch, // 0 or 1
+    Text,
+    Color,
+    LineStyle, // an entry of the table or a marker; also the following ones
+    BrushStyle,
+    Layer,
+    Block,
+    ScaleSystem,
+    Width,  // in the unit of the graphic's scale system
+    Length, // in drawing units
+    Angle,  // radians
+    DrawMode,
+    TextStyle, // bits
+    TextFormat
+};
+
+// The part of a graphic that a property describes. Each part has a page of the sheet; the Text page also has the pen
+// color.
+enum class PropertyPart { General, Pen, Brush, Text };
+
+// The graphics that have a property: bits.
+enum : uint8_t { kOfShapes = 1, kOfTexts = 2, kOfInserts = 4, kOfAll = 7 };
+
+struct PropertyInfo {
+    const char* name;
+    PropertyType type;
+    PropertyMeaning meaning;
+    PropertyPart part;
+    uint8_t owners;
+    bool hasDxfGroup; // otherwise DXF files store it as extended data
+    double low = 0;   // the least and the greatest value, apart from markers
+    double high = 0x1.fffffffffffffp1023;
+
+    constexpr bool IsText() const { return type == PropertyType::Text; }
+    constexpr bool IsReal() const { return type == PropertyType::Real; }
+};
+
+// All properties, sorted by name.
+//
+//   for (const PropertyInfo& property : kPropertyList) ...
+constexpr PropertyInfo kPropertyList[] = {
+    {kPropBrushAngle, PropertyType::Real, PropertyMeaning::Angle, PropertyPart::Brush, kOfShapes, true,
+     -0x1.fffffffffffffp1023},
+    {kPropBrushColor, PropertyType::Whole, PropertyMeaning::Color, PropertyPart::Brush, kOfShapes, true},
+    {kPropBrushDrawMode, PropertyType::Int, PropertyMeaning::DrawMode, PropertyPart::Brush, kOfShapes, true, 0, 1},
+    {kPropBrushScale, PropertyType::Real, PropertyMeaning::Number, PropertyPart::Brush, kOfShapes, true},
+    {kPropBrushStyle, PropertyType::Whole, PropertyMeaning::BrushStyle, PropertyPart::Brush, kOfShapes, true},
+    {kPropHatchCross, PropertyType::Switch, PropertyMeaning::Switch, PropertyPart::Brush, kOfShapes, true, 0, 1},
+    {kPropInfo, PropertyType::Text, PropertyMeaning::Text, PropertyPart::General, kOfAll, false},
+    {kPropLayer, PropertyType::Whole, PropertyMeaning::Layer, PropertyPart::General, kOfAll, true},
+    {kPropPenAlignment, PropertyType::Switch, PropertyMeaning::Switch, PropertyPart::Pen, kOfShapes, true, 0, 1},
+    {kPropPenColor, PropertyType::Whole, PropertyMeaning::Color, PropertyPart::Pen, kOfAll, true},
+    {kPropPenScale, PropertyType::Real, PropertyMeaning::Number, PropertyPart::Pen, kOfShapes, true},
+    {kPropPenStyle, PropertyType::Whole, PropertyMeaning::LineStyle, PropertyPart::Pen, kOfShapes | kOfInserts, true},
+    {kPropPenWidth, PropertyType::Real, PropertyMeaning::Width, PropertyPart::Pen, kOfShapes, true},
+    {kPropScaleSystem, PropertyType::Word, PropertyMeaning::ScaleSystem, PropertyPart::Pen, kOfShapes, true},
+    {kPropStyleTree, PropertyType::Whole, PropertyMeaning::Block, PropertyPart::General, kOfAll, false},
+    {kPropTextFont, PropertyType::Text, PropertyMeaning::Text, PropertyPart::Text, kOfTexts, true},
+    {kPropTextFormat, PropertyType::Word, PropertyMeaning::TextFormat, PropertyPart::Text, kOfTexts, true, 0, 2},
+    {kPropTextSize, PropertyType::Real, PropertyMeaning::Length, PropertyPart::Text, kOfTexts, true, 0x1p-1074},
+    {kPropTextStyle, PropertyType::Word, PropertyMeaning::TextStyle, PropertyPart::Text, kOfTexts, true, 0, 0xFFFF},
+};
+
+// Returns the description of a property; null if there is no such property.
+constexpr const PropertyInfo* FindPropertyInfo(std::string_view name) {
+    for (const PropertyInfo& property : kPropertyList)
+        if (name == property.name) return &property;
+    return nullptr;
+}
+
+#endif
