@@ -5,9 +5,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <optional>
+#include <tuple>
+#include <utility>
 
 #include "drawcore/drawing.h"
 #include "drawcore/layer.h"
+#include "drawcore/property_text.h"
 #include "drawcore/units.h"
 #include "drawcore/view.h"
 #include "orlo/host/block.h"
@@ -34,13 +37,10 @@ std::string Exact(double value) {
 
 // Returns nothing if the graphic has no such property.
 std::optional<std::string> Read(GraphicStruct* graphic, const PropertyInfo& property) {
-    if (property.IsText()) return ReadProperty<std::string>(graphic, property.name);
-    if (property.IsReal()) {
-        if (const auto real = ReadProperty<double>(graphic, property.name)) return Exact(*real);
-    } else if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) {
-        return std::to_string(*whole);
-    }
-    return std::nullopt;
+    char text[1024] = "";
+    if (!::GraphicGetPropertyText(graphic, property.name, text, sizeof text)) return std::nullopt;
+    const auto real = property.IsReal() ? ReadProperty<double>(graphic, property.name) : std::nullopt;
+    return real ? text + (" (" + Exact(*real) + ")") : text;
 }
 
 std::string Vertices(GraphicStruct* graphic) {
@@ -92,6 +92,12 @@ std::string LayerText(DrawingStruct* drawing, uint16_t id) {
 DrawingState::DrawingState(DrawingStruct* drawing) {
     AddTables(drawing);
     AddGraphics("graphic", ::DrawingGetRoot(drawing));
+}
+
+DrawingState::DrawingState(const std::vector<GraphicStruct*>& graphics) {
+    int index = 0;
+    for (GraphicStruct* graphic : graphics)
+        AddGraphic("graphic " + std::to_string(++index), graphic);
 }
 
 void DrawingState::AddTables(DrawingStruct* drawing) {
@@ -187,4 +193,28 @@ bool DrawingState::Differs(const DrawingState& later, const std::string& name) c
         }
     }
     return false;
+}
+
+std::vector<PropertyChange> DrawingState::ChangesTo(const DrawingState& later) const {
+    std::map<std::tuple<std::string, std::string, std::string>, int> counts;
+    for (size_t i = 0; i < std::min(m_things.size(), later.m_things.size()); ++i) {
+        const auto &a = m_things[i].values, &b = later.m_things[i].values;
+        for (size_t v = 0; v < std::min(a.size(), b.size()); ++v)
+            if (FindPropertyInfo(a[v].first) && a[v] != b[v]) ++counts[{a[v].first, a[v].second, b[v].second}];
+    }
+    std::vector<PropertyChange> changes;
+    for (const auto& [key, count] : counts)
+        changes.push_back({std::get<0>(key), std::get<1>(key), std::get<2>(key), count});
+    std::stable_sort(changes.begin(), changes.end(), [](const PropertyChange& a, const PropertyChange& b) {
+        return a.property != b.property ? a.property < b.property : a.graphics > b.graphics;
+    });
+    return changes;
+}
+
+std::map<std::string, int> DrawingState::Values(const std::string& name) const {
+    std::map<std::string, int> counts;
+    for (const Thing& thing : m_things)
+        for (const auto& value : thing.values)
+            if (value.first == name) ++counts[value.second];
+    return counts;
 }

@@ -16,7 +16,6 @@
 #include "demo/tour/screenshot.h"
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
-#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/resource.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/style.h"
@@ -91,16 +90,14 @@ bool Tour::Play(const std::string& drawing) {
 // Returns true if the edit changed something and undo reverted all of it.
 bool Tour::EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit) {
     const Document& document = *m_frame.GetDocument();
-    const std::vector<GraphicStruct*> all = document.Selectable();
-    const PropertySnapshot before(document.Drawing(), all);
-    const DrawingState exactly(document.Drawing());
+    const DrawingState before(document.Drawing());
     edit();
     TakePicture(changed);
-    const bool differs = ReportChanges(before, PropertySnapshot(document.Drawing(), all));
+    const bool differs = ReportChanges(before, DrawingState(document.Drawing()));
 
     m_user.Key('Z', UserInput::kControl);
     TakePicture(undone);
-    const std::vector<std::string> left = exactly.DifferencesTo(DrawingState(document.Drawing()), 5);
+    const std::vector<std::string> left = before.DifferencesTo(DrawingState(document.Drawing()), 5);
     Report(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
     for (const std::string& line : left)
         Report("  " + line);
@@ -142,10 +139,10 @@ bool Tour::SelectVariedSet() {
     m_user.Release(view, frame.BottomRight());
     Selection& selection = m_frame.GetDocument()->Selected();
     Report("Select by window: " + std::to_string(selection.Count()) + " graphics.");
-    const PropertySnapshot snapshot(m_frame.GetDocument()->Drawing(), selection.Members());
+    const DrawingState state(selection.Members());
     for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle}) {
         std::string line = std::string("  ") + property + ":";
-        for (const auto& [value, count] : snapshot.Values(property))
+        for (const auto& [value, count] : state.Values(property))
             line += "  " + std::to_string(count) + " x " + value;
         Report(line);
     }
@@ -326,7 +323,7 @@ void Tour::PickStyle(HWND page) {
     Report("  line style: " + NameOf(ListItem(list, Send(list, LB_GETCURSEL))));
 }
 
-bool Tour::ReportChanges(const PropertySnapshot& before, const PropertySnapshot& after) {
+bool Tour::ReportChanges(const DrawingState& before, const DrawingState& after) {
     const std::vector<PropertyChange> changes = before.ChangesTo(after);
     Report(changes.empty() ? "Nothing changed in the drawing." : "What changed in the drawing:");
     for (const PropertyChange& change : changes) {

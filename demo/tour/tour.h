@@ -10,7 +10,7 @@
 #include "demo/automation/user_input.h"
 
 class CMainFrame;
-class PropertySnapshot;
+class DrawingState;
 
 class Tour {
 public:
@@ -38,7 +38,7 @@ private:
     void PickPaperScale(HWND page);
     void PickWidth(HWND page);
     void PickStyle(HWND page);
-    bool ReportChanges(const PropertySnapshot& before, const PropertySnapshot& after);
+    bool ReportChanges(const DrawingState& before, const DrawingState& after);
 
     CMainFrame& m_frame;
     std::string m_folder;

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "demo/viewer/document.h"
-#include "demo/viewer/property_snapshot.h"
+#include "demo/viewer/value_counts.h"
 #include "orlo/host/graphic.h"
 
 namespace {
@@ -44,12 +44,9 @@ std::vector<Item> ItemsOf(const Document& document) {
     for (GraphicStruct* graphic : document.Selectable()) {
         const std::optional<WorldBox> box = ExtentsOf(graphic);
         if (!box || !HasPenPage(graphic)) continue;
-        const PropertySnapshot snapshot(document.Drawing(), {graphic});
         std::string look = std::to_string(graphic->bType);
-        for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle, kPropLayer}) {
-            for (const auto& value : snapshot.Values(property))
-                look += "|" + value.first;
-        }
+        for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle, kPropLayer})
+            look += "|" + PropertyText(graphic, property);
         items.push_back({*box, std::move(look)});
     }
     return items;

@@ -22,43 +22,36 @@ struct Field {
     int control;
     const char* name;
     const char* property;
-    uint32_t bits = ~uint32_t{0};       // bits of the property
-    const char* const* words = nullptr; // names of its values, from 0
-    uint16_t unit = 0;                  // variable of the units table; the field is a length in this unit
+    uint32_t bits = ~uint32_t{0}; // bits of the property
 };
-constexpr const char* kDrawModes[] = {"Alternate", "Winding"};
-constexpr const char* kFontStyles[] = {"Regular", "Italic", "Bold", "Bold Italic"};
-constexpr const char* kJustifications[] = {"Left", "Center", "Right"};
-constexpr uint32_t kAllBits = ~uint32_t{0};
 
-constexpr Field kFields[] = {
-    {IDD_GENERAL_PAGE, IDC_INFO, "Attribute", kPropInfo},
-    {IDD_GENERAL_PAGE, IDC_LAYER, "Layer", kPropLayer},
-    {IDD_PEN_PAGE, IDC_LINE_STYLE_LIST, "Pattern", kPropPenStyle},
-    {IDD_PEN_PAGE, IDC_PEN_ALIGNMENT, "Alignment", kPropPenAlignment},
-    {IDD_PEN_PAGE, IDC_COLOR, "Color", kPropPenColor},
-    {IDD_PEN_PAGE, IDC_PEN_SCALE, "Dash scale", kPropPenScale},
-    {IDD_PEN_PAGE, IDC_SCALE_SYSTEM, "Width scaling", kPropScaleSystem},
-    {IDD_PEN_PAGE, IDC_PEN_WIDTH, "Width", kPropPenWidth, kAllBits, nullptr, kUnitPenWidth},
-    {IDD_BRUSH_PAGE, IDC_BRUSH_STYLE_LIST, "Pattern", kPropBrushStyle},
-    {IDD_BRUSH_PAGE, IDC_BRUSH_COLOR, "Color", kPropBrushColor},
-    {IDD_BRUSH_PAGE, IDC_BRUSH_SCALE, "Scale", kPropBrushScale},
-    {IDD_BRUSH_PAGE, IDC_BRUSH_ANGLE, "Angle", kPropBrushAngle},
-    {IDD_BRUSH_PAGE, IDC_HATCH_CROSS, "Crossed", kPropHatchCross},
-    {IDD_BRUSH_PAGE, IDC_DRAW_WINDING, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
-    {IDD_BRUSH_PAGE, IDC_DRAW_ALTERNATE, "Draw mode", kPropBrushDrawMode, kAllBits, kDrawModes},
-    {IDD_TEXT_PAGE, IDC_FONT_FACE, "Font", kPropTextFont},
-    {IDD_TEXT_PAGE, IDC_FONT_SIZE, "Height", kPropTextSize, kAllBits, nullptr, kUnitTextSize},
-    {IDD_TEXT_PAGE, IDC_FONT_STYLE, "Style", kPropTextStyle, 3, kFontStyles},
-    {IDD_TEXT_PAGE, IDC_TEXT_COLOR, "Color", kPropPenColor},
-    {IDD_TEXT_PAGE, IDC_STRIKETHROUGH, "Strikethrough", kPropTextStyle, 4},
-    {IDD_TEXT_PAGE, IDC_HIDDEN, "Hidden", kPropTextStyle, 8},
-    {IDD_TEXT_PAGE, IDC_ALL_CAPS, "All caps", kPropTextStyle, 0x40},
-    {IDD_TEXT_PAGE, IDC_UNDERLINE, "Underline", kPropTextStyle, 0x100},
-    {IDD_TEXT_PAGE, IDC_TEXT_BOX, "Text box", kPropTextStyle, 0x1000},
-    {IDD_TEXT_PAGE, IDC_JUSTIFY_LEFT, "Justification", kPropTextFormat, kAllBits, kJustifications},
-    {IDD_TEXT_PAGE, IDC_JUSTIFY_CENTER, "Justification", kPropTextFormat, kAllBits, kJustifications},
-    {IDD_TEXT_PAGE, IDC_JUSTIFY_RIGHT, "Justification", kPropTextFormat, kAllBits, kJustifications}};
+constexpr Field kFields[] = {{IDD_GENERAL_PAGE, IDC_INFO, "Attribute", kPropInfo},
+                             {IDD_GENERAL_PAGE, IDC_LAYER, "Layer", kPropLayer},
+                             {IDD_PEN_PAGE, IDC_LINE_STYLE_LIST, "Pattern", kPropPenStyle},
+                             {IDD_PEN_PAGE, IDC_PEN_ALIGNMENT, "Alignment", kPropPenAlignment},
+                             {IDD_PEN_PAGE, IDC_COLOR, "Color", kPropPenColor},
+                             {IDD_PEN_PAGE, IDC_PEN_SCALE, "Dash scale", kPropPenScale},
+                             {IDD_PEN_PAGE, IDC_SCALE_SYSTEM, "Width scaling", kPropScaleSystem},
+                             {IDD_PEN_PAGE, IDC_PEN_WIDTH, "Width", kPropPenWidth},
+                             {IDD_BRUSH_PAGE, IDC_BRUSH_STYLE_LIST, "Pattern", kPropBrushStyle},
+                             {IDD_BRUSH_PAGE, IDC_BRUSH_COLOR, "Color", kPropBrushColor},
+                             {IDD_BRUSH_PAGE, IDC_BRUSH_SCALE, "Scale", kPropBrushScale},
+                             {IDD_BRUSH_PAGE, IDC_BRUSH_ANGLE, "Angle", kPropBrushAngle},
+                             {IDD_BRUSH_PAGE, IDC_HATCH_CROSS, "Crossed", kPropHatchCross},
+                             {IDD_BRUSH_PAGE, IDC_DRAW_WINDING, "Draw mode", kPropBrushDrawMode},
+                             {IDD_BRUSH_PAGE, IDC_DRAW_ALTERNATE, "Draw mode", kPropBrushDrawMode},
+                             {IDD_TEXT_PAGE, IDC_FONT_FACE, "Font", kPropTextFont},
+                             {IDD_TEXT_PAGE, IDC_FONT_SIZE, "Height", kPropTextSize},
+                             {IDD_TEXT_PAGE, IDC_FONT_STYLE, "Style", kPropTextStyle, kTextItalic | kTextBold},
+                             {IDD_TEXT_PAGE, IDC_TEXT_COLOR, "Color", kPropPenColor},
+                             {IDD_TEXT_PAGE, IDC_STRIKETHROUGH, "Strikethrough", kPropTextStyle, kTextStrikethrough},
+                             {IDD_TEXT_PAGE, IDC_HIDDEN, "Hidden", kPropTextStyle, kTextHidden},
+                             {IDD_TEXT_PAGE, IDC_ALL_CAPS, "All caps", kPropTextStyle, kTextAllCaps},
+                             {IDD_TEXT_PAGE, IDC_UNDERLINE, "Underline", kPropTextStyle, kTextUnderline},
+                             {IDD_TEXT_PAGE, IDC_TEXT_BOX, "Text box", kPropTextStyle, kTextBox},
+                             {IDD_TEXT_PAGE, IDC_JUSTIFY_LEFT, "Justification", kPropTextFormat},
+                             {IDD_TEXT_PAGE, IDC_JUSTIFY_CENTER, "Justification", kPropTextFormat},
+                             {IDD_TEXT_PAGE, IDC_JUSTIFY_RIGHT, "Justification", kPropTextFormat}};
 
 // Returns the field that a window belongs to, which may be the edit field of a combo box, or null.
 const Field* FieldOf(HWND window) {
@@ -82,23 +75,26 @@ bool IsOverDrawing(HWND window) {
 std::string HintFor(HWND window, const Document& document) {
     const Field* field = FieldOf(window);
     if (!field || !IsOverDrawing(window)) return "";
-    std::vector<ValueCount> counts =
+    const std::vector<ValueCount> counts =
         CountValues(document.Drawing(), document.Selected().Members(), field->property, field->bits);
-    if (field->words)
-        for (ValueCount& count : counts)
-            count.value = field->words[std::stoi(count.value)];
     return counts.empty() ? "" : std::string(field->name) + ": " + CountsText(counts);
+}
+
+// Returns the unit in which the text of a field is a length, or 0 if it is not a length.
+uint16_t UnitOf(const Field* field) {
+    const PropertyMeaning meaning = field ? FindPropertyInfo(field->property)->meaning : PropertyMeaning::Text;
+    return meaning == PropertyMeaning::Width ? kUnitPenWidth : meaning == PropertyMeaning::Length ? kUnitTextSize : 0;
 }
 
 // Returns the fault in a field's text, or an empty string if it is a length or one of the listed texts.
 std::string FaultOf(HWND window, DrawingStruct* drawing) {
     const Field* field = FieldOf(window);
+    const uint16_t unit = UnitOf(field);
     CString typed;
-    if (field && field->unit) CWnd::FromHandle(window)->GetWindowText(typed);
+    if (unit) CWnd::FromHandle(window)->GetWindowText(typed);
     const std::string text(typed);
     double length = 0;
-    if (text.empty() || text.front() == '*' ||
-        ::UnitsTextToNumericEx(drawing->pUnits, field->unit, 0, text.c_str(), &length))
+    if (text.empty() || text.front() == '*' || ::UnitsTextToNumericEx(drawing->pUnits, unit, 0, text.c_str(), &length))
         return "";
     const HWND combo = ::GetParent(window);
     const LRESULT item =

@@ -9,8 +9,8 @@
 #include <string>
 #include <utility>
 
-#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/value_counts.h"
 #include "drawcore/drawing.h"
 #include "drawcore/layer.h"
 
@@ -111,7 +111,7 @@ uint32_t CLayersDialog::ColorOf(size_t layer) const {
 std::string CLayersDialog::CellText(size_t layer, int column) const {
     if (column == 0) return m_layers[layer].name;
     if (column == kCountColumn) return std::to_string(m_layers[layer].count);
-    if (column == kColorColumn) return ColorText(m_drawing, ColorOf(layer));
+    if (column == kColorColumn) return ValueText(m_drawing, kPropPenColor, ColorOf(layer));
     return Is(layer, static_cast<size_t>(column - kFirstState)) ? "yes" : "-";
 }
 

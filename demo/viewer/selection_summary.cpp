@@ -44,7 +44,7 @@ SimilarityKey SimilarityKeyOf(GraphicStruct* graphic) {
 std::vector<LayerCount> Named(DrawingStruct* drawing, const std::map<uint16_t, int>& counts) {
     std::vector<LayerCount> layers;
     for (const auto& [layer, count] : counts)
-        layers.push_back({layer, EntryName(drawing, kTableLayers, layer), count});
+        layers.push_back({layer, ValueText(drawing, kPropLayer, layer), count});
     std::sort(layers.begin(), layers.end(), [](const LayerCount& a, const LayerCount& b) {
         return std::tie(a.name, a.layer) < std::tie(b.name, b.layer);
     });

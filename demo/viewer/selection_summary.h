@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "demo/viewer/property_snapshot.h"
+#include "demo/viewer/value_counts.h"
 #include "orlo/host/records.h"
 
 using Graphics = std::vector<GraphicStruct*>;

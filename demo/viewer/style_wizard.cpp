@@ -5,8 +5,8 @@
 #include <afxdlgs.h>
 
 #include "demo/viewer/document.h"
-#include "demo/viewer/property_snapshot.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/value_counts.h"
 #include "orlo/controls/check_list_box.h"
 #include "orlo/wizard/wizard_sheet.h"
 
@@ -94,19 +94,12 @@ private:
 
 // ---- 3: the summary
 
-std::string ValueOf(const PropertySnapshot& snapshot, const char* property) {
-    const auto values = snapshot.Values(property);
-    return values.empty() ? "-" : values.begin()->first;
-}
-
-std::string PartText(const Draft& draft, const char* part, bool kept, GraphicStruct* example,
-                     const std::vector<const char*>& properties) {
+std::string PartText(const char* part, bool kept, GraphicStruct* example, const std::vector<const char*>& properties) {
     std::string line = std::string(part) + ": ";
     if (!kept) return line + "as each graphic has it\r\n";
     if (!example) return line + "the default\r\n";
-    const PropertySnapshot snapshot(draft.document.Drawing(), {example});
     for (const char* property : properties)
-        line += (property == properties.front() ? "" : ", ") + ValueOf(snapshot, property);
+        line += (property == properties.front() ? "" : ", ") + PropertyText(example, property);
     return line + "\r\n";
 }
 
@@ -121,9 +114,9 @@ protected:
         const StyleBook::Parts& parts = m_draft.parts;
         const std::string text =
             "Style \"" + m_draft.name + "\"\r\n\r\n" +
-            PartText(m_draft, "Pen", parts.pen, examples.pen, {kPropPenColor, kPropPenWidth, kPropPenStyle}) +
-            PartText(m_draft, "Brush", parts.brush, examples.brush, {kPropBrushStyle, kPropBrushColor}) +
-            PartText(m_draft, "Text", parts.text, examples.text, {kPropTextFont, kPropTextSize, kPropPenColor});
+            PartText("Pen", parts.pen, examples.pen, {kPropPenColor, kPropPenWidth, kPropPenStyle}) +
+            PartText("Brush", parts.brush, examples.brush, {kPropBrushStyle, kPropBrushColor}) +
+            PartText("Text", parts.text, examples.text, {kPropTextFont, kPropTextSize, kPropPenColor});
         SetDlgItemText(IDC_STYLE_SUMMARY, text.c_str());
         return TRUE;
     }

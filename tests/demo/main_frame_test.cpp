@@ -24,7 +24,7 @@ void FocusByTab(UserInput& user, int control) {
 }
 
 TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     user.Key('A', UserInput::kControl);
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
@@ -45,7 +45,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
 }
 
 TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     const std::vector<uint32_t> seen = Seen();
     user.InDialog(
         [&] { // a double click as sent by a mouse
@@ -74,7 +74,7 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
 TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable().front(), 0.5); });
     user.Key('Z', UserInput::kControl);
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     user.Key('A', UserInput::kControl);
     const std::vector<uint32_t> seen = Seen();
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
@@ -98,7 +98,7 @@ TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
 TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
     user.Key('A', UserInput::kControl);
     const Document* before = &document();
-    const PropertySnapshot properties = Properties();
+    const DrawingState properties = Properties();
     CString title;
     frame->GetWindowText(title);
     MessageBoxWatcher boxes;

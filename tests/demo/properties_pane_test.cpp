@@ -43,7 +43,7 @@ protected:
 };
 
 TEST_F(Pane, OneApplyByKeysIsOneStepOverAllPages) {
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     EXPECT_EQ(::GetFocus(), view()) << "the drawing keeps the keys";
     user.Key(VK_F6);
     ASSERT_TRUE(::IsChild(pane(), ::GetFocus()));
@@ -96,7 +96,7 @@ TEST_F(Pane, ThePageComesBackWhereThereWasNoSheet) {
 TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
     ShowPen();
     TypeScale("0");
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     const auto refuses = [&](const char* way, const std::function<void()>& act) {
         MessageBoxWatcher boxes;
         act();
@@ -223,7 +223,7 @@ TEST_F(Pane, TellsWhatDiffersInAField) {
     user.Wait(0);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
     EXPECT_EQ(tip(control(IDC_TEXT_COLOR)), "Color: 1 x By Layer (White)");
-    EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x no");
+    EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x Off");
     EXPECT_EQ(tip(control(IDC_JUSTIFY_CENTER)), "Justification: 1 x Left");
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 4");
     ::SetFocus(control(IDC_FONT_SIZE));

@@ -45,7 +45,7 @@ TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
     document().Change([&] { ::GraphicSetPenWidth(line, 0.25); });
     const std::vector<std::string> width = before.DifferencesTo(DrawingState(document().Drawing()), 9);
     ASSERT_EQ(width.size(), 1u);
-    EXPECT_EQ(width[0], "graphic 1, PenWidth: 0 is now 0.25");
+    EXPECT_EQ(width[0], "graphic 1, PenWidth: 0 mm (0) is now 6.35 mm (0.25)");
     document().Undo();
 
     ::TableEntryAdd(::DrawingGetTable(document().Drawing(), kTableLayers), "left over", nullptr);

@@ -112,7 +112,7 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     SelectOnly({10, 5}); // the red line
     Make("Red");
     user.Key('A', UserInput::kControl);
-    const PropertySnapshot before = Properties();
+    const DrawingState before = Properties();
     user.Key('E', UserInput::kControl);
     EXPECT_EQ(Properties().Values(kPropPenColor), (std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}))
         << "a style without a text part leaves the text alone";
@@ -139,7 +139,7 @@ TEST_F(Styles, OfTheFileAreEditedAndAppliedToo) {
 TEST_F(Styles, AreEditedInTheSheetAndApplied) {
     SelectOnly({10, 5});
     Make("Red");
-    const PropertySnapshot drawing = Properties();
+    const DrawingState drawing = Properties();
     InStyleSheets({[&](HWND sheet) {
         EXPECT_TRUE(::IsWindowVisible(OnPage(sheet, IDC_STYLE_NAME)));
         EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "demo/automation/drawing_state.h"
 #include "demo/automation/user_input.h"
 #include "demo/viewer/main_frame.h"
-#include "demo/viewer/property_snapshot.h"
 
 // A file in the temporary folder that exists during the object's lifetime.
 class DrawingFile {
@@ -41,7 +41,7 @@ protected:
     Selection& selection() { return document().Selected(); }
     HWND view() { return frame->View().m_hWnd; }
     CPoint Pixel(double x, double y) { return frame->View().GetCamera().ToPixels(WorldPoint{x, y}); }
-    PropertySnapshot Properties() { return {document().Drawing(), document().Selectable()}; }
+    DrawingState Properties() { return DrawingState(document().Selectable()); }
 
     void Drag(WorldPoint from, WorldPoint to, unsigned modifiers = UserInput::kNone);
     // Returns the pixels of the view once it is idle.

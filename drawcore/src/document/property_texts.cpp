@@ -1,10 +1,9 @@
-// The text forms of values, one row per property.
+// The forms of values, one row for each property.
 #include "drawcore/src/document/property_texts.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
-#include <cstdio>
+#include <type_traits>
 
 #include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/fold_name.h"
@@ -13,6 +12,7 @@
 #include "drawcore/src/units/calculation.h"
 #include "drawcore/src/units/decimal_mark.h"
 #include "drawcore/src/units/number_text.h"
+#include "drawcore/src/units/property_words.h"
 #include "drawcore/src/units/unit_settings.h"
 #include "orlo/host/words.h"
 
@@ -22,25 +22,13 @@ char drawcore::DecimalMark() {
 
 namespace dxf {
 
+using drawcore::ColorText;
+using drawcore::PropertyWord;
+using drawcore::TextStyleText;
+using drawcore::WordOf;
+using drawcore::WordsOf;
+
 namespace {
-
-constexpr char kByLayer[] = "By Layer", kByBlock[] = "By Block";
-constexpr char kPenColor[] = "Pen Color"; // also for brushes
-constexpr char kNoBrush[] = "No Brush", kNoLine[] = "No Line";
-
-struct Choice {
-    const char* text;
-    uint32_t value;
-};
-constexpr Choice kSwitch[] = {{"Off", 0}, {"On", 1}};
-constexpr Choice kDrawModes[] = {{"Alternate", 0}, {"Winding", 1}};
-constexpr Choice kSystems[] = {{"Paper Scale", 0}, {"World Scale", 1}};
-constexpr Choice kFormats[] = {{"Left", kTextLeft}, {"Center", kTextCenter}, {"Right", kTextRight}};
-constexpr Choice kEffects[] = {
-    {"Bold", kTextBold},           {"Italic", kTextItalic}, {"Strikethrough", kTextStrikethrough},
-    {"Underline", kTextUnderline}, {"Text Box", kTextBox},  {"Hidden", kTextHidden},
-    {"All Caps", kTextAllCaps}};
-constexpr char kRegular[] = "Regular"; // without effects
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& allowed) {
     throw SaveError("'" + text + "' is none of " + allowed);
@@ -53,49 +41,62 @@ std::string Listed(const std::vector<std::string>& texts) {
     return list;
 }
 
-template <size_t N>
-std::string TextOf(const Choice (&choices)[N], uint32_t value) {
-    for (const Choice& choice : choices)
-        if (choice.value == value) return choice.text;
-    return std::to_string(value);
+std::vector<std::string> TextsOf(const std::vector<PropertyWord>& words) {
+    std::vector<std::string> texts;
+    for (const PropertyWord& word : words)
+        texts.push_back(word.text);
+    return texts;
 }
 
-template <size_t N>
-uint32_t ValueOf(const Choice (&choices)[N], const std::string& text) {
-    std::vector<std::string> allowed;
-    for (const Choice& choice : choices) {
-        if (IsSameName(choice.text, text)) return choice.value;
-        allowed.push_back(choice.text);
-    }
-    Refuse(text, Listed(allowed));
+std::optional<uint32_t> FindWord(const std::vector<PropertyWord>& words, const std::string& text) {
+    for (const PropertyWord& word : words)
+        if (IsSameName(word.text, text)) return word.value;
+    return std::nullopt;
 }
 
-std::string ColorText(uint32_t color) {
-    if (color == kColorByLayer) return kByLayer;
-    if (color == kColorByBlock) return kByBlock;
-    if (color == kColorOfPen) return kPenColor;
-    const int index = NearestIndex(color);
-    if (ColorOfIndex(index) == color) return NameOfIndex(index);
-    char text[8];
-    std::snprintf(text, sizeof text, "#%06X", static_cast<unsigned>(TrueColorOf(color)));
-    return text;
+uint32_t ReadWord(const std::vector<PropertyWord>& words, const std::string& text) {
+    const std::optional<uint32_t> value = FindWord(words, text);
+    if (!value) Refuse(text, Listed(TextsOf(words)));
+    return *value;
 }
 
 uint32_t ReadColor(const std::string& text, bool ofBrush) {
-    if (IsSameName(text, kByLayer)) return kColorByLayer;
-    if (IsSameName(text, kByBlock)) return kColorByBlock;
-    if (ofBrush && IsSameName(text, kPenColor)) return kColorOfPen;
+    std::vector<PropertyWord> markers = WordsOf(PropertyMeaning::Color);
+    if (!ofBrush) markers.pop_back(); // that of the pen
+    if (const std::optional<uint32_t> marker = FindWord(markers, text)) return *marker;
     for (int index = 1; index <= kColorNumbers; ++index)
         if (IsSameName(text, NameOfIndex(index))) return ColorOfIndex(index);
     uint32_t rgb = 0;
     const char* const end = text.data() + text.size();
     if (text.size() == 7 && text[0] == '#' && std::from_chars(text.data() + 1, end, rgb, 16).ptr == end)
         return ColorOf(0, static_cast<int32_t>(rgb));
-    std::string allowed =
-        std::string(kByLayer) + ", " + kByBlock + ", " + (ofBrush ? std::string(kPenColor) + ", " : "");
+    std::vector<std::string> allowed = TextsOf(markers);
     for (int index = 1; index <= 7; ++index)
-        allowed += NameOfIndex(index) + ", ";
-    Refuse(text, allowed + "Color 8 to Color 255, #RRGGBB");
+        allowed.push_back(NameOfIndex(index));
+    Refuse(text, Listed(allowed) + ", Color 8 to Color 255, #RRGGBB");
+}
+
+uint32_t ReadTextStyle(const std::string& text) {
+    uint32_t bits = 0;
+    for (size_t at = 0; !IsSameName(text, TextStyleText(0)) && at <= text.size();) {
+        const size_t end = std::min(text.find('+', at), text.size());
+        bits |= ReadWord(WordsOf(PropertyMeaning::TextStyle), text.substr(at, end - at));
+        at = end + 1;
+    }
+    return bits;
+}
+
+std::string WholeText(const PropertyInfo& info, uint32_t value) {
+    if (info.meaning == PropertyMeaning::Color) return ColorText(value);
+    if (info.meaning == PropertyMeaning::TextStyle) return TextStyleText(value);
+    const char* word = WordOf(info.meaning, value);
+    return word ? word : std::to_string(value);
+}
+
+uint32_t ReadWhole(const PropertyInfo& info, const std::string& text) {
+    if (info.meaning == PropertyMeaning::Color) return ReadColor(text, info.part == PropertyPart::Brush);
+    if (info.meaning == PropertyMeaning::TextStyle) return ReadTextStyle(text);
+    return ReadWord(WordsOf(info.meaning), text);
 }
 
 std::string NumberText(double value) {
@@ -128,17 +129,61 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 
 } // namespace
 
-// Formats and parses the values of a property.
+// Places of values in a look.
+template <auto field>
+struct In {
+    template <class Of>
+    static auto& Get(Of& look) {
+        return look.*field;
+    }
+};
+template <auto field>
+struct InBrush {
+    template <class Of>
+    static auto& Get(Of& look) {
+        return look.brush.*field;
+    }
+};
+template <auto field>
+struct InText {
+    template <class Of>
+    static auto& Get(Of& look) {
+        return look.text.*field;
+    }
+};
+
+// How each property that has a group is shown and read.
 struct PropertyForms {
-    using Get = std::string (*)(const PropertyTexts&, const Look&);
-    using Set = void (*)(const PropertyTexts&, const std::string&, Look&);
+    using Get = std::string (*)(const PropertyTexts&, const PropertyInfo&, const Look&);
+    using Set = void (*)(const PropertyTexts&, const PropertyInfo&, const std::string&, Look&);
 
     const char* name;
     Get get;
     Set set;
 
     static const PropertyForms kAll[];
-    static const PropertyForms* Find(std::string_view name);
+    static const PropertyForms& Find(std::string_view name);
+
+    template <class Place>
+    static constexpr PropertyForms Whole(const char* name) {
+        return {name,
+                [](const PropertyTexts&, const PropertyInfo& info, const Look& look) {
+                    return WholeText(info, static_cast<uint32_t>(Place::Get(look)));
+                },
+                [](const PropertyTexts&, const PropertyInfo& info, const std::string& text, Look& look) {
+                    auto& value = Place::Get(look);
+                    value = static_cast<std::decay_t<decltype(value)>>(ReadWhole(info, text));
+                }};
+    }
+    template <class Place>
+    static constexpr PropertyForms Number(const char* name) {
+        return {
+            name,
+            [](const PropertyTexts&, const PropertyInfo&, const Look& look) { return NumberText(Place::Get(look)); },
+            [](const PropertyTexts&, const PropertyInfo&, const std::string& text, Look& look) {
+                Place::Get(look) = ReadNumber(text);
+            }};
+    }
 
     static const drawcore::LengthUnit& PaperUnit(const PropertyTexts& of) {
         return *drawcore::FindLengthUnit(of.units_.penWidthUnit);
@@ -152,24 +197,46 @@ struct PropertyForms {
             throw SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
         return millimeters;
     }
-    // Formats lengths with all digits, so that setting them again does not change them.
+    // Lengths are shown with all their digits: what is set from them is what they were.
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;
         return drawcore::WriteLength(units * unit.millimeters, unit, {of.units_.lengthSystem, kDigits, false});
     }
 
-    static std::string GetWidth(const PropertyTexts& of, const Look& look) {
-        if (look.width == kPenWidthByLayer) return kByLayer;
-        if (look.width == kPenWidthByBlock) return kByBlock;
+    static std::string GetLayer(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
+        return ToDisplayText(of.document_.At(look.layer).name);
+    }
+    static void SetLayer(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
+        const auto found = FindName<LayerIndex>(of.document_.layers, text);
+        if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
+        look.layer = *found;
+    }
+
+    static std::string GetSystem(const PropertyTexts&, const PropertyInfo& info, const Look& look) {
+        return WholeText(info, look.worldWidth ? kScaleWorld : kScalePaper);
+    }
+    // In drawing units a width has to be a number of its own.
+    static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+        look.worldWidth = ReadWhole(info, text) == kScaleWorld;
+        const bool inherits = look.worldWidth && look.width < 0;
+        if (inherits)
+            look.width = look.width == kPenWidthByLayer
+                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / kWeightsPerInch
+                             : 0;
+    }
+
+    static std::string GetWidth(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
+        if (look.width == kPenWidthByLayer) return ColorText(kColorByLayer);
+        if (look.width == kPenWidthByBlock) return ColorText(kColorByBlock);
         if (look.worldWidth) return LengthText(of, look.width);
         constexpr int kDigits = 6;
         return drawcore::WriteLength(look.width * kMillimetersPerInch, PaperUnit(of),
                                      {drawcore::LengthSystem::Decimal, kDigits, true});
     }
-    static void SetWidth(const PropertyTexts& of, const std::string& text, Look& look) {
-        const bool byLayer = IsSameName(text, kByLayer);
-        if (byLayer || IsSameName(text, kByBlock)) {
+    static void SetWidth(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
+        const bool byLayer = IsSameName(text, ColorText(kColorByLayer));
+        if (byLayer || IsSameName(text, ColorText(kColorByBlock))) {
             look.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
             look.worldWidth = false;
         } else if (look.worldWidth)
@@ -178,47 +245,28 @@ struct PropertyForms {
             look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
     }
 
-    // A width in drawing units must be a number rather than a marker.
-    static void SetSystem(const PropertyTexts& of, const std::string& text, Look& look) {
-        look.worldWidth = ValueOf(kSystems, text) != 0;
-        const bool inherits = look.worldWidth && look.width < 0;
-        if (inherits)
-            look.width = look.width == kPenWidthByLayer
-                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / kWeightsPerInch
-                             : 0;
+    static std::string GetLineType(const PropertyTexts& of, const PropertyInfo& info, const Look& look) {
+        if (look.lineType < LineTypeIndex::none) return ToDisplayText(of.document_.At(look.lineType).name);
+        return WholeText(info, look.lineType == LineTypeIndex::byLayer   ? kLineStyleByLayer
+                               : look.lineType == LineTypeIndex::byBlock ? kLineStyleByBlock
+                                                                         : kLineStyleNone);
     }
-
-    static std::string GetLineType(const PropertyTexts& of, const Look& look) {
-        if (look.lineType == LineTypeIndex::byLayer) return kByLayer;
-        if (look.lineType == LineTypeIndex::byBlock) return kByBlock;
-        if (look.lineType == LineTypeIndex::none) return kNoLine;
-        return ToDisplayText(of.document_.At(look.lineType).name);
-    }
-    static void SetLineType(const PropertyTexts& of, const std::string& text, Look& look) {
-        if (IsSameName(text, kByLayer))
-            look.lineType = LineTypeIndex::byLayer;
-        else if (IsSameName(text, kByBlock))
-            look.lineType = LineTypeIndex::byBlock;
-        else if (IsSameName(text, kNoLine))
-            look.lineType = LineTypeIndex::none;
+    static void SetLineType(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+        if (const std::optional<uint32_t> marker = FindWord(WordsOf(info.meaning), text))
+            look.lineType = *marker == kLineStyleByLayer   ? LineTypeIndex::byLayer
+                            : *marker == kLineStyleByBlock ? LineTypeIndex::byBlock
+                                                           : LineTypeIndex::none;
         else if (const auto found = FindName<LineTypeIndex>(of.document_.lineTypes, text))
             look.lineType = *found;
         else
-            Refuse(text, std::string(kByLayer) + ", " + kByBlock + ", " + kNoLine + ", " +
-                             Listed(NamesOf(of.document_.lineTypes)));
+            Refuse(text, Listed(TextsOf(WordsOf(info.meaning))) + ", " + Listed(NamesOf(of.document_.lineTypes)));
     }
 
-    static void SetLayer(const PropertyTexts& of, const std::string& text, Look& look) {
-        const auto found = FindName<LayerIndex>(of.document_.layers, text);
-        if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
-        look.layer = *found;
+    static std::string GetBrush(const PropertyTexts&, const PropertyInfo& info, const Look& look) {
+        return look.brush.style.empty() ? WholeText(info, kBrushStyleNone) : look.brush.style;
     }
-
-    static std::string GetBrush(const PropertyTexts&, const Look& look) {
-        return look.brush.style.empty() ? kNoBrush : look.brush.style;
-    }
-    static void SetBrush(const PropertyTexts& of, const std::string& text, Look& look) {
-        std::vector<std::string> allowed = {kNoBrush};
+    static void SetBrush(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+        std::vector<std::string> allowed = {WholeText(info, kBrushStyleNone)};
         const auto take = [&](const std::string& style, const std::vector<Hatch::PatternLine>& lines) {
             allowed.push_back(style);
             if (!IsSameName(style, text)) return false;
@@ -226,7 +274,7 @@ struct PropertyForms {
             look.brush.lines = lines;
             return true;
         };
-        if (IsSameName(text, kNoBrush)) {
+        if (IsSameName(text, allowed[0])) {
             look.brush.style.clear();
             look.brush.lines.clear();
             return;
@@ -238,81 +286,53 @@ struct PropertyForms {
         Refuse(text, Listed(allowed));
     }
 
-    static std::string GetAngle(const PropertyTexts& of, const Look& look) {
+    static std::string GetAngle(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
         constexpr int kDigits = 9;
         return drawcore::WriteAngle(look.brush.angle, {of.units_.angleSystem, kDigits});
     }
-    static void SetAngle(const PropertyTexts& of, const std::string& text, Look& look) {
+    static void SetAngle(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
         if (!drawcore::ReadAngle(text, of.units_.angleSystem, look.brush.angle))
             throw SaveError("'" + text + "' is no angle");
     }
 
-    static std::string GetEffects(const PropertyTexts&, const Look& look) {
-        std::string text;
-        for (const Choice& effect : kEffects)
-            if (look.text.style & effect.value) text += (text.empty() ? "" : "+") + std::string(effect.text);
-        return text.empty() ? kRegular : text;
-    }
-    static void SetEffects(const PropertyTexts&, const std::string& text, Look& look) {
-        look.text.style = 0;
-        for (size_t at = 0; !IsSameName(text, kRegular) && at <= text.size();) {
-            const size_t end = std::min(text.find('+', at), text.size());
-            look.text.style |= static_cast<uint16_t>(ValueOf(kEffects, text.substr(at, end - at)));
-            at = end + 1;
-        }
+    static std::string GetFont(const PropertyTexts&, const PropertyInfo&, const Look& look) { return look.text.font; }
+    static void SetFont(const PropertyTexts&, const PropertyInfo&, const std::string& text, Look& look) {
+        look.text.font = text;
     }
 
-    static void SetSize(const PropertyTexts& of, const std::string& text, Look& look) {
+    static std::string GetSize(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
+        return LengthText(of, look.text.height);
+    }
+    static void SetSize(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
         const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
         if (!(size > 0)) throw SaveError("a text has a height above 0");
         look.text.height = size;
     }
 };
 
-// In the order in which they are set: the unit of a width depends on its scale system.
+// In the order in which they are set: how a width is read depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
-    {kPropLayer,
-     [](const PropertyTexts& of, const Look& look) { return ToDisplayText(of.document_.At(look.layer).name); },
-     SetLayer},
-    {kPropPenColor, [](const PropertyTexts&, const Look& look) { return ColorText(look.color); },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.color = ReadColor(text, false); }},
-    {kPropScaleSystem, [](const PropertyTexts&, const Look& look) { return TextOf(kSystems, look.worldWidth); },
-     SetSystem},
+    {kPropLayer, GetLayer, SetLayer},
+    Whole<In<&Look::color>>(kPropPenColor),
+    {kPropScaleSystem, GetSystem, SetSystem},
     {kPropPenWidth, GetWidth, SetWidth},
     {kPropPenStyle, GetLineType, SetLineType},
-    {kPropPenScale, [](const PropertyTexts&, const Look& look) { return NumberText(look.lineScale); },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.lineScale = ReadNumber(text); }},
-    {kPropPenAlignment, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.dashesFitted); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.dashesFitted = ValueOf(kSwitch, text) != 0;
-     }},
+    Number<In<&Look::lineScale>>(kPropPenScale),
+    Whole<In<&Look::dashesFitted>>(kPropPenAlignment),
     {kPropBrushStyle, GetBrush, SetBrush},
-    {kPropBrushColor, [](const PropertyTexts&, const Look& look) { return ColorText(look.brush.color); },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.color = ReadColor(text, true); }},
-    {kPropBrushScale, [](const PropertyTexts&, const Look& look) { return NumberText(look.brush.scale); },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.scale = ReadNumber(text); }},
+    Whole<InBrush<&BrushLook::color>>(kPropBrushColor),
+    Number<InBrush<&BrushLook::scale>>(kPropBrushScale),
     {kPropBrushAngle, GetAngle, SetAngle},
-    {kPropHatchCross, [](const PropertyTexts&, const Look& look) { return TextOf(kSwitch, look.brush.cross); },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.brush.cross = ValueOf(kSwitch, text) != 0; }},
-    {kPropBrushDrawMode, [](const PropertyTexts&, const Look& look) { return TextOf(kDrawModes, look.brush.winding); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.brush.winding = ValueOf(kDrawModes, text) != 0;
-     }},
-    {kPropTextFont, [](const PropertyTexts&, const Look& look) { return look.text.font; },
-     [](const PropertyTexts&, const std::string& text, Look& look) { look.text.font = text; }},
-    {kPropTextSize, [](const PropertyTexts& of, const Look& look) { return LengthText(of, look.text.height); },
-     SetSize},
-    {kPropTextStyle, GetEffects, SetEffects},
-    {kPropTextFormat, [](const PropertyTexts&, const Look& look) { return TextOf(kFormats, look.text.format); },
-     [](const PropertyTexts&, const std::string& text, Look& look) {
-         look.text.format = static_cast<uint16_t>(ValueOf(kFormats, text));
-     }},
+    Whole<InBrush<&BrushLook::cross>>(kPropHatchCross),
+    Whole<InBrush<&BrushLook::winding>>(kPropBrushDrawMode),
+    {kPropTextFont, GetFont, SetFont},
+    {kPropTextSize, GetSize, SetSize},
+    Whole<InText<&TextLook::style>>(kPropTextStyle),
+    Whole<InText<&TextLook::format>>(kPropTextFormat),
 };
 
-const PropertyForms* PropertyForms::Find(std::string_view name) {
-    for (const PropertyForms& forms : kAll)
-        if (name == forms.name) return &forms;
-    return nullptr;
+const PropertyForms& PropertyForms::Find(std::string_view name) {
+    return *std::find_if(std::begin(kAll), std::end(kAll), [&](const PropertyForms& row) { return name == row.name; });
 }
 
 namespace {
@@ -322,21 +342,24 @@ const PropertyInfo& InfoOf(std::string_view name) {
                          [&](const PropertyInfo& info) { return IsSameName(info.name, name); });
 }
 
-// Of a property without a group. One that has no value has its default, which is written as nothing.
+bool IsWordOrNumber(const PropertyInfo& info) {
+    return !info.IsText() && info.meaning != PropertyMeaning::Block;
+}
+
+// Of a property without a group.
 std::string ExtendedText(const PropertyInfo& info, const Look& look) {
     const OwnValue* value = FindOwn(look.extended, info.name);
-    if (!value) return {};
-    if (value->numbers.empty()) return value->text;
-    const double number = value->numbers[0];
-    return info.meaning == PropertyMeaning::Switch ? TextOf(kSwitch, number != 0) : NumberText(number);
+    if (!value || value->numbers.empty()) return value ? value->text : "";
+    return info.IsReal() ? NumberText(value->numbers[0]) : WholeText(info, static_cast<uint32_t>(value->numbers[0]));
 }
 
 OwnValue ReadExtended(const Document& document, const PropertyInfo& info, const std::string& text) {
     if (info.meaning == PropertyMeaning::Block && !text.empty() && !FindName<BlockIndex>(document.blocks, text))
         Refuse(text, "the blocks " + Listed(NamesOf(document.blocks)));
-    if (info.IsText() || info.meaning == PropertyMeaning::Block) return {info.name, text, {}};
-    const double number = info.meaning == PropertyMeaning::Switch ? ValueOf(kSwitch, text) : ReadNumber(text);
-    if (number < info.low || number > info.high) throw SaveError("'" + text + "' is out of range");
+    if (!IsWordOrNumber(info)) return {info.name, text, {}};
+    const bool isWord = !WordsOf(info.meaning).empty();
+    const double number = isWord ? ReadWhole(info, text) : ReadNumber(text);
+    if (!isWord && (number < info.low || number > info.high)) throw SaveError("'" + text + "' is out of range");
     return {info.name, "", {number}};
 }
 
@@ -388,7 +411,7 @@ bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
 
 std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
     const PropertyInfo& info = InfoOf(name);
-    return info.hasDxfGroup ? PropertyForms::Find(info.name)->get(*this, look) : ExtendedText(info, look);
+    return info.hasDxfGroup ? PropertyForms::Find(info.name).get(*this, info, look) : ExtendedText(info, look);
 }
 
 std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& look) const {
@@ -400,7 +423,7 @@ void PropertyTexts::Set(std::string_view name, const std::string& text, Look& lo
     const PropertyInfo& info = InfoOf(name);
     try {
         if (info.hasDxfGroup)
-            PropertyForms::Find(info.name)->set(*this, text, look);
+            PropertyForms::Find(info.name).set(*this, info, text, look);
         else
             SetExtended(look, ReadExtended(document_, info, text));
         look.varied &= static_cast<uint8_t>(~VariedBit(info.name));

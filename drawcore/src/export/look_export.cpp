@@ -153,7 +153,7 @@ void LookExport::Write(const Graphic& graphic, size_t place) {
         const std::string name = info.name;
         const auto row =
             std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& some) { return name == some.name; });
-        if (info.hasDxfGroup)
+        if (row != std::end(kRows))
             row->put(*this, graphic, look);
         else
             dxf::SetExtended(look, ExtendedValue(graphic, info));

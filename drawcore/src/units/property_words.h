@@ -1,0 +1,26 @@
+// Words for values of properties, as the pages of the sheet show them: markers, choices, effects of texts, colors.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "orlo/host/words.h"
+
+namespace drawcore {
+
+struct PropertyWord {
+    uint32_t value;
+    const char* text;
+};
+
+// Returns the words for values of that meaning: choices, markers or, for text styles, bits.
+const std::vector<PropertyWord>& WordsOf(PropertyMeaning meaning);
+// Returns the word for a value; null if it has none.
+const char* WordOf(PropertyMeaning meaning, uint32_t value);
+
+// Returns "Bold+Underline"; "Regular" without effects.
+std::string TextStyleText(uint32_t bits);
+// Returns the word for a marker, the name of a numbered color, or "#RRGGBB".
+std::string ColorText(uint32_t color);
+
+} // namespace drawcore
