@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
-#include <type_traits>
+#include <cmath>
 
 #include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/fold_name.h"
@@ -93,12 +93,6 @@ std::string WholeText(const PropertyInfo& info, uint32_t value) {
     return word ? word : std::to_string(value);
 }
 
-uint32_t ReadWhole(const PropertyInfo& info, const std::string& text) {
-    if (info.meaning == PropertyMeaning::Color) return ReadColor(text, info.part == PropertyPart::Brush);
-    if (info.meaning == PropertyMeaning::TextStyle) return ReadTextStyle(text);
-    return ReadWord(WordsOf(info.meaning), text);
-}
-
 std::string NumberText(double value) {
     constexpr int kDigits = 12;
     return drawcore::DecimalText(value, kDigits);
@@ -110,6 +104,16 @@ double ReadNumber(const std::string& text) {
     if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
         throw SaveError("'" + text + "' is no number from 0 on");
     return value;
+}
+
+uint32_t ReadWhole(const PropertyInfo& info, const std::string& text) {
+    if (info.meaning == PropertyMeaning::Color) return ReadColor(text, info.part == PropertyPart::Brush);
+    if (info.meaning == PropertyMeaning::TextStyle) return ReadTextStyle(text);
+    const std::vector<PropertyWord>& words = WordsOf(info.meaning);
+    if (!words.empty()) return ReadWord(words, text);
+    const double number = ReadNumber(text);
+    if (number != std::floor(number) || number > info.high) throw SaveError("'" + text + "' is out of range");
+    return static_cast<uint32_t>(number);
 }
 
 template <class Index, class Thing>
@@ -129,30 +133,7 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 
 } // namespace
 
-// Places of values in a look.
-template <auto field>
-struct In {
-    template <class Of>
-    static auto& Get(Of& look) {
-        return look.*field;
-    }
-};
-template <auto field>
-struct InBrush {
-    template <class Of>
-    static auto& Get(Of& look) {
-        return look.brush.*field;
-    }
-};
-template <auto field>
-struct InText {
-    template <class Of>
-    static auto& Get(Of& look) {
-        return look.text.*field;
-    }
-};
-
-// How each property that has a group is shown and read.
+// How properties are shown and read that are more than a number or a text of a look.
 struct PropertyForms {
     using Get = std::string (*)(const PropertyTexts&, const PropertyInfo&, const Look&);
     using Set = void (*)(const PropertyTexts&, const PropertyInfo&, const std::string&, Look&);
@@ -162,28 +143,7 @@ struct PropertyForms {
     Set set;
 
     static const PropertyForms kAll[];
-    static const PropertyForms& Find(std::string_view name);
-
-    template <class Place>
-    static constexpr PropertyForms Whole(const char* name) {
-        return {name,
-                [](const PropertyTexts&, const PropertyInfo& info, const Look& look) {
-                    return WholeText(info, static_cast<uint32_t>(Place::Get(look)));
-                },
-                [](const PropertyTexts&, const PropertyInfo& info, const std::string& text, Look& look) {
-                    auto& value = Place::Get(look);
-                    value = static_cast<std::decay_t<decltype(value)>>(ReadWhole(info, text));
-                }};
-    }
-    template <class Place>
-    static constexpr PropertyForms Number(const char* name) {
-        return {
-            name,
-            [](const PropertyTexts&, const PropertyInfo&, const Look& look) { return NumberText(Place::Get(look)); },
-            [](const PropertyTexts&, const PropertyInfo&, const std::string& text, Look& look) {
-                Place::Get(look) = ReadNumber(text);
-            }};
-    }
+    static const PropertyForms* Find(std::string_view name);
 
     static const drawcore::LengthUnit& PaperUnit(const PropertyTexts& of) {
         return *drawcore::FindLengthUnit(of.units_.penWidthUnit);
@@ -286,53 +246,51 @@ struct PropertyForms {
         Refuse(text, Listed(allowed));
     }
 
-    static std::string GetAngle(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
+    static std::string GetPlain(const PropertyTexts& of, const PropertyInfo& info, const Look& look) {
+        const std::optional<double> number = NumberOf(look, info.name);
         constexpr int kDigits = 9;
-        return drawcore::WriteAngle(look.brush.angle, {of.units_.angleSystem, kDigits});
+        if (!number) return TextOf(look, info.name);
+        if (!info.IsReal()) return WholeText(info, static_cast<uint32_t>(*number));
+        if (info.meaning == PropertyMeaning::Length) return LengthText(of, *number);
+        if (info.meaning == PropertyMeaning::Angle)
+            return drawcore::WriteAngle(*number, {of.units_.angleSystem, kDigits});
+        return NumberText(*number);
     }
-    static void SetAngle(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
-        if (!drawcore::ReadAngle(text, of.units_.angleSystem, look.brush.angle))
-            throw SaveError("'" + text + "' is no angle");
+    static void SetPlain(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+        if (info.IsText()) return SetText(look, info.name, text);
+        if (info.meaning == PropertyMeaning::Block) {
+            if (!text.empty() && !FindName<BlockIndex>(of.document_.blocks, text))
+                Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
+            return SetText(look, info.name, text);
+        }
+        SetNumber(look, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadWhole(info, text));
     }
-
-    static std::string GetFont(const PropertyTexts&, const PropertyInfo&, const Look& look) { return look.text.font; }
-    static void SetFont(const PropertyTexts&, const PropertyInfo&, const std::string& text, Look& look) {
-        look.text.font = text;
-    }
-
-    static std::string GetSize(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
-        return LengthText(of, look.text.height);
-    }
-    static void SetSize(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
-        const double size = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
-        if (!(size > 0)) throw SaveError("a text has a height above 0");
-        look.text.height = size;
+    static double ReadReal(const PropertyTexts& of, const PropertyInfo& info, const std::string& text) {
+        if (info.meaning == PropertyMeaning::Angle) {
+            double angle = 0;
+            if (!drawcore::ReadAngle(text, of.units_.angleSystem, angle)) throw SaveError("'" + text + "' is no angle");
+            return angle;
+        }
+        const bool isLength = info.meaning == PropertyMeaning::Length;
+        const double value =
+            isLength ? ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters : ReadNumber(text);
+        if (value < info.low || value > info.high)
+            throw SaveError(info.name == std::string_view(kPropTextSize) ? "a text has a height above 0"
+                                                                         : "'" + text + "' is out of range");
+        return value;
     }
 };
 
-// In the order in which they are set: how a width is read depends on its scale system.
 const PropertyForms PropertyForms::kAll[] = {
-    {kPropLayer, GetLayer, SetLayer},
-    Whole<In<&Look::color>>(kPropPenColor),
-    {kPropScaleSystem, GetSystem, SetSystem},
-    {kPropPenWidth, GetWidth, SetWidth},
-    {kPropPenStyle, GetLineType, SetLineType},
-    Number<In<&Look::lineScale>>(kPropPenScale),
-    Whole<In<&Look::dashesFitted>>(kPropPenAlignment),
+    {kPropLayer, GetLayer, SetLayer},      {kPropScaleSystem, GetSystem, SetSystem},
+    {kPropPenWidth, GetWidth, SetWidth},   {kPropPenStyle, GetLineType, SetLineType},
     {kPropBrushStyle, GetBrush, SetBrush},
-    Whole<InBrush<&BrushLook::color>>(kPropBrushColor),
-    Number<InBrush<&BrushLook::scale>>(kPropBrushScale),
-    {kPropBrushAngle, GetAngle, SetAngle},
-    Whole<InBrush<&BrushLook::cross>>(kPropHatchCross),
-    Whole<InBrush<&BrushLook::winding>>(kPropBrushDrawMode),
-    {kPropTextFont, GetFont, SetFont},
-    {kPropTextSize, GetSize, SetSize},
-    Whole<InText<&TextLook::style>>(kPropTextStyle),
-    Whole<InText<&TextLook::format>>(kPropTextFormat),
 };
 
-const PropertyForms& PropertyForms::Find(std::string_view name) {
-    return *std::find_if(std::begin(kAll), std::end(kAll), [&](const PropertyForms& row) { return name == row.name; });
+const PropertyForms* PropertyForms::Find(std::string_view name) {
+    for (const PropertyForms& forms : kAll)
+        if (name == forms.name) return &forms;
+    return nullptr;
 }
 
 namespace {
@@ -340,27 +298,6 @@ namespace {
 const PropertyInfo& InfoOf(std::string_view name) {
     return *std::find_if(std::begin(kPropertyList), std::end(kPropertyList),
                          [&](const PropertyInfo& info) { return IsSameName(info.name, name); });
-}
-
-bool IsWordOrNumber(const PropertyInfo& info) {
-    return !info.IsText() && info.meaning != PropertyMeaning::Block;
-}
-
-// Of a property without a group.
-std::string ExtendedText(const PropertyInfo& info, const Look& look) {
-    const OwnValue* value = FindOwn(look.extended, info.name);
-    if (!value || value->numbers.empty()) return value ? value->text : "";
-    return info.IsReal() ? NumberText(value->numbers[0]) : WholeText(info, static_cast<uint32_t>(value->numbers[0]));
-}
-
-OwnValue ReadExtended(const Document& document, const PropertyInfo& info, const std::string& text) {
-    if (info.meaning == PropertyMeaning::Block && !text.empty() && !FindName<BlockIndex>(document.blocks, text))
-        Refuse(text, "the blocks " + Listed(NamesOf(document.blocks)));
-    if (!IsWordOrNumber(info)) return {info.name, text, {}};
-    const bool isWord = !WordsOf(info.meaning).empty();
-    const double number = isWord ? ReadWhole(info, text) : ReadNumber(text);
-    if (!isWord && (number < info.low || number > info.high)) throw SaveError("'" + text + "' is out of range");
-    return {info.name, "", {number}};
 }
 
 } // namespace
@@ -384,13 +321,14 @@ void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
 
 std::vector<std::string> PropertyTexts::Names() {
     std::vector<std::string> names;
-    for (const PropertyForms& forms : PropertyForms::kAll)
-        names.push_back(forms.name);
     for (const PropertyInfo& info : kPropertyList)
-        if (!info.hasDxfGroup) names.push_back(info.name);
-    std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        return FindPropertyInfo(a)->part < FindPropertyInfo(b)->part;
-    });
+        names.push_back(info.name);
+    const auto place = [](const std::string& name) {
+        const PropertyInfo& info = *FindPropertyInfo(name);
+        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
+    };
+    std::stable_sort(names.begin(), names.end(),
+                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
     return names;
 }
 
@@ -411,7 +349,8 @@ bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
 
 std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
     const PropertyInfo& info = InfoOf(name);
-    return info.hasDxfGroup ? PropertyForms::Find(info.name).get(*this, info, look) : ExtendedText(info, look);
+    const PropertyForms* forms = PropertyForms::Find(info.name);
+    return forms ? forms->get(*this, info, look) : PropertyForms::GetPlain(*this, info, look);
 }
 
 std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& look) const {
@@ -422,10 +361,8 @@ std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& loo
 void PropertyTexts::Set(std::string_view name, const std::string& text, Look& look) const {
     const PropertyInfo& info = InfoOf(name);
     try {
-        if (info.hasDxfGroup)
-            PropertyForms::Find(info.name).set(*this, info, text, look);
-        else
-            SetExtended(look, ReadExtended(document_, info, text));
+        const PropertyForms* forms = PropertyForms::Find(info.name);
+        (forms ? forms->set : PropertyForms::SetPlain)(*this, info, text, look);
         look.varied &= static_cast<uint8_t>(~VariedBit(info.name));
     } catch (const SaveError& error) {
         throw SaveError(std::string(info.name) + ": " + error.what());

@@ -98,19 +98,11 @@ constexpr OwnRow kOwnRows[] = {
      [](const OwnValue& own, const Document& document, const Entity&, Look& look) {
          look.lineType = FindLineType(document, own.text);
      }},
-    {kPropPenScale, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (own.numbers[0] >= 0) look.lineScale = own.numbers[0];
-     }},
     {kPropPenWidth, 3,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
          if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
          look.width = own.numbers[0];
          look.worldWidth = own.numbers[1] != 0;
-     }},
-    {kPropPenAlignment, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (IsBit(own.numbers[0])) look.dashesFitted = own.numbers[0] != 0;
      }},
     {kPropBrushStyle, 0,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
@@ -128,36 +120,28 @@ constexpr OwnRow kOwnRows[] = {
          look.brush.color = color;
          if (inGroups) look.color = ToColor(own.numbers[1], look.color);
      }},
-    {kPropBrushScale, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (own.numbers[0] >= 0) look.brush.scale = own.numbers[0];
-     }},
     {kPropBrushAngle, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
          if (own.numbers.size() > 1 && own.numbers[1] != look.brush.angle) return;
          look.brush.angle = own.numbers[0];
      }},
-    {kPropHatchCross, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (IsBit(own.numbers[0])) look.brush.cross = own.numbers[0] != 0;
-     }},
-    {kPropBrushDrawMode, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (IsBit(own.numbers[0])) look.brush.winding = own.numbers[0] != 0;
-     }},
-    {kPropTextFont, 0,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) { look.text.font = own.text; }},
     {kPropTextStyle, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
          if (own.numbers[0] >= 0 && own.numbers[0] <= UINT16_MAX)
              look.text.style |= static_cast<uint16_t>(own.numbers[0]);
      }},
-    {kPropTextFormat, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (own.numbers[0] >= kTextLeft && own.numbers[0] <= kTextRight)
-             look.text.format = static_cast<uint16_t>(own.numbers[0]);
-     }},
 };
+
+// Properties with groups whose own values are set as they are, as far as they are within the limits.
+constexpr const char* kPlain[] = {kPropPenScale,      kPropPenAlignment, kPropBrushScale, kPropHatchCross,
+                                  kPropBrushDrawMode, kPropTextFont,     kPropTextFormat};
+
+void ApplyPlain(const OwnValue& own, const PropertyInfo& property, Look& look) {
+    if (property.IsText() || property.meaning == PropertyMeaning::Block) return SetText(look, property.name, own.text);
+    const double number = own.numbers.empty() ? NAN : own.numbers[0];
+    const bool isOfType = property.IsReal() || number == std::floor(number);
+    if (isOfType && number >= property.low && number <= property.high) SetNumber(look, property.name, number);
+}
 
 } // namespace
 
@@ -179,12 +163,12 @@ Look LookOf(const Document& document, const Entity& entity) {
         const OwnValue* own = FindOwn(entity, row.name);
         if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, look);
     }
-    for (const PropertyInfo& property : kPropertyList) {
-        const OwnValue* own = property.hasDxfGroup ? nullptr : FindOwn(entity, property.name);
-        if (!own) continue;
-        const bool isText = property.IsText() || property.meaning == PropertyMeaning::Block;
-        if (isText) SetExtended(look, {own->name, own->text, {}});
-        if (!isText && !own->numbers.empty()) SetExtended(look, {own->name, "", {own->numbers[0]}});
+    for (const OwnValue& own : *entity.own) {
+        const PropertyInfo* property = FindPropertyInfo(own.name);
+        const auto isRow = [&](const char* name) { return own.name == name; };
+        if (!property || FindOwn(entity, own.name) != &own) continue; // of two the first counts
+        if (!property->hasDxfGroup || std::any_of(std::begin(kPlain), std::end(kPlain), isRow))
+            ApplyPlain(own, *property, look);
     }
     return look;
 }
@@ -197,13 +181,6 @@ const OwnValue* FindOwn(const OwnData& data, std::string_view name) {
 
 const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
     return entity.own ? FindOwn(*entity.own, name) : nullptr;
-}
-
-void SetExtended(Look& look, OwnValue value) {
-    const auto at = std::lower_bound(look.extended.begin(), look.extended.end(), value,
-                                     [](const OwnValue& a, const OwnValue& b) { return a.name < b.name; });
-    const auto from = at != look.extended.end() && at->name == value.name ? look.extended.erase(at) : at;
-    if (!value.text.empty() || !value.numbers.empty()) look.extended.insert(from, std::move(value));
 }
 
 bool HasOneWidth(const Polyline& polyline) {

@@ -56,6 +56,12 @@ Look LookByGroups(const Document& document, const Entity& entity);
 // Returns the value of that name; null if there is none.
 const OwnValue* FindOwn(const OwnData& data, std::string_view name);
 const OwnValue* FindOwn(const Entity& entity, std::string_view name);
+// The number or text of a property, given by its name: of a color, factor, length or switch, or in Look::extended.
+// NumberOf returns nothing for other properties.
+std::optional<double> NumberOf(const Look& look, std::string_view property);
+std::string TextOf(const Look& look, std::string_view property);
+void SetNumber(Look& look, const char* property, double value);
+void SetText(Look& look, const char* property, const std::string& text);
 // Sets a value of Look::extended; an empty one is removed.
 void SetExtended(Look& look, OwnValue value);
 

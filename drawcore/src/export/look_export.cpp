@@ -67,53 +67,24 @@ dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
     return index;
 }
 
-// How each property that has a group is said in the terms of a file.
+// How properties are said that are more than a number or a text.
 struct LookExport::Row {
     const char* name;
     void (*put)(LookExport& by, const Graphic& graphic, dxf::Look& look);
 };
 
-namespace {
-
-const TextState& StateOf(const Graphic& text) {
-    return static_cast<const TextGraphic&>(text).state;
-}
-
-} // namespace
-
 const LookExport::Row LookExport::kRows[] = {
     {kPropLayer,
      [](LookExport& by, const Graphic& graphic, dxf::Look& look) { look.layer = by.LayerOf(graphic.layer); }},
-    {kPropPenColor, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.color = graphic.GetPen().color; }},
     {kPropPenStyle, [](LookExport& by, const Graphic& graphic,
                        dxf::Look& look) { look.lineType = by.LineTypeOf(graphic.GetPen().style); }},
-    {kPropPenScale,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.lineScale = graphic.GetPen().scale; }},
     {kPropPenWidth, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.width = graphic.GetPen().width; }},
     {kPropScaleSystem, [](LookExport&, const Graphic& graphic,
                           dxf::Look& look) { look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld; }},
-    {kPropPenAlignment,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.dashesFitted = graphic.GetPen().alignment; }},
     {kPropBrushStyle,
      [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetBrushStyle(graphic, look.brush); }},
-    {kPropBrushColor,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.color = graphic.GetBrush().color; }},
-    {kPropBrushScale,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.scale = graphic.GetBrush().scale; }},
-    {kPropBrushAngle,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.angle = graphic.GetBrush().angle; }},
-    {kPropHatchCross,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.brush.cross = graphic.GetBrush().cross; }},
-    {kPropBrushDrawMode, [](LookExport&, const Graphic& graphic,
-                            dxf::Look& look) { look.brush.winding = graphic.GetBrush().drawMode != 0; }},
-    {kPropTextFont, [](LookExport&, const Graphic& graphic,
-                       dxf::Look& look) { look.text.font = Utf8FromCodePage(StateOf(graphic).font); }},
     {kPropTextSize,
      [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.height = SeenHeight(graphic); }},
-    {kPropTextStyle,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.style = StateOf(graphic).style; }},
-    {kPropTextFormat,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.format = StateOf(graphic).format; }},
 };
 
 void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const {
@@ -124,20 +95,17 @@ void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) con
     look.lines = style ? FileLines(*style) : std::vector<dxf::Hatch::PatternLine>();
 }
 
-dxf::OwnValue LookExport::ExtendedValue(const Graphic& graphic, const PropertyInfo& info) const {
+void LookExport::SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Look& look) const {
     const StoredProperty stored = GetStored(graphic, static_cast<size_t>(&info - kPropertyList));
-    dxf::OwnValue value;
-    value.name = info.name;
-    if (const auto* text = std::get_if<std::string>(&stored)) value.text = Utf8FromCodePage(*text);
-    if (const auto* real = std::get_if<double>(&stored)) value.numbers = {*real};
+    if (const auto* text = std::get_if<std::string>(&stored)) dxf::SetText(look, info.name, Utf8FromCodePage(*text));
+    if (const auto* real = std::get_if<double>(&stored)) dxf::SetNumber(look, info.name, *real);
     const auto* whole = std::get_if<int64_t>(&stored);
     if (whole && info.meaning == PropertyMeaning::Block) {
         const Block* block = drawing_.Blocks() ? drawing_.Blocks()->At(static_cast<Id>(*whole)) : nullptr;
-        value.text = block ? Utf8FromCodePage(block->name) : "";
+        dxf::SetText(look, info.name, block ? Utf8FromCodePage(block->name) : "");
     } else if (whole) {
-        value.numbers = {static_cast<double>(*whole)};
+        dxf::SetNumber(look, info.name, static_cast<double>(*whole));
     }
-    return value;
 }
 
 void LookExport::Write(const Graphic& graphic, size_t place) {
@@ -150,14 +118,13 @@ void LookExport::Write(const Graphic& graphic, size_t place) {
     dxf::Look look = dxf::LookOf(known_, entity);
     for (const size_t property : comparison_.DifferentProperties(graphic, shown)) {
         const PropertyInfo& info = kPropertyList[property];
-        const std::string name = info.name;
-        const auto row =
-            std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& some) { return name == some.name; });
+        const auto* row = std::find_if(std::begin(kRows), std::end(kRows),
+                                       [&](const Row& some) { return info.name == std::string_view(some.name); });
         if (row != std::end(kRows))
             row->put(*this, graphic, look);
         else
-            dxf::SetExtended(look, ExtendedValue(graphic, info));
-        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(name));
+            SetPlain(graphic, info, look);
+        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(info.name));
     }
     dxf::EntityPlace wanted;
     dxf::AxisEnds ends;

@@ -31,7 +31,7 @@ private:
     static const Row kRows[];
 
     void SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const;
-    dxf::OwnValue ExtendedValue(const Graphic& graphic, const PropertyInfo& info) const;
+    void SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Look& look) const;
 
     const Drawing& drawing_;
     dxf::DrawingPatch& patch_;
