@@ -2,7 +2,6 @@
 
 #include "demo/demo_app.h"
 
-#include "demo/tour/round_trip.h"
 #include "demo/tour/tour.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/settings.h"
@@ -27,7 +26,7 @@ BOOL CDemoApp::InitInstance() {
     ::PropPageInit();
     ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
 
-    if (IsPlayed()) { // like on the first start by a user
+    if (!m_options.tourFolder.empty()) { // like on the first start by a user
         Settings::UseKey(L"Software\\Orlo\\Demo Tour");
         Settings::DeleteAll();
     }
@@ -42,17 +41,9 @@ BOOL CDemoApp::InitInstance() {
 }
 
 int CDemoApp::Run() {
-    if (!IsPlayed()) return CWinApp::Run();
-    const bool played = m_options.checked.empty() ? Tour(*Frame(), m_options.tourFolder).Play(m_options.drawing)
-                                                  : RoundTrip(*Frame()).Check(m_options.checked);
-    Frame()->DestroyWindow();
+    if (m_options.tourFolder.empty()) return CWinApp::Run();
+    auto* frame = static_cast<CMainFrame*>(m_pMainWnd);
+    const bool played = Tour(*frame, m_options.tourFolder).Play(m_options.drawing);
+    frame->DestroyWindow();
     return ExitInstance() != 0 || !played;
-}
-
-bool CDemoApp::IsPlayed() const {
-    return !m_options.tourFolder.empty() || !m_options.checked.empty();
-}
-
-CMainFrame* CDemoApp::Frame() const {
-    return static_cast<CMainFrame*>(m_pMainWnd);
 }

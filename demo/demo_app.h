@@ -4,14 +4,10 @@
 #include <afxwin.h>
 
 #include <string>
-#include <vector>
-
-class CMainFrame;
 
 struct DemoOptions {
-    std::string drawing;              // empty for none
-    std::string tourFolder;           // empty for no tour
-    std::vector<std::string> checked; // drawings to edit on all pages, with undo
+    std::string drawing;    // empty for none
+    std::string tourFolder; // empty for no tour
 };
 
 class CDemoApp : public CWinApp {
@@ -24,9 +20,6 @@ public:
     int Run() override;
 
 private:
-    CMainFrame* Frame() const;
-    bool IsPlayed() const; // by the tour or the check instead of a user
-
     DemoOptions m_options;
 };
 

@@ -46,10 +46,6 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     usage.add_option("drawing", options.drawing, "DXF drawing to open");
     usage.add_option("--tour", options.tourFolder, "play a tour over the drawing, with pictures in this folder")
         ->type_name("FOLDER");
-    usage
-        .add_option("--check", options.checked,
-                    "change something on every page over all of each drawing, take it back, and compare")
-        ->type_name("FILE...");
     try {
         std::vector<std::string> arguments = Arguments();
         std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects

@@ -26,17 +26,19 @@ check_drawings() {
     local files=() file
     for file in "$@"; do files+=("$(cd "$ORLO_CALLER_DIR" && for_windows "$file")"); done
     set --
+    program=$PWD/build/bin/check_drawings.exe
+    targets=(check_drawings keeper)
     source run.d/build.sh
     wine_session own
     managed N
     local status=0
-    wine "$program" --check "${files[@]}" || status=$?
+    wine "$program" "${files[@]}" || status=$?
     exit $status
 }
 
 # Sets whether a window manager handles the windows (Y or N); without one they would wait for it.
 managed() {
-    wine reg add 'HKCU\Software\Wine\AppDefaults\demo.exe\X11 Driver' /v Managed /d "$1" /f >/dev/null
+    wine reg add "HKCU\\Software\\Wine\\AppDefaults\\${program##*/}\\X11 Driver" /v Managed /d "$1" /f >/dev/null
 }
 
 # Wine has the dialogs' font in a few sizes only. A Wine prefix of the viewer's own replaces it by one that is as wide

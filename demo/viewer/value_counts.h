@@ -1,4 +1,4 @@
-// Values of properties as texts, and how many graphics have each.
+// Values of properties as text, and the number of graphics that have each.
 #pragma once
 
 #include <cstdint>
@@ -12,13 +12,13 @@ std::string PropertyText(GraphicStruct* graphic, const char* property);
 // Returns a whole number as the value of a property: the name of a color or of a layer.
 std::string ValueText(DrawingStruct* drawing, const char* property, uint32_t value);
 
-// So many graphics have a value.
+// A value and the number of graphics that have it.
 struct ValueCount {
     std::string value;
     int count;
 };
 
-// The values that graphics have of a property (of its bits in the mask), those that occur most first. A color by layer
-// is told with the layer's.
+// Returns the values of a property (only its bits in the mask) and their numbers of graphics, most frequent first. A
+// color by layer includes the layer's color.
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
                                     const char* property, uint32_t mask = ~uint32_t{0});

@@ -1,6 +1,6 @@
 // Edits drawings on all pages and undoes the edits.
 
-#include "demo/tour/round_trip.h"
+#include "demo/round_trip.h"
 
 #include <stdexcept>
 
