@@ -50,11 +50,6 @@ size_t WriteSome(NativeFile file, const char* bytes, size_t size) {
     return ::WriteFile(file, bytes, static_cast<DWORD>(size), &done, nullptr) ? done : 0;
 }
 #else
-OpenFile Open(const std::filesystem::path& path, int access) {
-    // Does not wait for the writer of a pipe.
-    return OpenFile(::open(path.c_str(), access | O_CLOEXEC | O_NONBLOCK));
-}
-
 size_t ReadSome(NativeFile file, uint64_t offset, void* buffer, size_t size) {
     ssize_t done;
     do
@@ -90,14 +85,30 @@ OpenFile OpenShared(const std::filesystem::path& path, unsigned long access, uns
 }
 #endif
 
-OpenFile OpenToRead(const std::filesystem::path& path) {
+namespace {
+
 #ifdef _WIN32
-    OpenFile file = OpenShared(path, GENERIC_READ);
+constexpr unsigned long kToRead = GENERIC_READ, kToWrite = GENERIC_WRITE;
 #else
-    OpenFile file = Open(path, O_RDONLY);
+constexpr int kToRead = O_RDONLY, kToWrite = O_WRONLY;
+
+// Does not wait for the writer of a pipe.
+OpenFile OpenShared(const std::filesystem::path& path, int access) {
+    return OpenFile(::open(path.c_str(), access | O_CLOEXEC | O_NONBLOCK));
+}
 #endif
+
+template <class Access>
+OpenFile OpenExisting(const std::filesystem::path& path, Access access) {
+    OpenFile file = OpenShared(path, access);
     if (!file) FailToOpen(path);
     return file;
+}
+
+} // namespace
+
+OpenFile OpenToRead(const std::filesystem::path& path) {
+    return OpenExisting(path, kToRead);
 }
 
 OpenFile OpenAgainstWriters(const std::filesystem::path& path) {
@@ -115,13 +126,7 @@ OpenFile OpenAgainstWriters(const std::filesystem::path& path) {
 }
 
 OpenFile OpenToWrite(const std::filesystem::path& path) {
-#ifdef _WIN32
-    OpenFile file = OpenShared(path, GENERIC_WRITE);
-#else
-    OpenFile file = Open(path, O_WRONLY);
-#endif
-    if (!file) FailToOpen(path);
-    return file;
+    return OpenExisting(path, kToWrite);
 }
 
 uint64_t SizeOf(NativeFile file) {

@@ -35,18 +35,10 @@ public:
     }
 };
 
-template <class Visit>
-void ForEach(GraphicStruct* set, Visit visit) {
-    uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, kAllGraphics); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, kAllGraphics))
-        visit(graphic);
-}
-
 // Makes only the host calls of a merge.
 double BareLoop(GraphicStruct* set) {
     double sum = 0;
-    ForEach(set, [&](GraphicStruct* graphic) {
+    for (GraphicStruct* graphic : orlo::host::Members(set)) {
         int cookie = 0;
         VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
         for (int i = 1; i < 4; ++i) {
@@ -54,18 +46,18 @@ double BareLoop(GraphicStruct* set) {
             vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
         }
         sum += vertex->x;
-    });
+    }
     return sum;
 }
 
 // Also computes the parts of every insertion.
 double PartsLoop(GraphicStruct* set) {
     double sum = 0;
-    ForEach(set, [&](GraphicStruct* graphic) {
+    for (GraphicStruct* graphic : orlo::host::Members(set)) {
         InsertParts parts{};
         ::InsertGetParts(graphic, &parts);
         sum += parts.rotation[2];
-    });
+    }
     return sum;
 }
 

@@ -11,6 +11,7 @@
 #include "bench/sheet/crowd.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/memory.h"
+#include "orlo/host/walk.h"
 #include "support/test_sheet.h"
 
 namespace {
@@ -20,9 +21,7 @@ constexpr int kRounds = 5;
 // Makes only the host calls of a merge or a write.
 template <class Visit>
 void BareLoop(GraphicStruct* set, const char* name, Visit visit) {
-    uint32_t position;
-    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, kAllGraphics); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, kAllGraphics)) {
+    for (GraphicStruct* graphic : orlo::host::Members(set)) {
         int32_t number;
         const PropertyTable* table = ::GraphicGetVtbl(graphic);
         if (table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number)) visit(graphic, table, number);

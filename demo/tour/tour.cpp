@@ -5,10 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 
-#include "demo/automation/control_text.h"
 #include "demo/automation/drawing_state.h"
 #include "demo/automation/sheet_pages.h"
 #include "demo/tour/page_edits.h"
@@ -17,9 +15,6 @@
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/resource.h"
-#include "orlo/host/drawing.h"
-#include "orlo/host/style.h"
-#include "orlo/resources/resource.h"
 
 namespace {
 
@@ -28,34 +23,12 @@ constexpr int kBandMargin = 8;   // pixels by which the selection window is larg
 
 constexpr int kWizardNext = 101;
 
-// Orange, cyan, green: the first one that is listed and not already used.
-constexpr COLORREF kColors[] = {RGB(255, 127, 0), RGB(0, 255, 255), RGB(0, 255, 0)};
-
-int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
-}
-
-// Items of style controls begin with eight hexadecimal digits and a tab.
-unsigned long KeyOf(const std::string& item) {
-    return std::strtoul(item.c_str(), nullptr, 16);
-}
-
-std::string NameOf(const std::string& item) {
-    return item.substr(item.find('\t') + 1);
-}
-
 // Returns "block-insertion" for "Block Insertion".
 std::string FileNameOf(const std::string& title) {
     std::string name;
     for (const char character : title)
         name += character == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
     return name;
-}
-
-CPoint DropButton(HWND combo) {
-    CRect client;
-    ::GetClientRect(combo, client);
-    return CPoint(client.right - 8, client.Height() / 2);
 }
 
 } // namespace
@@ -169,7 +142,9 @@ void Tour::EditPen() {
                     [this](HWND sheet) {
                         TakePicture("general-page");
                         OpenPage(sheet, "Pen");
-                        EditPenPage(sheet);
+                        TakePicture("pen-page");
+                        FindPageEdit("Pen")->edit(m_user, ActivePageOf(sheet));
+                        TakePicture("pen-page-edited");
                         Report("OK.");
                         m_user.Click(::GetDlgItem(sheet, IDOK));
                     });
@@ -247,80 +222,6 @@ void Tour::ShowPaneAndLayers() {
                         TakePicture("layers");
                         m_user.Key(VK_ESCAPE);
                     });
-}
-
-void Tour::EditPenPage(HWND sheet) {
-    const HWND page = ActivePageOf(sheet);
-    Report("Pen page.");
-    TakePicture("pen-page");
-    PickColor(page);
-    PickPaperScale(page);
-    PickWidth(page);
-    PickStyle(page);
-    TakePicture("pen-page-edited");
-}
-
-void Tour::PickColor(HWND page) {
-    const HWND combo = ::GetDlgItem(page, IDC_COLOR);
-    const int now = Send(combo, CB_GETCURSEL);
-    int wanted = -1;
-    for (const COLORREF color : kColors) {
-        for (int i = 0; wanted < 0 && i < Send(combo, CB_GETCOUNT); ++i)
-            if (i != now && KeyOf(ComboItem(combo, i)) == color) wanted = i;
-    }
-    if (wanted < 0) return Report("  no other color is listed");
-    m_user.Click(combo, DropButton(combo));
-    m_user.Keys(VK_HOME, 1);
-    m_user.Keys(VK_DOWN, wanted);
-    TakePicture("color-list");
-    m_user.Key(VK_RETURN);
-    Report("  color: " + NameOf(ComboItem(combo, Send(combo, CB_GETCURSEL))));
-}
-
-// A width then has the same length on paper for the whole selection.
-void Tour::PickPaperScale(HWND page) {
-    const HWND combo = ::GetDlgItem(page, IDC_SCALE_SYSTEM);
-    m_user.Click(combo, DropButton(combo));
-    m_user.Keys(VK_HOME, 1);
-    m_user.Keys(VK_DOWN, 1);
-    m_user.Key(VK_RETURN);
-    Report("  width scaling: " + ComboItem(combo, Send(combo, CB_GETCURSEL)));
-}
-
-void Tour::PickWidth(HWND page) {
-    const HWND combo = ::GetDlgItem(page, IDC_PEN_WIDTH);
-    const int now = Send(combo, CB_GETCURSEL), count = Send(combo, CB_GETCOUNT);
-    m_user.Click(combo, DropButton(combo));
-    int wanted = -1;
-    for (int i = 0; i < count; ++i)
-        if (i != now && ComboItem(combo, i).find("0.7") == 0) wanted = i;
-    if (wanted >= 0) {
-        m_user.Keys(VK_HOME, 1); // to the beginning of the text
-        m_user.Keys(now > wanted ? VK_UP : VK_DOWN, std::abs(wanted - now));
-        TakePicture("width-list");
-        m_user.Key(VK_RETURN);
-    } else {
-        m_user.Key(VK_ESCAPE);
-        m_user.Type("0.7");
-    }
-    Report("  width: " + WindowText(combo));
-}
-
-void Tour::PickStyle(HWND page) {
-    const HWND list = ::GetDlgItem(page, IDC_LINE_STYLE_LIST);
-    TableStruct* styles = ::DrawingGetTable(m_frame.GetDocument()->Drawing(), kTableLineStyles);
-    const int now = Send(list, LB_GETCURSEL), count = Send(list, LB_GETCOUNT);
-    int wanted = -1;
-    for (int i = count - 1; i >= 0; --i) { // the first one with dashes, or else any
-        if (i == now) continue;
-        const bool dashed = ::LineStyleGetDLItems(styles, static_cast<uint16_t>(KeyOf(ListItem(list, i)))) > 1;
-        if (dashed || wanted < 0) wanted = i;
-    }
-    if (wanted < 0) return Report("  no other line style is listed");
-    m_user.Click(list, CPoint(10, 8));
-    m_user.Keys(VK_HOME, 1);
-    m_user.Keys(VK_DOWN, wanted);
-    Report("  line style: " + NameOf(ListItem(list, Send(list, LB_GETCURSEL))));
 }
 
 bool Tour::ReportChanges(const DrawingState& before, const DrawingState& after) {

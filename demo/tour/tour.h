@@ -32,12 +32,7 @@ private:
     void SaveCopy();
     void ShowPaneAndLayers();
     void EditPen();
-    void EditPenPage(HWND sheet);
     void OpenPage(HWND sheet, const std::string& title);
-    void PickColor(HWND page);
-    void PickPaperScale(HWND page);
-    void PickWidth(HWND page);
-    void PickStyle(HWND page);
     bool ReportChanges(const DrawingState& before, const DrawingState& after);
 
     CMainFrame& m_frame;

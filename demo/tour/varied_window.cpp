@@ -1,17 +1,11 @@
-// Finds an interesting part of a drawing.
-//
-// The drawing is divided into square cells of several sizes, each grid again shifted by half a cell. A graphic counts
-// for a cell that contains it completely. Of the cells with few enough graphics to be distinguishable, the one with the
-// most different appearances is used, then the largest.
+// Finds an interesting part of a drawing: graphics around its middle, until enough of them look different.
 
 #include "demo/tour/varied_window.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <map>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "demo/viewer/document.h"
@@ -20,77 +14,43 @@
 
 namespace {
 
-constexpr int kCuts[] = {2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64}; // number of cells along the longer side of the drawing
-constexpr int kFewest = 2, kMost = 40;                           // number of graphics in a cell
-
-struct Item {
-    WorldBox box;
-    std::string look;
-};
-
-struct Cell {
-    WorldBox box; // extents of the contents
-    int graphics = 0;
-    std::set<std::string> looks;
-};
+constexpr size_t kDifferent = 4, kMost = 40; // number of appearances, and of graphics
+constexpr double kLargest = 0.25;            // size of a graphic, as a fraction of the drawing
 
 bool HasPenPage(GraphicStruct* graphic) {
     if (graphic->bType == kGraphicPenBrush) return true;
     return graphic->bType == kGraphicVertices && !::GraphicGetIsGroup(graphic) && !(graphic->dwFlags & kFlagNoPenBrush);
 }
 
-std::vector<Item> ItemsOf(const Document& document) {
-    std::vector<Item> items;
-    for (GraphicStruct* graphic : document.Selectable()) {
-        const std::optional<WorldBox> box = ExtentsOf(graphic);
-        if (!box || !HasPenPage(graphic)) continue;
-        std::string look = std::to_string(graphic->bType);
-        for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle, kPropLayer})
-            look += "|" + PropertyText(graphic, property);
-        items.push_back({*box, std::move(look)});
-    }
-    return items;
-}
-
-using Cells = std::map<std::pair<int, int>, Cell>;
-
-Cells Fill(const std::vector<Item>& items, const WorldBox& grid, double size) {
-    Cells cells;
-    for (const Item& item : items) {
-        const auto column = std::floor((item.box.x1 - grid.x1) / size),
-                   row = std::floor((item.box.y1 - grid.y1) / size);
-        if (column != std::floor((item.box.x2 - grid.x1) / size)) continue;
-        if (row != std::floor((item.box.y2 - grid.y1) / size)) continue;
-        Cell& cell = cells[{static_cast<int>(column), static_cast<int>(row)}];
-        cell.box = cell.graphics++ ? WorldBox::Around(cell.box, item.box) : item.box;
-        cell.looks.insert(item.look);
-    }
-    return cells;
+std::string Appearance(GraphicStruct* graphic) {
+    std::string text;
+    for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle, kPropLayer})
+        text += PropertyText(graphic, property) + "|";
+    return text;
 }
 
 } // namespace
 
 std::optional<WorldBox> FindVariedWindow(const Document& document) {
-    const std::vector<Item> items = ItemsOf(document);
-    if (items.empty()) return std::nullopt;
-    WorldBox all = items.front().box;
-    for (const Item& item : items)
-        all = WorldBox::Around(all, item.box);
-    const double side = std::max(all.Width(), all.Height());
-    if (static_cast<int>(items.size()) <= kMost || side <= 0) return all;
-
-    std::optional<WorldBox> best;
-    size_t mostLooks = 0;
-    for (const int cut : kCuts) {
-        const double size = side / cut;
-        for (const double shift : {0.0, size / 2}) {
-            const WorldBox grid = {all.x1 - shift, all.y1 - shift, all.x2, all.y2};
-            for (const auto& [place, cell] : Fill(items, grid, size)) {
-                if (cell.graphics < kFewest || cell.graphics > kMost || cell.looks.size() <= mostLooks) continue;
-                mostLooks = cell.looks.size();
-                best = cell.box;
-            }
-        }
+    std::vector<GraphicStruct*> graphics = document.Selectable();
+    const auto isUseless = [](GraphicStruct* graphic) { return !HasPenPage(graphic) || !ExtentsOf(graphic); };
+    graphics.erase(std::remove_if(graphics.begin(), graphics.end(), isUseless), graphics.end());
+    if (graphics.empty()) return std::nullopt;
+    const WorldBox all = *document.Extents();
+    // Frames and the like come last.
+    const auto distance = [&](GraphicStruct* graphic) {
+        const WorldBox box = *ExtentsOf(graphic);
+        const double size = std::max(box.Width(), box.Height()), whole = std::max(all.Width(), all.Height());
+        const double away = std::hypot(box.Center().x - all.Center().x, box.Center().y - all.Center().y);
+        return size > kLargest * whole ? away + whole : away;
+    };
+    std::sort(graphics.begin(), graphics.end(),
+              [&](GraphicStruct* a, GraphicStruct* b) { return distance(a) < distance(b); });
+    WorldBox window = *ExtentsOf(graphics[0]);
+    std::set<std::string> appearances;
+    for (size_t i = 0; i < std::min(graphics.size(), kMost) && appearances.size() < kDifferent; ++i) {
+        window = WorldBox::Around(window, *ExtentsOf(graphics[i]));
+        appearances.insert(Appearance(graphics[i]));
     }
-    return best ? best : all;
+    return window;
 }

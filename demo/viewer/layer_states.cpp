@@ -8,21 +8,6 @@
 #include "orlo/host/drawing.h"
 #include "orlo/host/walk.h"
 
-namespace {
-
-class LayerChange : public UndoableChange {
-public:
-    LayerChange(LayerStates before, LayerStates after) : m_before(std::move(before)), m_after(std::move(after)) {}
-    void Undo() override { m_before.Restore(); }
-    void Redo() override { m_after.Restore(); }
-    std::string What() const override { return "layers"; }
-
-private:
-    LayerStates m_before, m_after;
-};
-
-} // namespace
-
 LayerStates::LayerStates(DrawingStruct* drawing) : m_drawing(drawing) {
     for (const uint16_t layer : orlo::host::Entries(::DrawingGetTable(drawing, kTableLayers)))
         m_states.push_back({layer, ::LayerGetColor(drawing, layer), ::LayerGetFlags(drawing, layer)});
@@ -36,5 +21,5 @@ void LayerStates::Restore() const {
 std::unique_ptr<UndoableChange> LayerStates::ChangeSince(LayerStates before) {
     LayerStates now(before.m_drawing);
     if (now.m_states == before.m_states) return nullptr;
-    return std::make_unique<LayerChange>(std::move(before), std::move(now));
+    return std::make_unique<StateChange<LayerStates>>("layers", std::move(before), std::move(now));
 }

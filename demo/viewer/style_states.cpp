@@ -5,21 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-class StyleChange : public UndoableChange {
-public:
-    StyleChange(StyleStates before, StyleStates after) : m_before(std::move(before)), m_after(std::move(after)) {}
-    void Undo() override { m_before.Restore(); }
-    void Redo() override { m_after.Restore(); }
-    std::string What() const override { return "styles"; }
-
-private:
-    StyleStates m_before, m_after;
-};
-
-} // namespace
-
 StyleStates::StyleStates(StyleBook& styles) : m_styles(&styles) {
     for (const uint16_t id : styles.All())
         m_all.push_back({styles.Name(id), styles.PartsOf(id), styles.Copy(id)});
@@ -51,5 +36,5 @@ bool StyleStates::IsAsNow() const {
 std::unique_ptr<UndoableChange> StyleStates::ChangeSince(StyleStates before) {
     if (before.IsAsNow()) return nullptr;
     StyleStates now(*before.m_styles);
-    return std::make_unique<StyleChange>(std::move(before), std::move(now));
+    return std::make_unique<StateChange<StyleStates>>("styles", std::move(before), std::move(now));
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A change that the database does not record.
@@ -14,6 +15,21 @@ public:
     virtual void Undo() = 0;
     virtual void Redo() = 0;
     virtual std::string What() const = 0; // Returns text for the status bar, such as "layers".
+};
+
+// A change from one state, which has Restore(), to another one.
+template <class State>
+class StateChange : public UndoableChange {
+public:
+    StateChange(const char* what, State before, State after)
+        : m_what(what), m_before(std::move(before)), m_after(std::move(after)) {}
+    void Undo() override { m_before.Restore(); }
+    void Redo() override { m_after.Restore(); }
+    std::string What() const override { return m_what; }
+
+private:
+    const char* m_what;
+    State m_before, m_after;
 };
 
 class UndoHistory {

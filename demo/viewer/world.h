@@ -26,7 +26,4 @@ struct WorldBox {
     bool Contains(const WorldBox& other) const {
         return x1 <= other.x1 && y1 <= other.y1 && other.x2 <= x2 && other.y2 <= y2;
     }
-    bool Touches(const WorldBox& other) const {
-        return x1 <= other.x2 && other.x1 <= x2 && y1 <= other.y2 && other.y1 <= y2;
-    }
 };

@@ -5,8 +5,7 @@
 void FillLayerList(CCheckListBox& list, CWnd* parent, TableStruct* layers) {
     list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY,
                 CRect(10, 10, 200, 160), parent, 101);
-    int cookie;
-    for (uint16_t id = TableEntryFirst(layers, &cookie); id != 0; id = TableEntryNext(layers, &cookie)) {
+    for (const uint16_t id : orlo::host::Entries(layers)) {
         char name[256];
         if (TableEntryGetName(layers, id, name, sizeof name))
             list.AddString(name, LayerGetVisible(TableGetOwner(layers), id));

@@ -88,11 +88,22 @@ RecordName DocumentReader::NameOf(const EntityRef& entity) const {
 }
 
 std::vector<std::string> DocumentReader::PropertyNames() {
-    return PropertyTexts::Names();
+    std::vector<std::string> names;
+    for (const PropertyInfo& info : kPropertyList)
+        names.push_back(info.name);
+    const auto place = [](const std::string& name) {
+        const PropertyInfo& info = *FindPropertyInfo(name);
+        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
+    };
+    std::stable_sort(names.begin(), names.end(),
+                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
+    return names;
 }
 
 std::optional<std::string> DocumentReader::FindPropertyName(std::string_view name) {
-    return PropertyTexts::NameOf(name);
+    for (const PropertyInfo& info : kPropertyList)
+        if (IsSameName(info.name, name)) return info.name;
+    return std::nullopt;
 }
 
 bool DocumentReader::Has(const EntityRef& entity, std::string_view name) {
@@ -104,7 +115,8 @@ std::string DocumentReader::Get(const EntityRef& entity, std::string_view name) 
 }
 
 std::string DocumentReader::GetWithVariety(const EntityRef& entity, std::string_view name) const {
-    return texts_->GetWithVariety(name, LookOf(*document_, *entity.entity_));
+    const bool varies = LookOf(*document_, *entity.entity_).varied & VariedBit(name);
+    return Get(entity, name) + (varies ? " (varies)" : "");
 }
 
 bool DocumentReader::IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const {

@@ -23,7 +23,7 @@ struct DocumentWriter::Parts {
 
 DocumentWriter::DocumentWriter(const DocumentReader& reader, const Values& values)
     : parts_(std::make_unique<Parts>(reader)) {
-    for (const std::string& name : PropertyTexts::Names())
+    for (const std::string& name : DocumentReader::PropertyNames())
         for (const auto& [property, text] : values)
             if (IsSameName(property, name)) parts_->values.emplace_back(name, text);
     Look tried;
@@ -67,7 +67,7 @@ void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
         const Look one = change != wanted.end() ? change->second : LookOf(known, *before[i].entity_);
         const Look other = LookOf(read, *now[i].entity_);
         if (SameLook(tables, one, read, other)) continue;
-        for (const std::string& name : PropertyTexts::Names())
+        for (const std::string& name : DocumentReader::PropertyNames())
             if (texts.Get(name, one) != after.texts_->Get(name, other))
                 differ(name + " of " + reader.NameOf(before[i]).Text());
         differ("the look of " + reader.NameOf(before[i]).Text());

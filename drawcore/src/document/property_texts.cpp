@@ -319,25 +319,6 @@ void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
     }
 }
 
-std::vector<std::string> PropertyTexts::Names() {
-    std::vector<std::string> names;
-    for (const PropertyInfo& info : kPropertyList)
-        names.push_back(info.name);
-    const auto place = [](const std::string& name) {
-        const PropertyInfo& info = *FindPropertyInfo(name);
-        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
-    };
-    std::stable_sort(names.begin(), names.end(),
-                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
-    return names;
-}
-
-std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
-    for (const PropertyInfo& info : kPropertyList)
-        if (IsSameName(info.name, name)) return info.name;
-    return std::nullopt;
-}
-
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
     if (is(Apart<Viewport>())) return false;
@@ -351,11 +332,6 @@ std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
     const PropertyInfo& info = InfoOf(name);
     const PropertyForms* forms = PropertyForms::Find(info.name);
     return forms ? forms->get(*this, info, look) : PropertyForms::GetPlain(*this, info, look);
-}
-
-std::string PropertyTexts::GetWithVariety(std::string_view name, const Look& look) const {
-    const bool varies = look.varied & VariedBit(name);
-    return Get(name, look) + (varies ? " (varies)" : "");
 }
 
 void PropertyTexts::Set(std::string_view name, const std::string& text, Look& look) const {

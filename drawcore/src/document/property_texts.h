@@ -15,15 +15,9 @@ public:
     // The document must outlive this object.
     explicit PropertyTexts(const Document& document);
 
-    // Returns the names in the order in which they are set: properties that others depend on come first.
-    static std::vector<std::string> Names();
-    // Returns the property's name in its standard case, or nothing if there is no such property.
-    static std::optional<std::string> NameOf(std::string_view name);
     static bool Has(const Entity& entity, std::string_view name);
 
     std::string Get(std::string_view name, const Look& look) const;
-    // Returns the value, and whether parts of the text have other values.
-    std::string GetWithVariety(std::string_view name, const Look& look) const;
     // Throws SaveError if the text is not a value of the property. The message lists the valid ones.
     void Set(std::string_view name, const std::string& text, Look& look) const;
 

@@ -194,6 +194,10 @@ bool Near(double a, double b) {
     return std::fabs(a - b) <= 1e-9 * std::max({1.0, std::fabs(a), std::fabs(b)});
 }
 
+bool Near(const Vec3& a, const Vec3& b) {
+    return Near(a.x, b.x) && Near(a.y, b.y) && Near(a.z, b.z);
+}
+
 bool SameToRounding(double a, double b, double magnitude) {
     return std::fabs(a - b) <= 1e-12 * std::max({1.0, std::fabs(a), std::fabs(b), magnitude});
 }

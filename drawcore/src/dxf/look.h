@@ -71,6 +71,7 @@ constexpr char kOwnStyleTree[] = "StyleName"; // of a block: the tree of styles 
 
 // Returns whether two numbers draw the same: they differ by less than users see. What is written is compared exactly.
 bool Near(double a, double b);
+bool Near(const Vec3& a, const Vec3& b);
 // Returns whether numbers that were calculated from numbers of that magnitude differ by rounding only.
 bool SameToRounding(double a, double b, double magnitude);
 bool SameLine(const Hatch::PatternLine& a, const Hatch::PatternLine& b);

@@ -65,7 +65,7 @@ std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
     if (own->numbers.size() >= 12 + groups.size())
         return std::equal(groups.begin(), groups.end(), n + 12) ? std::optional(ends) : std::nullopt;
     const Vec3 place = PlacementByGroups(entity).Apply({});
-    if (!Near(n[12], place.x) || !Near(n[13], place.y) || !Near(n[14], place.z)) return std::nullopt;
+    if (!Near(Vec3{n[12], n[13], n[14]}, place)) return std::nullopt;
     return AxisEndsOf(Matrix::FromAxes(ends[0], ends[1], ends[2], ends[3]));
 }
 

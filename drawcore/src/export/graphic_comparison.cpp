@@ -34,12 +34,6 @@ bool SamePlace(const Vec3& a, const Vec3& b, bool calculated) {
            dxf::SameToRounding(a.z, b.z, magnitude);
 }
 
-// What was turned comes from angles.
-bool SameDirection(const Vec3& a, const Vec3& b) {
-    return dxf::Near(a.x, b.x) && dxf::Near(a.y, b.y) && dxf::Near(a.z, b.z);
-}
-constexpr auto SameStep = SameDirection;
-
 // Whether the first vertex is drawn says nothing.
 bool SameVertices(const VertexGraphic& a, const VertexGraphic& b, bool calculated) {
     const auto same = [&](const Vertex& one, const Vertex& other) {
@@ -87,8 +81,8 @@ const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
         one.up = Normalized(motion.Turn(one.up));
         one.widthFactor = other.widthFactor; // that follows
     }
-    const bool samePlace = SamePlace(one.position, other.position, calculated) &&
-                           SameDirection(one.along, other.along) && SameDirection(one.up, other.up);
+    const bool samePlace = SamePlace(one.position, other.position, calculated) && dxf::Near(one.along, other.along) &&
+                           dxf::Near(one.up, other.up);
     const bool sameForm = one.widthFactor == other.widthFactor && dxf::Near(one.fitWidth, other.fitWidth) &&
                           one.wrapWidth == other.wrapWidth && one.lineSpacing == other.lineSpacing;
     return !samePlace ? "its place" : !sameForm ? "its width" : nullptr;
@@ -184,7 +178,7 @@ const char* GraphicComparison::DifferentInsert(const InsertGraphic& a, const Ins
     if (a.Ends() != b.Ends()) return "its placement";
     const InsertArray one = a.MovedArray(), other = b.MovedArray();
     const bool same = one.columns == other.columns && one.rows == other.rows &&
-                      SameStep(one.columnStep, other.columnStep) && SameStep(one.rowStep, other.rowStep);
+                      dxf::Near(one.columnStep, other.columnStep) && dxf::Near(one.rowStep, other.rowStep);
     return same ? nullptr : "its array";
 }
 

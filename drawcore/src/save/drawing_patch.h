@@ -33,7 +33,6 @@ public:
     DrawingPatch(std::string_view text, Document known);
 
     const Document& Known() const { return in_.document; }
-    Document TakeKnown() { return std::move(in_.document); }
 
     // Things by name (UTF-8, any case). One that no table of the file has gets a record there when an entity first
     // needs it: as it is described until then.

@@ -1,27 +1,30 @@
-// The host's calls on brush styles.
+// The host's and the host program's calls on line styles and brush styles.
 
 #include <algorithm>
 #include <cmath>
 
 #include "drawcore/include/drawcore/brushstyle.h"
+#include "drawcore/include/drawcore/linestyle.h"
 #include "drawcore/src/styles/brush_style.h"
+#include "drawcore/src/styles/line_style.h"
 #include "orlo/host/style.h"
 
 using namespace drawcore;
 
 namespace {
 
-constexpr size_t kShownDashes = 8; // what a caller's buffer takes
-constexpr int kMostLines = 256;
-
-const BrushStyle* FindStyle(TableStruct* table, uint16_t id) {
-    const auto* styles = dynamic_cast<BrushStyleTable*>(Table::Find(table));
+template <class Styles>
+auto FindStyle(TableStruct* table, uint16_t id) {
+    auto* styles = dynamic_cast<Styles*>(Table::Find(table));
     return styles ? styles->At(id) : nullptr;
 }
 
+constexpr size_t kShownDashes = 8; // what a caller's buffer takes
+constexpr int kMostLines = 256;
+
 // The line at that place of the walk; the cookie becomes the place after it.
 const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int place, int* cookie) {
-    const BrushStyle* style = FindStyle(table, id);
+    const BrushStyle* style = FindStyle<BrushStyleTable>(table, id);
     if (!style || !cookie || place < 0 || static_cast<size_t>(place) >= style->lines.size()) return nullptr;
     *cookie = place + 1;
     return &style->lines[place];
@@ -49,7 +52,7 @@ PatternLine FromHost(const BrushLine& from) {
 } // namespace
 
 uint16_t BrushStyleGetFlags(TableStruct* table, uint16_t id) {
-    const BrushStyle* style = FindStyle(table, id);
+    const BrushStyle* style = FindStyle<BrushStyleTable>(table, id);
     if (!style) return 0;
     if (style->bitmap) return style->bitmap->colors ? 0 : kBrushTakesColor;
     return style->lines.empty() ? kBrushVector : kBrushVector | kBrushHasLines;
@@ -83,4 +86,34 @@ uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLin
     std::vector<PatternLine> made;
     std::transform(lines, lines + count, std::back_inserter(made), FromHost);
     return styles->Add(std::make_unique<BrushStyle>(name, std::move(made)));
+}
+
+namespace {
+
+constexpr int kShownItems = 8; // what a caller's buffer takes
+constexpr int kMostItems = 64;
+
+int ShownItems(const LineStyle* style) {
+    return style ? std::min(static_cast<int>(style->pattern.size()), kShownItems) : 0;
+}
+
+} // namespace
+
+int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
+    return ShownItems(FindStyle<LineStyleTable>(table, id));
+}
+
+int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
+    const LineStyle* style = FindStyle<LineStyleTable>(table, id);
+    if (!style || !pattern) return 0;
+    std::copy_n(style->pattern.begin(), ShownItems(style), pattern);
+    return 1;
+}
+
+uint16_t LineStyleAdd(TableStruct* table, const char* name, const char* description, const double* pattern, int count) {
+    auto* styles = dynamic_cast<LineStyleTable*>(Table::Find(table));
+    if (!styles || !name || count < 0 || count > kMostItems || (count && !pattern)) return kNoId;
+    std::vector<double> items(pattern, pattern + count);
+    if (!std::all_of(items.begin(), items.end(), [](double item) { return std::isfinite(item); })) return kNoId;
+    return styles->Add(std::make_unique<LineStyle>(name, description ? description : "", std::move(items)));
 }
