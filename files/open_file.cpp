@@ -92,14 +92,13 @@ constexpr unsigned long kToRead = GENERIC_READ, kToWrite = GENERIC_WRITE;
 #else
 constexpr int kToRead = O_RDONLY, kToWrite = O_WRONLY;
 
-// Does not wait for the writer of a pipe.
 OpenFile OpenShared(const std::filesystem::path& path, int access) {
+    // Does not wait for the writer of a pipe.
     return OpenFile(::open(path.c_str(), access | O_CLOEXEC | O_NONBLOCK));
 }
 #endif
 
-template <class Access>
-OpenFile OpenExisting(const std::filesystem::path& path, Access access) {
+OpenFile OpenExisting(const std::filesystem::path& path, decltype(+kToRead) access) {
     OpenFile file = OpenShared(path, access);
     if (!file) FailToOpen(path);
     return file;

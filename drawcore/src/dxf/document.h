@@ -23,10 +23,7 @@ struct Header {
     int lengthDigits = 4;
     int angleFormat = 0; // 0 degrees, 1 degrees minutes seconds, 2 grads, 3 radians, 4 surveyor's
     int angleDigits = 0;
-    int pointMode = 0;
-    double pointSize = 0;
     double lineTypeScale = 1;
-    double dimensionScale = 1;
 };
 
 constexpr int kLayerIsFrozen = 1, kLayerIsLocked = 4;

@@ -181,26 +181,15 @@ struct Face {
 // A dimension is drawn by its anonymous block.
 struct Dimension {
     BlockIndex block = BlockIndex::none;
-    Vec3 offset;     // of the block; zero but for copies
-    Vec3 definition; // world
-    std::string text;
-    int kind = 0;
+    Vec3 offset; // of the block; zero but for copies
 };
 
 struct Leader {
     std::vector<Vec3> vertices; // world
-    bool arrow = true;
-    bool curved = false;
 };
 
-struct Viewport {
-    Vec3 center; // paper space
-    double width = 0;
-    double height = 0;
-    int id = 0;
-    Vec3 viewCenter;
-    double viewHeight = 0;
-};
+// Not shown.
+struct Viewport {};
 
 // Larger kinds are held apart, so that a drawing of a million lines stays small.
 template <class T>

@@ -184,33 +184,27 @@ void EntityReader::ReadTable(Entity& entity) {
 }
 
 void EntityReader::ReadDimension(Entity& entity) {
-    static const Field<Dimension> kFields[] = {{2, &Dimension::block},
-                                               {10, &Dimension::definition},
-                                               {12, &Dimension::offset},
-                                               {1, &Dimension::text},
-                                               {70, &Dimension::kind}};
+    static const Field<Dimension> kFields[] = {{2, &Dimension::block}, {12, &Dimension::offset}};
     ReadTags(kFields, *entity.shape.emplace<Apart<Dimension>>(std::make_unique<Dimension>()), entity);
 }
 
 void EntityReader::ReadLeader(Entity& entity) {
-    static const Field<Leader> kFields[] = {{71, &Leader::arrow}, {72, &Leader::curved}};
     Leader& leader = entity.shape.emplace<Leader>();
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (tag.code == 10) leader.vertices.emplace_back();
         if (tag.code == 10 || tag.code == 20 || tag.code == 30) {
             if (!leader.vertices.empty()) in_.SetAxis(leader.vertices.back(), tag, tag.code - 10);
-        } else if (!in_.SetField(kFields, leader, tag)) {
+        } else {
             SetCommon(entity);
         }
     }
 }
 
 void EntityReader::ReadViewport(Entity& entity) {
-    static const Field<Viewport> kFields[] = {{10, &Viewport::center},     {40, &Viewport::width},
-                                              {41, &Viewport::height},     {69, &Viewport::id},
-                                              {12, &Viewport::viewCenter}, {45, &Viewport::viewHeight}};
-    ReadTags(kFields, *entity.shape.emplace<Apart<Viewport>>(std::make_unique<Viewport>()), entity);
+    entity.shape.emplace<Apart<Viewport>>(std::make_unique<Viewport>());
+    while (in_.NextTag())
+        SetCommon(entity);
 }
 
 void EntityReader::ReadSpline(Entity& entity) {

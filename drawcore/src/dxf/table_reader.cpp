@@ -18,8 +18,7 @@ const Variable kVariables[] = {
     {"$INSUNITS", {70, &Header::unit}},         {"$MEASUREMENT", {70, &Header::metric}},
     {"$LUNITS", {70, &Header::lengthFormat}},   {"$LUPREC", {70, &Header::lengthDigits}},
     {"$AUNITS", {70, &Header::angleFormat}},    {"$AUPREC", {70, &Header::angleDigits}},
-    {"$PDMODE", {70, &Header::pointMode}},      {"$PDSIZE", {40, &Header::pointSize}},
-    {"$LTSCALE", {40, &Header::lineTypeScale}}, {"$DIMSCALE", {40, &Header::dimensionScale}},
+    {"$LTSCALE", {40, &Header::lineTypeScale}},
 };
 
 void ReadLayer(RecordReader& in) {
