@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <stdexcept>
 
-#include "demo/automation/drawing_state.h"
 #include "demo/automation/sheet_pages.h"
 #include "demo/tour/page_edits.h"
 #include "demo/tour/report.h"
@@ -15,6 +14,7 @@
 #include "demo/tour/varied_window.h"
 #include "demo/viewer/main_frame.h"
 #include "demo/viewer/resource.h"
+#include "demo/viewer/selection_summary.h"
 
 namespace {
 
@@ -60,21 +60,28 @@ bool Tour::Play(const std::string& drawing) {
     }
 }
 
-// Returns true if the edit changed something and undo reverted all of it.
+// Returns true if the edit changed something and was undone in one step.
 bool Tour::EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit) {
     const Document& document = *m_frame.GetDocument();
-    const DrawingState before(document.Drawing());
+    const int steps = document.UndoSteps();
     edit();
     TakePicture(changed);
-    const bool differs = ReportChanges(before, DrawingState(document.Drawing()));
-
+    const bool differs = document.UndoSteps() == steps + 1;
+    Report(differs ? "After the edit:" : "Nothing has changed.");
+    ReportPens();
     m_user.Key('Z', UserInput::kControl);
     TakePicture(undone);
-    const std::vector<std::string> left = before.DifferencesTo(DrawingState(document.Drawing()), 5);
-    Report(left.empty() ? "Undo: the drawing is as it was." : "Undo: something is different from before!");
-    for (const std::string& line : left)
-        Report("  " + line);
-    return differs && left.empty();
+    Report("Undone:");
+    ReportPens();
+    return differs && document.UndoSteps() == steps;
+}
+
+// Reports the pens of the selection.
+void Tour::ReportPens() {
+    const Document& document = *m_frame.GetDocument();
+    for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle})
+        Report(std::string("  ") + property + ": " +
+               CountsText(CountValues(document.Drawing(), document.Selected().Members(), property)));
 }
 
 void Tour::TakePicture(const std::string& name) {
@@ -112,13 +119,7 @@ bool Tour::SelectVariedSet() {
     m_user.Release(view, frame.BottomRight());
     Selection& selection = m_frame.GetDocument()->Selected();
     Report("Select by window: " + std::to_string(selection.Count()) + " graphics.");
-    const DrawingState state(selection.Members());
-    for (const char* property : {kPropPenColor, kPropPenWidth, kPropPenStyle}) {
-        std::string line = std::string("  ") + property + ":";
-        for (const auto& [value, count] : state.Values(property))
-            line += "  " + std::to_string(count) + " x " + value;
-        Report(line);
-    }
+    ReportPens();
     TakePicture("selected");
     if (selection.Count() == 0) throw std::runtime_error("nothing was selected");
     return true;
@@ -222,16 +223,4 @@ void Tour::ShowPaneAndLayers() {
                         TakePicture("layers");
                         m_user.Key(VK_ESCAPE);
                     });
-}
-
-bool Tour::ReportChanges(const DrawingState& before, const DrawingState& after) {
-    const std::vector<PropertyChange> changes = before.ChangesTo(after);
-    Report(changes.empty() ? "Nothing changed in the drawing." : "What changed in the drawing:");
-    for (const PropertyChange& change : changes) {
-        char line[256];
-        std::snprintf(line, sizeof line, "  %-12s %5d x  %s -> %s", change.property.c_str(), change.graphics,
-                      change.from.c_str(), change.to.c_str());
-        Report(line);
-    }
-    return !changes.empty();
 }

@@ -10,7 +10,6 @@
 #include "demo/automation/user_input.h"
 
 class CMainFrame;
-class DrawingState;
 
 class Tour {
 public:
@@ -33,7 +32,7 @@ private:
     void ShowPaneAndLayers();
     void EditPen();
     void OpenPage(HWND sheet, const std::string& title);
-    bool ReportChanges(const DrawingState& before, const DrawingState& after);
+    void ReportPens();
 
     CMainFrame& m_frame;
     std::string m_folder;

@@ -4,11 +4,11 @@
 
 #include <stdexcept>
 
-#include "demo/automation/drawing_state.h"
 #include "demo/automation/sheet_pages.h"
 #include "demo/tour/page_edits.h"
 #include "demo/tour/report.h"
 #include "demo/viewer/main_frame.h"
+#include "support/drawing_state.h"
 
 namespace {
 

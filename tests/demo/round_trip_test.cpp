@@ -1,11 +1,11 @@
 // Edits real drawings on all pages and undoes the edits; also tests that the comparison detects differences.
 
-#include "demo/automation/drawing_state.h"
 #include "demo/round_trip.h"
 #include "demo/viewer.h"
 #include "drawcore/table.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/vertex.h"
+#include "support/drawing_state.h"
 
 namespace {
 

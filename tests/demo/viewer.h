@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "demo/automation/drawing_state.h"
 #include "demo/automation/user_input.h"
 #include "demo/viewer/main_frame.h"
+#include "support/drawing_state.h"
 
 // A file in the temporary folder that exists during the object's lifetime.
 class DrawingFile {

@@ -119,7 +119,7 @@ TEST(Import, OpensWhatTheReaderReadsOrNothing) {
         Heard heard;
         OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), heard);
         try {
-            const drawcore::Extents box = dxf::ExtentsOf(dxf::ReadFile(file, {}));
+            const drawcore::Extents box = dxf::ExtentsOf(dxf::Read(dxf::ReadBytes(file), {}));
             ASSERT_TRUE(drawing) << file << heard.message;
             EXPECT_TRUE(std::is_sorted(heard.progress.begin(), heard.progress.end())) << file;
             EXPECT_EQ(heard.progress.back(), 1000) << file;

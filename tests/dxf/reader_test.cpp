@@ -56,8 +56,8 @@ TEST(Structure, BrokenOnesAreRefusedWithTheirLine) {
 
 TEST(Structure, FilesThatCannotBeReadAreRefused) {
     for (const char* path : {ORLO_SOURCE_DIR "/tests/nothing.dxf", ORLO_SOURCE_DIR "/tests"})
-        EXPECT_THROW(ReadFile(path, {}), ReadError) << path;
-    EXPECT_EQ(ReadFile(ORLO_SOURCE_DIR "/tests/data/dxf/made-escapes-R12.dxf", {}).entities.size(), 11u);
+        EXPECT_THROW(Read(dxf::ReadBytes(path), {}), ReadError) << path;
+    EXPECT_EQ(Read(dxf::ReadBytes(ORLO_SOURCE_DIR "/tests/data/dxf/made-escapes-R12.dxf"), {}).entities.size(), 11u);
 }
 
 TEST(Structure, OpensWithAllLineEndsCommentsAndAByteOrderMark) {

@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "demo/automation/drawing_state.h"
 #include "drawcore/census.h"
 #include "drawcore/undo.h"
 #include "orlo/resources/resource.h"
 #include "pages/every_kind.h"
+#include "support/drawing_state.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/object_counts.h"

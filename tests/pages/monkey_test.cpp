@@ -4,8 +4,8 @@
 
 #include <random>
 
-#include "demo/automation/drawing_state.h"
 #include "pages/every_kind.h"
+#include "support/drawing_state.h"
 #include "support/host_frame.h"
 #include "support/message_box_watcher.h"
 #include "support/object_counts.h"

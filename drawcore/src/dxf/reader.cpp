@@ -184,10 +184,6 @@ std::string ReadBytes(const std::filesystem::path& path) {
     return bytes;
 }
 
-Document ReadFile(const std::filesystem::path& path, const Progress& progress) {
-    return Read(ReadBytes(path), progress);
-}
-
 std::string_view TextOf(std::string_view bytes) {
     constexpr std::string_view kMark = "\xEF\xBB\xBF";
     return bytes.substr(0, kMark.size()) == kMark ? bytes.substr(kMark.size()) : bytes;

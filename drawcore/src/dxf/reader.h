@@ -9,7 +9,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -31,8 +30,5 @@ Document Read(std::string_view bytes, const Progress& progress);
 
 // What Read reads of the bytes of a file: all but a UTF-8 mark in front, which offsets of entities don't count either.
 std::string_view TextOf(std::string_view bytes);
-
-// Reads a file. Throws ReadError without a line if it cannot be read.
-Document ReadFile(const std::filesystem::path& path, const Progress& progress);
 
 } // namespace dxf

@@ -1,6 +1,6 @@
 // Records the contents of a drawing.
 
-#include "demo/automation/drawing_state.h"
+#include "support/drawing_state.h"
 
 #include <algorithm>
 #include <cstdio>
