@@ -1,4 +1,4 @@
-// The host's and the host program's calls on viewports: what they show, drawing, finding.
+// The host's and the host program's calls on viewports and extents: what they show, drawing, finding.
 
 #include <chrono>
 #include <new>
@@ -240,4 +240,22 @@ int ViewportPickWindow(ViewportStruct* viewport, GraphicStruct* set, const RECT*
     for (Graphic* found : PickWithin(*Viewport::From(viewport), *Graphic::From(set), box, crossing != 0, filter))
         added += into->Include(found);
     return added;
+}
+
+double ExtentsGetX1(const ExtentsStruct* extents) {
+    return extents && !Extents::From(extents)->IsEmpty() ? Extents::From(extents)->low.x : 0.0;
+}
+
+double ExtentsGetX2(const ExtentsStruct* extents) {
+    return extents && !Extents::From(extents)->IsEmpty() ? Extents::From(extents)->high.x : 0.0;
+}
+
+int ExtentsGetBox(const ExtentsStruct* extents, double box[4]) {
+    if (!extents || Extents::From(extents)->IsEmpty()) return 0;
+    const Extents& from = *Extents::From(extents);
+    box[0] = from.low.x;
+    box[1] = from.low.y;
+    box[2] = from.high.x;
+    box[3] = from.high.y;
+    return 1;
 }
