@@ -14,7 +14,7 @@ class CHostFrame : public CFrameWnd {
         const char* table = TableOfControl(LOWORD(wParam)); // the kind of control determines the table
         if (HIWORD(wParam) != kControlReady || table == nullptr) return CFrameWnd::OnCommand(wParam, lParam);
         DrawingStruct* drawing = AppGetCurrentApp()->pCurrentDrawing;
-        const ControlFillRecord fill = {DrawingGetTable(drawing, table), 0, 0};
+        const ControlFillRecord fill = {DrawingGetTable(drawing, table), 0, kColorNone};
         ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }
