@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int kBoxWidth = 13;  // width of a check box or radio button, in pixels at 96 dpi
+constexpr int kGroupLine = 3;  // width of the line of a group box with the space inside, in device pixels
 constexpr int kLabelSpace = 8; // space between box and label, and after the label
 
 // The templates make labels tab stops although they accept no input.
@@ -58,24 +59,25 @@ bool IsGroupBox(HWND child) {
            (::GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == kGroup;
 }
 
-// Returns the distance in the template between a control and the right edge of its group box, or 0 without a group box.
-int MarginInGroup(const RECT& rect, const std::vector<RECT>& groups) {
+// Returns how far to the right a control may extend. Group boxes of the templates extend beyond the page, which would
+// clip their right edges: controls beyond the page keep their distance to the group box. Others stay inside its line.
+LONG RightLimit(const RECT& rect, LONG page, const std::vector<RECT>& groups) {
     for (const RECT& group : groups) {
-        if (group.left < rect.left && group.top < rect.top && rect.right < group.right && rect.bottom < group.bottom)
-            return group.right - rect.right;
+        if (group.left >= rect.left || group.top >= rect.top || rect.right >= group.right ||
+            rect.bottom >= group.bottom)
+            continue;
+        return rect.right > page ? page - (group.right - rect.right) : std::min(page, group.right - kGroupLine);
     }
-    return 0;
+    return page;
 }
 
-// Group boxes of the templates extend beyond the page, which would clip their right edges. Controls inside keep their
-// distance to the group box.
 void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
     RECT client;
     ::GetClientRect(page, &client);
     const RECT rect = PlaceIn(page, child);
     const int width = rect.right - rect.left;
-    const int margin = rect.right > client.right ? MarginInGroup(rect, groups) : 0;
-    const int fitting = std::min<int>(WantedWidth(child, width, box), client.right - margin - rect.left);
+    const LONG limit = RightLimit(rect, client.right, groups);
+    const int fitting = std::min<int>(WantedWidth(child, width, box), limit - rect.left);
     if (fitting == width || fitting <= 0) return;
     ::SetWindowPos(child, nullptr, 0, 0, fitting, rect.bottom - rect.top,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
