@@ -222,12 +222,12 @@ def check_words():
     """Wrong words get those that are allowed; results are reported by exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
     for arguments, code, words in [
-        (["set", drawing, "PenHue=red", "-o", OUT], 2, "is none of Layer, Info, StyleTree, PenColor"),
+        (["set", drawing, "PenHue=red", "-o", OUT], 2, "is none of Info, Layer, StyleTree, ScaleSystem"),
         (["set", drawing, "PenColor=purple", "-o", OUT], 1, "'purple' is none of By Layer, By Block, Red"),
         (["set", drawing, "Layer=Walls", "-o", OUT], 1, "'Walls' is none of 0, Titles, ConstantWidth"),
         (["set", drawing, "PenWidth=wide", "-o", OUT], 1, "'wide' is no length"),
         (["set", drawing, "PenColor=red"], 2, "say where the drawing goes"),
-        (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is none of kind, handle, block, Layer"),
+        (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is none of kind, handle, block, Info"),
         (["set", drawing, "--where", "kind=LIN", "PenColor=redd", "-o", OUT], 1, "'redd' is none of By Layer"),
         (["set", drawing, "--where", "kind=LIN", "PenColor=red", "-o", OUT], 1, "nothing meets kind=LIN; there are entities of the kinds LINE, LWPOLYLINE"),
         (["get", drawing, "--where", "layer=walls"], 1, "nothing meets layer=walls"),
