@@ -28,12 +28,9 @@ const char* TableOf(PropertyMeaning meaning) {
     }
 }
 
-std::string WholeText(const Drawing* drawing, const PropertyInfo& info, uint32_t value) {
-    if (info.meaning == PropertyMeaning::Color) return ColorText(value);
-    if (info.meaning == PropertyMeaning::TextStyle) return TextStyleText(value);
-    if (const char* word = WordOf(info.meaning, value)) return word;
+std::string ValueText(const Drawing* drawing, const PropertyInfo& info, uint32_t value) {
     const char* name = TableOf(info.meaning);
-    if (!name) return std::to_string(value);
+    if (!name || WordOf(info.meaning, value)) return WholeText(info, value);
     if (info.meaning == PropertyMeaning::Block && value == kNoId) return "";
     const Table* table = drawing ? drawing->FindTable(name) : nullptr;
     const TableEntry* entry = table ? table->At(static_cast<Id>(value)) : nullptr;
@@ -64,7 +61,7 @@ std::string TextOf(GraphicStruct* graphic, const PropertyInfo& info) {
         return value ? RealText(drawing, graphic, info, *value) : "";
     }
     const auto value = ReadProperty<uint32_t>(graphic, info.name);
-    return value ? WholeText(Drawing::Find(drawing), info, *value) : "";
+    return value ? ValueText(Drawing::Find(drawing), info, *value) : "";
 }
 
 } // namespace
@@ -81,6 +78,6 @@ int PropertyGetValueText(DrawingStruct* drawing, const char* property, uint32_t 
     CopyText("", buffer, size);
     const PropertyInfo* info = property ? FindPropertyInfo(property) : nullptr;
     if (!info || info->IsText() || info->IsReal()) return 0;
-    CopyText(WholeText(Drawing::Find(drawing), *info, value), buffer, size);
+    CopyText(ValueText(Drawing::Find(drawing), *info, value), buffer, size);
     return 1;
 }

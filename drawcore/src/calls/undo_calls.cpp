@@ -1,5 +1,8 @@
 // The host program's calls on undo and redo.
 
+#include <functional>
+#include <type_traits>
+
 #include "drawcore/include/drawcore/undo.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/graphics/undo_log.h"
@@ -9,16 +12,12 @@ using drawcore::UndoLog;
 
 namespace {
 
-// What the log answers; 0 if there is no such drawing.
-template <class Answer>
-Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)()) {
+// Returns the result of the log's method; 0 if there is no such drawing.
+template <class Method>
+auto Ask(DrawingStruct* drawing, Method method) -> std::invoke_result_t<Method, UndoLog&> {
     Drawing* found = Drawing::Find(drawing);
-    return found ? (found->Undo().*question)() : Answer{};
-}
-template <class Answer>
-Answer Ask(DrawingStruct* drawing, Answer (UndoLog::*question)() const) {
-    Drawing* found = Drawing::Find(drawing);
-    return found ? (found->Undo().*question)() : Answer{};
+    if (!found) return {};
+    return std::invoke(method, found->Undo());
 }
 
 } // namespace

@@ -25,7 +25,7 @@ namespace dxf {
 using drawcore::ColorText;
 using drawcore::PropertyWord;
 using drawcore::TextStyleText;
-using drawcore::WordOf;
+using drawcore::WholeText;
 using drawcore::WordsOf;
 
 namespace {
@@ -84,13 +84,6 @@ uint32_t ReadTextStyle(const std::string& text) {
         at = end + 1;
     }
     return bits;
-}
-
-std::string WholeText(const PropertyInfo& info, uint32_t value) {
-    if (info.meaning == PropertyMeaning::Color) return ColorText(value);
-    if (info.meaning == PropertyMeaning::TextStyle) return TextStyleText(value);
-    const char* word = WordOf(info.meaning, value);
-    return word ? word : std::to_string(value);
 }
 
 std::string NumberText(double value) {

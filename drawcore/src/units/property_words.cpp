@@ -72,4 +72,11 @@ std::string ColorText(uint32_t color) {
     return text;
 }
 
+std::string WholeText(const PropertyInfo& property, uint32_t value) {
+    if (property.meaning == PropertyMeaning::Color) return ColorText(value);
+    if (property.meaning == PropertyMeaning::TextStyle) return TextStyleText(value);
+    const char* word = WordOf(property.meaning, value);
+    return word ? word : std::to_string(value);
+}
+
 } // namespace drawcore
