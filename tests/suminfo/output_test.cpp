@@ -92,7 +92,7 @@ TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
         RunSuminfo({"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
     EXPECT_EQ(fine.exitCode, 0) << fine.out;
     EXPECT_EQ(fine.out.rfind("input-bw-one-band--340370.fpx: nothing irregular\nsent--da96eb.msg: no property sets\n"
-                             "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 bytes behind",
+                             "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 unused bytes after",
                              0),
               0u)
         << fine.out;
@@ -111,7 +111,8 @@ TEST(Check, BareStreams) {
     const Outcome run = RunSuminfo(
         {"check", "--stream", "fn-et--SummaryInformation--b68908.bin", "mut-44-byte-order--b060d6.bin"}, kStreams);
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_NE(run.out.find("mut-44-byte-order--b060d6.bin: 0x000000: damaged 101: byte order mark"), std::string::npos)
+    EXPECT_NE(run.out.find("mut-44-byte-order--b060d6.bin: 0x000000: damaged 101: the byte order mark"),
+              std::string::npos)
         << run.out;
 }
 

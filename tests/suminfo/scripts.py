@@ -44,7 +44,7 @@ for name in sorted(os.listdir(STREAMS)):
     path = os.path.join(STREAMS, name)
     done = run(SUMINFO, "rc", "--stream", path, SCRIPT)
     if done.returncode:
-        if not any(word in done.stderr for word in (b"damaged", b"no sections", b"is no property set")):
+        if not any(word in done.stderr for word in (b"damaged", b"no sections", b"not a property set")):
             failures.append(f"{name}: {done.stderr}")
         continue
     made = run(WINDRES, "-O", "res", SCRIPT, RESOURCES)

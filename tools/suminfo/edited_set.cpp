@@ -78,7 +78,7 @@ EditedSet::EditedSet(const std::optional<orlo::Bytes>& bytes) {
         return finding.severity == orlo::Severity::damaged;
     });
     if (damage != findings.end()) throw Failure("it is damaged and was left alone: " + damage->text);
-    if (!image) throw Failure("it is no property set and was left alone");
+    if (!image) throw Failure("not a property set; the file was left unchanged");
     set_ = std::move(*image);
 }
 

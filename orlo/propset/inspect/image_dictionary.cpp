@@ -98,8 +98,8 @@ std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t 
                                                    uint64_t offset, const std::string& place, Report& report) {
     const auto [form, raw] = SplitByBestForm(bytes, size, codePage);
     if (!IsWhole(raw))
-        report.Add(FindingCode::dictionaryShort, Severity::damaged, offset, place, ": the dictionary announces ",
-                   raw ? raw->count : 0, " names, ", raw ? raw->names.size() : 0, " are there");
+        report.Add(FindingCode::dictionaryShort, Severity::damaged, offset, place, ": the dictionary declares ",
+                   raw ? raw->count : 0, " names, but contains ", raw ? raw->names.size() : 0);
     if (!raw || (raw->names.empty() && raw->count != 0)) return std::nullopt;
 
     ImageDictionary result{{}, raw->size};
@@ -108,17 +108,17 @@ std::optional<ImageDictionary> ReadImageDictionary(const uint8_t* bytes, size_t 
         std::string_view text = name.bytes;
         if (!CutAtNul(text, form))
             report.Add(FindingCode::nameWithoutNul, Severity::note, offset + name.at, place, ": the name of property ",
-                       name.id, " has no NUL; it ends at its length");
+                       name.id, " has no NUL; its length is used");
         std::optional<std::string> utf8 = CodePageToUtf8(text, form.codePage);
         if (!utf8) {
             report.Add(FindingCode::nameUndecodable, Severity::irregular, offset + name.at, place,
-                       ": the name of property ", name.id, " is not text of code page ", form.codePage);
+                       ": the name of property ", name.id, " is not text in code page ", form.codePage);
             if (form.codePage == codePage) result.entries.push_back({name.id, {}, Bytes(text.begin(), text.end())});
             continue;
         }
         if (!seen.insert(text).second)
             report.Add(FindingCode::nameRepeated, Severity::irregular, offset + name.at, place,
-                       ": the name of property ", name.id, " was given before; readers take the first or the last");
+                       ": the name of property ", name.id, " is repeated; readers use the first or the last");
         result.entries.push_back({name.id, std::move(*utf8), {}});
     }
     return result;

@@ -20,7 +20,7 @@ public:
             (text << ... << parts);
             findings_.push_back({code, severity, offset, text.str()});
         } else if (findings_.size() == most_) {
-            findings_.push_back({FindingCode::findingsCut, severity, offset, "there is more, which is not listed"});
+            findings_.push_back({FindingCode::findingsCut, severity, offset, "further findings are not listed"});
         }
     }
 

@@ -33,7 +33,7 @@ bool HasForm(uint32_t type) {
     return IsVector(type) ? SmallestElement(BaseType(type)) != 0 : FormOf(type).form != Form::none;
 }
 
-std::string WhatItNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
+std::string DescribeNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
     const TypeForm& form = FormOf(type);
     if (form.form == Form::fixed) return "needs " + std::to_string(form.size) + " bytes";
     if (size < 4) return "needs 4 bytes for its count";
@@ -43,9 +43,9 @@ std::string WhatItNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
 
 } // namespace
 
-SectionReader::SectionReader(const uint8_t* head, size_t left, size_t room, std::string place, Allowance& allowance,
-                             Report& report, ImageSection& section)
-    : head_(head), left_(left), room_(room), place_(std::move(place)), allowance_(allowance), report_(report),
+SectionReader::SectionReader(const uint8_t* head, size_t left, size_t available, std::string place,
+                             Allowance& allowance, Report& report, ImageSection& section)
+    : head_(head), left_(left), available_(available), place_(std::move(place)), allowance_(allowance), report_(report),
       section_(section) {}
 
 std::string SectionReader::NameOf(const Entry& entry) const {
@@ -58,15 +58,14 @@ size_t SectionReader::Read() {
     reached_ = kSectionHeadSize;
     if (section_.size > left_)
         report_.Add(FindingCode::sectionSizePastEnd, Severity::irregular, section_.offset, place_, ": size ",
-                    section_.size, ", but only ", left_,
-                    " bytes are left in the stream; its values are looked for there");
+                    section_.size, ", but only ", left_, " bytes remain in the stream; the values are read from these");
     if (section_.size % 4 != 0)
         report_.Add(FindingCode::sectionSizeOdd, Severity::note, section_.offset, place_, ": size ", section_.size,
-                    " is no multiple of 4");
+                    " is not a multiple of 4");
     ReadTable();
-    LookAtTable();
+    CheckTable();
     ReadValues();
-    LookAtGaps();
+    CheckGaps();
     section_.properties.reserve(entries_.size());
     for (Entry& entry : entries_)
         if (entry.isProperty) section_.properties.push_back(std::move(entry.property));
@@ -77,9 +76,9 @@ void SectionReader::ReadTable() {
     const size_t fitting = (left_ - kSectionHeadSize) / kPropertyLineSize;
     const bool isShort = section_.count > fitting;
     if (isShort)
-        report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_, ": table of ",
+        report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_, ": a table of ",
                     section_.count, " properties needs ", uint64_t{section_.count} * kPropertyLineSize, " bytes, ",
-                    left_ - kSectionHeadSize, " are left; read up to the first value");
+                    left_ - kSectionHeadSize, " remain; it is read up to the first value");
     size_t firstValue = left_;
     entries_.reserve(std::min({fitting, size_t{section_.count}, kUsualEntries}));
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
@@ -87,7 +86,7 @@ void SectionReader::ReadTable() {
         if (isShort && at + kPropertyLineSize > firstValue) break; // the table ends at the first value
         if (!allowance_.Spend(kPropertyLineSize)) {
             report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + at, place_,
-                        ": the tables hold more than the stream could; the rest is left out");
+                        ": the tables are larger than the stream allows; the rest is ignored");
             break;
         }
         Entry entry{};
@@ -100,7 +99,7 @@ void SectionReader::ReadTable() {
 }
 
 // Sorts the entries by offset and checks the table.
-void SectionReader::LookAtTable() {
+void SectionReader::CheckTable() {
     size_t unaligned = 0;
     bool isAscending = true;
     sorted_.reserve(entries_.size());
@@ -109,18 +108,18 @@ void SectionReader::LookAtTable() {
         sorted_.push_back(&entry);
         if (entry.offset % 4 != 0) ++unaligned;
     }
-    LookForRepeatedIds();
+    CheckRepeatedIds();
     if (unaligned > 0)
         report_.Add(FindingCode::offsetUnaligned, Severity::note, section_.offset + kSectionHeadSize, place_, ": ",
-                    unaligned, " values stand at offsets that are no multiples of 4");
+                    unaligned, " values have offsets that are not multiples of 4");
     if (isAscending) return;
     report_.Add(FindingCode::offsetNotAscending, Severity::note, section_.offset + kSectionHeadSize, place_,
-                ": the values are not in the order of the table");
+                ": the values are not in table order");
     std::stable_sort(sorted_.begin(), sorted_.end(),
                      [](const Entry* a, const Entry* b) { return a->offset < b->offset; });
 }
 
-void SectionReader::LookForRepeatedIds() {
+void SectionReader::CheckRepeatedIds() {
     const auto isNotAscending = [](const Entry* a, const Entry* b) { return a->id >= b->id; };
     if (std::adjacent_find(sorted_.begin(), sorted_.end(), isNotAscending) == sorted_.end()) return;
     std::vector<const Entry*> byId(sorted_.begin(), sorted_.end()); // still in table order
@@ -131,7 +130,7 @@ void SectionReader::LookForRepeatedIds() {
         if (entry.id != byId[i - 1]->id) continue;
         const size_t at = kSectionHeadSize + static_cast<size_t>(&entry - entries_.data()) * kPropertyLineSize;
         report_.Add(FindingCode::idRepeated, Severity::irregular, section_.offset + at, NameOf(entry),
-                    ": listed before; readers take the first or the last");
+                    ": the identifier is repeated; readers use the first or the last");
     }
 }
 
@@ -141,9 +140,9 @@ void SectionReader::ReadValues() {
         Entry& entry = *sorted_[i];
         while (next < sorted_.size() && sorted_[next]->offset <= entry.offset)
             ++next;
-        const size_t behind = entry.offset < room_ ? room_ : left_;
-        const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, left_) : behind;
-        entry.room = end >= entry.offset + kTypeSize ? end - entry.offset - kTypeSize : 0;
+        const size_t limit = entry.offset < available_ ? available_ : left_;
+        const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, left_) : limit;
+        entry.available = end >= entry.offset + kTypeSize ? end - entry.offset - kTypeSize : 0;
         if (entry.id != kDictionaryId) ReadValue(entry);
     }
     ReadCodePage();
@@ -154,12 +153,11 @@ void SectionReader::ReadValues() {
             ReadDictionary(entry);
         }
         if (entry.isProperty && entry.property.state == ValueState::complete)
-            FindValueOddities(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize, place_,
-                              report_);
+            CheckValue(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize, place_, report_);
         if (section_.size <= left_ && entry.end > section_.size)
             report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
                         NameOf(entry), " ends beyond the section's size of ", section_.size,
-                        "; it is there all the same");
+                        "; the value is present nevertheless");
     }
 }
 
@@ -172,7 +170,7 @@ void SectionReader::ReadValue(Entry& entry) {
     property.state = ValueState::partial;
     if (entry.offset > left_ - kTypeSize) {
         report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, NameOf(entry), ": offset ", entry.offset,
-                    ", but the stream has ", left_, " bytes from the section's head; there is no value");
+                    ", but the stream has ", left_, " bytes from the start of the section; the value is missing");
         return;
     }
     const uint32_t type = Load32(head_ + entry.offset);
@@ -180,36 +178,36 @@ void SectionReader::ReadValue(Entry& entry) {
     property.typeHighHalf = static_cast<uint16_t>(type >> 16);
     if (type != property.type)
         report_.Add(FindingCode::typeHighHalf, Severity::irregular, at, NameOf(entry), ": type ", Hex{type},
-                    " has a high half, which readers leave out");
+                    " has bits in its high half, which readers ignore");
 
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     const bool isVector = IsVector(property.type);
     // A vector is measured only up to the next value, so that no bytes are measured twice.
-    const size_t reach = isVector ? entry.room : left_ - entry.offset - kTypeSize;
-    if (isVector && !allowance_.Spend(reach)) return TooLarge(entry);
+    const size_t reach = isVector ? entry.available : left_ - entry.offset - kTypeSize;
+    if (isVector && !allowance_.Spend(reach)) return ReportTooLarge(entry);
     if (const std::optional<Extent> extent = MeasureValue(property.type, bytes, reach)) {
-        if (!isVector && !allowance_.Spend(extent->size)) return TooLarge(entry);
+        if (!isVector && !allowance_.Spend(extent->size)) return ReportTooLarge(entry);
         Keep(entry, ValueState::complete, extent->size);
     } else if (HasForm(property.type)) {
         report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ", TypeName(property.type), " ",
-                    WhatItNeeds(property.type, bytes, reach), ", ", reach,
-                    " bytes are there; it can't be read in full");
-        if (!isVector && !allowance_.Spend(entry.room)) return TooLarge(entry);
-        Keep(entry, ValueState::partial, entry.room);
+                    DescribeNeeds(property.type, bytes, reach), ", ", reach,
+                    " bytes are present; the value is truncated");
+        if (!isVector && !allowance_.Spend(entry.available)) return ReportTooLarge(entry);
+        Keep(entry, ValueState::partial, entry.available);
     } else {
         report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ", TypeName(property.type),
-                    " is not known; its bytes are kept up to the next value");
+                    " is unknown; its bytes up to the next value are preserved");
         const size_t toSectionEnd =
             section_.size > entry.offset + kTypeSize ? section_.size - entry.offset - kTypeSize : 0;
-        const size_t size = std::min(entry.room, toSectionEnd > 0 ? toSectionEnd : entry.room);
-        if (!isVector && !allowance_.Spend(size)) return TooLarge(entry);
+        const size_t size = std::min(entry.available, toSectionEnd > 0 ? toSectionEnd : entry.available);
+        if (!isVector && !allowance_.Spend(size)) return ReportTooLarge(entry);
         Keep(entry, ValueState::opaque, size);
     }
 }
 
-void SectionReader::TooLarge(Entry& entry) {
+void SectionReader::ReportTooLarge(Entry& entry) {
     report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + uint64_t{entry.offset}, NameOf(entry),
-                ": the values hold more than the stream could; left out");
+                ": the values are larger than the stream allows; ignored");
 }
 
 void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
@@ -230,30 +228,32 @@ void SectionReader::ReadCodePage() {
             section_.codePage = Load16(property.bytes.data());
         else
             report_.Add(FindingCode::codePageType, Severity::irregular, section_.offset + uint64_t{entry.offset},
-                        place_, ": the code page has ", TypeName(property.type), " instead of VT_I2; taken as none");
+                        place_, ": the code page has ", TypeName(property.type), " instead of VT_I2; ignored");
     }
     if (!section_.codePage && hasText)
         report_.Add(FindingCode::noCodePage, Severity::irregular, section_.offset, place_,
-                    ": no code page; readers take 1252 or the code page of their own system");
+                    ": no code page; readers use 1252 or the code page of their system");
 }
 
 void SectionReader::ReadDictionary(Entry& entry) {
     const uint64_t at = section_.offset + uint64_t{entry.offset};
     if (entry.offset > left_ - kTypeSize) {
         report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, place_, ": the dictionary's offset is ",
-                    entry.offset, ", but the stream has ", left_, " bytes from the section's head; there are no names");
+                    entry.offset, ", but the stream has ", left_,
+                    " bytes from the start of the section; the names are missing");
         return;
     }
     const uint8_t* bytes = head_ + entry.offset;
-    const size_t size = kTypeSize + entry.room;
+    const size_t size = kTypeSize + entry.available;
     const uint16_t codePage = section_.codePage.value_or(kUsualCodePage);
-    if (!allowance_.Spend(size)) return TooLarge(entry);
+    if (!allowance_.Spend(size)) return ReportTooLarge(entry);
     const uint32_t type = Load32(bytes);
-    const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.room);
+    const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.available);
     const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
-    if (asValue && (isLastInSection || entry.room - asValue->size < 4) && !IsWholeDictionary(bytes, size, codePage)) {
+    if (asValue && (isLastInSection || entry.available - asValue->size < 4) &&
+        !IsWholeDictionary(bytes, size, codePage)) {
         report_.Add(FindingCode::dictionaryTyped, Severity::irregular, at, place_,
-                    ": property 0 is no dictionary but a value of type ", TypeName(type));
+                    ": property 0 is not a dictionary but a value of type ", TypeName(type));
         return ReadValue(entry);
     }
     const std::optional<ImageDictionary> dictionary = ReadImageDictionary(bytes, size, codePage, at, place_, report_);
@@ -263,7 +263,7 @@ void SectionReader::ReadDictionary(Entry& entry) {
 }
 
 // Checks in offset order for unused bytes between values and for overlapping values.
-void SectionReader::LookAtGaps() {
+void SectionReader::CheckGaps() {
     const size_t tableEnd = reached_;
     const Entry* before = nullptr;
     for (const Entry* entry : sorted_) {
@@ -274,16 +274,16 @@ void SectionReader::LookAtGaps() {
         }
         if (entry->offset < tableEnd)
             report_.Add(FindingCode::offsetInTable, Severity::irregular, at, NameOf(*entry), ": offset ", entry->offset,
-                        " lies inside the table of properties");
+                        " is inside the table of properties");
         else if (before == nullptr && entry->offset >= tableEnd + kTypeSize)
             report_.Add(FindingCode::gapAfterTable, Severity::irregular, section_.offset + tableEnd, place_, ": ",
-                        entry->offset - tableEnd, " unused bytes behind the table of properties");
+                        entry->offset - tableEnd, " unused bytes after the table of properties");
         if (before != nullptr && before->end > entry->offset)
             report_.Add(FindingCode::valuesOverlap, Severity::irregular, at, NameOf(*entry), " begins inside property ",
                         before->id);
         else if (before != nullptr && before->end != 0 && entry->offset >= Aligned(before->end) + kTypeSize)
             report_.Add(FindingCode::unusedBytes, Severity::irregular, section_.offset + before->end, NameOf(*before),
-                        ": ", entry->offset - Aligned(before->end), " unused bytes behind the value");
+                        ": ", entry->offset - Aligned(before->end), " unused bytes after the value");
         reached_ = std::max(reached_, entry->end);
         before = entry;
     }

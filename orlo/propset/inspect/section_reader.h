@@ -25,8 +25,8 @@ private:
 class SectionReader {
 public:
     // `head` points to the section's header of at least 8 bytes; `left` is the number of bytes up to the end of the
-    // stream, `room` that up to the next section. `section` has its offset; the reader fills in the rest.
-    SectionReader(const uint8_t* head, size_t left, size_t room, std::string place, Allowance& allowance,
+    // stream, `available` that up to the next section. `section` has its offset; the reader fills in the rest.
+    SectionReader(const uint8_t* head, size_t left, size_t available, std::string place, Allowance& allowance,
                   Report& report, ImageSection& section);
 
     // Returns the offset after the last byte that was read, relative to the start of the section.
@@ -37,27 +37,27 @@ private:
     struct Entry {
         uint32_t id;
         uint32_t offset;
-        size_t room = 0;         // bytes after the type code, up to the next value
+        size_t available = 0;    // bytes after the type code, up to the next value
         size_t end = 0;          // offset after the bytes that were read, or 0 if there are none
         bool isProperty = false; // false for the dictionary
         ImageProperty property{};
     };
 
     void ReadTable();
-    void LookAtTable();
-    void LookForRepeatedIds();
+    void CheckTable();
+    void CheckRepeatedIds();
     void ReadValues();
     void ReadValue(Entry& entry);
-    void TooLarge(Entry& entry);
+    void ReportTooLarge(Entry& entry);
     void Keep(Entry& entry, ValueState state, size_t size);
     void ReadCodePage();
     void ReadDictionary(Entry& entry);
-    void LookAtGaps();
+    void CheckGaps();
     std::string NameOf(const Entry& entry) const;
 
     const uint8_t* head_;
     size_t left_;
-    size_t room_;
+    size_t available_;
     std::string place_;
     Allowance& allowance_;
     Report& report_;

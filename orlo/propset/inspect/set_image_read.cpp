@@ -23,7 +23,7 @@ public:
         std::optional<SetImage> image;
         if (ReadHeader()) {
             ReadSections();
-            LookAtTrailingBytes();
+            CheckTrailingBytes();
             image = std::move(image_);
         }
         report_.Sort();
@@ -33,7 +33,7 @@ public:
 private:
     bool ReadHeader();
     void ReadSections();
-    void LookAtTrailingBytes();
+    void CheckTrailingBytes();
 
     const uint8_t* data_;
     size_t size_;
@@ -45,8 +45,8 @@ private:
 
 bool SetReader::ReadHeader() {
     if (size_ < kSetHeadSize) {
-        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "header needs ", kSetHeadSize, " bytes, ", size_,
-                    " are there; this is no property set");
+        report_.Add(FindingCode::headerShort, Severity::damaged, 0, "the header needs ", kSetHeadSize, " bytes, ",
+                    size_, " are present; not a property set");
         return false;
     }
     image_.byteOrder = Load16(data_);
@@ -55,25 +55,25 @@ bool SetReader::ReadHeader() {
     std::memcpy(&image_.classId, data_ + 8, sizeof image_.classId);
     image_.sectionCount = Load32(data_ + 24);
     if (image_.byteOrder != kLittleEndianMark) {
-        report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "byte order mark is ", std::hex, image_.byteOrder,
-                    " instead of fffe; this is no property set");
+        report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "the byte order mark is ", std::hex, image_.byteOrder,
+                    " instead of fffe; not a property set");
         return false;
     }
     const size_t left = size_ - kSetHeadSize;
     if (image_.sectionCount > left / kSectionLineSize) {
-        report_.Add(FindingCode::sectionListShort, Severity::damaged, 24, "list of ", image_.sectionCount,
+        report_.Add(FindingCode::sectionListShort, Severity::damaged, 24, "a list of ", image_.sectionCount,
                     " sections needs ", uint64_t{image_.sectionCount} * kSectionLineSize, " bytes, ", left,
-                    " are left; this is no property set");
+                    " remain; not a property set");
         return false;
     }
     if (image_.version > 1)
-        report_.Add(FindingCode::formatVersion, Severity::irregular, 2, "format version is ", image_.version,
-                    ", only 0 and 1 are known; read as those");
+        report_.Add(FindingCode::formatVersion, Severity::irregular, 2, "the format version is ", image_.version,
+                    "; only 0 and 1 are known, and it is read like these");
     if (image_.sectionCount == 0)
-        report_.Add(FindingCode::noSections, Severity::irregular, 24, "there are no sections, and no values");
+        report_.Add(FindingCode::noSections, Severity::irregular, 24, "the set has no sections and no values");
     if (image_.sectionCount > 2)
         report_.Add(FindingCode::manySections, Severity::irregular, 24, image_.sectionCount,
-                    " sections; most readers take one or two");
+                    " sections; most readers use one or two");
     reached_ += kSectionLineSize * image_.sectionCount;
     return true;
 }
@@ -93,7 +93,7 @@ void SetReader::ReadSections() {
         const std::string place = "section " + std::to_string(i);
         if (head > size_ - kSectionHeadSize) {
             report_.Add(FindingCode::sectionOffsetPastEnd, Severity::damaged, entry + 16, place, ": offset ", head,
-                        ", but the stream has ", size_, " bytes; left out");
+                        ", but the stream has ", size_, " bytes; ignored");
             continue;
         }
         ImageSection section;
@@ -101,30 +101,30 @@ void SetReader::ReadSections() {
         section.offset = static_cast<uint32_t>(head);
         if (!formats.emplace(reinterpret_cast<const char*>(data_ + entry), sizeof section.formatId).second)
             report_.Add(FindingCode::sectionRepeated, Severity::irregular, entry, place,
-                        ": another section of that format ID comes before; readers take the first");
+                        ": an earlier section has the same format ID; readers use the first");
         if (head < listEnd)
             report_.Add(FindingCode::sectionOffsetInHeader, Severity::irregular, entry + 16, place, ": offset ", head,
-                        " lies inside the header");
+                        " is inside the header");
         if (head % 4 != 0)
             report_.Add(FindingCode::sectionUnaligned, Severity::irregular, entry + 16, place, ": offset ", head,
-                        " is no multiple of 4");
+                        " is not a multiple of 4");
         const auto next = std::upper_bound(sorted.begin(), sorted.end(), head);
         const size_t end = next != sorted.end() && *next < size_ ? *next : size_;
         SectionReader reader(data_ + head, size_ - head, end - head, place, allowance_, report_, section);
-        const size_t behind = head + reader.Read();
-        reached_ = std::max(reached_, behind);
+        const size_t readEnd = head + reader.Read();
+        reached_ = std::max(reached_, readEnd);
         if (section.size <= size_ - head) reached_ = std::max(reached_, head + section.size);
         image_.sections.push_back(std::move(section));
     }
 }
 
-void SetReader::LookAtTrailingBytes() {
+void SetReader::CheckTrailingBytes() {
     const size_t trailing = size_ - std::min(size_, reached_);
     if (trailing == 0) return;
     const uint8_t* rest = data_ + reached_;
     const bool areZero = *rest == 0 && std::memcmp(rest, rest + 1, trailing - 1) == 0;
     report_.Add(FindingCode::trailingBytes, areZero ? Severity::note : Severity::irregular, reached_, trailing,
-                " bytes behind the set", areZero ? ", all zero" : ", not all zero; they belong to nothing");
+                " unused bytes after the set", areZero ? ", all zero" : ", not all zero");
 }
 
 } // namespace

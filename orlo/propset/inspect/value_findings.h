@@ -9,7 +9,7 @@
 namespace orlo {
 
 // `place` names the section; `offset` is the offset of the property's bytes in the stream.
-void FindValueOddities(const ImageProperty& property, std::optional<uint16_t> codePage, uint64_t offset,
-                       const std::string& place, Report& report);
+void CheckValue(const ImageProperty& property, std::optional<uint16_t> codePage, uint64_t offset,
+                const std::string& place, Report& report);
 
 } // namespace orlo
