@@ -1,4 +1,4 @@
-// The host's and the host program's calls on the application.
+// Functions of hosts and host programs for the application.
 
 #include "orlo/host/application.h"
 

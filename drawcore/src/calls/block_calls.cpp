@@ -1,4 +1,4 @@
-// The host's calls on blocks and insertions.
+// Functions of the host contract for blocks and insertions.
 
 #include "drawcore/include/drawcore/table.h"
 #include "drawcore/src/calls/matrix_record.h"

@@ -1,4 +1,4 @@
-// The host's and the host program's calls on drawings and their tables.
+// Functions of hosts and host programs for drawings and their tables.
 
 #include <new>
 
@@ -26,7 +26,7 @@ GraphicStruct* DrawingGetRoot(DrawingStruct* drawing) {
 
 uint16_t DrawingGetCoordSpace(DrawingStruct* drawing) {
     const Drawing* found = Drawing::Find(drawing);
-    return found ? found->coordSpace : uint16_t{kSpaceDevice}; // no drawing has no lengths
+    return found ? found->coordSpace : uint16_t{kSpaceDevice}; // without a drawing, lengths cannot be converted
 }
 
 int DrawingSetCoordSpace(DrawingStruct* drawing, uint16_t space) {

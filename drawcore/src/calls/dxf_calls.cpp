@@ -1,4 +1,4 @@
-// The call with which a host program opens a DXF drawing.
+// Opens a DXF drawing for a host program.
 
 #include <new>
 
@@ -12,7 +12,7 @@ using namespace drawcore;
 
 namespace {
 
-constexpr int kReadingShare = 700; // of 1000: reading takes longer than making the drawing
+constexpr int kReadingShare = 700; // in thousandths; reading takes longer than creating the drawing
 
 std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) {
     const ProgressReport report(listener);

@@ -1,4 +1,4 @@
-// The host's calls on graphics.
+// Functions of the host contract for graphics.
 
 #include <cmath>
 #include <new>
@@ -32,7 +32,7 @@ Graphic* NewOfType(int type) {
     }
 }
 
-// The first member from that place on that passes; the position becomes the place after it.
+// Returns the first member at or after that index that passes the filter, and sets the position after it.
 GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t place, void* position, uint32_t filter) {
     if (!set || !position) return nullptr;
     const Graphic& graphic = *Graphic::From(set);
@@ -51,7 +51,7 @@ VertexGraphic* AsVertices(GraphicStruct* graphic) {
                                                          : nullptr;
 }
 
-// Changes an attribute directly: no check against properties, but the undo log sees it.
+// Changes an attribute without checking it against properties, but recorded for undo.
 template <class Change>
 void ChangeAttribute(GraphicStruct* record, Change change) {
     if (!record) return;
@@ -113,7 +113,7 @@ GraphicStruct* GraphicAdd(GraphicStruct* parent, GraphicStruct* child) {
 }
 
 void GraphicDelete(GraphicStruct* owner, GraphicStruct* child) {
-    if (owner && child) Graphic::From(owner)->Release(Graphic::From(child)).release(); // now the caller's
+    if (owner && child) Graphic::From(owner)->Release(Graphic::From(child)).release(); // the caller owns it now
 }
 
 GraphicStruct* GraphicFirst(GraphicStruct* set, void* position, int, uint32_t filter) {

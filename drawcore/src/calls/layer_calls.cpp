@@ -1,4 +1,4 @@
-// The host's calls on layers.
+// Functions of the host contract for layers.
 
 #include "drawcore/include/drawcore/layer.h"
 #include "drawcore/src/database/drawing.h"

@@ -1,4 +1,4 @@
-// The host's calls on matrices.
+// Functions of the host contract for matrices.
 
 #include <cmath>
 #include <cstring>

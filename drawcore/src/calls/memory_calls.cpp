@@ -1,4 +1,4 @@
-// Blocks and strings that cross the boundary, and the count of everything that has to be freed.
+// Memory blocks and strings that are passed to callers, and the counts of existing objects.
 
 #include "orlo/host/memory.h"
 

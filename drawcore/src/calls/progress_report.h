@@ -1,4 +1,4 @@
-// How far a drawing is opened or saved, for the program that waits; it may cancel there.
+// Reports the progress of opening or saving to the host program, which may cancel.
 #pragma once
 
 #include <memory>
@@ -16,16 +16,16 @@ public:
 
 class ProgressReport {
 public:
-    // The listener may be null; it has to outlive the report and its parts.
+    // The listener may be null; it must outlive the report and its parts.
     explicit ProgressReport(const DxfListener* listener) : listener_(listener) {}
 
-    // Throws Cancelled if the listener wants no more.
+    // Throws Cancelled if the listener cancels.
     void operator()(int permille) const {
-        if (permille < *done_) return; // of a step that is done once more
+        if (permille < *done_) return; // progress of a step that is repeated
         *done_ = permille;
         if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille)) throw Cancelled();
     }
-    // For a step that counts from 0 to 1000 itself, and is this part of the whole.
+    // Returns the progress function for a step that counts from 0 to 1000 and is this part of the whole.
     dxf::Progress Part(int from, int to) const {
         return [*this, from, to](int permille) { (*this)(from + permille * (to - from) / 1000); };
     }

@@ -1,4 +1,4 @@
-// The host program's calls on values of properties as texts.
+// Functions of host programs for property values as text.
 
 #include "drawcore/include/drawcore/property_text.h"
 #include "drawcore/src/database/drawing.h"
@@ -37,7 +37,7 @@ std::string ValueText(const Drawing* drawing, const PropertyInfo& info, uint32_t
     return entry ? entry->name : "#" + std::to_string(value);
 }
 
-// Without a drawing, or in one whose units cannot be used, a plain number.
+// Formats a plain number if there is no drawing or its units are invalid.
 std::string RealText(DrawingStruct* drawing, GraphicStruct* graphic, const PropertyInfo& info, double value) {
     const bool isOnPaper = info.meaning == PropertyMeaning::Width &&
                            ReadProperty<uint8_t>(graphic, kPropScaleSystem) == uint8_t{kScalePaper};
@@ -52,7 +52,7 @@ std::string RealText(DrawingStruct* drawing, GraphicStruct* graphic, const Prope
     return text[0] ? text : DecimalText(value, kDigits);
 }
 
-// Empty if the graphic has no such property.
+// Returns an empty string if the graphic has no such property.
 std::string TextOf(GraphicStruct* graphic, const PropertyInfo& info) {
     DrawingStruct* drawing = GraphicGetDrawing(graphic);
     if (info.IsText()) return ReadProperty<std::string>(graphic, info.name).value_or("");

@@ -1,4 +1,4 @@
-// The call with which a host program saves a drawing into a DXF file.
+// Saves a drawing to a DXF file for a host program.
 
 #include <algorithm>
 #include <map>
@@ -27,13 +27,13 @@ using namespace drawcore;
 
 namespace {
 
-// Carries what was touched into the text.
+// Writes the changed graphics into the text.
 class ChangeExport {
 public:
     ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch, Leftovers& left)
         : drawing_(drawing), structure_(structure), left_(left), looks_(drawing, patch) {}
 
-    // Layers are added even if nothing is on them.
+    // Layers are added even if they are empty.
     void Write(const std::vector<Id>& newLayers) {
         const BlockTable* blocks = drawing_.Blocks();
         for (const Id id : newLayers)
@@ -76,27 +76,27 @@ bool IsTouched(const Drawing& drawing) {
     return touched;
 }
 
-// The shares of 1000 that are done then.
+// Completed shares in thousandths.
 constexpr int kPatched = 200, kReadBack = 500, kCompared = 700;
 
-// What a drawing becomes when it is saved.
+// The source of a drawing after saving.
 struct ChangedSource {
     std::string bytes;
     dxf::Document known;
     Sources sources;
-    std::vector<uint32_t> removedLeft;          // StructureExport::RemovedLeft, in the bytes
+    std::vector<uint32_t> removedLeft;          // StructureExport::RemovedLeft, as offsets in the bytes
     std::map<std::string, size_t> onlyExtended; // DrawingPatch::OnlyExtended
 };
 
-// One way of a drawing into the text of its file and back. What is left over by then, and was not before, makes the
-// result useless: the next way leaves it out.
+// One conversion of a drawing to the text of its file and back. If this finds graphics that cannot be saved and were
+// not known before, the result is useless and the next pass omits them.
 class SavePass {
 public:
     SavePass(const Drawing& drawing, Leftovers& left, const ProgressReport& report)
         : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left), report_(report) {
     }
 
-    // None, and the source stays, if the drawing is what the file has.
+    // Returns nothing, and keeps the source, if the drawing equals its file.
     std::optional<ChangedSource> Run() {
         dxf::StructurePatch structurePatch(text_, source_.known.Tables());
         StructureExport structure(drawing_, structurePatch, left_);
@@ -124,10 +124,10 @@ public:
     }
 
 private:
-    // Whether the pass is to be made again without what is left over by now.
+    // Returns whether the pass must be repeated without the graphics found meanwhile.
     bool IsInVain() const { return left_.Count() != before_; }
 
-    // Those that the drawing did not have when it was read or saved.
+    // Returns the layers added since the drawing was read or saved.
     std::vector<Id> NewLayers() const {
         std::vector<Id> added;
         const LayerTable* layers = drawing_.Layers();
@@ -167,7 +167,7 @@ private:
             if (layers->IdOf(name)) continue;
             const std::string layer = Utf8FromCodePage(name);
             if (dxf::FirstOnLayer(text, document, layer).empty()) continue;
-            const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // with its line there
+            const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // including its line
             left_.Add(Leftovers::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
         }
     }
@@ -194,7 +194,8 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
     return std::filesystem::equivalent(a, b, error);
 }
 
-// Ways until nothing more is left over. SaveError for the first thing that is, unless the rest is wanted.
+// Runs passes until no further graphic must be omitted. Throws SaveError for the first one unless saving the rest was
+// requested.
 std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Leftovers& left,
                                     const ProgressReport& report) {
     for (;;) {
@@ -205,7 +206,7 @@ std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Left
     }
 }
 
-// What was to be removed and is left is tried again when the drawing is saved next.
+// Removed graphics that remain in the file are removed again at the next save.
 void NoteContents(const Drawing& drawing, const Leftovers& left, const std::vector<uint32_t>& removedLeft) {
     DxfSource& source = *drawing.source;
     const std::vector<std::string> layers = source.layers, blocks = source.blocks;
@@ -238,8 +239,8 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, co
     const dxf::Progress progress = report.Part(kCompared, 1000);
     files::FileReplacement file(path);
     file.Write(bytes, [&](size_t written) { progress(dxf::Permille(written, bytes.size())); });
-    if (isChanged()) return kSaveFileChanged; // while it was written
-    file.TakePlace();                         // from here on nothing is cancelled
+    if (isChanged()) return kSaveFileChanged; // while this program was writing
+    file.TakePlace();                         // cannot be canceled from here on
     const std::vector<uint32_t> removedLeft =
         changed ? changed->removedLeft : std::vector<uint32_t>(left.Removed().begin(), left.Removed().end());
     if (changed) {
@@ -274,7 +275,7 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         return kSaveCancelled;
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory to save the drawing", message, size);
-    } catch (const std::exception& error) { // SaveError, ReadError, FileError, of a path
+    } catch (const std::exception& error) { // SaveError, ReadError, FileError, or an invalid path
         CopyText(error.what(), message, size);
     }
     return kSaveFailed;

@@ -1,4 +1,4 @@
-// The host program's calls on selections.
+// Functions of host programs for selections.
 
 #include <new>
 

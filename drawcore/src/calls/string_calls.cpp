@@ -1,4 +1,4 @@
-// The texts that the library shows: the string table of this module's resources.
+// User-visible strings of the library, from this module's string table.
 
 #include "orlo/host/strings.h"
 

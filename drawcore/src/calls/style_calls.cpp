@@ -1,4 +1,4 @@
-// The host's and the host program's calls on line styles and brush styles.
+// Functions of hosts and host programs for line styles and brush styles.
 
 #include <algorithm>
 #include <cmath>
@@ -19,10 +19,10 @@ auto FindStyle(TableStruct* table, uint16_t id) {
     return styles ? styles->At(id) : nullptr;
 }
 
-constexpr size_t kShownDashes = 8; // what a caller's buffer takes
+constexpr size_t kShownDashes = 8; // size of a caller's buffer
 constexpr int kMostLines = 256;
 
-// The line at that place of the walk; the cookie becomes the place after it.
+// Returns the line at that index and sets the cookie after it.
 const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int place, int* cookie) {
     const BrushStyle* style = FindStyle<BrushStyleTable>(table, id);
     if (!style || !cookie || place < 0 || static_cast<size_t>(place) >= style->lines.size()) return nullptr;
@@ -38,7 +38,7 @@ bool HasFiniteNumbers(const BrushLine& line) {
            std::all_of(line.dashes, line.dashes + line.dashCount, finite);
 }
 
-// The offset of the lines is given along and across them.
+// Converts the offset of the lines, given along and across them.
 PatternLine FromHost(const BrushLine& from) {
     const double c = std::cos(from.angle), s = std::sin(from.angle);
     PatternLine line;
@@ -90,7 +90,7 @@ uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLin
 
 namespace {
 
-constexpr int kShownItems = 8; // what a caller's buffer takes
+constexpr int kShownItems = 8; // size of a caller's buffer
 constexpr int kMostItems = 64;
 
 int ShownItems(const LineStyle* style) {

@@ -1,4 +1,4 @@
-// The host's calls on tables. A freed table, or none, answers like an empty one.
+// Functions of the host contract for tables. A freed table behaves like an empty one.
 
 #include "drawcore/include/drawcore/table.h"
 #include "drawcore/src/database/drawing.h"

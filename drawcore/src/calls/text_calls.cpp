@@ -1,4 +1,4 @@
-// The host's calls on text graphics.
+// Functions of the host contract for text graphics.
 
 #include <cmath>
 

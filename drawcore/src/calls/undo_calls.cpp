@@ -1,4 +1,4 @@
-// The host program's calls on undo and redo.
+// Functions of host programs for undo and redo.
 
 #include <functional>
 #include <type_traits>
@@ -12,7 +12,7 @@ using drawcore::UndoLog;
 
 namespace {
 
-// Returns the result of the log's method; 0 if there is no such drawing.
+// Calls a method of the undo log. Returns 0 if there is no such drawing.
 template <class Method>
 auto Ask(DrawingStruct* drawing, Method method) -> std::invoke_result_t<Method, UndoLog&> {
     Drawing* found = Drawing::Find(drawing);

@@ -1,4 +1,4 @@
-// The host's conversions between texts and numbers in the units of a drawing.
+// Conversion between text and numbers in the units of a drawing.
 
 #include <cmath>
 
@@ -14,17 +14,17 @@ namespace drawcore {
 
 namespace {
 
-// Millimeters that the number 1 stands for: drawing units count as they are, paper lengths are always in millimeters.
+// Returns the millimeters in the number 1: drawing units are converted, lengths on paper are always in millimeters.
 double NumberUnit(uint16_t variable, const LengthUnit& unit) {
     return variable == kUnitDrawing ? unit.millimeters : 1.0;
 }
 
-// The unit of the text: that of the display variable, or with 0 that of the number's own.
+// Returns the unit of the text: that of the display variable or, if it is 0, that of the number.
 const LengthUnit* TextUnit(const Table& units, uint16_t display, uint16_t number) {
     return UnitOfVariable(units, display ? display : number);
 }
 
-// The whole text into the caller's buffer; cut off, it would be another number.
+// Copies text to the caller's buffer only if it fits, because a truncated number would be a different one.
 int Give(const std::string& text, char* buffer, int size) {
     if (text.empty() || !buffer || size <= 0 || text.size() >= static_cast<size_t>(size)) return 0;
     CopyText(text, buffer, size);
@@ -48,7 +48,7 @@ int NumberToText(Table* units, uint16_t display, uint16_t number, double value, 
     if (!of || !shown) return 0;
     LengthFormat format = LengthFormatOf(*units);
     format.suffix = suffix;
-    if (number != kUnitDrawing) format.system = LengthSystem::Decimal; // what lies on paper has no feet
+    if (number != kUnitDrawing) format.system = LengthSystem::Decimal; // lengths on paper are not written in feet
     return Give(WriteLength(value * NumberUnit(number, *of), *shown, format), buffer, size);
 }
 
@@ -57,7 +57,7 @@ Table* UnitsOf(DrawingStruct* drawing) {
     return found ? found->Units() : nullptr;
 }
 
-// The space that a length of the drawing is in, or a text size (kind 1), which follows the drawing.
+// Returns the space of a length in the drawing, or of a text size (kind 1), which depends on the drawing.
 uint16_t SpaceOf(DrawingStruct* drawing, int kind) {
     return kind == 1 ? DrawingGetCoordSpace(drawing) : uint16_t{kSpaceWorld};
 }
@@ -66,7 +66,7 @@ uint16_t UnitInSpace(uint16_t space) {
     return space == kSpaceWorld ? kUnitDrawing : kUnitTextSize;
 }
 
-// The variable that says what the number itself is; one that no table has for the space without lengths.
+// Returns the variable that defines the unit of the number; one that does not exist for the space without lengths.
 uint16_t NumberInSpace(uint16_t space) {
     if (space == kSpaceDevice) return 0;
     return space == kSpaceWorld ? kUnitDrawing : kUnitMillimeter;

@@ -1,4 +1,4 @@
-// The host's calls on vertices: scratch ones, and those of graphics.
+// Functions of the host contract for vertices, both temporary ones and those of graphics.
 
 #include <new>
 

@@ -1,4 +1,4 @@
-// The host's and the host program's calls on viewports and extents: what they show, drawing, finding.
+// Functions of hosts and host programs for viewports and extents: view, drawing, picking.
 
 #include <chrono>
 #include <new>
@@ -25,20 +25,19 @@ const DrawingContents* DrawingFor(const Viewport& viewport, const Graphic& graph
     return drawing ? drawing : graphic.GetDrawing();
 }
 
-// Dash patterns grow with the drawing's scale only in the drawing itself; a sample or a preview is drawn by itself.
+// Dash patterns are scaled with the drawing's line scale only in the drawing itself, not in samples and previews.
 double LineScale(const Graphic& graphic, const DrawingContents* drawing) {
     return drawing && &graphic.Top() == &drawing->Root() ? drawing->lineScale : 1.0;
 }
 
-// A preview shows pens as on paper at full size, however its extents were fitted: pixels of one drawing unit.
+// A preview shows pens in their size on paper, regardless of the extents. Returns the pixels per drawing unit.
 double FullSizeUnit(HDC dc, const DrawingContents* drawing) {
     const Table* units = drawing ? drawing->Units() : nullptr;
     const LengthUnit* unit = units ? UnitOfVariable(*units, kUnitDrawing) : nullptr;
     return (unit ? unit->millimeters : 1.0) * ::GetDeviceCaps(dc, LOGPIXELSX) / kMillimetersPerInch;
 }
 
-// The device context in the units that the viewport counts in: pixels. In other mapping modes the rectangle is
-// converted.
+// Sets the device context to pixels, the units of the viewport. In other mapping modes the rectangle is converted.
 class PixelDC {
 public:
     PixelDC(const Viewport& viewport) : saved_(viewport.dc), rect_(viewport.rect) {
@@ -50,7 +49,7 @@ public:
         rect_ = {std::min(rect_.left, rect_.right), std::min(rect_.top, rect_.bottom),
                  std::max(rect_.left, rect_.right), std::max(rect_.top, rect_.bottom)};
     }
-    // From pixels of the viewport's rectangle to pixels here.
+    // Converts from pixels of the viewport's rectangle to pixels of the device context.
     Matrix FromViewport(const RECT& rect) const {
         const double across = rect.right - rect.left, down = rect.bottom - rect.top;
         if (across <= 0 || down == 0) return {};
@@ -65,7 +64,7 @@ private:
     RECT rect_;
 };
 
-// A layer that is hidden would hide the preview.
+// A hidden layer would hide the preview.
 Id PreviewLayerOf(const DrawingContents* drawing) {
     const Id id = Application::Get().PreviewLayer();
     const LayerTable* layers = drawing ? drawing->Layers() : nullptr;
@@ -75,8 +74,8 @@ Id PreviewLayerOf(const DrawingContents* drawing) {
 
 using Clock = std::chrono::steady_clock;
 
-// Paints a graphic, then its members, of which there may be many, until the time is up. place: 0 at first, then where
-// the last call has stopped. True once all is painted.
+// Paints a graphic and then its members until the time is up. place: 0 at first, then the value from the last call.
+// Returns true when everything has been painted.
 bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewport, uint32_t& place,
                 const Matrix& placement, PaintSettings settings, bool preview) {
     if (!viewport.dc) return true;
@@ -105,7 +104,7 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
     const size_t count = seen.CountIn(graphic);
     while (place < count) {
         if (const Graphic* member = seen.At(graphic, place)) TraceGraphic(*member, inner);
-        constexpr uint32_t kAtOnce = 64; // between two looks at the clock
+        constexpr uint32_t kAtOnce = 64; // number of graphics between time checks
         if (++place % kAtOnce == 0 && Clock::now() >= end) break;
     }
     viewport.painting.budget = tools.budget;

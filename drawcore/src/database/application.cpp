@@ -1,4 +1,4 @@
-// The one application of the process.
+// The single application object of the process.
 #include "drawcore/src/database/application.h"
 
 #include "drawcore/include/drawcore/application.h"

@@ -13,10 +13,10 @@ public:
     static Application& Get();
 
     void SetCurrentDrawing(DrawingStruct* drawing) { pCurrentDrawing = drawing; }
-    void Remove(const DrawingStruct& drawing); // it is about to be freed
-    // Variable kVarPreviewBackground; white if the host program has removed the variable.
+    void Remove(const DrawingStruct& drawing); // Called before the drawing is freed.
+    // Returns the variable kVarPreviewBackground, or white if the host program has removed it.
     uint32_t PreviewBackground() const;
-    Id PreviewLayer() const; // variable kVarPreviewLayer
+    Id PreviewLayer() const; // the variable kVarPreviewLayer
     const Table& Variables() const { return variables_; }
 
     std::string configurationFile;

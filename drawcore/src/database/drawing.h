@@ -12,12 +12,12 @@ public:
     Drawing();
     ~Drawing();
 
-    // Returns the drawing behind a pointer from outside, or null for null and for a drawing that has been freed.
+    // Returns the drawing for a caller's pointer, or null if it is null or the drawing has been freed.
     static Drawing* Find(DrawingStruct* drawing);
 
-    std::string scaleText = "1 : 1"; // of the drawing on paper
+    std::string scaleText = "1 : 1"; // scale of the drawing on paper
     uint16_t coordSpace = kSpaceWorld;
-    std::unique_ptr<DxfSource> source; // null: the drawing was not read from a file
+    std::unique_ptr<DxfSource> source; // null if the drawing was not read from a file
 };
 
 } // namespace drawcore

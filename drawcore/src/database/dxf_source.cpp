@@ -1,4 +1,4 @@
-// What of a drawing is in its file.
+// Compares a drawing with its file.
 #include "drawcore/src/database/dxf_source.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ void NoteMembers(const Graphic& group, std::vector<uint32_t>& sources) {
     }
 }
 
-// A number for what the undo log does not see.
+// A hash of contents that the undo log does not record.
 class ContentsMark {
 public:
     explicit ContentsMark(const Drawing& drawing) {
@@ -58,7 +58,7 @@ private:
         for (size_t i = 0; i < group.MemberCount(); ++i) {
             Graphic& member = *group.MemberAt(i);
             Look look = member.GetLook();
-            look.lastPage = 0; // of no file
+            look.lastPage = 0; // not stored in files
             number_ = number_ * 31 + LookHash()(look);
             for (size_t place = 0; const Vertex* vertex = member.VertexAt(place); ++place) {
                 Mix(vertex->x);

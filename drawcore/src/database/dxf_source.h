@@ -1,4 +1,4 @@
-// The file that a drawing was read from: what is saved is this text with its changes.
+// The file that a drawing was read from. Saving copies its text with the changes.
 #pragma once
 
 #include <filesystem>
@@ -14,16 +14,17 @@ class Drawing;
 struct DxfSource {
     DxfSource(std::string text, const dxf::Document& document) : bytes(std::move(text)), known(document.Tables()) {}
 
-    // The drawing is what the file holds, but for so many things that were left out.
+    // Records that the drawing equals the file, except for that many omitted objects.
     void NoteContents(const Drawing& drawing, size_t left = 0);
-    // Whether it has become another since: by steps of its undo log, by what was added or removed, in blocks or layers.
+    // Returns whether the drawing has changed since then: by undo steps, added or removed graphics, or changes in
+    // blocks or layers.
     bool IsOutdated(const Drawing& drawing) const;
 
     std::string bytes;
     dxf::Document known; // header and tables
     std::filesystem::path path;
-    std::vector<uint32_t> graphics;          // that were made from it: where their records are, rising
-    std::vector<std::string> blocks, layers; // likewise, by their names in the drawing
+    std::vector<uint32_t> graphics;          // offsets of the records that graphics were made from, ascending
+    std::vector<std::string> blocks, layers; // likewise, by name in the drawing
 
 private:
     uint32_t undoMark_ = 0;

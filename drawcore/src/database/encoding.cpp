@@ -1,4 +1,4 @@
-// Conversions by the functions of the system.
+// Converts encodings with the system's functions.
 #include "drawcore/src/database/encoding.h"
 
 #include <cstdio>
@@ -11,7 +11,7 @@ namespace {
 
 std::wstring Utf16(std::string_view text, UINT page) {
     const int size = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0'); // a byte makes one unit at the most
+    std::wstring wide(text.size(), L'\0'); // a byte becomes at most one unit
     wide.resize(static_cast<size_t>(::MultiByteToWideChar(page, 0, text.data(), size, wide.data(), size)));
     return wide;
 }
@@ -27,7 +27,7 @@ std::wstring Utf16FromCodePage(std::string_view text) {
 }
 
 std::string Utf8FromUtf16(std::wstring_view text) {
-    std::string narrow(text.size() * 3, '\0'); // a unit makes three bytes at the most
+    std::string narrow(text.size() * 3, '\0'); // a unit becomes at most three bytes
     const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), narrow.data(),
                                            static_cast<int>(narrow.size()), nullptr, nullptr);
     narrow.resize(static_cast<size_t>(size));

@@ -1,4 +1,4 @@
-// What a document contains, and its entities with their properties.
+// Reads the contents of a document and the properties of its entities.
 #include <algorithm>
 
 #include "drawcore/src/document/contents.h"
@@ -93,7 +93,7 @@ std::vector<std::string> DocumentReader::PropertyNames() {
         names.push_back(info.name);
     const auto place = [](const std::string& name) {
         const PropertyInfo& info = *FindPropertyInfo(name);
-        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
+        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // sorted before the width
     };
     std::stable_sort(names.begin(), names.end(),
                      [&](const std::string& a, const std::string& b) { return place(a) < place(b); });

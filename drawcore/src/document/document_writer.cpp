@@ -1,4 +1,4 @@
-// Setting properties, and comparing the changed document with what was wanted.
+// Sets properties, and compares the changed document with the requested values.
 #include <map>
 
 #include "drawcore/src/document/property_texts.h"
@@ -11,14 +11,14 @@ struct DocumentWriter::Parts {
     explicit Parts(const DocumentReader& from)
         : reader(from), patch(reader.Text(), reader.document_->Tables()), known(*reader.document_) {}
 
-    // Throws SaveError unless the changed document has the looks that were wanted.
+    // Throws SaveError unless the changed document has the requested appearances.
     void RequireWanted(const DocumentReader& after) const;
 
     const DocumentReader& reader;
     Values values; // in the order in which they are set
     DrawingPatch patch;
     const Document& known;
-    std::map<uint32_t, Look> wanted; // by the offsets of entities
+    std::map<uint32_t, Look> wanted; // by offset of the entity
 };
 
 DocumentWriter::DocumentWriter(const DocumentReader& reader, const Values& values)

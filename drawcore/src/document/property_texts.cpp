@@ -1,4 +1,4 @@
-// The forms of values, one row for each property.
+// The text forms of values, one row per property.
 #include "drawcore/src/document/property_texts.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ uint32_t ReadWord(const std::vector<PropertyWord>& words, const std::string& tex
 
 uint32_t ReadColor(const std::string& text, bool ofBrush) {
     std::vector<PropertyWord> markers = WordsOf(PropertyMeaning::Color);
-    if (!ofBrush) markers.pop_back(); // that of the pen
+    if (!ofBrush) markers.pop_back(); // the color of the pen
     if (const std::optional<uint32_t> marker = FindWord(markers, text)) return *marker;
     for (int index = 1; index <= kColorNumbers; ++index)
         if (IsSameName(text, NameOfIndex(index))) return ColorOfIndex(index);
@@ -126,7 +126,7 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 
 } // namespace
 
-// How properties are shown and read that are more than a number or a text of a look.
+// Formats and parses values that are more than a number or a text.
 struct PropertyForms {
     using Get = std::string (*)(const PropertyTexts&, const PropertyInfo&, const Look&);
     using Set = void (*)(const PropertyTexts&, const PropertyInfo&, const std::string&, Look&);
@@ -150,7 +150,7 @@ struct PropertyForms {
             throw SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
         return millimeters;
     }
-    // Lengths are shown with all their digits: what is set from them is what they were.
+    // Formats lengths with all digits, so that setting them again does not change them.
     static std::string LengthText(const PropertyTexts& of, double units) {
         const drawcore::LengthUnit& unit = DrawingUnit(of);
         constexpr int kDigits = 9;
@@ -169,7 +169,7 @@ struct PropertyForms {
     static std::string GetSystem(const PropertyTexts&, const PropertyInfo& info, const Look& look) {
         return WholeText(info, look.worldWidth ? kScaleWorld : kScalePaper);
     }
-    // In drawing units a width has to be a number of its own.
+    // A width in drawing units must be a number rather than a marker.
     static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
         look.worldWidth = ReadWhole(info, text) == kScaleWorld;
         const bool inherits = look.worldWidth && look.width < 0;

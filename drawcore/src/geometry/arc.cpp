@@ -1,4 +1,4 @@
-// Points, images and extremes of arcs; arcs from centers and from bulges.
+// Points, transformations and extremes of arcs; arcs from centers and bulges.
 #include "drawcore/src/geometry/arc.h"
 
 #include <cmath>
@@ -29,9 +29,10 @@ double SweepBetween(double start, double end) {
 
 std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge) {
     const Vec3 chord = b - a;
-    // Flatter than this the arc is nowhere further from its chord than its center, that far away, can be distinguished.
+    // For a smaller bulge the center is so far away that the arc cannot be distinguished from its chord.
     if (!std::isfinite(bulge) || std::fabs(bulge) < 1e-9 || (chord.x == 0 && chord.y == 0)) return std::nullopt;
-    // The center lies on the chord's middle line; (1 - b^2) / 4b of the chord away, to the left for a small left arc.
+    // The center is on the perpendicular bisector of the chord, (1 - b^2) / 4b chord lengths away, to the left for a
+    // small counterclockwise arc.
     const double away = (1 - bulge * bulge) / (4 * bulge);
     const Vec3 center{(a.x + b.x) / 2 - chord.y * away, (a.y + b.y) / 2 + chord.x * away, a.z};
     return CircleArc(center, std::hypot(a.x - center.x, a.y - center.y), std::atan2(a.y - center.y, a.x - center.x),

@@ -1,5 +1,5 @@
-// Circles, arcs, ellipses and pieces of these: one formula, center + major * cos(t) + minor * sin(t). Any affine image
-// of an arc is one.
+// Circles, ellipses and arcs of these, described by one formula: center + major * cos(t) + minor * sin(t). Any affine
+// transformation of an arc is an arc.
 #pragma once
 
 #include <optional>
@@ -12,9 +12,9 @@ namespace drawcore {
 struct EllipseArc {
     Vec3 center;
     Vec3 major{1, 0, 0};    // from the center to the point at t = 0
-    Vec3 minor{0, 1, 0};    // to the point at t = a quarter turn
-    double start = 0;       // radians of the parameter
-    double sweep = 2 * kPi; // how far it runs from there; to the left where positive
+    Vec3 minor{0, 1, 0};    // to the point at t = pi / 2
+    double start = 0;       // parameter in radians
+    double sweep = 2 * kPi; // extent from there; positive is counterclockwise
 
     bool IsWhole() const;
     double End() const { return start + sweep; }
@@ -24,14 +24,14 @@ struct EllipseArc {
 
 EllipseArc CircleArc(const Vec3& center, double radius, double start = 0, double sweep = 2 * kPi);
 
-// The way from start to end around a circle to the left, from 0 (excluded) to a whole turn.
+// Returns the counterclockwise angle from start to end, greater than 0 and at most a full turn.
 double SweepBetween(double start, double end);
 
-// The arc that a bulge (tangent of a quarter of the arc's angle, positive to the left) makes of the segment from a to
-// b; none if it is straight.
+// Returns the arc that a bulge (tangent of a quarter of the arc's angle, positive is counterclockwise) makes of the
+// segment from a to b, or nothing if it is straight.
 std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge);
 
-// Parameters within the arc, its ends left out, at which it goes farthest along x, y and, if asked for, z.
+// Returns the parameters inside the arc at which x, y and, with inSpace, z are extreme.
 std::vector<double> Extremes(const EllipseArc& arc, bool inSpace);
 
 } // namespace drawcore

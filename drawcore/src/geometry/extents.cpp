@@ -1,4 +1,4 @@
-// Growing a box, and its image under a matrix.
+// Extends a box, and transforms it.
 #include "drawcore/src/geometry/extents.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ bool Extents::Covers(const Extents& other) const {
 Extents Extents::Transformed(const Matrix& matrix) const {
     Extents box;
     if (IsEmpty()) return box;
-    if (matrix.KeepsAxes()) { // as good as always, while a drawing is drawn
+    if (matrix.KeepsAxes()) { // the usual case while a drawing is drawn
         box.Add(matrix.Apply(low));
         box.Add(matrix.Apply(high));
         return box;

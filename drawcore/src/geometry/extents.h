@@ -1,4 +1,4 @@
-// The box that a graphic fills. Empty until a point is added.
+// The bounding box of a graphic, empty until a point is added.
 #pragma once
 
 #include <limits>
@@ -17,12 +17,12 @@ public:
     static const Extents* From(const ExtentsStruct* extents) { return static_cast<const Extents*>(extents); }
 
     bool IsEmpty() const { return low.x > high.x; }
-    void Add(const Vec3& point); // one that is not finite does not count
+    void Add(const Vec3& point); // Ignores points that are not finite.
     void Add(const Extents& other);
     void Add(const EllipseArc& arc);
-    // Whether the other one, seen from above, lies entirely within this one.
+    // Returns whether the other box, seen from above, is completely inside this one.
     bool Covers(const Extents& other) const;
-    // The box around this box after the transformation: exact for scaling and moving, else wider.
+    // Returns the bounding box of the transformed box: exact for scaling and translation, larger otherwise.
     Extents Transformed(const Matrix& matrix) const;
 
 private:

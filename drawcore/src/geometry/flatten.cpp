@@ -1,4 +1,4 @@
-// How many pieces a curve needs, and their ends.
+// Divides curves into line segments.
 #include "drawcore/src/geometry/flatten.h"
 
 #include <algorithm>
@@ -8,10 +8,10 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostSteps = 2048;    // for a whole turn, or a span of a spline
-constexpr int kStepsByDefault = 64; // likewise, where no tolerance is given
+constexpr int kMostSteps = 2048;    // for a full turn, or a span of a spline
+constexpr int kStepsByDefault = 64; // likewise, without a tolerance
 
-// Steps of equal angle for which the middle of each chord stays within tolerance of a circle.
+// Returns the number of equal steps for which all chords stay within tolerance of a circle.
 int StepsForTurn(double radius, double tolerance) {
     if (!(tolerance > 0)) return kStepsByDefault;
     if (radius <= tolerance) return 4;
@@ -27,7 +27,7 @@ double ParameterAt(double low, double high, int step, int steps) {
 
 void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance, Path& path) {
     EllipseArc arc = given;
-    arc.start = std::fmod(given.start, 2 * kPi); // a turn more or less is the same, and keeps all digits
+    arc.start = std::fmod(given.start, 2 * kPi); // equivalent modulo a full turn, but keeps all digits
     const Vec3 u = matrix.Turn(arc.major), v = matrix.Turn(arc.minor);
     const double radius = std::max(std::hypot(u.x, u.y), std::hypot(v.x, v.y));
     const double sweep = arc.sweep;
@@ -41,7 +41,7 @@ void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance,
     if (sweep < 0) std::reverse(at.begin(), at.end());
     for (const double t : at)
         path.LineTo(matrix.Plan(arc.At(t)), false);
-    // The end of a whole turn is its start to the last bit, so that the outline is closed.
+    // The end of a full turn equals its start exactly, so that the outline is closed.
     path.LineTo(matrix.Plan(arc.At(arc.IsWhole() ? arc.start : arc.End())));
 }
 
@@ -62,7 +62,7 @@ void FlattenSpline(const SplineCurve& curve, const Matrix& matrix, double tolera
     for (size_t span = p; span < curve.points.size(); ++span) {
         const double low = curve.knots[span], high = curve.knots[span + 1];
         if (!(high > low)) continue;
-        // The control polygon of the span bounds its bend: the error of n chords is at most bend / (8 n^2) x p^2.
+        // The control polygon bounds the curvature: the error of n chords is at most bend / (8 n^2) x p^2.
         double bend = 0;
         for (size_t i = span - p + 1; i < span; ++i) {
             const Point a = matrix.Plan(curve.points[i - 1]), b = matrix.Plan(curve.points[i]),

@@ -1,4 +1,4 @@
-// Curves as short straight pieces.
+// Approximates curves by line segments.
 #pragma once
 
 #include "drawcore/src/geometry/arc.h"
@@ -7,12 +7,12 @@
 
 namespace drawcore {
 
-// Adds the arc after its start up to its end, the end as a corner. The steps stay within tolerance of the curve, and
-// the points farthest left, right, up and down are among them.
+// Adds the arc from its start (excluded) to its end, which is a corner. All steps are within tolerance of the curve,
+// and the leftmost, rightmost, top and bottom points are included.
 void FlattenArc(const EllipseArc& arc, const Matrix& matrix, double tolerance, Path& path);
-// The points of a spline as it is drawn where no tolerance is given: of an unsound one the control points.
+// Returns the points that a spline is drawn by if no tolerance is given; for an invalid spline, its control points.
 std::vector<Vec3> SplineChain(const SplineCurve& curve);
-// The same for a sound spline, after its start.
+// Adds a valid spline from its start (excluded).
 void FlattenSpline(const SplineCurve& curve, const Matrix& matrix, double tolerance, Path& path);
 
 } // namespace drawcore

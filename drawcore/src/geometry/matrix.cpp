@@ -1,4 +1,4 @@
-// Products, inverses and the images of points.
+// Products, inverses and application of matrices.
 #include "drawcore/src/geometry/matrix.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Flat polylines in one coordinate system.
+// Two-dimensional polylines in one coordinate system.
 #pragma once
 
 #include <cstddef>
@@ -20,11 +20,11 @@ public:
         starts.push_back(points.size());
         Append(p, true);
     }
-    // corner: an end of a segment of the graphic, not just a step of a flattened curve.
+    // corner: the end of a segment of the graphic rather than a step of a flattened curve.
     void LineTo(Point p, bool corner = true) { Append(p, corner); }
 
     size_t Count() const { return starts.size(); }
-    // The points of polyline i are points[Begin(i)] to before points[End(i)].
+    // Polyline i has the points from points[Begin(i)] up to, but not including, points[End(i)].
     size_t Begin(size_t i) const { return starts[i]; }
     size_t End(size_t i) const { return i + 1 < starts.size() ? starts[i + 1] : points.size(); }
 

@@ -1,4 +1,4 @@
-// Points of a spline, and the spline through given points.
+// Points of a spline, and interpolation of points by a spline.
 #include "drawcore/src/geometry/spline.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kHighestDegree = 25;
 
-// A point with its weight, multiplied in.
+// A point multiplied by its weight.
 struct Weighted {
     Vec3 p;
     double w;
@@ -32,7 +32,7 @@ bool SplineCurve::IsSound() const {
            std::all_of(weights.begin(), weights.end(), [](double w) { return std::isfinite(w) && w > 0; });
 }
 
-// De Boor's algorithm on weighted points.
+// De Boor's algorithm with weighted points.
 Vec3 SplineCurve::At(double t) const {
     const size_t p = static_cast<size_t>(degree);
     const auto first = knots.begin() + degree, last = knots.begin() + static_cast<std::ptrdiff_t>(points.size());
@@ -54,9 +54,9 @@ Vec3 SplineCurve::At(double t) const {
 
 namespace {
 
-// Slopes of the cubic through the points with continuous curvature, steps of the parameter 1: at the ends of an open
-// one no curvature (solved by elimination); a closed one runs into its first points once more, far enough to forget its
-// ends.
+// Returns the slopes of the cubic spline through the points with continuous curvature and unit parameter steps. An open
+// spline has no curvature at its ends; a closed one is continued with its first points, far enough for the ends to have
+// no influence.
 std::vector<Vec3> Slopes(const std::vector<Vec3>& p) {
     const size_t n = p.size();
     std::vector<double> diagonal(n, 4);
@@ -82,15 +82,15 @@ SplineCurve SplineThrough(const std::vector<Vec3>& fitPoints, bool closed) {
         curve.points = fitPoints;
         return curve;
     }
-    // A slope's influence falls to a quarter with each point: sixteen points beyond the seam are exact for doubles'
-    // purposes.
+    // The influence of a slope falls to a quarter with each point, so that sixteen points beyond the seam are exact in
+    // double precision.
     constexpr size_t kLeadIn = 16;
     const size_t count = fitPoints.size() + (closed ? 1 : 0), lead = closed ? kLeadIn : 0;
     std::vector<Vec3> run;
     for (size_t i = 0; i < count + 2 * lead; ++i)
         run.push_back(fitPoints[(i + fitPoints.size() * kLeadIn - lead) % fitPoints.size()]);
     const std::vector<Vec3> slopes = Slopes(run);
-    // Each cubic piece as a Bezier curve; a knot for each end, threefold.
+    // Each cubic segment as a Bezier curve, with a triple knot at each end.
     curve.points.push_back(run[lead]);
     curve.knots.assign(4, 0.0);
     for (size_t i = lead; i + 1 < lead + count; ++i) {

@@ -1,4 +1,4 @@
-// Splines: rational B-splines by degree, knots, control points and weights.
+// Rational B-splines: degree, knots, control points and weights.
 #pragma once
 
 #include <vector>
@@ -9,17 +9,17 @@ namespace drawcore {
 
 struct SplineCurve {
     int degree = 3;
-    std::vector<double> knots;   // points + degree + 1 of them, never falling
+    std::vector<double> knots;   // points + degree + 1 of them, ascending
     std::vector<Vec3> points;    // control points
-    std::vector<double> weights; // empty: all 1
+    std::vector<double> weights; // empty if all are 1
 
-    // Whether the counts fit, knots do not fall, all numbers are finite and weights are above 0.
+    // Returns whether the counts are consistent, knots ascend, all numbers are finite and weights are positive.
     bool IsSound() const;
-    Vec3 At(double t) const; // t between knots[degree] and knots[points]
+    Vec3 At(double t) const; // t must be between knots[degree] and knots[points].
 };
 
-// A spline that runs through these points with continuous curvature: for files that give nothing else. closed: the last
-// point is joined to the first as smoothly as the others.
+// Returns a spline through the points with continuous curvature, for files without control points. closed: the last
+// point is connected smoothly to the first.
 SplineCurve SplineThrough(const std::vector<Vec3>& fitPoints, bool closed);
 
 } // namespace drawcore

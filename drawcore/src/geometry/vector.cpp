@@ -1,4 +1,4 @@
-// Lengths, cross products and directions of vectors.
+// Length, cross product and normalization of vectors.
 #include "drawcore/src/geometry/vector.h"
 
 #include <cmath>

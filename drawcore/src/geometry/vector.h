@@ -1,4 +1,4 @@
-// Points of the plane, and points and vectors of space.
+// Points in the plane, and points and vectors in space.
 #pragma once
 
 namespace drawcore {
@@ -30,7 +30,7 @@ inline bool operator==(const Vec3& a, const Vec3& b) {
 }
 double Length(const Vec3& v);
 Vec3 Cross(const Vec3& a, const Vec3& b);
-Vec3 Normalized(const Vec3& v); // a vector without length stays as it is
+Vec3 Normalized(const Vec3& v); // Returns a vector of length 0 unchanged.
 bool IsFinite(const Vec3& p);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The styles that every drawing has.
+// The brush styles that every drawing has.
 #include "drawcore/src/styles/brush_style.h"
 
 #include <cmath>
@@ -9,7 +9,7 @@ namespace drawcore {
 
 namespace {
 
-// Tiles of the bitmaps among the styles that every drawing has.
+// Bitmaps of predefined styles.
 struct NamedBitmap {
     const char* name;
     BrushBitmap bitmap;

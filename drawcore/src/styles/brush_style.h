@@ -16,29 +16,29 @@ namespace drawcore {
 
 constexpr uint16_t kBrushSolid = 1;
 
-// One family of parallel lines, as DXF defines it; drawing units and radians at brush scale 1, brush angle 0.
+// A family of parallel lines as defined by DXF, in drawing units and radians at brush scale 1 and brush angle 0.
 struct PatternLine : BrushPatternStruct {
     double angle = 0;           // direction of the lines
-    Point base;                 // one of the lines starts its dashes here
-    Point offset;               // from a line to the next, in the pattern's axes (not turned by the angle)
-    std::vector<double> dashes; // as of a line style; empty is solid
-    double Spacing() const;     // distance from line to line
+    Point base;                 // point at which the dashes of one line start
+    Point offset;               // from one line to the next, in the pattern's axes (not rotated by the angle)
+    std::vector<double> dashes; // same form as in line styles; empty is solid
+    double Spacing() const;     // Returns the distance between lines.
 };
 
-// Lines of a pattern as a file has them, in degrees.
+// Converts the lines of a pattern in a file, in degrees.
 std::vector<PatternLine> LinesFromFile(const std::vector<dxf::Hatch::PatternLine>& lines);
 
-// A tile of 8 by 8 device pixels, the same size at every zoom; scale, angle and cross do not touch it.
+// A tile of 8 by 8 device pixels, with the same size at every zoom; scale, angle and cross hatch do not apply.
 struct BrushBitmap {
     struct Colors {
         Color ink, paper;
     };
 
-    std::array<uint8_t, 8> rows{}; // from the top; the highest bit is the leftmost pixel; set is ink
-    std::optional<Colors> colors;  // none: ink is the brush color, paper what lies underneath
+    std::array<uint8_t, 8> rows{}; // from the top; the highest bit is the leftmost pixel; set bits are foreground
+    std::optional<Colors> colors;  // if missing, the foreground is the brush color and the background transparent
 };
 
-// Without lines and bitmap the style is solid.
+// A style without lines and bitmap is solid.
 class BrushStyle : public TableEntry {
 public:
     BrushStyle(std::string_view entryName, std::vector<PatternLine> patternLines)

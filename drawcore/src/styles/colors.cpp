@@ -1,4 +1,4 @@
-// The entries of the table of colors.
+// Fills the color table.
 #include "drawcore/src/styles/colors.h"
 
 #include "drawcore/src/dxf/color_numbers.h"

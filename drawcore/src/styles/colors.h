@@ -1,4 +1,4 @@
-// Colors: the markers that stand for another's color, the 255 numbered colors of DXF, and the table "_Colors_".
+// Colors: markers for inherited colors, the 255 numbered colors of DXF, and the table "_Colors_".
 #pragma once
 
 #include "drawcore/src/tables/table.h"
@@ -6,9 +6,9 @@
 
 namespace drawcore {
 
-using Color = uint32_t; // 0x00bbggrr, or a marker with a non-zero high byte
+using Color = uint32_t; // 0x00bbggrr, or a marker with a nonzero high byte
 
-constexpr Color kWhite = 0x00FFFFFF; // DXF's number 7: seen as black on a white background
+constexpr Color kWhite = 0x00FFFFFF; // DXF's color 7: displayed as black on a white background
 
 constexpr bool IsPlainColor(Color color) {
     return (color >> 24) == 0;
@@ -25,7 +25,7 @@ private:
 
 class ColorTable : public TableOf<ColorEntry> {
 public:
-    // Filled with the 255 numbered colors, identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
+    // Contains the 255 numbered colors, with identifiers equal to the numbers: "Red" to "White", then "Color 8" on.
     explicit ColorTable(DrawingStruct* owner);
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
 };

@@ -1,4 +1,4 @@
-// The entries of the table.
+// Fills the layer table.
 #include "drawcore/src/styles/layer.h"
 
 namespace drawcore {

@@ -6,21 +6,21 @@
 
 namespace drawcore {
 
-// What is on a layer is drawn if it is neither off nor frozen, and changed by hand only if it isn't locked.
+// Graphics on a layer are drawn if it is neither off nor frozen, and can be edited unless it is locked.
 class Layer : public TableEntry {
 public:
     using TableEntry::TableEntry;
     bool IsVisible() const { return !off && !frozen; }
 
     Color color = kWhite;
-    uint16_t lineStyle = kLineStyleNone; // entry of "_LineStyles_"; none is solid
-    double lineWidth = 0;                // of pens that inherit it, in inches of paper
+    uint16_t lineStyle = kLineStyleNone; // entry of "_LineStyles_"; kLineStyleNone is solid
+    double lineWidth = 0;                // for pens that inherit it, in inches on paper
     bool off = false;
     bool frozen = false;
     bool locked = false;
 };
 
-// The first entry is "0": in a block it stands for the layer of the insertion.
+// The first entry is "0", which stands for the insertion's layer in a block.
 class LayerTable : public TableOf<Layer> {
 public:
     explicit LayerTable(DrawingStruct* owner);

@@ -1,4 +1,4 @@
-// The entries of the table.
+// Fills the table of line styles.
 #include "drawcore/src/styles/line_style.h"
 
 namespace drawcore {

@@ -6,7 +6,7 @@
 
 namespace drawcore {
 
-// A positive item is a dash, a negative one a gap, 0 a dot; drawing units at pen scale 1. Empty is a solid line.
+// Positive items are dashes, negative ones gaps, 0 is a dot, in drawing units at pen scale 1. Empty is a solid line.
 class LineStyle : public TableEntry {
 public:
     LineStyle(std::string_view entryName, std::string_view text, std::vector<double> items)

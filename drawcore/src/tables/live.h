@@ -1,5 +1,5 @@
-// The objects of one kind that are alive now. A pointer from outside is looked up here before it is used: a table or
-// drawing can be freed while someone still holds it, and every call on it then needs an answer.
+// Tracks the existing objects of one kind. Pointers of callers are looked up here before use, because a table or
+// drawing may have been freed; functions must handle that.
 #pragma once
 
 #include <unordered_set>

@@ -1,4 +1,4 @@
-// Entries by identifier and by name.
+// Finds, adds and removes entries.
 #include "drawcore/src/tables/table.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr size_t kLongestName = 255;
 
-// The entry of a plain table: what the host program has put in, which stays the program's.
+// An entry of a plain table: data of the host program, which remains its owner.
 class PlainEntry : public TableEntry {
 public:
     PlainEntry(std::string_view entryName, void* data) : TableEntry(entryName), data_(data) {}

@@ -1,9 +1,9 @@
-// Tables of a drawing: named entries under 16-bit identifiers and typed variables. A table knows nothing of what its
-// entries are; the kinds are in styles/.
+// Tables of a drawing: named entries with 16-bit identifiers, and typed variables. This class is independent of the
+// kinds of entries, which are defined in styles/.
 //
-// Names: at most 255 bytes, not empty, each once in a table. Case does not count in a look-up (A to Z only); the
-// spelling given first is kept. Identifiers go up from 1 in the order of adding, which is also the order of a walk,
-// and are not given again while there are others.
+// Names have 1 to 255 bytes and are unique within a table. They are compared ignoring the case of A to Z, and keep the
+// spelling given first. Identifiers ascend from 1 in the order of addition, which is also the iteration order; they are
+// reused only when no others are left.
 #pragma once
 
 #include <cstdint>
@@ -24,14 +24,15 @@ namespace drawcore {
 using Id = uint16_t;
 
 constexpr Id kNoId = 0;
-constexpr Id kHighestId = 0xFFF0; // what is above are markers: by layer, by block, mixed
+constexpr Id kHighestId = 0xFFF0; // greater values are markers: by layer, by block, indeterminate
 
-// What one identifier refers to.
+// An entry of a table.
 class TableEntry {
 public:
     explicit TableEntry(std::string_view entryName) : name(entryName) {}
     virtual ~TableEntry();
-    // What TableEntryGetData gives: a text, a COLORREF, a graphic, by the kind of table. The entry's own; may be null.
+    // Returns what TableEntryGetData returns: depending on the table, a text, a COLORREF or a graphic, owned by the
+    // entry; may be null.
     virtual void* Data() { return nullptr; }
 
     const std::string name;
@@ -44,18 +45,19 @@ public:
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    // The table behind a pointer from outside; null for null and for a table that is gone.
+    // Returns the table for a caller's pointer, or null if it is null or the table no longer exists.
     static Table* Find(TableStruct* table);
 
     DrawingStruct* Owner() const { return owner_; }
 
-    // Makes an entry of this table's kind from a name and the kind's data, for hosts that know only names and data;
-    // null if the data is not of the kind.
+    // Creates an entry from a name and data, for hosts that only know these. Returns null if the data is unsuitable for
+    // the table.
     virtual std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data);
 
-    // Whether an entry of that name can be added.
+    // Returns whether an entry with that name can be added.
     bool Takes(std::string_view name) const;
-    // The identifier of the new entry; 0, and the entry is gone, if the name is bad or taken or the table is full.
+    // Adds an entry and returns its identifier. Returns 0 and deletes the entry if the name is invalid or exists, or if
+    // the table is full.
     Id Add(std::unique_ptr<TableEntry> entry);
     virtual bool Remove(Id id);
     TableEntry* At(Id id) const { return id && id <= entries_.size() ? entries_[id - 1].get() : nullptr; }
@@ -66,7 +68,7 @@ public:
 
     using Value = std::variant<int, double, std::string>;
     void SetVariable(uint16_t number, Value value) { variables_[number] = std::move(value); }
-    // Null if there isn't one of that number and type.
+    // Returns null if there is no variable with that number and type.
     template <class Type>
     const Type* Variable(uint16_t number) const {
         const auto found = variables_.find(number);
@@ -78,12 +80,12 @@ private:
     Id FreeId() const;
 
     DrawingStruct* const owner_;
-    std::vector<std::unique_ptr<TableEntry>> entries_; // under id - 1; null where one was removed
-    std::unordered_map<std::string, Id> ids_;          // by folded name
+    std::vector<std::unique_ptr<TableEntry>> entries_; // at index id - 1; null if removed
+    std::unordered_map<std::string, Id> ids_;          // by case-folded name
     std::unordered_map<uint16_t, Value> variables_;
 };
 
-// A table all of whose entries are of one class.
+// A table whose entries are all of one class.
 template <class Entry>
 class TableOf : public Table {
 public:
@@ -93,7 +95,7 @@ public:
     Id Add(std::unique_ptr<Entry> entry) { return Table::Add(std::move(entry)); }
 };
 
-// Copies a text, at most size bytes with the NUL; the number of characters copied.
+// Copies text, at most size bytes including the NUL, and returns the number of characters copied.
 int CopyText(std::string_view text, char* buffer, int size);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The variables of the units table, checked as they are read.
+// Reads and validates the variables of the units table.
 #include "drawcore/src/tables/unit_variables.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ int Whole(const Table& units, uint16_t variable, int otherwise) {
     return value ? *value : otherwise;
 }
 
-// One of the enumeration's values from first to last, whose number the variable holds.
+// Returns the value of a variable as an enumerator from first to last.
 template <class System>
 System SystemOf(const Table& units, uint16_t variable, System first, System last, System otherwise) {
     const auto number = static_cast<System>(Whole(units, variable, static_cast<int>(otherwise)));

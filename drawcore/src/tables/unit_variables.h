@@ -1,4 +1,4 @@
-// Unit settings as variables of the units table of a drawing.
+// Unit settings stored as variables in the units table of a drawing.
 #pragma once
 
 #include "drawcore/src/tables/table.h"
@@ -9,10 +9,10 @@ namespace drawcore {
 // Sets the variables of the table.
 void StoreUnits(const UnitSettings& settings, Table& units);
 
-// The unit that a string variable names; null if there isn't one, or none of that name.
+// Returns the unit named by a string variable, or null if the variable or the unit does not exist.
 const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable);
 
-// How lengths and angles are written; what a variable doesn't say, or says wrongly, is as in new drawings.
+// Return the formats of lengths and angles. Missing or invalid variables have the defaults of new drawings.
 LengthFormat LengthFormatOf(const Table& units);
 AngleFormat AngleFormatOf(const Table& units);
 

@@ -1,4 +1,4 @@
-// Writing and reading angles in each of their formats.
+// Formats and parses angles.
 #include "drawcore/src/units/angle_text.h"
 
 #include <algorithm>
@@ -12,8 +12,8 @@ namespace drawcore {
 namespace {
 
 constexpr double kDegree = 0.017453292519943295, kGrad = 0.015707963267948967, kRight = 90 * kDegree;
-constexpr double kMostSteps = 1e15; // that a double counts and a decimal shows to the last digit
-constexpr double kNoAngle = 1e-15;  // radians: what a calculation leaves of nothing, the last digits of a turn
+constexpr double kMostSteps = 1e15; // the largest number whose last decimal digit a double represents
+constexpr double kNoAngle = 1e-15;  // in radians; smaller results are rounding errors of a full turn
 
 constexpr struct {
     const char* name;
@@ -22,7 +22,7 @@ constexpr struct {
               {"g", kGrad},   {"gon", kGrad},   {"grad", kGrad},     {"grads", kGrad},     {"r", 1},
               {"rad", 1},     {"radian", 1},    {"radians", 1},      {"'", kDegree / 60},  {"\"", kDegree / 3600}};
 
-// 0 if there is no such unit.
+// Returns 0 if there is no such unit.
 double FindUnit(std::string_view name) {
     const std::string folded = dxf::FoldName(name);
     for (const auto& unit : kUnits)
@@ -35,7 +35,7 @@ double BareUnit(AngleSystem system) {
     return system == AngleSystem::Grads ? kGrad : kDegree;
 }
 
-// Minutes follow degrees, seconds follow minutes.
+// Minutes may follow degrees, and seconds minutes.
 bool IsDivided(double unit) {
     return unit == kDegree || unit == kDegree / 60;
 }
@@ -46,8 +46,8 @@ public:
 
     double Unit(std::string_view name) const override { return FindUnit(name); }
 
-    // A number with or without its unit, or degrees, minutes and seconds: of these only the last number has a part
-    // after the mark, and each is less than makes one of the unit before.
+    // Parses a number with an optional unit, or degrees, minutes and seconds. Of these, only the last may have a
+    // fraction, and minutes and seconds must be less than 60.
     bool ReadOne(TextCursor& cursor, Quantity& angle) const override {
         double before = 0;
         do {
@@ -73,7 +73,7 @@ std::string_view WithoutBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-// "N 45d E": from north or south so far to the east or west. "N", "E", "S", "W" alone.
+// Parses "N 45d E", from north or south toward east or west, or a single "N", "E", "S" or "W".
 bool ReadBearing(std::string_view whole, double bare, double& radians) {
     const std::string text = dxf::FoldName(WithoutBlanks(whole));
     constexpr std::string_view kDirections = "enws";
@@ -92,13 +92,13 @@ bool ReadBearing(std::string_view whole, double bare, double& radians) {
     return true;
 }
 
-// How finely degrees are divided: whole ones, minutes, seconds, and digits after the mark of the seconds.
+// The resolution of degrees: whole degrees, minutes, seconds, and decimal places of the seconds.
 class Division {
 public:
     explicit Division(int digits) : level_(digits <= 0 ? 0 : digits <= 2 ? 1 : std::max(2, digits - 2)) {}
 
-    // The degrees as so many steps, divided more finely where that leaves an error beyond the given one. False if no
-    // division is fine enough, or if there are too many steps.
+    // Converts degrees to steps, with a finer resolution if the error would exceed the given one. Returns false if no
+    // resolution is fine enough or there are too many steps.
     bool Count(double degrees, double error, double& steps) {
         for (;;) {
             steps = std::round(degrees * StepsOfDegree());
@@ -115,16 +115,16 @@ private:
     int level_;
 };
 
-// Half of the last digit that a decimal number of this size would show at least: of four.
+// Returns half of the last digit of a decimal number of this size with at least four digits.
 double AllowedError(double value) {
     return std::pow(10, -DecimalsFor(value, 0)) / 2;
 }
 
-// Steps that are not negative.
+// Formats nonnegative steps.
 std::string StepsText(double steps, const Division& division) {
     const double perDegree = division.StepsOfDegree();
     const double whole = std::floor(steps / perDegree);
-    const double rest = (steps - whole * perDegree) * 60; // in sixtieths of a step
+    const double rest = (steps - whole * perDegree) * 60; // in sixtieths of a degree
     const double minutes = std::floor(rest / perDegree);
     const double seconds = (rest - minutes * perDegree) * 60 / perDegree;
     std::string text = DecimalText(whole, 0) + "d";
@@ -141,7 +141,7 @@ std::string WriteDegrees(double degrees, int digits) {
     return DecimalText(degrees, digits) + "d";
 }
 
-// From the rounded angle, so that what a calculation leaves beside a direction of the compass does not show.
+// Formats the rounded angle, so that rounding errors near a compass direction do not show.
 std::string WriteBearing(double degrees, int digits) {
     Division division(digits);
     double steps = 0;

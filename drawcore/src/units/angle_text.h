@@ -1,8 +1,8 @@
-// Angles as text.
+// Parses and formats angles.
 //
-// Reading: "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), blanks around it, and calculations
-// with them (calculation.h), though not with bearings. A minus counts for the whole angle; the text is read in full or
-// refused. Every form is read, whatever form the drawing writes.
+// Accepts "45", "-12.5", "12d30'15.5\"", "50g", "0.7854r", "N 45d E" (a bearing), surrounded by blanks, and
+// calculations with them (calculation.h) except with bearings. A minus sign applies to the whole angle. Text is
+// accepted or rejected as a whole, in any format, whatever format the drawing uses.
 #pragma once
 
 #include <string>
@@ -10,24 +10,24 @@
 
 namespace drawcore {
 
-// As DXF numbers them.
+// With the numbers of DXF.
 enum class AngleSystem { Degrees, DegreesMinutesSeconds, Grads, Radians, Bearings };
 
-// How an angle is written.
+// The format of angles.
 struct AngleFormat {
     AngleSystem system = AngleSystem::Degrees;
-    // Digits after the decimal mark. Of degrees, minutes and seconds: 0 degrees, 1 and 2 with minutes, 3 and 4 with
-    // seconds, and each one more a digit of the seconds.
+    // Number of decimal places. For degrees, minutes and seconds: 0 is degrees, 1 and 2 with minutes, 3 and 4 with
+    // seconds; each further one adds a decimal place to the seconds.
     int digits = 4;
 };
 
-// Radians of the text; a number without a unit is in that of the system. False, and value left alone, if it is not an
-// angle.
+// Parses an angle to radians; a number without a unit is in the unit of the system. Returns false and leaves radians
+// unchanged if the text is not an angle.
 bool ReadAngle(std::string_view text, AngleSystem bare, double& radians);
 
-// Empty if the angle is not a number. A bearing has neither turns nor sign: for an angle beyond one turn or below 0
-// degrees, degrees, minutes and seconds are written instead. One that its digits, or four of a right angle, do not tell
-// from a direction of the compass is that direction.
+// Returns an empty string if the angle is not a number. An angle outside 0 to 360 degrees is not formatted as a
+// bearing, but in degrees, minutes and seconds. An angle that rounds to a compass direction is formatted as that
+// direction.
 std::string WriteAngle(double radians, const AngleFormat& format);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// A descent through sums, products and factors that goes back to the last complete piece where it finds no other.
+// A recursive-descent parser for sums, products and factors that backtracks to the last complete expression.
 #include "drawcore/src/units/calculation.h"
 
 #include <cmath>
@@ -7,9 +7,9 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kDeepest = 32; // brackets in brackets
+constexpr int kDeepest = 32; // maximum nesting depth of parentheses
 
-// As a double is stored: processors of 32 bits compute in a larger range.
+// Rounds to double precision, because 32-bit processors compute with a larger range.
 double Stored(double value) {
     volatile double stored = value;
     return stored;
@@ -46,7 +46,7 @@ private:
         }
     }
 
-    // A divisor is no fraction, of which "8/4/2" would else make 8 / (4/2).
+    // A divisor is not parsed as a fraction, because "8/4/2" would become 8 / (4/2).
     bool Factor(Quantity& result, bool divisor) {
         const TextCursor before = cursor_;
         const bool negative = cursor_.TakeMinus();
@@ -111,7 +111,7 @@ private:
     int depth_ = 0;
 };
 
-// One number of the measure alone.
+// Parses a single number of the measure.
 bool ReadLiteral(TextCursor cursor, const Measure& measure, double& value) {
     Quantity one;
     const bool negative = cursor.TakeMinus();
@@ -128,7 +128,7 @@ bool ReadWithoutUnit(TextCursor cursor, const Measure& measure, double& value) {
     return true;
 }
 
-// A calculation of plain numbers, and a unit for all of it.
+// Parses a calculation with plain numbers and one unit for the result.
 bool ReadWithLastUnit(TextCursor cursor, const Measure& measure, double& value) {
     double number = 0;
     if (!ReadCalculation(cursor, number)) return false;
@@ -148,7 +148,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// "6-1/2" somewhere. With units around, it is six and a half to some and five and a half to others.
+// Returns whether the text contains the like of "6-1/2", which with units could mean six and a half or five and a half.
 bool HasJoinedFraction(std::string_view text) {
     for (size_t hyphen = text.find('-'); hyphen != text.npos; hyphen = text.find('-', hyphen + 1)) {
         const size_t bar = text.find_first_not_of("0123456789", hyphen + 1);

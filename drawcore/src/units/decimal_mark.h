@@ -1,9 +1,9 @@
-// The decimal mark that numbers are read and written with. Who links the texts of numbers says which it is: the
-// database has a setting of the application for it.
+// The decimal separator for parsing and formatting numbers. The program that links this library defines it; the
+// database uses a setting of the application.
 #pragma once
 
 namespace drawcore {
 
-char DecimalMark(); // '.' or ','
+char DecimalMark(); // Returns '.' or ','.
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// Writing and reading lengths in each of their formats.
+// Formats and parses lengths.
 #include "drawcore/src/units/length_text.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kInch = kMillimetersPerInch, kFoot = 304.8; // 12 inches, to the last digit
+constexpr double kInch = kMillimetersPerInch, kFoot = 304.8; // exactly 12 inches
 constexpr int kMostDecimals = 12;
 
 class Lengths : public Measure {
@@ -30,8 +30,8 @@ public:
     }
 
 private:
-    // Inches after feet: "1'-6", "1' 6 1/2\"". A hyphen with blanks around it is a minus. Fails for "1'-6'", which is
-    // more likely a slip of 1'-6" than a difference.
+    // Parses inches after feet: "1'-6", "1' 6 1/2\"". A hyphen surrounded by blanks is a minus sign. Fails for "1'-6'",
+    // which is more likely a typo for 1'-6" than a difference.
     bool ReadInches(TextCursor& cursor, double& feet) const {
         const TextCursor before = cursor;
         const bool joined = cursor.Take('-');
@@ -47,7 +47,7 @@ private:
         return true;
     }
 
-    // A number, and its unit if it has one.
+    // Parses a number with its optional unit.
     bool ReadPart(TextCursor& cursor, Quantity& part, std::string_view& name) const {
         double number = 0;
         if (!cursor.JoinedNumber(number)) return false;
@@ -67,13 +67,14 @@ std::string Plain(double number) {
     return DecimalText(number, 0);
 }
 
-// A number as so many steps, which a double counts to the last one. False for too many, and for none.
+// Converts a number to steps that a double represents exactly. Returns false if there are too many or the number is not
+// finite.
 bool CountSteps(double number, double perUnit, double& steps) {
     steps = std::round(std::fabs(number) * perUnit);
     return steps < 1e15 && (steps > 0 || number == 0);
 }
 
-// "18 1/2", "1/2", "18": whole units and a fraction of so many steps in a unit, a power of two.
+// Returns "18 1/2", "1/2" or "18": whole units and a fraction with the given number of steps per unit, a power of two.
 std::string FractionText(double steps, double perUnit) {
     const double whole = std::floor(steps / perUnit);
     double over = steps - whole * perUnit, under = perUnit;
@@ -84,7 +85,7 @@ std::string FractionText(double steps, double perUnit) {
     return whole > 0 ? Plain(whole) + " " + fraction : fraction;
 }
 
-// "1'-6 1/2\"" or "1'-6.5\"" of so many steps in an inch.
+// Returns "1'-6 1/2\"" or "1'-6.5\"" for a number of steps.
 std::string FeetAndInches(double steps, double perInch, const LengthFormat& format) {
     const double feet = std::floor(steps / (12 * perInch));
     const double rest = steps - feet * 12 * perInch;

@@ -1,8 +1,8 @@
-// Lengths as text.
+// Parses and formats lengths.
 //
-// Reading: "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", blanks around it, and calculations with them
-// (calculation.h). A minus counts for the whole length; the text is read in full or refused. Every form is read,
-// whatever form the drawing writes.
+// Accepts "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", surrounded by blanks, and calculations with them
+// (calculation.h). A minus sign applies to the whole length. Text is accepted or rejected as a whole, in any format,
+// whatever format the drawing uses.
 #pragma once
 
 #include <string>
@@ -12,24 +12,23 @@
 
 namespace drawcore {
 
-// As DXF numbers them.
+// With the numbers of DXF.
 enum class LengthSystem { Scientific = 1, Decimal, Engineering, Architectural, Fractional };
 
-// How a length is written.
+// The format of lengths.
 struct LengthFormat {
     LengthSystem system = LengthSystem::Decimal;
-    // Digits after the decimal mark; of a fraction the power of two of its denominator (4: sixteenths).
+    // Number of decimal places; for fractions, the denominator as a power of two (4: sixteenths).
     int digits = 4;
-    bool suffix = false; // the unit's name follows after a blank, where the form has no marks of its own
+    bool suffix = false; // append the unit's name after a blank if the format has no unit signs
 };
 
-// Millimeters of the text; a number without a unit is in the given one. False, and value left alone, if it is not a
-// length.
+// Parses a length to millimeters; a number without a unit has the given one. Returns false and leaves millimeters
+// unchanged if the text is not a length.
 bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimeters);
 
-// Empty if the length is not a number. Feet and inches (engineering, architectural) are true ones, whatever the unit
-// is. A length that has no place in its form, because it is too large or a fraction would make nothing of it, is
-// written as a decimal.
+// Returns an empty string if the length is not a number. Feet and inches (engineering, architectural) are independent
+// of the unit. A length that is too large for its format, or too small for a fraction, is formatted as a decimal.
 std::string WriteLength(double millimeters, const LengthUnit& unit, const LengthFormat& format);
 
 } // namespace drawcore

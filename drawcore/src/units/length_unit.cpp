@@ -28,7 +28,7 @@ constexpr struct {
                   {"feet", "ft"}, {"meter", "m"},  {"metre", "m"},   {"point", "pt"}, {"points", "pt"},
                   {"yard", "yd"}, {"yards", "yd"}, {"\xB5m", "um"}};
 
-// Under their numbers in DXF; null where there is none here.
+// Indexed by their numbers in DXF; null if not supported.
 constexpr const char* kDxfUnits[] = {nullptr, "in",  "ft", "mi",    "mm", "cm", "m", "km",
                                      nullptr, "mil", "yd", nullptr, "nm", "um", "dm"};
 

@@ -6,13 +6,14 @@
 namespace drawcore {
 
 struct LengthUnit {
-    const char* name;   // as it is written
-    double millimeters; // that one of it has
+    const char* name;   // as formatted
+    double millimeters; // millimeters per unit
 };
 
-// By name or another spelling of it ("inches", a double quote); case does not count. Null if there isn't one.
+// Finds a unit by name or alternative spelling ("inches", a double quote), ignoring case. Returns null if there is
+// none.
 const LengthUnit* FindLengthUnit(std::string_view name);
-// By DXF's number for units of an inserted drawing; null for none and for those that no drawing has here.
+// Finds a unit by DXF's number for insertion units. Returns null for no unit and for unsupported ones.
 const LengthUnit* LengthUnitOfDxf(int number);
 
 } // namespace drawcore

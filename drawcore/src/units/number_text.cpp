@@ -1,4 +1,4 @@
-// Rounding, the decimal mark, and reading back.
+// Rounding, decimal separator, and verification by parsing.
 #include "drawcore/src/units/number_text.h"
 
 #include <algorithm>
@@ -14,8 +14,8 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostDigits = 17;    // all that a double has
-constexpr int kFewestDecimals = 3; // of a mantissa: four significant digits
+constexpr int kMostDigits = 17;    // significant digits of a double
+constexpr int kFewestDecimals = 3; // for a mantissa: four significant digits
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -25,7 +25,7 @@ size_t CountDigits(std::string_view text) {
     return static_cast<size_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
 }
 
-// Length of an exponent at the start of the text: a letter without digits is not one.
+// Returns the length of an exponent at the start of the text. A letter without digits is not an exponent.
 size_t CountExponent(std::string_view text) {
     if (text.empty() || (text[0] != 'e' && text[0] != 'E')) return 0;
     const size_t lead = text.size() > 1 && (text[1] == '+' || text[1] == '-') ? 2 : 1;
@@ -33,7 +33,7 @@ size_t CountExponent(std::string_view text) {
     return digits ? lead + digits : 0;
 }
 
-// Removes zeros after the point, and a point after which nothing is left; the exponent stays.
+// Removes trailing zeros after the decimal point, and the point if nothing follows; keeps the exponent.
 std::string Trimmed(std::string text) {
     const size_t mark = text.find('.');
     if (mark == std::string::npos) return text;
@@ -48,7 +48,7 @@ std::string Marked(std::string text) {
 }
 
 std::string Format(double value, std::chars_format form, int precision) {
-    char buffer[400]; // the longest double without exponent has 309 digits before the point
+    char buffer[400]; // the largest double without exponent has 309 digits before the point
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, form, precision);
     return std::string(buffer, result.ptr);
 }
@@ -90,13 +90,13 @@ std::string DecimalText(double value, int decimals) {
     if (!std::isfinite(value)) return {};
     const int exponent = DecimalExponent(value);
     if (exponent >= 15 || exponent < -9) return ScientificText(value, decimals);
-    // Never more than fifteen digits in all: the next would differ from one conversion to the other.
+    // At most fifteen digits in total, because further ones would depend on the conversion.
     const int shown = std::min(DecimalsFor(value, decimals), 14 - exponent);
     return Marked(Trimmed(Format(value, std::chars_format::fixed, shown)));
 }
 
 std::string ScientificText(double value, int decimals) {
-    constexpr double kAlmostTooLarge = 1e300; // rounded up, in a larger unit, there may be no such double
+    constexpr double kAlmostTooLarge = 1e300; // rounding up can overflow in a larger unit
     if (!std::isfinite(value)) return {};
     if (std::fabs(value) > kAlmostTooLarge) decimals = kMostDigits - 1;
     return Marked(Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, kFewestDecimals))));
@@ -107,7 +107,7 @@ std::string ScientificText(double value, int decimals) {
 using namespace drawcore;
 
 double StringToDouble(int, const char* text, char** end) {
-    char* const start = const_cast<char*>(text); // as strtod: the caller's own text comes back
+    char* const start = const_cast<char*>(text); // like strtod, returns a pointer into the caller's text
     if (end) *end = start;
     if (!text) return 0;
     const std::string_view whole = text;
@@ -125,7 +125,7 @@ void DoubleToString(int, double value, int digits, char* buffer, int, int expone
     const int behind = std::clamp(digits, 1, kMostDigits) - 1;
     std::string text = Format(value, std::chars_format::scientific, behind);
     if (!exponentForm && std::isfinite(value)) {
-        // The exponent after rounding to these digits, so that 9.9999996 in six of them is 10.
+        // The exponent after rounding: 9.9999996 with six digits is 10.
         const int exponent = std::atoi(text.c_str() + text.find('e') + 1);
         const std::string plain = Format(value, std::chars_format::fixed, std::max(0, behind - exponent));
         if (plain.size() <= kLongest) text = plain;

@@ -1,4 +1,4 @@
-// Plain numbers as text: no grouping, the decimal mark of the application's setting.
+// Parses and formats plain numbers without digit grouping, with the application's decimal separator.
 #pragma once
 
 #include <string>
@@ -6,22 +6,22 @@
 
 namespace drawcore {
 
-// A text with more characters is not a number, length or angle, whatever it says.
+// Longer texts are not numbers, lengths or angles.
 constexpr size_t kLongestText = 255;
 
-// The number without sign at the start of the text: digits with at most one decimal mark, perhaps an exponent. The
-// number of characters that it takes; 0, and value left alone, if there is no number or it is too large for a double.
+// Parses the unsigned number at the start of the text: digits with at most one decimal separator and an optional
+// exponent. Returns the number of characters, or 0 with value unchanged if there is no number or it overflows.
 size_t ScanUnsigned(std::string_view text, double& value);
-// The same for digits alone.
+// Parses only digits.
 size_t ScanWhole(std::string_view text, double& value);
 
-// With that many digits after the mark, or as many more as show four significant ones; without trailing zeros. Very
-// large and very small numbers get an exponent. Empty for what is not a number.
+// Formats with that many decimal places, or more if needed for four significant digits, without trailing zeros. Very
+// large and very small numbers have an exponent. Returns an empty string for what is not a number.
 std::string DecimalText(double value, int decimals);
-// The same with an exponent, whatever the size.
+// Always formats with an exponent.
 std::string ScientificText(double value, int decimals);
 
-// The digits after the mark that show the number so.
+// Returns the number of decimal places that DecimalText uses.
 int DecimalsFor(double value, int decimals);
 
 } // namespace drawcore

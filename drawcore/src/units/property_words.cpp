@@ -1,4 +1,4 @@
-// The words, and the names of colors.
+// The texts for property values, and the names of colors.
 #include "drawcore/src/units/property_words.h"
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Words for values of properties, as the pages of the sheet show them: markers, choices, effects of texts, colors.
+// Texts for property values as shown on the pages of the sheet: markers, choices, text effects, colors.
 #pragma once
 
 #include <string>
@@ -13,9 +13,9 @@ struct PropertyWord {
     const char* text;
 };
 
-// Returns the words for values of that meaning: choices, markers or, for text styles, bits.
+// Returns the texts for values with that meaning: choices, markers or, for text styles, bits.
 const std::vector<PropertyWord>& WordsOf(PropertyMeaning meaning);
-// Returns the word for a value; null if it has none.
+// Returns the text for a value, or null.
 const char* WordOf(PropertyMeaning meaning, uint32_t value);
 
 // Returns "Bold+Underline"; "Regular" without effects.

@@ -1,4 +1,4 @@
-// Numbers, words and signs at the cursor.
+// Parses numbers, words and signs at the cursor.
 #include "drawcore/src/units/text_cursor.h"
 
 namespace drawcore {
@@ -90,7 +90,7 @@ bool TextCursor::Fraction(double& value) {
     return false;
 }
 
-// join: takes what stands between the two, at least a character.
+// join: parses the separator between the two, at least one character.
 template <class Join>
 bool TextCursor::WholeAndFraction(double& value, Join join) {
     const size_t begin = at_;

@@ -1,4 +1,4 @@
-// Reads a text from left to right, piece by piece: what lengths and angles are made of.
+// A cursor for parsing the parts of lengths and angles.
 #pragma once
 
 #include <string_view>
@@ -11,26 +11,26 @@ class TextCursor {
 public:
     explicit TextCursor(std::string_view text) : text_(text) {}
 
-    bool AtEnd(); // apart from blanks
+    bool AtEnd(); // ignoring blanks
     std::string_view Rest() const { return text_.substr(at_); }
     void SkipBlanks();
-    // Takes the character if it comes next, in either case of a letter.
+    // Takes the character if it comes next, ignoring case.
     bool Take(char c);
-    // A plus or minus, or none; true for a minus.
+    // Takes an optional sign. Returns true for a minus.
     bool TakeMinus();
-    // One of the two with any blanks around it, and which it was; 0, and nothing taken, if neither comes next, or if a
-    // sign follows a sign.
+    // Takes one of the two operators, which blanks may surround, and returns it. Returns 0 and takes nothing if neither
+    // comes next or a sign follows a sign.
     char TakeOperator(char one, char other);
-    // Letters, feet and inch marks, signs of the code page: the longest run of them, perhaps empty.
+    // Takes the longest run of letters, foot and inch signs and non-ASCII characters, which may be empty.
     std::string_view TakeWord();
-    // The same behind blanks.
+    // Does the same after skipping blanks.
     std::string_view TakeUnit();
 
     bool Number(double& value);
-    bool NumberFollows(); // behind blanks
-    // "6", "6 1/2", "1/2", "6.5".
+    bool NumberFollows(); // after skipping blanks
+    // Parses "6", "6 1/2", "1/2" or "6.5".
     bool Mixed(double& value);
-    // The same, and "6-1/2".
+    // Also parses "6-1/2".
     bool JoinedNumber(double& value);
 
 private:

@@ -1,4 +1,4 @@
-// Units by the variables of a header.
+// Derives units from the variables of a header.
 #include "drawcore/src/units/unit_settings.h"
 
 #include <algorithm>
@@ -7,7 +7,8 @@ namespace drawcore {
 
 namespace {
 
-// Engineering and architectural lengths belong to a drawing in inches, unless it says otherwise.
+// Returns whether the drawing uses feet and inches: engineering and architectural lengths imply inches unless the
+// header declares another unit.
 bool CountsInFeet(const dxf::Header& header) {
     return header.lengthFormat == 3 || header.lengthFormat == 4;
 }
