@@ -1,4 +1,4 @@
-// Code pages: by MultiByteToWideChar on Windows, by iconv elsewhere.
+// Converts code pages with MultiByteToWideChar on Windows and iconv elsewhere.
 
 #include "drawcore/src/dxf/code_page.h"
 
@@ -21,7 +21,7 @@ struct NamedPage {
     std::string_view name;
     int number;
 };
-// Names without a number of their own; ANSI_nnnn and DOSnnn are taken apart.
+// Names without a number; ANSI_nnnn and DOSnnn are parsed.
 constexpr NamedPage kNamedPages[] = {
     {"ascii", 1252},      {"iso8859-1", 28591}, {"iso8859-2", 28592}, {"iso8859-5", 28595},
     {"iso8859-7", 28597}, {"gb2312", 936},      {"big5", 950},        {"ksc5601", 949},
@@ -53,7 +53,7 @@ struct CodePage::Converter {
 
     std::string Convert(std::string_view bytes) const {
         const int length = static_cast<int>(bytes.size());
-        std::wstring wide(bytes.size(), L'\0'); // a byte is never more than one unit
+        std::wstring wide(bytes.size(), L'\0'); // a byte becomes at most one unit
         const int units = ::MultiByteToWideChar(page, 0, bytes.data(), length, wide.data(), length);
         std::string utf8(static_cast<size_t>(units) * 3, '\0');
         const int size = ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, utf8.data(),
@@ -70,7 +70,7 @@ struct CodePage::Converter {
         const int size = ::WideCharToMultiByte(page, page == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS, wide.data(), units,
                                                bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
         bytes.resize(static_cast<size_t>(size));
-        // A character that some pages lack becomes another one, whatever the flags.
+        // Some code pages replace missing characters, whatever the flags, so the result is converted back and compared.
         if (Convert(bytes) != text) return std::nullopt;
         return bytes;
     }
@@ -95,7 +95,7 @@ struct CodePage::Converter {
         return name;
     }
 
-    // A page that the system doesn't know becomes Windows 1252.
+    // Uses Windows 1252 if the system does not know the code page.
     static iconv_t Open(std::string& name) {
         const iconv_t opened = ::iconv_open("UTF-8", name.c_str());
         if (opened != reinterpret_cast<iconv_t>(-1)) return opened;
@@ -118,7 +118,7 @@ struct CodePage::Converter {
     std::string Convert(std::string_view bytes) const {
         ::iconv(handle, nullptr, nullptr, nullptr, nullptr);
         std::string utf8(bytes.size() * 3 + 4, '\0');
-        char* in = const_cast<char*>(bytes.data()); // iconv's signature; it does not write there
+        char* in = const_cast<char*>(bytes.data()); // iconv does not write to its input
         size_t left = bytes.size();
         char* out = utf8.data();
         size_t space = utf8.size();

@@ -1,4 +1,4 @@
-// Turns bytes of a code page into UTF-8, by the system's own tables.
+// Converts text between a code page and UTF-8 with the system's tables.
 #pragma once
 
 #include <memory>
@@ -10,21 +10,20 @@ namespace dxf {
 
 class CodePage {
 public:
-    // By a drawing's name for it ("ANSI_1252", "dos850", "gb2312"), in any case. Unknown names:
-    // Windows 1252.
+    // Takes a name as in drawings ("ANSI_1252", "dos850", "gb2312"), ignoring case. Unknown names: Windows 1252.
     explicit CodePage(std::string_view name);
     explicit CodePage(int number);
     ~CodePage();
     CodePage(CodePage&&) noexcept;
     CodePage& operator=(CodePage&&) noexcept;
 
-    // What the page has no character for becomes U+FFFD.
+    // Undefined bytes become U+FFFD.
     std::string ToUtf8(std::string_view bytes) const;
-    // None if the page lacks one of the characters.
+    // Returns nothing if the code page cannot represent a character.
     std::optional<std::string> FromUtf8(std::string_view text) const;
 
 private:
-    struct Converter; // the system's
+    struct Converter; // depends on the system
     std::unique_ptr<Converter> converter_;
 };
 

@@ -23,13 +23,13 @@ constexpr Color kFirst[] = {Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 255, 0), 
                             Rgb(255, 0, 255), kWhite,           Rgb(128, 128, 128), Rgb(192, 192, 192)};
 constexpr int kGreys[] = {51, 80, 105, 130, 190, 255};
 
-// The numbers 10 to 249 are 24 hues, 15 degrees apart, each in five brightnesses, full and half saturated.
+// The numbers 10 to 249 are 24 hues, 15 degrees apart, each in five brightnesses at full and half saturation.
 Color HueColor(int index) {
     constexpr int kBrightness[] = {255, 165, 127, 76, 38};
     const double hue = (index / 10 - 1) / 4.0; // in sixths of the circle
     const double value = kBrightness[index % 10 / 2], saturation = index % 2 ? 0.5 : 1.0;
     const auto part = [&](double shift) {
-        const double away = std::fabs(std::fmod(hue + shift, 6.0) - 3.0); // 3 at the part's own hue
+        const double away = std::fabs(std::fmod(hue + shift, 6.0) - 3.0); // 3 at the hue of the component
         const double share = std::clamp(away - 1.0, 0.0, 1.0);
         return static_cast<int>(value * (1 - saturation * (1 - share)));
     };

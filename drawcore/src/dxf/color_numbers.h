@@ -1,4 +1,4 @@
-// The 255 numbered colors of DXF, and what numbers and true colors stand for.
+// The 255 numbered colors of DXF, and the conversion of numbers and true colors.
 #pragma once
 
 #include <cstdint>
@@ -10,17 +10,17 @@ namespace dxf {
 
 constexpr int kColorNumbers = 255;
 
-// 0x00bbggrr of a color number, 1 to 255; white for any other.
+// Returns 0x00bbggrr for a color number from 1 to 255, white for others.
 uint32_t ColorOfIndex(int index);
-// "Red" to "White", then "Color 8" on.
+// Returns "Red" to "White", then "Color 8" on.
 std::string NameOfIndex(int index);
-// The number whose color is nearest to 0x00bbggrr; 7 for white.
+// Returns the number of the color nearest to 0x00bbggrr; 7 for white.
 int NearestIndex(uint32_t color);
 
-// What a color number (256 by layer, 0 by block) or true color (0xRRGGBB; -1: none) stands for: 0x00bbggrr or a marker
-// of orlo/host/words.h.
+// Converts a color number (256 by layer, 0 by block) or true color (0xRRGGBB; -1 for none) to 0x00bbggrr or a marker of
+// orlo/host/words.h.
 uint32_t ColorOf(int index, int32_t trueColor);
-// 0xRRGGBB of 0x00bbggrr.
+// Converts 0x00bbggrr to 0xRRGGBB.
 int32_t TrueColorOf(uint32_t color);
 
 } // namespace dxf

@@ -1,6 +1,5 @@
-// A DXF drawing as read: header, tables, blocks and entities. Data only; reader.h fills it.
-// All texts are UTF-8. Names are as stored, with escapes like \U+00C4 left in: ToDisplayText turns them into
-// text.
+// The contents of a DXF drawing: header, tables, blocks and entities. Filled by reader.h. All texts are UTF-8. Names
+// are as stored, with escapes such as \U+00C4, which ToDisplayText resolves.
 #pragma once
 
 #include <cstdint>
@@ -15,10 +14,10 @@
 namespace dxf {
 
 struct Header {
-    std::string version;  // "AC1015"; empty if the file does not say
-    std::string codePage; // "ANSI_1252"; empty if the file does not say
-    int unit = 0;         // of a drawing unit: 1 inch, 2 foot, 4 mm, 5 cm, 6 m ...; 0: unknown
-    int metric = -1;      // 1 metric, 0 not, in use where unit is 0; -1: unknown
+    std::string version;  // "AC1015"; empty if missing
+    std::string codePage; // "ANSI_1252"; empty if missing
+    int unit = 0;         // unit of the drawing: 1 inch, 2 foot, 4 mm, 5 cm, 6 m ...; 0: unknown
+    int metric = -1;      // 1 metric, 0 not, used if unit is 0; -1: unknown
     int lengthFormat = 2; // 1 scientific, 2 decimal, 3 engineering, 4 architectural, 5 fractional
     int lengthDigits = 4;
     int angleFormat = 0; // 0 degrees, 1 degrees minutes seconds, 2 grads, 3 radians, 4 surveyor's
@@ -28,10 +27,10 @@ struct Header {
 
 constexpr int kLayerIsFrozen = 1, kLayerIsLocked = 4;
 
-// Every named thing says whether a table holds it, or an entity only mentions it.
+// Each named object records whether a table declares it or an entity only refers to it.
 struct Layer {
     std::string name;
-    std::string stored; // its bytes, where encoding the name gives others
+    std::string stored; // its bytes, if encoding the name would result in others
     bool declared = false;
     int color = 7; // as stored; negative: the layer is off
     int flags = 0; // kLayerIsFrozen, kLayerIsLocked, and others
@@ -39,7 +38,7 @@ struct Layer {
     int32_t trueColor = -1; // 0xRRGGBB; -1: none
     int lineWeight = kLineWeightDefault;
     bool plotted = true;
-    uint32_t offset = 0; // of its record in the text of the file
+    uint32_t offset = 0; // of its record in the file's text
 };
 
 struct LineType {
@@ -48,7 +47,7 @@ struct LineType {
     bool declared = false;
     std::string description;
     double patternLength = 0;
-    std::vector<double> dashes; // positive a dash, negative a gap, 0 a dot
+    std::vector<double> dashes; // positive: dash, negative: gap, 0: dot
 };
 
 struct TextStyle {
@@ -56,10 +55,10 @@ struct TextStyle {
     std::string stored;
     bool declared = false;
     std::string fontFile; // "txt.shx", "arial.ttf"
-    std::string fontFace; // TrueType family; empty if the file does not say
+    std::string fontFace; // TrueType family; empty if missing
     bool bold = false;
     bool italic = false;
-    double fixedHeight = 0; // 0: each text has its own
+    double fixedHeight = 0; // 0: each text has its own height
     double widthFactor = 1;
     double oblique = 0;
     bool backward = false;
@@ -74,7 +73,7 @@ struct Block {
     int flags = 0;
     std::vector<Entity> entities;
     OwnData own;                 // of its BLOCK record
-    uint32_t begin = 0, end = 0; // of its BLOCK and its ENDBLK record in the text of the file
+    uint32_t begin = 0, end = 0; // offsets of its BLOCK and ENDBLK records in the file's text
 };
 
 struct Document {
@@ -83,16 +82,15 @@ struct Document {
     std::vector<LineType> lineTypes;
     std::vector<TextStyle> textStyles;
     std::vector<Block> blocks;
-    std::vector<Entity> entities; // of the ENTITIES section: model space, and one sheet of paper space
+    std::vector<Entity> entities; // of the ENTITIES section: model space, and one paper space layout
 
-    // Records of the ENTITIES section by type, those that no Entity was made of and VERTEX, ATTRIB, SEQEND
-    // included.
+    // Number of records in the ENTITIES section by type, including skipped ones and VERTEX, ATTRIB and SEQEND.
     std::map<std::string, uint64_t, std::less<>> entityCounts;
 
-    std::vector<Finding> findings; // at most kMostFindings, then one that says how many more there were
+    std::vector<Finding> findings; // at most kMostFindings, then one with the number of others
     static constexpr size_t kMostFindings = 200;
 
-    // The same without entities and what was found.
+    // Returns a copy without entities and findings.
     Document Tables() const;
 
     const TextStyle& At(TextStyleIndex index) const { return textStyles[static_cast<size_t>(index)]; }

@@ -1,6 +1,5 @@
-// The entities of a DXF drawing as plain data: what the file contains, angles in degrees, lengths in drawing
-// units. Coordinates are as stored; where an entity has an object coordinate system, says so, and placement.h
-// converts.
+// The entities of a DXF drawing as stored in the file, with angles in degrees and lengths in drawing units. Coordinates
+// are converted by placement.h where an entity has an object coordinate system, as noted.
 #pragma once
 
 #include <array>
@@ -16,10 +15,10 @@ namespace dxf {
 
 using drawcore::Vec3;
 
-// Positions in the lists of a Document. A reference to a name that no table holds makes an entry there.
+// Indices into the lists of a Document. A reference to a name that no table declares creates an entry.
 enum class LayerIndex : uint32_t {};
 enum class LineTypeIndex : uint32_t {
-    none = 0xFFFFFFFD, // no line at all; of no file
+    none = 0xFFFFFFFD, // no line; not stored in files
     byLayer = 0xFFFFFFFE,
     byBlock = 0xFFFFFFFF
 };
@@ -27,31 +26,31 @@ enum class TextStyleIndex : uint32_t {};
 enum class BlockIndex : uint32_t { none = 0xFFFFFFFF };
 
 struct Line {
-    Vec3 start; // world
+    Vec3 start; // world coordinates
     Vec3 end;
 };
 
 struct PointMark {
-    Vec3 at; // world
+    Vec3 at; // world coordinates
 };
 
 struct Circle {
-    Vec3 center; // object system
+    Vec3 center; // object coordinates
     double radius = 0;
 };
 
 struct Arc {
-    Vec3 center; // object system
+    Vec3 center; // object coordinates
     double radius = 0;
-    double startAngle = 0; // counter-clockwise from start to end
+    double startAngle = 0; // counterclockwise from start to end
     double endAngle = 360;
 };
 
 struct Ellipse {
-    Vec3 center; // world
+    Vec3 center; // world coordinates
     Vec3 majorAxis;
-    double ratio = 1;      // minor to major axis
-    double startParam = 0; // radians, not angles
+    double ratio = 1;      // ratio of the minor to the major axis
+    double startParam = 0; // in radians; a parameter rather than an angle
     double endParam = 6.283185307179586;
 };
 
@@ -59,20 +58,19 @@ struct Ellipse {
 struct Polyline {
     enum class Kind : uint8_t { flat, spatial, mesh, faces };
     struct Vertex {
-        Vec3 at; // object system if flat, else world
+        Vec3 at; // object coordinates if flat, else world coordinates
         double bulge = 0;
-        double startWidth = 0; // of the segment to the next vertex
+        double startWidth = 0; // width of the segment to the next vertex
         double endWidth = 0;
     };
     Kind kind = Kind::flat;
-    bool closed = false;        // in the direction of m for a mesh
+    bool closed = false;        // for a mesh, in the direction of m
     bool closedN = false;       // mesh only
     bool dashesThrough = false; // the dash pattern continues around corners
     uint32_t rows = 0;          // mesh only: vertices[row * columns + column]
     uint32_t columns = 0;
     std::vector<Vertex> vertices;
-    // faces only: positions in vertices counted from 1, 0 for none; negative: the edge from there is not
-    // seen.
+    // Faces only: vertices counted from 1, 0 for none; negative if the edge that starts there is invisible.
     std::vector<std::array<int, 4>> faces;
 };
 
@@ -80,41 +78,40 @@ struct Spline {
     int degree = 3;
     bool closed = false;
     std::vector<double> knots;
-    std::vector<double> weights;     // empty: all 1
-    std::vector<Vec3> controlPoints; // world
-    std::vector<Vec3> fitPoints;     // used where there are no control points
+    std::vector<double> weights;     // empty if all are 1
+    std::vector<Vec3> controlPoints; // world coordinates
+    std::vector<Vec3> fitPoints;     // used if there are no control points
 };
 
 // TEXT, ATTRIB and ATTDEF.
 struct Text {
     enum class Horizontal : uint8_t { left, center, right, aligned, middle, fit };
     enum class Vertical : uint8_t { baseline, bottom, middle, top };
-    // A definition is shown only outside of blocks: within a block, inserts bring attributes of their
-    // own.
+    // Definitions are drawn only outside of blocks; in blocks, insertions have their own attributes.
     enum class Role : uint8_t { text, attribute, definition };
     Role role = Role::text;
-    std::string text; // UTF-8, control codes and escapes as stored: see ToDisplayText
+    std::string text; // UTF-8, with control codes and escapes as stored: see ToDisplayText
     std::string tag;  // ATTRIB and ATTDEF
-    Vec3 insertion;   // object system
-    Vec3 alignment;   // object system; in use where an alignment is not left on the baseline
+    Vec3 insertion;   // object coordinates
+    Vec3 alignment;   // object coordinates; used unless the alignment is left on the baseline
     double height = 0;
     double rotation = 0;
     double widthFactor = 1;
     double oblique = 0;
     bool backward = false;
     bool upsideDown = false;
-    bool hidden = false; // an attribute that is not shown
+    bool hidden = false; // an invisible attribute
     Horizontal horizontal = Horizontal::left;
     Vertical vertical = Vertical::baseline;
     TextStyleIndex style{};
 };
 
 struct MText {
-    std::string text; // UTF-8, inline codes as stored: see ReadInlineCodes
-    Vec3 insertion;   // world
+    std::string text; // UTF-8, with inline codes as stored: see ReadInlineCodes
+    Vec3 insertion;   // world coordinates
     double height = 0;
-    double width = 0;        // of the column in which words wrap; 0: none
-    Vec3 direction{1, 0, 0}; // of the lines, in the world; not of length 1
+    double width = 0;        // width of the column for word wrapping; 0: none
+    Vec3 direction{1, 0, 0}; // of the lines in world coordinates; not normalized
     int attachment = 1;      // 1 top left, 2 top center ... 9 bottom right
     double lineSpacing = 1;
     TextStyleIndex style{};
@@ -124,7 +121,7 @@ struct Entity;
 
 struct Insert {
     BlockIndex block = BlockIndex::none;
-    Vec3 at; // object system
+    Vec3 at; // object coordinates
     double scaleX = 1;
     double scaleY = 1;
     double scaleZ = 1;
@@ -142,15 +139,15 @@ struct Hatch {
         Kind kind = Kind::line;
         bool counterClockwise = true;
         Vec3 start;            // line: both ends; arc and ellipse: the center
-        Vec3 end;              // ellipse: the major axis
-        double radius = 0;     // arc; ellipse: minor to major axis
-        double startAngle = 0; // degrees; mirrored where clockwise
+        Vec3 end;              // ellipse: the major axis; line: its end
+        double radius = 0;     // arc; for an ellipse, the ratio of the minor to the major axis
+        double startAngle = 0; // in degrees; mirrored if clockwise
         double endAngle = 360;
         Spline spline;
     };
     struct Loop {
         int flags = 0;
-        Polyline outline; // in use where edges is empty
+        Polyline outline; // used if edges is empty
         std::vector<Edge> edges;
     };
     struct PatternLine {
@@ -162,36 +159,37 @@ struct Hatch {
     std::string pattern;
     bool solid = false;
     bool gradient = false;
-    int style = 0; // islands: 0 alternate, 1 outermost, 2 ignored
+    int style = 0; // handling of islands: 0 alternate, 1 outermost, 2 ignored
     double elevation = 0;
     double angle = 0;
     double scale = 1;
     bool crossed = false;
-    std::vector<Loop> loops; // object system
+    std::vector<Loop> loops; // object coordinates
     std::vector<PatternLine> lines;
 };
 
-// SOLID and TRACE (filled, object system), 3DFACE (edges, world). Corners in order around the face.
+// SOLID and TRACE (filled, object coordinates), 3DFACE (edges, world coordinates). Corners are in order around the
+// face.
 struct Face {
     std::array<Vec3, 4> corners;
     bool filled = true;
-    uint8_t hiddenEdges = 0; // bit n: edge from corner n
+    uint8_t hiddenEdges = 0; // bit n: the edge that starts at corner n
 };
 
 // A dimension is drawn by its anonymous block.
 struct Dimension {
     BlockIndex block = BlockIndex::none;
-    Vec3 offset; // of the block; zero but for copies
+    Vec3 offset; // offset of the block; nonzero only for copies
 };
 
 struct Leader {
-    std::vector<Vec3> vertices; // world
+    std::vector<Vec3> vertices; // world coordinates
 };
 
-// Not shown.
+// Not drawn.
 struct Viewport {};
 
-// Larger kinds are held apart, so that a drawing of a million lines stays small.
+// Large kinds are stored separately, so that a drawing of a million lines stays small.
 template <class T>
 using Apart = std::unique_ptr<T>;
 
@@ -205,7 +203,7 @@ constexpr int16_t kLineWeightByLayer = -1;
 constexpr int16_t kLineWeightByBlock = -2;
 constexpr int16_t kLineWeightDefault = -3;
 
-// What the file format has no group for: a name with numbers or a text, kept in extended data under kApplication.
+// A named value without a DXF group, stored in extended data under kApplication: numbers or a text.
 struct OwnValue {
     std::string name;
     std::string text;
@@ -227,10 +225,10 @@ struct Entity {
     bool inPaperSpace = false;
     bool invisible = false;
     double lineTypeScale = 1;
-    Vec3 normal{0, 0, 1}; // the extrusion direction: z axis of the object system
-    uint32_t line = 0;    // of the file, for messages
-    uint32_t offset = 0;  // of its record in the text of the file
-    Apart<OwnData> own;   // null: none
+    Vec3 normal{0, 0, 1}; // the extrusion direction: z axis of the object coordinate system
+    uint32_t line = 0;    // line in the file, for messages
+    uint32_t offset = 0;  // of its record in the file's text
+    Apart<OwnData> own;   // null if there are none
 };
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// The entities of one record, and what all entities have in common.
+// Reads single records, and the groups shared by all entities.
 
 #include "drawcore/src/dxf/entity_reader.h"
 
@@ -16,7 +16,7 @@ const Field<Entity> kCommon[] = {
 
 } // namespace
 
-// In order of how often they occur.
+// Sorted by frequency.
 const EntityReader::Kind EntityReader::kKinds[] = {
     {"LINE", &EntityReader::ReadLine},
     {"LWPOLYLINE", &EntityReader::ReadLightPolyline},
@@ -129,7 +129,7 @@ void EntityReader::ReadEllipse(Entity& entity) {
 void EntityReader::ReadFace(Entity& entity) {
     ReadSpaceFace(entity);
     Face& face = *std::get<Apart<Face>>(entity.shape);
-    std::swap(face.corners[2], face.corners[3]); // stored in the order of a Z
+    std::swap(face.corners[2], face.corners[3]); // stored in zigzag order
     face.filled = true;
     face.hiddenEdges = 0;
 }
@@ -168,7 +168,7 @@ void EntityReader::ReadInsert(Entity& entity) {
     ReadAttributesOf(insert);
 }
 
-// A table is drawn by its anonymous block, too; what follows is the contents of its cells.
+// A table is also drawn by its anonymous block; the following groups are the contents of its cells.
 void EntityReader::ReadTable(Entity& entity) {
     static const Field<Insert> kFields[] = {{2, &Insert::block}, {10, &Insert::at}};
     Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());

@@ -1,5 +1,5 @@
-// Reads the entity records of the sections BLOCKS and ENTITIES. Polylines, hatches and the other entities of
-// several parts have their own sources: polyline_reader.cpp, hatch_reader.cpp, text_reader.cpp.
+// Reads the entity records of the sections BLOCKS and ENTITIES. Entities with several parts have their own sources:
+// polyline_reader.cpp, hatch_reader.cpp, text_reader.cpp.
 #pragma once
 
 #include <map>
@@ -14,14 +14,14 @@ class EntityReader {
 public:
     explicit EntityReader(RecordReader& in) : in_(in) {}
 
-    // Reads the record at which the reader is, with the records that belong to it, and goes to the next
-    // one. A sound entity is appended to the list; the others leave a finding.
+    // Reads the current record with the records that belong to it, and advances to the next. Appends a valid entity to
+    // the list; reports a finding for others.
     void Read(std::vector<Entity>& entities);
 
-    // Counts records by type from here on.
+    // Starts counting records by type.
     void CountRecords() { counting_ = true; }
 
-    // Reports which types of entities were skipped.
+    // Reports the types of entities that were skipped.
     void ReportSkipped();
 
 private:
@@ -34,18 +34,18 @@ private:
 
     void Count();
     Entity NewEntity();
-    // Reads the rest of the record: members of the shape, and those that all entities have.
+    // Reads the rest of the record: members of the shape, and those of all entities.
     template <class T, size_t N>
     void ReadTags(const Field<T> (&table)[N], T& shape, Entity& entity) {
         while (in_.NextTag())
             if (!in_.SetField(table, shape, in_.tags.Current())) SetCommon(entity);
     }
     void SetCommon(Entity& entity);
-    // Before records that belong to the entity are read, if there are any.
+    // Stores the extended data, before further records of the entity are read.
     void TakeOwn(Entity& entity) {
         if (!entity.own) entity.own = in_.TakeOwn();
     }
-    // Refuses the entity for a reason that is not a number without a place.
+    // Rejects the entity for a reason other than an invalid coordinate.
     void Refuse(std::string reason) { refused_ = std::move(reason); }
 
     void ReadLine(Entity&);
@@ -82,8 +82,8 @@ private:
     std::map<std::string, Skipped> skipped_;
 };
 
-// Makes sure that control points, knots and weights fit together, otherwise falls back on the fit points. False if
-// there is nothing to draw.
+// Checks that control points, knots and weights are consistent, and otherwise uses the fit points. Returns false if
+// nothing can be drawn.
 bool MakeSound(Spline& spline);
 
 } // namespace dxf

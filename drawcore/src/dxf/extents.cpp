@@ -1,4 +1,4 @@
-// A walk over all entities with the matrices of the inserts that they lie in.
+// Computes extents over all entities, with the matrices of the insertions that contain them.
 
 #include "drawcore/src/dxf/extents.h"
 
@@ -13,7 +13,7 @@ using drawcore::Extents;
 
 namespace {
 
-// Boxes of blocks as they lie in themselves, made when they are asked for.
+// Extents of blocks in their own coordinates, computed on demand.
 using BlockBoxes = std::vector<std::optional<Extents>>;
 
 class ExtentsWalk : private PathSink {
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    // The references of a document that was read are sound: this ends, and soon.
+    // References of a document are acyclic and bounded, so that this ends.
     void Add(const Entity& entity, const Matrix& toWorld) {
         if (entity.invisible) return;
         if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
@@ -57,7 +57,7 @@ private:
         if (insert.block == BlockIndex::none) return;
         const Block& block = drawing_.At(insert.block);
         const Extents& box = BoxOf(insert.block);
-        // The corners of the array are its outermost cells.
+        // The corners of an array are determined by its outermost cells.
         for (uint32_t column = 0; column < insert.columns; column += std::max(insert.columns - 1, 1u))
             for (uint32_t row = 0; row < insert.rows; row += std::max(insert.rows - 1, 1u))
                 AddBlock(block, box, InsertMatrix(entity, insert, block, column, row) * toWorld);
@@ -75,7 +75,7 @@ private:
         return *box;
     }
 
-    // Most inserts of a drawing lie amid others: only those that reach out are measured part by part.
+    // Most insertions are inside the extents known so far; only those that extend beyond are measured in detail.
     void AddBlock(const Block& block, const Extents& box, const Matrix& toWorld) {
         if (!box_.Covers(box.Transformed(toWorld))) AddEntities(block, toWorld);
     }

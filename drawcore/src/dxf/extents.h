@@ -1,4 +1,4 @@
-// The box of what a drawing shows in model space, layer states aside.
+// Computes the extents of a drawing's model space, ignoring layer states.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -6,9 +6,8 @@
 
 namespace dxf {
 
-// Exact for lines, arcs, ellipses and what is made of them, inserted in any way; lines without their widths.
-// Splines count as the chain of points that they are drawn by, texts as their insertion points: their width
-// depends on the font.
+// Exact for lines, arcs, ellipses and objects made of them, however they are inserted; line widths are ignored. Splines
+// are measured by their line segments, texts by their insertion points, because their width depends on the font.
 drawcore::Extents ExtentsOf(const Document& drawing);
 
 } // namespace dxf

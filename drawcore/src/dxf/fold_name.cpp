@@ -1,4 +1,4 @@
-// Folding names.
+// Folds the case of names.
 #include "drawcore/src/dxf/fold_name.h"
 
 #include <algorithm>

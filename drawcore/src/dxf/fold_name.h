@@ -1,4 +1,4 @@
-// Names without regard to case.
+// Folds the case of names.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace dxf {
 
-// The name as look-ups compare it: A to Z as a to z.
+// Returns the name with A to Z converted to a to z, for lookups.
 std::string FoldName(std::string_view name);
 
 } // namespace dxf

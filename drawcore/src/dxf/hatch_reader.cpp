@@ -1,4 +1,4 @@
-// HATCH: the one entity in which the meaning of a group code depends on what came before it.
+// Reads HATCH, the only entity in which the meaning of a group code depends on the preceding groups.
 
 #include <utility>
 
@@ -8,18 +8,18 @@ namespace dxf {
 
 namespace {
 
-constexpr int kOutlineLoop = 2; // flag of a loop: one polyline, not a list of edges
+constexpr int kOutlineLoop = 2; // flag of a loop that is a polyline rather than a list of edges
 
 const Field<Hatch> kHead[] = {{2, &Hatch::pattern}, {70, &Hatch::solid}};
 const Field<Hatch> kPattern[] = {
     {52, &Hatch::angle}, {41, &Hatch::scale}, {77, &Hatch::crossed}, {450, &Hatch::gradient}};
 
-// Follows the order of a HATCH record: head, loops, pattern, seed points.
+// Parses a HATCH record in order: head, loops, pattern, seed points.
 class HatchParts {
 public:
     HatchParts(RecordReader& in, Hatch& hatch) : in_(in), hatch_(hatch) {}
 
-    // False if the code has no meaning for a hatch at this place.
+    // Returns false if the code has no meaning for a hatch at this position.
     bool Take(const Tag& tag) {
         if (StartsPart(tag)) return true;
         switch (part_) {
@@ -37,7 +37,7 @@ public:
         return false;
     }
 
-    // Closes what the last edge left open.
+    // Completes the last edge.
     void Finish() {
         for (Hatch::Loop& loop : hatch_.loops)
             for (Hatch::Edge& edge : loop.edges)

@@ -1,4 +1,4 @@
-// A reader of MTEXT's stored form, which goes from left to right with a stack of formats.
+// Parses the stored form of MTEXT from left to right, with a stack of formats.
 
 #include "drawcore/src/dxf/inline_codes.h"
 
@@ -13,7 +13,7 @@ namespace dxf {
 
 namespace {
 
-// No program nests formats so deep; what goes beyond keeps the format that it is in.
+// Deeper nesting does not occur; it keeps the current format.
 constexpr size_t kDeepest = 64;
 
 bool ReadNumber(std::string_view text, double& number) {
@@ -39,7 +39,7 @@ private:
         return c;
     }
 
-    // What comes before the next semicolon, which is taken too.
+    // Returns the text up to the next semicolon and skips both.
     std::string_view TakeArgument() {
         const size_t length = std::min(rest_.find(';'), rest_.size());
         const std::string_view argument = rest_.substr(0, length);
@@ -47,7 +47,7 @@ private:
         return argument;
     }
 
-    // Ends the run, so that the format may change.
+    // Ends the run before a change of format.
     void Finish() {
         if (!text_.empty()) result_.runs.push_back({ReadControlCodes(text_).text, format_});
         text_.clear();
@@ -73,7 +73,7 @@ private:
         } else if (c == '}') {
             CloseGroup();
         } else if (c == '^' && !rest_.empty()) {
-            const char control = Take(); // ^I is a tab, ^J a new line, "^ " the sign itself
+            const char control = Take(); // ^I is a tab, ^J a line feed, "^ " a caret
             if (control == 'I')
                 text_ += '\t';
             else if (control == 'J')
@@ -178,7 +178,7 @@ private:
         Change(&InlineFormat::italic, switches.find("|i1") != switches.npos);
     }
 
-    // "xi-2,l2,qc,t4": of indents, alignment and tab stops the alignment; "q*" puts it back.
+    // Parses "xi-2,l2,qc,t4", of which only the alignment is used; "q*" resets it.
     void ReadParagraph(std::string_view argument) {
         const size_t found = argument.find('q');
         if (found == argument.npos || found + 1 == argument.size()) return;
@@ -189,7 +189,7 @@ private:
             Change(&InlineFormat::alignment, alignment);
     }
 
-    // "2.5" is a height, "0.7x" a share of the present one.
+    // Parses "2.5", a height, or "0.7x", relative to the current one.
     void ReadHeight(std::string_view argument) {
         double number = 0;
         if (!ReadNumber(argument, number) || number <= 0) return;
@@ -213,7 +213,7 @@ private:
         Change(&InlineFormat::trueColor, -1);
     }
 
-    // Stored with blue in front, as in a COLORREF.
+    // Stored with blue in the high byte, as in a COLORREF.
     void ReadTrueColor(std::string_view argument) {
         double number = 0;
         if (!ReadNumber(argument, number) || number < 0 || number > 0xFFFFFF) return;
@@ -221,7 +221,7 @@ private:
         Change(&InlineFormat::trueColor, static_cast<int>((bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF)));
     }
 
-    // One above the other: "1/2", "1#2" and "+0.1^ -0.1"; shown on one line.
+    // Parses stacked text, "1/2", "1#2" or "+0.1^ -0.1", which is displayed on one line.
     void ReadStack(std::string_view argument) {
         bool divided = false;
         for (size_t i = 0; i < argument.size(); ++i) {

@@ -1,5 +1,5 @@
-// The inline codes of MTEXT: takes the text as shown, and the format of its parts, out of the stored form.
-// Columns, tab stops, indents, tracking and the vertical alignment of parts are passed over.
+// Parses the inline codes of MTEXT into the displayed text and the formats of its parts. Ignores columns, tab stops,
+// indents, tracking and the vertical alignment of parts.
 #pragma once
 
 #include <string>
@@ -9,17 +9,17 @@
 namespace dxf {
 
 struct InlineFormat {
-    std::string font; // TrueType family or font file; empty: the text style's
+    std::string font; // TrueType family or font file; empty for the text style's
     bool bold = false;
     bool italic = false;
     bool underlined = false;
     bool overlined = false;
     bool struckThrough = false;
-    double scale = 1; // of the text's height
+    double scale = 1; // relative to the text's height
     double widthFactor = 1;
-    int color = -1;     // -1: the entity's
+    int color = -1;     // -1 for the entity's
     int trueColor = -1; // 0xRRGGBB; -1: none
-    // Of the paragraph: 'l', 'c', 'r', 'j' (justified) or 'd' (distributed); 0: as the text is attached.
+    // Of the paragraph: 'l', 'c', 'r', 'j' (justified) or 'd' (distributed); 0: according to the attachment.
     char alignment = 0;
 };
 
@@ -31,14 +31,14 @@ struct FormattedText {
     std::vector<Run> runs;
 
     std::string Plain() const;
-    // The format of most of the text, for hosts with one format per text.
+    // Returns the format of most of the text, for hosts with one format per text.
     InlineFormat Prevailing() const;
 };
 
-// height: of the text, in drawing units; heights within are given in the same.
+// height: height of the text in drawing units, also the unit of heights in the codes.
 FormattedText ReadInlineCodes(std::string_view stored, double height);
 
-// The stored form without the codes of these letters and their arguments.
+// Returns the stored form without the codes of these letters and their arguments.
 std::string WithoutCodes(std::string_view stored, std::string_view letters);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// The look of an entity by its groups, and by its own extended data.
+// Determines the appearance of an entity from its groups and its extended data.
 #include "drawcore/src/dxf/look.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ public:
     }
     void operator()(const Apart<Hatch>& hatch) {
         look_.brush = BrushOf(*hatch);
-        if (!look_.brush.style.empty()) look_.lineType = LineTypeIndex::none; // a hatch shows no outline
+        if (!look_.brush.style.empty()) look_.lineType = LineTypeIndex::none; // a hatch has no outline
     }
     void operator()(const Apart<Text>& text) {
         look_.text = TextLookOf(*text, document_.At(text->style));
@@ -53,7 +53,7 @@ private:
     Look& look_;
 };
 
-// Own values by the property that they set. Numbers are finite, and as many as the row says at the least.
+// Extended values by property. Numbers must be finite, and there must be at least as many as the row requires.
 struct OwnRow {
     const char* name;
     size_t count;
@@ -87,8 +87,8 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
     return LineTypeIndex::byLayer;
 }
 
-// Where a group says nearly the same, the value says which group it goes with: a group that another program has
-// changed since then counts.
+// If a group contains a similar value, the extended value includes that of the group: if another program has changed
+// the group since, the group is used.
 constexpr OwnRow kOwnRows[] = {
     {kPropPenColor, 2,
      [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
@@ -113,7 +113,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
     {kPropBrushColor, 1,
      [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         // With two numbers the groups show the brush's color, and the other one is the pen's.
+         // With two numbers, the groups contain the brush's color, and the other number is the pen's.
          const uint32_t color = ToColor(own.numbers[0], look.brush.color);
          const bool inGroups = own.numbers.size() > 1;
          if (inGroups && look.color != color) return;
@@ -132,7 +132,7 @@ constexpr OwnRow kOwnRows[] = {
      }},
 };
 
-// Properties with groups whose own values are set as they are, as far as they are within the limits.
+// Properties with groups whose extended values are applied directly, within their limits.
 constexpr const char* kPlain[] = {kPropPenScale,      kPropPenAlignment, kPropBrushScale, kPropHatchCross,
                                   kPropBrushDrawMode, kPropTextFont,     kPropTextFormat};
 
@@ -166,7 +166,7 @@ Look LookOf(const Document& document, const Entity& entity) {
     for (const OwnValue& own : *entity.own) {
         const PropertyInfo* property = FindPropertyInfo(own.name);
         const auto isRow = [&](const char* name) { return own.name == name; };
-        if (!property || FindOwn(entity, own.name) != &own) continue; // of two the first counts
+        if (!property || FindOwn(entity, own.name) != &own) continue; // only the first of equal names is used
         if (!property->hasDxfGroup || std::any_of(std::begin(kPlain), std::end(kPlain), isRow))
             ApplyPlain(own, *property, look);
     }

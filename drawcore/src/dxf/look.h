@@ -1,5 +1,5 @@
-// How an entity looks, as the pages of the sheet show it: by its groups, and by its own extended data. The words of
-// orlo/host/words.h mean the same colors, line styles and brushes here.
+// The appearance of an entity as the pages of the sheet show it, from its groups and its extended data. The constants
+// of orlo/host/words.h are used for colors, line styles and brushes.
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -11,12 +11,12 @@ namespace dxf {
 constexpr char kSolidBrush[] = "Solid";
 
 struct BrushLook {
-    std::string style;                     // UTF-8; empty: no brush
-    std::vector<Hatch::PatternLine> lines; // at scale 1 and angle 0, the first one through the origin; empty: a style
-                                           // that every drawing has
+    std::string style;                     // UTF-8; empty for no brush
+    std::vector<Hatch::PatternLine> lines; // at scale 1 and angle 0, with the first line through the origin; empty for
+                                           // a predefined style
     uint32_t color = kColorOfPen;
     double scale = 1;
-    double angle = 0; // radians
+    double angle = 0; // in radians
     bool cross = false;
     bool winding = false;
 };
@@ -33,46 +33,46 @@ struct Look {
     uint32_t color = kColorByLayer;
     LineTypeIndex lineType = LineTypeIndex::byLayer;
     double lineScale = 1;
-    double width = 0; // inches of paper, drawing units if worldWidth, or a marker
+    double width = 0; // inches on paper, drawing units if worldWidth, or a marker
     bool worldWidth = false;
     bool dashesFitted = true;
-    BrushLook brush; // of all but texts and insertions
-    TextLook text;   // of texts
-    // Values of the properties that have no group (PropertyInfo), sorted by name: a text or the name of a block in
-    // UTF-8, or a number.
+    BrushLook brush; // for all but texts and insertions
+    TextLook text;   // for texts
+    // Values of the properties without a group (PropertyInfo), sorted by name: a text or the name of a block in UTF-8,
+    // or a number.
     OwnData extended;
-    // Bits (kVariedColor ...) of values that only most of the text has: its inline codes give the rest another one.
+    // Bits (kVariedColor ...) of values that only most of the text has; inline codes set others for the rest.
     uint8_t varied = 0;
 };
 
 enum : uint8_t { kVariedColor = 1, kVariedFont = 2, kVariedSize = 4, kVariedStyle = 8, kVariedFormat = 16 };
-// Returns the bit of a property; 0 if a part of a text cannot have a value of its own.
+// Returns the bit of a property, or 0 if parts of a text cannot have their own value.
 uint8_t VariedBit(std::string_view property);
 
 Look LookOf(const Document& document, const Entity& entity);
-// The same by its groups alone, without its own extended data.
+// Returns the appearance by groups only, ignoring extended data.
 Look LookByGroups(const Document& document, const Entity& entity);
 
-// Returns the value of that name; null if there is none.
+// Returns the value with that name, or null.
 const OwnValue* FindOwn(const OwnData& data, std::string_view name);
 const OwnValue* FindOwn(const Entity& entity, std::string_view name);
-// The number or text of a property, given by its name: of a color, factor, length or switch, or in Look::extended.
+// Return the number or text of a property by name: a color, factor, length or switch, or a value in Look::extended.
 // NumberOf returns nothing for other properties.
 std::optional<double> NumberOf(const Look& look, std::string_view property);
 std::string TextOf(const Look& look, std::string_view property);
 void SetNumber(Look& look, const char* property, double value);
 void SetText(Look& look, const char* property, const std::string& text);
-// Sets a value of Look::extended; an empty one is removed.
+// Sets a value in Look::extended, or removes it if it is empty.
 void SetExtended(Look& look, OwnValue value);
 
-// Own values that are not properties of the sheet.
+// Extended values that are not properties of the sheet.
 constexpr char kOwnPlacement[] = "Placement"; // of an insertion
-constexpr char kOwnStyleTree[] = "StyleName"; // of a block: the tree of styles that its contents belong to
+constexpr char kOwnStyleTree[] = "StyleName"; // of a block: the style tree of its contents
 
-// Returns whether two numbers draw the same: they differ by less than users see. What is written is compared exactly.
+// Returns whether two numbers look the same when drawn. Written values are compared exactly.
 bool Near(double a, double b);
 bool Near(const Vec3& a, const Vec3& b);
-// Returns whether numbers that were calculated from numbers of that magnitude differ by rounding only.
+// Returns whether numbers computed from numbers of that magnitude differ only by rounding.
 bool SameToRounding(double a, double b, double magnitude);
 bool SameLine(const Hatch::PatternLine& a, const Hatch::PatternLine& b);
 bool SameLines(const std::vector<Hatch::PatternLine>& a, const std::vector<Hatch::PatternLine>& b);
@@ -80,18 +80,18 @@ bool operator==(const BrushLook& a, const BrushLook& b);
 bool operator==(const TextLook& a, const TextLook& b);
 bool operator==(const Look& a, const Look& b);
 
-// Whether all segments of a polyline have one width.
+// Returns whether all segments of a polyline have the same width.
 bool HasOneWidth(const Polyline& polyline);
 
-// The family and cut (bits of a text's style) of a text style; an empty family is the default face.
+// The family and style (bits of kPropTextStyle) of a text style; an empty family is the default face.
 struct FontFace {
     std::string family;
     uint16_t cut = 0;
 };
 FontFace FaceOf(const TextStyle& style);
-// The font file of a family in that cut.
+// Returns the font file of a family in that style.
 std::string FontFileOf(const FontFace& face);
 
-constexpr double kWeightsPerInch = kMillimetersPerInch * 100; // line weights are hundredths of a millimeter
+constexpr double kWeightsPerInch = kMillimetersPerInch * 100; // line weights are in hundredths of a millimeter
 
 } // namespace dxf

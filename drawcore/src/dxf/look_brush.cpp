@@ -1,4 +1,4 @@
-// The pattern of a hatch: a file holds it at the scale and angle of the hatch.
+// Converts the pattern of a hatch, which is stored at the scale and angle of the hatch.
 #include <algorithm>
 #include <cmath>
 
@@ -12,7 +12,7 @@ namespace {
 
 using Family = Hatch::PatternLine;
 
-constexpr size_t kMostLines = 256; // of real patterns the largest have a few dozen
+constexpr size_t kMostLines = 256; // far more than in the largest real patterns
 constexpr size_t kMostDashes = 64;
 
 Vec3 Turned(const Vec3& p, double angle, double scale) {
@@ -20,7 +20,7 @@ Vec3 Turned(const Vec3& p, double angle, double scale) {
     return {p.x * c - p.y * s, p.x * s + p.y * c, 0};
 }
 
-// Where the first line starts does not count.
+// Normalizes lines, ignoring the start of the first.
 std::vector<Family> NormalLines(const Hatch& hatch, double scale, double angle) {
     std::vector<Family> lines;
     for (const Family& from : hatch.lines) {
@@ -46,7 +46,7 @@ bool IsSound(const std::vector<Family>& lines) {
            });
 }
 
-// Patterns were calculated by other programs: they are the same if nobody sees a difference.
+// Patterns computed by other programs are equal if the difference is not visible.
 bool Alike(double a, double b) {
     return std::fabs(a - b) <= 1e-6 * (1 + std::max(std::fabs(a), std::fabs(b)));
 }
@@ -95,7 +95,7 @@ std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, 
     return placed;
 }
 
-// Of each line its angle, base, offset, the number of its dashes, and these.
+// Each line consists of its angle, base, offset, number of dashes, and dashes.
 bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Family>& lines) {
     constexpr size_t kHead = 6;
     std::vector<Family> read;

@@ -1,4 +1,4 @@
-// The looks of hatches and of texts.
+// The appearance of hatches and texts.
 #pragma once
 
 #include "drawcore/src/dxf/inline_codes.h"
@@ -7,25 +7,25 @@
 
 namespace dxf {
 
-// Line types whose names are not in a table.
+// Names of line types that are not in a table.
 constexpr char kByLayerName[] = "BYLAYER";
 constexpr char kByBlockName[] = "BYBLOCK";
 
 BrushLook BrushOf(const Hatch& hatch);
-// A pattern as the hatch holds it: at its scale and angle, with the first line where it is.
+// Returns a pattern as stored in a hatch: at its scale and angle, with the position of its first line.
 std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale, double angle,
                                             const Vec3& base);
-// A pattern as a row of numbers; false, and nothing is written, if they are not a pattern.
+// Parses a pattern from numbers. Returns false and leaves lines unchanged if they are not a pattern.
 bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Hatch::PatternLine>& lines);
 std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& lines);
 
 TextLook TextLookOf(const Text& text, const TextStyle& style);
 TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format);
-// Returns whether an underline or a strikethrough marks only a part of the text.
+// Returns whether underline or strikethrough applies only to part of the text.
 bool IsPartlyMarked(const Text& text);
-// Returns the bits of the values that other parts of the text do not share with most of it.
+// Returns the bits of the values that differ in other parts of the text.
 uint8_t VariedBits(const FormattedText& text, const InlineFormat& most);
-// In drawing units, where the format knows a height of nothing.
+// In drawing units, also if the format has no height.
 double HeightOf(const MText& text, const Document& document);
 
 } // namespace dxf

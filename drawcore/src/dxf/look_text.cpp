@@ -1,4 +1,4 @@
-// The face of a text style, and what texts take from it.
+// The face of a text style, and the values that texts inherit from it.
 #include <algorithm>
 
 #include "drawcore/src/dxf/look_parts.h"
@@ -25,14 +25,14 @@ constexpr FontFile kFontFiles[] = {
     {"timesi", "Times New Roman", kTextItalic},
     {"cour", "Courier New", 0},
     {"courbd", "Courier New", kTextBold},
-    {"romant", "Times New Roman", 0}, // stroke fonts that have the look of a face
+    {"romant", "Times New Roman", 0}, // stroke fonts that resemble a face
     {"romanc", "Times New Roman", 0},
     {"italict", "Times New Roman", kTextItalic},
     {"italicc", "Times New Roman", kTextItalic},
     {"monotxt", "Courier New", 0},
 };
 
-// The face that stands for a font file: that of a TrueType file, the default for the other stroke fonts.
+// Returns the face for a font file: that of a TrueType file, the default for other stroke fonts.
 FontFace FaceOfFile(std::string file) {
     std::transform(file.begin(), file.end(), file.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });

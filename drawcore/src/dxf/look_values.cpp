@@ -1,4 +1,4 @@
-// Values of looks by the names of their properties.
+// Accesses the values of an appearance by property name.
 #include <algorithm>
 #include <type_traits>
 

@@ -1,4 +1,4 @@
-// Finds named things of a document: layers, line types, text styles, blocks. Names are equal in any case.
+// Finds named objects of a document: layers, line types, text styles, blocks. Names are compared ignoring case.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace dxf {
 
-// Over one list of a Document, which it appends to. Thing has `name`, `stored` and `declared`.
+// Accesses one list of a Document and appends to it. Thing has `name`, `stored` and `declared`.
 template <class Thing>
 class Names {
 public:
@@ -20,10 +20,9 @@ public:
             byName_.emplace(Key(things[i].name), i);
     }
 
-    // Position of the thing of that name, as it is in the file; makes one that is only mentioned if there
-    // isn't one.
+    // Returns the index of the object with that name, as stored in the file; adds an undeclared one if there is none.
     size_t Find(std::string_view raw) {
-        if (raw == lastRaw_ && !things_.empty()) return last_; // runs of entities lie on one layer
+        if (raw == lastRaw_ && !things_.empty()) return last_; // consecutive entities are often on the same layer
         const size_t known = things_.size();
         last_ = FindUtf8(decoder_.Decode(raw));
         if (last_ == known) Keep(raw, things_[last_]);
@@ -31,14 +30,14 @@ public:
         return last_;
     }
 
-    // The same by a name in UTF-8.
+    // Does the same for a UTF-8 name.
     size_t FindUtf8(const std::string& name) {
         const auto [found, isNew] = byName_.emplace(Key(name), things_.size());
         if (isNew) things_.emplace_back().name = name;
         return found->second;
     }
 
-    // The thing that a table's record declares. Of two records with one name the first keeps it.
+    // Returns the object that a record of a table declares. The first of two records with the same name is used.
     Thing& Declare(std::string_view raw) {
         size_t at = Find(raw);
         if (things_[at].declared) {
@@ -51,13 +50,13 @@ public:
         return things_[at];
     }
 
-    // The name as the file has it, or would have it.
+    // Returns the name as stored, or as it would be stored.
     std::string Stored(const Thing& thing) const {
         return thing.stored.empty() ? decoder_.Encode(thing.name) : thing.stored;
     }
 
 private:
-    // The way back may be another: a file may have names in a code page that are UTF-8 by its version.
+    // Encoding may result in other bytes: a file may have names in a code page although its version requires UTF-8.
     void Keep(std::string_view raw, Thing& thing) const {
         thing.stored = decoder_.Encode(thing.name) == raw ? std::string_view() : raw;
     }

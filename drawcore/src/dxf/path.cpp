@@ -1,4 +1,4 @@
-// Outlines of the entities.
+// Traces the outlines of entities.
 
 #include "drawcore/src/dxf/path.h"
 
@@ -16,7 +16,7 @@ using drawcore::SweepBetween;
 
 namespace {
 
-// The parameter of an ellipse at which it is seen under that angle from its center.
+// Returns the parameter of an ellipse for an angle at its center.
 double ParameterOf(double angle, double ratio) {
     const double turns = std::floor(angle / (2 * kPi) + 0.5) * 2 * kPi;
     return turns + std::atan2(std::sin(angle) / std::max(std::abs(ratio), 1e-12), std::cos(angle));
@@ -33,7 +33,7 @@ EllipseArc EdgeArc(const Hatch::Edge& edge) {
     arc.major = isCircle ? Vec3{edge.radius, 0, 0} : edge.end;
     arc.minor = isCircle ? Vec3{0, edge.radius, 0} : Cross({0, 0, 1}, edge.end) * edge.radius;
     const double sweep = SweepBetween(start, end);
-    arc.start = edge.counterClockwise ? start : -start; // clockwise ones count their angles the other way around
+    arc.start = edge.counterClockwise ? start : -start; // clockwise edges have their angles negated
     arc.sweep = edge.counterClockwise ? sweep : -sweep;
     return arc;
 }
@@ -169,7 +169,7 @@ void Trace(const Hatch::Loop& loop, const Matrix& toWorld, PathSink& sink) {
         return;
     }
     bool first = true;
-    const auto reach = [&](Vec3 point) { // the edges of a loop join, if not always to the last digit
+    const auto reach = [&](Vec3 point) { // the edges of a loop may have small gaps
         if (first)
             sink.MoveTo(toWorld.Apply(point));
         else

@@ -1,5 +1,4 @@
-// Walks the outline of an entity in straight lines and arcs. Texts, inserts and dimensions have no outline of
-// their own.
+// Traces the outline of an entity as lines and arcs. Texts, insertions and dimensions have no outline of their own.
 #pragma once
 
 #include <optional>
@@ -15,23 +14,23 @@ using drawcore::EllipseArc;
 class PathSink {
 public:
     virtual ~PathSink() = default;
-    // Begins a new stroke; a stroke of this one place is a dot.
+    // Begins a new stroke; a stroke with only this point is a dot.
     virtual void MoveTo(Vec3) = 0;
     virtual void LineTo(Vec3) = 0;
-    // From where the stroke is (the arc's start, but for rounding) to the arc's end.
+    // From the current point (the start of the arc, except for rounding) to the end of the arc.
     virtual void ArcTo(const EllipseArc&) = 0;
 };
 
-// In world coordinates if toWorld is the matrix of the space in which the entity lies.
+// toWorld: matrix of the space that contains the entity.
 void Trace(const Entity& entity, const Matrix& toWorld, PathSink& sink);
 
-// One stroke for a loop of a hatch, in the object system; a polyline in an outline is traced the same way.
+// Traces a loop of a hatch as one stroke in object coordinates; a polyline outline is traced the same way.
 void Trace(const Hatch::Loop& loop, const Matrix& toWorld, PathSink& sink);
 
-// The arc of an entity that has one shape only, in its world; none if it is another entity.
+// Returns the arc of an entity in world coordinates, or nothing if it is not an arc, circle or ellipse.
 std::optional<EllipseArc> ArcOf(const Entity& entity);
 
-// The curve of a spline entity; one by fit points only runs through them.
+// Returns the curve of a spline entity; if it has only fit points, a curve through these.
 drawcore::SplineCurve CurveOf(const Spline& spline);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// Object systems from their normals, and where the block of a dimension lies.
+// Object coordinate systems from normals, and the placement of blocks.
 #include "drawcore/src/dxf/placement.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ Matrix ObjectSystem(const Vec3& normal) {
     const double length = Length(normal);
     if (!(length > 0) || !std::isfinite(length)) return {};
     const Vec3 z = normal * (1 / length);
-    constexpr double kNearZ = 1.0 / 64; // the file format's own border
+    constexpr double kNearZ = 1.0 / 64; // limit defined by the file format
     const bool nearZ = std::abs(z.x) < kNearZ && std::abs(z.y) < kNearZ;
     const Vec3 across = Cross(nearZ ? Vec3{0, 1, 0} : Vec3{0, 0, 1}, z);
     const Vec3 x = across * (1 / Length(across));
@@ -38,7 +38,7 @@ Matrix PlacementByGroups(const Entity& entity) {
     return {};
 }
 
-// The groups that place an insertion: with its own placement they say which state of them it belongs to.
+// The groups that place an insertion, stored with extended data to detect later changes.
 using GroupNumbers = std::array<double, 10>;
 GroupNumbers GroupNumbersOf(const Entity& entity) {
     const Vec3& normal = entity.normal;
@@ -51,8 +51,8 @@ GroupNumbers GroupNumbersOf(const Entity& entity) {
     return {offset.x, offset.y, offset.z, 1, 1, 1, 0, normal.x, normal.y, normal.z};
 }
 
-// None also where another program has changed the groups since. Older files have the axes, the origin, and of the
-// groups only where that origin was.
+// Returns nothing also if another program has changed the groups since. Older files contain the axes, the origin, and
+// of the groups only the position.
 std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
     constexpr size_t kOlder = 15;
     const OwnValue* own = FindOwn(entity, kOwnPlacement);
@@ -69,7 +69,7 @@ std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
     return AxisEndsOf(Matrix::FromAxes(ends[0], ends[1], ends[2], ends[3]));
 }
 
-// The same placement, but with a z axis in any case: files have a good many insertions with a z scale of 0.
+// Returns the placement with a nonzero z axis, since many files have insertions with a z scale of 0.
 Matrix Solid(const Matrix& placement) {
     const Vec3 x = placement.Turn({1, 0, 0}), y = placement.Turn({0, 1, 0}), z = placement.Turn({0, 0, 1});
     return Length(z) > 0 ? placement : Matrix::FromAxes(x, y, Normalized(Cross(x, y)), placement.Apply({}));

@@ -1,4 +1,4 @@
-// Where entities lie: object systems, and the ways from blocks to the drawing.
+// Placement of entities: object coordinate systems, and matrices from blocks to the drawing.
 #pragma once
 
 #include <array>
@@ -11,26 +11,26 @@ namespace dxf {
 using drawcore::Matrix;
 using drawcore::Radians;
 
-// From an entity's object system to the world: the arbitrary axis algorithm of the file format.
+// Returns the matrix from an entity's object coordinates to world coordinates, by the arbitrary axis algorithm of DXF.
 Matrix ObjectSystem(const Vec3& normal);
 
-// From a block to the space that the insert lies in, for one cell of its array.
+// Returns the matrix from a block to the space of the insertion, for one cell of its array.
 Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column, uint32_t row);
-// Where an insertion or dimension shows its block, but for the base point: by its groups, or by its own extended data
-// where these can't say it.
+// Returns the placement of an insertion's or dimension's block, without the base point: by its groups, or by its
+// extended data if the groups cannot represent it.
 Matrix PlacementOf(const Entity& entity);
-// Where the origin of the placed block is, and the ends of its axes.
+// The origin of the placed block, and the end points of its axes.
 using AxisEnds = std::array<Vec3, 4>;
 AxisEnds AxisEndsOf(const Matrix& placement);
 AxisEnds AxisEndsOf(const Entity& entity);
 Matrix PlacementOf(const AxisEnds& ends);
-// The ends as numbers for the own extended data of the entity that they belong to.
+// Returns the points as numbers for the extended data of the entity.
 std::vector<double> NumbersOf(const AxisEnds& ends, const Entity& entity);
-// Returns by how much numbers may differ that are differences of coordinates that large.
+// Returns the rounding error of differences between coordinates of that size.
 double RoundingAt(const Vec3& place);
-// Whether the axes of two placements differ by the rounding of their coordinates only.
+// Returns whether the axes of two placements differ only by rounding.
 bool HaveSameAxes(const Matrix& a, const Matrix& b);
-// Returns the motion from one placement to another. It turns nothing if their axes are the same.
+// Returns the motion from one placement to another; without a rotation if their axes are the same.
 Matrix MotionBetween(const Matrix& from, const Matrix& to);
 Matrix DimensionMatrix(const Dimension& dimension, const Block& block);
 

@@ -1,4 +1,4 @@
-// LWPOLYLINE, and POLYLINE with its VERTEX records: flat, spatial, meshes and faces.
+// Reads LWPOLYLINE, and POLYLINE with its VERTEX records: two- and three-dimensional ones, meshes and faces.
 
 #include <algorithm>
 #include <cstdlib>
@@ -43,7 +43,7 @@ struct VertexCodes {
     double endWidth = 0;
     double bulge = 0;
     int flags = 0;
-    int first = 0; // a face's corners
+    int first = 0; // corners of a face
     int second = 0;
     int third = 0;
     int fourth = 0;
@@ -67,7 +67,7 @@ void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes
         polyline.faces.push_back({codes.first, codes.second, codes.third, codes.fourth});
         return;
     }
-    if ((whole.flags & kSplineFit) && (codes.flags & kFrame)) return; // the frame of a curve that follows in full
+    if ((whole.flags & kSplineFit) && (codes.flags & kFrame)) return; // control points of a curve whose points follow
     Polyline::Vertex& vertex = polyline.vertices.emplace_back();
     vertex.at = codes.at;
     if (polyline.kind != Polyline::Kind::flat) return;
@@ -77,7 +77,7 @@ void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes
     vertex.bulge = codes.bulge;
 }
 
-// False if a mesh has too few vertices.
+// Returns false if a mesh has too few vertices.
 bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
     const size_t count = polyline.vertices.size();
     const auto outside = [&](const std::array<int, 4>& face) {

@@ -1,4 +1,4 @@
-// The structure of a DXF file: its sections, the header, the tables, the blocks.
+// Reads the structure of a DXF file: sections, header, tables, blocks.
 
 #include "drawcore/src/dxf/reader.h"
 
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    // The reader is at its ENDSEC afterwards.
+    // Ends at the section's ENDSEC.
     void ReadSection() {
         sectionLine_ = tag_.line;
         in_.tags.SetPlace("a section");
@@ -61,7 +61,7 @@ private:
             SkipSection();
     }
 
-    // True at the end of the section; ReadError where another one begins instead.
+    // Returns true at the end of the section. Throws ReadError if another one begins instead.
     bool AtSectionEnd() {
         if (!tag_.StartsRecord()) return false;
         const std::string_view name = tag_.Trimmed();
@@ -108,14 +108,14 @@ private:
         }
     }
 
-    // A block's entities are read apart: an insert among them may make a block that is only mentioned so far.
+    // A block's entities are read separately, because an insertion among them may add a block.
     void ReadBlock() {
         static const Field<Block> kFields[] = {{2, &Block::name}, {10, &Block::base}, {70, &Block::flags}};
         const uint32_t line = tag_.line;
         Block head;
         head.begin = static_cast<uint32_t>(tag_.offset);
         std::string_view name;
-        in_.TakeOwn(); // of the record before
+        in_.TakeOwn(); // discards the data of the previous record
         while (in_.NextTag()) {
             if (tag_.code == 2) name = tag_.value;
             in_.SetField(kFields, head, tag_);
@@ -176,7 +176,7 @@ std::string ReadBytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file) throw ReadError(0, "the file cannot be opened");
     const std::streamoff size = file.tellg();
-    constexpr std::streamoff kLargest = std::streamoff{2} << 30; // of no drawing is the text that long
+    constexpr std::streamoff kLargest = std::streamoff{2} << 30; // larger files are not drawings
     if (size < 0 || size > kLargest) throw ReadError(0, "the file cannot be read, or is too large");
     std::string bytes(static_cast<size_t>(size), '\0');
     file.seekg(0);

@@ -1,4 +1,4 @@
-// Kind and handle of a record, and its line.
+// Returns kind, handle and line of a record.
 #include "drawcore/src/dxf/record_name.h"
 
 #include "drawcore/src/dxf/tag_reader.h"

@@ -1,4 +1,4 @@
-// What a record of a drawing is called in messages.
+// The name of a record in messages.
 #pragma once
 
 #include <cstdint>
@@ -8,9 +8,9 @@
 
 namespace dxf {
 
-// Returns the name of the record that begins there, without its line and its block.
+// Returns the name of the record at the offset, without its line and block.
 RecordName NameOfRecord(std::string_view text, size_t offset);
-// Returns the line that begins there, counted from 1.
+// Returns the line at the offset, counted from 1.
 uint32_t LineAt(std::string_view text, size_t offset);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// Values of a record's tags, and the list of findings.
+// Reads the values of a record's tags, and collects findings.
 
 #include "drawcore/src/dxf/record_reader.h"
 
@@ -47,7 +47,7 @@ void RecordReader::ReadExtended() {
     }
 }
 
-// A name and what is in the braces after it: numbers, or the pieces of one text.
+// Reads a name and its values in braces: numbers, or the pieces of one text.
 OwnValue RecordReader::ReadOwnValue() {
     OwnValue value{Text(tags.Current()), {}, {}};
     const Tag& tag = tags.Next();

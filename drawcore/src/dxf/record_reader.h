@@ -1,5 +1,4 @@
-// What every section of a file needs to read its records: the tags, the document that grows, names, and
-// tables that tie group codes to members.
+// Shared by the readers of all sections: tags, the document, names, and tables that map group codes to members.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +11,7 @@
 
 namespace dxf {
 
-// A group code and the member that it fills. A point takes its code for x, that plus 10 for y and plus 20 for
-// z.
+// A group code and the member that it sets. The code of a point is that of x; y has that plus 10 and z plus 20.
 template <class T>
 struct Field {
     using Member = std::variant<double T::*, int T::*, int16_t T::*, uint32_t T::*, bool T::*, std::string T::*,
@@ -25,7 +23,7 @@ struct Field {
 class RecordReader {
 public:
     RecordReader(std::string_view bytes, const Progress& progress) : tags(bytes, progress) {}
-    // Reads on in a file whose header and tables are known.
+    // Continues in a file whose header and tables have been read.
     RecordReader(std::string_view bytes, const Progress& progress, Document known);
     RecordReader(const RecordReader&) = delete;
     RecordReader& operator=(const RecordReader&) = delete;
@@ -38,21 +36,20 @@ public:
     Names<TextStyle> textStyles{document.textStyles, decoder};
     Names<Block> blocks{document.blocks, decoder};
 
-    // Reads the tags up to the next record and fills the members that the table names.
+    // Reads the tags up to the next record and sets the members listed in the table.
     template <class T, size_t N>
     void ReadFields(const Field<T> (&table)[N], T& target) {
         while (NextTag())
             SetField(table, target, tags.Current());
     }
 
-    // Goes to the next tag of the record; false at its end. Passes over what programs other than the writer
-    // attach: groups in braces (code 102), extended data, embedded objects. Extended data of kApplication is
-    // kept for TakeOwn.
+    // Advances to the next tag of the record. Returns false at its end. Skips data attached by other programs: groups
+    // in braces (code 102), extended data, embedded objects. Stores extended data of kApplication for TakeOwn.
     bool NextTag();
-    // What the record that was read has in extended data of kApplication; null if there isn't one.
+    // Returns the record's extended data of kApplication, or null.
     Apart<OwnData> TakeOwn() { return std::move(own_); }
 
-    // False if the table has no such code.
+    // Returns false if the table does not contain the code.
     template <class T, size_t N>
     bool SetField(const Field<T> (&table)[N], T& target, const Tag& tag) {
         for (const Field<T>& field : table) {
@@ -65,12 +62,12 @@ public:
         return false;
     }
 
-    // A number of the record; remembers the line of one that has no place in a drawing (then it is 0).
+    // Returns the tag's number. If it is not a valid coordinate, stores its line and returns 0.
     double Real(const Tag& tag);
     void SetAxis(Vec3& point, const Tag& tag, int axis);
     std::string Text(const Tag& tag) const { return decoder.Decode(tag.value); }
 
-    // The line of the first number without a place since the last call; 0 if there was none.
+    // Returns the line of the first invalid coordinate since the last call, or 0.
     uint32_t TakeUnsound();
 
     void Report(uint32_t line, std::string text);

@@ -1,4 +1,4 @@
-// A walk over the graph of blocks, without recursion: a file may chain any number of them.
+// Traverses the graph of blocks without recursion, since a file may chain any number of them.
 
 #include "drawcore/src/dxf/references.h"
 
@@ -46,9 +46,9 @@ public:
 private:
     struct State {
         enum Progress { unseen, open, done } progress = unseen;
-        size_t depth = 0;         // of the blocks in it
-        double parts = 0;         // drawn by one insert of it
-        double insertedParts = 0; // those of them that its own inserts draw
+        size_t depth = 0;         // nesting depth of the blocks in it
+        double parts = 0;         // number of parts drawn by one insertion of it
+        double insertedParts = 0; // number of those drawn by its insertions
     };
     struct Frame {
         size_t block;
@@ -75,7 +75,7 @@ private:
                 if (states_[inner].progress == State::unseen) {
                     states_[inner].progress = State::open;
                     frames.push_back({inner, 0});
-                    continue; // this entity again when its block is done
+                    continue; // revisits this entity when its block is done
                 }
             }
             CutIfNeeded(entity, state);

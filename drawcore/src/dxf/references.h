@@ -1,7 +1,6 @@
-// Ties inserts to their blocks so that whoever walks the drawing needs no care: afterwards every reference is
-// to an existing block, no block contains itself, nesting is shallow, and all inserts together draw a
-// bounded number of parts. A reference that would break this is cut (its block becomes none), and a finding
-// says so.
+// Resolves the references of insertions to blocks, so that the drawing can be traversed safely: afterwards, every
+// reference is to an existing block, no block contains itself, nesting is limited, and all insertions together draw a
+// limited number of parts. A reference that violates this is removed and reported as a finding.
 #pragma once
 
 #include "drawcore/src/dxf/record_reader.h"
@@ -9,8 +8,8 @@
 namespace dxf {
 
 constexpr size_t kDeepestNesting = 64;
-constexpr double kMostInsertedParts = 2e6; // lines, vertices and the like; and in a large file
-constexpr double kMorePartsPerEntity = 16; // so many more for each entity that it holds
+constexpr double kMostInsertedParts = 2e6; // number of lines, vertices and similar parts
+constexpr double kMorePartsPerEntity = 16; // additional parts per entity of the file
 
 void ResolveReferences(RecordReader& in);
 

@@ -1,4 +1,4 @@
-// Solid, six hatches, four bitmaps.
+// Solid, six hatches and four bitmaps.
 #include "drawcore/src/dxf/standard_brushes.h"
 
 #include <cmath>
@@ -9,7 +9,7 @@ namespace dxf {
 
 namespace {
 
-// Lines a unit apart, in degrees.
+// Returns lines one unit apart; angle in degrees.
 Hatch::PatternLine Family(double angle) {
     return {angle, {}, {-std::sin(Radians(angle)), std::cos(Radians(angle)), 0}, {}};
 }

@@ -10,12 +10,12 @@ namespace dxf {
 
 struct StandardBrush {
     std::string name;
-    std::vector<Hatch::PatternLine> lines; // none: solid, or a bitmap
+    std::vector<Hatch::PatternLine> lines; // empty for solid and bitmaps
 };
 
-// Solid first, then plain hatches, then bitmaps.
+// Returns the solid style, the hatches, and the bitmaps.
 const std::vector<StandardBrush>& StandardBrushes();
-// Those of the style of that name; none for others.
+// Returns the lines of the style with that name, or none.
 std::vector<Hatch::PatternLine> StandardLines(const std::string& name);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// Header variables and table records.
+// Reads header variables and table records.
 
 #include "drawcore/src/dxf/table_reader.h"
 
@@ -61,7 +61,7 @@ void ReadLineType(RecordReader& in) {
     lineType = std::move(read);
 }
 
-// The family and cut of a TrueType face are in extended data of the application ACAD.
+// Family and style of a TrueType face are in extended data of the application ACAD.
 void TakeTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
     constexpr int kBold = 0x2000000;
     constexpr int kItalic = 0x1000000;
@@ -90,7 +90,7 @@ void ReadTextStyle(RecordReader& in) {
         else if (!in.SetField(kFields, read, tag))
             TakeTypeFace(read, tag, own, in);
     }
-    if (name.empty()) return; // a shape file that line types use
+    if (name.empty()) return; // a shape file for line types
     TextStyle& style = in.textStyles.Declare(name);
     read.name = std::move(style.name);
     read.stored = std::move(style.stored);

@@ -1,4 +1,4 @@
-// Lines, group codes and numbers of a DXF text.
+// Splits a DXF text into lines, group codes and numbers.
 
 #include "drawcore/src/dxf/tag_reader.h"
 
@@ -14,7 +14,7 @@ namespace {
 constexpr int kLowestCode = -5;
 constexpr int kHighestCode = 1071;
 
-// From 2^53 on a double holds no fractions; a place further out is a writer's mistake, not a place.
+// From 2^53 on a double has no fraction; larger coordinates are errors of the writer.
 constexpr double kFarthest = 1e15;
 
 std::string_view Trim(std::string_view text) {
@@ -60,7 +60,7 @@ double Tag::Real() const {
     if (error == std::errc::result_out_of_range)
         return text.find("e-") == text.npos && text.find("E-") == text.npos ? kNone : 0;
     if (rest != end) {
-        if (*rest != '#') FailNumber(*this); // old run-time libraries write "1.#INF" and "-1.#IND"
+        if (*rest != '#') FailNumber(*this); // old C run-time libraries write "1.#INF" and "-1.#IND"
         return kNone;
     }
     return std::abs(number) <= kFarthest ? number : kNone;

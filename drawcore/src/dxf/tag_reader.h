@@ -1,5 +1,4 @@
-// Splits a DXF text into tags: a group code and the value on the line below it. Knows no sections or
-// entities.
+// Splits a DXF text into tags: a group code, and the value on the following line. Independent of sections and entities.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +9,12 @@
 
 namespace dxf {
 
-// Group codes whose meaning is the same in every record.
+// Group codes with the same meaning in every record.
 enum GroupCode {
     kSubclass = 100,
     kEmbedded = 101,
     kGroup = 102,
-    kExtended = 1000, // and above
+    kExtended = 1000, // this and greater codes
     kExtendedText = 1000,
     kApplicationName = 1001,
     kExtendedBrace = 1002,
@@ -24,43 +23,43 @@ enum GroupCode {
 
 struct Tag {
     int code = 0;
-    std::string_view value; // without its line end; blanks as stored
-    uint32_t line = 0;      // of the group code; the value is on the next one
-    size_t offset = 0;      // of the line of the group code in the text
+    std::string_view value; // without the line end, including blanks
+    uint32_t line = 0;      // line of the group code; the value is on the next line
+    size_t offset = 0;      // offset of the group code's line in the text
 
     bool Is(int wanted, std::string_view text) const { return code == wanted && Trimmed() == text; }
-    // A new record begins with a tag of code 0.
+    // Returns whether the tag begins a new record (code 0).
     bool StartsRecord() const { return code == 0; }
     std::string_view Trimmed() const;
 
-    // The value as a number; ReadError if it is not one. Real gives NaN for what cannot be a place in a drawing: not
-    // finite, or so large that a double can't resolve a unit. Integer takes "7.0" as 7 and clamps to the limits
-    // of an int.
+    // Return the value as a number. Throw ReadError if it is not one. Real returns NaN for invalid coordinates: not
+    // finite, or so large that a double cannot resolve a unit. Integer reads "7.0" as 7 and clamps to the limits of an
+    // int.
     double Real() const;
     int Integer() const;
     bool Flag() const { return Integer() != 0; }
 };
 
-// Line ends may be LF, CR LF or CR, each line its own. Comments (code 999) are passed over.
+// Line ends may be LF, CR LF or CR, even mixed. Comments (code 999) are skipped.
 class TagReader {
 public:
     TagReader(std::string_view bytes, const Progress& progress);
 
-    // Goes to the next tag. A file ends with the tag EOF, so that running out of lines is a ReadError, as is
-    // a group code that is not a number.
+    // Advances to the next tag. A file must end with the tag EOF: throws ReadError at the end of the text, and for a
+    // group code that is not a number.
     const Tag& Next();
     const Tag& Current() const { return tag_; }
 
-    // Goes on to the next tag that starts a record.
+    // Advances to the next tag that begins a record.
     const Tag& SkipRecord();
 
-    // Goes to the tag whose group code begins there; lines are counted from it on.
+    // Advances to the tag at that offset, from which lines are counted.
     const Tag& Seek(size_t offset);
-    // Where the next tag begins.
+    // Returns the offset of the next tag.
     size_t Offset() const { return static_cast<size_t>(at_ - begin_); }
 
-    // What is being read, for the message about a file that ends too early; null between sections. Kept by
-    // pointer.
+    // Sets the description of the current part, for the message about a truncated file; null between sections. The
+    // pointer is stored.
     void SetPlace(const char* place) { place_ = place; }
 
 private:
@@ -71,14 +70,14 @@ private:
     const char* at_;
     const char* const begin_;
     const char* const end_;
-    size_t reportAt_; // offset at which to call progress_ next
+    size_t reportAt_; // offset at which progress_ is called next
     uint32_t line_ = 0;
     Tag tag_;
     const char* place_ = nullptr;
     const Progress& progress_;
 };
 
-// Text of a file in quotes for a message: short, and nothing but printable ASCII.
+// Quotes text of a file for a message: shortened, and reduced to printable ASCII.
 std::string Quoted(std::string_view text);
 
 } // namespace dxf

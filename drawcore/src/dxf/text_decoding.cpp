@@ -1,4 +1,4 @@
-// Code pages, \U+ and \M+ escapes, %% control codes.
+// Code pages, \U+ and \M+ escapes, and %% control codes.
 
 #include "drawcore/src/dxf/text_decoding.h"
 
@@ -14,7 +14,7 @@ bool IsAscii(std::string_view bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// The length of the well-formed UTF-8 sequence at the start of the bytes, 0 if there isn't one.
+// Returns the length of the valid UTF-8 sequence at the start of the bytes, or 0.
 size_t SequenceLength(std::string_view bytes) {
     const auto byte = [&](size_t i) { return static_cast<unsigned char>(bytes[i]); };
     const unsigned char first = byte(0);
@@ -37,7 +37,7 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
-// A number of exactly that many digits at the start of the text; false if there isn't one.
+// Parses a number with exactly that many digits. Returns false if there is none.
 bool ReadDigits(std::string_view text, size_t digits, int base, uint32_t& number) {
     if (text.size() < digits) return false;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + digits, number, base);
@@ -49,7 +49,7 @@ bool ReadUnicodeEscape(std::string_view text, uint32_t& unit) {
            ReadDigits(text.substr(3), 4, 16, unit);
 }
 
-// The escape of one character, which is well-formed: of one beyond 16 bits that of its two units.
+// Returns the escape of a valid character; two escapes for a character beyond 16 bits.
 std::string UnicodeEscape(std::string_view character) {
     uint32_t c = static_cast<unsigned char>(character[0]) & (0xFFu >> (character.size() + 1));
     for (const char next : character.substr(1))
@@ -62,7 +62,7 @@ std::string UnicodeEscape(std::string_view character) {
     return c < 0x10000 ? escape(c) : escape(0xD7C0 + (c >> 10)) + escape(0xDC00 + (c & 0x3FF));
 }
 
-// "\M+nXXXX": two bytes of one of five code pages. Gives the length of the escape, 0 if there isn't one.
+// Appends the character of "\M+nXXXX": two bytes in one of five code pages. Returns the length of the escape, or 0.
 size_t AppendMultiByteEscape(std::string& to, std::string_view text) {
     constexpr int kPages[] = {932, 950, 949, 1361, 936};
     uint32_t bytes = 0;
@@ -99,7 +99,7 @@ void TextDecoder::SetVersion(std::string_view version) {
 }
 
 std::string TextDecoder::Decode(std::string_view bytes) const {
-    // Programs exist that write the new version number but keep their old code page.
+    // Some programs write the new version number but still use their code page.
     if (IsAscii(bytes) || (utf8_ && IsUtf8(bytes))) return std::string(bytes);
     return page_.ToUtf8(bytes);
 }
@@ -117,7 +117,7 @@ std::string TextDecoder::Encode(std::string_view utf8) const {
 }
 
 std::vector<std::string> TextDecoder::EncodePieces(std::string_view utf8) const {
-    constexpr size_t kLongest = 250; // bytes
+    constexpr size_t kLongest = 250; // in bytes
     std::vector<std::string> pieces;
     while (!utf8.empty()) {
         const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
@@ -217,7 +217,7 @@ LineText ReadControlCodes(std::string_view rest) {
                 length = 5;
                 AppendUtf8(line.text, character);
             } else {
-                line.text += '%'; // no code: both signs are text
+                line.text += '%'; // not a code: both characters are text
                 length = 1;
             }
         }

@@ -1,5 +1,5 @@
-// From the bytes of a drawing to readable texts: code pages, and the escapes within single-line
-// texts. MTEXT has more of them: see inline_codes.h.
+// Converts the bytes of a drawing to text: code pages, and the escapes of single-line texts. For those of MTEXT see
+// inline_codes.h.
 #pragma once
 
 #include <string>
@@ -10,15 +10,16 @@
 
 namespace dxf {
 
-// Turns bytes of the file into UTF-8: by the file's code page, or as they are from version AC1021 on.
+// Converts between the bytes of a file and UTF-8: by the file's code page, or unchanged from version AC1021 on.
 class TextDecoder {
 public:
     void SetVersion(std::string_view version);
     void SetCodePage(std::string_view name) { page_ = CodePage(name); }
     std::string Decode(std::string_view bytes) const;
-    // The way back: a character that the code page lacks becomes "\U+4E57".
+    // Encodes UTF-8 for the file: a character that the code page cannot represent becomes "\U+4E57".
     std::string Encode(std::string_view utf8) const;
-    // In pieces that lines of every program hold, none of which ends within a character. None for an empty text.
+    // Splits the text into pieces that fit on the lines of any program, without splitting characters. Returns none for
+    // an empty text.
     std::vector<std::string> EncodePieces(std::string_view utf8) const;
 
 private:
@@ -26,22 +27,22 @@ private:
     bool utf8_ = false;
 };
 
-// UTF-8 as stored to UTF-8 as shown: "\U+00C4" becomes an A with two dots, "\M+1835C" what it is in its code
-// page.
+// Resolves escapes: "\U+00C4" becomes an A with diaeresis, "\M+1835C" the character in its code page.
 std::string ToDisplayText(std::string_view stored);
 
-// A text of extended data of kApplication, where a line holds no control character: "^J" is a line feed, "^ " a caret.
+// Reads a text of extended data of kApplication, in which control characters are escaped: "^J" is a line feed, "^ " a
+// caret.
 std::string ReadOwnText(std::string_view stored);
 std::string WriteOwnText(std::string_view text);
 
-// Appends what the escape at the start of the text stands for and gives its length; 0 if there isn't one.
+// Appends the character of the escape at the start of the text and returns its length, or 0 if there is no escape.
 size_t AppendEscape(std::string& text, std::string_view stored);
 
-// Appends a code point as UTF-8; what is not one as U+FFFD.
+// Appends a code point as UTF-8, or U+FFFD if it is invalid.
 void AppendUtf8(std::string& text, uint32_t codePoint);
 
-// A single-line text as shown, escapes already resolved, with its switches: "%%d" is a degree sign, "%%u"
-// switches a line below the text.
+// A displayed single-line text with its formats; control codes such as "%%d" (degree sign) and "%%u" (underline) are
+// resolved.
 struct LineText {
     std::string text;
     bool underlined = false; // any part of it
@@ -49,7 +50,7 @@ struct LineText {
     bool struckThrough = false;
 };
 LineText ReadControlCodes(std::string_view text);
-// The stored text without the switches of that letter (small).
+// Returns the stored text without the switches of that lowercase letter.
 std::string WithoutSwitch(std::string_view stored, char letter);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// TEXT, MTEXT and the attributes of inserts.
+// Reads TEXT, MTEXT and the attributes of insertions.
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +11,7 @@ namespace dxf {
 
 namespace {
 
-// What single bits and numbers stand for; the vertical alignment has a code of its own in attributes.
+// Bits and numbers of text groups; attributes use another code for the vertical alignment.
 struct TextCodes {
     int verticalCode;
     int generation = 0;
@@ -101,8 +101,8 @@ void EntityReader::ReadMText(Entity& entity) {
     };
     MText& text = *entity.shape.emplace<Apart<MText>>(std::make_unique<MText>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
-    std::string bytes;           // decoded as one: a character may lie on the border of two pieces
-    std::optional<double> angle; // of angle and direction the last one counts
+    std::string bytes;           // decoded as a whole, since a character may be split between pieces
+    std::optional<double> angle; // the last of angle and direction is used
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (tag.code == 1 || tag.code == 3) {

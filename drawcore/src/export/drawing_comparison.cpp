@@ -15,8 +15,8 @@ namespace drawcore {
 
 namespace {
 
-// Makes the graphics of the document one after the other, and drops each once it has been compared. One that nobody has
-// touched, and whose record is the same to the byte, is what it was: that is not made again.
+// Creates the graphics of the document one after the other and frees each after comparing it. Graphics that were not
+// changed, and whose records are identical, need not be created.
 class ReadBack {
 public:
     ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Leftovers& left,
@@ -56,7 +56,7 @@ private:
 
     bool IsLeftOut(const Graphic& graphic) const { return graphic.source == Graphic::kNoSource && left_.Has(graphic); }
 
-    // The next member that the file has.
+    // Returns the next member that the file contains.
     size_t SkipLeftOut(const Graphic& group, size_t place) const {
         while (place < group.MemberCount() && IsLeftOut(*group.MemberAt(place)))
             ++place;
@@ -103,7 +103,7 @@ private:
         return touched;
     }
 
-    // The records from begin to end, which are one entity's, against those of the graphic in the text before.
+    // Compares the records of one entity, from begin to end, with those of the graphic in the previous text.
     bool IsAsBefore(const Graphic& graphic, size_t begin, size_t end) const {
         return end > begin && !IsTouched(graphic) &&
                before_.compare(graphic.source, end - begin, text_, begin, end - begin) == 0;
@@ -134,7 +134,7 @@ private:
     const std::vector<uint32_t>& removedLeft_;
     const dxf::Progress& progress_;
     Sources sources_;
-    Drawing read_; // its tables alone
+    Drawing read_; // only its tables
     const ImportedTables tables_;
     EntityImport import_;
     GraphicComparison comparison_;

@@ -1,4 +1,4 @@
-// Whether the file that a drawing is saved into gives that drawing when it is read.
+// Verifies that the file to be saved results in the same drawing when it is read.
 #pragma once
 
 #include <string_view>
@@ -11,12 +11,12 @@
 
 namespace drawcore {
 
-// Graphics of a drawing, and where their records are in a text.
+// Graphics of a drawing, and the offsets of their records in a text.
 using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 
-// Adds the graphics that the file would show in another way to those that are left; these are passed over. Identifiers
-// of table entries may differ. Returns where all graphics are in the text that the document was read from, which is
-// complete if nothing was added. SaveError if the file would hold other graphics.
+// Adds the graphics that the file would show differently to `left`. Identifiers of table entries may differ. Returns
+// the offsets of all graphics in the document's text, which is complete if nothing was added. Throws SaveError if the
+// file would contain other graphics.
 Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, Leftovers& left,
                         const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress);
 

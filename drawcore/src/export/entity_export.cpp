@@ -1,4 +1,4 @@
-// One function for each kind of graphic.
+// Converts each kind of graphic.
 #include "drawcore/src/export/entity_export.h"
 
 #include <algorithm>
@@ -43,7 +43,7 @@ dxf::Polyline PolylineOf(const std::vector<Vertex>& vertices, bool closed) {
     return polyline;
 }
 
-// Outlines without a line of their own, each from a vertex that is not drawn to the same place.
+// Filled outlines without lines: each begins with an undrawn segment and ends at the same point.
 dxf::Shape HatchOf(const VertexGraphic& graphic) {
     auto hatch = std::make_unique<dxf::Hatch>();
     hatch->solid = true;
@@ -88,7 +88,7 @@ dxf::Shape ShapeOf(const VertexGraphic& graphic) {
 }
 
 dxf::Shape ShapeOf(EllipseArc arc, Vec3& normal) {
-    if (arc.sweep < 0) { // the same way from its end
+    if (arc.sweep < 0) { // the same arc from its other end
         arc.start += arc.sweep;
         arc.sweep = -arc.sweep;
     }
@@ -101,7 +101,7 @@ dxf::Shape ShapeOf(EllipseArc arc, Vec3& normal) {
         const double start = std::atan2(arc.major.y, arc.major.x) + arc.start;
         return dxf::Arc{arc.center, length, Degrees(start), Degrees(start + arc.sweep)};
     }
-    if (across > length) { // the longer axis counts
+    if (across > length) { // the longer axis is the major axis
         const Vec3 major = arc.major;
         arc.major = arc.minor;
         arc.minor = major * -1;
@@ -133,7 +133,7 @@ dxf::Shape LineOf(const TextState& state) {
     const double angle = std::atan2(state.along.y, state.along.x);
     const Vec3 up = mirrored ? state.up * -1 : state.up;
     text->text = Utf8FromUtf16(state.text);
-    ReplaceAll(text->text, "%%", "%%037%%037"); // else a code
+    ReplaceAll(text->text, "%%", "%%037%%037"); // otherwise it would be a control code
     text->insertion = text->alignment = state.position;
     text->height = state.height;
     text->rotation = Degrees(angle);

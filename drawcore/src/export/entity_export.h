@@ -1,4 +1,4 @@
-// Graphics that a program has made, as entities of a file: what entity_import would make them of again.
+// Converts graphics created by a program to entities of a file, the inverse of entity_import.
 #pragma once
 
 #include "drawcore/src/dxf/entities.h"
@@ -6,7 +6,7 @@
 
 namespace drawcore {
 
-// The shape alone; an insertion's block is left out. SaveError if there is no such entity.
+// Converts only the shape, for an insertion without its block. Throws SaveError if there is no such entity.
 dxf::Entity EntityOf(const Graphic& graphic);
 
 } // namespace drawcore

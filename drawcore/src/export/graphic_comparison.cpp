@@ -1,4 +1,4 @@
-// Properties by the schema, shapes by their kinds.
+// Compares properties by the schema, and shapes by kind.
 #include "drawcore/src/export/graphic_comparison.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace drawcore {
 
 namespace {
 
-// The entries of one table for identifiers of another: names that are the same stand for the same.
+// Maps identifiers of one table to those of another by name.
 template <class Entry>
 std::vector<Id> SameNames(const TableOf<Entry>* from, const TableOf<Entry>* to) {
     std::vector<Id> same(1, kNoId);
@@ -34,7 +34,7 @@ bool SamePlace(const Vec3& a, const Vec3& b, bool calculated) {
            dxf::SameToRounding(a.z, b.z, magnitude);
 }
 
-// Whether the first vertex is drawn says nothing.
+// Ignores whether the first vertex is drawn, which has no effect.
 bool SameVertices(const VertexGraphic& a, const VertexGraphic& b, bool calculated) {
     const auto same = [&](const Vertex& one, const Vertex& other) {
         const Segment next = one.Next(), others = other.Next();
@@ -54,7 +54,7 @@ bool SameSpline(const SplineCurve& a, const SplineCurve& b) {
            std::equal(a.points.begin(), a.points.end(), b.points.begin(), b.points.end());
 }
 
-// A curve that was read is never changed; one that was added is written by angles, and may run in the other direction.
+// Curves that were read never change. Added ones are written as angles and may be reversed.
 bool SameCurve(const Graphic& a, const Graphic& b) {
     const auto* spline = dynamic_cast<const SplineGraphic*>(&a);
     const auto* other = dynamic_cast<const SplineGraphic*>(&b);
@@ -68,7 +68,7 @@ bool SameCurve(const Graphic& a, const Graphic& b) {
     return true;
 }
 
-// The text that is seen: one that belongs to an insertion has moved with it.
+// Compares the displayed text; texts of insertions have moved with them.
 const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
     TextState one = static_cast<const TextGraphic&>(a).state;
     const TextState& other = static_cast<const TextGraphic&>(b).state;
@@ -79,7 +79,7 @@ const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
         one.position = motion.Apply(one.position);
         one.along = Normalized(motion.Turn(one.along));
         one.up = Normalized(motion.Turn(one.up));
-        one.widthFactor = other.widthFactor; // that follows
+        one.widthFactor = other.widthFactor; // derived from the width
     }
     const bool samePlace = SamePlace(one.position, other.position, calculated) && dxf::Near(one.along, other.along) &&
                            dxf::Near(one.up, other.up);
@@ -147,7 +147,7 @@ bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& s
         return *value == InSaved(lines_, *other);
     case PropertyMeaning::BrushStyle:
         return IsSameStyle(*value, *other);
-    case PropertyMeaning::Block: { // one that the drawing no longer has is none
+    case PropertyMeaning::Block: { // a block that no longer exists counts as none
         const bool has = saved_.Blocks() && saved_.Blocks()->At(static_cast<Id>(*value));
         return (has ? *value : kNoId) == InSaved(blocks_, *other);
     }
@@ -156,7 +156,7 @@ bool GraphicComparison::IsSame(const PropertyInfo& info, const StoredProperty& s
     }
 }
 
-// Patterns were calculated by other programs: they are the same if nobody sees a difference.
+// Patterns computed by other programs are equal if the difference is not visible.
 bool GraphicComparison::IsSameStyle(int64_t a, int64_t b) {
     if (a == kBrushStyleNone || b == kBrushStyleNone) return a == b;
     const auto [found, isNew] = styles_.emplace(std::make_pair(a, b), false);
@@ -168,7 +168,7 @@ bool GraphicComparison::IsSameStyle(int64_t a, int64_t b) {
     return found->second = byName ? one->name == other->name : dxf::SameLines(FileLines(*one), FileLines(*other));
 }
 
-// Markers stand for themselves.
+// Markers are the same in both.
 int64_t GraphicComparison::InSaved(const std::vector<Id>& same, int64_t id) const {
     return id >= 0 && static_cast<size_t>(id) < same.size() ? same[static_cast<size_t>(id)] : id;
 }

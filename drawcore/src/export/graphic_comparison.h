@@ -1,4 +1,4 @@
-// Compares graphics of two drawings, exactly: what differs between a graphic and what its record in a file shows.
+// Compares graphics of two drawings exactly, to find how a graphic differs from its record in a file.
 #pragma once
 
 #include <map>
@@ -14,17 +14,15 @@ namespace drawcore {
 
 class GraphicComparison {
 public:
-    // Entries of the two drawings' tables are the same if their names are. Both drawings have to outlive the
-    // comparison.
+    // Table entries of the two drawings are equal if their names are. Both drawings must outlive the comparison.
     GraphicComparison(const Drawing& saved, const Drawing& read);
 
-    // Returns the properties that differ, by their places in kPropertyList. The graphics are of the same kind.
+    // Returns the indices in kPropertyList of the properties that differ. The graphics must be of the same kind.
     std::vector<size_t> DifferentProperties(const Graphic& saved, const Graphic& read);
-    // Returns what else differs, for messages; null if nothing does. Places that are calculated, because the record has
-    // them in other coordinates, are the same if they differ by rounding only; so are curves and directions, which it
-    // has as angles.
+    // Returns the name of another difference for messages, or null. With `calculated`, positions that the record stores
+    // in other coordinates may differ by rounding, and so may curves and directions, which it stores as angles.
     const char* DifferentShape(const Graphic& saved, const Graphic& read, bool calculated) const;
-    // Returns the first difference, for messages; null if there is none.
+    // Returns the first difference for messages, or null.
     const char* FirstDifference(const Graphic& saved, const Graphic& read, bool calculated);
 
 private:
@@ -34,11 +32,12 @@ private:
     const char* DifferentInsert(const InsertGraphic& saved, const InsertGraphic& read) const;
 
     const Drawing &saved_, &read_;
-    const std::vector<Id> layers_, lines_, blocks_; // of the saved drawing, by those of the one that was read
+    const std::vector<Id> layers_, lines_, blocks_; // identifiers in the saved drawing, by those in the drawing that
+                                                    // was read
     std::map<std::pair<int64_t, int64_t>, bool> styles_;
 };
 
-// Returns the height of a text as it is seen: attributes follow their insertion.
+// Returns the displayed height of a text; attributes move with their insertion.
 double SeenHeight(const Graphic& text);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// States and colors of layers.
+// Exports states and colors of layers.
 #include "drawcore/src/export/layer_export.h"
 
 #include <cstdlib>
@@ -12,7 +12,7 @@ namespace drawcore {
 
 namespace {
 
-// All solid lines are the same.
+// All solid lines are equal.
 Id LineOf(const Layer& layer, const LineStyleTable& styles) {
     const LineStyle* style = styles.At(layer.lineStyle);
     return style && !style->pattern.empty() ? layer.lineStyle : Id{kLineStyleNone};
@@ -48,7 +48,7 @@ std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing&
         if (StateOf(was, *styles) == StateOf(*layer, *styles)) continue;
         dxf::Layer& wanted = changed.emplace_back(dxf::LayerIndex(i), known.layers[i]).second;
         Describe(*layer, wanted);
-        if (was.color == layer->color) { // its numbers stay
+        if (was.color == layer->color) { // keeps its stored color numbers
             wanted.color = std::abs(known.layers[i].color) * (layer->off ? -1 : 1);
             wanted.trueColor = known.layers[i].trueColor;
         }

@@ -1,4 +1,4 @@
-// Layers of a drawing in the terms of its file.
+// Converts layers of a drawing for its file.
 #pragma once
 
 #include <utility>
@@ -9,10 +9,10 @@
 
 namespace drawcore {
 
-// Gives the file's layer the color and the state of the drawing's; its line type stays.
+// Sets color and state of the file's layer; its line type does not change.
 void Describe(const Layer& layer, dxf::Layer& made);
 
-// The layers of the file whose state, color or line type is another in the drawing, as they are to be.
+// Returns the layers of the file whose state, color or line type has changed, with the new values.
 std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing, const dxf::Document& known);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// Names for what is left out.
+// Names the objects that are omitted.
 #include "drawcore/src/export/leftovers.h"
 
 #include "drawcore/src/database/dxf_source.h"

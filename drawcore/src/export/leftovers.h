@@ -1,4 +1,4 @@
-// What of a drawing its file cannot hold, and why.
+// Collects the objects of a drawing that its file cannot contain, with reasons.
 #pragma once
 
 #include <cstdint>
@@ -15,16 +15,16 @@ namespace drawcore {
 
 class Leftovers {
 public:
-    // The drawing was read from a file.
+    // The drawing must have been read from a file.
     explicit Leftovers(const Drawing& drawing) : drawing_(drawing) {}
 
-    // A graphic that stays as its record is; a new one gets none.
+    // Adds a graphic: an existing record is kept, a new graphic gets none.
     void Add(const Graphic& graphic, const std::string& why);
     bool Has(const Graphic& graphic) const { return graphics_.count(&graphic) != 0; }
-    // A record that stays although its graphic was removed.
+    // Adds a record that is kept although its graphic was removed.
     void AddRemoved(uint32_t place, const std::string& why);
     const std::set<uint32_t>& Removed() const { return removed_; }
-    // Anything else, by what it is called.
+    // Adds anything else, by name.
     void Add(const std::string& what, const std::string& why);
     bool Has(const std::string& what) const { return others_.count(what) != 0; }
 
@@ -32,10 +32,10 @@ public:
     static std::string NameOfLayer(const std::string& name) { return "layer \"" + name + "\""; }
 
     size_t Count() const { return graphics_.size() + removed_.size() + others_.size(); }
-    // All of them, with their lines in the file, in the order in which they were found.
+    // Returns all of them, with their lines in the file, in the order in which they were found.
     const std::vector<dxf::Finding>& List() const { return findings_; }
 
-    // Does the work for the graphic, and adds it if the file cannot hold it.
+    // Runs the work for the graphic, and adds the graphic if it throws SaveError.
     template <class Work>
     void Try(const Graphic& graphic, const Work& work) {
         try {

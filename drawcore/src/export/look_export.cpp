@@ -1,4 +1,4 @@
-// Entries of the drawing's tables by their names in the file.
+// Finds entries of the drawing's tables by their names in the file.
 #include "drawcore/src/export/look_export.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace drawcore {
 
 namespace {
 
-// Where the things of the file are in the drawing's table.
+// Maps the objects of the file to entries of the drawing's table.
 template <class Index, class Thing, class Entry>
 std::map<Id, Index> InTable(const std::vector<Thing>& things, const TableOf<Entry>& table) {
     std::map<Id, Index> places;
@@ -67,7 +67,7 @@ dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
     return index;
 }
 
-// How properties are said that are more than a number or a text.
+// Exports properties that are more than a number or a text.
 struct LookExport::Row {
     const char* name;
     void (*put)(LookExport& by, const Graphic& graphic, dxf::Look& look);

@@ -1,5 +1,5 @@
-// What graphics want of their records, in the terms of the file that their drawing was read from: where a graphic
-// differs from what its record shows, the graphic's value; everything else as it is in the file.
+// Exports the appearance of graphics: a value that differs from that of the record in the file is the graphic's, all
+// others are kept as in the file.
 #pragma once
 
 #include <map>
@@ -15,14 +15,16 @@ namespace drawcore {
 
 class LookExport {
 public:
-    // The patch is one of a file with these graphics.
+    // The patch must be for a file with these graphics.
     LookExport(const Drawing& drawing, dxf::DrawingPatch& patch);
 
-    // Changes the record that begins there, if the graphic differs from it. SaveError names what the file cannot hold.
+    // Changes the record at the offset if the graphic differs from it. Throws SaveError for values that the file cannot
+    // contain.
     void Write(const Graphic& graphic, size_t place);
-    // Adds a layer that the file does not have.
+    // Adds a layer that the file does not contain.
     void AddLayer(Id id);
-    // The file's entries for those of the drawing; missing ones are described, for the first entity that needs them.
+    // Return the file's entries for those of the drawing. Missing ones are described and added when an entity needs
+    // them.
     dxf::LayerIndex LayerOf(Id id);
     dxf::LineTypeIndex LineTypeOf(Id id);
 
@@ -35,7 +37,7 @@ private:
 
     const Drawing& drawing_;
     dxf::DrawingPatch& patch_;
-    Drawing file_; // the tables of the file
+    Drawing file_; // with the tables of the file
     const dxf::Document known_;
     const ImportedTables tables_;
     EntityImport import_;

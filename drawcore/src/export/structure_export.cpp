@@ -1,4 +1,4 @@
-// Comparing the graphics of a drawing with those that its file has.
+// Compares the graphics of a drawing with those in its file.
 #include "drawcore/src/export/structure_export.h"
 
 #include <algorithm>
@@ -47,7 +47,7 @@ void StructureExport::Write() {
     RemoveOthers();
 }
 
-// What the library's sheet keeps in a drawing while it is open is not part of it.
+// The temporary block of an open sheet is not part of the drawing.
 bool StructureExport::Has(const Block& block) {
     return block.name != kPreviewBlock;
 }
@@ -90,13 +90,13 @@ void StructureExport::WriteBlock(const Block& block) {
             parts.push_back(&part);
         });
     }
-    if (parts.size() != made.entities.size()) return; // it is tried again without the others
+    if (parts.size() != made.entities.size()) return; // will be repeated without the others
     const size_t first = patch_.AddBlock(made);
     for (size_t i = 0; i < parts.size(); ++i)
         added_.emplace(parts[i], first + i);
 }
 
-// A group of graphics has properties that no record of a file has.
+// A group of graphics has properties that no record of a file can store.
 void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
     if (!whole.HasLook(VertexGraphic().GetLook())) left_.Add(name, "the file has no place for properties of the whole");
 }
@@ -112,7 +112,7 @@ void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
     patch_.SetOwn(known, own);
 }
 
-// Of the layers that the drawing had when it was read or saved.
+// Only layers that existed when the drawing was read or saved.
 void StructureExport::RemoveLayers() {
     const LayerTable* layers = drawing_.Layers();
     for (const dxf::Layer& layer : patch_.Known().layers) {
@@ -134,7 +134,7 @@ void StructureExport::AddMissing(const Graphic& group, const dxf::Block* block) 
     }
 }
 
-// A graphic that is in the file with all its members.
+// Keeps a graphic that is in the file with all its members.
 void StructureExport::Keep(const Graphic& graphic) {
     if (IsNew(graphic)) return left_.Add(graphic, "an attribute was added, which the file can't take");
     kept_.push_back(graphic.source);

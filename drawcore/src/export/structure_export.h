@@ -1,4 +1,4 @@
-// What has come into a drawing or gone from it since its file was read or written: graphics, and blocks with theirs.
+// Exports the graphics and blocks that were added or removed since the file was read or written.
 #pragma once
 
 #include <map>
@@ -14,20 +14,20 @@ namespace drawcore {
 
 class StructureExport {
 public:
-    // The drawing was read from a file; all have to outlive the export.
+    // The drawing must have been read from a file. All arguments must outlive the export.
     StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, Leftovers& left);
 
-    // Adds what the file can't hold to what is left; what was there before is passed over.
+    // Adds graphics that the file cannot contain to `left`, and skips those that are already there.
     void Write();
-    // Once the patch is finished: where the record of the graphic begins in the changed text.
+    // Returns the offset of the graphic's record in the changed text. Valid after the patch is finished.
     uint32_t PlaceOf(const Graphic& graphic) const;
-    // Once the patch is finished: what cannot be removed becomes part of what is left.
+    // Adds objects that cannot be removed to `left`. Valid after the patch is finished.
     void TakeRefusals();
-    // Whether a new graphic gets a record.
+    // Returns whether a new graphic gets a record.
     bool WillHave(const Graphic& added) const { return added_.count(&added) != 0; }
-    // Where the records are, in the changed text, that stay although their graphics were removed.
+    // Returns the offsets in the changed text of records that are kept although their graphics were removed.
     std::vector<uint32_t> RemovedLeft() const;
-    // Whether the file has the block, or will.
+    // Returns whether the file contains the block, or will.
     static bool Has(const Block& block);
 
 private:
@@ -44,13 +44,13 @@ private:
     const Drawing& drawing_;
     dxf::StructurePatch& patch_;
     Leftovers& left_;
-    std::map<std::string, dxf::Block> inFile_; // by the folded names of the drawing
+    std::map<std::string, dxf::Block> inFile_; // by case-folded name in the drawing
     std::unordered_map<const Graphic*, size_t> added_;
     std::vector<uint32_t> kept_;
-    std::vector<std::pair<uint32_t, uint32_t>> removed_; // from and to: of blocks
+    std::vector<std::pair<uint32_t, uint32_t>> removed_; // begin and end of blocks
 };
 
-// Return the style tree that the contents of a block belong to, in the drawing's code page.
+// Returns the style tree of the contents of a block, in the drawing's code page.
 std::string StyleTreeOf(const Block& block);
 std::string StyleTreeOf(const dxf::Block& block);
 

@@ -1,4 +1,4 @@
-// The pattern of a hatch as a brush style, each pattern once.
+// Converts hatch patterns to brush styles, each pattern once.
 #include "drawcore/src/import/brush_import.h"
 
 #include "drawcore/src/database/encoding.h"
@@ -7,9 +7,9 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostNumbers = 1000; // of patterns under one name
+constexpr int kMostNumbers = 1000; // for different patterns with the same name
 
-// The style that draws these lines, under the name or the name with a number; 0 if there is no room.
+// Returns the style with these lines, under the name or the name with a number, or 0 if the table is full.
 Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::PatternLine>& lines, BrushStyleTable& styles) {
     for (int number = 1; number <= kMostNumbers; ++number) {
         const std::string numbered = number == 1 ? name : name + " " + std::to_string(number);

@@ -1,4 +1,4 @@
-// Brushes and brush styles from the looks of entities.
+// Creates brushes and brush styles from the appearance of entities.
 #pragma once
 
 #include "drawcore/src/database/drawing.h"
@@ -7,11 +7,11 @@
 
 namespace drawcore {
 
-// A pattern becomes a style of the table, at scale 1 and angle 0, unless the table has it already; patterns that differ
-// under one name are numbered.
+// Adds the pattern to the table as a style, at scale 1 and angle 0, unless it exists; different patterns with the same
+// name are numbered.
 Brush ImportBrush(const dxf::BrushLook& look, BrushStyleTable& styles);
 
-// The lines of a style as a file has them; of the others none.
+// Returns the lines of a style that a file has to contain, none for predefined styles.
 std::vector<dxf::Hatch::PatternLine> FileLines(const BrushStyle& style);
 
 } // namespace drawcore

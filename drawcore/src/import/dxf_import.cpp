@@ -1,4 +1,4 @@
-// The order in which a document becomes a drawing.
+// Converts a document to a drawing.
 #include "drawcore/src/import/dxf_import.h"
 
 #include "drawcore/src/database/encoding.h"

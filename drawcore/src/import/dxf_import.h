@@ -1,4 +1,4 @@
-// Makes a drawing from a DXF document that has been read. Shows nothing, reads no file.
+// Creates a drawing from a DXF document.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace drawcore {
 
-// The document's model space with its tables and blocks. What has no place in a drawing is added to its findings.
+// Converts the document's model space with its tables and blocks. Omitted objects are added to its findings.
 std::unique_ptr<Drawing> ImportDxf(dxf::Document& document, const dxf::Progress& progress);
 
 } // namespace drawcore

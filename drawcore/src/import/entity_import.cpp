@@ -1,4 +1,4 @@
-// One function for each kind of entity.
+// Converts each kind of entity.
 #include "drawcore/src/import/entity_import.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace drawcore {
 
 namespace {
 
-// Whether the object system is the world's, perhaps seen from below: circles stay circles.
+// Returns whether the object coordinate system is parallel to the world's, possibly mirrored: circles remain circles.
 bool IsUpright(const Vec3& normal) {
     return normal.x == 0 && normal.y == 0 && normal.z != 0;
 }
@@ -31,7 +31,7 @@ std::unique_ptr<VertexGraphic> Traced(const dxf::Entity& entity) {
     return graphic;
 }
 
-// A width that is the same throughout is the pen's; otherwise each segment has its own.
+// A constant width becomes the pen's; otherwise each segment has its own width.
 void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     if (dxf::HasOneWidth(polyline)) return;
     for (size_t i = 0; i < polyline.vertices.size(); ++i) {
@@ -41,8 +41,8 @@ void SetWidths(const dxf::Polyline& polyline, VertexGraphic& graphic) {
     }
 }
 
-// The same polyline with straight pieces in place of its arcs; a width that changes along an arc changes piece by
-// piece.
+// Returns the polyline with line segments in place of its arcs; a width that changes along an arc changes with each
+// segment.
 dxf::Polyline Straightened(const dxf::Polyline& polyline) {
     dxf::Polyline straight = polyline;
     straight.vertices.clear();
@@ -72,7 +72,7 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
     if (!IsUpright(entity.normal) &&
         std::any_of(polyline.vertices.begin(), polyline.vertices.end(), [](const auto& v) { return v.bulge != 0; }))
         return MakeFlat(entity,
-                        Straightened(polyline)); // seen at an angle, a circle is no longer a circle
+                        Straightened(polyline)); // in a tilted plane, a circle is an ellipse when seen from above
     auto graphic = std::make_unique<VertexGraphic>();
     graphic->vertices.reserve(polyline.vertices.size());
     const Matrix system = dxf::ObjectSystem(entity.normal);
@@ -85,7 +85,7 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
     return graphic;
 }
 
-// The loops that count for a hatch with that handling of islands.
+// Returns whether the loop is filled according to the handling of islands.
 bool IsFilled(const dxf::Hatch& hatch, const dxf::Hatch::Loop& loop) {
     enum { kExternal = 1, kOutermost = 16 };
     enum { kOuter = 1, kIgnore = 2 };
@@ -97,7 +97,7 @@ bool IsFilled(const dxf::Hatch& hatch, const dxf::Hatch::Loop& loop) {
 
 } // namespace
 
-// Makes the graphic of one entity; null for what shows nothing.
+// Creates the graphic of an entity; null if it is not visible.
 class ShapeImport {
 public:
     ShapeImport(EntityImport& importer, const dxf::Entity& entity) : importer_(importer), entity_(entity) {}
@@ -112,7 +112,7 @@ public:
     std::unique_ptr<Graphic> operator()(const dxf::PointMark& mark) {
         auto graphic = std::make_unique<VertexGraphic>();
         graphic->AddVertex(mark.at);
-        graphic->AddVertex(mark.at); // a segment without length is a dot
+        graphic->AddVertex(mark.at); // a segment of length 0 is a dot
         return graphic;
     }
 
@@ -241,7 +241,7 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
         graphic->source = entity.offset;
         added = group.Add(std::move(graphic));
     }
-    // The attributes of an insertion that shows nothing itself are graphics by themselves.
+    // Attributes of an invisible insertion become separate graphics.
     if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
         AddAttributes(added ? *added : group, **insert);
 }

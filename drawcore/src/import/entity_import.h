@@ -1,4 +1,4 @@
-// Graphics from the entities of a DXF document.
+// Creates graphics from the entities of a DXF document.
 #pragma once
 
 #include <memory>
@@ -14,8 +14,8 @@ public:
     EntityImport(const dxf::Document& document, const ImportedTables& tables, Drawing& drawing)
         : document_(document), tables_(tables), drawing_(drawing) {}
 
-    // Adds what the entity shows to the group: as a rule one graphic, none for what shows nothing. Within a block,
-    // definitions of attributes are left out.
+    // Adds the graphics of an entity to the group: usually one, none if it is not visible. In a block, attribute
+    // definitions are skipped.
     void AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock);
 
 private:

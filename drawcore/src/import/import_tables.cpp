@@ -1,4 +1,4 @@
-// Filling the tables, and finding entries by the names of a document.
+// Fills the tables of a drawing, and finds entries by the names of a document.
 #include "drawcore/src/import/import_tables.h"
 
 #include <algorithm>
@@ -32,14 +32,14 @@ void SetLayer(Layer& layer, const dxf::Layer& from, const LineStyleTable& styles
     layer.locked = from.flags & dxf::kLayerIsLocked;
 }
 
-// The entry of that name, which is made if there isn't one yet; 0 if the table is full.
+// Returns the entry with that name, adding it if needed, or 0 if the table is full.
 template <class Entry, class Make>
 Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
     const Id known = table.IdOf(name);
     return known ? known : table.Add(make(name));
 }
 
-// A pattern that a line can be drawn with, or a solid line.
+// Returns a pattern that can be drawn, or a solid line.
 std::vector<double> SoundPattern(const std::vector<double>& dashes) {
     constexpr size_t kMostItems = 64;
     double length = 0;

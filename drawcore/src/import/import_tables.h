@@ -1,4 +1,4 @@
-// The tables of a drawing from those of a DXF document: line styles, layers, units.
+// Converts the tables of a DXF document: line styles, layers, units.
 #pragma once
 
 #include <vector>
@@ -8,21 +8,21 @@
 
 namespace drawcore {
 
-// Identifiers in the drawing's tables by position in the document's lists. What found no room in a full table has the
-// identifier of the first entry: "Continuous", layer "0".
+// Identifiers in the drawing's tables, by index in the document's lists. Objects that do not fit into a full table have
+// the identifier of the first entry: "Continuous", layer "0".
 struct ImportedTables {
     std::vector<Id> lineStyles;
     std::vector<Id> layers;
-    std::vector<Id> blocks; // no identifier for what is only mentioned, and for model and paper space
+    std::vector<Id> blocks; // kNoId for undeclared blocks, and for model and paper space
 };
 
-// The name of an entry for a name as it is stored in a file.
+// Returns the name of an entry for a name as stored in a file.
 std::string HostName(const std::string& stored);
 
-// What a layer of the document is in a drawing with these line styles.
+// Converts a layer of the document, for a drawing with these line styles.
 Layer ImportedLayer(const dxf::Layer& from, const LineStyleTable& styles);
 
-// Fills tables and units; the blocks are still empty.
+// Fills tables and units; blocks are still empty.
 ImportedTables ImportTables(const dxf::Document& document, Drawing& drawing);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The place, style and alignment of imported texts.
+// Position, style and alignment of imported texts.
 #include "drawcore/src/import/text_import.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ TextAnchor AnchorOf(const dxf::Text& text) {
     }
 }
 
-// Where a single line is placed and how it is turned, mirrored and slanted.
+// Sets position, rotation, mirroring and obliquing of a single line.
 void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
     using Horizontal = dxf::Text::Horizontal;
     const Matrix system = dxf::ObjectSystem(entity.normal);
@@ -83,7 +83,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     state.widthFactor = SoundWidth(document.At(text.style).widthFactor * format.widthFactor);
     state.wrapWidth = std::max(text.width, 0.0);
     state.lineSpacing = text.lineSpacing > 0 ? std::clamp(text.lineSpacing, 0.25, 4.0) : 1;
-    if (format.alignment != 0) // paragraphs move within the box of the text, which stays where it is attached
+    if (format.alignment != 0) // paragraph alignment is relative to the text's box, which does not move
         state.boxFormat = static_cast<uint16_t>((text.attachment - 1) % 3);
     constexpr TextAnchor kAnchors[] = {TextAnchor::Top, TextAnchor::Middle, TextAnchor::Bottom};
     state.anchor = kAnchors[(text.attachment - 1) / 3];

@@ -1,4 +1,4 @@
-// Text graphics from TEXT, attributes and MTEXT.
+// Creates text graphics from TEXT, attributes and MTEXT.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace drawcore {
 
-// Null if there is nothing to read in it. All that a look says is the caller's to set.
+// Returns null if the text is empty. The caller sets the appearance.
 std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::Text& text);
 std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MText& text,
                                         const dxf::Document& document);

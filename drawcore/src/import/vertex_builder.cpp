@@ -1,4 +1,4 @@
-// Adding strokes, each from the end of the one before.
+// Appends strokes, each from the end of the previous one.
 #include "drawcore/src/import/vertex_builder.h"
 
 #include <cmath>
@@ -27,7 +27,7 @@ void VertexBuilder::MoveTo(Vec3 p) {
 
 void VertexBuilder::ArcTo(const EllipseArc& arc) {
     const bool circle = IsCircle(arc) && !vertices_.empty();
-    // A bulge grows without end towards a full turn: two halves are good numbers.
+    // The bulge of a full turn is infinite; two halves have finite bulges.
     const int pieces = circle ? (std::fabs(arc.sweep) > kPi ? 2 : 1) : StraightPieces(arc.sweep);
     const bool mirrored = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x < 0;
     const double bulge = circle ? std::tan(arc.sweep / pieces / 4) * (mirrored ? -1 : 1) : 0;

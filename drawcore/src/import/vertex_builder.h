@@ -1,4 +1,4 @@
-// Outlines of DXF entities as vertices: strokes of lines and arcs.
+// Converts outlines of DXF entities to vertices: strokes of lines and arcs.
 #pragma once
 
 #include "drawcore/src/dxf/path.h"
@@ -6,10 +6,11 @@
 
 namespace drawcore {
 
-// How many straight pieces show an arc that no bulge can show.
+// Returns the number of line segments for an arc that a bulge cannot represent.
 int StraightPieces(double sweep);
 
-// Appends to the vertices of a graphic. Arcs that are circular from above become bulges, others short lines.
+// Appends to the vertices of a graphic. Arcs that are circular when seen from above become bulges, others line
+// segments.
 class VertexBuilder : public dxf::PathSink {
 public:
     explicit VertexBuilder(VertexGraphic& graphic) : vertices_(graphic.vertices) {}
