@@ -1,4 +1,4 @@
-// Looks as keys.
+// Compares and hashes appearances.
 #include "drawcore/src/graphics/attributes.h"
 
 #include <functional>

@@ -1,5 +1,4 @@
-// How a graphic is drawn: pen, brush, and the rest of its properties. Values only; the properties of these names are
-// in properties.h.
+// The attributes of a graphic: pen, brush, and the other property values. Access by property name is in properties.h.
 #pragma once
 
 #include <cstddef>
@@ -13,28 +12,28 @@
 namespace drawcore {
 
 struct Pen {
-    double width = 0; // by scaleSystem, or a marker; 0 is the thinnest line of the device
-    double scale = 1; // of the dash pattern
+    double width = 0; // in the unit of scaleSystem, or a marker; 0 is the thinnest line of the device
+    double scale = 1; // factor of the dash pattern
     Color color = kColorByLayer;
     uint16_t style = kLineStyleByLayer;
     uint8_t scaleSystem = kScalePaper;
-    bool alignment = true; // dashes fitted to each segment; else the pattern runs on through the corners
+    bool alignment = true; // fit dashes to each segment; otherwise the pattern continues around corners
 
-    auto Values() const { return std::tie(width, scale, color, style, scaleSystem, alignment); } // all of them
+    auto Values() const { return std::tie(width, scale, color, style, scaleSystem, alignment); } // all members
 };
 
 struct Brush {
     double scale = 1;
-    double angle = 0; // radians
+    double angle = 0; // in radians
     Color color = kColorOfPen;
-    int32_t drawMode = 0; // 1 winding, 0 alternate
+    int32_t drawMode = 0; // 1: winding, 0: alternate
     uint16_t style = kBrushStyleNone;
-    bool cross = false; // the hatch once more, at a right angle
+    bool cross = false; // hatch again at a right angle
 
-    auto Values() const { return std::tie(scale, angle, color, drawMode, style, cross); } // all of them
+    auto Values() const { return std::tie(scale, angle, color, drawMode, style, cross); } // all members
 };
 
-// That of most graphics.
+// The brush of most graphics.
 inline constexpr Brush kNoBrush{};
 
 inline bool operator==(const Pen& a, const Pen& b) {
@@ -44,22 +43,22 @@ inline bool operator==(const Brush& a, const Brush& b) {
     return a.Values() == b.Values();
 }
 
-// The values of all properties of a graphic together, for the undo log: many graphics have the same.
+// The values of all properties of a graphic, for the undo log; shared by many graphics.
 struct Look {
     Pen pen;
     Brush brush;
     Id layer = kNoId;
     Id styleTree = kNoId;
     std::string info;
-    // Of texts.
+    // For texts.
     std::string font;
     double textHeight = 0;
     uint16_t textStyle = 0;
     uint16_t textFormat = 0;
-    // Not a property, but written with them: GraphicStruct::wLastPage.
+    // Not a property, but written together with properties: GraphicStruct::wLastPage.
     uint16_t lastPage = 0;
 
-    // Those of pen and brush aside.
+    // All members except pen and brush.
     auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
     bool operator==(const Look& other) const {
         return lastPage == other.lastPage && pen == other.pen && brush == other.brush && Values() == other.Values();

@@ -1,4 +1,4 @@
-// The entries of the table, and insertions whose measures a change of their block makes out of date.
+// The block table, and invalidation of insertions when a block changes.
 #include "drawcore/src/graphics/block.h"
 
 #include "drawcore/src/graphics/drawing_contents.h"

@@ -1,4 +1,4 @@
-// Blocks: named groups of graphics that insertions show; the table "_Blocks_".
+// Blocks: named groups of graphics that insertions draw; the table "_Blocks_".
 #pragma once
 
 #include "drawcore/src/geometry/matrix.h"
@@ -18,7 +18,7 @@ public:
     void* Data() override; // a GraphicStruct*
     Graphic& Content() const { return *content_; }
 
-    Vec3 base; // this point of the content comes to the insertion's origin
+    Vec3 base; // point of the contents that is placed at the insertion's origin
 
 private:
     std::unique_ptr<Graphic> content_;
@@ -28,11 +28,11 @@ class BlockTable : public TableOf<Block> {
 public:
     explicit BlockTable(DrawingContents* owner);
     DrawingContents* Owner() const;
-    // data is a GraphicStruct* without an owner, which the block takes.
+    // data is a GraphicStruct* without an owner, which the block takes ownership of.
     std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data) override;
     bool Remove(Id id) override;
 
-    // Marks the insertions of the block of this content as changed, in the drawing and in its blocks.
+    // Invalidates the insertions of the block with these contents, in the drawing and in its blocks.
     void InvalidateInsertionsOf(const Graphic& content) const;
 
 private:

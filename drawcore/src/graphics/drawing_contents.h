@@ -1,5 +1,4 @@
-// The contents of a drawing: its tables, its graphics, and their undo log. This is all that a graphic knows of its
-// drawing.
+// The contents of a drawing: tables, graphics, and undo log. Graphics access their drawing only through this class.
 #pragma once
 
 #include <map>
@@ -23,16 +22,16 @@ public:
     DrawingContents(const DrawingContents&) = delete;
     DrawingContents& operator=(const DrawingContents&) = delete;
 
-    // Returns the drawing behind a pointer from outside, or null for null and for a drawing that has been freed.
+    // Returns the drawing for a caller's pointer, or null if it is null or the drawing has been freed.
     static DrawingContents* Find(DrawingStruct* drawing);
 
-    // Returns one of its tables by name, or null if there is none.
+    // Returns the table with that name, or null.
     Table* FindTable(std::string_view name) const;
     // Returns null if the name already exists.
     Table* AddTable(std::string_view name, std::unique_ptr<Table> table);
     bool RemoveTable(Table* table);
 
-    // The tables that every new drawing has; null once the host program has removed one.
+    // Return the tables of every new drawing, or null if the host program has removed one.
     LayerTable* Layers() const { return dynamic_cast<LayerTable*>(FindTable(kTableLayers)); }
     LineStyleTable* LineStyles() const { return dynamic_cast<LineStyleTable*>(FindTable(kTableLineStyles)); }
     BrushStyleTable* BrushStyles() const { return dynamic_cast<BrushStyleTable*>(FindTable(kTableBrushStyles)); }

@@ -1,4 +1,4 @@
-// The group of all graphics of a drawing, with an index of their places.
+// The group of all graphics of a drawing, with a spatial index.
 #pragma once
 
 #include "drawcore/src/graphics/place_index.h"

@@ -1,4 +1,4 @@
-// Tracing and transforming circles and ellipses.
+// Traces and transforms circles and ellipses.
 #include "drawcore/src/graphics/ellipse_graphic.h"
 
 #include "drawcore/src/geometry/flatten.h"

@@ -1,4 +1,4 @@
-// The box of what is traced; widths and dashes do not count.
+// Computes extents while tracing, ignoring widths and dashes.
 #pragma once
 
 #include "drawcore/src/graphics/trace.h"

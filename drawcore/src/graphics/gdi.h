@@ -1,4 +1,4 @@
-// Owners of GDI objects: each frees what it holds, and a selection restores what was selected before.
+// RAII owners of GDI objects, and guards that restore the previous state.
 #pragma once
 
 #include <memory>
@@ -32,7 +32,7 @@ private:
     HGDIOBJ before_;
 };
 
-// Everything that is set in a device context goes back to what it was.
+// Saves the state of a device context and restores it.
 class SavedDC {
 public:
     explicit SavedDC(HDC dc) : dc_(dc), mark_(::SaveDC(dc)) {}

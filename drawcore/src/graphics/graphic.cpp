@@ -1,4 +1,4 @@
-// What all graphics do alike: members, copies, extents.
+// Common implementation of all graphics: members, copies, extents.
 #include "drawcore/src/graphics/graphic.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace drawcore {
 
 namespace {
 
-// Those of the block that has this content: their boxes come from its.
+// Invalidates insertions of the block with these contents, since their extents depend on it.
 void InvalidateInsertions(const Graphic& content) {
     const DrawingContents* drawing = content.GetDrawing();
     if (drawing && drawing->Blocks()) drawing->Blocks()->InvalidateInsertionsOf(content);
@@ -152,7 +152,8 @@ void Graphic::ChangedShape() {
 }
 
 void Graphic::InvalidateExtents() {
-    // A graphic whose extents are known has members whose extents are known: the way up ends at the first that isn't.
+    // If the extents of a graphic are valid, so are those of its members: invalidation can stop at the first invalid
+    // parent.
     Graphic* graphic = this;
     do {
         if (graphic->indexed_) graphic->Parent()->IndexOfMembers()->Forget(*graphic);
@@ -165,7 +166,7 @@ const Extents& Graphic::GetExtents() const {
     Extents& extents = Box();
     if (extentsKnown_) return extents;
     extents = {};
-    extentsKnown_ = KeepsExtents(); // before the members: a block may hold an insertion of itself
+    extentsKnown_ = KeepsExtents(); // set before visiting members, because a block may contain an insertion of itself
     AddShapeExtents(extents);
     Matrix motion;
     const bool moved = FindMotion(motion);

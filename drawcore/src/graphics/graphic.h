@@ -1,9 +1,8 @@
-// The base of all graphics: the host's record, pen and brush, members, extents, and tracing. What shape a graphic has
-// is its class's business: VertexGraphic, EllipseGraphic, SplineGraphic, TextGraphic, InsertGraphic.
+// The base of all graphics: the host's record, pen and brush, members, extents, and tracing. Shapes are implemented by
+// VertexGraphic, EllipseGraphic, SplineGraphic, TextGraphic and InsertGraphic.
 //
-// A graphic owns its parts (those of a group, the attribute texts of an insertion); a Selection has members that it
-// does not own.
-// Coordinates are drawing units of the drawing or block that the graphic belongs to.
+// A graphic owns its parts (the members of a group, the attribute texts of an insertion); the members of a Selection
+// have other owners. Coordinates are in drawing units of the drawing or block that contains the graphic.
 #pragma once
 
 #include <memory>
@@ -25,10 +24,10 @@ struct Vertex;
 struct Trace;
 struct PenUse;
 
-// Bits of the record's flag word that are drawcore's own.
-constexpr uint32_t kFlagDirty = 1; // changed since it was drawn last
+// Flags of the record that are internal to drawcore.
+constexpr uint32_t kFlagDirty = 1; // changed since it was last drawn
 
-// What kind of graphic it is, for filters and property tables; one bit each, as in drawcore/graphic.h.
+// The kind of graphic, for filters and property tables; one bit each, as in drawcore/graphic.h.
 enum class Kind : uint32_t { Vertices = 1, Curve = 2, Text = 8, Insert = 0x10, Group = 0x20 };
 
 class Graphic : public GraphicStruct {
@@ -40,58 +39,59 @@ public:
     static const Graphic* From(const GraphicStruct* graphic) { return static_cast<const Graphic*>(graphic); }
 
     virtual Kind GetKind() const = 0;
-    // A copy with copies of the parts, tied to the same drawing and owned by nobody.
+    // Returns a copy with copies of the parts, attached to the same drawing, without an owner.
     std::unique_ptr<Graphic> Clone() const;
-    // The same of whatever a walk over the graphic gives: of a selection, a group with copies of its members.
+    // Does the same for the graphics that an iteration returns: for a selection, a group with copies of its members.
     virtual std::unique_ptr<Graphic> Copy() const { return Clone(); }
-    // A copy without parts, for Restore and EqualState: the state is everything but parts, owner and drawing.
+    // Returns a copy without parts, for Restore and EqualState: the state is everything but parts, owner and drawing.
     virtual std::unique_ptr<Graphic> CloneState() const = 0;
     virtual void Restore(const Graphic& saved) = 0;
     virtual bool EqualState(const Graphic& saved) const = 0;
-    // How much memory a copy of the state takes, in bytes, more or less.
+    // Returns the approximate memory size of a copy of the state in bytes.
     virtual size_t StateSize() const = 0;
-    // The part of the state that properties set.
+    // Gets the part of the state that properties set.
     virtual Look GetLook() const;
-    virtual bool HasLook(const Look& look) const; // lastPage aside
-    virtual bool SetLook(const Look& look);       // whether the shape is another now
+    virtual bool HasLook(const Look& look) const; // ignores lastPage
+    virtual bool SetLook(const Look& look);       // returns whether the shape has changed
 
-    // The vertex at that place, null after the last one and for graphics without vertices.
+    // Returns the vertex at that index, or null after the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }
 
-    // Members, in the order of drawing: the parts that it owns, or those of others that a selection holds.
+    // Members in drawing order: the parts that it owns, or those of others in a selection.
     virtual size_t MemberCount() const { return parts_ ? parts_->size() : 0; }
     virtual Graphic* MemberAt(size_t index) const { return (*parts_)[index].get(); }
-    // Where the members have gone from their own coordinates; false if they are where these say.
+    // Gets the motion of the members from their own coordinates. Returns false if they have not moved.
     virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
-    // Takes the part out and hands it over; null if it is not one.
+    // Removes the part and returns it, or null if it is not a part.
     std::unique_ptr<Graphic> Release(Graphic* part);
 
-    // The graphic that holds this one; null for a free one, a block's content and a drawing's root.
+    // Returns the graphic that contains this one, or null for one without a parent, a block's contents, or a drawing's
+    // root.
     Graphic* Parent() const { return dwFlags & kFlagNoParent ? nullptr : From(pParent); }
-    const Graphic& Top() const; // the last of the parents, or this one
+    const Graphic& Top() const; // the outermost parent, or this graphic
 
-    // Ties this graphic and its members to a drawing, or to none.
+    // Attaches the graphic and its members to a drawing, or detaches them.
     void Attach(DrawingContents* drawing);
-    DrawingContents* GetDrawing() const; // also null once the drawing has been freed
+    DrawingContents* GetDrawing() const; // also null if the drawing has been freed
 
-    // A setter calls one of the first two before it changes anything, for the undo log, and one of the others after.
-    void ChangingLook();  // what GetLook gives, and nothing else
-    void ChangingShape(); // anything
+    // Setters call one of the first two functions before a change, for the undo log, and one of the others after it.
+    void ChangingLook();  // before changes of what GetLook returns
+    void ChangingShape(); // before any other change
     void ChangedLook();
     void ChangedShape();
 
-    // The record's pszStyleName, from then on a copy of the text. A program may also have put a text of its own there.
+    // Sets the record's pszStyleName to a copy of the text. A program may have set its own pointer before.
     void SetStyleName(const char* name);
 
-    const Extents& GetExtents() const; // with members
-    void InvalidateExtents();          // and those of all that hold it
+    const Extents& GetExtents() const; // including members
+    void InvalidateExtents();          // also of all graphics that contain it
 
-    // The shape of this graphic alone, without members, into the sink of the trace.
+    // Traces the shape of this graphic, without members.
     virtual void TraceShape(const Trace& trace, const PenUse& use) const = 0;
-    // How far the shape goes beyond its extents, pen width apart: half of a segment's own width.
+    // Returns how far the shape extends beyond its extents, ignoring the pen width: half the width of its segments.
     virtual double Reach() const { return 0; }
-    // Where the members are; null for a graphic that has few.
+    // Returns the spatial index of the members; null for a graphic with few members.
     virtual PlaceIndex* IndexOfMembers() const { return nullptr; }
 
     const PropertyTable* GetPropertyTable() const { return Ties().properties; }
@@ -101,24 +101,24 @@ public:
     Pen& GetPen() { return *Place<Pen>(host8); }
     const Brush& GetBrush() const { return brush_ ? *brush_ : kNoBrush; }
     void SetBrush(const Brush& brush);
-    std::unique_ptr<std::string> info; // attribute text; null is empty
+    std::unique_ptr<std::string> info; // attribute text; null if empty
     Id layer = 1;
-    uint16_t styleTree = kNoId; // entry of "_Blocks_": the style that it is drawn in
+    uint16_t styleTree = kNoId; // entry of "_Blocks_": the style of the graphic
 
     static constexpr uint32_t kNoSource = UINT32_MAX;
-    uint32_t source = kNoSource; // where its record begins in the text of the file that it was read from; not of copies
-    bool touched = false;        // since then someone could have changed it
+    uint32_t source = kNoSource; // offset of its record in the file that it was read from; not copied
+    bool touched = false;        // may have been changed since then
 
 protected:
     Graphic(uint8_t type, const PropertyTable* properties);
-    Graphic(const Graphic& other); // without parts; no owner
+    Graphic(const Graphic& other); // without parts and owner
     virtual void AddShapeExtents(Extents& extents) const;
     void RestoreAttributes(const Graphic& saved);
     bool EqualAttributes(const Graphic& saved) const;
 
-    // Whether the box stays valid until InvalidateExtents is called.
+    // Returns whether the extents stay valid until InvalidateExtents is called.
     virtual bool KeepsExtents() const { return true; }
-    // One was taken out: those after it have moved up.
+    // Called after one was removed and the following ones have moved up.
     virtual void MembersMoved() {}
 
 private:
@@ -126,42 +126,42 @@ private:
     friend class Block;
     friend class PlaceIndex;
 
-    void ForgetSource();          // it is no longer where its record says
-    UndoLog* OpenUndoLog() const; // null if nothing is to be saved
+    void ForgetSource();          // the record no longer applies
+    UndoLog* OpenUndoLog() const; // null if changes are not recorded
 
-    // What fits into the bytes of the record that are the host's own: of a million graphics they would be a hundred
-    // megabytes.
+    // Data stored in the record's bytes that belong to the host; in separate members it would take a hundred megabytes
+    // for a million graphics.
     struct Tied {
         DrawingContents* drawing = nullptr;
         const PropertyTable* properties = nullptr;
-        uint32_t undoPlace = 0; // in the open step of the undo log; says nothing by itself
-        uint32_t place = 0;     // among the parts of the graphic that owns it
+        uint32_t undoPlace = 0; // index in the open undo step; only a hint
+        uint32_t place = 0;     // index among the parts of its owner
     };
     Tied& Ties() { return *Place<Tied>(host68); }
     const Tied& Ties() const { return *Place<Tied>(const_cast<Graphic*>(this)->host68); }
     Extents& Box() const { return *Place<Extents>(const_cast<Graphic*>(this)->host28); }
     void MakeHostParts();
 
-    // The processors that this runs on read doubles at any four bytes, as the record's are in a program of 32 bits.
+    // In 32-bit programs the record's doubles are aligned to 4 bytes, which the supported processors can read.
     template <class Value, size_t size>
     static Value* Place(uint8_t (&bytes)[size]) {
         static_assert(sizeof(Value) <= size && std::is_trivially_destructible_v<Value>);
         return std::launder(reinterpret_cast<Value*>(bytes));
     }
 
-    std::unique_ptr<std::vector<std::unique_ptr<Graphic>>> parts_; // null: none
+    std::unique_ptr<std::vector<std::unique_ptr<Graphic>>> parts_; // null if there are none
     std::unique_ptr<std::string> styleName_;
     std::unique_ptr<const Brush> brush_; // null: kNoBrush
     bool inUndoLog_ = false;
     bool isBlockContent_ = false;
-    bool indexed_ = false;              // in the owner's index, by Box()
-    mutable bool extentsKnown_ = false; // Box() holds them
+    bool indexed_ = false;              // is in the owner's index with Box()
+    mutable bool extentsKnown_ = false; // Box() contains them
 };
 
-// Returns the width of the graphic's pen: a marker is resolved by the graphic's own layer, by block to 0.
+// Returns the width of the graphic's pen. A marker is resolved by the graphic's layer; by block is 0.
 double ShownPenWidth(const Graphic& graphic);
 
-// Whether the filter of a walk lets the graphic through (see drawcore/graphic.h).
+// Returns whether the graphic passes the filter of an iteration (see drawcore/graphic.h).
 bool PassesFilter(const Graphic& graphic, uint32_t filter);
 
 } // namespace drawcore

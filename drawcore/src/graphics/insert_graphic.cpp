@@ -1,4 +1,4 @@
-// Tracing the steps of an insertion, and its vertices.
+// Traces the cells of an insertion, and manages its vertices.
 #include "drawcore/src/graphics/insert_graphic.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kDeepest = 64; // blocks in blocks; deeper ones show nothing
+constexpr int kDeepest = 64; // maximum nesting depth; deeper blocks are not drawn
 
 bool IsOpen(const Block* block, const Trace& trace) {
     for (const Trace* at = &trace; at; at = at->outer)
@@ -40,7 +40,7 @@ InsertGraphic::More& InsertGraphic::GetMore() {
     return *more_;
 }
 
-// Steps that nothing goes count too: they are kept for the file.
+// Steps of length 0 are kept too, for the file.
 void InsertGraphic::SetArray(const InsertArray& array) {
     if (more_ || !(array == InsertArray())) GetMore().array = array;
 }

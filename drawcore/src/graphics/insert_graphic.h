@@ -1,5 +1,5 @@
-// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts. They, and the steps of the
-// array, are in the drawing's coordinates as of before the insertion was moved for the first time, and follow it.
+// Insertions of a block: scaled, rotated, mirrored, arrayed. Members are attribute texts. Members and array steps are
+// stored in the drawing's coordinates before the insertion was first moved, and move with it.
 #pragma once
 
 #include <optional>
@@ -12,14 +12,14 @@ namespace drawcore {
 
 struct InsertArray {
     int columns = 1, rows = 1;
-    Vec3 columnStep, rowStep; // from one copy to the next
+    Vec3 columnStep, rowStep; // from one cell to the next
 
     bool IsOne() const { return columns <= 1 && rows <= 1; }
 };
 
 class InsertGraphic : public Graphic {
 public:
-    // Its vertices are the origin of the block and the ends of the block's axes.
+    // The vertices are the origin of the block and the end points of its axes.
     explicit InsertGraphic(Id blockId = kNoId, const dxf::AxisEnds& ends = dxf::AxisEndsOf(Matrix()));
     InsertGraphic(const InsertGraphic& other);
 
@@ -33,13 +33,13 @@ public:
     Vertex* VertexAt(size_t place) override;
     bool FindMotion(Matrix& motion) const override;
 
-    // From the block's coordinates to those of the drawing, without the block's base point.
+    // Returns the matrix from block to drawing coordinates, without the block's base point.
     Matrix Placement() const;
     dxf::AxisEnds Ends() const;
     void Place(const dxf::AxisEnds& ends);
     InsertArray Array() const { return more_ ? more_->array : InsertArray(); }
     void SetArray(const InsertArray& array);
-    InsertArray MovedArray() const; // as it is seen
+    InsertArray MovedArray() const; // with the current placement
 
     Id block; // entry of "_Blocks_" of the drawing that this graphic is attached to
     Vertex vertices[4];
@@ -48,12 +48,12 @@ protected:
     void AddShapeExtents(Extents& extents) const override;
 
 private:
-    void KeepFirst(); // someone is about to move it
+    void KeepFirst(); // called before it is moved
 
-    // What few insertions need.
+    // Data that few insertions need.
     struct More {
         InsertArray array;
-        std::optional<Matrix> first; // the placement before it was moved; none as long as nobody could have
+        std::optional<Matrix> first; // the placement before it was first moved, if it may have been
     };
     More& GetMore();
 

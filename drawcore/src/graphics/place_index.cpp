@@ -1,4 +1,4 @@
-// An R-tree of boxes in single precision, rounded outwards.
+// An R-tree of boxes in single precision, rounded outward.
 #include "drawcore/src/graphics/place_index.h"
 
 #include <algorithm>
@@ -58,7 +58,7 @@ double Share(double low, double high, double allLow, double allHigh) {
     return all > 0 ? std::clamp((std::min(high, allHigh) - std::max(low, allLow)) / all, 0.0, 1.0) : 1;
 }
 
-// Whether so much of all lies in the box that it takes less time to look at every member than to sort those in it.
+// Returns whether the box contains so much that checking every member is faster than sorting the results.
 bool HoldsMuch(const Extents& box, const Extents& all) {
     constexpr double kMuch = 0.125;
     return Share(box.low.x, box.high.x, all.low.x, all.high.x) * Share(box.low.y, box.high.y, all.low.y, all.high.y) >
@@ -77,7 +77,7 @@ PlaceIndex::~PlaceIndex() = default;
 
 void PlaceIndex::NotePen(const Pen& pen) {
     double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
-    constexpr double kWidestInherited = 2.11 / kMillimetersPerInch; // the largest line weight of a layer
+    constexpr double kWidestInherited = 2.11 / kMillimetersPerInch; // the greatest line weight of a layer
     reach = std::max(reach, (pen.width >= 0 ? pen.width : kWidestInherited) / 2);
 }
 
@@ -103,12 +103,13 @@ void PlaceIndex::Build(const Graphic& group) {
     known_ = group.MemberCount();
 }
 
-// Members that were added meanwhile have the places after the known ones.
+// Adds new members, which follow the known ones.
 void PlaceIndex::TakeUp(const Graphic& group) {
     for (; known_ < group.MemberCount(); ++known_)
         changed_.push_back(static_cast<uint32_t>(known_));
     constexpr size_t kFew = 64;
-    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16) return Build(group); // faster than one by one
+    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16)
+        return Build(group); // faster than updating one by one
     for (const uint32_t place : changed_) {
         Graphic& member = *group.MemberAt(place);
         const Extents& extents = member.GetExtents();

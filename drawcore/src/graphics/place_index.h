@@ -1,8 +1,7 @@
-// The members of a drawing's root by place, so that what lies in a part of the drawing is found without a look at the
-// rest.
+// A spatial index of the members of a drawing's root, to find those in a part of the drawing.
 //
-// Made when it is asked for first. It hears of each member that changes (Forget) and takes up the new place when it is
-// asked again: an answer is never out of date.
+// Built on first use. Members that change are removed (Forget) and added again at the next query, so that results are
+// never out of date.
 #pragma once
 
 #include <memory>
@@ -21,16 +20,16 @@ public:
     PlaceIndex();
     ~PlaceIndex();
 
-    // Places, in the order of drawing, of the members of the group that show in the box as seen from above; perhaps of
-    // others that lie close to it too. None: of all members. paperInch: drawing units of an inch of paper.
+    // Returns the indices, in drawing order, of the members that are visible in the box as seen from above, and
+    // possibly of others nearby; nothing stands for all members. paperInch: drawing units per inch on paper.
     std::optional<std::vector<uint32_t>> Find(const Graphic& group, const Extents& box, double paperInch);
 
-    // The member is about to change its extents, which are still known.
+    // Called before the extents of a member change, while they are still valid.
     void Forget(Graphic& member);
-    // Members have got other places.
+    // Called when indices of members have changed.
     void Drop();
 
-    // Something that the group holds is drawn with this pen now.
+    // Called when a member of the group gets a pen.
     void NotePen(const Pen& pen);
 
 private:
@@ -40,12 +39,13 @@ private:
     void TakeUp(const Graphic& group);
     void NoteMember(const Graphic& member);
 
-    std::unique_ptr<Tree> tree_;    // null: to be made
-    std::vector<uint32_t> changed_; // members that the tree lacks
-    size_t known_ = 0;              // how many members there were when it was asked last
-    // Half of the widest lines of all that the group holds, or ever held: how far members show beyond their extents.
-    double worldReach_ = 0; // drawing units
-    double paperReach_ = 0; // inches
+    std::unique_ptr<Tree> tree_;    // null until it is built
+    std::vector<uint32_t> changed_; // members not in the tree
+    size_t known_ = 0;              // number of members at the last query
+    // Half the width of the widest line that the group contains or has contained: how far members may extend beyond
+    // their extents.
+    double worldReach_ = 0; // in drawing units
+    double paperReach_ = 0; // in inches
 };
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The tables themselves: how each property is read and written.
+// The property tables: how each property is read and written.
 #include "drawcore/src/graphics/properties.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ namespace drawcore {
 
 namespace {
 
-// How a value is read and written.
+// Access to an integer value.
 struct WholeAccess {
     int64_t (*get)(const Graphic&);
     void (*set)(Graphic&, int64_t);
@@ -29,15 +29,15 @@ struct WholeAccess {
 struct RealAccess {
     double (*get)(const Graphic&);
     void (*set)(Graphic&, double);
-    double (*stored)(const Graphic&); // null: get
+    double (*stored)(const Graphic&); // null to use get
 };
 struct TextAccess {
     const char* (*get)(const Graphic&);
     void (*set)(Graphic&, const char*);
-    const char* (*stored)(const Graphic&); // null: get
+    const char* (*stored)(const Graphic&); // null to use get
 };
 
-// One property: exactly one of the three accesses is set.
+// A property: exactly one of the three accessors is set.
 struct Property {
     const char* name;
     WholeAccess whole{};
@@ -45,7 +45,7 @@ struct Property {
     TextAccess text{};
 };
 
-// Places of values in a graphic.
+// Access to members of a graphic.
 template <class Place>
 struct Assigned {
     template <class Value>
@@ -137,13 +137,13 @@ int64_t GetScaleSystem(const Graphic& graphic) {
     return graphic.GetPen().scaleSystem;
 }
 
-// A width that is inherited is one on paper.
+// An inherited width is a width on paper.
 void SetPenWidth(Graphic& graphic, double width) {
     graphic.GetPen().width = width;
     if (width < 0) graphic.GetPen().scaleSystem = kScalePaper;
 }
 
-// In drawing units a width has to be a number of its own.
+// A width in drawing units must be a number rather than a marker.
 void SetScaleSystem(Graphic& graphic, int64_t system) {
     if (system == kScaleWorld) graphic.GetPen().width = ShownPenWidth(graphic);
     graphic.GetPen().scaleSystem = static_cast<uint8_t>(system);
@@ -157,7 +157,7 @@ void SetInfo(Graphic& graphic, const char* text) {
     graphic.info = *text ? std::make_unique<std::string>(text) : nullptr;
 }
 
-// A text in the default face names the face that is the default here.
+// A text in the default face returns the name of that face.
 const char* GetFont(const Graphic& graphic) {
     const std::string& font = InText<&TextState::font>::In(graphic);
     return font.empty() ? TextFace::Get(font, 0).Name().c_str() : font.c_str();
@@ -167,7 +167,7 @@ const char* GetStoredFont(const Graphic& graphic) {
     return InText<&TextState::font>::In(graphic).c_str();
 }
 
-// As in kPropertyList.
+// In the order of kPropertyList.
 constexpr Property kProperties[] = {
     Real<InBrush<&Brush::angle>>(kPropBrushAngle),
     Whole<InBrush<&Brush::color>>(kPropBrushColor),
@@ -193,7 +193,7 @@ constexpr Property kProperties[] = {
     Whole<InText<&TextState::style>>(kPropTextStyle),
 };
 
-// A look-up halves the range, and both tables have the same numbers.
+// Lookups use binary search, and both tables have the same order.
 constexpr bool IsListSorted() {
     constexpr size_t kCount = std::size(kProperties);
     if (kCount != std::size(kPropertyList)) return false;
@@ -205,7 +205,8 @@ constexpr bool IsListSorted() {
 }
 static_assert(IsListSorted());
 
-// Forms of whole numbers. A 32-bit form takes either reading of its top bit: colors come signed as well as unsigned.
+// Types of integers. 32-bit types accept either interpretation of the top bit, because colors may be signed or
+// unsigned.
 bool GiveWhole(int vt, void* out, int64_t value) {
     switch (vt) {
     case VT_I4:
@@ -278,7 +279,7 @@ bool GiveText(int vt, void* out, const char* text) {
     return true;
 }
 
-// Sets the value through one of the accesses, as a change that the undo log sees.
+// Sets the value through an accessor, recorded for undo.
 template <class Access, class Value>
 int Put(Graphic& graphic, const PropertyInfo& info, const Access& access, const Value& value) {
     graphic.ChangingLook();

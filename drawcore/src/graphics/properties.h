@@ -1,8 +1,8 @@
-// The property tables of graphics: named values with limits, in the forms of the OLE Automation variant types.
+// The property tables of graphics: named values with limits, as OLE Automation variant types.
 //
-// PropGet and PropSet give 1 on success. Whole numbers are given and taken in any whole-number form that holds the
-// value; lengths, scales and angles as float or double; texts as text; anything else is refused with nothing changed.
-// PropGet of a text gives back what the variable held before. PropSet refuses what is out of the property's limits.
+// PropGet and PropSet return 1 on success. Integers are converted to any integer type that can represent the value;
+// lengths, scales and angles are float or double; texts are text. Other types are rejected without a change. PropGet of
+// a text frees the previous text in the variable. PropSet rejects values out of range.
 #pragma once
 
 #include <cstdint>
@@ -19,15 +19,15 @@ class Graphic;
 extern const PropertyTable kShapeProperties;
 // Texts: "PenColor", "TextFont", "TextSize", "TextStyle", "TextFormat", "Layer", "Info", "StyleTree".
 extern const PropertyTable kTextProperties;
-// Insertions: "PenColor" and "PenStyle" for what their blocks leave to them, "Layer", "Info", "StyleTree".
+// Insertions: "PenColor" and "PenStyle", which their blocks can inherit, "Layer", "Info", "StyleTree".
 extern const PropertyTable kInsertProperties;
 
-// Nothing: a property of texts, of a graphic that is not a text.
+// std::monostate for a property of texts in a graphic that is not a text.
 using StoredProperty = std::variant<std::monostate, int64_t, double, std::string>;
-// Returns what the graphic stores under a property, given by its place in kPropertyList. PropGet resolves markers and
-// the default face; this function does not.
+// Returns the stored value of a property by its index in kPropertyList. Unlike PropGet, it does not resolve markers and
+// the default face.
 StoredProperty GetStored(const Graphic& graphic, size_t property);
-// Sets it, unless the graphic rejects it. Not for undo.
+// Sets the stored value unless the graphic rejects it. Not recorded for undo.
 void SetStored(Graphic& graphic, size_t property, const StoredProperty& value);
 
 } // namespace drawcore

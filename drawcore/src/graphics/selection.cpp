@@ -1,4 +1,4 @@
-// Adding to a set and removing from it.
+// Adds and removes members of a selection.
 #include "drawcore/src/graphics/selection.h"
 
 #include "drawcore/src/graphics/properties.h"

@@ -1,4 +1,4 @@
-// A set of graphics that belong to others. Answers GraphicFirst and GraphicNext like a group.
+// A set of graphics with other owners, iterated like a group by GraphicFirst and GraphicNext.
 #pragma once
 
 #include <unordered_map>
@@ -22,8 +22,8 @@ public:
     Graphic* MemberAt(size_t index) const override { return members_[index]; }
 
     bool Contains(Graphic* graphic) const { return places_.count(graphic) != 0; }
-    bool Include(Graphic* graphic); // at the end; false if it is in already
-    bool Exclude(Graphic* graphic); // the order of the others stays
+    bool Include(Graphic* graphic); // at the end; returns false if it is already a member
+    bool Exclude(Graphic* graphic); // keeps the order of the others
     void Clear();
 
 protected:

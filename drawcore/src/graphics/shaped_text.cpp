@@ -1,4 +1,4 @@
-// Shaping a row by the script engine of the system.
+// Shapes a row of text with the system's script engine.
 #include "drawcore/src/graphics/shaped_text.h"
 
 #include <algorithm>
@@ -8,11 +8,11 @@ namespace drawcore {
 
 namespace {
 
-// The pieces of a row in the order of its letters; one more than there are, which marks the end. Empty on failure.
+// Returns the runs of a row in text order and an additional end marker, or nothing on failure.
 std::vector<SCRIPT_ITEM> Itemize(std::wstring_view row) {
     const int length = static_cast<int>(row.size());
     const SCRIPT_CONTROL control{};
-    const SCRIPT_STATE state{}; // the row as a whole runs from left to right
+    const SCRIPT_STATE state{}; // the base direction is left to right
     std::vector<SCRIPT_ITEM> items(row.size() + 1);
     int count = 0;
     if (FAILED(::ScriptItemize(row.data(), length, length, &control, &state, items.data(), &count))) return {};
@@ -27,9 +27,9 @@ bool LacksGlyphs(HDC dc, SCRIPT_CACHE& cache, const std::vector<WORD>& glyphs) {
     return std::find(glyphs.begin(), glyphs.end(), properties.wgDefault) != glyphs.end();
 }
 
-// False if the font can't show the text.
+// Returns false if the font cannot display the text.
 bool Shape(HDC dc, SCRIPT_CACHE& cache, std::wstring_view text, ShapedRun& run) {
-    const size_t most = text.size() * 3 / 2 + 16; // as the engine advises
+    const size_t most = text.size() * 3 / 2 + 16; // recommended by the system's documentation
     run.glyphs.resize(most);
     std::vector<WORD> clusters(text.size());
     std::vector<SCRIPT_VISATTR> attributes(most);

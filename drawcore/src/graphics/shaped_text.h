@@ -1,5 +1,5 @@
-// Rows of text whose letters do not simply follow each other: written from right to left, joined or stacked. The
-// system's shaping engine chooses their glyphs and puts them in the order in which they are seen.
+// Rows of text with complex scripts: written from right to left, joined or stacked. The system's shaping engine
+// determines their glyphs and visual order.
 #pragma once
 
 #include <string_view>
@@ -11,21 +11,21 @@
 
 namespace drawcore {
 
-// A piece of a row in one direction and script. Lengths are units of the font.
+// A run of text with one direction and script. Lengths are in font units.
 struct ShapedRun {
     SCRIPT_ANALYSIS analysis;
     std::vector<WORD> glyphs;
     std::vector<int> advances;
     std::vector<GOFFSET> offsets;
-    int left = 0; // from the row's left end
+    int left = 0; // from the left end of the row
     int width = 0;
 };
 
-// From left to right as seen. Empty for a row that needs no shaping, and for one whose letters the font of the device
-// context lacks. cache belongs to that font.
+// Returns the runs in visual order from left to right. Empty if the row needs no shaping, or if the font in the device
+// context lacks its letters. cache belongs to that font.
 std::vector<ShapedRun> ShapeRow(HDC dc, SCRIPT_CACHE& cache, std::wstring_view row);
 
-// left, baseline: logical coordinates of the device context, whose font is the one that the row was shaped for.
+// left, baseline: logical coordinates of the device context, with the same font.
 void DrawShapedRow(HDC dc, SCRIPT_CACHE& cache, const std::vector<ShapedRun>& row, int left, int baseline);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// Tracing and transforming splines.
+// Traces and transforms splines.
 #include "drawcore/src/graphics/spline_graphic.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ std::unique_ptr<Graphic> SplineGraphic::CloneState() const {
 }
 
 void SplineGraphic::Restore(const Graphic& saved) {
-    RestoreAttributes(saved); // nothing changes the curve of a spline
+    RestoreAttributes(saved); // the curve of a spline never changes
 }
 
 size_t SplineGraphic::StateSize() const {

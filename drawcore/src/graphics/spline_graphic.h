@@ -8,7 +8,7 @@ namespace drawcore {
 
 class SplineGraphic : public Graphic {
 public:
-    explicit SplineGraphic(SplineCurve definition); // an unsound one draws its control polygon
+    explicit SplineGraphic(SplineCurve definition); // an invalid one draws its control polygon
     SplineGraphic(const SplineGraphic&) = default;
 
     Kind GetKind() const override { return Kind::Curve; }

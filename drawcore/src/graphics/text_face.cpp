@@ -1,4 +1,4 @@
-// Measuring a face on a device context in memory.
+// Measures a face in a memory device context.
 #include "drawcore/src/graphics/text_face.h"
 
 #include <map>
@@ -10,7 +10,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kEm = 1000; // height of the fonts in logical units; drawn through a transformation
+constexpr int kEm = 1000; // height of fonts in logical units; drawn through a transformation
 constexpr const char* kDefaultFace = "Arial";
 
 HFONT MakeFont(const std::string& name, uint16_t style) {
@@ -26,7 +26,7 @@ HFONT MakeFont(const std::string& name, uint16_t style) {
     return ::CreateFontIndirectA(&font);
 }
 
-// The device on which all texts are measured.
+// Returns the device context for all text measurements.
 HDC MeasuringDevice() {
     static const OwnedDC device(::CreateCompatibleDC(nullptr));
     return device.get();

@@ -1,4 +1,4 @@
-// Laying out the rows of a text, and tracing them.
+// Lays out the rows of a text, and traces them.
 #include "drawcore/src/graphics/text_graphic.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kRowStep = 5.0 / 3; // from baseline to baseline, in heights of a capital letter
+constexpr double kRowStep = 5.0 / 3; // distance of baselines relative to the height of a capital letter
 constexpr double kFrameGap = 0.3;    // around a framed text, likewise
 constexpr uint16_t kFaceBits = kTextItalic | kTextBold | kTextStrikethrough | kTextUnderline;
 
@@ -27,7 +27,7 @@ std::vector<std::wstring> SplitLines(const std::wstring& text) {
     return lines;
 }
 
-// Breaks a line at blanks so that no row is wider than limit, as far as its words allow.
+// Wraps a line at blanks so that rows are at most as wide as the limit if words permit.
 void Wrap(const std::wstring& line, double limit, const TextFace& face, std::vector<std::wstring>& rows) {
     size_t begin = 0, fits = std::wstring::npos;
     for (size_t blank = line.find(L' '); blank != std::wstring::npos; blank = line.find(L' ', blank + 1)) {
@@ -99,7 +99,7 @@ bool TextGraphic::SetLook(const Look& look) {
     return true;
 }
 
-// Something may have changed since the rows were laid out.
+// Lays out the rows again, because something may have changed.
 void TextGraphic::AddShapeExtents(Extents& extents) const {
     rows_.clear();
     Graphic::AddShapeExtents(extents);
@@ -150,7 +150,7 @@ void TextGraphic::PlaceRows(const TextFace& face) const {
     }
 }
 
-// In the units of the rows.
+// In the unit of the rows.
 double TextGraphic::BoxWidth() const {
     if (state.wrapWidth > 0) return state.wrapWidth / (state.height * state.widthFactor);
     double widest = 0;
@@ -176,7 +176,7 @@ void TextGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     }
 }
 
-// A frame around all rows.
+// Traces a frame around all rows.
 void TextGraphic::TraceFrame(const Trace& trace, const PenUse& use) const {
     double left = 0, right = 0;
     for (const Row& row : rows_) {

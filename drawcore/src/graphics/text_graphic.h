@@ -9,7 +9,7 @@
 
 namespace drawcore {
 
-// Which height of the text lies on the position.
+// The height of the text that is at the position.
 enum class TextAnchor : uint8_t { Baseline, Bottom, Middle, Top };
 
 struct TextState {
@@ -17,18 +17,19 @@ struct TextState {
     std::string font;  // face name; empty is the default face
     Vec3 position;
     Vec3 along{1, 0, 0}; // direction of the baseline, length 1
-    Vec3 up{0, 1, 0}; // direction of the letters' height, length 1; not at a right angle: oblique, other side: mirrored
-    double height = 1;      // of a capital letter, drawing units
+    Vec3 up{0, 1, 0};    // direction of the letters' height, normalized; an angle other than 90 degrees makes the text
+                         // oblique, the other side mirrors it
+    double height = 1;   // height of a capital letter in drawing units
     double widthFactor = 1; // of the letters
-    double fitWidth = 0;    // above 0: stretched to that length (DXF's aligned and fit)
-    double wrapWidth = 0;   // above 0: lines are broken at blanks to stay within that length
-    double lineSpacing = 1; // in multiples of the usual 5/3 of the height
+    double fitWidth = 0;    // if positive, the text is stretched to that length (DXF's aligned and fit)
+    double wrapWidth = 0;   // if positive, lines are wrapped at blanks within that length
+    double lineSpacing = 1; // relative to the usual 5/3 of the height
     uint16_t style = 0;
     uint16_t format = kTextLeft;
-    // Which edge of the box that holds the rows hangs at the position, in the values of format; none: that which format
-    // says. The box is as wide as wrapWidth, or without one as the longest row.
+    // The edge of the text's box that is at the position, as a value of format; if missing, that of format. The box is
+    // as wide as wrapWidth or, if it is 0, as the longest row.
     std::optional<uint16_t> boxFormat;
-    TextAnchor anchor = TextAnchor::Baseline; // of the first line, or of the whole block but for Baseline
+    TextAnchor anchor = TextAnchor::Baseline; // of the first line; of the whole text unless it is Baseline
 
     bool operator==(const TextState& other) const;
 };
@@ -56,7 +57,7 @@ protected:
     void AddShapeExtents(Extents& extents) const override;
 
 private:
-    // A row laid out: origin and width in heights of a capital letter, along the baseline and upwards.
+    // A row of the layout: origin and width relative to the height of a capital letter, along the baseline and upward.
     struct Row {
         std::wstring text;
         std::vector<int> steps;      // empty if it is shaped
@@ -71,8 +72,8 @@ private:
     void TraceFrame(const Trace& trace, const PenUse& use) const;
     Matrix RowMatrix(const Row& row) const;
 
-    mutable std::vector<Row> rows_; // made when the extents are; none: to be made
-    mutable double stretch_ = 1;    // of the letters' widths
+    mutable std::vector<Row> rows_; // laid out when extents are computed; empty if not laid out
+    mutable double stretch_ = 1;    // horizontal scale of the letters
 };
 
 } // namespace drawcore

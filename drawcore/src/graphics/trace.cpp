@@ -1,4 +1,4 @@
-// Resolving layers, colors and line styles on the way down through groups and insertions.
+// Resolves layers, colors and line styles while tracing groups and insertions.
 #include "drawcore/src/graphics/trace.h"
 
 #include <algorithm>
@@ -49,7 +49,7 @@ double ResolveWidth(const Pen& pen, Id layer, const Trace& trace, double unit) {
     return of ? of->lineWidth * trace.sink.PaperInch() : 0;
 }
 
-// An insertion on a layer that is only off still shows what of its block lies on other layers.
+// An insertion on a layer that is off, but not frozen, still shows the parts of its block on other layers.
 bool IsShown(const Graphic& graphic, const Trace& trace) {
     const Layer* layer = LayerOf(EffectiveLayer(graphic, trace), trace);
     return !layer || (graphic.GetKind() == Kind::Insert ? !layer->frozen : layer->IsVisible());
@@ -90,7 +90,8 @@ PenUse ResolvePen(const Graphic& graphic, const Trace& trace) {
     use.dashScale = pen.scale * trace.lineScale * unit;
     use.fitDashes = pen.alignment;
     use.strokes = pen.style != kLineStyleNone;
-    use.roundEnds = pen.scaleSystem != kScaleWorld && !use.style; // a plotter's pen; widths of the drawing are cut off
+    use.roundEnds = pen.scaleSystem != kScaleWorld && !use.style; // pens on paper have round ends; widths in drawing
+                                                                  // units have flat ends
     return use;
 }
 

@@ -1,5 +1,5 @@
-// Tracing: a graphic turned into what a device, a hit test or a box is made of - flat lines, areas and rows of text -
-// with blocks opened, curves flattened, colors, styles and widths worked out.
+// Tracing: converts a graphic to flattened lines, areas and rows of text for a device, a hit test or extents, with
+// blocks expanded and colors, styles and widths resolved.
 #pragma once
 
 #include <string_view>
@@ -13,59 +13,59 @@
 
 namespace drawcore {
 
-// A pen with all that it inherits worked out; lengths are the sink's.
+// A pen with all inherited values resolved; lengths are in units of the sink.
 struct PenUse {
-    Color color = 0;                  // plain
+    Color color = 0;                  // without markers
     double width = 0;                 // 0 is the thinnest line
-    const LineStyle* style = nullptr; // null is solid
-    double dashScale = 1;             // sink units per unit of the pattern
+    const LineStyle* style = nullptr; // null for solid
+    double dashScale = 1;             // sink units per pattern unit
     bool fitDashes = true;            // to each segment
-    bool strokes = true;              // false: no line at all
-    bool roundEnds = false;           // else cut off flat
+    bool strokes = true;              // false for no line
+    bool roundEnds = false;           // otherwise flat ends
 };
 
-// An area's filling.
+// The brush of an area.
 struct BrushUse {
     Color color = 0;
-    const BrushStyle* style = nullptr; // null is solid
-    Matrix pattern;                    // from the pattern's coordinates to the sink's
+    const BrushStyle* style = nullptr; // null for solid
+    Matrix pattern;                    // from pattern to sink coordinates
     bool cross = false;
     bool winding = false;
 };
 
-// One row of text. The matrix takes its box to the sink: x from 0 to width along the baseline, y from 0 to 1 from the
+// A row of text. The matrix maps its box to the sink: x from 0 to width along the baseline, y from 0 to 1 from the
 // baseline to the height of a capital letter.
 struct TextRow {
     std::wstring_view text;
-    const int* steps = nullptr; // from letter to letter, in units of the face's font; as many as letters
-    const std::vector<ShapedRun>* runs = nullptr; // if not empty, the row is drawn by them, and steps does not count
+    const int* steps = nullptr;                   // advance widths in font units, one per letter
+    const std::vector<ShapedRun>* runs = nullptr; // if not empty, draw these instead of steps
     const TextFace* face = nullptr;
     Matrix matrix;
     double width = 0;
     Color color = 0;
 };
 
-// Takes what is traced, in the order of drawing.
+// Receives the traced geometry in drawing order.
 class GeometrySink {
 public:
     virtual ~GeometrySink();
-    // Whether anything in that box (sink units), or so far from it, matters.
+    // Returns whether geometry in that box (sink units), or within that distance of it, is needed.
     virtual bool Wants(const Extents& box, double reach) const = 0;
-    // A graphic no larger than this in both directions comes as a point.
+    // Graphics up to this size in both directions are traced as points.
     virtual double DotSize() const { return 0; }
-    // How far a flattened curve may be from the true one.
+    // Returns the maximum distance between a flattened curve and the true one.
     virtual double Tolerance() const = 0;
-    // Length of an inch of paper; 0 where widths do not matter.
+    // Returns the length of an inch on paper, or 0 if widths are ignored.
     virtual double PaperInch() const = 0;
     virtual void Stroke(const Path& path, const PenUse& pen) = 0;
     virtual void Fill(const Path& outlines, const BrushUse& brush) = 0;
     virtual void Text(const TextRow& row) = 0;
 };
 
-// How many graphics of blocks one tracing goes through: insertions in insertions can multiply without end.
+// Maximum number of graphics in blocks per tracing, since nested insertions multiply.
 constexpr long kTraceBudget = 1'000'000;
 
-// What a tracing needs once: the tables of the drawing (null where there are none) and working space.
+// Shared by a tracing: the tables of the drawing (null if missing) and working memory.
 struct TraceTools {
     explicit TraceTools(const DrawingContents* drawing);
 
@@ -77,43 +77,43 @@ struct TraceTools {
     Path path;
 };
 
-// How far a tracing has come.
+// The state of a tracing.
 struct Trace {
     Trace(GeometrySink& traceSink, TraceTools& traceTools, const Matrix& start = {})
         : sink(traceSink), tools(traceTools), matrix(start) {}
 
     GeometrySink& sink;
     TraceTools& tools;
-    Matrix matrix;        // from the graphic's coordinates to the sink's
-    double lineScale = 1; // of all dash patterns
-    double penUnit = 0;   // above 0: pen lengths in drawing units have this length, whatever the matrix
+    Matrix matrix;        // from the graphic's to the sink's coordinates
+    double lineScale = 1; // factor of all dash patterns
+    double penUnit = 0;   // if positive, the length of a drawing unit for pens, regardless of the matrix
 
-    // What is inherited by what lies in a block.
+    // Inherited by graphics in a block.
     const Trace* outer = nullptr; // the tracing of the insertion
     const Block* block = nullptr;
-    int depth = 0; // of blocks in blocks
+    int depth = 0; // nesting depth of blocks
     Id layer = kLayerZero;
     Color color = kWhite;
     const LineStyle* style = nullptr;
-    double penWidth = 0; // sink units
+    double penWidth = 0; // in sink units
 };
 
-// Traces the graphic and its members, as far as their layers are visible.
+// Traces the graphic and its members on visible layers.
 void TraceGraphic(const Graphic& graphic, const Trace& trace);
-// The graphic without its members; false if these do not matter either.
+// Traces the graphic without its members. Returns false if the members are not needed either.
 bool TraceAlone(const Graphic& graphic, const Trace& trace);
-// For the members of a graphic that is traced so.
+// Returns the state for the members of the graphic.
 Trace TraceOfMembers(const Graphic& graphic, const Trace& trace);
 
-// The box of what is seen of the graphic and its members: extents without what lies on hidden layers.
+// Returns the extents of the visible graphic and members, ignoring hidden layers.
 Extents SeenExtents(const Graphic& graphic, const DrawingContents* drawing);
 
-// A graphic's brush over the outlines in the tools' path; nothing without a brush.
+// Fills the outlines in the tools' path with the graphic's brush, if it has one.
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use);
 
-// The pen of a graphic with what it inherits.
+// Returns the pen of a graphic with inherited values.
 PenUse ResolvePen(const Graphic& graphic, const Trace& trace);
-// The layer that counts: the insertion's for a part of a block on the layer "0".
+// Returns the effective layer: the insertion's for a graphic in a block on layer "0".
 Id EffectiveLayer(const Graphic& graphic, const Trace& trace);
 
 } // namespace drawcore

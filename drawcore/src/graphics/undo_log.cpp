@@ -1,4 +1,4 @@
-// Noting what a step changes, and putting it back.
+// Records the changes of a step, and restores previous states.
 #include "drawcore/src/graphics/undo_log.h"
 
 #include <algorithm>
@@ -24,11 +24,12 @@ void UndoLog::Saved::Restore() const {
         graphic->ChangedLook();
 }
 
-// Drops what has not changed, and what is no longer needed once nothing is added.
+// Discards unchanged entries and working memory.
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
-    constexpr size_t kNode = sizeof(Look) + 4 * sizeof(void*); // of the set, with its share of buckets and heap
+    constexpr size_t kNode = sizeof(Look) + 4 * sizeof(void*); // of the set, including its share of buckets and heap
+                                                               // overhead
     size = saved.size() * sizeof(Saved) + looks.size() * kNode;
     for (const Saved& entry : saved)
         if (entry.state) size += entry.state->StateSize();
@@ -58,7 +59,7 @@ int UndoLog::Step::Restore() const {
     return restored;
 }
 
-// Graphics have few looks, compared with how many there are: one that has been seen just now costs a comparison.
+// Many graphics share an appearance, so one just seen is found with a single comparison.
 const Look* UndoLog::Step::Take(const Graphic& graphic) {
     const size_t key = (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
     const Look*& look = recent[key % recent.size()];
@@ -72,7 +73,7 @@ void UndoLog::Step::Add(Graphic& graphic) {
     sorted = false;
 }
 
-// Sorts when it is first asked: graphics seldom go.
+// Sorts on demand, because graphics are rarely removed.
 UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
     const std::less<const Graphic*> before;
     if (!std::exchange(sorted, true))
@@ -123,7 +124,7 @@ int UndoLog::Cancel() {
     return restored;
 }
 
-// What was undone last goes last: it is the next to come back.
+// The step undone last is discarded last, because it is the next to redo.
 void UndoLog::MakeRoom() {
     size_t whole = 0;
     for (const std::deque<Step>* steps : {&steps_, &undone_})

@@ -1,7 +1,6 @@
-// The undo log of a drawing: what its graphics were before each step, and after each step that was undone. A step keeps
-// what it changes: the look of a graphic whose properties change, shared with all that looked the same, and the whole
-// state of one whose shape is about to change. Graphics that only show something (previews, samples) are not part of
-// the drawing and not saved.
+// The undo log of a drawing: the state of its graphics before each step, and after each undone step. A step stores the
+// appearance of a graphic whose properties change, shared between equal graphics, and the complete state of a graphic
+// whose shape is about to change. Previews and samples are not part of the drawing and not recorded.
 #pragma once
 
 #include <array>
@@ -25,27 +24,27 @@ public:
     ~UndoLog();
 
     bool IsOpen() const { return open_; }
-    bool Begin(); // false if a step is open already
-    int End();    // number of graphics that are different now; a step without any is dropped
-    int Cancel(); // closes the step and reverts it, as if it had never been; number of graphics changed back
-    int Undo();   // reverts the last step; number of graphics changed back, 0 without a step
-    int Redo();   // makes the step again that was undone last; likewise
+    bool Begin(); // returns false if a step is already open
+    int End();    // returns the number of graphics that differ; a step without any is discarded
+    int Cancel(); // closes the step and reverts it completely; returns the number of graphics restored
+    int Undo();   // reverts the last step; returns the number of graphics restored, 0 without a step
+    int Redo();   // redoes the step undone last; returns likewise
     size_t Steps() const { return steps_.size() - (open_ ? 1 : 0); }
     size_t UndoneSteps() const { return undone_.size(); }
-    uint32_t Mark() const; // of the state; no two states of the drawing's life have the same
+    uint32_t Mark() const; // identifies the state; each state in the lifetime of the drawing has another
 
     void SetRoom(size_t bytes) { room_ = bytes; }
     void SetListener(const ChangeListener& listener) { listener_ = listener; }
-    int Dropped() const { return dropped_; } // steps that the last End has dropped for lack of room
+    int Dropped() const { return dropped_; } // number of steps discarded by the last End for lack of memory
 
-    void SaveLook(Graphic& graphic);  // other properties are about to be set
-    void SaveState(Graphic& graphic); // anything is about to change
-    void Remove(Graphic& graphic);    // about to be freed
+    void SaveLook(Graphic& graphic);  // called before properties are set
+    void SaveState(Graphic& graphic); // called before any other change
+    void Remove(Graphic& graphic);    // called before it is freed
 
 private:
     struct Saved {
         Graphic* graphic;
-        const Look* look = nullptr; // one of these; neither once the graphic itself is gone
+        const Look* look = nullptr; // at most one of these is set; neither after the graphic was removed
         std::unique_ptr<Graphic> state;
 
         bool IsGone() const { return !look && !state; }
@@ -54,33 +53,33 @@ private:
     };
     struct Step {
         std::deque<Saved> saved;
-        bool sorted = false; // by address of the graphics; never as long as the step is open
+        bool sorted = false; // by address of the graphics; never while the step is open
         std::unordered_set<Look, LookHash> looks;
-        std::array<const Look*, 64> recent{}; // of them, where a graphic that looks so is expected
-        size_t size = 0;                      // bytes
-        uint32_t mark = 0;                    // of the state that it leads to
+        std::array<const Look*, 64> recent{}; // of these, where a graphic with that appearance is expected
+        size_t size = 0;                      // in bytes
+        uint32_t mark = 0;                    // of the resulting state
 
         Saved* Find(const Graphic& graphic);
         void Add(Graphic& graphic);
         const Look* Take(const Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
-        Step Present() const; // what the same graphics are now
-        int Restore() const;  // number of graphics
+        Step Present() const; // the current state of the same graphics
+        int Restore() const;  // returns the number of graphics
     };
 
     Saved* InOpenStep(const Graphic& graphic);
-    void Enter(Graphic& graphic); // into the open step
+    void Enter(Graphic& graphic); // adds it to the open step
     void TellListener() const;
     int Turn(std::deque<Step>& from, std::deque<Step>& to);
     void MakeRoom();
 
     std::deque<Step> steps_;
-    std::deque<Step> undone_; // the last one is the next to be made again
+    std::deque<Step> undone_; // the last one is redone next
     bool open_ = false;
     size_t room_ = size_t{256} << 20;
     int dropped_ = 0;
-    uint32_t firstMark_ = 0; // of the state before the first step that is kept
+    uint32_t firstMark_ = 0; // of the state before the first remaining step
     uint32_t lastMark_ = 0;
     ChangeListener listener_{};
 };

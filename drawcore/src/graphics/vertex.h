@@ -1,4 +1,4 @@
-// Vertices: the record that host and library share, which is all that most of them need.
+// Vertices: the record shared by host and library, which is sufficient for most of them.
 #pragma once
 
 #include <cstring>
@@ -11,10 +11,10 @@ namespace drawcore {
 
 class Graphic;
 
-// Of the segment from a vertex to the next. Most are straight and as wide as the pen.
+// The segment from a vertex to the next. Most segments are straight and as wide as the pen.
 struct Segment {
-    double bulge = 0;                    // tangent of a quarter of the arc's angle, positive to the left
-    double startWidth = 0, endWidth = 0; // drawing units
+    double bulge = 0;                    // tangent of a quarter of the arc's angle; positive is counterclockwise
+    double startWidth = 0, endWidth = 0; // in drawing units
 
     bool IsPlain() const { return bulge == 0 && startWidth == 0 && endWidth == 0; }
 };
@@ -43,15 +43,15 @@ public:
     Segment Next() const { return Kept().segment ? *Kept().segment : Segment{}; }
     void SetNext(const Segment& segment);
 
-    // The graphic that the vertex belongs to, from the moment that it is handed to someone outside: writing to the
-    // vertex then changes the graphic. A copy of the vertex belongs to none.
+    // Returns the graphic that the vertex belongs to, set when the vertex is passed to a caller: writing to it then
+    // changes the graphic. Copies belong to none.
     Graphic* Owner() const { return Kept().owner; }
     void SetOwner(Graphic* owner) { Keep({Kept().segment, owner}); }
 
 private:
-    // In the bytes of the record that are the host's own.
+    // Stored in the record's bytes that belong to the host.
     struct HostPart {
-        const Segment* segment = nullptr; // owned; null: plain
+        const Segment* segment = nullptr; // owned; null for a plain segment
         Graphic* owner = nullptr;
     };
     static_assert(sizeof(HostPart) <= sizeof VertexStruct::host6);

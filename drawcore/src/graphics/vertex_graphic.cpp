@@ -1,4 +1,4 @@
-// Tracing and transforming lists of vertices.
+// Traces and transforms lists of vertices.
 #include "drawcore/src/graphics/vertex_graphic.h"
 
 #include <algorithm>
@@ -60,7 +60,7 @@ bool VertexGraphic::EqualState(const Graphic& saved) const {
 
 namespace {
 
-// Adds the segment from a to b, with a's bulge.
+// Adds the segment from a to b with the bulge of a.
 void AddSegment(const Vertex& a, const Vertex& b, const Trace& trace, Path& path) {
     if (const std::optional<EllipseArc> arc = ArcOfBulge(a.Position(), b.Position(), a.Next().bulge))
         FlattenArc(*arc, trace.matrix, trace.sink.Tolerance(), path);
@@ -72,12 +72,12 @@ bool IsDrawn(const Vertex& vertex) {
     return vertex.wFlags & kVertexDrawn;
 }
 
-// The strokes of a list.
+// Builds the strokes of a list.
 void BuildStrokes(const VertexGraphic& graphic, const Trace& trace, Path& path) {
     const std::vector<Vertex>& list = graphic.vertices;
     const size_t count = list.size();
     path.Clear();
-    bool moved = false; // to the vertex before
+    bool moved = false; // to the previous vertex
     for (size_t i = 1; i < count; ++i) {
         if (!IsDrawn(list[i])) {
             moved = false;
@@ -92,13 +92,13 @@ void BuildStrokes(const VertexGraphic& graphic, const Trace& trace, Path& path) 
     AddSegment(list.back(), list.front(), trace, path);
 }
 
-// Whether the list goes to this vertex and back again without drawing: such a detour encloses nothing and is left out.
+// Returns whether the list goes to this vertex and back without drawing: such a detour encloses nothing and is skipped.
 bool IsExcursion(const std::vector<Vertex>& list, size_t i) {
     return i > 0 && i + 1 < list.size() && !IsDrawn(list[i]) && !IsDrawn(list[i + 1]) &&
            list[i - 1].Position() == list[i + 1].Position();
 }
 
-// The one outline that goes through all vertices.
+// Builds a single outline through all vertices.
 void BuildOutline(const VertexGraphic& graphic, const Trace& trace, Path& path) {
     const std::vector<Vertex>& list = graphic.vertices;
     path.Clear();
@@ -112,7 +112,7 @@ void BuildOutline(const VertexGraphic& graphic, const Trace& trace, Path& path) 
     if (graphic.closed) AddSegment(list.back(), list.front(), trace, path);
 }
 
-// A segment with widths of its own as an area: pairs of points left and right along its flattened middle.
+// A segment with its own widths as an area: pairs of points left and right of its flattened center line.
 class WideSegment {
 public:
     WideSegment(const Vertex& a, const Vertex& b, const Trace& trace) : scale_(trace.matrix.PlanScale()) {
@@ -161,7 +161,7 @@ bool HasWidths(const std::vector<Vertex>& vertices) {
     return std::any_of(vertices.begin(), vertices.end(), [](const Vertex& v) { return HasWidth(v.Next()); });
 }
 
-// The segments with widths as areas in the pen's color.
+// Traces segments with widths as areas in the pen's color.
 void TraceWidths(const VertexGraphic& graphic, const Trace& trace, const PenUse& use) {
     BrushUse solid;
     solid.color = use.color;

@@ -1,8 +1,8 @@
-// Vertex lists: lines, polylines with bulges and widths, filled outlines, points, and groups of others.
+// Vertex lists: lines, polylines with bulges and widths, filled outlines, points, and groups of other graphics.
 //
-// A vertex whose drawn bit is clear begins a new stroke. For the fill each stroke is an outline of its own, unless
-// dwOneOutline of the record is set: then the whole list is one outline, of which the undrawn edges show no line.
-// A list of one vertex is a point. A list without vertices that has members is a group.
+// A vertex without the flag kVertexDrawn begins a new stroke. For filling, each stroke is a separate outline unless
+// dwOneOutline of the record is set: then the whole list is one outline, whose undrawn segments have no line. A list of
+// one vertex is a point. A list without vertices but with members is a group.
 #pragma once
 
 #include "drawcore/src/graphics/graphic.h"

@@ -1,4 +1,4 @@
-// Walking a path by the lengths of a pattern.
+// Divides a path into the dashes of a pattern.
 #include "drawcore/src/paint/dashes.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kFarthest = 1e12; // along a line; beyond, the digits of a double do not tell dash from gap
+constexpr double kFarthest = 1e12; // length along a line; beyond, a double is too coarse for dashes
 
 double Period(const DashPattern& pattern) {
     double sum = 0;
@@ -17,7 +17,7 @@ double Period(const DashPattern& pattern) {
     return sum * pattern.scale;
 }
 
-// Cuts one polyline, or the part of it between two corners.
+// Divides one polyline, or its part between two corners.
 class Cutter {
 public:
     Cutter(const Path& path, const DashPattern& pattern, const Box& box, Path& dashes)
@@ -45,22 +45,22 @@ private:
         return std::hypot(b.x - a.x, b.y - a.y);
     }
 
-    // Sets where the pattern starts, and the two solid ends of a fitted run.
+    // Sets the start of the pattern, and the solid ends of a fitted run.
     void Fit(double length) {
         headEnd_ = 0;
         tailStart_ = length;
         shift_ = 0;
-        if (!(length < kFarthest)) headEnd_ = length; // drawn through
+        if (!(length < kFarthest)) headEnd_ = length; // solid
         const double dash = pattern_.items.front() * pattern_.scale;
         if (headEnd_ > 0 || !pattern_.fit || dash <= 0) return;
         const double whole = std::floor(length / period_);
         const double end = (length - whole * period_ + dash) / 2;
         headEnd_ = whole < 1 ? length : end;
         tailStart_ = whole < 1 ? length : length - end;
-        shift_ = dash - end; // at the head's end the first dash of the pattern has just been drawn
+        shift_ = dash - end; // at the end of the first dash, one dash of the pattern has been drawn
     }
 
-    // The dashes of segment i, which begins at along_, between two distances from the run's begin.
+    // Adds the dashes of segment i, which begins at along_, between two distances from the start of the run.
     void CutSegment(size_t i, double step, double from, double to) {
         if (from < headEnd_) Draw(i, step, from, std::min(to, headEnd_));
         CutPattern(i, step, std::max(from, headEnd_), std::min(to, tailStart_));

@@ -1,5 +1,5 @@
-// Lines cut into the dashes of a pattern. Done here, not by the device: its patterns count in whole pixels, start anew
-// with each call and have no dots.
+// Divides lines into dashes. Device patterns are not suitable: they use whole pixels, restart with each call and have
+// no dots.
 #pragma once
 
 #include "drawcore/src/geometry/path.h"
@@ -8,17 +8,17 @@
 namespace drawcore {
 
 struct DashPattern {
-    const std::vector<double>& items; // positive a dash, negative a gap, 0 a dot
-    double scale;                     // path units per unit of the items
-    // Each segment between two corners begins and ends with a dash of at least half a length, and one too short for the
-    // pattern is drawn through. Otherwise the pattern begins with each polyline and runs on through its corners.
+    const std::vector<double>& items; // positive: dash, negative: gap, 0: dot
+    double scale;                     // path units per pattern unit
+    // Each segment between two corners begins and ends with a dash of at least half its length, and is solid if it is
+    // too short for the pattern. Otherwise the pattern begins with each polyline and continues around its corners.
     bool fit;
 };
 
-// Whether the pattern shows at all: it has a gap and is not finer than least (path units).
+// Returns whether the pattern is visible: it has a gap and its period is at least `least` (path units).
 bool ShowsDashes(const DashPattern& pattern, double least);
 
-// The dashes of the path that lie in the box; a dot is a polyline of one point.
+// Adds the dashes of the path inside the box; a dot is a polyline of one point.
 void CutDashes(const Path& path, const DashPattern& pattern, const Box& box, Path& dashes);
 
 } // namespace drawcore

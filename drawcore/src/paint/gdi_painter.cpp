@@ -12,9 +12,9 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kFinestDashes = 3; // pixels of a period; finer ones are drawn through
-constexpr double kFinestHatch = 2;  // pixels from line to line; finer ones become a tint
-constexpr double kSmallestText = 2; // pixels of a capital letter; smaller ones become a line
+constexpr double kFinestDashes = 3; // minimum period in pixels; finer patterns are drawn solid
+constexpr double kFinestHatch = 2;  // minimum distance of lines in pixels; finer hatches are drawn as a tint
+constexpr double kSmallestText = 2; // minimum height of a capital letter in pixels; smaller texts are drawn as lines
 constexpr size_t kMostWaiting = 4096;
 constexpr int kHighlightWidth = 3;
 
@@ -27,28 +27,28 @@ Box BoxOf(const RECT& rect) {
             static_cast<double>(rect.bottom)};
 }
 
-// Clips the device context to the rectangle. Where in it something has to be to show: there may be less that is let
-// through, but what lies a little outside of that can reach into it.
+// Clips the device context to the rectangle. Returns where geometry is needed: the clip region may be smaller, but
+// geometry slightly outside can extend into it.
 Box WantedOf(HDC dc, const RECT& clip) {
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     RECT through = clip;
     const DWORD type = ::GetObjectType(dc);
-    const bool records = type == OBJ_ENHMETADC || type == OBJ_METADC; // has no pixels to leave out
+    const bool records = type == OBJ_ENHMETADC || type == OBJ_METADC; // a metafile has no clipping
     if (!records) ::GetClipBox(dc, &through);
-    constexpr int kOverhang = 64; // pixels: of letters beyond the box of their row, of rounded ends
+    constexpr int kOverhang = 64; // pixels by which letters and round ends may extend beyond their box
     ::InflateRect(&through, kOverhang, kOverhang);
     ::IntersectRect(&through, &through, &clip);
     return BoxOf(through);
 }
 
-// As the eye weighs the parts: 0 black, 1 white.
+// Returns the perceived luminance: 0 for black, 1 for white.
 double LuminanceOf(Color color) {
     const auto part = [color](int shift) { return std::pow((color >> shift & 0xFF) / 255.0, 2.2); };
     return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
 }
 
-// Returns the color itself, or the first of its shades toward the ink that stands out from the background: pure blue
-// cannot be read on black, yellow and cyan cannot be read on white.
+// Returns the color, or the first of its shades toward black or white that contrasts with the background: pure blue is
+// illegible on black, yellow and cyan on white.
 Color LegibleOn(Color background, Color color, Color ink) {
     constexpr double kContrast = 3, kGlare = 0.05;
     constexpr int kShades = 16;
@@ -89,7 +89,7 @@ GdiPainter::GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings)
 
 GdiPainter::~GdiPainter() {
     Flush();
-    ::SelectObject(dc_, ::GetStockObject(BLACK_PEN)); // before the pens go
+    ::SelectObject(dc_, ::GetStockObject(BLACK_PEN)); // before the pens are deleted
 }
 
 bool GdiPainter::Wants(const Extents& box, double reach) const {
@@ -159,14 +159,14 @@ void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key, b
         return AddDot(path.points[begin], key);
     }
     const POINT last = points_.back(), first = points_[before];
-    // Where a wide line comes back to its start the device joins only what goes on.
+    // The device does not join the end of a wide line with its start.
     const bool closed = last.x == first.x && last.y == first.y;
     if (closed && key.width > 1) points_.push_back(points_[before + 1]);
     if (lastPixel) points_.push_back({last.x + 1, last.y});
     counts_.push_back(static_cast<DWORD>(points_.size() - before));
 }
 
-// A dot as wide as the pen.
+// A dot with the width of the pen.
 void GdiPainter::AddDot(const Point& p, const PenKey& key) {
     const POINT center = ToDevice(p);
     const LONG half = key.width / 2;
@@ -213,11 +213,11 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
     AddLines(pieces_, {color, 1, false}, true);
 }
 
-// The tiles start at the origin of the drawing, so that they move with it.
+// Tiles are aligned to the origin of the drawing, so that they move with it.
 void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     const BrushBitmap& bitmap = *use.style->bitmap;
     constexpr int kSide = 8;
-    WORD bits[kSide]; // a row fills whole words, its pixels in the first byte
+    WORD bits[kSide]; // a row is a word, with its pixels in the first byte
     std::copy(bitmap.rows.begin(), bitmap.rows.end(), bits);
     const OwnedBitmap tile(::CreateBitmap(kSide, kSide, 1, 1, bits));
     const OwnedBrush brush(::CreatePatternBrush(tile.get()));
@@ -228,7 +228,7 @@ void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     const auto step = [](double at) { return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0; };
     ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
     const bool own = bitmap.colors && !settings_.highlight;
-    // A set bit takes the background color of the device context, a clear one its text color.
+    // Set bits get the background color of the device context, clear bits its text color.
     ::SetBkColor(dc_, own ? bitmap.colors->ink : ink);
     ::SetTextColor(dc_, own ? bitmap.colors->paper : settings_.background);
     FillAreas(areas, brush.get(), own ? bitmap.colors->ink : ink, use.winding);
@@ -250,7 +250,7 @@ void GdiPainter::FillAreas(const Path& areas, HBRUSH brush, Color edge, bool win
         sizes.push_back(static_cast<INT>(areas.End(area) - areas.Begin(area)));
     }
     const SelectedObject selectedBrush(dc_, brush);
-    // The outline belongs to the area: a filling of the device alone would stop a pixel short of it.
+    // Includes the outline, since the device's filling ends one pixel before it.
     const SelectedObject selectedPen(dc_, PenOf({edge, 1, false}));
     ::SetPolyFillMode(dc_, winding ? WINDING : ALTERNATE);
     if (!sizes.empty()) ::PolyPolygon(dc_, points_.data(), sizes.data(), static_cast<int>(sizes.size()));

@@ -1,6 +1,6 @@
-// Paints what is traced on a device context, in device pixels. The device context is left as it was found.
+// Paints traced geometry on a device context, in device pixels, and preserves its state.
 //
-// Lines of one pen that follow each other go to the device in one call, and a pen is made once per painting.
+// Consecutive lines with the same pen are passed to the device in one call, and each pen is created once per painting.
 #pragma once
 
 #include <map>
@@ -15,19 +15,19 @@
 namespace drawcore {
 
 struct PaintSettings {
-    Color background = kWhite;      // what is of nearly that color is drawn in its opposite
-    bool isView = false;            // light colors are darkened on a light background; samples keep theirs
-    std::optional<Color> highlight; // everything in that color, thicker
-    double widestPen = 1e9;         // pixels
+    Color background = kWhite;      // nearly equal colors are drawn in black or white
+    bool isView = false;            // light colors are darkened on a light background, except in samples
+    std::optional<Color> highlight; // draw everything in that color, with thick lines
+    double widestPen = 1e9;         // in pixels
 };
 
 class GdiPainter : public GeometrySink {
 public:
-    // Nothing is drawn outside of clip (device pixels).
+    // Draws nothing outside of clip (device pixels).
     GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings);
     ~GdiPainter() override;
 
-    // The part of clip in which something has to be to show.
+    // Returns the part of clip where geometry is needed.
     const Box& Wanted() const { return wanted_; }
 
     bool Wants(const Extents& box, double reach) const override;
@@ -41,7 +41,7 @@ public:
 private:
     struct PenKey {
         Color color;
-        int width; // 1: the thinnest line
+        int width; // 1 is the thinnest line
         bool roundEnds;
         bool operator<(const PenKey& other) const;
         bool operator==(const PenKey& other) const;
@@ -49,7 +49,7 @@ private:
 
     Color Seen(Color color);
     PenKey KeyOf(const PenUse& use);
-    // lastPixel: the thinnest lines, whose last pixel the device leaves out, get it anyway.
+    // lastPixel: also draws the last pixel, which the device omits for the thinnest lines.
     void AddLines(const Path& path, const PenKey& key, bool lastPixel);
     void AddDot(const Point& p, const PenKey& key);
     void AddPolyline(const Path& path, size_t line, const PenKey& key, bool lastPixel);
@@ -63,17 +63,17 @@ private:
     SavedDC saved_;
     const PaintSettings settings_;
     const double inch_;
-    const Box clip_; // lines are cut here, whatever part of it is wanted: a cut line may pass through other pixels
+    const Box clip_; // lines are clipped here regardless of wanted_, because clipping may change the pixels of a line
     const Box wanted_;
     std::map<PenKey, OwnedPen> pens_;
-    std::unordered_map<Color, Color> shades_; // of colors that have been drawn
+    std::unordered_map<Color, Color> shades_; // cache of displayed colors
     TextOutput texts_;
 
-    // Lines that wait for the device.
+    // Lines not yet passed to the device.
     PenKey waiting_{};
     std::vector<POINT> points_;
     std::vector<DWORD> counts_;
-    Path clipped_, pieces_; // working space
+    Path clipped_, pieces_; // working memory
 };
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The lines of a pattern over a box, and their cuts with an outline.
+// Generates the lines of a pattern in a box, and clips them to an outline.
 #include "drawcore/src/paint/hatch_lines.h"
 
 #include <algorithm>
@@ -10,10 +10,10 @@ namespace drawcore {
 
 namespace {
 
-// One family of lines, in the coordinates of the areas.
+// A family of lines in the coordinates of the areas.
 struct Family {
-    Point base, along, step; // a point of line 0; direction of length 1; from a line to the next
-    double spacing;          // across the lines; negative if the next line lies to the right
+    Point base, along, step; // a point on line 0, the normalized direction, and the offset of the next line
+    double spacing;          // across the lines; negative if the next line is on the right
     double dashScale;
     const std::vector<double>* dashes;
 
@@ -49,14 +49,14 @@ std::vector<Family> Families(const BrushUse& brush) {
     return families;
 }
 
-// Where a line of a family meets an edge of the areas.
+// The intersection of a line of a family with an edge of the areas.
 struct Crossing {
     int64_t line;
     double along;
-    int direction; // of the edge across the line
+    int direction; // of the edge, across the line
 };
 
-// The lines that can be seen in the box.
+// The lines that are visible in the box.
 struct Lines {
     int64_t first, last;
 };
@@ -69,7 +69,7 @@ Lines LinesIn(const Family& family, const Box& box) {
         low = std::min(low, place);
         high = std::max(high, place);
     }
-    constexpr double kFarthest = 1e15; // beyond, the digits of a double do not tell one line from the next
+    constexpr double kFarthest = 1e15; // beyond, a double is too coarse to distinguish lines
     if (!(low > -kFarthest && high < kFarthest)) return {1, 0};
     return {static_cast<int64_t>(std::ceil(low)), static_cast<int64_t>(std::floor(high))};
 }
@@ -78,7 +78,7 @@ void AddCrossings(const Family& family, const Point& a, const Point& b, const Li
                   std::vector<Crossing>& found) {
     const double from = family.Across(a) / family.spacing, to = family.Across(b) / family.spacing;
     if (from == to) return;
-    // A line through a corner meets the edge that ends above it and not the one that begins: low < line <= high.
+    // A line through a corner intersects only the edge that ends above it: low < line <= high.
     const double low = std::min(from, to), high = std::max(from, to);
     const double first = std::max(std::floor(low) + 1, static_cast<double>(seen.first));
     const double last = std::min(std::floor(high), static_cast<double>(seen.last));
@@ -88,7 +88,7 @@ void AddCrossings(const Family& family, const Point& a, const Point& b, const Li
             {static_cast<int64_t>(line), alongA + (alongB - alongA) * (line - from) / (to - from), from < to ? 1 : -1});
 }
 
-// A piece of one line between two distances from the foot of the base.
+// Adds the part of a line between two distances from the foot of the base point.
 void AddPiece(const Family& family, int64_t line, double from, double to, const Box& box, Path& lines, Path& scratch) {
     const double out = family.spacing * static_cast<double>(line);
     const Point foot{family.base.x - family.along.y * out, family.base.y + family.along.x * out};
@@ -106,7 +106,7 @@ void AddPiece(const Family& family, int64_t line, double from, double to, const 
         lines.LineTo(at(to));
         return;
     }
-    // The pattern of this line starts where the steps have carried the base to: begin the cut on a whole period before.
+    // The pattern of this line starts at its base point: begin the part at a whole period before.
     double period = 0;
     for (const double item : *family.dashes)
         period += std::fabs(item) * family.dashScale;
@@ -117,7 +117,7 @@ void AddPiece(const Family& family, int64_t line, double from, double to, const 
     scratch.LineTo(at(to));
     Path dashes;
     CutDashes(scratch, pattern, box, dashes);
-    // What lies before the piece itself is cut off again.
+    // Removes the dashes before the part itself.
     for (size_t i = 0; i < dashes.Count(); ++i) {
         const Point &a = dashes.points[dashes.Begin(i)], &b = dashes.points[dashes.End(i) - 1];
         if (family.Along(b) < from) continue;

@@ -1,4 +1,4 @@
-// The lines of a hatch, cut to the areas that they fill.
+// Generates the lines of a hatch, clipped to the areas that they fill.
 #pragma once
 
 #include "drawcore/src/graphics/trace.h"
@@ -6,10 +6,10 @@
 
 namespace drawcore {
 
-// Whether the lines of the pattern are at least that far apart; otherwise they would only make a gray.
+// Returns whether the lines of the pattern are at least that far apart; finer ones would only appear as gray.
 bool ShowsHatch(const BrushUse& brush, double least);
 
-// The lines within the areas and the box.
+// Adds the lines inside the areas and the box.
 void HatchLines(const Path& areas, const BrushUse& brush, const Box& box, Path& lines);
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// Distances to what is traced, and what a window holds.
+// Distances to traced geometry, and the contents of a window.
 #include "drawcore/src/paint/hit_test.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr double kInch = 96; // pixels; only the widths of paper pens depend on it
+constexpr double kInch = 96; // in pixels; only affects the widths of pens on paper
 
 double DistanceToSegment(const Point& p, const Point& a, const Point& b) {
     const double dx = b.x - a.x, dy = b.y - a.y, square = dx * dx + dy * dy;
@@ -18,7 +18,7 @@ double DistanceToSegment(const Point& p, const Point& a, const Point& b) {
     return std::hypot(p.x - a.x - dx * share, p.y - a.y - dy * share);
 }
 
-// Even-odd, over all polylines of the path as closed outlines.
+// Even-odd rule over all polylines of the path as closed outlines.
 bool Encloses(const Path& areas, const Point& p) {
     bool inside = false;
     for (size_t area = 0; area < areas.Count(); ++area) {
@@ -31,7 +31,7 @@ bool Encloses(const Path& areas, const Point& p) {
     return inside;
 }
 
-// A row of text as the outline of its box.
+// Returns the box of a row of text as an outline.
 Path BoxOf(const TextRow& row) {
     Path box;
     const double bottom = -row.face->Descent();
@@ -43,7 +43,7 @@ Path BoxOf(const TextRow& row) {
     return box;
 }
 
-// Asks one graphic after the other; Begin starts the next.
+// Tests one graphic after the other; Begin starts the next.
 class HitSink : public GeometrySink {
 public:
     virtual void Begin() = 0;
@@ -139,10 +139,10 @@ private:
     bool inside_ = true, any_ = false;
 };
 
-// One tracing after the other of the members of a set.
+// Traces the members of a set one after the other.
 class Picker {
 public:
-    // place: all that can be hit lies in it.
+    // place: contains everything that can be hit.
     Picker(const Viewport& viewport, const Graphic& set, const Box& place, HitSink& sink, uint32_t filter)
         : set_(set), sink_(sink), filter_(filter), tools_(DrawingOf(viewport, set)), matrix_(viewport.ToDevice()),
           near_(set, place, matrix_, kInch) {}

@@ -1,5 +1,5 @@
-// Finding graphics by a point or a window on the device. What is not drawn is not found; what lies on a locked layer is
-// passed over.
+// Finds graphics by a point or a window on the device. Graphics that are not drawn, or are on a locked layer, are not
+// found.
 #pragma once
 
 #include <vector>
@@ -10,11 +10,11 @@
 
 namespace drawcore {
 
-// The member drawn last whose lines come within that many pixels of the point, or whose filled area or text box holds
-// it; null if there isn't one.
+// Returns the topmost member whose lines are within that many pixels of the point, or whose filled area or text box
+// contains it, or null.
 Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance, uint32_t filter);
 
-// The members that lie wholly in the box or, if crossing, that have any part in it; in the order of drawing.
+// Returns the members that are completely in the box or, if crossing, at least partly, in drawing order.
 std::vector<Graphic*> PickWithin(const Viewport& viewport, const Graphic& set, const Box& device, bool crossing,
                                  uint32_t filter);
 

@@ -1,4 +1,4 @@
-// Cutting segments and outlines, one side of the box after another.
+// Clips segments and outlines by each side of the box.
 #include "drawcore/src/paint/path_clip.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ Point Between(const Point& a, const Point& b, double share) {
     return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share};
 }
 
-// Narrows [from, to] to where start + share * change <= limit.
+// Limits [from, to] to the range where start + share * change <= limit.
 bool Narrow(double start, double change, double limit, double& from, double& to) {
     const double room = limit - start;
     if (change == 0) return room >= 0;
@@ -23,7 +23,7 @@ bool Narrow(double start, double change, double limit, double& from, double& to)
     return from <= to;
 }
 
-// One pass of polygon clipping: keeps what is on the inner side of one edge of the box.
+// Clips a polygon by one side of the box.
 template <class Distance>
 void ClipPolygon(const std::vector<Point>& in, std::vector<Point>& out, Distance distance) {
     out.clear();
@@ -65,7 +65,7 @@ void ClipLines(const Path& path, const Box& box, Path& clipped) {
     for (size_t line = 0; line < path.Count(); ++line) {
         const size_t begin = path.Begin(line), end = path.End(line);
         if (end - begin == 1 && box.Holds(path.points[begin])) clipped.MoveTo(path.points[begin]);
-        bool joined = false; // the last piece ended in the point where the next begins
+        bool joined = false; // the last part ends where the next begins
         for (size_t i = begin; i + 1 < end; ++i) {
             const Point &a = path.points[i], &b = path.points[i + 1];
             double from, to;

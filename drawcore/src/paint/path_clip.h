@@ -1,5 +1,5 @@
-// Cutting paths to a box, so that numbers stay within what the device takes. Lines go to pieces, areas keep their
-// inside.
+// Clips paths to a box, so that coordinates stay within the range of the device. Lines are divided, areas keep their
+// interior.
 #pragma once
 
 #include "drawcore/src/geometry/path.h"
@@ -13,12 +13,12 @@ struct Box {
     Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 };
 
-enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: some coordinate is not a number
+enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: a coordinate is not a number
 
-// Where the points of a path lie, taken together.
+// Returns the position of all points of a path.
 Where Locate(const Path& path, const Box& box);
 
-// The part of a segment in the box as shares of its length; false if there isn't one.
+// Returns the part of a segment inside the box as fractions of its length, or false if there is none.
 bool ClipSegment(const Point& a, const Point& b, const Box& box, double& from, double& to);
 
 void ClipLines(const Path& path, const Box& box, Path& clipped);

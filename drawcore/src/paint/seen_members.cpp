@@ -1,4 +1,4 @@
-// From a box of the device to one of the drawing.
+// Converts a box of the device to one of the drawing.
 #include "drawcore/src/paint/seen_members.h"
 
 #include <cmath>
@@ -9,7 +9,7 @@ namespace drawcore {
 
 namespace {
 
-// Whether a box of the plan stays one, and grows alike in both directions.
+// Returns whether boxes in the plane remain boxes and are scaled uniformly.
 bool KeepsBoxes(const Matrix& m) {
     return m.KeepsAxes() && std::isnormal(m.at[0][0]) && std::fabs(m.at[0][0]) == std::fabs(m.at[1][1]);
 }
@@ -26,7 +26,7 @@ Extents BackFrom(const Box& device, const Matrix& m) {
 SeenMembers::SeenMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch) {
     PlaceIndex* index = set.IndexOfMembers();
     if (!index || !KeepsBoxes(toDevice)) return;
-    constexpr double kRounding = 1; // a pixel: more than any error of the arithmetic
+    constexpr double kRounding = 1; // in pixels; greater than any rounding error
     places_ = index->Find(set, BackFrom(device.Grown(kRounding), toDevice), paperInch / toDevice.PlanScale());
 }
 

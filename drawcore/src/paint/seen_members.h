@@ -1,4 +1,4 @@
-// The members of a set that may show in a part of the device: all, or those that the set's index finds there.
+// The members of a set that may be visible in a part of the device: all, or those found by the set's index.
 #pragma once
 
 #include <optional>
@@ -12,15 +12,15 @@ namespace drawcore {
 class SeenMembers {
 public:
     SeenMembers() = default;
-    // toDevice: from the set's coordinates; paperInch: device pixels of an inch of paper.
+    // toDevice: from the set's coordinates; paperInch: device pixels per inch on paper.
     SeenMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch);
 
-    // In the order of drawing. The set is the one that was asked; null if it has lost members since.
+    // In drawing order. The set must be the same one. Returns null if members have been removed since.
     size_t CountIn(const Graphic& set) const { return places_ ? places_->size() : set.MemberCount(); }
     Graphic* At(const Graphic& set, size_t number) const;
 
 private:
-    std::optional<std::vector<uint32_t>> places_; // none: all
+    std::optional<std::vector<uint32_t>> places_; // nothing for all
 };
 
 } // namespace drawcore

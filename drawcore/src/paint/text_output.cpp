@@ -1,4 +1,4 @@
-// Fonts for rows of one size, and their output.
+// Selects fonts and outputs rows of text.
 #include "drawcore/src/paint/text_output.h"
 
 #include <cmath>
@@ -8,9 +8,9 @@ namespace drawcore {
 
 namespace {
 
-// The directions of a row in units of its font: rows of one direction and size share the transform.
+// Returns the directions of a row in font units. Rows with the same direction and size share the transformation.
 XFORM Directions(const TextRow& row) {
-    const double unit = 1.0 / row.face->CapitalHeight(); // the font's y goes down, the row's up
+    const double unit = 1.0 / row.face->CapitalHeight(); // y points down in the font, up in the row
     const auto& m = row.matrix.at;
     return {static_cast<FLOAT>(m[0][0] * unit),
             static_cast<FLOAT>(m[0][1] * unit),
@@ -20,18 +20,18 @@ XFORM Directions(const TextRow& row) {
             0};
 }
 
-// Where the row begins: a position in units of its font, rounded to the pixel that it is in, so that a picture that is
-// moved by whole pixels does not differ from one that is drawn there. Where such a unit is larger than a pixel the
-// transform takes the position instead. False if the row is seen from its edge, or too far away for the device.
+// Gets the start of the row in font units, rounded to its pixel, so that a picture moved by whole pixels equals a
+// redrawn one. If a font unit is larger than a pixel, the position is part of the transformation. Returns false if the
+// row is seen edge-on or is too far away for the device.
 bool Place(const TextRow& row, XFORM& form, POINT& position) {
     const double x = std::floor(row.matrix.at[3][0] + 0.5), y = std::floor(row.matrix.at[3][1] + 0.5);
     const double turn = static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
     const double px = (x * form.eM22 - y * form.eM21) / turn, py = (y * form.eM11 - x * form.eM12) / turn;
-    constexpr double kFarthest = 1 << 26; // what the device counts to
+    constexpr double kFarthest = 1 << 26; // limit of device coordinates
     if (!(std::fabs(px) < kFarthest && std::fabs(py) < kFarthest)) return false;
     position = {static_cast<LONG>(std::lround(px)), static_cast<LONG>(std::lround(py))};
     const auto side = [](FLOAT a, FLOAT b) { return std::fabs(a) + std::fabs(b); };
-    constexpr FLOAT kMostPixels = 0.9f; // a unit rounded away is less than half a pixel then
+    constexpr FLOAT kMostPixels = 0.9f; // rounding a unit is then less than half a pixel
     if (side(form.eM11, form.eM21) > kMostPixels || side(form.eM12, form.eM22) > kMostPixels) {
         position = {};
         form.eDx = static_cast<FLOAT>(x);

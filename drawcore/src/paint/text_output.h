@@ -1,6 +1,6 @@
-// Rows of text on a device context, through its world transformation. Rows of the same size and direction follow each
-// other without a change of the transformation: the device makes its letters anew after each (measured: 0.17 ms a row
-// with a change, 0.001 without).
+// Draws rows of text through the world transformation of a device context. Consecutive rows of the same size and
+// direction share the transformation, because the device rebuilds its glyphs after each change (measured: 0.17 ms per
+// row with a change, 0.001 ms without).
 #pragma once
 
 #include "drawcore/src/graphics/trace.h"
@@ -15,7 +15,7 @@ public:
     TextOutput& operator=(const TextOutput&) = delete;
 
     void Draw(const TextRow& row, Color color);
-    // Puts transformation and mode back; before anything else is drawn.
+    // Restores transformation and mode; must be called before anything else is drawn.
     void End();
 
 private:
@@ -23,9 +23,9 @@ private:
 
     HDC dc_;
     bool open_ = false;
-    int mode_ = GM_COMPATIBLE; // what the device context had before
+    int mode_ = GM_COMPATIBLE; // previous mode of the device context
     XFORM before_{};
-    XFORM form_{}; // what is set now, apart from before_
+    XFORM form_{}; // the current transformation, without before_
 };
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The scale and the two mappings of a viewport.
+// The scale and the conversions of a viewport.
 #include "drawcore/src/paint/viewport.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace drawcore {
 
 namespace {
 
-// Beyond these the numbers of a double, or of a device, no longer mean anything.
+// Beyond these limits, doubles or device coordinates are too imprecise.
 constexpr double kSmallestScale = 1e-12, kLargestScale = 1e12;
 
 } // namespace
@@ -31,7 +31,7 @@ void Viewport::Show(const Extents& extents) {
     if (extents.IsEmpty()) return;
     const double width = extents.high.x - extents.low.x, height = extents.high.y - extents.low.y;
     if (!std::isfinite(width) || !std::isfinite(height)) return;
-    // From the middle of the first pixel to that of the last, so that what lies on the edge is seen.
+    // From the center of the first pixel to that of the last, so that geometry on the edge is visible.
     const double across = std::max<double>(rect.right - rect.left - 1, 1),
                  down = std::max<double>(rect.bottom - rect.top - 1, 1);
     double scale = kLargestScale;

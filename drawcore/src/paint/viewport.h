@@ -1,4 +1,4 @@
-// A viewport: the device rectangle, the part of the drawing that it shows, and the device.
+// A viewport: the device rectangle, the visible part of the drawing, and the device.
 #pragma once
 
 #include <optional>
@@ -23,11 +23,11 @@ public:
 
     static Viewport* From(ViewportStruct* viewport) { return static_cast<Viewport*>(viewport); }
 
-    // Shows these extents as large as the rectangle allows, in its middle; empty ones leave the view as it is.
+    // Shows the extents as large as possible, centered in the rectangle. Empty extents do not change the view.
     void Show(const Extents& extents);
-    // Zooms by factor; the point of the drawing under fixed stays there.
+    // Zooms by factor around the fixed point.
     void Zoom(Point fixed, double factor);
-    void Pan(double dx, double dy); // device pixels
+    void Pan(double dx, double dy); // in device pixels
 
     Point ToDrawing(Point device) const;
     Matrix ToDevice() const;
@@ -39,7 +39,7 @@ public:
     std::optional<Color> background;
     bool lineWeights = true;
 
-    struct Painting { // that goes on with the next call
+    struct Painting { // continued by the next call
         SeenMembers seen;
         long budget = 0; // of the tracing
     };
@@ -49,7 +49,7 @@ private:
     Point Middle() const;
 
     double scale_ = 1; // pixels per drawing unit
-    Point center_;     // what the middle of the rectangle shows
+    Point center_;     // point at the center of the rectangle
 };
 
 } // namespace drawcore

@@ -1,4 +1,4 @@
-// The filling of an entity: groups of a hatch, extended data of all others.
+// Writes the brush of an entity: groups of a hatch, extended data for other entities.
 #include <algorithm>
 #include <cmath>
 
@@ -11,9 +11,9 @@ namespace dxf {
 
 namespace {
 
-constexpr int kHatchStyle = 75; // first of the groups of the pattern
+constexpr int kHatchStyle = 75; // first group of the pattern
 constexpr int kPatternType = 76;
-constexpr int kSeeds = 98; // first of those after the pattern
+constexpr int kSeeds = 98; // first group after the pattern
 constexpr int kGradient = 450;
 constexpr int kLastGradient = 470;
 
@@ -26,7 +26,7 @@ bool IsOfGradient(int code) {
     return (code >= kGradient && code <= kLastGradient) || code == 63 || code == 421;
 }
 
-// The degrees that are read back as just these radians, if there are any near.
+// Returns the degrees that are read back as exactly these radians, if there are any nearby.
 double DegreesOf(double radians) {
     const double degrees = radians * (180 / drawcore::kPi);
     for (const double tried :
@@ -35,7 +35,7 @@ double DegreesOf(double radians) {
     return degrees;
 }
 
-// An angle that a hatch says as it is.
+// Returns whether a hatch can store the angle unchanged.
 bool IsWithinTurn(double angle) {
     return std::fabs(angle) < 2 * drawcore::kPi;
 }
@@ -61,7 +61,7 @@ void LookWriter::WriteBrush(const Look& wanted) {
     if (brush.winding != held.winding) OwnNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
 }
 
-// Degrees that are nearly the angle keep its last digits beside them.
+// Writes the exact angle to extended data if the degrees are only near it.
 void LookWriter::WriteAngle(double angle, double held) {
     if (!Near(angle, held)) return OwnNumbers(kPropBrushAngle, {angle});
     exact_.insert(kPropBrushAngle);
@@ -75,7 +75,7 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
         if (held.style != kSolidBrush || !held.lines.empty()) PutSolid(hatch);
         return;
     }
-    if (wanted.lines.empty()) return; // no brush, or one that is not a pattern of lines
+    if (wanted.lines.empty()) return; // no brush, or one without lines
     BrushLook put = wanted;
     if (!(put.scale > 0)) put.scale = held.scale;
     if (!IsWithinTurn(put.angle)) put.angle = held.angle;
@@ -85,7 +85,7 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
     if (!same) PutPattern(hatch, put);
 }
 
-// What is written after the head and the outlines, in place of what is there.
+// Replaces the groups after the head and the outlines.
 void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
     const std::vector<Group>& groups = record_.Groups();
     const auto from =

@@ -1,4 +1,4 @@
-// The entities of a drawing, and what their changes need in its tables.
+// Changes the entities of a drawing, and adds table records that they need.
 #include "drawcore/src/save/drawing_patch.h"
 
 #include <algorithm>
@@ -98,7 +98,7 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     const std::string plain =
         face.family + (face.cut & kTextBold ? " Bold" : "") + (face.cut & kTextItalic ? " Italic" : "");
     size_t index = 0;
-    for (int number = 1; index == 0 || styles[index].declared; ++number) // one of that name may have another face
+    for (int number = 1; index == 0 || styles[index].declared; ++number) // a style with that name may have another face
         index = in_.textStyles.FindUtf8(number == 1 ? plain : plain + " " + std::to_string(number));
     TextStyle& style = styles[index];
     style.declared = true;

@@ -1,4 +1,4 @@
-// One function for each kind of entity.
+// Writes each kind of entity.
 #include "drawcore/src/save/entity_records.h"
 
 #include <algorithm>
@@ -13,8 +13,8 @@ namespace {
 using Values = TablePatch::Values;
 
 constexpr int kHandle = 5, kOwner = 330, kLayer = 8;
-constexpr int kClosed = 1, kSpatial = 8; // of a polyline's group 70
-constexpr int kSpatialVertex = 32;       // of a vertex's
+constexpr int kClosed = 1, kSpatial = 8; // flags in group 70 of a polyline
+constexpr int kSpatialVertex = 32;       // flag of a vertex
 constexpr int kClosedSpline = 1;
 
 void Put(Values& to, int code, double number) {
@@ -35,13 +35,13 @@ void Put(Values& to, int code, const Vec3& point) {
     Put(to, code + 20, point.z);
 }
 
-// In pieces that every program reads: code 3, and the last one 1.
+// In pieces that every program can read: code 3, and code 1 for the last one.
 void PutParagraphs(Values& to, const std::string& text) {
     constexpr size_t kLongest = 240;
     size_t at = 0;
     while (text.size() - at > kLongest) {
         size_t end = at + kLongest;
-        while (end > at && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) // within a character
+        while (end > at && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) // not within a character
             --end;
         to.push_back({3, text.substr(at, end - at)});
         at = end;
@@ -51,7 +51,7 @@ void PutParagraphs(Values& to, const std::string& text) {
 
 } // namespace
 
-// The groups of a kind, behind those that all entities have.
+// Writes the groups of a kind, after those of all entities.
 struct EntityRecords::Shapes {
     EntityRecords& records;
     const Entity& entity;
@@ -170,7 +170,7 @@ struct EntityRecords::Shapes {
         Put(values, 72, 1); // from left to right
         PutParagraphs(values, text->text);
         Put(values, 11, text->direction);
-        Put(values, 73, 1); // lines are as far apart as
+        Put(values, 73, 1); // exact line spacing
         Put(values, 44, text->lineSpacing);
     }
 
@@ -193,7 +193,7 @@ struct EntityRecords::Shapes {
         Put(values, 91, static_cast<int>(hatch->loops.size()));
         for (const Hatch::Loop& loop : hatch->loops) {
             Put(values, 92, loop.flags);
-            Put(values, 72, 1); // bulges
+            Put(values, 72, 1); // has bulges
             Put(values, 73, 1); // closed
             Put(values, 93, static_cast<int>(loop.outline.vertices.size()));
             for (const Polyline::Vertex& vertex : loop.outline.vertices) {

@@ -1,5 +1,6 @@
-// New records of entities in the form of a drawing's version: with markers, handles and owners where it has them. They
-// hold the shape alone, on layer 0: looks and the places of insertions are changes of these records (drawing_patch.h).
+// Creates records of new entities in the format of the drawing's version: with subclass markers, handles and owners if
+// it has them. They contain only the shape, on layer 0; appearance and placement are changes of these records
+// (drawing_patch.h).
 #pragma once
 
 #include "drawcore/src/dxf/document.h"
@@ -9,13 +10,13 @@ namespace dxf {
 
 class EntityRecords {
 public:
-    // Names that entities have are those of the document; both have to outlive the records.
+    // Names of entities refer to the document. Both arguments must outlive this object.
     EntityRecords(TablePatch& tables, const Document& known) : tables_(tables), known_(known) {}
 
-    // owner: the handle of the block record that the entity is in; empty: none. SaveError if the version has no such
+    // owner: handle of the block record that contains the entity, or empty. Throws SaveError if the version has no such
     // entity.
     std::string LinesOf(const Entity& entity, const std::string& owner);
-    // What stands before and behind the entities of a block.
+    // Return the records before and after the entities of a block.
     std::string BlockLines(const Block& block, const std::string& owner);
     std::string BlockEndLines(const std::string& owner);
 
@@ -25,7 +26,7 @@ private:
         const char *name, *marker;
     };
 
-    // Begins a record; the handle that it gets.
+    // Begins a record and returns its handle.
     std::string Begin(Values& to, const Head& head, const std::string& owner);
     void Mark(Values& to, const char* marker) const;
     void NeedVersion(const char* version, const char* kind) const;

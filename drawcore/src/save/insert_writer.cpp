@@ -1,4 +1,4 @@
-// Insertions of blocks: where they are, how large and how turned.
+// Writes the placement of block insertions.
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace dxf {
 
 namespace {
 
-// Whether a block is drawn the same, at the same place or elsewhere.
+// Returns whether a block looks the same at the same or another position.
 bool LookAlike(const Matrix& a, const Matrix& b) {
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 3; ++column)
@@ -18,14 +18,14 @@ bool LookAlike(const Matrix& a, const Matrix& b) {
     return true;
 }
 
-// Without what calculating with coordinates of that rounding leaves after the ninth decimal.
+// Removes rounding errors beyond the ninth decimal place.
 double Clean(double number, double rounding) {
     const double round = std::round(number * 1e9) / 1e9;
     return std::fabs(round - number) <= rounding * std::max(1.0, std::fabs(number)) ? round : number;
 }
 
-// The numbers of an insertion in its object system that place it so, nearly. A mirrored x axis and a half turn look
-// alike but for the y axis: what was mirrored stays so, and what becomes so keeps its angle.
+// Returns the numbers of an insertion in its object coordinates that approximate the placement. A mirrored x axis and a
+// half turn differ only in the y axis: what was mirrored remains so, and what becomes mirrored keeps its angle.
 Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
     Insert placed;
     Matrix back;
@@ -37,7 +37,7 @@ Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& plac
     const auto angleOf = [&] { return Length(x) > 0 ? std::atan2(x.y * sign, x.x * sign) : old; };
     if (mirrors && std::cos(angleOf() - old) < 0) sign = -sign;
     const double angle = angleOf(), rounding = RoundingAt(placement.Apply({}));
-    // What was there stays unless it has become something else.
+    // Keeps the old number unless it has changed.
     const auto number = [&](double was, double now, double unit) {
         return std::fabs(was - now) <= rounding * unit ? was : Clean(now, rounding * unit);
     };
@@ -55,7 +55,7 @@ Matrix MatrixOf(const Vec3& normal, const Insert& insert) {
     return InsertMatrix(entity, insert, Block(), 0, 0);
 }
 
-// Of the plane in which the placed block lies, to the side that leaves the z scale its sign.
+// Returns the normal of the placed block's plane, on the side that preserves the sign of the z scale.
 Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     const Vec3 z = placement.Turn({0, 0, 1});
     const Vec3 normal = Normalized(Cross(placement.Turn({1, 0, 0}), placement.Turn({0, 1, 0})));
@@ -63,7 +63,7 @@ Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     return normal * (front * insert.scaleZ < 0 ? -1 : 1);
 }
 
-// The directions in which an array extends.
+// Returns the directions of an array.
 Matrix AxesOf(const Entity& entity, const Insert& insert) {
     return Matrix::RotationZ(Radians(insert.rotation)) * ObjectSystem(entity.normal);
 }
@@ -104,7 +104,7 @@ void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
     }
     PutPoint(10, insert.at, placed.at);
     insert.at = placed.at;
-    if (isTable) return; // that has no scale, and its turn is a vector
+    if (isTable) return; // has no scale, and its rotation is a vector
     PutPoint(210, entity_.normal, normal);
     PutReal(41, insert.scaleX, placed.scaleX, {30});
     PutReal(42, insert.scaleY, placed.scaleY, {41, 30});
@@ -117,7 +117,7 @@ void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
     insert.rotation = placed.rotation;
 }
 
-// The steps of an array go along its turned axes; moved are the axes that they had.
+// The steps of an array follow its rotated axes; the moved vectors refer to the previous axes.
 void LookWriter::MoveArray(Insert& insert, const Matrix& moved) {
     const Matrix axes = AxesOf(entity_, insert);
     const auto step = [&](int code, double& spacing, const Vec3& axis) {

@@ -1,4 +1,4 @@
-// The layer's group in all records of blocks and entities.
+// Searches all records of blocks and entities for a layer.
 #include "drawcore/src/save/layer_use.h"
 
 #include "drawcore/src/dxf/names.h"

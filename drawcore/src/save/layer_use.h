@@ -1,4 +1,4 @@
-// Whether entities are on a layer, those that are not read included.
+// Determines whether entities are on a layer, including entities that are not imported.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace dxf {
 
-// Returns the first record on the layer, as it is called in messages; empty if there is none. The text is what the
-// document was read from; the layer's name is UTF-8.
+// Returns the name, for messages, of the first record on the layer, or an empty string. The document was read from the
+// text; the layer's name is UTF-8.
 std::string FirstOnLayer(std::string_view text, const Document& document, const std::string& layer);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// Layer, color, line and the extended data of an entity.
+// Writes layer, color, line and the extended data of an entity.
 #include "drawcore/src/save/look_writer.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace dxf {
 
 namespace {
 
-// The line weights that the file format knows, hundredths of a millimeter.
+// The line weights defined by the file format, in hundredths of a millimeter.
 constexpr int kWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
                             53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 
@@ -22,7 +22,7 @@ int NearestWeight(double inches) {
                              [&](int a, int b) { return std::fabs(a - weight) < std::fabs(b - weight); });
 }
 
-constexpr int kThrough = 128; // flag of a polyline: dashes go on around corners
+constexpr int kThrough = 128; // flag of a polyline: dashes continue around corners
 
 } // namespace
 
@@ -80,7 +80,7 @@ void LookWriter::WriteOwn() {
         if (isNew && exact_.count(value.name) == 0) ++drawing_.onlyExtended_[value.name];
     }
     const std::vector<RecordPatch::Value> values = ExtendedValues(*entity_.own, drawing_.in_.decoder);
-    constexpr size_t kMost = 16383; // bytes of extended data that an entity may have
+    constexpr size_t kMost = 16383; // maximum number of bytes of extended data per entity
     size_t size = 0;
     for (const RecordPatch::Value& value : values)
         size += value.code == kExtendedReal ? sizeof(double) : value.text.size() + 1;
@@ -103,7 +103,7 @@ bool LookWriter::CanPutColor(uint32_t color) const {
 
 void LookWriter::PutColor(uint32_t color) {
     entity_.trueColor = -1;
-    record_.RemoveCommon(430); // a name of the color that was
+    record_.RemoveCommon(430); // the name of the previous color
     if (color == kColorByLayer || color == kColorByBlock) {
         entity_.color = color == kColorByLayer ? kIndexByLayer : kIndexByBlock;
     } else {
@@ -128,7 +128,7 @@ void LookWriter::WriteColor(const Look& wanted) {
     const uint32_t brush = wanted.brush.color;
     RemoveOwn(kPropPenColor);
     RemoveOwn(kPropBrushColor);
-    // Other programs see only the brush of a hatch.
+    // Other programs only see the brush of a hatch.
     if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
         exact_.insert(kPropBrushColor);
         PutColor(brush);
@@ -218,7 +218,7 @@ void LookWriter::PutPolylineWidth(const Polyline& polyline, double width) {
     entity_.shape = std::move(put);
 }
 
-// Those of the records that follow: without them the polyline's own counts.
+// Widths of vertex records override that of the polyline.
 void LookWriter::RemoveVertexWidths() {
     TagReader& tags = drawing_.in_.tags;
     for (size_t at = record_.End(); tags.Seek(at).Is(0, "VERTEX");) {

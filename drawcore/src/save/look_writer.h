@@ -1,5 +1,5 @@
-// Writes the look of one entity into its record: compares what is wanted with what the groups say, and changes those
-// that differ. What no group can hold becomes extended data.
+// Writes the appearance of an entity to its record: compares the requested values with the groups, and changes those
+// that differ. Values that no group can store become extended data.
 #pragma once
 
 #include <set>
@@ -13,10 +13,10 @@ class LookWriter {
 public:
     LookWriter(DrawingPatch& drawing, size_t offset);
 
-    // Before Write, at most once: the entity is moved, an insertion is placed anew, vertices are elsewhere.
+    // Move the entity, place an insertion, or move vertices. At most one call, before Write.
     void Move(const Matrix& motion);
     void Place(const AxisEnds& ends);
-    // Those of the graphic that is made of the entity, in its order. What can't be moved stays.
+    // The vertices are those of the graphic made from the entity, in order. What cannot be moved stays.
     void MoveVertices(const std::vector<Vec3>& to);
 
     Look Now() const { return LookOf(drawing_.Known(), entity_); }
@@ -40,7 +40,7 @@ private:
     void WriteWidth(const Look& wanted);
     void WritePaperWidth(const Look& wanted);
     void WriteDashes(const Look& wanted);
-    void PutPolylineWidth(const Polyline& polyline, double width); // 0: none
+    void PutPolylineWidth(const Polyline& polyline, double width); // 0 to remove it
     void RemoveVertexWidths();
 
     void WriteBrush(const Look& wanted);
@@ -54,7 +54,7 @@ private:
     void WriteText(const Look& wanted);
     void WriteLine(Text& text, const Look& look);
     void WriteParagraphs(MText& text, const Look& wanted);
-    void WriteEffects(const TextLook& wanted); // and what else the groups can't hold
+    void WriteEffects(const TextLook& wanted); // and other values that the groups cannot store
     void PutFace(Text& text, const FontFace& face);
     static void PutFormat(Text& text, uint16_t format);
     static void PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole);
@@ -75,10 +75,10 @@ private:
 
     DrawingPatch& drawing_;
     const size_t offset_;
-    const Entity stored_; // as it is in the file
-    Entity entity_;       // as it will be there
+    const Entity stored_; // as in the file
+    Entity entity_;       // as it will be in the file
     RecordPatch record_;
-    std::set<std::string> exact_; // own values that groups have too, but for the last digits
+    std::set<std::string> exact_; // extended values that repeat groups with more digits
 };
 
 } // namespace dxf

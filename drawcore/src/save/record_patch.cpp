@@ -1,4 +1,4 @@
-// Finding and replacing the groups of a record.
+// Finds and replaces the groups of a record.
 #include "drawcore/src/save/record_patch.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace dxf {
 
 namespace {
 
-// The groups that all entities have, in the order in which programs write them.
+// The groups of all entities, in the order in which programs write them.
 constexpr int kCommonOrder[] = {5, 330, kSubclass, 67, 410, 8, 6, 62, 370, 48, 60, 420, 430, 440};
 
 } // namespace
@@ -98,7 +98,7 @@ void RecordPatch::RemoveAll(int code, bool common) {
         if (IsOf(group, code, common)) Remove(group);
 }
 
-// Some programs write the groups that all entities have after the marker of the kind.
+// Some programs write the groups of all entities after the subclass marker of the kind.
 void RecordPatch::SetCommon(int code, const std::string& value) {
     SetAll(code, value, HasCommon(code), CommonPlace(code));
 }
@@ -115,7 +115,7 @@ void RecordPatch::Remove(int code) {
     RemoveAll(code, false);
 }
 
-// After the last group of those that programs write before it.
+// After the last of the groups that precede it in the usual order.
 size_t RecordPatch::CommonPlace(int code) const {
     const auto order = [](int wanted) {
         return std::find(std::begin(kCommonOrder), std::end(kCommonOrder), wanted) - kCommonOrder;

@@ -1,5 +1,5 @@
-// The groups of one record of a drawing, and changes of them. New groups are written as the record's own are: line
-// ends, blanks in front of codes and values.
+// Changes the groups of a record. New groups are formatted like those of the record: line ends, and blanks before codes
+// and values.
 #pragma once
 
 #include <initializer_list>
@@ -15,26 +15,26 @@ namespace dxf {
 
 struct Group {
     int code;
-    std::string_view value; // of the drawing's text
-    size_t begin, end;      // with both lines
-    int part;               // how many subclass markers come before it
-    bool attached;          // between braces, of an embedded object, or extended data
+    std::string_view value; // part of the drawing's text
+    size_t begin, end;      // including both lines
+    int part;               // number of subclass markers before it
+    bool attached;          // in braces, in an embedded object, or in extended data
 };
 
 class RecordPatch {
 public:
-    // The record that begins there. Throws ReadError if none does.
+    // Reads the record at the offset. Throws ReadError if there is none.
     RecordPatch(TextPatch& patch, TagReader& tags, size_t offset);
 
     const std::vector<Group>& Groups() const { return groups_; }
-    size_t End() const { return end_; } // where the next record begins
+    size_t End() const { return end_; } // offset of the next record
 
-    // What all entities have: with subclass markers, the groups of the first part.
+    // Groups of all entities: in records with subclass markers, those of the first part.
     bool HasCommon(int code) const { return Find(code, true) != nullptr; }
     void SetCommon(int code, const std::string& value);
     void RemoveCommon(int code);
 
-    // What the kind of record has. A group that is missing goes after the last of the others, or to the end.
+    // Groups of the kind. A missing group is added after the last of the listed codes that exists, else at the end.
     const Group* Find(int code) const { return Find(code, false); }
     void Set(int code, const std::string& value, std::initializer_list<int> behind = {});
     void Remove(int code);
@@ -42,14 +42,14 @@ public:
     void SetValue(const Group& group, const std::string& value);
     void Remove(const Group& group) { patch_.Replace(group.begin, group.end - group.begin, {}); }
     void Insert(size_t at, int code, const std::string& value) { patch_.Insert(at, Lines(code, value)); }
-    // Where a group after the last of these begins, or else one at the end of the record's own groups.
+    // Returns the offset after the last of these groups, else the end of the record's own groups.
     size_t PlaceBehind(std::initializer_list<int> codes) const;
 
-    // In place of the extended data of that application; empty values remove it.
+    // Replaces the extended data of that application; empty values remove it.
     struct Value {
         int code;
         std::string text;
-        bool isStored = false; // the text is as the file has it; else UTF-8, where that makes a difference
+        bool isStored = false; // the text is encoded as in the file; otherwise it is UTF-8
     };
     void SetExtended(const char* application, const std::vector<Value>& values);
 
@@ -71,10 +71,10 @@ private:
     std::string lineEnd_;
 };
 
-// The values of extended data of kApplication, as they are stored.
+// Returns the values of extended data of kApplication as stored.
 std::vector<RecordPatch::Value> ExtendedValues(const OwnData& own, const TextDecoder& decoder);
 
-// A number as a drawing has it: the shortest text that is read back to the same.
+// Returns the shortest text that is parsed back as the same number.
 std::string RealText(double value);
 
 } // namespace dxf

@@ -1,4 +1,4 @@
-// One rule for each kind of record that refers to others.
+// Rules for each kind of record that refers to others.
 #include "drawcore/src/save/reference_removal.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ bool IsReference(int code) {
            code == kExtendedHandle;
 }
 
-// As a key: without blanks and zeros in front, in capitals. Empty for the null handle.
+// Normalizes a handle: without blanks and leading zeros, uppercase. Returns an empty string for the null handle.
 std::string KeyOf(std::string_view value) {
     std::string key;
     for (const char c : value)
@@ -29,12 +29,12 @@ std::string KeyOf(std::string_view value) {
 
 } // namespace
 
-// One way through the records of a drawing.
+// One pass over the records of a drawing.
 class ReferenceRemoval::Scan {
 public:
     explicit Scan(ReferenceRemoval& of) : of_(of), text_(of.patch_.Text()), tags_(text_, silent_) {}
 
-    // Returns whether other records have to go than before.
+    // Returns whether further records must be removed.
     bool Run() {
         bool inHeader = false;
         tags_.Next();
@@ -67,14 +67,14 @@ private:
             return group.code == kHandle || group.code == kDimensionStyleHandle;
         });
         const std::string own = handle == groups_->end() ? "" : KeyOf(handle->value);
-        // Of two records with one handle one remains: that is what others refer to.
+        // Of two records with the same handle, one remains that others refer to.
         if (of_.handles_.erase(own) > 0) grows_ = true;
         const auto owned = of_.owned_.find(own);
         if (!own.empty() && owned != of_.owned_.end())
             return RemoveRecord(record.End(), owned->second, of_.edits_.size());
         const size_t before = of_.edits_.size();
         size_t lostMembers = 0;
-        std::optional<size_t> goes; // with what the place stands for
+        std::optional<size_t> goes; // offset that stands for the removed record
         for (size_t i = 1; i < groups_->size() && !goes; ++i) {
             const Group& group = (*groups_)[i];
             if (!IsReference(group.code)) continue;
@@ -93,7 +93,7 @@ private:
         }
     }
 
-    // Of a group.
+    // Counts the members of a group.
     size_t CountMembers() const {
         return static_cast<size_t>(std::count_if(
             groups_->begin(), groups_->end(), [](const Group& group) { return group.code == 340 && !group.attached; }));
@@ -109,7 +109,7 @@ private:
         return false;
     }
 
-    // In place of the edits that came after those.
+    // Replaces edits made after those.
     void RemoveRecord(size_t end, size_t place, size_t edits) {
         const size_t begin = (*groups_)[0].begin;
         of_.edits_.resize(edits);
@@ -125,7 +125,7 @@ private:
         of_.edits_.push_back({static_cast<size_t>(group.value.data() - text_.data()), group.value.size(), value});
     }
 
-    // Takes the reference out; false if the record is nothing without it.
+    // Removes the reference. Returns false if the record is meaningless without it.
     bool Drop(size_t at) {
         const Group& group = (*groups_)[at];
         if (group.code == kExtendedHandle) return Put(group, "0"), true;
@@ -147,7 +147,7 @@ private:
         return false;
     }
 
-    // Braces that nothing is left in go too.
+    // Removes braces that have become empty.
     void DropFromBraces(size_t at) {
         const bool isAlone =
             (*groups_)[at - 1].code == kGroup && at + 1 < groups_->size() && (*groups_)[at + 1].code == kGroup;
@@ -156,7 +156,7 @@ private:
         if (isAlone) Remove((*groups_)[at + 1]);
     }
 
-    // Its path has one boundary less, and the hatch no longer follows its boundaries.
+    // Removes a boundary from the path; the hatch is then no longer associative.
     void DropBoundary(size_t at) {
         Remove((*groups_)[at]);
         for (size_t i = at; i-- > 0;) {
@@ -191,7 +191,7 @@ private:
     std::string section_;
     std::string_view kind_;
     const std::vector<Group>* groups_ = nullptr;
-    std::map<size_t, int> boundaries_; // that are gone, by the counts that they belong to
+    std::map<size_t, int> boundaries_; // number of removed boundaries, by the count that they belong to
     std::set<size_t> associative_;
     bool grows_ = false;
 };
@@ -220,7 +220,7 @@ void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
 void ReferenceRemoval::Run() {
     if (handles_.empty()) return;
     do {
-        // What an earlier way through has removed is passed over now: its edits stay.
+        // Records removed in an earlier pass are skipped; their edits remain.
         edits_.erase(
             std::remove_if(edits_.begin(), edits_.end(), [&](const Edit& edit) { return ranges_.count(edit.at) == 0; }),
             edits_.end());

@@ -1,5 +1,5 @@
-// Takes references to removed records out of the rest of a drawing: members of groups, boundaries of hatches, entries
-// of dictionaries, places in a drawing order. Objects that belong to what was removed go with it.
+// Removes references to removed records from the rest of a drawing: members of groups, boundaries of hatches, entries
+// of dictionaries, positions in a drawing order. Objects owned by removed records are removed too.
 #pragma once
 
 #include <map>
@@ -16,14 +16,14 @@ class ReferenceRemoval {
 public:
     ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
 
-    // Records from begin to end are gone; the caller removes their text. The place stands for them in refusals.
+    // Adds records that the caller removes, from begin to end. The offset `place` stands for them in refusals.
     void Add(size_t begin, size_t end, size_t place);
 
     // Removes all references, or none if one of them cannot be removed.
     void Run();
     struct Refusal {
-        size_t place;    // of what cannot be removed
-        std::string why; // "GROUP 2F (line 1024) refers to it"
+        size_t place;    // of the record that cannot be removed
+        std::string why; // for example "GROUP 2F (line 1024) refers to it"
     };
     const std::vector<Refusal>& Refusals() const { return refusals_; }
 
@@ -40,9 +40,9 @@ private:
     void NoteHandles(size_t begin, const Range& range);
 
     TextPatch& patch_;
-    std::map<size_t, Range> ranges_;        // by their beginnings
-    std::map<std::string, size_t> handles_; // that are gone, and the places that stand for them
-    std::map<std::string, size_t> owned_;   // likewise, of objects that go with their owners
+    std::map<size_t, Range> ranges_;        // by begin
+    std::map<std::string, size_t> handles_; // removed handles, and the offsets that stand for them
+    std::map<std::string, size_t> owned_;   // likewise, for objects removed with their owners
     std::vector<Edit> edits_;
     std::vector<Refusal> refusals_;
 };

@@ -1,4 +1,4 @@
-// Vertices that were moved: of lines, polylines, faces, points and leaders.
+// Writes moved vertices of lines, polylines, faces, points and leaders.
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace dxf {
 
 namespace {
 
-// Where a point of an object system has to be for that place in the world; one that is not moved stays bit by bit.
+// Returns a point in object coordinates for a world position. A point that has not moved is returned unchanged.
 Vec3 Moved(const Vec3& point, const Vec3& to, const Matrix& system, const Matrix& back) {
     return system.Apply(point) == to ? point : back.Apply(to);
 }
@@ -70,7 +70,7 @@ void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
     MoveVertexRecords(was, now, flat);
 }
 
-// The groups 10, 20 and perhaps 30 that a record has once for each point.
+// Writes the groups 10, 20 and possibly 30, which occur once per point.
 void LookWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace) {
     if (was.size() != now.size()) return;
     size_t begun = 0;

@@ -1,4 +1,4 @@
-// Putting records in and taking them out.
+// Adds and removes records.
 #include "drawcore/src/save/structure_patch.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ StructurePatch::StructurePatch(std::string_view text, Document known)
       records_(tables_, in_.document) {}
 
 void StructurePatch::Remove(size_t offset) {
-    if (offset < removedEnd_) return; // it belongs to one that is gone
+    if (offset < removedEnd_) return; // it belongs to a removed record
     in_.tags.Seek(offset);
     if (in_.tags.Current().Is(0, "ATTRIB")) {
         in_.tags.SkipRecord();
@@ -48,7 +48,7 @@ void StructurePatch::RemoveLayer(const Layer& layer) {
     ResetCurrentLayer(layer);
 }
 
-// New entities of other programs go onto that layer.
+// Other programs add new entities on the current layer.
 void StructurePatch::ResetCurrentLayer(const Layer& removed) {
     constexpr int kVariable = 9;
     const Tag& tag = in_.tags.Seek(0);
@@ -109,8 +109,8 @@ size_t StructurePatch::AddBlock(const Block& block) {
 
 std::string StructurePatch::Finish() {
     references_.Run();
-    tables_.Finish();                           // tables come before all that stands at the same place
-    std::vector<size_t> behind(pieces_.size()); // where the text goes on, from the beginning of the piece
+    tables_.Finish();                           // tables precede everything at the same offset
+    std::vector<size_t> behind(pieces_.size()); // offsets from the beginning of a piece at which the text continues
     for (size_t i = 0; i < pieces_.size(); ++i) {
         Piece& piece = pieces_[i];
         if (piece.section) piece.lines += tables_.LinesOf({{0, "ENDSEC"}});

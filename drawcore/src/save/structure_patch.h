@@ -1,5 +1,5 @@
-// Entities and blocks that are added to a drawing's text, or taken out of it. What is added has its shape only; its
-// look comes with a DrawingPatch over the result.
+// Adds entities and blocks to a drawing's text, or removes them. Added entities only have a shape; their appearance is
+// set with a DrawingPatch over the result.
 //
 //   dxf::StructurePatch structure(text, std::move(document));
 //   structure.Remove(entity.offset);
@@ -19,46 +19,46 @@ namespace dxf {
 
 class StructurePatch {
 public:
-    // As those of DrawingPatch.
+    // Same as DrawingPatch.
     StructurePatch(std::string_view text, Document known);
 
     const Document& Known() const { return in_.document; }
     BlockIndex FindBlock(const std::string& name) { return BlockIndex(in_.blocks.FindUtf8(name)); }
 
-    // The entity whose record begins there, with the records that belong to it. In rising order of the offsets.
+    // Removes the entity at the offset with the records that belong to it. Offsets must ascend.
     void Remove(size_t offset);
     void RemoveBlock(const Block& block);
-    // The layer's record. Entities may still be on it.
+    // Removes the layer's record. Entities may still be on it.
     void RemoveLayer(const Layer& layer);
-    // In place of the extended data of kApplication that the block has.
+    // Replaces the block's extended data of kApplication.
     void SetOwn(const Block& block, const OwnData& own);
 
-    // SaveError if the version has no such entity.
+    // Throws SaveError if the version has no such entity.
     void Check(const Entity& entity) { records_.LinesOf(entity, {}); }
-    // Appends the entity to a block of the file, or with null to model space; returns its number, for PlaceOf.
+    // Appends the entity to a block of the file or, with null, to model space. Returns its number for PlaceOf.
     size_t Add(const Entity& entity, const Block* block);
-    // A new block, before any entity that is added: a name, what the program says about it, and entities; returns the
-    // number of the first of these, which the others follow.
+    // Adds a block with its name, extended data and entities, before any entity is added. Returns the number of the
+    // first entity; the others follow.
     size_t AddBlock(const Block& block);
 
     bool IsChanged() const { return changed_; }
-    // The changed text, which counts if there are no refusals; nothing can be changed afterwards.
+    // Returns the changed text, which is valid if there are no refusals. Nothing can be changed afterwards.
     std::string Finish();
-    // What cannot be removed, by the offsets of the entity or layer, or where the block begins.
+    // Returns what cannot be removed, by offset of the entity, layer or block.
     const std::vector<ReferenceRemoval::Refusal>& Refusals() const { return references_.Refusals(); }
-    // Where the record of an added entity begins in it, and what began elsewhere before.
+    // Returns the offset of an added entity's record in the changed text, or that of existing contents.
     size_t PlaceOf(size_t added) const { return added_[added].place; }
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }
 
 private:
-    // Records that come in front of what is there, and where in these an added entity begins.
+    // Records added before existing text, and the offset of an added entity in them.
     struct Piece {
         size_t at;
         std::string lines;
-        const char* section; // that it is by itself; null: it is part of one
+        const char* section; // section of the piece; null if it is part of one
     };
     struct Added {
-        size_t piece, place; // in the piece; after Finish in the text
+        size_t piece, place; // in the piece; after Finish, in the text
     };
 
     void ResetCurrentLayer(const Layer& removed);

@@ -1,4 +1,4 @@
-// Where the tables of a drawing are, and records for them.
+// Locates the tables of a drawing, and adds records.
 #include "drawcore/src/save/table_patch.h"
 
 #include <algorithm>
@@ -68,7 +68,7 @@ void TablePatch::ScanTables(TagReader& tags) {
     tablesEnd_ = tag.offset;
 }
 
-// Its handle comes before its name.
+// The handle precedes the name.
 void TablePatch::NoteBlockRecord(const Tag& tag) {
     if (tag.code == 0) blockRecord_ = {{}, {}, {}, tag.offset, true};
     if (tag.code == kHandle) blockRecord_.handle = tag.Trimmed();
@@ -114,7 +114,7 @@ void TablePatch::Scan() {
 }
 
 std::string TablePatch::TakeHandle() {
-    constexpr uint64_t kLast = UINT64_MAX - 1; // the next one has to be a number too
+    constexpr uint64_t kLast = UINT64_MAX - 1; // so that the following one is valid too
     if (highest_ >= kLast) throw SaveError("the drawing has no handle left for what has to be added to its tables");
     handleTaken_ = true;
     return Hex(++highest_);
@@ -142,7 +142,7 @@ std::string TablePatch::BlockRecord(const std::string& name) {
 std::string TablePatch::AddBlockRecord(const std::string& name) {
     if (!HasMarkers()) return {};
     Values values = {{2, name}};
-    if (HasOwners()) values.push_back({340, "0"}); // no layout
+    if (HasOwners()) values.push_back({340, "0"}); // has no layout
     return Add(kBlockRecord, "AcDbBlockTableRecord", values);
 }
 
@@ -199,7 +199,7 @@ std::string TablePatch::Add(const char* name, const char* marker, const Values& 
         record.push_back({kSubclass, marker});
     }
     record.insert(record.end(), values.begin(), values.end());
-    constexpr int kCopied[] = {390, 347}; // plot style and material that all layers have
+    constexpr int kCopied[] = {390, 347}; // plot style and material, which are the same for all layers
     for (const int code : kCopied)
         if (const Group* group = sample && table.head != 0 ? sample->Find(code) : nullptr)
             record.push_back({code, decoder_.Decode(group->value)});
@@ -260,7 +260,8 @@ void TablePatch::Finish() {
     std::string newTables;
     const Progress none;
     TagReader tags(patch_.Text(), none);
-    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // a layer's line type comes before it
+    for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // line types must precede the layers
+                                                                                  // that use them
         Table& table = tables_[name];
         if (table.newLines.empty()) continue;
         if (table.isNew) {

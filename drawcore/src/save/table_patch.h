@@ -1,5 +1,5 @@
-// New records in the tables of a drawing, written as that table's own records are: with handles, owners and markers if
-// those have them. Handles are free ones.
+// Adds records to the tables of a drawing, formatted like existing records: with handles, owners and markers if those
+// have them. Uses free handles.
 #pragma once
 
 #include <map>
@@ -19,25 +19,24 @@ public:
         : patch_(patch), decoder_(decoder), version_(version) {}
 
     void AddApplication(const std::string& name);
-    // With its name as entities have it.
+    // storedName: the name as entities refer to it.
     void AddLayer(const Layer& layer, const std::string& storedName);
     void AddLineType(const LineType& type, const std::string& storedName);
     void AddTextStyle(const TextStyle& style);
     bool HasApplication(const std::string& name);
-    // Of a block: the handle of its record, empty where the version or the file has none.
+    // Returns the handle of a block's record, or an empty string if the version or the file has none.
     std::string AddBlockRecord(const std::string& name);
     std::string BlockRecord(const std::string& name);
-    // From where to where its record is; none where the file has none.
+    // Returns begin and end of the block's record, or nothing if the file has none.
     std::optional<std::pair<size_t, size_t>> FindBlockRecord(const std::string& name);
 
-    // Where the sections of blocks and entities end (their ENDSEC), where that of entities begins, and the end of the
-    // file.
+    // Offsets of the ENDSEC of blocks and entities, of the beginning of the entities, and of the end of the file.
     struct Sections {
         std::optional<size_t> blocksEnd, entities, entitiesEnd;
         size_t fileEnd = 0;
     };
     const Sections& FindSections();
-    // For records of other sections. With subclass markers, a record has a handle too.
+    // For records of other sections. Records with subclass markers also have handles.
     bool HasMarkers() const { return version_ >= "AC1012"; }
     bool HasOwners() const { return version_ >= "AC1015"; }
     bool HasHandles();
@@ -46,12 +45,13 @@ public:
     using Values = std::vector<RecordPatch::Value>;
     std::string LinesOf(const Values& values);
 
-    // The tables' heads and the next free handle: after the last record. SaveError if there is no handle left.
+    // Writes the heads of tables and the next free handle, after the last record. Throws SaveError if no handle is
+    // left.
     void Finish();
 
 private:
     struct Table {
-        size_t head = 0, end = 0;     // of "TABLE" and of "ENDTAB"
+        size_t head = 0, end = 0;     // offsets of "TABLE" and "ENDTAB"
         std::optional<size_t> sample; // its first record
         int count = 0;
         bool isNew = false;
@@ -81,11 +81,11 @@ private:
     std::vector<std::string> applications_;
     std::vector<Record> blockRecords_;
     Names<Record> blockRecordNames_{blockRecords_, decoder_};
-    Record blockRecord_; // that is being scanned
+    Record blockRecord_; // being read
     Sections sections_;
-    std::string section_;             // that is being scanned
-    std::optional<size_t> tablesEnd_; // of the ENDSEC of the section
-    std::optional<size_t> firstBody_; // where such a section would begin
+    std::string section_;             // being read
+    std::optional<size_t> tablesEnd_; // offset of the section's ENDSEC
+    std::optional<size_t> firstBody_; // offset at which such a section would begin
     std::optional<Group> seed_;       // the header's next free handle
     uint64_t highest_ = 0;
     bool handleTaken_ = false;

@@ -1,4 +1,4 @@
-// Putting a patched text together.
+// Applies the changes to a text.
 #include "drawcore/src/save/text_patch.h"
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 namespace dxf {
 
 std::string TextPatch::Result() {
-    // What is inserted at a place comes before what is removed from there.
+    // Insertions precede removals at the same offset.
     std::stable_sort(edits_.begin(), edits_.end(), [](const Edit& a, const Edit& b) {
         return std::make_pair(a.at, a.length != 0) < std::make_pair(b.at, b.length != 0);
     });

@@ -1,4 +1,4 @@
-// Changes of a text, kept as pieces to be replaced: whatever none of them covers stays byte for byte.
+// Changes of a text, stored as pieces to replace. All other bytes remain unchanged.
 #pragma once
 
 #include <cstddef>
@@ -10,17 +10,17 @@ namespace dxf {
 
 class TextPatch {
 public:
-    // The text has to outlive the patch.
+    // The text must outlive the patch.
     explicit TextPatch(std::string_view text) : text_(text) {}
 
-    // Pieces don't overlap; of several at one place the order of the calls counts.
+    // Pieces must not overlap. Changes at the same offset are applied in the order of calls.
     void Replace(size_t at, size_t length, std::string with) { edits_.push_back({at, length, std::move(with)}); }
     void Insert(size_t at, std::string piece) { Replace(at, 0, std::move(piece)); }
 
     bool IsEmpty() const { return edits_.empty(); }
     std::string_view Text() const { return text_; }
     std::string Result();
-    // After Result: where what was there is in it, behind all that was inserted there.
+    // Returns the new offset of what was at `at`, after anything inserted there. Valid after Result.
     size_t Moved(size_t at) const;
 
 private:
@@ -30,7 +30,7 @@ private:
     };
     std::string_view text_;
     std::vector<Edit> edits_;
-    std::vector<ptrdiff_t> shifts_; // of what comes behind each edit, once they are in order
+    std::vector<ptrdiff_t> shifts_; // shift of the text after each edit, once they are sorted
 };
 
 } // namespace dxf

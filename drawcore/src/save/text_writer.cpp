@@ -1,4 +1,4 @@
-// Texts: face, height, effects, justification and place.
+// Writes texts: face, height, effects, justification and position.
 #include <algorithm>
 #include <cmath>
 
@@ -13,8 +13,8 @@ using namespace drawcore; // bits of texts, angles
 namespace {
 
 constexpr uint16_t kCut = kTextBold | kTextItalic;
-constexpr int kBackward = 2, kUpsideDown = 4; // of group 71
-constexpr int kHidden = 1;                    // of an attribute's group 70
+constexpr int kBackward = 2, kUpsideDown = 4; // in group 71
+constexpr int kHidden = 1;                    // in group 70 of an attribute
 
 bool IsFitted(const Text& text) {
     return text.horizontal == Text::Horizontal::aligned || text.horizontal == Text::Horizontal::fit;
@@ -33,7 +33,7 @@ double AngleOf(const Vec3& v) {
     return std::atan2(v.y, v.x);
 }
 
-// An angle that is what it was, but for rounding and whole turns, keeps its number.
+// Keeps the old number for an angle that differs only by rounding and full turns.
 double TurnedTo(double was, double now) {
     const double turned = std::remainder(now - was, 360);
     return SameToRounding(turned, 0, 360) ? was : std::remainder(now, 360);
@@ -43,7 +43,7 @@ Vec3 Direction(double radians) {
     return {std::cos(radians), std::sin(radians), 0};
 }
 
-// Whether the code of an effect goes with that name of a face: its own signs would end it.
+// Returns whether a face name can be used in an inline code, which certain characters would end.
 bool IsNameForCode(const std::string& family) {
     return !family.empty() && family.find_first_of("\\{}|;") == family.npos;
 }
@@ -73,7 +73,7 @@ void LookWriter::WriteLine(Text& text, const Look& look) {
     if (held.font != wanted.font || (held.style ^ wanted.style) & kCut)
         PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
     if (held.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
-    if (text.role != Text::Role::definition) { // that shows its tag, which is a name
+    if (text.role != Text::Role::definition) { // a definition displays its tag, which is a name
         PutSwitch(text.text, 'u', held.style & kTextUnderline, wanted.style & kTextUnderline, whole);
         PutSwitch(text.text, 'k', held.style & kTextStrikethrough, wanted.style & kTextStrikethrough, whole);
     }
@@ -92,7 +92,7 @@ void LookWriter::PutFace(Text& text, const FontFace& face) {
     if (!style.empty()) text.style = TextStyleIndex(drawing_.in_.textStyles.FindUtf8(style));
 }
 
-// The text keeps its insertion point.
+// The insertion point does not move.
 void LookWriter::PutFormat(Text& text, uint16_t format) {
     const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center, Text::Horizontal::right};
@@ -104,7 +104,8 @@ void LookWriter::PutFormat(Text& text, uint16_t format) {
 void LookWriter::WriteParagraphs(MText& text, const Look& wanted) {
     const TextLook& look = wanted.text;
     const auto held = [&] { return LookByGroups(drawing_.Known(), entity_); };
-    const uint8_t whole = Now().varied & ~wanted.varied; // what all of the text is to have, not most of it
+    const uint8_t whole = Now().varied & ~wanted.varied; // values requested for all of the text, not only for most of
+                                                         // it
     if (whole & kVariedSize) text.text = WithoutCodes(text.text, "H");
     if (held().text.height != look.height) text.height = look.height;
     if (held().text.height != look.height) text.text = WithoutCodes(text.text, "H");
@@ -135,7 +136,7 @@ void LookWriter::WriteParagraphs(MText& text, const Look& wanted) {
     WriteEffects(look);
 }
 
-// Turned, mirrored and slanted with the motion, and into another plane if that is tilted.
+// Rotates, mirrors and slants the text, also into another plane.
 void LookWriter::Move(const Matrix& motion) {
     auto* held = std::get_if<Apart<Text>>(&entity_.shape);
     if (!held) return;
@@ -177,13 +178,13 @@ void LookWriter::PutReal(int code, double was, double now, std::initializer_list
 void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
     const bool missing = !record_.Find(code);
     if (was == now) return;
-    // A point is written as a whole: a missing coordinate goes after the one that precedes it.
+    // A point is written completely: a missing coordinate is added after the preceding one.
     record_.Set(code, RealText(now.x), {72, 50, 1, 40, 30});
     if (missing || was.y != now.y) record_.Set(code + 10, RealText(now.y), {code, 72, 50, 1, 40, 30});
     if (missing || was.z != now.z) record_.Set(code + 20, RealText(now.z), {code + 10, code, 72, 50, 1, 40, 30});
 }
 
-// What was damaged before can't be written back.
+// Damaged text cannot be written back.
 void LookWriter::CheckText(std::string_view stored) const {
     const TextDecoder& decoder = drawing_.in_.decoder;
     if (decoder.Encode(decoder.Decode(stored)) != stored)
@@ -227,7 +228,7 @@ void LookWriter::PutText(const MText& now) {
     if (was.text != now.text) PutParagraphs(now.text);
 }
 
-// In pieces: of code 3, and the last one of code 1.
+// In pieces: code 3, and code 1 for the last one.
 void LookWriter::PutParagraphs(const std::string& text) {
     std::string stored;
     size_t place = record_.PlaceBehind({72, 71, 41, 40});
