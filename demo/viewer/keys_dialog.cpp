@@ -1,4 +1,4 @@
-// The list of keys.
+// CKeysDialog: shows keys and mouse actions.
 
 #include "demo/viewer/keys_dialog.h"
 
@@ -12,27 +12,27 @@ struct Row {
     const char* keys;
     const char* meaning;
 };
-constexpr Row kRows[] = {{"Click", "select; Ctrl adds or takes away, Shift adds"},
-                         {"Drag to the right", "select what is inside"},
-                         {"Drag to the left", "select also what is crossed"},
-                         {"Tab, Shift+Tab", "select the next one, the one before"},
-                         {"Ctrl+A, Esc", "select all, nothing"},
-                         {"Ctrl+I", "select all that are similar"},
+constexpr Row kRows[] = {{"Click", "select; Ctrl adds or removes, Shift adds"},
+                         {"Drag to the right", "select what the rectangle contains"},
+                         {"Drag to the left", "select also what it touches"},
+                         {"Tab, Shift+Tab", "select the next, the previous"},
+                         {"Ctrl+A, Esc", "select all; deselect"},
+                         {"Ctrl+I", "select similar graphics"},
                          {"", ""},
                          {"Double click, Alt+Enter", "properties of the selection"},
-                         {"F4, F6", "pane of properties; to it and back"},
-                         {"Ctrl+Z, Ctrl+Y", "take the last change back, make it again"},
-                         {"Ctrl+N", "new style after the selection"},
-                         {"Ctrl+Enter, Ctrl+E", "edit the style, apply it"},
+                         {"F4, F6", "properties pane; move the focus there and back"},
+                         {"Ctrl+Z, Ctrl+Y", "undo, redo"},
+                         {"Ctrl+N", "new style from the selection"},
+                         {"Ctrl+Enter, Ctrl+E", "edit, apply the current style"},
                          {"Ctrl+L", "layers: on, frozen, locked"},
                          {"", ""},
                          {"Wheel, + and -", "zoom"},
                          {"Home, End", "fit the drawing, the selection"},
                          {"Middle button, arrows", "move the drawing"},
-                         {"Ctrl+W", "line weights, or all lines thin"},
+                         {"Ctrl+W", "line weights or thin lines"},
                          {"", ""},
-                         {"Ctrl+O, or drop a file", "open a drawing; Esc gives it up"},
-                         {"Ctrl+S, Ctrl+Shift+S", "save it, under another name"},
+                         {"Ctrl+O, or drop a file", "open a drawing; Esc cancels"},
+                         {"Ctrl+S, Ctrl+Shift+S", "save, save under another name"},
                          {"F1", "in a sheet: help on its page"}};
 
 } // namespace
