@@ -111,6 +111,7 @@ bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         Scroll(window, message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
         return true;
     case WM_MOUSEWHEEL:
+        if (m_contents.cy <= RoomIn(window).cy) return false; // for a parent that scrolls
         ScrollBy(window, CSize(0, ::MulDiv(-static_cast<short>(HIWORD(wParam)), kLinesOfWheel * ScreenPixels(kLine),
                                            WHEEL_DELTA)));
         return true;

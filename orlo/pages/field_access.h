@@ -14,6 +14,9 @@ public:
     // A row with callbacks, and the name by which the page knows its property. The row must outlive the object.
     void Add(const std::string& property, const FieldRow& row) { m_rows[property] = &row; }
 
+    // Returns whether the property tables alone do not have all values, or have too many.
+    bool IsNeeded() const { return m_table.accepts || !m_rows.empty(); }
+
     bool Find(GraphicStruct* graphic, const char* name, int32_t& number) override;
     void Get(GraphicStruct* graphic, int32_t number, int vt, void* value) override;
     int Set(GraphicStruct* graphic, int32_t number, int vt, const void* value) override;

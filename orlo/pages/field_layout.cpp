@@ -22,6 +22,7 @@ constexpr int kTextLine = 8;
 constexpr int kLabelGap = 4; // also between a field and its unit
 constexpr int kNarrowestField = 60;
 constexpr int kRadioPitch = 12;
+constexpr int kBoxWidth = 14; // of a check box, with the gap to its text
 constexpr int kButtonWidth = 50, kButtonPadding = 12;
 constexpr int kDotsWidth = 14;
 constexpr int kSplitGroup = 24; // how much a column may be longer so that a group is in one piece
@@ -123,6 +124,10 @@ private:
         if (IsRadioChoice(Row(row)))
             return kBoxTop + static_cast<int>(Row(row).choices.size()) * kRadioPitch + kBoxBottom - kRowGap;
         if (Row(row).kind == FieldKind::Note) return TextHeight(Row(row).label, column - 2 * m_inset);
+        if (Row(row).kind == FieldKind::Check) {
+            const int lines = TextHeight(Row(row).label, column - 2 * m_inset - kBoxWidth);
+            return std::max<int>(field.kind->height, lines + 2);
+        }
         const int label = field.kind->hasLabel ? TextHeight(Row(row).label, LabelWidth(column)) + 2 : 0;
         return std::max<int>(field.kind->height, label);
     }

@@ -47,7 +47,7 @@ constexpr RowRule kRowRules[] = {
     {[](const FieldRow& row) { return HasValue(row) && row.property.empty() && !row.get; },
      "it has neither a property nor a function that reads the value"},
     {[](const FieldRow& row) { return !HasValue(row) && !row.property.empty(); }, "its kind has no property"},
-    {[](const FieldRow& row) { return row.min > row.max; }, "the lower limit is above the upper one"},
+    {[](const FieldRow& row) { return !(row.min <= row.max); }, "the lower limit is above the upper one"},
     {[](const FieldRow& row) { return row.kind == FieldKind::Choice && row.choices.empty(); }, "it has no choices"},
     {[](const FieldRow& row) { return row.kind != FieldKind::Choice && !row.choices.empty(); },
      "its kind has no choices"},
@@ -163,7 +163,7 @@ void FieldPageParts::MakeTips(HWND page) {
 CFieldPage::CFieldPage(unsigned int nPage, FieldTable table) : CGraphicPropertyPage(nPage, 0) {
     RequireValid(nPage, table);
     m_parts = std::make_unique<FieldPageParts>(std::move(table), kFirstFieldID, kIDsPerField);
-    m_pProperties = &m_parts->access;
+    if (m_parts->access.IsNeeded()) m_pProperties = &m_parts->access;
     FieldLayout layout = LayOutFields(m_parts->fields);
     m_parts->size = m_sizeWanted = layout.size;
     const SIZE size = {layout.size.cx, std::min<LONG>(layout.size.cy, kNewPageHeight)};
