@@ -99,7 +99,8 @@ int Merge(const ObjectSet& set, const char* name, typename Type::Member* member)
 // The set that is written to, and a collection of the graphics whose value was not changed.
 struct WriteTarget {
     ObjectSet set;
-    std::set<const GraphicStruct*>* unchanged; // may be null
+    std::set<const GraphicStruct*>* unchanged;         // may be null
+    std::set<const GraphicStruct*>* changed = nullptr; // receives those that accepted a value; may be null
 };
 
 // After an exception at the graphic that follows last (at the first if last is null), records that graphic and all
@@ -119,7 +120,8 @@ int WriteEach(const WriteTarget& target, const char* name, WriteOne write) {
     const GraphicStruct* last = nullptr;
     try {
         return ForEachProperty(target.set, name, [&](const Property& property) {
-            if (!write(property) && target.unchanged != nullptr) target.unchanged->insert(property.graphic);
+            auto* const outcome = write(property) ? target.changed : target.unchanged;
+            if (outcome != nullptr) outcome->insert(property.graphic);
             last = property.graphic;
             return true;
         });

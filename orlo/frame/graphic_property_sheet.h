@@ -6,6 +6,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 #include "orlo/frame/graphic_preview.h"
 #include "orlo/frame/orlo_property_sheet.h"
@@ -56,6 +58,14 @@ public:
     // Sizes the sheet to the active page.
     virtual void RecalcLayout();
 
+    // Called after a page has written: with the numbers of graphics that accepted a value, and that rejected one.
+    using Written = std::function<void(int changed, int rejected)>;
+    void SetWritten(Written written) { m_written = std::move(written); }
+    bool WantsWritten() const { return m_written != nullptr; }
+    void OnWritten(int changed, int rejected) const {
+        if (m_written) m_written(changed, rejected);
+    }
+
 protected:
     ORLO_API int CreatePreviewRect();
     ORLO_API void DeletePages();
@@ -82,4 +92,5 @@ private:
     CGraphicPreview m_wndPreview;
     int m_bEndWithCode = 0;
     int m_nEndCode = 0;
+    Written m_written;
 };

@@ -27,7 +27,8 @@ ObjectSet PageState::Objects(int bPreview) const {
 }
 
 orlo::binding::WriteTarget PageState::Target(int bPreview) const {
-    return {Objects(bPreview), bPreview || outcome == nullptr ? nullptr : &outcome->Unchanged()};
+    if (bPreview || outcome == nullptr) return {Objects(bPreview), nullptr};
+    return {Objects(bPreview), &outcome->Unchanged(), outcome->Changed()};
 }
 
 void PageState::DisposePreviewGraphic() {

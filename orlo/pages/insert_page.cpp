@@ -16,6 +16,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/loaded_controls.h"
 #include "orlo/frame/sheet_objects.h"
+#include "orlo/frame/write_outcome.h"
 #include "orlo/host/units.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/insert_parts.h"
@@ -112,6 +113,7 @@ void CInsertPage::DoDataExchange(CDataExchange* pDX) {
     if (!pDX->m_bSaveAndValidate) LoadInsertParts(0);
     for (const Field& field : kFields)
         ExchangeField(pDX, field);
+    const WriteOutcome outcome(this);
     if (pDX->m_bSaveAndValidate) ApplyInsertParts(0);
     DDP_PostProcessing(pDX);
 }
@@ -136,11 +138,14 @@ void CInsertPage::ApplyInsertParts(int bPreview) {
     std::vector<const Field*> written;
     for (const Field& field : kFields)
         if (!IsIndeterminate(this->*field.member) && (bPreview || IsEdited(field.nID))) written.push_back(&field);
+    WriteOutcome* outcome = WriteOutcome::Of(*this);
+    auto* const changed = outcome != nullptr && !bPreview && !written.empty() ? outcome->Changed() : nullptr;
     ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true, [&](GraphicStruct* graphic, const InsertParts& parts) {
         InsertParts wanted = parts;
         for (const Field* field : written)
             field->Of(wanted) = this->*field->member;
         ChangeInsertParts(graphic, parts, wanted);
+        if (changed != nullptr) changed->insert(graphic);
         return true;
     });
     if (bPreview) return;
