@@ -146,7 +146,7 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.Create(this, IDC_VIEW) || !m_status.Create(this, IDC_STATUS)) return -1;
-    if (!m_splitter.Create(this, IDC_SPLITTER) || !m_pane.Create(this, IDC_PROPERTIES_PANE)) return -1;
+    if (!m_splitter.Create(this, IDC_SPLITTER) || !m_pane.CreatePane(WS_CHILD, this, IDC_PROPERTIES_PANE)) return -1;
     if (!m_hints.Create(m_hWnd)) return -1;
     ShowSettings();
     m_status.SetDpi(DpiOf(m_hWnd));

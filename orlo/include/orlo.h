@@ -38,6 +38,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
 #include "orlo/frame/orlo_property_sheet.h"
+#include "orlo/frame/sheet_pane.h"
 #include "orlo/host/host.h"
 #include "orlo/pages/brush_page.h"
 #include "orlo/pages/field_page.h"

@@ -52,6 +52,13 @@
 #define IDS_ENTER_LENGTH 131
 #define IDS_ENTER_DATE 132
 
+// The pane around a modeless sheet.
+#define IDS_PANE_APPLY 133
+#define IDS_PANE_RESET 134
+#define IDS_PANE_CLOSE 135
+#define IDS_PANE_HELP 136
+#define IDS_NOTHING_SELECTED 137
+
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 

@@ -126,7 +126,7 @@ TEST_F(Pane, ResetTakesBackToTheLastApply) {
     TypeScale("3");
     user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
     EXPECT_EQ(ScaleOf(0), 3);
-    user.Click(::GetDlgItem(sheet(), ID_PANE_RESET));
+    user.Click(::GetDlgItem(sheet(), kPaneReset));
     EXPECT_EQ(ScaleOf(0), 2);
     EXPECT_EQ(document().UndoSteps(), 1);
 }
@@ -134,7 +134,7 @@ TEST_F(Pane, ResetTakesBackToTheLastApply) {
 TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
     ShowPen();
     TypeScale("2");
-    user.Click(::GetDlgItem(sheet(), ID_VIEW_PROPERTIES));
+    user.Click(::GetDlgItem(sheet(), kPaneClose));
     EXPECT_FALSE(::IsWindowVisible(pane()));
     EXPECT_EQ(ScaleOf(0), 2);
     user.Key(VK_F4);

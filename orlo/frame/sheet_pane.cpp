@@ -1,0 +1,268 @@
+// CSheetPane.
+
+#include "orlo/frame/sheet_pane.h"
+
+#include <commctrl.h>
+
+#include <afxres.h>
+
+#include <algorithm>
+
+#include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/orlo_property_page.h"
+#include "orlo/frame/scroll_area.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+
+namespace {
+
+constexpr UINT kRenew = WM_APP;
+constexpr UINT kNothingId = 1;
+constexpr int kMargin = 8; // pixels
+
+struct Button {
+    unsigned id;
+    UINT text;
+};
+constexpr Button kButtons[] = {
+    {IDOK, IDS_PANE_APPLY}, {kPaneReset, IDS_PANE_RESET}, {kPaneClose, IDS_PANE_CLOSE}, {ID_HELP, IDS_PANE_HELP}};
+
+CRect PlaceIn(HWND parent, HWND window) {
+    CRect rect;
+    ::GetWindowRect(window, rect);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CSheetPane, CWnd)
+
+CSheetPane::CSheetPane() : m_scroll(std::make_unique<ScrollArea>()) {}
+CSheetPane::~CSheetPane() = default;
+
+BOOL CSheetPane::CreatePane(DWORD dwStyle, CWnd* pParent, UINT nID) {
+    const HBRUSH face = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    const LPCSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_ARROW), face);
+    const HWND parent = pParent != nullptr ? pParent->m_hWnd : nullptr;
+    const auto menu = dwStyle & WS_CHILD ? reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)) : nullptr;
+    if (!CreateEx(0, windowClass, LibraryText(IDS_PROPERTIES), dwStyle | WS_CLIPCHILDREN, 0, 0, 0, 0, parent, menu))
+        return FALSE;
+    return m_nothing.Create("STATIC", LibraryText(IDS_NOTHING_SELECTED), WS_CHILD | SS_NOPREFIX, CRect(), this,
+                            kNothingId);
+}
+
+LRESULT CSheetPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (m_scroll->Handle(m_hWnd, message, wParam, lParam)) return 0;
+    switch (message) {
+    case WM_SIZE:
+        m_nothing.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+        m_nothing.MoveWindow(kMargin, kMargin, LOWORD(lParam) - 2 * kMargin, 2 * kMargin);
+        break;
+    case WM_CLOSE:
+        OnCloseButton();
+        return 0;
+    case kRenew:
+        if (m_isStale) Renew();
+        return 0;
+    default:
+        break;
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+int CSheetPane::FittingWidth(int height) const {
+    return m_sheetSize.cx + (m_sheetSize.cy > height ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
+}
+
+void CSheetPane::RevealFocus() {
+    const HWND focus = ::GetFocus();
+    if (focus == m_revealed) return;
+    m_revealed = focus;
+    if (HasFocus() && m_sheet != nullptr && focus != m_sheet->m_hWnd) m_scroll->Reveal(m_hWnd, focus);
+}
+
+// ---- What it shows
+
+void CSheetPane::OnOpen() {}
+void CSheetPane::OnClose() {}
+void CSheetPane::OnApplied() {}
+void CSheetPane::OnReset() {}
+void CSheetPane::OnCloseButton() {
+    Close();
+}
+void CSheetPane::OnEscape() {
+    Reset();
+}
+
+void CSheetPane::Open() {
+    if (m_isOpen) return;
+    m_isOpen = true;
+    OnOpen();
+    Renew();
+    ShowWindow(SW_SHOWNA);
+}
+
+void CSheetPane::Close() {
+    if (!m_isOpen) return;
+    ShowWindow(SW_HIDE);
+    OnClose();
+    m_isOpen = false;
+    DropSheet();
+}
+
+void CSheetPane::Follow() {
+    if (!m_isOpen || m_isStale) return;
+    m_isStale = true;
+    PostMessage(kRenew);
+}
+
+void CSheetPane::Renew() {
+    m_isStale = false;
+    if (!m_isOpen) return;
+    const HWND focus = ::GetFocus();
+    const std::optional<Focus> within = FocusWithin();
+    SendMessage(WM_SETREDRAW, FALSE);
+    DropSheet();
+    m_sheet = NewSheet();
+    if (m_sheet != nullptr && !ShowSheet()) DropSheet();
+    const bool any = m_sheet != nullptr && HasGraphics();
+    m_scroll->SetContents(m_hWnd, any ? m_sheetSize : CSize());
+    if (m_sheet != nullptr) m_sheet->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
+    m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
+    SendMessage(WM_SETREDRAW, TRUE);
+    ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    if (within && any)
+        SetFocusWithin(*within);
+    else if (focus != ::GetFocus())
+        ::SetFocus(::IsWindow(focus) ? focus : ::GetParent(m_hWnd));
+}
+
+void CSheetPane::DropSheet() {
+    m_sheet = nullptr;
+    DeleteSheet();
+}
+
+bool CSheetPane::ShowSheet() {
+    if (!m_sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
+    m_scroll->SetContents(m_hWnd, CSize()); // scrolls to the beginning
+    m_sheet->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    m_sheetSize = PlaceIn(m_hWnd, m_sheet->m_hWnd).Size();
+    ::SetWindowSubclass(m_sheet->m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(this));
+    AddButtons();
+    return true;
+}
+
+// Where a modal sheet has its buttons: in the column beside the page, above the preview.
+void CSheetPane::AddButtons() {
+    const HWND sheet = m_sheet->m_hWnd, page = m_sheet->GetActivePage()->m_hWnd;
+    CRect units(4, 4, 50, 14); // dialog units
+    ::MapDialogRect(page, units);
+    const CSize gap(units.left, units.top), size(units.right, units.bottom);
+    CRect client;
+    ::GetClientRect(sheet, client);
+    const LRESULT font = ::SendMessageA(page, WM_GETFONT, 0, 0);
+    CPoint place(client.right - 2 * gap.cx - size.cx, PlaceIn(sheet, page).top + gap.cy);
+    for (const Button& button : kButtons) {
+        const DWORD kind = button.id == IDOK ? WS_GROUP | BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        const HWND window = ::CreateWindowExA(
+            0, "BUTTON", LibraryText(button.text), WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx,
+            size.cy, sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
+        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
+        place.y += size.cy + gap.cy;
+    }
+    ::SendMessageA(sheet, DM_SETDEFID, IDOK, 0);
+}
+
+// ---- Writing
+
+bool CSheetPane::Apply() {
+    if (!m_isOpen) return true;
+    COrloPropertyPage* page = ActivePage();
+    if (page != nullptr && !m_isStale && page->IsModified()) {
+        const HWND focus = ::GetFocus();
+        if (!page->OnKillActive()) return false;
+        page->OnOK();
+        page->OnSetActive();     // all controls are clean
+        page->UpdateData(FALSE); // shows the values as written, such as "1.5" for "2*3/4"
+        page->SetModified(FALSE);
+        if (::IsChild(page->m_hWnd, focus)) ::SetFocus(focus);
+    }
+    OnApplied();
+    return true;
+}
+
+void CSheetPane::Reset() {
+    if (m_isOpen) OnReset();
+    Follow();
+}
+
+// ---- Keys and buttons
+
+bool CSheetPane::OnButton(unsigned nID) {
+    switch (nID) {
+    case IDOK:
+        Apply();
+        return true;
+    case IDCANCEL:
+        OnEscape();
+        return true;
+    case kPaneReset:
+        Reset();
+        return true;
+    default:
+        return false;
+    }
+}
+
+BOOL CSheetPane::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (OnButton(LOWORD(wParam))) return TRUE;
+    if (LOWORD(wParam) != kPaneClose) return CWnd::OnCommand(wParam, lParam);
+    OnCloseButton();
+    return TRUE;
+}
+
+LRESULT CALLBACK CSheetPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                            DWORD_PTR pane) {
+    auto* self = reinterpret_cast<CSheetPane*>(pane);
+    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(sheet, OnSheetMessage, id);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (message == WM_COMMAND && (control == nullptr || ::GetParent(control) == sheet)) {
+        const unsigned button = LOWORD(wParam);
+        if (button == IDOK || button == IDCANCEL || button == kPaneReset) return self->SendMessage(WM_COMMAND, button);
+        if (button == kPaneClose) // deletes the sheet and this button
+            return self->PostMessage(WM_COMMAND, button);
+    }
+    return ::DefSubclassProc(sheet, message, wParam, lParam);
+}
+
+// Returns null for a page of another class, which a regen method can add.
+COrloPropertyPage* CSheetPane::ActivePage() const {
+    CPropertyPage* page = m_sheet != nullptr ? m_sheet->GetActivePage() : nullptr;
+    const bool isOrlos = page != nullptr && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
+    return isOrlos ? static_cast<COrloPropertyPage*>(page) : nullptr;
+}
+
+std::optional<CSheetPane::Focus> CSheetPane::FocusWithin() const {
+    const COrloPropertyPage* page = ActivePage();
+    HWND control = ::GetFocus();
+    if (page == nullptr || !HasFocus() || control == m_sheet->m_hWnd || control == page->m_hWnd) return std::nullopt;
+    const bool inPage = ::IsChild(page->m_hWnd, control);
+    while (::GetParent(control) != (inPage ? page->m_hWnd : m_sheet->m_hWnd)) // the edit field of a combo box
+        control = ::GetParent(control);
+    return Focus{inPage, ::GetDlgCtrlID(control)};
+}
+
+void CSheetPane::SetFocusWithin(const Focus& focus) {
+    const CWnd* parent = focus.inPage ? static_cast<CWnd*>(ActivePage()) : m_sheet;
+    const HWND control = parent != nullptr ? ::GetDlgItem(parent->m_hWnd, focus.control) : nullptr;
+    if (control == nullptr || !::IsWindowVisible(control)) return TakeFocus();
+    m_sheet->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
+void CSheetPane::TakeFocus() {
+    if (m_isStale) Renew();
+    if (m_sheet == nullptr || !m_sheet->IsWindowVisible()) return;
+    const HWND first = ::GetNextDlgTabItem(m_sheet->GetActivePage()->m_hWnd, nullptr, FALSE);
+    m_sheet->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+}

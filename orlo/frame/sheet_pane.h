@@ -1,0 +1,105 @@
+// A window that shows the sheet modeless, over whatever is selected at the time: a pane beside the drawing, or a window
+// of its own. It has the buttons Apply, Reset, Close and Help.
+//
+//   class CMyPane : public CSheetPane {
+//       CGraphicPropertySheet* NewSheet() override { ... }     // over the current selection
+//       void DeleteSheet() override { m_sheet.reset(); }
+//       ...
+//   };
+//   pane.CreatePane(WS_CHILD, &frame, IDC_PANE);
+//   pane.Open();
+//   if (pane.Apply()) { ...; pane.Follow(); }                   // before and after another selection
+//
+// A page writes its values when the user leaves it, by Apply or for another page.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <optional>
+
+#include "orlo/export.h"
+
+class CGraphicPropertySheet;
+class COrloPropertyPage;
+class ScrollArea;
+
+// Identifiers of the buttons. Apply is IDOK, help ID_HELP.
+enum PaneButton : unsigned { kPaneReset = 3996, kPaneClose = 3997 };
+
+class ORLO_API CSheetPane : public CWnd {
+    DECLARE_DYNAMIC(CSheetPane)
+public:
+    CSheetPane();
+    ~CSheetPane() override;
+
+    // Creates the window, hidden: a child with WS_CHILD in dwStyle, else a window that pParent owns. Returns false if
+    // it cannot be created.
+    BOOL CreatePane(DWORD dwStyle, CWnd* pParent, UINT nID);
+
+    bool IsOpen() const { return m_isOpen; }
+    void Open();
+    // Hides the window and deletes the sheet. Typed values that were not applied are discarded.
+    void Close();
+
+    // Replaces the sheet by one over what is selected now. Follow does so after the current message, Renew at once.
+    void Follow();
+    void Renew();
+    // Writes what was typed. Returns false if a page refuses it; the user has been told, and the field has the focus.
+    bool Apply();
+    // Discards typed values and calls OnReset.
+    void Reset();
+
+    // Returns the width in pixels at which a pane of that height shows the whole sheet.
+    int FittingWidth(int height) const;
+    // Scrolls to the control with the focus if it has just got it. To be called for the messages of the pane.
+    void RevealFocus();
+    bool HasFocus() const { return ::IsChild(m_hWnd, ::GetFocus()) != FALSE; }
+    // Sets the focus to the first field of the page.
+    void TakeFocus();
+
+protected:
+    // Creates a sheet over what is selected, or over nothing, without a window. The derived class owns it until
+    // DeleteSheet is called. Returns null if nothing can be shown.
+    virtual CGraphicPropertySheet* NewSheet() = 0;
+    virtual void DeleteSheet() = 0;
+    // Returns whether the sheet is over any graphics; if not, a text is shown in its place.
+    virtual bool HasGraphics() const = 0;
+    virtual void OnOpen();        // before the first sheet
+    virtual void OnClose();       // before the sheet is deleted
+    virtual void OnApplied();     // after an Apply that was not refused
+    virtual void OnReset();       // undo what was written since the last Apply
+    virtual void OnCloseButton(); // here: Close
+    virtual void OnEscape();      // here: Reset
+
+    CGraphicPropertySheet* Sheet() const { return m_sheet; }
+    // Returns the size of the whole sheet in pixels.
+    CSize SheetSize() const { return m_sheetSize; }
+    // Deletes the sheet; a later Follow or Renew creates another.
+    void DropSheet();
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+private:
+    struct Focus { // a control in the sheet
+        bool inPage;
+        int control;
+    };
+
+    COrloPropertyPage* ActivePage() const;
+    std::optional<Focus> FocusWithin() const;
+    void SetFocusWithin(const Focus& focus);
+    bool ShowSheet();
+    void AddButtons();
+    bool OnButton(unsigned nID);
+    static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                           DWORD_PTR pane);
+
+    CGraphicPropertySheet* m_sheet = nullptr; // the derived class's
+    CWnd m_nothing;                           // says that nothing is selected
+    std::unique_ptr<ScrollArea> m_scroll;
+    CSize m_sheetSize;
+    bool m_isOpen = false;
+    bool m_isStale = false;    // the sheet is to be replaced
+    HWND m_revealed = nullptr; // the control that RevealFocus has seen last
+};
