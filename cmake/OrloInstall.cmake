@@ -28,7 +28,8 @@ install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN example
 install(DIRECTORY packaging/licenses DESTINATION ${CMAKE_INSTALL_DOCDIR})
 set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
 install(DIRECTORY packaging/example/ DESTINATION ${examples})
-install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp docs/examples/c_host.c
+install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp docs/examples/field_page.cpp
+        docs/examples/c_host.c docs/examples/c_page.c
         DESTINATION ${examples})
 install(DIRECTORY skeleton DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo)
 # The adapter has the name of the reference database; a host that uses it ships it instead.

@@ -6,19 +6,6 @@
 #include "orlo/controls/combo_control.h"
 
 namespace orlo {
-namespace {
-
-void RequireOwnThread(HWND owner) {
-    if (AfxGetThread() == nullptr && AfxGetApp() != nullptr)
-        Refuse(kOrloBadThread, "the framework is running on another thread");
-    if (owner == nullptr) return;
-    if (!::IsWindow(owner)) Refuse(kOrloBadArgument, "owner is not a window");
-    if (::GetWindowThreadProcessId(owner, nullptr) != ::GetCurrentThreadId())
-        Refuse(kOrloBadThread, "owner is a window of another thread");
-}
-
-} // namespace
-
 LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_COMMAND && HIWORD(wParam) == kControlReady && lParam != 0) {
         m_onReady(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
@@ -32,21 +19,38 @@ LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
-FrameworkScope::FrameworkScope(HWND owner, ControlReady onReady) : m_main(std::move(onReady)), m_owner(nullptr) {
-    RequireOwnThread(owner);
+std::shared_ptr<FrameworkScope> FrameworkScope::OfThread(const ControlReady& onReady) {
+    thread_local std::weak_ptr<FrameworkScope> current;
+    std::shared_ptr<FrameworkScope> scope = current.lock();
+    if (!scope) current = scope = std::make_shared<FrameworkScope>(onReady);
+    return scope;
+}
+
+FrameworkScope::FrameworkScope(ControlReady onReady) : m_main(std::move(onReady)) {
+    if (AfxGetThread() == nullptr && AfxGetApp() != nullptr)
+        Refuse(kOrloBadThread, "the framework is running on another thread");
     if (AfxGetThread() == nullptr) m_application.emplace();
     m_previousMain = AfxGetThread()->m_pMainWnd;
     if (!m_main.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr))
         RefuseWithSystemError(static_cast<long>(::GetLastError()), "cannot create the main window for the controls");
     AfxGetThread()->m_pMainWnd = &m_main;
-    if (owner == nullptr) return;
-    m_owner = CWnd::FromHandlePermanent(owner);
-    if (m_owner == nullptr && m_ownerObject.Attach(owner)) m_owner = &m_ownerObject;
 }
 
 FrameworkScope::~FrameworkScope() {
-    if (m_ownerObject.m_hWnd != nullptr) m_ownerObject.Detach();
     AfxGetThread()->m_pMainWnd = m_previousMain; // m_main destroys its window
+}
+
+OwnerObject::OwnerObject(HWND owner) {
+    if (owner == nullptr) return;
+    if (!::IsWindow(owner)) Refuse(kOrloBadArgument, "owner is not a window");
+    if (::GetWindowThreadProcessId(owner, nullptr) != ::GetCurrentThreadId())
+        Refuse(kOrloBadThread, "owner is a window of another thread");
+    m_owner = CWnd::FromHandlePermanent(owner);
+    if (m_owner == nullptr && m_object.Attach(owner)) m_owner = &m_object;
+}
+
+OwnerObject::~OwnerObject() {
+    if (m_object.m_hWnd != nullptr) m_object.Detach();
 }
 
 } // namespace orlo

@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "orlo/controls/control_fill.h"
@@ -25,25 +26,40 @@ private:
     ControlReady m_onReady;
 };
 
-// Scopes of one thread can be nested.
+// The framework of a thread for as long as a sheet is open on it. All sheets of a thread share it, so the order in
+// which they are closed does not matter.
 class FrameworkScope {
 public:
-    // owner is null or a window of this thread. Throws Refusal if it is neither, if the framework runs on another
-    // thread, or if the main window cannot be created.
-    FrameworkScope(HWND owner, ControlReady onReady);
+    // Returns the scope of this thread. A new one passes the controls to onReady. Throws Refusal if the framework runs
+    // on another thread, or if the main window cannot be created.
+    static std::shared_ptr<FrameworkScope> OfThread(const ControlReady& onReady);
+
+    explicit FrameworkScope(ControlReady onReady);
     ~FrameworkScope();
     FrameworkScope(const FrameworkScope&) = delete;
     FrameworkScope& operator=(const FrameworkScope&) = delete;
-
-    // Returns the owner's window object, or null if there is no owner.
-    CWnd* Owner() { return m_owner; }
 
 private:
     std::optional<CWinApp> m_application; // created only if the program has none
     CWnd* m_previousMain;
     MainWindow m_main;
-    CWnd m_ownerObject; // for an owner window without a framework object
-    CWnd* m_owner;
+};
+
+// The framework's object of a window that owns a sheet.
+class OwnerObject {
+public:
+    // owner is null or a window of this thread. Throws Refusal if it is neither.
+    explicit OwnerObject(HWND owner);
+    ~OwnerObject();
+    OwnerObject(const OwnerObject&) = delete;
+    OwnerObject& operator=(const OwnerObject&) = delete;
+
+    // Returns null if there is no owner.
+    CWnd* Get() { return m_owner; }
+
+private:
+    CWnd m_object; // for a window without a framework object
+    CWnd* m_owner = nullptr;
 };
 
 } // namespace orlo

@@ -7,7 +7,8 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <system_error>
+
+#include "orlo/win/encoded_text.h"
 
 namespace orlo {
 namespace {
@@ -41,9 +42,13 @@ void Refuse(OrloResult result, const char* text) {
 }
 
 void RefuseWithSystemError(long error, const char* what) {
-    std::string text = std::system_category().message(error);
+    wchar_t message[512] = L"";
+    const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
+    ::FormatMessageW(flags, nullptr, static_cast<DWORD>(error), 0, message, ARRAYSIZE(message), nullptr);
+    std::string text = Narrow(message, CP_UTF8);
     while (!text.empty() && std::strchr("\r\n. ", text.back()) != nullptr)
         text.pop_back();
+    if (text.empty()) text = "error " + std::to_string(error);
     throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError, std::string(what) + ": " + text};
 }
 

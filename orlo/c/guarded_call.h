@@ -3,6 +3,7 @@
 
 #include <orlo_c.h>
 
+#include <cstring>
 #include <functional>
 #include <string>
 
@@ -36,6 +37,18 @@ Record& RequireRecord(Record* record, const char* name) {
     if (RequireNotNull(record, name).size != sizeof(Record))
         Refuse(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
     return *record;
+}
+
+// Returns a copy of a record of this version or an earlier one; members that it lacks are 0. `least` is the size of the
+// first version. Throws Refusal if the record is null or of another size.
+template <class Record>
+Record CopyRecord(const Record* record, const char* name, size_t least = sizeof(Record)) {
+    const size_t size = RequireNotNull(record, name).size;
+    if (size < least || size > sizeof(Record))
+        Refuse(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
+    Record copy = {};
+    std::memcpy(&copy, record, size);
+    return copy;
 }
 
 } // namespace orlo

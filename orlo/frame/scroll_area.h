@@ -8,6 +8,8 @@ class ScrollArea {
 public:
     // Sets the size of the contents in pixels; empty: nothing to scroll.
     void SetContents(HWND window, CSize contents);
+    // Returns where the upper left corner of the contents is in the window.
+    CPoint Place() const { return m_place; }
     // Handles the messages of the window that scroll or resize it. Returns whether this was one that must not go on.
     bool Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     // Scrolls as far as needed to show a control in the window, a child or a descendant.

@@ -145,8 +145,8 @@ void CSheetPane::DropSheet() {
 
 bool CSheetPane::ShowSheet() {
     if (!m_sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
-    m_scroll->SetContents(m_hWnd, CSize()); // scrolls to the beginning
-    m_sheet->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const CPoint place = m_scroll->Place(); // the pane stays scrolled as far as the new sheet allows
+    m_sheet->SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     m_sheetSize = PlaceIn(m_hWnd, m_sheet->m_hWnd).Size();
     ::SetWindowSubclass(m_sheet->m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(this));
     AddButtons();

@@ -1,7 +1,8 @@
 // The C interface of the library, for programs in C and in every language and compiler that can call C.
 //
 //   if (OrloGetVersion() < ORLO_VERSION) ...             the library is older than this header
-//   OrloSheet sheet = {sizeof sheet};                    the other members are 0
+//   OrloSheet sheet = {0};
+//   sheet.size = sizeof sheet;
 //   sheet.filter = kAllGraphics;
 //   sheet.owner = window;
 //   sheet.drawing = drawing;
@@ -58,8 +59,9 @@ typedef enum OrloResult {
     kOrloNotEncodable = 8,   // the text cannot be represented in the code page of the section
     kOrloSystemError = 9,    // a system call failed: file, stream or window
     kOrloOutOfMemory = 10,
-    kOrloFailed = 11, // any other failure
-    kOrloChanged = 12 // the stream in the file has changed since the set was read
+    kOrloFailed = 11,      // any other failure
+    kOrloChanged = 12,     // the stream in the file has changed since the set was read
+    kOrloInvalidInput = 13 // a field of the sheet is not valid; the user has been told, and the field has the focus
 } OrloResult;
 
 // Copies the message for the last function that failed on this thread: at most size bytes, including the NUL. Returns
@@ -89,6 +91,104 @@ typedef struct OrloFill {
 // Called on the thread of OrloRunSheet when a control was created. context is OrloSheet::context. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
+// ---- Pages of the host
+
+// What a field edits. The value types are those of property tables (orlo/host/records.h); the third column is the
+// member of OrloValue.
+typedef enum OrloFieldKind {
+    kOrloFieldText = 1,        // VT_BSTR  text    one line
+    kOrloFieldLines = 2,       // VT_BSTR  text    several lines, separated by "\r\n"
+    kOrloFieldInteger = 3,     // VT_I4    number
+    kOrloFieldNumber = 4,      // VT_R8    number  up to 10 significant digits are shown
+    kOrloFieldLength = 5,      // VT_R8    number  in drawing units; shown and read as the drawing writes lengths
+    kOrloFieldAngle = 6,       // VT_R8    number  in radians; shown and read as the drawing writes angles
+    kOrloFieldScale = 7,       // VT_R8    number  a factor
+    kOrloFieldCheck = 8,       // VT_BOOL  number  0 or 1
+    kOrloFieldChoice = 9,      // VT_I4    number  index in OrloField::choices: radio buttons up to three, else a list
+    kOrloFieldDate = 10,       // VT_R8    number  days since 1899-12-30, as in VT_DATE
+    kOrloFieldColor = 11,      // VT_UI4   number  a COLORREF or a marker such as kColorByLayer
+    kOrloFieldLayer = 12,      // VT_UI4   number  entry of kTableLayers
+    kOrloFieldLineStyle = 13,  // VT_UI4   number  entry of kTableLineStyles or a marker such as kLineStyleByLayer
+    kOrloFieldBrushStyle = 14, // VT_UI4   number  entry of kTableBrushStyles or kBrushStyleNone
+    kOrloFieldFontFace = 15,   // VT_BSTR  text    name of a face
+    kOrloFieldFontHeight = 16, // VT_R8    number  in drawing units
+    kOrloFieldButton = 17, // no value: a push button; with the label "..." it stands at the end of the previous field
+    kOrloFieldNote = 18    // no value: the label is shown as text
+} OrloFieldKind;
+
+// Flags of a field.
+enum {
+    kOrloFieldReadOnly = 1,
+    kOrloFieldInPreview = 2, // the page shows a copy of the first graphic as its preview, with this property as edited
+    kOrloFieldByCallback = 4 // OrloPage::get and set replace the property table
+};
+
+// One field of a page. Unused members are 0. The strings and arrays must stay valid until the sheet is closed.
+typedef struct OrloField {
+    uint32_t size;        // sizeof(OrloField); all fields of a page have the same size
+    uint32_t kind;        // an OrloFieldKind
+    const char* label;    // required; an ampersand precedes the mnemonic, which is removed if an earlier field has it
+    const char* property; // name of the property; null for a button or a note, can be null with kOrloFieldByCallback
+    const char* group;    // consecutive fields of one group share a box with this title
+    const char* unit;     // shown after the field
+    const char* help;     // tooltip, and passed to OrloPage::status
+    const char* const* choices; // of kOrloFieldChoice
+    uint32_t choiceCount;
+    uint32_t flags; // kOrloFieldReadOnly and others
+    double min;     // limits of a number, inclusive; equal limits mean none
+    double max;     // of a text: the largest number of bytes
+} OrloField;
+
+typedef struct OrloValue {
+    uint32_t size; // set by the library
+    double number;
+    const char* text; // UTF-8. Of `get`, it must stay valid until the next call of a callback; null is an empty text
+} OrloValue;
+
+// Callbacks of a page; context is OrloPage::context, field the index in OrloPage::fields. They are called on the thread
+// of the sheet and must not throw.
+//
+// Get stores the value, Set changes it. They return 0 if the graphic has no such property, or does not accept the
+// value, and must not keep the graphic: it can be the copy in the preview.
+typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
+                                         OrloValue* value);
+typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
+                                         const OrloValue* value);
+// Called with an edited value within the limits. Returns 0 if it is not valid and stores a message (UTF-8, at most size
+// bytes with the NUL), which the user is shown.
+typedef int32_t(ORLO_CALL* OrloCheckField)(void* context, uint32_t field, const OrloValue* value, char* message,
+                                           size_t size);
+// Called when a button is pressed. Returns non-zero if it has changed graphics: fields that are not edited are then
+// read again.
+typedef int32_t(ORLO_CALL* OrloPressField)(void* context, uint32_t field);
+// Called with the help text of the field that gets the focus; empty if it has none.
+typedef void(ORLO_CALL* OrloFieldStatus)(void* context, const char* help);
+// Returns whether the page is for a graphic. The values of others are neither shown nor changed.
+typedef int32_t(ORLO_CALL* OrloAcceptGraphic)(void* context, struct GraphicStruct* graphic);
+
+// A page of the host, laid out by the library. The sheet gets it if it is for one of the selected graphics.
+typedef struct OrloPage {
+    uint32_t size;   // sizeof(OrloPage)
+    uint32_t number; // identifies the page in its sheet: 1 to 28999
+    const char* caption;
+    const OrloField* fields;
+    uint32_t fieldCount; // 1 to 1000
+    uint32_t typeCount;
+    const uint8_t* types;      // types of graphics that the page is for (kGraphicPenBrush, ...); null: all
+    OrloAcceptGraphic accepts; // null: all of these types
+    OrloGetField get;          // required if a field has kOrloFieldByCallback
+    OrloSetField set;          // required if such a field is not read-only
+    OrloCheckField check;      // null: the limits are the only check
+    OrloPressField press;      // required if a field is a button
+    OrloFieldStatus status;    // can be null
+    void* context;             // passed to the callbacks
+} OrloPage;
+
+// Called after a page has written: with the numbers of graphics that accepted a value, and that rejected one.
+typedef void(ORLO_CALL* OrloWrittenCallback)(void* context, uint32_t changed, uint32_t rejected);
+// Called when the user has closed a modeless sheet, or asked to undo what was written since the last Apply.
+typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
+
 typedef struct OrloSheet {
     uint32_t size;                   // sizeof(OrloSheet)
     uint32_t filter;                 // which members of the selection to edit: kAllGraphics, or see GraphicFirst
@@ -97,7 +197,11 @@ typedef struct OrloSheet {
     struct GraphicStruct* selection; // the graphic whose members are edited; null: the sheet edits nothing
     void* regenMethods;              // passed to RegenMethodGetPropPage; may be null
     OrloFillCallback fill;           // null: every control shows its table of the drawing
-    void* context;                   // passed to fill
+    void* context;                   // passed to the callbacks
+    const OrloPage* pages;           // pages of the host, after those of the library; can be null
+    uint32_t pageCount;              // all records have the same size
+    OrloWrittenCallback written;     // can be null
+    OrloSheetCallback closed, reset; // of OrloOpenSheet; can be null
 } OrloSheet;
 
 // Opens the sheet and returns when the user has closed it. *code is 1 after OK, 2 after Cancel, a StyleEndCode, or -1
@@ -105,8 +209,35 @@ typedef struct OrloSheet {
 // whatever the code is.
 //
 // Must be called on the thread of the owner and of the host's drawing. The program does not have to use the framework.
-// Fails with kOrloBadThread on another thread and with kOrloBadArgument if owner is not a window.
+// Fails with kOrloBadThread on another thread, and with kOrloBadArgument if owner is not a window or a page is not
+// valid: the message then names the page and the field.
 ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code);
+
+// ---- The sheet beside the drawing
+
+// A modeless sheet in a window of its own, which the owner owns: with the buttons Apply, Reset, Close and Help. A page
+// writes its values when the user leaves it, by Apply or for another page.
+typedef struct OrloSheetWindow__* OrloSheetHandle;
+struct tagMSG;
+
+// Opens a modeless sheet. The caller closes it with OrloSheetClose. drawing and selection must stay valid until then,
+// or until OrloSheetFollow passes another selection; the records of pages too. Fails like OrloRunSheet.
+ORLO_C_API OrloResult ORLO_CALL OrloOpenSheet(const OrloSheet* sheet, OrloSheetHandle* handle);
+// Handles keys and other messages of the modeless sheets of this thread. Call it in the message loop, before
+// TranslateMessage. Returns 1 if the message was handled and must not be dispatched, else 0.
+ORLO_C_API int32_t ORLO_CALL OrloSheetTakesMessage(struct tagMSG* message);
+// Stores the window of the sheet, to move it for example.
+ORLO_C_API OrloResult ORLO_CALL OrloSheetGetWindow(OrloSheetHandle handle, struct HWND__** window);
+// Applies what was typed, then shows the properties of another selection, or of changed graphics; null: nothing is
+// selected. Shows the window again if the user has closed it. Fails with kOrloInvalidInput if a field is not valid: the
+// sheet then stays over the previous selection, which must stay valid.
+ORLO_C_API OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, struct GraphicStruct* selection);
+// Writes what was typed. Fails with kOrloInvalidInput if a field is not valid.
+ORLO_C_API OrloResult ORLO_CALL OrloSheetApply(OrloSheetHandle handle);
+// Discards what was typed and shows the values of the graphics.
+ORLO_C_API OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle);
+// Closes the sheet without writing. Must not be called by a callback of the sheet.
+ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
 
 // ---- Property sets and summaries of documents
 

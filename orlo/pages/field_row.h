@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "orlo/host/records.h"
@@ -44,6 +45,10 @@ struct FieldValue {
 
 // One row. All texts are in the code page of the system.
 struct FieldRow {
+    FieldRow() = default;
+    FieldRow(FieldKind itsKind, std::string itsLabel, std::string itsProperty = "", std::string itsGroup = "")
+        : kind(itsKind), label(std::move(itsLabel)), property(std::move(itsProperty)), group(std::move(itsGroup)) {}
+
     FieldKind kind = FieldKind::Text;
     // An ampersand precedes the mnemonic. One that an earlier row has already is removed.
     std::string label;

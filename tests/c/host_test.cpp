@@ -2,6 +2,9 @@
 
 #include "support/host_process.h"
 
+#include <commctrl.h>
+
+#include "orlo/pages/field_page.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -16,6 +19,22 @@ TEST_F(CHost, OfTheGuideShowsTheTablesOfItsDrawing) {
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
     EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
+    ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
+    EXPECT_EQ(ExitCode(), 0u);
+}
+
+TEST_F(CHost, OfTheGuideHasAPageOfItsOwn) {
+    Start(std::string("c_page.exe") + kDrawing);
+    const HWND sheet = Sheet();
+    ASSERT_NE(sheet, nullptr);
+    const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
+    for (LRESULT page = Ask(tabs, TCM_GETITEMCOUNT); page > 1; --page) // to the last one
+        PressInTabs(sheet, VK_RIGHT);
+    const HWND price = Visible(sheet, CFieldPage::FieldID(0));
+    ASSERT_NE(price, nullptr);
+    ::PostMessageA(price, EM_SETSEL, 0, -1);
+    for (const char key : {'1', '9', '.', '9', '9'})
+        ::PostMessageA(price, WM_CHAR, static_cast<WPARAM>(key), 1);
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "drawcore/application.h"
 #include "support/graphic_kit.h"
 #include "support/host_frame.h"
 
@@ -63,6 +64,10 @@ TEST(CSheet, RejectsInvalidArguments) {
     sheet.size = sizeof sheet;
     EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument); // no drawing
     sheet.drawing = kit.Drawing();
+    ::AppSetCurrentDrawing(nullptr);
+    EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument);
+    EXPECT_EQ(ErrorText(), "sheet->drawing is not the current drawing");
+    ::AppSetCurrentDrawing(kit.Drawing());
     EXPECT_EQ(OrloRunSheet(&sheet, nullptr), kOrloBadArgument);
     sheet.owner = reinterpret_cast<HWND>(uintptr_t{0x1234});
     EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument);
