@@ -14,23 +14,23 @@ namespace {
 // Covers properties with a group, without one, and with an optional one.
 void ChangeAll(dxf::DrawingPatch& patch, const std::vector<dxf::Entity>& entities) {
     for (const dxf::Entity& entity : entities) {
-        dxf::Look look = dxf::LookOf(patch.Known(), entity);
-        look.color = 0x00123456;
-        dxf::SetExtended(look, {kPropInfo, "a^b\n\u4E57", {}});
-        look.width = 0.0123;
-        look.worldWidth = !look.worldWidth;
-        look.dashesFitted = !look.dashesFitted;
-        look.lineType = patch.FindLineType("Dotted");
-        look.layer = patch.FindLayer("new");
-        look.brush.scale = 3;
-        look.brush.angle = 1;
-        look.text.height *= 2;
-        look.text.style ^= 0x0143;
-        look.text.format = 2;
-        look.text.font = "Verdana";
+        dxf::Appearance appearance = dxf::AppearanceOf(patch.Known(), entity);
+        appearance.color = 0x00123456;
+        dxf::SetExtended(appearance, {kPropInfo, "a^b\n\u4E57", {}});
+        appearance.width = 0.0123;
+        appearance.worldWidth = !appearance.worldWidth;
+        appearance.dashesFitted = !appearance.dashesFitted;
+        appearance.lineType = patch.FindLineType("Dotted");
+        appearance.layer = patch.FindLayer("new");
+        appearance.brush.scale = 3;
+        appearance.brush.angle = 1;
+        appearance.text.height *= 2;
+        appearance.text.style ^= 0x0143;
+        appearance.text.format = 2;
+        appearance.text.font = "Verdana";
         const dxf::AxisEnds placement =
             dxf::AxisEndsOf(drawcore::Matrix::Scaling({2, -3, 4}) * drawcore::Matrix::Translation({1, 2, 3}));
-        patch.Change(entity.offset, look, {&placement, nullptr});
+        patch.Change(entity.offset, appearance, {&placement, nullptr});
     }
 }
 

@@ -77,7 +77,7 @@ bool Document::Save(const std::string& path, bool overChanged, const Progress& p
         return true;
     case kSaveFileChanged:
         return false;
-    case kSaveCancelled:
+    case kSaveCanceled:
         throw Canceled();
     default:
         throw SaveError(path + "\n\n" + Utf8FromSystem(message));

@@ -35,7 +35,7 @@ public:
     // permille: the completed share. Return false to cancel.
     using Progress = std::function<bool(int permille)>;
 
-    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Cancelled;
+    // Reads a DXF drawing (path in UTF-8) and makes it the application's current one. Throws OpenError or Canceled;
     // the current drawing then does not change.
     static std::unique_ptr<Document> Open(const std::string& path, const Progress& progress);
 
@@ -46,7 +46,7 @@ public:
     // saved state.
     bool IsModified() const;
     // Writes the drawing to a file and makes that its file. Returns false, without writing, if another program has
-    // changed the file that it was opened from, unless overChanged is set. Throws SaveError or Cancelled; nothing is
+    // changed the file that it was opened from, unless overChanged is set. Throws SaveError or Canceled; nothing is
     // written then.
     bool Save(const std::string& path, bool overChanged, const Progress& progress);
 

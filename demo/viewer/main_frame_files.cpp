@@ -57,7 +57,7 @@ bool CMainFrame::Open(const std::string& path) {
         RecentFiles::Add(path);
         return true;
     } catch (const Canceled&) {
-        m_status.ShowMessage("Opening " + name + " was cancelled");
+        m_status.ShowMessage("Opening " + name + " was canceled");
     } catch (const OpenError& error) {
         AfxMessageBox(SystemText(error.what()).c_str());
     }
@@ -134,7 +134,7 @@ bool CMainFrame::Save(const std::string& path) {
             SaveTo(path, true);
         }
     } catch (const Canceled&) {
-        m_status.ShowMessage("Saving was cancelled; the file is as it was");
+        m_status.ShowMessage("Saving was canceled; the file was not changed");
         return false;
     } catch (const SaveError& error) {
         AfxMessageBox(SystemText(error.what()).c_str());

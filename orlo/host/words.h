@@ -31,7 +31,7 @@ enum {
 // Values of kPropTextFormat.
 enum { kTextLeft = 0, kTextCenter = 1, kTextRight = 2 };
 
-// How ViewportSetExtents fits extents into the rectangle.
+// Ways to fit extents into the rectangle of a viewport (ViewportSetExtents).
 enum { kFitWhole = 3 }; // width and height
 
 // Types of graphics (GraphicStruct::bType).

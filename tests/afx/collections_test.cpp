@@ -48,7 +48,7 @@ TEST(ObjectList, KeepsItsOrderThroughChanges) {
     EXPECT_EQ(&a, list.GetTail());
 }
 
-TEST(ObjectList, AnElementMayGoWhileTheWalkStandsBehindIt) {
+TEST(ObjectList, AnElementBeforeThePositionCanBeRemoved) {
     Item items[5];
     CObList list;
     for (Item& item : items)

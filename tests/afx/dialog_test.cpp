@@ -84,7 +84,7 @@ TEST(Dialog, CarriesValuesInAndOut) {
         IDOK);
 }
 
-TEST(Dialog, ARefusedValueKeepsItOpenAndSelectsTheField) {
+TEST(Dialog, AnInvalidValueKeepsItOpenAndSelectsTheField) {
     CForm form;
     MessageBoxWatcher boxes;
     form.onOpen = [&](CForm& dialog) {
@@ -198,7 +198,7 @@ protected:
     }
 };
 
-TEST(Dialog, AnnouncesControlsBeforeTheFirstExchange) {
+TEST(Dialog, InitializesControlsBeforeTheFirstExchange) {
     class CColors : public CForm {
     public:
         CFilled color;

@@ -155,7 +155,7 @@ TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
     });
 }
 
-TEST_F(Sheet, APageThatRefusesStays) {
+TEST_F(Sheet, APageThatCannotBeLeftStays) {
     first.accepts = false;
     const int result = Run([&](SheetDriver& user) {
         user.SelectPage(1);

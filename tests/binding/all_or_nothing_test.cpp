@@ -79,7 +79,7 @@ std::function<void(const std::string&)> AtWidth(Throw fail) {
 }
 
 // A rejected value affects only its property and is reported once, after all other values have been written.
-TEST(WriteBack, WhatAHostRefusesIsCountedAndTheRestIsWritten) {
+TEST(WriteBack, RejectedValuesAreCountedAndOthersWritten) {
     const Refusal kRefusals[] = {
         {"result", nullptr, 2, "1 of 3 graphics could not be changed."},
         {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1, "2 of 3 graphics could not be changed."},
@@ -124,7 +124,7 @@ TEST(WriteBack, StampsTheSelectionAlsoWhenNothingWasDirty) {
 }
 
 // The member of a failed exchange may have been on the stack: its pending write must never be carried out.
-TEST(WriteBack, APendingWriteOfARefusedExchangeIsDropped) {
+TEST(WriteBack, APendingWriteOfAFailedExchangeIsDiscarded) {
     OverTwo over;
     double scale = 0;
     bool bindWidth = true;

@@ -210,7 +210,7 @@ TEST(CPropset, AStreamHasTheSetAndNothingElseAfterwards) {
     stream->Release();
 }
 
-TEST(CPropset, LeavesWhatIsDamagedAlone) {
+TEST(CPropset, DoesNotChangeDamagedSets) {
     OrloPropset set = Opened(kDocument), cut = nullptr;
     size_t size = 0;
     ASSERT_EQ(OrloPropsetSaveMemory(set, nullptr, &size), kOrloOk);
@@ -233,7 +233,7 @@ TEST(CPropset, LeavesWhatIsDamagedAlone) {
     OrloPropsetClose(set);
 }
 
-TEST(CPropset, StoresWhatATypeCanHold) {
+TEST(CPropset, StoresValuesInTheRangeOfTheirTypes) {
     OrloPropset set = nullptr;
     OrloPropsetNew(&set);
     struct {

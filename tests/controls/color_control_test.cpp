@@ -82,7 +82,7 @@ TEST_F(ColorControl, AnItemIsInsertedAheadOfTheExtraEntriesWhereItBelongs) {
     EXPECT_EQ(m_control.AddControlItem("000A0A0A\tDark again"), 0) << "ahead of its equal";
 }
 
-TEST_F(ColorControl, ExtraEntriesStandBehindTheColors) {
+TEST_F(ColorControl, ExtraEntriesFollowTheColors) {
     Add("Red", RGB(255, 0, 0));
     const struct { int extra, last, count; } rows[] = {{0, 0, 1}, {0, 1, 1}, {1, 0, 2}, {1, 1, 3}};
     for (const auto& row : rows) {

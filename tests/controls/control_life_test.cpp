@@ -2,7 +2,7 @@
 
 #include "control_dialog.h"
 
-#include <drawcore/census.h>
+#include <drawcore/object_counts.h>
 
 #include "orlo/controls/brush_style_control_c.h"
 #include "orlo/controls/brush_style_control_l.h"
@@ -80,7 +80,7 @@ TEST_F(Factory, OtherIdentifiersStayPlainControls) {
     EXPECT_EQ(::SendMessageA(combo, CB_GETCOUNT, 0, 0), 2);
 }
 
-TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
+TEST_F(Factory, ControlsNotifyWhenTheyAreCreatedAndDestroyed) {
     EXPECT_EQ(m_host.Count(kControlReady), 22);
     for (const HostWindow::Notification& n : m_host.notifications)
         EXPECT_EQ(KindOf(::GetDlgCtrlID(n.control)), n.kind);
@@ -88,7 +88,7 @@ TEST_F(Factory, ControlsAnnounceTheirKindWhenTheyComeAndWhenTheyGo) {
     EXPECT_EQ(m_host.Count(kControlGone), 22);
 }
 
-TEST(ControlLife, WithoutAnApplicationWindowNobodyIsTold) {
+TEST(ControlLife, WithoutAnApplicationWindowNoNotificationIsSent) {
     PropPageInit();
     CDialog dialog;
     ASSERT_TRUE(dialog.Create(IDD_DRAWN));
@@ -96,11 +96,11 @@ TEST(ControlLife, WithoutAnApplicationWindowNobodyIsTold) {
 }
 
 TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
-    DrawCoreCensus before = {}, after = {};
+    DrawCoreObjectCounts before = {}, after = {};
     {
         HostWindow host;
         for (int i = 0; i < 3; ++i) {
-            if (i == 1) DrawCoreGetCensus(&before);
+            if (i == 1) DrawCoreGetObjectCounts(&before);
             CDialog dialog;
             ASSERT_TRUE(dialog.Create(IDD_FACTORY));
             const HWND colors = ::GetDlgItem(dialog.m_hWnd, IDC_COLOR);
@@ -108,7 +108,7 @@ TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
             EXPECT_EQ(CWnd::FromHandlePermanent(colors), nullptr);
         }
     }
-    DrawCoreGetCensus(&after);
+    DrawCoreGetObjectCounts(&after);
     EXPECT_EQ(before.graphics, after.graphics);
     EXPECT_EQ(before.viewports, after.viewports);
     EXPECT_EQ(before.vertices, after.vertices);

@@ -174,7 +174,7 @@ TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
     EXPECT_NEAR(6.35, HeightOf(text), 1e-6) << "as high as its letters in points";
 }
 
-TEST_F(Fonts, ATextThatIsNoHeightLeavesTheValue) {
+TEST_F(Fonts, TextThatIsNotAHeightLeavesTheValue) {
     FillSizes(0.0f);
     for (const char* text : {"", "high", "5 mm x", "1e999"})
         EXPECT_EQ(HeightOf(text), 77.0) << text;
@@ -191,7 +191,7 @@ TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
     EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(Fonts, NothingIsKeptOfADrawingThatIsTakenAway) {
+TEST_F(Fonts, ForgetTheDrawingOfAClosedTable) {
     FillSizes(5.0f);
     FillFrom(nullptr, m_sizes);
     m_drawing.Close();

@@ -4,8 +4,8 @@
 #include "control_dialog.h"
 
 #include <drawcore/brushstyle.h>
-#include <drawcore/census.h>
 #include <drawcore/linestyle.h>
+#include <drawcore/object_counts.h>
 
 #include <cmath>
 
@@ -166,7 +166,7 @@ TYPED_TEST(StyleControls, WithoutATableOnlyTheBackgroundIsDrawn) {
     EXPECT_EQ(this->Ink(), 0);
 }
 
-TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeTakenAway) {
+TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeRemoved) {
     TypeParam::Add(this->m_table, "Own");
     this->Fill();
     const int item = this->IndexOf("Own");
@@ -232,17 +232,17 @@ TYPED_TEST(StyleControls, TheDrawingMayCloseUnderTheControl) {
 TYPED_TEST(StyleControls, ManyPaintsKeepNothing) {
     TypeParam::Add(this->m_table, "Own");
     this->Fill();
-    DrawCoreCensus before = {}, after = {};
+    DrawCoreObjectCounts before = {}, after = {};
     int objects = 0;
     for (int round = 0; round < 60; ++round) {
         if (round == 10) {
             objects = GdiObjectCount();
-            DrawCoreGetCensus(&before);
+            DrawCoreGetObjectCounts(&before);
         }
         for (int i = 0; i < this->m_control.GetCount(); ++i)
             this->Draw(i, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
     }
-    DrawCoreGetCensus(&after);
+    DrawCoreGetObjectCounts(&after);
     EXPECT_EQ(objects, GdiObjectCount());
     EXPECT_EQ(before.graphics, after.graphics);
     EXPECT_EQ(before.vertices, after.vertices);

@@ -69,7 +69,7 @@ TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
     EXPECT_EQ(this->m_control.GetCurSel(), 0);
 }
 
-TYPED_TEST(TableControl, SelectsNothingForWhatIsNoEntry) {
+TYPED_TEST(TableControl, SelectsNothingForIdentifiersWithoutEntries) {
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_control.AddString("00000000\tZero");
     this->m_control.AddString("0000FFFF\tIndeterminate");
@@ -399,7 +399,7 @@ TEST(ComboClick, OnlyTheButtonOpensTheList) {
     parent.DestroyWindow();
 }
 
-TEST(ControlItem, IsTakenApart) {
+TEST(ControlItem, IsSplit) {
     const struct {
         const char* item;
         unsigned long number;

@@ -119,7 +119,7 @@ TEST_F(MovingPicture, StretchesWhatWasThere) {
     }
 }
 
-TEST_F(MovingPicture, IsTheSameAtRestAsDrawnAnew) {
+TEST_F(MovingPicture, EqualsAFreshDrawingAtRest) {
     for (int round = 0; round < 60; ++round) {
         SCOPED_TRACE(round);
         if (round % 5 == 0)

@@ -35,7 +35,7 @@ TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndEndsWell) {
     EXPECT_EQ(ExitCode(), 0u);
 }
 
-TEST_F(ExampleHost, SaysByItsExitCodeThatThereIsNoDrawing) {
+TEST_F(ExampleHost, ReturnsAnExitCodeWithoutADrawing) {
     StartOver("missing.dxf");
     EXPECT_EQ(ExitCode(), 2u);
 }

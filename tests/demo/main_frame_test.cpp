@@ -23,7 +23,7 @@ void FocusByTab(UserInput& user, int control) {
     ASSERT_EQ(control, ::GetDlgCtrlID(::GetFocus()));
 }
 
-TEST_F(Viewer, KeyboardAloneChangesAndTakesBack) {
+TEST_F(Viewer, KeyboardAloneChangesAndUndoes) {
     const DrawingState before = Properties();
     user.Key('A', UserInput::kControl);
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
@@ -71,7 +71,7 @@ TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
 }
 
 // A page is written when it is left; the drawing shows it, and Cancel undoes it.
-TEST_F(Viewer, CancelTakesBackWhatPagesHaveWritten) {
+TEST_F(Viewer, CancelUndoesWrittenPages) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable().front(), 0.5); });
     user.Key('Z', UserInput::kControl);
     const DrawingState before = Properties();
@@ -169,13 +169,13 @@ TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
     EXPECT_GT(message.Width(), 600 / 5) << "room for what the window says";
 }
 
-TEST_F(Viewer, PropertiesOfNothingOpenNoSheet) {
+TEST_F(Viewer, PropertiesNeedASelection) {
     user.Key(VK_RETURN, UserInput::kAlt);
     EXPECT_EQ(frame->m_hWnd, ::GetActiveWindow());
 }
 
 // The items of a submenu, and selecting one.
-TEST_F(Viewer, SelectionIsToldAndNarrowedByKindsAndLayers) {
+TEST_F(Viewer, SelectionIsSummarizedAndNarrowedByKindsAndLayers) {
     const auto pane = [&](int place) {
         char text[256] = "";
         ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, static_cast<WPARAM>(place),

@@ -93,7 +93,7 @@ TEST_F(Pane, ThePageComesBackWhereThereWasNoSheet) {
     EXPECT_EQ(SheetOf(sheet()).GetActiveIndex(), 1) << "closed and opened";
 }
 
-TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
+TEST_F(Pane, InvalidTextKeepsSelectionAndFocus) {
     ShowPen();
     TypeScale("0");
     const DrawingState before = Properties();
@@ -118,7 +118,7 @@ TEST_F(Pane, WhatAPageRefusesKeepsSelectionAndFocus) {
     EXPECT_TRUE(before == Properties());
 }
 
-TEST_F(Pane, ResetTakesBackToTheLastApply) {
+TEST_F(Pane, ResetUndoesToTheLastApply) {
     ShowPen();
     TypeScale("4/2");
     user.Key(VK_RETURN);
@@ -185,7 +185,7 @@ TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
 }
 
 // In the status bar for the focused field, and in a tooltip for the field under the pointer, with the same text.
-TEST_F(Pane, TellsWhatDiffersInAField) {
+TEST_F(Pane, ShowsTheValuesThatDiffer) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[1], 10 / 25.4); });
     user.Key('A', UserInput::kControl);
     const auto message = [&] {
@@ -261,7 +261,7 @@ TEST_F(Pane, ItsPreviewKnowsTheColorOfTheLayer) {
     EXPECT_EQ(green(), 0);
 }
 
-TEST_F(Pane, FiftySelectionsLeaveNothingBehind) {
+TEST_F(Pane, FiftySelectionsLeakNothing) {
     const auto walk = [&](int count) {
         for (int i = 0; i < count; ++i) {
             ::SetFocus(view());

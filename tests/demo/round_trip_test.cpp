@@ -15,7 +15,7 @@ TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
                                          TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
 }
 
-TEST_F(Viewer, KeysReachTheWindowThatHadTheFocusOrNobody) {
+TEST_F(Viewer, KeysReachOnlyTheWindowThatHadTheFocus) {
     user.Wait(0);
     ::SetFocus(nullptr); // as when a window of another program is activated
     user.Key('A', UserInput::kControl);

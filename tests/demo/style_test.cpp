@@ -157,7 +157,7 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
 }
 
 // A page of a style is also written when it is left.
-TEST_F(Styles, CancelTakesBackWhatPagesHaveWritten) {
+TEST_F(Styles, CancelUndoesWrittenPages) {
     SelectOnly({10, 5});
     Make("Red");
     ASSERT_TRUE(frame->Save(file.Path()));

@@ -95,7 +95,7 @@ TEST_F(History, AChangeOfLayersEndsWhatCouldBeRedone) {
 TEST_F(History, StepsThatTheDatabaseHasDroppedTakeOlderOnesWithThem) {
     Lock();
     SetWidth(0.1);
-    ::DrawingSetUndoRoom(document().Drawing(), 1);
+    ::DrawingSetUndoLimit(document().Drawing(), 1);
     SetWidth(0.2);
     EXPECT_EQ(document().UndoSteps(), 1);
     Undo();

@@ -51,7 +51,7 @@ TEST_F(Viewer, ClicksSelectAddAndTakeAway) {
     EXPECT_EQ(selection().Count(), 0);
 }
 
-TEST_F(Viewer, WindowWithControlTogglesWhatIsInside) {
+TEST_F(Viewer, WindowWithControlTogglesItsContents) {
     user.Click(view(), Pixel(10, 5));
     Drag({2, 2}, {20, 38}, UserInput::kControl);
     ASSERT_EQ(selection().Count(), 1);
@@ -78,7 +78,7 @@ TEST_F(Viewer, TabBringsWhatItSelectsIntoSight) {
     EXPECT_TRUE(frame->View().GetCamera().Visible().Contains(WorldBox{9, 4, 11, 6}));
 }
 
-TEST_F(Viewer, DeselectingLeavesNothingBehind) {
+TEST_F(Viewer, DeselectingLeavesNoTraces) {
     const std::vector<uint32_t> before = Seen();
     user.Key('A', UserInput::kControl);
     EXPECT_NE(before, Seen());
@@ -86,7 +86,7 @@ TEST_F(Viewer, DeselectingLeavesNothingBehind) {
     EXPECT_EQ(before, Seen());
 }
 
-TEST_F(Viewer, RubberBandLeavesNothingBehind) {
+TEST_F(Viewer, RubberBandLeavesNoTraces) {
     const std::vector<uint32_t> before = Seen();
     user.Press(view(), Pixel(18, 18));
     user.MoveTo(view(), Pixel(38, 2));
@@ -126,7 +126,7 @@ TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
 }
 
 // Too much to draw for each frame: the picture is moved, and redrawn when the movement ends.
-TEST_F(Viewer, ALargeDrawingComesToRestAsDrawn) {
+TEST_F(Viewer, ALargeDrawingIsExactAtRest) {
     constexpr int kSide = 400;
     std::string lines = "0\nSECTION\n2\nENTITIES\n";
     for (int i = 0; i < kSide * kSide; ++i) {

@@ -162,7 +162,7 @@ TEST_F(Inserts, OfThemselvesEnd) {
 }
 
 // Thirty levels of two insertions each: a billion squares.
-TEST_F(Inserts, ThatMultiplyWithoutEndComeToAnEnd) {
+TEST_F(Inserts, ThatMultiplyAreLimited) {
     uint16_t block = FlagBlock("LEVEL");
     for (int level = 0; level < 30; ++level) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);

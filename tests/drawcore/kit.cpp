@@ -79,8 +79,8 @@ int Picture::Covered(int left, int bottom, int right, int top) const {
 }
 
 bool Balance::IsEven() const {
-    DrawCoreCensus now;
-    DrawCoreGetCensus(&now);
+    DrawCoreObjectCounts now;
+    DrawCoreGetObjectCounts(&now);
     return now.blocks == m_before.blocks && now.graphics == m_before.graphics && now.vertices == m_before.vertices &&
            now.viewports == m_before.viewports;
 }

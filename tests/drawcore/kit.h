@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include <drawcore/census.h>
 #include <drawcore/drawing.h>
 #include <drawcore/linestyle.h>
+#include <drawcore/object_counts.h>
 #include <drawcore/selection.h>
 #include <drawcore/table.h>
 #include <drawcore/view.h>
@@ -102,9 +102,9 @@ private:
 // Checks that all objects created since its construction have been freed.
 class Balance {
 public:
-    Balance() { DrawCoreGetCensus(&m_before); }
+    Balance() { DrawCoreGetObjectCounts(&m_before); }
     bool IsEven() const;
 
 private:
-    DrawCoreCensus m_before;
+    DrawCoreObjectCounts m_before;
 };

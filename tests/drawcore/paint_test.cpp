@@ -322,7 +322,7 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
 }
 
 // Coordinates that no device accepts: far out of range, or not numbers.
-TEST_F(Paint, SurvivesWhatIsFarAway) {
+TEST_F(Paint, SurvivesDistantCoordinates) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
         const Loose shape(MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
         SetWhole(shape, kPropBrushStyle, 1);

@@ -32,7 +32,7 @@ protected:
 
 using List = std::vector<GraphicStruct*>;
 
-TEST_F(Pick, FindsWhatIsNearAndDrawnLast) {
+TEST_F(Pick, FindsTheTopmostNearby) {
     GraphicStruct* first = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     GraphicStruct* second = drawing.Add(MakeLines({{50, 10}, {50, 90}}));
     EXPECT_EQ(At(30, 50), first);
@@ -45,7 +45,7 @@ TEST_F(Pick, FindsWhatIsNearAndDrawnLast) {
     EXPECT_EQ(ViewportPick(nullptr, drawing.Root(), {0, 0}, 3, 0), nullptr);
 }
 
-TEST_F(Pick, FitsWhatIsSeen) {
+TEST_F(Pick, FitsVisibleGraphics) {
     TableStruct* layers = drawing.Table(kTableLayers);
     const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
@@ -101,7 +101,7 @@ TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
     }
 }
 
-TEST_F(Pick, ByWindowTakesWhatLiesInsideByCrossingWhatIsTouched) {
+TEST_F(Pick, ByWindowSelectsContainedByCrossingTouchedGraphics) {
     GraphicStruct* inside = drawing.Add(MakeSquare(20, 20, 10));
     GraphicStruct* across = drawing.Add(MakeLines({{0, 25}, {100, 25}}));
     GraphicStruct* outside = drawing.Add(MakeSquare(80, 80, 10));

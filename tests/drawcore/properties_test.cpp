@@ -133,7 +133,7 @@ protected:
     GraphicStruct* graphic = MakeSquare(0, 0, 1);
 };
 
-TEST_F(ShapeProperties, RefuseWhatIsOutOfLimits) {
+TEST_F(ShapeProperties, RejectValuesOutOfRange) {
     const struct {
         const char* name;
         std::vector<uint32_t> good, bad;
@@ -196,7 +196,7 @@ TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
     EXPECT_FALSE(table->PropGet(graphic, number, VT_R4, &single)) << "no float holds it";
 }
 
-TEST_F(ShapeProperties, TakeBackTheTextThatAVariableHeld) {
+TEST_F(ShapeProperties, FreeTheTextThatAVariableContained) {
     Balance balance;
     GraphicStruct* other = MakeSquare(0, 0, 1);
     SetText(graphic, kPropInfo, "one");

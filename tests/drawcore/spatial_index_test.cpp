@@ -146,7 +146,7 @@ protected:
     std::vector<GraphicStruct*> all; // in drawing order
 };
 
-TEST_F(Places, AnswersAreThoseOfAWalkWhateverHasChanged) {
+TEST_F(Places, ResultsEqualASearchAfterAnyChange) {
     ViewportZoom(picture.Viewport(), {50, 50}, 1.3);
     for (int round = 0; round < 150 && !HasFailure(); ++round) {
         SCOPED_TRACE(round);
@@ -159,7 +159,7 @@ TEST_F(Places, AnswersAreThoseOfAWalkWhateverHasChanged) {
 }
 
 // More changes than are updated one by one: the index is rebuilt.
-TEST_F(Places, AnswersAreThoseOfAWalkAfterAChangeOfAll) {
+TEST_F(Places, ResultsEqualASearchAfterAChangeOfAll) {
     ExpectTheSame();
     DrawingBeginUndo(drawing);
     for (GraphicStruct* graphic : all)

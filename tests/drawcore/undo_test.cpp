@@ -23,7 +23,7 @@ protected:
     std::vector<GraphicStruct*> lines;
 };
 
-TEST_F(Undo, TakesBackAStepAsAWhole) {
+TEST_F(Undo, RevertsACompleteStep) {
     ASSERT_TRUE(DrawingBeginUndo(drawing));
     EXPECT_FALSE(DrawingBeginUndo(drawing)) << "one is open";
     for (GraphicStruct* line : {lines[0], lines[1]}) {
@@ -49,7 +49,7 @@ TEST_F(Undo, TakesBackAStepAsAWhole) {
 }
 
 // Each property separately: one that the log misses would not be undone.
-TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
+TEST_F(Undo, RevertsEveryPropertyOfTheSchema) {
     GraphicStruct* const text = drawing.Add(MakeText("text", {0, 0}, 1));
     for (GraphicStruct* graphic : {lines[0], text})
         for (const PropertyInfo& property : kPropertyList) {
@@ -74,7 +74,7 @@ TEST_F(Undo, TakesBackEveryPropertyOfTheSchema) {
         }
 }
 
-TEST_F(Undo, TakesBackVerticesThatWereMovedAndIgnoresThoseThatWereOnlyRead) {
+TEST_F(Undo, RevertsMovedVerticesAndIgnoresThoseOnlyRead) {
     const auto right = [&](size_t i) { return BoxOf(lines[i]).right; };
     ASSERT_TRUE(DrawingBeginUndo(drawing));
     int cookie = 0;
@@ -105,7 +105,7 @@ TEST_F(Undo, GoesBackStepByStep) {
     }
 }
 
-TEST_F(Undo, MakesAgainWhatWasTakenBackUntilSomethingElseIsChanged) {
+TEST_F(Undo, RedoesUntilSomethingElseIsChanged) {
     const auto step = [&](const std::function<void()>& change) {
         DrawingBeginUndo(drawing);
         change();
@@ -146,7 +146,7 @@ TEST_F(Undo, MakesAgainWhatWasTakenBackUntilSomethingElseIsChanged) {
     EXPECT_NE(DrawingGetUndoMark(drawing), end) << "another state, though as many steps away";
 }
 
-TEST_F(Undo, CancelTakesBackTheOpenStepAndLeavesTheOthers) {
+TEST_F(Undo, CancelRevertsOnlyTheOpenStep) {
     for (const double width : {2.0, 3.0}) {
         DrawingBeginUndo(drawing);
         SetReal(lines[0], kPropPenWidth, width);
@@ -181,7 +181,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
         return DrawingCountForgotten(drawing);
     };
     EXPECT_EQ(step(2) + step(3) + step(4), 0);
-    DrawingSetUndoRoom(drawing, 1); // the last step is always kept
+    DrawingSetUndoLimit(drawing, 1); // the last step is always kept
     EXPECT_EQ(step(5), 3);
     EXPECT_EQ(step(6), 1);
     const uint32_t end = DrawingGetUndoMark(drawing);
@@ -222,7 +222,7 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
 
 // It is set when properties are written, and undone with them; graphics with the same properties may have different
 // ones.
-TEST_F(Undo, TakesBackThePageThatWroteLast) {
+TEST_F(Undo, RevertsThePageThatWroteLast) {
     lines[0]->wLastPage = 5;
     lines[1]->wLastPage = 6;
     DrawingBeginUndo(drawing);
@@ -237,7 +237,7 @@ TEST_F(Undo, TakesBackThePageThatWroteLast) {
 }
 
 // The attributes are recorded first; the shape is about to change only after the attributes have changed.
-TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
+TEST_F(Undo, RevertsAttributesAndShapeOfOneGraphic) {
     DrawingBeginUndo(drawing);
     SetReal(lines[0], kPropPenWidth, 7);
     AddVertex(lines[0], 50, 50);
@@ -249,7 +249,7 @@ TEST_F(Undo, TakesBackLookAndShapeOfOneGraphic) {
     EXPECT_EQ(BoxOf(drawing.Root()).right, 3);
 }
 
-TEST_F(Undo, TakesBackAllThatATextLooksLike) {
+TEST_F(Undo, RevertsAllAttributesOfAText) {
     GraphicStruct* text = drawing.Add(MakeText("Text", {0, 0}, 3));
     const double width = BoxOf(text).right;
     DrawingBeginUndo(drawing);

@@ -96,7 +96,7 @@ TEST_F(Lengths, AreReadWithAllTheirUnits) {
     }
 }
 
-TEST_F(Lengths, AreRefusedWholeIfAnyPartIsWrong) {
+TEST_F(Lengths, AreRejectedIfAnyPartIsInvalid) {
     std::vector<std::string> texts(std::begin(kNoLengths), std::end(kNoLengths));
     texts.push_back(std::string(10000, '1'));
     texts.push_back("1" + std::string(10000, ' ') + "x");
@@ -263,7 +263,7 @@ TEST_F(Lengths, ComeBackFromTheirText) {
     }
 }
 
-TEST_F(Lengths, OnPaperAreMillimetersInWhateverUnitTheTextIs) {
+TEST_F(Lengths, OnPaperAreMillimetersWithTextInAnyUnit) {
     TableSetStringVar(units, kUnitPenWidth, "in");
     double value = 0;
     EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "0.01", &value));
@@ -377,7 +377,7 @@ TEST_F(Angles, AreReadWithAllTheirUnits) {
     }
 }
 
-TEST_F(Angles, AreRefusedWholeIfAnyPartIsWrong) {
+TEST_F(Angles, AreRejectedIfAnyPartIsInvalid) {
     std::vector<std::string> texts(std::begin(kNoAngles), std::end(kNoAngles));
     texts.push_back(std::string(10000, '1'));
     texts.push_back("N " + std::string(10000, ' ') + "4 E");

@@ -37,7 +37,7 @@ bool TryRead(const std::string& bytes) {
     }
 }
 
-TEST(Damage, ACutFileIsRefused) {
+TEST(Damage, ATruncatedFileIsRejected) {
     for (const char* file : kFiles) {
         const std::string whole = Load(file);
         const size_t end = whole.rfind("EOF");

@@ -21,7 +21,7 @@ TEST(Extents, OfEveryKind) {
     }
 }
 
-TEST(Extents, OfNothingAreEmpty) {
+TEST(Extents, OfAnEmptyDrawingAreEmpty) {
     EXPECT_TRUE(dxf::ExtentsOf(dxf::Read(Drawing(""), {})).IsEmpty());
 }
 

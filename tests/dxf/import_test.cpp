@@ -7,10 +7,10 @@
 
 #include <windows.h>
 
-#include "drawcore/include/drawcore/census.h"
 #include "drawcore/include/drawcore/dxf.h"
 #include "drawcore/include/drawcore/graphic.h"
 #include "drawcore/include/drawcore/layer.h"
+#include "drawcore/include/drawcore/object_counts.h"
 #include "drawcore/include/drawcore/owned_drawing.h"
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
@@ -38,10 +38,10 @@ OwnedDrawing Open(const std::wstring& path, Heard& heard) {
         hears.progress.push_back(permille);
         return permille < hears.cancelAt ? 1 : 0;
     };
-    const auto finding = [](void* context, int line, const char* text) {
+    const auto warning = [](void* context, int line, const char* text) {
         static_cast<Heard*>(context)->findings += std::to_string(line) + " " + text + "\n";
     };
-    const DxfListener listener = {&heard, progress, finding};
+    const DxfListener listener = {&heard, progress, warning};
     return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
 }
 
@@ -113,8 +113,8 @@ TEST(Import, OpensWhatTheReaderReadsOrNothing) {
     const HANDLE search = ::FindFirstFileA((kDrawings + "*.dxf").c_str(), &found);
     ASSERT_NE(search, INVALID_HANDLE_VALUE);
     do {
-        DrawCoreCensus before{}, after{};
-        DrawCoreGetCensus(&before);
+        DrawCoreObjectCounts before{}, after{};
+        DrawCoreGetObjectCounts(&before);
         const std::string file = kDrawings + found.cFileName;
         Heard heard;
         OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), heard);
@@ -136,33 +136,33 @@ TEST(Import, OpensWhatTheReaderReadsOrNothing) {
             EXPECT_STREQ(heard.message, error.what()) << file;
         }
         drawing.reset();
-        DrawCoreGetCensus(&after);
+        DrawCoreGetObjectCounts(&after);
         EXPECT_EQ(before.graphics, after.graphics) << file;
     } while (::FindNextFileA(search, &found));
     ::FindClose(search);
 }
 
-TEST(Import, AFileThatIsNotThereGivesAMessage) {
+TEST(Import, AMissingFileIsReported) {
     Heard heard;
     EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", heard));
     EXPECT_STREQ(heard.message, "the file cannot be opened");
     EXPECT_FALSE(DrawingOpenDxf(nullptr, nullptr, nullptr, 0));
 }
 
-TEST(Import, CanBeCancelledWithEachReport) {
+TEST(Import, CanBeCanceledWithEachReport) {
     const std::wstring path = std::filesystem::path(kDrawings + "kabeja-draft4-roof-details.dxf").wstring();
     Heard whole;
     ASSERT_TRUE(Open(path, whole));
-    DrawCoreCensus before{}, after{};
-    DrawCoreGetCensus(&before);
+    DrawCoreObjectCounts before{}, after{};
+    DrawCoreGetObjectCounts(&before);
     for (const int permille : whole.progress) {
         Heard heard;
         heard.cancelAt = permille;
         EXPECT_FALSE(Open(path, heard)) << permille;
-        EXPECT_STREQ(heard.message, "cancelled");
+        EXPECT_STREQ(heard.message, "canceled");
         EXPECT_EQ(heard.progress.back(), permille) << "and nothing is reported afterwards";
     }
-    DrawCoreGetCensus(&after);
+    DrawCoreGetObjectCounts(&after);
     EXPECT_EQ(before.graphics, after.graphics);
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-using dxf::Look;
+using dxf::Appearance;
 
 std::string Drawing2004(const std::string& entity) {
     return Section("HEADER", "9|$ACADVER|1|AC1018|9|$HANDSEED|5|2F") +
@@ -22,7 +22,7 @@ std::string Drawing2004(const std::string& entity) {
 struct Row {
     const char* name;
     std::string before, after;
-    void (*change)(Look&);
+    void (*change)(Appearance&);
 };
 
 void PrintTo(const Row& row, std::ostream* to) {
@@ -33,33 +33,36 @@ const std::string kHead = "5|1A|102|{ACAD_REACTORS|62|3|102|}|100|AcDbEntity|8|0
 
 const Row kRows[] = {
     {"ANewGroupStandsWhereProgramsWriteIt", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "62|1|370|25|100|AcDbLine|10|0|20|0", [](Look& look) { look.color = 0x0000FF; }},
+     "0|LINE|" + kHead + "62|1|370|25|100|AcDbLine|10|0|20|0",
+     [](Appearance& appearance) { appearance.color = 0x0000FF; }},
     {"TheNameOfAColorGoesWithIt", "0|LINE|" + kHead + "62|3|420|1234|430|BOOK$GREEN|100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "62|1|100|AcDbLine|10|0|20|0", [](Look& look) { look.color = 0x0000FF; }},
+     "0|LINE|" + kHead + "62|1|100|AcDbLine|10|0|20|0", [](Appearance& appearance) { appearance.color = 0x0000FF; }},
     {"APlainGroupIsRemovedForByLayer", "0|LINE|" + kHead + "62|    3|100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
-     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.color = kColorByLayer; }},
+     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
+     [](Appearance& appearance) { appearance.color = kColorByLayer; }},
     {"ExtendedDataOfOthersStays",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|b^J^ |1002|}|1001|OTHER|1000|x",
-     [](Look& look) {
-         dxf::SetExtended(look, {kPropInfo, "b\n^", {}});
+     [](Appearance& appearance) {
+         dxf::SetExtended(appearance, {kPropInfo, "b\n^", {}});
      }},
     {"EmptyExtendedDataGoes",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
-     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x", [](Look& look) { look.extended.clear(); }},
+     "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x",
+     [](Appearance& appearance) { appearance.extended.clear(); }},
     {"WidthsOfVerticesBecomeOne",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|0|10|0|20|0|40|1|41|1|10|1|20|0|40|1|41|1",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|128|43|2.5|10|0|20|0|10|1|20|0",
-     [](Look& look) {
-         look.width = 2.5;
-         look.dashesFitted = false;
+     [](Appearance& appearance) {
+         appearance.width = 2.5;
+         appearance.dashesFitted = false;
      }},
     {"WidthsOfVertexRecordsGo",
      "0|POLYLINE|" + kHead + "70|0|40|1|41|1|0|VERTEX|10|0|20|0|40|1|41|1|0|VERTEX|10|1|20|0|0|SEQEND",
      "0|POLYLINE|" + kHead + "370|35|70|0|0|VERTEX|10|0|20|0|0|VERTEX|10|1|20|0|0|SEQEND",
-     [](Look& look) {
-         look.width = 35 / dxf::kWeightsPerInch;
-         look.worldWidth = false;
+     [](Appearance& appearance) {
+         appearance.width = 35 / dxf::kWeightsPerInch;
+         appearance.worldWidth = false;
      }},
     {"SeedsOfAHatchStay",
      "0|HATCH|" + kHead +
@@ -69,36 +72,39 @@ const Row kRows[] = {
          "100|AcDbHatch|2|Lines|70|0|91|1|92|2|72|0|73|1|93|3|10|0|20|0|10|1|20|0|10|0|20|1|75|0|76|1|52|0.0|"
          "41|2.0|77|0|78|1|"
          "53|0.0|43|0.0|44|0.0|45|0.0|46|2.0|79|0|98|1|10|0|20|0|52|7",
-     [](Look& look) {
-         look.brush.style = "Lines";
-         look.brush.lines = {{0, {}, {0, 1, 0}, {}}};
-         look.brush.scale = 2;
+     [](Appearance& appearance) {
+         appearance.brush.style = "Lines";
+         appearance.brush.lines = {{0, {}, {0, 1, 0}, {}}};
+         appearance.brush.scale = 2;
      }},
     {"CodesWithinAnMTextGo", "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|3|{\\C3;a\\H3;|1|b\\P}",
      "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|5.0|71|3|1|\\L{ab\\P}",
-     [](Look& look) {
-         look.color = 0x0000FF;
-         look.text.height = 5;
-         look.text.style = kTextUnderline;
-         look.text.format = 2;
-         look.varied = 0;
+     [](Appearance& appearance) {
+         appearance.color = 0x0000FF;
+         appearance.text.height = 5;
+         appearance.text.style = kTextUnderline;
+         appearance.text.format = 2;
+         appearance.varied = 0;
      }},
     {"AWidthByLayerHasNoGroup", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0", [](Look& look) { look.width = kPenWidthByLayer; }},
+     "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0", [](Appearance& appearance) { appearance.width = kPenWidthByLayer; }},
     {"AWidthByBlockHasOne", "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "370|-2|100|AcDbLine|10|0|20|0", [](Look& look) { look.width = kPenWidthByBlock; }},
+     "0|LINE|" + kHead + "370|-2|100|AcDbLine|10|0|20|0",
+     [](Appearance& appearance) { appearance.width = kPenWidthByBlock; }},
     {"AllOfATextTakesTheColorOfMostOfIt",
      "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|1|{\\C1;most}{\\C3;x}",
-     "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|2|71|1|1|{most}{x}", [](Look& look) { look.varied = 0; }},
+     "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|2|71|1|1|{most}{x}",
+     [](Appearance& appearance) { appearance.varied = 0; }},
     {"AllOfALineIsUnderlined", "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|a%%ub%%u",
-     "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|%%uab", [](Look& look) { look.varied = 0; }},
+     "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|%%uab", [](Appearance& appearance) { appearance.varied = 0; }},
     {"ALastDigitIsAChange", "0|LINE|" + kHead + "48|1.0000000001|100|AcDbLine|10|0|20|0",
-     "0|LINE|" + kHead + "48|1.0000000002|100|AcDbLine|10|0|20|0", [](Look& look) { look.lineScale = 1.0000000002; }},
+     "0|LINE|" + kHead + "48|1.0000000002|100|AcDbLine|10|0|20|0",
+     [](Appearance& appearance) { appearance.lineScale = 1.0000000002; }},
     {"ATextHangsOnItsPlace", "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|%%uA%%u|72|0|100|AcDbText",
      "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|A|72|1|11|3.0|21|4.0|31|0.0|100|AcDbText",
-     [](Look& look) {
-         look.text.style = 0;
-         look.text.format = 1;
+     [](Appearance& appearance) {
+         appearance.text.style = 0;
+         appearance.text.format = 1;
      }},
 };
 
@@ -110,13 +116,13 @@ TEST_P(Patch, ChangesTheseGroupsAlone) {
     const dxf::Document document = dxf::Read(text, {});
     ASSERT_EQ(document.entities.size(), 1u);
     dxf::DrawingPatch patch(text, document.Tables());
-    Look look = patch.LookAt(document.entities[0].offset);
-    row.change(look);
-    patch.Change(document.entities[0].offset, look);
+    Appearance appearance = patch.AppearanceAt(document.entities[0].offset);
+    row.change(appearance);
+    patch.Change(document.entities[0].offset, appearance);
     const std::string changed = patch.Finish();
     EXPECT_EQ(changed, Drawing2004(row.after));
     const dxf::Document read = dxf::Read(changed, {});
-    EXPECT_TRUE(dxf::LookOf(read, read.entities.at(0)) == look);
+    EXPECT_TRUE(dxf::AppearanceOf(read, read.entities.at(0)) == appearance);
 }
 
 INSTANTIATE_TEST_SUITE_P(Records, Patch, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
@@ -127,7 +133,8 @@ TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
     for (const int weight : {25, 50}) {
         const dxf::Document read =
             dxf::Read(Drawing2004("0|LINE|8|0|370|" + std::to_string(weight) + "|10|0|20|0|" + own), {});
-        EXPECT_EQ(dxf::LookOf(read, read.entities.at(0)).width, weight == 25 ? 0.0101 : weight / dxf::kWeightsPerInch);
+        EXPECT_EQ(dxf::AppearanceOf(read, read.entities.at(0)).width,
+                  weight == 25 ? 0.0101 : weight / dxf::kWeightsPerInch);
     }
 }
 
@@ -136,21 +143,21 @@ TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
     const std::string text = Section("ENTITIES", "0|LINE|8|0|10|0|20|0|11|1|21|0") + Tags("0|EOF");
     const dxf::Document document = dxf::Read(text, {});
     dxf::DrawingPatch patch(text, document.Tables());
-    Look look = patch.LookAt(document.entities.at(0).offset);
-    dxf::SetExtended(look, {kPropInfo, "registered", {}});
-    patch.Change(document.entities[0].offset, look);
+    Appearance appearance = patch.AppearanceAt(document.entities.at(0).offset);
+    dxf::SetExtended(appearance, {kPropInfo, "registered", {}});
+    patch.Change(document.entities[0].offset, appearance);
     const dxf::Document read = dxf::Read(patch.Finish(), {});
-    EXPECT_TRUE(dxf::LookOf(read, read.entities.at(0)) == look);
+    EXPECT_TRUE(dxf::AppearanceOf(read, read.entities.at(0)) == appearance);
 }
 
-TEST(Patches, RefusesWhatItCannotWriteBack) {
+TEST(Patches, RejectsWhatItCannotWrite) {
     std::string text = Drawing2004("0|TEXT|8|0|10|0|20|0|40|1|1|\xE4%%u");
     text.replace(text.find("AC1018"), 6, "AC1021"); // with UTF-8 texts
     const dxf::Document document = dxf::Read(text, {});
     dxf::DrawingPatch patch(text, document.Tables());
-    Look look = patch.LookAt(document.entities.at(0).offset);
-    look.text.style = 0;
-    EXPECT_THROW(patch.Change(document.entities[0].offset, look), dxf::SaveError);
+    Appearance appearance = patch.AppearanceAt(document.entities.at(0).offset);
+    appearance.text.style = 0;
+    EXPECT_THROW(patch.Change(document.entities[0].offset, appearance), dxf::SaveError);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ const T& ShapeOf(const Document& document, size_t at = 0) {
     return std::get<T>(document.entities.at(at).shape);
 }
 
-TEST(Structure, BrokenOnesAreRefusedWithTheirLine) {
+TEST(Structure, DamagedFilesAreRejectedWithTheirLine) {
     struct Row {
         std::string bytes;
         const char* message;
@@ -54,7 +54,7 @@ TEST(Structure, BrokenOnesAreRefusedWithTheirLine) {
     }
 }
 
-TEST(Structure, FilesThatCannotBeReadAreRefused) {
+TEST(Structure, UnreadableFilesAreRejected) {
     for (const char* path : {ORLO_SOURCE_DIR "/tests/nothing.dxf", ORLO_SOURCE_DIR "/tests"})
         EXPECT_THROW(Read(dxf::ReadBytes(path), {}), ReadError) << path;
     EXPECT_EQ(Read(dxf::ReadBytes(ORLO_SOURCE_DIR "/tests/data/dxf/made-escapes-R12.dxf"), {}).entities.size(), 11u);

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <iostream>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/save/structure_patch.h"
 
@@ -73,7 +73,7 @@ void Restructure(const char* from, const char* to, bool adds) {
         patch.Remove(document.entities[i].offset);
     dxf::Block block;
     block.name = "Made here";
-    block.own = {{dxf::kOwnStyleTree, "a tree", {}}};
+    block.own = {{dxf::kExtendedStyleTree, "a tree", {}}};
     block.entities = OneOfEach(document.header.version);
     if (adds) patch.AddBlock(block);
     std::vector<Entity> added;

@@ -99,7 +99,7 @@ TEST_F(SaveExact, KeepsFacesThatTheCodePageLacks) {
               Replaced(Replaced(text, "TEXT\n8\n0\n", "TEXT\n8\n0\n62\n1\n"), "MTEXT\n8\n0\n", "MTEXT\n8\n0\n62\n1\n"));
 }
 
-TEST_F(SaveExact, KeepsAWidthByLayerWhateverTheLayer) {
+TEST_F(SaveExact, KeepsAWidthByLayerOnAnyLayer) {
     const std::string text = DrawingOf("AC1015", LayerTable(LayerNamed("A", "370|50|") + LayerNamed("B", "370|25|")),
                                        "0|LINE|8|A|10|0|20|0|11|1|21|1");
     const OwnedDrawing drawing = OpenText(text);
@@ -181,7 +181,7 @@ TEST_F(SaveExact, AddsAndRemovesLayersThatNothingIsOn) {
     });
 }
 
-TEST_F(SaveExact, NamesWhatIsOnALayerThatWasDeleted) {
+TEST_F(SaveExact, NamesEntitiesOnADeletedLayer) {
     const OwnedDrawing drawing =
         OpenText(DrawingOf("AC1015", LayerTable(LayerNamed("0") + LayerNamed("A")),
                            "0|RAY|5|2F|8|A|10|0|20|0|11|1|21|1|0|LINE|8|0|10|0|20|0|11|1|21|1"));

@@ -52,7 +52,7 @@ TEST_F(SaveStructure, TakesOutWhatWasRemoved) {
     });
 }
 
-TEST_F(SaveStructure, KeepsTheOrderOfWhatIsTakenOutAndPutInAgain) {
+TEST_F(SaveStructure, KeepsTheOrderOfGraphicsRemovedAndAddedAgain) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     GraphicStruct* root = DrawingGetRoot(drawing.get());
     GraphicStruct* first = *Members(root).begin();

@@ -134,7 +134,7 @@ TEST_F(Save, HoldsThePlacesOfInsertionsWithTheirAttributes) {
     }
 }
 
-TEST_F(Save, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
+TEST_F(Save, AsksBeforeOverwritingAChangedFile) {
     fs::copy_file(kDrawings + "made-gbk-R2004.dxf", path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
     const std::string other = ReadBytes(path) + "from another program";
@@ -194,7 +194,7 @@ struct Reports {
     }
 };
 
-TEST_F(Save, CanBeCancelledWithEachReport) {
+TEST_F(Save, CanBeCanceledWithEachReport) {
     const fs::path original = kDrawings + "acadsharp-sample-AC1032.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
@@ -210,13 +210,13 @@ TEST_F(Save, CanBeCancelledWithEachReport) {
         Reports reports;
         reports.cancelAt = permille;
         const DxfListener cancels = {&reports, Reports::Hear, nullptr};
-        EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCancelled) << permille;
-        EXPECT_EQ(message, "cancelled");
+        EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCanceled) << permille;
+        EXPECT_EQ(message, "canceled");
         EXPECT_EQ(reports.heard.back(), permille) << "and nothing is reported afterwards";
         EXPECT_TRUE(ReadBytes(path) == saved) << permille;
         EXPECT_FALSE(LeavesOthersBehind()) << permille;
     }
-    EXPECT_EQ(Write(drawing), kSaveDone) << "as if nobody had cancelled: " << message;
+    EXPECT_EQ(Write(drawing), kSaveDone) << "as if not canceled: " << message;
 }
 
 TEST_F(Save, LeavesTheFileAloneWhereItFails) {

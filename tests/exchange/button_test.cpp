@@ -37,7 +37,7 @@ TEST_F(ButtonExchange, StatesGoBothWays) {
     }
 }
 
-TEST_F(ButtonExchange, AValueThatIsNoStateIsSetToOff) {
+TEST_F(ButtonExchange, AnInvalidStateIsSetToOff) {
     for (const int wrong : {3, -1, 0xFFFF}) {
         SetState(IDC_THREE_STATE, BST_CHECKED);
         int value = wrong;

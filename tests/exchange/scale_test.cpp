@@ -61,7 +61,7 @@ TEST_F(ScaleExchange, ATypedScaleTakesOverTheTextOfAnEqualItem) {
     EXPECT_EQ(Text(IDC_COMBO), "1 : 7");
 }
 
-TEST_F(ScaleExchange, WithoutAScaleItIsRefused) {
+TEST_F(ScaleExchange, FailsWithoutAScale) {
     SetText(IDC_COMBO, "large");
     CString text;
     double scale = 3.0;

@@ -69,7 +69,7 @@ TEST_F(TableExchange, LinesOfAStringAreItems) {
 
 // ---- Identifiers
 
-TEST_F(TableExchange, ListKeysAreFoundWhateverTheirCase) {
+TEST_F(TableExchange, ListKeysAreFoundInAnyCase) {
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCD\tBlue");
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCE\tGreen");
     unsigned int value = 0xABCE;

@@ -45,7 +45,7 @@ protected:
 
 // ---- Integers
 
-TEST_F(TextExchange, WholeNumbersAreReadOrRefused) {
+TEST_F(TextExchange, IntegersAreParsedOrRejected) {
     ExpectRead<int>({{" \t12  ", 12},
                      {"007", 7},
                      {"0", 0},
@@ -100,7 +100,7 @@ TEST_F(TextExchange, ALongTextGoesThroughWhole) {
 
 // ---- Real numbers
 
-TEST_F(TextExchange, RealNumbersAreReadOrRefused) {
+TEST_F(TextExchange, RealNumbersAreParsedOrRejected) {
     ExpectRead<float>({{"2.5", 2.5f}, {"  -3.25\t", -3.25f}, {"0", 0.0f}, {"0.000", 0.0f}, {"1e5", 1e5f}});
     ExpectRead<double>({{"2.5", 2.5},
                         {"0", 0.0},

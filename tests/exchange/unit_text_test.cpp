@@ -81,7 +81,7 @@ TEST_F(UnitText, ShowsAndSavesValuesInTheirUnits) {
     EXPECT_NEAR(25.4, m_value, 1e-9);
 }
 
-TEST_F(UnitText, RefusesWhatItCannotReadWithoutAMessage) {
+TEST_F(UnitText, RejectsInvalidTextWithoutAMessage) {
     DrawingStruct* const d = m_drawing.Get();
     const struct {
         Exchange exchange;

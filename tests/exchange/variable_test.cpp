@@ -140,7 +140,7 @@ TEST_F(VariableExchange, BoxesAndButtonsFollowWholeNumbers) {
     EXPECT_EQ(Checked(), 0) << "no such variable";
 }
 
-TEST_F(VariableExchange, AMapTellsWhatTheButtonsStandFor) {
+TEST_F(VariableExchange, AMapDefinesTheButtonsValues) {
     int map[] = {-1, 1, 0, 1};
     const struct {
         int value, button, saved;

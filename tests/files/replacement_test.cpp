@@ -92,7 +92,7 @@ TEST_F(Replacement, LeavesTheOldFileUntilThen) {
     EXPECT_EQ(Count(), 1);
 }
 
-TEST_F(Replacement, RefusesWhatIsNotAFileThatMayBeWritten) {
+TEST_F(Replacement, RejectsTargetsThatAreNotWritableFiles) {
     constexpr char kIrregular[] = "it is not a regular file and cannot be replaced";
     ExpectRefused(folder, kIrregular);
     ExpectRefused(folder / "missing" / "plan.dxf", "no file can be created in its folder: no such folder");
@@ -130,7 +130,7 @@ TEST_F(Replacement, KeepsAttributesAndTheTimeOfCreation) {
     EXPECT_EQ(Get(path), "new");
 }
 
-TEST_F(Replacement, RefusesAFileThatAnotherProgramHasOpen) {
+TEST_F(Replacement, RejectsAFileThatAnotherProgramHasOpen) {
     const files::OpenFile held(::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(held);
     ExpectRefused(path, "the file cannot be replaced: ");

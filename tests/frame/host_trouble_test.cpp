@@ -94,7 +94,7 @@ struct PreviewOfAnother : ExchangePage {
 };
 
 // The reference database rejects a graphic that is already a member.
-TEST(HostTrouble, APreviewGraphicThatIsNotTakenMeansNoPreview) {
+TEST(HostTrouble, ARejectedPreviewGraphicMeansNoPreview) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});
     const long blocks = kit.Blocks();

@@ -40,7 +40,7 @@ TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
     });
 }
 
-TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
+TEST_F(Keyboard, TheTabsShowTheActivePageAfterAFailedValidation) {
     for (const UINT key : {VK_LEFT, VK_RIGHT}) {
         MessageBoxWatcher boxes;
         sheet.Run([&](SheetDriver& user) {
@@ -60,7 +60,7 @@ TEST_F(Keyboard, TheTabsShowTheOpenPageAfterARefusal) {
 }
 
 // A page can prevent leaving without Fail, which would move the focus; the focus then stays.
-TEST_F(Keyboard, StaysInTheFieldWhenAPageRefusesOfItself) {
+TEST_F(Keyboard, StaysInTheFieldIfThePageCannotBeLeft) {
     bool refuses = true;
     sheet.Add([&](CDataExchange* pDX) {
         if (pDX->m_bSaveAndValidate && refuses) AfxThrowUserException();

@@ -39,7 +39,7 @@ struct PageEntry : ::testing::Test {
 
     // The ways to move from the previous page to the next.
     static constexpr const char* kWays[] = {"click", "Ctrl+Tab", "Ctrl+Page Down", "call"};
-    void GoOn(SheetDriver& user, const std::string& way) {
+    void ChangePage(SheetDriver& user, const std::string& way) {
         const int next = user.ActivePage() + 1;
         if (way == "click") user.SelectPage(next);
         if (way == "Ctrl+Tab") user.Key(VK_TAB, false, true);
@@ -67,18 +67,18 @@ TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
             for (const char* way : kWays) {
                 boxes.Clear();
                 user.Focus(kEdit);
-                GoOn(user, way);
+                ChangePage(user, way);
                 EXPECT_EQ(boxes.OnlyText(), kReason) << way << visited;
                 ExpectOn(1, way);
                 EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << way << visited;
             }
             other->throwsOnEntry = false;
-            GoOn(user, "click");
+            ChangePage(user, "click");
             ExpectOn(2, "without a fault");
             user.SelectPage(1);
         }
         other->throwsOnEntry = true;
-        GoOn(user, "click");
+        ChangePage(user, "click");
         user.Type(kEdit, "5");
         user.Ok();
     }),
@@ -94,7 +94,7 @@ TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
         other->throwsOnLeaving = true;
         for (const char* way : kWays) {
             boxes.Clear();
-            GoOn(user, way);
+            ChangePage(user, way);
             EXPECT_EQ(boxes.OnlyText(), kReason) << way;
             ExpectOn(2, way);
         }

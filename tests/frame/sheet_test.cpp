@@ -41,7 +41,7 @@ TEST(PagesOfAKind, AreAddedOnce) {
 }
 
 // The method's pages follow for every graphic, and its result is returned to the host.
-TEST(RegenMethods, AddTheirOwnPagesBehindTheBuiltInOnes) {
+TEST(RegenMethods, AddTheirPagesAfterTheBuiltInOnes) {
     GraphicKit kit;
     GraphicStruct* graphic = kit.Add({}).graphic;
     graphic->wRegenMethod = 7;

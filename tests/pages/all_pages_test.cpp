@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "drawcore/census.h"
+#include "drawcore/object_counts.h"
 #include "drawcore/undo.h"
 #include "orlo/resources/resource.h"
 #include "pages/every_kind.h"
@@ -131,7 +131,7 @@ TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
     });
 }
 
-TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
+TEST_F(AllPages, AnInvalidValueKeepsPageFocusAndText) {
     struct {
         int page, control;
         const char* text;
@@ -161,7 +161,7 @@ TEST_F(AllPages, ARefusedValueHoldsPageFocusAndText) {
     }
 }
 
-TEST_F(AllPages, FiveHundredSheetsLeaveNothingBehind) {
+TEST_F(AllPages, FiveHundredSheetsLeakNothing) {
     kinds.Select(kEverything);
     const auto openAndClose = [&] {
         const auto sheet = kinds.NewSheet();
@@ -173,12 +173,12 @@ TEST_F(AllPages, FiveHundredSheetsLeaveNothingBehind) {
     for (int i = 0; i < 3; ++i)
         openAndClose();
     const DrawingState before = State();
-    DrawCoreCensus held, now;
-    ::DrawCoreGetCensus(&held);
+    DrawCoreObjectCounts held, now;
+    ::DrawCoreGetObjectCounts(&held);
     const int gdi = GdiObjectCount(), windows = UserObjectCount();
     for (int i = 0; i < 500; ++i)
         openAndClose();
-    ::DrawCoreGetCensus(&now);
+    ::DrawCoreGetObjectCounts(&now);
     EXPECT_EQ(gdi, GdiObjectCount());
     EXPECT_EQ(windows, UserObjectCount());
     EXPECT_EQ(held.blocks, now.blocks);

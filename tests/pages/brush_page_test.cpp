@@ -106,7 +106,7 @@ TEST_F(BrushPage, TheStyleDecidesWhichControlsMakeSense) {
     });
 }
 
-TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
+TEST_F(BrushPage, RejectsAScaleOutOfRangeAndIgnoresTextThatIsNotAnAngle) {
     Add("Cross", kRed, 2, 30 * kDegree, 0, 0);
     for (const char* scale : {"0", "1e9", "wide", ""}) {
         SCOPED_TRACE(scale);
@@ -126,7 +126,7 @@ TEST_F(BrushPage, RefusesAScaleOutOfRangeAndPassesOverATextThatIsNoAngle) {
 }
 
 // An angle typed before an exchange that another field made fail is not used for text without an angle.
-TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
+TEST_F(BrushPage, TextThatIsNotAnAngleChangesNoAngle) {
     Add("Cross", kRed, 2, 50 * kDegree, 0, 0);
     Add("Cross", kRed, 2, 60 * kDegree, 0, 0);
     RunOk([&](SheetDriver& user) {
@@ -144,7 +144,7 @@ TEST_F(BrushPage, ATextThatIsNoAngleLeavesEachAngleAsItWas) {
 }
 
 // The field of a solid brush is disabled, so that the user could not correct its scale.
-TEST_F(BrushPage, StoredNumbersThatNobodyEditedAreNotJudged) {
+TEST_F(BrushPage, UneditedNumbersAreNotValidated) {
     Add("Cross", kRed, 1, 1e39, 0, 0);
     for (const char* style : {"Solid", "Cross"}) {
         for (const double scale : {0.0, 1e8}) {

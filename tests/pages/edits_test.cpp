@@ -253,7 +253,7 @@ protected:
         ::SendMessageA(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
         user.Pump();
     }
-    static void GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending);
+    static void Continue(SheetDriver& user, CGraphicPropertyPage& page, Ending ending);
     static void LeaveAndReturn(SheetDriver& user) {
         const int page = user.ActivePage();
         user.SelectPage(page ? 0 : 1);
@@ -283,7 +283,7 @@ bool TakeBack(SheetDriver& user, int control, int first, bool walk) {
     return true;
 }
 
-void Edits::GoOn(SheetDriver& user, CGraphicPropertyPage& page, Ending ending) {
+void Edits::Continue(SheetDriver& user, CGraphicPropertyPage& page, Ending ending) {
     switch (ending) {
     case Ending::ApplyTwice:
         Apply(page);
@@ -350,7 +350,7 @@ TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
             }
             for (size_t i = 0; i < kit->Size(); ++i)
                 corners.push_back(CornersWith(i, changed));
-            GoOn(user, page, ending);
+            Continue(user, page, ending);
         });
         SCOPED_TRACE(log);
         for (size_t i = 0; i < kit->Size(); ++i) {

@@ -22,7 +22,7 @@ protected:
     uint16_t walls, doors;
 };
 
-TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
+TEST_F(GeneralPage, ShowsEqualValuesAndHidesTheStylePartOfASelection) {
     for (int i = 0; i < 2; ++i)
         Add(doors, "oak\r\npainted");
     RunOk([&](SheetDriver& user) {
@@ -36,7 +36,7 @@ TEST_F(GeneralPage, ShowsWhatIsEqualAndHidesTheStylePartOfASelection) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(GeneralPage, KeepsDifferingValuesThatNobodyTouched) {
+TEST_F(GeneralPage, KeepsUneditedDifferingValues) {
     Add(walls, "a");
     Add(doors, "b");
     RunOk([&](SheetDriver& user) {

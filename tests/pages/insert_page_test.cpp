@@ -111,7 +111,7 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
     });
 }
 
-TEST_F(InsertPage, AnUntouchedPageWritesNothingWhateverTheInsertions) {
+TEST_F(InsertPage, AnUneditedPageWritesNothing) {
     // Digits that no field shows, a scale out of range, a collapsed axis, and a position out of range of a float: each
     // alone, then all together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
@@ -308,7 +308,7 @@ TEST_F(InsertPage, NumbersCanBeTypedKeyByKey) {
     }
 }
 
-TEST_F(InsertPage, ThePreviewFollowsWhatIsTyped) {
+TEST_F(InsertPage, ThePreviewFollowsTyping) {
     Add({{5, 6, 0}, {2, 2, 1}, {0, 0, 30 * kDegree}});
     const Vertices before = All();
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {

@@ -150,7 +150,7 @@ TEST_F(InsertPartsTest, AShearedInsertionIsMovedWithItsShearAndTurnedWithoutIt) 
     ExpectCorners({{{110, 20, 30}, {110, 22, 30}, {110 - std::sqrt(2.0), 20, 30}, {110, 20, 31}}}, 1e-12);
 }
 
-TEST_F(InsertPartsTest, WhatIsNoNumberIsNeverWritten) {
+TEST_F(InsertPartsTest, NumbersThatAreNotFiniteAreNeverWritten) {
     SetAxes({1, 0, 0}, {0, 1, 0}, {0, 0, 1});
     const Corners corners = Get();
     InsertParts parts;

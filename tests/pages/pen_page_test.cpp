@@ -146,7 +146,7 @@ TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
 }
 
 // The next keystroke is meant for the field, not for the list of colors.
-TEST_F(PenPage, ARefusedWidthHasTheFocus) {
+TEST_F(PenPage, AnInvalidWidthGetsTheFocus) {
     for (const char* typed : {"abc", "100,5"}) {
         AddEqual();
         RunOk([&](SheetDriver& user) {
@@ -162,7 +162,7 @@ TEST_F(PenPage, ARefusedWidthHasTheFocus) {
 }
 
 // Neither values that cannot be formatted nor values out of range.
-TEST_F(PenPage, StoredNumbersThatNobodyEditedAreNotJudged) {
+TEST_F(PenPage, UneditedNumbersAreNotValidated) {
     for (const double odd : {0.0, -3.0, 1e8, 1e39}) {
         AddEqual();
         for (size_t i : {0, 1}) {
@@ -182,7 +182,7 @@ TEST_F(PenPage, StoredNumbersThatNobodyEditedAreNotJudged) {
     }
 }
 
-TEST_F(PenPage, RefusesWhatIsNoWidthOrOutOfRangeAndWritesNothing) {
+TEST_F(PenPage, RejectsInvalidWidthsAndWritesNothing) {
     AddEqual();
     for (const auto& [control, text] : {std::pair(IDC_PEN_WIDTH, "thick"),
                                         {IDC_PEN_WIDTH, "-1 mm"},

@@ -166,7 +166,7 @@ TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
     }
 }
 
-TEST_F(TextPage, AChangeOfFontIsNoEditOfTheHeight) {
+TEST_F(TextPage, ChangingTheFontDoesNotEditTheHeight) {
     Add(kSans, 4, 0, kRed, 0);
     Add(kSans, 4, 0, kRed, 0);
     for (const double second : {3.0, 4.0}) { // different, then equal
@@ -231,7 +231,7 @@ TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
     EXPECT_EQ(kit[1].Text(kPropTextFont), kSerif);
 }
 
-TEST_F(TextPage, AFontThatIsNotInstalledStaysWhateverElseChanges) {
+TEST_F(TextPage, AMissingFontStaysWhenOtherPropertiesChange) {
     for (int i = 0; i < 2; ++i)
         Add("No Such Font", 2.123456789, 0, kRed, 0);
     RunOk([&](SheetDriver& user) {
@@ -244,7 +244,7 @@ TEST_F(TextPage, AFontThatIsNotInstalledStaysWhateverElseChanges) {
     EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x0100);
 }
 
-TEST_F(TextPage, StoredHeightsThatNobodyEditedAreNotJudged) {
+TEST_F(TextPage, UneditedHeightsAreNotValidated) {
     for (const double height : {0.0, -2.0, 1e39}) {
         Add(kSans, height, 0, kRed, 0);
         MessageBoxWatcher boxes;

@@ -68,7 +68,7 @@ TEST_P(Corpus, ReadsBackEqualWhatItWrites) {
     EXPECT_EQ(orlo::WriteSetImage(*again), written);
 }
 
-TEST_P(Corpus, IsJudgedAsItDeserves) {
+TEST_P(Corpus, HasTheExpectedFindings) {
     const CorpusStream& stream = GetParam();
     if (!stream.IsReal()) return;
     const std::vector<uint8_t> bytes = stream.Content();

@@ -108,7 +108,7 @@ TEST_P(StoredValue, GoesToTheStreamPaddedAndComesBack) {
     EXPECT_EQ(stream.Position(), 1 + 4 + row.stored.size()) << "before the padding";
 }
 
-TEST_P(StoredValue, IsNeverReadBeyondWhatIsThere) {
+TEST_P(StoredValue, IsNeverReadBeyondItsEnd) {
     const Row& row = GetParam();
     const Bytes whole = LittleEndian(row.type) + row.stored;
     for (size_t size = 0; size < whole.size(); ++size) {
@@ -224,7 +224,7 @@ TEST(Property, WithoutAValueIsWrittenAsAnEmptyOneOfItsType) {
     }
 }
 
-TEST(Property, RefusesTypesWithoutAForm) {
+TEST(Property, RejectsTypesWithoutAStoredForm) {
     int number = 1;
     for (DWORD type = 0; type < 100; ++type) {
         const bool hasForm = type <= 8 || type == 11 || (type >= 18 && type <= 20) || type == 30 || type == 31 ||

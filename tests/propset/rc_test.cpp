@@ -107,7 +107,7 @@ TEST(RcSection, IsTheListingOfItsImage) {
     EXPECT_EQ(section.GetSize(), 0x54u);
 }
 
-TEST(RcSection, EmptyAndRefusedValues) {
+TEST(RcSection, EmptyAndRejectedValues) {
     CPropertySection section;
     section.Set(0x80000000, nullptr, VT_EMPTY);
     const std::string text = Script([&](CRCFile& rc) { EXPECT_EQ(section.WriteToRC(&rc), 1); });

@@ -66,7 +66,7 @@ TEST_P(ValueForm, MeansWhatItSaysAndIsWrittenTheSame) {
     EXPECT_EQ(orlo::EncodeValue(value, row.codePage), row.bytes);
 }
 
-TEST_P(ValueForm, IsRefusedWhereAByteIsMissing) {
+TEST_P(ValueForm, IsRejectedIfAByteIsMissing) {
     const Row& row = GetParam();
     for (size_t size = 0; size < row.bytes.size(); ++size) {
         const Bytes cut = UpTo(size, row.bytes); // accesses beyond its end are detected
@@ -141,7 +141,7 @@ TEST(Value, ReadsWhatItWouldNotWrite) {
     }
 }
 
-TEST(Value, RefusesWhatHasNoMeaning) {
+TEST(Value, RejectsInvalidValues) {
     const struct {
         uint32_t type;
         uint16_t codePage;

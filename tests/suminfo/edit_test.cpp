@@ -303,7 +303,7 @@ TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
         EXPECT_EQ(FileBytes(folder_.Path() / name), bytes[name]) << name << " was refused, but changed";
 }
 
-TEST_F(Edit, WhatIsRefusedChangesNothing) {
+TEST_F(Edit, RejectedEditsChangeNothing) {
     const fs::path file = Document("test11--695187.doc");
     const std::vector<unsigned char> before = FileBytes(file);
     const std::string name = file.string();

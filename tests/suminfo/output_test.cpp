@@ -87,7 +87,7 @@ TEST(ResourceScript, LeavesNoFileWhereItFails) {
     EXPECT_EQ(run.err, "suminfo: " + nowhere + ": no file can be created in its folder: no such folder\n");
 }
 
-TEST(Check, ReportsWithOffsetsAndFailsOnWhatIsIrregular) {
+TEST(Check, ReportsOffsetsAndFailsForIrregularities) {
     const Outcome fine =
         RunSuminfo({"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
     EXPECT_EQ(fine.exitCode, 0) << fine.out;

@@ -115,7 +115,7 @@ TEST(Show, TableNamesFieldsAndCustomProperties) {
         EXPECT_NE(run.out.find(line), std::string::npos) << line << "\nis missing in\n" << run.out;
 }
 
-TEST(Show, OtherFilesAreRefusedByName) {
+TEST(Show, OtherFilesAreRejectedByName) {
     const Folder folder;
     std::ofstream(folder.Path() / "text.doc") << "no compound file";
     const Outcome run = RunSuminfo({"show", "text.doc", "missing.doc", "."}, folder.Path());

@@ -105,7 +105,7 @@ TEST(DibDrawing, ASmallerPictureHasTheMeanOfEachPart) {
     EXPECT_EQ(Draw(odd, 2, 2), (Drawn{0x000055, 0x0000FF, 0x000055, 0x0000FF}));
 }
 
-TEST(DibDrawing, RefusesWhatTheSystemsDrawingRefuses) {
+TEST(DibDrawing, RejectsWhatTheSystemRejects) {
     const ByteVector whole = Runs(8, {4, 1, 0, 1}).Build();
     for (size_t size = 0; size < whole.size(); ++size) {
         const ByteVector cut(whole.begin(),

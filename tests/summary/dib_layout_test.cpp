@@ -94,7 +94,7 @@ const Refused kRefused[] = {
     {"RunLengthWithoutSize", With(Dib(4, 2, 8).RunLength({0, 1}), &DibBytes::imageBytes, 0u)},
 };
 
-TEST(DibLayout, IsRefusedWithoutReadingPastIt) {
+TEST(DibLayout, IsRejectedWithoutReadingPastItsEnd) {
     for (const Refused& row : kRefused) {
         const ByteVector bytes = row.dib.Build();
         EXPECT_FALSE(ReadDibLayout(bytes.data(), bytes.size(), DibColors::Rgb)) << row.name;

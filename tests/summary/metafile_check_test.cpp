@@ -48,7 +48,7 @@ TEST(MetaFilePicture, HasItsExtentsUnderEitherHead) {
 }
 
 // A large extent makes the header look like the 16-bit one, whose extent is then 0.
-TEST(MetaFilePicture, WideExtentsAreTakenForTheNarrowHead) {
+TEST(MetaFilePicture, LargeExtentsLookLikeTheNarrowHeader) {
     ByteVector bytes = Picture().BuildWide();
     bytes[6] = 1; // x extent 0x10064
     EXPECT_FALSE(Passes(bytes));
@@ -136,7 +136,7 @@ const Row kRefused[] = {
     {"RestoringByAbsoluteLevel", Picture().Record(0x001E, {}).Record(0x0127, {1})},
 };
 
-TEST(MetaFilePicture, PassesOrIsRefusedAsAWhole) {
+TEST(MetaFilePicture, IsAcceptedOrRejectedAsAWhole) {
     for (const Row& row : kPassing)
         EXPECT_TRUE(Passes(row.picture.Build())) << row.name;
     for (const Row& row : kRefused)

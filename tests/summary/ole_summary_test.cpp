@@ -268,7 +268,7 @@ TEST_F(Summary, SurvivesItsStream) {
     OleStdFreeSummaryInfo(&other);
 }
 
-TEST(SummaryOfNothing, GivesTheFailureValueEverywhere) {
+TEST(SummaryOfNothing, ReturnsTheFailureValueEverywhere) {
     CPropertySet withoutSection;
     for (CPropertySet* set : {static_cast<CPropertySet*>(nullptr), &withoutSection}) {
         DWORD format, size;

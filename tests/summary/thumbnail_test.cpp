@@ -193,7 +193,7 @@ TEST(DrawingWithoutTheSystem, HasTheColorsOfTheSystem) {
 
 // Objects, mapping and clipping of the device context are restored even if the metafile saves states without restoring
 // them.
-TEST_F(Thumbnail, TheDeviceContextIsGivenBackAsItCame) {
+TEST_F(Thumbnail, TheDeviceContextIsRestored) {
     ::SetMapMode(canvas_.DC(), MM_ANISOTROPIC);
     ::SetViewportOrgEx(canvas_.DC(), 7, 8, nullptr);
     const HGDIOBJ brush = ::GetCurrentObject(canvas_.DC(), OBJ_BRUSH);
@@ -244,7 +244,7 @@ SIZE_T MostMemorySoFar() {
 
 // Pictures of a few hundred bytes with sizes that used all memory or ended the process; the records that follow are
 // still drawn.
-TEST_F(Thumbnail, TakesLittleMemoryWhateverSizesARecordNames) {
+TEST_F(Thumbnail, TakesLittleMemoryForAnyDeclaredSize) {
     const auto picture = [](uint16_t scale) {
         return MetaFileBytes(60, 60).Record(0x0103, {8}).Record(0x020C, {1, 1}).Record(0x020E, {scale, scale});
     };

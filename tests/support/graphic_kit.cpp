@@ -9,9 +9,9 @@
 #include <oaidl.h>
 
 #include "drawcore/application.h"
-#include "drawcore/census.h"
 #include "drawcore/drawing.h"
 #include "drawcore/graphic.h"
+#include "drawcore/object_counts.h"
 #include "drawcore/selection.h"
 #include "orlo/host/memory.h"
 
@@ -164,7 +164,7 @@ int GraphicKit::Writes() const {
 }
 
 long GraphicKit::Blocks() const {
-    DrawCoreCensus census;
-    ::DrawCoreGetCensus(&census);
-    return census.blocks;
+    DrawCoreObjectCounts counts;
+    ::DrawCoreGetObjectCounts(&counts);
+    return counts.blocks;
 }

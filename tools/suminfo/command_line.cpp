@@ -135,7 +135,7 @@ private:
         return {std::nullopt, kUsage};
     }
 
-    // What the parser's own table does not express.
+    // Applies rules that the parser's table cannot express.
     void Complete() {
         if (!file_.empty()) line_.files = {file_};
         switch (line_.command) {

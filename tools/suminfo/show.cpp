@@ -123,7 +123,7 @@ std::string PropertyValue(const orlo::ImageSection& section, const orlo::ImagePr
     return text ? *text : PropertyShown(section, property);
 }
 
-// What readers could not make out is in an error column of its own.
+// Values that cannot be read are reported in a separate error column.
 Report ShowCsv(const Source& source) {
     Report report;
     const SourceSets sets = SetsOf(source);

@@ -16,16 +16,16 @@ typedef struct DxfListener {
     // permille increases from 0 to 1000. Return 0 to cancel.
     int (*progress)(void* context, int permille);
     // A warning that something was left out. line is 0 if it does not refer to a single line.
-    void (*finding)(void* context, int line, const char* text);
+    void (*warning)(void* context, int line, const char* text);
 } DxfListener;
 
 // Creates a drawing from the model space of the file. The caller frees it with DrawingDispose. It does not become the
 // current drawing. If the file cannot be opened completely, returns null and stores an error message (at most size
-// bytes, including the NUL); if the listener canceled, the message is "cancelled". The listener may be null.
+// bytes, including the NUL); if the listener canceled, the message is "canceled". The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // Results of DrawingSaveDxf.
-enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCancelled = 3, kSaveDoneInPart = 4 };
+enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCanceled = 3, kSaveDoneInPart = 4 };
 // Flags of DrawingSaveDxf.
 enum {
     kSaveOverChanged = 1, // overwrite the file even if another program has changed it since the drawing was opened
@@ -39,15 +39,15 @@ enum {
 //
 //   kSaveDone         saved; from now on the drawing belongs to that file
 //   kSaveFileChanged  another program has changed the file since the drawing was opened from it; nothing was written
-//   kSaveCancelled    the listener canceled; no file was changed
+//   kSaveCanceled    the listener canceled; no file was changed
 //   kSaveFailed       no file was changed; message (at most size bytes, including the NUL) contains the reason, for
 //                     example: the drawing was not opened from a file, the version of the file has no such entity, the
 //                     disk is full, the file is open in another program
-//   kSaveDoneInPart   with kSaveRest only: saved except for the parts that were reported to the listener's `finding`,
+//   kSaveDoneInPart   with kSaveRest only: saved except for the parts that were reported to the listener's `warning`,
 //                     with the entity's kind, handle and line if it has them. An entity that was left out is in the
 //                     file as before, a new one is not; the drawing still counts as modified
 //
-// When the file has been written, `finding` is also called with line 0 for each property that is stored in extended
+// When the file has been written, `warning` is also called with line 0 for each property that is stored in extended
 // data, where other programs do not show it.
 //
 // Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics, layers and

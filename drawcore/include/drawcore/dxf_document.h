@@ -70,7 +70,7 @@ struct Finding {
     std::string text;
 };
 
-// What a document contains. Names are as stored in the file, with escapes like \U+00C4.
+// The contents of a document. Names are as stored in the file, with escapes like \U+00C4.
 struct Contents {
     struct Layer {
         std::string name;

@@ -3,7 +3,7 @@
 
 #include "orlo/host/api.h"
 
-struct DrawCoreCensus {
+struct DrawCoreObjectCounts {
     long blocks;   // memory blocks of DrawCoreNew, including strings
     long graphics; // including those of drawings
     long vertices; // without those of graphics
@@ -11,4 +11,4 @@ struct DrawCoreCensus {
 };
 
 // Stores the present counts of the process.
-DRAWCORE_API void DrawCoreGetCensus(DrawCoreCensus*);
+DRAWCORE_API void DrawCoreGetObjectCounts(DrawCoreObjectCounts*);

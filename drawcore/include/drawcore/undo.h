@@ -27,7 +27,7 @@ DRAWCORE_API int DrawingCancelUndo(DrawingStruct*);
 DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
 // Sets the memory limit for all steps in bytes (default: 256 MB). The next step to undo and the next one to redo are
 // kept even if they exceed it.
-DRAWCORE_API void DrawingSetUndoRoom(DrawingStruct*, size_t bytes);
+DRAWCORE_API void DrawingSetUndoLimit(DrawingStruct*, size_t bytes);
 // Undoes the last step. Returns the number of graphics that were restored, or 0 if there is no step or one is open.
 DRAWCORE_API int DrawingUndo(DrawingStruct*);
 // Redoes the step that was undone last. Returns the number of graphics that were changed, or 0 if there is no step or

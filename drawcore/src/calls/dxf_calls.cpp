@@ -20,12 +20,12 @@ std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) 
     dxf::Document document = dxf::Read(bytes, report.Part(0, kReadingShare));
     std::unique_ptr<Drawing> drawing = ImportDxf(document, report.Part(kReadingShare, 1000));
     for (const dxf::Finding& finding : document.findings)
-        if (listener && listener->finding)
-            listener->finding(listener->context, static_cast<int>(finding.line),
+        if (listener && listener->warning)
+            listener->warning(listener->context, static_cast<int>(finding.line),
                               CodePageFromUtf8(finding.text).c_str());
     drawing->source = std::make_unique<DxfSource>(std::move(bytes), document);
     drawing->source->path = std::filesystem::absolute(path);
-    drawing->source->NoteContents(*drawing);
+    drawing->source->RecordContents(*drawing);
     report(1000);
     return drawing;
 }
@@ -39,7 +39,7 @@ DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener* listener, 
         return Open(path, listener).release();
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory for the drawing", message, size);
-    } catch (const std::exception& error) { // dxf::ReadError, Cancelled; an invalid path
+    } catch (const std::exception& error) { // dxf::ReadError, Canceled; an invalid path
         CopyText(error.what(), message, size);
     }
     return nullptr;

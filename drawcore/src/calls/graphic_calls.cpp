@@ -56,9 +56,9 @@ template <class Change>
 void ChangeAttribute(GraphicStruct* record, Change change) {
     if (!record) return;
     Graphic& graphic = *Graphic::From(record);
-    graphic.ChangingLook();
+    graphic.ChangingAppearance();
     change(graphic);
-    graphic.ChangedLook();
+    graphic.ChangedAppearance();
 }
 
 template <class Change>

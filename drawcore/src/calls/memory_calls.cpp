@@ -4,20 +4,20 @@
 
 #include <cstdlib>
 
-#include "drawcore/include/drawcore/census.h"
-#include "drawcore/src/graphics/census.h"
+#include "drawcore/include/drawcore/object_counts.h"
+#include "drawcore/src/graphics/object_counts.h"
 
-using drawcore::Census;
+using drawcore::ObjectCounts;
 
 void* DrawCoreNew(size_t size) {
     void* block = std::malloc(size ? size : 1);
-    if (block) ++Census::blocks;
+    if (block) ++ObjectCounts::blocks;
     return block;
 }
 
 void DrawCoreDispose(void* block) {
     if (!block) return;
-    --Census::blocks;
+    --ObjectCounts::blocks;
     std::free(block);
 }
 
@@ -27,6 +27,7 @@ void BStringNULL(char** string) {
     *string = nullptr;
 }
 
-void DrawCoreGetCensus(DrawCoreCensus* census) {
-    if (census) *census = {Census::blocks, Census::graphics, Census::vertices, Census::viewports};
+void DrawCoreGetObjectCounts(DrawCoreObjectCounts* counts) {
+    if (counts)
+        *counts = {ObjectCounts::blocks, ObjectCounts::graphics, ObjectCounts::vertices, ObjectCounts::viewports};
 }

@@ -9,9 +9,9 @@
 
 namespace drawcore {
 
-class Cancelled : public std::runtime_error {
+class Canceled : public std::runtime_error {
 public:
-    Cancelled() : std::runtime_error("cancelled") {}
+    Canceled() : std::runtime_error("canceled") {}
 };
 
 class ProgressReport {
@@ -19,11 +19,11 @@ public:
     // The listener may be null; it must outlive the report and its parts.
     explicit ProgressReport(const DxfListener* listener) : listener_(listener) {}
 
-    // Throws Cancelled if the listener cancels.
+    // Throws Canceled if the listener cancels.
     void operator()(int permille) const {
         if (permille < *done_) return; // progress of a step that is repeated
         *done_ = permille;
-        if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille)) throw Cancelled();
+        if (listener_ && listener_->progress && !listener_->progress(listener_->context, permille)) throw Canceled();
     }
     // Returns the progress function for a step that counts from 0 to 1000 and is this part of the whole.
     dxf::Progress Part(int from, int to) const {

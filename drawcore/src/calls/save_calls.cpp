@@ -12,10 +12,10 @@
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/export/appearance_export.h"
 #include "drawcore/src/export/drawing_comparison.h"
 #include "drawcore/src/export/layer_export.h"
-#include "drawcore/src/export/leftovers.h"
-#include "drawcore/src/export/look_export.h"
+#include "drawcore/src/export/omitted_objects.h"
 #include "drawcore/src/export/structure_export.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/import_tables.h"
@@ -30,14 +30,15 @@ namespace {
 // Writes the changed graphics into the text.
 class ChangeExport {
 public:
-    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch, Leftovers& left)
-        : drawing_(drawing), structure_(structure), left_(left), looks_(drawing, patch) {}
+    ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch,
+                 OmittedObjects& left)
+        : drawing_(drawing), structure_(structure), left_(left), appearances_(drawing, patch) {}
 
     // Layers are added even if they are empty.
     void Write(const std::vector<Id>& newLayers) {
         const BlockTable* blocks = drawing_.Blocks();
         for (const Id id : newLayers)
-            looks_.AddLayer(id);
+            appearances_.AddLayer(id);
         WriteMembers(drawing_.Root());
         for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
             if (structure_.Has(*blocks->At(id))) WriteMembers(blocks->At(id)->Content());
@@ -50,15 +51,15 @@ private:
             const bool isNew = graphic.source == Graphic::kNoSource;
             if (isNew && !structure_.WillHave(graphic)) continue;
             if ((graphic.touched || isNew) && !left_.Has(graphic))
-                left_.Try(graphic, [&] { looks_.Write(graphic, structure_.PlaceOf(graphic)); });
+                left_.Try(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
             WriteMembers(graphic);
         }
     }
 
     const Drawing& drawing_;
     const StructureExport& structure_;
-    Leftovers& left_;
-    LookExport looks_;
+    OmittedObjects& left_;
+    AppearanceExport appearances_;
 };
 
 bool IsTouched(const Graphic& graphic) {
@@ -92,7 +93,7 @@ struct ChangedSource {
 // not known before, the result is useless and the next pass omits them.
 class SavePass {
 public:
-    SavePass(const Drawing& drawing, Leftovers& left, const ProgressReport& report)
+    SavePass(const Drawing& drawing, OmittedObjects& left, const ProgressReport& report)
         : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left), report_(report) {
     }
 
@@ -139,7 +140,7 @@ private:
 
     void ChangeLayers(dxf::DrawingPatch& patch) {
         for (const auto& [index, layer] : ChangedLayers(drawing_, patch.Known())) {
-            const std::string name = Leftovers::NameOfLayer(HostName(layer.name));
+            const std::string name = OmittedObjects::NameOfLayer(HostName(layer.name));
             if (left_.Has(name)) continue;
             try {
                 patch.ChangeLayer(index, layer);
@@ -155,7 +156,7 @@ private:
         changed.sources =
             CompareWithFile(drawing_, text, document, left_, changed.removedLeft, report_.Part(kReadBack, kCompared));
         for (const auto& [index, layer] : ChangedLayers(drawing_, document))
-            left_.Add(Leftovers::NameOfLayer(HostName(layer.name)), "the file can't hold a change of it");
+            left_.Add(OmittedObjects::NameOfLayer(HostName(layer.name)), "the file can't hold a change of it");
         CompareLayerNames(text, document);
         changed.known = document.Tables();
     }
@@ -168,19 +169,19 @@ private:
             const std::string layer = Utf8FromCodePage(name);
             if (dxf::FirstOnLayer(text, document, layer).empty()) continue;
             const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // including its line
-            left_.Add(Leftovers::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
+            left_.Add(OmittedObjects::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
         }
     }
 
     const Drawing& drawing_;
     const DxfSource& source_;
     const std::string_view text_;
-    Leftovers& left_;
+    OmittedObjects& left_;
     const size_t before_ = left_.Count();
     const ProgressReport& report_;
 };
 
-void TakeOver(ChangedSource&& changed, const Leftovers& left, DxfSource& source) {
+void TakeOver(ChangedSource&& changed, const OmittedObjects& left, DxfSource& source) {
     for (const auto& [graphic, place] : changed.sources) {
         graphic->source = place;
         if (!left.Has(*graphic)) graphic->touched = false;
@@ -196,7 +197,7 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
 
 // Runs passes until no further graphic must be omitted. Throws SaveError for the first one unless saving the rest was
 // requested.
-std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Leftovers& left,
+std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, OmittedObjects& left,
                                     const ProgressReport& report) {
     for (;;) {
         const size_t before = left.Count();
@@ -207,23 +208,23 @@ std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Left
 }
 
 // Removed graphics that remain in the file are removed again at the next save.
-void NoteContents(const Drawing& drawing, const Leftovers& left, const std::vector<uint32_t>& removedLeft) {
+void RecordContents(const Drawing& drawing, const OmittedObjects& left, const std::vector<uint32_t>& removedLeft) {
     DxfSource& source = *drawing.source;
     const std::vector<std::string> layers = source.layers, blocks = source.blocks;
-    source.NoteContents(drawing, left.Count());
+    source.RecordContents(drawing, left.Count());
     for (const std::string& name : layers)
-        if (left.Has(Leftovers::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
+        if (left.Has(OmittedObjects::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
             source.layers.push_back(name);
     for (const std::string& name : blocks)
-        if (left.Has(Leftovers::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name)) source.blocks.push_back(name);
+        if (left.Has(OmittedObjects::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name)) source.blocks.push_back(name);
     source.graphics.insert(source.graphics.end(), removedLeft.begin(), removedLeft.end());
     std::sort(source.graphics.begin(), source.graphics.end());
 }
 
 void ReportOnlyExtended(const std::map<std::string, size_t>& properties, const DxfListener* listener) {
     for (const auto& [name, count] : properties)
-        if (listener && listener->finding)
-            listener->finding(listener->context, 0, dxf::OnlyExtendedText(name, count).c_str());
+        if (listener && listener->warning)
+            listener->warning(listener->context, 0, dxf::OnlyExtendedText(name, count).c_str());
 }
 
 int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, const DxfListener* listener) {
@@ -233,7 +234,7 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, co
     const auto isChanged = [&] { return mustBeSource && !files::HasContents(path, source.bytes); };
     if (isChanged()) return kSaveFileChanged;
     report(0);
-    Leftovers left(drawing);
+    OmittedObjects left(drawing);
     std::optional<ChangedSource> changed = Change(drawing, flags & kSaveRest, left, report);
     const std::string& bytes = changed ? changed->bytes : source.bytes;
     const dxf::Progress progress = report.Part(kCompared, 1000);
@@ -247,11 +248,11 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, co
         ReportOnlyExtended(changed->onlyExtended, listener);
         TakeOver(std::move(*changed), left, source);
     }
-    NoteContents(drawing, left, removedLeft);
+    RecordContents(drawing, left, removedLeft);
     source.path = path;
     for (const dxf::Finding& finding : left.List())
-        if (listener && listener->finding)
-            listener->finding(listener->context, static_cast<int>(finding.line), finding.text.c_str());
+        if (listener && listener->warning)
+            listener->warning(listener->context, static_cast<int>(finding.line), finding.text.c_str());
     return left.Count() == 0 ? kSaveDone : kSaveDoneInPart;
 }
 
@@ -270,9 +271,9 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         const int result = Save(*found, std::filesystem::absolute(path), flags, listener);
         if (result == kSaveFileChanged) CopyText("the file has changed since it was opened", message, size);
         return result;
-    } catch (const Cancelled& cancelled) {
-        CopyText(cancelled.what(), message, size);
-        return kSaveCancelled;
+    } catch (const Canceled& canceled) {
+        CopyText(canceled.what(), message, size);
+        return kSaveCanceled;
     } catch (const std::bad_alloc&) {
         CopyText("there is not enough memory to save the drawing", message, size);
     } catch (const std::exception& error) { // SaveError, ReadError, FileError, or an invalid path

@@ -58,7 +58,7 @@ uint32_t DrawingGetUndoMark(DrawingStruct* drawing) {
     return Ask(drawing, &UndoLog::Mark);
 }
 
-void DrawingSetUndoRoom(DrawingStruct* drawing, size_t bytes) {
+void DrawingSetUndoLimit(DrawingStruct* drawing, size_t bytes) {
     if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetRoom(bytes);
 }
 

@@ -2,17 +2,17 @@
 
 #include <new>
 
-#include "drawcore/src/graphics/census.h"
 #include "drawcore/src/graphics/graphic.h"
+#include "drawcore/src/graphics/object_counts.h"
 #include "drawcore/src/graphics/vertex.h"
 #include "orlo/host/vertex.h"
 
-using drawcore::Census;
+using drawcore::ObjectCounts;
 using drawcore::Vertex;
 
 VertexStruct* VertexNewEx(double x, double y, double z) {
     Vertex* vertex = new (std::nothrow) Vertex({x, y, z});
-    if (vertex) ++Census::vertices;
+    if (vertex) ++ObjectCounts::vertices;
     return vertex;
 }
 
@@ -32,7 +32,7 @@ void VertexSet(VertexStruct* vertex, double x, double y, double z) {
 
 void VertexDispose(VertexStruct** vertex) {
     if (!vertex || !*vertex) return;
-    --Census::vertices;
+    --ObjectCounts::vertices;
     delete Vertex::From(*vertex);
     *vertex = nullptr;
 }

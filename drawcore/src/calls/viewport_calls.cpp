@@ -96,11 +96,11 @@ bool PaintUntil(Clock::time_point end, const Graphic& graphic, Viewport& viewpor
         if (!TraceAlone(graphic, trace)) return true;
         viewport.painting.budget = tools.budget;
         viewport.painting.seen =
-            preview ? SeenMembers() : SeenMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
+            preview ? VisibleMembers() : VisibleMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
     }
     tools.budget = viewport.painting.budget;
     const Trace inner = TraceOfMembers(graphic, trace);
-    const SeenMembers& seen = viewport.painting.seen;
+    const VisibleMembers& seen = viewport.painting.seen;
     const size_t count = seen.CountIn(graphic);
     while (place < count) {
         if (const Graphic* member = seen.At(graphic, place)) TraceGraphic(*member, inner);
@@ -159,7 +159,7 @@ void ViewportFitSeen(ViewportStruct* viewport, GraphicStruct* graphic) {
     if (!viewport || !graphic) return;
     Viewport& view = *Viewport::From(viewport);
     const Graphic& all = *Graphic::From(graphic);
-    const Extents seen = SeenExtents(all, DrawingFor(view, all));
+    const Extents seen = VisibleExtents(all, DrawingFor(view, all));
     view.Show(seen.IsEmpty() ? all.GetExtents() : seen);
 }
 

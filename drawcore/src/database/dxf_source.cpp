@@ -57,9 +57,9 @@ private:
         Mix(group.MemberCount());
         for (size_t i = 0; i < group.MemberCount(); ++i) {
             Graphic& member = *group.MemberAt(i);
-            Look look = member.GetLook();
-            look.lastPage = 0; // not stored in files
-            number_ = number_ * 31 + LookHash()(look);
+            Appearance appearance = member.GetAppearance();
+            appearance.lastPage = 0; // not stored in files
+            number_ = number_ * 31 + AppearanceHash()(appearance);
             for (size_t place = 0; const Vertex* vertex = member.VertexAt(place); ++place) {
                 Mix(vertex->x);
                 Mix(vertex->y);
@@ -78,7 +78,7 @@ bool DxfSource::IsOutdated(const Drawing& drawing) const {
     return left_ > 0 || drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
 }
 
-void DxfSource::NoteContents(const Drawing& drawing, size_t left) {
+void DxfSource::RecordContents(const Drawing& drawing, size_t left) {
     left_ = left;
     undoMark_ = drawing.Undo().Mark();
     contentsMark_ = ContentsMark(drawing).Number();

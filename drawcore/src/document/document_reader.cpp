@@ -111,17 +111,17 @@ bool DocumentReader::Has(const EntityRef& entity, std::string_view name) {
 }
 
 std::string DocumentReader::Get(const EntityRef& entity, std::string_view name) const {
-    return texts_->Get(name, LookOf(*document_, *entity.entity_));
+    return texts_->Get(name, AppearanceOf(*document_, *entity.entity_));
 }
 
 std::string DocumentReader::GetWithVariety(const EntityRef& entity, std::string_view name) const {
-    const bool varies = LookOf(*document_, *entity.entity_).varied & VariedBit(name);
+    const bool varies = AppearanceOf(*document_, *entity.entity_).varied & VariedBit(name);
     return Get(entity, name) + (varies ? " (varies)" : "");
 }
 
 bool DocumentReader::IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const {
-    return SameLook(*document_, LookOf(*document_, *entity.entity_), *other.document_,
-                    LookOf(*other.document_, *otherEntity.entity_));
+    return SameAppearance(*document_, AppearanceOf(*document_, *entity.entity_), *other.document_,
+                          AppearanceOf(*other.document_, *otherEntity.entity_));
 }
 
 } // namespace dxf

@@ -18,7 +18,7 @@ struct DocumentWriter::Parts {
     Values values; // in the order in which they are set
     DrawingPatch patch;
     const Document& known;
-    std::map<uint32_t, Look> wanted; // by offset of the entity
+    std::map<uint32_t, Appearance> wanted; // by offset of the entity
 };
 
 DocumentWriter::DocumentWriter(const DocumentReader& reader, const Values& values)
@@ -26,7 +26,7 @@ DocumentWriter::DocumentWriter(const DocumentReader& reader, const Values& value
     for (const std::string& name : DocumentReader::PropertyNames())
         for (const auto& [property, text] : values)
             if (IsSameName(property, name)) parts_->values.emplace_back(name, text);
-    Look tried;
+    Appearance tried;
     for (const auto& [property, text] : parts_->values)
         reader.texts_->Set(property, text, tried);
 }
@@ -35,17 +35,17 @@ DocumentWriter::~DocumentWriter() = default;
 
 bool DocumentWriter::Change(const EntityRef& entity) {
     const DocumentReader& reader = parts_->reader;
-    const Look was = LookOf(parts_->known, *entity.entity_);
-    Look look = was;
+    const Appearance was = AppearanceOf(parts_->known, *entity.entity_);
+    Appearance appearance = was;
     for (const auto& [property, text] : parts_->values)
-        if (PropertyTexts::Has(*entity.entity_, property)) reader.texts_->Set(property, text, look);
-    if (look == was) return false;
+        if (PropertyTexts::Has(*entity.entity_, property)) reader.texts_->Set(property, text, appearance);
+    if (appearance == was) return false;
     try {
-        parts_->patch.Change(entity.entity_->offset, look);
+        parts_->patch.Change(entity.entity_->offset, appearance);
     } catch (const SaveError& error) {
         throw SaveError(reader.NameOf(entity).Text() + ": " + error.what());
     }
-    parts_->wanted.emplace(entity.entity_->offset, std::move(look));
+    parts_->wanted.emplace(entity.entity_->offset, std::move(appearance));
     return true;
 }
 
@@ -64,13 +64,13 @@ void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
     if (before.size() != now.size()) differ("all entities");
     for (size_t i = 0; i < before.size(); ++i) {
         const auto change = wanted.find(before[i].entity_->offset);
-        const Look one = change != wanted.end() ? change->second : LookOf(known, *before[i].entity_);
-        const Look other = LookOf(read, *now[i].entity_);
-        if (SameLook(tables, one, read, other)) continue;
+        const Appearance one = change != wanted.end() ? change->second : AppearanceOf(known, *before[i].entity_);
+        const Appearance other = AppearanceOf(read, *now[i].entity_);
+        if (SameAppearance(tables, one, read, other)) continue;
         for (const std::string& name : DocumentReader::PropertyNames())
             if (texts.Get(name, one) != after.texts_->Get(name, other))
                 differ(name + " of " + reader.NameOf(before[i]).Text());
-        differ("the look of " + reader.NameOf(before[i]).Text());
+        differ("the appearance of " + reader.NameOf(before[i]).Text());
     }
 }
 

@@ -128,8 +128,8 @@ std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
 
 // Formats and parses values that are more than a number or a text.
 struct PropertyForms {
-    using Get = std::string (*)(const PropertyTexts&, const PropertyInfo&, const Look&);
-    using Set = void (*)(const PropertyTexts&, const PropertyInfo&, const std::string&, Look&);
+    using Get = std::string (*)(const PropertyTexts&, const PropertyInfo&, const Appearance&);
+    using Set = void (*)(const PropertyTexts&, const PropertyInfo&, const std::string&, Appearance&);
 
     const char* name;
     Get get;
@@ -157,106 +157,112 @@ struct PropertyForms {
         return drawcore::WriteLength(units * unit.millimeters, unit, {of.units_.lengthSystem, kDigits, false});
     }
 
-    static std::string GetLayer(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
-        return ToDisplayText(of.document_.At(look.layer).name);
+    static std::string GetLayer(const PropertyTexts& of, const PropertyInfo&, const Appearance& appearance) {
+        return ToDisplayText(of.document_.At(appearance.layer).name);
     }
-    static void SetLayer(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
+    static void SetLayer(const PropertyTexts& of, const PropertyInfo&, const std::string& text,
+                         Appearance& appearance) {
         const auto found = FindName<LayerIndex>(of.document_.layers, text);
         if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
-        look.layer = *found;
+        appearance.layer = *found;
     }
 
-    static std::string GetSystem(const PropertyTexts&, const PropertyInfo& info, const Look& look) {
-        return WholeText(info, look.worldWidth ? kScaleWorld : kScalePaper);
+    static std::string GetSystem(const PropertyTexts&, const PropertyInfo& info, const Appearance& appearance) {
+        return WholeText(info, appearance.worldWidth ? kScaleWorld : kScalePaper);
     }
     // A width in drawing units must be a number rather than a marker.
-    static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
-        look.worldWidth = ReadWhole(info, text) == kScaleWorld;
-        const bool inherits = look.worldWidth && look.width < 0;
+    static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
+                          Appearance& appearance) {
+        appearance.worldWidth = ReadWhole(info, text) == kScaleWorld;
+        const bool inherits = appearance.worldWidth && appearance.width < 0;
         if (inherits)
-            look.width = look.width == kPenWidthByLayer
-                             ? std::max(of.document_.At(look.layer).lineWeight, 0) / kWeightsPerInch
-                             : 0;
+            appearance.width = appearance.width == kPenWidthByLayer
+                                   ? std::max(of.document_.At(appearance.layer).lineWeight, 0) / kWeightsPerInch
+                                   : 0;
     }
 
-    static std::string GetWidth(const PropertyTexts& of, const PropertyInfo&, const Look& look) {
-        if (look.width == kPenWidthByLayer) return ColorText(kColorByLayer);
-        if (look.width == kPenWidthByBlock) return ColorText(kColorByBlock);
-        if (look.worldWidth) return LengthText(of, look.width);
+    static std::string GetWidth(const PropertyTexts& of, const PropertyInfo&, const Appearance& appearance) {
+        if (appearance.width == kPenWidthByLayer) return ColorText(kColorByLayer);
+        if (appearance.width == kPenWidthByBlock) return ColorText(kColorByBlock);
+        if (appearance.worldWidth) return LengthText(of, appearance.width);
         constexpr int kDigits = 6;
-        return drawcore::WriteLength(look.width * kMillimetersPerInch, PaperUnit(of),
+        return drawcore::WriteLength(appearance.width * kMillimetersPerInch, PaperUnit(of),
                                      {drawcore::LengthSystem::Decimal, kDigits, true});
     }
-    static void SetWidth(const PropertyTexts& of, const PropertyInfo&, const std::string& text, Look& look) {
+    static void SetWidth(const PropertyTexts& of, const PropertyInfo&, const std::string& text,
+                         Appearance& appearance) {
         const bool byLayer = IsSameName(text, ColorText(kColorByLayer));
         if (byLayer || IsSameName(text, ColorText(kColorByBlock))) {
-            look.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
-            look.worldWidth = false;
-        } else if (look.worldWidth)
-            look.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
+            appearance.width = byLayer ? kPenWidthByLayer : kPenWidthByBlock;
+            appearance.worldWidth = false;
+        } else if (appearance.worldWidth)
+            appearance.width = ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters;
         else
-            look.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
+            appearance.width = ReadLength(text, PaperUnit(of)) / kMillimetersPerInch;
     }
 
-    static std::string GetLineType(const PropertyTexts& of, const PropertyInfo& info, const Look& look) {
-        if (look.lineType < LineTypeIndex::none) return ToDisplayText(of.document_.At(look.lineType).name);
-        return WholeText(info, look.lineType == LineTypeIndex::byLayer   ? kLineStyleByLayer
-                               : look.lineType == LineTypeIndex::byBlock ? kLineStyleByBlock
-                                                                         : kLineStyleNone);
+    static std::string GetLineType(const PropertyTexts& of, const PropertyInfo& info, const Appearance& appearance) {
+        if (appearance.lineType < LineTypeIndex::none) return ToDisplayText(of.document_.At(appearance.lineType).name);
+        return WholeText(info, appearance.lineType == LineTypeIndex::byLayer   ? kLineStyleByLayer
+                               : appearance.lineType == LineTypeIndex::byBlock ? kLineStyleByBlock
+                                                                               : kLineStyleNone);
     }
-    static void SetLineType(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+    static void SetLineType(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
+                            Appearance& appearance) {
         if (const std::optional<uint32_t> marker = FindWord(WordsOf(info.meaning), text))
-            look.lineType = *marker == kLineStyleByLayer   ? LineTypeIndex::byLayer
-                            : *marker == kLineStyleByBlock ? LineTypeIndex::byBlock
-                                                           : LineTypeIndex::none;
+            appearance.lineType = *marker == kLineStyleByLayer   ? LineTypeIndex::byLayer
+                                  : *marker == kLineStyleByBlock ? LineTypeIndex::byBlock
+                                                                 : LineTypeIndex::none;
         else if (const auto found = FindName<LineTypeIndex>(of.document_.lineTypes, text))
-            look.lineType = *found;
+            appearance.lineType = *found;
         else
             Refuse(text, Listed(TextsOf(WordsOf(info.meaning))) + ", " + Listed(NamesOf(of.document_.lineTypes)));
     }
 
-    static std::string GetBrush(const PropertyTexts&, const PropertyInfo& info, const Look& look) {
-        return look.brush.style.empty() ? WholeText(info, kBrushStyleNone) : look.brush.style;
+    static std::string GetBrush(const PropertyTexts&, const PropertyInfo& info, const Appearance& appearance) {
+        return appearance.brush.style.empty() ? WholeText(info, kBrushStyleNone) : appearance.brush.style;
     }
-    static void SetBrush(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
+    static void SetBrush(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
+                         Appearance& appearance) {
         std::vector<std::string> allowed = {WholeText(info, kBrushStyleNone)};
         const auto take = [&](const std::string& style, const std::vector<Hatch::PatternLine>& lines) {
             allowed.push_back(style);
             if (!IsSameName(style, text)) return false;
-            look.brush.style = style;
-            look.brush.lines = lines;
+            appearance.brush.style = style;
+            appearance.brush.lines = lines;
             return true;
         };
         if (IsSameName(text, allowed[0])) {
-            look.brush.style.clear();
-            look.brush.lines.clear();
+            appearance.brush.style.clear();
+            appearance.brush.lines.clear();
             return;
         }
         for (const StandardBrush& brush : StandardBrushes())
             if (take(brush.name, brush.lines)) return;
-        for (const BrushLook& brush : of.patterns_)
+        for (const BrushAppearance& brush : of.patterns_)
             if (take(brush.style, brush.lines)) return;
         Refuse(text, Listed(allowed));
     }
 
-    static std::string GetPlain(const PropertyTexts& of, const PropertyInfo& info, const Look& look) {
-        const std::optional<double> number = NumberOf(look, info.name);
+    static std::string GetPlain(const PropertyTexts& of, const PropertyInfo& info, const Appearance& appearance) {
+        const std::optional<double> number = NumberOf(appearance, info.name);
         constexpr int kDigits = 9;
-        if (!number) return TextOf(look, info.name);
+        if (!number) return TextOf(appearance, info.name);
         if (!info.IsReal()) return WholeText(info, static_cast<uint32_t>(*number));
         if (info.meaning == PropertyMeaning::Length) return LengthText(of, *number);
         if (info.meaning == PropertyMeaning::Angle)
             return drawcore::WriteAngle(*number, {of.units_.angleSystem, kDigits});
         return NumberText(*number);
     }
-    static void SetPlain(const PropertyTexts& of, const PropertyInfo& info, const std::string& text, Look& look) {
-        if (info.IsText()) return SetText(look, info.name, text);
+    static void SetPlain(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
+                         Appearance& appearance) {
+        if (info.IsText()) return SetText(appearance, info.name, text);
         if (info.meaning == PropertyMeaning::Block) {
             if (!text.empty() && !FindName<BlockIndex>(of.document_.blocks, text))
                 Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
-            return SetText(look, info.name, text);
+            return SetText(appearance, info.name, text);
         }
-        SetNumber(look, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadWhole(info, text));
+        SetNumber(appearance, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadWhole(info, text));
     }
     static double ReadReal(const PropertyTexts& of, const PropertyInfo& info, const std::string& text) {
         if (info.meaning == PropertyMeaning::Angle) {
@@ -305,8 +311,8 @@ PropertyTexts::PropertyTexts(const Document& document)
 void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
     for (const Entity& entity : entities) {
         if (!std::holds_alternative<Apart<Hatch>>(entity.shape)) continue;
-        BrushLook brush = LookOf(document_, entity).brush;
-        const auto known = [&](const BrushLook& other) { return other.style == brush.style; };
+        BrushAppearance brush = AppearanceOf(document_, entity).brush;
+        const auto known = [&](const BrushAppearance& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
             patterns_.push_back(std::move(brush));
     }
@@ -321,31 +327,31 @@ bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     return InfoOf(name).owners & owner;
 }
 
-std::string PropertyTexts::Get(std::string_view name, const Look& look) const {
+std::string PropertyTexts::Get(std::string_view name, const Appearance& appearance) const {
     const PropertyInfo& info = InfoOf(name);
     const PropertyForms* forms = PropertyForms::Find(info.name);
-    return forms ? forms->get(*this, info, look) : PropertyForms::GetPlain(*this, info, look);
+    return forms ? forms->get(*this, info, appearance) : PropertyForms::GetPlain(*this, info, appearance);
 }
 
-void PropertyTexts::Set(std::string_view name, const std::string& text, Look& look) const {
+void PropertyTexts::Set(std::string_view name, const std::string& text, Appearance& appearance) const {
     const PropertyInfo& info = InfoOf(name);
     try {
         const PropertyForms* forms = PropertyForms::Find(info.name);
-        (forms ? forms->set : PropertyForms::SetPlain)(*this, info, text, look);
-        look.varied &= static_cast<uint8_t>(~VariedBit(info.name));
+        (forms ? forms->set : PropertyForms::SetPlain)(*this, info, text, appearance);
+        appearance.varied &= static_cast<uint8_t>(~VariedBit(info.name));
     } catch (const SaveError& error) {
         throw SaveError(std::string(info.name) + ": " + error.what());
     }
 }
 
-bool SameLook(const Document& a, const Look& one, const Document& b, const Look& other) {
+bool SameAppearance(const Document& a, const Appearance& one, const Document& b, const Appearance& other) {
     const auto name = [](const Document& of, LineTypeIndex type) {
         return type < LineTypeIndex::none ? FoldName(ToDisplayText(of.At(type).name))
                                           : std::to_string(static_cast<uint32_t>(type));
     };
     if (!IsSameName(ToDisplayText(a.At(one.layer).name), ToDisplayText(b.At(other.layer).name))) return false;
     if (name(a, one.lineType) != name(b, other.lineType)) return false;
-    Look adapted = other;
+    Appearance adapted = other;
     adapted.layer = one.layer;
     adapted.lineType = one.lineType;
     return adapted == one;

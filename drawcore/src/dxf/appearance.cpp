@@ -1,12 +1,12 @@
 // Determines the appearance of an entity from its groups and its extended data.
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
+#include "drawcore/src/dxf/appearance_parts.h"
 #include "drawcore/src/dxf/color_numbers.h"
-#include "drawcore/src/dxf/look_parts.h"
 #include "drawcore/src/dxf/standard_brushes.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
@@ -14,50 +14,51 @@ namespace dxf {
 
 namespace {
 
-class LookByShape {
+class AppearanceByShape {
 public:
-    LookByShape(const Document& document, Look& look) : document_(document), look_(look) {}
+    AppearanceByShape(const Document& document, Appearance& appearance)
+        : document_(document), appearance_(appearance) {}
 
     template <class Other>
     void operator()(const Other&) {}
     void operator()(const Polyline& polyline) {
-        look_.dashesFitted = !polyline.dashesThrough;
+        appearance_.dashesFitted = !polyline.dashesThrough;
         if (polyline.kind != Polyline::Kind::flat || polyline.vertices.empty()) return;
         const double width = polyline.vertices[0].startWidth;
         if (!HasOneWidth(polyline) || width <= 0) return;
-        look_.width = width;
-        look_.worldWidth = true;
+        appearance_.width = width;
+        appearance_.worldWidth = true;
     }
     void operator()(const Apart<Face>& face) {
-        if (face->filled) look_.brush.style = kSolidBrush;
+        if (face->filled) appearance_.brush.style = kSolidBrush;
     }
     void operator()(const Apart<Hatch>& hatch) {
-        look_.brush = BrushOf(*hatch);
-        if (!look_.brush.style.empty()) look_.lineType = LineTypeIndex::none; // a hatch has no outline
+        appearance_.brush = BrushOf(*hatch);
+        if (!appearance_.brush.style.empty()) appearance_.lineType = LineTypeIndex::none; // a hatch has no outline
     }
     void operator()(const Apart<Text>& text) {
-        look_.text = TextLookOf(*text, document_.At(text->style));
-        if (look_.text.style & (kTextUnderline | kTextStrikethrough) && IsPartlyMarked(*text))
-            look_.varied = kVariedStyle;
+        appearance_.text = TextAppearanceOf(*text, document_.At(text->style));
+        if (appearance_.text.style & (kTextUnderline | kTextStrikethrough) && IsPartlyMarked(*text))
+            appearance_.varied = kVariedStyle;
     }
     void operator()(const Apart<MText>& text) {
         const FormattedText formatted = ReadInlineCodes(text->text, HeightOf(*text, document_));
         const InlineFormat format = formatted.Prevailing();
-        look_.varied = VariedBits(formatted, format);
-        look_.text = TextLookOf(*text, document_.At(text->style), format);
-        if (format.color >= 0 || format.trueColor >= 0) look_.color = ColorOf(format.color, format.trueColor);
+        appearance_.varied = VariedBits(formatted, format);
+        appearance_.text = TextAppearanceOf(*text, document_.At(text->style), format);
+        if (format.color >= 0 || format.trueColor >= 0) appearance_.color = ColorOf(format.color, format.trueColor);
     }
 
 private:
     const Document& document_;
-    Look& look_;
+    Appearance& appearance_;
 };
 
 // Extended values by property. Numbers must be finite, and there must be at least as many as the row requires.
-struct OwnRow {
+struct ExtendedRow {
     const char* name;
     size_t count;
-    void (*apply)(const OwnValue& value, const Document& document, const Entity& entity, Look& look);
+    void (*apply)(const ExtendedValue& value, const Document& document, const Entity& entity, Appearance& appearance);
 };
 
 bool IsBit(double number) {
@@ -89,46 +90,47 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
 
 // If a group contains a similar value, the extended value includes that of the group: if another program has changed
 // the group since, the group is used.
-constexpr OwnRow kOwnRows[] = {
+constexpr ExtendedRow kExtendedRows[] = {
     {kPropPenColor, 2,
-     [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
-         if (entity.trueColor < 0 && entity.color == own.numbers[1]) look.color = ToColor(own.numbers[0], look.color);
+     [](const ExtendedValue& own, const Document&, const Entity& entity, Appearance& appearance) {
+         if (entity.trueColor < 0 && entity.color == own.numbers[1])
+             appearance.color = ToColor(own.numbers[0], appearance.color);
      }},
     {kPropPenStyle, 0,
-     [](const OwnValue& own, const Document& document, const Entity&, Look& look) {
-         look.lineType = FindLineType(document, own.text);
+     [](const ExtendedValue& own, const Document& document, const Entity&, Appearance& appearance) {
+         appearance.lineType = FindLineType(document, own.text);
      }},
     {kPropPenWidth, 3,
-     [](const OwnValue& own, const Document&, const Entity& entity, Look& look) {
+     [](const ExtendedValue& own, const Document&, const Entity& entity, Appearance& appearance) {
          if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
-         look.width = own.numbers[0];
-         look.worldWidth = own.numbers[1] != 0;
+         appearance.width = own.numbers[0];
+         appearance.worldWidth = own.numbers[1] != 0;
      }},
     {kPropBrushStyle, 0,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
          std::vector<Hatch::PatternLine> lines;
          if (!LinesFromNumbers(own.numbers, lines)) return;
-         look.brush.style = own.text;
-         look.brush.lines = lines.empty() ? StandardLines(own.text) : std::move(lines);
+         appearance.brush.style = own.text;
+         appearance.brush.lines = lines.empty() ? StandardLines(own.text) : std::move(lines);
      }},
     {kPropBrushColor, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
          // With two numbers, the groups contain the brush's color, and the other number is the pen's.
-         const uint32_t color = ToColor(own.numbers[0], look.brush.color);
+         const uint32_t color = ToColor(own.numbers[0], appearance.brush.color);
          const bool inGroups = own.numbers.size() > 1;
-         if (inGroups && look.color != color) return;
-         look.brush.color = color;
-         if (inGroups) look.color = ToColor(own.numbers[1], look.color);
+         if (inGroups && appearance.color != color) return;
+         appearance.brush.color = color;
+         if (inGroups) appearance.color = ToColor(own.numbers[1], appearance.color);
      }},
     {kPropBrushAngle, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
-         if (own.numbers.size() > 1 && own.numbers[1] != look.brush.angle) return;
-         look.brush.angle = own.numbers[0];
+     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
+         if (own.numbers.size() > 1 && own.numbers[1] != appearance.brush.angle) return;
+         appearance.brush.angle = own.numbers[0];
      }},
     {kPropTextStyle, 1,
-     [](const OwnValue& own, const Document&, const Entity&, Look& look) {
+     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
          if (own.numbers[0] >= 0 && own.numbers[0] <= UINT16_MAX)
-             look.text.style |= static_cast<uint16_t>(own.numbers[0]);
+             appearance.text.style |= static_cast<uint16_t>(own.numbers[0]);
      }},
 };
 
@@ -136,51 +138,52 @@ constexpr OwnRow kOwnRows[] = {
 constexpr const char* kPlain[] = {kPropPenScale,      kPropPenAlignment, kPropBrushScale, kPropHatchCross,
                                   kPropBrushDrawMode, kPropTextFont,     kPropTextFormat};
 
-void ApplyPlain(const OwnValue& own, const PropertyInfo& property, Look& look) {
-    if (property.IsText() || property.meaning == PropertyMeaning::Block) return SetText(look, property.name, own.text);
+void ApplyPlain(const ExtendedValue& own, const PropertyInfo& property, Appearance& appearance) {
+    if (property.IsText() || property.meaning == PropertyMeaning::Block)
+        return SetText(appearance, property.name, own.text);
     const double number = own.numbers.empty() ? NAN : own.numbers[0];
     const bool isOfType = property.IsReal() || number == std::floor(number);
-    if (isOfType && number >= property.low && number <= property.high) SetNumber(look, property.name, number);
+    if (isOfType && number >= property.low && number <= property.high) SetNumber(appearance, property.name, number);
 }
 
 } // namespace
 
-Look LookByGroups(const Document& document, const Entity& entity) {
-    Look look;
-    std::visit(LookByShape(document, look), entity.shape);
-    look.layer = entity.layer;
-    if (look.color == kColorByLayer) look.color = ColorOf(std::abs(entity.color), entity.trueColor);
-    if (entity.lineTypeScale > 0) look.lineScale = entity.lineTypeScale;
-    if (look.lineType == LineTypeIndex::byLayer) look.lineType = entity.lineType;
-    if (look.width == 0) look.width = WidthOf(entity.lineWeight);
-    return look;
+Appearance AppearanceByGroups(const Document& document, const Entity& entity) {
+    Appearance appearance;
+    std::visit(AppearanceByShape(document, appearance), entity.shape);
+    appearance.layer = entity.layer;
+    if (appearance.color == kColorByLayer) appearance.color = ColorOf(std::abs(entity.color), entity.trueColor);
+    if (entity.lineTypeScale > 0) appearance.lineScale = entity.lineTypeScale;
+    if (appearance.lineType == LineTypeIndex::byLayer) appearance.lineType = entity.lineType;
+    if (appearance.width == 0) appearance.width = WidthOf(entity.lineWeight);
+    return appearance;
 }
 
-Look LookOf(const Document& document, const Entity& entity) {
-    Look look = LookByGroups(document, entity);
-    if (!entity.own) return look;
-    for (const OwnRow& row : kOwnRows) {
-        const OwnValue* own = FindOwn(entity, row.name);
-        if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, look);
+Appearance AppearanceOf(const Document& document, const Entity& entity) {
+    Appearance appearance = AppearanceByGroups(document, entity);
+    if (!entity.own) return appearance;
+    for (const ExtendedRow& row : kExtendedRows) {
+        const ExtendedValue* own = FindExtended(entity, row.name);
+        if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, appearance);
     }
-    for (const OwnValue& own : *entity.own) {
+    for (const ExtendedValue& own : *entity.own) {
         const PropertyInfo* property = FindPropertyInfo(own.name);
         const auto isRow = [&](const char* name) { return own.name == name; };
-        if (!property || FindOwn(entity, own.name) != &own) continue; // only the first of equal names is used
+        if (!property || FindExtended(entity, own.name) != &own) continue; // only the first of equal names is used
         if (!property->hasDxfGroup || std::any_of(std::begin(kPlain), std::end(kPlain), isRow))
-            ApplyPlain(own, *property, look);
+            ApplyPlain(own, *property, appearance);
     }
-    return look;
+    return appearance;
 }
 
-const OwnValue* FindOwn(const OwnData& data, std::string_view name) {
-    for (const OwnValue& value : data)
+const ExtendedValue* FindExtended(const ExtendedData& data, std::string_view name) {
+    for (const ExtendedValue& value : data)
         if (value.name == name) return &value;
     return nullptr;
 }
 
-const OwnValue* FindOwn(const Entity& entity, std::string_view name) {
-    return entity.own ? FindOwn(*entity.own, name) : nullptr;
+const ExtendedValue* FindExtended(const Entity& entity, std::string_view name) {
+    return entity.own ? FindExtended(*entity.own, name) : nullptr;
 }
 
 bool HasOneWidth(const Polyline& polyline) {
@@ -211,23 +214,26 @@ uint8_t VariedBit(std::string_view property) {
                                          : 0;
 }
 
-bool operator==(const BrushLook& a, const BrushLook& b) {
+bool operator==(const BrushAppearance& a, const BrushAppearance& b) {
     const bool sameStyle = a.lines.empty() && b.lines.empty() ? a.style == b.style : SameLines(a.lines, b.lines);
-    const auto values = [](const BrushLook& look) {
-        return std::tie(look.color, look.scale, look.angle, look.cross, look.winding);
+    const auto values = [](const BrushAppearance& appearance) {
+        return std::tie(appearance.color, appearance.scale, appearance.angle, appearance.cross, appearance.winding);
     };
     return sameStyle && a.style.empty() == b.style.empty() && values(a) == values(b);
 }
 
-bool operator==(const TextLook& a, const TextLook& b) {
-    const auto values = [](const TextLook& look) { return std::tie(look.font, look.height, look.style, look.format); };
+bool operator==(const TextAppearance& a, const TextAppearance& b) {
+    const auto values = [](const TextAppearance& appearance) {
+        return std::tie(appearance.font, appearance.height, appearance.style, appearance.format);
+    };
     return values(a) == values(b);
 }
 
-bool operator==(const Look& a, const Look& b) {
-    const auto values = [](const Look& look) {
-        return std::tie(look.layer, look.color, look.lineType, look.lineScale, look.width, look.worldWidth,
-                        look.dashesFitted, look.extended, look.brush, look.text, look.varied);
+bool operator==(const Appearance& a, const Appearance& b) {
+    const auto values = [](const Appearance& appearance) {
+        return std::tie(appearance.layer, appearance.color, appearance.lineType, appearance.lineScale, appearance.width,
+                        appearance.worldWidth, appearance.dashesFitted, appearance.extended, appearance.brush,
+                        appearance.text, appearance.varied);
     };
     return values(a) == values(b);
 }

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/appearance_parts.h"
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
@@ -39,7 +39,7 @@ double Spacing(const Family& line) {
     return std::fabs(line.offset.y * std::cos(angle) - line.offset.x * std::sin(angle));
 }
 
-bool IsSound(const std::vector<Family>& lines) {
+bool IsValid(const std::vector<Family>& lines) {
     return !lines.empty() && lines.size() <= kMostLines &&
            std::all_of(lines.begin(), lines.end(), [](const Family& line) {
                return Spacing(line) > 0 && std::isfinite(Spacing(line)) && line.dashes.size() <= kMostDashes;
@@ -64,15 +64,15 @@ bool SameLines(const std::vector<Family>& a, const std::vector<Family>& b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), SameLine);
 }
 
-BrushLook BrushOf(const Hatch& hatch) {
-    BrushLook brush;
+BrushAppearance BrushOf(const Hatch& hatch) {
+    BrushAppearance brush;
     if (hatch.solid || hatch.gradient) {
         brush.style = kSolidBrush;
         return brush;
     }
     const double scale = hatch.scale > 0 ? hatch.scale : 1, angle = Radians(std::fmod(hatch.angle, 360));
     std::vector<Family> lines = NormalLines(hatch, scale, angle);
-    if (!IsSound(lines)) return brush;
+    if (!IsValid(lines)) return brush;
     const std::string name = ToDisplayText(hatch.pattern);
     brush.style = name.empty() ? "Pattern" : name;
     brush.cross = hatch.crossed && lines.size() == 1;
@@ -108,7 +108,7 @@ bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Family>& l
         read.push_back({n[0], {n[1], n[2], 0}, {n[3], n[4], 0}, {n + kHead, n + kHead + dashes}});
         at += kHead + dashes;
     }
-    if (!read.empty() && !IsSound(read)) return false;
+    if (!read.empty() && !IsValid(read)) return false;
     lines = std::move(read);
     return true;
 }

@@ -1,8 +1,8 @@
 // The appearance of hatches and texts.
 #pragma once
 
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/dxf/inline_codes.h"
-#include "drawcore/src/dxf/look.h"
 #include "orlo/host/words.h"
 
 namespace dxf {
@@ -11,7 +11,7 @@ namespace dxf {
 constexpr char kByLayerName[] = "BYLAYER";
 constexpr char kByBlockName[] = "BYBLOCK";
 
-BrushLook BrushOf(const Hatch& hatch);
+BrushAppearance BrushOf(const Hatch& hatch);
 // Returns a pattern as stored in a hatch: at its scale and angle, with the position of its first line.
 std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine>& lines, double scale, double angle,
                                             const Vec3& base);
@@ -19,8 +19,8 @@ std::vector<Hatch::PatternLine> PlacedLines(const std::vector<Hatch::PatternLine
 bool LinesFromNumbers(const std::vector<double>& numbers, std::vector<Hatch::PatternLine>& lines);
 std::vector<double> NumbersFromLines(const std::vector<Hatch::PatternLine>& lines);
 
-TextLook TextLookOf(const Text& text, const TextStyle& style);
-TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format);
+TextAppearance TextAppearanceOf(const Text& text, const TextStyle& style);
+TextAppearance TextAppearanceOf(const MText& text, const TextStyle& style, const InlineFormat& format);
 // Returns whether underline or strikethrough applies only to part of the text.
 bool IsPartlyMarked(const Text& text);
 // Returns the bits of the values that differ in other parts of the text.

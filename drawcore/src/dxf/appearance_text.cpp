@@ -1,7 +1,7 @@
 // The face of a text style, and the values that texts inherit from it.
 #include <algorithm>
 
-#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/appearance_parts.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
 namespace dxf {
@@ -49,7 +49,7 @@ uint16_t LineBits(bool underlined, bool struckThrough) {
     return static_cast<uint16_t>((underlined ? kTextUnderline : 0) | (struckThrough ? kTextStrikethrough : 0));
 }
 
-double SoundHeight(double height, const TextStyle& style) {
+double ValidHeight(double height, const TextStyle& style) {
     if (height > 0) return height;
     return style.fixedHeight > 0 ? style.fixedHeight : 1;
 }
@@ -93,20 +93,20 @@ std::string FontFileOf(const FontFace& face) {
 }
 
 double HeightOf(const MText& text, const Document& document) {
-    return SoundHeight(text.height, document.At(text.style));
+    return ValidHeight(text.height, document.At(text.style));
 }
 
-TextLook TextLookOf(const Text& text, const TextStyle& style) {
+TextAppearance TextAppearanceOf(const Text& text, const TextStyle& style) {
     const bool isDefinition = text.role == Text::Role::definition;
     const LineText line = ReadControlCodes(ToDisplayText(isDefinition ? text.tag : text.text));
     FontFace face = FaceOf(style);
-    TextLook look;
-    look.font = std::move(face.family);
-    look.style = face.cut | LineBits(line.underlined, line.struckThrough);
-    if (text.hidden) look.style |= kTextHidden;
-    look.height = SoundHeight(text.height, style);
-    look.format = FormatOf(text.horizontal);
-    return look;
+    TextAppearance appearance;
+    appearance.font = std::move(face.family);
+    appearance.style = face.cut | LineBits(line.underlined, line.struckThrough);
+    if (text.hidden) appearance.style |= kTextHidden;
+    appearance.height = ValidHeight(text.height, style);
+    appearance.format = FormatOf(text.horizontal);
+    return appearance;
 }
 
 bool IsPartlyMarked(const Text& text) {
@@ -134,18 +134,18 @@ uint8_t VariedBits(const FormattedText& text, const InlineFormat& most) {
     return bits;
 }
 
-TextLook TextLookOf(const MText& text, const TextStyle& style, const InlineFormat& format) {
+TextAppearance TextAppearanceOf(const MText& text, const TextStyle& style, const InlineFormat& format) {
     FontFace face = FaceOf(style);
     if (!format.font.empty())
         face = format.font.find('.') != format.font.npos ? FaceOfFile(format.font) : FontFace{format.font, 0};
-    TextLook look;
-    look.font = std::move(face.family);
-    look.style = face.cut | LineBits(format.underlined, format.struckThrough);
-    if (format.bold) look.style |= kTextBold;
-    if (format.italic) look.style |= kTextItalic;
-    look.height = SoundHeight(text.height, style) * format.scale;
-    look.format = FormatOf(text, format.alignment);
-    return look;
+    TextAppearance appearance;
+    appearance.font = std::move(face.family);
+    appearance.style = face.cut | LineBits(format.underlined, format.struckThrough);
+    if (format.bold) appearance.style |= kTextBold;
+    if (format.italic) appearance.style |= kTextItalic;
+    appearance.height = ValidHeight(text.height, style) * format.scale;
+    appearance.format = FormatOf(text, format.alignment);
+    return appearance;
 }
 
 } // namespace dxf

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <type_traits>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 namespace dxf {
 
@@ -10,44 +10,45 @@ namespace {
 
 struct Place {
     const char* name;
-    double (*get)(const Look&);
-    void (*set)(Look&, double);
+    double (*get)(const Appearance&);
+    void (*set)(Appearance&, double);
 };
 
 template <auto field>
-auto& In(Look& look) {
-    return look.*field;
+auto& In(Appearance& appearance) {
+    return appearance.*field;
 }
 template <auto field>
-auto& InBrush(Look& look) {
-    return look.brush.*field;
+auto& InBrush(Appearance& appearance) {
+    return appearance.brush.*field;
 }
 template <auto field>
-auto& InText(Look& look) {
-    return look.text.*field;
+auto& InText(Appearance& appearance) {
+    return appearance.text.*field;
 }
 
 template <auto& in>
 constexpr Place At(const char* name) {
-    return {name, [](const Look& look) { return static_cast<double>(in(const_cast<Look&>(look))); },
-            [](Look& look, double value) {
-                auto& at = in(look);
+    return {name,
+            [](const Appearance& appearance) { return static_cast<double>(in(const_cast<Appearance&>(appearance))); },
+            [](Appearance& appearance, double value) {
+                auto& at = in(appearance);
                 at = static_cast<std::decay_t<decltype(at)>>(value);
             }};
 }
 
 constexpr Place kPlaces[] = {
-    At<In<&Look::color>>(kPropPenColor),
-    At<In<&Look::lineScale>>(kPropPenScale),
-    At<In<&Look::dashesFitted>>(kPropPenAlignment),
-    At<InBrush<&BrushLook::color>>(kPropBrushColor),
-    At<InBrush<&BrushLook::scale>>(kPropBrushScale),
-    At<InBrush<&BrushLook::angle>>(kPropBrushAngle),
-    At<InBrush<&BrushLook::cross>>(kPropHatchCross),
-    At<InBrush<&BrushLook::winding>>(kPropBrushDrawMode),
-    At<InText<&TextLook::height>>(kPropTextSize),
-    At<InText<&TextLook::style>>(kPropTextStyle),
-    At<InText<&TextLook::format>>(kPropTextFormat),
+    At<In<&Appearance::color>>(kPropPenColor),
+    At<In<&Appearance::lineScale>>(kPropPenScale),
+    At<In<&Appearance::dashesFitted>>(kPropPenAlignment),
+    At<InBrush<&BrushAppearance::color>>(kPropBrushColor),
+    At<InBrush<&BrushAppearance::scale>>(kPropBrushScale),
+    At<InBrush<&BrushAppearance::angle>>(kPropBrushAngle),
+    At<InBrush<&BrushAppearance::cross>>(kPropHatchCross),
+    At<InBrush<&BrushAppearance::winding>>(kPropBrushDrawMode),
+    At<InText<&TextAppearance::height>>(kPropTextSize),
+    At<InText<&TextAppearance::style>>(kPropTextStyle),
+    At<InText<&TextAppearance::format>>(kPropTextFormat),
 };
 
 const Place* FindPlace(std::string_view name) {
@@ -58,37 +59,37 @@ const Place* FindPlace(std::string_view name) {
 
 } // namespace
 
-std::optional<double> NumberOf(const Look& look, std::string_view property) {
-    if (const Place* place = FindPlace(property)) return place->get(look);
-    const OwnValue* value = FindOwn(look.extended, property);
+std::optional<double> NumberOf(const Appearance& appearance, std::string_view property) {
+    if (const Place* place = FindPlace(property)) return place->get(appearance);
+    const ExtendedValue* value = FindExtended(appearance.extended, property);
     return value && !value->numbers.empty() ? std::optional(value->numbers[0]) : std::nullopt;
 }
 
-std::string TextOf(const Look& look, std::string_view property) {
-    if (property == kPropTextFont) return look.text.font;
-    const OwnValue* value = FindOwn(look.extended, property);
+std::string TextOf(const Appearance& appearance, std::string_view property) {
+    if (property == kPropTextFont) return appearance.text.font;
+    const ExtendedValue* value = FindExtended(appearance.extended, property);
     return value ? value->text : "";
 }
 
-void SetNumber(Look& look, const char* property, double value) {
+void SetNumber(Appearance& appearance, const char* property, double value) {
     if (const Place* place = FindPlace(property))
-        place->set(look, value);
+        place->set(appearance, value);
     else
-        SetExtended(look, {property, "", {value}});
+        SetExtended(appearance, {property, "", {value}});
 }
 
-void SetText(Look& look, const char* property, const std::string& text) {
+void SetText(Appearance& appearance, const char* property, const std::string& text) {
     if (property == std::string_view(kPropTextFont))
-        look.text.font = text;
+        appearance.text.font = text;
     else
-        SetExtended(look, {property, text, {}});
+        SetExtended(appearance, {property, text, {}});
 }
 
-void SetExtended(Look& look, OwnValue value) {
-    const auto at = std::lower_bound(look.extended.begin(), look.extended.end(), value,
-                                     [](const OwnValue& a, const OwnValue& b) { return a.name < b.name; });
-    const auto from = at != look.extended.end() && at->name == value.name ? look.extended.erase(at) : at;
-    if (!value.text.empty() || !value.numbers.empty()) look.extended.insert(from, std::move(value));
+void SetExtended(Appearance& appearance, ExtendedValue value) {
+    const auto at = std::lower_bound(appearance.extended.begin(), appearance.extended.end(), value,
+                                     [](const ExtendedValue& a, const ExtendedValue& b) { return a.name < b.name; });
+    const auto from = at != appearance.extended.end() && at->name == value.name ? appearance.extended.erase(at) : at;
+    if (!value.text.empty() || !value.numbers.empty()) appearance.extended.insert(from, std::move(value));
 }
 
 } // namespace dxf

@@ -204,15 +204,15 @@ constexpr int16_t kLineWeightByBlock = -2;
 constexpr int16_t kLineWeightDefault = -3;
 
 // A named value without a DXF group, stored in extended data under kApplication: numbers or a text.
-struct OwnValue {
+struct ExtendedValue {
     std::string name;
     std::string text;
     std::vector<double> numbers;
 };
-inline bool operator==(const OwnValue& a, const OwnValue& b) {
+inline bool operator==(const ExtendedValue& a, const ExtendedValue& b) {
     return a.name == b.name && a.text == b.text && a.numbers == b.numbers;
 }
-using OwnData = std::vector<OwnValue>;
+using ExtendedData = std::vector<ExtendedValue>;
 constexpr char kApplication[] = "ORLO";
 
 struct Entity {
@@ -225,10 +225,10 @@ struct Entity {
     bool inPaperSpace = false;
     bool invisible = false;
     double lineTypeScale = 1;
-    Vec3 normal{0, 0, 1}; // the extrusion direction: z axis of the object coordinate system
-    uint32_t line = 0;    // line in the file, for messages
-    uint32_t offset = 0;  // of its record in the file's text
-    Apart<OwnData> own;   // null if there are none
+    Vec3 normal{0, 0, 1};    // the extrusion direction: z axis of the object coordinate system
+    uint32_t line = 0;       // line in the file, for messages
+    uint32_t offset = 0;     // of its record in the file's text
+    Apart<ExtendedData> own; // null if there are none
 };
 
 } // namespace dxf

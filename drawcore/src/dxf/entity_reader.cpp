@@ -64,7 +64,7 @@ Entity EntityReader::NewEntity() {
     entity.layer = LayerIndex(in_.layers.Find("0"));
     entity.line = in_.tags.Current().line;
     entity.offset = static_cast<uint32_t>(in_.tags.Current().offset);
-    in_.TakeOwn();
+    in_.TakeExtended();
     return entity;
 }
 
@@ -80,8 +80,8 @@ void EntityReader::Read(std::vector<Entity>& entities) {
     }
     Entity entity = NewEntity();
     (this->*kind->read)(entity);
-    TakeOwn(entity);
-    if (const uint32_t line = in_.TakeUnsound())
+    TakeExtended(entity);
+    if (const uint32_t line = in_.TakeInvalidCoordinate())
         Refuse("a number that has no place in a drawing, in line " + std::to_string(line));
     if (refused_.empty())
         entities.push_back(std::move(entity));
@@ -162,7 +162,7 @@ void EntityReader::ReadInsert(Entity& entity) {
     constexpr uint32_t kMostCells = INT16_MAX; // the file format's own limit
     Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());
     ReadTags(kFields, insert, entity);
-    TakeOwn(entity);
+    TakeExtended(entity);
     insert.columns = std::clamp(insert.columns, 1u, kMostCells);
     insert.rows = std::clamp(insert.rows, 1u, kMostCells);
     ReadAttributesOf(insert);
@@ -242,10 +242,10 @@ void EntityReader::ReadSpline(Entity& entity) {
             SetCommon(entity);
         }
     }
-    if (!MakeSound(spline)) Refuse("its knots and control points do not fit together");
+    if (!MakeValid(spline)) Refuse("its knots and control points do not fit together");
 }
 
-bool MakeSound(Spline& spline) {
+bool MakeValid(Spline& spline) {
     constexpr int kHighestDegree = 25;
     const size_t points = spline.controlPoints.size();
     const bool positive = std::all_of(spline.weights.begin(), spline.weights.end(), [](double w) { return w > 0; });

@@ -42,8 +42,8 @@ private:
     }
     void SetCommon(Entity& entity);
     // Stores the extended data, before further records of the entity are read.
-    void TakeOwn(Entity& entity) {
-        if (!entity.own) entity.own = in_.TakeOwn();
+    void TakeExtended(Entity& entity) {
+        if (!entity.own) entity.own = in_.TakeExtended();
     }
     // Rejects the entity for a reason other than an invalid coordinate.
     void Refuse(std::string reason) { refused_ = std::move(reason); }
@@ -84,6 +84,6 @@ private:
 
 // Checks that control points, knots and weights are consistent, and otherwise uses the fit points. Returns false if
 // nothing can be drawn.
-bool MakeSound(Spline& spline);
+bool MakeValid(Spline& spline);
 
 } // namespace dxf

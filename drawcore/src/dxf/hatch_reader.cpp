@@ -41,7 +41,7 @@ public:
     void Finish() {
         for (Hatch::Loop& loop : hatch_.loops)
             for (Hatch::Edge& edge : loop.edges)
-                if (edge.kind == Hatch::Edge::Kind::spline) MakeSound(edge.spline);
+                if (edge.kind == Hatch::Edge::Kind::spline) MakeValid(edge.spline);
     }
 
 private:

@@ -6,7 +6,7 @@
 #include <limits>
 #include <optional>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 namespace dxf {
 
@@ -53,9 +53,9 @@ GroupNumbers GroupNumbersOf(const Entity& entity) {
 
 // Returns nothing also if another program has changed the groups since. Older files contain the axes, the origin, and
 // of the groups only the position.
-std::optional<AxisEnds> OwnAxisEnds(const Entity& entity) {
+std::optional<AxisEnds> ExtendedAxisEnds(const Entity& entity) {
     constexpr size_t kOlder = 15;
-    const OwnValue* own = FindOwn(entity, kOwnPlacement);
+    const ExtendedValue* own = FindExtended(entity, kExtendedPlacement);
     if (!own || own->numbers.size() < kOlder) return std::nullopt;
     const double* n = own->numbers.data();
     AxisEnds ends;
@@ -78,7 +78,7 @@ Matrix Solid(const Matrix& placement) {
 } // namespace
 
 Matrix PlacementOf(const Entity& entity) {
-    const std::optional<AxisEnds> own = OwnAxisEnds(entity);
+    const std::optional<AxisEnds> own = ExtendedAxisEnds(entity);
     return own ? PlacementOf(*own) : PlacementByGroups(entity);
 }
 
@@ -91,7 +91,7 @@ AxisEnds AxisEndsOf(const Matrix& placement) {
 }
 
 AxisEnds AxisEndsOf(const Entity& entity) {
-    const std::optional<AxisEnds> own = OwnAxisEnds(entity);
+    const std::optional<AxisEnds> own = ExtendedAxisEnds(entity);
     return own ? *own : AxisEndsOf(PlacementByGroups(entity));
 }
 

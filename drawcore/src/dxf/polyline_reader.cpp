@@ -78,7 +78,7 @@ void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes
 }
 
 // Returns false if a mesh has too few vertices.
-bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
+bool MakeValid(Polyline& polyline, const PolylineCodes& codes) {
     const size_t count = polyline.vertices.size();
     const auto outside = [&](const std::array<int, 4>& face) {
         return std::any_of(face.begin(), face.end(),
@@ -97,7 +97,7 @@ bool MakeSound(Polyline& polyline, const PolylineCodes& codes) {
 void EntityReader::ReadPolyline(Entity& entity) {
     PolylineCodes codes;
     ReadTags(kPolyline, codes, entity);
-    TakeOwn(entity);
+    TakeExtended(entity);
     Polyline& polyline = entity.shape.emplace<Polyline>();
     polyline.kind = KindOf(codes.flags);
     polyline.closed = (codes.flags & kClosed) != 0;
@@ -112,7 +112,7 @@ void EntityReader::ReadPolyline(Entity& entity) {
         in_.ReadFields(kVertex, vertex);
         AddVertex(polyline, vertex, codes);
     }
-    if (!MakeSound(polyline, codes)) Refuse("its mesh has fewer vertices than rows and columns ask for");
+    if (!MakeValid(polyline, codes)) Refuse("its mesh has fewer vertices than rows and columns ask for");
     if (!tag.Is(0, "SEQEND")) return;
     Count();
     in_.tags.SkipRecord();

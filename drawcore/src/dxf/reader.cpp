@@ -115,13 +115,13 @@ private:
         Block head;
         head.begin = static_cast<uint32_t>(tag_.offset);
         std::string_view name;
-        in_.TakeOwn(); // discards the data of the previous record
+        in_.TakeExtended(); // discards the data of the previous record
         while (in_.NextTag()) {
             if (tag_.code == 2) name = tag_.value;
             in_.SetField(kFields, head, tag_);
         }
-        if (const Apart<OwnData> own = in_.TakeOwn()) head.own = *own;
-        if (in_.TakeUnsound())
+        if (const Apart<ExtendedData> own = in_.TakeExtended()) head.own = *own;
+        if (in_.TakeInvalidCoordinate())
             in_.Report(line,
                        "the base point of block " + Quoted(name) + " has no place in a drawing; the origin is taken");
         constexpr int kExternal = 4;

@@ -37,19 +37,19 @@ void RecordReader::ReadExtended() {
         tags.Next();
         return;
     }
-    own_ = std::make_unique<OwnData>();
+    own_ = std::make_unique<ExtendedData>();
     const Tag& tag = tags.Next();
     while (tag.code >= kExtended && tag.code != kApplicationName) {
         if (tag.code == kExtendedText)
-            own_->push_back(ReadOwnValue());
+            own_->push_back(ReadExtendedValue());
         else
             tags.Next();
     }
 }
 
 // Reads a name and its values in braces: numbers, or the pieces of one text.
-OwnValue RecordReader::ReadOwnValue() {
-    OwnValue value{Text(tags.Current()), {}, {}};
+ExtendedValue RecordReader::ReadExtendedValue() {
+    ExtendedValue value{Text(tags.Current()), {}, {}};
     const Tag& tag = tags.Next();
     if (!tag.Is(kExtendedBrace, "{")) return value;
     std::string bytes;
@@ -60,7 +60,7 @@ OwnValue RecordReader::ReadOwnValue() {
     if (tag.code == kExtendedBrace) tags.Next();
     const auto isNone = [](double number) { return !std::isfinite(number); };
     if (std::any_of(value.numbers.begin(), value.numbers.end(), isNone)) value.numbers.clear();
-    value.text = ReadOwnText(decoder.Decode(bytes));
+    value.text = ReadExtendedText(decoder.Decode(bytes));
     return value;
 }
 
@@ -75,7 +75,7 @@ void RecordReader::SetAxis(Vec3& point, const Tag& tag, int axis) {
     (axis == 0 ? point.x : axis == 10 ? point.y : point.z) = Real(tag);
 }
 
-uint32_t RecordReader::TakeUnsound() {
+uint32_t RecordReader::TakeInvalidCoordinate() {
     const uint32_t line = unsound_;
     unsound_ = 0;
     return line;

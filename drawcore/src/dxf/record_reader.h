@@ -44,10 +44,10 @@ public:
     }
 
     // Advances to the next tag of the record. Returns false at its end. Skips data attached by other programs: groups
-    // in braces (code 102), extended data, embedded objects. Stores extended data of kApplication for TakeOwn.
+    // in braces (code 102), extended data, embedded objects. Stores extended data of kApplication for TakeExtended.
     bool NextTag();
     // Returns the record's extended data of kApplication, or null.
-    Apart<OwnData> TakeOwn() { return std::move(own_); }
+    Apart<ExtendedData> TakeExtended() { return std::move(own_); }
 
     // Returns false if the table does not contain the code.
     template <class T, size_t N>
@@ -68,13 +68,13 @@ public:
     std::string Text(const Tag& tag) const { return decoder.Decode(tag.value); }
 
     // Returns the line of the first invalid coordinate since the last call, or 0.
-    uint32_t TakeUnsound();
+    uint32_t TakeInvalidCoordinate();
 
     void Report(uint32_t line, std::string text);
 
 private:
     void ReadExtended();
-    OwnValue ReadOwnValue();
+    ExtendedValue ReadExtendedValue();
 
     void Assign(double& to, const Tag& tag, int) { to = Real(tag); }
     void Assign(int& to, const Tag& tag, int) { to = tag.Integer(); }
@@ -88,7 +88,7 @@ private:
     void Assign(TextStyleIndex& to, const Tag& tag, int) { to = TextStyleIndex(textStyles.Find(tag.value)); }
     void Assign(BlockIndex& to, const Tag& tag, int) { to = BlockIndex(blocks.Find(tag.value)); }
 
-    Apart<OwnData> own_;
+    Apart<ExtendedData> own_;
     uint32_t unsound_ = 0;
     size_t unreported_ = 0;
 };

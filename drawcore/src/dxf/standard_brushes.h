@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 namespace dxf {
 

@@ -150,7 +150,7 @@ std::string ToDisplayText(std::string_view stored) {
     return shown;
 }
 
-std::string ReadOwnText(std::string_view stored) {
+std::string ReadExtendedText(std::string_view stored) {
     std::string text;
     const std::string shown = ToDisplayText(stored);
     for (size_t i = 0; i < shown.size(); ++i) {
@@ -161,7 +161,7 @@ std::string ReadOwnText(std::string_view stored) {
     return text;
 }
 
-std::string WriteOwnText(std::string_view text) {
+std::string WriteExtendedText(std::string_view text) {
     std::string stored;
     for (const char c : text) {
         if (c == '^')

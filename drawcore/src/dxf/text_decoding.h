@@ -32,8 +32,8 @@ std::string ToDisplayText(std::string_view stored);
 
 // Reads a text of extended data of kApplication, in which control characters are escaped: "^J" is a line feed, "^ " a
 // caret.
-std::string ReadOwnText(std::string_view stored);
-std::string WriteOwnText(std::string_view text);
+std::string ReadExtendedText(std::string_view stored);
+std::string WriteExtendedText(std::string_view text);
 
 // Appends the character of the escape at the start of the text and returns its length, or 0 if there is no escape.
 size_t AppendEscape(std::string& text, std::string_view stored);

@@ -86,7 +86,7 @@ void EntityReader::ReadAttributesOf(Insert& insert) {
         Count();
         Entity attribute = NewEntity();
         ReadAttribute(attribute);
-        TakeOwn(attribute);
+        TakeExtended(attribute);
         insert.attributes.push_back(std::move(attribute));
     }
     if (!tag.Is(0, "SEQEND")) return;

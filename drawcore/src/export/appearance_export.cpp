@@ -1,5 +1,5 @@
 // Finds entries of the drawing's tables by their names in the file.
-#include "drawcore/src/export/look_export.h"
+#include "drawcore/src/export/appearance_export.h"
 
 #include <algorithm>
 
@@ -26,14 +26,14 @@ std::map<Id, Index> InTable(const std::vector<Thing>& things, const TableOf<Entr
 
 } // namespace
 
-LookExport::LookExport(const Drawing& drawing, dxf::DrawingPatch& patch)
+AppearanceExport::AppearanceExport(const Drawing& drawing, dxf::DrawingPatch& patch)
     : drawing_(drawing), patch_(patch), known_(patch.Known().Tables()), tables_(ImportTables(known_, file_)),
       import_(known_, tables_, file_), comparison_(drawing, file_) {
     if (drawing.Layers()) layers_ = InTable<dxf::LayerIndex>(known_.layers, *drawing.Layers());
     if (drawing.LineStyles()) lineTypes_ = InTable<dxf::LineTypeIndex>(known_.lineTypes, *drawing.LineStyles());
 }
 
-dxf::LayerIndex LookExport::LayerOf(Id id) {
+dxf::LayerIndex AppearanceExport::LayerOf(Id id) {
     const auto found = layers_.find(id);
     if (found != layers_.end()) return found->second;
     const Layer* layer = drawing_.Layers() ? drawing_.Layers()->At(id) : nullptr;
@@ -47,11 +47,11 @@ dxf::LayerIndex LookExport::LayerOf(Id id) {
     return index;
 }
 
-void LookExport::AddLayer(Id id) {
+void AppearanceExport::AddLayer(Id id) {
     if (layers_.count(id) == 0) patch_.NeedRecord(LayerOf(id));
 }
 
-dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
+dxf::LineTypeIndex AppearanceExport::LineTypeOf(Id id) {
     if (id == kLineStyleNone) return dxf::LineTypeIndex::none;
     if (id == kLineStyleByLayer) return dxf::LineTypeIndex::byLayer;
     if (id == kLineStyleByBlock) return dxf::LineTypeIndex::byBlock;
@@ -68,63 +68,67 @@ dxf::LineTypeIndex LookExport::LineTypeOf(Id id) {
 }
 
 // Exports properties that are more than a number or a text.
-struct LookExport::Row {
+struct AppearanceExport::Row {
     const char* name;
-    void (*put)(LookExport& by, const Graphic& graphic, dxf::Look& look);
+    void (*put)(AppearanceExport& by, const Graphic& graphic, dxf::Appearance& appearance);
 };
 
-const LookExport::Row LookExport::kRows[] = {
-    {kPropLayer,
-     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { look.layer = by.LayerOf(graphic.layer); }},
-    {kPropPenStyle, [](LookExport& by, const Graphic& graphic,
-                       dxf::Look& look) { look.lineType = by.LineTypeOf(graphic.GetPen().style); }},
-    {kPropPenWidth, [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.width = graphic.GetPen().width; }},
-    {kPropScaleSystem, [](LookExport&, const Graphic& graphic,
-                          dxf::Look& look) { look.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld; }},
-    {kPropBrushStyle,
-     [](LookExport& by, const Graphic& graphic, dxf::Look& look) { by.SetBrushStyle(graphic, look.brush); }},
-    {kPropTextSize,
-     [](LookExport&, const Graphic& graphic, dxf::Look& look) { look.text.height = SeenHeight(graphic); }},
+const AppearanceExport::Row AppearanceExport::kRows[] = {
+    {kPropLayer, [](AppearanceExport& by, const Graphic& graphic,
+                    dxf::Appearance& appearance) { appearance.layer = by.LayerOf(graphic.layer); }},
+    {kPropPenStyle, [](AppearanceExport& by, const Graphic& graphic,
+                       dxf::Appearance& appearance) { appearance.lineType = by.LineTypeOf(graphic.GetPen().style); }},
+    {kPropPenWidth, [](AppearanceExport&, const Graphic& graphic,
+                       dxf::Appearance& appearance) { appearance.width = graphic.GetPen().width; }},
+    {kPropScaleSystem,
+     [](AppearanceExport&, const Graphic& graphic, dxf::Appearance& appearance) {
+         appearance.worldWidth = graphic.GetPen().scaleSystem == kScaleWorld;
+     }},
+    {kPropBrushStyle, [](AppearanceExport& by, const Graphic& graphic,
+                         dxf::Appearance& appearance) { by.SetBrushStyle(graphic, appearance.brush); }},
+    {kPropTextSize, [](AppearanceExport&, const Graphic& graphic,
+                       dxf::Appearance& appearance) { appearance.text.height = DisplayedHeight(graphic); }},
 };
 
-void LookExport::SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const {
+void AppearanceExport::SetBrushStyle(const Graphic& graphic, dxf::BrushAppearance& appearance) const {
     const BrushStyleTable* styles = drawing_.BrushStyles();
     const BrushStyle* style = styles ? styles->At(graphic.GetBrush().style) : nullptr;
     const bool isSolid = style && style->lines.empty() && !style->bitmap;
-    look.style = !style ? "" : isSolid ? dxf::kSolidBrush : Utf8FromCodePage(style->name);
-    look.lines = style ? FileLines(*style) : std::vector<dxf::Hatch::PatternLine>();
+    appearance.style = !style ? "" : isSolid ? dxf::kSolidBrush : Utf8FromCodePage(style->name);
+    appearance.lines = style ? FileLines(*style) : std::vector<dxf::Hatch::PatternLine>();
 }
 
-void LookExport::SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Look& look) const {
+void AppearanceExport::SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Appearance& appearance) const {
     const StoredProperty stored = GetStored(graphic, static_cast<size_t>(&info - kPropertyList));
-    if (const auto* text = std::get_if<std::string>(&stored)) dxf::SetText(look, info.name, Utf8FromCodePage(*text));
-    if (const auto* real = std::get_if<double>(&stored)) dxf::SetNumber(look, info.name, *real);
+    if (const auto* text = std::get_if<std::string>(&stored))
+        dxf::SetText(appearance, info.name, Utf8FromCodePage(*text));
+    if (const auto* real = std::get_if<double>(&stored)) dxf::SetNumber(appearance, info.name, *real);
     const auto* whole = std::get_if<int64_t>(&stored);
     if (whole && info.meaning == PropertyMeaning::Block) {
         const Block* block = drawing_.Blocks() ? drawing_.Blocks()->At(static_cast<Id>(*whole)) : nullptr;
-        dxf::SetText(look, info.name, block ? Utf8FromCodePage(block->name) : "");
+        dxf::SetText(appearance, info.name, block ? Utf8FromCodePage(block->name) : "");
     } else if (whole) {
-        dxf::SetNumber(look, info.name, static_cast<double>(*whole));
+        dxf::SetNumber(appearance, info.name, static_cast<double>(*whole));
     }
 }
 
-void LookExport::Write(const Graphic& graphic, size_t place) {
+void AppearanceExport::Write(const Graphic& graphic, size_t place) {
     const dxf::Entity entity = patch_.EntityAt(place);
     VertexGraphic group;
     import_.AddTo(group, entity, false);
     if (group.MemberCount() == 0) throw dxf::SaveError("nothing of it would be seen");
     const Graphic& shown = *group.MemberAt(0);
     if (shown.GetKind() != graphic.GetKind()) throw dxf::SaveError("the file would show another kind of graphic");
-    dxf::Look look = dxf::LookOf(known_, entity);
+    dxf::Appearance appearance = dxf::AppearanceOf(known_, entity);
     for (const size_t property : comparison_.DifferentProperties(graphic, shown)) {
         const PropertyInfo& info = kPropertyList[property];
         const auto* row = std::find_if(std::begin(kRows), std::end(kRows),
                                        [&](const Row& some) { return info.name == std::string_view(some.name); });
         if (row != std::end(kRows))
-            row->put(*this, graphic, look);
+            row->put(*this, graphic, appearance);
         else
-            SetPlain(graphic, info, look);
-        look.varied &= static_cast<uint8_t>(~dxf::VariedBit(info.name));
+            SetPlain(graphic, info, appearance);
+        appearance.varied &= static_cast<uint8_t>(~dxf::VariedBit(info.name));
     }
     dxf::EntityPlace wanted;
     dxf::AxisEnds ends;
@@ -138,7 +142,7 @@ void LookExport::Write(const Graphic& graphic, size_t place) {
             positions.push_back(vertex.Position());
         wanted.vertices = &positions;
     }
-    patch_.Change(place, look, wanted);
+    patch_.Change(place, appearance, wanted);
 }
 
 } // namespace drawcore

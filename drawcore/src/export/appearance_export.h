@@ -13,10 +13,10 @@
 
 namespace drawcore {
 
-class LookExport {
+class AppearanceExport {
 public:
     // The patch must be for a file with these graphics.
-    LookExport(const Drawing& drawing, dxf::DrawingPatch& patch);
+    AppearanceExport(const Drawing& drawing, dxf::DrawingPatch& patch);
 
     // Changes the record at the offset if the graphic differs from it. Throws SaveError for values that the file cannot
     // contain.
@@ -32,8 +32,8 @@ private:
     struct Row;
     static const Row kRows[];
 
-    void SetBrushStyle(const Graphic& graphic, dxf::BrushLook& look) const;
-    void SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Look& look) const;
+    void SetBrushStyle(const Graphic& graphic, dxf::BrushAppearance& appearance) const;
+    void SetPlain(const Graphic& graphic, const PropertyInfo& info, dxf::Appearance& appearance) const;
 
     const Drawing& drawing_;
     dxf::DrawingPatch& patch_;

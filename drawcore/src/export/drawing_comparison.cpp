@@ -5,7 +5,7 @@
 
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/export/graphic_comparison.h"
 #include "drawcore/src/export/structure_export.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
@@ -19,7 +19,7 @@ namespace {
 // changed, and whose records are identical, need not be created.
 class ReadBack {
 public:
-    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, Leftovers& left,
+    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, OmittedObjects& left,
              const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress)
         : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document), left_(left),
           removedLeft_(removedLeft), progress_(progress), tables_(ImportTables(document, read_)),
@@ -38,7 +38,7 @@ private:
             if (!tables_.blocks[i]) continue;
             const Block* block = blocks->At(read_.Blocks()->At(tables_.blocks[i])->name);
             if (!block) {
-                if (left_.Has(Leftovers::NameOfBlock(read_.Blocks()->At(tables_.blocks[i])->name))) continue;
+                if (left_.Has(OmittedObjects::NameOfBlock(read_.Blocks()->At(tables_.blocks[i])->name))) continue;
                 return false;
             }
             if (!SameMembers(block->Content(), document_.blocks[i].entities, true)) return false;
@@ -51,13 +51,13 @@ private:
 
     void CompareTree(const Block& block, const dxf::Block& read) {
         if (StyleTreeOf(block) != StyleTreeOf(read))
-            left_.Add(Leftovers::NameOfBlock(block.name), "the file can't hold its style tree");
+            left_.Add(OmittedObjects::NameOfBlock(block.name), "the file can't hold its style tree");
     }
 
     bool IsLeftOut(const Graphic& graphic) const { return graphic.source == Graphic::kNoSource && left_.Has(graphic); }
 
     // Returns the next member that the file contains.
-    size_t SkipLeftOut(const Graphic& group, size_t place) const {
+    size_t SkipOmitted(const Graphic& group, size_t place) const {
         while (place < group.MemberCount() && IsLeftOut(*group.MemberAt(place)))
             ++place;
         return place;
@@ -68,22 +68,22 @@ private:
     }
 
     bool SameMembers(const Graphic& saved, const std::vector<dxf::Entity>& entities, bool inBlock) {
-        size_t place = SkipLeftOut(saved, 0);
+        size_t place = SkipOmitted(saved, 0);
         for (size_t i = 0; i < entities.size(); ++i) {
             const dxf::Entity& entity = entities[i];
             Advance(entity.offset);
             if ((!inBlock && entity.inPaperSpace) || StaysRemoved(entity)) continue;
             const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
             if (place < saved.MemberCount() && IsAsBefore(*saved.MemberAt(place), entity.offset, end)) {
-                NoteSources(*saved.MemberAt(place), entity.offset);
-                place = SkipLeftOut(saved, place + 1);
+                SetSources(*saved.MemberAt(place), entity.offset);
+                place = SkipOmitted(saved, place + 1);
                 continue;
             }
             VertexGraphic made;
             import_.AddTo(made, entity, inBlock);
             const bool isTilted = entity.normal.x != 0 || entity.normal.y != 0;
             const bool calculated = isTilted || std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape);
-            for (size_t k = 0; k < made.MemberCount(); ++k, place = SkipLeftOut(saved, place + 1)) {
+            for (size_t k = 0; k < made.MemberCount(); ++k, place = SkipOmitted(saved, place + 1)) {
                 if (place >= saved.MemberCount()) return false;
                 Compare(*saved.MemberAt(place), *made.MemberAt(k), calculated);
             }
@@ -109,11 +109,11 @@ private:
                before_.compare(graphic.source, end - begin, text_, begin, end - begin) == 0;
     }
 
-    void NoteSources(Graphic& graphic, uint32_t place) {
+    void SetSources(Graphic& graphic, uint32_t place) {
         const uint32_t shift = place - graphic.source;
         sources_.emplace_back(&graphic, place);
         for (size_t i = 0; i < graphic.MemberCount(); ++i)
-            NoteSources(*graphic.MemberAt(i), graphic.MemberAt(i)->source + shift);
+            SetSources(*graphic.MemberAt(i), graphic.MemberAt(i)->source + shift);
     }
 
     void Compare(Graphic& saved, const Graphic& made, bool calculated) {
@@ -130,7 +130,7 @@ private:
     const Drawing& saved_;
     const std::string_view before_, text_;
     const dxf::Document& document_;
-    Leftovers& left_;
+    OmittedObjects& left_;
     const std::vector<uint32_t>& removedLeft_;
     const dxf::Progress& progress_;
     Sources sources_;
@@ -143,7 +143,7 @@ private:
 
 } // namespace
 
-Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, Leftovers& left,
+Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& left,
                         const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress) {
     return ReadBack(saved, text, read, left, removedLeft, progress).Run();
 }

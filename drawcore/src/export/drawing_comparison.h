@@ -7,7 +7,7 @@
 
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/dxf/reader.h"
-#include "drawcore/src/export/leftovers.h"
+#include "drawcore/src/export/omitted_objects.h"
 
 namespace drawcore {
 
@@ -17,7 +17,7 @@ using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 // Adds the graphics that the file would show differently to `left`. Identifiers of table entries may differ. Returns
 // the offsets of all graphics in the document's text, which is complete if nothing was added. Throws SaveError if the
 // file would contain other graphics.
-Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, Leftovers& left,
+Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& left,
                         const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress);
 
 } // namespace drawcore

@@ -6,7 +6,7 @@
 
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/graphics/ellipse_graphic.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/spline_graphic.h"

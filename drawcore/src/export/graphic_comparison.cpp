@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/graphics/ellipse_graphic.h"
 #include "drawcore/src/graphics/spline_graphic.h"
 #include "drawcore/src/graphics/text_graphic.h"
@@ -102,7 +102,7 @@ std::vector<size_t> GraphicComparison::DifferentProperties(const Graphic& saved,
         StoredProperty value = GetStored(saved, i);
         const StoredProperty other = GetStored(read, i);
         if (isFollowing && info.name == std::string_view(kPropTextSize)) {
-            value = SeenHeight(saved);
+            value = DisplayedHeight(saved);
             const double height = std::get<double>(other);
             if (std::get<double>(value) != std::get<double>(GetStored(saved, i)) &&
                 dxf::Near(std::get<double>(value), height))
@@ -182,7 +182,7 @@ const char* GraphicComparison::DifferentInsert(const InsertGraphic& a, const Ins
     return same ? nullptr : "its array";
 }
 
-double SeenHeight(const Graphic& text) {
+double DisplayedHeight(const Graphic& text) {
     const TextState& state = static_cast<const TextGraphic&>(text).state;
     Matrix motion;
     if (!text.Parent() || !text.Parent()->FindMotion(motion)) return state.height;

@@ -38,6 +38,6 @@ private:
 };
 
 // Returns the displayed height of a text; attributes move with their insertion.
-double SeenHeight(const Graphic& text);
+double DisplayedHeight(const Graphic& text);
 
 } // namespace drawcore

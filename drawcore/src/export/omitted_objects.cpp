@@ -1,5 +1,5 @@
 // Names the objects that are omitted.
-#include "drawcore/src/export/leftovers.h"
+#include "drawcore/src/export/omitted_objects.h"
 
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/dxf/reader.h"
@@ -8,7 +8,7 @@
 
 namespace drawcore {
 
-void Leftovers::Add(const Graphic& graphic, const std::string& why) {
+void OmittedObjects::Add(const Graphic& graphic, const std::string& why) {
     if (!graphics_.insert(&graphic).second) return;
     const std::string block = BlockOf(graphic);
     if (graphic.source == Graphic::kNoSource) {
@@ -22,7 +22,7 @@ void Leftovers::Add(const Graphic& graphic, const std::string& why) {
     findings_.push_back({name.line, name.Text() + ": " + why});
 }
 
-void Leftovers::AddRemoved(uint32_t place, const std::string& why) {
+void OmittedObjects::AddRemoved(uint32_t place, const std::string& why) {
     if (!removed_.insert(place).second) return;
     const std::string_view text = dxf::TextOf(drawing_.source->bytes);
     dxf::RecordName name = dxf::NameOfRecord(text, place);
@@ -30,11 +30,11 @@ void Leftovers::AddRemoved(uint32_t place, const std::string& why) {
     findings_.push_back({name.line, name.Text() + ": " + why});
 }
 
-void Leftovers::Add(const std::string& what, const std::string& why) {
+void OmittedObjects::Add(const std::string& what, const std::string& why) {
     if (others_.insert(what).second) findings_.push_back({0, what + ": " + why});
 }
 
-std::string Leftovers::BlockOf(const Graphic& graphic) const {
+std::string OmittedObjects::BlockOf(const Graphic& graphic) const {
     const BlockTable* blocks = drawing_.Blocks();
     for (Id id = blocks ? blocks->First() : kNoId; id; id = blocks->Next(id))
         if (&blocks->At(id)->Content() == &graphic.Top()) return blocks->At(id)->name;

@@ -13,10 +13,10 @@
 
 namespace drawcore {
 
-class Leftovers {
+class OmittedObjects {
 public:
     // The drawing must have been read from a file.
-    explicit Leftovers(const Drawing& drawing) : drawing_(drawing) {}
+    explicit OmittedObjects(const Drawing& drawing) : drawing_(drawing) {}
 
     // Adds a graphic: an existing record is kept, a new graphic gets none.
     void Add(const Graphic& graphic, const std::string& why);

@@ -7,7 +7,7 @@
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/export/entity_export.h"
 #include "drawcore/src/graphics/insert_graphic.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
@@ -23,7 +23,7 @@ bool IsNew(const Graphic& graphic) {
 
 } // namespace
 
-StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, Leftovers& left)
+StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& left)
     : drawing_(drawing), patch_(patch), left_(left) {
     for (const dxf::Block& block : patch.Known().blocks) {
         const std::string name = HostName(block.name);
@@ -63,14 +63,14 @@ void StructureExport::RemoveBlocks() {
     for (const auto& [folded, block] : inFile_) {
         const std::string name = HostName(block.name);
         if (blocks && blocks->IdOf(name)) continue;
-        if (left_.Has(Leftovers::NameOfBlock(name))) continue;
+        if (left_.Has(OmittedObjects::NameOfBlock(name))) continue;
         patch_.RemoveBlock(block);
         removed_.emplace_back(block.begin, block.end);
     }
 }
 
 void StructureExport::WriteBlock(const Block& block) {
-    CheckWhole(Leftovers::NameOfBlock(block.name), block.Content());
+    CheckWhole(OmittedObjects::NameOfBlock(block.name), block.Content());
     const auto known = inFile_.find(dxf::FoldName(block.name));
     if (known != inFile_.end()) {
         WriteTree(block, known->second);
@@ -80,7 +80,7 @@ void StructureExport::WriteBlock(const Block& block) {
     made.name = Utf8FromCodePage(block.name);
     made.base = block.base;
     if (const std::string tree = StyleTreeOf(block); !tree.empty())
-        made.own.push_back({dxf::kOwnStyleTree, Utf8FromCodePage(tree), {}});
+        made.own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
     std::vector<const Graphic*> parts;
     for (size_t i = 0; i < block.Content().MemberCount(); ++i) {
         const Graphic& part = *block.Content().MemberAt(i);
@@ -98,18 +98,19 @@ void StructureExport::WriteBlock(const Block& block) {
 
 // A group of graphics has properties that no record of a file can store.
 void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
-    if (!whole.HasLook(VertexGraphic().GetLook())) left_.Add(name, "the file has no place for properties of the whole");
+    if (!whole.HasAppearance(VertexGraphic().GetAppearance()))
+        left_.Add(name, "the file has no place for properties of the whole");
 }
 
 void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
     const std::string tree = StyleTreeOf(block);
     if (tree == StyleTreeOf(known)) return;
-    dxf::OwnData own = known.own;
+    dxf::ExtendedData own = known.own;
     own.erase(std::remove_if(own.begin(), own.end(),
-                             [](const dxf::OwnValue& value) { return value.name == dxf::kOwnStyleTree; }),
+                             [](const dxf::ExtendedValue& value) { return value.name == dxf::kExtendedStyleTree; }),
               own.end());
-    if (!tree.empty()) own.push_back({dxf::kOwnStyleTree, Utf8FromCodePage(tree), {}});
-    patch_.SetOwn(known, own);
+    if (!tree.empty()) own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
+    patch_.SetExtendedData(known, own);
 }
 
 // Only layers that existed when the drawing was read or saved.
@@ -119,7 +120,7 @@ void StructureExport::RemoveLayers() {
         const std::string name = HostName(layer.name);
         const std::vector<std::string>& had = drawing_.source->layers;
         const bool isGone = layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
-        if (!isGone || !layer.declared || left_.Has(Leftovers::NameOfLayer(name))) continue;
+        if (!isGone || !layer.declared || left_.Has(OmittedObjects::NameOfLayer(name))) continue;
         patch_.RemoveLayer(layer);
     }
 }
@@ -159,9 +160,9 @@ void StructureExport::TakeRefusals() {
         const auto place = static_cast<uint32_t>(refusal.place);
         std::string what;
         for (const auto& [folded, block] : inFile_)
-            if (block.begin == place) what = Leftovers::NameOfBlock(HostName(block.name));
+            if (block.begin == place) what = OmittedObjects::NameOfBlock(HostName(block.name));
         for (const dxf::Layer& layer : drawing_.source->known.layers)
-            if (layer.declared && layer.offset == place) what = Leftovers::NameOfLayer(HostName(layer.name));
+            if (layer.declared && layer.offset == place) what = OmittedObjects::NameOfLayer(HostName(layer.name));
         what.empty() ? left_.AddRemoved(place, refusal.why) : left_.Add(what, refusal.why);
     }
 }
@@ -179,8 +180,8 @@ std::string StyleTreeOf(const Block& block) {
 }
 
 std::string StyleTreeOf(const dxf::Block& block) {
-    for (const dxf::OwnValue& own : block.own)
-        if (own.name == dxf::kOwnStyleTree) return CodePageFromUtf8(own.text);
+    for (const dxf::ExtendedValue& own : block.own)
+        if (own.name == dxf::kExtendedStyleTree) return CodePageFromUtf8(own.text);
     return {};
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "drawcore/src/database/drawing.h"
-#include "drawcore/src/export/leftovers.h"
+#include "drawcore/src/export/omitted_objects.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/save/structure_patch.h"
 
@@ -15,7 +15,7 @@ namespace drawcore {
 class StructureExport {
 public:
     // The drawing must have been read from a file. All arguments must outlive the export.
-    StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, Leftovers& left);
+    StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& left);
 
     // Adds graphics that the file cannot contain to `left`, and skips those that are already there.
     void Write();
@@ -43,7 +43,7 @@ private:
 
     const Drawing& drawing_;
     dxf::StructurePatch& patch_;
-    Leftovers& left_;
+    OmittedObjects& left_;
     std::map<std::string, dxf::Block> inFile_; // by case-folded name in the drawing
     std::unordered_map<const Graphic*, size_t> added_;
     std::vector<uint32_t> kept_;

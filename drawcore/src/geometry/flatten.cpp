@@ -46,7 +46,7 @@ void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance,
 }
 
 std::vector<Vec3> SplineChain(const SplineCurve& curve) {
-    if (!curve.IsSound()) return curve.points;
+    if (!curve.IsValid()) return curve.points;
     const size_t first = static_cast<size_t>(curve.degree);
     std::vector<Vec3> chain{curve.At(curve.knots[first])};
     for (size_t span = first; span < curve.points.size(); ++span) {

@@ -22,7 +22,7 @@ Weighted Blend(const Weighted& a, const Weighted& b, double share) {
 
 } // namespace
 
-bool SplineCurve::IsSound() const {
+bool SplineCurve::IsValid() const {
     const size_t count = points.size();
     return degree >= 1 && degree <= kHighestDegree && count > static_cast<size_t>(degree) &&
            knots.size() == count + static_cast<size_t>(degree) + 1 && (weights.empty() || weights.size() == count) &&

@@ -14,7 +14,7 @@ struct SplineCurve {
     std::vector<double> weights; // empty if all are 1
 
     // Returns whether the counts are consistent, knots ascend, all numbers are finite and weights are positive.
-    bool IsSound() const;
+    bool IsValid() const;
     Vec3 At(double t) const; // t must be between knots[degree] and knots[points].
 };
 

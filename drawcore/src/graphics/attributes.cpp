@@ -6,15 +6,15 @@
 
 namespace drawcore {
 
-size_t LookHash::operator()(const Look& look) const {
+size_t AppearanceHash::operator()(const Appearance& appearance) const {
     size_t hash = 0;
     const auto mix = [&hash](const auto&... values) {
         ((hash = hash * 31 + std::hash<std::decay_t<decltype(values)>>()(values)), ...);
     };
-    std::apply(mix, look.pen.Values());
-    std::apply(mix, look.brush.Values());
-    std::apply(mix, look.Values());
-    mix(look.lastPage);
+    std::apply(mix, appearance.pen.Values());
+    std::apply(mix, appearance.brush.Values());
+    std::apply(mix, appearance.Values());
+    mix(appearance.lastPage);
     return hash;
 }
 

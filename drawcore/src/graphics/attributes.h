@@ -44,7 +44,7 @@ inline bool operator==(const Brush& a, const Brush& b) {
 }
 
 // The values of all properties of a graphic, for the undo log; shared by many graphics.
-struct Look {
+struct Appearance {
     Pen pen;
     Brush brush;
     Id layer = kNoId;
@@ -60,13 +60,13 @@ struct Look {
 
     // All members except pen and brush.
     auto Values() const { return std::tie(layer, styleTree, info, font, textHeight, textStyle, textFormat); }
-    bool operator==(const Look& other) const {
+    bool operator==(const Appearance& other) const {
         return lastPage == other.lastPage && pen == other.pen && brush == other.brush && Values() == other.Values();
     }
 };
 
-struct LookHash {
-    size_t operator()(const Look& look) const;
+struct AppearanceHash {
+    size_t operator()(const Appearance& appearance) const;
 };
 
 } // namespace drawcore

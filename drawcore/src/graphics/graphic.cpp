@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "drawcore/include/drawcore/graphic.h"
-#include "drawcore/src/graphics/census.h"
 #include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/extents_sink.h"
-#include "drawcore/src/graphics/place_index.h"
+#include "drawcore/src/graphics/object_counts.h"
+#include "drawcore/src/graphics/spatial_index.h"
 #include "drawcore/src/graphics/undo_log.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 
@@ -29,7 +29,7 @@ Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{
     SetPropertyTable(properties);
     bType = type;
     dwFlags = kFlagNoParent | kFlagDirty;
-    ++Census::graphics;
+    ++ObjectCounts::graphics;
 }
 
 Graphic::Graphic(const Graphic& other)
@@ -40,7 +40,7 @@ Graphic::Graphic(const Graphic& other)
     Ties().properties = other.Ties().properties;
     GetPen() = other.GetPen();
     SetBrush(other.GetBrush());
-    ++Census::graphics;
+    ++ObjectCounts::graphics;
     pParent = nullptr;
     dwFlags |= kFlagNoParent;
     if (other.styleName_) SetStyleName(other.styleName_->c_str());
@@ -58,7 +58,7 @@ void Graphic::MakeHostParts() {
 }
 
 Graphic::~Graphic() {
-    --Census::graphics;
+    --ObjectCounts::graphics;
     if (!inUndoLog_) return;
     if (DrawingContents* drawing = GetDrawing()) drawing->Undo().Remove(*this);
 }
@@ -131,9 +131,9 @@ UndoLog* Graphic::OpenUndoLog() const {
     return drawing && drawing->Undo().IsOpen() && &Top() == &drawing->Root() ? &drawing->Undo() : nullptr;
 }
 
-void Graphic::ChangingLook() {
+void Graphic::ChangingAppearance() {
     touched = true;
-    if (UndoLog* log = OpenUndoLog()) log->SaveLook(*this);
+    if (UndoLog* log = OpenUndoLog()) log->SaveAppearance(*this);
 }
 
 void Graphic::ChangingShape() {
@@ -141,13 +141,13 @@ void Graphic::ChangingShape() {
     if (UndoLog* log = OpenUndoLog()) log->SaveState(*this);
 }
 
-void Graphic::ChangedLook() {
+void Graphic::ChangedAppearance() {
     dwFlags |= kFlagDirty;
-    if (PlaceIndex* index = Top().IndexOfMembers()) index->NotePen(GetPen());
+    if (SpatialIndex* index = Top().MemberIndex()) index->NotePen(GetPen());
 }
 
 void Graphic::ChangedShape() {
-    ChangedLook();
+    ChangedAppearance();
     InvalidateExtents();
 }
 
@@ -156,7 +156,7 @@ void Graphic::InvalidateExtents() {
     // parent.
     Graphic* graphic = this;
     do {
-        if (graphic->indexed_) graphic->Parent()->IndexOfMembers()->Forget(*graphic);
+        if (graphic->indexed_) graphic->Parent()->MemberIndex()->Forget(*graphic);
         const bool known = std::exchange(graphic->extentsKnown_, false);
         if (known && graphic->isBlockContent_) InvalidateInsertions(*graphic);
     } while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
@@ -183,39 +183,39 @@ void Graphic::AddShapeExtents(Extents& extents) const {
     TraceShape(Trace(sink, tools), {});
 }
 
-Look Graphic::GetLook() const {
-    Look look;
-    look.pen = GetPen();
-    look.brush = GetBrush();
-    look.layer = layer;
-    look.styleTree = styleTree;
-    if (info) look.info = *info;
-    look.lastPage = wLastPage;
-    return look;
+Appearance Graphic::GetAppearance() const {
+    Appearance appearance;
+    appearance.pen = GetPen();
+    appearance.brush = GetBrush();
+    appearance.layer = layer;
+    appearance.styleTree = styleTree;
+    if (info) appearance.info = *info;
+    appearance.lastPage = wLastPage;
+    return appearance;
 }
 
-bool Graphic::HasLook(const Look& look) const {
-    return GetPen() == look.pen && GetBrush() == look.brush && layer == look.layer && styleTree == look.styleTree &&
-           (info ? *info == look.info : look.info.empty());
+bool Graphic::HasAppearance(const Appearance& appearance) const {
+    return GetPen() == appearance.pen && GetBrush() == appearance.brush && layer == appearance.layer &&
+           styleTree == appearance.styleTree && (info ? *info == appearance.info : appearance.info.empty());
 }
 
-bool Graphic::SetLook(const Look& look) {
-    GetPen() = look.pen;
-    SetBrush(look.brush);
-    layer = look.layer;
-    styleTree = look.styleTree;
-    info = look.info.empty() ? nullptr : std::make_unique<std::string>(look.info);
-    wLastPage = look.lastPage;
+bool Graphic::SetAppearance(const Appearance& appearance) {
+    GetPen() = appearance.pen;
+    SetBrush(appearance.brush);
+    layer = appearance.layer;
+    styleTree = appearance.styleTree;
+    info = appearance.info.empty() ? nullptr : std::make_unique<std::string>(appearance.info);
+    wLastPage = appearance.lastPage;
     return false;
 }
 
 void Graphic::RestoreAttributes(const Graphic& saved) {
-    SetLook(saved.GetLook());
+    SetAppearance(saved.GetAppearance());
     dwOneOutline = saved.dwOneOutline;
 }
 
 bool Graphic::EqualAttributes(const Graphic& saved) const {
-    return HasLook(saved.GetLook());
+    return HasAppearance(saved.GetAppearance());
 }
 
 double ShownPenWidth(const Graphic& graphic) {

@@ -18,7 +18,7 @@
 namespace drawcore {
 
 class DrawingContents;
-class PlaceIndex;
+class SpatialIndex;
 class UndoLog;
 struct Vertex;
 struct Trace;
@@ -50,9 +50,9 @@ public:
     // Returns the approximate memory size of a copy of the state in bytes.
     virtual size_t StateSize() const = 0;
     // Gets the part of the state that properties set.
-    virtual Look GetLook() const;
-    virtual bool HasLook(const Look& look) const; // ignores lastPage
-    virtual bool SetLook(const Look& look);       // returns whether the shape has changed
+    virtual Appearance GetAppearance() const;
+    virtual bool HasAppearance(const Appearance& appearance) const; // ignores lastPage
+    virtual bool SetAppearance(const Appearance& appearance);       // returns whether the shape has changed
 
     // Returns the vertex at that index, or null after the last one and for graphics without vertices.
     virtual Vertex* VertexAt(size_t) { return nullptr; }
@@ -76,9 +76,9 @@ public:
     DrawingContents* GetDrawing() const; // also null if the drawing has been freed
 
     // Setters call one of the first two functions before a change, for the undo log, and one of the others after it.
-    void ChangingLook();  // before changes of what GetLook returns
-    void ChangingShape(); // before any other change
-    void ChangedLook();
+    void ChangingAppearance(); // before changes of what GetAppearance returns
+    void ChangingShape();      // before any other change
+    void ChangedAppearance();
     void ChangedShape();
 
     // Sets the record's pszStyleName to a copy of the text. A program may have set its own pointer before.
@@ -92,7 +92,7 @@ public:
     // Returns how far the shape extends beyond its extents, ignoring the pen width: half the width of its segments.
     virtual double Reach() const { return 0; }
     // Returns the spatial index of the members; null for a graphic with few members.
-    virtual PlaceIndex* IndexOfMembers() const { return nullptr; }
+    virtual SpatialIndex* MemberIndex() const { return nullptr; }
 
     const PropertyTable* GetPropertyTable() const { return Ties().properties; }
     void SetPropertyTable(const PropertyTable* table) { Ties().properties = table; }
@@ -124,7 +124,7 @@ protected:
 private:
     friend class UndoLog;
     friend class Block;
-    friend class PlaceIndex;
+    friend class SpatialIndex;
 
     void ForgetSource();          // the record no longer applies
     UndoLog* OpenUndoLog() const; // null if changes are not recorded

@@ -3,7 +3,7 @@
 
 namespace drawcore {
 
-struct Census {
+struct ObjectCounts {
     inline static long blocks = 0; // from DrawCoreNew
     inline static long graphics = 0;
     inline static long vertices = 0; // created by VertexNewEx and similar functions

@@ -282,12 +282,12 @@ bool GiveText(int vt, void* out, const char* text) {
 // Sets the value through an accessor, recorded for undo.
 template <class Access, class Value>
 int Put(Graphic& graphic, const PropertyInfo& info, const Access& access, const Value& value) {
-    graphic.ChangingLook();
+    graphic.ChangingAppearance();
     access.set(graphic, value);
     if (info.part == PropertyPart::Text)
         graphic.ChangedShape();
     else
-        graphic.ChangedLook();
+        graphic.ChangedAppearance();
     return 1;
 }
 

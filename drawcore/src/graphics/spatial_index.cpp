@@ -1,5 +1,5 @@
 // An R-tree of boxes in single precision, rounded outward.
-#include "drawcore/src/graphics/place_index.h"
+#include "drawcore/src/graphics/spatial_index.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,28 +67,28 @@ bool HoldsMuch(const Extents& box, const Extents& all) {
 
 } // namespace
 
-class PlaceIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SamePlace> {
+class SpatialIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SamePlace> {
 public:
     using rtree::rtree;
 };
 
-PlaceIndex::PlaceIndex() = default;
-PlaceIndex::~PlaceIndex() = default;
+SpatialIndex::SpatialIndex() = default;
+SpatialIndex::~SpatialIndex() = default;
 
-void PlaceIndex::NotePen(const Pen& pen) {
+void SpatialIndex::NotePen(const Pen& pen) {
     double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
     constexpr double kWidestInherited = 2.11 / kMillimetersPerInch; // the greatest line weight of a layer
     reach = std::max(reach, (pen.width >= 0 ? pen.width : kWidestInherited) / 2);
 }
 
-void PlaceIndex::NoteMember(const Graphic& member) {
+void SpatialIndex::NoteMember(const Graphic& member) {
     NotePen(member.GetPen());
     worldReach_ = std::max(worldReach_, member.Reach());
     for (size_t i = 0; i < member.MemberCount(); ++i)
         NoteMember(*member.MemberAt(i));
 }
 
-void PlaceIndex::Build(const Graphic& group) {
+void SpatialIndex::Build(const Graphic& group) {
     std::vector<Entry> entries;
     entries.reserve(group.MemberCount());
     for (uint32_t place = 0; place < group.MemberCount(); ++place) {
@@ -104,7 +104,7 @@ void PlaceIndex::Build(const Graphic& group) {
 }
 
 // Adds new members, which follow the known ones.
-void PlaceIndex::TakeUp(const Graphic& group) {
+void SpatialIndex::TakeUp(const Graphic& group) {
     for (; known_ < group.MemberCount(); ++known_)
         changed_.push_back(static_cast<uint32_t>(known_));
     constexpr size_t kFew = 64;
@@ -120,7 +120,7 @@ void PlaceIndex::TakeUp(const Graphic& group) {
     changed_.clear();
 }
 
-void PlaceIndex::Forget(Graphic& member) {
+void SpatialIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
     changed_.push_back(member.Ties().place);
@@ -128,11 +128,11 @@ void PlaceIndex::Forget(Graphic& member) {
     if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.Ties().place});
 }
 
-void PlaceIndex::Drop() {
+void SpatialIndex::Drop() {
     tree_.reset();
 }
 
-std::optional<std::vector<uint32_t>> PlaceIndex::Find(const Graphic& group, const Extents& box, double paperInch) {
+std::optional<std::vector<uint32_t>> SpatialIndex::Find(const Graphic& group, const Extents& box, double paperInch) {
     if (HoldsMuch(box, group.GetExtents())) return std::nullopt;
     TakeUp(group);
     const double reach = std::max(worldReach_, paperReach_ * paperInch);

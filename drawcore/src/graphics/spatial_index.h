@@ -15,10 +15,10 @@ namespace drawcore {
 class Graphic;
 struct Pen;
 
-class PlaceIndex {
+class SpatialIndex {
 public:
-    PlaceIndex();
-    ~PlaceIndex();
+    SpatialIndex();
+    ~SpatialIndex();
 
     // Returns the indices, in drawing order, of the members that are visible in the box as seen from above, and
     // possibly of others nearby; nothing stands for all members. paperInch: drawing units per inch on paper.

@@ -33,7 +33,7 @@ bool SplineGraphic::EqualState(const Graphic& saved) const {
 void SplineGraphic::TraceShape(const Trace& trace, const PenUse& use) const {
     Path& path = trace.tools.path;
     path.Clear();
-    if (curve.IsSound()) {
+    if (curve.IsValid()) {
         path.MoveTo(trace.matrix.Plan(curve.At(curve.knots[static_cast<size_t>(curve.degree)])));
         FlattenSpline(curve, trace.matrix, trace.sink.Tolerance(), path);
     } else {

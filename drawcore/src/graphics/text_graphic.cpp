@@ -71,31 +71,31 @@ size_t TextGraphic::StateSize() const {
     return sizeof *this + state.text.size() * sizeof(wchar_t) + state.font.size();
 }
 
-Look TextGraphic::GetLook() const {
-    Look look = Graphic::GetLook();
-    look.font = state.font;
-    look.textHeight = state.height;
-    look.textStyle = state.style;
-    look.textFormat = state.format;
-    return look;
+Appearance TextGraphic::GetAppearance() const {
+    Appearance appearance = Graphic::GetAppearance();
+    appearance.font = state.font;
+    appearance.textHeight = state.height;
+    appearance.textStyle = state.style;
+    appearance.textFormat = state.format;
+    return appearance;
 }
 
-bool TextGraphic::HasLetters(const Look& look) const {
-    return state.font == look.font && state.height == look.textHeight && state.style == look.textStyle &&
-           state.format == look.textFormat;
+bool TextGraphic::HasLetters(const Appearance& appearance) const {
+    return state.font == appearance.font && state.height == appearance.textHeight &&
+           state.style == appearance.textStyle && state.format == appearance.textFormat;
 }
 
-bool TextGraphic::HasLook(const Look& look) const {
-    return Graphic::HasLook(look) && HasLetters(look);
+bool TextGraphic::HasAppearance(const Appearance& appearance) const {
+    return Graphic::HasAppearance(appearance) && HasLetters(appearance);
 }
 
-bool TextGraphic::SetLook(const Look& look) {
-    Graphic::SetLook(look);
-    if (HasLetters(look)) return false;
-    state.font = look.font;
-    state.height = look.textHeight;
-    state.style = look.textStyle;
-    state.format = look.textFormat;
+bool TextGraphic::SetAppearance(const Appearance& appearance) {
+    Graphic::SetAppearance(appearance);
+    if (HasLetters(appearance)) return false;
+    state.font = appearance.font;
+    state.height = appearance.textHeight;
+    state.style = appearance.textStyle;
+    state.format = appearance.textFormat;
     return true;
 }
 

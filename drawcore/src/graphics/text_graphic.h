@@ -46,9 +46,9 @@ public:
     void Restore(const Graphic& saved) override;
     bool EqualState(const Graphic& saved) const override;
     size_t StateSize() const override;
-    Look GetLook() const override;
-    bool HasLook(const Look& look) const override;
-    bool SetLook(const Look& look) override;
+    Appearance GetAppearance() const override;
+    bool HasAppearance(const Appearance& appearance) const override;
+    bool SetAppearance(const Appearance& appearance) override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
     TextState state;
@@ -65,7 +65,7 @@ private:
         Point origin;
         double width;
     };
-    bool HasLetters(const Look& look) const;
+    bool HasLetters(const Appearance& appearance) const;
     void LayOut() const;
     void PlaceRows(const TextFace& face) const;
     double BoxWidth() const;

@@ -139,7 +139,7 @@ void TraceGraphic(const Graphic& graphic, const Trace& trace) {
         TraceGraphic(*graphic.MemberAt(i), inner);
 }
 
-Extents SeenExtents(const Graphic& graphic, const DrawingContents* drawing) {
+Extents VisibleExtents(const Graphic& graphic, const DrawingContents* drawing) {
     if (!drawing || !drawing->Layers() || HidesNothing(*drawing->Layers())) return graphic.GetExtents();
     Extents extents;
     ExtentsSink sink(extents);

@@ -106,7 +106,7 @@ bool TraceAlone(const Graphic& graphic, const Trace& trace);
 Trace TraceOfMembers(const Graphic& graphic, const Trace& trace);
 
 // Returns the extents of the visible graphic and members, ignoring hidden layers.
-Extents SeenExtents(const Graphic& graphic, const DrawingContents* drawing);
+Extents VisibleExtents(const Graphic& graphic, const DrawingContents* drawing);
 
 // Fills the outlines in the tools' path with the graphic's brush, if it has one.
 void TraceFill(const Graphic& graphic, const Trace& trace, const PenUse& use);

@@ -13,35 +13,35 @@ UndoLog::UndoLog() = default;
 UndoLog::~UndoLog() = default;
 
 bool UndoLog::Saved::IsDifferentNow() const {
-    return state ? !graphic->EqualState(*state) : !graphic->HasLook(*look);
+    return state ? !graphic->EqualState(*state) : !graphic->HasAppearance(*appearance);
 }
 
 void UndoLog::Saved::Restore() const {
     if (state) graphic->Restore(*state);
-    if (state || graphic->SetLook(*look))
+    if (state || graphic->SetAppearance(*appearance))
         graphic->ChangedShape();
     else
-        graphic->ChangedLook();
+        graphic->ChangedAppearance();
 }
 
 // Discards unchanged entries and working memory.
 void UndoLog::Step::Close() {
     const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
-    constexpr size_t kNode = sizeof(Look) + 4 * sizeof(void*); // of the set, including its share of buckets and heap
-                                                               // overhead
-    size = saved.size() * sizeof(Saved) + looks.size() * kNode;
+    constexpr size_t kNode = sizeof(Appearance) + 4 * sizeof(void*); // of the set, including its share of buckets and
+                                                                     // heap overhead
+    size = saved.size() * sizeof(Saved) + appearances.size() * kNode;
     for (const Saved& entry : saved)
         if (entry.state) size += entry.state->StateSize();
-    for (const Look& look : looks)
-        size += look.info.size();
+    for (const Appearance& appearance : appearances)
+        size += appearance.info.size();
 }
 
 UndoLog::Step UndoLog::Step::Present() const {
     Step present;
     present.mark = mark;
     for (const Saved& entry : saved) {
-        if (entry.look)
+        if (entry.appearance)
             present.Add(*entry.graphic);
         else if (entry.state)
             present.saved.push_back({entry.graphic, nullptr, entry.graphic->CloneState()});
@@ -60,12 +60,12 @@ int UndoLog::Step::Restore() const {
 }
 
 // Many graphics share an appearance, so one just seen is found with a single comparison.
-const Look* UndoLog::Step::Take(const Graphic& graphic) {
+const Appearance* UndoLog::Step::Take(const Graphic& graphic) {
     const size_t key = (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
-    const Look*& look = recent[key % recent.size()];
-    if (!look || look->lastPage != graphic.wLastPage || !graphic.HasLook(*look))
-        look = &*looks.insert(graphic.GetLook()).first;
-    return look;
+    const Appearance*& appearance = recent[key % recent.size()];
+    if (!appearance || appearance->lastPage != graphic.wLastPage || !graphic.HasAppearance(*appearance))
+        appearance = &*appearances.insert(graphic.GetAppearance()).first;
+    return appearance;
 }
 
 void UndoLog::Step::Add(Graphic& graphic) {
@@ -88,7 +88,7 @@ UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
 void UndoLog::Step::Forget(const Graphic& graphic) {
     Saved* entry = Find(graphic);
     if (!entry) return;
-    entry->look = nullptr;
+    entry->appearance = nullptr;
     entry->state.reset();
 }
 
@@ -110,7 +110,7 @@ int UndoLog::End() {
     } else {
         steps_.pop_back();
     }
-    MakeRoom();
+    EnforceLimit();
     return changed;
 }
 
@@ -125,7 +125,7 @@ int UndoLog::Cancel() {
 }
 
 // The step undone last is discarded last, because it is the next to redo.
-void UndoLog::MakeRoom() {
+void UndoLog::EnforceLimit() {
     size_t whole = 0;
     for (const std::deque<Step>* steps : {&steps_, &undone_})
         for (const Step& step : *steps)
@@ -152,14 +152,14 @@ int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
 int UndoLog::Undo() {
     if (open_ || steps_.empty()) return 0;
     const int restored = Turn(steps_, undone_);
-    MakeRoom();
+    EnforceLimit();
     return restored;
 }
 
 int UndoLog::Redo() {
     if (open_ || undone_.empty()) return 0;
     const int restored = Turn(undone_, steps_);
-    MakeRoom();
+    EnforceLimit();
     return restored;
 }
 
@@ -178,7 +178,7 @@ void UndoLog::Enter(Graphic& graphic) {
     graphic.inUndoLog_ = true;
 }
 
-void UndoLog::SaveLook(Graphic& graphic) {
+void UndoLog::SaveAppearance(Graphic& graphic) {
     TellListener();
     if (InOpenStep(graphic)) return;
     Enter(graphic);
@@ -198,8 +198,8 @@ void UndoLog::SaveState(Graphic& graphic) {
         Enter(graphic);
         entry = &steps_.back().saved.emplace_back(Saved{&graphic, nullptr, nullptr});
     }
-    if (entry->look) state->SetLook(*entry->look); // as it was before the step
-    entry->look = nullptr;
+    if (entry->appearance) state->SetAppearance(*entry->appearance); // as it was before the step
+    entry->appearance = nullptr;
     entry->state = std::move(state);
 }
 

@@ -37,31 +37,31 @@ public:
     void SetListener(const ChangeListener& listener) { listener_ = listener; }
     int Dropped() const { return dropped_; } // number of steps discarded by the last End for lack of memory
 
-    void SaveLook(Graphic& graphic);  // called before properties are set
-    void SaveState(Graphic& graphic); // called before any other change
-    void Remove(Graphic& graphic);    // called before it is freed
+    void SaveAppearance(Graphic& graphic); // called before properties are set
+    void SaveState(Graphic& graphic);      // called before any other change
+    void Remove(Graphic& graphic);         // called before it is freed
 
 private:
     struct Saved {
         Graphic* graphic;
-        const Look* look = nullptr; // at most one of these is set; neither after the graphic was removed
+        const Appearance* appearance = nullptr; // at most one of these is set; neither after the graphic was removed
         std::unique_ptr<Graphic> state;
 
-        bool IsGone() const { return !look && !state; }
+        bool IsGone() const { return !appearance && !state; }
         bool IsDifferentNow() const;
         void Restore() const;
     };
     struct Step {
         std::deque<Saved> saved;
         bool sorted = false; // by address of the graphics; never while the step is open
-        std::unordered_set<Look, LookHash> looks;
-        std::array<const Look*, 64> recent{}; // of these, where a graphic with that appearance is expected
-        size_t size = 0;                      // in bytes
-        uint32_t mark = 0;                    // of the resulting state
+        std::unordered_set<Appearance, AppearanceHash> appearances;
+        std::array<const Appearance*, 64> recent{}; // of these, where a graphic with that appearance is expected
+        size_t size = 0;                            // in bytes
+        uint32_t mark = 0;                          // of the resulting state
 
         Saved* Find(const Graphic& graphic);
         void Add(Graphic& graphic);
-        const Look* Take(const Graphic& graphic);
+        const Appearance* Take(const Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
         Step Present() const; // the current state of the same graphics
@@ -72,7 +72,7 @@ private:
     void Enter(Graphic& graphic); // adds it to the open step
     void TellListener() const;
     int Turn(std::deque<Step>& from, std::deque<Step>& to);
-    void MakeRoom();
+    void EnforceLimit();
 
     std::deque<Step> steps_;
     std::deque<Step> undone_; // the last one is redone next

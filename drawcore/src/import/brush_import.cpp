@@ -20,11 +20,11 @@ Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::Pattern
     return kNoId;
 }
 
-Id StyleOf(const dxf::BrushLook& look, BrushStyleTable& styles) {
-    if (look.style.empty()) return kBrushStyleNone;
+Id StyleOf(const dxf::BrushAppearance& appearance, BrushStyleTable& styles) {
+    if (appearance.style.empty()) return kBrushStyleNone;
     constexpr size_t kLongestName = 200;
-    const std::string name = CodePageFromUtf8(look.style).substr(0, kLongestName);
-    if (!look.lines.empty()) return FindOrAddStyle(name, look.lines, styles);
+    const std::string name = CodePageFromUtf8(appearance.style).substr(0, kLongestName);
+    if (!appearance.lines.empty()) return FindOrAddStyle(name, appearance.lines, styles);
     const Id known = styles.IdOf(name);
     return known ? known : kBrushSolid;
 }
@@ -39,14 +39,14 @@ std::vector<dxf::Hatch::PatternLine> FileLines(const BrushStyle& style) {
     return made;
 }
 
-Brush ImportBrush(const dxf::BrushLook& look, BrushStyleTable& styles) {
+Brush ImportBrush(const dxf::BrushAppearance& appearance, BrushStyleTable& styles) {
     Brush brush;
-    brush.style = StyleOf(look, styles);
-    brush.scale = look.scale;
-    brush.angle = look.angle;
-    brush.color = look.color;
-    brush.cross = look.cross;
-    brush.drawMode = look.winding;
+    brush.style = StyleOf(appearance, styles);
+    brush.scale = appearance.scale;
+    brush.angle = appearance.angle;
+    brush.color = appearance.color;
+    brush.cross = appearance.cross;
+    brush.drawMode = appearance.winding;
     return brush;
 }
 

@@ -2,7 +2,7 @@
 #include "drawcore/src/import/dxf_import.h"
 
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/import/entity_import.h"
 
@@ -40,8 +40,8 @@ public:
 
 private:
     void FillBlock(const dxf::Block& from, Block& block) {
-        for (const dxf::OwnValue& own : from.own)
-            if (own.name == dxf::kOwnStyleTree) block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
+        for (const dxf::ExtendedValue& own : from.own)
+            if (own.name == dxf::kExtendedStyleTree) block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
         for (const dxf::Entity& entity : from.entities) {
             Advance();
             entities_.AddTo(block.Content(), entity, true);

@@ -179,27 +179,27 @@ std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, con
     return graphic;
 }
 
-void EntityImport::SetLook(Graphic& graphic, const dxf::Look& look) const {
+void EntityImport::SetAppearance(Graphic& graphic, const dxf::Appearance& appearance) const {
     Pen& pen = graphic.GetPen();
-    pen.color = look.color;
-    pen.style = LineStyleOf(look.lineType);
-    pen.scale = look.lineScale;
-    pen.width = look.width;
-    pen.scaleSystem = look.worldWidth ? kScaleWorld : kScalePaper;
-    pen.alignment = look.dashesFitted;
-    graphic.layer = tables_.layers[static_cast<size_t>(look.layer)];
-    graphic.SetBrush(ImportBrush(look.brush, *drawing_.BrushStyles()));
-    for (const dxf::OwnValue& value : look.extended)
+    pen.color = appearance.color;
+    pen.style = LineStyleOf(appearance.lineType);
+    pen.scale = appearance.lineScale;
+    pen.width = appearance.width;
+    pen.scaleSystem = appearance.worldWidth ? kScaleWorld : kScalePaper;
+    pen.alignment = appearance.dashesFitted;
+    graphic.layer = tables_.layers[static_cast<size_t>(appearance.layer)];
+    graphic.SetBrush(ImportBrush(appearance.brush, *drawing_.BrushStyles()));
+    for (const dxf::ExtendedValue& value : appearance.extended)
         SetExtended(graphic, value);
     if (graphic.GetKind() != Kind::Text) return;
     TextState& text = static_cast<TextGraphic&>(graphic).state;
-    text.font = CodePageFromUtf8(look.text.font);
-    text.height = look.text.height;
-    text.style = look.text.style;
-    text.format = look.text.format;
+    text.font = CodePageFromUtf8(appearance.text.font);
+    text.height = appearance.text.height;
+    text.style = appearance.text.style;
+    text.format = appearance.text.format;
 }
 
-void EntityImport::SetExtended(Graphic& graphic, const dxf::OwnValue& value) const {
+void EntityImport::SetExtended(Graphic& graphic, const dxf::ExtendedValue& value) const {
     const auto* info = FindPropertyInfo(value.name);
     StoredProperty stored;
     if (info->IsText())
@@ -237,7 +237,7 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
     std::unique_ptr<Graphic> graphic = std::visit(ShapeImport(*this, entity), entity.shape);
     Graphic* added = nullptr;
     if (graphic) {
-        SetLook(*graphic, dxf::LookOf(document_, entity));
+        SetAppearance(*graphic, dxf::AppearanceOf(document_, entity));
         graphic->source = entity.offset;
         added = group.Add(std::move(graphic));
     }

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/graphics/graphic.h"
 #include "drawcore/src/import/import_tables.h"
 
@@ -23,8 +23,8 @@ private:
 
     std::unique_ptr<Graphic> MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert);
     void AddAttributes(Graphic& group, const dxf::Insert& insert);
-    void SetLook(Graphic& graphic, const dxf::Look& look) const;
-    void SetExtended(Graphic& graphic, const dxf::OwnValue& value) const;
+    void SetAppearance(Graphic& graphic, const dxf::Appearance& appearance) const;
+    void SetExtended(Graphic& graphic, const dxf::ExtendedValue& value) const;
     uint16_t LineStyleOf(dxf::LineTypeIndex type) const;
 
     const dxf::Document& document_;

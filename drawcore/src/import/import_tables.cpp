@@ -6,8 +6,8 @@
 #include <cstdlib>
 
 #include "drawcore/src/database/encoding.h"
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/dxf/color_numbers.h"
-#include "drawcore/src/dxf/look.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/tables/unit_variables.h"
@@ -40,7 +40,7 @@ Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
 }
 
 // Returns a pattern that can be drawn, or a solid line.
-std::vector<double> SoundPattern(const std::vector<double>& dashes) {
+std::vector<double> ValidPattern(const std::vector<double>& dashes) {
     constexpr size_t kMostItems = 64;
     double length = 0;
     for (const double item : dashes)
@@ -51,7 +51,7 @@ std::vector<double> SoundPattern(const std::vector<double>& dashes) {
 Id ImportLineStyle(const dxf::LineType& type, LineStyleTable& styles) {
     const Id id = FindOrAdd(styles, HostName(type.name), [&](const std::string& name) {
         const std::string description = CodePageFromUtf8(dxf::ToDisplayText(type.description));
-        return std::make_unique<LineStyle>(name, description, SoundPattern(type.dashes));
+        return std::make_unique<LineStyle>(name, description, ValidPattern(type.dashes));
     });
     return id ? id : styles.First();
 }

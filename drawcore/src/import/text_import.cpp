@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "drawcore/src/database/encoding.h"
-#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/appearance_parts.h"
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/text_decoding.h"
 #include "drawcore/src/import/vertex_builder.h"
@@ -14,7 +14,7 @@ namespace drawcore {
 
 namespace {
 
-double SoundWidth(double factor) {
+double ValidWidth(double factor) {
     return factor > 0 ? std::clamp(factor, 0.01, 100.0) : 1;
 }
 
@@ -62,7 +62,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::Te
     auto graphic = std::make_unique<TextGraphic>();
     TextState& state = graphic->state;
     state.text = Utf16FromUtf8(line.text);
-    state.widthFactor = SoundWidth(text.widthFactor);
+    state.widthFactor = ValidWidth(text.widthFactor);
     state.anchor = AnchorOf(text);
     Place(entity, text, state);
     return graphic;
@@ -80,7 +80,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     auto graphic = std::make_unique<TextGraphic>();
     TextState& state = graphic->state;
     state.text = Utf16FromUtf8(plain);
-    state.widthFactor = SoundWidth(document.At(text.style).widthFactor * format.widthFactor);
+    state.widthFactor = ValidWidth(document.At(text.style).widthFactor * format.widthFactor);
     state.wrapWidth = std::max(text.width, 0.0);
     state.lineSpacing = text.lineSpacing > 0 ? std::clamp(text.lineSpacing, 0.25, 4.0) : 1;
     if (format.alignment != 0) // paragraph alignment is relative to the text's box, which does not move

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/paint/seen_members.h"
+#include "drawcore/src/paint/visible_members.h"
 
 namespace drawcore {
 
@@ -174,7 +174,7 @@ private:
     const uint32_t filter_;
     TraceTools tools_;
     const Matrix matrix_;
-    const SeenMembers near_;
+    const VisibleMembers near_;
 };
 
 } // namespace

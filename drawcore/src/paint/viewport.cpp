@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawcore/src/graphics/census.h"
+#include "drawcore/src/graphics/object_counts.h"
 
 namespace drawcore {
 
@@ -16,11 +16,11 @@ constexpr double kSmallestScale = 1e-12, kLargestScale = 1e12;
 } // namespace
 
 Viewport::Viewport() {
-    ++Census::viewports;
+    ++ObjectCounts::viewports;
 }
 
 Viewport::~Viewport() {
-    --Census::viewports;
+    --ObjectCounts::viewports;
 }
 
 Point Viewport::Middle() const {

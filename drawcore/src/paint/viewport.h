@@ -8,7 +8,7 @@
 #include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/graphic.h"
-#include "drawcore/src/paint/seen_members.h"
+#include "drawcore/src/paint/visible_members.h"
 
 struct ViewportStruct {};
 
@@ -40,7 +40,7 @@ public:
     bool lineWeights = true;
 
     struct Painting { // continued by the next call
-        SeenMembers seen;
+        VisibleMembers seen;
         long budget = 0; // of the tracing
     };
     Painting painting;

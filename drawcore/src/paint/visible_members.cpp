@@ -1,9 +1,9 @@
 // Converts a box of the device to one of the drawing.
-#include "drawcore/src/paint/seen_members.h"
+#include "drawcore/src/paint/visible_members.h"
 
 #include <cmath>
 
-#include "drawcore/src/graphics/place_index.h"
+#include "drawcore/src/graphics/spatial_index.h"
 
 namespace drawcore {
 
@@ -23,14 +23,14 @@ Extents BackFrom(const Box& device, const Matrix& m) {
 
 } // namespace
 
-SeenMembers::SeenMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch) {
-    PlaceIndex* index = set.IndexOfMembers();
+VisibleMembers::VisibleMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch) {
+    SpatialIndex* index = set.MemberIndex();
     if (!index || !KeepsBoxes(toDevice)) return;
     constexpr double kRounding = 1; // in pixels; greater than any rounding error
     places_ = index->Find(set, BackFrom(device.Grown(kRounding), toDevice), paperInch / toDevice.PlanScale());
 }
 
-Graphic* SeenMembers::At(const Graphic& set, size_t number) const {
+Graphic* VisibleMembers::At(const Graphic& set, size_t number) const {
     const size_t place = places_ ? (*places_)[number] : number;
     return place < set.MemberCount() ? set.MemberAt(place) : nullptr;
 }

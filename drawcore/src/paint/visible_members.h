@@ -9,11 +9,11 @@
 
 namespace drawcore {
 
-class SeenMembers {
+class VisibleMembers {
 public:
-    SeenMembers() = default;
+    VisibleMembers() = default;
     // toDevice: from the set's coordinates; paperInch: device pixels per inch on paper.
-    SeenMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch);
+    VisibleMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch);
 
     // In drawing order. The set must be the same one. Returns null if members have been removed since.
     size_t CountIn(const Graphic& set) const { return places_ ? places_->size() : set.MemberCount(); }

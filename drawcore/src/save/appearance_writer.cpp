@@ -1,5 +1,5 @@
 // Writes layer, color, line and the extended data of an entity.
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,13 +26,13 @@ constexpr int kThrough = 128; // flag of a polyline: dashes continue around corn
 
 } // namespace
 
-LookWriter::LookWriter(DrawingPatch& drawing, size_t offset)
+AppearanceWriter::AppearanceWriter(DrawingPatch& drawing, size_t offset)
     : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)), entity_(drawing.EntityAt(offset)),
       record_(drawing.patch_, drawing.in_.tags, offset) {
-    if (!entity_.own) entity_.own = std::make_unique<OwnData>();
+    if (!entity_.own) entity_.own = std::make_unique<ExtendedData>();
 }
 
-void LookWriter::Write(const Look& wanted) {
+void AppearanceWriter::Write(const Appearance& wanted) {
     if (!(Now() == wanted)) {
         WriteLayer(wanted);
         WriteText(wanted); // before the color, which may be set within the text
@@ -46,19 +46,19 @@ void LookWriter::Write(const Look& wanted) {
     }
     if (const auto* text = std::get_if<Apart<Text>>(&entity_.shape)) PutText(**text);
     if (const auto* text = std::get_if<Apart<MText>>(&entity_.shape)) PutText(**text);
-    WriteOwn();
+    WriteExtendedValue();
 }
 
-void LookWriter::WriteExtended(const Look& wanted) {
+void AppearanceWriter::WriteExtended(const Appearance& wanted) {
     for (const PropertyInfo& property : kPropertyList) {
-        const OwnValue* value = FindOwn(wanted.extended, property.name);
-        if (value) OwnText(property.name, value->text, value->numbers);
-        if (!value && !property.hasDxfGroup) RemoveOwn(property.name);
+        const ExtendedValue* value = FindExtended(wanted.extended, property.name);
+        if (value) ExtendedText(property.name, value->text, value->numbers);
+        if (!value && !property.hasDxfGroup) RemoveExtended(property.name);
     }
 }
 
-void LookWriter::OwnText(const char* name, std::string text, std::vector<double> numbers) {
-    for (OwnValue& value : *entity_.own)
+void AppearanceWriter::ExtendedText(const char* name, std::string text, std::vector<double> numbers) {
+    for (ExtendedValue& value : *entity_.own)
         if (value.name == name) {
             value.text = std::move(text);
             value.numbers = std::move(numbers);
@@ -67,15 +67,15 @@ void LookWriter::OwnText(const char* name, std::string text, std::vector<double>
     entity_.own->push_back({name, std::move(text), std::move(numbers)});
 }
 
-void LookWriter::RemoveOwn(std::string_view name) {
-    const auto isNamed = [&](const OwnValue& own) { return own.name == name; };
+void AppearanceWriter::RemoveExtended(std::string_view name) {
+    const auto isNamed = [&](const ExtendedValue& own) { return own.name == name; };
     entity_.own->erase(std::remove_if(entity_.own->begin(), entity_.own->end(), isNamed), entity_.own->end());
 }
 
-void LookWriter::WriteOwn() {
-    if (*entity_.own == (stored_.own ? *stored_.own : OwnData())) return;
-    for (const OwnValue& value : *entity_.own) {
-        const OwnValue* was = FindOwn(stored_, value.name);
+void AppearanceWriter::WriteExtendedValue() {
+    if (*entity_.own == (stored_.own ? *stored_.own : ExtendedData())) return;
+    for (const ExtendedValue& value : *entity_.own) {
+        const ExtendedValue* was = FindExtended(stored_, value.name);
         const bool isNew = !was || !(*was == value);
         if (isNew && exact_.count(value.name) == 0) ++drawing_.onlyExtended_[value.name];
     }
@@ -89,19 +89,19 @@ void LookWriter::WriteOwn() {
     record_.SetExtended(kApplication, values);
 }
 
-void LookWriter::WriteLayer(const Look& wanted) {
+void AppearanceWriter::WriteLayer(const Appearance& wanted) {
     if (wanted.layer == entity_.layer) return;
     drawing_.NeedRecord(wanted.layer);
     record_.SetCommon(8, drawing_.in_.layers.Stored(drawing_.Known().At(wanted.layer)));
     entity_.layer = wanted.layer;
 }
 
-bool LookWriter::CanPutColor(uint32_t color) const {
+bool AppearanceWriter::CanPutColor(uint32_t color) const {
     const bool plain = color >> 24 == 0;
     return !plain || ColorOfIndex(NearestIndex(color)) == color || IsNewer("AC1018") || record_.HasCommon(420);
 }
 
-void LookWriter::PutColor(uint32_t color) {
+void AppearanceWriter::PutColor(uint32_t color) {
     entity_.trueColor = -1;
     record_.RemoveCommon(430); // the name of the previous color
     if (color == kColorByLayer || color == kColorByBlock) {
@@ -121,27 +121,27 @@ void LookWriter::PutColor(uint32_t color) {
         record_.RemoveCommon(420);
 }
 
-void LookWriter::WriteColor(const Look& wanted) {
-    const Look now = Now();
+void AppearanceWriter::WriteColor(const Appearance& wanted) {
+    const Appearance now = Now();
     if (now.color == wanted.color && now.brush.color == wanted.brush.color) return;
     const bool isHatch = std::holds_alternative<Apart<Hatch>>(entity_.shape);
     const uint32_t brush = wanted.brush.color;
-    RemoveOwn(kPropPenColor);
-    RemoveOwn(kPropBrushColor);
+    RemoveExtended(kPropPenColor);
+    RemoveExtended(kPropBrushColor);
     // Other programs only see the brush of a hatch.
     if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
         exact_.insert(kPropBrushColor);
         PutColor(brush);
-        OwnNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});
+        ExtendedNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});
         return;
     }
-    if (LookByGroups(drawing_.Known(), entity_).color != wanted.color) PutColor(wanted.color);
+    if (AppearanceByGroups(drawing_.Known(), entity_).color != wanted.color) PutColor(wanted.color);
     if (!CanPutColor(wanted.color))
-        OwnNumbers(kPropPenColor, {static_cast<double>(wanted.color), static_cast<double>(entity_.color)});
-    if (brush != kColorOfPen) OwnNumbers(kPropBrushColor, {static_cast<double>(brush)});
+        ExtendedNumbers(kPropPenColor, {static_cast<double>(wanted.color), static_cast<double>(entity_.color)});
+    if (brush != kColorOfPen) ExtendedNumbers(kPropBrushColor, {static_cast<double>(brush)});
 }
 
-void LookWriter::WriteLineType(const Look& wanted) {
+void AppearanceWriter::WriteLineType(const Appearance& wanted) {
     const LineTypeIndex type = wanted.lineType;
     if (Now().lineType == type) return;
     const bool named = type < LineTypeIndex::none;
@@ -150,10 +150,10 @@ void LookWriter::WriteLineType(const Look& wanted) {
                              : type == LineTypeIndex::byLayer ? kByLayerName
                              : type == LineTypeIndex::byBlock ? kByBlockName
                                                               : drawing_.Known().At(type).name;
-    RemoveOwn(kPropPenStyle);
-    const bool outlined = LookByGroups(drawing_.Known(), entity_).lineType != LineTypeIndex::none;
+    RemoveExtended(kPropPenStyle);
+    const bool outlined = AppearanceByGroups(drawing_.Known(), entity_).lineType != LineTypeIndex::none;
     if (type == LineTypeIndex::none || !outlined) {
-        if (outlined || type != LineTypeIndex::none) OwnText(kPropPenStyle, ToDisplayText(name));
+        if (outlined || type != LineTypeIndex::none) ExtendedText(kPropPenStyle, ToDisplayText(name));
         return;
     }
     entity_.lineType = type;
@@ -163,35 +163,36 @@ void LookWriter::WriteLineType(const Look& wanted) {
         record_.SetCommon(6, named ? drawing_.in_.lineTypes.Stored(drawing_.Known().At(type)) : name);
 }
 
-void LookWriter::WriteLineScale(const Look& wanted) {
+void AppearanceWriter::WriteLineScale(const Appearance& wanted) {
     if (Now().lineScale == wanted.lineScale) return;
-    RemoveOwn(kPropPenScale);
+    RemoveExtended(kPropPenScale);
     const bool held = wanted.lineScale > 0 && (IsNewer("AC1012") || record_.HasCommon(48));
-    if (!held) return OwnNumbers(kPropPenScale, {wanted.lineScale});
+    if (!held) return ExtendedNumbers(kPropPenScale, {wanted.lineScale});
     entity_.lineTypeScale = wanted.lineScale;
     record_.SetCommon(48, RealText(wanted.lineScale));
 }
 
-void LookWriter::WriteWidth(const Look& wanted) {
+void AppearanceWriter::WriteWidth(const Appearance& wanted) {
     const auto isWritten = [&] {
-        const Look now = Now();
+        const Appearance now = Now();
         return now.width == wanted.width && now.worldWidth == wanted.worldWidth;
     };
     if (isWritten()) return;
-    RemoveOwn(kPropPenWidth);
+    RemoveExtended(kPropPenWidth);
     auto* polyline = std::get_if<Polyline>(&entity_.shape);
     const bool holdsWidth = polyline && polyline->kind == Polyline::Kind::flat && HasOneWidth(*polyline);
     if (wanted.worldWidth && wanted.width > 0 && holdsWidth) return PutPolylineWidth(*polyline, wanted.width);
     if (!wanted.worldWidth) {
-        if (LookByGroups(drawing_.Known(), entity_).worldWidth) PutPolylineWidth(*polyline, 0);
+        if (AppearanceByGroups(drawing_.Known(), entity_).worldWidth) PutPolylineWidth(*polyline, 0);
         WritePaperWidth(wanted);
     }
     if (isWritten()) return;
     if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth) exact_.insert(kPropPenWidth);
-    OwnNumbers(kPropPenWidth, {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
+    ExtendedNumbers(kPropPenWidth,
+                    {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
 }
 
-void LookWriter::WritePaperWidth(const Look& wanted) {
+void AppearanceWriter::WritePaperWidth(const Appearance& wanted) {
     const bool byLayer = wanted.width == kPenWidthByLayer;
     if (!byLayer && !IsNewer("AC1015") && !record_.HasCommon(370)) return;
     if (Now().width == wanted.width) return;
@@ -201,7 +202,7 @@ void LookWriter::WritePaperWidth(const Look& wanted) {
     byLayer ? record_.RemoveCommon(370) : record_.SetCommon(370, std::to_string(entity_.lineWeight));
 }
 
-void LookWriter::PutPolylineWidth(const Polyline& polyline, double width) {
+void AppearanceWriter::PutPolylineWidth(const Polyline& polyline, double width) {
     const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
     if (isLight) {
         record_.Remove(40);
@@ -219,7 +220,7 @@ void LookWriter::PutPolylineWidth(const Polyline& polyline, double width) {
 }
 
 // Widths of vertex records override that of the polyline.
-void LookWriter::RemoveVertexWidths() {
+void AppearanceWriter::RemoveVertexWidths() {
     TagReader& tags = drawing_.in_.tags;
     for (size_t at = record_.End(); tags.Seek(at).Is(0, "VERTEX");) {
         RecordPatch vertex(drawing_.patch_, tags, at);
@@ -229,12 +230,12 @@ void LookWriter::RemoveVertexWidths() {
     }
 }
 
-void LookWriter::WriteDashes(const Look& wanted) {
+void AppearanceWriter::WriteDashes(const Appearance& wanted) {
     if (Now().dashesFitted == wanted.dashesFitted) return;
-    RemoveOwn(kPropPenAlignment);
+    RemoveExtended(kPropPenAlignment);
     auto* polyline = std::get_if<Polyline>(&entity_.shape);
     if (!polyline) {
-        if (!wanted.dashesFitted) OwnNumbers(kPropPenAlignment, {0});
+        if (!wanted.dashesFitted) ExtendedNumbers(kPropPenAlignment, {0});
         return;
     }
     polyline->dashesThrough = !wanted.dashesFitted;

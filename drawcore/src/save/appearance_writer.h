@@ -4,14 +4,14 @@
 
 #include <set>
 
-#include "drawcore/src/dxf/look_parts.h"
+#include "drawcore/src/dxf/appearance_parts.h"
 #include "drawcore/src/save/drawing_patch.h"
 
 namespace dxf {
 
-class LookWriter {
+class AppearanceWriter {
 public:
-    LookWriter(DrawingPatch& drawing, size_t offset);
+    AppearanceWriter(DrawingPatch& drawing, size_t offset);
 
     // Move the entity, place an insertion, or move vertices. At most one call, before Write.
     void Move(const Matrix& motion);
@@ -19,42 +19,42 @@ public:
     // The vertices are those of the graphic made from the entity, in order. What cannot be moved stays.
     void MoveVertices(const std::vector<Vec3>& to);
 
-    Look Now() const { return LookOf(drawing_.Known(), entity_); }
-    void Write(const Look& wanted);
+    Appearance Now() const { return AppearanceOf(drawing_.Known(), entity_); }
+    void Write(const Appearance& wanted);
 
 private:
     bool IsNewer(const char* version) const { return drawing_.Known().header.version >= version; }
 
-    void OwnText(const char* name, std::string text, std::vector<double> numbers = {});
-    void OwnNumbers(const char* name, std::vector<double> numbers) { OwnText(name, {}, std::move(numbers)); }
-    void RemoveOwn(std::string_view name);
-    void WriteOwn();
-    void WriteExtended(const Look& wanted);
+    void ExtendedText(const char* name, std::string text, std::vector<double> numbers = {});
+    void ExtendedNumbers(const char* name, std::vector<double> numbers) { ExtendedText(name, {}, std::move(numbers)); }
+    void RemoveExtended(std::string_view name);
+    void WriteExtendedValue();
+    void WriteExtended(const Appearance& wanted);
 
-    void WriteLayer(const Look& wanted);
-    void WriteColor(const Look& wanted);
+    void WriteLayer(const Appearance& wanted);
+    void WriteColor(const Appearance& wanted);
     void PutColor(uint32_t color);
     bool CanPutColor(uint32_t color) const;
-    void WriteLineType(const Look& wanted);
-    void WriteLineScale(const Look& wanted);
-    void WriteWidth(const Look& wanted);
-    void WritePaperWidth(const Look& wanted);
-    void WriteDashes(const Look& wanted);
+    void WriteLineType(const Appearance& wanted);
+    void WriteLineScale(const Appearance& wanted);
+    void WriteWidth(const Appearance& wanted);
+    void WritePaperWidth(const Appearance& wanted);
+    void WriteDashes(const Appearance& wanted);
     void PutPolylineWidth(const Polyline& polyline, double width); // 0 to remove it
     void RemoveVertexWidths();
 
-    void WriteBrush(const Look& wanted);
+    void WriteBrush(const Appearance& wanted);
     void WriteAngle(double angle, double held);
-    void PutBrush(Hatch& hatch, const BrushLook& wanted);
+    void PutBrush(Hatch& hatch, const BrushAppearance& wanted);
     void PutSolid(Hatch& hatch);
-    void PutPattern(Hatch& hatch, const BrushLook& wanted);
+    void PutPattern(Hatch& hatch, const BrushAppearance& wanted);
     void PutHatchHead(const Hatch& hatch);
     void ReplacePattern(const std::vector<RecordPatch::Value>& values);
 
-    void WriteText(const Look& wanted);
-    void WriteLine(Text& text, const Look& look);
-    void WriteParagraphs(MText& text, const Look& wanted);
-    void WriteEffects(const TextLook& wanted); // and other values that the groups cannot store
+    void WriteText(const Appearance& wanted);
+    void WriteLine(Text& text, const Appearance& appearance);
+    void WriteParagraphs(MText& text, const Appearance& wanted);
+    void WriteEffects(const TextAppearance& wanted); // and other values that the groups cannot store
     void PutFace(Text& text, const FontFace& face);
     static void PutFormat(Text& text, uint16_t format);
     static void PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole);

@@ -5,7 +5,7 @@
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/standard_brushes.h"
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 namespace dxf {
 
@@ -42,41 +42,41 @@ bool IsWithinTurn(double angle) {
 
 } // namespace
 
-void LookWriter::WriteBrush(const Look& wanted) {
+void AppearanceWriter::WriteBrush(const Appearance& wanted) {
     if (Now().brush == wanted.brush) return;
     for (const char* name : {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
-        RemoveOwn(name);
-    const BrushLook& brush = wanted.brush;
+        RemoveExtended(name);
+    const BrushAppearance& brush = wanted.brush;
     if (auto* hatch = std::get_if<Apart<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
-    const BrushLook held = LookByGroups(drawing_.Known(), entity_).brush;
+    const BrushAppearance held = AppearanceByGroups(drawing_.Known(), entity_).brush;
     const bool sameLines =
         brush.lines.empty() && held.lines.empty() ? brush.style == held.style : SameLines(brush.lines, held.lines);
     if (!sameLines || brush.style.empty() != held.style.empty())
-        OwnText(kPropBrushStyle, brush.style,
-                SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
-                                                                   : NumbersFromLines(brush.lines));
-    if (brush.scale != held.scale) OwnNumbers(kPropBrushScale, {brush.scale});
+        ExtendedText(kPropBrushStyle, brush.style,
+                     SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
+                                                                        : NumbersFromLines(brush.lines));
+    if (brush.scale != held.scale) ExtendedNumbers(kPropBrushScale, {brush.scale});
     if (brush.angle != held.angle) WriteAngle(brush.angle, held.angle);
-    if (brush.cross != held.cross) OwnNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
-    if (brush.winding != held.winding) OwnNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
+    if (brush.cross != held.cross) ExtendedNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
+    if (brush.winding != held.winding) ExtendedNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
 }
 
 // Writes the exact angle to extended data if the degrees are only near it.
-void LookWriter::WriteAngle(double angle, double held) {
-    if (!Near(angle, held)) return OwnNumbers(kPropBrushAngle, {angle});
+void AppearanceWriter::WriteAngle(double angle, double held) {
+    if (!Near(angle, held)) return ExtendedNumbers(kPropBrushAngle, {angle});
     exact_.insert(kPropBrushAngle);
-    OwnNumbers(kPropBrushAngle, {angle, held});
+    ExtendedNumbers(kPropBrushAngle, {angle, held});
 }
 
 // As far as a hatch can have that brush.
-void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
-    const BrushLook held = BrushOf(hatch);
+void AppearanceWriter::PutBrush(Hatch& hatch, const BrushAppearance& wanted) {
+    const BrushAppearance held = BrushOf(hatch);
     if (wanted.style == kSolidBrush && wanted.lines.empty()) {
         if (held.style != kSolidBrush || !held.lines.empty()) PutSolid(hatch);
         return;
     }
     if (wanted.lines.empty()) return; // no brush, or one without lines
-    BrushLook put = wanted;
+    BrushAppearance put = wanted;
     if (!(put.scale > 0)) put.scale = held.scale;
     if (!IsWithinTurn(put.angle)) put.angle = held.angle;
     put.cross = wanted.cross && wanted.lines.size() == 1;
@@ -86,7 +86,7 @@ void LookWriter::PutBrush(Hatch& hatch, const BrushLook& wanted) {
 }
 
 // Replaces the groups after the head and the outlines.
-void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
+void AppearanceWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
     const std::vector<Group>& groups = record_.Groups();
     const auto from =
         std::find_if(groups.rbegin(), groups.rend(), [](const Group& group) { return group.code == kHatchStyle; });
@@ -104,7 +104,7 @@ void LookWriter::ReplacePattern(const std::vector<RecordPatch::Value>& values) {
         record_.Insert(place, value.code, value.text);
 }
 
-void LookWriter::PutHatchHead(const Hatch& hatch) {
+void AppearanceWriter::PutHatchHead(const Hatch& hatch) {
     const std::vector<Group>& groups = record_.Groups();
     const std::string name = hatch.solid ? "SOLID" : drawing_.in_.decoder.Encode(hatch.pattern);
     for (const Group& group : groups) {
@@ -115,14 +115,14 @@ void LookWriter::PutHatchHead(const Hatch& hatch) {
     }
 }
 
-void LookWriter::PutSolid(Hatch& hatch) {
+void AppearanceWriter::PutSolid(Hatch& hatch) {
     hatch.solid = true;
     hatch.gradient = false;
     PutHatchHead(hatch);
     ReplacePattern({});
 }
 
-void LookWriter::PutPattern(Hatch& hatch, const BrushLook& wanted) {
+void AppearanceWriter::PutPattern(Hatch& hatch, const BrushAppearance& wanted) {
     const Vec3 base = hatch.lines.empty() ? Vec3() : hatch.lines[0].base;
     hatch.solid = hatch.gradient = false;
     hatch.pattern = wanted.style;

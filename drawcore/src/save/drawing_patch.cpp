@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "drawcore/include/drawcore/dxf_document.h"
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 namespace dxf {
 
@@ -26,9 +26,9 @@ Entity DrawingPatch::EntityAt(size_t offset) {
     return std::move(read[0]);
 }
 
-void DrawingPatch::Change(size_t offset, const Look& wanted, const EntityPlace& place) {
+void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityPlace& place) {
     const auto moved = moved_.find(offset);
-    LookWriter writer(*this, offset);
+    AppearanceWriter writer(*this, offset);
     if (moved != moved_.end()) {
         writer.Move(moved->second);
         moved_.erase(moved);
@@ -59,7 +59,7 @@ std::string DrawingPatch::Finish() {
     while (!moved_.empty()) {
         const auto [offset, motion] = *moved_.begin();
         moved_.erase(moved_.begin());
-        LookWriter writer(*this, offset);
+        AppearanceWriter writer(*this, offset);
         writer.Move(motion);
         writer.Write(writer.Now());
     }

@@ -2,17 +2,17 @@
 // without a group are stored in extended data under kApplication. Independent of the database.
 //
 //   dxf::DrawingPatch patch(text, std::move(document));
-//   dxf::Look look = patch.LookAt(entity.offset);
-//   look.color = 0x0000FF;
-//   patch.SetLook(entity.offset, look);
+//   dxf::Appearance appearance = patch.AppearanceAt(entity.offset);
+//   appearance.color = 0x0000FF;
+//   patch.SetAppearance(entity.offset, appearance);
 //   const std::string changed = patch.Finish();
 #pragma once
 
 #include <map>
 #include <string>
 
+#include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/dxf/entity_reader.h"
-#include "drawcore/src/dxf/look.h"
 #include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/save/table_patch.h"
 
@@ -44,10 +44,10 @@ public:
     // Returns the entity whose record is at the offset. Throws ReadError or SaveError if there is none that can be
     // read.
     Entity EntityAt(size_t offset);
-    Look LookAt(size_t offset) { return LookOf(Known(), EntityAt(offset)); }
+    Appearance AppearanceAt(size_t offset) { return AppearanceOf(Known(), EntityAt(offset)); }
 
     // May be called once per entity.
-    void Change(size_t offset, const Look& wanted, const EntityPlace& place = {});
+    void Change(size_t offset, const Appearance& wanted, const EntityPlace& place = {});
 
     // Changes color, flags and line type (by name) of a layer; once per layer, and before changes of entities.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
@@ -65,7 +65,7 @@ public:
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }
 
 private:
-    friend class LookWriter;
+    friend class AppearanceWriter;
 
     void NeedRecord(LineTypeIndex index);
     // Returns the name of a text style with that face.

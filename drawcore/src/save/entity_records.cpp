@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "drawcore/include/drawcore/dxf_document.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 namespace dxf {
 

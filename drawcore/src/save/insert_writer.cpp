@@ -4,14 +4,14 @@
 
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/placement.h"
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 namespace dxf {
 
 namespace {
 
 // Returns whether a block looks the same at the same or another position.
-bool LookAlike(const Matrix& a, const Matrix& b) {
+bool IsSamePlacement(const Matrix& a, const Matrix& b) {
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 3; ++column)
             if (!Near(a.at[row][column], b.at[row][column])) return false;
@@ -70,10 +70,10 @@ Matrix AxesOf(const Entity& entity, const Insert& insert) {
 
 } // namespace
 
-void LookWriter::Place(const AxisEnds& ends) {
+void AppearanceWriter::Place(const AxisEnds& ends) {
     if (AxisEndsOf(entity_) == ends) return;
     const Matrix placement = PlacementOf(ends), motion = MotionBetween(PlacementOf(entity_), placement);
-    RemoveOwn(kOwnPlacement);
+    RemoveExtended(kExtendedPlacement);
     if (auto* insert = std::get_if<Apart<Insert>>(&entity_.shape)) {
         const Matrix axes = AxesOf(entity_, **insert);
         PutPlacement(**insert, placement);
@@ -86,18 +86,18 @@ void LookWriter::Place(const AxisEnds& ends) {
         (*dimension)->offset = to;
     }
     if (AxisEndsOf(entity_) == ends) return;
-    if (LookAlike(PlacementOf(entity_), placement)) exact_.insert(kOwnPlacement);
-    OwnNumbers(kOwnPlacement, NumbersOf(ends, entity_));
+    if (IsSamePlacement(PlacementOf(entity_), placement)) exact_.insert(kExtendedPlacement);
+    ExtendedNumbers(kExtendedPlacement, NumbersOf(ends, entity_));
 }
 
-void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
+void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement) {
     const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
     Vec3 normal = entity_.normal;
     Insert placed = PlacedInsert(normal, insert, placement);
-    if (!isTable && !LookAlike(MatrixOf(normal, placed), placement)) { // it has left its plane
+    if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // it has left its plane
         const Vec3 tilted = NormalOf(placement, insert);
         Insert other = PlacedInsert(tilted, insert, placement);
-        if (LookAlike(MatrixOf(tilted, other), placement)) {
+        if (IsSamePlacement(MatrixOf(tilted, other), placement)) {
             normal = tilted;
             placed = std::move(other);
         }
@@ -118,7 +118,7 @@ void LookWriter::PutPlacement(Insert& insert, const Matrix& placement) {
 }
 
 // The steps of an array follow its rotated axes; the moved vectors refer to the previous axes.
-void LookWriter::MoveArray(Insert& insert, const Matrix& moved) {
+void AppearanceWriter::MoveArray(Insert& insert, const Matrix& moved) {
     const Matrix axes = AxesOf(entity_, insert);
     const auto step = [&](int code, double& spacing, const Vec3& axis) {
         const Vec3 now = moved.Turn(axis * spacing), along = axes.Turn(axis);

@@ -21,12 +21,12 @@ std::string RealText(double value) {
     return text;
 }
 
-std::vector<RecordPatch::Value> ExtendedValues(const OwnData& own, const TextDecoder& decoder) {
+std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& own, const TextDecoder& decoder) {
     std::vector<RecordPatch::Value> values;
-    for (const OwnValue& value : own) {
+    for (const ExtendedValue& value : own) {
         values.push_back({kExtendedText, decoder.Encode(value.name), true});
         values.push_back({kExtendedBrace, "{", true});
-        for (std::string& piece : decoder.EncodePieces(WriteOwnText(value.text)))
+        for (std::string& piece : decoder.EncodePieces(WriteExtendedText(value.text)))
             values.push_back({kExtendedText, std::move(piece), true});
         for (const double number : value.numbers)
             values.push_back({kExtendedReal, RealText(number), true});
@@ -108,7 +108,7 @@ void RecordPatch::RemoveCommon(int code) {
 }
 
 void RecordPatch::Set(int code, const std::string& value, std::initializer_list<int> behind) {
-    SetAll(code, value, false, PlaceBehind(behind));
+    SetAll(code, value, false, PlaceAfter(behind));
 }
 
 void RecordPatch::Remove(int code) {
@@ -126,7 +126,7 @@ size_t RecordPatch::CommonPlace(int code) const {
     return place;
 }
 
-size_t RecordPatch::PlaceBehind(std::initializer_list<int> codes) const {
+size_t RecordPatch::PlaceAfter(std::initializer_list<int> codes) const {
     size_t place = 0, end = groups_[0].end;
     for (const Group& group : groups_) {
         if (!group.attached) end = group.end;

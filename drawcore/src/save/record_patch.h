@@ -43,7 +43,7 @@ public:
     void Remove(const Group& group) { patch_.Replace(group.begin, group.end - group.begin, {}); }
     void Insert(size_t at, int code, const std::string& value) { patch_.Insert(at, Lines(code, value)); }
     // Returns the offset after the last of these groups, else the end of the record's own groups.
-    size_t PlaceBehind(std::initializer_list<int> codes) const;
+    size_t PlaceAfter(std::initializer_list<int> codes) const;
 
     // Replaces the extended data of that application; empty values remove it.
     struct Value {
@@ -72,7 +72,7 @@ private:
 };
 
 // Returns the values of extended data of kApplication as stored.
-std::vector<RecordPatch::Value> ExtendedValues(const OwnData& own, const TextDecoder& decoder);
+std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& own, const TextDecoder& decoder);
 
 // Returns the shortest text that is parsed back as the same number.
 std::string RealText(double value);

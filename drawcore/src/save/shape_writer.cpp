@@ -4,7 +4,7 @@
 
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/placement.h"
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 namespace dxf {
 
@@ -17,7 +17,7 @@ Vec3 Moved(const Vec3& point, const Vec3& to, const Matrix& system, const Matrix
 
 } // namespace
 
-void LookWriter::MoveVertices(const std::vector<Vec3>& to) {
+void AppearanceWriter::MoveVertices(const std::vector<Vec3>& to) {
     if (auto* line = std::get_if<Line>(&entity_.shape); line && to.size() == 2) {
         PutPoint(10, line->start, to[0]);
         PutPoint(11, line->end, to[1]);
@@ -32,7 +32,7 @@ void LookWriter::MoveVertices(const std::vector<Vec3>& to) {
     }
 }
 
-void LookWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
+void AppearanceWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
     const Matrix system = face.filled ? ObjectSystem(entity_.normal) : Matrix();
     Matrix back;
     if (!system.Invert(back)) return;
@@ -41,7 +41,7 @@ void LookWriter::MoveCorners(const Face& face, const std::vector<Vec3>& to) {
         PutPoint((face.filled ? kCrosswise : kAround)[i], face.corners[i], Moved(face.corners[i], to[i], system, back));
 }
 
-void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
+void AppearanceWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
     const bool flat = polyline.kind == Polyline::Kind::flat;
     const Matrix system = flat ? ObjectSystem(entity_.normal) : Matrix();
     Matrix back;
@@ -71,7 +71,7 @@ void LookWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>& to) {
 }
 
 // Writes the groups 10, 20 and possibly 30, which occur once per point.
-void LookWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace) {
+void AppearanceWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace) {
     if (was.size() != now.size()) return;
     size_t begun = 0;
     for (const Group& group : record_.Groups()) {
@@ -87,7 +87,7 @@ void LookWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>
     }
 }
 
-void LookWriter::MoveVertexRecords(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool flat) {
+void AppearanceWriter::MoveVertexRecords(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool flat) {
     TagReader& tags = drawing_.in_.tags;
     size_t at = record_.End();
     for (size_t i = 0; i < now.size() && tags.Seek(at).Is(0, "VERTEX"); ++i) {

@@ -61,7 +61,7 @@ void StructurePatch::ResetCurrentLayer(const Layer& removed) {
         patch_.Replace(static_cast<size_t>(name.data() - patch_.Text().data()), name.size(), "0");
 }
 
-void StructurePatch::SetOwn(const Block& block, const OwnData& own) {
+void StructurePatch::SetExtendedData(const Block& block, const ExtendedData& own) {
     if (!own.empty()) tables_.AddApplication(kApplication);
     RecordPatch record(patch_, in_.tags, block.begin);
     record.SetExtended(kApplication, ExtendedValues(own, in_.decoder));

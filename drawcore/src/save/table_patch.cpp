@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include "drawcore/include/drawcore/dxf_document.h"
-#include "drawcore/src/dxf/look.h"
+#include "drawcore/src/dxf/appearance.h"
 
 namespace dxf {
 

@@ -4,7 +4,7 @@
 
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/placement.h"
-#include "drawcore/src/save/look_writer.h"
+#include "drawcore/src/save/appearance_writer.h"
 
 namespace dxf {
 
@@ -50,25 +50,25 @@ bool IsNameForCode(const std::string& family) {
 
 } // namespace
 
-void LookWriter::WriteText(const Look& wanted) {
+void AppearanceWriter::WriteText(const Appearance& wanted) {
     if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted);
     if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
 }
 
-void LookWriter::WriteEffects(const TextLook& wanted) {
-    RemoveOwn(kPropTextStyle);
-    const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
-    if (const int missing = wanted.style & ~held.style) OwnNumbers(kPropTextStyle, {static_cast<double>(missing)});
-    RemoveOwn(kPropTextFont);
-    if (held.font != wanted.font) OwnText(kPropTextFont, wanted.font);
-    RemoveOwn(kPropTextFormat);
-    if (held.format != wanted.format) OwnNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
+void AppearanceWriter::WriteEffects(const TextAppearance& wanted) {
+    RemoveExtended(kPropTextStyle);
+    const TextAppearance held = AppearanceByGroups(drawing_.Known(), entity_).text;
+    if (const int missing = wanted.style & ~held.style) ExtendedNumbers(kPropTextStyle, {static_cast<double>(missing)});
+    RemoveExtended(kPropTextFont);
+    if (held.font != wanted.font) ExtendedText(kPropTextFont, wanted.font);
+    RemoveExtended(kPropTextFormat);
+    if (held.format != wanted.format) ExtendedNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
 }
 
-void LookWriter::WriteLine(Text& text, const Look& look) {
-    const TextLook& wanted = look.text;
-    const bool whole = Now().varied & ~look.varied & kVariedStyle;
-    const TextLook held = LookByGroups(drawing_.Known(), entity_).text;
+void AppearanceWriter::WriteLine(Text& text, const Appearance& appearance) {
+    const TextAppearance& wanted = appearance.text;
+    const bool whole = Now().varied & ~appearance.varied & kVariedStyle;
+    const TextAppearance held = AppearanceByGroups(drawing_.Known(), entity_).text;
     if (held.height != wanted.height) text.height = wanted.height;
     if (held.font != wanted.font || (held.style ^ wanted.style) & kCut)
         PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
@@ -81,19 +81,19 @@ void LookWriter::WriteLine(Text& text, const Look& look) {
     WriteEffects(wanted);
 }
 
-void LookWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole) {
+void AppearanceWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole) {
     if (was == wanted && !whole) return;
     text = WithoutSwitch(text, letter);
     if (wanted) text.insert(0, std::string("%%") + letter);
 }
 
-void LookWriter::PutFace(Text& text, const FontFace& face) {
+void AppearanceWriter::PutFace(Text& text, const FontFace& face) {
     const std::string style = drawing_.TextStyleFor(face);
     if (!style.empty()) text.style = TextStyleIndex(drawing_.in_.textStyles.FindUtf8(style));
 }
 
 // The insertion point does not move.
-void LookWriter::PutFormat(Text& text, uint16_t format) {
+void AppearanceWriter::PutFormat(Text& text, uint16_t format) {
     const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center, Text::Horizontal::right};
     if (text.horizontal == Text::Horizontal::middle) text.vertical = Text::Vertical::middle;
@@ -101,43 +101,43 @@ void LookWriter::PutFormat(Text& text, uint16_t format) {
     (HangsOnInsertion(text) ? text.insertion : text.alignment) = place;
 }
 
-void LookWriter::WriteParagraphs(MText& text, const Look& wanted) {
-    const TextLook& look = wanted.text;
-    const auto held = [&] { return LookByGroups(drawing_.Known(), entity_); };
+void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
+    const TextAppearance& appearance = wanted.text;
+    const auto held = [&] { return AppearanceByGroups(drawing_.Known(), entity_); };
     const uint8_t whole = Now().varied & ~wanted.varied; // values requested for all of the text, not only for most of
                                                          // it
     if (whole & kVariedSize) text.text = WithoutCodes(text.text, "H");
-    if (held().text.height != look.height) text.height = look.height;
-    if (held().text.height != look.height) text.text = WithoutCodes(text.text, "H");
+    if (held().text.height != appearance.height) text.height = appearance.height;
+    if (held().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
     const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
-    const bool otherFace = held().text.font != look.font || (held().text.style ^ look.style) & kCut ||
+    const bool otherFace = held().text.font != appearance.font || (held().text.style ^ appearance.style) & kCut ||
                            (isInCodes && whole & (kVariedFont | kVariedStyle));
-    if (otherFace && IsNameForCode(look.font)) {
-        const std::string cut =
-            std::string(look.style & kTextBold ? "|b1" : "|b0") + (look.style & kTextItalic ? "|i1" : "|i0");
-        text.text = "\\f" + look.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
+    if (otherFace && IsNameForCode(appearance.font)) {
+        const std::string cut = std::string(appearance.style & kTextBold ? "|b1" : "|b0") +
+                                (appearance.style & kTextItalic ? "|i1" : "|i0");
+        text.text = "\\f" + appearance.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
     }
     const auto put = [&](uint16_t bit, const char* codes) {
-        if (!((held().text.style ^ look.style) & bit || whole & kVariedStyle)) return;
+        if (!((held().text.style ^ appearance.style) & bit || whole & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
-        if (look.style & bit) text.text = std::string("\\") + codes[0] + text.text;
+        if (appearance.style & bit) text.text = std::string("\\") + codes[0] + text.text;
     };
     put(kTextUnderline, "Ll");
     put(kTextStrikethrough, "Kk");
     if (held().color != wanted.color || whole & kVariedColor) text.text = WithoutCodes(text.text, "Cc");
-    if (held().text.format != look.format || whole & kVariedFormat) {
+    if (held().text.format != appearance.format || whole & kVariedFormat) {
         const int row = (text.attachment - 1) / 3;
         const FormattedText shown = ReadInlineCodes(text.text, text.height);
         if (shown.Prevailing().alignment == 0)
-            text.attachment = row * 3 + look.format + 1;
+            text.attachment = row * 3 + appearance.format + 1;
         else
-            text.text = std::string("\\pxq") + "lcr"[look.format] + ";" + WithoutCodes(text.text, "p");
+            text.text = std::string("\\pxq") + "lcr"[appearance.format] + ";" + WithoutCodes(text.text, "p");
     }
-    WriteEffects(look);
+    WriteEffects(appearance);
 }
 
 // Rotates, mirrors and slants the text, also into another plane.
-void LookWriter::Move(const Matrix& motion) {
+void AppearanceWriter::Move(const Matrix& motion) {
     auto* held = std::get_if<Apart<Text>>(&entity_.shape);
     if (!held) return;
     Text& text = **held;
@@ -171,11 +171,11 @@ void LookWriter::Move(const Matrix& motion) {
     text.oblique = TurnedTo(text.oblique, Degrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
 }
 
-void LookWriter::PutReal(int code, double was, double now, std::initializer_list<int> behind) {
+void AppearanceWriter::PutReal(int code, double was, double now, std::initializer_list<int> behind) {
     if (was != now) record_.Set(code, RealText(now), behind);
 }
 
-void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
+void AppearanceWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
     const bool missing = !record_.Find(code);
     if (was == now) return;
     // A point is written completely: a missing coordinate is added after the preceding one.
@@ -185,13 +185,13 @@ void LookWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
 }
 
 // Damaged text cannot be written back.
-void LookWriter::CheckText(std::string_view stored) const {
+void AppearanceWriter::CheckText(std::string_view stored) const {
     const TextDecoder& decoder = drawing_.in_.decoder;
     if (decoder.Encode(decoder.Decode(stored)) != stored)
         throw SaveError("a text of the drawing is not in its code page, so that it cannot be changed");
 }
 
-void LookWriter::PutText(const Text& now) {
+void AppearanceWriter::PutText(const Text& now) {
     const Text& was = *std::get<Apart<Text>>(stored_.shape);
     if (was.text != now.text) {
         const Group* group = record_.Find(1);
@@ -221,7 +221,7 @@ void LookWriter::PutText(const Text& now) {
     if (was.hidden != now.hidden) setBits(70, now.hidden ? kHidden : 0, kHidden);
 }
 
-void LookWriter::PutText(const MText& now) {
+void AppearanceWriter::PutText(const MText& now) {
     const MText& was = *std::get<Apart<MText>>(stored_.shape);
     PutReal(40, was.height, now.height, {30, 20, 10});
     if (was.attachment != now.attachment) record_.Set(71, std::to_string(now.attachment), {41, 40});
@@ -229,9 +229,9 @@ void LookWriter::PutText(const MText& now) {
 }
 
 // In pieces: code 3, and code 1 for the last one.
-void LookWriter::PutParagraphs(const std::string& text) {
+void AppearanceWriter::PutParagraphs(const std::string& text) {
     std::string stored;
-    size_t place = record_.PlaceBehind({72, 71, 41, 40});
+    size_t place = record_.PlaceAfter({72, 71, 41, 40});
     bool first = true;
     for (const Group& group : record_.Groups()) {
         if (group.attached || (group.code != 1 && group.code != 3)) continue;

@@ -36,13 +36,13 @@ struct Sample<CString> {
 };
 
 template <class T>
-class EditRoad : public ::testing::Test {};
+class EditDataFlow : public ::testing::Test {};
 
 using EditTypes =
     ::testing::Types<unsigned char, unsigned short, int, unsigned int, long, unsigned long, float, double, CString>;
-TYPED_TEST_SUITE(EditRoad, EditTypes);
+TYPED_TEST_SUITE(EditDataFlow, EditTypes);
 
-TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
+TYPED_TEST(EditDataFlow, EqualValuesAreShownAndAllReplaced) {
     GraphicKit kit;
     kit.Add({{kName, Sample<TypeParam>::A()}});
     kit.Add({{"Other", 1}});
@@ -66,7 +66,7 @@ TYPED_TEST(EditRoad, EqualValuesAreShownAndAllReplaced) {
     EXPECT_TRUE(kit[1].writes.empty());
 }
 
-TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
+TYPED_TEST(EditDataFlow, IndeterminateValuesSurviveAnUntouchedPage) {
     GraphicKit kit;
     kit.Add({{kName, Sample<TypeParam>::A()}});
     kit.Add({{kName, Sample<TypeParam>::B()}});
@@ -84,11 +84,11 @@ TYPED_TEST(EditRoad, IndeterminateValuesSurviveAnUntouchedPage) {
 }
 
 template <class T>
-class CheckRoad : public ::testing::Test {};
+class CheckDataFlow : public ::testing::Test {};
 using CheckTypes = ::testing::Types<int, unsigned short>;
-TYPED_TEST_SUITE(CheckRoad, CheckTypes);
+TYPED_TEST_SUITE(CheckDataFlow, CheckTypes);
 
-TYPED_TEST(CheckRoad, AClickWritesAllAndUntouchedNothing) {
+TYPED_TEST(CheckDataFlow, AClickWritesAllAndUntouchedNothing) {
     const struct {
         int values[2];
         bool clicked;
@@ -119,10 +119,10 @@ TYPED_TEST(CheckRoad, AClickWritesAllAndUntouchedNothing) {
 }
 
 template <class T>
-class RadioRoad : public ::testing::Test {};
-TYPED_TEST_SUITE(RadioRoad, CheckTypes);
+class RadioDataFlow : public ::testing::Test {};
+TYPED_TEST_SUITE(RadioDataFlow, CheckTypes);
 
-TYPED_TEST(RadioRoad, TheThirdButtonWritesItsIndexUnderTheFirstButtonsMark) {
+TYPED_TEST(RadioDataFlow, TheThirdButtonWritesItsIndexIfTheFirstIsDirty) {
     GraphicKit kit;
     kit.Add({{kName, 0}});
     kit.Add({{kName, 1}});
