@@ -76,7 +76,7 @@ void AddStyles(const ControlItems& items) {
         items.Add(LibraryText(id));
 }
 
-// What a combo lists: an object of the library knows, whatever identifier its dialog gives it.
+// Returns the kind of list for a combo box: that of the library's control object, whatever its dialog identifier.
 int ListedIn(HWND combo) {
     static_assert(kControlFontFaces == IDC_FONT_FACE && kControlFontSizes == IDC_FONT_SIZE);
     const CComboControl* object = ComboControlOf(combo);

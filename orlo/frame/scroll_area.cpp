@@ -1,4 +1,4 @@
-// ScrollArea.
+// Scroll bars, wheel and focus of a ScrollArea.
 
 #include "orlo/frame/scroll_area.h"
 
@@ -8,10 +8,10 @@
 
 namespace {
 
-constexpr int kLine = 20, kMargin = 8; // pixels at 96 dpi
+constexpr int kLine = 20, kMargin = 8; // in pixels at 96 dpi
 constexpr int kLinesOfWheel = 3;
 
-// The way to go so that [low, high] is within [0, end], and its beginning in any case.
+// Returns the distance that brings [low, high] into [0, end], or at least its beginning.
 int WayTo(LONG low, LONG high, LONG end) {
     const LONG margin = ScreenPixels(kMargin);
     if (low < 0) return static_cast<int>(low - margin);
@@ -40,7 +40,7 @@ int WayOf(const SCROLLINFO& info, int code) {
     }
 }
 
-// The client area without scroll bars.
+// Returns the client area without scroll bars.
 CSize RoomIn(HWND window) {
     RECT client;
     ::GetClientRect(window, &client);
@@ -65,7 +65,7 @@ void ScrollArea::SetContents(HWND window, CSize contents) {
     ArrangeBars(window);
 }
 
-// A bar takes room from the other direction, and so can make the other bar necessary.
+// A scroll bar for one direction reduces the space for the other, which may then need one too.
 void ScrollArea::ArrangeBars(HWND window) {
     const CSize room = RoomIn(window);
     const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL), barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
@@ -77,7 +77,7 @@ void ScrollArea::ArrangeBars(HWND window) {
     ScrollBy(window, CSize());
 }
 
-// Scrolls as far as the bars allow.
+// Limited by the scroll range.
 void ScrollArea::ScrollBy(HWND window, CSize pixels) {
     const auto move = [window](int bar, int way) {
         ::SetScrollPos(window, bar, ::GetScrollPos(window, bar) + way, TRUE);
@@ -86,7 +86,7 @@ void ScrollArea::ScrollBy(HWND window, CSize pixels) {
     const CPoint place(move(SB_HORZ, pixels.cx), move(SB_VERT, pixels.cy));
     if (place == m_place) return;
     const CPoint before = m_place;
-    m_place = place; // first: the call can send messages
+    m_place = place; // set first, because the call can send messages
     ::ScrollWindowEx(window, place.x - before.x, place.y - before.y, nullptr, nullptr, nullptr, nullptr,
                      SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
 }
@@ -107,7 +107,7 @@ bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         return false;
     case WM_HSCROLL:
     case WM_VSCROLL:
-        if (lParam != 0) return false; // of a control
+        if (lParam != 0) return false; // from a scroll bar control
         Scroll(window, message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
         return true;
     case WM_MOUSEWHEEL:

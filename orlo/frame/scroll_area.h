@@ -1,18 +1,18 @@
-// Scrolls the children of a window that can be smaller than its contents, by the window's own scroll bars, the wheel of
-// the mouse, and the focus. Used by pages and panes.
+// Scrolls the children of a window that is smaller than its contents, with the window's scroll bars, the mouse wheel,
+// and the focus. Used by pages and panes.
 #pragma once
 
 #include <afxwin.h>
 
 class ScrollArea {
 public:
-    // Sets the size of the contents in pixels; empty: nothing to scroll.
+    // Sets the size of the contents in pixels; empty for no scrolling.
     void SetContents(HWND window, CSize contents);
-    // Returns where the upper left corner of the contents is in the window.
+    // Returns the position of the contents' upper left corner in the window.
     CPoint Place() const { return m_place; }
-    // Handles the messages of the window that scroll or resize it. Returns whether this was one that must not go on.
+    // Handles messages that scroll or resize the window. Returns whether the message must not be processed further.
     bool Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    // Scrolls as far as needed to show a control in the window, a child or a descendant.
+    // Scrolls to make a control visible that is a child or descendant of the window.
     void Reveal(HWND window, HWND control);
 
 private:
@@ -21,5 +21,5 @@ private:
     void ScrollBy(HWND window, CSize pixels);
 
     CSize m_contents;
-    CPoint m_place; // of the contents' upper left corner; never positive
+    CPoint m_place; // position of the contents' upper left corner; never positive
 };

@@ -1,4 +1,4 @@
-// Dialog templates in memory, and their font.
+// Writes dialog templates, and measures texts in their font.
 
 #include "orlo/pages/dialog_writer.h"
 
@@ -79,7 +79,7 @@ DialogFont::DialogFont()
     : m_screen(nullptr), m_font(CreateDialogFont(m_screen.get())), m_selected(m_screen.get(), m_font.get()) {
     SIZE letters = {};
     ::GetTextExtentPoint32A(m_screen.get(), kLetters, static_cast<int>(std::strlen(kLetters)), &letters);
-    m_unitsWidth = std::max<int>((letters.cx / 26 + 1) / 2, 1); // as the system finds the units of a dialog
+    m_unitsWidth = std::max<int>((letters.cx / 26 + 1) / 2, 1); // same formula as the system's for dialog units
 }
 
 int DialogFont::Width(const std::string& text) const {

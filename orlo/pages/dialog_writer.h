@@ -7,7 +7,7 @@
 
 #include "orlo/win/gdi.h"
 
-// One control; place and size in dialog units.
+// A control; position and size in dialog units.
 struct DialogItem {
     const char* className = "";
     DWORD style = 0; // WS_CHILD and WS_VISIBLE are added
@@ -22,14 +22,14 @@ std::vector<BYTE> WriteDialogTemplate(const std::string& title, SIZE size, const
 // Lays the dialog out from right to left, or from left to right.
 void SetTemplateDirection(std::vector<BYTE>& dialog, bool fromRightToLeft);
 
-// Measures texts in that font.
+// Measures texts in the font of the templates.
 class DialogFont {
 public:
     DialogFont();
 
-    // Returns the width of a text in dialog units, rounded up; the ampersand of a mnemonic has none.
+    // Returns the width of a text in dialog units, rounded up, without the ampersand of a mnemonic.
     int Width(const std::string& text) const;
-    // Returns how many lines the text has at that width in dialog units, broken between words.
+    // Returns the number of lines of the text at that width in dialog units, wrapped between words.
     int Lines(const std::string& text, int width) const;
 
 private:

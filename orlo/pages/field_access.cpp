@@ -1,4 +1,4 @@
-// FieldAccess, and conversions between the values of rows and those of property tables.
+// Accesses the values of rows, and converts them to and from property values.
 
 #include "orlo/pages/field_access.h"
 
@@ -31,7 +31,7 @@ void StoreText(void* variable, const std::string& text) {
     if (*string != nullptr) std::memcpy(*string, text.c_str(), text.size() + 1);
 }
 
-// As PropGet stores a value.
+// Stores a value like PropGet.
 void StoreValue(int vt, void* place, const FieldValue& value) {
     switch (vt) {
     case VT_BSTR:
@@ -47,7 +47,7 @@ void StoreValue(int vt, void* place, const FieldValue& value) {
     }
 }
 
-// As PropSet gets a value.
+// Reads a value as passed to PropSet.
 FieldValue ReadValue(int vt, const void* place) {
     switch (vt) {
     case VT_BSTR:

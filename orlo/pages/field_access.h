@@ -1,4 +1,4 @@
-// The properties of a page's rows: those with callbacks of the host, and the property tables for the others.
+// Accesses the properties of a page's rows: by callbacks of the host, or by the property tables.
 #pragma once
 
 #include <map>
@@ -11,7 +11,7 @@ class FieldAccess : public PropertyAccess {
 public:
     explicit FieldAccess(const FieldTable& table) : m_table(table) {}
 
-    // A row with callbacks, and the name by which the page knows its property. The row must outlive the object.
+    // Adds a row with callbacks, under the name of its property on the page. The row must outlive the object.
     void Add(const std::string& property, const FieldRow& row) { m_rows[property] = &row; }
 
     // Returns whether the property tables alone do not have all values, or have too many.
@@ -24,7 +24,7 @@ public:
 private:
     const FieldTable& m_table;
     std::map<std::string, const FieldRow*, std::less<>> m_rows;
-    // Of the last Find: the row, null for a property of the table, and its value.
+    // Result of the last Find: the row, null for a property of the table, and its value.
     const FieldRow* m_found = nullptr;
     FieldValue m_value;
 };

@@ -1,4 +1,4 @@
-// The kinds of rows, one line of a table for each.
+// The table of row kinds.
 
 #include "orlo/pages/field_kinds.h"
 
@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kTextSize = 0x100;
 
-// ---- Texts of numbers
+// ---- Numbers as text
 
 std::string NumberText(double value) {
     constexpr int kDigits = 10;
@@ -46,7 +46,7 @@ std::string NumberText(double value) {
     return text;
 }
 
-// Returns whether the whole text is a number, to the last digit of a double.
+// Parses the whole text as a number with the precision of a double. Returns false if it is not one.
 bool ReadNumber(const char* text, double& value) {
     char* end = nullptr;
     const double number = ::StringToDouble(0, text, &end);
@@ -85,7 +85,7 @@ bool ReadDate(const char* text, double& days) {
         ::VarDateFromStr(const_cast<OLECHAR*>(wide.c_str()), LOCALE_USER_DEFAULT, VAR_DATEVALUEONLY, &days));
 }
 
-// ---- Between control and value. The convention of ddx.h; a field that shows several values saves the marker.
+// ---- Between control and value. The convention is that of ddx.h; a field that shows multiple values saves the marker.
 
 int TransferText(int bReport, CDataExchange* pDX, Field& field, CString& value) {
     CString shown = IsIndeterminate(value) ? CString(kIndeterminateInfo) : value;
@@ -94,7 +94,7 @@ int TransferText(int bReport, CDataExchange* pDX, Field& field, CString& value) 
     return 1;
 }
 
-// The stars that represent several values in fields of numbers. Returns whether they are what is shown or read.
+// Handles the asterisks for multiple values in number fields. Returns whether they are shown or were read.
 template <class Number>
 bool TransferStars(CDataExchange* pDX, int id, Number& value) {
     const HWND control = pDX->PrepareEditCtrl(id);
@@ -154,7 +154,8 @@ int TransferFontHeight(int bReport, CDataExchange* pDX, Field& field, double& va
     return FailWithPrompt(bReport, pDX, IDS_ENTER_FONT_SIZE);
 }
 
-// Only a box over several values has the third state: a click can return to it, and means that each keeps its own.
+// Only a check box for multiple values has the third state: if the user clicks it into that state again, each graphic
+// keeps its value.
 int TransferCheck(int bReport, CDataExchange* pDX, Field& field, int& value) {
     if (!pDX->m_bSaveAndValidate) {
         const LPARAM type = value == kIndeterminateCheck ? BS_AUTO3STATE : BS_AUTOCHECKBOX;
@@ -184,7 +185,9 @@ int TransferColor(int bReport, CDataExchange* pDX, Field& field, unsigned long& 
 }
 
 int TransferEntry(int bReport, CDataExchange* pDX, Field& field, unsigned int& value) {
-    if (!pDX->m_bSaveAndValidate) ShowBlank(pDX->PrepareCtrl(field.id)); // an entry that the list lacks selects nothing
+    if (!pDX->m_bSaveAndValidate)
+        ShowBlank(pDX->PrepareCtrl(field.id)); // an entry that is not in the list selects
+                                               // nothing
     return DDX_CBTableIndex(bReport, pDX, field.id, value);
 }
 
@@ -255,7 +258,7 @@ void EnableField(HWND page, const Field& field, bool enable) {
         ::EnableWindow(::GetDlgItem(page, field.id + i), enable);
 }
 
-// A field of which no graphic has the property.
+// Clears a field whose property no graphic has.
 void ClearField(HWND page, const Field& field) {
     const HWND control = ::GetDlgItem(page, field.id);
     if (::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)
@@ -265,7 +268,7 @@ void ClearField(HWND page, const Field& field) {
         ShowBlank(control);
 }
 
-// How a value of that type gets to the property and back. Boxes have their own functions and marker.
+// Exchanges a value of that type with the property. Check boxes have their own functions and marker.
 template <class T>
 struct AsText {
     static T Marker() { return Indeterminate<T>::Value(); }
@@ -292,7 +295,7 @@ struct Value {
         value = Way::Marker();
         const bool found = Way::Get(page, field.property.c_str(), value);
         LoadedControls::Of(page).Load(pDX, static_cast<unsigned int>(field.id), field.property, value);
-        // A value that the host cannot write leaves its field blank.
+        // If the host cannot format the value, the field is blank.
         if (!found || !Transfer(0, pDX, field, value)) ClearField(page.m_hWnd, field);
         const bool isEdit = ::lstrcmpiA(field.kind->className, "EDIT") == 0; // read-only by its style
         EnableField(page.m_hWnd, field, found && (isEdit || !field.row->readOnly));

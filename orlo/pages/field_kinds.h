@@ -1,4 +1,4 @@
-// The kinds of rows: the control of each, its exchange with a property, and its way to the preview.
+// The kinds of rows: the control of each, its exchange with a property, and its transfer to the preview.
 #pragma once
 
 #include <afxwin.h>
@@ -14,43 +14,43 @@
 
 struct KindTraits;
 
-// A row of a page with its control and the value that it edits.
+// A row of a page with its control and value.
 struct Field {
     const FieldRow* row = nullptr;
     const KindTraits* kind = nullptr;
-    std::string property; // the row's, or a name of its own for a row with callbacks
+    std::string property; // that of the row, or a generated name for a row with callbacks
     int id = 0;           // of the control
 
-    // The value; which of them counts depends on the kind. Pending writes of a page know them by their addresses.
+    // The value, in one of these members depending on the kind. Pending writes refer to them by address.
     CString text;
     double real = 0.0;
     int whole = 0;
     unsigned int entry = 0;
     unsigned long color = 0;
 
-    std::unique_ptr<CWnd> control; // where the kind has an object of the library
+    std::unique_ptr<CWnd> control; // for kinds with a control class of the library
     CRadioGroup radios;
 };
 
 using FieldExchange = void (*)(CGraphicPropertyPage& page, CDataExchange* pDX, Field& field);
 
 struct KindTraits {
-    VARTYPE vt; // of the property; VT_EMPTY: the row has no value
+    VARTYPE vt; // of the property; VT_EMPTY if the row has no value
     const char* className;
     DWORD style;
-    short height;                           // closed, in dialog units
-    short listHeight;                       // of the list that drops down
-    bool hasLabel;                          // before the control; else the label is in it
-    std::unique_ptr<CWnd> (*makeControl)(); // null: the system's control is all
-    // Loads the field from the selection, or saves it: leaves a write pending if the field was edited.
+    short height;                           // when closed, in dialog units
+    short listHeight;                       // of the drop-down list
+    bool hasLabel;                          // label before the control; otherwise it is part of the control
+    std::unique_ptr<CWnd> (*makeControl)(); // null for a control of the system
+    // Loads the field from the selection, or saves it: adds a pending write if the field was edited.
     FieldExchange exchange;
-    // Writes the value of the control to the preview graphics; nothing if it is not valid.
+    // Writes the control's value to the preview graphics if it is valid.
     FieldExchange preview;
-    std::string (*format)(double limit); // null: the kind has no limits
-    double least, most;                  // limits of a row without its own; equal: none
+    std::string (*format)(double limit); // null if the kind has no limits
+    double least, most;                  // default limits of a row; equal for none
 };
 
-// Returns the traits of the row's kind, which must be a known one.
+// Returns the traits of the row's kind, which must be valid.
 const KindTraits& TraitsOf(const FieldRow& row);
 
 constexpr size_t kMostRadioButtons = 3;

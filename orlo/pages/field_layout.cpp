@@ -1,4 +1,4 @@
-// The layout of a page's rows in dialog units.
+// Lays out a page's rows in dialog units.
 
 #include "orlo/pages/field_layout.h"
 
@@ -9,13 +9,13 @@
 
 namespace {
 
-// Dialog units.
+// In dialog units.
 constexpr int kMargin = 7;       // around the page
-constexpr int kOneColumn = 186;  // fills a page of the library
-constexpr int kTwoColumns = 156; // width of each
+constexpr int kOneColumn = 186;  // width of a page of the library
+constexpr int kTwoColumns = 156; // width of each column
 constexpr int kColumnGap = 7;
-constexpr int kTallest = 220; // of a page in one column
-constexpr int kInset = 7;     // of a group's rows
+constexpr int kTallest = 220; // maximum height of a page with one column
+constexpr int kInset = 7;     // of the rows in a group
 constexpr int kBoxTop = 11, kBoxBottom = 6;
 constexpr int kRowGap = 3;
 constexpr int kTextLine = 8;
@@ -25,11 +25,11 @@ constexpr int kRadioPitch = 12;
 constexpr int kBoxWidth = 14; // of a check box, with the gap to its text
 constexpr int kButtonWidth = 50, kButtonPadding = 12;
 constexpr int kDotsWidth = 14;
-constexpr int kSplitGroup = 24; // how much a column may be longer so that a group is in one piece
+constexpr int kSplitGroup = 24; // by which a column may be longer to keep a group together
 
 constexpr char kDots[] = "...";
 
-// The labels of a page, each mnemonic once. Letters that differ in case are one mnemonic.
+// The labels of a page, with unique mnemonics. Letters that differ in case are the same mnemonic.
 class Mnemonics {
 public:
     std::string Unique(const std::string& label) {
@@ -37,7 +37,7 @@ public:
         for (const char* at = label.c_str(); *at != '\0';) {
             const char* next = ::CharNextA(at);
             const bool isMnemonic = *at == '&' && *next != '\0' && *next != '&';
-            if (*at == '&' && *next == '&') next = ::CharNextA(next); // an ampersand that is shown
+            if (*at == '&' && *next == '&') next = ::CharNextA(next); // an escaped ampersand
             if (!isMnemonic || m_taken.insert(Folded(next)).second) unique.append(at, next);
             at = next;
         }
@@ -87,8 +87,8 @@ private:
         return {std::move(m_items), CSize(left - kColumnGap + kMargin, height + 2 * kMargin)};
     }
 
-    // Where the second column begins: at the row that makes the longer column shortest, between two groups if that
-    // costs little.
+    // Returns the row at which the second column begins: the one that makes the longer column shortest, or one between
+    // two groups if that costs little.
     size_t BestSplit() const {
         size_t best = 1;
         int least = std::numeric_limits<int>::max();
@@ -106,7 +106,7 @@ private:
 
     const FieldRow& Row(size_t row) const { return *m_fields[row]->row; }
     bool IsInGroup(size_t row) const { return !Row(row).group.empty(); }
-    // A "..." button at the end of the row before.
+    // Returns whether the row is a "..." button beside the previous row.
     bool IsBeside(size_t row) const {
         return row > 0 && row < m_fields.size() && Row(row).kind == FieldKind::Button && Row(row).label == kDots &&
                m_fields[row - 1]->kind->hasLabel && SameGroup(row - 1, row);
@@ -153,7 +153,7 @@ private:
     // Returns the height of the column.
     int PlaceColumn(const Range& range, int left, int width) {
         int y = kMargin;
-        size_t box = 0; // the item of the open group
+        size_t box = 0; // the item of the current group box
         for (size_t row = range.first; row < range.last; ++row) {
             const bool begins = row == range.first || !SameGroup(row - 1, row);
             if (IsInGroup(row) && begins) {

@@ -11,7 +11,7 @@
 
 struct FieldLayout {
     std::vector<DialogItem> items;
-    CSize size; // dialog units
+    CSize size; // in dialog units
 };
 
 FieldLayout LayOutFields(const std::vector<std::unique_ptr<Field>>& fields);

@@ -1,4 +1,4 @@
-// CFieldPage: the rules for its table, its window, and its exchange row by row.
+// CFieldPage: validation of its table, creation of its window, and the exchange row by row.
 
 #include "orlo/pages/field_page.h"
 
@@ -24,17 +24,18 @@ IMPLEMENT_DYNAMIC(CFieldPage, CGraphicPropertyPage)
 
 namespace {
 
-constexpr unsigned int kLastPage = 28999; // the library's own follow
-constexpr int kNewPageHeight = 160;       // dialog units, of the library's own pages: the window before it is placed
-constexpr int kLongestTip = 300;          // pixels at 96 dpi of one line
+constexpr unsigned int kLastPage = 28999; // higher numbers are used by the library
+constexpr int kNewPageHeight = 160;       // height of the library's pages in dialog units: the window before it is
+                                          // placed
+constexpr int kLongestTip = 300;          // maximum width of one line, in pixels at 96 dpi
 
-// ---- The rules of a table
+// ---- Validation of a table
 
 bool HasValue(const FieldRow& row) {
     return row.kind != FieldKind::Button && row.kind != FieldKind::Note;
 }
 
-// A rule that a row breaks, and how the message says so.
+// A rule for rows, and the message if a row breaks it.
 struct RowRule {
     bool (*isBroken)(const FieldRow& row);
     const char* message;
@@ -130,7 +131,7 @@ public:
 
 void FieldPageParts::MakeControls(CWnd& page) {
     for (const auto& field : fields) {
-        for (const std::string& choice : field->row->choices) // radio buttons take no notice
+        for (const std::string& choice : field->row->choices) // radio buttons are not reported
             ::SendDlgItemMessageA(page.m_hWnd, field->id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
         if (field->kind->makeControl == nullptr) continue;
         field->control = field->kind->makeControl();
@@ -138,7 +139,7 @@ void FieldPageParts::MakeControls(CWnd& page) {
     }
 }
 
-// One window shows the tips of all fields; the page destroys it.
+// A single window shows the tooltips of all fields; it is destroyed with the page.
 void FieldPageParts::MakeTips(HWND page) {
     const HWND tips = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
                                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
@@ -147,7 +148,7 @@ void FieldPageParts::MakeTips(HWND page) {
     for (const auto& field : fields) {
         if (field->row->help.empty()) continue;
         const HWND control = ::GetDlgItem(page, field->id);
-        for (const HWND part : {control, ::GetWindow(control, GW_CHILD)}) { // a combo with its edit field
+        for (const HWND part : {control, ::GetWindow(control, GW_CHILD)}) { // a combo box and its edit field
             if (part == nullptr) continue;
             TOOLINFOA tool = {};
             tool.cbSize = TTTOOLINFOA_V1_SIZE;
@@ -172,7 +173,7 @@ CFieldPage::CFieldPage(unsigned int nPage, FieldTable table) : CGraphicPropertyP
 
 CFieldPage::~CFieldPage() = default;
 
-// The window is created when the page is first active; by then its sheet has an owner.
+// The window is created when the page is first activated; by then its sheet has an owner.
 BOOL CFieldPage::OnSetActive() {
     const CPropertySheet* sheet = GetParentSheet();
     if (m_hWnd == nullptr && sheet != nullptr) {
@@ -183,7 +184,7 @@ BOOL CFieldPage::OnSetActive() {
 }
 
 BOOL CFieldPage::OnInitDialog() {
-    m_bInitializing = 1; // controls that are filled report changes
+    m_bInitializing = 1; // filling controls causes notifications
     m_parts->MakeControls(*this);
     m_parts->MakeTips(m_hWnd);
     CRect contents(0, 0, m_parts->size.cx, m_parts->size.cy);

@@ -1,16 +1,15 @@
-// A page that is made from a table: a host describes the properties of its own, and the library lays out the dialog,
-// reads, merges, checks and writes the values as on its own pages.
+// A page made from a table: a host describes its own properties, and the library lays out the dialog and reads, merges,
+// validates and writes the values as on its own pages.
 //
 //   FieldTable table = ...;                                   // field_row.h
 //   AddFieldPage(sheet, 100, std::move(table));               // before DoModal or Create
 //
-// A property that no graphic of the selection has leaves its field disabled. Fields of which the values differ show
-// "*****", "Indeterminate" (angles, scales), "<Indeterminate>" (texts), or nothing selected. A page writes only the
-// fields that the user has edited, and nothing at all if one of them is not valid: the message box then says why, and
-// the field gets the focus.
+// A field is disabled if no selected graphic has its property. Fields whose values differ show "*****", "Indeterminate"
+// (angles, scales), "<Indeterminate>" (texts), or no selection. A page writes only the fields that the user has edited,
+// and nothing at all if one of them is invalid: a message box then gives the reason, and the field gets the focus.
 //
-// The page opens as large as its rows need, in two columns if one would be too tall, and scrolls if the sheet is not as
-// large. It is laid out from right to left if the owner of the sheet is.
+// The page opens in the size that its rows need, in two columns if one would be too tall, and scrolls if the sheet is
+// smaller. It is laid out from right to left if the owner of the sheet is.
 #pragma once
 
 #include <memory>
@@ -25,28 +24,28 @@ class ORLO_API CFieldPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CFieldPage)
 
 public:
-    // nPage identifies the page in its sheet, as the number of a dialog template does: 1 to 28999. Throws
-    // std::invalid_argument with a text that names the row if the table cannot be a page: no rows or more than
-    // kMostRows, an unknown kind, a label or a property that is missing or not allowed, two rows of one property,
-    // limits upside down, a choice without texts, `set` without `get`, a button without `press`.
+    // nPage identifies the page in its sheet like the number of a dialog template: 1 to 28999. Throws
+    // std::invalid_argument with a message that names the row if the table is invalid: no rows or more than kMostRows,
+    // an unknown kind, a label or a property that is missing or not allowed, two rows with the same property, reversed
+    // limits, a choice without texts, `set` without `get`, a button without `press`.
     CFieldPage(unsigned int nPage, FieldTable table);
     ~CFieldPage() override;
 
     static constexpr size_t kMostRows = 1000;
 
-    // Returns the identifier of the control of a row, by the row's index in the table: its field, or the first of its
+    // Returns the control identifier of the row with that index in the table: of its field, or of the first of its
     // radio buttons.
     static constexpr int FieldID(size_t row) { return kFirstFieldID + kIDsPerField * static_cast<int>(row); }
 
     // Returns whether the table accepts one of the selected graphics of the sheet.
     bool IsFor(CGraphicPropertySheet* sheet) const;
-    // Reads the fields that are not edited again. Does nothing before the page has a window.
+    // Reloads the fields that have not been edited. Does nothing before the page has a window.
     void Reload();
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     BOOL OnSetActive() override;
-    // Returns a copy of the first selected graphic that the page is for if a row is shown in the preview, else null.
+    // Returns a copy of the first accepted graphic in the selection if a row is shown in the preview, else null.
     void* CreatePreviewGraphic() override;
     void SetPreviewProperties(int bAll) override;
 
@@ -60,6 +59,6 @@ private:
     std::unique_ptr<FieldPageParts> m_parts;
 };
 
-// Adds a page for the table if it accepts one of the selected graphics of the sheet and the sheet has no page with that
+// Adds a page for the table if the table accepts one of the selected graphics and the sheet has no page with that
 // number. Returns the page, which the sheet owns, or null. Throws like the constructor.
 ORLO_API CFieldPage* AddFieldPage(CGraphicPropertySheet* sheet, unsigned int nPage, FieldTable table);

@@ -14,7 +14,7 @@
 
 #include "orlo/host/records.h"
 
-// What a row edits. The second column is the value type of the property, the third the member of FieldValue.
+// The kind of a row. The second column is the value type of the property, the third the member of FieldValue.
 enum class FieldKind : uint32_t {
     Text = 1, // VT_BSTR  text    one line
     Lines,    // VT_BSTR  text    several lines, separated by "\r\n"
@@ -50,11 +50,12 @@ struct FieldRow {
         : kind(itsKind), label(std::move(itsLabel)), property(std::move(itsProperty)), group(std::move(itsGroup)) {}
 
     FieldKind kind = FieldKind::Text;
-    // An ampersand precedes the mnemonic. One that an earlier row has already is removed.
+    // An ampersand precedes the mnemonic. It is removed if an earlier row has the same mnemonic.
     std::string label;
     // Name of the property. Must be empty for a button or a note; can be empty if `get` is set.
     std::string property;
-    std::string group;                // consecutive rows of one group share a box with this title; empty: no box
+    std::string group;                // consecutive rows with the same group share a box with this title; empty for no
+                                      // box
     std::string unit;                 // shown after the field
     std::string help;                 // tooltip, and passed to FieldTable::onStatus
     std::vector<std::string> choices; // of a Choice
@@ -78,9 +79,9 @@ struct FieldRow {
 };
 
 struct FieldTable {
-    std::string caption; // of the tab
+    std::string caption; // title of the tab
     std::vector<FieldRow> rows;
-    // Returns whether the page is for a graphic; the values of others are neither shown nor changed. Empty: for all.
+    // Returns whether the page applies to a graphic; others are neither shown nor changed. Empty for all graphics.
     std::function<bool(GraphicStruct* graphic)> accepts;
     // Called with the help text of the field that gets the focus; empty if it has none. Can be empty.
     std::function<void(const std::string& help)> onStatus;

@@ -39,8 +39,8 @@
 // Graphics that the host has not changed: %d of %d.
 #define IDS_NOT_CHANGED 124
 
-// What a screen reader says: of a field with several values, of a layer after its name, of the preview, and what a
-// click on the box of a check list does.
+// Texts for screen readers: a field with multiple values, states of a layer, the preview, and the action of a check
+// box.
 #define IDS_VARIED 125
 #define IDS_LAYER_HIDDEN 126
 #define IDS_LAYER_LOCKED 127

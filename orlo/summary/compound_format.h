@@ -1,4 +1,4 @@
-// Layout of a compound file: sizes, marks, and the offsets of fields in the header and in an entry of the directory.
+// Layout of a compound file: sizes, markers, and field offsets in the header and in directory entries.
 #pragma once
 
 #include <array>
@@ -10,15 +10,15 @@ namespace orlo::compound {
 constexpr size_t kHeaderBytes = 512; // followed by zeros up to the size of a sector
 constexpr size_t kEntryBytes = 128;
 constexpr size_t kShortSectorBytes = 64;
-constexpr uint32_t kShorterAreShort = 4096;     // bytes of a stream
-constexpr uint32_t kHighestSector = 0xFFFFFFFA; // the marks are above it
-constexpr uint32_t kListSector = 0xFFFFFFFC;    // mark of a sector that lists allocation tables
-constexpr uint32_t kTableSector = 0xFFFFFFFD;   // mark of a sector of the allocation table
-constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector, no entry
+constexpr uint32_t kShorterAreShort = 4096;     // size in bytes
+constexpr uint32_t kHighestSector = 0xFFFFFFFA; // greater values are markers
+constexpr uint32_t kListSector = 0xFFFFFFFC;    // marker of a sector that lists allocation tables
+constexpr uint32_t kTableSector = 0xFFFFFFFD;   // marker of a sector of the allocation table
+constexpr uint32_t kNone = 0xFFFFFFFF;          // no sector or no entry
 constexpr size_t kTablesInHeader = 109;
-constexpr size_t kLongestName = 31; // code units, without the NUL
+constexpr size_t kLongestName = 31; // in code units, without the NUL
 
-// The system locks bytes from here on while it has a file open: the sector around them belongs to no stream.
+// The system locks bytes from here on while it has a file open, so that their sector belongs to no stream.
 constexpr uint64_t kLockedBytes = 0x7FFFFF00;
 
 using HeaderBytes = std::array<uint8_t, kHeaderBytes>;

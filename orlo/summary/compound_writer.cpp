@@ -1,4 +1,4 @@
-// The place of everything is known before the first byte is written: streams, short streams with their table,
+// Computes the position of everything before writing the first byte: streams, short streams with their table,
 // directory, allocation table, and the list of its sectors.
 
 #include "orlo/summary/compound_writer.h"
@@ -29,7 +29,7 @@ void Put(uint8_t* at, Number number) {
 
 // ---- Directory
 
-// An entry of the new directory, with the origin of its bytes if it is a stream.
+// An entry of the new directory, with the source of its bytes if it is a stream.
 struct Element {
     EntryBytes record = {};
     size_t storage = 0;
@@ -85,8 +85,7 @@ private:
         }
     }
 
-    // The elements of the root come first, in the order of their names: the new one goes before the first that follows
-    // it.
+    // The elements of the root come first, sorted by name; a new one is inserted before the first that follows it.
     void Write(const std::u16string& name, const std::vector<uint8_t>& bytes) {
         size_t end = 1;
         while (end < elements_.size() && elements_[end].storage == 0)
@@ -116,7 +115,7 @@ private:
         for (size_t i = 1; i < elements_.size(); ++i)
             contents[elements_[i].storage].push_back(i);
         for (size_t i = 0; i < elements_.size(); ++i) {
-            size_t levels = 0; // that are full
+            size_t levels = 0; // number of full levels
             while ((size_t{2} << levels) - 1 <= contents[i].size())
                 ++levels;
             Put(&elements_[i].record[kChild], LinkTree(contents[i], 0, contents[i].size(), levels));
@@ -126,8 +125,8 @@ private:
         elements_[0].record[kColor] = kBlack;
     }
 
-    // Halves of equal length fill all levels of the tree but the last, whose entries are red: every path to a leaf then
-    // has as many black ones.
+    // Dividing the entries into equal halves fills all levels of the tree but the last, whose entries are red: every
+    // path to a leaf then has the same number of black entries.
     uint32_t LinkTree(const std::vector<size_t>& contents, size_t begin, size_t end, size_t blackLevels) {
         if (begin == end) return kNone;
         const size_t middle = begin + (end - begin) / 2;
@@ -144,7 +143,7 @@ private:
 
 // ---- Sectors
 
-// Gives out sectors in the order of the file, all but the one that the system locks.
+// Allocates sectors in file order, except the one that the system locks.
 class Allocation {
 public:
     struct Run {
@@ -160,7 +159,7 @@ public:
     const std::vector<Run>& Runs() const { return runs_; }
     uint32_t After(uint32_t sector) const { return sector + 1 == locked_ ? sector + 2 : sector + 1; }
 
-    // Returns the first sector, or kEndOfChain if there are none.
+    // Returns the first sector, or kEndOfChain if count is 0.
     uint32_t Take(uint64_t count, uint32_t mark = kEndOfChain) {
         if (count == 0) return kEndOfChain;
         if (next_ == locked_) ++next_;
@@ -178,7 +177,7 @@ private:
     std::vector<Run> runs_;
 };
 
-// Appends bytes, with zeros in the place of the locked sector.
+// Appends bytes, with zeros in the locked sector.
 class Output {
 public:
     Output(const Append& append, size_t sectorBytes)
@@ -198,7 +197,7 @@ public:
         }
     }
     void WriteNumber(uint32_t number) { Write(&number, sizeof number); }
-    // Fills the last unit.
+    // Pads the last unit.
     void Pad(size_t unit, char filler = '\0') {
         const auto rest = static_cast<size_t>(at_ % unit);
         if (rest != 0) Write(std::string(unit - rest, filler).data(), unit - rest);
@@ -291,7 +290,7 @@ private:
         PutHeader(kDirectoryStart, allocation_.Take(sectors));
     }
 
-    // The table has room for its own sectors, for their lists, and for the locked sector.
+    // The table includes its own sectors, those of the lists, and the locked sector.
     void PlaceTable() {
         const uint64_t others = allocation_.Count();
         uint64_t before = 0;

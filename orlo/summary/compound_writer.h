@@ -1,4 +1,5 @@
-// Lays a compound file out anew: the streams of another one, some of them replaced or added. Needs no window header.
+// Writes a compound file with a new layout: the streams of another one, some of them replaced or added. Needs no window
+// header.
 //
 //   StreamsToWrite streams;
 //   streams[u"\005SummaryInformation"] = bytes;
@@ -16,17 +17,17 @@
 
 namespace orlo {
 
-// Streams outside of inner storages by their names.
+// Streams of the root storage by name.
 using StreamsToWrite = std::map<std::u16string, std::vector<uint8_t>>;
 
 // Returns true for a name that storages accept.
 bool IsStreamName(std::u16string_view name);
 
-// Appends a compound file of version and sector size of the original, which must be sound; without an original, a new
-// one of version 3. Streams that are not replaced, and everything that the directory says of storages and streams, stay
-// as they are; sectors that belong to no stream are left out. A replaced stream keeps the case of its name. One piece
-// of a stream is in memory at a time. Throws std::runtime_error if the original cannot be read or would become too
-// large, and whatever `append` throws.
+// Appends a compound file with the version and sector size of the original, which must be intact, or a new one of
+// version 3 if there is none. Streams that are not replaced, and the directory's data on storages and streams, are
+// preserved; sectors that belong to no stream are omitted. A replaced stream keeps the case of its name. Streams are
+// copied piece by piece. Throws std::runtime_error if the original cannot be read or the result would be too large, and
+// any exception of `append`.
 void WriteCompoundFile(const CompoundReader* original, const StreamsToWrite& streams,
                        const std::function<void(std::string_view bytes)>& append);
 

@@ -1,4 +1,4 @@
-// The copy is laid out anew and compared with the file piece by piece.
+// Writes a copy with a new layout, and compares it with the file piece by piece.
 
 #include "orlo/summary/edited_document.h"
 
@@ -29,7 +29,7 @@ std::optional<Bytes> ReadStream(const CompoundReader& file, const std::string& n
     return stream ? std::optional<Bytes>(file.Read(*stream)) : std::nullopt;
 }
 
-// Name, kind, class, state bits and times; the rest of a record is the place in the tree and in the file.
+// Compares name, kind, class, state bits and times; the rest of an entry is its position in tree and file.
 bool IsSameEntry(const CompoundElement& a, const CompoundElement& b) {
     using namespace compound;
     const auto isSame = [&](size_t begin, size_t end) {
@@ -69,7 +69,7 @@ public:
 };
 
 EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMissing) : path_(file) {
-    // Some systems let an administrator write a read-only file nevertheless.
+    // Some systems let administrators write a read-only file anyway.
     if (!files::RequireReplaceable(file) && ifMissing == IfMissing::Create) return;
     original_ = std::make_unique<Original>(file);
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
@@ -104,7 +104,7 @@ void EditedDocument::Commit() {
     copy.TakePlace();
 }
 
-// The elements of a file that were not written.
+// Returns the elements of a file that were not replaced.
 std::vector<const CompoundElement*> EditedDocument::KeptIn(const CompoundReader& file) const {
     std::vector<const CompoundElement*> kept;
     for (const CompoundElement& element : file.Elements()) {
@@ -126,7 +126,7 @@ bool EditedDocument::HasWritten(const CompoundReader& copy) const {
     });
 }
 
-// The copy is sound, has everything that was written, and all else as the file has it now.
+// Verifies that the copy is intact, contains everything that was written, and is otherwise equal to the file.
 void EditedDocument::Check(const std::filesystem::path& path) const {
     const CompoundReader copy = OpenCompoundFile(path);
     const std::vector<const CompoundElement*> copied = KeptIn(copy);

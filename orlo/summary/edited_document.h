@@ -54,7 +54,7 @@ private:
     std::filesystem::path path_;
     std::unique_ptr<Original> original_; // null for a new file
     std::map<std::u16string, Bytes> written_;
-    mutable std::map<std::string, std::optional<Bytes>> read_; // what edits are based on
+    mutable std::map<std::string, std::optional<Bytes>> read_; // the contents that edits are based on
 };
 
 } // namespace orlo

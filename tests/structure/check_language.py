@@ -18,9 +18,16 @@ REPLACED = {
     r"\blicences?\b": "license",
     r"\bneighbour\w*": "neighbor",
     r"\bcatalogue\w*": "catalog",
-    r"\btak(?:es|en|e) back\b": "undo",
+    r"\bcancell(?:ed|ing)\b": "canceled, canceling",
+    r"\b(?:takes?|taken|taking|took) back\b|\b(?:takes?|taken) \w+ back\b": "undo",
+    r"\bmakes? (?:it )?again\b": "redo",
     r"\bbottom line\b": "status bar",
-    r"\bthe door to\b": "entry point",
+    r"\bthe (?:door|road) to\b": "entry point, data flow",
+    r"\b(?:be)?longs? to nobody\b|\bnobody's\b": "has no owner",
+    r"\bpasse[sd] over\b": "skip",
+    r"\bkept picture\b": "cached view",
+    r"^\s*// (?-i:What|Whether|How) ": "a verb in the third person: Returns, Draws",
+    r"^\s*// (?-i:True|False|0):": "Returns true if, Returns 0 if",
 }
 SUFFIXES = {".c", ".cmake", ".cpp", ".h", ".in", ".md", ".py", ".rc", ".sh", ".txt"}
 

@@ -1,4 +1,5 @@
-// Compound files laid out anew: real ones and made ones of every form, and damaged ones. Runs under the sanitizers.
+// Compound files written with a new layout: real ones, synthetic ones of every form, and damaged ones. Runs under the
+// sanitizers.
 
 #include "orlo/summary/compound_writer.h"
 
@@ -45,7 +46,7 @@ bool IsWritten(const std::u16string& path, const orlo::StreamsToWrite& streams) 
                        [&](const auto& stream) { return orlo::CompareNames(stream.first, path) == 0; });
 }
 
-// All that an edit keeps of an element: its bytes, and of its record name, kind, class, state bits and times.
+// The data that an edit preserves of an element: its bytes, and name, kind, class, state bits and times.
 struct Kept {
     ByteVector bytes, record;
     bool operator==(const Kept& other) const { return bytes == other.bytes && record == other.record; }
@@ -62,8 +63,8 @@ std::map<std::u16string, Kept> KeptOf(const orlo::CompoundReader& file, const or
     return kept;
 }
 
-// A tree is in order (the reader has seen to that), no red entry is below a red one, and all paths have as many black
-// ones. Returns how many, or -1. Entries of a file laid out anew are numbered like the reader's elements.
+// Returns the number of black entries on every path of the tree, or -1 if they differ or a red entry is below another.
+// The reader has checked the order. Entries in a rewritten file have the numbers of the reader's elements.
 int BlackHeight(const orlo::CompoundReader& file, uint32_t id, bool isBelowRed) {
     if (id == kNone) return 0;
     const EntryBytes& record = file.Elements().at(id).record;
@@ -98,7 +99,7 @@ void ExpectRewritten(const ByteVector& file, const orlo::StreamsToWrite& streams
     ExpectRedBlackTrees(after);
 }
 
-// Those of the repository, and of the folder that ORLO_CORPUS names.
+// The documents of the repository, and of the folder named by ORLO_CORPUS.
 std::vector<fs::path> Documents() {
     std::vector<fs::path> documents;
     const char* corpus = std::getenv("ORLO_CORPUS");
@@ -137,7 +138,7 @@ TEST(CompoundWriter, EveryVersionAndSectorSize) {
             streams[u"a"] = Filled(size);
             ExpectRewritten(file, streams);
         }
-        // Trees of every number of entries, and directories of more than one sector.
+        // Trees with every number of entries, and directories of several sectors.
         for (char16_t name = u'b'; name <= u'z'; ++name) {
             streams[std::u16string(1 + name % 5, name)] = Filled(name * 9u);
             ExpectRewritten(file, streams);
@@ -167,7 +168,7 @@ TEST(CompoundWriter, Names) {
         EXPECT_FALSE(orlo::IsStreamName(name));
 }
 
-// A file that keeps runs of one byte as their length.
+// A file that stores runs of a byte as their length.
 class SparseFile {
 public:
     void Append(std::string_view piece) {
@@ -208,7 +209,7 @@ orlo::CompoundReader SparseReaderOf(const SparseFile& file) {
     return orlo::CompoundReader(read, file.Size());
 }
 
-// Its one stream ends past 2 GB. A list of tables, these, the directory, the stream.
+// Its only stream ends past 2 GB. Contains a list of tables, these, the directory, and the stream.
 SparseFile LongFile(uint64_t streamBytes) {
     constexpr size_t kLong = 4096, kNumbers = kLong / 4;
     const auto sectors = static_cast<uint32_t>(streamBytes / kLong);
@@ -265,7 +266,7 @@ TEST(CompoundWriter, LeavesTheSectorFreeThatTheSystemLocks) {
 
 class DamagedFile : public testing::TestWithParam<const char*> {};
 
-// Refused, and the file is as it was; or edited, and all else is.
+// Either rejected without changing the file, or edited correctly.
 TEST_P(DamagedFile, IsRefusedOrEdited) {
     const ByteVector whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path =

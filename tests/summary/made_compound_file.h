@@ -1,4 +1,4 @@
-// Builds a compound file in memory, number by number.
+// Builds a compound file in memory.
 #pragma once
 
 #include <algorithm>
@@ -29,8 +29,8 @@ inline void PutName(std::vector<uint8_t>& file, size_t entry, const std::string&
     PutShort(file, entry + 64, static_cast<uint16_t>(2 * name.size() + 2));
 }
 
-// A file with one stream of 5000 bytes, of as many allocation sectors as are asked for: these, the directory, the
-// stream.
+// Returns a file with one stream of 5000 bytes and the requested number of allocation sectors: these, the directory,
+// the stream.
 inline std::vector<uint8_t> MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
     std::vector<uint8_t> file(sectorBytes * (1 + tables * sectorBytes / 4));
     std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());

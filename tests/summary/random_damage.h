@@ -1,4 +1,4 @@
-// Damages a compound file of short sectors in all that holds it together, the same way for the same seed.
+// Damages the structure of a compound file with short sectors, reproducibly by seed.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 #include "made_compound_file.h"
 
-// Header, allocation table, directory or table of short streams: one to three of their numbers or bytes. Some documents
-// are cut as well.
+// Changes one to three numbers or bytes in header, allocation table, directory or table of short streams. Truncates
+// some documents as well.
 inline std::vector<uint8_t> Damaged(std::vector<uint8_t> file, unsigned seed) {
     constexpr size_t kSector = 512;
     std::mt19937 random(seed);

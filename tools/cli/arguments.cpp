@@ -1,4 +1,4 @@
-// Lists in files, and wildcards.
+// Expands lists in files, and wildcards.
 
 #include "tools/cli/arguments.h"
 
@@ -24,7 +24,7 @@ std::string ContentsOf(const std::string& name) {
     const auto contents = [](std::istream& stream) { return std::string(std::istreambuf_iterator<char>(stream), {}); };
     if (name == "-") return contents(std::cin);
     const fs::path path = fs::u8path(name);
-    files::OpenToRead(path); // says why it fails
+    files::OpenToRead(path); // throws with the reason
     std::ifstream stream(path, std::ios::binary);
     return contents(stream);
 }

@@ -1,4 +1,4 @@
-// Quotes where a value needs them.
+// Quotes values that need it.
 
 #include "tools/cli/csv.h"
 

@@ -1,4 +1,4 @@
-// Lines of comma-separated values, as RFC 4180 has them, but ended by LF.
+// Lines of comma-separated values as in RFC 4180, but terminated by LF.
 #pragma once
 
 #include <string>

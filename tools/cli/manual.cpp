@@ -1,4 +1,4 @@
-// Manual page and completion, read from the parser's own table.
+// Generates manual page and completion from the parser's table.
 
 #include "tools/cli/manual.h"
 
@@ -12,7 +12,7 @@ std::vector<const CLI::App*> CommandsOf(const CLI::App& app) {
     return app.get_subcommands([](const CLI::App*) { return true; });
 }
 
-// In roff a line must not begin with a dot or an apostrophe, and a hyphen is a dash unless escaped.
+// In roff, a line must not begin with a period or an apostrophe, and a hyphen is a dash unless escaped.
 std::string Roff(const std::string& text) {
     std::string roff;
     for (const char c : text) {
@@ -28,7 +28,7 @@ std::string Roff(const std::string& text) {
     return roff;
 }
 
-// "-r, --recursive", "--size TEXT", or the name of a positional argument.
+// Returns "-r, --recursive", "--size TEXT", or the name of a positional argument.
 std::string NamesOf(const CLI::Option& option) {
     if (option.get_positional()) return option.get_name(true);
     std::string names;
@@ -114,7 +114,7 @@ std::string BashCompletion(const CLI::App& app, const CompletedWords& words) {
            function + " " + app.get_name() + "\n";
 }
 
-// Ends the parsing, as --version does.
+// Ends the parsing like --version.
 void AddPrinted(CLI::App& app, const char* name, const char* description, const std::function<std::string()>& text) {
     app.add_flag_callback(
         name, [text] { throw CLI::CallForVersion(text(), 0); }, description);
@@ -143,7 +143,7 @@ ParseResult Parse(CLI::App& app, std::vector<std::string> arguments) {
             return result;
         }
     }
-    std::reverse(arguments.begin(), arguments.end()); // as the parser wants them
+    std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
     try {
         app.parse(arguments);
         result.isParsed = true;

@@ -1,4 +1,4 @@
-// The options that every program has, and what is generated from the table of its commands and options.
+// Options shared by all programs, and texts generated from the table of commands and options.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -9,14 +9,14 @@
 
 namespace cli {
 
-// Words that bash completes for a command besides its options.
+// Words that bash completes for a command in addition to its options.
 using CompletedWords = std::map<std::string, std::vector<std::string>>;
 
-// Adds --version, --man and --completion. Called before commands are added, which inherit settings.
+// Adds --version, --man and --completion. Must be called before commands are added, which inherit settings.
 void AddCommonOptions(CLI::App& app, const std::string& version, const CompletedWords& words = {});
 
-// Parses the command line. Returns true if there is something to do. Otherwise `output` has been asked for (help, man
-// page), or `error` says what is wrong, with the program's name in front.
+// Parses the command line. Returns true if there is something to do. Otherwise `output` is to be printed (help, manual
+// page), or `error` contains the error, preceded by the program's name.
 struct ParseResult {
     bool isParsed = false;
     std::string output, error;

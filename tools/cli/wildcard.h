@@ -1,4 +1,4 @@
-// Wildcards in names: * stands for any characters, ? for one.
+// Matches wildcards in names: * for any characters, ? for one.
 #pragma once
 
 #include <string_view>
@@ -9,8 +9,8 @@ inline bool HasWildcard(std::string_view pattern) {
     return pattern.find_first_of("*?") != std::string_view::npos;
 }
 
-// Returns true if the pattern stands for the whole text. Characters are compared by `isSame`; a ? stands for one unit.
-// Takes time in proportion to the product of the lengths at most.
+// Returns true if the pattern matches the whole text. Characters are compared by `isSame`; ? matches one unit. The time
+// is at most proportional to the product of the lengths.
 template <class Char, class IsSame>
 bool MatchesWildcard(std::basic_string_view<Char> pattern, std::basic_string_view<Char> text, IsSame isSame) {
     constexpr size_t kNone = std::basic_string_view<Char>::npos;
@@ -22,7 +22,7 @@ bool MatchesWildcard(std::basic_string_view<Char> pattern, std::basic_string_vie
         } else if (at < pattern.size() && (pattern[at] == '?' || isSame(pattern[at], text[i]))) {
             ++at;
             ++i;
-        } else if (star != kNone) { // the star takes one character more
+        } else if (star != kNone) { // extend the match of the star by one character
             at = star + 1;
             i = ++afterStar;
         } else {

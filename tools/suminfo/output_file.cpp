@@ -1,4 +1,4 @@
-// One step for a file, one write for standard output.
+// Replaces a file in one step, or writes to standard output.
 
 #include "output_file.h"
 
