@@ -6,7 +6,7 @@
 
 constexpr unsigned kRoomPage = 100; // identifies the page in its sheet
 
-// The area is no property of the database, but what the host computes.
+// The area is not a property of the database; the host calculates it.
 FieldRow AreaRow(double (*areaOf)(GraphicStruct*)) {
     FieldRow row;
     row.kind = FieldKind::Number;
@@ -20,7 +20,7 @@ FieldRow AreaRow(double (*areaOf)(GraphicStruct*)) {
     return row;
 }
 
-// To be called before the sheet opens. The sheet gets the page if a room is selected.
+// Call this before the sheet opens. It adds the page if a room is selected.
 void AddRoomPage(CGraphicPropertySheet* sheet, bool (*isRoom)(GraphicStruct*), double (*areaOf)(GraphicStruct*)) {
     FieldTable table;
     table.caption = "Room";

@@ -1,13 +1,12 @@
-// Identifiers by which a QXComboBox or a QXListBox of a dialog template becomes one of the library's controls, for
-// sources and resource scripts. Preprocessor only. A dialog with several controls of a kind gives each a number of its
-// own.
+// Identifiers with which a QXComboBox or a QXListBox of a dialog template becomes a control of the library, for sources
+// and resource scripts (preprocessor only). If a dialog has several controls of a kind, each needs its own number.
 #pragma once
 
 // QXComboBox.
 #define IDC_FONT_FACE 32000
 #define IDC_FONT_FACE_2 32022
 #define IDC_FONT_SIZE 32001
-#define IDC_FONT_STYLE 32002 // a plain combo that FillFontDropDown fills
+#define IDC_FONT_STYLE 32002 // an ordinary combo box, filled by FillFontDropDown
 #define IDC_LINE_STYLE_COMBO 32004
 #define IDC_LINE_STYLE_COMBO_2 32017
 #define IDC_LINE_STYLE_COMBO_3 32020

@@ -1,10 +1,10 @@
-// The texts of the library's own module.
+// Returns the texts of the library's resources.
 
 #include "orlo/resources/library_text.h"
 
 #include <afxwin.h>
 
-extern "C" IMAGE_DOS_HEADER __ImageBase; // where the module begins
+extern "C" IMAGE_DOS_HEADER __ImageBase; // start of the module
 
 HINSTANCE LibraryModule() {
     return reinterpret_cast<HINSTANCE>(&__ImageBase);

@@ -1,12 +1,12 @@
-// The library's own module, and its texts: found there before a string of the same number in the host.
+// The library's module, and the texts of its resources, which are preferred to texts of the host with the same number.
 #pragma once
 
 #include <afx.h>
 
 HINSTANCE LibraryModule();
 
-// The text goes to pszBuffer, nSize bytes with the NUL. A number that the library lacks is looked up along the
-// framework's modules. The length; 0 and an empty buffer if not found.
+// Copies a text, at most nSize bytes with the NUL. If the library does not have the number, the modules of the
+// framework are searched. Returns the length, or 0 and an empty text if it was not found.
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize);
-// Empty if not found.
+// Returns an empty text if it was not found.
 CString LibraryText(UINT nID);

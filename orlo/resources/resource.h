@@ -1,16 +1,16 @@
-// Identifiers of the library's resources, for the sources and the resource script. Preprocessor only.
+// Identifiers of the library's resources, for sources and the resource script (preprocessor only).
 #pragma once
 
 #include "orlo/resources/control_ids.h"
 
-// Dialog templates; the number is the identity of a page in its sheet.
+// Dialog templates. The number identifies the page in its sheet.
 #define IDD_GENERAL_PAGE 29000
 #define IDD_PEN_PAGE 29001
 #define IDD_BRUSH_PAGE 29002
 #define IDD_TEXT_PAGE 29003
 #define IDD_INSERT_PAGE 29004
 
-// Icons of layers; the picture fills the top left quarter.
+// Icons of layers. The image fills the top left quarter.
 #define IDI_VISIBLE 104
 #define IDI_READ_ONLY 106
 
@@ -24,7 +24,7 @@
 #define IDS_BITMAP_BRUSH 109
 #define IDS_VECTOR_BRUSH 110
 
-// Buttons of the wizard: text, line feed, width in dialog units; the last is the text alone.
+// Buttons of the wizard: text, line feed, width in dialog units. The last is only a text.
 #define IDS_WIZARD_CANCEL 111
 #define IDS_WIZARD_BACK 112
 #define IDS_WIZARD_NEXT 113
@@ -36,7 +36,7 @@
 #define IDS_ENTER_POSITIVE 122
 #define IDS_ENTER_SCALE 123
 
-// Graphics that the host has not changed: %d of %d.
+// Graphics that the host did not change: %d of %d.
 #define IDS_NOT_CHANGED 124
 
 // Texts for screen readers: a field with multiple values, states of a layer, the preview, and the action of a check
@@ -62,13 +62,13 @@
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 
-// Controls of the pages, beside those of control_ids.h. Of the General page.
+// Controls of the General page; see also control_ids.h.
 #define IDC_INFO 101
 #define IDC_STYLE_NEW 102
 #define IDC_STYLE_DELETE 103
 #define IDC_STYLE_GROUP 104
 
-// Of the Pen page.
+// The Pen page.
 #define IDC_PEN_WIDTH_LABEL 101
 #define IDC_PEN_SCALE_LABEL 102
 #define IDC_PEN_WIDTH 103
@@ -81,7 +81,7 @@
 #define IDC_PEN_ALIGNMENT 110
 #define IDC_PEN_STYLE_TEXT 112
 
-// Of the Brush page.
+// The Brush page.
 #define IDC_HATCH_GROUP 101
 #define IDC_BRUSH_ANGLE_LABEL 104
 #define IDC_BRUSH_SCALE 105
@@ -97,7 +97,7 @@
 #define IDC_BRUSH_KIND_TEXT 118
 #define IDC_BRUSH_ANGLE_ARROWS 119
 
-// Of the Text page, and of every dialog that DDX_ChkBoxEffects is used in.
+// The Text page, and every dialog that uses DDX_ChkBoxEffects.
 #define IDC_STRIKETHROUGH 103
 #define IDC_HIDDEN 104
 #define IDC_ALL_CAPS 105
@@ -107,7 +107,7 @@
 #define IDC_JUSTIFY_CENTER 109
 #define IDC_JUSTIFY_RIGHT 110
 
-// Of the Block Insertion page.
+// The Block Insertion page.
 #define IDC_SCALE_X 101
 #define IDC_SCALE_Y 102
 #define IDC_SCALE_Z 103

@@ -10,7 +10,7 @@ import shutil
 import subprocess
 import sys
 
-# What a reader has: the names of the guide, and where the files come from.
+# The files that the guide names, and their sources.
 DOCUMENTS = {"report.doc": "ole/test11--695187.doc", "letter.doc": "ole/Bug48075--a2ceba.doc",
              "prices.xls": "ole/testEXCEL-custom-props--fff0cb.xls", "archive/budget.xls": "ole/25695--d41532.xls",
              "archive/photo.fpx": "ole/input-bw-one-band--340370.fpx", "archive/slides.ppt": "ole/bug55030--18fccf.ppt",

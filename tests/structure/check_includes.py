@@ -19,7 +19,7 @@ def downward(area, modules, also=""):
     return {name: {*names[place:], *also.split()} for place, name in enumerate(names)}
 
 
-# What each module may include of this tree.
+# The folders that each module may include from.
 MAY = {
     **downward("orlo", "c entry pages exchange frame controls samples binding win host", "afx"),
     **downward("drawcore", "calls export import document save paint database graphics styles tables units dxf geometry",

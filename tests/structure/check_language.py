@@ -8,7 +8,7 @@ import re
 import subprocess
 import sys
 
-# What is reported, and what to write instead.
+# The phrases that are reported, and their replacements.
 REPLACED = {
     r"\w*colour\w*": "color",
     r"\w*behaviour\w*": "behavior",
@@ -26,8 +26,10 @@ REPLACED = {
     r"\b(?:be)?longs? to nobody\b|\bnobody's\b": "has no owner",
     r"\bpasse[sd] over\b": "skip",
     r"\bkept picture\b": "cached view",
-    r"^\s*// (?-i:What|Whether|How) ": "a verb in the third person: Returns, Draws",
-    r"^\s*// (?-i:True|False|0):": "Returns true if, Returns 0 if",
+    r"\bis none of\b": "is not one of",
+    r"\b(?:stay|left|leaves?) behind\b": "remain",
+    r"^\s*(?://|#) (?-i:What|Whether|How) ": "a verb in the third person: Returns, Draws",
+    r"^\s*(?://|#) (?-i:True|False|0):": "Returns true if, Returns 0 if",
 }
 SUFFIXES = {".c", ".cmake", ".cpp", ".h", ".in", ".md", ".py", ".rc", ".sh", ".txt"}
 
