@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -78,6 +79,9 @@ struct Contents {
         int flags = 0;
         std::string lineType;
         int32_t trueColor = -1; // 0xRRGGBB; -1: none
+        int lineWeight = -3;    // 0.01 mm; -3: the default
+        bool isPlotted = true;
+        std::string colorText; // in the form of PenColor
     };
     struct LineType {
         std::string name;
@@ -98,18 +102,23 @@ struct Contents {
 class EntityRef {
     friend class DocumentReader;
     friend class DocumentWriter;
-    EntityRef(const Entity& entity, const Block* block) : entity_(&entity), block_(block) {}
+    EntityRef(const Entity& entity, const Block* block, const Entity* insertion = nullptr)
+        : entity_(&entity), block_(block), insertion_(insertion) {}
 
     const Entity* entity_;
-    const Block* block_; // null: model space
+    const Block* block_;      // null: model space, or paper space
+    const Entity* insertion_; // of an attribute, else null
 };
 
+class EntityExtents;
+class EntityTexts;
 class PropertyTexts;
 
 class DocumentReader {
 public:
-    // Reads the bytes of a file. Throws ReadError.
-    explicit DocumentReader(std::string bytes);
+    // Reads the bytes of a file. `progress` is called now and then with the share that is done, 0 to 1000. Throws
+    // ReadError, and whatever `progress` throws.
+    explicit DocumentReader(std::string bytes, const std::function<void(int permille)>& progress = {});
     ~DocumentReader();
 
     const std::string& Bytes() const { return bytes_; }
@@ -121,9 +130,13 @@ public:
     // The same for one block; "" is model space. Throws SaveError, with the names of all blocks, if there is no such
     // block.
     std::vector<EntityRef> EntitiesOf(const std::string& block) const;
+    // Returns the same for paper space.
+    std::vector<EntityRef> PaperEntities() const;
     RecordName NameOf(const EntityRef& entity) const;
 
     // Returns the names of all properties, in the order in which they are set: a width depends on its scale system.
+    // After those of the sheet: Tag, Text (as stored, with control and inline codes), BlockName, Position, Scale and
+    // Rotation (of insertions, in the world). Tag and BlockName cannot be set.
     static std::vector<std::string> PropertyNames();
     // Returns the name as it is written; none if there is no such property.
     static std::optional<std::string> FindPropertyName(std::string_view name);
@@ -131,20 +144,47 @@ public:
     // The name is that of a property. Has returns whether the entity has it, Get its value.
     static bool Has(const EntityRef& entity, std::string_view name);
     std::string Get(const EntityRef& entity, std::string_view name) const;
+    // Returns the values of those of the properties that the entity has.
+    std::vector<std::pair<std::string, std::string>> GetAll(const EntityRef& entity,
+                                                            const std::vector<std::string>& names) const;
+    // Returns the text in the form that Get returns, if the entity could have it as a value; else as it is.
+    std::string Normalized(const EntityRef& entity, std::string_view name, const std::string& text) const;
+    // Returns the number that the text stands for as a value of the entity, none if it is not a number.
+    std::optional<double> NumberOf(const EntityRef& entity, std::string_view name, const std::string& text) const;
     // Returns the same with " (varies)" if other parts of a text have other values.
     std::string GetWithVariety(const EntityRef& entity, std::string_view name) const;
-    // Returns whether all properties are the same in two documents. Numbers may differ by rounding.
+    // Returns whether all properties of the sheet are the same in two documents. Numbers may differ by rounding.
     bool IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
+    // Returns the coordinates, lengths and texts of the entity as they are stored, for comparison: two entities of one
+    // shape have equal ones.
+    std::vector<std::string> ShapeOf(const EntityRef& entity) const;
+    // Returns left, bottom, right and top in its own space, none if it shows nothing.
+    std::optional<std::array<double, 4>> BoxOf(const EntityRef& entity) const;
+    // Returns the insertion that an attribute belongs to, none for other entities.
+    static std::optional<EntityRef> InsertionOf(const EntityRef& entity);
 
 private:
     friend class DocumentWriter;
 
+    enum class Space { model, paper };
+
     std::string_view Text() const;
-    void AddEntities(const Block* block, std::vector<EntityRef>& to) const;
+    void AddEntities(const Block* block, std::vector<EntityRef>& to, Space space = Space::model) const;
 
     const std::string bytes_;
     const std::unique_ptr<const Document> document_;
     const std::unique_ptr<const PropertyTexts> texts_;
+    const std::unique_ptr<const EntityTexts> entityTexts_;
+    const std::unique_ptr<EntityExtents> extents_;
+};
+
+// The requested values of a layer; absent ones stay as they are.
+struct LayerValues {
+    std::optional<bool> isOn, isFrozen, isLocked, isPlotted;
+    std::optional<std::string> color;      // in the forms of PenColor, but By Layer and By Block
+    std::optional<std::string> lineType;   // of the document, or Continuous
+    std::optional<std::string> lineWeight; // "0.5 mm", or Default
+    std::optional<std::string> name;       // a new one
 };
 
 // Changes a document: only the groups that contain a changed value differ afterwards. Values without a DXF group are
@@ -161,6 +201,11 @@ public:
     // Sets the values that the entity has. Returns whether it was changed. At most once for each entity. Throws
     // SaveError, with the name of the entity, if the file cannot contain a value.
     bool Change(const EntityRef& entity);
+    // Sets these values instead of those of the constructor.
+    bool Change(const EntityRef& entity, const Values& values);
+    // Changes a layer of the document, or adds one that it lacks. Returns whether anything changed. Call it once per
+    // layer, and before changes of entities; a new name excludes those. Throws SaveError.
+    bool ChangeLayer(const std::string& name, const LayerValues& wanted);
     // Returns a text for users for each property that is now stored in extended data, where other programs do not show
     // it.
     std::vector<std::string> Notes() const;

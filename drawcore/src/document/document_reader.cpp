@@ -1,12 +1,18 @@
 // Reads the contents of a document and the properties of its entities.
 #include <algorithm>
+#include <charconv>
+#include <cstdlib>
 
 #include "drawcore/src/document/contents.h"
+#include "drawcore/src/document/entity_texts.h"
 #include "drawcore/src/document/property_texts.h"
+#include "drawcore/src/dxf/color_numbers.h"
 #include "drawcore/src/dxf/extents.h"
 #include "drawcore/src/dxf/reader.h"
 #include "drawcore/src/dxf/record_name.h"
+#include "drawcore/src/dxf/tag_reader.h"
 #include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/units/property_words.h"
 
 namespace dxf {
 
@@ -16,9 +22,12 @@ Contents ContentsOf(const Document& document) {
     contents.entityCounts = document.entityCounts;
     for (const Block& block : document.blocks)
         contents.blocks += block.declared;
-    for (const Layer& layer : document.layers)
-        if (layer.declared)
-            contents.layers.push_back({layer.name, layer.color, layer.flags, layer.lineType, layer.trueColor});
+    for (const Layer& layer : document.layers) {
+        if (!layer.declared) continue;
+        const uint32_t color = layer.trueColor >= 0 ? ColorOf(0, layer.trueColor) : ColorOfIndex(std::abs(layer.color));
+        contents.layers.push_back({layer.name, layer.color, layer.flags, layer.lineType, layer.trueColor,
+                                   layer.lineWeight, layer.plotted, drawcore::ColorText(color)});
+    }
     for (const LineType& type : document.lineTypes)
         if (type.declared) contents.lineTypes.push_back({type.name, type.patternLength, type.dashes});
     const drawcore::Extents box = ExtentsOf(document);
@@ -27,9 +36,11 @@ Contents ContentsOf(const Document& document) {
     return contents;
 }
 
-DocumentReader::DocumentReader(std::string bytes)
-    : bytes_(std::move(bytes)), document_(std::make_unique<const Document>(Read(bytes_, {}))),
-      texts_(std::make_unique<const PropertyTexts>(*document_)) {}
+DocumentReader::DocumentReader(std::string bytes, const std::function<void(int permille)>& progress)
+    : bytes_(std::move(bytes)), document_(std::make_unique<const Document>(Read(bytes_, progress))),
+      texts_(std::make_unique<const PropertyTexts>(*document_)),
+      entityTexts_(std::make_unique<const EntityTexts>(*document_)),
+      extents_(std::make_unique<EntityExtents>(*document_)) {}
 
 DocumentReader::~DocumentReader() = default;
 
@@ -41,17 +52,23 @@ Contents DocumentReader::GetContents() const {
     return ContentsOf(*document_);
 }
 
-void DocumentReader::AddEntities(const Block* block, std::vector<EntityRef>& to) const {
-    const auto add = [&](const Entity& entity) {
-        if (PropertyTexts::Has(entity, kPropLayer)) to.push_back({entity, block});
+void DocumentReader::AddEntities(const Block* block, std::vector<EntityRef>& to, Space space) const {
+    const auto add = [&](const Entity& entity, const Entity* insertion) {
+        if (PropertyTexts::Has(entity, kPropLayer)) to.push_back({entity, block, insertion});
     };
     for (const Entity& entity : block ? block->entities : document_->entities) {
-        if (!block && entity.inPaperSpace) continue;
-        add(entity);
+        if (!block && entity.inPaperSpace != (space == Space::paper)) continue;
+        add(entity, nullptr);
         if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
             for (const Entity& attribute : (*insert)->attributes)
-                add(attribute);
+                add(attribute, &entity);
     }
+}
+
+std::vector<EntityRef> DocumentReader::PaperEntities() const {
+    std::vector<EntityRef> found;
+    AddEntities(nullptr, found, Space::paper);
+    return found;
 }
 
 std::vector<EntityRef> DocumentReader::Entities() const {
@@ -88,33 +105,71 @@ RecordName DocumentReader::NameOf(const EntityRef& entity) const {
 }
 
 std::vector<std::string> DocumentReader::PropertyNames() {
-    std::vector<std::string> names;
-    for (const PropertyInfo& info : kPropertyList)
-        names.push_back(info.name);
-    const auto place = [](const std::string& name) {
-        const PropertyInfo& info = *FindPropertyInfo(name);
-        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // sorted before the width
-    };
-    std::stable_sort(names.begin(), names.end(),
-                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
+    std::vector<std::string> names = PropertyTexts::Names();
+    const std::vector<std::string> others = EntityTexts::Names();
+    names.insert(names.end(), others.begin(), others.end());
     return names;
 }
 
 std::optional<std::string> DocumentReader::FindPropertyName(std::string_view name) {
-    for (const PropertyInfo& info : kPropertyList)
-        if (IsSameName(info.name, name)) return info.name;
-    return std::nullopt;
+    const auto found = PropertyTexts::NameOf(name);
+    return found ? found : EntityTexts::NameOf(name);
 }
 
 bool DocumentReader::Has(const EntityRef& entity, std::string_view name) {
+    if (EntityTexts::IsName(name)) return EntityTexts::Has(*entity.entity_, name);
     return PropertyTexts::Has(*entity.entity_, name);
 }
 
 std::string DocumentReader::Get(const EntityRef& entity, std::string_view name) const {
+    if (EntityTexts::IsName(name)) return entityTexts_->Get(name, *entity.entity_);
     return texts_->Get(name, AppearanceOf(*document_, *entity.entity_));
 }
 
+std::vector<std::pair<std::string, std::string>> DocumentReader::GetAll(const EntityRef& ref,
+                                                                        const std::vector<std::string>& names) const {
+    const Entity& entity = *ref.entity_;
+    const Appearance appearance = AppearanceOf(*document_, entity);
+    std::vector<std::pair<std::string, std::string>> values;
+    for (const std::string& name : names) {
+        const bool isOfSheet = !EntityTexts::IsName(name);
+        if (isOfSheet && PropertyTexts::Has(entity, name))
+            values.emplace_back(name, texts_->Get(name, appearance));
+        else if (!isOfSheet && EntityTexts::Has(entity, name))
+            values.emplace_back(name, entityTexts_->Get(name, entity));
+    }
+    return values;
+}
+
+std::string DocumentReader::Normalized(const EntityRef& entity, std::string_view name, const std::string& text) const {
+    if (EntityTexts::IsName(name)) return EntityTexts::Normalized(name, text);
+    Appearance appearance = AppearanceOf(*document_, *entity.entity_);
+    try {
+        texts_->Set(name, text, appearance);
+    } catch (const SaveError&) {
+        return text;
+    }
+    return texts_->Get(name, appearance);
+}
+
+std::optional<double> DocumentReader::NumberOf(const EntityRef& entity, std::string_view name,
+                                               const std::string& text) const {
+    double number = 0;
+    const auto [stopped, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (EntityTexts::IsName(name))
+        return error == std::errc() && stopped == text.data() + text.size() ? std::optional<double>(number)
+                                                                            : std::nullopt;
+    Appearance appearance = AppearanceOf(*document_, *entity.entity_);
+    try {
+        texts_->Set(name, text, appearance);
+    } catch (const SaveError&) {
+        return std::nullopt;
+    }
+    return PropertyTexts::NumberOf(name, appearance);
+}
+
 std::string DocumentReader::GetWithVariety(const EntityRef& entity, std::string_view name) const {
+    if (EntityTexts::IsName(name)) return entityTexts_->Get(name, *entity.entity_);
     const bool varies = AppearanceOf(*document_, *entity.entity_).varied & VariedBit(name);
     return Get(entity, name) + (varies ? " (varies)" : "");
 }
@@ -122,6 +177,52 @@ std::string DocumentReader::GetWithVariety(const EntityRef& entity, std::string_
 bool DocumentReader::IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const {
     return SameAppearance(*document_, AppearanceOf(*document_, *entity.entity_), *other.document_,
                           AppearanceOf(*other.document_, *otherEntity.entity_));
+}
+
+std::optional<EntityRef> DocumentReader::InsertionOf(const EntityRef& entity) {
+    if (!entity.insertion_) return std::nullopt;
+    return EntityRef(*entity.insertion_, entity.block_);
+}
+
+std::optional<std::array<double, 4>> DocumentReader::BoxOf(const EntityRef& entity) const {
+    const drawcore::Extents box = extents_->Of(*entity.entity_);
+    if (box.IsEmpty()) return std::nullopt;
+    return std::array<double, 4>{box.low.x, box.low.y, box.high.x, box.high.y};
+}
+
+namespace {
+
+// Groups of coordinates, lengths, angles, counts and texts, without those of the appearance that are among their codes.
+bool IsOfShape(int code) {
+    constexpr int kLineTypeScale = 48, kColor = 62, kVisibility = 60, kPaperSpace = 67;
+    const bool isNumber = (code >= 10 && code < 80) || (code >= 90 && code < 100) || (code >= 210 && code < 240);
+    const bool isText = code >= 1 && code <= 3;
+    const bool isLook = code == kLineTypeScale || code == kColor || code == kVisibility || code == kPaperSpace;
+    return (isNumber || isText) && !isLook;
+}
+
+// Two programs write one number in many ways.
+std::string Comparable(const Tag& tag) {
+    const std::string_view text = tag.Trimmed();
+    double number = 0;
+    const auto [stopped, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isNumber = tag.code >= 10 && error == std::errc() && stopped == text.data() + text.size();
+    return std::to_string(tag.code) + " " + (isNumber ? std::to_string(number) : std::string(text));
+}
+
+} // namespace
+
+std::vector<std::string> DocumentReader::ShapeOf(const EntityRef& entity) const {
+    const Progress silent;
+    TagReader tags(Text(), silent);
+    std::vector<std::string> shape;
+    const Tag* tag = &tags.Seek(entity.entity_->offset);
+    const bool hasVertices = tag->Is(0, "POLYLINE");
+    for (tag = &tags.Next();; tag = &tags.Next()) {
+        const bool goesOn = hasVertices && tag->Is(0, "VERTEX");
+        if (tag->StartsRecord() && !goesOn) return shape;
+        if (IsOfShape(tag->code)) shape.push_back(Comparable(*tag));
+    }
 }
 
 } // namespace dxf

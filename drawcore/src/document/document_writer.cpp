@@ -1,9 +1,18 @@
 // Sets properties, and compares the changed document with the requested values.
+#include <algorithm>
+#include <cstdlib>
 #include <map>
 
+#include "drawcore/src/document/entity_texts.h"
 #include "drawcore/src/document/property_texts.h"
+#include "drawcore/src/dxf/color_numbers.h"
+#include "drawcore/src/dxf/placement.h"
 #include "drawcore/src/dxf/reader.h"
+#include "drawcore/src/dxf/text_decoding.h"
+#include "drawcore/src/save/appearance_writer.h"
 #include "drawcore/src/save/drawing_patch.h"
+#include "drawcore/src/units/number_text.h"
+#include "drawcore/src/units/unit_settings.h"
 
 namespace dxf {
 
@@ -11,42 +20,168 @@ struct DocumentWriter::Parts {
     explicit Parts(const DocumentReader& from)
         : reader(from), patch(reader.Text(), reader.document_->Tables()), known(*reader.document_) {}
 
-    // Throws SaveError unless the changed document has the requested appearances.
+    // Throws SaveError unless the changed document has what was wanted.
     void RequireWanted(const DocumentReader& after) const;
+    void RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
+                         const DocumentReader& after) const;
+    void RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
+                     const DocumentReader& after) const;
+    void RequireAppearance(const EntityRef& entity, const Appearance& appearance, const EntityRef& now,
+                           const DocumentReader& after) const;
+    [[noreturn]] static void Differ(const std::string& what);
 
     const DocumentReader& reader;
-    Values values; // in the order in which they are set
+    // Properties of the sheet in the order in which they are set, and the others.
+    struct Ordered {
+        Values properties, others;
+    };
+    Ordered InOrder(const Values& values) const;
+    bool Change(const EntityRef& ref, const Ordered& values);
+    // The appearance of the entity with other contents of its text.
+    Appearance AppearanceWith(const std::string& contents, const Entity& entity);
+    std::string LineTypeNamed(const std::string& name) const;
+    void Rename(LayerIndex index, const std::string& name);
+
+    struct Wanted {
+        Appearance appearance;
+        EntityEdit edit;
+    };
+    Ordered ordered;
     DrawingPatch patch;
     const Document& known;
-    std::map<uint32_t, Appearance> wanted; // by offset of the entity
+    std::map<uint32_t, Wanted> wanted; // by the offsets of entities
 };
+
+// Values in the order in which they are set. Throws SaveError if one is not valid for any entity.
+DocumentWriter::Parts::Ordered DocumentWriter::Parts::InOrder(const Values& from) const {
+    Ordered result;
+    for (const std::string& name : PropertyTexts::Names())
+        for (const auto& [property, text] : from)
+            if (IsSameName(property, name)) result.properties.emplace_back(name, text);
+    for (const auto& [property, text] : from)
+        if (const auto name = EntityTexts::NameOf(property)) result.others.emplace_back(*name, text);
+    Appearance tried;
+    for (const auto& [property, text] : result.properties)
+        reader.texts_->Set(property, text, tried);
+    EntityEdit edit;
+    for (const auto& [property, text] : result.others)
+        EntityTexts::Set(property, text, edit);
+    return result;
+}
 
 DocumentWriter::DocumentWriter(const DocumentReader& reader, const Values& values)
     : parts_(std::make_unique<Parts>(reader)) {
-    for (const std::string& name : DocumentReader::PropertyNames())
-        for (const auto& [property, text] : values)
-            if (IsSameName(property, name)) parts_->values.emplace_back(name, text);
-    Appearance tried;
-    for (const auto& [property, text] : parts_->values)
-        reader.texts_->Set(property, text, tried);
+    parts_->ordered = parts_->InOrder(values);
 }
 
 DocumentWriter::~DocumentWriter() = default;
 
 bool DocumentWriter::Change(const EntityRef& entity) {
-    const DocumentReader& reader = parts_->reader;
-    const Appearance was = AppearanceOf(parts_->known, *entity.entity_);
+    return parts_->Change(entity, parts_->ordered);
+}
+
+bool DocumentWriter::Change(const EntityRef& entity, const Values& values) {
+    return parts_->Change(entity, parts_->InOrder(values));
+}
+
+bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) {
+    const Entity& entity = *ref.entity_;
+    EntityEdit edit;
+    for (const auto& [name, text] : values.others)
+        if (EntityTexts::Has(entity, name) && reader.Get(ref, name) != EntityTexts::Normalized(name, text))
+            EntityTexts::Set(name, text, edit);
+    // Inline codes of a new text are part of the appearance that the other values change.
+    const Appearance was = edit.text ? AppearanceWith(*edit.text, entity) : AppearanceOf(known, entity);
     Appearance appearance = was;
-    for (const auto& [property, text] : parts_->values)
-        if (PropertyTexts::Has(*entity.entity_, property)) reader.texts_->Set(property, text, appearance);
-    if (appearance == was) return false;
+    for (const auto& [property, text] : values.properties)
+        if (PropertyTexts::Has(entity, property)) reader.texts_->Set(property, text, appearance);
+    const std::optional<AxisEnds> ends = edit.EndsOf(entity);
+    if (appearance == was && !edit.text && !ends) return false;
+    EntityPlace place;
+    if (ends) place.ends = &*ends;
+    if (edit.text) place.text = &*edit.text;
     try {
-        parts_->patch.Change(entity.entity_->offset, appearance);
+        patch.Change(entity.offset, appearance, place);
     } catch (const SaveError& error) {
-        throw SaveError(reader.NameOf(entity).Text() + ": " + error.what());
+        throw SaveError(reader.NameOf(ref).Text() + ": " + error.what());
     }
-    parts_->wanted.emplace(entity.entity_->offset, std::move(appearance));
+    wanted.emplace(entity.offset, Wanted{std::move(appearance), std::move(edit)});
     return true;
+}
+
+Appearance DocumentWriter::Parts::AppearanceWith(const std::string& contents, const Entity& entity) {
+    Entity changed = patch.EntityAt(entity.offset);
+    if (auto* text = std::get_if<Apart<Text>>(&changed.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Apart<MText>>(&changed.shape)) (*text)->text = contents;
+    return AppearanceOf(known, changed);
+}
+
+namespace {
+
+int WithFlag(int flags, int flag, std::optional<bool> wanted) {
+    return wanted.value_or((flags & flag) != 0) ? flags | flag : flags & ~flag;
+}
+
+void SetColor(const std::string& text, Layer& layer) {
+    const uint32_t color = ReadColor(text, false);
+    if (color == kColorByLayer || color == kColorByBlock) throw SaveError("a layer needs a color of its own");
+    const int index = NearestIndex(color);
+    layer.color = layer.color < 0 ? -index : index;
+    layer.trueColor = ColorOfIndex(index) == color ? -1 : TrueColorOf(color);
+}
+
+int ReadLineWeight(const std::string& text) {
+    if (IsSameName(text, "Default")) return kLineWeightDefault;
+    double millimeters = 0;
+    if (!drawcore::ReadLength(text, *drawcore::FindLengthUnit("mm"), millimeters) || millimeters < 0)
+        throw SaveError("'" + text + "' is not a line weight, as in \"0.5 mm\" or Default");
+    return NearestWeight(millimeters / kMillimetersPerInch);
+}
+
+} // namespace
+
+bool DocumentWriter::ChangeLayer(const std::string& name, const LayerValues& wanted) {
+    DrawingPatch& patch = parts_->patch;
+    const LayerIndex index = patch.FindLayer(name);
+    const Layer was = patch.Describe(index);
+    Layer layer = was;
+    if (wanted.color) SetColor(*wanted.color, layer);
+    if (wanted.isOn) layer.color = *wanted.isOn ? std::abs(layer.color) : -std::abs(layer.color);
+    layer.flags = WithFlag(layer.flags, kLayerIsFrozen, wanted.isFrozen);
+    layer.flags = WithFlag(layer.flags, kLayerIsLocked, wanted.isLocked);
+    layer.plotted = wanted.isPlotted.value_or(layer.plotted);
+    if (wanted.lineType) layer.lineType = parts_->LineTypeNamed(*wanted.lineType);
+    if (wanted.lineWeight) layer.lineWeight = ReadLineWeight(*wanted.lineWeight);
+    const bool isOther = !was.declared || layer.color != was.color || layer.trueColor != was.trueColor ||
+                         layer.flags != was.flags || layer.plotted != was.plotted || layer.lineType != was.lineType ||
+                         layer.lineWeight != was.lineWeight;
+    if (isOther) patch.ChangeLayer(index, layer);
+    const bool isRenamed = wanted.name && *wanted.name != ToDisplayText(was.name);
+    if (isRenamed) parts_->Rename(index, *wanted.name);
+    return isOther || isRenamed;
+}
+
+std::string DocumentWriter::Parts::LineTypeNamed(const std::string& name) const {
+    constexpr char kContinuous[] = "Continuous";
+    std::string names = kContinuous;
+    for (const LineType& type : known.lineTypes) {
+        const std::string shown = ToDisplayText(type.name);
+        if (type.declared && IsSameName(shown, name)) return type.name;
+        if (type.declared && !IsSameName(shown, kContinuous)) names += ", " + shown;
+    }
+    if (IsSameName(name, kContinuous)) return kContinuous;
+    throw SaveError("'" + name + "' is none of the line types " + names);
+}
+
+void DocumentWriter::Parts::Rename(LayerIndex index, const std::string& name) {
+    if (name.empty() || name.find_first_of("<>/\\\":;?*|=`") != std::string::npos)
+        throw SaveError("'" + name + "' is not a name of a layer");
+    if (patch.Describe(index).name == "0") throw SaveError("layer 0 keeps its name");
+    for (const Layer& layer : known.layers)
+        if (layer.declared && IsSameName(ToDisplayText(layer.name), name) &&
+            !IsSameName(ToDisplayText(patch.Describe(index).name), name))
+            throw SaveError("there is a layer '" + name + "' already");
+    patch.RenameLayer(index, name);
 }
 
 std::vector<std::string> DocumentWriter::Notes() const {
@@ -57,21 +192,59 @@ std::vector<std::string> DocumentWriter::Notes() const {
 }
 
 void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
-    const auto differ = [](const std::string& what) { throw SaveError("the changed drawing would not hold " + what); };
-    const Document &tables = patch.Known(), &read = *after.document_;
-    const PropertyTexts texts(tables);
-    const std::vector<EntityRef> before = reader.Entities(), now = after.Entities();
-    if (before.size() != now.size()) differ("all entities");
+    RequireEntities(reader.Entities(), after.Entities(), after);
+    RequireEntities(reader.PaperEntities(), after.PaperEntities(), after);
+    for (const Layer& layer : patch.Known().layers) {
+        if (!layer.declared) continue;
+        const auto isIt = [&](const Layer& other) {
+            return IsSameName(ToDisplayText(other.name), ToDisplayText(layer.name)) && other.color == layer.color &&
+                   other.flags == layer.flags && other.trueColor == layer.trueColor &&
+                   other.lineWeight == layer.lineWeight && other.plotted == layer.plotted;
+        };
+        const std::vector<Layer>& layers = after.document_->layers;
+        if (std::none_of(layers.begin(), layers.end(), isIt)) Differ("layer " + ToDisplayText(layer.name));
+    }
+}
+
+void DocumentWriter::Parts::Differ(const std::string& what) {
+    throw SaveError("the changed drawing would not hold " + what);
+}
+
+void DocumentWriter::Parts::RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
+                                            const DocumentReader& after) const {
+    if (before.size() != now.size()) Differ("all entities");
     for (size_t i = 0; i < before.size(); ++i) {
         const auto change = wanted.find(before[i].entity_->offset);
-        const Appearance one = change != wanted.end() ? change->second : AppearanceOf(known, *before[i].entity_);
-        const Appearance other = AppearanceOf(read, *now[i].entity_);
-        if (SameAppearance(tables, one, read, other)) continue;
-        for (const std::string& name : DocumentReader::PropertyNames())
-            if (texts.Get(name, one) != after.texts_->Get(name, other))
-                differ(name + " of " + reader.NameOf(before[i]).Text());
-        differ("the appearance of " + reader.NameOf(before[i]).Text());
+        if (change != wanted.end()) RequireEdit(before[i], change->second.edit, now[i], after);
+        RequireAppearance(before[i],
+                          change != wanted.end() ? change->second.appearance : AppearanceOf(known, *before[i].entity_),
+                          now[i], after);
     }
+}
+
+void DocumentWriter::Parts::RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
+                                        const DocumentReader& after) const {
+    const auto require = [&](bool isGood, const char* name) {
+        if (!isGood) Differ(name + (" of " + reader.NameOf(entity).Text()));
+    };
+    if (edit.text) require(after.Get(now, "Text") == *edit.text, "Text");
+    const std::optional<AxisEnds> ends = edit.EndsOf(*entity.entity_);
+    if (!ends) return;
+    const AxisEnds placed = AxisEndsOf(*now.entity_);
+    for (size_t i = 0; i < ends->size(); ++i)
+        require(Length((*ends)[i] - placed[i]) <= RoundingAt((*ends)[0]) * 16, "Position");
+}
+
+void DocumentWriter::Parts::RequireAppearance(const EntityRef& entity, const Appearance& appearance,
+                                              const EntityRef& now, const DocumentReader& after) const {
+    const Document &tables = patch.Known(), &read = *after.document_;
+    const Appearance other = AppearanceOf(read, *now.entity_);
+    if (SameAppearance(tables, appearance, read, other)) return;
+    const PropertyTexts texts(tables);
+    for (const std::string& name : PropertyTexts::Names())
+        if (texts.Get(name, appearance) != after.texts_->Get(name, other))
+            Differ(name + " of " + reader.NameOf(entity).Text());
+    Differ("the appearance of " + reader.NameOf(entity).Text());
 }
 
 std::string DocumentWriter::Finish() {

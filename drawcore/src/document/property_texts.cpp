@@ -60,12 +60,40 @@ uint32_t ReadWord(const std::vector<PropertyWord>& words, const std::string& tex
     return *value;
 }
 
+// "255,0,0"
+std::optional<uint32_t> ReadComponents(const std::string& text) {
+    uint32_t rgb = 0;
+    const char *at = text.data(), *const end = at + text.size();
+    for (int i = 0; i < 3; ++i) {
+        if (i > 0 && (at == end || *at++ != ',')) return std::nullopt;
+        unsigned component = 0;
+        const auto [stopped, error] = std::from_chars(at, end, component);
+        if (error != std::errc() || component > 255) return std::nullopt;
+        rgb = rgb << 8 | component;
+        at = stopped;
+    }
+    return at == end ? std::optional<uint32_t>(rgb) : std::nullopt;
+}
+
+// As group 62 has it.
+std::optional<uint32_t> ReadColorNumber(const std::string& text) {
+    int number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stopped != end || number < kIndexByBlock || number > kIndexByLayer) return std::nullopt;
+    return number == kIndexByBlock ? kColorByBlock : number == kIndexByLayer ? kColorByLayer : ColorOfIndex(number);
+}
+
+} // namespace
+
 uint32_t ReadColor(const std::string& text, bool ofBrush) {
     std::vector<PropertyWord> markers = WordsOf(PropertyMeaning::Color);
     if (!ofBrush) markers.pop_back(); // the color of the pen
     if (const std::optional<uint32_t> marker = FindWord(markers, text)) return *marker;
     for (int index = 1; index <= kColorNumbers; ++index)
         if (IsSameName(text, NameOfIndex(index))) return ColorOfIndex(index);
+    if (const auto color = ReadColorNumber(text)) return *color;
+    if (const auto components = ReadComponents(text)) return ColorOf(0, static_cast<int32_t>(*components));
     uint32_t rgb = 0;
     const char* const end = text.data() + text.size();
     if (text.size() == 7 && text[0] == '#' && std::from_chars(text.data() + 1, end, rgb, 16).ptr == end)
@@ -73,8 +101,10 @@ uint32_t ReadColor(const std::string& text, bool ofBrush) {
     std::vector<std::string> allowed = TextsOf(markers);
     for (int index = 1; index <= 7; ++index)
         allowed.push_back(NameOfIndex(index));
-    Refuse(text, Listed(allowed) + ", Color 8 to Color 255, #RRGGBB");
+    Refuse(text, Listed(allowed) + ", Color 8 to Color 255, 1 to 255, #RRGGBB, R,G,B");
 }
+
+namespace {
 
 uint32_t ReadTextStyle(const std::string& text) {
     uint32_t bits = 0;
@@ -294,9 +324,17 @@ const PropertyForms* PropertyForms::Find(std::string_view name) {
 
 namespace {
 
+// Names of known lengths: it is called for every property of every entity.
 const PropertyInfo& InfoOf(std::string_view name) {
-    return *std::find_if(std::begin(kPropertyList), std::end(kPropertyList),
-                         [&](const PropertyInfo& info) { return IsSameName(info.name, name); });
+    static const std::vector<std::string_view> kNames = [] {
+        std::vector<std::string_view> names;
+        for (const PropertyInfo& info : kPropertyList)
+            names.emplace_back(info.name);
+        return names;
+    }();
+    const auto found =
+        std::find_if(kNames.begin(), kNames.end(), [name](std::string_view known) { return IsSameName(known, name); });
+    return kPropertyList[found - kNames.begin()];
 }
 
 } // namespace
@@ -316,6 +354,34 @@ void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
             patterns_.push_back(std::move(brush));
     }
+}
+
+std::vector<std::string> PropertyTexts::Names() {
+    std::vector<std::string> names;
+    for (const PropertyInfo& info : kPropertyList)
+        names.push_back(info.name);
+    const auto place = [](const std::string& name) {
+        const PropertyInfo& info = *FindPropertyInfo(name);
+        return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
+    };
+    std::stable_sort(names.begin(), names.end(),
+                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
+    return names;
+}
+
+std::optional<std::string> PropertyTexts::NameOf(std::string_view name) {
+    for (const PropertyInfo& info : kPropertyList)
+        if (IsSameName(info.name, name)) return info.name;
+    return std::nullopt;
+}
+
+std::optional<double> PropertyTexts::NumberOf(std::string_view name, const Appearance& appearance) {
+    const PropertyInfo& info = InfoOf(name);
+    if (info.name == std::string_view(kPropPenWidth)) {
+        if (appearance.width < 0) return std::nullopt;
+        return appearance.worldWidth ? appearance.width : appearance.width * kMillimetersPerInch;
+    }
+    return info.IsReal() ? dxf::NumberOf(appearance, info.name) : std::nullopt;
 }
 
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {

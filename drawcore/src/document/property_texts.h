@@ -5,6 +5,10 @@
 //   texts.Set("PenColor", "purple", appearance)     // SaveError: "PenColor: 'purple' is none of By Layer, ..."
 #pragma once
 
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "drawcore/src/dxf/appearance.h"
 #include "drawcore/src/units/unit_settings.h"
 
@@ -15,7 +19,16 @@ public:
     // The document must outlive this object.
     explicit PropertyTexts(const Document& document);
 
+    // Returns the names of the sheet's properties in the order in which they are set: a width depends on its scale
+    // system.
+    static std::vector<std::string> Names();
+    // Returns the name as it is written; none if there is no such property. The other functions take such names in any
+    // case.
+    static std::optional<std::string> NameOf(std::string_view name);
     static bool Has(const Entity& entity, std::string_view name);
+    // Returns the value as a number: a length in millimeters of paper or in drawing units, a factor or an angle; none
+    // for other properties and for inherited widths.
+    static std::optional<double> NumberOf(std::string_view name, const Appearance& appearance);
 
     std::string Get(std::string_view name, const Appearance& appearance) const;
     // Throws SaveError if the text is not a value of the property. The message lists the valid ones.
@@ -30,6 +43,9 @@ private:
     drawcore::UnitSettings units_;
     std::vector<BrushAppearance> patterns_; // the patterns of its hatches
 };
+
+// Reads "By Layer", a name, "Color 12", a number, "#FF0000" or "255,0,0". Throws SaveError.
+uint32_t ReadColor(const std::string& text, bool ofBrush);
 
 // Returns whether two entities, each in its own drawing, have the same appearance.
 bool SameAppearance(const Document& a, const Appearance& one, const Document& b, const Appearance& other);

@@ -26,6 +26,11 @@ public:
         return box_;
     }
 
+    Extents Of(const Entity& entity) {
+        Add(entity, Matrix());
+        return box_;
+    }
+
     Extents Of(const Block& block) {
         AddEntities(block, Matrix());
         return box_;
@@ -101,6 +106,19 @@ private:
 Extents ExtentsOf(const Document& drawing) {
     BlockBoxes blockBoxes(drawing.blocks.size());
     return ExtentsWalk(drawing, blockBoxes).OfModelSpace();
+}
+
+struct EntityExtents::Boxes {
+    BlockBoxes ofBlocks;
+};
+
+EntityExtents::EntityExtents(const Document& drawing)
+    : drawing_(drawing), boxes_(std::make_unique<Boxes>(Boxes{BlockBoxes(drawing.blocks.size())})) {}
+
+EntityExtents::~EntityExtents() = default;
+
+Extents EntityExtents::Of(const Entity& entity) {
+    return ExtentsWalk(drawing_, boxes_->ofBlocks).Of(entity);
 }
 
 } // namespace dxf

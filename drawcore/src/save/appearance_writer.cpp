@@ -16,15 +16,15 @@ namespace {
 constexpr int kWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
                             53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 
+constexpr int kThrough = 128; // flag of a polyline: dashes continue around corners
+
+} // namespace
+
 int NearestWeight(double inches) {
     const double weight = inches * kWeightsPerInch;
     return *std::min_element(std::begin(kWeights), std::end(kWeights),
                              [&](int a, int b) { return std::fabs(a - weight) < std::fabs(b - weight); });
 }
-
-constexpr int kThrough = 128; // flag of a polyline: dashes continue around corners
-
-} // namespace
 
 AppearanceWriter::AppearanceWriter(DrawingPatch& drawing, size_t offset)
     : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)), entity_(drawing.EntityAt(offset)),

@@ -9,6 +9,9 @@
 
 namespace dxf {
 
+// Returns the line weight of the file format (0.01 mm) that is nearest to that width of paper.
+int NearestWeight(double inches);
+
 class AppearanceWriter {
 public:
     AppearanceWriter(DrawingPatch& drawing, size_t offset);
@@ -16,6 +19,7 @@ public:
     // Move the entity, place an insertion, or move vertices. At most one call, before Write.
     void Move(const Matrix& motion);
     void Place(const AxisEnds& ends);
+    void PutContents(const std::string& text);
     // The vertices are those of the graphic made from the entity, in order. What cannot be moved stays.
     void MoveVertices(const std::vector<Vec3>& to);
 

@@ -35,6 +35,7 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityP
     }
     if (place.ends) writer.Place(*place.ends);
     if (place.vertices) writer.MoveVertices(*place.vertices);
+    if (place.text) writer.PutContents(*place.text);
     writer.Write(wanted);
 }
 
@@ -51,8 +52,34 @@ void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     if (wanted.color != was.color) record.Set(62, std::to_string(wanted.color), {70, 2});
     if (wanted.flags != was.flags) record.Set(70, std::to_string(wanted.flags), {2});
     if (otherLine) record.Set(6, in_.lineTypes.Stored(Known().At(line)), {62, 70, 2});
+    const bool isWeighed = wanted.lineWeight != was.lineWeight, isPlotting = wanted.plotted != was.plotted;
+    if ((isWeighed || isPlotting) && Known().header.version < "AC1015")
+        throw SaveError("a file of this version has no line weights and no plotting of layers");
+    if (isPlotting) record.Set(290, wanted.plotted ? "1" : "0", {6, 62, 70, 2});
+    if (isWeighed) record.Set(370, std::to_string(wanted.lineWeight), {290, 6, 62, 70, 2});
     if (wanted.trueColor == was.trueColor) return;
     wanted.trueColor < 0 ? record.Remove(420) : record.Set(420, std::to_string(wanted.trueColor), {62});
+}
+
+// Names of layers are in group 8 of any record, and in group 1003 of extended data.
+void DrawingPatch::RenameLayer(LayerIndex index, const std::string& name) {
+    constexpr int kLayer = 8, kLayerInExtended = 1003;
+    Layer& layer = Describe(index);
+    const std::string now = in_.decoder.Encode(name);
+    const auto isSame = [&](std::string_view stored) {
+        return IsSameName(ToDisplayText(in_.decoder.Decode(stored)), ToDisplayText(layer.name));
+    };
+    TagReader tags(patch_.Text(), kSilent);
+    bool isInRecord = false;
+    for (const Tag* tag = &tags.Next(); !tag->Is(0, "EOF"); tag = &tags.Next()) {
+        if (tag->StartsRecord()) isInRecord = tag->offset == layer.offset && layer.declared;
+        const bool names = tag->code == kLayer || tag->code == kLayerInExtended || (isInRecord && tag->code == 2);
+        if (!names || !isSame(tag->Trimmed())) continue;
+        const auto begin = static_cast<size_t>(tag->Trimmed().data() - patch_.Text().data());
+        patch_.Replace(begin, tag->Trimmed().size(), now);
+    }
+    layer.name = name;
+    layer.stored.clear();
 }
 
 std::string DrawingPatch::Finish() {

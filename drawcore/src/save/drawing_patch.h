@@ -18,12 +18,14 @@
 
 namespace dxf {
 
-// The requested position of an entity; null members do not move it.
+// The requested position of an entity, and the requested contents of a text; null members leave it as it is.
 struct EntityPlace {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
     // For lines and polylines, in world coordinates, as many as it has.
     const std::vector<Vec3>* vertices = nullptr;
+    // As Text and MText store it, with control and inline codes.
+    const std::string* text = nullptr;
 };
 
 class DrawingPatch {
@@ -49,8 +51,13 @@ public:
     // May be called once per entity.
     void Change(size_t offset, const Appearance& wanted, const EntityPlace& place = {});
 
-    // Changes color, flags and line type (by name) of a layer; once per layer, and before changes of entities.
+    // Changes color, flags, line type (by name), weight and plotting of a layer; once per layer, and before changes of
+    // entities.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
+
+    // Gives the layer another name (UTF-8) in its record and wherever records name it. Without other changes of
+    // entities: both would replace the same groups.
+    void RenameLayer(LayerIndex index, const std::string& name);
 
     // Adds a record for the layer if no table has one.
     void NeedRecord(LayerIndex index);

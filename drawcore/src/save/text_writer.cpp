@@ -50,6 +50,11 @@ bool IsNameForCode(const std::string& family) {
 
 } // namespace
 
+void AppearanceWriter::PutContents(const std::string& contents) {
+    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) (*text)->text = contents;
+}
+
 void AppearanceWriter::WriteText(const Appearance& wanted) {
     if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted);
     if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);

@@ -1,0 +1,208 @@
+// One row for each name.
+#include "drawcore/src/document/entity_texts.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "drawcore/include/drawcore/dxf_document.h"
+#include "drawcore/src/dxf/text_decoding.h"
+
+namespace dxf {
+
+namespace {
+
+enum Owners { texts = 1, attributes = 2, inserts = 4, points = 8 };
+
+std::vector<double> ReadNumbers(const std::string& text) {
+    std::vector<double> numbers;
+    const char *at = text.data(), *const end = at + text.size();
+    while (at != end) {
+        double number = 0;
+        while (at != end && *at == ' ')
+            ++at;
+        const auto [stopped, error] = std::from_chars(at, end, number);
+        if (error != std::errc() || !std::isfinite(number)) return {};
+        numbers.push_back(number);
+        at = stopped;
+        while (at != end && *at == ' ')
+            ++at;
+        if (at == end) break;
+        if (*at++ != ',' || at == end) return {};
+    }
+    return numbers;
+}
+
+// The shortest text that is read back to the same number.
+std::string NumberText(double number) {
+    char text[32];
+    const auto [end, error] = std::to_chars(text, text + sizeof text, number);
+    return error == std::errc() ? std::string(text, end) : std::to_string(number);
+}
+
+std::string PointText(const Vec3& point) {
+    return NumberText(point.x) + "," + NumberText(point.y) + "," + NumberText(point.z);
+}
+
+const Insert* InsertOf(const Entity& entity) {
+    const auto* insert = std::get_if<Apart<Insert>>(&entity.shape);
+    return insert ? insert->get() : nullptr;
+}
+
+const Text* TextOf(const Entity& entity) {
+    const auto* text = std::get_if<Apart<Text>>(&entity.shape);
+    return text ? text->get() : nullptr;
+}
+
+const MText* ParagraphsOf(const Entity& entity) {
+    const auto* text = std::get_if<Apart<MText>>(&entity.shape);
+    return text ? text->get() : nullptr;
+}
+
+Vec3 ReadScale(const std::string& text) {
+    std::vector<double> factors = ReadNumbers(text);
+    if (factors.size() == 1) factors.resize(3, factors[0]);
+    if (factors.size() != 3 || std::count(factors.begin(), factors.end(), 0.0) != 0)
+        throw SaveError("'" + text + "' is not a scale, as in 2 or 2,2,1");
+    return {factors[0], factors[1], factors[2]};
+}
+
+double ReadRotation(const std::string& text) {
+    const std::vector<double> angle = ReadNumbers(text);
+    if (angle.size() != 1) throw SaveError("'" + text + "' is not an angle in degrees");
+    return angle[0];
+}
+
+struct Row {
+    std::string_view name;
+    bool (*has)(const Entity&);
+    std::string (*get)(const Document&, const Entity&);
+    void (*set)(const std::string&, EntityEdit&); // null: cannot be set
+};
+
+bool IsText(const Entity& entity) {
+    return TextOf(entity) || ParagraphsOf(entity);
+}
+
+bool IsTagged(const Entity& entity) {
+    return TextOf(entity) && TextOf(entity)->role != Text::Role::text;
+}
+
+bool IsInsert(const Entity& entity) {
+    return InsertOf(entity) && InsertOf(entity)->block != BlockIndex::none;
+}
+
+constexpr Row kRows[] = {
+    {"Tag", IsTagged, [](const Document&, const Entity& entity) { return TextOf(entity)->tag; }, nullptr},
+    {"Text", IsText,
+     [](const Document&, const Entity& entity) {
+         return TextOf(entity) ? TextOf(entity)->text : ParagraphsOf(entity)->text;
+     },
+     [](const std::string& text, EntityEdit& edit) { edit.text = text; }},
+    {"BlockName", IsInsert,
+     [](const Document& document, const Entity& entity) {
+         return ToDisplayText(document.At(InsertOf(entity)->block).name);
+     },
+     nullptr},
+    {"Position", IsInsert, [](const Document&, const Entity& entity) { return PointText(AxisEndsOf(entity)[0]); },
+     [](const std::string& text, EntityEdit& edit) { edit.position = ReadPoint(text); }},
+    {"Scale", IsInsert,
+     [](const Document&, const Entity& entity) {
+         const Insert& insert = *InsertOf(entity);
+         return PointText({insert.scaleX, insert.scaleY, insert.scaleZ});
+     },
+     [](const std::string& text, EntityEdit& edit) { edit.scale = ReadScale(text); }},
+    {"Rotation", IsInsert, [](const Document&, const Entity& entity) { return NumberText(InsertOf(entity)->rotation); },
+     [](const std::string& text, EntityEdit& edit) { edit.rotation = ReadRotation(text); }},
+};
+
+const Row* Find(std::string_view name) {
+    for (const Row& row : kRows)
+        if (IsSameName(row.name, name)) return &row;
+    return nullptr;
+}
+
+} // namespace
+
+std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
+    if (!InsertOf(entity) || (!position && !scale && !rotation)) return std::nullopt;
+    AxisEnds ends = AxisEndsOf(entity);
+    const Vec3 to = position.value_or(ends[0]);
+    if (scale || rotation) { // without a placement of its own, which would contradict them
+        const Insert& was = *InsertOf(entity);
+        const Vec3 factors = scale.value_or(Vec3{was.scaleX, was.scaleY, was.scaleZ});
+        auto insert = std::make_unique<Insert>();
+        insert->at = was.at;
+        insert->scaleX = factors.x;
+        insert->scaleY = factors.y;
+        insert->scaleZ = factors.z;
+        insert->rotation = rotation.value_or(was.rotation);
+        Entity placed;
+        placed.normal = entity.normal;
+        placed.shape = std::move(insert);
+        ends = AxisEndsOf(placed);
+    }
+    const Vec3 motion = to - ends[0];
+    for (Vec3& end : ends)
+        end = end + motion;
+    return ends;
+}
+
+Vec3 ReadPoint(const std::string& text) {
+    std::vector<double> numbers = ReadNumbers(text);
+    if (numbers.size() == 2) numbers.push_back(0);
+    if (numbers.size() != 3) throw SaveError("'" + text + "' is not a point, as in 1.5,2 or 1.5,2,0");
+    return {numbers[0], numbers[1], numbers[2]};
+}
+
+std::vector<std::string> EntityTexts::Names() {
+    std::vector<std::string> names;
+    for (const Row& row : kRows)
+        names.emplace_back(row.name);
+    return names;
+}
+
+std::optional<std::string> EntityTexts::NameOf(std::string_view name) {
+    const Row* row = Find(name);
+    return row ? std::optional<std::string>(std::in_place, row->name) : std::nullopt;
+}
+
+bool EntityTexts::IsName(std::string_view name) {
+    return Find(name) != nullptr;
+}
+
+bool EntityTexts::Has(const Entity& entity, std::string_view name) {
+    const Row* row = Find(name);
+    return row && row->has(entity);
+}
+
+std::string EntityTexts::Get(std::string_view name, const Entity& entity) const {
+    return Find(name)->get(document_, entity);
+}
+
+std::string EntityTexts::Normalized(std::string_view name, const std::string& text) {
+    const Row& row = *Find(name);
+    if (!row.set) return text;
+    EntityEdit edit;
+    try {
+        row.set(text, edit);
+    } catch (const SaveError&) {
+        return text;
+    }
+    return edit.position   ? PointText(*edit.position)
+           : edit.scale    ? PointText(*edit.scale)
+           : edit.rotation ? NumberText(*edit.rotation)
+                           : text;
+}
+
+void EntityTexts::Set(std::string_view name, const std::string& text, EntityEdit& edit) {
+    const Row& row = *Find(name);
+    if (!row.set) throw SaveError(std::string(row.name) + ": it cannot be set");
+    try {
+        row.set(text, edit);
+    } catch (const SaveError& error) {
+        throw SaveError(std::string(row.name) + ": " + error.what());
+    }
+}
+
+} // namespace dxf
