@@ -15,8 +15,8 @@
 
 namespace files {
 
-// Throws FileError if a FileReplacement of this target would throw for the target's sake. Returns false if there is no
-// such file yet.
+// Throws FileError if the file exists and cannot be replaced: it is read-only or not a regular file. Returns whether it
+// exists.
 bool RequireReplaceable(const std::filesystem::path& target);
 
 class FileReplacement {
