@@ -14,9 +14,9 @@
 #include "file_list.h"
 #include "files/file_error.h"
 #include "files/file_replacement.h"
-#include "progress.h"
 #include "text.h"
 #include "tools/cli/arguments.h"
+#include "tools/cli/progress.h"
 #ifdef _WIN32
 #include "orlo/win/encoded_text.h"
 #endif
@@ -28,12 +28,11 @@ using namespace suminfo;
 // Reports failures on stderr, and in forms that programs read also in the place of the file.
 class FailureReport {
 public:
-    FailureReport(ReportForm form, Progress& progress) : form_(form), progress_(progress) {}
+    FailureReport(ReportForm form, cli::Progress& progress) : form_(form), progress_(progress) {}
 
     void Add(const std::string& file, const std::string& why) {
-        progress_.MakeWayFor(stderr);
+        progress_.Hide();
         Print(stderr, "suminfo: " + OneLine(file) + ": " + why + "\n");
-        progress_.MakeWayFor(stdout);
         Print(stdout, FailureLine(file, why, form_));
     }
 
@@ -55,7 +54,7 @@ public:
 
 private:
     ReportForm form_;
-    Progress& progress_;
+    cli::Progress& progress_;
 };
 
 // The work on one file: what it prints, and whether nothing irregular was found.
@@ -94,7 +93,9 @@ int Run(const std::vector<std::string>& arguments) {
     if (!parsed.line) return parsed.exitCode;
     const CommandLine& line = *parsed.line;
     const FileList list = FilesOf(line.files, line.recursive);
-    Progress progress(list.files.size());
+    const bool hasBar = list.files.size() > 1 && IsTerminal(stderr);
+    const auto draw = [](const std::string& bar) { Print(stderr, bar); };
+    cli::Progress progress(list.files.size(), hasBar ? std::function<void(const std::string&)>(draw) : nullptr);
     FailureReport failures(line.form, progress);
     Print(stdout, HeadingsOf(line.form));
     for (const FileList::Unreadable& unreadable : list.unreadable)
@@ -102,15 +103,16 @@ int Run(const std::vector<std::string>& arguments) {
     const bool hasTables = line.command == Command::show && line.form == ReportForm::table;
     bool isClean = list.unreadable.empty(), isFirst = true;
     for (const std::string& file : list.files) {
-        progress.Next(file);
+        progress.Show(file);
         const auto work = [&] {
             const Report report = RunOn(line, file);
-            progress.MakeWayFor(stdout);
+            if (IsTerminal(stdout)) progress.Hide();
             Print(stdout, (hasTables && !isFirst ? "\n" : "") + report.text);
             isFirst = false;
             isClean = isClean && report.clean;
         };
         isClean = failures.Try(file, work) && isClean;
+        progress.Finish();
     }
     return isClean ? kDone : kFailed;
 }

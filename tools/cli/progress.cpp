@@ -1,10 +1,8 @@
 // A progress bar on one line of the terminal.
 
-#include "progress.h"
+#include "tools/cli/progress.h"
 
-#include "console.h"
-
-namespace suminfo {
+namespace cli {
 namespace {
 
 constexpr auto kPatience = std::chrono::milliseconds(500); // before the bar appears
@@ -24,29 +22,24 @@ std::string Shortened(const std::string& file) {
 
 } // namespace
 
-Progress::Progress(size_t total)
-    : total_(total), terminal_(IsTerminal(stderr)), nextDraw_(std::chrono::steady_clock::now() + kPatience) {}
+Progress::Progress(size_t total, std::function<void(const std::string& text)> print)
+    : total_(total), print_(std::move(print)), nextDraw_(std::chrono::steady_clock::now() + kPatience) {}
 
-void Progress::Next(const std::string& file) {
-    const size_t at = done_++;
-    if (!terminal_ || total_ < 2 || std::chrono::steady_clock::now() < nextDraw_) return;
+void Progress::Show(const std::string& file, int permille) {
+    if (!print_ || total_ == 0 || std::chrono::steady_clock::now() < nextDraw_) return;
     nextDraw_ = std::chrono::steady_clock::now() + kPace;
-    const size_t filled = kBar * at / total_;
+    const size_t filled = kBar * (1000 * done_ + static_cast<size_t>(permille)) / (1000 * total_);
     const std::string line = "[" + std::string(filled, '#') + std::string(kBar - filled, '.') + "] " +
-                             std::to_string(at) + "/" + std::to_string(total_) + " " + Shortened(file);
-    // Overwrites a longer previous line with spaces, since not all consoles support clearing a line.
-    Print(stderr, "\r" + line + std::string(shown_ > line.size() ? shown_ - line.size() : 0, ' '));
+                             std::to_string(done_) + "/" + std::to_string(total_) + " " + Shortened(file);
+    // Blanks over what was longer: a console need not know the sequence that clears a line.
+    print_("\r" + line + std::string(shown_ > line.size() ? shown_ - line.size() : 0, ' '));
     shown_ = line.size();
-}
-
-void Progress::MakeWayFor(FILE* stream) {
-    if (IsTerminal(stream)) Hide(); // otherwise the output goes elsewhere
 }
 
 void Progress::Hide() {
     if (shown_ == 0) return;
-    Print(stderr, "\r" + std::string(shown_, ' ') + "\r");
+    print_("\r" + std::string(shown_, ' ') + "\r");
     shown_ = 0;
 }
 
-} // namespace suminfo
+} // namespace cli
