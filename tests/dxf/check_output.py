@@ -39,7 +39,7 @@ if os.geteuid() == 0:  # its own device file, so that a fault does not replace o
 for target, kind in targets:
     done = run("set", "plan.dxf", "PenColor=red", "-o", target)
     still = kind(os.lstat(os.path.join(WORK, target)).st_mode)
-    expect(target, done.returncode == 1 and b"not a regular file" in done.stderr and still, done)
+    expect(target, done.returncode == 2 and b"not a regular file" in done.stderr and still, done)
 
 done = run("set", "plan.dxf", "PenColor=red", "-o", "-")
 expect("standard output", done.returncode == 0 and done.stdout == read("red.dxf") and b"changed" in done.stderr, done)

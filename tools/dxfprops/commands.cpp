@@ -1,72 +1,248 @@
 // Reads, changes and compares drawings.
 #include "tools/dxfprops/commands.h"
 
+#include <algorithm>
 #include <map>
+
+#include "tools/cli/wildcard.h"
 
 namespace dxfprops {
 
-Listing ListProperties(const std::string& file, const std::vector<Condition>& where,
-                       const std::vector<std::string>& show) {
-    const DrawingFile drawing(file);
-    const std::vector<std::string> names = show.empty() ? DrawingFile::PropertyNames() : show;
-    Listing listing;
-    for (const dxf::EntityRef& found : drawing.Select(where)) {
-        EntityProperties& entity = listing.entities.emplace_back();
-        entity.name = drawing.NameOf(found);
-        for (const std::string& name : names)
-            if (DrawingFile::Has(found, name))
-                entity.values.emplace_back(*DrawingFile::FindPropertyName(name), drawing.Get(found, name));
+namespace {
+
+// Entities of all spaces by their handles, or by their lines.
+class EntityIndex {
+public:
+    explicit EntityIndex(const dxf::DocumentReader& drawing) {
+        for (const auto& some : {drawing.Entities(), drawing.PaperEntities()})
+            entities_.insert(entities_.end(), some.begin(), some.end());
+        for (size_t i = 0; i < entities_.size(); ++i) {
+            const dxf::RecordName name = drawing.NameOf(entities_[i]);
+            (name.handle.empty() ? byLine_[name.line] : byHandle_[name.handle]) = i;
+        }
     }
-    if (listing.entities.empty()) listing.kinds = drawing.KindsAround(where);
-    return listing;
+
+    const std::vector<dxf::EntityRef>& All() const { return entities_; }
+    const dxf::EntityRef* Find(const dxf::RecordName& name) const {
+        const auto handle = byHandle_.find(name.handle);
+        const auto line = byLine_.find(name.line);
+        if (!name.handle.empty()) return handle != byHandle_.end() ? &entities_[handle->second] : nullptr;
+        return line != byLine_.end() ? &entities_[line->second] : nullptr;
+    }
+    // The position of an entity of that handle, or size() if there is none.
+    size_t FindHandle(const std::string& handle) const {
+        const auto found = byHandle_.find(handle);
+        return found != byHandle_.end() ? found->second : entities_.size();
+    }
+
+private:
+    std::vector<dxf::EntityRef> entities_;
+    std::map<std::string, size_t> byHandle_;
+    std::map<uint32_t, size_t> byLine_;
+};
+
+// Compares one entity of two drawings.
+class Comparer {
+public:
+    Comparer(const dxf::DocumentReader& before, const dxf::DocumentReader& after, Compared compared)
+        : before_(before), after_(after), compared_(compared) {}
+
+    std::vector<Difference::Value> Compare(const dxf::EntityRef& one, const dxf::EntityRef& other) const {
+        std::vector<Difference::Value> values;
+        if (!before_.IsLike(one, after_, other)) AddValues(one, other, Compared::properties, values);
+        if (compared_ == Compared::properties) return values;
+        const size_t properties = values.size();
+        AddValues(one, other, Compared::all, values);
+        const auto isPlaced = [](const Difference::Value& value) { return value.property != "Text"; };
+        const auto first = values.begin() + static_cast<std::ptrdiff_t>(properties);
+        if (std::none_of(first, values.end(), isPlaced)) AddShape(one, other, first != values.end(), values);
+        return values;
+    }
+
+private:
+    // Names of the sheet's properties come first; all: the others.
+    void AddValues(const dxf::EntityRef& one, const dxf::EntityRef& other, Compared part,
+                   std::vector<Difference::Value>& values) const {
+        bool isOfSheet = true;
+        for (const std::string& name : dxf::DocumentReader::PropertyNames()) {
+            isOfSheet = isOfSheet && name != "Tag";
+            if (isOfSheet != (part == Compared::properties) || !dxf::DocumentReader::Has(one, name)) continue;
+            const std::string was = before_.GetWithVariety(one, name);
+            const std::string is = dxf::DocumentReader::Has(other, name) ? after_.GetWithVariety(other, name) : "";
+            if (was != is) values.push_back({name, was, is});
+        }
+    }
+
+    // Groups that differ: "10 1.500000". Texts, groups 1 to 3, may have been reported.
+    void AddShape(const dxf::EntityRef& one, const dxf::EntityRef& other, bool isTextReported,
+                  std::vector<Difference::Value>& values) const {
+        constexpr size_t kMost = 8;
+        std::vector<std::string> was = before_.ShapeOf(one), is = after_.ShapeOf(other);
+        if (isTextReported)
+            for (auto* shape : {&was, &is})
+                shape->erase(std::remove_if(shape->begin(), shape->end(),
+                                            [](const std::string& group) { return group[1] == ' ' && group[0] < '4'; }),
+                             shape->end());
+        std::string before, after;
+        size_t count = 0;
+        for (size_t i = 0; i < std::max(was.size(), is.size()) && count < kMost; ++i) {
+            const std::string first = i < was.size() ? was[i] : "", second = i < is.size() ? is[i] : "";
+            if (first == second) continue;
+            ++count;
+            before += (before.empty() ? "" : "; ") + first;
+            after += (after.empty() ? "" : "; ") + second;
+        }
+        if (count > 0) values.push_back({"Shape", before, after});
+    }
+
+    const dxf::DocumentReader& before_;
+    const dxf::DocumentReader& after_;
+    Compared compared_;
+};
+
+void Finish(const DrawingFile& drawing, dxf::DocumentWriter& writer, const Target& target, SetResult& result) {
+    result.notes = writer.Notes();
+    const std::string bytes = writer.Finish();
+    if (target.isDry)
+        result.differences = FindDifferences(drawing, dxf::DocumentReader(bytes), Compared::all);
+    else
+        drawing.Write(bytes, target.output, target.keepsBackup);
 }
 
-SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
-                        const std::vector<Condition>& values, const std::string& output) {
-    const DrawingFile drawing(file);
-    dxf::DocumentWriter::Values wanted;
-    for (const Condition& value : values)
-        wanted.emplace_back(value.name, value.value);
-    dxf::DocumentWriter writer(drawing, wanted);
-    SetResult result;
-    for (const dxf::EntityRef& entity : drawing.Select(where)) {
-        ++result.matched;
-        result.changed += writer.Change(entity);
+// Values of attributes by tag, and all others.
+struct SplitValues {
+    Values plain, attributes; // these by tags
+};
+
+SplitValues Split(const Values& values) {
+    SplitValues split;
+    const std::string prefix = kAttribute;
+    for (const auto& [name, value] : values) {
+        if (dxf::IsSameName(name.substr(0, prefix.size()), prefix))
+            split.attributes.emplace_back(name.substr(prefix.size()), value);
+        else
+            split.plain.emplace_back(name, value);
     }
-    result.notes = writer.Notes();
-    if (result.matched == 0) result.kinds = drawing.KindsAround(where);
-    drawing.Write(writer.Finish(), output);
+    return split;
+}
+
+// The values that an attribute gets by its tag, if it or its insertion is selected.
+Values ForAttribute(const DrawingFile& drawing, const dxf::EntityRef& entity, Selector& selector,
+                    const Values& attributes) {
+    const auto insertion = dxf::DocumentReader::InsertionOf(entity);
+    if (attributes.empty() || !insertion || !dxf::DocumentReader::Has(entity, "Tag")) return {};
+    const std::string tag = drawing.Get(entity, "Tag");
+    for (const auto& [name, value] : attributes)
+        if (dxf::IsSameName(name, tag) && (selector.IsSelected(entity) || selector.IsSelected(*insertion)))
+            return {{"Text", value}};
+    return {};
+}
+
+} // namespace
+
+Matches ForEachEntity(const DrawingFile& drawing, const Selection& selection, const std::vector<std::string>& show,
+                      const std::function<void(const EntityProperties&)>& each) {
+    std::vector<std::string> names;
+    for (const std::string& name : show.empty() ? dxf::DocumentReader::PropertyNames() : show)
+        names.push_back(*dxf::DocumentReader::FindPropertyName(name));
+    Matches matches;
+    Selector selector(drawing, selection);
+    for (const dxf::EntityRef& entity : drawing.Around(selection)) {
+        if (!selector.IsSelected(entity)) continue;
+        ++matches.count;
+        each({drawing.NameOf(entity), drawing.GetAll(entity, names)});
+    }
+    if (matches.count == 0) matches.kinds = drawing.KindsAround(selection);
+    return matches;
+}
+
+SetResult SetProperties(const DrawingFile& drawing, const Selection& selection, const Values& values,
+                        const Target& target) {
+    const SplitValues split = Split(values);
+    dxf::DocumentWriter writer(drawing, split.plain);
+    SetResult result;
+    Selector selector(drawing, selection);
+    for (const dxf::EntityRef& entity : drawing.Around(selection)) {
+        const bool isSelected = !split.plain.empty() && selector.IsSelected(entity);
+        Values own = ForAttribute(drawing, entity, selector, split.attributes);
+        if (!isSelected && own.empty()) continue;
+        ++result.matches.count;
+        if (own.empty()) {
+            result.changed += writer.Change(entity);
+        } else {
+            if (isSelected) own.insert(own.end(), split.plain.begin(), split.plain.end());
+            result.changed += writer.Change(entity, own);
+        }
+    }
+    if (result.matches.count == 0) result.matches.kinds = drawing.KindsAround(selection);
+    Finish(drawing, writer, target, result);
     return result;
 }
 
-std::vector<Difference> FindDifferences(const std::string& before, const std::string& after) {
-    const DrawingFile a(before), b(after);
-    const std::vector<dxf::EntityRef> ones = a.Entities(), others = b.Entities();
-    std::map<std::string, size_t> byHandle;
-    for (size_t i = 0; i < others.size(); ++i)
-        if (const std::string handle = b.NameOf(others[i]).handle; !handle.empty()) byHandle.emplace(handle, i);
+SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityProperties>& wanted,
+                          const Target& target) {
+    const EntityIndex index(drawing);
+    dxf::DocumentWriter writer(drawing, {});
+    SetResult result;
+    for (const EntityProperties& entity : wanted) {
+        const dxf::EntityRef* found = index.Find(entity.name);
+        if (!found || drawing.NameOf(*found).kind != entity.name.kind)
+            throw dxf::SaveError("the drawing has no " + entity.name.Text());
+        Values values;
+        for (const auto& [name, value] : entity.values)
+            if (!dxf::DocumentReader::Has(*found, name) || drawing.Get(*found, name) != value)
+                values.emplace_back(name, value);
+        ++result.matches.count;
+        if (!values.empty()) result.changed += writer.Change(*found, values);
+    }
+    Finish(drawing, writer, target, result);
+    return result;
+}
+
+SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& layers, const dxf::LayerValues& values,
+                    bool isNew, const Target& target) {
+    dxf::DocumentWriter writer(drawing, {});
+    std::vector<std::string> existing;
+    for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
+        existing.push_back(layer.name);
+    std::set<std::string> chosen;
+    for (const std::string& wanted : layers) {
+
+        size_t count = 0;
+        for (const std::string& name : existing)
+            if (IsLike(name, wanted) && ++count > 0) chosen.insert(name);
+        if (count == 0 && !cli::HasWildcard(wanted) && isNew && chosen.insert(wanted).second) ++count;
+        if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("there is no layer '" + wanted + "'");
+    }
+    if (values.name && chosen.size() > 1) throw dxf::SaveError("only one layer can have the name " + *values.name);
+    SetResult result;
+    for (const std::string& name : chosen)
+        result.changed += writer.ChangeLayer(name, values);
+    result.matches.count = chosen.size();
+    Finish(drawing, writer, target, result);
+    return result;
+}
+
+std::vector<Difference> FindDifferences(const dxf::DocumentReader& before, const dxf::DocumentReader& after,
+                                        Compared compared) {
+    const EntityIndex one(before), other(after);
+    const Comparer comparer(before, after, compared);
+    const std::vector<dxf::EntityRef>&ones = one.All(), &others = other.All();
     std::vector<bool> met(others.size());
     std::vector<Difference> differences;
     for (size_t i = 0; i < ones.size(); ++i) {
-        const dxf::RecordName name = a.NameOf(ones[i]);
-        const auto found = byHandle.find(name.handle);
-        const size_t at = name.handle.empty() ? i : found != byHandle.end() ? found->second : others.size();
-        if (at >= others.size() || met[at] || b.NameOf(others[at]).kind != name.kind) {
+        const dxf::RecordName name = before.NameOf(ones[i]);
+        const size_t at = name.handle.empty() ? i : other.FindHandle(name.handle);
+        if (at >= others.size() || met[at] || after.NameOf(others[at]).kind != name.kind) {
             differences.push_back({name, Difference::Kind::onlyBefore, {}});
             continue;
         }
         met[at] = true;
-        if (a.IsLike(ones[i], b, others[at])) continue;
-        Difference& difference = differences.emplace_back();
-        difference.name = name;
-        for (const std::string& property : DrawingFile::PropertyNames()) {
-            if (!DrawingFile::Has(ones[i], property)) continue;
-            const std::string was = a.GetWithVariety(ones[i], property), is = b.GetWithVariety(others[at], property);
-            if (was != is) difference.values.push_back({property, was, is});
-        }
+        std::vector<Difference::Value> values = comparer.Compare(ones[i], others[at]);
+        if (!values.empty()) differences.push_back({name, Difference::Kind::changed, std::move(values)});
     }
     for (size_t i = 0; i < others.size(); ++i)
-        if (!met[i]) differences.push_back({b.NameOf(others[i]), Difference::Kind::onlyAfter, {}});
+        if (!met[i]) differences.push_back({after.NameOf(others[i]), Difference::Kind::onlyAfter, {}});
     return differences;
 }
 

@@ -1,6 +1,7 @@
-// The commands, each for one drawing. Texts are UTF-8; ReadError and SaveError contain the reason of a failure.
+// The commands, applied to one drawing. Texts are UTF-8. They throw ReadError and SaveError.
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <utility>
@@ -10,31 +11,23 @@
 
 namespace dxfprops {
 
+using Values = std::vector<std::pair<std::string, std::string>>; // by the names of properties
+
 struct EntityProperties {
     dxf::RecordName name;
-    std::vector<std::pair<std::string, std::string>> values; // by property name
+    Values values;
 };
 
-struct Listing {
-    std::vector<EntityProperties> entities;
-    std::set<std::string> kinds; // if nothing matched: the kinds that exist
+// The number of selected entities, and if there are none, the kinds of those that could have been.
+struct Matches {
+    size_t count = 0;
+    std::set<std::string> kinds;
 };
 
-// Returns the properties of the entities that meet the conditions: those in `show`, or all if it is empty.
-Listing ListProperties(const std::string& file, const std::vector<Condition>& where,
-                       const std::vector<std::string>& show);
-
-struct SetResult {
-    size_t matched = 0, changed = 0;
-    std::set<std::string> kinds;    // if nothing matched: the kinds that exist
-    std::vector<std::string> notes; // properties that other programs will not show
-};
-
-// Sets properties of the entities that meet the conditions and have these properties, and writes the drawing to
-// `output`; see DrawingFile::Write. Only what has changed differs. An invalid value is a SaveError even if it applies
-// to no entity.
-SetResult SetProperties(const std::string& file, const std::vector<Condition>& where,
-                        const std::vector<Condition>& values, const std::string& output);
+// Calls `each` with the properties of each selected entity, in the order of the file: those that `show`
+// names, or all that the entity has.
+Matches ForEachEntity(const DrawingFile& drawing, const Selection& selection, const std::vector<std::string>& show,
+                      const std::function<void(const EntityProperties&)>& each);
 
 struct Difference {
     enum class Kind { changed, onlyBefore, onlyAfter };
@@ -46,7 +39,43 @@ struct Difference {
     std::vector<Value> values;
 };
 
-// Returns the entities that differ, in model space and in blocks, matched by handle or else by position.
-std::vector<Difference> FindDifferences(const std::string& before, const std::string& after);
+enum class Compared { all, properties };
+
+// Returns the entities of model space, paper space and blocks that differ. Compares entities of the same handle, or, if
+// they have no handles, at the same place. Texts, positions and other coordinates are compared as well as properties,
+// or properties alone.
+std::vector<Difference> FindDifferences(const dxf::DocumentReader& before, const dxf::DocumentReader& after,
+                                        Compared compared);
+
+// The destination of a changed drawing.
+struct Target {
+    std::string output; // a file, or kStandardStream
+    bool isDry = false; // nothing is written, and the differences are returned
+    bool keepsBackup = false;
+};
+
+struct SetResult {
+    Matches matches;
+    size_t changed = 0;
+    std::vector<std::string> notes;      // values that other programs do not show
+    std::vector<Difference> differences; // if nothing was written
+};
+
+// "attribute:TAG" as the name of a value: the text of the attributes with that tag of the selected insertions.
+constexpr char kAttribute[] = "attribute:";
+
+// Sets properties of the selected entities that have them and writes the drawing: only what has changed differs. Throws
+// SaveError if a value is not valid, even if no entity takes it.
+SetResult SetProperties(const DrawingFile& drawing, const Selection& selection, const Values& values,
+                        const Target& target);
+
+// Sets the values of each named entity. Finds an entity by its handle, or by its line if it has none. Throws SaveError
+// if one is missing.
+SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityProperties>& wanted,
+                          const Target& target);
+
+// Changes the layers whose names are given or meet a name with wildcards; with isNew, adds those that are missing.
+SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& layers, const dxf::LayerValues& values,
+                    bool isNew, const Target& target);
 
 } // namespace dxfprops

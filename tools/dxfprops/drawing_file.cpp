@@ -1,8 +1,10 @@
-// Selects entities of a drawing.
+// Reading, writing and selecting.
 #include "tools/dxfprops/drawing_file.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <iostream>
+#include <iterator>
 
 #include "files/file_error.h"
 #include "files/file_replacement.h"
@@ -10,19 +12,39 @@
 
 namespace dxfprops {
 
-DrawingFile::DrawingFile(const std::string& file)
-    : DocumentReader(dxf::ReadBytes(std::filesystem::u8path(file))), path_(std::filesystem::u8path(file)) {}
+namespace {
 
-void DrawingFile::Write(const std::string& bytes, const std::string& output) const {
-    if (output == kStandardOutput) {
+std::string BytesOf(const std::string& file) {
+    if (file == kStandardStream) return std::string(std::istreambuf_iterator<char>(std::cin), {});
+    return dxf::ReadBytes(std::filesystem::u8path(file));
+}
+
+void KeepBackup(const std::filesystem::path& file) {
+    std::error_code isMissing;
+    if (!std::filesystem::exists(file, isMissing)) return;
+    std::filesystem::path backup = file;
+    backup += ".bak";
+    files::FileReplacement replacement(backup);
+    replacement.Write(dxf::ReadBytes(file));
+    replacement.TakePlace();
+}
+
+} // namespace
+
+DrawingFile::DrawingFile(const std::string& file, const std::function<void(int permille)>& progress)
+    : DocumentReader(BytesOf(file), progress), path_(file == kStandardStream ? "" : std::filesystem::u8path(file)) {}
+
+void DrawingFile::Write(const std::string& bytes, const std::string& output, bool keepsBackup) const {
+    if (output == kStandardStream) {
         if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() || std::fflush(stdout) != 0)
             files::ThrowLastError("the drawing cannot be written");
         return;
     }
     const std::filesystem::path target = std::filesystem::u8path(output);
     std::error_code isNew;
-    const bool isOwn = std::filesystem::equivalent(target, path_, isNew);
+    const bool isOwn = !path_.empty() && std::filesystem::equivalent(target, path_, isNew);
     if (isOwn && bytes == Bytes()) return;
+    if (keepsBackup) KeepBackup(target);
     files::FileReplacement replacement(target);
     replacement.Write(bytes);
     if (isOwn && !files::HasContents(target, Bytes()))
@@ -30,39 +52,44 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output) con
     replacement.TakePlace();
 }
 
-bool DrawingFile::Meets(const dxf::EntityRef& entity, const std::vector<Condition>& where) const {
-    const auto value = [&](const std::string& name) {
-        if (name == kKind) return NameOf(entity).kind;
-        if (name == kHandle) return NameOf(entity).handle;
-        if (name == kBlock) return NameOf(entity).block;
-        return Get(entity, name);
+std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {
+    std::vector<dxf::EntityRef> found;
+    const auto add = [&found](const std::vector<dxf::EntityRef>& some) {
+        found.insert(found.end(), some.begin(), some.end());
     };
-    for (const Condition& condition : where) {
-        const bool isProperty = FindPropertyName(condition.name).has_value();
-        if (isProperty && !Has(entity, condition.name)) return false;
-        if (!dxf::IsSameName(value(condition.name), condition.value)) return false;
-    }
-    return true;
+    constexpr char kBlockIs[] = "block=";
+    const std::string& space = selection.space;
+    const auto named = std::find_if(selection.where.begin(), selection.where.end(), [](const Condition& some) {
+        return some.name == kBlock && some.comparison == Comparison::equal;
+    });
+    if (space.rfind(kBlockIs, 0) == 0) return EntitiesOf(space.substr(sizeof kBlockIs - 1));
+    if (space.empty() && named != selection.where.end())
+        for (const std::string& block : named->values)
+            add(EntitiesOf(block));
+    else if (space == "all" || space == "paper")
+        add(PaperEntities());
+    if (space == "all")
+        add(Entities());
+    else if (space == "model" || (space.empty() && named == selection.where.end()))
+        add(EntitiesOf(""));
+    return found;
 }
 
-std::vector<dxf::EntityRef> DrawingFile::Around(const std::vector<Condition>& where) const {
-    const auto named =
-        std::find_if(where.begin(), where.end(), [](const Condition& some) { return some.name == kBlock; });
-    return EntitiesOf(named == where.end() ? "" : named->value);
-}
-
-std::vector<dxf::EntityRef> DrawingFile::Select(const std::vector<Condition>& where) const {
-    std::vector<dxf::EntityRef> selected = Around(where);
-    const auto fails = [&](const dxf::EntityRef& entity) { return !Meets(entity, where); };
-    selected.erase(std::remove_if(selected.begin(), selected.end(), fails), selected.end());
-    return selected;
-}
-
-std::set<std::string> DrawingFile::KindsAround(const std::vector<Condition>& where) const {
+std::set<std::string> DrawingFile::KindsAround(const Selection& selection) const {
     std::set<std::string> kinds;
-    for (const dxf::EntityRef& entity : Around(where))
+    for (const dxf::EntityRef& entity : Around(selection))
         kinds.insert(NameOf(entity).kind);
     return kinds;
+}
+
+bool Selector::IsSelected(const dxf::EntityRef& entity) {
+    if (selection_.within) {
+        const auto box = drawing_.BoxOf(entity);
+        const auto& within = *selection_.within;
+        if (!box || (*box)[0] < within[0] || (*box)[1] < within[1] || (*box)[2] > within[2] || (*box)[3] > within[3])
+            return false;
+    }
+    return test_.Meets(entity);
 }
 
 } // namespace dxfprops

@@ -1,45 +1,61 @@
-// A drawing in a file, and conditions that select its entities.
+// A drawing in a file, and the entities that a command works on.
 #pragma once
 
+#include <array>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "drawcore/dxf_document.h"
+#include "tools/dxfprops/condition.h"
 
 namespace dxfprops {
 
-// For example "layer=WALLS": kind, handle, block, or a property, ignoring case.
-struct Condition {
-    std::string name, value;
-};
-// Names of conditions that are not properties.
-constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
+// The name of standard input and output.
+constexpr char kStandardStream[] = "-";
 
-// The name of standard output.
-constexpr char kStandardOutput[] = "-";
+// The entities of a drawing that are considered.
+struct Selection {
+    std::vector<Condition> where;
+    std::string space;                           // "model", "paper", "all" or "block=NAME"; empty: model
+    std::optional<std::array<double, 4>> within; // left, bottom, right, top
+};
 
 class DrawingFile : public dxf::DocumentReader {
 public:
-    // Throws ReadError if the file cannot be read.
-    explicit DrawingFile(const std::string& file);
+    // Throws ReadError if it cannot be read.
+    explicit DrawingFile(const std::string& file, const std::function<void(int permille)>& progress = {});
 
-    // Replaces the output file, or prints the bytes if the output is kStandardOutput. Does not write the drawing's own
-    // file if the bytes are unchanged, and fails if it has been changed meanwhile. Throws FileError and SaveError.
-    void Write(const std::string& bytes, const std::string& output) const;
+    // Replaces the output file, or prints the bytes if the output is kStandardStream. The drawing's own file is left
+    // alone if the bytes are its own, and refused if it has been changed meanwhile. With a backup, what the output
+    // contained before is stored as OUTPUT.bak. Throws FileError and SaveError.
+    void Write(const std::string& bytes, const std::string& output, bool keepsBackup) const;
 
-    // Returns the entities that meet the conditions, in model space unless one names a block. Throws SaveError if there
+    // Returns the entities of the selection's space, whether they meet the conditions or not. Throws SaveError if there
     // is no such block.
-    std::vector<dxf::EntityRef> Select(const std::vector<Condition>& where) const;
-    // Returns the kinds of all entities there, ignoring other conditions.
-    std::set<std::string> KindsAround(const std::vector<Condition>& where) const;
+    std::vector<dxf::EntityRef> Around(const Selection& selection) const;
+    // Returns the kinds of all entities in the space.
+    std::set<std::string> KindsAround(const Selection& selection) const;
 
 private:
-    std::vector<dxf::EntityRef> Around(const std::vector<Condition>& where) const;
-    bool Meets(const dxf::EntityRef& entity, const std::vector<Condition>& where) const;
+    const std::filesystem::path path_; // empty for standard input
+};
 
-    const std::filesystem::path path_;
+// Tests the entities of one drawing. The drawing and the selection must outlive this object.
+class Selector {
+public:
+    Selector(const DrawingFile& drawing, const Selection& selection)
+        : drawing_(drawing), selection_(selection), test_(drawing, selection.where) {}
+
+    bool IsSelected(const dxf::EntityRef& entity);
+
+private:
+    const DrawingFile& drawing_;
+    const Selection& selection_;
+    ConditionTest test_;
 };
 
 } // namespace dxfprops

@@ -49,9 +49,9 @@ Json Describe(const dxf::Contents& drawing) {
 }
 
 Json DescribeFile(const std::string& file) {
-    return Describe(dxf::DocumentReader(dxf::ReadBytes(std::filesystem::u8path(file))).GetContents());
+    return Describe(dxfprops::DrawingFile(file).GetContents());
 }
 
 bool ListDrawings(const std::vector<std::string>& files, std::ostream& out) {
-    return dxfprops::PrintArray(files, DescribeFile, out);
+    return dxfprops::PrintObjects(files, dxfprops::Form::json, DescribeFile, out);
 }

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <set>
 #ifdef _WIN32
 #include <fcntl.h>
@@ -14,7 +16,11 @@
 
 #include <nlohmann/json.hpp>
 
+#include "files/file_error.h"
 #include "files/file_replacement.h"
+#include "tools/cli/arguments.h"
+#include "tools/cli/manual.h"
+#include "tools/cli/progress.h"
 #include "tools/dxfprops/list_drawings.h"
 #include "tools/dxfprops/output.h"
 
@@ -23,201 +29,456 @@ namespace {
 using namespace dxfprops;
 
 constexpr int kDone = 0;
-constexpr int kFailed = 1; // a file failed, nothing matched, or diff found differences
-constexpr int kUsage = 2;
+constexpr int kNothing = 1; // nothing was selected, or diff found differences
+constexpr int kFailed = 2;  // a file failed, or the command line is wrong
 
 constexpr char kExamples[] = R"(
 Examples:
-  dxfprops list plan.dxf                          what it holds; --json: as JSON
+  dxfprops list plan.dxf                          contents; --json: as JSON
   dxfprops get plan.dxf --where kind=LINE --show PenColor,Layer
+  dxfprops get plan.dxf --where 'layer~W*,PenWidth>=0.5 mm' --csv
   dxfprops set plan.dxf --where kind=LINE,layer=WALLS PenColor=red PenWidth="0.5 mm" -o thick.dxf
-  dxfprops set *.dxf --where PenColor=red PenColor="By Layer" --in-place
-  dxfprops diff plan.dxf thick.dxf                what differs, entity by entity
+  dxfprops set *.dxf attribute:TITLE="Plan B" --in-place --backup
+  dxfprops set plan.dxf --where BlockName=DOOR Rotation=90 --dry-run
+  dxfprops set-layer plan.dxf --layer 'W*' Color=red LineWeight="0.5 mm" --in-place
+  dxfprops get plan.dxf --json >plan.json         edit it, then:
+  dxfprops apply plan.json --in-place
+  dxfprops diff plan.dxf thick.dxf                differences, entity by entity
 
-Results: 0 done; 1 a file failed, nothing meets --where, or diff found differences; 2 wrong command line.)";
+Results: 0 done; 1 nothing was selected, or diff found differences; 2 wrong command line, or a file failed.)";
+
+// The command line is wrong: what() says why.
+using UsageError = std::invalid_argument;
 
 struct CommandLine {
-    std::vector<std::string> files, where, show, rest;
-    std::string output, before, after;
-    bool json = false, inPlace = false;
+    std::vector<std::string> files, where, show, rest, layers;
+    std::string space, within, output, before, after;
+    Form form = Form::text;
+    bool isInPlace = false, isDry = false, keepsBackup = false, isNew = false, onlyProperties = false;
+    bool showsProgress = false;
 };
 
-// The number of matches of --where in all files.
-struct Matches {
-    size_t count = 0;
-    std::set<std::string> kinds; // kinds in files without matches
-
-    void Add(size_t found, const std::set<std::string>& others) {
-        count += found;
-        kinds.insert(others.begin(), others.end());
-    }
-};
-
-// Like in grep, finding nothing has its own exit code.
-int ResultOf(int result, const CommandLine& line, const Matches& matches) {
-    if (result != kDone || line.where.empty() || matches.count > 0) return result;
-    std::cerr << "dxfprops: nothing meets";
-    for (const std::string& condition : line.where)
-        std::cerr << " " << condition;
-    const char* separator = "; there are entities of the kinds ";
-    for (const std::string& kind : matches.kinds) {
-        std::cerr << separator << kind;
-        separator = ", ";
-    }
-    std::cerr << "\n";
-    return kFailed;
+std::string Joined(const std::vector<std::string>& names) {
+    std::string joined;
+    for (const std::string& name : names)
+        joined += (joined.empty() ? "" : ", ") + name;
+    return joined;
 }
 
-std::string AllNames() {
-    std::string names;
-    for (const std::string& name : DrawingFile::PropertyNames())
-        names += (names.empty() ? "" : ", ") + name;
-    return names;
+std::array<double, 4> ReadBox(const std::string& text) {
+    std::array<double, 4> box = {};
+    int used = 0;
+    const int read = std::sscanf(text.c_str(), "%lf,%lf,%lf,%lf%n", &box[0], &box[1], &box[2], &box[3], &used);
+    if (read != 4 || static_cast<size_t>(used) != text.size() || box[0] > box[2] || box[1] > box[3])
+        throw UsageError("--within: '" + text + "' should be LEFT,BOTTOM,RIGHT,TOP");
+    return box;
 }
 
-std::string Known(const std::string& name, bool alsoConditions) {
-    for (const char* condition : {kKind, kHandle, kBlock})
-        if (alsoConditions && CLI::detail::to_lower(name) == condition) return condition;
-    if (const auto known = DrawingFile::FindPropertyName(name)) return *known;
-    throw CLI::ValidationError("'" + name + "' is none of " + (alsoConditions ? "kind, handle, block, " : "") +
-                               AllNames());
+Selection SelectionOf(const CommandLine& line) {
+    Selection selection;
+    selection.where = ReadConditions(line.where);
+    selection.space = line.space;
+    const bool isBlock = line.space.rfind("block=", 0) == 0;
+    if (!isBlock && !line.space.empty() && line.space != "model" && line.space != "paper" && line.space != "all")
+        throw UsageError("--in: '" + line.space + "' is none of model, paper, all, block=NAME");
+    if (!line.within.empty()) selection.within = ReadBox(line.within);
+    return selection;
 }
 
-std::vector<Condition> Assignments(const std::vector<std::string>& texts, bool alsoConditions) {
-    std::vector<Condition> made;
-    for (const std::string& text : texts) {
-        const size_t equals = text.find('=');
-        if (equals == text.npos || equals == 0) throw CLI::ValidationError("'" + text + "' should be name=value");
-        made.push_back({Known(text.substr(0, equals), alsoConditions), text.substr(equals + 1)});
-    }
-    return made;
+bool IsConditional(const CommandLine& line) {
+    return !line.where.empty() || !line.within.empty();
 }
 
-// Processes the files in order. A failure is reported and does not stop the others.
-template <class Work>
-int ForEach(const std::vector<std::string>& files, Work work) {
-    int result = kDone;
-    for (const std::string& file : files) {
-        try {
-            work(file);
-        } catch (const std::bad_alloc&) {
-            std::cerr << "dxfprops: " << file << ": there is not enough memory for it\n";
-            result = kFailed;
-        } catch (const std::exception& error) { // ReadError, SaveError, or an error of the file system
-            std::cerr << "dxfprops: " << file << ": " << error.what() << "\n";
-            result = kFailed;
+// Work on one file after the other; a failure is reported and does not stop the others.
+class Run {
+public:
+    explicit Run(const CommandLine& line)
+        : line_(line),
+          progress_(line.files.size(), line.showsProgress ? DrawBar : std::function<void(const std::string&)>()) {}
+
+    template <class Work>
+    int ForEach(const std::vector<std::string>& files, ResultPrinter* printer, Work work) {
+        for (const std::string& file : files) {
+            try {
+                if (printer) printer->BeginFile(file, files.size() > 1);
+                work(file);
+                if (printer) printer->EndFile();
+            } catch (const dxf::ReadError& error) {
+                Fail(file, error.what(), error.Text(), error.Line(), printer);
+            } catch (const std::bad_alloc&) {
+                Fail(file, "not enough memory", "not enough memory", 0, printer);
+            } catch (const std::invalid_argument&) {
+                throw;                              // the command line
+            } catch (const std::exception& error) { // SaveError, FileError
+                Fail(file, error.what(), error.what(), 0, printer);
+            }
+            progress_.Finish();
         }
+        return result_;
     }
-    return result;
-}
+
+    DrawingFile Open(const std::string& file) {
+        if (!line_.showsProgress) return DrawingFile(file);
+        return DrawingFile(file, [this, &file](int permille) { progress_.Show(file, permille); });
+    }
+
+    // As programs that search do: to find nothing is a result of its own.
+    int ResultOf(const Matches& matches, bool isConditional) {
+        if (result_ != kDone || matches.count > 0 || !isConditional) return result_;
+        std::cerr << "dxfprops: nothing meets";
+        for (const std::string& condition : line_.where)
+            std::cerr << " " << condition;
+        if (!line_.within.empty()) std::cerr << " --within " << line_.within;
+        const char* separator = "; there are entities of the kinds ";
+        for (const std::string& kind : matches.kinds) {
+            std::cerr << separator << kind;
+            separator = ", ";
+        }
+        std::cerr << "\n";
+        return kNothing;
+    }
+
+private:
+    static void DrawBar(const std::string& bar) { std::cerr << bar << std::flush; }
+    void Fail(const std::string& file, const std::string& message, const std::string& text, uint32_t at,
+              ResultPrinter* printer) {
+        progress_.Hide();
+        std::cerr << "dxfprops: " << file << ": " << message << "\n";
+        if (printer) printer->Fail(text, at);
+        result_ = kFailed;
+    }
+
+    const CommandLine& line_;
+    cli::Progress progress_;
+    int result_ = kDone;
+};
 
 int List(const CommandLine& line) {
-    if (line.json) return ListDrawings(line.files, std::cout) ? kDone : kFailed;
-    return ForEach(line.files, [](const std::string& file) { PrintSummary(file, std::cout); });
+    if (line.form == Form::json || line.form == Form::jsonLines)
+        return PrintObjects(line.files, line.form, DescribeFile, std::cout) ? kDone : kFailed;
+    return Run(line).ForEach(line.files, nullptr, [](const std::string& file) { PrintSummary(file, std::cout); });
 }
 
 int Get(const CommandLine& line) {
-    const std::vector<Condition> where = Assignments(line.where, true);
+    const Selection selection = SelectionOf(line);
+    std::vector<std::string> show;
     for (const std::string& name : line.show)
-        Known(name, false);
+        show.push_back(RequireName(name, false));
+    Run run(line);
     Matches matches;
-    const auto list = [&](const std::string& file) {
-        Listing listing = ListProperties(file, where, line.show);
-        matches.Add(listing.entities.size(), listing.kinds);
-        return listing;
-    };
-    const auto print = [&](const std::string& file) {
-        const Listing listing = list(file);
-        if (line.files.size() > 1) std::cout << file << "\n";
-        Print(listing, std::cout);
-    };
-    if (!line.json) return ResultOf(ForEach(line.files, print), line, matches);
-    const auto describe = [&](const std::string& file) { return JsonOf(list(file)); };
-    return ResultOf(PrintArray(line.files, describe, std::cout) ? kDone : kFailed, line, matches);
+    int result = kDone;
+    {
+        ResultPrinter printer(line.form, ResultPrinter::Items::entities,
+                              show.empty() ? dxf::DocumentReader::PropertyNames() : show, std::cout);
+        result = run.ForEach(line.files, &printer, [&](const std::string& file) {
+            const Matches found = ForEachEntity(run.Open(file), selection, show,
+                                                [&](const EntityProperties& entity) { printer.Add(entity); });
+            matches.count += found.count;
+            matches.kinds.insert(found.kinds.begin(), found.kinds.end());
+        });
+    }
+    return result != kDone ? result : run.ResultOf(matches, IsConditional(line));
 }
 
-int Set(CommandLine& line) {
-    std::vector<std::string> values;
-    for (std::string& word : line.rest) // files come first; NAME=VALUE with the name of a property is a value
-        (DrawingFile::FindPropertyName(word.substr(0, word.find('='))) && word.find('=') != word.npos ? values
-                                                                                                      : line.files)
-            .push_back(std::move(word));
-    for (const std::string& file :
-         line.files) // NAME=VALUE with an unknown name is an error, unless a file has that name
+// "NAME=VALUE", whose name is a property or an attribute's.
+bool IsAssignment(const std::string& word) {
+    const std::string name = word.substr(0, word.find('='));
+    const std::string prefix = kAttribute;
+    const bool isAttribute = dxf::IsSameName(name.substr(0, prefix.size()), prefix) && name.size() > prefix.size();
+    return word.find('=') != word.npos && (isAttribute || dxf::DocumentReader::FindPropertyName(name));
+}
+
+std::pair<std::string, std::string> SplitAssignment(const std::string& word) {
+    const size_t equals = word.find('=');
+    return {word.substr(0, equals), word.substr(equals + 1)};
+}
+
+// Separates files from assignments. A word with "=" that is neither is a mistake in a name, unless there is such a
+// file.
+template <class IsValue, class Require>
+Values TakeValues(CommandLine& line, IsValue isValue, Require require) {
+    Values values;
+    for (const std::string& word : line.rest) {
+        if (isValue(word))
+            values.push_back(SplitAssignment(word));
+        else
+            line.files.push_back(word);
+    }
+    for (const std::string& file : line.files)
         if (file.find('=') != file.npos && !std::filesystem::exists(std::filesystem::u8path(file)))
-            Known(file.substr(0, file.find('=')), false);
-    const std::vector<Condition> where = Assignments(line.where, true), wanted = Assignments(values, false);
-    if (line.files.empty()) throw CLI::ValidationError("set", "no file is named");
-    if (wanted.empty()) throw CLI::ValidationError("set", "nothing to set: name a property, as in PenColor=red");
-    if (line.inPlace == !line.output.empty())
-        throw CLI::ValidationError("set", "say where the drawing goes: -o OUT or --in-place");
-    if (!line.output.empty() && line.files.size() > 1)
-        throw CLI::ValidationError("set", "-o takes one file; --in-place takes many");
+            require(SplitAssignment(file).first);
+    line.files = cli::WithoutWildcards(line.files);
+    return values;
+}
+
+void RequireTarget(const CommandLine& line) {
+    if (line.files.empty()) throw UsageError("no file is named");
+    const int targets = !line.output.empty() + line.isInPlace + line.isDry;
+    if (targets != 1) throw UsageError("say where the drawing goes: -o OUT, --in-place or --dry-run");
+    if (!line.output.empty() && line.files.size() > 1) throw UsageError("-o takes one file; --in-place takes many");
+    const bool isFromInput = std::count(line.files.begin(), line.files.end(), kStandardStream) != 0;
+    if (line.isInPlace && isFromInput) throw UsageError("standard input has no place: say -o OUT");
+}
+
+struct Noun {
+    const char *one, *many;
+};
+
+// Changes each file by the call and reports the counts.
+template <class Change>
+int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional, Change change) {
+    Run run(line);
     Matches matches;
-    const int result = ForEach(line.files, [&](const std::string& file) {
-        const SetResult set = SetProperties(file, where, wanted, line.inPlace ? file : line.output);
-        matches.Add(set.matched, set.kinds);
+    const int result = run.ForEach(line.files, nullptr, [&](const std::string& file) {
+        const DrawingFile drawing = run.Open(file);
+        const Target target = {line.isInPlace ? file : line.output, line.isDry, line.keepsBackup};
+        const SetResult set = change(drawing, target, file);
+        matches.count += set.matches.count;
+        matches.kinds.insert(set.matches.kinds.begin(), set.matches.kinds.end());
         for (const std::string& note : set.notes)
             std::cerr << "dxfprops: " << file << ": note: " << note << "\n";
-        (line.output == kStandardOutput ? std::cerr : std::cout)
-            << file << ": " << set.changed << (set.changed == 1 ? " entity changed\n" : " entities changed\n");
+        Print(set.differences, "the drawing", "the changed drawing", std::cout);
+        std::ostream& out = line.output == kStandardStream ? std::cerr : std::cout;
+        out << file << ": " << set.changed << " " << (set.changed == 1 ? things.one : things.many)
+            << (line.isDry ? " would change\n" : " changed\n");
     });
-    return ResultOf(result, line, matches);
+    return result != kDone ? result : run.ResultOf(matches, isConditional);
+}
+
+constexpr Noun kEntities = {"entity", "entities"}, kLayers = {"layer", "layers"};
+
+int Set(CommandLine& line) {
+    const Values values = TakeValues(line, IsAssignment, [](const std::string& name) { RequireName(name, false); });
+    if (values.empty()) throw UsageError("nothing to set: name a property, as in PenColor=red");
+    RequireTarget(line);
+    const Selection selection = SelectionOf(line);
+    const bool isConditional = IsConditional(line) || std::any_of(values.begin(), values.end(), [](const auto& value) {
+                                   return !dxf::DocumentReader::FindPropertyName(value.first);
+                               });
+    return ChangeFiles(line, kEntities, isConditional,
+                       [&](const DrawingFile& drawing, const Target& target, const std::string&) {
+                           return SetProperties(drawing, selection, values, target);
+                       });
+}
+
+std::string TextOf(const std::string& file) {
+    if (file == kStandardStream) return std::string(std::istreambuf_iterator<char>(std::cin), {});
+    return dxf::ReadBytes(std::filesystem::u8path(file));
+}
+
+int Apply(CommandLine& line) {
+    const auto drawings = ReadEntities(TextOf(line.before));
+    for (const auto& [file, entities] : drawings)
+        line.files.push_back(file);
+    RequireTarget(line);
+    return ChangeFiles(
+        line, kEntities, false, [&](const DrawingFile& drawing, const Target& target, const std::string& file) {
+            const auto found =
+                std::find_if(drawings.begin(), drawings.end(), [&](const auto& some) { return some.first == file; });
+            return ApplyProperties(drawing, found->second, target);
+        });
 }
 
 int Diff(const CommandLine& line) {
     size_t count = 0;
-    const auto find = [&](const std::string& after) {
-        std::vector<Difference> differences = FindDifferences(line.before, after);
-        count = differences.size();
-        return differences;
-    };
-    const auto print = [&](const std::string& after) { Print(find(after), line.before, after, std::cout); };
-    const auto describe = [&](const std::string& after) { return JsonOf(find(after)); };
-    const int result = !line.json                                      ? ForEach({line.after}, print)
-                       : PrintArray({line.after}, describe, std::cout) ? kDone
-                                                                       : kFailed;
-    return count > 0 ? kFailed : result;
+    int result = kDone;
+    Run run(line);
+    {
+        ResultPrinter printer(line.form, ResultPrinter::Items::differences, {}, std::cout);
+        result = run.ForEach({line.after}, &printer, [&](const std::string& after) {
+            const Compared compared = line.onlyProperties ? Compared::properties : Compared::all;
+            const auto differences = FindDifferences(run.Open(line.before), run.Open(after), compared);
+            for (const Difference& difference : differences)
+                printer.Add(difference, line.before, after);
+            count = differences.size();
+        });
+    }
+    return result != kDone ? result : count > 0 ? kNothing : kDone;
 }
 
-int Run(std::vector<std::string> arguments) {
-    files::RemoveTemporaryFileOnInterrupt();
-    CLI::App usage{"Reads and sets the properties of entities in DXF drawings.", "dxfprops"};
-    CommandLine line;
-    usage.allow_windows_style_options(false);
-    usage.require_subcommand(1);
-    usage.footer("Properties: " + AllNames() + ".\n" + kExamples);
-    const auto where = [&line](CLI::App* command) {
-        command
-            ->add_option("--where", line.where,
-                         "kind=LINE, layer=WALLS, handle=2F, or a property; all have to hold; block=NAME: in "
-                         "that block")
-            ->delimiter(',')
-            ->allow_extra_args(false);
+int ListLayers(const CommandLine& line) {
+    const std::vector<std::string> columns = {"Name",    "On",    "Frozen",   "Locked",
+                                              "Plotted", "Color", "LineType", "LineWeight"};
+    ResultPrinter printer(line.form, ResultPrinter::Items::layers, columns, std::cout);
+    Run run(line);
+    return run.ForEach(line.files, &printer, [&](const std::string& file) {
+        const DrawingFile drawing = run.Open(file);
+        for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
+            printer.Add(layer);
+    });
+}
+
+bool ReadSwitch(const std::string& text) {
+    for (const char* yes : {"yes", "on", "true", "1"})
+        if (dxf::IsSameName(text, yes)) return true;
+    for (const char* no : {"no", "off", "false", "0"})
+        if (dxf::IsSameName(text, no)) return false;
+    throw UsageError("'" + text + "' is neither yes nor no");
+}
+
+// The values that set-layer takes.
+struct LayerField {
+    const char* name;
+    void (*set)(dxf::LayerValues&, const std::string&);
+};
+constexpr LayerField kLayerFields[] = {
+    {"On", [](dxf::LayerValues& values, const std::string& text) { values.isOn = ReadSwitch(text); }},
+    {"Frozen", [](dxf::LayerValues& values, const std::string& text) { values.isFrozen = ReadSwitch(text); }},
+    {"Locked", [](dxf::LayerValues& values, const std::string& text) { values.isLocked = ReadSwitch(text); }},
+    {"Plotted", [](dxf::LayerValues& values, const std::string& text) { values.isPlotted = ReadSwitch(text); }},
+    {"Color", [](dxf::LayerValues& values, const std::string& text) { values.color = text; }},
+    {"LineType", [](dxf::LayerValues& values, const std::string& text) { values.lineType = text; }},
+    {"LineWeight", [](dxf::LayerValues& values, const std::string& text) { values.lineWeight = text; }},
+    {"Name", [](dxf::LayerValues& values, const std::string& text) { values.name = text; }},
+};
+
+const LayerField* FindLayerField(const std::string& name) {
+    for (const LayerField& field : kLayerFields)
+        if (dxf::IsSameName(field.name, name)) return &field;
+    return nullptr;
+}
+
+std::string LayerFieldNames() {
+    std::vector<std::string> names;
+    for (const LayerField& field : kLayerFields)
+        names.push_back(field.name);
+    return Joined(names);
+}
+
+int SetLayer(CommandLine& line) {
+    const auto isValue = [](const std::string& word) {
+        return word.find('=') != word.npos && FindLayerField(SplitAssignment(word).first);
     };
-    CLI::App* list = usage.add_subcommand("list", "Print what drawings hold");
-    list->add_option("FILE", line.files, "drawings")->required();
-    list->add_flag("--json", line.json, "as JSON");
-    CLI::App* get = usage.add_subcommand("get", "Print the properties of entities");
-    get->add_option("FILE", line.files, "drawings")->required();
-    get->add_option("--show", line.show, "these properties alone")->delimiter(',')->allow_extra_args(false);
-    get->add_flag("--json", line.json, "as JSON");
-    where(get);
-    CLI::App* set = usage.add_subcommand("set", "Set properties of entities");
-    set->add_option("FILE PROPERTY=VALUE", line.rest, "drawings, and what is set")->required();
-    set->add_option("-o", line.output, "the file that the drawing is written into; - is standard output");
-    set->add_flag("--in-place", line.inPlace, "each drawing is written into its own file");
-    where(set);
-    CLI::App* diff = usage.add_subcommand("diff", "Print which properties differ");
-    diff->add_option("BEFORE", line.before, "a drawing")->required();
-    diff->add_option("AFTER", line.after, "another one")->required();
-    diff->add_flag("--json", line.json, "as JSON");
+    dxf::LayerValues wanted;
+    for (const auto& [name, text] : TakeValues(line, isValue, [](const std::string& name) {
+             throw UsageError("'" + name + "' is none of " + LayerFieldNames());
+         }))
+        FindLayerField(name)->set(wanted, text);
+    if (line.layers.empty()) throw UsageError("name a layer: --layer NAME");
+    RequireTarget(line);
+    return ChangeFiles(line, kLayers, false, [&](const DrawingFile& drawing, const Target& target, const std::string&) {
+        return SetLayers(drawing, line.layers, wanted, line.isNew, target);
+    });
+}
+
+std::vector<std::string> WithEquals(std::vector<std::string> names) {
+    for (std::string& name : names)
+        name += '=';
+    return names;
+}
+
+// The commands with their options, and the words of the help.
+class Parser {
+public:
+    Parser() : app_("Reads and sets the properties of entities in DXF drawings", "dxfprops") {
+        cli::AddCommonOptions(app_, DXFPROPS_VERSION, {{"set", WithEquals(dxf::DocumentReader::PropertyNames())}});
+        app_.footer("Properties: " + Joined(dxf::DocumentReader::PropertyNames()) + ".\n" + kExamples);
+        AddReaders();
+        AddWriters();
+    }
+
+    int Execute(const std::vector<std::string>& arguments) {
+        const cli::ParseResult result = cli::Parse(app_, arguments);
+        std::cout << result.output;
+        std::cerr << result.error;
+        if (!result.isParsed) return result.error.empty() ? kDone : kFailed;
+        try {
+            line_.files = cli::WithoutWildcards(line_.files);
+            return command_(line_);
+        } catch (const UsageError& error) {
+            std::cerr << "dxfprops: " << error.what() << "\n";
+        } catch (const dxf::ReadError& error) { // a list of values
+            std::cerr << "dxfprops: " << line_.before << ": " << error.what() << "\n";
+        }
+        return kFailed;
+    }
+
+private:
+    template <class Command>
+    CLI::App* Add(const char* name, const char* description, Command command) {
+        CLI::App* sub = app_.add_subcommand(name, description);
+        sub->callback([this, command] { command_ = command; });
+        sub->add_flag("--progress", line_.showsProgress, "show a bar on stderr");
+        return sub;
+    }
+    void AddFiles(CLI::App* sub) { sub->add_option("FILE", line_.files, "drawings; - is standard input")->required(); }
+    void AddForms(CLI::App* sub, bool hasCsv) {
+        std::vector<CLI::Option*> forms;
+        const auto add = [&](const char* name, Form form, const char* description) {
+            CLI::Option* option = sub->add_flag_callback(
+                name, [this, form] { line_.form = form; }, description);
+            for (CLI::Option* other : forms)
+                option->excludes(other);
+            forms.push_back(option);
+        };
+        add("--json", Form::json, "as JSON, one array");
+        add("--json-lines", Form::jsonLines, "as JSON, one object a line");
+        if (hasCsv) add("--csv", Form::csv, "one line each, after a line of headings");
+    }
+    void AddSelection(CLI::App* sub) {
+        sub->add_option("--where", line_.where,
+                        "kind, handle, block or a property, compared by = != < <= > >= ~ (wildcards); A|B: one of "
+                        "several; joined by commas or repeated: all have to hold")
+            ->allow_extra_args(false);
+        sub->add_option("--in", line_.space, "model (the default), paper, all, or block=NAME");
+        sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside of that box");
+    }
+    void AddTarget(CLI::App* sub) {
+        sub->add_option("-o", line_.output, "the file that the drawing is written into; - is standard output");
+        sub->add_flag("--in-place", line_.isInPlace, "each drawing is written into its own file");
+        sub->add_flag("--dry-run", line_.isDry, "print what would change, and write nothing");
+        sub->add_flag("--backup", line_.keepsBackup, "keep what a file contained as FILE.bak");
+    }
+
+    void AddReaders() {
+        CLI::App* list = Add("list", "Print the contents of drawings", [](CommandLine& line) { return List(line); });
+        AddFiles(list);
+        AddForms(list, false);
+        CLI::App* get = Add("get", "Print the properties of entities", [](CommandLine& line) { return Get(line); });
+        AddFiles(get);
+        get->add_option("--show", line_.show, "these properties alone")->delimiter(',')->allow_extra_args(false);
+        AddForms(get, true);
+        AddSelection(get);
+        CLI::App* layers = Add("layers", "Print layers", [](CommandLine& line) { return ListLayers(line); });
+        AddFiles(layers);
+        AddForms(layers, true);
+        CLI::App* diff = Add("diff", "Print differences", [](CommandLine& line) { return Diff(line); });
+        diff->add_option("BEFORE", line_.before, "a drawing")->required();
+        diff->add_option("AFTER", line_.after, "another one")->required();
+        diff->add_flag("--only-properties", line_.onlyProperties, "not texts, positions and other coordinates");
+        AddForms(diff, false);
+    }
+    void AddWriters() {
+        CLI::App* set = Add("set", "Set properties of entities", [](CommandLine& line) { return Set(line); });
+        set->add_option("FILE PROPERTY=VALUE", line_.rest,
+                        "drawings and values; attribute:TAG=VALUE sets attributes of insertions")
+            ->required();
+        AddSelection(set);
+        AddTarget(set);
+        CLI::App* layer = Add("set-layer", "Change layers", [](CommandLine& line) { return SetLayer(line); });
+        layer->add_option("FILE NAME=VALUE", line_.rest, "drawings, and values of " + LayerFieldNames())->required();
+        layer->add_option("--layer", line_.layers, "a name, or several with * and ?")->allow_extra_args(false);
+        layer->add_flag("--new", line_.isNew, "add layers that are missing");
+        AddTarget(layer);
+        CLI::App* apply = Add("apply", "Set the values that get --json printed and that were edited",
+                              [](CommandLine& line) { return Apply(line); });
+        apply->add_option("FILE.json", line_.before, "the values; - is standard input")->required();
+        AddTarget(apply);
+    }
+
+    CLI::App app_;
+    CommandLine line_;
+    std::function<int(CommandLine&)> command_;
+};
+
+int RunWith(const std::vector<std::string>& words) {
+    files::RemoveTemporaryFileOnInterrupt();
+    std::ios::sync_with_stdio(false);
     try {
-        std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
-        usage.parse(arguments);
-        return list->parsed() ? List(line) : get->parsed() ? Get(line) : set->parsed() ? Set(line) : Diff(line);
-    } catch (const CLI::ParseError& error) {
-        return usage.exit(error) ? kUsage : kDone;
+        return Parser().Execute(cli::WithListedArguments(words));
+    } catch (const files::FileError& unreadable) {
+        std::cerr << "dxfprops: a list of arguments: " << unreadable.what() << "\n";
+        return kFailed;
     }
 }
 
@@ -225,15 +486,15 @@ int Run(std::vector<std::string> arguments) {
 
 #ifdef _WIN32
 int wmain(int count, wchar_t** words) {
-    for (FILE* stream : {stdout, stderr})
+    for (FILE* stream : {stdin, stdout, stderr})
         ::_setmode(::_fileno(stream), _O_BINARY);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
         arguments.push_back(std::filesystem::path(words[i]).u8string());
-    return Run(std::move(arguments));
+    return RunWith(arguments);
 }
 #else
 int main(int count, char** words) {
-    return Run({words + 1, words + count});
+    return RunWith({words + 1, words + count});
 }
 #endif

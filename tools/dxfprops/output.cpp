@@ -1,10 +1,15 @@
-// Formats results as lines and as JSON.
+// Lines, JSON and CSV.
 #include "tools/dxfprops/output.h"
 
+#include <cstdio>
+#include <filesystem>
+#include <map>
 #include <new>
+#include <stdexcept>
 
 #include <nlohmann/json.hpp>
 
+#include "tools/cli/csv.h"
 #include "tools/dxfprops/list_drawings.h"
 
 namespace dxfprops {
@@ -13,7 +18,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// Quotes the text for a command line.
+// On one line, as a command line takes it.
 std::string Quoted(const std::string& text) {
     std::string quoted = "\"";
     for (const char c : text) {
@@ -27,10 +32,64 @@ std::string Quoted(const std::string& text) {
     return quoted + "\"";
 }
 
+std::string Dumped(const Json& json) {
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 Json Named(const dxf::RecordName& name) {
     Json entry{{"kind", name.kind}, {"handle", name.handle.empty() ? Json() : Json(name.handle)}, {"line", name.line}};
     if (!name.block.empty()) entry["block"] = name.block;
     return entry;
+}
+
+Json JsonOf(const EntityProperties& entity) {
+    Json entry = Named(entity.name);
+    entry["properties"] = Json::object();
+    for (const auto& [property, value] : entity.values)
+        entry["properties"][property] = value;
+    return entry;
+}
+
+Json JsonOf(const Difference& difference) {
+    Json entry = Named(difference.name);
+    if (difference.kind != Difference::Kind::changed)
+        entry["only_in"] = difference.kind == Difference::Kind::onlyBefore ? "before" : "after";
+    for (const Difference::Value& value : difference.values)
+        entry["properties"][value.property] = {{"before", value.before}, {"after", value.after}};
+    return entry;
+}
+
+std::string LineOf(const Difference& difference, const std::string& before, const std::string& after) {
+    std::string line = difference.name.Text();
+    if (difference.kind != Difference::Kind::changed)
+        line += " is only in " + (difference.kind == Difference::Kind::onlyBefore ? before : after);
+    for (const Difference::Value& value : difference.values)
+        line += " " + value.property + ": " + Quoted(value.before) + " -> " + Quoted(value.after);
+    return line + "\n";
+}
+
+std::string LineOf(const std::string& name, const Values& values) {
+    std::string line = name;
+    for (const auto& [property, value] : values)
+        line += (line.empty() ? "" : " ") + property + "=" + Quoted(value);
+    return line + "\n";
+}
+
+const char* ListName(ResultPrinter::Items items) {
+    return items == ResultPrinter::Items::entities ? "entities"
+           : items == ResultPrinter::Items::layers ? "layers"
+                                                   : "differences";
+}
+
+EntityProperties EntityIn(const Json& json) {
+    EntityProperties entity;
+    entity.name.kind = json.at("kind").get<std::string>();
+    if (json.at("handle").is_string()) entity.name.handle = json["handle"].get<std::string>();
+    entity.name.line = json.value("line", 0u);
+    entity.name.block = json.value("block", "");
+    for (const auto& [property, value] : json.at("properties").items())
+        entity.values.emplace_back(property, value.get<std::string>());
+    return entity;
 }
 
 } // namespace
@@ -50,29 +109,120 @@ void PrintSummary(const std::string& file, std::ostream& out) {
             out << "  line " << finding["line"] << ": " << finding["text"].get<std::string>() << "\n";
 }
 
-void Print(const Listing& listing, std::ostream& out) {
-    for (const EntityProperties& entity : listing.entities) {
-        out << entity.name.Text();
-        for (const auto& [property, value] : entity.values)
-            out << " " << property << "=" << Quoted(value);
-        out << "\n";
-    }
-}
-
 void Print(const std::vector<Difference>& differences, const std::string& before, const std::string& after,
            std::ostream& out) {
-    for (const Difference& difference : differences) {
-        out << difference.name.Text();
-        if (difference.kind != Difference::Kind::changed)
-            out << " is only in " << (difference.kind == Difference::Kind::onlyBefore ? before : after);
-        for (const Difference::Value& value : difference.values)
-            out << " " << value.property << ": " << Quoted(value.before) << " -> " << Quoted(value.after);
-        out << "\n";
+    for (const Difference& difference : differences)
+        out << LineOf(difference, before, after);
+}
+
+ResultPrinter::ResultPrinter(Form form, Items items, std::vector<std::string> columns, std::ostream& out)
+    : form_(form), kind_(items), columns_(std::move(columns)), out_(out) {
+    if (form == Form::json) out << "[";
+    if (form != Form::csv) return;
+    std::vector<std::string> headings = {"file"};
+    if (items == Items::entities) headings = {"file", "kind", "handle", "line", "block"};
+    headings.insert(headings.end(), columns_.begin(), columns_.end());
+    headings.push_back("error");
+    out << cli::CsvLine(headings);
+}
+
+ResultPrinter::~ResultPrinter() {
+    if (form_ == Form::json) out_ << "\n]\n";
+}
+
+void ResultPrinter::BeginFile(const std::string& file, bool isOneOfMany) {
+    file_ = file;
+    items_ = 0;
+    isOpen_ = false;
+    if (form_ == Form::text && isOneOfMany) out_ << file << "\n";
+}
+
+void ResultPrinter::BeginObject() {
+    if (form_ == Form::json)
+        out_ << (files_ == 0 ? "\n  {" : ",\n  {") << "\"file\": " << Dumped(file_) << ", " << Dumped(ListName(kind_))
+             << ": [";
+    ++files_;
+    isOpen_ = true;
+}
+
+void ResultPrinter::AddJson(Json item) {
+    if (form_ == Form::jsonLines) {
+        Json line{{"file", file_}};
+        line.update(item);
+        out_ << Dumped(line) << "\n";
+        return;
+    }
+    if (!isOpen_) BeginObject();
+    out_ << (items_++ == 0 ? "\n    " : ",\n    ") << Dumped(item);
+}
+
+void ResultPrinter::AddCsv(const dxf::RecordName& name, const Values& values) {
+    std::vector<std::string> line = {file_};
+    if (kind_ == Items::entities)
+        line.insert(line.end(), {name.kind, name.handle, std::to_string(name.line), name.block});
+    for (const std::string& column : columns_) {
+        std::string value;
+        for (const auto& [property, text] : values)
+            if (property == column) value = text;
+        line.push_back(value);
+    }
+    line.emplace_back();
+    out_ << cli::CsvLine(line);
+}
+
+void ResultPrinter::Add(const EntityProperties& entity) {
+    if (form_ == Form::text)
+        out_ << LineOf(entity.name.Text(), entity.values);
+    else if (form_ == Form::csv)
+        AddCsv(entity.name, entity.values);
+    else
+        AddJson(JsonOf(entity));
+}
+
+void ResultPrinter::Add(const Difference& difference, const std::string& before, const std::string& after) {
+    if (form_ == Form::text)
+        out_ << LineOf(difference, before, after);
+    else
+        AddJson(JsonOf(difference));
+}
+
+void ResultPrinter::Add(const dxf::Contents::Layer& layer) {
+    const Values values = ValuesOf(layer);
+    if (form_ == Form::text) {
+        out_ << LineOf("", values);
+    } else if (form_ == Form::csv) {
+        AddCsv({}, values);
+    } else {
+        Json entry = Json::object();
+        for (const auto& [name, value] : values)
+            entry[name] = value;
+        AddJson(std::move(entry));
     }
 }
 
-bool PrintArray(const std::vector<std::string>& files, const std::function<Json(const std::string&)>& describe,
-                std::ostream& out) {
+void ResultPrinter::EndFile() {
+    if (form_ != Form::json) return;
+    if (!isOpen_) BeginObject();
+    out_ << (items_ == 0 ? "]}" : "\n  ]}");
+}
+
+void ResultPrinter::Fail(const std::string& error, uint32_t line) {
+    const Json what{{"file", file_}, {"error", error}, {"line", line ? Json(line) : Json()}};
+    if (form_ == Form::csv) {
+        std::vector<std::string> values(columns_.size() + (kind_ == Items::entities ? 6 : 2));
+        values.front() = file_;
+        values.back() = error;
+        out_ << cli::CsvLine(values);
+    } else if (form_ == Form::jsonLines) {
+        out_ << Dumped(what) << "\n";
+    } else if (form_ == Form::json) {
+        if (isOpen_) EndFile();
+        out_ << (files_++ == 0 ? "\n  " : ",\n  ") << Dumped(what);
+    }
+}
+
+bool PrintObjects(const std::vector<std::string>& files, Form form,
+                  const std::function<Json(const std::string&)>& describe, std::ostream& out) {
     Json list = Json::array();
     bool allRead = true;
     for (const std::string& file : files) {
@@ -82,38 +232,60 @@ bool PrintArray(const std::vector<std::string>& files, const std::function<Json(
         } catch (const dxf::ReadError& error) {
             entry.update({{"error", error.Text()}, {"line", error.Line() ? Json(error.Line()) : Json()}});
         } catch (const std::bad_alloc&) {
-            entry.update({{"error", "there is not enough memory for it"}, {"line", nullptr}});
-        } catch (const std::runtime_error& error) { // the drawing does not have the block
-            entry.update({{"error", error.what()}, {"line", nullptr}});
+            entry.update({{"error", "not enough memory"}, {"line", nullptr}});
         }
         allRead = allRead && !entry.contains("error");
-        list.push_back(std::move(entry));
+        if (form == Form::jsonLines)
+            out << Dumped(entry) << "\n";
+        else
+            list.push_back(std::move(entry));
     }
-    out << list.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+    if (form == Form::json) out << list.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
     return allRead;
 }
 
-Json JsonOf(const Listing& listing) {
-    Json entities = Json::array();
-    for (const EntityProperties& entity : listing.entities) {
-        Json& entry = entities.emplace_back(Named(entity.name));
-        entry["properties"] = Json::object();
-        for (const auto& [property, value] : entity.values)
-            entry["properties"][property] = value;
+std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(const std::string& text) {
+    std::vector<std::pair<std::string, std::vector<EntityProperties>>> files;
+    const auto add = [&files](const std::string& file, const Json& entity) {
+        if (files.empty() || files.back().first != file) files.push_back({file, {}});
+        if (!entity.is_null()) files.back().second.push_back(EntityIn(entity));
+    };
+    try {
+        if (text.find_first_not_of(" \t\r\n") != text.npos && text[text.find_first_not_of(" \t\r\n")] == '[') {
+            for (const Json& file : Json::parse(text)) {
+                add(file.at("file").get<std::string>(), nullptr);
+                for (const Json& entity : file.at("entities"))
+                    add(file["file"].get<std::string>(), entity);
+            }
+            return files;
+        }
+        for (size_t at = 0; at < text.size();) {
+            const size_t end = std::min(text.find('\n', at), text.size());
+            if (text.find_first_not_of(" \t\r", at) < end) {
+                const Json line = Json::parse(text.substr(at, end - at));
+                add(line.at("file").get<std::string>(), line);
+            }
+            at = end + 1;
+        }
+    } catch (const Json::exception& error) {
+        throw std::invalid_argument(std::string("this is not the JSON of get: ") + error.what());
     }
-    return {{"entities", entities}};
+    return files;
 }
 
-Json JsonOf(const std::vector<Difference>& differences) {
-    Json list = Json::array();
-    for (const Difference& difference : differences) {
-        Json& entry = list.emplace_back(Named(difference.name));
-        if (difference.kind != Difference::Kind::changed)
-            entry["only_in"] = difference.kind == Difference::Kind::onlyBefore ? "before" : "after";
-        for (const Difference::Value& value : difference.values)
-            entry["properties"][value.property] = {{"before", value.before}, {"after", value.after}};
-    }
-    return {{"differences", list}};
+Values ValuesOf(const dxf::Contents::Layer& layer) {
+    const auto onOff = [](bool isOn) { return std::string(isOn ? "Yes" : "No"); };
+    constexpr int kFrozen = 1, kLocked = 4;
+    char weight[32] = "Default";
+    if (layer.lineWeight >= 0) std::snprintf(weight, sizeof weight, "%g mm", layer.lineWeight / 100.0);
+    return {{"Name", layer.name},
+            {"On", onOff(layer.color >= 0)},
+            {"Frozen", onOff((layer.flags & kFrozen) != 0)},
+            {"Locked", onOff((layer.flags & kLocked) != 0)},
+            {"Plotted", onOff(layer.isPlotted)},
+            {"Color", layer.colorText},
+            {"LineType", layer.lineType},
+            {"LineWeight", weight}};
 }
 
 } // namespace dxfprops

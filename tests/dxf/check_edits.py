@@ -1,0 +1,217 @@
+#!/usr/bin/env python3
+"""Selects, edits and compares drawings by dxfprops, and reads them by ezdxf: check_edits.py DXFPROPS"""
+import json
+import os
+import subprocess
+import sys
+import tempfile
+
+import ezdxf
+from ezdxf import recover
+
+PROGRAM = os.path.abspath(sys.argv[1])
+os.chdir(tempfile.mkdtemp())
+failures = []
+
+
+def run(*arguments, stdin=b""):
+    return subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60, check=False)
+
+
+def expect(what, is_so, done=None):
+    if not is_so:
+        failures.append(f"{what}: {done}")
+
+
+def read(name):
+    with open(name, "rb") as file:
+        return file.read()
+
+
+def audited(name):
+    """The drawing as the other reader sees it; it must find no fault."""
+    drawing, auditor = recover.readfile(name)
+    expect(f"faults of {name}", not auditor.errors, auditor.errors)
+    return drawing
+
+
+def make(name, version="R2000"):
+    drawing = ezdxf.new(version)
+    for layer, color in {"WALLS": 7, "WALLS-NEW": 1, "Türen": 3, "NOTES": 2}.items():
+        drawing.layers.add(layer, color=color)
+    space = drawing.modelspace()
+    for i in range(4):
+        layer = "WALLS" if i < 2 else "WALLS-NEW"
+        space.add_line((i, 0), (i, 5), dxfattribs={"layer": layer, "color": i + 1, "lineweight": 25 * i})
+    space.add_circle((20, 20), 3, dxfattribs={"layer": "Türen"})
+    space.add_text("old, text", dxfattribs={"layer": "NOTES", "height": 2, "insert": (1, 1)})
+    space.add_mtext("old\\Pparagraph", dxfattribs={"layer": "NOTES", "insert": (5, 5)})
+    frame = drawing.blocks.new("FRAME")
+    frame.add_line((0, 0), (100, 0))
+    frame.add_attdef("TITLE", (10, 10), "untitled", dxfattribs={"height": 2})
+    frame.add_attdef("DATE", (10, 5), "", dxfattribs={"height": 2})
+    drawing.blocks.new("DOOR").add_line((0, 0), (1, 0))
+    insert = space.add_blockref("FRAME", (0, -50))
+    insert.add_auto_attribs({"TITLE": "untitled", "DATE": "1999"})
+    space.add_blockref("DOOR", (3, 4), dxfattribs={"xscale": 2, "yscale": 2, "rotation": 30})
+    drawing.layout("Layout1").add_text("on paper", dxfattribs={"height": 3})
+    drawing.saveas(name)
+
+
+def count(*where, space=()):
+    conditions = [word for one in where for word in ("--where", one)]
+    done = run("get", "plan.dxf", *conditions, *space, "--json-lines", "--show", "Layer")
+    return len(done.stdout.splitlines())
+
+
+def check_conditions():
+    for where, wanted in [
+        (["kind=LINE"], 4), (["kind=LINE|CIRCLE"], 5), (["kind!=LINE"], 7), (["layer~W*"], 4), (["layer~walls-???"], 2),
+        (["Layer~t?ren"], 1), (["PenColor=Red"], 1), (["PenColor=#FF0000"], 1), (["PenColor=1"], 1),
+        (['PenColor="255,0,0"'], 1), (["PenColor=1|2,kind=LINE"], 2), (["PenWidth=0.5mm"], 1),
+        (["PenWidth=0.50 mm"], 1),
+        (["PenWidth>=0.25 mm"], 3), (["PenWidth>0.25 mm", "kind=LINE"], 2), (["PenWidth<0.5 mm,kind=LINE"], 2),
+        (["TextSize>=2"], 4), (['Text="old, text"'], 1), (["Text~*text"], 1), (["BlockName=door"], 1),
+        (["Rotation>20"], 1), (["Rotation=30.0"], 1), (['Position="3,4"'], 1),
+        (["Tag=title"], 1), (["block=FRAME"], 3)]:
+        expect(f"where {where}", count(*where) == wanted, count(*where))
+    found = json.loads(run("get", "plan.dxf", "--where", "kind=CIRCLE", "--json").stdout)
+    handle = found[0]["entities"][0]["handle"]
+    expect("a handle", count(f"handle={handle.lower()}") == 1)
+    texts = [count("kind=TEXT", space=["--in", space]) for space in ("paper", "all")]
+    expect("paper space", texts == [1, 2], texts)
+    expect("a block", count(space=["--in", "block=frame"]) == 3)
+    expect("a box", count(space=["--within", "16,16,24,24"]) == 1 and count(space=["--within", "16,16,22,24"]) == 0)
+    for wrong in (["--where", "kind"], ["--where", "Layer<3"], ["--where", 'Text="open'], ["--in", "nowhere"],
+                  ["--within", "1,2,3"], ["--hue"]):
+        done = run("get", "plan.dxf", *wrong)
+        is_said = done.stderr.startswith(b"dxfprops: ") and not done.stdout
+        expect(f"wrong {wrong}", done.returncode == 2 and is_said, done)
+
+
+def check_forms():
+    lines = [json.loads(line) for line in run("get", "plan.dxf", "none.dxf", "--json-lines").stdout.splitlines()]
+    array = json.loads(run("get", "plan.dxf", "none.dxf", "--json").stdout)
+    entities = [{key: line[key] for key in line if key != "file"} for line in lines[:-1]]
+    expect("JSON lines", lines[-1]["error"] and entities == array[0]["entities"] and array[1] == lines[-1])
+    done = run("get", "plan.dxf", "--csv", "--show", "Layer,PenColor", "--where", "kind=TEXT|LINE")
+    table = done.stdout.decode().splitlines()
+    expect("CSV", table[0] == "file,kind,handle,line,block,Layer,PenColor,error" and len(table) == 6, table)
+    expect("an empty array", json.loads(run("get", "none.dxf", "--json").stdout)[0]["file"] == "none.dxf")
+    for option, beginning in (("--version", b"dxfprops 1."), ("--man", b".TH DXFPROPS"),
+                              ("--completion", b"# Completion")):
+        expect(option, run(option).stdout.startswith(beginning), run(option))
+
+
+def check_values():
+    done = run("set", "plan.dxf", "attribute:title=Plan Ä", "Attribute:DATE=today", "-o", "out.dxf")
+    drawing = audited("out.dxf")
+    frame = drawing.modelspace().query('INSERT[name=="FRAME"]')[0]
+    texts = {attribute.dxf.tag: attribute.dxf.text for attribute in frame.attribs}
+    is_done = texts == {"TITLE": "Plan Ä", "DATE": "today"} and b"2 entities changed" in done.stdout
+    expect("attributes", is_done, (texts, done))
+    expect("no such attribute", run("set", "plan.dxf", "attribute:NONE=x", "--dry-run").returncode == 1)
+    done = run("set", "plan.dxf", "--where", "BlockName=DOOR", "attribute:TITLE=x", "--dry-run")
+    expect("of others", done.returncode == 1, done)
+    run("set", "plan.dxf", "--where", "kind=TEXT|MTEXT", "Text=new", "-o", "out.dxf")
+    space = audited("out.dxf").modelspace()
+    expect("texts", space.query("TEXT")[0].dxf.text == "new" and space.query("MTEXT")[0].text == "new")
+    values = ["Position=7,8", "Scale=3,-3,1", "Rotation=90"]
+    run("set", "plan.dxf", "--where", "BlockName=DOOR", *values, "-o", "out.dxf")
+    door = audited("out.dxf").modelspace().query('INSERT[name=="DOOR"]')[0].dxf
+    place = (tuple(door.insert), door.xscale, door.yscale, door.rotation)
+    expect("a place", place == ((7, 8, 0), 3, -3, 90), place)
+    run("set", "plan.dxf", "--where", "BlockName=FRAME", "Position=10,-50", "-o", "out.dxf")
+    frames = [audited(name).modelspace().query('INSERT[name=="FRAME"]')[0] for name in ("plan.dxf", "out.dxf")]
+    moved = [tuple(frame.attribs[0].dxf.insert)[0] for frame in frames]
+    expect("attributes move along", moved[1] - moved[0] == 10, moved)
+    for wrong in ("Position=a,b", "Scale=0", "Rotation=1,2", "Tag=x"):
+        done = run("set", "plan.dxf", wrong, "-o", "wrong.dxf")
+        expect(wrong, done.returncode == 2 and not os.path.exists("wrong.dxf"), done)
+
+
+def check_targets():
+    old = read("plan.dxf")
+    done = run("set", "plan.dxf", "--where", "PenColor=red", "PenColor=0,0,255", "--dry-run")
+    is_said = b'PenColor: "Red" -> "Blue"' in done.stdout and b"1 entity would change" in done.stdout
+    expect("a dry run", done.returncode == 0 and read("plan.dxf") == old and is_said, done)
+    make("copy.dxf")
+    before = read("copy.dxf")
+    run("set", "copy.dxf", "PenColor=5", "--in-place", "--backup")
+    expect("a backup", read("copy.dxf.bak") == before and read("copy.dxf") != before)
+    done = run("set", "-", "PenColor=5", "-o", "-", stdin=before)
+    expect("a pipe", done.stdout == read("copy.dxf") and done.returncode == 0, done.stderr)
+    expect("a pipe has no place", run("set", "-", "PenColor=5", "--in-place", stdin=before).returncode == 2)
+
+
+def check_apply():
+    shown = json.loads(run("get", "plan.dxf", "--json").stdout)
+    done = run("apply", "-", "--dry-run", stdin=json.dumps(shown).encode())
+    expect("as it was", done.stdout == b"plan.dxf: 0 entities would change\n", done)
+    for entity in shown[0]["entities"]:
+        if entity["kind"] == "LINE":
+            entity["properties"].update({"PenColor": "Green", "Layer": "NOTES"})
+        if "Text" in entity["properties"]:
+            entity["properties"]["Text"] = entity["kind"]
+    with open("plan.json", "w", encoding="utf-8") as file:
+        json.dump(shown, file)
+    run("apply", "plan.json", "-o", "out.dxf")
+    after = json.loads(run("get", "out.dxf", "--json").stdout)[0]["entities"]
+    for entity in after + shown[0]["entities"]:
+        del entity["line"]
+    expect("what was edited", after == shown[0]["entities"])
+    expect("greens", {line.dxf.color for line in audited("out.dxf").modelspace().query("LINE")} == {3})
+    shown[0]["entities"][0]["handle"] = "FFFF"
+    done = run("apply", "-", "-o", "wrong.dxf", stdin=json.dumps(shown).encode())
+    is_refused = done.returncode == 2 and not os.path.exists("wrong.dxf")
+    expect("a missing entity", is_refused and b"FFFF" in done.stderr, done)
+    expect("no JSON", run("apply", "-", "--dry-run", stdin=b"[1").returncode == 2)
+
+
+def check_layers():
+    listed = run("layers", "plan.dxf", "--csv").stdout.decode().splitlines()
+    expect("layers", len(listed) >= 6 and any(",WALLS-NEW,Yes,No,No,Yes,Red," in line for line in listed), listed)
+    values = ["Color=0,128,255", "LineWeight=0.5 mm", "Locked=yes", "On=no"]
+    run("set-layer", "plan.dxf", "--layer", "walls*", *values, "-o", "r2000.dxf")
+    expect("a color that the version lacks", not os.path.exists("r2000.dxf"))
+    make("new.dxf", "R2010")
+    run("set-layer", "new.dxf", "--layer", "walls*", *values, "-o", "out.dxf")
+    layers = audited("out.dxf").layers
+    for name, changed in {"WALLS": True, "WALLS-NEW": True, "NOTES": False}.items():
+        layer = layers.get(name)
+        is_other = layer.dxf.lineweight == 50 and layer.rgb == (0, 128, 255)
+        is_changed = layer.is_locked() and not layer.is_on() and is_other
+        expect(f"layer {name}", is_changed == changed, layer.dxf.all_existing_dxf_attribs())
+    done = run("set-layer", "new.dxf", "--layer", "WALLS", "Name=Wände", "--in-place")
+    drawing = audited("new.dxf")
+    lines = [line.dxf.layer for line in drawing.modelspace().query("LINE")]
+    is_renamed = "Wände" in drawing.layers and "WALLS" not in drawing.layers
+    expect("a new name", lines == ["Wände", "Wände", "WALLS-NEW", "WALLS-NEW"] and is_renamed, (lines, done))
+    for layer, value in (("NOTES", "Name=wände"), ("0", "Name=x"), ("ROOF", "On=no")):
+        done = run("set-layer", "new.dxf", "--layer", layer, value, "--dry-run")
+        expect(f"{value} of {layer}", done.returncode == 2, done)
+    run("set-layer", "new.dxf", "--layer", "ROOF", "Color=magenta", "Frozen=yes", "--new", "--in-place")
+    roof = audited("new.dxf").layers.get("ROOF")
+    expect("an added one", roof.dxf.color == 6 and roof.is_frozen())
+
+
+def check_differences():
+    run("set", "plan.dxf", "--where", "kind=TEXT", "Text=new", "-o", "out.dxf")
+    run("set", "out.dxf", "--where", "BlockName=DOOR", "Position=1,1", "--in-place")
+    drawing = ezdxf.readfile("out.dxf")
+    drawing.modelspace().query("CIRCLE")[0].dxf.center = (21, 20)
+    drawing.saveas("other.dxf")
+    found = json.loads(run("diff", "plan.dxf", "other.dxf", "--json").stdout)[0]["differences"]
+    changed = {difference["kind"]: list(difference.get("properties", [])) for difference in found}
+    expect("differences", changed == {"TEXT": ["Text"], "INSERT": ["Position"], "CIRCLE": ["Shape"]}, changed)
+    expect("properties alone", run("diff", "plan.dxf", "out.dxf", "--only-properties").returncode == 0)
+    expect("the same", run("diff", "plan.dxf", "plan.dxf").returncode == 0)
+    expect("a missing one", run("diff", "plan.dxf", "none.dxf").returncode == 2)
+
+
+make("plan.dxf")
+for check in (check_conditions, check_forms, check_values, check_targets, check_apply, check_layers, check_differences):
+    check()
+if failures:
+    sys.exit("\n".join(failures))
+print("all as expected")
