@@ -10,6 +10,8 @@ import shutil
 import subprocess
 import sys
 
+import ezdxf
+
 # The files that the guide names, and their sources.
 DOCUMENTS = {"report.doc": "ole/test11--695187.doc", "letter.doc": "ole/Bug48075--a2ceba.doc",
              "prices.xls": "ole/testEXCEL-custom-props--fff0cb.xls", "archive/budget.xls": "ole/25695--d41532.xls",
@@ -17,12 +19,35 @@ DOCUMENTS = {"report.doc": "ole/test11--695187.doc", "letter.doc": "ole/Bug48075
              "plan.vsd": "ole/v5-Connection-Types--c289c5.vsd"}
 
 
+def make_drawings(folder):
+    """plan.dxf with walls, doors and texts; sheet1.dxf to sheet3.dxf with title blocks."""
+    drawing = ezdxf.new("R2010")
+    for name, color in {"WALLS": 7, "WALLS-NEW": 7, "DOORS": 3, "NOTES": 2}.items():
+        drawing.layers.add(name, color=color)
+    space = drawing.modelspace()
+    for i in range(4):
+        space.add_line((i, 0), (i, 5), dxfattribs={"layer": "WALLS" if i < 2 else "WALLS-NEW"})
+    space.add_text("Ground floor", dxfattribs={"layer": "NOTES", "height": 2.5, "insert": (0, 8)})
+    space.add_text("small print", dxfattribs={"layer": "NOTES", "height": 0.5, "insert": (0, 7)})
+    drawing.blocks.new("DOOR").add_line((0, 0), (1, 0))
+    space.add_blockref("DOOR", (1, 1), dxfattribs={"layer": "DOORS"})
+    space.add_blockref("DOOR", (3, 1), dxfattribs={"layer": "DOORS", "rotation": 90})
+    drawing.saveas(folder / "plan.dxf")
+    for number in (1, 2, 3):
+        drawing = ezdxf.new("R2010")
+        frame = drawing.blocks.new("FRAME")
+        for tag, y in {"TITLE": 10, "DATE": 5}.items():
+            frame.add_attdef(tag, (10, y), "", dxfattribs={"height": 2})
+        drawing.modelspace().add_blockref("FRAME", (0, 0)).add_auto_attribs({"TITLE": f"Sheet {number}", "DATE": "1999"})
+        drawing.saveas(folder / f"sheet{number}.dxf")
+
+
 def prepare(guide, data, folder):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
-    drawings = data / "tasks"
-    files = DOCUMENTS if guide.stem == "suminfo" else {p.name: f"tasks/{p.name}" for p in drawings.iterdir()}
-    for name, source in files.items():
+    if guide.stem == "dxfprops":
+        return make_drawings(folder)
+    for name, source in DOCUMENTS.items():
         (folder / name).parent.mkdir(exist_ok=True)
         shutil.copyfile(data / source, folder / name)
 
