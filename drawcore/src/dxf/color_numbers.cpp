@@ -2,6 +2,7 @@
 #include "drawcore/src/dxf/color_numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -36,6 +37,21 @@ Color HueColor(int index) {
     return Rgb(part(0), part(4), part(2));
 }
 
+// By their numbers; a large drawing asks for each of its entities.
+std::array<Color, kColorNumbers + 1> AllColors() {
+    std::array<Color, kColorNumbers + 1> colors = {kWhite};
+    for (int index = 1; index <= kColorNumbers; ++index) {
+        Color& color = colors[static_cast<size_t>(index)];
+        if (index <= 9)
+            color = kFirst[index - 1];
+        else if (index <= 249)
+            color = HueColor(index);
+        else
+            color = Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
+    }
+    return colors;
+}
+
 constexpr const char* kFirstNames[] = {"Red", "Yellow", "Green", "Cyan", "Blue", "Magenta", "White"};
 
 int Distance(Color a, Color b) {
@@ -50,10 +66,8 @@ int Distance(Color a, Color b) {
 } // namespace
 
 Color ColorOfIndex(int index) {
-    if (index >= 1 && index <= 9) return kFirst[index - 1];
-    if (index >= 10 && index <= 249) return HueColor(index);
-    if (index >= 250 && index <= 255) return Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
-    return kWhite;
+    static const std::array<Color, kColorNumbers + 1> kColors = AllColors();
+    return index >= 1 && index <= kColorNumbers ? kColors[static_cast<size_t>(index)] : kWhite;
 }
 
 std::string NameOfIndex(int index) {
@@ -61,9 +75,13 @@ std::string NameOfIndex(int index) {
 }
 
 int NearestIndex(uint32_t color) {
-    int nearest = 7;
-    for (int index = 1; index <= kColorNumbers; ++index)
-        if (Distance(ColorOfIndex(index), color) < Distance(ColorOfIndex(nearest), color)) nearest = index;
+    int nearest = 7, least = Distance(ColorOfIndex(nearest), color);
+    for (int index = 1; index <= kColorNumbers && least > 0; ++index) {
+        const int distance = Distance(ColorOfIndex(index), color);
+        if (distance >= least) continue;
+        nearest = index;
+        least = distance;
+    }
     return nearest;
 }
 
