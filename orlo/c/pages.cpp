@@ -116,7 +116,7 @@ void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet) {
     for (uint32_t i = 0; i < record.pageCount; ++i) {
         const std::string name = "page " + std::to_string(i);
         try {
-            const OrloPage page = CopyRecordAt(record.pages, i, name);
+            const OrloPage page = CopyRecordAt(record.pages, i, "the record");
             ::AddFieldPage(&sheet, page.number, TableOf(page));
         } catch (const std::invalid_argument& refusal) {
             Refuse(kOrloBadArgument, (name + ": " + ToUtf8(refusal.what())).c_str());

@@ -196,6 +196,9 @@ int TransferFace(int bReport, CDataExchange* pDX, Field& field, CString& value) 
         ShowBlank(pDX->PrepareCtrl(field.id));
         return 1;
     }
+    // A face that the system lacks is listed too: a blank field would mean several values.
+    if (!pDX->m_bSaveAndValidate && !value.IsEmpty())
+        ControlItems::OfCombo(pDX->PrepareCtrl(field.id)).FindOrAdd(value);
     DDX_CBString(bReport, pDX, field.id, value);
     if (value.IsEmpty()) value = Indeterminate<CString>::Value();
     return 1;

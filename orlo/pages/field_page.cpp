@@ -78,6 +78,18 @@ const FieldTable& RequireValid(unsigned int page, const FieldTable& table) {
     return table;
 }
 
+// The text of a choice as an item of a list, which has no mnemonics; "&&" is an ampersand.
+std::string WithoutMnemonic(const std::string& text) {
+    std::string item;
+    for (const char* at = text.c_str(); *at != '\0';) {
+        if (*at == '&' && at[1] != '\0') ++at;
+        const char* next = ::CharNextA(at);
+        item.append(at, next);
+        at = next;
+    }
+    return item;
+}
+
 bool IsFromRightToLeft(HWND window) {
     return window != nullptr && (::GetWindowLongPtrA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
 }
@@ -131,8 +143,10 @@ public:
 
 void FieldPageParts::MakeControls(CWnd& page) {
     for (const auto& field : fields) {
-        for (const std::string& choice : field->row->choices) // radio buttons are not reported
-            ::SendDlgItemMessageA(page.m_hWnd, field->id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
+        for (const std::string& choice : field->row->choices) { // radio buttons ignore it
+            const std::string item = WithoutMnemonic(choice);
+            ::SendDlgItemMessageA(page.m_hWnd, field->id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+        }
         if (field->kind->makeControl == nullptr) continue;
         field->control = field->kind->makeControl();
         field->control->SubclassDlgItem(static_cast<UINT>(field->id), &page);

@@ -58,7 +58,7 @@ struct FieldRow {
                                       // box
     std::string unit;                 // shown after the field
     std::string help;                 // tooltip, and passed to FieldTable::onStatus
-    std::vector<std::string> choices; // of a Choice
+    std::vector<std::string> choices; // of a Choice; mnemonics are for radio buttons
     // Limits of a number, inclusive, in the units of FieldKind; equal limits mean none. Of Text and Lines, max is the
     // largest number of bytes.
     double min = 0.0, max = 0.0;

@@ -231,7 +231,7 @@ TEST_F(CPages, AWrongPageIsRefusedByItsField) {
     page.caption = nullptr;
     expect("page 0: the caption is null");
     page.size = 8;
-    expect("page 0 has a size that this version does not support");
+    expect("page 0: the record has a size that this version does not support");
     sheet.pages = nullptr;
     expect("sheet->pages is null");
 }

@@ -313,6 +313,20 @@ TEST_F(FieldPage, WhatTheHostRefusesIsCounted) {
     EXPECT_EQ(boxes.OnlyText(), "1 of 2 graphics could not be changed.");
 }
 
+TEST_F(FieldPage, AListShowsChoicesWithoutTheirMnemonics) {
+    Add(1);
+    SetRow(Row(FieldKind::Choice));
+    table.rows[0].choices = {"&None", "Fire && smoke", "L&ow", "High"};
+    RunOk([&](SheetDriver& user) { EXPECT_EQ(Shown(user, kField), "Fire & smoke"); });
+}
+
+TEST_F(FieldPage, AFaceThatTheSystemLacksIsShown) {
+    Add("Not Installed");
+    SetRow(Row(FieldKind::FontFace));
+    RunOk([&](SheetDriver& user) { EXPECT_EQ(Shown(user, kField), "Not Installed"); });
+    EXPECT_EQ(kit.Writes(), 0);
+}
+
 TEST_F(FieldPage, ATextThatIsRestoredIsNoEdit) {
     kit.Add({{kProperty, 1.23456789012345}, {kOther, "stays"}});
     SetRow(Row(FieldKind::Number));
