@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "demo/viewer/document.h"
+#include "demo/viewer/geometry_page.h"
 #include "demo/viewer/settings.h"
 #include "drawcore/application.h"
 #include "drawcore/regen.h"
@@ -52,6 +53,7 @@ SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruc
     if (!m_sheet) return;
     for (GraphicStruct* graphic : orlo::host::Members(set, flags))
         ::AddGraphicPropertyPage(m_methods.get(), graphic, m_sheet.get());
+    if (flags == kAllGraphics) AddGeometryPage(m_sheet.get());
 }
 
 void SelectionSheet::ChooseRememberedPage() {
