@@ -93,7 +93,7 @@ typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
 // ---- Pages of the host
 
-// What a field edits. The value types are those of property tables (orlo/host/records.h); the third column is the
+// Kinds of fields. The value types are those of property tables (orlo/host/records.h); the third column is the
 // member of OrloValue.
 typedef enum OrloFieldKind {
     kOrloFieldText = 1,        // VT_BSTR  text    one line

@@ -113,9 +113,7 @@ protected:
         EXPECT_EQ(code, IDOK);
     }
     // The host's page is the last one.
-    void ShowRoom(HWND window) {
-        ASSERT_TRUE(ClickTab(user, window, static_cast<int>(PageTitles(window).size()) - 1));
-    }
+    void ShowRoom(HWND window) { ASSERT_TRUE(ClickTab(user, window, static_cast<int>(PageTitles(window).size()) - 1)); }
     void Type(HWND window, int id, const char* text) {
         const HWND field = ::GetDlgItem(ActivePageOf(window), id);
         ::SetFocus(field);
