@@ -182,8 +182,10 @@ void Tour::EditAllPages() {
     m_user.InDialog([this] { m_user.Key(VK_RETURN, UserInput::kAlt); },
                     [this](HWND sheet) {
                         for (const std::string& title : PageTitles(sheet)) {
+                            const PageEdit* page = FindPageEdit(title);
+                            if (!page) continue;
                             OpenPage(sheet, title);
-                            if (const PageEdit* page = FindPageEdit(title)) page->edit(m_user, ActivePageOf(sheet));
+                            page->edit(m_user, ActivePageOf(sheet));
                             TakePicture("all-" + FileNameOf(title));
                         }
                         Report("OK.");

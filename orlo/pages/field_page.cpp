@@ -25,9 +25,9 @@ IMPLEMENT_DYNAMIC(CFieldPage, CGraphicPropertyPage)
 namespace {
 
 constexpr unsigned int kLastPage = 28999; // higher numbers are used by the library
-constexpr int kNewPageHeight = 160;       // height of the library's pages in dialog units: the window before it is
-                                          // placed
-constexpr int kLongestTip = 300;          // maximum width of one line, in pixels at 96 dpi
+// Dialog units, of the library's own pages: the sheet can open on this page, and the others must fit as well.
+constexpr int kPageWidth = 200, kPageHeight = 160;
+constexpr int kLongestTip = 300; // maximum width of one line, in pixels at 96 dpi
 
 // ---- Validation of a table
 
@@ -181,7 +181,7 @@ CFieldPage::CFieldPage(unsigned int nPage, FieldTable table) : CGraphicPropertyP
     if (m_parts->access.IsNeeded()) m_pProperties = &m_parts->access;
     FieldLayout layout = LayOutFields(m_parts->fields);
     m_parts->size = m_sizeWanted = layout.size;
-    const SIZE size = {layout.size.cx, std::min<LONG>(layout.size.cy, kNewPageHeight)};
+    const SIZE size = {std::max<LONG>(layout.size.cx, kPageWidth), kPageHeight};
     m_dialogTemplate = WriteDialogTemplate(m_parts->table.caption, size, layout.items);
 }
 

@@ -469,6 +469,21 @@ TEST_F(FieldPage, ThirtyRowsFitWithoutScrolling) {
     });
 }
 
+TEST_F(FieldPage, ASmallOneLeavesTheOtherPagesTheirSize) {
+    Add(1);
+    SetRow(Row(FieldKind::Text));
+    TestSheet sheet(kit);
+    sheet.Sheet().SetActivePage(AddFieldPage(&sheet.Sheet(), kPage, table)); // the sheet opens on it
+    SheetDriver().Run(sheet.Sheet(), [&](SheetDriver& user) {
+        user.SelectPage(0);
+        RECT general = {0, 0, 200, 160}, now; // dialog units
+        ::MapDialogRect(user.Page(), &general);
+        ::GetClientRect(user.Page(), &now);
+        EXPECT_GE(now.right, general.right);
+        EXPECT_GE(now.bottom, general.bottom);
+    });
+}
+
 TEST_F(FieldPage, TwoHundredRowsScrollToTheFocus) {
     kit.Add({{"P199", "last"}});
     table = LongTable(200);
