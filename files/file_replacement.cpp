@@ -47,12 +47,12 @@ unsigned long ProcessId() {
     return ::GetCurrentProcessId();
 }
 
-struct SignalsHeld {
-    ~SignalsHeld() {} // an interrupt runs in its own thread, which retries
+struct BlockedSignals {
+    ~BlockedSignals() {} // an interrupt runs in its own thread, which retries
 };
 
 // Returns the file that a name refers to. Device names exist in every folder.
-Found FileBehind(const fs::path& target) {
+Found FindFile(const fs::path& target) {
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) RefuseIrregular();
     const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
@@ -129,22 +129,22 @@ unsigned long ProcessId() {
 }
 
 // Blocks signals during its lifetime.
-class SignalsHeld {
+class BlockedSignals {
 public:
-    SignalsHeld() {
+    BlockedSignals() {
         sigset_t all;
         ::sigfillset(&all);
         ::pthread_sigmask(SIG_BLOCK, &all, &before_);
     }
-    ~SignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-    SignalsHeld(const SignalsHeld&) = delete;
-    SignalsHeld& operator=(const SignalsHeld&) = delete;
+    ~BlockedSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    BlockedSignals(const BlockedSignals&) = delete;
+    BlockedSignals& operator=(const BlockedSignals&) = delete;
 
 private:
     sigset_t before_;
 };
 
-Found FileBehind(const fs::path& target) {
+Found FindFile(const fs::path& target) {
     std::error_code error;
     const fs::file_status status = fs::status(target, error);
     if (status.type() == fs::file_type::not_found) {
@@ -221,16 +221,16 @@ void RemoveAndEnd(int signal) {
 } // namespace
 
 bool RequireReplaceable(const fs::path& target) {
-    return FileBehind(target).isThere;
+    return FindFile(target).isThere;
 }
 
 FileReplacement::FileReplacement(const fs::path& target) {
-    Found found = FileBehind(target);
+    Found found = FindFile(target);
     target_ = std::move(found.path);
     isThere_ = found.isThere;
     for (int number = 0;; ++number) { // a file may remain from an earlier process with the same identifier
         path_ = target_.parent_path() / ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
-        const SignalsHeld held;
+        const BlockedSignals blocked;
         if (Create(path_, isThere_)) {
             temporaryFile = path_.c_str();
             return;
@@ -261,7 +261,7 @@ void FileReplacement::Write(std::string_view bytes, const std::function<void(siz
     if (!HasContents(path_, bytes)) throw FileError("the file cannot be written", std::errc::io_error);
 }
 
-void FileReplacement::TakePlace() {
+void FileReplacement::Commit() {
     if (isThere_) KeepAttributes(target_, path_);
     Flush(OpenToWrite(path_).get());
     Rename(path_, target_);

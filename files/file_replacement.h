@@ -3,7 +3,7 @@
 //
 //   files::FileReplacement replacement(path);
 //   replacement.Write(bytes);    // or any other writer, using replacement.Path()
-//   replacement.TakePlace();
+//   replacement.Commit();
 //
 // Links are followed. The target's owner, group, permissions and extended attributes are preserved; on Windows its
 // access list, attributes and creation time. Other names of the same file (hard links) keep the old contents.
@@ -37,7 +37,7 @@ public:
     // Writes the bytes and verifies them by reading. Throws FileError, and any exception thrown by `progress`.
     void Write(std::string_view bytes, const std::function<void(size_t written)>& progress = {});
     // Replaces the target. No handle to either file may be open. If it throws FileError, the target is unchanged.
-    void TakePlace();
+    void Commit();
 
 private:
     std::filesystem::path target_;

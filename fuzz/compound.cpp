@@ -1,4 +1,4 @@
-// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a sound file is
+// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a intact file is
 // complete, also after the file was laid out anew.
 
 #include <cstdint>
@@ -25,7 +25,7 @@ void WriteAndCompare(const orlo::CompoundReader& file) {
     std::string bytes;
     orlo::WriteCompoundFile(&file, {}, [&bytes](std::string_view piece) { bytes += piece; });
     const orlo::CompoundReader after = ReaderOf(bytes);
-    if (after.State() != orlo::CompoundState::sound || after.Streams().size() != file.Streams().size()) std::abort();
+    if (after.State() != orlo::CompoundState::intact || after.Streams().size() != file.Streams().size()) std::abort();
     for (size_t i = 0; i < file.Streams().size(); ++i)
         if (after.Read(after.Streams()[i]) != file.Read(file.Streams()[i])) std::abort();
 }
@@ -39,14 +39,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return true;
     };
     const orlo::CompoundReader file(read, size);
-    const bool sound = file.State() == orlo::CompoundState::sound;
+    const bool intact = file.State() == orlo::CompoundState::intact;
     size_t all = 0;
     for (const orlo::CompoundStream& stream : file.Streams()) {
         const size_t there = file.Read(stream).size();
         all += there;
-        if (sound && there != stream.size) std::abort();
+        if (intact && there != stream.size) std::abort();
     }
     if (all > 2 * size) std::abort(); // once for its own stream, once more for those that share it
-    if (sound) WriteAndCompare(file);
+    if (intact) WriteAndCompare(file);
     return 0;
 }

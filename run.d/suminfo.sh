@@ -30,10 +30,10 @@ for argument; do
 done
 start() { if [ -n "$input" ]; then "$@" <"$input"; else "$@"; fi; }
 
-left_to_windows=3 # same as in tools/suminfo/exit_codes.h
+needs_windows=3 # same as in tools/suminfo/exit_codes.h
 status=0
 start "$native" "$@" || status=$?
-[ $status -eq $left_to_windows ] || exit $status
+[ $status -eq $needs_windows ] || exit $status
 
 cd "$OLDPWD"
 if ! is_current "$windows"; then

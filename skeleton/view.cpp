@@ -1,4 +1,4 @@
-// Extents, viewports and drawing: outlines, solid fillings and texts. Dashes and hatches are not implemented.
+// Extents, viewports and drawing: outlines, solid fills and texts. Dashes and hatches are not implemented.
 
 #include <algorithm>
 #include <cmath>

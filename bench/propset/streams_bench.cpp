@@ -56,7 +56,7 @@ struct Sample {
     bool isWritable; // by the library's classes
 };
 
-std::vector<std::unique_ptr<Sample>> SoundSamples() {
+std::vector<std::unique_ptr<Sample>> IntactSamples() {
     std::vector<std::unique_ptr<Sample>> samples;
     for (const CorpusStream& stream : AllCorpusStreams()) {
         const std::string name = stream.manifest["stream"];
@@ -139,7 +139,7 @@ void IgnoreMessage(const gchar*, GLogLevelFlags, const gchar*, gpointer) {}
 void BenchStreams() {
     gsf_init();
     g_log_set_default_handler(IgnoreMessage, nullptr);
-    const auto all = SoundSamples();
+    const auto all = IntactSamples();
     const struct {
         const char* name;
         size_t from, to;

@@ -8,7 +8,7 @@
 
 CPropertySheet& SheetOf(HWND window) {
     auto* sheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(window));
-    if (!sheet) throw std::runtime_error("that is no property sheet");
+    if (!sheet) throw std::runtime_error("this window is not a property sheet");
     return *sheet;
 }
 

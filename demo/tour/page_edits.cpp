@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int kDiagonalLines = 5;        // index of the brush in the list; its lines do not hide what is below
-constexpr const char* kWideApart = "60"; // the scale of these lines, for a whole drawing
+constexpr int kDiagonalLines = 5;          // index of the brush in the list; its lines do not hide what is below
+constexpr const char* kWideSpacing = "60"; // the scale of these lines, for a whole drawing
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 
 int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -62,7 +62,7 @@ constexpr PageEdit kEdits[] = {
     {"Brush", kPropBrushStyle,
      [](UserInput& user, HWND page) {
          MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
-         TypeOver(user, page, IDC_BRUSH_SCALE, kWideApart);
+         TypeOver(user, page, IDC_BRUSH_SCALE, kWideSpacing);
      }},
     {"Text", kPropTextStyle, [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
     {"Block Insertion", "vertices", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},

@@ -133,8 +133,8 @@ void Tour::ShowClosely(const WorldBox& box) {
     const Camera& camera = m_frame.View().GetCamera();
     m_user.PanDrag(view, camera.ToPixels(box.Center()), client.CenterPoint());
     const CRect now = camera.ToPixels(box);
-    const double room = std::min(client.Width() * 0.8 / now.Width(), client.Height() * 0.8 / now.Height());
-    m_user.Wheel(view, client.CenterPoint(), static_cast<int>(std::floor(std::log(room) / std::log(1.25))));
+    const double factor = std::min(client.Width() * 0.8 / now.Width(), client.Height() * 0.8 / now.Height());
+    m_user.Wheel(view, client.CenterPoint(), static_cast<int>(std::floor(std::log(factor) / std::log(1.25))));
 }
 
 void Tour::EditPen() {

@@ -13,7 +13,7 @@ class CMainFrame;
 
 class Tour {
 public:
-    // The folder for screenshots must exist; the report goes to standard output.
+    // The folder for screenshots must exist; the report is written to standard output.
     Tour(CMainFrame& frame, const std::string& folder);
 
     // Runs the tour over the drawing. Returns true if all steps had the expected result.

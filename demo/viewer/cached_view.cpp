@@ -164,7 +164,7 @@ bool CachedView::FinishSince(Clock::time_point start, int milliseconds) {
     if (HasHighlight() && !DrawOn(m_highlight.Dc(), m_document->Selected().Set(), m_slice.place, left())) return false;
     std::swap(m_picture, m_next);
     m_scene.CopyFrom(m_picture.Dc(), m_scene.Bounds());
-    if (HasHighlight()) m_highlight.Put(m_scene);
+    if (HasHighlight()) m_highlight.DrawInto(m_scene);
     return true;
 }
 
@@ -207,7 +207,7 @@ void CachedView::RenewScene() {
     m_scene.CopyFrom(m_picture.Dc(), area);
     if (!HasHighlight() || !m_highlight.Begin(m_scene.Size(), area)) return;
     Draw(m_highlight.Dc(), m_document->Selected().Set());
-    m_highlight.Put(m_scene);
+    m_highlight.DrawInto(m_scene);
 }
 
 void CachedView::Draw(HDC dc, GraphicStruct* graphic) {

@@ -33,18 +33,19 @@ std::vector<GraphicStruct*> Selection::Members() const {
 
 void Selection::Clear() {
     for (GraphicStruct* graphic : Members())
-        Note(graphic);
+        AddToChanged(graphic);
     ::SelectionClear(Set());
 }
 
 void Selection::Apply(const std::vector<GraphicStruct*>& graphics, Way way) {
     if (way == Way::Replace) Clear();
     for (GraphicStruct* graphic : graphics) {
-        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic))) Note(graphic);
+        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic)))
+            AddToChanged(graphic);
     }
 }
 
-void Selection::Note(GraphicStruct* graphic) {
+void Selection::AddToChanged(GraphicStruct* graphic) {
     const std::optional<WorldBox> box = ExtentsOf(graphic);
     if (!box) return;
     m_changed = m_changed ? WorldBox::Around(*m_changed, *box) : *box;

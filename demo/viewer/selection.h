@@ -34,7 +34,7 @@ public:
     std::optional<WorldBox> TakeChanged();
 
 private:
-    void Note(GraphicStruct* graphic);
+    void AddToChanged(GraphicStruct* graphic);
 
     orlo::host::OwnedGraphic m_set;
     std::optional<WorldBox> m_changed;

@@ -34,7 +34,7 @@ bool SelectionHighlight::Begin(CSize scene, CRect area) {
     return true;
 }
 
-void SelectionHighlight::Put(MemoryPicture& scene) {
+void SelectionHighlight::DrawInto(MemoryPicture& scene) {
     if (m_area.IsRectEmpty()) return;
     Spread();
     const CRect &area = m_area, &around = m_around;

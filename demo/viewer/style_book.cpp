@@ -133,15 +133,14 @@ int StyleBook::Uses(uint16_t id) const {
 }
 
 std::string StyleBook::WhyNot(const std::string& name) const {
-    if (name.empty()) return "A style needs a name.";
-    if (name.size() > kLongestName)
-        return "The name of a style has " + std::to_string(kLongestName) + " characters at most.";
+    if (name.empty()) return "Enter a name for the style.";
+    if (name.size() > kLongestName) return "The name can have at most " + std::to_string(kLongestName) + " characters.";
     for (const unsigned int id : kStringsReservedStyles) {
         char reserved[64] = "";
         ::DrawCoreLoadString(id, reserved, sizeof reserved);
         if (::_stricmp(name.c_str(), reserved) == 0) return "The name \"" + name + "\" is reserved.";
     }
-    if (::BlocksFindBlock(Table(), name.c_str())) return "There is a style or block \"" + name + "\" already.";
+    if (::BlocksFindBlock(Table(), name.c_str())) return "A style or block \"" + name + "\" already exists.";
     return "";
 }
 
@@ -160,7 +159,7 @@ StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics)
     return {examples.pen != nullptr, examples.brush != nullptr, examples.text != nullptr};
 }
 
-uint16_t StyleBook::Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
+uint16_t StyleBook::Create(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
     if (!WhyNot(name).empty()) return 0;
     OwnedGraphic content(::GraphicNewEx(kGraphicVertices, 0, 1));
     GraphicStruct* shape = ::GraphicAdd(content.get(), NewShape());

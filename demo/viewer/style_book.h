@@ -46,7 +46,7 @@ public:
     static Examples ExamplesOf(const std::vector<GraphicStruct*>& graphics);
 
     // Creates a style from the graphics and makes it current. Returns 0 if the name cannot be used.
-    uint16_t Make(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts);
+    uint16_t Create(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts);
     // Makes a style current that was added to the table as a copy of the current one. Returns 0 if there is none.
     uint16_t TakeAdded();
     // Returns false, changing nothing, if graphics use it.

@@ -74,7 +74,7 @@ protected:
         m_list.SetFont(GetFont());
         place->DestroyWindow();
         m_list.AddString("Pen: color, width, line style", m_draft.parts.pen);
-        m_list.AddString("Brush: filling or hatch, its color, scale and angle", m_draft.parts.brush);
+        m_list.AddString("Brush: fill or hatch, its color, scale and angle", m_draft.parts.brush);
         m_list.AddString("Text: font, height, effects, color", m_draft.parts.text);
         m_list.SetCurSel(0);
         return TRUE;
@@ -138,5 +138,5 @@ bool MakeStyleByWizard(CWnd* owner, Document& document) {
     for (CPropertyPage* step : steps)
         wizard.AddPage(step);
     if (wizard.DoModal() != IDOK) return false;
-    return document.Styles().Make(draft.name, draft.graphics, draft.parts) != 0;
+    return document.Styles().Create(draft.name, draft.graphics, draft.parts) != 0;
 }

@@ -81,11 +81,11 @@ void RecordIfDirty(CDataExchange* pDX, int nID, typename Form::Member* pMember, 
     if (!page->GetControlStatus(nID)) return;
     CMapWordToOb& records = PendingWritesOf(page);
     auto value = Form::Get(pMember);
-    const bool keeps = LoadedControls::Of(*page).Keep(nID, pszPropName, value);
-    if (keeps && HasRecord(records, pMember)) return;
+    const bool isUnedited = LoadedControls::Of(*page).RestoreUnedited(nID, pszPropName, value);
+    if (isUnedited && HasRecord(records, pMember)) return;
     Form::Set(pMember, value);
     if (records.IsEmpty()) pDX->Keep(std::make_unique<PendingWritesEnd>(records));
-    const DDPEnd end = keeps ? KeepMember<Form> : WriteMember<Form, End>;
+    const DDPEnd end = isUnedited ? KeepMember<Form> : WriteMember<Form, End>;
     AddRecord(records, new CDDPRecord(end, nID, pMember, pszPropName));
 }
 

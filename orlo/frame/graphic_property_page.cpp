@@ -79,7 +79,7 @@ int CGraphicPropertyPage::SetControlStatus(unsigned int nID, int bDirty) {
 }
 
 int CGraphicPropertyPage::IsEdited(unsigned int nID) {
-    return GetControlStatus(nID) && !m_pState->loaded.Agrees(nID);
+    return GetControlStatus(nID) && !m_pState->loaded.IsUnchanged(nID);
 }
 
 void CGraphicPropertyPage::IgnoreApply(unsigned int nID) {

@@ -18,7 +18,7 @@ public:
     }
     ~Loading() override {
         for (const unsigned int nID : m_shown)
-            m_controls.Note(nID);
+            m_controls.RecordControl(nID);
         m_controls.m_loading = nullptr;
         m_controls.m_page.m_bInitializing = m_before;
     }
@@ -38,7 +38,7 @@ HWND LoadedControls::Window(unsigned int nID) const {
     return ::GetDlgItem(m_page.m_hWnd, static_cast<int>(nID));
 }
 
-bool LoadedControls::Agrees(unsigned int nID) const {
+bool LoadedControls::IsUnchanged(unsigned int nID) const {
     const auto found = m_controls.find(nID);
     return found != m_controls.end() && found->second.shown && ShownState(Window(nID)) == found->second.shown;
 }
@@ -51,11 +51,11 @@ void LoadedControls::Show(CDataExchange* pDX, unsigned int nID, const std::strin
 }
 
 void LoadedControls::ShowUnbound(unsigned int nID) {
-    if (m_controls[nID].property.empty()) Note(nID);
+    if (m_controls[nID].property.empty()) RecordControl(nID);
 }
 
 // If memory runs out, the control counts as edited at the first change.
-void LoadedControls::Note(unsigned int nID) {
+void LoadedControls::RecordControl(unsigned int nID) {
     std::optional<std::string>& shown = m_controls.at(nID).shown;
     try {
         shown = ShownState(Window(nID));
@@ -64,9 +64,9 @@ void LoadedControls::Note(unsigned int nID) {
     }
 }
 
-void LoadedControls::NoteControlsOf(const std::string& property) {
+void LoadedControls::RecordControlsOf(const std::string& property) {
     for (const auto& [nID, control] : m_controls)
-        if (control.property == property) Note(nID);
+        if (control.property == property) RecordControl(nID);
 }
 
 bool LoadedControls::IsEdited(unsigned int nID) const {

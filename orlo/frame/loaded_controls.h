@@ -24,7 +24,7 @@ public:
     static LoadedControls& Of(CGraphicPropertyPage& page);
 
     // Returns whether the control displays the same as when it last matched the selection.
-    bool Agrees(unsigned int nID) const;
+    bool IsUnchanged(unsigned int nID) const;
 
     // While loading: records the property's value, which the control is about to display. Notifications of controls do
     // not count as edits until the exchange ends.
@@ -41,7 +41,7 @@ public:
     // While saving: if the user has not edited the control, sets the value to the loaded one and returns true. An
     // edited control that shows the asterisks for differing numbers sets the value to the marker.
     template <class T>
-    bool Keep(unsigned int nID, const std::string& property, T& value) {
+    bool RestoreUnedited(unsigned int nID, const std::string& property, T& value) {
         if (!IsEdited(nID)) {
             Restore(property, value);
             return true;
@@ -62,7 +62,7 @@ public:
     template <class T>
     void Write(const std::string& property, const T& value) {
         m_values[property] = value;
-        NoteControlsOf(property);
+        RecordControlsOf(property);
     }
 
 private:
@@ -73,8 +73,8 @@ private:
     };
 
     HWND Window(unsigned int nID) const;
-    void Note(unsigned int nID);
-    void NoteControlsOf(const std::string& property);
+    void RecordControl(unsigned int nID);
+    void RecordControlsOf(const std::string& property);
     bool IsEdited(unsigned int nID) const;
     bool ShowsStars(unsigned int nID) const;
 

@@ -1,4 +1,4 @@
-// The base of all pages of the library: closes drop-down lists that would stay behind when the page moves, sizes the
+// The base of all pages of the library: closes drop-down lists when the page moves, sizes the
 // lists of the library's combo boxes, and takes the focus from a control before the page's data is exchanged.
 #pragma once
 

@@ -41,7 +41,7 @@ int WayOf(const SCROLLINFO& info, int code) {
 }
 
 // Returns the client area without scroll bars.
-CSize RoomIn(HWND window) {
+CSize AreaIn(HWND window) {
     RECT client;
     ::GetClientRect(window, &client);
     const LONG style = ::GetWindowLongA(window, GWL_STYLE);
@@ -49,12 +49,12 @@ CSize RoomIn(HWND window) {
                  client.bottom + (style & WS_HSCROLL ? ::GetSystemMetrics(SM_CYHSCROLL) : 0));
 }
 
-void SetBar(HWND window, int bar, int contents, int room) {
+void SetBar(HWND window, int bar, int contents, int area) {
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_PAGE | SIF_RANGE;
     info.nMax = std::max(contents - 1, 0);
-    info.nPage = static_cast<UINT>(std::max(room, 0));
+    info.nPage = static_cast<UINT>(std::max(area, 0));
     ::SetScrollInfo(window, bar, &info, TRUE);
 }
 
@@ -67,11 +67,11 @@ void ScrollArea::SetContents(HWND window, CSize contents) {
 
 // A scroll bar for one direction reduces the space for the other, which may then need one too.
 void ScrollArea::ArrangeBars(HWND window) {
-    const CSize room = RoomIn(window);
+    const CSize area = AreaIn(window);
     const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL), barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
-    const bool tall = m_contents.cy > room.cy || (m_contents.cx > room.cx && m_contents.cy > room.cy - barHeight);
-    const int width = room.cx - (tall ? barWidth : 0);
-    const int height = room.cy - (m_contents.cx > width ? barHeight : 0);
+    const bool tall = m_contents.cy > area.cy || (m_contents.cx > area.cx && m_contents.cy > area.cy - barHeight);
+    const int width = area.cx - (tall ? barWidth : 0);
+    const int height = area.cy - (m_contents.cx > width ? barHeight : 0);
     SetBar(window, SB_VERT, m_contents.cy, height);
     SetBar(window, SB_HORZ, m_contents.cx, width);
     ScrollBy(window, CSize());
@@ -111,7 +111,7 @@ bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         Scroll(window, message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
         return true;
     case WM_MOUSEWHEEL:
-        if (m_contents.cy <= RoomIn(window).cy) return false; // for a parent that scrolls
+        if (m_contents.cy <= AreaIn(window).cy) return false; // for a parent that scrolls
         ScrollBy(window, CSize(0, ::MulDiv(-static_cast<short>(HIWORD(wParam)), kLinesOfWheel * ScreenPixels(kLine),
                                            WHEEL_DELTA)));
         return true;

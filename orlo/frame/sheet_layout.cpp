@@ -58,8 +58,8 @@ void CGraphicPropertySheet::PlaceButtons(int left, int top, const int (&widths)[
     }
 }
 
-// Returns the size of all pages in pixels: that of the active page or, as far as the monitor has room for it, the
-// largest that a page wants. The rest of the sheet takes `beside`. A page that has to scroll gets room for its bar.
+// Returns the size of all pages in pixels: that of the active page or, as far as the monitor is large enough, the
+// largest that a page wants. The rest of the sheet takes `beside`. A page that has to scroll gets space for its bar.
 CSize CGraphicPropertySheet::PageSize(const CPropertyPage& active, CSize beside) const {
     CRect wanted;
     for (int i = 0; i < GetPageCount(); ++i) {
@@ -72,8 +72,8 @@ CSize CGraphicPropertySheet::PageSize(const CPropertyPage& active, CSize beside)
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoA(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const CRect room = monitor.rcWork;
-    const LONG height = room.Height() - beside.cy, width = room.Width() - beside.cx;
+    const CRect workArea = monitor.rcWork;
+    const LONG height = workArea.Height() - beside.cy, width = workArea.Width() - beside.cx;
     if (wanted.bottom > height) wanted.right += ::GetSystemMetrics(SM_CXVSCROLL);
     const CRect now = WindowRect(active.m_hWnd);
     return CSize(std::max<int>(now.Width(), std::min(wanted.right, width)),

@@ -1,6 +1,6 @@
 // Records that library and host share byte for byte, for 32-bit and 64-bit programs.
 //
-// Members named host... belong to the host, which can use them as it likes. A host derives its own records from these,
+// Members named host... belong to the host, which can use them freely. A host derives its own records from these,
 // or declares records with the same layout.
 #pragma once
 

@@ -85,7 +85,7 @@ enum {
 
 // Markers: brush styles that are not an entry of kTableBrushStyles.
 enum {
-    kBrushStyleNone = 0, // no filling
+    kBrushStyleNone = 0, // no fill
     kBrushStyleIndeterminate = 65535
 };
 

@@ -97,7 +97,7 @@ void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     LoadedControls& loaded = LoadedControls::Of(*this);
     if (!pDX->m_bSaveAndValidate)
         loaded.Load(pDX, field.nID, field.Name(), value);
-    else if (loaded.Keep(field.nID, field.Name(), value))
+    else if (loaded.RestoreUnedited(field.nID, field.Name(), value))
         return;
     DDX_Text(1, pDX, id, value);
     if (IsNearlyIndeterminate(value)) return;

@@ -214,7 +214,7 @@ int CProperty::AppendTo(orlo::ImageWriter& image) const {
 int CProperty::ReadFromStream(IStream* pStream) {
     orlo::StreamReader reader(pStream);
     const int result = ReadFrom(reader);
-    reader.Settle();
+    reader.SynchronizePosition();
     return result;
 }
 
@@ -239,9 +239,9 @@ int CProperty::ReadFrom(orlo::StreamReader& reader) {
     if (block == nullptr) return 0;
     if (head != 0) orlo::Store32(block, count);
     const auto wanted = static_cast<size_t>(*elements);
-    const size_t came = reader.Read(block + head, wanted);
-    std::memset(block + head + came, 0, wanted - came);
-    return came == wanted;
+    const size_t readSize = reader.Read(block + head, wanted);
+    std::memset(block + head + readSize, 0, wanted - readSize);
+    return readSize == wanted;
 }
 
 DWORD CProperty::WriteToRC(CRCFile* pRC) {

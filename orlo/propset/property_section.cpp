@@ -247,7 +247,7 @@ void CPropertySection::AppendDictionary(orlo::ImageWriter& image) const {
 int CPropertySection::ReadFromStream(IStream* pStream, LARGE_INTEGER liBase) {
     orlo::StreamReader reader(pStream);
     const int result = ReadFrom(reader, static_cast<ULONGLONG>(liBase.QuadPart));
-    reader.Settle();
+    reader.SynchronizePosition();
     return result;
 }
 
@@ -276,9 +276,9 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
     while (left > 0) {
         const DWORD wanted = left < std::size(entries) ? left : static_cast<DWORD>(std::size(entries));
         reader.SeekTo(table);
-        const auto came = static_cast<DWORD>(reader.Read(entries, wanted * sizeof(Entry)) / sizeof(Entry));
-        if (came == 0 || !reader.Spend(ULONGLONG{came} * sizeof(Entry))) break;
-        for (DWORD i = 0; i < came; ++i) {
+        const auto readCount = static_cast<DWORD>(reader.Read(entries, wanted * sizeof(Entry)) / sizeof(Entry));
+        if (readCount == 0 || !reader.Spend(ULONGLONG{readCount} * sizeof(Entry))) break;
+        for (DWORD i = 0; i < readCount; ++i) {
             if (entries[i].id == orlo::kDictionaryId) {
                 dictionaries.push_back(values + entries[i].offset);
             } else {
@@ -286,8 +286,8 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
                 ReadProperty(reader, entries[i].id);
             }
         }
-        table += came * sizeof(Entry);
-        left -= came;
+        table += readCount * sizeof(Entry);
+        left -= readCount;
     }
     for (const ULONGLONG dictionary : dictionaries) { // after the values, because names depend on the code page
         reader.SeekTo(dictionary);
@@ -307,7 +307,7 @@ void CPropertySection::ReadProperty(orlo::StreamReader& reader, DWORD dwPropID) 
 int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
     orlo::StreamReader reader(pStream);
     const int result = ReadDictionary(reader);
-    reader.Settle();
+    reader.SynchronizePosition();
     return result;
 }
 

@@ -22,7 +22,7 @@ bool Seek(IStream* stream, LONGLONG move, DWORD origin, ULONGLONG& position) {
 
 StreamReader::StreamReader(IStream* stream) : stream_(stream) {
     if (!Seek(stream, 0, STREAM_SEEK_CUR, position_) || !Seek(stream, 0, STREAM_SEEK_END, end_)) end_ = 0;
-    allowance_ = 4 * end_ + 4096;
+    budget_ = 4 * end_ + 4096;
 }
 
 size_t StreamReader::Read(void* to, size_t size) {
@@ -65,12 +65,12 @@ ULONGLONG StreamReader::ReadStream(void* to, size_t size) {
 }
 
 bool StreamReader::Spend(ULONGLONG bytes) {
-    if (bytes > allowance_) return false;
-    allowance_ -= bytes;
+    if (bytes > budget_) return false;
+    budget_ -= bytes;
     return true;
 }
 
-void StreamReader::Settle() {
+void StreamReader::SynchronizePosition() {
     ULONGLONG reached;
     Seek(stream_, static_cast<LONGLONG>(position_), STREAM_SEEK_SET, reached);
 }

@@ -30,7 +30,7 @@ public:
     bool Spend(ULONGLONG bytes);
 
     // Sets the position of the stream to that of the reader.
-    void Settle();
+    void SynchronizePosition();
 
 private:
     ULONGLONG ReadStream(void* to, size_t size);
@@ -38,7 +38,7 @@ private:
     IStream* stream_;
     ULONGLONG position_ = 0;
     ULONGLONG end_ = 0;
-    ULONGLONG allowance_ = 0;
+    ULONGLONG budget_ = 0;
     ULONGLONG windowAt_ = 0; // position of the buffer's first byte
     size_t windowSize_ = 0;
     std::array<uint8_t, 8192> window_;

@@ -9,14 +9,14 @@ namespace {
 // A possible layout of a vector: where it ends, and how many of its texts end with a NUL, as nearly all texts do.
 struct Layout {
     size_t size;
-    size_t soundTexts;
+    size_t terminatedTexts;
 };
 
 std::optional<Layout> Measure(uint32_t type, const uint8_t* bytes, size_t size, bool padded) {
     Cursor cursor{bytes, size};
     Layout layout{0, 0};
     const auto count = [&layout](uint32_t, const TypeForm& form, std::string_view text) {
-        if (form.isText && !text.empty() && text.back() == '\0') ++layout.soundTexts;
+        if (form.isText && !text.empty() && text.back() == '\0') ++layout.terminatedTexts;
         return true;
     };
     if (!Walk(cursor, type, padded, count)) return std::nullopt;
@@ -30,7 +30,7 @@ std::optional<Extent> MeasureValue(uint32_t type, const uint8_t* bytes, size_t s
     const std::optional<Layout> packed = Measure(type, bytes, size, false);
     const bool mayBePadded = IsVector(type) && SmallestElement(BaseType(type)) == 4;
     const std::optional<Layout> padded = mayBePadded ? Measure(type, bytes, size, true) : std::nullopt;
-    if (padded && (!packed || padded->soundTexts > packed->soundTexts)) return Extent{padded->size, true};
+    if (padded && (!packed || padded->terminatedTexts > packed->terminatedTexts)) return Extent{padded->size, true};
     if (packed) return Extent{packed->size, false};
     return std::nullopt;
 }

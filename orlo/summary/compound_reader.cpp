@@ -149,7 +149,7 @@ uint32_t CompoundReader::Structure::HeaderNumber(size_t offset) const {
 bool CompoundReader::Structure::ReadHeader() {
     if (fileSize_ < header_.size() || !read_(0, header_.data(), header_.size())) return false;
     if (!std::equal(kCompoundSignature.begin(), kCompoundSignature.end(), header_.begin())) return false;
-    state_ = CompoundState::sound;
+    state_ = CompoundState::intact;
     const auto shift = LittleEndian<uint16_t>(header_.data() + kSectorShift);
     if (shift != 9 && shift != 12) {
         Damaged("the header: sectors of 2^" + std::to_string(shift) + " bytes");
@@ -256,7 +256,7 @@ SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const ch
     SectorTable::Chain chain = table_.Walk(start);
     if (chain.fault != ChainFault::none)
         Damaged(std::string(what) + ": its chain of sectors " + InWords(chain.fault),
-                chain.fault == ChainFault::isCut ? CompoundState::torn : CompoundState::unsafe);
+                chain.fault == ChainFault::isCut ? CompoundState::damaged : CompoundState::unsafe);
     return chain;
 }
 
@@ -284,7 +284,7 @@ void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
     if (streams.length < Pieces(root.size, sectorBytes_))
         Damaged(std::string(kStreams) + ": their chain of sectors is too short");
     else if (there < root.size)
-        Damaged(std::string(kStreams) + ": they go on past the end of the file", CompoundState::torn);
+        Damaged(std::string(kStreams) + ": they continue past the end of the file", CompoundState::damaged);
     std::vector<uint32_t> next = Numbers(tables.sectors, kTable);
     next.resize(static_cast<size_t>(std::min<uint64_t>(next.size(), Pieces(root.size, kShortSectorBytes))));
     shortTable_ = SectorTable(std::move(next), there / kShortSectorBytes);
@@ -310,7 +310,7 @@ void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const
         if (entries[id].kind == kStream && entries[id].isNamed) AddStream(entries[id], entries[id].name, true);
     }
     if (lost != 0)
-        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage", CompoundState::torn);
+        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage", CompoundState::damaged);
 }
 
 bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen) {
@@ -359,7 +359,7 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
 void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* before, uint32_t id) {
     if (!entry.isTerminated || (before && !MayFollow(before->name, entry.name)))
         Damaged("the directory: the name of entry " + std::to_string(id) + " is wrong for its place",
-                CompoundState::torn);
+                CompoundState::damaged);
 }
 
 void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string path, bool isLost) {
@@ -368,9 +368,9 @@ void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string pat
         WalkStream(stream);
     else if (entry.start < kHighestSector)
         stream.fault = ChainFault::isOfNothing;
-    const bool hangs = stream.fault == ChainFault::isCircle && !isLost;
+    const bool isCircular = stream.fault == ChainFault::isCircle && !isLost;
     if (stream.fault != ChainFault::none)
-        state_ = std::max(state_, hangs ? CompoundState::unsafe : CompoundState::torn);
+        state_ = std::max(state_, isCircular ? CompoundState::unsafe : CompoundState::damaged);
     streams_.push_back(std::move(stream));
 }
 

@@ -2,7 +2,7 @@
 // loop forever or crash on damaged files. Needs no window header.
 //
 //   CompoundReader file(reader, size);
-//   if (file.State() == CompoundState::sound) ...   // safe to open with the system, and to modify
+//   if (file.State() == CompoundState::intact) ...   // safe to open with the system, and to modify
 //   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever is readable, even if damaged
 #pragma once
 
@@ -26,10 +26,10 @@ constexpr std::array<uint8_t, 8> kCompoundSignature = {0xD0, 0xCF, 0x11, 0xE0, 0
 
 enum class CompoundState {
     foreign, // not a compound file
-    sound,
-    torn,  // sectors of streams are missing or shared, or names are wrong: the system can read the file, but it should
-           // not be written
-    unsafe // header, tables or directory are damaged, or a chain is circular: the system must not open the file
+    intact,
+    damaged, // sectors of streams are missing or shared, or names are wrong: the system can read the file, but it
+             // should not be written
+    unsafe   // header, tables or directory are damaged, or a chain is circular: the system must not open the file
 };
 
 // Reads `size` bytes at `offset`. Returns false if the file does not have all of them.

@@ -73,7 +73,7 @@ EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMi
     if (!files::RequireReplaceable(file) && ifMissing == IfMissing::Create) return;
     original_ = std::make_unique<Original>(file);
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
-    if (original_->reader.State() != CompoundState::sound)
+    if (original_->reader.State() != CompoundState::intact)
         throw UnfitDocument("was left alone: the compound file is damaged, writing could make it worse");
 }
 
@@ -101,7 +101,7 @@ void EditedDocument::Commit() {
     }
     Check(copy.Path());
     original_.reset();
-    copy.TakePlace();
+    copy.Commit();
 }
 
 // Returns the elements of a file that were not replaced.
@@ -130,7 +130,7 @@ bool EditedDocument::HasWritten(const CompoundReader& copy) const {
 void EditedDocument::Check(const std::filesystem::path& path) const {
     const CompoundReader copy = OpenCompoundFile(path);
     const std::vector<const CompoundElement*> copied = KeptIn(copy);
-    bool isGood = copy.State() == CompoundState::sound && HasWritten(copy) &&
+    bool isGood = copy.State() == CompoundState::intact && HasWritten(copy) &&
                   copied.size() + written_.size() == copy.Elements().size();
     if (original_) {
         const CompoundReader now = OpenCompoundFile(path_);

@@ -9,7 +9,7 @@ namespace orlo {
 const char* InWords(ChainFault fault) {
     switch (fault) {
     case ChainFault::isCut:
-        return "goes on past the end of the file";
+        return "continues past the end of the file";
     case ChainFault::isShort:
         return "is too short";
     case ChainFault::leadsNowhere:

@@ -92,8 +92,8 @@ bool Replace(IStream* stream, const Bytes& before, Bytes after) {
 
 // Tests for the space of a short stream with a long one, which the system can remove again even if the disk is full.
 bool HasRoomForShort(IStream* stream) {
-    const Bytes room(2 * kShortestLong);
-    const bool written = SetLength(stream, room.size()) && WritePart(stream, room, 0, room.size());
+    const Bytes reserve(2 * kShortestLong);
+    const bool written = SetLength(stream, reserve.size()) && WritePart(stream, reserve, 0, reserve.size());
     return SetLength(stream, 0) && written;
 }
 

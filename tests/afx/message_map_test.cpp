@@ -139,7 +139,7 @@ const Command kCommands[] = {
     {"NotificationNumberAsMenu", MAKEWPARAM(12, 0), false, "", 0},
     {"FirstOfRange", 20, false, "range 20;", 1},
     {"LastOfRange", 29, false, "range 29;", 1},
-    {"BehindRange", 30, false, "", 0},
+    {"AfterRange", 30, false, "", 0},
     {"HighestNumber", 0xFFFF, false, "", 0},
 };
 INSTANTIATE_TEST_SUITE_P(All, CommandRouting, ::testing::ValuesIn(kCommands), [](auto& i) { return i.param.name; });

@@ -42,7 +42,7 @@ TEST_P(StringPart, IsCutToWhatThereIs) {
 
 const Part kParts[] = {
     {"Inside", 2, 3, "cde", "abc", "def"},          {"AtTheEnd", 4, 2, "ef", "ab", "ef"},
-    {"PastTheEnd", 4, 9, "ef", "abcdef", "abcdef"}, {"BehindTheEnd", 7, 1, "", "a", "f"},
+    {"PastTheEnd", 4, 9, "ef", "abcdef", "abcdef"}, {"AfterTheEnd", 7, 1, "", "a", "f"},
     {"NegativeFirst", -3, 2, "ab", "ab", "ef"},     {"NegativeCount", 1, -1, "", "", ""},
 };
 INSTANTIATE_TEST_SUITE_P(All, StringPart, ::testing::ValuesIn(kParts), [](auto& i) { return i.param.name; });

@@ -101,7 +101,7 @@ TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
     press(1);
     press(0x40000001); // key held down
     EXPECT_EQ(m_list.IsItemChecked(2), 1);
-    EXPECT_EQ(m_list.GetCurSel(), 2) << "a space is no first letter";
+    EXPECT_EQ(m_list.GetCurSel(), 2) << "a space does not select by first letter";
     press(1);
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(m_list.IsItemChecked(i), 0) << i;

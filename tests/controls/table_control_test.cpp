@@ -100,11 +100,11 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
     this->m_control.AddString(("00000007\t" + std::string(500, 'n')).c_str());
     struct {
         char text[kItemTextSize];
-        char behind[64];
+        char guard[64];
     } buffer;
-    std::fill(std::begin(buffer.behind), std::end(buffer.behind), '#');
+    std::fill(std::begin(buffer.guard), std::end(buffer.guard), '#');
     EXPECT_EQ(this->m_control.GetControlItem(0, buffer.text), 7u);
-    EXPECT_EQ(std::string(64, '#'), std::string(buffer.behind, sizeof buffer.behind));
+    EXPECT_EQ(std::string(64, '#'), std::string(buffer.guard, sizeof buffer.guard));
     EXPECT_EQ(std::string(kItemTextSize - 1 - kKeySize, 'n'), std::string(buffer.text));
     EXPECT_EQ(this->m_control.GetControlItem(1, buffer.text), 0u);
     EXPECT_STREQ(buffer.text, "");

@@ -82,10 +82,10 @@ TEST_F(Viewer, CancelUndoesWrittenPages) {
                       user.Key(VK_TAB, UserInput::kControl);
                       FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
-                      const std::vector<uint32_t> behind = Seen();
+                      const std::vector<uint32_t> unapplied = Seen();
                       user.Key(VK_TAB, UserInput::kControl);
                       EXPECT_EQ(before.ChangesTo(Properties()).size(), 4u);
-                      EXPECT_NE(behind, Seen());
+                      EXPECT_NE(unapplied, Seen());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_TRUE(before == Properties());

@@ -90,7 +90,7 @@ TEST_F(Styles, NeedANameOfTheirOwn) {
         [&](HWND wizard) {
             const HWND edit = OnPage(wizard, IDC_STYLE_NAME_EDIT);
             for (const auto& [name, fault] : std::vector<std::pair<std::string, std::string>>{
-                     {"", "needs a name"}, {"   ", "needs a name"}, {"walls", "already"}, {"standard", "reserved"}}) {
+                     {"", "Enter a name"}, {"   ", "Enter a name"}, {"walls", "already"}, {"standard", "reserved"}}) {
                 ::SetWindowTextA(edit, name.c_str());
                 MessageBoxWatcher boxes;
                 user.Click(::GetDlgItem(wizard, kNext));

@@ -66,7 +66,7 @@ TEST_F(Tables, CopyNamesCutToTheBuffer) {
     char buffer[] = "........";
     EXPECT_TRUE(TableEntryGetName(table, id, buffer, 4));
     EXPECT_STREQ(buffer, "abc");
-    EXPECT_EQ(buffer[4], '.') << "nothing behind the size is touched";
+    EXPECT_EQ(buffer[4], '.') << "bytes after the size are unchanged";
     EXPECT_FALSE(TableEntryGetName(table, id, buffer, 0));
     EXPECT_FALSE(TableEntryGetName(table, id, nullptr, 8));
 }

@@ -229,7 +229,7 @@ TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
     char text[64];
     EXPECT_TRUE(DrawingStdTextToNumeric(drawing, "1'-6,5\"", &value, 0));
     EXPECT_NEAR(value, 18.5, 1e-12);
-    EXPECT_FALSE(DrawingStdTextToNumeric(drawing, "2.5", &value, 0)) << "2.5 is no 2, nor 25";
+    EXPECT_FALSE(DrawingStdTextToNumeric(drawing, "2.5", &value, 0)) << "2.5 is not read as 2 or 25";
     EXPECT_TRUE(DrawingStdTextToAngle(drawing, "22,5", &value, 0));
     EXPECT_TRUE(DrawingStdAngleToText(drawing, value, text, sizeof text, 0));
     EXPECT_STREQ(text, "22,5");

@@ -89,7 +89,7 @@ TEST(Numbers, AreReadAsWritersWriteThem) {
     struct Row {
         const char* text;
         double value;
-        bool sound;
+        bool valid;
     };
     const Row rows[] = {
         {"1.5", 1.5, true},      {"  -.5 ", -.5, true}, {"+2", 2, true},     {"1e3", 1000, true},
@@ -98,9 +98,9 @@ TEST(Numbers, AreReadAsWritersWriteThem) {
     };
     for (const Row& row : rows) {
         const Document document = ReadEntities(std::string("0|LINE|10|") + row.text);
-        ASSERT_EQ(document.entities.size(), row.sound ? 1u : 0u) << row.text;
-        EXPECT_EQ(document.findings.size(), row.sound ? 0u : 1u) << row.text;
-        if (row.sound) {
+        ASSERT_EQ(document.entities.size(), row.valid ? 1u : 0u) << row.text;
+        EXPECT_EQ(document.findings.size(), row.valid ? 0u : 1u) << row.text;
+        if (row.valid) {
             EXPECT_EQ(ShapeOf<Line>(document).start.x, row.value) << row.text;
         }
         EXPECT_EQ(document.entityCounts.at("LINE"), 1u);

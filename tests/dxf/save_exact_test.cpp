@@ -236,8 +236,8 @@ TEST_F(SaveExact, SavesTheRestAndListsWhatItLeft) {
     EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));
     EXPECT_EQ(heard.findings,
               (std::vector<std::string>{
-                  "0 a group of graphics was added, which the file can't hold",
-                  "49 LWPOLYLINE 2F (line 49): a polyline has left its plane, which the file can't hold"}));
+                  "0 a group of graphics was added, which the file format can't store",
+                  "49 LWPOLYLINE 2F (line 49): a polyline has left its plane, which the file format can't store"}));
     EXPECT_TRUE(DrawingIsModified(drawing.get())) << "what was left is not saved";
     VertexSet(*Vertices(polyline).begin(), 0, 7, 0);
     GraphicDelete(root, group);

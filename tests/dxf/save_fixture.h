@@ -50,7 +50,7 @@ protected:
     }
     bool IsWritten(const fs::path& original) const { return ReadBytes(path) == ReadBytes(original); }
 
-    bool LeavesOthersBehind() const {
+    bool LeavesTemporaryFiles() const {
         return std::any_of(fs::directory_iterator(path.parent_path()), fs::directory_iterator(),
                            [](const auto& entry) { return entry.path().extension() == ".tmp"; });
     }

@@ -120,7 +120,8 @@ TEST_F(SaveStructure, MovesVertices) {
                 ++moved;
                 continue;
             }
-            EXPECT_NE(message.find("): the file can't hold a change of its vertices"), std::string::npos) << message;
+            EXPECT_NE(message.find("): the file format can't store a change of its vertices"), std::string::npos)
+                << message;
             ++refused;
             shift(-8);
         }
@@ -217,7 +218,7 @@ TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
         EXPECT_EQ(change(color, flags ^ (kLayerOff | kLayerFrozen | kLayerLocked)), kSaveDone) << message;
         EXPECT_EQ(change(RGB(255, 0, 0), flags ^ kLayerOff), kSaveDone) << message;
         if (change(0x563412, flags) != kSaveDone) {
-            EXPECT_NE(message.find("\": a file of this version cannot hold the color"), std::string::npos) << message;
+            EXPECT_NE(message.find("\": a file of this version cannot store the color"), std::string::npos) << message;
         }
         LayerSet(d, layer, 0x563412, flags ^ kLayerLocked, line);
         EXPECT_TRUE(DrawingIsModified(d));
@@ -234,11 +235,11 @@ TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
     GraphicStruct* content = BlockGetGraphic(blocks, AddBlock(drawing.get(), "Part"));
     WriteProperty(content, kPropInfo, std::string("of the whole"));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "block \"Part\": the file has no place for properties of the whole");
+    EXPECT_EQ(message, "block \"Part\": the file format can't store properties of the whole");
     WriteProperty(content, kPropInfo, std::string());
     GraphicStruct* group = GraphicAdd(content, GraphicCopyEx(content, 0, 0, 7));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "block \"Part\": a group of graphics was added, which the file can't hold");
+    EXPECT_EQ(message, "block \"Part\": a group of graphics was added, which the file format can't store");
     Remove(content, group);
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 }

@@ -156,7 +156,7 @@ TEST_F(Save, LooksAgainRightBeforeItReplacesTheFile) {
     const DxfListener listener = {&file, change, nullptr};
     EXPECT_EQ(Write(drawing, 0, &listener), kSaveFileChanged);
     EXPECT_EQ(ReadBytes(path), "of another program");
-    EXPECT_FALSE(LeavesOthersBehind());
+    EXPECT_FALSE(LeavesTemporaryFiles());
 }
 
 // Distinguished from a changed file, because overwriting would not help.
@@ -170,7 +170,7 @@ TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
     EXPECT_EQ(message.find("the file cannot be opened: another program has it open"), 0u) << message;
     EXPECT_EQ(Write(drawing, kSaveOverChanged), kSaveFailed);
     EXPECT_EQ(message.find("the file cannot be replaced: "), 0u) << message;
-    EXPECT_FALSE(LeavesOthersBehind());
+    EXPECT_FALSE(LeavesTemporaryFiles());
     ::CloseHandle(held);
     EXPECT_TRUE(IsWritten(original));
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
@@ -214,7 +214,7 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
         EXPECT_EQ(message, "canceled");
         EXPECT_EQ(reports.heard.back(), permille) << "and nothing is reported afterwards";
         EXPECT_TRUE(ReadBytes(path) == saved) << permille;
-        EXPECT_FALSE(LeavesOthersBehind()) << permille;
+        EXPECT_FALSE(LeavesTemporaryFiles()) << permille;
     }
     EXPECT_EQ(Write(drawing), kSaveDone) << "as if not canceled: " << message;
 }
@@ -234,12 +234,12 @@ TEST_F(Save, LeavesTheFileAloneWhereItFails) {
 
     GraphicStruct* added = GraphicAdd(DrawingGetRoot(drawing.get()), GraphicNewEx(kGraphicVertices, 0, 0));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "a group of graphics was added, which the file can't hold");
+    EXPECT_EQ(message, "a group of graphics was added, which the file format can't store");
     GraphicDelete(DrawingGetRoot(drawing.get()), added);
     GraphicDispose(&added);
 
     EXPECT_TRUE(IsWritten(original));
-    EXPECT_FALSE(LeavesOthersBehind());
+    EXPECT_FALSE(LeavesTemporaryFiles());
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 
     const OwnedDrawing made(DrawingNew());

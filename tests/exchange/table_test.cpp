@@ -39,7 +39,7 @@ TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
     Add("Amber");
     EXPECT_EQ(FillComboTable(&combo, m_table, 0), 2);
     EXPECT_EQ(FillComboTable(&combo, m_table, 1), 1) << "an entry without data is passed over";
-    EXPECT_EQ(Items(IDC_COMBO), "Zinc;Amber;first;") << "in the table's order, behind what is there";
+    EXPECT_EQ(Items(IDC_COMBO), "Zinc;Amber;first;") << "in the table's order, after the existing items";
     combo.Detach();
 
     CListBox list;
@@ -62,7 +62,7 @@ TEST_F(TableExchange, LinesOfAStringAreItems) {
     EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 0), 0);
     EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, -1), 0);
     EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 1), 1);
-    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 99), 3) << "the empty line is no item";
+    EXPECT_EQ(FillComboStringTable(&combo, IDS_LINES, 99), 3) << "the empty line does not become an item";
     EXPECT_EQ(Items(IDC_COMBO), "One;One;Two;Four;");
     combo.Detach();
 }

@@ -32,7 +32,7 @@ bool MayTrace() {
     {
         files::FileReplacement file(path);
         file.Write(bytes);
-        file.TakePlace();
+        file.Commit();
     }
     ::_exit(0);
 }

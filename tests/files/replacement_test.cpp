@@ -39,7 +39,7 @@ protected:
     static void Replace(const fs::path& file, const std::string& bytes) {
         files::FileReplacement replacement(file);
         replacement.Write(bytes);
-        replacement.TakePlace();
+        replacement.Commit();
     }
     void ExpectRefused(const fs::path& file, const std::string& why) const {
         const auto before = Count();
@@ -77,7 +77,7 @@ TEST_F(Replacement, LeavesTheOldFileUntilThen) {
         first.Write("first");
         second.Write("second");
         EXPECT_EQ(Get(path), "old");
-        second.TakePlace();
+        second.Commit();
         EXPECT_EQ(Get(path), "second");
     }
     EXPECT_EQ(Get(path), "second");

@@ -59,8 +59,8 @@ struct KindCase {
     FieldKind kind;
     std::vector<std::string> choices;
     KitValue value, other;
-    std::string shown;     // of equal values; "" for a text that the host writes, which has to be there
-    std::string differing; // what stands for several values
+    std::string shown;     // shown for equal values; "" if the host formats it: then any text is expected
+    std::string differing; // shown for multiple values
     SheetDriver::Script edit;
     KitValue expected;
     int vt;
@@ -428,8 +428,8 @@ RECT PlaceIn(HWND page, HWND control) {
     return place;
 }
 
-// Fields and labels of a page do not lie on each other, and are all inside its contents.
-void ExpectApart(HWND page) {
+// Checks that fields and labels of a page do not overlap and are all inside its contents.
+void ExpectNoOverlap(HWND page) {
     std::vector<RECT> places;
     ForEachChild(page, [&](HWND control) {
         const bool isBox = (::GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX &&
@@ -455,14 +455,14 @@ TEST_F(FieldPage, EveryKindHasItsPlace) {
         if (kind == FieldKind::Button) row.press = [] { return false; };
         table.rows.push_back(row);
     }
-    RunOk([&](SheetDriver& user) { ExpectApart(user.Page()); });
+    RunOk([&](SheetDriver& user) { ExpectNoOverlap(user.Page()); });
 }
 
 TEST_F(FieldPage, ThirtyRowsFitWithoutScrolling) {
     Add(1);
     table = LongTable(30);
     RunOk([&](SheetDriver& user) {
-        ExpectApart(user.Page());
+        ExpectNoOverlap(user.Page());
         const int last = CFieldPage::FieldID(29);
         EXPECT_GT(PlaceIn(user.Page(), user.Control(last)).left, PlaceIn(user.Page(), user.Control(kField)).right);
         EXPECT_FALSE(::GetWindowLongA(user.Page(), GWL_STYLE) & WS_VSCROLL);
@@ -493,7 +493,7 @@ TEST_F(FieldPage, TwoHundredRowsScrollToTheFocus) {
         ::GetWindowRect(user.Sheet(), &sheet);
         EXPECT_LE(sheet.bottom - sheet.top, ::GetSystemMetrics(SM_CYSCREEN));
         EXPECT_TRUE(::GetWindowLongA(user.Page(), GWL_STYLE) & WS_VSCROLL);
-        ExpectApart(user.Page());
+        ExpectNoOverlap(user.Page());
         const HWND last = user.Control(CFieldPage::FieldID(199));
         EXPECT_GT(PlaceIn(user.Page(), last).bottom, client.bottom);
         user.Focus(CFieldPage::FieldID(199)); // the only one that is enabled
@@ -576,7 +576,7 @@ TEST_F(FieldPage, FollowsTheDirectionOfTheOwner) {
 
 struct WrongTable {
     const char* name;
-    std::function<void(FieldTable&)> spoil;
+    std::function<void(FieldTable&)> damage;
     const char* message;
 };
 
@@ -617,7 +617,7 @@ TEST_F(FieldPage, AWrongTableIsRefusedByItsRow) {
     for (const WrongTable& wrong : cases) {
         SCOPED_TRACE(wrong.name);
         SetRow(Row(FieldKind::Integer));
-        wrong.spoil(table);
+        wrong.damage(table);
         try {
             const CFieldPage made(kPage, table);
             ADD_FAILURE() << "accepted";

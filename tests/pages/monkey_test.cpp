@@ -96,7 +96,7 @@ private:
 };
 
 // Checks that the drawing is valid after any input.
-void ExpectSound(const DrawingState& state, int step) {
+void ExpectValid(const DrawingState& state, int step) {
     for (const std::string& line : state.Lines())
         ASSERT_TRUE(line.find("nan") == std::string::npos && line.find("inf") == std::string::npos)
             << step << ": " << line;
@@ -124,7 +124,7 @@ TEST(Monkey, FindsNoWayToBreakTheSheet) {
                     ASSERT_EQ(before.DifferencesTo(now, 1), std::vector<std::string>()) << i;
                 }
                 before = now;
-                ExpectSound(now, i);
+                ExpectValid(now, i);
             }
             if (i == 10000) {
                 gdi = GdiObjectCount();

@@ -242,7 +242,7 @@ TEST(Set, IsByteForByteTheExampleOfItsDocument) {
     CPropertySet read;
     ASSERT_EQ(read.ReadFromStream(&stream), 1);
     EXPECT_EQ(stream.Transfers(), 1) << "all in one read";
-    EXPECT_EQ(read.GetSection(kFormat)->GetCount(), 3u) << "the dictionary is no property";
+    EXPECT_EQ(read.GetSection(kFormat)->GetCount(), 3u) << "the dictionary is not a property";
     EXPECT_EQ(Written(read), expected);
 }
 

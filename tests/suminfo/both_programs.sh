@@ -7,7 +7,7 @@ set -euo pipefail
 windows=$1 native=$2 documents=$3 streams=$4 folder=$5
 here=$(dirname "$(realpath "$0")")
 [ -x "$native" ] || exit 77
-left_to_windows=3
+needs_windows=3
 
 fail() { printf '%.300s\n' "$*"; exit 1; }
 run_into() { # NAME PROGRAM...: including the output file, if any
@@ -21,7 +21,7 @@ differ() { ! cmp -s "$1" "$2"; }
 compare() { # ARGUMENTS...
     rm -f out
     run_into native "$native" "$@"
-    if [ "$(cat native.status)" = $left_to_windows ]; then
+    if [ "$(cat native.status)" = $needs_windows ]; then
         [ "$1" = thumbnail ] || fail "$*: left to the other program"
         [ ! -s native.stdout ] && [ ! -s native.stderr ] && [ ! -e native.file ] || fail "$*: left, but not in silence"
         left=$((left + 1))

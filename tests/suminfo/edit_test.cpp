@@ -307,9 +307,9 @@ TEST_F(Edit, RejectedEditsChangeNothing) {
     const fs::path file = Document("test11--695187.doc");
     const std::vector<unsigned char> before = FileBytes(file);
     const std::string name = file.string();
-    ExpectRefused({"set", name, "title=New", "pages=many"}, "pages: 'many' is no whole number");
-    ExpectRefused({"set", name, "title=New", "saved=2001-02-30"}, "is no date");
-    ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is no span of time");
+    ExpectRefused({"set", name, "title=New", "pages=many"}, "pages: 'many' is not a whole number");
+    ExpectRefused({"set", name, "title=New", "saved=2001-02-30"}, "is not a date");
+    ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is not a span of time");
     ExpectRefused({"remove", name, "title", "--custom", "Nobody"}, "it has no custom property 'Nobody'");
     EXPECT_EQ(FileBytes(file), before);
 }

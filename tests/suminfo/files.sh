@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What suminfo does to files on disks as they are: links, permissions, too little room. files.sh "COMMAND" DOCUMENTS FOLDER
+# Tests suminfo with links, permissions and a full disk. files.sh "COMMAND" DOCUMENTS FOLDER
 # Ends with 77 where it may not mount a disk of its own.
 set -euo pipefail
 program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3

@@ -27,7 +27,7 @@ ln -s plan.doc some/inner/again.doc
 expect "a folder's result" "$(ended suminfo check -r some)" 1 # irregular
 expect "its documents" "$(cut -d: -f1 out | uniq)" \
     "$(printf '%s\n' 'some/inner/a?mark.doc' some/inner/again.doc 'some/inner/latin\xe9.doc' 'some/inner/two\nlines.doc')"
-expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file of this name"
+expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file with this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: not a compound file'
 
 # Half a surrogate pair in the name of a stream.

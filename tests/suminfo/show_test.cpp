@@ -123,7 +123,7 @@ TEST(Show, OtherFilesAreRejectedByName) {
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "suminfo: text.doc: not a compound file\n"
                        "suminfo: missing.doc: the file cannot be opened: no such file\n"
-                       "suminfo: .: is a folder; -r looks into folders\n");
+                       "suminfo: .: is a folder; use -r to search folders\n");
 }
 
 TEST(Show, ReadsADocumentThatAnotherProgramWrites) {

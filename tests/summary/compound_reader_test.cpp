@@ -63,11 +63,11 @@ TEST(CompoundReader, RealFiles) {
     const struct {
         const char* name;
         CompoundState state;
-    } rows[] = {{"test11--695187.doc", CompoundState::sound},
-                {"input-bw-one-band--340370.fpx", CompoundState::sound},
-                {"sent--da96eb.msg", CompoundState::sound},
-                {"bug55030--18fccf.ppt", CompoundState::sound},
-                {"Bug48075--a2ceba.doc", CompoundState::sound},
+    } rows[] = {{"test11--695187.doc", CompoundState::intact},
+                {"input-bw-one-band--340370.fpx", CompoundState::intact},
+                {"sent--da96eb.msg", CompoundState::intact},
+                {"bug55030--18fccf.ppt", CompoundState::intact},
+                {"Bug48075--a2ceba.doc", CompoundState::intact},
                 {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", CompoundState::unsafe},
                 {"loop-in-open-1--b587ad.bin", CompoundState::unsafe},
                 {"loop-in-alloc--d3743f.bin", CompoundState::unsafe},
@@ -87,7 +87,7 @@ TEST(CompoundReader, CutFiles) {
     for (size_t size = kSector; size < whole.size() - kSector; size += 100) {
         const ByteVector cut(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(size));
         const orlo::CompoundReader file = ReaderOf(cut);
-        EXPECT_GE(file.State(), CompoundState::torn) << size;
+        EXPECT_GE(file.State(), CompoundState::damaged) << size;
         for (const orlo::CompoundStream& stream : file.Streams())
             most = std::max(most, file.Read(stream).size());
     }
@@ -100,9 +100,9 @@ TEST(CompoundReader, LongSectorsAsSystemsOfAllAgesWroteThem) {
         uint16_t version;
         uint32_t directories, highHalf;
         CompoundState state;
-    } rows[] = {{4, 1, 0, CompoundState::sound},          {4, 0, 0, CompoundState::sound},
-                {4, 2, 0, CompoundState::unsafe},         {3, 0, 0, CompoundState::sound},
-                {3, 0, 0xCDCDCDCD, CompoundState::sound}, {4, 1, 1, CompoundState::torn},
+    } rows[] = {{4, 1, 0, CompoundState::intact},          {4, 0, 0, CompoundState::intact},
+                {4, 2, 0, CompoundState::unsafe},          {3, 0, 0, CompoundState::intact},
+                {3, 0, 0xCDCDCDCD, CompoundState::intact}, {4, 1, 1, CompoundState::damaged},
                 {5, 1, 0, CompoundState::unsafe}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.version << " " << row.directories << " " << row.highHalf);
@@ -125,7 +125,7 @@ TEST(CompoundReader, ReadsAllocationSectorsSideBySideAtOnce) {
         return true;
     };
     const orlo::CompoundReader reader(read, file.size());
-    EXPECT_EQ(reader.State(), CompoundState::sound) << testing::PrintToString(reader.Damage());
+    EXPECT_EQ(reader.State(), CompoundState::intact) << testing::PrintToString(reader.Damage());
     EXPECT_EQ(reader.Read(reader.Streams().at(0)).size(), 5000u);
     EXPECT_LT(reads, 10u);
 }
@@ -184,8 +184,8 @@ const Bend kBends[] = {
      CompoundState::unsafe},
     {"EntryOfNoKind", [](ByteVector& file) { file[EntryAt(file, 1) + 66] = 3; }, CompoundState::unsafe},
     {"EntriesThatNothingLeadsTo", [](ByteVector& file) { Put(file, EntryAt(file, 0) + kChild, 0xFFFFFFFF); },
-     CompoundState::torn},
-    {"NameWithoutItsEnd", [](ByteVector& file) { file[EntryAt(file, 1) + kName + 38] = 'x'; }, CompoundState::torn},
+     CompoundState::damaged},
+    {"NameWithoutItsEnd", [](ByteVector& file) { file[EntryAt(file, 1) + kName + 38] = 'x'; }, CompoundState::damaged},
     {"NamesOutOfOrder",
      [](ByteVector& file) { // left and right swapped
          const size_t entry = EntryAt(file, 1);
@@ -193,7 +193,7 @@ const Bend kBends[] = {
          Put(file, entry + 68, Number(file, entry + 72));
          Put(file, entry + 72, left);
      },
-     CompoundState::torn},
+     CompoundState::damaged},
     {"ShortStreamsRunIntoTheDirectory",
      [](ByteVector& file) { Put(file, EntryAt(file, 0) + kStart, DirectoryOf(file)); }, CompoundState::unsafe},
     {"ShortStreamsEndEarly",
@@ -206,20 +206,21 @@ const Bend kBends[] = {
      },
      CompoundState::unsafe},
     {"StreamInACutSector", [](ByteVector& file) { AddLongStream(file, 9 * kSector, 9 * kSector - 200); },
-     CompoundState::torn},
+     CompoundState::damaged},
     {"CutSectorBehindTheStream", [](ByteVector& file) { AddLongStream(file, 9 * kSector - 200, 9 * kSector - 200); },
-     CompoundState::sound},
+     CompoundState::intact},
     {"StreamsShareSectors",
      [](ByteVector& file) { Put(file, EntryAt(file, 2) + kStart, Number(file, EntryAt(file, 1) + kStart)); },
-     CompoundState::torn},
+     CompoundState::damaged},
     {"StreamRunsIntoTheTable",
      [](ByteVector& file) {
          Put(file, EntryAt(file, 1) + kStart, Number(file, 76));
          Put(file, EntryAt(file, 1) + kSize, 9000);
      },
-     CompoundState::torn},
-    {"StreamTooLong", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 4000); }, CompoundState::torn},
-    {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); }, CompoundState::torn},
+     CompoundState::damaged},
+    {"StreamTooLong", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 4000); }, CompoundState::damaged},
+    {"EmptyStreamWithSectors", [](ByteVector& file) { Put(file, EntryAt(file, 1) + kSize, 0); },
+     CompoundState::damaged},
 };
 
 // Otherwise a hundred streams on one chain would be read as a hundred times the file.

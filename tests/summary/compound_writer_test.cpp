@@ -84,7 +84,7 @@ void ExpectRewritten(const ByteVector& file, const orlo::StreamsToWrite& streams
     const orlo::CompoundReader before = ReaderOf(file);
     const ByteVector bytes = Rewritten(&before, streams);
     const orlo::CompoundReader after = ReaderOf(bytes);
-    EXPECT_EQ(after.State(), orlo::CompoundState::sound) << testing::PrintToString(after.Damage());
+    EXPECT_EQ(after.State(), orlo::CompoundState::intact) << testing::PrintToString(after.Damage());
     EXPECT_EQ(KeptOf(after, streams), KeptOf(before, streams));
     EXPECT_EQ(std::vector<uint8_t>(after.Header().begin(), after.Header().begin() + kDirectorySectors),
               std::vector<uint8_t>(before.Header().begin(), before.Header().begin() + kDirectorySectors));
@@ -111,18 +111,18 @@ std::vector<fs::path> Documents() {
 }
 
 TEST(CompoundWriter, RealDocumentsKeepAllElse) {
-    int sound = 0;
+    int intact = 0;
     for (const fs::path& document : Documents()) {
         SCOPED_TRACE(document);
         const ByteVector file = FileBytes(document);
-        if (ReaderOf(file).State() != orlo::CompoundState::sound) continue;
-        ++sound;
+        if (ReaderOf(file).State() != orlo::CompoundState::intact) continue;
+        ++intact;
         ExpectRewritten(file, {});
         for (const size_t size : {0u, 1u, 64u, 4095u, 4096u, 100000u})
             ExpectRewritten(file, {{kSummary, Filled(size)}, {u"\005documentsummaryinformation", Filled(size / 2)}});
     }
-    EXPECT_GT(sound, 5);
-    RecordProperty("documents", sound);
+    EXPECT_GT(intact, 5);
+    RecordProperty("documents", intact);
 }
 
 TEST(CompoundWriter, EveryVersionAndSectorSize) {
@@ -150,7 +150,7 @@ TEST(CompoundWriter, EveryVersionAndSectorSize) {
 
 TEST(CompoundWriter, NewFileIsOfVersion3) {
     const ByteVector file = Rewritten(nullptr, {{kSummary, Filled(100)}});
-    EXPECT_EQ(ReaderOf(file).State(), orlo::CompoundState::sound);
+    EXPECT_EQ(ReaderOf(file).State(), orlo::CompoundState::intact);
     EXPECT_EQ(StreamsOf(file), (Streams{{kSummary, Filled(100)}}));
     EXPECT_EQ(file[kVersion], 3);
 }
@@ -245,12 +245,12 @@ SparseFile LongFile(uint64_t streamBytes) {
 TEST(CompoundWriter, LeavesTheSectorFreeThatTheSystemLocks) {
     const SparseFile file = LongFile(uint64_t{0x80000000} + (1 << 20));
     const orlo::CompoundReader before = SparseReaderOf(file);
-    ASSERT_EQ(before.State(), orlo::CompoundState::sound) << testing::PrintToString(before.Damage());
+    ASSERT_EQ(before.State(), orlo::CompoundState::intact) << testing::PrintToString(before.Damage());
     SparseFile written;
     orlo::WriteCompoundFile(&before, {{kSummary, Filled(5000)}},
                             [&](std::string_view piece) { written.Append(piece); });
     const orlo::CompoundReader after = SparseReaderOf(written);
-    EXPECT_EQ(after.State(), orlo::CompoundState::sound) << testing::PrintToString(after.Damage());
+    EXPECT_EQ(after.State(), orlo::CompoundState::intact) << testing::PrintToString(after.Damage());
     ByteVector locked(4096, 1);
     ASSERT_TRUE(written.Read(0x7FFFF000, locked.data(), locked.size()));
     EXPECT_EQ(locked, ByteVector(4096)) << "no stream has zeros";
@@ -289,7 +289,7 @@ TEST_P(DamagedFile, IsRefusedOrEdited) {
         } catch (const orlo::UnfitDocument&) {
             ++refused;
             EXPECT_EQ(FileBytes(path), file);
-            EXPECT_NE(ReaderOf(file).State(), orlo::CompoundState::sound);
+            EXPECT_NE(ReaderOf(file).State(), orlo::CompoundState::intact);
         }
     }
     fs::remove(path);

@@ -32,7 +32,7 @@ void ExpectSavingChangesNoOther(const Bytes& file, size_t titleLength) {
         ASSERT_EQ(::StgOpenStorageOnILockBytes(&disk, nullptr, kWrite, nullptr, 0, Receive(storage)), S_OK);
         EXPECT_EQ(SaveSummaryInfo(storage.get(), summary.get()), S_OK);
     }
-    EXPECT_EQ(ReaderOf(disk.bytes).State(), orlo::CompoundState::sound);
+    EXPECT_EQ(ReaderOf(disk.bytes).State(), orlo::CompoundState::intact);
     Streams before = StreamsOf(file), after = StreamsOf(disk.bytes);
     before.erase(u"\005SummaryInformation");
     EXPECT_GE(after[u"\005SummaryInformation"].size(), titleLength);
@@ -45,7 +45,7 @@ class DamagedDocument : public testing::TestWithParam<const char*> {};
 TEST_P(DamagedDocument, IsRefusedOrRead) {
     const Bytes whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path = fs::temp_directory_path() / "orlo-random-damage.doc";
-    int sound = 0, refused = 0;
+    int intact = 0, refused = 0;
     for (unsigned seed = 0; seed < 1000; ++seed) {
         SCOPED_TRACE(seed);
         const Bytes file = Damaged(whole, seed);
@@ -61,13 +61,13 @@ TEST_P(DamagedDocument, IsRefusedOrRead) {
             ++refused;
         }
         const Streams streams = storage ? SystemStreamsOf(storage.get()) : Streams();
-        if (state != orlo::CompoundState::sound) continue;
-        ++sound;
+        if (state != orlo::CompoundState::intact) continue;
+        ++intact;
         EXPECT_TRUE(!storage || streams == StreamsOf(file));
         ExpectSavingChangesNoOther(file, seed % 3 * 4000);
     }
     fs::remove(path);
-    EXPECT_GT(sound, 100);
+    EXPECT_GT(intact, 100);
     EXPECT_GT(refused, 200);
 }
 

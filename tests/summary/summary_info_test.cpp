@@ -318,7 +318,7 @@ TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
         const Saved result = SaveWithRoom(document_, room, mode_, summary_.get());
         EXPECT_EQ(WithoutZeros(StreamsOf(result.file)), WithoutZeros(result.done ? after : before_))
             << room << " bytes of room";
-        EXPECT_LE(ReaderOf(result.file).State(), orlo::CompoundState::torn) << room << " bytes of room";
+        EXPECT_LE(ReaderOf(result.file).State(), orlo::CompoundState::damaged) << room << " bytes of room";
         saved += result.done;
     }
     EXPECT_GT(saved, 1);

@@ -115,7 +115,7 @@ std::string RequireName(const std::string& name, bool allowConditions) {
     std::string names = allowConditions ? "kind, handle, block" : "";
     for (const std::string& property : dxf::DocumentReader::PropertyNames())
         names += (names.empty() ? "" : ", ") + property;
-    throw std::invalid_argument("'" + name + "' is none of " + names);
+    throw std::invalid_argument("'" + name + "' is not one of " + names);
 }
 
 std::vector<Condition> ReadConditions(const std::vector<std::string>& texts) {

@@ -26,7 +26,7 @@ void KeepBackup(const std::filesystem::path& file) {
     backup += ".bak";
     files::FileReplacement replacement(backup);
     replacement.Write(dxf::ReadBytes(file));
-    replacement.TakePlace();
+    replacement.Commit();
 }
 
 } // namespace
@@ -49,7 +49,7 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
     replacement.Write(bytes);
     if (isOwn && !files::HasContents(target, Bytes()))
         throw dxf::SaveError("the file was changed while this program worked on it");
-    replacement.TakePlace();
+    replacement.Commit();
 }
 
 std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {

@@ -80,7 +80,7 @@ Selection SelectionOf(const CommandLine& line) {
     selection.space = line.space;
     const bool isBlock = line.space.rfind("block=", 0) == 0;
     if (!isBlock && !line.space.empty() && line.space != "model" && line.space != "paper" && line.space != "all")
-        throw UsageError("--in: '" + line.space + "' is none of model, paper, all, block=NAME");
+        throw UsageError("--in: '" + line.space + "' is not one of model, paper, all, block=NAME");
     if (!line.within.empty()) selection.within = ReadBox(line.within);
     return selection;
 }
@@ -351,7 +351,7 @@ int SetLayer(CommandLine& line) {
     };
     dxf::LayerValues wanted;
     for (const auto& [name, text] : TakeValues(line, isValue, [](const std::string& name) {
-             throw UsageError("'" + name + "' is none of " + LayerFieldNames());
+             throw UsageError("'" + name + "' is not one of " + LayerFieldNames());
          }))
         FindLayerField(name)->set(wanted, text);
     if (line.layers.empty()) throw UsageError("name a layer: --layer NAME");

@@ -206,7 +206,7 @@ private:
         sub->add_flag("--stream", line_.bare, "FILE is not a document but one property-set stream");
     }
     void AddRecursive(CLI::App* sub) {
-        sub->add_flag("-r,--recursive", line_.recursive, "look into folders, at every compound file");
+        sub->add_flag("-r,--recursive", line_.recursive, "search folders for compound files");
     }
     void AddFile(CLI::App* sub) {
         sub->add_option("FILE", file_, "the document; - is standard input")->required();
@@ -258,7 +258,7 @@ private:
         CLI::App* sub = Add("thumbnail", Command::thumbnail, "Save the thumbnail as a picture");
         AddFile(sub);
         sub->add_option("OUT.png", line_.output, "the picture; - is standard output")->required();
-        sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (its own size, or 256 for a metafile)");
+        sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (default: the original size; 256 for a metafile)");
         sub->add_flag("--original", line_.original, "the picture as it is stored, in any format, instead of a PNG");
     }
     void AddScript() {

@@ -29,7 +29,7 @@ orlo::CompoundReader FromStandardInput() {
 orlo::CompoundReader Open(const std::string& file) {
     if (file == kStandardStream) return FromStandardInput();
     std::error_code none; // whatever it is, opening it says more
-    if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; -r looks into folders");
+    if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; use -r to search folders");
     return orlo::OpenCompoundFile(fs::u8path(file));
 }
 

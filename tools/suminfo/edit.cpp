@@ -50,7 +50,7 @@ private:
 
 // Adds the field's name to a Failure.
 template <typename Work>
-void For(const std::string& name, Work work) {
+void WithFieldName(const std::string& name, Work work) {
     try {
         work();
     } catch (const Failure& failure) {
@@ -58,8 +58,8 @@ void For(const std::string& name, Work work) {
     }
 }
 
-orlo::Bytes Sound(orlo::Bytes bytes, const std::string& name) {
-    For(StreamNameShown(name), [&] { EditedSet check{bytes}; });
+orlo::Bytes RequireUndamaged(orlo::Bytes bytes, const std::string& name) {
+    WithFieldName(StreamNameShown(name), [&] { EditedSet check{bytes}; });
     return bytes;
 }
 
@@ -69,11 +69,13 @@ void SetFields(const std::string& file, const std::vector<Assignment>& fields, c
     Edit edit(file);
     for (const Assignment& assignment : fields) {
         const Field& field = FieldToSet(assignment.name);
-        For(assignment.name,
-            [&] { edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type); });
+        WithFieldName(assignment.name, [&] {
+            edit.SetWith(field.format).SetField(field.format, field.id, assignment.value, field.type);
+        });
     }
     for (const CustomValue& property : custom)
-        For(property.name, [&] { edit.SetWith(kUserDefinedFormat).SetCustom(property.name, property.value); });
+        WithFieldName(property.name,
+                      [&] { edit.SetWith(kUserDefinedFormat).SetCustom(property.name, property.value); });
     edit.Commit();
 }
 
@@ -95,7 +97,7 @@ void CopySummary(const std::string& from, const std::string& to) {
     OnFile(from, [&] {
         const Document source(from);
         for (const char* name : {kSummaryStream, kDocumentSummaryStream})
-            if (auto bytes = source.Read(name)) streams[name] = Sound(std::move(*bytes), name);
+            if (auto bytes = source.Read(name)) streams[name] = RequireUndamaged(std::move(*bytes), name);
         if (streams.empty()) throw Failure("it has no summary");
     });
     orlo::EditedDocument target(fs::u8path(to));

@@ -50,7 +50,7 @@ Kind KindOf(uint32_t type) {
 void RequireUtf8(orlo::ImageSection& section) {
     if (const auto id = orlo::ConvertToUtf8(section))
         throw Failure("code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) +
-                      " can't say the new text, and property " + std::to_string(*id) +
+                      " can't represent the new text, and property " + std::to_string(*id) +
                       " is not text of it that could be converted to UTF-8");
 }
 
@@ -143,7 +143,7 @@ bool EditedSet::RemoveCustom(const std::string& name) {
 
 orlo::Bytes EditedSet::Image() const {
     auto image = orlo::WriteSetImage(set_);
-    if (!image) throw Failure("a name of its dictionary can't be said in its code page");
+    if (!image) throw Failure("a name of its dictionary can't be represented in its code page");
     return std::move(*image);
 }
 

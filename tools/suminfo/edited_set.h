@@ -26,7 +26,7 @@ public:
     bool Remove(const GUID& format, uint32_t id);
     bool RemoveCustom(const std::string& name);
 
-    const orlo::SetImage& Held() const { return set_; }
+    const orlo::SetImage& Set() const { return set_; }
     bool Changed() const { return changed_; }
     orlo::Bytes Image() const;
 

@@ -29,13 +29,13 @@ Json DataJson(const orlo::Bytes& bytes) {
 
 // Length and hash cover everything after the tag: the format number, if any, and the picture.
 Json ClipboardJson(const orlo::ClipboardData& clip) {
-    orlo::Bytes behindTag;
+    orlo::Bytes afterTag;
     if (clip.tag == -1 || clip.tag == -2)
         for (int shift = 0; shift < 32; shift += 8)
-            behindTag.push_back(static_cast<uint8_t>(clip.format >> shift));
-    behindTag.insert(behindTag.end(), clip.data.begin(), clip.data.end());
+            afterTag.push_back(static_cast<uint8_t>(clip.format >> shift));
+    afterTag.insert(afterTag.end(), clip.data.begin(), clip.data.end());
     Json json = {{"tag", clip.tag}, {"format", clip.format}};
-    json.update(DataJson(behindTag));
+    json.update(DataJson(afterTag));
     return json;
 }
 

@@ -22,7 +22,7 @@ void WriteOutput(const std::string& file, std::string_view bytes) {
     }
     files::FileReplacement replacement(std::filesystem::u8path(file));
     replacement.Write(bytes);
-    replacement.TakePlace();
+    replacement.Commit();
 }
 
 void WarnOfEnding(const std::string& file, const std::string& ending, const std::string& contents) {

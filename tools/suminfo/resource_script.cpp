@@ -35,7 +35,7 @@ public:
         orlo::SetImage set;
         set.sections.push_back(section);
         auto bytes = orlo::WriteSetImage(set);
-        if (!bytes) throw Failure("a name of its dictionary can't be said in its code page");
+        if (!bytes) throw Failure("a name of its dictionary can't be represented in its code page");
         bytes_.assign(bytes->begin() + kBeforeSection, bytes->end());
     }
 
@@ -150,20 +150,20 @@ FILE* StandardOutput() {
 } // namespace
 
 void SaveResourceScript(const Source& source, const std::string& script) {
-    const EditedSet sound(SummaryOf(source).bytes); // refuses what is damaged
+    const EditedSet summary(SummaryOf(source).bytes); // fails for a damaged stream
     const bool isFile = script != kStandardStream;
     WarnOfEnding(script, "rc", "a resource script");
     std::optional<files::FileReplacement> file;
     if (isFile) OnFile(script, [&] { file.emplace(fs::u8path(script)); });
     try {
         CRCFile rc(isFile ? OpenStream(file->Path()) : StandardOutput());
-        Print(sound.Held(), "Sections of " + OneLine(source.file), rc);
+        Print(summary.Set(), "Sections of " + OneLine(source.file), rc);
         rc.Close();
     } catch (CFileException* full) {
         full->Delete();
         throw Failure(script, "cannot be written: the disk is full or failed");
     }
-    if (isFile) OnFile(script, [&] { file->TakePlace(); });
+    if (isFile) OnFile(script, [&] { file->Commit(); });
 }
 
 } // namespace suminfo

@@ -83,7 +83,7 @@ void RefuseOtherKinds(const orlo::Bytes& value) {
     const std::string kind = tag == kOfMacintosh                                ? "a Macintosh picture"
                              : tag == kOfWindows && format == kEnhancedMetafile ? "an enhanced metafile"
                                                                                 : "of an unknown clipboard format";
-    throw Failure("its thumbnail is " + kind + ", which is not drawn; --original saves it as it is");
+    throw Failure("its thumbnail is " + kind + ", which suminfo can't draw; --original saves it unchanged");
 }
 
 std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {

@@ -27,7 +27,7 @@ constexpr std::array kTypeWords = {
 };
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& kind) {
-    throw Failure("'" + text + "' is no " + kind);
+    throw Failure("'" + text + "' is not a " + kind);
 }
 
 template <typename Number>
@@ -90,11 +90,11 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
         value.data = int64_t{Whole<int32_t>(text, "whole number")};
         return value;
     case VT_UI2:
-        value.data = uint64_t{Whole<uint16_t>(text, "whole number of 16 bits from 0 on")};
+        value.data = uint64_t{Whole<uint16_t>(text, "whole number of 16 bits, 0 or more")};
         return value;
     case VT_UI4:
     case VT_UINT:
-        value.data = uint64_t{Whole<uint32_t>(text, "whole number from 0 on")};
+        value.data = uint64_t{Whole<uint32_t>(text, "whole number of 0 or more")};
         return value;
     case VT_R4:
     case VT_R8:
@@ -114,11 +114,11 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
     case VT_I8:
         return Formatted(type, text, "whole number");
     case VT_CY:
-        return Formatted(type, text, "amount of money");
+        return Formatted(type, text, "sum of money");
     case VT_CLSID:
         return Formatted(type, text, "class ID");
     default:
-        throw Failure("values of type " + orlo::TypeName(type) + " can't be typed");
+        throw Failure("values of type " + orlo::TypeName(type) + " can't be entered as text");
     }
 }
 
@@ -146,7 +146,7 @@ orlo::Value ParseTyped(std::string_view typed) {
     const std::string_view word = typed.substr(0, colon);
     for (const TypeWord& known : kTypeWords)
         if (orlo::IsSameName(known.word, word)) return ParseValue(known.type, std::string(typed.substr(colon + 1)));
-    throw Failure("'" + std::string(word) + "' is no type; types are " + TypeNames());
+    throw Failure("'" + std::string(word) + "' is not a type; the types are " + TypeNames());
 }
 
 std::string TypeNames() {

@@ -31,8 +31,8 @@ namespace {
 class ChangeExport {
 public:
     ChangeExport(const Drawing& drawing, const StructureExport& structure, dxf::DrawingPatch& patch,
-                 OmittedObjects& left)
-        : drawing_(drawing), structure_(structure), left_(left), appearances_(drawing, patch) {}
+                 OmittedObjects& omitted)
+        : drawing_(drawing), structure_(structure), omitted_(omitted), appearances_(drawing, patch) {}
 
     // Layers are added even if they are empty.
     void Write(const std::vector<Id>& newLayers) {
@@ -50,15 +50,15 @@ private:
             const Graphic& graphic = *group.MemberAt(i);
             const bool isNew = graphic.source == Graphic::kNoSource;
             if (isNew && !structure_.WillHave(graphic)) continue;
-            if ((graphic.touched || isNew) && !left_.Has(graphic))
-                left_.Try(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
+            if ((graphic.touched || isNew) && !omitted_.Has(graphic))
+                omitted_.RunOrAdd(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
             WriteMembers(graphic);
         }
     }
 
     const Drawing& drawing_;
     const StructureExport& structure_;
-    OmittedObjects& left_;
+    OmittedObjects& omitted_;
     AppearanceExport appearances_;
 };
 
@@ -93,14 +93,14 @@ struct ChangedSource {
 // not known before, the result is useless and the next pass omits them.
 class SavePass {
 public:
-    SavePass(const Drawing& drawing, OmittedObjects& left, const ProgressReport& report)
-        : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), left_(left), report_(report) {
-    }
+    SavePass(const Drawing& drawing, OmittedObjects& omitted, const ProgressReport& report)
+        : drawing_(drawing), source_(*drawing.source), text_(dxf::TextOf(source_.bytes)), omitted_(omitted),
+          report_(report) {}
 
     // Returns nothing, and keeps the source, if the drawing equals its file.
     std::optional<ChangedSource> Run() {
         dxf::StructurePatch structurePatch(text_, source_.known.Tables());
-        StructureExport structure(drawing_, structurePatch, left_);
+        StructureExport structure(drawing_, structurePatch, omitted_);
         structure.Write();
         const bool restructured = structurePatch.IsChanged();
         const std::string other = restructured ? structurePatch.Finish() : std::string();
@@ -112,7 +112,7 @@ public:
         dxf::DrawingPatch patch(restructured ? std::string_view(other) : text_,
                                 restructured ? dxf::Read(other, {}).Tables() : source_.known.Tables());
         ChangeLayers(patch);
-        ChangeExport(drawing_, structure, patch, left_).Write(newLayers);
+        ChangeExport(drawing_, structure, patch, omitted_).Write(newLayers);
         if (IsInVain()) return std::nullopt;
         ChangedSource changed;
         changed.onlyExtended = patch.OnlyExtended();
@@ -126,7 +126,7 @@ public:
 
 private:
     // Returns whether the pass must be repeated without the graphics found meanwhile.
-    bool IsInVain() const { return left_.Count() != before_; }
+    bool IsInVain() const { return omitted_.Count() != before_; }
 
     // Returns the layers added since the drawing was read or saved.
     std::vector<Id> NewLayers() const {
@@ -141,11 +141,11 @@ private:
     void ChangeLayers(dxf::DrawingPatch& patch) {
         for (const auto& [index, layer] : ChangedLayers(drawing_, patch.Known())) {
             const std::string name = OmittedObjects::NameOfLayer(HostName(layer.name));
-            if (left_.Has(name)) continue;
+            if (omitted_.Has(name)) continue;
             try {
                 patch.ChangeLayer(index, layer);
             } catch (const dxf::SaveError& error) {
-                left_.Add(name, error.what());
+                omitted_.Add(name, error.what());
             }
         }
     }
@@ -153,10 +153,11 @@ private:
     void Compare(ChangedSource& changed) {
         const std::string_view text = dxf::TextOf(changed.bytes);
         const dxf::Document document = dxf::Read(changed.bytes, report_.Part(kPatched, kReadBack));
-        changed.sources =
-            CompareWithFile(drawing_, text, document, left_, changed.removedLeft, report_.Part(kReadBack, kCompared));
+        changed.sources = CompareWithFile(drawing_, text, document, omitted_, changed.removedLeft,
+                                          report_.Part(kReadBack, kCompared));
         for (const auto& [index, layer] : ChangedLayers(drawing_, document))
-            left_.Add(OmittedObjects::NameOfLayer(HostName(layer.name)), "the file can't hold a change of it");
+            omitted_.Add(OmittedObjects::NameOfLayer(HostName(layer.name)),
+                         "the file format can't store a change of it");
         CompareLayerNames(text, document);
         changed.known = document.Tables();
     }
@@ -169,22 +170,22 @@ private:
             const std::string layer = Utf8FromCodePage(name);
             if (dxf::FirstOnLayer(text, document, layer).empty()) continue;
             const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // including its line
-            left_.Add(OmittedObjects::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
+            omitted_.Add(OmittedObjects::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
         }
     }
 
     const Drawing& drawing_;
     const DxfSource& source_;
     const std::string_view text_;
-    OmittedObjects& left_;
-    const size_t before_ = left_.Count();
+    OmittedObjects& omitted_;
+    const size_t before_ = omitted_.Count();
     const ProgressReport& report_;
 };
 
-void TakeOver(ChangedSource&& changed, const OmittedObjects& left, DxfSource& source) {
+void TakeOver(ChangedSource&& changed, const OmittedObjects& omitted, DxfSource& source) {
     for (const auto& [graphic, place] : changed.sources) {
         graphic->source = place;
-        if (!left.Has(*graphic)) graphic->touched = false;
+        if (!omitted.Has(*graphic)) graphic->touched = false;
     }
     source.bytes = std::move(changed.bytes);
     source.known = std::move(changed.known);
@@ -197,26 +198,27 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
 
 // Runs passes until no further graphic must be omitted. Throws SaveError for the first one unless saving the rest was
 // requested.
-std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, OmittedObjects& left,
+std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, OmittedObjects& omitted,
                                     const ProgressReport& report) {
     for (;;) {
-        const size_t before = left.Count();
-        std::optional<ChangedSource> changed = SavePass(drawing, left, report).Run();
-        if (left.Count() == before) return changed;
-        if (!wantsRest) throw dxf::SaveError(left.List().front().text);
+        const size_t before = omitted.Count();
+        std::optional<ChangedSource> changed = SavePass(drawing, omitted, report).Run();
+        if (omitted.Count() == before) return changed;
+        if (!wantsRest) throw dxf::SaveError(omitted.List().front().text);
     }
 }
 
 // Removed graphics that remain in the file are removed again at the next save.
-void RecordContents(const Drawing& drawing, const OmittedObjects& left, const std::vector<uint32_t>& removedLeft) {
+void RecordContents(const Drawing& drawing, const OmittedObjects& omitted, const std::vector<uint32_t>& removedLeft) {
     DxfSource& source = *drawing.source;
     const std::vector<std::string> layers = source.layers, blocks = source.blocks;
-    source.RecordContents(drawing, left.Count());
+    source.RecordContents(drawing, omitted.Count());
     for (const std::string& name : layers)
-        if (left.Has(OmittedObjects::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
+        if (omitted.Has(OmittedObjects::NameOfLayer(name)) && drawing.Layers() && !drawing.Layers()->IdOf(name))
             source.layers.push_back(name);
     for (const std::string& name : blocks)
-        if (left.Has(OmittedObjects::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name)) source.blocks.push_back(name);
+        if (omitted.Has(OmittedObjects::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name))
+            source.blocks.push_back(name);
     source.graphics.insert(source.graphics.end(), removedLeft.begin(), removedLeft.end());
     std::sort(source.graphics.begin(), source.graphics.end());
 }
@@ -234,26 +236,26 @@ int Save(Drawing& drawing, const std::filesystem::path& path, uint32_t flags, co
     const auto isChanged = [&] { return mustBeSource && !files::HasContents(path, source.bytes); };
     if (isChanged()) return kSaveFileChanged;
     report(0);
-    OmittedObjects left(drawing);
-    std::optional<ChangedSource> changed = Change(drawing, flags & kSaveRest, left, report);
+    OmittedObjects omitted(drawing);
+    std::optional<ChangedSource> changed = Change(drawing, flags & kSaveRest, omitted, report);
     const std::string& bytes = changed ? changed->bytes : source.bytes;
     const dxf::Progress progress = report.Part(kCompared, 1000);
     files::FileReplacement file(path);
     file.Write(bytes, [&](size_t written) { progress(dxf::Permille(written, bytes.size())); });
     if (isChanged()) return kSaveFileChanged; // while this program was writing
-    file.TakePlace();                         // cannot be canceled from here on
+    file.Commit();                            // cannot be canceled from here on
     const std::vector<uint32_t> removedLeft =
-        changed ? changed->removedLeft : std::vector<uint32_t>(left.Removed().begin(), left.Removed().end());
+        changed ? changed->removedLeft : std::vector<uint32_t>(omitted.Removed().begin(), omitted.Removed().end());
     if (changed) {
         ReportOnlyExtended(changed->onlyExtended, listener);
-        TakeOver(std::move(*changed), left, source);
+        TakeOver(std::move(*changed), omitted, source);
     }
-    RecordContents(drawing, left, removedLeft);
+    RecordContents(drawing, omitted, removedLeft);
     source.path = path;
-    for (const dxf::Finding& finding : left.List())
+    for (const dxf::Finding& finding : omitted.List())
         if (listener && listener->warning)
             listener->warning(listener->context, static_cast<int>(finding.line), finding.text.c_str());
-    return left.Count() == 0 ? kSaveDone : kSaveDoneInPart;
+    return omitted.Count() == 0 ? kSaveDone : kSaveDoneInPart;
 }
 
 } // namespace

@@ -75,11 +75,11 @@ private:
 } // namespace
 
 bool DxfSource::IsOutdated(const Drawing& drawing) const {
-    return left_ > 0 || drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
+    return omitted_ > 0 || drawing.Undo().Mark() != undoMark_ || ContentsMark(drawing).Number() != contentsMark_;
 }
 
-void DxfSource::RecordContents(const Drawing& drawing, size_t left) {
-    left_ = left;
+void DxfSource::RecordContents(const Drawing& drawing, size_t omitted) {
+    omitted_ = omitted;
     undoMark_ = drawing.Undo().Mark();
     contentsMark_ = ContentsMark(drawing).Number();
     graphics.clear();

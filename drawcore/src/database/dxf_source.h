@@ -15,7 +15,7 @@ struct DxfSource {
     DxfSource(std::string text, const dxf::Document& document) : bytes(std::move(text)), known(document.Tables()) {}
 
     // Records that the drawing equals the file, except for that many omitted objects.
-    void RecordContents(const Drawing& drawing, size_t left = 0);
+    void RecordContents(const Drawing& drawing, size_t omitted = 0);
     // Returns whether the drawing has changed since then: by undo steps, added or removed graphics, or changes in
     // blocks or layers.
     bool IsOutdated(const Drawing& drawing) const;
@@ -28,7 +28,7 @@ struct DxfSource {
 
 private:
     uint32_t undoMark_ = 0;
-    size_t contentsMark_ = 0, left_ = 0;
+    size_t contentsMark_ = 0, omitted_ = 0;
 };
 
 } // namespace drawcore

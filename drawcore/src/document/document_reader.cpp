@@ -94,7 +94,7 @@ std::vector<EntityRef> DocumentReader::EntitiesOf(const std::string& name) const
         }
         names += (names.empty() ? "" : ", ") + shown;
     }
-    throw SaveError(names.empty() ? "block: the drawing has none" : "block: '" + name + "' is none of " + names);
+    throw SaveError(names.empty() ? "block: the drawing has none" : "block: '" + name + "' is not one of " + names);
 }
 
 RecordName DocumentReader::NameOf(const EntityRef& entity) const {

@@ -170,7 +170,7 @@ std::string DocumentWriter::Parts::LineTypeNamed(const std::string& name) const 
         if (type.declared && !IsSameName(shown, kContinuous)) names += ", " + shown;
     }
     if (IsSameName(name, kContinuous)) return kContinuous;
-    throw SaveError("'" + name + "' is none of the line types " + names);
+    throw SaveError("'" + name + "' is not one of the line types " + names);
 }
 
 void DocumentWriter::Parts::Rename(LayerIndex index, const std::string& name) {

@@ -31,7 +31,7 @@ using drawcore::WordsOf;
 namespace {
 
 [[noreturn]] void Refuse(const std::string& text, const std::string& allowed) {
-    throw SaveError("'" + text + "' is none of " + allowed);
+    throw SaveError("'" + text + "' is not one of " + allowed);
 }
 
 std::string Listed(const std::vector<std::string>& texts) {
@@ -125,7 +125,7 @@ double ReadNumber(const std::string& text) {
     double value = 0;
     drawcore::TextCursor cursor(text);
     if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
-        throw SaveError("'" + text + "' is no number from 0 on");
+        throw SaveError("'" + text + "' is not a number of 0 or more");
     return value;
 }
 
@@ -177,7 +177,7 @@ struct PropertyForms {
     static double ReadLength(const std::string& text, const drawcore::LengthUnit& unit) {
         double millimeters = 0;
         if (!drawcore::ReadLength(text, unit, millimeters) || millimeters < 0)
-            throw SaveError("'" + text + "' is no length from 0 on, as in \"0.5 mm\"");
+            throw SaveError("'" + text + "' is not a length of 0 or more, as in \"0.5 mm\"");
         return millimeters;
     }
     // Formats lengths with all digits, so that setting them again does not change them.
@@ -297,7 +297,8 @@ struct PropertyForms {
     static double ReadReal(const PropertyTexts& of, const PropertyInfo& info, const std::string& text) {
         if (info.meaning == PropertyMeaning::Angle) {
             double angle = 0;
-            if (!drawcore::ReadAngle(text, of.units_.angleSystem, angle)) throw SaveError("'" + text + "' is no angle");
+            if (!drawcore::ReadAngle(text, of.units_.angleSystem, angle))
+                throw SaveError("'" + text + "' is not an angle");
             return angle;
         }
         const bool isLength = info.meaning == PropertyMeaning::Length;

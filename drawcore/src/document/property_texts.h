@@ -2,7 +2,7 @@
 //
 //   dxf::PropertyTexts texts(document);
 //   texts.Get("PenWidth", appearance)               // "0.5 mm"
-//   texts.Set("PenColor", "purple", appearance)     // SaveError: "PenColor: 'purple' is none of By Layer, ..."
+//   texts.Set("PenColor", "purple", appearance)     // SaveError: "PenColor: 'purple' is not one of By Layer, ..."
 #pragma once
 
 #include <optional>

@@ -7,7 +7,7 @@
 
 namespace dxf {
 
-// The brush style of fillings without a pattern.
+// The brush style of fills without a pattern.
 constexpr char kSolidBrush[] = "Solid";
 
 struct BrushAppearance {

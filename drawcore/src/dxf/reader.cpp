@@ -122,8 +122,8 @@ private:
         }
         if (const Apart<ExtendedData> own = in_.TakeExtended()) head.own = *own;
         if (in_.TakeInvalidCoordinate())
-            in_.Report(line,
-                       "the base point of block " + Quoted(name) + " has no place in a drawing; the origin is taken");
+            in_.Report(line, "the base point of block " + Quoted(name) +
+                                 " is outside of a drawing's range; the origin is used");
         constexpr int kExternal = 4;
         if (head.flags & kExternal)
             in_.Report(line, "block " + Quoted(name) + " is in another file, which is not opened");

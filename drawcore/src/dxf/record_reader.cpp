@@ -67,7 +67,7 @@ ExtendedValue RecordReader::ReadExtendedValue() {
 double RecordReader::Real(const Tag& tag) {
     const double number = tag.Real();
     if (!std::isnan(number)) return number;
-    if (unsound_ == 0) unsound_ = tag.line + 1;
+    if (invalidCoordinateLine_ == 0) invalidCoordinateLine_ = tag.line + 1;
     return 0;
 }
 
@@ -76,8 +76,8 @@ void RecordReader::SetAxis(Vec3& point, const Tag& tag, int axis) {
 }
 
 uint32_t RecordReader::TakeInvalidCoordinate() {
-    const uint32_t line = unsound_;
-    unsound_ = 0;
+    const uint32_t line = invalidCoordinateLine_;
+    invalidCoordinateLine_ = 0;
     return line;
 }
 

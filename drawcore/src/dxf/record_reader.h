@@ -89,7 +89,7 @@ private:
     void Assign(BlockIndex& to, const Tag& tag, int) { to = BlockIndex(blocks.Find(tag.value)); }
 
     Apart<ExtendedData> own_;
-    uint32_t unsound_ = 0;
+    uint32_t invalidCoordinateLine_ = 0;
     size_t unreported_ = 0;
 };
 

@@ -123,7 +123,7 @@ void ReadTableRecord(RecordReader& in) {
         ReadTextStyle(in);
     else
         in.tags.SkipRecord();
-    if (in.TakeInvalidCoordinate()) in.Report(line, "a number of this table's entry is no sensible one; 0 is taken");
+    if (in.TakeInvalidCoordinate()) in.Report(line, "a number of this table's entry is invalid; 0 is used");
 }
 
 } // namespace dxf

@@ -116,7 +116,7 @@ void AppearanceExport::Write(const Graphic& graphic, size_t place) {
     const dxf::Entity entity = patch_.EntityAt(place);
     VertexGraphic group;
     import_.AddTo(group, entity, false);
-    if (group.MemberCount() == 0) throw dxf::SaveError("nothing of it would be seen");
+    if (group.MemberCount() == 0) throw dxf::SaveError("no part of it would be visible");
     const Graphic& shown = *group.MemberAt(0);
     if (shown.GetKind() != graphic.GetKind()) throw dxf::SaveError("the file would show another kind of graphic");
     dxf::Appearance appearance = dxf::AppearanceOf(known_, entity);

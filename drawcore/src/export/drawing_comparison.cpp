@@ -19,14 +19,14 @@ namespace {
 // changed, and whose records are identical, need not be created.
 class ReadBack {
 public:
-    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, OmittedObjects& left,
+    ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, OmittedObjects& omitted,
              const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress)
-        : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document), left_(left),
+        : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document), omitted_(omitted),
           removedLeft_(removedLeft), progress_(progress), tables_(ImportTables(document, read_)),
           import_(document, tables_, read_), comparison_(saved, read_) {}
 
     Sources Run() {
-        if (!HasSameGraphics()) throw dxf::SaveError("the file would hold other graphics");
+        if (!HasSameGraphics()) throw dxf::SaveError("the saved file would contain other graphics");
         return std::move(sources_);
     }
 
@@ -38,7 +38,7 @@ private:
             if (!tables_.blocks[i]) continue;
             const Block* block = blocks->At(read_.Blocks()->At(tables_.blocks[i])->name);
             if (!block) {
-                if (left_.Has(OmittedObjects::NameOfBlock(read_.Blocks()->At(tables_.blocks[i])->name))) continue;
+                if (omitted_.Has(OmittedObjects::NameOfBlock(read_.Blocks()->At(tables_.blocks[i])->name))) continue;
                 return false;
             }
             if (!SameMembers(block->Content(), document_.blocks[i].entities, true)) return false;
@@ -51,10 +51,12 @@ private:
 
     void CompareTree(const Block& block, const dxf::Block& read) {
         if (StyleTreeOf(block) != StyleTreeOf(read))
-            left_.Add(OmittedObjects::NameOfBlock(block.name), "the file can't hold its style tree");
+            omitted_.Add(OmittedObjects::NameOfBlock(block.name), "the file format can't store its style tree");
     }
 
-    bool IsLeftOut(const Graphic& graphic) const { return graphic.source == Graphic::kNoSource && left_.Has(graphic); }
+    bool IsLeftOut(const Graphic& graphic) const {
+        return graphic.source == Graphic::kNoSource && omitted_.Has(graphic);
+    }
 
     // Returns the next member that the file contains.
     size_t SkipOmitted(const Graphic& group, size_t place) const {
@@ -118,10 +120,10 @@ private:
 
     void Compare(Graphic& saved, const Graphic& made, bool calculated) {
         sources_.emplace_back(&saved, made.source);
-        if (!left_.Has(saved)) {
+        if (!omitted_.Has(saved)) {
             const char* difference = comparison_.FirstDifference(saved, made, calculated);
             if (!difference && saved.MemberCount() != made.MemberCount()) difference = "its attributes";
-            if (difference) left_.Add(saved, std::string("the file can't hold a change of ") + difference);
+            if (difference) omitted_.Add(saved, std::string("the file format can't store a change of ") + difference);
         }
         for (size_t i = 0; i < saved.MemberCount() && i < made.MemberCount(); ++i)
             Compare(*saved.MemberAt(i), *made.MemberAt(i), calculated);
@@ -130,7 +132,7 @@ private:
     const Drawing& saved_;
     const std::string_view before_, text_;
     const dxf::Document& document_;
-    OmittedObjects& left_;
+    OmittedObjects& omitted_;
     const std::vector<uint32_t>& removedLeft_;
     const dxf::Progress& progress_;
     Sources sources_;
@@ -143,9 +145,9 @@ private:
 
 } // namespace
 
-Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& left,
+Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& omitted,
                         const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress) {
-    return ReadBack(saved, text, read, left, removedLeft, progress).Run();
+    return ReadBack(saved, text, read, omitted, removedLeft, progress).Run();
 }
 
 } // namespace drawcore

@@ -14,10 +14,10 @@ namespace drawcore {
 // Graphics of a drawing, and the offsets of their records in a text.
 using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 
-// Adds the graphics that the file would show differently to `left`. Identifiers of table entries may differ. Returns
+// Adds the graphics that the file would show differently to `omitted`. Identifiers of table entries may differ. Returns
 // the offsets of all graphics in the document's text, which is complete if nothing was added. Throws SaveError if the
 // file would contain other graphics.
-Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& left,
+Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& omitted,
                         const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress);
 
 } // namespace drawcore

@@ -37,7 +37,7 @@ public:
 
     // Runs the work for the graphic, and adds the graphic if it throws SaveError.
     template <class Work>
-    void Try(const Graphic& graphic, const Work& work) {
+    void RunOrAdd(const Graphic& graphic, const Work& work) {
         try {
             work();
         } catch (const dxf::SaveError& error) {

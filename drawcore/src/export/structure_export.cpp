@@ -23,8 +23,8 @@ bool IsNew(const Graphic& graphic) {
 
 } // namespace
 
-StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& left)
-    : drawing_(drawing), patch_(patch), left_(left) {
+StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& omitted)
+    : drawing_(drawing), patch_(patch), omitted_(omitted) {
     for (const dxf::Block& block : patch.Known().blocks) {
         const std::string name = HostName(block.name);
         const std::vector<std::string>& taken = drawing.source->blocks;
@@ -63,7 +63,7 @@ void StructureExport::RemoveBlocks() {
     for (const auto& [folded, block] : inFile_) {
         const std::string name = HostName(block.name);
         if (blocks && blocks->IdOf(name)) continue;
-        if (left_.Has(OmittedObjects::NameOfBlock(name))) continue;
+        if (omitted_.Has(OmittedObjects::NameOfBlock(name))) continue;
         patch_.RemoveBlock(block);
         removed_.emplace_back(block.begin, block.end);
     }
@@ -84,8 +84,8 @@ void StructureExport::WriteBlock(const Block& block) {
     std::vector<const Graphic*> parts;
     for (size_t i = 0; i < block.Content().MemberCount(); ++i) {
         const Graphic& part = *block.Content().MemberAt(i);
-        if (left_.Has(part)) continue;
-        left_.Try(part, [&] {
+        if (omitted_.Has(part)) continue;
+        omitted_.RunOrAdd(part, [&] {
             patch_.Check(made.entities.emplace_back(EntityOf(part)));
             parts.push_back(&part);
         });
@@ -99,7 +99,7 @@ void StructureExport::WriteBlock(const Block& block) {
 // A group of graphics has properties that no record of a file can store.
 void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
     if (!whole.HasAppearance(VertexGraphic().GetAppearance()))
-        left_.Add(name, "the file has no place for properties of the whole");
+        omitted_.Add(name, "the file format can't store properties of the whole");
 }
 
 void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
@@ -120,7 +120,7 @@ void StructureExport::RemoveLayers() {
         const std::string name = HostName(layer.name);
         const std::vector<std::string>& had = drawing_.source->layers;
         const bool isGone = layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
-        if (!isGone || !layer.declared || left_.Has(OmittedObjects::NameOfLayer(name))) continue;
+        if (!isGone || !layer.declared || omitted_.Has(OmittedObjects::NameOfLayer(name))) continue;
         patch_.RemoveLayer(layer);
     }
 }
@@ -130,14 +130,14 @@ void StructureExport::AddMissing(const Graphic& group, const dxf::Block* block) 
         const Graphic& graphic = *group.MemberAt(i);
         if (!IsNew(graphic))
             Keep(graphic);
-        else if (!left_.Has(graphic))
-            left_.Try(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
+        else if (!omitted_.Has(graphic))
+            omitted_.RunOrAdd(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
     }
 }
 
 // Keeps a graphic that is in the file with all its members.
 void StructureExport::Keep(const Graphic& graphic) {
-    if (IsNew(graphic)) return left_.Add(graphic, "an attribute was added, which the file can't take");
+    if (IsNew(graphic)) return omitted_.Add(graphic, "an attribute was added, which can't be saved");
     kept_.push_back(graphic.source);
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
         Keep(*graphic.MemberAt(i));
@@ -150,7 +150,7 @@ void StructureExport::RemoveOthers() {
     std::set_difference(all.begin(), all.end(), kept_.begin(), kept_.end(), std::back_inserter(others));
     for (const uint32_t offset : others) {
         const auto holds = [offset](const auto& range) { return range.first < offset && offset < range.second; };
-        if (left_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))
+        if (omitted_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))
             patch_.Remove(offset);
     }
 }
@@ -163,13 +163,13 @@ void StructureExport::TakeRefusals() {
             if (block.begin == place) what = OmittedObjects::NameOfBlock(HostName(block.name));
         for (const dxf::Layer& layer : drawing_.source->known.layers)
             if (layer.declared && layer.offset == place) what = OmittedObjects::NameOfLayer(HostName(layer.name));
-        what.empty() ? left_.AddRemoved(place, refusal.why) : left_.Add(what, refusal.why);
+        what.empty() ? omitted_.AddRemoved(place, refusal.why) : omitted_.Add(what, refusal.why);
     }
 }
 
 std::vector<uint32_t> StructureExport::RemovedLeft() const {
     std::vector<uint32_t> places;
-    for (const uint32_t place : left_.Removed())
+    for (const uint32_t place : omitted_.Removed())
         places.push_back(static_cast<uint32_t>(patch_.Moved(place)));
     return places;
 }

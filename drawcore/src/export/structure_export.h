@@ -15,13 +15,13 @@ namespace drawcore {
 class StructureExport {
 public:
     // The drawing must have been read from a file. All arguments must outlive the export.
-    StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& left);
+    StructureExport(const Drawing& drawing, dxf::StructurePatch& patch, OmittedObjects& omitted);
 
-    // Adds graphics that the file cannot contain to `left`, and skips those that are already there.
+    // Adds graphics that the file cannot contain to `omitted`, and skips those that are already there.
     void Write();
     // Returns the offset of the graphic's record in the changed text. Valid after the patch is finished.
     uint32_t PlaceOf(const Graphic& graphic) const;
-    // Adds objects that cannot be removed to `left`. Valid after the patch is finished.
+    // Adds objects that cannot be removed to `omitted`. Valid after the patch is finished.
     void TakeRefusals();
     // Returns whether a new graphic gets a record.
     bool WillHave(const Graphic& added) const { return added_.count(&added) != 0; }
@@ -43,7 +43,7 @@ private:
 
     const Drawing& drawing_;
     dxf::StructurePatch& patch_;
-    OmittedObjects& left_;
+    OmittedObjects& omitted_;
     std::map<std::string, dxf::Block> inFile_; // by case-folded name in the drawing
     std::unordered_map<const Graphic*, size_t> added_;
     std::vector<uint32_t> kept_;

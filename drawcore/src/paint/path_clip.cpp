@@ -14,12 +14,12 @@ Point Between(const Point& a, const Point& b, double share) {
 
 // Limits [from, to] to the range where start + share * change <= limit.
 bool Narrow(double start, double change, double limit, double& from, double& to) {
-    const double room = limit - start;
-    if (change == 0) return room >= 0;
+    const double distance = limit - start;
+    if (change == 0) return distance >= 0;
     if (change > 0)
-        to = std::min(to, room / change);
+        to = std::min(to, distance / change);
     else
-        from = std::max(from, room / change);
+        from = std::max(from, distance / change);
     return from <= to;
 }
 
@@ -40,16 +40,16 @@ void ClipPolygon(const std::vector<Point>& in, std::vector<Point>& out, Distance
 Where Locate(const Path& path, const Box& box) {
     if (path.points.empty()) return Where::Nowhere;
     Point low = path.points.front(), high = low;
-    bool sound = true;
+    bool isFinite = true;
     for (const Point& p : path.points) {
-        sound = sound && std::isfinite(p.x) && std::isfinite(p.y);
+        isFinite = isFinite && std::isfinite(p.x) && std::isfinite(p.y);
         low = {std::min(low.x, p.x), std::min(low.y, p.y)};
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
     }
-    if (!sound) return Where::Nowhere;
+    if (!isFinite) return Where::Nowhere;
     if (box.Holds(low) && box.Holds(high)) return Where::Inside;
-    const bool apart = low.x > box.right || high.x < box.left || low.y > box.bottom || high.y < box.top;
-    return apart ? Where::Outside : Where::Across;
+    const bool disjoint = low.x > box.right || high.x < box.left || low.y > box.bottom || high.y < box.top;
+    return disjoint ? Where::Outside : Where::Across;
 }
 
 bool ClipSegment(const Point& a, const Point& b, const Box& box, double& from, double& to) {

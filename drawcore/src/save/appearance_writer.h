@@ -75,7 +75,7 @@ private:
     void PutPlacement(Insert& insert, const Matrix& placement);
     void MoveArray(Insert& insert, const Matrix& moved);
     void PutPoint(int code, const Vec3& was, const Vec3& now);
-    void PutReal(int code, double was, double now, std::initializer_list<int> behind = {});
+    void PutReal(int code, double was, double now, std::initializer_list<int> after = {});
 
     DrawingPatch& drawing_;
     const size_t offset_;

@@ -90,7 +90,7 @@ void AppearanceWriter::ReplacePattern(const std::vector<RecordPatch::Value>& val
     const std::vector<Group>& groups = record_.Groups();
     const auto from =
         std::find_if(groups.rbegin(), groups.rend(), [](const Group& group) { return group.code == kHatchStyle; });
-    if (from == groups.rend()) throw SaveError("a hatch lacks the groups of its pattern");
+    if (from == groups.rend()) throw SaveError("the groups of a hatch's pattern are missing");
     size_t place = from->end;
     bool inPattern = true, inGradient = false;
     for (auto group = from.base(); group != groups.end() && !group->attached; ++group) {

@@ -42,7 +42,7 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityP
 void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     Layer& layer = Describe(index);
     if (wanted.trueColor >= 0 && layer.trueColor < 0 && Known().header.version < "AC1018")
-        throw SaveError("a file of this version cannot hold the color");
+        throw SaveError("a file of this version cannot store the color");
     const bool otherLine = wanted.lineType != layer.lineType;
     const LineTypeIndex line = otherLine ? FindLineType(wanted.lineType) : LineTypeIndex::none;
     if (otherLine) NeedRecord(line);

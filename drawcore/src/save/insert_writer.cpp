@@ -125,7 +125,7 @@ void AppearanceWriter::MoveArray(Insert& insert, const Matrix& moved) {
         const double rounding = RoundingAt(insert.at);
         double length = now.x * along.x + now.y * along.y + now.z * along.z;
         if (Length(along * length - now) > rounding * std::max(1.0, Length(now)))
-            throw SaveError("an array of insertions is slanted, which the file can't hold");
+            throw SaveError("an array of insertions is slanted, which the file format can't store");
         length = std::fabs(length - spacing) <= rounding ? spacing : Clean(length, rounding);
         PutReal(code, spacing, length, {71, 70, 43, 42, 41, 30});
         spacing = length;

@@ -107,8 +107,8 @@ void RecordPatch::RemoveCommon(int code) {
     RemoveAll(code, HasCommon(code));
 }
 
-void RecordPatch::Set(int code, const std::string& value, std::initializer_list<int> behind) {
-    SetAll(code, value, false, PlaceAfter(behind));
+void RecordPatch::Set(int code, const std::string& value, std::initializer_list<int> after) {
+    SetAll(code, value, false, PlaceAfter(after));
 }
 
 void RecordPatch::Remove(int code) {

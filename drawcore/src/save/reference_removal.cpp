@@ -74,22 +74,22 @@ private:
             return RemoveRecord(record.End(), owned->second, of_.edits_.size());
         const size_t before = of_.edits_.size();
         size_t lostMembers = 0;
-        std::optional<size_t> goes; // offset that stands for the removed record
-        for (size_t i = 1; i < groups_->size() && !goes; ++i) {
+        std::optional<size_t> removed; // offset that stands for the removed record
+        for (size_t i = 1; i < groups_->size() && !removed; ++i) {
             const Group& group = (*groups_)[i];
             if (!IsReference(group.code)) continue;
             const auto found = of_.handles_.find(KeyOf(group.value));
             if (found == of_.handles_.end()) continue;
-            if (!Drop(i)) goes = found->second;
+            if (!Drop(i)) removed = found->second;
             if (kind_ == "GROUP" && !group.attached && ++lostMembers == CountMembers())
                 return RemoveRecord(record.End(), found->second, before);
         }
-        if (goes) {
-            const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(*goes));
-            if (isObject) return RemoveRecord(record.End(), *goes, before);
+        if (removed) {
+            const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(*removed));
+            if (isObject) return RemoveRecord(record.End(), *removed, before);
             RecordName name = NameOfRecord(text_, begin);
             name.line = LineAt(text_, begin);
-            of_.refusals_.push_back({*goes, "it cannot be removed, since " + name.Text() + " refers to it"});
+            of_.refusals_.push_back({*removed, "it cannot be removed, since " + name.Text() + " refers to it"});
         }
     }
 

@@ -109,18 +109,19 @@ size_t StructurePatch::AddBlock(const Block& block) {
 
 std::string StructurePatch::Finish() {
     references_.Run();
-    tables_.Finish();                           // tables precede everything at the same offset
-    std::vector<size_t> behind(pieces_.size()); // offsets from the beginning of a piece at which the text continues
+    tables_.Finish(); // tables precede everything at the same offset
+    // Offsets from the beginning of a piece at which the text continues.
+    std::vector<size_t> offsetInPiece(pieces_.size());
     for (size_t i = 0; i < pieces_.size(); ++i) {
         Piece& piece = pieces_[i];
         if (piece.section) piece.lines += tables_.LinesOf({{0, "ENDSEC"}});
         for (size_t before = 0; before <= i; ++before)
-            if (pieces_[before].at == piece.at) behind[before] += piece.lines.size();
+            if (pieces_[before].at == piece.at) offsetInPiece[before] += piece.lines.size();
         patch_.Insert(piece.at, piece.lines);
     }
     std::string changed = patch_.Result();
     for (Added& added : added_)
-        added.place += patch_.Moved(pieces_[added.piece].at) - behind[added.piece];
+        added.place += patch_.Moved(pieces_[added.piece].at) - offsetInPiece[added.piece];
     return changed;
 }
 

@@ -115,7 +115,7 @@ void TablePatch::Scan() {
 
 std::string TablePatch::TakeHandle() {
     constexpr uint64_t kLast = UINT64_MAX - 1; // so that the following one is valid too
-    if (highest_ >= kLast) throw SaveError("the drawing has no handle left for what has to be added to its tables");
+    if (highest_ >= kLast) throw SaveError("the drawing has no unused handles for new entries of its tables");
     handleTaken_ = true;
     return Hex(++highest_);
 }

@@ -27,10 +27,10 @@ std::string TextPatch::Result() {
 }
 
 size_t TextPatch::Moved(size_t at) const {
-    const auto behind = std::partition_point(edits_.begin(), edits_.end(),
-                                             [at](const Edit& edit) { return edit.at + edit.length <= at; });
-    if (behind == edits_.begin()) return at;
-    return at + static_cast<size_t>(shifts_[static_cast<size_t>(behind - edits_.begin()) - 1]);
+    const auto next = std::partition_point(edits_.begin(), edits_.end(),
+                                           [at](const Edit& edit) { return edit.at + edit.length <= at; });
+    if (next == edits_.begin()) return at;
+    return at + static_cast<size_t>(shifts_[static_cast<size_t>(next - edits_.begin()) - 1]);
 }
 
 } // namespace dxf

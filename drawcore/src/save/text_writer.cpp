@@ -176,8 +176,8 @@ void AppearanceWriter::Move(const Matrix& motion) {
     text.oblique = TurnedTo(text.oblique, Degrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
 }
 
-void AppearanceWriter::PutReal(int code, double was, double now, std::initializer_list<int> behind) {
-    if (was != now) record_.Set(code, RealText(now), behind);
+void AppearanceWriter::PutReal(int code, double was, double now, std::initializer_list<int> after) {
+    if (was != now) record_.Set(code, RealText(now), after);
 }
 
 void AppearanceWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
@@ -193,7 +193,7 @@ void AppearanceWriter::PutPoint(int code, const Vec3& was, const Vec3& now) {
 void AppearanceWriter::CheckText(std::string_view stored) const {
     const TextDecoder& decoder = drawing_.in_.decoder;
     if (decoder.Encode(decoder.Decode(stored)) != stored)
-        throw SaveError("a text of the drawing is not in its code page, so that it cannot be changed");
+        throw SaveError("a text of the drawing is not valid in its code page and cannot be changed");
 }
 
 void AppearanceWriter::PutText(const Text& now) {

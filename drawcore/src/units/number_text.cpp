@@ -61,12 +61,12 @@ int DecimalExponent(double value) {
 
 size_t ScanUnsigned(std::string_view text, double& value) {
     const size_t whole = CountDigits(text);
-    size_t length = whole, behind = 0;
+    size_t length = whole, decimals = 0;
     if (length < text.size() && text[length] == DecimalMark()) {
-        behind = CountDigits(text.substr(length + 1));
-        length += 1 + behind;
+        decimals = CountDigits(text.substr(length + 1));
+        length += 1 + decimals;
     }
-    if (!whole && !behind) return 0;
+    if (!whole && !decimals) return 0;
     length += CountExponent(text.substr(length));
     if (length > kLongestText) return 0;
     std::string number(text.substr(0, length));
@@ -122,12 +122,12 @@ double StringToDouble(int, const char* text, char** end) {
 void DoubleToString(int, double value, int digits, char* buffer, int, int exponentForm, int) {
     constexpr size_t kLongest = 31;
     if (!buffer) return;
-    const int behind = std::clamp(digits, 1, kMostDigits) - 1;
-    std::string text = Format(value, std::chars_format::scientific, behind);
+    const int decimals = std::clamp(digits, 1, kMostDigits) - 1;
+    std::string text = Format(value, std::chars_format::scientific, decimals);
     if (!exponentForm && std::isfinite(value)) {
         // The exponent after rounding: 9.9999996 with six digits is 10.
         const int exponent = std::atoi(text.c_str() + text.find('e') + 1);
-        const std::string plain = Format(value, std::chars_format::fixed, std::max(0, behind - exponent));
+        const std::string plain = Format(value, std::chars_format::fixed, std::max(0, decimals - exponent));
         if (plain.size() <= kLongest) text = plain;
     }
     text = Marked(Trimmed(text));

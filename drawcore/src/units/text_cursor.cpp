@@ -105,9 +105,9 @@ bool TextCursor::WholeAndFraction(double& value, Join join) {
 
 bool TextCursor::Mixed(double& value) {
     const auto blanks = [this] {
-        const size_t behind = at_;
+        const size_t begin = at_;
         SkipBlanks();
-        return at_ > behind;
+        return at_ > begin;
     };
     return Fraction(value) || WholeAndFraction(value, blanks) || Number(value);
 }

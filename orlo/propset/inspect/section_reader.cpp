@@ -43,9 +43,9 @@ std::string DescribeNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
 
 } // namespace
 
-SectionReader::SectionReader(const uint8_t* head, size_t left, size_t available, std::string place,
-                             Allowance& allowance, Report& report, ImageSection& section)
-    : head_(head), left_(left), available_(available), place_(std::move(place)), allowance_(allowance), report_(report),
+SectionReader::SectionReader(const uint8_t* head, size_t left, size_t available, std::string place, ReadBudget& budget,
+                             Report& report, ImageSection& section)
+    : head_(head), remaining_(left), available_(available), place_(std::move(place)), budget_(budget), report_(report),
       section_(section) {}
 
 std::string SectionReader::NameOf(const Entry& entry) const {
@@ -56,9 +56,10 @@ size_t SectionReader::Read() {
     section_.size = Load32(head_);
     section_.count = Load32(head_ + 4);
     reached_ = kSectionHeadSize;
-    if (section_.size > left_)
+    if (section_.size > remaining_)
         report_.Add(FindingCode::sectionSizePastEnd, Severity::irregular, section_.offset, place_, ": size ",
-                    section_.size, ", but only ", left_, " bytes remain in the stream; the values are read from these");
+                    section_.size, ", but only ", remaining_,
+                    " bytes remain in the stream; the values are read from these");
     if (section_.size % 4 != 0)
         report_.Add(FindingCode::sectionSizeOdd, Severity::note, section_.offset, place_, ": size ", section_.size,
                     " is not a multiple of 4");
@@ -73,18 +74,18 @@ size_t SectionReader::Read() {
 }
 
 void SectionReader::ReadTable() {
-    const size_t fitting = (left_ - kSectionHeadSize) / kPropertyLineSize;
+    const size_t fitting = (remaining_ - kSectionHeadSize) / kPropertyLineSize;
     const bool isShort = section_.count > fitting;
     if (isShort)
         report_.Add(FindingCode::propertyTableShort, Severity::damaged, section_.offset + 4, place_, ": a table of ",
                     section_.count, " properties needs ", uint64_t{section_.count} * kPropertyLineSize, " bytes, ",
-                    left_ - kSectionHeadSize, " remain; it is read up to the first value");
-    size_t firstValue = left_;
+                    remaining_ - kSectionHeadSize, " remain; it is read up to the first value");
+    size_t firstValue = remaining_;
     entries_.reserve(std::min({fitting, size_t{section_.count}, kUsualEntries}));
     for (size_t i = 0; i < std::min<size_t>(fitting, section_.count); ++i) {
         const size_t at = kSectionHeadSize + i * kPropertyLineSize;
         if (isShort && at + kPropertyLineSize > firstValue) break; // the table ends at the first value
-        if (!allowance_.Spend(kPropertyLineSize)) {
+        if (!budget_.Spend(kPropertyLineSize)) {
             report_.Add(FindingCode::valuesTooLarge, Severity::damaged, section_.offset + at, place_,
                         ": the tables are larger than the stream allows; the rest is ignored");
             break;
@@ -140,8 +141,8 @@ void SectionReader::ReadValues() {
         Entry& entry = *sorted_[i];
         while (next < sorted_.size() && sorted_[next]->offset <= entry.offset)
             ++next;
-        const size_t limit = entry.offset < available_ ? available_ : left_;
-        const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, left_) : limit;
+        const size_t limit = entry.offset < available_ ? available_ : remaining_;
+        const size_t end = next < sorted_.size() ? std::min<size_t>(sorted_[next]->offset, remaining_) : limit;
         entry.available = end >= entry.offset + kTypeSize ? end - entry.offset - kTypeSize : 0;
         if (entry.id != kDictionaryId) ReadValue(entry);
     }
@@ -154,7 +155,7 @@ void SectionReader::ReadValues() {
         }
         if (entry.isProperty && entry.property.state == ValueState::complete)
             CheckValue(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize, place_, report_);
-        if (section_.size <= left_ && entry.end > section_.size)
+        if (section_.size <= remaining_ && entry.end > section_.size)
             report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
                         NameOf(entry), " ends beyond the section's size of ", section_.size,
                         "; the value is present nevertheless");
@@ -168,9 +169,9 @@ void SectionReader::ReadValue(Entry& entry) {
     property.id = entry.id;
     property.offset = entry.offset;
     property.state = ValueState::partial;
-    if (entry.offset > left_ - kTypeSize) {
+    if (entry.offset > remaining_ - kTypeSize) {
         report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, NameOf(entry), ": offset ", entry.offset,
-                    ", but the stream has ", left_, " bytes from the start of the section; the value is missing");
+                    ", but the stream has ", remaining_, " bytes from the start of the section; the value is missing");
         return;
     }
     const uint32_t type = Load32(head_ + entry.offset);
@@ -183,16 +184,16 @@ void SectionReader::ReadValue(Entry& entry) {
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     const bool isVector = IsVector(property.type);
     // A vector is measured only up to the next value, so that no bytes are measured twice.
-    const size_t reach = isVector ? entry.available : left_ - entry.offset - kTypeSize;
-    if (isVector && !allowance_.Spend(reach)) return ReportTooLarge(entry);
+    const size_t reach = isVector ? entry.available : remaining_ - entry.offset - kTypeSize;
+    if (isVector && !budget_.Spend(reach)) return ReportTooLarge(entry);
     if (const std::optional<Extent> extent = MeasureValue(property.type, bytes, reach)) {
-        if (!isVector && !allowance_.Spend(extent->size)) return ReportTooLarge(entry);
+        if (!isVector && !budget_.Spend(extent->size)) return ReportTooLarge(entry);
         Keep(entry, ValueState::complete, extent->size);
     } else if (HasForm(property.type)) {
         report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ", TypeName(property.type), " ",
                     DescribeNeeds(property.type, bytes, reach), ", ", reach,
                     " bytes are present; the value is truncated");
-        if (!isVector && !allowance_.Spend(entry.available)) return ReportTooLarge(entry);
+        if (!isVector && !budget_.Spend(entry.available)) return ReportTooLarge(entry);
         Keep(entry, ValueState::partial, entry.available);
     } else {
         report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ", TypeName(property.type),
@@ -200,7 +201,7 @@ void SectionReader::ReadValue(Entry& entry) {
         const size_t toSectionEnd =
             section_.size > entry.offset + kTypeSize ? section_.size - entry.offset - kTypeSize : 0;
         const size_t size = std::min(entry.available, toSectionEnd > 0 ? toSectionEnd : entry.available);
-        if (!isVector && !allowance_.Spend(size)) return ReportTooLarge(entry);
+        if (!isVector && !budget_.Spend(size)) return ReportTooLarge(entry);
         Keep(entry, ValueState::opaque, size);
     }
 }
@@ -237,16 +238,16 @@ void SectionReader::ReadCodePage() {
 
 void SectionReader::ReadDictionary(Entry& entry) {
     const uint64_t at = section_.offset + uint64_t{entry.offset};
-    if (entry.offset > left_ - kTypeSize) {
+    if (entry.offset > remaining_ - kTypeSize) {
         report_.Add(FindingCode::offsetPastEnd, Severity::damaged, at, place_, ": the dictionary's offset is ",
-                    entry.offset, ", but the stream has ", left_,
+                    entry.offset, ", but the stream has ", remaining_,
                     " bytes from the start of the section; the names are missing");
         return;
     }
     const uint8_t* bytes = head_ + entry.offset;
     const size_t size = kTypeSize + entry.available;
     const uint16_t codePage = section_.codePage.value_or(kUsualCodePage);
-    if (!allowance_.Spend(size)) return ReportTooLarge(entry);
+    if (!budget_.Spend(size)) return ReportTooLarge(entry);
     const uint32_t type = Load32(bytes);
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.available);
     const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
@@ -288,7 +289,7 @@ void SectionReader::CheckGaps() {
         before = entry;
     }
     const bool isWhole = before == nullptr || before->end != 0;
-    if (isWhole && section_.size <= left_ && section_.size >= Aligned(reached_) + kTypeSize)
+    if (isWhole && section_.size <= remaining_ && section_.size >= Aligned(reached_) + kTypeSize)
         report_.Add(FindingCode::spareBytes, Severity::irregular, section_.offset + reached_, place_, ": ",
                     section_.size - Aligned(reached_), " spare bytes at the end");
 }

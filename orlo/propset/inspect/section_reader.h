@@ -9,24 +9,24 @@ namespace orlo {
 
 // Limits the total number of bytes of tables and values to four times the stream's size. Intact streams stay well
 // below; values, tables or sections that overlap many times exceed it.
-class Allowance {
+class ReadBudget {
 public:
-    explicit Allowance(size_t streamSize) : left_(uint64_t{4} * streamSize) {}
+    explicit ReadBudget(size_t streamSize) : remaining_(uint64_t{4} * streamSize) {}
     bool Spend(size_t size) {
-        if (size > left_) return false;
-        left_ -= size;
+        if (size > remaining_) return false;
+        remaining_ -= size;
         return true;
     }
 
 private:
-    uint64_t left_;
+    uint64_t remaining_;
 };
 
 class SectionReader {
 public:
     // `head` points to the section's header of at least 8 bytes; `left` is the number of bytes up to the end of the
     // stream, `available` that up to the next section. `section` has its offset; the reader fills in the rest.
-    SectionReader(const uint8_t* head, size_t left, size_t available, std::string place, Allowance& allowance,
+    SectionReader(const uint8_t* head, size_t left, size_t available, std::string place, ReadBudget& budget,
                   Report& report, ImageSection& section);
 
     // Returns the offset after the last byte that was read, relative to the start of the section.
@@ -56,10 +56,10 @@ private:
     std::string NameOf(const Entry& entry) const;
 
     const uint8_t* head_;
-    size_t left_;
+    size_t remaining_;
     size_t available_;
     std::string place_;
-    Allowance& allowance_;
+    ReadBudget& budget_;
     Report& report_;
     ImageSection& section_;
     std::vector<Entry> entries_; // in table order

@@ -17,7 +17,7 @@ namespace {
 class SetReader {
 public:
     SetReader(const uint8_t* data, size_t size, std::vector<Finding>& findings)
-        : data_(data), size_(size), allowance_(size), report_(findings) {}
+        : data_(data), size_(size), budget_(size), report_(findings) {}
 
     std::optional<SetImage> Read() {
         std::optional<SetImage> image;
@@ -37,7 +37,7 @@ private:
 
     const uint8_t* data_;
     size_t size_;
-    Allowance allowance_;
+    ReadBudget budget_;
     Report report_;
     SetImage image_;
     size_t reached_ = kSetHeadSize;
@@ -110,7 +110,7 @@ void SetReader::ReadSections() {
                         " is not a multiple of 4");
         const auto next = std::upper_bound(sorted.begin(), sorted.end(), head);
         const size_t end = next != sorted.end() && *next < size_ ? *next : size_;
-        SectionReader reader(data_ + head, size_ - head, end - head, place, allowance_, report_, section);
+        SectionReader reader(data_ + head, size_ - head, end - head, place, budget_, report_, section);
         const size_t readEnd = head + reader.Read();
         reached_ = std::max(reached_, readEnd);
         if (section.size <= size_ - head) reached_ = std::max(reached_, head + section.size);
