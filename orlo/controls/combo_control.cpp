@@ -70,6 +70,11 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    bool HasPointerMoved() const;
+
+    POINT m_pointer = {}; // on the screen, when the list was opened
 };
 
 class DropListKind : public AccessibleListBox {
@@ -94,7 +99,18 @@ private:
 };
 const DropListKind kDropListKind;
 
+bool DropList::HasPointerMoved() const {
+    POINT now = m_pointer;
+    ::GetCursorPos(&now);
+    return now.x != m_pointer.x || now.y != m_pointer.y;
+}
+
+// A list that the keyboard opens below the pointer gets WM_MOUSEMOVE although the mouse rests, and would select the
+// item under it.
 LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_WINDOWPOSCHANGED && (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW))
+        ::GetCursorPos(&m_pointer);
+    if (message == WM_MOUSEMOVE && !HasPointerMoved()) return 0;
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
     }

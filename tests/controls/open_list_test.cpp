@@ -64,6 +64,38 @@ TEST_F(OpenLists, OfCombosAreDrawnWholeToo) {
     }
 }
 
+// A list that the keyboard opens below the pointer.
+TEST_F(OpenLists, SelectWhereTheMouseMovesAndNotWhereItRests) {
+    POINT before;
+    ::GetCursorPos(&before);
+    for (const int id : {IDC_COLOR, IDC_LAYER}) {
+        CComboControl& combo = Get<CComboControl>(id);
+        combo.SetFocus();
+        combo.SetCurSel(-1);
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ASSERT_TRUE(::GetComboBoxInfo(combo.m_hWnd, &info));
+        const auto selected = [&] { return ::SendMessageA(info.hwndList, LB_GETCURSEL, 0, 0); };
+        Press(combo.m_hWnd, VK_F4);
+        RECT item;
+        ::SendMessageA(info.hwndList, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
+        const POINT inside = {item.left + 5, item.top + 5};
+        POINT place = inside;
+        ::ClientToScreen(info.hwndList, &place);
+        const auto move = [&] { ::SendMessageA(info.hwndList, WM_MOUSEMOVE, 0, MAKELPARAM(inside.x, inside.y)); };
+        Press(combo.m_hWnd, VK_F4);
+        ::SetCursorPos(place.x, place.y);
+        Press(combo.m_hWnd, VK_F4);
+        move();
+        EXPECT_EQ(selected(), -1) << id;
+        ::SetCursorPos(place.x, place.y + 1);
+        move();
+        EXPECT_EQ(selected(), 1) << id;
+        Press(combo.m_hWnd, VK_ESCAPE);
+    }
+    ::SetCursorPos(before.x, before.y);
+}
+
 TEST_F(OpenLists, AreAsWideAsTheirNames) {
     CComboControl& layers = Get<CComboControl>(IDC_LAYER);
     const std::string name(60, 'M');
