@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <stdexcept>
+#include <utility>
 
 #include "demo/automation/user_input.h"
 #include "demo/viewer/memory_picture.h"
@@ -25,8 +26,8 @@ private:
     BOOL m_hidden;
 };
 
-void HandleMessages() {
-    UserInput(0).Wait(0);
+void HandleMessages(unsigned milliseconds = 0) {
+    UserInput(0).Wait(milliseconds);
     ::GdiFlush();
 }
 
@@ -47,6 +48,20 @@ CRect Difference(const MemoryPicture& a, const MemoryPicture& b) {
     return difference;
 }
 
+// The window server reports an area that another window has uncovered some time later: waits until the screen rests.
+void CopyRestingScreen(MemoryPicture& picture, const CRect& area) {
+    constexpr unsigned kPause = 30; // milliseconds
+    constexpr int kMostReads = 20;
+    MemoryPicture earlier;
+    CopyScreen(picture, area);
+    for (int i = 0; i < kMostReads; ++i) {
+        std::swap(picture, earlier);
+        HandleMessages(kPause);
+        CopyScreen(picture, area);
+        if (Difference(picture, earlier).IsRectEmpty()) return;
+    }
+}
+
 } // namespace
 
 std::string StalePart(HWND window) {
@@ -55,7 +70,7 @@ std::string StalePart(HWND window) {
     ::GetWindowRect(window, area);
     MemoryPicture shown, fresh;
     HandleMessages();
-    CopyScreen(shown, area);
+    CopyRestingScreen(shown, area);
     ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     HandleMessages();
     CopyScreen(fresh, area);
