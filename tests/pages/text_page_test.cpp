@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "orlo/win/gdi.h"
+
 namespace {
 
 constexpr int kEffects[] = {IDC_STRIKETHROUGH, IDC_HIDDEN, IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX};
@@ -73,6 +75,18 @@ TEST_F(TextPage, NoBoxCoversTheLineOfItsGroup) {
             EXPECT_LE(place(box).right, right("&Effects") - 3) << box;
         for (const int box : {IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT})
             EXPECT_LE(place(box).right, right("&Justification") - 3) << box;
+    });
+}
+
+TEST_F(TextPage, ThePreviewGrowsWithTheResolution) {
+    constexpr int kPreviewId = 3999;
+    Add(kSans, 2, 0, kRed, 0);
+    RunOk([&](SheetDriver& user) {
+        const orlo::WindowDC screen(nullptr);
+        const int size = ::MulDiv(100, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96);
+        CRect preview;
+        ::GetWindowRect(::GetDlgItem(user.Sheet(), kPreviewId), preview);
+        EXPECT_EQ(preview.Size(), CSize(size, size));
     });
 }
 
