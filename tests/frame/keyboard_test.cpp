@@ -111,6 +111,10 @@ TEST(FittedControls, AreThoseOfAPageThatWishesIt) {
             ::MapDialogRect(user.Page(), &units);
             EXPECT_EQ(wished, field.right - field.left < units.right);
             EXPECT_EQ(wished, !(::GetWindowLongPtrA(user.Control(kLabel), GWL_STYLE) & WS_TABSTOP));
+            RECT group, box;
+            ::GetWindowRect(user.Control(140), &group);
+            ::GetWindowRect(user.Control(141), &box);
+            EXPECT_LE(box.right, group.right - 3) << "the line of the group";
         });
     }
 }

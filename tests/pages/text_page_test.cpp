@@ -58,26 +58,6 @@ TEST_F(TextPage, ShowsEqualTexts) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(TextPage, NoBoxCoversTheLineOfItsGroup) {
-    Add(kSans, 2, 0, kRed, 0);
-    RunOk([&](SheetDriver& user) {
-        const auto place = [&](int id) {
-            CRect rect;
-            ::GetWindowRect(user.Control(id), rect);
-            return rect;
-        };
-        const auto right = [&](const char* title) {
-            CRect rect;
-            ::GetWindowRect(::FindWindowExA(user.Page(), nullptr, "Button", title), rect);
-            return rect.right;
-        };
-        for (const int box : kEffects)
-            EXPECT_LE(place(box).right, right("&Effects") - 3) << box;
-        for (const int box : {IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER, IDC_JUSTIFY_RIGHT})
-            EXPECT_LE(place(box).right, right("&Justification") - 3) << box;
-    });
-}
-
 TEST_F(TextPage, ThePreviewGrowsWithTheResolution) {
     constexpr int kPreviewId = 3999;
     Add(kSans, 2, 0, kRed, 0);
