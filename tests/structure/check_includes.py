@@ -47,7 +47,7 @@ for module in "entry pages exchange frame controls wizard".split():
     MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
 MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry", "drawcore/include", "orlo/host"}  # without windows
 MAY["drawcore/document"] = {"drawcore/document", "drawcore/units", *MAY["drawcore/save"]}
-MAY["drawcore/calls"].add("files")
+MAY["drawcore/export"].add("files")
 
 # Additional headers allowed per module: declarations of the host contract without windows.
 MAY_ALSO = {"orlo/propset": {"orlo/host/memory.h"}, "orlo/summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}

@@ -3,7 +3,7 @@
 #include <new>
 
 #include "drawcore/include/drawcore/dxf.h"
-#include "drawcore/src/calls/progress_report.h"
+#include "drawcore/src/database/progress_report.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
 #include "drawcore/src/import/dxf_import.h"
