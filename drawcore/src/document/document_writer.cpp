@@ -122,6 +122,11 @@ int WithFlag(int flags, int flag, std::optional<bool> wanted) {
     return wanted.value_or((flags & flag) != 0) ? flags | flag : flags & ~flag;
 }
 
+bool HasValuesOf(const Layer& a, const Layer& b) {
+    return a.color == b.color && a.trueColor == b.trueColor && a.flags == b.flags && a.plotted == b.plotted &&
+           a.lineWeight == b.lineWeight && IsSameName(ToDisplayText(a.lineType), ToDisplayText(b.lineType));
+}
+
 void SetColor(const std::string& text, Layer& layer) {
     const uint32_t color = ReadColor(text, false);
     if (color == kColorByLayer || color == kColorByBlock) throw SaveError("a layer needs a color of its own");
@@ -152,9 +157,7 @@ bool DocumentWriter::ChangeLayer(const std::string& name, const LayerValues& wan
     layer.plotted = wanted.isPlotted.value_or(layer.plotted);
     if (wanted.lineType) layer.lineType = parts_->LineTypeNamed(*wanted.lineType);
     if (wanted.lineWeight) layer.lineWeight = ReadLineWeight(*wanted.lineWeight);
-    const bool isOther = !was.declared || layer.color != was.color || layer.trueColor != was.trueColor ||
-                         layer.flags != was.flags || layer.plotted != was.plotted || layer.lineType != was.lineType ||
-                         layer.lineWeight != was.lineWeight;
+    const bool isOther = !was.declared || !HasValuesOf(layer, was);
     if (isOther) patch.ChangeLayer(index, layer);
     const bool isRenamed = wanted.name && *wanted.name != ToDisplayText(was.name);
     if (isRenamed) parts_->Rename(index, *wanted.name);
@@ -197,9 +200,7 @@ void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
     for (const Layer& layer : patch.Known().layers) {
         if (!layer.declared) continue;
         const auto isIt = [&](const Layer& other) {
-            return IsSameName(ToDisplayText(other.name), ToDisplayText(layer.name)) && other.color == layer.color &&
-                   other.flags == layer.flags && other.trueColor == layer.trueColor &&
-                   other.lineWeight == layer.lineWeight && other.plotted == layer.plotted;
+            return IsSameName(ToDisplayText(other.name), ToDisplayText(layer.name)) && HasValuesOf(other, layer);
         };
         const std::vector<Layer>& layers = after.document_->layers;
         if (std::none_of(layers.begin(), layers.end(), isIt)) Differ("layer " + ToDisplayText(layer.name));

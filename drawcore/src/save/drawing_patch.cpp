@@ -39,10 +39,21 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityP
     writer.Write(wanted);
 }
 
+namespace {
+
+// Throws SaveError if files of this version have no group for a value that changes.
+void RequireStorable(const Layer& wanted, const Layer& was, std::string_view version) {
+    if (wanted.trueColor >= 0 && was.trueColor < 0 && version < "AC1018")
+        throw SaveError("a file of this version cannot store the color");
+    if ((wanted.lineWeight != was.lineWeight || wanted.plotted != was.plotted) && version < "AC1015")
+        throw SaveError("a file of this version has no line weights and no plotting of layers");
+}
+
+} // namespace
+
 void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     Layer& layer = Describe(index);
-    if (wanted.trueColor >= 0 && layer.trueColor < 0 && Known().header.version < "AC1018")
-        throw SaveError("a file of this version cannot store the color");
+    RequireStorable(wanted, layer, Known().header.version);
     const bool otherLine = wanted.lineType != layer.lineType;
     const LineTypeIndex line = otherLine ? FindLineType(wanted.lineType) : LineTypeIndex::none;
     if (otherLine) NeedRecord(line);
@@ -52,11 +63,8 @@ void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     if (wanted.color != was.color) record.Set(62, std::to_string(wanted.color), {70, 2});
     if (wanted.flags != was.flags) record.Set(70, std::to_string(wanted.flags), {2});
     if (otherLine) record.Set(6, in_.lineTypes.Stored(Known().At(line)), {62, 70, 2});
-    const bool isWeighed = wanted.lineWeight != was.lineWeight, isPlotting = wanted.plotted != was.plotted;
-    if ((isWeighed || isPlotting) && Known().header.version < "AC1015")
-        throw SaveError("a file of this version has no line weights and no plotting of layers");
-    if (isPlotting) record.Set(290, wanted.plotted ? "1" : "0", {6, 62, 70, 2});
-    if (isWeighed) record.Set(370, std::to_string(wanted.lineWeight), {290, 6, 62, 70, 2});
+    if (wanted.plotted != was.plotted) record.Set(290, wanted.plotted ? "1" : "0", {6, 62, 70, 2});
+    if (wanted.lineWeight != was.lineWeight) record.Set(370, std::to_string(wanted.lineWeight), {290, 6, 62, 70, 2});
     if (wanted.trueColor == was.trueColor) return;
     wanted.trueColor < 0 ? record.Remove(420) : record.Set(420, std::to_string(wanted.trueColor), {62});
 }

@@ -56,16 +56,19 @@ void TablePatch::ScanTables(TagReader& tags) {
         } else if (tag.code == 0 && table) {
             ++table->count;
             if (!table->sample) table->sample = tag.offset;
-            if (tag.Is(0, "APPID")) {
-                while (tags.Next().code != 2 && tag.code != 0)
-                    NoteHandle(tag);
-                applications_.push_back(decoder_.Decode(tag.Trimmed()));
-            }
+            if (tag.Is(0, "APPID")) ScanApplication(tags);
         } else if (tag.code == kHandle && table && !table->sample) {
             table->handle = tag.Trimmed();
         }
     }
     tablesEnd_ = tag.offset;
+}
+
+void TablePatch::ScanApplication(TagReader& tags) {
+    const Tag& tag = tags.Current();
+    while (tags.Next().code != 2 && tag.code != 0)
+        NoteHandle(tag);
+    applications_.push_back(decoder_.Decode(tag.Trimmed()));
 }
 
 // The handle precedes the name.

@@ -66,6 +66,7 @@ private:
 
     void Scan();
     void ScanTables(TagReader& tags);
+    void ScanApplication(TagReader& tags);
     void NoteBlockRecord(const Tag& tag);
     void NoteSection(const Tag& tag);
     void NoteHandle(const Tag& tag);

@@ -106,22 +106,39 @@ void AppearanceWriter::PutFormat(Text& text, uint16_t format) {
     (HangsOnInsertion(text) ? text.insertion : text.alignment) = place;
 }
 
+namespace {
+
+// Replaces all faces in the text's codes by one.
+void PutFaceCode(MText& text, const TextAppearance& appearance) {
+    const std::string cut =
+        std::string(appearance.style & kTextBold ? "|b1" : "|b0") + (appearance.style & kTextItalic ? "|i1" : "|i0");
+    text.text = "\\f" + appearance.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
+}
+
+// Codes in the text override the attachment, which also holds the vertical alignment.
+void PutAlignment(MText& text, uint16_t format) {
+    const int row = (text.attachment - 1) / 3;
+    const FormattedText shown = ReadInlineCodes(text.text, text.height);
+    if (shown.Prevailing().alignment == 0)
+        text.attachment = row * 3 + format + 1;
+    else
+        text.text = std::string("\\pxq") + "lcr"[format] + ";" + WithoutCodes(text.text, "p");
+}
+
+} // namespace
+
 void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
     const TextAppearance& appearance = wanted.text;
     const auto held = [&] { return AppearanceByGroups(drawing_.Known(), entity_); };
-    const uint8_t whole = Now().varied & ~wanted.varied; // values requested for all of the text, not only for most of
-                                                         // it
+    // Values requested for all of the text, not only for most of it.
+    const uint8_t whole = Now().varied & ~wanted.varied;
     if (whole & kVariedSize) text.text = WithoutCodes(text.text, "H");
     if (held().text.height != appearance.height) text.height = appearance.height;
     if (held().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
     const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
     const bool otherFace = held().text.font != appearance.font || (held().text.style ^ appearance.style) & kCut ||
                            (isInCodes && whole & (kVariedFont | kVariedStyle));
-    if (otherFace && IsNameForCode(appearance.font)) {
-        const std::string cut = std::string(appearance.style & kTextBold ? "|b1" : "|b0") +
-                                (appearance.style & kTextItalic ? "|i1" : "|i0");
-        text.text = "\\f" + appearance.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
-    }
+    if (otherFace && IsNameForCode(appearance.font)) PutFaceCode(text, appearance);
     const auto put = [&](uint16_t bit, const char* codes) {
         if (!((held().text.style ^ appearance.style) & bit || whole & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
@@ -130,14 +147,7 @@ void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
     put(kTextUnderline, "Ll");
     put(kTextStrikethrough, "Kk");
     if (held().color != wanted.color || whole & kVariedColor) text.text = WithoutCodes(text.text, "Cc");
-    if (held().text.format != appearance.format || whole & kVariedFormat) {
-        const int row = (text.attachment - 1) / 3;
-        const FormattedText shown = ReadInlineCodes(text.text, text.height);
-        if (shown.Prevailing().alignment == 0)
-            text.attachment = row * 3 + appearance.format + 1;
-        else
-            text.text = std::string("\\pxq") + "lcr"[appearance.format] + ";" + WithoutCodes(text.text, "p");
-    }
+    if (held().text.format != appearance.format || whole & kVariedFormat) PutAlignment(text, appearance.format);
     WriteEffects(appearance);
 }
 
