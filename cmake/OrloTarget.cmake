@@ -77,7 +77,7 @@ function(orlo_test_elsewhere name)
   add_test(NAME ${name}_themed COMMAND ${themed})
   add_test(NAME ${name}_themed_144 COMMAND ${themed} --dpi=144 --gtest_filter=-${only_at_96})
   add_test(NAME ${name}_black COMMAND ${themed} --scheme=black --gtest_filter=-${only_on_white})
-  set_tests_properties(${name}_144 ${name}_themed ${name}_themed_144 ${name}_black PROPERTIES TIMEOUT 300 RESOURCE_LOCK desktop)
+  set_tests_properties(${name}_144 ${name}_themed ${name}_themed_144 ${name}_black PROPERTIES TIMEOUT 300 RESOURCE_GROUPS desktops:1)
 endfunction()
 
 # Adds a GoogleTest program to ctest, with one process and one time limit.
@@ -92,10 +92,9 @@ function(orlo_test)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
-  # Windows of two programs on one desktop affect each other's focus, so these tests run one at a time.
   set_tests_properties(${arg_NAME} PROPERTIES TIMEOUT ${arg_TIMEOUT})
-  if(WIN32)
-    set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK desktop)
+  if(WIN32) # windows of two programs on one desktop take the focus from each other
+    set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_GROUPS desktops:1)
   endif()
 endfunction()
 

@@ -44,13 +44,8 @@ managed() {
 # Wine has the dialogs' font in a few sizes only. A Wine prefix of the viewer's own replaces it by one that is as wide
 # and has every size, so that pages grow with the resolution as on Windows.
 scalable_dialog_font() {
-    wine_prefix
-    local original=$WINEPREFIX
-    WINEPREFIX+=-demo
+    derive_wine_prefix demo
     [ -e "$WINEPREFIX/.scalable" ] && return
-    rm -rf "$WINEPREFIX"
-    cp -a --link "$original" "$WINEPREFIX"  # 700 MB of system files
-    cp -a --remove-destination "$original"/*.reg "$WINEPREFIX"
     rm -f "$WINEPREFIX"/drive_c/windows/Fonts/{ms_sans_serif.ttf,sse*.fon}
     wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'MS Sans Serif' /d Tahoma /f >/dev/null
     wineserver -w

@@ -14,6 +14,8 @@ if [ "${1-}" = --bits ]; then
     shift 2
 fi
 
+selection=()
+if [ $# -gt 0 ]; then selection=(-R "$1"); fi
 failed=0
 durations=()
 
@@ -24,8 +26,16 @@ timed() { # NAME COMMAND...
     durations+=("$((SECONDS - begin)) s  $name")
 }
 
-run_tests() { # FOLDER [REGEX]
-    ctest --test-dir "$1" --output-on-failure -j 2 ${2:+-R "$2"} || failed=1
+run_tests() { # FOLDER OPTIONS...
+    ctest --test-dir "$@" --output-on-failure "${selection[@]}" || failed=1
+}
+
+# Windows of two programs on one desktop take the focus from each other, so each program has a desktop to itself while
+# it runs. ctest hands out the desktops.
+run_tests_on_desktops() { # FOLDER
+    start_desktops
+    run_tests "$1" -j "${#desktops[@]}" --resource-spec-file "$PWD/build/desktops/list.json"
+    stop_desktops
 }
 
 build_natively() {
@@ -35,9 +45,6 @@ build_natively() {
 }
 
 build_for_windows() { source run.d/build.sh; }
-
-# Files left by an interrupted run could be mistaken for those of a test with the same process number.
-empty_temporary_folders() { rm -rf "$WINEPREFIX"/drive_c/users/*/Temp/*; }
 
 # Lists the slowest tests, as recorded by ctest.
 slowest() { # FOLDER
@@ -53,6 +60,7 @@ report() {
     slowest "build/$preset" >&2
 }
 
+source run.d/desktops.sh
 if [ "$preset" = i686 ]; then
     source run.d/wine32.sh
     require_32_bit_kernel
@@ -60,12 +68,10 @@ fi
 timed "build for Windows" build_for_windows
 if [ $native = yes ]; then
     timed "build for Linux" build_natively
-    timed "tests on Linux" run_tests build/sanitize "$@"
+    timed "tests on Linux" run_tests build/sanitize -j 2
 else
     use_wine32
 fi
-wine_session own
-empty_temporary_folders
-timed "tests on Windows" run_tests "build/$preset" "$@"
+timed "tests on Windows" run_tests_on_desktops "build/$preset"
 report
 if [ $failed -ne 0 ]; then die "tests failed"; fi
