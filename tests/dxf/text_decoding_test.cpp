@@ -22,6 +22,11 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         {"AC1015", "gb2312", "\xB3\xDF", "\u5C3A"},
         {"AC1012", "dos850", "\x84", "\u00E4"},
         {"AC1012", "ISO8859-5", "\xC1", "\u0421"},
+        {"AC1015", "ANSI_950", "\x81\x40", "\uEEB8"},           // a user-defined character
+        {"AC1015", "ANSI_1258", "a\xCC", "a\u0300"},            // a combining mark stays a character of its own
+        {"AC1015", "ANSI_932", "\x83\x5C\x83", "\u30BD\u30FB"}, // the second byte is missing
+        {"AC1015", "utf-8", "\xC3\xA4\xC3", "\u00E4\uFFFD"},
+        {"AC1015", "ANSI_70000", "\xE4", "\u00E4"},
         {"AC1015", "Klingon", "\xE4", "\u00E4"},
         {"AC1021", "ANSI_1252", "\xC3\xA4\xF0\x9F\x98\x80", "\u00E4\U0001F600"},
         {"AC1021", "ANSI_1251", "\xD1\xF2", "\u0421\u0442"}, // declared as UTF-8, but is not
@@ -32,6 +37,27 @@ TEST(TextDecoder, FollowsCodePageAndVersion) {
         decoder.SetVersion(row.version);
         if (row.codePage) decoder.SetCodePage(row.codePage);
         EXPECT_EQ(decoder.Decode(row.bytes), row.text) << row.version << " " << (row.codePage ? row.codePage : "none");
+    }
+}
+
+TEST(TextDecoder, EscapesWhatTheCodePageLacks) {
+    struct Row {
+        const char* codePage;
+        const char* text;
+        const char* bytes;
+    };
+    const Row rows[] = {
+        {"ANSI_1252", "W\u00E4nde \u20AC", "W\xE4nde \x80"},
+        {"ANSI_1252", "\u5C3A\U0001F600", "\\U+5C3A\\U+D83D\\U+DE00"},
+        {"ANSI_936", "\u5C3A\u0E01", "\xB3\xDF\\U+0E01"},
+        {"ANSI_1253", "A\u0391\u00C0", "A\xC1\\U+00C0"}, // no similar letter instead
+    };
+    for (const Row& row : rows) {
+        dxf::TextDecoder decoder;
+        decoder.SetVersion("AC1015");
+        decoder.SetCodePage(row.codePage);
+        EXPECT_EQ(decoder.Encode(row.text), row.bytes);
+        EXPECT_EQ(dxf::ToDisplayText(decoder.Decode(row.bytes)), row.text);
     }
 }
 

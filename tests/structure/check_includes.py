@@ -23,7 +23,7 @@ def downward(area, modules, also=""):
 MAY = {
     **downward("orlo", "c entry pages exchange frame controls samples binding win host", "afx"),
     **downward("drawcore", "calls export import document save paint database graphics styles tables units dxf geometry",
-               "drawcore/include orlo/host"),
+               "drawcore/include orlo/host codepages"),
     **downward("demo", "program tour viewer automation", f"afx drawcore/include {PUBLIC}"),
     "drawcore/include": {"drawcore/include", "orlo/host"},
     "tools/cli": {"tools/cli", "files"},
@@ -35,9 +35,10 @@ MAY = {
     "skeleton": {"skeleton", "orlo/host"},
     "afx": {"afx"},
     "files": {"files"},
+    "codepages": {"codepages"},
 }
 MAY["orlo/binding"] = {"orlo/binding", "orlo/host", "afx"}  # win is below it, but uses windows
-MAY["orlo/propset"] = {"orlo/propset", "afx"}
+MAY["orlo/propset"] = {"orlo/propset", "afx", "codepages"}
 MAY["orlo/summary"] = {"orlo/summary", "orlo/propset", "orlo/win", "afx", "files"}
 MAY["orlo/wizard"] = {"orlo/wizard", "orlo/win", "afx"}
 MAY["orlo/resources"] = {"orlo/resources", "afx"}
@@ -113,7 +114,7 @@ def forbidden(root, path, header, public):
 
 def spelling(top, mark, header):
     """One spelling: <orlo.h> and <orlo_c.h> as a host writes it, everything else by its path from the root."""
-    relative = mark == '"' and not header.startswith(("orlo/", "files/")) and (top == "orlo" or "orlo/" in header)
+    relative = mark == '"' and not header.startswith(("orlo/", "files/", "codepages/")) and (top == "orlo" or "orlo/" in header)
     if relative or (header in TOP_HEADERS) != (mark == "<") and header.startswith("orlo"):
         return 'written otherwise than <orlo.h>, <orlo_c.h> or "orlo/..."'
     return None

@@ -1,30 +1,13 @@
-// Converts text between a code page and UTF-8 with the system's tables.
+// Names of code pages in drawings.
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
+#include <cstdint>
 #include <string_view>
 
 namespace dxf {
 
-class CodePage {
-public:
-    // Takes a name as in drawings ("ANSI_1252", "dos850", "gb2312"), ignoring case. Unknown names: Windows 1252.
-    explicit CodePage(std::string_view name);
-    explicit CodePage(int number);
-    ~CodePage();
-    CodePage(CodePage&&) noexcept;
-    CodePage& operator=(CodePage&&) noexcept;
-
-    // Undefined bytes become U+FFFD.
-    std::string ToUtf8(std::string_view bytes) const;
-    // Returns nothing if the code page cannot represent a character.
-    std::optional<std::string> FromUtf8(std::string_view text) const;
-
-private:
-    struct Converter; // depends on the system
-    std::unique_ptr<Converter> converter_;
-};
+// Returns the number of a code page that can be converted; names ("ANSI_1252", "dos850", "gb2312") ignore case.
+// Unknown names: Windows 1252.
+uint16_t CodePageNumber(std::string_view name);
 
 } // namespace dxf

@@ -6,35 +6,31 @@
 #include <charconv>
 #include <cstdio>
 
+#include "codepages/conversion.h"
+#include "drawcore/src/dxf/code_page.h"
+
 namespace dxf {
 
 namespace {
+
+using codepages::Invalid;
+using codepages::kUtf8;
 
 bool IsAscii(std::string_view bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// Returns the length of the valid UTF-8 sequence at the start of the bytes, or 0.
-size_t SequenceLength(std::string_view bytes) {
-    const auto byte = [&](size_t i) { return static_cast<unsigned char>(bytes[i]); };
-    const unsigned char first = byte(0);
-    if (first < 0x80) return 1;
-    const size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    if (first < 0xC2 || first > 0xF4 || bytes.size() < length) return 0;
-    for (size_t i = 1; i < length; ++i)
-        if ((byte(i) & 0xC0) != 0x80) return 0;
-    const bool overlong = (first == 0xE0 && byte(1) < 0xA0) || (first == 0xF0 && byte(1) < 0x90);
-    const bool outside = (first == 0xED && byte(1) > 0x9F) || (first == 0xF4 && byte(1) > 0x8F);
-    return overlong || outside ? 0 : length;
+std::string Utf8FromCodePage(std::string_view bytes, uint16_t codePage) {
+    const std::optional<std::u16string> text = codepages::ToUtf16(bytes, codePage, Invalid::Replace);
+    return text ? codepages::FromUtf16(*text, kUtf8).value_or("") : "";
 }
 
-bool IsUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const size_t length = SequenceLength(bytes);
-        if (length == 0) return false;
-        bytes.remove_prefix(length);
-    }
-    return true;
+// Returns the length of the character at the start of UTF-8 text.
+size_t CharacterLength(std::string_view utf8) {
+    size_t length = 1;
+    while (length < utf8.size() && (utf8[length] & 0xC0) == 0x80)
+        ++length;
+    return length;
 }
 
 // Parses a number with exactly that many digits. Returns false if there is none.
@@ -49,28 +45,28 @@ bool ReadUnicodeEscape(std::string_view text, uint32_t& unit) {
            ReadDigits(text.substr(3), 4, 16, unit);
 }
 
-// Returns the escape of a valid character; two escapes for a character beyond 16 bits.
-std::string UnicodeEscape(std::string_view character) {
-    uint32_t c = static_cast<unsigned char>(character[0]) & (0xFFu >> (character.size() + 1));
-    for (const char next : character.substr(1))
-        c = c << 6 | (static_cast<unsigned char>(next) & 0x3F);
-    const auto escape = [](uint32_t unit) {
-        char text[8];
-        std::snprintf(text, sizeof text, "\\U+%04X", static_cast<unsigned>(unit & 0xFFFF));
-        return std::string(text);
-    };
-    return c < 0x10000 ? escape(c) : escape(0xD7C0 + (c >> 10)) + escape(0xDC00 + (c & 0x3FF));
+// Returns the character in the code page, or as an escape; as two escapes beyond 16 bits.
+std::string EncodedCharacter(std::string_view utf8, uint16_t codePage) {
+    const std::u16string units = codepages::ToUtf16(utf8, kUtf8, Invalid::Replace).value_or(u"");
+    if (const auto bytes = codepages::FromUtf16(units, codePage)) return *bytes;
+    std::string escapes;
+    for (const char16_t unit : units) {
+        char escape[8];
+        std::snprintf(escape, sizeof escape, "\\U+%04X", static_cast<unsigned>(unit));
+        escapes += escape;
+    }
+    return escapes;
 }
 
 // Appends the character of "\M+nXXXX": two bytes in one of five code pages. Returns the length of the escape, or 0.
 size_t AppendMultiByteEscape(std::string& to, std::string_view text) {
-    constexpr int kPages[] = {932, 950, 949, 1361, 936};
+    constexpr uint16_t kPages[] = {932, 950, 949, 1361, 936};
     uint32_t bytes = 0;
     if (text.size() < 8 || text.substr(0, 3) != "\\M+" || text[3] < '1' || text[3] > '5') return 0;
     if (!ReadDigits(text.substr(4), 4, 16, bytes)) return 0;
     const char pair[] = {static_cast<char>(bytes >> 8), static_cast<char>(bytes & 0xFF)};
     const bool single = pair[0] == 0;
-    to += CodePage(kPages[text[3] - '1']).ToUtf8({single ? pair + 1 : pair, single ? 1u : 2u});
+    to += Utf8FromCodePage({single ? pair + 1 : pair, single ? 1u : 2u}, kPages[text[3] - '1']);
     return 8;
 }
 
@@ -98,19 +94,22 @@ void TextDecoder::SetVersion(std::string_view version) {
     utf8_ = version >= "AC1021";
 }
 
+void TextDecoder::SetCodePage(std::string_view name) {
+    page_ = CodePageNumber(name);
+}
+
 std::string TextDecoder::Decode(std::string_view bytes) const {
     // Some programs write the new version number but still use their code page.
-    if (IsAscii(bytes) || (utf8_ && IsUtf8(bytes))) return std::string(bytes);
-    return page_.ToUtf8(bytes);
+    if (IsAscii(bytes) || (utf8_ && codepages::ToUtf16(bytes, kUtf8, Invalid::Refuse))) return std::string(bytes);
+    return Utf8FromCodePage(bytes, page_);
 }
 
 std::string TextDecoder::Encode(std::string_view utf8) const {
     if (IsAscii(utf8) || utf8_) return std::string(utf8);
     std::string bytes;
     while (!utf8.empty()) {
-        const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
-        const std::string_view character = utf8.substr(0, length);
-        bytes += length == 1 ? std::string(character) : page_.FromUtf8(character).value_or(UnicodeEscape(character));
+        const size_t length = CharacterLength(utf8);
+        bytes += EncodedCharacter(utf8.substr(0, length), page_);
         utf8.remove_prefix(length);
     }
     return bytes;
@@ -120,7 +119,7 @@ std::vector<std::string> TextDecoder::EncodePieces(std::string_view utf8) const 
     constexpr size_t kLongest = 250; // in bytes
     std::vector<std::string> pieces;
     while (!utf8.empty()) {
-        const size_t length = std::max<size_t>(SequenceLength(utf8), 1);
+        const size_t length = CharacterLength(utf8);
         const std::string character = Encode(utf8.substr(0, length));
         if (pieces.empty() || pieces.back().size() + character.size() > kLongest) pieces.emplace_back();
         pieces.back() += character;

@@ -2,11 +2,10 @@
 // inline_codes.h.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "drawcore/src/dxf/code_page.h"
 
 namespace dxf {
 
@@ -14,7 +13,8 @@ namespace dxf {
 class TextDecoder {
 public:
     void SetVersion(std::string_view version);
-    void SetCodePage(std::string_view name) { page_ = CodePage(name); }
+    // Takes a name as in drawings (code_page.h).
+    void SetCodePage(std::string_view name);
     std::string Decode(std::string_view bytes) const;
     // Encodes UTF-8 for the file: a character that the code page cannot represent becomes "\U+4E57".
     std::string Encode(std::string_view utf8) const;
@@ -23,7 +23,7 @@ public:
     std::vector<std::string> EncodePieces(std::string_view utf8) const;
 
 private:
-    CodePage page_{1252};
+    uint16_t page_ = 1252;
     bool utf8_ = false;
 };
 

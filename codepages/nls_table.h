@@ -7,7 +7,9 @@
 #include <string_view>
 #include <vector>
 
-namespace orlo {
+#include "codepages/conversion.h"
+
+namespace codepages {
 
 class NlsTable {
 public:
@@ -15,8 +17,8 @@ public:
     explicit NlsTable(uint16_t codePage);
 
     bool IsKnown() const { return !words_.empty(); }
-    // Returns nothing if the bytes are not text in the code page.
-    std::optional<std::u16string> ToUtf16(std::string_view text) const;
+    // With Refuse, returns nothing if the bytes are not text in the code page.
+    std::optional<std::u16string> ToUtf16(std::string_view text, Invalid invalid) const;
     // Returns nothing if a character is missing. Best-fit mappings are not used.
     std::optional<std::string> FromUtf16(std::u16string_view text) const;
 
@@ -36,4 +38,4 @@ private:
     uint16_t codeOfNoCharacter_ = 0; // the code for which it is valid
 };
 
-} // namespace orlo
+} // namespace codepages

@@ -1,12 +1,12 @@
 // A file consists of a header, the characters of single bytes, the characters of byte pairs, and the codes of all
 // characters, all as 16-bit numbers.
 
-#include "native/nls_table.h"
+#include "codepages/nls_table.h"
 
 #include <cstdio>
 #include <fstream>
 
-namespace orlo {
+namespace codepages {
 namespace {
 
 constexpr size_t kBytes = 256;
@@ -60,17 +60,15 @@ bool NlsTable::IsText(uint16_t code) const {
     return !isPrivate && (character != noCharacter_ || code == codeOfNoCharacter_);
 }
 
-std::optional<std::u16string> NlsTable::ToUtf16(std::string_view text) const {
+std::optional<std::u16string> NlsTable::ToUtf16(std::string_view text, Invalid invalid) const {
     std::u16string characters;
     characters.reserve(text.size());
     for (size_t i = 0; i < text.size(); ++i) {
         uint16_t code = static_cast<uint8_t>(text[i]);
-        if (IsLead(static_cast<uint8_t>(code))) {
-            if (++i == text.size()) return std::nullopt;
-            code = static_cast<uint16_t>(code << 8 | static_cast<uint8_t>(text[i]));
-        }
-        if (!IsText(code)) return std::nullopt;
-        characters += CharacterOf(code);
+        const bool isLead = IsLead(static_cast<uint8_t>(code)), isCutOff = isLead && i + 1 == text.size();
+        if (isLead && !isCutOff) code = static_cast<uint16_t>(code << 8 | static_cast<uint8_t>(text[++i]));
+        if (invalid == Invalid::Refuse && (isCutOff || !IsText(code))) return std::nullopt;
+        characters += isCutOff ? noCharacter_ : CharacterOf(code);
     }
     return characters;
 }
@@ -88,4 +86,4 @@ std::optional<std::string> NlsTable::FromUtf16(std::u16string_view text) const {
     return bytes;
 }
 
-} // namespace orlo
+} // namespace codepages
