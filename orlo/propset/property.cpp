@@ -11,7 +11,7 @@
 #include "orlo/propset/rc_file.h"
 #include "orlo/propset/stored_text.h"
 #include "orlo/propset/stream_reader.h"
-#include "orlo/propset/value_form.h"
+#include "orlo/propset/value_walk.h"
 
 namespace {
 

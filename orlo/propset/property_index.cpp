@@ -1,4 +1,4 @@
-// Hash tables for the list of properties and the map of names.
+// A hash table for the list of properties.
 
 #include "orlo/propset/property_index.h"
 
@@ -11,10 +11,6 @@ namespace orlo {
 namespace {
 
 std::atomic<unsigned> idChanges{0};
-
-DWORD ToId(void* mapped) {
-    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(mapped));
-}
 
 } // namespace
 
@@ -46,26 +42,6 @@ void PropertyIndex::AddedAtTail(DWORD id, POSITION position) {
 bool PropertyIndex::Removed(DWORD id) {
     places_.erase(id);
     return !idRepeated_;
-}
-
-NameIndex::NameIndex(const CMapStringToPtr& names) : names_(names) {
-    places_.reserve(static_cast<size_t>(names.GetCount()));
-    CString name;
-    void* id;
-    for (POSITION next = names.GetStartPosition(); next != nullptr;) {
-        const POSITION here = next;
-        names.GetNextAssoc(next, name, id);
-        places_.emplace(ToId(id), here);
-    }
-}
-
-bool NameIndex::Find(DWORD id, CString& name) const {
-    const auto place = places_.find(id);
-    if (place == places_.end()) return false;
-    POSITION here = place->second;
-    void* mapped;
-    names_.GetNextAssoc(here, name, mapped);
-    return true;
 }
 
 } // namespace orlo

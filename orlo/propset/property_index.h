@@ -1,4 +1,4 @@
-// Indexes a section's properties and names by ID, for sections too large for linear search. Internal to the library.
+// Indexes a section's properties by ID, for sections too large for linear search. Internal to the library.
 #pragma once
 
 #include <afxcoll.h>
@@ -7,7 +7,8 @@
 
 namespace orlo {
 
-// Smaller sections are searched linearly, which is faster than an index; typical ones have a dozen properties.
+// Smaller sections are searched linearly, without the memory of an index: typical ones have a dozen properties, those
+// with custom properties a few hundred.
 constexpr int kIndexedFrom = 17;
 
 // Records that a property has changed its ID, which makes existing indexes obsolete, also those of other sections. This
@@ -29,18 +30,6 @@ private:
     std::unordered_map<DWORD, POSITION> places_;
     bool idRepeated_ = false;
     unsigned changes_;
-};
-
-// The first name of each ID in a dictionary.
-class NameIndex {
-public:
-    explicit NameIndex(const CMapStringToPtr& names);
-    // Returns false, leaving name unchanged, if there is none.
-    bool Find(DWORD id, CString& name) const;
-
-private:
-    const CMapStringToPtr& names_;
-    std::unordered_map<DWORD, POSITION> places_;
 };
 
 } // namespace orlo

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "orlo/propset/code_page.h"
-#include "orlo/propset/dictionary_stream.h"
+#include "orlo/propset/dictionary_names.h"
 #include "orlo/propset/image_writer.h"
 #include "orlo/propset/property_index.h"
 #include "orlo/propset/rc_file.h"
@@ -31,6 +31,13 @@ CString LowerCase(const char* name) {
     CString lower(name);
     lower.MakeLower();
     return lower;
+}
+
+// Returns an empty name if the system's code page cannot represent it.
+CString NameFromWide(const std::string& bytes) {
+    const std::optional<std::string> utf8 = orlo::CodePageToUtf8(bytes, orlo::kCodePageUtf16);
+    const std::optional<std::string> text = utf8 ? orlo::Utf8ToCodePage(*utf8, 0) : std::nullopt;
+    return CString(text ? text->c_str() : "");
 }
 
 CProperty* NextProperty(const CObList& list, POSITION& position) {
@@ -144,11 +151,12 @@ CObList* CPropertySection::GetList() {
 
 int CPropertySection::SetName(DWORD dwPropID, const char* pszName) {
     try {
+        const CString name = LowerCase(pszName);
         const int before = m_NameMap.GetCount();
-        void*& id = m_NameMap[LowerCase(pszName)];
+        void*& id = m_NameMap[name];
         if (m_NameMap.GetCount() == before) return 0; // the name existed already
         id = ToMapped(dwPropID);
-        m_pNameIndex.reset();
+        m_NameOfID.emplace(dwPropID, name);
         return 1;
     } catch (const std::bad_alloc&) {
         return 0;
@@ -156,19 +164,10 @@ int CPropertySection::SetName(DWORD dwPropID, const char* pszName) {
 }
 
 int CPropertySection::GetName(DWORD dwPropID, CString& strName) {
-    if (m_NameMap.GetCount() >= orlo::kIndexedFrom) {
-        if (!m_pNameIndex) m_pNameIndex = std::make_unique<orlo::NameIndex>(m_NameMap);
-        return m_pNameIndex->Find(dwPropID, strName);
-    }
-    CString name;
-    void* mapped;
-    for (POSITION next = m_NameMap.GetStartPosition(); next != nullptr;) {
-        m_NameMap.GetNextAssoc(next, name, mapped);
-        if (ToId(mapped) != dwPropID) continue;
-        strName = name;
-        return 1;
-    }
-    return 0;
+    const auto found = m_NameOfID.find(dwPropID);
+    if (found == m_NameOfID.end()) return 0;
+    strName = found->second;
+    return 1;
 }
 
 int CPropertySection::GetID(const char* pszName, DWORD* pdwPropID) {
@@ -312,28 +311,20 @@ int CPropertySection::ReadNameDictFromStream(IStream* pStream) {
 }
 
 // Other writers store 16-bit names in sections with code page 1200; this class does not.
-bool CPropertySection::HasWideNames(orlo::StreamReader& reader) {
+int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
+    constexpr uint32_t kLongestName = 256;
     CProperty* codePage = GetProperty(orlo::kCodePageId);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;
-    return value != nullptr && orlo::Load16(static_cast<const uint8_t*>(value)) == orlo::kCodePageUtf16 &&
-           orlo::AreNamesWide(reader);
-}
-
-int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
-    const bool isWide = HasWideNames(reader);
-    const auto readName = isWide ? &orlo::ReadWideName : &orlo::ReadName;
-    uint32_t count;
-    if (!reader.Read32(count)) return 0;
-    for (uint32_t i = 0; i < count; ++i) {
-        uint32_t id;
-        CString name;
-        if (!readName(reader, id, name)) return 0;
-        if (i == 0 && id == orlo::kDictionaryId)
+    const uint16_t page = value != nullptr ? orlo::Load16(static_cast<const uint8_t*>(value)) : 0;
+    const orlo::StoredNames read = orlo::ReadNames(reader, page, kLongestName);
+    for (const orlo::StoredName& stored : read.names) {
+        const CString name = read.isWide ? NameFromWide(stored.bytes) : CString(stored.bytes.c_str());
+        if (&stored == read.names.data() && stored.id == orlo::kDictionaryId)
             m_strSectionName = name;
-        else if (!isWide || !name.IsEmpty())
-            SetName(id, name);
+        else if (!read.isWide || !name.IsEmpty())
+            SetName(stored.id, name);
     }
-    return 1;
+    return read.isWhole;
 }
 
 int CPropertySection::WriteToRC(CRCFile* pRC) {

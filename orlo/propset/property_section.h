@@ -15,11 +15,11 @@
 #include <afxcoll.h>
 
 #include <memory>
+#include <unordered_map>
 
 #include "orlo/propset/property.h"
 
 namespace orlo {
-class NameIndex;
 class PropertyIndex;
 } // namespace orlo
 
@@ -91,7 +91,6 @@ private:
     int ReadFrom(orlo::StreamReader& reader, ULONGLONG base);
     int ReadTable(orlo::StreamReader& reader, ULONGLONG values, ULONGLONG table);
     void ReadProperty(orlo::StreamReader& reader, DWORD dwPropID);
-    bool HasWideNames(orlo::StreamReader& reader);
     int ReadDictionary(orlo::StreamReader& reader);
 
     GUID m_FormatID;
@@ -99,8 +98,8 @@ private:
     DWORD m_dwPropertyCount;
     CObList m_PropertyList;
     CMapStringToPtr m_NameMap;
+    std::unordered_map<DWORD, CString> m_NameOfID; // the first name of each
     CString m_strSectionName;
     bool m_bListGivenOut;
     std::unique_ptr<orlo::PropertyIndex> m_pIndex;
-    std::unique_ptr<orlo::NameIndex> m_pNameIndex;
 };

@@ -25,23 +25,26 @@ StreamReader::StreamReader(IStream* stream) : stream_(stream) {
     budget_ = 4 * end_ + 4096;
 }
 
+StreamReader::StreamReader(const uint8_t* bytes, size_t size)
+    : stream_(nullptr), end_(size), budget_(ULONGLONG{4} * size), windowSize_(size), window_(bytes) {}
+
 size_t StreamReader::Read(void* to, size_t size) {
     auto* out = static_cast<uint8_t*>(to);
     size_t done = 0;
-    while (done < size) {
+    while (done < size && Left() > 0) {
         if (position_ >= windowAt_ && position_ - windowAt_ < windowSize_) {
             const auto from = static_cast<size_t>(position_ - windowAt_);
             const size_t part = std::min(size - done, windowSize_ - from);
-            std::memcpy(out + done, window_.data() + from, part);
+            std::memcpy(out + done, window_ + from, part);
             done += part;
             position_ += part;
-        } else if (size - done >= window_.size()) {
+        } else if (size - done >= buffer_.size()) {
             const ULONGLONG part = ReadStream(out + done, size - done);
             position_ += part;
             return done + static_cast<size_t>(part);
         } else {
             windowAt_ = position_;
-            windowSize_ = static_cast<size_t>(ReadStream(window_.data(), window_.size()));
+            windowSize_ = static_cast<size_t>(ReadStream(buffer_.data(), buffer_.size()));
             if (windowSize_ == 0) break;
         }
     }

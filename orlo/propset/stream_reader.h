@@ -14,6 +14,8 @@ public:
     // Starts at the stream's position. The stream must outlive the reader. A stream that fails to report its position
     // or its end is treated as empty.
     explicit StreamReader(IStream* stream);
+    // Reads bytes in memory, which must outlive the reader.
+    StreamReader(const uint8_t* bytes, size_t size);
 
     ULONGLONG Position() const { return position_; }
     void SeekTo(ULONGLONG position) { position_ = position; }
@@ -41,7 +43,8 @@ private:
     ULONGLONG budget_ = 0;
     ULONGLONG windowAt_ = 0; // position of the buffer's first byte
     size_t windowSize_ = 0;
-    std::array<uint8_t, 8192> window_;
+    std::array<uint8_t, 8192> buffer_;
+    const uint8_t* window_ = buffer_.data();
 };
 
 } // namespace orlo

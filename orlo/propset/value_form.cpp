@@ -93,26 +93,4 @@ uint64_t CountedSize(Form form, uint32_t count) {
     return 4 + uint64_t{count} * (form == Form::chars ? 2 : 1);
 }
 
-std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize) {
-    const TypeForm& form = FormOf(BaseType(type));
-    if (!form.inProperty) return std::nullopt;
-    uint64_t count = 1;
-    uint64_t total = 0;
-    if (IsVector(type)) {
-        if (blockSize < 4) return std::nullopt;
-        count = Load32(block);
-        total = 4;
-    }
-    if (form.form == Form::fixed) {
-        total += count * form.size;
-    } else {
-        for (; count > 0; --count) {
-            if (total > blockSize || blockSize - total < 4) return std::nullopt;
-            total += CountedSize(form.form, Load32(block + total));
-        }
-    }
-    if (total > blockSize) return std::nullopt;
-    return static_cast<size_t>(total);
-}
-
 } // namespace orlo

@@ -45,8 +45,4 @@ void Store32(uint8_t* bytes, uint32_t number);
 // Returns the size of a counted element, including its count.
 uint64_t CountedSize(Form form, uint32_t count);
 
-// Returns the size of a stored value of a type that CProperty supports (with VT_VECTOR: the element count and packed
-// elements). Returns nothing for other types and if the value would exceed the block.
-std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize);
-
 } // namespace orlo

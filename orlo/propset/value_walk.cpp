@@ -26,6 +26,16 @@ std::optional<Layout> Measure(uint32_t type, const uint8_t* bytes, size_t size, 
 
 } // namespace
 
+std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize) {
+    if (!FormOf(BaseType(type)).inProperty) return std::nullopt;
+    Cursor cursor{block, blockSize};
+    const auto accept = [](uint32_t, const TypeForm&, std::string_view) { return true; };
+    const bool isWhole = BaseType(type) == VT_EMPTY // elements without bytes
+                             ? !IsVector(type) || cursor.Take(4) != nullptr
+                             : Walk(cursor, type, false, accept);
+    return isWhole ? std::optional(static_cast<size_t>(cursor.at - block)) : std::nullopt;
+}
+
 std::optional<Extent> MeasureValue(uint32_t type, const uint8_t* bytes, size_t size) {
     const std::optional<Layout> packed = Measure(type, bytes, size, false);
     const bool mayBePadded = IsVector(type) && SmallestElement(BaseType(type)) == 4;

@@ -76,6 +76,10 @@ bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
     return true;
 }
 
+// Returns the size of a stored value of a type that CProperty supports (with VT_VECTOR: the element count and packed
+// elements). Returns nothing for other types and if the value would exceed the block.
+std::optional<size_t> StoredSize(uint32_t type, const uint8_t* block, size_t blockSize);
+
 struct Extent {
     size_t size;         // after the type code, without padding at the end
     bool elementsPadded; // each element is padded to 4 bytes; most writers pack them
