@@ -1,8 +1,7 @@
-// The sheet: the pages that a graphic adds, finding them, results, layout, and freeing.
+// The sheet: the pages that a graphic adds, finding them, results, and moving.
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <memory>
 #include <string>
 
@@ -96,44 +95,6 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
     EXPECT_EQ(kit[0].writes.size(), 1u);
 }
 
-RECT InSheet(HWND window, HWND sheet) {
-    RECT rect;
-    ::GetWindowRect(window, &rect);
-    ::MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
-TEST(SheetLayout, PageAtTheLeftButtonsAboveASquarePreviewNoApply) {
-    GraphicKit kit;
-    TestSheet sheet(kit);
-    sheet.Add([](CDataExchange*) {});
-    sheet.Run([&](SheetDriver& user) {
-        const HWND window = user.Sheet();
-        EXPECT_EQ(::GetDlgItem(window, 0xEA00), nullptr);
-        RECT client;
-        ::GetClientRect(window, &client);
-        const RECT preview = InSheet(::GetDlgItem(window, 3999), window);
-        EXPECT_EQ(preview.right - preview.left, 100);
-        EXPECT_EQ(preview.bottom - preview.top, 100);
-        RECT page = InSheet(user.Page(), window);
-        EXPECT_LT(page.right, preview.left);
-        EXPECT_LE(preview.right, client.right);
-        EXPECT_LE(preview.bottom, client.bottom);
-        int bottom = page.top;
-        for (const int id : {IDOK, IDCANCEL, 0xE145}) {
-            const RECT button = InSheet(::GetDlgItem(window, id), window);
-            EXPECT_GT(button.left, page.right) << id;
-            EXPECT_LE(button.right, client.right) << id;
-            EXPECT_GE(button.top, bottom) << id;
-            bottom = button.bottom;
-        }
-        EXPECT_LE(bottom, preview.top);
-        user.SelectPage(0); // a later page gets the position of the first
-        const RECT other = InSheet(user.Page(), window);
-        EXPECT_TRUE(::EqualRect(&page, &other));
-    });
-}
-
 TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
     GraphicKit kit;
     TestSheet sheet(kit);
@@ -144,39 +105,6 @@ TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
         ::SetWindowPos(user.Sheet(), nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         EXPECT_FALSE(::SendMessageA(user.Control(kCombo), CB_GETDROPPEDSTATE, 0, 0));
     });
-}
-
-CSize Measure(void* dialog) {
-    class Page : public CGraphicPropertyPage {
-    public:
-        explicit Page(void* resource) : CGraphicPropertyPage(kTestPage, 0) { SetDialogResource(resource); }
-        CSize Size() const { return m_sizePage; }
-    };
-    return Page(dialog).Size();
-}
-
-TEST(DialogMeasure, FollowsTemplateAndFont) {
-    const HMODULE module = ::GetModuleHandleA(nullptr);
-    const HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(kTestPage), RT_DIALOG);
-    ASSERT_NE(found, nullptr);
-    const CSize measured = Measure(::LoadResource(module, found)), standard = Measure(nullptr);
-    EXPECT_GT(measured.cx, 200);
-    EXPECT_LT(measured.cx, 800);
-    EXPECT_GT(measured.cy, standard.cy); // 160 against 62 units
-    EXPECT_GT(standard.cx, 250);
-}
-
-// A template of four words at the end of its mapping is not read beyond it.
-TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
-    void* pages = ::VirtualAlloc(nullptr, 0x2000, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-    DWORD before;
-    ::VirtualProtect(static_cast<char*>(pages) + 0x1000, 0x1000, PAGE_NOACCESS, &before);
-    for (const size_t size : {2, 14, 18, 20, 24, 40}) {
-        char* start = static_cast<char*>(pages) + 0x1000 - size;
-        std::memset(start, 0x41, size); // DS_SETFONT, and names without a NUL
-        EXPECT_GT(Measure(start).cx, 0);
-    }
-    ::VirtualFree(pages, 0, MEM_RELEASE);
 }
 
 } // namespace

@@ -3,7 +3,9 @@
 //   const FailingMemory memory("orlo.dll", 4); // the fourth request from here on
 #pragma once
 
-#include <windows.h>
+#include <list>
+
+#include "support/replaced_import.h"
 
 class FailingMemory {
 public:
@@ -18,12 +20,5 @@ public:
     bool HasFailed() const;
 
 private:
-    void ReplaceImports(HMODULE module);
-
-    struct Import {
-        void** place;
-        void* function;
-    };
-    Import m_imports[2] = {};
-    int m_count = 0;
+    std::list<ReplacedImport> m_imports;
 };

@@ -14,6 +14,7 @@ enum TestPageControl : int {
     kTestPage = 500,
     kWordsPage = 501, // without controls that accept the focus
     kOddPage = 502,   // a field that is wider than the page, and a label that is a tab stop
+    kLargePage = 503, // the size of the test page in a larger font
     kEdit = 101,
     kOtherEdit = 102,
     kCheck = 103,
