@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
+#include "orlo/controls/control_font.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/text_height.h"
 #include "orlo/host/graphic.h"
 #include "orlo/host/vertex.h"
 #include "orlo/samples/hatch_scale.h"

@@ -2,7 +2,7 @@
 // and drawing. Internal to the library.
 #pragma once
 
-#include "orlo/controls/style_item.h"
+#include "orlo/controls/item_drawing.h"
 #include "orlo/host/strings.h"
 #include "orlo/samples/style_sample.h"
 

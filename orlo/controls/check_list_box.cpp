@@ -6,9 +6,9 @@
 
 #include <algorithm>
 
+#include "orlo/controls/control_font.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/text_height.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/win/accessible_window.h"

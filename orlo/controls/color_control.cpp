@@ -8,12 +8,11 @@
 
 #include "orlo/controls/color_order.h"
 #include "orlo/controls/color_swatch.h"
+#include "orlo/controls/control_font.h"
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/style_item.h"
 #include "orlo/controls/table_control.h"
-#include "orlo/controls/text_height.h"
 #include "orlo/host/strings.h"
 
 namespace {

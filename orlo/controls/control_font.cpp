@@ -1,4 +1,4 @@
-// The font shared by all controls of the library.
+// Fonts of the library's controls.
 
 #include "orlo/controls/control_font.h"
 
@@ -8,6 +8,16 @@
 #include "orlo/win/screen_scale.h"
 
 namespace {
+
+constexpr int kHeightWithoutDC = 16;
+
+// Measures in that font, or with null in the default font of the device context.
+int HeightInFont(HWND window, HFONT font) {
+    const orlo::WindowDC dc(window);
+    if (!dc.get()) return kHeightWithoutDC;
+    const orlo::SelectedObject selected(dc.get(), font);
+    return TextHeight(dc.get());
+}
 
 orlo::OwnedFont CreateSharedFont() {
     LOGFONTA font = {};
@@ -21,6 +31,27 @@ orlo::OwnedFont CreateSharedFont() {
 orlo::OwnedFont g_font;
 
 } // namespace
+
+int TextHeight(HDC dc) {
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, "M", 1, &size);
+    return size.cy;
+}
+
+int TextWidth(HDC dc, const char* text) {
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, text, static_cast<int>(std::strlen(text)), &size);
+    return size.cx;
+}
+
+int GetOwnerDrawFixedTextHeight(HWND hWnd) {
+    return HeightInFont(hWnd, nullptr);
+}
+
+int ControlFontHeight(HWND window) {
+    const auto font = reinterpret_cast<HFONT>(::SendMessageA(window, WM_GETFONT, 0, 0));
+    return font ? HeightInFont(window, font) : 0;
+}
 
 HFONT SharedControlFont() {
     if (!g_font) g_font = CreateSharedFont();

@@ -1,10 +1,27 @@
-// The font shared by all controls of the library. The DLL entry function releases it.
+// Fonts of the library's controls: the font that they share, and the height of text.
 #pragma once
 
 #include <windows.h>
 
-// Returns the font, creating it at the first call. Returns null if it cannot be created; the next call tries again.
+#include "orlo/export.h"
+
+// Returns the height in device pixels of "M" in the default font of the window's device context, or 16 without a device
+// context.
+ORLO_API int GetOwnerDrawFixedTextHeight(HWND hWnd);
+
+// The rest is internal to the library.
+
+// Returns the height of "M" in the font that is selected in a device context.
+int TextHeight(HDC dc);
+// Returns the width of the text in that font.
+int TextWidth(HDC dc, const char* text);
+
+// Returns the height of "M" in the font that the window was given by WM_SETFONT, or 0 without one.
+int ControlFontHeight(HWND window);
+
+// Returns the shared font, creating it at the first call. Returns null if it cannot be created; the next call tries
+// again.
 HFONT SharedControlFont();
 
-// Releases the font at process detach.
+// Releases the shared font at process detach.
 void ReleaseSharedFont();

@@ -7,6 +7,7 @@
 
 #include "orlo/binding/fuzzy.h"
 #include "orlo/controls/combo_control.h"
+#include "orlo/host/strings.h"
 
 unsigned long ParseControlItem(char* item) {
     char* const tab = std::strchr(item, '\t');
@@ -28,4 +29,10 @@ ItemText::ItemText(DWORD number) {
     DWord_to_Hex(number, text_);
     text_[kKeySize - 1] = '\t';
     text_[kKeySize] = '\0';
+}
+
+ItemText HostTextItem(DWORD number, unsigned int stringID) {
+    ItemText text(number);
+    ::DrawCoreLoadString(stringID, text.name(), kHostTextSize);
+    return text;
 }

@@ -15,6 +15,7 @@
 constexpr int kKeySize = 9;          // eight digits and the tab, or the NUL
 constexpr int kEntryNameSize = 0x80; // the host truncates longer names
 constexpr int kItemTextSize = 0x90;  // longest item text including the NUL
+constexpr int kHostTextSize = 0x7F;  // longer texts of the host are truncated
 
 // Splits an item text in place: returns the number and leaves the name in the buffer. Returns 0 and changes nothing if
 // the text has no tab.
@@ -51,6 +52,9 @@ public:
 private:
     char text_[kItemTextSize];
 };
+
+// Returns an item for a number that is not an entry, named by a string of the host.
+ItemText HostTextItem(DWORD number, unsigned int stringID);
 
 // Calls add(ItemText&) for each named entry of the table, in table order.
 template <class Add>

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "orlo/controls/text_height.h"
+#include "orlo/controls/control_font.h"
 
 namespace {
 

@@ -6,7 +6,6 @@
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_list.h"
 #include "orlo/controls/item_drawing.h"
-#include "orlo/controls/plain_item.h"
 #include "orlo/controls/table_control.h"
 
 namespace {

@@ -2,10 +2,11 @@
 
 #include "orlo/controls/font_list.h"
 
-#include "orlo/controls/distinct_items.h"
+#include <set>
+
+#include "orlo/controls/control_items.h"
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_size_control.h"
-#include "orlo/controls/font_size_text.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
 #include "orlo/resources/library_text.h"
@@ -14,6 +15,32 @@
 #include "orlo/win/gdi.h"
 
 namespace {
+
+uint16_t UnitOf(uint16_t coordSpace) {
+    return coordSpace == kSpaceWorld ? kUnitDrawing : kUnitTextSize;
+}
+
+// Fills a control with texts that may repeat, adding each only once. Adding n texts takes O(n log n) comparisons,
+// because the control itself is not searched.
+class DistinctItems {
+public:
+    // The control must be empty.
+    explicit DistinctItems(const ControlItems& items) : items_(items) {}
+
+    // Adds the text unless it was added before, ignoring case.
+    void Add(const char* text) {
+        if (added_.insert(text).second) items_.Add(text);
+    }
+
+private:
+    // Compares as the control does when it finds a text.
+    struct ComesBefore {
+        bool operator()(const CString& a, const CString& b) const { return ::lstrcmpiA(a, b) < 0; }
+    };
+
+    ControlItems items_;
+    std::set<CString, ComesBefore> added_;
+};
 
 int CALLBACK EnumFaceProc(const LOGFONTA* font, const TEXTMETRICA*, DWORD fontType, LPARAM items) {
     if (fontType & TRUETYPE_FONTTYPE) reinterpret_cast<DistinctItems*>(items)->Add(font->lfFaceName);
@@ -107,4 +134,14 @@ int FillFontDropDown(HWND hWnd, LPARAM lParam) {
         break;
     }
     return control == IDC_FONT_FACE || control == IDC_FONT_FACE_2 || control == IDC_FONT_SIZE;
+}
+
+int TextToFontSize(DrawingStruct* drawing, uint16_t coordSpace, const char* text, double* value) {
+    if (!drawing || coordSpace == kSpaceDevice) return 0;
+    return ::DrawingStdTextToNumericEx(drawing, text, value, coordSpace, UnitOf(coordSpace));
+}
+
+int FontSizeToText(DrawingStruct* drawing, uint16_t coordSpace, double value, char* buffer, int size) {
+    if (!drawing || coordSpace == kSpaceDevice) return 0;
+    return ::DrawingStdNumericToTextEx(drawing, value, buffer, size, coordSpace, UnitOf(coordSpace));
 }

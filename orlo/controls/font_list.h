@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "orlo/export.h"
+#include "orlo/host/records.h"
 
 class CFontSizeControl;
 
@@ -24,3 +25,11 @@ struct FontListRequest {
 // Items keep the order of the enumeration or the configuration unless the combo box sorts. Returns 1 for faces and
 // sizes, else 0. Without a device context, returns 0 and changes nothing.
 ORLO_API int FillFontDropDown(HWND hWnd, LPARAM lParam);
+
+// Internal to the library: convert font heights to and from text in the units of a drawing.
+constexpr int kFontSizeTextSize = 0x100;
+
+// Both return 0 and leave the result unchanged if there is no drawing, the coordinate space is 2, which has no lengths,
+// or the text or number cannot be converted. coordSpace is the value returned by DrawingGetCoordSpace.
+int TextToFontSize(DrawingStruct* drawing, uint16_t coordSpace, const char* text, double* value);
+int FontSizeToText(DrawingStruct* drawing, uint16_t coordSpace, double value, char* buffer, int size);

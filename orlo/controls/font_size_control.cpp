@@ -1,4 +1,4 @@
-// CFontSizeControl: a combo box to type or select a font height.
+// CFontSizeControl: a combo box to type or select a font height, and its edit field.
 
 #include "orlo/controls/font_size_control.h"
 
@@ -7,9 +7,7 @@
 #include "orlo/controls/control_items.h"
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_list.h"
-#include "orlo/controls/font_size_text.h"
 #include "orlo/controls/item_drawing.h"
-#include "orlo/controls/plain_item.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
@@ -28,6 +26,34 @@ float FloatOf(UINT_PTR bits) {
 }
 
 } // namespace
+
+WNDPROC CEnterEdit::lpfnSuperWndProc = nullptr;
+
+IMPLEMENT_DYNAMIC(CEnterEdit, CWnd)
+
+BEGIN_MESSAGE_MAP(CEnterEdit, CWnd)
+ON_WM_KEYUP()
+END_MESSAGE_MAP()
+
+CEnterEdit::CEnterEdit() = default;
+
+CEnterEdit::~CEnterEdit() = default;
+
+WNDPROC* CEnterEdit::GetSuperWndProcAddr() {
+    return &lpfnSuperWndProc;
+}
+
+void CEnterEdit::OnKeyUp(UINT nChar, UINT, UINT) {
+    Default();
+    if (nChar != VK_RETURN) return;
+    const CComboControl* const combo = ComboControlOf(::GetParent(m_hWnd));
+    const CWinThread* const thread = AfxGetThread();
+    const HWND main = thread && thread->m_pMainWnd ? thread->m_pMainWnd->m_hWnd : nullptr;
+    if (!combo || !main) return;
+    ::SendMessageA(main, WM_COMMAND, MAKEWPARAM(combo->m_nControlID, CBN_SELENDOK),
+                   reinterpret_cast<LPARAM>(combo->m_hWnd));
+    ::SetFocus(main);
+}
 
 IMPLEMENT_DYNCREATE(CFontSizeControl, CComboControl)
 

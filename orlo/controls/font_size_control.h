@@ -2,12 +2,28 @@
 //
 // The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but
 // kEntryNone and kEntryIndeterminate. The list contains the heights of the drawing's current font (kUnitFontName in its
-// units table); a height that is missing is added. Return in the edit field is reported as selecting an item; see
-// enter_edit.h.
+// units table); a height that is missing is added. Return in the edit field is reported as selecting an item.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
-#include "orlo/controls/enter_edit.h"
+
+// The edit field of a combo box of the library. Notifies the application when Return is pressed: the thread's main
+// window gets WM_COMMAND as if an item had been selected, CBN_SELENDOK with the kind of the combo box (its
+// m_nControlID) and its window. Then the main window gets the focus.
+class ORLO_API CEnterEdit : public CWnd {
+    DECLARE_DYNAMIC(CEnterEdit)
+public:
+    CEnterEdit();
+    ~CEnterEdit() override;
+
+protected:
+    WNDPROC* GetSuperWndProcAddr() override;
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+
+    static WNDPROC lpfnSuperWndProc; // the system edit control's window procedure
+
+    DECLARE_MESSAGE_MAP()
+};
 
 class ORLO_API CFontSizeControl : public CComboControl {
     DECLARE_DYNCREATE(CFontSizeControl)

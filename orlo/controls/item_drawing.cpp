@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
+#include "orlo/controls/control_font.h"
+#include "orlo/controls/control_items.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/text_height.h"
 
 namespace {
 
@@ -77,4 +78,15 @@ void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, con
     FrameRectangle(item.hDC, frame, color, 1);
     const int top = item.rcItem.top + MiddleOffset(item.hDC, item.rcItem, at.y - item.rcItem.top);
     DrawClippedText(item.hDC, at.x, top, item.rcItem, name, color);
+}
+
+PlainItem RequestedItem(const CComboControl& control, const DRAWITEMSTRUCT& request) {
+    PlainItem item = {control.m_nSelected, ""};
+    if (!IsNoItem(request)) {
+        const ControlItems items = ControlItems::OfCombo(control.m_hWnd);
+        const bool found = items.GetText(static_cast<int>(request.itemID), item.text, sizeof item.text);
+        item.number = found ? request.itemID + 1 : 0;
+    }
+    if (item.IsNothing()) item.text[0] = '\0';
+    return item;
 }

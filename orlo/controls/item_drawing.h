@@ -1,9 +1,7 @@
 // Drawing shared by the library's owner-drawn controls. Internal to the library.
 #pragma once
 
-#include <windows.h>
-
-constexpr int kHostTextSize = 0x7F; // longer texts of the host are truncated
+#include "orlo/controls/combo_control.h"
 
 // Returns whether the request is for a control without a selected item.
 inline bool IsNoItem(const DRAWITEMSTRUCT& item) {
@@ -76,3 +74,22 @@ unsigned int RequestedStyle(Control& control, const DRAWITEMSTRUCT& item, char* 
     if (IsNoItem(item)) return control.m_nSelected;
     return static_cast<unsigned int>(control.GetControlItem(static_cast<int>(item.itemID), name));
 }
+
+// A style shown by an item.
+struct StyleItem {
+    unsigned int style; // identifier
+    const char* name;
+    TableStruct* table;     // table of the styles; if null, only styles with a name supplied by the host can be shown
+    GraphicStruct* graphic; // the sample; without a sample or a viewport, the name is shown
+    ViewportStruct* viewport;
+};
+
+// An item that is a plain name without a key.
+struct PlainItem {
+    unsigned int number; // one-based position in the list, or m_nSelected in a request without an item; 0 if unreadable
+    char text[128];      // truncated if longer; empty if IsNothing
+
+    bool IsNothing() const { return IsNoEntry(number); }
+};
+
+PlainItem RequestedItem(const CComboControl& control, const DRAWITEMSTRUCT& request);

@@ -4,10 +4,10 @@
 
 #include <algorithm>
 
+#include "orlo/controls/control_font.h"
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/text_height.h"
 #include "orlo/host/layer.h"
 #include "orlo/host/table.h"
 #include "orlo/resources/library_text.h"

@@ -5,7 +5,6 @@
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/list_control.h"
-#include "orlo/controls/style_item.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/samples/style_sample.h"
 

@@ -8,7 +8,6 @@
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/controls/plain_item.h"
 #include "orlo/host/block.h"
 
 namespace {
